@@ -1,0 +1,38 @@
+# The rules that every target of the house follows, stated once.
+
+# The digits must be the same on every machine and in every build type: no contraction of a*b+c, no
+# fast-math. Everything else is the usual net of warnings.
+add_library(korven_rules INTERFACE)
+target_compile_features(korven_rules INTERFACE cxx_std_20)
+target_compile_options(korven_rules INTERFACE
+    -ffp-contract=off -Wall -Wextra -Wpedantic -Wshadow -Wconversion)
+target_include_directories(korven_rules INTERFACE ${PROJECT_SOURCE_DIR}/src)
+
+# korven_folder(<name> <lower>...) makes the static library korven_<name> from all sources of the
+# folder src/<name>, linked to the libraries of the folders below it. A folder is one idea of the
+# program; a file belongs to it by lying there, so that no list can forget it.
+function(korven_folder name)
+    file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${name}/*.cpp)
+    if(sources)
+        add_library(korven_${name} STATIC ${sources})
+        set(scope PUBLIC)
+    else()
+        add_library(korven_${name} INTERFACE)
+        set(scope INTERFACE)
+    endif()
+    target_link_libraries(korven_${name} ${scope} korven_rules)
+    foreach(lower IN LISTS ARGN)
+        target_link_libraries(korven_${name} ${scope} korven_${lower})
+    endforeach()
+endfunction()
+
+# korven_test(<name>) makes the test program of the folder tests/<name> and hands its tests to ctest.
+function(korven_test name)
+    file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${name}/*.cpp)
+    if(NOT sources)
+        return()
+    endif()
+    add_executable(${name}_test ${sources})
+    target_link_libraries(${name}_test PRIVATE ${ARGN} korven_test_support)
+    gtest_discover_tests(${name}_test DISCOVERY_TIMEOUT 60)
+endfunction()
