@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+// The names of the files that belong to a project. Paths are UTF-8; rules that count characters
+// count characters, not bytes.
+
+namespace korven::base {
+
+/// The path with its last three characters replaced: a project's result file, a report's TXT file.
+[[nodiscard]] std::string conUltimiTre(std::string_view percorso, std::string_view estensione);
+
+/// The path up to and including its first point, wherever that stands, then `estensione`. A folder
+/// with a point in its name therefore cuts the path there. Without any point, one is put at the
+/// end.
+[[nodiscard]] std::string finoAlPrimoPunto(std::string_view percorso, std::string_view estensione);
+
+/// Path of the result file: beside the project, same stem, "OUT" for its last three characters.
+[[nodiscard]] std::string nomeRisultati(std::string_view progetto);
+
+/// Path of the report's mark-up file, by the first-point rule with "TAB".
+[[nodiscard]] std::string nomeRelazione(std::string_view progetto);
+
+}  // namespace korven::base

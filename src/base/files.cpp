@@ -1,0 +1,128 @@
+#include "base/files.hpp"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <filesystem>
+#include <system_error>
+#include <utility>
+
+#include "base/file_error.hpp"
+
+// The standard library can't flush a file to the disk, so this file speaks to the system itself.
+
+namespace korven::base {
+
+namespace {
+
+[[noreturn]] void fallito(const std::string& percorso, std::string_view cosa, int codice) {
+    throw ErroreFile(percorso, 0,
+                     std::string(cosa) + " (" + std::generic_category().message(codice) + ")");
+}
+
+class Descrittore {
+ public:
+    explicit Descrittore(int numero) : numero_(numero) {}
+    Descrittore(const Descrittore&) = delete;
+    Descrittore& operator=(const Descrittore&) = delete;
+    ~Descrittore() {
+        if (numero_ >= 0) ::close(numero_);
+    }
+    [[nodiscard]] int operator*() const { return numero_; }
+    [[nodiscard]] bool chiudi() { return ::close(std::exchange(numero_, -1)) == 0; }
+
+ private:
+    int numero_;
+};
+
+bool scriviTutto(int file, std::string_view contenuto) {
+    while (!contenuto.empty()) {
+        const ssize_t scritti = ::write(file, contenuto.data(), contenuto.size());
+        if (scritti < 0 && errno == EINTR) continue;
+        if (scritti < 0) return false;
+        contenuto.remove_prefix(static_cast<std::size_t>(scritti));
+    }
+    return true;
+}
+
+// The file that a name stands for: a link leads to its target, which may not exist yet.
+std::string destinazione(const std::string& percorso) {
+    std::error_code errore;
+    const auto vero = std::filesystem::weakly_canonical(percorso, errore);
+    return errore ? percorso : vero.string();
+}
+
+mode_t permessi(const std::string& percorso) {
+    struct stat stato {};
+    if (::stat(percorso.c_str(), &stato) == 0) return stato.st_mode & 07777;
+    const mode_t maschera = ::umask(0);
+    ::umask(maschera);
+    return 0666 & ~maschera;
+}
+
+void versaSulDisco(const std::string& cartella) {
+    const Descrittore file(::open(cartella.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (*file >= 0) ::fsync(*file);
+}
+
+}  // namespace
+
+std::string leggiFile(const std::string& percorso) {
+    const Descrittore file(::open(percorso.c_str(), O_RDONLY | O_CLOEXEC));
+    if (*file < 0) fallito(percorso, "impossibile leggere il file", errno);
+    std::string contenuto;
+    char blocco[65536];
+    for (;;) {
+        const ssize_t letti = ::read(*file, blocco, sizeof blocco);
+        if (letti < 0 && errno == EINTR) continue;
+        if (letti < 0) fallito(percorso, "impossibile leggere il file", errno);
+        if (letti == 0) return contenuto;
+        contenuto.append(blocco, static_cast<std::size_t>(letti));
+    }
+}
+
+void scriviFile(const std::string& percorso, std::string_view contenuto) {
+    const std::string meta = destinazione(percorso);
+    // Taking over the name would get past a file's own write protection.
+    if (::access(meta.c_str(), F_OK) == 0 && ::access(meta.c_str(), W_OK) != 0)
+        fallito(percorso, "impossibile scrivere il file", errno);
+    std::string provvisorio = meta + ".XXXXXX";
+    Descrittore file(::mkostemp(provvisorio.data(), O_CLOEXEC));
+    if (*file < 0) fallito(percorso, "impossibile scrivere il file", errno);
+    const bool scritto = scriviTutto(*file, contenuto) && ::fchmod(*file, permessi(meta)) == 0 &&
+                         ::fsync(*file) == 0 && file.chiudi() &&
+                         ::rename(provvisorio.c_str(), meta.c_str()) == 0;
+    if (!scritto) {
+        const int codice = errno;
+        ::unlink(provvisorio.c_str());
+        fallito(percorso, "impossibile scrivere il file", codice);
+    }
+    versaSulDisco(std::filesystem::path(meta).parent_path().string());
+}
+
+void accodaFile(const std::string& percorso, std::string_view contenuto) {
+    Descrittore file(::open(percorso.c_str(), O_WRONLY | O_APPEND | O_CLOEXEC));
+    if (*file < 0) fallito(percorso, "impossibile scrivere il file", errno);
+    const off_t prima = ::lseek(*file, 0, SEEK_END);
+    if (!scriviTutto(*file, contenuto)) {
+        const int codice = errno;
+        if (::ftruncate(*file, prima) != 0) ::unlink(percorso.c_str());
+        fallito(percorso, "impossibile scrivere il file", codice);
+    }
+    if (!file.chiudi()) fallito(percorso, "impossibile scrivere il file", errno);
+}
+
+bool esisteFile(const std::string& percorso) {
+    std::error_code errore;
+    return std::filesystem::exists(percorso, errore) &&
+           !std::filesystem::is_directory(percorso, errore);
+}
+
+void cancellaFile(const std::string& percorso) {
+    std::error_code errore;
+    std::filesystem::remove(percorso, errore);
+}
+
+}  // namespace korven::base

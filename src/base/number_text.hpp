@@ -1,0 +1,43 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+// Numbers as text, the same on every machine and under every locale: the point is the only decimal
+// sign. All formatters round half away from zero, decided on the shortest decimal text that reads
+// back as the same double, so that 1.005 is a tie and 0.00000005 is not lost. A value must be
+// finite.
+
+namespace korven::base {
+
+/// Reads the number at the head of a text: leading blanks are skipped, then the longest prefix of
+/// the form sign, digits, point, digits, exponent with e or E is taken; what follows is ignored.
+/// @return nothing when the text begins with no number, or with one too large for a double
+[[nodiscard]] std::optional<double> leggiNumero(std::string_view testo);
+
+/// The text of a number in project and result files: at most seven decimals, no padding, all
+/// integer digits. 0.5 gives 0.5, but -0.5 gives -.5, since only a point in the very first place
+/// gets its 0; every reader takes both forms.
+[[nodiscard]] std::string formattaNumero(double valore);
+
+/// Fixed-field text of a number for drawings.
+///
+/// @param maschera  a picture such as "###.##"; only its lengths count: the characters before the
+///                  point are the width of the integer part, those behind it the decimals
+/// @return the rounded number (half rounded up), its integer part padded with blanks on the left;
+///         an integer part longer than its width pushes the fraction out of the picture, one longer
+///         than the whole picture stands alone
+[[nodiscard]] std::string formattaMaschera(double valore, std::string_view maschera);
+
+/// Text of a number in the report: a value rounded to four decimals, then cut (not rounded again)
+/// to `decimali` of them. Negative values below 1 keep no zero before the point: -0.5 gives -.50.
+///
+/// @param decimali  1 to 12; 0 leaves the point at the end, -1 takes it off
+[[nodiscard]] std::string formattaDecimali(double valore, int decimali);
+
+/// The plain text of a number: at most 15 significant digits, a 0 before the point, no exponent,
+/// never "-0".
+[[nodiscard]] std::string testoNumero(double valore);
+
+}  // namespace korven::base

@@ -1,0 +1,49 @@
+#include "base/text_lines.hpp"
+
+#include "base/code_page.hpp"
+#include "base/file_error.hpp"
+#include "base/files.hpp"
+#include "base/number_text.hpp"
+
+namespace korven::base {
+
+LettoreRighe LettoreRighe::apri(const std::string& percorso, std::string rimedio) {
+    return {percorso, leggiFile(percorso), std::move(rimedio)};
+}
+
+LettoreRighe::LettoreRighe(std::string percorso, std::string contenuto, std::string rimedio)
+    : percorso_(std::move(percorso)),
+      contenuto_(std::move(contenuto)),
+      rimedio_(std::move(rimedio)) {}
+
+bool LettoreRighe::fine() const {
+    const std::string_view resto = std::string_view(contenuto_).substr(posizione_);
+    return resto.empty() || resto == "\n" || resto == "\r\n";
+}
+
+std::string_view LettoreRighe::prossima(std::string_view atteso) {
+    ++letta_;
+    if (posizione_ >= contenuto_.size())
+        rifiuta("il file termina qui, atteso: " + std::string(atteso));
+    std::string_view riga = std::string_view(contenuto_).substr(posizione_);
+    const std::size_t fine = riga.find('\n');
+    posizione_ += fine == std::string_view::npos ? riga.size() : fine + 1;
+    riga = riga.substr(0, fine);
+    if (fine != std::string_view::npos && riga.ends_with('\r')) riga.remove_suffix(1);
+    return riga;
+}
+
+std::string LettoreRighe::riga(std::string_view atteso) { return daCp1252(prossima(atteso)); }
+
+double LettoreRighe::numero(std::string_view atteso) {
+    if (const auto valore = leggiNumero(prossima(atteso))) return *valore;
+    rifiuta("atteso un numero: " + std::string(atteso));
+}
+
+void LettoreRighe::rifiuta(std::string_view atteso) const {
+    std::string testo(atteso);
+    if (!rimedio_.empty()) testo += "; " + rimedio_;
+    throw ErroreFile(percorso_, letta_, testo);
+}
+
+}  // namespace korven::base

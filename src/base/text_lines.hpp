@@ -1,0 +1,48 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace korven::base {
+
+/// Reads a text file line by line, or number by number, and says where it broke. The file is
+/// Windows-1252; lines end in CR LF or LF alone, the last may have no end. Texts come out in UTF-8.
+class LettoreRighe {
+ public:
+    /// Reads the whole file.
+    /// @param rimedio  what the user can do about a broken file, added to every error; may be empty
+    /// @throws ErroreFile if the file is missing, a folder or not readable
+    [[nodiscard]] static LettoreRighe apri(const std::string& percorso, std::string rimedio = {});
+
+    /// Reads `contenuto`, the bytes of a file that is called `percorso` in errors.
+    LettoreRighe(std::string percorso, std::string contenuto, std::string rimedio = {});
+
+    /// True when nothing follows. A lone line end is nothing.
+    [[nodiscard]] bool fine() const;
+
+    /// The next line whole, without its end.
+    /// @param atteso  what the line is to be, for the error
+    /// @throws ErroreFile at the end of the file
+    std::string riga(std::string_view atteso);
+
+    /// The number at the head of the next line.
+    /// @throws ErroreFile at the end of the file or if the line begins with no number
+    double numero(std::string_view atteso);
+
+    /// Number of the line last read, from 1.
+    [[nodiscard]] long numeroRiga() const { return letta_; }
+
+    /// Raises an ErroreFile for the line last read.
+    [[noreturn]] void rifiuta(std::string_view atteso) const;
+
+ private:
+    [[nodiscard]] std::string_view prossima(std::string_view atteso);
+
+    std::string percorso_;
+    std::string contenuto_;
+    std::string rimedio_;
+    std::size_t posizione_ = 0;
+    long letta_ = 0;
+};
+
+}  // namespace korven::base

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "project/project_data.hpp"
+
+// Taking back what an editor hands over: texts as typed, in the units that the user sees. A number
+// is the longest numeric prefix of its text, 0 if there is none.
+//
+// A table arrives as a list: the number of rows as text, then the cells row after row in the column
+// order of DatiProgetto (the layer table without Su, which no editor shows). Cells that are missing
+// at the end count as empty.
+
+namespace korven::project {
+
+/// Takes back the soil layers and sorts them by depth; equal depths stay in the order typed. Su has
+/// no column in the editor and stays with its row number when rows are exchanged.
+/// @throws base::ErroreIndice if there are more rows than the table holds
+void riprendiStrati(DatiProgetto& dati, const std::vector<std::string>& testi);
+
+/// Takes back the anchors and sorts them by depth.
+/// @throws base::ErroreIndice if there are more rows than the table holds
+void riprendiTiranti(DatiProgetto& dati, const std::vector<std::string>& testi);
+
+/// Takes back the excavation stages. They are meant to be typed in the order of the excavation:
+/// rows out of depth order keep their depths and water levels, while their anchor counts and
+/// surcharges, and the stiffness of the anchors with the same row numbers, are exchanged.
+/// @throws base::ErroreIndice if there are more rows than the table holds
+void riprendiFasi(DatiProgetto& dati, const std::vector<std::string>& testi);
+
+/// Takes back the wall parameters, 18 texts in the order of the wall editor.
+/// @return true if any value differs from the stored one
+bool riprendiParatia(DatiProgetto& dati, const std::vector<std::string>& testi);
+
+/// Takes back the six heading lines.
+/// @return true if any line differs from the stored one
+bool riprendiTitoli(DatiProgetto& dati, const std::vector<std::string>& testi);
+
+}  // namespace korven::project

@@ -1,0 +1,118 @@
+#include "project/project_file.hpp"
+
+#include <cmath>
+
+#include "base/code_page.hpp"
+#include "base/files.hpp"
+#include "base/number_text.hpp"
+#include "project/project_walk.hpp"
+
+namespace korven::project {
+
+namespace {
+
+class Lettura {
+ public:
+    explicit Lettura(base::LettoreRighe& file) : file_(file) {}
+
+    void conteggio(int& valore, int capacita, std::string_view nome) {
+        const std::string atteso =
+            std::string(nome) + ", un intero da 0 a " + std::to_string(capacita);
+        const double letto = file_.numero(atteso);
+        if (!(letto >= 0 && letto <= capacita) || letto != std::floor(letto))
+            file_.rifiuta("atteso un numero: " + atteso);
+        valore = static_cast<int>(letto);
+    }
+    void numero(double& valore, std::string_view nome) { valore = file_.numero(nome); }
+    void bandiera(bool& valore, std::string_view nome) { valore = file_.numero(nome) != 0; }
+    // A project always reopens with Coulomb: Rankine and Bell are chosen for a session and are not
+    // kept. The code 0 of a project in which nobody chose yet stays.
+    void metodoSpinte(double& valore, std::string_view nome) {
+        valore = file_.numero(nome);
+        if (valore > 1) valore = 1;
+    }
+    void descrizione(std::string& valore, std::string_view nome) { valore = file_.riga(nome); }
+    void titolo(std::string& valore, std::string_view nome) { valore = file_.riga(nome); }
+    // A test stands for a whole block: once a block begins, all of its lines are expected.
+    [[nodiscard]] bool blocco() const { return !file_.fine(); }
+
+ private:
+    base::LettoreRighe& file_;
+};
+
+class Scrittura {
+ public:
+    void conteggio(int valore, int, std::string_view) { aggiungi(base::formattaNumero(valore)); }
+    void numero(double valore, std::string_view) { aggiungi(base::formattaNumero(valore)); }
+    void bandiera(bool valore, std::string_view) { aggiungi(valore ? "-1" : "0"); }
+    void metodoSpinte(double valore, std::string_view nome) { numero(valore, nome); }
+    void descrizione(const std::string& valore, std::string_view) { aggiungi(valore); }
+    void titolo(const std::string& valore, std::string_view) { aggiungi(valore); }
+    [[nodiscard]] static bool blocco() { return true; }
+
+    std::string testo;
+
+ private:
+    void aggiungi(std::string_view riga) { testo.append(riga).append("\r\n"); }
+};
+
+// The first inequality settles the answer; nothing behind it is read any more.
+class Confronto {
+ public:
+    explicit Confronto(base::LettoreRighe& file) : file_(file) {}
+
+    void conteggio(int valore, int, std::string_view nome) { numero(valore, nome); }
+    void numero(double valore, std::string_view nome) {
+        if (!diverso) diverso = file_.numero(nome) != valore;
+    }
+    void bandiera(bool valore, std::string_view nome) { numero(valore ? -1 : 0, nome); }
+    void metodoSpinte(double valore, std::string_view nome) { numero(valore, nome); }
+    void descrizione(const std::string& valore, std::string_view nome) {
+        if (!diverso) diverso = file_.riga(nome) != valore;
+    }
+    // A changed heading changes no result.
+    void titolo(const std::string&, std::string_view nome) {
+        if (!diverso) file_.riga(nome);
+    }
+    [[nodiscard]] bool blocco() const { return !diverso && !file_.fine(); }
+
+    bool diverso = false;
+
+ private:
+    base::LettoreRighe& file_;
+};
+
+}  // namespace
+
+void leggiDati(base::LettoreRighe& file, DatiProgetto& dati) {
+    DatiProgetto letti = dati;
+    Lettura lettura(file);
+    Percorso(lettura, letti).tutto();
+    dati = letti;
+}
+
+void leggiProgetto() {
+    auto file = base::LettoreRighe::apri(fileCorrente);
+    leggiDati(file, Progetto);
+}
+
+std::string testoProgetto(const DatiProgetto& dati) {
+    Scrittura scrittura;
+    Percorso(scrittura, dati).tutto();
+    return scrittura.testo;
+}
+
+void scriviProgetto() { base::scriviFile(fileCorrente, base::inCp1252(testoProgetto(Progetto))); }
+
+bool progettoDiverso(base::LettoreRighe& file, const DatiProgetto& dati) {
+    Confronto confronto(file);
+    Percorso(confronto, dati).tutto();
+    return confronto.diverso;
+}
+
+bool progettoDiverso() {
+    auto file = base::LettoreRighe::apri(fileCorrente);
+    return progettoDiverso(file, Progetto);
+}
+
+}  // namespace korven::project

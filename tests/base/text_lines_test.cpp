@@ -1,0 +1,65 @@
+#include "base/text_lines.hpp"
+
+#include <gtest/gtest.h>
+
+#include "base/file_error.hpp"
+
+namespace korven::base {
+namespace {
+
+TEST(LettoreRighe, TakesCrLfAndLfAloneAndALastLineWithoutAnEnd) {
+    LettoreRighe file("f", "uno\r\ndue\n tre ");
+    EXPECT_EQ(file.riga(""), "uno");
+    EXPECT_EQ(file.riga(""), "due");
+    EXPECT_FALSE(file.fine());
+    EXPECT_EQ(file.riga(""), " tre ");  // blanks belong to the text
+    EXPECT_TRUE(file.fine());
+    EXPECT_EQ(file.numeroRiga(), 3);
+}
+
+TEST(LettoreRighe, DecodesTheCodePage) {
+    LettoreRighe file("f", "citt\xE0 \x80\r\n");
+    EXPECT_EQ(file.riga(""), "città €");
+}
+
+TEST(LettoreRighe, CountsALoneLineEndAsNothing) {
+    LettoreRighe file("f", "1\r\n\r\n");
+    EXPECT_EQ(file.numero(""), 1);
+    EXPECT_TRUE(file.fine());
+    LettoreRighe altro("f", "1\n\n2");
+    EXPECT_EQ(altro.numero(""), 1);
+    EXPECT_FALSE(altro.fine());
+}
+
+TEST(LettoreRighe, IgnoresBlanksAroundANumber) {
+    LettoreRighe file("f", "  1.5  \r\n-.5\r\n");
+    EXPECT_EQ(file.numero(""), 1.5);
+    EXPECT_EQ(file.numero(""), -0.5);
+}
+
+TEST(LettoreRighe, NamesFileLineAndWhatWasExpected) {
+    LettoreRighe file("muro.kvd", "1\r\nabc\r\n", "cancellare il file");
+    EXPECT_EQ(file.numero("primo"), 1);
+    try {
+        file.numero("peso dell'acqua");
+        FAIL() << "a line without a number was taken";
+    } catch (const ErroreFile& errore) {
+        EXPECT_EQ(errore.percorso(), "muro.kvd");
+        EXPECT_EQ(errore.riga(), 2);
+        EXPECT_EQ(errore.atteso(), "atteso un numero: peso dell'acqua; cancellare il file");
+    }
+    EXPECT_THROW(file.riga("altro"), ErroreFile);
+}
+
+TEST(LettoreRighe, RefusesABlankLineWhereANumberIsDue) {
+    LettoreRighe file("f", "   \r\n1\r\n");
+    EXPECT_THROW(file.numero(""), ErroreFile);
+}
+
+TEST(LettoreRighe, RefusesAMissingFileAndAFolder) {
+    EXPECT_THROW(static_cast<void>(LettoreRighe::apri("/nessuna/cartella/f.kvd")), ErroreFile);
+    EXPECT_THROW(static_cast<void>(LettoreRighe::apri("/tmp")), ErroreFile);
+}
+
+}  // namespace
+}  // namespace korven::base
