@@ -1,0 +1,54 @@
+#include "analysis/shear_extremes.hpp"
+
+#include <algorithm>
+#include <cmath>
+
+namespace korven::analysis {
+
+namespace {
+
+using TabellaNodi = base::Tabella<double, 500>;
+
+double valore(const TabellaNodi& taglioNodo, int i, int nNodi) {
+    return i <= nNodi ? taglioNodo[i] : 0;
+}
+
+void estrapolaAlTirante(double prof, double passo, int nNodi, TabellaNodi& taglioNodo) {
+    const double nodo = std::floor(0.5 + prof / passo) + 1;
+    if (!(nodo >= 1 && nodo <= nNodi)) return;
+    const int a = static_cast<int>(nodo);
+    taglioNodo[a] = 2 * valore(taglioNodo, a + 1, nNodi) - valore(taglioNodo, a + 2, nNodi);
+}
+
+void includi(EstremiTaglio& estremi, double taglio) {
+    estremi.vMin = std::min(estremi.vMin, taglio);
+    estremi.vMax = std::max(estremi.vMax, taglio);
+}
+
+}  // namespace
+
+double massimoAssoluto(const EstremiTaglio& estremi) {
+    return std::max(std::abs(estremi.vMin), std::abs(estremi.vMax));
+}
+
+EstremiTaglio estremiTaglio(const project::DatiProgetto& dati, double nTirantiFase,
+                            const base::Tabella<double, project::massimoTiranti>& yTirante,
+                            int nNodi, double passo, const TabellaNodi& yNodo,
+                            TabellaNodi& taglioNodo) {
+    for (int j = 1; j <= nTirantiFase; ++j)
+        if (dati.profTirante[j] != 0)
+            estrapolaAlTirante(dati.profTirante[j], passo, nNodi, taglioNodo);
+    EstremiTaglio estremi{.vMin = 1e30, .vMax = -1e30};
+    for (int i = 1; i <= nNodi; ++i) {
+        includi(estremi, taglioNodo[i]);
+        for (int j = 1; j <= nTirantiFase; ++j) {
+            // Exact: an anchor that falls between two nodes shows no step.
+            if (dati.profTirante[j] != (i - 1) * passo) continue;
+            const double tiro = dati.pretTirante[j] + dati.rigTirante[j] * (yNodo[i] - yTirante[j]);
+            includi(estremi, taglioNodo[i] - tiro);
+        }
+    }
+    return estremi;
+}
+
+}  // namespace korven::analysis

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "base/table.hpp"
+#include "project/project_data.hpp"
+
+namespace korven::analysis {
+
+/// Smallest and largest shear of one stage [t/m].
+struct EstremiTaglio {
+    double vMin;
+    double vMax;
+};
+
+/// The larger of the two in absolute value [t/m].
+[[nodiscard]] double massimoAssoluto(const EstremiTaglio& estremi);
+
+/// Extremes of the shear along the wall in one stage.
+///
+/// The shear of an anchor's node lies between the values on its two sides. It is replaced by the
+/// value just below the anchor, extrapolated from the two nodes under it,
+///
+///     taglioNodo[a] = 2 taglioNodo[a + 1] - taglioNodo[a + 2],
+///
+/// anchor after anchor in the order of their table, so that a later anchor may build on a value
+/// that an earlier one has set. Nodes beyond the toe read 0. An anchor at depth 0 keeps the node's
+/// own value, and one that stands beside no node of the wall changes nothing.
+///
+/// Where an anchor's depth is exactly the node's depth (i - 1) x passo, as doubles, the value above
+/// it counts too: taglioNodo[i] - tiro, with tiro = pretTirante + rigTirante (yNodo[i] - yTirante).
+/// An anchor between two nodes has no such second value.
+///
+/// @param dati         the anchor table (profTirante [m], pretTirante [t], rigTirante [t/m])
+/// @param nTirantiFase anchors in place in the stage, rows 1 to nTirantiFase
+/// @param yTirante     displacement of each anchor's head when it was set [m]
+/// @param nNodi        nodes of the wall, 1 at the top
+/// @param passo        distance of the nodes, lunghezzaParatia / (nNodi - 1) [m]
+/// @param yNodo        displacements of the stage [m]
+/// @param taglioNodo   shear of the stage [t/m]; changed in place at the anchors' nodes
+/// @return vMin 1e30 and vMax -1e30 if there is no node
+[[nodiscard]] EstremiTaglio estremiTaglio(
+    const project::DatiProgetto& dati, double nTirantiFase,
+    const base::Tabella<double, project::massimoTiranti>& yTirante, int nNodi, double passo,
+    const base::Tabella<double, 500>& yNodo, base::Tabella<double, 500>& taglioNodo);
+
+}  // namespace korven::analysis

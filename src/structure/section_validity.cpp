@@ -1,0 +1,81 @@
+#include "structure/section_validity.hpp"
+
+#include "structure/section_type.hpp"
+
+namespace korven::structure {
+
+using project::Sezione;
+
+namespace {
+
+struct CampoRichiesto {
+    TipoSezione tipo;
+    double Sezione::*campo;
+    bool perLaRelazione = true;  // false: the report does not ask for it
+};
+
+// The bar layers of the diaphragm stand apart: one face may make up for the other.
+constexpr CampoRichiesto campiRichiesti[] = {
+    {TipoSezione::diaframma, &Sezione::spessoreDiaframma},
+    {TipoSezione::diaframma, &Sezione::modEacciaio},
+    {TipoSezione::diaframma, &Sezione::modEcls},
+    {TipoSezione::diaframma, &Sezione::fyk},
+    {TipoSezione::diaframma, &Sezione::fck},
+
+    {TipoSezione::pali, &Sezione::paliDiamEst},
+    {TipoSezione::pali, &Sezione::paliDiamInt, false},
+    {TipoSezione::pali, &Sezione::paliInterasse},
+    {TipoSezione::pali, &Sezione::modEacciaio},
+    {TipoSezione::pali, &Sezione::modEcls},
+    {TipoSezione::pali, &Sezione::fyk},
+    {TipoSezione::pali, &Sezione::fck},
+
+    {TipoSezione::palancola, &Sezione::palancolaBase},
+    {TipoSezione::palancola, &Sezione::palancolaLargAla},
+    {TipoSezione::palancola, &Sezione::palancolaAltAla},
+    {TipoSezione::palancola, &Sezione::palancolaSpessore},
+    {TipoSezione::palancola, &Sezione::palancolaSpessAla},
+    {TipoSezione::palancola, &Sezione::modEacciaio},
+    {TipoSezione::palancola, &Sezione::fyk},
+
+    {TipoSezione::paliArmati, &Sezione::armInterasse},
+    {TipoSezione::paliArmati, &Sezione::armDiamLong},
+    {TipoSezione::paliArmati, &Sezione::armDiamPalo},
+    {TipoSezione::paliArmati, &Sezione::armNumLong},
+    {TipoSezione::paliArmati, &Sezione::armCopriferro},
+    {TipoSezione::paliArmati, &Sezione::modEacciaio},
+    {TipoSezione::paliArmati, &Sezione::modEcls},
+    {TipoSezione::paliArmati, &Sezione::fyk},
+    {TipoSezione::paliArmati, &Sezione::fck},
+};
+
+bool completa(const Sezione& sezione, bool perLaRelazione) {
+    const TipoSezione tipo = tipoSezione(sezione);
+    if (tipo == TipoSezione::nessuno) return false;
+    for (const CampoRichiesto& riga : campiRichiesti) {
+        if (riga.tipo != tipo || (perLaRelazione && !riga.perLaRelazione)) continue;
+        if (!(sezione.*riga.campo > 0)) return false;
+    }
+    return tipo != TipoSezione::diaframma || facciaCompleta(sezione, Lato::monte) ||
+           facciaCompleta(sezione, Lato::valle);
+}
+
+}  // namespace
+
+bool facciaCompleta(const Sezione& sezione, Lato lato) {
+    return lato == Lato::monte ? sezione.copriferroMonte > 0 && sezione.interasseMonte > 0 &&
+                                     sezione.diametroMonte > 0
+                               : sezione.copriferroValle > 0 && sezione.interasseValle > 0 &&
+                                     sezione.diametroValle > 0;
+}
+
+bool staffePresenti(const Sezione& sezione) {
+    return tipoSezione(sezione) == TipoSezione::paliArmati && sezione.armPassoStaffe > 0 &&
+           sezione.armDiamStaffe > 0;
+}
+
+bool sezioneValida(const Sezione& sezione) { return completa(sezione, false); }
+
+bool sezioneDefinita(const Sezione& sezione) { return completa(sezione, true); }
+
+}  // namespace korven::structure

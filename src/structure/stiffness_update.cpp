@@ -1,0 +1,40 @@
+#include "structure/stiffness_update.hpp"
+
+#include <cmath>
+
+#include "base/translated_texts.hpp"
+#include "structure/section_validity.hpp"
+#include "structure/stiffness.hpp"
+
+namespace korven::structure {
+
+namespace {
+
+constexpr double nmm2PerTm2 = 10000000000;  // 1 t m2 = 1e4 N x 1e6 mm2
+
+bool accettaSostituzione(base::Dialogo& dialogo) {
+    using base::traduttore;
+    const auto testo = traduttore(
+                           "Volete sostituire Il valore di EJ correntemente definito con quello "
+                           "ricalcolato in base alle caratteristiche strutturali del diaframma") +
+                       "?";
+    const auto titolo = traduttore("ATTENZIONE") + "!";
+    return dialogo.domanda(testo, titolo, base::Pulsanti::siNo, base::Icona::domanda) ==
+           base::Risposta::si;
+}
+
+}  // namespace
+
+void aggiornaEJ(const project::Sezione& sezione, double sforzoNormale, double& rigidezzaEJ,
+                MomentiResistenti& MRd, base::Dialogo& dialogo) {
+    if (!sezioneValida(sezione)) return;
+    momentiResistenti(sezione, sforzoNormale, MRd);
+    const double nuovoEJ = std::trunc(calcolaEJ(sezione) / nmm2PerTm2);
+    if (!std::isfinite(nuovoEJ)) return;
+    if (rigidezzaEJ == 0)
+        rigidezzaEJ = nuovoEJ;
+    else if (nuovoEJ != rigidezzaEJ && accettaSostituzione(dialogo))
+        rigidezzaEJ = nuovoEJ;
+}
+
+}  // namespace korven::structure
