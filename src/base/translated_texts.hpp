@@ -3,10 +3,45 @@
 #include <string>
 #include <string_view>
 
+#include "base/dialogo.hpp"
+#include "base/text_table.hpp"
+
 namespace korven::base {
 
-/// Returns the text to show for an Italian text, which is its key. Never fails: a text that stands
-/// in no table comes back as it is, without its leading and trailing blanks.
+/// Returns the text to show for an Italian text, which is its key. Every text that is shown or
+/// printed passes through here. Never fails for a text: one that stands in no table comes back as
+/// it is, without its leading and trailing blanks. A unit in brackets ("[kN/m]") comes back as it
+/// is in every language.
+///
+/// A key is found whatever its case; when the case differs from the record's, the translation takes
+/// the case form of the argument (case_form.hpp). A translation that begins with "@" is replaced by
+/// the English one, and that by the Italian text.
+///
+/// @throws ErroreIndice when a text is found and the language code lies outside 1 to 6
 [[nodiscard]] std::string traduttore(std::string_view testo);
+
+/// Fills and sorts the table of the program from the two text files: the texts common to the
+/// maker's programs and those of this one.
+///
+/// @throws ErroreFile when a file cannot be read or is broken (text_table.hpp); the table then
+/// holds no text
+void caricaTesti(const std::string& percorsoComuni, const std::string& percorsoModulo);
+
+/// Chooses the language, 1 to 6; before the first call it is Italian. Another code is taken as it
+/// is and refused where `traduttore` needs its column.
+void impostaLingua(int codice);
+[[nodiscard]] int linguaCorrente();
+
+/// Switches the translators' test mode on, with the dialog that shows its boxes, or off with
+/// nullptr. In this mode a box tells of every text that has no record, no translation, or another
+/// case than its record. In Italian nothing is looked up, so nothing is told.
+///
+/// @param dialogo  not owned; must outlive the mode
+void impostaModoProva(Dialogo* dialogo);
+
+/// The rule of `traduttore` on a table of one's own, already sorted.
+/// @param prova  dialog of the test mode, nullptr when it is off
+[[nodiscard]] std::string traduci(const TabellaTesti& testi, int lingua, std::string_view testo,
+                                  Dialogo* prova = nullptr);
 
 }  // namespace korven::base

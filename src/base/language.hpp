@@ -1,0 +1,29 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+namespace korven::base {
+
+/// Tag of a language code, as it stands in names of files and folders: 1 "ita", 2 "deu", 3 "fra",
+/// 4 "esp", 5 "eng", 6 "por". Empty for every other code.
+[[nodiscard]] std::string_view siglaLingua(int codice);
+
+/// Code of a tag in lower case, or 0 when it is none.
+[[nodiscard]] int codiceLingua(std::string_view sigla);
+
+/// The chosen language code: the number in the first line of language.cfg. A number outside 1 to 6
+/// is returned as it is (`siglaLingua` of it is empty); the text table refuses it when it is used.
+///
+/// @throws ErroreFile when the file cannot be read or its first line holds no whole number
+[[nodiscard]] int leggiLingua(const std::string& percorso);
+
+/// The tag whose file is to be taken: `sigla` itself when there is a file for it, otherwise the
+/// stand-ins, one step after the other, each testing the tag that the step before it left:
+/// deu to eng, eng to fra, fra to esp, por to esp, esp to ita. Nobody stands in for Italian, so the
+/// tag that comes back may still be without a file.
+[[nodiscard]] std::string siglaDisponibile(std::string_view sigla,
+                                           const std::function<bool(std::string_view)>& esisteFile);
+
+}  // namespace korven::base

@@ -1,0 +1,144 @@
+#include "tools/text_source.hpp"
+
+#include <algorithm>
+#include <map>
+
+#include "base/code_page.hpp"
+#include "base/file_error.hpp"
+#include "base/text_table.hpp"
+
+namespace korven::tools {
+
+namespace {
+
+constexpr std::string_view tags[] = {"it: ", "de: ", "fr: ", "es: ", "en: ", "pt: "};
+constexpr std::string_view fileMark = "@file ";
+
+class SourceReader {
+ public:
+    explicit SourceReader(const std::string& path) : path_(path) {}
+
+    void line(std::string_view text) {
+        ++number_;
+        if (text.starts_with('#')) return;
+        if (text.empty()) return endRecord();
+        if (text.starts_with(fileMark)) return newFile(text.substr(fileMark.size()));
+        translation(text);
+    }
+
+    std::vector<TextRecord> end() {
+        endRecord();
+        return std::move(records_);
+    }
+
+ private:
+    void newFile(std::string_view name) {
+        endRecord();
+        file_ = name;
+    }
+
+    void translation(std::string_view text) {
+        if (file_.empty()) refuse("attesa una riga \"@file NOME\" prima del primo testo");
+        if (filled_ == std::size(tags)) refuse("attesa una riga vuota dopo le sei lingue");
+        if (!text.starts_with(tags[filled_]))
+            refuse("attesa la riga \"" + std::string(tags[filled_]) + "...\"");
+        text.remove_prefix(tags[filled_].size());
+        if (text.empty()) refuse("atteso un testo");
+        if (filled_ == 0) current_ = {file_, {}, number_};
+        current_.text[filled_++] = text;
+    }
+
+    void endRecord() {
+        if (filled_ == 0) return;
+        if (filled_ != std::size(tags))
+            refuse("attesa la riga \"" + std::string(tags[filled_]) + "...\"");
+        records_.push_back(std::move(current_));
+        filled_ = 0;
+    }
+
+    [[noreturn]] void refuse(const std::string& expected) const {
+        throw base::ErroreFile(path_, number_, expected);
+    }
+
+    std::string path_;
+    std::string file_;
+    long number_ = 0;
+    TextRecord current_;
+    std::size_t filled_ = 0;
+    std::vector<TextRecord> records_;
+};
+
+bool hasAccessKey(const std::string& text) { return text.find('&') != std::string::npos; }
+
+// All "[...]" of a text, joined.
+std::string units(std::string_view text) {
+    std::string found;
+    for (auto open = text.find('['); open != std::string_view::npos; open = text.find('[')) {
+        const auto close = text.find(']', open);
+        if (close == std::string_view::npos) break;
+        found += text.substr(open, close - open + 1);
+        text.remove_prefix(close + 1);
+    }
+    return found;
+}
+
+std::string faultOf(const std::string& key, const std::string& text) {
+    if (!base::rappresentabile(text)) return "attesi solo caratteri di Windows-1252: " + text;
+    if (base::senzaSpaziEsterni(text) != text) return "attesi testi senza spazi esterni: " + text;
+    if (hasAccessKey(text) != hasAccessKey(key))
+        return "atteso \"&\" in tutte le lingue o in nessuna: " + text;
+    if (units(text) != units(key)) return "attese le unità della chiave: " + text;
+    return {};
+}
+
+}  // namespace
+
+std::vector<TextRecord> readTextSource(const std::string& path, std::string_view content) {
+    SourceReader reader(path);
+    while (!content.empty()) {
+        const auto end = std::min(content.find('\n'), content.size());
+        std::string_view line = content.substr(0, end);
+        if (line.ends_with('\r')) line.remove_suffix(1);
+        reader.line(line);
+        content.remove_prefix(std::min(end + 1, content.size()));
+    }
+    return reader.end();
+}
+
+void checkTextRecords(const std::string& path, const std::vector<TextRecord>& records) {
+    std::map<std::string, long> lineOfKey;
+    for (const auto& record : records) {
+        const auto& key = record.text[0];
+        for (const auto& text : record.text)
+            if (const std::string fault = faultOf(key, text); !fault.empty())
+                throw base::ErroreFile(path, record.line, fault);
+        const auto [known, isNew] = lineOfKey.emplace(base::chiaveTesto(key), record.line);
+        if (!isNew)
+            throw base::ErroreFile(path, record.line,
+                                   "attesa una chiave nuova, questa sta già alla riga " +
+                                       std::to_string(known->second) + ": " + key);
+    }
+    if (records.size() > static_cast<std::size_t>(base::massimoTesti))
+        throw base::ErroreFile(path, 0,
+                               "attesi al più " + std::to_string(base::massimoTesti) + " testi");
+}
+
+std::string textFileBytes(const std::vector<TextRecord>& records, std::string_view file) {
+    std::string bytes;
+    for (const auto& record : records) {
+        if (record.file != file) continue;
+        for (const auto& text : record.text) bytes += base::inCp1252(text) + "\r\n";
+        bytes += "\r\n";
+    }
+    return bytes;
+}
+
+std::vector<std::string> textFileNames(const std::vector<TextRecord>& records) {
+    std::vector<std::string> names;
+    for (const auto& record : records)
+        if (std::find(names.begin(), names.end(), record.file) == names.end())
+            names.push_back(record.file);
+    return names;
+}
+
+}  // namespace korven::tools
