@@ -3,20 +3,19 @@
 #include <algorithm>
 #include <cmath>
 
+#include "analysis/wall_mesh.hpp"
+
 namespace korven::analysis {
 
 namespace {
 
-using TabellaNodi = base::Tabella<double, 500>;
-
-double valore(const TabellaNodi& taglioNodo, int i, int nNodi) {
+double valore(const VettoreNodi& taglioNodo, int i, int nNodi) {
     return i <= nNodi ? taglioNodo[i] : 0;
 }
 
-void estrapolaAlTirante(double prof, double passo, int nNodi, TabellaNodi& taglioNodo) {
-    const double nodo = std::floor(0.5 + prof / passo) + 1;
-    if (!(nodo >= 1 && nodo <= nNodi)) return;
-    const int a = static_cast<int>(nodo);
+void estrapolaAlTirante(double prof, double passo, int nNodi, VettoreNodi& taglioNodo) {
+    const int a = nodoTirante(prof, passo);
+    if (a < 1 || a > nNodi) return;
     taglioNodo[a] = 2 * valore(taglioNodo, a + 1, nNodi) - valore(taglioNodo, a + 2, nNodi);
 }
 
@@ -33,8 +32,8 @@ double massimoAssoluto(const EstremiTaglio& estremi) {
 
 EstremiTaglio estremiTaglio(const project::DatiProgetto& dati, double nTirantiFase,
                             const base::Tabella<double, project::massimoTiranti>& yTirante,
-                            int nNodi, double passo, const TabellaNodi& yNodo,
-                            TabellaNodi& taglioNodo) {
+                            int nNodi, double passo, const VettoreNodi& yNodo,
+                            VettoreNodi& taglioNodo) {
     for (int j = 1; j <= nTirantiFase; ++j)
         if (dati.profTirante[j] != 0)
             estrapolaAlTirante(dati.profTirante[j], passo, nNodi, taglioNodo);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "base/table.hpp"
+#include "analysis/node_vector.hpp"
 #include "project/project_data.hpp"
 
 namespace korven::analysis {
@@ -40,6 +40,6 @@ struct EstremiTaglio {
 [[nodiscard]] EstremiTaglio estremiTaglio(
     const project::DatiProgetto& dati, double nTirantiFase,
     const base::Tabella<double, project::massimoTiranti>& yTirante, int nNodi, double passo,
-    const base::Tabella<double, 500>& yNodo, base::Tabella<double, 500>& taglioNodo);
+    const VettoreNodi& yNodo, VettoreNodi& taglioNodo);
 
 }  // namespace korven::analysis

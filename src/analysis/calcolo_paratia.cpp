@@ -1,0 +1,160 @@
+#include "analysis/calcolo_paratia.hpp"
+
+#include <algorithm>
+#include <memory>
+
+#include "analysis/input_checks.hpp"
+#include "analysis/result_file.hpp"
+#include "analysis/run_flags.hpp"
+#include "analysis/segment_count.hpp"
+#include "analysis/stage_sequence.hpp"
+#include "base/file_names.hpp"
+#include "base/files.hpp"
+#include "base/number_text.hpp"
+#include "base/translated_texts.hpp"
+#include "project/project_file.hpp"
+#include "structure/partial_factors.hpp"
+#include "structure/stiffness_update.hpp"
+
+namespace korven::analysis {
+
+bool erroreCalcolo = false;
+bool stopCalcolo = false;
+double fsAzioni = 0;
+
+namespace {
+
+using base::traduttore;
+using project::fileCorrente;
+using project::Progetto;
+
+void avvisa(base::Dialogo& dialogo, std::string_view testo) {
+    dialogo.messaggio(testo, traduttore("ATTENZIONE") + "!", base::Icona::stop);
+    erroreCalcolo = true;
+}
+
+// The hourglass, for as long as a run lasts.
+class Clessidra {
+ public:
+    explicit Clessidra(base::Dialogo& dialogo) : dialogo_(dialogo) {
+        dialogo_.puntatore(base::Puntatore::clessidra);
+    }
+    Clessidra(const Clessidra&) = delete;
+    Clessidra& operator=(const Clessidra&) = delete;
+    ~Clessidra() { dialogo_.puntatore(base::Puntatore::normale); }
+
+ private:
+    base::Dialogo& dialogo_;
+};
+
+// Puts the name of the result file in the place of the project's for the length of a run.
+class NomeRisultati {
+ public:
+    NomeRisultati() : progetto_(fileCorrente) { fileCorrente = base::nomeRisultati(progetto_); }
+    NomeRisultati(const NomeRisultati&) = delete;
+    NomeRisultati& operator=(const NomeRisultati&) = delete;
+    ~NomeRisultati() {
+        if (!lasciato_) fileCorrente = progetto_;
+    }
+    void lascia() { lasciato_ = true; }
+
+ private:
+    std::string progetto_;
+    bool lasciato_ = false;
+};
+
+// A result file in the making and the progress display beside it: both are gone unless the run ends
+// well, whatever ends it.
+class FileInCorso {
+ public:
+    explicit FileInCorso(Avanzamento& avanzamento) : avanzamento_(avanzamento) {
+        project::scriviProgetto();
+        try {
+            avanzamento_.apri();
+        } catch (...) {
+            base::cancellaFile(fileCorrente);
+            throw;
+        }
+    }
+    FileInCorso(const FileInCorso&) = delete;
+    FileInCorso& operator=(const FileInCorso&) = delete;
+    ~FileInCorso() {
+        avanzamento_.chiudi();
+        if (!finito_) base::cancellaFile(fileCorrente);
+    }
+    void aggiungi(std::string_view testo) { base::accodaFile(fileCorrente, testo); }
+    void finito() { finito_ = true; }
+
+ private:
+    Avanzamento& avanzamento_;
+    bool finito_ = false;
+};
+
+std::string messaggioRifiuto(int fase, const RifiutoSuolo& rifiuto) {
+    return traduttore("Calcolo interrotto") + ": " + traduttore("fase") + " " +
+           std::to_string(fase) + ", " + traduttore("profondità") + " " +
+           base::testoNumero(rifiuto.profondita) + " m: " + traduttore(causa(rifiuto.motivo)) + ".";
+}
+
+void racconta(int fase, const RisultatoFase& risultato, base::Dialogo& dialogo) {
+    if (risultato.esito == EsitoFase::singolare) avvisa(dialogo, traduttore(messaggioSingolare));
+    if (risultato.esito == EsitoFase::rifiutata)
+        avvisa(dialogo, messaggioRifiuto(fase, *risultato.rifiuto));
+    erroreCalcolo = true;  // a stop by the user needs no message
+}
+
+void calcolaFasi(int nSeg, const structure::MomentiResistenti& MRd, const PorteCalcolo& porte) {
+    FileInCorso file(porte.avanzamento);
+    const auto corsa = std::make_unique<ArraysCorsa>();
+    corsa->nSeg = nSeg;
+    corsa->nNodi = nSeg + 1;
+    corsa->passoNodi = Progetto.lunghezzaParatia / nSeg;
+    corsa->vincolo = vincoli(Progetto);
+    ChiusuraRisultati chiusura{MRd[2], MRd[1], -1e30, 1e30, fsAzioni};
+    stopCalcolo = false;
+
+    for (int k = 1; k <= Progetto.nFasi; ++k) {
+        const RisultatoFase risultato = risolviFase(k, Progetto, *corsa, porte.avanzamento);
+        if (risultato.esito != EsitoFase::convergente) {
+            racconta(k, risultato, porte.dialogo);
+            return;
+        }
+        file.aggiungi(testoFase(*corsa));
+        chiusura.mMaxTotale = std::max(chiusura.mMaxTotale, risultato.estremi.mMaxFase);
+        chiusura.mMinTotale = std::min(chiusura.mMinTotale, risultato.estremi.mMinFase);
+    }
+    file.aggiungi(testoChiusura(chiusura));
+    file.finito();
+}
+
+}  // namespace
+
+void CalcoloParatia(int modoUscita, const PorteCalcolo& porte) {
+    const Clessidra clessidra(porte.dialogo);
+    fsAzioni = structure::fsAzioniSezione;
+    erroreCalcolo = false;
+    if (const auto motivo = motivoRifiuto(Progetto); !motivo.empty())
+        return avvisa(porte.dialogo, traduttore(motivo));
+
+    NomeRisultati nome;
+    structure::MomentiResistenti MRd;
+    structure::aggiornaEJ(Progetto.sezione, Progetto.sforzoNormale, Progetto.rigidezzaEJ, MRd,
+                          porte.dialogo);
+    if (Progetto.rigidezzaEJ == 0) {
+        nome.lascia();
+        return avvisa(porte.dialogo, traduttore(messaggioSenzaEJ));
+    }
+    const auto nSeg = leggiNSeg(vincoli(Progetto).incastroPiede);
+    if (!nSeg) return avvisa(porte.dialogo, traduttore(messaggioNSeg));
+
+    const bool aggiornati = base::esisteFile(fileCorrente) && !project::progettoDiverso();
+    if (!aggiornati) calcolaFasi(*nSeg, MRd, porte);
+    if (erroreCalcolo) return;
+
+    if (modoUscita == 0)
+        porte.uscita.scriviRelazione();
+    else
+        porte.uscita.disegnaDiagramma(modoUscita);
+}
+
+}  // namespace korven::analysis

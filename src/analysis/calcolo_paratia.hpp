@@ -1,0 +1,47 @@
+#pragma once
+
+#include "analysis/progress.hpp"
+#include "base/dialogo.hpp"
+
+namespace korven::analysis {
+
+/// What comes after the analysis. While one of these runs, `fileCorrente` names the result file.
+class UscitaCalcolo {
+ public:
+    virtual ~UscitaCalcolo() = default;
+    /// Writes the calculation report.
+    virtual void scriviRelazione() = 0;
+    /// Draws a result diagram: 1 pressures, 2 displacements, 3 moments, 4 shear.
+    virtual void disegnaDiagramma(int modoUscita) = 0;
+};
+
+/// The outside of a run.
+struct PorteCalcolo {
+    base::Dialogo& dialogo;
+    Avanzamento& avanzamento;
+    UscitaCalcolo& uscita;
+};
+
+/// The one entry of the analysis: refuses a project that can't be computed, brings the result file
+/// up to date and goes on to the output. Works on `Progetto` and `fileCorrente`; the outcome is
+/// `erroreCalcolo`.
+///
+/// The stages are computed only when the result file does not already hold this very project.
+/// `Progetto.faldaValle` is stored before the stages overwrite it: a run whose last stage changes
+/// it is followed by one more when asked again in the same session.
+///
+/// A refused, singular or stopped run leaves no result file behind once it has begun one; a refusal
+/// by the first checks leaves an older one alone. `fileCorrente` is restored at every exit but one:
+/// a run without a stiffness EJ leaves it at the result file's name until another file is opened.
+///
+/// @param modoUscita  0 the report, 1 to 4 a diagram
+/// @throws base::ErroreFile if a file can't be read or written; nothing half-written stays
+void CalcoloParatia(int modoUscita, const PorteCalcolo& porte);
+
+/// The message of a system without a solution, an Italian key.
+inline constexpr const char* messaggioSingolare =
+    "La geometria assegnata al diaframma non consente l'elaborazione. Verificare i dati di input. "
+    "Esempi di cause possibili: lunghezza del diaframma inferiore alla profondità di scavo, "
+    "profondità di infissione del diaframma insufficiente.";
+
+}  // namespace korven::analysis

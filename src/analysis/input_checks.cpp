@@ -1,0 +1,48 @@
+#include "analysis/input_checks.hpp"
+
+namespace korven::analysis {
+
+namespace {
+
+using project::DatiProgetto;
+
+bool senzaLunghezza(const DatiProgetto& dati) { return dati.lunghezzaParatia <= 0; }
+bool senzaStrati(const DatiProgetto& dati) { return dati.nStrati == 0; }
+bool senzaFasi(const DatiProgetto& dati) { return dati.nFasi == 0; }
+
+// Bowles' factors divide by tan phi.
+bool bowlesSenzaAttrito(const DatiProgetto& dati) {
+    if (dati.metodoKs != 1) return false;
+    for (int j = 1; j <= dati.nStrati; ++j)
+        if (dati.phiStrato[j] == 0) return true;
+    return false;
+}
+
+struct Controllo {
+    bool (*fallisce)(const DatiProgetto&);
+    std::string_view messaggio;
+};
+
+constexpr Controllo controlli[] = {
+    {senzaLunghezza,
+     "Non è ancora stata definita la lunghezza della paratia, i calcoli non possono pertanto "
+     "essere eseguiti."},
+    {senzaStrati,
+     "Non è ancora stata definita la stratigrafia del terreno, i calcoli non possono pertanto "
+     "essere eseguiti."},
+    {senzaFasi,
+     "Non sono ancora state definite le fasi di scavo, i calcoli non possono pertanto essere "
+     "eseguiti."},
+    {bowlesSenzaAttrito,
+     "Con il metodo scelto per il calcolo di Ks non sono ammessi angoli di attrito nulli."},
+};
+
+}  // namespace
+
+std::string_view motivoRifiuto(const DatiProgetto& dati) {
+    for (const auto& [fallisce, messaggio] : controlli)
+        if (fallisce(dati)) return messaggio;
+    return {};
+}
+
+}  // namespace korven::analysis

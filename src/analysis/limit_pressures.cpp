@@ -1,0 +1,31 @@
+#include "analysis/limit_pressures.hpp"
+
+#include <cmath>
+
+#include "analysis/pressure_coefficients.hpp"
+
+namespace korven::analysis {
+
+PressioniLimite limitiMonte(double metodoSpinte, double sigma, double ka, double kp, double c,
+                            double phi) {
+    PressioniLimite limiti{sigma * ka, sigma * kp};
+    if (metodoSpinte < 3) {
+        limiti.attiva -= 2 * c * std::tan(pi / 4 - phi / 2);
+        if (limiti.attiva < 0) limiti.attiva = 0;
+        limiti.passiva += 2 * c * std::tan(pi / 4 + phi / 2);
+    }
+    return limiti;
+}
+
+PressioniLimite limitiValle(double metodoSpinte, double sigma, double ka, double kp, double c,
+                            double phi) {
+    PressioniLimite limiti{sigma * ka, sigma * kp};
+    if (metodoSpinte < 3 && ka != 0 && kp != 0) {
+        limiti.attiva += 2 * c * std::tan(pi / 4 - phi / 2);
+        if (limiti.attiva > 0) limiti.attiva = 0;
+        limiti.passiva -= 2 * c * std::tan(pi / 4 + phi / 2);
+    }
+    return limiti;
+}
+
+}  // namespace korven::analysis

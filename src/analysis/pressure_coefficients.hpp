@@ -1,0 +1,59 @@
+#pragma once
+
+#include "analysis/undefined_cause.hpp"
+
+namespace korven::analysis {
+
+/// Ratio of a circle's circumference to its diameter, as all formulas of the program take it.
+extern const double pi;
+
+/// Active and passive coefficient, both positive, and why they have no value if they have none.
+struct CoefficientiSpinta {
+    double ka = 0;
+    double kp = 0;
+    Indefinito motivo = Indefinito::no;
+};
+
+/// At-rest coefficient of the retained side:
+///
+///     k0 = (1 - sin phi) / (1 + sin beta)
+///
+/// The slope term carries a plus: a rising ground lowers the coefficient.
+/// @param phi   friction angle [rad]
+/// @param beta  slope of the ground [rad], positive when it rises away from the wall
+/// @return k0 [-]; not finite when sin beta is -1
+/// Source: Jaky (1944), with the slope term of Kezdi.
+[[nodiscard]] double coefficienteRiposo(double phi, double beta);
+
+/// Coulomb's coefficients for a vertical, smooth wall (wall angle pi/2, no wall friction):
+///
+///     ka = sin^2(pi/2 + phi) / (1 + sqrt(sin phi sin(phi - beta) / (sin(pi/2) sin(pi/2 +
+///     beta))))^2 kp = sin^2(pi/2 - phi) / (1 - sqrt(sin phi sin(phi + beta) / (sin(pi/2) sin(pi/2
+///     + beta))))^2
+///
+/// @return undefined for phi below a positive slope (the root of a negative number), for a slope
+///         below -phi, and where the denominator of kp is 0
+/// Source: Coulomb (1776), in the form of Mueller-Breslau.
+[[nodiscard]] CoefficientiSpinta spinteCoulomb(double phi, double beta);
+
+/// Rankine's coefficients for ground that slopes at beta:
+///
+///     R  = sqrt(cos^2 beta - cos^2 phi)
+///     ka = cos beta (cos beta - R) / (cos beta + R),  kp = cos beta (cos beta + R) / (cos beta -
+///     R)
+///
+/// @return undefined for a slope steeper than phi
+/// Source: Rankine (1857).
+[[nodiscard]] CoefficientiSpinta spinteRankine(double phi, double beta);
+
+/// Bell's coefficients; the slope does not enter.
+///
+///     ka = tan^2(pi/4 - phi/2),  kp = tan^2(pi/4 + phi/2)
+///
+/// Source: Bell (1915).
+[[nodiscard]] CoefficientiSpinta spinteBell(double phi);
+
+/// The coefficients by code: 1 Coulomb, 2 Rankine, 3 Bell. Any other code leaves both at 0.
+[[nodiscard]] CoefficientiSpinta coefficientiSpinta(double metodoSpinte, double phi, double beta);
+
+}  // namespace korven::analysis

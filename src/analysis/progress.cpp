@@ -1,0 +1,14 @@
+#include "analysis/progress.hpp"
+
+#include "base/number_text.hpp"
+#include "base/translated_texts.hpp"
+
+namespace korven::analysis {
+
+std::string didascaliaAvanzamento(int fase, int iterazione, double yMax, double mMax) {
+    return base::traduttore("fase") + "=" + std::to_string(fase) +
+           "   iter.=" + std::to_string(iterazione) + "   Ymax=" + base::testoNumero(yMax) +
+           "   Mmax=" + base::testoNumero(10 * mMax);
+}
+
+}  // namespace korven::analysis

@@ -1,0 +1,131 @@
+#include "analysis/result_file.hpp"
+
+#include <algorithm>
+#include <string_view>
+
+#include "base/number_text.hpp"
+#include "project/project_file.hpp"
+
+namespace korven::analysis {
+
+namespace {
+
+struct Colonna {
+    std::string_view nome;
+    VettoreNodi RisultatiFase::*letta;
+    const VettoreNodi& (*scritta)(const ArraysCorsa&);
+};
+
+using Corsa = const ArraysCorsa&;
+
+const Colonna colonne[] = {
+    {"sigmaVv", &RisultatiFase::sigmaVv,
+     [](Corsa c) -> const VettoreNodi& { return c.suolo.sigmaVv; }},
+    {"Ehv", &RisultatiFase::Ehv, [](Corsa c) -> const VettoreNodi& { return c.suolo.Ehv; }},
+    {"k0v", &RisultatiFase::k0v, [](Corsa c) -> const VettoreNodi& { return c.suolo.k0v; }},
+    {"kav", &RisultatiFase::kav, [](Corsa c) -> const VettoreNodi& { return c.suolo.kav; }},
+    {"kpv", &RisultatiFase::kpv, [](Corsa c) -> const VettoreNodi& { return c.suolo.kpv; }},
+    {"sigmaVm", &RisultatiFase::sigmaVm,
+     [](Corsa c) -> const VettoreNodi& { return c.suolo.sigmaVm; }},
+    {"Ehm", &RisultatiFase::Ehm, [](Corsa c) -> const VettoreNodi& { return c.suolo.Ehm; }},
+    {"k0m", &RisultatiFase::k0m, [](Corsa c) -> const VettoreNodi& { return c.suolo.k0m; }},
+    {"kam", &RisultatiFase::kam, [](Corsa c) -> const VettoreNodi& { return c.suolo.kam; }},
+    {"kpm", &RisultatiFase::kpm, [](Corsa c) -> const VettoreNodi& { return c.suolo.kpm; }},
+    {"Spostamenti", &RisultatiFase::yNodo, [](Corsa c) -> const VettoreNodi& { return c.yNodo; }},
+    {"Momenti", &RisultatiFase::momentoNodo,
+     [](Corsa c) -> const VettoreNodi& { return c.momentoNodo; }},
+    {"", &RisultatiFase::taglioNodo, [](Corsa c) -> const VettoreNodi& { return c.taglioNodo; }},
+};
+
+struct Chiusa {
+    double ChiusuraRisultati::*campo;
+    std::string_view nome;
+};
+
+constexpr Chiusa chiuse[] = {
+    {&ChiusuraRisultati::mrd2, "momento resistente MRd 2"},
+    {&ChiusuraRisultati::mrd1, "momento resistente MRd 1"},
+    {&ChiusuraRisultati::mMaxTotale, "momento massimo"},
+    {&ChiusuraRisultati::mMinTotale, "momento minimo"},
+    {&ChiusuraRisultati::fsAzioni, "fattore parziale delle azioni"},
+};
+
+constexpr std::size_t zonaDiStampa = 14;
+constexpr std::string_view rimedio =
+    "il file dei risultati e' incompleto o e' stato scritto con un altro numero di segmenti "
+    "(nseg.txt): cancellarlo e ripetere il calcolo";
+
+std::string rigaColonne() {
+    std::string riga;
+    for (const auto& colonna : colonne) {
+        if (colonna.nome.empty()) continue;
+        if (!riga.empty()) riga.resize((riga.size() / zonaDiStampa + 1) * zonaDiStampa, ' ');
+        riga += colonna.nome;
+    }
+    return riga;
+}
+
+}  // namespace
+
+std::string testoFase(const ArraysCorsa& corsa) {
+    std::string testo = rigaColonne() + "\r\n";
+    for (int i = 1; i <= corsa.nNodi; ++i) {
+        for (const auto& colonna : colonne) {
+            if (&colonna != std::begin(colonne)) testo += ',';
+            testo += base::formattaNumero(colonna.scritta(corsa)[i]);
+        }
+        testo += "\r\n";
+    }
+    return testo;
+}
+
+std::string testoChiusura(const ChiusuraRisultati& chiusura) {
+    std::string testo;
+    for (const auto& [campo, nome] : chiuse)
+        testo += base::formattaNumero(chiusura.*campo) + "\r\n";
+    return testo;
+}
+
+LettoreRisultati::LettoreRisultati(const std::string& percorso, int nNodi)
+    : file_(base::LettoreRighe::apri(percorso, std::string(rimedio))), nNodi_(nNodi) {}
+
+void LettoreRisultati::leggiTesta(project::DatiProgetto& dati) {
+    const auto titoli = dati.titoli;
+    project::leggiDati(file_, dati);
+    dati.titoli = titoli;
+}
+
+void LettoreRisultati::leggiFase(RisultatiFase& risultati) {
+    const std::string atteso = "i nomi delle colonne di una fase";
+    if (!file_.riga(atteso).starts_with(colonne[0].nome)) file_.rifiuta("attesi " + atteso);
+    for (int i = 1; i <= nNodi_; ++i) {
+        const std::string riga = file_.riga("i tredici valori di un nodo");
+        if (std::count(riga.begin(), riga.end(), ',') + 1 != std::ssize(colonne))
+            file_.rifiuta("attesi i tredici valori del nodo " + std::to_string(i));
+        std::string_view resto = riga;
+        for (const auto& colonna : colonne) {
+            const auto valore = base::leggiNumero(resto);
+            if (!valore) file_.rifiuta("attesi i tredici valori del nodo " + std::to_string(i));
+            (risultati.*colonna.letta)[i] = *valore;
+            resto.remove_prefix(std::min(resto.find(',') + 1, resto.size()));
+        }
+    }
+}
+
+ChiusuraRisultati LettoreRisultati::leggiChiusura() {
+    ChiusuraRisultati chiusura;
+    for (const auto& [campo, nome] : chiuse) {
+        const std::string riga = file_.riga(nome);
+        const auto valore = base::leggiNumero(riga);
+        if (!valore || riga.find(',') != std::string::npos)
+            file_.rifiuta("atteso un numero: " + std::string(nome));
+        chiusura.*campo = *valore;
+    }
+    if (!file_.fine()) {
+        file_.riga("");
+        file_.rifiuta("attesa la fine del file");
+    }
+    return chiusura;
+}
+
+}  // namespace korven::analysis

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <string>
+
+#include "analysis/node_vector.hpp"
+#include "analysis/run_arrays.hpp"
+#include "base/text_lines.hpp"
+#include "project/project_data.hpp"
+
+// The result file: the project as its head, then for each stage a line of column names and a line a
+// node, then five closing numbers. It is all that passes from the analysis to the reports and
+// diagrams. No line carries a label and no mark tells a finished file from a broken one, so the
+// reader counts, and refuses a file whose lines are not what they must be.
+
+namespace korven::analysis {
+
+/// The table of one stage, in the order of its columns. Units and signs as in StatoSuolo.
+struct RisultatiFase {
+    VettoreNodi sigmaVv, Ehv, k0v, kav, kpv;
+    VettoreNodi sigmaVm, Ehm, k0m, kam, kpm;
+    VettoreNodi yNodo;        ///< [m]
+    VettoreNodi momentoNodo;  ///< [t m]
+    VettoreNodi taglioNodo;   ///< [t]; has no name in the column line
+};
+
+/// What stands behind the last stage.
+struct ChiusuraRisultati {
+    double mrd2 = 0;  ///< resistance with positive curvature [N mm]; 0 without a valid section
+    double mrd1 = 0;  ///< resistance with negative curvature [N mm]
+    double mMaxTotale = 0;  ///< largest signed moment of all stages [t m]
+    double mMinTotale = 0;  ///< smallest signed moment of all stages [t m]
+    double fsAzioni = 0;    ///< partial factor of the actions [-]
+};
+
+/// Text of a stage's table as it is appended to the file: the numbers of the last iteration, with
+/// at most seven decimals. The node that a fixed toe adds to the system is not written.
+[[nodiscard]] std::string testoFase(const ArraysCorsa& corsa);
+
+/// Text of the five closing lines.
+[[nodiscard]] std::string testoChiusura(const ChiusuraRisultati& chiusura);
+
+/// Reads a result file from its head to its end.
+class LettoreRisultati {
+ public:
+    /// @param nNodi  nodes of the mesh that wrote the file; the file does not tell
+    /// @throws base::ErroreFile if there is no such file
+    LettoreRisultati(const std::string& percorso, int nNodi);
+
+    /// Reads the head into `dati`; the six `titoli` of `dati` stay, since a report shows those in
+    /// memory.
+    void leggiTesta(project::DatiProgetto& dati);
+
+    /// Reads the table of the next stage.
+    /// @throws base::ErroreFile if the file ends or its lines are not those of a table of this mesh
+    void leggiFase(RisultatiFase& risultati);
+
+    /// Reads the closing numbers, behind which the file must end.
+    [[nodiscard]] ChiusuraRisultati leggiChiusura();
+
+ private:
+    base::LettoreRighe file_;
+    int nNodi_;
+};
+
+}  // namespace korven::analysis

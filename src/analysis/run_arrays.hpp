@@ -1,0 +1,51 @@
+#pragma once
+
+#include <vector>
+
+#include "analysis/node_vector.hpp"
+#include "analysis/progress.hpp"
+#include "analysis/soil_state.hpp"
+#include "analysis/system_matrix.hpp"
+#include "project/project_data.hpp"
+
+namespace korven::analysis {
+
+/// Restraints of the wall, from the project's codes.
+struct Vincoli {
+    bool cernieraTesta = false;  ///< hinge at the top
+    bool bloccoPiede = false;    ///< hinge or fixed toe
+    bool incastroPiede = false;  ///< fixed toe
+};
+
+[[nodiscard]] Vincoli vincoli(const project::DatiProgetto& dati);
+
+/// The arrays of one run. They start at 0 and live for one call of `CalcoloParatia`; what a stage
+/// does not set again, it takes over from the stage before: `yNodo`, `yTirante`, `momentoNodo`, and
+/// the cells of the matrix that nobody clears.
+struct ArraysCorsa {
+    int nSeg = 0;
+    int nNodi = 0;
+    double passoNodi = 0;  ///< [m]
+    Vincoli vincolo;
+
+    StatoSuolo suolo;
+    VettoreNodi EJNodo;       ///< bending stiffness [t m2]
+    VettoreNodi pNodo;        ///< constant part of the net pressure [t/m2]
+    VettoreNodi kNodo;        ///< coefficient of the displacement in it [t/m3]
+    VettoreNodi yNodo;        ///< displacement, positive towards the excavation [m]
+    VettoreNodi yPrec;        ///< displacement of the iteration before [m]
+    VettoreNodi taglioNodo;   ///< shear [t]
+    VettoreNodi momentoNodo;  ///< moment [t m]
+
+    MatriceSistema matriceA;
+    VettoreNodi termineB, soluzioneX;
+
+    int nTirantiAttivi = 0;
+    /// Displacement of each anchor's node when the anchor came into place [m].
+    base::Tabella<double, project::massimoTiranti> yTirante;
+
+    std::vector<StatiNodo> stati;         ///< of the iteration, element 0 is node 1
+    std::vector<TiranteInOpera> tiranti;  ///< of the iteration, element 0 is anchor 1
+};
+
+}  // namespace korven::analysis

@@ -1,0 +1,15 @@
+#pragma once
+
+namespace korven::analysis {
+
+/// True when the last run was refused, failed or was stopped. Cleared at the start of every run;
+/// the caller goes on to its viewer or preview only when it is false.
+extern bool erroreCalcolo;
+
+/// Set by the stop button, read at the end of every iteration; cleared before the first stage.
+extern bool stopCalcolo;
+
+/// Partial factor of the actions, set at the start of every run and stored with its results.
+extern double fsAzioni;
+
+}  // namespace korven::analysis

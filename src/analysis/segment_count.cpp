@@ -1,0 +1,26 @@
+#include "analysis/segment_count.hpp"
+
+#include <cmath>
+
+#include "base/files.hpp"
+#include "base/number_text.hpp"
+#include "base/program_folder.hpp"
+
+namespace korven::analysis {
+
+std::optional<std::string> contenutoNSeg;
+
+std::optional<int> leggiNSeg(bool incastroPiede) {
+    const std::string percorso = base::fileProgramma("nseg.txt");
+    if (!contenutoNSeg && !base::esisteFile(percorso)) return segmentiPredefiniti;
+    std::string testo = contenutoNSeg ? *contenutoNSeg : base::leggiFile(percorso);
+    testo.erase(0, testo.find_first_not_of(" \t\r\n"));
+    const auto scritto = base::leggiNumero(testo);
+    const int massimo = incastroPiede ? massimoSegmentiIncastro : massimoSegmenti;
+    if (!scritto || *scritto < minimoSegmenti || *scritto > massimo ||
+        *scritto != std::floor(*scritto))
+        return std::nullopt;
+    return static_cast<int>(*scritto);
+}
+
+}  // namespace korven::analysis

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+namespace korven::analysis {
+
+inline constexpr int segmentiPredefiniti = 50;
+inline constexpr int minimoSegmenti = 3;
+inline constexpr int massimoSegmenti = 249;          ///< 2 (n + 1) equations fill the matrix
+inline constexpr int massimoSegmentiIncastro = 248;  ///< a fixed toe adds a node
+
+/// Stands for the content of `nseg.txt` when it is given, for the rest of the process.
+extern std::optional<std::string> contenutoNSeg;
+
+/// Number of wall segments: the first item of `nseg.txt` in the program folder, 50 when there is no
+/// such file. It is no part of a project: the same project gives different meshes under different
+/// installations.
+/// @param incastroPiede  fixed toe, whose system is one node larger
+/// @return nothing if what stands there is no whole number from 3 to the capacity
+[[nodiscard]] std::optional<int> leggiNSeg(bool incastroPiede);
+
+}  // namespace korven::analysis

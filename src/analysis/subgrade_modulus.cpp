@@ -1,0 +1,56 @@
+#include "analysis/subgrade_modulus.hpp"
+
+#include <cmath>
+
+#include "analysis/pressure_coefficients.hpp"
+
+namespace korven::analysis {
+
+namespace {
+
+// Taken off the saturated weight below water: a fixed 1 t/m3, which the method keeps even where the
+// project gives water another weight.
+constexpr double alleggerimentoBowles = 1;
+
+ModuloNodo lancellotta(double coeffM, double sigmaRiposo) {
+    if (sigmaRiposo < 0) return {0, Indefinito::tensioneNegativa};
+    return {-coeffM * std::sqrt(sigmaRiposo)};
+}
+
+ModuloNodo lineare(const project::DatiProgetto& dati, const NodoKs& nodo) {
+    const int j = nodo.strato;
+    const double t = dati.profStrato[j - 1];
+    const double b = nodo.fondo;
+    const double sopra = dati.ksStrato[j - 1];
+    const double sotto = dati.ksStrato[j];
+    if (b - t == 0) return {-sotto, nodo.z == b ? Indefinito::no : Indefinito::spessoreNullo};
+    return {-(sopra + (sotto - sopra) * (nodo.z - t) / (b - t))};
+}
+
+}  // namespace
+
+FattoriPortanza fattoriPortanza(double phi) {
+    const double radice = std::tan(pi / 4 + phi / 2);
+    const double Nq = radice * radice * std::exp(pi * std::tan(phi));
+    return {Nq, (Nq - 1) / std::tan(phi), 1.5 * (Nq - 1) * std::tan(phi)};
+}
+
+double moduloBowles(double c, double G, double sigmaEfficace, double phi) {
+    const auto [Nq, Nc, Ngamma] = fattoriPortanza(phi);
+    return -40 * (c * Nc + G * Ngamma + sigmaEfficace * Nq);
+}
+
+ModuloNodo moduloReazione(const project::DatiProgetto& dati, const NodoKs& nodo) {
+    const int j = nodo.strato;
+    if (dati.metodoKs == 1) {
+        const double G =
+            nodo.falda > nodo.z ? dati.gammaN[j] : dati.gammaSat[j] - alleggerimentoBowles;
+        return {moduloBowles(dati.coesione[j], G, nodo.sigmaEfficace, nodo.phi)};
+    }
+    if (dati.metodoKs == 2) return lancellotta(dati.coeffM, nodo.sigmaRiposo);
+    if (dati.metodoKs == 3) return {-dati.ksStrato[j]};
+    if (dati.metodoKs == 4) return lineare(dati, nodo);
+    return {};
+}
+
+}  // namespace korven::analysis

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "analysis/undefined_cause.hpp"
+#include "project/project_data.hpp"
+
+// The modulus of the soil spring at a node [t/m3]. It is stored negative: a displacement towards
+// the excavation lowers the pressure of the retained side and makes that of the excavated side more
+// negative. The user types ksStrato as a positive number.
+
+namespace korven::analysis {
+
+/// A modulus [t/m3, negative], or why it has no value.
+struct ModuloNodo {
+    double Eh = 0;
+    Indefinito motivo = Indefinito::no;
+};
+
+/// What a method needs to know of a node on one side.
+struct NodoKs {
+    int strato = 0;            ///< the layer whose values count
+    double z = 0;              ///< depth [m]
+    double phi = 0;            ///< friction angle [rad]
+    double falda = 0;          ///< water table of this side [m]
+    double sigmaEfficace = 0;  ///< effective vertical stress [t/m2]
+    double sigmaRiposo = 0;    ///< at-rest coefficient times vertical stress [t/m2], positive
+    double fondo = 0;          ///< bottom of the layer for the linear method [m]
+};
+
+/// Bearing-capacity factors of Bowles' ks.
+struct FattoriPortanza {
+    double Nq, Nc, Ngamma;
+};
+
+///     Nq = tan^2(pi/4 + phi/2) exp(pi tan phi),  Nc = (Nq - 1) / tan phi,
+///     Ngamma = 1.5 (Nq - 1) tan phi
+///
+/// @param phi  friction angle [rad], not 0
+/// Source: Bowles, Foundation Analysis and Design (Hansen's factors).
+[[nodiscard]] FattoriPortanza fattoriPortanza(double phi);
+
+///     Eh = -40 (c Nc + G Ngamma + sigma' Nq)
+///
+/// the sum exactly as written: no half and no width enter the G term.
+/// @param c  cohesion [t/m2]
+/// @param G  unit weight [t/m3]: natural above water, saturated less 1 below
+/// Source: Bowles, Foundation Analysis and Design.
+[[nodiscard]] double moduloBowles(double c, double G, double sigmaEfficace, double phi);
+
+/// Modulus by `metodoKs`: 1 Bowles, 2 Lancellotta, -m sqrt(k0 sigma), 3 the layer's own ks, 4
+/// linear from the ks of the layer above, at the top, to the layer's own at the bottom (0 at the
+/// surface). Any other code gives 0. At the very depth of a layer of no thickness the linear method
+/// takes the layer's own value. Source of method 2: Lancellotta, Geotechnical Engineering.
+[[nodiscard]] ModuloNodo moduloReazione(const project::DatiProgetto& dati, const NodoKs& nodo);
+
+}  // namespace korven::analysis

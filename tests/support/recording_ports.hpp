@@ -1,0 +1,63 @@
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "analysis/calcolo_paratia.hpp"
+#include "base/dialogo.hpp"
+
+namespace korven::test {
+
+/// Writes down what it is told and answers questions from a script.
+class DialogoFinto : public base::Dialogo {
+ public:
+    struct Detto {
+        std::string testo, titolo;
+        base::Icona icona;
+    };
+
+    void messaggio(std::string_view testo, std::string_view titolo, base::Icona icona) override {
+        messaggi.push_back({std::string(testo), std::string(titolo), icona});
+    }
+    base::Risposta domanda(std::string_view testo, std::string_view titolo, base::Pulsanti,
+                           base::Icona icona) override {
+        domande.push_back({std::string(testo), std::string(titolo), icona});
+        if (risposte.empty()) return base::Risposta::annulla;
+        const auto risposta = risposte.front();
+        risposte.pop_front();
+        return risposta;
+    }
+    void puntatore(base::Puntatore forma) override { puntatori.push_back(forma); }
+
+    std::vector<Detto> messaggi, domande;
+    std::deque<base::Risposta> risposte;
+    std::vector<base::Puntatore> puntatori;
+};
+
+/// Counts what a run reports and may act at each iteration.
+class AvanzamentoFinto : public analysis::Avanzamento {
+ public:
+    void apri() override { ++aperture; }
+    void iterazione(const analysis::StatoIterazione& stato) override {
+        ++iterazioni;
+        if (adOgniIterazione) adOgniIterazione(stato);
+    }
+    void chiudi() override { ++chiusure; }
+
+    int aperture = 0, chiusure = 0, iterazioni = 0;
+    std::function<void(const analysis::StatoIterazione&)> adOgniIterazione;
+};
+
+/// Counts the outputs asked for.
+class UscitaFinta : public analysis::UscitaCalcolo {
+ public:
+    void scriviRelazione() override { ++relazioni; }
+    void disegnaDiagramma(int modoUscita) override { diagrammi.push_back(modoUscita); }
+
+    int relazioni = 0;
+    std::vector<int> diagrammi;
+};
+
+}  // namespace korven::test

@@ -1,0 +1,70 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "analysis/result_file.hpp"
+#include "analysis/run_flags.hpp"
+#include "analysis/segment_count.hpp"
+#include "base/file_names.hpp"
+#include "base/files.hpp"
+#include "support/recording_ports.hpp"
+#include "support/temporary_folder.hpp"
+
+namespace korven::test {
+
+/// A run from the program-wide project to its result file, in a folder of its own. Restores the
+/// program-wide state at its end.
+class Banco {
+ public:
+    explicit Banco(const project::DatiProgetto& dati, int nSeg = 50) {
+        project::Progetto = dati;
+        project::fileCorrente = progetto();
+        segmenti(nSeg);
+    }
+    Banco(const Banco&) = delete;
+    Banco& operator=(const Banco&) = delete;
+    ~Banco() {
+        project::azzeraProgetto();
+        project::fileCorrente.clear();
+        analysis::contenutoNSeg.reset();
+    }
+
+    [[nodiscard]] std::string progetto() const { return cartella / "muro.kvd"; }
+    [[nodiscard]] std::string risultati() const { return cartella / "muro.OUT"; }
+    [[nodiscard]] bool haRisultati() const { return base::esisteFile(risultati()); }
+
+    void segmenti(int nSeg) {
+        nNodi_ = nSeg + 1;
+        analysis::contenutoNSeg = std::to_string(nSeg);
+    }
+
+    void calcola(int modoUscita = 0) {
+        analysis::CalcoloParatia(modoUscita, {dialogo, avanzamento, uscita});
+    }
+
+    /// The stage tables of the result file, element 0 is stage 1.
+    std::vector<analysis::RisultatiFase> leggi() {
+        analysis::LettoreRisultati file(risultati(), nNodi_);
+        testa = {};
+        file.leggiTesta(testa);
+        std::vector<analysis::RisultatiFase> fasi(static_cast<std::size_t>(testa.nFasi));
+        for (auto& fase : fasi) file.leggiFase(fase);
+        chiusura = file.leggiChiusura();
+        return fasi;
+    }
+
+    CartellaProvvisoria cartella;
+    DialogoFinto dialogo;
+    AvanzamentoFinto avanzamento;
+    UscitaFinta uscita;
+    project::DatiProgetto testa;
+    analysis::ChiusuraRisultati chiusura;
+
+ private:
+    int nNodi_ = 0;
+};
+
+}  // namespace korven::test
