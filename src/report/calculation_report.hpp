@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string>
+
+#include "report/report_data.hpp"
+
+namespace korven::report {
+
+/// The whole calculation report in mark-up, UTF-8, lines ended by CR LF.
+[[nodiscard]] std::string testoRelazione(const DatiRelazione& dati);
+
+/// Writes the report of the result file that `fileCorrente` names, beside it, under the name that
+/// the first point of the path gives. Everything is read back from that file; `Progetto` is left as
+/// a reading of it leaves it, so that after Rankine or Bell the report says Coulomb.
+/// @return the path of the mark-up file
+/// @throws base::ErroreFile if the results can't be read or the report can't be written
+std::string scriviRelazione();
+
+}  // namespace korven::report

@@ -1,0 +1,40 @@
+#include "base/translated_texts.hpp"
+#include "report/report_sections.hpp"
+
+namespace korven::report {
+
+namespace {
+
+void fase(const DatiRelazione& dati, int s, RigheRelazione& righe) {
+    righe.riga(base::traduttore("RISULTATI FASE") + ' ' + std::to_string(s));
+    righe.riga("#STARTTABLE");
+    righe.intestazione({"Profondità [m]", "Spostamento [cm]", "Momento [kN m]"});
+    const auto& risultati = dati.fasi[static_cast<std::size_t>(s - 1)];
+    for (int i = 1; i <= dati.nNodi; ++i)
+        righe.valori(
+            {(i - 1) * dati.passo, risultati.yNodo[i] * 100, risultati.momentoNodo[i] * 10});
+    righe.riga("#ENDTABLE");
+    righe.vuota();
+}
+
+void tiranti(const DatiRelazione& dati, RigheRelazione& righe) {
+    const auto inOpera = static_cast<int>(dati.progetto.tirantiFase[dati.progetto.nFasi]);
+    if (inOpera <= 0) return;
+    righe.titolo("MASSIME TENSIONI APPLICATE AI TIRANTI");
+    righe.vuota();
+    righe.riga("#STARTTABLE");
+    righe.intestazione({"Prof. tirante [m]", "Tensione max. [kN]"});
+    for (int j = 1; j <= inOpera; ++j)
+        righe.valori({dati.progetto.profTirante[j], dati.tiroTirante[j] * 10});
+    righe.riga("#ENDTABLE");
+    righe.vuota();
+}
+
+}  // namespace
+
+void sezioneRisultati(const DatiRelazione& dati, RigheRelazione& righe) {
+    for (int s = 1; s <= dati.progetto.nFasi; ++s) fase(dati, s, righe);
+    tiranti(dati, righe);
+}
+
+}  // namespace korven::report

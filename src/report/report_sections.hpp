@@ -1,0 +1,23 @@
+#pragma once
+
+#include "report/report_data.hpp"
+#include "report/report_lines.hpp"
+
+// The sections of the calculation report, in its order. Values are shown in kN, m, cm of
+// displacement and mm of section, though the data hold tonnes, metres and centimetres.
+
+namespace korven::report {
+
+/// Opening directives, title and the project's own heading lines that are not blank.
+void sezioneApertura(const project::DatiProgetto& progetto, RigheRelazione& righe);
+
+/// Soil layers, wall parameters, anchors and stages.
+void sezioneDati(const project::DatiProgetto& progetto, RigheRelazione& righe);
+
+/// A table of displacements and moments for each stage, then the anchor forces of the last one.
+void sezioneRisultati(const DatiRelazione& dati, RigheRelazione& righe);
+
+/// The structural section with its bending and shear checks; nothing unless the section is defined.
+void sezioneStrutturale(const DatiRelazione& dati, RigheRelazione& righe);
+
+}  // namespace korven::report

@@ -1,0 +1,152 @@
+#include "report/report_sections.hpp"
+#include "structure/section_type.hpp"
+#include "structure/section_validity.hpp"
+#include "structure/shear_check.hpp"
+
+namespace korven::report {
+
+namespace {
+
+using project::Sezione;
+using structure::Lato;
+using structure::TipoSezione;
+
+void conLista(std::string_view titolo, const std::vector<Voce>& voci, RigheRelazione& righe) {
+    righe.titolo(titolo);
+    righe.vuota();
+    righe.lista(voci);
+    righe.vuota();
+}
+
+void faccia(std::string_view titolo, double diametro, double interasse, double copriferro,
+            RigheRelazione& righe) {
+    conLista(titolo,
+             {{"Diametro armature [mm]", diametro * 10},
+              {"Interasse armature [mm]", interasse * 10},
+              {"Copriferro [mm]", copriferro * 10}},
+             righe);
+}
+
+void diaframma(const Sezione& s, RigheRelazione& righe) {
+    righe.titolo("CALCOLO STRUTTURALE DIAFRAMMA");
+    if (facciaCompleta(s, Lato::monte))
+        faccia("ARMATURA LATO MONTE", s.diametroMonte, s.interasseMonte, s.copriferroMonte, righe);
+    if (facciaCompleta(s, Lato::valle))
+        faccia("ARMATURA LATO VALLE", s.diametroValle, s.interasseValle, s.copriferroValle, righe);
+}
+
+void pali(const Sezione& s, RigheRelazione& righe) {
+    conLista("CALCOLO STRUTTURALE PALIFICATA",
+             {{"Diametro esterno [mm]", s.paliDiamEst * 10},
+              {"Diametro interno [mm]", s.paliDiamInt * 10},
+              {"Interasse armature [mm]", s.paliInterasse * 10}},
+             righe);
+}
+
+void palancola(const Sezione& s, RigheRelazione& righe) {
+    conLista("CALCOLO STRUTTURALE PALANCOLA",
+             {{"Larghezza totale elemento [mm]", (s.palancolaBase + 2 * s.palancolaLargAla) * 10},
+              {"Larghezza ala [mm]", s.palancolaLargAla * 10},
+              {"Altezza ala [mm]", s.palancolaAltAla * 10},
+              {"Spessore palancola [mm]", s.palancolaSpessore * 10},
+              {"Spessore ala [mm]", s.palancolaSpessAla * 10}},
+             righe);
+}
+
+// The bar count goes through the factor of the lengths and shows ten times the number that
+// calculates.
+void paliArmati(const Sezione& s, RigheRelazione& righe) {
+    const bool staffe = structure::staffePresenti(s);
+    conLista("CALCOLO STRUTTURALE PALI ARMATI",
+             {{"Diametro pali [mm]", s.armDiamPalo * 10},
+              {"Diametro armature longitudinali [mm]", s.armDiamLong * 10},
+              {"Numero armature logitudinali [-]", s.armNumLong * 10},
+              {"Copriferro armature logitudinali [mm]", s.armCopriferro * 10},
+              {"Diametro staffe [mm]", s.armDiamStaffe * 10, staffe},
+              {"Passo staffe [mm]", s.armPassoStaffe * 10, staffe}},
+             righe);
+}
+
+void descrizione(const Sezione& s, RigheRelazione& righe) {
+    switch (structure::tipoSezione(s)) {
+        case TipoSezione::diaframma:
+            return diaframma(s, righe);
+        case TipoSezione::pali:
+            return pali(s, righe);
+        case TipoSezione::palancola:
+            return palancola(s, righe);
+        case TipoSezione::paliArmati:
+            return paliArmati(s, righe);
+        case TipoSezione::nessuno:
+            return;
+    }
+}
+
+void materiali(const Sezione& s, RigheRelazione& righe) {
+    const bool calcestruzzo = structure::tipoSezione(s) != TipoSezione::palancola;
+    conLista("CARATTERISTICHE DEI MATERIALI",
+             {{"Modulo elastico acciaio [N/mm²]", s.modEacciaio},
+              {"Modulo elastico CLS [N/mm²]", s.modEcls, calcestruzzo},
+              {"Resistenza limite acciaio Fyk [N/mm²]", s.fyk},
+              {"Resistenza limite CLS Fck [N/mm²]", s.fck, calcestruzzo}},
+             righe);
+}
+
+// N mm to t m.
+constexpr double unMomento = 10000000;
+
+// A positive moment stretches the excavated side, which is the bending pass of negative curvature:
+// hence the sign and the crossing of the two resistances. Strict comparisons: a moment that just
+// equals its resistance is not verified.
+void flessione(const analysis::ChiusuraRisultati& chiusura, RigheRelazione& righe) {
+    const double mrPos = -chiusura.mrd1 / unMomento;
+    const double mrNeg = -chiusura.mrd2 / unMomento;
+    const double fs = chiusura.fsAzioni;
+    const double mMax = chiusura.mMaxTotale;
+    const double mMin = chiusura.mMinTotale;
+    const bool negativo = mMin < 0;
+    conLista("VERIFICA DEI MOMENTI FLETTENTI",
+             {{"Momento resistente di calcolo (pos.) [kN m]", mrPos * 10},
+              {"Momento resistente di calcolo (neg.) [kN m]", mrNeg * 10, negativo},
+              {"Momento massimo applicato (pos) [kN m]", mMax * 10},
+              {"Momento massimo applicato (neg) [kN m]", mMin * 10, negativo},
+              {"F.S. parziale delle azioni [-]", fs},
+              {"Momento massimo di calcolo applicato (pos) [kN m]", fs * mMax * 10},
+              {"Momento massimo di calcolo applicato (neg) [kN m]", fs * mMin * 10, negativo}},
+             righe);
+    righe.titolo(mrPos > fs * mMax ? "Condizioni di sicurezza verificate (momento positivo)"
+                                   : "CONDIZIONI DI SICUREZZA NON VERIFICATE (momento positivo)");
+    if (negativo)
+        righe.titolo(mrNeg < fs * mMin
+                         ? "Condizioni di sicurezza verificate (momento negativo)"
+                         : "CONDIZIONI DI SICUREZZA NON VERIFICATE (momento negativo)");
+}
+
+// The axial force of the project does not reach this check, though the bending check uses it.
+void taglio(const Sezione& s, double Vmax, RigheRelazione& righe) {
+    const auto confronto =
+        structure::confrontaTaglio(structure::verificaTaglio(s, 0), s.armInterasse, Vmax);
+    righe.vuota();
+    righe.titolo("VERIFICA AL TAGLIO");
+    righe.lista({{"Diametro staffe [mm]", s.armDiamStaffe * 10},
+                 {"Passo staffe [mm]", s.armPassoStaffe * 10},
+                 {"Capacità portante bielle CLS - Vrd2 [kN]", confronto.Vrd2},
+                 {"Capacità portante armatura d'anima - Vrd3 [kN]", confronto.Vrd3},
+                 {"Taglio massimo agente sulla struttura [kN]", confronto.taglioMassimo},
+                 {"Coeff. di sicurezza parziale [-]", confronto.fsAzioni},
+                 {"Taglio massimo di calcolo - Vsd [kN]", confronto.Vsd}});
+    for (const auto rottura : structure::righeRotturaTaglio(confronto)) righe.titolo(rottura);
+}
+
+}  // namespace
+
+void sezioneStrutturale(const DatiRelazione& dati, RigheRelazione& righe) {
+    const Sezione& s = dati.progetto.sezione;
+    if (!structure::sezioneDefinita(s)) return;
+    descrizione(s, righe);
+    materiali(s, righe);
+    flessione(dati.chiusura, righe);
+    if (structure::staffePresenti(s)) taglio(s, dati.Vmax, righe);
+}
+
+}  // namespace korven::report
