@@ -1,0 +1,45 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "analysis/progress.hpp"
+#include "base/dialogo.hpp"
+
+namespace korven::batch {
+
+/// Tells messages on standard error and answers the one question of a run as the command line said.
+class DialogoConsole : public base::Dialogo {
+ public:
+    explicit DialogoConsole(bool ricalcolaEJ) : ricalcolaEJ_(ricalcolaEJ) {}
+
+    void messaggio(std::string_view testo, std::string_view titolo, base::Icona icona) override;
+    base::Risposta domanda(std::string_view testo, std::string_view titolo, base::Pulsanti pulsanti,
+                           base::Icona icona) override;
+    void puntatore(base::Puntatore) override {}
+
+    /// All messages shown so far.
+    [[nodiscard]] const std::vector<std::string>& messaggi() const { return messaggi_; }
+
+ private:
+    bool ricalcolaEJ_;
+    std::vector<std::string> messaggi_;
+};
+
+/// One line a stage on standard error: redrawn in place on a terminal, written once the stage has
+/// come to rest elsewhere.
+class AvanzamentoConsole : public analysis::Avanzamento {
+ public:
+    explicit AvanzamentoConsole(bool mostra);
+
+    void apri() override {}
+    void iterazione(const analysis::StatoIterazione& stato) override;
+    void chiudi() override;
+
+ private:
+    bool mostra_;
+    bool terminale_;
+    bool rigaAperta_ = false;
+};
+
+}  // namespace korven::batch

@@ -1,0 +1,134 @@
+#include "batch/options.hpp"
+
+#include <CLI/CLI.hpp>
+#include <iostream>
+#include <map>
+
+#include "base/translated_texts.hpp"
+
+namespace korven::batch {
+
+namespace {
+
+using base::traduttore;
+
+const std::map<std::string, double> metodi = {{"coulomb", 1}, {"rankine", 2}, {"bell", 3}};
+const std::map<std::string, bool> risposteEJ = {{"mantieni", false}, {"ricalcola", true}};
+
+std::string chiavi(const auto& tabella) {
+    std::string testo;
+    for (const auto& [chiave, valore] : tabella) testo += (testo.empty() ? "" : "|") + chiave;
+    return testo;
+}
+
+// The options that every command takes.
+void comuni(CLI::App& comando, Opzioni& o) {
+    comando.set_help_flag("-h,--help", traduttore("mostra questo aiuto"));
+    comando.add_option("progetto", o.progetto, traduttore("file di progetto"))
+        ->type_name("PROGETTO.kvd")
+        ->required();
+    comando
+        .add_option("--uscita", o.uscita,
+                    traduttore("scrive i risultati in questa cartella, non accanto al progetto"))
+        ->type_name("DIR");
+    comando
+        .add_option_function<std::string>(
+            "--metodo-spinte", [&o](const std::string& nome) { o.metodoSpinte = metodi.at(nome); },
+            traduttore("metodo delle spinte (un progetto si riapre sempre con Coulomb)"))
+        ->type_name(chiavi(metodi))
+        ->check(CLI::IsMember(metodi));
+    comando.add_option("--nseg", o.nseg, traduttore("numero di segmenti, al posto di nseg.txt"))
+        ->type_name("N");
+    comando.add_option("--cartella", o.cartella, traduttore("cartella del programma"))
+        ->type_name("DIR")
+        ->check(CLI::ExistingDirectory);
+    comando.add_option("--lingua", o.lingua, traduttore("lingua dei testi"))
+        ->type_name("ita|deu|fra|esp|eng|por")
+        ->check(CLI::IsMember({"ita", "deu", "fra", "esp", "eng", "por"}));
+    comando.add_flag("--json", o.json,
+                     traduttore("scrive l'esito in formato JSON sull'uscita normale"));
+    comando.add_flag("--silenzioso", o.silenzioso,
+                     traduttore("non mostra l'avanzamento né la tabella dei risultati"));
+}
+
+// The options of the commands that run the analysis.
+void diCalcolo(CLI::App& comando, Opzioni& o) {
+    comando
+        .add_option_function<std::string>(
+            "--ej", [&o](const std::string& nome) { o.ricalcolaEJ = risposteEJ.at(nome); },
+            traduttore("rigidezza EJ scritta nel progetto o ricalcolata dalla sezione"))
+        ->type_name(chiavi(risposteEJ))
+        ->check(CLI::IsMember(risposteEJ));
+    comando
+        .add_option("--max-iterazioni", o.maxIterazioni,
+                    traduttore("ferma una fase che non converge; 0 per nessun limite"))
+        ->type_name("N")
+        ->check(CLI::NonNegativeNumber)
+        ->capture_default_str();
+}
+
+std::string spiegazione(const CLI::ParseError& errore) {
+    const std::string nome = errore.get_name();
+    const std::map<std::string, std::string> parole = {
+        {"RequiredError", "manca un argomento"},
+        {"ExtrasError", "argomento sconosciuto"},
+        {"ConversionError", "valore non ammesso"},
+        {"ValidationError", "valore non ammesso"},
+        {"ArgumentMismatch", "manca il valore di un'opzione"},
+    };
+    const auto trovata = parole.find(nome);
+    return (trovata == parole.end() ? "" : traduttore(trovata->second) + ": ") + errore.what();
+}
+
+}  // namespace
+
+EsitoLettura leggiOpzioni(int argc, const char* const* argv) {
+    Opzioni o;
+    CLI::App app("KORVEN 32 - " + traduttore("Dimensionamento di Paratie e Diaframmi"),
+                 "korven32c");
+    app.set_help_flag("-h,--help", traduttore("mostra questo aiuto"));
+    app.set_version_flag("--versione", "KORVEN 32 " KORVEN_VERSION,
+                         traduttore("mostra la versione"));
+    app.require_subcommand(1);
+
+    auto* calcola = app.add_subcommand(
+        "calcola", traduttore("esegue il calcolo per fasi e mostra una riga per fase"));
+    comuni(*calcola, o);
+    diCalcolo(*calcola, o);
+    calcola->add_flag("--traccia", o.traccia,
+                      traduttore("racconta i cambi di stato delle fasi con più di 20 iterazioni"));
+
+    auto* relazione = app.add_subcommand(
+        "relazione", traduttore("esegue il calcolo e scrive la relazione (TAB)"));
+    comuni(*relazione, o);
+    diCalcolo(*relazione, o);
+    relazione->add_flag("--txt", o.testo, traduttore("scrive anche il testo semplice"));
+
+    auto* verifica = app.add_subcommand(
+        "verifica", traduttore("dice che cosa manca o è strano nel progetto, senza calcolare"));
+    comuni(*verifica, o);
+
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::Success& chiesto) {  // help and version
+        return {std::nullopt, app.exit(chiesto)};
+    } catch (const CLI::ParseError& errore) {
+        std::cerr << "korven32c: " << spiegazione(errore) << "\n"
+                  << traduttore("Per l'aiuto") << ": korven32c --help\n";
+        return {std::nullopt, 2};
+    }
+    if (relazione->parsed()) o.comando = Comando::relazione;
+    if (verifica->parsed()) o.comando = Comando::verifica;
+    return {o, 0};
+}
+
+std::string valoreAnticipato(int argc, const char* const* argv, const std::string& nome) {
+    for (int i = 1; i < argc; ++i) {
+        const std::string argomento = argv[i];
+        if (argomento == nome && i + 1 < argc) return argv[i + 1];
+        if (argomento.starts_with(nome + "=")) return argomento.substr(nome.size() + 1);
+    }
+    return {};
+}
+
+}  // namespace korven::batch

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "commands/project_commands.hpp"
+#include "commands/project_review.hpp"
+#include "commands/run_control.hpp"
+
+namespace korven::batch {
+
+/// What a command has to tell, whether as text or as JSON.
+struct Esito {
+    std::string comando;
+    std::string progetto;
+    int codice = 0;                     ///< exit code
+    std::vector<std::string> messaggi;  ///< why it was refused, or went wrong
+    std::vector<commands::Rilievo> rilievi;
+    std::optional<commands::EsitoCalcolo> calcolo;
+    bool giaAggiornato = false;  ///< the result file was up to date already
+    std::vector<commands::ControlloCorsa::Fase> fasi;
+    std::vector<std::string> fileScritti;
+    std::string fileRelazione, fileTesto;
+};
+
+/// The table of a run, a line a stage, with the traces of slow stages behind it if `traccia`.
+[[nodiscard]] std::string tabella(const Esito& esito, bool traccia);
+
+/// What a review found, a line each.
+[[nodiscard]] std::string elenco(const Esito& esito);
+
+/// The outcome as a JSON document (docs/json.md).
+[[nodiscard]] std::string json(const Esito& esito);
+
+}  // namespace korven::batch

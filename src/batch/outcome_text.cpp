@@ -1,0 +1,93 @@
+#include <algorithm>
+
+#include "base/code_page.hpp"
+#include "base/number_text.hpp"
+#include "base/translated_texts.hpp"
+#include "batch/outcome.hpp"
+
+namespace korven::batch {
+
+namespace {
+
+using base::traduttore;
+
+// Right aligned, counted in characters.
+std::string colonna(const std::string& testo, std::size_t larghezza) {
+    const std::size_t lunghezza = base::numeroCaratteri(testo);
+    return std::string(larghezza > lunghezza ? larghezza - lunghezza : 0, ' ') + testo;
+}
+
+struct Colonna {
+    std::string titolo;
+    std::string (*cella)(const commands::EsitoFase&);
+};
+
+const std::vector<Colonna>& colonne() {
+    static const std::vector<Colonna> tutte = {
+        {traduttore("Scavo [m]"),
+         [](const commands::EsitoFase& f) { return base::formattaMaschera(f.profFase, "#.##"); }},
+        {traduttore("Spostamento max. [cm]"),
+         [](const commands::EsitoFase& f) {
+             return base::formattaMaschera(f.spostamentoMax * 100, "#.####");
+         }},
+        {traduttore("Momento max. [kN m]"),
+         [](const commands::EsitoFase& f) {
+             return base::formattaMaschera(f.momentoMax * 10, "#.##");
+         }},
+        {traduttore("Momento min. [kN m]"),
+         [](const commands::EsitoFase& f) {
+             return base::formattaMaschera(f.momentoMin * 10, "#.##");
+         }},
+    };
+    return tutte;
+}
+
+std::string iterazioni(const Esito& esito, int fase) {
+    for (const auto& corsa : esito.fasi)
+        if (corsa.fase == fase) return std::to_string(corsa.iterazioni);
+    return "-";  // computed by an earlier run
+}
+
+}  // namespace
+
+std::string tabella(const Esito& esito, bool traccia) {
+    const std::string fase = traduttore("Fase");
+    const std::string numeroIterazioni = traduttore("Iterazioni");
+    std::string testo = fase + "  " + numeroIterazioni;
+    for (const auto& c : colonne()) testo += "  " + c.titolo;
+    testo += '\n';
+    for (const auto& riga : esito.calcolo->fasi) {
+        testo += colonna(std::to_string(riga.fase), base::numeroCaratteri(fase)) + "  " +
+                 colonna(iterazioni(esito, riga.fase), base::numeroCaratteri(numeroIterazioni));
+        for (const auto& c : colonne())
+            testo += "  " + colonna(c.cella(riga), base::numeroCaratteri(c.titolo));
+        testo += '\n';
+    }
+    testo += (esito.giaAggiornato
+                  ? traduttore("Il file dei risultati era già aggiornato: nessun calcolo eseguito.")
+                  : traduttore("Calcolo eseguito.")) +
+             '\n';
+    if (!traccia) return testo;
+    for (const auto& corsa : esito.fasi) {
+        if (corsa.traccia.empty()) continue;
+        testo += fase + " " + std::to_string(corsa.fase) + ", " + std::to_string(corsa.iterazioni) +
+                 " " + traduttore("iterazioni") + ":\n";
+        for (const auto& riga : corsa.traccia) testo += "  " + riga + '\n';
+    }
+    return testo;
+}
+
+std::string elenco(const Esito& esito) {
+    std::string testo;
+    for (const auto& rilievo : esito.rilievi)
+        testo +=
+            (rilievo.impedisce ? traduttore("impedisce il calcolo") : traduttore("da vedere")) +
+            ": " + rilievo.testo + '\n';
+    return testo +
+           (commands::calcolabile(esito.rilievi)
+                ? traduttore("Il progetto può essere calcolato.")
+                : traduttore("Il progetto non può essere calcolato.")) +
+           '\n';
+}
+
+}  // namespace korven::batch

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "analysis/progress.hpp"
+
+namespace korven::commands {
+
+/// Follows the iteration of one stage and remembers which sides of which nodes changed their state,
+/// and which anchors dropped out or came back: what an engineer must know about a stage that finds
+/// no rest.
+class TracciaIterazioni {
+ public:
+    /// What one side of a node did.
+    struct CambioNodo {
+        int nodo = 0;
+        double profondita = 0;  ///< [m]
+        bool monte = true;
+        analysis::StatoLato da{}, a{};  ///< of the last change
+        int cambi = 0;
+        int ultimaIterazione = 0;
+    };
+    /// What an anchor did.
+    struct CambioTirante {
+        int tirante = 0;
+        int nodo = 0;
+        bool agisce = false;  ///< after the last change
+        int cambi = 0;
+        int ultimaIterazione = 0;
+    };
+
+    /// Takes one iteration; the first of a stage begins a new record.
+    void registra(const analysis::StatoIterazione& stato);
+
+    [[nodiscard]] int fase() const { return fase_; }
+    [[nodiscard]] int iterazioni() const { return iterazioni_; }
+
+    /// Changes whose last one came in iteration `da` or later, from the top of the wall down.
+    [[nodiscard]] std::vector<CambioNodo> nodi(int da = 0) const;
+    [[nodiscard]] std::vector<CambioTirante> tiranti(int da = 0) const;
+
+    /// The record in words, a line a node side and a line an anchor, translated; one line says so
+    /// if nothing changed.
+    [[nodiscard]] std::vector<std::string> righe(int da = 0) const;
+
+ private:
+    void confronta(const analysis::StatoIterazione& stato);
+
+    int fase_ = 0;
+    int iterazioni_ = 0;
+    std::vector<analysis::StatiNodo> stati_;
+    std::vector<analysis::TiranteInOpera> agenti_;
+    std::vector<CambioNodo> monte_, valle_;
+    std::vector<CambioTirante> tiranti_;
+};
+
+}  // namespace korven::commands
