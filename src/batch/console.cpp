@@ -4,11 +4,22 @@
 
 #include <iostream>
 
+#include "base/number_text.hpp"
+#include "base/translated_texts.hpp"
+
 namespace korven::batch {
 
 namespace {
 
 constexpr const char* cancellaRiga = "\r\x1b[K";
+
+// Short numbers: the line must fit a terminal. Displacement in m, moment in kN m.
+std::string rigaAvanzamento(const analysis::StatoIterazione& stato) {
+    return base::traduttore("fase") + "=" + std::to_string(stato.fase) +
+           "   iter.=" + std::to_string(stato.iterazione) +
+           "   Ymax=" + base::formattaDecimali(stato.yMax, 4) +
+           "   Mmax=" + base::formattaDecimali(10 * stato.mMax, 2);
+}
 
 }  // namespace
 
@@ -28,8 +39,7 @@ AvanzamentoConsole::AvanzamentoConsole(bool mostra)
 void AvanzamentoConsole::iterazione(const analysis::StatoIterazione& stato) {
     if (!mostra_ || (!terminale_ && !stato.convergente)) return;
     if (rigaAperta_) std::cerr << cancellaRiga;
-    std::cerr << analysis::didascaliaAvanzamento(stato.fase, stato.iterazione, stato.yMax,
-                                                 stato.mMax);
+    std::cerr << rigaAvanzamento(stato);
     rigaAperta_ = !stato.convergente;
     std::cerr << (rigaAperta_ ? "" : "\n") << std::flush;
 }

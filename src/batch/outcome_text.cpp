@@ -17,6 +17,13 @@ std::string colonna(const std::string& testo, std::size_t larghezza) {
     return std::string(larghezza > lunghezza ? larghezza - lunghezza : 0, ' ') + testo;
 }
 
+// A number with fixed decimals, half rounded up.
+std::string numero(double valore, std::string_view decimali) {
+    const std::string testo =
+        base::formattaMaschera(valore, std::string("############").append(decimali));
+    return std::string(base::senzaSpaziEsterni(testo));
+}
+
 struct Colonna {
     std::string titolo;
     std::string (*cella)(const commands::EsitoFase&);
@@ -25,19 +32,13 @@ struct Colonna {
 const std::vector<Colonna>& colonne() {
     static const std::vector<Colonna> tutte = {
         {traduttore("Scavo [m]"),
-         [](const commands::EsitoFase& f) { return base::formattaMaschera(f.profFase, "#.##"); }},
+         [](const commands::EsitoFase& f) { return numero(f.profFase, ".##"); }},
         {traduttore("Spostamento max. [cm]"),
-         [](const commands::EsitoFase& f) {
-             return base::formattaMaschera(f.spostamentoMax * 100, "#.####");
-         }},
+         [](const commands::EsitoFase& f) { return numero(f.spostamentoMax * 100, ".####"); }},
         {traduttore("Momento max. [kN m]"),
-         [](const commands::EsitoFase& f) {
-             return base::formattaMaschera(f.momentoMax * 10, "#.##");
-         }},
+         [](const commands::EsitoFase& f) { return numero(f.momentoMax * 10, ".##"); }},
         {traduttore("Momento min. [kN m]"),
-         [](const commands::EsitoFase& f) {
-             return base::formattaMaschera(f.momentoMin * 10, "#.##");
-         }},
+         [](const commands::EsitoFase& f) { return numero(f.momentoMin * 10, ".##"); }},
     };
     return tutte;
 }
