@@ -90,6 +90,12 @@ class FileInCorso {
     bool finito_ = false;
 };
 
+bool risultatiAggiornati() {
+    if (!base::esisteFile(fileCorrente)) return false;
+    auto file = base::LettoreRighe::apri(fileCorrente, traduttore(rimedioRisultati));
+    return !project::progettoDiverso(file, Progetto);
+}
+
 std::string messaggioRifiuto(int fase, const RifiutoSuolo& rifiuto) {
     return traduttore("Calcolo interrotto") + ": " + traduttore("fase") + " " +
            std::to_string(fase) + ", " + traduttore("profondità") + " " +
@@ -147,8 +153,7 @@ void CalcoloParatia(int modoUscita, const PorteCalcolo& porte) {
     const auto nSeg = leggiNSeg(vincoli(Progetto).incastroPiede);
     if (!nSeg) return avvisa(porte.dialogo, traduttore(messaggioNSeg));
 
-    const bool aggiornati = base::esisteFile(fileCorrente) && !project::progettoDiverso();
-    if (!aggiornati) calcolaFasi(*nSeg, MRd, porte);
+    if (!risultatiAggiornati()) calcolaFasi(*nSeg, MRd, porte);
     if (erroreCalcolo) return;
 
     if (modoUscita == 0)

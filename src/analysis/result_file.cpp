@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "base/number_text.hpp"
+#include "base/translated_texts.hpp"
 #include "project/project_file.hpp"
 
 namespace korven::analysis {
@@ -51,9 +52,6 @@ constexpr Chiusa chiuse[] = {
 };
 
 constexpr std::size_t zonaDiStampa = 14;
-constexpr std::string_view rimedio =
-    "il file dei risultati e' incompleto o e' stato scritto con un altro numero di segmenti "
-    "(nseg.txt): cancellarlo e ripetere il calcolo";
 
 std::string rigaColonne() {
     std::string riga;
@@ -87,7 +85,8 @@ std::string testoChiusura(const ChiusuraRisultati& chiusura) {
 }
 
 LettoreRisultati::LettoreRisultati(const std::string& percorso, int nNodi)
-    : file_(base::LettoreRighe::apri(percorso, std::string(rimedio))), nNodi_(nNodi) {}
+    : file_(base::LettoreRighe::apri(percorso, base::traduttore(rimedioRisultati))),
+      nNodi_(nNodi) {}
 
 void LettoreRisultati::leggiTesta(project::DatiProgetto& dati) {
     const auto titoli = dati.titoli;

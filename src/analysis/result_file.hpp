@@ -14,6 +14,11 @@
 
 namespace korven::analysis {
 
+/// What the user can do about a result file that is not what it must be, an Italian key.
+inline constexpr const char* rimedioRisultati =
+    "il file dei risultati è incompleto o è stato scritto con un altro numero di segmenti "
+    "(nseg.txt): cancellarlo e ripetere il calcolo";
+
 /// The table of one stage, in the order of its columns. Units and signs as in StatoSuolo.
 struct RisultatiFase {
     VettoreNodi sigmaVv, Ehv, k0v, kav, kpv;
