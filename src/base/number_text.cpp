@@ -42,7 +42,7 @@ std::size_t lunghezzaNumero(std::string_view testo) {
 bool troppoPiccolo(std::string_view numero) {
     const auto e = numero.find_first_of("eE");
     if (e != std::string_view::npos) return numero[e + 1] == '-';
-    return numero.find_first_not_of("0") == numero.find('.');
+    return numero.find_first_not_of('0') == numero.find('.');
 }
 
 }  // namespace
@@ -95,8 +95,9 @@ std::string formattaMaschera(double valore, std::string_view maschera) {
 std::string formattaDecimali(double valore, int decimali) {
     std::string testo = testoNudo(arrotondaDecimali(cifrePiuBrevi(valore), 4)) + "000000000000";
     if (testo.front() == '.') testo.insert(0, 1, '0');
-    const auto punto = static_cast<int>(testo.find('.'));
-    return testo.substr(0, static_cast<std::size_t>(punto + 1 + decimali));
+    const std::size_t finoAlPunto = testo.find('.') + 1;
+    return testo.substr(
+        0, decimali < 0 ? finoAlPunto - 1 : finoAlPunto + static_cast<std::size_t>(decimali));
 }
 
 std::string testoNumero(double valore) {

@@ -45,7 +45,7 @@ class Segnalatore {
 }  // namespace
 
 std::string traduci(const TabellaTesti& testi, int codice, std::string_view testo, Dialogo* prova) {
-    const std::string s(senzaSpaziEsterni(testo));
+    std::string s(senzaSpaziEsterni(testo));
     if (codice == colonnaItaliano || unitaDiMisura(s)) return s;
 
     const Segnalatore box(testi, codice, prova);
