@@ -11,6 +11,8 @@ namespace korven::analysis {
 
 namespace {
 
+using base::traduttore;
+
 struct Colonna {
     std::string_view nome;
     VettoreNodi RisultatiFase::*letta;
@@ -85,8 +87,7 @@ std::string testoChiusura(const ChiusuraRisultati& chiusura) {
 }
 
 LettoreRisultati::LettoreRisultati(const std::string& percorso, int nNodi)
-    : file_(base::LettoreRighe::apri(percorso, base::traduttore(rimedioRisultati))),
-      nNodi_(nNodi) {}
+    : file_(base::LettoreRighe::apri(percorso, traduttore(rimedioRisultati))), nNodi_(nNodi) {}
 
 void LettoreRisultati::leggiTesta(project::DatiProgetto& dati) {
     const auto titoli = dati.titoli;
@@ -95,34 +96,38 @@ void LettoreRisultati::leggiTesta(project::DatiProgetto& dati) {
 }
 
 void LettoreRisultati::leggiFase(RisultatiFase& risultati) {
-    const std::string atteso = "i nomi delle colonne di una fase";
-    if (!file_.riga(atteso).starts_with(colonne[0].nome)) file_.rifiuta("attesi " + atteso);
+    if (!file_.riga(traduttore("i nomi delle colonne di una fase")).starts_with(colonne[0].nome))
+        file_.rifiuta(traduttore("attesi i nomi delle colonne di una fase"));
+    const std::string atteso = traduttore("i tredici valori di un nodo");
     for (int i = 1; i <= nNodi_; ++i) {
-        const std::string riga = file_.riga("i tredici valori di un nodo");
-        if (std::count(riga.begin(), riga.end(), ',') + 1 != std::ssize(colonne))
-            file_.rifiuta("attesi i tredici valori del nodo " + std::to_string(i));
+        const std::string riga = file_.riga(atteso);
+        if (std::count(riga.begin(), riga.end(), ',') + 1 != std::ssize(colonne)) rifiutaNodo(i);
         std::string_view resto = riga;
         for (const auto& colonna : colonne) {
             const auto valore = base::leggiNumero(resto);
-            if (!valore) file_.rifiuta("attesi i tredici valori del nodo " + std::to_string(i));
+            if (!valore) rifiutaNodo(i);
             (risultati.*colonna.letta)[i] = *valore;
             resto.remove_prefix(std::min(resto.find(',') + 1, resto.size()));
         }
     }
 }
 
+void LettoreRisultati::rifiutaNodo(int i) const {
+    file_.rifiuta(traduttore("attesi i tredici valori del nodo") + " " + std::to_string(i));
+}
+
 ChiusuraRisultati LettoreRisultati::leggiChiusura() {
     ChiusuraRisultati chiusura;
     for (const auto& [campo, nome] : chiuse) {
-        const std::string riga = file_.riga(nome);
+        const std::string riga = file_.riga(traduttore(nome));
         const auto valore = base::leggiNumero(riga);
         if (!valore || riga.find(',') != std::string::npos)
-            file_.rifiuta("atteso un numero: " + std::string(nome));
+            file_.rifiuta(traduttore("atteso un numero") + ": " + traduttore(nome));
         chiusura.*campo = *valore;
     }
     if (!file_.fine()) {
         file_.riga("");
-        file_.rifiuta("attesa la fine del file");
+        file_.rifiuta(traduttore("attesa la fine del file"));
     }
     return chiusura;
 }

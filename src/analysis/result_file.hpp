@@ -63,6 +63,8 @@ class LettoreRisultati {
     [[nodiscard]] ChiusuraRisultati leggiChiusura();
 
  private:
+    [[noreturn]] void rifiutaNodo(int i) const;
+
     base::LettoreRighe file_;
     int nNodi_;
 };

@@ -11,13 +11,8 @@ class ErroreFile : public std::runtime_error {
  public:
     /// @param percorso  the file, as the user may find it [UTF-8]
     /// @param riga      line number from 1; 0 when the whole file is meant
-    /// @param atteso    what was expected there, or why the file can't be used [Italian, UTF-8]
-    ErroreFile(std::string percorso, long riga, std::string atteso)
-        : std::runtime_error(percorso + (riga > 0 ? ", riga " + std::to_string(riga) : "") + ": " +
-                             atteso),
-          percorso_(std::move(percorso)),
-          riga_(riga),
-          atteso_(std::move(atteso)) {}
+    /// @param atteso    what was expected there, or why the file can't be used [translated, UTF-8]
+    ErroreFile(std::string percorso, long riga, std::string atteso);
 
     [[nodiscard]] const std::string& percorso() const { return percorso_; }
     [[nodiscard]] long riga() const { return riga_; }

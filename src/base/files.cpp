@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "base/file_error.hpp"
+#include "base/translated_texts.hpp"
 
 // The standard library can't flush a file to the disk, so this file speaks to the system itself.
 
@@ -19,7 +20,7 @@ namespace {
 
 [[noreturn]] void fallito(const std::string& percorso, std::string_view cosa, int codice) {
     throw ErroreFile(percorso, 0,
-                     std::string(cosa) + " (" + std::generic_category().message(codice) + ")");
+                     traduttore(cosa) + " (" + std::generic_category().message(codice) + ")");
 }
 
 class Descrittore {

@@ -4,6 +4,7 @@
 #include "base/file_error.hpp"
 #include "base/files.hpp"
 #include "base/number_text.hpp"
+#include "base/translated_texts.hpp"
 
 namespace korven::base {
 
@@ -24,7 +25,7 @@ bool LettoreRighe::fine() const {
 std::string_view LettoreRighe::prossima(std::string_view atteso) {
     ++letta_;
     if (posizione_ >= contenuto_.size())
-        rifiuta("il file termina qui, atteso: " + std::string(atteso));
+        rifiuta(traduttore("il file termina qui, atteso") + ": " + std::string(atteso));
     std::string_view riga = std::string_view(contenuto_).substr(posizione_);
     const std::size_t fine = riga.find('\n');
     posizione_ += fine == std::string_view::npos ? riga.size() : fine + 1;
@@ -37,7 +38,7 @@ std::string LettoreRighe::riga(std::string_view atteso) { return daCp1252(prossi
 
 double LettoreRighe::numero(std::string_view atteso) {
     if (const auto valore = leggiNumero(prossima(atteso))) return *valore;
-    rifiuta("atteso un numero: " + std::string(atteso));
+    rifiuta(traduttore("atteso un numero") + ": " + std::string(atteso));
 }
 
 void LettoreRighe::rifiuta(std::string_view atteso) const {

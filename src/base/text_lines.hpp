@@ -10,7 +10,8 @@ namespace korven::base {
 class LettoreRighe {
  public:
     /// Reads the whole file.
-    /// @param rimedio  what the user can do about a broken file, added to every error; may be empty
+    /// @param rimedio  what the user can do about a broken file, translated, added to every error;
+    ///                 may be empty
     /// @throws ErroreFile if the file is missing, a folder or not readable
     [[nodiscard]] static LettoreRighe apri(const std::string& percorso, std::string rimedio = {});
 
@@ -21,7 +22,7 @@ class LettoreRighe {
     [[nodiscard]] bool fine() const;
 
     /// The next line whole, without its end.
-    /// @param atteso  what the line is to be, for the error
+    /// @param atteso  what the line is to be, for the error; translated
     /// @throws ErroreFile at the end of the file
     std::string riga(std::string_view atteso);
 
@@ -33,6 +34,7 @@ class LettoreRighe {
     [[nodiscard]] long numeroRiga() const { return letta_; }
 
     /// Raises an ErroreFile for the line last read.
+    /// @param atteso  what was expected there, translated
     [[noreturn]] void rifiuta(std::string_view atteso) const;
 
  private:

@@ -2,6 +2,7 @@
 
 #include <CLI/CLI.hpp>
 #include <iostream>
+#include <limits>
 #include <map>
 
 #include "base/translated_texts.hpp"
@@ -21,8 +22,24 @@ std::string chiavi(const auto& tabella) {
     return testo;
 }
 
+// A check would write its own name behind that of the value in the help.
+CLI::Validator senzaNome(const CLI::Validator& controllo) { return controllo.description(""); }
+
+// The words of the help itself.
+void intestazioni(CLI::App& app) {
+    const std::pair<const char*, const char*> parole[] = {{"Usage", "Uso"},
+                                                          {"OPTIONS", "opzioni"},
+                                                          {"SUBCOMMAND", "comando"},
+                                                          {"Positionals", "Argomenti"},
+                                                          {"REQUIRED", "obbligatorio"}};
+    for (const auto& [parola, chiave] : parole)
+        app.get_formatter()->label(parola, traduttore(chiave));
+    app.option_defaults()->group(traduttore("Opzioni"));
+}
+
 // The options that every command takes.
 void comuni(CLI::App& comando, Opzioni& o) {
+    comando.group(traduttore("Comandi"));
     comando.set_help_flag("-h,--help", traduttore("mostra questo aiuto"));
     comando.add_option("progetto", o.progetto, traduttore("file di progetto"))
         ->type_name("PROGETTO.kvd")
@@ -36,15 +53,15 @@ void comuni(CLI::App& comando, Opzioni& o) {
             "--metodo-spinte", [&o](const std::string& nome) { o.metodoSpinte = metodi.at(nome); },
             traduttore("metodo delle spinte (un progetto si riapre sempre con Coulomb)"))
         ->type_name(chiavi(metodi))
-        ->check(CLI::IsMember(metodi));
+        ->check(senzaNome(CLI::IsMember(metodi)));
     comando.add_option("--nseg", o.nseg, traduttore("numero di segmenti, al posto di nseg.txt"))
         ->type_name("N");
     comando.add_option("--cartella", o.cartella, traduttore("cartella del programma"))
         ->type_name("DIR")
-        ->check(CLI::ExistingDirectory);
+        ->check(senzaNome(CLI::ExistingDirectory));
     comando.add_option("--lingua", o.lingua, traduttore("lingua dei testi"))
         ->type_name("ita|deu|fra|esp|eng|por")
-        ->check(CLI::IsMember({"ita", "deu", "fra", "esp", "eng", "por"}));
+        ->check(senzaNome(CLI::IsMember({"ita", "deu", "fra", "esp", "eng", "por"})));
     comando.add_flag("--json", o.json,
                      traduttore("scrive l'esito in formato JSON sull'uscita normale"));
     comando.add_flag("--silenzioso", o.silenzioso,
@@ -58,12 +75,12 @@ void diCalcolo(CLI::App& comando, Opzioni& o) {
             "--ej", [&o](const std::string& nome) { o.ricalcolaEJ = risposteEJ.at(nome); },
             traduttore("rigidezza EJ scritta nel progetto o ricalcolata dalla sezione"))
         ->type_name(chiavi(risposteEJ))
-        ->check(CLI::IsMember(risposteEJ));
+        ->check(senzaNome(CLI::IsMember(risposteEJ)));
     comando
         .add_option("--max-iterazioni", o.maxIterazioni,
                     traduttore("ferma una fase che non converge; 0 per nessun limite"))
         ->type_name("N")
-        ->check(CLI::NonNegativeNumber)
+        ->check(senzaNome(CLI::Range(std::numeric_limits<int>::max())))
         ->capture_default_str();
 }
 
@@ -86,6 +103,7 @@ EsitoLettura leggiOpzioni(int argc, const char* const* argv) {
     Opzioni o;
     CLI::App app("KORVEN 32 - " + traduttore("Dimensionamento di Paratie e Diaframmi"),
                  "korven32c");
+    intestazioni(app);
     app.set_help_flag("-h,--help", traduttore("mostra questo aiuto"));
     app.set_version_flag("--versione", "KORVEN 32 " KORVEN_VERSION,
                          traduttore("mostra la versione"));

@@ -30,7 +30,7 @@ void creaCartella(const std::string& cartella) {
     std::error_code errore;
     fs::create_directories(cartella, errore);
     if (!fs::is_directory(cartella))
-        throw base::ErroreFile(cartella, 0, "impossibile creare la cartella");
+        throw base::ErroreFile(cartella, 0, base::traduttore("impossibile creare la cartella"));
 }
 
 EsitoFase estremi(int k, const project::DatiProgetto& dati, int nNodi,

@@ -5,7 +5,7 @@
 #include "project/project_data.hpp"
 
 // The fields of the project file in the order of its lines, each with the name by which an error
-// calls it. Reading, writing and comparing all walk these tables.
+// calls it, an Italian key. Reading, writing and comparing all walk these tables.
 
 namespace korven::project {
 

@@ -5,6 +5,7 @@
 #include "base/code_page.hpp"
 #include "base/files.hpp"
 #include "base/number_text.hpp"
+#include "base/translated_texts.hpp"
 #include "project/project_walk.hpp"
 
 namespace korven::project {
@@ -16,11 +17,11 @@ class Lettura {
     explicit Lettura(base::LettoreRighe& file) : file_(file) {}
 
     void conteggio(int& valore, int capacita, std::string_view nome) {
-        const std::string atteso =
-            std::string(nome) + ", un intero da 0 a " + std::to_string(capacita);
+        const std::string atteso = std::string(nome) + ", " + base::traduttore("un intero da 0 a") +
+                                   " " + std::to_string(capacita);
         const double letto = file_.numero(atteso);
         if (!(letto >= 0 && letto <= capacita) || letto != std::floor(letto))
-            file_.rifiuta("atteso un numero: " + atteso);
+            file_.rifiuta(base::traduttore("atteso un numero") + ": " + atteso);
         valore = static_cast<int>(letto);
     }
     void numero(double& valore, std::string_view nome) { valore = file_.numero(nome); }

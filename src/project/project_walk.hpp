@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "base/translated_texts.hpp"
 #include "project/project_fields.hpp"
 
 namespace korven::project {
@@ -10,9 +11,11 @@ namespace korven::project {
 ///
 ///     visita.conteggio(int&, capacity, name)   a row count
 ///     visita.numero(double&, name)             visita.bandiera(bool&, name)
-///     visita.metodoSpinte(double&, name)       the one number that is not always taken as it
-///     stands visita.descrizione(std::string&, name)   visita.titolo(std::string&, name)
+///     visita.metodoSpinte(double&, name)       the one number not always taken as it stands
+///     visita.descrizione(std::string&, name)   visita.titolo(std::string&, name)
 ///     visita.blocco() -> bool                  whether one of the later blocks is there
+///
+/// `name` is what an error calls the line, translated.
 ///
 /// `Dati` is DatiProgetto, const where the visitor changes nothing.
 template <class Visita, class Dati>
@@ -32,12 +35,12 @@ class Percorso {
         if (!visita_.blocco()) return;
         sezionePaliArmati();
         if (!visita_.blocco()) return;
-        visita_.numero(dati_.sforzoNormale, "sforzo normale");
+        visita_.numero(dati_.sforzoNormale, base::traduttore("sforzo normale"));
     }
 
  private:
     static std::string numerato(std::string_view nome, int riga) {
-        return std::string(nome) + ' ' + std::to_string(riga);
+        return base::traduttore(nome) + ' ' + std::to_string(riga);
     }
 
     template <class Tabella, std::size_t n>
@@ -48,11 +51,12 @@ class Percorso {
 
     template <std::size_t n>
     void sezione(const CampoScalare<Sezione> (&campi)[n]) {
-        for (const auto& campo : campi) visita_.numero(dati_.sezione.*campo.campo, campo.nome);
+        for (const auto& campo : campi)
+            visita_.numero(dati_.sezione.*campo.campo, base::traduttore(campo.nome));
     }
 
     void strati() {
-        visita_.conteggio(dati_.nStrati, massimoStrati, "numero degli strati");
+        visita_.conteggio(dati_.nStrati, massimoStrati, base::traduttore("numero degli strati"));
         for (int i = 1; i <= dati_.nStrati; ++i) {
             riga(campiStrato, i);
             visita_.descrizione(dati_.descrStrato[i], numerato("descrizione dello strato", i));
@@ -62,19 +66,19 @@ class Percorso {
     void paratia() {
         for (const auto& campo : campiParatia) {
             if (campo.campo == &DatiProgetto::metodoSpinte)
-                visita_.metodoSpinte(dati_.metodoSpinte, campo.nome);
+                visita_.metodoSpinte(dati_.metodoSpinte, base::traduttore(campo.nome));
             else
-                visita_.numero(dati_.*campo.campo, campo.nome);
+                visita_.numero(dati_.*campo.campo, base::traduttore(campo.nome));
         }
     }
 
     void tiranti() {
-        visita_.conteggio(dati_.nTiranti, massimoTiranti, "numero dei tiranti");
+        visita_.conteggio(dati_.nTiranti, massimoTiranti, base::traduttore("numero dei tiranti"));
         for (int i = 1; i <= dati_.nTiranti; ++i) riga(campiTirante, i);
     }
 
     void fasi() {
-        visita_.conteggio(dati_.nFasi, massimoFasi, "numero delle fasi");
+        visita_.conteggio(dati_.nFasi, massimoFasi, base::traduttore("numero delle fasi"));
         for (int i = 1; i <= dati_.nFasi; ++i) {
             visita_.numero(dati_.profFase[i], numerato("profondità della fase", i));
             visita_.numero(dati_.tirantiFase[i], numerato("numero dei tiranti della fase", i));
@@ -85,18 +89,19 @@ class Percorso {
 
     void sezioneBase() {
         sezione(campiDiaframma);
-        visita_.bandiera(dati_.sezione.tipoDiaframma, "tipo diaframma (0 o -1)");
-        visita_.bandiera(dati_.sezione.tipoPali, "tipo pali (0 o -1)");
+        visita_.bandiera(dati_.sezione.tipoDiaframma, base::traduttore("tipo diaframma (0 o -1)"));
+        visita_.bandiera(dati_.sezione.tipoPali, base::traduttore("tipo pali (0 o -1)"));
         sezione(campiPali);
     }
 
     void sezionePalancola() {
-        visita_.bandiera(dati_.sezione.tipoPalancola, "tipo palancola (0 o -1)");
+        visita_.bandiera(dati_.sezione.tipoPalancola, base::traduttore("tipo palancola (0 o -1)"));
         sezione(campiPalancola);
     }
 
     void sezionePaliArmati() {
-        visita_.bandiera(dati_.sezione.tipoPaliArmati, "tipo pali armati (0 o -1)");
+        visita_.bandiera(dati_.sezione.tipoPaliArmati,
+                         base::traduttore("tipo pali armati (0 o -1)"));
         sezione(campiPaliArmati);
     }
 

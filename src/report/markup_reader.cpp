@@ -6,6 +6,7 @@
 
 #include "base/code_page.hpp"
 #include "base/number_text.hpp"
+#include "base/translated_texts.hpp"
 #include "report/markup_line.hpp"
 #include "report/table_style.hpp"
 
@@ -166,12 +167,14 @@ void MarkupReader::content(std::string_view text) {
 
 void renderMarkup(base::LettoreRighe& file, RendererKind kind, MarkupReceiver& receiver) {
     MarkupReader reader(kind, receiver);
+    const std::string expected = base::traduttore("una riga della relazione");
     while (!file.fine()) {
-        const std::string text = file.riga("una riga della relazione");
+        const std::string text = file.riga(expected);
         try {
             reader.line(text);
         } catch (const base::ErroreIndice& error) {
-            file.rifiuta(std::string("attesa una tabella entro la capacità: ") + error.what());
+            file.rifiuta(base::traduttore("attesa una tabella entro la capacità") + ": " +
+                         error.what());
         }
     }
 }

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include "base/text_lines.hpp"
+#include "base/translated_texts.hpp"
+
 namespace korven::base {
 namespace {
 
@@ -15,6 +18,41 @@ TEST(ErroreFile, ReadsAsOneLineWithPathLineAndWhatWasExpected) {
 
 TEST(ErroreFile, NamesNoLineWhenTheWholeFileIsMeant) {
     EXPECT_STREQ(ErroreFile("a.txt", 0, "il file non esiste").what(), "a.txt: il file non esiste");
+}
+
+// The table of the program with two texts, in German, for the length of a test.
+class TestiTedeschi {
+ public:
+    TestiTedeschi() {
+        aggiungi("riga", "Zeile");
+        aggiungi("atteso un numero", "Zahl erwartet");
+        ordinaTesti(tabellaTesti);
+        impostaLingua(2);
+    }
+    TestiTedeschi(const TestiTedeschi&) = delete;
+    TestiTedeschi& operator=(const TestiTedeschi&) = delete;
+    ~TestiTedeschi() {
+        impostaLingua(1);
+        tabellaTesti.nTesti = 0;
+    }
+
+ private:
+    static void aggiungi(const char* italiano, const char* tedesco) {
+        auto& record = tabellaTesti.righe[++tabellaTesti.nTesti];
+        record.testo[1] = italiano;
+        record.testo[2] = tedesco;
+    }
+};
+
+TEST(ErroreFile, SpeaksTheLanguageOfTheProgram) {
+    const TestiTedeschi testi;
+    LettoreRighe file("muro.kvd", "abc\r\n");
+    try {
+        file.numero("Länge der Wand");
+        FAIL() << "a line without a number was taken";
+    } catch (const ErroreFile& errore) {
+        EXPECT_STREQ(errore.what(), "muro.kvd, Zeile 1: Zahl erwartet: Länge der Wand");
+    }
 }
 
 }  // namespace

@@ -1,0 +1,165 @@
+// Every text that the sources may show must stand in the table of texts. What reaches the
+// translation goes through tables, constants and functions, so this test does not follow it: it
+// takes each literal with a word in it for a text and knows by name those that are none.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <map>
+#include <set>
+
+#include "base/code_page.hpp"
+#include "base/files.hpp"
+#include "base/text_table.hpp"
+#include "tools/string_literals.hpp"
+#include "tools/text_source.hpp"
+
+namespace korven {
+namespace {
+
+namespace fs = std::filesystem;
+using Texts = std::vector<std::string>;
+
+constexpr const char* folders[] = {"base",   "project",  "structure", "analysis",
+                                   "report", "commands", "batch"};
+
+// Files whose literals are all none.
+const std::map<std::string, std::string> silentFiles = {
+    {"batch/outcome_json.cpp", "names of fields, the same in all languages"},
+    {"base/language.cpp", "tags, and errors from before a language is chosen"},
+    {"base/text_table.cpp", "errors of the table of texts itself"},
+    {"base/table.hpp", "an index beyond a table, which the translation may meet itself"},
+    {"base/decimal_digits.cpp", "an assertion"},
+    {"analysis/vector_lanes.hpp", "names of processors"},
+};
+
+// Names of files and of the system, symbols, what is typed on the command line.
+const std::map<std::string, Texts> noTexts = {
+    {"analysis/progress.cpp", {"iter.=", "Ymax=", "Mmax="}},
+    {"analysis/result_file.cpp",
+     {"sigmaVv", "Ehv", "kav", "kpv", "sigmaVm", "Ehm", "kam", "kpm", "Spostamenti", "Momenti"}},
+    {"analysis/segment_count.cpp", {"nseg.txt"}},
+    {"base/file_names.cpp", {"OUT", "TAB"}},
+    {"base/files.cpp", {".XXXXXX"}},
+    {"base/program_folder.cpp", {"KORVEN32_HOME", "/proc/self/exe"}},
+    {"batch/console.cpp", {"iter.=", "Ymax=", "Mmax="}},
+    {"batch/main.cpp",
+     {"language.cfg", "texts01.txt", "texts06.txt", "calcola", "relazione", "verifica",
+      "korven32c:", "atteso un codice di lingua da 1 a 6"}},  // no language is chosen yet
+    {"batch/options.cpp",
+     {"coulomb",
+      "rankine",
+      "bell",
+      "mantieni",
+      "ricalcola",
+      "progetto",
+      "PROGETTO.kvd",
+      "DIR",
+      "ita|deu|fra|esp|eng|por",
+      "ita",
+      "deu",
+      "fra",
+      "esp",
+      "eng",
+      "por",
+      "Usage",
+      "OPTIONS",
+      "SUBCOMMAND",
+      "Positionals",
+      "REQUIRED",
+      "RequiredError",
+      "ExtrasError",
+      "ConversionError",
+      "ValidationError",
+      "ArgumentMismatch",
+      "KORVEN 32 -",
+      "KORVEN 32",
+      "korven32c",
+      "calcola",
+      "relazione",
+      "verifica",
+      "korven32c:",
+      ": korven32c --help\\n"}},
+    {"commands/project_commands.cpp", {"nseg.txt", "txt"}},
+    {"report/markup_reader.cpp", {"TRUE"}},
+    {"report/report_data.cpp", {"nseg.txt"}},
+};
+
+bool letter(char c) {
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || static_cast<unsigned char>(c) > 127;
+}
+
+// Three letters in a row make a word; directives of the report and options say what they are.
+bool speaks(std::string_view text) {
+    if (text.starts_with('#') || text.starts_with('-')) return false;
+    int run = 0;
+    for (const char c : text) {
+        run = letter(c) ? run + 1 : 0;
+        if (run == 3) return true;
+    }
+    return false;
+}
+
+// The literals with words of each file, by its path below src/, without outer blanks.
+std::map<std::string, Texts> spokenLiterals() {
+    std::map<std::string, Texts> found;
+    const fs::path root = KORVEN_SOURCE_FOLDER;
+    for (const auto* folder : folders)
+        for (const auto& entry : fs::recursive_directory_iterator(root / folder)) {
+            const auto extension = entry.path().extension();
+            if (extension != ".cpp" && extension != ".hpp") continue;
+            Texts& texts = found[fs::relative(entry.path(), root).generic_string()];
+            for (const auto& literal :
+                 tools::stringLiterals(base::leggiFile(entry.path().string())))
+                if (const auto text = base::senzaSpaziEsterni(literal); speaks(text))
+                    texts.emplace_back(text);
+        }
+    return found;
+}
+
+bool listed(const Texts& texts, const std::string& text) {
+    return std::find(texts.begin(), texts.end(), text) != texts.end();
+}
+
+bool isNoText(const std::string& file, const std::string& text) {
+    const auto exempt = noTexts.find(file);
+    return silentFiles.contains(file) || (exempt != noTexts.end() && listed(exempt->second, text));
+}
+
+std::set<std::string> keys() {
+    const std::string source = KORVEN_DATA_FOLDER "/texts.txt";
+    std::set<std::string> all;
+    for (const auto& record : tools::readTextSource(source, base::leggiFile(source)))
+        all.insert(base::chiaveTesto(record.text[0]));
+    return all;
+}
+
+TEST(TextKeys, StandInTheTableForEveryLiteralThatMayBeShown) {
+    const auto known = keys();
+    int looked = 0;
+    for (const auto& [file, texts] : spokenLiterals())
+        for (const auto& text : texts) {
+            if (isNoText(file, text)) continue;
+            ++looked;
+            EXPECT_TRUE(known.contains(base::chiaveTesto(text)))
+                << "src/" << file << " has \"" << text
+                << "\", which has no record in data/texts.txt; if it is never shown, name it in "
+                   "this test";
+        }
+    EXPECT_GT(looked, 200) << "the sources were not found";
+}
+
+TEST(TextKeys, ExemptNothingThatIsNotThere) {
+    const auto spoken = spokenLiterals();
+    for (const auto& [file, reason] : silentFiles)
+        EXPECT_TRUE(spoken.contains(file)) << file << ": " << reason;
+    for (const auto& [file, texts] : noTexts) {
+        ASSERT_TRUE(spoken.contains(file)) << file;
+        for (const auto& text : texts)
+            EXPECT_TRUE(listed(spoken.at(file), text)) << file << ": " << text;
+    }
+}
+
+}  // namespace
+}  // namespace korven
