@@ -1,0 +1,178 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cctype>
+#include <cmath>
+#include <filesystem>
+#include <map>
+
+#include "base/code_page.hpp"
+#include "commands/project_review.hpp"
+#include "project/project_file.hpp"
+#include "report/calculation_report.hpp"
+#include "report/report_data.hpp"
+#include "support/run_harness.hpp"
+
+namespace korven {
+namespace {
+
+namespace fs = std::filesystem;
+using project::DatiProgetto;
+using test::Banco;
+using test::contenuto;
+
+const std::string cartella = KORVEN_EXAMPLES;
+
+std::vector<std::string> nomi() {
+    std::vector<std::string> trovati;
+    for (const auto& file : fs::directory_iterator(cartella))
+        if (file.path().extension() == ".kvd") trovati.push_back(file.path().stem().string());
+    std::sort(trovati.begin(), trovati.end());
+    return trovati;
+}
+
+std::string percorso(const std::string& nome) { return cartella + "/" + nome + ".kvd"; }
+
+DatiProgetto leggi(const std::string& nome) {
+    auto dati = std::make_unique<DatiProgetto>();
+    project::azzera(*dati);
+    auto file = base::LettoreRighe::apri(percorso(nome));
+    project::leggiDati(file, *dati);
+    return *dati;
+}
+
+std::string relazione(Banco& banco) {
+    const auto dati = report::leggiRisultati(banco.risultati(), project::Progetto);
+    return report::testoRelazione(dati);
+}
+
+class Esempio : public testing::TestWithParam<std::string> {};
+
+TEST_P(Esempio, ReadsAndWritesBackToTheSameBytes) {
+    EXPECT_EQ(base::inCp1252(project::testoProgetto(leggi(GetParam()))),
+              contenuto(percorso(GetParam())));
+}
+
+TEST_P(Esempio, LiesInTheProgramFolderToo) {
+    const std::string copia =
+        std::string(KORVEN_PROGRAM_FOLDER) + "/data/ita/" + GetParam() + ".kvd";
+    ASSERT_TRUE(base::esisteFile(copia));
+    EXPECT_EQ(contenuto(copia), contenuto(percorso(GetParam())));
+}
+
+// That the bar count shows ten times what it calculates is told of every reinforced pile.
+TEST_P(Esempio, CanBeComputedAndHasNothingOdd) {
+    const DatiProgetto dati = leggi(GetParam());
+    for (const auto& rilievo : commands::esaminaProgetto(dati)) {
+        EXPECT_FALSE(rilievo.impedisce) << rilievo.testo;
+        EXPECT_TRUE(dati.sezione.tipoPaliArmati && rilievo.testo.starts_with("numero di ferri: "))
+            << rilievo.testo;
+    }
+}
+
+TEST_P(Esempio, HasHeadingsAndLayersWithAGraphicCodeAndAName) {
+    const DatiProgetto dati = leggi(GetParam());
+    EXPECT_FALSE(dati.titoli[1].empty());
+    for (int j = 1; j <= dati.nStrati; ++j) {
+        const std::string& descrizione = dati.descrStrato[j];
+        const auto spazio = descrizione.find(' ');
+        ASSERT_NE(spazio, std::string::npos) << descrizione;
+        EXPECT_TRUE(std::isdigit(static_cast<unsigned char>(descrizione[0]))) << descrizione;
+        EXPECT_GT(descrizione.size(), spazio + 2) << descrizione;
+    }
+}
+
+TEST_P(Esempio, ComesToRestInFewIterationsWithoutAQuestion) {
+    Banco banco(leggi(GetParam()));
+    int piuLenta = 0;
+    banco.avanzamento.adOgniIterazione = [&](const analysis::StatoIterazione& stato) {
+        piuLenta = std::max(piuLenta, stato.iterazione);
+        if (stato.iterazione > 60) analysis::stopCalcolo = true;
+    };
+    banco.calcola();
+    EXPECT_FALSE(analysis::erroreCalcolo);
+    EXPECT_LE(piuLenta, 60);
+    EXPECT_TRUE(banco.dialogo.domande.empty());  // EJ is that of the section
+    EXPECT_TRUE(banco.dialogo.messaggi.empty());
+}
+
+TEST_P(Esempio, MovesByMillimetresOrCentimetresAndBendsWithinReason) {
+    Banco banco(leggi(GetParam()));
+    banco.calcola();
+    for (const auto& fase : banco.leggi()) {
+        double spostamento = 0;
+        double momento = 0;
+        for (int i = 1; i <= 51; ++i) {
+            spostamento = std::max(spostamento, std::fabs(fase.yNodo[i]));
+            momento = std::max(momento, std::fabs(fase.momentoNodo[i]));
+        }
+        EXPECT_GT(spostamento, 0.0002);
+        EXPECT_LT(spostamento, 0.05);
+        EXPECT_GT(momento, 0.1);
+        EXPECT_LT(momento, 200);
+    }
+}
+
+TEST_P(Esempio, HasAnUpToDateResultFileAfterOneRun) {
+    Banco banco(leggi(GetParam()));
+    banco.calcola();
+    const int iterazioni = banco.avanzamento.iterazioni;
+    banco.calcola();
+    EXPECT_EQ(banco.avanzamento.iterazioni, iterazioni);
+}
+
+INSTANTIATE_TEST_SUITE_P(Cartella, Esempio, testing::ValuesIn(nomi()),
+                         [](const auto& esempio) { return esempio.param; });
+
+// What each example is there to show.
+
+TEST(Esempi, TheReinforcedPilesHaveTooFewStirrupsButCarryTheMoment) {
+    Banco banco(leggi("pali_armati_staffe"));
+    banco.calcola();
+    const std::string testo = relazione(banco);
+    EXPECT_NE(testo.find("Rottura dell'armatura d'anima"), std::string::npos);
+    EXPECT_EQ(testo.find("Rottura delle bielle"), std::string::npos);
+    EXPECT_EQ(testo.find("NON VERIFICATE"), std::string::npos);
+}
+
+TEST(Esempi, TheOthersAreVerified) {
+    for (const auto& nome : nomi()) {
+        Banco banco(leggi(nome));
+        banco.calcola();
+        const std::string testo = relazione(banco);
+        EXPECT_NE(testo.find("Condizioni di sicurezza verificate"), std::string::npos) << nome;
+        EXPECT_EQ(testo.find("NON VERIFICATE"), std::string::npos) << nome;
+    }
+}
+
+TEST(Esempi, ShowEverySectionEveryRestraintAndEveryMethodOfKs) {
+    std::map<std::string, std::vector<double>> visti;
+    int sezioni[4] = {};
+    for (const auto& nome : nomi()) {
+        const DatiProgetto dati = leggi(nome);
+        visti["testa"].push_back(dati.vincoloTesta);
+        visti["piede"].push_back(dati.vincoloPiede);
+        visti["ks"].push_back(dati.metodoKs);
+        const bool tipi[] = {dati.sezione.tipoDiaframma, dati.sezione.tipoPali,
+                             dati.sezione.tipoPalancola, dati.sezione.tipoPaliArmati};
+        for (int i = 0; i < 4; ++i) sezioni[i] += tipi[i];
+    }
+    const auto mostra = [&](const char* che, double codice) {
+        const auto& codici = visti[che];
+        return std::find(codici.begin(), codici.end(), codice) != codici.end();
+    };
+    EXPECT_TRUE(mostra("testa", 1) && mostra("testa", 2));
+    EXPECT_TRUE(mostra("piede", 1) && mostra("piede", 2) && mostra("piede", 3));
+    for (int metodo = 1; metodo <= 4; ++metodo) EXPECT_TRUE(mostra("ks", metodo)) << metodo;
+    for (const int numero : sezioni) EXPECT_GT(numero, 0);
+}
+
+TEST(Esempi, TheLongWallHasSixLayersAndAFixedToe) {
+    const DatiProgetto dati = leggi("paratia_lunga_incastro");
+    EXPECT_GE(dati.nStrati, 6);
+    EXPECT_GE(dati.lunghezzaParatia, 20);
+    EXPECT_EQ(dati.vincoloPiede, 3);
+}
+
+}  // namespace
+}  // namespace korven

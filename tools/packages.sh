@@ -1,0 +1,31 @@
+# The Debian packages of the project, in one place for ./run and ./test. To be sourced by bash.
+
+packages_build="g++ cmake ninja-build libcli11-dev nlohmann-json3-dev"
+packages_test="libgtest-dev clang-format"
+packages_bench="libbenchmark-dev libopenblas-dev liblapacke-dev libeigen3-dev"
+packages_fuzz="clang"
+
+# install_packages NAME...: installs those that are missing, as root or through sudo. Asks dpkg first,
+# so that a machine that has them all is not kept waiting and needs no network.
+install_packages() {
+    local missing=() name
+    for name in "$@"; do
+        dpkg-query -W -f '${db:Status-Status}\n' "$name" 2>/dev/null | grep -qx installed ||
+            missing+=("$name")
+    done
+    if [ ${#missing[@]} -eq 0 ]; then return 0; fi
+
+    local as_root=()
+    if [ "$(id -u)" -ne 0 ]; then
+        if ! command -v sudo >/dev/null; then
+            echo "These Debian packages are missing: ${missing[*]}" >&2
+            echo "Install them as root: apt-get install ${missing[*]}" >&2
+            return 1
+        fi
+        as_root=(sudo)
+    fi
+    echo "Installing Debian packages: ${missing[*]}"
+    "${as_root[@]}" apt-get update -q &&
+        "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+            apt-get install -y -q --no-install-recommends "${missing[@]}"
+}
