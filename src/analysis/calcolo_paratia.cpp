@@ -127,6 +127,13 @@ void calcolaFasi(int nSeg, const structure::MomentiResistenti& MRd, const PorteC
     file.finito();
 }
 
+// Whether there is a result file that belongs to the data in memory.
+bool aggiornato() {
+    if (!base::esisteFile(fileCorrente)) return false;
+    auto file = base::LettoreRighe::apri(fileCorrente, std::string(rimedioRisultati));
+    return !project::progettoDiverso(file, Progetto);
+}
+
 }  // namespace
 
 void CalcoloParatia(int modoUscita, const PorteCalcolo& porte) {
@@ -147,8 +154,7 @@ void CalcoloParatia(int modoUscita, const PorteCalcolo& porte) {
     const auto nSeg = leggiNSeg(vincoli(Progetto).incastroPiede);
     if (!nSeg) return avvisa(porte.dialogo, traduttore(messaggioNSeg));
 
-    const bool aggiornati = base::esisteFile(fileCorrente) && !project::progettoDiverso();
-    if (!aggiornati) calcolaFasi(*nSeg, MRd, porte);
+    if (!aggiornato()) calcolaFasi(*nSeg, MRd, porte);
     if (erroreCalcolo) return;
 
     if (modoUscita == 0)

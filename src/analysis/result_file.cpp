@@ -5,6 +5,7 @@
 
 #include "base/number_text.hpp"
 #include "project/project_file.hpp"
+#include "structure/partial_factors.hpp"
 
 namespace korven::analysis {
 
@@ -51,10 +52,6 @@ constexpr Chiusa chiuse[] = {
 };
 
 constexpr std::size_t zonaDiStampa = 14;
-constexpr std::string_view rimedio =
-    "il file dei risultati e' incompleto o e' stato scritto con un altro numero di segmenti "
-    "(nseg.txt): cancellarlo e ripetere il calcolo";
-
 std::string rigaColonne() {
     std::string riga;
     for (const auto& colonna : colonne) {
@@ -87,7 +84,7 @@ std::string testoChiusura(const ChiusuraRisultati& chiusura) {
 }
 
 LettoreRisultati::LettoreRisultati(const std::string& percorso, int nNodi)
-    : file_(base::LettoreRighe::apri(percorso, std::string(rimedio))), nNodi_(nNodi) {}
+    : file_(base::LettoreRighe::apri(percorso, std::string(rimedioRisultati))), nNodi_(nNodi) {}
 
 void LettoreRisultati::leggiTesta(project::DatiProgetto& dati) {
     const auto titoli = dati.titoli;
@@ -121,6 +118,11 @@ ChiusuraRisultati LettoreRisultati::leggiChiusura() {
             file_.rifiuta("atteso un numero: " + std::string(nome));
         chiusura.*campo = *valore;
     }
+    // The last line may lack its end. But a file cut short there holds the head of the factor,
+    // which would read as a smaller one.
+    if (!file_.rigaIntera() && chiusura.fsAzioni != structure::fsAzioniSezione)
+        file_.rifiuta("atteso un numero scritto fino in fondo: " +
+                      std::string(chiuse[std::size(chiuse) - 1].nome));
     if (!file_.fine()) {
         file_.riga("");
         file_.rifiuta("attesa la fine del file");

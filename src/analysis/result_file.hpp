@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "analysis/node_vector.hpp"
 #include "analysis/run_arrays.hpp"
@@ -38,6 +39,11 @@ struct ChiusuraRisultati {
 
 /// Text of the five closing lines.
 [[nodiscard]] std::string testoChiusura(const ChiusuraRisultati& chiusura);
+
+/// What the user can do about a result file that can't be read; stands behind every such error.
+inline constexpr std::string_view rimedioRisultati =
+    "il file dei risultati e' incompleto o e' stato scritto con un altro numero di segmenti "
+    "(nseg.txt): cancellarlo e ripetere il calcolo";
 
 /// Reads a result file from its head to its end.
 class LettoreRisultati {

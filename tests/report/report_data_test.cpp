@@ -266,17 +266,24 @@ TEST(LeggiRisultati, RefusesAnUnusableNumberOfSegments) {
     EXPECT_THROW((void)letti(file, d), base::ErroreFile);
 }
 
-TEST(LeggiRisultati, RefusesAFileCutShortAnywhere) {
+TEST(LeggiRisultati, RefusesAFileCutShortAtAnyByte) {
     RisultatiAMano file(4);
     const auto d = muroQuattroSegmenti(1);
-    file.scrivi(d, {faseFerma(5)});
+    file.scrivi(d, {faseFerma(5)}, "800000000\r\n-1000000000\r\n50\r\n-12.5\r\n1.4");
     const std::string intero = test::contenuto(file.percorso());
-    // Cut in front of each line. The last line may lack its end.
-    for (std::size_t taglio = 0; taglio < intero.size();) {
+    for (std::size_t taglio = 0; taglio < intero.size(); ++taglio) {
         test::metti(file.percorso(), std::string_view(intero).substr(0, taglio));
-        EXPECT_THROW((void)letti(file, d), base::ErroreFile) << taglio;
-        taglio = intero.find('\n', taglio) + 1;
+        EXPECT_THROW((void)letti(file, d), base::ErroreFile) << intero.substr(0, taglio);
     }
+}
+
+TEST(LeggiRisultati, AcceptsALastLineWithoutItsEnd) {
+    RisultatiAMano file(4);
+    const auto d = muroQuattroSegmenti(1);
+    file.scrivi(d, {faseFerma(5)}, "0\r\n0\r\n0\r\n0\r\n1.4");
+    EXPECT_EQ(letti(file, d).chiusura.fsAzioni, 1.4);
+    file.scrivi(d, {faseFerma(5)}, "0\n0\n0\n0\n1.5\n");  // another factor, but whole
+    EXPECT_EQ(letti(file, d).chiusura.fsAzioni, 1.5);
 }
 
 }  // namespace
