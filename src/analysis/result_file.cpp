@@ -6,6 +6,7 @@
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
 #include "project/project_file.hpp"
+#include "structure/partial_factors.hpp"
 
 namespace korven::analysis {
 
@@ -125,6 +126,11 @@ ChiusuraRisultati LettoreRisultati::leggiChiusura() {
             file_.rifiuta(traduttore("atteso un numero") + ": " + traduttore(nome));
         chiusura.*campo = *valore;
     }
+    // The last line may lack its end. But a file cut short there holds the head of the factor,
+    // which would read as a smaller one.
+    if (!file_.rigaIntera() && chiusura.fsAzioni != structure::fsAzioniSezione)
+        file_.rifiuta(traduttore("atteso un numero scritto fino in fondo") + ": " +
+                      traduttore(chiuse[std::size(chiuse) - 1].nome));
     if (!file_.fine()) {
         file_.riga("");
         file_.rifiuta(traduttore("attesa la fine del file"));

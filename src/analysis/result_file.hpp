@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "analysis/node_vector.hpp"
 #include "analysis/run_arrays.hpp"

@@ -41,6 +41,10 @@ double LettoreRighe::numero(std::string_view atteso) {
     rifiuta(traduttore("atteso un numero") + ": " + std::string(atteso));
 }
 
+bool LettoreRighe::rigaIntera() const {
+    return posizione_ > 0 && contenuto_[posizione_ - 1] == '\n';
+}
+
 void LettoreRighe::rifiuta(std::string_view atteso) const {
     std::string testo(atteso);
     if (!rimedio_.empty()) testo += "; " + rimedio_;

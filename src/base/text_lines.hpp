@@ -33,6 +33,9 @@ class LettoreRighe {
     /// Number of the line last read, from 1.
     [[nodiscard]] long numeroRiga() const { return letta_; }
 
+    /// True when the line last read has its line end: then nothing of it was cut off.
+    [[nodiscard]] bool rigaIntera() const;
+
     /// Raises an ErroreFile for the line last read.
     /// @param atteso  what was expected there, translated
     [[noreturn]] void rifiuta(std::string_view atteso) const;

@@ -17,6 +17,15 @@ TEST(LettoreRighe, TakesCrLfAndLfAloneAndALastLineWithoutAnEnd) {
     EXPECT_EQ(file.numeroRiga(), 3);
 }
 
+TEST(LettoreRighe, TellsWhetherTheLastLineReadHasItsEnd) {
+    LettoreRighe file("f", "uno\ndue");
+    EXPECT_FALSE(file.rigaIntera());
+    file.riga("");
+    EXPECT_TRUE(file.rigaIntera());
+    file.riga("");
+    EXPECT_FALSE(file.rigaIntera());
+}
+
 TEST(LettoreRighe, DecodesTheCodePage) {
     LettoreRighe file("f", "citt\xE0 \x80\r\n");
     EXPECT_EQ(file.riga(""), "città €");
