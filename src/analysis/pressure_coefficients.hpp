@@ -27,9 +27,11 @@ struct CoefficientiSpinta {
 
 /// Coulomb's coefficients for a vertical, smooth wall (wall angle pi/2, no wall friction):
 ///
-///     ka = sin^2(pi/2 + phi) / (1 + sqrt(sin phi sin(phi - beta) / (sin(pi/2) sin(pi/2 +
-///     beta))))^2 kp = sin^2(pi/2 - phi) / (1 - sqrt(sin phi sin(phi + beta) / (sin(pi/2) sin(pi/2
-///     + beta))))^2
+///     A = sin phi sin(phi - beta) / (sin(pi/2) sin(pi/2 + beta))
+///     P = sin phi sin(phi + beta) / (sin(pi/2) sin(pi/2 + beta))
+///
+///     ka = sin^2(pi/2 + phi) / (1 + sqrt A)^2
+///     kp = sin^2(pi/2 - phi) / (1 - sqrt P)^2
 ///
 /// @return undefined for phi below a positive slope (the root of a negative number), for a slope
 ///         below -phi, and where the denominator of kp is 0
@@ -38,9 +40,10 @@ struct CoefficientiSpinta {
 
 /// Rankine's coefficients for ground that slopes at beta:
 ///
-///     R  = sqrt(cos^2 beta - cos^2 phi)
-///     ka = cos beta (cos beta - R) / (cos beta + R),  kp = cos beta (cos beta + R) / (cos beta -
-///     R)
+///     R = sqrt(cos^2 beta - cos^2 phi)
+///
+///     ka = cos beta (cos beta - R) / (cos beta + R)
+///     kp = cos beta (cos beta + R) / (cos beta - R)
 ///
 /// @return undefined for a slope steeper than phi
 /// Source: Rankine (1857).

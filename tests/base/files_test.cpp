@@ -1,8 +1,13 @@
 #include "base/files.hpp"
 
 #include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/resource.h>
 
+#include <cerrno>
 #include <filesystem>
+#include <string>
+#include <system_error>
 
 #include "base/file_error.hpp"
 #include "support/temporary_folder.hpp"
@@ -52,9 +57,65 @@ TEST(ScriviFile, LeavesTheOldFileAndNoHalfOneWhenTheFolderIsMissing) {
     EXPECT_EQ(voci(cartella), 0u);
 }
 
-TEST(ScriviFile, TellsAFullDisk) {
-    if (!std::filesystem::exists("/dev/full")) GTEST_SKIP() << "no /dev/full here";
-    EXPECT_THROW(accodaFile("/dev/full", "x"), ErroreFile);
+// A disk that takes no more, for this process: no file may grow beyond a size. What stood before
+// comes back at the end.
+class DiscoPieno {
+ public:
+    explicit DiscoPieno(rlim_t byte) {
+        segnale_ = ::signal(SIGXFSZ, SIG_IGN);  // the write fails instead of ending the process
+        ::getrlimit(RLIMIT_FSIZE, &limite_);
+        rlimit stretto = limite_;
+        stretto.rlim_cur = byte;
+        riuscito_ = ::setrlimit(RLIMIT_FSIZE, &stretto) == 0;
+    }
+    DiscoPieno(const DiscoPieno&) = delete;
+    DiscoPieno& operator=(const DiscoPieno&) = delete;
+    ~DiscoPieno() {
+        ::setrlimit(RLIMIT_FSIZE, &limite_);
+        ::signal(SIGXFSZ, segnale_);
+    }
+    [[nodiscard]] bool riuscito() const { return riuscito_; }
+
+ private:
+    rlimit limite_{};
+    void (*segnale_)(int) = SIG_DFL;
+    bool riuscito_ = false;
+};
+
+// What a write tells that finds no room for its last bytes; empty if it tells nothing.
+template <class Scrittura>
+std::string erroreADiscoPieno(const Scrittura& scrittura) {
+    const DiscoPieno disco(4096);
+    if (!disco.riuscito()) return {};
+    try {
+        scrittura();
+    } catch (const ErroreFile& errore) {
+        return errore.what();
+    }
+    return {};
+}
+
+const std::string ragione = std::generic_category().message(EFBIG);
+
+TEST(ScriviFile, TellsThatTheDiskTakesNoMoreAndLeavesTheOldFileAlone) {
+    const CartellaProvvisoria cartella;
+    metti(cartella / "f", "prima");
+    const std::string detto =
+        erroreADiscoPieno([&] { scriviFile(cartella / "f", std::string(10000, 'x')); });
+    EXPECT_NE(detto.find(cartella / "f"), std::string::npos) << detto;
+    EXPECT_NE(detto.find(ragione), std::string::npos) << detto;
+    EXPECT_EQ(contenuto(cartella / "f"), "prima");
+    EXPECT_EQ(voci(cartella), 1u);
+    scriviFile(cartella / "f", std::string(10000, 'x'));  // room again
+    EXPECT_EQ(contenuto(cartella / "f").size(), 10000u);
+}
+
+TEST(ScriviFile, LeavesNothingOfANewFileThatFindsNoRoom) {
+    const CartellaProvvisoria cartella;
+    const std::string detto =
+        erroreADiscoPieno([&] { scriviFile(cartella / "f", std::string(10000, 'x')); });
+    EXPECT_NE(detto.find(ragione), std::string::npos) << detto;
+    EXPECT_EQ(voci(cartella), 0u);
 }
 
 TEST(AccodaFile, AddsBehindWhatStands) {
@@ -63,6 +124,19 @@ TEST(AccodaFile, AddsBehindWhatStands) {
     accodaFile(cartella / "f", "due");
     EXPECT_EQ(contenuto(cartella / "f"), "uno due");
     EXPECT_THROW(accodaFile(cartella / "g", "x"), ErroreFile);
+}
+
+// The first bytes still fit; they must not stay behind.
+TEST(AccodaFile, TellsThatTheDiskTakesNoMoreAndCutsTheFileBack) {
+    const CartellaProvvisoria cartella;
+    const std::string prima(3000, 'p');
+    metti(cartella / "f", prima);
+    const std::string detto =
+        erroreADiscoPieno([&] { accodaFile(cartella / "f", std::string(5000, 'x')); });
+    EXPECT_NE(detto.find(cartella / "f"), std::string::npos) << detto;
+    EXPECT_NE(detto.find(ragione), std::string::npos) << detto;
+    EXPECT_EQ(contenuto(cartella / "f"), prima);
+    EXPECT_EQ(voci(cartella), 1u);
 }
 
 TEST(LeggiFile, SaysWhyAFileCannotBeRead) {
