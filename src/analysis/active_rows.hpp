@@ -23,6 +23,7 @@ namespace korven::analysis {
 /// rounded; where nothing is put off, the bound is the largest cell.
 struct RigheAttive {
     static constexpr int finestraMassima = 8;
+    static constexpr int pocheRighe = 32;  // fewer are done at once: keeping the d costs more
     using Colonna = double[MatriceSistema::passoRiga];
 
     int quante = 0;
@@ -171,7 +172,8 @@ KORVEN_CORSIE void rimanda(RigheAttive& r, double* pivot, double massimoPivot) {
             r.zeriNegativi |= r.zeroNegativo[i];
         }
     }
-    if (r.finestra == RigheAttive::finestraMassima) aggiornaTutte(r);
+    if (r.finestra == RigheAttive::finestraMassima || r.quante < RigheAttive::pocheRighe)
+        aggiornaTutte(r);
 }
 
 /// Of m numbers the largest whose value has the absolute value `cercato`, -1 if there is none.

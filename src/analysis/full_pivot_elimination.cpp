@@ -110,8 +110,8 @@ bool elimina(int n, MatriceSistema& A, const VettoreSistema& b, bool conservaFat
         const double termine = s.termine[t] = r.termine[i] * inverso;
         togliRiga(r, i, colonna);
         pivot[k] = pivot[t];
-        pivot[t] = inverso;
         const Riassunto divisa = moltiplica(pivot, inverso, t);
+        pivot[t] = inverso;
         finiti &= divisa.finiti;
 
         togliColonna(r, k, conservaFattori);
