@@ -44,10 +44,13 @@ KORVEN_CORSIE void completaColonneSinistra(SistemaEliminato& s, int t0, int k0) 
         const Corsie pivot = corsie(s.riga[j] + k0);
         for (int i = 0; i < R; ++i) c[i] -= riga[i][j] * pivot;
     }
-    for (int j = std::min(t0, k0 + larghezza) - 1; j > k0; --j) {
-        const MascheraCorsie prima = sotto(j - k0);
+#pragma GCC unroll 8
+    for (int q = larghezza - 1; q > 0; --q) {
+        const int j = k0 + q;
+        if (j >= t0) continue;
+        const MascheraCorsie prima = sotto(q);
         const Corsie pivot = corsie(s.riga[j] + k0);
-        for (int i = 0; i < R; ++i) c[i] = prima ? c[i] - c[i][j - k0] * pivot : c[i];
+        for (int i = 0; i < R; ++i) c[i] = prima ? c[i] - c[i][q] * pivot : c[i];
     }
     for (int i = 0; i < R; ++i) corsie(s.riga[t0 + i] + k0) = c[i];
 }
@@ -94,14 +97,17 @@ KORVEN_CORSIE void avviaColonneDestra(SistemaEliminato& s, int t0, int k0) {
         riga[i] = s.riga[t0 + i];
         c[i] = corsie(riga[i] + k0);
     }
-    for (int j = std::min(k0 + larghezza, s.n) - 1; j >= std::max(k0, fine); --j) {
-        const MascheraCorsie fino = sotto(j - k0);
+#pragma GCC unroll 8
+    for (int q = larghezza - 1; q >= 0; --q) {
+        const int j = k0 + q;
+        if (j >= s.n || j < fine) continue;
+        const MascheraCorsie prima = sotto(q);
         const Corsie pivot = corsie(s.riga[j] + k0);
         for (int i = 0; i < R; ++i) {
-            const double d = c[i][j - k0];
+            const double d = c[i][q];
             const Corsie passata = c[i] - d * pivot;
-            c[i] = fino ? c[i] : passata;
-            c[i][j - k0] = 0.0 - d * s.inverso[j];
+            c[i] = prima ? c[i] : passata;
+            c[i][q] = 0.0 - d * s.inverso[j];
         }
     }
     for (int j = k0 - 1; j >= fine; --j) {
