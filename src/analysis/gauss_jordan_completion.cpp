@@ -24,13 +24,13 @@
 namespace korven::analysis {
 namespace {
 
-constexpr int blocco = 4;  // rows that go through the passes together, to share each pivot row
+constexpr int blocco = 8;  // rows that go through the passes together, to share each pivot row
 
 KORVEN_CORSIE void sottraiCelle(double* riga, const double* pivot, double d, int da, int a) {
     for (int k = da; k < a; ++k) riga[k] -= d * pivot[k];
 }
 
-/// Left of the diagonal: columns k0 to k0 + 7 of the rows t0 to t0 + R - 1 through the passes below
+/// Left of the diagonal: columns k0 to k0 + 3 of the rows t0 to t0 + R - 1 through the passes below
 /// the place t0.
 template <int R>
 KORVEN_CORSIE void completaColonneSinistra(SistemaEliminato& s, int t0, int k0) {
@@ -44,7 +44,7 @@ KORVEN_CORSIE void completaColonneSinistra(SistemaEliminato& s, int t0, int k0) 
         const Corsie pivot = corsie(s.riga[j] + k0);
         for (int i = 0; i < R; ++i) c[i] -= riga[i][j] * pivot;
     }
-#pragma GCC unroll 8
+#pragma GCC unroll 4
     for (int q = larghezza - 1; q > 0; --q) {
         const int j = k0 + q;
         if (j >= t0) continue;
@@ -86,7 +86,7 @@ KORVEN_CORSIE void completaTermini(const SistemaEliminato& s, VettoreSistema& x)
     }
 }
 
-/// Right of the diagonal, passes before the row's own: columns k0 to k0 + 7 of the rows t0 to
+/// Right of the diagonal, passes before the row's own: columns k0 to k0 + 3 of the rows t0 to
 /// t0 + R - 1 through the passes above the place t0 + R - 1.
 template <int R>
 KORVEN_CORSIE void avviaColonneDestra(SistemaEliminato& s, int t0, int k0) {
@@ -97,7 +97,7 @@ KORVEN_CORSIE void avviaColonneDestra(SistemaEliminato& s, int t0, int k0) {
         riga[i] = s.riga[t0 + i];
         c[i] = corsie(riga[i] + k0);
     }
-#pragma GCC unroll 8
+#pragma GCC unroll 4
     for (int q = larghezza - 1; q >= 0; --q) {
         const int j = k0 + q;
         if (j >= s.n || j < fine) continue;
