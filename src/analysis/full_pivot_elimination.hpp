@@ -1,7 +1,5 @@
 #pragma once
 
-#include <array>
-
 #include "analysis/system_matrix.hpp"
 
 namespace korven::analysis {
@@ -16,12 +14,12 @@ namespace korven::analysis {
 ///     j > t    what its own column had to be cleared with in the earlier pass of place j
 struct SistemaEliminato {
     int n = 0;
-    std::array<double*, capacitaSistema> riga{};
+    double* riga[capacitaSistema];
     /// 1 / pivot, and the right-hand side as it was after the row's own pass, divided by the pivot
-    std::array<double, capacitaSistema> inverso{}, termine{};
+    double inverso[capacitaSistema], termine[capacitaSistema];
     /// Row and column (from 0) where the pivot was found. The row is swapped to the row number
     /// `colonnaPivot`, where it stays.
-    std::array<int, capacitaSistema> rigaPivot{}, colonnaPivot{};
+    int rigaPivot[capacitaSistema], colonnaPivot[capacitaSistema];
 };
 
 /// Runs the passes of Gauss-Jordan elimination with full pivoting on the rows that have not been
@@ -30,8 +28,10 @@ struct SistemaEliminato {
 /// @param n  1 to 500
 /// @param A  matrix; its work area is taken over by the result
 /// @param b  right-hand side
+/// @param conservaFattori  whether the cells j > t are wanted
 /// @param[out] s  the eliminated system
 /// @return false when a pass finds no cell but zeros and NaN: the system is singular
-[[nodiscard]] bool elimina(int n, MatriceSistema& A, const VettoreSistema& b, SistemaEliminato& s);
+[[nodiscard]] bool elimina(int n, MatriceSistema& A, const VettoreSistema& b, bool conservaFattori,
+                           SistemaEliminato& s);
 
 }  // namespace korven::analysis

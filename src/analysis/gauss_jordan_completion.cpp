@@ -24,13 +24,13 @@
 namespace korven::analysis {
 namespace {
 
-constexpr int blocco = 4;  // rows that go through the passes together, to share each pivot row
+constexpr int blocco = 8;  // rows that go through the passes together, to share each pivot row
 
 KORVEN_CORSIE void sottraiCelle(double* riga, const double* pivot, double d, int da, int a) {
     for (int k = da; k < a; ++k) riga[k] -= d * pivot[k];
 }
 
-/// Left of the diagonal: columns k0 to k0 + 7 of the rows t0 to t0 + R - 1 through the passes below
+/// Left of the diagonal: columns k0 to k0 + 3 of the rows t0 to t0 + R - 1 through the passes below
 /// the place t0.
 template <int R>
 KORVEN_CORSIE void completaColonneSinistra(SistemaEliminato& s, int t0, int k0) {
@@ -44,10 +44,13 @@ KORVEN_CORSIE void completaColonneSinistra(SistemaEliminato& s, int t0, int k0) 
         const Corsie pivot = corsie(s.riga[j] + k0);
         for (int i = 0; i < R; ++i) c[i] -= riga[i][j] * pivot;
     }
-    for (int j = std::min(t0, k0 + larghezza) - 1; j > k0; --j) {
-        const MascheraCorsie prima = sotto(j - k0);
+#pragma GCC unroll 4
+    for (int q = larghezza - 1; q > 0; --q) {
+        const int j = k0 + q;
+        if (j >= t0) continue;
+        const MascheraCorsie prima = sotto(q);
         const Corsie pivot = corsie(s.riga[j] + k0);
-        for (int i = 0; i < R; ++i) c[i] = prima ? c[i] - c[i][j - k0] * pivot : c[i];
+        for (int i = 0; i < R; ++i) c[i] = prima ? c[i] - c[i][q] * pivot : c[i];
     }
     for (int i = 0; i < R; ++i) corsie(s.riga[t0 + i] + k0) = c[i];
 }
@@ -83,7 +86,7 @@ KORVEN_CORSIE void completaTermini(const SistemaEliminato& s, VettoreSistema& x)
     }
 }
 
-/// Right of the diagonal, passes before the row's own: columns k0 to k0 + 7 of the rows t0 to
+/// Right of the diagonal, passes before the row's own: columns k0 to k0 + 3 of the rows t0 to
 /// t0 + R - 1 through the passes above the place t0 + R - 1.
 template <int R>
 KORVEN_CORSIE void avviaColonneDestra(SistemaEliminato& s, int t0, int k0) {
@@ -94,14 +97,17 @@ KORVEN_CORSIE void avviaColonneDestra(SistemaEliminato& s, int t0, int k0) {
         riga[i] = s.riga[t0 + i];
         c[i] = corsie(riga[i] + k0);
     }
-    for (int j = std::min(k0 + larghezza, s.n) - 1; j >= std::max(k0, fine); --j) {
-        const MascheraCorsie fino = sotto(j - k0);
+#pragma GCC unroll 4
+    for (int q = larghezza - 1; q >= 0; --q) {
+        const int j = k0 + q;
+        if (j >= s.n || j < fine) continue;
+        const MascheraCorsie prima = sotto(q);
         const Corsie pivot = corsie(s.riga[j] + k0);
         for (int i = 0; i < R; ++i) {
-            const double d = c[i][j - k0];
+            const double d = c[i][q];
             const Corsie passata = c[i] - d * pivot;
-            c[i] = fino ? c[i] : passata;
-            c[i][j - k0] = 0.0 - d * s.inverso[j];
+            c[i] = prima ? c[i] : passata;
+            c[i][q] = 0.0 - d * s.inverso[j];
         }
     }
     for (int j = k0 - 1; j >= fine; --j) {

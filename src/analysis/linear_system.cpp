@@ -17,7 +17,7 @@ EsitoSistema RisolviSistema(int n, MatriceSistema& A, const VettoreSistema& b, V
     assert(0 <= bordoVisibile && bordoVisibile <= n);
     assert(&b != &x);
     SistemaEliminato s;
-    if (!elimina(n, A, b, s)) return EsitoSistema::singolare;
+    if (!elimina(n, A, b, bordoVisibile > 0, s)) return EsitoSistema::singolare;
     completa(s, x, A, bordoVisibile);
     return EsitoSistema::risolto;
 }
