@@ -4,16 +4,17 @@
 #include <chrono>
 #include <cmath>
 #include <cstddef>
+#include <memory>
 
 #include "analysis/linear_system.hpp"
+#include "analysis/plastic_iteration.hpp"
+#include "example_run.hpp"
 #include "support/reference_solver.hpp"
-#include "support/wall_system.hpp"
 #include "yardsticks.hpp"
 
-// One solve of the system that an iteration of a real wall writes down, by four solvers: 20 m of
-// diaphragm wall (EJ 20000 t m2), excavated to 11 m, two rows of anchors, plastic nodes down to 3 m
-// on the retained side. With a fixed toe the system is the third of a stage, so that the last two
-// rows and columns hold what the second solve left there.
+// One solve of the system that an iteration of a real project writes down, by four solvers: the
+// state in which the last stage of an example comes to rest. With a fixed toe the last two rows and
+// columns hold what the solve before left there.
 //
 // Only the solve is timed: every solver gets its own fresh copy outside the clock.
 
@@ -23,43 +24,18 @@ using namespace korven;
 using analysis::EsitoSistema;
 using Orologio = std::chrono::steady_clock;
 
-test::PareteDiProva parete(int nSeg, bool incastro) {
-    constexpr double altezza = 20.0, profonditaScavo = 11.0;
-    test::PareteDiProva w(nSeg + 1);
-    w.passo = altezza / nSeg;
-    w.incastroPiede = incastro;
-    for (double& e : w.rigidezza) e = 20000.0;
-    for (int i = 1; i <= w.nodi; ++i) {
-        const auto nodo = static_cast<std::size_t>(i);
-        const double z = (i - 1) * w.passo;
-        const double monte = z < 3.0 ? 0.0 : -(2000.0 + 150.0 * z);
-        const double valle = z < profonditaScavo ? 0.0 : -(3000.0 + 200.0 * z);
-        w.coefficiente[nodo] = monte + valle;
-        w.pressione[nodo] = 2.0 + 1.1 * z;
-    }
-    for (const double tirante : {2.5, 6.0}) {
-        const auto nodo = static_cast<std::size_t>(1 + static_cast<int>(tirante / w.passo + 0.5));
-        w.coefficiente[nodo] -= 1500.0 / w.passo;
-        w.pressione[nodo] -= 20.0 / w.passo;
-    }
-    return w;
-}
-
 /// The system to solve, and the solution of the plain algorithm to compare with.
 struct Sistema {
     int n = 0, bordo = 0;
-    analysis::MatriceSistema A;
+    std::unique_ptr<analysis::ArraysCorsa> corsa;
     analysis::VettoreSistema b, x;
 
-    Sistema(int nSeg, bool incastro) {
-        const test::PareteDiProva w = parete(nSeg, incastro);
-        n = w.incognite();
-        bordo = incastro ? 2 : 0;
-        for (int volta = 0; volta < (incastro ? 2 : 0); ++volta) {
-            test::assemblaDiProva(w, A, b);
-            if (analysis::RisolviSistema(n, A, b, x, bordo) != EsitoSistema::risolto) n = 0;
-        }
-        test::assemblaDiProva(w, A, b);
+    Sistema(int nSeg, bool incastro) : bordo(incastro ? 2 : 0) {
+        const auto dati =
+            bench::esempio(incastro ? "paratia_lunga_incastro" : "diaframma_due_ordini");
+        corsa = bench::corsaConvergente(dati, nSeg);
+        n = 2 * analysis::preparaSistema(dati, *corsa);
+        b = corsa->termineB;
         analysis::MatriceSistema copia;
         copiaIn(copia);
         if (test::risolviPassoPasso(n, copia, b, x) != EsitoSistema::risolto) n = 0;
@@ -67,14 +43,14 @@ struct Sistema {
 
     void copiaIn(analysis::MatriceSistema& copia) const {
         for (int i = 1; i <= n; ++i)
-            for (int j = 1; j <= n; ++j) copia(i, j) = A(i, j);
+            for (int j = 1; j <= n; ++j) copia(i, j) = corsa->matriceA(i, j);
     }
 
     [[nodiscard]] bench::SistemaPieno pieno() const {
         bench::SistemaPieno s;
         s.n = n;
         for (int j = 1; j <= n; ++j) {
-            for (int i = 1; i <= n; ++i) s.A.push_back(A(i, j));
+            for (int i = 1; i <= n; ++i) s.A.push_back(corsa->matriceA(i, j));
             s.b.push_back(b[j]);
         }
         return s;

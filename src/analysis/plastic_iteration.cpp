@@ -94,17 +94,21 @@ void applicaTiranti(const project::DatiProgetto& dati, ArraysCorsa& corsa) {
     }
 }
 
-bool risolviIterazione(const project::DatiProgetto& dati, ArraysCorsa& corsa) {
+int preparaSistema(const project::DatiProgetto& dati, ArraysCorsa& corsa) {
     // Only the cells of the wall's own nodes are cleared. Those that a fixed toe adds keep what the
     // last solve left in them wherever assembly does not write.
     corsa.matriceA.azzera(2 * corsa.nNodi);
     azzera(corsa.termineB, 2 * corsa.nNodi);
     azzera(corsa.soluzioneX, 2 * corsa.nNodi);
-
     const int n = applicaVincoli(corsa);
     assembla({n, corsa.passoNodi, &corsa.EJNodo, &corsa.pNodo, &corsa.kNodo, dati.forzaTesta,
               dati.momentoTesta},
              corsa.matriceA, corsa.termineB);
+    return n;
+}
+
+bool risolviIterazione(const project::DatiProgetto& dati, ArraysCorsa& corsa) {
+    const int n = preparaSistema(dati, corsa);
     const int celleNonAzzerate = 2 * (n - corsa.nNodi);
     if (RisolviSistema(2 * n, corsa.matriceA, corsa.termineB, corsa.soluzioneX, celleNonAzzerate) ==
         EsitoSistema::singolare)

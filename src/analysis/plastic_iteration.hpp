@@ -31,12 +31,18 @@ void classificaNodi(const project::DatiProgetto& dati, ArraysCorsa& corsa);
 /// no effect.
 void applicaTiranti(const project::DatiProgetto& dati, ArraysCorsa& corsa);
 
-/// Restraints, assembly and solution of one iteration; then displacements, shears and moments.
+/// Clears, lays the restraints over the springs and writes the system of one iteration into
+/// `matriceA` and `termineB`.
 ///
 /// With a fixed toe the system has one node more, one `passoNodi` below the toe. Its two equations
 /// and unknowns lie outside the cells that are cleared before an assembly, so they start from what
-/// the solver left there in the iteration before; the moment shown at the fixed toe is extrapolated
-/// from the moments of the iteration before.
+/// the solver left there in the iteration before.
+///
+/// @return nodes of the system; it has twice as many equations
+[[nodiscard]] int preparaSistema(const project::DatiProgetto& dati, ArraysCorsa& corsa);
+
+/// Prepares and solves one iteration; then displacements, shears and moments. The moment shown at a
+/// fixed toe is extrapolated from the moments of the iteration before.
 ///
 /// @return false if the system is singular; the arrays are then of no use
 [[nodiscard]] bool risolviIterazione(const project::DatiProgetto& dati, ArraysCorsa& corsa);

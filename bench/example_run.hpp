@@ -1,0 +1,20 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "analysis/run_arrays.hpp"
+#include "project/project_data.hpp"
+
+namespace korven::bench {
+
+/// An example project of data/examples, by name.
+[[nodiscard]] project::DatiProgetto esempio(const std::string& nome);
+
+/// The arrays of a run of all stages at the end of the last one, classified once more: what the
+/// next iteration would start from.
+/// @throws std::runtime_error if a stage does not come to rest
+[[nodiscard]] std::unique_ptr<analysis::ArraysCorsa> corsaConvergente(project::DatiProgetto dati,
+                                                                      int nSeg);
+
+}  // namespace korven::bench

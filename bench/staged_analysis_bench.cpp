@@ -1,0 +1,71 @@
+#include <benchmark/benchmark.h>
+
+#include <filesystem>
+
+#include "analysis/calcolo_paratia.hpp"
+#include "analysis/run_flags.hpp"
+#include "analysis/segment_count.hpp"
+#include "base/file_names.hpp"
+#include "commands/project_commands.hpp"
+#include "example_run.hpp"
+#include "support/temporary_folder.hpp"
+
+// Whole runs of the largest example, a long wall with six layers and six stages, files included.
+
+namespace {
+
+using namespace korven;
+
+class Muto : public base::Dialogo, public analysis::Avanzamento {
+ public:
+    void messaggio(std::string_view, std::string_view, base::Icona) override {}
+    base::Risposta domanda(std::string_view, std::string_view, base::Pulsanti,
+                           base::Icona) override {
+        return base::Risposta::no;
+    }
+    void puntatore(base::Puntatore) override {}
+    void apri() override {}
+    void iterazione(const analysis::StatoIterazione&) override { ++iterazioni; }
+    void chiudi() override {}
+
+    int iterazioni = 0;
+};
+
+void corsa(benchmark::State& stato, bool aggiornata, bool relazione) {
+    const test::CartellaProvvisoria cartella;
+    const auto dati = bench::esempio("paratia_lunga_incastro");
+    analysis::contenutoNSeg = std::to_string(stato.range(0));
+    project::fileCorrente = cartella / "muro.kvd";
+    Muto muto;
+    commands::UscitaRelazione uscita(relazione);
+    const auto esegui = [&] {
+        project::Progetto = dati;
+        analysis::CalcoloParatia(0, {muto, muto, uscita});
+    };
+    esegui();
+    for (auto _ : stato) {
+        if (!aggiornata) {
+            stato.PauseTiming();
+            std::filesystem::remove(base::nomeRisultati(project::fileCorrente));
+            stato.ResumeTiming();
+        }
+        muto.iterazioni = 0;
+        esegui();
+        if (analysis::erroreCalcolo || (muto.iterazioni == 0) != aggiornata)
+            stato.SkipWithError("not the run that was meant");
+    }
+    stato.counters["iterazioni"] = muto.iterazioni;
+}
+
+void taglie(benchmark::internal::Benchmark* b) {
+    b->Unit(benchmark::kMillisecond)->UseRealTime();
+    for (const int nSeg : {50, 100, 248}) b->Arg(nSeg);
+}
+
+BENCHMARK_CAPTURE(corsa, daCapo, false, false)->Apply(taglie);
+BENCHMARK_CAPTURE(corsa, aggiornata, true, false)->Apply(taglie);
+BENCHMARK_CAPTURE(corsa, daCapoConRelazione, false, true)->Apply(taglie);
+
+}  // namespace
+
+BENCHMARK_MAIN();
