@@ -20,8 +20,8 @@ double cap(double t, double r) {
 // means that the centre lies on the far side too.
 double oltre(double distanza, double r) {
     if (distanza > 0) return cap(distanza, r);
-    if (distanza < 0) return pi * r * r - cap(-distanza, r);
-    return pi * r * r / 2;
+    if (distanza < 0) return pi * (r * r) - cap(-distanza, r);
+    return pi * (r * r) / 2;
 }
 
 }  // namespace
@@ -30,7 +30,7 @@ double areaCerchioInStriscia(double c, double r, double y0, double y1) {
     if (c + r <= y0 || c - r >= y1) return 0;
     const bool tagliatoSotto = c - r < y0;
     const bool tagliatoSopra = c + r > y1;
-    double area = pi * r * r;
+    double area = pi * (r * r);
     if (tagliatoSotto) area -= oltre(c - y0, r);
     if (tagliatoSopra) area -= oltre(y1 - c, r);
     return area;
