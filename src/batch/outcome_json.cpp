@@ -1,3 +1,4 @@
+#include <cmath>
 #include <nlohmann/json.hpp>
 
 #include "batch/outcome.hpp"
@@ -8,7 +9,8 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-constexpr double kN = 10;  // a tonne-force
+// t m to kN m. The result file has seven decimals; six remain, without the noise of the product.
+double kNm(double momento) { return std::round(momento * 1e7) / 1e6; }
 
 Json fase(const commands::EsitoFase& riga, const Esito& esito) {
     Json iterazioni = nullptr;
@@ -18,8 +20,8 @@ Json fase(const commands::EsitoFase& riga, const Esito& esito) {
               {"iterazioni", iterazioni},
               {"scavo_m", riga.profFase},
               {"spostamento_massimo_m", riga.spostamentoMax},
-              {"momento_massimo_kNm", riga.momentoMax * kN},
-              {"momento_minimo_kNm", riga.momentoMin * kN}};
+              {"momento_massimo_kNm", kNm(riga.momentoMax)},
+              {"momento_minimo_kNm", kNm(riga.momentoMin)}};
     for (const auto& corsa : esito.fasi)
         if (corsa.fase == riga.fase && !corsa.traccia.empty()) j["traccia"] = corsa.traccia;
     return j;
@@ -32,8 +34,8 @@ Json calcolo(const Esito& esito) {
     return {{"segmenti", esito.calcolo->nSeg},
             {"gia_aggiornato", esito.giaAggiornato},
             {"fasi", fasi},
-            {"momento_massimo_kNm", chiusura.mMaxTotale * kN},
-            {"momento_minimo_kNm", chiusura.mMinTotale * kN},
+            {"momento_massimo_kNm", kNm(chiusura.mMaxTotale)},
+            {"momento_minimo_kNm", kNm(chiusura.mMinTotale)},
             // N mm to kN m; the pass of negative curvature resists the positive moment
             {"momento_resistente_positivo_kNm", -chiusura.mrd1 / 1e6},
             {"momento_resistente_negativo_kNm", -chiusura.mrd2 / 1e6},
