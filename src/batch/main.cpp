@@ -103,6 +103,12 @@ void racconta(const Opzioni& opzioni, const Esito& esito) {
         std::cout << base::traduttore("File scritto") << ": " << file << '\n';
 }
 
+void fallisci(const std::string& perche, Esito& esito) {
+    std::cerr << "korven32c: " << perche << '\n';
+    esito.messaggi.push_back(perche);
+    esito.codice = ingressoRotto;
+}
+
 constexpr const char* nomiComandi[] = {"calcola", "relazione", "verifica"};
 
 int programma(int argc, const char* const* argv) {
@@ -113,15 +119,16 @@ int programma(int argc, const char* const* argv) {
 
     std::signal(SIGINT, interrompi);
     std::signal(SIGTERM, interrompi);
+    std::signal(SIGXFSZ, SIG_IGN);  // a file at its size limit is a failed write like others
     Esito esito;
     esito.comando = nomiComandi[static_cast<int>(opzioni->comando)];
     esito.progetto = opzioni->progetto;
     try {
         esito.codice = esegui(*opzioni, esito);
-    } catch (const std::exception& errore) {  // broken input, full disk, a table too small
-        std::cerr << "korven32c: " << errore.what() << '\n';
-        esito.messaggi.emplace_back(errore.what());
-        esito.codice = ingressoRotto;
+    } catch (const base::ErroreIndice& errore) {  // the project asks for more than a table holds
+        fallisci(esito.progetto + ": " + errore.what(), esito);
+    } catch (const std::exception& errore) {  // broken input, full disk
+        fallisci(errore.what(), esito);
     }
     racconta(*opzioni, esito);
     return esito.codice;
