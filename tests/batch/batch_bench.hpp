@@ -88,4 +88,34 @@ inline project::DatiProgetto progettoSenzaPace() {
     return d;
 }
 
+/// A wall in stiff ground whose one stage takes 22 iterations in 30 segments.
+inline project::DatiProgetto progettoLento() {
+    project::DatiProgetto d;
+    project::azzera(d);
+    d.nStrati = 2;
+    d.profStrato[1] = 8;
+    d.profStrato[2] = 13;
+    d.gammaN[1] = 1.69;
+    d.gammaN[2] = 1.71;
+    d.coesione[1] = 2;
+    for (int j = 1; j <= 2; ++j) {
+        d.gammaSat[j] = 2;
+        d.phiStrato[j] = 40;
+        d.ksStrato[j] = 50000;
+    }
+    d.vincoloTesta = d.modoKs = d.modoTensioni = d.metodoSpinte = 1;
+    d.modoSpinte = 2;
+    d.vincoloPiede = d.metodoKs = 3;
+    d.lunghezzaParatia = 12;
+    d.rigidezzaEJ = 500;
+    d.sovraccMonte = 1;
+    d.forzaTesta = 3;
+    d.faldaMonte = 50;
+    d.faldaValle = 5;
+    d.nFasi = 1;
+    d.profFase[1] = 7.2;
+    d.faldaFase[1] = 50;
+    return d;
+}
+
 }  // namespace korven::test

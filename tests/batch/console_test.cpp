@@ -27,9 +27,20 @@ TEST_F(Console, WritesOneLineAStageOnTheErrorOutputWhenItIsNoTerminal) {
 
 TEST_F(Console, RecordsSlowStagesOnRequestAlone) {
     // The sample comes to rest quickly; a stage of few iterations has no record.
-    const auto esito = esegui("calcola", {"--traccia"});
-    EXPECT_EQ(esito.codice, 0);
-    EXPECT_FALSE(dice(esito.uscita, "cambi: ")) << esito.uscita;
+    EXPECT_FALSE(dice(esegui("calcola", {"--traccia"}).uscita, "cambi: "));
+    scrivi(test::progettoLento());
+    const std::vector<std::string> comando = {"calcola", progetto, "--nseg", "30"};
+    EXPECT_FALSE(dice(console(comando).uscita, "cambi: "));
+    std::filesystem::remove(cartella / "muro.OUT");
+    auto conTraccia = comando;
+    conTraccia.emplace_back("--traccia");
+    const auto esito = console(conTraccia);
+    EXPECT_EQ(esito.codice, 0) << esito.errori;
+    EXPECT_TRUE(dice(esito.uscita, "Calcolo eseguito.\nFase 1, 22 iterazioni:\n  nodo "))
+        << esito.uscita;
+    EXPECT_TRUE(dice(esito.uscita, " cambi: ")) << esito.uscita;
+    // A file that is up to date tells no iterations.
+    EXPECT_FALSE(dice(console(conTraccia).uscita, "cambi: "));
 }
 
 }  // namespace
