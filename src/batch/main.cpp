@@ -1,6 +1,7 @@
 #include <csignal>
 #include <exception>
 #include <iostream>
+#include <stdexcept>
 
 #include "analysis/calcolo_paratia.hpp"
 #include "analysis/run_flags.hpp"
@@ -103,10 +104,10 @@ void racconta(const Opzioni& opzioni, const Esito& esito) {
         std::cout << base::traduttore("File scritto") << ": " << file << '\n';
 }
 
-void fallisci(const std::string& perche, Esito& esito) {
+void fallisci(int codice, const std::string& perche, Esito& esito) {
     std::cerr << "korven32c: " << perche << '\n';
     esito.messaggi.push_back(perche);
-    esito.codice = ingressoRotto;
+    esito.codice = codice;
 }
 
 constexpr const char* nomiComandi[] = {"calcola", "relazione", "verifica"};
@@ -126,9 +127,11 @@ int programma(int argc, const char* const* argv) {
     try {
         esito.codice = esegui(*opzioni, esito);
     } catch (const base::ErroreIndice& errore) {  // the project asks for more than a table holds
-        fallisci(esito.progetto + ": " + errore.what(), esito);
+        fallisci(ingressoRotto, esito.progetto + ": " + errore.what(), esito);
+    } catch (const std::domain_error& errore) {  // like a result that is not finite
+        fallisci(nonEseguito, esito.progetto + ": " + errore.what(), esito);
     } catch (const std::exception& errore) {  // broken input, full disk
-        fallisci(errore.what(), esito);
+        fallisci(ingressoRotto, errore.what(), esito);
     }
     racconta(*opzioni, esito);
     return esito.codice;

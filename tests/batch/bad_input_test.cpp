@@ -169,6 +169,19 @@ TEST_F(IngressoRotto, AnIndexBeyondATableNamesTheProject) {
     EXPECT_EQ(nomi(), "muro.kvd ");
 }
 
+TEST_F(IngressoRotto, AValueTooLargeToBeShownIsARefusalWithoutAReport) {
+    auto d = progettoSemplice();
+    d.nStrati = 3;  // a layer below the wall, which no node lies in
+    d.profStrato[3] = 40;
+    d.gammaN[3] = 1.7e308;
+    scrivi(d);
+    const auto esito = esegui("relazione");
+    EXPECT_EQ(esito.codice, 1);
+    EXPECT_TRUE(dice(esito.errori, progetto + ": i dati portano a un valore troppo grande"))
+        << esito.errori;
+    EXPECT_FALSE(fs::exists(cartella / "muro.TAB"));
+}
+
 TEST_F(IngressoRotto, AFullDiskLeavesTheProjectAndNoHalfFile) {
     Ambiente pieno;
     for (const long limite : {0L, 100L, 1000L, 2000L}) {  // head, stages
