@@ -39,10 +39,16 @@ constexpr Controllo controlli[] = {
 
 }  // namespace
 
-std::string_view motivoRifiuto(const DatiProgetto& dati) {
+std::vector<std::string_view> motiviRifiuto(const DatiProgetto& dati) {
+    std::vector<std::string_view> motivi;
     for (const auto& [fallisce, messaggio] : controlli)
-        if (fallisce(dati)) return messaggio;
-    return {};
+        if (fallisce(dati)) motivi.push_back(messaggio);
+    return motivi;
+}
+
+std::string_view motivoRifiuto(const DatiProgetto& dati) {
+    const auto motivi = motiviRifiuto(dati);
+    return motivi.empty() ? std::string_view{} : motivi.front();
 }
 
 }  // namespace korven::analysis

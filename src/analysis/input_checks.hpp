@@ -1,13 +1,18 @@
 #pragma once
 
 #include <string_view>
+#include <vector>
 
 #include "project/project_data.hpp"
 
 namespace korven::analysis {
 
-/// The first reason why a run would be refused before anything is read or written, as an Italian
-/// key; empty if there is none. The missing stiffness is no such reason: the section may give it.
+/// The reasons why a run would be refused before anything is read or written, as Italian keys, in
+/// the order in which they are looked at. The missing stiffness is no such reason: the section may
+/// give it.
+[[nodiscard]] std::vector<std::string_view> motiviRifiuto(const project::DatiProgetto& dati);
+
+/// The first of them, which a run tells; empty if there is none.
 [[nodiscard]] std::string_view motivoRifiuto(const project::DatiProgetto& dati);
 
 /// The message of a run without a bending stiffness, an Italian key.

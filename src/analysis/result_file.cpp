@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <string_view>
+#include <utility>
 
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
@@ -88,7 +89,10 @@ std::string testoChiusura(const ChiusuraRisultati& chiusura) {
 }
 
 LettoreRisultati::LettoreRisultati(const std::string& percorso, int nNodi)
-    : file_(base::LettoreRighe::apri(percorso, traduttore(rimedioRisultati))), nNodi_(nNodi) {}
+    : LettoreRisultati(base::LettoreRighe::apri(percorso, traduttore(rimedioRisultati)), nNodi) {}
+
+LettoreRisultati::LettoreRisultati(base::LettoreRighe file, int nNodi)
+    : file_(std::move(file)), nNodi_(nNodi) {}
 
 void LettoreRisultati::leggiTesta(project::DatiProgetto& dati) {
     const auto titoli = dati.titoli;

@@ -52,6 +52,9 @@ class LettoreRisultati {
     /// @throws base::ErroreFile if there is no such file
     LettoreRisultati(const std::string& percorso, int nNodi);
 
+    /// Reads a file that is open already, from its head.
+    LettoreRisultati(base::LettoreRighe file, int nNodi);
+
     /// Reads the head into `dati`; the six `titoli` of `dati` stay, since a report shows those in
     /// memory.
     void leggiTesta(project::DatiProgetto& dati);

@@ -1,8 +1,8 @@
 #include "analysis/stage_sequence.hpp"
 
-#include <algorithm>
 #include <cmath>
 
+#include "analysis/anchors_in_place.hpp"
 #include "analysis/run_flags.hpp"
 #include "analysis/wall_mesh.hpp"
 
@@ -15,10 +15,9 @@ double spostamento(const ArraysCorsa& corsa, int nodo) {
 }
 
 void preparaFase(int k, project::DatiProgetto& dati, ArraysCorsa& corsa) {
-    corsa.nTirantiAttivi = static_cast<int>(dati.tirantiFase[k]);
+    corsa.nTirantiAttivi = tirantiInOpera(dati, k);
     dati.faldaValle = dati.faldaFase[k];
-    const int gia = std::max(0, static_cast<int>(dati.tirantiFase[k - 1]));
-    for (int a = gia + 1; a <= corsa.nTirantiAttivi; ++a)
+    for (int a = tirantiInOpera(dati, k - 1) + 1; a <= corsa.nTirantiAttivi; ++a)
         corsa.yTirante[a] = spostamento(corsa, nodoTirante(dati.profTirante[a], corsa.passoNodi));
     for (int i = 1; i <= corsa.nNodi; ++i) {
         corsa.EJNodo[i] = dati.rigidezzaEJ;

@@ -40,7 +40,7 @@ CifreDecimali tieni(CifreDecimali numero, int quante) {
 }  // namespace
 
 CifreDecimali cifrePiuBrevi(double valore) {
-    if (!std::isfinite(valore)) throw std::domain_error("valore numerico non finito");
+    if (!std::isfinite(valore)) throw std::domain_error("i dati portano a un valore troppo grande per essere scritto");
     char testo[40];
     const auto fine =
         std::to_chars(testo, testo + sizeof testo, std::fabs(valore), std::chars_format::scientific)

@@ -2,6 +2,7 @@
 
 #include <unistd.h>
 
+#include <cmath>
 #include <iostream>
 
 #include "base/number_text.hpp"
@@ -13,12 +14,16 @@ namespace {
 
 constexpr const char* cancellaRiga = "\r\x1b[K";
 
+// A wall on its way to failure may move beyond all numbers; the run judges that at its end.
+std::string breve(double valore, int decimali) {
+    return std::isfinite(valore) ? base::formattaDecimali(valore, decimali) : "-";
+}
+
 // Short numbers: the line must fit a terminal. Displacement in m, moment in kN m.
 std::string rigaAvanzamento(const analysis::StatoIterazione& stato) {
     return base::traduttore("fase") + "=" + std::to_string(stato.fase) +
-           "   iter.=" + std::to_string(stato.iterazione) +
-           "   Ymax=" + base::formattaDecimali(stato.yMax, 4) +
-           "   Mmax=" + base::formattaDecimali(10 * stato.mMax, 2);
+           "   iter.=" + std::to_string(stato.iterazione) + "   Ymax=" + breve(stato.yMax, 4) +
+           "   Mmax=" + breve(10 * stato.mMax, 2);
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include <csignal>
 #include <exception>
 #include <iostream>
+#include <stdexcept>
 
 #include "analysis/calcolo_paratia.hpp"
 #include "analysis/run_flags.hpp"
@@ -103,6 +104,12 @@ void racconta(const Opzioni& opzioni, const Esito& esito) {
         std::cout << base::traduttore("File scritto") << ": " << file << '\n';
 }
 
+void fallisci(int codice, const std::string& perche, Esito& esito) {
+    std::cerr << "korven32c: " << perche << '\n';
+    esito.messaggi.push_back(perche);
+    esito.codice = codice;
+}
+
 constexpr const char* nomiComandi[] = {"calcola", "relazione", "verifica"};
 
 int programma(int argc, const char* const* argv) {
@@ -113,15 +120,18 @@ int programma(int argc, const char* const* argv) {
 
     std::signal(SIGINT, interrompi);
     std::signal(SIGTERM, interrompi);
+    std::signal(SIGXFSZ, SIG_IGN);  // a file at its size limit is a failed write like others
     Esito esito;
     esito.comando = nomiComandi[static_cast<int>(opzioni->comando)];
     esito.progetto = opzioni->progetto;
     try {
         esito.codice = esegui(*opzioni, esito);
-    } catch (const std::exception& errore) {  // broken input, full disk, a table too small
-        std::cerr << "korven32c: " << errore.what() << '\n';
-        esito.messaggi.emplace_back(errore.what());
-        esito.codice = ingressoRotto;
+    } catch (const base::ErroreIndice& errore) {  // the project asks for more than a table holds
+        fallisci(ingressoRotto, esito.progetto + ": " + errore.what(), esito);
+    } catch (const std::domain_error& errore) {  // like a result that is not finite
+        fallisci(nonEseguito, esito.progetto + ": " + errore.what(), esito);
+    } catch (const std::exception& errore) {  // broken input, full disk
+        fallisci(ingressoRotto, errore.what(), esito);
     }
     racconta(*opzioni, esito);
     return esito.codice;

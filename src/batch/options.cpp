@@ -85,16 +85,22 @@ void diCalcolo(CLI::App& comando, Opzioni& o) {
 }
 
 std::string spiegazione(const CLI::ParseError& errore) {
-    const std::string nome = errore.get_name();
-    const std::map<std::string, std::string> parole = {
-        {"RequiredError", "manca un argomento"},
-        {"ExtrasError", "argomento sconosciuto"},
-        {"ConversionError", "valore non ammesso"},
-        {"ValidationError", "valore non ammesso"},
-        {"ArgumentMismatch", "manca il valore di un'opzione"},
+    static const std::map<int, std::string_view> parole = {
+        {static_cast<int>(CLI::ExitCodes::RequiredError), "manca un argomento"},
+        {static_cast<int>(CLI::ExitCodes::ExtrasError), "argomento sconosciuto"},
+        {static_cast<int>(CLI::ExitCodes::ConversionError), "valore non ammesso"},
+        {static_cast<int>(CLI::ExitCodes::ValidationError), "valore non ammesso"},
+        {static_cast<int>(CLI::ExitCodes::ArgumentMismatch), "manca il valore di un'opzione"},
     };
-    const auto trovata = parole.find(nome);
+    const auto trovata = parole.find(errore.get_exit_code());
     return (trovata == parole.end() ? "" : traduttore(trovata->second) + ": ") + errore.what();
+}
+
+// The library only says that a command is required, whatever stands in its place.
+std::string comandoMancante(int argc, const char* const* argv) {
+    return (argc > 1 ? traduttore("comando sconosciuto") + " (" + argv[1] + ")"
+                     : traduttore("manca il comando")) +
+           ": calcola, relazione, verifica";
 }
 
 }  // namespace
@@ -131,7 +137,9 @@ EsitoLettura leggiOpzioni(int argc, const char* const* argv) {
     } catch (const CLI::Success& chiesto) {  // help and version
         return {std::nullopt, app.exit(chiesto)};
     } catch (const CLI::ParseError& errore) {
-        std::cerr << "korven32c: " << spiegazione(errore) << "\n"
+        const bool senzaComando = app.get_subcommands().empty();
+        std::cerr << "korven32c: "
+                  << (senzaComando ? comandoMancante(argc, argv) : spiegazione(errore)) << "\n"
                   << traduttore("Per l'aiuto") << ": korven32c --help\n";
         return {std::nullopt, 2};
     }

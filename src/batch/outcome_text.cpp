@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cmath>
 
 #include "base/code_page.hpp"
 #include "base/number_text.hpp"
@@ -19,6 +20,7 @@ std::string colonna(const std::string& testo, std::size_t larghezza) {
 
 // A number with fixed decimals, half rounded up.
 std::string numero(double valore, std::string_view decimali) {
+    if (!std::isfinite(valore)) return "-";  // beyond what can be shown
     const std::string testo =
         base::formattaMaschera(valore, std::string("############").append(decimali));
     return std::string(base::senzaSpaziEsterni(testo));

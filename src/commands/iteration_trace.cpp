@@ -24,7 +24,7 @@ std::string parola(StatoLato stato) {
 }
 
 std::string conteggio(int cambi, int ultima) {
-    return std::to_string(cambi) + " " + traduttore("cambi") + ", " +
+    return traduttore("cambi") + ": " + std::to_string(cambi) + ", " +
            traduttore("ultimo all'iterazione") + " " + std::to_string(ultima);
 }
 

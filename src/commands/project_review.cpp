@@ -1,18 +1,14 @@
 #include "commands/project_review.hpp"
 
 #include <algorithm>
-#include <cmath>
 #include <memory>
 
 #include "analysis/input_checks.hpp"
 #include "analysis/run_arrays.hpp"
 #include "analysis/segment_count.hpp"
-#include "analysis/soil_state.hpp"
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
-#include "structure/section_type.hpp"
-#include "structure/section_validity.hpp"
-#include "structure/stiffness.hpp"
+#include "commands/review_list.hpp"
 
 namespace korven::commands {
 
@@ -21,29 +17,6 @@ namespace {
 using base::testoNumero;
 using base::traduttore;
 using project::DatiProgetto;
-
-class Elenco {
- public:
-    void impedimento(std::string testo) { rilievi_.push_back({true, std::move(testo)}); }
-    void avviso(std::string testo) { rilievi_.push_back({false, std::move(testo)}); }
-    std::vector<Rilievo> ordinato() {
-        std::stable_partition(rilievi_.begin(), rilievi_.end(),
-                              [](const Rilievo& r) { return r.impedisce; });
-        return std::move(rilievi_);
-    }
-
- private:
-    std::vector<Rilievo> rilievi_;
-};
-
-// "strato 3: ..."
-std::string riga(const char* nome, int numero, std::string_view testo) {
-    return traduttore(nome) + " " + std::to_string(numero) + ": " + traduttore(testo);
-}
-
-std::string conValore(std::string testo, double valore) {
-    return std::move(testo) + " (" + testoNumero(valore) + ")";
-}
 
 struct Codice {
     double DatiProgetto::*campo;
@@ -61,9 +34,7 @@ constexpr Codice codici[] = {
     {&DatiProgetto::metodoKs, "metodo di ks", 4},
 };
 
-bool intero(double valore) { return valore == std::floor(valore); }
-
-void controlloCodici(const DatiProgetto& dati, Elenco& elenco) {
+void controlloCodici(const DatiProgetto& dati, ElencoRilievi& elenco) {
     for (const auto& [campo, nome, ultimo] : codici) {
         const double valore = dati.*campo;
         if (valore >= 1 && valore <= ultimo && intero(valore)) continue;
@@ -73,21 +44,24 @@ void controlloCodici(const DatiProgetto& dati, Elenco& elenco) {
     for (int j = 1; j <= dati.nTiranti; ++j)
         if (dati.tipoTirante[j] != 0 && dati.tipoTirante[j] != 1)
             elenco.avviso(
-                conValore(riga("tirante", j, "codice non previsto, agisce solo a trazione"),
+                conValore(riga("tirante", j,
+                               "tipo non previsto: il calcolo lo fa agire solo a "
+                               "trazione, la relazione lo dice a trazione e compressione"),
                           dati.tipoTirante[j]));
 }
 
-void controlloStrati(const DatiProgetto& dati, Elenco& elenco) {
+void controlloStrati(const DatiProgetto& dati, ElencoRilievi& elenco) {
     for (int j = 1; j <= dati.nStrati; ++j) {
         if (dati.profStrato[j] < dati.profStrato[j - 1])
-            elenco.avviso(riga("strato", j, "finisce sopra lo strato precedente"));
+            elenco.avviso(riga("strato", j, "finisce più in alto dello strato precedente"));
         else if (dati.profStrato[j] == dati.profStrato[j - 1])
             elenco.avviso(riga("strato", j, "ha spessore nullo"));
-        if (dati.gammaN[j] <= 0 || dati.gammaSat[j] <= 0)
-            elenco.avviso(riga("strato", j, "peso di volume mancante"));
+        if (dati.gammaN[j] <= 0) elenco.avviso(riga("strato", j, "peso di volume mancante"));
+        if (dati.gammaSat[j] <= 0)
+            elenco.avviso(riga("strato", j, "peso di volume saturo mancante"));
         if (dati.metodoKs >= 3 && dati.ksStrato[j] <= 0)
             elenco.avviso(riga("strato", j, "modulo ks mancante"));
-        // Bell's coefficients don't know the slope.
+        // Whether a run can do with it depends on the method; `controlloSuolo` finds that out.
         if (dati.phiStrato[j] < dati.inclinazioneMonte)
             elenco.avviso(
                 riga("strato", j, "l'angolo di attrito è minore dell'inclinazione del terreno"));
@@ -96,85 +70,50 @@ void controlloStrati(const DatiProgetto& dati, Elenco& elenco) {
         elenco.avviso(traduttore(
             "gli strati finiscono sopra il piede della paratia: l'ultimo viene prolungato"));
     if (dati.metodoKs == 2 && dati.coeffM <= 0)
-        elenco.avviso(traduttore("coefficiente m mancante: ks è nullo ovunque"));
+        elenco.avviso(traduttore("coefficiente m non positivo: il terreno non ha rigidezza"));
 }
 
-void controlloTiranti(const DatiProgetto& dati, Elenco& elenco) {
+void controlloTiranti(const DatiProgetto& dati, ElencoRilievi& elenco) {
     for (int j = 1; j <= dati.nTiranti; ++j) {
-        if (dati.profTirante[j] > dati.lunghezzaParatia || dati.profTirante[j] < 0)
-            elenco.avviso(riga("tirante", j, "è fuori dalla paratia e non ha effetto"));
-        if (j > 1 && dati.profTirante[j] < dati.profTirante[j - 1])
-            elenco.avviso(riga("tirante", j, "è più alto del precedente"));
+        const double prof = dati.profTirante[j];
+        if (dati.lunghezzaParatia > 0 && prof > dati.lunghezzaParatia)
+            elenco.avviso(conValore(riga("tirante", j, "è più profondo della paratia"), prof));
+        if (prof < 0)
+            elenco.avviso(conValore(riga("tirante", j, "è sopra la testa della paratia"), prof));
+        if (j > 1 && prof < dati.profTirante[j - 1])
+            elenco.avviso(riga("tirante", j, "è più in alto del precedente"));
     }
 }
 
-void controlloFasi(const DatiProgetto& dati, Elenco& elenco) {
+void controlloTirantiFase(const DatiProgetto& dati, int k, ElencoRilievi& elenco) {
+    const double inOpera = dati.tirantiFase[k];
+    if (inOpera >= project::massimoTiranti + 1)
+        elenco.impedimento(
+            conValore(riga("fase", k, "più tiranti di quanti ne tiene la tabella (20)"), inOpera));
+    else if (inOpera > dati.nTiranti)
+        elenco.avviso(conValore(
+            riga("fase", k, "più tiranti di quelli definiti: gli altri non hanno effetto"),
+            inOpera));
+    else if (inOpera < 0)
+        elenco.avviso(conValore(riga("fase", k, "il numero di tiranti è negativo"), inOpera));
+    if (!intero(inOpera))
+        elenco.avviso(conValore(riga("fase", k, "il numero di tiranti non è intero"), inOpera));
+    if (k > 1 && inOpera < dati.tirantiFase[k - 1])
+        elenco.avviso(riga("fase", k, "i tiranti sono meno che nella fase precedente"));
+}
+
+void controlloFasi(const DatiProgetto& dati, ElencoRilievi& elenco) {
     for (int k = 1; k <= dati.nFasi; ++k) {
-        const double inOpera = dati.tirantiFase[k];
-        if (inOpera < 0 || inOpera > project::massimoTiranti)
-            elenco.impedimento(conValore(
-                riga("fase", k, "numero di tiranti fuori dalla tabella (da 0 a 20)"), inOpera));
-        else if (inOpera > dati.nTiranti)
-            elenco.avviso(conValore(
-                riga("fase", k, "sono richiesti più tiranti di quelli definiti"), inOpera));
-        else if (!intero(inOpera))
-            elenco.avviso(conValore(riga("fase", k, "il numero di tiranti non è intero"), inOpera));
+        controlloTirantiFase(dati, k, elenco);
         if (k > 1 && dati.profFase[k] < dati.profFase[k - 1])
             elenco.avviso(riga("fase", k, "lo scavo è meno profondo che nella fase precedente"));
-        if (k > 1 && inOpera < dati.tirantiFase[k - 1])
-            elenco.avviso(riga("fase", k, "i tiranti sono meno che nella fase precedente"));
-        if (dati.profFase[k] >= dati.lunghezzaParatia && dati.lunghezzaParatia > 0)
+        if (dati.lunghezzaParatia > 0 && dati.profFase[k] >= dati.lunghezzaParatia)
             elenco.avviso(riga("fase", k, "lo scavo raggiunge o supera il piede della paratia"));
     }
 }
 
-bool qualcosaScritto(const project::Sezione& s) {
-    project::Sezione vuota;
-    vuota.tipoDiaframma = s.tipoDiaframma;
-    vuota.tipoPali = s.tipoPali;
-    vuota.tipoPalancola = s.tipoPalancola;
-    vuota.tipoPaliArmati = s.tipoPaliArmati;
-    return !(s == vuota);
-}
-
-void controlloSezione(const DatiProgetto& dati, Elenco& elenco) {
-    const project::Sezione& s = dati.sezione;
-    if (s.tipoDiaframma + s.tipoPali + s.tipoPalancola + s.tipoPaliArmati > 1)
-        elenco.avviso(traduttore("sezione: più tipi indicati insieme, vale il primo"));
-    if (!structure::sezioneValida(s)) {
-        if (qualcosaScritto(s))
-            elenco.avviso(traduttore(
-                "sezione definita solo in parte: nessuna verifica strutturale e nessun ricalcolo "
-                "di EJ"));
-        return;
-    }
-    if (structure::tipoSezione(s) != structure::TipoSezione::paliArmati) return;
-    if (s.armNumLong < 1)
-        elenco.avviso(conValore(
-            traduttore("numero di ferri memorizzato minore di 1: i pali contano come non armati"),
-            s.armNumLong));
-    else if (!intero(s.armNumLong))
-        elenco.avviso(
-            conValore(traduttore("numero di ferri memorizzato non intero"), s.armNumLong));
-    if (s.armNumLong >= 1 || s.armNumLong > 0)
-        elenco.avviso(conValore(
-            traduttore("numero di ferri: l'editore e la relazione mostrano dieci volte quello che "
-                       "calcola"),
-            s.armNumLong));
-}
-
-void controlloRigidezza(const DatiProgetto& dati, Elenco& elenco) {
-    if (dati.rigidezzaEJ < 0)
-        elenco.avviso(conValore(traduttore("la rigidezza EJ è negativa"), dati.rigidezzaEJ));
-    if (dati.rigidezzaEJ != 0) return;
-    constexpr double unaRigidezza = 10000000000;  // N mm2 to t m2
-    if (!structure::sezioneValida(dati.sezione) ||
-        std::trunc(structure::calcolaEJ(dati.sezione) / unaRigidezza) == 0)
-        elenco.impedimento(traduttore(analysis::messaggioSenzaEJ));
-}
-
 // The soil values of all stages, as a run would compute them.
-void controlloSuolo(DatiProgetto dati, int nSeg, Elenco& elenco) {
+void controlloSuolo(DatiProgetto dati, int nSeg, ElencoRilievi& elenco) {
     const auto suolo = std::make_unique<analysis::StatoSuolo>();
     for (int k = 1; k <= dati.nFasi; ++k) {
         dati.faldaValle = dati.faldaFase[k];
@@ -188,16 +127,19 @@ void controlloSuolo(DatiProgetto dati, int nSeg, Elenco& elenco) {
     }
 }
 
+void controlloIngressi(const DatiProgetto& dati, ElencoRilievi& elenco) {
+    const auto motivi = analysis::motiviRifiuto(dati);
+    for (const auto motivo : motivi) elenco.impedimento(traduttore(motivo));
+    const auto nSeg = analysis::leggiNSeg(analysis::vincoli(dati).incastroPiede);
+    if (!nSeg) elenco.impedimento(traduttore(analysis::messaggioNSeg));
+    if (motivi.empty() && nSeg) controlloSuolo(dati, *nSeg, elenco);
+}
+
 }  // namespace
 
 std::vector<Rilievo> esaminaProgetto(const DatiProgetto& dati) {
-    Elenco elenco;
-    const auto motivo = analysis::motivoRifiuto(dati);
-    if (!motivo.empty()) elenco.impedimento(traduttore(motivo));
-    controlloRigidezza(dati, elenco);
-    const auto nSeg = analysis::leggiNSeg(analysis::vincoli(dati).incastroPiede);
-    if (!nSeg) elenco.impedimento(traduttore(analysis::messaggioNSeg));
-    if (motivo.empty() && nSeg) controlloSuolo(dati, *nSeg, elenco);
+    ElencoRilievi elenco;
+    controlloIngressi(dati, elenco);
     controlloCodici(dati, elenco);
     controlloStrati(dati, elenco);
     controlloTiranti(dati, elenco);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <limits>
 
+#include "analysis/anchors_in_place.hpp"
 #include "analysis/input_checks.hpp"
 #include "analysis/segment_count.hpp"
 #include "analysis/wall_mesh.hpp"
@@ -32,7 +33,7 @@ class StoriaTiranti {
 
     /// Anchors that come into place in stage s stand on the wall as the stage before left it.
     void entra(int s) {
-        for (int j = std::max(0, inOpera(s - 1)) + 1; j <= inOpera(s); ++j)
+        for (int j = inOpera(s - 1) + 1; j <= inOpera(s); ++j)
             yTirante[j] = s > 1 ? spostamento(s - 1, j) : 0;
     }
     void aggiorna(int s) {
@@ -43,9 +44,7 @@ class StoriaTiranti {
         const DatiProgetto& p = dati_.progetto;
         return tiroFinale(p.pretTirante[j], p.rigTirante[j], maxSpostTirante_[j], yTirante[j]);
     }
-    [[nodiscard]] int inOpera(int s) const {
-        return static_cast<int>(dati_.progetto.tirantiFase[s]);
-    }
+    [[nodiscard]] int inOpera(int s) const { return analysis::tirantiInOpera(dati_.progetto, s); }
 
     base::Tabella<double, project::massimoTiranti> yTirante;
 

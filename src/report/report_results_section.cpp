@@ -1,3 +1,4 @@
+#include "analysis/anchors_in_place.hpp"
 #include "base/translated_texts.hpp"
 #include "report/report_sections.hpp"
 
@@ -18,7 +19,7 @@ void fase(const DatiRelazione& dati, int s, RigheRelazione& righe) {
 }
 
 void tiranti(const DatiRelazione& dati, RigheRelazione& righe) {
-    const auto inOpera = static_cast<int>(dati.progetto.tirantiFase[dati.progetto.nFasi]);
+    const int inOpera = analysis::tirantiInOpera(dati.progetto, dati.progetto.nFasi);
     if (inOpera <= 0) return;
     righe.titolo("MASSIME TENSIONI APPLICATE AI TIRANTI");
     righe.vuota();

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "project/project_data.hpp"
+
+namespace korven::analysis {
+
+/// Number of anchors in place in stage `fase`, counted from the first row of the anchor table: the
+/// whole part of its `tirantiFase`, 0 for a negative one. Stage 0 stands before the first and has
+/// none.
+/// @throws base::ErroreIndice if there are more than the table holds
+[[nodiscard]] inline int tirantiInOpera(const project::DatiProgetto& dati, int fase) {
+    const double numero = dati.tirantiFase[fase];
+    if (!(numero < project::massimoTiranti + 1))
+        throw base::ErroreIndice(project::massimoTiranti + 1, project::massimoTiranti);
+    return numero > 0 ? static_cast<int>(numero) : 0;
+}
+
+}  // namespace korven::analysis

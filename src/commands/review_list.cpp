@@ -1,0 +1,28 @@
+#include "commands/review_list.hpp"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "base/number_text.hpp"
+#include "base/translated_texts.hpp"
+
+namespace korven::commands {
+
+std::vector<Rilievo> ElencoRilievi::ordinato() {
+    std::stable_partition(rilievi_.begin(), rilievi_.end(),
+                          [](const Rilievo& r) { return r.impedisce; });
+    return std::exchange(rilievi_, {});
+}
+
+std::string riga(std::string_view nome, int numero, std::string_view testo) {
+    return base::traduttore(nome) + " " + std::to_string(numero) + ": " + base::traduttore(testo);
+}
+
+std::string conValore(std::string testo, double valore) {
+    return std::move(testo) + " (" + base::testoNumero(valore) + ")";
+}
+
+bool intero(double valore) { return valore == std::floor(valore); }
+
+}  // namespace korven::commands

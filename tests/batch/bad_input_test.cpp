@@ -1,0 +1,226 @@
+#include "batch_bench.hpp"
+
+namespace korven::batch {
+namespace {
+
+namespace fs = std::filesystem;
+using test::Ambiente;
+using test::contenuto;
+using test::dice;
+using test::metti;
+using test::progettoSemplice;
+
+using IngressoRotto = test::BancoConsole;
+
+TEST_F(IngressoRotto, AMissingProjectIsToldWithItsPathAndTheReason) {
+    for (const char* comando : {"calcola", "relazione", "verifica"}) {
+        const auto esito = console({comando, cartella / "altro.kvd"});
+        EXPECT_EQ(esito.codice, 3);
+        EXPECT_TRUE(dice(esito.errori, cartella / "altro.kvd")) << esito.errori;
+        EXPECT_TRUE(dice(esito.errori, "No such file or directory")) << esito.errori;
+        EXPECT_TRUE(esito.uscita.empty());
+    }
+}
+
+TEST_F(IngressoRotto, AFolderIsNoProject) {
+    fs::create_directory(cartella / "muri.kvd");
+    const auto esito = console({"calcola", cartella / "muri.kvd"});
+    EXPECT_EQ(esito.codice, 3);
+    EXPECT_TRUE(dice(esito.errori, cartella / "muri.kvd: ")) << esito.errori;
+    EXPECT_TRUE(dice(esito.errori, "Is a directory")) << esito.errori;
+}
+
+TEST_F(IngressoRotto, AProjectThatMayNotBeReadIsToldWithTheReason) {
+    fs::permissions(progetto, fs::perms::none);
+    const auto esito = esegui("calcola", {}, {.senzaPrivilegi = true});
+    if (esito.codice == 127) GTEST_SKIP() << "root without the right to give up its rights";
+    EXPECT_EQ(esito.codice, 3);
+    EXPECT_TRUE(dice(esito.errori, "Permission denied")) << esito.errori;
+}
+
+TEST_F(IngressoRotto, ABrokenLineIsToldWithItsNumberAndWhatWasExpectedAndNothingIsMade) {
+    const std::string intero = contenuto(progetto);
+    const auto primeRighe = [&](int quante) {
+        std::size_t fine = 0;
+        for (int i = 0; i < quante; ++i) fine = intero.find('\n', fine) + 1;
+        return intero.substr(0, fine);
+    };
+    const struct {
+        std::string testo;
+        const char *riga, *atteso;
+    } casi[] = {
+        {"", "riga 1", "numero degli strati"},
+        {primeRighe(1), "riga 2", "profondità dello strato 1"},
+        {primeRighe(10), "riga 11", "peso naturale dello strato 2"},
+        {primeRighe(20), "riga 21", "opzione di ks"},
+        {primeRighe(40), "riga 41", "tipo del tirante 1"},
+        {primeRighe(44), "riga 45", "sovraccarico della fase 1"},
+        {primeRighe(60), "riga 61", "diametro delle armature a monte"},
+        {"101\r\n", "riga 1", "numero degli strati, un intero da 0 a 100"},
+        {"-1\r\n", "riga 1", "un intero da 0 a 100"},
+        {"2.5\r\n", "riga 1", "un intero da 0 a 100"},
+        {"due\r\n", "riga 1", "un intero da 0 a 100"},
+        {"\r\n", "riga 1", "un intero da 0 a 100"},
+        {primeRighe(9) + "venti\r\n", "riga 10", "profondità dello strato 2"},
+        {primeRighe(36) + "21\r\n", "riga 37", "numero dei tiranti, un intero da 0 a 20"},
+        {primeRighe(41) + "21\r\n", "riga 42", "numero delle fasi, un intero da 0 a 20"},
+    };
+    for (const auto& caso : casi) {
+        metti(progetto, caso.testo);
+        const auto prima = file();
+        for (const char* comando : {"calcola", "relazione", "verifica"}) {
+            const auto esito = esegui(comando, {"--uscita", cartella / "fuori"});
+            EXPECT_EQ(esito.codice, 3);
+            EXPECT_TRUE(dice(esito.errori, progetto + ", " + caso.riga + ":")) << esito.errori;
+            EXPECT_TRUE(dice(esito.errori, caso.atteso)) << esito.errori;
+        }
+        EXPECT_EQ(file(), prima);
+        EXPECT_FALSE(fs::exists(cartella / "fuori"));
+    }
+}
+
+TEST_F(IngressoRotto, AResultFileCutShortNeverGivesAWrongReport) {
+    ASSERT_EQ(esegui("relazione").codice, 0);
+    const std::string buono = contenuto(cartella / "muro.OUT");
+    const std::string relazione = contenuto(cartella / "muro.TAB");
+    std::vector<std::size_t> tagli = {0, 1, 2, 50, 200, 300};
+    for (std::size_t t = buono.find("sigmaVv"); t < buono.size(); t += 173) tagli.push_back(t);
+    for (std::size_t t = buono.size() - 30; t < buono.size(); ++t) tagli.push_back(t);
+    int rifiutati = 0;
+    for (const std::size_t taglio : tagli) {
+        metti(cartella / "muro.OUT", buono.substr(0, taglio));
+        fs::remove(cartella / "muro.TAB");
+        const auto esito = esegui("relazione");
+        if (esito.codice == 0) {  // the head differed, or only a line end was missing
+            EXPECT_EQ(contenuto(cartella / "muro.TAB"), relazione) << taglio;
+            continue;
+        }
+        ++rifiutati;
+        EXPECT_EQ(esito.codice, 3) << taglio;
+        EXPECT_TRUE(dice(esito.errori, cartella / "muro.OUT, riga ")) << esito.errori;
+        EXPECT_TRUE(dice(esito.errori, "cancellarlo e ripetere il calcolo")) << esito.errori;
+        EXPECT_FALSE(fs::exists(cartella / "muro.TAB")) << taglio;
+    }
+    EXPECT_GT(rifiutati, 40);
+}
+
+TEST_F(IngressoRotto, AResultFileOfAnotherMeshIsRefusedWithWhatToDo) {
+    ASSERT_EQ(esegui("calcola").codice, 0);
+    for (const char* nSeg : {"9", "11", "20"}) {
+        for (const char* comando : {"calcola", "relazione"}) {
+            const auto esito = console({comando, progetto, "--nseg", nSeg});
+            EXPECT_EQ(esito.codice, 3);
+            EXPECT_TRUE(dice(esito.errori, "muro.OUT")) << esito.errori;
+            EXPECT_TRUE(dice(esito.errori, "altro numero di segmenti (nseg.txt)")) << esito.errori;
+        }
+    }
+    EXPECT_EQ(nomi(), "muro.OUT muro.kvd ");
+}
+
+TEST_F(IngressoRotto, AnUnusableNumberOfSegmentsIsARefusalWithAMessage) {
+    for (const char* nSeg : {"2", "250", "0", "-7", "1.5", "cinquanta"}) {
+        const auto esito = console({"calcola", progetto, std::string("--nseg=") + nSeg});
+        EXPECT_EQ(esito.codice, 1) << nSeg;
+        EXPECT_TRUE(dice(esito.errori, "ATTENZIONE! Il numero di segmenti indicato in nseg.txt"))
+            << esito.errori;
+    }
+    fs::create_directory(cartella / "casa");
+    metti(cartella / "casa/nseg.txt", "molti\r\n");
+    EXPECT_EQ(console({"calcola", progetto, "--cartella", cartella / "casa"}).codice, 1);
+    EXPECT_EQ(nomi(), "muro.kvd ");
+}
+
+TEST_F(IngressoRotto, ASlopeAboveTheFrictionAngleIsRefusedWithStageDepthAndCause) {
+    auto d = progettoSemplice();
+    d.phiStrato[2] = 10;
+    d.inclinazioneMonte = 20;
+    scrivi(d);
+    metti(cartella / "muro.OUT", "1\r\n");  // of an earlier run
+    const auto esito = esegui("relazione");
+    EXPECT_EQ(esito.codice, 1);
+    EXPECT_TRUE(dice(esito.errori,
+                     "ATTENZIONE! Calcolo interrotto: fase 1, profondità 4.8 m: "
+                     "coefficienti di spinta non definiti: l'inclinazione del "
+                     "terreno supera l'angolo di attrito."))
+        << esito.errori;
+    EXPECT_EQ(nomi(), "muro.kvd ");
+}
+
+TEST_F(IngressoRotto, AFailingWallIsRefusedAndLeavesNoResultFile) {
+    auto d = progettoSemplice();
+    d.nTiranti = 0;
+    d.nFasi = 1;
+    d.profFase[1] = 11.9;  // dug out to the toe
+    scrivi(d);
+    const auto esito = esegui("calcola");
+    EXPECT_EQ(esito.codice, 1);
+    EXPECT_TRUE(dice(esito.errori, "La geometria assegnata al diaframma")) << esito.errori;
+    EXPECT_EQ(nomi(), "muro.kvd ");
+}
+
+TEST_F(IngressoRotto, AnIndexBeyondATableNamesTheProject) {
+    auto d = progettoSemplice();
+    d.tirantiFase[2] = 25;
+    scrivi(d);
+    const auto esito = esegui("calcola");
+    EXPECT_EQ(esito.codice, 3);
+    EXPECT_TRUE(dice(esito.errori, progetto + ": ")) << esito.errori;
+    EXPECT_TRUE(dice(esito.errori, "indice 21 fuori dalla tabella (0-20)")) << esito.errori;
+    EXPECT_EQ(nomi(), "muro.kvd ");
+}
+
+TEST_F(IngressoRotto, AValueTooLargeToBeShownIsARefusalWithoutAReport) {
+    auto d = progettoSemplice();
+    d.nStrati = 3;  // a layer below the wall, which no node lies in
+    d.profStrato[3] = 40;
+    d.gammaN[3] = 1.7e308;
+    scrivi(d);
+    const auto esito = esegui("relazione");
+    EXPECT_EQ(esito.codice, 1);
+    EXPECT_TRUE(dice(esito.errori, progetto + ": i dati portano a un valore troppo grande"))
+        << esito.errori;
+    EXPECT_FALSE(fs::exists(cartella / "muro.TAB"));
+}
+
+TEST_F(IngressoRotto, AFullDiskLeavesTheProjectAndNoHalfFile) {
+    Ambiente pieno;
+    for (const long limite : {0L, 100L, 1000L, 2000L}) {  // head, stages
+        pieno.limiteFile = limite;
+        const auto esito = esegui("calcola", {}, pieno);
+        EXPECT_EQ(esito.codice, 3) << limite;
+        EXPECT_TRUE(dice(esito.errori, cartella / "muro.OUT: impossibile scrivere il file"))
+            << esito.errori;
+        EXPECT_EQ(nomi(), "muro.kvd ") << limite;
+    }
+    ASSERT_EQ(esegui("calcola").codice, 0);
+    const auto prima = file();
+    pieno.limiteFile = 1000;
+    const auto esito = esegui("relazione", {}, pieno);  // the results are up to date
+    EXPECT_EQ(esito.codice, 3);
+    EXPECT_TRUE(dice(esito.errori, cartella / "muro.TAB: ")) << esito.errori;
+    EXPECT_EQ(file(), prima);
+}
+
+TEST_F(IngressoRotto, AFolderThatCannotBeWrittenIsToldAndTheProjectIsUntouched) {
+    const auto prima = file();
+    fs::permissions(cartella.percorso(), fs::perms::owner_read | fs::perms::owner_exec);
+    const auto esito = esegui("calcola", {}, {.senzaPrivilegi = true});
+    fs::permissions(cartella.percorso(), fs::perms::owner_all);
+    if (esito.codice == 127) GTEST_SKIP() << "root without the right to give up its rights";
+    EXPECT_EQ(esito.codice, 3);
+    EXPECT_TRUE(dice(esito.errori, cartella / "muro.OUT: impossibile scrivere il file"))
+        << esito.errori;
+    EXPECT_EQ(file(), prima);
+}
+
+TEST_F(IngressoRotto, AFolderThatCannotBeMadeIsTold) {
+    const auto prima = file();
+    const auto altra = esegui("calcola", {"--uscita", "/proc/self/uscita"});
+    EXPECT_EQ(altra.codice, 3);
+    EXPECT_TRUE(dice(altra.errori, "/proc/self/uscita: impossibile creare la cartella"))
+        << altra.errori;
+    EXPECT_EQ(file(), prima);
+}
+
+}  // namespace
+}  // namespace korven::batch

@@ -1,0 +1,192 @@
+#include "batch_bench.hpp"
+#include "structure/sample_sections.hpp"
+
+namespace korven::batch {
+namespace {
+
+namespace fs = std::filesystem;
+using test::contenuto;
+using test::dice;
+using test::metti;
+using test::progettoSemplice;
+
+using Opzione = test::BancoConsole;
+
+TEST_F(Opzione, HelpAndVersionEndWell) {
+    for (const std::vector<std::string>& argomenti :
+         {std::vector<std::string>{"--help"}, {"-h"}, {"calcola", "--help"}, {"verifica", "-h"}}) {
+        const auto esito = console(argomenti);
+        EXPECT_EQ(esito.codice, 0);
+        EXPECT_TRUE(dice(esito.uscita, "--help")) << esito.uscita;
+        EXPECT_TRUE(esito.errori.empty());
+    }
+    const auto versione = console({"--versione"});
+    EXPECT_EQ(versione.codice, 0);
+    EXPECT_TRUE(versione.uscita.starts_with("KORVEN 32 ")) << versione.uscita;
+}
+
+TEST_F(Opzione, WrongUsageEndsWithTwoAndAClearMessage) {
+    const struct {
+        std::vector<std::string> argomenti;
+        const char* detto;
+    } casi[] = {
+        {{}, "manca il comando: calcola, relazione, verifica"},
+        {{"calcola"}, "manca un argomento"},
+        {{"disegna", progetto}, "comando sconosciuto (disegna): calcola, relazione, verifica"},
+        {{"calcola", progetto, "altro.kvd"}, "argomento sconosciuto"},
+        {{"calcola", progetto, "--svelto"}, "argomento sconosciuto"},
+        {{"calcola", progetto, "--txt"}, "argomento sconosciuto"},
+        {{"relazione", progetto, "--traccia"}, "argomento sconosciuto"},
+        {{"verifica", progetto, "--ej", "mantieni"}, "argomento sconosciuto"},
+        {{"calcola", progetto, "--ej", "forse"}, "valore non ammesso"},
+        {{"calcola", progetto, "--metodo-spinte", "culmann"}, "valore non ammesso"},
+        {{"calcola", progetto, "--lingua", "rus"}, "valore non ammesso"},
+        {{"calcola", progetto, "--max-iterazioni", "-1"}, "valore non ammesso"},
+        {{"calcola", progetto, "--max-iterazioni", "molte"}, "valore non ammesso"},
+        {{"calcola", progetto, "--cartella", cartella / "altrove"}, "valore non ammesso"},
+        {{"calcola", progetto, "--uscita"}, "manca il valore di un'opzione"},
+    };
+    for (const auto& caso : casi) {
+        const auto esito = console(caso.argomenti);
+        EXPECT_EQ(esito.codice, 2) << caso.detto;
+        EXPECT_TRUE(esito.uscita.empty());
+        EXPECT_TRUE(dice(esito.errori, caso.detto)) << esito.errori;
+        EXPECT_TRUE(dice(esito.errori, "korven32c --help")) << esito.errori;
+    }
+    EXPECT_EQ(nomi(), "muro.kvd ");
+}
+
+TEST_F(Opzione, UscitaMakesTheFolderAndLeavesThatOfTheProjectUntouched) {
+    const auto prima = file();
+    const auto esito = esegui("relazione", {"--txt", "--uscita", cartella / "risultati/variante"});
+    EXPECT_EQ(esito.codice, 0) << esito.errori;
+    EXPECT_EQ(file(), prima);
+    for (const char* nome : {"muro.OUT", "muro.TAB", "muro.txt"})
+        EXPECT_TRUE(fs::exists(cartella / (std::string("risultati/variante/") + nome))) << nome;
+    EXPECT_FALSE(fs::exists(cartella / "risultati/variante/muro.kvd"));
+}
+
+TEST_F(Opzione, ARelativePathIsMadeAbsoluteBeforeItsNameIsCut) {
+    fs::create_directory(cartella / "sotto");
+    const auto esito = console({"relazione", "../muro.kvd", "--nseg", "10", "--txt"},
+                               {.cartella = cartella / "sotto"});
+    EXPECT_EQ(esito.codice, 0) << esito.errori;
+    EXPECT_EQ(nomi(), "muro.OUT muro.TAB muro.kvd muro.txt ");
+}
+
+TEST_F(Opzione, EjKeepsTheTypedStiffnessUnlessToldToRecompute) {
+    auto d = progettoSemplice();
+    d.sezione = structure::diaframmaSimmetrico();
+    scrivi(d);
+    const auto EJ = [&](std::vector<std::string> opzioni) {
+        EXPECT_EQ(esegui("relazione", std::move(opzioni)).codice, 0);
+        const std::string relazione = contenuto(cartella / "muro.TAB");
+        const auto inizio = relazione.find("Rigidezza EJ");
+        return relazione.substr(inizio, relazione.find("\r\n", inizio) - inizio);
+    };
+    const std::string scritta = base::inCp1252("Rigidezza EJ diaframma [kN m²]\t120000.00");
+    EXPECT_EQ(EJ({}), scritta);
+    EXPECT_EQ(EJ({"--ej", "mantieni"}), scritta);
+    EXPECT_NE(EJ({"--ej", "ricalcola"}), scritta);
+    EXPECT_EQ(EJ({}), scritta);
+}
+
+TEST_F(Opzione, MetodoSpinteHoldsForTheRunThoughTheReportSaysCoulomb) {
+    auto d = progettoSemplice();
+    d.inclinazioneMonte = 15;
+    scrivi(d);
+    std::map<std::string, std::string> risultati;
+    for (const char* metodo : {"coulomb", "rankine", "bell"}) {
+        EXPECT_EQ(esegui("relazione", {"--metodo-spinte", metodo}).codice, 0);
+        EXPECT_TRUE(dice(contenuto(cartella / "muro.TAB"), "metodo di Coulomb")) << metodo;
+        const std::string out = contenuto(cartella / "muro.OUT");
+        risultati[metodo] = out.substr(out.find("sigmaVv"));
+    }
+    EXPECT_NE(risultati["coulomb"], risultati["rankine"]);
+    EXPECT_NE(risultati["coulomb"], risultati["bell"]);
+    EXPECT_NE(risultati["rankine"], risultati["bell"]);
+    // A run without the option finds a file of another method and computes with Coulomb.
+    const auto esito = esegui("calcola");
+    EXPECT_TRUE(dice(esito.uscita, "Calcolo eseguito.")) << esito.uscita;
+    const std::string out = contenuto(cartella / "muro.OUT");
+    EXPECT_EQ(out.substr(out.find("sigmaVv")), risultati["coulomb"]);
+}
+
+TEST_F(Opzione, NsegStandsForTheContentOfItsFile) {
+    EXPECT_EQ(console({"calcola", progetto, "--nseg", "7"}).codice, 0);
+    const std::string conOpzione = contenuto(cartella / "muro.OUT");
+    // The head with its tables, for each stage the names and the nodes, the closing numbers.
+    const auto righe = std::count(conOpzione.begin(), conOpzione.end(), '\n');
+    EXPECT_EQ(righe, 59 + 8 * 2 + 4 + 4 * 2 + 2 * (1 + 8) + 5);
+
+    fs::remove(cartella / "muro.OUT");
+    fs::create_directory(cartella / "casa");
+    metti(cartella / "casa/NSEG.TXT", "7\r\n");  // found whatever its case
+    EXPECT_EQ(console({"calcola", progetto, "--cartella", cartella / "casa"}).codice, 0);
+    EXPECT_EQ(contenuto(cartella / "muro.OUT"), conOpzione);
+}
+
+TEST_F(Opzione, LinguaGivesHeadingsInThatLanguageButLeavesTheUsersOwn) {
+    EXPECT_EQ(esegui("relazione", {"--lingua", "deu"}).codice, 0);
+    const std::string relazione = base::daCp1252(contenuto(cartella / "muro.TAB"));
+    EXPECT_TRUE(dice(relazione, "\r\nBERECHNUNG DER VERBAUWAND\r\n"));
+    EXPECT_TRUE(dice(relazione, "\r\nERGEBNISSE DER PHASE 2\r\n"));
+    EXPECT_TRUE(dice(relazione, "\r\nMuro di prova\r\n"));
+    EXPECT_FALSE(dice(relazione, "DESCRIZIONE"));
+    EXPECT_EQ(esegui("relazione", {"--lingua=ita"}).codice, 0);
+    EXPECT_TRUE(dice(contenuto(cartella / "muro.TAB"), "\r\nCALCOLO DIAFRAMMA\r\n"));
+}
+
+TEST_F(Opzione, CartellaBringsItsLanguageAndItsTexts) {
+    const std::string casa = cartella / "casa";
+    fs::create_directory(casa);
+    const fs::path programma = fs::path(KORVEN_CONSOLE).parent_path();
+    fs::copy(programma / "texts01.txt", casa + "/texts01.txt");
+    fs::copy(programma / "texts06.txt", casa + "/texts06.txt");
+    metti(casa + "/language.cfg", "2\r\n");
+    EXPECT_EQ(esegui("relazione", {"--cartella", casa}).codice, 0);
+    EXPECT_TRUE(dice(contenuto(cartella / "muro.TAB"), "BERECHNUNG DER VERBAUWAND"));
+    // An option goes before the file.
+    EXPECT_EQ(esegui("relazione", {"--cartella", casa, "--lingua", "eng"}).codice, 0);
+    EXPECT_TRUE(dice(contenuto(cartella / "muro.TAB"), "WALL CALCULATION"));
+    // The environment names a folder too.
+    const test::Ambiente ambiente{.variabili = {{"KORVEN32_HOME", casa}}};
+    EXPECT_EQ(esegui("relazione", {}, ambiente).codice, 0);
+    EXPECT_TRUE(dice(contenuto(cartella / "muro.TAB"), "BERECHNUNG DER VERBAUWAND"));
+}
+
+TEST_F(Opzione, ALanguageWithoutItsTextsOrACodeThatIsNoneIsBrokenInput) {
+    const std::string casa = cartella / "casa";
+    fs::create_directory(casa);
+    const auto senza = esegui("calcola", {"--cartella", casa, "--lingua", "deu"});
+    EXPECT_EQ(senza.codice, 3);
+    EXPECT_TRUE(dice(senza.errori, "texts01.txt")) << senza.errori;
+    for (const char* codice : {"7\r\n", "due\r\n", ""}) {
+        metti(casa + "/language.cfg", codice);
+        const auto esito = esegui("calcola", {"--cartella", casa});
+        EXPECT_EQ(esito.codice, 3) << codice;
+        EXPECT_TRUE(dice(esito.errori, "language.cfg, riga 1: ")) << esito.errori;
+    }
+    EXPECT_EQ(nomi(), "muro.kvd ");
+}
+
+TEST_F(Opzione, SilenziosoPrintsNothingAtAllWhenAllIsWell) {
+    for (const char* comando : {"calcola", "relazione", "verifica"}) {
+        const auto esito = esegui(comando, {"--silenzioso"});
+        EXPECT_EQ(esito.codice, 0);
+        EXPECT_EQ(esito.uscita + esito.errori, "") << comando;
+    }
+}
+
+TEST_F(Opzione, SilenziosoStillTellsWhyARunWasRefused) {
+    auto d = progettoSemplice();
+    d.rigidezzaEJ = 0;
+    scrivi(d);
+    const auto esito = esegui("calcola", {"--silenzioso"});
+    EXPECT_EQ(esito.codice, 1);
+    EXPECT_EQ(esito.errori, "ATTENZIONE! Il valore di EJ non è ancora stato definito.\n");
+    EXPECT_TRUE(esito.uscita.empty());
+}
+
+}  // namespace
+}  // namespace korven::batch

@@ -1,0 +1,74 @@
+#include <sstream>
+
+#include "batch_bench.hpp"
+
+namespace korven::batch {
+namespace {
+
+using test::dice;
+using test::progettoSemplice;
+
+using EsitoTesto = test::BancoConsole;
+
+std::vector<std::string> righe(const std::string& testo) {
+    std::vector<std::string> tutte;
+    std::istringstream flusso(testo);
+    for (std::string riga; std::getline(flusso, riga);) tutte.push_back(riga);
+    return tutte;
+}
+
+TEST_F(EsitoTesto, ShowsALineAStageAndTheFilesThatWereWritten) {
+    const auto esito = esegui("relazione", {"--txt"});
+    EXPECT_EQ(esito.codice, 0);
+    const auto tutte = righe(esito.uscita);
+    ASSERT_EQ(tutte.size(), 7u) << esito.uscita;
+    EXPECT_EQ(tutte[0],
+              "Fase  Iterazioni  Scavo [m]  Spostamento max. [cm]  Momento max. [kN m]  "
+              "Momento min. [kN m]");
+    EXPECT_TRUE(tutte[1].starts_with("   1  ")) << tutte[1];
+    EXPECT_TRUE(dice(tutte[2], "  5.00  ")) << tutte[2];
+    EXPECT_EQ(tutte[1].size(), tutte[0].size());
+    EXPECT_EQ(tutte[3], "Calcolo eseguito.");
+    EXPECT_EQ(tutte[4], "File scritto: " + cartella / "muro.OUT");
+    EXPECT_EQ(tutte[5], "File scritto: " + cartella / "muro.TAB");
+    EXPECT_EQ(tutte[6], "File scritto: " + cartella / "muro.txt");
+}
+
+TEST_F(EsitoTesto, SaysThatTheResultFileWasUpToDateAndWritesItNoMore) {
+    ASSERT_EQ(esegui("calcola").codice, 0);
+    const auto esito = esegui("calcola");
+    EXPECT_EQ(esito.codice, 0);
+    EXPECT_TRUE(esito.errori.empty());  // no progress
+    const auto tutte = righe(esito.uscita);
+    ASSERT_EQ(tutte.size(), 4u) << esito.uscita;
+    EXPECT_TRUE(tutte[1].starts_with("   1           -  ")) << tutte[1];
+    EXPECT_EQ(tutte[3], "Il file dei risultati era già aggiornato: nessun calcolo eseguito.");
+}
+
+TEST_F(EsitoTesto, RunsAgainAfterAChangeOfASingleNumber) {
+    ASSERT_EQ(esegui("calcola").codice, 0);
+    auto d = progettoSemplice();
+    d.phiStrato[1] = 30.5;
+    scrivi(d);
+    EXPECT_TRUE(dice(esegui("calcola").uscita, "Calcolo eseguito."));
+}
+
+TEST_F(EsitoTesto, TellsWhatAReviewFound) {
+    auto esito = esegui("verifica");
+    EXPECT_EQ(esito.codice, 0);
+    EXPECT_EQ(esito.uscita, "Il progetto può essere calcolato.\n");
+    auto d = progettoSemplice();
+    d.rigidezzaEJ = 0;
+    d.vincoloTesta = 0;
+    scrivi(d);
+    esito = esegui("verifica");
+    EXPECT_EQ(esito.codice, 1);
+    EXPECT_EQ(esito.uscita,
+              "impedisce il calcolo: Il valore di EJ non è ancora stato definito.\n"
+              "da vedere: vincolo in testa: codice non previsto (0)\n"
+              "Il progetto non può essere calcolato.\n");
+    EXPECT_EQ(nomi(), "muro.kvd ");  // nothing is computed or written
+}
+
+}  // namespace
+}  // namespace korven::batch

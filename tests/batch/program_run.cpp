@@ -1,0 +1,114 @@
+#include "support/program_run.hpp"
+
+#include <fcntl.h>
+#include <linux/capability.h>
+#include <poll.h>
+#include <signal.h>
+#include <stdlib.h>
+#include <sys/prctl.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <array>
+#include <stdexcept>
+
+namespace korven::test {
+
+namespace {
+
+std::array<int, 2> condotto() {
+    std::array<int, 2> capi{};
+    if (::pipe2(capi.data(), O_CLOEXEC) != 0) throw std::runtime_error("pipe");
+    return capi;
+}
+
+// Root passes by the permissions of files by two of its capabilities, which the next program does
+// not get when they are out of the bounding set.
+bool cediPrivilegi() {
+    if (::geteuid() != 0) return true;
+    for (const int quale : {CAP_DAC_OVERRIDE, CAP_DAC_READ_SEARCH})
+        if (::prctl(PR_CAPBSET_DROP, quale, 0, 0, 0) != 0) return false;
+    return true;
+}
+
+[[noreturn]] void diventa(const std::string& programma, std::vector<char*> argomenti,
+                          const Ambiente& ambiente) {
+    for (const auto& [nome, valore] : ambiente.variabili) ::setenv(nome.c_str(), valore.c_str(), 1);
+    if (!ambiente.cartella.empty() && ::chdir(ambiente.cartella.c_str()) != 0) ::_exit(127);
+    if (ambiente.limiteFile) {
+        const auto byte = static_cast<rlim_t>(*ambiente.limiteFile);
+        const rlimit limite{byte, byte};
+        if (::setrlimit(RLIMIT_FSIZE, &limite) != 0) ::_exit(127);
+    }
+    if (ambiente.senzaPrivilegi && !cediPrivilegi()) ::_exit(127);
+    ::execv(programma.c_str(), argomenti.data());
+    ::_exit(127);
+}
+
+// Both pipes at once: a program that fills one must not wait for the other to be read.
+void leggiEntrambi(int uscita, int errori, EsitoProgramma& esito) {
+    std::array<pollfd, 2> capi{pollfd{uscita, POLLIN, 0}, pollfd{errori, POLLIN, 0}};
+    std::array<std::string*, 2> testi{&esito.uscita, &esito.errori};
+    char blocco[4096];
+    while (capi[0].fd >= 0 || capi[1].fd >= 0) {
+        if (::poll(capi.data(), capi.size(), -1) < 0) continue;
+        for (std::size_t i = 0; i < capi.size(); ++i) {
+            if (capi[i].fd < 0 || capi[i].revents == 0) continue;
+            const ssize_t letti = ::read(capi[i].fd, blocco, sizeof blocco);
+            if (letti > 0)
+                testi[i]->append(blocco, static_cast<std::size_t>(letti));
+            else
+                capi[i].fd = -1;
+        }
+    }
+}
+
+}  // namespace
+
+ProgrammaInCorso::ProgrammaInCorso(const std::string& programma,
+                                   const std::vector<std::string>& argomenti,
+                                   const Ambiente& ambiente) {
+    std::vector<std::string> testi = {programma};
+    testi.insert(testi.end(), argomenti.begin(), argomenti.end());
+    std::vector<char*> puntatori;
+    for (auto& testo : testi) puntatori.push_back(testo.data());
+    puntatori.push_back(nullptr);
+
+    const auto uscita = condotto();
+    const auto errori = condotto();
+    processo_ = ::fork();
+    if (processo_ < 0) throw std::runtime_error("fork");
+    if (processo_ == 0) {
+        ::dup2(uscita[1], STDOUT_FILENO);
+        ::dup2(errori[1], STDERR_FILENO);
+        diventa(programma, puntatori, ambiente);
+    }
+    ::close(uscita[1]);
+    ::close(errori[1]);
+    uscita_ = uscita[0];
+    errori_ = errori[0];
+}
+
+ProgrammaInCorso::~ProgrammaInCorso() {
+    if (processo_ > 0) {
+        ::kill(processo_, SIGKILL);
+        ::waitpid(processo_, nullptr, 0);
+    }
+    for (const int capo : {uscita_, errori_})
+        if (capo >= 0) ::close(capo);
+}
+
+void ProgrammaInCorso::segnale(int numero) const { ::kill(processo_, numero); }
+
+EsitoProgramma ProgrammaInCorso::attendi() {
+    EsitoProgramma esito;
+    leggiEntrambi(uscita_, errori_, esito);
+    int stato = 0;
+    ::waitpid(processo_, &stato, 0);
+    processo_ = -1;
+    if (WIFEXITED(stato)) esito.codice = WEXITSTATUS(stato);
+    return esito;
+}
+
+}  // namespace korven::test

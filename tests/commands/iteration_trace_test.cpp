@@ -1,0 +1,95 @@
+#include "commands/iteration_trace.hpp"
+
+#include <gtest/gtest.h>
+
+namespace korven::commands {
+namespace {
+
+using analysis::StatiNodo;
+using analysis::StatoIterazione;
+using analysis::StatoLato;
+using analysis::TiranteInOpera;
+
+constexpr auto el = StatoLato::elastico;
+constexpr auto at = StatoLato::attivo;
+constexpr auto pa = StatoLato::passivo;
+
+void passo(TracciaIterazioni& traccia, int iterazione, const std::vector<StatiNodo>& stati,
+           const std::vector<TiranteInOpera>& tiranti = {}, int fase = 1) {
+    StatoIterazione stato;
+    stato.fase = fase;
+    stato.iterazione = iterazione;
+    stato.passoNodi = 0.25;
+    stato.stati = stati;
+    stato.tiranti = tiranti;
+    traccia.registra(stato);
+}
+
+TEST(TracciaIterazioni, SaysSoWhenNothingChanges) {
+    TracciaIterazioni traccia;
+    passo(traccia, 1, {{el, el}}, {{1, true}});
+    passo(traccia, 2, {{el, el}}, {{1, true}});
+    EXPECT_TRUE(traccia.nodi().empty());
+    EXPECT_TRUE(traccia.tiranti().empty());
+    EXPECT_EQ(traccia.righe(),
+              std::vector<std::string>{"nessun nodo e nessun tirante cambia stato"});
+    EXPECT_EQ(traccia.iterazioni(), 2);
+}
+
+TEST(TracciaIterazioni, CountsTheChangesOfEachSideAndKeepsTheLast) {
+    TracciaIterazioni traccia;
+    passo(traccia, 1, {{el, el}, {el, el}, {el, el}});
+    passo(traccia, 2, {{el, el}, {at, el}, {el, pa}});
+    passo(traccia, 3, {{el, el}, {el, el}, {el, pa}});
+    passo(traccia, 4, {{el, el}, {pa, el}, {el, pa}});
+    const auto nodi = traccia.nodi();
+    ASSERT_EQ(nodi.size(), 2u);
+    EXPECT_EQ(nodi[0].nodo, 2);
+    EXPECT_EQ(nodi[0].profondita, 0.25);
+    EXPECT_TRUE(nodi[0].monte);
+    EXPECT_EQ(nodi[0].cambi, 3);
+    EXPECT_EQ(nodi[0].ultimaIterazione, 4);
+    EXPECT_EQ(traccia.righe(),
+              (std::vector<std::string>{
+                  "nodo 2 (0.25 m), lato monte: elastico -> passivo, cambi: 3, ultimo "
+                  "all'iterazione 4",
+                  "nodo 3 (0.5 m), lato valle: elastico -> passivo, cambi: 1, ultimo "
+                  "all'iterazione 2"}));
+}
+
+TEST(TracciaIterazioni, TellsAnchorsThatDropOutAndComeBack) {
+    TracciaIterazioni traccia;
+    passo(traccia, 1, {{el, el}}, {{5, true}, {9, true}});
+    passo(traccia, 2, {{el, el}}, {{5, true}, {9, false}});
+    EXPECT_EQ(traccia.righe(), std::vector<std::string>{
+                                   "tirante 2 (nodo 9): esce, cambi: 1, ultimo all'iterazione 2"});
+    passo(traccia, 3, {{el, el}}, {{5, true}, {9, true}});
+    EXPECT_EQ(
+        traccia.righe(),
+        std::vector<std::string>{"tirante 2 (nodo 9): rientra, cambi: 2, ultimo all'iterazione 3"});
+}
+
+TEST(TracciaIterazioni, LeavesOutWhatCameToRestBeforeTheIterationAskedFor) {
+    TracciaIterazioni traccia;
+    passo(traccia, 1, {{el, el}, {el, el}}, {{1, true}});
+    passo(traccia, 2, {{at, el}, {el, el}}, {{1, false}});
+    passo(traccia, 3, {{at, el}, {el, pa}}, {{1, false}});
+    EXPECT_EQ(traccia.nodi(3).size(), 1u);
+    EXPECT_EQ(traccia.nodi(3)[0].nodo, 2);
+    EXPECT_TRUE(traccia.tiranti(3).empty());
+    EXPECT_EQ(traccia.nodi(2).size(), 2u);
+    EXPECT_EQ(traccia.tiranti(2).size(), 1u);
+}
+
+TEST(TracciaIterazioni, BeginsANewRecordWithTheFirstIterationOfAStage) {
+    TracciaIterazioni traccia;
+    passo(traccia, 1, {{el, el}, {el, el}});
+    passo(traccia, 2, {{at, el}, {el, el}});
+    passo(traccia, 1, {{el, el}, {el, el}}, {{1, true}}, 2);
+    EXPECT_EQ(traccia.fase(), 2);
+    EXPECT_EQ(traccia.iterazioni(), 1);
+    EXPECT_TRUE(traccia.nodi().empty());
+}
+
+}  // namespace
+}  // namespace korven::commands

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <sys/types.h>
+
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace korven::test {
+
+/// What a finished program left behind.
+struct EsitoProgramma {
+    int codice = -1;  ///< exit code; -1 if a signal ended it
+    std::string uscita, errori;
+};
+
+/// The surroundings of a program.
+struct Ambiente {
+    std::string cartella = {};                                        ///< working folder
+    std::vector<std::pair<std::string, std::string>> variabili = {};  ///< added to its environment
+    std::optional<long> limiteFile = {};  ///< bytes that a file may grow to, as on a full disk
+    /// Obeys the permissions of files even as root. Exit code 127 where that can't be had.
+    bool senzaPrivilegi = false;
+};
+
+/// A program that runs beside the test. Its two outputs are kept in pipes until `attendi`.
+class ProgrammaInCorso {
+ public:
+    ProgrammaInCorso(const std::string& programma, const std::vector<std::string>& argomenti,
+                     const Ambiente& ambiente = {});
+    ProgrammaInCorso(const ProgrammaInCorso&) = delete;
+    ProgrammaInCorso& operator=(const ProgrammaInCorso&) = delete;
+    ~ProgrammaInCorso();
+
+    void segnale(int numero) const;
+    /// Reads both outputs to their ends and waits for the program.
+    EsitoProgramma attendi();
+
+ private:
+    pid_t processo_ = -1;
+    int uscita_ = -1, errori_ = -1;
+};
+
+}  // namespace korven::test
