@@ -53,7 +53,7 @@ void perOgniFase(unsigned seme, int muri, const std::function<void(const FaseCal
 }
 
 TEST(CorseIntere, BalanceTheHorizontalForcesOfEveryStage) {
-    perOgniFase(101, 60, [](const FaseCalcolata& c) {
+    perOgniFase(101, 90, [](const FaseCalcolata& c) {
         Misura somma = c.f.sottoPiede;
         for (const auto& forza : c.f.nodo) somma += forza;
         const double tolleranza = somma.errore + rumoreSolutore;
@@ -63,7 +63,7 @@ TEST(CorseIntere, BalanceTheHorizontalForcesOfEveryStage) {
 }
 
 TEST(CorseIntere, BalanceTheMomentsAboutTheTopOfEveryStage) {
-    perOgniFase(102, 60, [](const FaseCalcolata& c) {
+    perOgniFase(102, 90, [](const FaseCalcolata& c) {
         Misura somma{-c.d.momentoTesta, 0};
         for (int i = 1; i <= c.n; ++i)
             somma += (i - 1) * c.h * c.f.nodo[static_cast<std::size_t>(i - 1)];
@@ -76,7 +76,7 @@ TEST(CorseIntere, BalanceTheMomentsAboutTheTopOfEveryStage) {
 
 // T(j+1) - T(j) = -(q(j) + q(j+1)) h / 2, the first segment with the force at the top once more.
 TEST(CorseIntere, HaveShearsThatFollowThePressures) {
-    perOgniFase(103, 40, [](const FaseCalcolata& c) {
+    perOgniFase(103, 60, [](const FaseCalcolata& c) {
         EXPECT_NEAR(c.r.taglioNodo[1], -2 * c.d.forzaTesta, 1e-6 + rumoreSolutore);
         const auto q = [&](int i) {  // pressure times h / 2
             Misura m = c.f.nodo[static_cast<std::size_t>(i - 1)];
@@ -103,7 +103,7 @@ TEST(CorseIntere, HaveShearsThatFollowThePressures) {
 // M(j+1) - M(j) = h (T(j) - q(j) h / 2). The toe of a fixed wall is left out: its moment is one
 // iteration late.
 TEST(CorseIntere, HaveMomentsThatFollowTheShears) {
-    perOgniFase(104, 40, [](const FaseCalcolata& c) {
+    perOgniFase(104, 60, [](const FaseCalcolata& c) {
         EXPECT_NEAR(c.r.momentoNodo[1], -c.d.momentoTesta, arrotondamento);
         const int ultimo = c.d.vincoloPiede == 3 ? c.n - 2 : c.n - 1;
         for (int j = 1; j <= ultimo; ++j) {
@@ -120,7 +120,7 @@ TEST(CorseIntere, HaveMomentsThatFollowTheShears) {
 
 // M = -EJ y'' by central differences of the stored displacements.
 TEST(CorseIntere, HaveMomentsThatFollowTheCurvature) {
-    perOgniFase(105, 40, [](const FaseCalcolata& c) {
+    perOgniFase(105, 60, [](const FaseCalcolata& c) {
         const double EJ = c.d.rigidezzaEJ, h2 = c.h * c.h;
         for (int i = 2; i < c.n; ++i) {
             const double curvatura = (c.r.yNodo[i - 1] - 2 * c.r.yNodo[i] + c.r.yNodo[i + 1]) / h2;
