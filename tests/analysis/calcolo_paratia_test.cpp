@@ -242,6 +242,63 @@ TEST(CalcoloParatia, AsksAboutTheStiffnessAndTakesTheAnswer) {
     EXPECT_EQ(banco.dialogo.domande.size(), 2u);
 }
 
+// Reads the head of the results back into the project, as the report and the diagrams do.
+class UscitaCheRilegge : public UscitaCalcolo {
+ public:
+    explicit UscitaCheRilegge(int nNodi) : nNodi_(nNodi) {}
+    void scriviRelazione() override { LettoreRisultati(fileCorrente, nNodi_).leggiTesta(Progetto); }
+    void disegnaDiagramma(int) override { scriviRelazione(); }
+
+ private:
+    int nNodi_;
+};
+
+TEST(CalcoloParatia, RunsWithCoulombAfterAReportOfRankineOrBellHasReadItsHeadBack) {
+    for (const double metodo : {2.0, 3.0}) {
+        auto dati = progettoSemplice();
+        dati.metodoSpinte = metodo;
+        Banco banco(dati);
+        UscitaCheRilegge uscita(51);
+        CalcoloParatia(0, {banco.dialogo, banco.avanzamento, uscita});
+        EXPECT_EQ(Progetto.metodoSpinte, 1);
+        const std::string primo = contenuto(banco.risultati());
+        CalcoloParatia(0, {banco.dialogo, banco.avanzamento, uscita});
+        EXPECT_EQ(banco.avanzamento.aperture, 2);
+        EXPECT_NE(contenuto(banco.risultati()), primo);
+        CalcoloParatia(0, {banco.dialogo, banco.avanzamento, uscita});
+        EXPECT_EQ(banco.avanzamento.aperture, 2);
+    }
+}
+
+TEST(CalcoloParatia, SetsItsFlagsAtTheStartOfEveryRunAndShowsTheResultsNameToTheOutput) {
+    struct Spia : test::UscitaFinta {
+        void scriviRelazione() override { nome = fileCorrente; }
+        std::string nome;
+    } spia;
+    Banco banco(progettoSemplice());
+    fsAzioni = 0;
+    erroreCalcolo = true;
+    CalcoloParatia(0, {banco.dialogo, banco.avanzamento, spia});
+    EXPECT_EQ(fsAzioni, 1.4);
+    EXPECT_FALSE(erroreCalcolo);
+    EXPECT_EQ(spia.nome, banco.risultati());
+    EXPECT_EQ(fileCorrente, banco.progetto());
+
+    fsAzioni = 0;
+    Progetto.nFasi = 0;
+    CalcoloParatia(0, {banco.dialogo, banco.avanzamento, spia});  // refused
+    EXPECT_EQ(fsAzioni, 1.4);
+    EXPECT_TRUE(erroreCalcolo);
+}
+
+TEST(CalcoloParatia, DoesNotLookAtAStopThatWasAskedForBeforeItsFirstStage) {
+    Banco banco(progettoSemplice());
+    stopCalcolo = true;
+    banco.calcola();
+    EXPECT_FALSE(erroreCalcolo);
+    EXPECT_FALSE(stopCalcolo);
+}
+
 TEST(CalcoloParatia, LeavesNoHalfFileWhenTheFolderIsGone) {
     Banco banco(progettoSemplice());
     fileCorrente = banco.cartella / "manca/muro.kvd";
