@@ -42,16 +42,17 @@ TEST_F(Parallelo, ManyRunsAtOnceGiveWhatTheyGiveOneAfterTheOther) {
 
 TEST_F(Parallelo, VariantsOfOneProjectRunAtOnceIntoFoldersOfTheirOwn) {
     const auto prima = file();
+    const auto dove = [](int n) { return std::string(1, 'n').append(std::to_string(n)); };
     std::vector<std::unique_ptr<test::ProgrammaInCorso>> corse;
     for (int n = 10; n < 20; ++n)
         corse.push_back(std::make_unique<test::ProgrammaInCorso>(
             KORVEN_CONSOLE,
             std::vector<std::string>{"calcola", progetto, "--nseg", std::to_string(n), "--uscita",
-                                     cartella / ("n" + std::to_string(n))}));
+                                     cartella / dove(n)}));
     for (auto& corsa : corse) EXPECT_EQ(corsa->attendi().codice, 0);
     EXPECT_EQ(file(), prima);
     for (int n = 10; n < 20; ++n) {
-        const std::string out = test::contenuto(cartella / ("n" + std::to_string(n) + "/muro.OUT"));
+        const std::string out = test::contenuto(cartella / (dove(n) + "/muro.OUT"));
         // The head, for each of two stages the names and the nodes, the closing numbers.
         EXPECT_EQ(std::count(out.begin(), out.end(), '\n'), 87 + 2 * (1 + n + 1) + 5) << n;
     }
