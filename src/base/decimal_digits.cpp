@@ -3,7 +3,8 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
-#include <stdexcept>
+
+#include "base/value_error.hpp"
 
 namespace korven::base {
 
@@ -40,7 +41,7 @@ CifreDecimali tieni(CifreDecimali numero, int quante) {
 }  // namespace
 
 CifreDecimali cifrePiuBrevi(double valore) {
-    if (!std::isfinite(valore)) throw std::domain_error("i dati portano a un valore troppo grande per essere scritto");
+    if (!std::isfinite(valore)) throw ErroreValore();
     char testo[40];
     const auto fine =
         std::to_chars(testo, testo + sizeof testo, std::fabs(valore), std::chars_format::scientific)

@@ -13,7 +13,7 @@ struct CifreDecimali {
 };
 
 /// The digits of the shortest decimal text that reads back as `valore`.
-/// @throws std::domain_error if `valore` is not finite: such a value must never reach a text
+/// @throws ErroreValore if `valore` is not finite: such a value must never reach a text
 [[nodiscard]] CifreDecimali cifrePiuBrevi(double valore);
 
 /// Rounds to `decimali` digits behind the point, half away from zero.

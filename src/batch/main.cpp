@@ -1,7 +1,6 @@
 #include <csignal>
 #include <exception>
 #include <iostream>
-#include <stdexcept>
 
 #include "analysis/calcolo_paratia.hpp"
 #include "analysis/run_flags.hpp"
@@ -12,6 +11,7 @@
 #include "base/program_folder.hpp"
 #include "base/table.hpp"
 #include "base/translated_texts.hpp"
+#include "base/value_error.hpp"
 #include "batch/console.hpp"
 #include "batch/options.hpp"
 #include "batch/outcome.hpp"
@@ -128,7 +128,7 @@ int programma(int argc, const char* const* argv) {
         esito.codice = esegui(*opzioni, esito);
     } catch (const base::ErroreIndice& errore) {  // the project asks for more than a table holds
         fallisci(ingressoRotto, esito.progetto + ": " + errore.what(), esito);
-    } catch (const std::domain_error& errore) {  // like a result that is not finite
+    } catch (const base::ErroreValore& errore) {  // like a result that is not finite
         fallisci(nonEseguito, esito.progetto + ": " + errore.what(), esito);
     } catch (const std::exception& errore) {  // broken input, full disk
         fallisci(ingressoRotto, errore.what(), esito);

@@ -7,7 +7,7 @@
 namespace korven::report {
 
 /// The whole calculation report in mark-up, UTF-8, lines ended by CR LF.
-/// @throws std::domain_error if a value is too large to be shown
+/// @throws ErroreValore if a value is too large to be shown
 /// @throws base::ErroreIndice if a stage asks for more anchors than the table holds
 [[nodiscard]] std::string testoRelazione(const DatiRelazione& dati);
 

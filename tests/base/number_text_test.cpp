@@ -5,8 +5,9 @@
 #include <cmath>
 #include <limits>
 #include <random>
-#include <stdexcept>
 #include <utility>
+
+#include "base/value_error.hpp"
 
 namespace korven::base {
 namespace {
@@ -105,9 +106,9 @@ TEST(FormattaNumero, ReadsBackWithinHalfOfTheSeventhDecimal) {
 }
 
 TEST(FormattaNumero, RefusesAValueThatIsNotFinite) {
-    EXPECT_THROW(static_cast<void>(formattaNumero(std::nan(""))), std::domain_error);
+    EXPECT_THROW(static_cast<void>(formattaNumero(std::nan(""))), ErroreValore);
     EXPECT_THROW(static_cast<void>(formattaNumero(std::numeric_limits<double>::infinity())),
-                 std::domain_error);
+                 ErroreValore);
 }
 
 TEST(FormattaMaschera, PadsTheIntegerPartAndCutsTheFractionToThePicture) {

@@ -14,6 +14,10 @@
 
 namespace korven::test {
 
+#ifndef KORVEN_CONSOLE
+#define KORVEN_CONSOLE "korven32c"  // the build names the program's file; a header alone has none
+#endif
+
 /// A folder with a project, and korven32c beside it.
 class BancoConsole : public ::testing::Test {
  protected:

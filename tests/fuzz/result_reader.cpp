@@ -2,6 +2,7 @@
 
 #include "analysis/result_file.hpp"
 #include "base/file_error.hpp"
+#include "base/value_error.hpp"
 #include "fuzz_target.hpp"
 #include "report/calculation_report.hpp"
 
@@ -46,7 +47,7 @@ extern "C" int KORVEN_FUZZ_ENTRY(const std::uint8_t* byte, std::size_t quanti) {
         test::pretendi(relazione.ends_with("#ENDDOCUMENT\r\n"), "a report has its end");
     } catch (const base::ErroreFile&) {
     } catch (const base::ErroreIndice&) {
-    } catch (const std::domain_error&) {  // too large to be shown
+    } catch (const base::ErroreValore&) {  // too large to be shown
     }
     return 0;
 }

@@ -30,7 +30,6 @@ const std::map<std::string, std::string> silentFiles = {
     {"base/language.cpp", "tags, and errors from before a language is chosen"},
     {"base/text_table.cpp", "errors of the table of texts itself"},
     {"base/table.hpp", "an index beyond a table, which the translation may meet itself"},
-    {"base/decimal_digits.cpp", "an assertion"},
     {"analysis/vector_lanes.hpp", "names of processors"},
 };
 
