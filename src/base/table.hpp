@@ -14,6 +14,8 @@ class ErroreIndice : public std::out_of_range {
     ErroreIndice(long indice, std::size_t capacita)
         : std::out_of_range("indice " + std::to_string(indice) + " fuori dalla tabella (0-" +
                             std::to_string(capacita) + ")") {}
+    /// @param cosa  what there is too much of, in the user's words [translated, UTF-8]
+    explicit ErroreIndice(const std::string& cosa) : std::out_of_range(cosa) {}
 };
 
 /// A table of N rows counted from 1, as engineers count, with a row 0 that belongs to it and is
