@@ -1,0 +1,24 @@
+#pragma once
+
+#include <string_view>
+
+namespace korven::plot {
+
+/// Measures texts with the fonts of the device that a drawing goes to.
+class MetricaTesto {
+ public:
+    virtual ~MetricaTesto() = default;
+    /// Width [cm] of a text in the typeface `carattere` at `altezza` [cm].
+    [[nodiscard]] virtual double larghezza(std::string_view carattere, double altezza,
+                                           std::string_view testo) const = 0;
+};
+
+/// Where no device measures: the widths of a usual sans-serif face, or the single width of a
+/// typewriter face when the name of the typeface holds "Courier" or "Mono".
+class MetricaStimata : public MetricaTesto {
+ public:
+    [[nodiscard]] double larghezza(std::string_view carattere, double altezza,
+                                   std::string_view testo) const override;
+};
+
+}  // namespace korven::plot
