@@ -1,0 +1,26 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace korven::plot {
+
+/// The name proposed for the DXF file of a project: the project's file name without its folder, its
+/// extension replaced by ".DXF", or with that appended when it has none.
+[[nodiscard]] std::string nomeDxf(std::string_view progetto);
+
+/// Name of the text style in DXF files: the first line of dxf.cfg in the program folder, which is
+/// written with "MONOTXT" when it does not exist. A blank line stands for that name as well.
+/// @throws ErroreFile when the file is empty, can't be read or can't be made
+[[nodiscard]] std::string leggiStileTesti();
+
+/// The stored drawing as DXF, UTF-8.
+/// @throws ErroreFile when a spill file can't be read
+[[nodiscard]] std::string testoDxf(std::string_view stile);
+
+/// Writes the stored drawing as DXF in Windows-1252, all of it or nothing, over what stood there.
+/// The text style is read once and held for the run.
+/// @throws ErroreFile with the system's reason
+void plotDxf(const std::string& percorso);
+
+}  // namespace korven::plot
