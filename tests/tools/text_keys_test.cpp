@@ -21,8 +21,8 @@ namespace {
 namespace fs = std::filesystem;
 using Texts = std::vector<std::string>;
 
-constexpr const char* folders[] = {"base",   "project",  "structure", "analysis",
-                                   "report", "commands", "batch"};
+constexpr const char* folders[] = {"base",     "project", "plot",     "structure",
+                                   "analysis", "report",  "commands", "batch"};
 
 // Files whose literals are all none.
 const std::map<std::string, std::string> silentFiles = {
@@ -31,6 +31,7 @@ const std::map<std::string, std::string> silentFiles = {
     {"base/text_table.cpp", "errors of the table of texts itself"},
     {"base/table.hpp", "an index beyond a table, which the translation may meet itself"},
     {"analysis/vector_lanes.hpp", "names of processors"},
+    {"plot/dxf_tables.cpp", "words of the DXF format"},
 };
 
 // Names of files and of the system, symbols, what is typed on the command line.
@@ -77,6 +78,12 @@ const std::map<std::string, Texts> noTexts = {
       ": korven32c --help\\n",
       ": calcola, relazione, verifica"}},
     {"commands/project_commands.cpp", {"nseg.txt", "txt"}},
+    {"plot/dxf_writer.cpp", {"LINE", "TEXT", "ENDSEC", "EOF"}},
+    {"plot/plot_configuration.cpp", {"module06", ".cfg"}},
+    {"plot/plot_dxf.cpp", {"MONOTXT", "dxf.cfg", ".DXF"}},
+    {"plot/plot_print.cpp", {"forcecol", "overlap.cfg"}},
+    {"plot/spill_files.cpp", {"korven32-XXXXXX", "plttmp", ".tmp", "windir"}},
+    {"plot/text_width.cpp", {"courier", "mono"}},
     {"report/markup_reader.cpp", {"TRUE"}},
     {"report/report_data.cpp", {"nseg.txt"}},
 };
