@@ -112,6 +112,9 @@ std::vector<Segmento> leggiScarico(const std::string& percorso) {
     const std::string atteso = base::traduttore("un valore di una linea del disegno");
     std::vector<Segmento> linee;
     for (std::size_t i = 0; i < quante; ++i) linee.push_back(leggiSegmento(file, atteso));
+    // A file that ends within a number would hand out a wrong one.
+    if (!file.rigaIntera())
+        file.rifiuta(base::traduttore("il file termina qui, atteso") + ": " + atteso);
     return linee;
 }
 

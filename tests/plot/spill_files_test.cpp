@@ -80,6 +80,7 @@ TEST(FileScarico, BrokenFileIsAnErrorThatNamesTheLine) {
                                                  {"-1\r\n", 1},
                                                  {"1.5\r\n", 1},
                                                  {"1\r\n1\r\n2\r\n3\r\n", 5},
+                                                 {"1\r\n1\r\n2\r\n3\r\n4\r\n255\r\n0.0", 7},
                                                  {"1\r\n1\r\nx\r\n3\r\n4\r\n0\r\n1\r\n", 3},
                                                  {"1\r\n1\r\n2\r\n3\r\n4\r\n1e30\r\n1\r\n", 6}};
     for (const auto& [testo, riga] : casi) {
