@@ -5,7 +5,9 @@
 #include <stdlib.h>
 #include <sys/resource.h>
 
+#include <cstdlib>
 #include <filesystem>
+#include <optional>
 
 #include "base/file_error.hpp"
 #include "support/temporary_folder.hpp"
@@ -37,11 +39,14 @@ TEST(FileScarico, WithoutADriveTheFilesLieInOneTemporaryFolderOfTheProcess) {
 
 TEST(FileScaricoDeathTest, TemporaryFolderGoesWhenTheProcessEnds) {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
-    // A folder that both processes know, since the child runs this test from its start.
-    const std::string cartella =
-        (std::filesystem::temp_directory_path() / "korven_fine_processo").string();
-    std::filesystem::remove_all(cartella);
-    std::filesystem::create_directory(cartella);
+    // The child runs this test from its start, so it must find the folder that its parent made.
+    constexpr const char* variabile = "KORVEN_TEST_SPILL_FOLDER";
+    std::optional<test::CartellaProvvisoria> propria;
+    if (std::getenv(variabile) == nullptr) {
+        propria.emplace();
+        ::setenv(variabile, propria->percorso().c_str(), 1);
+    }
+    const std::string cartella = std::getenv(variabile);
     EXPECT_EXIT(
         {
             ::unsetenv("windir");
@@ -52,7 +57,7 @@ TEST(FileScaricoDeathTest, TemporaryFolderGoesWhenTheProcessEnds) {
         },
         testing::ExitedWithCode(0), "");
     EXPECT_TRUE(std::filesystem::is_empty(cartella));
-    std::filesystem::remove_all(cartella);
+    ::unsetenv(variabile);
 }
 
 TEST(FileScarico, HoldsTheCountAndSixNumbersARecord) {
