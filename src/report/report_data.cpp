@@ -59,6 +59,15 @@ class StoriaTiranti {
     base::Tabella<double, project::massimoTiranti> maxSpostTirante_;
 };
 
+AzioniFase azioniFase(const DatiRelazione& dati, int s, const StoriaTiranti& tiranti) {
+    const analysis::RisultatiFase& fase = dati.fasi[static_cast<std::size_t>(s - 1)];
+    AzioniFase azioni{tiranti.inOpera(s), tiranti.yTirante, fase.taglioNodo, {}};
+    azioni.estremi =
+        analysis::estremiTaglio(dati.progetto, dati.progetto.tirantiFase[s], azioni.yTirante,
+                                dati.nNodi, dati.passo, fase.yNodo, azioni.taglioNodo);
+    return azioni;
+}
+
 }  // namespace
 
 double tiroFinale(double pretTirante, double rigTirante, double maxSpostTirante, double yTirante) {
@@ -81,10 +90,8 @@ DatiRelazione leggiRisultati(const std::string& percorso, DatiProgetto& memoria)
         file.leggiFase(fase);
         tiranti.entra(s);
         tiranti.aggiorna(s);
-        analysis::VettoreNodi taglio = fase.taglioNodo;
-        dati.Vmax = analysis::massimoAssoluto(
-            analysis::estremiTaglio(dati.progetto, memoria.tirantiFase[s], tiranti.yTirante,
-                                    dati.nNodi, dati.passo, fase.yNodo, taglio));
+        dati.azioni.push_back(azioniFase(dati, s, tiranti));
+        dati.Vmax = analysis::massimoAssoluto(dati.azioni.back().estremi);
     }
     dati.chiusura = file.leggiChiusura();
     dati.progetto.faldaValle = memoria.faldaValle;

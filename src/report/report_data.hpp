@@ -9,12 +9,23 @@
 
 namespace korven::report {
 
-/// All that a report shows: a project and the results of its stages.
+/// What the anchors and the shear of a stage come to, worked out from the stored results.
+struct AzioniFase {
+    int nTiranti = 0;  ///< anchors in place, from the first row of their table
+    /// Displacement of each anchor's node when the anchor came into place [m].
+    base::Tabella<double, project::massimoTiranti> yTirante;
+    /// Shear along the wall [t/m]; at each anchor the value just below it.
+    analysis::VettoreNodi taglioNodo;
+    analysis::EstremiTaglio estremi{};
+};
+
+/// All that a report or a diagram shows: a project and the results of its stages.
 struct DatiRelazione {
     project::DatiProgetto progetto;
     int nNodi = 0;
     double passo = 0;                           ///< distance of the nodes [m]
     std::vector<analysis::RisultatiFase> fasi;  ///< element 0 is stage 1
+    std::vector<AzioniFase> azioni;             ///< the same
     analysis::ChiusuraRisultati chiusura;
 
     /// Force of each anchor at the end [t], see `tiroFinale`.
