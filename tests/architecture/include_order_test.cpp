@@ -25,7 +25,7 @@ const std::map<std::string, std::set<std::string>> lower = {
     {"commands", {"base", "project", "plot", "structure", "analysis", "report"}},
     {"device", {"base", "project", "plot", "structure", "analysis", "report", "commands"}},
     {"shell", {"base", "project", "plot", "structure", "analysis", "report", "commands", "device"}},
-    {"batch", {"base", "project", "plot", "structure", "analysis", "report", "commands"}},
+    {"batch", {"base", "project", "plot", "structure", "analysis", "report", "commands", "device"}},
     {"outdoc", {"base", "report"}},
 };
 

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QFont>
+#include <string_view>
+
+#include "plot/text_width.hpp"
+
+namespace korven::device {
+
+/// The font of a drawing's texts: the typeface named, or one with the same widths when the machine
+/// has it not (Liberation for Arial, Courier New and Times New Roman), at a size for measuring.
+/// Shapes are not fitted to pixels, so that a text has the same proportions on every device.
+[[nodiscard]] QFont fontDisegno(std::string_view carattere);
+
+/// Font size at which a row of text in this font, accents and descenders included, is `riga` high,
+/// in the same unit. A drawing writes a text of height h in a row of 5/3 h.
+[[nodiscard]] double corpoPerRiga(const QFont& font, double riga);
+
+/// Row of a text over its height.
+inline constexpr double rigaPerAltezza = 5.0 / 3.0;
+
+/// Measures texts in the fonts that the drawing is painted with.
+class MetricaQt : public plot::MetricaTesto {
+ public:
+    [[nodiscard]] double larghezza(std::string_view carattere, double altezza,
+                                   std::string_view testo) const override;
+};
+
+}  // namespace korven::device

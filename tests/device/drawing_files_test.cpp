@@ -1,0 +1,155 @@
+#include "device/drawing_files.hpp"
+
+#include <gtest/gtest.h>
+
+#include <QImage>
+#include <QString>
+#include <algorithm>
+#include <optional>
+
+#include "base/file_error.hpp"
+#include "device/drawing_fonts.hpp"
+#include "device/graphics_session.hpp"
+#include "plot/plot_engine.hpp"
+#include "support/drawing_by_pen.hpp"
+
+namespace korven::device {
+namespace {
+
+using plot::fineDisegno;
+using plot::pennaGiu;
+using plot::pennaSu;
+using plot::plotMuovi;
+
+constexpr int puntiPerPollice = 254;  // a hundred pixels to the centimetre
+
+/// Rows and columns of the pixels darker than mid grey.
+struct Macchia {
+    int sinistra = 1 << 20, sopra = 1 << 20, destra = -1, sotto = -1;
+    [[nodiscard]] int larghezza() const { return destra - sinistra + 1; }
+    [[nodiscard]] int altezza() const { return sotto - sopra + 1; }
+};
+
+class File : public test::ProvaPlot {
+ protected:
+    File() { configura(test::penneDistinte()); }
+
+    /// A sheet of 10 by 5 cm.
+    static void apri() {
+        plot::plotApri(0, 0, 10, 5);
+        plot::plotPenna(1);
+    }
+    [[nodiscard]] QImage immagine() const {
+        plotMuovi(0, 0, fineDisegno);
+        scriviPng(cartella / "disegno.png", puntiPerPollice);
+        return QImage(QString::fromStdString(cartella / "disegno.png"));
+    }
+    [[nodiscard]] Macchia macchia() const {
+        const QImage foglio = immagine();
+        Macchia m;
+        for (int y = 0; y < foglio.height(); ++y)
+            for (int x = 0; x < foglio.width(); ++x) {
+                if (qGray(foglio.pixel(x, y)) > 127) continue;
+                m = {std::min(m.sinistra, x), std::min(m.sopra, y), std::max(m.destra, x),
+                     std::max(m.sotto, y)};
+            }
+        return m;
+    }
+
+    const SessioneGrafica sessione;
+    const test::CartellaProvvisoria cartella;
+};
+
+TEST_F(File, ShowTheWholeSheetAtTheResolutionAskedFor) {
+    apri();
+    const QImage foglio = immagine();
+    EXPECT_EQ(foglio.width(), 1000);
+    EXPECT_EQ(foglio.height(), 500);
+    EXPECT_EQ(foglio.dotsPerMeterX(), 10000);
+    EXPECT_EQ(qGray(foglio.pixel(10, 10)), 255);
+}
+
+TEST_F(File, ShowALineOfOneCentimetreAHundredPixelsLong) {
+    apri();
+    plotMuovi(2, 3, pennaSu);
+    plotMuovi(3, 3, pennaGiu);
+    const Macchia m = macchia();
+    EXPECT_NEAR(m.larghezza(), 100, 2);
+    EXPECT_NEAR(m.sinistra, 200, 1);
+    EXPECT_NEAR(m.sopra, 200, 1) << "3 cm above the lower edge";
+    EXPECT_LE(m.altezza(), 2) << "0.1 mm is one pixel, which may lie on two";
+}
+
+TEST_F(File, ShowALineAsWideAsItsPen) {
+    apri();
+    plot::plotPenna(20);  // 2 mm
+    plotMuovi(2, 3, pennaSu);
+    plotMuovi(6, 3, pennaGiu);
+    EXPECT_NEAR(macchia().altezza(), 20, 1);
+}
+
+TEST_F(File, ShowATextOnItsBaseLineFromItsPoint) {
+    apri();
+    plot::plotSimbolo(2, 3, 1, "HHH", 0, 3);
+    const Macchia m = macchia();
+    EXPECT_NEAR(m.sotto, 200, 2);
+    EXPECT_GE(m.sinistra, 200);
+    EXPECT_LE(m.sinistra, 225);
+    // A capital of these faces is 0.716 of a size that is 5/3 / 1.117 of the height.
+    EXPECT_NEAR(m.altezza(), 107, 5);
+}
+
+TEST_F(File, ShowACentredTextAboutItsPoint) {
+    apri();
+    plot::plotSimbolo(5, 3, 1, "HHH", 0, plot::conteggioCentrato);
+    const Macchia m = macchia();
+    EXPECT_NEAR((m.sinistra + m.destra) / 2.0, 500, 2);
+}
+
+TEST_F(File, ShowATurnedTextUpwardFromItsPoint) {
+    apri();
+    plot::plotSimbolo(5, 1, 1, "HHH", 90, 3);
+    const Macchia m = macchia();
+    EXPECT_NEAR(m.destra, 500, 2) << "the base line";
+    EXPECT_LE(m.sotto, 400);
+    EXPECT_GE(m.sotto, 375);
+    EXPECT_NEAR(m.larghezza(), 107, 5);
+}
+
+TEST_F(File, HoldOnePdfPageOfA4) {
+    apri();
+    plotMuovi(0, 0, pennaSu);
+    plotMuovi(10, 5, pennaGiu);
+    plotMuovi(0, 0, fineDisegno);
+    scriviPdf(cartella / "disegno.pdf");
+    const std::string pdf = test::contenuto(cartella / "disegno.pdf");
+    EXPECT_TRUE(pdf.starts_with("%PDF-1.4"));
+    EXPECT_NE(pdf.find("/MediaBox [0 0 595.000000 842.000000]"), std::string::npos);
+}
+
+TEST_F(File, HoldTheTextsOfAnSvgAsTexts) {
+    apri();
+    plot::plotSimbolo(2, 3, 1, "Pietà", 0, 5);
+    plotMuovi(0, 0, fineDisegno);
+    scriviSvg(cartella / "disegno.svg");
+    const std::string svg = test::contenuto(cartella / "disegno.svg");
+    EXPECT_NE(svg.find("Pietà"), std::string::npos);
+    EXPECT_NE(svg.find("width=\"100mm\" height=\"50mm\""), std::string::npos);
+}
+
+TEST_F(File, ThatCannotBeWrittenAreAnError) {
+    apri();
+    plotMuovi(0, 0, fineDisegno);
+    for (const auto scrivi : {scriviPdf, scriviSvg})
+        EXPECT_THROW(scrivi(cartella / "manca/disegno"), base::ErroreFile);
+    EXPECT_THROW(scriviPng(cartella / "manca/disegno", 100), base::ErroreFile);
+}
+
+TEST_F(File, AreMeasuredInTheFontsTheyAreWrittenIn) {
+    const double stimata = plot::MetricaStimata().larghezza("Arial", 0.25, "Fase di scavo n. 12");
+    EXPECT_NEAR(MetricaQt().larghezza("Arial", 0.25, "Fase di scavo n. 12"), stimata,
+                0.005 * stimata);
+}
+
+}  // namespace
+}  // namespace korven::device
