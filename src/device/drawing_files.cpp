@@ -7,10 +7,12 @@
 #include <QPainter>
 #include <QPdfWriter>
 #include <QSvgGenerator>
+#include <algorithm>
 #include <cassert>
 #include <cmath>
 
 #include "base/files.hpp"
+#include "device/drawing_extent.hpp"
 #include "device/drawing_painter.hpp"
 #include "plot/plot_engine.hpp"
 
@@ -28,6 +30,10 @@ constexpr double perCentimetro(int dpi) { return dpi / centimetriPerPollice; }
 void dipingi(QPainter& painter, const plot::Riquadro& vista, int dpi, double pennaMinima) {
     PittoreDisegno(painter, vista, perCentimetro(dpi), pennaMinima)
         .dipingi(plot::statoPlot.archivio);
+}
+
+plot::Riquadro vistaDelDisegno() {
+    return vistaDisegno(plot::statoPlot.estensione, plot::statoPlot.archivio);
 }
 
 void salva(const std::string& percorso, const QBuffer& buffer) {
@@ -64,7 +70,7 @@ void scriviPdf(const std::string& percorso) {
 }
 
 void scriviSvg(const std::string& percorso) {
-    const plot::Riquadro& vista = plot::statoPlot.estensione;
+    const plot::Riquadro vista = vistaDelDisegno();
     const QSizeF misure = QSizeF(vista.larghezza(), vista.altezza()) * perCentimetro(dpiVettoriale);
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
@@ -83,7 +89,7 @@ void scriviSvg(const std::string& percorso) {
 
 void scriviPng(const std::string& percorso, int dpi) {
     assert(dpi >= risoluzioneMinima && dpi <= risoluzioneMassima);
-    const plot::Riquadro& vista = plot::statoPlot.estensione;
+    const plot::Riquadro vista = vistaDelDisegno();
     const double scala = perCentimetro(dpi);
     QImage immagine(static_cast<int>(std::ceil(vista.larghezza() * scala)),
                     static_cast<int>(std::ceil(vista.altezza() * scala)), QImage::Format_RGB32);

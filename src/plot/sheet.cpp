@@ -1,5 +1,9 @@
 #include "plot/sheet.hpp"
 
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
 #include "base/code_page.hpp"
 #include "plot/plot_engine.hpp"
 
@@ -18,6 +22,19 @@ void apriFoglio(const base::Tabella<std::string, 6>& titoli, std::string_view ti
 void linea(double x1, double y1, double x2, double y2) {
     plotMuovi(x1, y1, pennaSu);
     plotMuovi(x2, y2, pennaGiu);
+}
+
+void disegnaCerchio(double x, double y, double raggio) {
+    constexpr double freccia = 0.001;  // [cm]
+    constexpr int minimo = 12, massimo = 720;
+    if (!(raggio > 0)) return;
+    const double corde = std::numbers::pi / std::acos(1 - std::min(freccia / raggio, 1.0));
+    const int n = static_cast<int>(std::clamp(std::ceil(corde), double{minimo}, double{massimo}));
+    plotMuovi(x + raggio, y, pennaSu);
+    for (int k = 1; k <= n; ++k) {
+        const double angolo = k * 2 * std::numbers::pi / n;
+        plotMuovi(x + raggio * std::cos(angolo), y + raggio * std::sin(angolo), pennaGiu);
+    }
 }
 
 void testoCentrato(double x, double y, double altezza, std::string_view testo, double angolo) {

@@ -26,6 +26,10 @@ void apriFoglio(const base::Tabella<std::string, 6>& titoli, std::string_view ti
 /// A straight line from (x1, y1) to (x2, y2) with the pen in use.
 void linea(double x1, double y1, double x2, double y2);
 
+/// A circle as a closed polyline that nowhere leaves it by more than a hundredth of a millimetre;
+/// nothing for a radius of 0.
+void disegnaCerchio(double x, double y, double raggio);
+
 /// A text centred on x, its base line at y.
 void testoCentrato(double x, double y, double altezza, std::string_view testo, double angolo = 0);
 

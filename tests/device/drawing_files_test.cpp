@@ -69,6 +69,19 @@ TEST_F(File, ShowTheWholeSheetAtTheResolutionAskedFor) {
     EXPECT_EQ(qGray(foglio.pixel(10, 10)), 255);
 }
 
+TEST_F(File, ShowATextThatStandsOutOfTheSheetToItsEnd) {
+    apri();
+    plot::plotSimbolo(9.5, 3, 1, "H", 0, 1);
+    const double fine = 9.5 + MetricaQt().larghezza("Arial", 1, "H");
+    EXPECT_NEAR(immagine().width(), (fine + 0.1) * 100, 1);
+}
+
+TEST_F(File, ShowNoMoreThanTwoCentimetresBesideTheSheet) {
+    apri();
+    plot::plotSimbolo(9, 3, 1, std::string(40, 'H'), 0, 40);
+    EXPECT_EQ(immagine().width(), 1200);
+}
+
 TEST_F(File, ShowALineOfOneCentimetreAHundredPixelsLong) {
     apri();
     plotMuovi(2, 3, pennaSu);

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "plot/drawing_store.hpp"
+#include "plot/geometry.hpp"
+
+namespace korven::device {
+
+/// What a picture of a drawing shows [cm]: its sheet, and beside it what texts need that stand out
+/// of the sheet, two centimetres at most on each side.
+[[nodiscard]] plot::Riquadro vistaDisegno(const plot::Riquadro& foglio,
+                                          const plot::ArchivioDisegno& archivio);
+
+}  // namespace korven::device
