@@ -32,7 +32,7 @@ struct Macchia {
 
 class File : public test::ProvaPlot {
  protected:
-    File() { configura(test::penneDistinte()); }
+    File() { configura(test::penneNere()); }
 
     /// A sheet of 10 by 5 cm.
     static void apri() {

@@ -54,7 +54,7 @@ void nodi(analysis::VettoreNodi& valori, const std::vector<double>& scritti) {
 
 class Disegno : public test::ProvaPlot {
  protected:
-    Disegno() { configura(test::penneDistinte()); }
+    Disegno() { configura(test::penneNere()); }
 
     DatiRelazione dati = muro();
 };

@@ -52,7 +52,7 @@ long quantiDi(double raggio) {
 
 class Sezione : public test::ProvaPlot {
  protected:
-    Sezione() { configura(test::penneDistinte()); }
+    Sezione() { configura(test::penneNere()); }
 
     void disegna() {
         dati.sezione = s;

@@ -11,7 +11,7 @@
 namespace korven::test {
 
 /// Pens that tell their strokes apart: all black, pen n is n tenths of a millimetre wide.
-inline plot::ConfigurazionePlot penneDistinte() {
+inline plot::ConfigurazionePlot penneNere() {
     plot::ConfigurazionePlot c;
     for (int i = 1; i <= plot::numeroPenne; ++i)
         c.penne[i] = {"Penna " + std::to_string(i), 1, i * 0.1, "Arial"};

@@ -84,8 +84,10 @@ const std::map<std::string, Texts> noTexts = {
     {"plot/plot_print.cpp", {"forcecol", "overlap.cfg"}},
     {"plot/spill_files.cpp", {"korven32-XXXXXX", "plttmp", ".tmp", "windir"}},
     {"plot/text_width.cpp", {"courier", "mono"}},
+    {"report/diagram_frame.cpp", {"[kN/m²]"}},
     {"report/markup_reader.cpp", {"TRUE"}},
     {"report/report_data.cpp", {"nseg.txt"}},
+    {"structure/section_drawing.cpp", {"[N/mm²]"}},
 };
 
 bool letter(char c) {
