@@ -23,9 +23,11 @@ constexpr int larghezzaAltri = 556;     // accented letters are mostly vowels
 constexpr int larghezzaMacchina = 600;  // every character of a typewriter face
 constexpr double millesimi = 1000;
 
-// A drawing of height h is printed with a row of 5/3 h, and the row of these faces is 1.117 times
-// their font size.
-constexpr double corpoPerAltezza = 5.0 / 3.0 / 1.117;
+// A text of height h is printed in a row of 5/3 h; the row of a face, accents and descenders
+// included, over its font size.
+constexpr double rigaPerAltezza = 5.0 / 3.0;
+constexpr double rigaPerCorpo = 1.117;
+constexpr double rigaPerCorpoMacchina = 1.133;
 
 bool daMacchina(std::string_view carattere) {
     const std::string nome = base::minuscolo(carattere);
@@ -48,7 +50,8 @@ double MetricaStimata::larghezza(std::string_view carattere, double altezza,
         somma += macchina ? larghezzaMacchina : larghezzaCarattere(testo.front());
         testo.remove_prefix(base::lunghezzaPrimoCarattere(testo));
     }
-    return somma / millesimi * corpoPerAltezza * altezza;
+    return somma / millesimi * rigaPerAltezza * altezza /
+           (macchina ? rigaPerCorpoMacchina : rigaPerCorpo);
 }
 
 }  // namespace korven::plot

@@ -159,9 +159,13 @@ TEST_F(File, ThatCannotBeWrittenAreAnError) {
 }
 
 TEST_F(File, AreMeasuredInTheFontsTheyAreWrittenIn) {
-    const double stimata = plot::MetricaStimata().larghezza("Arial", 0.25, "Fase di scavo n. 12");
-    EXPECT_NEAR(MetricaQt().larghezza("Arial", 0.25, "Fase di scavo n. 12"), stimata,
-                0.005 * stimata);
+    for (const char* carattere : {"Arial", "Courier New"}) {
+        const double stimata =
+            plot::MetricaStimata().larghezza(carattere, 0.25, "Fase di scavo n. 12");
+        EXPECT_NEAR(MetricaQt().larghezza(carattere, 0.25, "Fase di scavo n. 12"), stimata,
+                    0.002 * stimata)
+            << carattere;
+    }
 }
 
 }  // namespace
