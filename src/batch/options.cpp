@@ -30,6 +30,11 @@ CLI::Validator senzaNome(const CLI::Validator& controllo) { return controllo.des
 // A path without a character names nothing.
 const CLI::Validator nonVuoto([](std::string& testo) { return testo.empty() ? "?" : ""; }, "");
 
+// The library takes any next argument for the value: a forgotten one must not make a folder
+// "--json".
+const CLI::Validator cartella(
+    [](std::string& testo) { return testo.empty() || testo.starts_with('-') ? "?" : ""; }, "");
+
 // Whether the number will do is for the run to say; what is none is a slip of the pen.
 const CLI::Validator numero([](std::string& testo) { return base::soloUnNumero(testo) ? "" : "?"; },
                             "");
@@ -64,7 +69,7 @@ void comuni(CLI::App& comando, Opzioni& o) {
         .add_option("--uscita", o.uscita,
                     traduttore("scrive i risultati in questa cartella, non accanto al progetto"))
         ->type_name("DIR")
-        ->check(nonVuoto);
+        ->check(cartella);
     comando
         .add_option_function<std::string>(
             "--metodo-spinte", [&o](const std::string& nome) { o.metodoSpinte = metodi.at(nome); },
@@ -102,6 +107,12 @@ void diCalcolo(CLI::App& comando, Opzioni& o) {
         ->capture_default_str();
 }
 
+EsitoLettura rifiuta(const std::string& perche) {
+    std::cerr << "korven32c: " << perche << '\n'
+              << traduttore("Per l'aiuto") << ": korven32c --help\n";
+    return {std::nullopt, 2};
+}
+
 }  // namespace
 
 EsitoLettura leggiOpzioni(int argc, const char* const* argv) {
@@ -130,18 +141,15 @@ EsitoLettura leggiOpzioni(int argc, const char* const* argv) {
         "verifica", traduttore("dice che cosa manca o è strano nel progetto, senza calcolare"));
     comuni(*verifica, o);
 
+    if (const auto perche = valoreVuoto(argc, argv); !perche.empty()) return rifiuta(perche);
     try {
         app.parse(argc, argv);
     } catch (const CLI::Success& chiesto) {  // help and version
         return {std::nullopt, app.exit(chiesto)};
     } catch (const CLI::ParseError& errore) {
         const bool senzaComando = app.get_subcommands().empty();
-        std::cerr << "korven32c: "
-                  << (senzaComando ? comandoMancante(argc, argv)
-                                   : spiegazioneUso(*app.get_subcommands().front(), errore))
-                  << "\n"
-                  << traduttore("Per l'aiuto") << ": korven32c --help\n";
-        return {std::nullopt, 2};
+        return rifiuta(senzaComando ? comandoMancante(argc, argv)
+                                    : spiegazioneUso(*app.get_subcommands().front(), errore));
     }
     if (relazione->parsed()) o.comando = Comando::relazione;
     if (verifica->parsed()) o.comando = Comando::verifica;

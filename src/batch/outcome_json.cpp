@@ -10,12 +10,11 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-// A zero has no sign for the reader of a result.
-double senzaSegno(double valore) { return valore + 0.0; }
+// Six decimals, without the noise of a product; a zero has no sign for the reader of a result.
+double arrotondato(double valore) { return std::round(valore * 1e6) / 1e6 + 0.0; }
 
-// t to kN, t m to kN m. The result file has seven decimals; six remain, without the noise of the
-// product.
-double kN(double forza) { return senzaSegno(std::round(forza * 1e7) / 1e6); }
+// t to kN, t m to kN m. The result file has seven decimals of them.
+double kN(double forza) { return std::round(forza * 1e7) / 1e6 + 0.0; }
 double kNm(double momento) { return kN(momento); }
 
 Json fase(const commands::EsitoFase& riga, const Esito& esito) {
@@ -24,8 +23,8 @@ Json fase(const commands::EsitoFase& riga, const Esito& esito) {
         if (corsa.fase == riga.fase) iterazioni = corsa.iterazioni;
     Json j = {{"fase", riga.fase},
               {"iterazioni", iterazioni},
-              {"scavo_m", senzaSegno(riga.profFase)},
-              {"spostamento_massimo_m", senzaSegno(riga.spostamentoMax)},
+              {"scavo_m", riga.profFase + 0.0},
+              {"spostamento_massimo_m", riga.spostamentoMax + 0.0},
               {"momento_massimo_kNm", kNm(riga.momentoMax)},
               {"momento_minimo_kNm", kNm(riga.momentoMin)}};
     for (const auto& corsa : esito.fasi)
@@ -37,7 +36,7 @@ Json tiranti(const commands::EsitoCalcolo& calcolo) {
     Json tutti = Json::array();
     for (const auto& tirante : calcolo.tiranti)
         tutti.push_back({{"tirante", tirante.tirante},
-                         {"profondita_m", senzaSegno(tirante.profondita)},
+                         {"profondita_m", tirante.profondita + 0.0},
                          {"tiro_massimo_kN", kN(tirante.tiroMassimo)}});
     return tutti;
 }
@@ -60,10 +59,10 @@ Json taglio(const commands::EsitoCalcolo& calcolo) {
     Json rotture = Json::array();
     for (const auto rottura : structure::righeRotturaTaglio(t))
         rotture.push_back(base::traduttore(rottura));
-    return {{"taglio_massimo_kN", senzaSegno(t.taglioMassimo)},
-            {"taglio_calcolo_kN", senzaSegno(t.Vsd)},
-            {"Vrd2_kN", senzaSegno(t.Vrd2)},
-            {"Vrd3_kN", senzaSegno(t.Vrd3)},
+    return {{"taglio_massimo_kN", arrotondato(t.taglioMassimo)},
+            {"taglio_calcolo_kN", arrotondato(t.Vsd)},
+            {"Vrd2_kN", arrotondato(t.Vrd2)},
+            {"Vrd3_kN", arrotondato(t.Vrd3)},
             {"verificata", rotture.empty()},
             {"rotture", rotture}};
 }
@@ -78,8 +77,8 @@ Json calcolo(const Esito& esito) {
             {"momento_massimo_kNm", kNm(chiusura.mMaxTotale)},
             {"momento_minimo_kNm", kNm(chiusura.mMinTotale)},
             // N mm to kN m; the pass of negative curvature resists the positive moment
-            {"momento_resistente_positivo_kNm", senzaSegno(-chiusura.mrd1 / 1e6)},
-            {"momento_resistente_negativo_kNm", senzaSegno(-chiusura.mrd2 / 1e6)},
+            {"momento_resistente_positivo_kNm", arrotondato(-chiusura.mrd1 / 1e6)},
+            {"momento_resistente_negativo_kNm", arrotondato(-chiusura.mrd2 / 1e6)},
             {"fattore_azioni", chiusura.fsAzioni},
             {"verifica_flessione", flessione(*esito.calcolo)},
             {"verifica_taglio", taglio(*esito.calcolo)},

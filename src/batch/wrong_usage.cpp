@@ -1,5 +1,7 @@
 #include "batch/wrong_usage.hpp"
 
+#include <string_view>
+
 #include "base/translated_texts.hpp"
 
 namespace korven::batch {
@@ -48,9 +50,19 @@ std::string spiegazioneUso(const CLI::App& comando, const CLI::ParseError& error
         return traduttore(opzione->results().size() > 1 ? "un'opzione è data più volte"
                                                         : "manca il valore di un'opzione") +
                nome;
-    const std::string ammessi =
-        opzione->get_positional() ? "" : " (" + opzione->get_type_name() + ")";
+    const std::string tipo = opzione->get_positional() ? "" : opzione->get_type_name();
+    const std::string ammessi = tipo.empty() ? "" : " (" + tipo + ")";
     return traduttore("valore non ammesso") + nome + uniti(opzione->results()) + ammessi;
+}
+
+std::string valoreVuoto(int argc, const char* const* argv) {
+    for (int i = 1; i < argc && std::string_view(argv[i]) != "--"; ++i) {
+        const std::string_view argomento = argv[i];
+        if (argomento.starts_with("--") && argomento.ends_with('='))
+            return traduttore("manca il valore di un'opzione") + ": " +
+                   std::string(argomento.substr(0, argomento.size() - 1));
+    }
+    return {};
 }
 
 // The library only says that a command is required, whatever stands in its place.
