@@ -13,7 +13,16 @@ class ErroreIndice : public std::out_of_range {
  public:
     ErroreIndice(long indice, std::size_t capacita)
         : std::out_of_range("indice " + std::to_string(indice) + " fuori dalla tabella (0-" +
-                            std::to_string(capacita) + ")") {}
+                            std::to_string(capacita) + ")"),
+          indice_(indice),
+          capacita_(capacita) {}
+
+    [[nodiscard]] long indice() const { return indice_; }
+    [[nodiscard]] std::size_t capacita() const { return capacita_; }
+
+ private:
+    long indice_;
+    std::size_t capacita_;
 };
 
 /// A table of N rows counted from 1, as engineers count, with a row 0 that belongs to it and is

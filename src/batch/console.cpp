@@ -2,11 +2,10 @@
 
 #include <unistd.h>
 
-#include <cmath>
 #include <iostream>
 
-#include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
+#include "batch/shown_number.hpp"
 
 namespace korven::batch {
 
@@ -14,21 +13,18 @@ namespace {
 
 constexpr const char* cancellaRiga = "\r\x1b[K";
 
-// A wall on its way to failure may move beyond all numbers; the run judges that at its end.
-std::string breve(double valore, int decimali) {
-    return std::isfinite(valore) ? base::formattaDecimali(valore, decimali) : "-";
-}
-
 // Short numbers: the line must fit a terminal. Displacement in m, moment in kN m.
 std::string rigaAvanzamento(const analysis::StatoIterazione& stato) {
     return base::traduttore("fase") + "=" + std::to_string(stato.fase) +
-           "   iter.=" + std::to_string(stato.iterazione) + "   Ymax=" + breve(stato.yMax, 4) +
-           "   Mmax=" + breve(10 * stato.mMax, 2);
+           "   iter.=" + std::to_string(stato.iterazione) +
+           "   Ymax=" + numeroMostrato(stato.yMax, 4) +
+           "   Mmax=" + numeroMostrato(stato.mMax, 2, 1);
 }
 
 }  // namespace
 
 void DialogoConsole::messaggio(std::string_view testo, std::string_view titolo, base::Icona) {
+    vista_.chiudi();
     messaggi_.emplace_back(testo);
     std::cerr << titolo << ' ' << testo << '\n';
 }

@@ -1,6 +1,7 @@
 #include <sstream>
 
 #include "batch_bench.hpp"
+#include "structure/sample_sections.hpp"
 
 namespace korven::batch {
 namespace {
@@ -51,6 +52,23 @@ TEST_F(EsitoTesto, RunsAgainAfterAChangeOfASingleNumber) {
     d.phiStrato[1] = 30.5;
     scrivi(d);
     EXPECT_TRUE(dice(esegui("calcola").uscita, "Calcolo eseguito."));
+}
+
+TEST_F(EsitoTesto, TellsASectionCheckThatFailsAndEndsWellAllTheSame) {
+    auto d = progettoSemplice();
+    d.sezione = structure::diaframmaSimmetrico();
+    d.sezione.diametroMonte = d.sezione.diametroValle = 0.1;  // hardly any steel
+    scrivi(d);
+    const std::string detto = "\nCONDIZIONI DI SICUREZZA NON VERIFICATE (momento ";
+    const auto esito = esegui("relazione");
+    EXPECT_EQ(esito.codice, 0);
+    const auto tabella = esito.uscita.find("Calcolo eseguito.\n");
+    ASSERT_NE(tabella, std::string::npos);
+    EXPECT_TRUE(dice(esito.uscita.substr(tabella), detto)) << esito.uscita;
+    EXPECT_TRUE(dice(test::contenuto(cartella / "muro.TAB"), detto));
+    d.sezione = {};
+    scrivi(d);
+    EXPECT_FALSE(dice(esegui("relazione").uscita, "SICUREZZA"));
 }
 
 TEST_F(EsitoTesto, TellsWhatAReviewFound) {
