@@ -1,6 +1,7 @@
 #include <pty.h>
 #include <signal.h>
 #include <sys/wait.h>
+#include <termios.h>
 #include <unistd.h>
 
 #include <chrono>
@@ -35,6 +36,11 @@ class SuTerminale : public test::BancoConsole {
         processo_ = ::forkpty(&terminale_, nullptr, nullptr, &misure);
         ASSERT_GE(processo_, 0);
         if (processo_ == 0) {
+            // An interrupt from the keyboard would throw away what was written just before it.
+            termios modi{};
+            ::tcgetattr(STDIN_FILENO, &modi);
+            modi.c_lflag |= NOFLSH;
+            ::tcsetattr(STDIN_FILENO, TCSANOW, &modi);
             ::execv(puntatori[0], puntatori.data());
             ::_exit(127);
         }
