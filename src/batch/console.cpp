@@ -46,6 +46,9 @@ void AvanzamentoConsole::iterazione(const analysis::StatoIterazione& stato) {
 }
 
 void AvanzamentoConsole::chiudi() {
+    // An interrupt cuts short a write that waits for the terminal, and a stream that failed once
+    // would keep what follows to itself: why the run ended.
+    std::cerr.clear();
     if (rigaAperta_) std::cerr << '\n';
     rigaAperta_ = false;
 }
