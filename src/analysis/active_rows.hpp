@@ -47,7 +47,7 @@ struct RigheAttive {
 };
 
 /// Largest absolute value of m cells, NaN apart; 0 when there is none.
-KORVEN_CORSIE double massimoAssoluto(const double* celle, int m) {
+KORVEN_CORSIE double cellaMassima(const double* celle, int m) {
     Corsie massimi{};
     int k = 0;
     for (; k + larghezza <= m; k += larghezza)
@@ -198,7 +198,7 @@ KORVEN_CORSIE int numeroMaggiore(const double* valori, const double* numeri, dou
 /// rows up to date until the largest bound is a cell.
 KORVEN_CORSIE int trovaRiga(RigheAttive& r) {
     for (;;) {
-        const double massima = massimoAssoluto(r.massima, r.quante);
+        const double massima = cellaMassima(r.massima, r.quante);
         const int i = r.indice[numeroMaggiore(r.massima, r.numero, massima, r.quante)];
         if (r.inSospeso[i] == 0.0) return i;
         aggiorna<1>(r, &i);

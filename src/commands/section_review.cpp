@@ -6,7 +6,7 @@
 #include "structure/section_millimetres.hpp"
 #include "structure/section_type.hpp"
 #include "structure/section_validity.hpp"
-#include "structure/stiffness.hpp"
+#include "structure/stiffness_update.hpp"
 
 namespace korven::commands {
 
@@ -16,8 +16,6 @@ using base::traduttore;
 using project::DatiProgetto;
 using project::Sezione;
 using structure::TipoSezione;
-
-constexpr double unaRigidezza = 10000000000;  // N mm2 to t m2
 
 bool qualcosaScritto(const Sezione& s) {
     Sezione vuota;
@@ -34,17 +32,15 @@ bool troppiFerri(const Sezione& s) {
            std::floor(s.armNumLong) > structure::massimoFerri;
 }
 
-// Whether the section offers a stiffness that a run can take.
-bool rigidezzaDallaSezione(const Sezione& s) {
-    if (!structure::sezioneValida(s) || troppiFerri(s)) return false;
-    const double EJ = std::trunc(structure::calcolaEJ(s) / unaRigidezza);
-    return EJ != 0 && std::isfinite(EJ);
+// The stiffness of the section as a run would take it, 0 if it has none.
+double rigidezzaDallaSezione(const Sezione& s) {
+    return troppiFerri(s) ? 0 : structure::rigidezzaOfferta(s).value_or(0);
 }
 
 void controlloRigidezza(const DatiProgetto& dati, ElencoRilievi& elenco) {
     if (dati.rigidezzaEJ < 0)
         elenco.avviso(conValore(traduttore("la rigidezza EJ è negativa"), dati.rigidezzaEJ));
-    if (dati.rigidezzaEJ == 0 && !rigidezzaDallaSezione(dati.sezione))
+    if (dati.rigidezzaEJ == 0 && rigidezzaDallaSezione(dati.sezione) == 0)
         elenco.impedimento(traduttore(analysis::messaggioSenzaEJ));
 }
 
