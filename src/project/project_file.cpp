@@ -101,7 +101,10 @@ void leggiDati(base::LettoreRighe& file, DatiProgetto& dati) {
 }
 
 void leggiProgetto() {
-    auto file = base::LettoreRighe::apri(fileCorrente);
+    // A wrong count is seldom noticed where it stands: the lines behind it are taken for others.
+    auto file = base::LettoreRighe::apri(
+        fileCorrente, base::traduttore("controllare anche i numeri di strati, tiranti e fasi: le "
+                                       "righe che li seguono devono essere altrettante"));
     leggiDati(file, Progetto);
 }
 
