@@ -42,8 +42,8 @@ void scegliLingua(const std::string& sigla) {
     base::impostaLingua(codice);
 }
 
-int verifica(Esito& esito) {
-    esito.rilievi = commands::esaminaProgetto(project::Progetto);
+int verifica(const std::string& progetto, Esito& esito) {
+    esito.rilievi = commands::esaminaFile(progetto, project::Progetto);
     return commands::calcolabile(esito.rilievi) ? fatto : nonEseguito;
 }
 
@@ -86,7 +86,8 @@ int esegui(const Opzioni& opzioni, Esito& esito) {
     commands::apriProgetto(opzioni.progetto, opzioni.uscita);
     esito.progetto = project::fileCorrente;
     if (opzioni.metodoSpinte) project::Progetto.metodoSpinte = *opzioni.metodoSpinte;
-    return opzioni.comando == Comando::verifica ? verifica(esito) : corri(opzioni, esito);
+    return opzioni.comando == Comando::verifica ? verifica(opzioni.progetto, esito)
+                                                : corri(opzioni, esito);
 }
 
 void racconta(const Opzioni& opzioni, const Esito& esito) {

@@ -23,6 +23,16 @@ std::string conValore(std::string testo, double valore) {
     return std::move(testo) + " (" + base::testoNumero(valore) + ")";
 }
 
+std::string campo(std::string_view etichetta, double valore) {
+    return base::traduttore(etichetta) + " = " + base::testoNumero(valore);
+}
+
+std::string rigaCampo(std::string_view nome, int numero, std::string_view etichetta, double valore,
+                      std::string_view testo) {
+    return base::traduttore(nome) + " " + std::to_string(numero) + ": " + campo(etichetta, valore) +
+           ": " + base::traduttore(testo);
+}
+
 bool intero(double valore) { return valore == std::floor(valore); }
 
 }  // namespace korven::commands
