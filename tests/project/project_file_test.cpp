@@ -8,6 +8,7 @@
 
 #include "base/code_page.hpp"
 #include "base/file_error.hpp"
+#include "base/files.hpp"
 #include "support/sample_projects.hpp"
 #include "support/temporary_folder.hpp"
 
@@ -223,6 +224,26 @@ TEST(FileDiProgetto, RefusesCountsThatAreNoRowCounts) {
             EXPECT_NE(errore.atteso().find("da 0 a 100"), std::string::npos);
         }
     }
+}
+
+// Two layers are written but four counted: what breaks is a line further down.
+TEST(FileDiProgetto, RemindsOfTheCountsWhereAFileIsReadOutOfStep) {
+    const test::CartellaProvvisoria cartella;
+    fileCorrente = cartella / "muro.kvd";
+    std::string testo = testoProgetto(test::progettoSemplice());
+    testo.replace(0, 1, "4");
+    base::scriviFile(fileCorrente, testo);
+    try {
+        leggiProgetto();
+        FAIL();
+    } catch (const base::ErroreFile& errore) {
+        EXPECT_GT(errore.riga(), 17);
+        EXPECT_TRUE(errore.atteso().ends_with(
+            "; controllare anche i numeri di strati, tiranti e fasi: le righe che li seguono "
+            "devono essere altrettante"))
+            << errore.atteso();
+    }
+    fileCorrente.clear();
 }
 
 TEST(FileDiProgetto, NamesTheFieldThatHoldsNoNumber) {
