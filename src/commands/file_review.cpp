@@ -26,7 +26,7 @@ std::string racconto(const RigaInsolita& insolita) {
                               "il file continua dopo l'ultimo valore: i numeri di strati, "
                               "tiranti e fasi non sono quelli delle righe scritte");
     }
-    return dove;
+    return {};
 }
 
 }  // namespace

@@ -19,7 +19,7 @@ std::string testoRelazione(const DatiRelazione& dati) {
 
 std::string scriviRelazione() {
     const DatiRelazione dati = leggiRisultati(project::fileCorrente, project::Progetto);
-    const std::string percorso = base::nomeRelazione(project::fileCorrente);
+    std::string percorso = base::nomeRelazione(project::fileCorrente);
     base::scriviFile(percorso, base::inCp1252(testoRelazione(dati)));
     return percorso;
 }

@@ -37,9 +37,7 @@ void aggiornaEJ(const project::Sezione& sezione, double sforzoNormale, double& r
     momentiResistenti(sezione, sforzoNormale, MRd);
     const auto nuovoEJ = rigidezzaOfferta(sezione);
     if (!nuovoEJ) return;
-    if (rigidezzaEJ == 0)
-        rigidezzaEJ = *nuovoEJ;
-    else if (*nuovoEJ != rigidezzaEJ && accettaSostituzione(dialogo))
+    if (rigidezzaEJ == 0 || (*nuovoEJ != rigidezzaEJ && accettaSostituzione(dialogo)))
         rigidezzaEJ = *nuovoEJ;
 }
 
