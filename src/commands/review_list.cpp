@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <utility>
 
 #include "base/number_text.hpp"
@@ -23,8 +24,11 @@ std::string conValore(std::string testo, double valore) {
     return std::move(testo) + " (" + base::testoNumero(valore) + ")";
 }
 
+// Ten times a stored value may be too large for a number; the review must still be able to tell it.
 std::string campo(std::string_view etichetta, double valore) {
-    return base::traduttore(etichetta) + " = " + base::testoNumero(valore);
+    constexpr double massimo = std::numeric_limits<double>::max();
+    return base::traduttore(etichetta) + " = " +
+           base::testoNumero(std::clamp(valore, -massimo, massimo));
 }
 
 std::string rigaCampo(std::string_view nome, int numero, std::string_view etichetta, double valore,

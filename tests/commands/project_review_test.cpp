@@ -103,6 +103,32 @@ TEST(EsaminaProgetto, SaysOfUnknownCodesWhatTheRunDoesWithThem) {
     }
 }
 
+// Shown in kN such values are too large for a number.
+TEST(EsaminaProgetto, StandsTheLargestNumbersInAnyField) {
+    project::Sezione paliArmati;
+    paliArmati.tipoPaliArmati = true;
+    for (const double enorme : {1.7e308, -1.7e308}) {
+        for (const auto colonna :
+             {&DatiProgetto::profStrato, &DatiProgetto::gammaN, &DatiProgetto::gammaSat,
+              &DatiProgetto::phiStrato, &DatiProgetto::coesione, &DatiProgetto::ksStrato})
+            EXPECT_NO_THROW(righe(conModifica([&](auto& d) { (d.*colonna)[1] = enorme; })));
+        for (const auto colonna : {&DatiProgetto::profTirante, &DatiProgetto::rigTirante,
+                                   &DatiProgetto::pretTirante, &DatiProgetto::tipoTirante})
+            EXPECT_NO_THROW(righe(conModifica([&](auto& d) { (d.*colonna)[1] = enorme; })));
+        for (const auto campo :
+             {&DatiProgetto::rigidezzaEJ, &DatiProgetto::sovraccMonte, &DatiProgetto::gammaAcqua,
+              &DatiProgetto::lunghezzaParatia, &DatiProgetto::inclinazioneMonte,
+              &DatiProgetto::faldaMonte, &DatiProgetto::coeffM, &DatiProgetto::metodoKs})
+            EXPECT_NO_THROW(righe(conModifica([&](auto& d) { d.*campo = enorme; })));
+        EXPECT_NO_THROW(righe(conModifica([&](auto& d) {
+            d.profFase[1] = d.tirantiFase[1] = d.sovraccFase[1] = d.faldaFase[1] = -enorme;
+            d.sezione = paliArmati;
+            d.sezione.armDiamPalo = 1;
+            d.sezione.armCopriferro = d.sezione.armPassoStaffe = d.sezione.armNumLong = enorme;
+        })));
+    }
+}
+
 TEST(EsaminaProgetto, PutsWhatPreventsARunInFrontOfTheRest) {
     const auto d = conModifica([](DatiProgetto& p) {
         p.vincoloTesta = 9;
