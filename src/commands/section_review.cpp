@@ -48,7 +48,7 @@ void controlloRigidezza(const DatiProgetto& dati, ElencoRilievi& elenco) {
     const double sezione = rigidezzaDallaSezione(dati.sezione);
     const std::string scritta = campo("Rigidezza EJ diaframma [kN m²]", EJ * 10) + ": ";
     if (EJ == 0 && sezione == 0) elenco.impedimento(traduttore(analysis::messaggioSenzaEJ));
-    if (EJ < 0) elenco.avviso(scritta + traduttore("la rigidezza EJ è negativa"));
+    if (EJ < 0) elenco.avviso(scritta + traduttore("valore negativo"));
     if (EJ > 0 && sezione > 0 && (EJ > scartoRigidezza * sezione || sezione > scartoRigidezza * EJ))
         elenco.avviso(
             conValore(scritta + traduttore("è lontana da quella della sezione"), sezione * 10));
@@ -66,7 +66,7 @@ void controlloFaccia(const Faccia& f, double spessore, ElencoRilievi& elenco) {
     if ((f.interasse > 0) != (f.diametro > 0)) {
         elenco.avviso(dove + campo("Interasse armature [mm]", f.interasse * 10) + ", " +
                       campo("Diametro armature [mm]", f.diametro * 10) + ": " +
-                      traduttore("senza l'uno o l'altro la faccia conta come non armata"));
+                      traduttore("la faccia conta come non armata"));
         return;
     }
     const bool armata = f.interasse > 0;
@@ -74,8 +74,7 @@ void controlloFaccia(const Faccia& f, double spessore, ElencoRilievi& elenco) {
         elenco.avviso(copriferro + traduttore("senza copriferro il calcolo conta le armature ma la "
                                               "relazione non le mostra"));
     if (!armata && f.copriferro > 0)
-        elenco.avviso(copriferro + traduttore("mancano interasse e diametro: la faccia conta come "
-                                              "non armata"));
+        elenco.avviso(copriferro + traduttore("la faccia conta come non armata"));
     if (armata && spessore > 0 && f.copriferro + f.diametro / 2 >= spessore / 2)
         elenco.avviso(copriferro + traduttore(oltreMeta));
 }

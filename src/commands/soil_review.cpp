@@ -42,7 +42,7 @@ const ControlloStrato controlliStrato[] = {
     {&DatiProgetto::gammaN, "Gamma [kN/m³]", 10,
      [](Dati d, int j) { return d.gammaN[j] > massimoPeso; }, inKilonewton},
     {&DatiProgetto::gammaSat, "Gamma Sat. [kN/m³]", 10,
-     [](Dati d, int j) { return d.gammaSat[j] <= 0; }, "peso di volume saturo mancante"},
+     [](Dati d, int j) { return d.gammaSat[j] <= 0; }, "peso di volume mancante"},
     {&DatiProgetto::gammaSat, "Gamma Sat. [kN/m³]", 10,
      [](Dati d, int j) { return d.gammaSat[j] > massimoPeso; }, inKilonewton},
     {&DatiProgetto::gammaSat, "Gamma Sat. [kN/m³]", 10,
@@ -52,7 +52,7 @@ const ControlloStrato controlliStrato[] = {
      "il peso saturo è minore di quello naturale"},
     {&DatiProgetto::phiStrato, "Phi [°]", 1,
      [](Dati d, int j) { return d.phiStrato[j] < 0 || d.phiStrato[j] >= 90; },
-     "l'angolo di attrito non è tra 0° e 90°"},
+     "l'angolo non è ammissibile"},
     // Whether a run can do with it depends on the method; `controlloSuolo` finds that out.
     {&DatiProgetto::phiStrato, "Phi [°]", 1,
      [](Dati d, int j) { return d.phiStrato[j] < std::abs(d.inclinazioneMonte); },
@@ -65,11 +65,11 @@ const ControlloStrato controlliStrato[] = {
      "con l'inclinazione del terreno arriva a 90°: il coefficiente passivo di Coulomb non ha "
      "significato"},
     {&DatiProgetto::coesione, "Coes. [kN/m²]", 10, [](Dati d, int j) { return d.coesione[j] < 0; },
-     "la coesione è negativa"},
+     "valore negativo"},
     {&DatiProgetto::ksStrato, "ks [kN/m³]", 10,
      [](Dati d, int j) { return d.metodoKs >= 3 && d.ksStrato[j] == 0; }, "modulo ks mancante"},
     {&DatiProgetto::ksStrato, "ks [kN/m³]", 10,
-     [](Dati d, int j) { return d.metodoKs >= 3 && d.ksStrato[j] < 0; }, "il modulo ks è negativo"},
+     [](Dati d, int j) { return d.metodoKs >= 3 && d.ksStrato[j] < 0; }, "valore negativo"},
 };
 
 struct ControlloScalare {
@@ -82,10 +82,9 @@ struct ControlloScalare {
 
 const ControlloScalare controlliScalari[] = {
     {&DatiProgetto::sovraccMonte, "Sovraccarico verticale lato monte [kN/m²]", 10,
-     [](Dati d) { return d.sovraccMonte < 0; }, "il sovraccarico è negativo"},
+     [](Dati d) { return d.sovraccMonte < 0; }, "valore negativo"},
     {&DatiProgetto::inclinazioneMonte, "Inclinazione del terreno a monte del diaframma [°]", 1,
-     [](Dati d) { return std::abs(d.inclinazioneMonte) >= 90; },
-     "l'inclinazione non è tra -90° e 90°"},
+     [](Dati d) { return std::abs(d.inclinazioneMonte) >= 90; }, "l'angolo non è ammissibile"},
     {&DatiProgetto::gammaAcqua, "peso dell'acqua", 1, [](Dati d) { return d.gammaAcqua <= 0; },
      "peso di volume mancante"},
     {&DatiProgetto::gammaAcqua, "peso dell'acqua", 1,
@@ -93,7 +92,7 @@ const ControlloScalare controlliScalari[] = {
     {&DatiProgetto::coeffM, "coefficiente m", 1,
      [](Dati d) { return d.metodoKs == 2 && d.coeffM == 0; }, "il terreno non ha rigidezza"},
     {&DatiProgetto::coeffM, "coefficiente m", 1,
-     [](Dati d) { return d.metodoKs == 2 && d.coeffM < 0; }, "il modulo ks è negativo"},
+     [](Dati d) { return d.metodoKs == 2 && d.coeffM < 0; }, "valore negativo"},
 };
 
 void controlloPiede(const DatiProgetto& dati, ElencoRilievi& elenco) {

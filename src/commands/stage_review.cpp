@@ -33,7 +33,7 @@ void numeroTiranti(const DatiProgetto& dati, int k, ElencoRilievi& elenco) {
     else if (inOpera > dati.nTiranti)
         elenco.avviso(dici(tirantiDiTroppo(dati, k)));
     else if (inOpera < 0)
-        elenco.avviso(dici("il numero di tiranti è negativo"));
+        elenco.avviso(dici("valore negativo"));
     if (!intero(inOpera)) elenco.avviso(dici("il numero di tiranti non è intero"));
     if (k > 1 && inOpera < dati.tirantiFase[k - 1])
         elenco.avviso(dici("i tiranti sono meno che nella fase precedente"));
@@ -55,10 +55,10 @@ void controlloTiranti(const DatiProgetto& dati, ElencoRilievi& elenco) {
         avvisaSe(prof < 0, "Prof. [m]", prof, "è sopra la testa della paratia");
         avvisaSe(j > 1 && prof < dati.profTirante[j - 1], "Prof. [m]", prof,
                  "è più in alto del precedente");
-        avvisaSe(rig < 0, "Rigidezza [kN/m]", rig * 10, "la rigidezza è negativa");
+        avvisaSe(rig < 0, "Rigidezza [kN/m]", rig * 10, "valore negativo");
         avvisaSe(rig == 0 && pret == 0, "Rigidezza [kN/m]", rig * 10,
                  "senza rigidezza né pretensione il tirante non agisce");
-        avvisaSe(pret < 0, "Pretens. [kN]", pret * 10, "la pretensione è negativa");
+        avvisaSe(pret < 0, "Pretens. [kN]", pret * 10, "valore negativo");
         if (dati.tipoTirante[j] != 0 && dati.tipoTirante[j] != 1)
             elenco.avviso(
                 conValore(riga("tirante", j,
@@ -82,7 +82,7 @@ void controlloFasi(const DatiProgetto& dati, ElencoRilievi& elenco) {
                  "lo scavo raggiunge o supera il piede della paratia");
         if (dati.sovraccFase[k] < 0)
             elenco.avviso(rigaCampo("fase", k, "Sovracc. [kN/m²]", dati.sovraccFase[k] * 10,
-                                    "il sovraccarico è negativo"));
+                                    "valore negativo"));
     }
 }
 

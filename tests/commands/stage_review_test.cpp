@@ -18,9 +18,9 @@ TEST(ControlloTiranti, NamesWhatIsOddAboutAnchors) {
          },
          {"tirante 2: Prof. [m] = 1: è più in alto del precedente"}},
         {[](DatiProgetto& d) { d.rigTirante[1] = -500; },
-         {"tirante 1: Rigidezza [kN/m] = -5000: la rigidezza è negativa"}},
+         {"tirante 1: Rigidezza [kN/m] = -5000: valore negativo"}},
         {[](DatiProgetto& d) { d.pretTirante[1] = -5; },
-         {"tirante 1: Pretens. [kN] = -50: la pretensione è negativa"}},
+         {"tirante 1: Pretens. [kN] = -50: valore negativo"}},
         {[](DatiProgetto& d) { d.rigTirante[1] = d.pretTirante[1] = 0; },
          {"tirante 1: Rigidezza [kN/m] = 0: senza rigidezza né pretensione il tirante non "
           "agisce"}},
@@ -35,7 +35,7 @@ TEST(ControlloFasi, NamesWhatIsOddAboutTheAnchorsOfAStage) {
          {"fase 2: Numero tot. tiranti = 2: più tiranti di quelli definiti: gli altri non hanno "
           "effetto"}},
         {[](DatiProgetto& d) { d.tirantiFase[1] = -1; },
-         {"fase 1: Numero tot. tiranti = -1: il numero di tiranti è negativo"}},
+         {"fase 1: Numero tot. tiranti = -1: valore negativo"}},
         {[](DatiProgetto& d) { d.tirantiFase[2] = 0.5; },
          {"fase 2: Numero tot. tiranti = 0.5: il numero di tiranti non è intero"}},
         {[](DatiProgetto& d) {
@@ -68,7 +68,7 @@ TEST(ControlloFasi, NamesStagesOutOfOrderAndExcavationsBelowTheWall) {
         {[](DatiProgetto& d) { d.profFase[1] = -1; },
          {"fase 1: Prof. [m] = -1: lo scavo è sopra la testa della paratia"}},
         {[](DatiProgetto& d) { d.sovraccFase[2] = -2; },
-         {"fase 2: Sovracc. [kN/m²] = -20: il sovraccarico è negativo"}},
+         {"fase 2: Sovracc. [kN/m²] = -20: valore negativo"}},
     });
 }
 
