@@ -158,7 +158,7 @@ void calcolaFasi(int nSeg, const structure::MomentiResistenti& MRd, const PorteC
     corsa->nNodi = nSeg + 1;
     corsa->passoNodi = Progetto.lunghezzaParatia / nSeg;
     corsa->vincolo = vincoli(Progetto);
-    ChiusuraRisultati chiusura{MRd[2], MRd[1], -1e30, 1e30, fsAzioni};
+    ChiusuraRisultati chiusura{MRd[2], MRd[1], -oltreOgniValore, oltreOgniValore, fsAzioni};
     stopCalcolo = false;
 
     for (int k = 1; k <= Progetto.nFasi; ++k) {

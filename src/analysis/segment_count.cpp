@@ -27,8 +27,8 @@ std::optional<int> leggiNSeg(bool incastroPiede) {
 std::string_view motivoNSeg() {
     if (!contenutoNSeg) return messaggioNSeg;
     return "Il numero di segmenti indicato con l'opzione --nseg non è ammesso (un intero da 3 a "
-           "249, "
-           "con il piede incastrato da 3 a 248), i calcoli non possono pertanto essere eseguiti.";
+           "249, con il piede incastrato da 3 a 248), i calcoli non possono pertanto essere "
+           "eseguiti.";
 }
 
 }  // namespace korven::analysis

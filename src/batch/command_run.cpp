@@ -16,8 +16,8 @@ namespace korven::batch {
 
 namespace {
 
-int verifica(Esito& esito) {
-    esito.rilievi = commands::esaminaProgetto(project::Progetto);
+int verifica(const std::string& progetto, Esito& esito) {
+    esito.rilievi = commands::esaminaFile(progetto, project::Progetto);
     return commands::calcolabile(esito.rilievi) ? fatto : nonEseguito;
 }
 
@@ -88,7 +88,7 @@ int esegui(const Opzioni& opzioni, Esito& esito) {
     esito.progettoLetto = true;
     esito.progetto = project::fileCorrente;
     if (opzioni.metodoSpinte) project::Progetto.metodoSpinte = *opzioni.metodoSpinte;
-    if (opzioni.comando == Comando::verifica) return verifica(esito);
+    if (opzioni.comando == Comando::verifica) return verifica(opzioni.progetto, esito);
     if (!opzioni.uscita.empty()) commands::creaCartella(opzioni.uscita);
     if (opzioni.comando == Comando::relazione) avvisaPosto();
     return corri(opzioni, esito);

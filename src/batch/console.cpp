@@ -1,5 +1,6 @@
 #include "batch/console.hpp"
 
+#include <poll.h>
 #include <unistd.h>
 
 #include <iostream>
@@ -19,6 +20,13 @@ std::string rigaAvanzamento(const analysis::StatoIterazione& stato) {
            "   iter.=" + std::to_string(stato.iterazione) +
            "   Ymax=" + numeroMostrato(stato.yMax, 4) +
            "   Mmax=" + numeroMostrato(stato.mMax, 2, 1);
+}
+
+// A terminal that hangs must not hold a program that was told to end.
+bool terminaleLibero() {
+    constexpr int attesaMassima = 500;  // [ms]
+    pollfd uscita{STDERR_FILENO, POLLOUT, 0};
+    return ::poll(&uscita, 1, attesaMassima) == 1 && (uscita.revents & POLLOUT) != 0;
 }
 
 }  // namespace
@@ -48,7 +56,7 @@ void AvanzamentoConsole::iterazione(const analysis::StatoIterazione& stato) {
 void AvanzamentoConsole::chiudi() {
     // An interrupt cuts short a write that waits for the terminal, and a stream that failed once
     // would keep what follows to itself: why the run ended.
-    std::cerr.clear();
+    if (!std::cerr && terminaleLibero()) std::cerr.clear();
     if (rigaAperta_) std::cerr << '\n';
     rigaAperta_ = false;
 }

@@ -19,7 +19,7 @@ std::string testoRelazione(const DatiRelazione& dati) {
 }
 
 std::string scriviRelazione() {
-    const std::string percorso = base::nomeRelazione(project::fileCorrente);
+    std::string percorso = base::nomeRelazione(project::fileCorrente);
     analysis::controllaUscita(percorso, project::fileCorrente);
     const DatiRelazione dati = leggiRisultati(project::fileCorrente, project::Progetto);
     base::scriviFile(percorso, base::inCp1252(testoRelazione(dati)));

@@ -168,7 +168,7 @@ TEST_F(IngressoRotto, MoreAnchorsThanTheTableHoldsAreRefusedWithTheirStage) {
     auto d = progettoSemplice();
     d.tirantiFase[2] = 25;
     scrivi(d);
-    const std::string detto = "fase 2: più tiranti di quanti ne tiene la tabella (20)";
+    const std::string detto = "più tiranti di quanti ne tiene la tabella (20)";
     for (const char* comando : {"calcola", "relazione", "verifica"}) {
         const auto esito = esegui(comando);
         EXPECT_EQ(esito.codice, 1);

@@ -90,7 +90,8 @@ TEST_F(EsitoJson, ListsWhatAReviewFound) {
     ASSERT_EQ(j["rilievi"].size(), 2u);
     EXPECT_EQ(j["rilievi"][0]["impedisce"], true);
     EXPECT_EQ(j["rilievi"][1]["impedisce"], false);
-    EXPECT_EQ(j["rilievi"][1]["testo"], "vincolo in testa: codice non previsto (0)");
+    EXPECT_EQ(j["rilievi"][1]["testo"],
+              "vincolo in testa = 0: codice non previsto: la testa conta come libera (1)");
 }
 
 TEST_F(EsitoJson, StaysReadableForAPathThatIsNoUtf8) {

@@ -81,10 +81,11 @@ TEST_F(EsitoTesto, TellsWhatAReviewFound) {
     scrivi(d);
     esito = esegui("verifica");
     EXPECT_EQ(esito.codice, 1);
-    EXPECT_EQ(esito.uscita,
-              "impedisce il calcolo: Il valore di EJ non è ancora stato definito.\n"
-              "da vedere: vincolo in testa: codice non previsto (0)\n"
-              "Il progetto non può essere calcolato.\n");
+    EXPECT_EQ(
+        esito.uscita,
+        "impedisce il calcolo: Il valore di EJ non è ancora stato definito.\n"
+        "da vedere: vincolo in testa = 0: codice non previsto: la testa conta come libera (1)\n"
+        "Il progetto non può essere calcolato.\n");
     EXPECT_EQ(nomi(), "muro.kvd ");  // nothing is computed or written
 }
 

@@ -31,6 +31,7 @@ const std::map<std::string, std::string> silentFiles = {
     {"base/text_table.cpp", "errors of the table of texts itself"},
     {"base/table.hpp", "an index beyond a table, which the translation may meet itself"},
     {"analysis/vector_lanes.hpp", "names of processors"},
+    {"analysis/vector_lanes.cpp", "names of processors"},
 };
 
 // Names of files and of the system, symbols, what is typed on the command line.
