@@ -47,13 +47,14 @@ struct RigheAttive {
 };
 
 /// Largest absolute value of m cells, NaN apart; 0 when there is none.
-KORVEN_CORSIE double massimoAssoluto(const double* celle, int m) {
-    Corsie massimi{};
+template <int L>
+KORVEN_CORSIE double cellaMassima(const double* celle, int m) {
+    Corsie<L> massimi{};
     int k = 0;
-    for (; k + larghezza <= m; k += larghezza)
-        massimi = massimo(assoluto(corsie(celle + k)), massimi);
-    if (k < m) massimi = sotto(m - k) ? massimo(assoluto(corsie(celle + k)), massimi) : massimi;
-    return massimoCorsie(massimi);
+    for (; k + L <= m; k += L) massimi = massimo(assoluto(corsie<L>(celle + k)), massimi);
+    if (k < m)
+        massimi = sotto<L>(m - k) ? massimo(assoluto(corsie<L>(celle + k)), massimi) : massimi;
+    return massimoCorsie<L>(massimi);
 }
 
 inline bool haZeroNegativo(const double* riga, int m) {
@@ -65,51 +66,51 @@ inline bool haZeroNegativo(const double* riga, int m) {
 /// V vectors of cells from column k on, of R rows, through `passi` passes; the vectors' largest
 /// absolute values go into `massimi`. With `attive` only those lanes change: the cells behind the
 /// last active column hold the factors of earlier passes.
-template <int R, int V, bool parziale>
+template <int L, int R, int V, bool parziale>
 KORVEN_CORSIE void attraversaPassi(double* const (&riga)[R], double* const* pivot,
-                                   const double (*d)[R], int passi, int k, Corsie (&massimi)[R],
-                                   const MascheraCorsie& attive) {
-    Corsie c[R][V];
+                                   const double (*d)[R], int passi, int k, Corsie<L> (&massimi)[R],
+                                   const MascheraCorsie<L>& attive) {
+    Corsie<L> c[R][V];
     for (int q = 0; q < R; ++q)
-        for (int v = 0; v < V; ++v) c[q][v] = corsie(riga[q] + k + v * larghezza);
+        for (int v = 0; v < V; ++v) c[q][v] = corsie<L>(riga[q] + k + v * L);
     for (int w = 0; w < passi; ++w)
         for (int v = 0; v < V; ++v) {
-            const Corsie p = corsie(pivot[w] + k + v * larghezza);
+            const Corsie<L> p = corsie<L>(pivot[w] + k + v * L);
             for (int q = 0; q < R; ++q) c[q][v] -= d[w][q] * p;
         }
     for (int q = 0; q < R; ++q)
         for (int v = 0; v < V; ++v) {
-            Corsie& cella = corsie(riga[q] + k + v * larghezza);
-            const Corsie piuGrande = massimo(assoluto(c[q][v]), massimi[q]);
+            Corsie<L>& cella = corsie<L>(riga[q] + k + v * L);
+            const Corsie<L> piuGrande = massimo(assoluto(c[q][v]), massimi[q]);
             cella = parziale ? (attive ? c[q][v] : cella) : c[q][v];
             massimi[q] = parziale ? (attive ? piuGrande : massimi[q]) : piuGrande;
         }
 }
 
 /// Applies `passi` passes to R rows and finds their largest cells.
-template <int R>
+template <int L, int R>
 KORVEN_CORSIE void applicaPassi(RigheAttive& r, const int* quali, double* const* pivot,
                                 const double (*d)[R], int passi) {
     constexpr int V = 4 / R;
     double* riga[R];
-    Corsie massimi[R];
+    Corsie<L> massimi[R];
     for (int q = 0; q < R; ++q) {
         riga[q] = r.celle[quali[q]];
-        massimi[q] = Corsie{};
+        massimi[q] = Corsie<L>{};
     }
-    const MascheraCorsie attive = sotto(r.quante % larghezza);
+    const MascheraCorsie<L> attive = sotto<L>(r.quante % L);
     int k = 0;
-    for (; k + V * larghezza <= r.quante; k += V * larghezza)
-        attraversaPassi<R, V, false>(riga, pivot, d, passi, k, massimi, attive);
-    for (; k + larghezza <= r.quante; k += larghezza)
-        attraversaPassi<R, 1, false>(riga, pivot, d, passi, k, massimi, attive);
-    if (k < r.quante) attraversaPassi<R, 1, true>(riga, pivot, d, passi, k, massimi, attive);
-    for (int q = 0; q < R; ++q) r.massima[quali[q]] = massimoCorsie(massimi[q]);
+    for (; k + V * L <= r.quante; k += V * L)
+        attraversaPassi<L, R, V, false>(riga, pivot, d, passi, k, massimi, attive);
+    for (; k + L <= r.quante; k += L)
+        attraversaPassi<L, R, 1, false>(riga, pivot, d, passi, k, massimi, attive);
+    if (k < r.quante) attraversaPassi<L, R, 1, true>(riga, pivot, d, passi, k, massimi, attive);
+    for (int q = 0; q < R; ++q) r.massima[quali[q]] = massimoCorsie<L>(massimi[q]);
 }
 
 /// Applies to R rows what was put off; their bounds are the largest cells after that. A pass whose
 /// d are all 0 is left out: none of these rows holds -0, and their pivot rows are finite.
-template <int R>
+template <int L, int R>
 KORVEN_CORSIE void aggiorna(RigheAttive& r, const int* quali) {
     double* pivot[RigheAttive::finestraMassima];
     double d[RigheAttive::finestraMassima][R];
@@ -126,10 +127,11 @@ KORVEN_CORSIE void aggiorna(RigheAttive& r, const int* quali) {
         passi += serve;
     }
     for (int q = 0; q < R; ++q) r.inSospeso[quali[q]] = 0.0;
-    applicaPassi<R>(r, quali, pivot, d, passi);
+    applicaPassi<L, R>(r, quali, pivot, d, passi);
 }
 
 /// Applies everything that was put off and opens a new window.
+template <int L>
 KORVEN_CORSIE void aggiornaTutte(RigheAttive& r) {
     constexpr int insieme = 4;
     int quali[insieme], pronte = 0;
@@ -137,22 +139,24 @@ KORVEN_CORSIE void aggiornaTutte(RigheAttive& r) {
         if (r.inSospeso[i] == 0.0) continue;
         quali[pronte++] = i;
         if (pronte < insieme) continue;
-        aggiorna<insieme>(r, quali);
+        aggiorna<L, insieme>(r, quali);
         pronte = 0;
     }
-    for (int q = 0; q < pronte; ++q) aggiorna<1>(r, quali + q);
+    for (int q = 0; q < pronte; ++q) aggiorna<L, 1>(r, quali + q);
     r.finestra = 0;
 }
 
 /// Applies the running pass to row i at once; nothing may be put off for it.
+template <int L>
 KORVEN_CORSIE void applicaSubito(RigheAttive& r, int i, double* pivot) {
     const double d[1][1] = {{r.fattore[i]}};
-    applicaPassi<1>(r, &i, &pivot, d, 1);
+    applicaPassi<L, 1>(r, &i, &pivot, d, 1);
 }
 
 /// Puts the running pass off; rows that hold -0 take it at once.
 /// @pre the pivot row is finite
 /// @param massimoPivot  largest absolute value of the pivot row
+template <int L>
 KORVEN_CORSIE void rimanda(RigheAttive& r, double* pivot, double massimoPivot) {
     RigheAttive::Colonna& sospeso = r.sospeso[r.finestra];
     r.pivot[r.finestra++] = pivot;
@@ -167,47 +171,51 @@ KORVEN_CORSIE void rimanda(RigheAttive& r, double* pivot, double massimoPivot) {
         for (int i = 0; i < r.quante; ++i) {
             if (!r.zeroNegativo[i]) continue;
             sospeso[i] = r.inSospeso[i] = 0.0;
-            applicaSubito(r, i, pivot);
+            applicaSubito<L>(r, i, pivot);
             r.zeroNegativo[i] = haZeroNegativo(r.celle[i], r.quante);
             r.zeriNegativi |= r.zeroNegativo[i];
         }
     }
     if (r.finestra == RigheAttive::finestraMassima || r.quante < RigheAttive::pocheRighe)
-        aggiornaTutte(r);
+        aggiornaTutte<L>(r);
 }
 
 /// Of m numbers the largest whose value has the absolute value `cercato`, -1 if there is none.
+template <int L>
 KORVEN_CORSIE int numeroMaggiore(const double* valori, const double* numeri, double cercato,
                                  int m) {
-    const Corsie nessuno = Corsie{} - 1.0;
-    Corsie trovati = nessuno;
+    const Corsie<L> nessuno = Corsie<L>{} - 1.0;
+    Corsie<L> trovati = nessuno;
     int k = 0;
-    for (; k + larghezza <= m; k += larghezza) {
-        const Corsie n = assoluto(corsie(valori + k)) == cercato ? corsie(numeri + k) : nessuno;
+    for (; k + L <= m; k += L) {
+        const Corsie<L> n =
+            assoluto(corsie<L>(valori + k)) == cercato ? corsie<L>(numeri + k) : nessuno;
         trovati = massimo(n, trovati);
     }
     if (k < m) {
-        Corsie n = assoluto(corsie(valori + k)) == cercato ? corsie(numeri + k) : nessuno;
-        n = sotto(m - k) ? n : nessuno;
+        Corsie<L> n = assoluto(corsie<L>(valori + k)) == cercato ? corsie<L>(numeri + k) : nessuno;
+        n = sotto<L>(m - k) ? n : nessuno;
         trovati = massimo(n, trovati);
     }
-    return static_cast<int>(massimoCorsie(trovati));
+    return static_cast<int>(massimoCorsie<L>(trovati));
 }
 
 /// Index of the row that holds the largest cell; among equals the one of the largest number. Brings
 /// rows up to date until the largest bound is a cell.
+template <int L>
 KORVEN_CORSIE int trovaRiga(RigheAttive& r) {
     for (;;) {
-        const double massima = massimoAssoluto(r.massima, r.quante);
-        const int i = r.indice[numeroMaggiore(r.massima, r.numero, massima, r.quante)];
+        const double massima = cellaMassima<L>(r.massima, r.quante);
+        const int i = r.indice[numeroMaggiore<L>(r.massima, r.numero, massima, r.quante)];
         if (r.inSospeso[i] == 0.0) return i;
-        aggiorna<1>(r, &i);
+        aggiorna<L, 1>(r, &i);
     }
 }
 
 /// Number of the column of the row's largest cell; among equals the largest.
+template <int L>
 KORVEN_CORSIE int trovaColonna(const RigheAttive& r, int i) {
-    return numeroMaggiore(r.celle[i], r.colonna, r.massima[i], r.quante);
+    return numeroMaggiore<L>(r.celle[i], r.colonna, r.massima[i], r.quante);
 }
 
 /// Takes the pivot row i out, after the swap that brings it to row number `arrivo`: the row that
@@ -217,7 +225,8 @@ KORVEN_CORSIE void togliRiga(RigheAttive& r, int i, int arrivo) {
     std::swap(r.numero[i], r.numero[spostata]);
     r.indice[static_cast<int>(r.numero[spostata])] = spostata;
     const int ultima = --r.quante;
-    r.celle[i] = r.celle[ultima];
+    // Filled for all rows at the start, which the analyzer does not follow.
+    r.celle[i] = r.celle[ultima];  // NOLINT(clang-analyzer-core.uninitialized.Assign)
     r.massima[i] = r.massima[ultima];
     r.termine[i] = r.termine[ultima];
     r.zeroNegativo[i] = r.zeroNegativo[ultima];

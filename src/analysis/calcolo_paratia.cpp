@@ -1,9 +1,11 @@
 #include "analysis/calcolo_paratia.hpp"
 
 #include <algorithm>
+#include <cassert>
 #include <memory>
 
 #include "analysis/input_checks.hpp"
+#include "analysis/output_guard.hpp"
 #include "analysis/result_file.hpp"
 #include "analysis/run_flags.hpp"
 #include "analysis/segment_count.hpp"
@@ -63,6 +65,21 @@ class NomeRisultati {
     bool lasciato_ = false;
 };
 
+// The name at which a run without a stiffness left `fileCorrente`. It is no project's: the next run
+// writes its results there.
+std::string nomeLasciato;
+
+// The project's name is safe from the outputs for the length of a run.
+class ProgettoAlSicuro {
+ public:
+    ProgettoAlSicuro() {
+        progettiProtetti.corrente = fileCorrente == nomeLasciato ? std::string() : fileCorrente;
+    }
+    ProgettoAlSicuro(const ProgettoAlSicuro&) = delete;
+    ProgettoAlSicuro& operator=(const ProgettoAlSicuro&) = delete;
+    ~ProgettoAlSicuro() { progettiProtetti.corrente.clear(); }
+};
+
 // A result file in the making and the progress display beside it: both are gone unless the run ends
 // well, whatever ends it.
 class FileInCorso {
@@ -102,6 +119,31 @@ std::string messaggioRifiuto(int fase, const RifiutoSuolo& rifiuto) {
            base::testoNumero(rifiuto.profondita) + " m: " + traduttore(causa(rifiuto.motivo)) + ".";
 }
 
+// Why the outputs can't be written under their names; empty if they can.
+std::string motivoUscite(int modoUscita, const UscitaCalcolo& uscita) {
+    if (const auto motivo = motivoNome(fileCorrente); !motivo.empty()) return traduttore(motivo);
+    const std::string risultati = base::nomeRisultati(fileCorrente);
+    auto file = uscita.file(modoUscita, risultati);
+    file.insert(file.begin(), risultati);
+    const auto vietato = std::find_if(file.begin(), file.end(), prendeIlPostoDelProgetto);
+    if (vietato == file.end()) return {};
+    return traduttore(
+               "Un file del calcolo prenderebbe il posto del progetto, i calcoli non possono "
+               "pertanto essere eseguiti. Dare al progetto un altro nome o scegliere un'altra "
+               "cartella") +
+           ": " + *vietato;
+}
+
+// A stage that asks for more anchors than there can be.
+std::string motivoTiranti() {
+    for (int k = 1; k <= Progetto.nFasi; ++k)
+        if (!(Progetto.tirantiFase[k] < project::massimoTiranti + 1))
+            return traduttore("fase") + " " + std::to_string(k) + ": " +
+                   traduttore("più tiranti di quanti ne tiene la tabella (20)") + ": " +
+                   base::testoNumero(Progetto.tirantiFase[k]);
+    return {};
+}
+
 void racconta(int fase, const RisultatoFase& risultato, base::Dialogo& dialogo) {
     if (risultato.esito == EsitoFase::singolare) avvisa(dialogo, traduttore(messaggioSingolare));
     if (risultato.esito == EsitoFase::rifiutata)
@@ -116,7 +158,7 @@ void calcolaFasi(int nSeg, const structure::MomentiResistenti& MRd, const PorteC
     corsa->nNodi = nSeg + 1;
     corsa->passoNodi = Progetto.lunghezzaParatia / nSeg;
     corsa->vincolo = vincoli(Progetto);
-    ChiusuraRisultati chiusura{MRd[2], MRd[1], -1e30, 1e30, fsAzioni};
+    ChiusuraRisultati chiusura{MRd[2], MRd[1], -oltreOgniValore, oltreOgniValore, fsAzioni};
     stopCalcolo = false;
 
     for (int k = 1; k <= Progetto.nFasi; ++k) {
@@ -136,11 +178,16 @@ void calcolaFasi(int nSeg, const structure::MomentiResistenti& MRd, const PorteC
 }  // namespace
 
 void CalcoloParatia(int modoUscita, const PorteCalcolo& porte) {
+    assert(modoUscita >= 0 && modoUscita <= 4);
     const Clessidra clessidra(porte.dialogo);
     fsAzioni = structure::fsAzioniSezione;
     erroreCalcolo = false;
     if (const auto motivo = motivoRifiuto(Progetto); !motivo.empty())
         return avvisa(porte.dialogo, traduttore(motivo));
+    if (const auto motivo = motivoTiranti(); !motivo.empty()) return avvisa(porte.dialogo, motivo);
+    const ProgettoAlSicuro sicuro;
+    if (const auto motivo = motivoUscite(modoUscita, porte.uscita); !motivo.empty())
+        return avvisa(porte.dialogo, motivo);
 
     NomeRisultati nome;
     structure::MomentiResistenti MRd;
@@ -148,10 +195,11 @@ void CalcoloParatia(int modoUscita, const PorteCalcolo& porte) {
                           porte.dialogo);
     if (Progetto.rigidezzaEJ == 0) {
         nome.lascia();
+        nomeLasciato = fileCorrente;
         return avvisa(porte.dialogo, traduttore(messaggioSenzaEJ));
     }
     const auto nSeg = leggiNSeg(vincoli(Progetto).incastroPiede);
-    if (!nSeg) return avvisa(porte.dialogo, traduttore(messaggioNSeg));
+    if (!nSeg) return avvisa(porte.dialogo, traduttore(motivoNSeg()));
 
     if (!risultatiAggiornati()) calcolaFasi(*nSeg, MRd, porte);
     if (erroreCalcolo) return;

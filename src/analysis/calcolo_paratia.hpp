@@ -1,5 +1,8 @@
 #pragma once
 
+#include <string>
+#include <vector>
+
 #include "analysis/progress.hpp"
 #include "base/dialogo.hpp"
 
@@ -9,6 +12,10 @@ namespace korven::analysis {
 class UscitaCalcolo {
  public:
     virtual ~UscitaCalcolo() = default;
+    /// The files that the output of `modoUscita` will write beside the result file `risultati`: a
+    /// run is refused before its first byte if one of them is the project.
+    [[nodiscard]] virtual std::vector<std::string> file(int modoUscita,
+                                                        const std::string& risultati) const = 0;
     /// Writes the calculation report.
     virtual void scriviRelazione() = 0;
     /// Draws a result diagram: 1 pressures, 2 displacements, 3 moments, 4 shear.
@@ -34,7 +41,12 @@ struct PorteCalcolo {
 /// by the first checks leaves an older one alone. `fileCorrente` is restored at every exit but one:
 /// a run without a stiffness EJ leaves it at the result file's name until another file is opened.
 ///
+/// Before anything is written or removed a run is refused whose result file or output would take
+/// the place of the project, whose name is too short for the rule that names the result file, or in
+/// which a stage asks for more anchors than their table holds.
+///
 /// @param modoUscita  0 the report, 1 to 4 a diagram
+/// @pre `modoUscita` is one of these: asserted
 /// @throws base::ErroreFile if a file can't be read or written; nothing half-written stays
 void CalcoloParatia(int modoUscita, const PorteCalcolo& porte);
 

@@ -31,36 +31,38 @@ struct Riassunto {
 };
 
 /// riga *= f over m cells.
+template <int L>
 KORVEN_CORSIE Riassunto moltiplica(double* riga, double f, int m) {
-    Corsie massimi{}, spia{};  // 0 * v is 0 or NaN
+    Corsie<L> massimi{}, spia{};  // 0 * v is 0 or NaN
     int k = 0;
-    for (; k + larghezza <= m; k += larghezza) {
-        const Corsie v = corsie(riga + k) * f;
-        corsie(riga + k) = v;
+    for (; k + L <= m; k += L) {
+        const Corsie<L> v = corsie<L>(riga + k) * f;
+        corsie<L>(riga + k) = v;
         massimi = massimo(assoluto(v), massimi);
         spia += v * 0.0;
     }
     if (k < m) {
-        const MascheraCorsie prime = sotto(m - k);
-        const Corsie v = prime ? corsie(riga + k) * f : Corsie{};
-        corsie(riga + k) = prime ? v : corsie(riga + k);
+        const MascheraCorsie<L> prime = sotto<L>(m - k);
+        const Corsie<L> v = prime ? corsie<L>(riga + k) * f : Corsie<L>{};
+        corsie<L>(riga + k) = prime ? v : corsie<L>(riga + k);
         massimi = massimo(assoluto(v), massimi);
         spia += v * 0.0;
     }
     double somma = 0.0;
-    for (int i = 0; i < larghezza; ++i) somma += spia[i];
-    return {massimoCorsie(massimi), somma == 0.0};
+    for (int i = 0; i < L; ++i) somma += spia[i];
+    return {massimoCorsie<L>(massimi), somma == 0.0};
 }
 
 /// Copies the system into the work area and looks at each row once; returns whether all cells of
 /// the matrix are finite.
+template <int L>
 KORVEN_CORSIE bool prepara(int n, MatriceSistema& A, const VettoreSistema& b, RigheAttive& r) {
     bool finiti = true;
     r.quante = n;
     for (int i = 0; i < n; ++i) {
         double* celle = r.celle[i] = A.rigaLavoro(i);
         std::copy_n(A.riga(i), n, celle);
-        const Riassunto riga = moltiplica(celle, 1.0, n);
+        const Riassunto riga = moltiplica<L>(celle, 1.0, n);
         finiti &= riga.finiti;
         r.massima[i] = riga.massimo;
         r.zeroNegativo[i] = haZeroNegativo(celle, n);
@@ -88,20 +90,18 @@ void riordinaColonne(SistemaEliminato& s, const int* posto, const int* primo) {
     }
 }
 
-}  // namespace
-
-KORVEN_PER_PROCESSORE
-bool elimina(int n, MatriceSistema& A, const VettoreSistema& b, bool conservaFattori,
-             SistemaEliminato& s) {
+template <int L>
+KORVEN_CORSIE bool eliminaCon(int n, MatriceSistema& A, const VettoreSistema& b,
+                              bool conservaFattori, SistemaEliminato& s) {
     RigheAttive r;
     int posto[capacitaSistema], primo[capacitaSistema];  // column exchanges, see riordinaColonne
-    bool finiti = prepara(n, A, b, r);
+    bool finiti = prepara<L>(n, A, b, r);
     int finestraDa = n - 1;
     s.n = n;
     for (int t = n - 1; t >= 0; --t) {
-        const int i = trovaRiga(r);
+        const int i = trovaRiga<L>(r);
         if (!(r.massima[i] > 0.0)) return false;
-        const int colonna = s.colonnaPivot[t] = trovaColonna(r, i);
+        const int colonna = s.colonnaPivot[t] = trovaColonna<L>(r, i);
         const int k = posto[t] = r.posto[colonna];
         s.rigaPivot[t] = static_cast<int>(r.numero[i]);
         double* pivot = s.riga[t] = r.celle[i];
@@ -110,17 +110,17 @@ bool elimina(int n, MatriceSistema& A, const VettoreSistema& b, bool conservaFat
         const double termine = s.termine[t] = r.termine[i] * inverso;
         togliRiga(r, i, colonna);
         pivot[k] = pivot[t];
-        const Riassunto divisa = moltiplica(pivot, inverso, t);
+        const Riassunto divisa = moltiplica<L>(pivot, inverso, t);
         pivot[t] = inverso;
         finiti &= divisa.finiti;
 
         togliColonna(r, k, conservaFattori);
         for (int j = 0; j < t; ++j) r.termine[j] -= r.fattore[j] * termine;
         if (finiti) {
-            rimanda(r, pivot, divisa.massimo);
+            rimanda<L>(r, pivot, divisa.massimo);
         } else {
-            aggiornaTutte(r);
-            for (int j = 0; j < t; ++j) applicaSubito(r, j, pivot);
+            aggiornaTutte<L>(r);
+            for (int j = 0; j < t; ++j) applicaSubito<L>(r, j, pivot);
         }
         if (r.finestra == 0) {
             for (; finestraDa >= t; --finestraDa) primo[finestraDa] = t;
@@ -129,6 +129,20 @@ bool elimina(int n, MatriceSistema& A, const VettoreSistema& b, bool conservaFat
     for (; finestraDa >= 0; --finestraDa) primo[finestraDa] = 0;
     riordinaColonne(s, posto, primo);
     return true;
+}
+
+KORVEN_REGISTRI_LARGHI
+bool eliminaLarga(int n, MatriceSistema& A, const VettoreSistema& b, bool conservaFattori,
+                  SistemaEliminato& s) {
+    return eliminaCon<4>(n, A, b, conservaFattori, s);
+}
+
+}  // namespace
+
+bool elimina(int n, MatriceSistema& A, const VettoreSistema& b, bool conservaFattori,
+             SistemaEliminato& s) {
+    return registriLarghi ? eliminaLarga(n, A, b, conservaFattori, s)
+                          : eliminaCon<2>(n, A, b, conservaFattori, s);
 }
 
 }  // namespace korven::analysis

@@ -30,44 +30,45 @@ KORVEN_CORSIE void sottraiCelle(double* riga, const double* pivot, double d, int
     for (int k = da; k < a; ++k) riga[k] -= d * pivot[k];
 }
 
-/// Left of the diagonal: columns k0 to k0 + 3 of the rows t0 to t0 + R - 1 through the passes below
-/// the place t0.
-template <int R>
+/// Left of the diagonal: columns k0 to k0 + L - 1 of the rows t0 to t0 + R - 1 through the passes
+/// below the place t0.
+template <int L, int R>
 KORVEN_CORSIE void completaColonneSinistra(SistemaEliminato& s, int t0, int k0) {
-    Corsie c[R];
+    Corsie<L> c[R];
     const double* riga[R];
     for (int i = 0; i < R; ++i) {
         riga[i] = s.riga[t0 + i];
-        c[i] = corsie(riga[i] + k0);
+        c[i] = corsie<L>(riga[i] + k0);
     }
-    for (int j = t0 - 1; j >= k0 + larghezza; --j) {
-        const Corsie pivot = corsie(s.riga[j] + k0);
+    for (int j = t0 - 1; j >= k0 + L; --j) {
+        const Corsie<L> pivot = corsie<L>(s.riga[j] + k0);
         for (int i = 0; i < R; ++i) c[i] -= riga[i][j] * pivot;
     }
 #pragma GCC unroll 4
-    for (int q = larghezza - 1; q > 0; --q) {
+    for (int q = L - 1; q > 0; --q) {
         const int j = k0 + q;
         if (j >= t0) continue;
-        const MascheraCorsie prima = sotto(q);
-        const Corsie pivot = corsie(s.riga[j] + k0);
+        const MascheraCorsie<L> prima = sotto<L>(q);
+        const Corsie<L> pivot = corsie<L>(s.riga[j] + k0);
         for (int i = 0; i < R; ++i) c[i] = prima ? c[i] - c[i][q] * pivot : c[i];
     }
-    for (int i = 0; i < R; ++i) corsie(s.riga[t0 + i] + k0) = c[i];
+    for (int i = 0; i < R; ++i) corsie<L>(s.riga[t0 + i] + k0) = c[i];
 }
 
-template <int R>
+template <int L, int R>
 KORVEN_CORSIE void completaBloccoSinistra(SistemaEliminato& s, int t0) {
     for (int t = t0 + R - 1; t > t0; --t)
         for (int j = t - 1; j >= t0; --j) sottraiCelle(s.riga[t], s.riga[j], s.riga[t][j], 0, j);
-    for (int k0 = (t0 - 1) / larghezza * larghezza; k0 >= 0 && t0 > 0; k0 -= larghezza)
-        completaColonneSinistra<R>(s, t0, k0);
+    for (int k0 = (t0 - 1) / L * L; k0 >= 0 && t0 > 0; k0 -= L)
+        completaColonneSinistra<L, R>(s, t0, k0);
 }
 
 /// After this the cells left of the diagonal are the d of the passes behind the row's own.
+template <int L>
 KORVEN_CORSIE void completaSinistra(SistemaEliminato& s) {
     int t0 = s.n;
-    for (; t0 >= blocco; t0 -= blocco) completaBloccoSinistra<blocco>(s, t0 - blocco);
-    while (t0-- > 0) completaBloccoSinistra<1>(s, t0);
+    for (; t0 >= blocco; t0 -= blocco) completaBloccoSinistra<L, blocco>(s, t0 - blocco);
+    while (t0-- > 0) completaBloccoSinistra<L, 1>(s, t0);
 }
 
 /// The right-hand side has no cell of its own in a pass: it only takes d times the pivot's entry.
@@ -86,35 +87,35 @@ KORVEN_CORSIE void completaTermini(const SistemaEliminato& s, VettoreSistema& x)
     }
 }
 
-/// Right of the diagonal, passes before the row's own: columns k0 to k0 + 3 of the rows t0 to
+/// Right of the diagonal, passes before the row's own: columns k0 to k0 + L - 1 of the rows t0 to
 /// t0 + R - 1 through the passes above the place t0 + R - 1.
-template <int R>
+template <int L, int R>
 KORVEN_CORSIE void avviaColonneDestra(SistemaEliminato& s, int t0, int k0) {
-    Corsie c[R];
+    Corsie<L> c[R];
     const double* riga[R];
     const int fine = t0 + R;  // lowest place of these passes
     for (int i = 0; i < R; ++i) {
         riga[i] = s.riga[t0 + i];
-        c[i] = corsie(riga[i] + k0);
+        c[i] = corsie<L>(riga[i] + k0);
     }
 #pragma GCC unroll 4
-    for (int q = larghezza - 1; q >= 0; --q) {
+    for (int q = L - 1; q >= 0; --q) {
         const int j = k0 + q;
         if (j >= s.n || j < fine) continue;
-        const MascheraCorsie prima = sotto(q);
-        const Corsie pivot = corsie(s.riga[j] + k0);
+        const MascheraCorsie<L> prima = sotto<L>(q);
+        const Corsie<L> pivot = corsie<L>(s.riga[j] + k0);
         for (int i = 0; i < R; ++i) {
             const double d = c[i][q];
-            const Corsie passata = c[i] - d * pivot;
+            const Corsie<L> passata = c[i] - d * pivot;
             c[i] = prima ? c[i] : passata;
             c[i][q] = 0.0 - d * s.inverso[j];
         }
     }
     for (int j = k0 - 1; j >= fine; --j) {
-        const Corsie pivot = corsie(s.riga[j] + k0);
+        const Corsie<L> pivot = corsie<L>(s.riga[j] + k0);
         for (int i = 0; i < R; ++i) c[i] -= riga[i][j] * pivot;
     }
-    for (int i = 0; i < R; ++i) corsie(s.riga[t0 + i] + k0) = c[i];
+    for (int i = 0; i < R; ++i) corsie<L>(s.riga[t0 + i] + k0) = c[i];
 }
 
 /// One pass, of the place j, on the cells right of place j of a row; the row's cell j holds d.
@@ -124,12 +125,11 @@ KORVEN_CORSIE void passoDestra(const SistemaEliminato& s, double* riga, int j) {
     sottraiCelle(riga, s.riga[j], d, j + 1, s.n);
 }
 
-template <int R>
+template <int L, int R>
 KORVEN_CORSIE void avviaBloccoDestra(SistemaEliminato& s, int t0) {
     // From the right: a cell is the d of its pass for all columns right of it.
-    for (int k0 = (s.n - 1) / larghezza * larghezza; k0 + larghezza > t0 + R && k0 >= 0;
-         k0 -= larghezza)
-        avviaColonneDestra<R>(s, t0, k0);
+    for (int k0 = (s.n - 1) / L * L; k0 + L > t0 + R && k0 >= 0; k0 -= L)
+        avviaColonneDestra<L, R>(s, t0, k0);
     for (int t = t0 + R - 1; t >= t0; --t) {
         for (int j = t0 + R - 1; j > t; --j) passoDestra(s, s.riga[t], j);
         for (int k = t + 1; k < s.n; ++k) s.riga[t][k] *= s.inverso[t];
@@ -138,10 +138,11 @@ KORVEN_CORSIE void avviaBloccoDestra(SistemaEliminato& s, int t0) {
 
 /// After this the cells from the diagonal to the right are the row's part of the inverse as it was
 /// when the row had just been pivot.
+template <int L>
 KORVEN_CORSIE void avviaDestra(SistemaEliminato& s) {
     int t0 = s.n;
-    for (; t0 >= blocco; t0 -= blocco) avviaBloccoDestra<blocco>(s, t0 - blocco);
-    while (t0-- > 0) avviaBloccoDestra<1>(s, t0);
+    for (; t0 >= blocco; t0 -= blocco) avviaBloccoDestra<L, blocco>(s, t0 - blocco);
+    while (t0-- > 0) avviaBloccoDestra<L, 1>(s, t0);
 }
 
 /// Place of each column of the inverse once the row swaps have been undone on the columns.
@@ -165,16 +166,15 @@ KORVEN_CORSIE void scriviColonna(const SistemaEliminato& s, int v, int colonna, 
     }
 }
 
-}  // namespace
-
-KORVEN_PER_PROCESSORE
-void completa(SistemaEliminato& s, VettoreSistema& x, MatriceSistema& A, int bordo) {
+template <int L>
+KORVEN_CORSIE void completaCon(SistemaEliminato& s, VettoreSistema& x, MatriceSistema& A,
+                               int bordo) {
     const int primaVisibile = s.n - bordo;
-    completaSinistra(s);
+    completaSinistra<L>(s);
     completaTermini(s, x);
     if (bordo == 0) return;
 
-    avviaDestra(s);
+    avviaDestra<L>(s);
     int posto[capacitaSistema];
     postiInversa(s, posto);
     // The columns, and the rows from the highest place down, while lower rows are still as in their
@@ -186,6 +186,20 @@ void completa(SistemaEliminato& s, VettoreSistema& x, MatriceSistema& A, int bor
         double* inversa = A.riga(s.colonnaPivot[t]);
         for (int f = 0; f < s.n; ++f) inversa[f] = s.riga[t][posto[f]];
     }
+}
+
+KORVEN_REGISTRI_LARGHI
+void completaLarga(SistemaEliminato& s, VettoreSistema& x, MatriceSistema& A, int bordo) {
+    completaCon<4>(s, x, A, bordo);
+}
+
+}  // namespace
+
+void completa(SistemaEliminato& s, VettoreSistema& x, MatriceSistema& A, int bordo) {
+    if (registriLarghi)
+        completaLarga(s, x, A, bordo);
+    else
+        completaCon<2>(s, x, A, bordo);
 }
 
 }  // namespace korven::analysis

@@ -9,10 +9,10 @@ inline constexpr double tolleranzaSpostamento = 0.00000001;
 
 /// Extremes of one solve.
 struct EstremiIterazione {
-    double yMax = 0;          ///< largest absolute displacement [m]
-    double mMax = 0;          ///< largest absolute moment [t m]
-    double mMaxFase = -1e30;  ///< largest signed moment [t m]
-    double mMinFase = 1e30;   ///< smallest signed moment [t m]
+    double yMax = 0;                     ///< largest absolute displacement [m]
+    double mMax = 0;                     ///< largest absolute moment [t m]
+    double mMaxFase = -oltreOgniValore;  ///< largest signed moment [t m]
+    double mMinFase = oltreOgniValore;   ///< smallest signed moment [t m]
 };
 
 /// Classifies each side of each node from the displacements of the last solve and sums up what the

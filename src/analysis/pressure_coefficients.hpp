@@ -19,7 +19,7 @@ struct CoefficientiSpinta {
 ///     k0 = (1 - sin phi) / (1 + sin beta)
 ///
 /// The slope term carries a plus: a rising ground lowers the coefficient.
-/// @param phi   friction angle [rad]
+/// @param phi   friction angle [rad]; any value is computed
 /// @param beta  slope of the ground [rad], positive when it rises away from the wall
 /// @return k0 [-]; not finite when sin beta is -1
 /// Source: Jaky (1944), with the slope term of Kezdi.
@@ -33,8 +33,14 @@ struct CoefficientiSpinta {
 ///     ka = sin^2(pi/2 + phi) / (1 + sqrt A)^2
 ///     kp = sin^2(pi/2 - phi) / (1 - sqrt P)^2
 ///
-/// @return undefined for phi below a positive slope (the root of a negative number), for a slope
-///         below -phi, and where the denominator of kp is 0
+/// @param phi   friction angle [rad], meant for 0 to below pi/2; other values are computed as the
+///              formula has them
+/// @param beta  slope of the ground [rad], positive when it rises away from the wall; meant for
+///              -phi to phi
+/// @return undefined for a slope above phi or below -phi (the root of a negative number), and where
+///         the denominator of kp is 0 but for rounding: phi + beta = pi/2, or phi = pi/2. Beyond
+///         that pole, phi + beta above pi/2, kp is the formula's and falls again. Without friction
+///         both are 1 at any slope
 /// Source: Coulomb (1776), in the form of Mueller-Breslau.
 [[nodiscard]] CoefficientiSpinta spinteCoulomb(double phi, double beta);
 
@@ -45,7 +51,9 @@ struct CoefficientiSpinta {
 ///     ka = cos beta (cos beta - R) / (cos beta + R)
 ///     kp = cos beta (cos beta + R) / (cos beta - R)
 ///
-/// @return undefined for a slope steeper than phi
+/// @param phi   friction angle [rad], meant for 0 to below pi/2
+/// @param beta  slope of the ground [rad], meant for -phi to phi; its sign does not matter
+/// @return undefined for a slope steeper than phi, rising or falling, and at phi = pi/2
 /// Source: Rankine (1857).
 [[nodiscard]] CoefficientiSpinta spinteRankine(double phi, double beta);
 
@@ -53,6 +61,7 @@ struct CoefficientiSpinta {
 ///
 ///     ka = tan^2(pi/4 - phi/2),  kp = tan^2(pi/4 + phi/2)
 ///
+/// @param phi  friction angle [rad], meant for 0 to below pi/2; nothing is refused
 /// Source: Bell (1915).
 [[nodiscard]] CoefficientiSpinta spinteBell(double phi);
 

@@ -57,6 +57,7 @@ class LettoreRisultati {
 
     /// Reads the head into `dati`; the six `titoli` of `dati` stay, since a report shows those in
     /// memory.
+    /// @throws base::ErroreFile on a broken head; `dati` is then as it was
     void leggiTesta(project::DatiProgetto& dati);
 
     /// Reads the table of the next stage.
@@ -64,6 +65,7 @@ class LettoreRisultati {
     void leggiFase(RisultatiFase& risultati);
 
     /// Reads the closing numbers, behind which the file must end.
+    /// @throws base::ErroreFile if one is missing or cut short, or more lines follow
     [[nodiscard]] ChiusuraRisultati leggiChiusura();
 
  private:

@@ -17,11 +17,17 @@ struct Vincoli {
     bool incastroPiede = false;  ///< fixed toe
 };
 
+/// The restraints that the codes ask for: top 2 a hinge, toe 2 a hinge, 3 fixed; any other value is
+/// a free end. A fixed toe is blocked as well.
 [[nodiscard]] Vincoli vincoli(const project::DatiProgetto& dati);
 
 /// The arrays of one run. They start at 0 and live for one call of `CalcoloParatia`; what a stage
 /// does not set again, it takes over from the stage before: `yNodo`, `yTirante`, `momentoNodo`, and
 /// the cells of the matrix that nobody clears.
+///
+/// Nothing is put back behind the last stage: what reads the results works out the anchors'
+/// `yTirante` and the nodes' layers for itself, from the result file and whether or not a run has
+/// gone before.
 struct ArraysCorsa {
     int nSeg = 0;
     int nNodi = 0;

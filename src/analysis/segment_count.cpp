@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "analysis/input_checks.hpp"
 #include "base/files.hpp"
 #include "base/number_text.hpp"
 #include "base/program_folder.hpp"
@@ -21,6 +22,13 @@ std::optional<int> leggiNSeg(bool incastroPiede) {
         *scritto != std::floor(*scritto))
         return std::nullopt;
     return static_cast<int>(*scritto);
+}
+
+std::string_view motivoNSeg() {
+    if (!contenutoNSeg) return messaggioNSeg;
+    return "Il numero di segmenti indicato con l'opzione --nseg non è ammesso (un intero da 3 a "
+           "249, con il piede incastrato da 3 a 248), i calcoli non possono pertanto essere "
+           "eseguiti.";
 }
 
 }  // namespace korven::analysis

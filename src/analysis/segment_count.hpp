@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace korven::analysis {
 
@@ -19,5 +20,9 @@ extern std::optional<std::string> contenutoNSeg;
 /// @param incastroPiede  fixed toe, whose system is one node larger
 /// @return nothing if what stands there is no whole number from 3 to the capacity
 [[nodiscard]] std::optional<int> leggiNSeg(bool incastroPiede);
+
+/// What to tell about an unusable number of segments, an Italian key: it blames the file, or the
+/// option that stands for its content.
+[[nodiscard]] std::string_view motivoNSeg();
 
 }  // namespace korven::analysis

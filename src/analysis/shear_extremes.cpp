@@ -37,12 +37,12 @@ EstremiTaglio estremiTaglio(const project::DatiProgetto& dati, double nTirantiFa
     for (int j = 1; j <= nTirantiFase; ++j)
         if (dati.profTirante[j] != 0)
             estrapolaAlTirante(dati.profTirante[j], passo, nNodi, taglioNodo);
-    EstremiTaglio estremi{.vMin = 1e30, .vMax = -1e30};
+    EstremiTaglio estremi{.vMin = oltreOgniValore, .vMax = -oltreOgniValore};
     for (int i = 1; i <= nNodi; ++i) {
         includi(estremi, taglioNodo[i]);
         for (int j = 1; j <= nTirantiFase; ++j) {
             // Exact: an anchor that falls between two nodes shows no step.
-            if (dati.profTirante[j] != (i - 1) * passo) continue;
+            if (dati.profTirante[j] != zNodo(i, passo)) continue;
             const double tiro = dati.pretTirante[j] + dati.rigTirante[j] * (yNodo[i] - yTirante[j]);
             includi(estremi, taglioNodo[i] - tiro);
         }

@@ -25,7 +25,7 @@ struct EstremiTaglio {
 /// that an earlier one has set. Nodes beyond the toe read 0. An anchor at depth 0 keeps the node's
 /// own value, and one that stands beside no node of the wall changes nothing.
 ///
-/// Where an anchor's depth is exactly the node's depth (i - 1) x passo, as doubles, the value above
+/// Where an anchor's depth is exactly the node's `zNodo`, as doubles, the value above
 /// it counts too: taglioNodo[i] - tiro, with tiro = pretTirante + rigTirante (yNodo[i] - yTirante).
 /// An anchor between two nodes has no such second value.
 ///

@@ -99,7 +99,7 @@ bool tuttoFinito(const StatoSuolo& suolo, int i) {
 std::optional<RifiutoSuolo> calcolaSuolo(const DatiProgetto& dati, int fase, int nNodi,
                                          double passoNodi, StatoSuolo& suolo) {
     for (int i = 1; i <= nNodi; ++i) {
-        const double z = (i - 1) * passoNodi;
+        const double z = zNodo(i, passoNodi);
         suolo.acquaNetta[i] =
             pressioneAcquaNetta(z, dati.faldaMonte, dati.faldaValle, dati.gammaAcqua);
         Indefinito motivo = latoMonte(dati, z, i, tensioneMonte(dati, z), suolo);

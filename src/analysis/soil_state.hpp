@@ -29,7 +29,7 @@ struct RifiutoSuolo {
 
 /// Computes all soil values of stage `fase` afresh, with `dati.faldaValle` as the water table of
 /// the excavated side. Nothing of it depends on displacements.
-/// @param passoNodi  distance of the nodes [m]; node i lies at (i - 1) passoNodi
+/// @param passoNodi  distance of the nodes [m]
 /// @return the first quantity without a value, from the top down; `suolo` is then half filled
 [[nodiscard]] std::optional<RifiutoSuolo> calcolaSuolo(const project::DatiProgetto& dati, int fase,
                                                        int nNodi, double passoNodi,

@@ -5,11 +5,13 @@
 
 // The modulus of the soil spring at a node [t/m3]. It is stored negative: a displacement towards
 // the excavation lowers the pressure of the retained side and makes that of the excavated side more
-// negative. The user types ksStrato as a positive number.
+// negative. The user types ksStrato as a positive number. Where the data turn the sign of a formula
+// round (a negative effective stress, a saturated weight below that of water, a negative ks) the
+// modulus is positive, a spring that pushes on; it is computed with as it stands.
 
 namespace korven::analysis {
 
-/// A modulus [t/m3, negative], or why it has no value.
+/// A modulus [t/m3, negative for any sound soil], or why it has no value.
 struct ModuloNodo {
     double Eh = 0;
     Indefinito motivo = Indefinito::no;
@@ -40,7 +42,8 @@ struct FattoriPortanza {
 
 ///     Eh = -40 (c Nc + G Ngamma + sigma' Nq)
 ///
-/// the sum exactly as written: no half and no width enter the G term.
+/// the sum exactly as written: no half and no width enter the G term. Positive when the sum is
+/// negative, as with a negative stress.
 /// @param c  cohesion [t/m2]
 /// @param G  unit weight [t/m3]: natural above water, saturated less 1 below
 /// Source: Bowles, Foundation Analysis and Design.

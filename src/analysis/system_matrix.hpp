@@ -2,15 +2,15 @@
 
 #include <memory>
 
-#include "base/table.hpp"
+#include "analysis/node_vector.hpp"
 
 namespace korven::analysis {
 
 /// Largest number of unknowns of one system: 2 * 250, a wall of 249 segments.
-constexpr int capacitaSistema = 500;
+constexpr int capacitaSistema = capacitaNodi;
 
 /// Right-hand side or solution of a system: entries 1 to 500, access checked in every build type.
-using VettoreSistema = base::Tabella<double, capacitaSistema>;
+using VettoreSistema = VettoreNodi;
 
 /// Square matrix of a system, 500 x 500 doubles counted from 1, all 0 at the start.
 ///

@@ -9,6 +9,7 @@ namespace korven::analysis {
 enum class Indefinito {
     no,              ///< it has a value
     radiceNegativa,  ///< square root of a negative number in ka or kp: slope above friction angle
+    discesaRipida,   ///< the same on ground that falls away from the wall
     denominatoreNullo,  ///< division by zero in k0, ka or kp
     tensioneNegativa,   ///< square root of a negative vertical stress in ks (Lancellotta)
     spessoreNullo,      ///< ks extended below a last layer of no thickness
@@ -24,6 +25,9 @@ enum class Indefinito {
             return "coefficienti di spinta non definiti: l'inclinazione del terreno supera "
                    "l'angolo "
                    "di attrito";
+        case Indefinito::discesaRipida:
+            return "coefficienti di spinta non definiti: la pendenza in discesa del terreno supera "
+                   "l'angolo di attrito";
         case Indefinito::denominatoreNullo:
             return "coefficienti di spinta non definiti: divisione per zero";
         case Indefinito::tensioneNegativa:

@@ -1,18 +1,28 @@
 #pragma once
 
-// Four doubles that are worked on side by side, in whatever registers the processor has.
+// Some doubles that are worked on side by side, in whatever registers the processor has.
 //
-// Every operation acts on each lane as the same operation acts on one double, so the width changes
-// no bit of a result. A function marked KORVEN_PER_PROCESSORE is compiled once for each width and
-// the program picks the version when it starts.
+// Every operation acts on each lane as the same operation acts on one double, so the number of
+// lanes changes no bit of a result. What works on lanes is a template over their number L, written
+// once and compiled for two of them: four fill a register of AVX2, two one of any x86-64 or ARMv8.
+// The program picks the version when it starts. More lanes than a register holds would be slow: the
+// compiler takes them apart one by one.
 
-// Four fill one AVX register. Eight would fill one of AVX-512, but where a processor has none the
-// compiler takes comparisons of eight apart lane by lane; and small systems gain from four.
+#include <cstdint>
 
+namespace korven::analysis {
+
+/// Whether the processor has registers of four doubles that this program was compiled for. A test
+/// may turn it off to see the other version.
+extern bool registriLarghi;
+
+}  // namespace korven::analysis
+
+// In front of a function that calls a template over four lanes, behind a look at `registriLarghi`.
 #if defined(__x86_64__) && defined(__GNUC__) && !defined(__clang__)
-#define KORVEN_PER_PROCESSORE __attribute__((target_clones("avx2", "default")))
+#define KORVEN_REGISTRI_LARGHI [[gnu::target("avx2")]]
 #else
-#define KORVEN_PER_PROCESSORE
+#define KORVEN_REGISTRI_LARGHI
 #endif
 
 // Functions over lanes are always inlined into those versions; none is ever called with a vector.
@@ -21,31 +31,60 @@
 
 namespace korven::analysis {
 
-constexpr int larghezza = 4;
+template <int L>
+struct TipoCorsie;
+template <>
+struct TipoCorsie<2> {
+    using Valori [[gnu::vector_size(16), gnu::may_alias]] = double;
+};
+template <>
+struct TipoCorsie<4> {
+    using Valori [[gnu::vector_size(32), gnu::may_alias]] = double;
+};
 
-using Corsie [[gnu::vector_size(32), gnu::may_alias]] = double;
-using MascheraCorsie [[gnu::vector_size(32)]] = long long;
+template <int L>
+using Corsie = typename TipoCorsie<L>::Valori;
+/// All bits of a lane set or none, as comparisons give it.
+template <int L>
+using MascheraCorsie = decltype(Corsie<L>{} < Corsie<L>{});
 
-KORVEN_CORSIE Corsie& corsie(double* p) { return *reinterpret_cast<Corsie*>(p); }
-KORVEN_CORSIE const Corsie& corsie(const double* p) { return *reinterpret_cast<const Corsie*>(p); }
-
-/// True (all bits set) in the lanes below k.
-KORVEN_CORSIE MascheraCorsie sotto(int k) {
-    return MascheraCorsie{0, 1, 2, 3} < static_cast<long long>(k);
+template <int L>
+KORVEN_CORSIE Corsie<L>& corsie(double* p) {
+    return *reinterpret_cast<Corsie<L>*>(p);
+}
+template <int L>
+KORVEN_CORSIE const Corsie<L>& corsie(const double* p) {
+    return *reinterpret_cast<const Corsie<L>*>(p);
 }
 
-KORVEN_CORSIE Corsie assoluto(const Corsie& v) {
-    constexpr long long senzaSegno = 0x7fff'ffff'ffff'ffff;
-    return reinterpret_cast<Corsie>(reinterpret_cast<MascheraCorsie>(v) & senzaSegno);
+/// True (all bits set) in the lanes below k.
+template <int L>
+KORVEN_CORSIE MascheraCorsie<L> sotto(int k) {
+    MascheraCorsie<L> numeri{};
+    for (int i = 0; i < L; ++i) numeri[i] = i;
+    return numeri < static_cast<std::int64_t>(k);
+}
+
+template <class Valori>
+KORVEN_CORSIE Valori assoluto(const Valori& v) {
+    using Bit = decltype(v < v);
+    constexpr std::int64_t senzaSegno = 0x7fff'ffff'ffff'ffff;
+    return reinterpret_cast<Valori>(reinterpret_cast<Bit>(v) & senzaSegno);
 }
 
 /// Lane by lane the larger of a and b; b where a is NaN.
-KORVEN_CORSIE Corsie massimo(const Corsie& a, const Corsie& b) { return a > b ? a : b; }
+template <class Valori>
+KORVEN_CORSIE Valori massimo(const Valori& a, const Valori& b) {
+    return a > b ? a : b;
+}
 
 /// Largest lane; no lane may be NaN.
-KORVEN_CORSIE double massimoCorsie(const Corsie& c) {
-    const double a = c[0] > c[1] ? c[0] : c[1], b = c[2] > c[3] ? c[2] : c[3];
-    return a > b ? a : b;
+template <int L>
+KORVEN_CORSIE double massimoCorsie(const Corsie<L>& c) {
+    // The analyzer does not see what vectors hold.
+    double massima = c[0];  // NOLINT(clang-analyzer-core.uninitialized.Assign)
+    for (int i = 1; i < L; ++i) massima = c[i] > massima ? c[i] : massima;
+    return massima;
 }
 
 }  // namespace korven::analysis

@@ -1,6 +1,5 @@
 #include "analysis/wall_mesh.hpp"
 
-#include <algorithm>
 #include <cmath>
 
 namespace korven::analysis {
@@ -60,7 +59,7 @@ void equilibrioGlobale(const Parete& parete, MatriceSistema& A, VettoreNodi& b) 
     for (int i = 1; i <= n; ++i) {
         const double w = i == 1 || i == n ? 1 : 2;  // a node at an end stands for half a segment
         A(2 * N + 1, n + i) = k[i] * w * h / 2;
-        A(2 * N + 2, n + i) = (k[i] * w * h / 2) * (-(i - 1) * h);
+        A(2 * N + 2, n + i) = (k[i] * w * h / 2) * -zNodo(i, h);
         forze += -p[i] * w * h / 2;
         momenti += (p[i] * w * h / 2) * (i - 1) * h;
     }
@@ -70,10 +69,14 @@ void equilibrioGlobale(const Parete& parete, MatriceSistema& A, VettoreNodi& b) 
 
 }  // namespace
 
+// Depths far outside the wall all lead to nodes that do not exist.
+static constexpr int primaDiTutti = -1;
+static constexpr int dopoTutti = capacitaNodi + 1;
+
 int nodoTirante(double profondita, double passoNodi) {
-    // Depths far outside the wall all lead to nodes that do not exist.
     const double nodo = 1 + std::trunc(profondita / passoNodi + 0.5);
-    return static_cast<int>(std::clamp(nodo, -1.0, capacitaNodi + 1.0));
+    if (!(nodo > primaDiTutti)) return primaDiTutti;  // true for NaN as well
+    return nodo < dopoTutti ? static_cast<int>(nodo) : dopoTutti;
 }
 
 void assembla(const Parete& parete, MatriceSistema& A, VettoreNodi& b) {

@@ -8,8 +8,10 @@ namespace korven::analysis {
 /// Stiffness of the springs that stand for restraints, as a coefficient of the net pressure [t/m3].
 inline constexpr double kVincolo = -1e11;
 
-/// Node of an anchor at a depth: the nearest one, the deeper one half way. Beyond the toe the
-/// number goes on growing.
+/// Node of an anchor at a depth: the nearest one, the deeper one half way.
+/// @return a number outside 1 to `nNodi` for an anchor beside the wall; below the toe it goes on
+///         growing to 501, above the top it falls to -1, which also answers a depth that is no
+///         number
 [[nodiscard]] int nodoTirante(double profondita, double passoNodi);
 
 /// What one iteration knows of the wall.

@@ -23,6 +23,19 @@ namespace {
                      traduttore(cosa) + " (" + std::generic_category().message(codice) + ")");
 }
 
+// A system call that a signal cut short is made again.
+template <class Chiamata>
+auto ripeti(const Chiamata& chiamata) {
+    for (;;) {
+        const auto esito = chiamata();
+        if (esito >= 0 || errno != EINTR) return esito;
+    }
+}
+
+int apriDescrittore(const std::string& percorso, int modo) {
+    return ripeti([&] { return ::open(percorso.c_str(), modo | O_CLOEXEC); });
+}
+
 class Descrittore {
  public:
     explicit Descrittore(int numero) : numero_(numero) {}
@@ -32,7 +45,10 @@ class Descrittore {
         if (numero_ >= 0) ::close(numero_);
     }
     [[nodiscard]] int operator*() const { return numero_; }
-    [[nodiscard]] bool chiudi() { return ::close(std::exchange(numero_, -1)) == 0; }
+    // An interrupted close has closed the file all the same.
+    [[nodiscard]] bool chiudi() {
+        return ::close(std::exchange(numero_, -1)) == 0 || errno == EINTR;
+    }
 
  private:
     int numero_;
@@ -40,12 +56,23 @@ class Descrittore {
 
 bool scriviTutto(int file, std::string_view contenuto) {
     while (!contenuto.empty()) {
-        const ssize_t scritti = ::write(file, contenuto.data(), contenuto.size());
-        if (scritti < 0 && errno == EINTR) continue;
+        const ssize_t scritti =
+            ripeti([&] { return ::write(file, contenuto.data(), contenuto.size()); });
         if (scritti < 0) return false;
         contenuto.remove_prefix(static_cast<std::size_t>(scritti));
     }
     return true;
+}
+
+// A name that stands for a device, a pipe or a socket: reading it could wait for ever or never end,
+// and a rename would replace it.
+void rifiutaSpeciale(const std::string& percorso, const struct stat& stato) {
+    if (!S_ISREG(stato.st_mode) && !S_ISDIR(stato.st_mode))
+        throw ErroreFile(percorso, 0, traduttore("non è un file normale"));
+}
+
+void rifiutaEnorme(const std::string& percorso, std::size_t byte) {
+    if (byte > massimoByte) throw ErroreFile(percorso, 0, traduttore("il file è troppo grande"));
 }
 
 // The file that a name stands for: a link leads to its target, which may not exist yet.
@@ -64,28 +91,34 @@ mode_t permessi(const std::string& percorso) {
 }
 
 void versaSulDisco(const std::string& cartella) {
-    const Descrittore file(::open(cartella.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    const Descrittore file(apriDescrittore(cartella, O_RDONLY | O_DIRECTORY));
     if (*file >= 0) ::fsync(*file);
 }
 
 }  // namespace
 
 std::string leggiFile(const std::string& percorso) {
-    const Descrittore file(::open(percorso.c_str(), O_RDONLY | O_CLOEXEC));
-    if (*file < 0) fallito(percorso, "impossibile leggere il file", errno);
+    // Without waiting: a pipe without a writer would hold the program.
+    const Descrittore file(apriDescrittore(percorso, O_RDONLY | O_NONBLOCK));
+    struct stat stato {};
+    if (*file < 0 || ::fstat(*file, &stato) != 0)
+        fallito(percorso, "impossibile leggere il file", errno);
+    rifiutaSpeciale(percorso, stato);
+    rifiutaEnorme(percorso, static_cast<std::size_t>(stato.st_size));
     std::string contenuto;
     char blocco[65536];
     for (;;) {
-        const ssize_t letti = ::read(*file, blocco, sizeof blocco);
-        if (letti < 0 && errno == EINTR) continue;
+        const ssize_t letti = ripeti([&] { return ::read(*file, blocco, sizeof blocco); });
         if (letti < 0) fallito(percorso, "impossibile leggere il file", errno);
         if (letti == 0) return contenuto;
         contenuto.append(blocco, static_cast<std::size_t>(letti));
+        rifiutaEnorme(percorso, contenuto.size());  // it may grow, or not know its size
     }
 }
 
 void scriviFile(const std::string& percorso, std::string_view contenuto) {
     const std::string meta = destinazione(percorso);
+    if (struct stat stato{}; ::stat(meta.c_str(), &stato) == 0) rifiutaSpeciale(percorso, stato);
     // Taking over the name would get past a file's own write protection.
     if (::access(meta.c_str(), F_OK) == 0 && ::access(meta.c_str(), W_OK) != 0)
         fallito(percorso, "impossibile scrivere il file", errno);
@@ -93,7 +126,7 @@ void scriviFile(const std::string& percorso, std::string_view contenuto) {
     Descrittore file(::mkostemp(provvisorio.data(), O_CLOEXEC));
     if (*file < 0) fallito(percorso, "impossibile scrivere il file", errno);
     const bool scritto = scriviTutto(*file, contenuto) && ::fchmod(*file, permessi(meta)) == 0 &&
-                         ::fsync(*file) == 0 && file.chiudi() &&
+                         ripeti([&] { return ::fsync(*file); }) == 0 && file.chiudi() &&
                          ::rename(provvisorio.c_str(), meta.c_str()) == 0;
     if (!scritto) {
         const int codice = errno;
@@ -104,7 +137,7 @@ void scriviFile(const std::string& percorso, std::string_view contenuto) {
 }
 
 void accodaFile(const std::string& percorso, std::string_view contenuto) {
-    Descrittore file(::open(percorso.c_str(), O_WRONLY | O_APPEND | O_CLOEXEC));
+    Descrittore file(apriDescrittore(percorso, O_WRONLY | O_APPEND));
     if (*file < 0) fallito(percorso, "impossibile scrivere il file", errno);
     const off_t prima = ::lseek(*file, 0, SEEK_END);
     if (!scriviTutto(*file, contenuto)) {
@@ -119,6 +152,11 @@ bool esisteFile(const std::string& percorso) {
     std::error_code errore;
     return std::filesystem::exists(percorso, errore) &&
            !std::filesystem::is_directory(percorso, errore);
+}
+
+bool stessoFile(const std::string& uno, const std::string& altro) {
+    std::error_code errore;
+    return uno == altro || std::filesystem::equivalent(uno, altro, errore);
 }
 
 void cancellaFile(const std::string& percorso) {

@@ -1,26 +1,38 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
 namespace korven::base {
 
+/// Size beyond which a file is none of this program's: 1 GiB.
+inline constexpr std::size_t massimoByte = std::size_t{1} << 30;
+
 /// The bytes of a file.
-/// @throws ErroreFile if it is missing, a folder or not readable
+/// @throws ErroreFile if it is missing, not readable, larger than `massimoByte`, a folder or no
+///         plain file (a pipe, a device, a socket: never waited for)
 [[nodiscard]] std::string leggiFile(const std::string& percorso);
 
 /// Puts `contenuto` under the name `percorso`, all of it or nothing: the bytes go into a temporary
 /// file of the same folder, to the disk, and then take the name. What stood there before survives
 /// any failure; its permissions are kept, a link is followed.
-/// @throws ErroreFile with the system's reason (full disk, no permission, no such folder)
+/// @throws ErroreFile with the system's reason (full disk, no permission, no such folder), or if
+/// the
+///         name stands for a pipe, a device or a socket
 void scriviFile(const std::string& percorso, std::string_view contenuto);
 
 /// Appends to an existing file; on a failure the file is cut back to what it held.
 /// @throws ErroreFile with the system's reason
 void accodaFile(const std::string& percorso, std::string_view contenuto);
 
-/// True if a file (no folder) of that name exists.
+/// True if something that is no folder has that name. It need not be readable: `leggiFile` then
+/// tells why, where a false here would pass over it in silence.
 [[nodiscard]] bool esisteFile(const std::string& percorso);
+
+/// True if both names lead to one file: equal texts, symbolic or hard links, other ways to a
+/// folder.
+[[nodiscard]] bool stessoFile(const std::string& uno, const std::string& altro);
 
 /// Removes a file if it exists; says nothing if it can't.
 void cancellaFile(const std::string& percorso);

@@ -4,6 +4,7 @@
 #include <charconv>
 #include <cmath>
 #include <system_error>
+#include <utility>
 
 #include "base/decimal_digits.hpp"
 
@@ -38,20 +39,46 @@ std::size_t lunghezzaNumero(std::string_view testo) {
     return fine;
 }
 
-// A number out of range is either too small to tell from 0 or too large to be one.
+// The exponent behind an e; one beyond all doubles and all lengths of text is held at a bound.
+long long esponenteScritto(std::string_view cifre) {
+    constexpr long long limite = 1'000'000'000'000'000;
+    const bool negativo = cifre.starts_with('-');
+    if (negativo || cifre.starts_with('+')) cifre.remove_prefix(1);
+    long long valore = 0;
+    for (const char c : cifre) valore = std::min(limite, 10 * valore + (c - '0'));
+    return negativo ? -valore : valore;
+}
+
+// A number out of range is either too small to tell from 0 or too large to be one: the power of ten
+// of its first digit that is no zero tells.
 bool troppoPiccolo(std::string_view numero) {
-    const auto e = numero.find_first_of("eE");
-    if (e != std::string_view::npos) return numero[e + 1] == '-';
-    return numero.find_first_not_of('0') == numero.find('.');
+    const auto e = std::min(numero.find_first_of("eE"), numero.size());
+    const std::string_view cifre = numero.substr(0, e);
+    const auto prima = cifre.find_first_of("123456789");
+    if (prima == std::string_view::npos) return true;
+    const auto punto = static_cast<long long>(std::min(cifre.find('.'), cifre.size()));
+    const long long posto = punto - static_cast<long long>(prima);
+    return posto + (e < numero.size() ? esponenteScritto(numero.substr(e + 1)) : 0) < 0;
+}
+
+// What stands behind the leading blanks, without its sign.
+struct Segnato {
+    bool negativo;
+    std::string_view resto;
+};
+
+Segnato dividiSegno(std::string_view testo) {
+    testo.remove_prefix(std::min(testo.find_first_not_of(" \t"), testo.size()));
+    const bool negativo = testo.starts_with('-');
+    if (negativo || testo.starts_with('+')) testo.remove_prefix(1);
+    return {negativo, testo};
 }
 
 }  // namespace
 
 std::optional<double> leggiNumero(std::string_view testo) {
-    testo.remove_prefix(std::min(testo.find_first_not_of(" \t"), testo.size()));
-    const bool negativo = testo.starts_with('-');
-    if (negativo || testo.starts_with('+')) testo.remove_prefix(1);
-    const std::string_view numero = testo.substr(0, lunghezzaNumero(testo));
+    const auto [negativo, resto] = dividiSegno(testo);
+    const std::string_view numero = resto.substr(0, lunghezzaNumero(resto));
     if (numero.empty()) return std::nullopt;
     double valore = 0;
     const auto esito = std::from_chars(numero.data(), numero.data() + numero.size(), valore);
@@ -60,6 +87,12 @@ std::optional<double> leggiNumero(std::string_view testo) {
         valore = 0;
     }
     return negativo ? -valore : valore;
+}
+
+bool soloUnNumero(std::string_view testo) {
+    const std::string_view resto = dividiSegno(testo).resto;
+    const std::size_t lunghezza = lunghezzaNumero(resto);
+    return lunghezza > 0 && resto.find_first_not_of(" \t", lunghezza) == std::string_view::npos;
 }
 
 std::string formattaNumero(double valore) {
@@ -98,6 +131,17 @@ std::string formattaDecimali(double valore, int decimali) {
     const std::size_t finoAlPunto = testo.find('.') + 1;
     return testo.substr(
         0, decimali < 0 ? finoAlPunto - 1 : finoAlPunto + static_cast<std::size_t>(decimali));
+}
+
+std::string testoDecimali(double valore, int decimali, int potenza) {
+    CifreDecimali cifre = cifrePiuBrevi(valore);
+    if (!cifre.cifre.empty()) cifre.punto += potenza;
+    std::string testo = testoNudo(arrotondaDecimali(std::move(cifre), decimali));
+    const std::size_t segno = testo.starts_with('-') ? 1 : 0;
+    if (testo[segno] == '.') testo.insert(segno, 1, '0');
+    if (decimali <= 0) return testo.substr(0, testo.find('.'));
+    testo.resize(testo.find('.') + 1 + static_cast<std::size_t>(decimali), '0');
+    return testo;
 }
 
 std::string testoNumero(double valore) {

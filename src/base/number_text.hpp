@@ -13,8 +13,13 @@ namespace korven::base {
 
 /// Reads the number at the head of a text: leading blanks are skipped, then the longest prefix of
 /// the form sign, digits, point, digits, exponent with e or E is taken; what follows is ignored.
+/// A number too small for a double is 0 with its sign.
 /// @return nothing when the text begins with no number, or with one too large for a double
 [[nodiscard]] std::optional<double> leggiNumero(std::string_view testo);
+
+/// True when the text is a number in the form of `leggiNumero`, of whatever size, and nothing else
+/// but blanks around it.
+[[nodiscard]] bool soloUnNumero(std::string_view testo);
 
 /// The text of a number in project and result files: at most seven decimals, no padding, all
 /// integer digits. 0.5 gives 0.5, but -0.5 gives -.5, since only a point in the very first place
@@ -35,6 +40,12 @@ namespace korven::base {
 ///
 /// @param decimali  1 to 12; 0 leaves the point at the end, -1 takes it off
 [[nodiscard]] std::string formattaDecimali(double valore, int decimali);
+
+/// Text of `valore` * 10^`potenza` with exactly `decimali` digits behind the point, rounded once; a
+/// 0 before the point, never "-0". The power of ten moves the point of the decimal text and so
+/// costs no digit: tonnes become kN, metres centimetres.
+/// @param decimali  0 or less leaves the point out
+[[nodiscard]] std::string testoDecimali(double valore, int decimali, int potenza = 0);
 
 /// The plain text of a number: at most 15 significant digits, a 0 before the point, no exponent,
 /// never "-0".

@@ -40,8 +40,9 @@ std::string fileProgramma(std::string_view nome) {
     std::error_code errore;
     if (fs::exists(esatto, errore)) return esatto.string();
     std::string trovato;
-    for (const auto& voce : fs::directory_iterator(cartella, errore)) {
-        const std::string candidato = voce.path().filename().string();
+    fs::directory_iterator voce(cartella, errore);
+    for (; !errore && voce != fs::directory_iterator(); voce.increment(errore)) {
+        const std::string candidato = voce->path().filename().string();
         if (stessoNome(candidato, nome) && (trovato.empty() || candidato < trovato))
             trovato = candidato;
     }

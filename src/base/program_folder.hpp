@@ -15,7 +15,7 @@ void impostaCartellaProgramma(std::string cartella);
 
 /// Path of a file of the program folder. The case of its name does not matter: if no file has the
 /// very name, the first in alphabetical order that differs only in the case of ASCII letters is it.
-/// When there is none, the path where it would be.
+/// When there is none, or the folder can't be listed, the path where it would be.
 [[nodiscard]] std::string fileProgramma(std::string_view nome);
 
 }  // namespace korven::base

@@ -13,9 +13,20 @@ class ErroreIndice : public std::out_of_range {
  public:
     ErroreIndice(long indice, std::size_t capacita)
         : std::out_of_range("indice " + std::to_string(indice) + " fuori dalla tabella (0-" +
-                            std::to_string(capacita) + ")") {}
+                            std::to_string(capacita) + ")"),
+          indice_(indice),
+          capacita_(capacita) {}
+
     /// @param cosa  what there is too much of, in the user's words [translated, UTF-8]
     explicit ErroreIndice(const std::string& cosa) : std::out_of_range(cosa) {}
+
+    [[nodiscard]] long indice() const { return indice_; }
+    /// Capacity of the table; 0 when `what` says all there is to say.
+    [[nodiscard]] std::size_t capacita() const { return capacita_; }
+
+ private:
+    long indice_ = 0;
+    std::size_t capacita_ = 0;
 };
 
 /// A table of N rows counted from 1, as engineers count, with a row 0 that belongs to it and is

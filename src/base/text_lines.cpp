@@ -19,7 +19,7 @@ LettoreRighe::LettoreRighe(std::string percorso, std::string contenuto, std::str
 
 bool LettoreRighe::fine() const {
     const std::string_view resto = std::string_view(contenuto_).substr(posizione_);
-    return resto.empty() || resto == "\n" || resto == "\r\n";
+    return resto.empty() || resto == "\n" || resto == "\r\n" || resto == "\r";
 }
 
 std::string_view LettoreRighe::prossima(std::string_view atteso) {
@@ -30,7 +30,7 @@ std::string_view LettoreRighe::prossima(std::string_view atteso) {
     const std::size_t fine = riga.find('\n');
     posizione_ += fine == std::string_view::npos ? riga.size() : fine + 1;
     riga = riga.substr(0, fine);
-    if (fine != std::string_view::npos && riga.ends_with('\r')) riga.remove_suffix(1);
+    if (riga.ends_with('\r')) riga.remove_suffix(1);
     return riga;
 }
 

@@ -6,7 +6,8 @@
 namespace korven::base {
 
 /// Reads a text file line by line, or number by number, and says where it broke. The file is
-/// Windows-1252; lines end in CR LF or LF alone, the last may have no end. Texts come out in UTF-8.
+/// Windows-1252; lines end in CR LF or LF alone, the last may have no end, or only the CR of one
+/// that was cut in two. Texts come out in UTF-8.
 class LettoreRighe {
  public:
     /// Reads the whole file.

@@ -1,12 +1,12 @@
 #include "batch/console.hpp"
 
+#include <poll.h>
 #include <unistd.h>
 
-#include <cmath>
 #include <iostream>
 
-#include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
+#include "batch/shown_number.hpp"
 
 namespace korven::batch {
 
@@ -14,21 +14,25 @@ namespace {
 
 constexpr const char* cancellaRiga = "\r\x1b[K";
 
-// A wall on its way to failure may move beyond all numbers; the run judges that at its end.
-std::string breve(double valore, int decimali) {
-    return std::isfinite(valore) ? base::formattaDecimali(valore, decimali) : "-";
-}
-
 // Short numbers: the line must fit a terminal. Displacement in m, moment in kN m.
 std::string rigaAvanzamento(const analysis::StatoIterazione& stato) {
     return base::traduttore("fase") + "=" + std::to_string(stato.fase) +
-           "   iter.=" + std::to_string(stato.iterazione) + "   Ymax=" + breve(stato.yMax, 4) +
-           "   Mmax=" + breve(10 * stato.mMax, 2);
+           "   iter.=" + std::to_string(stato.iterazione) +
+           "   Ymax=" + numeroMostrato(stato.yMax, 4) +
+           "   Mmax=" + numeroMostrato(stato.mMax, 2, 1);
+}
+
+// A terminal that hangs must not hold a program that was told to end.
+bool terminaleLibero() {
+    constexpr int attesaMassima = 500;  // [ms]
+    pollfd uscita{STDERR_FILENO, POLLOUT, 0};
+    return ::poll(&uscita, 1, attesaMassima) == 1 && (uscita.revents & POLLOUT) != 0;
 }
 
 }  // namespace
 
 void DialogoConsole::messaggio(std::string_view testo, std::string_view titolo, base::Icona) {
+    vista_.chiudi();
     messaggi_.emplace_back(testo);
     std::cerr << titolo << ' ' << testo << '\n';
 }
@@ -50,6 +54,9 @@ void AvanzamentoConsole::iterazione(const analysis::StatoIterazione& stato) {
 }
 
 void AvanzamentoConsole::chiudi() {
+    // An interrupt cuts short a write that waits for the terminal, and a stream that failed once
+    // would keep what follows to itself: why the run ended.
+    if (!std::cerr && terminaleLibero()) std::cerr.clear();
     if (rigaAperta_) std::cerr << '\n';
     rigaAperta_ = false;
 }

@@ -8,24 +8,6 @@
 
 namespace korven::batch {
 
-/// Tells messages on standard error and answers the one question of a run as the command line said.
-class DialogoConsole : public base::Dialogo {
- public:
-    explicit DialogoConsole(bool ricalcolaEJ) : ricalcolaEJ_(ricalcolaEJ) {}
-
-    void messaggio(std::string_view testo, std::string_view titolo, base::Icona icona) override;
-    base::Risposta domanda(std::string_view testo, std::string_view titolo, base::Pulsanti pulsanti,
-                           base::Icona icona) override;
-    void puntatore(base::Puntatore) override {}
-
-    /// All messages shown so far.
-    [[nodiscard]] const std::vector<std::string>& messaggi() const { return messaggi_; }
-
- private:
-    bool ricalcolaEJ_;
-    std::vector<std::string> messaggi_;
-};
-
 /// One line a stage on standard error: redrawn in place on a terminal, written once the stage has
 /// come to rest elsewhere.
 class AvanzamentoConsole : public analysis::Avanzamento {
@@ -40,6 +22,27 @@ class AvanzamentoConsole : public analysis::Avanzamento {
     bool mostra_;
     bool terminale_;
     bool rigaAperta_ = false;
+};
+
+/// Tells messages on standard error and answers the one question of a run as the command line said.
+class DialogoConsole : public base::Dialogo {
+ public:
+    /// @param vista  its line is ended before a message, which stands on a line of its own
+    DialogoConsole(bool ricalcolaEJ, AvanzamentoConsole& vista)
+        : ricalcolaEJ_(ricalcolaEJ), vista_(vista) {}
+
+    void messaggio(std::string_view testo, std::string_view titolo, base::Icona icona) override;
+    base::Risposta domanda(std::string_view testo, std::string_view titolo, base::Pulsanti pulsanti,
+                           base::Icona icona) override;
+    void puntatore(base::Puntatore) override {}
+
+    /// All messages shown so far.
+    [[nodiscard]] const std::vector<std::string>& messaggi() const { return messaggi_; }
+
+ private:
+    bool ricalcolaEJ_;
+    AvanzamentoConsole& vista_;
+    std::vector<std::string> messaggi_;
 };
 
 }  // namespace korven::batch

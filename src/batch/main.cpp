@@ -2,31 +2,19 @@
 #include <exception>
 #include <iostream>
 
-#include "analysis/calcolo_paratia.hpp"
-#include "analysis/run_flags.hpp"
-#include "analysis/segment_count.hpp"
 #include "base/file_error.hpp"
 #include "base/files.hpp"
 #include "base/language.hpp"
 #include "base/program_folder.hpp"
-#include "base/table.hpp"
 #include "base/translated_texts.hpp"
-#include "base/value_error.hpp"
-#include "batch/console.hpp"
+#include "batch/command_run.hpp"
+#include "batch/failure.hpp"
 #include "batch/options.hpp"
-#include "batch/outcome.hpp"
-#include "project/project_data.hpp"
 
 // korven32c: the work of the desktop program without a window.
 
 namespace korven::batch {
 namespace {
-
-enum CodiceUscita { fatto = 0, nonEseguito = 1, usoErrato = 2, ingressoRotto = 3 };
-
-volatile std::sig_atomic_t interruzione = 0;
-
-extern "C" void interrompi(int) { interruzione = 1; }
 
 // Italian is the language of the keys and needs no tables.
 void scegliLingua(const std::string& sigla) {
@@ -42,99 +30,68 @@ void scegliLingua(const std::string& sigla) {
     base::impostaLingua(codice);
 }
 
-int verifica(Esito& esito) {
-    esito.rilievi = commands::esaminaProgetto(project::Progetto);
-    return commands::calcolabile(esito.rilievi) ? fatto : nonEseguito;
-}
-
-void raccontaArresto(const commands::ControlloCorsa& controllo, Esito& esito) {
-    std::vector<std::string> righe = controllo.motivo();
-    if (righe.empty() && interruzione != 0)
-        righe.push_back(base::traduttore("Calcolo interrotto dall'utente."));
-    for (const auto& riga : righe) {
-        std::cerr << riga << '\n';
-        esito.messaggi.push_back(riga);
-    }
-}
-
-int corri(const Opzioni& opzioni, Esito& esito) {
-    DialogoConsole dialogo(opzioni.ricalcolaEJ);
-    AvanzamentoConsole vista(!opzioni.silenzioso);
-    commands::ControlloCorsa controllo(vista, opzioni.maxIterazioni, interruzione);
-    commands::UscitaRelazione uscita(opzioni.comando == Comando::relazione);
-    analysis::CalcoloParatia(0, {dialogo, controllo, uscita});
-    esito.messaggi = dialogo.messaggi();
-    if (analysis::erroreCalcolo) {
-        raccontaArresto(controllo, esito);
-        return nonEseguito;
-    }
-    esito.calcolo = commands::leggiEsito();
-    esito.giaAggiornato = !controllo.calcolato();
-    esito.fasi = controllo.fasi();
-    if (!esito.giaAggiornato) esito.fileScritti.push_back(esito.calcolo->fileRisultati);
-    esito.fileRelazione = uscita.relazione();
-    if (!esito.fileRelazione.empty()) esito.fileScritti.push_back(esito.fileRelazione);
-    if (opzioni.testo) {
-        esito.fileTesto = commands::scriviTesto(esito.fileRelazione);
-        esito.fileScritti.push_back(esito.fileTesto);
-    }
-    return fatto;
-}
-
-int esegui(const Opzioni& opzioni, Esito& esito) {
-    analysis::contenutoNSeg = opzioni.nseg;
-    commands::apriProgetto(opzioni.progetto, opzioni.uscita);
-    esito.progetto = project::fileCorrente;
-    if (opzioni.metodoSpinte) project::Progetto.metodoSpinte = *opzioni.metodoSpinte;
-    return opzioni.comando == Comando::verifica ? verifica(esito) : corri(opzioni, esito);
-}
-
-void racconta(const Opzioni& opzioni, const Esito& esito) {
-    if (opzioni.json) {
-        std::cout << json(esito);
-        return;
-    }
-    if (opzioni.comando == Comando::verifica && esito.codice <= nonEseguito) {
-        if (!opzioni.silenzioso) std::cout << elenco(esito);
-        return;
-    }
-    if (esito.codice != fatto || opzioni.silenzioso) return;
-    std::cout << tabella(esito, opzioni.traccia);
+// What a command has to tell on standard output.
+std::string resoconto(const Opzioni& opzioni, const Esito& esito) {
+    if (opzioni.json) return json(esito);
+    if (opzioni.silenzioso) return {};
+    if (opzioni.comando == Comando::verifica) return esito.guasto ? "" : elenco(esito);
+    if (esito.codice != fatto) return {};
+    std::string testo = tabella(esito, opzioni.traccia);
     for (const auto& file : esito.fileScritti)
-        std::cout << base::traduttore("File scritto") << ": " << file << '\n';
+        testo += base::traduttore("File scritto") + ": " + file + '\n';
+    return testo;
 }
 
-void fallisci(int codice, const std::string& perche, Esito& esito) {
-    std::cerr << "korven32c: " << perche << '\n';
-    esito.messaggi.push_back(perche);
-    esito.codice = codice;
+std::string resocontoAncheDiUnGuasto(const Opzioni& opzioni, Esito& esito) {
+    try {
+        return resoconto(opzioni, esito);
+    } catch (const std::exception&) {
+        raccontaGuasto(esito);
+    }
+    return resoconto(opzioni, esito);  // of the failure: without the numbers that could not be told
+}
+
+// Standard output may be a full disk; nobody must take half a table for the whole.
+int versa(const std::string& testo, int codice) {
+    std::cout << testo << std::flush;
+    if (std::cout) return codice;
+    std::cerr << "korven32c: " << base::traduttore("impossibile scrivere sull'uscita normale")
+              << '\n';
+    return ingressoRotto;
 }
 
 constexpr const char* nomiComandi[] = {"calcola", "relazione", "verifica"};
 
-int programma(int argc, const char* const* argv) {
-    base::impostaCartellaProgramma(valoreAnticipato(argc, argv, "--cartella"));
-    scegliLingua(valoreAnticipato(argc, argv, "--lingua"));
-    const auto [opzioni, codice] = leggiOpzioni(argc, argv);
-    if (!opzioni) return codice;
+void lavora(const Opzioni& opzioni, std::exception_ptr senzaLingua, Esito& esito) {
+    try {
+        if (senzaLingua) std::rethrow_exception(senzaLingua);
+        esito.codice = esegui(opzioni, esito);
+    } catch (const std::exception&) {
+        raccontaGuasto(esito);
+    }
+    const bool corsa = esito.progettoLetto && opzioni.comando != Comando::verifica;
+    if (corsa && esito.codice != fatto) avvisaRelazioniRimaste(esito);
+}
 
-    std::signal(SIGINT, interrompi);
-    std::signal(SIGTERM, interrompi);
+int programma(int argc, const char* const* argv) {
     std::signal(SIGXFSZ, SIG_IGN);  // a file at its size limit is a failed write like others
+    base::impostaCartellaProgramma(valoreAnticipato(argc, argv, "--cartella"));
+    // Wrong usage goes before a language that can't be had, which JSON must be able to tell.
+    std::exception_ptr senzaLingua;
+    try {
+        scegliLingua(valoreAnticipato(argc, argv, "--lingua"));
+    } catch (const std::exception&) {
+        senzaLingua = std::current_exception();
+    }
+    const auto [opzioni, codice] = leggiOpzioni(argc, argv);
+    if (!opzioni) return versa({}, codice);
+
     Esito esito;
     esito.comando = nomiComandi[static_cast<int>(opzioni->comando)];
     esito.progetto = opzioni->progetto;
-    try {
-        esito.codice = esegui(*opzioni, esito);
-    } catch (const base::ErroreIndice& errore) {  // the project asks for more than a table holds
-        fallisci(ingressoRotto, esito.progetto + ": " + errore.what(), esito);
-    } catch (const base::ErroreValore& errore) {  // like a result that is not finite
-        fallisci(nonEseguito, esito.progetto + ": " + errore.what(), esito);
-    } catch (const std::exception& errore) {  // broken input, full disk
-        fallisci(ingressoRotto, errore.what(), esito);
-    }
-    racconta(*opzioni, esito);
-    return esito.codice;
+    lavora(*opzioni, senzaLingua, esito);
+    const std::string testo = resocontoAncheDiUnGuasto(*opzioni, esito);
+    return versa(testo, esito.codice);
 }
 
 }  // namespace
@@ -143,7 +100,7 @@ int programma(int argc, const char* const* argv) {
 int main(int argc, char** argv) {
     try {
         return korven::batch::programma(argc, argv);
-    } catch (const std::exception& errore) {
+    } catch (const std::exception& errore) {  // nothing else could tell it
         std::cerr << "korven32c: " << errore.what() << '\n';
         return korven::batch::ingressoRotto;
     }

@@ -5,7 +5,9 @@
 #include <limits>
 #include <map>
 
+#include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
+#include "batch/wrong_usage.hpp"
 
 namespace korven::batch {
 
@@ -25,6 +27,23 @@ std::string chiavi(const auto& tabella) {
 // A check would write its own name behind that of the value in the help.
 CLI::Validator senzaNome(const CLI::Validator& controllo) { return controllo.description(""); }
 
+// A path without a character names nothing.
+const CLI::Validator nonVuoto([](std::string& testo) { return testo.empty() ? "?" : ""; }, "");
+
+// The library takes any next argument for the value: a forgotten one must not make a folder
+// "--json".
+const CLI::Validator cartella(
+    [](std::string& testo) { return testo.empty() || testo.starts_with('-') ? "?" : ""; }, "");
+
+// Whether the number will do is for the run to say; what is none is a slip of the pen.
+const CLI::Validator numero([](std::string& testo) { return base::soloUnNumero(testo) ? "" : "?"; },
+                            "");
+
+void versione(CLI::App& app) {
+    app.set_version_flag("--versione", "KORVEN 32 " KORVEN_VERSION,
+                         traduttore("mostra la versione"));
+}
+
 // The words of the help itself.
 void intestazioni(CLI::App& app) {
     const std::pair<const char*, const char*> parole[] = {{"Usage", "Uso"},
@@ -41,13 +60,16 @@ void intestazioni(CLI::App& app) {
 void comuni(CLI::App& comando, Opzioni& o) {
     comando.group(traduttore("Comandi"));
     comando.set_help_flag("-h,--help", traduttore("mostra questo aiuto"));
+    versione(comando);
     comando.add_option("progetto", o.progetto, traduttore("file di progetto"))
         ->type_name("PROGETTO.kvd")
+        ->check(nonVuoto)
         ->required();
     comando
         .add_option("--uscita", o.uscita,
                     traduttore("scrive i risultati in questa cartella, non accanto al progetto"))
-        ->type_name("DIR");
+        ->type_name("DIR")
+        ->check(cartella);
     comando
         .add_option_function<std::string>(
             "--metodo-spinte", [&o](const std::string& nome) { o.metodoSpinte = metodi.at(nome); },
@@ -55,7 +77,8 @@ void comuni(CLI::App& comando, Opzioni& o) {
         ->type_name(chiavi(metodi))
         ->check(senzaNome(CLI::IsMember(metodi)));
     comando.add_option("--nseg", o.nseg, traduttore("numero di segmenti, al posto di nseg.txt"))
-        ->type_name("N");
+        ->type_name("N")
+        ->check(numero);
     comando.add_option("--cartella", o.cartella, traduttore("cartella del programma"))
         ->type_name("DIR")
         ->check(senzaNome(CLI::ExistingDirectory));
@@ -84,23 +107,10 @@ void diCalcolo(CLI::App& comando, Opzioni& o) {
         ->capture_default_str();
 }
 
-std::string spiegazione(const CLI::ParseError& errore) {
-    static const std::map<int, std::string_view> parole = {
-        {static_cast<int>(CLI::ExitCodes::RequiredError), "manca un argomento"},
-        {static_cast<int>(CLI::ExitCodes::ExtrasError), "argomento sconosciuto"},
-        {static_cast<int>(CLI::ExitCodes::ConversionError), "valore non ammesso"},
-        {static_cast<int>(CLI::ExitCodes::ValidationError), "valore non ammesso"},
-        {static_cast<int>(CLI::ExitCodes::ArgumentMismatch), "manca il valore di un'opzione"},
-    };
-    const auto trovata = parole.find(errore.get_exit_code());
-    return (trovata == parole.end() ? "" : traduttore(trovata->second) + ": ") + errore.what();
-}
-
-// The library only says that a command is required, whatever stands in its place.
-std::string comandoMancante(int argc, const char* const* argv) {
-    return (argc > 1 ? traduttore("comando sconosciuto") + " (" + argv[1] + ")"
-                     : traduttore("manca il comando")) +
-           ": calcola, relazione, verifica";
+EsitoLettura rifiuta(const std::string& perche) {
+    std::cerr << "korven32c: " << perche << '\n'
+              << traduttore("Per l'aiuto") << ": korven32c --help\n";
+    return {std::nullopt, 2};
 }
 
 }  // namespace
@@ -111,8 +121,7 @@ EsitoLettura leggiOpzioni(int argc, const char* const* argv) {
                  "korven32c");
     intestazioni(app);
     app.set_help_flag("-h,--help", traduttore("mostra questo aiuto"));
-    app.set_version_flag("--versione", "KORVEN 32 " KORVEN_VERSION,
-                         traduttore("mostra la versione"));
+    versione(app);
     app.require_subcommand(1);
 
     auto* calcola = app.add_subcommand(
@@ -132,16 +141,15 @@ EsitoLettura leggiOpzioni(int argc, const char* const* argv) {
         "verifica", traduttore("dice che cosa manca o è strano nel progetto, senza calcolare"));
     comuni(*verifica, o);
 
+    if (const auto perche = valoreVuoto(argc, argv); !perche.empty()) return rifiuta(perche);
     try {
         app.parse(argc, argv);
     } catch (const CLI::Success& chiesto) {  // help and version
         return {std::nullopt, app.exit(chiesto)};
     } catch (const CLI::ParseError& errore) {
         const bool senzaComando = app.get_subcommands().empty();
-        std::cerr << "korven32c: "
-                  << (senzaComando ? comandoMancante(argc, argv) : spiegazione(errore)) << "\n"
-                  << traduttore("Per l'aiuto") << ": korven32c --help\n";
-        return {std::nullopt, 2};
+        return rifiuta(senzaComando ? comandoMancante(argc, argv)
+                                    : spiegazioneUso(*app.get_subcommands().front(), errore));
     }
     if (relazione->parsed()) o.comando = Comando::relazione;
     if (verifica->parsed()) o.comando = Comando::verifica;
@@ -151,8 +159,11 @@ EsitoLettura leggiOpzioni(int argc, const char* const* argv) {
 std::string valoreAnticipato(int argc, const char* const* argv, const std::string& nome) {
     for (int i = 1; i < argc; ++i) {
         const std::string argomento = argv[i];
-        if (argomento == nome && i + 1 < argc) return argv[i + 1];
+        if (argomento == "--") return {};  // behind it there are no options
         if (argomento.starts_with(nome + "=")) return argomento.substr(nome.size() + 1);
+        if (argomento != nome) continue;
+        const std::string valore = i + 1 < argc ? argv[i + 1] : "";
+        return valore.starts_with('-') ? "" : valore;  // an option is no value
     }
     return {};
 }

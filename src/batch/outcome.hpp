@@ -15,6 +15,8 @@ struct Esito {
     std::string comando;
     std::string progetto;
     int codice = 0;                     ///< exit code
+    bool progettoLetto = false;         ///< the project could be read
+    bool guasto = false;                ///< an error cut the command short
     std::vector<std::string> messaggi;  ///< why it was refused, or went wrong
     std::vector<commands::Rilievo> rilievi;
     std::optional<commands::EsitoCalcolo> calcolo;

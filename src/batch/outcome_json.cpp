@@ -1,6 +1,7 @@
 #include <cmath>
 #include <nlohmann/json.hpp>
 
+#include "base/translated_texts.hpp"
 #include "batch/outcome.hpp"
 
 namespace korven::batch {
@@ -9,8 +10,12 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-// t m to kN m. The result file has seven decimals; six remain, without the noise of the product.
-double kNm(double momento) { return std::round(momento * 1e7) / 1e6; }
+// Six decimals, without the noise of a product; a zero has no sign for the reader of a result.
+double arrotondato(double valore) { return std::round(valore * 1e6) / 1e6 + 0.0; }
+
+// t to kN, t m to kN m. The result file has seven decimals of them.
+double kN(double forza) { return std::round(forza * 1e7) / 1e6 + 0.0; }
+double kNm(double momento) { return kN(momento); }
 
 Json fase(const commands::EsitoFase& riga, const Esito& esito) {
     Json iterazioni = nullptr;
@@ -18,13 +23,48 @@ Json fase(const commands::EsitoFase& riga, const Esito& esito) {
         if (corsa.fase == riga.fase) iterazioni = corsa.iterazioni;
     Json j = {{"fase", riga.fase},
               {"iterazioni", iterazioni},
-              {"scavo_m", riga.profFase},
-              {"spostamento_massimo_m", riga.spostamentoMax},
+              {"scavo_m", riga.profFase + 0.0},
+              {"spostamento_massimo_m", riga.spostamentoMax + 0.0},
               {"momento_massimo_kNm", kNm(riga.momentoMax)},
               {"momento_minimo_kNm", kNm(riga.momentoMin)}};
     for (const auto& corsa : esito.fasi)
         if (corsa.fase == riga.fase && !corsa.traccia.empty()) j["traccia"] = corsa.traccia;
     return j;
+}
+
+Json tiranti(const commands::EsitoCalcolo& calcolo) {
+    Json tutti = Json::array();
+    for (const auto& tirante : calcolo.tiranti)
+        tutti.push_back({{"tirante", tirante.tirante},
+                         {"profondita_m", tirante.profondita + 0.0},
+                         {"tiro_massimo_kN", kN(tirante.tiroMassimo)}});
+    return tutti;
+}
+
+Json flessione(const commands::EsitoCalcolo& calcolo) {
+    if (!calcolo.momenti) return nullptr;
+    const auto& m = *calcolo.momenti;
+    const auto lato = [](double md, double mr, bool verificata) {
+        return Json{{"momento_calcolo_kNm", kNm(md)},
+                    {"momento_resistente_kNm", kNm(mr)},
+                    {"verificata", verificata}};
+    };
+    return {{"positivo", lato(m.mdMax, m.mrPos, m.verificatoPos)},
+            {"negativo", m.negativo ? lato(m.mdMin, m.mrNeg, m.verificatoNeg) : Json(nullptr)}};
+}
+
+Json taglio(const commands::EsitoCalcolo& calcolo) {
+    if (!calcolo.taglio) return nullptr;
+    const auto& t = *calcolo.taglio;
+    Json rotture = Json::array();
+    for (const auto rottura : structure::righeRotturaTaglio(t))
+        rotture.push_back(base::traduttore(rottura));
+    return {{"taglio_massimo_kN", arrotondato(t.taglioMassimo)},
+            {"taglio_calcolo_kN", arrotondato(t.Vsd)},
+            {"Vrd2_kN", arrotondato(t.Vrd2)},
+            {"Vrd3_kN", arrotondato(t.Vrd3)},
+            {"verificata", rotture.empty()},
+            {"rotture", rotture}};
 }
 
 Json calcolo(const Esito& esito) {
@@ -37,9 +77,12 @@ Json calcolo(const Esito& esito) {
             {"momento_massimo_kNm", kNm(chiusura.mMaxTotale)},
             {"momento_minimo_kNm", kNm(chiusura.mMinTotale)},
             // N mm to kN m; the pass of negative curvature resists the positive moment
-            {"momento_resistente_positivo_kNm", -chiusura.mrd1 / 1e6},
-            {"momento_resistente_negativo_kNm", -chiusura.mrd2 / 1e6},
-            {"fattore_azioni", chiusura.fsAzioni}};
+            {"momento_resistente_positivo_kNm", arrotondato(-chiusura.mrd1 / 1e6)},
+            {"momento_resistente_negativo_kNm", arrotondato(-chiusura.mrd2 / 1e6)},
+            {"fattore_azioni", chiusura.fsAzioni},
+            {"verifica_flessione", flessione(*esito.calcolo)},
+            {"verifica_taglio", taglio(*esito.calcolo)},
+            {"tiranti", tiranti(*esito.calcolo)}};
 }
 
 Json rilievi(const Esito& esito) {

@@ -1,10 +1,7 @@
-#include <algorithm>
-#include <cmath>
-
 #include "base/code_page.hpp"
-#include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
 #include "batch/outcome.hpp"
+#include "batch/shown_number.hpp"
 
 namespace korven::batch {
 
@@ -18,14 +15,6 @@ std::string colonna(const std::string& testo, std::size_t larghezza) {
     return std::string(larghezza > lunghezza ? larghezza - lunghezza : 0, ' ') + testo;
 }
 
-// A number with fixed decimals, half rounded up.
-std::string numero(double valore, std::string_view decimali) {
-    if (!std::isfinite(valore)) return "-";  // beyond what can be shown
-    const std::string testo =
-        base::formattaMaschera(valore, std::string("############").append(decimali));
-    return std::string(base::senzaSpaziEsterni(testo));
-}
-
 struct Colonna {
     std::string titolo;
     std::string (*cella)(const commands::EsitoFase&);
@@ -34,13 +23,13 @@ struct Colonna {
 const std::vector<Colonna>& colonne() {
     static const std::vector<Colonna> tutte = {
         {traduttore("Scavo [m]"),
-         [](const commands::EsitoFase& f) { return numero(f.profFase, ".##"); }},
+         [](const commands::EsitoFase& f) { return numeroMostrato(f.profFase, 2); }},
         {traduttore("Spostamento max. [cm]"),
-         [](const commands::EsitoFase& f) { return numero(f.spostamentoMax * 100, ".####"); }},
+         [](const commands::EsitoFase& f) { return numeroMostrato(f.spostamentoMax, 4, 2); }},
         {traduttore("Momento max. [kN m]"),
-         [](const commands::EsitoFase& f) { return numero(f.momentoMax * 10, ".##"); }},
+         [](const commands::EsitoFase& f) { return numeroMostrato(f.momentoMax, 2, 1); }},
         {traduttore("Momento min. [kN m]"),
-         [](const commands::EsitoFase& f) { return numero(f.momentoMin * 10, ".##"); }},
+         [](const commands::EsitoFase& f) { return numeroMostrato(f.momentoMin, 2, 1); }},
     };
     return tutte;
 }
@@ -70,6 +59,7 @@ std::string tabella(const Esito& esito, bool traccia) {
                   ? traduttore("Il file dei risultati era già aggiornato: nessun calcolo eseguito.")
                   : traduttore("Calcolo eseguito.")) +
              '\n';
+    for (const auto fallita : esito.calcolo->fallite) testo += traduttore(fallita) + '\n';
     if (!traccia) return testo;
     for (const auto& corsa : esito.fasi) {
         if (corsa.traccia.empty()) continue;

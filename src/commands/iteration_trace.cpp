@@ -1,5 +1,7 @@
 #include "commands/iteration_trace.hpp"
 
+#include <algorithm>
+
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
 
@@ -23,23 +25,83 @@ std::string parola(StatoLato stato) {
     return {};
 }
 
-std::string conteggio(int cambi, int ultima) {
-    return traduttore("cambi") + ": " + std::to_string(cambi) + ", " +
-           traduttore("ultimo all'iterazione") + " " + std::to_string(ultima);
+struct Intervallo {
+    int da, a;
+    void comprendi(int valore) {
+        da = std::min(da, valore);
+        a = std::max(a, valore);
+    }
+    [[nodiscard]] std::string testo() const {
+        return da == a ? std::to_string(da) : std::to_string(da) + "-" + std::to_string(a);
+    }
+};
+
+std::string conteggio(const Intervallo& cambi, const Intervallo& ultima) {
+    return traduttore("cambi") + ": " + cambi.testo() + ", " +
+           traduttore(ultima.da == ultima.a ? "ultimo all'iterazione" : "ultimo alle iterazioni") +
+           " " + ultima.testo();
 }
 
-std::string frase(const TracciaIterazioni::CambioNodo& cambio) {
-    return traduttore("nodo") + " " + std::to_string(cambio.nodo) + " (" +
-           base::testoNumero(cambio.profondita) + " m), " +
-           traduttore(cambio.monte ? "lato monte" : "lato valle") + ": " + parola(cambio.da) +
-           " -> " + parola(cambio.a) + ", " + conteggio(cambio.cambi, cambio.ultimaIterazione);
+// Neighbours of one side that change between the same two states: one line, since a long wall that
+// finds no rest may flip at hundreds of nodes.
+struct Tratto {
+    explicit Tratto(const TracciaIterazioni::CambioNodo& cambio)
+        : primo(cambio),
+          ultimo(cambio),
+          cambi{cambio.cambi, cambio.cambi},
+          iterazioni{cambio.ultimaIterazione, cambio.ultimaIterazione} {}
+
+    [[nodiscard]] bool prosegue(const TracciaIterazioni::CambioNodo& cambio) const {
+        const bool uguali = cambio.da == primo.da && cambio.a == primo.a;
+        const bool scambiati = cambio.da == primo.a && cambio.a == primo.da;
+        return cambio.monte == primo.monte && cambio.nodo == ultimo.nodo + 1 &&
+               (uguali || scambiati);
+    }
+    void aggiungi(const TracciaIterazioni::CambioNodo& cambio) {
+        ultimo = cambio;
+        cambi.comprendi(cambio.cambi);
+        iterazioni.comprendi(cambio.ultimaIterazione);
+        if (cambio.da != primo.da) versi = " <-> ";
+    }
+
+    TracciaIterazioni::CambioNodo primo, ultimo;
+    Intervallo cambi, iterazioni;
+    std::string_view versi = " -> ";
+};
+
+std::string frase(const Tratto& tratto) {
+    const auto& [primo, ultimo, cambi, iterazioni, versi] = tratto;
+    const bool uno = primo.nodo == ultimo.nodo;
+    std::string testo = traduttore(uno ? "nodo" : "nodi") + " " +
+                        Intervallo{primo.nodo, ultimo.nodo}.testo() + " (" +
+                        base::testoNumero(primo.profondita);
+    if (!uno) testo += "-" + base::testoNumero(ultimo.profondita);
+    testo += " m), " + traduttore(primo.monte ? "lato monte" : "lato valle") + ": ";
+    testo.append(parola(primo.da)).append(versi).append(parola(primo.a));
+    return testo + ", " + conteggio(cambi, iterazioni);
+}
+
+std::vector<Tratto> uniti(const std::vector<TracciaIterazioni::CambioNodo>& nodi) {
+    std::vector<Tratto> tratti;
+    for (const bool monte : {true, false})
+        for (const auto& cambio : nodi) {
+            if (cambio.monte != monte) continue;
+            if (!tratti.empty() && tratti.back().prosegue(cambio))
+                tratti.back().aggiungi(cambio);
+            else
+                tratti.emplace_back(cambio);
+        }
+    std::stable_sort(tratti.begin(), tratti.end(),
+                     [](const Tratto& x, const Tratto& y) { return x.primo.nodo < y.primo.nodo; });
+    return tratti;
 }
 
 std::string frase(const TracciaIterazioni::CambioTirante& cambio) {
     return traduttore("tirante") + " " + std::to_string(cambio.tirante) + " (" +
            traduttore("nodo") + " " + std::to_string(cambio.nodo) +
            "): " + traduttore(cambio.agisce ? "rientra" : "esce") + ", " +
-           conteggio(cambio.cambi, cambio.ultimaIterazione);
+           conteggio({cambio.cambi, cambio.cambi},
+                     {cambio.ultimaIterazione, cambio.ultimaIterazione});
 }
 
 void confrontaLato(StatoLato prima, StatoLato ora, int iterazione,
@@ -105,7 +167,7 @@ std::vector<TracciaIterazioni::CambioTirante> TracciaIterazioni::tiranti(int da)
 
 std::vector<std::string> TracciaIterazioni::righe(int da) const {
     std::vector<std::string> testo;
-    for (const auto& cambio : nodi(da)) testo.push_back(frase(cambio));
+    for (const auto& tratto : uniti(nodi(da))) testo.push_back(frase(tratto));
     for (const auto& cambio : tiranti(da)) testo.push_back(frase(cambio));
     if (testo.empty()) testo.push_back(traduttore("nessun nodo e nessun tirante cambia stato"));
     return testo;

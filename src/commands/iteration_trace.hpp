@@ -40,7 +40,8 @@ class TracciaIterazioni {
     [[nodiscard]] std::vector<CambioNodo> nodi(int da = 0) const;
     [[nodiscard]] std::vector<CambioTirante> tiranti(int da = 0) const;
 
-    /// The record in words, a line a node side and a line an anchor, translated; one line says so
+    /// The record in words, translated: a line for each run of neighbouring nodes that change
+    /// between the same two states on one side ("nodi 12-37"), a line an anchor; one line says so
     /// if nothing changed.
     [[nodiscard]] std::vector<std::string> righe(int da = 0) const;
 

@@ -4,12 +4,11 @@
 #include <cmath>
 #include <filesystem>
 
-#include "analysis/input_checks.hpp"
-#include "analysis/segment_count.hpp"
+#include "analysis/anchors_in_place.hpp"
+#include "analysis/output_guard.hpp"
 #include "base/file_error.hpp"
 #include "base/file_names.hpp"
 #include "base/files.hpp"
-#include "base/program_folder.hpp"
 #include "base/text_lines.hpp"
 #include "base/translated_texts.hpp"
 #include "project/project_file.hpp"
@@ -22,15 +21,21 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::string assoluto(const std::string& percorso) {
-    return fs::absolute(percorso).lexically_normal().string();
+std::string cartellaAssoluta(const fs::path& cartella) {
+    std::error_code errore;
+    const fs::path intera = fs::absolute(cartella, errore);
+    const fs::path vera = fs::weakly_canonical(intera, errore);
+    if (errore) return intera.lexically_normal().string();
+    return (vera.has_filename() ? vera : vera.parent_path()).string();  // no separator at the end
 }
 
-void creaCartella(const std::string& cartella) {
-    std::error_code errore;
-    fs::create_directories(cartella, errore);
-    if (!fs::is_directory(cartella))
-        throw base::ErroreFile(cartella, 0, base::traduttore("impossibile creare la cartella"));
+// The folder is that which the system would go to, also through "link/.."; the name of the file
+// stays as it was typed, since the names of the results follow from it.
+std::string assoluto(const fs::path& percorso) {
+    return (fs::path(
+                cartellaAssoluta(percorso.parent_path().empty() ? "." : percorso.parent_path())) /
+            percorso.filename())
+        .string();
 }
 
 EsitoFase estremi(int k, const project::DatiProgetto& dati, int nNodi,
@@ -50,44 +55,76 @@ void apriProgetto(const std::string& percorso, const std::string& uscita) {
     const std::string progetto = assoluto(percorso);
     project::azzeraProgetto();
     project::fileCorrente = progetto;
+    analysis::progettiProtetti = {.letto = progetto, .corrente = {}};
     project::leggiProgetto();
     if (uscita.empty()) return;
-    const std::string cartella = assoluto(uscita);
-    creaCartella(cartella);
-    project::fileCorrente = (fs::path(cartella) / fs::path(progetto).filename()).string();
+    project::fileCorrente =
+        (fs::path(cartellaAssoluta(uscita)) / fs::path(progetto).filename()).string();
+}
+
+void creaCartella(const std::string& cartella) {
+    std::error_code errore;
+    fs::create_directories(cartella, errore);
+    if (!fs::is_directory(cartella, errore))
+        throw base::ErroreFile(cartella, 0, base::traduttore("impossibile creare la cartella"));
 }
 
 EsitoCalcolo leggiEsito() {
     EsitoCalcolo esito;
-    const auto& memoria = project::Progetto;
-    const auto nSeg = analysis::leggiNSeg(analysis::vincoli(memoria).incastroPiede);
-    if (!nSeg)
-        throw base::ErroreFile(base::fileProgramma("nseg.txt"), 1,
-                               base::traduttore(analysis::messaggioNSeg));
-    esito.nSeg = *nSeg;
     esito.fileRisultati = base::nomeRisultati(project::fileCorrente);
-    analysis::LettoreRisultati file(esito.fileRisultati, *nSeg + 1);
-    project::DatiProgetto dati;
-    file.leggiTesta(dati);
-    analysis::RisultatiFase risultati;
-    for (int k = 1; k <= dati.nFasi; ++k) {
-        file.leggiFase(risultati);
-        esito.fasi.push_back(estremi(k, dati, *nSeg + 1, risultati));
-    }
-    esito.chiusura = file.leggiChiusura();
+    project::DatiProgetto memoria = project::Progetto;
+    const auto dati = report::leggiRisultati(esito.fileRisultati, memoria);
+    esito.nSeg = dati.nNodi - 1;
+    for (int k = 1; k <= memoria.nFasi; ++k)
+        esito.fasi.push_back(
+            estremi(k, memoria, dati.nNodi, dati.fasi[static_cast<std::size_t>(k - 1)]));
+    esito.chiusura = dati.chiusura;
+    for (int j = 1; j <= analysis::tirantiInOpera(memoria, memoria.nFasi); ++j)
+        esito.tiranti.push_back({j, memoria.profTirante[j], dati.tiroTirante[j]});
+    esito.momenti = report::verificaMomenti(dati);
+    esito.taglio = report::verificaAlTaglio(dati);
+    esito.fallite = report::verificheFallite(dati);
     return esito;
+}
+
+std::vector<std::string> UscitaRelazione::file(int modoUscita, const std::string& risultati) const {
+    if (!scrive_ || modoUscita != 0) return {};
+    const std::string relazione = base::nomeRelazione(risultati);
+    if (!testo_) return {relazione};
+    return {relazione, nomeTesto(relazione)};
 }
 
 void UscitaRelazione::scriviRelazione() {
     if (scrive_) relazione_ = report::scriviRelazione();
 }
 
+std::string nomeTesto(const std::string& relazione) { return base::conUltimiTre(relazione, "txt"); }
+
 std::string scriviTesto(const std::string& relazione) {
+    std::string percorso = nomeTesto(relazione);
+    analysis::controllaUscita(percorso, relazione);
     auto file = base::LettoreRighe::apri(relazione);
     const auto testo = report::renderText(file);
-    std::string percorso = base::conUltimiTre(relazione, "txt");
-    base::scriviFile(percorso, testo.value_or(""));
+    if (!testo)
+        throw base::ErroreFile(relazione, 0,
+                               base::traduttore("la relazione non apre nessun documento (#RESET)"));
+    base::scriviFile(percorso, *testo);
     return percorso;
+}
+
+std::vector<std::string> relazioniRimaste(const std::string& progetto) {
+    const std::string relazione = base::nomeRelazione(base::nomeRisultati(progetto));
+    std::vector<std::string> rimaste;
+    for (const auto& percorso : {relazione, nomeTesto(relazione)})
+        if (base::esisteFile(percorso) && !analysis::prendeIlPostoDelProgetto(percorso))
+            rimaste.push_back(percorso);
+    return rimaste;
+}
+
+bool relazioneAltrove(const std::string& progetto) {
+    fs::path risultati = base::nomeRisultati(progetto);
+    fs::path relazione = base::nomeRelazione(risultati.string());
+    return risultati.replace_extension() != relazione.replace_extension();
 }
 
 }  // namespace korven::commands

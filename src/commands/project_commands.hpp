@@ -2,19 +2,27 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "analysis/calcolo_paratia.hpp"
 #include "analysis/result_file.hpp"
+#include "report/structure_checks.hpp"
 
 namespace korven::commands {
 
 /// Opens a project for a command: reads `percorso` into `Progetto` and makes `fileCorrente` the
 /// name under which results are written, that of the project or of the same name in another folder.
-/// Both are absolute, without "." and "..", since the rules for names cut paths at points.
-/// @param uscita  folder for the results, made if it does not exist; empty: beside the project
-/// @throws base::ErroreFile if the project is missing, unreadable or broken; nothing is then made
+/// Both are absolute, their folders without links, "." and "..", since the rules for names cut
+/// paths at points. The file that was read is safe from all outputs from then on. Makes nothing.
+/// @param percorso  not empty
+/// @param uscita    folder for the results, which need not exist yet; empty: beside the project
+/// @throws base::ErroreFile if the project is missing, unreadable or broken
 void apriProgetto(const std::string& percorso, const std::string& uscita);
+
+/// Makes a folder, with those above it, unless it exists.
+/// @throws base::ErroreFile if it can't be made
+void creaCartella(const std::string& cartella);
 
 /// The extremes of one stage, from the result file.
 struct EsitoFase {
@@ -25,11 +33,23 @@ struct EsitoFase {
     double momentoMin = 0;      ///< smallest signed moment [t m]
 };
 
+/// An anchor that is in place in the last stage.
+struct EsitoTirante {
+    int tirante = 0;
+    double profondita = 0;   ///< depth of the head [m]
+    double tiroMassimo = 0;  ///< largest force, as the report shows it [t]
+};
+
 struct EsitoCalcolo {
     int nSeg = 0;
     std::string fileRisultati;
     std::vector<EsitoFase> fasi;
     analysis::ChiusuraRisultati chiusura;
+    std::vector<EsitoTirante> tiranti;
+    std::optional<report::ConfrontoMomenti> momenti;   ///< nothing without a defined section
+    std::optional<structure::ConfrontoTaglio> taglio;  ///< nothing without stirrups
+    std::vector<std::string_view>
+        fallite;  ///< section checks that fail, keys of the table of texts
 };
 
 /// The outcome of the last run of the current project, read back from its result file. Changes
@@ -40,7 +60,10 @@ struct EsitoCalcolo {
 /// The output of a command line: writes the report and remembers where; makes no diagrams.
 class UscitaRelazione : public analysis::UscitaCalcolo {
  public:
-    explicit UscitaRelazione(bool scrive) : scrive_(scrive) {}
+    /// @param testo  the text export will follow: its name is looked at too before a run
+    explicit UscitaRelazione(bool scrive, bool testo = false) : scrive_(scrive), testo_(testo) {}
+    [[nodiscard]] std::vector<std::string> file(int modoUscita,
+                                                const std::string& risultati) const override;
     void scriviRelazione() override;
     void disegnaDiagramma(int) override {}
 
@@ -49,13 +72,26 @@ class UscitaRelazione : public analysis::UscitaCalcolo {
 
  private:
     bool scrive_;
+    bool testo_;
     std::string relazione_;
 };
 
-/// Writes a mark-up file as plain text beside it, under its name with "txt" for its last three
-/// characters, replacing a file of that name.
+/// Path of a mark-up file's text export: "txt" for its last three characters.
+[[nodiscard]] std::string nomeTesto(const std::string& relazione);
+
+/// Writes a mark-up file as plain text beside it, replacing a file of that name.
 /// @return the path of the text file
-/// @throws base::ErroreFile if one can't be read or the other not be written
+/// @throws base::ErroreFile if one can't be read or the other not be written, if the mark-up opens
+/// no
+///         document, or if the text would take the place of the project or of the mark-up
 std::string scriviTesto(const std::string& relazione);
+
+/// The report and the text of an earlier run of this project that still lie where a new one would
+/// write them: after a run that failed they must not be taken for its outcome.
+[[nodiscard]] std::vector<std::string> relazioniRimaste(const std::string& progetto);
+
+/// True if the first point of the path, which ends the name of the report, is not that of the
+/// project's extension: the report then lands under another name, or in another folder.
+[[nodiscard]] bool relazioneAltrove(const std::string& progetto);
 
 }  // namespace korven::commands

@@ -18,6 +18,13 @@ struct Rilievo {
 /// in the order of the data.
 [[nodiscard]] std::vector<Rilievo> esaminaProgetto(const project::DatiProgetto& dati);
 
+/// The same, and behind it what is odd about the lines of the file that the project was read from:
+/// numbers with something behind them, a method that reading does not keep, lines too many.
+/// @param percorso  the file that `dati` was read from
+/// @throws base::ErroreFile if it is no such file any more
+[[nodiscard]] std::vector<Rilievo> esaminaFile(const std::string& percorso,
+                                               const project::DatiProgetto& dati);
+
 /// True if nothing found prevents a run.
 [[nodiscard]] bool calcolabile(const std::vector<Rilievo>& rilievi);
 

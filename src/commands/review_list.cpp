@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <utility>
 
 #include "base/number_text.hpp"
@@ -21,6 +22,19 @@ std::string riga(std::string_view nome, int numero, std::string_view testo) {
 
 std::string conValore(std::string testo, double valore) {
     return std::move(testo) + " (" + base::testoNumero(valore) + ")";
+}
+
+// Ten times a stored value may be too large for a number; the review must still be able to tell it.
+std::string campo(std::string_view etichetta, double valore) {
+    constexpr double massimo = std::numeric_limits<double>::max();
+    return base::traduttore(etichetta) + " = " +
+           base::testoNumero(std::clamp(valore, -massimo, massimo));
+}
+
+std::string rigaCampo(std::string_view nome, int numero, std::string_view etichetta, double valore,
+                      std::string_view testo) {
+    return base::traduttore(nome) + " " + std::to_string(numero) + ": " + campo(etichetta, valore) +
+           ": " + base::traduttore(testo);
 }
 
 bool intero(double valore) { return valore == std::floor(valore); }

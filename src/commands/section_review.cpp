@@ -6,7 +6,7 @@
 #include "structure/section_millimetres.hpp"
 #include "structure/section_type.hpp"
 #include "structure/section_validity.hpp"
-#include "structure/stiffness.hpp"
+#include "structure/stiffness_update.hpp"
 
 namespace korven::commands {
 
@@ -17,7 +17,7 @@ using project::DatiProgetto;
 using project::Sezione;
 using structure::TipoSezione;
 
-constexpr double unaRigidezza = 10000000000;  // N mm2 to t m2
+constexpr const char* oltreMeta = "l'asse delle armature arriva a metà della sezione o la supera";
 
 bool qualcosaScritto(const Sezione& s) {
     Sezione vuota;
@@ -34,18 +34,81 @@ bool troppiFerri(const Sezione& s) {
            std::floor(s.armNumLong) > structure::massimoFerri;
 }
 
-// Whether the section offers a stiffness that a run can take.
-bool rigidezzaDallaSezione(const Sezione& s) {
-    if (!structure::sezioneValida(s) || troppiFerri(s)) return false;
-    const double EJ = std::trunc(structure::calcolaEJ(s) / unaRigidezza);
-    return EJ != 0 && std::isfinite(EJ);
+// The stiffness of the section as a run would take it, 0 if it has none.
+double rigidezzaDallaSezione(const Sezione& s) {
+    return troppiFerri(s) ? 0 : structure::rigidezzaOfferta(s).value_or(0);
 }
 
+// A typed stiffness this many times the section's own, or less than that part of it, is hardly
+// meant.
+constexpr double scartoRigidezza = 3;
+
 void controlloRigidezza(const DatiProgetto& dati, ElencoRilievi& elenco) {
-    if (dati.rigidezzaEJ < 0)
-        elenco.avviso(conValore(traduttore("la rigidezza EJ è negativa"), dati.rigidezzaEJ));
-    if (dati.rigidezzaEJ == 0 && !rigidezzaDallaSezione(dati.sezione))
-        elenco.impedimento(traduttore(analysis::messaggioSenzaEJ));
+    const double EJ = dati.rigidezzaEJ;
+    const double sezione = rigidezzaDallaSezione(dati.sezione);
+    const std::string scritta = campo("Rigidezza EJ diaframma [kN m²]", EJ * 10) + ": ";
+    if (EJ == 0 && sezione == 0) elenco.impedimento(traduttore(analysis::messaggioSenzaEJ));
+    if (EJ < 0) elenco.avviso(scritta + traduttore("valore negativo"));
+    if (EJ > 0 && sezione > 0 && (EJ > scartoRigidezza * sezione || sezione > scartoRigidezza * EJ))
+        elenco.avviso(
+            conValore(scritta + traduttore("è lontana da quella della sezione"), sezione * 10));
+}
+
+// The fields of one face of the diaphragm.
+struct Faccia {
+    std::string_view nome;
+    double copriferro, interasse, diametro;
+};
+
+void controlloFaccia(const Faccia& f, double spessore, ElencoRilievi& elenco) {
+    const std::string dove = traduttore(f.nome) + ": ";
+    const std::string copriferro = dove + campo("Copriferro [mm]", f.copriferro * 10) + ": ";
+    if ((f.interasse > 0) != (f.diametro > 0)) {
+        elenco.avviso(dove + campo("Interasse armature [mm]", f.interasse * 10) + ", " +
+                      campo("Diametro armature [mm]", f.diametro * 10) + ": " +
+                      traduttore("la faccia conta come non armata"));
+        return;
+    }
+    const bool armata = f.interasse > 0;
+    if (armata && f.copriferro <= 0)
+        elenco.avviso(copriferro + traduttore("senza copriferro il calcolo conta le armature ma la "
+                                              "relazione non le mostra"));
+    if (!armata && f.copriferro > 0)
+        elenco.avviso(copriferro + traduttore("la faccia conta come non armata"));
+    if (armata && spessore > 0 && f.copriferro + f.diametro / 2 >= spessore / 2)
+        elenco.avviso(copriferro + traduttore(oltreMeta));
+}
+
+void controlloStaffe(const Sezione& s, ElencoRilievi& elenco) {
+    if ((s.armPassoStaffe > 0) == (s.armDiamStaffe > 0)) return;
+    elenco.avviso(campo("Diametro staffe [mm]", s.armDiamStaffe * 10) + ", " +
+                  campo("Passo staffe [mm]", s.armPassoStaffe * 10) + ": " +
+                  traduttore("senza l'uno o l'altro non c'è verifica a taglio"));
+}
+
+void controlloMisure(const Sezione& s, ElencoRilievi& elenco) {
+    switch (structure::tipoSezione(s)) {
+        case TipoSezione::diaframma:
+            controlloFaccia({"lato monte", s.copriferroMonte, s.interasseMonte, s.diametroMonte},
+                            s.spessoreDiaframma, elenco);
+            controlloFaccia({"lato valle", s.copriferroValle, s.interasseValle, s.diametroValle},
+                            s.spessoreDiaframma, elenco);
+            break;
+        case TipoSezione::pali:
+            if (s.paliDiamEst > 0 && s.paliDiamInt >= s.paliDiamEst)
+                elenco.avviso(campo("Diametro interno [mm]", s.paliDiamInt * 10) + ": " +
+                              traduttore("non è minore del diametro esterno"));
+            break;
+        case TipoSezione::paliArmati:
+            if (s.armDiamPalo > 0 && structure::raggioFerri(structure::paliArmatiMm(s)) <= 0)
+                elenco.avviso(campo("Copriferro armature logitudinali [mm]", s.armCopriferro * 10) +
+                              ": " + traduttore(oltreMeta));
+            controlloStaffe(s, elenco);
+            break;
+        case TipoSezione::palancola:
+        case TipoSezione::nessuno:
+            break;
+    }
 }
 
 void controlloTipo(const Sezione& s, ElencoRilievi& elenco) {
@@ -66,6 +129,9 @@ void controlloTipo(const Sezione& s, ElencoRilievi& elenco) {
                        "ricalcolo di EJ"));
 }
 
+// Few piles have so many bars, but any report of ten bars or more shows such a number.
+constexpr double ferriDaRelazione = 100;
+
 // The editor stores a tenth of the number that is typed, so 12 typed for twelve bars becomes 1.2.
 void controlloFerri(const Sezione& s, ElencoRilievi& elenco) {
     if (structure::tipoSezione(s) != TipoSezione::paliArmati || s.armNumLong == 0) return;
@@ -76,6 +142,11 @@ void controlloFerri(const Sezione& s, ElencoRilievi& elenco) {
         elenco.avviso(conValore(
             traduttore("numero di ferri memorizzato minore di 1: i pali contano come non armati "
                        "(editore e relazione mostrano dieci volte il numero che calcola)"),
+            s.armNumLong));
+    else if (s.armNumLong >= ferriDaRelazione)
+        elenco.avviso(conValore(
+            traduttore("numero di ferri memorizzato di 100 o più: sembra quello della relazione, "
+                       "che mostra dieci volte il numero che calcola"),
             s.armNumLong));
     else if (!intero(s.armNumLong))
         elenco.avviso(conValore(
@@ -89,6 +160,7 @@ void controlloFerri(const Sezione& s, ElencoRilievi& elenco) {
 void controlloSezione(const DatiProgetto& dati, ElencoRilievi& elenco) {
     controlloRigidezza(dati, elenco);
     controlloTipo(dati.sezione, elenco);
+    controlloMisure(dati.sezione, elenco);
     controlloFerri(dati.sezione, elenco);
 }
 

@@ -60,7 +60,7 @@ void ordina(const Profondita& profondita, int righe, Scambio scambia) {
 
 }  // namespace
 
-void riprendiStrati(DatiProgetto& dati, const std::vector<std::string>& testi) {
+bool riprendiStrati(DatiProgetto& dati, const std::vector<std::string>& testi) {
     Testi lista(testi);
     dati.nStrati = lista.righe(massimoStrati);
     for (int i = 1; i <= dati.nStrati; ++i) {
@@ -78,9 +78,10 @@ void riprendiStrati(DatiProgetto& dati, const std::vector<std::string>& testi) {
             std::swap((*colonna)[a], (*colonna)[b]);
         std::swap(dati.descrStrato[a], dati.descrStrato[b]);
     });
+    return true;
 }
 
-void riprendiTiranti(DatiProgetto& dati, const std::vector<std::string>& testi) {
+bool riprendiTiranti(DatiProgetto& dati, const std::vector<std::string>& testi) {
     Testi lista(testi);
     dati.nTiranti = lista.righe(massimoTiranti);
     for (int i = 1; i <= dati.nTiranti; ++i) {
@@ -94,9 +95,10 @@ void riprendiTiranti(DatiProgetto& dati, const std::vector<std::string>& testi) 
              {&dati.profTirante, &dati.rigTirante, &dati.pretTirante, &dati.tipoTirante})
             std::swap((*colonna)[a], (*colonna)[b]);
     });
+    return true;
 }
 
-void riprendiFasi(DatiProgetto& dati, const std::vector<std::string>& testi) {
+bool riprendiFasi(DatiProgetto& dati, const std::vector<std::string>& testi) {
     Testi lista(testi);
     dati.nFasi = lista.righe(massimoFasi);
     for (int i = 1; i <= dati.nFasi; ++i) {
@@ -110,6 +112,7 @@ void riprendiFasi(DatiProgetto& dati, const std::vector<std::string>& testi) {
         std::swap(dati.sovraccFase[a], dati.sovraccFase[b]);
         std::swap(dati.rigTirante[a], dati.rigTirante[b]);
     });
+    return true;
 }
 
 bool riprendiParatia(DatiProgetto& dati, const std::vector<std::string>& testi) {

@@ -11,26 +11,33 @@
 // A table arrives as a list: the number of rows as text, then the cells row after row in the column
 // order of DatiProgetto (the layer table without Su, which no editor shows). Cells that are missing
 // at the end count as empty.
+//
+// Each function returns whether the project counts as modified by it: where it returns true the
+// caller sets `modificato`, where it returns false `modificato` stays as it was.
 
 namespace korven::project {
 
 /// Takes back the soil layers and sorts them by depth; equal depths stay in the order typed. Su has
 /// no column in the editor and stays with its row number when rows are exchanged.
+/// @return true always: a confirmed table counts as modified, whether anything changed or not
 /// @throws base::ErroreIndice if there are more rows than the table holds
-void riprendiStrati(DatiProgetto& dati, const std::vector<std::string>& testi);
+bool riprendiStrati(DatiProgetto& dati, const std::vector<std::string>& testi);
 
 /// Takes back the anchors and sorts them by depth.
+/// @return true always, as for the layers
 /// @throws base::ErroreIndice if there are more rows than the table holds
-void riprendiTiranti(DatiProgetto& dati, const std::vector<std::string>& testi);
+bool riprendiTiranti(DatiProgetto& dati, const std::vector<std::string>& testi);
 
 /// Takes back the excavation stages. They are meant to be typed in the order of the excavation:
 /// rows out of depth order keep their depths and water levels, while their anchor counts and
 /// surcharges, and the stiffness of the anchors with the same row numbers, are exchanged.
+/// @return true always, as for the layers
 /// @throws base::ErroreIndice if there are more rows than the table holds
-void riprendiFasi(DatiProgetto& dati, const std::vector<std::string>& testi);
+bool riprendiFasi(DatiProgetto& dati, const std::vector<std::string>& testi);
 
 /// Takes back the wall parameters, 18 texts in the order of the wall editor.
-/// @return true if any value differs from the stored one
+/// @return true if any value differs from the stored one; a form confirmed unchanged modifies
+///         nothing
 bool riprendiParatia(DatiProgetto& dati, const std::vector<std::string>& testi);
 
 /// Takes back the six heading lines.

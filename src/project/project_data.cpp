@@ -11,18 +11,26 @@ int faseGrafico = 0;
 // reach once nStrati is 0, and a file or an editor fills a row before it counts it.
 static constexpr int stratiAzzerati = 50;
 
+// The rows of the stage table that are ever used; two of its columns are longer.
+static constexpr int fasiAzzerate = 20;
+
+template <class T, std::size_t n>
+static void tieniOltre(int ultima, const base::Tabella<T, n>& da, base::Tabella<T, n>& a) {
+    for (long i = ultima + 1; i <= static_cast<long>(n); ++i) a[i] = da[i];
+}
+
 void azzera(DatiProgetto& dati) {
     DatiProgetto nuovo;
-    for (int i = stratiAzzerati + 1; i <= massimoStrati; ++i) {
-        nuovo.profStrato[i] = dati.profStrato[i];
-        nuovo.gammaN[i] = dati.gammaN[i];
-        nuovo.gammaSat[i] = dati.gammaSat[i];
-        nuovo.phiStrato[i] = dati.phiStrato[i];
-        nuovo.coesione[i] = dati.coesione[i];
-        nuovo.suStrato[i] = dati.suStrato[i];
-        nuovo.ksStrato[i] = dati.ksStrato[i];
-        nuovo.descrStrato[i] = dati.descrStrato[i];
-    }
+    tieniOltre(stratiAzzerati, dati.profStrato, nuovo.profStrato);
+    tieniOltre(stratiAzzerati, dati.gammaN, nuovo.gammaN);
+    tieniOltre(stratiAzzerati, dati.gammaSat, nuovo.gammaSat);
+    tieniOltre(stratiAzzerati, dati.phiStrato, nuovo.phiStrato);
+    tieniOltre(stratiAzzerati, dati.coesione, nuovo.coesione);
+    tieniOltre(stratiAzzerati, dati.suStrato, nuovo.suStrato);
+    tieniOltre(stratiAzzerati, dati.ksStrato, nuovo.ksStrato);
+    tieniOltre(stratiAzzerati, dati.descrStrato, nuovo.descrStrato);
+    tieniOltre(fasiAzzerate, dati.sovraccFase, nuovo.sovraccFase);
+    tieniOltre(fasiAzzerate, dati.faldaFase, nuovo.faldaFase);
     nuovo.gammaAcqua = 1;
     nuovo.sezione.tipoDiaframma = true;
     dati = nuovo;

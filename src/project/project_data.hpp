@@ -60,8 +60,9 @@ struct DatiProgetto {
     base::Tabella<double, massimoTiranti> profTirante;  ///< depth of the head [m]
     base::Tabella<double, massimoTiranti> rigTirante;   ///< axial stiffness [t/m]
     base::Tabella<double, massimoTiranti> pretTirante;  ///< prestress [t]
-    base::Tabella<double, massimoTiranti>
-        tipoTirante;  ///< 0 tension only, 1 tension and compression
+    /// 0 tension only, 1 tension and compression. Any other value acts as tension only, though the
+    /// report calls it tension and compression.
+    base::Tabella<double, massimoTiranti> tipoTirante;
 
     // Excavation stages, rows 1 to nFasi. The four columns have capacities of their own; only rows
     // 1 to 20 are ever used.
@@ -79,8 +80,8 @@ struct DatiProgetto {
 };
 
 /// Gives every field its default: 0, empty and false, but 1 for the weight of water and a
-/// continuous wall for the section. Of the layer table rows 1 to 50 are cleared, the others keep
-/// what they held beyond the reach of `nStrati`.
+/// continuous wall for the section. Of the layer table rows 1 to 50 are cleared, of the anchor and
+/// stage tables rows 1 to 20; rows beyond keep what they held, out of the reach of the counts.
 void azzera(DatiProgetto& dati);
 
 /// The one project of the program and the state of its document, program-wide.

@@ -1,5 +1,6 @@
 #include "project/project_file.hpp"
 
+#include <algorithm>
 #include <cmath>
 
 #include "base/code_page.hpp"
@@ -47,15 +48,22 @@ class Scrittura {
     void numero(double valore, std::string_view) { aggiungi(base::formattaNumero(valore)); }
     void bandiera(bool valore, std::string_view) { aggiungi(valore ? "-1" : "0"); }
     void metodoSpinte(double valore, std::string_view nome) { numero(valore, nome); }
-    void descrizione(const std::string& valore, std::string_view) { aggiungi(valore); }
-    void titolo(const std::string& valore, std::string_view) { aggiungi(valore); }
+    void descrizione(const std::string& valore, std::string_view) { aggiungi(unaRiga(valore)); }
+    void titolo(const std::string& valore, std::string_view) { aggiungi(unaRiga(valore)); }
     [[nodiscard]] static bool blocco() { return true; }
 
     std::string testo;
 
  private:
+    static std::string unaRiga(std::string testo);
     void aggiungi(std::string_view riga) { testo.append(riga).append("\r\n"); }
 };
+
+// A line end inside a text would shift all that follows it in the file: it becomes a blank.
+std::string Scrittura::unaRiga(std::string testo) {
+    std::replace(testo.begin(), testo.end(), '\n', ' ');
+    return testo;
+}
 
 // The first inequality settles the answer; nothing behind it is read any more.
 class Confronto {
@@ -93,7 +101,10 @@ void leggiDati(base::LettoreRighe& file, DatiProgetto& dati) {
 }
 
 void leggiProgetto() {
-    auto file = base::LettoreRighe::apri(fileCorrente);
+    // A wrong count is seldom noticed where it stands: the lines behind it are taken for others.
+    auto file = base::LettoreRighe::apri(
+        fileCorrente, base::traduttore("controllare anche i numeri di strati, tiranti e fasi: le "
+                                       "righe che li seguono devono essere altrettante"));
     leggiDati(file, Progetto);
 }
 

@@ -12,7 +12,8 @@ namespace korven::project {
 
 /// Reads one project and leaves the reader behind its last value, so that a result file can be read
 /// on. Nothing is reset first: of the three blocks that older files lack (sheet pile, reinforced
-/// piles, axial force) a missing one keeps what `dati` held. A `metodoSpinte` above 1 becomes 1.
+/// piles, axial force) a missing one keeps what `dati` held, and so do the rows of the tables above
+/// the counts. A `metodoSpinte` above 1 becomes 1.
 /// @throws base::ErroreFile on a file that ends early, a line that is no number, a count that is no
 ///         whole number from 0 to the capacity; `dati` is then as it was
 void leggiDati(base::LettoreRighe& file, DatiProgetto& dati);
@@ -25,7 +26,9 @@ void leggiProgetto();
 /// @throws base::ErroreFile if it can't be written; the old file is then untouched
 void scriviProgetto();
 
-/// The text of a whole project file, UTF-8, lines ended by CR LF.
+/// The text of a whole project file, UTF-8, lines ended by CR LF. A line feed inside a text becomes
+/// a blank, since a text has one line. In the file a character that Windows-1252 lacks is a '?'; a
+/// project with such a text counts as changed until it is read again.
 [[nodiscard]] std::string testoProgetto(const DatiProgetto& dati);
 
 /// True when the file differs from `dati`: plain inequality of any number, text or flag, anywhere.

@@ -29,8 +29,8 @@ struct Sezione {
     double paliInterasse = 0;  ///< spacing [cm]
 
     double palancolaBase = 0;      ///< width of the flat between the legs [cm]
-    double palancolaLargAla = 0;   ///< horizontal width of an inclined leg [cm]
-    double palancolaAltAla = 0;    ///< height of an inclined leg [cm]
+    double palancolaLargAla = 0;   ///< half the width of an inclined leg along the wall [cm]
+    double palancolaAltAla = 0;    ///< half the height of an inclined leg across the wall [cm]
     double palancolaSpessore = 0;  ///< thickness of the flat [cm]
     double palancolaSpessAla = 0;  ///< thickness of the legs [cm]
 

@@ -1,5 +1,6 @@
 #include "report/calculation_report.hpp"
 
+#include "analysis/output_guard.hpp"
 #include "base/code_page.hpp"
 #include "base/file_names.hpp"
 #include "base/files.hpp"
@@ -18,8 +19,9 @@ std::string testoRelazione(const DatiRelazione& dati) {
 }
 
 std::string scriviRelazione() {
+    std::string percorso = base::nomeRelazione(project::fileCorrente);
+    analysis::controllaUscita(percorso, project::fileCorrente);
     const DatiRelazione dati = leggiRisultati(project::fileCorrente, project::Progetto);
-    const std::string percorso = base::nomeRelazione(project::fileCorrente);
     base::scriviFile(percorso, base::inCp1252(testoRelazione(dati)));
     return percorso;
 }

@@ -15,7 +15,8 @@ namespace korven::report {
 /// the first point of the path gives. Everything is read back from that file; `Progetto` is left as
 /// a reading of it leaves it, so that after Rankine or Bell the report says Coulomb.
 /// @return the path of the mark-up file
-/// @throws base::ErroreFile if the results can't be read or the report can't be written
+/// @throws base::ErroreFile if the results can't be read or the report can't be written, or if its
+///         name leads to the project or to the result file itself; nothing is written then
 std::string scriviRelazione();
 
 }  // namespace korven::report

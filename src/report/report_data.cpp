@@ -20,7 +20,7 @@ using project::DatiProgetto;
 int segmenti(const DatiProgetto& dati) {
     if (const auto nSeg = analysis::leggiNSeg(analysis::vincoli(dati).incastroPiede)) return *nSeg;
     throw base::ErroreFile(base::fileProgramma("nseg.txt"), 1,
-                           base::traduttore(analysis::messaggioNSeg));
+                           base::traduttore(analysis::motivoNSeg()));
 }
 
 // Follows the anchors from stage to stage as the run did, on the displacements as they are stored.

@@ -12,8 +12,8 @@ void fase(const DatiRelazione& dati, int s, RigheRelazione& righe) {
     righe.intestazione({"Profondità [m]", "Spostamento [cm]", "Momento [kN m]"});
     const auto& risultati = dati.fasi[static_cast<std::size_t>(s - 1)];
     for (int i = 1; i <= dati.nNodi; ++i)
-        righe.valori(
-            {(i - 1) * dati.passo, risultati.yNodo[i] * 100, risultati.momentoNodo[i] * 10});
+        righe.valori({analysis::zNodo(i, dati.passo), risultati.yNodo[i] * 100,
+                      risultati.momentoNodo[i] * 10});
     righe.riga("#ENDTABLE");
     righe.vuota();
 }

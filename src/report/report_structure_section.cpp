@@ -1,7 +1,7 @@
 #include "report/report_sections.hpp"
+#include "report/structure_checks.hpp"
 #include "structure/section_type.hpp"
 #include "structure/section_validity.hpp"
-#include "structure/shear_check.hpp"
 
 namespace korven::report {
 
@@ -92,40 +92,21 @@ void materiali(const Sezione& s, RigheRelazione& righe) {
              righe);
 }
 
-// N mm to t m.
-constexpr double unMomento = 10000000;
-
-// A positive moment stretches the excavated side, which is the bending pass of negative curvature:
-// hence the sign and the crossing of the two resistances. Strict comparisons: a moment that just
-// equals its resistance is not verified.
-void flessione(const analysis::ChiusuraRisultati& chiusura, RigheRelazione& righe) {
-    const double mrPos = -chiusura.mrd1 / unMomento;
-    const double mrNeg = -chiusura.mrd2 / unMomento;
-    const double fs = chiusura.fsAzioni;
-    const double mMax = chiusura.mMaxTotale;
-    const double mMin = chiusura.mMinTotale;
-    const bool negativo = mMin < 0;
+void flessione(const ConfrontoMomenti& c, RigheRelazione& righe) {
     conLista("VERIFICA DEI MOMENTI FLETTENTI",
-             {{"Momento resistente di calcolo (pos.) [kN m]", mrPos * 10},
-              {"Momento resistente di calcolo (neg.) [kN m]", mrNeg * 10, negativo},
-              {"Momento massimo applicato (pos) [kN m]", mMax * 10},
-              {"Momento massimo applicato (neg) [kN m]", mMin * 10, negativo},
-              {"F.S. parziale delle azioni [-]", fs},
-              {"Momento massimo di calcolo applicato (pos) [kN m]", fs * mMax * 10},
-              {"Momento massimo di calcolo applicato (neg) [kN m]", fs * mMin * 10, negativo}},
+             {{"Momento resistente di calcolo (pos.) [kN m]", c.mrPos * 10},
+              {"Momento resistente di calcolo (neg.) [kN m]", c.mrNeg * 10, c.negativo},
+              {"Momento massimo applicato (pos) [kN m]", c.mMax * 10},
+              {"Momento massimo applicato (neg) [kN m]", c.mMin * 10, c.negativo},
+              {"F.S. parziale delle azioni [-]", c.fsAzioni},
+              {"Momento massimo di calcolo applicato (pos) [kN m]", c.mdMax * 10},
+              {"Momento massimo di calcolo applicato (neg) [kN m]", c.mdMin * 10, c.negativo}},
              righe);
-    righe.titolo(mrPos > fs * mMax ? "Condizioni di sicurezza verificate (momento positivo)"
-                                   : "CONDIZIONI DI SICUREZZA NON VERIFICATE (momento positivo)");
-    if (negativo)
-        righe.titolo(mrNeg < fs * mMin
-                         ? "Condizioni di sicurezza verificate (momento negativo)"
-                         : "CONDIZIONI DI SICUREZZA NON VERIFICATE (momento negativo)");
+    righe.titolo(sentenza(true, c.verificatoPos));
+    if (c.negativo) righe.titolo(sentenza(false, c.verificatoNeg));
 }
 
-// The axial force of the project does not reach this check, though the bending check uses it.
-void taglio(const Sezione& s, double Vmax, RigheRelazione& righe) {
-    const auto confronto =
-        structure::confrontaTaglio(structure::verificaTaglio(s, 0), s.armInterasse, Vmax);
+void taglio(const Sezione& s, const structure::ConfrontoTaglio& confronto, RigheRelazione& righe) {
     righe.vuota();
     righe.titolo("VERIFICA AL TAGLIO");
     righe.lista({{"Diametro staffe [mm]", s.armDiamStaffe * 10},
@@ -142,11 +123,12 @@ void taglio(const Sezione& s, double Vmax, RigheRelazione& righe) {
 
 void sezioneStrutturale(const DatiRelazione& dati, RigheRelazione& righe) {
     const Sezione& s = dati.progetto.sezione;
-    if (!structure::sezioneDefinita(s)) return;
+    const auto momenti = verificaMomenti(dati);
+    if (!momenti) return;
     descrizione(s, righe);
     materiali(s, righe);
-    flessione(dati.chiusura, righe);
-    if (structure::staffePresenti(s)) taglio(s, dati.Vmax, righe);
+    flessione(*momenti, righe);
+    if (const auto confronto = verificaAlTaglio(dati)) taglio(s, *confronto, righe);
 }
 
 }  // namespace korven::report

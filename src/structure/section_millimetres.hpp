@@ -38,8 +38,8 @@ struct PaliMm {
 /// Sheet pile, a trapezoidal wave measured on the profile's axis.
 struct PalancolaMm {
     double base;      ///< width of a flat [mm]
-    double largAla;   ///< horizontal width of an inclined leg [mm]
-    double altAla;    ///< height of an inclined leg [mm]
+    double largAla;   ///< half the width of an inclined leg along the wall [mm]
+    double altAla;    ///< half the height of an inclined leg across the wall [mm]
     double spessore;  ///< thickness of the flats [mm]
     double spessAla;  ///< thickness of the legs [mm]
 };

@@ -25,16 +25,20 @@ bool accettaSostituzione(base::Dialogo& dialogo) {
 
 }  // namespace
 
+std::optional<double> rigidezzaOfferta(const project::Sezione& sezione) {
+    if (!sezioneValida(sezione)) return std::nullopt;
+    const double EJ = std::trunc(calcolaEJ(sezione) / nmm2PerTm2);
+    return std::isfinite(EJ) ? std::optional(EJ) : std::nullopt;
+}
+
 void aggiornaEJ(const project::Sezione& sezione, double sforzoNormale, double& rigidezzaEJ,
                 MomentiResistenti& MRd, base::Dialogo& dialogo) {
     if (!sezioneValida(sezione)) return;
     momentiResistenti(sezione, sforzoNormale, MRd);
-    const double nuovoEJ = std::trunc(calcolaEJ(sezione) / nmm2PerTm2);
-    if (!std::isfinite(nuovoEJ)) return;
-    if (rigidezzaEJ == 0)
-        rigidezzaEJ = nuovoEJ;
-    else if (nuovoEJ != rigidezzaEJ && accettaSostituzione(dialogo))
-        rigidezzaEJ = nuovoEJ;
+    const auto nuovoEJ = rigidezzaOfferta(sezione);
+    if (!nuovoEJ) return;
+    if (rigidezzaEJ == 0 || (*nuovoEJ != rigidezzaEJ && accettaSostituzione(dialogo)))
+        rigidezzaEJ = *nuovoEJ;
 }
 
 }  // namespace korven::structure

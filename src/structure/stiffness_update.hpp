@@ -1,18 +1,25 @@
 #pragma once
 
+#include <optional>
+
 #include "base/dialogo.hpp"
 #include "project/section.hpp"
 #include "structure/bending_resistance.hpp"
 
 namespace korven::structure {
 
+/// Stiffness that a section offers for `rigidezzaEJ`: `calcolaEJ` cut to whole t m2 per metre of
+/// wall. A section below 1 t m2 offers 0.
+/// @return nothing unless `sezioneValida`, nor for a stiffness that is not finite
+/// @throws base::ErroreIndice for more bars than `massimoFerri`
+[[nodiscard]] std::optional<double> rigidezzaOfferta(const project::Sezione& sezione);
+
 /// Before a run: takes what the structural section has to say about the wall.
 ///
-/// Nothing happens unless `sezioneValida`. Then the moment resistances are computed, and the
-/// stiffness of the section, cut to whole t m2, is offered for `rigidezzaEJ`: taken without a
-/// question when `rigidezzaEJ` is 0, after a yes when the two differ. The question comes back at
-/// every run for as long as they differ. A section below 1 t m2 offers 0, so that an undefined
-/// stiffness stays undefined. A stiffness that is not finite is not offered.
+/// Nothing happens unless `sezioneValida`. Then the moment resistances are computed, and
+/// `rigidezzaOfferta` is taken for `rigidezzaEJ`: without a question when `rigidezzaEJ` is 0, after
+/// a yes when the two differ. The question comes back at every run for as long as they differ. An
+/// offer of 0 leaves an undefined stiffness undefined.
 ///
 /// @param sezione        the section as stored (cm, N/mm2)
 /// @param sforzoNormale  axial force on one metre of wall [t], positive in compression

@@ -108,7 +108,7 @@ TEST(CalcoloParatia, RefusesAnUnusableNumberOfSegmentsAndRestoresTheName) {
         Banco banco(progettoSemplice());
         contenutoNSeg = testo;
         banco.calcola();
-        aspettaRifiuto(banco, messaggioNSeg);
+        aspettaRifiuto(banco, motivoNSeg());
         EXPECT_EQ(fileCorrente, banco.progetto());
         EXPECT_FALSE(banco.haRisultati());
     }
@@ -246,6 +246,7 @@ TEST(CalcoloParatia, AsksAboutTheStiffnessAndTakesTheAnswer) {
 class UscitaCheRilegge : public UscitaCalcolo {
  public:
     explicit UscitaCheRilegge(int nNodi) : nNodi_(nNodi) {}
+    std::vector<std::string> file(int, const std::string&) const override { return {}; }
     void scriviRelazione() override { LettoreRisultati(fileCorrente, nNodi_).leggiTesta(Progetto); }
     void disegnaDiagramma(int) override { scriviRelazione(); }
 

@@ -60,7 +60,7 @@ TEST(SpinteCoulomb, AreOneWithoutFriction) {
 
 TEST(SpinteCoulomb, AreUndefinedForASlopeSteeperThanTheFrictionAngle) {
     EXPECT_EQ(spinteCoulomb(rad(20), rad(20.1)).motivo, Indefinito::radiceNegativa);
-    EXPECT_EQ(spinteCoulomb(rad(20), rad(-20.1)).motivo, Indefinito::radiceNegativa);
+    EXPECT_EQ(spinteCoulomb(rad(20), rad(-20.1)).motivo, Indefinito::discesaRipida);
     EXPECT_EQ(spinteCoulomb(rad(20), rad(20.1)).ka, 0);
     EXPECT_EQ(spinteCoulomb(rad(20), rad(20.1)).kp, 0);
 }
@@ -68,6 +68,30 @@ TEST(SpinteCoulomb, AreUndefinedForASlopeSteeperThanTheFrictionAngle) {
 // sin 90 sin 90 = 1: the root eats up the whole denominator of kp.
 TEST(SpinteCoulomb, AreUndefinedWhereThePassiveDenominatorIsZero) {
     EXPECT_EQ(spinteCoulomb(pi / 2, 0).motivo, Indefinito::denominatoreNullo);
+}
+
+// The pole of kp lies where phi + beta is 90 degrees; the sines meet it but for their last bits.
+TEST(SpinteCoulomb, AreUndefinedAtThePoleOfThePassiveCoefficient) {
+    for (double phi : {46.0, 50.0, 55.0, 60.0, 67.3, 75.0, 89.0})
+        EXPECT_EQ(spinteCoulomb(rad(phi), rad(90 - phi)).motivo, Indefinito::denominatoreNullo)
+            << phi;
+}
+
+// phi = 60, beta = 45: P = sin 60 sin 105 / cos 45 = 1.183012702, kp = 0.25 / (1 - 1.087663874)^2.
+TEST(SpinteCoulomb, BeyondThePoleAreWhatTheFormulaGives) {
+    const auto k = spinteCoulomb(rad(60), rad(45));
+    EXPECT_EQ(k.motivo, Indefinito::no);
+    EXPECT_NEAR(k.kp, 32.5312, 1e-3);
+}
+
+// sin 0 makes a zero of the roots whatever the slope, be its sign negative: no root of a negative.
+TEST(SpinteCoulomb, AreOneWithoutFrictionAtAnySlope) {
+    for (double beta : {-80.0, -20.0, 10.0, 45.0, 80.0}) {
+        const auto k = spinteCoulomb(0, rad(beta));
+        EXPECT_EQ(k.motivo, Indefinito::no) << beta;
+        EXPECT_DOUBLE_EQ(k.ka, 1) << beta;
+        EXPECT_DOUBLE_EQ(k.kp, 1) << beta;
+    }
 }
 
 // R = sqrt(cos^2 beta - cos^2 phi), ka = cos beta (cos beta - R) / (cos beta + R), worked out to
@@ -99,7 +123,7 @@ TEST(SpinteRankine, AreOneWithoutFriction) {
 
 TEST(SpinteRankine, AreUndefinedForASlopeSteeperThanTheFrictionAngle) {
     EXPECT_EQ(spinteRankine(rad(20), rad(20.1)).motivo, Indefinito::radiceNegativa);
-    EXPECT_EQ(spinteRankine(rad(20), rad(-20.1)).motivo, Indefinito::radiceNegativa);
+    EXPECT_EQ(spinteRankine(rad(20), rad(-20.1)).motivo, Indefinito::discesaRipida);
 }
 
 TEST(SpinteRankine, AreUndefinedWhereADenominatorIsZero) {

@@ -91,5 +91,12 @@ TEST_F(LeggiNSeg, TakesAGivenTextInsteadOfTheFile) {
     EXPECT_EQ(leggiNSeg(false), 20);
 }
 
+TEST_F(LeggiNSeg, BlamesTheOptionWhenItWasGivenAndTheFileElse) {
+    EXPECT_NE(motivoNSeg().find("indicato in nseg.txt"), std::string_view::npos);
+    contenutoNSeg = "2";
+    EXPECT_NE(motivoNSeg().find("con l'opzione --nseg"), std::string_view::npos);
+    EXPECT_EQ(motivoNSeg().find("nseg.txt"), std::string_view::npos);
+}
+
 }  // namespace
 }  // namespace korven::analysis

@@ -159,6 +159,11 @@ TEST_F(ModuloReazioneTest, OnlyBowlesNeedsFriction) {
     EXPECT_DOUBLE_EQ(modulo(4, nodo), -1750);
 }
 
+// At 30 degrees Nq = 18.4011 and Ngamma = 15.0698: -40 (0.9 * 15.0698 - 2 * 18.4011).
+TEST(ModuloBowles, TurnsPositiveWithANegativeStressAsTheFormulaHasIt) {
+    EXPECT_NEAR(moduloBowles(0, 0.9, -2, pi / 6), 929.576, 0.01);
+}
+
 TEST_F(ModuloReazioneTest, IsNeverPositiveForAnySoilInPractice) {
     std::mt19937 caso(251);
     std::uniform_real_distribution<double> uno(0, 1);

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <map>
 #include <memory>
 #include <random>
@@ -186,6 +187,14 @@ TEST(NodoTirante, LiesBeyondTheWallForADeeperAnchor) {
     EXPECT_EQ(nodoTirante(10.2, 0.2), 52);
     EXPECT_GT(nodoTirante(1e300, 0.2), capacitaNodi);
     EXPECT_LT(nodoTirante(-1e300, 0.2), 1);
+    EXPECT_EQ(nodoTirante(1e300, 0.2), 501);
+    EXPECT_EQ(nodoTirante(-1e300, 0.2), -1);
+}
+
+TEST(NodoTirante, LiesBesideTheWallForADepthThatIsNoNumber) {
+    EXPECT_EQ(nodoTirante(std::nan(""), 0.2), -1);
+    EXPECT_EQ(nodoTirante(0, std::nan("")), -1);
+    EXPECT_EQ(nodoTirante(-1e300, 0), -1);
 }
 
 // An anchor of 500 t/m and 5 t on a wall of 12 m and 50 segments.

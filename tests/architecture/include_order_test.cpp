@@ -36,11 +36,11 @@ const std::vector<std::pair<std::string, std::set<std::string>>> outside = {
     {"nlohmann/", {"batch"}},
 };
 
-// The headers of the operating system that stand beside the standard library: files and terminals.
+// The headers of the operating system that stand beside the standard library: files, terminals and
+// signals.
 const std::map<std::string, std::set<std::string>> operatingSystem = {
-    {"unistd.h", {"base", "batch"}},
-    {"fcntl.h", {"base"}},
-    {"sys/stat.h", {"base"}},
+    {"poll.h", {"batch"}},    {"unistd.h", {"base", "batch"}}, {"fcntl.h", {"base"}},
+    {"sys/stat.h", {"base"}}, {"signal.h", {"batch"}},
 };
 
 struct Include {

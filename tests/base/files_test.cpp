@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <signal.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
 
 #include <cerrno>
 #include <filesystem>
@@ -148,6 +149,56 @@ TEST(LeggiFile, SaysWhyAFileCannotBeRead) {
         EXPECT_EQ(errore.riga(), 0);
         EXPECT_NE(std::string(errore.what()).find("impossibile leggere"), std::string::npos);
     }
+}
+
+// What the reason of a refusal is; empty if there was none.
+template <class Chiamata>
+std::string rifiuto(const Chiamata& chiamata) {
+    try {
+        chiamata();
+    } catch (const ErroreFile& errore) {
+        return errore.atteso();
+    }
+    return {};
+}
+
+TEST(LeggiFile, RefusesAPipeAndADeviceInsteadOfWaitingForThem) {
+    const CartellaProvvisoria cartella;
+    ASSERT_EQ(::mkfifo((cartella / "tubo").c_str(), 0600), 0);
+    for (const std::string& percorso : {cartella / "tubo", std::string("/dev/zero")})
+        EXPECT_EQ(rifiuto([&] { (void)leggiFile(percorso); }), "non è un file normale") << percorso;
+    EXPECT_TRUE(esisteFile(cartella / "tubo"));  // so that its reader tells why it can't be used
+}
+
+TEST(LeggiFile, RefusesAFileOfMoreThanAGibibyte) {
+    const CartellaProvvisoria cartella;
+    metti(cartella / "f", "");
+    std::filesystem::resize_file(cartella / "f", massimoByte + 1);  // takes no room on the disk
+    EXPECT_EQ(rifiuto([&] { (void)leggiFile(cartella / "f"); }), "il file è troppo grande");
+}
+
+TEST(ScriviFile, NeverTakesTheNameOfAPipeOrADevice) {
+    const CartellaProvvisoria cartella;
+    ASSERT_EQ(::mkfifo((cartella / "tubo").c_str(), 0600), 0);
+    std::filesystem::create_symlink("/dev/null", cartella / "nulla");
+    for (const std::string& percorso : {cartella / "tubo", cartella / "nulla"})
+        EXPECT_EQ(rifiuto([&] { scriviFile(percorso, "x"); }), "non è un file normale") << percorso;
+    EXPECT_EQ(voci(cartella), 2u);
+}
+
+TEST(StessoFile, SeesThroughLinksAndOtherWaysToAFolder) {
+    namespace fs = std::filesystem;
+    const CartellaProvvisoria cartella;
+    metti(cartella / "f", "x");
+    metti(cartella / "g", "x");
+    fs::create_symlink(cartella / "f", cartella / "simbolico");
+    fs::create_hard_link(cartella / "f", cartella / "rigido");
+    fs::create_directory_symlink(cartella.percorso(), cartella / "via");
+    for (const char* nome : {"f", "simbolico", "rigido", "via/f", "./f"})
+        EXPECT_TRUE(stessoFile(cartella / "f", cartella / nome)) << nome;
+    EXPECT_FALSE(stessoFile(cartella / "f", cartella / "g"));
+    EXPECT_FALSE(stessoFile(cartella / "f", cartella / "manca"));
+    EXPECT_TRUE(stessoFile(cartella / "manca", cartella / "manca"));
 }
 
 TEST(CancellaFile, IsSilentAboutAMissingFile) {

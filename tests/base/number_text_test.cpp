@@ -193,6 +193,103 @@ TEST(LeggiNumero, FindsNoneInATextThatBeginsWithNone) {
         EXPECT_FALSE(leggiNumero(testo)) << testo;
 }
 
+TEST(LeggiNumero, TellsTooSmallFromTooLargeByTheFirstDigitThatIsNoZero) {
+    const std::string zeri(400, '0');
+    const std::pair<std::string, std::optional<double>> casi[] = {
+        {"1" + std::string(390, '0'), std::nullopt},
+        {"1" + std::string(390, '0') + ".5", std::nullopt},
+        {"1" + std::string(390, '0') + "e-390", 1},
+        {"1" + zeri + "e-1", std::nullopt},
+        {"0." + zeri + "1", 0},
+        {"." + zeri + "1e+5", 0},
+        {"0." + zeri + "1e5", 0},
+        {"0." + zeri + "1e+402", 10},
+        {zeri + "." + zeri + "1E+5", 0},
+        {zeri + "1e-5", 1e-5},
+        {"1e-400", 0},
+        {"1e400", std::nullopt},
+        {"1e999999999999999999999", std::nullopt},
+        {"1e-99999999999999999999", 0},
+        {"0e999999999", 0},
+        {"0.000e+99999999999999999999", 0},
+        {"2e308", std::nullopt},
+        {"1e-330", 0},
+    };
+    for (const auto& [testo, valore] : casi) {
+        EXPECT_EQ(leggiNumero(testo), valore) << testo;
+        const auto negativo = leggiNumero("-" + testo);
+        ASSERT_EQ(negativo.has_value(), valore.has_value()) << testo;
+        EXPECT_TRUE(!negativo || std::signbit(*negativo)) << testo;
+    }
+}
+
+// The oracle shifts the digits by hand: the value is 0.d1d2d3... times a power of ten, and only
+// that power decides once it lies outside all doubles.
+TEST(LeggiNumero, AgreesWithTheShiftedDigitsForAnyPlaceOfThePointAndAnyExponent) {
+    std::mt19937 caso(4);
+    const auto fino = [&caso](int massimo) {
+        return std::uniform_int_distribution<int>(0, massimo)(caso);
+    };
+    int vuoti = 0, nulli = 0;
+    for (int i = 0; i < 5000; ++i) {
+        const int davanti = fino(700), dietro = fino(700), esponente = fino(1600) - 800;
+        const int cifra = 1 + fino(8), punto = fino(davanti + 1 + dietro);
+        std::string testo = std::string(static_cast<std::size_t>(davanti), '0') +
+                            std::to_string(cifra) +
+                            std::string(static_cast<std::size_t>(dietro), '0');
+        testo.insert(static_cast<std::size_t>(punto), ".");
+        const int potenza = punto - davanti - 1 + esponente;  // of the one digit
+        const auto letto = leggiNumero(testo + "e" + std::to_string(esponente));
+        if (potenza > 308) {
+            EXPECT_FALSE(letto) << testo << ' ' << esponente;
+            ++vuoti;
+        } else if (potenza < -324) {
+            EXPECT_EQ(letto, 0) << testo << ' ' << esponente;
+            ++nulli;
+        } else if (std::abs(potenza) < 308) {
+            EXPECT_EQ(letto, std::stod(std::to_string(cifra) + "e" + std::to_string(potenza)));
+        }
+    }
+    EXPECT_GT(vuoti, 500);
+    EXPECT_GT(nulli, 500);
+}
+
+TEST(SoloUnNumero, LetsBlanksButNothingElseStandAroundTheNumber) {
+    for (const char* testo : {"50", " 50 ", "-7", "1.5", ".5", "5.", "1e999", "+3"})
+        EXPECT_TRUE(soloUnNumero(testo)) << testo;
+    for (const char* testo : {"", " ", "50abc", "50,7", "50 60", "cinquanta", "1e", "--1", "."})
+        EXPECT_FALSE(soloUnNumero(testo)) << '"' << testo << '"';
+}
+
+TEST(TestoDecimali, RoundsHalfAwayFromZeroOnceAndPadsToItsDecimals) {
+    const struct {
+        double valore;
+        int decimali, potenza;
+        const char* testo;
+    } casi[] = {
+        {0, 2, 0, "0.00"},
+        {-0.0, 2, 0, "0.00"},
+        {1.005, 2, 0, "1.01"},
+        {-1.005, 2, 0, "-1.01"},
+        {-0.004, 2, 0, "0.00"},
+        {-0.005, 2, 0, "-0.01"},
+        {0.00004999, 4, 0, "0.0000"},
+        {0.00005, 4, 0, "0.0001"},
+        {2.99996, 4, 0, "3.0000"},
+        {12, 4, 0, "12.0000"},
+        {0.0000285, 4, 2, "0.0029"},  // 0.00285 cm
+        {0.1234567, 2, 1, "1.23"},    // t m as kN m
+        {-99.9996, 2, 1, "-1000.00"},
+        {1.5, 0, 0, "2"},
+        {-1.5, 0, 0, "-2"},
+        {0.25, 0, 1, "3"},
+        {1e22, 1, 0, "10000000000000000000000.0"},
+    };
+    for (const auto& [valore, decimali, potenza, testo] : casi)
+        EXPECT_EQ(testoDecimali(valore, decimali, potenza), testo) << valore;
+    EXPECT_THROW((void)testoDecimali(std::numeric_limits<double>::infinity(), 2), ErroreValore);
+}
+
 TEST(LeggiNumero, RecoversEveryDoubleFromItsShortestText) {
     std::mt19937_64 caso(11);
     std::uniform_real_distribution<double> mantissa(-1, 1), esponente(-14, 14);

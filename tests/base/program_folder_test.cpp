@@ -26,5 +26,17 @@ TEST(FileProgramma, IsFoundWhateverTheCaseOfItsName) {
     impostaCartellaProgramma({});
 }
 
+TEST(FileProgramma, IsWhereItWouldBeWhenTheFolderCannotBeListed) {
+    const test::CartellaProvvisoria cartella;
+    test::metti(cartella / "file", "");
+    for (const std::string folder : {"/nessuna/cartella", "/proc/1/fd/0/x"}) {
+        impostaCartellaProgramma(folder);
+        EXPECT_EQ(fileProgramma("nseg.txt"), folder + "/nseg.txt");
+    }
+    impostaCartellaProgramma(cartella / "file");
+    EXPECT_EQ(fileProgramma("nseg.txt"), cartella / "file/nseg.txt");
+    impostaCartellaProgramma({});
+}
+
 }  // namespace
 }  // namespace korven::base

@@ -17,6 +17,17 @@ TEST(LettoreRighe, TakesCrLfAndLfAloneAndALastLineWithoutAnEnd) {
     EXPECT_EQ(file.numeroRiga(), 3);
 }
 
+TEST(LettoreRighe, DropsTheCrOfALastLineEndThatWasCutInTwo) {
+    LettoreRighe file("f", "uno\r\ndue\r");
+    file.riga("");
+    EXPECT_EQ(file.riga(""), "due");
+    EXPECT_TRUE(file.fine());
+    EXPECT_FALSE(file.rigaIntera());  // something was cut off all the same
+    LettoreRighe altro("f", "1\r\n\r");
+    EXPECT_EQ(altro.numero(""), 1);
+    EXPECT_TRUE(altro.fine());
+}
+
 TEST(LettoreRighe, TellsWhetherTheLastLineReadHasItsEnd) {
     LettoreRighe file("f", "uno\ndue");
     EXPECT_FALSE(file.rigaIntera());

@@ -1,3 +1,5 @@
+#include <sys/stat.h>
+
 #include "batch_bench.hpp"
 
 namespace korven::batch {
@@ -118,15 +120,19 @@ TEST_F(IngressoRotto, AResultFileOfAnotherMeshIsRefusedWithWhatToDo) {
 }
 
 TEST_F(IngressoRotto, AnUnusableNumberOfSegmentsIsARefusalWithAMessage) {
-    for (const char* nSeg : {"2", "250", "0", "-7", "1.5", "cinquanta"}) {
+    for (const char* nSeg : {"2", "250", "0", "-7", "1.5", "1e999"}) {
         const auto esito = console({"calcola", progetto, std::string("--nseg=") + nSeg});
         EXPECT_EQ(esito.codice, 1) << nSeg;
-        EXPECT_TRUE(dice(esito.errori, "ATTENZIONE! Il numero di segmenti indicato in nseg.txt"))
+        EXPECT_TRUE(dice(esito.errori,
+                         "ATTENZIONE! Il numero di segmenti indicato con l'opzione --nseg non è "
+                         "ammesso"))
             << esito.errori;
     }
     fs::create_directory(cartella / "casa");
     metti(cartella / "casa/nseg.txt", "molti\r\n");
-    EXPECT_EQ(console({"calcola", progetto, "--cartella", cartella / "casa"}).codice, 1);
+    const auto daFile = console({"calcola", progetto, "--cartella", cartella / "casa"});
+    EXPECT_EQ(daFile.codice, 1);
+    EXPECT_TRUE(dice(daFile.errori, "indicato in nseg.txt non è ammesso")) << daFile.errori;
     EXPECT_EQ(nomi(), "muro.kvd ");
 }
 
@@ -158,14 +164,16 @@ TEST_F(IngressoRotto, AFailingWallIsRefusedAndLeavesNoResultFile) {
     EXPECT_EQ(nomi(), "muro.kvd ");
 }
 
-TEST_F(IngressoRotto, AnIndexBeyondATableNamesTheProject) {
+TEST_F(IngressoRotto, MoreAnchorsThanTheTableHoldsAreRefusedWithTheirStage) {
     auto d = progettoSemplice();
     d.tirantiFase[2] = 25;
     scrivi(d);
-    const auto esito = esegui("calcola");
-    EXPECT_EQ(esito.codice, 3);
-    EXPECT_TRUE(dice(esito.errori, progetto + ": ")) << esito.errori;
-    EXPECT_TRUE(dice(esito.errori, "indice 21 fuori dalla tabella (0-20)")) << esito.errori;
+    const std::string detto = "più tiranti di quanti ne tiene la tabella (20)";
+    for (const char* comando : {"calcola", "relazione", "verifica"}) {
+        const auto esito = esegui(comando);
+        EXPECT_EQ(esito.codice, 1);
+        EXPECT_TRUE(dice(esito.errori + esito.uscita, detto)) << esito.errori << esito.uscita;
+    }
     EXPECT_EQ(nomi(), "muro.kvd ");
 }
 
@@ -179,7 +187,32 @@ TEST_F(IngressoRotto, AValueTooLargeToBeShownIsARefusalWithoutAReport) {
     EXPECT_EQ(esito.codice, 1);
     EXPECT_TRUE(dice(esito.errori, progetto + ": i dati portano a un valore troppo grande"))
         << esito.errori;
-    EXPECT_FALSE(fs::exists(cartella / "muro.TAB"));
+    EXPECT_EQ(nomi(), "muro.kvd ");  // as after a singular system
+}
+
+TEST_F(IngressoRotto, APipeIsToldInsteadOfWaitedFor) {
+    fs::remove(progetto);
+    ASSERT_EQ(::mkfifo(progetto.c_str(), 0600), 0);
+    const auto esito = esegui("calcola");
+    EXPECT_EQ(esito.codice, 3);
+    EXPECT_TRUE(dice(esito.errori, progetto + ": non è un file normale")) << esito.errori;
+}
+
+TEST_F(IngressoRotto, AFullStandardOutputIsTold) {
+    ASSERT_EQ(console({"calcola", progetto}).codice, 0);  // what follows writes no result file
+    metti(cartella / "uscita", "");
+    const Ambiente piena{.limiteFile = 0, .uscita = cartella / "uscita"};
+    for (const std::vector<std::string>& argomenti : {std::vector<std::string>{"calcola", progetto},
+                                                      {"calcola", progetto, "--json"},
+                                                      {"verifica", progetto},
+                                                      {"--help"},
+                                                      {"--versione"}}) {
+        const auto esito = console(argomenti, piena);
+        EXPECT_EQ(esito.codice, 3) << argomenti[0];
+        EXPECT_TRUE(dice(esito.errori, "korven32c: impossibile scrivere sull'uscita normale"))
+            << esito.errori;
+    }
+    EXPECT_EQ(console({"calcola", progetto, "--silenzioso"}, piena).codice, 0);  // writes nothing
 }
 
 TEST_F(IngressoRotto, AFullDiskLeavesTheProjectAndNoHalfFile) {

@@ -36,7 +36,8 @@ TEST_F(Console, RecordsSlowStagesOnRequestAlone) {
     conTraccia.emplace_back("--traccia");
     const auto esito = console(conTraccia);
     EXPECT_EQ(esito.codice, 0) << esito.errori;
-    EXPECT_TRUE(dice(esito.uscita, "Calcolo eseguito.\nFase 1, 22 iterazioni:\n  nodo "))
+    EXPECT_TRUE(
+        dice(esito.uscita, "Calcolo eseguito.\nFase 1, 22 iterazioni:\n  nodi 1-20 (0-7.6 m), "))
         << esito.uscita;
     EXPECT_TRUE(dice(esito.uscita, " cambi: ")) << esito.uscita;
     // A file that is up to date tells no iterations.

@@ -1,4 +1,7 @@
+#include "batch/interruption.hpp"
+
 #include <signal.h>
+#include <unistd.h>
 
 #include <chrono>
 #include <nlohmann/json.hpp>
@@ -40,6 +43,70 @@ TEST_F(SenzaPace, AnInterruptStopsARunAsTheStopButtonDoes) {
     }
 }
 
+TEST_F(SenzaPace, AnIgnoredInterruptStaysIgnored) {
+    ProgrammaInCorso corsa(
+        "/bin/sh", {"-c", "trap '' INT; exec \"$0\" \"$@\"", KORVEN_CONSOLE, "calcola", progetto,
+                    "--nseg", "10", "--max-iterazioni", "0"});
+    ASSERT_TRUE(corre());
+    corsa.segnale(SIGINT);
+    std::this_thread::sleep_for(std::chrono::milliseconds(200));
+    EXPECT_EQ(nomi(), "muro.OUT muro.kvd ");
+    corsa.segnale(SIGTERM);
+    EXPECT_EQ(corsa.attendi().codice, 1);
+}
+
+// A run that answers no more ends with the second signal, as every program does.
+TEST(Interruzioni, TakeTheFirstSignalAndLetTheSecondEndTheProgram) {
+    for (const int segnale : {SIGINT, SIGTERM, SIGHUP}) {
+        EXPECT_EXIT(
+            {
+                const Interruzioni interruzioni;
+                ::raise(segnale);
+                if (Interruzioni::chiesta() == 0) ::_exit(8);
+                ::raise(segnale);
+                ::_exit(9);
+            },
+            ::testing::KilledBySignal(segnale), "");
+    }
+}
+
+TEST(Interruzioni, GiveTheSignalsBackAtTheirEnd) {
+    struct sigaction prima {
+    }, dopo{};
+    ::sigaction(SIGTERM, nullptr, &prima);
+    { const Interruzioni interruzioni; }
+    ::sigaction(SIGTERM, nullptr, &dopo);
+    EXPECT_EQ(dopo.sa_handler, prima.sa_handler);
+}
+
+using Interruzione = test::BancoConsole;
+
+// Whenever the interrupt comes, what stands afterwards is whole, and the exit code tells it.
+TEST_F(Interruzione, LeavesWholeFilesAndIsNeverSwallowedAtAnyMoment) {
+    const std::vector<std::string> comando = {"relazione", progetto, "--txt"};
+    ASSERT_EQ(console(comando).codice, 0);
+    const auto interi = file();
+    ASSERT_EQ(interi.size(), 4u);
+    for (int i = 0; i < 60; ++i) {
+        for (const char* nome : {"muro.OUT", "muro.TAB", "muro.txt"})
+            std::filesystem::remove(cartella / nome);
+        ProgrammaInCorso corsa(KORVEN_CONSOLE, comando);
+        std::this_thread::sleep_for(std::chrono::microseconds(700 * i));
+        corsa.segnale(SIGINT);
+        const auto esito = corsa.attendi();
+        for (const auto& [nome, byte] : file()) {
+            ASSERT_TRUE(interi.contains(nome)) << nome;
+            EXPECT_EQ(byte, interi.at(nome)) << nome;
+        }
+        // -1: before or behind the run, where the signal ends the program as always.
+        EXPECT_LE(esito.codice, 1) << esito.errori;
+        EXPECT_TRUE(esito.codice != 0 || file() == interi);
+        EXPECT_TRUE(esito.codice != 1 || dice(esito.errori, "dell'utente") ||
+                    dice(esito.errori, "dall'utente"))
+            << esito.errori;
+    }
+}
+
 TEST_F(SenzaPace, TheLimitStopsTheRunAndNamesTheNodesThatFlip) {
     const auto esito = esegui("calcola", {"--max-iterazioni", "200"});
     EXPECT_EQ(esito.codice, 1);
@@ -47,7 +114,7 @@ TEST_F(SenzaPace, TheLimitStopsTheRunAndNamesTheNodesThatFlip) {
                      "Calcolo interrotto: nessuna convergenza (fase 1, 200 iterazioni). Nelle "
                      "ultime iterazioni cambiano stato:\n"))
         << esito.errori;
-    EXPECT_TRUE(dice(esito.errori, "nodo 2 (1 m), lato monte: ")) << esito.errori;
+    EXPECT_TRUE(dice(esito.errori, "\nnodi 1-3 (0-2 m), lato monte: ")) << esito.errori;
     EXPECT_TRUE(dice(esito.errori, "ultimo all'iterazione 200\n")) << esito.errori;
     EXPECT_EQ(nomi(), "muro.kvd ");
 }

@@ -23,6 +23,11 @@ TEST_F(Opzione, HelpAndVersionEndWell) {
     const auto versione = console({"--versione"});
     EXPECT_EQ(versione.codice, 0);
     EXPECT_TRUE(versione.uscita.starts_with("KORVEN 32 ")) << versione.uscita;
+    for (const char* comando : {"calcola", "relazione", "verifica"}) {
+        const auto dopo = console({comando, "--versione"});
+        EXPECT_EQ(dopo.codice, 0);
+        EXPECT_EQ(dopo.uscita, versione.uscita);
+    }
 }
 
 TEST_F(Opzione, WrongUsageEndsWithTwoAndAClearMessage) {
@@ -31,20 +36,36 @@ TEST_F(Opzione, WrongUsageEndsWithTwoAndAClearMessage) {
         const char* detto;
     } casi[] = {
         {{}, "manca il comando: calcola, relazione, verifica"},
-        {{"calcola"}, "manca un argomento"},
+        {{"calcola"}, "manca un argomento: PROGETTO.kvd\n"},
+        {{"calcola", ""}, "valore non ammesso: PROGETTO.kvd"},
+        {{"calcola", progetto, "--uscita", ""}, "valore non ammesso: --uscita"},
+        {{"calcola", progetto, "--uscita=", "altrove"},
+         "manca il valore di un'opzione: --uscita\n"},
+        {{"calcola", progetto, "--nseg=", "50"}, "manca il valore di un'opzione: --nseg\n"},
+        {{"calcola", progetto, "--uscita", "--json"}, "valore non ammesso: --uscita --json (DIR)"},
+        {{"calcola", progetto, "--json=forse"}, "valore non ammesso: --json forse\n"},
+        {{"calcola", progetto, "--nseg", "50abc"}, "valore non ammesso: --nseg 50abc (N)\n"},
+        {{"calcola", progetto, "--nseg", "50,7"}, "valore non ammesso: --nseg 50,7 (N)\n"},
+        {{"calcola", progetto, "--nseg", ""}, "valore non ammesso: --nseg"},
+        {{"calcola", progetto, "--nseg", "cinquanta"}, "valore non ammesso: --nseg cinquanta (N)"},
+        {{"calcola", progetto, "--lingua", "ita", "--lingua", "eng"},
+         "un'opzione è data più volte: --lingua\n"},
+        {{"calcola", progetto, "--lingua"}, "manca il valore di un'opzione: --lingua\n"},
         {{"disegna", progetto}, "comando sconosciuto (disegna): calcola, relazione, verifica"},
-        {{"calcola", progetto, "altro.kvd"}, "argomento sconosciuto"},
-        {{"calcola", progetto, "--svelto"}, "argomento sconosciuto"},
+        {{"calcola", progetto, "altro.kvd"}, "argomento sconosciuto: altro.kvd\n"},
+        {{"calcola", progetto, "--svelto"}, "argomento sconosciuto: --svelto\n"},
         {{"calcola", progetto, "--txt"}, "argomento sconosciuto"},
         {{"relazione", progetto, "--traccia"}, "argomento sconosciuto"},
         {{"verifica", progetto, "--ej", "mantieni"}, "argomento sconosciuto"},
-        {{"calcola", progetto, "--ej", "forse"}, "valore non ammesso"},
+        {{"calcola", progetto, "--ej", "forse"},
+         "valore non ammesso: --ej forse (mantieni|ricalcola)\n"},
         {{"calcola", progetto, "--metodo-spinte", "culmann"}, "valore non ammesso"},
         {{"calcola", progetto, "--lingua", "rus"}, "valore non ammesso"},
         {{"calcola", progetto, "--max-iterazioni", "-1"}, "valore non ammesso"},
-        {{"calcola", progetto, "--max-iterazioni", "molte"}, "valore non ammesso"},
+        {{"calcola", progetto, "--max-iterazioni", "molte"},
+         "valore non ammesso: --max-iterazioni molte (N)\n"},
         {{"calcola", progetto, "--cartella", cartella / "altrove"}, "valore non ammesso"},
-        {{"calcola", progetto, "--uscita"}, "manca il valore di un'opzione"},
+        {{"calcola", progetto, "--uscita"}, "manca il valore di un'opzione: --uscita\n"},
     };
     for (const auto& caso : casi) {
         const auto esito = console(caso.argomenti);
@@ -52,8 +73,52 @@ TEST_F(Opzione, WrongUsageEndsWithTwoAndAClearMessage) {
         EXPECT_TRUE(esito.uscita.empty());
         EXPECT_TRUE(dice(esito.errori, caso.detto)) << esito.errori;
         EXPECT_TRUE(dice(esito.errori, "korven32c --help")) << esito.errori;
+        for (const char* inglese : {"required", "expected", "Could not", "missing", "convert"})
+            EXPECT_FALSE(dice(esito.errori, inglese)) << esito.errori;
     }
     EXPECT_EQ(nomi(), "muro.kvd ");
+}
+
+TEST_F(Opzione, WrongUsageIsToldInTheLanguageAskedFor) {
+    for (const std::vector<std::string>& lingua :
+         {std::vector<std::string>{"--lingua", "deu"}, {"--lingua=deu"}}) {
+        auto argomenti = lingua;
+        argomenti.insert(argomenti.begin(), {"calcola", progetto, "--svelto"});
+        const auto esito = console(argomenti);
+        EXPECT_EQ(esito.codice, 2);
+        EXPECT_TRUE(dice(esito.errori, "korven32c: unbekanntes Argument: --svelto\n"))
+            << esito.errori;
+    }
+    // Behind "--" stand names of files, whatever they look like.
+    const auto esito = console({"calcola", "--svelto", "--", "--lingua", "deu"});
+    EXPECT_EQ(esito.codice, 2);
+    EXPECT_TRUE(dice(esito.errori, "argomento sconosciuto")) << esito.errori;
+}
+
+TEST_F(Opzione, AProjectMayHaveTheNameOfAnOption) {
+    fs::copy(progetto, cartella / "--lingua");
+    const auto esito =
+        console({"calcola", "--nseg", "10", "--", "--lingua"}, {.cartella = cartella.percorso()});
+    EXPECT_EQ(esito.codice, 0) << esito.errori;
+    EXPECT_EQ(nomi(), "--linOUT --lingua muro.kvd ");
+}
+
+TEST_F(Opzione, AProgramFolderThatDoesNotExistIsWrongUsageWhateverElseIsAsked) {
+    for (const std::vector<std::string>& altre :
+         {std::vector<std::string>{}, {"--lingua", "deu"}, {"--json"}}) {
+        auto argomenti = altre;
+        argomenti.insert(argomenti.begin(),
+                         {"calcola", progetto, "--cartella", cartella / "altrove"});
+        const auto esito = console(argomenti);
+        EXPECT_EQ(esito.codice, 2);
+        EXPECT_TRUE(dice(esito.errori, "--cartella " + (cartella / "altrove"))) << esito.errori;
+    }
+}
+
+TEST_F(Opzione, VerificaMakesNoFolderForResults) {
+    const auto esito = esegui("verifica", {"--uscita", cartella / "fuori"});
+    EXPECT_EQ(esito.codice, 0) << esito.errori;
+    EXPECT_FALSE(fs::exists(cartella / "fuori"));
 }
 
 TEST_F(Opzione, UscitaMakesTheFolderAndLeavesThatOfTheProjectUntouched) {

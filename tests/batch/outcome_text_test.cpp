@@ -1,6 +1,7 @@
 #include <sstream>
 
 #include "batch_bench.hpp"
+#include "structure/sample_sections.hpp"
 
 namespace korven::batch {
 namespace {
@@ -53,6 +54,23 @@ TEST_F(EsitoTesto, RunsAgainAfterAChangeOfASingleNumber) {
     EXPECT_TRUE(dice(esegui("calcola").uscita, "Calcolo eseguito."));
 }
 
+TEST_F(EsitoTesto, TellsASectionCheckThatFailsAndEndsWellAllTheSame) {
+    auto d = progettoSemplice();
+    d.sezione = structure::diaframmaSimmetrico();
+    d.sezione.diametroMonte = d.sezione.diametroValle = 0.1;  // hardly any steel
+    scrivi(d);
+    const std::string detto = "\nCONDIZIONI DI SICUREZZA NON VERIFICATE (momento ";
+    const auto esito = esegui("relazione");
+    EXPECT_EQ(esito.codice, 0);
+    const auto tabella = esito.uscita.find("Calcolo eseguito.\n");
+    ASSERT_NE(tabella, std::string::npos);
+    EXPECT_TRUE(dice(esito.uscita.substr(tabella), detto)) << esito.uscita;
+    EXPECT_TRUE(dice(test::contenuto(cartella / "muro.TAB"), detto));
+    d.sezione = {};
+    scrivi(d);
+    EXPECT_FALSE(dice(esegui("relazione").uscita, "SICUREZZA"));
+}
+
 TEST_F(EsitoTesto, TellsWhatAReviewFound) {
     auto esito = esegui("verifica");
     EXPECT_EQ(esito.codice, 0);
@@ -63,10 +81,11 @@ TEST_F(EsitoTesto, TellsWhatAReviewFound) {
     scrivi(d);
     esito = esegui("verifica");
     EXPECT_EQ(esito.codice, 1);
-    EXPECT_EQ(esito.uscita,
-              "impedisce il calcolo: Il valore di EJ non è ancora stato definito.\n"
-              "da vedere: vincolo in testa: codice non previsto (0)\n"
-              "Il progetto non può essere calcolato.\n");
+    EXPECT_EQ(
+        esito.uscita,
+        "impedisce il calcolo: Il valore di EJ non è ancora stato definito.\n"
+        "da vedere: vincolo in testa = 0: codice non previsto: la testa conta come libera (1)\n"
+        "Il progetto non può essere calcolato.\n");
     EXPECT_EQ(nomi(), "muro.kvd ");  // nothing is computed or written
 }
 

@@ -82,6 +82,10 @@ ProgrammaInCorso::ProgrammaInCorso(const std::string& programma,
     if (processo_ == 0) {
         ::dup2(uscita[1], STDOUT_FILENO);
         ::dup2(errori[1], STDERR_FILENO);
+        if (!ambiente.uscita.empty()) {
+            const int file = ::open(ambiente.uscita.c_str(), O_WRONLY | O_CLOEXEC);
+            if (file < 0 || ::dup2(file, STDOUT_FILENO) < 0) ::_exit(127);
+        }
         diventa(programma, puntatori, ambiente);
     }
     ::close(uscita[1]);

@@ -57,6 +57,38 @@ TEST(TracciaIterazioni, CountsTheChangesOfEachSideAndKeepsTheLast) {
                   "all'iterazione 2"}));
 }
 
+TEST(TracciaIterazioni, JoinsNeighboursOfOneSideThatChangeBetweenTheSameStates) {
+    TracciaIterazioni traccia;
+    // Nodes 1 to 4 uphill, 4 the other way round; 2 and 4 downhill are no neighbours; 5 alone.
+    passo(traccia, 1, {{el, el}, {el, el}, {el, el}, {at, el}, {el, el}});
+    passo(traccia, 2, {{at, el}, {at, pa}, {el, el}, {el, pa}, {pa, el}});
+    passo(traccia, 3, {{at, el}, {el, pa}, {at, el}, {el, pa}, {pa, el}});
+    passo(traccia, 4, {{at, el}, {at, pa}, {at, el}, {el, pa}, {pa, el}});
+    EXPECT_EQ(traccia.righe(),
+              (std::vector<std::string>{
+                  "nodi 1-4 (0-0.75 m), lato monte: elastico <-> attivo, cambi: 1-3, ultimo alle "
+                  "iterazioni 2-4",
+                  "nodo 2 (0.25 m), lato valle: elastico -> passivo, cambi: 1, ultimo "
+                  "all'iterazione 2",
+                  "nodo 4 (0.75 m), lato valle: elastico -> passivo, cambi: 1, ultimo "
+                  "all'iterazione 2",
+                  "nodo 5 (1 m), lato monte: elastico -> passivo, cambi: 1, ultimo "
+                  "all'iterazione 2"}));
+}
+
+TEST(TracciaIterazioni, TellsAWallThatFlipsEverywhereInTwoLines) {
+    TracciaIterazioni traccia;
+    const std::vector<StatiNodo> fermi(249), mossi(249, {at, pa});
+    passo(traccia, 1, fermi);
+    passo(traccia, 2, mossi);
+    EXPECT_EQ(traccia.righe(),
+              (std::vector<std::string>{
+                  "nodi 1-249 (0-62 m), lato monte: elastico -> attivo, cambi: 1, ultimo "
+                  "all'iterazione 2",
+                  "nodi 1-249 (0-62 m), lato valle: elastico -> passivo, cambi: 1, ultimo "
+                  "all'iterazione 2"}));
+}
+
 TEST(TracciaIterazioni, TellsAnchorsThatDropOutAndComeBack) {
     TracciaIterazioni traccia;
     passo(traccia, 1, {{el, el}}, {{5, true}, {9, true}});

@@ -2,8 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include "analysis/output_guard.hpp"
 #include "base/code_page.hpp"
 #include "base/file_error.hpp"
+#include "structure/sample_sections.hpp"
 #include "support/hand_written_results.hpp"
 #include "support/run_harness.hpp"
 #include "support/sample_projects.hpp"
@@ -63,27 +65,60 @@ TEST_F(Apri, MakesARelativePathAbsoluteBeforeAnyRuleForNames) {
     EXPECT_EQ(base::nomeRelazione(fileCorrente), fs::weakly_canonical(cartella / "muro.TAB"));
 }
 
-TEST_F(Apri, MakesTheFolderForTheResultsAndKeepsTheName) {
-    apriProgetto(progetto, cartella / "uscita/profonda/");
-    EXPECT_TRUE(fs::is_directory(cartella / "uscita/profonda"));
-    EXPECT_EQ(fileCorrente, cartella / "uscita/profonda/muro.kvd");
-    EXPECT_FALSE(fs::exists(fileCorrente));
+TEST_F(Apri, GoesWhereTheSystemWouldGoThroughALink) {
+    fs::create_directories(cartella / "altra/sotto");
+    auto altro = test::progettoSemplice();
+    altro.lunghezzaParatia = 17;
+    test::metti(cartella / "altra/muro.kvd", project::testoProgetto(altro));
+    fs::create_directory_symlink(cartella / "altra/sotto", cartella / "via");
+    apriProgetto(cartella / "via/../muro.kvd", "");
+    EXPECT_EQ(Progetto.lunghezzaParatia, 17);
+    EXPECT_EQ(fileCorrente, cartella / "altra/muro.kvd");
 }
 
-TEST_F(Apri, MakesNothingForABrokenProject) {
-    test::metti(progetto, "1\r\n2\r\n");
-    EXPECT_THROW(apriProgetto(progetto, cartella / "uscita"), base::ErroreFile);
-    EXPECT_THROW(apriProgetto(cartella / "altro.kvd", cartella / "uscita"), base::ErroreFile);
+TEST_F(Apri, KeepsTheNameOfALinkAsItWasTyped) {
+    fs::create_symlink(progetto, cartella / "nome.kvd");
+    apriProgetto(cartella / "nome.kvd", "");
+    EXPECT_EQ(fileCorrente, cartella / "nome.kvd");
+}
+
+TEST_F(Apri, NamesTheFolderForTheResultsAndKeepsTheNameButMakesNothing) {
+    apriProgetto(progetto, cartella / "uscita/profonda/");
+    EXPECT_EQ(fileCorrente, cartella / "uscita/profonda/muro.kvd");
     EXPECT_FALSE(fs::exists(cartella / "uscita"));
 }
 
-TEST_F(Apri, TellsAFolderThatCannotBeMade) {
+TEST_F(Apri, KeepsTheProjectSafeFromOutputs) {
+    apriProgetto(progetto, cartella / "uscita");
+    EXPECT_TRUE(analysis::prendeIlPostoDelProgetto(progetto));
+    apriProgetto(progetto, "");
+    EXPECT_TRUE(analysis::prendeIlPostoDelProgetto(progetto));
+}
+
+TEST_F(Apri, TellsAPathThatNamesNothing) {
+    EXPECT_THROW(apriProgetto("", ""), base::ErroreFile);
+    EXPECT_THROW(apriProgetto(cartella / "altro.kvd", cartella / "uscita"), base::ErroreFile);
+}
+
+TEST(CreaCartella, MakesItWithThoseAboveIt) {
+    const CartellaProvvisoria cartella;
+    creaCartella(cartella / "uscita/profonda/");
+    EXPECT_TRUE(fs::is_directory(cartella / "uscita/profonda"));
+    EXPECT_NO_THROW(creaCartella(cartella / "uscita/profonda"));
+}
+
+TEST(CreaCartella, TellsAFolderThatCannotBeMade) {
+    const CartellaProvvisoria cartella;
     test::metti(cartella / "occupato", "file");
-    try {
-        apriProgetto(progetto, cartella / "occupato");
-        ADD_FAILURE();
-    } catch (const base::ErroreFile& errore) {
-        EXPECT_EQ(errore.percorso(), cartella / "occupato");
+    fs::create_symlink("anello", cartella / "anello");
+    for (const std::string& nome : {cartella / "occupato", cartella / "occupato/sotto",
+                                    cartella / "anello/sotto", cartella / std::string(300, 'x')}) {
+        try {
+            creaCartella(nome);
+            ADD_FAILURE() << nome;
+        } catch (const base::ErroreFile& errore) {
+            EXPECT_EQ(errore.percorso(), nome);
+        }
     }
 }
 
@@ -127,6 +162,38 @@ TEST(LeggiEsito, RefusesAFileOfAnotherMesh) {
     EXPECT_THROW((void)leggiEsito(), base::ErroreFile);
 }
 
+TEST(LeggiEsito, HoldsTheChecksOfTheSectionAndTheForcesThatTheReportShows) {
+    test::RisultatiAMano file(3);
+    auto d = test::progettoSemplice();
+    d.sezione = structure::diaframmaSimmetrico();
+    file.scrivi(d, {test::faseFerma(4), test::faseFerma(4)},
+                "800000000\r\n-1000000000\r\n50\r\n-60\r\n1.4\r\n");
+    Progetto = d;
+    fileCorrente = file.cartella / "muro.kvd";
+    const auto esito = leggiEsito();
+    ASSERT_TRUE(esito.momenti);
+    EXPECT_DOUBLE_EQ(esito.momenti->mdMax, 70);  // 1.4 x 50 t m, below the 100 of the section
+    EXPECT_DOUBLE_EQ(esito.momenti->mrPos, 100);
+    EXPECT_TRUE(esito.momenti->verificatoPos);
+    EXPECT_DOUBLE_EQ(esito.momenti->mdMin, -84);  // beyond its 80
+    EXPECT_FALSE(esito.momenti->verificatoNeg);
+    EXPECT_FALSE(esito.taglio);  // no stirrups
+    EXPECT_EQ(esito.fallite, std::vector<std::string_view>{
+                                 "CONDIZIONI DI SICUREZZA NON VERIFICATE (momento negativo)"});
+    ASSERT_EQ(esito.tiranti.size(), 1u);  // in place, though the wall stands still
+    EXPECT_EQ(esito.tiranti[0].profondita, d.profTirante[1]);
+    EXPECT_EQ(esito.tiranti[0].tiroMassimo, d.pretTirante[1]);
+}
+
+TEST(UscitaRelazione, NamesTheFilesThatItWillWrite) {
+    EXPECT_TRUE(UscitaRelazione(false, true).file(0, "/x/muro.OUT").empty());
+    EXPECT_TRUE(UscitaRelazione(true, true).file(3, "/x/muro.OUT").empty());
+    EXPECT_EQ(UscitaRelazione(true).file(0, "/x/muro.OUT"),
+              std::vector<std::string>{"/x/muro.TAB"});
+    EXPECT_EQ(UscitaRelazione(true, true).file(0, "/x.y/muro.OUT"),
+              (std::vector<std::string>{"/x.TAB", "/x.txt"}));
+}
+
 TEST(UscitaRelazione, WritesTheReportAfterARunAndRemembersItsName) {
     test::Banco banco(test::progettoSemplice(), 20);
     UscitaRelazione uscita(true);
@@ -164,6 +231,53 @@ TEST(ScriviTesto, ReplacesAnEarlierText) {
 TEST(ScriviTesto, NeedsTheMarkUp) {
     CartellaProvvisoria cartella;
     EXPECT_THROW(scriviTesto(cartella / "muro.TAB"), base::ErroreFile);
+}
+
+TEST(ScriviTesto, RefusesAMarkUpThatOpensNoDocument) {
+    CartellaProvvisoria cartella;
+    test::metti(cartella / "muro.txt", "vecchio testo");
+    test::metti(cartella / "muro.TAB", "una riga\r\n#ENDDOCUMENT\r\n");
+    try {
+        scriviTesto(cartella / "muro.TAB");
+        ADD_FAILURE();
+    } catch (const base::ErroreFile& errore) {
+        EXPECT_EQ(errore.percorso(), cartella / "muro.TAB");
+    }
+    EXPECT_EQ(test::contenuto(cartella / "muro.txt"), "vecchio testo");
+}
+
+TEST(ScriviTesto, NeverReplacesItsMarkUpOrTheProject) {
+    CartellaProvvisoria cartella;
+    test::metti(cartella / "muro.TAB", "#RESET\r\nx\r\n");
+    fs::create_hard_link(cartella / "muro.TAB", cartella / "muro.txt");
+    EXPECT_THROW(scriviTesto(cartella / "muro.TAB"), base::ErroreFile);
+    fs::remove(cartella / "muro.txt");
+    test::metti(cartella / "muro.txt", "il progetto");
+    analysis::progettiProtetti.letto = cartella / "muro.txt";
+    EXPECT_THROW(scriviTesto(cartella / "muro.TAB"), base::ErroreFile);
+    analysis::progettiProtetti = {};
+    EXPECT_EQ(test::contenuto(cartella / "muro.txt"), "il progetto");
+}
+
+TEST(RelazioniRimaste, AreThoseThatANewReportWouldReplace) {
+    CartellaProvvisoria cartella;
+    const std::string progetto = cartella / "muro.kvd";
+    EXPECT_TRUE(relazioniRimaste(progetto).empty());
+    test::metti(cartella / "muro.txt", "x");
+    EXPECT_EQ(relazioniRimaste(progetto), std::vector<std::string>{cartella / "muro.txt"});
+    test::metti(cartella / "muro.TAB", "x");
+    EXPECT_EQ(relazioniRimaste(progetto).size(), 2u);
+    test::metti(cartella / "altro.TAB", "x");
+    EXPECT_EQ(relazioniRimaste(cartella / "altro.v2.kvd"),
+              std::vector<std::string>{cartella / "altro.TAB"});
+}
+
+TEST(RelazioneAltrove, IsOneWhosePathIsCutBeforeTheExtension) {
+    EXPECT_TRUE(relazioneAltrove("/home/a.b/muro.kvd"));
+    EXPECT_TRUE(relazioneAltrove("/home/a/muro.v2.kvd"));
+    EXPECT_TRUE(relazioneAltrove("/home/a.b/muro"));
+    EXPECT_FALSE(relazioneAltrove("/home/a/muro.kvd"));
+    EXPECT_FALSE(relazioneAltrove("/home/a/muro"));
 }
 
 }  // namespace

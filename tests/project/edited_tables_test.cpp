@@ -67,6 +67,20 @@ TEST(RiprendiFasi, OutOfDepthOrderExchangesCountsSurchargesAndAnchorStiffnessOnl
     EXPECT_EQ(d.rigTirante[2], 100);
 }
 
+// The wall and the headings are compared with what is stored; a table is not.
+TEST(RiprendiTabelle, ConfirmedWithoutAChangeStillCountAsModified) {
+    DatiProgetto d;
+    azzera(d);
+    const DatiProgetto prima = d;
+    EXPECT_TRUE(riprendiStrati(d, {"0"}));
+    EXPECT_TRUE(riprendiTiranti(d, {"0"}));
+    EXPECT_TRUE(riprendiFasi(d, {"0"}));
+    EXPECT_EQ(d, prima);
+    const std::vector<std::string> strati = {"1", "8", "19", "21", "34", "5", "30000", "G Ghiaia"};
+    EXPECT_TRUE(riprendiStrati(d, strati));
+    EXPECT_TRUE(riprendiStrati(d, strati));
+}
+
 TEST(RiprendiTabelle, RefuseMoreRowsThanTheTableHoldsAndLeaveTheProjectAlone) {
     DatiProgetto d;
     azzera(d);

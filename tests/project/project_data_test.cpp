@@ -32,6 +32,24 @@ TEST(DatiProgetto, ResetClearsOnlyTheFirstHalfOfTheLayerTable) {
     EXPECT_EQ(dati.descrStrato[100], "strato");
 }
 
+TEST(DatiProgetto, ResetClearsTheTwentyRowsOfAnchorsAndStagesThatAreUsed) {
+    DatiProgetto dati;
+    dati.nFasi = dati.nTiranti = 20;
+    for (int k = 1; k <= 50; ++k) dati.sovraccFase[k] = dati.faldaFase[k] = k;
+    for (int k = 1; k <= 20; ++k) dati.profFase[k] = dati.tirantiFase[k] = dati.rigTirante[k] = k;
+    dati.faldaFase[100] = 100;
+    azzera(dati);
+    EXPECT_EQ(dati.nFasi, 0);
+    EXPECT_EQ(dati.nTiranti, 0);
+    for (const double valore : {dati.profFase[20], dati.tirantiFase[20], dati.rigTirante[20],
+                                dati.sovraccFase[20], dati.faldaFase[20]})
+        EXPECT_EQ(valore, 0);
+    EXPECT_EQ(dati.sovraccFase[21], 21);
+    EXPECT_EQ(dati.sovraccFase[50], 50);
+    EXPECT_EQ(dati.faldaFase[21], 21);
+    EXPECT_EQ(dati.faldaFase[100], 100);
+}
+
 TEST(DatiProgetto, ResetLeavesTheDocumentsPathAndDirtyFlagAlone) {
     fileCorrente = "/lavori/muro.kvd";
     modificato = true;

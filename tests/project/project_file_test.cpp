@@ -8,6 +8,7 @@
 
 #include "base/code_page.hpp"
 #include "base/file_error.hpp"
+#include "base/files.hpp"
 #include "support/sample_projects.hpp"
 #include "support/temporary_folder.hpp"
 
@@ -149,6 +150,53 @@ TEST(FileDiProgetto, OfTheOldestFormLoadsKeepsTheLaterFieldsAndComparesAsEqual) 
     EXPECT_FALSE(progettoDiverso(conRigaVuota, d));
 }
 
+TEST(FileDiProgetto, LeavesTheRowsAboveItsCountsAsTheyWere) {
+    DatiProgetto d;
+    azzera(d);
+    d.profStrato[3] = 30;  // of the project that was open before
+    d.rigTirante[2] = 800;
+    d.sovraccFase[3] = 2;
+    auto lettore = file(testoProgetto(test::progettoSemplice()));
+    leggiDati(lettore, d);
+    EXPECT_EQ(d.nStrati, 2);
+    EXPECT_EQ(d.profStrato[3], 30);
+    EXPECT_EQ(d.nTiranti, 1);
+    EXPECT_EQ(d.rigTirante[2], 800);
+    EXPECT_EQ(d.nFasi, 2);
+    EXPECT_EQ(d.sovraccFase[3], 2);
+}
+
+TEST(FileDiProgetto, TurnsLineFeedsInTextsIntoBlanksSoThatNoLineIsShifted) {
+    DatiProgetto d = test::progettoSemplice();
+    const long quante = righe(testoProgetto(d));
+    d.descrStrato[1] = "1 Sabbia\nlimosa";
+    d.titoli[2] = "Lotto 2\n\nvia Roma\n";
+    EXPECT_EQ(righe(testoProgetto(d)), quante);
+    DatiProgetto riletto;
+    auto lettore = file(testoProgetto(d));
+    leggiDati(lettore, riletto);
+    EXPECT_EQ(riletto.descrStrato[1], "1 Sabbia limosa");
+    EXPECT_EQ(riletto.titoli[2], "Lotto 2  via Roma ");
+    EXPECT_EQ(riletto.sezione, d.sezione);
+}
+
+TEST(FileDiProgetto, SavesCharactersOutsideTheCodePageAsQuestionMarks) {
+    const test::CartellaProvvisoria cartella;
+    fileCorrente = cartella / "muro.kvd";
+    Progetto = test::progettoSemplice();
+    Progetto.descrStrato[1] = "1 \u03c6' \u2264 30\u00b0, \u20ac";  // phi and <= have no place
+    Progetto.titoli[1] = "\u6e2f";
+    scriviProgetto();
+    EXPECT_TRUE(progettoDiverso()) << "memory holds what the file can't";
+    leggiProgetto();
+    EXPECT_EQ(Progetto.descrStrato[1], "1 ?' ? 30\u00b0, \u20ac");
+    EXPECT_EQ(Progetto.titoli[1], "?");
+    EXPECT_EQ(Progetto.rigTirante[1], 500);
+    EXPECT_FALSE(progettoDiverso());
+    azzeraProgetto();
+    fileCorrente.clear();
+}
+
 TEST(FileDiProgetto, MayStopBeforeEachOfTheLaterBlocksButNotInsideOne) {
     const std::string intero = testoProgetto(test::progettoSemplice());
     for (const long mancanti : {0, 1, 9, 15}) {
@@ -176,6 +224,26 @@ TEST(FileDiProgetto, RefusesCountsThatAreNoRowCounts) {
             EXPECT_NE(errore.atteso().find("da 0 a 100"), std::string::npos);
         }
     }
+}
+
+// Two layers are written but four counted: what breaks is a line further down.
+TEST(FileDiProgetto, RemindsOfTheCountsWhereAFileIsReadOutOfStep) {
+    const test::CartellaProvvisoria cartella;
+    fileCorrente = cartella / "muro.kvd";
+    std::string testo = testoProgetto(test::progettoSemplice());
+    testo.replace(0, 1, "4");
+    base::scriviFile(fileCorrente, testo);
+    try {
+        leggiProgetto();
+        FAIL();
+    } catch (const base::ErroreFile& errore) {
+        EXPECT_GT(errore.riga(), 17);
+        EXPECT_TRUE(errore.atteso().ends_with(
+            "; controllare anche i numeri di strati, tiranti e fasi: le righe che li seguono "
+            "devono essere altrettante"))
+            << errore.atteso();
+    }
+    fileCorrente.clear();
 }
 
 TEST(FileDiProgetto, NamesTheFieldThatHoldsNoNumber) {

@@ -36,6 +36,14 @@ class DialogoFinto : public base::Dialogo {
     Risposta risposta_;
 };
 
+TEST(RigidezzaOfferta, IsNothingForASectionThatIsNotDefinedOrHasNoNumber) {
+    EXPECT_FALSE(rigidezzaOfferta({}));
+    auto enorme = paliTubolari();
+    enorme.paliDiamEst = 1e90;
+    EXPECT_FALSE(rigidezzaOfferta(enorme));
+    EXPECT_EQ(rigidezzaOfferta(paliTubolari()), 40999);  // see below
+}
+
 // EJ = 1000 (pi/4) (30000 x 290^4 + 200000 (300^4 - 290^4)) / 800 = 40999.97 x 1e10 N mm2, of which
 // the whole part is taken and not the nearest number.
 const double ejTubi = 40999;

@@ -95,6 +95,19 @@ TEST(AreePalancola, FillTheLastStripOfAFlatInPart) {
     EXPECT_NEAR(somma(aree.As), 1000 * (2 * 18 * (200 - tw) + 400 * 2 * tw) / 800, 1e-8);
 }
 
+// 100 deep with flats of 60.5 mm, which overlap: strips of 1 mm, 60 of them full from either face,
+// and half of strip 61 from the top, of strip 40 from below, set last.
+TEST(AreePalancola, FlatsThatOverlapLeaveTheirEndStripsPartFilled) {
+    const PalancolaMm p{
+        .base = 200, .largAla = 50, .altAla = 19.75, .spessore = 60.5, .spessAla = 10};
+    const double tw = spessoreOrizzontaleAla(p);
+    const AreeStrisce aree = areePalancola(p, 1000);
+    const double onda = 4 * 50 + 2 * 200, ali = 1000 * 2 * tw / onda;
+    for (int i : {1, 39, 41, 50, 60, 62, 100})
+        EXPECT_NEAR(aree.As[i], ali + 1000 * (200 - tw) / onda, 1e-9) << i;
+    for (int i : {40, 61}) EXPECT_NEAR(aree.As[i], ali + 1000 * 0.5 * (200 - tw) / onda, 1e-9) << i;
+}
+
 TEST(AreePalancola, ProfileWithoutHeightIsAllFlat) {
     const PalancolaMm p{
         .base = 200, .largAla = 1e-20, .altAla = 1e-20, .spessore = 20, .spessAla = 10};

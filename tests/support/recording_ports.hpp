@@ -53,11 +53,15 @@ class AvanzamentoFinto : public analysis::Avanzamento {
 /// Counts the outputs asked for.
 class UscitaFinta : public analysis::UscitaCalcolo {
  public:
+    [[nodiscard]] std::vector<std::string> file(int, const std::string&) const override {
+        return daScrivere;
+    }
     void scriviRelazione() override { ++relazioni; }
     void disegnaDiagramma(int modoUscita) override { diagrammi.push_back(modoUscita); }
 
     int relazioni = 0;
     std::vector<int> diagrammi;
+    std::vector<std::string> daScrivere;
 };
 
 }  // namespace korven::test

@@ -7,6 +7,7 @@
 #include <cstdint>
 
 #include "analysis/linear_system.hpp"
+#include "analysis/vector_lanes.hpp"
 #include "support/reference_solver.hpp"
 
 namespace korven::test {
@@ -25,18 +26,36 @@ struct SistemaDoppio {
 
     void assegna(int i, int j, double v) { A(i, j) = piena(i, j) = v; }
 
-    /// Solves both and compares the outcome, x, and the last `bordo` rows and columns of the
-    /// inverse; every other cell of A must be as before, and on a singular system x as well.
+    /// Solves both, ours in each version that this processor can run, and compares the outcome, x,
+    /// and the last `bordo` rows and columns of the inverse; every other cell of A must be as
+    /// before, and on a singular system x as well.
     void confronta(int n, int bordo) {
         using analysis::EsitoSistema;
         for (int i = 1; i <= n; ++i)
             for (int j = 1; j <= n; ++j) prima_(i, j) = A(i, j);
-        for (int i = 1; i <= n; ++i) x[i] = xPiena[i] = -77.0 - i;
-
+        for (int i = 1; i <= n; ++i) xPiena[i] = -77.0 - i;
         const EsitoSistema atteso = risolviPassoPasso(n, piena, b, xPiena);
+        ++(atteso == EsitoSistema::risolto ? risolti : singolari);
+
+        const bool suoi = analysis::registriLarghi;
+        for (const bool larghi : {false, true}) {
+            if (larghi && !suoi) continue;
+            analysis::registriLarghi = larghi;
+            confrontaVersione(n, bordo, atteso);
+            analysis::registriLarghi = suoi;
+            if (::testing::Test::HasFatalFailure()) return;
+        }
+    }
+
+ private:
+    void confrontaVersione(int n, int bordo, analysis::EsitoSistema atteso) {
+        using analysis::EsitoSistema;
+        for (int i = 1; i <= n; ++i) {
+            x[i] = -77.0 - i;
+            for (int j = 1; j <= n; ++j) A(i, j) = prima_(i, j);
+        }
         const EsitoSistema esito = analysis::RisolviSistema(n, A, b, x, bordo);
         ASSERT_EQ(esito, atteso);
-        ++(esito == EsitoSistema::risolto ? risolti : singolari);
         for (int i = 1; i <= n; ++i)
             ASSERT_TRUE(stessiBit(x[i], xPiena[i])) << "x " << i << ' ' << x[i] << ' ' << xPiena[i];
         for (int i = 1; i <= n; ++i)
@@ -48,7 +67,6 @@ struct SistemaDoppio {
             }
     }
 
- private:
     analysis::MatriceSistema prima_;
 };
 

@@ -1,0 +1,62 @@
+#include "batch/failure.hpp"
+
+#include <algorithm>
+#include <exception>
+#include <iostream>
+
+#include "analysis/output_guard.hpp"
+#include "base/file_names.hpp"
+#include "base/files.hpp"
+#include "base/table.hpp"
+#include "base/translated_texts.hpp"
+#include "base/value_error.hpp"
+#include "project/project_data.hpp"
+
+namespace korven::batch {
+
+namespace {
+
+// As after a singular system: what can't be shown must not be taken for up to date.
+void togliRisultati(Esito& esito) {
+    esito.calcolo.reset();
+    const std::string risultati = base::nomeRisultati(project::fileCorrente);
+    if (esito.progettoLetto && esito.comando != "verifica" &&
+        !analysis::prendeIlPostoDelProgetto(risultati))
+        base::cancellaFile(risultati);
+}
+
+}  // namespace
+
+void raccontaGuasto(Esito& esito) {
+    try {
+        throw;
+    } catch (const base::ErroreValore& errore) {
+        togliRisultati(esito);
+        fallisci(nonEseguito, esito.progetto + ": " + errore.what(), esito);
+    } catch (const base::ErroreIndice& errore) {
+        fallisci(ingressoRotto, esito.progetto + ": " + spiegazione(errore), esito);
+    } catch (const std::exception& errore) {
+        fallisci(ingressoRotto, errore.what(), esito);
+    }
+}
+
+void fallisci(int codice, const std::string& perche, Esito& esito) {
+    std::cerr << "korven32c: " << perche << '\n';
+    esito.messaggi.push_back(perche);
+    esito.codice = codice;
+    esito.guasto = true;
+}
+
+void avvisaRelazioniRimaste(Esito& esito) {
+    for (const auto& file : commands::relazioniRimaste(project::fileCorrente)) {
+        const auto& scritti = esito.fileScritti;
+        if (std::find(scritti.begin(), scritti.end(), file) != scritti.end()) continue;
+        const std::string avviso =
+            base::traduttore("File di un calcolo precedente, non di questo stato del progetto") +
+            ": " + file;
+        std::cerr << avviso << '\n';
+        esito.messaggi.push_back(avviso);
+    }
+}
+
+}  // namespace korven::batch

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <string>
+
+#include "batch/outcome.hpp"
+
+namespace korven::batch {
+
+enum CodiceUscita { fatto = 0, nonEseguito = 1, usoErrato = 2, ingressoRotto = 3 };
+
+/// Tells the exception in flight on standard error and writes it into the outcome, with the exit
+/// code that belongs to it:
+///
+/// | what went wrong | exit code |
+/// | --- | --- |
+/// | a value is too large to be shown: like a result that is not finite, no result file stays | 1 |
+/// | broken input, an index beyond a table, full disk, anything else | 3 |
+///
+/// @pre called from the handler of an exception derived from std::exception
+void raccontaGuasto(Esito& esito);
+
+/// Tells on standard error why a command failed and writes it into the outcome.
+void fallisci(int codice, const std::string& perche, Esito& esito);
+
+/// Tells of the report and the text of an earlier run, which lie where those of this failed one
+/// would be and may be taken for them.
+void avvisaRelazioniRimaste(Esito& esito);
+
+}  // namespace korven::batch

@@ -1,0 +1,20 @@
+#include "batch/shown_number.hpp"
+
+#include <charconv>
+#include <cmath>
+
+#include "base/number_text.hpp"
+
+namespace korven::batch {
+
+std::string numeroMostrato(double valore, int decimali, int potenza) {
+    const double mostrato = valore * std::pow(10, potenza);
+    if (!std::isfinite(mostrato)) return "-";
+    if (std::fabs(mostrato) < 1e9) return base::testoDecimali(valore, decimali, potenza);
+    char testo[32];
+    const auto fine =
+        std::to_chars(testo, testo + sizeof testo, mostrato, std::chars_format::scientific, 3).ptr;
+    return {testo, fine};
+}
+
+}  // namespace korven::batch

@@ -1,0 +1,89 @@
+#include <algorithm>
+
+#include "analysis/anchors_in_place.hpp"
+#include "base/translated_texts.hpp"
+#include "commands/review_list.hpp"
+
+namespace korven::commands {
+
+namespace {
+
+using project::DatiProgetto;
+
+// Rows of the table that are not counted may still hold an anchor of an earlier project.
+bool agiscono(const DatiProgetto& dati, int da, int a) {
+    for (int j = da; j <= a; ++j)
+        if (dati.rigTirante[j] != 0 || dati.pretTirante[j] != 0) return true;
+    return false;
+}
+
+std::string_view tirantiDiTroppo(const DatiProgetto& dati, int k) {
+    return agiscono(dati, dati.nTiranti + 1, analysis::tirantiInOpera(dati, k))
+               ? "più tiranti di quelli definiti: agiscono anche righe rimaste oltre il conteggio"
+               : "più tiranti di quelli definiti: gli altri non hanno effetto";
+}
+
+void numeroTiranti(const DatiProgetto& dati, int k, ElencoRilievi& elenco) {
+    const double inOpera = dati.tirantiFase[k];
+    const auto dici = [&](std::string_view testo) {
+        return rigaCampo("fase", k, "Numero tot. tiranti", inOpera, testo);
+    };
+    if (inOpera >= project::massimoTiranti + 1)
+        elenco.impedimento(dici("più tiranti di quanti ne tiene la tabella (20)"));
+    else if (inOpera > dati.nTiranti)
+        elenco.avviso(dici(tirantiDiTroppo(dati, k)));
+    else if (inOpera < 0)
+        elenco.avviso(dici("valore negativo"));
+    if (!intero(inOpera)) elenco.avviso(dici("il numero di tiranti non è intero"));
+    if (k > 1 && inOpera < dati.tirantiFase[k - 1])
+        elenco.avviso(dici("i tiranti sono meno che nella fase precedente"));
+}
+
+}  // namespace
+
+void controlloTiranti(const DatiProgetto& dati, ElencoRilievi& elenco) {
+    for (int j = 1; j <= dati.nTiranti; ++j) {
+        const double prof = dati.profTirante[j];
+        const double rig = dati.rigTirante[j];
+        const double pret = dati.pretTirante[j];
+        const auto avvisaSe = [&](bool dubbio, std::string_view etichetta, double valore,
+                                  std::string_view testo) {
+            if (dubbio) elenco.avviso(rigaCampo("tirante", j, etichetta, valore, testo));
+        };
+        avvisaSe(dati.lunghezzaParatia > 0 && prof > dati.lunghezzaParatia, "Prof. [m]", prof,
+                 "è più profondo della paratia");
+        avvisaSe(prof < 0, "Prof. [m]", prof, "è sopra la testa della paratia");
+        avvisaSe(j > 1 && prof < dati.profTirante[j - 1], "Prof. [m]", prof,
+                 "è più in alto del precedente");
+        avvisaSe(rig < 0, "Rigidezza [kN/m]", rig * 10, "valore negativo");
+        avvisaSe(rig == 0 && pret == 0, "Rigidezza [kN/m]", rig * 10,
+                 "senza rigidezza né pretensione il tirante non agisce");
+        avvisaSe(pret < 0, "Pretens. [kN]", pret * 10, "valore negativo");
+        if (dati.tipoTirante[j] != 0 && dati.tipoTirante[j] != 1)
+            elenco.avviso(
+                conValore(riga("tirante", j,
+                               "tipo non previsto: il calcolo lo fa agire solo a "
+                               "trazione, la relazione lo dice a trazione e compressione"),
+                          dati.tipoTirante[j]));
+    }
+}
+
+void controlloFasi(const DatiProgetto& dati, ElencoRilievi& elenco) {
+    for (int k = 1; k <= dati.nFasi; ++k) {
+        const double scavo = dati.profFase[k];
+        numeroTiranti(dati, k, elenco);
+        const auto avvisaSe = [&](bool dubbio, std::string_view testo) {
+            if (dubbio) elenco.avviso(rigaCampo("fase", k, "Prof. [m]", scavo, testo));
+        };
+        avvisaSe(scavo < 0, "lo scavo è sopra la testa della paratia");
+        avvisaSe(k > 1 && scavo < dati.profFase[k - 1],
+                 "lo scavo è meno profondo che nella fase precedente");
+        avvisaSe(dati.lunghezzaParatia > 0 && scavo >= dati.lunghezzaParatia,
+                 "lo scavo raggiunge o supera il piede della paratia");
+        if (dati.sovraccFase[k] < 0)
+            elenco.avviso(rigaCampo("fase", k, "Sovracc. [kN/m²]", dati.sovraccFase[k] * 10,
+                                    "valore negativo"));
+    }
+}
+
+}  // namespace korven::commands

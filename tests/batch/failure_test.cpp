@@ -1,0 +1,67 @@
+#include "batch/failure.hpp"
+
+#include <gtest/gtest.h>
+
+#include "analysis/output_guard.hpp"
+#include "base/file_error.hpp"
+#include "base/files.hpp"
+#include "base/table.hpp"
+#include "base/value_error.hpp"
+#include "project/project_data.hpp"
+#include "support/temporary_folder.hpp"
+
+namespace korven::batch {
+namespace {
+
+template <class Errore>
+Esito dopo(const Errore& errore, const std::string& progetto = "muro.kvd") {
+    Esito esito;
+    esito.comando = "calcola";
+    esito.progetto = progetto;
+    esito.progettoLetto = true;
+    esito.calcolo.emplace();
+    ::testing::internal::CaptureStderr();
+    try {
+        throw errore;
+    } catch (const std::exception&) {
+        raccontaGuasto(esito);
+    }
+    EXPECT_EQ(::testing::internal::GetCapturedStderr(),
+              "korven32c: " + esito.messaggi.at(0) + "\n");
+    EXPECT_TRUE(esito.guasto);
+    return esito;
+}
+
+TEST(RaccontaGuasto, GivesThreeForAllThatComesFromOutside) {
+    const auto rotto = dopo(base::ErroreFile("muro.kvd", 7, "atteso un numero"));
+    EXPECT_EQ(rotto.codice, ingressoRotto);
+    EXPECT_EQ(rotto.messaggi[0], "muro.kvd, riga 7: atteso un numero");
+    EXPECT_EQ(dopo(std::runtime_error("altro")).codice, ingressoRotto);
+}
+
+TEST(RaccontaGuasto, TellsAnIndexBeyondATableInTheWordsOfTheTexts) {
+    const auto esito = dopo(base::ErroreIndice(21, 20));
+    EXPECT_EQ(esito.codice, ingressoRotto);
+    EXPECT_EQ(esito.messaggi[0],
+              "muro.kvd: i dati chiedono più righe di quante ne tiene una tabella (21 > 20)");
+}
+
+TEST(RaccontaGuasto, GivesOneForAValueTooLargeToBeShownAndLeavesNoResultFile) {
+    const test::CartellaProvvisoria cartella;
+    project::fileCorrente = cartella / "muro.kvd";
+    test::metti(cartella / "muro.OUT", "risultati");
+    const auto esito = dopo(base::ErroreValore(), project::fileCorrente);
+    EXPECT_EQ(esito.codice, nonEseguito);
+    EXPECT_FALSE(esito.calcolo);
+    EXPECT_FALSE(base::esisteFile(cartella / "muro.OUT"));
+
+    test::metti(cartella / "muro.OUT", "il progetto");
+    analysis::progettiProtetti.letto = cartella / "muro.OUT";
+    (void)dopo(base::ErroreValore(), project::fileCorrente);
+    EXPECT_TRUE(base::esisteFile(cartella / "muro.OUT"));
+    analysis::progettiProtetti = {};
+    project::fileCorrente.clear();
+}
+
+}  // namespace
+}  // namespace korven::batch

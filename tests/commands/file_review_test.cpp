@@ -1,0 +1,66 @@
+#include <gtest/gtest.h>
+
+#include "base/code_page.hpp"
+#include "base/file_error.hpp"
+#include "project/project_file.hpp"
+#include "review_bench.hpp"
+
+namespace korven::commands {
+namespace {
+
+std::vector<std::string> righeFile(const std::string& testo) {
+    const test::CartellaProvvisoria cartella;
+    const std::string percorso = cartella / "muro.kvd";
+    base::scriviFile(percorso, base::inCp1252(testo));
+    DatiProgetto dati;
+    auto file = base::LettoreRighe::apri(percorso);
+    project::leggiDati(file, dati);
+    std::vector<std::string> trovate;
+    for (const auto& r : esaminaFile(percorso, dati))
+        trovate.push_back((r.impedisce ? "! " : "") + r.testo);
+    return trovate;
+}
+
+std::string conScambio(const std::string& vecchio, const std::string& nuovo) {
+    std::string testo = project::testoProgetto(test::progettoSemplice());
+    return testo.replace(testo.find("\r\n" + vecchio + "\r\n") + 2, vecchio.size(), nuovo);
+}
+
+TEST(EsaminaFile, FindsNothingInAFileThatTheProgramWrote) {
+    EXPECT_TRUE(righeFile(project::testoProgetto(test::progettoSemplice())).empty());
+}
+
+TEST(EsaminaFile, TellsADecimalCommaWithItsLineItsFieldAndWhatWasRead) {
+    EXPECT_EQ(righeFile(conScambio("12000", "12000,5")),
+              std::vector<std::string>{"riga 27: rigidezza EJ = 12000: il resto della riga non "
+                                       "conta, il segno decimale è il punto (12000,5)"});
+}
+
+TEST(EsaminaFile, PutsTheLinesBehindWhatTheProjectItselfShows) {
+    const auto trovate = righeFile(conScambio("1.8", "18 kN/m3"));
+    ASSERT_EQ(trovate.size(), 2u);
+    EXPECT_TRUE(trovate[0].starts_with("strato 1: Gamma [kN/m³] = 180: sembra un peso in kN/m³"));
+    EXPECT_TRUE(trovate[1].starts_with("riga 3: peso naturale dello strato 1 = 18: "));
+}
+
+TEST(EsaminaFile, TellsThatRankineAndBellDoNotSurviveTheReading) {
+    DatiProgetto d = test::progettoSemplice();
+    d.metodoSpinte = 2;
+    EXPECT_EQ(righeFile(project::testoProgetto(d)),
+              std::vector<std::string>{"riga 24: metodo delle spinte = 2: un progetto si riapre "
+                                       "sempre con il metodo di Coulomb (1)"});
+}
+
+TEST(EsaminaFile, TellsLinesBehindTheLastValueAsAMiscount) {
+    EXPECT_EQ(righeFile(project::testoProgetto(test::progettoSemplice()) + "4\r\n"),
+              std::vector<std::string>{
+                  "riga 88: il file continua dopo l'ultimo valore: i numeri di strati, tiranti e "
+                  "fasi non sono quelli delle righe scritte"});
+}
+
+TEST(EsaminaFile, RaisesTheErrorOfAFileThatIsGone) {
+    EXPECT_THROW((void)esaminaFile("/non/esiste.kvd", test::progettoSemplice()), base::ErroreFile);
+}
+
+}  // namespace
+}  // namespace korven::commands

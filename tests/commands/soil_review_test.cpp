@@ -1,0 +1,177 @@
+#include <gtest/gtest.h>
+
+#include "base/number_text.hpp"
+#include "review_bench.hpp"
+
+namespace korven::commands {
+namespace {
+
+TEST(ControlloTerreno, NamesWhatIsOddAboutLayers) {
+    aspetta({
+        {[](DatiProgetto& d) { d.profStrato[1] = 25; },
+         {"strato 2: Prof. [m] = 20: finisce più in alto dello strato precedente"}},
+        {[](DatiProgetto& d) { d.profStrato[1] = 20; },
+         {"strato 2: Prof. [m] = 20: ha spessore nullo"}},
+        {[](DatiProgetto& d) { d.gammaN[2] = 0; },
+         {"strato 2: Gamma [kN/m³] = 0: peso di volume mancante"}},
+        {[](DatiProgetto& d) { d.gammaSat[1] = 0; },
+         {"strato 1: Gamma Sat. [kN/m³] = 0: peso di volume mancante"}},
+        {[](DatiProgetto& d) { d.ksStrato[1] = 0; },
+         {"strato 1: ks [kN/m³] = 0: modulo ks mancante"}},
+        {[](DatiProgetto& d) {
+             d.metodoKs = 1;
+             d.ksStrato[1] = 0;
+         },
+         {}},
+        {[](DatiProgetto& d) { d.metodoKs = 2; },
+         {"coefficiente m = 0: il terreno non ha rigidezza"}},
+        {[](DatiProgetto& d) {
+             d.metodoKs = 2;
+             d.coeffM = 100;
+         },
+         {}},
+        {[](DatiProgetto& d) { d.profStrato[2] = 11.5; },
+         {"strato 2: Prof. [m] = 11.5: gli strati finiscono sopra il piede della paratia: l'ultimo "
+          "viene prolungato"}},
+        {[](DatiProgetto& d) { d.profStrato[2] = 12; }, {}},
+    });
+}
+
+TEST(ControlloTerreno, TellsASlopeAboveTheFrictionAngleAndRefusesItWhereTheRunDoes) {
+    const auto avviso = [](double phi) {
+        return "strato 1: Phi [°] = " + base::testoNumero(phi) +
+               ": l'angolo di attrito è minore dell'inclinazione del terreno";
+    };
+    const std::string rifiuto =
+        "! fase 1, profondità 0 m: coefficienti di spinta non definiti: l'inclinazione del terreno "
+        "supera l'angolo di attrito";
+    const struct {
+        double metodo, phi;
+        std::vector<std::string> atteso;
+    } casi[] = {
+        {1, 20, {rifiuto, avviso(20)}},
+        {2, 20, {rifiuto, avviso(20)}},
+        {3, 20, {avviso(20)}},  // the slope is no part of Bell's coefficients
+        {1, 0, {avviso(0)}},    // without friction Coulomb's root is of nothing
+        {2, 0, {rifiuto, avviso(0)}},
+        {1, 26, {}},
+        {2, 26, {}},
+    };
+    for (const auto& caso : casi) {
+        const auto d = conModifica([&](DatiProgetto& p) {
+            p.inclinazioneMonte = 25;
+            p.metodoSpinte = caso.metodo;
+            p.phiStrato[1] = caso.phi;
+        });
+        EXPECT_EQ(righe(d), caso.atteso) << caso.metodo << ' ' << caso.phi;
+        const bool impedita = !caso.atteso.empty() && caso.atteso[0] == rifiuto;
+        EXPECT_EQ(laCorsaRiesce(d), !impedita) << caso.metodo << ' ' << caso.phi;
+    }
+}
+
+TEST(ControlloTerreno, DoesNotRefuseASlopeAboveTheFrictionOfALayerThatNoNodeLiesIn) {
+    const auto d = conModifica([](DatiProgetto& p) {
+        p.inclinazioneMonte = 25;
+        p.phiStrato[1] = 30;
+        p.phiStrato[2] = 34;
+        p.nStrati = 3;
+        p.profStrato[3] = 30;
+        p.gammaN[3] = p.gammaSat[3] = 2;
+        p.ksStrato[3] = 100;
+        p.phiStrato[3] = 10;
+    });
+    EXPECT_EQ(righe(d),
+              std::vector<std::string>{
+                  "strato 3: Phi [°] = 10: l'angolo di attrito è minore dell'inclinazione del "
+                  "terreno"});
+    EXPECT_TRUE(laCorsaRiesce(d));
+}
+
+TEST(ControlloTerreno, RefusesAFallingSlopeSteeperThanTheFrictionAngleInWordsOfItsOwn) {
+    const auto d = conModifica([](DatiProgetto& p) { p.inclinazioneMonte = -32; });
+    EXPECT_EQ(righe(d),
+              (std::vector<std::string>{
+                  "! fase 1, profondità 0 m: coefficienti di spinta non definiti: la pendenza in "
+                  "discesa del terreno supera l'angolo di attrito",
+                  "strato 1: Phi [°] = 30: l'angolo di attrito è minore dell'inclinazione del "
+                  "terreno"}));
+    EXPECT_FALSE(laCorsaRiesce(d));
+}
+
+TEST(ControlloTerreno, NamesValuesThatNoSoilHas) {
+    const std::string kN =
+        ": sembra un peso in kN/m³: il file lo tiene in t/m³, dieci volte più piccolo";
+    aspetta({
+        {[](DatiProgetto& d) { d.gammaN[1] = d.gammaSat[1] = 18; },
+         {"strato 1: Gamma [kN/m³] = 180" + kN, "strato 1: Gamma Sat. [kN/m³] = 180" + kN}},
+        {[](DatiProgetto& d) { d.gammaSat[2] = 1.5; },
+         {"strato 2: Gamma Sat. [kN/m³] = 15: il peso saturo è minore di quello naturale"}},
+        {[](DatiProgetto& d) { d.gammaSat[2] = 1.9; }, {}},
+        {[](DatiProgetto& d) { d.coesione[2] = -0.5; },
+         {"strato 2: Coes. [kN/m²] = -5: valore negativo"}},
+        {[](DatiProgetto& d) { d.ksStrato[2] = -10; },
+         {"strato 2: ks [kN/m³] = -100: valore negativo"}},
+        {[](DatiProgetto& d) { d.sovraccMonte = -1; },
+         {"Sovraccarico verticale lato monte [kN/m²] = -10: valore negativo"}},
+        {[](DatiProgetto& d) { d.gammaAcqua = 9.81; }, {"peso dell'acqua = 9.81" + kN}},
+        {[](DatiProgetto& d) { d.gammaAcqua = 0; },
+         {"peso dell'acqua = 0: peso di volume mancante"}},
+        {[](DatiProgetto& d) { d.phiStrato[1] = 95; },
+         {"strato 1: Phi [°] = 95: l'angolo non è ammissibile"}},
+        {[](DatiProgetto& d) { d.phiStrato[1] = -1; },
+         {"strato 1: Phi [°] = -1: l'angolo non è ammissibile",
+          "strato 1: Phi [°] = -1: l'angolo di attrito è minore dell'inclinazione del terreno"}},
+    });
+}
+
+TEST(ControlloTerreno, RefusesAFrictionAngleAtThePoleOnly) {
+    const auto polo = conModifica([](DatiProgetto& p) { p.phiStrato[1] = 90; });
+    EXPECT_EQ(righe(polo)[0],
+              "! fase 1, profondità 0 m: coefficienti di spinta non definiti: divisione per zero");
+    EXPECT_FALSE(laCorsaRiesce(polo));
+    const auto oltre = conModifica([](DatiProgetto& p) {
+        p.phiStrato[1] = p.phiStrato[2] = 60;
+        p.inclinazioneMonte = 45;
+    });
+    const std::string avviso =
+        ": Phi [°] = 60: con l'inclinazione del terreno arriva a 90°: il coefficiente passivo di "
+        "Coulomb non ha significato";
+    EXPECT_EQ(righe(oltre), (std::vector<std::string>{"strato 1" + avviso, "strato 2" + avviso}));
+    EXPECT_TRUE(laCorsaRiesce(oltre));
+}
+
+TEST(ControlloTerreno, TellsAWallThatReachesBelowTheDeepenedLastLayer) {
+    const auto d = [](double fondo) {
+        return conModifica([&](DatiProgetto& p) {
+            p.lunghezzaParatia = 120;
+            p.profStrato[2] = fondo;
+        });
+    };
+    EXPECT_EQ(righe(d(19)),
+              std::vector<std::string>{"strato 2: Prof. [m] = 19: la paratia scende più di 100 m "
+                                       "sotto l'ultimo strato: là sotto non ha terreno"});
+    EXPECT_EQ(righe(d(20)), std::vector<std::string>{
+                                "strato 2: Prof. [m] = 20: gli strati finiscono sopra il piede "
+                                "della paratia: l'ultimo viene prolungato"});
+}
+
+// Water 2 m above the ground on light soil: at depth 0.6 its effective stress is -0.06 + 0.02.
+TEST(ControlloSuolo, TellsASpringThatPushesOnOnceAndLetsTheRunGoOn) {
+    const auto d = conModifica([](DatiProgetto& p) {
+        p.metodoKs = 1;
+        p.sovraccMonte = 0;
+        p.faldaMonte = -2;
+        p.gammaN[1] = 0.5;
+        p.gammaSat[1] = 0.9;
+    });
+    const auto trovate = righe(d);
+    ASSERT_EQ(trovate.size(), 1u);
+    EXPECT_TRUE(trovate[0].starts_with("fase 1, profondità 0 m: ks [kN/m³] = -"));
+    EXPECT_TRUE(
+        trovate[0].ends_with("il terreno spinge invece di reagire, come accade con una "
+                             "tensione efficace negativa"));
+    EXPECT_TRUE(calcolabile(esaminaProgetto(d)));
+}
+
+}  // namespace
+}  // namespace korven::commands

@@ -1,0 +1,97 @@
+#include <gtest/gtest.h>
+
+#include "review_bench.hpp"
+
+namespace korven::commands {
+namespace {
+
+TEST(ControlloTiranti, NamesWhatIsOddAboutAnchors) {
+    aspetta({
+        {[](DatiProgetto& d) { d.profTirante[1] = 12.5; },
+         {"tirante 1: Prof. [m] = 12.5: è più profondo della paratia"}},
+        {[](DatiProgetto& d) { d.profTirante[1] = -1; },
+         {"tirante 1: Prof. [m] = -1: è sopra la testa della paratia"}},
+        {[](DatiProgetto& d) {
+             d.nTiranti = 2;
+             d.profTirante[2] = 1;
+             d.rigTirante[2] = 500;
+         },
+         {"tirante 2: Prof. [m] = 1: è più in alto del precedente"}},
+        {[](DatiProgetto& d) { d.rigTirante[1] = -500; },
+         {"tirante 1: Rigidezza [kN/m] = -5000: valore negativo"}},
+        {[](DatiProgetto& d) { d.pretTirante[1] = -5; },
+         {"tirante 1: Pretens. [kN] = -50: valore negativo"}},
+        {[](DatiProgetto& d) { d.rigTirante[1] = d.pretTirante[1] = 0; },
+         {"tirante 1: Rigidezza [kN/m] = 0: senza rigidezza né pretensione il tirante non "
+          "agisce"}},
+        {[](DatiProgetto& d) { d.rigTirante[1] = 0; }, {}},
+        {[](DatiProgetto& d) { d.profTirante[1] = 12; }, {}},
+    });
+}
+
+TEST(ControlloFasi, NamesWhatIsOddAboutTheAnchorsOfAStage) {
+    aspetta({
+        {[](DatiProgetto& d) { d.tirantiFase[2] = 2; },
+         {"fase 2: Numero tot. tiranti = 2: più tiranti di quelli definiti: gli altri non hanno "
+          "effetto"}},
+        {[](DatiProgetto& d) { d.tirantiFase[1] = -1; },
+         {"fase 1: Numero tot. tiranti = -1: valore negativo"}},
+        {[](DatiProgetto& d) { d.tirantiFase[2] = 0.5; },
+         {"fase 2: Numero tot. tiranti = 0.5: il numero di tiranti non è intero"}},
+        {[](DatiProgetto& d) {
+             d.tirantiFase[1] = 1;
+             d.tirantiFase[2] = 0;
+         },
+         {"fase 2: Numero tot. tiranti = 0: i tiranti sono meno che nella fase precedente"}},
+    });
+}
+
+TEST(ControlloFasi, RefusesMoreAnchorsThanTheTableHoldsAsTheRunDoes) {
+    for (const double troppi : {21.0, 25.0, 1e15}) {
+        const auto d = conModifica([&](DatiProgetto& p) { p.tirantiFase[2] = troppi; });
+        EXPECT_EQ(righe(d).size(), 1u);
+        EXPECT_TRUE(righe(d)[0].starts_with("! fase 2: Numero tot. tiranti = "));
+        EXPECT_TRUE(righe(d)[0].ends_with(": più tiranti di quanti ne tiene la tabella (20)"));
+        EXPECT_FALSE(laCorsaRiesce(d)) << troppi;
+    }
+    EXPECT_TRUE(laCorsaRiesce(conModifica([](DatiProgetto& p) { p.tirantiFase[2] = 20; })));
+    EXPECT_TRUE(laCorsaRiesce(conModifica([](DatiProgetto& p) { p.tirantiFase[1] = -1e15; })));
+}
+
+TEST(ControlloFasi, NamesStagesOutOfOrderAndExcavationsBelowTheWall) {
+    aspetta({
+        {[](DatiProgetto& d) { d.profFase[1] = 6; },
+         {"fase 2: Prof. [m] = 5: lo scavo è meno profondo che nella fase precedente"}},
+        {[](DatiProgetto& d) { d.profFase[2] = 12; },
+         {"fase 2: Prof. [m] = 12: lo scavo raggiunge o supera il piede della paratia"}},
+        {[](DatiProgetto& d) { d.profFase[1] = 5; }, {}},
+        {[](DatiProgetto& d) { d.profFase[1] = -1; },
+         {"fase 1: Prof. [m] = -1: lo scavo è sopra la testa della paratia"}},
+        {[](DatiProgetto& d) { d.sovraccFase[2] = -2; },
+         {"fase 2: Sovracc. [kN/m²] = -20: valore negativo"}},
+    });
+}
+
+// A table that was shortened, or a project read after another, leaves anchors beyond the count.
+TEST(ControlloFasi, TellWhenAnchorsBeyondTheCountActAsTheyDoInTheRun) {
+    const auto d = [](double rigidezza) {
+        return conModifica([&](DatiProgetto& p) {
+            p.tirantiFase[2] = 2;
+            p.profTirante[2] = 3;
+            p.rigTirante[2] = rigidezza;
+        });
+    };
+    EXPECT_EQ(righe(d(800)), std::vector<std::string>{
+                                 "fase 2: Numero tot. tiranti = 2: più tiranti di quelli definiti: "
+                                 "agiscono anche righe rimaste oltre il conteggio"});
+    double testa[2];
+    for (int i = 0; i < 2; ++i) {
+        test::Banco banco(d(i * 800.0), 20);
+        banco.calcola();
+        testa[i] = banco.leggi()[1].yNodo[1];
+    }
+    EXPECT_LT(testa[1], testa[0]);
+}
+
+}  // namespace
+}  // namespace korven::commands
