@@ -6,32 +6,33 @@
 #include "base/code_page.hpp"
 #include "base/file_error.hpp"
 #include "base/text_table.hpp"
+#include "tools/source_lines.hpp"
 
 namespace korven::tools {
 
 namespace {
 
-constexpr std::string_view tags[] = {"it: ", "de: ", "fr: ", "es: ", "en: ", "pt: "};
+constexpr const auto& tags = languageMarks;
 constexpr std::string_view fileMark = "@file ";
 
 class SourceReader {
  public:
-    explicit SourceReader(const std::string& path) : path_(path) {}
+    explicit SourceReader(SourceLines lines) : lines_(std::move(lines)) {}
 
+    std::vector<TextRecord> all() {
+        while (const auto text = lines_.next()) line(*text);
+        endRecord();
+        return std::move(records_);
+    }
+
+ private:
     void line(std::string_view text) {
-        ++number_;
         if (text.starts_with('#')) return;
         if (text.empty()) return endRecord();
         if (text.starts_with(fileMark)) return newFile(text.substr(fileMark.size()));
         translation(text);
     }
 
-    std::vector<TextRecord> end() {
-        endRecord();
-        return std::move(records_);
-    }
-
- private:
     void newFile(std::string_view name) {
         endRecord();
         file_ = name;
@@ -44,7 +45,7 @@ class SourceReader {
             refuse("attesa la riga \"" + std::string(tags[filled_]) + "...\"");
         text.remove_prefix(tags[filled_].size());
         if (text.empty()) refuse("atteso un testo");
-        if (filled_ == 0) current_ = {file_, {}, number_};
+        if (filled_ == 0) current_ = {file_, {}, lines_.number()};
         current_.text[filled_++] = text;
     }
 
@@ -56,13 +57,10 @@ class SourceReader {
         filled_ = 0;
     }
 
-    [[noreturn]] void refuse(const std::string& expected) const {
-        throw base::ErroreFile(path_, number_, expected);
-    }
+    [[noreturn]] void refuse(const std::string& expected) const { lines_.refuse(expected); }
 
-    std::string path_;
+    SourceLines lines_;
     std::string file_;
-    long number_ = 0;
     TextRecord current_;
     std::size_t filled_ = 0;
     std::vector<TextRecord> records_;
@@ -94,15 +92,7 @@ std::string faultOf(const std::string& key, const std::string& text) {
 }  // namespace
 
 std::vector<TextRecord> readTextSource(const std::string& path, std::string_view content) {
-    SourceReader reader(path);
-    while (!content.empty()) {
-        const auto end = std::min(content.find('\n'), content.size());
-        std::string_view line = content.substr(0, end);
-        if (line.ends_with('\r')) line.remove_suffix(1);
-        reader.line(line);
-        content.remove_prefix(std::min(end + 1, content.size()));
-    }
-    return reader.end();
+    return SourceReader(SourceLines(path, content)).all();
 }
 
 void checkTextRecords(const std::string& path, const std::vector<TextRecord>& records) {
