@@ -25,6 +25,12 @@ void togliRisultati(Esito& esito) {
         base::cancellaFile(risultati);
 }
 
+std::string spiegazione(const base::ErroreIndice& errore) {
+    if (errore.capacita() == 0) return errore.what();
+    return base::traduttore("i dati chiedono più righe di quante ne tiene una tabella") + " (" +
+           std::to_string(errore.indice()) + " > " + std::to_string(errore.capacita()) + ")";
+}
+
 }  // namespace
 
 void raccontaGuasto(Esito& esito) {
