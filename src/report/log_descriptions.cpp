@@ -1,0 +1,97 @@
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "plot/plot_engine.hpp"
+#include "plot/sheet.hpp"
+#include "report/description_blocks.hpp"
+#include "report/layer_description.hpp"
+#include "report/log_columns.hpp"
+#include "report/text_fitting.hpp"
+
+namespace korven::report {
+
+namespace {
+
+constexpr double altezzaTesto = 0.25;
+constexpr double interlinea = 1.5 * altezzaTesto;
+constexpr double margine = 0.3;  // on both sides of the text
+
+std::vector<std::string_view> parole(std::string_view riga) {
+    std::vector<std::string_view> tutte;
+    for (std::size_t spazio = riga.find(' '); spazio != std::string_view::npos;
+         spazio = riga.find(' ')) {
+        tutte.push_back(riga.substr(0, spazio));
+        riga.remove_prefix(spazio + 1);
+    }
+    tutte.push_back(riga);
+    return tutte;
+}
+
+// Both ends of the line reach the ends of the column: the room that the words leave is shared out
+// among the blanks. Two blanks in a row have a word of no length between them.
+void scriviGiustificata(double x, double y, double larghezza, std::string_view riga) {
+    const auto tutte = parole(riga);
+    double occupata = 0;
+    for (const auto parola : tutte) occupata += plot::larghezzaTesto(altezzaTesto, parola);
+    const double spazio = (larghezza - occupata) / static_cast<double>(tutte.size() - 1);
+    for (const auto parola : tutte) {
+        if (!parola.empty()) plot::testoDa(x, y, altezzaTesto, parola);
+        x += plot::larghezzaTesto(altezzaTesto, parola) + spazio;
+    }
+}
+
+class BloccoDescrizione {
+ public:
+    BloccoDescrizione(std::string_view descrStrato, const Colonna& colonna)
+        : strato_(leggiDescrizione(descrStrato)), colonna_(colonna) {
+        righe_ = adattaTesto(strato_.testo, larghezza(), [](std::string_view riga) {
+            return plot::larghezzaTesto(altezzaTesto, riga);
+        });
+    }
+
+    [[nodiscard]] double altezza() const { return altezzaBlocco(righe_.size(), altezzaTesto); }
+
+    void disegna(double piede, double bordo) const {
+        if (strato_.richiamo) richiamo(piede, bordo);
+        double y = bordo + altezza();
+        for (const std::string& riga : righe_) {
+            y -= interlinea;
+            const bool comeSta = &riga == &righe_.back() || riga.ends_with('.') ||
+                                 riga.find(' ') == std::string::npos;
+            if (comeSta)
+                plot::testoDa(colonna_.sinistra + margine, y, altezzaTesto, riga);
+            else
+                scriviGiustificata(colonna_.sinistra + margine, y, larghezza(), riga);
+        }
+    }
+
+ private:
+    [[nodiscard]] double larghezza() const { return colonna_.larghezza - 2 * margine; }
+
+    void richiamo(double piede, double bordo) const {
+        plot::plotMuovi(colonna_.sinistra, piede, plot::pennaSu);
+        plot::plotMuovi(colonna_.sinistra + margine, bordo, plot::pennaGiu);
+        plot::plotMuovi(colonna_.destra() - margine, bordo, plot::pennaGiu);
+        plot::plotMuovi(colonna_.destra(), piede, plot::pennaGiu);
+    }
+
+    DescrizioneStrato strato_;
+    const Colonna& colonna_;
+    std::vector<std::string> righe_;
+};
+
+}  // namespace
+
+void disegnaDescrizioni(const Stratigrafia& stratigrafia, const Colonna& colonna) {
+    std::vector<BloccoDescrizione> testi;
+    std::vector<Blocco> blocchi;
+    for (int i = 1; i <= stratigrafia.dati.nStrati; ++i) {
+        testi.emplace_back(stratigrafia.dati.descrStrato[i], colonna);
+        blocchi.push_back({stratigrafia.yPiede(i), testi.back().altezza()});
+    }
+    const auto bordi = disponiBlocchi(blocchi, testaTabella, piedeTabella);
+    for (std::size_t i = 0; i < testi.size(); ++i) testi[i].disegna(blocchi[i].piede, bordi[i]);
+}
+
+}  // namespace korven::report

@@ -1,0 +1,83 @@
+#include "report/stratigraphic_log.hpp"
+
+#include "base/translated_texts.hpp"
+#include "plot/plot_engine.hpp"
+#include "plot/sheet.hpp"
+#include "report/log_columns.hpp"
+
+namespace korven::report {
+
+namespace {
+
+void disegnaIntestazione(const base::Tabella<std::string, 6>& titoli) {
+    constexpr double x = 10.5;
+    constexpr double altezza = 0.4;
+    plot::plotPenna(1);
+    plot::testoCentrato(x, 27.9, altezza, titoli[1]);
+    plot::plotPenna(2);
+    for (int i = 2; i <= 6; ++i) plot::testoCentrato(x, 28.1 - 0.25 * i, altezza, titoli[i]);
+    plot::plotPenna(3);
+    plot::testoCentrato(11, 25, 0.3, base::traduttore("DESCRIZIONE STRATIGRAFICO-GEOTECNICA"));
+}
+
+struct ColonnaStratigrafia {
+    std::string_view testata;  // empty: the contents draw heads of their own
+    double larghezza;
+    void (*contenuto)(const Stratigrafia&, const Colonna&);
+};
+
+constexpr double larghezzaProfilo = 9.6 / 3;
+constexpr ColonnaStratigrafia colonne[] = {
+    {"Profondità [m]", 1.2, disegnaProfondita}, {"stratigrafia", 1, disegnaGrafici},
+    {"descrizione", 3.2, disegnaDescrizioni},   {"falda [m]", 1, disegnaFalda},
+    {"", larghezzaProfilo, disegnaPesi},        {"", larghezzaProfilo, disegnaAttrito},
+    {"", larghezzaProfilo, disegnaCoesione},    {"scala [m]", 1, disegnaScala},
+};
+
+void disegnaTabella(const Stratigrafia& stratigrafia) {
+    plot::plotPenna(pennaRigaTabella);
+    plot::linea(sinistraTabella, piedeTabella, sinistraTabella + larghezzaTabella, piedeTabella);
+    double x = sinistraTabella;
+    for (const auto& [testata, larghezza, contenuto] : colonne) {
+        const Colonna colonna{x, larghezza};
+        if (!testata.empty()) disegnaTestata(colonna, {testata});
+        contenuto(stratigrafia, colonna);
+        // The rule behind the first column parts it from the others up to the top of the heads.
+        const double cima = x == sinistraTabella ? cimaTestata : testaTabella;
+        x = colonna.destra();
+        plot::plotPenna(pennaRigaTabella);
+        plot::linea(x, piedeTabella, x, cima);
+    }
+}
+
+std::string_view motivoRifiuto() {
+    if (project::fileCorrente.empty())
+        return "Non e' possibile produrre un output grafico prima di aver aperto un file.";
+    const auto& dati = project::Progetto;
+    if (!(dati.profStrato[dati.nStrati] > 0))
+        return "Non e' possibile produrre un output grafico prima di aver introdotto la "
+               "stratigrafia.";
+    return {};
+}
+
+}  // namespace
+
+void disegnaStratigrafia(const project::DatiProgetto& dati, double altezzaPagina) {
+    const double bordo = bordoInferiore(altezzaPagina);
+    plot::plotApri(0, bordo, larghezzaStratigrafia, altezzaStratigrafia);
+    disegnaIntestazione(dati.titoli);
+    disegnaTabella({dati, ScalaProfondita(dati.profStrato[dati.nStrati], bordo)});
+    plot::plotMuovi(0, 0, plot::fineDisegno);
+}
+
+bool disegnaStratigrafia(base::Dialogo& dialogo, double altezzaPagina) {
+    if (const auto motivo = motivoRifiuto(); !motivo.empty()) {
+        dialogo.messaggio(base::traduttore(motivo), base::traduttore("ATTENZIONE") + "!",
+                          base::Icona::stop);
+        return false;
+    }
+    disegnaStratigrafia(project::Progetto, altezzaPagina);
+    return true;
+}
+
+}  // namespace korven::report
