@@ -87,8 +87,10 @@ const std::map<std::string, Texts> noTexts = {
     {"plot/spill_files.cpp", {"korven32-XXXXXX", "plttmp", ".tmp", "windir"}},
     {"plot/text_width.cpp", {"courier", "mono"}},
     {"report/diagram_frame.cpp", {"[kN/m²]"}},
+    {"report/hatch_library.cpp", {"set1.rtn", "set2.rtn", "set3", ".rtn", "set4.rtn"}},
     {"report/markup_reader.cpp", {"TRUE"}},
     {"report/report_data.cpp", {"nseg.txt"}},
+    {"report/syllable_rule.cpp", {"BCDFGLMNPQRSTVZbcdfglmnpqrstvz", "AEIOUaeiou"}},
     {"structure/section_drawing.cpp", {"[N/mm²]"}},
 };
 
