@@ -83,8 +83,8 @@ base::Tabella<std::string, 6> spiegazioni() {
     base::Tabella<std::string, 6> righe;
     righe[1] = traduttore("CAMPIONARIO DELLE CAMPITURE");
     righe[2] = traduttore("Prima parola della descrizione di uno strato: codice della campitura");
-    righe[3] = traduttore("ultime due cifre: numero della campitura");
-    righe[4] = traduttore("terza cifra da destra: grandezza, raddoppiata ogni quattro passi");
+    righe[3] = traduttore("Ultime due cifre: numero della campitura");
+    righe[4] = traduttore("Terza cifra da destra: grandezza, raddoppiata ogni quattro passi");
     righe[5] = traduttore("12005: campitura 12 sopra la 5; 105C3: colore 3");
     righe[6] = traduttore("-105: nessuna linea al piede dello strato");
     return righe;

@@ -4,7 +4,9 @@
 
 #include "base/file_error.hpp"
 #include "base/table.hpp"
+#include "plot/plot_dxf.hpp"
 #include "support/dialog_record.hpp"
+#include "support/dxf_reader.hpp"
 #include "support/log_setup.hpp"
 
 namespace korven::report {
@@ -115,6 +117,27 @@ TEST_F(StratigrafiaPagina, WithADescriptionOfMoreThanAHundredLinesIsAnError) {
     for (int i = 0; i <= 100; ++i) dati.descrStrato[1] += "5|";
     dati.descrStrato[1].insert(0, "5 ");
     EXPECT_THROW(disegna(), base::ErroreIndice);
+}
+
+TEST_F(StratigrafiaPagina, WithMoreStrokesThanMemoryHoldsGoesWholeIntoADxfFile) {
+    // 2000 strokes a tile, none across its middle. The layers hold 5 tiles, 5, and 9 with two
+    // halves.
+    std::vector<TrattoCampitura> tratti;
+    for (int i = 0; i < 2000; ++i) {
+        const auto x = static_cast<std::int16_t>(i % 100 - 50);
+        const auto y = static_cast<std::int16_t>(i / 100 * 4 - 39);
+        tratti.push_back({x, y, x, static_cast<std::int16_t>(y + 2)});
+    }
+    scriviLibreria(programma, {{5, {0.005, tratti, "fitta"}}});
+    for (int i = 1; i <= 3; ++i) dati.descrStrato[i] = "105 strato";
+    disegna();
+    EXPECT_GE(plot::statoPlot.archivio.nFileScarico(), 1);
+    const auto dxf = test::LettoreDxf::leggi(base::inCp1252(plot::testoDxf("MONOTXT")));
+    std::size_t linee = 0;
+    plot::statoPlot.archivio.perOgniLinea([&](const plot::Segmento&) { ++linee; });
+    EXPECT_EQ(polilinee(10).size(), 20u * 2000);
+    EXPECT_EQ(dxf.linee.size(), linee);
+    EXPECT_EQ(dxf.testi.size(), plot::statoPlot.archivio.testi().size());
 }
 
 TEST_F(StratigrafiaPagina, WithoutHatchesIsAnError) {
