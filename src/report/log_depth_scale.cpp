@@ -27,13 +27,13 @@ void disegnaScala(const Stratigrafia& stratigrafia, const Colonna& colonna) {
     const double H = stratigrafia.profondita();
     const double passo = passoProfondita(H);
     double sopra = testaTabella;
-    // The last block ends at the last layer; its number is among the depths of the layers already.
     bool ultimo = false;
     for (int k = 1; !ultimo; ++k) {
         ultimo = k * passo >= H;
         const double y = stratigrafia.scala.y(std::min(k * passo, H));
         striscia(xAsse, sopra, y, k % 2 == 1);
         attraversa(colonna, y);
+        // The depth of the last layer stands in the first column already.
         if (!ultimo) numeroFinoA(xAsse, y, k * passo, -1, 1.5, 3);
         sopra = y;
     }
