@@ -20,8 +20,7 @@ namespace {
 void togliRisultati(Esito& esito) {
     esito.calcolo.reset();
     const std::string risultati = base::nomeRisultati(project::fileCorrente);
-    if (esito.progettoLetto && esito.comando != "verifica" &&
-        !analysis::prendeIlPostoDelProgetto(risultati))
+    if (esito.corsa && !analysis::prendeIlPostoDelProgetto(risultati))
         base::cancellaFile(risultati);
 }
 

@@ -36,7 +36,7 @@ std::string resoconto(const Opzioni& opzioni, const Esito& esito) {
     if (opzioni.silenzioso) return {};
     if (opzioni.comando == Comando::verifica) return esito.guasto ? "" : elenco(esito);
     if (esito.codice != fatto) return {};
-    std::string testo = tabella(esito, opzioni.traccia);
+    std::string testo = esito.calcolo ? tabella(esito, opzioni.traccia) : "";
     for (const auto& file : esito.fileScritti)
         testo += base::traduttore("File scritto") + ": " + file + '\n';
     return testo;
@@ -60,8 +60,6 @@ int versa(const std::string& testo, int codice) {
     return ingressoRotto;
 }
 
-constexpr const char* nomiComandi[] = {"calcola", "relazione", "verifica"};
-
 void lavora(const Opzioni& opzioni, std::exception_ptr senzaLingua, Esito& esito) {
     try {
         if (senzaLingua) std::rethrow_exception(senzaLingua);
@@ -69,8 +67,7 @@ void lavora(const Opzioni& opzioni, std::exception_ptr senzaLingua, Esito& esito
     } catch (const std::exception&) {
         raccontaGuasto(esito);
     }
-    const bool corsa = esito.progettoLetto && opzioni.comando != Comando::verifica;
-    if (corsa && esito.codice != fatto) avvisaRelazioniRimaste(esito);
+    if (esito.corsa && esito.codice != fatto) avvisaRelazioniRimaste(esito);
 }
 
 int programma(int argc, const char* const* argv) {
@@ -87,7 +84,7 @@ int programma(int argc, const char* const* argv) {
     if (!opzioni) return versa({}, codice);
 
     Esito esito;
-    esito.comando = nomiComandi[static_cast<int>(opzioni->comando)];
+    esito.comando = nomeComando(opzioni->comando);
     esito.progetto = opzioni->progetto;
     lavora(*opzioni, senzaLingua, esito);
     const std::string testo = resocontoAncheDiUnGuasto(*opzioni, esito);

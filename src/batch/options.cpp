@@ -4,10 +4,14 @@
 #include <iostream>
 #include <limits>
 #include <map>
+#include <tuple>
+#include <utility>
 
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
 #include "batch/wrong_usage.hpp"
+#include "device/drawing_files.hpp"
+#include "project/project_data.hpp"
 
 namespace korven::batch {
 
@@ -16,6 +20,8 @@ namespace {
 using base::traduttore;
 
 const std::map<std::string, double> metodi = {{"coulomb", 1}, {"rankine", 2}, {"bell", 3}};
+const std::map<std::string, int> tipi = {
+    {"pressioni", 1}, {"spostamenti", 2}, {"momenti", 3}, {"taglio", 4}};
 const std::map<std::string, bool> risposteEJ = {{"mantieni", false}, {"ricalcola", true}};
 
 std::string chiavi(const auto& tabella) {
@@ -32,7 +38,7 @@ const CLI::Validator nonVuoto([](std::string& testo) { return testo.empty() ? "?
 
 // The library takes any next argument for the value: a forgotten one must not make a folder
 // "--json".
-const CLI::Validator cartella(
+const CLI::Validator percorso(
     [](std::string& testo) { return testo.empty() || testo.starts_with('-') ? "?" : ""; }, "");
 
 // Whether the number will do is for the run to say; what is none is a slip of the pen.
@@ -61,24 +67,6 @@ void comuni(CLI::App& comando, Opzioni& o) {
     comando.group(traduttore("Comandi"));
     comando.set_help_flag("-h,--help", traduttore("mostra questo aiuto"));
     versione(comando);
-    comando.add_option("progetto", o.progetto, traduttore("file di progetto"))
-        ->type_name("PROGETTO.kvd")
-        ->check(nonVuoto)
-        ->required();
-    comando
-        .add_option("--uscita", o.uscita,
-                    traduttore("scrive i risultati in questa cartella, non accanto al progetto"))
-        ->type_name("DIR")
-        ->check(cartella);
-    comando
-        .add_option_function<std::string>(
-            "--metodo-spinte", [&o](const std::string& nome) { o.metodoSpinte = metodi.at(nome); },
-            traduttore("metodo delle spinte (un progetto si riapre sempre con Coulomb)"))
-        ->type_name(chiavi(metodi))
-        ->check(senzaNome(CLI::IsMember(metodi)));
-    comando.add_option("--nseg", o.nseg, traduttore("numero di segmenti, al posto di nseg.txt"))
-        ->type_name("N")
-        ->check(numero);
     comando.add_option("--cartella", o.cartella, traduttore("cartella del programma"))
         ->type_name("DIR")
         ->check(senzaNome(CLI::ExistingDirectory));
@@ -91,8 +79,36 @@ void comuni(CLI::App& comando, Opzioni& o) {
                      traduttore("non mostra l'avanzamento né la tabella dei risultati"));
 }
 
+void diProgetto(CLI::App& comando, Opzioni& o) {
+    comando.add_option("progetto", o.progetto, traduttore("file di progetto"))
+        ->type_name("PROGETTO.kvd")
+        ->check(nonVuoto)
+        ->required();
+    comuni(comando, o);
+}
+
+// The options of the commands for which the analysis matters.
+void diModello(CLI::App& comando, Opzioni& o) {
+    diProgetto(comando, o);
+    comando
+        .add_option("--uscita", o.uscita,
+                    traduttore("scrive i risultati in questa cartella, non accanto al progetto"))
+        ->type_name("DIR")
+        ->check(percorso);
+    comando
+        .add_option_function<std::string>(
+            "--metodo-spinte", [&o](const std::string& nome) { o.metodoSpinte = metodi.at(nome); },
+            traduttore("metodo delle spinte (un progetto si riapre sempre con Coulomb)"))
+        ->type_name(chiavi(metodi))
+        ->check(senzaNome(CLI::IsMember(metodi)));
+    comando.add_option("--nseg", o.nseg, traduttore("numero di segmenti, al posto di nseg.txt"))
+        ->type_name("N")
+        ->check(numero);
+}
+
 // The options of the commands that run the analysis.
 void diCalcolo(CLI::App& comando, Opzioni& o) {
+    diModello(comando, o);
     comando
         .add_option_function<std::string>(
             "--ej", [&o](const std::string& nome) { o.ricalcolaEJ = risposteEJ.at(nome); },
@@ -107,6 +123,108 @@ void diCalcolo(CLI::App& comando, Opzioni& o) {
         ->capture_default_str();
 }
 
+// The files of a drawing.
+void diDisegno(CLI::App& comando, Opzioni& o) {
+    const std::tuple<const char*, std::string UsciteDisegno::*, const char*> forme[] = {
+        {"--dxf", &UsciteDisegno::dxf, "scrive il disegno in formato DXF"},
+        {"--pdf", &UsciteDisegno::pdf, "scrive il disegno in formato PDF"},
+        {"--svg", &UsciteDisegno::svg, "scrive il disegno in formato SVG"},
+        {"--png", &UsciteDisegno::png, "scrive il disegno in formato PNG"},
+    };
+    for (const auto& [nome, file, spiegazione] : forme)
+        comando.add_option(nome, o.disegno.*file, traduttore(spiegazione))
+            ->type_name("FILE")
+            ->check(percorso);
+}
+
+void risoluzione(CLI::App& comando, Opzioni& o) {
+    comando.add_option("--dpi", o.disegno.dpi, traduttore("punti per pollice dei file PNG"))
+        ->type_name("N")
+        ->check(senzaNome(CLI::Range(device::risoluzioneMinima, device::risoluzioneMassima)))
+        ->capture_default_str();
+}
+
+using Preparazione = void (*)(CLI::App&, Opzioni&);
+
+struct RigaComando {
+    Comando comando;
+    const char* nome;
+    const char* spiegazione;
+    Preparazione opzioni;
+};
+
+// In the order of the help.
+const RigaComando righeComandi[] = {
+    {Comando::calcola, "calcola", "esegue il calcolo per fasi e mostra una riga per fase",
+     [](CLI::App& c, Opzioni& o) {
+         diCalcolo(c, o);
+         c.add_flag("--traccia", o.traccia,
+                    traduttore("racconta i cambi di stato delle fasi con più di 20 iterazioni"));
+     }},
+    {Comando::relazione, "relazione", "esegue il calcolo e scrive la relazione (TAB)",
+     [](CLI::App& c, Opzioni& o) {
+         diCalcolo(c, o);
+         c.add_flag("--txt", o.testo, traduttore("scrive anche il testo semplice"));
+     }},
+    {Comando::verifica, "verifica", "dice che cosa manca o è strano nel progetto, senza calcolare",
+     diModello},
+    {Comando::diagramma, "diagramma", "esegue il calcolo e disegna un diagramma",
+     [](CLI::App& c, Opzioni& o) {
+         diCalcolo(c, o);
+         c.add_option_function<std::string>(
+              "--tipo", [&o](const std::string& nome) { o.tipo = tipi.at(nome); },
+              traduttore("grandezza del diagramma"))
+             ->type_name(chiavi(tipi))
+             ->check(senzaNome(CLI::IsMember(tipi)))
+             ->required();
+         c.add_option("--fase", o.fase, traduttore("fase da disegnare; 0 per tutte"))
+             ->type_name("N")
+             ->check(senzaNome(CLI::Range(0, project::massimoFasi)));
+         diDisegno(c, o);
+         risoluzione(c, o);
+     }},
+    {Comando::sezione, "sezione", "disegna la sezione strutturale",
+     [](CLI::App& c, Opzioni& o) {
+         diProgetto(c, o);
+         diDisegno(c, o);
+         risoluzione(c, o);
+     }},
+    {Comando::stratigrafia, "stratigrafia", "disegna la colonna stratigrafica",
+     [](CLI::App& c, Opzioni& o) {
+         diProgetto(c, o);
+         diDisegno(c, o);
+         risoluzione(c, o);
+     }},
+    {Comando::campiture, "campiture", "disegna i campioni di tutte le campiture",
+     [](CLI::App& c, Opzioni& o) {
+         comuni(c, o);
+         diDisegno(c, o);
+         risoluzione(c, o);
+     }},
+    {Comando::tutto, "tutto", "scrive la relazione, il testo e tutti i disegni",
+     [](CLI::App& c, Opzioni& o) {
+         diCalcolo(c, o);
+         c.get_option("--uscita")->required();
+         c.add_option("--formati", o.formati, traduttore("formati dei disegni"))
+             ->type_name("pdf,dxf,svg,png")
+             ->delimiter(',')
+             ->check(senzaNome(CLI::IsMember({"pdf", "dxf", "svg", "png"})))
+             ->capture_default_str();
+         risoluzione(c, o);
+     }},
+};
+
+std::vector<std::string> nomiComandi() {
+    std::vector<std::string> nomi;
+    for (const auto& riga : righeComandi) nomi.emplace_back(riga.nome);
+    return nomi;
+}
+
+bool disegna(Comando comando) {
+    return comando == Comando::diagramma || comando == Comando::sezione ||
+           comando == Comando::stratigrafia || comando == Comando::campiture;
+}
+
 EsitoLettura rifiuta(const std::string& perche) {
     std::cerr << "korven32c: " << perche << '\n'
               << traduttore("Per l'aiuto") << ": korven32c --help\n";
@@ -114,6 +232,12 @@ EsitoLettura rifiuta(const std::string& perche) {
 }
 
 }  // namespace
+
+const char* nomeComando(Comando comando) {
+    for (const auto& riga : righeComandi)
+        if (riga.comando == comando) return riga.nome;
+    return "";
+}
 
 EsitoLettura leggiOpzioni(int argc, const char* const* argv) {
     Opzioni o;
@@ -124,22 +248,11 @@ EsitoLettura leggiOpzioni(int argc, const char* const* argv) {
     versione(app);
     app.require_subcommand(1);
 
-    auto* calcola = app.add_subcommand(
-        "calcola", traduttore("esegue il calcolo per fasi e mostra una riga per fase"));
-    comuni(*calcola, o);
-    diCalcolo(*calcola, o);
-    calcola->add_flag("--traccia", o.traccia,
-                      traduttore("racconta i cambi di stato delle fasi con più di 20 iterazioni"));
-
-    auto* relazione = app.add_subcommand(
-        "relazione", traduttore("esegue il calcolo e scrive la relazione (TAB)"));
-    comuni(*relazione, o);
-    diCalcolo(*relazione, o);
-    relazione->add_flag("--txt", o.testo, traduttore("scrive anche il testo semplice"));
-
-    auto* verifica = app.add_subcommand(
-        "verifica", traduttore("dice che cosa manca o è strano nel progetto, senza calcolare"));
-    comuni(*verifica, o);
+    for (const auto& riga : righeComandi) {
+        auto* comando = app.add_subcommand(riga.nome, traduttore(riga.spiegazione));
+        riga.opzioni(*comando, o);
+        comando->final_callback([&o, &riga] { o.comando = riga.comando; });
+    }
 
     if (const auto perche = valoreVuoto(argc, argv); !perche.empty()) return rifiuta(perche);
     try {
@@ -148,11 +261,11 @@ EsitoLettura leggiOpzioni(int argc, const char* const* argv) {
         return {std::nullopt, app.exit(chiesto)};
     } catch (const CLI::ParseError& errore) {
         const bool senzaComando = app.get_subcommands().empty();
-        return rifiuta(senzaComando ? comandoMancante(argc, argv)
+        return rifiuta(senzaComando ? comandoMancante(argc, argv, nomiComandi())
                                     : spiegazioneUso(*app.get_subcommands().front(), errore));
     }
-    if (relazione->parsed()) o.comando = Comando::relazione;
-    if (verifica->parsed()) o.comando = Comando::verifica;
+    if (disegna(o.comando) && o.disegno.nessuna())
+        return rifiuta(traduttore("manca un argomento") + ": --dxf, --pdf, --svg, --png");
     return {o, 0};
 }
 

@@ -2,10 +2,25 @@
 
 #include <optional>
 #include <string>
+#include <vector>
+
+#include "batch/drawing_output.hpp"
 
 namespace korven::batch {
 
-enum class Comando { calcola, relazione, verifica };
+enum class Comando {
+    calcola,
+    relazione,
+    verifica,
+    diagramma,
+    sezione,
+    stratigrafia,
+    campiture,
+    tutto
+};
+
+/// The word that stands for a command on the command line.
+[[nodiscard]] const char* nomeComando(Comando comando);
 
 /// What the command line asks for.
 struct Opzioni {
@@ -22,6 +37,10 @@ struct Opzioni {
     bool testo = false;    ///< `relazione`: the text export too
     bool traccia = false;  ///< `calcola`: record of the slow stages
     int maxIterazioni = 5000;
+    int tipo = 0;           ///< `diagramma`: 1 pressures, 2 displacements, 3 moments, 4 shear
+    int fase = 0;           ///< `diagramma`: the stage to draw, 0 for all
+    UsciteDisegno disegno;  ///< files of a drawing
+    std::vector<std::string> formati = {"pdf", "dxf"};  ///< `tutto`: forms of each drawing
 };
 
 /// Either options or the end of the program, with what was asked for already printed.

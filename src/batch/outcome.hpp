@@ -16,6 +16,7 @@ struct Esito {
     std::string progetto;
     int codice = 0;                     ///< exit code
     bool progettoLetto = false;         ///< the project could be read
+    bool corsa = false;                 ///< the command came as far as to run the analysis
     bool guasto = false;                ///< an error cut the command short
     std::vector<std::string> messaggi;  ///< why it was refused, or went wrong
     std::vector<commands::Rilievo> rilievi;

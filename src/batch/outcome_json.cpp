@@ -109,7 +109,8 @@ std::string json(const Esito& esito) {
         j["calcolo"] = esito.calcolo ? calcolo(esito) : Json(nullptr);
         j["file"] = {{"risultati", nomeONullo(esito.calcolo ? esito.calcolo->fileRisultati : "")},
                      {"relazione", nomeONullo(esito.fileRelazione)},
-                     {"testo", nomeONullo(esito.fileTesto)}};
+                     {"testo", nomeONullo(esito.fileTesto)},
+                     {"scritti", esito.fileScritti}};
     }
     // A path may hold bytes that are no UTF-8; they must not stop the answer.
     return j.dump(2, ' ', false, Json::error_handler_t::replace) + '\n';

@@ -10,9 +10,9 @@ namespace {
 
 using base::traduttore;
 
-std::string uniti(const std::vector<std::string>& parole) {
+std::string uniti(const std::vector<std::string>& parole, const char* prima = " ") {
     std::string testo;
-    for (const auto& parola : parole) testo += ' ' + parola;
+    for (const auto& parola : parole) testo += (testo.empty() ? " " : prima) + parola;
     return testo;
 }
 
@@ -66,10 +66,11 @@ std::string valoreVuoto(int argc, const char* const* argv) {
 }
 
 // The library only says that a command is required, whatever stands in its place.
-std::string comandoMancante(int argc, const char* const* argv) {
+std::string comandoMancante(int argc, const char* const* argv,
+                            const std::vector<std::string>& comandi) {
     return (argc > 1 ? traduttore("comando sconosciuto") + " (" + argv[1] + ")"
                      : traduttore("manca il comando")) +
-           ": calcola, relazione, verifica";
+           ":" + uniti(comandi, ", ");
 }
 
 }  // namespace korven::batch

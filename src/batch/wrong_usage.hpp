@@ -14,6 +14,7 @@ namespace korven::batch {
 [[nodiscard]] std::string valoreVuoto(int argc, const char* const* argv);
 
 /// The same for one without a command that exists.
-[[nodiscard]] std::string comandoMancante(int argc, const char* const* argv);
+[[nodiscard]] std::string comandoMancante(int argc, const char* const* argv,
+                                          const std::vector<std::string>& comandi);
 
 }  // namespace korven::batch

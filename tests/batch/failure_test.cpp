@@ -19,6 +19,7 @@ Esito dopo(const Errore& errore, const std::string& progetto = "muro.kvd") {
     esito.comando = "calcola";
     esito.progetto = progetto;
     esito.progettoLetto = true;
+    esito.corsa = true;
     esito.calcolo.emplace();
     ::testing::internal::CaptureStderr();
     try {

@@ -1,0 +1,61 @@
+#include "batch/console_run.hpp"
+
+#include <iostream>
+
+#include "analysis/calcolo_paratia.hpp"
+#include "analysis/run_flags.hpp"
+#include "base/translated_texts.hpp"
+#include "project/project_data.hpp"
+
+namespace korven::batch {
+
+namespace {
+
+void raccontaArresto(const commands::ControlloCorsa& controllo, Esito& esito) {
+    std::vector<std::string> righe = controllo.motivo();
+    if (righe.empty() && Interruzioni::chiesta() != 0)
+        righe.push_back(base::traduttore("Calcolo interrotto dall'utente."));
+    racconta(righe, esito);
+}
+
+}  // namespace
+
+void racconta(const std::vector<std::string>& righe, Esito& esito) {
+    for (const auto& riga : righe) {
+        std::cerr << riga << '\n';
+        esito.messaggi.push_back(riga);
+    }
+}
+
+CorsaConsole::CorsaConsole(const Opzioni& opzioni, Esito& esito)
+    : opzioni_(opzioni),
+      esito_(esito),
+      vista_(!opzioni.silenzioso),
+      dialogo_(opzioni.ricalcolaEJ, vista_) {
+    esito_.corsa = true;
+}
+
+bool CorsaConsole::esegui(int modoUscita, analysis::UscitaCalcolo& uscita) {
+    // A reading of the results turns every other method into Coulomb's.
+    if (opzioni_.metodoSpinte) project::Progetto.metodoSpinte = *opzioni_.metodoSpinte;
+    commands::ControlloCorsa controllo(vista_, opzioni_.maxIterazioni, Interruzioni::chiesta());
+    analysis::CalcoloParatia(modoUscita, {dialogo_, controllo, uscita});
+    esito_.messaggi = dialogo_.messaggi();
+    if (analysis::erroreCalcolo) {
+        raccontaArresto(controllo, esito_);
+        return false;
+    }
+    esito_.giaAggiornato = !controllo.calcolato();
+    if (controllo.calcolato()) esito_.fasi = controllo.fasi();
+    return true;
+}
+
+bool CorsaConsole::interrotta() {
+    if (Interruzioni::chiesta() == 0) return false;
+    racconta({base::traduttore(
+                 "Interruzione dell'utente a calcolo finito: i file già scritti sono completi.")},
+             esito_);
+    return true;
+}
+
+}  // namespace korven::batch

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "batch/console.hpp"
+#include "batch/interruption.hpp"
+#include "batch/options.hpp"
+#include "batch/outcome.hpp"
+
+namespace korven::batch {
+
+/// Says lines on standard error and keeps them among the messages of the outcome.
+void racconta(const std::vector<std::string>& righe, Esito& esito);
+
+/// The analysis with the console for its ports. While one of these lives an interrupt stops the run
+/// or, behind it, is kept in mind.
+class CorsaConsole {
+ public:
+    CorsaConsole(const Opzioni& opzioni, Esito& esito);
+
+    /// Brings the results up to date and hands over to the output.
+    /// @param modoUscita  0 the report, 1 to 4 a diagram
+    /// @return false when the run was refused, found singular or stopped, which has then been told
+    [[nodiscard]] bool esegui(int modoUscita, analysis::UscitaCalcolo& uscita);
+
+    /// True after an interrupt that found the calculation finished; tells what that means.
+    [[nodiscard]] bool interrotta();
+
+ private:
+    const Opzioni& opzioni_;
+    Esito& esito_;
+    AvanzamentoConsole vista_;
+    DialogoConsole dialogo_;
+    const Interruzioni interruzioni_;
+};
+
+}  // namespace korven::batch

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace korven::batch {
+
+/// The files that a drawing goes to; empty names are not written.
+struct UsciteDisegno {
+    std::string dxf, pdf, svg, png;
+    int dpi = 150;  ///< resolution of the PNG file
+
+    [[nodiscard]] bool nessuna() const;
+    /// True when one of the files is painted, which needs fonts.
+    [[nodiscard]] bool dipinte() const;
+    /// All that will be written, in this order.
+    [[nodiscard]] std::vector<std::string> file() const;
+};
+
+/// Refuses a name under which the project would be lost.
+/// @throws base::ErroreFile that names it
+void controllaUscite(const UsciteDisegno& uscite);
+
+/// Fonts and painting for the drawings to come, when one of their files needs them: texts are then
+/// measured in the fonts they are written in.
+class AmbienteDisegno {
+ public:
+    explicit AmbienteDisegno(bool dipinti);
+    AmbienteDisegno(const AmbienteDisegno&) = delete;
+    AmbienteDisegno& operator=(const AmbienteDisegno&) = delete;
+    ~AmbienteDisegno();
+
+ private:
+    struct Grafica;
+    std::unique_ptr<Grafica> grafica_;
+};
+
+/// Writes the stored drawing.
+/// @pre an AmbienteDisegno lives, a painting one if a file is to be painted
+/// @throws base::ErroreFile with the system's reason
+void scriviDisegno(const UsciteDisegno& uscite);
+
+}  // namespace korven::batch

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "batch/options.hpp"
+#include "batch/outcome.hpp"
+
+namespace korven::batch {
+
+/// Draws what the command names, a result diagram, the section, the stratigraphic log or the
+/// samples of all hatches, and writes it to the files asked for. A diagram brings the results up to
+/// date first.
+/// @return the exit code
+/// @throws base::ErroreFile if a file can't be read or written
+[[nodiscard]] int disegna(const Opzioni& opzioni, Esito& esito);
+
+/// Writes the report, its plain text and every drawing of the project.
+/// @return the exit code
+/// @throws base::ErroreFile if a file can't be read or written
+[[nodiscard]] int tutto(const Opzioni& opzioni, Esito& esito);
+
+}  // namespace korven::batch

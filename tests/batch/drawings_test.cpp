@@ -1,0 +1,139 @@
+#include <algorithm>
+
+#include "batch_bench.hpp"
+#include "support/dxf_reader.hpp"
+
+namespace korven::batch {
+namespace {
+
+using test::contenuto;
+using test::dice;
+
+class Disegni : public test::BancoConsole {
+ protected:
+    /// Runs "korven32c COMANDO muro.kvd ALTRI", without a number of segments.
+    test::EsitoProgramma disegna(const std::string& comando, std::vector<std::string> altri = {}) {
+        altri.insert(altri.begin(), {comando, progetto});
+        return console(altri);
+    }
+    [[nodiscard]] std::size_t testi(const std::string& nome, std::string_view testo) const {
+        const auto dxf = test::LettoreDxf::leggi(contenuto(cartella / nome));
+        return static_cast<std::size_t>(
+            std::count_if(dxf.testi.begin(), dxf.testi.end(),
+                          [&](const auto& t) { return dice(t.testo, testo); }));
+    }
+};
+
+TEST_F(Disegni, ADiagramIsComputedAndWrittenInEveryFormAskedFor) {
+    const auto esito = esegui(
+        "diagramma", {"--tipo", "momenti", "--dxf", cartella / "m.dxf", "--pdf", cartella / "m.pdf",
+                      "--svg", cartella / "m.svg", "--png", cartella / "m.png", "--dpi", "50"});
+    EXPECT_EQ(esito.codice, 0) << esito.errori;
+    EXPECT_EQ(nomi(), "m.dxf m.pdf m.png m.svg muro.OUT muro.kvd ");
+    EXPECT_EQ(testi("m.dxf", "DIAGRAMMA DEI MOMENTI"), 1u);
+    EXPECT_TRUE(contenuto(cartella / "m.pdf").starts_with("%PDF"));
+    EXPECT_TRUE(contenuto(cartella / "m.png").starts_with("\x89PNG"));
+    EXPECT_TRUE(dice(contenuto(cartella / "m.svg"), "<svg"));
+    EXPECT_TRUE(dice(esito.uscita, "File scritto: " + cartella / "m.pdf")) << esito.uscita;
+}
+
+TEST_F(Disegni, ADiagramOfOneStageShowsThatStageAlone) {
+    EXPECT_EQ(esegui("diagramma", {"--tipo", "taglio", "--fase", "2", "--dxf", cartella / "t.dxf"})
+                  .codice,
+              0);
+    EXPECT_EQ(testi("t.dxf", "Fase di scavo n."), 1u);
+}
+
+TEST_F(Disegni, SectionAndLogNeedNoRun) {
+    EXPECT_EQ(disegna("sezione", {"--dxf", cartella / "s.dxf"}).codice, 0);
+    EXPECT_EQ(disegna("stratigrafia", {"--dxf", cartella / "l.dxf"}).codice, 0);
+    EXPECT_EQ(nomi(), "l.dxf muro.kvd s.dxf ");
+    EXPECT_EQ(testi("s.dxf", "SEZIONE ELEMENTO STRUTTURALE"), 1u);
+    EXPECT_EQ(testi("l.dxf", "DESCRIZIONE STRATIGRAFICO-GEOTECNICA"), 1u);
+}
+
+TEST_F(Disegni, SpeakTheLanguageAskedFor) {
+    EXPECT_EQ(disegna("sezione", {"--lingua", "eng", "--dxf", cartella / "s.dxf"}).codice, 0);
+    EXPECT_EQ(testi("s.dxf", "SECTION OF THE STRUCTURAL ELEMENT"), 1u);
+}
+
+TEST_F(Disegni, TheSamplesOfTheHatchesNeedNoProject) {
+    const auto esito = console({"campiture", "--dxf", cartella / "c.dxf"});
+    EXPECT_EQ(esito.codice, 0) << esito.errori;
+    EXPECT_EQ(testi("c.dxf", "Argilla limosa"), 1u);
+}
+
+TEST_F(Disegni, AllOfThemComeWithTheReportIntoOneFolder) {
+    const auto esito = esegui("tutto", {"--uscita", cartella / "o", "--formati", "dxf"});
+    EXPECT_EQ(esito.codice, 0) << esito.errori;
+    for (const char* nome :
+         {"muro.OUT", "muro.TAB", "muro.txt", "muro-pressioni.dxf", "muro-spostamenti.dxf",
+          "muro-momenti.dxf", "muro-taglio.dxf", "muro-sezione.dxf", "muro-stratigrafia.dxf"})
+        EXPECT_TRUE(std::filesystem::exists(cartella / ("o/" + std::string(nome)))) << nome;
+    EXPECT_EQ(nomi(), "muro.kvd ") << "nothing beside the project";
+    EXPECT_TRUE(dice(esito.errori, "disegno 6/6: stratigrafia")) << esito.errori;
+}
+
+TEST_F(Disegni, AllOfThemKeepTheMethodAskedForInEveryDiagram) {
+    EXPECT_EQ(
+        esegui("tutto", {"--uscita", cartella / "o", "--metodo-spinte", "bell", "--formati", "dxf"})
+            .codice,
+        0);
+    const auto prima = contenuto(cartella / "o/muro-momenti.dxf");
+    EXPECT_EQ(esegui("diagramma",
+                     {"--tipo", "momenti", "--metodo-spinte", "bell", "--dxf", cartella / "m.dxf"})
+                  .codice,
+              0);
+    EXPECT_EQ(contenuto(cartella / "m.dxf"), prima);
+}
+
+TEST_F(Disegni, WithoutAFileToWriteAreWrongUsage) {
+    const auto esito = disegna("sezione");
+    EXPECT_EQ(esito.codice, 2);
+    EXPECT_TRUE(dice(esito.errori, "--dxf, --pdf, --svg, --png")) << esito.errori;
+    EXPECT_EQ(esegui("diagramma", {"--dxf", cartella / "m.dxf"}).codice, 2) << "no quantity";
+    EXPECT_EQ(esegui("tutto").codice, 2) << "no folder";
+    EXPECT_EQ(disegna("sezione", {"--png", cartella / "s.png", "--dpi", "5"}).codice, 2);
+}
+
+TEST_F(Disegni, NeverTakeThePlaceOfTheProject) {
+    const std::string prima = contenuto(progetto);
+    EXPECT_EQ(disegna("sezione", {"--dxf", progetto}).codice, 3);
+    EXPECT_EQ(contenuto(progetto), prima);
+}
+
+TEST_F(Disegni, ThatCannotBeWrittenAreTold) {
+    for (const char* forma : {"--dxf", "--pdf", "--svg", "--png"}) {
+        const auto esito = disegna("sezione", {forma, cartella / "manca/s"});
+        EXPECT_EQ(esito.codice, 3);
+        EXPECT_TRUE(dice(esito.errori, cartella / "manca/s")) << esito.errori;
+    }
+}
+
+TEST_F(Disegni, WithoutPensOrHatchesAreABrokenProgramFolder) {
+    const test::CartellaProvvisoria vuota;
+    const auto esito =
+        disegna("sezione", {"--cartella", vuota.percorso(), "--dxf", cartella / "s.dxf"});
+    EXPECT_EQ(esito.codice, 3);
+    EXPECT_TRUE(dice(esito.errori, "module06ita")) << esito.errori;
+    EXPECT_EQ(nomi(), "muro.kvd ");
+}
+
+TEST_F(Disegni, OfALogWithoutLayersAreRefused) {
+    auto dati = test::progettoSemplice();
+    dati.nStrati = 0;
+    scrivi(dati);
+    const auto esito = disegna("stratigrafia", {"--dxf", cartella / "l.dxf"});
+    EXPECT_EQ(esito.codice, 1);
+    EXPECT_TRUE(dice(esito.errori, "stratigrafia")) << esito.errori;
+    EXPECT_EQ(nomi(), "muro.kvd ");
+}
+
+TEST_F(Disegni, AreNamedInTheAnswerForScripts) {
+    const auto esito = disegna("sezione", {"--json", "--dxf", cartella / "s.dxf"});
+    EXPECT_TRUE(dice(esito.uscita, "\"scritti\": [\n      \"" + cartella / "s.dxf"))
+        << esito.uscita;
+}
+
+}  // namespace
+}  // namespace korven::batch
