@@ -8,6 +8,7 @@
 #include "base/file_names.hpp"
 #include "commands/project_commands.hpp"
 #include "example_run.hpp"
+#include "support/quiet_ports.hpp"
 #include "support/temporary_folder.hpp"
 
 // Whole runs of the largest example, a long wall with six layers and six stages, files included.
@@ -16,27 +17,12 @@ namespace {
 
 using namespace korven;
 
-class Muto : public base::Dialogo, public analysis::Avanzamento {
- public:
-    void messaggio(std::string_view, std::string_view, base::Icona) override {}
-    base::Risposta domanda(std::string_view, std::string_view, base::Pulsanti,
-                           base::Icona) override {
-        return base::Risposta::no;
-    }
-    void puntatore(base::Puntatore) override {}
-    void apri() override {}
-    void iterazione(const analysis::StatoIterazione&) override { ++iterazioni; }
-    void chiudi() override {}
-
-    int iterazioni = 0;
-};
-
 void corsa(benchmark::State& stato, bool aggiornata, bool relazione) {
     const test::CartellaProvvisoria cartella;
     const auto dati = bench::esempio("paratia_lunga_incastro");
     analysis::contenutoNSeg = std::to_string(stato.range(0));
     project::fileCorrente = cartella / "muro.kvd";
-    Muto muto;
+    test::PorteMute muto;
     commands::UscitaRelazione uscita(relazione);
     const auto esegui = [&] {
         project::Progetto = dati;
