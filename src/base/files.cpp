@@ -75,11 +75,18 @@ void rifiutaEnorme(const std::string& percorso, std::size_t byte) {
     if (byte > massimoByte) throw ErroreFile(percorso, 0, traduttore("il file è troppo grande"));
 }
 
-// The file that a name stands for: a link leads to its target, which may not exist yet.
+// The file that a name stands for: a link leads to its target, which may not exist yet. As many
+// links as the system itself would follow; more are a loop.
 std::string destinazione(const std::string& percorso) {
-    std::error_code errore;
-    const auto vero = std::filesystem::weakly_canonical(percorso, errore);
-    return errore ? percorso : vero.string();
+    constexpr int massimoLink = 40;
+    std::filesystem::path meta = percorso;
+    for (int i = 0; i < massimoLink; ++i) {
+        std::error_code errore;
+        const auto oltre = std::filesystem::read_symlink(meta, errore);
+        if (errore) return meta.string();
+        meta = meta.parent_path() / oltre;  // an absolute target stands for itself
+    }
+    fallito(percorso, "impossibile scrivere il file", ELOOP);
 }
 
 mode_t permessi(const std::string& percorso) {
