@@ -89,6 +89,11 @@ std::string destinazione(const std::string& percorso) {
     fallito(percorso, "impossibile scrivere il file", ELOOP);
 }
 
+std::string cartellaDi(const std::string& percorso) {
+    const auto cartella = std::filesystem::path(percorso).parent_path();
+    return cartella.empty() ? "." : cartella.string();
+}
+
 mode_t permessi(const std::string& percorso) {
     struct stat stato {};
     if (::stat(percorso.c_str(), &stato) == 0) return stato.st_mode & 07777;
@@ -129,7 +134,9 @@ void scriviFile(const std::string& percorso, std::string_view contenuto) {
     // Taking over the name would get past a file's own write protection.
     if (::access(meta.c_str(), F_OK) == 0 && ::access(meta.c_str(), W_OK) != 0)
         fallito(percorso, "impossibile scrivere il file", errno);
-    std::string provvisorio = meta + ".XXXXXX";
+    const std::string cartella = cartellaDi(meta);
+    // A name of its own, since the longest name that a folder takes leaves no room behind it.
+    std::string provvisorio = cartella + "/.korven-XXXXXX";
     Descrittore file(::mkostemp(provvisorio.data(), O_CLOEXEC));
     if (*file < 0) fallito(percorso, "impossibile scrivere il file", errno);
     const bool scritto = scriviTutto(*file, contenuto) && ::fchmod(*file, permessi(meta)) == 0 &&
@@ -140,7 +147,7 @@ void scriviFile(const std::string& percorso, std::string_view contenuto) {
         ::unlink(provvisorio.c_str());
         fallito(percorso, "impossibile scrivere il file", codice);
     }
-    versaSulDisco(std::filesystem::path(meta).parent_path().string());
+    versaSulDisco(cartella);
 }
 
 void accodaFile(const std::string& percorso, std::string_view contenuto) {

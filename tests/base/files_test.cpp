@@ -52,6 +52,15 @@ TEST(ScriviFile, FollowsALinkInsteadOfReplacingIt) {
     EXPECT_EQ(contenuto(cartella / "vero"), "dopo");
 }
 
+TEST(ScriviFile, TakesTheLongestNameThatAFolderTakes) {
+    const CartellaProvvisoria cartella;
+    const std::string percorso = cartella / (std::string(251, 'm') + ".kvd");
+    scriviFile(percorso, "uno");
+    scriviFile(percorso, "due");
+    EXPECT_EQ(contenuto(percorso), "due");
+    EXPECT_EQ(voci(cartella), 1u);
+}
+
 TEST(ScriviFile, MakesTheMissingTargetOfALink) {
     namespace fs = std::filesystem;
     const CartellaProvvisoria cartella;

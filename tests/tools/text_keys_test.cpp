@@ -42,7 +42,7 @@ const std::map<std::string, Texts> noTexts = {
      {"sigmaVv", "Ehv", "kav", "kpv", "sigmaVm", "Ehm", "kam", "kpm", "Spostamenti", "Momenti"}},
     {"analysis/segment_count.cpp", {"nseg.txt"}},
     {"base/file_names.cpp", {"OUT", "TAB"}},
-    {"base/files.cpp", {".XXXXXX"}},
+    {"base/files.cpp", {"/.korven-XXXXXX"}},
     {"base/program_folder.cpp", {"KORVEN32_HOME", "/proc/self/exe"}},
     {"batch/console.cpp", {"iter.=", "Ymax=", "Mmax="}},
     {"batch/main.cpp",
