@@ -43,6 +43,7 @@ const std::map<std::string, Texts> noTexts = {
     {"analysis/segment_count.cpp", {"nseg.txt"}},
     {"base/file_names.cpp", {"OUT", "TAB"}},
     {"base/files.cpp", {"/.korven-XXXXXX"}},
+    {"base/text_lines.cpp", {"\\xFF\\xFE", "\\xFE\\xFF", "\\xEF\\xBB\\xBF"}},
     {"base/program_folder.cpp", {"KORVEN32_HOME", "/proc/self/exe"}},
     {"batch/console.cpp", {"iter.=", "Ymax=", "Mmax="}},
     {"batch/main.cpp",
