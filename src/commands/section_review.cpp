@@ -60,7 +60,7 @@ struct Faccia {
     double copriferro, interasse, diametro;
 };
 
-void controlloFaccia(const Faccia& f, double spessore, ElencoRilievi& elenco) {
+void controlloFaccia(const Faccia& f, const Sezione& s, ElencoRilievi& elenco) {
     const std::string dove = traduttore(f.nome) + ": ";
     const std::string copriferro = dove + campo("Copriferro [mm]", f.copriferro * 10) + ": ";
     if ((f.interasse > 0) != (f.diametro > 0)) {
@@ -70,12 +70,14 @@ void controlloFaccia(const Faccia& f, double spessore, ElencoRilievi& elenco) {
         return;
     }
     const bool armata = f.interasse > 0;
-    if (armata && f.copriferro <= 0)
+    // Without a whole face the section counts as defined in part and no bars count at all.
+    if (armata && f.copriferro <= 0 && structure::sezioneValida(s))
         elenco.avviso(copriferro + traduttore("senza copriferro il calcolo conta le armature ma la "
                                               "relazione non le mostra"));
     if (!armata && f.copriferro > 0)
         elenco.avviso(copriferro + traduttore("la faccia conta come non armata"));
-    if (armata && spessore > 0 && f.copriferro + f.diametro / 2 >= spessore / 2)
+    if (armata && s.spessoreDiaframma > 0 &&
+        f.copriferro + f.diametro / 2 >= s.spessoreDiaframma / 2)
         elenco.avviso(copriferro + traduttore(oltreMeta));
 }
 
@@ -89,10 +91,10 @@ void controlloStaffe(const Sezione& s, ElencoRilievi& elenco) {
 void controlloMisure(const Sezione& s, ElencoRilievi& elenco) {
     switch (structure::tipoSezione(s)) {
         case TipoSezione::diaframma:
-            controlloFaccia({"lato monte", s.copriferroMonte, s.interasseMonte, s.diametroMonte},
-                            s.spessoreDiaframma, elenco);
-            controlloFaccia({"lato valle", s.copriferroValle, s.interasseValle, s.diametroValle},
-                            s.spessoreDiaframma, elenco);
+            controlloFaccia({"lato monte", s.copriferroMonte, s.interasseMonte, s.diametroMonte}, s,
+                            elenco);
+            controlloFaccia({"lato valle", s.copriferroValle, s.interasseValle, s.diametroValle}, s,
+                            elenco);
             break;
         case TipoSezione::pali:
             if (s.paliDiamEst > 0 && s.paliDiamInt >= s.paliDiamEst)
