@@ -185,6 +185,8 @@ void CalcoloParatia(int modoUscita, const PorteCalcolo& porte) {
     if (const auto motivo = motivoRifiuto(Progetto); !motivo.empty())
         return avvisa(porte.dialogo, traduttore(motivo));
     if (const auto motivo = motivoTiranti(); !motivo.empty()) return avvisa(porte.dialogo, motivo);
+    if (const auto motivo = motivoFerri(Progetto); !motivo.empty())
+        return avvisa(porte.dialogo, motivo);
     const ProgettoAlSicuro sicuro;
     if (const auto motivo = motivoUscite(modoUscita, porte.uscita); !motivo.empty())
         return avvisa(porte.dialogo, motivo);

@@ -42,8 +42,9 @@ struct PorteCalcolo {
 /// a run without a stiffness EJ leaves it at the result file's name until another file is opened.
 ///
 /// Before anything is written or removed a run is refused whose result file or output would take
-/// the place of the project, whose name is too short for the rule that names the result file, or in
-/// which a stage asks for more anchors than their table holds.
+/// the place of the project, whose name is too short for the rule that names the result file, in
+/// which a stage asks for more anchors than their table holds, or whose section has more bars than
+/// the calculations take.
 ///
 /// @param modoUscita  0 the report, 1 to 4 a diagram
 /// @pre `modoUscita` is one of these: asserted

@@ -1,4 +1,4 @@
-#include <cmath>
+#include <utility>
 
 #include "analysis/input_checks.hpp"
 #include "base/translated_texts.hpp"
@@ -28,15 +28,9 @@ bool qualcosaScritto(const Sezione& s) {
     return !(s == vuota);
 }
 
-// A run asks for the bars as soon as the section is whole, whether or not EJ is typed.
-bool troppiFerri(const Sezione& s) {
-    return structure::tipoSezione(s) == TipoSezione::paliArmati && structure::sezioneValida(s) &&
-           std::floor(s.armNumLong) > structure::massimoFerri;
-}
-
 // The stiffness of the section as a run would take it, 0 if it has none.
 double rigidezzaDallaSezione(const Sezione& s) {
-    return troppiFerri(s) ? 0 : structure::rigidezzaOfferta(s).value_or(0);
+    return structure::troppiFerri(s) ? 0 : structure::rigidezzaOfferta(s).value_or(0);
 }
 
 // A typed stiffness this many times the section's own, or less than that part of it, is hardly
@@ -135,11 +129,11 @@ void controlloTipo(const Sezione& s, ElencoRilievi& elenco) {
 constexpr double ferriDaRelazione = 100;
 
 // The editor stores a tenth of the number that is typed, so 12 typed for twelve bars becomes 1.2.
-void controlloFerri(const Sezione& s, ElencoRilievi& elenco) {
+void controlloFerri(const DatiProgetto& dati, ElencoRilievi& elenco) {
+    const Sezione& s = dati.sezione;
     if (structure::tipoSezione(s) != TipoSezione::paliArmati || s.armNumLong == 0) return;
-    if (troppiFerri(s))
-        elenco.impedimento(
-            conValore(traduttore("numero di ferri oltre la capacità (100000)"), s.armNumLong));
+    if (auto troppi = analysis::motivoFerri(dati); !troppi.empty())
+        elenco.impedimento(std::move(troppi));
     else if (s.armNumLong < 1)
         elenco.avviso(conValore(
             traduttore("numero di ferri memorizzato minore di 1: i pali contano come non armati "
@@ -163,7 +157,7 @@ void controlloSezione(const DatiProgetto& dati, ElencoRilievi& elenco) {
     controlloRigidezza(dati, elenco);
     controlloTipo(dati.sezione, elenco);
     controlloMisure(dati.sezione, elenco);
-    controlloFerri(dati.sezione, elenco);
+    controlloFerri(dati, elenco);
 }
 
 }  // namespace korven::commands

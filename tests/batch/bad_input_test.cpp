@@ -1,6 +1,7 @@
 #include <sys/stat.h>
 
 #include "batch_bench.hpp"
+#include "structure/sample_sections.hpp"
 
 namespace korven::batch {
 namespace {
@@ -173,6 +174,21 @@ TEST_F(IngressoRotto, MoreAnchorsThanTheTableHoldsAreRefusedWithTheirStage) {
         const auto esito = esegui(comando);
         EXPECT_EQ(esito.codice, 1);
         EXPECT_TRUE(dice(esito.errori + esito.uscita, detto)) << esito.errori << esito.uscita;
+    }
+    EXPECT_EQ(nomi(), "muro.kvd ");
+}
+
+TEST_F(IngressoRotto, MoreBarsThanTheCalculationsTakeAreRefusedWithTheirNumber) {
+    auto d = progettoSemplice();
+    d.sezione = structure::paliArmati();
+    d.sezione.armNumLong = 200000;
+    scrivi(d);
+    for (const char* comando : {"calcola", "relazione", "verifica"}) {
+        const auto esito = esegui(comando);
+        EXPECT_EQ(esito.codice, 1);
+        EXPECT_TRUE(dice(esito.errori + esito.uscita,
+                         "numero di ferri oltre la capacità (100000) (200000)\n"))
+            << esito.errori << esito.uscita;
     }
     EXPECT_EQ(nomi(), "muro.kvd ");
 }

@@ -190,20 +190,27 @@ TEST(ControlloSezione, LooksAtTheBarsOfReinforcedPilesAlone) {
     EXPECT_EQ(righe(s), niente);
 }
 
-TEST(ControlloSezione, RefusesMoreBarsThanARunTakesWhetherOrNotEJIsTyped) {
+TEST(ControlloSezione, RefusesMoreBarsThanARunTakesInTheWordsOfTheRun) {
     auto s = structure::paliArmati();
-    for (const double EJ : {10000.0, 0.0}) {
-        s.armNumLong = 100001;
-        const auto trovate = righe(s, EJ);
-        EXPECT_NE(std::find(trovate.begin(), trovate.end(),
-                            "! numero di ferri oltre la capacità (100000) (100001)"),
-                  trovate.end());
-        DatiProgetto d = test::progettoSemplice();
-        d.sezione = s;
-        d.rigidezzaEJ = EJ;
-        test::Banco banco(d, 20);
-        EXPECT_THROW(banco.calcola(), base::ErroreIndice);
-    }
+    const std::pair<double, const char*> casi[] = {
+        {100001, "numero di ferri oltre la capacità (100000) (100001)"},
+        {1e15, "numero di ferri oltre la capacità (100000) (1000000000000000)"}};
+    for (const auto& [ferri, detto] : casi)
+        for (const double EJ : {10000.0, 0.0}) {
+            s.armNumLong = ferri;
+            const auto trovate = righe(s, EJ);
+            EXPECT_NE(std::find(trovate.begin(), trovate.end(), std::string("! ") + detto),
+                      trovate.end());
+            DatiProgetto d = test::progettoSemplice();
+            d.sezione = s;
+            d.rigidezzaEJ = EJ;
+            test::Banco banco(d, 20);
+            banco.calcola();
+            EXPECT_TRUE(analysis::erroreCalcolo);
+            ASSERT_EQ(banco.dialogo.messaggi.size(), 1u);
+            EXPECT_EQ(banco.dialogo.messaggi[0].testo, detto);
+            EXPECT_FALSE(banco.haRisultati());
+        }
     s.armNumLong = 99;
     EXPECT_EQ(righe(s), niente);
 }
