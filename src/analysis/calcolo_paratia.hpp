@@ -51,6 +51,13 @@ struct PorteCalcolo {
 /// @throws base::ErroreFile if a file can't be read or written; nothing half-written stays
 void CalcoloParatia(int modoUscita, const PorteCalcolo& porte);
 
+/// Why the outputs of a run can't be written under the names that follow from the project's,
+/// translated; empty if they can. Writes nothing.
+/// @param progetto    the name from which they follow, which need not be that of a file
+/// @param modoUscita  as for `CalcoloParatia`
+[[nodiscard]] std::string motivoUscite(const std::string& progetto, int modoUscita,
+                                       const UscitaCalcolo& uscita);
+
 /// The message of a system without a solution, an Italian key.
 inline constexpr const char* messaggioSingolare =
     "La geometria assegnata al diaframma non consente l'elaborazione. Verificare i dati di input. "
