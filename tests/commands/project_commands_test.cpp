@@ -278,6 +278,9 @@ TEST(RelazioneAltrove, IsOneWhosePathIsCutBeforeTheExtension) {
     EXPECT_TRUE(relazioneAltrove("/home/a.b/muro"));
     EXPECT_FALSE(relazioneAltrove("/home/a/muro.kvd"));
     EXPECT_FALSE(relazioneAltrove("/home/a/muro"));
+    EXPECT_FALSE(relazioneAltrove("/home/a/.kvd"));
+    EXPECT_TRUE(relazioneAltrove("/home/a.b/.kvd"));
+    EXPECT_TRUE(relazioneAltrove("/home/a/..kvd"));
 }
 
 }  // namespace
