@@ -121,9 +121,11 @@ std::string scriviTesto(const std::string& relazione) {
 std::vector<std::string> relazioniRimaste(const std::string& progetto) {
     const std::string relazione = base::nomeRelazione(base::nomeRisultati(progetto));
     std::vector<std::string> rimaste;
-    for (const auto& percorso : {relazione, nomeTesto(relazione)})
-        if (base::esisteFile(percorso) && !analysis::prendeIlPostoDelProgetto(percorso))
+    for (const auto& percorso : {relazione, nomeTesto(relazione)}) {
+        std::error_code errore;
+        if (fs::is_regular_file(percorso, errore) && !analysis::prendeIlPostoDelProgetto(percorso))
             rimaste.push_back(percorso);
+    }
     return rimaste;
 }
 

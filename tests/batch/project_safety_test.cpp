@@ -138,7 +138,7 @@ TEST_F(ProgettoAlSicuro, OfTheSameNameInTheFolderForResultsIsSeenByAReviewToo) {
 class RelazioneRimasta : public test::BancoConsole {
  protected:
     static constexpr const char* avviso =
-        "File di un calcolo precedente, non di questo stato del progetto: ";
+        "File di un calcolo precedente, non aggiornato da questo: ";
 
     void SetUp() override {
         BancoConsole::SetUp();
