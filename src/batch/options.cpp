@@ -69,6 +69,7 @@ void comuni(CLI::App& comando, Opzioni& o) {
     versione(comando);
     comando.add_option("--cartella", o.cartella, traduttore("cartella del programma"))
         ->type_name("DIR")
+        ->check(percorso)
         ->check(senzaNome(CLI::ExistingDirectory));
     comando.add_option("--lingua", o.lingua, traduttore("lingua dei testi"))
         ->type_name("ita|deu|fra|esp|eng|por")

@@ -115,6 +115,22 @@ TEST_F(Opzione, AProgramFolderThatDoesNotExistIsWrongUsageWhateverElseIsAsked) {
     }
 }
 
+TEST_F(Opzione, AProgramFolderWithTheLooksOfAnOptionIsWrongUsageThoughItExists) {
+    fs::create_directory(cartella / "-x");
+    for (const std::vector<std::string>& opzione :
+         {std::vector<std::string>{"--cartella", "-x"}, {"--cartella=-x"}}) {
+        auto argomenti = opzione;
+        argomenti.insert(argomenti.begin(), {"calcola", progetto, "--nseg", "10"});
+        const auto esito = console(argomenti, {.cartella = cartella.percorso()});
+        EXPECT_EQ(esito.codice, 2);
+        EXPECT_TRUE(dice(esito.errori, "valore non ammesso: --cartella -x (DIR)\n"))
+            << esito.errori;
+    }
+    const auto esito = console({"calcola", progetto, "--nseg", "10", "--cartella", "./-x"},
+                               {.cartella = cartella.percorso()});
+    EXPECT_EQ(esito.codice, 0) << esito.errori;
+}
+
 TEST_F(Opzione, VerificaMakesNoFolderForResults) {
     const auto esito = esegui("verifica", {"--uscita", cartella / "fuori"});
     EXPECT_EQ(esito.codice, 0) << esito.errori;
