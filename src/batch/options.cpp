@@ -263,7 +263,7 @@ EsitoLettura leggiOpzioni(int argc, const char* const* argv) {
     } catch (const CLI::ParseError& errore) {
         const bool senzaComando = app.get_subcommands().empty();
         return rifiuta(senzaComando ? comandoMancante(argc, argv, nomiComandi())
-                                    : spiegazioneUso(*app.get_subcommands().front(), errore));
+                                    : spiegazioneUso(app, errore));
     }
     if (disegna(o.comando) && o.disegno.nessuna())
         return rifiuta(traduttore("manca un argomento") + ": --dxf, --pdf, --svg, --png");
