@@ -1,6 +1,7 @@
 #include <utility>
 
 #include "analysis/input_checks.hpp"
+#include "analysis/run_arrays.hpp"
 #include "base/translated_texts.hpp"
 #include "commands/review_list.hpp"
 #include "structure/section_millimetres.hpp"
@@ -82,6 +83,23 @@ void controlloStaffe(const Sezione& s, ElencoRilievi& elenco) {
                   traduttore("senza l'uno o l'altro non c'è verifica a taglio"));
 }
 
+// The shear check takes the largest value of all nodes, those at the ends included.
+void controlloTaglio(const DatiProgetto& dati, ElencoRilievi& elenco) {
+    if (!structure::staffePresenti(dati.sezione) || !structure::sezioneValida(dati.sezione)) return;
+    if (analysis::vincoli(dati).incastroPiede)
+        elenco.avviso(
+            campo("vincolo al piede", dati.vincoloPiede) + ": " +
+            traduttore("la verifica a taglio conta anche il valore al piede incastrato, che "
+                       "non è un taglio della paratia e cresce con il numero di segmenti"));
+    if (dati.forzaTesta != 0)
+        elenco.avviso(
+            campo("Forza orizzontale esterna applicata alla sommità del diaframma [kN]",
+                  dati.forzaTesta * 10) +
+            ": " +
+            traduttore("la verifica a taglio conta anche il valore in testa, che è il doppio "
+                       "della forza e non è il taglio della paratia"));
+}
+
 void controlloMisure(const Sezione& s, ElencoRilievi& elenco) {
     switch (structure::tipoSezione(s)) {
         case TipoSezione::diaframma:
@@ -158,6 +176,7 @@ void controlloSezione(const DatiProgetto& dati, ElencoRilievi& elenco) {
     controlloTipo(dati.sezione, elenco);
     controlloMisure(dati.sezione, elenco);
     controlloFerri(dati, elenco);
+    controlloTaglio(dati, elenco);
 }
 
 }  // namespace korven::commands

@@ -178,6 +178,43 @@ TEST(ControlloSezione, TellsStirrupsGivenByHalf) {
                                "l'altro non c'è verifica a taglio"}));
 }
 
+TEST(ControlloSezione, TellsShearsAtTheEndsThatTheShearCheckTakesAtTheirFaceValue) {
+    DatiProgetto d = test::progettoSemplice();
+    d.sezione = structure::paliArmati();
+    d.rigidezzaEJ = structure::rigidezzaOfferta(d.sezione).value_or(0);
+    d.vincoloPiede = 3;
+    d.forzaTesta = -2;
+    const auto trovate = [&d] {
+        ElencoRilievi elenco;
+        controlloSezione(d, elenco);
+        Righe testo;
+        for (const auto& r : elenco.ordinato())
+            testo.push_back((r.impedisce ? "! " : "") + r.testo);
+        return testo;
+    };
+    EXPECT_EQ(trovate(), niente);  // no stirrups, no check
+    d.sezione.armDiamStaffe = 1;
+    d.sezione.armPassoStaffe = 20;
+    const std::string piede =
+        "vincolo al piede = 3: la verifica a taglio conta anche il valore al piede incastrato, che "
+        "non è un taglio della paratia e cresce con il numero di segmenti";
+    const std::string testa =
+        "Forza orizzontale esterna applicata alla sommità del diaframma [kN] = -20: la verifica a "
+        "taglio conta anche il valore in testa, che è il doppio della forza e non è il taglio "
+        "della "
+        "paratia";
+    EXPECT_EQ(trovate(), (Righe{piede, testa}));
+    d.vincoloPiede = 2;
+    EXPECT_EQ(trovate(), Righe{testa});
+    d.forzaTesta = 0;
+    EXPECT_EQ(trovate(), niente);
+    d.vincoloPiede = 3;
+    EXPECT_EQ(trovate(), Righe{piede});
+    d.sezione.tipoPaliArmati = false;
+    d.sezione.tipoPali = true;
+    for (const auto& riga : trovate()) EXPECT_EQ(riga.find("taglio conta"), std::string::npos);
+}
+
 TEST(ControlloSezione, TellsTubesWithoutAWall) {
     auto s = structure::paliTubolari();
     s.paliDiamInt = 60;
