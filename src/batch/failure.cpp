@@ -37,7 +37,11 @@ void raccontaGuasto(Esito& esito) {
         throw;
     } catch (const base::ErroreValore& errore) {
         togliRisultati(esito);
-        fallisci(nonEseguito, esito.progetto + ": " + errore.what(), esito);
+        fallisci(
+            nonEseguito,
+            esito.progetto + ": " + errore.what() + "; " +
+                base::traduttore("il comando verifica nomina i campi con valori troppo grandi"),
+            esito);
     } catch (const base::ErroreIndice& errore) {
         fallisci(ingressoRotto, esito.progetto + ": " + spiegazione(errore), esito);
     } catch (const std::exception& errore) {

@@ -203,7 +203,17 @@ TEST_F(IngressoRotto, AValueTooLargeToBeShownIsARefusalWithoutAReport) {
     EXPECT_EQ(esito.codice, 1);
     EXPECT_TRUE(dice(esito.errori, progetto + ": i dati portano a un valore troppo grande"))
         << esito.errori;
+    EXPECT_TRUE(
+        dice(esito.errori, "; il comando verifica nomina i campi con valori troppo grandi\n"))
+        << esito.errori;
     EXPECT_EQ(nomi(), "muro.kvd ");  // as after a singular system
+    const auto verifica = esegui("verifica");
+    EXPECT_EQ(verifica.codice, 1);
+    EXPECT_TRUE(
+        dice(verifica.uscita,
+             "impedisce il calcolo: strato 3: Gamma [kN/m³]: valore troppo grande per essere "
+             "mostrato\n"))
+        << verifica.uscita;
 }
 
 TEST_F(IngressoRotto, APipeIsToldInsteadOfWaitedFor) {
