@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cassert>
 #include <memory>
+#include <utility>
 
 #include "analysis/input_checks.hpp"
 #include "analysis/output_guard.hpp"
@@ -72,12 +73,15 @@ std::string nomeLasciato;
 // The project's name is safe from the outputs for the length of a run.
 class ProgettoAlSicuro {
  public:
-    ProgettoAlSicuro() {
-        progettiProtetti.corrente = fileCorrente == nomeLasciato ? std::string() : fileCorrente;
-    }
+    explicit ProgettoAlSicuro(const std::string& progetto)
+        : prima_(std::exchange(progettiProtetti.corrente,
+                               progetto == nomeLasciato ? std::string() : progetto)) {}
     ProgettoAlSicuro(const ProgettoAlSicuro&) = delete;
     ProgettoAlSicuro& operator=(const ProgettoAlSicuro&) = delete;
-    ~ProgettoAlSicuro() { progettiProtetti.corrente.clear(); }
+    ~ProgettoAlSicuro() { progettiProtetti.corrente = prima_; }
+
+ private:
+    std::string prima_;
 };
 
 // A result file in the making and the progress display beside it: both are gone unless the run ends
@@ -117,21 +121,6 @@ std::string messaggioRifiuto(int fase, const RifiutoSuolo& rifiuto) {
     return traduttore("Calcolo interrotto") + ": " + traduttore("fase") + " " +
            std::to_string(fase) + ", " + traduttore("profondità") + " " +
            base::testoNumero(rifiuto.profondita) + " m: " + traduttore(causa(rifiuto.motivo)) + ".";
-}
-
-// Why the outputs can't be written under their names; empty if they can.
-std::string motivoUscite(int modoUscita, const UscitaCalcolo& uscita) {
-    if (const auto motivo = motivoNome(fileCorrente); !motivo.empty()) return traduttore(motivo);
-    const std::string risultati = base::nomeRisultati(fileCorrente);
-    auto file = uscita.file(modoUscita, risultati);
-    file.insert(file.begin(), risultati);
-    const auto vietato = std::find_if(file.begin(), file.end(), prendeIlPostoDelProgetto);
-    if (vietato == file.end()) return {};
-    return traduttore(
-               "Un file del calcolo prenderebbe il posto del progetto, i calcoli non possono "
-               "pertanto essere eseguiti. Dare al progetto un altro nome o scegliere un'altra "
-               "cartella") +
-           ": " + *vietato;
 }
 
 // A stage that asks for more anchors than there can be.
@@ -177,6 +166,21 @@ void calcolaFasi(int nSeg, const structure::MomentiResistenti& MRd, const PorteC
 
 }  // namespace
 
+std::string motivoUscite(const std::string& progetto, int modoUscita, const UscitaCalcolo& uscita) {
+    if (const auto motivo = motivoNome(progetto); !motivo.empty()) return traduttore(motivo);
+    const ProgettoAlSicuro sicuro(progetto);
+    const std::string risultati = base::nomeRisultati(progetto);
+    auto file = uscita.file(modoUscita, risultati);
+    file.insert(file.begin(), risultati);
+    const auto vietato = std::find_if(file.begin(), file.end(), prendeIlPostoDelProgetto);
+    if (vietato == file.end()) return {};
+    return traduttore(
+               "Un file del calcolo prenderebbe il posto del progetto, i calcoli non possono "
+               "pertanto essere eseguiti. Dare al progetto un altro nome o scegliere un'altra "
+               "cartella") +
+           ": " + *vietato;
+}
+
 void CalcoloParatia(int modoUscita, const PorteCalcolo& porte) {
     assert(modoUscita >= 0 && modoUscita <= 4);
     const Clessidra clessidra(porte.dialogo);
@@ -185,9 +189,11 @@ void CalcoloParatia(int modoUscita, const PorteCalcolo& porte) {
     if (const auto motivo = motivoRifiuto(Progetto); !motivo.empty())
         return avvisa(porte.dialogo, traduttore(motivo));
     if (const auto motivo = motivoTiranti(); !motivo.empty()) return avvisa(porte.dialogo, motivo);
-    const ProgettoAlSicuro sicuro;
-    if (const auto motivo = motivoUscite(modoUscita, porte.uscita); !motivo.empty())
+    if (const auto motivo = motivoFerri(Progetto); !motivo.empty())
         return avvisa(porte.dialogo, motivo);
+    if (const auto motivo = motivoUscite(fileCorrente, modoUscita, porte.uscita); !motivo.empty())
+        return avvisa(porte.dialogo, motivo);
+    const ProgettoAlSicuro sicuro(fileCorrente);
 
     NomeRisultati nome;
     structure::MomentiResistenti MRd;

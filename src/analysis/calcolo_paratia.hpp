@@ -42,13 +42,21 @@ struct PorteCalcolo {
 /// a run without a stiffness EJ leaves it at the result file's name until another file is opened.
 ///
 /// Before anything is written or removed a run is refused whose result file or output would take
-/// the place of the project, whose name is too short for the rule that names the result file, or in
-/// which a stage asks for more anchors than their table holds.
+/// the place of the project, whose name is too short for the rule that names the result file, in
+/// which a stage asks for more anchors than their table holds, or whose section has more bars than
+/// the calculations take.
 ///
 /// @param modoUscita  0 the report, 1 to 4 a diagram
 /// @pre `modoUscita` is one of these: asserted
 /// @throws base::ErroreFile if a file can't be read or written; nothing half-written stays
 void CalcoloParatia(int modoUscita, const PorteCalcolo& porte);
+
+/// Why the outputs of a run can't be written under the names that follow from the project's,
+/// translated; empty if they can. Writes nothing.
+/// @param progetto    the name from which they follow, which need not be that of a file
+/// @param modoUscita  as for `CalcoloParatia`
+[[nodiscard]] std::string motivoUscite(const std::string& progetto, int modoUscita,
+                                       const UscitaCalcolo& uscita);
 
 /// The message of a system without a solution, an Italian key.
 inline constexpr const char* messaggioSingolare =

@@ -1,5 +1,9 @@
 #include "analysis/input_checks.hpp"
 
+#include "base/number_text.hpp"
+#include "base/translated_texts.hpp"
+#include "structure/stiffness_update.hpp"
+
 namespace korven::analysis {
 
 namespace {
@@ -49,6 +53,12 @@ std::vector<std::string_view> motiviRifiuto(const DatiProgetto& dati) {
 std::string_view motivoRifiuto(const DatiProgetto& dati) {
     const auto motivi = motiviRifiuto(dati);
     return motivi.empty() ? std::string_view{} : motivi.front();
+}
+
+std::string motivoFerri(const DatiProgetto& dati) {
+    if (!structure::troppiFerri(dati.sezione)) return {};
+    return base::traduttore("numero di ferri oltre la capacità (100000)") + " (" +
+           base::testoNumero(dati.sezione.armNumLong) + ")";
 }
 
 }  // namespace korven::analysis

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -14,6 +15,10 @@ namespace korven::analysis {
 
 /// The first of them, which a run tells; empty if there is none.
 [[nodiscard]] std::string_view motivoRifiuto(const project::DatiProgetto& dati);
+
+/// Why a run can't take the longitudinal bars of the section, translated, with the stored number;
+/// empty if it can.
+[[nodiscard]] std::string motivoFerri(const project::DatiProgetto& dati);
 
 /// The message of a run without a bending stiffness, an Italian key.
 inline constexpr std::string_view messaggioSenzaEJ = "Il valore di EJ non è ancora stato definito.";

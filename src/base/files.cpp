@@ -75,11 +75,23 @@ void rifiutaEnorme(const std::string& percorso, std::size_t byte) {
     if (byte > massimoByte) throw ErroreFile(percorso, 0, traduttore("il file è troppo grande"));
 }
 
-// The file that a name stands for: a link leads to its target, which may not exist yet.
+// The file that a name stands for: a link leads to its target, which may not exist yet. As many
+// links as the system itself would follow; more are a loop.
 std::string destinazione(const std::string& percorso) {
-    std::error_code errore;
-    const auto vero = std::filesystem::weakly_canonical(percorso, errore);
-    return errore ? percorso : vero.string();
+    constexpr int massimoLink = 40;
+    std::filesystem::path meta = percorso;
+    for (int i = 0; i < massimoLink; ++i) {
+        std::error_code errore;
+        const auto oltre = std::filesystem::read_symlink(meta, errore);
+        if (errore) return meta.string();
+        meta = meta.parent_path() / oltre;  // an absolute target stands for itself
+    }
+    fallito(percorso, "impossibile scrivere il file", ELOOP);
+}
+
+std::string cartellaDi(const std::string& percorso) {
+    const auto cartella = std::filesystem::path(percorso).parent_path();
+    return cartella.empty() ? "." : cartella.string();
 }
 
 mode_t permessi(const std::string& percorso) {
@@ -122,7 +134,9 @@ void scriviFile(const std::string& percorso, std::string_view contenuto) {
     // Taking over the name would get past a file's own write protection.
     if (::access(meta.c_str(), F_OK) == 0 && ::access(meta.c_str(), W_OK) != 0)
         fallito(percorso, "impossibile scrivere il file", errno);
-    std::string provvisorio = meta + ".XXXXXX";
+    const std::string cartella = cartellaDi(meta);
+    // A name of its own, since the longest name that a folder takes leaves no room behind it.
+    std::string provvisorio = cartella + "/.korven-XXXXXX";
     Descrittore file(::mkostemp(provvisorio.data(), O_CLOEXEC));
     if (*file < 0) fallito(percorso, "impossibile scrivere il file", errno);
     const bool scritto = scriviTutto(*file, contenuto) && ::fchmod(*file, permessi(meta)) == 0 &&
@@ -133,7 +147,7 @@ void scriviFile(const std::string& percorso, std::string_view contenuto) {
         ::unlink(provvisorio.c_str());
         fallito(percorso, "impossibile scrivere il file", codice);
     }
-    versaSulDisco(std::filesystem::path(meta).parent_path().string());
+    versaSulDisco(cartella);
 }
 
 void accodaFile(const std::string& percorso, std::string_view contenuto) {

@@ -16,10 +16,9 @@ inline constexpr std::size_t massimoByte = std::size_t{1} << 30;
 
 /// Puts `contenuto` under the name `percorso`, all of it or nothing: the bytes go into a temporary
 /// file of the same folder, to the disk, and then take the name. What stood there before survives
-/// any failure; its permissions are kept, a link is followed.
-/// @throws ErroreFile with the system's reason (full disk, no permission, no such folder), or if
-/// the
-///         name stands for a pipe, a device or a socket
+/// any failure; its permissions are kept, a link is followed to its target, which need not exist.
+/// @throws ErroreFile with the system's reason (full disk, no permission, no such folder, links in
+///         a loop), or if the name stands for a pipe, a device or a socket
 void scriviFile(const std::string& percorso, std::string_view contenuto);
 
 /// Appends to an existing file; on a failure the file is cut back to what it held.

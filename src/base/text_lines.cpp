@@ -8,6 +8,26 @@
 
 namespace korven::base {
 
+namespace {
+
+// What an editor did to the file on saving it, an Italian key; empty if it looks like plain text.
+// A mark of UTF-8 spoils the first line alone.
+std::string_view altraCodifica(std::string_view contenuto, long riga) {
+    if (contenuto.starts_with("\xFF\xFE") || contenuto.starts_with("\xFE\xFF"))
+        return "il file comincia con un segno d'ordine dei byte (BOM) di UTF-16: salvarlo come "
+               "testo "
+               "ANSI (Windows-1252)";
+    if (riga == 1 && contenuto.starts_with("\xEF\xBB\xBF"))
+        return "il file comincia con un segno d'ordine dei byte (BOM) di UTF-8: salvarlo come "
+               "testo "
+               "ANSI (Windows-1252)";
+    if (contenuto.find('\0') != std::string_view::npos)
+        return "il file contiene byte nulli: è in UTF-16 oppure non è un testo";
+    return {};
+}
+
+}  // namespace
+
 LettoreRighe LettoreRighe::apri(const std::string& percorso, std::string rimedio) {
     return {percorso, leggiFile(percorso), std::move(rimedio)};
 }
@@ -47,6 +67,8 @@ bool LettoreRighe::rigaIntera() const {
 
 void LettoreRighe::rifiuta(std::string_view atteso) const {
     std::string testo(atteso);
+    if (const auto causa = altraCodifica(contenuto_, letta_); !causa.empty())
+        testo += "; " + traduttore(causa);
     if (!rimedio_.empty()) testo += "; " + rimedio_;
     throw ErroreFile(percorso_, letta_, testo);
 }

@@ -37,7 +37,8 @@ class LettoreRighe {
     /// True when the line last read has its line end: then nothing of it was cut off.
     [[nodiscard]] bool rigaIntera() const;
 
-    /// Raises an ErroreFile for the line last read.
+    /// Raises an ErroreFile for the line last read. Names a byte order mark or zero bytes too,
+    /// which are then the cause.
     /// @param atteso  what was expected there, translated
     [[noreturn]] void rifiuta(std::string_view atteso) const;
 

@@ -1,7 +1,9 @@
 #include "batch/command_run.hpp"
 
 #include <iostream>
+#include <utility>
 
+#include "analysis/calcolo_paratia.hpp"
 #include "analysis/segment_count.hpp"
 #include "base/file_names.hpp"
 #include "base/translated_texts.hpp"
@@ -16,6 +18,11 @@ namespace {
 
 int verifica(const std::string& progetto, Esito& esito) {
     esito.rilievi = commands::esaminaFile(progetto, project::Progetto);
+    // Every command that calculates writes a result file; only some write more.
+    const commands::UscitaRelazione soloRisultati(false);
+    if (auto motivo = analysis::motivoUscite(project::fileCorrente, 0, soloRisultati);
+        !motivo.empty())
+        esito.rilievi.insert(esito.rilievi.begin(), {true, std::move(motivo)});
     return commands::calcolabile(esito.rilievi) ? fatto : nonEseguito;
 }
 

@@ -37,7 +37,11 @@ void raccontaGuasto(Esito& esito) {
         throw;
     } catch (const base::ErroreValore& errore) {
         togliRisultati(esito);
-        fallisci(nonEseguito, esito.progetto + ": " + errore.what(), esito);
+        fallisci(
+            nonEseguito,
+            esito.progetto + ": " + errore.what() + "; " +
+                base::traduttore("il comando verifica nomina i campi con valori troppo grandi"),
+            esito);
     } catch (const base::ErroreIndice& errore) {
         fallisci(ingressoRotto, esito.progetto + ": " + spiegazione(errore), esito);
     } catch (const std::exception& errore) {
@@ -55,10 +59,13 @@ void fallisci(int codice, const std::string& perche, Esito& esito) {
 void avvisaRelazioniRimaste(Esito& esito) {
     for (const auto& file : commands::relazioniRimaste(project::fileCorrente)) {
         const auto& scritti = esito.fileScritti;
-        if (std::find(scritti.begin(), scritti.end(), file) != scritti.end()) continue;
+        if (std::any_of(scritti.begin(), scritti.end(), [&file](const std::string& scritto) {
+                return base::stessoFile(scritto, file);
+            }))
+            continue;
         const std::string avviso =
-            base::traduttore("File di un calcolo precedente, non di questo stato del progetto") +
-            ": " + file;
+            base::traduttore("File di un calcolo precedente, non aggiornato da questo") + ": " +
+            file;
         std::cerr << avviso << '\n';
         esito.messaggi.push_back(avviso);
     }

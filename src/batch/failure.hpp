@@ -23,7 +23,8 @@ void raccontaGuasto(Esito& esito);
 void fallisci(int codice, const std::string& perche, Esito& esito);
 
 /// Tells of the report and the text of an earlier run, which lie where those of this failed one
-/// would be and may be taken for them.
+/// would be and may be taken for them. Whether they belong to the project as it now stands is not
+/// known; what this run has written itself is left out, under whatever name.
 void avvisaRelazioniRimaste(Esito& esito);
 
 }  // namespace korven::batch

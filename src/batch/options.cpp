@@ -69,6 +69,7 @@ void comuni(CLI::App& comando, Opzioni& o) {
     versione(comando);
     comando.add_option("--cartella", o.cartella, traduttore("cartella del programma"))
         ->type_name("DIR")
+        ->check(percorso)
         ->check(senzaNome(CLI::ExistingDirectory));
     comando.add_option("--lingua", o.lingua, traduttore("lingua dei testi"))
         ->type_name("ita|deu|fra|esp|eng|por")
@@ -262,7 +263,7 @@ EsitoLettura leggiOpzioni(int argc, const char* const* argv) {
     } catch (const CLI::ParseError& errore) {
         const bool senzaComando = app.get_subcommands().empty();
         return rifiuta(senzaComando ? comandoMancante(argc, argv, nomiComandi())
-                                    : spiegazioneUso(*app.get_subcommands().front(), errore));
+                                    : spiegazioneUso(app, errore));
     }
     if (disegna(o.comando) && o.disegno.nessuna())
         return rifiuta(traduttore("manca un argomento") + ": --dxf, --pdf, --svg, --png");

@@ -36,12 +36,26 @@ std::string nomeMostrato(const CLI::Option& opzione) {
     return opzione.get_positional() ? opzione.get_type_name() : opzione.get_name();
 }
 
+std::string primaDelComando(const std::string& opzione) {
+    return traduttore("le opzioni stanno dopo il comando") + ": " + opzione;
+}
+
+// What stands in front of the command belongs to the program, which has no options but its help and
+// version.
+std::string argomentiDiTroppo(const CLI::App& programma) {
+    const auto prima = programma.remaining(false);
+    for (const auto& argomento : prima)
+        if (argomento.starts_with('-')) return primaDelComando(argomento);
+    return traduttore("argomento sconosciuto") + ":" +
+           uniti(prima.empty() ? programma.get_subcommands().front()->remaining(true) : prima);
+}
+
 }  // namespace
 
-std::string spiegazioneUso(const CLI::App& comando, const CLI::ParseError& errore) {
+std::string spiegazioneUso(const CLI::App& programma, const CLI::ParseError& errore) {
     const auto codice = static_cast<CLI::ExitCodes>(errore.get_exit_code());
-    if (codice == CLI::ExitCodes::ExtrasError)
-        return traduttore("argomento sconosciuto") + ":" + uniti(comando.remaining(true));
+    if (codice == CLI::ExitCodes::ExtrasError) return argomentiDiTroppo(programma);
+    const CLI::App& comando = *programma.get_subcommands().front();
     const CLI::Option* opzione = opzioneDetta(comando, errore.what());
     if (opzione == nullptr) return traduttore("valore non ammesso");
     const std::string nome = ": " + nomeMostrato(*opzione);
@@ -68,6 +82,7 @@ std::string valoreVuoto(int argc, const char* const* argv) {
 // The library only says that a command is required, whatever stands in its place.
 std::string comandoMancante(int argc, const char* const* argv,
                             const std::vector<std::string>& comandi) {
+    if (argc > 1 && std::string_view(argv[1]).starts_with('-')) return primaDelComando(argv[1]);
     return (argc > 1 ? traduttore("comando sconosciuto") + " (" + argv[1] + ")"
                      : traduttore("manca il comando")) +
            ":" + uniti(comandi, ", ");

@@ -7,7 +7,8 @@ namespace korven::batch {
 
 /// What is wrong with a command line whose command is known, in the language in force: the
 /// library's own words are English and are not shown.
-[[nodiscard]] std::string spiegazioneUso(const CLI::App& comando, const CLI::ParseError& errore);
+/// @param programma  the program, of whose commands one was given
+[[nodiscard]] std::string spiegazioneUso(const CLI::App& programma, const CLI::ParseError& errore);
 
 /// What is wrong with an option written "--uscita=" without a value, for which the library would
 /// take the next argument; empty if there is none.

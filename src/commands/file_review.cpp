@@ -24,7 +24,7 @@ std::string racconto(const RigaInsolita& insolita) {
         case RigaInsolita::Motivo::oltreLultima:
             return dove + traduttore(
                               "il file continua dopo l'ultimo valore: i numeri di strati, "
-                              "tiranti e fasi non sono quelli delle righe scritte");
+                              "tiranti e fasi potrebbero non essere quelli delle righe scritte");
     }
     return {};
 }

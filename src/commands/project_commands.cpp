@@ -38,6 +38,12 @@ std::string assoluto(const fs::path& percorso) {
         .string();
 }
 
+// A name may be nothing but an extension (".kvd"), which the library takes for a name.
+std::string senzaEstensione(const fs::path& percorso) {
+    const std::string nome = percorso.filename().string();
+    return (percorso.parent_path() / nome.substr(0, nome.rfind('.'))).string();
+}
+
 EsitoFase estremi(int k, const project::DatiProgetto& dati, int nNodi,
                   const analysis::RisultatiFase& risultati) {
     EsitoFase esito{k, dati.profFase[k], 0, risultati.momentoNodo[1], risultati.momentoNodo[1]};
@@ -115,16 +121,17 @@ std::string scriviTesto(const std::string& relazione) {
 std::vector<std::string> relazioniRimaste(const std::string& progetto) {
     const std::string relazione = base::nomeRelazione(base::nomeRisultati(progetto));
     std::vector<std::string> rimaste;
-    for (const auto& percorso : {relazione, nomeTesto(relazione)})
-        if (base::esisteFile(percorso) && !analysis::prendeIlPostoDelProgetto(percorso))
+    for (const auto& percorso : {relazione, nomeTesto(relazione)}) {
+        std::error_code errore;
+        if (fs::is_regular_file(percorso, errore) && !analysis::prendeIlPostoDelProgetto(percorso))
             rimaste.push_back(percorso);
+    }
     return rimaste;
 }
 
 bool relazioneAltrove(const std::string& progetto) {
-    fs::path risultati = base::nomeRisultati(progetto);
-    fs::path relazione = base::nomeRelazione(risultati.string());
-    return risultati.replace_extension() != relazione.replace_extension();
+    const std::string risultati = base::nomeRisultati(progetto);
+    return senzaEstensione(risultati) != senzaEstensione(base::nomeRelazione(risultati));
 }
 
 }  // namespace korven::commands

@@ -86,8 +86,8 @@ class UscitaRelazione : public analysis::UscitaCalcolo {
 ///         document, or if the text would take the place of the project or of the mark-up
 std::string scriviTesto(const std::string& relazione);
 
-/// The report and the text of an earlier run of this project that still lie where a new one would
-/// write them: after a run that failed they must not be taken for its outcome.
+/// The report and the text that lie where a run of this project writes them, if they are plain
+/// files: after a run that failed they must not be taken for its outcome.
 [[nodiscard]] std::vector<std::string> relazioniRimaste(const std::string& progetto);
 
 /// True if the first point of the path, which ends the name of the report, is not that of the

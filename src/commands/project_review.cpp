@@ -61,6 +61,7 @@ void controlloIngressi(const DatiProgetto& dati, ElencoRilievi& elenco) {
 std::vector<Rilievo> esaminaProgetto(const DatiProgetto& dati) {
     ElencoRilievi elenco;
     controlloIngressi(dati, elenco);
+    controlloMostrati(dati, elenco);
     controlloCodici(dati, elenco);
     controlloTerreno(dati, elenco);
     controlloTiranti(dati, elenco);

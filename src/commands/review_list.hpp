@@ -47,6 +47,9 @@ void controlloTerreno(const project::DatiProgetto& dati, ElencoRilievi& elenco);
 /// @pre no input check fails
 void controlloSuolo(const project::DatiProgetto& dati, int nSeg, ElencoRilievi& elenco);
 
+/// The fields whose shown value, ten times the stored one, is no number any more.
+void controlloMostrati(const project::DatiProgetto& dati, ElencoRilievi& elenco);
+
 void controlloTiranti(const project::DatiProgetto& dati, ElencoRilievi& elenco);
 void controlloFasi(const project::DatiProgetto& dati, ElencoRilievi& elenco);
 

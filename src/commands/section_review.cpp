@@ -1,6 +1,7 @@
-#include <cmath>
+#include <utility>
 
 #include "analysis/input_checks.hpp"
+#include "analysis/run_arrays.hpp"
 #include "base/translated_texts.hpp"
 #include "commands/review_list.hpp"
 #include "structure/section_millimetres.hpp"
@@ -28,15 +29,9 @@ bool qualcosaScritto(const Sezione& s) {
     return !(s == vuota);
 }
 
-// A run asks for the bars as soon as the section is whole, whether or not EJ is typed.
-bool troppiFerri(const Sezione& s) {
-    return structure::tipoSezione(s) == TipoSezione::paliArmati && structure::sezioneValida(s) &&
-           std::floor(s.armNumLong) > structure::massimoFerri;
-}
-
 // The stiffness of the section as a run would take it, 0 if it has none.
 double rigidezzaDallaSezione(const Sezione& s) {
-    return troppiFerri(s) ? 0 : structure::rigidezzaOfferta(s).value_or(0);
+    return structure::troppiFerri(s) ? 0 : structure::rigidezzaOfferta(s).value_or(0);
 }
 
 // A typed stiffness this many times the section's own, or less than that part of it, is hardly
@@ -60,7 +55,7 @@ struct Faccia {
     double copriferro, interasse, diametro;
 };
 
-void controlloFaccia(const Faccia& f, double spessore, ElencoRilievi& elenco) {
+void controlloFaccia(const Faccia& f, const Sezione& s, ElencoRilievi& elenco) {
     const std::string dove = traduttore(f.nome) + ": ";
     const std::string copriferro = dove + campo("Copriferro [mm]", f.copriferro * 10) + ": ";
     if ((f.interasse > 0) != (f.diametro > 0)) {
@@ -70,12 +65,14 @@ void controlloFaccia(const Faccia& f, double spessore, ElencoRilievi& elenco) {
         return;
     }
     const bool armata = f.interasse > 0;
-    if (armata && f.copriferro <= 0)
+    // Without a whole face the section counts as defined in part and no bars count at all.
+    if (armata && f.copriferro <= 0 && structure::sezioneValida(s))
         elenco.avviso(copriferro + traduttore("senza copriferro il calcolo conta le armature ma la "
                                               "relazione non le mostra"));
     if (!armata && f.copriferro > 0)
         elenco.avviso(copriferro + traduttore("la faccia conta come non armata"));
-    if (armata && spessore > 0 && f.copriferro + f.diametro / 2 >= spessore / 2)
+    if (armata && s.spessoreDiaframma > 0 &&
+        f.copriferro + f.diametro / 2 >= s.spessoreDiaframma / 2)
         elenco.avviso(copriferro + traduttore(oltreMeta));
 }
 
@@ -86,13 +83,30 @@ void controlloStaffe(const Sezione& s, ElencoRilievi& elenco) {
                   traduttore("senza l'uno o l'altro non c'è verifica a taglio"));
 }
 
+// The shear check takes the largest value of all nodes, those at the ends included.
+void controlloTaglio(const DatiProgetto& dati, ElencoRilievi& elenco) {
+    if (!structure::staffePresenti(dati.sezione) || !structure::sezioneValida(dati.sezione)) return;
+    if (analysis::vincoli(dati).incastroPiede)
+        elenco.avviso(
+            campo("vincolo al piede", dati.vincoloPiede) + ": " +
+            traduttore("la verifica a taglio conta anche il valore al piede incastrato, che "
+                       "non è un taglio della paratia e cresce con il numero di segmenti"));
+    if (dati.forzaTesta != 0)
+        elenco.avviso(
+            campo("Forza orizzontale esterna applicata alla sommità del diaframma [kN]",
+                  dati.forzaTesta * 10) +
+            ": " +
+            traduttore("la verifica a taglio conta anche il valore in testa, che è il doppio "
+                       "della forza e non è il taglio della paratia"));
+}
+
 void controlloMisure(const Sezione& s, ElencoRilievi& elenco) {
     switch (structure::tipoSezione(s)) {
         case TipoSezione::diaframma:
-            controlloFaccia({"lato monte", s.copriferroMonte, s.interasseMonte, s.diametroMonte},
-                            s.spessoreDiaframma, elenco);
-            controlloFaccia({"lato valle", s.copriferroValle, s.interasseValle, s.diametroValle},
-                            s.spessoreDiaframma, elenco);
+            controlloFaccia({"lato monte", s.copriferroMonte, s.interasseMonte, s.diametroMonte}, s,
+                            elenco);
+            controlloFaccia({"lato valle", s.copriferroValle, s.interasseValle, s.diametroValle}, s,
+                            elenco);
             break;
         case TipoSezione::pali:
             if (s.paliDiamEst > 0 && s.paliDiamInt >= s.paliDiamEst)
@@ -133,11 +147,11 @@ void controlloTipo(const Sezione& s, ElencoRilievi& elenco) {
 constexpr double ferriDaRelazione = 100;
 
 // The editor stores a tenth of the number that is typed, so 12 typed for twelve bars becomes 1.2.
-void controlloFerri(const Sezione& s, ElencoRilievi& elenco) {
+void controlloFerri(const DatiProgetto& dati, ElencoRilievi& elenco) {
+    const Sezione& s = dati.sezione;
     if (structure::tipoSezione(s) != TipoSezione::paliArmati || s.armNumLong == 0) return;
-    if (troppiFerri(s))
-        elenco.impedimento(
-            conValore(traduttore("numero di ferri oltre la capacità (100000)"), s.armNumLong));
+    if (auto troppi = analysis::motivoFerri(dati); !troppi.empty())
+        elenco.impedimento(std::move(troppi));
     else if (s.armNumLong < 1)
         elenco.avviso(conValore(
             traduttore("numero di ferri memorizzato minore di 1: i pali contano come non armati "
@@ -161,7 +175,8 @@ void controlloSezione(const DatiProgetto& dati, ElencoRilievi& elenco) {
     controlloRigidezza(dati, elenco);
     controlloTipo(dati.sezione, elenco);
     controlloMisure(dati.sezione, elenco);
-    controlloFerri(dati.sezione, elenco);
+    controlloFerri(dati, elenco);
+    controlloTaglio(dati, elenco);
 }
 
 }  // namespace korven::commands

@@ -35,7 +35,12 @@ class Ricerca {
     [[nodiscard]] bool blocco() const { return !file_.fine(); }
 
     std::vector<RigaInsolita> finisci() {
-        if (!file_.fine()) aggiungi(Motivo::oltreLultima, leggi({}));
+        while (!file_.fine()) {
+            RigaInsolita riga = leggi({});
+            if (riga.testo.empty()) continue;  // an editor may leave blank lines at the end
+            aggiungi(Motivo::oltreLultima, std::move(riga));
+            break;
+        }
         return std::move(trovate_);
     }
 

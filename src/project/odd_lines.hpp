@@ -23,7 +23,8 @@ struct RigaInsolita {
 };
 
 /// Goes through a project file as `leggiDati` does and lists the lines that hold more than their
-/// value, in their order. Only the first line behind the last value is listed.
+/// value, in their order. Of those behind the last value only the first that is not blank is
+/// listed.
 /// @param dati  what `leggiDati` made of the same file: its counts say how many lines there are
 /// @throws base::ErroreFile if the file is shorter than the counts say
 [[nodiscard]] std::vector<RigaInsolita> righeInsolite(base::LettoreRighe& file,

@@ -3,6 +3,8 @@
 #include <cmath>
 
 #include "base/translated_texts.hpp"
+#include "structure/section_millimetres.hpp"
+#include "structure/section_type.hpp"
 #include "structure/section_validity.hpp"
 #include "structure/stiffness.hpp"
 
@@ -24,6 +26,11 @@ bool accettaSostituzione(base::Dialogo& dialogo) {
 }
 
 }  // namespace
+
+bool troppiFerri(const project::Sezione& sezione) {
+    return tipoSezione(sezione) == TipoSezione::paliArmati && sezioneValida(sezione) &&
+           std::floor(sezione.armNumLong) > massimoFerri;
+}
 
 std::optional<double> rigidezzaOfferta(const project::Sezione& sezione) {
     if (!sezioneValida(sezione)) return std::nullopt;

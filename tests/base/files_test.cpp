@@ -52,6 +52,45 @@ TEST(ScriviFile, FollowsALinkInsteadOfReplacingIt) {
     EXPECT_EQ(contenuto(cartella / "vero"), "dopo");
 }
 
+TEST(ScriviFile, TakesTheLongestNameThatAFolderTakes) {
+    const CartellaProvvisoria cartella;
+    const std::string percorso = cartella / (std::string(251, 'm') + ".kvd");
+    scriviFile(percorso, "uno");
+    scriviFile(percorso, "due");
+    EXPECT_EQ(contenuto(percorso), "due");
+    EXPECT_EQ(voci(cartella), 1u);
+}
+
+TEST(ScriviFile, MakesTheMissingTargetOfALink) {
+    namespace fs = std::filesystem;
+    const CartellaProvvisoria cartella;
+    fs::create_directory(cartella / "sotto");
+    fs::create_symlink("sotto/vero", cartella / "secondo");
+    fs::create_symlink(cartella / "secondo", cartella / "primo");
+    scriviFile(cartella / "primo", "dopo");
+    EXPECT_TRUE(fs::is_symlink(cartella / "primo"));
+    EXPECT_TRUE(fs::is_symlink(cartella / "secondo"));
+    EXPECT_EQ(contenuto(cartella / "sotto/vero"), "dopo");
+    EXPECT_EQ(voci(cartella), 3u);
+}
+
+TEST(ScriviFile, RefusesALinkIntoAMissingFolderAndOneThatLeadsToItself) {
+    namespace fs = std::filesystem;
+    const CartellaProvvisoria cartella;
+    fs::create_symlink("manca/vero", cartella / "altrove");
+    fs::create_symlink("anello", cartella / "anello");
+    for (const char* nome : {"altrove", "anello"}) {
+        try {
+            scriviFile(cartella / nome, "x");
+            ADD_FAILURE() << nome;
+        } catch (const ErroreFile& errore) {
+            EXPECT_EQ(errore.percorso(), cartella / nome);
+        }
+        EXPECT_TRUE(fs::is_symlink(cartella / nome)) << nome;
+    }
+    EXPECT_EQ(voci(cartella), 2u);
+}
+
 TEST(ScriviFile, LeavesTheOldFileAndNoHalfOneWhenTheFolderIsMissing) {
     const CartellaProvvisoria cartella;
     EXPECT_THROW(scriviFile(cartella / "nessuna/f", "x"), ErroreFile);

@@ -57,6 +57,40 @@ TEST(LettoreRighe, IgnoresBlanksAroundANumber) {
     EXPECT_EQ(file.numero(""), -0.5);
 }
 
+// What is said of a file whose first line is no number.
+std::string detto(const std::string& contenuto) {
+    LettoreRighe file("f", contenuto);
+    try {
+        for (;;) file.numero("n");
+    } catch (const ErroreFile& errore) {
+        return errore.what();
+    }
+}
+
+TEST(LettoreRighe, NamesAByteOrderMarkOrZeroBytesAsTheCause) {
+    using namespace std::string_literals;
+    const std::string salva = ": salvarlo come testo ANSI (Windows-1252)";
+    EXPECT_EQ(
+        detto("\xEF\xBB\xBF"
+              "2\r\n"),
+        "f, riga 1: atteso un numero: n; il file comincia con un segno d'ordine dei byte (BOM) "
+        "di UTF-8" +
+            salva);
+    for (const auto& testo : {"\xFF\xFE"
+                              "2\0\r\0\n\0"s,
+                              "\xFE\xFF\0"
+                              "2\0\r\0\n"s})
+        EXPECT_EQ(detto(testo),
+                  "f, riga 1: atteso un numero: n; il file comincia con un segno d'ordine dei byte "
+                  "(BOM) di UTF-16" +
+                      salva);
+    EXPECT_EQ(
+        detto("2\0\r\0\n\0x\0"s),
+        "f, riga 2: atteso un numero: n; il file contiene byte nulli: è in UTF-16 oppure non è "
+        "un testo");
+    EXPECT_EQ(detto("due\r\n"), "f, riga 1: atteso un numero: n");
+}
+
 TEST(LettoreRighe, NamesFileLineAndWhatWasExpected) {
     LettoreRighe file("muro.kvd", "1\r\nabc\r\n", "cancellare il file");
     EXPECT_EQ(file.numero("primo"), 1);

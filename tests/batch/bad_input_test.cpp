@@ -1,6 +1,7 @@
 #include <sys/stat.h>
 
 #include "batch_bench.hpp"
+#include "structure/sample_sections.hpp"
 
 namespace korven::batch {
 namespace {
@@ -177,6 +178,21 @@ TEST_F(IngressoRotto, MoreAnchorsThanTheTableHoldsAreRefusedWithTheirStage) {
     EXPECT_EQ(nomi(), "muro.kvd ");
 }
 
+TEST_F(IngressoRotto, MoreBarsThanTheCalculationsTakeAreRefusedWithTheirNumber) {
+    auto d = progettoSemplice();
+    d.sezione = structure::paliArmati();
+    d.sezione.armNumLong = 200000;
+    scrivi(d);
+    for (const char* comando : {"calcola", "relazione", "verifica"}) {
+        const auto esito = esegui(comando);
+        EXPECT_EQ(esito.codice, 1);
+        EXPECT_TRUE(dice(esito.errori + esito.uscita,
+                         "numero di ferri oltre la capacità (100000) (200000)\n"))
+            << esito.errori << esito.uscita;
+    }
+    EXPECT_EQ(nomi(), "muro.kvd ");
+}
+
 TEST_F(IngressoRotto, AValueTooLargeToBeShownIsARefusalWithoutAReport) {
     auto d = progettoSemplice();
     d.nStrati = 3;  // a layer below the wall, which no node lies in
@@ -187,7 +203,17 @@ TEST_F(IngressoRotto, AValueTooLargeToBeShownIsARefusalWithoutAReport) {
     EXPECT_EQ(esito.codice, 1);
     EXPECT_TRUE(dice(esito.errori, progetto + ": i dati portano a un valore troppo grande"))
         << esito.errori;
+    EXPECT_TRUE(
+        dice(esito.errori, "; il comando verifica nomina i campi con valori troppo grandi\n"))
+        << esito.errori;
     EXPECT_EQ(nomi(), "muro.kvd ");  // as after a singular system
+    const auto verifica = esegui("verifica");
+    EXPECT_EQ(verifica.codice, 1);
+    EXPECT_TRUE(
+        dice(verifica.uscita,
+             "impedisce il calcolo: strato 3: Gamma [kN/m³]: valore troppo grande per essere "
+             "mostrato\n"))
+        << verifica.uscita;
 }
 
 TEST_F(IngressoRotto, APipeIsToldInsteadOfWaitedFor) {

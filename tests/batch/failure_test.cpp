@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 #include "analysis/output_guard.hpp"
 #include "base/file_error.hpp"
 #include "base/files.hpp"
@@ -61,6 +63,23 @@ TEST(RaccontaGuasto, GivesOneForAValueTooLargeToBeShownAndLeavesNoResultFile) {
     (void)dopo(base::ErroreValore(), project::fileCorrente);
     EXPECT_TRUE(base::esisteFile(cartella / "muro.OUT"));
     analysis::progettiProtetti = {};
+    project::fileCorrente.clear();
+}
+
+TEST(AvvisaRelazioniRimaste, LeavesOutWhatThisRunWroteUnderAnyNameOfIt) {
+    const test::CartellaProvvisoria cartella;
+    project::fileCorrente = cartella / "muro.kvd";
+    test::metti(cartella / "muro.TAB", "relazione");
+    test::metti(cartella / "muro.txt", "vecchio");
+    std::filesystem::create_directory_symlink(cartella.percorso(), cartella / "via");
+    Esito esito;
+    esito.fileScritti = {cartella / "via/muro.TAB"};
+    ::testing::internal::CaptureStderr();
+    avvisaRelazioniRimaste(esito);
+    const std::string detto =
+        "File di un calcolo precedente, non aggiornato da questo: " + (cartella / "muro.txt");
+    EXPECT_EQ(::testing::internal::GetCapturedStderr(), detto + "\n");
+    EXPECT_EQ(esito.messaggi, std::vector<std::string>{detto});
     project::fileCorrente.clear();
 }
 

@@ -53,6 +53,14 @@ TEST_F(Opzione, WrongUsageEndsWithTwoAndAClearMessage) {
         {{"calcola", progetto, "--lingua"}, "manca il valore di un'opzione: --lingua\n"},
         {{"disegna", progetto}, "comando sconosciuto (disegna): calcola, relazione, verifica"},
         {{"calcola", progetto, "altro.kvd"}, "argomento sconosciuto: altro.kvd\n"},
+        {{"--silenzioso", "calcola", progetto},
+         "korven32c: le opzioni stanno dopo il comando: --silenzioso\n"},
+        {{"--nseg", "50", "calcola", progetto}, "le opzioni stanno dopo il comando: --nseg\n"},
+        {{"--nseg=50", "calcola", progetto}, "le opzioni stanno dopo il comando: --nseg=50\n"},
+        {{"--silenzioso", "calcola", progetto, "--svelto"},
+         "le opzioni stanno dopo il comando: --silenzioso\n"},
+        {{"--silenzioso", progetto}, "le opzioni stanno dopo il comando: --silenzioso\n"},
+        {{"altro", "calcola", progetto}, "argomento sconosciuto: altro\n"},
         {{"calcola", progetto, "--svelto"}, "argomento sconosciuto: --svelto\n"},
         {{"calcola", progetto, "--txt"}, "argomento sconosciuto"},
         {{"relazione", progetto, "--traccia"}, "argomento sconosciuto"},
@@ -113,6 +121,22 @@ TEST_F(Opzione, AProgramFolderThatDoesNotExistIsWrongUsageWhateverElseIsAsked) {
         EXPECT_EQ(esito.codice, 2);
         EXPECT_TRUE(dice(esito.errori, "--cartella " + (cartella / "altrove"))) << esito.errori;
     }
+}
+
+TEST_F(Opzione, AProgramFolderWithTheLooksOfAnOptionIsWrongUsageThoughItExists) {
+    fs::create_directory(cartella / "-x");
+    for (const std::vector<std::string>& opzione :
+         {std::vector<std::string>{"--cartella", "-x"}, {"--cartella=-x"}}) {
+        auto argomenti = opzione;
+        argomenti.insert(argomenti.begin(), {"calcola", progetto, "--nseg", "10"});
+        const auto esito = console(argomenti, {.cartella = cartella.percorso()});
+        EXPECT_EQ(esito.codice, 2);
+        EXPECT_TRUE(dice(esito.errori, "valore non ammesso: --cartella -x (DIR)\n"))
+            << esito.errori;
+    }
+    const auto esito = console({"calcola", progetto, "--nseg", "10", "--cartella", "./-x"},
+                               {.cartella = cartella.percorso()});
+    EXPECT_EQ(esito.codice, 0) << esito.errori;
 }
 
 TEST_F(Opzione, VerificaMakesNoFolderForResults) {

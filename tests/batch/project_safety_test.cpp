@@ -22,6 +22,18 @@ class ProgettoAlSicuro : public test::BancoConsole {
         EXPECT_TRUE(esito.uscita.empty());
         EXPECT_EQ(this->file(), prima);
     }
+    // A review says beforehand what a run would refuse, in the same words.
+    void aspettaRilievo(const std::string& detto, std::vector<std::string> altri = {}) {
+        const auto prima = file();
+        const auto esito = esegui("verifica", altri);
+        EXPECT_EQ(esito.codice, 1);
+        EXPECT_TRUE(esito.uscita.starts_with("impedisce il calcolo: ")) << esito.uscita;
+        EXPECT_TRUE(dice(esito.uscita, detto)) << esito.uscita;
+        EXPECT_TRUE(dice(esito.uscita, "Il progetto non può essere calcolato.")) << esito.uscita;
+        altri.emplace_back("--json");
+        EXPECT_TRUE(dice(esegui("verifica", altri).uscita, "\"calcolabile\": false"));
+        EXPECT_EQ(file(), prima);
+    }
     void rinomina(const std::string& nome) {
         fs::rename(progetto, cartella / nome);
         progetto = cartella / nome;
@@ -100,10 +112,33 @@ TEST_F(ProgettoAlSicuro, IsTheOneThatTheSystemWouldOpenThroughALink) {
     EXPECT_EQ(nomi(), "muro.kvd ");
 }
 
+TEST_F(ProgettoAlSicuro, IsWatchedOverByAReviewTooUnlessUscitaLeadsElsewhere) {
+    const std::string posto = "prenderebbe il posto del progetto";
+    fs::create_symlink(progetto, cartella / "muro.OUT");
+    aspettaRilievo(posto);
+    EXPECT_EQ(esegui("verifica", {"--uscita", cartella / "fuori"}).codice, 0);
+    fs::remove(cartella / "muro.OUT");
+    rinomina("muro.OUT");
+    aspettaRilievo(posto + ", i calcoli");
+    fs::create_directory(cartella / "fuori");
+    fs::create_symlink(progetto, cartella / "fuori/muro.OUT");
+    aspettaRilievo(posto, {"--uscita", cartella / "fuori"});
+    rinomina("ab");
+    aspettaRilievo("meno di tre caratteri");
+    aspettaRilievo("meno di tre caratteri", {"--uscita", cartella / "fuori"});
+}
+
+TEST_F(ProgettoAlSicuro, OfTheSameNameInTheFolderForResultsIsSeenByAReviewToo) {
+    fs::create_directory(cartella / "fuori");
+    metti(cartella / "fuori/muro.kvd", "un altro progetto");
+    fs::create_symlink(cartella / "fuori/muro.kvd", cartella / "fuori/muro.OUT");
+    aspettaRilievo(cartella / "fuori/muro.OUT", {"--uscita", cartella / "fuori"});
+}
+
 class RelazioneRimasta : public test::BancoConsole {
  protected:
     static constexpr const char* avviso =
-        "File di un calcolo precedente, non di questo stato del progetto: ";
+        "File di un calcolo precedente, non aggiornato da questo: ";
 
     void SetUp() override {
         BancoConsole::SetUp();

@@ -55,7 +55,16 @@ TEST(EsaminaFile, TellsLinesBehindTheLastValueAsAMiscount) {
     EXPECT_EQ(righeFile(project::testoProgetto(test::progettoSemplice()) + "4\r\n"),
               std::vector<std::string>{
                   "riga 88: il file continua dopo l'ultimo valore: i numeri di strati, tiranti e "
-                  "fasi non sono quelli delle righe scritte"});
+                  "fasi potrebbero non essere quelli delle righe scritte"});
+}
+
+TEST(EsaminaFile, TakesBlankLinesAtTheEndForNothing) {
+    const std::string progetto = project::testoProgetto(test::progettoSemplice());
+    for (const char* bianche : {"\r\n", "\r\n\r\n\r\n", " \t\r\n\n \n", "\n\n  "})
+        EXPECT_TRUE(righeFile(progetto + bianche).empty());
+    const auto trovate = righeFile(progetto + "\r\n\r\n4\r\n");
+    ASSERT_EQ(trovate.size(), 1u);
+    EXPECT_TRUE(trovate[0].starts_with("riga 90: il file continua")) << trovate[0];
 }
 
 TEST(EsaminaFile, RaisesTheErrorOfAFileThatIsGone) {

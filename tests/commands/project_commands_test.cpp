@@ -1,6 +1,7 @@
 #include "commands/project_commands.hpp"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include "analysis/output_guard.hpp"
 #include "base/code_page.hpp"
@@ -267,6 +268,9 @@ TEST(RelazioniRimaste, AreThoseThatANewReportWouldReplace) {
     EXPECT_EQ(relazioniRimaste(progetto), std::vector<std::string>{cartella / "muro.txt"});
     test::metti(cartella / "muro.TAB", "x");
     EXPECT_EQ(relazioniRimaste(progetto).size(), 2u);
+    std::filesystem::create_directory(cartella / "tubo.TAB");
+    ASSERT_EQ(::mkfifo((cartella / "tubo.txt").c_str(), 0600), 0);
+    EXPECT_TRUE(relazioniRimaste(cartella / "tubo.kvd").empty());
     test::metti(cartella / "altro.TAB", "x");
     EXPECT_EQ(relazioniRimaste(cartella / "altro.v2.kvd"),
               std::vector<std::string>{cartella / "altro.TAB"});
@@ -278,6 +282,9 @@ TEST(RelazioneAltrove, IsOneWhosePathIsCutBeforeTheExtension) {
     EXPECT_TRUE(relazioneAltrove("/home/a.b/muro"));
     EXPECT_FALSE(relazioneAltrove("/home/a/muro.kvd"));
     EXPECT_FALSE(relazioneAltrove("/home/a/muro"));
+    EXPECT_FALSE(relazioneAltrove("/home/a/.kvd"));
+    EXPECT_TRUE(relazioneAltrove("/home/a.b/.kvd"));
+    EXPECT_TRUE(relazioneAltrove("/home/a/..kvd"));
 }
 
 }  // namespace

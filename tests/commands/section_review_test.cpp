@@ -76,7 +76,10 @@ TEST(ControlloSezione, TellsASectionThatIsDefinedOnlyInPart) {
     }
     auto senzaFacce = structure::diaframmaArmatoAValle();
     senzaFacce.copriferroValle = 0;
-    EXPECT_EQ(righe(senzaFacce)[0], inParte[0]);
+    EXPECT_EQ(righe(senzaFacce), inParte);  // no word of bars that the computation would count
+    senzaFacce = structure::diaframmaSimmetrico();
+    senzaFacce.copriferroMonte = senzaFacce.copriferroValle = 0;
+    EXPECT_EQ(righe(senzaFacce), inParte);
     EXPECT_EQ(righe(structure::sezioneConMateriali()),
               (Righe{"sezione senza un tipo: nessuna verifica strutturale e nessun ricalcolo di "
                      "EJ"}));
@@ -175,6 +178,43 @@ TEST(ControlloSezione, TellsStirrupsGivenByHalf) {
                                "l'altro non c'è verifica a taglio"}));
 }
 
+TEST(ControlloSezione, TellsShearsAtTheEndsThatTheShearCheckTakesAtTheirFaceValue) {
+    DatiProgetto d = test::progettoSemplice();
+    d.sezione = structure::paliArmati();
+    d.rigidezzaEJ = structure::rigidezzaOfferta(d.sezione).value_or(0);
+    d.vincoloPiede = 3;
+    d.forzaTesta = -2;
+    const auto trovate = [&d] {
+        ElencoRilievi elenco;
+        controlloSezione(d, elenco);
+        Righe testo;
+        for (const auto& r : elenco.ordinato())
+            testo.push_back((r.impedisce ? "! " : "") + r.testo);
+        return testo;
+    };
+    EXPECT_EQ(trovate(), niente);  // no stirrups, no check
+    d.sezione.armDiamStaffe = 1;
+    d.sezione.armPassoStaffe = 20;
+    const std::string piede =
+        "vincolo al piede = 3: la verifica a taglio conta anche il valore al piede incastrato, che "
+        "non è un taglio della paratia e cresce con il numero di segmenti";
+    const std::string testa =
+        "Forza orizzontale esterna applicata alla sommità del diaframma [kN] = -20: la verifica a "
+        "taglio conta anche il valore in testa, che è il doppio della forza e non è il taglio "
+        "della "
+        "paratia";
+    EXPECT_EQ(trovate(), (Righe{piede, testa}));
+    d.vincoloPiede = 2;
+    EXPECT_EQ(trovate(), Righe{testa});
+    d.forzaTesta = 0;
+    EXPECT_EQ(trovate(), niente);
+    d.vincoloPiede = 3;
+    EXPECT_EQ(trovate(), Righe{piede});
+    d.sezione.tipoPaliArmati = false;
+    d.sezione.tipoPali = true;
+    for (const auto& riga : trovate()) EXPECT_EQ(riga.find("taglio conta"), std::string::npos);
+}
+
 TEST(ControlloSezione, TellsTubesWithoutAWall) {
     auto s = structure::paliTubolari();
     s.paliDiamInt = 60;
@@ -187,20 +227,27 @@ TEST(ControlloSezione, LooksAtTheBarsOfReinforcedPilesAlone) {
     EXPECT_EQ(righe(s), niente);
 }
 
-TEST(ControlloSezione, RefusesMoreBarsThanARunTakesWhetherOrNotEJIsTyped) {
+TEST(ControlloSezione, RefusesMoreBarsThanARunTakesInTheWordsOfTheRun) {
     auto s = structure::paliArmati();
-    for (const double EJ : {10000.0, 0.0}) {
-        s.armNumLong = 100001;
-        const auto trovate = righe(s, EJ);
-        EXPECT_NE(std::find(trovate.begin(), trovate.end(),
-                            "! numero di ferri oltre la capacità (100000) (100001)"),
-                  trovate.end());
-        DatiProgetto d = test::progettoSemplice();
-        d.sezione = s;
-        d.rigidezzaEJ = EJ;
-        test::Banco banco(d, 20);
-        EXPECT_THROW(banco.calcola(), base::ErroreIndice);
-    }
+    const std::pair<double, const char*> casi[] = {
+        {100001, "numero di ferri oltre la capacità (100000) (100001)"},
+        {1e15, "numero di ferri oltre la capacità (100000) (1000000000000000)"}};
+    for (const auto& [ferri, detto] : casi)
+        for (const double EJ : {10000.0, 0.0}) {
+            s.armNumLong = ferri;
+            const auto trovate = righe(s, EJ);
+            EXPECT_NE(std::find(trovate.begin(), trovate.end(), std::string("! ") + detto),
+                      trovate.end());
+            DatiProgetto d = test::progettoSemplice();
+            d.sezione = s;
+            d.rigidezzaEJ = EJ;
+            test::Banco banco(d, 20);
+            banco.calcola();
+            EXPECT_TRUE(analysis::erroreCalcolo);
+            ASSERT_EQ(banco.dialogo.messaggi.size(), 1u);
+            EXPECT_EQ(banco.dialogo.messaggi[0].testo, detto);
+            EXPECT_FALSE(banco.haRisultati());
+        }
     s.armNumLong = 99;
     EXPECT_EQ(righe(s), niente);
 }
