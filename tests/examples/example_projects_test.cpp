@@ -5,11 +5,15 @@
 #include <cmath>
 #include <filesystem>
 #include <map>
+#include <set>
 
 #include "base/code_page.hpp"
+#include "base/program_folder.hpp"
 #include "commands/project_review.hpp"
 #include "project/project_file.hpp"
 #include "report/calculation_report.hpp"
+#include "report/hatch_library.hpp"
+#include "report/layer_description.hpp"
 #include "report/report_data.hpp"
 #include "support/run_harness.hpp"
 
@@ -70,16 +74,28 @@ TEST_P(Esempio, CanBeComputedAndHasNothingOdd) {
     }
 }
 
-TEST_P(Esempio, HasHeadingsAndLayersWithAGraphicCodeAndAName) {
+TEST_P(Esempio, HasHeadingsAndLayersWithAHatchOfTheLibraryAndAName) {
+    const std::string prima = base::cartellaProgramma();
+    base::impostaCartellaProgramma(KORVEN_PROGRAM_FOLDER);
+    const auto& campiture = report::campiture();
+    base::impostaCartellaProgramma(prima);
     const DatiProgetto dati = leggi(GetParam());
     EXPECT_FALSE(dati.titoli[1].empty());
     for (int j = 1; j <= dati.nStrati; ++j) {
-        const std::string& descrizione = dati.descrStrato[j];
-        const auto spazio = descrizione.find(' ');
-        ASSERT_NE(spazio, std::string::npos) << descrizione;
-        EXPECT_TRUE(std::isdigit(static_cast<unsigned char>(descrizione[0]))) << descrizione;
-        EXPECT_GT(descrizione.size(), spazio + 2) << descrizione;
+        const auto strato = report::leggiDescrizione(dati.descrStrato[j]);
+        EXPECT_GT(strato.testo.size(), 5u) << dati.descrStrato[j];
+        EXPECT_LE(strato.colore, 5) << "colours above 5 are those of the stages";
+        ASSERT_GT(strato.campitura, 0) << dati.descrStrato[j];
+        for (int codice = static_cast<int>(strato.campitura); codice > 0; codice /= 1000)
+            EXPECT_GT(campiture[codice % 100].nTratti, 0) << dati.descrStrato[j];
     }
+}
+
+// The headings of the log stand so close that of lines next to each other the upper one is cut.
+TEST_P(Esempio, LeavesEmptyTheHeadingsThatWouldTouchInTheLog) {
+    const DatiProgetto dati = leggi(GetParam());
+    EXPECT_FALSE(dati.titoli[4].empty());
+    for (const int i : {2, 3, 5, 6}) EXPECT_EQ(dati.titoli[i], "");
 }
 
 TEST_P(Esempio, ComesToRestInFewIterationsWithoutAQuestion) {
@@ -165,6 +181,29 @@ TEST(Esempi, ShowEverySectionEveryRestraintAndEveryMethodOfKs) {
     EXPECT_TRUE(mostra("piede", 1) && mostra("piede", 2) && mostra("piede", 3));
     for (int metodo = 1; metodo <= 4; ++metodo) EXPECT_TRUE(mostra("ks", metodo)) << metodo;
     for (const int numero : sezioni) EXPECT_GT(numero, 0);
+}
+
+TEST(Esempi, ShowInTheirLogsAllThatADescriptionCanSay) {
+    int doppie = 0, aperti = 0, aCapo = 0, senzaRichiamo = 0, passi = 0;
+    std::set<int> colori;
+    for (const auto& nome : nomi()) {
+        const DatiProgetto dati = leggi(nome);
+        for (int j = 1; j <= dati.nStrati; ++j) {
+            const auto strato = report::leggiDescrizione(dati.descrStrato[j]);
+            doppie += strato.campitura >= 1000;
+            passi += static_cast<int>(strato.campitura) % 1000 / 100 > 1;
+            aperti += !strato.lineaAlPiede;
+            aCapo += strato.testo.find('|') != std::string::npos;
+            senzaRichiamo += !strato.richiamo;
+            colori.insert(strato.colore);
+        }
+    }
+    EXPECT_GT(doppie, 0) << "two patterns, one over the other";
+    EXPECT_GT(passi, 0) << "a larger step of size";
+    EXPECT_GT(aperti, 0) << "an open boundary";
+    EXPECT_GT(aCapo, 0) << "a forced line end";
+    EXPECT_GT(senzaRichiamo, 0) << "a description without a leader";
+    EXPECT_EQ(colori, (std::set<int>{1, 2, 3, 4, 5}));
 }
 
 TEST(Esempi, TheLongWallHasSixLayersAndAFixedToe) {
