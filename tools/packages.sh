@@ -4,6 +4,7 @@ packages_build="g++ cmake ninja-build libcli11-dev nlohmann-json3-dev qt6-base-d
 packages_test="libgtest-dev clang-format"
 packages_bench="libbenchmark-dev libopenblas-dev liblapacke-dev libeigen3-dev"
 packages_fuzz="clang"
+packages_external="librecad libreoffice-draw-nogui poppler-utils imagemagick"
 
 # install_packages NAME...: installs those that are missing, as root or through sudo. Asks dpkg first,
 # so that a machine that has them all is not kept waiting and needs no network.
