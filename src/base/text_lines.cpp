@@ -61,6 +61,17 @@ double LettoreRighe::numero(std::string_view atteso) {
     rifiuta(traduttore("atteso un numero") + ": " + std::string(atteso));
 }
 
+double LettoreRighe::numeroSolo(double minimo, double massimo, std::string_view atteso) {
+    const std::string_view scritto = prossima(atteso);
+    const auto valore = leggiNumero(scritto);
+    if (!valore || !soloUnNumero(scritto))
+        rifiuta(traduttore("atteso un numero") + ": " + std::string(atteso));
+    if (!(*valore >= minimo && *valore <= massimo))
+        rifiuta(traduttore("valore fuori dai limiti") + " (" + testoNumero(minimo) + " - " +
+                testoNumero(massimo) + "): " + std::string(atteso));
+    return *valore;
+}
+
 bool LettoreRighe::rigaIntera() const {
     return posizione_ > 0 && contenuto_[posizione_ - 1] == '\n';
 }

@@ -31,6 +31,11 @@ class LettoreRighe {
     /// @throws ErroreFile at the end of the file or if the line begins with no number
     double numero(std::string_view atteso);
 
+    /// The number that the next line is: nothing but blanks may stand around it, and it must lie
+    /// between `minimo` and `massimo`. For files that people edit, where "0,35" must not become 0.
+    /// @throws ErroreFile as above, and if something follows or the number lies outside
+    double numeroSolo(double minimo, double massimo, std::string_view atteso);
+
     /// Number of the line last read, from 1.
     [[nodiscard]] long numeroRiga() const { return letta_; }
 

@@ -18,12 +18,12 @@ struct UsciteDisegno {
     [[nodiscard]] std::vector<std::string> file() const;
 };
 
-/// Refuses a name under which the project would be lost.
+/// Refuses a name under which the project or its results would be lost, and one given twice.
 /// @throws base::ErroreFile that names it
 void controllaUscite(const UsciteDisegno& uscite);
 
 /// Fonts and painting for the drawings to come, when one of their files needs them: texts are then
-/// measured in the fonts they are written in.
+/// measured in the fonts they are written in. An interrupt ends a drawing in the making.
 class AmbienteDisegno {
  public:
     explicit AmbienteDisegno(bool dipinti);

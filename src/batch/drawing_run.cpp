@@ -10,6 +10,7 @@
 #include "base/translated_texts.hpp"
 #include "batch/console_run.hpp"
 #include "batch/failure.hpp"
+#include "batch/interruption.hpp"
 #include "commands/diagram_output.hpp"
 #include "project/project_data.hpp"
 #include "report/hatch_samples.hpp"
@@ -27,6 +28,11 @@ bool diagramma(int tipo, CorsaConsole& corsa) {
     return corsa.esegui(tipo, uscita);
 }
 
+void annotaRisultati(Esito& esito) {
+    if (!esito.giaAggiornato)
+        esito.fileScritti.push_back(base::nomeRisultati(project::fileCorrente));
+}
+
 bool stratigrafia(const Opzioni& opzioni, Esito& esito) {
     AvanzamentoConsole vista(false);
     DialogoConsole dialogo(opzioni.ricalcolaEJ, vista);
@@ -39,7 +45,9 @@ bool disegnaComando(const Opzioni& opzioni, Esito& esito) {
     switch (opzioni.comando) {
         case Comando::diagramma: {
             CorsaConsole corsa(opzioni, esito);
-            return diagramma(opzioni.tipo, corsa) && !corsa.interrotta();
+            if (!diagramma(opzioni.tipo, corsa)) return false;
+            annotaRisultati(esito);
+            return !corsa.interrotta();
         }
         case Comando::sezione:
             structure::disegnaSezione(Progetto);
@@ -95,8 +103,7 @@ UsciteDisegno usciteTavola(const Opzioni& opzioni, const Tavola& tavola) {
 bool scriviRelazione(CorsaConsole& corsa, Esito& esito) {
     commands::UscitaRelazione uscita(true, true);
     if (!corsa.esegui(0, uscita)) return false;
-    if (!esito.giaAggiornato)
-        esito.fileScritti.push_back(base::nomeRisultati(project::fileCorrente));
+    annotaRisultati(esito);
     esito.fileRelazione = uscita.relazione();
     esito.fileTesto = commands::scriviTesto(esito.fileRelazione);
     esito.fileScritti.insert(esito.fileScritti.end(), {esito.fileRelazione, esito.fileTesto});
@@ -114,6 +121,7 @@ void annuncia(const Opzioni& opzioni, std::size_t quale, const Tavola& tavola) {
 
 int disegna(const Opzioni& opzioni, Esito& esito) {
     controllaUscite(opzioni.disegno);
+    const Interruzioni interruzioni;
     const AmbienteDisegno ambiente(opzioni.disegno.dipinte());
     if (!disegnaComando(opzioni, esito)) return nonEseguito;
     scrivi(opzioni.disegno, esito);

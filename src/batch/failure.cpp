@@ -10,6 +10,7 @@
 #include "base/table.hpp"
 #include "base/translated_texts.hpp"
 #include "base/value_error.hpp"
+#include "plot/drawing_stop.hpp"
 #include "project/project_data.hpp"
 
 namespace korven::batch {
@@ -44,6 +45,8 @@ void raccontaGuasto(Esito& esito) {
             esito);
     } catch (const base::ErroreIndice& errore) {
         fallisci(ingressoRotto, esito.progetto + ": " + spiegazione(errore), esito);
+    } catch (const plot::DisegnoInterrotto& errore) {
+        fallisci(nonEseguito, errore.what(), esito);
     } catch (const std::exception& errore) {
         fallisci(ingressoRotto, errore.what(), esito);
     }

@@ -11,7 +11,9 @@
 #include <cassert>
 #include <cmath>
 
+#include "base/file_error.hpp"
 #include "base/files.hpp"
+#include "base/translated_texts.hpp"
 #include "device/drawing_extent.hpp"
 #include "device/drawing_painter.hpp"
 #include "plot/plot_engine.hpp"
@@ -93,6 +95,9 @@ void scriviPng(const std::string& percorso, int dpi) {
     const double scala = perCentimetro(dpi);
     QImage immagine(static_cast<int>(std::ceil(vista.larghezza() * scala)),
                     static_cast<int>(std::ceil(vista.altezza() * scala)), QImage::Format_RGB32);
+    if (immagine.isNull())
+        throw base::ErroreFile(percorso, 0,
+                               base::traduttore("l'immagine è troppo grande per la memoria"));
     immagine.setDotsPerMeterX(static_cast<int>(std::lround(100 * scala)));
     immagine.setDotsPerMeterY(immagine.dotsPerMeterX());
     immagine.fill(Qt::white);
@@ -102,7 +107,8 @@ void scriviPng(const std::string& percorso, int dpi) {
     }
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
-    immagine.save(&buffer, "PNG");
+    if (!immagine.save(&buffer, "PNG"))
+        throw base::ErroreFile(percorso, 0, base::traduttore("impossibile scrivere il file"));
     salva(percorso, buffer);
 }
 

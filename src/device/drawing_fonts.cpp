@@ -32,6 +32,7 @@ QFont nuovoFont(std::string_view carattere) {
     QFont font(famiglia(carattere));
     font.setStyleHint(QFont::SansSerif);
     font.setPixelSize(corpoDiMisura);
+    font.setKerning(false);  // a plotter sets letter behind letter
     font.setHintingPreference(QFont::PreferNoHinting);
     return font;
 }
@@ -52,6 +53,8 @@ double corpoPerRiga(const QFont& font, double riga) {
 
 double MetricaQt::larghezza(std::string_view carattere, double altezza,
                             std::string_view testo) const {
+    if (plot::MetricaStimata::conosce(carattere))
+        return plot::MetricaStimata().larghezza(carattere, altezza, testo);
     const QFont font = fontDisegno(carattere);
     const QString scritto = QString::fromUtf8(testo.data(), qsizetype(testo.size()));
     return QFontMetricsF(font).horizontalAdvance(scritto) / font.pixelSize() *

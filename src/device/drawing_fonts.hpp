@@ -19,7 +19,8 @@ namespace korven::device {
 /// Row of a text over its height.
 inline constexpr double rigaPerAltezza = 5.0 / 3.0;
 
-/// Measures texts in the fonts that the drawing is painted with.
+/// Measures texts in the fonts that the drawing is painted with. Faces whose widths are known take
+/// those, so that a drawing is the same whether or not there are fonts at hand.
 class MetricaQt : public plot::MetricaTesto {
  public:
     [[nodiscard]] double larghezza(std::string_view carattere, double altezza,

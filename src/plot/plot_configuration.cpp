@@ -13,6 +13,8 @@ namespace korven::plot {
 
 namespace {
 
+constexpr double massimoSpessoreMm = 100;
+
 // "the colour of pen 12", to be used behind "expected".
 std::string quale(std::string_view cosa, int numero) {
     return base::traduttore(cosa) + ' ' + std::to_string(numero);
@@ -21,8 +23,8 @@ std::string quale(std::string_view cosa, int numero) {
 int leggiIntero(base::LettoreRighe& file, int massimo, const std::string& cosa) {
     const std::string atteso =
         cosa + ", " + base::traduttore("un intero da 0 a") + ' ' + std::to_string(massimo);
-    const double valore = file.numero(atteso);
-    if (valore != std::floor(valore) || valore < 0 || valore > massimo)
+    const double valore = file.numeroSolo(0, massimo, atteso);
+    if (valore != std::floor(valore))
         file.rifiuta(base::traduttore("atteso un numero") + ": " + atteso);
     return static_cast<int>(valore);
 }
@@ -31,9 +33,16 @@ PennaConfigurata leggiPenna(base::LettoreRighe& file, int numero) {
     PennaConfigurata penna;
     penna.etichetta = file.riga(quale("etichetta della penna", numero));
     penna.colore = leggiIntero(file, numeroColori, quale("colore della penna", numero));
-    penna.spessoreMm = file.numero(quale("spessore in millimetri della penna", numero));
+    penna.spessoreMm =
+        file.numeroSolo(0, massimoSpessoreMm, quale("spessore in millimetri della penna", numero));
     penna.carattere = file.riga(quale("carattere della penna", numero));
     return penna;
+}
+
+// No sheet is shifted off itself, which would leave a drawing without width.
+double margine(base::LettoreRighe& file, std::string_view cosa) {
+    constexpr double minimo = -10, massimo = 100;
+    return file.numeroSolo(minimo, massimo, base::traduttore(cosa));
 }
 
 ColoreConfigurato leggiColore(base::LettoreRighe& file, int numero) {
@@ -49,10 +58,8 @@ ConfigurazionePlot leggiConfigurazione(base::LettoreRighe& file) {
     ConfigurazionePlot letta;
     for (int i = 1; i <= numeroPenne; ++i) letta.penne[i] = leggiPenna(file, i);
     for (int i = 1; i <= numeroColori; ++i) letta.colori[i] = leggiColore(file, i);
-    if (!file.fine())
-        letta.margineSinistro = file.numero(base::traduttore("margine sinistro in centimetri"));
-    if (!file.fine())
-        letta.margineSuperiore = file.numero(base::traduttore("margine superiore in centimetri"));
+    if (!file.fine()) letta.margineSinistro = margine(file, "margine sinistro in centimetri");
+    if (!file.fine()) letta.margineSuperiore = margine(file, "margine superiore in centimetri");
     return letta;
 }
 

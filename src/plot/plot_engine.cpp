@@ -9,6 +9,7 @@
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
 #include "plot/device_pixels.hpp"
+#include "plot/drawing_stop.hpp"
 #include "plot/markers.hpp"
 #include "plot/plot_configuration.hpp"
 #include "plot/plotted_number.hpp"
@@ -87,6 +88,8 @@ void disegna(Elemento elemento) {
 }
 
 void lineaFino(double x, double y) {
+    if (statoPlot.interruzione != nullptr && *statoPlot.interruzione != 0)
+        throw DisegnoInterrotto();
     if (statoPlot.penna.colore == nonDisegnato) return;
     const Punto da = sulFoglio(statoPlot.posizione.x, statoPlot.posizione.y);
     const Punto a = sulFoglio(x, y);

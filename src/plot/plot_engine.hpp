@@ -1,5 +1,6 @@
 #pragma once
 
+#include <csignal>
 #include <string>
 #include <string_view>
 
@@ -48,6 +49,9 @@ struct StatoPlot {
 
     std::string stileTesti;  ///< text style of DXF files, held from the first one on
 
+    /// Not 0 once somebody wants the drawing to end; nullptr: nobody can.
+    const volatile std::sig_atomic_t* interruzione = nullptr;
+
     SuperficieDisegno* superficie = nullptr;  ///< not owned; nullptr: store only
     const MetricaTesto* metrica = nullptr;    ///< not owned; nullptr: widths are estimated
 };
@@ -87,6 +91,7 @@ void plotPennaRgb(int n, Colore colore);
 /// A pen of colour 0 leaves no trace; white is drawn and recorded as black.
 /// @throws ErroreFile when a spill file can't be written, ErroreValore when a number for it is not
 /// finite; the stored drawing is then empty
+/// @throws DisegnoInterrotto at a line drawn after `interruzione` was set
 void plotMuovi(double x, double y, int codice);
 
 /// Writes a text at (x, y), or draws a marker about it. The pen does not move.

@@ -17,6 +17,8 @@ class MetricaTesto {
 /// typewriter face when the name of the typeface holds "Courier" or "Mono".
 class MetricaStimata : public MetricaTesto {
  public:
+    /// True for a typeface whose widths are those that this class knows; any other is an estimate.
+    [[nodiscard]] static bool conosce(std::string_view carattere);
     [[nodiscard]] double larghezza(std::string_view carattere, double altezza,
                                    std::string_view testo) const override;
 };

@@ -19,7 +19,7 @@ struct AsseValori {
 ///
 /// A negative `vDati` gives a negative end, rounded towards 0: the two ends of the axis then change
 /// places and it has no ticks.
-/// @param vDati  finite
+/// @param vDati  finite, at most 10^12 in size
 [[nodiscard]] AsseValori asseValori(double vDati);
 
 /// A mark on an axis.

@@ -1,12 +1,12 @@
 #include "report/hatch_library.hpp"
 
 #include <cmath>
-#include <fstream>
 #include <limits>
 #include <optional>
 #include <string_view>
 
 #include "base/file_error.hpp"
+#include "base/files.hpp"
 #include "base/language.hpp"
 #include "base/program_folder.hpp"
 #include "base/text_lines.hpp"
@@ -30,8 +30,8 @@ base::LettoreRighe apri(std::string_view nome) {
 
 int leggiNumeroTratti(base::LettoreRighe& file, int disponibili) {
     const std::string atteso = traduttore("numero dei tratti della campitura");
-    const double numero = file.numero(atteso);
-    if (numero != std::floor(numero) || numero < 0)
+    const double numero = file.numeroSolo(0, 1e9, atteso);
+    if (numero != std::floor(numero))
         file.rifiuta(traduttore("atteso un numero intero da 0") + ": " + atteso);
     if (numero > disponibili)
         file.rifiuta(traduttore(
@@ -41,10 +41,9 @@ int leggiNumeroTratti(base::LettoreRighe& file, int disponibili) {
 
 double leggiUnita(base::LettoreRighe& file, bool conTratti) {
     const std::string atteso = traduttore("unità della campitura in centimetri");
-    const double unita = file.numero(atteso);
-    if (conTratti && !(unita > 0))
-        file.rifiuta(traduttore("atteso un numero maggiore di 0") + ": " + atteso);
-    return unita;
+    // Smaller tiles are a grey that costs a million strokes, larger ones hide the pattern.
+    constexpr double minima = 0.00005, massima = 10;
+    return file.numeroSolo(conTratti ? minima : 0, massima, atteso);
 }
 
 Campiture leggi() {
@@ -81,14 +80,14 @@ void dimenticaCampiture() { lette.reset(); }
 
 std::vector<TrattoCampitura> leggiTratti(const Campitura& campitura) {
     const std::string percorso = base::fileProgramma("set4.rtn");
-    std::ifstream file(percorso, std::ios::binary);
-    if (!file) throw base::ErroreFile(percorso, 0, traduttore("impossibile leggere il file"));
-    std::string byte(static_cast<std::size_t>(campitura.nTratti * byteTratto), '\0');
-    file.seekg((campitura.primoTratto - 1) * byteTratto);
-    if (!file.read(byte.data(), static_cast<std::streamsize>(byte.size())))
+    const std::string tutto = base::leggiFile(percorso);
+    const auto inizio = static_cast<std::size_t>((campitura.primoTratto - 1) * byteTratto);
+    const auto quanti = static_cast<std::size_t>(campitura.nTratti * byteTratto);
+    if (tutto.size() < inizio + quanti)
         throw base::ErroreFile(
             percorso, 0,
             traduttore("il file termina prima dei tratti della campitura") + ": " + campitura.nome);
+    const std::string_view byte = std::string_view(tutto).substr(inizio, quanti);
     std::vector<TrattoCampitura> tratti;
     for (std::size_t i = 0; i < byte.size(); i += byteTratto) {
         const char* t = byte.data() + i;

@@ -34,9 +34,10 @@ void leggiCodice(std::string_view parola, DescrizioneStrato& strato) {
 DescrizioneStrato leggiDescrizione(std::string_view descrStrato) {
     DescrizioneStrato strato;
     const std::string_view riga = base::senzaSpaziEsterni(descrStrato);
-    const std::string_view parola = riga.substr(0, riga.find(' '));
+    const std::string_view parola = riga.substr(0, riga.find_first_of(" \t"));
     leggiCodice(parola, strato);
-    std::string_view testo = base::senzaSpaziEsterni(riga.substr(parola.size()));
+    std::string_view testo = riga.substr(parola.size());
+    testo.remove_prefix(std::min(testo.find_first_not_of(" \t"), testo.size()));
     if (testo.starts_with('_')) {
         strato.richiamo = false;
         testo.remove_prefix(1);

@@ -2,6 +2,8 @@
 #include <string_view>
 #include <vector>
 
+#include "base/table.hpp"
+#include "base/translated_texts.hpp"
 #include "plot/plot_engine.hpp"
 #include "plot/sheet.hpp"
 #include "report/description_blocks.hpp"
@@ -83,11 +85,24 @@ class BloccoDescrizione {
 
 }  // namespace
 
+namespace {
+
+BloccoDescrizione blocco(const Stratigrafia& stratigrafia, int i, const Colonna& colonna) {
+    try {
+        return {stratigrafia.dati.descrStrato[i], colonna};
+    } catch (const base::ErroreIndice& errore) {  // which of up to a hundred layers
+        throw base::ErroreIndice(base::traduttore("strato") + ' ' + std::to_string(i) + ": " +
+                                 errore.what());
+    }
+}
+
+}  // namespace
+
 void disegnaDescrizioni(const Stratigrafia& stratigrafia, const Colonna& colonna) {
     std::vector<BloccoDescrizione> testi;
     std::vector<Blocco> blocchi;
     for (int i = 1; i <= stratigrafia.dati.nStrati; ++i) {
-        testi.emplace_back(stratigrafia.dati.descrStrato[i], colonna);
+        testi.push_back(blocco(stratigrafia, i, colonna));
         blocchi.push_back({stratigrafia.yPiede(i), testi.back().altezza()});
     }
     const auto bordi = disponiBlocchi(blocchi, testaTabella, piedeTabella);

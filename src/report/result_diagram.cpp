@@ -1,9 +1,11 @@
 #include "report/result_diagram.hpp"
 
+#include <cmath>
 #include <string_view>
 
 #include "analysis/wall_mesh.hpp"
 #include "base/translated_texts.hpp"
+#include "base/value_error.hpp"
 #include "plot/plot_engine.hpp"
 #include "report/diagram_frame.hpp"
 #include "report/working_pressures.hpp"
@@ -148,11 +150,20 @@ class FaseDisegnata {
     const Quadro& quadro_;
 };
 
+// Beyond these an axis is all ticks and its numbers fill the sheet.
+void controllaDisegnabile(double vDati, double lunghezza) {
+    constexpr double massimoValore = 1e12, massimaLunghezza = 1e4;
+    if (!(std::fabs(vDati) <= massimoValore) || !(lunghezza <= massimaLunghezza))
+        throw base::ErroreValore();
+}
+
 }  // namespace
 
 void disegnaDiagramma(Diagramma diagramma, const DatiRelazione& dati, int faseGrafico) {
-    const Quadro quadro(diagramma, asseValori(valoreDiScala(diagramma, dati)),
-                        dati.progetto.lunghezzaParatia);
+    const double vDati = valoreDiScala(diagramma, dati);
+    const double lunghezza = dati.progetto.lunghezzaParatia;
+    controllaDisegnabile(vDati, lunghezza);
+    const Quadro quadro(diagramma, asseValori(vDati), lunghezza);
     plot::apriFoglio(dati.progetto.titoli, base::traduttore(titolo(diagramma)));
     quadro.disegna();
     for (int s = 1; s <= dati.progetto.nFasi; ++s) {

@@ -14,6 +14,7 @@ enum class Diagramma { pressioni = 1, spostamenti, momenti, taglio };
 /// Values count to the right, pressures to the left, so that uphill pressures stand uphill. The
 /// scale of the shear is that of the last stage, and nothing is cut at the frame.
 /// @param faseGrafico  the stage to draw, 0 for all
+/// @throws base::ErroreValore for values beyond 10^12 or a wall beyond 10 km, which no sheet holds
 void disegnaDiagramma(Diagramma diagramma, const DatiRelazione& dati, int faseGrafico);
 
 /// Draws from the result file that `fileCorrente` names, for the stage in `faseGrafico`.

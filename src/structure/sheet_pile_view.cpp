@@ -61,6 +61,7 @@ void vistaPalancola(const project::Sezione& s) {
     constexpr double distanza = 1;
     quotaVerticale(yVista - mezzaOnda, yVista, destra + distanza, destra,
                    base::testoNumero(s.palancolaBase + 2 * s.palancolaLargAla) + " cm");
+    plot::linea(sinistra + p.spessore * perMillimetro, yVista, destra, yVista);  // to its flat
 
     const double interno = sinistra + p.spessore * perMillimetro;
     richiamoASinistra(interno, sinistra, yVista, testoQuota("Spessore", s.palancolaSpessore));

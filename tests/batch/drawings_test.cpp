@@ -34,7 +34,8 @@ TEST_F(Disegni, ADiagramIsComputedAndWrittenInEveryFormAskedFor) {
     EXPECT_TRUE(contenuto(cartella / "m.pdf").starts_with("%PDF"));
     EXPECT_TRUE(contenuto(cartella / "m.png").starts_with("\x89PNG"));
     EXPECT_TRUE(dice(contenuto(cartella / "m.svg"), "<svg"));
-    EXPECT_TRUE(dice(esito.uscita, "File scritto: " + cartella / "m.pdf")) << esito.uscita;
+    for (const char* nome : {"m.pdf", "muro.OUT"})
+        EXPECT_TRUE(dice(esito.uscita, "File scritto: " + cartella / nome)) << esito.uscita;
 }
 
 TEST_F(Disegni, ADiagramOfOneStageShowsThatStageAlone) {
@@ -100,6 +101,20 @@ TEST_F(Disegni, NeverTakeThePlaceOfTheProject) {
     const std::string prima = contenuto(progetto);
     EXPECT_EQ(disegna("sezione", {"--dxf", progetto}).codice, 3);
     EXPECT_EQ(contenuto(progetto), prima);
+}
+
+TEST_F(Disegni, NeverTakeThePlaceOfTheResultsOrOfEachOther) {
+    EXPECT_EQ(esegui("diagramma", {"--tipo", "momenti", "--dxf", cartella / "muro.OUT"}).codice, 3);
+    EXPECT_EQ(nomi(), "muro.kvd ");
+    EXPECT_EQ(disegna("sezione", {"--dxf", cartella / "s", "--png", cartella / "s"}).codice, 3);
+    EXPECT_EQ(nomi(), "muro.kvd ");
+}
+
+TEST_F(Disegni, AreTheSameWhateverElseIsWritten) {
+    EXPECT_EQ(disegna("sezione", {"--dxf", cartella / "a.dxf"}).codice, 0);
+    EXPECT_EQ(disegna("sezione", {"--dxf", cartella / "b.dxf", "--svg", cartella / "b.svg"}).codice,
+              0);
+    EXPECT_EQ(contenuto(cartella / "a.dxf"), contenuto(cartella / "b.dxf"));
 }
 
 TEST_F(Disegni, ThatCannotBeWrittenAreTold) {

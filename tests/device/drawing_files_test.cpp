@@ -2,11 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <QFontMetricsF>
 #include <QImage>
 #include <QString>
 #include <algorithm>
 #include <optional>
 
+#include "base/code_page.hpp"
 #include "base/file_error.hpp"
 #include "device/drawing_fonts.hpp"
 #include "device/graphics_session.hpp"
@@ -158,14 +160,29 @@ TEST_F(File, ThatCannotBeWrittenAreAnError) {
     EXPECT_THROW(scriviPng(cartella / "manca/disegno", 100), base::ErroreFile);
 }
 
-TEST_F(File, AreMeasuredInTheFontsTheyAreWrittenIn) {
+TEST_F(File, AreWrittenInFontsOfTheWidthsThatAreMeasured) {
     for (const char* carattere : {"Arial", "Courier New"}) {
-        const double stimata =
-            plot::MetricaStimata().larghezza(carattere, 0.25, "Fase di scavo n. 12");
-        EXPECT_NEAR(MetricaQt().larghezza(carattere, 0.25, "Fase di scavo n. 12"), stimata,
-                    0.002 * stimata)
-            << carattere;
+        const QFont font = fontDisegno(carattere);
+        for (int byte = 32; byte < 256; ++byte) {
+            if (byte == 127 || byte == 173) continue;  // no characters that are shown
+            const std::string lettera = base::daCp1252(std::string(1, static_cast<char>(byte)));
+            if (lettera.empty() || lettera == "\xEF\xBF\xBD") continue;
+            const QString scritta = QString::fromStdString(lettera);
+            if (scritta.at(0).unicode() >= 128 && scritta.at(0).unicode() < 160) continue;
+            const double corpo = corpoPerRiga(font, rigaPerAltezza);
+            const double vera =
+                QFontMetricsF(font).horizontalAdvance(scritta) / font.pixelSize() * corpo;
+            EXPECT_NEAR(MetricaQt().larghezza(carattere, 1, lettera), vera, 0.003)
+                << carattere << ' ' << byte << ' ' << lettera;
+        }
     }
+}
+
+TEST_F(File, OfUnknownFacesAreMeasuredInTheFontThatStandsInForThem) {
+    const QFont font = fontDisegno("Times New Roman");
+    const double vera = QFontMetricsF(font).horizontalAdvance(QStringLiteral("Fase")) /
+                        font.pixelSize() * corpoPerRiga(font, rigaPerAltezza * 0.3);
+    EXPECT_DOUBLE_EQ(MetricaQt().larghezza("Times New Roman", 0.3, "Fase"), vera);
 }
 
 }  // namespace

@@ -104,9 +104,10 @@ TEST(ConfigurazionePlot, MissingFileIsAnError) {
 }
 
 TEST(ConfigurazionePlot, RefusesWhatIsNoNumberOrOutsideItsRange) {
-    const std::pair<int, std::string> casi[] = {{2, "verde"}, {2, "16"},         {2, "-1"},
-                                                {2, "1.5"},   {3, "sottile"},    {122, "rosso"},
-                                                {122, "-1"},  {122, "16777216"}, {151, "largo"}};
+    const std::pair<int, std::string> casi[] = {
+        {2, "verde"},   {2, "16"},   {2, "-1"},         {2, "1.5"},     {3, "sottile"},
+        {122, "rosso"}, {122, "-1"}, {122, "16777216"}, {151, "largo"}, {2, "3xyz"},
+        {3, "0,35"},    {3, "-5"},   {3, "1e300"},      {151, "2,5"},   {152, "-30"}};
     for (const auto& [riga, testo] : casi) {
         try {
             (void)letta(conRiga(riga, testo));

@@ -3,10 +3,12 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <csignal>
 #include <limits>
 
 #include "base/file_error.hpp"
 #include "base/table.hpp"
+#include "plot/drawing_stop.hpp"
 #include "plot/spill_files.hpp"
 #include "support/plot_setup.hpp"
 
@@ -278,6 +280,15 @@ TEST_F(PlotEngine, LabelWidthIsThatOfTheFontInUseUnlessADeviceMeasures) {
     const DueCentimetri metrica;
     statoPlot.metrica = &metrica;
     EXPECT_EQ(larghezzaTesto(0.2, "iii"), 2);
+}
+
+TEST_F(PlotEngine, AnInterruptEndsADrawingAtItsNextLine) {
+    const volatile std::sig_atomic_t interruzione = 1;
+    plotApri(0, 0, 10, 10);
+    plotPenna(1);
+    statoPlot.interruzione = &interruzione;
+    plotMuovi(1, 1, pennaSu);
+    EXPECT_THROW(plotMuovi(2, 2, pennaGiu), DisegnoInterrotto);
 }
 
 }  // namespace

@@ -72,5 +72,9 @@ TEST(LeggiDescrizione, CutsAHatchToAWholeNumber) {
     EXPECT_TRUE(leggiDescrizione("-0.5").lineaAlPiede);
 }
 
+TEST(LeggiDescrizione, TakesATabBehindTheCodeForABlank) {
+    EXPECT_EQ(leggiDescrizione("105\tGhiaia sabbiosa").testo, "Ghiaia sabbiosa");
+}
+
 }  // namespace
 }  // namespace korven::report

@@ -8,6 +8,7 @@
 #include <tuple>
 #include <vector>
 
+#include "base/value_error.hpp"
 #include "plot/text_width.hpp"
 #include "report/diagram_frame.hpp"
 #include "support/drawing_by_pen.hpp"
@@ -247,6 +248,15 @@ TEST_F(Disegno, OfShearStepsByTheForceOfTheAnchor) {
     EXPECT_EQ(polilinee(16).back(),
               "10.000 21.500, 11.000 17.700, 12.000 17.700, 11.000 13.900, 10.000 10.100, "
               "9.000 6.300, 10.000 2.500");
+}
+
+TEST_F(Disegno, OfValuesThatNoSheetHoldsIsRefused) {
+    nodi(dati.fasi[0].momentoNodo, {0, 1e308});
+    EXPECT_THROW(disegnaDiagramma(Diagramma::momenti, dati, 0), base::ErroreValore);
+    nodi(dati.fasi[0].yNodo, {0, 1e307});  // in centimetres it is beyond all numbers
+    EXPECT_THROW(disegnaDiagramma(Diagramma::spostamenti, dati, 0), base::ErroreValore);
+    dati.progetto.lunghezzaParatia = 1e9;
+    EXPECT_THROW(disegnaDiagramma(Diagramma::taglio, dati, 0), base::ErroreValore);
 }
 
 TEST(ValoreDiScala, OfPressuresIsThePassivePressureAtTheToeInTheLastStage) {

@@ -8,6 +8,10 @@
 
 #include "support/temporary_folder.hpp"
 
+#ifndef KORVEN_GOLDEN_FOLDER
+#define KORVEN_GOLDEN_FOLDER "tests/golden"  // the build names the folder; a header alone has none
+#endif
+
 namespace korven::test {
 
 /// A golden file without its header: the lines that begin with '#' at its top say how its content
