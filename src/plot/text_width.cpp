@@ -42,16 +42,20 @@ int larghezzaCarattere(char primo) {
 
 }  // namespace
 
-double MetricaStimata::larghezza(std::string_view carattere, double altezza,
-                                 std::string_view testo) const {
+double larghezzaStimata(std::string_view carattere, std::string_view testo) {
     const bool macchina = daMacchina(carattere);
     int somma = 0;
     while (!testo.empty()) {
         somma += macchina ? larghezzaMacchina : larghezzaCarattere(testo.front());
         testo.remove_prefix(base::lunghezzaPrimoCarattere(testo));
     }
-    return somma / millesimi * rigaPerAltezza * altezza /
-           (macchina ? rigaPerCorpoMacchina : rigaPerCorpo);
+    return somma / millesimi;
+}
+
+double MetricaStimata::larghezza(std::string_view carattere, double altezza,
+                                 std::string_view testo) const {
+    return larghezzaStimata(carattere, testo) * rigaPerAltezza * altezza /
+           (daMacchina(carattere) ? rigaPerCorpoMacchina : rigaPerCorpo);
 }
 
 }  // namespace korven::plot
