@@ -157,10 +157,8 @@ std::string DocumentRenderer::footerLines(std::string_view text) const {
     return paragraph(line);
 }
 
-std::string documentName(std::string_view markup) { return base::conUltimiTre(markup, "doc"); }
-
 std::string convertReport(const std::string& markup) {
-    const std::string path = documentName(markup);
+    const std::string path = base::nomeDocumento(markup);
     auto file = base::LettoreRighe::apri(markup);
     if (base::stessoFile(path, markup))
         throw base::ErroreFile(

@@ -58,9 +58,6 @@ class DocumentRenderer : public report::MarkupReceiver {
 /// True for a line that a reader takes for a heading: it has letters, and all of them are capitals.
 [[nodiscard]] bool isHeading(std::string_view text);
 
-/// Path of the word-processor file of a mark-up file: "doc" for its last three characters.
-[[nodiscard]] std::string documentName(std::string_view markup);
-
 /// Converts a mark-up file into a word-processor file beside it, replacing one of that name.
 /// @return the path of the file
 /// @throws base::ErroreFile if one can't be read or the other not be written, if a table is beyond
