@@ -5,6 +5,7 @@ packages_test="libgtest-dev clang-format"
 packages_bench="libbenchmark-dev libopenblas-dev liblapacke-dev libeigen3-dev"
 packages_fuzz="clang"
 packages_external="librecad libreoffice-draw-nogui poppler-utils imagemagick"
+packages_documents="libreoffice-writer-nogui poppler-utils"  # to look at what outdoc writes
 
 # install_packages NAME...: installs those that are missing, as root or through sudo. Asks dpkg first,
 # so that a machine that has them all is not kept waiting and needs no network.

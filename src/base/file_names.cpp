@@ -24,4 +24,6 @@ std::string nomeRisultati(std::string_view progetto) { return conUltimiTre(proge
 
 std::string nomeRelazione(std::string_view progetto) { return finoAlPrimoPunto(progetto, "TAB"); }
 
+std::string nomeDocumento(std::string_view relazione) { return conUltimiTre(relazione, "doc"); }
+
 }  // namespace korven::base

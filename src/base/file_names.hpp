@@ -22,4 +22,7 @@ namespace korven::base {
 /// Path of the report's mark-up file, by the first-point rule with "TAB".
 [[nodiscard]] std::string nomeRelazione(std::string_view progetto);
 
+/// Path of the word-processor file of a report: "doc" for the last three characters.
+[[nodiscard]] std::string nomeDocumento(std::string_view relazione);
+
 }  // namespace korven::base

@@ -27,6 +27,10 @@ std::string cartellaProgramma() {
     if (!cartellaImposta().empty()) return cartellaImposta();
     if (const char* casa = std::getenv("KORVEN32_HOME"); casa != nullptr && *casa != '\0')
         return casa;
+    return cartellaEseguibile();
+}
+
+std::string cartellaEseguibile() {
     std::error_code errore;
     return std::filesystem::read_symlink("/proc/self/exe", errore).parent_path().string();
 }

@@ -18,4 +18,7 @@ void impostaCartellaProgramma(std::string cartella);
 /// When there is none, or the folder can't be listed, the path where it would be.
 [[nodiscard]] std::string fileProgramma(std::string_view nome);
 
+/// The folder of the executable, whatever the program folder is: the other programs lie there.
+[[nodiscard]] std::string cartellaEseguibile();
+
 }  // namespace korven::base

@@ -55,14 +55,18 @@ bool MetricaStimata::conosce(std::string_view carattere) {
     return std::find(std::begin(noti), std::end(noti), nome) != std::end(noti);
 }
 
-double MetricaStimata::larghezza(std::string_view carattere, double altezza,
-                                 std::string_view testo) const {
+double larghezzaStimata(std::string_view carattere, std::string_view testo) {
     const bool macchina = daMacchina(carattere);
     int somma = 0;
     for (const char lettera : base::inCp1252(testo))
         somma += macchina ? larghezzaMacchina : larghezzaCarattere(lettera);
-    return somma / millesimi * rigaPerAltezza * altezza /
-           (macchina ? rigaPerCorpoMacchina : rigaPerCorpo);
+    return somma / millesimi;
+}
+
+double MetricaStimata::larghezza(std::string_view carattere, double altezza,
+                                 std::string_view testo) const {
+    return larghezzaStimata(carattere, testo) * rigaPerAltezza * altezza /
+           (daMacchina(carattere) ? rigaPerCorpoMacchina : rigaPerCorpo);
 }
 
 }  // namespace korven::plot

@@ -13,8 +13,12 @@ class MetricaTesto {
                                            std::string_view testo) const = 0;
 };
 
-/// Where no device measures: the widths of a usual sans-serif face, or the single width of a
-/// typewriter face when the name of the typeface holds "Courier" or "Mono".
+/// Width of a text in any size, over the font size, where no device measures: that of a usual
+/// sans-serif face, or of a typewriter face when the name of the typeface holds "Courier" or
+/// "Mono".
+[[nodiscard]] double larghezzaStimata(std::string_view carattere, std::string_view testo);
+
+/// Stands for a device: measures by `larghezzaStimata`.
 class MetricaStimata : public MetricaTesto {
  public:
     /// True for a typeface whose widths are those that this class knows; any other is an estimate.

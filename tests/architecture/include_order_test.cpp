@@ -37,10 +37,11 @@ const std::vector<std::pair<std::string, std::set<std::string>>> outside = {
 };
 
 // The headers of the operating system that stand beside the standard library: files, terminals and
-// signals.
+// signals, processes.
 const std::map<std::string, std::set<std::string>> operatingSystem = {
     {"poll.h", {"batch"}},    {"unistd.h", {"base", "batch"}}, {"fcntl.h", {"base"}},
-    {"sys/stat.h", {"base"}}, {"signal.h", {"batch"}},
+    {"sys/stat.h", {"base"}}, {"signal.h", {"batch"}},         {"spawn.h", {"base"}},
+    {"sys/wait.h", {"base"}}, {"sys/types.h", {"base"}},
 };
 
 struct Include {

@@ -19,5 +19,10 @@ TEST(NomiDeiFile, TheReportCutsThePathAtItsFirstPoint) {
     EXPECT_EQ(nomeRelazione("/lavori/muro"), "/lavori/muro.TAB");
 }
 
+TEST(NomiDeiFile, TheWordProcessorFileTakesTheNameOfTheReport) {
+    EXPECT_EQ(nomeDocumento("/lavori/muro.TAB"), "/lavori/muro.doc");
+    EXPECT_EQ(nomeDocumento("/lavori.TAB"), "/lavori.doc");
+}
+
 }  // namespace
 }  // namespace korven::base

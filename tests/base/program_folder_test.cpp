@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 #include "support/temporary_folder.hpp"
 
 namespace korven::base {
@@ -13,6 +15,12 @@ TEST(CartellaProgramma, IsTheFolderOfTheExecutableUnlessNamed) {
     EXPECT_EQ(cartellaProgramma(), "/una/cartella");
     impostaCartellaProgramma({});
     EXPECT_NE(cartellaProgramma(), "/una/cartella");
+}
+
+TEST(CartellaEseguibile, StaysWhereverTheProgramFolderIs) {
+    impostaCartellaProgramma("/una/cartella");
+    EXPECT_TRUE(std::filesystem::exists(cartellaEseguibile() + "/base_test"));
+    impostaCartellaProgramma({});
 }
 
 TEST(FileProgramma, IsFoundWhateverTheCaseOfItsName) {

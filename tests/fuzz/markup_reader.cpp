@@ -2,12 +2,14 @@
 
 #include "base/file_error.hpp"
 #include "fuzz_target.hpp"
+#include "report/preview_renderer.hpp"
+#include "report/print_renderer.hpp"
 #include "report/reset_arguments.hpp"
 #include "report/table_style.hpp"
 #include "report/text_renderer.hpp"
 
-// Any bytes as a report in mark-up, read as each of the three renderers reads it and exported as
-// plain text. Only a table of too many rows is refused.
+// Any bytes as a report in mark-up, read as each of the three renderers reads it, printed, shown
+// and exported as plain text. Only a table beyond its capacity is refused.
 
 namespace {
 
@@ -42,6 +44,68 @@ class NessunaVista : public report::MarkupReceiver {
     }
 };
 
+// A printer that sees to it that pages come one after the other and are closed before the job is.
+class Pagine : public report::ReportPrinter {
+ public:
+    ~Pagine() override { test::pretendi(!pagina_ && !lavoro_, "all pages are handed over"); }
+    report::SheetSize sheet() override { return {595, 842}; }
+    void setFont(const report::ReportFont& font) override { corpo_ = font.size; }
+    double textWidth(std::string_view testo) override {
+        return static_cast<double>(testo.size()) * corpo_ / 2;
+    }
+    double textHeight() override { return corpo_; }
+    double lineStep() override { return corpo_; }
+    void startPage() override {
+        test::pretendi(!pagina_, "one page at a time");
+        pagina_ = lavoro_ = true;
+    }
+    void write(double, double, std::string_view) override {
+        test::pretendi(pagina_, "texts stand on pages");
+    }
+    void endPage() override {
+        test::pretendi(pagina_, "a page that ends has begun");
+        pagina_ = false;
+    }
+    void endJob() override {
+        test::pretendi(lavoro_ && !pagina_, "a job ends once, behind its last page");
+        lavoro_ = false;
+    }
+
+ private:
+    double corpo_ = 0;
+    bool pagina_ = false, lavoro_ = false;
+};
+
+class Elenco : public report::PreviewList {
+ public:
+    double windowWidth() override { return 500; }
+    double textWidth(std::string_view testo) override {
+        return 5.0 * static_cast<double>(testo.size());
+    }
+    void addLine(std::string_view) override {}
+};
+
+void stampa(const std::string& contenuto) {
+    Pagine pagine;
+    report::PrintRenderer renderer(pagine);
+    try {
+        base::LettoreRighe file("prova.TAB", contenuto);
+        report::renderMarkup(file, report::RendererKind::print, renderer);
+    } catch (const base::ErroreFile&) {
+    }
+    renderer.finish();
+}
+
+void mostra(const std::string& contenuto) {
+    Elenco elenco;
+    report::PreviewRenderer renderer(elenco);
+    try {
+        base::LettoreRighe file("prova.TAB", contenuto);
+        report::renderMarkup(file, report::RendererKind::preview, renderer);
+    } catch (const base::ErroreFile&) {
+    }
+}
+
 }  // namespace
 
 extern "C" int KORVEN_FUZZ_ENTRY(const std::uint8_t* byte, std::size_t quanti) {
@@ -55,6 +119,8 @@ extern "C" int KORVEN_FUZZ_ENTRY(const std::uint8_t* byte, std::size_t quanti) {
         } catch (const base::ErroreFile&) {
         }
     }
+    stampa(contenuto);
+    mostra(contenuto);
     try {
         base::LettoreRighe file("prova.TAB", contenuto);
         (void)report::renderText(file);

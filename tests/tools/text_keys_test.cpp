@@ -21,8 +21,8 @@ namespace {
 namespace fs = std::filesystem;
 using Texts = std::vector<std::string>;
 
-constexpr const char* folders[] = {"base",     "project", "plot",     "structure",
-                                   "analysis", "report",  "commands", "batch"};
+constexpr const char* folders[] = {"base",   "project",  "plot",  "structure", "analysis",
+                                   "report", "commands", "batch", "outdoc"};
 
 // Files whose literals are all none.
 const std::map<std::string, std::string> silentFiles = {
@@ -32,6 +32,11 @@ const std::map<std::string, std::string> silentFiles = {
     {"base/table.hpp", "an index beyond a table, which the translation may meet itself"},
     {"analysis/vector_lanes.hpp", "names of processors"},
     {"plot/dxf_tables.cpp", "words of the DXF format"},
+    {"outdoc/document_blocks.cpp", "words of the file"},
+    {"outdoc/document_page.cpp", "words of the file"},
+    {"outdoc/document_parts.cpp", "words of the file"},
+    {"outdoc/document_parts.hpp", "names of styles"},
+    {"outdoc/paragraph.cpp", "words of the file, a font"},
     {"analysis/vector_lanes.cpp", "names of processors"},
 };
 
@@ -41,7 +46,7 @@ const std::map<std::string, Texts> noTexts = {
     {"analysis/result_file.cpp",
      {"sigmaVv", "Ehv", "kav", "kpv", "sigmaVm", "Ehm", "kam", "kpm", "Spostamenti", "Momenti"}},
     {"analysis/segment_count.cpp", {"nseg.txt"}},
-    {"base/file_names.cpp", {"OUT", "TAB"}},
+    {"base/file_names.cpp", {"OUT", "TAB", "doc"}},
     {"base/files.cpp", {"/.korven-XXXXXX"}},
     {"base/text_lines.cpp", {"\\xFF\\xFE", "\\xFE\\xFF", "\\xEF\\xBB\\xBF"}},
     {"base/program_folder.cpp", {"KORVEN32_HOME", "/proc/self/exe"}},
@@ -99,7 +104,14 @@ const std::map<std::string, Texts> noTexts = {
       ": --dxf, --pdf, --svg, --png",
       "korven32c:",
       ": korven32c --help\\n"}},
+    {"base/processi.cpp", {"xdg-open"}},
     {"commands/project_commands.cpp", {"txt"}},
+    {"commands/report_export.cpp",
+     {"windir", "/notepad.exe", "outdoc", "/outdoc", ".txt", "editor.cfg"}},
+    {"commands/report_export.hpp", {"NotePad|*.txt", "txt"}},
+    {"outdoc/document_renderer.cpp", {"PAGE", "NUMPAGES"}},
+    {"outdoc/main.cpp",
+     {"language.cfg", "texts01.txt", "texts06.txt", ": outdoc FILE.TAB\\n", "outdoc:"}},
     {"plot/dxf_writer.cpp", {"LINE", "TEXT", "ENDSEC", "EOF"}},
     {"plot/plot_configuration.cpp", {"module06", ".cfg"}},
     {"plot/plot_dxf.cpp", {"MONOTXT", "dxf.cfg", ".DXF"}},

@@ -1,0 +1,129 @@
+#include <benchmark/benchmark.h>
+
+#include <cmath>
+#include <map>
+#include <memory>
+#include <string>
+
+#include "base/code_page.hpp"
+#include "base/text_lines.hpp"
+#include "example_run.hpp"
+#include "report/calculation_report.hpp"
+#include "report/character_widths.hpp"
+#include "report/estimated_width.hpp"
+#include "report/preview_renderer.hpp"
+#include "report/print_renderer.hpp"
+
+// The report of a wall with all the stages that a project holds, at the finest mesh: about 5000
+// rows of results, laid out on pages and in the list of the preview.
+
+namespace {
+
+using namespace korven;
+
+constexpr int fasi = project::massimoFasi;
+constexpr int nNodi = 250;
+
+// Displacements and moments of made-up stages; what they are does not matter to the layout, how
+// long their numbers are does.
+std::string relazione() {
+    report::DatiRelazione dati;
+    dati.progetto = bench::esempio("paratia_lunga_incastro");
+    dati.progetto.nFasi = fasi;
+    dati.nNodi = nNodi;
+    dati.passo = dati.progetto.lunghezzaParatia / (nNodi - 1);
+    dati.fasi.resize(fasi);
+    dati.azioni.resize(fasi);
+    for (int k = 1; k <= fasi; ++k) {
+        auto& fase = dati.fasi[static_cast<std::size_t>(k - 1)];
+        for (int i = 1; i <= nNodi; ++i) {
+            fase.yNodo[i] = 0.001 * k * std::cos(0.02 * i);
+            fase.momentoNodo[i] = 5.0 * k * std::sin(0.05 * i);
+        }
+    }
+    return base::inCp1252(report::testoRelazione(dati));
+}
+
+// Widths of a font without a device, asked for each character once, as a program with a window
+// does it.
+class Misuratore {
+ public:
+    double operator()(const report::ReportFont& font, std::string_view testo) {
+        ++misure;
+        const std::string chiave = font.name + (font.bold ? "*" : "") + std::to_string(font.size);
+        auto& larghezze = fonts_[chiave];
+        if (!larghezze)
+            larghezze = std::make_unique<report::CharacterWidths>(
+                [font](std::string_view t) { return report::estimatedWidth(font, t); });
+        return (*larghezze)(testo);
+    }
+    long misure = 0;
+
+ private:
+    std::map<std::string, std::unique_ptr<report::CharacterWidths>> fonts_;
+};
+
+class Stampante : public report::ReportPrinter {
+ public:
+    report::SheetSize sheet() override { return {595.28, 841.89}; }
+    void setFont(const report::ReportFont& font) override { font_ = font; }
+    double textWidth(std::string_view testo) override { return misura(font_, testo); }
+    double textHeight() override { return 1.15 * font_.size; }
+    double lineStep() override { return 1.15 * font_.size; }
+    void startPage() override { ++pagine; }
+    void write(double, double, std::string_view) override { ++testi; }
+    void endPage() override {}
+    void endJob() override {}
+
+    Misuratore misura;
+    long pagine = 0, testi = 0;
+
+ private:
+    report::ReportFont font_;
+};
+
+class Elenco : public report::PreviewList {
+ public:
+    double windowWidth() override { return 600; }
+    double textWidth(std::string_view testo) override {
+        return misura({"Arial", 10, false, false}, testo);
+    }
+    void addLine(std::string_view) override { ++righe; }
+
+    Misuratore misura;
+    long righe = 0;
+};
+
+void stampa(benchmark::State& stato) {
+    const std::string testo = relazione();
+    for (auto _ : stato) {
+        Stampante stampante;
+        base::LettoreRighe file("muro.TAB", testo);
+        report::PrintRenderer renderer(stampante);
+        report::renderMarkup(file, report::RendererKind::print, renderer);
+        stato.counters["pagine"] = static_cast<double>(stampante.pagine);
+        stato.counters["testi"] = static_cast<double>(stampante.testi);
+        stato.counters["misure"] = static_cast<double>(stampante.misura.misure);
+        if (stampante.testi < 3L * fasi * nNodi) stato.SkipWithError("cells were left out");
+    }
+}
+
+void anteprima(benchmark::State& stato) {
+    const std::string testo = relazione();
+    for (auto _ : stato) {
+        Elenco elenco;
+        base::LettoreRighe file("muro.TAB", testo);
+        report::PreviewRenderer renderer(elenco);
+        report::renderMarkup(file, report::RendererKind::preview, renderer);
+        stato.counters["righe"] = static_cast<double>(elenco.righe);
+        stato.counters["misure"] = static_cast<double>(elenco.misura.misure);
+        if (elenco.righe < 1L * fasi * nNodi) stato.SkipWithError("rows were left out");
+    }
+}
+
+BENCHMARK(stampa)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(anteprima)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+}  // namespace
+
+BENCHMARK_MAIN();

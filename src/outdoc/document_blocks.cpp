@@ -1,0 +1,106 @@
+#include "outdoc/document_blocks.hpp"
+
+#include <algorithm>
+
+#include "report/estimated_width.hpp"
+#include "report/report_page.hpp"
+#include "report/table_style.hpp"
+
+namespace korven::outdoc {
+
+using report::Alignment;
+using report::columnGap;
+using report::columnIndent;
+using report::ReportFont;
+
+namespace {
+
+// A little more than the estimate, lest a font that runs wider break a number [points].
+constexpr double spare = 3;
+
+constexpr double cellRoom = 0.75;  // above and below the text of a cell [points]
+
+constexpr std::string_view lineBelow =
+    "<w:tcBorders><w:bottom w:val=\"single\" w:sz=\"4\" w:space=\"0\" w:color=\"auto\"/>"
+    "</w:tcBorders>";
+
+// A table begins the margin of its cells further left than it says, so that its texts stand below
+// those above it; with that margin as its indent its lines begin at the margin of the page.
+std::string tableHead(const std::vector<double>& widths, Alignment alignment) {
+    constexpr std::string_view places[] = {"left", "center", "right"};
+    const std::string margin = "w:w=\"" + twentieths(columnIndent) + "\" w:type=\"dxa\"/>";
+    const std::string room = "w:w=\"" + twentieths(cellRoom) + "\" w:type=\"dxa\"/>";
+    double total = 0;
+    std::string columns;
+    for (const double width : widths) {
+        total += width;
+        columns += "<w:gridCol w:w=\"" + twentieths(width) + "\"/>";
+    }
+    return "<w:tbl><w:tblPr><w:tblW w:w=\"" + twentieths(total) +
+           "\" w:type=\"dxa\"/><w:jc w:val=\"" + std::string(places[static_cast<int>(alignment)]) +
+           "\"/>" + (alignment == Alignment::left ? "<w:tblInd " + margin : "") +
+           "<w:tblLayout w:type=\"fixed\"/><w:tblCellMar><w:top " + room + "<w:left " + margin +
+           "<w:bottom " + room + "<w:right " + margin + "</w:tblCellMar></w:tblPr><w:tblGrid>" +
+           columns + "</w:tblGrid>\n";
+}
+
+std::string cellWords(double width, bool underlined, const Paragraph& content) {
+    return "<w:tc><w:tcPr><w:tcW w:w=\"" + twentieths(width) + "\" w:type=\"dxa\"/>" +
+           std::string(underlined ? lineBelow : "") + "</w:tcPr>" + paragraph(content) + "</w:tc>";
+}
+
+}  // namespace
+
+std::vector<double> columnWidths(report::CellGrid& grid, const report::FittedTable& fitted,
+                                 const ReportFont& font, double textWidth) {
+    ReportFont bold = font;
+    bold.bold = true;
+    std::vector<double> widths;
+    double total = 0;
+    for (int column = 1; column <= grid.columns(); ++column) {
+        const double plain = fitted.widths[static_cast<std::size_t>(column - 1)];
+        const double head = report::estimatedWidth(bold, grid.cell(1, column));
+        widths.push_back(std::max(plain, head) + columnGap + spare);
+        total += widths.back();
+    }
+    if (total > textWidth)
+        for (double& width : widths) width *= textWidth / total;
+    return widths;
+}
+
+std::string tableWords(report::CellGrid& grid, const std::vector<double>& widths,
+                       Alignment alignment, std::string_view columnStyle, const ReportFont& font) {
+    std::string words = tableHead(widths, alignment);
+    for (int row = 1; row <= grid.rowCount(); ++row) {
+        const bool head = row == 1;
+        const bool last = row == grid.rowCount();
+        words += "<w:tr><w:trPr><w:cantSplit/>";
+        words += head ? "<w:tblHeader/></w:trPr>" : "</w:trPr>";
+        for (int column = 1; column <= grid.columns(); ++column) {
+            Paragraph content;
+            content.font = font;
+            content.font.bold = head;
+            content.keepWithNext = head && !last;
+            if (report::rightAligned(columnStyle, column)) content.alignment = Alignment::right;
+            content.runs = run(content.font, grid.cell(row, column));
+            words += cellWords(widths[static_cast<std::size_t>(column - 1)], head || last, content);
+        }
+        words += "</w:tr>\n";
+    }
+    return words + "</w:tbl>\n";
+}
+
+Paragraph listRow(const report::FittedTable& fitted, Alignment alignment, double textWidth) {
+    const double start = std::max(0.0, report::alignedX(alignment, {0, textWidth}, fitted.total));
+    Paragraph row;
+    row.indent = start + columnIndent;
+    double cursor = start;
+    for (std::size_t i = 0; i < fitted.widths.size(); ++i) {
+        cursor += fitted.widths[i] + columnGap;
+        if (i > 0)  // the label needs no stop
+            row.tabs.push_back({std::min(cursor - columnIndent, textWidth), false, i == 1});
+    }
+    return row;
+}
+
+}  // namespace korven::outdoc

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "outdoc/paragraph.hpp"
+#include "report/markup_cells.hpp"
+#include "report/table_fitting.hpp"
+
+// Tables and lists of a word-processor file.
+
+namespace korven::outdoc {
+
+/// Widths of the columns of a table [points]: as in print, wider where the bold head needs it,
+/// since a word processor would break its text. A table wider than the page is brought to its width
+/// in proportion.
+[[nodiscard]] std::vector<double> columnWidths(report::CellGrid& grid,
+                                               const report::FittedTable& fitted,
+                                               const report::ReportFont& font, double textWidth);
+
+/// A whole table. Its first row is bold and is repeated on every page that the table reaches; thin
+/// lines part it from the others and close the table.
+/// @pre the grid holds at least one row
+[[nodiscard]] std::string tableWords(report::CellGrid& grid, const std::vector<double>& widths,
+                                     report::Alignment alignment, std::string_view columnStyle,
+                                     const report::ReportFont& font);
+
+/// A row of a list before its text: indent and tab stops for right aligned columns, the first of
+/// them behind a dotted leader.
+[[nodiscard]] Paragraph listRow(const report::FittedTable& fitted, report::Alignment alignment,
+                                double textWidth);
+
+}  // namespace korven::outdoc

@@ -1,0 +1,109 @@
+#include "outdoc/document_parts.hpp"
+
+#include "outdoc/paragraph.hpp"
+#include "outdoc/zip_archive.hpp"
+
+namespace korven::outdoc {
+
+namespace {
+
+const std::string declaration = "<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"yes\"?>\n";
+const std::string nameSpaces =
+    " xmlns:w=\"http://schemas.openxmlformats.org/wordprocessingml/2006/main\""
+    " xmlns:r=\"http://schemas.openxmlformats.org/officeDocument/2006/relationships\"";
+const std::string relations =
+    "<Relationships xmlns=\"http://schemas.openxmlformats.org/package/2006/relationships\">\n";
+const std::string relationOf =
+    "http://schemas.openxmlformats.org/officeDocument/2006/relationships/";
+const std::string partType = "application/vnd.openxmlformats-officedocument.wordprocessingml.";
+
+std::string part(const std::string& name, const std::string& type) {
+    return "<Override PartName=\"/" + name + "\" ContentType=\"" + type + "\"/>\n";
+}
+
+std::string relation(const std::string& id, const std::string& type, const std::string& target) {
+    return "<Relationship Id=\"" + id + "\" Type=\"" + type + "\" Target=\"" + target + "\"/>\n";
+}
+
+std::string contentTypes() {
+    return declaration +
+           "<Types xmlns=\"http://schemas.openxmlformats.org/package/2006/content-types\">\n"
+           "<Default Extension=\"rels\" ContentType=\""
+           "application/vnd.openxmlformats-package.relationships+xml\"/>\n"
+           "<Default Extension=\"xml\" ContentType=\"application/xml\"/>\n" +
+           part("word/document.xml", partType + "document.main+xml") +
+           part("word/styles.xml", partType + "styles+xml") +
+           part("word/header1.xml", partType + "header+xml") +
+           part("word/footer1.xml", partType + "footer+xml") +
+           part("docProps/core.xml", "application/vnd.openxmlformats-package.core-properties+xml") +
+           "</Types>\n";
+}
+
+std::string packageRelations() {
+    return declaration + relations +
+           relation("rId1", relationOf + "officeDocument", "word/document.xml") +
+           relation("rId2",
+                    "http://schemas.openxmlformats.org/package/2006/relationships/metadata/"
+                    "core-properties",
+                    "docProps/core.xml") +
+           "</Relationships>\n";
+}
+
+std::string documentRelations() {
+    return declaration + relations + relation("rId1", relationOf + "styles", "styles.xml") +
+           relation("rId2", relationOf + "header", "header1.xml") +
+           relation("rId3", relationOf + "footer", "footer1.xml") + "</Relationships>\n";
+}
+
+std::string style(std::string_view id, const std::string& name, const std::string& properties) {
+    return "<w:style w:type=\"paragraph\" w:styleId=\"" + std::string(id) + "\"><w:name w:val=\"" +
+           name + "\"/><w:basedOn w:val=\"Normal\"/><w:next w:val=\"Normal\"/><w:qFormat/>" +
+           properties + "</w:style>\n";
+}
+
+// Lines stand as close as in print.
+std::string styles() {
+    return declaration + "<w:styles" + nameSpaces +
+           ">\n<w:docDefaults><w:rPrDefault><w:rPr/></w:rPrDefault><w:pPrDefault><w:pPr>"
+           "<w:spacing w:before=\"0\" w:after=\"0\" w:line=\"240\" w:lineRule=\"auto\"/>"
+           "</w:pPr></w:pPrDefault></w:docDefaults>\n"
+           "<w:style w:type=\"paragraph\" w:default=\"1\" w:styleId=\"Normal\">"
+           "<w:name w:val=\"Normal\"/><w:qFormat/></w:style>\n" +
+           style(titleStyle, "Title", "<w:pPr><w:keepNext/></w:pPr>") +
+           style(headingStyle, "heading 1",
+                 "<w:pPr><w:keepNext/><w:outlineLvl w:val=\"0\"/></w:pPr>") +
+           "</w:styles>\n";
+}
+
+std::string properties(const std::string& title) {
+    return declaration +
+           "<cp:coreProperties xmlns:cp=\"http://schemas.openxmlformats.org/package/2006/metadata/"
+           "core-properties\" xmlns:dc=\"http://purl.org/dc/elements/1.1/\"><dc:title>" +
+           xmlText(title) + "</dc:title></cp:coreProperties>\n";
+}
+
+std::string margin(const std::string& element, const std::string& content) {
+    return declaration + "<w:" + element + nameSpaces + ">" + content + "</w:" + element + ">\n";
+}
+
+std::string document(const DocumentParts& parts) {
+    return declaration + "<w:document" + nameSpaces + "><w:body>\n" + parts.content +
+           "<w:sectPr><w:headerReference w:type=\"default\" r:id=\"rId2\"/>"
+           "<w:footerReference w:type=\"default\" r:id=\"rId3\"/>" +
+           parts.page.words() + "</w:sectPr></w:body></w:document>\n";
+}
+
+}  // namespace
+
+std::string documentBytes(const DocumentParts& parts) {
+    return zipArchive({{"[Content_Types].xml", contentTypes()},
+                       {"_rels/.rels", packageRelations()},
+                       {"word/document.xml", document(parts)},
+                       {"word/_rels/document.xml.rels", documentRelations()},
+                       {"word/styles.xml", styles()},
+                       {"word/header1.xml", margin("hdr", parts.header)},
+                       {"word/footer1.xml", margin("ftr", parts.footer)},
+                       {"docProps/core.xml", properties(parts.title)}});
+}
+
+}  // namespace korven::outdoc

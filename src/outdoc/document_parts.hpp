@@ -1,0 +1,27 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "outdoc/document_page.hpp"
+
+namespace korven::outdoc {
+
+// Styles of the document by which a word processor builds its outline.
+inline constexpr std::string_view titleStyle = "Title";
+inline constexpr std::string_view headingStyle = "Heading1";
+
+/// What a document is made of, the parts in the file's XML.
+struct DocumentParts {
+    DocumentPage page;
+    std::string title;    ///< plain text; shown by the word processor
+    std::string header;   ///< paragraphs
+    std::string footer;   ///< paragraphs
+    std::string content;  ///< paragraphs and tables
+};
+
+/// The bytes of the word-processor file: an Office Open XML document (ECMA-376), which word
+/// processors know by its content, whatever the extension.
+[[nodiscard]] std::string documentBytes(const DocumentParts& parts);
+
+}  // namespace korven::outdoc

@@ -1,0 +1,176 @@
+#include "outdoc/document_renderer.hpp"
+
+#include <algorithm>
+
+#include "base/code_page.hpp"
+#include "base/file_error.hpp"
+#include "base/file_names.hpp"
+#include "base/files.hpp"
+#include "base/translated_texts.hpp"
+#include "outdoc/document_blocks.hpp"
+#include "report/estimated_width.hpp"
+
+namespace korven::outdoc {
+
+using report::Alignment;
+using report::BlockKind;
+using report::FittedTable;
+using report::ScanState;
+
+namespace {
+
+// A list as short as those of the report stays on one page.
+constexpr int rowsKept = 12;
+
+// Room that the page number takes at the right end of the footer [points].
+constexpr double pageNumberRoom = 60;
+
+}  // namespace
+
+bool isHeading(std::string_view text) {
+    return base::maiuscolo(text) == text && base::minuscolo(text) != text;
+}
+
+void DocumentRenderer::open(ScanState&, std::string_view argument) {
+    *this = {};  // a further #RESET starts over, as in the plain text
+    opened_ = true;
+    parts_.page = documentPage(argument);
+    body_ = parts_.page.headerFont;
+}
+
+// The first heading of a report stands in the middle and is its title.
+void DocumentRenderer::textLine(ScanState& state, std::string_view text) {
+    headerIfDue(state);
+    if (text.empty()) return emptyParagraph();
+    if (parts_.title.empty()) parts_.title = text;
+    Paragraph line = inBodyFont();
+    line.alignment = state.alignment;
+    belowHeading_ = isHeading(text);
+    if (belowHeading_) {
+        line.style = state.alignment == Alignment::centre ? titleStyle : headingStyle;
+        line.font.bold = true;
+    }
+    line.runs = run(line.font, text);
+    add(std::move(line));
+}
+
+void DocumentRenderer::table(ScanState& state) {
+    const FittedTable fitted = fit(state, BlockKind::table);
+    if (grid_.rowCount() == 0) return;
+    headerIfDue(state);
+    if (belowTable_ || breakDue_) emptyParagraph();
+    const auto widths = columnWidths(grid_, fitted, body_, parts_.page.textWidth());
+    parts_.content += tableWords(grid_, widths, state.alignment, state.columnStyle, body_);
+    belowTable_ = true;
+    belowHeading_ = false;
+}
+
+void DocumentRenderer::list(ScanState& state) {
+    const FittedTable fitted = fit(state, BlockKind::list);
+    for (int row = 1; row <= grid_.rowCount(); ++row) {
+        headerIfDue(state);
+        Paragraph line = listRow(fitted, state.alignment, parts_.page.textWidth());
+        line.font = body_;
+        line.keepWithNext = row < grid_.rowCount() && row <= rowsKept;
+        std::string text = grid_.cell(row, 1);
+        for (int column = 2; column <= grid_.columns(); ++column)
+            text += (column == 2 ? " \t " : "\t") + grid_.cell(row, column);
+        line.runs = run(line.font, text);
+        add(std::move(line));
+    }
+    belowHeading_ = false;
+}
+
+void DocumentRenderer::close(ScanState& state) {
+    headerIfDue(state);
+    parts_.footer = footerLines(state.footer);
+}
+
+std::optional<std::string> DocumentRenderer::bytes() const {
+    if (!opened_) return std::nullopt;
+    DocumentParts parts = parts_;
+    if (parts.header.empty()) parts.header = paragraph(inHeaderFont(Alignment::centre));
+    if (parts.footer.empty()) parts.footer = footerLines({});
+    if (belowTable_ || parts.content.empty()) {  // nothing may end with a table, or be empty
+        Paragraph last;
+        last.font.size = 1;
+        parts.content += paragraph(last);
+    }
+    return documentBytes(parts);
+}
+
+void DocumentRenderer::headerIfDue(ScanState& state) {
+    if (state.lineCounter++ != 0) return;
+    Paragraph line = inHeaderFont(Alignment::centre);
+    line.runs = run(line.font, state.header);
+    parts_.header = paragraph(line);
+}
+
+Paragraph DocumentRenderer::inBodyFont() {
+    Paragraph line;
+    line.font = body_;
+    return line;
+}
+
+void DocumentRenderer::add(Paragraph content) {
+    content.pageBreakBefore = breakDue_;
+    breakDue_ = belowTable_ = false;
+    parts_.content += paragraph(content);
+}
+
+void DocumentRenderer::emptyParagraph() {
+    Paragraph line = inBodyFont();
+    line.keepWithNext = belowHeading_;
+    add(std::move(line));
+}
+
+FittedTable DocumentRenderer::fit(const ScanState& state, BlockKind kind) {
+    grid_.fill(state);
+    return report::fitColumns(
+        grid_, kind, [this](std::string_view text) { return report::estimatedWidth(body_, text); });
+}
+
+Paragraph DocumentRenderer::inHeaderFont(Alignment alignment) const {
+    Paragraph line;
+    line.alignment = alignment;
+    line.font = parts_.page.headerFont;
+    return line;
+}
+
+// The text of the footer in the middle, the page number at its right end, on a line of its own if
+// the text needs the whole width.
+std::string DocumentRenderer::footerLines(std::string_view text) const {
+    const report::ReportFont& font = parts_.page.headerFont;
+    const double width = parts_.page.textWidth();
+    const std::string number =
+        pageField(font, "PAGE") + run(font, " / ") + pageField(font, "NUMPAGES");
+    if ((width - report::estimatedWidth(font, text)) / 2 < pageNumberRoom) {
+        Paragraph notice = inHeaderFont(Alignment::centre);
+        notice.runs = run(font, text);
+        Paragraph below = inHeaderFont(Alignment::right);
+        below.runs = number;
+        return paragraph(notice) + paragraph(below);
+    }
+    Paragraph line = inHeaderFont(Alignment::left);
+    line.tabs = {{width / 2, true, false}, {width, false, false}};
+    line.runs = run(font, "\t" + std::string(text) + "\t") + number;
+    return paragraph(line);
+}
+
+std::string convertReport(const std::string& markup) {
+    const std::string path = base::nomeDocumento(markup);
+    auto file = base::LettoreRighe::apri(markup);
+    if (base::stessoFile(path, markup))
+        throw base::ErroreFile(
+            path, 0, base::traduttore("la scrittura prenderebbe il posto di un file letto"));
+    DocumentRenderer renderer;
+    report::renderMarkup(file, report::RendererKind::print, renderer);
+    const auto bytes = renderer.bytes();
+    if (!bytes)
+        throw base::ErroreFile(markup, 0,
+                               base::traduttore("la relazione non apre nessun documento (#RESET)"));
+    base::scriviFile(path, *bytes);
+    return path;
+}
+
+}  // namespace korven::outdoc

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "base/text_lines.hpp"
+#include "outdoc/document_parts.hpp"
+#include "outdoc/paragraph.hpp"
+#include "report/markup_cells.hpp"
+#include "report/markup_reader.hpp"
+#include "report/report_printer.hpp"
+#include "report/table_fitting.hpp"
+
+namespace korven::outdoc {
+
+/// The report as a word-processor file (document_parts.hpp). Obeys the directives as print does,
+/// but leaves the breaking of lines and pages to the word processor: a table is a table with its
+/// columns fitted and its head repeated, a list a line with a dotted leader for each row. Lines in
+/// capitals become the title and the headings of the document.
+///
+/// Two things have no counterpart and differ: #NEWPARAGRAPH is dropped, since nobody knows yet
+/// how much of a page is left, and header and footer are those of the whole document: the header
+/// at its first line, the footer at its end.
+class DocumentRenderer : public report::MarkupReceiver {
+ public:
+    void open(report::ScanState& state, std::string_view argument) override;
+    void textLine(report::ScanState& state, std::string_view text) override;
+    void table(report::ScanState& state) override;
+    void list(report::ScanState& state) override;
+    void close(report::ScanState& state) override;
+    void font(std::string_view name) override { body_.name = name; }
+    void fontSize(double points) override { body_.size = points; }
+    void fontItalic(bool on) override { body_.italic = on; }
+    void newPage(report::ScanState&) override { breakDue_ = true; }
+
+    /// The bytes of the file; nothing when no document was opened.
+    [[nodiscard]] std::optional<std::string> bytes() const;
+
+ private:
+    void headerIfDue(report::ScanState& state);
+    [[nodiscard]] Paragraph inBodyFont();
+    void add(Paragraph content);
+    void emptyParagraph();
+    [[nodiscard]] report::FittedTable fit(const report::ScanState& state, report::BlockKind kind);
+    [[nodiscard]] Paragraph inHeaderFont(report::Alignment alignment) const;
+    [[nodiscard]] std::string footerLines(std::string_view text) const;
+
+    DocumentParts parts_;
+    report::ReportFont body_;
+    report::CellGrid grid_;
+    bool opened_ = false;
+    bool breakDue_ = false;
+    bool belowHeading_ = false;  ///< what follows belongs to a heading and stays on its page
+    bool belowTable_ = false;    ///< two tables without a line between would become one
+};
+
+/// True for a line that a reader takes for a heading: it has letters, and all of them are capitals.
+[[nodiscard]] bool isHeading(std::string_view text);
+
+/// Converts a mark-up file into a word-processor file beside it, replacing one of that name.
+/// @return the path of the file
+/// @throws base::ErroreFile if one can't be read or the other not be written, if a table is beyond
+/// its capacity, if the mark-up opens no document, or if the file would take its place
+std::string convertReport(const std::string& markup);
+
+}  // namespace korven::outdoc
