@@ -86,6 +86,8 @@ const std::map<std::string, Texts> noTexts = {
     {"plot/plot_print.cpp", {"forcecol", "overlap.cfg"}},
     {"plot/spill_files.cpp", {"korven32-XXXXXX", "plttmp", ".tmp", "windir"}},
     {"plot/text_width.cpp", {"courier", "mono"}},
+    {"project/mask_values.hpp",
+     {"EDITT.MAV", "EDITDIA.MAV", "EDITSTRA.MAV", "EDITTIR.MAV", "EDITFASI.MAV"}},
     {"report/diagram_frame.cpp", {"[kN/m²]"}},
     {"report/hatch_library.cpp", {"set1.rtn", "set2.rtn", "set3", ".rtn", "set4.rtn"}},
     {"report/markup_reader.cpp", {"TRUE"}},
