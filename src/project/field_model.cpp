@@ -83,7 +83,8 @@ bool FieldModel::prendeFuoco(std::size_t campo) const {
 }
 
 bool FieldModel::lascia(base::Dialogo& dialogo) {
-    if (scelta(attivo_)) return true;
+    // A fault that can't be mended here would hold the user for good.
+    if (scelta(attivo_) || soloLettura(attivo_)) return true;
     const CampoMaschera& campo = maschera_.campi[attivo_];
     std::string& testo = testi_[posto(attivo_)];
     const Vizio vizio = controllaCampo(campo, testo);

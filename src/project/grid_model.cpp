@@ -64,6 +64,7 @@ void GridModel::entra(PostoGriglia posto) {
 
 bool GridModel::validazionedati(base::Dialogo& dialogo) {
     const CampoMaschera& campo = colonna(corrente_.colonna);
+    if (campo.soloLettura) return true;  // a fault that can't be mended here would hold the user
     const Vizio vizio = controllaCella(campo, cella());
     if (vizio == Vizio::nessuno) return true;
     segnala(vizio, campo, campo.etichetta, "\r\n", dialogo);

@@ -78,6 +78,8 @@ TEST_F(ModelloCampi, StopsAtAReadOnlyTextAndLocksIt) {
     EXPECT_TRUE(modello.passaA(2, dialogo));
     modello.scrivi(2, "7");
     EXPECT_EQ(modello.testo(2), "5");
+    maschera.campi[2].massimo = 4;  // out of range, and nothing the user could do about it
+    EXPECT_TRUE(modello.lascia(dialogo));
 }
 
 TEST_F(ModelloCampi, StartsOnTheFirstFieldThatTakesTheFocus) {

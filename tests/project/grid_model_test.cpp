@@ -187,6 +187,8 @@ TEST_F(ModelloGriglia, LeavesAReadOnlyColumnAlone) {
     premi(Tasto::f2);
     EXPECT_FALSE(modello.editoreAperto());
     EXPECT_EQ(cella(), "3");
+    maschera.campi[1].massimo = 1;  // out of range, and nothing the user could do about it
+    EXPECT_TRUE(modello.vaiA({2, 2}, dialogo));
 }
 
 TEST_F(ModelloGriglia, ShowsTheHelpOfTheColumnWithItsKeysBelow) {
