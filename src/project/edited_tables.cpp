@@ -58,7 +58,71 @@ void ordina(const Profondita& profondita, int righe, Scambio scambia) {
             if (profondita[j] > profondita[j + 1]) scambia(j, j + 1);
 }
 
+// Gathers the texts of an editor, in the units that the user sees.
+class Elenco {
+ public:
+    Elenco& testo(std::string valore) {
+        testi_.push_back(std::move(valore));
+        return *this;
+    }
+    Elenco& numero(double valore, double fattore = 1) {
+        return testo(base::testoNumero(valore * fattore));
+    }
+    std::vector<std::string> tutti() && { return std::move(testi_); }
+
+ private:
+    std::vector<std::string> testi_;
+};
+
 }  // namespace
+
+std::vector<std::string> testiStrati(const DatiProgetto& dati) {
+    Elenco elenco;
+    elenco.numero(dati.nStrati);
+    for (int i = 1; i <= dati.nStrati; ++i)
+        elenco.numero(dati.profStrato[i])
+            .numero(dati.gammaN[i], 10)
+            .numero(dati.gammaSat[i], 10)
+            .numero(dati.phiStrato[i])
+            .numero(dati.coesione[i], 10)
+            .numero(dati.ksStrato[i], 10)
+            .testo(dati.descrStrato[i]);
+    return std::move(elenco).tutti();
+}
+
+std::vector<std::string> testiTiranti(const DatiProgetto& dati) {
+    Elenco elenco;
+    elenco.numero(dati.nTiranti);
+    for (int i = 1; i <= dati.nTiranti; ++i)
+        elenco.numero(dati.profTirante[i])
+            .numero(dati.rigTirante[i], 10)
+            .numero(dati.pretTirante[i], 10)
+            .numero(dati.tipoTirante[i]);
+    return std::move(elenco).tutti();
+}
+
+std::vector<std::string> testiFasi(const DatiProgetto& dati) {
+    Elenco elenco;
+    elenco.numero(dati.nFasi);
+    for (int i = 1; i <= dati.nFasi; ++i)
+        elenco.numero(dati.profFase[i])
+            .numero(dati.tirantiFase[i])
+            .numero(dati.sovraccFase[i], 10)
+            .numero(dati.faldaFase[i]);
+    return std::move(elenco).tutti();
+}
+
+std::vector<std::string> testiParatia(const DatiProgetto& dati) {
+    Elenco elenco;
+    for (const auto& [campo, fattore] : campiEditati) elenco.numero(dati.*campo, fattore);
+    return std::move(elenco).tutti();
+}
+
+std::vector<std::string> testiTitoli(const DatiProgetto& dati) {
+    Elenco elenco;
+    for (int i = 1; i <= 6; ++i) elenco.testo(dati.titoli[i]);
+    return std::move(elenco).tutti();
+}
 
 bool riprendiStrati(DatiProgetto& dati, const std::vector<std::string>& testi) {
     Testi lista(testi);

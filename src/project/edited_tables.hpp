@@ -5,8 +5,8 @@
 
 #include "project/project_data.hpp"
 
-// Taking back what an editor hands over: texts as typed, in the units that the user sees. A number
-// is the longest numeric prefix of its text, 0 if there is none.
+// What an editor shows of the project, and taking back what it hands over: texts as typed, in the
+// units that the user sees. A number is the longest numeric prefix of its text, 0 if there is none.
 //
 // A table arrives as a list: the number of rows as text, then the cells row after row in the column
 // order of DatiProgetto (the layer table without Su, which no editor shows). Cells that are missing
@@ -16,6 +16,17 @@
 // caller sets `modificato`, where it returns false `modificato` stays as it was.
 
 namespace korven::project {
+
+/// What the table editors show: the number of rows, then the cells; the plain text of each number
+/// in the unit that the user sees. Taken back unchanged they give the same project, but for digits
+/// beyond the fifteenth.
+[[nodiscard]] std::vector<std::string> testiStrati(const DatiProgetto& dati);
+[[nodiscard]] std::vector<std::string> testiTiranti(const DatiProgetto& dati);
+[[nodiscard]] std::vector<std::string> testiFasi(const DatiProgetto& dati);
+/// What the wall editor shows: the 18 values in its order, codes first.
+[[nodiscard]] std::vector<std::string> testiParatia(const DatiProgetto& dati);
+/// The six heading lines.
+[[nodiscard]] std::vector<std::string> testiTitoli(const DatiProgetto& dati);
 
 /// Takes back the soil layers and sorts them by depth; equal depths stay in the order typed. Su has
 /// no column in the editor and stays with its row number when rows are exchanged.

@@ -120,6 +120,8 @@ const std::map<std::string, Texts> noTexts = {
     {"plot/text_width.cpp",
      {"courier", "mono", "arial", "helvetica", "liberation sans", "courier new",
       "liberation mono"}},
+    {"project/mask_values.hpp",
+     {"EDITT.MAV", "EDITDIA.MAV", "EDITSTRA.MAV", "EDITTIR.MAV", "EDITFASI.MAV"}},
     {"report/diagram_frame.cpp", {"[kN/m²]"}},
     {"report/hatch_library.cpp", {"set1.rtn", "set2.rtn", "set3", ".rtn", "set4.rtn"}},
     {"report/markup_reader.cpp", {"TRUE"}},

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace korven::project {
+
+/// The cells of a grid: rows 1 to 500, data columns from 1. A row has data when one of its cells is
+/// neither empty nor blank.
+class CelleGriglia {
+ public:
+    static constexpr int righe = 500;
+
+    explicit CelleGriglia(int colonne);
+
+    [[nodiscard]] int colonne() const { return colonne_; }
+    [[nodiscard]] const std::string& testo(int riga, int colonna) const;
+    void scrivi(int riga, int colonna, std::string_view testo);
+
+    /// True when the cell is neither empty nor blank.
+    [[nodiscard]] bool piena(int riga, int colonna) const;
+    [[nodiscard]] bool haDati(int riga) const;
+    /// True when a cell of the row is empty or blank.
+    [[nodiscard]] bool haVuoti(int riga) const;
+    /// The last row with data, searched from the bottom up to row `fino`; 0 when there is none.
+    [[nodiscard]] int ultimaRiga(int fino = 1) const;
+
+    /// Moves `riga` and what follows down by one and empties it. Nothing happens behind the last
+    /// row with data or when that is row 500.
+    /// @return true when a row was inserted
+    bool inserisci(int riga);
+
+    /// Moves the rows behind `riga` up by one and clears the last row with data. Nothing happens
+    /// behind the last row with data.
+    /// @return true when a row was deleted
+    bool elimina(int riga);
+
+    /// What the form hands over: the number of rows with data as text, then their cells, row after
+    /// row. Rows without data are left out.
+    [[nodiscard]] std::vector<std::string> impacchettate() const;
+
+    /// Text for the clipboard: cells parted by tabs, rows by CR LF. Row 1 to the last row with data
+    /// from `riga` down; when nothing stands there, the rows above `riga`.
+    [[nodiscard]] std::string copia(int riga) const;
+
+ private:
+    [[nodiscard]] std::size_t posto(int riga, int colonna) const;
+
+    int colonne_;
+    std::vector<std::string> celle_;
+};
+
+}  // namespace korven::project

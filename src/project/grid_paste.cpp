@@ -1,0 +1,64 @@
+#include <optional>
+#include <set>
+#include <utility>
+
+#include "base/translated_texts.hpp"
+#include "project/clipboard_text.hpp"
+#include "project/grid_model.hpp"
+
+namespace korven::project {
+
+namespace {
+
+bool chiede(std::string_view domanda, std::string_view seguito, base::Dialogo& dialogo) {
+    return dialogo.domanda(base::traduttore(domanda) + "?" + std::string(seguito),
+                           base::traduttore("ATTENZIONE") + "!", base::Pulsanti::siNo,
+                           base::Icona::domanda) == base::Risposta::si;
+}
+
+void troppeRighe(base::Dialogo& dialogo) {
+    dialogo.messaggio(base::traduttore("Non è possibile inserire un numero di righe superiore a") +
+                          ' ' + std::to_string(CelleGriglia::righe),
+                      base::traduttore("ATTENZIONE") + "!", base::Icona::avviso);
+}
+
+}  // namespace
+
+void GridModel::incolla(std::string_view testo, base::Dialogo& dialogo) {
+    const auto righe = righeAppunti(testo);
+    if (righe.empty()) return;
+    if (!chiede("Confermate l'inserimento dei seguenti dati", "\r\n" + anteprimaAppunti(testo),
+                dialogo))
+        return;
+    chiudiEditore(true);
+    std::optional<bool> sovrascrive;
+    // A column pasted in a wrong unit has the same fault in every row: one box tells it.
+    std::set<std::pair<int, Vizio>> detti;
+    int r = corrente_.riga;
+    for (const auto& riga : righe) {
+        if (r > CelleGriglia::righe) {
+            troppeRighe(dialogo);
+            break;
+        }
+        int c = corrente_.colonna;
+        for (auto valore = riga.begin(); valore != riga.end() && c <= colonne(); ++valore, ++c) {
+            if (soloLettura(c)) continue;
+            if (celle_.piena(r, c)) {
+                if (!sovrascrive)
+                    sovrascrive = chiede(
+                        "Uno o più dati sono già presenti nella tabella. Volete sovrascriverli", "",
+                        dialogo);
+                if (!*sovrascrive) continue;
+            }
+            const CampoMaschera& campo = colonna(c);
+            const Vizio vizio = controllaCella(campo, *valore);
+            celle_.scrivi(r, c, vizio == Vizio::nessuno ? *valore : std::string());
+            if (vizio != Vizio::nessuno && detti.emplace(c, vizio).second)
+                segnala(vizio, campo, campo.etichetta, "\r\n", dialogo);
+        }
+        ++r;
+    }
+    primoCarattere_ = true;
+}
+
+}  // namespace korven::project

@@ -1,0 +1,199 @@
+// The mask files as the build has laid them into the program folder: that the program can work with
+// them in every language, and that their texts have room.
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <set>
+
+#include "base/code_page.hpp"
+#include "base/files.hpp"
+#include "base/number_text.hpp"
+#include "base/program_folder.hpp"
+#include "base/translated_texts.hpp"
+#include "project/column_keys.hpp"
+#include "project/field_check.hpp"
+#include "project/field_model.hpp"
+#include "project/grid_model.hpp"
+#include "project/mask_editing.hpp"
+#include "project/mask_values.hpp"
+#include "tools/mask_source.hpp"
+#include "tools/text_source.hpp"
+
+namespace korven {
+namespace {
+
+using project::Maschera;
+using project::NumeroMaschera;
+
+constexpr NumeroMaschera allMasks[] = {NumeroMaschera::titoli, NumeroMaschera::paratia,
+                                       NumeroMaschera::strati, NumeroMaschera::tiranti,
+                                       NumeroMaschera::fasi};
+
+std::vector<tools::MaskSource> source() {
+    const std::string path = KORVEN_DATA_FOLDER "/maschere.txt";
+    return tools::readMaskSource(path, base::leggiFile(path));
+}
+
+class DeliveredMasks : public ::testing::Test {
+ protected:
+    void SetUp() override { base::impostaCartellaProgramma(KORVEN_PROGRAM_FOLDER); }
+    void TearDown() override {
+        base::impostaCartellaProgramma("");
+        base::impostaLingua(1);
+        base::tabellaTesti = {};
+    }
+    // The masks in a language, with the texts of the program folder.
+    project::Maschere masks(int language) {
+        base::caricaTesti(base::fileProgramma("texts01.txt"), base::fileProgramma("texts06.txt"));
+        base::impostaLingua(language);
+        project::Maschere all;
+        all.leggiMaschereProgramma();
+        return all;
+    }
+    template <class Check>
+    void forEachMask(Check check) {
+        for (int language = 1; language <= 6; ++language) {
+            auto all = masks(language);
+            for (const auto number : allMasks) {
+                all.selezionaMaschera(static_cast<int>(number));
+                check(all.corrente(), language);
+                all.rilasciaForm();
+            }
+        }
+    }
+};
+
+TEST_F(DeliveredMasks, HaveARecordInTheTableForEachOfTheirTexts) {
+    const std::string path = KORVEN_DATA_FOLDER "/texts.txt";
+    std::set<std::string> keys;
+    for (const auto& record : tools::readTextSource(path, base::leggiFile(path)))
+        keys.insert(base::chiaveTesto(record.text[0]));
+    int looked = 0;
+    for (const auto& mask : source())
+        for (const auto& text : tools::maskTexts(mask)) {
+            ++looked;
+            EXPECT_TRUE(keys.contains(base::chiaveTesto(text))) << mask.file << ": " << text;
+        }
+    EXPECT_GT(looked, 100);
+}
+
+TEST_F(DeliveredMasks, AreReadInEveryLanguageWithTheFieldsOfTheirEditors) {
+    std::map<int, std::set<std::string>> titles;
+    forEachMask([&](const Maschera& mask, int language) {
+        EXPECT_TRUE(titles[language].insert(mask.titolo).second) << mask.titolo;
+    });
+    EXPECT_EQ(titles.size(), 6u);
+    for (const auto& [language, all] : titles) EXPECT_EQ(all.size(), 5u) << language;
+}
+
+TEST_F(DeliveredMasks, HaveRoomForTheirTextsInEveryLanguage) {
+    forEachMask([](const Maschera& mask, int language) {
+        EXPECT_LE(base::numeroCaratteri(mask.titolo), 60u);
+        for (const auto& field : mask.campi) {
+            // A label keeps a blank and three dots at least; a help is a sentence or two.
+            EXPECT_LE(base::numeroCaratteri(field.etichetta), 116u) << field.etichetta;
+            EXPECT_LE(base::numeroCaratteri(field.aiuto), 200u) << language << ' ' << field.aiuto;
+        }
+        for (const auto& caption : mask.pulsanti) EXPECT_LE(base::numeroCaratteri(caption), 22u);
+    });
+}
+
+TEST_F(DeliveredMasks, ExplainEveryFieldThatCanBeTypedInto) {
+    forEachMask([](const Maschera& mask, int) {
+        const bool grid = mask.genere != project::GenereMaschera::campi;
+        for (std::size_t i = grid ? 1 : 0; i < mask.campi.size(); ++i)
+            EXPECT_FALSE(mask.campi[i].aiuto.empty()) << mask.campi[i].etichetta;
+    });
+}
+
+TEST_F(DeliveredMasks, KeepUnitsAndKeysInEveryLanguage) {
+    auto italian = masks(1);
+    for (int language = 2; language <= 6; ++language) {
+        auto other = masks(language);
+        for (const auto number : allMasks) {
+            italian.selezionaMaschera(static_cast<int>(number));
+            other.selezionaMaschera(static_cast<int>(number));
+            const auto& a = italian.corrente().campi;
+            const auto& b = other.corrente().campi;
+            ASSERT_EQ(a.size(), b.size());
+            for (std::size_t i = 0; i < a.size(); ++i) {
+                const auto unit = [](const std::string& label) {
+                    const auto start = label.find('[');
+                    return start == std::string::npos ? std::string() : label.substr(start);
+                };
+                EXPECT_EQ(unit(a[i].etichetta), unit(b[i].etichetta));
+                EXPECT_EQ(project::chiaviColonna(a[i].aiuto), project::chiaviColonna(b[i].aiuto));
+            }
+        }
+    }
+}
+
+TEST_F(DeliveredMasks, GiveTheButtonsOfAFormDifferentAccessKeys) {
+    forEachMask([](const Maschera& mask, int language) {
+        std::set<std::string> keys;
+        for (const auto& caption : mask.pulsanti) {
+            const auto mark = caption.find('&');
+            ASSERT_NE(mark, std::string::npos);
+            const auto key = base::maiuscolo(caption).substr(
+                mark + 1,
+                base::lunghezzaPrimoCarattere(std::string_view(caption).substr(mark + 1)));
+            EXPECT_TRUE(keys.insert(key).second) << language << ' ' << caption;
+        }
+    });
+}
+
+TEST_F(DeliveredMasks, OfferConfirmCancelRowsAndHelp) {
+    forEachMask([](const Maschera& mask, int) {
+        const bool grid = mask.genere != project::GenereMaschera::campi;
+        EXPECT_EQ(mask.pulsanti.size(), grid ? 5u : 3u);
+        if (grid) {
+            EXPECT_EQ(project::azionePulsante(mask, 4), project::AzioneGriglia::guida);
+        }
+        EXPECT_EQ(project::voceAiuto(mask), mask.contesto);
+    });
+    auto all = masks(1);
+    std::vector<int> contexts;
+    for (const auto number : allMasks) {
+        all.selezionaMaschera(static_cast<int>(number));
+        contexts.push_back(all.corrente().contesto);
+    }
+    // The entries of the menu items that open these editors.
+    EXPECT_EQ(contexts, (std::vector<int>{10, 6, 5, 8, 9}));
+}
+
+// A value that is refused holds the user in its field.
+TEST_F(DeliveredMasks, AcceptWhatANewProjectHolds) {
+    auto all = masks(1);
+    project::DatiProgetto fresh;
+    project::azzera(fresh);
+    for (const auto number : {NumeroMaschera::titoli, NumeroMaschera::paratia}) {
+        project::preparaMaschera(all, number, fresh, 0);
+        const auto& mask = all.corrente();
+        const project::FieldModel form(mask, all.valoriCombo(), all.valoriTesto());
+        for (std::size_t i = mask.scelte.size(); i < mask.campi.size(); ++i)
+            EXPECT_EQ(project::controllaCampo(mask.campi[i], form.testo(i)),
+                      project::Vizio::nessuno)
+                << mask.campi[i].etichetta;
+    }
+}
+
+TEST_F(DeliveredMasks, LetALayerHaveNoDescription) {
+    auto all = masks(1);
+    all.selezionaMaschera(static_cast<int>(NumeroMaschera::strati));
+    EXPECT_EQ(all.corrente().genere, project::GenereMaschera::grigliaLibera);
+    const auto& description = all.corrente().campi.back();
+    EXPECT_EQ(project::controllaCella(description, std::string(500, 'x')), project::Vizio::nessuno);
+}
+
+TEST_F(DeliveredMasks, TakeTheKindOfAnAnchorByItsKeysAlone) {
+    auto all = masks(5);
+    all.selezionaMaschera(static_cast<int>(NumeroMaschera::tiranti));
+    const auto& kind = all.corrente().campi.back();
+    EXPECT_EQ(project::controllaCella(kind, "0"), project::Vizio::nessuno);
+    EXPECT_EQ(project::controllaCella(kind, "1"), project::Vizio::nessuno);
+    EXPECT_EQ(project::controllaCella(kind, "2"), project::Vizio::chiave);
+}
+
+}  // namespace
+}  // namespace korven
