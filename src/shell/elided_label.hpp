@@ -12,6 +12,7 @@ class ElidedLabel : public QLabel {
     explicit ElidedLabel(QWidget* genitore) : QLabel(genitore) {
         setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
         setTextFormat(Qt::PlainText);
+        setContentsMargins(8, 0, 8, 0);
     }
     void mostra(const QString& testo) {
         setText(testo);
