@@ -23,6 +23,11 @@ void prepara(QFileDialog& dialogo, const char* titolo, QFileDialog::AcceptMode m
     dialogo.setFileMode(QFileDialog::AnyFile);
     dialogo.setAcceptMode(modo);
     dialogo.setOption(QFileDialog::DontConfirmOverwrite);
+    dialogo.setOption(QFileDialog::HideNameFilterDetails);
+    dialogo.setLabelText(QFileDialog::LookIn, tradotto("Cerca &in:"));
+    dialogo.setLabelText(QFileDialog::FileName, tradotto("&Nome del file:"));
+    dialogo.setLabelText(QFileDialog::FileType, tradotto("&Tipo di file:"));
+    dialogo.setLabelText(QFileDialog::Reject, tradotto("&Annulla"));
     dialogo.setNameFilters(filtri());
     dialogo.setDirectory(QDir::current());
 }
@@ -39,7 +44,6 @@ std::string DialogoFileQt::apri(const std::string& attuale) {
     QFileDialog dialogo(finestra_);
     prepara(dialogo, "Apri un progetto o scrivi il nome di uno nuovo", QFileDialog::AcceptOpen);
     dialogo.setLabelText(QFileDialog::Accept, tradotto("&Apri"));
-    dialogo.setLabelText(QFileDialog::Reject, tradotto("&Annulla"));
     if (!attuale.empty()) dialogo.selectFile(qt(attuale));
     return risposta(dialogo).value_or("");
 }
@@ -48,7 +52,6 @@ std::optional<std::string> DialogoFileQt::salva(const std::string& proposta) {
     QFileDialog dialogo(finestra_);
     prepara(dialogo, "Salva il progetto", QFileDialog::AcceptSave);
     dialogo.setLabelText(QFileDialog::Accept, tradotto("&Salva"));
-    dialogo.setLabelText(QFileDialog::Reject, tradotto("&Annulla"));
     dialogo.selectFile(qt(proposta));
     return risposta(dialogo);
 }

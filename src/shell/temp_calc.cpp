@@ -66,15 +66,20 @@ void TempCalc::paintEvent(QPaintEvent*) {
         pittore.setPen(QPen(colore, 1.6));
         pittore.drawLine(punto(linea.p1()), punto(linea.p2()));
     }
+    legenda(pittore);
+}
+
+// In the corner where the wall stands still and the button is not.
+void TempCalc::legenda(QPainter& pittore) const {
     const int riga = fontMetrics().height() + 4;
-    int y = height() - riga;
+    int y = riga;
     for (const auto& [chiave, colore] :
-         {std::pair{"Momento flettente", coloreMomenti}, std::pair{"Deformata", coloreDeformata}}) {
+         {std::pair{"Deformata", coloreDeformata}, std::pair{"Momento flettente", coloreMomenti}}) {
         pittore.setPen(QPen(colore, 3));
         pittore.drawLine(8, y, 28, y);
         pittore.setPen(Qt::black);
-        pittore.drawText(36, y + fontMetrics().ascent() / 2, tradotto(chiave));
-        y -= riga;
+        pittore.drawText(34, y + fontMetrics().ascent() / 2, tradotto(chiave));
+        y += riga;
     }
 }
 

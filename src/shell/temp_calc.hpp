@@ -29,6 +29,7 @@ class TempCalc : public QWidget {
 
  private:
     void disponi();
+    void legenda(QPainter& pittore) const;
     void interrompi();
 
     QPushButton* command1_;

@@ -2,9 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <span>
 
 #include "analysis/run_flags.hpp"
+#include "base/number_text.hpp"
+#include "base/value_error.hpp"
 #include "plot/plot_engine.hpp"
 #include "project/project_file.hpp"
 #include "support/document_ports.hpp"
@@ -146,12 +149,13 @@ TEST_F(ProduciDisegni, DoNotOpenTheViewerOnALogThatWasRefused) {
 }
 
 TEST_F(ProduciDisegni, TellOfAResultThatIsTooLargeLikeOfARefusedRun) {
-    Progetto.momentoTesta = 1e300;
-    Progetto.rigidezzaEJ = 1e-300;
+    // As the caption of the progress does when a moment grows beyond all numbers.
+    avanzamento.adOgniIterazione = [](const auto&) { (void)base::testoNumero(HUGE_VAL); };
     esegui(Comando::graficaMomenti);
     EXPECT_TRUE(analysis::erroreCalcolo);
     EXPECT_EQ(viste, 0);
-    EXPECT_EQ(dialogo.messaggi.size(), 1u);
+    ASSERT_EQ(dialogo.messaggi.size(), 1u);
+    EXPECT_EQ(dialogo.messaggi[0].testo, base::ErroreValore().what());
     EXPECT_FALSE(std::filesystem::exists(ambiente.lavori / "muro.OUT"));
 }
 
