@@ -10,6 +10,7 @@
 #include "base/table.hpp"
 #include "base/translated_texts.hpp"
 #include "base/value_error.hpp"
+#include "commands/fatal_error.hpp"
 #include "plot/drawing_stop.hpp"
 #include "project/project_data.hpp"
 
@@ -25,12 +26,6 @@ void togliRisultati(Esito& esito) {
         base::cancellaFile(risultati);
 }
 
-std::string spiegazione(const base::ErroreIndice& errore) {
-    if (errore.capacita() == 0) return errore.what();
-    return base::traduttore("i dati chiedono più righe di quante ne tiene una tabella") + " (" +
-           std::to_string(errore.indice()) + " > " + std::to_string(errore.capacita()) + ")";
-}
-
 }  // namespace
 
 void raccontaGuasto(Esito& esito) {
@@ -44,7 +39,7 @@ void raccontaGuasto(Esito& esito) {
                 base::traduttore("il comando verifica nomina i campi con valori troppo grandi"),
             esito);
     } catch (const base::ErroreIndice& errore) {
-        fallisci(ingressoRotto, esito.progetto + ": " + spiegazione(errore), esito);
+        fallisci(ingressoRotto, esito.progetto + ": " + commands::spiegazione(errore), esito);
     } catch (const plot::DisegnoInterrotto& errore) {
         fallisci(nonEseguito, errore.what(), esito);
     } catch (const std::exception& errore) {

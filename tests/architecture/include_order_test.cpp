@@ -25,13 +25,15 @@ const std::map<std::string, std::set<std::string>> lower = {
     {"commands", {"base", "project", "plot", "structure", "analysis", "report"}},
     {"device", {"base", "project", "plot", "structure", "analysis", "report", "commands"}},
     {"shell", {"base", "project", "plot", "structure", "analysis", "report", "commands", "device"}},
+    {"desktop",
+     {"base", "project", "plot", "structure", "analysis", "report", "commands", "device", "shell"}},
     {"batch", {"base", "project", "plot", "structure", "analysis", "report", "commands", "device"}},
     {"outdoc", {"base", "report"}},
 };
 
 // Libraries from outside, by the beginning of what is included, and the folders that may use them.
 const std::vector<std::pair<std::string, std::set<std::string>>> outside = {
-    {"Q", {"device", "shell"}},
+    {"Q", {"device", "shell", "desktop"}},
     {"CLI/", {"batch"}},
     {"nlohmann/", {"batch"}},
 };

@@ -1,0 +1,157 @@
+#include "commands/document.hpp"
+
+#include <filesystem>
+#include <utility>
+
+#include "analysis/output_guard.hpp"
+#include "base/file_error.hpp"
+#include "base/files.hpp"
+#include "base/translated_texts.hpp"
+#include "commands/document_names.hpp"
+#include "commands/last_folder.hpp"
+#include "project/project_data.hpp"
+#include "project/project_file.hpp"
+
+namespace korven::commands {
+
+namespace {
+
+using base::traduttore;
+using project::fileCorrente;
+using project::modificato;
+
+std::string attenzione() { return traduttore("ATTENZIONE") + "!"; }
+
+// Names another file for a while, and for good only when all went well: an error leaves the project
+// that was open under its own name, where it can be rescued.
+class NomeProvvisorio {
+ public:
+    explicit NomeProvvisorio(std::string nome)
+        : prima_(std::exchange(fileCorrente, std::move(nome))) {}
+    NomeProvvisorio(const NomeProvvisorio&) = delete;
+    NomeProvvisorio& operator=(const NomeProvvisorio&) = delete;
+    ~NomeProvvisorio() {
+        if (!tenuto_) fileCorrente = prima_;
+    }
+    void tieni(std::string nome) {
+        fileCorrente = std::move(nome);
+        tenuto_ = true;
+    }
+
+ private:
+    std::string prima_;
+    bool tenuto_ = false;
+};
+
+}  // namespace
+
+bool Documento::domandaModifiche() {
+    if (!modificato) return true;
+    const auto risposta = dialogo_.domanda(
+        traduttore("Il file corrente è stato modificato. Volete salvare le modifiche apportate") +
+            "?",
+        attenzione(), base::Pulsanti::siNoAnnulla, base::Icona::domanda);
+    if (risposta == base::Risposta::si) return fileSalva();
+    return risposta == base::Risposta::no;
+}
+
+void Documento::fileApri() {
+    if (!domandaModifiche()) return;
+    vaiAllUltimaCartella();
+    apriNome(nomi_.apri(fileCorrente));
+}
+
+void Documento::apri(const std::string& nome) {
+    if (domandaModifiche()) apriNome(nome);
+}
+
+void Documento::apriNome(const std::string& risposta) {
+    const std::string nome = nomeDaAprire(risposta);
+    if (nessunaScelta(nome)) return;
+    if (const std::string file = fileDelProgetto(nome); !file.empty()) {
+        leggi(nome, file);
+        ricordaCartella(nome);
+    } else {
+        comincia(nome);
+    }
+    finestra_.titolo(titoloFinestra(fileCorrente));
+    modificato = false;
+}
+
+void Documento::leggi(const std::string& nome, const std::string& file) {
+    NomeProvvisorio provvisorio(file);
+    FileSuDisco disco;
+    disco.ricorda(file);
+    project::leggiProgetto();
+    provvisorio.tieni(nome);
+    disco_ = std::move(disco);
+    analysis::progettiProtetti.letto = file;
+    mostra("File letto", file);
+}
+
+void Documento::comincia(const std::string& nome) {
+    project::azzeraProgetto();
+    fileCorrente = nome;
+    disco_.ricorda(nome);
+    analysis::progettiProtetti.letto.clear();
+    mostra("Nuovo progetto, non ancora salvato", nome);
+}
+
+bool Documento::apriAllAvvio(const std::string& argomento) {
+    if (!base::esisteFile(argomento)) return false;
+    // The program is about to change its folder, from where a relative name would lead elsewhere.
+    const std::string nome = std::filesystem::absolute(argomento).string();
+    leggi(nome, nome);
+    vaiAllaCartellaDi(nome);
+    finestra_.titolo(titoloFinestra(nome));
+    return true;
+}
+
+bool Documento::fileSalva() {
+    if (fileCorrente.empty()) return false;
+    for (;;) {
+        const auto risposta = nomi_.salva(nomeProposto(fileCorrente));
+        if (!risposta) return false;
+        const std::string nome = nomeDaSalvare(*risposta);
+        try {
+            if (!accettaNome(nome)) continue;
+            scrivi(nome);
+            return true;
+        } catch (const base::ErroreFile& errore) {
+            dialogo_.messaggio(errore.what(), attenzione(), base::Icona::stop);
+        }
+    }
+}
+
+bool Documento::accettaNome(const std::string& nome) {
+    if (!base::esisteFile(nome)) return true;
+    const auto consente = [this](const std::string& testo, base::Icona icona) {
+        return dialogo_.domanda(testo + "?", attenzione(), base::Pulsanti::siNo, icona) ==
+               base::Risposta::si;
+    };
+    if (!consente(traduttore("Il file indicato esiste già. Volete sovrascriverlo"),
+                  base::Icona::domanda))
+        return false;
+    if (!disco_.cambiato(nome)) return true;
+    return consente(traduttore("Un altro programma ha modificato questo file dopo la lettura. "
+                               "Volete perdere quelle modifiche e sovrascriverlo"),
+                    base::Icona::avviso);
+}
+
+void Documento::scrivi(const std::string& nome) {
+    NomeProvvisorio provvisorio(nome);
+    project::scriviProgetto();
+    provvisorio.tieni(nome);
+    disco_.ricorda(nome);
+    ricordaCartella(nome);
+    analysis::progettiProtetti.letto = nome;
+    modificato = false;
+    finestra_.titolo(titoloFinestra(nome));
+    mostra("File scritto", nome);
+}
+
+void Documento::mostra(const std::string& cosa, const std::string& percorso) {
+    finestra_.stato(traduttore(cosa) + ": " + percorso);
+}
+
+}  // namespace korven::commands

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <string>
+
+#include "base/dialogo.hpp"
+#include "commands/document_ports.hpp"
+#include "commands/file_on_disk.hpp"
+
+namespace korven::commands {
+
+/// The open project as a document: the commands that open, save and leave it, with their questions.
+/// Works on `Progetto`, `fileCorrente` and `modificato`.
+class Documento {
+ public:
+    Documento(base::Dialogo& dialogo, DialogoFile& nomi, FinestraPrincipale& finestra)
+        : dialogo_(dialogo), nomi_(nomi), finestra_(finestra) {}
+
+    /// Asks about unsaved changes, then for a name. An existing file is read; a name without a file
+    /// begins a new project, and no file exists until it is saved.
+    /// @throws base::ErroreFile if the file is no project; the open project is then as it was
+    void fileApri();
+
+    /// The same with a name that is known already: a file dropped on the main form.
+    void apri(const std::string& nome);
+
+    /// Reads the project that the command line names, if there is such a file.
+    /// @return false, with nothing changed, if there is none
+    bool apriAllAvvio(const std::string& argomento);
+
+    /// Asks under which name to save, and whether a file of that name may be replaced. A file that
+    /// can't be written is told in a box, and the name is asked for again: nothing is lost by it.
+    /// @return true when the project was saved
+    bool fileSalva();
+
+    /// Asks about unsaved changes. A save that is called off counts as cancel: going on would lose
+    /// what its user has just asked to keep.
+    /// @return true when the program may end
+    [[nodiscard]] bool fine() { return domandaModifiche(); }
+
+ private:
+    [[nodiscard]] bool domandaModifiche();
+    void apriNome(const std::string& risposta);
+    void leggi(const std::string& nome, const std::string& file);
+    void comincia(const std::string& nome);
+    [[nodiscard]] bool accettaNome(const std::string& nome);
+    void scrivi(const std::string& nome);
+    void mostra(const std::string& cosa, const std::string& percorso);
+
+    base::Dialogo& dialogo_;
+    DialogoFile& nomi_;
+    FinestraPrincipale& finestra_;
+    FileSuDisco disco_;
+};
+
+}  // namespace korven::commands

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+
+namespace korven::commands {
+
+inline constexpr int ultimaVoceAiuto = 200;
+
+/// The table of help contexts, entries 0 to 200: menu items and masks name an entry, the entry
+/// holds the number under which the help files keep the page. Entry n is page n, so that a page can
+/// be found from either side; entry 0 stands for no page of its own.
+[[nodiscard]] constexpr std::array<std::int16_t, ultimaVoceAiuto + 1> contestiAiuto() {
+    std::array<std::int16_t, ultimaVoceAiuto + 1> tabella{};
+    for (std::size_t i = 0; i < tabella.size(); ++i) tabella[i] = static_cast<std::int16_t>(i);
+    return tabella;
+}
+
+/// Help context of an entry; 0 for one outside the table.
+[[nodiscard]] constexpr int contestoAiuto(int voce) {
+    if (voce < 0 || voce > ultimaVoceAiuto) return 0;
+    return contestiAiuto()[static_cast<std::size_t>(voce)];
+}
+
+}  // namespace korven::commands

@@ -1,0 +1,73 @@
+#include "commands/language_start.hpp"
+
+#include <filesystem>
+
+#include "base/file_error.hpp"
+#include "base/files.hpp"
+#include "base/language.hpp"
+#include "base/program_folder.hpp"
+#include "base/translated_texts.hpp"
+#include "commands/example_folders.hpp"
+#include "commands/last_folder.hpp"
+
+namespace korven::commands {
+
+std::string fileAiuto;
+
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string fileLingua() { return base::fileProgramma("language.cfg"); }
+
+std::string fileModulo(std::string_view sigla, std::string_view estensione) {
+    return base::fileProgramma(
+        std::string("module").append(numeroModulo).append(sigla).append(".").append(estensione));
+}
+
+bool scegliLingua(const PorteLingua& porte) {
+    const int codice = porte.scegli(lingueOfferte());
+    if (codice == 0) return false;
+    base::scriviFile(fileLingua(), std::to_string(codice) + "\r\n");
+    return true;
+}
+
+// A code without a tag names files that nobody has.
+int codiceValido() {
+    const int codice = base::leggiLingua(fileLingua());
+    if (base::siglaLingua(codice).empty())
+        throw base::ErroreFile(fileLingua(), 1, "atteso un codice di lingua da 1 a 6");
+    return codice;
+}
+
+std::string trovaAiuto(std::string_view sigla) {
+    const auto esiste = [](std::string_view s) { return base::esisteFile(fileModulo(s, "hlp")); };
+    return fileModulo(base::siglaDisponibile(sigla, esiste), "hlp");
+}
+
+}  // namespace
+
+std::vector<int> lingueOfferte() {
+    std::vector<int> codici;
+    for (const char* sigla : {"eng", "fra", "deu", "ita", "esp", "por"})
+        if (base::esisteFile(fileModulo(sigla, "cfg"))) codici.push_back(base::codiceLingua(sigla));
+    return codici;
+}
+
+bool iniziaLingua(const PorteLingua& porte) {
+    const bool prova = base::esisteFile((fs::path(porte.radice) / "testmode.tra").string());
+    const bool primaVolta = maiUsata();
+    if ((prova || !base::esisteFile(fileLingua())) && !scegliLingua(porte)) return false;
+    const int codice = codiceValido();
+    const std::string sigla(base::siglaLingua(codice));
+    if (primaVolta) preparaEsempi();
+    base::caricaTesti(base::fileProgramma("texts01.txt"),
+                      base::fileProgramma(std::string("texts").append(numeroModulo) + ".txt"));
+    base::impostaLingua(codice);
+    base::impostaModoProva(prova ? &porte.dialogo : nullptr);
+    fileAiuto = trovaAiuto(sigla);
+    if (primaVolta) scriviUltimaCartella(cartellaEsempi(sigla));
+    return true;
+}
+
+}  // namespace korven::commands

@@ -1,0 +1,120 @@
+#include "commands/output_commands.hpp"
+
+#include <algorithm>
+#include <cassert>
+#include <iterator>
+
+#include "analysis/calcolo_paratia.hpp"
+#include "analysis/output_guard.hpp"
+#include "analysis/run_flags.hpp"
+#include "base/file_names.hpp"
+#include "base/files.hpp"
+#include "base/translated_texts.hpp"
+#include "base/value_error.hpp"
+#include "commands/diagram_output.hpp"
+#include "commands/project_commands.hpp"
+#include "project/project_data.hpp"
+#include "report/stratigraphic_log.hpp"
+#include "structure/section_drawing.hpp"
+
+namespace korven::commands {
+
+namespace {
+
+using project::fileCorrente;
+using Relazione = std::function<void(const std::string&)> FormeProgramma::*;
+
+struct ComandoCalcolo {
+    Comando comando;
+    int modoUscita;
+    Relazione relazione;  // nullptr: a diagram
+};
+
+constexpr ComandoCalcolo comandiCalcolo[] = {
+    {Comando::stampaVideo, 0, &FormeProgramma::anteprima},
+    {Comando::stampaTabulati, 0, &FormeProgramma::stampa},
+    {Comando::esportaDoc, 0, &FormeProgramma::esportaDoc},
+    {Comando::esportaTxt, 0, &FormeProgramma::esportaTxt},
+    {Comando::graficaPressioni, 1, nullptr},
+    {Comando::graficaSpostamenti, 2, nullptr},
+    {Comando::graficaMomenti, 3, nullptr},
+    {Comando::graficaTaglio, 4, nullptr},
+};
+
+std::string attenzione() { return base::traduttore("ATTENZIONE") + "!"; }
+
+class Clessidra {
+ public:
+    explicit Clessidra(base::Dialogo& dialogo) : dialogo_(dialogo) { mostra(); }
+    Clessidra(const Clessidra&) = delete;
+    Clessidra& operator=(const Clessidra&) = delete;
+    ~Clessidra() { dialogo_.puntatore(base::Puntatore::normale); }
+    void mostra() { dialogo_.puntatore(base::Puntatore::clessidra); }
+
+ private:
+    base::Dialogo& dialogo_;
+};
+
+// True when the run went through and its output is there.
+bool calcola(int modoUscita, base::Dialogo& dialogo, analysis::Avanzamento& avanzamento,
+             analysis::UscitaCalcolo& uscita) {
+    try {
+        analysis::CalcoloParatia(modoUscita, {dialogo, avanzamento, uscita});
+    } catch (const base::ErroreValore& errore) {
+        analysis::erroreCalcolo = true;
+        // As after a singular system: what can't be shown must not be taken for up to date.
+        const std::string risultati = base::nomeRisultati(fileCorrente);
+        if (!analysis::prendeIlPostoDelProgetto(risultati)) base::cancellaFile(risultati);
+        dialogo.messaggio(errore.what(), attenzione(), base::Icona::stop);
+    }
+    return !analysis::erroreCalcolo;
+}
+
+void produciRelazione(Relazione destinazione, base::Dialogo& dialogo,
+                      analysis::Avanzamento& avanzamento, const FormeProgramma& forme) {
+    Clessidra clessidra(dialogo);
+    UscitaRelazione uscita(true);
+    if (!calcola(0, dialogo, avanzamento, uscita)) return;
+    clessidra.mostra();  // the run gives the pointer back at its end
+    (forme.*destinazione)(uscita.relazione());
+}
+
+void produciDiagramma(int modoUscita, base::Dialogo& dialogo, analysis::Avanzamento& avanzamento,
+                      const FormeProgramma& forme) {
+    UscitaDiagramma uscita;
+    if (calcola(modoUscita, dialogo, avanzamento, uscita)) forme.grafica();
+}
+
+void produciCalcolo(const ComandoCalcolo& comando, base::Dialogo& dialogo,
+                    analysis::Avanzamento& avanzamento, const FormeProgramma& forme) {
+    if (comando.relazione != nullptr)
+        produciRelazione(comando.relazione, dialogo, avanzamento, forme);
+    else
+        produciDiagramma(comando.modoUscita, dialogo, avanzamento, forme);
+}
+
+}  // namespace
+
+void produci(Comando comando, base::Dialogo& dialogo, analysis::Avanzamento& avanzamento,
+             const FormeProgramma& forme) {
+    if (fileCorrente.empty()) {
+        dialogo.messaggio(base::traduttore("Non e' possibile produrre un output prima di aver "
+                                           "aperto un file."),
+                          attenzione(), base::Icona::nessuna);
+        return;
+    }
+    if (comando == Comando::graficaStruttura) {
+        structure::disegnaSezione(project::Progetto);
+        return forme.grafica();
+    }
+    if (comando == Comando::graficaStratigrafia) {
+        if (report::disegnaStratigrafia(dialogo)) forme.grafica();
+        return;
+    }
+    const auto* trovato = std::find_if(std::begin(comandiCalcolo), std::end(comandiCalcolo),
+                                       [comando](const auto& c) { return c.comando == comando; });
+    assert(trovato != std::end(comandiCalcolo));
+    produciCalcolo(*trovato, dialogo, avanzamento, forme);
+}
+
+}  // namespace korven::commands

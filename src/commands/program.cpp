@@ -1,0 +1,59 @@
+#include "commands/program.hpp"
+
+#include "commands/document_names.hpp"
+#include "commands/edit_commands.hpp"
+#include "commands/help_contexts.hpp"
+#include "commands/output_commands.hpp"
+#include "project/project_data.hpp"
+
+namespace korven::commands {
+
+bool Programma::esegui(Comando comando) {
+    using enum Comando;
+    switch (comando) {
+        case nessuno:
+            break;
+        case fileApri:
+            documento_.fileApri();
+            break;
+        case fileSalva:
+            documento_.fileSalva();
+            break;
+        case printSetup:
+            forme_.impostaStampante();
+            break;
+        case aiutoFile:
+        case aiutoEdit:
+        case aiutoStampa:
+            aiuto(voce(comando).aiuto);
+            break;
+        case editStratigrafia:
+        case editParatia:
+        case editRigidezza:
+        case editTiranti:
+        case editFasi:
+        case editTitoli:
+            edita(comando, dialogo_, forme_);
+            break;
+        case configura:
+            forme_.editacfg();
+            break;
+        case fine:
+            return documento_.fine();
+        case sommario:
+            forme_.sommario();
+            break;
+        case about:
+            forme_.informazioni(rigaFileCorrente(project::fileCorrente));
+            break;
+        default:
+            produci(comando, dialogo_, avanzamento_, forme_);
+    }
+    return false;
+}
+
+void Programma::aiuto(int voce) const {
+    if (forme_.aiuto) forme_.aiuto(contestoAiuto(voce));
+}
+
+}  // namespace korven::commands

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "analysis/progress.hpp"
+#include "base/dialogo.hpp"
+#include "commands/document.hpp"
+#include "commands/program_forms.hpp"
+
+namespace korven::commands {
+
+/// The menu commands of the desktop program, each by its road: documents, editors, outputs, help.
+class Programma {
+ public:
+    /// The ports must outlive the program.
+    Programma(base::Dialogo& dialogo, DialogoFile& nomi, FinestraPrincipale& finestra,
+              analysis::Avanzamento& avanzamento, FormeProgramma forme)
+        : dialogo_(dialogo),
+          avanzamento_(avanzamento),
+          forme_(std::move(forme)),
+          documento_(dialogo, nomi, finestra) {}
+
+    /// Carries a command out. @return true when the program is to end
+    bool esegui(Comando comando);
+
+    /// False when the form of a command is not plugged in.
+    [[nodiscard]] bool puo(Comando comando) const { return haForma(comando, forme_); }
+
+    /// Shows the help of the menu item with this entry of the table of help contexts.
+    void aiuto(int voce) const;
+
+    [[nodiscard]] Documento& documento() { return documento_; }
+
+ private:
+    base::Dialogo& dialogo_;
+    analysis::Avanzamento& avanzamento_;
+    FormeProgramma forme_;
+    Documento documento_;
+};
+
+}  // namespace korven::commands

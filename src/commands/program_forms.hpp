@@ -1,0 +1,51 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "commands/menu_tree.hpp"
+
+namespace korven::commands {
+
+/// Numbers of the masks, by their place in the list of mask files.
+enum Maschera {
+    mascheraTitoli = 1,
+    mascheraParatia,
+    mascheraStrati,
+    mascheraTiranti,
+    mascheraFasi
+};
+
+/// The forms and devices behind the menu commands, each plugged in by `main` where the program has
+/// it. A form is modal: the call returns when it is closed. A command whose form is missing can't
+/// be chosen (`haForma`).
+struct FormeProgramma {
+    using Testi = std::vector<std::string>;
+
+    /// Shows the form of a mask, a field form or a grid, with these texts (edited_values.hpp).
+    /// Returns the texts as confirmed, nothing when the form was left without.
+    std::function<std::optional<Testi>(int maschera, const Testi& testi)> maschera;
+    /// The section form `DefinEJ`, which takes its values into `Progetto` and sets `modificato`.
+    std::function<void()> sezione;
+    /// The viewer `GRAFICA` of the drawing in the plot store.
+    std::function<void()> grafica;
+    /// What is done with a report, given by the path of its mark-up file. The pointer is the
+    /// hourglass when they are called: a form that waits for its user gives it back first.
+    std::function<void(const std::string&relazione)> anteprima, stampa, esportaDoc, esportaTxt;
+    /// Colours and pens, `Editacfg`.
+    std::function<void()> editacfg;
+    /// The system's dialog for the printer.
+    std::function<void()> impostaStampante;
+    /// The help file at the page of a context number, and at its contents.
+    std::function<void(int contesto)> aiuto;
+    std::function<void()> sommario;
+    /// The about box with the line of the open project, empty if none (document_names.hpp).
+    std::function<void(const std::string& fileCorrente)> informazioni;
+};
+
+/// True if what a command shows is plugged in, or it needs nothing.
+[[nodiscard]] bool haForma(Comando comando, const FormeProgramma& forme);
+
+}  // namespace korven::commands

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "commands/document.hpp"
+#include "commands/language_start.hpp"
+
+namespace korven::commands {
+
+/// What the start of the program needs beside its language.
+struct PorteAvvio {
+    /// Reads the five mask files. May be empty in a program without editors.
+    std::function<void()> leggiMaschere;
+    /// Shows the about box, which greets whoever starts without a project. May be empty.
+    std::function<void()> saluta;
+};
+
+/// The rest of the start, behind the language: no project, the masks, then the project that the
+/// command line names. Without an argument the defaults and the about box; with one that names no
+/// file the defaults alone.
+/// @param argomento  the command line, empty when there is none
+/// @throws base::ErroreFile if a mask or the project can't be used
+void avvia(const std::string& argomento, Documento& documento, const PorteAvvio& porte);
+
+}  // namespace korven::commands

@@ -1,0 +1,98 @@
+#include <QDir>
+#include <QLibraryInfo>
+#include <QTimer>
+#include <QTranslator>
+#include <clocale>
+#include <csignal>
+#include <string>
+
+#include "base/file_error.hpp"
+#include "base/translated_texts.hpp"
+#include "commands/fatal_error.hpp"
+#include "commands/program.hpp"
+#include "commands/startup.hpp"
+#include "commands/user_folder.hpp"
+#include "shell/application.hpp"
+#include "shell/dialogo_qt.hpp"
+#include "shell/file_dialogs_qt.hpp"
+#include "shell/informazioni.hpp"
+#include "shell/menu1.hpp"
+#include "shell/progress_qt.hpp"
+#include "shell/qt_text.hpp"
+#include "shell/selezling.hpp"
+
+// korven32: the desktop program. Chooses what stands behind the ports, and tells the one error that
+// ends a program.
+
+namespace korven::desktop {
+namespace {
+
+// The texts that Qt itself shows in the file dialogs, where the system has them in this language.
+void traduciQt(QCoreApplication& applicazione) {
+    constexpr const char* codici[] = {"it", "de", "fr", "es", "en", "pt"};
+    const int lingua = base::linguaCorrente();
+    if (lingua < 1 || lingua > 6) return;
+    auto* traduzione = new QTranslator(&applicazione);
+    if (traduzione->load(QString("qtbase_") + codici[lingua - 1],
+                         QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(traduzione);
+}
+
+// What is behind the commands, plugged in form by form.
+commands::FormeProgramma forme(shell::Menu1& finestra) {
+    commands::FormeProgramma tutte;
+    tutte.informazioni = [&finestra](const std::string& fileCorrente) {
+        shell::Informazioni(fileCorrente, &finestra).exec();
+    };
+    return tutte;
+}
+
+int sessione(shell::Applicazione& applicazione, shell::DialogoQt& dialogo,
+             const std::string& argomento) {
+    commands::scegliCartellaProgramma();
+    if (!commands::iniziaLingua({.dialogo = dialogo, .scegli = shell::scegliLingua})) return 0;
+    traduciQt(applicazione);
+
+    shell::Menu1 finestra;
+    shell::DialogoFileQt nomi;
+    shell::AvanzamentoQt avanzamento;
+    dialogo.sopra(&finestra);
+    nomi.sopra(&finestra);
+    avanzamento.sopra(&finestra);
+    commands::Programma programma(dialogo, nomi, finestra, avanzamento, forme(finestra));
+    finestra.collega(programma);
+    QObject::connect(&applicazione, &QGuiApplication::commitDataRequest, &finestra,
+                     &shell::Menu1::fineSessione, Qt::DirectConnection);
+    finestra.show();
+    QTimer::singleShot(0, &finestra, [&] {
+        commands::avvia(
+            argomento, programma.documento(),
+            {.leggiMaschere = {}, .saluta = [&] { finestra.esegui(commands::Comando::about); }});
+    });
+    return applicazione.gira();
+}
+
+int programma(int argc, char** argv) {
+    std::signal(SIGXFSZ, SIG_IGN);  // a file at its size limit is a failed write like others
+    shell::Applicazione applicazione(argc, argv);
+    QCoreApplication::setOrganizationName("korven32");
+    QCoreApplication::setApplicationName("korven32");
+    std::setlocale(LC_NUMERIC, "C");
+    const QStringList argomenti = QCoreApplication::arguments();
+    shell::DialogoQt dialogo;
+    try {
+        return sessione(applicazione, dialogo,
+                        argomenti.size() > 1 ? argomenti[1].toStdString() : std::string());
+    } catch (const std::exception& errore) {
+        const std::string recuperato = commands::recuperaProgetto();
+        dialogo.puntatore(base::Puntatore::normale);
+        dialogo.messaggio(commands::testoFine(errore, recuperato),
+                          base::traduttore("ATTENZIONE") + "!", base::Icona::stop);
+        return 1;
+    }
+}
+
+}  // namespace
+}  // namespace korven::desktop
+
+int main(int argc, char** argv) { return korven::desktop::programma(argc, argv); }

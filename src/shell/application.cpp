@@ -1,0 +1,23 @@
+#include "shell/application.hpp"
+
+#include <utility>
+
+namespace korven::shell {
+
+bool Applicazione::notify(QObject* destinatario, QEvent* evento) {
+    try {
+        return QApplication::notify(destinatario, evento);
+    } catch (const std::exception&) {
+        if (!errore_) errore_ = std::current_exception();
+        exit(1);
+        return true;
+    }
+}
+
+int Applicazione::gira() {
+    const int codice = exec();
+    if (errore_) std::rethrow_exception(std::exchange(errore_, nullptr));
+    return codice;
+}
+
+}  // namespace korven::shell

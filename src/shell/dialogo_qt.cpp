@@ -1,0 +1,100 @@
+#include "shell/dialogo_qt.hpp"
+
+#include <QApplication>
+#include <QPushButton>
+
+#include "shell/qt_text.hpp"
+
+namespace korven::shell {
+
+namespace {
+
+QMessageBox::Icon iconaQt(base::Icona icona) {
+    switch (icona) {
+        case base::Icona::informazione:
+            return QMessageBox::Information;
+        case base::Icona::avviso:
+            return QMessageBox::Warning;
+        case base::Icona::domanda:
+            return QMessageBox::Question;
+        case base::Icona::stop:
+            return QMessageBox::Critical;
+        default:
+            return QMessageBox::NoIcon;
+    }
+}
+
+// Texts are shown as they are typed: a "<" in a file name is no mark-up.
+void prepara(QMessageBox& box, std::string_view testo, std::string_view titolo, base::Icona icona) {
+    box.setObjectName("messaggio");
+    box.setTextFormat(Qt::PlainText);
+    box.setIcon(iconaQt(icona));
+    box.setWindowTitle(qt(titolo));
+    box.setText(qt(testo));
+    box.setTextInteractionFlags(Qt::TextSelectableByMouse);
+}
+
+// A box waits for its user with a plain pointer, whatever the program is at.
+class PuntatorePerUnBox {
+ public:
+    explicit PuntatorePerUnBox(bool clessidra) : clessidra_(clessidra) {
+        if (clessidra_) QApplication::setOverrideCursor(Qt::ArrowCursor);
+    }
+    PuntatorePerUnBox(const PuntatorePerUnBox&) = delete;
+    PuntatorePerUnBox& operator=(const PuntatorePerUnBox&) = delete;
+    ~PuntatorePerUnBox() {
+        if (clessidra_) QApplication::restoreOverrideCursor();
+    }
+
+ private:
+    bool clessidra_;
+};
+
+}  // namespace
+
+QWidget* DialogoQt::genitore() const {
+    QWidget* modale = QApplication::activeModalWidget();
+    if (modale != nullptr) return modale;
+    return finestra_ != nullptr && finestra_->isVisible() ? finestra_.data() : nullptr;
+}
+
+void DialogoQt::messaggio(std::string_view testo, std::string_view titolo, base::Icona icona) {
+    const PuntatorePerUnBox normale(clessidra_);
+    QMessageBox box(genitore());
+    prepara(box, testo, titolo, icona);
+    box.setStandardButtons(QMessageBox::Ok);
+    box.button(QMessageBox::Ok)->setText("OK");
+    box.exec();
+}
+
+base::Risposta DialogoQt::domanda(std::string_view testo, std::string_view titolo,
+                                  base::Pulsanti pulsanti, base::Icona icona) {
+    const PuntatorePerUnBox normale(clessidra_);
+    QMessageBox box(genitore());
+    prepara(box, testo, titolo, icona);
+    auto* si = box.addButton(tradotto("&Sì"), QMessageBox::YesRole);
+    auto* no = box.addButton(tradotto("&No"), QMessageBox::NoRole);
+    QPushButton* annulla = nullptr;
+    if (pulsanti == base::Pulsanti::siNoAnnulla)
+        annulla = box.addButton(tradotto("&Annulla"), QMessageBox::RejectRole);
+    si->setObjectName("si");
+    no->setObjectName("no");
+    if (annulla != nullptr) annulla->setObjectName("annulla");
+    box.setDefaultButton(si);
+    box.setEscapeButton(annulla != nullptr ? annulla : no);
+    box.exec();
+    if (box.clickedButton() == si) return base::Risposta::si;
+    return box.clickedButton() == no ? base::Risposta::no : base::Risposta::annulla;
+}
+
+void DialogoQt::puntatore(base::Puntatore forma) {
+    const bool clessidra = forma == base::Puntatore::clessidra;
+    if (clessidra == clessidra_) return;
+    clessidra_ = clessidra;
+    if (clessidra)
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    else
+        QApplication::restoreOverrideCursor();
+}
+
+}  // namespace korven::shell

@@ -1,0 +1,59 @@
+#include "shell/file_dialogs_qt.hpp"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+
+#include "shell/qt_text.hpp"
+
+namespace korven::shell {
+
+namespace {
+
+// The pattern of the projects whatever the case, which name filters do not promise by themselves.
+QStringList filtri() {
+    return {"Korven 32 (*.kvd *.KVD *.Kvd)", tradotto("Tutti i file") + " (*)"};
+}
+
+// A new project is opened by a name that no file has, so both dialogs take any name; what stands
+// under it is the command's to judge.
+void prepara(QFileDialog& dialogo, const char* titolo, QFileDialog::AcceptMode modo) {
+    dialogo.setObjectName(modo == QFileDialog::AcceptOpen ? "apri" : "salva");
+    dialogo.setWindowTitle(tradotto(titolo));
+    dialogo.setFileMode(QFileDialog::AnyFile);
+    dialogo.setAcceptMode(modo);
+    dialogo.setOption(QFileDialog::DontConfirmOverwrite);
+    dialogo.setOption(QFileDialog::HideNameFilterDetails);
+    dialogo.setLabelText(QFileDialog::LookIn, tradotto("Cerca &in:"));
+    dialogo.setLabelText(QFileDialog::FileName, tradotto("&Nome del file:"));
+    dialogo.setLabelText(QFileDialog::FileType, tradotto("&Tipo di file:"));
+    dialogo.setLabelText(QFileDialog::Reject, tradotto("&Annulla"));
+    dialogo.setNameFilters(filtri());
+    dialogo.setDirectory(QDir::current());
+}
+
+std::optional<std::string> risposta(QFileDialog& dialogo) {
+    if (dialogo.exec() != QDialog::Accepted || dialogo.selectedFiles().isEmpty())
+        return std::nullopt;
+    return QFileInfo(dialogo.selectedFiles().first()).absoluteFilePath().toStdString();
+}
+
+}  // namespace
+
+std::string DialogoFileQt::apri(const std::string& attuale) {
+    QFileDialog dialogo(finestra_);
+    prepara(dialogo, "Apri un progetto o scrivi il nome di uno nuovo", QFileDialog::AcceptOpen);
+    dialogo.setLabelText(QFileDialog::Accept, tradotto("&Apri"));
+    if (!attuale.empty()) dialogo.selectFile(qt(attuale));
+    return risposta(dialogo).value_or("");
+}
+
+std::optional<std::string> DialogoFileQt::salva(const std::string& proposta) {
+    QFileDialog dialogo(finestra_);
+    prepara(dialogo, "Salva il progetto", QFileDialog::AcceptSave);
+    dialogo.setLabelText(QFileDialog::Accept, tradotto("&Salva"));
+    dialogo.selectFile(qt(proposta));
+    return risposta(dialogo);
+}
+
+}  // namespace korven::shell

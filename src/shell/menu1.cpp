@@ -1,0 +1,166 @@
+#include "shell/menu1.hpp"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDragEnterEvent>
+#include <QFileInfo>
+#include <QKeyEvent>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QSessionManager>
+#include <QSettings>
+#include <QStatusBar>
+#include <QTimer>
+#include <array>
+
+#include "commands/document_names.hpp"
+#include "commands/fatal_error.hpp"
+#include "commands/menu_tree.hpp"
+#include "shell/elided_label.hpp"
+#include "shell/qt_text.hpp"
+#include "shell/wall_picture.hpp"
+
+namespace korven::shell {
+
+namespace {
+
+using commands::Comando;
+
+constexpr const char* proprietaComando = "comando";
+constexpr const char* proprietaAiuto = "aiuto";
+
+struct Scorciatoia {
+    Comando comando;
+    QKeySequence::StandardKey tasti;
+};
+constexpr Scorciatoia scorciatoie[] = {{Comando::fileApri, QKeySequence::Open},
+                                       {Comando::fileSalva, QKeySequence::Save},
+                                       {Comando::fine, QKeySequence::Quit},
+                                       {Comando::sommario, QKeySequence::HelpContents}};
+
+void battezza(QAction* azione, const commands::VoceMenu& voce) {
+    azione->setObjectName(qt(voce.nome));
+    azione->setProperty(proprietaComando, static_cast<int>(voce.comando));
+    azione->setProperty(proprietaAiuto, voce.aiuto);
+    azione->setMenuRole(QAction::NoRole);
+    for (const auto& [comando, tasti] : scorciatoie)
+        if (comando == voce.comando) azione->setShortcut(QKeySequence(tasti));
+}
+
+// The one project among what is dragged over the form; empty if it is anything else.
+std::string progettoTrascinato(const QMimeData& dati) {
+    const auto indirizzi = dati.urls();
+    if (indirizzi.size() != 1 || !indirizzi.first().isLocalFile()) return {};
+    const QString file = indirizzi.first().toLocalFile();
+    const bool progetto = QFileInfo(file).suffix().compare(qt(commands::estensioneProgetti),
+                                                           Qt::CaseInsensitive) == 0;
+    return progetto && QFileInfo(file).isFile() ? file.toStdString() : std::string();
+}
+
+}  // namespace
+
+Menu1::Menu1() {
+    setObjectName("menu1");
+    setWindowTitle("KORVEN 32");
+    immagine_ = new WallPicture(this);
+    immagine_->setObjectName("Image1");
+    setCentralWidget(immagine_);
+    connect(immagine_, &WallPicture::premuta, this, [this] { esegui(Comando::about); });
+    stato_ = new ElidedLabel(this);
+    stato_->setObjectName("stato");
+    stato_->mostra(tradotto("Nessun progetto aperto"));
+    statusBar()->addWidget(stato_, 1);
+    setAcceptDrops(true);
+    resize(900, 620);
+    setMinimumSize(480, 340);
+    restoreGeometry(QSettings().value("menu1/forma").toByteArray());
+}
+
+void Menu1::collega(commands::Programma& programma) {
+    programma_ = &programma;
+    costruisciMenu();
+}
+
+void Menu1::costruisciMenu() {
+    menuBar()->clear();
+    // The menu that takes the items of each level: the bar, then the menu opened last above it.
+    std::array<QMenu*, 3> aperti{};
+    for (const auto& voce : commands::albero()) {
+        const auto livello = static_cast<std::size_t>(voce.livello);
+        QMenu* sopra = livello == 0 ? nullptr : aperti[livello - 1];
+        const QString testo = tradotto(voce.testo);
+        if (commands::apreMenu(voce)) {
+            QMenu* menu = sopra != nullptr ? sopra->addMenu(testo) : menuBar()->addMenu(testo);
+            menu->installEventFilter(this);
+            battezza(menu->menuAction(), voce);
+            aperti[livello] = menu;
+            continue;
+        }
+        QAction* azione = sopra != nullptr ? sopra->addAction(testo) : menuBar()->addAction(testo);
+        battezza(azione, voce);
+        azione->setEnabled(programma_->puo(voce.comando));
+        connect(azione, &QAction::triggered, this,
+                [this, comando = voce.comando] { esegui(comando); });
+    }
+}
+
+void Menu1::esegui(Comando comando) {
+    if (programma_ == nullptr || !programma_->puo(comando)) return;
+    if (!programma_->esegui(comando)) return;
+    salutata_ = true;
+    close();
+}
+
+void Menu1::titolo(const std::string& testo) { setWindowTitle(qt(testo)); }
+void Menu1::stato(const std::string& testo) { stato_->mostra(qt(testo)); }
+
+void Menu1::closeEvent(QCloseEvent* evento) {
+    if (!salutata_ && programma_ != nullptr && !programma_->esegui(Comando::fine)) {
+        evento->ignore();
+        return;
+    }
+    salutata_ = true;
+    QSettings().setValue("menu1/forma", saveGeometry());
+    evento->accept();
+}
+
+void Menu1::fineSessione(QSessionManager& gestore) {
+    if (programma_ == nullptr) return;
+    if (!gestore.allowsInteraction()) {
+        commands::recuperaProgetto();
+        return;
+    }
+    const bool finisce = programma_->esegui(Comando::fine);
+    gestore.release();
+    if (finisce)
+        salutata_ = true;
+    else
+        gestore.cancel();
+}
+
+void Menu1::dragEnterEvent(QDragEnterEvent* evento) {
+    if (programma_ != nullptr && !progettoTrascinato(*evento->mimeData()).empty())
+        evento->acceptProposedAction();
+}
+
+void Menu1::dropEvent(QDropEvent* evento) {
+    const std::string file = progettoTrascinato(*evento->mimeData());
+    if (programma_ == nullptr || file.empty()) return;
+    evento->acceptProposedAction();
+    // The program that the file comes from waits for the end of the drop, not for our questions.
+    QTimer::singleShot(0, this, [this, file] { programma_->documento().apri(file); });
+}
+
+bool Menu1::eventFilter(QObject* oggetto, QEvent* evento) {
+    const auto* menu = qobject_cast<QMenu*>(oggetto);
+    const bool f1 =
+        evento->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(evento)->key() == Qt::Key_F1;
+    if (menu == nullptr || !f1 || menu->activeAction() == nullptr)
+        return QMainWindow::eventFilter(oggetto, evento);
+    const int voce = menu->activeAction()->property(proprietaAiuto).toInt();
+    while (QWidget* aperto = QApplication::activePopupWidget()) aperto->close();
+    programma_->aiuto(voce);
+    return true;
+}
+
+}  // namespace korven::shell

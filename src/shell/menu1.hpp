@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QMainWindow>
+
+#include "commands/document_ports.hpp"
+#include "commands/program.hpp"
+
+class QSessionManager;
+
+namespace korven::shell {
+
+class ElidedLabel;
+class WallPicture;
+
+/// The main form `menu1`: the menu, the picture and the status line. It hands every command over
+/// to the program and decides nothing.
+class Menu1 : public QMainWindow, public commands::FinestraPrincipale {
+    Q_OBJECT
+ public:
+    Menu1();
+
+    /// Builds the menu for the program whose commands it gives, captions in the language in force.
+    /// @param programma  not owned; must outlive the form
+    void collega(commands::Programma& programma);
+
+    /// A command, as from the menu.
+    void esegui(commands::Comando comando);
+
+    /// The session manager wants the program to end: the question about unsaved work where it lets
+    /// the user be asked, a rescue file where it does not.
+    void fineSessione(QSessionManager& gestore);
+
+    void titolo(const std::string& testo) override;
+    void stato(const std::string& testo) override;
+
+ protected:
+    void closeEvent(QCloseEvent* evento) override;
+    void dragEnterEvent(QDragEnterEvent* evento) override;
+    void dropEvent(QDropEvent* evento) override;
+    bool eventFilter(QObject* oggetto, QEvent* evento) override;
+
+ private:
+    void costruisciMenu();
+
+    commands::Programma* programma_ = nullptr;
+    WallPicture* immagine_;
+    ElidedLabel* stato_;
+    bool salutata_ = false;  // the question about unsaved work has been answered
+};
+
+}  // namespace korven::shell

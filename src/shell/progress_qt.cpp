@@ -1,0 +1,44 @@
+#include "shell/progress_qt.hpp"
+
+#include <QCoreApplication>
+
+#include "analysis/run_flags.hpp"
+#include "shell/qt_text.hpp"
+
+namespace korven::shell {
+
+void AvanzamentoQt::apri() {
+    ritmo_.ricomincia();
+    daMostrare_ = false;
+    finestra_ = std::make_unique<TempCalc>(principale_);
+    QObject::connect(finestra_.get(), &TempCalc::interruzione,
+                     [] { analysis::stopCalcolo = true; });
+    if (principale_ != nullptr) didascaliaPrima_ = principale_->windowTitle();
+    finestra_->show();
+}
+
+void AvanzamentoQt::iterazione(const analysis::StatoIterazione& stato) {
+    quadro_ = quadro(stato);
+    didascalia_ =
+        qt(analysis::didascaliaAvanzamento(stato.fase, stato.iterazione, stato.yMax, stato.mMax));
+    daMostrare_ = true;
+    if (ritmo_.tocca(orologio_())) mostra();
+    QCoreApplication::processEvents();
+}
+
+void AvanzamentoQt::mostra() {
+    daMostrare_ = false;
+    if (finestra_ != nullptr) finestra_->mostra(quadro_);
+    if (principale_ != nullptr) principale_->setWindowTitle(didascalia_);
+}
+
+void AvanzamentoQt::chiudi() {
+    if (daMostrare_) {
+        mostra();
+        if (finestra_ != nullptr) finestra_->repaint();
+    }
+    finestra_.reset();
+    if (principale_ != nullptr) principale_->setWindowTitle(didascaliaPrima_);
+}
+
+}  // namespace korven::shell

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QDialog>
+#include <vector>
+
+namespace korven::shell {
+
+/// The form `selezling` that asks for the language at the first start, before there is any: a
+/// button for each language offered, with its flag and its own name.
+class Selezling : public QDialog {
+    Q_OBJECT
+ public:
+    /// @param codici  language codes in the order of the buttons
+    explicit Selezling(const std::vector<int>& codici, QWidget* genitore = nullptr);
+
+    /// The code of the button clicked; 0 before that.
+    [[nodiscard]] int scelta() const { return scelta_; }
+
+ private:
+    int scelta_ = 0;
+};
+
+/// Shows the form. @return the code chosen, 0 when it was closed without
+[[nodiscard]] int scegliLingua(const std::vector<int>& codici);
+
+}  // namespace korven::shell

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QWidget>
+
+class QPainter;
+
+namespace korven::shell {
+
+/// The picture of the main form: a section through an anchored wall, with the ground it retains,
+/// its excavation stages and the line of its moments. Drawn, so that it is sharp at every size.
+class WallPicture : public QWidget {
+    Q_OBJECT
+ public:
+    explicit WallPicture(QWidget* genitore = nullptr);
+
+    /// Whether the name of the program stands in the sky.
+    void mostraTitolo(bool mostra) {
+        titolo_ = mostra;
+        update();
+    }
+
+ signals:
+    void premuta();
+
+ protected:
+    void paintEvent(QPaintEvent* evento) override;
+    void mouseReleaseEvent(QMouseEvent* evento) override;
+    void keyPressEvent(QKeyEvent* evento) override;
+
+ private:
+    bool titolo_ = true;
+};
+
+}  // namespace korven::shell

@@ -1,0 +1,149 @@
+#include "commands/edit_commands.hpp"
+
+#include <gtest/gtest.h>
+
+#include "base/table.hpp"
+#include "commands/edited_values.hpp"
+#include "project/edited_tables.hpp"
+#include "support/document_ports.hpp"
+#include "support/sample_projects.hpp"
+
+namespace korven::commands {
+namespace {
+
+using project::modificato;
+using project::Progetto;
+using Testi = std::vector<std::string>;
+
+class Edita : public ::testing::Test {
+ protected:
+    Edita() {
+        forme.maschera = [this](int maschera, const Testi& testi) {
+            maschere.push_back(maschera);
+            mostrati = testi;
+            return confermati;
+        };
+        forme.sezione = [this] { ++sezioni; };
+        Progetto = test::progettoSemplice();
+        project::fileCorrente = "/lavori/muro.kvd";
+    }
+    void esegui(Comando comando) { edita(comando, dialogo, forme); }
+
+    test::AmbienteDocumento ambiente;
+    test::DialogoFinto dialogo;
+    FormeProgramma forme;
+    std::vector<int> maschere;
+    Testi mostrati;
+    std::optional<Testi> confermati;
+    int sezioni = 0;
+};
+
+TEST_F(Edita, RefusesEachEditorWithoutAProjectInItsOwnWords) {
+    project::fileCorrente.clear();
+    const std::pair<Comando, const char*> casi[] = {
+        {Comando::editStratigrafia, "editare i dati prima"},
+        {Comando::editParatia, "editare dati prima"},
+        {Comando::editRigidezza, "editare i dati prima"},
+        {Comando::editTiranti, "editare i dati prima"},
+        {Comando::editFasi, "editare i dati prima"},
+        {Comando::editTitoli, "editare dati prima"},
+    };
+    for (const auto& [comando, parole] : casi) {
+        dialogo.messaggi.clear();
+        esegui(comando);
+        ASSERT_EQ(dialogo.messaggi.size(), 1u);
+        EXPECT_EQ(dialogo.messaggi[0].testo,
+                  std::string("Non e' possibile ") + parole + " di aver aperto un file.");
+        EXPECT_EQ(dialogo.messaggi[0].titolo, "ATTENZIONE!");
+    }
+    EXPECT_TRUE(maschere.empty());
+    EXPECT_EQ(sezioni, 0);
+}
+
+TEST_F(Edita, ShowsTheMaskOfEachEditor) {
+    for (const auto comando : {Comando::editTitoli, Comando::editParatia, Comando::editStratigrafia,
+                               Comando::editTiranti, Comando::editFasi})
+        esegui(comando);
+    EXPECT_EQ(maschere, (std::vector<int>{1, 2, 3, 4, 5}));
+    esegui(Comando::editRigidezza);
+    EXPECT_EQ(sezioni, 1);
+    EXPECT_EQ(maschere.size(), 5u);
+}
+
+TEST_F(Edita, LeavesTheProjectAloneWhenTheFormIsLeftWithoutConfirming) {
+    for (const auto comando :
+         {Comando::editStratigrafia, Comando::editParatia, Comando::editTitoli})
+        esegui(comando);
+    EXPECT_FALSE(modificato);
+    EXPECT_EQ(Progetto, test::progettoSemplice());
+}
+
+TEST_F(Edita, ShowsTablesWithTheirRowCountAndKilonewtons) {
+    esegui(Comando::editStratigrafia);
+    EXPECT_EQ(mostrati,
+              (Testi{"2", "4", "18", "20", "30", "0", "15000", "1A Sabbia, limosa \"media\"", "20",
+                     "19", "21", "34", "5", "30000", "2 Ghiaia"}));
+    esegui(Comando::editTiranti);
+    EXPECT_EQ(mostrati, (Testi{"1", "1.5", "5000", "50", "0"}));
+    Progetto.sovraccFase[2] = 0.25;
+    esegui(Comando::editFasi);
+    EXPECT_EQ(mostrati, (Testi{"2", "2", "0", "0", "3", "5", "1", "2.5", "5"}));
+}
+
+TEST_F(Edita, ShowsTheEighteenWallParametersInTheirOrder) {
+    Progetto.coeffM = 0.4;
+    Progetto.pressioneOrizz = 0.1;
+    Progetto.momentoTesta = -3;
+    Progetto.forzaTesta = 2;
+    Progetto.sforzoNormale = 12.5;
+    Progetto.inclinazioneMonte = 5;
+    esegui(Comando::editParatia);
+    EXPECT_EQ(mostrati, (Testi{"1", "1", "1", "1", "1", "1", "3", "12", "120000", "0.4", "1", "10",
+                               "-30", "20", "125", "5", "3", "1"}));
+}
+
+TEST_F(Edita, CountsAConfirmedTableAsModifiedAndAnUnchangedFieldFormNot) {
+    confermati = testiParatia(Progetto);
+    esegui(Comando::editParatia);
+    EXPECT_FALSE(modificato);
+    confermati = testiStrati(Progetto);
+    esegui(Comando::editStratigrafia);
+    EXPECT_TRUE(modificato);
+    EXPECT_EQ(Progetto, test::progettoSemplice());
+}
+
+TEST_F(Edita, TakesBackEveryShownTableUnchanged) {
+    confermati = testiTiranti(Progetto);
+    esegui(Comando::editTiranti);
+    confermati = testiFasi(Progetto);
+    esegui(Comando::editFasi);
+    EXPECT_EQ(Progetto, test::progettoSemplice());
+}
+
+TEST_F(Edita, KeepsTheStageToDrawOutOfTheProject) {
+    esegui(Comando::editTitoli);
+    EXPECT_EQ(mostrati, (Testi{"Muro di prova", "", "", "", "", "", "0"}));
+    confermati = Testi{"Muro di prova", "", "", "", "", "", "2"};
+    esegui(Comando::editTitoli);
+    EXPECT_EQ(project::faseGrafico, 2);
+    EXPECT_FALSE(modificato);
+    confermati = Testi{"Muro di prova", "Tratto B", "", "", "", "", "2"};
+    esegui(Comando::editTitoli);
+    EXPECT_TRUE(modificato);
+    EXPECT_EQ(Progetto.titoli[2], "Tratto B");
+}
+
+TEST_F(Edita, TakesAMissingOrUnreadableStageForAll) {
+    EXPECT_EQ(faseDaTitoli({"a", "b", "c", "d", "e", "f"}), 0);
+    EXPECT_EQ(faseDaTitoli({"a", "b", "c", "d", "e", "f", ""}), 0);
+    EXPECT_EQ(faseDaTitoli({"a", "b", "c", "d", "e", "f", "-1"}), 0);
+    EXPECT_EQ(faseDaTitoli({"a", "b", "c", "d", "e", "f", "3.9"}), 3);
+}
+
+TEST_F(Edita, EndsOnMoreRowsThanTheTableHolds) {
+    confermati = Testi{"101"};
+    EXPECT_THROW(esegui(Comando::editStratigrafia), base::ErroreIndice);
+}
+
+}  // namespace
+}  // namespace korven::commands

@@ -1,0 +1,79 @@
+#include "commands/fatal_error.hpp"
+
+#include <gtest/gtest.h>
+
+#include "base/code_page.hpp"
+#include "base/file_error.hpp"
+#include "base/table.hpp"
+#include "project/project_file.hpp"
+#include "support/document_ports.hpp"
+#include "support/sample_projects.hpp"
+
+namespace korven::commands {
+namespace {
+
+using project::fileCorrente;
+using project::modificato;
+using project::Progetto;
+
+class Recupero : public ::testing::Test {
+ protected:
+    Recupero() {
+        Progetto = test::progettoSemplice();
+        fileCorrente = ambiente.lavori / "muro.kvd";
+        modificato = true;
+    }
+    test::AmbienteDocumento ambiente;
+};
+
+TEST_F(Recupero, WritesTheUnsavedProjectBesideItsFile) {
+    test::metti(fileCorrente, "com'era");
+    const std::string file = recuperaProgetto();
+    EXPECT_EQ(file, ambiente.lavori / "muro_recuperato.kvd");
+    EXPECT_EQ(test::contenuto(file),
+              base::inCp1252(project::testoProgetto(test::progettoSemplice())));
+    EXPECT_EQ(test::contenuto(fileCorrente), "com'era");
+    EXPECT_EQ(recuperaProgetto(), ambiente.lavori / "muro_recuperato_2.kvd");
+}
+
+TEST_F(Recupero, WritesNothingWhenNothingIsUnsaved) {
+    modificato = false;
+    EXPECT_EQ(recuperaProgetto(), "");
+    modificato = true;
+    fileCorrente.clear();
+    EXPECT_EQ(recuperaProgetto(), "");
+    EXPECT_TRUE(std::filesystem::is_empty(ambiente.lavori.percorso()));
+}
+
+TEST_F(Recupero, GoesElsewhereWhenTheFolderCantBeWritten) {
+    fileCorrente = ambiente.lavori / "manca/muro.kvd";
+    const std::string file = recuperaProgetto();
+    EXPECT_TRUE(file.ends_with("/muro_recuperato.kvd") ||
+                file.find("/muro_recuperato_") != std::string::npos)
+        << file;
+    EXPECT_TRUE(std::filesystem::exists(file));
+    std::filesystem::remove(file);
+}
+
+TEST_F(Recupero, IsToldWithTheErrorThatEndsTheProgram) {
+    const base::ErroreFile errore("/lavori/rotto.kvd", 3, "atteso un numero");
+    const std::string testo = testoFine(errore, "/lavori/muro_recuperato.kvd");
+    EXPECT_NE(testo.find(errore.what()), std::string::npos);
+    EXPECT_NE(testo.find("Il programma viene chiuso."), std::string::npos);
+    EXPECT_NE(testo.find("Le modifiche non salvate sono state messe in: "
+                         "/lavori/muro_recuperato.kvd"),
+              std::string::npos);
+    EXPECT_NE(testoFine(errore, "").find("Non è stato possibile salvare le modifiche."),
+              std::string::npos);
+    modificato = false;
+    EXPECT_EQ(testoFine(errore, ""), std::string(errore.what()) + "\n\nIl programma viene chiuso.");
+}
+
+TEST_F(Recupero, TellsOfATableThatIsTooSmallInTheUsersWords) {
+    EXPECT_EQ(spiegazione(base::ErroreIndice(101, 100)),
+              "i dati chiedono più righe di quante ne tiene una tabella (101 > 100)");
+    EXPECT_EQ(spiegazione(base::ErroreIndice("troppi testi")), "troppi testi");
+}
+
+}  // namespace
+}  // namespace korven::commands

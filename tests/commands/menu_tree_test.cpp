@@ -1,0 +1,93 @@
+#include "commands/menu_tree.hpp"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <set>
+#include <string>
+
+#include "commands/help_contexts.hpp"
+
+namespace korven::commands {
+namespace {
+
+TEST(AlberoMenu, HoldsTheMenusAndTheirItemsInOrder) {
+    std::string menu;
+    for (const auto& v : albero())
+        menu += std::string(static_cast<std::size_t>(2 * v.livello), ' ') + std::string(v.nome) +
+                " " + std::string(v.testo) + "\n";
+    EXPECT_EQ(menu,
+              "archivi &Archivi\n"
+              "  FileApri &Apri\n"
+              "  FileSalva &Salva\n"
+              "  PrintSetup &Configura Stampante\n"
+              "  AiutoFile &Help\n"
+              "edizione &Edizione\n"
+              "  EditStratigrafia &Stratigrafia\n"
+              "  EditParatia &Parametri Diaframma\n"
+              "  EditRigidezza &Descrizione Struttura\n"
+              "  EditTiranti &Caratteristiche Tiranti\n"
+              "  EditFasi &Fasi di Scavo\n"
+              "  EditTitoli &Titoli\n"
+              "  AiutoEdit &Help\n"
+              "Stampa &Stampa\n"
+              "  StampaGrafica &Grafica\n"
+              "    GraficaMomenti &Momenti\n"
+              "    GraficaSpostamenti &Spostamenti\n"
+              "    GraficaTaglio &Taglio\n"
+              "    GraficaPressioni &Pressioni\n"
+              "    GraficaStruttura &Elemento Strutturale\n"
+              "    GraficaStratigrafia &Descrizione stratigrafica\n"
+              "  statab &Tabulati\n"
+              "    StampaVideo Visualizza &Anteprima Tabulati\n"
+              "    StampaTabulati Stampa &Rapida Tabulati\n"
+              "    espotab &Esporta Tabulati in Formato DOC\n"
+              "    espotabtxt Esporta Tabulati in Formato &TXT\n"
+              "  configura &Configura\n"
+              "  AiutoStampa &Help\n"
+              "fine &Uscita\n"
+              "menuhelp &Help\n"
+              "  sommario &Sommario\n"
+              "  about &Info\n");
+}
+
+TEST(AlberoMenu, GivesEachItemItsEntryOfTheHelpContexts) {
+    const std::pair<const char*, int> voci[] = {
+        {"FileApri", 3},          {"FileSalva", 4},           {"EditStratigrafia", 5},
+        {"EditParatia", 6},       {"EditRigidezza", 7},       {"EditTiranti", 8},
+        {"EditFasi", 9},          {"EditTitoli", 10},         {"StampaGrafica", 11},
+        {"GraficaMomenti", 12},   {"GraficaSpostamenti", 13}, {"GraficaTaglio", 14},
+        {"GraficaPressioni", 15}, {"GraficaStruttura", 16},   {"GraficaStratigrafia", 17},
+        {"statab", 18},           {"StampaVideo", 19},        {"StampaTabulati", 20},
+        {"espotab", 21},          {"espotabtxt", 22},         {"configura", 23},
+        {"PrintSetup", 27},       {"AiutoFile", 24},          {"AiutoEdit", 25},
+        {"AiutoStampa", 26}};
+    int trovate = 0;
+    for (const auto& v : albero())
+        for (const auto& [nome, aiuto] : voci)
+            if (v.nome == nome) {
+                EXPECT_EQ(v.aiuto, aiuto) << nome;
+                ++trovate;
+            }
+    EXPECT_EQ(trovate, 25);
+}
+
+TEST(AlberoMenu, HasEveryCommandOnce) {
+    std::multiset<Comando> comandi;
+    for (const auto& v : albero())
+        if (!apreMenu(v)) comandi.insert(v.comando);
+    for (int c = 1; c <= static_cast<int>(Comando::about); ++c)
+        EXPECT_EQ(comandi.count(static_cast<Comando>(c)), 1u) << c;
+    EXPECT_EQ(voce(Comando::fine).nome, "fine");
+}
+
+TEST(ContestiAiuto, AreATableOfTwoHundredAndOneEntries) {
+    EXPECT_EQ(contestiAiuto().size(), 201u);
+    EXPECT_EQ(contestoAiuto(200), 200);
+    EXPECT_EQ(contestoAiuto(0), 0);
+    EXPECT_EQ(contestoAiuto(201), 0);
+    EXPECT_EQ(contestoAiuto(-1), 0);
+}
+
+}  // namespace
+}  // namespace korven::commands

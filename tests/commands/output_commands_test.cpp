@@ -1,0 +1,163 @@
+#include "commands/output_commands.hpp"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <span>
+
+#include "analysis/run_flags.hpp"
+#include "base/number_text.hpp"
+#include "base/value_error.hpp"
+#include "plot/plot_engine.hpp"
+#include "project/project_file.hpp"
+#include "support/document_ports.hpp"
+#include "support/plot_setup.hpp"
+#include "support/sample_projects.hpp"
+
+namespace korven::commands {
+namespace {
+
+using base::Puntatore;
+using project::Progetto;
+
+constexpr Comando relazioni[] = {Comando::stampaVideo, Comando::stampaTabulati, Comando::esportaDoc,
+                                 Comando::esportaTxt};
+constexpr Comando diagrammi[] = {Comando::graficaPressioni, Comando::graficaSpostamenti,
+                                 Comando::graficaMomenti, Comando::graficaTaglio};
+constexpr Comando senzaCalcolo[] = {Comando::graficaStruttura, Comando::graficaStratigrafia};
+
+class Produci : public ::testing::Test {
+ protected:
+    Produci() {
+        const auto riceve = [this](const char* chi) {
+            return [this, chi](const std::string& relazione) {
+                ricevute.push_back(std::string(chi) + " " + relazione);
+                esisteva = std::filesystem::exists(relazione);
+                puntatore = dialogo.puntatori.back();
+            };
+        };
+        forme.anteprima = riceve("anteprima");
+        forme.stampa = riceve("stampa");
+        forme.esportaDoc = riceve("doc");
+        forme.esportaTxt = riceve("txt");
+        forme.grafica = [this] {
+            ++viste;
+            nomeAllaVista = project::fileCorrente;
+        };
+        Progetto = test::progettoSemplice();
+        project::fileCorrente = muro;
+    }
+    void esegui(Comando comando) { produci(comando, dialogo, avanzamento, forme); }
+
+    test::AmbienteDocumento ambiente;
+    test::DialogoFinto dialogo;
+    test::AvanzamentoFinto avanzamento;
+    FormeProgramma forme;
+    std::string muro = ambiente.lavori / "muro.kvd";
+    std::vector<std::string> ricevute;
+    bool esisteva = false;
+    Puntatore puntatore = Puntatore::normale;
+    int viste = 0;
+    std::string nomeAllaVista;
+};
+
+TEST_F(Produci, RefusesEveryOutputWithoutAProject) {
+    project::fileCorrente.clear();
+    for (const auto& gruppo :
+         {std::span<const Comando>(relazioni), std::span<const Comando>(diagrammi),
+          std::span<const Comando>(senzaCalcolo)})
+        for (const auto comando : gruppo) {
+            dialogo.messaggi.clear();
+            esegui(comando);
+            ASSERT_EQ(dialogo.messaggi.size(), 1u);
+            EXPECT_EQ(dialogo.messaggi[0].testo,
+                      "Non e' possibile produrre un output prima di aver aperto un file.");
+            EXPECT_EQ(dialogo.messaggi[0].titolo, "ATTENZIONE!");
+        }
+    EXPECT_TRUE(ricevute.empty());
+    EXPECT_EQ(viste, 0);
+}
+
+TEST_F(Produci, HandsTheReportToTheFormOfEachCommand) {
+    for (const auto comando : relazioni) esegui(comando);
+    const std::string tab = " " + (ambiente.lavori / "muro.TAB");
+    EXPECT_EQ(ricevute, (std::vector<std::string>{"anteprima" + tab, "stampa" + tab, "doc" + tab,
+                                                  "txt" + tab}));
+    EXPECT_TRUE(esisteva);
+    EXPECT_EQ(avanzamento.aperture, 1);  // the others found the results up to date
+}
+
+TEST_F(Produci, ShowsTheHourglassUntilTheReportIsHandedOver) {
+    esegui(Comando::esportaTxt);
+    EXPECT_EQ(puntatore, Puntatore::clessidra);
+    EXPECT_EQ(dialogo.puntatori.back(), Puntatore::normale);
+}
+
+TEST_F(Produci, DoesNotGoOnAfterARefusedRun) {
+    Progetto.lunghezzaParatia = 0;
+    for (const auto comando : relazioni) esegui(comando);
+    for (const auto comando : diagrammi) esegui(comando);
+    EXPECT_EQ(dialogo.messaggi.size(), 8u);
+    EXPECT_TRUE(ricevute.empty());
+    EXPECT_EQ(viste, 0);
+    EXPECT_EQ(dialogo.puntatori.back(), Puntatore::normale);
+}
+
+TEST_F(Produci, DoesNotGoOnAfterAStoppedRun) {
+    avanzamento.adOgniIterazione = [](const auto&) { analysis::stopCalcolo = true; };
+    esegui(Comando::stampaVideo);
+    EXPECT_TRUE(analysis::erroreCalcolo);
+    EXPECT_TRUE(ricevute.empty());
+    EXPECT_FALSE(std::filesystem::exists(ambiente.lavori / "muro.OUT"));
+}
+
+class ProduciDisegni : public Produci {
+ protected:
+    ProduciDisegni() {
+        plot::scriviConfigurazione(ambiente.programma / "module06ita.cfg",
+                                   test::configurazioneDiProva());
+        plot::statoPlot = {};
+    }
+    ~ProduciDisegni() override { plot::statoPlot = {}; }
+};
+
+TEST_F(ProduciDisegni, ShowEachDiagramOfTheRunInTheViewer) {
+    for (const auto comando : diagrammi) {
+        plot::statoPlot = {};
+        esegui(comando);
+        EXPECT_FALSE(plot::statoPlot.archivio.lineeInMemoria().empty());
+        EXPECT_EQ(nomeAllaVista, muro);  // the run has given the name back
+    }
+    EXPECT_EQ(viste, 4);
+    EXPECT_EQ(avanzamento.aperture, 1);
+    EXPECT_TRUE(ricevute.empty());
+}
+
+TEST_F(ProduciDisegni, DrawTheSectionWithoutARun) {
+    Progetto.lunghezzaParatia = 0;  // a run would be refused
+    esegui(Comando::graficaStruttura);
+    EXPECT_EQ(viste, 1);
+    EXPECT_EQ(avanzamento.aperture, 0);
+    EXPECT_TRUE(dialogo.messaggi.empty());
+}
+
+TEST_F(ProduciDisegni, DoNotOpenTheViewerOnALogThatWasRefused) {
+    Progetto.nStrati = 0;
+    esegui(Comando::graficaStratigrafia);
+    EXPECT_EQ(viste, 0);
+    EXPECT_EQ(dialogo.messaggi.size(), 1u);
+}
+
+TEST_F(ProduciDisegni, TellOfAResultThatIsTooLargeLikeOfARefusedRun) {
+    // As the caption of the progress does when a moment grows beyond all numbers.
+    avanzamento.adOgniIterazione = [](const auto&) { (void)base::testoNumero(HUGE_VAL); };
+    esegui(Comando::graficaMomenti);
+    EXPECT_TRUE(analysis::erroreCalcolo);
+    EXPECT_EQ(viste, 0);
+    ASSERT_EQ(dialogo.messaggi.size(), 1u);
+    EXPECT_EQ(dialogo.messaggi[0].testo, base::ErroreValore().what());
+    EXPECT_FALSE(std::filesystem::exists(ambiente.lavori / "muro.OUT"));
+}
+
+}  // namespace
+}  // namespace korven::commands

@@ -1,0 +1,97 @@
+#include "commands/program.hpp"
+
+#include <gtest/gtest.h>
+
+#include "support/document_ports.hpp"
+
+namespace korven::commands {
+namespace {
+
+class ProgrammaTest : public ::testing::Test {
+ protected:
+    Programma programma(FormeProgramma forme) {
+        return {dialogo, nomi, finestra, avanzamento, std::move(forme)};
+    }
+    test::AmbienteDocumento ambiente;
+    test::DialogoFinto dialogo;
+    test::DialogoFileFinto nomi;
+    test::FinestraFinta finestra;
+    test::AvanzamentoFinto avanzamento;
+};
+
+TEST_F(ProgrammaTest, OpensTheHelpAtTheEntryOfEachHelpCommand) {
+    std::vector<int> contesti;
+    int sommari = 0;
+    FormeProgramma forme;
+    forme.aiuto = [&](int contesto) { contesti.push_back(contesto); };
+    forme.sommario = [&] { ++sommari; };
+    auto p = programma(forme);
+    p.esegui(Comando::aiutoFile);
+    p.esegui(Comando::aiutoEdit);
+    p.esegui(Comando::aiutoStampa);
+    EXPECT_EQ(contesti, (std::vector<int>{24, 25, 26}));
+    p.esegui(Comando::sommario);
+    EXPECT_EQ(sommari, 1);
+    EXPECT_EQ(contesti.size(), 3u);
+}
+
+TEST_F(ProgrammaTest, NamesTheOpenProjectInTheAboutBox) {
+    std::vector<std::string> righe;
+    FormeProgramma forme;
+    forme.informazioni = [&](const std::string& riga) { righe.push_back(riga); };
+    auto p = programma(forme);
+    p.esegui(Comando::about);
+    project::fileCorrente = "/lavori/muro.kvd";
+    p.esegui(Comando::about);
+    EXPECT_EQ(righe, (std::vector<std::string>{"", "File corrente: /LAVORI/MURO"}));
+}
+
+TEST_F(ProgrammaTest, NeedsNoProjectForTheFormsOfTheDevices) {
+    int penne = 0, stampante = 0;
+    FormeProgramma forme;
+    forme.editacfg = [&] { ++penne; };
+    forme.impostaStampante = [&] { ++stampante; };
+    auto p = programma(forme);
+    p.esegui(Comando::configura);
+    p.esegui(Comando::printSetup);
+    EXPECT_EQ(penne, 1);
+    EXPECT_EQ(stampante, 1);
+    EXPECT_TRUE(dialogo.messaggi.empty());
+}
+
+TEST_F(ProgrammaTest, EndsOnlyThroughTheExit) {
+    auto p = programma({});
+    project::modificato = true;
+    dialogo.risposte = {base::Risposta::annulla, base::Risposta::no};
+    EXPECT_FALSE(p.esegui(Comando::fine));
+    EXPECT_TRUE(p.esegui(Comando::fine));
+    EXPECT_FALSE(p.esegui(Comando::nessuno));
+}
+
+TEST_F(ProgrammaTest, SaysWhichCommandsHaveTheirForm) {
+    const auto senza = programma({});
+    EXPECT_TRUE(senza.puo(Comando::fileApri));
+    EXPECT_TRUE(senza.puo(Comando::fileSalva));
+    EXPECT_TRUE(senza.puo(Comando::fine));
+    for (int c = 1; c <= static_cast<int>(Comando::about); ++c) {
+        const auto comando = static_cast<Comando>(c);
+        const bool bastaASe = comando == Comando::fileApri || comando == Comando::fileSalva ||
+                              comando == Comando::fine;
+        EXPECT_EQ(senza.puo(comando), bastaASe) << voce(comando).nome;
+    }
+    FormeProgramma forme;
+    forme.maschera = [](int, const std::vector<std::string>&) {
+        return std::optional<std::vector<std::string>>();
+    };
+    forme.sezione = forme.grafica = forme.editacfg = forme.impostaStampante =
+        forme.sommario = [] {};
+    forme.anteprima = forme.stampa = forme.esportaDoc = forme.esportaTxt =
+        forme.informazioni = [](const std::string&) {};
+    forme.aiuto = [](int) {};
+    const auto tutte = programma(forme);
+    for (int c = 1; c <= static_cast<int>(Comando::about); ++c)
+        EXPECT_TRUE(tutte.puo(static_cast<Comando>(c)));
+}
+
+}  // namespace
+}  // namespace korven::commands

@@ -1,0 +1,78 @@
+#include "commands/startup.hpp"
+
+#include <gtest/gtest.h>
+
+#include "base/code_page.hpp"
+#include "base/file_error.hpp"
+#include "project/project_file.hpp"
+#include "support/document_ports.hpp"
+#include "support/sample_projects.hpp"
+
+namespace korven::commands {
+namespace {
+
+using project::fileCorrente;
+using project::Progetto;
+
+class Avvio : public ::testing::Test {
+ protected:
+    void parti(const std::string& argomento) {
+        avvia(argomento, documento,
+              {.leggiMaschere = [this] { passi += "maschere " + fileCorrente; },
+               .saluta = [this] { passi += ";saluto"; }});
+    }
+    test::AmbienteDocumento ambiente;
+    test::DialogoFinto dialogo;
+    test::DialogoFileFinto nomi;
+    test::FinestraFinta finestra;
+    Documento documento{dialogo, nomi, finestra};
+    std::string passi;
+};
+
+TEST_F(Avvio, GreetsWithTheAboutBoxWhenThereIsNoArgument) {
+    fileCorrente = "di prima";
+    parti("");
+    EXPECT_EQ(passi, "maschere ;saluto");
+    EXPECT_TRUE(fileCorrente.empty());
+    EXPECT_EQ(Progetto.gammaAcqua, 1);
+    EXPECT_TRUE(finestra.ultimoTitolo.empty());
+}
+
+TEST_F(Avvio, ReadsTheProjectThatTheArgumentNames) {
+    const std::string muro = ambiente.lavori / "Muro.kvd";
+    test::metti(muro, base::inCp1252(project::testoProgetto(test::progettoSemplice())));
+    parti(muro);
+    EXPECT_EQ(passi, "maschere ");
+    EXPECT_EQ(fileCorrente, muro);
+    EXPECT_EQ(Progetto, test::progettoSemplice());
+    EXPECT_EQ(finestra.ultimoTitolo, "KORVEN 32 - muro");
+    EXPECT_EQ(std::filesystem::current_path(),
+              std::filesystem::canonical(ambiente.lavori.percorso()));
+    EXPECT_FALSE(std::filesystem::exists(ambiente.programma / "path"));
+    EXPECT_TRUE(analysis::prendeIlPostoDelProgetto(muro));
+}
+
+TEST_F(Avvio, KeepsTheWayToARelativeNameWhenItChangesItsFolder) {
+    std::filesystem::current_path(ambiente.lavori.percorso());
+    std::filesystem::create_directory("a");
+    test::metti(ambiente.lavori / "a/muro.kvd",
+                base::inCp1252(project::testoProgetto(test::progettoSemplice())));
+    parti("a/muro.kvd");
+    EXPECT_TRUE(std::filesystem::exists(fileCorrente));
+}
+
+TEST_F(Avvio, GoesOnWithoutAWordWhenTheArgumentNamesNoFile) {
+    parti(ambiente.lavori / "manca.kvd");
+    EXPECT_EQ(passi, "maschere ");
+    EXPECT_TRUE(fileCorrente.empty());
+    EXPECT_EQ(Progetto.gammaAcqua, 1);
+    EXPECT_TRUE(finestra.ultimoTitolo.empty());
+}
+
+TEST_F(Avvio, EndsOnAFileThatIsNoProject) {
+    test::metti(ambiente.lavori / "rotto.kvd", "due\r\n");
+    EXPECT_THROW(parti(ambiente.lavori / "rotto.kvd"), base::ErroreFile);
+}
+
+}  // namespace
+}  // namespace korven::commands

@@ -1,0 +1,76 @@
+#include "commands/user_folder.hpp"
+
+#include <gtest/gtest.h>
+#include <stdlib.h>
+
+#include "support/document_ports.hpp"
+
+namespace korven::commands {
+namespace {
+
+namespace fs = std::filesystem;
+using test::contenuto;
+
+class CartellaUtente : public ::testing::Test {
+ protected:
+    CartellaUtente() {
+        metti("texts06.txt", "testi 1");
+        metti("module06ita.CFG", "penne 1");
+        fs::create_directories(installata / "data/ita");
+        metti("data/ita/esempio.kvd", "esempio");
+        fs::create_directories(installata / "altro");
+        metti("altro/non_nostro", "x");
+        metti("korven32", "programma");
+        fs::permissions(installata / "korven32", fs::perms::owner_all);
+    }
+    void metti(const char* nome, const char* testo) { test::metti(installata / nome, testo); }
+    std::string utente() const { return casa / "korven32"; }
+    std::string nellUtente(const std::string& nome) const { return utente() + "/" + nome; }
+
+    test::CartellaProvvisoria installata, casa;
+};
+
+TEST_F(CartellaUtente, GetsTheDataAndNoPrograms) {
+    copiaDati(installata.percorso(), utente());
+    EXPECT_EQ(contenuto(nellUtente("texts06.txt")), "testi 1");
+    EXPECT_EQ(contenuto(nellUtente("module06ita.CFG")), "penne 1");
+    EXPECT_EQ(contenuto(nellUtente("data/ita/esempio.kvd")), "esempio");
+    EXPECT_FALSE(fs::exists(nellUtente("korven32")));
+    EXPECT_FALSE(fs::exists(nellUtente("altro")));
+}
+
+TEST_F(CartellaUtente, KeepsWhatTheUserChangedAndFollowsTheProgramInItsTexts) {
+    copiaDati(installata.percorso(), utente());
+    test::metti(nellUtente("module06ita.CFG"), "penne mie");
+    metti("texts06.txt", "testi 2");
+    metti("module06ita.CFG", "penne 2");
+    copiaDati(installata.percorso(), utente());
+    EXPECT_EQ(contenuto(nellUtente("module06ita.CFG")), "penne mie");
+    EXPECT_EQ(contenuto(nellUtente("texts06.txt")), "testi 2");
+}
+
+TEST_F(CartellaUtente, LiesWhereTheDesktopKeepsTheDataOfPrograms) {
+    const char* prima = ::getenv("XDG_DATA_HOME");
+    const std::string tenuta = prima != nullptr ? prima : "";
+    ::setenv("XDG_DATA_HOME", "/dati", 1);
+    EXPECT_EQ(cartellaDatiUtente(), "/dati/korven32");
+    ::setenv("XDG_DATA_HOME", "relativa", 1);  // to be passed over
+    EXPECT_TRUE(cartellaDatiUtente().ends_with("/.local/share/korven32"));
+    if (prima != nullptr)
+        ::setenv("XDG_DATA_HOME", tenuta.c_str(), 1);
+    else
+        ::unsetenv("XDG_DATA_HOME");
+}
+
+TEST_F(CartellaUtente, TakesTheProgramsPlaceOnlyWhenThatCantBeWritten) {
+    EXPECT_TRUE(cartellaScrivibile(installata.percorso()));
+    EXPECT_FALSE(cartellaScrivibile("/proc/self"));
+    EXPECT_FALSE(cartellaScrivibile(installata / "manca"));
+    EXPECT_FALSE(fs::exists(installata / ".korven32_prova"));
+    const test::AmbienteDocumento ambiente;
+    scegliCartellaProgramma();
+    EXPECT_EQ(base::cartellaProgramma(), ambiente.programma.percorso());
+}
+
+}  // namespace
+}  // namespace korven::commands

@@ -1,0 +1,64 @@
+#include "shell/file_dialogs_qt.hpp"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFileDialog>
+#include <QLineEdit>
+
+#include "support/desktop_bench.hpp"
+#include "support/temporary_folder.hpp"
+
+namespace korven::shell {
+namespace {
+
+using Dialogo = test::AllaProssimaFinestra<QFileDialog>;
+
+class DialoghiFile : public ::testing::Test {
+ protected:
+    DialoghiFile() { QDir::setCurrent(QString::fromStdString(lavori.percorso())); }
+    ~DialoghiFile() override { QDir::setCurrent(prima); }
+
+    static void scrivi(QFileDialog& dialogo, const char* nome) {
+        auto* riga = dialogo.findChild<QLineEdit*>();
+        riga->setText(nome);
+        QTest::keyClick(riga, Qt::Key_Return);
+    }
+    QString prima = QDir::currentPath();
+    test::CartellaProvvisoria lavori;
+    DialogoFileQt dialoghi;
+};
+
+TEST_F(DialoghiFile, TakeTheNameOfAProjectThatDoesNotExistYet) {
+    QString titolo;
+    const Dialogo dialogo([&](QFileDialog& d) {
+        titolo = d.windowTitle();
+        scrivi(d, "muro");
+    });
+    EXPECT_EQ(dialoghi.apri(""), lavori / "muro");
+    EXPECT_EQ(titolo, "Apri un progetto o scrivi il nome di uno nuovo");
+}
+
+TEST_F(DialoghiFile, LeaveTheQuestionWhetherToReplaceAFileToTheCommand) {
+    test::metti(lavori / "muro.kvd", "x");
+    QString proposto;
+    const Dialogo dialogo([&](QFileDialog& d) {
+        proposto = d.findChild<QLineEdit*>()->text();
+        QTest::keyClick(d.findChild<QLineEdit*>(), Qt::Key_Return);
+    });
+    EXPECT_EQ(dialoghi.salva("muro.kvd"), lavori / "muro.kvd");
+    EXPECT_EQ(proposto, "muro.kvd");
+}
+
+TEST_F(DialoghiFile, AnswerNothingAtEsc) {
+    const auto esci = [](QFileDialog& d) { QTest::keyClick(&d, Qt::Key_Escape); };
+    {
+        const Dialogo dialogo(esci);
+        EXPECT_EQ(dialoghi.apri(""), "");
+    }
+    const Dialogo dialogo(esci);
+    EXPECT_EQ(dialoghi.salva("muro.kvd"), std::nullopt);
+}
+
+}  // namespace
+}  // namespace korven::shell

@@ -1,0 +1,241 @@
+#include "shell/menu1.hpp"
+
+#include <gtest/gtest.h>
+
+#include <QDropEvent>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMimeData>
+#include <set>
+
+#include "base/code_page.hpp"
+#include "project/project_file.hpp"
+#include "support/desktop_bench.hpp"
+#include "support/document_ports.hpp"
+#include "support/sample_projects.hpp"
+
+namespace korven::shell {
+namespace {
+
+using base::Risposta;
+using commands::Comando;
+using project::fileCorrente;
+using project::modificato;
+
+class Menu1Test : public ::testing::Test {
+ protected:
+    Menu1Test() {
+        forme.informazioni = [this](const std::string& riga) { informazioni.push_back(riga); };
+        forme.aiuto = [this](int contesto) { aiuti.push_back(contesto); };
+        forme.sommario = [] {};
+        forme.maschera = [this](int numero, const std::vector<std::string>& testi) {
+            maschere.push_back(numero);
+            return std::optional(testi);
+        };
+    }
+    void apri() {
+        programma =
+            std::make_unique<commands::Programma>(dialogo, nomi, finestra, avanzamento, forme);
+        finestra.collega(*programma);
+        finestra.show();
+    }
+    QAction* voce(const char* nome) {
+        for (auto* azione : finestra.findChildren<QAction*>(nome)) return azione;
+        return nullptr;
+    }
+    QString stato() { return finestra.findChild<QLabel*>("stato")->text(); }
+    std::string scriviMuro(const char* nome = "muro.kvd") {
+        const std::string file = ambiente.lavori / nome;
+        test::metti(file, base::inCp1252(project::testoProgetto(test::progettoSemplice())));
+        return file;
+    }
+    void lascia(const std::string& file) {
+        QMimeData dati;
+        dati.setUrls({QUrl::fromLocalFile(QString::fromStdString(file))});
+        QDragEnterEvent entra(QPoint(5, 5), Qt::CopyAction, &dati, Qt::LeftButton, Qt::NoModifier);
+        entra.setAccepted(false);
+        QCoreApplication::sendEvent(&finestra, &entra);
+        accettato = entra.isAccepted();
+        if (!accettato) return;
+        QDropEvent cade(QPointF(5, 5), Qt::CopyAction, &dati, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(&finestra, &cade);
+        QTest::qWait(20);
+    }
+
+    test::AmbienteDocumento ambiente;
+    test::DialogoFinto dialogo;
+    test::DialogoFileFinto nomi;
+    test::AvanzamentoFinto avanzamento;
+    commands::FormeProgramma forme;
+    std::unique_ptr<commands::Programma> programma;
+    Menu1 finestra;
+    std::vector<std::string> informazioni;
+    std::vector<int> aiuti, maschere;
+    bool accettato = false;
+};
+
+// Captions of a menu and all below it, a line each, two blanks a level.
+void elenca(const QList<QAction*>& azioni, int livello, QString& testo) {
+    for (const auto* azione : azioni) {
+        testo += QString(2 * livello, ' ') + azione->text() + "\n";
+        if (azione->menu() != nullptr) elenca(azione->menu()->actions(), livello + 1, testo);
+    }
+}
+
+TEST_F(Menu1Test, HasItsMenuInItalian) {
+    apri();
+    QString menu;
+    elenca(finestra.menuBar()->actions(), 0, menu);
+    EXPECT_EQ(menu,
+              "&Archivi\n  &Apri\n  &Salva\n  &Configura Stampante\n  &Help\n"
+              "&Edizione\n  &Stratigrafia\n  &Parametri Diaframma\n  &Descrizione Struttura\n"
+              "  &Caratteristiche Tiranti\n  &Fasi di Scavo\n  &Titoli\n  &Help\n"
+              "&Stampa\n  &Grafica\n    &Momenti\n    &Spostamenti\n    &Taglio\n    &Pressioni\n"
+              "    &Elemento Strutturale\n    &Descrizione stratigrafica\n"
+              "  &Tabulati\n    Visualizza &Anteprima Tabulati\n    Stampa &Rapida Tabulati\n"
+              "    &Esporta Tabulati in Formato DOC\n    Esporta Tabulati in Formato &TXT\n"
+              "  &Configura\n  &Help\n"
+              "&Uscita\n&Help\n  &Sommario\n  &Info\n");
+}
+
+TEST_F(Menu1Test, HasItsMenuInGerman) {
+    const test::TestiConsegnati tedesco(2);
+    apri();
+    QString menu;
+    elenca(finestra.menuBar()->actions(), 0, menu);
+    EXPECT_TRUE(
+        menu.startsWith("&Datei\n  Ö&ffnen\n  &Speichern\n  &Drucker einrichten\n  &Hilfe\n"
+                        "&Bearbeiten\n"))
+        << menu.toStdString();
+    for (const char* italiano : {"Archivi", "Edizione", "Stampa", "Uscita", "Tiranti", "Momenti"})
+        EXPECT_FALSE(menu.contains(italiano)) << italiano;
+}
+
+void controllaTasti(const QList<QAction*>& azioni, int lingua) {
+    std::set<QChar> tasti;
+    for (const auto* azione : azioni) {
+        const auto segno = azione->text().indexOf('&');
+        ASSERT_GE(segno, 0) << azione->text().toStdString();
+        EXPECT_TRUE(tasti.insert(azione->text().at(segno + 1).toUpper()).second)
+            << "language " << lingua << ": " << azione->text().toStdString();
+        if (azione->menu() != nullptr) controllaTasti(azione->menu()->actions(), lingua);
+    }
+}
+
+TEST_F(Menu1Test, HasAnAccessKeyOfItsOwnForEachItemOfAMenuInEveryLanguage) {
+    for (int lingua = 1; lingua <= 6; ++lingua) {
+        const test::TestiConsegnati testi(lingua);
+        apri();
+        controllaTasti(finestra.menuBar()->actions(), lingua);
+    }
+}
+
+TEST_F(Menu1Test, LetsNobodyChooseACommandWhoseFormIsMissing) {
+    apri();
+    EXPECT_TRUE(voce("EditFasi")->isEnabled());
+    EXPECT_TRUE(voce("FileApri")->isEnabled());
+    EXPECT_FALSE(voce("StampaVideo")->isEnabled());
+    finestra.esegui(Comando::stampaVideo);
+    EXPECT_TRUE(dialogo.messaggi.empty());
+}
+
+TEST_F(Menu1Test, ShowsTheGuardOfEachEditorWithoutAProject) {
+    apri();
+    for (const char* nome :
+         {"EditStratigrafia", "EditParatia", "EditTiranti", "EditFasi", "EditTitoli"})
+        voce(nome)->trigger();
+    EXPECT_EQ(dialogo.messaggi.size(), 5u);
+    EXPECT_EQ(dialogo.messaggi[1].testo,
+              "Non e' possibile editare dati prima di aver aperto un file.");
+    EXPECT_TRUE(maschere.empty());
+}
+
+TEST_F(Menu1Test, BeginsEditsAndSavesAProjectFromTheKeyboard) {
+    apri();
+    QTest::qWait(10);
+    nomi.aperti = {ambiente.lavori / "muro"};
+    QTest::keyClick(&finestra, Qt::Key_O, Qt::ControlModifier);
+    EXPECT_EQ(finestra.windowTitle(), "KORVEN 32 - muro");
+    EXPECT_EQ(stato(),
+              "Nuovo progetto, non ancora salvato: " + QString::fromStdString(fileCorrente));
+    voce("EditFasi")->trigger();
+    EXPECT_EQ(maschere, std::vector<int>{5});
+    EXPECT_TRUE(modificato);
+    nomi.salvati = {fileCorrente};
+    QTest::keyClick(&finestra, Qt::Key_S, Qt::ControlModifier);
+    EXPECT_TRUE(std::filesystem::exists(ambiente.lavori / "muro.kvd"));
+    EXPECT_TRUE(stato().startsWith("File scritto: "));
+    EXPECT_FALSE(modificato);
+}
+
+TEST_F(Menu1Test, ShowsTheAboutBoxAtAClickOnItsPicture) {
+    apri();
+    auto* immagine = finestra.findChild<QWidget*>("Image1");
+    QTest::mouseClick(immagine, Qt::LeftButton);
+    fileCorrente = "/lavori/muro.kvd";
+    voce("about")->trigger();
+    EXPECT_EQ(informazioni, (std::vector<std::string>{"", "File corrente: /LAVORI/MURO"}));
+}
+
+TEST_F(Menu1Test, OpensADroppedProjectBehindTheQuestionAboutUnsavedWork) {
+    apri();
+    const std::string muro = scriviMuro();
+    lascia(muro);
+    EXPECT_EQ(fileCorrente, muro);
+    modificato = true;
+    dialogo.risposte = {Risposta::annulla, Risposta::no};
+    const std::string altro = scriviMuro("altro.KVD");
+    lascia(altro);
+    EXPECT_EQ(fileCorrente, muro);
+    lascia(altro);
+    EXPECT_EQ(fileCorrente, ambiente.lavori / "altro.kvd");
+    EXPECT_EQ(dialogo.domande.size(), 2u);
+}
+
+TEST_F(Menu1Test, TakesNothingElseThatIsDropped) {
+    apri();
+    test::metti(ambiente.lavori / "nota.txt", "x");
+    lascia(ambiente.lavori / "nota.txt");
+    EXPECT_FALSE(accettato);
+    lascia(ambiente.lavori / "manca.kvd");
+    EXPECT_FALSE(accettato);
+    EXPECT_TRUE(fileCorrente.empty());
+}
+
+TEST_F(Menu1Test, StaysOpenOnCancelFromTheExitAndFromItsCloseBox) {
+    apri();
+    fileCorrente = ambiente.lavori / "muro.kvd";
+    modificato = true;
+    dialogo.risposte = {Risposta::annulla, Risposta::annulla, Risposta::no};
+    voce("fine")->trigger();
+    EXPECT_TRUE(finestra.isVisible());
+    EXPECT_FALSE(finestra.close());
+    EXPECT_TRUE(finestra.isVisible());
+    EXPECT_TRUE(finestra.close());
+    EXPECT_FALSE(finestra.isVisible());
+    EXPECT_EQ(dialogo.domande.size(), 3u);
+}
+
+TEST_F(Menu1Test, AsksOnceWhenTheExitClosesTheForm) {
+    apri();
+    fileCorrente = ambiente.lavori / "muro.kvd";
+    modificato = true;
+    dialogo.risposte = {Risposta::no};
+    voce("fine")->trigger();
+    EXPECT_FALSE(finestra.isVisible());
+    EXPECT_EQ(dialogo.domande.size(), 1u);
+}
+
+TEST_F(Menu1Test, ShowsTheHelpOfTheHighlightedItemAtF1) {
+    apri();
+    auto* menu = voce("archivi")->menu();
+    menu->popup(QPoint(10, 10));
+    menu->setActiveAction(voce("FileSalva"));
+    QTest::keyClick(menu, Qt::Key_F1);
+    EXPECT_EQ(aiuti, std::vector<int>{4});
+    EXPECT_FALSE(menu->isVisible());
+}
+
+}  // namespace
+}  // namespace korven::shell

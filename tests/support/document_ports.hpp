@@ -1,0 +1,83 @@
+#pragma once
+
+#include <deque>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "analysis/output_guard.hpp"
+#include "base/program_folder.hpp"
+#include "base/translated_texts.hpp"
+#include "commands/document_ports.hpp"
+#include "project/project_data.hpp"
+#include "support/recording_ports.hpp"
+#include "support/temporary_folder.hpp"
+
+namespace korven::test {
+
+/// Answers the file dialogs from a script and writes down what they were given. Where the script
+/// ends the dialogs are left without a name.
+class DialogoFileFinto : public commands::DialogoFile {
+ public:
+    std::string apri(const std::string& attuale) override {
+        attuali.push_back(attuale);
+        cartelle.push_back(std::filesystem::current_path().string());
+        return prossimo(aperti).value_or("");
+    }
+    std::optional<std::string> salva(const std::string& proposta) override {
+        proposte.push_back(proposta);
+        return prossimo(salvati);
+    }
+
+    std::deque<std::string> aperti, salvati;     ///< the answers
+    std::vector<std::string> attuali, proposte;  ///< what was shown first
+    std::vector<std::string> cartelle;           ///< where the open dialog began
+
+ private:
+    static std::optional<std::string> prossimo(std::deque<std::string>& risposte) {
+        if (risposte.empty()) return std::nullopt;
+        std::string risposta = risposte.front();
+        risposte.pop_front();
+        return risposta;
+    }
+};
+
+class FinestraFinta : public commands::FinestraPrincipale {
+ public:
+    void titolo(const std::string& testo) override { ultimoTitolo = testo; }
+    void stato(const std::string& testo) override { ultimoStato = testo; }
+    std::string ultimoTitolo, ultimoStato;
+};
+
+/// A program folder and a folder of projects of their own, and the state of a program that has just
+/// started; everything is put back at the end, the current folder too.
+class AmbienteDocumento {
+ public:
+    AmbienteDocumento() {
+        base::impostaCartellaProgramma(programma.percorso());
+        riparti();
+    }
+    AmbienteDocumento(const AmbienteDocumento&) = delete;
+    AmbienteDocumento& operator=(const AmbienteDocumento&) = delete;
+    ~AmbienteDocumento() {
+        std::filesystem::current_path(primaCartella_);
+        base::impostaCartellaProgramma("");
+        base::impostaLingua(1);
+        base::impostaModoProva(nullptr);
+        riparti();
+    }
+
+    CartellaProvvisoria programma, lavori;
+
+ private:
+    static void riparti() {
+        project::azzeraProgetto();
+        project::fileCorrente.clear();
+        project::modificato = false;
+        analysis::progettiProtetti = {};
+    }
+    std::filesystem::path primaCartella_ = std::filesystem::current_path();
+};
+
+}  // namespace korven::test
