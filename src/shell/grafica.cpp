@@ -2,7 +2,6 @@
 
 #include <QCloseEvent>
 #include <QFileInfo>
-#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QScreen>
@@ -47,12 +46,6 @@ GRAFICA::GRAFICA(device::SuperficieSchermo& disegno, PorteGrafica& porte, base::
             conAvviso([=] { plot::plotIngrandisci(da, a); });
         },
         area_);
-    auto* centro = new QGridLayout(area_);
-    centro->setContentsMargins(bordo, bordo, bordo, bordo);
-    centro->addWidget(superficie_, 0, 0, Qt::AlignCenter);
-    // The drawing follows the room, never the other way round.
-    centro->setSizeConstraint(QLayout::SetNoConstraint);
-
     auto* disposizione = new QHBoxLayout(this);
     disposizione->setContentsMargins(0, 0, 0, 0);
     disposizione->setSpacing(0);
@@ -93,7 +86,14 @@ plot::SpazioDisegno GRAFICA::spazio() const {
 void GRAFICA::mostraDisegno() {
     if (!plot::statoPlot.replay) disarma();  // a new drawing
     superficie_->mostra();
+    centra();
     for (QToolButton* pulsante : spostamenti_) pulsante->setEnabled(plot::statoPlot.zoom);
+}
+
+// No layout does this: the drawing follows the room, never the other way round.
+void GRAFICA::centra() {
+    const QSize resto = area_->size() - superficie_->size();
+    superficie_->move(resto.width() / 2, resto.height() / 2);
 }
 
 void GRAFICA::arma() {
@@ -184,7 +184,10 @@ void GRAFICA::closeEvent(QCloseEvent* evento) {
     chiusa_();
 }
 
-void GRAFICA::resizeEvent(QResizeEvent*) { attesaRidisegno_.start(); }
+void GRAFICA::resizeEvent(QResizeEvent*) {
+    centra();
+    attesaRidisegno_.start();
+}
 
 void GRAFICA::showEvent(QShowEvent*) {
     if (schermoSeguito_) return;

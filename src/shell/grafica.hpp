@@ -54,6 +54,7 @@ class GRAFICA : public QWidget {
     void esportaDxf();
     void esportaImmagine();
     void ridisegna();
+    void centra();
     [[nodiscard]] plot::SpazioDisegno spazio() const;
     /// Does `azione`; when a file or a printer fails it says so in a box and the program goes on.
     void conAvviso(const std::function<void()>& azione);
