@@ -11,15 +11,13 @@
 #include <memory>
 #include <utility>
 
-#include "base/file_error.hpp"
-#include "base/translated_texts.hpp"
-#include "base/value_error.hpp"
 #include "device/text_painting.hpp"
 #include "plot/plot_dxf.hpp"
 #include "plot/plot_engine.hpp"
 #include "plot/plot_print.hpp"
 #include "plot/zoom_window.hpp"
 #include "project/project_data.hpp"
+#include "shell/failure_box.hpp"
 #include "shell/form_sizes.hpp"
 #include "shell/grafica_export.hpp"
 #include "shell/grafica_icons.hpp"
@@ -43,7 +41,7 @@ GRAFICA::GRAFICA(device::SuperficieSchermo& disegno, PorteGrafica& porte, base::
         disegno_,
         [this](plot::Punto da, plot::Punto a) {
             disarma();
-            conAvviso([=] { plot::plotIngrandisci(da, a); });
+            conAvviso(dialogo_, [=] { plot::plotIngrandisci(da, a); });
         },
         area_);
     auto* disposizione = new QHBoxLayout(this);
@@ -117,7 +115,7 @@ void GRAFICA::tutto() {
 
 void GRAFICA::ridisegna() {
     if (!isVisible() || area_->size() == areaDisegnata_) return;
-    conAvviso([] {
+    conAvviso(dialogo_, [] {
         const plot::Riquadro& zoom = plot::statoPlot.rettangoloZoom;
         if (plot::statoPlot.zoom)
             plot::plotZoom(zoom.xmin, zoom.ymin, zoom.xmax, zoom.ymax);
@@ -132,7 +130,7 @@ void GRAFICA::stampa(bool adatta) {
 }
 
 void GRAFICA::esportaDxf() {
-    conAvviso([this] {
+    conAvviso(dialogo_, [this] {
         if (const auto percorso = porte_.fileDaSalvare(richiestaDxf())) plot::plotDxf(*percorso);
     });
     tutto();
@@ -142,29 +140,16 @@ void GRAFICA::esportaImmagine() {
     if (const auto percorso = porte_.fileDaSalvare(richiestaImmagine())) scriviImmagine(*percorso);
 }
 
-void GRAFICA::conAvviso(const std::function<void()>& azione) {
-    std::string guasto;
-    try {
-        azione();
-        return;
-    } catch (const base::ErroreFile& errore) {
-        guasto = errore.what();
-    } catch (const base::ErroreValore& errore) {
-        guasto = errore.what();
-    }
-    dialogo_.messaggio(guasto, base::traduttore("ATTENZIONE") + "!", base::Icona::avviso);
-}
-
 void GRAFICA::keyPressEvent(QKeyEvent* evento) {
     const QString tasto = evento->text().toUpper();
     if (evento->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))
         QWidget::keyPressEvent(evento);
     else if (tasto == QLatin1String("S"))
-        conAvviso([this] { stampa(false); });
+        conAvviso(dialogo_, [this] { stampa(false); });
     else if (tasto == QLatin1String("I"))
-        conAvviso([this] { stampa(true); });
+        conAvviso(dialogo_, [this] { stampa(true); });
     else if (tasto == QLatin1String("D"))
-        conAvviso([this] { esportaDxf(); });
+        conAvviso(dialogo_, [this] { esportaDxf(); });
     else if (tasto == QLatin1String("U"))
         close();
     else if (evento->key() == Qt::Key_Escape && superficie_->armata())

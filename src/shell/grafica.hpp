@@ -56,8 +56,6 @@ class GRAFICA : public QWidget {
     void ridisegna();
     void centra();
     [[nodiscard]] plot::SpazioDisegno spazio() const;
-    /// Does `azione`; when a file or a printer fails it says so in a box and the program goes on.
-    void conAvviso(const std::function<void()>& azione);
 
     device::SuperficieSchermo& disegno_;
     PorteGrafica& porte_;

@@ -9,6 +9,7 @@
 #include "device/text_painting.hpp"
 #include "plot/plot_engine.hpp"
 #include "plot/zoom_window.hpp"
+#include "shell/failure_box.hpp"
 #include "shell/grafica.hpp"
 #include "shell/grafica_icons.hpp"
 
@@ -83,7 +84,7 @@ QToolButton* GRAFICA::farePulsante(const Pulsante& pulsante, QWidget* padre) {
     fatto->setAutoRaise(true);
     fatto->setFocusPolicy(Qt::StrongFocus);
     connect(fatto, &QToolButton::clicked, this,
-            [this, azione = pulsante.azione] { conAvviso(azione); });
+            [this, azione = pulsante.azione] { conAvviso(dialogo_, azione); });
     return fatto;
 }
 
