@@ -43,7 +43,7 @@ void SuperficieSchermo::prepara(const plot::Riquadro& mondo, double larghezza, d
     mondo_ = mondo;
     scalaX_ = larghezza / mondo.larghezza();
     scalaY_ = altezza / mondo.altezza();
-    spessore_ = spessoreMinimo();
+    spessore_ = 1;
     const QSize misure(std::max(1, static_cast<int>(std::lround(larghezza))),
                        std::max(1, static_cast<int>(std::lround(altezza))));
     if (immagine_.size() != misure) immagine_ = QImage(misure, QImage::Format_RGB32);
@@ -63,14 +63,14 @@ void SuperficieSchermo::marcaFoglio(const plot::Riquadro& foglio, plot::Colore c
     const QPointF basso = pixel({foglio.xmax, foglio.ymin});
     pittore_.save();
     pittore_.setRenderHint(QPainter::Antialiasing, false);
-    pittore_.setPen(QPen(qColore(colore), spessoreMinimo(), Qt::DotLine, Qt::FlatCap));
+    pittore_.setPen(QPen(qColore(colore), 1, Qt::DotLine, Qt::FlatCap));
     pittore_.drawRect(QRectF(alto, basso));
     pittore_.restore();
 }
 
 void SuperficieSchermo::spessore(int pixel) {
     tracciaLinee();
-    spessore_ = std::max(pixel, spessoreMinimo());
+    spessore_ = pixel;
 }
 
 void SuperficieSchermo::poligono(const plot::PoligonoPlot& poligono) {
@@ -150,8 +150,6 @@ plot::Punto SuperficieSchermo::puntoDelFoglio(QPointF posizione) const {
     return {mondo_.xmin + posizione.x() * rapporto_ / scalaX_,
             mondo_.ymax - posizione.y() * rapporto_ / scalaY_};
 }
-
-int SuperficieSchermo::spessoreMinimo() const { return std::max(1, static_cast<int>(rapporto_)); }
 
 double SuperficieSchermo::mezzoSpessoreCm() const {
     constexpr double pixelInPiu = 2;  // smoothing, and the ends of a line

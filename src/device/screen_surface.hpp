@@ -45,7 +45,6 @@ class SuperficieSchermo : public plot::SuperficieDisegno {
 
  private:
     [[nodiscard]] QPointF pixel(plot::Punto punto) const;
-    [[nodiscard]] int spessoreMinimo() const;  // a pixel of an ordinary screen
     [[nodiscard]] double mezzoSpessoreCm() const;
     void apriPittore();  // a drawing may go on after it was shown
     void tracciaLinee();

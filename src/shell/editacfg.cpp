@@ -57,6 +57,12 @@ QLineEdit* campoNumero(const char* nome, const QString& descrizione, QWidget* pa
     return campo;
 }
 
+// Makes a list as wide as its longest row needs.
+void mostraIntere(QListWidget& lista) {
+    constexpr int corniceEBarra = 40;
+    lista.setMinimumWidth(lista.sizeHintForColumn(0) + corniceEBarra);
+}
+
 QLabel* etichetta(const char* testo, QWidget* controllo) {
     auto* fatta = new QLabel(tradotto(testo));
     fatta->setBuddy(controllo);
@@ -94,19 +100,24 @@ QWidget* Editacfg::farePenne() {
     penne_->setAccessibleName(riquadro->title());
     for (int i = 1; i <= plot::numeroPenne; ++i)
         penne_->addItem(qTesto(modello_.configurazione().penne[i].etichetta));
-    // Labels are read to their end.
-    penne_->setMinimumWidth(penne_->sizeHintForColumn(0) + 40);
+    mostraIntere(*penne_);
     connect(penne_, &QListWidget::currentTextChanged, this, [this](const QString& testo) {
         modello_.scegliPenna(testoDi(testo),
                              [this](const plot::PennaConfigurata& penna) { mostraPenna(penna); });
     });
-    auto* colonna = new QVBoxLayout(riquadro);
-    colonna->addWidget(penne_);
+    spessore_ = campoNumero("Text1", tradotto("Spessore (mm)"), riquadro);
+    connect(spessore_, &QLineEdit::textChanged, this,
+            [this](const QString& testo) { modello_.cambiaSpessore(testoDi(testo)); });
+    auto* griglia = new QGridLayout(riquadro);
+    griglia->addWidget(penne_, 0, 0, 1, 2);
+    griglia->addWidget(etichetta("Spessore (mm)", spessore_), 1, 0);
+    griglia->addWidget(spessore_, 1, 1, Qt::AlignLeft);
+    griglia->setColumnStretch(1, 1);
     return riquadro;
 }
 
 QWidget* Editacfg::fareColori() {
-    auto* riquadro = new QGroupBox(this);
+    auto* riquadro = new QGroupBox(tradotto("Colori"), this);
     riquadro->setToolTip(tradotto("Doppio clic o F2 per cambiare il colore"));
     auto* colonna = new QVBoxLayout(riquadro);
     auto* gruppo = new QButtonGroup(riquadro);
@@ -139,11 +150,10 @@ void Editacfg::dipingiColore(int indice) {
 }
 
 QWidget* Editacfg::fareCaratteri() {
-    auto* riquadro = new QGroupBox(this);
-    spessore_ = campoNumero("Text1", tradotto("Spessore (mm)"), riquadro);
+    auto* riquadro = new QGroupBox(tradotto("Set di caratteri"), this);
     caratteri_ = new QListWidget(riquadro);
     caratteri_->setObjectName(QStringLiteral("List2"));
-    caratteri_->setAccessibleName(tradotto("Set di caratteri"));
+    caratteri_->setAccessibleName(riquadro->title());
     // The fonts of the machine, and those in the file: where one of these is missing, a drawing is
     // written in another of the same widths, and the pen must keep its font all the same.
     QStringList nomi = QFontDatabase::families();
@@ -152,17 +162,12 @@ QWidget* Editacfg::fareCaratteri() {
     nomi.removeDuplicates();
     nomi.sort(Qt::CaseInsensitive);
     caratteri_->addItems(nomi);
-    connect(spessore_, &QLineEdit::textChanged, this,
-            [this](const QString& testo) { modello_.cambiaSpessore(testoDi(testo)); });
+    mostraIntere(*caratteri_);
     connect(caratteri_, &QListWidget::currentItemChanged, this, [this](QListWidgetItem* scelto) {
         if (scelto != nullptr) modello_.cambiaCarattere(testoDi(scelto->text()));
     });
-    auto* griglia = new QGridLayout(riquadro);
-    griglia->addWidget(etichetta("Spessore (mm)", spessore_), 0, 0);
-    griglia->addWidget(spessore_, 0, 1, Qt::AlignLeft);
-    griglia->addWidget(etichetta("Set di caratteri", caratteri_), 1, 0, 1, 2);
-    griglia->addWidget(caratteri_, 2, 0, 1, 2);
-    griglia->setColumnStretch(1, 1);
+    auto* colonna = new QVBoxLayout(riquadro);
+    colonna->addWidget(caratteri_);
     return riquadro;
 }
 

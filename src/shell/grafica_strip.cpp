@@ -3,7 +3,6 @@
 #include <QFrame>
 #include <QGridLayout>
 #include <QToolButton>
-#include <string_view>
 
 #include "base/translated_texts.hpp"
 #include "device/text_painting.hpp"
@@ -29,11 +28,14 @@ constexpr const char* ingrandimento = "Ingrandimento di una sezione di immagine"
 }  // namespace
 
 struct GRAFICA::Pulsante {
+    enum Posto { sotto, nuovoGruppo, sopraIlPrecedente, inFondo };
+
     const char* nome;
     const char* suggerimento;  // Italian
     const char* icona;
     std::function<void()> azione;
-    bool inizioGruppo = false;
+    Posto posto = sotto;
+    bool conZoom = false;  // of use only while a zoom is in force
 };
 
 std::vector<GRAFICA::Pulsante> GRAFICA::pulsanti() {
@@ -42,11 +44,13 @@ std::vector<GRAFICA::Pulsante> GRAFICA::pulsanti() {
     };
     constexpr auto breve = PassoSpostamento::breve;
     constexpr auto lungo = PassoSpostamento::lungo;
+    using enum Pulsante::Posto;
     return {
         {"Picture1", ingrandimento, "ingrandisci", [this] { arma(); }},
+        {"Picture8", ingrandimento, "ingrandisci", [this] { disarma(); }, sopraIlPrecedente},
         {"Picture2", "Ritorno all'immagine a tutto schermo", "tutto", [this] { tutto(); }},
         {"Picture3", "Invio dell'immagine alla stampante", "stampa", [this] { stampa(false); },
-         true},
+         nuovoGruppo},
         {"Picture5",
          "Invio alla stampante dell'immagine ridotta alle dimensioni del foglio disponibile",
          "stampaAdattata", [this] { stampa(true); }},
@@ -54,22 +58,22 @@ std::vector<GRAFICA::Pulsante> GRAFICA::pulsanti() {
         {"Picture17", "Salvataggio dell'immagine in formato PDF, SVG o PNG", "esporta",
          [this] { esportaImmagine(); }},
         {"Picture9", "Spostamento a sinistra di 1/4 della finestra di zoom", "sinistra",
-         sposta(Direzione::sinistra, breve), true},
+         sposta(Direzione::sinistra, breve), nuovoGruppo, true},
         {"Picture10", "Spostamento a destra di 1/4 della finestra di zoom", "destra",
-         sposta(Direzione::destra, breve)},
+         sposta(Direzione::destra, breve), sotto, true},
         {"Picture11", "Spostamento in alto di 1/4 della finestra di zoom", "alto",
-         sposta(Direzione::alto, breve)},
+         sposta(Direzione::alto, breve), sotto, true},
         {"Picture12", "Spostamento in basso di 1/4 della finestra di zoom", "basso",
-         sposta(Direzione::basso, breve)},
+         sposta(Direzione::basso, breve), sotto, true},
         {"Picture13", "Spostamento a sinistra della finestra di zoom", "moltoSinistra",
-         sposta(Direzione::sinistra, lungo), true},
+         sposta(Direzione::sinistra, lungo), nuovoGruppo, true},
         {"Picture14", "Spostamento a destra della finestra di zoom", "moltoDestra",
-         sposta(Direzione::destra, lungo)},
+         sposta(Direzione::destra, lungo), sotto, true},
         {"Picture15", "Spostamento in alto della finestra di zoom", "moltoAlto",
-         sposta(Direzione::alto, lungo)},
+         sposta(Direzione::alto, lungo), sotto, true},
         {"Picture16", "Spostamento in basso della finestra di zoom", "moltoBasso",
-         sposta(Direzione::basso, lungo)},
-        {"Picture6", "Uscita dall'anteprima", "esci", [this] { close(); }, true},
+         sposta(Direzione::basso, lungo), sotto, true},
+        {"Picture6", "Uscita dall'anteprima", "esci", [this] { close(); }, inFondo},
     };
 }
 
@@ -95,29 +99,23 @@ QWidget* GRAFICA::fareStriscia() {
     auto* colonna = new QGridLayout(striscia);
     colonna->setContentsMargins(margine, margine, margine, margine);
     colonna->setVerticalSpacing(0);
-    int riga = 0;
+    int riga = -1;
     for (const Pulsante& pulsante : pulsanti()) {
-        if (pulsante.inizioGruppo) colonna->setRowMinimumHeight(riga++, distacco);
         QToolButton* fatto = farePulsante(pulsante, striscia);
-        const std::string_view nome = pulsante.nome;
-        if (nome == "Picture1") {
-            // Picture8 lies over it while a zoom is armed.
-            ingrandisci_ = fatto;
-            armato_ = farePulsante(
-                {"Picture8", ingrandimento, "ingrandisci", [this] { disarma(); }}, striscia);
-            armato_->setCheckable(true);
-            armato_->setChecked(true);
-            armato_->setAutoFillBackground(true);
-            armato_->hide();
-            colonna->addWidget(fatto, riga, 0);
-            colonna->addWidget(armato_, riga++, 0);
-            continue;
-        }
-        if (nome == "Picture6") colonna->setRowStretch(riga - 1, 1);
-        if (std::string_view(pulsante.suggerimento).starts_with("Spostamento"))
-            spostamenti_.push_back(fatto);
-        colonna->addWidget(fatto, riga++, 0);
+        if (pulsante.posto == Pulsante::nuovoGruppo) colonna->setRowMinimumHeight(++riga, distacco);
+        if (pulsante.posto == Pulsante::inFondo) colonna->setRowStretch(++riga, 1);
+        if (pulsante.posto == Pulsante::sopraIlPrecedente)
+            armato_ = fatto;
+        else
+            ++riga;
+        if (riga == 0 && armato_ == nullptr) ingrandisci_ = fatto;
+        if (pulsante.conZoom) spostamenti_.push_back(fatto);
+        colonna->addWidget(fatto, riga, 0);
     }
+    armato_->setCheckable(true);
+    armato_->setChecked(true);
+    armato_->setAutoFillBackground(true);
+    armato_->hide();
     return striscia;
 }
 

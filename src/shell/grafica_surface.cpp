@@ -31,6 +31,7 @@ void SuperficieGrafica::arma(bool armata) {
 
 void SuperficieGrafica::paintEvent(QPaintEvent*) {
     QPainter painter(this);
+    painter.fillRect(rect(), Qt::white);  // a picture of odd size leaves half a pixel
     painter.drawImage(QPointF(), disegno_.immagine());
     if (!trascinamento_) return;
     // Dark dashes on a light line: seen on every ground.

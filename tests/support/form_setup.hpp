@@ -9,7 +9,6 @@
 #include <QWidget>
 #include <cstdio>
 #include <cstdlib>
-#include <memory>
 #include <stdexcept>
 #include <string>
 
@@ -31,10 +30,11 @@ inline QApplication& applicazione() {
     static int argc = 3;
     static char programma[] = "korven32", opzione[] = "-platform", schermo[] = "offscreen";
     static char* argv[] = {programma, opzione, schermo, nullptr};
-    static const std::unique_ptr<QApplication> unica = [] {
+    // Never deleted: at the end of the process Qt itself is half gone.
+    static QApplication* const unica = [] {
         qInstallMessageHandler(taci);
         ::setenv("XDG_CONFIG_HOME", utente.percorso().c_str(), 1);
-        return std::make_unique<QApplication>(argc, argv);
+        return new QApplication(argc, argv);
     }();
     return *unica;
 }

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <map>
+#include <regex>
 #include <set>
 
 #include "base/code_page.hpp"
@@ -21,8 +22,8 @@ namespace {
 namespace fs = std::filesystem;
 using Texts = std::vector<std::string>;
 
-constexpr const char* folders[] = {"base",     "project", "plot",     "structure",
-                                   "analysis", "report",  "commands", "batch"};
+constexpr const char* folders[] = {"base",   "project",  "plot",  "structure", "analysis",
+                                   "report", "commands", "batch", "device",    "shell"};
 
 // Files whose literals are all none.
 const std::map<std::string, std::string> silentFiles = {
@@ -33,6 +34,9 @@ const std::map<std::string, std::string> silentFiles = {
     {"analysis/vector_lanes.hpp", "names of processors"},
     {"plot/dxf_tables.cpp", "words of the DXF format"},
     {"analysis/vector_lanes.cpp", "names of processors"},
+    {"device/drawing_fonts.cpp", "names of fonts"},
+    {"shell/form_sizes.cpp", "names of the user's settings"},
+    {"shell/grafica_icons.cpp", "drawings of icons and their names"},
 };
 
 // Names of files and of the system, symbols, what is typed on the command line.
@@ -99,10 +103,24 @@ const std::map<std::string, Texts> noTexts = {
       "korven32c:",
       ": korven32c --help\\n"}},
     {"commands/project_commands.cpp", {"txt"}},
+    {"device/drawing_files.cpp", {"KORVEN 32", "PNG"}},
+    {"device/graphics_session.cpp", {"korven32", "offscreen"}},
+    {"device/page_printer.cpp", {"KORVEN 32"}},
+    {"shell/conf_stampa.cpp", {"ConfStampa", "printer.cfg"}},
+    {"shell/editacfg.cpp", {"Editacfg"}},
+    {"shell/grafica.cpp", {"GRAFICA", "KORVEN 32 -"}},
+    {"shell/grafica_export.cpp",
+     {"PDF (*.pdf)", "pdf", "SVG (*.svg)", "svg", "PNG (*.png)", "png", "AutoCAD(*.DXF)", "DXF"}},
+    {"shell/grafica_strip.cpp",
+     {"striscia", "ingrandisci", "tutto", "stampa", "stampaAdattata", "dxf", "esporta", "sinistra",
+      "destra", "alto", "basso", "moltoSinistra", "moltoDestra", "moltoAlto", "moltoBasso",
+      "esci"}},
     {"plot/dxf_writer.cpp", {"LINE", "TEXT", "ENDSEC", "EOF"}},
     {"plot/plot_configuration.cpp", {"module06", ".cfg"}},
     {"plot/plot_dxf.cpp", {"MONOTXT", "dxf.cfg", ".DXF"}},
     {"plot/plot_print.cpp", {"forcecol", "overlap.cfg"}},
+    {"plot/print_setup.cpp", {"Courier New"}},
+    {"plot/print_setup.hpp", {"Courier New"}},
     {"plot/spill_files.cpp", {"korven32-XXXXXX", "plttmp", ".tmp", "windir"}},
     {"plot/text_width.cpp", {"courier", "mono"}},
     {"report/diagram_frame.cpp", {"[kN/m²]"}},
@@ -145,13 +163,20 @@ std::map<std::string, Texts> spokenLiterals() {
     return found;
 }
 
+// Controls of forms have names of their own: "Picture12".
+bool namesControl(const std::string& text) {
+    static const std::regex name("(Picture|Text|List|Command|Option|Frame)[0-9]+(_%1)?");
+    return std::regex_match(text, name);
+}
+
 bool listed(const Texts& texts, const std::string& text) {
     return std::find(texts.begin(), texts.end(), text) != texts.end();
 }
 
 bool isNoText(const std::string& file, const std::string& text) {
     const auto exempt = noTexts.find(file);
-    return silentFiles.contains(file) || (exempt != noTexts.end() && listed(exempt->second, text));
+    return silentFiles.contains(file) || namesControl(text) ||
+           (exempt != noTexts.end() && listed(exempt->second, text));
 }
 
 std::set<std::string> keys() {
