@@ -5,7 +5,8 @@
 #include <QPageLayout>
 #include <QPageSize>
 #include <QPrinter>
-#include <regex>
+#include <string>
+#include <string_view>
 
 #include "base/file_error.hpp"
 #include "device/graphics_session.hpp"
@@ -17,10 +18,13 @@
 namespace korven::device {
 namespace {
 
+// Pages of a PDF file: objects of that type, which "/Pages", their list, is not.
 int pagine(const std::string& pdf) {
-    static const std::regex pagina("/Type\\s*/Page\\b(?!s)");
-    return static_cast<int>(
-        std::distance(std::sregex_iterator(pdf.begin(), pdf.end(), pagina), {}));
+    constexpr std::string_view tipo = "/Type /Page";
+    int trovate = 0;
+    for (auto i = pdf.find(tipo); i != std::string::npos; i = pdf.find(tipo, i + 1))
+        if (pdf.compare(i + tipo.size(), 1, "s") != 0) ++trovate;
+    return trovate;
 }
 
 /// Prints into PDF files; a page of them has no margin, so that a sheet is an A4 page.

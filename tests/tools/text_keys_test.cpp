@@ -7,8 +7,8 @@
 #include <algorithm>
 #include <filesystem>
 #include <map>
-#include <regex>
 #include <set>
+#include <string_view>
 
 #include "base/code_page.hpp"
 #include "base/files.hpp"
@@ -165,8 +165,10 @@ std::map<std::string, Texts> spokenLiterals() {
 
 // Controls of forms have names of their own: "Picture12".
 bool namesControl(const std::string& text) {
-    static const std::regex name("(Picture|Text|List|Command|Option|Frame)[0-9]+(_%1)?");
-    return std::regex_match(text, name);
+    for (const std::string_view kind : {"Picture", "Text", "List", "Command", "Option", "Frame"})
+        if (text.starts_with(kind))
+            return text.find_first_not_of("0123456789_%", kind.size()) == std::string::npos;
+    return false;
 }
 
 bool listed(const Texts& texts, const std::string& text) {
