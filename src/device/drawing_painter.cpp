@@ -1,22 +1,12 @@
 #include "device/drawing_painter.hpp"
 
-#include <QColor>
 #include <QPen>
-#include <QString>
 #include <algorithm>
 
 #include "device/drawing_fonts.hpp"
-#include "plot/colour.hpp"
+#include "device/text_painting.hpp"
 
 namespace korven::device {
-
-namespace {
-
-QColor qColore(plot::Colore colore) {
-    return {plot::rosso(colore), plot::verde(colore), plot::blu(colore)};
-}
-
-}  // namespace
 
 PittoreDisegno::PittoreDisegno(QPainter& painter, const plot::Riquadro& vista, double pixelPerCm,
                                double pennaMinima)
@@ -68,22 +58,11 @@ void PittoreDisegno::tracciaSpezzata() {
 
 void PittoreDisegno::scrivi(const plot::TestoPlot& testo) {
     if (testo.testo.empty()) return;
-    QFont font = fontDisegno(testo.carattere);
-    const double corpo = corpoPerRiga(font, rigaPerAltezza * testo.altezza * pixelPerCm_);
-    const QString scritto = QString::fromUtf8(testo.testo.data(), qsizetype(testo.testo.size()));
-    double inizio = 0;
-    if (testo.conteggio == plot::conteggioCentrato)
-        inizio = -QFontMetricsF(font).horizontalAdvance(scritto) / 2;
-
-    // Written at the size for measuring and scaled: a size in whole pixels would round it.
-    painter_.save();
-    painter_.translate(punto(testo.x, testo.y));
-    painter_.rotate(-testo.angolo);
-    painter_.scale(corpo / font.pixelSize(), corpo / font.pixelSize());
-    painter_.setFont(font);
-    painter_.setPen(qColore(testo.colore));
-    painter_.drawText(QPointF(inizio, 0), scritto);
-    painter_.restore();
+    const QFont font = fontDisegno(testo.carattere);
+    dipingiTesto(painter_,
+                 {punto(testo.x, testo.y), font,
+                  corpoPerRiga(font, rigaPerAltezza * testo.altezza * pixelPerCm_), testo.angolo,
+                  testo.conteggio == plot::conteggioCentrato, testo.colore, testo.testo});
 }
 
 }  // namespace korven::device

@@ -5,7 +5,6 @@
 #include <QFontMetricsF>
 #include <QImage>
 #include <QString>
-#include <algorithm>
 #include <optional>
 
 #include "base/code_page.hpp"
@@ -14,6 +13,7 @@
 #include "device/graphics_session.hpp"
 #include "plot/plot_engine.hpp"
 #include "support/drawing_by_pen.hpp"
+#include "support/ink.hpp"
 
 namespace korven::device {
 namespace {
@@ -25,12 +25,7 @@ using plot::plotMuovi;
 
 constexpr int puntiPerPollice = 254;  // a hundred pixels to the centimetre
 
-/// Rows and columns of the pixels darker than mid grey.
-struct Macchia {
-    int sinistra = 1 << 20, sopra = 1 << 20, destra = -1, sotto = -1;
-    [[nodiscard]] int larghezza() const { return destra - sinistra + 1; }
-    [[nodiscard]] int altezza() const { return sotto - sopra + 1; }
-};
+using test::Macchia;
 
 class File : public test::ProvaPlot {
  protected:
@@ -46,17 +41,7 @@ class File : public test::ProvaPlot {
         scriviPng(cartella / "disegno.png", puntiPerPollice);
         return QImage(QString::fromStdString(cartella / "disegno.png"));
     }
-    [[nodiscard]] Macchia macchia() const {
-        const QImage foglio = immagine();
-        Macchia m;
-        for (int y = 0; y < foglio.height(); ++y)
-            for (int x = 0; x < foglio.width(); ++x) {
-                if (qGray(foglio.pixel(x, y)) > 127) continue;
-                m = {std::min(m.sinistra, x), std::min(m.sopra, y), std::max(m.destra, x),
-                     std::max(m.sotto, y)};
-            }
-        return m;
-    }
+    [[nodiscard]] Macchia macchia() const { return test::macchia(immagine()); }
 
     const SessioneGrafica sessione;
     const test::CartellaProvvisoria cartella;

@@ -117,7 +117,8 @@ const std::vector<std::vector<std::string>> menus = {
     {"Visualizza &Anteprima Tabulati", "Stampa &Rapida Tabulati",
      "&Esporta Tabulati in Formato DOC", "Esporta Tabulati in Formato &TXT"},
     {"&Sommario", "&Info"},
-    {"&Conferma", "&Annulla"}};
+    {"&Conferma", "&Annulla"},
+    {"&Imposta", "&Stampa", "&Annulla"}};
 
 std::string accessKey(const std::string& text) {
     const std::string_view behind = std::string_view(text).substr(text.find('&') + 1);

@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <map>
 #include <set>
+#include <string_view>
 
 #include "base/code_page.hpp"
 #include "base/files.hpp"
@@ -22,8 +23,8 @@ namespace fs = std::filesystem;
 using Texts = std::vector<std::string>;
 
 constexpr const char* folders[] = {"base",   "project",  "plot",  "structure", "analysis",
-                                   "report", "commands", "batch",    "outdoc",
-                                   "shell",  "desktop"};
+                                   "report", "commands", "device",   "batch",
+                                   "outdoc", "shell",    "desktop"};
 
 // Files whose literals are all none.
 const std::map<std::string, std::string> silentFiles = {
@@ -39,6 +40,9 @@ const std::map<std::string, std::string> silentFiles = {
     {"outdoc/document_parts.hpp", "names of styles"},
     {"outdoc/paragraph.cpp", "words of the file, a font"},
     {"analysis/vector_lanes.cpp", "names of processors"},
+    {"device/drawing_fonts.cpp", "names of fonts"},
+    {"shell/form_sizes.cpp", "names of the user's settings"},
+    {"shell/grafica_icons.cpp", "drawings of icons and their names"},
 };
 
 // Names of files and of the system, symbols, what is typed on the command line.
@@ -170,10 +174,24 @@ const std::map<std::string, Texts> noTexts = {
       "Français", "Español", "English", "Português", "selezling", "Select your language..."}},
     {"shell/temp_calc.cpp", {"TempCalc", "Command1"}},
     {"shell/wall_picture.cpp", {"KORVEN 32"}},
+    {"device/drawing_files.cpp", {"KORVEN 32", "PNG"}},
+    {"device/graphics_session.cpp", {"korven32", "offscreen"}},
+    {"device/page_printer.cpp", {"KORVEN 32"}},
+    {"shell/conf_stampa.cpp", {"ConfStampa", "printer.cfg"}},
+    {"shell/editacfg.cpp", {"Editacfg"}},
+    {"shell/grafica.cpp", {"GRAFICA", "KORVEN 32 -"}},
+    {"shell/grafica_export.cpp",
+     {"PDF (*.pdf)", "pdf", "SVG (*.svg)", "svg", "PNG (*.png)", "png", "AutoCAD(*.DXF)", "DXF"}},
+    {"shell/grafica_strip.cpp",
+     {"striscia", "ingrandisci", "tutto", "stampa", "stampaAdattata", "dxf", "esporta", "sinistra",
+      "destra", "alto", "basso", "moltoSinistra", "moltoDestra", "moltoAlto", "moltoBasso",
+      "esci"}},
     {"plot/dxf_writer.cpp", {"LINE", "TEXT", "ENDSEC", "EOF"}},
     {"plot/plot_configuration.cpp", {"module06", ".cfg"}},
     {"plot/plot_dxf.cpp", {"MONOTXT", "dxf.cfg", ".DXF"}},
     {"plot/plot_print.cpp", {"forcecol", "overlap.cfg"}},
+    {"plot/print_setup.cpp", {"Courier New"}},
+    {"plot/print_setup.hpp", {"Courier New"}},
     {"plot/spill_files.cpp", {"korven32-XXXXXX", "plttmp", ".tmp", "windir"}},
     {"plot/text_width.cpp",
      {"courier", "mono", "arial", "helvetica", "liberation sans", "courier new",
@@ -220,13 +238,22 @@ std::map<std::string, Texts> spokenLiterals() {
     return found;
 }
 
+// Controls of forms have names of their own: "Picture12".
+bool namesControl(const std::string& text) {
+    for (const std::string_view kind : {"Picture", "Text", "List", "Command", "Option", "Frame"})
+        if (text.starts_with(kind))
+            return text.find_first_not_of("0123456789_%", kind.size()) == std::string::npos;
+    return false;
+}
+
 bool listed(const Texts& texts, const std::string& text) {
     return std::find(texts.begin(), texts.end(), text) != texts.end();
 }
 
 bool isNoText(const std::string& file, const std::string& text) {
     const auto exempt = noTexts.find(file);
-    return silentFiles.contains(file) || (exempt != noTexts.end() && listed(exempt->second, text));
+    return silentFiles.contains(file) || namesControl(text) ||
+           (exempt != noTexts.end() && listed(exempt->second, text));
 }
 
 std::set<std::string> keys() {

@@ -1,0 +1,134 @@
+#include "device/page_printer.hpp"
+
+#include <QPageLayout>
+#include <QPen>
+#include <QPolygon>
+#include <QPrinter>
+
+#include "base/file_error.hpp"
+#include "base/translated_texts.hpp"
+#include "device/drawing_fonts.hpp"
+#include "device/text_painting.hpp"
+
+namespace korven::device {
+
+namespace {
+
+constexpr double millimetriPerCentimetro = 10;
+constexpr double twipPerPollice = 1440;
+constexpr double twipPerMillimetro = 56.7;  // 567 to the centimetre, as the measures of pages are
+constexpr int pianiAColori = 3;
+
+// The printer stands before the class that prints on it, and so lives longer.
+struct FilePdf {
+    FilePdf(const QString& percorso, const QPrinter& pagina) : stampante(QPrinter::HighResolution) {
+        stampante.setOutputFormat(QPrinter::PdfFormat);
+        stampante.setOutputFileName(percorso);
+        stampante.setCreator(QStringLiteral("KORVEN 32"));
+        stampante.setPageSize(pagina.pageLayout().pageSize());
+        stampante.setPageOrientation(pagina.pageLayout().orientation());
+    }
+    QPrinter stampante;
+};
+
+class StampantePdf : private FilePdf, public StampantePagine {
+ public:
+    StampantePdf(const QString& percorso, const QPrinter& pagina, const QString& titolo)
+        : FilePdf(percorso, pagina), StampantePagine(stampante, titolo) {}
+};
+
+}  // namespace
+
+plot::Foglio paginaStampante(const QPrinter& stampante) {
+    const QRectF pagina = stampante.pageLayout().fullRect(QPageLayout::Millimeter);
+    return {pagina.width() / millimetriPerCentimetro, pagina.height() / millimetriPerCentimetro};
+}
+
+StampantePagine::StampantePagine(QPrinter& stampante, const QString& titolo)
+    : stampante_(stampante), marginiDiPrima_(stampante.pageLayout().margins(QPageLayout::Point)) {
+    stampante_.setDocName(titolo);
+    stampante_.setFullPage(false);
+    QPageLayout pagina = stampante_.pageLayout();
+    pagina.setUnits(QPageLayout::Point);
+    stampante_.setPageMargins(pagina.minimumMargins(), QPageLayout::Point);
+}
+
+StampantePagine::~StampantePagine() {
+    if (pittore_.isActive()) {  // a job that an error cut short
+        stampante_.abort();
+        pittore_.end();
+    }
+    stampante_.setPageMargins(marginiDiPrima_, QPageLayout::Point);
+}
+
+plot::MisureStampante StampantePagine::misure() {
+    const QPageLayout pagina = stampante_.pageLayout();
+    const int dpi = stampante_.resolution();
+    const QRectF stampabile = pagina.paintRect(QPageLayout::Millimeter);
+    const QRect pixel = pagina.paintRectPixels(dpi);
+    const QRectF intera = pagina.fullRect(QPageLayout::Millimeter);
+    return {stampabile.width(),
+            stampabile.height(),
+            pixel.width(),
+            pixel.height(),
+            intera.width() * twipPerMillimetro,
+            intera.height() * twipPerMillimetro,
+            twipPerPollice / dpi,
+            stampante_.colorMode() == QPrinter::Color ? pianiAColori : 1};
+}
+
+void StampantePagine::iniziaPagina() {
+    const bool riuscita = pittore_.isActive() ? stampante_.newPage() : pittore_.begin(&stampante_);
+    if (!riuscita) fallita();
+    pittore_.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+}
+
+void StampantePagine::poligono(std::span<const plot::PuntoPagina> vertici, plot::Colore colore) {
+    QPolygon poligono;
+    for (const plot::PuntoPagina& v : vertici) poligono << QPoint(v.x, v.y);
+    pittore_.save();
+    pittore_.setPen(qColore(colore));
+    pittore_.setBrush(qColore(colore));
+    pittore_.drawPolygon(poligono);
+    pittore_.restore();
+}
+
+void StampantePagine::penna(plot::Colore colore, int spessore) {
+    pittore_.setPen(QPen(qColore(colore), spessore, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+}
+
+void StampantePagine::linea(plot::PuntoPagina da, plot::PuntoPagina a) {
+    pittore_.drawLine(da.x, da.y, a.x, a.y);
+}
+
+void StampantePagine::carattere(const plot::CaratterePagina& carattere) {
+    font_ = fontDisegno(carattere.carattere);
+    corpo_ = corpoPerRiga(font_, carattere.altezzaRiga);
+    constexpr double decimi = 10;
+    gradi_ = carattere.decimiDiGrado / decimi;
+}
+
+void StampantePagine::testo(plot::PuntoPagina punto, std::string_view testo, bool centrato,
+                            plot::Colore colore) {
+    dipingiTesto(pittore_,
+                 {QPointF(punto.x, punto.y), font_, corpo_, gradi_, centrato, colore, testo});
+}
+
+void StampantePagine::fineStampa() {
+    const bool riuscita = pittore_.end();
+    if (!riuscita || stampante_.printerState() == QPrinter::Error) fallita();
+}
+
+void StampantePagine::fallita() const {
+    const bool suFile = !stampante_.outputFileName().isEmpty();
+    throw base::ErroreFile(
+        (suFile ? stampante_.outputFileName() : stampante_.printerName()).toStdString(), 0,
+        base::traduttore("la stampa non e' riuscita"));
+}
+
+std::unique_ptr<plot::Stampante> stampanteSuPdf(const QString& percorso, const QPrinter& pagina,
+                                                const QString& titolo) {
+    return std::make_unique<StampantePdf>(percorso, pagina, titolo);
+}
+
+}  // namespace korven::device

@@ -1,0 +1,67 @@
+#include "plot/configuration_editor.hpp"
+
+#include <utility>
+
+#include "base/number_text.hpp"
+#include "plot/plot_engine.hpp"
+
+namespace korven::plot {
+
+namespace {
+
+double numeroScritto(std::string_view testo) { return base::leggiNumero(testo).value_or(0); }
+
+}  // namespace
+
+ModelloPenne::ModelloPenne(std::string percorso)
+    : percorso_(std::move(percorso)), configurazione_(leggiConfigurazione(percorso_)) {}
+
+void ModelloPenne::scegliPenna(std::string_view etichetta,
+                               const std::function<void(const PennaConfigurata&)>& mostra) {
+    const int numero = pennaConEtichetta(configurazione_, etichetta);
+    if (numero == 0) return;
+    etichetta_ = etichetta;
+    scelta_ = true;
+    mostrando_ = true;
+    mostra(configurazione_.penne[numero]);
+    mostrando_ = false;
+}
+
+PennaConfigurata* ModelloPenne::pennaDaCambiare() {
+    if (!scelta_ || mostrando_) return nullptr;
+    return &configurazione_.penne[pennaConEtichetta(configurazione_, etichetta_)];
+}
+
+void ModelloPenne::cambiaColore(int indice) {
+    if (auto* penna = pennaDaCambiare()) penna->colore = indice;
+}
+
+void ModelloPenne::cambiaSpessore(std::string_view testo) {
+    if (auto* penna = pennaDaCambiare()) penna->spessoreMm = numeroScritto(testo);
+}
+
+void ModelloPenne::cambiaCarattere(std::string_view nome) {
+    if (auto* penna = pennaDaCambiare()) penna->carattere = nome;
+}
+
+bool ModelloPenne::siPuoCambiareValore(int indice) const { return indice != 0 && !mostrando_; }
+
+bool ModelloPenne::cambiaValore(int indice, Colore valore) {
+    if (configurazione_.colori[indice].valore == valore) return false;
+    configurazione_.colori[indice].valore = valore;
+    return true;
+}
+
+void ModelloPenne::cambiaNome(int indice, std::string_view nome) {
+    configurazione_.colori[indice].nome = nome;
+}
+
+void ModelloPenne::conferma(std::string_view margineSinistro, std::string_view margineSuperiore) {
+    configurazione_.margineSinistro = numeroScritto(margineSinistro);
+    configurazione_.margineSuperiore = numeroScritto(margineSuperiore);
+    scriviConfigurazione(percorso_, configurazione_);
+    statoPlot.scostamentoX = configurazione_.margineSinistro;
+    statoPlot.scostamentoY = configurazione_.margineSuperiore;
+}
+
+}  // namespace korven::plot

@@ -1,0 +1,25 @@
+#include "shell/failure_box.hpp"
+
+#include <string>
+
+#include "base/file_error.hpp"
+#include "base/translated_texts.hpp"
+#include "base/value_error.hpp"
+
+namespace korven::shell {
+
+bool conAvviso(base::Dialogo& dialogo, const std::function<void()>& azione) {
+    std::string guasto;
+    try {
+        azione();
+        return true;
+    } catch (const base::ErroreFile& errore) {
+        guasto = errore.what();
+    } catch (const base::ErroreValore& errore) {
+        guasto = errore.what();
+    }
+    dialogo.messaggio(guasto, base::traduttore("ATTENZIONE") + "!", base::Icona::avviso);
+    return false;
+}
+
+}  // namespace korven::shell

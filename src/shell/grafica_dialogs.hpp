@@ -1,0 +1,27 @@
+#pragma once
+
+#include <functional>
+
+#include "shell/grafica_ports.hpp"
+
+class QPrinter;
+
+namespace korven::shell {
+
+/// The dialogs and the printer of the desktop.
+class PorteDesktop : public PorteGrafica {
+ public:
+    /// @param stampante  the printer of the program, as the printer set-up left it. Asked for when
+    ///                   it is needed, since looking for printers takes time.
+    explicit PorteDesktop(std::function<QPrinter&()> stampante);
+
+    std::optional<std::string> fileDaSalvare(const FileDaSalvare& richiesta) override;
+    plot::Foglio foglioStampante() override;
+    /// Where there is no printer the pages go to a PDF file that the user names.
+    std::unique_ptr<plot::Stampante> stampante(const std::string& titolo) override;
+
+ private:
+    std::function<QPrinter&()> stampante_;
+};
+
+}  // namespace korven::shell

@@ -1,0 +1,55 @@
+#include "shell/grafica_export.hpp"
+
+#include "base/code_page.hpp"
+#include "base/translated_texts.hpp"
+#include "device/drawing_files.hpp"
+#include "plot/plot_dxf.hpp"
+#include "project/project_data.hpp"
+
+namespace korven::shell {
+
+namespace {
+
+const TipoFile pdf{"PDF (*.pdf)", "pdf"};
+
+// The name of the DXF file with another extension.
+std::string nomeDisegno(std::string_view estensione) {
+    const std::string dxf = plot::nomeDxf(project::fileCorrente);
+    return dxf.substr(0, dxf.rfind('.') + 1).append(estensione);
+}
+
+std::string estensione(const std::string& percorso) {
+    return base::minuscolo(percorso.substr(percorso.find_last_of("./") + 1));
+}
+
+}  // namespace
+
+FileDaSalvare richiestaDxf() {
+    return {base::traduttore("Esportazione dell'immagine in formato DXF"),
+            plot::nomeDxf(project::fileCorrente),
+            {{"AutoCAD(*.DXF)", "DXF"}},
+            false};
+}
+
+FileDaSalvare richiestaImmagine() {
+    return {base::traduttore("Salvataggio dell'immagine in formato PDF, SVG o PNG"),
+            nomeDisegno(pdf.estensione),
+            {pdf, {"SVG (*.svg)", "svg"}, {"PNG (*.png)", "png"}}};
+}
+
+FileDaSalvare richiestaPdf() {
+    return {
+        base::traduttore("Invio dell'immagine alla stampante"), nomeDisegno(pdf.estensione), {pdf}};
+}
+
+void scriviImmagine(const std::string& percorso) {
+    const std::string tipo = estensione(percorso);
+    if (tipo == "svg")
+        device::scriviSvg(percorso);
+    else if (tipo == "png")
+        device::scriviPng(percorso, device::risoluzionePredefinita);
+    else
+        device::scriviPdf(percorso);
+}
+
+}  // namespace korven::shell

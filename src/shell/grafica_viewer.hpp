@@ -1,0 +1,42 @@
+#pragma once
+
+#include <memory>
+
+#include "base/dialogo.hpp"
+#include "device/drawing_fonts.hpp"
+#include "device/screen_surface.hpp"
+#include "shell/grafica.hpp"
+#include "shell/grafica_ports.hpp"
+
+class QWidget;
+
+namespace korven::shell {
+
+/// The viewer of the program. While it lives every drawing appears on the form `GRAFICA`, which is
+/// made by the first one; while that form stands the main form is disabled, and its closing brings
+/// the main form back.
+class VisoreDisegni {
+ public:
+    /// All three are not owned and must outlive the viewer.
+    VisoreDisegni(QWidget& principale, PorteGrafica& porte, base::Dialogo& dialogo);
+    VisoreDisegni(const VisoreDisegni&) = delete;
+    VisoreDisegni& operator=(const VisoreDisegni&) = delete;
+    ~VisoreDisegni();
+
+    /// The form; nullptr as long as nothing was drawn. It is hidden when it was closed.
+    [[nodiscard]] GRAFICA* forma() { return forma_.get(); }
+    [[nodiscard]] const QImage& immagine() const { return superficie_.immagine(); }
+
+ private:
+    plot::SpazioDisegno apri();
+    void chiusa();
+
+    QWidget& principale_;
+    PorteGrafica& porte_;
+    base::Dialogo& dialogo_;
+    const device::MetricaQt metrica_;
+    device::SuperficieSchermo superficie_;
+    std::unique_ptr<GRAFICA> forma_;
+};
+
+}  // namespace korven::shell
