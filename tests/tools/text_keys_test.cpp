@@ -22,9 +22,9 @@ namespace {
 namespace fs = std::filesystem;
 using Texts = std::vector<std::string>;
 
-constexpr const char* folders[] = {"base",   "project",  "plot",  "structure", "analysis",
-                                   "report", "commands", "device",   "batch",
-                                   "outdoc", "shell",    "desktop"};
+constexpr const char* folders[] = {"base",     "project", "plot",     "structure",
+                                   "analysis", "report",  "commands", "device",
+                                   "batch",    "outdoc",  "shell",    "desktop"};
 
 // Files whose literals are all none.
 const std::map<std::string, std::string> silentFiles = {
