@@ -28,7 +28,12 @@ plot::SpazioDisegno VisoreDisegni::apri() {
     return forma_->apri();
 }
 
+void VisoreDisegni::attendi() {
+    if (forma_ && forma_->isVisible()) attesa_.exec();
+}
+
 void VisoreDisegni::chiusa() {
+    attesa_.quit();
     principale_.setEnabled(true);
     principale_.show();
     principale_.activateWindow();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QEventLoop>
 #include <memory>
 
 #include "base/dialogo.hpp"
@@ -23,6 +24,9 @@ class VisoreDisegni {
     VisoreDisegni& operator=(const VisoreDisegni&) = delete;
     ~VisoreDisegni();
 
+    /// Returns when the form has been closed; at once when it does not stand.
+    void attendi();
+
     /// The form; nullptr as long as nothing was drawn. It is hidden when it was closed.
     [[nodiscard]] GRAFICA* forma() { return forma_.get(); }
     [[nodiscard]] const QImage& immagine() const { return superficie_.immagine(); }
@@ -37,6 +41,7 @@ class VisoreDisegni {
     const device::MetricaQt metrica_;
     device::SuperficieSchermo superficie_;
     std::unique_ptr<GRAFICA> forma_;
+    QEventLoop attesa_;
 };
 
 }  // namespace korven::shell

@@ -2,7 +2,7 @@
 
 #include "shell/grafica.hpp"
 
-#include <QDir>
+#include <QTimer>
 #include <QToolButton>
 #include <map>
 
@@ -33,6 +33,15 @@ TEST_F(Visore, BringsTheMainFormBackWhenItIsClosed) {
     disegna();
     EXPECT_TRUE(forma().isVisible()) << "the next drawing opens it again";
     EXPECT_FALSE(principale.isEnabled());
+}
+
+TEST_F(Visore, LetsACommandWaitUntilItIsClosed) {
+    visore->attendi();  // nothing stands: at once
+    disegna();
+    QTimer::singleShot(20, &forma(), [this] { tasto('U'); });
+    visore->attendi();
+    EXPECT_FALSE(forma().isVisible());
+    EXPECT_TRUE(principale.isEnabled());
 }
 
 TEST_F(Visore, HasTheToolTipOfEachButtonAsItsNameForThoseWhoCannotSee) {

@@ -32,6 +32,7 @@ inline QApplication& applicazione() {
     static char* argv[] = {programma, opzione, schermo, nullptr};
     // Never deleted: at the end of the process Qt itself is half gone.
     static QApplication* const unica = [] {
+        if (qApp != nullptr) return qApp;
         qInstallMessageHandler(taci);
         ::setenv("XDG_CONFIG_HOME", utente.percorso().c_str(), 1);
         return new QApplication(argc, argv);
