@@ -2,6 +2,7 @@
 
 #include "base/dialogo.hpp"
 #include "commands/program_forms.hpp"
+#include "project/mask_values.hpp"
 
 namespace korven::commands {
 
@@ -11,6 +12,7 @@ namespace korven::commands {
 /// no part of the project and modifies nothing.
 /// @pre one of the six editing commands, whose form is plugged in
 /// @throws base::ErroreIndice if a table with more rows than it can hold was confirmed
-void edita(Comando comando, base::Dialogo& dialogo, const FormeProgramma& forme);
+void edita(Comando comando, base::Dialogo& dialogo, project::Maschere& maschere,
+           const FormeProgramma& forme);
 
 }  // namespace korven::commands

@@ -33,7 +33,7 @@ bool Programma::esegui(Comando comando) {
         case editTiranti:
         case editFasi:
         case editTitoli:
-            edita(comando, dialogo_, forme_);
+            edita(comando, dialogo_, maschere_, forme_);
             break;
         case configura:
             forme_.editacfg();

@@ -12,9 +12,10 @@ class Programma {
  public:
     /// The ports must outlive the program.
     Programma(base::Dialogo& dialogo, DialogoFile& nomi, FinestraPrincipale& finestra,
-              analysis::Avanzamento& avanzamento, FormeProgramma forme)
+              analysis::Avanzamento& avanzamento, project::Maschere& maschere, FormeProgramma forme)
         : dialogo_(dialogo),
           avanzamento_(avanzamento),
+          maschere_(maschere),
           forme_(std::move(forme)),
           documento_(dialogo, nomi, finestra) {}
 
@@ -32,6 +33,7 @@ class Programma {
  private:
     base::Dialogo& dialogo_;
     analysis::Avanzamento& avanzamento_;
+    project::Maschere& maschere_;
     FormeProgramma forme_;
     Documento documento_;
 };

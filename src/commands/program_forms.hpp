@@ -1,32 +1,20 @@
 #pragma once
 
 #include <functional>
-#include <optional>
 #include <string>
-#include <vector>
 
 #include "commands/menu_tree.hpp"
+#include "project/mask_values.hpp"
 
 namespace korven::commands {
-
-/// Numbers of the masks, by their place in the list of mask files.
-enum Maschera {
-    mascheraTitoli = 1,
-    mascheraParatia,
-    mascheraStrati,
-    mascheraTiranti,
-    mascheraFasi
-};
 
 /// The forms and devices behind the menu commands, each plugged in by `main` where the program has
 /// it. A form is modal: the call returns when it is closed. A command whose form is missing can't
 /// be chosen (`haForma`).
 struct FormeProgramma {
-    using Testi = std::vector<std::string>;
-
-    /// Shows the form of a mask, a field form or a grid, with these texts (edited_values.hpp).
-    /// Returns the texts as confirmed, nothing when the form was left without.
-    std::function<std::optional<Testi>(int maschera, const Testi& testi)> maschera;
+    /// Shows the form of the current mask, a field form or a grid, with its values; hands what was
+    /// confirmed back to it, and nothing when the form was left without.
+    std::function<void(project::Maschere&)> maschera;
     /// The section form `DefinEJ`, which takes its values into `Progetto` and sets `modificato`.
     std::function<void()> sezione;
     /// The viewer `GRAFICA` of the drawing in the plot store.

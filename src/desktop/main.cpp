@@ -59,15 +59,16 @@ int sessione(shell::Applicazione& applicazione, shell::DialogoQt& dialogo,
     dialogo.sopra(&finestra);
     nomi.sopra(&finestra);
     avanzamento.sopra(&finestra);
-    commands::Programma programma(dialogo, nomi, finestra, avanzamento, forme(finestra));
+    project::Maschere maschere;
+    commands::Programma programma(dialogo, nomi, finestra, avanzamento, maschere, forme(finestra));
     finestra.collega(programma);
     QObject::connect(&applicazione, &QGuiApplication::commitDataRequest, &finestra,
                      &shell::Menu1::fineSessione, Qt::DirectConnection);
     finestra.show();
     QTimer::singleShot(0, &finestra, [&] {
-        commands::avvia(
-            argomento, programma.documento(),
-            {.leggiMaschere = {}, .saluta = [&] { finestra.esegui(commands::Comando::about); }});
+        commands::avvia(argomento, programma.documento(),
+                        {.leggiMaschere = [&] { maschere.leggiMaschereProgramma(); },
+                         .saluta = [&] { finestra.esegui(commands::Comando::about); }});
     });
     return applicazione.gira();
 }

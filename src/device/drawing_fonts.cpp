@@ -8,6 +8,8 @@
 #include <string>
 #include <utility>
 
+#include "device/qt_text.hpp"
+
 namespace korven::device {
 
 namespace {
@@ -21,7 +23,7 @@ QString famiglia(std::string_view carattere) {
         {"Courier New", "Liberation Mono"},
         {"Times New Roman", "Liberation Serif"},
     }};
-    const QString voluta = QString::fromUtf8(carattere.data(), qsizetype(carattere.size()));
+    const QString voluta = qt(carattere);
     if (QFontDatabase::hasFamily(voluta)) return voluta;
     for (const auto& [nome, sostituto] : sostituti)
         if (voluta.compare(nome, Qt::CaseInsensitive) == 0) return sostituto;
@@ -56,7 +58,7 @@ double MetricaQt::larghezza(std::string_view carattere, double altezza,
     if (plot::MetricaStimata::conosce(carattere))
         return plot::MetricaStimata().larghezza(carattere, altezza, testo);
     const QFont font = fontDisegno(carattere);
-    const QString scritto = QString::fromUtf8(testo.data(), qsizetype(testo.size()));
+    const QString scritto = qt(testo);
     return QFontMetricsF(font).horizontalAdvance(scritto) / font.pixelSize() *
            corpoPerRiga(font, rigaPerAltezza * altezza);
 }

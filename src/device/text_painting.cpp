@@ -2,18 +2,16 @@
 
 #include <QFontMetricsF>
 
+#include "device/qt_text.hpp"
+
 namespace korven::device {
 
 QColor qColore(plot::Colore colore) {
     return {plot::rosso(colore), plot::verde(colore), plot::blu(colore)};
 }
 
-QString qTesto(std::string_view testo) {
-    return QString::fromUtf8(testo.data(), static_cast<qsizetype>(testo.size()));
-}
-
 void dipingiTesto(QPainter& painter, const TestoDaDipingere& testo) {
-    const QString scritto = qTesto(testo.testo);
+    const QString scritto = qt(testo.testo);
     double inizio = 0;
     if (testo.centrato) inizio = -QFontMetricsF(testo.font).horizontalAdvance(scritto) / 2;
 

@@ -13,8 +13,6 @@ namespace korven::device {
 /// Colour of a drawing as Qt has it.
 [[nodiscard]] QColor qColore(plot::Colore colore);
 
-[[nodiscard]] QString qTesto(std::string_view testo);
-
 /// A text of a drawing as a device is to write it.
 struct TestoDaDipingere {
     QPointF punto;  ///< on the base line [units of the painter]

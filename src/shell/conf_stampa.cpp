@@ -16,10 +16,9 @@
 #include "device/text_painting.hpp"
 #include "shell/failure_box.hpp"
 #include "shell/form_sizes.hpp"
+#include "shell/qt_text.hpp"
 
 namespace korven::shell {
-
-using device::qTesto;
 
 namespace {
 
@@ -42,8 +41,6 @@ constexpr Campo campi[] = {
     {"Text8", "Offset superiore (righe)", Campo::numero},
 };
 constexpr std::size_t campoCarattere = 7;
-
-QString tradotto(const char* testo) { return qTesto(base::traduttore(testo)); }
 
 std::string file() { return base::fileProgramma("printer.cfg"); }
 
@@ -116,7 +113,7 @@ QWidget* ConfStampa::farePulsanti() {
 void ConfStampa::mostra(const QStringList& caratteri) {
     const plot::CampiStampa valori = plot::campiStampa(plot::leggiImpostazioni(file()));
     for (std::size_t i = 0; i < campi_.size(); ++i)
-        if (campi_[i] != nullptr) campi_[i]->setText(qTesto(valori[i]));
+        if (campi_[i] != nullptr) campi_[i]->setText(qt(valori[i]));
     caratteri_->addItems(caratteri);
     std::vector<std::string> nomi;
     for (const QString& nome : caratteri) nomi.push_back(nome.toStdString());

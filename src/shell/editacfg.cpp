@@ -22,16 +22,13 @@
 #include "device/text_painting.hpp"
 #include "shell/failure_box.hpp"
 #include "shell/form_sizes.hpp"
+#include "shell/qt_text.hpp"
 
 namespace korven::shell {
-
-using device::qTesto;
 
 namespace {
 
 constexpr QSize campione(28, 14);  // of a colour beside its name [pixels]
-
-QString tradotto(const char* testo) { return qTesto(base::traduttore(testo)); }
 
 std::string testoDi(const QString& testo) { return testo.toStdString(); }
 
@@ -99,7 +96,7 @@ QWidget* Editacfg::farePenne() {
     penne_->setObjectName(QStringLiteral("List1"));
     penne_->setAccessibleName(riquadro->title());
     for (int i = 1; i <= plot::numeroPenne; ++i)
-        penne_->addItem(qTesto(modello_.configurazione().penne[i].etichetta));
+        penne_->addItem(qt(modello_.configurazione().penne[i].etichetta));
     mostraIntere(*penne_);
     connect(penne_, &QListWidget::currentTextChanged, this, [this](const QString& testo) {
         modello_.scegliPenna(testoDi(testo),
@@ -145,7 +142,7 @@ void Editacfg::dipingiColore(int indice) {
     }
     const plot::ColoreConfigurato& colore = modello_.configurazione().colori[indice];
     // In a name "&" is a letter, in a caption it marks the access key.
-    opzione->setText(qTesto(colore.nome).replace(QLatin1Char('&'), QLatin1String("&&")));
+    opzione->setText(qt(colore.nome).replace(QLatin1Char('&'), QLatin1String("&&")));
     opzione->setIcon(iconaColore(colore.valore, *this));
 }
 
@@ -158,7 +155,7 @@ QWidget* Editacfg::fareCaratteri() {
     // written in another of the same widths, and the pen must keep its font all the same.
     QStringList nomi = QFontDatabase::families();
     for (int i = 1; i <= plot::numeroPenne; ++i)
-        nomi << qTesto(modello_.configurazione().penne[i].carattere);
+        nomi << qt(modello_.configurazione().penne[i].carattere);
     nomi.removeDuplicates();
     nomi.sort(Qt::CaseInsensitive);
     caratteri_->addItems(nomi);
@@ -176,8 +173,8 @@ QWidget* Editacfg::fareMargini() {
     riquadro->setObjectName(QStringLiteral("Frame2"));
     sinistro_ = campoNumero("Text2", tradotto("Sinistro"), riquadro);
     superiore_ = campoNumero("Text3", tradotto("Superiore"), riquadro);
-    sinistro_->setText(qTesto(base::testoNumero(modello_.configurazione().margineSinistro)));
-    superiore_->setText(qTesto(base::testoNumero(modello_.configurazione().margineSuperiore)));
+    sinistro_->setText(qt(base::testoNumero(modello_.configurazione().margineSinistro)));
+    superiore_->setText(qt(base::testoNumero(modello_.configurazione().margineSuperiore)));
     auto* griglia = new QGridLayout(riquadro);
     griglia->addWidget(etichetta("Sinistro", sinistro_), 0, 0);
     griglia->addWidget(sinistro_, 0, 1, Qt::AlignLeft);
@@ -206,8 +203,8 @@ QWidget* Editacfg::farePulsanti() {
 
 void Editacfg::mostraPenna(const plot::PennaConfigurata& penna) {
     colori_[static_cast<std::size_t>(penna.colore)]->setChecked(true);
-    spessore_->setText(qTesto(base::testoNumero(penna.spessoreMm)));
-    const auto trovati = caratteri_->findItems(qTesto(penna.carattere), Qt::MatchExactly);
+    spessore_->setText(qt(base::testoNumero(penna.spessoreMm)));
+    const auto trovati = caratteri_->findItems(qt(penna.carattere), Qt::MatchExactly);
     caratteri_->setCurrentItem(trovati.isEmpty() ? nullptr : trovati.front());
     if (!trovati.isEmpty()) caratteri_->scrollToItem(trovati.front());
 }

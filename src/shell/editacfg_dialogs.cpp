@@ -4,10 +4,9 @@
 
 #include "device/text_painting.hpp"
 #include "shell/editacfg.hpp"
+#include "shell/qt_text.hpp"
 
 namespace korven::shell {
-
-using device::qTesto;
 
 std::optional<plot::Colore> DialoghiEditacfg::scegliColore(QWidget* padre, plot::Colore presente) {
     const QColor scelto = QColorDialog::getColor(device::qColore(presente), padre);
@@ -19,8 +18,8 @@ std::optional<std::string> DialoghiEditacfg::chiediTesto(QWidget* padre, const s
                                                          const std::string& domanda,
                                                          const std::string& proposta) {
     bool dato = false;
-    const QString testo = QInputDialog::getText(padre, qTesto(titolo), qTesto(domanda),
-                                                QLineEdit::Normal, qTesto(proposta), &dato);
+    const QString testo = QInputDialog::getText(padre, qt(titolo), qt(domanda), QLineEdit::Normal,
+                                                qt(proposta), &dato);
     if (!dato) return {};
     return testo.toStdString();
 }

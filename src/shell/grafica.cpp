@@ -21,6 +21,7 @@
 #include "shell/form_sizes.hpp"
 #include "shell/grafica_export.hpp"
 #include "shell/grafica_icons.hpp"
+#include "shell/qt_text.hpp"
 
 namespace korven::shell {
 
@@ -57,7 +58,7 @@ GRAFICA::GRAFICA(device::SuperficieSchermo& disegno, PorteGrafica& porte, base::
 
 plot::SpazioDisegno GRAFICA::apri() {
     setWindowTitle(QStringLiteral("KORVEN 32 - ") +
-                   QFileInfo(device::qTesto(project::fileCorrente)).fileName());
+                   QFileInfo(qt(project::fileCorrente)).fileName());
     if (!isVisible()) {
         if (!ripristinaMisure(*this)) {
             // Most sheets stand upright.

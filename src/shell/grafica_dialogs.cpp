@@ -13,16 +13,15 @@
 #include "device/text_painting.hpp"
 #include "project/project_data.hpp"
 #include "shell/grafica_export.hpp"
+#include "shell/qt_text.hpp"
 
 namespace korven::shell {
-
-using device::qTesto;
 
 namespace {
 
 QString cartellaProgetto() {
     if (project::fileCorrente.empty()) return QDir::currentPath();
-    return QFileInfo(qTesto(project::fileCorrente)).absolutePath();
+    return QFileInfo(qt(project::fileCorrente)).absolutePath();
 }
 
 bool vaSuFile(const QPrinter& stampante) { return !stampante.outputFileName().isEmpty(); }
@@ -33,21 +32,20 @@ PorteDesktop::PorteDesktop(std::function<QPrinter&()> stampante)
     : stampante_(std::move(stampante)) {}
 
 std::optional<std::string> PorteDesktop::fileDaSalvare(const FileDaSalvare& richiesta) {
-    QFileDialog dialogo(QApplication::activeWindow(), qTesto(richiesta.titolo), cartellaProgetto());
+    QFileDialog dialogo(QApplication::activeWindow(), qt(richiesta.titolo), cartellaProgetto());
     dialogo.setAcceptMode(QFileDialog::AcceptSave);
     dialogo.setFileMode(QFileDialog::AnyFile);
     if (!richiesta.chiediSovrascrittura) dialogo.setOption(QFileDialog::DontConfirmOverwrite);
     QStringList filtri;
-    for (const TipoFile& tipo : richiesta.tipi) filtri << qTesto(tipo.nome);
+    for (const TipoFile& tipo : richiesta.tipi) filtri << qt(tipo.nome);
     dialogo.setNameFilters(filtri);
     const auto seguiFiltro = [&](const QString& filtro) {
         const auto indice = std::max<qsizetype>(filtri.indexOf(filtro), 0);
-        dialogo.setDefaultSuffix(
-            qTesto(richiesta.tipi[static_cast<std::size_t>(indice)].estensione));
+        dialogo.setDefaultSuffix(qt(richiesta.tipi[static_cast<std::size_t>(indice)].estensione));
     };
     QObject::connect(&dialogo, &QFileDialog::filterSelected, &dialogo, seguiFiltro);
     seguiFiltro(filtri.front());
-    dialogo.selectFile(qTesto(richiesta.nome));
+    dialogo.selectFile(qt(richiesta.nome));
     if (dialogo.exec() != QDialog::Accepted) return {};
     return QDir::cleanPath(dialogo.selectedFiles().front()).toStdString();
 }
@@ -57,10 +55,10 @@ plot::Foglio PorteDesktop::foglioStampante() { return device::paginaStampante(st
 std::unique_ptr<plot::Stampante> PorteDesktop::stampante(const std::string& titolo) {
     QPrinter& stampante = stampante_();
     if (vaSuFile(stampante) || !QPrinterInfo::availablePrinterNames().isEmpty())
-        return std::make_unique<device::StampantePagine>(stampante, qTesto(titolo));
+        return std::make_unique<device::StampantePagine>(stampante, qt(titolo));
     const auto percorso = fileDaSalvare(richiestaPdf());
     if (!percorso) return nullptr;
-    return device::stampanteSuPdf(qTesto(*percorso), stampante, qTesto(titolo));
+    return device::stampanteSuPdf(qt(*percorso), stampante, qt(titolo));
 }
 
 }  // namespace korven::shell

@@ -11,6 +11,7 @@
 #include "shell/failure_box.hpp"
 #include "shell/grafica.hpp"
 #include "shell/grafica_icons.hpp"
+#include "shell/qt_text.hpp"
 
 namespace korven::shell {
 
@@ -79,7 +80,7 @@ std::vector<GRAFICA::Pulsante> GRAFICA::pulsanti() {
 
 QToolButton* GRAFICA::farePulsante(const Pulsante& pulsante, QWidget* padre) {
     auto* fatto = new QToolButton(padre);
-    const QString suggerimento = device::qTesto(base::traduttore(pulsante.suggerimento));
+    const QString suggerimento = qt(base::traduttore(pulsante.suggerimento));
     fatto->setObjectName(QLatin1String(pulsante.nome));
     fatto->setToolTip(suggerimento);
     fatto->setAccessibleName(suggerimento);

@@ -1,21 +1,10 @@
 #pragma once
 
-#include <QString>
-#include <string>
-#include <string_view>
-
-#include "base/translated_texts.hpp"
+#include "device/qt_text.hpp"
 
 namespace korven::shell {
 
-/// The text of a program whose texts are UTF-8, for Qt.
-[[nodiscard]] inline QString qt(std::string_view testo) {
-    return QString::fromUtf8(testo.data(), static_cast<qsizetype>(testo.size()));
-}
-
-/// A text of the table of texts, to be shown.
-[[nodiscard]] inline QString tradotto(std::string_view chiave) {
-    return qt(base::traduttore(chiave));
-}
+using device::qt;
+using device::tradotto;
 
 }  // namespace korven::shell

@@ -3,9 +3,9 @@
 #include <gtest/gtest.h>
 
 #include "base/table.hpp"
-#include "commands/edited_values.hpp"
 #include "project/edited_tables.hpp"
 #include "support/document_ports.hpp"
+#include "support/plain_masks.hpp"
 #include "support/sample_projects.hpp"
 
 namespace korven::commands {
@@ -18,21 +18,29 @@ using Testi = std::vector<std::string>;
 class Edita : public ::testing::Test {
  protected:
     Edita() {
-        forme.maschera = [this](int maschera, const Testi& testi) {
-            maschere.push_back(maschera);
-            mostrati = testi;
-            return confermati;
-        };
+        maschere.leggiMaschere(test::maschereSemplici(cartella));
+        forme.maschera = [this](project::Maschere& tutte) { mostra(tutte); };
         forme.sezione = [this] { ++sezioni; };
         Progetto = test::progettoSemplice();
         project::fileCorrente = "/lavori/muro.kvd";
     }
-    void esegui(Comando comando) { edita(comando, dialogo, forme); }
+    void esegui(Comando comando) { edita(comando, dialogo, maschere, forme); }
+    // The form: notes what it was given and hands back what the test says, choices kept.
+    void mostra(project::Maschere& tutte) {
+        titoli.push_back(tutte.corrente().titolo);
+        const auto quanti = tutte.valoriCombo().size() + tutte.valoriTesto().size();
+        mostrati.clear();
+        for (std::size_t i = 1; i <= quanti; ++i)
+            mostrati.push_back(tutte.leggiCampo(static_cast<int>(i)));
+        if (confermati) tutte.conferma(tutte.valoriCombo(), *confermati);
+    }
 
     test::AmbienteDocumento ambiente;
     test::DialogoFinto dialogo;
     FormeProgramma forme;
-    std::vector<int> maschere;
+    test::CartellaProvvisoria cartella;
+    project::Maschere maschere;
+    std::vector<std::string> titoli;  // of the forms shown
     Testi mostrati;
     std::optional<Testi> confermati;
     int sezioni = 0;
@@ -56,7 +64,7 @@ TEST_F(Edita, RefusesEachEditorWithoutAProjectInItsOwnWords) {
                   std::string("Non e' possibile ") + parole + " di aver aperto un file.");
         EXPECT_EQ(dialogo.messaggi[0].titolo, "ATTENZIONE!");
     }
-    EXPECT_TRUE(maschere.empty());
+    EXPECT_TRUE(titoli.empty());
     EXPECT_EQ(sezioni, 0);
 }
 
@@ -64,10 +72,10 @@ TEST_F(Edita, ShowsTheMaskOfEachEditor) {
     for (const auto comando : {Comando::editTitoli, Comando::editParatia, Comando::editStratigrafia,
                                Comando::editTiranti, Comando::editFasi})
         esegui(comando);
-    EXPECT_EQ(maschere, (std::vector<int>{1, 2, 3, 4, 5}));
+    EXPECT_EQ(titoli, (Testi{"T", "D", "S", "A", "F"}));
     esegui(Comando::editRigidezza);
     EXPECT_EQ(sezioni, 1);
-    EXPECT_EQ(maschere.size(), 5u);
+    EXPECT_EQ(titoli.size(), 5u);
 }
 
 TEST_F(Edita, LeavesTheProjectAloneWhenTheFormIsLeftWithoutConfirming) {
@@ -103,19 +111,20 @@ TEST_F(Edita, ShowsTheEighteenWallParametersInTheirOrder) {
 }
 
 TEST_F(Edita, CountsAConfirmedTableAsModifiedAndAnUnchangedFieldFormNot) {
-    confermati = testiParatia(Progetto);
+    const auto paratia = project::testiParatia(Progetto);
+    confermati = Testi(paratia.begin() + 7, paratia.end());  // the seven choices stay apart
     esegui(Comando::editParatia);
     EXPECT_FALSE(modificato);
-    confermati = testiStrati(Progetto);
+    confermati = project::testiStrati(Progetto);
     esegui(Comando::editStratigrafia);
     EXPECT_TRUE(modificato);
     EXPECT_EQ(Progetto, test::progettoSemplice());
 }
 
 TEST_F(Edita, TakesBackEveryShownTableUnchanged) {
-    confermati = testiTiranti(Progetto);
+    confermati = project::testiTiranti(Progetto);
     esegui(Comando::editTiranti);
-    confermati = testiFasi(Progetto);
+    confermati = project::testiFasi(Progetto);
     esegui(Comando::editFasi);
     EXPECT_EQ(Progetto, test::progettoSemplice());
 }
@@ -134,10 +143,18 @@ TEST_F(Edita, KeepsTheStageToDrawOutOfTheProject) {
 }
 
 TEST_F(Edita, TakesAMissingOrUnreadableStageForAll) {
-    EXPECT_EQ(faseDaTitoli({"a", "b", "c", "d", "e", "f"}), 0);
-    EXPECT_EQ(faseDaTitoli({"a", "b", "c", "d", "e", "f", ""}), 0);
-    EXPECT_EQ(faseDaTitoli({"a", "b", "c", "d", "e", "f", "-1"}), 0);
-    EXPECT_EQ(faseDaTitoli({"a", "b", "c", "d", "e", "f", "3.9"}), 3);
+    const std::pair<Testi, int> casi[] = {
+        {{"a", "b", "c", "d", "e", "f"}, 0},
+        {{"a", "b", "c", "d", "e", "f", ""}, 0},
+        {{"a", "b", "c", "d", "e", "f", "-1"}, 0},
+        {{"a", "b", "c", "d", "e", "f", "3.9"}, 3},
+    };
+    for (const auto& [testi, fase] : casi) {
+        project::faseGrafico = 7;
+        confermati = testi;
+        esegui(Comando::editTitoli);
+        EXPECT_EQ(project::faseGrafico, fase);
+    }
 }
 
 TEST_F(Edita, EndsOnMoreRowsThanTheTableHolds) {

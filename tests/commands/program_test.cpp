@@ -10,13 +10,14 @@ namespace {
 class ProgrammaTest : public ::testing::Test {
  protected:
     Programma programma(FormeProgramma forme) {
-        return {dialogo, nomi, finestra, avanzamento, std::move(forme)};
+        return {dialogo, nomi, finestra, avanzamento, maschere, std::move(forme)};
     }
     test::AmbienteDocumento ambiente;
     test::DialogoFinto dialogo;
     test::DialogoFileFinto nomi;
     test::FinestraFinta finestra;
     test::AvanzamentoFinto avanzamento;
+    project::Maschere maschere;
 };
 
 TEST_F(ProgrammaTest, OpensTheHelpAtTheEntryOfEachHelpCommand) {
@@ -80,9 +81,7 @@ TEST_F(ProgrammaTest, SaysWhichCommandsHaveTheirForm) {
         EXPECT_EQ(senza.puo(comando), bastaASe) << voce(comando).nome;
     }
     FormeProgramma forme;
-    forme.maschera = [](int, const std::vector<std::string>&) {
-        return std::optional<std::vector<std::string>>();
-    };
+    forme.maschera = [](project::Maschere&) {};
     forme.sezione = forme.grafica = forme.editacfg = forme.impostaStampante =
         forme.sommario = [] {};
     forme.anteprima = forme.stampa = forme.esportaDoc = forme.esportaTxt =

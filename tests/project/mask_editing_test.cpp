@@ -6,6 +6,7 @@
 #include "project/field_model.hpp"
 #include "project/grid_model.hpp"
 #include "support/dialog_script.hpp"
+#include "support/plain_masks.hpp"
 #include "support/temporary_folder.hpp"
 
 namespace korven::project {
@@ -13,28 +14,11 @@ namespace {
 
 using Testi = std::vector<std::string>;
 
-std::string campi(int quanti, const std::string& testa, const std::string& tipo = "0") {
-    std::string testo = testa + std::to_string(quanti) + "\n";
-    for (int i = 0; i < quanti; ++i) testo += "x\n" + tipo + "\n-1e9\n1e9\nh\n";
-    return testo + "\n2\na\nb\n";
-}
-
 class Modifica : public ::testing::Test {
  protected:
     void SetUp() override {
         azzera(dati);
-        const std::string scelta = "s\n0\n1\n3\nh\n";
-        std::string paratia = campi(11, "1\nD\n7\n1|2\n1|2|3\n1|2\n1|2\n1|2\n1|2|3\n1|2|3|4\n");
-        const auto dopo = paratia.find("11\n") + 3;
-        for (int i = 0; i < 7; ++i) paratia.insert(dopo, scelta);
-        const std::string testi[] = {campi(7, "1\nT\n0\n", "80"), paratia, campi(8, "4\nS\n"),
-                                     campi(5, "2\nA\n"), campi(5, "2\nF\n")};
-        std::vector<std::string> percorsi;
-        for (const auto& testo : testi) {
-            percorsi.push_back(cartella / ("m" + std::to_string(percorsi.size())));
-            test::metti(percorsi.back(), testo);
-        }
-        maschere.leggiMaschere(percorsi);
+        maschere.leggiMaschere(test::maschereSemplici(cartella));
     }
     // A field form opened and confirmed at once.
     void confermaCampi() {

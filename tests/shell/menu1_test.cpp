@@ -13,6 +13,7 @@
 #include "project/project_file.hpp"
 #include "support/desktop_bench.hpp"
 #include "support/document_ports.hpp"
+#include "support/plain_masks.hpp"
 #include "support/sample_projects.hpp"
 
 namespace korven::shell {
@@ -29,14 +30,15 @@ class Menu1Test : public ::testing::Test {
         forme.informazioni = [this](const std::string& riga) { informazioni.push_back(riga); };
         forme.aiuto = [this](int contesto) { aiuti.push_back(contesto); };
         forme.sommario = [] {};
-        forme.maschera = [this](int numero, const std::vector<std::string>& testi) {
-            maschere.push_back(numero);
-            return std::optional(testi);
+        tutteLeMaschere.leggiMaschere(test::maschereSemplici(ambiente.lavori));
+        forme.maschera = [this](project::Maschere& m) {
+            maschere.push_back(m.corrente().titolo);
+            m.conferma(m.valoriCombo(), m.valoriTesto());
         };
     }
     void apri() {
-        programma =
-            std::make_unique<commands::Programma>(dialogo, nomi, finestra, avanzamento, forme);
+        programma = std::make_unique<commands::Programma>(dialogo, nomi, finestra, avanzamento,
+                                                          tutteLeMaschere, forme);
         finestra.collega(*programma);
         finestra.show();
     }
@@ -71,7 +73,9 @@ class Menu1Test : public ::testing::Test {
     std::unique_ptr<commands::Programma> programma;
     Menu1 finestra;
     std::vector<std::string> informazioni;
-    std::vector<int> aiuti, maschere;
+    std::vector<int> aiuti;
+    std::vector<std::string> maschere;
+    project::Maschere tutteLeMaschere;
     bool accettato = false;
 };
 
@@ -160,7 +164,7 @@ TEST_F(Menu1Test, BeginsEditsAndSavesAProjectFromTheKeyboard) {
     EXPECT_EQ(stato(),
               "Nuovo progetto, non ancora salvato: " + QString::fromStdString(fileCorrente));
     voce("EditFasi")->trigger();
-    EXPECT_EQ(maschere, std::vector<int>{5});
+    EXPECT_EQ(maschere, std::vector<std::string>{"F"});
     EXPECT_TRUE(modificato);
     nomi.salvati = {fileCorrente};
     QTest::keyClick(&finestra, Qt::Key_S, Qt::ControlModifier);
