@@ -38,6 +38,8 @@ function(korven_test name)
     endif()
     add_executable(${name}_test ${sources})
     target_link_libraries(${name}_test PRIVATE ${ARGN} korven_test_support)
+    # The optimiser's work on code that runs once was half the time of a fresh build.
+    target_compile_options(${name}_test PRIVATE -O0)
     # Qt has its users compiled for shared libraries, which a precompiled header would have to be too.
     string(REGEX MATCH "korven_device|korven_shell" with_qt "${ARGN}")
     if(TARGET korven_test_headers AND NOT with_qt)
