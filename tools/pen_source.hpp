@@ -9,7 +9,7 @@ namespace korven::tools {
 
 /// The languages that drawings have a configuration in, the first of the language codes;
 /// Portuguese takes that of another one.
-inline constexpr std::size_t penLanguages = 5;
+inline constexpr std::size_t penLanguages = 6;
 
 /// Texts in these languages: ita, deu, fra, esp, eng; UTF-8.
 using PenTexts = std::array<std::string, penLanguages>;
@@ -43,7 +43,7 @@ struct PenSource {
 /// its range, a language missing, a label or name that another row of the language has
 [[nodiscard]] PenSource readPenSource(const std::string& path, std::string_view content);
 
-/// Name of the module configuration file of a language, code 1 to 5: "module06ita.CFG".
+/// Name of the module configuration file of a language, code 1 to 6: "module06ita.CFG".
 [[nodiscard]] std::string penFileName(int language);
 
 /// Its bytes: four lines a pen (label, colour, width, font), two a colour (name, value), the two

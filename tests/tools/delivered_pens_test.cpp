@@ -97,7 +97,7 @@ Light lab(const Light& v) {
 double lightness(const Channels& c) { return lab(light(c))[0]; }
 
 TEST(DeliveredPens, FillTheFileOfEachLanguageWithCompleteBlocks) {
-    for (int language = 1; language <= 5; ++language) {
+    for (int language = 1; language <= 6; ++language) {
         const std::string content = bytes(language);
         EXPECT_EQ(std::count(content.begin(), content.end(), '\n'), 30 * 4 + 15 * 2 + 2);
         EXPECT_EQ(std::count(content.begin(), content.end(), '\r'), 30 * 4 + 15 * 2 + 2);
@@ -124,7 +124,7 @@ TEST(DeliveredPens, HaveColoursWidthsAndFontsInTheirRanges) {
 
 TEST(DeliveredPens, AreTheSameInAllLanguagesButForTheirTexts) {
     const auto first = read(1);
-    for (int language = 2; language <= 5; ++language) {
+    for (int language = 2; language <= 6; ++language) {
         const auto all = read(language);
         for (std::size_t i = 0; i < 30; ++i) {
             EXPECT_EQ(all.pens[i].colour, first.pens[i].colour);
@@ -139,7 +139,7 @@ TEST(DeliveredPens, AreTheSameInAllLanguagesButForTheirTexts) {
 
 // The form finds a pen by its label.
 TEST(DeliveredPens, HaveLabelsAndColoursThatNameEachOneAlone) {
-    for (int language = 1; language <= 5; ++language) {
+    for (int language = 1; language <= 6; ++language) {
         std::set<std::string> labels;
         std::set<std::string> names;
         std::set<int> values;

@@ -11,7 +11,7 @@ namespace {
 
 std::string texts(const std::string& name) {
     return "it: " + name + "\nde: " + name + "\nfr: " + name + "\nes: " + name + "\nen: " + name +
-           "\n";
+           "\npt: " + name + "\n";
 }
 
 std::string colours(int count) {
@@ -67,11 +67,11 @@ TEST(PenSource, WritesFourLinesAPenTwoAColourAndTheMargins) {
 
 TEST(PenSource, RefusesRowsOutOfOrderMissingOrTooMany) {
     EXPECT_EQ(lineOfFault("@colore 2 #010203\n"), 1);
-    EXPECT_EQ(lineOfFault(colours(15) + "@colore 16 #010203\n"), 91);
-    EXPECT_EQ(lineOfFault(colours(14) + pens(30) + margins), 14 * 6 + 30 * 6 + 1);
-    EXPECT_EQ(lineOfFault(colours(15) + pens(29) + margins), 15 * 6 + 29 * 6 + 1);
-    EXPECT_EQ(lineOfFault(colours(15) + pens(30)), 45 * 6);
-    EXPECT_EQ(lineOfFault(colours(15) + pens(30) + margins + margins), 45 * 6 + 2);
+    EXPECT_EQ(lineOfFault(colours(15) + "@colore 16 #010203\n"), 106);
+    EXPECT_EQ(lineOfFault(colours(14) + pens(30) + margins), 14 * 7 + 30 * 7 + 1);
+    EXPECT_EQ(lineOfFault(colours(15) + pens(29) + margins), 15 * 7 + 29 * 7 + 1);
+    EXPECT_EQ(lineOfFault(colours(15) + pens(30)), 45 * 7);
+    EXPECT_EQ(lineOfFault(colours(15) + pens(30) + margins + margins), 45 * 7 + 2);
     EXPECT_EQ(lineOfFault("Nero\n"), 1);
 }
 
@@ -87,10 +87,10 @@ TEST(PenSource, RefusesValuesOutOfRange) {
 TEST(PenSource, RefusesMissingLanguagesAndTextsThatStandTwice) {
     EXPECT_EQ(lineOfFault("@colore 1 #010203\nit: Nero\nfr: Noir\n"), 3);
     EXPECT_EQ(lineOfFault("@colore 1 #010203\n" + texts("a") + "@colore 2 #010204\n" + texts("a")),
-              12);
+              14);
     EXPECT_EQ(
         lineOfFault("@penna 1 1 0.2 Arial\n" + texts("a") + "@penna 2 1 0.2 Arial\n" + texts("a")),
-        12);
+        14);
 }
 
 }  // namespace
