@@ -2,6 +2,7 @@
 
 #include "commands/document_names.hpp"
 #include "commands/edit_commands.hpp"
+#include "commands/fatal_error.hpp"
 #include "commands/help_contexts.hpp"
 #include "commands/output_commands.hpp"
 #include "project/project_data.hpp"
@@ -50,6 +51,12 @@ bool Programma::esegui(Comando comando) {
             produci(comando, dialogo_, avanzamento_, forme_);
     }
     return false;
+}
+
+bool Programma::fineSessione(bool chiedibile) {
+    if (chiedibile) return documento_.fine();
+    recuperaProgetto();
+    return true;
 }
 
 void Programma::aiuto(int voce) const {

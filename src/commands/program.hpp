@@ -22,6 +22,11 @@ class Programma {
     /// Carries a command out. @return true when the program is to end
     bool esegui(Comando comando);
 
+    /// The desktop ends its session: the question about unsaved work where its user may be asked, a
+    /// rescue file (fatal_error.hpp) where nobody can be.
+    /// @return false to ask the desktop to stay
+    bool fineSessione(bool chiedibile);
+
     /// False when the form of a command is not plugged in.
     [[nodiscard]] bool puo(Comando comando) const { return haForma(comando, forme_); }
 

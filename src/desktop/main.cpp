@@ -20,6 +20,7 @@
 #include "shell/progress_qt.hpp"
 #include "shell/qt_text.hpp"
 #include "shell/selezling.hpp"
+#include "shell/termination.hpp"
 
 // korven32: the desktop program. Chooses what stands behind the ports, and tells the one error that
 // ends a program.
@@ -53,6 +54,7 @@ int sessione(shell::Applicazione& applicazione, shell::DialogoQt& dialogo,
     if (!commands::iniziaLingua({.dialogo = dialogo, .scegli = shell::scegliLingua})) return 0;
     traduciQt(applicazione);
 
+    const shell::Terminazione terminazione;
     shell::Menu1 finestra;
     shell::DialogoFileQt nomi;
     shell::AvanzamentoQt avanzamento;

@@ -14,7 +14,6 @@
 #include <array>
 
 #include "commands/document_names.hpp"
-#include "commands/fatal_error.hpp"
 #include "commands/menu_tree.hpp"
 #include "shell/elided_label.hpp"
 #include "shell/qt_text.hpp"
@@ -126,11 +125,9 @@ void Menu1::closeEvent(QCloseEvent* evento) {
 
 void Menu1::fineSessione(QSessionManager& gestore) {
     if (programma_ == nullptr) return;
-    if (!gestore.allowsInteraction()) {
-        commands::recuperaProgetto();
-        return;
-    }
-    const bool finisce = programma_->esegui(Comando::fine);
+    const bool chiedibile = gestore.allowsInteraction();
+    const bool finisce = programma_->fineSessione(chiedibile);
+    if (!chiedibile) return;
     gestore.release();
     if (finisce)
         salutata_ = true;

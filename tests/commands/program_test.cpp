@@ -69,6 +69,18 @@ TEST_F(ProgrammaTest, EndsOnlyThroughTheExit) {
     EXPECT_FALSE(p.esegui(Comando::nessuno));
 }
 
+TEST_F(ProgrammaTest, AsksAboutUnsavedWorkWhenTheSessionEndsOrRescuesIt) {
+    auto p = programma({});
+    project::fileCorrente = ambiente.lavori / "muro.kvd";
+    project::modificato = true;
+    dialogo.risposte = {base::Risposta::annulla, base::Risposta::no};
+    EXPECT_FALSE(p.fineSessione(true));
+    EXPECT_TRUE(p.fineSessione(true));
+    EXPECT_TRUE(std::filesystem::is_empty(ambiente.lavori.percorso()));
+    EXPECT_TRUE(p.fineSessione(false));  // nobody to ask
+    EXPECT_FALSE(std::filesystem::is_empty(ambiente.lavori.percorso()));
+}
+
 TEST_F(ProgrammaTest, SaysWhichCommandsHaveTheirForm) {
     const auto senza = programma({});
     EXPECT_TRUE(senza.puo(Comando::fileApri));
