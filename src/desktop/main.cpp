@@ -13,6 +13,7 @@
 #include "commands/startup.hpp"
 #include "commands/user_folder.hpp"
 #include "shell/application.hpp"
+#include "shell/definej.hpp"
 #include "shell/dialogo_qt.hpp"
 #include "shell/file_dialogs_qt.hpp"
 #include "shell/informazioni.hpp"
@@ -44,6 +45,7 @@ commands::FormeProgramma forme(shell::Menu1& finestra) {
     tutte.informazioni = [&finestra](const std::string& fileCorrente) {
         shell::Informazioni(fileCorrente, &finestra).exec();
     };
+    shell::innestaSezione(tutte, &finestra);
     return tutte;
 }
 
