@@ -133,7 +133,7 @@ QGroupBox* DefinEJ::fareRiquadro(RiquadroSezione riquadro) {
 // Each row of fields has its caption in the first column; from there each column of fields takes
 // two, one for the symbols. The headings of the columns stand in row 0.
 void DefinEJ::fareCampi(QGridLayout& griglia, RiquadroSezione riquadro) {
-    QStringList righe, colonne;
+    QStringList righe;
     auto* padre = griglia.parentWidget();
     for (std::size_t i = 0; i < campi_.size(); ++i) {
         if (project::campiSezione[i].riquadro != riquadro) continue;
@@ -146,22 +146,15 @@ void DefinEJ::fareCampi(QGridLayout& griglia, RiquadroSezione riquadro) {
             didascalia->setBuddy(campo);
             griglia.addWidget(didascalia, static_cast<int>(righe.size()), 0);
         }
-        int colonna = 0;
-        if (forma.colonna != nullptr) {
-            const QString titolo = tradotto(forma.colonna);
-            if (!colonne.contains(titolo)) {
-                colonne << titolo;
-                griglia.addWidget(etichetta(titolo, Qt::AlignCenter, padre), 0,
-                                  2 * static_cast<int>(colonne.size()));
-            }
-            colonna = static_cast<int>(colonne.indexOf(titolo));
-        }
+        if (forma.titolo != nullptr && griglia.itemAtPosition(0, 2 * forma.colonna + 2) == nullptr)
+            griglia.addWidget(etichetta(tradotto(forma.titolo), Qt::AlignCenter, padre), 0,
+                              2 * forma.colonna + 2);
         const int y = static_cast<int>(righe.indexOf(riga)) + 1;
         auto* simbolo = etichetta(qt(project::campiSezione[i].simbolo),
                                   Qt::AlignRight | Qt::AlignVCenter, padre);
         simbolo->setContentsMargins(8, 0, 2, 0);
-        griglia.addWidget(simbolo, y, 2 * colonna + 1);
-        griglia.addWidget(campo, y, 2 * colonna + 2);
+        griglia.addWidget(simbolo, y, 2 * forma.colonna + 1);
+        griglia.addWidget(campo, y, 2 * forma.colonna + 2);
     }
 }
 
@@ -170,7 +163,7 @@ QLineEdit* DefinEJ::fareCampo(std::size_t campo) {
     auto* fatto = campi_[campo] = new QLineEdit(qt(modello_.testo(campo)), this);
     fatto->setObjectName(QLatin1String(forma.controllo));
     QStringList nome{tradotto(forma.riga)};
-    if (forma.colonna != nullptr) nome << tradotto(forma.colonna);
+    if (forma.titolo != nullptr) nome << tradotto(forma.titolo);
     fatto->setAccessibleName(nome.join(QLatin1Char(' ')));
     fatto->setAccessibleDescription(tradotto(forma.aiuto));
     fatto->setAlignment(Qt::AlignRight);

@@ -20,6 +20,8 @@ class SectionSketchView;
 /// The form of the structural section. What is typed and stored is the matter of
 /// `project::SezioneEditata`; beside the fields of each type a sketch shows what they measure.
 class DefinEJ : public QDialog {
+    Q_OBJECT
+
  public:
     /// @param modificato  the flag of the document; both must outlive the form
     DefinEJ(project::Sezione& sezione, bool& modificato, QWidget* padre);

@@ -10,8 +10,9 @@ struct CampoForma {
     double project::Sezione::*valore;
     const char* controllo;
     const char* riga;  ///< Italian key of the caption; fields with the same stand beside each other
-    const char* colonna;  ///< Italian key of the heading; nullptr for a frame of one column
-    const char* aiuto;    ///< Italian key
+    int colonna;       ///< of its frame, from 0
+    const char* titolo;  ///< Italian key of the heading of the column; nullptr for none
+    const char* aiuto;   ///< Italian key
 };
 
 /// In the order of the tabulator, that of `project::campiSezione`.

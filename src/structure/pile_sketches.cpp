@@ -65,7 +65,8 @@ QuotaSchizzo quotaSopra(double Sezione::*campo, const Coppia& c) {
 }
 
 constexpr double ferriEsempio = 8;
-constexpr int massimoFerriSchizzo = 200;  // more of them run into one another
+constexpr double angoloGomito = 1.25 * std::numbers::pi;  // of the bar that the count points to
+constexpr int massimoFerriSchizzo = 200;                  // more of them run into one another
 
 // Angles of the bars as the calculations set them: the first at 0, a fractional count leaves a gap.
 // Where a count calculates with no bar at all, those of the example.
@@ -95,7 +96,7 @@ void disegnaPaloArmato(Schizzo& schizzo, const Sezione& s, double numero, const 
 // A piece of pile seen from its side: the pitch of the stirrups can't be seen in plan.
 void fiancoConStaffe(Schizzo& schizzo, const Sezione& s) {
     constexpr double x1 = 84, x2 = 96, sotto = 4, sopra = 26;
-    constexpr double passoMinimo = 2, passoMassimo = 9;
+    constexpr double passoMinimo = 3, passoMassimo = 9;
     const double passo =
         std::clamp(s.armPassoStaffe * (x2 - x1) / s.armDiamPalo, passoMinimo, passoMassimo);
     schizzo.linee.push_back(
@@ -109,6 +110,7 @@ void fiancoConStaffe(Schizzo& schizzo, const Sezione& s) {
     constexpr double distanza = 3;
     schizzo.quote.push_back(
         quotaLungo(&Sezione::armPassoStaffe, y(mezzo), y(mezzo + 1), x2 + distanza, x2 - rientro));
+    schizzo.quote.back().testo.x += rientro;  // clear of strokes that may stand close
 }
 
 void quoteFerri(Schizzo& schizzo, const Sezione& s, double numero, const Coppia& c) {
@@ -127,10 +129,16 @@ void quoteFerri(Schizzo& schizzo, const Sezione& s, double numero, const Coppia&
     schizzo.quote.push_back(quotaRichiamo(&Sezione::armDiamStaffe, true,
                                           c.basso + staffa * std::sin(angoloStaffa),
                                           {xSchizzo + staffa * std::cos(angoloStaffa)}));
-    const double angoloNumero = std::numbers::pi / 4;
-    schizzo.quote.push_back(quotaRichiamo(&Sezione::armNumLong, false,
-                                          c.alto + corona * std::sin(angoloNumero),
-                                          {xSchizzo + corona * std::cos(angoloNumero)}));
+    // Below the others, where its longer text has room; to the bar nearest to that corner.
+    constexpr double yNumero = 5, xGomito = 52;
+    double verso = 0;
+    for (const double angolo : angoliFerri(numero))
+        if (std::cos(angolo - angoloGomito) > std::cos(verso - angoloGomito)) verso = angolo;
+    const Punto ferro{xSchizzo + corona * std::cos(verso), c.basso + corona * std::sin(verso)};
+    QuotaSchizzo conto = quotaRichiamo(&Sezione::armNumLong, true, yNumero, {xGomito});
+    conto.linee.push_back({{xGomito, yNumero}, ferro});
+    conto.estremi = {ferro};
+    schizzo.quote.push_back(conto);
 }
 
 }  // namespace

@@ -6,8 +6,9 @@ namespace korven::structure {
 
 namespace {
 
-constexpr double sporgenza = 1.5;  // of an extension line beyond its dimension
-constexpr double distacco = 1.6;   // of a text from its line
+constexpr double sporgenza = 1.5;      // of an extension line beyond its dimension
+constexpr double distacco = 1.6;       // of a text from its line
+constexpr double distaccoSopra = 2.3;  // clear of the extension lines
 constexpr double mezzaLettera = corpoSchizzo * 0.36;
 
 }  // namespace
@@ -35,7 +36,7 @@ QuotaSchizzo quotaTraverso(double project::Sezione::*campo, double x1, double x2
     return {project::campoSezione(campo),
             {{{x1, yOggetto}, {x1, oltre}}, {{x2, yOggetto}, {x2, oltre}}, {{x1, y}, {x2, y}}},
             {{x1, y}, {x2, y}},
-            {(x1 + x2) / 2, sopra ? y + distacco : y - distacco - 2 * mezzaLettera},
+            {(x1 + x2) / 2, sopra ? y + distaccoSopra : y - distaccoSopra - 2 * mezzaLettera},
             Appoggio::centro,
             {}};
 }
