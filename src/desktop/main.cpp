@@ -13,10 +13,13 @@
 #include "commands/startup.hpp"
 #include "commands/user_folder.hpp"
 #include "shell/application.hpp"
+#include "shell/definej.hpp"
 #include "shell/dialogo_qt.hpp"
 #include "shell/file_dialogs_qt.hpp"
 #include "shell/informazioni.hpp"
 #include "shell/menu1.hpp"
+#include "shell/printer_setup.hpp"
+#include "shell/program_printer.hpp"
 #include "shell/progress_qt.hpp"
 #include "shell/qt_text.hpp"
 #include "shell/selezling.hpp"
@@ -40,11 +43,15 @@ void traduciQt(QCoreApplication& applicazione) {
 }
 
 // What is behind the commands, plugged in form by form.
-commands::FormeProgramma forme(shell::Menu1& finestra) {
+commands::FormeProgramma forme(shell::Menu1& finestra, base::Dialogo& dialogo,
+                               shell::StampanteProgramma& stampante) {
     commands::FormeProgramma tutte;
     tutte.informazioni = [&finestra](const std::string& fileCorrente) {
         shell::Informazioni(fileCorrente, &finestra).exec();
     };
+    shell::innestaSezione(tutte, &finestra);
+    shell::innestaDisegni(tutte, finestra, dialogo,
+                          [&stampante]() -> QPrinter& { return stampante.stampante(); });
     return tutte;
 }
 
@@ -61,8 +68,10 @@ int sessione(shell::Applicazione& applicazione, shell::DialogoQt& dialogo,
     dialogo.sopra(&finestra);
     nomi.sopra(&finestra);
     avanzamento.sopra(&finestra);
+    shell::StampanteProgramma stampante;
     project::Maschere maschere;
-    commands::Programma programma(dialogo, nomi, finestra, avanzamento, maschere, forme(finestra));
+    commands::Programma programma(dialogo, nomi, finestra, avanzamento, maschere,
+                                  forme(finestra, dialogo, stampante));
     finestra.collega(programma);
     QObject::connect(&applicazione, &QGuiApplication::commitDataRequest, &finestra,
                      &shell::Menu1::fineSessione, Qt::DirectConnection);

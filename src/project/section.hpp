@@ -47,4 +47,8 @@ struct Sezione {
     bool operator==(const Sezione&) const = default;
 };
 
+/// The type flags in the order in which they are asked: the first that is true decides.
+inline constexpr bool Sezione::*tipiSezione[] = {&Sezione::tipoDiaframma, &Sezione::tipoPali,
+                                                 &Sezione::tipoPalancola, &Sezione::tipoPaliArmati};
+
 }  // namespace korven::project

@@ -1,21 +1,15 @@
 #include "structure/section_type.hpp"
 
+#include <iterator>
+
 namespace korven::structure {
 
-using project::Sezione;
-
-TipoSezione tipoSezione(const Sezione& sezione) {
-    static constexpr struct {
-        bool Sezione::*flag;
-        TipoSezione tipo;
-    } ordine[] = {
-        {&Sezione::tipoDiaframma, TipoSezione::diaframma},
-        {&Sezione::tipoPali, TipoSezione::pali},
-        {&Sezione::tipoPalancola, TipoSezione::palancola},
-        {&Sezione::tipoPaliArmati, TipoSezione::paliArmati},
-    };
-    for (const auto& riga : ordine)
-        if (sezione.*riga.flag) return riga.tipo;
+TipoSezione tipoSezione(const project::Sezione& sezione) {
+    static constexpr TipoSezione ordine[] = {TipoSezione::diaframma, TipoSezione::pali,
+                                             TipoSezione::palancola, TipoSezione::paliArmati};
+    static_assert(std::size(ordine) == std::size(project::tipiSezione));
+    for (std::size_t i = 0; i < std::size(ordine); ++i)
+        if (sezione.*project::tipiSezione[i]) return ordine[i];
     return TipoSezione::nessuno;
 }
 

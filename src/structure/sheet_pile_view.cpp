@@ -1,6 +1,3 @@
-#include <array>
-#include <cmath>
-
 #include "base/number_text.hpp"
 #include "plot/plot_engine.hpp"
 #include "plot/sheet.hpp"
@@ -8,45 +5,23 @@
 #include "structure/section_drawing.hpp"
 #include "structure/section_millimetres.hpp"
 #include "structure/section_views.hpp"
+#include "structure/sheet_pile_profile.hpp"
 
 namespace korven::structure {
 
 namespace {
 
-using plot::Punto;
-
 constexpr double perMillimetro = scalaSezione / 10;
 
-// A point of the profile on the sheet, from `u` across the wall, downhill positive, and `v` along
-// it, from the middle of the wave; both in mm.
-Punto sulFoglio(double u, double v) {
-    return {xVista + u * perMillimetro, yVista + v * perMillimetro};
-}
-
-// One face of the wave from end to end. The face lies `du` beyond the axis of the flats and `dv`
-// beyond that of the leg; where the two meet is a corner, as of plates that are mitred.
-std::array<Punto, 6> faccia(const PalancolaMm& p, double du, double dv) {
-    const double meta = passoOnda(p) / 2;
-    // The leg runs from (altAla, -meta + base/2) to (-altAla, -base/2).
-    const auto ala = [&](double u) {
-        return -meta + p.base / 2 + (p.altAla - u) * p.largAla / p.altAla + dv;
-    };
-    const double ritorno = p.altAla + du, mezzo = -p.altAla + du;
-    return {sulFoglio(ritorno, -meta),         sulFoglio(ritorno, ala(ritorno)),
-            sulFoglio(mezzo, ala(mezzo)),      sulFoglio(mezzo, -ala(mezzo)),
-            sulFoglio(ritorno, -ala(ritorno)), sulFoglio(ritorno, meta)};
-}
-
 void contorno(const PalancolaMm& p) {
-    const double mezzaAla = spessoreOrizzontaleAla(p) / 2;
-    const auto valle = faccia(p, p.spessore / 2, mezzaAla);
-    const auto monte = faccia(p, -p.spessore / 2, -mezzaAla);
-    plot::plotMuovi(valle.front().x, valle.front().y, plot::pennaSu);
-    for (auto punto = valle.begin() + 1; punto != valle.end(); ++punto)
-        plot::plotMuovi(punto->x, punto->y, plot::pennaGiu);
-    for (auto punto = monte.rbegin(); punto != monte.rend(); ++punto)
-        plot::plotMuovi(punto->x, punto->y, plot::pennaGiu);
-    plot::plotMuovi(valle.front().x, valle.front().y, plot::pennaGiu);
+    const auto sulFoglio = [](plot::Punto punto, int penna) {
+        plot::plotMuovi(xVista + punto.x * perMillimetro, yVista + punto.y * perMillimetro, penna);
+    };
+    const auto profilo = profiloPalancola(p);
+    sulFoglio(profilo.front(), plot::pennaSu);
+    for (auto punto = profilo.begin() + 1; punto != profilo.end(); ++punto)
+        sulFoglio(*punto, plot::pennaGiu);
+    sulFoglio(profilo.front(), plot::pennaGiu);
 }
 
 }  // namespace

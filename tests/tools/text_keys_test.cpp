@@ -162,6 +162,7 @@ const std::map<std::string, Texts> noTexts = {
      {".rtn", ".mav", ".hlp", "texts", ".txt", "data", ".korven32_prova", "XDG_DATA_HOME",
       "korven32", "HOME", "/tmp", ".local", "share"}},
     {"desktop/main.cpp", {"qtbase_", "korven32"}},
+    {"shell/definej.cpp", {"DefinEJ", "contestoAiuto", "schizzo", "aiuto"}},
     {"shell/dialogo_qt.cpp", {"messaggio", "annulla"}},
     {"shell/file_dialogs_qt.cpp", {"apri", "salva", "Korven 32 (*.kvd *.KVD *.Kvd)"}},
     {"shell/informazioni.cpp",

@@ -1,0 +1,43 @@
+#include "project/edited_section.hpp"
+
+#include <algorithm>
+
+#include "base/number_text.hpp"
+
+namespace korven::project {
+
+std::size_t campoSezione(double Sezione::*valore) {
+    const auto* trovato =
+        std::find_if(std::begin(campiSezione), std::end(campiSezione),
+                     [valore](const CampoSezione& campo) { return campo.valore == valore; });
+    return static_cast<std::size_t>(trovato - std::begin(campiSezione));
+}
+
+SezioneEditata::SezioneEditata(Sezione& sezione, bool& modificato)
+    : sezione_(sezione), modificato_(modificato) {
+    const auto* scelto = std::find_if(std::begin(tipiSezione), std::end(tipiSezione),
+                                      [&sezione](auto flag) { return sezione.*flag; });
+    if (scelto == std::end(tipiSezione))
+        sezione.tipoDiaframma = true;
+    else
+        tipo_ = static_cast<RiquadroSezione>(scelto - std::begin(tipiSezione));
+    for (std::size_t i = 0; i < numeroCampiSezione; ++i)
+        testi_[i] = base::testoNumero(sezione.*campiSezione[i].valore * campiSezione[i].fattore);
+}
+
+Sezione SezioneEditata::letta() const {
+    Sezione scritta;
+    scritta.*tipiSezione[static_cast<std::size_t>(tipo_)] = true;
+    for (std::size_t i = 0; i < numeroCampiSezione; ++i)
+        scritta.*campiSezione[i].valore =
+            base::leggiNumero(testi_[i]).value_or(0) / campiSezione[i].fattore;
+    return scritta;
+}
+
+void SezioneEditata::conferma() {
+    const Sezione scritta = letta();
+    if (!(scritta == sezione_)) modificato_ = true;
+    sezione_ = scritta;
+}
+
+}  // namespace korven::project

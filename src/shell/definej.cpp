@@ -1,0 +1,255 @@
+#include "shell/definej.hpp"
+
+#include <QButtonGroup>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "commands/help_contexts.hpp"
+#include "commands/menu_tree.hpp"
+#include "project/project_data.hpp"
+#include "shell/definej_fields.hpp"
+#include "shell/form_sizes.hpp"
+#include "shell/qt_text.hpp"
+#include "shell/section_sketch_view.hpp"
+
+namespace korven::shell {
+
+namespace {
+
+using project::RiquadroSezione;
+
+struct TipoForma {
+    const char* opzione;
+    const char* didascalia;
+    const char* riquadro;
+    const char* titolo;
+};
+
+// In the order of `project::tipiSezione`; the materials last.
+constexpr TipoForma tipi[] = {
+    {"Option1", "Diaframma continuo", "Frame1", "Diaframma continuo [mm]"},
+    {"Option2", "Pali affiancati", "Frame2", "Pali affiancati [mm]"},
+    {"Option3", "Palancola", "Frame5", "Palancola [mm] (misurati sull'asse del profilato)"},
+    {"Option4", "Pali armati affiancati", "Frame6", "Pali armati affiancati [mm]"},
+    {"", "", "Frame4", "Caratteristiche dei materiali"},
+};
+
+constexpr const char* aiutoTipo =
+    "Il tipo di sezione con cui si calcola. I dati degli altri tipi restano nel progetto.";
+
+std::size_t indice(RiquadroSezione riquadro) { return static_cast<std::size_t>(riquadro); }
+
+QLabel* etichetta(const QString& testo, Qt::Alignment posto, QWidget* padre) {
+    auto* fatta = new QLabel(testo, padre);
+    fatta->setAlignment(posto);
+    return fatta;
+}
+
+}  // namespace
+
+DefinEJ::DefinEJ(project::Sezione& sezione, bool& modificato, QWidget* padre)
+    : QDialog(padre), modello_(sezione, modificato) {
+    setObjectName(QStringLiteral("DefinEJ"));
+    setWindowTitle(tradotto("Calcolo di EJ e verifica strutturale"));
+    setProperty("contestoAiuto",
+                commands::contestoAiuto(commands::voce(commands::Comando::editRigidezza).aiuto));
+    auto* colonna = new QVBoxLayout(this);
+    colonna->addWidget(fareOpzioni());
+    colonna->addWidget(fareRiquadri(), 1);
+    auto* materiali = fareRiquadro(RiquadroSezione::materiali);
+    colonna->addWidget(materiali);
+    colonna->addWidget(fareStriscia());
+    colonna->addWidget(farePulsanti());
+    if (!ripristinaMisure(*this)) adjustSize();
+    connect(this, &QDialog::finished, this, [this] { ricordaMisure(*this); });
+    mostraTipo();
+    opzioni_[indice(modello_.tipo())]->setFocus();
+    entraOpzioni();
+}
+
+QWidget* DefinEJ::fareOpzioni() {
+    auto* riga = new QWidget(this);
+    auto* disposizione = new QHBoxLayout(riga);
+    disposizione->setContentsMargins(4, 0, 4, 0);
+    auto* gruppo = new QButtonGroup(riga);
+    for (std::size_t i = 0; i < opzioni_.size(); ++i) {
+        auto* opzione = opzioni_[i] = new QRadioButton(tradotto(tipi[i].didascalia), riga);
+        opzione->setObjectName(QLatin1String(tipi[i].opzione));
+        opzione->setAccessibleName(opzione->text());
+        opzione->installEventFilter(this);
+        gruppo->addButton(opzione, static_cast<int>(i));
+        disposizione->addWidget(opzione);
+    }
+    disposizione->addStretch();
+    opzioni_[indice(modello_.tipo())]->setChecked(true);
+    connect(gruppo, &QButtonGroup::idToggled, this, [this](int scelto, bool acceso) {
+        if (!acceso) return;
+        modello_.scegli(static_cast<RiquadroSezione>(scelto));
+        mostraTipo();
+    });
+    return riga;
+}
+
+QWidget* DefinEJ::fareRiquadri() {
+    riquadri_ = new QStackedWidget(this);
+    for (std::size_t i = 0; i < schizzi_.size(); ++i) {
+        auto* riquadro = fareRiquadro(static_cast<RiquadroSezione>(i));
+        auto* griglia = static_cast<QGridLayout*>(riquadro->layout());
+        auto* schizzo = schizzi_[i] = new SectionSketchView(
+            [this](std::size_t campo) {
+                campi_[campo]->setFocus();
+                campi_[campo]->selectAll();
+            },
+            riquadro);
+        schizzo->setObjectName(QStringLiteral("schizzo"));
+        schizzo->setAccessibleName(riquadro->title());
+        griglia->setRowStretch(griglia->rowCount(), 1);
+        griglia->addWidget(schizzo, 0, griglia->columnCount(), griglia->rowCount(), 1);
+        griglia->setColumnStretch(griglia->columnCount() - 1, 1);
+        riquadri_->addWidget(riquadro);
+    }
+    return riquadri_;
+}
+
+QGroupBox* DefinEJ::fareRiquadro(RiquadroSezione riquadro) {
+    const TipoForma& tipo = tipi[indice(riquadro)];
+    auto* fatto = new QGroupBox(tradotto(tipo.titolo), this);
+    fatto->setObjectName(QLatin1String(tipo.riquadro));
+    auto* griglia = new QGridLayout(fatto);
+    fareCampi(*griglia, riquadro);
+    if (riquadro == RiquadroSezione::materiali)
+        griglia->setColumnStretch(griglia->columnCount(), 1);
+    return fatto;
+}
+
+// Each row of fields has its caption in the first column; from there each column of fields takes
+// two, one for the symbols. The headings of the columns stand in row 0.
+void DefinEJ::fareCampi(QGridLayout& griglia, RiquadroSezione riquadro) {
+    QStringList righe;
+    auto* padre = griglia.parentWidget();
+    for (std::size_t i = 0; i < campi_.size(); ++i) {
+        if (project::campiSezione[i].riquadro != riquadro) continue;
+        const CampoForma& forma = campiForma[i];
+        auto* campo = fareCampo(i);
+        const QString riga = tradotto(forma.riga);
+        if (!righe.contains(riga)) {
+            righe << riga;
+            auto* didascalia = etichetta(riga, Qt::AlignLeft | Qt::AlignVCenter, padre);
+            didascalia->setBuddy(campo);
+            griglia.addWidget(didascalia, static_cast<int>(righe.size()), 0);
+        }
+        if (forma.titolo != nullptr && griglia.itemAtPosition(0, 2 * forma.colonna + 2) == nullptr)
+            griglia.addWidget(etichetta(tradotto(forma.titolo), Qt::AlignCenter, padre), 0,
+                              2 * forma.colonna + 2);
+        const int y = static_cast<int>(righe.indexOf(riga)) + 1;
+        auto* simbolo = etichetta(qt(project::campiSezione[i].simbolo),
+                                  Qt::AlignRight | Qt::AlignVCenter, padre);
+        simbolo->setContentsMargins(8, 0, 2, 0);
+        griglia.addWidget(simbolo, y, 2 * forma.colonna + 1);
+        griglia.addWidget(campo, y, 2 * forma.colonna + 2);
+    }
+}
+
+QLineEdit* DefinEJ::fareCampo(std::size_t campo) {
+    const CampoForma& forma = campiForma[campo];
+    auto* fatto = campi_[campo] = new QLineEdit(qt(modello_.testo(campo)), this);
+    fatto->setObjectName(QLatin1String(forma.controllo));
+    QStringList nome{tradotto(forma.riga)};
+    if (forma.titolo != nullptr) nome << tradotto(forma.titolo);
+    fatto->setAccessibleName(nome.join(QLatin1Char(' ')));
+    fatto->setAccessibleDescription(tradotto(forma.aiuto));
+    fatto->setAlignment(Qt::AlignRight);
+    constexpr int cifreMostrate = 9;
+    fatto->setMinimumWidth(fatto->fontMetrics().averageCharWidth() * cifreMostrate + 16);
+    fatto->setMaximumWidth(fatto->minimumWidth() * 3 / 2);
+    fatto->installEventFilter(this);
+    connect(fatto, &QLineEdit::textChanged, this, [this, campo](const QString& testo) {
+        modello_.scrivi(campo, testo.toStdString());
+        aggiornaSchizzo();
+    });
+    return fatto;
+}
+
+QWidget* DefinEJ::fareStriscia() {
+    aiuto_ = new QLabel(this);
+    aiuto_->setObjectName(QStringLiteral("aiuto"));
+    aiuto_->setFrameShape(QFrame::StyledPanel);
+    aiuto_->setTextFormat(Qt::PlainText);
+    aiuto_->setWordWrap(true);
+    aiuto_->setMargin(6);
+    aiuto_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    constexpr int righe = 2;
+    aiuto_->setMinimumHeight(righe * aiuto_->fontMetrics().lineSpacing() + 16);
+    return aiuto_;
+}
+
+QWidget* DefinEJ::farePulsanti() {
+    auto* riga = new QWidget(this);
+    auto* confermato = new QPushButton(tradotto("&Conferma"), riga);
+    auto* annullato = new QPushButton(tradotto("&Annulla"), riga);
+    confermato->setObjectName(QStringLiteral("Command1"));
+    annullato->setObjectName(QStringLiteral("Command2"));
+    confermato->setDefault(true);
+    connect(confermato, &QPushButton::clicked, this, [this] {
+        modello_.conferma();
+        accept();
+    });
+    connect(annullato, &QPushButton::clicked, this, &QDialog::reject);
+    auto* disposizione = new QHBoxLayout(riga);
+    disposizione->setContentsMargins(0, 0, 0, 0);
+    disposizione->addStretch();
+    disposizione->addWidget(confermato);
+    disposizione->addWidget(annullato);
+    return riga;
+}
+
+void DefinEJ::mostraTipo() {
+    riquadri_->setCurrentIndex(static_cast<int>(indice(modello_.tipo())));
+    aggiornaSchizzo();
+}
+
+void DefinEJ::aggiornaSchizzo() {
+    schizzi_[indice(modello_.tipo())]->mostra(
+        structure::schizzoSezione(modello_.tipo(), modello_.letta()));
+}
+
+void DefinEJ::entra(std::size_t campo) {
+    aiuto_->setText(tradotto(campiForma[campo].aiuto));
+    for (auto* schizzo : schizzi_) schizzo->evidenzia(campo);
+}
+
+void DefinEJ::entraOpzioni() {
+    aiuto_->setText(tradotto(aiutoTipo));
+    for (auto* schizzo : schizzi_) schizzo->evidenzia({});
+}
+
+bool DefinEJ::eventFilter(QObject* controllo, QEvent* evento) {
+    const auto campo = std::find(campi_.begin(), campi_.end(), controllo);
+    if (evento->type() == QEvent::FocusIn) {
+        if (campo == campi_.end())
+            entraOpzioni();
+        else
+            entra(static_cast<std::size_t>(campo - campi_.begin()));
+    } else if (evento->type() == QEvent::KeyPress && campo != campi_.end()) {
+        const int tasto = static_cast<QKeyEvent*>(evento)->key();
+        if (tasto == Qt::Key_Up || tasto == Qt::Key_Down)
+            return focusNextPrevChild(tasto == Qt::Key_Down);
+    }
+    return QDialog::eventFilter(controllo, evento);
+}
+
+void innestaSezione(commands::FormeProgramma& forme, QWidget* padre) {
+    forme.sezione = [padre] {
+        DefinEJ(project::Progetto.sezione, project::modificato, padre).exec();
+    };
+}
+
+}  // namespace korven::shell

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <functional>
+
+#include "base/dialogo.hpp"
+#include "commands/program_forms.hpp"
+
+class QPrinter;
+class QWidget;
+
+namespace korven::shell {
+
+/// The set-up of the printer of the program, in the dialog of the system. Where there is no printer
+/// a box says so, that prints go to PDF files, and the page of these is asked for.
+/// @param stampante    changed by what is chosen, and only when the dialog is confirmed
+/// @param haStampanti  whether the system has any
+void impostaStampante(QPrinter& stampante, bool haStampanti, base::Dialogo& dialogo,
+                      QWidget* padre);
+
+/// Puts the printer set-up, the viewer of drawings and the form of the pens behind their commands.
+/// From here on drawings appear in the viewer, which lives as long as a copy of `forme`.
+/// @param principale  the main form; it and the dialog must outlive `forme`
+/// @param stampante   the printer of the program, called when it is needed
+void innestaDisegni(commands::FormeProgramma& forme, QWidget& principale, base::Dialogo& dialogo,
+                    std::function<QPrinter&()> stampante);
+
+}  // namespace korven::shell
