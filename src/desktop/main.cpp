@@ -16,6 +16,7 @@
 #include "shell/dialogo_qt.hpp"
 #include "shell/file_dialogs_qt.hpp"
 #include "shell/informazioni.hpp"
+#include "shell/mask_forms.hpp"
 #include "shell/menu1.hpp"
 #include "shell/progress_qt.hpp"
 #include "shell/qt_text.hpp"
@@ -39,11 +40,12 @@ void traduciQt(QCoreApplication& applicazione) {
 }
 
 // What is behind the commands, plugged in form by form.
-commands::FormeProgramma forme(shell::Menu1& finestra) {
+commands::FormeProgramma forme(shell::Menu1& finestra, base::Dialogo& dialogo) {
     commands::FormeProgramma tutte;
     tutte.informazioni = [&finestra](const std::string& fileCorrente) {
         shell::Informazioni(fileCorrente, &finestra).exec();
     };
+    shell::collegaMaschere(tutte, dialogo, &finestra);  // behind the help, which their forms open
     return tutte;
 }
 
@@ -60,7 +62,8 @@ int sessione(shell::Applicazione& applicazione, shell::DialogoQt& dialogo,
     nomi.sopra(&finestra);
     avanzamento.sopra(&finestra);
     project::Maschere maschere;
-    commands::Programma programma(dialogo, nomi, finestra, avanzamento, maschere, forme(finestra));
+    commands::Programma programma(dialogo, nomi, finestra, avanzamento, maschere,
+                                  forme(finestra, dialogo));
     finestra.collega(programma);
     QObject::connect(&applicazione, &QGuiApplication::commitDataRequest, &finestra,
                      &shell::Menu1::fineSessione, Qt::DirectConnection);
