@@ -34,9 +34,6 @@ QVariant GridTable::data(const QModelIndex& indice, int ruolo) const {
 }
 
 QVariant GridTable::headerData(int sezione, Qt::Orientation verso, int ruolo) const {
-    if (ruolo == Qt::TextAlignmentRole)
-        return QVariant::fromValue(Qt::AlignVCenter |
-                                   (verso == Qt::Vertical ? Qt::AlignRight : Qt::AlignHCenter));
     if (ruolo != Qt::DisplayRole) return {};
     if (verso == Qt::Vertical) return sezione + 1;
     return qt(modello_.etichetta(sezione + 1));

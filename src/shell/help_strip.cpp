@@ -24,6 +24,7 @@ HelpStrip::HelpStrip(const QStringList& testi, std::function<void()> premuto, QW
     setAlignment(Qt::AlignLeft | Qt::AlignTop);
     setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
     setMargin(margine);
+    setIndent(0);
     setBackgroundRole(QPalette::ToolTipBase);
     setForegroundRole(QPalette::ToolTipText);
     setAutoFillBackground(true);

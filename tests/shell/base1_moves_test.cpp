@@ -103,6 +103,17 @@ TEST_F(MovimentiCampi, ChangeAChoiceByLeftAndRightAndByItsList) {
     EXPECT_EQ(forma->modello().valoriCombo(), (std::vector<double>{0, 2}));
 }
 
+TEST_F(MovimentiCampi, StayInTheListOfAChoiceWhileItIsOpen) {
+    tasto(Qt::Key_Down, Qt::AltModifier);
+    ASSERT_TRUE(combo(0).view()->isVisible());
+    QTest::keyClick(combo(0).view(), Qt::Key_Down);
+    QTest::keyClick(combo(0).view(), Qt::Key_Return);
+    EXPECT_FALSE(combo(0).view()->isVisible());
+    EXPECT_EQ(forma->modello().valoriCombo()[0], 1);
+    EXPECT_EQ(fuoco(), "Combo1_0");
+    EXPECT_TRUE(forma->isVisible());
+}
+
 TEST_F(MovimentiCampi, GoByTabThroughFieldsStripAndButtons) {
     std::string strada;
     for (int i = 0; i < 9; ++i) {

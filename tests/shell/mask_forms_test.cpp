@@ -9,10 +9,11 @@
 #include <QTableView>
 
 #include "commands/edit_commands.hpp"
+#include "project/column_keys.hpp"
 #include "project/project_data.hpp"
 #include "shell/base1.hpp"
 #include "shell/base2_32.hpp"
-#include "shell/leader_label.hpp"
+#include "shell/qt_text.hpp"
 #include "support/desktop_bench.hpp"
 #include "support/dialog_record.hpp"
 #include "support/form_setup.hpp"
@@ -199,7 +200,7 @@ TEST_F(FormeDelleMaschere, ClipNoCaptionInAnyLanguage) {
              {Comando::editTitoli, Comando::editParatia, Comando::editStratigrafia,
               Comando::editTiranti, Comando::editFasi})
             edita<QDialog>(comando, [&](QDialog& forma) {
-                for (const auto* etichetta : forma.findChildren<LeaderLabel*>()) {
+                for (const auto* etichetta : forma.findChildren<QLabel*>()) {
                     EXPECT_GE(etichetta->width(), etichetta->minimumSizeHint().width())
                         << lingua << etichetta->text().toStdString();
                 }
@@ -209,6 +210,15 @@ TEST_F(FormeDelleMaschere, ClipNoCaptionInAnyLanguage) {
                 for (const auto* scelta : forma.findChildren<QComboBox*>())
                     EXPECT_GE(scelta->width(), scelta->sizeHint().width())
                         << lingua << scelta->currentText().toStdString();
+                auto* striscia = forma.findChild<QLabel*>("Labelhelp");
+                if (striscia == nullptr) striscia = forma.findChild<QLabel*>("Label1");
+                ASSERT_NE(striscia, nullptr);
+                for (const auto& campo : maschere.corrente().campi) {
+                    striscia->setText(qt(project::aiutoMostrato(campo.aiuto)));
+                    EXPECT_GE(striscia->height(),
+                              striscia->QLabel::heightForWidth(striscia->width()))
+                        << lingua << campo.aiuto;
+                }
                 forma.reject();
             });
     }
