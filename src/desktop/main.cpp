@@ -17,6 +17,7 @@
 #include "shell/dialogo_qt.hpp"
 #include "shell/file_dialogs_qt.hpp"
 #include "shell/informazioni.hpp"
+#include "shell/mask_forms.hpp"
 #include "shell/menu1.hpp"
 #include "shell/printer_setup.hpp"
 #include "shell/program_printer.hpp"
@@ -52,6 +53,7 @@ commands::FormeProgramma forme(shell::Menu1& finestra, base::Dialogo& dialogo,
     shell::innestaSezione(tutte, &finestra);
     shell::innestaDisegni(tutte, finestra, dialogo,
                           [&stampante]() -> QPrinter& { return stampante.stampante(); });
+    shell::collegaMaschere(tutte, dialogo, &finestra);  // behind the help, which their forms open
     return tutte;
 }
 

@@ -55,6 +55,11 @@ std::size_t FieldModel::larghezzaCaselle() const {
     return larghezza;
 }
 
+bool FieldModel::numerica(std::size_t campo) const {
+    const TipoCampo tipo = tipoCampo(maschera_.campi.at(campo).tipo);
+    return !scelta(campo) && (tipo.numero || tipo.figura);
+}
+
 const std::vector<std::string>& FieldModel::voci(std::size_t campo) const {
     return maschera_.scelte.at(campo);
 }

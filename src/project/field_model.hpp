@@ -33,6 +33,9 @@ class FieldModel {
     /// Characters that all text boxes have room for: what the longest type asks for.
     [[nodiscard]] std::size_t larghezzaCaselle() const;
 
+    /// True for a field that takes a number, aligned at the right.
+    [[nodiscard]] bool numerica(std::size_t campo) const;
+
     /// Items of a choice field.
     [[nodiscard]] const std::vector<std::string>& voci(std::size_t campo) const;
     /// The item shown: a code above the number of items shows the last one.

@@ -85,6 +85,7 @@ bool GridModel::vaiA(PostoGriglia posto, base::Dialogo& dialogo) {
 }
 
 void GridModel::avanza(base::Dialogo& dialogo) {
+    chiudiEditore(true);
     const bool ultima = corrente_.colonna == colonne();
     const PostoGriglia prossimo = ultima ? PostoGriglia{corrente_.riga + 1, 1}
                                          : PostoGriglia{corrente_.riga, corrente_.colonna + 1};
@@ -92,6 +93,17 @@ void GridModel::avanza(base::Dialogo& dialogo) {
         validazionedati(dialogo);
     else
         vaiA(prossimo, dialogo);
+}
+
+void GridModel::arretra(base::Dialogo& dialogo) {
+    vaiA(corrente_.colonna > 1 ? PostoGriglia{corrente_.riga, corrente_.colonna - 1}
+                               : PostoGriglia{corrente_.riga - 1, colonne()},
+         dialogo);
+}
+
+PostoGriglia GridModel::fine() const {
+    const int ultima = celle_.ultimaRiga();
+    return ultima == 0 ? PostoGriglia{} : PostoGriglia{ultima, colonne()};
 }
 
 void GridModel::batti(std::string_view carattere, bool sostituisce) {

@@ -60,6 +60,15 @@ class GridModel {
     /// @return true when `posto` is the current cell
     bool vaiA(PostoGriglia posto, base::Dialogo& dialogo);
 
+    /// Enter, and the tab key: to the next column, behind the last one to the next row. An open
+    /// editor writes its text first; at the very last cell the cursor stays and the cell is
+    /// checked.
+    void avanza(base::Dialogo& dialogo);
+    /// Shift and the tab key: the way back, at the first cell nowhere.
+    void arretra(base::Dialogo& dialogo);
+    /// The last cell of the last row with data; the first cell of all where there is none.
+    [[nodiscard]] PostoGriglia fine() const;
+
     /// A key pressed on the grid or in its editor. In the grid a character is appended to the cell,
     /// the first one after entering it replaces what stood there; Backspace removes the last one,
     /// Esc brings back what the cell had on entry, Enter moves to the next column and from the last
@@ -111,7 +120,6 @@ class GridModel {
     void chiudiEditore(bool scrivi);
     void batti(std::string_view carattere, bool sostituisce);
     void togliUltimo();
-    void avanza(base::Dialogo& dialogo);
 
     const Maschera& maschera_;
     std::string titolo_;

@@ -24,13 +24,18 @@ QMessageBox::Icon iconaQt(base::Icona icona) {
     }
 }
 
+// Lines are parted by a carriage return, with or without a line feed, where a message says so.
+QString inRighe(std::string_view testo) {
+    return qt(testo).replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(u'\r', u'\n');
+}
+
 // Texts are shown as they are typed: a "<" in a file name is no mark-up.
 void prepara(QMessageBox& box, std::string_view testo, std::string_view titolo, base::Icona icona) {
     box.setObjectName("messaggio");
     box.setTextFormat(Qt::PlainText);
     box.setIcon(iconaQt(icona));
     box.setWindowTitle(qt(titolo));
-    box.setText(qt(testo));
+    box.setText(inRighe(testo));
     box.setTextInteractionFlags(Qt::TextSelectableByMouse);
 }
 

@@ -29,6 +29,12 @@ TEST_F(ModelloCampi, ShowsWhatTheCommandFilledIn) {
     EXPECT_GE(modello.larghezzaCaselle(), 6u);
 }
 
+TEST_F(ModelloCampi, KnowsWhichFieldsTakeANumber) {
+    std::vector<bool> numeriche;
+    for (std::size_t i = 0; i < modello.campi(); ++i) numeriche.push_back(modello.numerica(i));
+    EXPECT_EQ(numeriche, (std::vector<bool>{false, false, true, false, true}));
+}
+
 TEST_F(ModelloCampi, LeadsFromTheLabelWithDotsUpTo120Characters) {
     EXPECT_EQ(modello.didascalia(2), "Lunghezza [m] " + std::string(106, '.'));
     maschera.campi[2].etichetta = std::string(130, 'x');

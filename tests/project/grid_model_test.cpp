@@ -116,6 +116,37 @@ TEST_F(ModelloGriglia, MovesOnEnterToTheNextColumnAndRow) {
     EXPECT_EQ(modello.corrente(), (PostoGriglia{500, 4}));
 }
 
+TEST_F(ModelloGriglia, GoesBackTheWayThatEnterGoes) {
+    modello.vaiA({2, 2}, dialogo);
+    modello.arretra(dialogo);
+    EXPECT_EQ(modello.corrente(), (PostoGriglia{2, 1}));
+    modello.arretra(dialogo);
+    EXPECT_EQ(modello.corrente(), (PostoGriglia{1, 4}));
+    modello.vaiA({1, 1}, dialogo);
+    modello.arretra(dialogo);
+    EXPECT_EQ(modello.corrente(), (PostoGriglia{1, 1}));
+}
+
+TEST_F(ModelloGriglia, WritesTheEditorWhenItMovesOn) {
+    modello.apriEditore();
+    modello.scriviEditore("6");
+    modello.avanza(dialogo);
+    EXPECT_EQ(modello.testo({1, 1}), "6");
+    EXPECT_EQ(modello.corrente(), (PostoGriglia{1, 2}));
+    modello.vaiA({500, 4}, dialogo);
+    modello.apriEditore();
+    modello.scriviEditore("7");
+    modello.avanza(dialogo);
+    EXPECT_EQ(modello.testo({500, 4}), "7");
+    EXPECT_FALSE(modello.editoreAperto());
+    EXPECT_EQ(dialogo.messaggi.size(), 1u) << "not one of the keys";
+}
+
+TEST_F(ModelloGriglia, EndsAtTheLastCellOfItsData) {
+    EXPECT_EQ(modello.fine(), (PostoGriglia{2, 4}));
+    EXPECT_EQ(GridModel(maschera, {}).fine(), (PostoGriglia{1, 1}));
+}
+
 TEST_F(ModelloGriglia, MovesByArrowsInsideTheGrid) {
     premi(Tasto::su);
     premi(Tasto::sinistra);

@@ -32,6 +32,17 @@ TEST(BoxQt, ShowsTextTitleAndIconAsGiven) {
     EXPECT_EQ(icona, QMessageBox::Critical);
 }
 
+TEST(BoxQt, BreaksLinesAtCarriageReturns) {
+    DialogoQt dialogo;
+    QString testo;
+    const Box box([&](QMessageBox& b) {
+        testo = b.text();
+        QTest::keyClick(&b, Qt::Key_Return);
+    });
+    dialogo.messaggio("intervallo:\r0; 1\r\nfine\n.", "ATTENZIONE!", Icona::stop);
+    EXPECT_EQ(testo, "intervallo:\n0; 1\nfine\n.");
+}
+
 TEST(BoxQt, AnswersByItsButtons) {
     DialogoQt dialogo;
     const std::pair<const char*, Risposta> casi[] = {

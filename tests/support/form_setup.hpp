@@ -4,6 +4,7 @@
 #include <stdlib.h>
 
 #include <QApplication>
+#include <QSettings>
 #include <QString>
 #include <QTest>
 #include <QWidget>
@@ -39,6 +40,22 @@ inline QApplication& applicazione() {
     }();
     return *unica;
 }
+
+/// What forms remember of their user goes to a folder of this test alone and is forgotten with it.
+class UtenteNuovo {
+ public:
+    UtenteNuovo() { ricorda(cartella_.percorso()); }
+    UtenteNuovo(const UtenteNuovo&) = delete;
+    UtenteNuovo& operator=(const UtenteNuovo&) = delete;
+    ~UtenteNuovo() { ricorda("/nonexistent"); }
+
+ private:
+    static void ricorda(const std::string& dove) {
+        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope,
+                           QString::fromStdString(dove));
+    }
+    CartellaProvvisoria cartella_;
+};
 
 /// The control of a form with that name. Fails the test when there is none.
 template <class Controllo = QWidget>

@@ -1,0 +1,81 @@
+#include "shell/help_strip.hpp"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QStyleOptionFocusRect>
+#include <algorithm>
+#include <utility>
+
+namespace korven::shell {
+
+namespace {
+
+constexpr int margine = 6;
+constexpr int larghezzaMinima = 240;
+constexpr int larghezzaComoda = 480;
+
+}  // namespace
+
+HelpStrip::HelpStrip(const QStringList& testi, std::function<void()> premuto, QWidget* genitore)
+    : QLabel(genitore), testi_(testi), premuto_(std::move(premuto)) {
+    setTextFormat(Qt::PlainText);
+    setWordWrap(true);
+    setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+    setMargin(margine);
+    setIndent(0);
+    setBackgroundRole(QPalette::ToolTipBase);
+    setForegroundRole(QPalette::ToolTipText);
+    setAutoFillBackground(true);
+    setFocusPolicy(Qt::TabFocus);
+    setCursor(Qt::PointingHandCursor);
+    QSizePolicy misura(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    misura.setHeightForWidth(true);
+    setSizePolicy(misura);
+}
+
+void HelpStrip::mostra(const QString& testo) {
+    setText(testo);
+    setAccessibleName(testo);
+}
+
+int HelpStrip::heightForWidth(int larghezza) const {
+    const int bordi = 2 * (margine + frameWidth());
+    int altezza = fontMetrics().height();
+    for (const QString& testo : testi_)
+        altezza = std::max(altezza, fontMetrics()
+                                        .boundingRect(0, 0, larghezza - bordi, QWIDGETSIZE_MAX,
+                                                      Qt::TextWordWrap | Qt::AlignLeft, testo)
+                                        .height());
+    return altezza + bordi;
+}
+
+QSize HelpStrip::sizeHint() const { return {larghezzaComoda, heightForWidth(larghezzaComoda)}; }
+
+QSize HelpStrip::minimumSizeHint() const {
+    return {larghezzaMinima, fontMetrics().height() + 2 * (margine + frameWidth())};
+}
+
+void HelpStrip::mousePressEvent(QMouseEvent* evento) {
+    if (evento->button() == Qt::LeftButton) premuto_();
+}
+
+void HelpStrip::keyPressEvent(QKeyEvent* evento) {
+    constexpr int tasti[] = {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter};
+    if (std::find(std::begin(tasti), std::end(tasti), evento->key()) == std::end(tasti))
+        return QLabel::keyPressEvent(evento);
+    premuto_();
+}
+
+void HelpStrip::paintEvent(QPaintEvent* evento) {
+    QLabel::paintEvent(evento);
+    if (!hasFocus()) return;
+    QPainter pittore(this);
+    QStyleOptionFocusRect cornice;
+    cornice.initFrom(this);
+    cornice.rect = rect().adjusted(2, 2, -2, -2);
+    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &cornice, &pittore, this);
+}
+
+}  // namespace korven::shell

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QLabel>
+#include <QStringList>
+#include <functional>
+
+namespace korven::shell {
+
+/// The strip of a form that explains the field in use. It has room for the longest of its texts
+/// from the beginning, so that nothing moves while the user goes from field to field. A click, or
+/// the space bar, asks for the text in a box.
+class HelpStrip : public QLabel {
+ public:
+    /// @param testi    all that it will ever show, in lines where they have line breaks
+    /// @param premuto  what a click does
+    HelpStrip(const QStringList& testi, std::function<void()> premuto, QWidget* genitore);
+
+    void mostra(const QString& testo);
+
+    [[nodiscard]] bool hasHeightForWidth() const override { return true; }
+    [[nodiscard]] int heightForWidth(int larghezza) const override;
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
+ protected:
+    void mousePressEvent(QMouseEvent* evento) override;
+    void keyPressEvent(QKeyEvent* evento) override;
+    void paintEvent(QPaintEvent* evento) override;
+
+ private:
+    QStringList testi_;
+    std::function<void()> premuto_;
+};
+
+}  // namespace korven::shell
