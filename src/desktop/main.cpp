@@ -17,8 +17,10 @@
 #include "shell/file_dialogs_qt.hpp"
 #include "shell/informazioni.hpp"
 #include "shell/menu1.hpp"
+#include "shell/program_printer.hpp"
 #include "shell/progress_qt.hpp"
 #include "shell/qt_text.hpp"
+#include "shell/report_output.hpp"
 #include "shell/selezling.hpp"
 
 // korven32: the desktop program. Chooses what stands behind the ports, and tells the one error that
@@ -39,11 +41,14 @@ void traduciQt(QCoreApplication& applicazione) {
 }
 
 // What is behind the commands, plugged in form by form.
-commands::FormeProgramma forme(shell::Menu1& finestra) {
+commands::FormeProgramma forme(shell::Menu1& finestra, base::Dialogo& dialogo,
+                               shell::StampanteProgramma& stampante) {
     commands::FormeProgramma tutte;
     tutte.informazioni = [&finestra](const std::string& fileCorrente) {
         shell::Informazioni(fileCorrente, &finestra).exec();
     };
+    shell::collegaRelazione(tutte, finestra, dialogo,
+                            [&stampante]() -> QPrinter& { return stampante.stampante(); });
     return tutte;
 }
 
@@ -59,8 +64,10 @@ int sessione(shell::Applicazione& applicazione, shell::DialogoQt& dialogo,
     dialogo.sopra(&finestra);
     nomi.sopra(&finestra);
     avanzamento.sopra(&finestra);
+    shell::StampanteProgramma stampante;
     project::Maschere maschere;
-    commands::Programma programma(dialogo, nomi, finestra, avanzamento, maschere, forme(finestra));
+    commands::Programma programma(dialogo, nomi, finestra, avanzamento, maschere,
+                                  forme(finestra, dialogo, stampante));
     finestra.collega(programma);
     QObject::connect(&applicazione, &QGuiApplication::commitDataRequest, &finestra,
                      &shell::Menu1::fineSessione, Qt::DirectConnection);

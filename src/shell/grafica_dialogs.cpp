@@ -24,8 +24,6 @@ QString cartellaProgetto() {
     return QFileInfo(qt(project::fileCorrente)).absolutePath();
 }
 
-bool vaSuFile(const QPrinter& stampante) { return !stampante.outputFileName().isEmpty(); }
-
 }  // namespace
 
 PorteDesktop::PorteDesktop(std::function<QPrinter&()> stampante)
@@ -52,10 +50,16 @@ std::optional<std::string> PorteDesktop::fileDaSalvare(const FileDaSalvare& rich
 
 plot::Foglio PorteDesktop::foglioStampante() { return device::paginaStampante(stampante_()); }
 
+bool PorteDesktop::haStampante() const {
+    const QPrinter& stampante = stampante_();
+    if (!stampante.outputFileName().isEmpty()) return true;
+    return stampante.outputFormat() == QPrinter::NativeFormat &&
+           !QPrinterInfo::availablePrinterNames().isEmpty();
+}
+
 std::unique_ptr<plot::Stampante> PorteDesktop::stampante(const std::string& titolo) {
     QPrinter& stampante = stampante_();
-    if (vaSuFile(stampante) || !QPrinterInfo::availablePrinterNames().isEmpty())
-        return std::make_unique<device::StampantePagine>(stampante, qt(titolo));
+    if (haStampante()) return std::make_unique<device::StampantePagine>(stampante, qt(titolo));
     const auto percorso = fileDaSalvare(richiestaPdf());
     if (!percorso) return nullptr;
     return device::stampanteSuPdf(qt(*percorso), stampante, qt(titolo));

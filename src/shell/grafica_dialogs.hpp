@@ -17,6 +17,8 @@ class PorteDesktop : public PorteGrafica {
 
     std::optional<std::string> fileDaSalvare(const FileDaSalvare& richiesta) override;
     plot::Foglio foglioStampante() override;
+    /// True when pages go to a printer, or to the file that the printer set-up named.
+    [[nodiscard]] bool haStampante() const;
     /// Where there is no printer the pages go to a PDF file that the user names.
     std::unique_ptr<plot::Stampante> stampante(const std::string& titolo) override;
 
