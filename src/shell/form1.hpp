@@ -20,6 +20,7 @@ namespace korven::shell {
 ///
 /// A double click on the list and Esc close it, Ctrl+C copies the selected lines.
 class Form1 : public QWidget, public report::PreviewList {
+    Q_OBJECT
  public:
     explicit Form1(QWidget* padre = nullptr);
 
