@@ -1,5 +1,7 @@
 #include "base/file_names.hpp"
 
+#include <filesystem>
+
 namespace korven::base {
 
 namespace {
@@ -25,5 +27,16 @@ std::string nomeRisultati(std::string_view progetto) { return conUltimiTre(proge
 std::string nomeRelazione(std::string_view progetto) { return finoAlPrimoPunto(progetto, "TAB"); }
 
 std::string nomeDocumento(std::string_view relazione) { return conUltimiTre(relazione, "doc"); }
+
+std::string nomeUscita(std::string_view progetto, std::string_view nome,
+                       std::string_view estensione) {
+    const std::filesystem::path percorso(progetto);
+    std::string radice = (percorso.parent_path() / percorso.stem()).string();
+    return radice.append("-").append(nome).append(".").append(estensione);
+}
+
+std::string nomePdfRelazione(std::string_view progetto) {
+    return nomeUscita(progetto, "relazione", "pdf");
+}
 
 }  // namespace korven::base

@@ -25,4 +25,12 @@ namespace korven::base {
 /// Path of the word-processor file of a report: "doc" for the last three characters.
 [[nodiscard]] std::string nomeDocumento(std::string_view relazione);
 
+/// Path of a further file of a project, beside it: "DIR/muro-momenti.pdf" for the `nome` "momenti"
+/// and the `estensione` "pdf". The stem ends at the last point of the file's own name.
+[[nodiscard]] std::string nomeUscita(std::string_view progetto, std::string_view nome,
+                                     std::string_view estensione);
+
+/// Path of the PDF file of a project's report: "DIR/muro-relazione.pdf".
+[[nodiscard]] std::string nomePdfRelazione(std::string_view progetto);
+
 }  // namespace korven::base

@@ -10,6 +10,7 @@
 #include "batch/console_run.hpp"
 #include "batch/drawing_run.hpp"
 #include "batch/failure.hpp"
+#include "batch/report_output.hpp"
 #include "project/project_data.hpp"
 
 namespace korven::batch {
@@ -33,21 +34,27 @@ void avvisaPosto() {
               << ": " << base::nomeRelazione(risultati) << '\n';
 }
 
-int corri(const Opzioni& opzioni, Esito& esito) {
-    CorsaConsole corsa(opzioni, esito);
-    commands::UscitaRelazione uscita(opzioni.comando == Comando::relazione, opzioni.testo);
-    if (!corsa.esegui(0, uscita)) return nonEseguito;
-    if (!esito.giaAggiornato)
-        esito.fileScritti.push_back(base::nomeRisultati(project::fileCorrente));
-    esito.fileRelazione = uscita.relazione();
-    if (!esito.fileRelazione.empty()) esito.fileScritti.push_back(esito.fileRelazione);
-    if (opzioni.testo && Interruzioni::chiesta() == 0) {
-        esito.fileTesto = commands::scriviTesto(esito.fileRelazione);
-        esito.fileScritti.push_back(esito.fileTesto);
-    }
+// What a run leaves behind, unless it was interrupted behind its calculation.
+int concludi(CorsaConsole& corsa, Esito& esito) {
     if (corsa.interrotta()) return nonEseguito;
     esito.calcolo = commands::leggiEsito();
     return fatto;
+}
+
+int calcola(const Opzioni& opzioni, Esito& esito) {
+    CorsaConsole corsa(opzioni, esito);
+    commands::UscitaRelazione soloRisultati(false);
+    if (!corsa.esegui(0, soloRisultati)) return nonEseguito;
+    annotaRisultati(esito);
+    return concludi(corsa, esito);
+}
+
+int relazione(const Opzioni& opzioni, Esito& esito) {
+    const AmbienteDisegno ambiente(opzioni.relazione.dipinte());
+    controllaUscite(opzioni.relazione);
+    CorsaConsole corsa(opzioni, esito);
+    if (!scriviRelazione(opzioni.relazione, corsa, esito)) return nonEseguito;
+    return concludi(corsa, esito);
 }
 
 int eseguiComando(const Opzioni& opzioni, Esito& esito) {
@@ -56,9 +63,9 @@ int eseguiComando(const Opzioni& opzioni, Esito& esito) {
             return verifica(opzioni.progetto, esito);
         case Comando::relazione:
             avvisaPosto();
-            return corri(opzioni, esito);
+            return relazione(opzioni, esito);
         case Comando::calcola:
-            return corri(opzioni, esito);
+            return calcola(opzioni, esito);
         case Comando::tutto:
             avvisaPosto();
             return tutto(opzioni, esito);

@@ -4,6 +4,7 @@
 
 #include "analysis/calcolo_paratia.hpp"
 #include "analysis/run_flags.hpp"
+#include "base/file_names.hpp"
 #include "base/translated_texts.hpp"
 #include "project/project_data.hpp"
 
@@ -25,6 +26,11 @@ void racconta(const std::vector<std::string>& righe, Esito& esito) {
         std::cerr << riga << '\n';
         esito.messaggi.push_back(riga);
     }
+}
+
+void annotaRisultati(Esito& esito) {
+    if (!esito.giaAggiornato)
+        esito.fileScritti.push_back(base::nomeRisultati(project::fileCorrente));
 }
 
 CorsaConsole::CorsaConsole(const Opzioni& opzioni, Esito& esito)

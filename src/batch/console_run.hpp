@@ -10,6 +10,9 @@ namespace korven::batch {
 /// Says lines on standard error and keeps them among the messages of the outcome.
 void racconta(const std::vector<std::string>& righe, Esito& esito);
 
+/// Names the result file among those written, unless it was up to date already.
+void annotaRisultati(Esito& esito);
+
 /// The analysis with the console for its ports. While one of these lives an interrupt stops the run
 /// or, behind it, is kept in mind.
 class CorsaConsole {
@@ -20,6 +23,8 @@ class CorsaConsole {
     /// @param modoUscita  0 the report, 1 to 4 a diagram
     /// @return false when the run was refused, found singular or stopped, which has then been told
     [[nodiscard]] bool esegui(int modoUscita, analysis::UscitaCalcolo& uscita);
+
+    [[nodiscard]] base::Dialogo& dialogo() { return dialogo_; }
 
     /// True after an interrupt that found the calculation finished; tells what that means.
     [[nodiscard]] bool interrotta();

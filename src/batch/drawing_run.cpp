@@ -1,7 +1,6 @@
 #include "batch/drawing_run.hpp"
 
 #include <algorithm>
-#include <filesystem>
 #include <iostream>
 #include <iterator>
 #include <utility>
@@ -11,6 +10,7 @@
 #include "batch/console_run.hpp"
 #include "batch/failure.hpp"
 #include "batch/interruption.hpp"
+#include "batch/report_output.hpp"
 #include "commands/diagram_output.hpp"
 #include "project/project_data.hpp"
 #include "report/hatch_samples.hpp"
@@ -26,11 +26,6 @@ using project::Progetto;
 bool diagramma(int tipo, CorsaConsole& corsa) {
     commands::UscitaDiagramma uscita;
     return corsa.esegui(tipo, uscita);
-}
-
-void annotaRisultati(Esito& esito) {
-    if (!esito.giaAggiornato)
-        esito.fileScritti.push_back(base::nomeRisultati(project::fileCorrente));
 }
 
 bool stratigrafia(const Opzioni& opzioni, Esito& esito) {
@@ -83,9 +78,6 @@ constexpr Tavola tavole[] = {
 
 // "DIR/muro-momenti.pdf" for each form asked for.
 UsciteDisegno usciteTavola(const Opzioni& opzioni, const Tavola& tavola) {
-    const std::filesystem::path progetto(project::fileCorrente);
-    const std::string radice =
-        (progetto.parent_path() / progetto.stem()).string() + '-' + tavola.nome + '.';
     UsciteDisegno uscite;
     uscite.dpi = opzioni.disegno.dpi;
     const std::pair<const char*, std::string UsciteDisegno::*> forme[] = {
@@ -96,19 +88,16 @@ UsciteDisegno usciteTavola(const Opzioni& opzioni, const Tavola& tavola) {
     for (const auto& [forma, file] : forme)
         if (std::find(opzioni.formati.begin(), opzioni.formati.end(), forma) !=
             opzioni.formati.end())
-            uscite.*file = radice + forma;
+            uscite.*file = base::nomeUscita(project::fileCorrente, tavola.nome, forma);
     return uscite;
 }
 
-bool scriviRelazione(CorsaConsole& corsa, Esito& esito) {
-    commands::UscitaRelazione uscita(true, true);
-    if (!corsa.esegui(0, uscita)) return false;
-    annotaRisultati(esito);
-    esito.fileRelazione = uscita.relazione();
-    esito.fileTesto = commands::scriviTesto(esito.fileRelazione);
-    esito.fileScritti.insert(esito.fileScritti.end(), {esito.fileRelazione, esito.fileTesto});
-    esito.calcolo = commands::leggiEsito();
-    return true;
+// The report in each of its forms, beside the drawings.
+UsciteRelazione usciteRelazione() {
+    UsciteRelazione uscite;
+    uscite.testo = uscite.documento = true;
+    uscite.pdf = base::nomePdfRelazione(project::fileCorrente);
+    return uscite;
 }
 
 void annuncia(const Opzioni& opzioni, std::size_t quale, const Tavola& tavola) {
@@ -130,9 +119,12 @@ int disegna(const Opzioni& opzioni, Esito& esito) {
 
 int tutto(const Opzioni& opzioni, Esito& esito) {
     for (const Tavola& tavola : tavole) controllaUscite(usciteTavola(opzioni, tavola));
-    const AmbienteDisegno ambiente(usciteTavola(opzioni, tavole[0]).dipinte());
+    const AmbienteDisegno ambiente(true);
+    const UsciteRelazione relazione = usciteRelazione();
+    controllaUscite(relazione);
     CorsaConsole corsa(opzioni, esito);
-    if (!scriviRelazione(corsa, esito)) return nonEseguito;
+    if (!scriviRelazione(relazione, corsa, esito)) return nonEseguito;
+    esito.calcolo = commands::leggiEsito();
     // Whether anything was computed is for the first run to say: the others find its results.
     const auto fasi = esito.fasi;
     const bool giaAggiornato = esito.giaAggiornato;

@@ -12,7 +12,7 @@ namespace korven::batch {
 /// @throws base::ErroreFile if a file can't be read or written
 [[nodiscard]] int disegna(const Opzioni& opzioni, Esito& esito);
 
-/// Writes the report, its plain text and every drawing of the project.
+/// Writes the report in each of its forms and every drawing of the project.
 /// @return the exit code
 /// @throws base::ErroreFile if a file can't be read or written
 [[nodiscard]] int tutto(const Opzioni& opzioni, Esito& esito);

@@ -124,6 +124,21 @@ void diCalcolo(CLI::App& comando, Opzioni& o) {
         ->capture_default_str();
 }
 
+// What the report leaves besides its mark-up.
+void diRelazione(CLI::App& comando, UsciteRelazione& uscite) {
+    comando.add_flag("--txt", uscite.testo, traduttore("scrive anche il testo semplice"));
+    comando.add_flag("--doc", uscite.documento,
+                     traduttore("scrive anche il documento per elaboratori di testi (DOC)"));
+    comando.add_option("--pdf", uscite.pdf, traduttore("scrive la relazione in formato PDF"))
+        ->type_name("FILE")
+        ->check(percorso);
+    comando
+        .add_option("--stampa", uscite.stampante,
+                    traduttore("stampa la relazione su questa stampante"))
+        ->type_name("NOME")
+        ->check(percorso);
+}
+
 // The files of a drawing.
 void diDisegno(CLI::App& comando, Opzioni& o) {
     const std::tuple<const char*, std::string UsciteDisegno::*, const char*> forme[] = {
@@ -165,7 +180,7 @@ const RigaComando righeComandi[] = {
     {Comando::relazione, "relazione", "esegue il calcolo e scrive la relazione (TAB)",
      [](CLI::App& c, Opzioni& o) {
          diCalcolo(c, o);
-         c.add_flag("--txt", o.testo, traduttore("scrive anche il testo semplice"));
+         diRelazione(c, o.relazione);
      }},
     {Comando::verifica, "verifica", "dice che cosa manca o è strano nel progetto, senza calcolare",
      diModello},
@@ -202,7 +217,7 @@ const RigaComando righeComandi[] = {
          diDisegno(c, o);
          risoluzione(c, o);
      }},
-    {Comando::tutto, "tutto", "scrive la relazione, il testo e tutti i disegni",
+    {Comando::tutto, "tutto", "scrive la relazione in ogni formato e tutti i disegni",
      [](CLI::App& c, Opzioni& o) {
          diCalcolo(c, o);
          c.get_option("--uscita")->required();

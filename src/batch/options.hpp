@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "batch/drawing_output.hpp"
+#include "batch/report_output.hpp"
 
 namespace korven::batch {
 
@@ -34,12 +35,12 @@ struct Opzioni {
     std::string lingua;                  ///< tag; empty: that of language.cfg
     bool json = false;
     bool silenzioso = false;
-    bool testo = false;    ///< `relazione`: the text export too
     bool traccia = false;  ///< `calcola`: record of the slow stages
     int maxIterazioni = 5000;
-    int tipo = 0;           ///< `diagramma`: 1 pressures, 2 displacements, 3 moments, 4 shear
-    int fase = 0;           ///< `diagramma`: the stage to draw, 0 for all
-    UsciteDisegno disegno;  ///< files of a drawing
+    int tipo = 0;               ///< `diagramma`: 1 pressures, 2 displacements, 3 moments, 4 shear
+    int fase = 0;               ///< `diagramma`: the stage to draw, 0 for all
+    UsciteRelazione relazione;  ///< of `relazione`, besides the mark-up
+    UsciteDisegno disegno;      ///< files of a drawing
     std::vector<std::string> formati = {"pdf", "dxf"};  ///< `tutto`: forms of each drawing
 };
 

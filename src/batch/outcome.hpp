@@ -24,7 +24,7 @@ struct Esito {
     bool giaAggiornato = false;  ///< the result file was up to date already
     std::vector<commands::ControlloCorsa::Fase> fasi;
     std::vector<std::string> fileScritti;
-    std::string fileRelazione, fileTesto;
+    std::string fileRelazione, fileTesto, fileDocumento, filePdf;
 };
 
 /// The table of a run, a line a stage, with the traces of slow stages behind it if `traccia`.

@@ -110,6 +110,8 @@ std::string json(const Esito& esito) {
         j["file"] = {{"risultati", nomeONullo(esito.calcolo ? esito.calcolo->fileRisultati : "")},
                      {"relazione", nomeONullo(esito.fileRelazione)},
                      {"testo", nomeONullo(esito.fileTesto)},
+                     {"documento", nomeONullo(esito.fileDocumento)},
+                     {"pdf", nomeONullo(esito.filePdf)},
                      {"scritti", esito.fileScritti}};
     }
     // A path may hold bytes that are no UTF-8; they must not stop the answer.

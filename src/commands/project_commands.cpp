@@ -96,8 +96,10 @@ EsitoCalcolo leggiEsito() {
 std::vector<std::string> UscitaRelazione::file(int modoUscita, const std::string& risultati) const {
     if (!scrive_ || modoUscita != 0) return {};
     const std::string relazione = base::nomeRelazione(risultati);
-    if (!testo_) return {relazione};
-    return {relazione, nomeTesto(relazione)};
+    std::vector<std::string> nomi = {relazione};
+    if (testo_) nomi.push_back(nomeTesto(relazione));
+    if (documento_) nomi.push_back(base::nomeDocumento(relazione));
+    return nomi;
 }
 
 void UscitaRelazione::scriviRelazione() {
@@ -121,7 +123,8 @@ std::string scriviTesto(const std::string& relazione) {
 std::vector<std::string> relazioniRimaste(const std::string& progetto) {
     const std::string relazione = base::nomeRelazione(base::nomeRisultati(progetto));
     std::vector<std::string> rimaste;
-    for (const auto& percorso : {relazione, nomeTesto(relazione)}) {
+    for (const auto& percorso : {relazione, nomeTesto(relazione), base::nomeDocumento(relazione),
+                                 base::nomePdfRelazione(progetto)}) {
         std::error_code errore;
         if (fs::is_regular_file(percorso, errore) && !analysis::prendeIlPostoDelProgetto(percorso))
             rimaste.push_back(percorso);

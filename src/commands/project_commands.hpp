@@ -60,8 +60,10 @@ struct EsitoCalcolo {
 /// The output of a command line: writes the report and remembers where; makes no diagrams.
 class UscitaRelazione : public analysis::UscitaCalcolo {
  public:
-    /// @param testo  the text export will follow: its name is looked at too before a run
-    explicit UscitaRelazione(bool scrive, bool testo = false) : scrive_(scrive), testo_(testo) {}
+    /// @param testo      the text export will follow: its name is looked at too before a run
+    /// @param documento  so will the word-processor file
+    explicit UscitaRelazione(bool scrive, bool testo = false, bool documento = false)
+        : scrive_(scrive), testo_(testo), documento_(documento) {}
     [[nodiscard]] std::vector<std::string> file(int modoUscita,
                                                 const std::string& risultati) const override;
     void scriviRelazione() override;
@@ -72,7 +74,7 @@ class UscitaRelazione : public analysis::UscitaCalcolo {
 
  private:
     bool scrive_;
-    bool testo_;
+    bool testo_, documento_;
     std::string relazione_;
 };
 
@@ -86,8 +88,9 @@ class UscitaRelazione : public analysis::UscitaCalcolo {
 ///         document, or if the text would take the place of the project or of the mark-up
 std::string scriviTesto(const std::string& relazione);
 
-/// The report and the text that lie where a run of this project writes them, if they are plain
-/// files: after a run that failed they must not be taken for its outcome.
+/// The report, its text, its word-processor and PDF file that lie where a run of this project
+/// writes them, if they are plain files: after a run that failed they must not be taken for its
+/// outcome.
 [[nodiscard]] std::vector<std::string> relazioniRimaste(const std::string& progetto);
 
 /// True if the first point of the path, which ends the name of the report, is not that of the

@@ -23,6 +23,7 @@
 #include "shell/program_printer.hpp"
 #include "shell/progress_qt.hpp"
 #include "shell/qt_text.hpp"
+#include "shell/report_output.hpp"
 #include "shell/selezling.hpp"
 #include "shell/termination.hpp"
 
@@ -54,6 +55,8 @@ commands::FormeProgramma forme(shell::Menu1& finestra, base::Dialogo& dialogo,
     shell::innestaDisegni(tutte, finestra, dialogo,
                           [&stampante]() -> QPrinter& { return stampante.stampante(); });
     shell::collegaMaschere(tutte, dialogo, &finestra);  // behind the help, which their forms open
+    shell::collegaRelazione(tutte, finestra, dialogo,
+                            [&stampante]() -> QPrinter& { return stampante.stampante(); });
     return tutte;
 }
 

@@ -45,12 +45,8 @@ plot::Foglio paginaStampante(const QPrinter& stampante) {
 }
 
 StampantePagine::StampantePagine(QPrinter& stampante, const QString& titolo)
-    : stampante_(stampante), marginiDiPrima_(stampante.pageLayout().margins(QPageLayout::Point)) {
+    : stampante_(stampante), margini_(stampante) {
     stampante_.setDocName(titolo);
-    stampante_.setFullPage(false);
-    QPageLayout pagina = stampante_.pageLayout();
-    pagina.setUnits(QPageLayout::Point);
-    stampante_.setPageMargins(pagina.minimumMargins(), QPageLayout::Point);
 }
 
 StampantePagine::~StampantePagine() {
@@ -58,7 +54,6 @@ StampantePagine::~StampantePagine() {
         stampante_.abort();
         pittore_.end();
     }
-    stampante_.setPageMargins(marginiDiPrima_, QPageLayout::Point);
 }
 
 plot::MisureStampante StampantePagine::misure() {

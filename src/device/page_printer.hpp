@@ -1,11 +1,11 @@
 #pragma once
 
 #include <QFont>
-#include <QMarginsF>
 #include <QPainter>
 #include <QString>
 #include <memory>
 
+#include "device/least_margins.hpp"
 #include "plot/geometry.hpp"
 #include "plot/printer.hpp"
 
@@ -45,7 +45,7 @@ class StampantePagine : public plot::Stampante {
     [[noreturn]] void fallita() const;
 
     QPrinter& stampante_;
-    QMarginsF marginiDiPrima_;
+    MarginiMinimi margini_;
     QPainter pittore_;
     QFont font_;
     double corpo_ = 1;

@@ -69,7 +69,8 @@ std::vector<double> columnWidths(report::CellGrid& grid, const report::FittedTab
 }
 
 std::string tableWords(report::CellGrid& grid, const std::vector<double>& widths,
-                       Alignment alignment, std::string_view columnStyle, const ReportFont& font) {
+                       Alignment alignment, std::string_view columnStyle, const ReportFont& font,
+                       int keptRows) {
     std::string words = tableHead(widths, alignment);
     for (int row = 1; row <= grid.rowCount(); ++row) {
         const bool head = row == 1;
@@ -80,7 +81,7 @@ std::string tableWords(report::CellGrid& grid, const std::vector<double>& widths
             Paragraph content;
             content.font = font;
             content.font.bold = head;
-            content.keepWithNext = head && !last;
+            content.keepWithNext = (head && !last) || row <= keptRows;
             if (report::rightAligned(columnStyle, column)) content.alignment = Alignment::right;
             content.runs = run(content.font, grid.cell(row, column));
             words += cellWords(widths[static_cast<std::size_t>(column - 1)], head || last, content);
@@ -89,6 +90,13 @@ std::string tableWords(report::CellGrid& grid, const std::vector<double>& widths
     }
     return words + "</w:tbl>\n";
 }
+
+double lineHeight(const ReportFont& font) {
+    constexpr double linePerSize = 1.15;
+    return linePerSize * (font.size > 0 ? font.size : report::defaultFontSize);
+}
+
+double rowHeight(const ReportFont& font) { return lineHeight(font) + 2 * cellRoom; }
 
 Paragraph listRow(const report::FittedTable& fitted, Alignment alignment, double textWidth) {
     const double start = std::max(0.0, report::alignedX(alignment, {0, textWidth}, fitted.total));

@@ -21,10 +21,17 @@ namespace korven::outdoc {
 
 /// A whole table. Its first row is bold and is repeated on every page that the table reaches; thin
 /// lines part it from the others and close the table.
+/// @param keptRows  rows from the first that stay on the page of the row, or of the paragraph,
+///                  behind them; the head does in any case
 /// @pre the grid holds at least one row
 [[nodiscard]] std::string tableWords(report::CellGrid& grid, const std::vector<double>& widths,
                                      report::Alignment alignment, std::string_view columnStyle,
-                                     const report::ReportFont& font);
+                                     const report::ReportFont& font, int keptRows = 0);
+
+/// Height of a line of text in a word processor, about [points].
+[[nodiscard]] double lineHeight(const report::ReportFont& font);
+/// Height of a row of a table, about [points].
+[[nodiscard]] double rowHeight(const report::ReportFont& font);
 
 /// A row of a list before its text: indent and tab stops for right aligned columns, the first of
 /// them behind a dotted leader.

@@ -1,6 +1,7 @@
 #include "outdoc/document_renderer.hpp"
 
 #include <algorithm>
+#include <cmath>
 
 #include "base/code_page.hpp"
 #include "base/file_error.hpp"
@@ -21,6 +22,9 @@ namespace {
 
 // A list as short as those of the report stays on one page.
 constexpr int rowsKept = 12;
+
+// No more than a page can be kept together [points].
+constexpr double mostTogether = 700;
 
 // Room that the page number takes at the right end of the footer [points].
 constexpr double pageNumberRoom = 60;
@@ -60,7 +64,9 @@ void DocumentRenderer::table(ScanState& state) {
     headerIfDue(state);
     if (belowTable_ || breakDue_) emptyParagraph();
     const auto widths = columnWidths(grid_, fitted, body_, parts_.page.textWidth());
-    parts_.content += tableWords(grid_, widths, state.alignment, state.columnStyle, body_);
+    parts_.content +=
+        tableWords(grid_, widths, state.alignment, state.columnStyle, body_, rowsTogether());
+    together_ -= grid_.rowCount() * rowHeight(body_);
     belowTable_ = true;
     belowHeading_ = false;
 }
@@ -79,6 +85,21 @@ void DocumentRenderer::list(ScanState& state) {
         add(std::move(line));
     }
     belowHeading_ = false;
+}
+
+void DocumentRenderer::newPage(ScanState&) {
+    breakDue_ = true;
+    together_ = 0;
+}
+
+void DocumentRenderer::newParagraph(ScanState&, double centimetres) {
+    together_ = std::min(centimetres * report::pointsPerCentimetre, mostTogether);
+}
+
+// Rows that do not yet fill the height to be kept.
+int DocumentRenderer::rowsTogether() const {
+    const double rows = std::ceil(together_ / rowHeight(body_)) - 1;
+    return static_cast<int>(std::clamp(rows, 0.0, static_cast<double>(grid_.rowCount())));
 }
 
 void DocumentRenderer::close(ScanState& state) {
@@ -114,6 +135,8 @@ Paragraph DocumentRenderer::inBodyFont() {
 
 void DocumentRenderer::add(Paragraph content) {
     content.pageBreakBefore = breakDue_;
+    together_ -= lineHeight(content.font);
+    content.keepWithNext = content.keepWithNext || together_ > 0;
     breakDue_ = belowTable_ = false;
     parts_.content += paragraph(content);
 }

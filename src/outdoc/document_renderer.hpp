@@ -19,9 +19,9 @@ namespace korven::outdoc {
 /// columns fitted and its head repeated, a list a line with a dotted leader for each row. Lines in
 /// capitals become the title and the headings of the document.
 ///
-/// Two things have no counterpart and differ: #NEWPARAGRAPH is dropped, since nobody knows yet
-/// how much of a page is left, and header and footer are those of the whole document: the header
-/// at its first line, the footer at its end.
+/// How much of a page is left only the word processor knows, so #NEWPARAGRAPH keeps what follows
+/// it, up to the height that it names, together on one page. Header and footer are those of the
+/// whole document: the header at its first line, the footer at its end.
 class DocumentRenderer : public report::MarkupReceiver {
  public:
     void open(report::ScanState& state, std::string_view argument) override;
@@ -32,7 +32,8 @@ class DocumentRenderer : public report::MarkupReceiver {
     void font(std::string_view name) override { body_.name = name; }
     void fontSize(double points) override { body_.size = points; }
     void fontItalic(bool on) override { body_.italic = on; }
-    void newPage(report::ScanState&) override { breakDue_ = true; }
+    void newPage(report::ScanState&) override;
+    void newParagraph(report::ScanState& state, double centimetres) override;
 
     /// The bytes of the file; nothing when no document was opened.
     [[nodiscard]] std::optional<std::string> bytes() const;
@@ -42,6 +43,7 @@ class DocumentRenderer : public report::MarkupReceiver {
     [[nodiscard]] Paragraph inBodyFont();
     void add(Paragraph content);
     void emptyParagraph();
+    [[nodiscard]] int rowsTogether() const;
     [[nodiscard]] report::FittedTable fit(const report::ScanState& state, report::BlockKind kind);
     [[nodiscard]] Paragraph inHeaderFont(report::Alignment alignment) const;
     [[nodiscard]] std::string footerLines(std::string_view text) const;
@@ -49,6 +51,7 @@ class DocumentRenderer : public report::MarkupReceiver {
     DocumentParts parts_;
     report::ReportFont body_;
     report::CellGrid grid_;
+    double together_ = 0;  ///< height of what must still begin on the page reached [points]
     bool opened_ = false;
     bool breakDue_ = false;
     bool belowHeading_ = false;  ///< what follows belongs to a heading and stays on its page

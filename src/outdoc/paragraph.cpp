@@ -12,16 +12,14 @@ namespace {
 
 constexpr double twentiethsPerPoint = 20;
 constexpr double longest = 31680;  // 22 inches, the largest page of word processors
-constexpr double sizeOfNone = 10;  // [points]
 constexpr double smallestSize = 1;
 constexpr double largestSize = 1638;
-constexpr std::string_view fontOfNone = "Arial";
 
 // No spelling marks: most of a report is numbers, units and names.
 std::string fontProperties(const ReportFont& font) {
     const double size =
-        font.size > 0 ? std::clamp(font.size, smallestSize, largestSize) : sizeOfNone;
-    const std::string name = xmlText(font.name.empty() ? fontOfNone : font.name);
+        font.size > 0 ? std::clamp(font.size, smallestSize, largestSize) : report::defaultFontSize;
+    const std::string name = xmlText(font.name.empty() ? report::defaultFontName : font.name);
     const std::string halves = std::to_string(std::lround(2 * size));
     return "<w:rPr><w:rFonts w:ascii=\"" + name + "\" w:hAnsi=\"" + name + "\" w:cs=\"" + name +
            "\"/>" + (font.bold ? "<w:b/>" : "") + (font.italic ? "<w:i/>" : "") +

@@ -3,7 +3,13 @@
 #include <string>
 #include <string_view>
 
+#include "base/file_error.hpp"
+
 namespace korven::report {
+
+/// What a font becomes whose name is empty, and whose size is 0 or less.
+inline constexpr std::string_view defaultFontName = "Arial";
+inline constexpr double defaultFontSize = 10;  ///< [points]
 
 /// A font as the mark-up names it. Name and size are what the file holds: the name may be empty or
 /// unknown, the size 0.
@@ -19,6 +25,13 @@ struct ReportFont {
 struct SheetSize {
     double width = 0;
     double height = 0;
+};
+
+/// A printer, or the file that stands for one, did not take what it was to print. Other than a
+/// mark-up that is broken it is no reason to end the program.
+class PrinterError : public base::ErroreFile {
+ public:
+    using ErroreFile::ErroreFile;
 };
 
 /// Takes the printed report page by page. Positions are points from the upper left corner of what
@@ -40,11 +53,13 @@ class ReportPrinter {
     [[nodiscard]] virtual double lineStep() = 0;
 
     /// Starts a page, and the print job if none runs.
+    /// @throws PrinterError when the printer takes none
     virtual void startPage() = 0;
     /// Writes a text; y is the top of its line. Positions may lie beyond the page.
     virtual void write(double x, double y, std::string_view text) = 0;
     virtual void endPage() = 0;
     /// All pages of a document have been handed over. No page is open.
+    /// @throws PrinterError when the job is lost
     virtual void endJob() = 0;
 };
 

@@ -4,6 +4,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 
+#include "commands/report_export.hpp"
 #include "shell/qt_text.hpp"
 
 namespace korven::shell {
@@ -17,9 +18,9 @@ QStringList filtri() {
 
 // A new project is opened by a name that no file has, so both dialogs take any name; what stands
 // under it is the command's to judge.
-void prepara(QFileDialog& dialogo, const char* titolo, QFileDialog::AcceptMode modo) {
+void prepara(QFileDialog& dialogo, const QString& titolo, QFileDialog::AcceptMode modo) {
     dialogo.setObjectName(modo == QFileDialog::AcceptOpen ? "apri" : "salva");
-    dialogo.setWindowTitle(tradotto(titolo));
+    dialogo.setWindowTitle(titolo);
     dialogo.setFileMode(QFileDialog::AnyFile);
     dialogo.setAcceptMode(modo);
     dialogo.setOption(QFileDialog::DontConfirmOverwrite);
@@ -42,7 +43,8 @@ std::optional<std::string> risposta(QFileDialog& dialogo) {
 
 std::string DialogoFileQt::apri(const std::string& attuale) {
     QFileDialog dialogo(finestra_);
-    prepara(dialogo, "Apri un progetto o scrivi il nome di uno nuovo", QFileDialog::AcceptOpen);
+    prepara(dialogo, tradotto("Apri un progetto o scrivi il nome di uno nuovo"),
+            QFileDialog::AcceptOpen);
     dialogo.setLabelText(QFileDialog::Accept, tradotto("&Apri"));
     if (!attuale.empty()) dialogo.selectFile(qt(attuale));
     return risposta(dialogo).value_or("");
@@ -50,10 +52,24 @@ std::string DialogoFileQt::apri(const std::string& attuale) {
 
 std::optional<std::string> DialogoFileQt::salva(const std::string& proposta) {
     QFileDialog dialogo(finestra_);
-    prepara(dialogo, "Salva il progetto", QFileDialog::AcceptSave);
+    prepara(dialogo, tradotto("Salva il progetto"), QFileDialog::AcceptSave);
     dialogo.setLabelText(QFileDialog::Accept, tradotto("&Salva"));
     dialogo.selectFile(qt(proposta));
     return risposta(dialogo);
+}
+
+// "NotePad|*.txt", as the name and the pattern of a filter.
+std::string chiediNomeTxt(QWidget* sopra, const std::string& proposto) {
+    QFileDialog dialogo(sopra);
+    QString titolo = tradotto("Esporta Tabulati in Formato &TXT");
+    prepara(dialogo, titolo.remove(QLatin1Char('&')), QFileDialog::AcceptOpen);
+    dialogo.setLabelText(QFileDialog::Accept, tradotto("&Salva"));
+    const QStringList filtro = qt(commands::filtroTxt).split(QLatin1Char('|'));
+    dialogo.setNameFilter(filtro[0] + " (" + filtro[1] + ")");
+    dialogo.setDefaultSuffix(qt(commands::estensioneTxt));
+    dialogo.setDirectory(QFileInfo(qt(proposto)).absolutePath());
+    dialogo.selectFile(QFileInfo(qt(proposto)).fileName());
+    return risposta(dialogo).value_or("");
 }
 
 }  // namespace korven::shell

@@ -5,8 +5,6 @@
 
 #include "commands/document_ports.hpp"
 
-class QFileDialog;
-
 namespace korven::shell {
 
 /// The file dialogs of the desktop, native where it offers them. They begin in the current folder.
@@ -21,5 +19,10 @@ class DialogoFileQt : public commands::DialogoFile {
  private:
     QPointer<QWidget> finestra_;
 };
+
+/// The dialog for another name of the text export. Takes any name and asks nothing about it.
+/// @param proposto  path that it begins with
+/// @return the path chosen; empty when it was given up
+[[nodiscard]] std::string chiediNomeTxt(QWidget* sopra, const std::string& proposto);
 
 }  // namespace korven::shell

@@ -10,8 +10,6 @@ namespace korven::shell {
 
 namespace {
 
-const TipoFile pdf{"PDF (*.pdf)", "pdf"};
-
 // The name of the DXF file with another extension.
 std::string nomeDisegno(std::string_view estensione) {
     const std::string dxf = plot::nomeDxf(project::fileCorrente);
@@ -24,6 +22,8 @@ std::string estensione(const std::string& percorso) {
 
 }  // namespace
 
+TipoFile tipoPdf() { return {"PDF (*.pdf)", "pdf"}; }
+
 FileDaSalvare richiestaDxf() {
     return {base::traduttore("Esportazione dell'immagine in formato DXF"),
             plot::nomeDxf(project::fileCorrente),
@@ -33,13 +33,14 @@ FileDaSalvare richiestaDxf() {
 
 FileDaSalvare richiestaImmagine() {
     return {base::traduttore("Salvataggio dell'immagine in formato PDF, SVG o PNG"),
-            nomeDisegno(pdf.estensione),
-            {pdf, {"SVG (*.svg)", "svg"}, {"PNG (*.png)", "png"}}};
+            nomeDisegno(tipoPdf().estensione),
+            {tipoPdf(), {"SVG (*.svg)", "svg"}, {"PNG (*.png)", "png"}}};
 }
 
 FileDaSalvare richiestaPdf() {
-    return {
-        base::traduttore("Invio dell'immagine alla stampante"), nomeDisegno(pdf.estensione), {pdf}};
+    return {base::traduttore("Invio dell'immagine alla stampante"),
+            nomeDisegno(tipoPdf().estensione),
+            {tipoPdf()}};
 }
 
 void scriviImmagine(const std::string& percorso) {

@@ -6,6 +6,9 @@
 
 namespace korven::shell {
 
+/// PDF files.
+[[nodiscard]] TipoFile tipoPdf();
+
 /// The save dialog of the DXF export: the name follows the project's, and nobody asks before a file
 /// is replaced.
 [[nodiscard]] FileDaSalvare richiestaDxf();

@@ -24,5 +24,12 @@ TEST(NomiDeiFile, TheWordProcessorFileTakesTheNameOfTheReport) {
     EXPECT_EQ(nomeDocumento("/lavori.TAB"), "/lavori.doc");
 }
 
+TEST(NomiDeiFile, FurtherFilesStandBesideTheProjectWithAWordBehindItsStem) {
+    EXPECT_EQ(nomeUscita("/lavori.1/muro.v2.kvd", "momenti", "pdf"),
+              "/lavori.1/muro.v2-momenti.pdf");
+    EXPECT_EQ(nomePdfRelazione("/lavori/muro.kvd"), "/lavori/muro-relazione.pdf");
+    EXPECT_EQ(nomePdfRelazione("/lavori/muro"), "/lavori/muro-relazione.pdf");
+}
+
 }  // namespace
 }  // namespace korven::base

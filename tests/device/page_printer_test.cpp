@@ -6,7 +6,6 @@
 #include <QPageSize>
 #include <QPrinter>
 #include <string>
-#include <string_view>
 
 #include "base/file_error.hpp"
 #include "device/graphics_session.hpp"
@@ -14,18 +13,12 @@
 #include "plot/plot_print.hpp"
 #include "support/dialog_record.hpp"
 #include "support/drawing_by_pen.hpp"
+#include "support/pdf_pages.hpp"
 
 namespace korven::device {
 namespace {
 
-// Pages of a PDF file: objects of that type, which "/Pages", their list, is not.
-int pagine(const std::string& pdf) {
-    constexpr std::string_view tipo = "/Type /Page";
-    int trovate = 0;
-    for (auto i = pdf.find(tipo); i != std::string::npos; i = pdf.find(tipo, i + 1))
-        if (pdf.compare(i + tipo.size(), 1, "s") != 0) ++trovate;
-    return trovate;
-}
+using test::paginePdf;
 
 /// Prints into PDF files; a page of them has no margin, so that a sheet is an A4 page.
 class Carta : public test::ProvaPlot {
@@ -49,7 +42,7 @@ class Carta : public test::ProvaPlot {
             StampantePagine carta(stampante, "prova");
             plot::plotStampa(adatta, carta, dialogo);
         }
-        return pagine(test::contenuto(file));
+        return paginePdf(test::contenuto(file));
     }
 
     const SessioneGrafica sessione;
@@ -122,7 +115,7 @@ TEST_F(Carta, PrintsIntoAPdfFileOfThePageSetWhereThereIsNoPrinter) {
         plot::plotStampa(true, *pdf, dialogo);
     }
     const std::string pdf = test::contenuto(cartella / "altro.pdf");
-    EXPECT_EQ(pagine(pdf), 1);
+    EXPECT_EQ(paginePdf(pdf), 1);
     EXPECT_NE(pdf.find("/MediaBox [0 0 842.000000 1191.000000]"), std::string::npos);
 }
 

@@ -125,6 +125,33 @@ TEST(DocumentRenderer, BreaksThePageBeforeTheNextParagraphOrTable) {
     EXPECT_LT(words.find("<w:pageBreakBefore/>"), words.find("<w:tbl>"));
 }
 
+// Lines of 10 points are 11.5 points high, rows of tables 13; 1 cm is 28.3 points.
+TEST(DocumentRenderer, KeepsTheHeightThatANewParagraphNamesOnOnePage) {
+    const std::string lines =
+        body({"#FONTSIZE 10", "prima", "#NEWPARAGRAPH 1", "a", "b", "c", "d"});
+    for (const char* together : {"a", "b"})
+        EXPECT_EQ(count(paragraphOf(lines, together), "<w:keepNext/>"), 1) << together;
+    for (const char* apart : {"prima", "c", "d"})
+        EXPECT_EQ(count(paragraphOf(lines, apart), "<w:keepNext/>"), 0) << apart;
+    const std::string rows = body(
+        {"#FONTSIZE 10", "#NEWPARAGRAPH 1", "#STARTTABLE", "a", "b", "c", "d", "#ENDTABLE", "e"});
+    EXPECT_EQ(count(rows, "<w:keepNext/>"), 2);  // the rows a and b
+}
+
+TEST(DocumentRenderer, KeepsATableWithWhatFollowsWhenTheHeightReachesThatFar) {
+    const std::string words = body({"#FONTSIZE 10", "#NEWPARAGRAPH 2", "#STARTTABLE", "a", "b", "c",
+                                    "#ENDTABLE", "d", "e", "f"});
+    // 56.7 points: three rows and d, of which 6.2 are left for e.
+    EXPECT_EQ(count(words, "<w:keepNext/>"), 4);
+    EXPECT_EQ(count(paragraphOf(words, "e"), "<w:keepNext/>"), 0);
+}
+
+TEST(DocumentRenderer, ForgetsTheHeightAtANewPage) {
+    const std::string words =
+        body({"#FONTSIZE 10", "#NEWPARAGRAPH 5", "#NEWPAGE", "a", "#NEWPARAGRAPH -3", "b"});
+    EXPECT_EQ(count(words, "<w:keepNext/>"), 0);
+}
+
 TEST(DocumentRenderer, KeepsTablesApartAndEndsWithAParagraph) {
     const std::string words = body({"#STARTTABLE", "a", "#ENDTABLE", "#ENDTABLE"});
     EXPECT_EQ(count(words, "<w:tbl>"), 2);

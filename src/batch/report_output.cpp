@@ -1,0 +1,97 @@
+#include "batch/report_output.hpp"
+
+#include <QPrinter>
+#include <QPrinterInfo>
+
+#include "analysis/output_guard.hpp"
+#include "base/file_error.hpp"
+#include "base/file_names.hpp"
+#include "base/processi.hpp"
+#include "base/translated_texts.hpp"
+#include "batch/console_run.hpp"
+#include "batch/interruption.hpp"
+#include "commands/report_export.hpp"
+#include "commands/report_print.hpp"
+#include "device/qt_text.hpp"
+#include "device/report_pages.hpp"
+#include "project/project_data.hpp"
+#include "report/print_renderer.hpp"
+
+namespace korven::batch {
+
+namespace {
+
+void controllaStampante(const std::string& nome) {
+    const QStringList note = QPrinterInfo::availablePrinterNames();
+    if (note.contains(device::qt(nome))) return;
+    std::string perche = base::traduttore("stampante non trovata");
+    if (!note.isEmpty())
+        perche += "; " + base::traduttore("stampanti disponibili") + ": " +
+                  note.join(QStringLiteral(", ")).toStdString();
+    throw base::ErroreFile(nome, 0, perche);
+}
+
+bool interrotto() { return Interruzioni::chiesta() != 0; }
+
+void annota(const std::string& file, std::string& nome, Esito& esito) {
+    nome = file;
+    esito.fileScritti.push_back(file);
+}
+
+// An interrupt from the terminal ends the converter too; that is no failure of its own.
+void scriviDocumento(Esito& esito) {
+    base::Processi programmi;
+    try {
+        annota(commands::scriviDocumento(esito.fileRelazione, programmi), esito.fileDocumento,
+               esito);
+    } catch (const base::ErroreFile&) {
+        if (!interrotto()) throw;
+    }
+}
+
+void scriviPdf(const std::string& file, base::Dialogo& dialogo, Esito& esito) {
+    const auto pdf =
+        device::relazioneSuPdf(file, device::paginaA4(), device::qt(commands::titoloRelazione()));
+    report::printReport(esito.fileRelazione, *pdf, dialogo);
+    annota(file, esito.filePdf, esito);
+}
+
+void stampa(const std::string& nome, base::Dialogo& dialogo, const Esito& esito) {
+    QPrinter stampante(QPrinterInfo::printerInfo(device::qt(nome)), QPrinter::HighResolution);
+    const auto pagine =
+        device::relazioneSuStampante(stampante, device::qt(commands::titoloRelazione()));
+    report::printReport(esito.fileRelazione, *pagine, dialogo);
+}
+
+void scriviUscite(const UsciteRelazione& uscite, base::Dialogo& dialogo, Esito& esito) {
+    if (uscite.testo && !interrotto())
+        annota(commands::scriviTesto(esito.fileRelazione), esito.fileTesto, esito);
+    if (uscite.documento && !interrotto()) scriviDocumento(esito);
+    if (!uscite.pdf.empty() && !interrotto()) scriviPdf(uscite.pdf, dialogo, esito);
+    if (!uscite.stampante.empty() && !interrotto()) stampa(uscite.stampante, dialogo, esito);
+}
+
+}  // namespace
+
+void controllaUscite(const UsciteRelazione& uscite) {
+    if (!uscite.pdf.empty()) {
+        const std::string risultati = base::nomeRisultati(project::fileCorrente);
+        const std::string relazione = base::nomeRelazione(risultati);
+        for (const auto& altro :
+             {risultati, relazione, commands::nomeTesto(relazione), base::nomeDocumento(relazione)})
+            analysis::controllaUscita(uscite.pdf, altro);
+    }
+    if (!uscite.stampante.empty()) controllaStampante(uscite.stampante);
+}
+
+bool scriviRelazione(const UsciteRelazione& uscite, CorsaConsole& corsa, Esito& esito) {
+    commands::UscitaRelazione uscita(true, uscite.testo, uscite.documento);
+    if (!corsa.esegui(0, uscita)) return false;
+    annotaRisultati(esito);
+    esito.fileRelazione = uscita.relazione();
+    esito.fileScritti.push_back(esito.fileRelazione);
+    scriviUscite(uscite, corsa.dialogo(), esito);
+    return true;
+}
+
+}  // namespace korven::batch

@@ -1,0 +1,27 @@
+#include "commands/report_print.hpp"
+
+#include <filesystem>
+
+#include "base/files.hpp"
+#include "base/translated_texts.hpp"
+#include "project/project_data.hpp"
+#include "report/print_renderer.hpp"
+
+namespace korven::commands {
+
+std::string titoloRelazione() {
+    return "KORVEN 32 - " + std::filesystem::path(project::fileCorrente).filename().string();
+}
+
+void stampaRelazione(const std::string& relazione, const ApriStampante& apri,
+                     base::Dialogo& dialogo) {
+    if (!base::esisteFile(relazione)) return;
+    dialogo.puntatore(base::Puntatore::normale);
+    try {
+        if (const auto stampante = apri()) report::printReport(relazione, *stampante, dialogo);
+    } catch (const report::PrinterError& errore) {
+        dialogo.messaggio(errore.what(), base::traduttore("ATTENZIONE") + "!", base::Icona::avviso);
+    }
+}
+
+}  // namespace korven::commands

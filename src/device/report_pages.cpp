@@ -1,0 +1,175 @@
+#include "device/report_pages.hpp"
+
+#include <QBuffer>
+#include <QPagedPaintDevice>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QPrinter>
+#include <QPrinterInfo>
+
+#include "base/files.hpp"
+#include "base/translated_texts.hpp"
+#include "device/least_margins.hpp"
+#include "device/qt_text.hpp"
+#include "device/report_fonts.hpp"
+#include "report/reset_arguments.hpp"
+
+namespace korven::device {
+
+namespace {
+
+constexpr double puntiPerPollice = 72;
+constexpr double millimetriPerPollice = 25.4;
+
+// A report counts its page one centimetre short of the sheet, half of which is the edge that usual
+// printers leave: only from there on does it stand in the middle [points].
+constexpr double bordoFoglio = report::pointsPerCentimetre / 2;
+
+// Further out nothing is on any sheet, and the numbers of a page description end [points].
+constexpr double limite = 100000;
+
+// Texts on the pages of a device; what becomes of the pages is for those derived from it.
+class PagineRelazione : public report::ReportPrinter {
+ public:
+    explicit PagineRelazione(QPagedPaintDevice& carta) : carta_(carta) {
+        carattere_ = &caratteri_.carattere({});
+    }
+
+    report::SheetSize sheet() override {
+        const QRectF foglio = carta_.pageLayout().fullRect(QPageLayout::Millimeter);
+        constexpr double punti = puntiPerPollice / millimetriPerPollice;
+        return {foglio.width() * punti, foglio.height() * punti};
+    }
+    void setFont(const report::ReportFont& font) override {
+        carattere_ = &caratteri_.carattere(font);
+        corpo_ = corpoStampato(font.size);
+    }
+    double textWidth(std::string_view testo) override {
+        return carattere_->larghezza(testo, corpo_);
+    }
+    double textHeight() override { return carattere_->altezza * corpo_; }
+    double lineStep() override { return carattere_->interlinea * corpo_; }
+
+    void startPage() override {
+        const bool riuscita = pittore_.isActive() ? carta_.newPage() : comincia();
+        if (!riuscita) fallita();
+    }
+    void write(double x, double y, std::string_view testo) override {
+        if (!(x > -limite && x < limite && y > -limite && y < limite)) return;
+        // Written at the size of the font and scaled: a size in whole pixels would round it.
+        const double scala = corpo_ / carattere_->font.pixelSize();
+        pittore_.save();
+        pittore_.scale(carta_.logicalDpiX() / puntiPerPollice,
+                       carta_.logicalDpiY() / puntiPerPollice);
+        pittore_.translate(x, y + carattere_->ascendente * corpo_);
+        pittore_.scale(scala, scala);
+        pittore_.setFont(carattere_->font);
+        pittore_.drawText(QPointF(), qt(testo));
+        pittore_.restore();
+    }
+    void endPage() override {}
+
+ protected:
+    virtual bool comincia() { return pittore_.begin(&carta_); }
+    [[noreturn]] virtual void fallita() const = 0;
+
+    QPainter& pittore() { return pittore_; }
+
+ private:
+    QPagedPaintDevice& carta_;
+    QPainter pittore_;
+    CaratteriRelazione caratteri_;
+    CarattereRelazione* carattere_ = nullptr;
+    double corpo_ = report::defaultFontSize;
+};
+
+class SuStampante : public PagineRelazione {
+ public:
+    SuStampante(QPrinter& stampante, const QString& titolo)
+        : PagineRelazione(stampante), stampante_(stampante), margini_(stampante, bordoFoglio) {
+        stampante_.setDocName(titolo);
+    }
+    ~SuStampante() override {
+        if (!pittore().isActive()) return;
+        stampante_.abort();
+        pittore().end();
+    }
+    void endJob() override {
+        const bool riuscita = pittore().end();
+        if (!riuscita || stampante_.printerState() == QPrinter::Error || !conosciuta()) fallita();
+    }
+
+ private:
+    [[nodiscard]] bool suFile() const { return !stampante_.outputFileName().isEmpty(); }
+    [[nodiscard]] bool conosciuta() const {
+        return suFile() || !QPrinterInfo::printerInfo(stampante_.printerName()).isNull();
+    }
+    bool comincia() override { return conosciuta() && PagineRelazione::comincia(); }
+    void fallita() const override {
+        throw report::PrinterError(
+            (suFile() ? stampante_.outputFileName() : stampante_.printerName()).toStdString(), 0,
+            base::traduttore("la stampa non e' riuscita"));
+    }
+
+    QPrinter& stampante_;
+    const MarginiMinimi margini_;
+};
+
+// The file stands before the class that writes it, and so lives longer.
+struct FilePdf {
+    FilePdf(const QPageLayout& pagina, const QString& titolo) : scrittore(&byte) {
+        scrittore.setPageLayout({pagina.pageSize(), pagina.orientation(),
+                                 QMarginsF(bordoFoglio, bordoFoglio, bordoFoglio, bordoFoglio),
+                                 QPageLayout::Point});
+        scrittore.setTitle(titolo);
+        scrittore.setCreator(QStringLiteral("KORVEN 32"));
+    }
+    QBuffer byte;
+    QPdfWriter scrittore;
+};
+
+class SuPdf : private FilePdf, public PagineRelazione {
+ public:
+    SuPdf(const std::string& percorso, const QPageLayout& pagina, const QString& titolo)
+        : FilePdf(pagina, titolo), PagineRelazione(scrittore), percorso_(percorso) {}
+
+    void endJob() override {
+        pittore().end();
+        byte.close();
+        const QByteArray& tutti = byte.data();
+        try {
+            base::scriviFile(percorso_,
+                             {tutti.constData(), static_cast<std::size_t>(tutti.size())});
+        } catch (const base::ErroreFile& errore) {
+            throw report::PrinterError(errore.percorso(), errore.riga(), errore.atteso());
+        }
+    }
+
+ private:
+    bool comincia() override {
+        byte.open(QIODevice::WriteOnly | QIODevice::Truncate);
+        return PagineRelazione::comincia();
+    }
+    void fallita() const override {
+        throw report::PrinterError(percorso_, 0, base::traduttore("la stampa non e' riuscita"));
+    }
+
+    std::string percorso_;
+};
+
+}  // namespace
+
+std::unique_ptr<report::ReportPrinter> relazioneSuStampante(QPrinter& stampante,
+                                                            const QString& titolo) {
+    return std::make_unique<SuStampante>(stampante, titolo);
+}
+
+std::unique_ptr<report::ReportPrinter> relazioneSuPdf(const std::string& percorso,
+                                                      const QPageLayout& pagina,
+                                                      const QString& titolo) {
+    return std::make_unique<SuPdf>(percorso, pagina, titolo);
+}
+
+QPageLayout paginaA4() { return {QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF()}; }
+
+}  // namespace korven::device

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QPageLayout>
+#include <QString>
+#include <memory>
+#include <string>
+
+#include "report/report_printer.hpp"
+
+class QPrinter;
+
+namespace korven::device {
+
+/// The report on the pages of a printer, or in the file that the printer writes. Pages are measured
+/// from their printable edge, or from half a centimetre where that is less. A job that an error cuts short is taken back when the printer given
+/// out is deleted. The process needs a QGuiApplication.
+///
+/// A printer that the system no longer knows is told before the first page, and again at the end of
+/// the job: the pages go to the queue when the job ends, which tells nobody whether they arrived.
+/// @param stampante  not owned; its margins are its own again afterwards
+/// @param titolo     name of the job in the queue
+[[nodiscard]] std::unique_ptr<report::ReportPrinter> relazioneSuStampante(QPrinter& stampante,
+                                                                          const QString& titolo);
+
+/// The report as a PDF file, written whole or not at all when the job ends; a second job replaces
+/// the first.
+/// @param pagina  whose sheet and orientation are taken, not its margins
+/// @param titolo  name of the document
+[[nodiscard]] std::unique_ptr<report::ReportPrinter> relazioneSuPdf(const std::string& percorso,
+                                                                    const QPageLayout& pagina,
+                                                                    const QString& titolo);
+
+/// An upright A4 page.
+[[nodiscard]] QPageLayout paginaA4();
+
+}  // namespace korven::device
