@@ -15,6 +15,7 @@
 #include "shell/application.hpp"
 #include "shell/dialogo_qt.hpp"
 #include "shell/file_dialogs_qt.hpp"
+#include "shell/guida_porta.hpp"
 #include "shell/informazioni.hpp"
 #include "shell/menu1.hpp"
 #include "shell/progress_qt.hpp"
@@ -44,6 +45,7 @@ commands::FormeProgramma forme(shell::Menu1& finestra) {
     tutte.informazioni = [&finestra](const std::string& fileCorrente) {
         shell::Informazioni(fileCorrente, &finestra).exec();
     };
+    shell::collegaGuida(tutte, finestra);
     return tutte;
 }
 
