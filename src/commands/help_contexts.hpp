@@ -7,6 +7,14 @@ namespace korven::commands {
 
 inline constexpr int ultimaVoceAiuto = 200;
 
+// Entries of the forms that no menu item names; those of the menu stand in menu_tree.cpp.
+inline constexpr int voceGrafica = 28;
+inline constexpr int voceConfStampa = 29;
+inline constexpr int voceTempCalc = 30;
+inline constexpr int voceGuida = 31;
+inline constexpr int voceInformazioni = 32;
+inline constexpr int voceSelezling = 33;
+
 /// The table of help contexts, entries 0 to 200: menu items and masks name an entry, the entry
 /// holds the number under which the help files keep the page. Entry n is page n, so that a page can
 /// be found from either side; entry 0 stands for no page of its own.

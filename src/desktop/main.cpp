@@ -16,6 +16,7 @@
 #include "shell/definej.hpp"
 #include "shell/dialogo_qt.hpp"
 #include "shell/file_dialogs_qt.hpp"
+#include "shell/guida_porta.hpp"
 #include "shell/informazioni.hpp"
 #include "shell/mask_forms.hpp"
 #include "shell/menu1.hpp"
@@ -51,12 +52,12 @@ commands::FormeProgramma forme(shell::Menu1& finestra, base::Dialogo& dialogo,
     tutte.informazioni = [&finestra](const std::string& fileCorrente) {
         shell::Informazioni(fileCorrente, &finestra).exec();
     };
-    shell::innestaSezione(tutte, &finestra);
-    shell::innestaDisegni(tutte, finestra, dialogo,
-                          [&stampante]() -> QPrinter& { return stampante.stampante(); });
+    shell::collegaGuida(tutte, finestra);
+    shell::collegaSezione(tutte, &finestra);
     shell::collegaMaschere(tutte, dialogo, &finestra);  // behind the help, which their forms open
-    shell::collegaRelazione(tutte, finestra, dialogo,
-                            [&stampante]() -> QPrinter& { return stampante.stampante(); });
+    const auto condivisa = [&stampante]() -> QPrinter& { return stampante.stampante(); };
+    shell::collegaDisegni(tutte, finestra, dialogo, condivisa);
+    shell::collegaRelazione(tutte, finestra, dialogo, condivisa);
     return tutte;
 }
 

@@ -246,7 +246,7 @@ bool DefinEJ::eventFilter(QObject* controllo, QEvent* evento) {
     return QDialog::eventFilter(controllo, evento);
 }
 
-void innestaSezione(commands::FormeProgramma& forme, QWidget* padre) {
+void collegaSezione(commands::FormeProgramma& forme, QWidget* padre) {
     forme.sezione = [padre] {
         DefinEJ(project::Progetto.sezione, project::modificato, padre).exec();
     };

@@ -51,6 +51,6 @@ class DefinEJ : public QDialog {
 };
 
 /// Puts the form of the section of the open project behind its command.
-void innestaSezione(commands::FormeProgramma& forme, QWidget* padre);
+void collegaSezione(commands::FormeProgramma& forme, QWidget* padre);
 
 }  // namespace korven::shell

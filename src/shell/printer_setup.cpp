@@ -50,7 +50,7 @@ void impostaStampante(QPrinter& stampante, bool haStampanti, base::Dialogo& dial
     scegliFoglio(stampante, padre);
 }
 
-void innestaDisegni(commands::FormeProgramma& forme, QWidget& principale, base::Dialogo& dialogo,
+void collegaDisegni(commands::FormeProgramma& forme, QWidget& principale, base::Dialogo& dialogo,
                     std::function<QPrinter&()> stampante) {
     struct Disegni {
         Disegni(QWidget& finestra, base::Dialogo& d, const std::function<QPrinter&()>& carta)

@@ -21,7 +21,7 @@ void impostaStampante(QPrinter& stampante, bool haStampanti, base::Dialogo& dial
 /// From here on drawings appear in the viewer, which lives as long as a copy of `forme`.
 /// @param principale  the main form; it and the dialog must outlive `forme`
 /// @param stampante   the printer of the program, called when it is needed
-void innestaDisegni(commands::FormeProgramma& forme, QWidget& principale, base::Dialogo& dialogo,
+void collegaDisegni(commands::FormeProgramma& forme, QWidget& principale, base::Dialogo& dialogo,
                     std::function<QPrinter&()> stampante);
 
 }  // namespace korven::shell

@@ -359,7 +359,7 @@ TEST_F(FormaSezione, HasANameAndAHelpPage) {
 
 TEST_F(FormaSezione, OpensOnTheProjectFromItsCommand) {
     commands::FormeProgramma forme;
-    innestaSezione(forme, nullptr);
+    collegaSezione(forme, nullptr);
     const project::DatiProgetto salvato = project::Progetto;
     project::azzeraProgetto();
     project::modificato = false;

@@ -85,7 +85,7 @@ TEST_F(Stampante, KeepsItsSheetWhenTheUserGivesUp) {
 class Disegni : public test::ProvaPlot {
  protected:
     Disegni() {
-        innestaDisegni(forme, principale, dialogo, [this]() -> QPrinter& {
+        collegaDisegni(forme, principale, dialogo, [this]() -> QPrinter& {
             ++chiesta;
             return programma.stampante();
         });

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace korven::commands {
+
+/// The entry of the table of help contexts of a window, by its name: "GRAFICA", "Editacfg". 0 for a
+/// window that has none of its own.
+[[nodiscard]] int voceForma(std::string_view finestra);
+
+/// True where F1 does nothing: the field form, whose help is on its button.
+[[nodiscard]] bool senzaF1(std::string_view finestra);
+
+/// The place within a page that tells of a control: "campo" and its name up to "_", behind which
+/// stands the number of one among equals. "Option1_3" gives "campoOption1", "4" gives "campo4".
+/// Empty for a control without a name.
+[[nodiscard]] std::string ancoraCampo(std::string_view controllo);
+
+}  // namespace korven::commands

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace korven::tools {
+
+/// What the mark-up of a page became, and what has to be checked about it.
+struct HelpBody {
+    std::string html;                  ///< one block a line, ASCII and Windows-1252 characters
+    std::vector<std::string> anchors;  ///< places that can be jumped to, as "campo3"
+    std::vector<std::string> links;    ///< where links lead: "parametri", "parametri#campo3"
+    std::string fault;                 ///< what was expected, where the mark-up is broken
+    std::size_t faultLine = 0;         ///< index of the line with the fault
+};
+
+/// Turns the lines of a page into HTML, in the tags that the viewer shows; the head of
+/// data/guida/ita.txt tells the mark-up. Characters that Windows-1252 lacks become numeric
+/// entities.
+[[nodiscard]] HelpBody helpBody(const std::vector<std::string_view>& lines);
+
+}  // namespace korven::tools
