@@ -273,6 +273,7 @@ TEST_F(MovimentiCampi, TellAFaultInOneBoxWithAStopSign) {
         ASSERT_TRUE(QTest::qWaitForWindowActive(&sopra));
         EXPECT_EQ(sopra.focusWidget(), &casella);
         EXPECT_TRUE(casella.hasFocus());
+        EXPECT_EQ(casella.selectedText(), "11") << "what is typed next takes its place";
     }
     EXPECT_EQ(quanti, 3);
     EXPECT_TRUE(detto.endsWith("all'intervallo:\n-5; 10")) << detto.toStdString();
