@@ -36,7 +36,10 @@ void prepara(QFileDialog& dialogo, const QString& titolo, QFileDialog::AcceptMod
 std::optional<std::string> risposta(QFileDialog& dialogo) {
     if (dialogo.exec() != QDialog::Accepted || dialogo.selectedFiles().isEmpty())
         return std::nullopt;
-    return QFileInfo(dialogo.selectedFiles().first()).absoluteFilePath().toStdString();
+    const QFileInfo scelto(dialogo.selectedFiles().first());
+    // The current folder follows the choice, so that a new project is saved where it was named.
+    QDir::setCurrent(scelto.absolutePath());
+    return scelto.absoluteFilePath().toStdString();
 }
 
 }  // namespace

@@ -63,6 +63,7 @@ GridView::GridView(project::GridModel& modello, base::Dialogo& dialogo,
     for (auto* testata : {horizontalHeader(), verticalHeader()})
         testata->setSectionsClickable(false);
     horizontalHeader()->setHighlightSections(true);
+    verticalHeader()->setDefaultAlignment(Qt::AlignCenter);
     constexpr int aria = 8;
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + aria);

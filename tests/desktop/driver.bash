@@ -56,6 +56,7 @@ until_true xdotool get_num_desktops || fail "no window manager"
 
 active() { xdotool getactivewindow getwindowname 2>/dev/null || true; }
 is_active() { [ "$(active)" = "$1" ]; }
+is_other_window() { [ -n "$(active)" ] && ! is_active "$1"; }
 is_active_or_ended() { is_active "$1" || ! kill -0 "$program"; }
 
 # window TITLE: waits until the window with this title has the keyboard

@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <filesystem>
 
 #include "support/desktop_bench.hpp"
 #include "support/temporary_folder.hpp"
@@ -37,6 +38,17 @@ TEST_F(DialoghiFile, TakeTheNameOfAProjectThatDoesNotExistYet) {
     });
     EXPECT_EQ(dialoghi.apri(""), lavori / "muro");
     EXPECT_EQ(titolo, "Apri un progetto o scrivi il nome di uno nuovo");
+}
+
+TEST_F(DialoghiFile, BeginWhereTheLastNameWasChosen) {
+    std::filesystem::create_directory(lavori / "nuovi");
+    const std::string nome = lavori / "nuovi/muro";
+    {
+        const Dialogo dialogo([&](QFileDialog& d) { scrivi(d, nome.c_str()); });
+        EXPECT_EQ(dialoghi.apri(""), nome);
+    }
+    const Dialogo dialogo([](QFileDialog& d) { scrivi(d, "muro.kvd"); });
+    EXPECT_EQ(dialoghi.salva("muro.kvd"), nome + ".kvd");
 }
 
 TEST_F(DialoghiFile, LeaveTheQuestionWhetherToReplaceAFileToTheCommand) {

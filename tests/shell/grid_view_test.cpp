@@ -274,6 +274,20 @@ TEST_F(VistaGriglia, MovesInsideTheEditorByItsOwnKeys) {
     EXPECT_EQ(cella(1, 1), "1.3");
 }
 
+TEST_F(VistaGriglia, KeepsTheArrowsInsideTheEditorAndOpensTheHelpFromIt) {
+    tasto(Qt::Key_F2);
+    for (const auto quale : {Qt::Key_Left, Qt::Key_Up, Qt::Key_Down}) tasto(quale);
+    EXPECT_TRUE(editore().isVisible());
+    EXPECT_EQ(cursore(), "1,1");
+    scrivi("2");
+    EXPECT_EQ(editore().text(), "23");
+    tasto(Qt::Key_F1);
+    EXPECT_EQ(aperti.size(), 1U);
+    tasto(Qt::Key_PageDown);
+    EXPECT_EQ(cella(1, 1), "23");
+    EXPECT_FALSE(editore().isVisible());
+}
+
 TEST_F(VistaGriglia, LeavesAReadOnlyColumnAsItIs) {
     maschera.campi[1].soloLettura = true;
     scrivi("9");
