@@ -43,4 +43,6 @@ std::string ancoraCampo(std::string_view controllo) {
     return controllo.empty() ? std::string() : "campo" + std::string(controllo);
 }
 
+std::string ancoraColonna(int colonna) { return ancoraCampo(std::to_string(colonna + 2)); }
+
 }  // namespace korven::commands

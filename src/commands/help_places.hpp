@@ -17,4 +17,8 @@ namespace korven::commands {
 /// Empty for a control without a name.
 [[nodiscard]] std::string ancoraCampo(std::string_view controllo);
 
+/// The same for the cursor in a grid: its first column of data, 0, is field 2 of the mask, behind
+/// the row numbers.
+[[nodiscard]] std::string ancoraColonna(int colonna);
+
 }  // namespace korven::commands

@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMenuBar>
+#include <QTableView>
 #include <QTimer>
 #include <QVariant>
 #include <QWindow>
@@ -32,6 +33,8 @@ int voceDi(const QWidget& controllo) {
 }
 
 void aggiungiAncora(const QWidget& controllo, std::vector<std::string>& ancore) {
+    if (const auto* griglia = qobject_cast<const QTableView*>(&controllo))
+        ancore.push_back(commands::ancoraColonna(griglia->currentIndex().column()));
     const std::string campo = controllo.property(proprietaCampo).toString().toStdString();
     for (const auto& nome : {campo, nomeDi(controllo)})
         if (!nome.empty()) ancore.push_back(commands::ancoraCampo(nome));
