@@ -9,7 +9,8 @@ namespace korven::commands {
 /// window that has none of its own.
 [[nodiscard]] int voceForma(std::string_view finestra);
 
-/// True where F1 does nothing: the field form, whose help is on its button.
+/// True where F1 does nothing: the field form, whose help is on its button. Behind "_" its name has
+/// the entry of its mask.
 [[nodiscard]] bool senzaF1(std::string_view finestra);
 
 /// The place within a page that tells of a control: "campo" and its name up to "_", behind which

@@ -42,10 +42,10 @@ void traduciQt(QCoreApplication& applicazione) {
 // What is behind the commands, plugged in form by form.
 commands::FormeProgramma forme(shell::Menu1& finestra) {
     commands::FormeProgramma tutte;
+    shell::collegaGuida(tutte, finestra);  // first: the forms behind it have help buttons
     tutte.informazioni = [&finestra](const std::string& fileCorrente) {
         shell::Informazioni(fileCorrente, &finestra).exec();
     };
-    shell::collegaGuida(tutte, finestra);
     return tutte;
 }
 

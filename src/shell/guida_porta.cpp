@@ -9,6 +9,7 @@
 #include <QVariant>
 #include <QWindow>
 
+#include "base/files.hpp"
 #include "commands/help_contexts.hpp"
 #include "commands/help_places.hpp"
 #include "commands/language_start.hpp"
@@ -136,6 +137,7 @@ bool PortaGuida::eventFilter(QObject* oggetto, QEvent* evento) {
 }
 
 void collegaGuida(commands::FormeProgramma& forme, QWidget& principale) {
+    if (!base::esisteFile(commands::fileAiuto)) return;
     // The box of a broken help file, above whatever window is active.
     struct Porta : DialogoQt, PortaGuida {
         explicit Porta(QWidget& sotto) : PortaGuida(sotto, *static_cast<DialogoQt*>(this)) {

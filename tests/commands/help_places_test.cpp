@@ -11,7 +11,7 @@ namespace {
 TEST(VoceForma, IsThatOfTheMenuItemWhereOneOpensTheForm) {
     EXPECT_EQ(voceForma("Editacfg"), voce(Comando::configura).aiuto);
     EXPECT_EQ(voceForma("DefinEJ"), voce(Comando::editRigidezza).aiuto);
-    EXPECT_EQ(voceForma("anteprima"), voce(Comando::stampaVideo).aiuto);
+    EXPECT_EQ(voceForma("Form1"), voce(Comando::stampaVideo).aiuto);
     EXPECT_EQ(voceForma("apri"), voce(Comando::fileApri).aiuto);
     EXPECT_EQ(voceForma("salva"), voce(Comando::fileSalva).aiuto);
 }
@@ -31,6 +31,7 @@ TEST(VoceForma, IsZeroForAnyOtherWindow) {
 
 TEST(SenzaF1, HoldsForTheFieldFormAlone) {
     EXPECT_TRUE(senzaF1("base1"));
+    EXPECT_TRUE(senzaF1("base1_6"));
     EXPECT_FALSE(senzaF1("base2_32"));
     EXPECT_FALSE(senzaF1(""));
 }

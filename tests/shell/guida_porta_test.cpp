@@ -114,7 +114,7 @@ TEST_F(Porta, KnowsFormsAndFieldsByTheirNames) {
 }
 
 TEST_F(Porta, GoesToTheColumnOfAGrid) {
-    Forma forma("base2_32");
+    Forma forma("base2_32_5");
     forma.setProperty("contestoAiuto", 5);
     QTableWidget griglia(3, 7, &forma);
     griglia.setCurrentCell(0, 2);
@@ -124,7 +124,7 @@ TEST_F(Porta, GoesToTheColumnOfAGrid) {
 }
 
 TEST_F(Porta, LeavesF1OfTheFieldFormAlone) {
-    Forma forma("base1");
+    Forma forma("base1_6");
     forma.setProperty("contestoAiuto", 5);
     EXPECT_EQ(f1(*forma.campo), "");
 }
@@ -202,6 +202,14 @@ TEST_F(Porta, StaysUsableWhenFormsAndBoxesComeAndGoWhileItIsOpen) {
     prova();
     EXPECT_EQ(risponde, (std::vector<bool>{true, true, true, true, true}));
     EXPECT_TRUE(aperta());
+}
+
+TEST_F(Porta, DoesNotPlugInWhereThereIsNoHelpFile) {
+    commands::FormeProgramma forme;
+    commands::fileAiuto = cartella / "manca.hlp";
+    collegaGuida(forme, principale);
+    EXPECT_FALSE(forme.aiuto);
+    EXPECT_FALSE(forme.sommario);
 }
 
 TEST_F(Porta, PlugsIntoTheCommandsOfTheProgram) {
