@@ -164,10 +164,13 @@ class Blocks {
         emit("<h3><a name=\"" + anchor + "\"></a>" + shown(line.substr(blank + 1)) + "</h3>");
     }
 
+    // Blanks in a row part two formulas of a line.
     void formula() {
         std::string text;
         for (; at_ < lines_.size() && lines_[at_].starts_with("= "); ++at_)
             text += (text.empty() ? "" : "<br/>") + shown(lines_[at_].substr(2));
+        for (auto i = text.find("  "); i != std::string::npos; i = text.find("  ", i))
+            text.replace(i, 2, "&#160; ");
         emit("<p class=\"formula\">" + text + "</p>");
     }
 

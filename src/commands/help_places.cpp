@@ -23,7 +23,7 @@ constexpr Posto posti[] = {
     {"INFORMAZIONI", voceInformazioni},
     {"selezling", voceSelezling},
     {"DefinEJ", 7},
-    {"anteprima", 19},
+    {"Form1", 19},
     {"apri", 3},
     {"salva", 4},
 };
@@ -36,11 +36,15 @@ int voceForma(std::string_view finestra) {
     return trovato == std::end(posti) ? 0 : trovato->voce;
 }
 
-bool senzaF1(std::string_view finestra) { return finestra == "base1"; }
+bool senzaF1(std::string_view finestra) {
+    return finestra.substr(0, finestra.find('_')) == "base1";
+}
 
 std::string ancoraCampo(std::string_view controllo) {
     controllo = controllo.substr(0, controllo.find('_'));
     return controllo.empty() ? std::string() : "campo" + std::string(controllo);
 }
+
+std::string ancoraColonna(int colonna) { return ancoraCampo(std::to_string(colonna + 2)); }
 
 }  // namespace korven::commands

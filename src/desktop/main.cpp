@@ -49,12 +49,12 @@ void traduciQt(QCoreApplication& applicazione) {
 commands::FormeProgramma forme(shell::Menu1& finestra, base::Dialogo& dialogo,
                                shell::StampanteProgramma& stampante) {
     commands::FormeProgramma tutte;
+    shell::collegaGuida(tutte, finestra);  // first: the forms behind it have help buttons
     tutte.informazioni = [&finestra](const std::string& fileCorrente) {
         shell::Informazioni(fileCorrente, &finestra).exec();
     };
-    shell::collegaGuida(tutte, finestra);
     shell::collegaSezione(tutte, &finestra);
-    shell::collegaMaschere(tutte, dialogo, &finestra);  // behind the help, which their forms open
+    shell::collegaMaschere(tutte, dialogo, &finestra);
     const auto condivisa = [&stampante]() -> QPrinter& { return stampante.stampante(); };
     shell::collegaDisegni(tutte, finestra, dialogo, condivisa);
     shell::collegaRelazione(tutte, finestra, dialogo, condivisa);

@@ -17,6 +17,7 @@
 #include "commands/help_search.hpp"
 #include "shell/form_sizes.hpp"
 #include "shell/guida_browser.hpp"
+#include "shell/guida_results.hpp"
 #include "shell/qt_text.hpp"
 
 namespace korven::shell {
@@ -52,7 +53,7 @@ FinestraGuida::FinestraGuida(commands::Guida guida) : guida_(std::move(guida)) {
     divisa->addWidget(fareColonna());
     divisa->addWidget(pagina_);
     divisa->setStretchFactor(1, 1);
-    divisa->setSizes({290, 660});
+    divisa->setSizes({320, 660});
     auto* tutto = new QVBoxLayout(this);
     tutto->setContentsMargins(6, 4, 6, 6);
     tutto->setSpacing(4);
@@ -60,8 +61,9 @@ FinestraGuida::FinestraGuida(commands::Guida guida) : guida_(std::move(guida)) {
     tutto->addWidget(divisa, 1);
     fareScorciatoie();
     riempiAlbero();
-    connect(pagina_, &QTextBrowser::sourceChanged, this, [this] { segui(); });
-    if (!ripristinaMisure(*this)) resize(960, 680);
+    connect(pagina_, &QTextBrowser::sourceChanged, this,
+            [this](const QUrl& indirizzo) { segui(indirizzo); });
+    if (!ripristinaMisure(*this)) resize(1000, 700);
     setMinimumSize(560, 360);
     pagina_->ingrandisci(QSettings().value(QLatin1String(chiaveCaratteri), 0).toInt());
 }
@@ -115,7 +117,9 @@ QWidget* FinestraGuida::fareColonna() {
     trovate_ = new QListWidget(risultati_);
     trovate_->setObjectName(QStringLiteral("trovate"));
     trovate_->setAccessibleName(tradotto("Pagine trovate"));
-    trovate_->setWordWrap(true);
+    trovate_->setItemDelegate(new TrovateDelegate(trovate_));
+    trovate_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    trovate_->setResizeMode(QListView::Adjust);
     trovate_->setAlternatingRowColors(true);
     auto* sotto = new QVBoxLayout(risultati_);
     sotto->setContentsMargins(0, 0, 0, 0);
@@ -200,8 +204,8 @@ void FinestraGuida::cerca(const QString& testo) {
     const std::string cercato = testo.toStdString();
     trovate_->clear();
     for (const auto& trovata : commands::cercaNellaGuida(guida_, cercato)) {
-        auto* voce = new QListWidgetItem(
-            qt(trovata.pagina->titolo) + QLatin1Char('\n') + qt(trovata.brano), trovate_);
+        auto* voce = new QListWidgetItem(qt(trovata.pagina->titolo), trovate_);
+        voce->setData(datoBrano, qt(trovata.brano));
         voce->setData(datoPagina, static_cast<qulonglong>(trovata.pagina - guida_.pagine.data()));
     }
     conto_->setText(trovate_->count() == 0 ? tradotto("Nessuna pagina trovata")
@@ -218,15 +222,15 @@ void FinestraGuida::apriTrovata() {
         mostra(guida_.pagine[voce->data(datoPagina).toULongLong()]);
 }
 
-void FinestraGuida::segui() {
-    const auto* pagina = pagina_->pagina();
+void FinestraGuida::segui(const QUrl& indirizzo) {
+    const auto* pagina = pagina_->paginaDi(indirizzo);
     if (pagina == nullptr) return;
     const auto indice = static_cast<qulonglong>(pagina - guida_.pagine.data());
     for (QTreeWidgetItemIterator voce(albero_); *voce != nullptr; ++voce)
         if ((*voce)->data(0, datoPagina).isValid() &&
             (*voce)->data(0, datoPagina).toULongLong() == indice)
             albero_->setCurrentItem(*voce);
-    pagina_->evidenzia(commands::paroleCercate(cerca_->text().toStdString()));
+    pagina_->evidenzia(commands::paroleCercate(cerca_->text().toStdString()), indirizzo.fragment());
 }
 
 void FinestraGuida::ingrandisci(int passi) {

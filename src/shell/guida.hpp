@@ -42,7 +42,7 @@ class FinestraGuida : public QWidget {
     void riempiAlbero();
     void cerca(const QString& testo);
     void apriTrovata();
-    void segui();
+    void segui(const QUrl& indirizzo);
     void ingrandisci(int passi);
 
     const commands::Guida guida_;

@@ -18,11 +18,11 @@ class GuidaBrowser : public QTextBrowser {
     /// Goes to a page, and in it to a place if it has that.
     void vai(const commands::PaginaGuida& pagina, const std::string& ancora = {});
 
-    /// The page shown; nullptr before the first.
-    [[nodiscard]] const commands::PaginaGuida* pagina() const;
+    /// The page of an address; nullptr if it is none.
+    [[nodiscard]] const commands::PaginaGuida* paginaDi(const QUrl& indirizzo) const;
 
-    /// Marks the words of a search in the page shown; none for an empty list.
-    void evidenzia(const std::vector<std::string>& parole);
+    /// Marks in the page shown the words of a search and the heading of a place.
+    void evidenzia(const std::vector<std::string>& parole, const QString& ancora = {});
 
     /// Larger or smaller letters, within bounds; `passi` counts from the size of the desktop.
     void ingrandisci(int passi);

@@ -4,10 +4,12 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMenuBar>
+#include <QTableView>
 #include <QTimer>
 #include <QVariant>
 #include <QWindow>
 
+#include "base/files.hpp"
 #include "commands/help_contexts.hpp"
 #include "commands/help_places.hpp"
 #include "commands/language_start.hpp"
@@ -32,6 +34,8 @@ int voceDi(const QWidget& controllo) {
 }
 
 void aggiungiAncora(const QWidget& controllo, std::vector<std::string>& ancore) {
+    if (const auto* griglia = qobject_cast<const QTableView*>(&controllo))
+        ancore.push_back(commands::ancoraColonna(griglia->currentIndex().column()));
     const std::string campo = controllo.property(proprietaCampo).toString().toStdString();
     for (const auto& nome : {campo, nomeDi(controllo)})
         if (!nome.empty()) ancore.push_back(commands::ancoraCampo(nome));
@@ -133,6 +137,7 @@ bool PortaGuida::eventFilter(QObject* oggetto, QEvent* evento) {
 }
 
 void collegaGuida(commands::FormeProgramma& forme, QWidget& principale) {
+    if (!base::esisteFile(commands::fileAiuto)) return;
     // The box of a broken help file, above whatever window is active.
     struct Porta : DialogoQt, PortaGuida {
         explicit Porta(QWidget& sotto) : PortaGuida(sotto, *static_cast<DialogoQt*>(this)) {

@@ -54,7 +54,9 @@ class PortaGuida : public QObject {
     QPointer<QWidget> sopra_;  // the window that the help belongs to for the moment
 };
 
-/// Plugs the help into the commands of the program: the door lives as long as the main form.
+/// Plugs the help into the commands of the program: the door lives as long as the main form. Where
+/// the program has no help file, nothing is plugged in: the commands can't be chosen then, and the
+/// help buttons of the forms show the reference of their mask.
 void collegaGuida(commands::FormeProgramma& forme, QWidget& principale);
 
 }  // namespace korven::shell
