@@ -83,12 +83,12 @@ class Reader {
 
     void mask() {
         const auto word = words(*line_);
-        const auto kind = word.size() == 3 ? wholeNumber(word[2]) : std::nullopt;
-        if (word[0] != maskMark || !kind || *kind < 1 || *kind > 4)
+        const int kind = word.size() == 3 ? wholeNumber(word[2]).value_or(0) : 0;
+        if (word[0] != maskMark || kind < 1 || kind > 4)
             lines_.refuse("attesa una riga \"@maschera FILE TIPO\", con il tipo da 1 a 4");
         MaskSource& made = masks_.emplace_back();
         made.file = word[1];
-        made.kind = *kind;
+        made.kind = kind;
         advance();
         made.title = namedValue("titolo:");
         const auto context = wholeNumber(namedValue("guida:"));
