@@ -30,7 +30,7 @@ void stampaPdf(benchmark::State& stato) {
     const Relazione relazione;
     test::PorteMute dialogo;
     for (auto _ : stato) {
-        const auto carta = device::relazioneSuPdf(relazione.pdf, device::paginaA4(), "muro");
+        const auto carta = device::relazioneSuPdf(relazione.pdf, "muro");
         report::printReport(relazione.percorso, *carta, dialogo);
     }
     const auto byte = std::filesystem::file_size(relazione.pdf);
