@@ -1,48 +1,24 @@
 #include <benchmark/benchmark.h>
 
-#include <cmath>
 #include <map>
 #include <memory>
 #include <string>
 
-#include "base/code_page.hpp"
 #include "base/text_lines.hpp"
-#include "example_run.hpp"
-#include "report/calculation_report.hpp"
+#include "largest_report.hpp"
 #include "report/character_widths.hpp"
 #include "report/estimated_width.hpp"
 #include "report/preview_renderer.hpp"
 #include "report/print_renderer.hpp"
 
-// The report of a wall with all the stages that a project holds, at the finest mesh: about 5000
-// rows of results, laid out on pages and in the list of the preview.
+// The largest report there can be, laid out on pages and in the list of the preview, without Qt.
 
 namespace {
 
 using namespace korven;
 
-constexpr int fasi = project::massimoFasi;
-constexpr int nNodi = 250;
-
-// Displacements and moments of made-up stages; what they are does not matter to the layout, how
-// long their numbers are does.
-std::string relazione() {
-    report::DatiRelazione dati;
-    dati.progetto = bench::esempio("paratia_lunga_incastro");
-    dati.progetto.nFasi = fasi;
-    dati.nNodi = nNodi;
-    dati.passo = dati.progetto.lunghezzaParatia / (nNodi - 1);
-    dati.fasi.resize(fasi);
-    dati.azioni.resize(fasi);
-    for (int k = 1; k <= fasi; ++k) {
-        auto& fase = dati.fasi[static_cast<std::size_t>(k - 1)];
-        for (int i = 1; i <= nNodi; ++i) {
-            fase.yNodo[i] = 0.001 * k * std::cos(0.02 * i);
-            fase.momentoNodo[i] = 5.0 * k * std::sin(0.05 * i);
-        }
-    }
-    return base::inCp1252(report::testoRelazione(dati));
-}
+using bench::fasi;
+using bench::nNodi;
 
 // Widths of a font without a device, asked for each character once, as a program with a window
 // does it.
@@ -95,7 +71,7 @@ class Elenco : public report::PreviewList {
 };
 
 void stampa(benchmark::State& stato) {
-    const std::string testo = relazione();
+    const std::string testo = bench::relazionePiuLunga();
     for (auto _ : stato) {
         Stampante stampante;
         base::LettoreRighe file("muro.TAB", testo);
@@ -109,7 +85,7 @@ void stampa(benchmark::State& stato) {
 }
 
 void anteprima(benchmark::State& stato) {
-    const std::string testo = relazione();
+    const std::string testo = bench::relazionePiuLunga();
     for (auto _ : stato) {
         Elenco elenco;
         base::LettoreRighe file("muro.TAB", testo);

@@ -1,8 +1,5 @@
 #include "batch/report_output.hpp"
 
-#include <QPrinter>
-#include <QPrinterInfo>
-
 #include "analysis/output_guard.hpp"
 #include "base/file_error.hpp"
 #include "base/file_names.hpp"
@@ -12,7 +9,6 @@
 #include "batch/interruption.hpp"
 #include "commands/report_export.hpp"
 #include "commands/report_print.hpp"
-#include "device/qt_text.hpp"
 #include "device/report_pages.hpp"
 #include "project/project_data.hpp"
 #include "report/print_renderer.hpp"
@@ -20,16 +16,6 @@
 namespace korven::batch {
 
 namespace {
-
-void controllaStampante(const std::string& nome) {
-    const QStringList note = QPrinterInfo::availablePrinterNames();
-    if (note.contains(device::qt(nome))) return;
-    std::string perche = base::traduttore("stampante non trovata");
-    if (!note.isEmpty())
-        perche += "; " + base::traduttore("stampanti disponibili") + ": " +
-                  note.join(QStringLiteral(", ")).toStdString();
-    throw base::ErroreFile(nome, 0, perche);
-}
 
 bool interrotto() { return Interruzioni::chiesta() != 0; }
 
@@ -50,16 +36,13 @@ void scriviDocumento(Esito& esito) {
 }
 
 void scriviPdf(const std::string& file, base::Dialogo& dialogo, Esito& esito) {
-    const auto pdf =
-        device::relazioneSuPdf(file, device::paginaA4(), device::qt(commands::titoloRelazione()));
+    const auto pdf = device::relazioneSuPdf(file, commands::titoloRelazione());
     report::printReport(esito.fileRelazione, *pdf, dialogo);
     annota(file, esito.filePdf, esito);
 }
 
 void stampa(const std::string& nome, base::Dialogo& dialogo, const Esito& esito) {
-    QPrinter stampante(QPrinterInfo::printerInfo(device::qt(nome)), QPrinter::HighResolution);
-    const auto pagine =
-        device::relazioneSuStampante(stampante, device::qt(commands::titoloRelazione()));
+    const auto pagine = device::relazioneSuStampante(nome, commands::titoloRelazione());
     report::printReport(esito.fileRelazione, *pagine, dialogo);
 }
 
@@ -81,7 +64,7 @@ void controllaUscite(const UsciteRelazione& uscite) {
              {risultati, relazione, commands::nomeTesto(relazione), base::nomeDocumento(relazione)})
             analysis::controllaUscita(uscite.pdf, altro);
     }
-    if (!uscite.stampante.empty()) controllaStampante(uscite.stampante);
+    if (!uscite.stampante.empty()) device::controllaStampante(uscite.stampante);
 }
 
 bool scriviRelazione(const UsciteRelazione& uscite, CorsaConsole& corsa, Esito& esito) {

@@ -115,6 +115,19 @@ class SuStampante : public PagineRelazione {
     const MarginiMinimi margini_;
 };
 
+// The printer stands before the class that prints on it, and so lives longer.
+struct Stampante {
+    explicit Stampante(const QString& nome)
+        : stampante(QPrinterInfo::printerInfo(nome), QPrinter::HighResolution) {}
+    QPrinter stampante;
+};
+
+class SuStampanteNota : private Stampante, public SuStampante {
+ public:
+    SuStampanteNota(const QString& nome, const QString& titolo)
+        : Stampante(nome), SuStampante(stampante, titolo) {}
+};
+
 // The file stands before the class that writes it, and so lives longer.
 struct FilePdf {
     FilePdf(const QPageLayout& pagina, const QString& titolo) : scrittore(&byte) {
@@ -164,12 +177,32 @@ std::unique_ptr<report::ReportPrinter> relazioneSuStampante(QPrinter& stampante,
     return std::make_unique<SuStampante>(stampante, titolo);
 }
 
+void controllaStampante(const std::string& nome) {
+    const QStringList note = QPrinterInfo::availablePrinterNames();
+    if (note.contains(qt(nome))) return;
+    std::string perche = base::traduttore("stampante non trovata");
+    if (!note.isEmpty())
+        perche += "; " + base::traduttore("stampanti disponibili") + ": " +
+                  note.join(QStringLiteral(", ")).toStdString();
+    throw report::PrinterError(nome, 0, perche);
+}
+
+std::unique_ptr<report::ReportPrinter> relazioneSuStampante(const std::string& nome,
+                                                            const std::string& titolo) {
+    controllaStampante(nome);
+    return std::make_unique<SuStampanteNota>(qt(nome), qt(titolo));
+}
+
 std::unique_ptr<report::ReportPrinter> relazioneSuPdf(const std::string& percorso,
                                                       const QPageLayout& pagina,
                                                       const QString& titolo) {
     return std::make_unique<SuPdf>(percorso, pagina, titolo);
 }
 
-QPageLayout paginaA4() { return {QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF()}; }
+std::unique_ptr<report::ReportPrinter> relazioneSuPdf(const std::string& percorso,
+                                                      const std::string& titolo) {
+    const QPageLayout a4(QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF());
+    return relazioneSuPdf(percorso, a4, qt(titolo));
+}
 
 }  // namespace korven::device

@@ -12,8 +12,9 @@ class QPrinter;
 namespace korven::device {
 
 /// The report on the pages of a printer, or in the file that the printer writes. Pages are measured
-/// from their printable edge, or from half a centimetre where that is less. A job that an error cuts short is taken back when the printer given
-/// out is deleted. The process needs a QGuiApplication.
+/// from their printable edge, or from half a centimetre where that is less. A job that an error
+/// cuts short is taken back when the printer given out is deleted. The process needs a
+/// QGuiApplication.
 ///
 /// A printer that the system no longer knows is told before the first page, and again at the end of
 /// the job: the pages go to the queue when the job ends, which tells nobody whether they arrived.
@@ -21,6 +22,15 @@ namespace korven::device {
 /// @param titolo     name of the job in the queue
 [[nodiscard]] std::unique_ptr<report::ReportPrinter> relazioneSuStampante(QPrinter& stampante,
                                                                           const QString& titolo);
+
+/// The same on the printer of that name, with its usual paper.
+/// @throws report::PrinterError if the system knows no printer of that name, and names those it
+/// does
+[[nodiscard]] std::unique_ptr<report::ReportPrinter> relazioneSuStampante(
+    const std::string& nome, const std::string& titolo);
+
+/// @throws as `relazioneSuStampante`
+void controllaStampante(const std::string& nome);
 
 /// The report as a PDF file, written whole or not at all when the job ends; a second job replaces
 /// the first.
@@ -30,7 +40,8 @@ namespace korven::device {
                                                                     const QPageLayout& pagina,
                                                                     const QString& titolo);
 
-/// An upright A4 page.
-[[nodiscard]] QPageLayout paginaA4();
+/// The same on upright A4 paper.
+[[nodiscard]] std::unique_ptr<report::ReportPrinter> relazioneSuPdf(const std::string& percorso,
+                                                                    const std::string& titolo);
 
 }  // namespace korven::device

@@ -28,8 +28,8 @@ class PagineRelazioneTest : public testing::Test {
         report::renderMarkup(file, report::RendererKind::print, renderer);
         renderer.finish();
     }
-    std::unique_ptr<report::ReportPrinter> suPdf(const QPageLayout& pagina = paginaA4()) {
-        return relazioneSuPdf(pdf, pagina, "Ponte über Fluß");
+    std::unique_ptr<report::ReportPrinter> suPdf() {
+        return relazioneSuPdf(pdf, "Ponte über Fluß");
     }
 
     const SessioneGrafica sessione;
@@ -59,7 +59,7 @@ TEST_F(PagineRelazioneTest, FillThePagesOfAPdfFileInTheFontsOfTheMarkup) {
 TEST_F(PagineRelazioneTest, TakeTheSheetOfThePrinterSetUpButNotItsMargins) {
     const QPageLayout quer(QPageSize(QPageSize::A3), QPageLayout::Landscape,
                            QMarginsF(90, 90, 90, 90));
-    const auto carta = suPdf(quer);
+    const auto carta = relazioneSuPdf(pdf, quer, "");
     EXPECT_NEAR(carta->sheet().width, 420 / 25.4 * 72, 0.5);
     EXPECT_NEAR(carta->sheet().height, 297 / 25.4 * 72, 0.5);
     stampa(*carta, relazione);
@@ -97,7 +97,7 @@ TEST_F(PagineRelazioneTest, AreOneFileForEachJobTheLastOfWhichStays) {
 }
 
 TEST_F(PagineRelazioneTest, TellOfAFileThatCannotBeWritten) {
-    const auto carta = relazioneSuPdf(cartella / "manca/muro.pdf", paginaA4(), "");
+    const auto carta = relazioneSuPdf(cartella / "manca/muro.pdf", "");
     try {
         stampa(*carta, relazione);
         FAIL();
@@ -112,6 +112,18 @@ TEST_F(PagineRelazioneTest, TellOfAPrinterThatIsNotThereOrTakesNoPage) {
     EXPECT_THROW(stampa(*relazioneSuStampante(stampante, ""), relazione), report::PrinterError);
     stampante.setOutputFileName(QString::fromStdString(cartella / "manca/muro.pdf"));
     EXPECT_THROW(stampa(*relazioneSuStampante(stampante, ""), relazione), report::PrinterError);
+}
+
+TEST_F(PagineRelazioneTest, TellOfAPrinterThatTheSystemDoesNotKnow) {
+    const std::string nome = "nessuna stampante ha questo nome";
+    EXPECT_THROW(controllaStampante(nome), report::PrinterError);
+    try {
+        static_cast<void>(relazioneSuStampante(nome, "prova"));
+        FAIL();
+    } catch (const report::PrinterError& errore) {
+        EXPECT_EQ(errore.percorso(), nome);
+        EXPECT_TRUE(errore.atteso().starts_with("stampante non trovata"));
+    }
 }
 
 TEST_F(PagineRelazioneTest, GiveThePrinterItsMarginsBack) {
