@@ -15,7 +15,7 @@ manager=
 end() {
     local status=$?
     if [ $status -ne 0 ]; then
-        import -window root "$work.png" 2>/dev/null && echo "The screen is in $work.png" >&2
+        command -v import >/dev/null && import -window root "$work.png" && echo "The screen is in $work.png" >&2
         echo "--- what the program said" >&2
         cat "$work/said" >&2 || true
     fi
