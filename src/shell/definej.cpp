@@ -17,6 +17,7 @@
 #include "project/project_data.hpp"
 #include "shell/definej_fields.hpp"
 #include "shell/form_sizes.hpp"
+#include "shell/help_strip.hpp"
 #include "shell/qt_text.hpp"
 #include "shell/section_sketch_view.hpp"
 
@@ -179,15 +180,10 @@ QLineEdit* DefinEJ::fareCampo(std::size_t campo) {
 }
 
 QWidget* DefinEJ::fareStriscia() {
-    aiuto_ = new QLabel(this);
-    aiuto_->setObjectName(QStringLiteral("aiuto"));
-    aiuto_->setFrameShape(QFrame::StyledPanel);
-    aiuto_->setTextFormat(Qt::PlainText);
-    aiuto_->setWordWrap(true);
-    aiuto_->setMargin(6);
-    aiuto_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    constexpr int righe = 2;
-    aiuto_->setMinimumHeight(righe * aiuto_->fontMetrics().lineSpacing() + 16);
+    QStringList testi{tradotto(aiutoTipo)};
+    for (const auto& campo : campiForma) testi << tradotto(campo.aiuto);
+    aiuto_ = new HelpStrip(testi, {}, this);
+    aiuto_->setObjectName(QStringLiteral("Labelhelp"));
     return aiuto_;
 }
 
@@ -222,12 +218,12 @@ void DefinEJ::aggiornaSchizzo() {
 }
 
 void DefinEJ::entra(std::size_t campo) {
-    aiuto_->setText(tradotto(campiForma[campo].aiuto));
+    aiuto_->mostra(tradotto(campiForma[campo].aiuto));
     for (auto* schizzo : schizzi_) schizzo->evidenzia(campo);
 }
 
 void DefinEJ::entraOpzioni() {
-    aiuto_->setText(tradotto(aiutoTipo));
+    aiuto_->mostra(tradotto(aiutoTipo));
     for (auto* schizzo : schizzi_) schizzo->evidenzia({});
 }
 

@@ -8,13 +8,13 @@
 
 class QGridLayout;
 class QGroupBox;
-class QLabel;
 class QLineEdit;
 class QRadioButton;
 class QStackedWidget;
 
 namespace korven::shell {
 
+class HelpStrip;
 class SectionSketchView;
 
 /// The form of the structural section. What is typed and stored is the matter of
@@ -47,7 +47,7 @@ class DefinEJ : public QDialog {
     std::array<SectionSketchView*, 4> schizzi_{};
     std::array<QLineEdit*, project::numeroCampiSezione> campi_{};
     QStackedWidget* riquadri_ = nullptr;
-    QLabel* aiuto_ = nullptr;
+    HelpStrip* aiuto_ = nullptr;
 };
 
 /// Puts the form of the section of the open project behind its command.

@@ -28,8 +28,10 @@ HelpStrip::HelpStrip(const QStringList& testi, std::function<void()> premuto, QW
     setBackgroundRole(QPalette::ToolTipBase);
     setForegroundRole(QPalette::ToolTipText);
     setAutoFillBackground(true);
-    setFocusPolicy(Qt::TabFocus);
-    setCursor(Qt::PointingHandCursor);
+    if (premuto_) {
+        setFocusPolicy(Qt::TabFocus);
+        setCursor(Qt::PointingHandCursor);
+    }
     QSizePolicy misura(QSizePolicy::Expanding, QSizePolicy::Fixed);
     misura.setHeightForWidth(true);
     setSizePolicy(misura);
@@ -58,7 +60,7 @@ QSize HelpStrip::minimumSizeHint() const {
 }
 
 void HelpStrip::mousePressEvent(QMouseEvent* evento) {
-    if (evento->button() == Qt::LeftButton) premuto_();
+    if (evento->button() == Qt::LeftButton && premuto_) premuto_();
 }
 
 void HelpStrip::keyPressEvent(QKeyEvent* evento) {

@@ -12,7 +12,7 @@ namespace korven::shell {
 class HelpStrip : public QLabel {
  public:
     /// @param testi    all that it will ever show, in lines where they have line breaks
-    /// @param premuto  what a click does
+    /// @param premuto  what a click does; may be empty
     HelpStrip(const QStringList& testi, std::function<void()> premuto, QWidget* genitore);
 
     void mostra(const QString& testo);

@@ -51,7 +51,7 @@ class FormaSezione : public ::testing::Test {
         trova<QLineEdit>(nome).selectAll();
         QTest::keyClicks(&trova(nome), testo);
     }
-    QString aiuto() { return trova<QLabel>("aiuto").text(); }
+    QString aiuto() { return trova<QLabel>("Labelhelp").text(); }
     // The place in `riquadri` of the frame that shows, -1 unless exactly one does.
     int mostrato() {
         int quale = -1, quanti = 0;
