@@ -14,7 +14,7 @@ namespace korven::commands {
 
 /// Makes the folders of the examples and moves the example files that lie in the program folder
 /// there, by the beginning of their names: "esem" Italian, "exam" English, "exem" French, "ejem"
-/// Spanish. The other languages have no examples of their own.
+/// Spanish. German and Portuguese have no such beginning; their examples lie in place.
 /// @throws base::ErroreFile if a folder can't be made or a file can't be copied
 void preparaEsempi();
 
