@@ -6,6 +6,7 @@
 #include <QToolButton>
 #include <map>
 
+#include "analysis/output_guard.hpp"
 #include "support/viewer_setup.hpp"
 
 namespace korven::shell {
@@ -19,6 +20,15 @@ TEST_F(Visore, AppearsWithTheFirstDrawingAndDisablesTheMainForm) {
     disegna();
     EXPECT_TRUE(forma().isVisible());
     EXPECT_FALSE(principale.isEnabled());
+    EXPECT_EQ(forma().windowTitle(), "KORVEN 32 - muro.kvd");
+}
+
+// A run gives its results the place of the project, and draws from them.
+TEST_F(Visore, NamesTheProjectWhileARunDraws) {
+    project::fileCorrente = "/progetti/muro.OUT";
+    analysis::progettiProtetti.corrente = "/progetti/muro.kvd";
+    disegna();
+    analysis::progettiProtetti = {};
     EXPECT_EQ(forma().windowTitle(), "KORVEN 32 - muro.kvd");
 }
 
