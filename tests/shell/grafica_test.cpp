@@ -2,11 +2,13 @@
 
 #include "shell/grafica.hpp"
 
+#include <QRegularExpression>
 #include <QTimer>
 #include <QToolButton>
 #include <map>
 
 #include "analysis/output_guard.hpp"
+#include "support/desktop_bench.hpp"
 #include "support/viewer_setup.hpp"
 
 namespace korven::shell {
@@ -82,6 +84,16 @@ TEST_F(Visore, HasTheToolTipOfEachButtonAsItsNameForThoseWhoCannotSee) {
     }
     EXPECT_EQ(forma().findChildren<QToolButton*>().size(), qsizetype(suggerimenti.size()));
     EXPECT_TRUE(pulsante("Picture7").toolTip().isEmpty()) << "the drawing";
+}
+
+TEST_F(Visore, HasItsToolTipsInTheLanguageInForce) {
+    const test::TestiConsegnati tedesco(2);
+    disegna();
+    for (const QToolButton* bottone : forma().findChildren<QToolButton*>()) {
+        EXPECT_FALSE(bottone->toolTip().isEmpty()) << bottone->objectName().toStdString();
+        EXPECT_FALSE(bottone->toolTip().contains(QRegularExpression("immagine|Spostamento")))
+            << bottone->toolTip().toStdString();
+    }
 }
 
 TEST_F(Visore, KeepsTheProportionsOfTheDrawing) {
