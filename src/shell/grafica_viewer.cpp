@@ -6,6 +6,18 @@
 
 namespace korven::shell {
 
+namespace {
+
+// Takes a form out of use, but not the windows that belong to it, as the preview and the help: Qt
+// would take them along.
+void disabilita(QWidget& forma) {
+    forma.setEnabled(false);
+    for (QWidget* sua : forma.findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
+        if (sua->isWindow()) sua->setEnabled(true);
+}
+
+}  // namespace
+
 VisoreDisegni::VisoreDisegni(QWidget& principale, PorteGrafica& porte, base::Dialogo& dialogo)
     : principale_(principale),
       porte_(porte),
@@ -24,7 +36,7 @@ plot::SpazioDisegno VisoreDisegni::apri() {
     if (!forma_)
         forma_ = std::make_unique<GRAFICA>(superficie_, porte_, dialogo_, [this] { chiusa(); });
     if (!plot::statoPlot.replay) plot::statoPlot.foglioStampante = porte_.foglioStampante();
-    principale_.setEnabled(false);
+    disabilita(principale_);
     return forma_->apri();
 }
 

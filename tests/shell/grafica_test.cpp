@@ -47,6 +47,20 @@ TEST_F(Visore, BringsTheMainFormBackWhenItIsClosed) {
     EXPECT_FALSE(principale.isEnabled());
 }
 
+// As the preview, to be read beside the drawing.
+TEST_F(Visore, LeavesTheOtherWindowsOfTheMainFormInUse) {
+    QWidget anteprima(&principale, Qt::Window);
+    const QWidget controllo(&principale);
+    disegna();
+    EXPECT_TRUE(anteprima.isEnabled());
+    EXPECT_FALSE(controllo.isEnabled());
+    premi("Picture2");
+    EXPECT_TRUE(anteprima.isEnabled());
+    tasto('U');
+    EXPECT_TRUE(anteprima.isEnabled());
+    EXPECT_TRUE(controllo.isEnabled());
+}
+
 TEST_F(Visore, LetsACommandWaitUntilItIsClosed) {
     visore->attendi();  // nothing stands: at once
     disegna();
