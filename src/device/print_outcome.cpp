@@ -1,6 +1,7 @@
 #include "device/print_outcome.hpp"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <algorithm>
@@ -14,6 +15,8 @@ bool suFile(const QPrinter& stampante) { return !stampante.outputFileName().isEm
 // A disk that was full, or a limit of the system, cuts the file short without a word of Qt.
 bool pdfIntero(const QString& percorso) {
     constexpr qint64 coda = 32;
+    const QFileInfo dove(percorso);
+    if (dove.exists() && !dove.isFile()) return true;  // a device can't be looked into
     QFile file(percorso);
     if (!file.open(QIODevice::ReadOnly)) return false;
     file.seek(std::max<qint64>(0, file.size() - coda));
