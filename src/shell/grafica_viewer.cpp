@@ -1,5 +1,7 @@
 #include "shell/grafica_viewer.hpp"
 
+#include <QEvent>
+#include <QGuiApplication>
 #include <QWidget>
 
 #include "plot/plot_engine.hpp"
@@ -25,6 +27,8 @@ VisoreDisegni::VisoreDisegni(QWidget& principale, PorteGrafica& porte, base::Dia
       superficie_([this] { return apri(); }, [this] { forma_->mostraDisegno(); }) {
     plot::statoPlot.superficie = &superficie_;
     plot::statoPlot.metrica = &metrica_;
+    principale_.installEventFilter(this);
+    connect(qApp, &QGuiApplication::commitDataRequest, this, [this] { fineSessione_ = true; });
 }
 
 VisoreDisegni::~VisoreDisegni() {
@@ -37,7 +41,20 @@ plot::SpazioDisegno VisoreDisegni::apri() {
         forma_ = std::make_unique<GRAFICA>(superficie_, porte_, dialogo_, [this] { chiusa(); });
     if (!plot::statoPlot.replay) plot::statoPlot.foglioStampante = porte_.foglioStampante();
     disabilita(principale_);
+    fineSessione_ = false;
     return forma_->apri();
+}
+
+// The close button in the frame of a disabled window works all the same. The end of the desktop's
+// session, which closes all windows in their order, is not to be held up.
+bool VisoreDisegni::eventFilter(QObject* oggetto, QEvent* evento) {
+    const bool chiude = oggetto == &principale_ && evento->type() == QEvent::Close;
+    if (!chiude || fineSessione_ || !forma_ || !forma_->isVisible())
+        return QObject::eventFilter(oggetto, evento);
+    evento->ignore();
+    forma_->raise();
+    forma_->activateWindow();
+    return true;
 }
 
 void VisoreDisegni::attendi() {

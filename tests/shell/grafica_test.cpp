@@ -47,6 +47,15 @@ TEST_F(Visore, BringsTheMainFormBackWhenItIsClosed) {
     EXPECT_FALSE(principale.isEnabled());
 }
 
+TEST_F(Visore, KeepsTheMainFormFromBeingClosedWhileItStands) {
+    disegna();
+    EXPECT_FALSE(principale.close());
+    EXPECT_TRUE(principale.isVisible());
+    EXPECT_TRUE(forma().isVisible());
+    tasto('U');
+    EXPECT_TRUE(principale.close());
+}
+
 // As the preview, to be read beside the drawing.
 TEST_F(Visore, LeavesTheOtherWindowsOfTheMainFormInUse) {
     QWidget anteprima(&principale, Qt::Window);
