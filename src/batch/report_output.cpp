@@ -7,8 +7,8 @@
 #include "base/translated_texts.hpp"
 #include "batch/console_run.hpp"
 #include "batch/interruption.hpp"
+#include "commands/output_title.hpp"
 #include "commands/report_export.hpp"
-#include "commands/report_print.hpp"
 #include "device/report_pages.hpp"
 #include "project/project_data.hpp"
 #include "report/print_renderer.hpp"
@@ -36,13 +36,13 @@ void scriviDocumento(Esito& esito) {
 }
 
 void scriviPdf(const std::string& file, base::Dialogo& dialogo, Esito& esito) {
-    const auto pdf = device::relazioneSuPdf(file, commands::titoloRelazione());
+    const auto pdf = device::relazioneSuPdf(file, commands::titoloUscite());
     report::printReport(esito.fileRelazione, *pdf, dialogo);
     annota(file, esito.filePdf, esito);
 }
 
 void stampa(const std::string& nome, base::Dialogo& dialogo, const Esito& esito) {
-    const auto pagine = device::relazioneSuStampante(nome, commands::titoloRelazione());
+    const auto pagine = device::relazioneSuStampante(nome, commands::titoloUscite());
     report::printReport(esito.fileRelazione, *pagine, dialogo);
 }
 

@@ -97,6 +97,11 @@ void produciCalcolo(const ComandoCalcolo& comando, base::Dialogo& dialogo,
 
 void produci(Comando comando, base::Dialogo& dialogo, analysis::Avanzamento& avanzamento,
              const FormeProgramma& forme) {
+    // The log refuses in words of its own.
+    if (comando == Comando::graficaStratigrafia) {
+        if (report::disegnaStratigrafia(dialogo)) forme.grafica();
+        return;
+    }
     if (fileCorrente.empty()) {
         dialogo.messaggio(base::traduttore("Non e' possibile produrre un output prima di aver "
                                            "aperto un file."),
@@ -106,10 +111,6 @@ void produci(Comando comando, base::Dialogo& dialogo, analysis::Avanzamento& ava
     if (comando == Comando::graficaStruttura) {
         structure::disegnaSezione(project::Progetto);
         return forme.grafica();
-    }
-    if (comando == Comando::graficaStratigrafia) {
-        if (report::disegnaStratigrafia(dialogo)) forme.grafica();
-        return;
     }
     const auto* trovato = std::find_if(std::begin(comandiCalcolo), std::end(comandiCalcolo),
                                        [comando](const auto& c) { return c.comando == comando; });

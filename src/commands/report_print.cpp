@@ -1,17 +1,10 @@
 #include "commands/report_print.hpp"
 
-#include <filesystem>
-
 #include "base/files.hpp"
 #include "base/translated_texts.hpp"
-#include "project/project_data.hpp"
 #include "report/print_renderer.hpp"
 
 namespace korven::commands {
-
-std::string titoloRelazione() {
-    return "KORVEN 32 - " + std::filesystem::path(project::fileCorrente).filename().string();
-}
 
 void stampaRelazione(const std::string& relazione, const ApriStampante& apri,
                      base::Dialogo& dialogo) {

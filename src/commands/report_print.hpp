@@ -12,9 +12,6 @@ namespace korven::commands {
 /// The printer for one job; null when there is none and the user gave up.
 using ApriStampante = std::function<std::unique_ptr<report::ReportPrinter>()>;
 
-/// What the printed report of the open project is called, in the queue of a printer too.
-[[nodiscard]] std::string titoloRelazione();
-
 /// Prints a mark-up file. A box tells of a printer that failed, and the program goes on: nothing is
 /// lost by it. Does nothing if there is no such file, and nothing is printed without a printer.
 /// While the user may be asked for one the pointer is the normal one.

@@ -8,6 +8,7 @@
 #include "base/file_error.hpp"
 #include "base/translated_texts.hpp"
 #include "device/drawing_fonts.hpp"
+#include "device/print_outcome.hpp"
 #include "device/text_painting.hpp"
 
 namespace korven::device {
@@ -73,7 +74,9 @@ plot::MisureStampante StampantePagine::misure() {
 }
 
 void StampantePagine::iniziaPagina() {
-    const bool riuscita = pittore_.isActive() ? stampante_.newPage() : pittore_.begin(&stampante_);
+    const bool riuscita = pittore_.isActive()
+                              ? stampante_.newPage()
+                              : conosciuta(stampante_) && pittore_.begin(&stampante_);
     if (!riuscita) fallita();
     pittore_.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
 }
@@ -111,14 +114,12 @@ void StampantePagine::testo(plot::PuntoPagina punto, std::string_view testo, boo
 
 void StampantePagine::fineStampa() {
     const bool riuscita = pittore_.end();
-    if (!riuscita || stampante_.printerState() == QPrinter::Error) fallita();
+    if (!riuscita || !consegnata(stampante_)) fallita();
 }
 
 void StampantePagine::fallita() const {
-    const bool suFile = !stampante_.outputFileName().isEmpty();
-    throw base::ErroreFile(
-        (suFile ? stampante_.outputFileName() : stampante_.printerName()).toStdString(), 0,
-        base::traduttore("la stampa non e' riuscita"));
+    throw base::ErroreFile(destinazione(stampante_), 0,
+                           base::traduttore("la stampa non e' riuscita"));
 }
 
 std::unique_ptr<plot::Stampante> stampanteSuPdf(const QString& percorso, const QPrinter& pagina,

@@ -29,7 +29,8 @@ class StampantePagine : public plot::Stampante {
     ~StampantePagine() override;
 
     plot::MisureStampante misure() override;
-    /// @throws base::ErroreFile when the printer or the file takes no page
+    /// @throws base::ErroreFile when the printer or the file takes no page, and when the system
+    /// no longer knows the printer
     void iniziaPagina() override;
     void poligono(std::span<const plot::PuntoPagina> vertici, plot::Colore colore) override;
     void penna(plot::Colore colore, int spessore) override;
@@ -38,7 +39,7 @@ class StampantePagine : public plot::Stampante {
     void testo(plot::PuntoPagina punto, std::string_view testo, bool centrato,
                plot::Colore colore) override;
     void finePagina() override {}
-    /// @throws base::ErroreFile when the printer or the file has failed
+    /// @throws base::ErroreFile when the printer or the file has failed (print_outcome.hpp)
     void fineStampa() override;
 
  private:

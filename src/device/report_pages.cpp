@@ -10,6 +10,7 @@
 #include "base/files.hpp"
 #include "base/translated_texts.hpp"
 #include "device/least_margins.hpp"
+#include "device/print_outcome.hpp"
 #include "device/qt_text.hpp"
 #include "device/report_fonts.hpp"
 #include "report/reset_arguments.hpp"
@@ -96,19 +97,14 @@ class SuStampante : public PagineRelazione {
     }
     void endJob() override {
         const bool riuscita = pittore().end();
-        if (!riuscita || stampante_.printerState() == QPrinter::Error || !conosciuta()) fallita();
+        if (!riuscita || !consegnata(stampante_)) fallita();
     }
 
  private:
-    [[nodiscard]] bool suFile() const { return !stampante_.outputFileName().isEmpty(); }
-    [[nodiscard]] bool conosciuta() const {
-        return suFile() || !QPrinterInfo::printerInfo(stampante_.printerName()).isNull();
-    }
-    bool comincia() override { return conosciuta() && PagineRelazione::comincia(); }
+    bool comincia() override { return conosciuta(stampante_) && PagineRelazione::comincia(); }
     void fallita() const override {
-        throw report::PrinterError(
-            (suFile() ? stampante_.outputFileName() : stampante_.printerName()).toStdString(), 0,
-            base::traduttore("la stampa non e' riuscita"));
+        throw report::PrinterError(destinazione(stampante_), 0,
+                                   base::traduttore("la stampa non e' riuscita"));
     }
 
     QPrinter& stampante_;

@@ -57,10 +57,18 @@ class PuntatorePerUnBox {
 
 }  // namespace
 
+// The main form is disabled while the viewer stands: a box above it would bring it to the front,
+// over the window that the user is at.
 QWidget* DialogoQt::genitore() const {
     QWidget* modale = QApplication::activeModalWidget();
     if (modale != nullptr) return modale;
-    return finestra_ != nullptr && finestra_->isVisible() ? finestra_.data() : nullptr;
+    if (finestra_ == nullptr || !finestra_->isVisible()) return nullptr;
+    if (finestra_->isEnabled()) return finestra_;
+    for (QWidget* altra : QApplication::topLevelWidgets())
+        if (altra->windowType() == Qt::Window && altra->isVisible() && altra->isEnabled() &&
+            altra->parentWidget() == nullptr)
+            return altra;
+    return finestra_;
 }
 
 void DialogoQt::messaggio(std::string_view testo, std::string_view titolo, base::Icona icona) {

@@ -12,7 +12,8 @@ namespace korven::shell {
 /// it can do: cancel, or no where there is no cancel; Enter takes yes.
 class DialogoQt : public base::Dialogo {
  public:
-    /// The window over which the boxes appear; none before there is one.
+    /// The window over which the boxes appear; none before there is one. While it is disabled they
+    /// appear over the one that stands in its place.
     void sopra(QWidget* finestra) { finestra_ = finestra; }
 
     void messaggio(std::string_view testo, std::string_view titolo, base::Icona icona) override;

@@ -13,7 +13,7 @@
 #include <algorithm>
 
 #include "base/files.hpp"
-#include "commands/report_print.hpp"
+#include "commands/output_title.hpp"
 #include "shell/form_sizes.hpp"
 #include "shell/qt_text.hpp"
 
@@ -85,7 +85,7 @@ void Form1::mostra(const std::string& relazione) {
 }
 
 void Form1::apri() {
-    setWindowTitle(qt(commands::titoloRelazione()));
+    setWindowTitle(qt(commands::titoloUscite()));
     if (!isVisible() && !ripristinaMisure(*this)) {
         const QSize schermo = screen()->availableSize() * 9 / 10;
         const QFontMetrics misure(elenco_->font());

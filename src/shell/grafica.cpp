@@ -1,7 +1,6 @@
 #include "shell/grafica.hpp"
 
 #include <QCloseEvent>
-#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QScreen>
@@ -11,12 +10,12 @@
 #include <memory>
 #include <utility>
 
+#include "commands/output_title.hpp"
 #include "device/text_painting.hpp"
 #include "plot/plot_dxf.hpp"
 #include "plot/plot_engine.hpp"
 #include "plot/plot_print.hpp"
 #include "plot/zoom_window.hpp"
-#include "project/project_data.hpp"
 #include "shell/failure_box.hpp"
 #include "shell/form_sizes.hpp"
 #include "shell/grafica_export.hpp"
@@ -57,8 +56,7 @@ GRAFICA::GRAFICA(device::SuperficieSchermo& disegno, PorteGrafica& porte, base::
 }
 
 plot::SpazioDisegno GRAFICA::apri() {
-    setWindowTitle(QStringLiteral("KORVEN 32 - ") +
-                   QFileInfo(qt(project::fileCorrente)).fileName());
+    setWindowTitle(qt(commands::titoloUscite()));
     if (!isVisible()) {
         if (!ripristinaMisure(*this)) {
             // Most sheets stand upright.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QEventLoop>
+#include <QObject>
 #include <memory>
 
 #include "base/dialogo.hpp"
@@ -14,15 +15,15 @@ class QWidget;
 namespace korven::shell {
 
 /// The viewer of the program. While it lives every drawing appears on the form `GRAFICA`, which is
-/// made by the first one; while that form stands the main form is disabled, and its closing brings
-/// the main form back.
-class VisoreDisegni {
+/// made by the first one; while that form stands the main form is disabled, which the window system
+/// can't close either then, and its closing brings the main form back.
+class VisoreDisegni : public QObject {
  public:
     /// All three are not owned and must outlive the viewer.
     VisoreDisegni(QWidget& principale, PorteGrafica& porte, base::Dialogo& dialogo);
     VisoreDisegni(const VisoreDisegni&) = delete;
     VisoreDisegni& operator=(const VisoreDisegni&) = delete;
-    ~VisoreDisegni();
+    ~VisoreDisegni() override;
 
     /// Returns when the form has been closed; at once when it does not stand.
     void attendi();
@@ -30,6 +31,9 @@ class VisoreDisegni {
     /// The form; nullptr as long as nothing was drawn. It is hidden when it was closed.
     [[nodiscard]] GRAFICA* forma() { return forma_.get(); }
     [[nodiscard]] const QImage& immagine() const { return superficie_.immagine(); }
+
+ protected:
+    bool eventFilter(QObject* oggetto, QEvent* evento) override;
 
  private:
     plot::SpazioDisegno apri();
@@ -42,6 +46,7 @@ class VisoreDisegni {
     device::SuperficieSchermo superficie_;
     std::unique_ptr<GRAFICA> forma_;
     QEventLoop attesa_;
+    bool fineSessione_ = false;
 };
 
 }  // namespace korven::shell

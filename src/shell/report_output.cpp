@@ -6,6 +6,7 @@
 
 #include "base/file_names.hpp"
 #include "base/translated_texts.hpp"
+#include "commands/output_title.hpp"
 #include "commands/report_print.hpp"
 #include "device/report_pages.hpp"
 #include "project/project_data.hpp"
@@ -71,11 +72,10 @@ std::string UsciteRelazione::chiediNome(const std::string& proposto) {
 std::unique_ptr<report::ReportPrinter> UsciteRelazione::apriStampante() {
     QPrinter& stampante = stampante_();
     if (dialoghi_.haStampante())
-        return device::relazioneSuStampante(stampante, qt(commands::titoloRelazione()));
+        return device::relazioneSuStampante(stampante, qt(commands::titoloUscite()));
     const auto percorso = dialoghi_.fileDaSalvare(richiestaPdfRelazione());
     if (!percorso) return nullptr;
-    return device::relazioneSuPdf(*percorso, stampante.pageLayout(),
-                                  qt(commands::titoloRelazione()));
+    return device::relazioneSuPdf(*percorso, stampante.pageLayout(), qt(commands::titoloUscite()));
 }
 
 FileDaSalvare richiestaPdfRelazione() {

@@ -11,6 +11,7 @@
 #include "plot/plot_engine.hpp"
 #include "project/project_file.hpp"
 #include "support/document_ports.hpp"
+#include "support/hatch_files.hpp"
 #include "support/plot_setup.hpp"
 #include "support/sample_projects.hpp"
 
@@ -71,7 +72,10 @@ TEST_F(Produci, RefusesEveryOutputWithoutAProject) {
             esegui(comando);
             ASSERT_EQ(dialogo.messaggi.size(), 1u);
             EXPECT_EQ(dialogo.messaggi[0].testo,
-                      "Non e' possibile produrre un output prima di aver aperto un file.");
+                      comando == Comando::graficaStratigrafia
+                          ? "Non e' possibile produrre un output grafico prima di aver aperto un "
+                            "file."
+                          : "Non e' possibile produrre un output prima di aver aperto un file.");
             EXPECT_EQ(dialogo.messaggi[0].titolo, "ATTENZIONE!");
         }
     EXPECT_TRUE(ricevute.empty());
@@ -88,9 +92,11 @@ TEST_F(Produci, HandsTheReportToTheFormOfEachCommand) {
 }
 
 TEST_F(Produci, ShowsTheHourglassUntilTheReportIsHandedOver) {
-    esegui(Comando::esportaTxt);
-    EXPECT_EQ(puntatore, Puntatore::clessidra);
-    EXPECT_EQ(dialogo.puntatori.back(), Puntatore::normale);
+    for (const auto comando : relazioni) {
+        esegui(comando);
+        EXPECT_EQ(puntatore, Puntatore::clessidra);
+        EXPECT_EQ(dialogo.puntatori.back(), Puntatore::normale);
+    }
 }
 
 TEST_F(Produci, DoesNotGoOnAfterARefusedRun) {
@@ -138,6 +144,16 @@ TEST_F(ProduciDisegni, DrawTheSectionWithoutARun) {
     esegui(Comando::graficaStruttura);
     EXPECT_EQ(viste, 1);
     EXPECT_EQ(avanzamento.aperture, 0);
+    EXPECT_TRUE(dialogo.messaggi.empty());
+}
+
+TEST_F(ProduciDisegni, DrawTheLogWithoutARun) {
+    test::scriviLibreria(ambiente.programma, {});
+    Progetto.lunghezzaParatia = 0;
+    esegui(Comando::graficaStratigrafia);
+    EXPECT_EQ(viste, 1);
+    EXPECT_EQ(avanzamento.aperture, 0);
+    EXPECT_FALSE(plot::statoPlot.archivio.lineeInMemoria().empty());
     EXPECT_TRUE(dialogo.messaggi.empty());
 }
 

@@ -249,6 +249,16 @@ TEST_F(ReportExport, TellsWhereTheDocumentIsWhenNothingShowsIt) {
                    "ATTENZIONE!", base::Icona::informazione}}));
 }
 
+TEST_F(ReportExport, TellsWhereTheDocumentIsWhenItsViewerDoesNotStart) {
+    editors(viewer("vedi"));
+    programs.parte = false;
+    programs.alPosto = [this] { test::metti(doc, "doc"); };
+    exportDoc();
+    ASSERT_EQ(dialog.messaggi.size(), 1u);
+    EXPECT_TRUE(dialog.messaggi[0].testo.ends_with(base::maiuscolo(doc)));
+    EXPECT_EQ(dialog.messaggi[0].icona, base::Icona::informazione);
+}
+
 TEST_F(ReportExport, TellsThatTheConverterFailedAndShowsWhatExists) {
     editors(viewer("vedi"));
     for (const std::optional<int> code : {std::optional<int>(), std::optional<int>(3)}) {

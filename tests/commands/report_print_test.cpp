@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "project/project_data.hpp"
 #include "support/dialog_record.hpp"
 #include "support/page_record.hpp"
 #include "support/temporary_folder.hpp"
@@ -119,12 +118,6 @@ TEST_F(ReportPrint, LetsABrokenReportEndTheProgramWithoutAJob) {
     write({oneLine[0], "#STARTTABLE", columns, "#ENDTABLE"});
     EXPECT_THROW(print(), base::ErroreFile);
     EXPECT_TRUE(dialog.messaggi.empty());
-}
-
-TEST(TitoloRelazione, NamesTheProjectWithoutItsFolder) {
-    project::fileCorrente = "/lavori.2024/muro.kvd";
-    EXPECT_EQ(titoloRelazione(), "KORVEN 32 - muro.kvd");
-    project::fileCorrente.clear();
 }
 
 }  // namespace

@@ -2,7 +2,8 @@
 # script that gets PROGRAM_FOLDER as its first argument; starts it again on a screen of its own.
 #
 # Leaves: $work, a folder for the run, with the program in $work/bin as if never used, a home of its own
-# and $work/lavori for projects; the functions below. What is left open ends with the script.
+# and $work/lavori for projects; the functions below. What is left open ends with the script, which may
+# define clean_up for what else it started.
 
 if [ -z "${KORVEN_SCREEN-}" ]; then
     exec xvfb-run -a -s '-screen 0 1280x1024x24' env KORVEN_SCREEN=1 "$0" "$@"
@@ -21,6 +22,7 @@ end() {
     fi
     [ -z "$program" ] || kill "$program" 2>/dev/null || true
     [ -z "$manager" ] || kill "$manager" 2>/dev/null || true
+    ! declare -F clean_up >/dev/null || clean_up
     rm -rf "$work"
     exit $status
 }

@@ -13,6 +13,7 @@
 #include "plot/plot_print.hpp"
 #include "support/dialog_record.hpp"
 #include "support/drawing_by_pen.hpp"
+#include "support/file_limit.hpp"
 #include "support/pdf_pages.hpp"
 
 namespace korven::device {
@@ -103,6 +104,21 @@ TEST_F(Carta, TellsWhenItCannotPrint) {
     EXPECT_EQ(dialogo.ultimoPuntatore, base::Puntatore::normale);
     stampante.setOutputFileName(QString::fromStdString(file));
     EXPECT_EQ(pagineStampate(false), 1) << "and prints the next time";
+}
+
+TEST_F(Carta, TellsOfAPrinterThatTheSystemNoLongerKnows) {
+    disegna(19, 27);
+    stampante.setOutputFileName({});
+    stampante.setPrinterName("nessuna stampante ha questo nome");
+    EXPECT_THROW(pagineStampate(false), base::ErroreFile);
+    EXPECT_THROW(pagineStampate(true), base::ErroreFile);
+    EXPECT_EQ(dialogo.ultimoPuntatore, base::Puntatore::normale);
+}
+
+TEST_F(Carta, TellsOfAFileThatIsCutShort) {
+    disegna(19, 27);
+    const test::LimiteFile limite(1000);
+    EXPECT_THROW(pagineStampate(false), base::ErroreFile);
 }
 
 TEST_F(Carta, PrintsIntoAPdfFileOfThePageSetWhereThereIsNoPrinter) {

@@ -11,6 +11,7 @@
 #include "device/graphics_session.hpp"
 #include "device/report_fonts.hpp"
 #include "report/print_renderer.hpp"
+#include "support/file_limit.hpp"
 #include "support/page_record.hpp"
 #include "support/pdf_pages.hpp"
 #include "support/temporary_folder.hpp"
@@ -112,6 +113,15 @@ TEST_F(PagineRelazioneTest, TellOfAPrinterThatIsNotThereOrTakesNoPage) {
     EXPECT_THROW(stampa(*relazioneSuStampante(stampante, ""), relazione), report::PrinterError);
     stampante.setOutputFileName(QString::fromStdString(cartella / "manca/muro.pdf"));
     EXPECT_THROW(stampa(*relazioneSuStampante(stampante, ""), relazione), report::PrinterError);
+}
+
+TEST_F(PagineRelazioneTest, TellOfAFileThatIsCutShort) {
+    QPrinter stampante(QPrinter::HighResolution);
+    stampante.setOutputFormat(QPrinter::PdfFormat);
+    stampante.setOutputFileName(QString::fromStdString(pdf));
+    const test::LimiteFile limite(1000);
+    EXPECT_THROW(stampa(*relazioneSuStampante(stampante, ""), relazione), report::PrinterError);
+    EXPECT_THROW(stampa(*suPdf(), relazione), report::PrinterError);
 }
 
 TEST_F(PagineRelazioneTest, TellOfAPrinterThatTheSystemDoesNotKnow) {

@@ -68,6 +68,33 @@ TEST(BoxQt, TakesEnterForYesAndEscForTheLeastItCanDo) {
     EXPECT_EQ(premi(Qt::Key_Escape, Pulsanti::siNo), Risposta::no);
 }
 
+TEST(BoxQt, StandsAboveTheViewerThatDisablesTheMainForm) {
+    QWidget principale, visore;
+    QWidget anteprima(&principale, Qt::Window);
+    DialogoQt dialogo;
+    dialogo.sopra(&principale);
+    QWidget* sopra = nullptr;
+    const auto chiedi = [&] {
+        const Box box([&](QMessageBox& b) {
+            sopra = b.parentWidget();
+            EXPECT_TRUE(b.isEnabled());
+            b.reject();
+        });
+        dialogo.messaggio("a", "b", Icona::avviso);
+    };
+    chiedi();
+    EXPECT_EQ(sopra, nullptr);
+    for (QWidget* finestra : {&principale, &anteprima, &visore}) finestra->show();
+    chiedi();
+    EXPECT_EQ(sopra, &principale);
+    principale.setEnabled(false);
+    chiedi();
+    EXPECT_EQ(sopra, &visore);
+    visore.hide();
+    chiedi();
+    EXPECT_EQ(sopra, &principale);
+}
+
 TEST(BoxQt, HasItsButtonsInTheLanguageInForce) {
     const test::TestiConsegnati tedesco(2);
     DialogoQt dialogo;

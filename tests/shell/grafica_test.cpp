@@ -2,10 +2,13 @@
 
 #include "shell/grafica.hpp"
 
+#include <QRegularExpression>
 #include <QTimer>
 #include <QToolButton>
 #include <map>
 
+#include "analysis/output_guard.hpp"
+#include "support/desktop_bench.hpp"
 #include "support/viewer_setup.hpp"
 
 namespace korven::shell {
@@ -22,6 +25,15 @@ TEST_F(Visore, AppearsWithTheFirstDrawingAndDisablesTheMainForm) {
     EXPECT_EQ(forma().windowTitle(), "KORVEN 32 - muro.kvd");
 }
 
+// A run gives its results the place of the project, and draws from them.
+TEST_F(Visore, NamesTheProjectWhileARunDraws) {
+    project::fileCorrente = "/progetti/muro.OUT";
+    analysis::progettiProtetti.corrente = "/progetti/muro.kvd";
+    disegna();
+    analysis::progettiProtetti = {};
+    EXPECT_EQ(forma().windowTitle(), "KORVEN 32 - muro.kvd");
+}
+
 TEST_F(Visore, BringsTheMainFormBackWhenItIsClosed) {
     disegna();
     principale.hide();
@@ -33,6 +45,29 @@ TEST_F(Visore, BringsTheMainFormBackWhenItIsClosed) {
     disegna();
     EXPECT_TRUE(forma().isVisible()) << "the next drawing opens it again";
     EXPECT_FALSE(principale.isEnabled());
+}
+
+TEST_F(Visore, KeepsTheMainFormFromBeingClosedWhileItStands) {
+    disegna();
+    EXPECT_FALSE(principale.close());
+    EXPECT_TRUE(principale.isVisible());
+    EXPECT_TRUE(forma().isVisible());
+    tasto('U');
+    EXPECT_TRUE(principale.close());
+}
+
+// As the preview, to be read beside the drawing.
+TEST_F(Visore, LeavesTheOtherWindowsOfTheMainFormInUse) {
+    QWidget anteprima(&principale, Qt::Window);
+    const QWidget controllo(&principale);
+    disegna();
+    EXPECT_TRUE(anteprima.isEnabled());
+    EXPECT_FALSE(controllo.isEnabled());
+    premi("Picture2");
+    EXPECT_TRUE(anteprima.isEnabled());
+    tasto('U');
+    EXPECT_TRUE(anteprima.isEnabled());
+    EXPECT_TRUE(controllo.isEnabled());
 }
 
 TEST_F(Visore, LetsACommandWaitUntilItIsClosed) {
@@ -72,6 +107,16 @@ TEST_F(Visore, HasTheToolTipOfEachButtonAsItsNameForThoseWhoCannotSee) {
     }
     EXPECT_EQ(forma().findChildren<QToolButton*>().size(), qsizetype(suggerimenti.size()));
     EXPECT_TRUE(pulsante("Picture7").toolTip().isEmpty()) << "the drawing";
+}
+
+TEST_F(Visore, HasItsToolTipsInTheLanguageInForce) {
+    const test::TestiConsegnati tedesco(2);
+    disegna();
+    for (const QToolButton* bottone : forma().findChildren<QToolButton*>()) {
+        EXPECT_FALSE(bottone->toolTip().isEmpty()) << bottone->objectName().toStdString();
+        EXPECT_FALSE(bottone->toolTip().contains(QRegularExpression("immagine|Spostamento")))
+            << bottone->toolTip().toStdString();
+    }
 }
 
 TEST_F(Visore, KeepsTheProportionsOfTheDrawing) {
