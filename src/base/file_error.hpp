@@ -6,7 +6,8 @@
 namespace korven::base {
 
 /// Something outside went wrong: a file is missing, cut short or holds what is no number, a disk is
-/// full. Raised where it is found and caught once, in `main`, which tells the user and ends.
+/// full. Raised where it is found and caught once, in `main`, which tells the user and ends; only a
+/// command that can go on without the file tells it itself.
 class ErroreFile : public std::runtime_error {
  public:
     /// @param percorso  the file, as the user may find it [UTF-8]
@@ -22,6 +23,13 @@ class ErroreFile : public std::runtime_error {
     std::string percorso_;
     long riga_;
     std::string atteso_;
+};
+
+/// A file could not be written: disk full, no permission, read-only folder. What is in memory is
+/// sound, so that a command that meets it can tell it and let the user go on.
+class ErroreScrittura : public ErroreFile {
+ public:
+    using ErroreFile::ErroreFile;
 };
 
 }  // namespace korven::base

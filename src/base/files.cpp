@@ -18,9 +18,16 @@ namespace korven::base {
 
 namespace {
 
-[[noreturn]] void fallito(const std::string& percorso, std::string_view cosa, int codice) {
-    throw ErroreFile(percorso, 0,
-                     traduttore(cosa) + " (" + std::generic_category().message(codice) + ")");
+std::string perche(std::string_view cosa, int codice) {
+    return traduttore(cosa) + " (" + std::generic_category().message(codice) + ")";
+}
+
+[[noreturn]] void nonLetto(const std::string& percorso, int codice) {
+    throw ErroreFile(percorso, 0, perche("impossibile leggere il file", codice));
+}
+
+[[noreturn]] void nonScritto(const std::string& percorso, int codice) {
+    throw ErroreScrittura(percorso, 0, perche("impossibile scrivere il file", codice));
 }
 
 // A system call that a signal cut short is made again.
@@ -86,7 +93,7 @@ std::string destinazione(const std::string& percorso) {
         if (errore) return meta.string();
         meta = meta.parent_path() / oltre;  // an absolute target stands for itself
     }
-    fallito(percorso, "impossibile scrivere il file", ELOOP);
+    nonScritto(percorso, ELOOP);
 }
 
 std::string cartellaDi(const std::string& percorso) {
@@ -113,15 +120,14 @@ std::string leggiFile(const std::string& percorso) {
     // Without waiting: a pipe without a writer would hold the program.
     const Descrittore file(apriDescrittore(percorso, O_RDONLY | O_NONBLOCK));
     struct stat stato {};
-    if (*file < 0 || ::fstat(*file, &stato) != 0)
-        fallito(percorso, "impossibile leggere il file", errno);
+    if (*file < 0 || ::fstat(*file, &stato) != 0) nonLetto(percorso, errno);
     rifiutaSpeciale(percorso, stato);
     rifiutaEnorme(percorso, static_cast<std::size_t>(stato.st_size));
     std::string contenuto;
     char blocco[65536];
     for (;;) {
         const ssize_t letti = ripeti([&] { return ::read(*file, blocco, sizeof blocco); });
-        if (letti < 0) fallito(percorso, "impossibile leggere il file", errno);
+        if (letti < 0) nonLetto(percorso, errno);
         if (letti == 0) return contenuto;
         contenuto.append(blocco, static_cast<std::size_t>(letti));
         rifiutaEnorme(percorso, contenuto.size());  // it may grow, or not know its size
@@ -133,33 +139,33 @@ void scriviFile(const std::string& percorso, std::string_view contenuto) {
     if (struct stat stato{}; ::stat(meta.c_str(), &stato) == 0) rifiutaSpeciale(percorso, stato);
     // Taking over the name would get past a file's own write protection.
     if (::access(meta.c_str(), F_OK) == 0 && ::access(meta.c_str(), W_OK) != 0)
-        fallito(percorso, "impossibile scrivere il file", errno);
+        nonScritto(percorso, errno);
     const std::string cartella = cartellaDi(meta);
     // A name of its own, since the longest name that a folder takes leaves no room behind it.
     std::string provvisorio = cartella + "/.korven-XXXXXX";
     Descrittore file(::mkostemp(provvisorio.data(), O_CLOEXEC));
-    if (*file < 0) fallito(percorso, "impossibile scrivere il file", errno);
+    if (*file < 0) nonScritto(percorso, errno);
     const bool scritto = scriviTutto(*file, contenuto) && ::fchmod(*file, permessi(meta)) == 0 &&
                          ripeti([&] { return ::fsync(*file); }) == 0 && file.chiudi() &&
                          ::rename(provvisorio.c_str(), meta.c_str()) == 0;
     if (!scritto) {
         const int codice = errno;
         ::unlink(provvisorio.c_str());
-        fallito(percorso, "impossibile scrivere il file", codice);
+        nonScritto(percorso, codice);
     }
     versaSulDisco(cartella);
 }
 
 void accodaFile(const std::string& percorso, std::string_view contenuto) {
     Descrittore file(apriDescrittore(percorso, O_WRONLY | O_APPEND));
-    if (*file < 0) fallito(percorso, "impossibile scrivere il file", errno);
+    if (*file < 0) nonScritto(percorso, errno);
     const off_t prima = ::lseek(*file, 0, SEEK_END);
     if (!scriviTutto(*file, contenuto)) {
         const int codice = errno;
         if (::ftruncate(*file, prima) != 0) ::unlink(percorso.c_str());
-        fallito(percorso, "impossibile scrivere il file", codice);
+        nonScritto(percorso, codice);
     }
-    if (!file.chiudi()) fallito(percorso, "impossibile scrivere il file", errno);
+    if (!file.chiudi()) nonScritto(percorso, errno);
 }
 
 bool esisteFile(const std::string& percorso) {
@@ -174,8 +180,7 @@ bool stessoFile(const std::string& uno, const std::string& altro) {
 }
 
 void cancellaFile(const std::string& percorso) {
-    std::error_code errore;
-    std::filesystem::remove(percorso, errore);
+    ::unlink(percorso.c_str());  // an empty folder of that name stays
 }
 
 }  // namespace korven::base

@@ -21,8 +21,11 @@ namespace fs = std::filesystem;
 
 std::vector<fs::path> cartelleRecupero() {
     std::error_code errore;
-    return {fs::path(project::fileCorrente).parent_path(),
-            fs::path(cartellaDatiUtente()).parent_path(), fs::temp_directory_path(errore)};
+    // A new user may have no folder for data yet, and the temporary one lasts no longer than the
+    // machine runs.
+    const fs::path dati = fs::path(cartellaDatiUtente()).parent_path();
+    fs::create_directories(dati, errore);
+    return {fs::path(project::fileCorrente).parent_path(), dati, fs::temp_directory_path(errore)};
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include "analysis/calcolo_paratia.hpp"
 #include "analysis/output_guard.hpp"
 #include "analysis/run_flags.hpp"
+#include "base/file_error.hpp"
 #include "base/file_names.hpp"
 #include "base/files.hpp"
 #include "base/translated_texts.hpp"
@@ -55,7 +56,8 @@ class Clessidra {
     base::Dialogo& dialogo_;
 };
 
-// True when the run went through and its output is there.
+// True when the run went through and its output is there. A folder where nothing can be written, as
+// that of a colleague, is told to the user, who may save the project elsewhere and run it there.
 bool calcola(int modoUscita, base::Dialogo& dialogo, analysis::Avanzamento& avanzamento,
              analysis::UscitaCalcolo& uscita) {
     try {
@@ -65,6 +67,9 @@ bool calcola(int modoUscita, base::Dialogo& dialogo, analysis::Avanzamento& avan
         // As after a singular system: what can't be shown must not be taken for up to date.
         const std::string risultati = base::nomeRisultati(fileCorrente);
         if (!analysis::prendeIlPostoDelProgetto(risultati)) base::cancellaFile(risultati);
+        dialogo.messaggio(errore.what(), attenzione(), base::Icona::stop);
+    } catch (const base::ErroreScrittura& errore) {
+        analysis::erroreCalcolo = true;
         dialogo.messaggio(errore.what(), attenzione(), base::Icona::stop);
     }
     return !analysis::erroreCalcolo;

@@ -12,9 +12,9 @@ namespace korven::commands {
 /// the run has made. The drawings of the section and of the layers need no run.
 ///
 /// A result too large to be shown is told in a box like a refused run, sets `erroreCalcolo` and
-/// takes its result file with it.
+/// takes its result file with it. A result file or report that can't be written is told likewise.
 /// @pre one of the ten output commands, whose form is plugged in
-/// @throws base::ErroreFile if a file can't be read or written
+/// @throws base::ErroreFile if a file can't be read, or a drawing not be stored
 void produci(Comando comando, base::Dialogo& dialogo, analysis::Avanzamento& avanzamento,
              const FormeProgramma& forme);
 

@@ -13,6 +13,7 @@
 #include <QPixmap>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -54,10 +55,11 @@ QLineEdit* campoNumero(const char* nome, const QString& descrizione, QWidget* pa
     return campo;
 }
 
-// Makes a list as wide as its longest row needs.
+// Makes a list as wide as its longest row needs, but on a small screen leaves room for the rest.
 void mostraIntere(QListWidget& lista) {
     constexpr int corniceEBarra = 40;
-    lista.setMinimumWidth(lista.sizeHintForColumn(0) + corniceEBarra);
+    const int quota = lista.screen()->availableSize().width() / 3;
+    lista.setMinimumWidth(std::min(lista.sizeHintForColumn(0) + corniceEBarra, quota));
 }
 
 QLabel* etichetta(const char* testo, QWidget* controllo) {

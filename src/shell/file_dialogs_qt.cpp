@@ -1,8 +1,11 @@
 #include "shell/file_dialogs_qt.hpp"
 
+#include <QComboBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLabel>
+#include <utility>
 
 #include "commands/report_export.hpp"
 #include "shell/qt_text.hpp"
@@ -14,6 +17,16 @@ namespace {
 // The pattern of the projects whatever the case, which name filters do not promise by themselves.
 QStringList filtri() {
     return {"Korven 32 (*.kvd *.KVD *.Kvd)", tradotto("Tutti i file") + " (*)"};
+}
+
+// Qt leaves the labels of its two lists alone; without the list that it names, a label shows its
+// "&" as a letter. A dialog of the desktop's own has none of them.
+void legaEtichette(const QFileDialog& dialogo) {
+    constexpr std::pair<const char*, const char*> coppie[] = {{"lookInLabel", "lookInCombo"},
+                                                              {"fileTypeLabel", "fileTypeCombo"}};
+    for (const auto& [nome, scelta] : coppie)
+        if (auto* etichetta = dialogo.findChild<QLabel*>(QLatin1String(nome)))
+            etichetta->setBuddy(dialogo.findChild<QComboBox*>(QLatin1String(scelta)));
 }
 
 // A new project is opened by a name that no file has, so both dialogs take any name; what stands
@@ -31,6 +44,7 @@ void prepara(QFileDialog& dialogo, const QString& titolo, QFileDialog::AcceptMod
     dialogo.setLabelText(QFileDialog::Reject, tradotto("&Annulla"));
     dialogo.setNameFilters(filtri());
     dialogo.setDirectory(QDir::current());
+    legaEtichette(dialogo);
 }
 
 std::optional<std::string> risposta(QFileDialog& dialogo) {

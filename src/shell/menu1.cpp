@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QScreen>
 #include <QSessionManager>
 #include <QSettings>
 #include <QStatusBar>
@@ -46,6 +47,12 @@ void battezza(QAction* azione, const commands::VoceMenu& voce) {
         if (comando == voce.comando) azione->setShortcut(QKeySequence(tasti));
 }
 
+// On a small screen the whole form is to be seen, with the frame that the desktop draws around it.
+QSize misuraIniziale(const QSize& schermo) {
+    constexpr QSize cornice(16, 48);
+    return QSize(900, 620).boundedTo(schermo - cornice);
+}
+
 // The one project among what is dragged over the form; empty if it is anything else.
 std::string progettoTrascinato(const QMimeData& dati) {
     const auto indirizzi = dati.urls();
@@ -70,7 +77,7 @@ Menu1::Menu1() {
     stato_->mostra(tradotto("Nessun progetto aperto"));
     statusBar()->addWidget(stato_, 1);
     setAcceptDrops(true);
-    resize(900, 620);
+    resize(misuraIniziale(screen()->availableSize()));
     setMinimumSize(480, 340);
     restoreGeometry(QSettings().value("menu1/forma").toByteArray());
 }

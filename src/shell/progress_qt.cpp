@@ -4,6 +4,7 @@
 
 #include "analysis/run_flags.hpp"
 #include "shell/qt_text.hpp"
+#include "shell/termination.hpp"
 
 namespace korven::shell {
 
@@ -24,6 +25,7 @@ void AvanzamentoQt::iterazione(const analysis::StatoIterazione& stato) {
     daMostrare_ = true;
     if (ritmo_.tocca(orologio_())) mostra();
     QCoreApplication::processEvents();
+    if (Terminazione::chiesta()) analysis::stopCalcolo = true;
 }
 
 void AvanzamentoQt::mostra() {

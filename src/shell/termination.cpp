@@ -9,6 +9,7 @@
 namespace korven::shell {
 
 Terminazione::Terminazione() {
+    chiesta_ = false;
     if (segnali_.descrittore() < 0) return;
     auto* avviso = new QSocketNotifier(segnali_.descrittore(), QSocketNotifier::Read, this);
     connect(avviso, &QSocketNotifier::activated, this, &Terminazione::ricevuto);
@@ -17,6 +18,7 @@ Terminazione::Terminazione() {
 void Terminazione::ricevuto() {
     const int segnale = segnali_.prossimo();
     if (segnale == 0) return;
+    chiesta_ = true;
     commands::recuperaProgetto();
     analysis::stopCalcolo = true;
     QCoreApplication::exit(128 + segnale);

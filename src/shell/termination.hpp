@@ -12,9 +12,18 @@ class Terminazione : public QObject {
     Q_OBJECT
  public:
     Terminazione();
+    ~Terminazione() override { chiesta_ = false; }
+    Terminazione(const Terminazione&) = delete;
+    Terminazione& operator=(const Terminazione&) = delete;
+
+    /// True once a signal has come. A run that begins afterwards, behind a question that the signal
+    /// closed, asks this, since it has put `stopCalcolo` back.
+    [[nodiscard]] static bool chiesta() { return chiesta_; }
 
  private:
     void ricevuto();
+
+    static inline bool chiesta_ = false;
 
     base::SegnaliFine segnali_;
 };

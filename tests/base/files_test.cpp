@@ -93,7 +93,7 @@ TEST(ScriviFile, RefusesALinkIntoAMissingFolderAndOneThatLeadsToItself) {
 
 TEST(ScriviFile, LeavesTheOldFileAndNoHalfOneWhenTheFolderIsMissing) {
     const CartellaProvvisoria cartella;
-    EXPECT_THROW(scriviFile(cartella / "nessuna/f", "x"), ErroreFile);
+    EXPECT_THROW(scriviFile(cartella / "nessuna/f", "x"), ErroreScrittura);
     EXPECT_EQ(voci(cartella), 0u);
 }
 
@@ -163,7 +163,7 @@ TEST(AccodaFile, AddsBehindWhatStands) {
     metti(cartella / "f", "uno ");
     accodaFile(cartella / "f", "due");
     EXPECT_EQ(contenuto(cartella / "f"), "uno due");
-    EXPECT_THROW(accodaFile(cartella / "g", "x"), ErroreFile);
+    EXPECT_THROW(accodaFile(cartella / "g", "x"), ErroreScrittura);
 }
 
 // The first bytes still fit; they must not stay behind.
@@ -247,6 +247,13 @@ TEST(CancellaFile, IsSilentAboutAMissingFile) {
     EXPECT_FALSE(esisteFile(cartella / "f"));
     EXPECT_NO_THROW(cancellaFile(cartella / "f"));
     EXPECT_FALSE(esisteFile(cartella.percorso()));  // a folder is no file
+}
+
+TEST(CancellaFile, LeavesAnEmptyFolderOfThatName) {
+    const CartellaProvvisoria cartella;
+    std::filesystem::create_directory(cartella / "f");
+    cancellaFile(cartella / "f");
+    EXPECT_TRUE(std::filesystem::is_directory(cartella / "f"));
 }
 
 }  // namespace

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+#include <filesystem>
+
 #include "base/code_page.hpp"
 #include "base/file_error.hpp"
 #include "base/table.hpp"
@@ -53,6 +56,19 @@ TEST_F(Recupero, GoesElsewhereWhenTheFolderCantBeWritten) {
         << file;
     EXPECT_TRUE(std::filesystem::exists(file));
     std::filesystem::remove(file);
+}
+
+TEST_F(Recupero, MakesTheFolderOfTheUsersDataWhenThereIsNone) {
+    const char* prima = std::getenv("XDG_DATA_HOME");
+    const std::string valore = prima != nullptr ? prima : "";
+    setenv("XDG_DATA_HOME", (ambiente.lavori / "utente/share").c_str(), 1);
+    fileCorrente = ambiente.lavori / "manca/muro.kvd";
+    EXPECT_EQ(recuperaProgetto(), ambiente.lavori / "utente/share/muro_recuperato.kvd");
+    EXPECT_FALSE(std::filesystem::exists(ambiente.lavori / "manca"));
+    if (prima != nullptr)
+        setenv("XDG_DATA_HOME", valore.c_str(), 1);
+    else
+        unsetenv("XDG_DATA_HOME");
 }
 
 TEST_F(Recupero, IsToldWithTheErrorThatEndsTheProgram) {

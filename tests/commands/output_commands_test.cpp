@@ -175,5 +175,36 @@ TEST_F(ProduciDisegni, TellOfAResultThatIsTooLargeLikeOfARefusedRun) {
     EXPECT_FALSE(std::filesystem::exists(ambiente.lavori / "muro.OUT"));
 }
 
+// A folder that bears the name of a file: nobody can write there, the administrator neither.
+TEST_F(Produci, TellsOfResultsThatCantBeWrittenAndGoesOn) {
+    std::filesystem::create_directory(ambiente.lavori / "muro.OUT");
+    for (const auto comando : {Comando::stampaVideo, Comando::graficaMomenti}) {
+        dialogo.messaggi.clear();
+        analysis::erroreCalcolo = false;
+        esegui(comando);
+        EXPECT_TRUE(analysis::erroreCalcolo);
+        ASSERT_EQ(dialogo.messaggi.size(), 1u);
+        EXPECT_TRUE(dialogo.messaggi[0].testo.starts_with(ambiente.lavori / "muro.OUT"))
+            << dialogo.messaggi[0].testo;
+        EXPECT_EQ(project::fileCorrente, muro);
+        EXPECT_EQ(dialogo.puntatori.back(), Puntatore::normale);
+    }
+    EXPECT_TRUE(ricevute.empty());
+    EXPECT_EQ(viste, 0);
+}
+
+TEST_F(Produci, KeepsTheResultsWhenOnlyTheReportCantBeWritten) {
+    std::filesystem::create_directory(ambiente.lavori / "muro.TAB");
+    esegui(Comando::stampaVideo);
+    EXPECT_TRUE(analysis::erroreCalcolo);
+    EXPECT_EQ(dialogo.messaggi.size(), 1u);
+    EXPECT_TRUE(ricevute.empty());
+    EXPECT_TRUE(std::filesystem::exists(ambiente.lavori / "muro.OUT"));
+    std::filesystem::remove(ambiente.lavori / "muro.TAB");
+    esegui(Comando::stampaVideo);
+    EXPECT_FALSE(analysis::erroreCalcolo);
+    EXPECT_EQ(ricevute.size(), 1u);
+}
+
 }  // namespace
 }  // namespace korven::commands

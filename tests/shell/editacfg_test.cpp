@@ -8,6 +8,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
 #include <filesystem>
 #include <optional>
 
@@ -66,6 +67,14 @@ class Penne : public test::ProvaPlot {
     test::DialogRecord dialogo;
     std::unique_ptr<Editacfg> forma;
 };
+
+TEST_F(Penne, LeaveRoomForTheRestOfTheFormOnASmallScreen) {
+    auto configurazione = scritta();
+    configurazione.penne[1].etichetta = std::string(100, 'M');
+    plot::scriviConfigurazione(programma / "module06ita.cfg", configurazione);
+    apri();
+    EXPECT_LE(forma->minimumSizeHint().width(), forma->screen()->availableSize().width());
+}
 
 TEST_F(Penne, StandInAFormWithItsCaptions) {
     EXPECT_EQ(forma->windowTitle(), "SELEZIONE COLORI");

@@ -2,8 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <QComboBox>
 #include <QDir>
 #include <QFileDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <filesystem>
 
@@ -38,6 +40,26 @@ TEST_F(DialoghiFile, TakeTheNameOfAProjectThatDoesNotExistYet) {
     });
     EXPECT_EQ(dialoghi.apri(""), lavori / "muro");
     EXPECT_EQ(titolo, "Apri un progetto o scrivi il nome di uno nuovo");
+}
+
+// A label without its list would show the "&" of the access key.
+TEST_F(DialoghiFile, LeadFromEachLabelToItsListByAnAccessKey) {
+    const auto guarda = [](QFileDialog& d) {
+        int etichette = 0;
+        for (const QLabel* etichetta : d.findChildren<QLabel*>()) {
+            if (!etichetta->text().contains(QLatin1Char('&'))) continue;
+            ++etichette;
+            EXPECT_NE(etichetta->buddy(), nullptr) << etichetta->text().toStdString();
+        }
+        EXPECT_EQ(etichette, 3);
+        QTest::keyClick(&d, Qt::Key_Escape);
+    };
+    {
+        const Dialogo dialogo(guarda);
+        EXPECT_EQ(dialoghi.apri(""), "");
+    }
+    const Dialogo dialogo(guarda);
+    EXPECT_EQ(dialoghi.salva("muro.kvd"), std::nullopt);
 }
 
 TEST_F(DialoghiFile, BeginWhereTheLastNameWasChosen) {

@@ -7,6 +7,8 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QScreen>
+#include <QSettings>
 #include <set>
 
 #include "base/code_page.hpp"
@@ -133,6 +135,15 @@ TEST_F(Menu1Test, HasAnAccessKeyOfItsOwnForEachItemOfAMenuInEveryLanguage) {
         apri();
         controllaTasti(finestra.menuBar()->actions(), lingua);
     }
+}
+
+TEST_F(Menu1Test, OpensWholeOnASmallScreen) {
+    const QSize schermo = finestra.screen()->availableSize();
+    ASSERT_LT(schermo.width(), 900) << "the screen of the tests is no small one";
+    QSettings().remove("menu1/forma");  // as if no form had been closed before
+    const Menu1 nuova;
+    EXPECT_LT(nuova.width(), schermo.width());
+    EXPECT_LT(nuova.height(), schermo.height());
 }
 
 TEST_F(Menu1Test, LetsNobodyChooseACommandWhoseFormIsMissing) {

@@ -8,6 +8,7 @@
 
 #include "analysis/run_flags.hpp"
 #include "shell/application.hpp"
+#include "shell/progress_qt.hpp"
 #include "support/document_ports.hpp"
 #include "support/sample_projects.hpp"
 
@@ -61,6 +62,28 @@ TEST_F(TerminazioneTest, EndsFormsAndRunsOnTheWay) {
     EXPECT_EQ(static_cast<Applicazione*>(qApp)->gira(), 128 + SIGTERM);
     EXPECT_TRUE(chiusa);
     EXPECT_TRUE(analysis::stopCalcolo);
+}
+
+// The signal comes while a question stands before a run; the run then begins all the same, and one
+// that finds no end would keep the program for ever.
+TEST_F(TerminazioneTest, StopsARunThatBeginsAfterTheSignal) {
+    EXPECT_FALSE(Terminazione::chiesta());
+    EXPECT_EQ(giraFinoA(SIGTERM), 128 + SIGTERM);
+    AvanzamentoQt avanzamento;
+    avanzamento.apri();
+    analysis::stopCalcolo = false;  // as each run begins
+    avanzamento.iterazione({});
+    EXPECT_TRUE(analysis::stopCalcolo);
+    avanzamento.chiudi();
+}
+
+TEST_F(TerminazioneTest, LeavesARunAloneWithoutASignal) {
+    AvanzamentoQt avanzamento;
+    avanzamento.apri();
+    analysis::stopCalcolo = false;
+    avanzamento.iterazione({});
+    EXPECT_FALSE(analysis::stopCalcolo);
+    avanzamento.chiudi();
 }
 
 }  // namespace
