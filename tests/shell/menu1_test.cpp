@@ -231,6 +231,31 @@ TEST_F(Menu1Test, AsksOnceWhenTheExitClosesTheForm) {
     EXPECT_EQ(dialogo.domande.size(), 1u);
 }
 
+TEST_F(Menu1Test, ClosesWithoutASecondQuestionWhenTheSessionEnds) {
+    apri();
+    fileCorrente = ambiente.lavori / "muro.kvd";
+    modificato = true;
+    dialogo.risposte = {Risposta::annulla, Risposta::no};
+    EXPECT_FALSE(finestra.sessioneFinisce(true));
+    EXPECT_TRUE(finestra.sessioneFinisce(true));
+    EXPECT_TRUE(finestra.close());
+    EXPECT_EQ(dialogo.domande.size(), 2u);
+}
+
+TEST_F(Menu1Test, AsksAgainWhenTheSessionGoesOnAndTheProjectWithIt) {
+    apri();
+    fileCorrente = ambiente.lavori / "muro.kvd";
+    modificato = true;
+    dialogo.risposte = {Risposta::no, Risposta::annulla, Risposta::no, Risposta::annulla};
+    EXPECT_TRUE(finestra.sessioneFinisce(true));
+    voce("EditFasi")->trigger();  // another program has called the end off
+    EXPECT_FALSE(finestra.close());
+    EXPECT_TRUE(finestra.sessioneFinisce(true));
+    EXPECT_TRUE(finestra.sessioneFinisce(false));  // nobody to ask: rescued, and not answered
+    EXPECT_FALSE(finestra.close());
+    EXPECT_EQ(dialogo.domande.size(), 4u);
+}
+
 TEST_F(Menu1Test, ShowsTheHelpOfTheHighlightedItemAtF1) {
     apri();
     auto* menu = voce("archivi")->menu();
