@@ -84,7 +84,7 @@ int sessione(shell::Applicazione& applicazione, shell::DialogoQt& dialogo,
     finestra.show();
     QTimer::singleShot(0, &finestra, [&] {
         commands::avvia(argomento, programma.documento(),
-                        {.leggiMaschere = [&] { maschere.leggiMaschereProgramma(); },
+                        {.leggiMaschere = [&] { commands::leggiDatiProgramma(maschere); },
                          .saluta = [&] { finestra.esegui(commands::Comando::about); }});
     });
     return applicazione.gira();
