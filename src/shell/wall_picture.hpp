@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QString>
 #include <QWidget>
 
 class QPainter;
@@ -28,6 +29,8 @@ class WallPicture : public QWidget {
     void keyPressEvent(QKeyEvent* evento) override;
 
  private:
+    // Translated once: a box of the translators' test mode must not open while a window is painted.
+    const QString sottotitolo_;
     bool titolo_ = true;
 };
 
