@@ -34,9 +34,10 @@
 namespace korven::desktop {
 namespace {
 
-// The texts that Qt itself shows in the file dialogs, where the system has them in this language.
+// The texts that Qt itself shows in the file dialogs, where the system has them in this language;
+// its Portuguese is that of Brazil alone.
 void traduciQt(QCoreApplication& applicazione) {
-    constexpr const char* codici[] = {"it", "de", "fr", "es", "en", "pt"};
+    constexpr const char* codici[] = {"it", "de", "fr", "es", "en", "pt_BR"};
     const int lingua = base::linguaCorrente();
     if (lingua < 1 || lingua > 6) return;
     auto* traduzione = new QTranslator(&applicazione);
