@@ -12,9 +12,7 @@ namespace korven::shell {
 namespace {
 
 // The pattern of the projects whatever the case, which name filters do not promise by themselves.
-QStringList filtri() {
-    return {"Korven 32 (*.kvd *.KVD *.Kvd)", tradotto("Tutti i file") + " (*)"};
-}
+QStringList filtri() { return {"Korven 32 (*.[kK][vV][dD])", tradotto("Tutti i file") + " (*)"}; }
 
 // A new project is opened by a name that no file has, so both dialogs take any name; what stands
 // under it is the command's to judge.

@@ -62,6 +62,22 @@ TEST_F(DialoghiFile, LeaveTheQuestionWhetherToReplaceAFileToTheCommand) {
     EXPECT_EQ(proposto, "muro.kvd");
 }
 
+TEST_F(DialoghiFile, ShowTheFilesOfThePatternWhateverTheirCase) {
+    for (const char* nome : {"a.kvd", "b.KVD", "c.Kvd", "d.kVd", "e.kvdx", "f.txt"})
+        test::metti(lavori / nome, "x");
+    QString filtro;
+    const Dialogo dialogo([&](QFileDialog& d) {
+        filtro = d.nameFilters().value(0);
+        QTest::keyClick(&d, Qt::Key_Escape);
+    });
+    EXPECT_EQ(dialoghi.apri(""), "");
+    const QString modello = filtro.section('(', 1).section(')', 0, 0);
+    EXPECT_EQ(filtro.section(" (", 0, 0), "Korven 32");
+    const QDir cartella(QString::fromStdString(lavori.percorso()));
+    EXPECT_EQ(cartella.entryList({modello}, QDir::Files | QDir::CaseSensitive, QDir::Name),
+              (QStringList{"a.kvd", "b.KVD", "c.Kvd", "d.kVd"}));
+}
+
 TEST_F(DialoghiFile, AnswerNothingAtEsc) {
     const auto esci = [](QFileDialog& d) { QTest::keyClick(&d, Qt::Key_Escape); };
     {

@@ -178,7 +178,7 @@ const std::map<std::string, Texts> noTexts = {
     {"shell/grid_view.cpp", {"MSFlexGrid1", "angolo"}},
     {"shell/mask_form.cpp", {"contestoAiuto"}},
     {"shell/dialogo_qt.cpp", {"messaggio", "annulla"}},
-    {"shell/file_dialogs_qt.cpp", {"apri", "salva", "Korven 32 (*.kvd *.KVD *.Kvd)"}},
+    {"shell/file_dialogs_qt.cpp", {"apri", "salva", "Korven 32 (*.[kK][vV][dD])"}},
     {"shell/guida.cpp",
      {"guida/caratteri", "guida", "KORVEN 32 -", "pagina", "indietro", "avanti", "sommario",
       "piccoli", "grandi", "A−", "Alt+←", "Alt+→", "Alt+Home", "Ctrl+−", "Ctrl++", "cerca",
