@@ -1,6 +1,5 @@
 #include "shell/wall_picture.hpp"
 
-#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
@@ -165,24 +164,11 @@ void WallPicture::paintEvent(QPaintEvent*) {
     for (const double testa : {43.0, 56.0}) tirante(p, testa);
     muro(p);
     if (titolo_) nome(p, sottotitolo_);
-    if (!hasFocus()) return;
-    p.resetTransform();
-    p.setBrush(Qt::NoBrush);
-    p.setPen(QPen(QColor(30, 58, 84), 2, Qt::DotLine));
-    p.drawRect(rect().adjusted(3, 3, -4, -4));
 }
 
 void WallPicture::mouseReleaseEvent(QMouseEvent* evento) {
     if (evento->button() == Qt::LeftButton && rect().contains(evento->position().toPoint()))
         emit premuta();
-}
-
-void WallPicture::keyPressEvent(QKeyEvent* evento) {
-    const int tasto = evento->key();
-    if (tasto == Qt::Key_Return || tasto == Qt::Key_Enter || tasto == Qt::Key_Space)
-        emit premuta();
-    else
-        QWidget::keyPressEvent(evento);
 }
 
 }  // namespace korven::shell

@@ -26,7 +26,6 @@ class WallPicture : public QWidget {
  protected:
     void paintEvent(QPaintEvent* evento) override;
     void mouseReleaseEvent(QMouseEvent* evento) override;
-    void keyPressEvent(QKeyEvent* evento) override;
 
  private:
     // Translated once: a box of the translators' test mode must not open while a window is painted.
