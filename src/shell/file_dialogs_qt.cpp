@@ -23,6 +23,9 @@ void prepara(QFileDialog& dialogo, const QString& titolo, QFileDialog::AcceptMod
     dialogo.setAcceptMode(modo);
     dialogo.setOption(QFileDialog::DontConfirmOverwrite);
     dialogo.setOption(QFileDialog::HideNameFilterDetails);
+    // Some desktops offer a dialog of their own that opens nothing but files that are there: nobody
+    // could begin a project.
+    dialogo.setOption(QFileDialog::DontUseNativeDialog, modo == QFileDialog::AcceptOpen);
     dialogo.setLabelText(QFileDialog::LookIn, tradotto("Cerca &in:"));
     dialogo.setLabelText(QFileDialog::FileName, tradotto("&Nome del file:"));
     dialogo.setLabelText(QFileDialog::FileType, tradotto("&Tipo di file:"));

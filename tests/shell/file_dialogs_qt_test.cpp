@@ -40,6 +40,25 @@ TEST_F(DialoghiFile, TakeTheNameOfAProjectThatDoesNotExistYet) {
     EXPECT_EQ(titolo, "Apri un progetto o scrivi il nome di uno nuovo");
 }
 
+// The dialog that a desktop may put in the place of Qt's opens nothing but files that exist.
+TEST_F(DialoghiFile, AreQtsOwnWhereANewNameMayBeTypedToOpen) {
+    bool nativoApri = true, nativoSalva = false;
+    {
+        const Dialogo dialogo([&](QFileDialog& d) {
+            nativoApri = !d.testOption(QFileDialog::DontUseNativeDialog);
+            QTest::keyClick(&d, Qt::Key_Escape);
+        });
+        EXPECT_EQ(dialoghi.apri(""), "");
+    }
+    const Dialogo dialogo([&](QFileDialog& d) {
+        nativoSalva = !d.testOption(QFileDialog::DontUseNativeDialog);
+        QTest::keyClick(&d, Qt::Key_Escape);
+    });
+    EXPECT_EQ(dialoghi.salva("muro.kvd"), std::nullopt);
+    EXPECT_FALSE(nativoApri);
+    EXPECT_TRUE(nativoSalva);
+}
+
 TEST_F(DialoghiFile, BeginWhereTheLastNameWasChosen) {
     std::filesystem::create_directory(lavori / "nuovi");
     const std::string nome = lavori / "nuovi/muro";
