@@ -140,13 +140,14 @@ bool Menu1::sessioneFinisce(bool chiedibile) {
 }
 
 void Menu1::dragEnterEvent(QDragEnterEvent* evento) {
-    if (programma_ != nullptr && !progettoTrascinato(*evento->mimeData()).empty())
+    // The viewer of drawings disables the form, which keeps the mouse from it but no drop.
+    if (programma_ != nullptr && isEnabled() && !progettoTrascinato(*evento->mimeData()).empty())
         evento->acceptProposedAction();
 }
 
 void Menu1::dropEvent(QDropEvent* evento) {
     const std::string file = progettoTrascinato(*evento->mimeData());
-    if (programma_ == nullptr || file.empty()) return;
+    if (programma_ == nullptr || !isEnabled() || file.empty()) return;
     evento->acceptProposedAction();
     // The program that the file comes from waits for the end of the drop, not for our questions.
     QTimer::singleShot(0, this, [this, file] {

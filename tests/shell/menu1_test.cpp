@@ -10,6 +10,7 @@
 #include <set>
 
 #include "base/code_page.hpp"
+#include "base/file_error.hpp"
 #include "project/project_file.hpp"
 #include "support/desktop_bench.hpp"
 #include "support/document_ports.hpp"
@@ -205,6 +206,33 @@ TEST_F(Menu1Test, TakesNothingElseThatIsDropped) {
     lascia(ambiente.lavori / "manca.kvd");
     EXPECT_FALSE(accettato);
     EXPECT_TRUE(fileCorrente.empty());
+}
+
+TEST_F(Menu1Test, TakesNoDropWhileADrawingIsShown) {
+    apri();
+    const std::string muro = scriviMuro();
+    finestra.setEnabled(false);  // as the viewer does
+    lascia(muro);
+    EXPECT_FALSE(accettato);
+    finestra.setEnabled(true);
+    lascia(muro);
+    EXPECT_TRUE(accettato);
+    EXPECT_EQ(fileCorrente, muro);
+}
+
+// What the rescue at the end of the program finds: the project that was open, and unsaved.
+TEST_F(Menu1Test, KeepsTheUnsavedProjectWhenADroppedFileIsNone) {
+    apri();
+    const std::string muro = scriviMuro();
+    lascia(muro);
+    modificato = true;
+    dialogo.risposte = {Risposta::no};
+    const std::string rotto = ambiente.lavori / "rotto.kvd";
+    test::metti(rotto, "due\r\n");
+    EXPECT_THROW(programma->documento().apri(rotto), base::ErroreFile);
+    EXPECT_EQ(fileCorrente, muro);
+    EXPECT_TRUE(modificato);
+    EXPECT_EQ(project::Progetto, test::progettoSemplice());
 }
 
 TEST_F(Menu1Test, StaysOpenOnCancelFromTheExitAndFromItsCloseBox) {
