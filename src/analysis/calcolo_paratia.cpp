@@ -50,19 +50,22 @@ class Clessidra {
     base::Dialogo& dialogo_;
 };
 
-// Puts the name of the result file in the place of the project's for the length of a run.
+// Puts the name of the result file in the place of the project's for the length of a run. A project
+// that is saved while events are served, as when the session ends, keeps the name it was given.
 class NomeRisultati {
  public:
-    NomeRisultati() : progetto_(fileCorrente) { fileCorrente = base::nomeRisultati(progetto_); }
+    NomeRisultati() : progetto_(fileCorrente), risultati_(base::nomeRisultati(progetto_)) {
+        fileCorrente = risultati_;
+    }
     NomeRisultati(const NomeRisultati&) = delete;
     NomeRisultati& operator=(const NomeRisultati&) = delete;
     ~NomeRisultati() {
-        if (!lasciato_) fileCorrente = progetto_;
+        if (!lasciato_ && fileCorrente == risultati_) fileCorrente = progetto_;
     }
     void lascia() { lasciato_ = true; }
 
  private:
-    std::string progetto_;
+    std::string progetto_, risultati_;
     bool lasciato_ = false;
 };
 
@@ -85,15 +88,17 @@ class ProgettoAlSicuro {
 };
 
 // A result file in the making and the progress display beside it: both are gone unless the run ends
-// well, whatever ends it.
+// well, whatever ends it. It keeps its own name: `fileCorrente` may become that of a project that
+// is saved meanwhile.
 class FileInCorso {
  public:
-    explicit FileInCorso(Avanzamento& avanzamento) : avanzamento_(avanzamento) {
+    explicit FileInCorso(Avanzamento& avanzamento)
+        : avanzamento_(avanzamento), nome_(fileCorrente) {
         project::scriviProgetto();
         try {
             avanzamento_.apri();
         } catch (...) {
-            base::cancellaFile(fileCorrente);
+            base::cancellaFile(nome_);
             throw;
         }
     }
@@ -101,13 +106,14 @@ class FileInCorso {
     FileInCorso& operator=(const FileInCorso&) = delete;
     ~FileInCorso() {
         avanzamento_.chiudi();
-        if (!finito_) base::cancellaFile(fileCorrente);
+        if (!finito_) base::cancellaFile(nome_);
     }
-    void aggiungi(std::string_view testo) { base::accodaFile(fileCorrente, testo); }
+    void aggiungi(std::string_view testo) { base::accodaFile(nome_, testo); }
     void finito() { finito_ = true; }
 
  private:
     Avanzamento& avanzamento_;
+    std::string nome_;
     bool finito_ = false;
 };
 

@@ -136,6 +136,8 @@ bool rappresentabile(std::string_view utf8) {
     return true;
 }
 
+std::string comeNeiFile(std::string_view utf8) { return daCp1252(inCp1252(utf8)); }
+
 std::string maiuscolo(std::string_view utf8) { return mappato(utf8, grandeDi); }
 std::string minuscolo(std::string_view utf8) { return mappato(utf8, piccolaDi); }
 

@@ -22,6 +22,10 @@ namespace korven::base {
 /// True when `inCp1252` has to replace nothing.
 [[nodiscard]] bool rappresentabile(std::string_view utf8);
 
+/// The text as a file will give it back: `daCp1252` of its `inCp1252`. What is typed is shown like
+/// this at once, so that nobody finds a '?' in a saved text.
+[[nodiscard]] std::string comeNeiFile(std::string_view utf8);
+
 /// Upper case, one character for one: the letters of Windows-1252 with their accents, and U+00FF
 /// (y with diaeresis) with its capital U+0178. The German sharp s stays, as it has no capital of
 /// one letter; so does everything that is no letter of the code page.

@@ -1,5 +1,6 @@
 #include "commands/program.hpp"
 
+#include "analysis/run_flags.hpp"
 #include "commands/document_names.hpp"
 #include "commands/edit_commands.hpp"
 #include "commands/fatal_error.hpp"
@@ -54,8 +55,12 @@ bool Programma::esegui(Comando comando) {
 }
 
 bool Programma::fineSessione(bool chiedibile) {
-    if (chiedibile) return documento_.fine();
-    recuperaProgetto();
+    if (!chiedibile) {
+        recuperaProgetto();
+        return true;
+    }
+    if (!documento_.fine()) return false;
+    analysis::stopCalcolo = true;
     return true;
 }
 

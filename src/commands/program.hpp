@@ -23,7 +23,7 @@ class Programma {
     bool esegui(Comando comando);
 
     /// The desktop ends its session: the question about unsaved work where its user may be asked, a
-    /// rescue file (fatal_error.hpp) where nobody can be.
+    /// rescue file (fatal_error.hpp) where nobody can be. A run stops when the program is to end.
     /// @return false to ask the desktop to stay
     bool fineSessione(bool chiedibile);
 

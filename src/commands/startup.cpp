@@ -1,8 +1,17 @@
 #include "commands/startup.hpp"
 
+#include "base/language.hpp"
+#include "base/translated_texts.hpp"
+#include "plot/plot_configuration.hpp"
 #include "project/project_data.hpp"
 
 namespace korven::commands {
+
+void leggiDatiProgramma(project::Maschere& maschere) {
+    maschere.leggiMaschereProgramma();
+    static_cast<void>(plot::leggiConfigurazione(
+        plot::fileConfigurazione(base::siglaLingua(base::linguaCorrente()))));
+}
 
 void avvia(const std::string& argomento, Documento& documento, const PorteAvvio& porte) {
     project::fileCorrente.clear();

@@ -5,6 +5,7 @@
 
 #include "commands/document.hpp"
 #include "commands/language_start.hpp"
+#include "project/mask_values.hpp"
 
 namespace korven::commands {
 
@@ -15,6 +16,12 @@ struct PorteAvvio {
     /// Shows the about box, which greets whoever starts without a project. May be empty.
     std::function<void()> saluta;
 };
+
+/// Reads the five mask files, and looks through the configuration of the drawings, which each
+/// drawing reads anew: a file that can't be used ends the program when it starts and not in the
+/// middle of somebody's work.
+/// @throws base::ErroreFile with the file, its line and what was expected there
+void leggiDatiProgramma(project::Maschere& maschere);
 
 /// The rest of the start, behind the language: no project, the masks, then the project that the
 /// command line names. Without an argument the defaults and the about box; with one that names no

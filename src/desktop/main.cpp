@@ -34,9 +34,10 @@
 namespace korven::desktop {
 namespace {
 
-// The texts that Qt itself shows in the file dialogs, where the system has them in this language.
+// The texts that Qt itself shows in the file dialogs, where the system has them in this language;
+// its Portuguese is that of Brazil alone.
 void traduciQt(QCoreApplication& applicazione) {
-    constexpr const char* codici[] = {"it", "de", "fr", "es", "en", "pt"};
+    constexpr const char* codici[] = {"it", "de", "fr", "es", "en", "pt_BR"};
     const int lingua = base::linguaCorrente();
     if (lingua < 1 || lingua > 6) return;
     auto* traduzione = new QTranslator(&applicazione);
@@ -84,7 +85,7 @@ int sessione(shell::Applicazione& applicazione, shell::DialogoQt& dialogo,
     finestra.show();
     QTimer::singleShot(0, &finestra, [&] {
         commands::avvia(argomento, programma.documento(),
-                        {.leggiMaschere = [&] { maschere.leggiMaschereProgramma(); },
+                        {.leggiMaschere = [&] { commands::leggiDatiProgramma(maschere); },
                          .saluta = [&] { finestra.esegui(commands::Comando::about); }});
     });
     return applicazione.gira();

@@ -59,6 +59,9 @@ void ModelloPenne::cambiaNome(int indice, std::string_view nome) {
 void ModelloPenne::conferma(std::string_view margineSinistro, std::string_view margineSuperiore) {
     configurazione_.margineSinistro = numeroScritto(margineSinistro);
     configurazione_.margineSuperiore = numeroScritto(margineSuperiore);
+    // A file that can't be read back would end the program at the next drawing.
+    base::LettoreRighe daScrivere(percorso_, testoConfigurazione(configurazione_));
+    static_cast<void>(leggiConfigurazione(daScrivere));
     scriviConfigurazione(percorso_, configurazione_);
     statoPlot.scostamentoX = configurazione_.margineSinistro;
     statoPlot.scostamentoY = configurazione_.margineSuperiore;

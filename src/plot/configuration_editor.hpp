@@ -45,7 +45,8 @@ class ModelloPenne {
 
     /// Takes the margins as typed, writes the file anew and puts the margins into force at once.
     /// The pens come into force with the next drawing.
-    /// @throws ErroreFile with the system's reason; the margins in force are then as before
+    /// @throws ErroreFile with the system's reason, or with the line of a width or a margin that
+    ///         could not be read back; the margins in force and the file are then as before
     void conferma(std::string_view margineSinistro, std::string_view margineSuperiore);
 
  private:

@@ -79,7 +79,8 @@ const std::string& FieldModel::testo(std::size_t campo) const { return testi_.at
 
 void FieldModel::scrivi(std::size_t campo, std::string_view testo) {
     if (soloLettura(campo)) return;
-    testi_.at(posto(campo)) = conDecimaliAmmessi(testo, tipoCampo(maschera_.campi[campo].tipo));
+    testi_.at(posto(campo)) =
+        base::comeNeiFile(conDecimaliAmmessi(testo, tipoCampo(maschera_.campi[campo].tipo)));
 }
 
 // A read-only text is locked, yet its text can be read and copied; a read-only choice is disabled.

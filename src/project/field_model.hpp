@@ -46,7 +46,8 @@ class FieldModel {
 
     [[nodiscard]] const std::string& testo(std::size_t campo) const;
     /// The text as it stands after a key or a paste; decimals that a number picture does not take
-    /// are removed from its end. A read-only field keeps its text.
+    /// are removed from its end, and what no project file can hold is a '?' at once. A read-only
+    /// field keeps its text.
     void scrivi(std::size_t campo, std::string_view testo);
 
     /// The field that has the focus.

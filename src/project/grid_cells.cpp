@@ -20,7 +20,7 @@ const std::string& CelleGriglia::testo(int riga, int colonna) const {
 }
 
 void CelleGriglia::scrivi(int riga, int colonna, std::string_view testo) {
-    celle_.at(posto(riga, colonna)) = testo;
+    celle_.at(posto(riga, colonna)) = base::comeNeiFile(testo);
 }
 
 bool CelleGriglia::piena(int riga, int colonna) const {

@@ -16,6 +16,7 @@ class CelleGriglia {
 
     [[nodiscard]] int colonne() const { return colonne_; }
     [[nodiscard]] const std::string& testo(int riga, int colonna) const;
+    /// A character that no project file can hold becomes a '?' at once.
     void scrivi(int riga, int colonna, std::string_view testo);
 
     /// True when the cell is neither empty nor blank.

@@ -140,11 +140,16 @@ QSize Base1::misuraComoda() const {
     return {larghezza, altezzaAltro + campi.height()};
 }
 
-// A picture takes no more than its decimals: the rest goes while it is typed.
+// A picture takes no more than its decimals: the rest goes while it is typed, and a character that
+// can't be saved shows as what will be saved.
 void Base1::scritto(std::size_t campo, const QString& testo) {
     modello_.scrivi(campo, testo.toStdString());
     auto* casella = static_cast<QLineEdit*>(controlli_[campo]);
-    if (const QString tenuto = qt(modello_.testo(campo)); tenuto != testo) casella->setText(tenuto);
+    const QString tenuto = qt(modello_.testo(campo));
+    if (tenuto == testo) return;
+    const int cursore = casella->cursorPosition();
+    casella->setText(tenuto);
+    casella->setCursorPosition(cursore);
 }
 
 bool Base1::entra(std::size_t campo) {

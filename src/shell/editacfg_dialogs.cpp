@@ -1,6 +1,5 @@
 #include <QColorDialog>
 #include <QInputDialog>
-#include <QLineEdit>
 
 #include "device/text_painting.hpp"
 #include "shell/editacfg.hpp"
@@ -17,11 +16,14 @@ std::optional<plot::Colore> DialoghiEditacfg::scegliColore(QWidget* padre, plot:
 std::optional<std::string> DialoghiEditacfg::chiediTesto(QWidget* padre, const std::string& titolo,
                                                          const std::string& domanda,
                                                          const std::string& proposta) {
-    bool dato = false;
-    const QString testo = QInputDialog::getText(padre, qt(titolo), qt(domanda), QLineEdit::Normal,
-                                                qt(proposta), &dato);
-    if (!dato) return {};
-    return testo.toStdString();
+    QInputDialog dialogo(padre);
+    dialogo.setWindowTitle(qt(titolo));
+    dialogo.setLabelText(qt(domanda));
+    dialogo.setTextValue(qt(proposta));
+    dialogo.setOkButtonText(QStringLiteral("OK"));
+    dialogo.setCancelButtonText(tradotto("&Annulla"));
+    if (dialogo.exec() != QDialog::Accepted) return {};
+    return dialogo.textValue().toStdString();
 }
 
 }  // namespace korven::shell

@@ -15,9 +15,7 @@ namespace korven::shell {
 namespace {
 
 // The pattern of the projects whatever the case, which name filters do not promise by themselves.
-QStringList filtri() {
-    return {"Korven 32 (*.kvd *.KVD *.Kvd)", tradotto("Tutti i file") + " (*)"};
-}
+QStringList filtri() { return {"Korven 32 (*.[kK][vV][dD])", tradotto("Tutti i file") + " (*)"}; }
 
 // Qt leaves the labels of its two lists alone; without the list that it names, a label shows its
 // "&" as a letter. A dialog of the desktop's own has none of them.
@@ -38,6 +36,9 @@ void prepara(QFileDialog& dialogo, const QString& titolo, QFileDialog::AcceptMod
     dialogo.setAcceptMode(modo);
     dialogo.setOption(QFileDialog::DontConfirmOverwrite);
     dialogo.setOption(QFileDialog::HideNameFilterDetails);
+    // Some desktops offer a dialog of their own that opens nothing but files that are there: nobody
+    // could begin a project.
+    dialogo.setOption(QFileDialog::DontUseNativeDialog, modo == QFileDialog::AcceptOpen);
     dialogo.setLabelText(QFileDialog::LookIn, tradotto("Cerca &in:"));
     dialogo.setLabelText(QFileDialog::FileName, tradotto("&Nome del file:"));
     dialogo.setLabelText(QFileDialog::FileType, tradotto("&Tipo di file:"));

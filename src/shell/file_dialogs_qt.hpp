@@ -7,7 +7,8 @@
 
 namespace korven::shell {
 
-/// The file dialogs of the desktop, native where it offers them. They begin in the current folder.
+/// The file dialogs of the desktop. That to save is native where the desktop offers one; that to
+/// open is Qt's own, which takes the name of a new project too. They begin in the current folder.
 class DialogoFileQt : public commands::DialogoFile {
  public:
     /// The window over which the dialogs appear.

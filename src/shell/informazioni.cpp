@@ -36,6 +36,7 @@ Informazioni::Informazioni(const std::string& fileCorrente, QWidget* genitore) :
     auto* immagine = new WallPicture(this);
     immagine->setFixedSize(460, 210);
     immagine->mostraTitolo(false);
+    immagine->setAccessibleName(tradotto("Dimensionamento di Paratie e Diaframmi"));
     colonna->addWidget(immagine, 0, Qt::AlignHCenter);
     colonna->addWidget(riga("KORVEN 32", "nome", 2.0, true, this));
     colonna->addWidget(

@@ -112,6 +112,7 @@ void Menu1::costruisciMenu() {
 
 void Menu1::esegui(Comando comando) {
     if (programma_ == nullptr || !programma_->puo(comando)) return;
+    salutata_ = false;  // a session that was to end goes on, and the project may change again
     if (!programma_->esegui(comando)) return;
     salutata_ = true;
     close();
@@ -131,28 +132,35 @@ void Menu1::closeEvent(QCloseEvent* evento) {
 }
 
 void Menu1::fineSessione(QSessionManager& gestore) {
-    if (programma_ == nullptr) return;
     const bool chiedibile = gestore.allowsInteraction();
-    const bool finisce = programma_->fineSessione(chiedibile);
+    const bool finisce = sessioneFinisce(chiedibile);
     if (!chiedibile) return;
     gestore.release();
-    if (finisce)
-        salutata_ = true;
-    else
-        gestore.cancel();
+    if (!finisce) gestore.cancel();
+}
+
+bool Menu1::sessioneFinisce(bool chiedibile) {
+    if (programma_ == nullptr) return true;
+    const bool finisce = programma_->fineSessione(chiedibile);
+    salutata_ = finisce && chiedibile;
+    return finisce;
 }
 
 void Menu1::dragEnterEvent(QDragEnterEvent* evento) {
-    if (programma_ != nullptr && !progettoTrascinato(*evento->mimeData()).empty())
+    // The viewer of drawings disables the form, which keeps the mouse from it but no drop.
+    if (programma_ != nullptr && isEnabled() && !progettoTrascinato(*evento->mimeData()).empty())
         evento->acceptProposedAction();
 }
 
 void Menu1::dropEvent(QDropEvent* evento) {
     const std::string file = progettoTrascinato(*evento->mimeData());
-    if (programma_ == nullptr || file.empty()) return;
+    if (programma_ == nullptr || !isEnabled() || file.empty()) return;
     evento->acceptProposedAction();
     // The program that the file comes from waits for the end of the drop, not for our questions.
-    QTimer::singleShot(0, this, [this, file] { programma_->documento().apri(file); });
+    QTimer::singleShot(0, this, [this, file] {
+        salutata_ = false;
+        programma_->documento().apri(file);
+    });
 }
 
 bool Menu1::eventFilter(QObject* oggetto, QEvent* evento) {

@@ -30,6 +30,13 @@ class Menu1 : public QMainWindow, public commands::FinestraPrincipale {
     /// the user be asked, a rescue file where it does not.
     void fineSessione(QSessionManager& gestore);
 
+    /// The same without the session manager. Once the question is answered the form closes without
+    /// asking again; but another program may call the end of the session off, and then the next
+    /// command makes the question due once more.
+    /// @param chiedibile  whether the user may be asked
+    /// @return false to ask the desktop to stay
+    [[nodiscard]] bool sessioneFinisce(bool chiedibile);
+
     void titolo(const std::string& testo) override;
     void stato(const std::string& testo) override;
 

@@ -44,7 +44,10 @@ void disponi(QPainter& pittore, Segno segno) {
 }  // namespace
 
 SectionSketchView::SectionSketchView(std::function<void(std::size_t)> scelto, QWidget* genitore)
-    : QWidget(genitore), scelto_(std::move(scelto)) {
+    : QWidget(genitore),
+      scelto_(std::move(scelto)),
+      monte_(tradotto("LATO MONTE")),
+      valle_(tradotto("LATO VALLE")) {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
@@ -129,17 +132,17 @@ void SectionSketchView::dipingiQuota(QPainter& pittore,
 void SectionSketchView::dipingiLati(QPainter& pittore) const {
     pittore.setFont(carattere(false));
     pittore.setPen(grigio);
-    const auto lato = [&](double x, const char* nome) {
+    const auto lato = [&](double x, const QString& nome) {
         pittore.save();
         pittore.translate(sulWidget({x, structure::altezzaSchizzo / 2}));
         pittore.rotate(-90);
         const double meta = structure::altezzaSchizzo / 2 * scala();
-        pittore.drawText(QRectF(-meta, -meta, 2 * meta, 2 * meta), Qt::AlignCenter, tradotto(nome));
+        pittore.drawText(QRectF(-meta, -meta, 2 * meta, 2 * meta), Qt::AlignCenter, nome);
         pittore.restore();
     };
     constexpr double dalBordo = 4;
-    lato(dalBordo, "LATO MONTE");
-    lato(structure::larghezzaSchizzo - dalBordo, "LATO VALLE");
+    lato(dalBordo, monte_);
+    lato(structure::larghezzaSchizzo - dalBordo, valle_);
 }
 
 void SectionSketchView::paintEvent(QPaintEvent*) {

@@ -41,6 +41,8 @@ class SectionSketchView : public QWidget {
     void dipingiLati(QPainter& pittore) const;
 
     std::function<void(std::size_t)> scelto_;
+    // Translated once: a box of the translators' test mode must not open while a window is painted.
+    const QString monte_, valle_;
     structure::Schizzo schizzo_;
     std::optional<std::size_t> evidenziato_;
 };

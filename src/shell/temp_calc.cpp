@@ -14,7 +14,10 @@ QRect riquadroTempCalc(const QRect& schermo) {
             schermo.width() / 3, 2 * schermo.height() / 3};
 }
 
-TempCalc::TempCalc(QWidget* principale) : QWidget(principale, Qt::Window) {
+TempCalc::TempCalc(QWidget* principale)
+    : QWidget(principale, Qt::Window),
+      deformata_(tradotto("Deformata")),
+      momenti_(tradotto("Momento flettente")) {
     setObjectName("TempCalc");
     setWindowTitle(tradotto("Calcolo in corso"));
     setWindowModality(Qt::ApplicationModal);
@@ -73,12 +76,12 @@ void TempCalc::paintEvent(QPaintEvent*) {
 void TempCalc::legenda(QPainter& pittore) const {
     const int riga = fontMetrics().height() + 4;
     int y = riga;
-    for (const auto& [chiave, colore] :
-         {std::pair{"Deformata", coloreDeformata}, std::pair{"Momento flettente", coloreMomenti}}) {
+    for (const auto& [nome, colore] :
+         {std::pair{deformata_, coloreDeformata}, std::pair{momenti_, coloreMomenti}}) {
         pittore.setPen(QPen(colore, 3));
         pittore.drawLine(8, y, 28, y);
         pittore.setPen(Qt::black);
-        pittore.drawText(34, y + fontMetrics().ascent() / 2, tradotto(chiave));
+        pittore.drawText(34, y + fontMetrics().ascent() / 2, nome);
         y += riga;
     }
 }

@@ -34,6 +34,8 @@ class TempCalc : public QWidget {
 
     QPushButton* command1_;
     QuadroAvanzamento quadro_;
+    // Translated once: a box of the translators' test mode must not open while a window is painted.
+    const QString deformata_, momenti_;
 };
 
 /// A third of the screen's width, two thirds of its height, in the middle.

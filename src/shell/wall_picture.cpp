@@ -1,6 +1,5 @@
 #include "shell/wall_picture.hpp"
 
-#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
@@ -129,7 +128,7 @@ void momenti(QPainter& p) {
     p.drawLine(QPointF(x, terra), QPointF(x, muroPiede));
 }
 
-void nome(QPainter& p) {
+void nome(QPainter& p, const QString& sottotitolo) {
     p.setPen(QColor(30, 58, 84));
     QFont carattere = p.font();
     carattere.setPixelSize(12);
@@ -139,13 +138,13 @@ void nome(QPainter& p) {
     carattere.setPixelSize(4);
     carattere.setBold(false);
     p.setFont(carattere);
-    p.drawText(QRectF(6.4, 17, 150, 7), Qt::AlignLeft | Qt::AlignVCenter,
-               tradotto("Dimensionamento di Paratie e Diaframmi"));
+    p.drawText(QRectF(6.4, 17, 150, 7), Qt::AlignLeft | Qt::AlignVCenter, sottotitolo);
 }
 
 }  // namespace
 
-WallPicture::WallPicture(QWidget* genitore) : QWidget(genitore) {
+WallPicture::WallPicture(QWidget* genitore)
+    : QWidget(genitore), sottotitolo_(tradotto("Dimensionamento di Paratie e Diaframmi")) {
     setAccessibleName(
         tradotto("Sezione di una paratia tirantata fra monte e valle; un clic apre "
                  "le informazioni sul programma"));
@@ -164,25 +163,12 @@ void WallPicture::paintEvent(QPaintEvent*) {
     momenti(p);
     for (const double testa : {43.0, 56.0}) tirante(p, testa);
     muro(p);
-    if (titolo_) nome(p);
-    if (!hasFocus()) return;
-    p.resetTransform();
-    p.setBrush(Qt::NoBrush);
-    p.setPen(QPen(QColor(30, 58, 84), 2, Qt::DotLine));
-    p.drawRect(rect().adjusted(3, 3, -4, -4));
+    if (titolo_) nome(p, sottotitolo_);
 }
 
 void WallPicture::mouseReleaseEvent(QMouseEvent* evento) {
     if (evento->button() == Qt::LeftButton && rect().contains(evento->position().toPoint()))
         emit premuta();
-}
-
-void WallPicture::keyPressEvent(QKeyEvent* evento) {
-    const int tasto = evento->key();
-    if (tasto == Qt::Key_Return || tasto == Qt::Key_Enter || tasto == Qt::Key_Space)
-        emit premuta();
-    else
-        QWidget::keyPressEvent(evento);
 }
 
 }  // namespace korven::shell

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QString>
 #include <QWidget>
 
 class QPainter;
@@ -25,9 +26,10 @@ class WallPicture : public QWidget {
  protected:
     void paintEvent(QPaintEvent* evento) override;
     void mouseReleaseEvent(QMouseEvent* evento) override;
-    void keyPressEvent(QKeyEvent* evento) override;
 
  private:
+    // Translated once: a box of the translators' test mode must not open while a window is painted.
+    const QString sottotitolo_;
     bool titolo_ = true;
 };
 

@@ -292,6 +292,24 @@ TEST(CalcoloParatia, SetsItsFlagsAtTheStartOfEveryRunAndShowsTheResultsNameToThe
     EXPECT_TRUE(erroreCalcolo);
 }
 
+TEST(CalcoloParatia, TouchesNoProjectThatIsSavedWhileItRuns) {
+    Banco banco(progettoSemplice());
+    const std::string salvato = banco.cartella / "salvato.kvd";
+    test::metti(salvato, "il progetto");
+    for (const bool fermato : {false, true}) {
+        banco.avanzamento.adOgniIterazione = [&](const auto&) {
+            fileCorrente = salvato;
+            if (fermato) stopCalcolo = true;
+        };
+        fileCorrente = banco.progetto();
+        banco.calcola();
+        EXPECT_EQ(contenuto(salvato), "il progetto");
+        EXPECT_EQ(fileCorrente, salvato);
+        EXPECT_EQ(banco.haRisultati(), !fermato);
+        base::cancellaFile(banco.risultati());
+    }
+}
+
 TEST(CalcoloParatia, DoesNotLookAtAStopThatWasAskedForBeforeItsFirstStage) {
     Banco banco(progettoSemplice());
     stopCalcolo = true;

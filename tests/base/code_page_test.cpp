@@ -47,6 +47,11 @@ TEST(CodePage, WhatHasNoPlaceBecomesAQuestionMark) {
     EXPECT_FALSE(rappresentabile("a→b"));
 }
 
+TEST(ComeNeiFile, IsTheTextThatAFileGivesBack) {
+    EXPECT_EQ(comeNeiFile("φ = 30° — è"), "? = 30° — è");
+    EXPECT_EQ(comeNeiFile(""), "");
+}
+
 TEST(CodePage, EachByteOfAMalformedTextBecomesAQuestionMark) {
     EXPECT_EQ(inCp1252("a\xFF"
                        "b"),

@@ -81,6 +81,37 @@ TEST(AlberoMenu, HasEveryCommandOnce) {
     EXPECT_EQ(voce(Comando::fine).nome, "fine");
 }
 
+TEST(AlberoMenu, GivesEachItemItsCommand) {
+    using enum Comando;
+    const std::pair<const char*, Comando> voci[] = {{"FileApri", fileApri},
+                                                    {"FileSalva", fileSalva},
+                                                    {"PrintSetup", printSetup},
+                                                    {"AiutoFile", aiutoFile},
+                                                    {"EditStratigrafia", editStratigrafia},
+                                                    {"EditParatia", editParatia},
+                                                    {"EditRigidezza", editRigidezza},
+                                                    {"EditTiranti", editTiranti},
+                                                    {"EditFasi", editFasi},
+                                                    {"EditTitoli", editTitoli},
+                                                    {"AiutoEdit", aiutoEdit},
+                                                    {"GraficaMomenti", graficaMomenti},
+                                                    {"GraficaSpostamenti", graficaSpostamenti},
+                                                    {"GraficaTaglio", graficaTaglio},
+                                                    {"GraficaPressioni", graficaPressioni},
+                                                    {"GraficaStruttura", graficaStruttura},
+                                                    {"GraficaStratigrafia", graficaStratigrafia},
+                                                    {"StampaVideo", stampaVideo},
+                                                    {"StampaTabulati", stampaTabulati},
+                                                    {"espotab", esportaDoc},
+                                                    {"espotabtxt", esportaTxt},
+                                                    {"configura", configura},
+                                                    {"AiutoStampa", aiutoStampa},
+                                                    {"fine", fine},
+                                                    {"sommario", sommario},
+                                                    {"about", about}};
+    for (const auto& [nome, comando] : voci) EXPECT_EQ(voce(comando).nome, nome);
+}
+
 TEST(ContestiAiuto, AreATableOfTwoHundredAndOneEntries) {
     EXPECT_EQ(contestiAiuto().size(), 201u);
     EXPECT_EQ(contestoAiuto(200), 200);

@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include "base/code_page.hpp"
+#include "project/project_file.hpp"
 #include "support/document_ports.hpp"
+#include "support/sample_projects.hpp"
 
 namespace korven::commands {
 namespace {
@@ -79,6 +82,29 @@ TEST_F(ProgrammaTest, AsksAboutUnsavedWorkWhenTheSessionEndsOrRescuesIt) {
     EXPECT_TRUE(std::filesystem::is_empty(ambiente.lavori.percorso()));
     EXPECT_TRUE(p.fineSessione(false));  // nobody to ask
     EXPECT_FALSE(std::filesystem::is_empty(ambiente.lavori.percorso()));
+}
+
+TEST_F(ProgrammaTest, StopsARunWhenTheSessionEndsInTheMiddleOfItAndKeepsWhatIsSaved) {
+    const std::string muro = ambiente.lavori / "muro.kvd";
+    project::Progetto = test::progettoSemplice();
+    project::fileCorrente = muro;
+    project::modificato = true;
+    nomi.salvati = {muro};
+    dialogo.risposte = {base::Risposta::annulla, base::Risposta::si};
+    std::vector<bool> finisce;
+    FormeProgramma forme;
+    forme.anteprima = [](const std::string&) { ADD_FAILURE() << "the run was stopped"; };
+    auto p = programma(forme);
+    avanzamento.adOgniIterazione = [&](const analysis::StatoIterazione&) {
+        if (finisce.size() < 2) finisce.push_back(p.fineSessione(true));
+    };
+    p.esegui(Comando::stampaVideo);
+    EXPECT_EQ(finisce, (std::vector{false, true}));
+    EXPECT_EQ(avanzamento.iterazioni, 2);  // cancel lets the run go on
+    EXPECT_EQ(test::contenuto(muro), base::inCp1252(project::testoProgetto(project::Progetto)));
+    EXPECT_FALSE(std::filesystem::exists(ambiente.lavori / "muro.OUT"));
+    EXPECT_EQ(project::fileCorrente, muro);
+    EXPECT_FALSE(project::modificato);
 }
 
 TEST_F(ProgrammaTest, SaysWhichCommandsHaveTheirForm) {

@@ -6,6 +6,8 @@
 #include "base/file_error.hpp"
 #include "project/project_file.hpp"
 #include "support/document_ports.hpp"
+#include "support/plain_masks.hpp"
+#include "support/plot_setup.hpp"
 #include "support/sample_projects.hpp"
 
 namespace korven::commands {
@@ -72,6 +74,50 @@ TEST_F(Avvio, GoesOnWithoutAWordWhenTheArgumentNamesNoFile) {
 TEST_F(Avvio, EndsOnAFileThatIsNoProject) {
     test::metti(ambiente.lavori / "rotto.kvd", "due\r\n");
     EXPECT_THROW(parti(ambiente.lavori / "rotto.kvd"), base::ErroreFile);
+}
+
+// The masks and the pens of a program folder, whole.
+class DatiProgramma : public ::testing::Test {
+ protected:
+    DatiProgramma() {
+        const auto scritte = test::maschereSemplici(ambiente.programma);
+        for (std::size_t i = 0; i < scritte.size(); ++i)
+            std::filesystem::rename(scritte[i],
+                                    ambiente.programma / std::string(project::fileMaschere[i]));
+        plot::scriviConfigurazione(penne, test::configurazioneDiProva());
+    }
+    // What is told of the file that ends the program; nothing when all is well.
+    std::string guasto() {
+        try {
+            leggiDatiProgramma(maschere);
+            return {};
+        } catch (const base::ErroreFile& errore) {
+            return errore.what();
+        }
+    }
+    test::AmbienteDocumento ambiente;
+    const std::string penne = ambiente.programma / "module06ita.cfg";
+    project::Maschere maschere;
+};
+
+TEST_F(DatiProgramma, AreReadWhenTheyAreWhole) {
+    EXPECT_EQ(guasto(), "");
+    maschere.selezionaMaschera(5);
+    EXPECT_EQ(maschere.corrente().titolo, "F");
+}
+
+TEST_F(DatiProgramma, EndTheProgramWithFileLineAndWhatWasExpectedWhereAMaskIsBroken) {
+    const std::string maschera = ambiente.programma / "EDITDIA.MAV";
+    test::metti(maschera, "1\r\nT\r\nsette\r\n");
+    EXPECT_EQ(guasto(), maschera + ", riga 3: atteso un numero: numero delle scelte");
+}
+
+TEST_F(DatiProgramma, EndTheProgramWhereThePensAreBrokenOrMissing) {
+    test::metti(penne, "Contorno\r\nrosso\r\n");
+    EXPECT_EQ(guasto().rfind(penne + ", riga 2: atteso un numero: colore della penna 1", 0), 0u)
+        << guasto();
+    std::filesystem::remove(penne);
+    EXPECT_EQ(guasto().rfind(penne + ": impossibile leggere il file", 0), 0u) << guasto();
 }
 
 }  // namespace

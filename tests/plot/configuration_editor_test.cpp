@@ -123,6 +123,20 @@ TEST_F(Penne, CannotBeEditedWithoutTheirFile) {
     EXPECT_THROW(ModelloPenne{file}, base::ErroreFile);
 }
 
+TEST_F(Penne, AreNotWrittenWithAValueThatCouldNotBeReadBack) {
+    const std::string prima = test::contenuto(file);
+    ModelloPenne modello(file);
+    EXPECT_THROW(modello.conferma("500", "0"), base::ErroreFile);  // beyond any sheet
+    modello.scegliPenna("Penna 4", [](const PennaConfigurata&) {});
+    modello.cambiaSpessore("-1");
+    EXPECT_THROW(modello.conferma("0", "0"), base::ErroreFile);
+    EXPECT_EQ(test::contenuto(file), prima);
+    EXPECT_EQ(statoPlot.scostamentoX, 0);
+    modello.cambiaSpessore("0.2");
+    modello.conferma("0", "0");
+    EXPECT_EQ(scritta().penne[4].spessoreMm, 0.2);
+}
+
 TEST_F(Penne, KeepTheMarginsInForceWhenTheFileCannotBeWritten) {
     ModelloPenne modello(file);
     std::filesystem::remove(file);

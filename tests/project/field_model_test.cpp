@@ -138,6 +138,11 @@ TEST_F(ModelloCampi, KeepsNoMoreDecimalsThanThePictureWhileTyping) {
     EXPECT_TRUE(modello.lascia(dialogo));
 }
 
+TEST_F(ModelloCampi, ShowsAtOnceWhatNoFileCanHold) {
+    modello.scrivi(3, "φ 30°");
+    EXPECT_EQ(modello.testo(3), "? 30°");
+}
+
 TEST_F(ModelloCampi, ShowsTheLastItemOfACodeBeyondAllAndChangesNothing) {
     FieldModel altro(maschera, {7, -0.5}, {});
     EXPECT_EQ(altro.voceMostrata(0), 1u);

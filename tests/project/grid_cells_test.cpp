@@ -21,6 +21,11 @@ TEST(CelleGriglia, PackTheRowsThatHaveData) {
     EXPECT_EQ(CelleGriglia(3).impacchettate(), Testi{"0"});
 }
 
+TEST(CelleGriglia, HoldWhatAFileWillGiveBack) {
+    const auto celle = conRighe({{"1", "Limo φ′ 28° – ghiaia"}});
+    EXPECT_EQ(celle.testo(1, 2), "Limo ?? 28° – ghiaia");
+}
+
 TEST(CelleGriglia, SearchTheLastRowWithDataFromTheBottom) {
     const auto celle = conRighe({{"1"}, {""}, {"3"}, {"  "}});
     EXPECT_EQ(celle.ultimaRiga(), 3);

@@ -223,6 +223,15 @@ TEST_F(MovimentiCampi, RemoveTheDecimalsThatAPictureDoesNotTake) {
     attendi(lunghezza, "Peso");  // without it every entry is refused
 }
 
+TEST_F(MovimentiCampi, ShowACharacterThatCannotBeSavedAsItWillBe) {
+    testo(1).setFocus();
+    testo(1).setText("ab");
+    testo(1).setCursorPosition(1);
+    testo(1).insert(QString::fromUtf8("φ"));
+    EXPECT_EQ(testo(1).text(), "a?b");
+    EXPECT_EQ(testo(1).cursorPosition(), 2) << "where it was typed";
+}
+
 TEST_F(MovimentiCampi, TakeTheDecimalKeyOfTheNumberPadForAPoint) {
     scrivi(testo(0), "1");
     QTest::keyClick(&testo(0), Qt::Key_Comma, Qt::KeypadModifier);

@@ -189,6 +189,19 @@ TEST_F(Penne, StayOpenWhenTheFileCannotBeWritten) {
     EXPECT_TRUE(forma->isVisible());
 }
 
+TEST_F(Penne, StayOpenWithABoxWhenAMarginLiesBeyondAnySheet) {
+    const std::string prima = test::contenuto(programma / "module06ita.cfg");
+    static_cast<QLineEdit&>(trova("Text2")).setText("500");
+    premi("Command1");
+    ASSERT_EQ(dialogo.messaggi.size(), 1U);
+    EXPECT_NE(dialogo.messaggi.front().testo.find(
+                  "valore fuori dai limiti (-10 - 100): margine sinistro in centimetri"),
+              std::string::npos)
+        << dialogo.messaggi.front().testo;
+    EXPECT_TRUE(forma->isVisible());
+    EXPECT_EQ(test::contenuto(programma / "module06ita.cfg"), prima);
+}
+
 TEST_F(Penne, HaveANameOnEveryControl) {
     for (const char* nome : {"List1", "List2", "Text1", "Text2", "Text3"})
         EXPECT_FALSE(trova(nome).accessibleName().isEmpty()) << nome;

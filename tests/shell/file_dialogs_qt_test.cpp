@@ -62,6 +62,25 @@ TEST_F(DialoghiFile, LeadFromEachLabelToItsListByAnAccessKey) {
     EXPECT_EQ(dialoghi.salva("muro.kvd"), std::nullopt);
 }
 
+// The dialog that a desktop may put in the place of Qt's opens nothing but files that exist.
+TEST_F(DialoghiFile, AreQtsOwnWhereANewNameMayBeTypedToOpen) {
+    bool nativoApri = true, nativoSalva = false;
+    {
+        const Dialogo dialogo([&](QFileDialog& d) {
+            nativoApri = !d.testOption(QFileDialog::DontUseNativeDialog);
+            QTest::keyClick(&d, Qt::Key_Escape);
+        });
+        EXPECT_EQ(dialoghi.apri(""), "");
+    }
+    const Dialogo dialogo([&](QFileDialog& d) {
+        nativoSalva = !d.testOption(QFileDialog::DontUseNativeDialog);
+        QTest::keyClick(&d, Qt::Key_Escape);
+    });
+    EXPECT_EQ(dialoghi.salva("muro.kvd"), std::nullopt);
+    EXPECT_FALSE(nativoApri);
+    EXPECT_TRUE(nativoSalva);
+}
+
 TEST_F(DialoghiFile, BeginWhereTheLastNameWasChosen) {
     std::filesystem::create_directory(lavori / "nuovi");
     const std::string nome = lavori / "nuovi/muro";
@@ -82,6 +101,22 @@ TEST_F(DialoghiFile, LeaveTheQuestionWhetherToReplaceAFileToTheCommand) {
     });
     EXPECT_EQ(dialoghi.salva("muro.kvd"), lavori / "muro.kvd");
     EXPECT_EQ(proposto, "muro.kvd");
+}
+
+TEST_F(DialoghiFile, ShowTheFilesOfThePatternWhateverTheirCase) {
+    for (const char* nome : {"a.kvd", "b.KVD", "c.Kvd", "d.kVd", "e.kvdx", "f.txt"})
+        test::metti(lavori / nome, "x");
+    QString filtro;
+    const Dialogo dialogo([&](QFileDialog& d) {
+        filtro = d.nameFilters().value(0);
+        QTest::keyClick(&d, Qt::Key_Escape);
+    });
+    EXPECT_EQ(dialoghi.apri(""), "");
+    const QString modello = filtro.section('(', 1).section(')', 0, 0);
+    EXPECT_EQ(filtro.section(" (", 0, 0), "Korven 32");
+    const QDir cartella(QString::fromStdString(lavori.percorso()));
+    EXPECT_EQ(cartella.entryList({modello}, QDir::Files | QDir::CaseSensitive, QDir::Name),
+              (QStringList{"a.kvd", "b.KVD", "c.Kvd", "d.kVd"}));
 }
 
 TEST_F(DialoghiFile, AnswerNothingAtEsc) {

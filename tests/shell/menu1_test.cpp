@@ -12,6 +12,7 @@
 #include <set>
 
 #include "base/code_page.hpp"
+#include "base/file_error.hpp"
 #include "project/project_file.hpp"
 #include "support/desktop_bench.hpp"
 #include "support/document_ports.hpp"
@@ -218,6 +219,33 @@ TEST_F(Menu1Test, TakesNothingElseThatIsDropped) {
     EXPECT_TRUE(fileCorrente.empty());
 }
 
+TEST_F(Menu1Test, TakesNoDropWhileADrawingIsShown) {
+    apri();
+    const std::string muro = scriviMuro();
+    finestra.setEnabled(false);  // as the viewer does
+    lascia(muro);
+    EXPECT_FALSE(accettato);
+    finestra.setEnabled(true);
+    lascia(muro);
+    EXPECT_TRUE(accettato);
+    EXPECT_EQ(fileCorrente, muro);
+}
+
+// What the rescue at the end of the program finds: the project that was open, and unsaved.
+TEST_F(Menu1Test, KeepsTheUnsavedProjectWhenADroppedFileIsNone) {
+    apri();
+    const std::string muro = scriviMuro();
+    lascia(muro);
+    modificato = true;
+    dialogo.risposte = {Risposta::no};
+    const std::string rotto = ambiente.lavori / "rotto.kvd";
+    test::metti(rotto, "due\r\n");
+    EXPECT_THROW(programma->documento().apri(rotto), base::ErroreFile);
+    EXPECT_EQ(fileCorrente, muro);
+    EXPECT_TRUE(modificato);
+    EXPECT_EQ(project::Progetto, test::progettoSemplice());
+}
+
 TEST_F(Menu1Test, StaysOpenOnCancelFromTheExitAndFromItsCloseBox) {
     apri();
     fileCorrente = ambiente.lavori / "muro.kvd";
@@ -240,6 +268,31 @@ TEST_F(Menu1Test, AsksOnceWhenTheExitClosesTheForm) {
     voce("fine")->trigger();
     EXPECT_FALSE(finestra.isVisible());
     EXPECT_EQ(dialogo.domande.size(), 1u);
+}
+
+TEST_F(Menu1Test, ClosesWithoutASecondQuestionWhenTheSessionEnds) {
+    apri();
+    fileCorrente = ambiente.lavori / "muro.kvd";
+    modificato = true;
+    dialogo.risposte = {Risposta::annulla, Risposta::no};
+    EXPECT_FALSE(finestra.sessioneFinisce(true));
+    EXPECT_TRUE(finestra.sessioneFinisce(true));
+    EXPECT_TRUE(finestra.close());
+    EXPECT_EQ(dialogo.domande.size(), 2u);
+}
+
+TEST_F(Menu1Test, AsksAgainWhenTheSessionGoesOnAndTheProjectWithIt) {
+    apri();
+    fileCorrente = ambiente.lavori / "muro.kvd";
+    modificato = true;
+    dialogo.risposte = {Risposta::no, Risposta::annulla, Risposta::no, Risposta::annulla};
+    EXPECT_TRUE(finestra.sessioneFinisce(true));
+    voce("EditFasi")->trigger();  // another program has called the end off
+    EXPECT_FALSE(finestra.close());
+    EXPECT_TRUE(finestra.sessioneFinisce(true));
+    EXPECT_TRUE(finestra.sessioneFinisce(false));  // nobody to ask: rescued, and not answered
+    EXPECT_FALSE(finestra.close());
+    EXPECT_EQ(dialogo.domande.size(), 4u);
 }
 
 TEST_F(Menu1Test, ShowsTheHelpOfTheHighlightedItemAtF1) {

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <map>
+#include <regex>
 #include <set>
 #include <string_view>
 
@@ -179,7 +180,7 @@ const std::map<std::string, Texts> noTexts = {
     {"shell/mask_form.cpp", {"contestoAiuto"}},
     {"shell/dialogo_qt.cpp", {"messaggio", "annulla"}},
     {"shell/file_dialogs_qt.cpp",
-     {"apri", "salva", "Korven 32 (*.kvd *.KVD *.Kvd)", "lookInLabel", "lookInCombo",
+     {"apri", "salva", "Korven 32 (*.[kK][vV][dD])", "lookInLabel", "lookInCombo",
       "fileTypeLabel", "fileTypeCombo"}},
     {"shell/guida.cpp",
      {"guida/caratteri", "guida", "KORVEN 32 -", "pagina", "indietro", "avanti", "sommario",
@@ -303,6 +304,28 @@ TEST(TextKeys, StandInTheTableForEveryLiteralThatMayBeShown) {
                    "this test";
         }
     EXPECT_GT(looked, 200) << "the sources were not found";
+}
+
+// A short literal has no word in it; where it goes straight into the translation it is a text.
+TEST(TextKeys, StandInTheTableForEveryLiteralThatIsTranslatedHoweverShort) {
+    const auto known = keys();
+    const std::regex direct("\\b(?:tradotto|traduttore)\\(\"([^\"]*)\"");
+    std::set<std::string> looked;
+    for (const auto* folder : folders)
+        for (const auto& entry :
+             fs::recursive_directory_iterator(fs::path(KORVEN_SOURCE_FOLDER) / folder)) {
+            if (!entry.is_regular_file()) continue;
+            const std::string source = base::leggiFile(entry.path().string());
+            for (std::sregex_iterator at(source.begin(), source.end(), direct), end; at != end;
+                 ++at) {
+                const std::string text = (*at)[1];
+                if (speaks(text)) continue;  // looked at above
+                looked.insert(text);
+                EXPECT_TRUE(known.contains(base::chiaveTesto(text)))
+                    << entry.path() << " has \"" << text << '"';
+            }
+        }
+    EXPECT_TRUE(looked.contains("&No")) << "the sources were not found";
 }
 
 TEST(TextKeys, ExemptNothingThatIsNotThere) {

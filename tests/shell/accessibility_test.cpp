@@ -1,0 +1,195 @@
+// Every window of the program as those meet it who see nothing or use no mouse: each control that
+// can take the focus has a name, and the tab key reaches each of them.
+
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QAbstractScrollArea>
+#include <QAccessible>
+#include <QButtonGroup>
+#include <QMessageBox>
+#include <QRadioButton>
+#include <QTableView>
+#include <functional>
+#include <set>
+
+#include "commands/help_file.hpp"
+#include "project/mask_editing.hpp"
+#include "shell/base1.hpp"
+#include "shell/base2_32.hpp"
+#include "shell/conf_stampa.hpp"
+#include "shell/definej.hpp"
+#include "shell/dialogo_qt.hpp"
+#include "shell/editacfg.hpp"
+#include "shell/form1.hpp"
+#include "shell/guida.hpp"
+#include "shell/informazioni.hpp"
+#include "shell/menu1.hpp"
+#include "shell/selezling.hpp"
+#include "shell/temp_calc.hpp"
+#include "support/desktop_bench.hpp"
+#include "support/page_record.hpp"
+#include "support/sample_projects.hpp"
+#include "support/small_help.hpp"
+#include "support/viewer_setup.hpp"
+
+namespace korven::shell {
+namespace {
+
+using Controlli = std::set<QWidget*>;
+
+std::string nomeDi(const QWidget* controllo) {
+    return controllo == nullptr ? "nothing"
+                                : std::string(controllo->metaObject()->className()) + " " +
+                                      controllo->objectName().toStdString();
+}
+
+// A part of another control, which lends it the focus: the line of a combo box, the area of a list.
+bool parteDiUnAltro(const QWidget& controllo) {
+    return controllo.focusProxy() != nullptr ||
+           qobject_cast<const QAbstractScrollArea*>(controllo.parentWidget()) != nullptr;
+}
+
+// Of buttons that exclude each other the tab key reaches the one that is chosen.
+bool nonScelto(const QWidget& controllo) {
+    const auto* bottone = qobject_cast<const QRadioButton*>(&controllo);
+    return bottone != nullptr && !bottone->isChecked();
+}
+
+Controlli conFuoco(const QWidget& finestra, Qt::FocusPolicy politica) {
+    Controlli trovati;
+    for (auto* controllo : finestra.findChildren<QWidget*>())
+        if (controllo->window() == &finestra && controllo->isVisible() && controllo->isEnabled() &&
+            (controllo->focusPolicy() & politica) != 0 && !parteDiUnAltro(*controllo))
+            trovati.insert(controllo);
+    return trovati;
+}
+
+QString nomeAccessibile(QWidget& controllo) {
+    auto* vista = QAccessible::queryAccessibleInterface(&controllo);
+    return vista != nullptr ? vista->text(QAccessible::Name) : QString();
+}
+
+// A table keeps the tab key for its cells and lets go by Ctrl+Tab.
+void premiTab(QWidget& controllo) {
+    const bool tabella = qobject_cast<QTableView*>(&controllo) != nullptr;
+    QTest::keyClick(&controllo, Qt::Key_Tab, tabella ? Qt::ControlModifier : Qt::NoModifier);
+}
+
+Controlli raggiunti(QWidget& finestra) {
+    Controlli tutti;
+    for (QWidget* dove = finestra.focusWidget(); dove != nullptr && tutti.insert(dove).second;
+         dove = finestra.focusWidget())
+        premiTab(*dove);
+    return tutti;
+}
+
+void controlla(QWidget& finestra, bool senzaControlli = false) {
+    SCOPED_TRACE(nomeDi(&finestra));
+    finestra.show();
+    finestra.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&finestra));
+    EXPECT_FALSE(finestra.windowTitle().isEmpty());
+    const Controlli tutti = conFuoco(finestra, Qt::StrongFocus);
+    EXPECT_EQ(tutti.empty(), senzaControlli);
+    for (auto* controllo : tutti)
+        EXPECT_FALSE(nomeAccessibile(*controllo).trimmed().isEmpty()) << nomeDi(controllo);
+    const Controlli visitati = raggiunti(finestra);
+    for (auto* controllo : conFuoco(finestra, Qt::TabFocus))
+        EXPECT_TRUE(visitati.contains(controllo) || nonScelto(*controllo))
+            << "not reached: " << nomeDi(controllo);
+}
+
+// The windows with the texts and data that are delivered, in German, where a missing name would not
+// be hidden by an Italian key.
+class Accessibilita : public ::testing::Test {
+ protected:
+    Accessibilita() : testi(2) {
+        base::impostaCartellaProgramma(KORVEN_PROGRAM_FOLDER);
+        maschere.leggiMaschereProgramma();
+    }
+    ~Accessibilita() override { base::impostaCartellaProgramma(""); }
+
+    QApplication& app = test::applicazione();
+    test::UtenteNuovo utente;
+    const test::TestiConsegnati testi;
+    test::DialogRecord dialogo;
+    project::Maschere maschere;
+};
+
+TEST_F(Accessibilita, OfTheFormsThatAMaskDescribes) {
+    const auto dati = test::progettoSemplice();
+    for (int numero = 1; numero <= 5; ++numero) {
+        const auto quale = static_cast<project::NumeroMaschera>(numero);
+        project::preparaMaschera(maschere, quale, dati, 0);
+        if (maschere.corrente().genere == project::GenereMaschera::campi) {
+            Base1 forma(maschere.corrente(), maschere.valoriCombo(), maschere.valoriTesto(),
+                        dialogo, {}, nullptr);
+            controlla(forma);
+        } else {
+            Base2_32 forma(maschere.corrente(), maschere.valoriTesto(), dialogo, {}, nullptr);
+            controlla(forma);
+        }
+        maschere.rilasciaForm();
+    }
+    EXPECT_TRUE(dialogo.messaggi.empty());
+}
+
+TEST_F(Accessibilita, OfTheSectionFormInEachOfItsTypes) {
+    for (const auto tipo : project::tipiSezione) {
+        project::Sezione sezione;
+        sezione.*tipo = true;
+        bool modificato = false;
+        DefinEJ forma(sezione, modificato, nullptr);
+        controlla(forma);
+    }
+}
+
+TEST_F(Accessibilita, OfTheFormsOfTheDevices) {
+    DialoghiEditacfg porte;
+    Editacfg penne(porte, dialogo, nullptr);
+    controlla(penne);
+    ConfStampa stampa({"Courier New", "Arial"}, {}, dialogo, nullptr);
+    controlla(stampa);
+}
+
+TEST_F(Accessibilita, OfTheWindowsAroundTheProject) {
+    Menu1 menu1;
+    controlla(menu1,
+              true);  // its menus have access keys, and the picture does what one of them does
+    EXPECT_FALSE(nomeAccessibile(test::controllo(menu1, "Image1")).isEmpty());
+    Selezling lingue({5, 3, 2, 1, 4, 6});
+    controlla(lingue);
+    Informazioni informazioni("File corrente: /MURO", nullptr);
+    controlla(informazioni);
+    TempCalc corsa(nullptr);
+    controlla(corsa);
+    FinestraGuida guida(commands::leggiGuida("m.hlp", test::guidaPiccola()));
+    controlla(guida);
+    const test::CartellaProvvisoria cartella;
+    test::metti(cartella / "muro.TAB", test::markup({"#RESET", "testo", "#ENDDOCUMENT"}));
+    Form1 anteprima;
+    anteprima.mostra(cartella / "muro.TAB");
+    controlla(anteprima);
+}
+
+TEST_F(Accessibilita, OfTheBoxes) {
+    DialogoQt box;
+    const test::AllaProssimaFinestra<QMessageBox> domanda([](QMessageBox& b) {
+        controlla(b);
+        b.reject();
+    });
+    static_cast<void>(
+        box.domanda("Testo?", "ACHTUNG!", base::Pulsanti::siNoAnnulla, base::Icona::domanda));
+    EXPECT_TRUE(domanda.fatto);
+}
+
+class AccessibilitaVisore : public test::ProvaVisore {};
+
+TEST_F(AccessibilitaVisore, OfTheViewerOfDrawings) {
+    disegna();
+    controlla(forma());
+}
+
+}  // namespace
+}  // namespace korven::shell
