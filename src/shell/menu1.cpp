@@ -9,6 +9,7 @@
 #include <QMimeData>
 #include <QSessionManager>
 #include <QSettings>
+#include <QShortcut>
 #include <QStatusBar>
 #include <QTimer>
 #include <array>
@@ -70,6 +71,11 @@ Menu1::Menu1() {
     stato_->mostra(tradotto("Nessun progetto aperto"));
     statusBar()->addWidget(stato_, 1);
     setAcceptDrops(true);
+    // The key for the menus on all desktops, which Qt leaves to its programs.
+    connect(new QShortcut(Qt::Key_F10, this), &QShortcut::activated, this, [this] {
+        if (!menuBar()->actions().isEmpty())
+            menuBar()->setActiveAction(menuBar()->actions().first());
+    });
     resize(900, 620);
     setMinimumSize(480, 340);
     restoreGeometry(QSettings().value("menu1/forma").toByteArray());

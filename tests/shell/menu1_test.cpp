@@ -284,6 +284,19 @@ TEST_F(Menu1Test, AsksAgainWhenTheSessionGoesOnAndTheProjectWithIt) {
     EXPECT_EQ(dialogo.domande.size(), 4u);
 }
 
+TEST_F(Menu1Test, OpensItsFirstMenuAtF10AndGoesOnFromThere) {
+    apri();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&finestra));
+    QTest::keyClick(&finestra, Qt::Key_F10);
+    ASSERT_EQ(QApplication::activePopupWidget(), voce("archivi")->menu());
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Right);
+    ASSERT_EQ(QApplication::activePopupWidget(), voce("edizione")->menu());
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Return);  // its first item
+    ASSERT_EQ(dialogo.messaggi.size(), 1u);
+    EXPECT_EQ(dialogo.messaggi[0].testo,
+              "Non e' possibile editare i dati prima di aver aperto un file.");
+}
+
 TEST_F(Menu1Test, ShowsTheHelpOfTheHighlightedItemAtF1) {
     apri();
     auto* menu = voce("archivi")->menu();
