@@ -98,7 +98,10 @@ void Documento::comincia(const std::string& nome) {
 }
 
 bool Documento::apriAllAvvio(const std::string& argomento) {
-    if (!base::esisteFile(argomento)) return false;
+    if (!base::esisteFile(argomento)) {
+        mostra("File non trovato", argomento);
+        return false;
+    }
     // The program is about to change its folder, from where a relative name would lead elsewhere.
     const std::string nome = std::filesystem::absolute(argomento).string();
     leggi(nome, nome);

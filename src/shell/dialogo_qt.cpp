@@ -93,7 +93,9 @@ base::Risposta DialogoQt::domanda(std::string_view testo, std::string_view titol
     si->setObjectName("si");
     no->setObjectName("no");
     if (annulla != nullptr) annulla->setObjectName("annulla");
-    box.setDefaultButton(si);
+    // A warning asks before something is lost for good: Enter alone must not lose it.
+    const bool avverte = pulsanti == base::Pulsanti::siNo && icona == base::Icona::avviso;
+    box.setDefaultButton(avverte ? no : si);
     box.setEscapeButton(annulla != nullptr ? annulla : no);
     box.exec();
     if (box.clickedButton() == si) return base::Risposta::si;

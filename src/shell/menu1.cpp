@@ -5,17 +5,20 @@
 #include <QDragEnterEvent>
 #include <QFileInfo>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QScreen>
 #include <QSessionManager>
 #include <QSettings>
+#include <QShortcut>
 #include <QStatusBar>
 #include <QTimer>
 #include <array>
 
 #include "commands/document_names.hpp"
 #include "commands/menu_tree.hpp"
+#include "project/project_data.hpp"
 #include "shell/elided_label.hpp"
 #include "shell/qt_text.hpp"
 #include "shell/wall_picture.hpp"
@@ -76,9 +79,21 @@ Menu1::Menu1() {
     stato_->setObjectName("stato");
     stato_->mostra(tradotto("Nessun progetto aperto"));
     statusBar()->addWidget(stato_, 1);
+    modifiche_ = new QLabel(tradotto("Modifiche non salvate"), this);
+    modifiche_->setObjectName("modifiche");
+    statusBar()->addPermanentWidget(modifiche_);
+    mostraModifiche();
     setAcceptDrops(true);
+    // The key for the menus on all desktops, which Qt leaves to its programs.
+    connect(new QShortcut(Qt::Key_F10, this), &QShortcut::activated, this, [this] {
+        if (!menuBar()->actions().isEmpty())
+            menuBar()->setActiveAction(menuBar()->actions().first());
+    });
     resize(misuraIniziale(screen()->availableSize()));
     setMinimumSize(480, 340);
+    // In the middle of the screen by itself: the box that greets is placed before a window manager
+    // has moved the form.
+    move(screen()->availableGeometry().center() - rect().center());
     restoreGeometry(QSettings().value("menu1/forma").toByteArray());
 }
 
@@ -113,10 +128,14 @@ void Menu1::costruisciMenu() {
 void Menu1::esegui(Comando comando) {
     if (programma_ == nullptr || !programma_->puo(comando)) return;
     salutata_ = false;  // a session that was to end goes on, and the project may change again
-    if (!programma_->esegui(comando)) return;
+    const bool finisce = programma_->esegui(comando);
+    mostraModifiche();
+    if (!finisce) return;
     salutata_ = true;
     close();
 }
+
+void Menu1::mostraModifiche() { modifiche_->setVisible(project::modificato); }
 
 void Menu1::titolo(const std::string& testo) { setWindowTitle(qt(testo)); }
 void Menu1::stato(const std::string& testo) { stato_->mostra(qt(testo)); }
@@ -160,6 +179,7 @@ void Menu1::dropEvent(QDropEvent* evento) {
     QTimer::singleShot(0, this, [this, file] {
         salutata_ = false;
         programma_->documento().apri(file);
+        mostraModifiche();
     });
 }
 

@@ -5,6 +5,7 @@
 #include "commands/document_ports.hpp"
 #include "commands/program.hpp"
 
+class QLabel;
 class QSessionManager;
 
 namespace korven::shell {
@@ -48,10 +49,12 @@ class Menu1 : public QMainWindow, public commands::FinestraPrincipale {
 
  private:
     void costruisciMenu();
+    void mostraModifiche();
 
     commands::Programma* programma_ = nullptr;
     WallPicture* immagine_;
     ElidedLabel* stato_;
+    QLabel* modifiche_;
     bool salutata_ = false;  // the question about unsaved work has been answered
 };
 

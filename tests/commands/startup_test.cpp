@@ -63,8 +63,9 @@ TEST_F(Avvio, KeepsTheWayToARelativeNameWhenItChangesItsFolder) {
     EXPECT_TRUE(std::filesystem::exists(fileCorrente));
 }
 
-TEST_F(Avvio, GoesOnWithoutAWordWhenTheArgumentNamesNoFile) {
+TEST_F(Avvio, GoesOnWhenTheArgumentNamesNoFileAndSaysSoAtItsFoot) {
     parti(ambiente.lavori / "manca.kvd");
+    EXPECT_EQ(finestra.ultimoStato, "File non trovato: " + ambiente.lavori / "manca.kvd");
     EXPECT_EQ(passi, "maschere ");
     EXPECT_TRUE(fileCorrente.empty());
     EXPECT_EQ(Progetto.gammaAcqua, 1);

@@ -17,7 +17,7 @@ class Schermo : public ::testing::Environment {
  public:
     void SetUp() override {
         ::setenv("QT_QPA_PLATFORM", "offscreen", 1);
-        ::setenv("XDG_CONFIG_HOME", "/nonexistent", 1);  // no sizes of an earlier run
+        ::setenv("XDG_CONFIG_HOME", "/dev/null", 1);  // no sizes of an earlier run
         static int argc = 1;
         static char nome[] = "shell_test";
         static char* argv[] = {nome, nullptr};

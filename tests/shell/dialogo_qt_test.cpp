@@ -59,10 +59,11 @@ TEST(BoxQt, AnswersByItsButtons) {
 
 TEST(BoxQt, TakesEnterForYesAndEscForTheLeastItCanDo) {
     DialogoQt dialogo;
-    const auto premi = [&](Qt::Key tasto, Pulsanti pulsanti) {
+    const auto premi = [&](Qt::Key tasto, Pulsanti pulsanti, Icona icona = Icona::domanda) {
         const Box box([tasto](QMessageBox& b) { QTest::keyClick(&b, tasto); });
-        return dialogo.domanda("Salvare?", "ATTENZIONE!", pulsanti, Icona::domanda);
+        return dialogo.domanda("Salvare?", "ATTENZIONE!", pulsanti, icona);
     };
+    EXPECT_EQ(premi(Qt::Key_Return, Pulsanti::siNo, Icona::avviso), Risposta::no);
     EXPECT_EQ(premi(Qt::Key_Return, Pulsanti::siNoAnnulla), Risposta::si);
     EXPECT_EQ(premi(Qt::Key_Escape, Pulsanti::siNoAnnulla), Risposta::annulla);
     EXPECT_EQ(premi(Qt::Key_Escape, Pulsanti::siNo), Risposta::no);

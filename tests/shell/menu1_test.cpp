@@ -178,11 +178,13 @@ TEST_F(Menu1Test, BeginsEditsAndSavesAProjectFromTheKeyboard) {
     voce("EditFasi")->trigger();
     EXPECT_EQ(maschere, std::vector<std::string>{"F"});
     EXPECT_TRUE(modificato);
+    EXPECT_TRUE(finestra.findChild<QLabel*>("modifiche")->isVisible());
     nomi.salvati = {fileCorrente};
     QTest::keyClick(&finestra, Qt::Key_S, Qt::ControlModifier);
     EXPECT_TRUE(std::filesystem::exists(ambiente.lavori / "muro.kvd"));
     EXPECT_TRUE(stato().startsWith("File scritto: "));
     EXPECT_FALSE(modificato);
+    EXPECT_FALSE(finestra.findChild<QLabel*>("modifiche")->isVisible());
 }
 
 TEST_F(Menu1Test, ShowsTheAboutBoxAtAClickOnItsPicture) {
@@ -293,6 +295,19 @@ TEST_F(Menu1Test, AsksAgainWhenTheSessionGoesOnAndTheProjectWithIt) {
     EXPECT_TRUE(finestra.sessioneFinisce(false));  // nobody to ask: rescued, and not answered
     EXPECT_FALSE(finestra.close());
     EXPECT_EQ(dialogo.domande.size(), 4u);
+}
+
+TEST_F(Menu1Test, OpensItsFirstMenuAtF10AndGoesOnFromThere) {
+    apri();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&finestra));
+    QTest::keyClick(&finestra, Qt::Key_F10);
+    ASSERT_EQ(QApplication::activePopupWidget(), voce("archivi")->menu());
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Right);
+    ASSERT_EQ(QApplication::activePopupWidget(), voce("edizione")->menu());
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Return);  // its first item
+    ASSERT_EQ(dialogo.messaggi.size(), 1u);
+    EXPECT_EQ(dialogo.messaggi[0].testo,
+              "Non e' possibile editare i dati prima di aver aperto un file.");
 }
 
 TEST_F(Menu1Test, ShowsTheHelpOfTheHighlightedItemAtF1) {

@@ -47,7 +47,7 @@ class UtenteNuovo {
     UtenteNuovo() { ricorda(cartella_.percorso()); }
     UtenteNuovo(const UtenteNuovo&) = delete;
     UtenteNuovo& operator=(const UtenteNuovo&) = delete;
-    ~UtenteNuovo() { ricorda("/nonexistent"); }
+    ~UtenteNuovo() { ricorda("/dev/null"); }
 
  private:
     static void ricorda(const std::string& dove) {
