@@ -41,6 +41,7 @@ class Guida : public ::testing::Test {
     QToolButton& bottone(const char* nome) { return test::controllo<QToolButton>(finestra, nome); }
 
     QApplication& app = test::applicazione();
+    const test::UtenteNuovo utente;  // what the window remembers is the test's own
     FinestraGuida finestra{commands::leggiGuida("m.hlp", test::guidaPiccola())};
 };
 
