@@ -1,27 +1,22 @@
 #include "shell/form_sizes.hpp"
 
 #include <QByteArray>
-#include <QSettings>
 #include <QWidget>
 
 namespace korven::shell {
 
-namespace {
-
-QSettings impostazioni() {
+QSettings ricordiFinestre() {
     return {QSettings::IniFormat, QSettings::UserScope, QStringLiteral("korven32"),
             QStringLiteral("finestre")};
 }
 
-}  // namespace
-
 bool ripristinaMisure(QWidget& finestra) {
-    const QByteArray misure = impostazioni().value(finestra.objectName()).toByteArray();
+    const QByteArray misure = ricordiFinestre().value(finestra.objectName()).toByteArray();
     return !misure.isEmpty() && finestra.restoreGeometry(misure);
 }
 
 void ricordaMisure(const QWidget& finestra) {
-    impostazioni().setValue(finestra.objectName(), finestra.saveGeometry());
+    ricordiFinestre().setValue(finestra.objectName(), finestra.saveGeometry());
 }
 
 }  // namespace korven::shell

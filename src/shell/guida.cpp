@@ -4,7 +4,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QSettings>
 #include <QShortcut>
 #include <QSplitter>
 #include <QStackedWidget>
@@ -65,7 +64,7 @@ FinestraGuida::FinestraGuida(commands::Guida guida) : guida_(std::move(guida)) {
             [this](const QUrl& indirizzo) { segui(indirizzo); });
     if (!ripristinaMisure(*this)) resize(1000, 700);
     setMinimumSize(560, 360);
-    pagina_->ingrandisci(QSettings().value(QLatin1String(chiaveCaratteri), 0).toInt());
+    pagina_->ingrandisci(ricordiFinestre().value(QLatin1String(chiaveCaratteri), 0).toInt());
 }
 
 QWidget* FinestraGuida::fareBarra() {
@@ -235,7 +234,7 @@ void FinestraGuida::segui(const QUrl& indirizzo) {
 
 void FinestraGuida::ingrandisci(int passi) {
     pagina_->ingrandisci(passi);
-    QSettings().setValue(QLatin1String(chiaveCaratteri), pagina_->ingrandimento());
+    ricordiFinestre().setValue(QLatin1String(chiaveCaratteri), pagina_->ingrandimento());
 }
 
 void FinestraGuida::closeEvent(QCloseEvent* evento) {

@@ -10,7 +10,6 @@
 #include <QMimeData>
 #include <QScreen>
 #include <QSessionManager>
-#include <QSettings>
 #include <QShortcut>
 #include <QStatusBar>
 #include <QTimer>
@@ -20,6 +19,7 @@
 #include "commands/menu_tree.hpp"
 #include "project/project_data.hpp"
 #include "shell/elided_label.hpp"
+#include "shell/form_sizes.hpp"
 #include "shell/qt_text.hpp"
 #include "shell/wall_picture.hpp"
 
@@ -94,7 +94,7 @@ Menu1::Menu1() {
     // In the middle of the screen by itself: the box that greets is placed before a window manager
     // has moved the form.
     move(screen()->availableGeometry().center() - rect().center());
-    restoreGeometry(QSettings().value("menu1/forma").toByteArray());
+    ripristinaMisure(*this);
 }
 
 void Menu1::collega(commands::Programma& programma) {
@@ -146,7 +146,7 @@ void Menu1::closeEvent(QCloseEvent* evento) {
         return;
     }
     salutata_ = true;
-    QSettings().setValue("menu1/forma", saveGeometry());
+    ricordaMisure(*this);
     evento->accept();
 }
 

@@ -8,7 +8,6 @@
 #include <QMenuBar>
 #include <QMimeData>
 #include <QScreen>
-#include <QSettings>
 #include <set>
 
 #include "base/code_page.hpp"
@@ -16,6 +15,7 @@
 #include "project/project_file.hpp"
 #include "support/desktop_bench.hpp"
 #include "support/document_ports.hpp"
+#include "support/form_setup.hpp"
 #include "support/plain_masks.hpp"
 #include "support/sample_projects.hpp"
 
@@ -141,7 +141,7 @@ TEST_F(Menu1Test, HasAnAccessKeyOfItsOwnForEachItemOfAMenuInEveryLanguage) {
 TEST_F(Menu1Test, OpensWholeOnASmallScreen) {
     const QSize schermo = finestra.screen()->availableSize();
     ASSERT_LT(schermo.width(), 900) << "the screen of the tests is no small one";
-    QSettings().remove("menu1/forma");  // as if no form had been closed before
+    const test::UtenteNuovo nuovo;  // as if no form had been closed before
     const Menu1 nuova;
     EXPECT_LT(nuova.width(), schermo.width());
     EXPECT_LT(nuova.height(), schermo.height());
