@@ -1,4 +1,5 @@
 #include <QDir>
+#include <QIcon>
 #include <QLibraryInfo>
 #include <QTimer>
 #include <QTranslator>
@@ -7,6 +8,7 @@
 #include <string>
 
 #include "base/file_error.hpp"
+#include "base/program_folder.hpp"
 #include "base/translated_texts.hpp"
 #include "commands/fatal_error.hpp"
 #include "commands/program.hpp"
@@ -68,6 +70,7 @@ int sessione(shell::Applicazione& applicazione, shell::DialogoQt& dialogo,
     if (!commands::iniziaLingua({.dialogo = dialogo, .scegli = shell::scegliLingua})) return 0;
     traduciQt(applicazione);
 
+    QApplication::setWindowIcon(QIcon(shell::qt(base::cartellaEseguibile() + "/korven32.svg")));
     const shell::Terminazione terminazione;
     shell::Menu1 finestra;
     shell::DialogoFileQt nomi;
@@ -96,6 +99,7 @@ int programma(int argc, char** argv) {
     shell::Applicazione applicazione(argc, argv);
     QCoreApplication::setOrganizationName("korven32");
     QCoreApplication::setApplicationName("korven32");
+    QGuiApplication::setDesktopFileName("korven32");
     std::setlocale(LC_NUMERIC, "C");
     const QStringList argomenti = QCoreApplication::arguments();
     shell::DialogoQt dialogo;

@@ -172,7 +172,7 @@ const std::map<std::string, Texts> noTexts = {
     {"commands/user_folder.cpp",
      {".rtn", ".mav", ".hlp", "texts", ".txt", "data", ".korven32_prova", "XDG_DATA_HOME",
       "korven32", "HOME", "/tmp", ".local", "share"}},
-    {"desktop/main.cpp", {"qtbase_", "korven32"}},
+    {"desktop/main.cpp", {"qtbase_", "korven32", "/korven32.svg"}},
     {"shell/definej.cpp", {"DefinEJ", "contestoAiuto", "schizzo", "Labelhelp"}},
     {"shell/base1.cpp", {"base1", "Label1", "Combo1", "Labelhelp"}},
     {"shell/base2_32.cpp", {"base2_32", "Label1"}},
