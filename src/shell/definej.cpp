@@ -6,7 +6,6 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QRadioButton>
 #include <QStackedWidget>
 #include <QVBoxLayout>
@@ -15,6 +14,7 @@
 #include "commands/help_contexts.hpp"
 #include "commands/menu_tree.hpp"
 #include "project/project_data.hpp"
+#include "shell/confirm_buttons.hpp"
 #include "shell/definej_fields.hpp"
 #include "shell/form_sizes.hpp"
 #include "shell/help_strip.hpp"
@@ -68,7 +68,10 @@ DefinEJ::DefinEJ(project::Sezione& sezione, bool& modificato, QWidget* padre)
     auto* materiali = fareRiquadro(RiquadroSezione::materiali);
     colonna->addWidget(materiali);
     colonna->addWidget(fareStriscia());
-    colonna->addWidget(farePulsanti());
+    colonna->addWidget(pulsantiConferma(*this, [this] {
+        modello_.conferma();
+        accept();
+    }));
     if (!ripristinaMisure(*this)) adjustSize();
     connect(this, &QDialog::finished, this, [this] { ricordaMisure(*this); });
     mostraTipo();
@@ -185,26 +188,6 @@ QWidget* DefinEJ::fareStriscia() {
     aiuto_ = new HelpStrip(testi, {}, this);
     aiuto_->setObjectName(QStringLiteral("Labelhelp"));
     return aiuto_;
-}
-
-QWidget* DefinEJ::farePulsanti() {
-    auto* riga = new QWidget(this);
-    auto* confermato = new QPushButton(tradotto("&Conferma"), riga);
-    auto* annullato = new QPushButton(tradotto("&Annulla"), riga);
-    confermato->setObjectName(QStringLiteral("Command1"));
-    annullato->setObjectName(QStringLiteral("Command2"));
-    confermato->setDefault(true);
-    connect(confermato, &QPushButton::clicked, this, [this] {
-        modello_.conferma();
-        accept();
-    });
-    connect(annullato, &QPushButton::clicked, this, &QDialog::reject);
-    auto* disposizione = new QHBoxLayout(riga);
-    disposizione->setContentsMargins(0, 0, 0, 0);
-    disposizione->addStretch();
-    disposizione->addWidget(confermato);
-    disposizione->addWidget(annullato);
-    return riga;
 }
 
 void DefinEJ::mostraTipo() {

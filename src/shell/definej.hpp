@@ -36,7 +36,6 @@ class DefinEJ : public QDialog {
     void fareCampi(QGridLayout& griglia, project::RiquadroSezione riquadro);
     QLineEdit* fareCampo(std::size_t campo);
     QWidget* fareStriscia();
-    QWidget* farePulsanti();
     void mostraTipo();
     void aggiornaSchizzo();
     void entra(std::size_t campo);

@@ -11,7 +11,6 @@
 #include <QListWidget>
 #include <QPainter>
 #include <QPixmap>
-#include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
 #include <QVBoxLayout>
@@ -21,6 +20,7 @@
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
 #include "device/text_painting.hpp"
+#include "shell/confirm_buttons.hpp"
 #include "shell/failure_box.hpp"
 #include "shell/form_sizes.hpp"
 #include "shell/qt_text.hpp"
@@ -82,7 +82,7 @@ Editacfg::Editacfg(PorteEditacfg& porte, base::Dialogo& dialogo, QWidget* padre)
     griglia->addWidget(fareColori(), 0, 1, 2, 1);
     griglia->addWidget(fareCaratteri(), 0, 2);
     griglia->addWidget(fareMargini(), 1, 2);
-    griglia->addWidget(farePulsanti(), 2, 0, 1, 3);
+    griglia->addWidget(pulsantiConferma(*this, [this] { conferma(); }), 2, 0, 1, 3);
     griglia->setColumnStretch(0, 3);
     griglia->setColumnStretch(2, 2);
     griglia->setRowStretch(0, 1);
@@ -184,23 +184,6 @@ QWidget* Editacfg::fareMargini() {
     griglia->addWidget(superiore_, 1, 1, Qt::AlignLeft);
     griglia->setColumnStretch(1, 1);
     return riquadro;
-}
-
-QWidget* Editacfg::farePulsanti() {
-    auto* riga = new QWidget(this);
-    auto* confermato = new QPushButton(tradotto("&Conferma"), riga);
-    auto* annullato = new QPushButton(tradotto("&Annulla"), riga);
-    confermato->setObjectName(QStringLiteral("Command1"));
-    annullato->setObjectName(QStringLiteral("Command2"));
-    confermato->setDefault(true);
-    connect(confermato, &QPushButton::clicked, this, [this] { conferma(); });
-    connect(annullato, &QPushButton::clicked, this, &QDialog::reject);
-    auto* disposizione = new QHBoxLayout(riga);
-    disposizione->setContentsMargins(0, 0, 0, 0);
-    disposizione->addStretch();
-    disposizione->addWidget(confermato);
-    disposizione->addWidget(annullato);
-    return riga;
 }
 
 void Editacfg::mostraPenna(const plot::PennaConfigurata& penna) {

@@ -53,7 +53,6 @@ class Editacfg : public QDialog {
     QWidget* fareColori();
     QWidget* fareCaratteri();
     QWidget* fareMargini();
-    QWidget* farePulsanti();
     void mostraPenna(const plot::PennaConfigurata& penna);
     void dipingiColore(int indice);
     void cambiaValore(int indice);
