@@ -24,7 +24,7 @@ class Documento {
     void apri(const std::string& nome);
 
     /// Reads the project that the command line names, if there is such a file.
-    /// @return false, with nothing changed, if there is none
+    /// @return false if there is none, which the status line then tells; nothing else has changed
     bool apriAllAvvio(const std::string& argomento);
 
     /// Asks under which name to save, and whether a file of that name may be replaced. A file that

@@ -11,9 +11,10 @@ namespace korven::commands {
 
 /// What the start of the program needs beside its language.
 struct PorteAvvio {
-    /// Reads the five mask files. May be empty in a program without editors.
+    /// Reads what must be sound before there is work to lose (`leggiDatiProgramma`); left out when
+    /// empty.
     std::function<void()> leggiMaschere;
-    /// Shows the about box, which greets whoever starts without a project. May be empty.
+    /// Shows the about box, which greets whoever starts without a project; left out when empty.
     std::function<void()> saluta;
 };
 
@@ -23,11 +24,11 @@ struct PorteAvvio {
 /// @throws base::ErroreFile with the file, its line and what was expected there
 void leggiDatiProgramma(project::Maschere& maschere);
 
-/// The rest of the start, behind the language: no project, the masks, then the project that the
-/// command line names. Without an argument the defaults and the about box; with one that names no
-/// file the defaults alone.
+/// The rest of the start, behind the language: no project, masks and pens, then the project that
+/// the command line names. Without an argument the defaults and the about box; with one that names
+/// no file the defaults alone.
 /// @param argomento  the command line, empty when there is none
-/// @throws base::ErroreFile if a mask or the project can't be used
+/// @throws base::ErroreFile if a mask, the pens or the project can't be used
 void avvia(const std::string& argomento, Documento& documento, const PorteAvvio& porte);
 
 }  // namespace korven::commands

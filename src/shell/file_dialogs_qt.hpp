@@ -8,7 +8,8 @@
 namespace korven::shell {
 
 /// The file dialogs of the desktop. That to save is native where the desktop offers one; that to
-/// open is Qt's own, which takes the name of a new project too. They begin in the current folder.
+/// open is Qt's own, which takes the name of a new project too. They begin in the current folder,
+/// and a name that was chosen makes its folder the current one.
 class DialogoFileQt : public commands::DialogoFile {
  public:
     /// The window over which the dialogs appear.
