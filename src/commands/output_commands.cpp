@@ -56,20 +56,32 @@ class Clessidra {
     base::Dialogo& dialogo_;
 };
 
-// True when the run went through and its output is there. A folder where nothing can be written, as
-// that of a colleague, is told to the user, who may save the project elsewhere and run it there.
+// What an output says, or false where a file of it can't be written: in the folder of a colleague,
+// on a full disk. The user is told, and may save the project elsewhere or make room.
+template <class Uscita>
+bool seSiPuoScrivere(base::Dialogo& dialogo, Uscita uscita) {
+    try {
+        return uscita();
+    } catch (const base::ErroreScrittura& errore) {
+        dialogo.messaggio(errore.what(), attenzione(), base::Icona::stop);
+        return false;
+    }
+}
+
+// True when the run went through and its output is there.
 bool calcola(int modoUscita, base::Dialogo& dialogo, analysis::Avanzamento& avanzamento,
              analysis::UscitaCalcolo& uscita) {
     try {
-        analysis::CalcoloParatia(modoUscita, {dialogo, avanzamento, uscita});
+        const bool scritto = seSiPuoScrivere(dialogo, [&] {
+            analysis::CalcoloParatia(modoUscita, {dialogo, avanzamento, uscita});
+            return true;
+        });
+        if (!scritto) analysis::erroreCalcolo = true;
     } catch (const base::ErroreValore& errore) {
         analysis::erroreCalcolo = true;
         // As after a singular system: what can't be shown must not be taken for up to date.
         const std::string risultati = base::nomeRisultati(fileCorrente);
         if (!analysis::prendeIlPostoDelProgetto(risultati)) base::cancellaFile(risultati);
-        dialogo.messaggio(errore.what(), attenzione(), base::Icona::stop);
-    } catch (const base::ErroreScrittura& errore) {
-        analysis::erroreCalcolo = true;
         dialogo.messaggio(errore.what(), attenzione(), base::Icona::stop);
     }
     return !analysis::erroreCalcolo;
@@ -104,7 +116,8 @@ void produci(Comando comando, base::Dialogo& dialogo, analysis::Avanzamento& ava
              const FormeProgramma& forme) {
     // The log refuses in words of its own.
     if (comando == Comando::graficaStratigrafia) {
-        if (report::disegnaStratigrafia(dialogo)) forme.grafica();
+        if (seSiPuoScrivere(dialogo, [&] { return report::disegnaStratigrafia(dialogo); }))
+            forme.grafica();
         return;
     }
     if (fileCorrente.empty()) {

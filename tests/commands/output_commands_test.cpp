@@ -164,6 +164,25 @@ TEST_F(ProduciDisegni, DoNotOpenTheViewerOnALogThatWasRefused) {
     EXPECT_EQ(dialogo.messaggi.size(), 1u);
 }
 
+// More lines than memory holds go to files, here on a drive where the first of them is a folder.
+TEST_F(ProduciDisegni, TellOfALogThatFindsNoRoomAndGoOn) {
+    const auto prima = std::filesystem::current_path();
+    std::filesystem::current_path(ambiente.lavori.percorso());
+    ::setenv("windir", "Z:\\WINDOWS", 1);
+    std::filesystem::create_directory("Z:\\plttmp1.tmp");
+    test::scriviLibreria(
+        ambiente.programma,
+        {{5, {0.005, std::vector<report::TrattoCampitura>(4000, {0, 0, 0, 2}), "fitta"}}});
+    for (int i = 1; i <= Progetto.nStrati; ++i) Progetto.descrStrato[i] = "105 strato";
+    esegui(Comando::graficaStratigrafia);
+    ::unsetenv("windir");
+    std::filesystem::current_path(prima);
+    EXPECT_EQ(viste, 0);
+    ASSERT_EQ(dialogo.messaggi.size(), 1u);
+    EXPECT_NE(dialogo.messaggi[0].testo.find("plttmp1.tmp"), std::string::npos);
+    EXPECT_EQ(dialogo.messaggi[0].icona, base::Icona::stop);
+}
+
 TEST_F(ProduciDisegni, TellOfAResultThatIsTooLargeLikeOfARefusedRun) {
     // As the caption of the progress does when a moment grows beyond all numbers.
     avanzamento.adOgniIterazione = [](const auto&) { (void)base::testoNumero(HUGE_VAL); };
