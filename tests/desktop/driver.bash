@@ -35,6 +35,8 @@ mkdir -m 700 "$work/home"
 mkdir "$work/lavori"
 export HOME=$work/home XDG_CONFIG_HOME=$work/home/config XDG_DATA_HOME=$work/home/data
 export XDG_RUNTIME_DIR=$work/home QT_QPA_PLATFORM=xcb LC_ALL=C.UTF-8
+LSAN_OPTIONS=suppressions=$(realpath "$(dirname "${BASH_SOURCE[0]}")")/leaks.txt:print_suppressions=0
+export LSAN_OPTIONS
 unset KORVEN32_HOME WAYLAND_DISPLAY SESSION_MANAGER DBUS_SESSION_BUS_ADDRESS
 
 fail() {
