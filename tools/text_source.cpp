@@ -14,6 +14,7 @@ namespace {
 
 constexpr const auto& tags = languageMarks;
 constexpr std::string_view fileMark = "@file ";
+constexpr std::string_view addedTexts = "texts32.txt";  // the file of the second table
 
 class SourceReader {
  public:
@@ -89,6 +90,11 @@ std::string faultOf(const std::string& key, const std::string& text) {
     return {};
 }
 
+void checkCount(const std::string& path, long count, int most) {
+    if (count > most)
+        throw base::ErroreFile(path, 0, "attesi al più " + std::to_string(most) + " testi");
+}
+
 }  // namespace
 
 std::vector<TextRecord> readTextSource(const std::string& path, std::string_view content) {
@@ -108,9 +114,10 @@ void checkTextRecords(const std::string& path, const std::vector<TextRecord>& re
                                    "attesa una chiave nuova, questa sta già alla riga " +
                                        std::to_string(known->second) + ": " + key);
     }
-    if (records.size() > static_cast<std::size_t>(base::massimoTesti))
-        throw base::ErroreFile(path, 0,
-                               "attesi al più " + std::to_string(base::massimoTesti) + " testi");
+    const auto added = std::count_if(records.begin(), records.end(),
+                                     [](const auto& record) { return record.file == addedTexts; });
+    checkCount(path, static_cast<long>(records.size()) - added, base::massimoTesti);
+    checkCount(path, added, base::massimoTestiAggiunti);
 }
 
 std::string textFileBytes(const std::vector<TextRecord>& records, std::string_view file) {

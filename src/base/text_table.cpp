@@ -8,6 +8,12 @@
 namespace korven::base {
 
 TabellaTesti tabellaTesti;
+TabellaTesti testiAggiunti{massimoTestiAggiunti};
+
+RecordTesti& TabellaTesti::nuovaRiga() {
+    righe.resize(static_cast<std::size_t>(++nTesti));
+    return righe.emplace_back();
+}
 
 std::string chiaveTesto(std::string_view testo) { return inCp1252(maiuscolo(testo)); }
 
@@ -16,10 +22,10 @@ void aggiungiTesti(TabellaTesti& testi, LettoreRighe& file) {
         RecordTesti record;
         for (int lingua = 1; lingua <= numeroLingue; ++lingua)
             record.testo[lingua] = file.riga("le sei traduzioni di un testo");
-        if (testi.nTesti == massimoTesti)
-            file.rifiuta("attesi non più di " + std::to_string(massimoTesti) +
+        if (testi.nTesti == testi.capacita)
+            file.rifiuta("attesi non più di " + std::to_string(testi.capacita) +
                          " testi in tutti i file insieme");
-        testi.righe[++testi.nTesti] = std::move(record);
+        testi.nuovaRiga() = std::move(record);
         if (!file.fine()) file.riga("la riga che separa due testi");
     }
 }

@@ -2,13 +2,15 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "base/table.hpp"
 #include "base/text_lines.hpp"
 
 namespace korven::base {
 
-inline constexpr int massimoTesti = 800;
+inline constexpr int massimoTesti = 800;           ///< in texts01.txt and texts06.txt together
+inline constexpr int massimoTestiAggiunti = 4000;  ///< in texts32.txt
 inline constexpr int numeroLingue = 6;
 inline constexpr int colonnaItaliano = 1;  ///< the key of a record
 inline constexpr int colonnaInglese = 5;   ///< stands in for a language that is not translated yet
@@ -20,14 +22,24 @@ struct RecordTesti {
     std::string chiave;  ///< what the record is sorted by; `ordinaTesti` fills it
 };
 
-/// The texts of the program, rows 1 to `nTesti`.
+/// A table of texts, rows 1 to `nTesti`. Row 0 belongs to no text.
 struct TabellaTesti {
+    TabellaTesti() = default;
+    explicit TabellaTesti(int quanti) : capacita(quanti) {}
+
+    /// The next row, to be filled. What stood there before the table was emptied is gone.
+    RecordTesti& nuovaRiga();
+
+    int capacita = massimoTesti;
     int nTesti = 0;
-    Tabella<RecordTesti, massimoTesti> righe;
+    std::vector<RecordTesti> righe{1};
 };
 
-/// The one table of the running program: filled and sorted at the start, constant afterwards.
+/// The two tables of the running program, filled and sorted at the start, constant afterwards. The
+/// first has a size that the format of its files fixes; texts that came to the program after it was
+/// full stand in the second, which is looked up where the first has no record.
 extern TabellaTesti tabellaTesti;
+extern TabellaTesti testiAggiunti;
 
 /// What texts are compared by: the upper-case text as bytes of the code page, so that the order is
 /// that of the characters' codes and case does not count.
@@ -37,7 +49,7 @@ extern TabellaTesti tabellaTesti;
 /// whose content is ignored. The separator may be missing behind the last record alone. The table
 /// is unsorted afterwards.
 ///
-/// @throws ErroreFile when the file ends inside a record or holds a record beyond row 800; the
+/// @throws ErroreFile when the file ends inside a record or holds a record beyond the capacity; the
 /// table then keeps the records read before
 void aggiungiTesti(TabellaTesti& testi, LettoreRighe& file);
 

@@ -2,6 +2,7 @@
 
 #include "base/case_form.hpp"
 #include "base/code_page.hpp"
+#include "base/files.hpp"
 #include "base/language.hpp"
 #include "base/text_lines.hpp"
 
@@ -42,19 +43,34 @@ class Segnalatore {
     Dialogo* dialogo_;
 };
 
+const RecordTesti* cercaRecord(const TabellaTesti& testi, const TabellaTesti* aggiunti,
+                               std::string_view testo) {
+    for (const TabellaTesti* tabella : {&testi, aggiunti}) {
+        const int riga = tabella ? cercaTesto(*tabella, testo) : 0;
+        if (riga > 0) return &tabella->righe[static_cast<std::size_t>(riga)];
+    }
+    return nullptr;
+}
+
+void leggiTesti(TabellaTesti& testi, const std::string& percorso) {
+    LettoreRighe file = LettoreRighe::apri(percorso);
+    aggiungiTesti(testi, file);
+}
+
 }  // namespace
 
-std::string traduci(const TabellaTesti& testi, int codice, std::string_view testo, Dialogo* prova) {
+std::string traduci(const TabellaTesti& testi, int codice, std::string_view testo, Dialogo* prova,
+                    const TabellaTesti* aggiunti) {
     std::string s(senzaSpaziEsterni(testo));
     if (codice == colonnaItaliano || unitaDiMisura(s)) return s;
 
     const Segnalatore box(testi, codice, prova);
-    const int riga = cercaTesto(testi, s);
-    if (riga == 0) {
+    const RecordTesti* trovato = cercaRecord(testi, aggiunti, s);
+    if (!trovato) {
         box.segnala("Testo Mancante", s);
         return s;
     }
-    const RecordTesti& record = testi.righe[riga];
+    const RecordTesti& record = *trovato;
     std::string t = colonna(record, codice);
     if (nonTradotto(t)) {
         t = record.testo[colonnaInglese];
@@ -73,21 +89,23 @@ std::string traduci(const TabellaTesti& testi, int codice, std::string_view test
 }
 
 std::string traduttore(std::string_view testo) {
-    return traduci(tabellaTesti, lingua, testo, modoProva);
+    return traduci(tabellaTesti, lingua, testo, modoProva, &testiAggiunti);
 }
 
-void caricaTesti(const std::string& percorsoComuni, const std::string& percorsoModulo) {
-    tabellaTesti.nTesti = 0;
+void caricaTesti(const std::string& percorsoComuni, const std::string& percorsoModulo,
+                 const std::string& percorsoAggiunti) {
+    const auto vuota = [] { tabellaTesti.nTesti = testiAggiunti.nTesti = 0; };
+    vuota();
     try {
-        for (const auto& percorso : {percorsoComuni, percorsoModulo}) {
-            LettoreRighe file = LettoreRighe::apri(percorso);
-            aggiungiTesti(tabellaTesti, file);
-        }
+        leggiTesti(tabellaTesti, percorsoComuni);
+        leggiTesti(tabellaTesti, percorsoModulo);
+        if (esisteFile(percorsoAggiunti)) leggiTesti(testiAggiunti, percorsoAggiunti);
     } catch (...) {
-        tabellaTesti.nTesti = 0;
+        vuota();
         throw;
     }
     ordinaTesti(tabellaTesti);
+    ordinaTesti(testiAggiunti);
 }
 
 void impostaLingua(int codice) { lingua = codice; }

@@ -20,12 +20,15 @@ namespace korven::base {
 /// @throws ErroreIndice when a text is found and the language code lies outside 1 to 6
 [[nodiscard]] std::string traduttore(std::string_view testo);
 
-/// Fills and sorts the table of the program from the two text files: the texts common to the
-/// maker's programs and those of this one.
+/// Fills and sorts the two tables of the program: the first from the texts common to the maker's
+/// programs and those of this one, the second from the texts added since (text_table.hpp).
 ///
-/// @throws ErroreFile when a file cannot be read or is broken (text_table.hpp); the table then
-/// holds no text
-void caricaTesti(const std::string& percorsoComuni, const std::string& percorsoModulo);
+/// @param percorsoAggiunti  a program folder of an older version has no such file: without it the
+///                          second table stays empty
+/// @throws ErroreFile when a file cannot be read or is broken (text_table.hpp); the tables then
+/// hold no text
+void caricaTesti(const std::string& percorsoComuni, const std::string& percorsoModulo,
+                 const std::string& percorsoAggiunti = {});
 
 /// Chooses the language, 1 to 6; before the first call it is Italian. Another code is taken as it
 /// is and refused where `traduttore` needs its column.
@@ -39,9 +42,10 @@ void impostaLingua(int codice);
 /// @param dialogo  not owned; must outlive the mode
 void impostaModoProva(Dialogo* dialogo);
 
-/// The rule of `traduttore` on a table of one's own, already sorted.
-/// @param prova  dialog of the test mode, nullptr when it is off
+/// The rule of `traduttore` on tables of one's own, already sorted.
+/// @param prova     dialog of the test mode, nullptr when it is off
+/// @param aggiunti  where a text is looked up that the first table lacks; nullptr: nowhere
 [[nodiscard]] std::string traduci(const TabellaTesti& testi, int lingua, std::string_view testo,
-                                  Dialogo* prova = nullptr);
+                                  Dialogo* prova = nullptr, const TabellaTesti* aggiunti = nullptr);
 
 }  // namespace korven::base

@@ -26,7 +26,8 @@ void scegliLingua(const std::string& sigla) {
         if (sigla.empty()) throw base::ErroreFile(scelta, 1, "atteso un codice di lingua da 1 a 6");
         return;  // a wrong option is answered with the others
     }
-    base::caricaTesti(base::fileProgramma("texts01.txt"), base::fileProgramma("texts06.txt"));
+    base::caricaTesti(base::fileProgramma("texts01.txt"), base::fileProgramma("texts06.txt"),
+                      base::fileProgramma("texts32.txt"));
     base::impostaLingua(codice);
 }
 

@@ -62,7 +62,8 @@ bool iniziaLingua(const PorteLingua& porte) {
     const std::string sigla(base::siglaLingua(codice));
     if (primaVolta) preparaEsempi();
     base::caricaTesti(base::fileProgramma("texts01.txt"),
-                      base::fileProgramma(std::string("texts").append(numeroModulo) + ".txt"));
+                      base::fileProgramma(std::string("texts").append(numeroModulo) + ".txt"),
+                      base::fileProgramma("texts32.txt"));
     base::impostaLingua(codice);
     base::impostaModoProva(prova ? &porte.dialogo : nullptr);
     fileAiuto = trovaAiuto(sigla);

@@ -21,7 +21,8 @@ void chooseLanguage() {
         if (!base::esisteFile(choice)) return;
         const int code = base::leggiLingua(choice);
         if (code == 1 || base::siglaLingua(code).empty()) return;
-        base::caricaTesti(base::fileProgramma("texts01.txt"), base::fileProgramma("texts06.txt"));
+        base::caricaTesti(base::fileProgramma("texts01.txt"), base::fileProgramma("texts06.txt"),
+                          base::fileProgramma("texts32.txt"));
         base::impostaLingua(code);
     } catch (const std::exception&) {
         base::impostaLingua(1);

@@ -38,7 +38,7 @@ class TestiTedeschi {
 
  private:
     static void aggiungi(const char* italiano, const char* tedesco) {
-        auto& record = tabellaTesti.righe[++tabellaTesti.nTesti];
+        auto& record = tabellaTesti.nuovaRiga();
         record.testo[1] = italiano;
         record.testo[2] = tedesco;
     }

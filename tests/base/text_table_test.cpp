@@ -16,7 +16,7 @@ namespace {
 std::unique_ptr<TabellaTesti> conChiavi(const std::vector<std::string>& chiavi) {
     auto testi = std::make_unique<TabellaTesti>();
     for (const auto& chiave : chiavi) {
-        auto& record = testi->righe[++testi->nTesti];
+        auto& record = testi->nuovaRiga();
         for (int lingua = 1; lingua <= numeroLingue; ++lingua)
             record.testo[lingua] = chiave + std::to_string(lingua);
         record.testo[colonnaItaliano] = chiave;
@@ -91,6 +91,20 @@ TEST(AggiungiTesti, RecordBeyondTheCapacityIsRefused) {
     LettoreRighe troppo("u.txt", record("di troppo"));
     EXPECT_THROW(aggiungiTesti(*testi, troppo), ErroreFile);
     EXPECT_EQ(testi->nTesti, 800);
+
+    TabellaTesti grande{massimoTestiAggiunti};
+    LettoreRighe ancora("v.txt", contenuto + record("di più"));
+    aggiungiTesti(grande, ancora);
+    EXPECT_EQ(grande.nTesti, 801);
+}
+
+TEST(AggiungiTesti, EmptiedTableBeginsAgainAtItsFirstRow) {
+    auto testi = conChiavi({"vecchio", "altro"});
+    testi->nTesti = 0;
+    LettoreRighe file("t.txt", record("nuovo"));
+    aggiungiTesti(*testi, file);
+    EXPECT_EQ(testi->nTesti, 1);
+    EXPECT_EQ(testi->righe[1].testo[colonnaItaliano], "nuovo");
 }
 
 TEST(OrdinaTesti, OrdersByTheCodesOfTheUpperCaseCharacters) {

@@ -164,6 +164,34 @@ TEST_F(ProgramTexts, TableIsMadeOfBothFilesAndSortedAsOne) {
     EXPECT_EQ(prova.messaggi.size(), 1u);
 }
 
+TEST_F(ProgramTexts, AddedTextsStandBehindTheTableWhoseSizeIsFixed) {
+    test::metti(cartella / "texts01.txt", "Zeta\r\nZ\r\nZ\r\nZ\r\nZed\r\nZ\r\n\r\n");
+    test::metti(cartella / "texts06.txt", "Fase\r\nS\r\nP\r\nF\r\nStage\r\nF\r\n\r\n");
+    test::metti(cartella / "texts32.txt",
+                "Margine\r\n@\r\nM\r\nM\r\nMargin\r\nM\r\n\r\n"
+                "Zeta\r\n-\r\n-\r\n-\r\nother\r\n-\r\n\r\n");
+    caricaTesti(cartella / "texts01.txt", cartella / "texts06.txt", cartella / "texts32.txt");
+    EXPECT_EQ(tabellaTesti.nTesti, 2);
+    EXPECT_EQ(testiAggiunti.nTesti, 2);
+    impostaLingua(tedesco);
+    EXPECT_EQ(traduttore("MARGINE"), "MARGIN");  // English stands in, in the form of the key
+    impostaLingua(inglese);
+    EXPECT_EQ(traduttore("Zeta"), "Zed");  // the first table goes before
+    EXPECT_EQ(traduttore("Manca"), "Manca");
+
+    // The folder of an older version has no such file.
+    caricaTesti(cartella / "texts01.txt", cartella / "texts06.txt", cartella / "manca.txt");
+    EXPECT_EQ(tabellaTesti.nTesti, 2);
+    EXPECT_EQ(testiAggiunti.nTesti, 0);
+    EXPECT_EQ(traduttore("Margine"), "Margine");
+
+    test::metti(cartella / "texts32.txt", "Margine\r\nM\r\n");
+    EXPECT_THROW(
+        caricaTesti(cartella / "texts01.txt", cartella / "texts06.txt", cartella / "texts32.txt"),
+        ErroreFile);
+    EXPECT_EQ(tabellaTesti.nTesti, 0);
+}
+
 TEST_F(ProgramTexts, MissingOrBrokenFileIsRefusedAndLeavesNoTexts) {
     test::metti(cartella / "texts01.txt", "Zeta\r\nZ\r\nZ\r\nZ\r\nZed\r\nZ\r\n\r\n");
     EXPECT_THROW(caricaTesti(cartella / "texts01.txt", cartella / "manca.txt"), ErroreFile);

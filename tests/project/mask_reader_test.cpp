@@ -96,7 +96,7 @@ TEST(LeggiMaschera, TakesAChoiceLineWithAndWithoutItsLastBar) {
 TEST(LeggiMaschera, TranslatesTheLabelBeforeItsUnitAndTheChoicesAsAWhole) {
     base::tabellaTesti = {};
     const auto aggiungi = [](const std::string& chiave, const std::string& francese) {
-        auto& riga = base::tabellaTesti.righe[++base::tabellaTesti.nTesti];
+        auto& riga = base::tabellaTesti.nuovaRiga();
         riga.testo[1] = chiave;
         riga.testo[3] = francese;
     };

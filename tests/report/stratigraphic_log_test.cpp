@@ -75,7 +75,7 @@ class TestiStranieri {
         tabella.nTesti = 0;
         for (const auto& [it, en] : {std::pair{"Cantiere", "Site"}, std::pair{"falda [m]", "water"},
                                      std::pair{"Sabbia", "Sand"}}) {
-            auto& riga = tabella.righe[++tabella.nTesti];
+            auto& riga = tabella.nuovaRiga();
             riga.testo[1] = it;
             riga.testo[5] = en;
         }

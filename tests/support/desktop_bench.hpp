@@ -37,7 +37,8 @@ class TestiConsegnati {
  public:
     explicit TestiConsegnati(int lingua) {
         const std::string cartella = KORVEN_PROGRAM_FOLDER;
-        base::caricaTesti(cartella + "/texts01.txt", cartella + "/texts06.txt");
+        base::caricaTesti(cartella + "/texts01.txt", cartella + "/texts06.txt",
+                          cartella + "/texts32.txt");
         base::impostaLingua(lingua);
     }
     TestiConsegnati(const TestiConsegnati&) = delete;

@@ -40,10 +40,10 @@ inline std::string unite(const std::vector<std::string>& righe) {
 class UnTesto {
  public:
     UnTesto(std::string_view italiano, std::string_view tedesco) {
-        auto& record = base::tabellaTesti.righe[1];
+        base::tabellaTesti.nTesti = 0;
+        auto& record = base::tabellaTesti.nuovaRiga();
         record.testo[1] = italiano;
         record.testo[2] = tedesco;
-        base::tabellaTesti.nTesti = 1;
         base::ordinaTesti(base::tabellaTesti);
         base::impostaLingua(2);
     }

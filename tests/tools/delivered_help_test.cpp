@@ -71,7 +71,8 @@ class DeliveredHelp : public ::testing::Test {
         return found != nullptr ? *found : none;
     }
     static project::Maschere masks(int language) {
-        base::caricaTesti(base::fileProgramma("texts01.txt"), base::fileProgramma("texts06.txt"));
+        base::caricaTesti(base::fileProgramma("texts01.txt"), base::fileProgramma("texts06.txt"),
+                          base::fileProgramma("texts32.txt"));
         base::impostaLingua(language);
         project::Maschere all;
         all.leggiMaschereProgramma();

@@ -45,7 +45,8 @@ class DeliveredMasks : public ::testing::Test {
     }
     // The masks in a language, with the texts of the program folder.
     project::Maschere masks(int language) {
-        base::caricaTesti(base::fileProgramma("texts01.txt"), base::fileProgramma("texts06.txt"));
+        base::caricaTesti(base::fileProgramma("texts01.txt"), base::fileProgramma("texts06.txt"),
+                          base::fileProgramma("texts32.txt"));
         base::impostaLingua(language);
         project::Maschere all;
         all.leggiMaschereProgramma();
