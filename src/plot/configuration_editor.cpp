@@ -56,6 +56,22 @@ void ModelloPenne::cambiaNome(int indice, std::string_view nome) {
     configurazione_.colori[indice].nome = nome;
 }
 
+std::optional<ValoreFuori> ModelloPenne::valoreFuori(std::string_view margineSinistro,
+                                                     std::string_view margineSuperiore) const {
+    const auto fuori = [](double valore, double minimo, double massimo) {
+        return !(valore >= minimo && valore <= massimo);
+    };
+    for (int i = 1; i <= numeroPenne; ++i)
+        if (fuori(configurazione_.penne[i].spessoreMm, 0, massimoSpessoreMm))
+            return ValoreFuori{ValoreFuori::Campo::spessore, i, 0, massimoSpessoreMm};
+    for (const auto& [campo, testo] :
+         {std::pair{ValoreFuori::Campo::margineSinistro, margineSinistro},
+          std::pair{ValoreFuori::Campo::margineSuperiore, margineSuperiore}})
+        if (fuori(numeroScritto(testo), minimoMargineCm, massimoMargineCm))
+            return ValoreFuori{campo, 0, minimoMargineCm, massimoMargineCm};
+    return {};
+}
+
 void ModelloPenne::conferma(std::string_view margineSinistro, std::string_view margineSuperiore) {
     configurazione_.margineSinistro = numeroScritto(margineSinistro);
     configurazione_.margineSuperiore = numeroScritto(margineSuperiore);

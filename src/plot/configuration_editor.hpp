@@ -1,12 +1,22 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
 #include "plot/plot_configuration.hpp"
 
 namespace korven::plot {
+
+/// A number that the file can't hold: the field that it was typed into, and what it may be.
+struct ValoreFuori {
+    enum class Campo { spessore, margineSinistro, margineSuperiore };
+    Campo campo{};
+    int penna = 0;  ///< of a width; 0 for a margin
+    double minimo = 0, massimo = 0;
+    bool operator==(const ValoreFuori&) const = default;
+};
 
 /// The edits of a pen configuration while its user makes them: which pen is shown, what its
 /// controls change, what is written at the end. A form only moves values in and out.
@@ -42,6 +52,10 @@ class ModelloPenne {
     /// @return false when it is the one that it had; nobody then asks for its new name
     bool cambiaValore(int indice, Colore valore);
     void cambiaNome(int indice, std::string_view nome);
+
+    /// The first width, from pen 1 on, then margin that `conferma` would refuse.
+    [[nodiscard]] std::optional<ValoreFuori> valoreFuori(std::string_view margineSinistro,
+                                                         std::string_view margineSuperiore) const;
 
     /// Takes the margins as typed, writes the file anew and puts the margins into force at once.
     /// The pens come into force with the next drawing.

@@ -13,8 +13,6 @@ namespace korven::plot {
 
 namespace {
 
-constexpr double massimoSpessoreMm = 100;
-
 // "the colour of pen 12", to be used behind "expected".
 std::string quale(std::string_view cosa, int numero) {
     return base::traduttore(cosa) + ' ' + std::to_string(numero);
@@ -39,10 +37,8 @@ PennaConfigurata leggiPenna(base::LettoreRighe& file, int numero) {
     return penna;
 }
 
-// No sheet is shifted off itself, which would leave a drawing without width.
 double margine(base::LettoreRighe& file, std::string_view cosa) {
-    constexpr double minimo = -10, massimo = 100;
-    return file.numeroSolo(minimo, massimo, base::traduttore(cosa));
+    return file.numeroSolo(minimoMargineCm, massimoMargineCm, base::traduttore(cosa));
 }
 
 ColoreConfigurato leggiColore(base::LettoreRighe& file, int numero) {

@@ -15,6 +15,12 @@ namespace korven::plot {
 
 inline constexpr int numeroColori = 15;
 
+/// Greatest width of a line [mm].
+inline constexpr double massimoSpessoreMm = 100;
+/// Limits of both margins [cm]: no sheet is shifted off itself, which would leave a drawing without
+/// width.
+inline constexpr double minimoMargineCm = -10, massimoMargineCm = 100;
+
 /// A pen as its user sees it.
 struct PennaConfigurata {
     std::string etichetta;  ///< its purpose; two pens may have the same

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "base/code_page.hpp"
+#include "base/number_reading.hpp"
 #include "project/field_type.hpp"
 
 namespace korven::project {
@@ -116,6 +117,10 @@ bool FieldModel::premi(Tasto tasto, base::Dialogo& dialogo) {
         nuovo = avanti ? nuovo + 1 : nuovo - 1;
     } while (!prendeFuoco(nuovo));
     return passaA(nuovo, dialogo);
+}
+
+std::string FieldModel::lettura() const {
+    return numerica(attivo_) ? base::letturaMostrata(testo(attivo_)) : std::string();
 }
 
 const std::string& FieldModel::aiuto() const { return maschera_.campi[attivo_].aiuto; }

@@ -66,6 +66,9 @@ class FieldModel {
     /// @return true when the focus moved
     bool premi(Tasto tasto, base::Dialogo& dialogo);
 
+    /// What the strip says of the number typed into the field that has the focus where it is read
+    /// otherwise than typed (base/number_reading.hpp); empty otherwise.
+    [[nodiscard]] std::string lettura() const;
     /// Text of the strip: the help of the field that has the focus.
     [[nodiscard]] const std::string& aiuto() const;
     /// A click on the strip shows its text in a box.

@@ -146,10 +146,12 @@ void Base1::scritto(std::size_t campo, const QString& testo) {
     modello_.scrivi(campo, testo.toStdString());
     auto* casella = static_cast<QLineEdit*>(controlli_[campo]);
     const QString tenuto = qt(modello_.testo(campo));
-    if (tenuto == testo) return;
-    const int cursore = casella->cursorPosition();
-    casella->setText(tenuto);
-    casella->setCursorPosition(cursore);
+    if (tenuto != testo) {
+        const int cursore = casella->cursorPosition();
+        casella->setText(tenuto);
+        casella->setCursorPosition(cursore);
+    }
+    if (campo == modello_.attivo()) spiega();
 }
 
 bool Base1::entra(std::size_t campo) {
@@ -183,7 +185,7 @@ void Base1::mostraAttivo() {
 
 void Base1::spiega() {
     area_->ensureWidgetVisible(controlli_[modello_.attivo()]);
-    aiuto_->mostra(qt(modello_.aiuto()));
+    aiuto_->mostra(qt(modello_.aiuto()), qt(modello_.lettura()));
 }
 
 bool Base1::premuto(std::size_t campo, const QKeyEvent& evento) {

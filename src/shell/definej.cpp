@@ -11,6 +11,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "base/number_reading.hpp"
 #include "commands/help_contexts.hpp"
 #include "commands/menu_tree.hpp"
 #include "project/project_data.hpp"
@@ -177,6 +178,7 @@ QLineEdit* DefinEJ::fareCampo(std::size_t campo) {
     fatto->installEventFilter(this);
     connect(fatto, &QLineEdit::textChanged, this, [this, campo](const QString& testo) {
         modello_.scrivi(campo, testo.toStdString());
+        spiega(campo);
         aggiornaSchizzo();
     });
     return fatto;
@@ -201,8 +203,13 @@ void DefinEJ::aggiornaSchizzo() {
 }
 
 void DefinEJ::entra(std::size_t campo) {
-    aiuto_->mostra(tradotto(campiForma[campo].aiuto));
+    spiega(campo);
     for (auto* schizzo : schizzi_) schizzo->evidenzia(campo);
+}
+
+void DefinEJ::spiega(std::size_t campo) {
+    aiuto_->mostra(tradotto(campiForma[campo].aiuto),
+                   qt(base::letturaMostrata(modello_.testo(campo))));
 }
 
 void DefinEJ::entraOpzioni() {

@@ -39,6 +39,7 @@ class DefinEJ : public QDialog {
     void mostraTipo();
     void aggiornaSchizzo();
     void entra(std::size_t campo);
+    void spiega(std::size_t campo);
     void entraOpzioni();
 
     project::SezioneEditata modello_;

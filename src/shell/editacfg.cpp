@@ -17,12 +17,15 @@
 #include <algorithm>
 
 #include "base/language.hpp"
+#include "base/number_reading.hpp"
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
 #include "device/text_painting.hpp"
+#include "project/field_check.hpp"
 #include "shell/confirm_buttons.hpp"
 #include "shell/failure_box.hpp"
 #include "shell/form_sizes.hpp"
+#include "shell/help_strip.hpp"
 #include "shell/qt_text.hpp"
 
 namespace korven::shell {
@@ -30,6 +33,12 @@ namespace korven::shell {
 namespace {
 
 constexpr QSize campione(28, 14);  // of a colour beside its name [pixels]
+
+constexpr const char* aiutoColori = "Doppio clic o F2 per cambiare il colore";
+constexpr const char* aiutoSpessore =
+    "Spessore delle linee della penna scelta, in millimetri, da 0 a 100.";
+constexpr const char* aiutoMargine =
+    "Spostamento dei disegni sul foglio, in centimetri, da -10 a 100.";
 
 std::string testoDi(const QString& testo) { return testo.toStdString(); }
 
@@ -82,7 +91,8 @@ Editacfg::Editacfg(PorteEditacfg& porte, base::Dialogo& dialogo, QWidget* padre)
     griglia->addWidget(fareColori(), 0, 1, 2, 1);
     griglia->addWidget(fareCaratteri(), 0, 2);
     griglia->addWidget(fareMargini(), 1, 2);
-    griglia->addWidget(pulsantiConferma(*this, [this] { conferma(); }), 2, 0, 1, 3);
+    griglia->addWidget(fareStriscia(), 2, 0, 1, 3);
+    griglia->addWidget(pulsantiConferma(*this, [this] { conferma(); }), 3, 0, 1, 3);
     griglia->setColumnStretch(0, 3);
     griglia->setColumnStretch(2, 2);
     griglia->setRowStretch(0, 1);
@@ -117,7 +127,7 @@ QWidget* Editacfg::farePenne() {
 
 QWidget* Editacfg::fareColori() {
     auto* riquadro = new QGroupBox(tradotto("Colori"), this);
-    riquadro->setToolTip(tradotto("Doppio clic o F2 per cambiare il colore"));
+    riquadro->setToolTip(tradotto(aiutoColori));
     auto* colonna = new QVBoxLayout(riquadro);
     auto* gruppo = new QButtonGroup(riquadro);
     for (int i = 0; i <= plot::numeroColori; ++i) {
@@ -186,6 +196,28 @@ QWidget* Editacfg::fareMargini() {
     return riquadro;
 }
 
+QWidget* Editacfg::fareStriscia() {
+    QStringList testi;
+    for (const char* testo : {aiutoColori, aiutoSpessore, aiutoMargine}) testi << tradotto(testo);
+    aiuto_ = new HelpStrip(testi, {}, this);
+    aiuto_->setObjectName(QStringLiteral("Labelhelp"));
+    for (auto* campo : {spessore_, sinistro_, superiore_}) segui(campo);
+    for (auto* lista : {penne_, caratteri_}) lista->installEventFilter(this);
+    return aiuto_;
+}
+
+void Editacfg::segui(QLineEdit* campo) {
+    campo->installEventFilter(this);
+    connect(campo, &QLineEdit::textEdited, this, [this, campo] { spiega(campo); });
+}
+
+void Editacfg::spiega(const QObject* controllo) {
+    const auto* campo = qobject_cast<const QLineEdit*>(controllo);
+    if (campo == nullptr) return aiuto_->mostra(tradotto(aiutoColori));
+    aiuto_->mostra(tradotto(campo == spessore_ ? aiutoSpessore : aiutoMargine),
+                   qt(base::letturaMostrata(testoDi(campo->text()))));
+}
+
 void Editacfg::mostraPenna(const plot::PennaConfigurata& penna) {
     colori_[static_cast<std::size_t>(penna.colore)]->setChecked(true);
     spessore_->setText(qt(base::testoNumero(penna.spessoreMm)));
@@ -195,6 +227,7 @@ void Editacfg::mostraPenna(const plot::PennaConfigurata& penna) {
 }
 
 bool Editacfg::eventFilter(QObject* controllo, QEvent* evento) {
+    if (evento->type() == QEvent::FocusIn) spiega(controllo);
     const bool f2 =
         evento->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(evento)->key() == Qt::Key_F2;
     if (!f2 && evento->type() != QEvent::MouseButtonDblClick)
@@ -218,7 +251,29 @@ void Editacfg::cambiaValore(int indice) {
     dipingiColore(indice);
 }
 
+// The field and its limits, as in the other forms; the focus goes back to it.
+bool Editacfg::segnalaFuori() {
+    using enum plot::ValoreFuori::Campo;
+    const auto fuori =
+        modello_.valoreFuori(testoDi(sinistro_->text()), testoDi(superiore_->text()));
+    if (!fuori) return false;
+    if (fuori->campo == spessore) penne_->setCurrentRow(fuori->penna - 1);
+    QLineEdit* campo = fuori->campo == spessore          ? spessore_
+                       : fuori->campo == margineSinistro ? sinistro_
+                                                         : superiore_;
+    std::string titolo = testoDi(campo->accessibleName());
+    if (fuori->penna > 0) titolo += ": " + modello_.configurazione().penne[fuori->penna].etichetta;
+    project::CampoMaschera limiti;
+    limiti.minimo = fuori->minimo;
+    limiti.massimo = fuori->massimo;
+    project::segnala(project::Vizio::intervallo, limiti, titolo, "\r\n", dialogo_);
+    campo->setFocus();
+    campo->selectAll();
+    return true;
+}
+
 void Editacfg::conferma() {
+    if (segnalaFuori()) return;
     const bool scritta = conAvviso(dialogo_, [this] {
         modello_.conferma(testoDi(sinistro_->text()), testoDi(superiore_->text()));
     });

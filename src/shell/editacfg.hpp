@@ -15,6 +15,8 @@ class QRadioButton;
 
 namespace korven::shell {
 
+class HelpStrip;
+
 /// The two dialogs that open from the form of the pens.
 class PorteEditacfg {
  public:
@@ -37,11 +39,13 @@ class DialoghiEditacfg : public PorteEditacfg {
 };
 
 /// The form of pens, colours and margins of the drawings. Its rules are those of
-/// `plot::ModelloPenne`; it edits the configuration file of the language in force.
+/// `plot::ModelloPenne`; it edits the configuration file of the language in force. The strip
+/// `Labelhelp` explains the number in use.
 class Editacfg : public QDialog {
  public:
     /// @param porte    not owned, like the dialog
-    /// @param dialogo  told when the file can't be written; the form then stays open
+    /// @param dialogo  told which number lies outside its limits, or that the file can't be
+    ///                 written; the form then stays open
     /// @throws base::ErroreFile when the configuration file is missing or broken
     Editacfg(PorteEditacfg& porte, base::Dialogo& dialogo, QWidget* padre);
 
@@ -53,6 +57,10 @@ class Editacfg : public QDialog {
     QWidget* fareColori();
     QWidget* fareCaratteri();
     QWidget* fareMargini();
+    QWidget* fareStriscia();
+    void segui(QLineEdit* campo);
+    void spiega(const QObject* controllo);
+    bool segnalaFuori();
     void mostraPenna(const plot::PennaConfigurata& penna);
     void dipingiColore(int indice);
     void cambiaValore(int indice);
@@ -67,6 +75,7 @@ class Editacfg : public QDialog {
     QListWidget* caratteri_ = nullptr;                            // List2
     QLineEdit* sinistro_ = nullptr;                               // Text2
     QLineEdit* superiore_ = nullptr;                              // Text3
+    HelpStrip* aiuto_ = nullptr;                                  // Labelhelp
 };
 
 }  // namespace korven::shell

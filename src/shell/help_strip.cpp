@@ -7,6 +7,9 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/number_reading.hpp"
+#include "shell/qt_text.hpp"
+
 namespace korven::shell {
 
 namespace {
@@ -15,10 +18,16 @@ constexpr int margine = 6;
 constexpr int larghezzaMinima = 240;
 constexpr int larghezzaComoda = 480;
 
+QString conNota(const QString& nota, const QString& testo) {
+    return nota.isEmpty() ? testo : nota + QLatin1Char('\n') + testo;
+}
+
 }  // namespace
 
 HelpStrip::HelpStrip(const QStringList& testi, std::function<void()> premuto, QWidget* genitore)
-    : QLabel(genitore), testi_(testi), premuto_(std::move(premuto)) {
+    : QLabel(genitore), premuto_(std::move(premuto)) {
+    const QString nota = qt(base::letturaPiuLunga());
+    for (const QString& testo : testi) testi_ << conNota(nota, testo);
     setTextFormat(Qt::PlainText);
     setWordWrap(true);
     setAlignment(Qt::AlignLeft | Qt::AlignTop);
@@ -37,19 +46,24 @@ HelpStrip::HelpStrip(const QStringList& testi, std::function<void()> premuto, QW
     setSizePolicy(misura);
 }
 
-void HelpStrip::mostra(const QString& testo) {
-    setText(testo);
-    setAccessibleName(testo);
+void HelpStrip::mostra(const QString& testo, const QString& nota) {
+    const QString tutto = conNota(nota, testo);
+    if (tutto == text()) return;
+    setText(tutto);
+    setAccessibleName(tutto);
+}
+
+int HelpStrip::altezzaTesto(const QString& testo, int larghezza) const {
+    return fontMetrics()
+        .boundingRect(0, 0, larghezza, QWIDGETSIZE_MAX, Qt::TextWordWrap | Qt::AlignLeft, testo)
+        .height();
 }
 
 int HelpStrip::heightForWidth(int larghezza) const {
     const int bordi = 2 * (margine + frameWidth());
-    int altezza = fontMetrics().height();
+    int altezza = std::max(fontMetrics().height(), altezzaTesto(text(), larghezza - bordi));
     for (const QString& testo : testi_)
-        altezza = std::max(altezza, fontMetrics()
-                                        .boundingRect(0, 0, larghezza - bordi, QWIDGETSIZE_MAX,
-                                                      Qt::TextWordWrap | Qt::AlignLeft, testo)
-                                        .height());
+        altezza = std::max(altezza, altezzaTesto(testo, larghezza - bordi));
     return altezza + bordi;
 }
 

@@ -7,15 +7,18 @@
 namespace korven::shell {
 
 /// The strip of a form that explains the field in use. It has room for the longest of its texts
-/// from the beginning, so that nothing moves while the user goes from field to field. A click, or
-/// the space bar, asks for the text in a box.
+/// from the beginning, so that nothing moves while the user goes from field to field, and above it
+/// for a note on what is being typed. A click, or the space bar, asks for the text in a box.
 class HelpStrip : public QLabel {
  public:
     /// @param testi    all that it will ever show, in lines where they have line breaks
     /// @param premuto  what a click does; may be empty
+    /// The note has the room of one on a number (base/number_reading.hpp); a longer one makes the
+    /// strip grow while it stands.
     HelpStrip(const QStringList& testi, std::function<void()> premuto, QWidget* genitore);
 
-    void mostra(const QString& testo);
+    /// @param nota  in lines of its own above the text; empty for none
+    void mostra(const QString& testo, const QString& nota = {});
 
     [[nodiscard]] bool hasHeightForWidth() const override { return true; }
     [[nodiscard]] int heightForWidth(int larghezza) const override;
@@ -28,6 +31,8 @@ class HelpStrip : public QLabel {
     void paintEvent(QPaintEvent* evento) override;
 
  private:
+    [[nodiscard]] int altezzaTesto(const QString& testo, int larghezza) const;
+
     QStringList testi_;
     std::function<void()> premuto_;
 };

@@ -137,6 +137,17 @@ TEST_F(Penne, AreNotWrittenWithAValueThatCouldNotBeReadBack) {
     EXPECT_EQ(scritta().penne[4].spessoreMm, 0.2);
 }
 
+TEST_F(Penne, NameTheFirstNumberThatTheirFileCannotHold) {
+    using enum ValoreFuori::Campo;
+    ModelloPenne modello(file);
+    EXPECT_FALSE(modello.valoreFuori("-10", "100"));
+    EXPECT_EQ(modello.valoreFuori("0", "100.5"), (ValoreFuori{margineSuperiore, 0, -10, 100}));
+    EXPECT_EQ(modello.valoreFuori("-11", "101"), (ValoreFuori{margineSinistro, 0, -10, 100}));
+    modello.scegliPenna("Penna 4", nulla);
+    modello.cambiaSpessore("100.1");
+    EXPECT_EQ(modello.valoreFuori("-11", "0"), (ValoreFuori{spessore, 4, 0, 100}));
+}
+
 TEST_F(Penne, KeepTheMarginsInForceWhenTheFileCannotBeWritten) {
     ModelloPenne modello(file);
     std::filesystem::remove(file);

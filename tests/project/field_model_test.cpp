@@ -182,5 +182,22 @@ TEST_F(ModelloCampi, ShowsTheReferenceWhereThereIsNoHelpFile) {
     EXPECT_EQ(dialogo.messaggi[0].testo, "6 EDITX");
 }
 
+TEST(ModelloCampiLettura, TellsWhatTheNumberInUseIsReadAs) {
+    const Maschera maschera = test::mascheraCampi();
+    FieldModel modello(maschera, {0, 0}, {"5", "1,5", "1.25"});
+    EXPECT_EQ(modello.lettura(), "") << "a choice";
+    test::DialogRecord dialogo;
+    modello.passaA(2, dialogo);
+    EXPECT_EQ(modello.lettura(), "");
+    modello.scrivi(2, "5.5.5");
+    EXPECT_EQ(modello.lettura(), "letto come 5.5");
+    modello.scrivi(2, "5");
+    modello.passaA(3, dialogo);
+    EXPECT_EQ(modello.lettura(), "") << "a text";
+    modello.passaA(4, dialogo);
+    modello.scrivi(4, "0,5");
+    EXPECT_EQ(modello.lettura(), "letto come 0: il segno decimale è il punto");
+}
+
 }  // namespace
 }  // namespace korven::project

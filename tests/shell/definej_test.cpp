@@ -375,5 +375,15 @@ TEST_F(FormaSezione, OpensOnTheProjectFromItsCommand) {
     project::modificato = false;
 }
 
+TEST_F(FormaSezione, TellsWhatANumberIsReadAsWhileItIsTyped) {
+    apri();
+    trova("Text7").setFocus();
+    const QString spiegazione = aiuto();
+    scrivi("Text7", "80,5");
+    EXPECT_EQ(aiuto(), "letto come 80: il segno decimale è il punto\n" + spiegazione);
+    scrivi("Text7", "80.5");
+    EXPECT_EQ(aiuto(), spiegazione);
+}
+
 }  // namespace
 }  // namespace korven::shell

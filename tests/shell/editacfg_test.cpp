@@ -189,17 +189,40 @@ TEST_F(Penne, StayOpenWhenTheFileCannotBeWritten) {
     EXPECT_TRUE(forma->isVisible());
 }
 
-TEST_F(Penne, StayOpenWithABoxWhenAMarginLiesBeyondAnySheet) {
+TEST_F(Penne, StayOpenWithABoxThatNamesTheFieldAndItsRange) {
     const std::string prima = test::contenuto(programma / "module06ita.cfg");
-    static_cast<QLineEdit&>(trova("Text2")).setText("500");
+    const auto finisceCon = [](const std::string& testo, const char* limiti) {
+        return testo.starts_with("Vi e' un errore di digitazione") && testo.ends_with(limiti);
+    };
+    scrivi("Text3", "500");
     premi("Command1");
     ASSERT_EQ(dialogo.messaggi.size(), 1U);
-    EXPECT_NE(dialogo.messaggi.front().testo.find(
-                  "valore fuori dai limiti (-10 - 100): margine sinistro in centimetri"),
-              std::string::npos)
-        << dialogo.messaggi.front().testo;
+    EXPECT_EQ(dialogo.messaggi[0].titolo, "Superiore");
+    EXPECT_TRUE(finisceCon(dialogo.messaggi[0].testo, "\r\n-10; 100")) << dialogo.messaggi[0].testo;
+    EXPECT_EQ(trova<QLineEdit>("Text3").selectedText(), "500");
+    penne().setCurrentRow(3);
+    scrivi("Text1", "101");
+    penne().setCurrentRow(7);
+    premi("Command1");
+    ASSERT_EQ(dialogo.messaggi.size(), 2U);
+    EXPECT_EQ(dialogo.messaggi[1].titolo, "Spessore (mm): Penna 4");
+    EXPECT_TRUE(finisceCon(dialogo.messaggi[1].testo, "\r\n0; 100"));
+    EXPECT_EQ(penne().currentRow(), 3) << "the pen whose width it is";
+    EXPECT_EQ(trova<QLineEdit>("Text1").selectedText(), "101");
     EXPECT_TRUE(forma->isVisible());
     EXPECT_EQ(test::contenuto(programma / "module06ita.cfg"), prima);
+}
+
+TEST_F(Penne, TellWhatANumberIsReadAsWhileItIsTyped) {
+    auto& striscia = trova<QLabel>("Labelhelp");
+    scrivi("Text1", "0,5");
+    EXPECT_TRUE(striscia.text().startsWith("letto come 0: il segno decimale è il punto\n"))
+        << striscia.text().toStdString();
+    scrivi("Text1", "0.5");
+    EXPECT_FALSE(striscia.text().contains("letto come"));
+    scrivi("Text2", "1.2.3");
+    EXPECT_TRUE(striscia.text().startsWith("letto come 1.2\n"));
+    EXPECT_TRUE(striscia.text().contains("da -10 a 100"));
 }
 
 TEST_F(Penne, HaveANameOnEveryControl) {
