@@ -74,6 +74,7 @@ TEST_F(Incolla, LeavesOccupiedCellsAloneOnNoAndFillsTheFreeOnes) {
 }
 
 TEST_F(Incolla, LeavesTheCellOfABadValueEmptyAndTellsEachFaultOfAColumnOnce) {
+    dialogo.risposte = {Risposta::si, Risposta::no};
     modello.vaiA({2, 1}, dialogo);
     modello.incolla("1,5\t1\ttroppo lungo\t2\r\n2,5\t2\tb\t1\r\n500\t3\tc\t0", dialogo);
     EXPECT_EQ(riga(2), "|1||");
@@ -131,6 +132,49 @@ TEST_F(Incolla, TakesBackWhatItCopied) {
     GridModel altra(maschera, {"0"});
     altra.incolla(modello.copia(), dialogo);
     EXPECT_EQ(altra.valoriTesto(), modello.valoriTesto());
+}
+
+TEST_F(Incolla, OffersToTakeDecimalCommasAsPointsBeforeAnythingIsWritten) {
+    modello.vaiA({2, 1}, dialogo);
+    dialogo.risposte = {Risposta::si, Risposta::si};
+    modello.incolla("1,5\t-0,25\ta,b\t1\r\n2.5\t3,75\t1,5\t0", dialogo);
+    ASSERT_EQ(dialogo.domande.size(), 2u);
+    EXPECT_EQ(
+        dialogo.domande[1],
+        (test::DialogRecord::Box{"Alcuni numeri hanno la virgola decimale, per esempio 1,5.\r\n"
+                                 "Volete leggere la virgola come punto?\r\n"
+                                 "Con No le loro celle restano vuote.",
+                                 "ATTENZIONE!", base::Icona::domanda}));
+    EXPECT_EQ(riga(2), "1.5|-0.25|a,b|1");
+    EXPECT_EQ(riga(3), "2.5|3.75|1,5|0") << "a text keeps its comma";
+    EXPECT_TRUE(dialogo.messaggi.empty());
+}
+
+TEST_F(Incolla, KeepsDecimalCommasOnNoAndIsCalledOffOnCancel) {
+    modello.vaiA({2, 1}, dialogo);
+    dialogo.risposte = {Risposta::si, Risposta::no};
+    modello.incolla("1,5\t2\r\n2,5\t3", dialogo);
+    EXPECT_EQ(riga(2), "|2||");
+    EXPECT_EQ(riga(3), "|3||");
+    ASSERT_EQ(dialogo.messaggi.size(), 1u);
+    EXPECT_EQ(dialogo.messaggi[0].testo,
+              "Non sono ammessi caratteri alfanumerici in un campo di tipo numerico.");
+    modello.vaiA({5, 1}, dialogo);
+    dialogo.risposte = {Risposta::si, Risposta::annulla};
+    modello.incolla("1,5\t2\r\n2,5\t3", dialogo);
+    EXPECT_EQ(riga(5), "|||");
+    EXPECT_EQ(dialogo.messaggi.size(), 1u);
+}
+
+TEST_F(Incolla, AsksNothingAboutCommasThatAreNoDecimalsOrGoNowhere) {
+    modello.vaiA({2, 3}, dialogo);
+    dialogo.risposte = {Risposta::si};
+    modello.incolla("1,5\t1\t2,5", dialogo);
+    EXPECT_EQ(riga(2), "||1,5|1") << "beyond the last column";
+    dialogo.risposte = {Risposta::si};
+    modello.vaiA({3, 1}, dialogo);
+    modello.incolla("1.234,5\t1,2,3", dialogo);
+    EXPECT_EQ(dialogo.domande.size(), 2u);
 }
 
 }  // namespace
