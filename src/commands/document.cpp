@@ -154,7 +154,10 @@ void Documento::scrivi(const std::string& nome) {
 }
 
 void Documento::mostra(const std::string& cosa, const std::string& percorso) {
-    finestra_.stato(traduttore(cosa) + ": " + percorso);
+    stato_ = traduttore(cosa) + ": " + percorso;
+    mostraStato();
 }
+
+void Documento::mostraStato() { finestra_.stato(stato_); }
 
 }  // namespace korven::commands

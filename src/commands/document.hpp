@@ -37,6 +37,9 @@ class Documento {
     /// @return true when the program may end
     [[nodiscard]] bool fine() { return domandaModifiche(); }
 
+    /// Shows the line of the last file again, when something else has taken the status line.
+    void mostraStato();
+
  private:
     [[nodiscard]] bool domandaModifiche();
     void apriNome(const std::string& risposta);
@@ -46,6 +49,7 @@ class Documento {
     void scrivi(const std::string& nome);
     void mostra(const std::string& cosa, const std::string& percorso);
 
+    std::string stato_;
     base::Dialogo& dialogo_;
     DialogoFile& nomi_;
     FinestraPrincipale& finestra_;

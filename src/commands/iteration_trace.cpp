@@ -9,6 +9,9 @@ namespace korven::commands {
 
 namespace {
 
+// A stage without rest is told by what still changed in its last iterations.
+constexpr int ultimeIterazioni = 20;
+
 using analysis::StatoIterazione;
 using analysis::StatoLato;
 using base::traduttore;
@@ -170,6 +173,15 @@ std::vector<std::string> TracciaIterazioni::righe(int da) const {
     for (const auto& tratto : uniti(nodi(da))) testo.push_back(frase(tratto));
     for (const auto& cambio : tiranti(da)) testo.push_back(frase(cambio));
     if (testo.empty()) testo.push_back(traduttore("nessun nodo e nessun tirante cambia stato"));
+    return testo;
+}
+
+std::vector<std::string> TracciaIterazioni::arresto(std::string_view motivo) const {
+    std::vector<std::string> testo = righe(std::max(2, iterazioni_ - ultimeIterazioni + 1));
+    testo.insert(testo.begin(), traduttore(motivo) + " (" + traduttore("fase") + " " +
+                                    std::to_string(fase_) + ", " + std::to_string(iterazioni_) +
+                                    " " + traduttore("iterazioni") + "). " +
+                                    traduttore("Nelle ultime iterazioni cambiano stato") + ":");
     return testo;
 }
 

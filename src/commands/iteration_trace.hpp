@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "analysis/progress.hpp"
@@ -44,6 +45,11 @@ class TracciaIterazioni {
     /// between the same two states on one side ("nodi 12-37"), a line an anchor; one line says so
     /// if nothing changed.
     [[nodiscard]] std::vector<std::string> righe(int da = 0) const;
+
+    /// What is told of a run that was stopped in this stage: why, stage and iterations, then
+    /// `righe` of the last iterations.
+    /// @param motivo  Italian key
+    [[nodiscard]] std::vector<std::string> arresto(std::string_view motivo) const;
 
  private:
     void confronta(const analysis::StatoIterazione& stato);

@@ -4,6 +4,7 @@
 #include "commands/document_names.hpp"
 #include "commands/edit_commands.hpp"
 #include "commands/fatal_error.hpp"
+#include "commands/followed_run.hpp"
 #include "commands/help_contexts.hpp"
 #include "commands/output_commands.hpp"
 #include "project/project_data.hpp"
@@ -49,9 +50,21 @@ bool Programma::esegui(Comando comando) {
             forme_.informazioni(rigaFileCorrente(project::fileCorrente));
             break;
         default:
-            produci(comando, dialogo_, avanzamento_, forme_);
+            produciSeguendo(comando);
     }
     return false;
+}
+
+// A run that was stopped is told in the status line until another output goes through.
+void Programma::produciSeguendo(Comando comando) {
+    CorsaSeguita corsa(avanzamento_);
+    produci(comando, dialogo_, corsa, forme_);
+    const std::string arresto = corsa.arresto();
+    if (!arresto.empty())
+        finestra_.stato(arresto);
+    else if (diceArresto_)
+        documento_.mostraStato();
+    diceArresto_ = !arresto.empty();
 }
 
 bool Programma::fineSessione(bool chiedibile) {

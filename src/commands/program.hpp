@@ -17,6 +17,7 @@ class Programma {
           avanzamento_(avanzamento),
           maschere_(maschere),
           forme_(std::move(forme)),
+          finestra_(finestra),
           documento_(dialogo, nomi, finestra) {}
 
     /// Carries a command out. @return true when the program is to end
@@ -36,10 +37,14 @@ class Programma {
     [[nodiscard]] Documento& documento() { return documento_; }
 
  private:
+    void produciSeguendo(Comando comando);
+
     base::Dialogo& dialogo_;
     analysis::Avanzamento& avanzamento_;
     project::Maschere& maschere_;
     FormeProgramma forme_;
+    FinestraPrincipale& finestra_;
+    bool diceArresto_ = false;  // the status line tells of a stop
     Documento documento_;
 };
 

@@ -1,18 +1,8 @@
 #include "commands/run_control.hpp"
 
-#include <algorithm>
-
 #include "analysis/run_flags.hpp"
-#include "base/translated_texts.hpp"
 
 namespace korven::commands {
-
-namespace {
-
-// A stage without rest is told by what still changed in its last iterations.
-constexpr int ultimeIterazioni = 20;
-
-}  // namespace
 
 void ControlloCorsa::apri() {
     fasi_.clear();
@@ -38,13 +28,7 @@ void ControlloCorsa::iterazione(const analysis::StatoIterazione& stato) {
 void ControlloCorsa::ferma() {
     analysis::stopCalcolo = true;
     oltreLimite_ = true;
-    motivo_ = traccia_.righe(std::max(2, traccia_.iterazioni() - ultimeIterazioni + 1));
-    motivo_.insert(motivo_.begin(),
-                   base::traduttore("Calcolo interrotto: nessuna convergenza") + " (" +
-                       base::traduttore("fase") + " " + std::to_string(traccia_.fase()) + ", " +
-                       std::to_string(traccia_.iterazioni()) + " " +
-                       base::traduttore("iterazioni") + "). " +
-                       base::traduttore("Nelle ultime iterazioni cambiano stato") + ":");
+    motivo_ = traccia_.arresto("Calcolo interrotto: nessuna convergenza");
 }
 
 }  // namespace korven::commands

@@ -4,6 +4,8 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QScreen>
+#include <algorithm>
+#include <iterator>
 
 #include "shell/qt_text.hpp"
 
@@ -15,7 +17,7 @@ QRect riquadroTempCalc(const QRect& schermo) {
 }
 
 TempCalc::TempCalc(QWidget* principale)
-    : QWidget(principale, Qt::Window),
+    : QWidget(principale, Qt::Dialog),  // which desktops keep above its parent
       deformata_(tradotto("Deformata")),
       momenti_(tradotto("Momento flettente")) {
     setObjectName("TempCalc");
@@ -49,7 +51,8 @@ void TempCalc::closeEvent(QCloseEvent* evento) {
 }
 
 void TempCalc::keyPressEvent(QKeyEvent* evento) {
-    if (evento->key() == Qt::Key_Escape)
+    constexpr int tasti[] = {Qt::Key_Escape, Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space};
+    if (std::find(std::begin(tasti), std::end(tasti), evento->key()) != std::end(tasti))
         interrompi();
     else
         QWidget::keyPressEvent(evento);

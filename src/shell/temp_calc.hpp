@@ -8,8 +8,9 @@
 namespace korven::shell {
 
 /// The progress window `TempCalc`: the picture of the wall as the last iteration left it, and the
-/// stop button `Command1` over its lower right corner. It keeps the user out of the other windows
-/// while a run lasts. Closing it and Esc do what the button does; a run ends only by itself.
+/// stop button `Command1` over its lower right corner. It stays above the main form and keeps the
+/// user out of the other windows while a run lasts. Closing it, Esc, Enter and the space bar do
+/// what the button does; a run ends only by itself.
 class TempCalc : public QWidget {
     Q_OBJECT
  public:

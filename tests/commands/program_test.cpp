@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "analysis/run_flags.hpp"
 #include "base/code_page.hpp"
 #include "project/project_file.hpp"
 #include "support/document_ports.hpp"
@@ -105,6 +106,27 @@ TEST_F(ProgrammaTest, StopsARunWhenTheSessionEndsInTheMiddleOfItAndKeepsWhatIsSa
     EXPECT_FALSE(std::filesystem::exists(ambiente.lavori / "muro.OUT"));
     EXPECT_EQ(project::fileCorrente, muro);
     EXPECT_FALSE(project::modificato);
+}
+
+TEST_F(ProgrammaTest, TellsInTheStatusLineWhereARunWasStoppedUntilAnotherGoesThrough) {
+    const std::string muro = ambiente.lavori / "muro.kvd";
+    test::metti(muro, base::inCp1252(project::testoProgetto(test::progettoSemplice())));
+    FormeProgramma forme;
+    forme.anteprima = [](const std::string&) {};
+    auto p = programma(forme);
+    ASSERT_TRUE(p.documento().apriAllAvvio(muro));
+    const std::string aperto = finestra.ultimoStato;
+    avanzamento.adOgniIterazione = [](const analysis::StatoIterazione& stato) {
+        if (stato.fase == 2) analysis::stopCalcolo = true;
+    };
+    p.esegui(Comando::stampaVideo);
+    EXPECT_EQ(finestra.ultimoStato,
+              "Calcolo interrotto (fase 2, 1 iterazioni). Nelle ultime iterazioni cambiano stato: "
+              "nessun nodo e nessun tirante cambia stato");
+    EXPECT_TRUE(dialogo.messaggi.empty());
+    avanzamento.adOgniIterazione = {};
+    p.esegui(Comando::stampaVideo);
+    EXPECT_EQ(finestra.ultimoStato, aperto);
 }
 
 TEST_F(ProgrammaTest, SaysWhichCommandsHaveTheirForm) {

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <QWindow>
+
 #include "analysis/calcolo_paratia.hpp"
 #include "analysis/run_flags.hpp"
 #include "shell/progress_qt.hpp"
@@ -110,15 +112,29 @@ TEST_F(Corsa, EndsWhenTheStopButtonIsPressed) {
     EXPECT_EQ(avanzamento.finestra(), nullptr);
 }
 
-TEST(TempCalcTest, StopsAtEscAndAtItsCloseBoxAndStays) {
-    TempCalc finestra(nullptr);
+TEST(TempCalcTest, StopsAtEscEnterSpaceAndItsCloseBoxAndStays) {
+    for (const auto tasto : {Qt::Key_Escape, Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
+        TempCalc finestra(nullptr);
+        finestra.show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&finestra));
+        int volte = 0;
+        QObject::connect(&finestra, &TempCalc::interruzione, [&] { ++volte; });
+        QTest::keyClick(finestra.focusWidget(), tasto);
+        EXPECT_EQ(volte, 1) << tasto;
+        EXPECT_FALSE(finestra.findChild<QPushButton*>("Command1")->isEnabled());
+        finestra.close();
+        EXPECT_EQ(volte, 2);
+        EXPECT_TRUE(finestra.isVisible());
+    }
+}
+
+TEST(TempCalcTest, BelongsToTheMainForm) {
+    QWidget principale;
+    principale.show();
+    TempCalc finestra(&principale);
     finestra.show();
-    int volte = 0;
-    QObject::connect(&finestra, &TempCalc::interruzione, [&] { ++volte; });
-    QTest::keyClick(&finestra, Qt::Key_Escape);
-    finestra.close();
-    EXPECT_EQ(volte, 2);
-    EXPECT_TRUE(finestra.isVisible());
+    EXPECT_EQ(finestra.windowType(), Qt::Dialog) << "of a plain window desktops know no owner";
+    EXPECT_EQ(finestra.windowHandle()->transientParent(), principale.windowHandle());
 }
 
 TEST(TempCalcTest, KeepsItsButtonOneAndAHalfSizesFromTheCorner) {
