@@ -43,4 +43,9 @@ inline constexpr std::string_view estensioneProgetti = "kvd";
 [[nodiscard]] std::string nomeRecupero(std::string_view percorso,
                                        const std::function<bool(const std::string&)>& esiste);
 
+/// Where the rows of a table go that would be lost: beside `percorso`, "_righe" behind the name up
+/// to its last point, "txt", numbered likewise.
+[[nodiscard]] std::string nomeRighe(std::string_view percorso,
+                                    const std::function<bool(const std::string&)>& esiste);
+
 }  // namespace korven::commands

@@ -4,7 +4,10 @@
 #include <cassert>
 #include <iterator>
 
+#include "base/number_text.hpp"
+#include "base/table.hpp"
 #include "base/translated_texts.hpp"
+#include "commands/fatal_error.hpp"
 #include "project/mask_editing.hpp"
 #include "project/project_data.hpp"
 
@@ -36,13 +39,32 @@ constexpr Editore editori[] = {
     {Comando::editTitoli, senzaI, NumeroMaschera::titoli},
 };
 
+// The form is gone by then, so the rows would be too.
+[[noreturn]] void finisciPerTroppeRighe(NumeroMaschera numero, const project::Maschere& maschere) {
+    const auto righe = base::leggiNumero(maschere.valoriTesto().front()).value_or(0);
+    throw ErroreRighe(static_cast<long>(righe), static_cast<std::size_t>(project::capienza(numero)),
+                      recuperaRighe(project::testoRighe(maschere)));
+}
+
+bool troppeRighe(NumeroMaschera numero, const project::Maschere& maschere) {
+    return project::capienza(numero) > 0 && !maschere.annullato() &&
+           !maschere.valoriTesto().empty() &&
+           base::leggiNumero(maschere.valoriTesto().front()).value_or(0) >
+               project::capienza(numero);
+}
+
 void editaMaschera(NumeroMaschera numero, project::Maschere& maschere,
                    const FormeProgramma& forme) {
     project::preparaMaschera(maschere, numero, Progetto, project::faseGrafico);
-    forme.maschera(maschere);
-    if (!maschere.annullato() &&
-        project::riprendiMaschera(maschere, numero, Progetto, project::faseGrafico))
-        project::modificato = true;
+    try {
+        forme.maschera(maschere);
+        if (!maschere.annullato() &&
+            project::riprendiMaschera(maschere, numero, Progetto, project::faseGrafico))
+            project::modificato = true;
+    } catch (const base::ErroreIndice&) {
+        if (!troppeRighe(numero, maschere)) throw;
+        finisciPerTroppeRighe(numero, maschere);
+    }
     maschere.rilasciaForm();
 }
 

@@ -11,7 +11,8 @@ namespace korven::commands {
 /// project/edited_tables.hpp. The stage that the diagrams draw, a field of the headings' form, is
 /// no part of the project and modifies nothing.
 /// @pre one of the six editing commands, whose form is plugged in
-/// @throws base::ErroreIndice if a table with more rows than it can hold was confirmed
+/// @throws ErroreRighe (fatal_error.hpp) if a table with more rows than it can hold was confirmed;
+///         the rows have then been written beside the project
 void edita(Comando comando, base::Dialogo& dialogo, project::Maschere& maschere,
            const FormeProgramma& forme);
 

@@ -1,6 +1,7 @@
 #include "commands/fatal_error.hpp"
 
 #include <filesystem>
+#include <functional>
 #include <vector>
 
 #include "base/code_page.hpp"
@@ -28,6 +29,29 @@ std::vector<fs::path> cartelleRecupero() {
     return {fs::path(project::fileCorrente).parent_path(), dati, fs::temp_directory_path(errore)};
 }
 
+using NomeLibero = std::string (*)(std::string_view,
+                                   const std::function<bool(const std::string&)>&);
+
+// Into the first folder that takes it; empty where none does.
+std::string recupera(std::string_view byte, NomeLibero nome) {
+    for (const auto& cartella : cartelleRecupero()) {
+        const std::string file = nome(
+            (cartella / fs::path(project::fileCorrente).filename()).string(), base::esisteFile);
+        try {
+            base::scriviFile(file, byte);
+            return file;
+        } catch (const base::ErroreFile&) {
+            continue;  // the next folder may do
+        }
+    }
+    return {};
+}
+
+std::string doveSono(std::string_view cosa, std::string_view altrimenti, const std::string& file) {
+    if (file.empty()) return "\n" + base::traduttore(altrimenti);
+    return "\n" + base::traduttore(cosa) + ": " + file;
+}
+
 }  // namespace
 
 std::string spiegazione(const std::exception& errore) {
@@ -39,27 +63,24 @@ std::string spiegazione(const std::exception& errore) {
 
 std::string recuperaProgetto() {
     if (!project::modificato || project::fileCorrente.empty()) return {};
-    for (const auto& cartella : cartelleRecupero()) {
-        const std::string file = nomeRecupero(
-            (cartella / fs::path(project::fileCorrente).filename()).string(), base::esisteFile);
-        try {
-            base::scriviFile(file, base::inCp1252(project::testoProgetto(project::Progetto)));
-            return file;
-        } catch (const base::ErroreFile&) {
-            continue;  // the next folder may do
-        }
-    }
-    return {};
+    return recupera(base::inCp1252(project::testoProgetto(project::Progetto)), nomeRecupero);
+}
+
+std::string recuperaRighe(std::string_view righe) {
+    return recupera(base::inCp1252(righe), nomeRighe);
 }
 
 std::string testoFine(const std::exception& errore, const std::string& recuperato) {
     std::string testo =
         spiegazione(errore) + "\n\n" + base::traduttore("Il programma viene chiuso.");
-    if (!recuperato.empty())
-        return testo + "\n" + base::traduttore("Le modifiche non salvate sono state messe in") +
-               ": " + recuperato;
-    if (!project::modificato) return testo;
-    return testo + "\n" + base::traduttore("Non è stato possibile salvare le modifiche.");
+    if (const auto* righe = dynamic_cast<const ErroreRighe*>(&errore); righe != nullptr)
+        testo += doveSono("Le righe scritte nella tabella sono state messe in",
+                          "Non è stato possibile salvare le righe scritte nella tabella.",
+                          righe->file());
+    if (!recuperato.empty() || project::modificato)
+        testo += doveSono("Le modifiche non salvate sono state messe in",
+                          "Non è stato possibile salvare le modifiche.", recuperato);
+    return testo;
 }
 
 }  // namespace korven::commands

@@ -33,6 +33,12 @@ bool CelleGriglia::haDati(int riga) const {
     return false;
 }
 
+int CelleGriglia::righeConDati() const {
+    int quante = 0;
+    for (int r = 1; r <= righe; ++r) quante += haDati(r) ? 1 : 0;
+    return quante;
+}
+
 bool CelleGriglia::haVuoti(int riga) const {
     for (int c = 1; c <= colonne_; ++c)
         if (!piena(riga, c)) return true;

@@ -22,6 +22,8 @@ class CelleGriglia {
     /// True when the cell is neither empty nor blank.
     [[nodiscard]] bool piena(int riga, int colonna) const;
     [[nodiscard]] bool haDati(int riga) const;
+    /// Number of rows with data: how many a confirmed table has.
+    [[nodiscard]] int righeConDati() const;
     /// True when a cell of the row is empty or blank.
     [[nodiscard]] bool haVuoti(int riga) const;
     /// The last row with data, searched from the bottom up to row `fino`; 0 when there is none.
@@ -44,6 +46,8 @@ class CelleGriglia {
     /// Text for the clipboard: cells parted by tabs, rows by CR LF. Row 1 to the last row with data
     /// from `riga` down; when nothing stands there, the rows above `riga`.
     [[nodiscard]] std::string copia(int riga) const;
+
+    bool operator==(const CelleGriglia&) const = default;
 
  private:
     [[nodiscard]] std::size_t posto(int riga, int colonna) const;

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/code_page.hpp"
+#include "base/number_reading.hpp"
 #include "base/number_text.hpp"
 #include "base/table.hpp"
 #include "base/translated_texts.hpp"
@@ -18,8 +19,12 @@ AzioneGriglia azionePulsante(const Maschera& maschera, std::size_t indice) {
     return indice < note ? prime[indice] : AzioneGriglia::guida;
 }
 
-GridModel::GridModel(const Maschera& maschera, const std::vector<std::string>& testi)
-    : maschera_(maschera), titolo_(maschera.titolo), celle_(maschera.nCampi() - 1) {
+GridModel::GridModel(const Maschera& maschera, const std::vector<std::string>& testi, int capienza)
+    : maschera_(maschera),
+      titolo_(maschera.titolo),
+      capienza_(capienza),
+      celle_(maschera.nCampi() - 1),
+      iniziali_(celle_) {
     if (testi.empty()) return;
     const auto barra = testi[0].find('|');
     if (barra != std::string::npos) titolo_ = testi[0].substr(barra + 1);
@@ -30,7 +35,29 @@ GridModel::GridModel(const Maschera& maschera, const std::vector<std::string>& t
     for (int r = 1; r <= static_cast<int>(scritte); ++r)
         for (int c = 1; c <= colonne() && prossimo < testi.size(); ++c)
             celle_.scrivi(r, c, base::senzaSpaziEsterni(testi[prossimo++]));
+    iniziali_ = celle_;
     entra({1, 1});
+}
+
+std::string GridModel::righeDiTroppo() const {
+    const int righe = celle_.righeConDati();
+    if (righe <= capienza_) return {};
+    return base::traduttore("righe scritte") + ": " + std::to_string(righe) + ", " +
+           base::traduttore("capienza della tabella") + ": " + std::to_string(capienza_);
+}
+
+std::string GridModel::titolo() const {
+    const std::string troppe = righeDiTroppo();
+    return troppe.empty() ? titolo_ : titolo_ + " - " + troppe;
+}
+
+std::string GridModel::eccesso() const {
+    const std::string troppe = righeDiTroppo();
+    if (troppe.empty()) return {};
+    return troppe + ". " +
+           base::traduttore(
+               "Eliminate le righe di troppo: con la conferma il programma le scrive "
+               "in un file di testo e viene chiuso.");
 }
 
 const CampoMaschera& GridModel::colonna(int numero) const {
@@ -60,6 +87,7 @@ void GridModel::entra(PostoGriglia posto) {
     corrente_ = posto;
     allIngresso_ = cella();
     primoCarattere_ = true;
+    testoScelto_ = false;
 }
 
 bool GridModel::validazionedati(base::Dialogo& dialogo) {
@@ -70,6 +98,9 @@ bool GridModel::validazionedati(base::Dialogo& dialogo) {
     segnala(vizio, campo, campo.etichetta, "\r\n", dialogo);
     if (vizio == Vizio::lunghezza)
         scriviCella(tagliato(cella(), tipoColonna(campo.tipo).lunghezza));
+    // The cursor is put back on the cell as if it had just been entered, but for what Esc restores.
+    primoCarattere_ = true;
+    testoScelto_ = true;
     return false;
 }
 
@@ -110,12 +141,14 @@ void GridModel::batti(std::string_view carattere, bool sostituisce) {
     scriviCella(sostituisce && primoCarattere_ ? std::string(carattere)
                                                : cella() + std::string(carattere));
     primoCarattere_ = false;
+    testoScelto_ = false;
 }
 
 void GridModel::togliUltimo() {
     const std::size_t caratteri = base::numeroCaratteri(cella());
     if (caratteri > 0) scriviCella(tagliato(cella(), caratteri - 1));
     primoCarattere_ = false;
+    testoScelto_ = false;
 }
 
 void GridModel::premi(Tasto tasto, std::string_view carattere, base::Dialogo& dialogo) {
@@ -137,6 +170,7 @@ void GridModel::premi(Tasto tasto, std::string_view carattere, base::Dialogo& di
         case Tasto::esc:
             scriviCella(allIngresso_);
             primoCarattere_ = true;
+            testoScelto_ = false;
             return;
         case Tasto::invio:
             return avanza(dialogo);
@@ -162,6 +196,7 @@ void GridModel::premi(Tasto tasto, std::string_view carattere, base::Dialogo& di
 void GridModel::apriEditore() {
     if (editoreAperto_ || soloLettura(corrente_.colonna)) return;
     editoreAperto_ = true;
+    testoScelto_ = false;
     testoEditore_ = cella();
 }
 
@@ -170,6 +205,11 @@ void GridModel::chiudiEditore(bool scrivi) {
     editoreAperto_ = false;
     if (scrivi) scriviCella(testoEditore_);
     primoCarattere_ = true;
+}
+
+std::string GridModel::lettura() const {
+    if (!numerica(corrente_.colonna)) return {};
+    return base::letturaMostrata(editoreAperto_ ? testoEditore_ : cella());
 }
 
 std::string GridModel::aiuto() const { return aiutoMostrato(colonna(corrente_.colonna).aiuto); }
@@ -187,6 +227,19 @@ void GridModel::inserisciRiga(base::Dialogo& dialogo) {
 void GridModel::eliminaRiga() {
     chiudiEditore(false);
     if (celle_.elimina(corrente_.riga)) entra(corrente_);
+}
+
+bool GridModel::cambiata() const {
+    return celle_ != iniziali_ || (editoreAperto_ && testoEditore_ != cella());
+}
+
+bool GridModel::siPuoLasciare(base::Dialogo& dialogo) const {
+    if (!cambiata()) return true;
+    return dialogo.domanda(base::traduttore("Le righe sono state modificate. Volete chiudere la "
+                                            "tabella senza conservare le modifiche") +
+                               "?",
+                           base::traduttore("ATTENZIONE") + "!", base::Pulsanti::siNo,
+                           base::Icona::avviso) == base::Risposta::si;
 }
 
 bool GridModel::conferma(base::Dialogo& dialogo) {

@@ -37,11 +37,14 @@ class GridModel {
  public:
     /// @param testi  the number of rows as text, then the cells row after row; what stands behind a
     ///               "|" in the first text replaces the title of the form
+    /// @param capienza  rows that whoever takes the table back can hold; more may be typed
     /// The mask must outlive the model.
     /// @throws base::ErroreIndice for more than 500 rows
-    GridModel(const Maschera& maschera, const std::vector<std::string>& testi);
+    GridModel(const Maschera& maschera, const std::vector<std::string>& testi,
+              int capienza = CelleGriglia::righe);
 
-    [[nodiscard]] const std::string& titolo() const { return titolo_; }
+    /// Title of the form; with the number of rows and the capacity behind it where there are more.
+    [[nodiscard]] std::string titolo() const;
     [[nodiscard]] int colonne() const { return celle_.colonne(); }
     /// Head of a column, 0 for that of the row numbers.
     [[nodiscard]] const std::string& etichetta(int colonna) const;
@@ -85,6 +88,16 @@ class GridModel {
     /// The text of the open editor as it stands after a key.
     void scriviEditore(std::string_view testo) { testoEditore_ = testo; }
 
+    /// True after a box told a fault of the current cell, until it is typed into or left: its text
+    /// is selected, and the first character replaces it.
+    [[nodiscard]] bool testoScelto() const { return testoScelto_ && !editoreAperto_; }
+
+    /// What the strip says above all else where there are more rows than can be taken back: how
+    /// many, how many there may be, and what confirming them does; empty otherwise.
+    [[nodiscard]] std::string eccesso() const;
+    /// What the strip says of the number typed into the current cell where it is read otherwise
+    /// than typed (base/number_reading.hpp); empty otherwise.
+    [[nodiscard]] std::string lettura() const;
     /// Text of the strip: the help of the current column, its keys on a line of their own.
     [[nodiscard]] std::string aiuto() const;
     /// A click on the strip shows its text in a box.
@@ -94,9 +107,11 @@ class GridModel {
     [[nodiscard]] std::string copia() const { return celle_.copia(corrente_.riga); }
 
     /// Ctrl+V or Shift+Insert: writes the text of the clipboard from the current cell to the right
-    /// and downward, after a question. Cells with data are overwritten only after a second one,
-    /// asked once. A bad value leaves its cell empty; each fault of a column is told once. Cells
-    /// beyond the last column are dropped, rows beyond the last one end the paste with a message.
+    /// and downward, after a question. Where numbers have a decimal comma a second question, before
+    /// anything is written, offers to take it as a point. Cells with data are overwritten only
+    /// after one more, asked once. A bad value leaves its cell empty; each fault of a column is
+    /// told once. Cells beyond the last column are dropped, rows beyond the last one end the paste
+    /// with a message.
     void incolla(std::string_view testo, base::Dialogo& dialogo);
 
     /// Inserts an empty row at the current one; a bad current cell is told and nothing happens.
@@ -108,6 +123,11 @@ class GridModel {
     /// empty cells where the kind of the mask wants it. "No" to "will you look at them" closes.
     /// @return true when the form closes and hands back `valoriTesto`
     bool conferma(base::Dialogo& dialogo);
+    /// True when a cell, or the open editor, holds another text than at the beginning.
+    [[nodiscard]] bool cambiata() const;
+    /// The form is to be left without confirming: asks where rows were changed.
+    /// @return true when the form may close
+    [[nodiscard]] bool siPuoLasciare(base::Dialogo& dialogo) const;
     /// The number of rows that have data, then their cells.
     [[nodiscard]] std::vector<std::string> valoriTesto() const { return celle_.impacchettate(); }
 
@@ -118,15 +138,19 @@ class GridModel {
     void entra(PostoGriglia posto);
     bool validazionedati(base::Dialogo& dialogo);
     void chiudiEditore(bool scrivi);
+    [[nodiscard]] std::string righeDiTroppo() const;
     void batti(std::string_view carattere, bool sostituisce);
     void togliUltimo();
 
     const Maschera& maschera_;
     std::string titolo_;
+    int capienza_;
     CelleGriglia celle_;
+    CelleGriglia iniziali_;
     PostoGriglia corrente_;
     std::string allIngresso_;     // the current cell's text when it was entered
     bool primoCarattere_ = true;  // nothing has been typed into it yet
+    bool testoScelto_ = false;
     bool editoreAperto_ = false;
     std::string testoEditore_;
 };

@@ -17,11 +17,15 @@ using Testi = std::vector<std::string>;
 struct Editore {
     Testi (*testi)(const DatiProgetto&);
     bool (*riprendi)(DatiProgetto&, const Testi&);
+    int capienza;  // rows; 0 for a form of fields
 };
 
 constexpr Editore editori[] = {
-    {testiTitoli, riprendiTitoli},   {testiParatia, riprendiParatia}, {testiStrati, riprendiStrati},
-    {testiTiranti, riprendiTiranti}, {testiFasi, riprendiFasi},
+    {testiTitoli, riprendiTitoli, 0},
+    {testiParatia, riprendiParatia, 0},
+    {testiStrati, riprendiStrati, massimoStrati},
+    {testiTiranti, riprendiTiranti, massimoTiranti},
+    {testiFasi, riprendiFasi, massimoFasi},
 };
 
 const Editore& editore(NumeroMaschera numero) {
@@ -44,6 +48,16 @@ void preparaMaschera(Maschere& maschere, NumeroMaschera numero, const DatiProget
     int indice = 0;
     for (const auto& testo : editore(numero).testi(dati)) maschere.impostaCampo(++indice, testo);
     if (numero == NumeroMaschera::titoli) maschere.impostaCampo(campoFase, std::to_string(fase));
+}
+
+int capienza(NumeroMaschera numero) { return editore(numero).capienza; }
+
+std::string testoRighe(const Maschere& maschere) {
+    const auto colonne = static_cast<std::size_t>(maschere.corrente().nCampi()) - 1;
+    std::string testo;
+    for (std::size_t i = 1; i < maschere.valoriTesto().size(); ++i)
+        testo.append(maschere.valoriTesto()[i]).append(i % colonne == 0 ? "\r\n" : "\t");
+    return testo;
 }
 
 bool riprendiMaschera(const Maschere& maschere, NumeroMaschera numero, DatiProgetto& dati,

@@ -97,10 +97,10 @@ std::string Maschere::leggiCampo(int indice) const {
 }
 
 void Maschere::conferma(std::vector<double> combo, std::vector<std::string> testi) {
-    controllaCapacita(testi.size());
     valoriCombo_ = std::move(combo);
     valoriTesto_ = std::move(testi);
     annullato_ = false;
+    controllaCapacita(valoriTesto_.size());
 }
 
 void Maschere::rilasciaForm() {

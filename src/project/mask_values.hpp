@@ -40,6 +40,8 @@ class Maschere {
 
     /// The current mask. @pre one is selected
     [[nodiscard]] const Maschera& corrente() const;
+    /// Number of the current mask, from 1. @pre one is selected
+    [[nodiscard]] int numero() const { return static_cast<int>(corrente_.value()) + 1; }
 
     /// Sets field `indice`, from 1 over all fields of the current mask. Up to the number of choices
     /// the text is a code, of which code - 1 is kept, 0 for a code of 0 or less: code 1 is the
@@ -52,7 +54,8 @@ class Maschere {
     [[nodiscard]] std::string leggiCampo(int indice) const;
 
     /// Takes over what a confirmed form hands back.
-    /// @throws base::ErroreIndice beyond the capacity of the list
+    /// @throws base::ErroreIndice beyond the capacity of the list; the texts are taken all the
+    ///         same, so that they can be rescued
     void conferma(std::vector<double> combo, std::vector<std::string> testi);
 
     /// Ends the work with the current mask and empties its values.

@@ -20,9 +20,9 @@ constexpr int larghezzaMinima = 400;
 }  // namespace
 
 Base2_32::Base2_32(const project::Maschera& maschera, const std::vector<std::string>& testi,
-                   base::Dialogo& dialogo, GuidaForme guida, QWidget* padre)
+                   base::Dialogo& dialogo, GuidaForme guida, QWidget* padre, int capienza)
     : MaskForm(maschera, dialogo, std::move(guida), QStringLiteral("base2_32"), padre),
-      modello_(maschera, testi) {
+      modello_(maschera, testi, capienza) {
     setWindowTitle(qt(modello_.titolo()));
     QStringList aiuti;
     for (const auto& colonna : maschera.campi) aiuti << qt(project::aiutoMostrato(colonna.aiuto));
@@ -30,7 +30,7 @@ Base2_32::Base2_32(const project::Maschera& maschera, const std::vector<std::str
         aiuti, [this] { modello_.mostraAiuto(this->dialogo()); }, this);
     aiuto_->setObjectName(QStringLiteral("Label1"));
     griglia_ = new GridView(
-        modello_, dialogo, [this] { aiuto_->mostra(qt(modello_.aiuto())); }, this);
+        modello_, dialogo, [this] { spiega(); }, this);
     auto* colonna = new QVBoxLayout(this);
     colonna->addWidget(griglia_, 1);
     colonna->addWidget(aiuto_);
@@ -54,13 +54,25 @@ void Base2_32::keyPressEvent(QKeyEvent* evento) {
         MaskForm::keyPressEvent(evento);
 }
 
+void Base2_32::spiega() {
+    setWindowTitle(qt(modello_.titolo()));
+    QStringList note;
+    for (const std::string& nota : {modello_.eccesso(), modello_.lettura()})
+        if (!nota.empty()) note << qt(nota);
+    aiuto_->mostra(qt(modello_.aiuto()), note.join(QLatin1Char('\n')));
+}
+
+void Base2_32::reject() {
+    if (modello_.siPuoLasciare(dialogo())) MaskForm::reject();
+}
+
 void Base2_32::azione(std::size_t pulsante) {
     switch (project::azionePulsante(maschera(), pulsante)) {
         case project::AzioneGriglia::conferma:
             if (modello_.conferma(dialogo())) return accept();
             break;
         case project::AzioneGriglia::annulla:
-            return reject();
+            return MaskForm::reject();
         case project::AzioneGriglia::inserisciRiga:
             modello_.inserisciRiga(dialogo());
             break;

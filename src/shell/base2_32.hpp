@@ -21,15 +21,21 @@ class Base2_32 : public MaskForm {
     /// The arguments are those of `GridModel` and `MaskForm`.
     /// @throws base::ErroreIndice for more than 500 rows
     Base2_32(const project::Maschera& maschera, const std::vector<std::string>& testi,
-             base::Dialogo& dialogo, GuidaForme guida, QWidget* padre);
+             base::Dialogo& dialogo, GuidaForme guida, QWidget* padre,
+             int capienza = project::CelleGriglia::righe);
 
     [[nodiscard]] const project::GridModel& modello() const { return modello_; }
+
+    /// Esc and the close box: rows that were changed are asked about. The cancel button just
+    /// closes.
+    void reject() override;
 
  protected:
     void keyPressEvent(QKeyEvent* evento) override;
 
  private:
     void azione(std::size_t pulsante);
+    void spiega();
 
     project::GridModel modello_;
     GridView* griglia_ = nullptr;

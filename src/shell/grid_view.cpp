@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPainter>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
 #include <QVBoxLayout>
@@ -25,11 +26,32 @@ using project::Tasto;
 
 namespace {
 
-// Of a text that is being typed and has no room the end is shown.
+// Of a text that is being typed and has no room the end is shown. A text that is selected, as a box
+// leaves it that told its fault, is marked as in a line of text: it alone, not its whole cell.
 class Cella : public QStyledItemDelegate {
  public:
-    Cella(const QTableView& griglia, const bool& scrivendo, QObject* padre)
-        : QStyledItemDelegate(padre), griglia_(griglia), scrivendo_(scrivendo) {}
+    Cella(const QTableView& griglia, const project::GridModel& modello, const bool& scrivendo,
+          QObject* padre)
+        : QStyledItemDelegate(padre), griglia_(griglia), modello_(modello), scrivendo_(scrivendo) {}
+
+    void paint(QPainter* pittore, const QStyleOptionViewItem& opzione,
+               const QModelIndex& indice) const override {
+        if (!modello_.testoScelto() || indice != griglia_.currentIndex())
+            return QStyledItemDelegate::paint(pittore, opzione, indice);
+        const QPalette& tinte = opzione.palette;
+        pittore->fillRect(opzione.rect, tinte.base());
+        pittore->setPen(tinte.color(QPalette::Highlight));
+        pittore->drawRect(opzione.rect.adjusted(0, 0, -1, -1));
+        constexpr int margine = 3;
+        const QRect posto = opzione.rect.adjusted(margine, 1, -margine, -1);
+        const int verso = indice.data(Qt::TextAlignmentRole).toInt();
+        const QString testo =
+            opzione.fontMetrics.elidedText(indice.data().toString(), Qt::ElideRight, posto.width());
+        pittore->fillRect(opzione.fontMetrics.boundingRect(posto, verso, testo) & posto,
+                          tinte.highlight());
+        pittore->setPen(tinte.color(QPalette::HighlightedText));
+        pittore->drawText(posto, verso, testo);
+    }
 
  protected:
     void initStyleOption(QStyleOptionViewItem* opzione, const QModelIndex& indice) const override {
@@ -39,6 +61,7 @@ class Cella : public QStyledItemDelegate {
 
  private:
     const QTableView& griglia_;
+    const project::GridModel& modello_;
     const bool& scrivendo_;
 };
 
@@ -55,7 +78,7 @@ GridView::GridView(project::GridModel& modello, base::Dialogo& dialogo,
     setObjectName(QStringLiteral("MSFlexGrid1"));
     setAccessibleName(qt(modello.titolo()));
     setModel(tabella_);
-    setItemDelegate(new Cella(*this, scrivendo_, this));
+    setItemDelegate(new Cella(*this, modello, scrivendo_, this));
     setEditTriggers(NoEditTriggers);
     setSelectionMode(SingleSelection);
     setHorizontalScrollMode(ScrollPerPixel);
@@ -72,8 +95,10 @@ GridView::GridView(project::GridModel& modello, base::Dialogo& dialogo,
     editore_->setObjectName(QStringLiteral("Text1"));
     editore_->hide();
     editore_->installEventFilter(this);
-    connect(editore_, &QLineEdit::textChanged, this,
-            [this](const QString& testo) { modello_.scriviEditore(testo.toStdString()); });
+    connect(editore_, &QLineEdit::textChanged, this, [this](const QString& testo) {
+        modello_.scriviEditore(testo.toStdString());
+        cambiato_();
+    });
     connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this] { mostraEditore(); });
     // Aids for those who can't see move the cursor in this way.
     connect(selectionModel(), &QItemSelectionModel::currentChanged, this,

@@ -1,5 +1,6 @@
 #include "shell/mask_forms.hpp"
 
+#include "project/mask_editing.hpp"
 #include "shell/base1.hpp"
 #include "shell/base2_32.hpp"
 
@@ -15,7 +16,8 @@ void mostraForm(project::Maschere& maschere, base::Dialogo& dialogo, const Guida
             maschere.conferma(forma.modello().valoriCombo(), forma.modello().valoriTesto());
         return;
     }
-    Base2_32 forma(maschera, maschere.valoriTesto(), dialogo, guida, padre);
+    const int capienza = project::capienza(static_cast<project::NumeroMaschera>(maschere.numero()));
+    Base2_32 forma(maschera, maschere.valoriTesto(), dialogo, guida, padre, capienza);
     if (forma.exec() == QDialog::Accepted) maschere.conferma({}, forma.modello().valoriTesto());
 }
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "base/table.hpp"
+#include "commands/fatal_error.hpp"
 #include "project/edited_tables.hpp"
 #include "support/document_ports.hpp"
 #include "support/plain_masks.hpp"
@@ -160,6 +161,30 @@ TEST_F(Edita, TakesAMissingOrUnreadableStageForAll) {
 TEST_F(Edita, EndsOnMoreRowsThanTheTableHolds) {
     confermati = Testi{"101"};
     EXPECT_THROW(esegui(Comando::editStratigrafia), base::ErroreIndice);
+}
+
+TEST_F(Edita, WritesTheRowsThatATableDoesNotHoldBesideTheProjectBeforeItEnds) {
+    const test::CartellaProvvisoria lavori;
+    project::fileCorrente = lavori / "muro.kvd";
+    // 21 rows fit the list of values from the beginning, 300 only from the second form on.
+    for (const int righe : {21, 300}) {
+        confermati = Testi{std::to_string(righe)};
+        std::string attese;
+        for (int i = 1; i <= righe; ++i) {
+            for (const char* cella : {"5", "0", "", "x"}) confermati->emplace_back(cella);
+            attese += "5\t0\t\tx\r\n";
+        }
+        try {
+            esegui(Comando::editFasi);
+            FAIL() << "no end at " << righe;
+        } catch (const ErroreRighe& errore) {
+            EXPECT_EQ(errore.indice(), righe);
+            EXPECT_EQ(errore.capacita(), 20U);
+            EXPECT_EQ(test::contenuto(errore.file()), attese);
+        }
+    }
+    EXPECT_EQ(Progetto, test::progettoSemplice());
+    EXPECT_FALSE(modificato);
 }
 
 }  // namespace

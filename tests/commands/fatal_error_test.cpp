@@ -91,5 +91,24 @@ TEST_F(Recupero, TellsOfATableThatIsTooSmallInTheUsersWords) {
     EXPECT_EQ(spiegazione(base::ErroreIndice("troppi testi")), "troppi testi");
 }
 
+TEST_F(Recupero, WritesTypedRowsBesideTheProjectAndTellsWhere) {
+    const std::string file = recuperaRighe("1\tà\r\n");
+    EXPECT_EQ(file, ambiente.lavori / "muro_righe.txt");
+    EXPECT_EQ(test::contenuto(file), "1\t\xE0\r\n");
+    EXPECT_EQ(recuperaRighe(""), ambiente.lavori / "muro_righe_2.txt");
+    modificato = false;
+    EXPECT_EQ(testoFine(ErroreRighe(105, 100, file), ""),
+              "i dati chiedono più righe di quante ne tiene una tabella (105 > 100)\n\n"
+              "Il programma viene chiuso.\n"
+              "Le righe scritte nella tabella sono state messe in: " +
+                  file);
+    EXPECT_TRUE(testoFine(ErroreRighe(105, 100, ""), "")
+                    .ends_with("\nNon è stato possibile salvare le righe scritte nella tabella."));
+    modificato = true;
+    EXPECT_TRUE(testoFine(ErroreRighe(105, 100, file), "/lavori/muro_recuperato.kvd")
+                    .ends_with("_righe.txt\nLe modifiche non salvate sono state messe in: "
+                               "/lavori/muro_recuperato.kvd"));
+}
+
 }  // namespace
 }  // namespace korven::commands

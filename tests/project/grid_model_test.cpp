@@ -309,5 +309,82 @@ TEST(AzionePulsante, FollowsTheKindOfTheMask) {
               (std::vector<AzioneGriglia>{conferma, annulla, guida, guida, guida, guida}));
 }
 
+TEST_F(ModelloGriglia, TellsWhatANumberIsReadAsWhileItIsTyped) {
+    EXPECT_EQ(modello.lettura(), "");
+    scrivi("20,5");
+    EXPECT_EQ(modello.lettura(), "letto come 20: il segno decimale è il punto");
+    premi(Tasto::esc);
+    EXPECT_EQ(modello.lettura(), "");
+    premi(Tasto::f2);
+    modello.scriviEditore("20.5.7");
+    EXPECT_EQ(modello.lettura(), "letto come 20.5");
+    premi(Tasto::esc);
+    modello.vaiA({1, 3}, dialogo);
+    scrivi("1,5");
+    EXPECT_EQ(modello.lettura(), "") << "a text";
+}
+
+TEST_F(ModelloGriglia, SelectsTheTextOfACellWhoseFaultABoxTold) {
+    scrivi("999");
+    EXPECT_FALSE(modello.testoScelto());
+    premi(Tasto::invio);
+    ASSERT_EQ(dialogo.messaggi.size(), 1u);
+    EXPECT_TRUE(modello.testoScelto());
+    EXPECT_EQ(cella(), "999");
+    scrivi("7");
+    EXPECT_EQ(cella(), "7") << "replaced";
+    EXPECT_FALSE(modello.testoScelto());
+    scrivi("77");
+    premi(Tasto::giu);
+    EXPECT_TRUE(modello.testoScelto());
+    premi(Tasto::esc);
+    EXPECT_EQ(cella(), "3") << "the text on entry";
+    EXPECT_FALSE(modello.testoScelto());
+}
+
+TEST_F(ModelloGriglia, KnowsWhetherItsRowsWereChanged) {
+    EXPECT_FALSE(modello.cambiata());
+    premi(Tasto::f2);
+    EXPECT_FALSE(modello.cambiata());
+    modello.scriviEditore("33");
+    EXPECT_TRUE(modello.cambiata());
+    premi(Tasto::esc);
+    EXPECT_FALSE(modello.cambiata());
+    scrivi("4");
+    EXPECT_TRUE(modello.cambiata());
+    premi(Tasto::esc);
+    EXPECT_FALSE(modello.cambiata()) << "as it was";
+}
+
+TEST_F(ModelloGriglia, AsksBeforeChangedRowsAreThrownAway) {
+    EXPECT_TRUE(modello.siPuoLasciare(dialogo));
+    EXPECT_TRUE(dialogo.domande.empty());
+    scrivi("4");
+    dialogo.risposte = {Risposta::no, Risposta::si};
+    EXPECT_FALSE(modello.siPuoLasciare(dialogo));
+    EXPECT_TRUE(modello.siPuoLasciare(dialogo));
+    EXPECT_FALSE(modello.siPuoLasciare(dialogo)) << "nobody answers";
+    EXPECT_EQ(dialogo.domande[0],
+              (test::DialogRecord::Box{"Le righe sono state modificate. Volete chiudere la tabella "
+                                       "senza conservare le modifiche?",
+                                       "ATTENZIONE!", base::Icona::avviso}));
+}
+
+TEST(CapienzaGriglia, IsToldInTitleAndStripFromTheFirstRowAboveIt) {
+    const Maschera maschera = test::mascheraGriglia();
+    test::DialogScript dialogo;
+    GridModel modello(maschera, {"2", "1", "", "", "", "2", "", "", ""}, 2);
+    EXPECT_EQ(modello.titolo(), "Tabella");
+    EXPECT_EQ(modello.eccesso(), "");
+    modello.vaiA({5, 1}, dialogo);
+    modello.premi(Tasto::carattere, "3", dialogo);
+    EXPECT_EQ(modello.titolo(), "Tabella - righe scritte: 3, capienza della tabella: 2");
+    EXPECT_EQ(modello.eccesso(),
+              "righe scritte: 3, capienza della tabella: 2. Eliminate le righe di troppo: con la "
+              "conferma il programma le scrive in un file di testo e viene chiuso.");
+    modello.premi(Tasto::backspace, "", dialogo);
+    EXPECT_EQ(modello.eccesso(), "");
+}
+
 }  // namespace
 }  // namespace korven::project

@@ -152,5 +152,13 @@ TEST_F(Modifica, RaisesMoreRowsThanTheProjectHolds) {
     EXPECT_EQ(dati.nTiranti, 0);
 }
 
+TEST(Capienza, IsThatOfTheTablesOfTheProject) {
+    EXPECT_EQ(capienza(NumeroMaschera::titoli), 0);
+    EXPECT_EQ(capienza(NumeroMaschera::paratia), 0);
+    EXPECT_EQ(capienza(NumeroMaschera::strati), 100);
+    EXPECT_EQ(capienza(NumeroMaschera::tiranti), 20);
+    EXPECT_EQ(capienza(NumeroMaschera::fasi), 20);
+}
+
 }  // namespace
 }  // namespace korven::project

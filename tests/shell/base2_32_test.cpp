@@ -200,18 +200,82 @@ TEST_F(FormaGriglia, StaysWhenTheCellIsBad) {
     EXPECT_EQ(cella(1, 1), "3x");
 }
 
-TEST_F(FormaGriglia, IsCancelledByItsButtonAndByClosing) {
-    for (const bool pulsanteAnnulla : {true, false}) {
-        apri();
-        scrivi("999");
-        if (pulsanteAnnulla)
-            premi(1);
-        else
-            forma->close();
-        EXPECT_EQ(forma->result(), QDialog::Rejected);
-        EXPECT_FALSE(forma->isVisible());
-    }
+TEST_F(FormaGriglia, IsCancelledByItsButtonWithoutAQuestion) {
+    apri();
+    scrivi("999");
+    premi(1);
+    EXPECT_EQ(forma->result(), QDialog::Rejected);
+    EXPECT_FALSE(forma->isVisible());
     EXPECT_TRUE(dialogo.messaggi.empty());
+    EXPECT_TRUE(dialogo.domande.empty());
+}
+
+TEST_F(FormaGriglia, AsksAboutChangedRowsAtItsCloseBoxAndAtEscOutsideTheCells) {
+    for (const bool conEsc : {false, true}) {
+        dialogo.domande.clear();
+        apri();
+        const auto lascia = [&] {
+            if (conEsc)
+                QTest::keyClick(&pulsante(0), Qt::Key_Escape);
+            else
+                forma->close();
+        };
+        scrivi("4");
+        dialogo.risposte = {Risposta::no, Risposta::si};
+        lascia();
+        EXPECT_TRUE(forma->isVisible());
+        EXPECT_EQ(cella(1, 1), "4");
+        lascia();
+        EXPECT_FALSE(forma->isVisible());
+        EXPECT_EQ(forma->result(), QDialog::Rejected);
+        EXPECT_EQ(dialogo.domande.size(), 2U);
+        apri();
+        lascia();
+        EXPECT_FALSE(forma->isVisible()) << "nothing was changed";
+        EXPECT_EQ(dialogo.domande.size(), 2U);
+    }
+}
+
+TEST_F(FormaGriglia, SaysInTitleAndStripThatThereAreTooManyRows) {
+    capienza = 2;
+    apri();
+    EXPECT_EQ(forma->windowTitle(), "Tabella");
+    clic(3, 1);
+    scrivi("9");
+    EXPECT_EQ(forma->windowTitle(), "Tabella - righe scritte: 3, capienza della tabella: 2");
+    EXPECT_TRUE(striscia().text().startsWith("righe scritte: 3, capienza della tabella: 2."));
+    premi(3);
+    EXPECT_EQ(forma->windowTitle(), "Tabella");
+    EXPECT_EQ(striscia().text(), "la profondità");
+}
+
+TEST_F(FormaGriglia, TellsWhatANumberIsReadAsWhileItIsTyped) {
+    apri();
+    scrivi("20,5");
+    EXPECT_EQ(striscia().text(), "letto come 20: il segno decimale è il punto\nla profondità");
+    tasto(Qt::Key_F2);
+    QTest::keyClicks(&editore(), ".7");
+    EXPECT_EQ(striscia().text(), "letto come 20: il segno decimale è il punto\nla profondità");
+    tasto(Qt::Key_Escape);
+    tasto(Qt::Key_Escape);
+    EXPECT_EQ(striscia().text(), "la profondità");
+}
+
+TEST_F(FormaGriglia, MarksTheTextOfACellBehindABox) {
+    apri();
+    const auto foto = [&] { return griglia().viewport()->grab().toImage(); };
+    scrivi("999");
+    const QRect posto = griglia().visualRect(griglia().currentIndex());
+    const auto tinta = [&](QPoint dove) { return foto().pixelColor(dove); };
+    const QColor base = griglia().palette().color(QPalette::Active, QPalette::Base);
+    const QPoint sinistra(posto.left() + 4, posto.center().y());
+    EXPECT_NE(tinta(sinistra), base) << "the whole cell";
+    tasto(Qt::Key_Return);
+    ASSERT_EQ(dialogo.messaggi.size(), 1U);
+    EXPECT_EQ(tinta(sinistra), base) << "the text alone";
+    scrivi("8");
+    EXPECT_EQ(cella(1, 1), "8");
+    EXPECT_NE(tinta(sinistra), base);
 }
 
 TEST_F(FormaGriglia, InsertsARowInsideTheData) {

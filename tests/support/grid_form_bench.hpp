@@ -32,7 +32,7 @@ class BancoGriglia : public ::testing::Test {
                 if (cHeGuida) aperti.push_back(contesto);
                 return cHeGuida;
             },
-            nullptr);
+            nullptr, capienza);
         forma->show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(forma.get()));
     }
@@ -75,6 +75,7 @@ class BancoGriglia : public ::testing::Test {
     UtenteNuovo utente;
     project::Maschera maschera = mascheraGriglia();
     DialogScript dialogo;
+    int capienza = project::CelleGriglia::righe;
     bool cHeGuida = true;
     std::vector<int> aperti;
     std::unique_ptr<shell::Base2_32> forma;

@@ -124,7 +124,7 @@ const std::map<std::string, Texts> noTexts = {
      {"language.cfg", "texts01.txt", "texts06.txt", "texts32.txt", ": outdoc FILE.TAB\\n",
       "outdoc:"}},
     {"commands/document_names.hpp", {"*.kvd", "kvd"}},
-    {"commands/document_names.cpp", {"KORVEN 32 -", "_recuperato"}},
+    {"commands/document_names.cpp", {"KORVEN 32 -", "_recuperato", "_righe", "txt"}},
     {"commands/example_folders.cpp",
      {"esem", "ita", "exam", "eng", "exem", "fra", "ejem", "esp", "language.cfg", "path", "data"}},
     {"commands/language_start.cpp",
