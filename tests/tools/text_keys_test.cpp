@@ -206,7 +206,7 @@ const std::map<std::string, Texts> noTexts = {
     {"report/report_printer.hpp", {"Arial"}},
     {"shell/form1.cpp", {"Form1", "Liberation Mono"}},
     {"shell/conf_stampa.cpp", {"ConfStampa", "printer.cfg"}},
-    {"shell/editacfg.cpp", {"Editacfg"}},
+    {"shell/editacfg.cpp", {"Editacfg", "Labelhelp"}},
     {"shell/grafica.cpp", {"GRAFICA"}},
     {"shell/grafica_export.cpp",
      {"PDF (*.pdf)", "pdf", "SVG (*.svg)", "svg", "PNG (*.png)", "png", "AutoCAD(*.DXF)", "DXF"}},
