@@ -30,7 +30,7 @@ double massimoAssoluto(const EstremiTaglio& estremi) {
     return std::max(std::abs(estremi.vMin), std::abs(estremi.vMax));
 }
 
-EstremiTaglio estremiTaglio(const project::DatiProgetto& dati, double nTirantiFase,
+EstremiTaglio estremiTaglio(const project::DatiProgetto& dati, int nTirantiFase,
                             const base::Tabella<double, project::massimoTiranti>& yTirante,
                             int nNodi, double passo, const VettoreNodi& yNodo,
                             VettoreNodi& taglioNodo) {

@@ -38,7 +38,7 @@ struct EstremiTaglio {
 /// @param taglioNodo   shear of the stage [t/m]; changed in place at the anchors' nodes
 /// @return vMin 1e30 and vMax -1e30 if there is no node
 [[nodiscard]] EstremiTaglio estremiTaglio(
-    const project::DatiProgetto& dati, double nTirantiFase,
+    const project::DatiProgetto& dati, int nTirantiFase,
     const base::Tabella<double, project::massimoTiranti>& yTirante, int nNodi, double passo,
     const VettoreNodi& yNodo, VettoreNodi& taglioNodo);
 

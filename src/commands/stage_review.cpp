@@ -1,6 +1,3 @@
-#include <algorithm>
-
-#include "analysis/anchors_in_place.hpp"
 #include "base/translated_texts.hpp"
 #include "commands/review_list.hpp"
 
@@ -10,19 +7,6 @@ namespace {
 
 using project::DatiProgetto;
 
-// Rows of the table that are not counted may still hold an anchor of an earlier project.
-bool agiscono(const DatiProgetto& dati, int da, int a) {
-    for (int j = da; j <= a; ++j)
-        if (dati.rigTirante[j] != 0 || dati.pretTirante[j] != 0) return true;
-    return false;
-}
-
-std::string_view tirantiDiTroppo(const DatiProgetto& dati, int k) {
-    return agiscono(dati, dati.nTiranti + 1, analysis::tirantiInOpera(dati, k))
-               ? "più tiranti di quelli definiti: agiscono anche righe rimaste oltre il conteggio"
-               : "più tiranti di quelli definiti: gli altri non hanno effetto";
-}
-
 void numeroTiranti(const DatiProgetto& dati, int k, ElencoRilievi& elenco) {
     const double inOpera = dati.tirantiFase[k];
     const auto dici = [&](std::string_view testo) {
@@ -31,7 +15,9 @@ void numeroTiranti(const DatiProgetto& dati, int k, ElencoRilievi& elenco) {
     if (inOpera >= project::massimoTiranti + 1)
         elenco.impedimento(dici("più tiranti di quanti ne tiene la tabella (20)"));
     else if (inOpera > dati.nTiranti)
-        elenco.avviso(dici(tirantiDiTroppo(dati, k)));
+        elenco.avviso(
+            dici("più tiranti di quelli definiti: gli altri non agiscono, definirli nella tabella "
+                 "dei tiranti o correggere il numero"));
     else if (inOpera < 0)
         elenco.avviso(dici("valore negativo"));
     if (!intero(inOpera)) elenco.avviso(dici("il numero di tiranti non è intero"));

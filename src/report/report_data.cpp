@@ -62,9 +62,8 @@ class StoriaTiranti {
 AzioniFase azioniFase(const DatiRelazione& dati, int s, const StoriaTiranti& tiranti) {
     const analysis::RisultatiFase& fase = dati.fasi[static_cast<std::size_t>(s - 1)];
     AzioniFase azioni{tiranti.inOpera(s), tiranti.yTirante, fase.taglioNodo, {}};
-    azioni.estremi =
-        analysis::estremiTaglio(dati.progetto, dati.progetto.tirantiFase[s], azioni.yTirante,
-                                dati.nNodi, dati.passo, fase.yNodo, azioni.taglioNodo);
+    azioni.estremi = analysis::estremiTaglio(dati.progetto, azioni.nTiranti, azioni.yTirante,
+                                             dati.nNodi, dati.passo, fase.yNodo, azioni.taglioNodo);
     return azioni;
 }
 

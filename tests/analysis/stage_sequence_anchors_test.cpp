@@ -171,11 +171,12 @@ TEST_F(TirantiNelleFasi, DeeperThanTheWallChangeNothing) {
     EXPECT_EQ(corsa->yTirante[1], 0);
 }
 
-TEST_F(TirantiNelleFasi, AreTakenFromTheTableWhateverItsCountSays) {
-    dati.nTiranti = 0;  // only the editor holds the two counts together
+TEST_F(TirantiNelleFasi, DoNotActFromRowsThatTheTableDoesNotCount) {
+    dati.nTiranti = 0;  // the row keeps what it held
     dati.tirantiFase[1] = 1;
     calcola();
-    EXPECT_NEAR(sommaMolle() + sommaAcqua(), 10 + 800 * dopo[0].y, 1e-4);
+    EXPECT_EQ(dopo[0].attivi, 0);
+    EXPECT_NEAR(sommaMolle() + sommaAcqua(), 0, 1e-4);
 }
 
 TEST_F(TirantiNelleFasi, BeyondTheTablesRowsEndTheRunWithAnError) {

@@ -4,7 +4,7 @@ from number_text import formatta_numero
 from number_text import formatta_relazione as num
 from project_file import LineReader, leggi_dati
 from section import kind, sezione_valida, side_complete, verifica_taglio
-from stages import FS_AZIONI
+from stages import FS_AZIONI, anchors_in_place
 from wall import anchor_node
 
 COLUMNS = ("sigmaVv", "Ehv", "k0v", "kav", "kpv", "sigmaVm", "Ehm", "k0m", "kam", "kpm",
@@ -56,7 +56,7 @@ class Results:
         self.stages = []
         y = [0.0] * (self.n + 1)
         for stage in range(1, p.nFasi + 1):
-            active, before = int(p.tirantiFase[stage]), int(p.tirantiFase[stage - 1])
+            active, before = anchors_in_place(p, stage), anchors_in_place(p, stage - 1)
             for a in range(before + 1, active + 1):
                 self.yTirante[a] = self._at(y, anchor_node(p.profTirante[a], self.step))
             reader.text()
@@ -72,7 +72,7 @@ class Results:
             low, high = self._shear_extremes(p, active, y, [0.0] + [row[12] for row in rows[1:]])
             self.Vmax = max(abs(low), abs(high))
             p.faldaValle = p.faldaFase[stage]
-        self.active = int(p.tirantiFase[p.nFasi])
+        self.active = anchors_in_place(p, p.nFasi)
         closing = [reader.number() for _ in range(5)]
         self.MRd = [0.0, closing[1], closing[0]]
         self.mMax, self.mMin, self.fs = closing[2], closing[3], closing[4]

@@ -96,9 +96,13 @@ def calcola(p, n_seg, replace_ej, cap, on_start=None, on_stage=None):
     return run
 
 
+def anchors_in_place(p, stage):
+    """How many anchors act in a stage: never a row that the table does not count."""
+    return min(int(p.tirantiFase[stage]), p.nTiranti)
+
+
 def run_stage(p, run, stage, cap):
-    active = int(p.tirantiFase[stage])
-    before = int(p.tirantiFase[stage - 1])
+    active, before = anchors_in_place(p, stage), anchors_in_place(p, stage - 1)
     p.faldaValle = p.faldaFase[stage]
     for a in range(before + 1, active + 1):
         run.yTirante[a] = run.yNodo[anchor_node(p.profTirante[a], run.passoNodi)]
