@@ -23,21 +23,33 @@ SezioneEditata::SezioneEditata(Sezione& sezione, bool& modificato)
         tipo_ = static_cast<RiquadroSezione>(scelto - std::begin(tipiSezione));
     for (std::size_t i = 0; i < numeroCampiSezione; ++i)
         testi_[i] = base::testoNumero(sezione.*campiSezione[i].valore * campiSezione[i].fattore);
+    mostrati_ = testi_;
+}
+
+double SezioneEditata::scritto(std::size_t campo) const {
+    return base::leggiNumero(testi_[campo]).value_or(0) / campiSezione[campo].fattore;
 }
 
 Sezione SezioneEditata::letta() const {
-    Sezione scritta;
-    scritta.*tipiSezione[static_cast<std::size_t>(tipo_)] = true;
+    Sezione editata;
+    editata.*tipiSezione[static_cast<std::size_t>(tipo_)] = true;
+    for (std::size_t i = 0; i < numeroCampiSezione; ++i) {
+        const auto campo = campiSezione[i].valore;
+        editata.*campo = testi_[i] == mostrati_[i] ? sezione_.*campo : scritto(i);
+    }
+    return editata;
+}
+
+bool SezioneEditata::ritorna() const {
     for (std::size_t i = 0; i < numeroCampiSezione; ++i)
-        scritta.*campiSezione[i].valore =
-            base::leggiNumero(testi_[i]).value_or(0) / campiSezione[i].fattore;
-    return scritta;
+        if (scritto(i) != sezione_.*campiSezione[i].valore) return false;
+    return true;
 }
 
 void SezioneEditata::conferma() {
-    const Sezione scritta = letta();
-    if (!(scritta == sezione_)) modificato_ = true;
-    sezione_ = scritta;
+    const Sezione editata = letta();
+    if (!(editata == sezione_) || !ritorna()) modificato_ = true;
+    sezione_ = editata;
 }
 
 }  // namespace korven::project

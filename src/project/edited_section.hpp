@@ -79,19 +79,24 @@ class SezioneEditata {
     /// Any text is taken.
     void scrivi(std::size_t campo, std::string_view testo) { testi_[campo] = testo; }
 
-    /// The section that the form stands for: the numeric prefix of each text, 0 if there is none,
-    /// in the stored unit, whatever its size or sign; one flag true.
+    /// The section that the form stands for: the stored number where the text is the one that was
+    /// shown, else the numeric prefix of the text, 0 if there is none, in the stored unit, whatever
+    /// its size or sign; one flag true.
     [[nodiscard]] Sezione letta() const;
 
     /// Stores all fields and flags. `modificato` becomes true if one of them changes, and else
-    /// stays. A stored number that does not come back from its text counts as a change.
+    /// stays. A stored number that would not come back from its text counts as a change too, though
+    /// it is kept.
     void conferma();
 
  private:
+    [[nodiscard]] double scritto(std::size_t campo) const;
+    [[nodiscard]] bool ritorna() const;  // all numbers come back from their texts
+
     Sezione& sezione_;
     bool& modificato_;
     RiquadroSezione tipo_ = RiquadroSezione::diaframma;
-    std::array<std::string, numeroCampiSezione> testi_;
+    std::array<std::string, numeroCampiSezione> testi_, mostrati_;
 };
 
 }  // namespace korven::project

@@ -1,7 +1,10 @@
 #include "project/edited_tables.hpp"
 
+#include <iterator>
+#include <string_view>
 #include <utility>
 
+#include "base/code_page.hpp"
 #include "base/number_text.hpp"
 
 namespace korven::project {
@@ -26,27 +29,74 @@ constexpr CampoEditato campiEditati[] = {
     {&DatiProgetto::faldaMonte, 1},      {&DatiProgetto::gammaAcqua, 1},
 };
 
-// Hands out the texts of an editor one after the other.
-class Testi {
- public:
-    explicit Testi(const std::vector<std::string>& testi) : testi_(testi) {}
+double letto(const std::string& testo, double fattore) {
+    const double scritto = base::leggiNumero(testo).value_or(0);
+    return fattore == 1 ? scritto : scritto / fattore;
+}
 
-    std::string testo() { return prossimo_ < testi_.size() ? testi_[prossimo_++] : std::string(); }
-    double numero(double fattore = 1) {
-        const double scritto = base::leggiNumero(testo()).value_or(0);
-        return fattore == 1 ? scritto : scritto / fattore;
-    }
+bool stesso(std::string_view uno, std::string_view altro) {
+    return base::senzaSpaziEsterni(uno) == base::senzaSpaziEsterni(altro);
+}
+
+// Takes the texts of a table editor back, cell after cell. A cell that reads as one that was shown
+// gives back the value behind it, with all its digits: ten times a number and its tenth need not be
+// the same double, and a form shows no more than fifteen digits.
+class Ripresa {
+ public:
+    using Mostra = std::vector<std::string> (*)(const DatiProgetto&);
+
+    Ripresa(DatiProgetto& dati, const std::vector<std::string>& testi, Mostra mostra, int colonne)
+        : dati_(dati),
+          prima_(dati),
+          testi_(testi),
+          mostrati_(mostra(dati)),
+          colonne_(static_cast<std::size_t>(colonne)) {}
+
     // More rows than the table holds end the program, before anything of the project has changed.
-    int righe(int capacita) {
-        const double scritte = numero();
+    [[nodiscard]] int righe(int capacita) const {
+        const double scritte = testi_.empty() ? 0 : letto(testi_[0], 1);
         if (scritte > capacita)
             throw base::ErroreIndice(capacita + 1, static_cast<std::size_t>(capacita));
         return scritte > 0 ? static_cast<int>(scritte) : 0;
     }
 
+    // The next cell, of row `riga`.
+    template <class Colonna>
+    Ripresa& numero(Colonna DatiProgetto::*colonna, int riga, double fattore = 1) {
+        const std::string testo = prossima();
+        const int come = mostrata(testo);
+        (dati_.*colonna)[riga] = come > 0 ? (prima_.*colonna)[come] : letto(testo, fattore);
+        return *this;
+    }
+    template <class Colonna>
+    Ripresa& testo(Colonna DatiProgetto::*colonna, int riga) {
+        const std::string testo = prossima();
+        const int come = mostrata(testo);
+        (dati_.*colonna)[riga] = come > 0 ? (prima_.*colonna)[come] : testo;
+        return *this;
+    }
+
  private:
+    std::string prossima() {
+        ++posto_;
+        return posto_ < testi_.size() ? testi_[posto_] : std::string();
+    }
+    // The row that showed this text in the column of the current cell, its own row before others,
+    // since rows move when one is inserted or taken out; 0 if none did.
+    [[nodiscard]] int mostrata(const std::string& testo) const {
+        if (posto_ < mostrati_.size() && stesso(testo, mostrati_[posto_]))
+            return static_cast<int>((posto_ - 1) / colonne_) + 1;
+        for (std::size_t i = (posto_ - 1) % colonne_ + 1; i < mostrati_.size(); i += colonne_)
+            if (stesso(testo, mostrati_[i])) return static_cast<int>((i - 1) / colonne_) + 1;
+        return 0;
+    }
+
+    DatiProgetto& dati_;
+    const DatiProgetto prima_;
     const std::vector<std::string>& testi_;
-    std::size_t prossimo_ = 0;
+    const std::vector<std::string> mostrati_;
+    std::size_t colonne_;
+    std::size_t posto_ = 0;  // of the current cell; the number of rows stands at 0
 };
 
 // A plain exchange sort, kept plain because of what its exchanges do not move: `scambia` says which
@@ -125,16 +175,17 @@ std::vector<std::string> testiTitoli(const DatiProgetto& dati) {
 }
 
 bool riprendiStrati(DatiProgetto& dati, const std::vector<std::string>& testi) {
-    Testi lista(testi);
-    dati.nStrati = lista.righe(massimoStrati);
+    Ripresa lista(dati, testi, testiStrati, 7);
+    const int prima = std::exchange(dati.nStrati, lista.righe(massimoStrati));
     for (int i = 1; i <= dati.nStrati; ++i) {
-        dati.profStrato[i] = lista.numero();
-        dati.gammaN[i] = lista.numero(10);
-        dati.gammaSat[i] = lista.numero(10);
-        dati.phiStrato[i] = lista.numero();
-        dati.coesione[i] = lista.numero(10);
-        dati.ksStrato[i] = lista.numero(10);
-        dati.descrStrato[i] = lista.testo();
+        if (i > prima) dati.suStrato[i] = 0;
+        lista.numero(&DatiProgetto::profStrato, i)
+            .numero(&DatiProgetto::gammaN, i, 10)
+            .numero(&DatiProgetto::gammaSat, i, 10)
+            .numero(&DatiProgetto::phiStrato, i)
+            .numero(&DatiProgetto::coesione, i, 10)
+            .numero(&DatiProgetto::ksStrato, i, 10)
+            .testo(&DatiProgetto::descrStrato, i);
     }
     ordina(dati.profStrato, dati.nStrati, [&dati](int a, int b) {
         for (auto* colonna : {&dati.profStrato, &dati.gammaN, &dati.gammaSat, &dati.phiStrato,
@@ -146,14 +197,13 @@ bool riprendiStrati(DatiProgetto& dati, const std::vector<std::string>& testi) {
 }
 
 bool riprendiTiranti(DatiProgetto& dati, const std::vector<std::string>& testi) {
-    Testi lista(testi);
+    Ripresa lista(dati, testi, testiTiranti, 4);
     dati.nTiranti = lista.righe(massimoTiranti);
-    for (int i = 1; i <= dati.nTiranti; ++i) {
-        dati.profTirante[i] = lista.numero();
-        dati.rigTirante[i] = lista.numero(10);
-        dati.pretTirante[i] = lista.numero(10);
-        dati.tipoTirante[i] = lista.numero();
-    }
+    for (int i = 1; i <= dati.nTiranti; ++i)
+        lista.numero(&DatiProgetto::profTirante, i)
+            .numero(&DatiProgetto::rigTirante, i, 10)
+            .numero(&DatiProgetto::pretTirante, i, 10)
+            .numero(&DatiProgetto::tipoTirante, i);
     ordina(dati.profTirante, dati.nTiranti, [&dati](int a, int b) {
         for (auto* colonna :
              {&dati.profTirante, &dati.rigTirante, &dati.pretTirante, &dati.tipoTirante})
@@ -163,14 +213,13 @@ bool riprendiTiranti(DatiProgetto& dati, const std::vector<std::string>& testi) 
 }
 
 bool riprendiFasi(DatiProgetto& dati, const std::vector<std::string>& testi) {
-    Testi lista(testi);
+    Ripresa lista(dati, testi, testiFasi, 4);
     dati.nFasi = lista.righe(massimoFasi);
-    for (int i = 1; i <= dati.nFasi; ++i) {
-        dati.profFase[i] = lista.numero();
-        dati.tirantiFase[i] = lista.numero();
-        dati.sovraccFase[i] = lista.numero(10);
-        dati.faldaFase[i] = lista.numero();
-    }
+    for (int i = 1; i <= dati.nFasi; ++i)
+        lista.numero(&DatiProgetto::profFase, i)
+            .numero(&DatiProgetto::tirantiFase, i)
+            .numero(&DatiProgetto::sovraccFase, i, 10)
+            .numero(&DatiProgetto::faldaFase, i);
     ordina(dati.profFase, dati.nFasi, [&dati](int a, int b) {
         std::swap(dati.tirantiFase[a], dati.tirantiFase[b]);
         std::swap(dati.sovraccFase[a], dati.sovraccFase[b]);
@@ -180,10 +229,13 @@ bool riprendiFasi(DatiProgetto& dati, const std::vector<std::string>& testi) {
 }
 
 bool riprendiParatia(DatiProgetto& dati, const std::vector<std::string>& testi) {
-    Testi lista(testi);
+    const std::vector<std::string> mostrati = testiParatia(dati);
     bool diversa = false;
-    for (const auto& [campo, fattore] : campiEditati) {
-        const double valore = lista.numero(fattore);
+    for (std::size_t i = 0; i < std::size(campiEditati); ++i) {
+        const std::string testo = i < testi.size() ? testi[i] : std::string();
+        if (stesso(testo, mostrati[i])) continue;
+        const auto& [campo, fattore] = campiEditati[i];
+        const double valore = letto(testo, fattore);
         diversa = diversa || valore != dati.*campo;
         dati.*campo = valore;
     }
@@ -191,12 +243,12 @@ bool riprendiParatia(DatiProgetto& dati, const std::vector<std::string>& testi) 
 }
 
 bool riprendiTitoli(DatiProgetto& dati, const std::vector<std::string>& testi) {
-    Testi lista(testi);
     bool diversi = false;
-    for (int i = 1; i <= 6; ++i) {
-        const std::string riga = lista.testo();
-        diversi = diversi || riga != dati.titoli[i];
-        dati.titoli[i] = riga;
+    for (std::size_t i = 0; i < 6; ++i) {
+        const std::string riga = i < testi.size() ? testi[i] : std::string();
+        std::string& titolo = dati.titoli[static_cast<long>(i + 1)];
+        diversi = diversi || riga != titolo;
+        titolo = riga;
     }
     return diversi;
 }

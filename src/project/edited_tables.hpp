@@ -12,14 +12,16 @@
 // order of DatiProgetto (the layer table without Su, which no editor shows). Cells that are missing
 // at the end count as empty.
 //
+// A text that is the one that was shown keeps the stored value with all its digits: a form run
+// through without an edit changes no data. In a table that holds wherever the row has moved to.
+//
 // Each function returns whether the project counts as modified by it: where it returns true the
 // caller sets `modificato`, where it returns false `modificato` stays as it was.
 
 namespace korven::project {
 
 /// What the table editors show: the number of rows, then the cells; the plain text of each number
-/// in the unit that the user sees. Taken back unchanged they give the same project, but for digits
-/// beyond the fifteenth.
+/// in the unit that the user sees. Taken back unchanged they give the same project.
 [[nodiscard]] std::vector<std::string> testiStrati(const DatiProgetto& dati);
 [[nodiscard]] std::vector<std::string> testiTiranti(const DatiProgetto& dati);
 [[nodiscard]] std::vector<std::string> testiFasi(const DatiProgetto& dati);
@@ -29,7 +31,8 @@ namespace korven::project {
 [[nodiscard]] std::vector<std::string> testiTitoli(const DatiProgetto& dati);
 
 /// Takes back the soil layers and sorts them by depth; equal depths stay in the order typed. Su has
-/// no column in the editor and stays with its row number when rows are exchanged.
+/// no column in the editor and stays with its row number when rows are exchanged; rows beyond the
+/// count of before start with 0, whatever an earlier table left there.
 /// @return true always: a confirmed table counts as modified, whether anything changed or not
 /// @throws base::ErroreIndice if there are more rows than the table holds
 bool riprendiStrati(DatiProgetto& dati, const std::vector<std::string>& testi);

@@ -128,12 +128,25 @@ TEST(SezioneEditata, LeavesModificatoAloneWhenNothingWasEdited) {
     }
 }
 
-TEST(SezioneEditata, CountsAValueThatIsLostOnTheWayThroughItsTextAsAChange) {
+TEST(SezioneEditata, CountsAValueThatWouldBeLostOnTheWayThroughItsTextAsAChangeAndKeepsIt) {
+    // The text has 15 digits of ten times the first; a tenth of ten times the second is another.
+    for (const double valore : {12.34567890123456789, 0.21}) {
+        Sezione sezione = piena();
+        bool modificato = false;
+        sezione.paliDiamEst = valore;
+        SezioneEditata(sezione, modificato).conferma();
+        EXPECT_TRUE(modificato);
+        EXPECT_EQ(sezione.paliDiamEst, valore);
+    }
+}
+
+TEST(SezioneEditata, ReadsATextThatWasTypedByTheRuleEvenIfItsValueIsNear) {
     Sezione sezione = piena();
     bool modificato = false;
-    sezione.paliDiamEst = 12.34567890123456789;  // the text has 15 digits of ten times this
-    SezioneEditata(sezione, modificato).conferma();
-    EXPECT_TRUE(modificato);
+    sezione.paliDiamEst = 12.34567890123456789;
+    SezioneEditata editata(sezione, modificato);
+    scrivi(editata, &Sezione::paliDiamEst, "123.456789012346 ");
+    editata.conferma();
     EXPECT_EQ(sezione.paliDiamEst, 12.3456789012346);
 }
 

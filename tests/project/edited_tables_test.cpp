@@ -8,6 +8,7 @@ namespace {
 TEST(RiprendiStrati, ConvertsTheShownUnitsAndSortsByDepth) {
     DatiProgetto d;
     azzera(d);
+    d.nStrati = 2;
     d.suStrato[1] = 11;
     d.suStrato[2] = 22;
     riprendiStrati(d, {"2", "8", "19", "21", "34", "5", "30000", "G Ghiaia",  //
@@ -23,6 +24,30 @@ TEST(RiprendiStrati, ConvertsTheShownUnitsAndSortsByDepth) {
     // Su has no column in the editor and stays with its row number.
     EXPECT_EQ(d.suStrato[1], 11);
     EXPECT_EQ(d.suStrato[2], 22);
+}
+
+// What a longer table of before left in a row is not the new layer's.
+TEST(RiprendiStrati, GivesNewRowsNoUndrainedStrength) {
+    DatiProgetto d;
+    azzera(d);
+    d.nStrati = 2;
+    for (int j = 1; j <= 4; ++j) d.suStrato[j] = 11.0 * j;
+    const std::vector<std::string> riga = {"1", "19", "21", "34", "5", "30000", "G Ghiaia"};
+    const auto conRighe = [&riga](int n) {
+        std::vector<std::string> testi = {std::to_string(n)};
+        for (int j = 1; j <= n; ++j) testi.insert(testi.end(), riga.begin(), riga.end());
+        return testi;
+    };
+    riprendiStrati(d, conRighe(3));
+    EXPECT_EQ(d.suStrato[1], 11);
+    EXPECT_EQ(d.suStrato[2], 22);
+    EXPECT_EQ(d.suStrato[3], 0);
+    EXPECT_EQ(d.suStrato[4], 44);  // beyond the count the table keeps what it held
+    riprendiStrati(d, conRighe(1));
+    EXPECT_EQ(d.suStrato[2], 22);
+    riprendiStrati(d, conRighe(2));
+    EXPECT_EQ(d.suStrato[1], 11);
+    EXPECT_EQ(d.suStrato[2], 0);
 }
 
 TEST(RiprendiStrati, KeepsTheTypedOrderOfEqualDepths) {
