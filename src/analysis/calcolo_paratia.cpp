@@ -148,11 +148,7 @@ void racconta(int fase, const RisultatoFase& risultato, base::Dialogo& dialogo) 
 
 void calcolaFasi(int nSeg, const structure::MomentiResistenti& MRd, const PorteCalcolo& porte) {
     FileInCorso file(porte.avanzamento);
-    const auto corsa = std::make_unique<ArraysCorsa>();
-    corsa->nSeg = nSeg;
-    corsa->nNodi = nSeg + 1;
-    corsa->passoNodi = Progetto.lunghezzaParatia / nSeg;
-    corsa->vincolo = vincoli(Progetto);
+    const auto corsa = preparaCorsa(Progetto, nSeg);
     ChiusuraRisultati chiusura{MRd[2], MRd[1], -oltreOgniValore, oltreOgniValore, fsAzioni};
     stopCalcolo = false;
 

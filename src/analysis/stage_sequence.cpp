@@ -41,6 +41,15 @@ Vincoli vincoli(const project::DatiProgetto& dati) {
             dati.vincoloPiede == 3};
 }
 
+std::unique_ptr<ArraysCorsa> preparaCorsa(const project::DatiProgetto& dati, int nSeg) {
+    auto corsa = std::make_unique<ArraysCorsa>();
+    corsa->nSeg = nSeg;
+    corsa->nNodi = nSeg + 1;
+    corsa->passoNodi = dati.lunghezzaParatia / nSeg;
+    corsa->vincolo = vincoli(dati);
+    return corsa;
+}
+
 RisultatoFase risolviFase(int k, project::DatiProgetto& dati, ArraysCorsa& corsa,
                           Avanzamento& avanzamento) {
     preparaFase(k, dati, corsa);

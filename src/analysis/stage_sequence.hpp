@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <string>
 
 #include "analysis/plastic_iteration.hpp"
@@ -18,6 +19,10 @@ struct RisultatoFase {
     EstremiIterazione estremi;            ///< of the last iteration
     std::optional<RifiutoSuolo> rifiuto;  ///< why the stage was refused
 };
+
+/// The arrays of a run before its first stage: mesh and restraints set, all else 0.
+[[nodiscard]] std::unique_ptr<ArraysCorsa> preparaCorsa(const project::DatiProgetto& dati,
+                                                        int nSeg);
 
 /// Solves stage k as a whole equilibrium: sets its excavation, its water level in
 /// `dati.faldaValle`, and its anchors, computes the soil afresh and iterates until no displacement

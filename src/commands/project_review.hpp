@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -24,6 +25,17 @@ struct Rilievo {
 /// @throws base::ErroreFile if it is no such file any more
 [[nodiscard]] std::vector<Rilievo> esaminaFile(const std::string& percorso,
                                                const project::DatiProgetto& dati);
+
+/// Computes the stages in memory, which takes as long as a run, and writes nothing.
+/// @param maxIterazioni  of a stage, as for a run
+/// @return why a run would come to no result; nothing if it would
+/// @pre `dati` are computable as far as the reviews above can tell
+[[nodiscard]] std::optional<Rilievo> provaCalcolo(const project::DatiProgetto& dati,
+                                                  int maxIterazioni);
+
+/// True if each value of the project is a number in the unit in which reports and editors show it,
+/// up to ten times the stored one.
+[[nodiscard]] bool mostrabile(const project::DatiProgetto& dati);
 
 /// True if nothing found prevents a run.
 [[nodiscard]] bool calcolabile(const std::vector<Rilievo>& rilievi);

@@ -116,4 +116,10 @@ void controlloMostrati(const DatiProgetto& dati, ElencoRilievi& elenco) {
     }
 }
 
+bool mostrabile(const DatiProgetto& dati) {
+    ElencoRilievi elenco;
+    controlloMostrati(dati, elenco);
+    return elenco.ordinato().empty();
+}
+
 }  // namespace korven::commands
