@@ -1,5 +1,6 @@
 #include "batch/command_run.hpp"
 
+#include <algorithm>
 #include <iostream>
 #include <utility>
 
@@ -10,6 +11,7 @@
 #include "batch/console_run.hpp"
 #include "batch/drawing_run.hpp"
 #include "batch/failure.hpp"
+#include "batch/interruption.hpp"
 #include "batch/report_output.hpp"
 #include "project/project_data.hpp"
 
@@ -17,13 +19,16 @@ namespace korven::batch {
 
 namespace {
 
-int verifica(const std::string& progetto, Esito& esito) {
-    esito.rilievi = commands::esaminaFile(progetto, project::Progetto);
+int verifica(const Opzioni& opzioni, Esito& esito) {
+    esito.rilievi = commands::esaminaFile(opzioni.progetto, project::Progetto);
     // Every command that calculates writes a result file; only some write more.
     const commands::UscitaRelazione soloRisultati(false);
     if (auto motivo = analysis::motivoUscite(project::fileCorrente, 0, soloRisultati);
         !motivo.empty())
         esito.rilievi.insert(esito.rilievi.begin(), {true, std::move(motivo)});
+    if (commands::calcolabile(esito.rilievi))
+        if (auto motivo = commands::provaCalcolo(project::Progetto, opzioni.maxIterazioni))
+            esito.rilievi.insert(esito.rilievi.begin(), std::move(*motivo));
     return commands::calcolabile(esito.rilievi) ? fatto : nonEseguito;
 }
 
@@ -60,7 +65,7 @@ int relazione(const Opzioni& opzioni, Esito& esito) {
 int eseguiComando(const Opzioni& opzioni, Esito& esito) {
     switch (opzioni.comando) {
         case Comando::verifica:
-            return verifica(opzioni.progetto, esito);
+            return verifica(opzioni, esito);
         case Comando::relazione:
             avvisaPosto();
             return relazione(opzioni, esito);
@@ -72,6 +77,33 @@ int eseguiComando(const Opzioni& opzioni, Esito& esito) {
         default:
             return disegna(opzioni, esito);
     }
+}
+
+bool calcolaAnche(Comando comando) {
+    return comando == Comando::calcola || comando == Comando::relazione ||
+           comando == Comando::diagramma || comando == Comando::tutto;
+}
+
+// A run tells the first reason of its refusal itself.
+bool giaDetto(const std::string& testo, const Esito& esito) {
+    return std::any_of(esito.messaggi.begin(), esito.messaggi.end(), [&testo](const auto& detto) {
+        return detto.find(testo) != std::string::npos;
+    });
+}
+
+// What looks like a slip is told before the program computes with it; behind a run that was
+// refused, what else prevents it.
+int calcolaConRilievi(const Opzioni& opzioni, Esito& esito) {
+    const Interruzioni interruzioni;
+    esito.rilievi = commands::esaminaFile(opzioni.progetto, project::Progetto);
+    esito.esaminato = true;
+    for (const auto& rilievo : esito.rilievi)
+        if (!rilievo.impedisce) std::cerr << riga(rilievo) << '\n';
+    const int codice = eseguiComando(opzioni, esito);
+    for (const auto& rilievo : esito.rilievi)
+        if (rilievo.impedisce && codice != fatto && !giaDetto(rilievo.testo, esito))
+            std::cerr << riga(rilievo) << '\n';
+    return codice;
 }
 
 }  // namespace
@@ -86,7 +118,8 @@ int esegui(const Opzioni& opzioni, Esito& esito) {
     project::faseGrafico = opzioni.fase;
     if (!opzioni.uscita.empty() && opzioni.comando != Comando::verifica)
         commands::creaCartella(opzioni.uscita);
-    return eseguiComando(opzioni, esito);
+    return calcolaAnche(opzioni.comando) ? calcolaConRilievi(opzioni, esito)
+                                         : eseguiComando(opzioni, esito);
 }
 
 }  // namespace korven::batch

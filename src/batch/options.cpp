@@ -182,8 +182,8 @@ const RigaComando righeComandi[] = {
          diCalcolo(c, o);
          diRelazione(c, o.relazione);
      }},
-    {Comando::verifica, "verifica", "dice che cosa manca o è strano nel progetto, senza calcolare",
-     diModello},
+    {Comando::verifica, "verifica",
+     "dice che cosa manca o è strano nel progetto, senza scrivere risultati", diModello},
     {Comando::diagramma, "diagramma", "esegue il calcolo e disegna un diagramma",
      [](CLI::App& c, Opzioni& o) {
          diCalcolo(c, o);

@@ -19,6 +19,7 @@ struct Esito {
     bool corsa = false;                 ///< the command came as far as to run the analysis
     bool guasto = false;                ///< an error cut the command short
     std::vector<std::string> messaggi;  ///< why it was refused, or went wrong
+    bool esaminato = false;             ///< the remarks below are those of a review
     std::vector<commands::Rilievo> rilievi;
     std::optional<commands::EsitoCalcolo> calcolo;
     bool giaAggiornato = false;  ///< the result file was up to date already
@@ -29,6 +30,9 @@ struct Esito {
 
 /// The table of a run, a line a stage, with the traces of slow stages behind it if `traccia`.
 [[nodiscard]] std::string tabella(const Esito& esito, bool traccia);
+
+/// "da vedere: strato 1: ...", or what prevents a run.
+[[nodiscard]] std::string riga(const commands::Rilievo& rilievo);
 
 /// What a review found, a line each.
 [[nodiscard]] std::string elenco(const Esito& esito);

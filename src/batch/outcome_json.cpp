@@ -106,6 +106,7 @@ std::string json(const Esito& esito) {
         j["calcolabile"] = esito.codice == 0;
         j["rilievi"] = rilievi(esito);
     } else {
+        if (esito.esaminato) j["rilievi"] = rilievi(esito);
         j["calcolo"] = esito.calcolo ? calcolo(esito) : Json(nullptr);
         j["file"] = {{"risultati", nomeONullo(esito.calcolo ? esito.calcolo->fileRisultati : "")},
                      {"relazione", nomeONullo(esito.fileRelazione)},

@@ -70,12 +70,14 @@ std::string tabella(const Esito& esito, bool traccia) {
     return testo;
 }
 
+std::string riga(const commands::Rilievo& rilievo) {
+    return (rilievo.impedisce ? traduttore("impedisce il calcolo") : traduttore("da vedere")) +
+           ": " + rilievo.testo;
+}
+
 std::string elenco(const Esito& esito) {
     std::string testo;
-    for (const auto& rilievo : esito.rilievi)
-        testo +=
-            (rilievo.impedisce ? traduttore("impedisce il calcolo") : traduttore("da vedere")) +
-            ": " + rilievo.testo + '\n';
+    for (const auto& rilievo : esito.rilievi) testo += riga(rilievo) + '\n';
     return testo +
            (commands::calcolabile(esito.rilievi)
                 ? traduttore("Il progetto può essere calcolato.")

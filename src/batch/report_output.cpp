@@ -5,9 +5,11 @@
 #include "base/file_names.hpp"
 #include "base/processi.hpp"
 #include "base/translated_texts.hpp"
+#include "base/value_error.hpp"
 #include "batch/console_run.hpp"
 #include "batch/interruption.hpp"
 #include "commands/output_title.hpp"
+#include "commands/project_review.hpp"
 #include "commands/report_export.hpp"
 #include "device/report_pages.hpp"
 #include "project/project_data.hpp"
@@ -68,6 +70,8 @@ void controllaUscite(const UsciteRelazione& uscite) {
 }
 
 bool scriviRelazione(const UsciteRelazione& uscite, CorsaConsole& corsa, Esito& esito) {
+    // Not every value stands in every report, but no project is right with one.
+    if (!commands::mostrabile(project::Progetto)) throw base::ErroreValore();
     commands::UscitaRelazione uscita(true, uscite.testo, uscite.documento);
     if (!corsa.esegui(0, uscita)) return false;
     annotaRisultati(esito);

@@ -1,0 +1,105 @@
+// What verifica would list is told by the commands that compute, too.
+
+#include <nlohmann/json.hpp>
+
+#include "batch_bench.hpp"
+
+namespace korven::batch {
+namespace {
+
+using Json = nlohmann::json;
+using test::dice;
+
+class Rilievi : public test::BancoConsole {
+ protected:
+    // A length with a decimal comma, which computes as 8.
+    void virgola() {
+        auto testo = test::contenuto(progetto);
+        const std::string lunghezza = "\r\n12\r\n12000\r\n";
+        const auto posto = testo.find(lunghezza);
+        ASSERT_NE(posto, std::string::npos);
+        test::metti(progetto, testo.replace(posto, 6, "\r\n8,5\r\n"));
+    }
+    static std::vector<std::string> elencati(const std::string& testo) {
+        std::vector<std::string> tutti;
+        for (std::size_t da = testo.find("da vedere: "); da != std::string::npos;
+             da = testo.find("da vedere: ", da + 1))
+            tutti.push_back(testo.substr(da, testo.find('\n', da) - da));
+        return tutti;
+    }
+};
+
+const std::string letto = "lunghezza della paratia = 8: il resto della riga non conta";
+
+TEST_F(Rilievi, AreWrittenByEveryCommandThatComputesAsVerificaListsThem) {
+    virgola();
+    const auto attesi = elencati(esegui("verifica").uscita);
+    ASSERT_FALSE(attesi.empty());
+    const std::vector<std::pair<const char*, std::vector<std::string>>> comandi = {
+        {"calcola", {}},
+        {"calcola", {"--silenzioso"}},
+        {"relazione", {}},
+        {"diagramma", {"--tipo", "momenti", "--dxf", cartella / "m.dxf"}},
+        {"tutto", {"--uscita", cartella / "tutto", "--formati", "dxf"}}};
+    for (const auto& [comando, altri] : comandi) {
+        const auto esito = esegui(comando, altri);
+        EXPECT_EQ(esito.codice, 0) << comando << esito.errori;
+        EXPECT_EQ(elencati(esito.errori), attesi) << comando;
+        EXPECT_TRUE(dice(esito.errori, letto)) << esito.errori;
+    }
+}
+
+TEST_F(Rilievi, StandInTheJsonOfEveryCommandThatComputes) {
+    virgola();
+    const Json attesi = Json::parse(esegui("verifica", {"--json"}).uscita)["rilievi"];
+    for (const char* comando : {"calcola", "relazione"}) {
+        const Json j = Json::parse(esegui(comando, {"--json"}).uscita);
+        EXPECT_EQ(j["rilievi"], attesi) << comando;
+        EXPECT_TRUE(j["messaggi"].empty());
+    }
+}
+
+TEST_F(Rilievi, AreNoneForASoundProject) {
+    EXPECT_EQ(esegui("calcola", {"--silenzioso"}).errori, "");
+    EXPECT_EQ(Json::parse(esegui("calcola", {"--json"}).uscita)["rilievi"], Json::array());
+}
+
+TEST_F(Rilievi, NameAllThatPreventsARunAndNotItsFirstReasonAlone) {
+    auto d = test::progettoSemplice();
+    d.lunghezzaParatia = 0;
+    d.nFasi = 0;
+    scrivi(d);
+    const auto esito = esegui("relazione", {"--json"});
+    EXPECT_EQ(esito.codice, 1);
+    EXPECT_TRUE(dice(esito.errori, "impedisce il calcolo: Non sono ancora state definite le fasi"));
+    const Json j = Json::parse(esito.uscita);
+    EXPECT_EQ(j["messaggi"].size(), 1u);
+    EXPECT_GE(j["rilievi"].size(), 2u);
+}
+
+TEST_F(Rilievi, TellAWallTooShortAsTheRunDoes) {
+    auto d = test::progettoSemplice();
+    d.nTiranti = 0;
+    d.nFasi = 1;
+    d.profFase[1] = 11.9;
+    scrivi(d);
+    const auto verifica = esegui("verifica");
+    EXPECT_EQ(verifica.codice, 1);
+    EXPECT_TRUE(
+        dice(verifica.uscita, "impedisce il calcolo: fase 1: La geometria assegnata al diaframma"));
+    EXPECT_EQ(esegui("relazione").codice, 1);
+    EXPECT_EQ(nomi(), "muro.kvd ");
+}
+
+TEST_F(Rilievi, TellAValueThatNoReportCouldShowAsTheReportDoes) {
+    auto d = test::progettoSemplice();
+    d.sforzoNormale = 1e308;  // stands in no report
+    scrivi(d);
+    EXPECT_EQ(esegui("verifica").codice, 1);
+    const auto esito = esegui("relazione");
+    EXPECT_EQ(esito.codice, 1);
+    EXPECT_TRUE(dice(esito.errori, "i dati portano a un valore troppo grande")) << esito.errori;
+}
+
+}  // namespace
+}  // namespace korven::batch
