@@ -134,26 +134,49 @@ std::string leggiFile(const std::string& percorso) {
     }
 }
 
-void scriviFile(const std::string& percorso, std::string_view contenuto) {
-    const std::string meta = destinazione(percorso);
-    if (struct stat stato{}; ::stat(meta.c_str(), &stato) == 0) rifiutaSpeciale(percorso, stato);
+ScrittoreFile::ScrittoreFile(const std::string& percorso)
+    : percorso_(percorso), meta_(destinazione(percorso)) {
+    if (struct stat stato{}; ::stat(meta_.c_str(), &stato) == 0) rifiutaSpeciale(percorso, stato);
     // Taking over the name would get past a file's own write protection.
-    if (::access(meta.c_str(), F_OK) == 0 && ::access(meta.c_str(), W_OK) != 0)
+    if (::access(meta_.c_str(), F_OK) == 0 && ::access(meta_.c_str(), W_OK) != 0)
         nonScritto(percorso, errno);
-    const std::string cartella = cartellaDi(meta);
     // A name of its own, since the longest name that a folder takes leaves no room behind it.
-    std::string provvisorio = cartella + "/.korven-XXXXXX";
-    Descrittore file(::mkostemp(provvisorio.data(), O_CLOEXEC));
-    if (*file < 0) nonScritto(percorso, errno);
-    const bool scritto = scriviTutto(*file, contenuto) && ::fchmod(*file, permessi(meta)) == 0 &&
-                         ripeti([&] { return ::fsync(*file); }) == 0 && file.chiudi() &&
-                         ::rename(provvisorio.c_str(), meta.c_str()) == 0;
-    if (!scritto) {
-        const int codice = errno;
-        ::unlink(provvisorio.c_str());
-        nonScritto(percorso, codice);
-    }
-    versaSulDisco(cartella);
+    provvisorio_ = cartellaDi(meta_) + "/.korven-XXXXXX";
+    file_ = ::mkostemp(provvisorio_.data(), O_CLOEXEC);
+    if (file_ < 0) nonScritto(percorso, errno);
+}
+
+ScrittoreFile::~ScrittoreFile() { abbandona(); }
+
+void ScrittoreFile::abbandona() {
+    if (file_ < 0) return;
+    ::close(std::exchange(file_, -1));
+    ::unlink(provvisorio_.c_str());
+}
+
+void ScrittoreFile::fallito() {
+    const int codice = errno;
+    abbandona();
+    nonScritto(percorso_, codice);
+}
+
+void ScrittoreFile::scrivi(std::string_view contenuto) {
+    if (!scriviTutto(file_, contenuto)) fallito();
+}
+
+void ScrittoreFile::concludi() {
+    const bool scritto = ::fchmod(file_, permessi(meta_)) == 0 &&
+                         ripeti([&] { return ::fsync(file_); }) == 0 &&
+                         ::rename(provvisorio_.c_str(), meta_.c_str()) == 0;
+    if (!scritto) fallito();
+    ::close(std::exchange(file_, -1));
+    versaSulDisco(cartellaDi(meta_));
+}
+
+void scriviFile(const std::string& percorso, std::string_view contenuto) {
+    ScrittoreFile file(percorso);
+    file.scrivi(contenuto);
+    file.concludi();
 }
 
 void accodaFile(const std::string& percorso, std::string_view contenuto) {

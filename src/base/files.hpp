@@ -21,6 +21,30 @@ inline constexpr std::size_t massimoByte = std::size_t{1} << 30;
 ///         a loop), or if the name stands for a pipe, a device or a socket
 void scriviFile(const std::string& percorso, std::string_view contenuto);
 
+/// A file in the making, for contents too long for memory: what `scriviFile` does, part by part.
+/// Without `concludi` nothing is left of it, and what stood under its name stays.
+class ScrittoreFile {
+ public:
+    /// @throws ErroreFile as `scriviFile`
+    explicit ScrittoreFile(const std::string& percorso);
+    ScrittoreFile(const ScrittoreFile&) = delete;
+    ScrittoreFile& operator=(const ScrittoreFile&) = delete;
+    ~ScrittoreFile();
+
+    /// @throws ErroreFile with the system's reason
+    void scrivi(std::string_view contenuto);
+    /// Brings the file to the disk and gives it its name.
+    /// @throws ErroreFile with the system's reason
+    void concludi();
+
+ private:
+    [[noreturn]] void fallito();
+    void abbandona();
+
+    std::string percorso_, meta_, provvisorio_;
+    int file_ = -1;
+};
+
 /// Appends to an existing file; on a failure the file is cut back to what it held.
 /// @throws ErroreFile with the system's reason
 void accodaFile(const std::string& percorso, std::string_view contenuto);

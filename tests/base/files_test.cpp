@@ -256,5 +256,22 @@ TEST(CancellaFile, LeavesAnEmptyFolderOfThatName) {
     EXPECT_TRUE(std::filesystem::is_directory(cartella / "f"));
 }
 
+TEST(ScrittoreFile, GivesTheFileItsNameOnceItIsWhole) {
+    const test::CartellaProvvisoria cartella;
+    test::metti(cartella / "a", "prima");
+    ScrittoreFile file(cartella / "a");
+    file.scrivi("uno ");
+    file.scrivi("due");
+    EXPECT_EQ(test::contenuto(cartella / "a"), "prima");
+    file.concludi();
+    EXPECT_EQ(test::contenuto(cartella / "a"), "uno due");
+}
+
+TEST(ScrittoreFile, LeavesNothingOfAFileThatIsGivenUp) {
+    const test::CartellaProvvisoria cartella;
+    { ScrittoreFile(cartella / "a").scrivi("uno"); }
+    EXPECT_TRUE(std::filesystem::is_empty(cartella.percorso()));
+}
+
 }  // namespace
 }  // namespace korven::base
