@@ -1,5 +1,7 @@
 #include "batch/drawing_output.hpp"
 
+#include <optional>
+
 #include "analysis/output_guard.hpp"
 #include "base/file_error.hpp"
 #include "base/file_names.hpp"
@@ -9,8 +11,10 @@
 #include "device/drawing_files.hpp"
 #include "device/drawing_fonts.hpp"
 #include "device/graphics_session.hpp"
+#include "plot/drawing_watch.hpp"
 #include "plot/plot_dxf.hpp"
 #include "plot/plot_engine.hpp"
+#include "plot/text_width.hpp"
 #include "project/project_data.hpp"
 
 namespace korven::batch {
@@ -39,26 +43,44 @@ void controllaUscite(const UsciteDisegno& uscite) {
     }
 }
 
-struct AmbienteDisegno::Grafica {
-    device::SessioneGrafica sessione;
-    device::MetricaQt metrica;
+class AmbienteDisegno::Interruzione : public plot::SorvegliaDisegno {
+ public:
+    bool fermare() override { return Interruzioni::chiesta() != 0; }
 };
 
-AmbienteDisegno::AmbienteDisegno(bool dipinti) {
-    plot::statoPlot.interruzione = &Interruzioni::chiesta();
-    if (!dipinti) return;
-    grafica_ = std::make_unique<Grafica>();
-    plot::statoPlot.metrica = &grafica_->metrica;
+// The faces whose widths are known are those of most drawings, and a DXF file of them needs no
+// fonts, which take time to be found. Any other face is measured, whatever files are asked for.
+class AmbienteDisegno::Metrica : public plot::MetricaTesto {
+ public:
+    explicit Metrica(bool dipinti) {
+        if (dipinti) sessione_.emplace();
+    }
+    double larghezza(std::string_view carattere, double altezza,
+                     std::string_view testo) const override {
+        if (!sessione_ && !plot::MetricaStimata::conosce(carattere)) sessione_.emplace();
+        return sessione_ ? device::MetricaQt().larghezza(carattere, altezza, testo)
+                         : plot::MetricaStimata().larghezza(carattere, altezza, testo);
+    }
+
+ private:
+    mutable std::optional<device::SessioneGrafica> sessione_;
+};
+
+AmbienteDisegno::AmbienteDisegno(bool dipinti)
+    : interruzione_(std::make_unique<Interruzione>()),
+      metrica_(std::make_unique<Metrica>(dipinti)) {
+    plot::statoPlot.sorveglia = interruzione_.get();
+    plot::statoPlot.metrica = metrica_.get();
 }
 
 AmbienteDisegno::~AmbienteDisegno() {
     plot::statoPlot.metrica = nullptr;
-    plot::statoPlot.interruzione = nullptr;
+    plot::statoPlot.sorveglia = nullptr;
 }
 
 void scriviDisegno(const UsciteDisegno& uscite) {
     if (!uscite.dxf.empty()) plot::plotDxf(uscite.dxf);
-    if (!uscite.pdf.empty()) device::scriviPdf(uscite.pdf);
+    if (!uscite.pdf.empty()) device::scriviPdf(uscite.pdf, uscite.foglio);
     if (!uscite.svg.empty()) device::scriviSvg(uscite.svg);
     if (!uscite.png.empty()) device::scriviPng(uscite.png, uscite.dpi);
 }

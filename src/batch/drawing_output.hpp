@@ -4,12 +4,15 @@
 #include <string>
 #include <vector>
 
+#include "plot/geometry.hpp"
+
 namespace korven::batch {
 
 /// The files that a drawing goes to; empty names are not written.
 struct UsciteDisegno {
     std::string dxf, pdf, svg, png;
-    int dpi = 150;  ///< resolution of the PNG file
+    int dpi = 150;                    ///< resolution of the PNG file
+    plot::Foglio foglio{21.0, 29.7};  ///< sheet [cm]: page of the PDF file, height of a log
 
     [[nodiscard]] bool nessuna() const;
     /// True when one of the files is painted, which needs fonts.
@@ -22,8 +25,9 @@ struct UsciteDisegno {
 /// @throws base::ErroreFile that names it
 void controllaUscite(const UsciteDisegno& uscite);
 
-/// Fonts and painting for the drawings to come, when one of their files needs them: texts are then
-/// measured in the fonts they are written in. An interrupt ends a drawing in the making.
+/// Fonts and painting for the drawings to come, when one of their files needs them. Texts are
+/// measured in the fonts they are written in, whatever the files: the same command makes the same
+/// drawing. An interrupt ends drawing and writing.
 class AmbienteDisegno {
  public:
     explicit AmbienteDisegno(bool dipinti);
@@ -32,8 +36,10 @@ class AmbienteDisegno {
     ~AmbienteDisegno();
 
  private:
-    struct Grafica;
-    std::unique_ptr<Grafica> grafica_;
+    class Interruzione;
+    class Metrica;
+    std::unique_ptr<Interruzione> interruzione_;
+    std::unique_ptr<Metrica> metrica_;
 };
 
 /// Writes the stored drawing.

@@ -12,6 +12,7 @@
 #include "batch/interruption.hpp"
 #include "batch/report_output.hpp"
 #include "commands/diagram_output.hpp"
+#include "commands/log_limit.hpp"
 #include "project/project_data.hpp"
 #include "report/hatch_samples.hpp"
 #include "report/stratigraphic_log.hpp"
@@ -28,10 +29,19 @@ bool diagramma(int tipo, CorsaConsole& corsa) {
     return corsa.esegui(tipo, uscita);
 }
 
+// Tells it.
+bool troppoAlta(Esito& esito) {
+    const std::string perche = commands::rifiutoStratigrafia(Progetto);
+    if (perche.empty()) return false;
+    racconta({perche}, esito);
+    return true;
+}
+
 bool stratigrafia(const Opzioni& opzioni, Esito& esito) {
     AvanzamentoConsole vista(false);
     DialogoConsole dialogo(opzioni.ricalcolaEJ, vista);
-    const bool disegnata = report::disegnaStratigrafia(dialogo);
+    if (troppoAlta(esito)) return false;
+    const bool disegnata = report::disegnaStratigrafia(dialogo, opzioni.disegno.foglio.altezza);
     if (!disegnata) esito.messaggi = dialogo.messaggi();
     return disegnata;
 }
@@ -64,7 +74,7 @@ void scrivi(const UsciteDisegno& uscite, Esito& esito) {
 struct Tavola {
     const char* nome;
     int tipo;  // of a diagram; 0: none
-    void (*disegna)();
+    bool (*disegna)(Esito&);
 };
 
 constexpr Tavola tavole[] = {
@@ -72,8 +82,17 @@ constexpr Tavola tavole[] = {
     {"spostamenti", 2, nullptr},
     {"momenti", 3, nullptr},
     {"taglio", 4, nullptr},
-    {"sezione", 0, [] { structure::disegnaSezione(Progetto); }},
-    {"stratigrafia", 0, [] { report::disegnaStratigrafia(Progetto); }},
+    {"sezione", 0,
+     [](Esito&) {
+         structure::disegnaSezione(Progetto);
+         return true;
+     }},
+    {"stratigrafia", 0,
+     [](Esito& esito) {
+         if (troppoAlta(esito)) return false;
+         report::disegnaStratigrafia(Progetto);
+         return true;
+     }},
 };
 
 // "DIR/muro-momenti.pdf" for each form asked for.
@@ -129,18 +148,19 @@ int tutto(const Opzioni& opzioni, Esito& esito) {
     const auto fasi = esito.fasi;
     const bool giaAggiornato = esito.giaAggiornato;
     std::size_t quale = 0;
+    int codice = fatto;
     for (const Tavola& tavola : tavole) {
         if (corsa.interrotta()) return nonEseguito;
         annuncia(opzioni, ++quale, tavola);
-        if (tavola.tipo == 0)
-            tavola.disegna();
-        else if (!diagramma(tavola.tipo, corsa))
-            return nonEseguito;
-        scrivi(usciteTavola(opzioni, tavola), esito);
+        if (tavola.tipo != 0 && !diagramma(tavola.tipo, corsa)) return nonEseguito;
+        if (tavola.tipo == 0 && !tavola.disegna(esito))
+            codice = nonEseguito;  // the other drawings are made all the same
+        else
+            scrivi(usciteTavola(opzioni, tavola), esito);
     }
     esito.fasi = fasi;
     esito.giaAggiornato = giaAggiornato;
-    return fatto;
+    return codice;
 }
 
 }  // namespace korven::batch

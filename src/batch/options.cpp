@@ -9,6 +9,7 @@
 
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
+#include "batch/paper.hpp"
 #include "batch/wrong_usage.hpp"
 #include "device/drawing_files.hpp"
 #include "project/project_data.hpp"
@@ -160,6 +161,15 @@ void risoluzione(CLI::App& comando, Opzioni& o) {
         ->capture_default_str();
 }
 
+void foglio(CLI::App& comando, Opzioni& o) {
+    comando
+        .add_option_function<std::string>(
+            "--foglio", [&o](const std::string& nome) { o.disegno.foglio = fogli().at(nome); },
+            traduttore("foglio della stampante, dalla cui altezza dipende la colonna") + " [A4]")
+        ->type_name(chiavi(fogli()))
+        ->check(senzaNome(CLI::IsMember(fogli())));
+}
+
 using Preparazione = void (*)(CLI::App&, Opzioni&);
 
 struct RigaComando {
@@ -210,6 +220,7 @@ const RigaComando righeComandi[] = {
          diProgetto(c, o);
          diDisegno(c, o);
          risoluzione(c, o);
+         foglio(c, o);
      }},
     {Comando::campiture, "campiture", "disegna i campioni di tutte le campiture",
      [](CLI::App& c, Opzioni& o) {

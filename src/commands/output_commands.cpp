@@ -14,6 +14,9 @@
 #include "base/value_error.hpp"
 #include "commands/diagram_output.hpp"
 #include "commands/project_commands.hpp"
+#include "plot/drawing_stop.hpp"
+#include "plot/drawing_watch.hpp"
+#include "plot/plot_engine.hpp"
 #include "project/project_data.hpp"
 #include "report/stratigraphic_log.hpp"
 #include "structure/section_drawing.hpp"
@@ -110,16 +113,27 @@ void produciCalcolo(const ComandoCalcolo& comando, base::Dialogo& dialogo,
         produciDiagramma(comando.modoUscita, dialogo, avanzamento, forme);
 }
 
+// Layers far apart take minutes to be hatched, which their user may cut short.
+void produciStratigrafia(base::Dialogo& dialogo, const FormeProgramma& forme) {
+    const auto disegna = [&] {
+        const plot::LavoroDisegno lavoro;
+        return report::disegnaStratigrafia(
+            dialogo, forme.altezzaPagina ? forme.altezzaPagina() : report::altezzaPaginaA4);
+    };
+    try {
+        if (seSiPuoScrivere(dialogo, disegna)) forme.grafica();
+    } catch (const plot::DisegnoInterrotto&) {
+        plot::statoPlot.archivio.svuota();
+        if (forme.chiudiGrafica) forme.chiudiGrafica();
+    }
+}
+
 }  // namespace
 
 void produci(Comando comando, base::Dialogo& dialogo, analysis::Avanzamento& avanzamento,
              const FormeProgramma& forme) {
     // The log refuses in words of its own.
-    if (comando == Comando::graficaStratigrafia) {
-        if (seSiPuoScrivere(dialogo, [&] { return report::disegnaStratigrafia(dialogo); }))
-            forme.grafica();
-        return;
-    }
+    if (comando == Comando::graficaStratigrafia) return produciStratigrafia(dialogo, forme);
     if (fileCorrente.empty()) {
         dialogo.messaggio(base::traduttore("Non e' possibile produrre un output prima di aver "
                                            "aperto un file."),

@@ -19,6 +19,10 @@ struct FormeProgramma {
     std::function<void()> sezione;
     /// The viewer `GRAFICA` of the drawing in the plot store.
     std::function<void()> grafica;
+    /// Takes that viewer away, whose drawing was given up.
+    std::function<void()> chiudiGrafica;
+    /// Height of the printer's page [cm], for which the stratigraphic log is drawn.
+    std::function<double()> altezzaPagina;
     /// What is done with a report, given by the path of its mark-up file. The pointer is the
     /// hourglass when they are called: a form that waits for its user gives it back first.
     std::function<void(const std::string&relazione)> anteprima, stampa, esportaDoc, esportaTxt;

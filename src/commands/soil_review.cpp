@@ -21,6 +21,8 @@ using project::massimoStrati;
 constexpr const char* inKilonewton =
     "sembra un peso in kN/m³: il file lo tiene in t/m³, dieci volte più piccolo";
 
+constexpr double profonditaInsolita = 200;  // no wall reaches there [m]
+
 struct ControlloStrato {
     base::Tabella<double, massimoStrati> DatiProgetto::*colonna;
     std::string_view etichetta;
@@ -37,6 +39,9 @@ const ControlloStrato controlliStrato[] = {
      "finisce più in alto dello strato precedente"},
     {&DatiProgetto::profStrato, "Prof. [m]", 1,
      [](Dati d, int j) { return d.profStrato[j] == d.profStrato[j - 1]; }, "ha spessore nullo"},
+    {&DatiProgetto::profStrato, "Prof. [m]", 1,
+     [](Dati d, int j) { return d.profStrato[j] > profonditaInsolita; },
+     "supera i 200 m: controllare la profondità"},
     {&DatiProgetto::gammaN, "Gamma [kN/m³]", 10, [](Dati d, int j) { return d.gammaN[j] <= 0; },
      "peso di volume mancante"},
     {&DatiProgetto::gammaN, "Gamma [kN/m³]", 10,

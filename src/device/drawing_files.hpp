@@ -1,27 +1,34 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 
-// The stored drawing as a picture file. Each file is written whole or not at all. The process needs
-// a QGuiApplication.
+#include "plot/geometry.hpp"
+
+// The stored drawing as a picture file. Each file is written whole or not at all, and none is held
+// in memory. The process needs a QGuiApplication. `plot::statoPlot.sorveglia` may end the writing,
+// which then throws plot::DisegnoInterrotto.
 
 namespace korven::device {
 
 inline constexpr int risoluzionePredefinita = 150;  ///< of PNG files [dots per inch]
 inline constexpr int risoluzioneMinima = 20;
 inline constexpr int risoluzioneMassima = 1200;
+inline constexpr plot::Foglio foglioPredefinito{21.0, 29.7};  ///< of PDF files: A4 upright [cm]
 
-/// One page with the drawing at true size: A4 upright, the drawing in its middle, or a page of the
-/// drawing's size when that is larger.
+/// One page with the drawing at true size, the drawing in its middle.
+/// @param foglio  the page [cm]; larger where the drawing is
 /// @throws base::ErroreFile with the system's reason
-void scriviPdf(const std::string& percorso);
+void scriviPdf(const std::string& percorso, const plot::Foglio& foglio = foglioPredefinito);
 
 /// @throws base::ErroreFile with the system's reason
 void scriviSvg(const std::string& percorso);
 
-/// On white ground.
-/// @param dpi  resolution, within the limits above
+/// On white ground, painted and written in strips: a sheet at the finest resolution takes half a
+/// gigabyte.
+/// @param dpi         resolution, within the limits above
+/// @param byteFascia  memory of a strip, which has at least one row
 /// @throws base::ErroreFile with the system's reason
-void scriviPng(const std::string& percorso, int dpi);
+void scriviPng(const std::string& percorso, int dpi, std::size_t byteFascia = std::size_t{1} << 25);
 
 }  // namespace korven::device

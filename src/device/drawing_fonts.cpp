@@ -3,7 +3,9 @@
 #include <QFontDatabase>
 #include <QFontMetricsF>
 #include <QString>
+#include <algorithm>
 #include <array>
+#include <cmath>
 #include <map>
 #include <string>
 #include <utility>
@@ -53,14 +55,33 @@ double corpoPerRiga(const QFont& font, double riga) {
     return riga * font.pixelSize() / (misure.ascent() + misure.descent());
 }
 
+namespace {
+
+// At height 1.
+double larghezzaNelFont(std::string_view carattere, std::string_view testo) {
+    const QFont font = fontDisegno(carattere);
+    return QFontMetricsF(font).horizontalAdvance(qt(testo)) / font.pixelSize() *
+           corpoPerRiga(font, rigaPerAltezza);
+}
+
+}  // namespace
+
+double stiramento(std::string_view carattere, std::string_view testo) {
+    // Known widths are rounded to thousandths, which shows nowhere; no distortion beyond reading.
+    constexpr double trascurabile = 0.003, massimo = 2;
+    if (!plot::MetricaStimata::conosce(carattere)) return 1;
+    const double naturale = larghezzaNelFont(carattere, testo);
+    const double voluta = plot::MetricaStimata().larghezza(carattere, 1, testo);
+    if (!(naturale > 0) || !(voluta > 0)) return 1;
+    const double rapporto = std::clamp(voluta / naturale, 1 / massimo, massimo);
+    return std::abs(rapporto - 1) < trascurabile ? 1 : rapporto;
+}
+
 double MetricaQt::larghezza(std::string_view carattere, double altezza,
                             std::string_view testo) const {
     if (plot::MetricaStimata::conosce(carattere))
         return plot::MetricaStimata().larghezza(carattere, altezza, testo);
-    const QFont font = fontDisegno(carattere);
-    const QString scritto = qt(testo);
-    return QFontMetricsF(font).horizontalAdvance(scritto) / font.pixelSize() *
-           corpoPerRiga(font, rigaPerAltezza * altezza);
+    return larghezzaNelFont(carattere, testo) * altezza;
 }
 
 }  // namespace korven::device

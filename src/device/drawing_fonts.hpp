@@ -19,8 +19,13 @@ namespace korven::device {
 /// Row of a text over its height.
 inline constexpr double rigaPerAltezza = 5.0 / 3.0;
 
+/// Width of a painted text over that in the font it is painted in: 1, but where a drawing counts on
+/// other widths. Fonts of one name come in versions, and where the machine has none of the widths
+/// of a known face a wider one stands in; the text is as wide as it was measured all the same.
+[[nodiscard]] double stiramento(std::string_view carattere, std::string_view testo);
+
 /// Measures texts in the fonts that the drawing is painted with. Faces whose widths are known take
-/// those, so that a drawing is the same whether or not there are fonts at hand.
+/// those, so that a drawing is the same whatever fonts are at hand.
 class MetricaQt : public plot::MetricaTesto {
  public:
     [[nodiscard]] double larghezza(std::string_view carattere, double altezza,

@@ -5,6 +5,7 @@
 
 #include "device/drawing_fonts.hpp"
 #include "device/text_painting.hpp"
+#include "plot/drawing_watch.hpp"
 
 namespace korven::device {
 
@@ -12,6 +13,11 @@ PittoreDisegno::PittoreDisegno(QPainter& painter, const plot::Riquadro& vista, d
                                double pennaMinima)
     : painter_(painter), vista_(vista), pixelPerCm_(pixelPerCm), pennaMinima_(pennaMinima) {
     painter_.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+}
+
+void PittoreDisegno::limita(double ymin, double ymax) {
+    ymin_ = ymin;
+    ymax_ = ymax;
 }
 
 void PittoreDisegno::dipingi(const plot::ArchivioDisegno& archivio) {
@@ -36,6 +42,11 @@ QPointF PittoreDisegno::punto(double x, double y) const {
 }
 
 void PittoreDisegno::traccia(const plot::Segmento& linea) {
+    plot::controllaInterruzione();
+    const double mezza = std::max(linea.spessore, pennaMinima_ / pixelPerCm_);  // and smoothing
+    if (std::max(linea.y1, linea.y2) < ymin_ - mezza ||
+        std::min(linea.y1, linea.y2) > ymax_ + mezza)
+        return;
     const bool prosegue = !spezzata_.isEmpty() && linea.x1 == ultima_.x2 &&
                           linea.y1 == ultima_.y2 && linea.colore == ultima_.colore &&
                           linea.spessore == ultima_.spessore;
@@ -59,10 +70,10 @@ void PittoreDisegno::tracciaSpezzata() {
 void PittoreDisegno::scrivi(const plot::TestoPlot& testo) {
     if (testo.testo.empty()) return;
     const QFont font = fontDisegno(testo.carattere);
-    dipingiTesto(painter_,
-                 {punto(testo.x, testo.y), font,
-                  corpoPerRiga(font, rigaPerAltezza * testo.altezza * pixelPerCm_), testo.angolo,
-                  testo.conteggio == plot::conteggioCentrato, testo.colore, testo.testo});
+    dipingiTesto(painter_, {punto(testo.x, testo.y), font,
+                            corpoPerRiga(font, rigaPerAltezza * testo.altezza * pixelPerCm_),
+                            testo.angolo, testo.conteggio == plot::conteggioCentrato, testo.colore,
+                            testo.testo, stiramento(testo.carattere, testo.testo)});
 }
 
 }  // namespace korven::device

@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <QPolygonF>
+#include <limits>
 
 #include "plot/drawing_store.hpp"
 #include "plot/geometry.hpp"
@@ -19,7 +20,11 @@ class PittoreDisegno {
     PittoreDisegno(QPainter& painter, const plot::Riquadro& vista, double pixelPerCm,
                    double pennaMinima);
 
+    /// Leaves out lines that lie wholly above or below a strip of the sheet [cm].
+    void limita(double ymin, double ymax);
+
     /// @throws base::ErroreFile when a spill file can't be read
+    /// @throws plot::DisegnoInterrotto when `plot::statoPlot.sorveglia` wants the end
     void dipingi(const plot::ArchivioDisegno& archivio);
 
  private:
@@ -32,6 +37,8 @@ class PittoreDisegno {
     plot::Riquadro vista_;
     double pixelPerCm_;
     double pennaMinima_;
+    double ymin_ = -std::numeric_limits<double>::infinity();
+    double ymax_ = std::numeric_limits<double>::infinity();
     QPolygonF spezzata_;       // polyline in the making
     plot::Segmento ultima_{};  // its last line
 };

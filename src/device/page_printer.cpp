@@ -100,6 +100,7 @@ void StampantePagine::linea(plot::PuntoPagina da, plot::PuntoPagina a) {
 }
 
 void StampantePagine::carattere(const plot::CaratterePagina& carattere) {
+    carattere_ = carattere.carattere;
     font_ = fontDisegno(carattere.carattere);
     corpo_ = corpoPerRiga(font_, carattere.altezzaRiga);
     constexpr double decimi = 10;
@@ -108,8 +109,8 @@ void StampantePagine::carattere(const plot::CaratterePagina& carattere) {
 
 void StampantePagine::testo(plot::PuntoPagina punto, std::string_view testo, bool centrato,
                             plot::Colore colore) {
-    dipingiTesto(pittore_,
-                 {QPointF(punto.x, punto.y), font_, corpo_, gradi_, centrato, colore, testo});
+    dipingiTesto(pittore_, {QPointF(punto.x, punto.y), font_, corpo_, gradi_, centrato, colore,
+                            testo, stiramento(carattere_, testo)});
 }
 
 void StampantePagine::fineStampa() {

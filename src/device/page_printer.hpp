@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QString>
 #include <memory>
+#include <string>
 
 #include "device/least_margins.hpp"
 #include "plot/geometry.hpp"
@@ -48,6 +49,7 @@ class StampantePagine : public plot::Stampante {
     QPrinter& stampante_;
     MarginiMinimi margini_;
     QPainter pittore_;
+    std::string carattere_;
     QFont font_;
     double corpo_ = 1;
     double gradi_ = 0;

@@ -126,7 +126,8 @@ void SuperficieSchermo::testo(const plot::TestoSuperficie& testo) {
     QFont font = fontDisegno(testo.carattere);
     font.setPixelSize(corpo);
     dipingiTesto(pittore_, {punto, font, static_cast<double>(corpo), testo.decimiDiGrado / 10.0,
-                            testo.centrato, testo.colore, testo.testo});
+                            testo.centrato, testo.colore, testo.testo,
+                            stiramento(testo.carattere, testo.testo)});
 }
 
 void SuperficieSchermo::aggiorna() {

@@ -20,7 +20,7 @@ void dipingiTesto(QPainter& painter, const TestoDaDipingere& testo) {
     painter.save();
     painter.translate(testo.punto);
     painter.rotate(-testo.gradi);
-    painter.scale(scala, scala);
+    painter.scale(scala * testo.stiramento, scala);
     painter.setFont(testo.font);
     painter.setPen(qColore(testo.colore));
     painter.drawText(QPointF(inizio, 0), scritto);

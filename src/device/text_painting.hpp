@@ -22,6 +22,7 @@ struct TestoDaDipingere {
     bool centrato;  ///< about the point, else the text starts there
     plot::Colore colore;
     std::string_view testo;
+    double stiramento = 1;  ///< width over that in its font (drawing_fonts.hpp)
 };
 
 /// Writes a text on its base line, on a transparent ground. The font is scaled to `corpo`, which

@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "plot/colour.hpp"
 #include "plot/geometry.hpp"
@@ -39,8 +40,10 @@ class ScrittoreDxf {
     /// Swaps the axes of lines, the first of the new ones less `scostamento`. Off at the start.
     void scambiaAssi(bool scambiati, double scostamento);
 
-    /// The file as far as it is written, UTF-8, lines ended by CR LF.
+    /// The file as far as it is written and not taken away, UTF-8, lines ended by CR LF.
     [[nodiscard]] const std::string& contenuto() const { return contenuto_; }
+    /// Takes that away, to be written elsewhere.
+    [[nodiscard]] std::string preleva() { return std::exchange(contenuto_, {}); }
 
  private:
     void riga(std::string_view testo);

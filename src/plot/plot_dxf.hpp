@@ -9,9 +9,10 @@ namespace korven::plot {
 /// extension replaced by ".DXF", or with that appended when it has none.
 [[nodiscard]] std::string nomeDxf(std::string_view progetto);
 
-/// Name of the text style in DXF files: the first line of dxf.cfg in the program folder, which is
-/// written with "MONOTXT" when it does not exist. A blank line stands for that name as well.
-/// @throws ErroreFile when the file is empty, can't be read or can't be made
+/// Name of the text style in DXF files: the first line of dxf.cfg in the program folder. Where that
+/// file is missing or empty it is "MONOTXT", and the file is written with it if the folder allows
+/// it. A blank line stands for that name as well.
+/// @throws ErroreFile when the file is there and can't be read
 [[nodiscard]] std::string leggiStileTesti();
 
 /// The stored drawing as DXF, UTF-8.

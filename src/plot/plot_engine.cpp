@@ -88,8 +88,7 @@ void disegna(Elemento elemento) {
 }
 
 void lineaFino(double x, double y) {
-    if (statoPlot.interruzione != nullptr && *statoPlot.interruzione != 0)
-        throw DisegnoInterrotto();
+    controllaInterruzione();
     if (statoPlot.penna.colore == nonDisegnato) return;
     const Punto da = sulFoglio(statoPlot.posizione.x, statoPlot.posizione.y);
     const Punto a = sulFoglio(x, y);
@@ -186,13 +185,30 @@ void plotTutto() {
     plotRifai();
 }
 
-void plotRifai() {
-    if (statoPlot.superficie == nullptr) return;
-    SuperficieDisegno& superficie = *statoPlot.superficie;
+namespace {
+
+void mostraTutto(SuperficieDisegno& superficie) {
     for (const PoligonoPlot& poligono : statoPlot.archivio.poligoni())
         superficie.poligono(poligono);
-    statoPlot.archivio.perOgniLinea([&](const Segmento& linea) { mostra(superficie, linea); });
+    statoPlot.archivio.perOgniLinea([&superficie](const Segmento& linea) {
+        controllaInterruzione();
+        mostra(superficie, linea);
+    });
     for (const TestoPlot& testo : statoPlot.archivio.testi()) mostra(superficie, testo);
+}
+
+}  // namespace
+
+void plotRifai() {
+    if (statoPlot.superficie == nullptr) return;
+    const LavoroDisegno lavoro;
+    SuperficieDisegno& superficie = *statoPlot.superficie;
+    try {
+        mostraTutto(superficie);
+    } catch (const DisegnoInterrotto&) {
+        superficie.aggiorna();
+        throw;
+    }
     superficie.aggiorna();
 }
 

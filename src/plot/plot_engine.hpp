@@ -1,11 +1,11 @@
 #pragma once
 
-#include <csignal>
 #include <string>
 #include <string_view>
 
 #include "plot/drawing_store.hpp"
 #include "plot/drawing_surface.hpp"
+#include "plot/drawing_watch.hpp"
 #include "plot/geometry.hpp"
 #include "plot/pens.hpp"
 #include "plot/text_width.hpp"
@@ -38,6 +38,7 @@ struct StatoPlot {
     Riquadro rettangoloZoom;  ///< of the last zoom, moved by panning
     bool zoom = false;        ///< a zoom is in force
     bool replay = false;      ///< strokes are shown, not recorded
+    int lavori = 0;           ///< how many `LavoroDisegno` live
 
     /// Page of the printer [cm], marked on the surface; an A4 sheet as long as no printer is known.
     /// 0 marks nothing.
@@ -49,9 +50,7 @@ struct StatoPlot {
 
     std::string stileTesti;  ///< text style of DXF files, held from the first one on
 
-    /// Not 0 once somebody wants the drawing to end; nullptr: nobody can.
-    const volatile std::sig_atomic_t* interruzione = nullptr;
-
+    SorvegliaDisegno* sorveglia = nullptr;    ///< not owned; nullptr: nobody can end the work
     SuperficieDisegno* superficie = nullptr;  ///< not owned; nullptr: store only
     const MetricaTesto* metrica = nullptr;    ///< not owned; nullptr: widths are estimated
 };
@@ -91,7 +90,7 @@ void plotPennaRgb(int n, Colore colore);
 /// A pen of colour 0 leaves no trace; white is drawn and recorded as black.
 /// @throws ErroreFile when a spill file can't be written, ErroreValore when a number for it is not
 /// finite; the stored drawing is then empty
-/// @throws DisegnoInterrotto at a line drawn after `interruzione` was set
+/// @throws DisegnoInterrotto at a line drawn after `sorveglia` wanted the end
 void plotMuovi(double x, double y, int codice);
 
 /// Writes a text at (x, y), or draws a marker about it. The pen does not move.
@@ -118,6 +117,7 @@ void plotTutto();
 /// Draws all that is stored on the surface: polygons, lines, texts. A line or text of which a
 /// number is not finite is left out.
 /// @throws ErroreFile when a spill file can't be read
+/// @throws DisegnoInterrotto when `sorveglia` wants the end; the surface then shows a part
 void plotRifai();
 
 }  // namespace korven::plot

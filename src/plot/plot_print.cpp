@@ -60,7 +60,10 @@ class Pagina {
     void stampa(const ArchivioDisegno& archivio) {
         stampante_.iniziaPagina();
         for (const PoligonoPlot& poligono : archivio.poligoni()) riempi(poligono);
-        archivio.perOgniLinea([this](const Segmento& linea) { traccia(linea); });
+        archivio.perOgniLinea([this](const Segmento& linea) {
+            controllaInterruzione();
+            traccia(linea);
+        });
         for (const TestoPlot& testo : archivio.testi()) scrivi(testo);
         stampante_.finePagina();
     }
@@ -158,6 +161,7 @@ double sovrapposizioneFogli() {
 
 void plotStampa(bool adatta, Stampante& stampante, base::Dialogo& dialogo) {
     const Attesa attesa(dialogo);
+    const LavoroDisegno lavoro;
     const Periferica periferica(stampante.misure());
     if (adatta)
         Pagina(stampante, periferica, disposizioneAdattata(statoPlot.estensione, periferica.foglio))

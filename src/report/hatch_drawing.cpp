@@ -54,6 +54,7 @@ class Riempimento {
 
  private:
     void traccia(const Tratto& intero) {
+        plot::controllaInterruzione();  // most strokes of a tile may lie outside
         auto tratto = plot::ritagliaTratto(intero, riquadro_);
         if (!tratto) return;
         if (vicini(tratto->a, ultima_)) std::swap(tratto->da, tratto->a);

@@ -5,11 +5,14 @@ namespace korven::report {
 /// Height of the paper that the log is made for where there is no printer: A4, upright [cm].
 inline constexpr double altezzaPaginaA4 = 29.7;
 
+/// A page as low as this leaves the layers no room [cm].
+inline constexpr double paginaTroppoBassa = 8.1;
+
 /// Lower edge of the log on its sheet of 28.5 cm [cm], so that it fits a page of that height:
 ///
 ///     28.5 - altezzaPagina + 0.1, at least 0.6
 ///
-/// @param altezzaPagina  of the printer [cm], above 8.1: less leaves the layers no room
+/// @param altezzaPagina  of the printer [cm], above `paginaTroppoBassa`
 [[nodiscard]] double bordoInferiore(double altezzaPagina);
 
 /// Where depths lie on the sheet of the log.

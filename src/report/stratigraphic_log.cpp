@@ -50,13 +50,16 @@ void disegnaTabella(const Stratigrafia& stratigrafia) {
     }
 }
 
-std::string_view motivoRifiuto() {
+std::string_view motivoRifiuto(double altezzaPagina) {
     if (project::fileCorrente.empty())
         return "Non e' possibile produrre un output grafico prima di aver aperto un file.";
     const auto& dati = project::Progetto;
     if (!(dati.profStrato[dati.nStrati] > 0))
         return "Non e' possibile produrre un output grafico prima di aver introdotto la "
                "stratigrafia.";
+    if (!(altezzaPagina > paginaTroppoBassa))
+        return "Il foglio della stampante è troppo basso per la colonna stratigrafica: sceglierne "
+               "uno più alto di 8.1 cm.";
     return {};
 }
 
@@ -71,7 +74,7 @@ void disegnaStratigrafia(const project::DatiProgetto& dati, double altezzaPagina
 }
 
 bool disegnaStratigrafia(base::Dialogo& dialogo, double altezzaPagina) {
-    if (const auto motivo = motivoRifiuto(); !motivo.empty()) {
+    if (const auto motivo = motivoRifiuto(altezzaPagina); !motivo.empty()) {
         dialogo.messaggio(base::traduttore(motivo), base::traduttore("ATTENZIONE") + "!",
                           base::Icona::stop);
         return false;

@@ -16,8 +16,8 @@ namespace korven::report {
 /// than the 2000 that a drawing holds
 void disegnaStratigrafia(const project::DatiProgetto& dati, double altezzaPagina = altezzaPaginaA4);
 
-/// Draws the layers of `Progetto`, or tells why that can't be: no project is open, or it has no
-/// layers.
+/// Draws the layers of `Progetto`, or tells why that can't be: no project is open, it has no
+/// layers, or the page is too low to show them.
 /// @return true when there is a drawing
 [[nodiscard]] bool disegnaStratigrafia(base::Dialogo& dialogo,
                                        double altezzaPagina = altezzaPaginaA4);

@@ -113,6 +113,7 @@ void GRAFICA::tutto() {
 }
 
 void GRAFICA::ridisegna() {
+    if (plot::LavoroDisegno::inCorso()) return attesaRidisegno_.start();
     if (!isVisible() || area_->size() == areaDisegnata_) return;
     conAvviso(dialogo_, [] {
         const plot::Riquadro& zoom = plot::statoPlot.rettangoloZoom;

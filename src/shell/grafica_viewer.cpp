@@ -27,6 +27,7 @@ VisoreDisegni::VisoreDisegni(QWidget& principale, PorteGrafica& porte, base::Dia
       superficie_([this] { return apri(); }, [this] { forma_->mostraDisegno(); }) {
     plot::statoPlot.superficie = &superficie_;
     plot::statoPlot.metrica = &metrica_;
+    plot::statoPlot.sorveglia = &sorveglianza_;
     principale_.installEventFilter(this);
     connect(qApp, &QGuiApplication::commitDataRequest, this, [this] { fineSessione_ = true; });
 }
@@ -34,6 +35,7 @@ VisoreDisegni::VisoreDisegni(QWidget& principale, PorteGrafica& porte, base::Dia
 VisoreDisegni::~VisoreDisegni() {
     if (plot::statoPlot.superficie == &superficie_) plot::statoPlot.superficie = nullptr;
     if (plot::statoPlot.metrica == &metrica_) plot::statoPlot.metrica = nullptr;
+    if (plot::statoPlot.sorveglia == &sorveglianza_) plot::statoPlot.sorveglia = nullptr;
 }
 
 plot::SpazioDisegno VisoreDisegni::apri() {
@@ -59,6 +61,10 @@ bool VisoreDisegni::eventFilter(QObject* oggetto, QEvent* evento) {
 
 void VisoreDisegni::attendi() {
     if (forma_ && forma_->isVisible()) attesa_.exec();
+}
+
+void VisoreDisegni::chiudi() {
+    if (forma_) forma_->close();
 }
 
 void VisoreDisegni::chiusa() {

@@ -7,6 +7,7 @@
 #include "base/dialogo.hpp"
 #include "device/drawing_fonts.hpp"
 #include "device/screen_surface.hpp"
+#include "shell/drawing_watch_qt.hpp"
 #include "shell/grafica.hpp"
 #include "shell/grafica_ports.hpp"
 
@@ -28,6 +29,9 @@ class VisoreDisegni : public QObject {
     /// Returns when the form has been closed; at once when it does not stand.
     void attendi();
 
+    /// Closes the form, if it stands.
+    void chiudi();
+
     /// The form; nullptr as long as nothing was drawn. It is hidden when it was closed.
     [[nodiscard]] GRAFICA* forma() { return forma_.get(); }
     [[nodiscard]] const QImage& immagine() const { return superficie_.immagine(); }
@@ -43,6 +47,7 @@ class VisoreDisegni : public QObject {
     PorteGrafica& porte_;
     base::Dialogo& dialogo_;
     const device::MetricaQt metrica_;
+    SorveglianzaQt sorveglianza_;
     device::SuperficieSchermo superficie_;
     std::unique_ptr<GRAFICA> forma_;
     QEventLoop attesa_;

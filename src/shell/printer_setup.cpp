@@ -60,6 +60,8 @@ void collegaDisegni(commands::FormeProgramma& forme, QWidget& principale, base::
     };
     const auto disegni = std::make_shared<Disegni>(principale, dialogo, stampante);
     forme.grafica = [disegni] { disegni->visore.attendi(); };
+    forme.chiudiGrafica = [disegni] { disegni->visore.chiudi(); };
+    forme.altezzaPagina = [disegni] { return disegni->porte.foglioStampante().altezza; };
     forme.editacfg = [&principale, &dialogo] {
         DialoghiEditacfg porte;
         Editacfg(porte, dialogo, &principale).exec();

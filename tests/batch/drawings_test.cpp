@@ -8,6 +8,7 @@ namespace {
 
 using test::contenuto;
 using test::dice;
+using test::metti;
 
 class Disegni : public test::BancoConsole {
  protected:
@@ -142,6 +143,83 @@ TEST_F(Disegni, OfALogWithoutLayersAreRefused) {
     EXPECT_EQ(esito.codice, 1);
     EXPECT_TRUE(dice(esito.errori, "stratigrafia")) << esito.errori;
     EXPECT_EQ(nomi(), "muro.kvd ");
+}
+
+// A page of 21 cm: 28.5 - 21 + 0.1.
+TEST_F(Disegni, OfALogEndWhereThePaperDoes) {
+    const auto bordo = [this](const std::string& foglio) {
+        EXPECT_EQ(disegna("stratigrafia", {"--foglio", foglio, "--dxf", cartella / "l.dxf"}).codice,
+                  0);
+        return test::LettoreDxf::leggi(contenuto(cartella / "l.dxf")).ymin;
+    };
+    EXPECT_DOUBLE_EQ(bordo("A4-orizzontale"), 7.6);
+    EXPECT_DOUBLE_EQ(bordo("A5"), 7.6);
+    EXPECT_DOUBLE_EQ(bordo("Letter"), 0.66);
+    EXPECT_DOUBLE_EQ(bordo("A3"), 0.6);
+    const auto a4 = contenuto(cartella / "l.dxf");
+    EXPECT_EQ(disegna("stratigrafia", {"--dxf", cartella / "l.dxf"}).codice, 0);
+    EXPECT_EQ(contenuto(cartella / "l.dxf"), a4);
+    EXPECT_EQ(disegna("stratigrafia", {"--foglio", "A9", "--dxf", cartella / "l.dxf"}).codice, 2);
+}
+
+TEST_F(Disegni, OfALogOnALyingSheetHaveThatForTheirPage) {
+    EXPECT_EQ(
+        disegna("stratigrafia", {"--foglio", "A4-orizzontale", "--pdf", cartella / "l.pdf"}).codice,
+        0);
+    EXPECT_TRUE(dice(contenuto(cartella / "l.pdf"), "/MediaBox [0 0 842"));
+}
+
+TEST_F(Disegni, OfALogOfKilometresAreRefusedByLayerAndDepth) {
+    auto dati = test::progettoSemplice();
+    dati.profStrato[1] = 45000;
+    scrivi(dati);
+    const auto esito = disegna("stratigrafia", {"--dxf", cartella / "l.dxf", "--json"});
+    EXPECT_EQ(esito.codice, 1);
+    EXPECT_TRUE(dice(esito.errori, "strato 1: Prof. [m] = 45000: ")) << esito.errori;
+    EXPECT_TRUE(dice(esito.uscita, "strato 1: Prof. [m] = 45000: ")) << esito.uscita;
+    EXPECT_EQ(nomi(), "muro.kvd ");
+
+    const auto tutto = esegui("tutto", {"--uscita", cartella / "o", "--formati", "dxf"});
+    EXPECT_EQ(tutto.codice, 1);
+    EXPECT_TRUE(dice(tutto.errori, "strato 1: Prof. [m] = 45000: ")) << tutto.errori;
+    for (const char* nome : {"pressioni", "spostamenti", "momenti", "taglio", "sezione"})
+        EXPECT_TRUE(std::filesystem::exists(cartella / ("o/muro-" + std::string(nome) + ".dxf")));
+    EXPECT_FALSE(std::filesystem::exists(cartella / "o/muro-stratigrafia.dxf"));
+}
+
+// An installed program lies in a folder that its user may not write.
+TEST_F(Disegni, NeedNoStyleFileInAProgramFolderThatCannotBeWritten) {
+    const test::CartellaProvvisoria programma;
+    std::filesystem::copy_file(
+        std::filesystem::path(KORVEN_CONSOLE).parent_path() / "module06ita.CFG",
+        programma / "module06ita.CFG");
+    std::filesystem::permissions(programma.percorso(), std::filesystem::perms(0555));
+    const auto esito = console(
+        {"sezione", progetto, "--dxf", cartella / "s.dxf", "--cartella", programma.percorso()},
+        {.senzaPrivilegi = true});
+    std::filesystem::permissions(programma.percorso(), std::filesystem::perms(0755));
+    EXPECT_EQ(esito.codice, 0) << esito.errori;
+    EXPECT_EQ(test::LettoreDxf::leggi(contenuto(cartella / "s.dxf")).stile, "MONOTXT");
+    EXPECT_FALSE(std::filesystem::exists(programma / "dxf.cfg"));
+}
+
+// The pens write in a face whose widths only its font knows.
+TEST_F(Disegni, OfUnusualFacesAreTheSameWhateverElseIsWritten) {
+    const test::CartellaProvvisoria programma;
+    const auto mio = std::filesystem::path(KORVEN_CONSOLE).parent_path();
+    for (const char* nome : {"set1.rtn", "set2.rtn", "set3ita.rtn", "set4.rtn"})
+        std::filesystem::copy_file(mio / nome, programma / nome);
+    std::string penne = contenuto((mio / "module06ita.CFG").string());
+    for (std::size_t i = penne.find("Arial"); i != std::string::npos; i = penne.find("Arial", i))
+        penne.replace(i, 5, "Times New Roman");
+    metti(programma / "module06ita.CFG", penne);
+    const std::vector<std::string> qui = {"--cartella", programma.percorso()};
+    auto solo = qui, conPdf = qui;
+    solo.insert(solo.end(), {"--dxf", cartella / "a.dxf"});
+    conPdf.insert(conPdf.end(), {"--dxf", cartella / "b.dxf", "--pdf", cartella / "b.pdf"});
+    EXPECT_EQ(disegna("stratigrafia", solo).codice, 0);
+    EXPECT_EQ(disegna("stratigrafia", conPdf).codice, 0);
+    EXPECT_EQ(contenuto(cartella / "a.dxf"), contenuto(cartella / "b.dxf"));
 }
 
 TEST_F(Disegni, AreNamedInTheAnswerForScripts) {

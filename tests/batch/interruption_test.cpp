@@ -82,6 +82,29 @@ TEST(Interruzioni, GiveTheSignalsBackAtTheirEnd) {
 
 using Interruzione = test::BancoConsole;
 
+// The first layer reaches 490 m, the last 1 cm: a hatch of ten kilometres of paper.
+TEST_F(Interruzione, EndsADrawingThatNobodyWouldWaitForWithoutATrace) {
+    auto dati = test::progettoSemplice();
+    dati.profStrato[1] = 490;
+    dati.profStrato[2] = 0.01;
+    dati.descrStrato[1] = "103 sabbia";
+    scrivi(dati);
+    const test::CartellaProvvisoria provvisoria;
+    for (const int segnale : {SIGINT, SIGTERM, SIGHUP}) {
+        ProgrammaInCorso corsa(KORVEN_CONSOLE,
+                               {"stratigrafia", progetto, "--dxf", cartella / "l.dxf"},
+                               {.variabili = {{"TMPDIR", provvisoria.percorso()}}});
+        ASSERT_TRUE(corsa.aspettaSegnale(segnale));
+        std::this_thread::sleep_for(std::chrono::milliseconds(50));  // any moment will do
+        corsa.segnale(segnale);
+        const auto esito = corsa.attendi();
+        EXPECT_EQ(esito.codice, 1);
+        EXPECT_EQ(esito.errori, "korven32c: Disegno interrotto dall'utente.\n");
+        EXPECT_EQ(nomi(), "muro.kvd ");
+        EXPECT_TRUE(std::filesystem::is_empty(provvisoria.percorso()));
+    }
+}
+
 // Whenever the interrupt comes, what stands afterwards is whole, and the exit code tells it.
 TEST_F(Interruzione, LeavesWholeFilesAndIsNeverSwallowedAtAnyMoment) {
     const std::vector<std::string> comando = {"relazione", progetto, "--txt"};

@@ -11,7 +11,10 @@
 #include <unistd.h>
 
 #include <array>
+#include <chrono>
+#include <fstream>
 #include <stdexcept>
+#include <thread>
 
 namespace korven::test {
 
@@ -104,6 +107,19 @@ ProgrammaInCorso::~ProgrammaInCorso() {
 }
 
 void ProgrammaInCorso::segnale(int numero) const { ::kill(processo_, numero); }
+
+bool ProgrammaInCorso::aspettaSegnale(int numero) const {
+    const std::string stato = "/proc/" + std::to_string(processo_) + "/status";
+    for (int i = 0; i < 1000; ++i) {
+        std::ifstream righe(stato);
+        for (std::string riga; std::getline(righe, riga);)
+            if (riga.starts_with("SigCgt:") &&
+                (std::stoull(riga.substr(7), nullptr, 16) >> (numero - 1) & 1) != 0)
+                return true;
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    }
+    return false;
+}
 
 EsitoProgramma ProgrammaInCorso::attendi() {
     EsitoProgramma esito;

@@ -10,6 +10,7 @@
 #include "base/value_error.hpp"
 #include "plot/plot_engine.hpp"
 #include "project/project_file.hpp"
+#include "report/hatch_library.hpp"
 #include "support/document_ports.hpp"
 #include "support/hatch_files.hpp"
 #include "support/plot_setup.hpp"
@@ -122,6 +123,7 @@ class ProduciDisegni : public Produci {
     ProduciDisegni() {
         plot::scriviConfigurazione(ambiente.programma / "module06ita.cfg",
                                    test::configurazioneDiProva());
+        report::dimenticaCampiture();  // those of another test's folder
         plot::statoPlot = {};
     }
     ~ProduciDisegni() override { plot::statoPlot = {}; }
@@ -144,6 +146,30 @@ TEST_F(ProduciDisegni, DrawTheSectionWithoutARun) {
     esegui(Comando::graficaStruttura);
     EXPECT_EQ(viste, 1);
     EXPECT_EQ(avanzamento.aperture, 0);
+    EXPECT_TRUE(dialogo.messaggi.empty());
+}
+
+// A page 21 cm high: 28.5 - 21 + 0.1.
+TEST_F(ProduciDisegni, DrawTheLogForThePageOfThePrinter) {
+    test::scriviLibreria(ambiente.programma, {});
+    forme.altezzaPagina = [] { return 21.0; };
+    esegui(Comando::graficaStratigrafia);
+    EXPECT_EQ(viste, 1);
+    EXPECT_DOUBLE_EQ(plot::statoPlot.estensione.ymin, 7.6);
+}
+
+TEST_F(ProduciDisegni, TakeAwayTheViewerOfALogThatItsUserStops) {
+    struct Fermo : plot::SorvegliaDisegno {
+        bool fermare() override { return plot::statoPlot.archivio.lineeInMemoria().size() >= 5; }
+    } fermo;
+    test::scriviLibreria(ambiente.programma, {});
+    plot::statoPlot.sorveglia = &fermo;
+    int tolte = 0;
+    forme.chiudiGrafica = [&tolte] { ++tolte; };
+    esegui(Comando::graficaStratigrafia);
+    EXPECT_EQ(viste, 0);
+    EXPECT_EQ(tolte, 1);
+    EXPECT_TRUE(plot::statoPlot.archivio.lineeInMemoria().empty());
     EXPECT_TRUE(dialogo.messaggi.empty());
 }
 

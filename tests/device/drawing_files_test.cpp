@@ -4,13 +4,21 @@
 
 #include <QFontMetricsF>
 #include <QImage>
+#include <QPainter>
 #include <QString>
+#include <QSvgRenderer>
+#include <QXmlStreamReader>
+#include <cmath>
+#include <filesystem>
 #include <optional>
 
 #include "base/code_page.hpp"
 #include "base/file_error.hpp"
 #include "device/drawing_fonts.hpp"
+#include "device/drawing_painter.hpp"
 #include "device/graphics_session.hpp"
+#include "plot/drawing_stop.hpp"
+#include "plot/plot_dxf.hpp"
 #include "plot/plot_engine.hpp"
 #include "support/drawing_by_pen.hpp"
 #include "support/ink.hpp"
@@ -140,27 +148,126 @@ TEST_F(File, HoldTheTextsOfAnSvgAsTexts) {
 TEST_F(File, ThatCannotBeWrittenAreAnError) {
     apri();
     plotMuovi(0, 0, fineDisegno);
-    for (const auto scrivi : {scriviPdf, scriviSvg})
-        EXPECT_THROW(scrivi(cartella / "manca/disegno"), base::ErroreFile);
+    EXPECT_THROW(scriviPdf(cartella / "manca/disegno"), base::ErroreFile);
+    EXPECT_THROW(scriviSvg(cartella / "manca/disegno"), base::ErroreFile);
     EXPECT_THROW(scriviPng(cartella / "manca/disegno", 100), base::ErroreFile);
+}
+
+// How far a text reaches that is painted at height 1 [cm].
+double inchiostro(const char* carattere, const std::string& testo) {
+    constexpr double pixelCm = 40;
+    plot::ArchivioDisegno archivio;
+    archivio.aggiungi(plot::TestoPlot{0.1, 0.5, 1, 0, 1, testo, plot::nero, carattere});
+    QImage immagine(static_cast<int>(38 * pixelCm), static_cast<int>(2 * pixelCm),
+                    QImage::Format_RGB32);
+    immagine.fill(Qt::white);
+    QPainter painter(&immagine);
+    PittoreDisegno(painter, {0, 0, 38, 2}, pixelCm, 1).dipingi(archivio);
+    painter.end();
+    return test::macchia(immagine).larghezza() / pixelCm;
+}
+
+// Twenty times the same between two letters of which both ends are seen.
+double larghezzaDipinta(const char* carattere, const std::string& lettera) {
+    constexpr int volte = 20;
+    std::string testo = "H";
+    for (int i = 0; i < volte; ++i) testo += lettera;
+    return (inchiostro(carattere, testo + 'H') - inchiostro(carattere, "HH")) / volte;
 }
 
 TEST_F(File, AreWrittenInFontsOfTheWidthsThatAreMeasured) {
     for (const char* carattere : {"Arial", "Courier New"}) {
-        const QFont font = fontDisegno(carattere);
         for (int byte = 32; byte < 256; ++byte) {
             if (byte == 127 || byte == 173) continue;  // no characters that are shown
             const std::string lettera = base::daCp1252(std::string(1, static_cast<char>(byte)));
             if (lettera.empty() || lettera == "\xEF\xBF\xBD") continue;
             const QString scritta = QString::fromStdString(lettera);
             if (scritta.at(0).unicode() >= 128 && scritta.at(0).unicode() < 160) continue;
-            const double corpo = corpoPerRiga(font, rigaPerAltezza);
-            const double vera =
-                QFontMetricsF(font).horizontalAdvance(scritta) / font.pixelSize() * corpo;
-            EXPECT_NEAR(MetricaQt().larghezza(carattere, 1, lettera), vera, 0.003)
+            EXPECT_NEAR(larghezzaDipinta(carattere, lettera),
+                        MetricaQt().larghezza(carattere, 1, lettera), 0.003)
                 << carattere << ' ' << byte << ' ' << lettera;
         }
     }
+}
+
+// No font has the width of this letter, which is measured as a question mark.
+TEST_F(File, HaveTextsAsWideAsMeasuredWhateverTheFont) {
+    EXPECT_NEAR(larghezzaDipinta("Arial", "Ω"), MetricaQt().larghezza("Arial", 1, "?"), 0.003);
+    EXPECT_EQ(stiramento("Arial", "Pietà"), 1) << "the letters of its own font are left alone";
+    EXPECT_EQ(stiramento("Times New Roman", "Ω"), 1);
+}
+
+// Strips of three rows.
+TEST_F(File, LookTheSameInHoweverManyStripsTheyArePainted) {
+    apri();
+    for (int i = 2; i <= 30; ++i) {  // pen 1 is as thin as a pixel
+        plot::plotPenna(i);
+        plotMuovi(0.3 * i, 0.1 * i, pennaSu);
+        plotMuovi(10 - 0.25 * i, 5 - 0.15 * i, pennaGiu);
+        plotMuovi(9, 0.17 * i, pennaGiu);
+    }
+    plot::plotPenna(5);
+    plot::plotSimbolo(2, 3, 1, "Città", 30, 5);
+    const QImage intera = immagine();
+    scriviPng(cartella / "fasce.png", puntiPerPollice, 3 * 4 * 1000);
+    const QImage fasce(QString::fromStdString(cartella / "fasce.png"));
+    ASSERT_EQ(fasce.size(), intera.size());
+    EXPECT_EQ(fasce.dotsPerMeterX(), intera.dotsPerMeterX());
+    int diversi = 0;
+    for (int y = 0; y < intera.height(); ++y)
+        for (int x = 0; x < intera.width(); ++x)
+            diversi += std::abs(qGray(intera.pixel(x, y)) - qGray(fasce.pixel(x, y))) > 2 ? 1 : 0;
+    EXPECT_EQ(diversi, 0);
+}
+
+TEST_F(File, AreGivenUpWithoutATraceWhenSomebodyWantsTheEnd) {
+    struct Fermo : plot::SorvegliaDisegno {
+        bool fermare() override { return true; }
+    } fermo;
+    apri();
+    plotMuovi(5, 3, pennaGiu);
+    plotMuovi(0, 0, fineDisegno);
+    plot::statoPlot.sorveglia = &fermo;
+    EXPECT_THROW(scriviPdf(cartella / "d"), plot::DisegnoInterrotto);
+    EXPECT_THROW(scriviSvg(cartella / "d"), plot::DisegnoInterrotto);
+    EXPECT_THROW(scriviPng(cartella / "d", 100), plot::DisegnoInterrotto);
+    EXPECT_THROW(plot::plotDxf(cartella / "d"), plot::DisegnoInterrotto);
+    EXPECT_TRUE(std::filesystem::is_empty(cartella.percorso()));
+}
+
+TEST_F(File, OfSvgAreWellFormedWhateverATextHolds) {
+    apri();
+    plot::plotSimbolo(2, 3, 1, "a<b & \"c\"\x01\x1B>", 0, 9);
+    plotMuovi(0, 0, fineDisegno);
+    scriviSvg(cartella / "d.svg");
+    QXmlStreamReader xml(QByteArray::fromStdString(test::contenuto(cartella / "d.svg")));
+    QString letto;
+    while (!xml.atEnd())
+        if (xml.readNext() == QXmlStreamReader::StartElement && xml.name() == QLatin1String("text"))
+            letto = xml.readElementText();
+    EXPECT_FALSE(xml.hasError()) << xml.errorString().toStdString();
+    EXPECT_EQ(letto.toStdString(), "a<b & \"c\"\xEF\xBF\xBD\xEF\xBF\xBD>");
+}
+
+// The reader of the system paints it: at 100 pixels to the centimetre.
+TEST_F(File, OfSvgShowTheDrawingAtItsPlace) {
+    apri();
+    plot::plotPenna(20);  // 2 mm
+    plotMuovi(2, 3, pennaSu);
+    plotMuovi(6, 3, pennaGiu);
+    plotMuovi(6, 4, pennaGiu);
+    plotMuovi(0, 0, fineDisegno);
+    scriviSvg(cartella / "d.svg");
+    QImage immagine(1000, 500, QImage::Format_RGB32);
+    immagine.fill(Qt::white);
+    QPainter painter(&immagine);
+    QSvgRenderer(QString::fromStdString(cartella / "d.svg")).render(&painter);
+    painter.end();
+    const Macchia m = test::macchia(immagine);
+    EXPECT_NEAR(m.sinistra, 190, 1);
+    EXPECT_NEAR(m.destra, 609, 1);
+    EXPECT_NEAR(m.sotto, 209, 1);
+    EXPECT_NEAR(m.sopra, 90, 1);
 }
 
 TEST_F(File, OfUnknownFacesAreMeasuredInTheFontThatStandsInForThem) {

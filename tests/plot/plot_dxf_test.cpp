@@ -50,11 +50,21 @@ TEST_F(PlotDxf, StyleIsTheFirstLineOfItsFile) {
     EXPECT_FALSE(std::filesystem::exists(programma / "dxf.cfg"));
 }
 
-TEST_F(PlotDxf, BlankStyleIsTheDefaultAndAnEmptyFileAnError) {
+TEST_F(PlotDxf, BlankStyleIsTheDefault) {
     test::metti(programma / "dxf.cfg", "  \r\n");
     EXPECT_EQ(leggiStileTesti(), "MONOTXT");
+}
+
+TEST_F(PlotDxf, AnEmptyStyleFileCountsAsMissing) {
     test::metti(programma / "dxf.cfg", "");
-    EXPECT_THROW((void)leggiStileTesti(), base::ErroreFile);
+    EXPECT_EQ(leggiStileTesti(), "MONOTXT");
+    EXPECT_EQ(test::contenuto(programma / "dxf.cfg"), "MONOTXT\r\n");
+}
+
+// A folder of that name lets nobody make the file, not even an administrator.
+TEST_F(PlotDxf, AStyleFileThatCannotBeMadeIsNoError) {
+    std::filesystem::create_directories(programma / "dxf.cfg/occupata");
+    EXPECT_EQ(leggiStileTesti(), "MONOTXT");
 }
 
 TEST_F(PlotDxf, StyleIsHeldForTheRun) {

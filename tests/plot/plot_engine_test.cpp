@@ -3,13 +3,13 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <csignal>
 #include <limits>
 
 #include "base/file_error.hpp"
 #include "base/table.hpp"
 #include "plot/drawing_stop.hpp"
 #include "plot/spill_files.hpp"
+#include "support/plot_record.hpp"
 #include "support/plot_setup.hpp"
 
 namespace korven::plot {
@@ -282,13 +282,36 @@ TEST_F(PlotEngine, LabelWidthIsThatOfTheFontInUseUnlessADeviceMeasures) {
     EXPECT_EQ(larghezzaTesto(0.2, "iii"), 2);
 }
 
+struct SempreFermo : SorvegliaDisegno {
+    void inizia() override { ++iniziati; }
+    bool fermare() override { return true; }
+    void finita() override { ++finiti; }
+    int iniziati = 0, finiti = 0;
+};
+
 TEST_F(PlotEngine, AnInterruptEndsADrawingAtItsNextLine) {
-    const volatile std::sig_atomic_t interruzione = 1;
     plotApri(0, 0, 10, 10);
     plotPenna(1);
-    statoPlot.interruzione = &interruzione;
+    SempreFermo sorveglia;
+    statoPlot.sorveglia = &sorveglia;
     plotMuovi(1, 1, pennaSu);
     EXPECT_THROW(plotMuovi(2, 2, pennaGiu), DisegnoInterrotto);
+}
+
+TEST_F(PlotEngine, AnInterruptEndsAReplayWithThePartThatIsShown) {
+    plotApri(0, 0, 10, 10);
+    plotPenna(1);
+    test::tracciaLinee(2);
+    plotMuovi(0, 0, fineDisegno);
+    test::SuperficieRegistrata superficie({1000, 1000, 50});
+    statoPlot.superficie = &superficie;
+    SempreFermo sorveglia;
+    statoPlot.sorveglia = &sorveglia;
+    EXPECT_THROW(plotTutto(), DisegnoInterrotto);
+    EXPECT_EQ(superficie.eventi.back(), "show");
+    EXPECT_EQ(sorveglia.iniziati, 1);
+    EXPECT_EQ(sorveglia.finiti, 1);
+    EXPECT_FALSE(LavoroDisegno::inCorso());
 }
 
 }  // namespace

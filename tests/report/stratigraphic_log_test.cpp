@@ -184,6 +184,16 @@ TEST_F(StratigrafiaComando, IsRefusedWithoutLayers) {
         "Non e' possibile produrre un output grafico prima di aver introdotto la stratigrafia.");
 }
 
+// 28.5 - 8.1 + 0.1 is a lower edge of 20.5, just under the heads of the columns.
+TEST_F(StratigrafiaComando, IsRefusedOnAPageThatHasNoRoomForLayers) {
+    EXPECT_FALSE(disegnaStratigrafia(dialogo, 8.1));
+    ASSERT_EQ(dialogo.messaggi.size(), 1u);
+    EXPECT_EQ(dialogo.messaggi[0].testo,
+              "Il foglio della stampante è troppo basso per la colonna stratigrafica: sceglierne "
+              "uno più alto di 8.1 cm.");
+    EXPECT_TRUE(disegnaStratigrafia(dialogo, 8.2));
+}
+
 TEST_F(StratigrafiaComando, IsRefusedWhenTheLastLayerEndsAtTheGround) {
     project::Progetto.profStrato[3] = 0;
     aspettaRifiuto(

@@ -35,6 +35,8 @@ class ProgrammaInCorso {
     ~ProgrammaInCorso();
 
     void segnale(int numero) const;
+    /// True once the program has a handler of its own for the signal. @return false after 10 s
+    [[nodiscard]] bool aspettaSegnale(int numero) const;
     /// Reads both outputs to their ends and waits for the program.
     EsitoProgramma attendi();
 

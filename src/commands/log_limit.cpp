@@ -1,0 +1,25 @@
+#include "commands/log_limit.hpp"
+
+#include <algorithm>
+#include <cmath>
+
+#include "commands/review_list.hpp"
+
+namespace korven::commands {
+
+std::string rifiutoStratigrafia(const project::DatiProgetto& dati) {
+    double alto = 0, basso = 0;
+    int lontano = 1;
+    for (int i = 1; i <= dati.nStrati; ++i) {
+        const double profondita = dati.profStrato[i];
+        alto = std::min(alto, profondita);
+        basso = std::max(basso, profondita);
+        if (std::abs(profondita) > std::abs(dati.profStrato[lontano])) lontano = i;
+    }
+    if (basso - alto <= massimaAltezzaStratigrafia) return {};
+    return rigaCampo("strato", lontano, "Prof. [m]", dati.profStrato[lontano],
+                     "la colonna stratigrafica non è disegnata oltre i 500 m di altezza: "
+                     "correggere la profondità");
+}
+
+}  // namespace korven::commands
