@@ -3,7 +3,7 @@
 
 #include "base/translated_texts.hpp"
 #include "plot/sheet.hpp"
-#include "structure/dimension_lines.hpp"
+#include "structure/dimension_placing.hpp"
 #include "structure/section_drawing.hpp"
 #include "structure/section_views.hpp"
 
@@ -12,6 +12,7 @@ namespace korven::structure {
 namespace {
 
 constexpr double striscia = 200;  // [cm]
+constexpr double mezzaStriscia = striscia / 2 * scalaSezione;
 
 // One face of the wall with its row of bars. `verso` leads from the face into the wall: 1 uphill,
 // where the face is on the left, -1 downhill.
@@ -34,44 +35,60 @@ double yFerro(const Faccia& faccia, int k) {
     return yVista + (primo + k) * faccia.interasse * scalaSezione;
 }
 
-void richiamo(const Faccia& faccia, double xOggetto, double y, std::string_view testo) {
-    if (faccia.verso > 0)
-        richiamoASinistra(xOggetto, faccia.x, y, testo);
-    else
-        richiamoADestra(xOggetto, faccia.x, y, testo);
-}
+Lato lato(const Faccia& faccia) { return faccia.verso > 0 ? Lato::monte : Lato::valle; }
 
 std::string conLato(std::string_view didascalia, const Faccia& faccia, double centimetri) {
     return base::traduttore(didascalia) + ' ' + base::traduttore(faccia.lato) + " =" +
            testoMisura(centimetri);
 }
 
-void quotaInterasse(const Faccia& faccia) {
-    const std::string testo = testoQuota(faccia.didascaliaInterasse, faccia.interasse);
+Candidate quotaInterasse(const Faccia& faccia) {
+    const Scritta testo = testoQuota(faccia.didascaliaInterasse, faccia.interasse);
     const int n = numeroFerri(faccia.interasse);
-    if (n < 2) return richiamo(faccia, faccia.x, yVista, testo);
+    if (n < 2) {
+        Candidate quote;
+        for (const double y : {yVista + 1, yVista - 1})  // the only bar lies in the middle
+            aggiungi(quote, richiami(lato(faccia), {faccia.x, y}, faccia.x, testo));
+        return quote;
+    }
     const int k = n / 2 - 1;
-    constexpr double distanza = 0.8;
-    quotaVerticale(yFerro(faccia, k), yFerro(faccia, k + 1), faccia.x - faccia.verso * distanza,
-                   faccia.x, testo);
+    const double y1 = yFerro(faccia, k), y2 = yFerro(faccia, k + 1);
+    constexpr double distanza = 0.8, vicino = 0.4;
+    auto quote = quoteVerticali(y1, y2, faccia.x - faccia.verso * distanza, faccia.x, testo);
+    aggiungi(quote, quoteVerticali(y1, y2, faccia.x - faccia.verso * vicino, faccia.x, testo));
+    return quote;
 }
 
-void disegnaFaccia(const Faccia& faccia) {
+// Between two bars, so that the strokes stand clear of the marks, the lowest pair first.
+std::vector<double> altezzeCopriferro(const Faccia& faccia) {
+    const int n = numeroFerri(faccia.interasse);
+    if (n < 2) return {yVista - 3, yVista + 3, yVista - 2, yVista + 2, yVista - 4, yVista + 4};
+    const double mezzo = faccia.interasse * scalaSezione / 2;
+    const double primo = yFerro(faccia, 0), ultimo = yFerro(faccia, n - 1);
+    return {primo + mezzo,      ultimo - mezzo,    primo - mezzo / 2,
+            ultimo + mezzo / 2, primo + mezzo / 2, ultimo - mezzo / 2};
+}
+
+Candidate quotaCopriferro(const Faccia& faccia, double bordoFerri) {
+    const Scritta testo = conLato("Copriferro", faccia, faccia.copriferro);
+    Candidate quote;
+    for (const double y : altezzeCopriferro(faccia))
+        aggiungi(quote, richiamiConMisura(lato(faccia), {bordoFerri, y}, faccia.x, testo));
+    return quote;
+}
+
+void disegnaFaccia(const Faccia& faccia, Disposizione& posti) {
     const double raggio = faccia.diametro / 2 * scalaSezione;
     const double bordoFerri = faccia.x + faccia.verso * faccia.copriferro * scalaSezione;
     const double xFerri = bordoFerri + faccia.verso * raggio;
     const int n = numeroFerri(faccia.interasse);
     for (int k = 0; k < n; ++k) plot::disegnaCerchio(xFerri, yFerro(faccia, k), raggio);
 
-    constexpr double mezzaStriscia = striscia / 2 * scalaSezione;
     const double yAlto = n > 0 ? yFerro(faccia, n - 1) : yVista + mezzaStriscia - 0.5;
-    richiamo(faccia, xFerri, yAlto, conLato("Diametro ferri", faccia, faccia.diametro));
-    quotaInterasse(faccia);
-    // Between the lower edge and the first bar, so that the strokes stand clear of the marks.
-    const double yBasso = n > 1 ? (yFerro(faccia, 0) + yFerro(faccia, 1)) / 2 : yVista - 3;
-    richiamo(faccia, bordoFerri, yBasso, conLato("Copriferro", faccia, faccia.copriferro));
-    tacca(faccia.x, yBasso);
-    tacca(bordoFerri, yBasso);
+    posti.disponi({quotaInterasse(faccia),
+                   richiami(lato(faccia), {xFerri, yAlto}, faccia.x,
+                            conLato("Diametro ferri", faccia, faccia.diametro)),
+                   quotaCopriferro(faccia, bordoFerri)});
 }
 
 }  // namespace
@@ -79,19 +96,23 @@ void disegnaFaccia(const Faccia& faccia) {
 void vistaDiaframma(const project::Sezione& s) {
     const double mezza = s.spessoreDiaframma / 2 * scalaSezione;
     const double sinistra = xVista - mezza, destra = xVista + mezza;
-    constexpr double mezzaStriscia = striscia / 2 * scalaSezione;
     constexpr double sotto = yVista - mezzaStriscia, sopra = yVista + mezzaStriscia;
+    Disposizione posti;
     if (s.spessoreDiaframma > 0) {
         plot::linea(sinistra, sotto, destra, sotto);
         plot::linea(destra, sotto, destra, sopra);
         plot::linea(destra, sopra, sinistra, sopra);
         plot::linea(sinistra, sopra, sinistra, sotto);
+        posti.occupa({sinistra, sotto, destra, sopra});
     }
-    quotaOrizzontale(sinistra, destra, sopra + 0.6, sopra + 0.1, testoMisura(s.spessoreDiaframma));
+    posti.disponi({{quotaOrizzontale(sinistra, destra, sopra + 0.6, sopra + 0.1,
+                                     testoMisura(s.spessoreDiaframma))}});
     disegnaFaccia({sinistra, 1, s.copriferroMonte, s.interasseMonte, s.diametroMonte, "LATO MONTE",
-                   "Interasse monte"});
+                   "Interasse monte"},
+                  posti);
     disegnaFaccia({destra, -1, s.copriferroValle, s.interasseValle, s.diametroValle, "LATO VALLE",
-                   "Interasse valle"});
+                   "Interasse valle"},
+                  posti);
 }
 
 }  // namespace korven::structure

@@ -2,11 +2,45 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
-// Dimension lines of the section drawing. All positions in cm of the sheet; all are drawn with the
-// pen in use.
+#include "plot/geometry.hpp"
+#include "plot/sheet.hpp"
+
+// Dimension lines of the section drawing. All positions in cm of the sheet. A dimension is made
+// first and drawn when it has found its place (dimension_placing.hpp).
 
 namespace korven::structure {
+
+/// What lies between the turned names of the two sides, the title above and the box of the
+/// materials below: the dimensions and their texts keep to it.
+inline constexpr plot::Riquadro stanzaQuote{plot::x0 + 0.5, 2.6, plot::x0 + plot::larghQuadro - 0.5,
+                                            22};
+
+/// Which side of the section a leader leads to.
+enum class Lato { monte, valle };
+
+/// A text and how long it is in the pen in use, measured once for all the places that are tried.
+struct Scritta {
+    Scritta(const std::string& scritto);
+
+    std::string testo;
+    double lungo;  ///< [cm]
+};
+
+/// A dimension or a leader with its text.
+struct Quota {
+    std::vector<plot::Tratto> linee;
+    Scritta scritta;
+    plot::Punto posizione;  ///< start of the base line, or its middle
+    double angolo = 0;      ///< [degrees], 0 or 90
+    bool centrato = false;  ///< `posizione` is the middle
+
+    /// What the text takes up, accents and descenders included.
+    [[nodiscard]] plot::Riquadro riquadroTesto() const;
+    /// Draws it with the pen in use.
+    void disegna() const;
+};
 
 /// "Copriferro =50 [mm]": caption and value of a dimension.
 /// @param didascalia  Italian key
@@ -18,20 +52,25 @@ namespace korven::structure {
 
 /// A dimension from x1 to x2 at y, with extension lines from `yOggetto`; the text stands centred on
 /// the other side of it.
-void quotaOrizzontale(double x1, double x2, double y, double yOggetto, std::string_view testo);
+[[nodiscard]] Quota quotaOrizzontale(double x1, double x2, double y, double yOggetto,
+                                     const Scritta& scritta);
 
 /// A dimension from y1 to y2 at x, with extension lines from `xOggetto`; the text stands turned on
-/// the other side of it.
-void quotaVerticale(double y1, double y2, double x, double xOggetto, std::string_view testo);
+/// the other side of it, about its middle. An end beyond `stanzaQuote` is cut off there and ends in
+/// an arrow.
+[[nodiscard]] Quota quotaVerticale(double y1, double y2, double x, double xOggetto,
+                                   const Scritta& scritta);
 
-/// A line from a point of the section to the left or right edge of the frame, the text on it at
-/// that edge. A text that would reach the section is written smaller.
-/// @param xOggetto  where the line ends, with a short slanted stroke
-/// @param xLibero   the section begins here: the text stays on its side of it
-void richiamoASinistra(double xOggetto, double xLibero, double y, std::string_view testo);
-void richiamoADestra(double xOggetto, double xLibero, double y, std::string_view testo);
+/// A line from a point of the section, ended there by a short slanted stroke, to the edge of
+/// `stanzaQuote`, the text on it at that edge.
+/// @param y  height at which it runs level; it leaves a point of another height at 45 degrees
+[[nodiscard]] Quota richiamo(Lato lato, plot::Punto oggetto, double y, const Scritta& scritta);
+
+/// Such a line to x and from there up or down, the text turned along it.
+[[nodiscard]] Quota richiamoGirato(Lato lato, plot::Punto oggetto, double y, double x, bool inAlto,
+                                   const Scritta& scritta);
 
 /// A short upright stroke across a leader at x, where a dimension along it begins or ends.
-void tacca(double x, double y);
+[[nodiscard]] plot::Tratto tacca(double x, double y);
 
 }  // namespace korven::structure
