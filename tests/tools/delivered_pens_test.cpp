@@ -12,6 +12,7 @@
 #include "base/files.hpp"
 #include "base/language.hpp"
 #include "base/text_lines.hpp"
+#include "plot/dxf_colour.hpp"
 
 namespace korven {
 namespace {
@@ -191,6 +192,35 @@ TEST(DeliveredPens, HaveColoursThatEachReachALayerInDxf) {
             if (channel >= 64) levels.insert(channel >= 192 ? 255 : 128);
         EXPECT_EQ(levels.size(), 1u) << colour.name;
     }
+}
+
+int layerOf(const Configuration& all, std::size_t pen) {
+    const auto c = colourOf(all, pen);
+    return plot::livelloDxf(plot::daRgb(c[0], c[1], c[2])).value();
+}
+
+// DXF knows seven colours: the numbers of its layers (plot/dxf_tables.cpp), 7 is black or white as
+// the screen needs it.
+int dxfColourOf(const Configuration& all, std::size_t pen) {
+    constexpr int colours[] = {5, 3, 4, 1, 6, 2, 7, 7, 5, 3, 4, 1, 6, 2, 7};
+    return colours[layerOf(all, pen) - 1];
+}
+
+TEST(DeliveredPens, GiveTheFirstSixStagesSixColoursInDxfNoneOfThemThatOfTheAxes) {
+    const auto all = read(1);
+    std::set<int> colours;
+    for (std::size_t pen = 15; pen <= 20; ++pen) colours.insert(dxfColourOf(all, pen));
+    EXPECT_EQ(colours, (std::set<int>{1, 2, 3, 4, 5, 6}));
+}
+
+TEST(DeliveredPens, DrawTheLimitPressuresOnALayerOfTheirOwnInDxf) {
+    const auto all = read(1);
+    EXPECT_EQ(layerOf(all, 8), layerOf(all, 9));
+    for (std::size_t pen = 1; pen <= 30; ++pen)
+        if (pen != 8 && pen != 9) {
+            EXPECT_NE(layerOf(all, pen), layerOf(all, 8)) << all.pens[pen - 1].label;
+        }
+    EXPECT_EQ(dxfColourOf(all, 8), 7) << "seen on black and on white";
 }
 
 TEST(DeliveredPens, TellAnyTwoStagesApartInBlackAndWhiteByWidthOrLightness) {
