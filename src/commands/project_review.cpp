@@ -67,6 +67,8 @@ std::vector<Rilievo> esaminaProgetto(const DatiProgetto& dati) {
     controlloTiranti(dati, elenco);
     controlloFasi(dati, elenco);
     controlloSezione(dati, elenco);
+    controlloTitoli(dati, elenco);
+    controlloDescrizioni(dati, elenco);
     return elenco.ordinato();
 }
 

@@ -53,6 +53,12 @@ void controlloMostrati(const project::DatiProgetto& dati, ElencoRilievi& elenco)
 void controlloTiranti(const project::DatiProgetto& dati, ElencoRilievi& elenco);
 void controlloFasi(const project::DatiProgetto& dati, ElencoRilievi& elenco);
 
+/// The heading lines, of which report and drawings make something else than is typed.
+void controlloTitoli(const project::DatiProgetto& dati, ElencoRilievi& elenco);
+
+/// The descriptions of the layers, where the log has no room for them.
+void controlloDescrizioni(const project::DatiProgetto& dati, ElencoRilievi& elenco);
+
 /// The stiffness and the structural section.
 void controlloSezione(const project::DatiProgetto& dati, ElencoRilievi& elenco);
 

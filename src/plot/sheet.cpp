@@ -9,12 +9,18 @@
 
 namespace korven::plot {
 
+PostoTitolo titoloFoglio(int i) {
+    if (i == 1) return {xCentro, 26, 0.5};
+    return {xCentro, 26.5 - 0.5 * i, 0.3};
+}
+
 void apriFoglio(const base::Tabella<std::string, 6>& titoli, std::string_view titolo) {
     plotApri(0, 0, larghFoglio, altFoglio);
-    plotPenna(1);
-    testoCentrato(xCentro, 26, 0.5, titoli[1]);
-    plotPenna(2);
-    for (int i = 2; i <= 6; ++i) testoCentrato(xCentro, 26.5 - 0.5 * i, 0.3, titoli[i]);
+    for (int i = 1; i <= 6; ++i) {
+        if (i <= 2) plotPenna(i);
+        const auto [x, y, altezza] = titoloFoglio(i);
+        testoCentrato(x, y, altezza, titoli[i]);
+    }
     plotPenna(3);
     testoCentrato(xCentro, y0 + altQuadro + 0.3, 0.4, titolo);
 }

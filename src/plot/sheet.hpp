@@ -18,6 +18,14 @@ inline constexpr double larghQuadro = 17;  ///< frame width
 inline constexpr double altQuadro = 20;    ///< frame height
 inline constexpr double xCentro = x0 + larghQuadro / 2;
 
+/// Where a heading line stands: its middle x, its base line y, the height of its characters.
+struct PostoTitolo {
+    double x = 0, y = 0, altezza = 0;
+};
+
+/// Where this sheet has heading line `i`, 1 to 6.
+[[nodiscard]] PostoTitolo titoloFoglio(int i);
+
 /// Starts a drawing on that sheet with its head: the first heading line large in pen 1, the other
 /// five in pen 2 below it, and the title of the drawing in pen 3 above the frame.
 /// @param titolo  in the language in force

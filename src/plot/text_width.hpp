@@ -4,6 +4,9 @@
 
 namespace korven::plot {
 
+/// The typeface of all pens as they are delivered.
+inline constexpr std::string_view carattereConsegnato = "Arial";
+
 /// Measures texts with the fonts of the device that a drawing goes to.
 class MetricaTesto {
  public:

@@ -120,7 +120,9 @@ bool FieldModel::premi(Tasto tasto, base::Dialogo& dialogo) {
 }
 
 std::string FieldModel::lettura() const {
-    return numerica(attivo_) ? base::letturaMostrata(testo(attivo_)) : std::string();
+    if (scelta(attivo_)) return {};
+    if (numerica(attivo_)) return base::letturaMostrata(testo(attivo_));
+    return nota_ ? nota_(posto(attivo_), testi_) : std::string();
 }
 
 const std::string& FieldModel::aiuto() const { return maschera_.campi[attivo_].aiuto; }

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "base/dialogo.hpp"
@@ -66,8 +68,14 @@ class FieldModel {
     /// @return true when the focus moved
     bool premi(Tasto tasto, base::Dialogo& dialogo);
 
-    /// What the strip says of the number typed into the field that has the focus where it is read
-    /// otherwise than typed (base/number_reading.hpp); empty otherwise.
+    /// What somebody who knows the fields has to say of a text, told by its place behind the
+    /// choices and all texts; empty for nothing.
+    using Nota = std::function<std::string(std::size_t, const std::vector<std::string>&)>;
+    void annota(Nota nota) { nota_ = std::move(nota); }
+
+    /// What the strip says of what is typed into the field that has the focus: where a number is
+    /// read otherwise than typed (base/number_reading.hpp), or the note about a text; empty
+    /// otherwise.
     [[nodiscard]] std::string lettura() const;
     /// Text of the strip: the help of the field that has the focus.
     [[nodiscard]] const std::string& aiuto() const;
@@ -87,6 +95,7 @@ class FieldModel {
     std::vector<double> combo_;
     std::vector<std::string> testi_;
     std::size_t attivo_ = 0;
+    Nota nota_;
 };
 
 /// The help button of either form: with a help file the caller opens entry `voceAiuto(maschera)` of

@@ -7,6 +7,8 @@
 
 namespace korven::report {
 
+inline constexpr double larghezzaDescrizioni = 3.2;  ///< of their column [cm]
+
 /// The depth of each layer's foot, at a place of its own (label_spreading.hpp); slanted ticks tie
 /// it to the true depth.
 void disegnaProfondita(const Stratigrafia& stratigrafia, const Colonna& colonna);

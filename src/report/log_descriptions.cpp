@@ -1,3 +1,5 @@
+#include "report/log_descriptions.hpp"
+
 #include <string>
 #include <string_view>
 #include <vector>
@@ -45,11 +47,9 @@ void scriviGiustificata(double x, double y, double larghezza, std::string_view r
 
 class BloccoDescrizione {
  public:
-    BloccoDescrizione(std::string_view descrStrato, const Colonna& colonna)
+    BloccoDescrizione(std::string_view descrStrato, const Colonna& colonna, const Misura& misura)
         : strato_(leggiDescrizione(descrStrato)), colonna_(colonna) {
-        righe_ = adattaTesto(strato_.testo, larghezza(), [](std::string_view riga) {
-            return plot::larghezzaTesto(altezzaTesto, riga);
-        });
+        righe_ = adattaTesto(strato_.testo, larghezza(), misura);
     }
 
     [[nodiscard]] double altezza() const { return altezzaBlocco(righe_.size(), altezzaTesto); }
@@ -83,30 +83,57 @@ class BloccoDescrizione {
     std::vector<std::string> righe_;
 };
 
-}  // namespace
-
-namespace {
-
-BloccoDescrizione blocco(const Stratigrafia& stratigrafia, int i, const Colonna& colonna) {
+BloccoDescrizione blocco(const Stratigrafia& stratigrafia, int i, const Colonna& colonna,
+                         const Misura& misura) {
     try {
-        return {stratigrafia.dati.descrStrato[i], colonna};
+        return {stratigrafia.dati.descrStrato[i], colonna, misura};
     } catch (const base::ErroreIndice& errore) {  // which of up to a hundred layers
         throw base::ErroreIndice(base::traduttore("strato") + ' ' + std::to_string(i) + ": " +
                                  errore.what());
     }
 }
 
+// The texts of all layers, and where they stand.
+struct Disposizione {
+    Disposizione(const Stratigrafia& stratigrafia, const Colonna& colonna, const Misura& misura) {
+        for (int i = 1; i <= stratigrafia.dati.nStrati; ++i) {
+            testi.push_back(blocco(stratigrafia, i, colonna, misura));
+            blocchi.push_back({stratigrafia.yPiede(i), testi.back().altezza()});
+        }
+        bordi = disponiBlocchi(blocchi, testaTabella, piedeTabella);
+    }
+
+    std::vector<BloccoDescrizione> testi;
+    std::vector<Blocco> blocchi;
+    std::vector<double> bordi;  // lower edges
+};
+
 }  // namespace
 
 void disegnaDescrizioni(const Stratigrafia& stratigrafia, const Colonna& colonna) {
-    std::vector<BloccoDescrizione> testi;
-    std::vector<Blocco> blocchi;
-    for (int i = 1; i <= stratigrafia.dati.nStrati; ++i) {
-        testi.push_back(blocco(stratigrafia, i, colonna));
-        blocchi.push_back({stratigrafia.yPiede(i), testi.back().altezza()});
+    const Disposizione disposizione(stratigrafia, colonna, [](std::string_view riga) {
+        return plot::larghezzaTesto(altezzaTesto, riga);
+    });
+    for (std::size_t i = 0; i < disposizione.testi.size(); ++i)
+        disposizione.testi[i].disegna(disposizione.blocchi[i].piede, disposizione.bordi[i]);
+}
+
+std::vector<DescrizioneDisposta> disponiDescrizioni(const project::DatiProgetto& dati,
+                                                    const MisuraAltezza& misura) {
+    constexpr double tolleranza = 1e-9;  // a block that just fits
+    const Stratigrafia stratigrafia{
+        dati, ScalaProfondita(dati.profStrato[dati.nStrati], bordoInferiore(altezzaPaginaA4))};
+    const Colonna colonna{0, larghezzaDescrizioni};
+    const Disposizione disposizione(stratigrafia, colonna, [&misura](std::string_view riga) {
+        return misura(altezzaTesto, riga);
+    });
+    std::vector<DescrizioneDisposta> disposte;
+    for (std::size_t i = 0; i < disposizione.testi.size(); ++i) {
+        const double altezza = disposizione.blocchi[i].altezza;
+        disposte.push_back({static_cast<int>(i) + 1, altezza,
+                            disposizione.bordi[i] + altezza > testaTabella + tolleranza});
     }
-    const auto bordi = disponiBlocchi(blocchi, testaTabella, piedeTabella);
-    for (std::size_t i = 0; i < testi.size(); ++i) testi[i].disegna(blocchi[i].piede, bordi[i]);
+    return disposte;
 }
 
 }  // namespace korven::report

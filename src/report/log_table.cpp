@@ -8,6 +8,12 @@
 
 namespace korven::report {
 
+plot::PostoTitolo titoloStratigrafia(int i) {
+    constexpr double x = 10.5;
+    constexpr double altezza = 0.4;
+    return {x, i == 1 ? 27.9 : 28.1 - 0.25 * i, altezza};
+}
+
 void disegnaTestata(const Colonna& colonna, std::initializer_list<std::string_view> testate) {
     constexpr double altezza = 0.25;
     constexpr double inizio = 0.5;  // above the foot of the heads

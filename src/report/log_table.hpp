@@ -3,6 +3,7 @@
 #include <initializer_list>
 #include <string_view>
 
+#include "plot/sheet.hpp"
 #include "project/project_data.hpp"
 #include "report/log_scale.hpp"
 
@@ -25,6 +26,10 @@ inline constexpr int pennaColonna = 4;  ///< boxes, lines and texts in the colum
 inline constexpr int pennaProfilo = 30;
 
 inline constexpr double altezzaNumeriColonna = 0.2;
+
+/// Where the log has heading line `i`, 1 to 6: the first alone, the others so close below each
+/// other that of two neighbours the upper one is cut.
+[[nodiscard]] plot::PostoTitolo titoloStratigrafia(int i);
 
 struct Colonna {
     double sinistra = 0;

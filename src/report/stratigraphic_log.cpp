@@ -10,12 +10,11 @@ namespace korven::report {
 namespace {
 
 void disegnaIntestazione(const base::Tabella<std::string, 6>& titoli) {
-    constexpr double x = 10.5;
-    constexpr double altezza = 0.4;
-    plot::plotPenna(1);
-    plot::testoCentrato(x, 27.9, altezza, titoli[1]);
-    plot::plotPenna(2);
-    for (int i = 2; i <= 6; ++i) plot::testoCentrato(x, 28.1 - 0.25 * i, altezza, titoli[i]);
+    for (int i = 1; i <= 6; ++i) {
+        if (i <= 2) plot::plotPenna(i);
+        const auto [x, y, altezza] = titoloStratigrafia(i);
+        plot::testoCentrato(x, y, altezza, titoli[i]);
+    }
     plot::plotPenna(3);
     plot::testoCentrato(11, 25, 0.3, base::traduttore("DESCRIZIONE STRATIGRAFICO-GEOTECNICA"));
 }
@@ -28,10 +27,14 @@ struct ColonnaStratigrafia {
 
 constexpr double larghezzaProfilo = 9.6 / 3;
 constexpr ColonnaStratigrafia colonne[] = {
-    {"Profondità [m]", 1.2, disegnaProfondita}, {"stratigrafia", 1, disegnaGrafici},
-    {"descrizione", 3.2, disegnaDescrizioni},   {"falda [m]", 1, disegnaFalda},
-    {"", larghezzaProfilo, disegnaPesi},        {"", larghezzaProfilo, disegnaAttrito},
-    {"", larghezzaProfilo, disegnaCoesione},    {"scala [m]", 1, disegnaScala},
+    {"Profondità [m]", 1.2, disegnaProfondita},
+    {"stratigrafia", 1, disegnaGrafici},
+    {"descrizione", larghezzaDescrizioni, disegnaDescrizioni},
+    {"falda [m]", 1, disegnaFalda},
+    {"", larghezzaProfilo, disegnaPesi},
+    {"", larghezzaProfilo, disegnaAttrito},
+    {"", larghezzaProfilo, disegnaCoesione},
+    {"scala [m]", 1, disegnaScala},
 };
 
 void disegnaTabella(const Stratigrafia& stratigrafia) {

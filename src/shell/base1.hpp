@@ -29,6 +29,11 @@ class Base1 : public MaskForm {
           std::vector<std::string> testi, base::Dialogo& dialogo, GuidaForme guida, QWidget* padre);
 
     [[nodiscard]] const project::FieldModel& modello() const { return modello_; }
+    /// The strip shows the notes on texts too.
+    void annota(project::FieldModel::Nota nota) {
+        modello_.annota(std::move(nota));
+        spiega();
+    }
 
  protected:
     bool eventFilter(QObject* oggetto, QEvent* evento) override;

@@ -1,5 +1,6 @@
 #include "shell/mask_forms.hpp"
 
+#include "commands/heading_review.hpp"
 #include "project/mask_editing.hpp"
 #include "shell/base1.hpp"
 #include "shell/base2_32.hpp"
@@ -9,14 +10,16 @@ namespace korven::shell {
 void mostraForm(project::Maschere& maschere, base::Dialogo& dialogo, const GuidaForme& guida,
                 QWidget* padre) {
     const project::Maschera& maschera = maschere.corrente();
+    const auto numero = static_cast<project::NumeroMaschera>(maschere.numero());
     if (maschera.genere == project::GenereMaschera::campi) {
         Base1 forma(maschera, maschere.valoriCombo(), maschere.valoriTesto(), dialogo, guida,
                     padre);
+        if (numero == project::NumeroMaschera::titoli) forma.annota(commands::notaTitolo);
         if (forma.exec() == QDialog::Accepted)
             maschere.conferma(forma.modello().valoriCombo(), forma.modello().valoriTesto());
         return;
     }
-    const int capienza = project::capienza(static_cast<project::NumeroMaschera>(maschere.numero()));
+    const int capienza = project::capienza(numero);
     Base2_32 forma(maschera, maschere.valoriTesto(), dialogo, guida, padre, capienza);
     if (forma.exec() == QDialog::Accepted) maschere.conferma({}, forma.modello().valoriTesto());
 }

@@ -194,6 +194,10 @@ TEST(ModelloCampiLettura, TellsWhatTheNumberInUseIsReadAs) {
     modello.scrivi(2, "5");
     modello.passaA(3, dialogo);
     EXPECT_EQ(modello.lettura(), "") << "a text";
+    modello.annota([](std::size_t posto, const std::vector<std::string>& testi) {
+        return std::to_string(posto) + ": " + testi[posto];
+    });
+    EXPECT_EQ(modello.lettura(), "1: " + modello.testo(modello.attivo())) << "a text with a note";
     modello.passaA(4, dialogo);
     modello.scrivi(4, "0,5");
     EXPECT_EQ(modello.lettura(), "letto come 0: il segno decimale è il punto");

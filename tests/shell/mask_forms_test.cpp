@@ -70,6 +70,24 @@ class FormeDelleMaschere : public ::testing::Test {
     commands::FormeProgramma forme;
 };
 
+TEST_F(FormeDelleMaschere, SayInTheStripWhatIsOddAboutAHeadingWhileItIsTyped) {
+    Progetto.titoli[1] = "#12";
+    edita<Base1>(Comando::editTitoli, [](Base1& forma) {
+        auto& striscia = test::controllo<QLabel>(forma, "Labelhelp");
+        auto& prima = test::controllo<QLineEdit>(forma, "Text1_0");
+        EXPECT_TRUE(striscia.text().startsWith("comincia con #: "))
+            << striscia.text().toStdString();
+        prima.selectAll();
+        QTest::keyClicks(&prima, QString(29, QLatin1Char('m')));
+        EXPECT_TRUE(striscia.text().startsWith(
+            "nei disegni esce dal foglio: numero di caratteri che ci stanno (28)\n"))
+            << striscia.text().toStdString();
+        QTest::keyClick(&prima, Qt::Key_Backspace);
+        EXPECT_FALSE(striscia.text().contains("foglio:")) << striscia.text().toStdString();
+        premi(forma, "Command1_1");
+    });
+}
+
 TEST_F(FormeDelleMaschere, GiveANewProjectRealCodesAtTheFirstConfirmOfTheWall) {
     edita<Base1>(Comando::editParatia, [](Base1& forma) {
         EXPECT_EQ(test::controllo<QComboBox>(forma, "Combo1_5").currentText(), "Coulomb");

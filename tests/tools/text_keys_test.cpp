@@ -223,6 +223,7 @@ const std::map<std::string, Texts> noTexts = {
     {"plot/plot_dxf.cpp", {"MONOTXT", "dxf.cfg", ".DXF"}},
     {"plot/plot_print.cpp", {"forcecol", "overlap.cfg"}},
     {"plot/print_setup.cpp", {"Courier New"}},
+    {"plot/text_width.hpp", {"Arial"}},
     {"plot/print_setup.hpp", {"Courier New"}},
     {"plot/spill_files.cpp", {"korven32-XXXXXX", "plttmp", ".tmp", "windir"}},
     {"plot/text_width.cpp",
