@@ -98,6 +98,31 @@ TEST_P(Esempio, LeavesEmptyTheHeadingsThatWouldTouchInTheLog) {
     for (const int i : {2, 3, 5, 6}) EXPECT_EQ(dati.titoli[i], "");
 }
 
+// The projects of all languages as the build lays them, with their translated texts.
+TEST(Esempi, ShowNothingOddInHeadingsAndDescriptionsInAnyLanguage) {
+    int letti = 0;
+    for (const char* lingua : {"ita", "deu", "fra", "esp", "eng", "por"})
+        for (const auto& voce : std::filesystem::directory_iterator(
+                 std::string(KORVEN_PROGRAM_FOLDER) + "/data/" + lingua)) {
+            if (voce.path().extension() != ".kvd") continue;
+            const auto dati = std::make_unique<DatiProgetto>();
+            project::azzera(*dati);
+            auto file = base::LettoreRighe::apri(voce.path().string());
+            project::leggiDati(file, *dati);
+            for (const auto& rilievo : commands::esaminaProgetto(*dati))
+                EXPECT_TRUE(rilievo.testo.starts_with("numero di ferri: "))
+                    << voce.path() << ": " << rilievo.testo;
+            ++letti;
+        }
+    EXPECT_EQ(letti, 42);
+}
+
+// Their labels would stand one over the other in the first diagram that a new user sees.
+TEST(Esempi, TheFirstOneDigsDeeperInEachStage) {
+    const DatiProgetto dati = leggi("diaframma_due_ordini");
+    for (int k = 1; k <= dati.nFasi; ++k) EXPECT_GT(dati.profFase[k], dati.profFase[k - 1]) << k;
+}
+
 TEST_P(Esempio, ComesToRestInFewIterationsWithoutAQuestion) {
     Banco banco(leggi(GetParam()));
     int piuLenta = 0;
