@@ -1,7 +1,7 @@
 #include "shell/drawing_watch_qt.hpp"
 
-#include <QApplication>
 #include <QCloseEvent>
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
@@ -16,8 +16,10 @@ DisegnoInCorso::DisegnoInCorso(QWidget* padre) : QWidget(padre, Qt::Dialog) {
     setObjectName(QStringLiteral("DisegnoInCorso"));
     setWindowTitle(QStringLiteral("KORVEN 32"));
     setWindowModality(Qt::ApplicationModal);
+    constexpr int larghezza = 40;  // of the title too [characters]
+    setMinimumWidth(larghezza * fontMetrics().averageCharWidth());
     auto* disposizione = new QVBoxLayout(this);
-    disposizione->addWidget(new QLabel(tradotto("Disegno in corso"), this));
+    disposizione->addWidget(new QLabel(tradotto("Disegno in corso"), this), 0, Qt::AlignHCenter);
     auto* ferma = new QPushButton(tradotto("&Interrompi"), this);
     connect(ferma, &QPushButton::clicked, this, &DisegnoInCorso::interruzione);
     disposizione->addWidget(ferma, 0, Qt::AlignHCenter);
@@ -62,7 +64,7 @@ void SorveglianzaQt::finita() {
 }
 
 void SorveglianzaQt::mostra() {
-    finestra_ = std::make_unique<DisegnoInCorso>(QApplication::activeWindow());
+    finestra_ = std::make_unique<DisegnoInCorso>(sopra_());
     QObject::connect(finestra_.get(), &DisegnoInCorso::interruzione, [this] { fermata_ = true; });
     finestra_->show();
 }

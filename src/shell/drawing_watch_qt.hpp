@@ -32,9 +32,11 @@ class SorveglianzaQt : public plot::SorvegliaDisegno {
     using Istante = std::chrono::steady_clock::time_point;
     using Orologio = std::function<Istante()>;
 
+    /// @param sopra     the form that the box stands on; nullptr: none
     /// @param orologio  the time of day, another one in tests
-    explicit SorveglianzaQt(Orologio orologio = std::chrono::steady_clock::now)
-        : orologio_(std::move(orologio)) {}
+    explicit SorveglianzaQt(std::function<QWidget*()> sopra,
+                            Orologio orologio = std::chrono::steady_clock::now)
+        : sopra_(std::move(sopra)), orologio_(std::move(orologio)) {}
 
     void inizia() override;
     [[nodiscard]] bool fermare() override;
@@ -43,6 +45,7 @@ class SorveglianzaQt : public plot::SorvegliaDisegno {
  private:
     void mostra();
 
+    std::function<QWidget*()> sopra_;
     Orologio orologio_;
     int lavori_ = 0;
     unsigned chiamate_ = 0;

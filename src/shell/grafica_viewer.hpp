@@ -47,7 +47,7 @@ class VisoreDisegni : public QObject {
     PorteGrafica& porte_;
     base::Dialogo& dialogo_;
     const device::MetricaQt metrica_;
-    SorveglianzaQt sorveglianza_;
+    SorveglianzaQt sorveglianza_{[this] { return forma_.get(); }};
     device::SuperficieSchermo superficie_;
     std::unique_ptr<GRAFICA> forma_;
     QEventLoop attesa_;

@@ -28,7 +28,8 @@ class Sorveglianza : public ::testing::Test {
 
     QApplication& app = test::applicazione();
     SorveglianzaQt::Istante adesso{};
-    SorveglianzaQt sorveglianza{[this] { return adesso; }};
+    QWidget forma;
+    SorveglianzaQt sorveglianza{[this] { return &forma; }, [this] { return adesso; }};
 };
 
 TEST_F(Sorveglianza, ShowsABoxOnceTheWorkHasTakenHalfASecond) {
@@ -41,6 +42,7 @@ TEST_F(Sorveglianza, ShowsABoxOnceTheWorkHasTakenHalfASecond) {
     ASSERT_NE(finestra(), nullptr);
     EXPECT_TRUE(finestra()->isVisible());
     EXPECT_EQ(finestra()->windowModality(), Qt::ApplicationModal);
+    EXPECT_EQ(finestra()->parentWidget(), &forma) << "no other form is to come to the front";
     sorveglianza.finita();
     EXPECT_EQ(finestra(), nullptr);
 }
