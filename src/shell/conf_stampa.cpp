@@ -55,7 +55,7 @@ ConfStampa::ConfStampa(const QStringList& caratteri, DialogoStampante stampante,
     colonna->addWidget(fareCampi(), 1);
     colonna->addWidget(farePulsanti());
     mostra(caratteri);
-    if (!ripristinaMisure(*this)) adjustSize();
+    prendiMisura(*this, colonna->sizeHint());
     connect(this, &QDialog::finished, this, [this] { ricordaMisure(*this); });
 }
 

@@ -20,6 +20,7 @@
 #include "shell/form_sizes.hpp"
 #include "shell/help_strip.hpp"
 #include "shell/qt_text.hpp"
+#include "shell/scrolled_part.hpp"
 #include "shell/section_sketch_view.hpp"
 
 namespace korven::shell {
@@ -64,20 +65,28 @@ DefinEJ::DefinEJ(project::Sezione& sezione, bool& modificato, QWidget* padre)
     setProperty("contestoAiuto",
                 commands::contestoAiuto(commands::voce(commands::Comando::editRigidezza).aiuto));
     auto* colonna = new QVBoxLayout(this);
-    colonna->addWidget(fareOpzioni());
-    colonna->addWidget(fareRiquadri(), 1);
-    auto* materiali = fareRiquadro(RiquadroSezione::materiali);
-    colonna->addWidget(materiali);
+    area_ = new ParteScorrevole(fareTutto(), this);
+    colonna->addWidget(area_, 1);
     colonna->addWidget(fareStriscia());
     colonna->addWidget(pulsantiConferma(*this, [this] {
         modello_.conferma();
         accept();
     }));
-    if (!ripristinaMisure(*this)) adjustSize();
+    prendiMisura(*this, colonna->sizeHint());
     connect(this, &QDialog::finished, this, [this] { ricordaMisure(*this); });
     mostraTipo();
     opzioni_[indice(modello_.tipo())]->setFocus();
     entraOpzioni();
+}
+
+QWidget* DefinEJ::fareTutto() {
+    auto* tutto = new QWidget(this);
+    auto* colonna = new QVBoxLayout(tutto);
+    colonna->setContentsMargins(0, 0, 0, 0);
+    colonna->addWidget(fareOpzioni());
+    colonna->addWidget(fareRiquadri(), 1);
+    colonna->addWidget(fareRiquadro(RiquadroSezione::materiali));
+    return tutto;
 }
 
 QWidget* DefinEJ::fareOpzioni() {
@@ -203,6 +212,7 @@ void DefinEJ::aggiornaSchizzo() {
 }
 
 void DefinEJ::entra(std::size_t campo) {
+    area_->ensureWidgetVisible(campi_[campo]);
     spiega(campo);
     for (auto* schizzo : schizzi_) schizzo->evidenzia(campo);
 }

@@ -15,6 +15,7 @@ class QStackedWidget;
 namespace korven::shell {
 
 class HelpStrip;
+class ParteScorrevole;
 class SectionSketchView;
 
 /// The form of the structural section. What is typed and stored is the matter of
@@ -30,6 +31,7 @@ class DefinEJ : public QDialog {
     bool eventFilter(QObject* controllo, QEvent* evento) override;
 
  private:
+    QWidget* fareTutto();
     QWidget* fareOpzioni();
     QWidget* fareRiquadri();
     QGroupBox* fareRiquadro(project::RiquadroSezione riquadro);
@@ -47,6 +49,7 @@ class DefinEJ : public QDialog {
     std::array<SectionSketchView*, 4> schizzi_{};
     std::array<QLineEdit*, project::numeroCampiSezione> campi_{};
     QStackedWidget* riquadri_ = nullptr;
+    ParteScorrevole* area_ = nullptr;  // of the fields
     HelpStrip* aiuto_ = nullptr;
 };
 

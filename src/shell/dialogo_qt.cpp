@@ -1,8 +1,10 @@
 #include "shell/dialogo_qt.hpp"
 
 #include <QApplication>
+#include <QLayout>
 #include <QPushButton>
 
+#include "shell/form_sizes.hpp"
 #include "shell/qt_text.hpp"
 
 namespace korven::shell {
@@ -39,6 +41,23 @@ void prepara(QMessageBox& box, std::string_view testo, std::string_view titolo, 
     box.setTextInteractionFlags(Qt::TextSelectableByMouse);
 }
 
+// Qt makes a box as wide as a small screen for a long path, and so its frame wider.
+class Box : public QMessageBox {
+ public:
+    using QMessageBox::QMessageBox;
+
+ protected:
+    bool event(QEvent* evento) override {
+        const bool fatto = QMessageBox::event(evento);
+        const int massima = misuraMassima(*this).width();
+        const bool misurato =
+            evento->type() == QEvent::Show || evento->type() == QEvent::LayoutRequest;
+        if (misurato && width() > massima)
+            setFixedSize(massima, layout()->totalHeightForWidth(massima));
+        return fatto;
+    }
+};
+
 // A box waits for its user with a plain pointer, whatever the program is at.
 class PuntatorePerUnBox {
  public:
@@ -73,7 +92,7 @@ QWidget* DialogoQt::genitore() const {
 
 void DialogoQt::messaggio(std::string_view testo, std::string_view titolo, base::Icona icona) {
     const PuntatorePerUnBox normale(clessidra_);
-    QMessageBox box(genitore());
+    Box box(genitore());
     prepara(box, testo, titolo, icona);
     box.setStandardButtons(QMessageBox::Ok);
     box.button(QMessageBox::Ok)->setText("OK");
@@ -83,7 +102,7 @@ void DialogoQt::messaggio(std::string_view testo, std::string_view titolo, base:
 base::Risposta DialogoQt::domanda(std::string_view testo, std::string_view titolo,
                                   base::Pulsanti pulsanti, base::Icona icona) {
     const PuntatorePerUnBox normale(clessidra_);
-    QMessageBox box(genitore());
+    Box box(genitore());
     prepara(box, testo, titolo, icona);
     auto* si = box.addButton(tradotto("&Sì"), QMessageBox::YesRole);
     auto* no = box.addButton(tradotto("&No"), QMessageBox::NoRole);

@@ -27,6 +27,7 @@
 #include "shell/form_sizes.hpp"
 #include "shell/help_strip.hpp"
 #include "shell/qt_text.hpp"
+#include "shell/scrolled_part.hpp"
 
 namespace korven::shell {
 
@@ -86,20 +87,28 @@ Editacfg::Editacfg(PorteEditacfg& porte, base::Dialogo& dialogo, QWidget* padre)
       modello_(plot::fileConfigurazione(base::siglaLingua(base::linguaCorrente()))) {
     setObjectName(QStringLiteral("Editacfg"));
     setWindowTitle(tradotto("SELEZIONE COLORI"));
-    auto* griglia = new QGridLayout(this);
+    auto* colonna = new QVBoxLayout(this);
+    colonna->addWidget(new ParteScorrevole(fareTutto(), this), 1);
+    colonna->addWidget(fareStriscia());
+    colonna->addWidget(pulsantiConferma(*this, [this] { conferma(); }));
+    prendiMisura(*this, colonna->sizeHint());
+    connect(this, &QDialog::finished, this, [this] { ricordaMisure(*this); });
+    penne_->setCurrentRow(0);
+    penne_->setFocus();
+}
+
+QWidget* Editacfg::fareTutto() {
+    auto* tutto = new QWidget(this);
+    auto* griglia = new QGridLayout(tutto);
+    griglia->setContentsMargins(0, 0, 0, 0);
     griglia->addWidget(farePenne(), 0, 0, 2, 1);
     griglia->addWidget(fareColori(), 0, 1, 2, 1);
     griglia->addWidget(fareCaratteri(), 0, 2);
     griglia->addWidget(fareMargini(), 1, 2);
-    griglia->addWidget(fareStriscia(), 2, 0, 1, 3);
-    griglia->addWidget(pulsantiConferma(*this, [this] { conferma(); }), 3, 0, 1, 3);
     griglia->setColumnStretch(0, 3);
     griglia->setColumnStretch(2, 2);
     griglia->setRowStretch(0, 1);
-    if (!ripristinaMisure(*this)) adjustSize();
-    connect(this, &QDialog::finished, this, [this] { ricordaMisure(*this); });
-    penne_->setCurrentRow(0);
-    penne_->setFocus();
+    return tutto;
 }
 
 QWidget* Editacfg::farePenne() {

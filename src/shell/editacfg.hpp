@@ -53,6 +53,7 @@ class Editacfg : public QDialog {
     bool eventFilter(QObject* controllo, QEvent* evento) override;
 
  private:
+    QWidget* fareTutto();
     QWidget* farePenne();
     QWidget* fareColori();
     QWidget* fareCaratteri();

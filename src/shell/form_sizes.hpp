@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QSettings>
+#include <QSize>
 
 class QWidget;
 
@@ -13,6 +14,14 @@ namespace korven::shell {
 /// of its object name, in this run or one before.
 /// @return false when nothing is remembered; the window is then left as it is
 bool ripristinaMisure(QWidget& finestra);
+
+/// The largest size of a window on its screen, which leaves room for the frame that the desktop
+/// draws around it.
+[[nodiscard]] QSize misuraMassima(const QWidget& finestra);
+
+/// Gives a window the place and size that are remembered of it, else this size, as far as its
+/// screen has room. One that has less height than it asks for is as much wider as a scroll bar is.
+void prendiMisura(QWidget& finestra, QSize comoda);
 
 /// Remembers place and size of a window, in the settings of the user.
 void ricordaMisure(const QWidget& finestra);

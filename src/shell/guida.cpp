@@ -62,8 +62,8 @@ FinestraGuida::FinestraGuida(commands::Guida guida) : guida_(std::move(guida)) {
     riempiAlbero();
     connect(pagina_, &QTextBrowser::sourceChanged, this,
             [this](const QUrl& indirizzo) { segui(indirizzo); });
-    if (!ripristinaMisure(*this)) resize(1000, 700);
     setMinimumSize(560, 360);
+    prendiMisura(*this, {1000, 700});
     pagina_->ingrandisci(ricordiFinestre().value(QLatin1String(chiaveCaratteri), 0).toInt());
 }
 

@@ -56,12 +56,8 @@ QWidget* MaskForm::farePulsanti(const std::function<void(std::size_t)>& premuto)
 }
 
 void MaskForm::disponi(QSize comoda) {
-    const QRect schermo = screen()->availableGeometry();
-    if (!ripristinaMisure(*this)) {
-        constexpr QSize bordiFinestra(16, 48);
-        resize(comoda.boundedTo(schermo.size() - bordiFinestra));
-    }
-    if (!isMaximized()) move(schermo.center() - rect().center());
+    prendiMisura(*this, comoda);
+    if (!isMaximized()) move(screen()->availableGeometry().center() - rect().center());
 }
 
 bool MaskForm::apriGuida() { return guida_ && guida_(commands::contestoAiuto(maschera_.contesto)); }

@@ -12,11 +12,15 @@
 namespace korven::shell {
 namespace {
 
-// One application without a screen for all tests of the folder.
+// One application for all tests of the folder, on a screen that is not there: 800 by 800, unless
+// the environment names the description of another.
 class Schermo : public ::testing::Environment {
  public:
     void SetUp() override {
-        ::setenv("QT_QPA_PLATFORM", "offscreen", 1);
+        const char* descritto = std::getenv("KORVEN_TEST_SCREEN");
+        const std::string opzione =
+            descritto != nullptr ? std::string(":configfile=") + descritto : std::string();
+        ::setenv("QT_QPA_PLATFORM", ("offscreen" + opzione).c_str(), 1);
         ::setenv("XDG_CONFIG_HOME", "/dev/null", 1);  // no sizes of an earlier run
         static int argc = 1;
         static char nome[] = "shell_test";

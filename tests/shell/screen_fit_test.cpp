@@ -1,0 +1,279 @@
+// Every window of the program on small screens, in all languages: its frame lies on the screen, and
+// no text is wider or higher than what it stands in. Qt takes screen and scale at its start alone,
+// so each screen has a process of its own: this program once more.
+
+#include <gtest/gtest.h>
+
+#include <QComboBox>
+#include <QGroupBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QMessageBox>
+#include <QProcess>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScrollArea>
+#include <QTableView>
+#include <QToolButton>
+
+#include "commands/help_file.hpp"
+#include "project/mask_editing.hpp"
+#include "shell/base1.hpp"
+#include "shell/base2_32.hpp"
+#include "shell/conf_stampa.hpp"
+#include "shell/definej.hpp"
+#include "shell/dialogo_qt.hpp"
+#include "shell/editacfg.hpp"
+#include "shell/elided_label.hpp"
+#include "shell/form1.hpp"
+#include "shell/guida.hpp"
+#include "shell/help_strip.hpp"
+#include "shell/informazioni.hpp"
+#include "shell/leader_label.hpp"
+#include "shell/menu1.hpp"
+#include "shell/selezling.hpp"
+#include "shell/temp_calc.hpp"
+#include "support/desktop_bench.hpp"
+#include "support/sample_projects.hpp"
+#include "support/viewer_setup.hpp"
+
+namespace korven::shell {
+namespace {
+
+constexpr QSize cornice(8, 32);  // what a desktop draws around a window
+
+std::string nomeDi(const QWidget& pezzo) {
+    return std::string(pezzo.metaObject()->className()) + " " + pezzo.objectName().toStdString();
+}
+
+// The room that the text of a control asks for, in the width that it has; nothing for one without
+// text, and for a line that gives up its middle by design.
+QSize ingombro(const QWidget& pezzo) {
+    const QFontMetrics misure = pezzo.fontMetrics();
+    const auto diUnaRiga = [&](const QString& testo) {
+        return testo.isEmpty() ? QSize() : misure.size(Qt::TextShowMnemonic, testo);
+    };
+    if (dynamic_cast<const ElidedLabel*>(&pezzo) != nullptr) return {};
+    if (const auto* puntini = dynamic_cast<const LeaderLabel*>(&pezzo))
+        return {misure.horizontalAdvance(puntini->accessibleName()), misure.height()};
+    if (const auto* etichetta = qobject_cast<const QLabel*>(&pezzo)) {
+        if (etichetta->text().isEmpty()) return {};
+        if (!etichetta->wordWrap()) return etichetta->sizeHint();
+        return {1, etichetta->heightForWidth(etichetta->width())};
+    }
+    if (const auto* bottone = qobject_cast<const QAbstractButton*>(&pezzo))
+        return diUnaRiga(bottone->text());
+    if (const auto* gruppo = qobject_cast<const QGroupBox*>(&pezzo))
+        return diUnaRiga(gruppo->title());
+    if (const auto* scelta = qobject_cast<const QComboBox*>(&pezzo))
+        return diUnaRiga(scelta->currentText());
+    return {};
+}
+
+// What lies outside of one it stands in is not seen, unless that one scrolls.
+bool inVista(const QWidget& pezzo) {
+    for (const QWidget* qui = &pezzo; !qui->isWindow(); qui = qui->parentWidget()) {
+        const QWidget* sopra = qui->parentWidget();
+        if (qobject_cast<const QAbstractScrollArea*>(sopra->parentWidget()) != nullptr) return true;
+        if (!sopra->rect().contains(qui->geometry())) return false;
+    }
+    return true;
+}
+
+void controllaTestate(const QTableView& griglia) {
+    QFont grassetto = griglia.font();
+    grassetto.setBold(true);  // as that of the current column is
+    for (int c = 0; c < griglia.model()->columnCount(); ++c)
+        EXPECT_LE(QFontMetrics(grassetto).horizontalAdvance(
+                      griglia.model()->headerData(c, Qt::Horizontal).toString()),
+                  griglia.columnWidth(c))
+            << "column " << c;
+}
+
+void controllaTesti(const QWidget& finestra) {
+    for (const auto* griglia : finestra.findChildren<QTableView*>()) controllaTestate(*griglia);
+    for (const auto* pezzo : finestra.findChildren<QWidget*>()) {
+        if (!pezzo->isVisible() || pezzo->window() != &finestra) continue;
+        const QSize voluto = ingombro(*pezzo);
+        if (voluto.isEmpty()) continue;
+        EXPECT_TRUE(voluto.width() <= pezzo->width() && voluto.height() <= pezzo->height())
+            << nomeDi(*pezzo) << ": " << voluto.width() << "x" << voluto.height() << " in "
+            << pezzo->width() << "x" << pezzo->height();
+        EXPECT_TRUE(inVista(*pezzo)) << nomeDi(*pezzo) << " is cut";
+    }
+}
+
+void controllaCornice(const QWidget& finestra) {
+    const QRect schermo = finestra.screen()->availableGeometry();
+    EXPECT_TRUE(schermo.contains(finestra.geometry()))
+        << finestra.x() << "," << finestra.y() << " " << finestra.width() << "x"
+        << finestra.height() << " on " << schermo.width() << "x" << schermo.height();
+    EXPECT_LE(finestra.width(), schermo.width() - cornice.width());
+    EXPECT_LE(finestra.height(), schermo.height() - cornice.height());
+}
+
+void controlla(QWidget& finestra) {
+    SCOPED_TRACE(nomeDi(finestra));
+    finestra.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&finestra));
+    QApplication::processEvents();
+    controllaCornice(finestra);
+    controllaTesti(finestra);
+}
+
+void controllaMaschere(base::Dialogo& dialogo) {
+    project::Maschere maschere;
+    maschere.leggiMaschereProgramma();
+    const auto dati = test::progettoSemplice();
+    for (int numero = 1; numero <= 5; ++numero) {
+        const auto quale = static_cast<project::NumeroMaschera>(numero);
+        project::preparaMaschera(maschere, quale, dati, 0);
+        if (maschere.corrente().genere == project::GenereMaschera::campi) {
+            Base1 forma(maschere.corrente(), maschere.valoriCombo(), maschere.valoriTesto(),
+                        dialogo, {}, nullptr);
+            controlla(forma);
+        } else {
+            Base2_32 forma(maschere.corrente(), maschere.valoriTesto(), dialogo, {}, nullptr);
+            controlla(forma);
+        }
+        maschere.rilasciaForm();
+    }
+}
+
+void controllaSezioni() {
+    for (const auto tipo : project::tipiSezione) {
+        project::Sezione sezione;
+        sezione.*tipo = true;
+        bool modificato = false;
+        DefinEJ forma(sezione, modificato, nullptr);
+        controlla(forma);
+    }
+}
+
+void controllaGuida(const std::string& nome) {
+    FinestraGuida guida(commands::leggiGuida(
+        nome, test::contenuto(std::string(KORVEN_PROGRAM_FOLDER) + "/" + nome)));
+    controlla(guida);
+}
+
+// Wide enough that it must be broken into lines.
+const std::string messaggioLungo =
+    "/home/" + std::string(60, 'm') + "/muro.kvd: " + std::string(30, 'x') + " " +
+    std::string(200, 'y') + "\n\nIl programma viene chiuso.\nparola " + std::string(40, 'z');
+
+void controllaBox(DialogoQt& box) {
+    const test::AllaProssimaFinestra<QMessageBox> vista([](QMessageBox& b) {
+        controlla(b);
+        b.reject();
+    });
+    box.messaggio(messaggioLungo, "KORVEN 32", base::Icona::stop);
+    EXPECT_TRUE(vista.fatto);
+}
+
+void controllaTutte() {
+    test::DialogRecord dialogo;
+    controllaMaschere(dialogo);
+    controllaSezioni();
+    DialoghiEditacfg porte;
+    controlla(*std::make_unique<Editacfg>(porte, dialogo, nullptr));
+    controlla(*std::make_unique<ConfStampa>(QStringList{"Courier New", "Arial"},
+                                            ConfStampa::DialogoStampante{}, dialogo, nullptr));
+    Menu1 menu1;
+    controlla(menu1);
+    Selezling lingue({5, 3, 2, 1, 4, 6});
+    controlla(lingue);
+    Informazioni informazioni("File corrente: /HOME/ANNA/LAVORI/MURO", nullptr);
+    controlla(informazioni);
+    TempCalc corsa(nullptr);
+    controlla(corsa);
+    controllaGuida(base::linguaCorrente() == 1 ? "module06ita.hlp" : "module06eng.hlp");
+    const test::CartellaProvvisoria cartella;
+    test::metti(cartella / "muro.TAB", "#RESET\r\ntesto\r\n#ENDDOCUMENT\r\n");
+    Form1 anteprima;
+    anteprima.mostra(cartella / "muro.TAB");
+    controlla(anteprima);
+    DialogoQt box;
+    controllaBox(box);
+    EXPECT_TRUE(dialogo.messaggi.empty());
+}
+
+class VisoreSulloSchermo : public test::ProvaVisore {
+ public:
+    void TestBody() override {}
+    void controllaVisore() {
+        disegna();
+        controlla(forma());
+    }
+};
+
+struct Schermo {
+    const char* nome;
+    int larghezza, altezza;
+    const char* scala;
+    int puntiPerPollice;
+};
+
+void PrintTo(const Schermo& schermo, std::ostream* dove) { *dove << schermo.nome; }
+
+// The last two show everything twice as large: the whole of the window, and its letters alone.
+constexpr Schermo schermi[] = {{"Piccolo", 1024, 600, "1", 96},
+                               {"ScalaDoppia", 1920, 1080, "2", 96},
+                               {"CaratteriDoppi", 1920, 1080, "1", 192}};
+
+constexpr const char* schermoDescritto = "KORVEN_TEST_SCREEN";
+
+class Finestre : public ::testing::TestWithParam<Schermo> {};
+
+void guardaQui(const Schermo& schermo) {
+    auto& app = test::applicazione();
+    const test::UtenteNuovo utente;
+    QFont carattere = app.font();
+    carattere.setPointSize(9);  // that of desktops
+    QApplication::setFont(carattere);
+    const QSize misura = QGuiApplication::primaryScreen()->geometry().size() *
+                         QGuiApplication::primaryScreen()->devicePixelRatio();
+    ASSERT_EQ(misura, QSize(schermo.larghezza, schermo.altezza));
+    ASSERT_EQ(QGuiApplication::primaryScreen()->logicalDotsPerInch(), schermo.puntiPerPollice);
+    for (int lingua = 1; lingua <= 6; ++lingua) {
+        SCOPED_TRACE(lingua);
+        base::impostaCartellaProgramma(KORVEN_PROGRAM_FOLDER);
+        const test::TestiConsegnati testi(lingua);
+        controllaTutte();
+    }
+    base::impostaCartellaProgramma("");
+    VisoreSulloSchermo().controllaVisore();
+}
+
+TEST_P(Finestre, LieOnTheScreenWithAllTheirTexts) {
+    const Schermo& schermo = GetParam();
+    if (std::getenv(schermoDescritto) != nullptr) return guardaQui(schermo);
+    const test::CartellaProvvisoria cartella;
+    const std::string dpi = std::to_string(schermo.puntiPerPollice);
+    test::metti(cartella / "schermo.json",
+                R"({"screens":[{"name":"s","x":0,"y":0,"dpr":1,"logicalDpi":)" + dpi +
+                    R"(,"logicalBaseDpi":)" + dpi + R"(,"width":)" +
+                    std::to_string(schermo.larghezza) + R"(,"height":)" +
+                    std::to_string(schermo.altezza) + "}]}");
+    auto ambiente = QProcessEnvironment::systemEnvironment();
+    ambiente.insert(QLatin1String(schermoDescritto),
+                    QString::fromStdString(cartella / "schermo.json"));
+    ambiente.insert(QStringLiteral("QT_SCALE_FACTOR"), QLatin1String(schermo.scala));
+    QProcess figlio;
+    figlio.setProcessEnvironment(ambiente);
+    figlio.setProcessChannelMode(QProcess::MergedChannels);
+    const auto* questa = ::testing::UnitTest::GetInstance()->current_test_info();
+    figlio.start(
+        "/proc/self/exe",
+        {QStringLiteral("--gtest_filter=%1.%2").arg(questa->test_suite_name(), questa->name())});
+    ASSERT_TRUE(figlio.waitForFinished(100000));
+    const std::string detto = figlio.readAll().toStdString();
+    EXPECT_EQ(figlio.exitCode(), 0) << detto;
+    EXPECT_EQ(figlio.exitStatus(), QProcess::NormalExit) << detto;
+    EXPECT_NE(detto.find("[  PASSED  ] 1 test."), std::string::npos) << detto;
+}
+
+INSTANTIATE_TEST_SUITE_P(Schermi, Finestre, ::testing::ValuesIn(schermi),
+                         [](const auto& caso) { return std::string(caso.param.nome); });
+
+}  // namespace
+}  // namespace korven::shell
