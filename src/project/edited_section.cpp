@@ -30,6 +30,14 @@ double SezioneEditata::scritto(std::size_t campo) const {
     return base::leggiNumero(testi_[campo]).value_or(0) / campiSezione[campo].fattore;
 }
 
+// 0.21 is shown as 2.1, and a tenth of that double is not the double 0.21. The decimals are: what
+// is shown names the stored number when its point, moved one place, gives that number's text.
+bool SezioneEditata::nominato(std::size_t campo) const {
+    const bool decimi = campiSezione[campo].fattore == 10;
+    const std::string testo = decimi ? mostrati_[campo] + "e-1" : mostrati_[campo];
+    return base::leggiNumero(testo).value_or(0) == sezione_.*campiSezione[campo].valore;
+}
+
 Sezione SezioneEditata::letta() const {
     Sezione editata;
     editata.*tipiSezione[static_cast<std::size_t>(tipo_)] = true;
@@ -42,7 +50,7 @@ Sezione SezioneEditata::letta() const {
 
 bool SezioneEditata::ritorna() const {
     for (std::size_t i = 0; i < numeroCampiSezione; ++i)
-        if (scritto(i) != sezione_.*campiSezione[i].valore) return false;
+        if (testi_[i] == mostrati_[i] && !nominato(i)) return false;
     return true;
 }
 

@@ -85,13 +85,14 @@ class SezioneEditata {
     [[nodiscard]] Sezione letta() const;
 
     /// Stores all fields and flags. `modificato` becomes true if one of them changes, and else
-    /// stays. A stored number that would not come back from its text counts as a change too, though
+    /// stays. A stored number with more digits than its text shows counts as a change too, though
     /// it is kept.
     void conferma();
 
  private:
     [[nodiscard]] double scritto(std::size_t campo) const;
-    [[nodiscard]] bool ritorna() const;  // all numbers come back from their texts
+    [[nodiscard]] bool nominato(std::size_t campo) const;  // the text shown is the stored number
+    [[nodiscard]] bool ritorna() const;                    // all that were left are named so
 
     Sezione& sezione_;
     bool& modificato_;

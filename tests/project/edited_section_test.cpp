@@ -129,8 +129,8 @@ TEST(SezioneEditata, LeavesModificatoAloneWhenNothingWasEdited) {
 }
 
 TEST(SezioneEditata, CountsAValueThatWouldBeLostOnTheWayThroughItsTextAsAChangeAndKeepsIt) {
-    // The text has 15 digits of ten times the first; a tenth of ten times the second is another.
-    for (const double valore : {12.34567890123456789, 0.21}) {
+    // The text has 15 digits of ten times the value.
+    for (const double valore : {12.34567890123456789, 1.0 / 3}) {
         Sezione sezione = piena();
         bool modificato = false;
         sezione.paliDiamEst = valore;
@@ -138,6 +138,22 @@ TEST(SezioneEditata, CountsAValueThatWouldBeLostOnTheWayThroughItsTextAsAChangeA
         EXPECT_TRUE(modificato);
         EXPECT_EQ(sezione.paliDiamEst, valore);
     }
+}
+
+TEST(SezioneEditata, LeavesModificatoAloneForEveryLengthOfTwoDecimals) {
+    // For 0.21 and hundreds more, the double nearest to a tenth of ten times the length is another.
+    int mancati = 0;
+    for (int k = 1; k <= 999; ++k) {
+        Sezione sezione = piena();
+        bool modificato = false;
+        sezione.paliDiamEst = k / 100.0;
+        sezione.fck = k / 1000.0;
+        SezioneEditata(sezione, modificato).conferma();
+        EXPECT_FALSE(modificato) << k;
+        EXPECT_EQ(sezione.paliDiamEst, k / 100.0);
+        mancati += k / 100.0 * 10 / 10 != k / 100.0;
+    }
+    EXPECT_GT(mancati, 0);
 }
 
 TEST(SezioneEditata, ReadsATextThatWasTypedByTheRuleEvenIfItsValueIsNear) {
