@@ -120,7 +120,8 @@ void disegnaDescrizioni(const Stratigrafia& stratigrafia, const Colonna& colonna
 
 std::vector<DescrizioneDisposta> disponiDescrizioni(const project::DatiProgetto& dati,
                                                     const MisuraAltezza& misura) {
-    constexpr double tolleranza = 1e-9;  // a block that just fits
+    // Between a block's upper edge and its first characters there is room.
+    constexpr double stacco = interlinea - altezzaTesto;
     const Stratigrafia stratigrafia{
         dati, ScalaProfondita(dati.profStrato[dati.nStrati], bordoInferiore(altezzaPaginaA4))};
     const Colonna colonna{0, larghezzaDescrizioni};
@@ -130,8 +131,8 @@ std::vector<DescrizioneDisposta> disponiDescrizioni(const project::DatiProgetto&
     std::vector<DescrizioneDisposta> disposte;
     for (std::size_t i = 0; i < disposizione.testi.size(); ++i) {
         const double altezza = disposizione.blocchi[i].altezza;
-        disposte.push_back({static_cast<int>(i) + 1, altezza,
-                            disposizione.bordi[i] + altezza > testaTabella + tolleranza});
+        const bool oltre = disposizione.bordi[i] + altezza - stacco > testaTabella;
+        disposte.push_back({static_cast<int>(i) + 1, altezza, oltre});
     }
     return disposte;
 }
