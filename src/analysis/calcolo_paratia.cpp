@@ -176,11 +176,12 @@ std::string motivoUscite(const std::string& progetto, int modoUscita, const Usci
     file.insert(file.begin(), risultati);
     const auto vietato = std::find_if(file.begin(), file.end(), prendeIlPostoDelProgetto);
     if (vietato == file.end()) return {};
+    const std::string colpito = progettoColpito(*vietato);
     return traduttore(
                "Un file del calcolo prenderebbe il posto del progetto, i calcoli non possono "
                "pertanto essere eseguiti. Dare al progetto un altro nome o scegliere un'altra "
                "cartella") +
-           ": " + *vietato;
+           ": " + *vietato + (colpito == *vietato ? "" : " (" + colpito + ")");
 }
 
 void CalcoloParatia(int modoUscita, const PorteCalcolo& porte) {

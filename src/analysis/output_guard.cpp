@@ -4,24 +4,41 @@
 
 #include "base/code_page.hpp"
 #include "base/file_error.hpp"
-#include "base/files.hpp"
+#include "base/file_identity.hpp"
 #include "base/translated_texts.hpp"
 
 namespace korven::analysis {
 
 ProgettiProtetti progettiProtetti;
 
+namespace {
+
+[[noreturn]] void rifiuta(const std::string& percorso, const std::string& perso) {
+    throw base::ErroreFile(
+        percorso, 0,
+        base::traduttore("la scrittura prenderebbe il posto di un file letto") + ": " + perso);
+}
+
+}  // namespace
+
+std::string progettoColpito(const std::string& percorso) {
+    for (const std::string& progetto : {progettiProtetti.letto, progettiProtetti.corrente})
+        if (!progetto.empty() && base::stessoFile(percorso, progetto)) return progetto;
+    return {};
+}
+
 bool prendeIlPostoDelProgetto(const std::string& percorso) {
-    const auto colpisce = [&percorso](const std::string& progetto) {
-        return !progetto.empty() && base::stessoFile(percorso, progetto);
-    };
-    return colpisce(progettiProtetti.letto) || colpisce(progettiProtetti.corrente);
+    return !progettoColpito(percorso).empty();
 }
 
 void controllaUscita(const std::string& percorso, const std::string& origine) {
-    if (prendeIlPostoDelProgetto(percorso) || base::stessoFile(percorso, origine))
-        throw base::ErroreFile(
-            percorso, 0, base::traduttore("la scrittura prenderebbe il posto di un file letto"));
+    if (const auto progetto = progettoColpito(percorso); !progetto.empty())
+        rifiuta(percorso, progetto);
+    controllaCoppia(percorso, origine);
+}
+
+void controllaCoppia(const std::string& percorso, const std::string& altro) {
+    if (base::stessoFile(percorso, altro)) rifiuta(percorso, altro);
 }
 
 std::string motivoNome(const std::string& progetto) {

@@ -17,14 +17,22 @@ struct ProgettiProtetti {
 };
 extern ProgettiProtetti progettiProtetti;
 
-/// True if a file written under this name would take the place of a project: the same name, or a
-/// link to it.
+/// The project whose place a file written under this name would take: the same name, a link to it,
+/// or another name that leads there (`base::stessoFile`). Empty if there is none.
+[[nodiscard]] std::string progettoColpito(const std::string& percorso);
+
+/// True if there is such a project.
 [[nodiscard]] bool prendeIlPostoDelProgetto(const std::string& percorso);
 
 /// Refuses a name under which a project or another file that the output is made from would be lost.
 /// @param origine  the file that the output is made from
-/// @throws base::ErroreFile that names `percorso`; nothing has been written then
+/// @throws base::ErroreFile that names `percorso` and what would be lost; nothing has been written
+/// then
 void controllaUscita(const std::string& percorso, const std::string& origine);
+
+/// Refuses one of two names that lead to one file.
+/// @throws base::ErroreFile that names both
+void controllaCoppia(const std::string& percorso, const std::string& altro);
 
 /// Why a run of the project named `progetto` can't put its result file beside it, as an Italian
 /// key; empty if it can. A name of less than three characters would lose some of its folder's to

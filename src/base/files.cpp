@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "base/file_error.hpp"
+#include "base/file_identity.hpp"
 #include "base/translated_texts.hpp"
 
 // The standard library can't flush a file to the disk, so this file speaks to the system itself.
@@ -82,20 +83,6 @@ void rifiutaEnorme(const std::string& percorso, std::size_t byte) {
     if (byte > massimoByte) throw ErroreFile(percorso, 0, traduttore("il file è troppo grande"));
 }
 
-// The file that a name stands for: a link leads to its target, which may not exist yet. As many
-// links as the system itself would follow; more are a loop.
-std::string destinazione(const std::string& percorso) {
-    constexpr int massimoLink = 40;
-    std::filesystem::path meta = percorso;
-    for (int i = 0; i < massimoLink; ++i) {
-        std::error_code errore;
-        const auto oltre = std::filesystem::read_symlink(meta, errore);
-        if (errore) return meta.string();
-        meta = meta.parent_path() / oltre;  // an absolute target stands for itself
-    }
-    nonScritto(percorso, ELOOP);
-}
-
 std::string cartellaDi(const std::string& percorso) {
     const auto cartella = std::filesystem::path(percorso).parent_path();
     return cartella.empty() ? "." : cartella.string();
@@ -134,8 +121,10 @@ std::string leggiFile(const std::string& percorso) {
     }
 }
 
-ScrittoreFile::ScrittoreFile(const std::string& percorso)
-    : percorso_(percorso), meta_(destinazione(percorso)) {
+ScrittoreFile::ScrittoreFile(const std::string& percorso) : percorso_(percorso) {
+    const auto meta = destinazione(percorso);
+    if (!meta) nonScritto(percorso, ELOOP);
+    meta_ = *meta;
     if (struct stat stato{}; ::stat(meta_.c_str(), &stato) == 0) rifiutaSpeciale(percorso, stato);
     // Taking over the name would get past a file's own write protection.
     if (::access(meta_.c_str(), F_OK) == 0 && ::access(meta_.c_str(), W_OK) != 0)
@@ -195,11 +184,6 @@ bool esisteFile(const std::string& percorso) {
     std::error_code errore;
     return std::filesystem::exists(percorso, errore) &&
            !std::filesystem::is_directory(percorso, errore);
-}
-
-bool stessoFile(const std::string& uno, const std::string& altro) {
-    std::error_code errore;
-    return uno == altro || std::filesystem::equivalent(uno, altro, errore);
 }
 
 void cancellaFile(const std::string& percorso) {

@@ -53,10 +53,6 @@ void accodaFile(const std::string& percorso, std::string_view contenuto);
 /// tells why, where a false here would pass over it in silence.
 [[nodiscard]] bool esisteFile(const std::string& percorso);
 
-/// True if both names lead to one file: equal texts, symbolic or hard links, other ways to a
-/// folder.
-[[nodiscard]] bool stessoFile(const std::string& uno, const std::string& altro);
-
 /// Removes a file if it exists; says nothing if it can't.
 void cancellaFile(const std::string& percorso);
 

@@ -4,10 +4,11 @@
 
 #include "analysis/output_guard.hpp"
 #include "base/file_error.hpp"
+#include "base/file_identity.hpp"
 #include "base/file_names.hpp"
-#include "base/files.hpp"
 #include "base/translated_texts.hpp"
 #include "batch/interruption.hpp"
+#include "batch/output_names.hpp"
 #include "device/drawing_files.hpp"
 #include "device/drawing_fonts.hpp"
 #include "device/graphics_session.hpp"
@@ -38,9 +39,11 @@ void controllaUscite(const UsciteDisegno& uscite) {
         analysis::controllaUscita(file[i], risultati);
         for (std::size_t j = 0; j < i; ++j)
             if (base::stessoFile(file[i], file[j]))
-                throw base::ErroreFile(file[i], 0,
-                                       base::traduttore("due disegni avrebbero lo stesso nome"));
+                throw base::ErroreFile(
+                    file[i], 0,
+                    base::traduttore("due disegni avrebbero lo stesso nome") + ": " + file[j]);
     }
+    controllaNomi(file, fileDelProgetto());
 }
 
 class AmbienteDisegno::Interruzione : public plot::SorvegliaDisegno {

@@ -21,8 +21,9 @@ struct UsciteDisegno {
     [[nodiscard]] std::vector<std::string> file() const;
 };
 
-/// Refuses a name under which the project or its results would be lost, and one given twice.
-/// @throws base::ErroreFile that names it
+/// Refuses a name under which the project, its results or its report would be lost, and one given
+/// twice, whether the files exist yet or not.
+/// @throws base::ErroreFile, for a report NomiInConflitto, with both names
 void controllaUscite(const UsciteDisegno& uscite);
 
 /// Fonts and painting for the drawings to come, when one of their files needs them. Texts are

@@ -10,6 +10,7 @@
 #include "batch/console_run.hpp"
 #include "batch/failure.hpp"
 #include "batch/interruption.hpp"
+#include "batch/output_names.hpp"
 #include "batch/report_output.hpp"
 #include "commands/diagram_output.hpp"
 #include "commands/log_limit.hpp"
@@ -137,10 +138,17 @@ int disegna(const Opzioni& opzioni, Esito& esito) {
 }
 
 int tutto(const Opzioni& opzioni, Esito& esito) {
-    for (const Tavola& tavola : tavole) controllaUscite(usciteTavola(opzioni, tavola));
+    std::vector<std::string> tutte;
+    for (const Tavola& tavola : tavole) {
+        const UsciteDisegno uscite = usciteTavola(opzioni, tavola);
+        controllaUscite(uscite);
+        for (const auto& file : uscite.file()) tutte.push_back(file);
+    }
     const AmbienteDisegno ambiente(true);
     const UsciteRelazione relazione = usciteRelazione();
     controllaUscite(relazione);
+    tutte.push_back(relazione.pdf);
+    controllaNomi(tutte, {});
     CorsaConsole corsa(opzioni, esito);
     if (!scriviRelazione(relazione, corsa, esito)) return nonEseguito;
     esito.calcolo = commands::leggiEsito();

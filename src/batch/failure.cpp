@@ -6,10 +6,12 @@
 
 #include "analysis/output_guard.hpp"
 #include "base/file_names.hpp"
+#include "base/file_identity.hpp"
 #include "base/files.hpp"
 #include "base/table.hpp"
 #include "base/translated_texts.hpp"
 #include "base/value_error.hpp"
+#include "batch/output_names.hpp"
 #include "commands/fatal_error.hpp"
 #include "plot/drawing_stop.hpp"
 #include "project/project_data.hpp"
@@ -38,6 +40,8 @@ void raccontaGuasto(Esito& esito) {
             esito.progetto + ": " + errore.what() + "; " +
                 base::traduttore("il comando verifica nomina i campi con valori troppo grandi"),
             esito);
+    } catch (const NomiInConflitto& errore) {
+        fallisci(usoErrato, errore.what(), esito);
     } catch (const base::ErroreIndice& errore) {
         fallisci(ingressoRotto, esito.progetto + ": " + commands::spiegazione(errore), esito);
     } catch (const plot::DisegnoInterrotto& errore) {

@@ -15,6 +15,7 @@ enum CodiceUscita { fatto = 0, nonEseguito = 1, usoErrato = 2, ingressoRotto = 3
 /// | --- | --- |
 /// | a value is too large to be shown: like a result that is not finite, no result file stays | 1 |
 /// | a drawing was stopped by its user | 1 |
+/// | two files of the command would become one | 2 |
 /// | broken input, an index beyond a table, full disk, anything else | 3 |
 ///
 /// @pre called from the handler of an exception derived from std::exception

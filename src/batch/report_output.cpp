@@ -8,6 +8,7 @@
 #include "base/value_error.hpp"
 #include "batch/console_run.hpp"
 #include "batch/interruption.hpp"
+#include "batch/output_names.hpp"
 #include "commands/output_title.hpp"
 #include "commands/project_review.hpp"
 #include "commands/report_export.hpp"
@@ -59,13 +60,14 @@ void scriviUscite(const UsciteRelazione& uscite, base::Dialogo& dialogo, Esito& 
 }  // namespace
 
 void controllaUscite(const UsciteRelazione& uscite) {
-    if (!uscite.pdf.empty()) {
-        const std::string risultati = base::nomeRisultati(project::fileCorrente);
-        const std::string relazione = base::nomeRelazione(risultati);
-        for (const auto& altro :
-             {risultati, relazione, commands::nomeTesto(relazione), base::nomeDocumento(relazione)})
-            analysis::controllaUscita(uscite.pdf, altro);
-    }
+    const auto file = fileDelProgetto();
+    if (!uscite.pdf.empty())
+        for (const auto& altro : file) analysis::controllaUscita(uscite.pdf, altro);
+    // Two of these become one file only through links; the project the run looks at itself.
+    const bool scritti[] = {true, true, uscite.testo, uscite.documento};
+    for (std::size_t i = 1; i < file.size(); ++i)
+        for (std::size_t j = 0; j < i; ++j)
+            if (scritti[i] && scritti[j]) analysis::controllaCoppia(file[i], file[j]);
     if (!uscite.stampante.empty()) device::controllaStampante(uscite.stampante);
 }
 

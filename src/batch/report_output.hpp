@@ -21,9 +21,9 @@ struct UsciteRelazione {
 };
 
 /// Refuses, before anything is computed, a PDF name under which the project or another output would
-/// be lost, and a printer that the system does not know.
+/// be lost, outputs that a link would make one, and a printer that the system does not know.
 /// @pre an AmbienteDisegno that paints lives, if pages are painted
-/// @throws base::ErroreFile that names it
+/// @throws base::ErroreFile that names both files, or the printer
 void controllaUscite(const UsciteRelazione& uscite);
 
 /// Runs the analysis, writes the report and all that was asked for besides, and names it in the

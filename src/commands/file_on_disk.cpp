@@ -3,6 +3,7 @@
 #include <filesystem>
 
 #include "base/code_page.hpp"
+#include "base/file_identity.hpp"
 #include "base/files.hpp"
 
 namespace korven::commands {

@@ -5,6 +5,7 @@
 
 #include "base/code_page.hpp"
 #include "base/file_error.hpp"
+#include "base/file_identity.hpp"
 #include "base/file_names.hpp"
 #include "base/files.hpp"
 #include "base/translated_texts.hpp"

@@ -22,14 +22,15 @@ class ProgettoInPericolo : public ::testing::Test {
     void TearDown() override { progettiProtetti = {}; }
 
     // The run is refused with a message that names `file`; nothing is written, removed or asked.
-    void aspettaRifiuto(const std::string& file) {
+    void aspettaRifiuto(const std::string& file, const std::string& progetto = {}) {
         banco.calcola();
         EXPECT_TRUE(erroreCalcolo);
         ASSERT_EQ(banco.dialogo.messaggi.size(), 1u);
         const auto& detto = banco.dialogo.messaggi[0];
         EXPECT_NE(detto.testo.find("prenderebbe il posto del progetto"), std::string::npos)
             << detto.testo;
-        EXPECT_TRUE(detto.testo.ends_with(": " + file)) << detto.testo;
+        const std::string quale = progetto.empty() ? "" : " (" + progetto + ")";
+        EXPECT_TRUE(detto.testo.ends_with(": " + file + quale)) << detto.testo;
         EXPECT_EQ(detto.titolo, "ATTENZIONE!");
         EXPECT_EQ(banco.avanzamento.aperture, 0);
         EXPECT_EQ(banco.uscita.relazioni, 0);
@@ -54,7 +55,7 @@ TEST_F(ProgettoInPericolo, IsNotReplacedThroughALink) {
             fs::create_symlink(banco.progetto(), banco.risultati());
         else
             fs::create_hard_link(banco.progetto(), banco.risultati());
-        aspettaRifiuto(banco.risultati());
+        aspettaRifiuto(banco.risultati(), banco.progetto());
         EXPECT_EQ(contenuto(banco.progetto()), "il progetto");
         EXPECT_EQ(fileCorrente, banco.progetto());
     }
@@ -70,7 +71,7 @@ TEST_F(ProgettoInPericolo, IsSafeUnderTheNameItWasReadFromToo) {
     progettiProtetti.letto = banco.cartella / "originale.kvd";
     metti(progettiProtetti.letto, "originale");
     fs::create_symlink(progettiProtetti.letto, banco.risultati());
-    aspettaRifiuto(banco.risultati());
+    aspettaRifiuto(banco.risultati(), progettiProtetti.letto);
     EXPECT_EQ(contenuto(progettiProtetti.letto), "originale");
 }
 
@@ -115,6 +116,13 @@ TEST_F(ProgettoInPericolo, IsProtectedNoMoreOnceTheRunIsOver) {
     EXPECT_FALSE(prendeIlPostoDelProgetto(banco.progetto()));  // saving it is the user's right
 }
 
+TEST_F(ProgettoInPericolo, IsKnownUnderAnyNameThatWillLeadToIt) {
+    fs::remove(banco.progetto());  // typed anew and not saved yet
+    fs::create_symlink("muro.kvd", banco.risultati());
+    aspettaRifiuto(banco.risultati(), banco.progetto());
+    EXPECT_FALSE(fs::exists(banco.progetto()));
+}
+
 TEST(ControllaUscita, RefusesTheProjectAndTheFileThatTheOutputIsMadeFrom) {
     const test::CartellaProvvisoria cartella;
     progettiProtetti.letto = cartella / "muro.TAB";
@@ -127,7 +135,8 @@ TEST(ControllaUscita, RefusesTheProjectAndTheFileThatTheOutputIsMadeFrom) {
             ADD_FAILURE() << nome;
         } catch (const base::ErroreFile& errore) {
             EXPECT_EQ(errore.percorso(), cartella / nome);
-            EXPECT_EQ(errore.atteso(), "la scrittura prenderebbe il posto di un file letto");
+            EXPECT_EQ(errore.atteso(), "la scrittura prenderebbe il posto di un file letto: " +
+                                           (cartella / (nome[0] == 'm' ? nome : "muro.OUT")));
         }
     }
     EXPECT_NO_THROW(controllaUscita(cartella / "altro.TAB", cartella / "muro.OUT"));

@@ -225,21 +225,6 @@ TEST(ScriviFile, NeverTakesTheNameOfAPipeOrADevice) {
     EXPECT_EQ(voci(cartella), 2u);
 }
 
-TEST(StessoFile, SeesThroughLinksAndOtherWaysToAFolder) {
-    namespace fs = std::filesystem;
-    const CartellaProvvisoria cartella;
-    metti(cartella / "f", "x");
-    metti(cartella / "g", "x");
-    fs::create_symlink(cartella / "f", cartella / "simbolico");
-    fs::create_hard_link(cartella / "f", cartella / "rigido");
-    fs::create_directory_symlink(cartella.percorso(), cartella / "via");
-    for (const char* nome : {"f", "simbolico", "rigido", "via/f", "./f"})
-        EXPECT_TRUE(stessoFile(cartella / "f", cartella / nome)) << nome;
-    EXPECT_FALSE(stessoFile(cartella / "f", cartella / "g"));
-    EXPECT_FALSE(stessoFile(cartella / "f", cartella / "manca"));
-    EXPECT_TRUE(stessoFile(cartella / "manca", cartella / "manca"));
-}
-
 TEST(CancellaFile, IsSilentAboutAMissingFile) {
     const CartellaProvvisoria cartella;
     metti(cartella / "f", "x");

@@ -6,6 +6,7 @@
 namespace korven::batch {
 namespace {
 
+namespace fs = std::filesystem;
 using test::contenuto;
 using test::dice;
 using test::metti;
@@ -109,6 +110,71 @@ TEST_F(Disegni, NeverTakeThePlaceOfTheResultsOrOfEachOther) {
     EXPECT_EQ(nomi(), "muro.kvd ");
     EXPECT_EQ(disegna("sezione", {"--dxf", cartella / "s", "--png", cartella / "s"}).codice, 3);
     EXPECT_EQ(nomi(), "muro.kvd ");
+}
+
+// Nothing is there yet: what the names will become counts.
+TEST_F(Disegni, NeverReplaceEachOtherUnderTwoNames) {
+    fs::create_directory(cartella / "sotto");
+    fs::create_symlink("muro.OUT", cartella / "via");
+    const auto prima = nomi();
+    const test::Ambiente qui{.cartella = cartella.percorso()};
+    const struct {
+        int codice;
+        std::vector<std::string> argomenti;
+        std::string uno, altro;
+    } casi[] = {
+        {3, {"sezione", progetto, "--dxf", "q", "--svg", "./q"}, "./q", "q"},
+        {3, {"sezione", progetto, "--pdf", "sotto/../q", "--svg", "q"}, "q", "sotto/../q"},
+        {3, {"campiture", "--dxf", "q", "--svg", "sotto/../q"}, "sotto/../q", "q"},
+        {3,
+         {"diagramma", progetto, "--tipo", "taglio", "--dxf", "muro.OUT"},
+         "muro.OUT",
+         cartella / "muro.OUT"},
+        {3,
+         {"diagramma", progetto, "--tipo", "taglio", "--dxf", "via"},
+         "via",
+         cartella / "muro.OUT"},
+        {2,
+         {"diagramma", progetto, "--tipo", "taglio", "--dxf", "muro.TAB"},
+         "muro.TAB",
+         cartella / "muro.TAB"},
+        {2, {"stratigrafia", progetto, "--pdf", "./muro.doc"}, "./muro.doc", cartella / "muro.doc"},
+        {3, {"relazione", progetto, "--pdf", "muro.OUT"}, "muro.OUT", cartella / "muro.OUT"},
+        {3,
+         {"relazione", progetto, "--pdf", "sotto/../muro.TAB"},
+         "sotto/../muro.TAB",
+         cartella / "muro.TAB"},
+        {3,
+         {"relazione", progetto, "--pdf", "muro.txt", "--txt"},
+         "muro.txt",
+         cartella / "muro.txt"},
+    };
+    for (const auto& [codice, argomenti, uno, altro] : casi) {
+        const auto esito = console(argomenti, qui);
+        EXPECT_EQ(esito.codice, codice) << esito.errori;
+        EXPECT_TRUE(dice(esito.errori, "korven32c: " + uno + ": ")) << esito.errori;
+        EXPECT_TRUE(dice(esito.errori, ": " + altro + "\n")) << esito.errori;
+        EXPECT_EQ(nomi(), prima);
+    }
+}
+
+TEST_F(Disegni, OfAWholeDeliveryNeverReplaceEachOtherThroughLinks) {
+    const std::string dove = cartella / "o";
+    const auto tutto = [&] { return esegui("tutto", {"--uscita", dove, "--formati", "dxf"}); };
+    const struct {
+        int codice;
+        const char *nome, *meta;
+    } casi[] = {{2, "muro-taglio.dxf", "muro-momenti.dxf"},
+                {2, "muro-sezione.dxf", "muro-relazione.pdf"},
+                {3, "muro.txt", "muro.OUT"},
+                {3, "muro.TAB", "muro.OUT"}};
+    for (const auto& [codice, nome, meta] : casi) {
+        fs::remove_all(dove);
+        fs::create_directory(dove);
+        fs::create_symlink(meta, dove + "/" + nome);
+        EXPECT_EQ(tutto().codice, codice) << nome;
+        EXPECT_EQ(std::distance(fs::directory_iterator(dove), {}), 1) << nome;
+    }
 }
 
 TEST_F(Disegni, AreTheSameWhateverElseIsWritten) {

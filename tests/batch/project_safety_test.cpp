@@ -13,12 +13,14 @@ using test::metti;
 class ProgettoAlSicuro : public test::BancoConsole {
  protected:
     // The command is refused before anything happens to any file of the folder.
-    void aspettaRifiuto(const std::vector<std::string>& argomenti, const std::string& file) {
+    void aspettaRifiuto(const std::vector<std::string>& argomenti, const std::string& file,
+                        const std::string& colpito = {}) {
         const auto prima = this->file();
         const auto esito = console(argomenti);
         EXPECT_EQ(esito.codice, 1);
         EXPECT_TRUE(dice(esito.errori, "prenderebbe il posto del progetto")) << esito.errori;
-        EXPECT_TRUE(dice(esito.errori, ": " + file + "\n")) << esito.errori;
+        const std::string quale = colpito.empty() ? "" : " (" + colpito + ")";
+        EXPECT_TRUE(dice(esito.errori, ": " + file + quale + "\n")) << esito.errori;
         EXPECT_TRUE(esito.uscita.empty());
         EXPECT_EQ(this->file(), prima);
     }
@@ -63,7 +65,7 @@ TEST_F(ProgettoAlSicuro, BehindLinksThatHaveTheNamesOfOutputs) {
                 fs::create_symlink(progetto, cartella / nome);
             else
                 fs::create_hard_link(progetto, cartella / nome);
-            aspettaRifiuto({"relazione", progetto, "--txt"}, cartella / nome);
+            aspettaRifiuto({"relazione", progetto, "--txt"}, cartella / nome, progetto);
             fs::remove(cartella / nome);
         }
 }
@@ -80,7 +82,7 @@ TEST_F(ProgettoAlSicuro, WhenUscitaHoldsALinkToIt) {
     fs::create_directory(cartella / "fuori");
     fs::create_symlink(progetto, cartella / "fuori/muro.OUT");
     aspettaRifiuto({"calcola", progetto, "--uscita", cartella / "fuori"},
-                   cartella / "fuori/muro.OUT");
+                   cartella / "fuori/muro.OUT", progetto);
 }
 
 TEST_F(ProgettoAlSicuro, AlsoThatOfTheSameNameInTheFolderForResults) {
@@ -88,7 +90,7 @@ TEST_F(ProgettoAlSicuro, AlsoThatOfTheSameNameInTheFolderForResults) {
     metti(cartella / "fuori/muro.kvd", "un altro progetto");
     fs::create_symlink(cartella / "fuori/muro.kvd", cartella / "fuori/muro.OUT");
     aspettaRifiuto({"calcola", progetto, "--uscita", cartella / "fuori"},
-                   cartella / "fuori/muro.OUT");
+                   cartella / "fuori/muro.OUT", cartella / "fuori/muro.kvd");
     EXPECT_EQ(contenuto(cartella / "fuori/muro.kvd"), "un altro progetto");
 }
 

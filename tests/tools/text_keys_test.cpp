@@ -58,6 +58,7 @@ const std::map<std::string, Texts> noTexts = {
      {"sigmaVv", "Ehv", "kav", "kpv", "sigmaVm", "Ehm", "kam", "kpm", "Spostamenti", "Momenti"}},
     {"analysis/segment_count.cpp", {"nseg.txt"}},
     {"base/file_names.cpp", {"OUT", "TAB", "doc", "relazione", "pdf"}},
+    {"base/file_identity.cpp", {"/.korven-XXXXXX", "/.KORVEN-"}},
     {"base/files.cpp", {"/.korven-XXXXXX"}},
     {"base/text_lines.cpp", {"\\xFF\\xFE", "\\xFE\\xFF", "\\xEF\\xBB\\xBF"}},
     {"base/program_folder.cpp", {"KORVEN32_HOME", "/proc/self/exe"}},

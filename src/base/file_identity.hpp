@@ -1,0 +1,22 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+namespace korven::base {
+
+/// The file that a name stands for: a link leads to its target, which need not exist.
+/// @return nothing if links lead round in a circle
+[[nodiscard]] std::optional<std::string> destinazione(const std::string& percorso);
+
+/// True if both names lead to one file, or would once they are written: equal texts, symbolic or
+/// hard links, other ways to a folder ("q" and "./q"), and the case of letters where the file
+/// system does not tell it apart. To learn that, a file of a name of its own may be made for a
+/// moment in the folder, only when two names differ in nothing else.
+[[nodiscard]] bool stessoFile(const std::string& uno, const std::string& altro);
+
+/// True if names that differ only in the case of their letters lead to one file of this folder.
+/// False too where nothing can be written.
+[[nodiscard]] bool senzaMaiuscole(const std::string& cartella);
+
+}  // namespace korven::base

@@ -1,0 +1,34 @@
+#include "batch/output_names.hpp"
+
+#include "base/file_identity.hpp"
+#include "base/file_names.hpp"
+#include "base/translated_texts.hpp"
+#include "commands/project_commands.hpp"
+#include "project/project_data.hpp"
+
+namespace korven::batch {
+
+NomiInConflitto::NomiInConflitto(const std::string& uscita, const std::string& altro)
+    : std::runtime_error(
+          uscita + ": " +
+          base::traduttore("la scrittura prenderebbe il posto di un altro file del comando o del "
+                           "progetto") +
+          ": " + altro) {}
+
+std::vector<std::string> fileDelProgetto() {
+    if (project::fileCorrente.empty()) return {};
+    const std::string risultati = base::nomeRisultati(project::fileCorrente);
+    const std::string relazione = base::nomeRelazione(risultati);
+    return {risultati, relazione, commands::nomeTesto(relazione), base::nomeDocumento(relazione)};
+}
+
+void controllaNomi(const std::vector<std::string>& uscite, const std::vector<std::string>& altri) {
+    for (std::size_t i = 0; i < uscite.size(); ++i) {
+        for (const auto& altro : altri)
+            if (base::stessoFile(uscite[i], altro)) throw NomiInConflitto(uscite[i], altro);
+        for (std::size_t j = 0; j < i; ++j)
+            if (base::stessoFile(uscite[i], uscite[j])) throw NomiInConflitto(uscite[i], uscite[j]);
+    }
+}
+
+}  // namespace korven::batch

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace korven::batch {
+
+/// Two files of one command would become one: wrong usage, found before anything is computed.
+class NomiInConflitto : public std::runtime_error {
+ public:
+    NomiInConflitto(const std::string& uscita, const std::string& altro);
+};
+
+/// The result file of the current project and its report in each of its forms, as mark-up, text
+/// and word-processor file; none without a project. They need not exist.
+[[nodiscard]] std::vector<std::string> fileDelProgetto();
+
+/// Refuses outputs of a command that would replace one another, or one of `altri`: by what the
+/// names will become (`base::stessoFile`), whether the files exist yet or not.
+/// @throws NomiInConflitto with both names
+void controllaNomi(const std::vector<std::string>& uscite, const std::vector<std::string>& altri);
+
+}  // namespace korven::batch
