@@ -2,6 +2,7 @@
 #include <exception>
 #include <iostream>
 
+#include "base/closed_pipe.hpp"
 #include "base/file_error.hpp"
 #include "base/files.hpp"
 #include "base/language.hpp"
@@ -72,6 +73,7 @@ void lavora(const Opzioni& opzioni, std::exception_ptr senzaLingua, Esito& esito
 }
 
 int programma(int argc, const char* const* argv) {
+    base::resistiAiTubiChiusi();
     std::signal(SIGXFSZ, SIG_IGN);  // a file at its size limit is a failed write like others
     base::impostaCartellaProgramma(valoreAnticipato(argc, argv, "--cartella"));
     // Wrong usage goes before a language that can't be had, which JSON must be able to tell.

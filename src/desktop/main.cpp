@@ -7,6 +7,7 @@
 #include <csignal>
 #include <string>
 
+#include "base/closed_pipe.hpp"
 #include "base/file_error.hpp"
 #include "base/program_folder.hpp"
 #include "base/translated_texts.hpp"
@@ -95,6 +96,7 @@ int sessione(shell::Applicazione& applicazione, shell::DialogoQt& dialogo,
 }
 
 int programma(int argc, char** argv) {
+    base::resistiAiTubiChiusi();
     std::signal(SIGXFSZ, SIG_IGN);  // a file at its size limit is a failed write like others
     shell::Applicazione applicazione(argc, argv);
     QCoreApplication::setOrganizationName("korven32");

@@ -1,6 +1,7 @@
 #include <exception>
 #include <iostream>
 
+#include "base/closed_pipe.hpp"
 #include "base/files.hpp"
 #include "base/language.hpp"
 #include "base/program_folder.hpp"
@@ -30,6 +31,7 @@ void chooseLanguage() {
 }
 
 int work(int argc, const char* const* argv) {
+    base::resistiAiTubiChiusi();
     chooseLanguage();
     if (argc != 2) {
         std::cerr << base::traduttore("Uso") << ": outdoc FILE.TAB\n";

@@ -35,6 +35,13 @@ bool cediPrivilegi() {
     return true;
 }
 
+void perdiLettore(int uscita) {
+    std::array<int, 2> capi{};
+    if (::pipe(capi.data()) != 0 || ::dup2(capi[1], uscita) < 0) ::_exit(127);
+    ::close(capi[0]);
+    ::close(capi[1]);
+}
+
 [[noreturn]] void diventa(const std::string& programma, std::vector<char*> argomenti,
                           const Ambiente& ambiente) {
     for (const auto& [nome, valore] : ambiente.variabili) ::setenv(nome.c_str(), valore.c_str(), 1);
@@ -44,6 +51,8 @@ bool cediPrivilegi() {
         const rlimit limite{byte, byte};
         if (::setrlimit(RLIMIT_FSIZE, &limite) != 0) ::_exit(127);
     }
+    if (ambiente.uscitaNonLetta) perdiLettore(STDOUT_FILENO);
+    if (ambiente.erroriNonLetti) perdiLettore(STDERR_FILENO);
     if (ambiente.senzaPrivilegi && !cediPrivilegi()) ::_exit(127);
     ::execv(programma.c_str(), argomenti.data());
     ::_exit(127);
@@ -121,8 +130,19 @@ bool ProgrammaInCorso::aspettaSegnale(int numero) const {
     return false;
 }
 
+bool ProgrammaInCorso::aspetta(std::string_view negliErrori) {
+    char blocco[4096];
+    while (erroriLetti_.find(negliErrori) == std::string::npos) {
+        const ssize_t letti = ::read(errori_, blocco, sizeof blocco);
+        if (letti <= 0) return false;
+        erroriLetti_.append(blocco, static_cast<std::size_t>(letti));
+    }
+    return true;
+}
+
 EsitoProgramma ProgrammaInCorso::attendi() {
     EsitoProgramma esito;
+    esito.errori = erroriLetti_;
     leggiEntrambi(uscita_, errori_, esito);
     int stato = 0;
     ::waitpid(processo_, &stato, 0);

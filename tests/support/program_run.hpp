@@ -4,6 +4,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -23,6 +24,7 @@ struct Ambiente {
     std::string uscita = {};  ///< file that takes the standard output; empty: it is kept
     /// Obeys the permissions of files even as root. Exit code 127 where that can't be had.
     bool senzaPrivilegi = false;
+    bool uscitaNonLetta = false, erroriNonLetti = false;  ///< a pipe whose reader is gone
 };
 
 /// A program that runs beside the test. Its two outputs are kept in pipes until `attendi`.
@@ -37,12 +39,16 @@ class ProgrammaInCorso {
     void segnale(int numero) const;
     /// True once the program has a handler of its own for the signal. @return false after 10 s
     [[nodiscard]] bool aspettaSegnale(int numero) const;
+    /// Reads standard error until it holds this.
+    /// @return false if it ended before
+    bool aspetta(std::string_view negliErrori);
     /// Reads both outputs to their ends and waits for the program.
     EsitoProgramma attendi();
 
  private:
     pid_t processo_ = -1;
     int uscita_ = -1, errori_ = -1;
+    std::string erroriLetti_;
 };
 
 }  // namespace korven::test

@@ -1,0 +1,10 @@
+#pragma once
+
+namespace korven::base {
+
+/// Lets a write to a pipe that nobody reads any more ("| head") fail like any other write: by
+/// itself it would end the program in the middle of its work, with a file half written. To be
+/// called once, at the start. Programs that are started from here meet the signal as ever.
+void resistiAiTubiChiusi();
+
+}  // namespace korven::base

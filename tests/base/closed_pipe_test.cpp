@@ -1,0 +1,39 @@
+#include "base/closed_pipe.hpp"
+
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <csignal>
+
+namespace korven::base {
+namespace {
+
+// Each in a process of its own, whose end tells: the signals of the tests stay as they are.
+TEST(TuboChiuso, FailsAWriteAndEndsNothing) {
+    EXPECT_EXIT(
+        {
+            std::signal(SIGPIPE, SIG_DFL);
+            resistiAiTubiChiusi();
+            int tubo[2];
+            if (::pipe(tubo) != 0) ::_exit(8);
+            ::close(tubo[0]);
+            const bool fallita = ::write(tubo[1], "x", 1) < 0 && errno == EPIPE;
+            ::_exit(fallita ? 0 : 9);
+        },
+        ::testing::ExitedWithCode(0), "");
+}
+
+TEST(TuboChiuso, IsMetAsEverByAStartedProgram) {
+    EXPECT_EXIT(
+        {
+            std::signal(SIGPIPE, SIG_DFL);
+            resistiAiTubiChiusi();
+            ::execl("/bin/sh", "sh", "-c", "kill -PIPE $$; exit 9", nullptr);
+            ::_exit(8);
+        },
+        ::testing::KilledBySignal(SIGPIPE), "");
+}
+
+}  // namespace
+}  // namespace korven::base
