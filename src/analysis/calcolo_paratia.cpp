@@ -210,6 +210,9 @@ void CalcoloParatia(int modoUscita, const PorteCalcolo& porte) {
     const auto nSeg = leggiNSeg(vincoli(Progetto).incastroPiede);
     if (!nSeg) return avvisa(porte.dialogo, traduttore(motivoNSeg()));
 
+    if (porte.guardia != nullptr &&
+        !porte.guardia->occupa(fileCorrente, porte.dialogo, porte.avanzamento))
+        return;
     if (!risultatiAggiornati()) calcolaFasi(*nSeg, MRd, porte);
     if (erroreCalcolo) return;
 

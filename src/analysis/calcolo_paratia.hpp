@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "analysis/progress.hpp"
+#include "analysis/result_guard.hpp"
 #include "base/dialogo.hpp"
 
 namespace korven::analysis {
@@ -27,6 +28,8 @@ struct PorteCalcolo {
     base::Dialogo& dialogo;
     Avanzamento& avanzamento;
     UscitaCalcolo& uscita;
+    /// Keeps the result file from other runs, for as long as it lives; none: nobody else is there.
+    GuardiaRisultati* guardia = nullptr;
 };
 
 /// The one entry of the analysis: refuses a project that can't be computed, brings the result file
@@ -46,9 +49,14 @@ struct PorteCalcolo {
 /// which a stage asks for more anchors than their table holds, or whose section has more bars than
 /// the calculations take.
 ///
+/// With a guard among the ports the result file is taken before it is compared, and one that a
+/// killed run has left unfinished is removed; without one it counts as finished until it is read.
+/// Giving up the wait for another run ends like a stop.
+///
 /// @param modoUscita  0 the report, 1 to 4 a diagram
 /// @pre `modoUscita` is one of these: asserted
-/// @throws base::ErroreFile if a file can't be read or written; nothing half-written stays
+/// @throws base::ErroreFile if a file can't be read or written, or another run does not let go of
+/// the result file; nothing half-written stays
 void CalcoloParatia(int modoUscita, const PorteCalcolo& porte);
 
 /// Why the outputs of a run can't be written under the names that follow from the project's,

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <chrono>
 #include <span>
 #include <string>
+#include <string_view>
 
 #include "analysis/node_vector.hpp"
 
@@ -49,6 +51,15 @@ class Avanzamento {
     virtual void iterazione(const StatoIterazione& stato) = 0;
     /// The run has left its stages, whatever the outcome.
     virtual void chiudi() = 0;
+
+    /// Before the stages, while another run holds the result file: called again and again, each
+    /// time with the words that tell it. Lets `pausaAttesa` pass and is the one chance to serve
+    /// waiting events and to set `stopCalcolo`, which ends the waiting. By default it just sleeps.
+    virtual void attendi(std::string_view detto);
+    /// The waiting is over, whatever its outcome.
+    virtual void fineAttesa() {}
+
+    static constexpr std::chrono::milliseconds pausaAttesa{50};
 };
 
 /// The line that tells the state of a run: "fase=2   iter.=5   Ymax=0.0123   Mmax=45.6", with Ymax

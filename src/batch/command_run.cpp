@@ -46,36 +46,36 @@ int concludi(CorsaConsole& corsa, Esito& esito) {
     return fatto;
 }
 
-int calcola(const Opzioni& opzioni, Esito& esito) {
-    CorsaConsole corsa(opzioni, esito);
+int calcola(const Opzioni& opzioni, analysis::GuardiaRisultati& guardia, Esito& esito) {
+    CorsaConsole corsa(opzioni, guardia, esito);
     commands::UscitaRelazione soloRisultati(false);
     if (!corsa.esegui(0, soloRisultati)) return nonEseguito;
     annotaRisultati(esito);
     return concludi(corsa, esito);
 }
 
-int relazione(const Opzioni& opzioni, Esito& esito) {
+int relazione(const Opzioni& opzioni, analysis::GuardiaRisultati& guardia, Esito& esito) {
     const AmbienteDisegno ambiente(opzioni.relazione.dipinte());
     controllaUscite(opzioni.relazione);
-    CorsaConsole corsa(opzioni, esito);
+    CorsaConsole corsa(opzioni, guardia, esito);
     if (!scriviRelazione(opzioni.relazione, corsa, esito)) return nonEseguito;
     return concludi(corsa, esito);
 }
 
-int eseguiComando(const Opzioni& opzioni, Esito& esito) {
+int eseguiComando(const Opzioni& opzioni, analysis::GuardiaRisultati& guardia, Esito& esito) {
     switch (opzioni.comando) {
         case Comando::verifica:
             return verifica(opzioni, esito);
         case Comando::relazione:
             avvisaPosto();
-            return relazione(opzioni, esito);
+            return relazione(opzioni, guardia, esito);
         case Comando::calcola:
-            return calcola(opzioni, esito);
+            return calcola(opzioni, guardia, esito);
         case Comando::tutto:
             avvisaPosto();
-            return tutto(opzioni, esito);
+            return tutto(opzioni, guardia, esito);
         default:
-            return disegna(opzioni, esito);
+            return disegna(opzioni, guardia, esito);
     }
 }
 
@@ -93,13 +93,13 @@ bool giaDetto(const std::string& testo, const Esito& esito) {
 
 // What looks like a slip is told before the program computes with it; behind a run that was
 // refused, what else prevents it.
-int calcolaConRilievi(const Opzioni& opzioni, Esito& esito) {
+int calcolaConRilievi(const Opzioni& opzioni, analysis::GuardiaRisultati& guardia, Esito& esito) {
     const Interruzioni interruzioni;
     esito.rilievi = commands::esaminaFile(opzioni.progetto, project::Progetto);
     esito.esaminato = true;
     for (const auto& rilievo : esito.rilievi)
         if (!rilievo.impedisce) std::cerr << riga(rilievo) << '\n';
-    const int codice = eseguiComando(opzioni, esito);
+    const int codice = eseguiComando(opzioni, guardia, esito);
     for (const auto& rilievo : esito.rilievi)
         if (rilievo.impedisce && codice != fatto && !giaDetto(rilievo.testo, esito))
             std::cerr << riga(rilievo) << '\n';
@@ -108,8 +108,8 @@ int calcolaConRilievi(const Opzioni& opzioni, Esito& esito) {
 
 }  // namespace
 
-int esegui(const Opzioni& opzioni, Esito& esito) {
-    if (opzioni.comando == Comando::campiture) return disegna(opzioni, esito);
+int esegui(const Opzioni& opzioni, analysis::GuardiaRisultati& guardia, Esito& esito) {
+    if (opzioni.comando == Comando::campiture) return disegna(opzioni, guardia, esito);
     analysis::contenutoNSeg = opzioni.nseg;
     commands::apriProgetto(opzioni.progetto, opzioni.uscita);
     esito.progettoLetto = true;
@@ -118,8 +118,8 @@ int esegui(const Opzioni& opzioni, Esito& esito) {
     project::faseGrafico = opzioni.fase;
     if (!opzioni.uscita.empty() && opzioni.comando != Comando::verifica)
         commands::creaCartella(opzioni.uscita);
-    return calcolaAnche(opzioni.comando) ? calcolaConRilievi(opzioni, esito)
-                                         : eseguiComando(opzioni, esito);
+    return calcolaAnche(opzioni.comando) ? calcolaConRilievi(opzioni, guardia, esito)
+                                         : eseguiComando(opzioni, guardia, esito);
 }
 
 }  // namespace korven::batch

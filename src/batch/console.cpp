@@ -61,4 +61,10 @@ void AvanzamentoConsole::chiudi() {
     rigaAperta_ = false;
 }
 
+void AvanzamentoConsole::attendi(std::string_view detto) {
+    if (mostra_ && !attesaDetta_) std::cerr << detto << '\n' << std::flush;
+    attesaDetta_ = true;
+    Avanzamento::attendi(detto);
+}
+
 }  // namespace korven::batch

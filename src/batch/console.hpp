@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "analysis/progress.hpp"
@@ -17,11 +18,15 @@ class AvanzamentoConsole : public analysis::Avanzamento {
     void apri() override {}
     void iterazione(const analysis::StatoIterazione& stato) override;
     void chiudi() override;
+    /// Says once what is waited for.
+    void attendi(std::string_view detto) override;
+    void fineAttesa() override { attesaDetta_ = false; }
 
  private:
     bool mostra_;
     bool terminale_;
     bool rigaAperta_ = false;
+    bool attesaDetta_ = false;
 };
 
 /// Tells messages on standard error and answers the one question of a run as the command line said.

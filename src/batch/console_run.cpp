@@ -33,8 +33,10 @@ void annotaRisultati(Esito& esito) {
         esito.fileScritti.push_back(base::nomeRisultati(project::fileCorrente));
 }
 
-CorsaConsole::CorsaConsole(const Opzioni& opzioni, Esito& esito)
+CorsaConsole::CorsaConsole(const Opzioni& opzioni, analysis::GuardiaRisultati& guardia,
+                           Esito& esito)
     : opzioni_(opzioni),
+      guardia_(guardia),
       esito_(esito),
       vista_(!opzioni.silenzioso),
       dialogo_(opzioni.ricalcolaEJ, vista_) {
@@ -45,7 +47,7 @@ bool CorsaConsole::esegui(int modoUscita, analysis::UscitaCalcolo& uscita) {
     // A reading of the results turns every other method into Coulomb's.
     if (opzioni_.metodoSpinte) project::Progetto.metodoSpinte = *opzioni_.metodoSpinte;
     commands::ControlloCorsa controllo(vista_, opzioni_.maxIterazioni, Interruzioni::chiesta());
-    analysis::CalcoloParatia(modoUscita, {dialogo_, controllo, uscita});
+    analysis::CalcoloParatia(modoUscita, {dialogo_, controllo, uscita, &guardia_});
     esito_.messaggi = dialogo_.messaggi();
     if (analysis::erroreCalcolo) {
         raccontaArresto(controllo, esito_);

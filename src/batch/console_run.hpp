@@ -1,5 +1,6 @@
 #pragma once
 
+#include "analysis/result_guard.hpp"
 #include "batch/console.hpp"
 #include "batch/interruption.hpp"
 #include "batch/options.hpp"
@@ -17,7 +18,9 @@ void annotaRisultati(Esito& esito);
 /// or, behind it, is kept in mind.
 class CorsaConsole {
  public:
-    CorsaConsole(const Opzioni& opzioni, Esito& esito);
+    /// @param guardia  keeps the result file beyond this object's life, for as long as outputs are
+    ///                 made of it
+    CorsaConsole(const Opzioni& opzioni, analysis::GuardiaRisultati& guardia, Esito& esito);
 
     /// Brings the results up to date and hands over to the output.
     /// @param modoUscita  0 the report, 1 to 4 a diagram
@@ -31,6 +34,7 @@ class CorsaConsole {
 
  private:
     const Opzioni& opzioni_;
+    analysis::GuardiaRisultati& guardia_;
     Esito& esito_;
     AvanzamentoConsole vista_;
     DialogoConsole dialogo_;

@@ -47,10 +47,10 @@ bool stratigrafia(const Opzioni& opzioni, Esito& esito) {
     return disegnata;
 }
 
-bool disegnaComando(const Opzioni& opzioni, Esito& esito) {
+bool disegnaComando(const Opzioni& opzioni, analysis::GuardiaRisultati& guardia, Esito& esito) {
     switch (opzioni.comando) {
         case Comando::diagramma: {
-            CorsaConsole corsa(opzioni, esito);
+            CorsaConsole corsa(opzioni, guardia, esito);
             if (!diagramma(opzioni.tipo, corsa)) return false;
             annotaRisultati(esito);
             return !corsa.interrotta();
@@ -128,16 +128,16 @@ void annuncia(const Opzioni& opzioni, std::size_t quale, const Tavola& tavola) {
 
 }  // namespace
 
-int disegna(const Opzioni& opzioni, Esito& esito) {
+int disegna(const Opzioni& opzioni, analysis::GuardiaRisultati& guardia, Esito& esito) {
     controllaUscite(opzioni.disegno);
     const Interruzioni interruzioni;
     const AmbienteDisegno ambiente(opzioni.disegno.dipinte());
-    if (!disegnaComando(opzioni, esito)) return nonEseguito;
+    if (!disegnaComando(opzioni, guardia, esito)) return nonEseguito;
     scrivi(opzioni.disegno, esito);
     return fatto;
 }
 
-int tutto(const Opzioni& opzioni, Esito& esito) {
+int tutto(const Opzioni& opzioni, analysis::GuardiaRisultati& guardia, Esito& esito) {
     std::vector<std::string> tutte;
     for (const Tavola& tavola : tavole) {
         const UsciteDisegno uscite = usciteTavola(opzioni, tavola);
@@ -149,7 +149,7 @@ int tutto(const Opzioni& opzioni, Esito& esito) {
     controllaUscite(relazione);
     tutte.push_back(relazione.pdf);
     controllaNomi(tutte, {});
-    CorsaConsole corsa(opzioni, esito);
+    CorsaConsole corsa(opzioni, guardia, esito);
     if (!scriviRelazione(relazione, corsa, esito)) return nonEseguito;
     esito.calcolo = commands::leggiEsito();
     // Whether anything was computed is for the first run to say: the others find its results.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "analysis/result_guard.hpp"
 #include "batch/options.hpp"
 #include "batch/outcome.hpp"
 
@@ -10,11 +11,12 @@ namespace korven::batch {
 /// date first.
 /// @return the exit code
 /// @throws base::ErroreFile if a file can't be read or written
-[[nodiscard]] int disegna(const Opzioni& opzioni, Esito& esito);
+[[nodiscard]] int disegna(const Opzioni& opzioni, analysis::GuardiaRisultati& guardia,
+                          Esito& esito);
 
 /// Writes the report in each of its forms and every drawing of the project.
 /// @return the exit code
 /// @throws base::ErroreFile if a file can't be read or written
-[[nodiscard]] int tutto(const Opzioni& opzioni, Esito& esito);
+[[nodiscard]] int tutto(const Opzioni& opzioni, analysis::GuardiaRisultati& guardia, Esito& esito);
 
 }  // namespace korven::batch

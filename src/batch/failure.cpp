@@ -4,9 +4,8 @@
 #include <exception>
 #include <iostream>
 
-#include "analysis/output_guard.hpp"
-#include "base/file_names.hpp"
 #include "base/file_identity.hpp"
+#include "base/file_names.hpp"
 #include "base/files.hpp"
 #include "base/table.hpp"
 #include "base/translated_texts.hpp"
@@ -21,20 +20,18 @@ namespace korven::batch {
 namespace {
 
 // As after a singular system: what can't be shown must not be taken for up to date.
-void togliRisultati(Esito& esito) {
+void togliRisultati(analysis::GuardiaRisultati& guardia, Esito& esito) {
     esito.calcolo.reset();
-    const std::string risultati = base::nomeRisultati(project::fileCorrente);
-    if (esito.corsa && !analysis::prendeIlPostoDelProgetto(risultati))
-        base::cancellaFile(risultati);
+    if (esito.corsa) guardia.togliNonMostrabili(base::nomeRisultati(project::fileCorrente));
 }
 
 }  // namespace
 
-void raccontaGuasto(Esito& esito) {
+void raccontaGuasto(analysis::GuardiaRisultati& guardia, Esito& esito) {
     try {
         throw;
     } catch (const base::ErroreValore& errore) {
-        togliRisultati(esito);
+        togliRisultati(guardia, esito);
         fallisci(
             nonEseguito,
             esito.progetto + ": " + errore.what() + "; " +

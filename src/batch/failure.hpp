@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "analysis/result_guard.hpp"
 #include "batch/outcome.hpp"
 
 namespace korven::batch {
@@ -19,7 +20,7 @@ enum CodiceUscita { fatto = 0, nonEseguito = 1, usoErrato = 2, ingressoRotto = 3
 /// | broken input, an index beyond a table, full disk, anything else | 3 |
 ///
 /// @pre called from the handler of an exception derived from std::exception
-void raccontaGuasto(Esito& esito);
+void raccontaGuasto(analysis::GuardiaRisultati& guardia, Esito& esito);
 
 /// Tells on standard error why a command failed and writes it into the outcome.
 void fallisci(int codice, const std::string& perche, Esito& esito);

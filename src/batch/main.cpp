@@ -2,6 +2,7 @@
 #include <exception>
 #include <iostream>
 
+#include "analysis/result_guard.hpp"
 #include "base/closed_pipe.hpp"
 #include "base/file_error.hpp"
 #include "base/files.hpp"
@@ -44,11 +45,12 @@ std::string resoconto(const Opzioni& opzioni, const Esito& esito) {
     return testo;
 }
 
-std::string resocontoAncheDiUnGuasto(const Opzioni& opzioni, Esito& esito) {
+std::string resocontoAncheDiUnGuasto(const Opzioni& opzioni, analysis::GuardiaRisultati& guardia,
+                                     Esito& esito) {
     try {
         return resoconto(opzioni, esito);
     } catch (const std::exception&) {
-        raccontaGuasto(esito);
+        raccontaGuasto(guardia, esito);
     }
     return resoconto(opzioni, esito);  // of the failure: without the numbers that could not be told
 }
@@ -62,12 +64,13 @@ int versa(const std::string& testo, int codice) {
     return ingressoRotto;
 }
 
-void lavora(const Opzioni& opzioni, std::exception_ptr senzaLingua, Esito& esito) {
+void lavora(const Opzioni& opzioni, std::exception_ptr senzaLingua,
+            analysis::GuardiaRisultati& guardia, Esito& esito) {
     try {
         if (senzaLingua) std::rethrow_exception(senzaLingua);
-        esito.codice = esegui(opzioni, esito);
+        esito.codice = esegui(opzioni, guardia, esito);
     } catch (const std::exception&) {
-        raccontaGuasto(esito);
+        raccontaGuasto(guardia, esito);
     }
     if (esito.corsa && esito.codice != fatto) avvisaRelazioniRimaste(esito);
 }
@@ -89,8 +92,9 @@ int programma(int argc, const char* const* argv) {
     Esito esito;
     esito.comando = nomeComando(opzioni->comando);
     esito.progetto = opzioni->progetto;
-    lavora(*opzioni, senzaLingua, esito);
-    const std::string testo = resocontoAncheDiUnGuasto(*opzioni, esito);
+    analysis::GuardiaRisultati guardia;
+    lavora(*opzioni, senzaLingua, guardia, esito);
+    const std::string testo = resocontoAncheDiUnGuasto(*opzioni, guardia, esito);
     return versa(testo, esito.codice);
 }
 

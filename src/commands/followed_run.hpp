@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "analysis/progress.hpp"
 #include "commands/iteration_trace.hpp"
@@ -16,6 +17,8 @@ class CorsaSeguita : public analysis::Avanzamento {
     void apri() override;
     void iterazione(const analysis::StatoIterazione& stato) override;
     void chiudi() override { vista_.chiudi(); }
+    void attendi(std::string_view detto) override { vista_.attendi(detto); }
+    void fineAttesa() override { vista_.fineAttesa(); }
 
     /// One line about the stop: stage, iterations, and what still flipped; empty for a run that
     /// came to its end, was refused, or not needed.

@@ -5,7 +5,6 @@
 #include <iterator>
 
 #include "analysis/calcolo_paratia.hpp"
-#include "analysis/output_guard.hpp"
 #include "analysis/run_flags.hpp"
 #include "base/file_error.hpp"
 #include "base/file_names.hpp"
@@ -73,18 +72,17 @@ bool seSiPuoScrivere(base::Dialogo& dialogo, Uscita uscita) {
 
 // True when the run went through and its output is there.
 bool calcola(int modoUscita, base::Dialogo& dialogo, analysis::Avanzamento& avanzamento,
-             analysis::UscitaCalcolo& uscita) {
+             analysis::UscitaCalcolo& uscita, analysis::GuardiaRisultati& guardia) {
     try {
         const bool scritto = seSiPuoScrivere(dialogo, [&] {
-            analysis::CalcoloParatia(modoUscita, {dialogo, avanzamento, uscita});
+            analysis::CalcoloParatia(modoUscita, {dialogo, avanzamento, uscita, &guardia});
             return true;
         });
         if (!scritto) analysis::erroreCalcolo = true;
     } catch (const base::ErroreValore& errore) {
         analysis::erroreCalcolo = true;
         // As after a singular system: what can't be shown must not be taken for up to date.
-        const std::string risultati = base::nomeRisultati(fileCorrente);
-        if (!analysis::prendeIlPostoDelProgetto(risultati)) base::cancellaFile(risultati);
+        guardia.togliNonMostrabili(base::nomeRisultati(fileCorrente));
         dialogo.messaggio(errore.what(), attenzione(), base::Icona::stop);
     }
     return !analysis::erroreCalcolo;
@@ -94,7 +92,9 @@ void produciRelazione(Relazione destinazione, base::Dialogo& dialogo,
                       analysis::Avanzamento& avanzamento, const FormeProgramma& forme) {
     Clessidra clessidra(dialogo);
     UscitaRelazione uscita(true);
-    if (!calcola(0, dialogo, avanzamento, uscita)) return;
+    // Until the report has been read: another run would write its own in its place.
+    analysis::GuardiaRisultati guardia;
+    if (!calcola(0, dialogo, avanzamento, uscita, guardia)) return;
     clessidra.mostra();  // the run gives the pointer back at its end
     (forme.*destinazione)(uscita.relazione());
 }
@@ -102,7 +102,12 @@ void produciRelazione(Relazione destinazione, base::Dialogo& dialogo,
 void produciDiagramma(int modoUscita, base::Dialogo& dialogo, analysis::Avanzamento& avanzamento,
                       const FormeProgramma& forme) {
     UscitaDiagramma uscita;
-    if (calcola(modoUscita, dialogo, avanzamento, uscita)) forme.grafica();
+    bool disegnato = false;
+    {
+        analysis::GuardiaRisultati guardia;
+        disegnato = calcola(modoUscita, dialogo, avanzamento, uscita, guardia);
+    }
+    if (disegnato) forme.grafica();  // which needs no file any more
 }
 
 void produciCalcolo(const ComandoCalcolo& comando, base::Dialogo& dialogo,

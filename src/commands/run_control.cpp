@@ -25,6 +25,11 @@ void ControlloCorsa::iterazione(const analysis::StatoIterazione& stato) {
     if (interruzione_ != 0) analysis::stopCalcolo = true;
 }
 
+void ControlloCorsa::attendi(std::string_view detto) {
+    vista_.attendi(detto);
+    if (interruzione_ != 0) analysis::stopCalcolo = true;
+}
+
 void ControlloCorsa::ferma() {
     analysis::stopCalcolo = true;
     oltreLimite_ = true;

@@ -34,6 +34,8 @@ class ControlloCorsa : public analysis::Avanzamento {
     void apri() override;
     void iterazione(const analysis::StatoIterazione& stato) override;
     void chiudi() override { vista_.chiudi(); }
+    void attendi(std::string_view detto) override;
+    void fineAttesa() override { vista_.fineAttesa(); }
 
     /// True when stages were computed: the result file was not up to date.
     [[nodiscard]] bool calcolato() const { return calcolato_; }

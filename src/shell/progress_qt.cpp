@@ -1,6 +1,8 @@
 #include "shell/progress_qt.hpp"
 
 #include <QCoreApplication>
+#include <QEventLoop>
+#include <QTimer>
 
 #include "analysis/run_flags.hpp"
 #include "shell/qt_text.hpp"
@@ -41,6 +43,27 @@ void AvanzamentoQt::chiudi() {
     }
     finestra_.reset();
     if (principale_ != nullptr) principale_->setWindowTitle(didascaliaPrima_);
+}
+
+void AvanzamentoQt::attendi(std::string_view detto) {
+    if (!attesa_) apriAttesa(detto);
+    QEventLoop pausa;
+    QTimer::singleShot(pausaAttesa, &pausa, &QEventLoop::quit);
+    pausa.exec();
+    if (Terminazione::chiesta()) analysis::stopCalcolo = true;
+}
+
+void AvanzamentoQt::apriAttesa(std::string_view detto) {
+    attesa_ = std::make_unique<QMessageBox>(principale_);
+    attesa_->setObjectName("attesa");
+    attesa_->setWindowTitle(tradotto("ATTENZIONE") + "!");
+    attesa_->setIcon(QMessageBox::Information);
+    attesa_->setTextFormat(Qt::PlainText);
+    attesa_->setText(qt(detto));
+    attesa_->addButton(tradotto("&Interrompi"), QMessageBox::RejectRole);
+    attesa_->setWindowModality(Qt::ApplicationModal);
+    QObject::connect(attesa_.get(), &QDialog::finished, [] { analysis::stopCalcolo = true; });
+    attesa_->show();
 }
 
 }  // namespace korven::shell

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <QMessageBox>
 #include <QPointer>
 #include <QWidget>
 #include <functional>
 #include <memory>
+#include <string_view>
 
 #include "analysis/progress.hpp"
 #include "shell/redraw_rhythm.hpp"
@@ -26,18 +28,23 @@ class AvanzamentoQt : public analysis::Avanzamento {
     void apri() override;
     void iterazione(const analysis::StatoIterazione& stato) override;
     void chiudi() override;
+    /// A box with a button to give up; the other windows are closed to the user meanwhile.
+    void attendi(std::string_view detto) override;
+    void fineAttesa() override { attesa_.reset(); }
 
     /// The progress window while a run lasts, else nullptr.
     [[nodiscard]] TempCalc* finestra() const { return finestra_.get(); }
 
  private:
     void mostra();
+    void apriAttesa(std::string_view detto);
 
     Orologio orologio_;
     QPointer<QWidget> principale_;
     QString didascaliaPrima_;
     RitmoRidisegno ritmo_;
     std::unique_ptr<TempCalc> finestra_;
+    std::unique_ptr<QMessageBox> attesa_;
     QuadroAvanzamento quadro_;
     QString didascalia_;
     bool daMostrare_ = false;

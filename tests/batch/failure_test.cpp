@@ -27,7 +27,8 @@ Esito dopo(const Errore& errore, const std::string& progetto = "muro.kvd") {
     try {
         throw errore;
     } catch (const std::exception&) {
-        raccontaGuasto(esito);
+        analysis::GuardiaRisultati guardia;
+        raccontaGuasto(guardia, esito);
     }
     EXPECT_EQ(::testing::internal::GetCapturedStderr(),
               "korven32c: " + esito.messaggi.at(0) + "\n");

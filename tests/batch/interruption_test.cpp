@@ -51,7 +51,7 @@ TEST_F(SenzaPace, AnIgnoredInterruptStaysIgnored) {
     ASSERT_TRUE(corre());
     corsa.segnale(SIGINT);
     std::this_thread::sleep_for(std::chrono::milliseconds(200));
-    EXPECT_EQ(nomi(), "muro.OUT muro.kvd ");
+    EXPECT_EQ(nomi(), ".korven-muro.OUT.lock muro.OUT muro.kvd ");
     corsa.segnale(SIGTERM);
     EXPECT_EQ(corsa.attendi().codice, 1);
 }

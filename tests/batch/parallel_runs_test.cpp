@@ -1,5 +1,8 @@
+#include <csignal>
 #include <memory>
+#include <thread>
 
+#include "base/file_lock.hpp"
 #include "batch_bench.hpp"
 
 namespace korven::batch {
@@ -7,6 +10,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
+using test::Ambiente;
+using test::dice;
 using Parallelo = test::BancoConsole;
 
 TEST_F(Parallelo, ManyRunsAtOnceGiveWhatTheyGiveOneAfterTheOther) {
@@ -56,6 +61,77 @@ TEST_F(Parallelo, VariantsOfOneProjectRunAtOnceIntoFoldersOfTheirOwn) {
         // The head, for each of two stages the names and the nodes, the closing numbers.
         EXPECT_EQ(std::count(out.begin(), out.end(), '\n'), 87 + 2 * (1 + n + 1) + 5) << n;
     }
+}
+
+// The lock of another run is held by the test.
+class FileOccupato : public Parallelo {
+ protected:
+    void SetUp() override {
+        Parallelo::SetUp();
+        ASSERT_EQ(altra.prendi(base::nomeSerratura(cartella / "muro.OUT")),
+                  base::Serratura::Esito::presa);
+    }
+    static constexpr const char* attesa = "Un altro calcolo sta usando il file dei risultati";
+    base::Serratura altra;
+};
+
+TEST_F(FileOccupato, IsWaitedForUntilTheOtherRunHasEnded) {
+    for (const char* comando : {"relazione", "calcola"}) {
+        test::ProgrammaInCorso corsa(KORVEN_CONSOLE, {comando, progetto, "--nseg", "10"});
+        ASSERT_TRUE(corsa.aspetta(attesa));
+        EXPECT_FALSE(fs::exists(cartella / "muro.OUT"));
+        altra.lascia();
+        const auto esito = corsa.attendi();
+        EXPECT_EQ(esito.codice, 0) << esito.errori;
+        fs::remove(cartella / "muro.OUT");
+        SetUp();
+    }
+    altra.lascia();
+    EXPECT_EQ(nomi(), "muro.TAB muro.kvd ");
+}
+
+TEST_F(FileOccupato, IsNotTouchedWhenTheWaitingIsInterrupted) {
+    test::ProgrammaInCorso corsa(KORVEN_CONSOLE, {"calcola", progetto, "--nseg", "10"});
+    ASSERT_TRUE(corsa.aspetta(attesa));
+    corsa.segnale(SIGINT);
+    const auto esito = corsa.attendi();
+    EXPECT_EQ(esito.codice, 1);
+    EXPECT_TRUE(esito.errori.ends_with("Calcolo interrotto dall'utente.\n")) << esito.errori;
+    altra.lascia();
+    EXPECT_EQ(nomi(), "muro.kvd ");
+}
+
+TEST_F(FileOccupato, IsFreeAgainWhenItsHolderWasKilled) {
+    altra.lascia();
+    scrivi(test::progettoSenzaPace());
+    {
+        test::ProgrammaInCorso uccisa(
+            KORVEN_CONSOLE, {"calcola", progetto, "--nseg", "10", "--max-iterazioni", "0"});
+        while (!fs::exists(cartella / "muro.OUT")) std::this_thread::yield();
+        uccisa.segnale(SIGKILL);
+        EXPECT_EQ(uccisa.attendi().codice, -1);
+    }
+    EXPECT_EQ(nomi(), ".korven-muro.OUT.lock muro.OUT muro.kvd ");
+    const auto esito = esegui("calcola", {"--max-iterazioni", "50"});
+    EXPECT_EQ(esito.codice, 1);
+    EXPECT_FALSE(dice(esito.errori, attesa)) << esito.errori;
+    EXPECT_TRUE(dice(esito.errori, "È stato tolto un file dei risultati incompiuto"));
+    EXPECT_EQ(nomi(), "muro.kvd ");
+}
+
+// The results are up to date and are read; nothing can be made beside them, a lock neither.
+TEST_F(FileOccupato, IsNoMatterInAFolderThatCantBeWritten) {
+    altra.lascia();
+    ASSERT_EQ(esegui("calcola").codice, 0);
+    fs::permissions(cartella.percorso(), fs::perms::owner_read | fs::perms::owner_exec);
+    const Ambiente nessunDiritto{.senzaPrivilegi = true};
+    const auto letti = esegui("calcola", {}, nessunDiritto);
+    const auto scritti = esegui("relazione", {}, nessunDiritto);
+    fs::permissions(cartella.percorso(), fs::perms::owner_all);
+    if (letti.codice == 127) GTEST_SKIP() << "root without the right to give up its rights";
+    EXPECT_EQ(letti.codice, 0) << letti.errori;
+    EXPECT_EQ(scritti.codice, 3);
+    EXPECT_TRUE(dice(scritti.errori, "muro.TAB: impossibile scrivere il file")) << scritti.errori;
 }
 
 }  // namespace

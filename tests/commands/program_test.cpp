@@ -4,6 +4,8 @@
 
 #include "analysis/run_flags.hpp"
 #include "base/code_page.hpp"
+#include "base/file_lock.hpp"
+#include "base/file_names.hpp"
 #include "project/project_file.hpp"
 #include "support/document_ports.hpp"
 #include "support/sample_projects.hpp"
@@ -127,6 +129,30 @@ TEST_F(ProgrammaTest, TellsInTheStatusLineWhereARunWasStoppedUntilAnotherGoesThr
     avanzamento.adOgniIterazione = {};
     p.esegui(Comando::stampaVideo);
     EXPECT_EQ(finestra.ultimoStato, aperto);
+}
+
+// The lock of another run is held by the test.
+TEST_F(ProgrammaTest, TellsOfAnotherRunThatDoesNotLetGoOfTheResults) {
+    const std::string muro = ambiente.lavori / "muro.kvd";
+    test::metti(muro, base::inCp1252(project::testoProgetto(test::progettoSemplice())));
+    FormeProgramma forme;
+    forme.anteprima = [](const std::string&) {};
+    auto p = programma(forme);
+    ASSERT_TRUE(p.documento().apriAllAvvio(muro));
+    base::Serratura altra;
+    ASSERT_EQ(altra.prendi(base::nomeSerratura(base::nomeRisultati(muro))),
+              base::Serratura::Esito::presa);
+    p.esegui(Comando::stampaVideo);
+    EXPECT_EQ(avanzamento.attese.size(), 200u);
+    EXPECT_EQ(avanzamento.fineAttese, 1);
+    EXPECT_EQ(avanzamento.aperture, 0);
+    ASSERT_EQ(dialogo.messaggi.size(), 1u);
+    EXPECT_NE(dialogo.messaggi[0].testo.find(": un altro calcolo sta ancora usando"),
+              std::string::npos);
+    EXPECT_EQ(dialogo.messaggi[0].icona, base::Icona::stop);
+    altra.lascia();
+    p.esegui(Comando::stampaVideo);
+    EXPECT_EQ(avanzamento.aperture, 1);
 }
 
 TEST_F(ProgrammaTest, SaysWhichCommandsHaveTheirForm) {

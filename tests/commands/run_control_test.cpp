@@ -57,6 +57,18 @@ TEST_F(Controllo, HandsTheProgressOnAndKeepsTheIterationsOfEachStage) {
     EXPECT_FALSE(stopCalcolo);
 }
 
+TEST_F(Controllo, HandsTheWaitingOnAndEndsItOnAnInterrupt) {
+    ControlloCorsa controllo(vista, 100, interruzione);
+    controllo.attendi("un altro calcolo");
+    EXPECT_FALSE(stopCalcolo);
+    interruzione = 1;
+    controllo.attendi("un altro calcolo");
+    EXPECT_TRUE(stopCalcolo);
+    controllo.fineAttesa();
+    EXPECT_EQ(vista.attese, std::vector<std::string>(2, "un altro calcolo"));
+    EXPECT_EQ(vista.fineAttese, 1);
+}
+
 TEST_F(Controllo, RecordsAStageOfMoreThanTwentyIterationsOnly) {
     for (const int quante : {20, 21}) {
         ControlloCorsa controllo(vista, 0, interruzione);

@@ -4,6 +4,7 @@
 
 #include "analysis/calcolo_paratia.hpp"
 #include "analysis/run_flags.hpp"
+#include "base/file_lock.hpp"
 #include "shell/progress_qt.hpp"
 #include "support/desktop_bench.hpp"
 #include "support/run_harness.hpp"
@@ -110,6 +111,60 @@ TEST_F(Corsa, EndsWhenTheStopButtonIsPressed) {
     EXPECT_FALSE(banco.haRisultati());
     EXPECT_TRUE(banco.dialogo.messaggi.empty());
     EXPECT_EQ(avanzamento.finestra(), nullptr);
+}
+
+// Another run's lock is held by the test.
+class CorsaCheAttende : public Corsa {
+ protected:
+    void SetUp() override {
+        principale.setWindowTitle("KORVEN 32 - muro");
+        ASSERT_EQ(altra.prendi(base::nomeSerratura(banco.risultati())),
+                  base::Serratura::Esito::presa);
+    }
+    // Runs while something is done to the box that tells of the other run.
+    void calcola(const std::function<void(QMessageBox&)>& fa) {
+        AvanzamentoQt avanzamento;
+        avanzamento.sopra(&principale);
+        QTimer occhio;
+        QObject::connect(&occhio, &QTimer::timeout, [&] {
+            auto* attesa = principale.findChild<QMessageBox*>("attesa");
+            if (attesa == nullptr) return;
+            occhio.stop();
+            testo = attesa->text().toStdString();
+            modale = attesa->isVisible() && attesa->isModal();
+            fa(*attesa);
+        });
+        occhio.start(0);
+        analysis::CalcoloParatia(0, {banco.dialogo, avanzamento, banco.uscita, &guardia});
+        EXPECT_TRUE(testo.starts_with("Un altro calcolo sta usando il file dei risultati"));
+        EXPECT_TRUE(modale);
+        EXPECT_EQ(principale.findChild<QMessageBox*>("attesa"), nullptr);
+        EXPECT_EQ(principale.windowTitle(), "KORVEN 32 - muro");
+    }
+    base::Serratura altra;
+    analysis::GuardiaRisultati guardia;
+    std::string testo;
+    bool modale = false;
+};
+
+TEST_F(CorsaCheAttende, ServesItsBoxAndGoesOnWhenTheOtherRunHasEnded) {
+    calcola([this](QMessageBox&) { altra.lascia(); });
+    EXPECT_FALSE(analysis::erroreCalcolo);
+    EXPECT_TRUE(banco.haRisultati());
+}
+
+TEST_F(CorsaCheAttende, EndsWithTheButtonOfItsBoxAndWithEsc) {
+    for (const bool esc : {false, true}) {
+        calcola([esc](QMessageBox& attesa) {
+            if (esc)
+                QTest::keyClick(&attesa, Qt::Key_Escape);
+            else
+                QTest::mouseClick(attesa.buttons().first(), Qt::LeftButton);
+        });
+        EXPECT_TRUE(analysis::erroreCalcolo);
+        EXPECT_FALSE(banco.haRisultati());
+        EXPECT_TRUE(banco.dialogo.messaggi.empty());
+    }
 }
 
 TEST(TempCalcTest, StopsAtEscEnterSpaceAndItsCloseBoxAndStays) {

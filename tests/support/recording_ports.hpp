@@ -3,6 +3,7 @@
 #include <deque>
 #include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "analysis/calcolo_paratia.hpp"
@@ -45,8 +46,16 @@ class AvanzamentoFinto : public analysis::Avanzamento {
         if (adOgniIterazione) adOgniIterazione(stato);
     }
     void chiudi() override { ++chiusure; }
+    /// No time passes.
+    void attendi(std::string_view detto) override {
+        attese.emplace_back(detto);
+        if (allaPausa) allaPausa(static_cast<int>(attese.size()));
+    }
+    void fineAttesa() override { ++fineAttese; }
 
-    int aperture = 0, chiusure = 0, iterazioni = 0;
+    int aperture = 0, chiusure = 0, iterazioni = 0, fineAttese = 0;
+    std::vector<std::string> attese;
+    std::function<void(int volta)> allaPausa;
     std::function<void(const analysis::StatoIterazione&)> adOgniIterazione;
 };
 

@@ -1,0 +1,80 @@
+#include "base/file_lock.hpp"
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdint>
+#include <filesystem>
+#include <utility>
+
+#include "base/file_identity.hpp"
+
+namespace korven::base {
+
+namespace {
+
+// A file that another user's program has made can be locked without the right to write it.
+int apri(const std::string& percorso) {
+    constexpr int comune = O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK;
+    constexpr mode_t permessi = 0666;
+    const int file = ::open(percorso.c_str(), O_RDWR | O_CREAT | comune, permessi);
+    return file >= 0 ? file : ::open(percorso.c_str(), O_RDONLY | comune);
+}
+
+// True while the open file still bears the name.
+bool portaIlNome(int file, const std::string& percorso) {
+    struct stat suo {
+    }, delNome{};
+    return ::fstat(file, &suo) == 0 && ::lstat(percorso.c_str(), &delNome) == 0 &&
+           suo.st_dev == delNome.st_dev && suo.st_ino == delNome.st_ino;
+}
+
+// FNV-1a: names that differ in one character must not meet.
+std::string impronta(const std::string& nome) {
+    std::uint64_t somma = 14695981039346656037u;
+    for (const char c : nome) somma = (somma ^ static_cast<unsigned char>(c)) * 1099511628211u;
+    return std::to_string(somma);
+}
+
+}  // namespace
+
+Serratura::Esito Serratura::prendi(const std::string& percorso) {
+    constexpr int tentativi = 100;  // each fails only because another let go meanwhile
+    lascia();
+    percorso_ = percorso;
+    for (int i = 0; i < tentativi; ++i) {
+        const int file = apri(percorso);
+        if (file < 0) return Esito::impossibile;
+        if (::flock(file, LOCK_EX | LOCK_NB) != 0) {
+            const int codice = errno;
+            ::close(file);
+            return codice == EWOULDBLOCK || codice == EINTR ? Esito::occupata : Esito::impossibile;
+        }
+        if (portaIlNome(file, percorso)) {
+            file_ = file;
+            return Esito::presa;
+        }
+        ::close(file);
+    }
+    return Esito::occupata;
+}
+
+void Serratura::lascia() {
+    if (file_ < 0) return;
+    if (portaIlNome(file_, percorso_)) ::unlink(percorso_.c_str());
+    ::close(std::exchange(file_, -1));
+}
+
+std::string nomeSerratura(const std::string& file) {
+    constexpr std::size_t massimo = 255;  // bytes that a name may have on the usual file systems
+    const std::filesystem::path meta = destinazione(file).value_or(file);
+    const std::string nome = meta.filename().string();
+    std::string serratura = ".korven-" + nome + ".lock";
+    if (serratura.size() > massimo) serratura = ".korven-" + impronta(nome) + ".lock";
+    return (meta.parent_path() / serratura).string();
+}
+
+}  // namespace korven::base
