@@ -55,9 +55,12 @@ void scriviPdf(const std::string& percorso, const plot::Foglio& foglio) {
         scrittore.setPageSize(QPageSize(misure, QPageSize::Millimeter, {}, QPageSize::FuzzyMatch));
         scrittore.setPageMargins(QMarginsF());
         QPainter painter(&scrittore);
-        PittoreDisegno(painter, vista, perCentimetro(dpiVettoriale),
-                       pennaMinimaCm * perCentimetro(dpiVettoriale))
-            .dipingi(plot::statoPlot.archivio);
+        PittoreDisegno pittore(painter, vista, perCentimetro(dpiVettoriale),
+                               pennaMinimaCm * perCentimetro(dpiVettoriale));
+        // Qt compresses a page when it ends, which for millions of lines beside the paper would
+        // take seconds.
+        pittore.limita(vista.ymin, vista.ymax);
+        pittore.dipingi(plot::statoPlot.archivio);
     }
     file.concludi();
 }

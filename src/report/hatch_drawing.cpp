@@ -27,7 +27,10 @@ bool vicini(Punto a, Punto b) {
 // Number of tiles of half side `a` on each side of the middle one. What is missing at the edge may
 // be left out as long as nobody sees it.
 int piastrelleIntorno(double mezzaMisura, double a) {
-    return mezzaMisura > a ? static_cast<int>((mezzaMisura - a) / (2 * a) + 0.9999) : 0;
+    constexpr double massimo = 1e9;  // more than anybody waits for
+    return mezzaMisura > a
+               ? static_cast<int>(std::min((mezzaMisura - a) / (2 * a) + 0.9999, massimo))
+               : 0;
 }
 
 // Fills one rectangle, pattern upon pattern.

@@ -135,6 +135,22 @@ TEST_F(File, HoldOnePdfPageOfA4) {
     EXPECT_NE(pdf.find("/MediaBox [0 0 595.000000 842.000000]"), std::string::npos);
 }
 
+TEST_F(File, OfPdfLeaveOutLinesAboveAndBelowThePage) {
+    const auto byte = [this](double y) {
+        apri();
+        for (int i = 0; i < 2000; ++i) {
+            plotMuovi(0.001 * i, y, pennaSu);
+            plotMuovi(0.001 * i, y - 0.5 * (i % 2), pennaGiu);
+        }
+        plotMuovi(0, 0, fineDisegno);
+        scriviPdf(cartella / "disegno.pdf");
+        return test::contenuto(cartella / "disegno.pdf").size();
+    };
+    const auto vuota = byte(-100);  // an A4 page ends 12.35 cm below the sheet
+    EXPECT_EQ(byte(100), vuota);
+    EXPECT_GT(byte(-12), vuota + 1000) << "on the page, beside the sheet";
+}
+
 TEST_F(File, HoldTheTextsOfAnSvgAsTexts) {
     apri();
     plot::plotSimbolo(2, 3, 1, "Pietà", 0, 5);
