@@ -9,9 +9,11 @@
 #include "base/file_error.hpp"
 #include "base/file_names.hpp"
 #include "base/files.hpp"
+#include "base/table.hpp"
 #include "base/translated_texts.hpp"
 #include "base/value_error.hpp"
 #include "commands/diagram_output.hpp"
+#include "commands/log_limit.hpp"
 #include "commands/project_commands.hpp"
 #include "plot/drawing_stop.hpp"
 #include "plot/drawing_watch.hpp"
@@ -130,6 +132,10 @@ void produciStratigrafia(base::Dialogo& dialogo, const FormeProgramma& forme) {
     } catch (const plot::DisegnoInterrotto&) {
         plot::statoPlot.archivio.svuota();
         if (forme.chiudiGrafica) forme.chiudiGrafica();
+    } catch (const base::ErroreIndice& errore) {  // more numbers on its scale than a drawing holds
+        const std::string perche = rifiutoStratigrafia(project::Progetto);
+        if (perche.empty()) throw;
+        throw base::ErroreIndice(perche + " (" + errore.what() + ")");
     }
 }
 

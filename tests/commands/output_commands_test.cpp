@@ -7,6 +7,7 @@
 
 #include "analysis/run_flags.hpp"
 #include "base/number_text.hpp"
+#include "base/table.hpp"
 #include "base/value_error.hpp"
 #include "plot/plot_engine.hpp"
 #include "project/project_file.hpp"
@@ -171,6 +172,21 @@ TEST_F(ProduciDisegni, TakeAwayTheViewerOfALogThatItsUserStops) {
     EXPECT_EQ(tolte, 1);
     EXPECT_TRUE(plot::statoPlot.archivio.lineeInMemoria().empty());
     EXPECT_TRUE(dialogo.messaggi.empty());
+}
+
+// A scale of 45 km in steps of 10 m has more numbers than a drawing has room for texts.
+TEST_F(ProduciDisegni, TellTheLayerOfALogThatHasTooManyTexts) {
+    test::scriviLibreria(ambiente.programma, {});
+    Progetto.profStrato[2] = 45000;
+    try {
+        esegui(Comando::graficaStratigrafia);
+        FAIL() << "drawn";
+    } catch (const base::ErroreIndice& errore) {
+        const std::string detto = errore.what();
+        EXPECT_TRUE(detto.starts_with("strato 2: Prof. [m] = 45000: ")) << detto;
+        EXPECT_TRUE(detto.ends_with(" (il disegno ha più testi di quanti ne possa tenere: 2000)"))
+            << detto;
+    }
 }
 
 TEST_F(ProduciDisegni, DrawTheLogWithoutARun) {
