@@ -133,7 +133,7 @@ ChiusuraRisultati LettoreRisultati::leggiChiusura() {
     // The last line may lack its end. But a file cut short there holds the head of the factor,
     // which would read as a smaller one.
     if (!file_.rigaIntera() && chiusura.fsAzioni != structure::fsAzioniSezione)
-        file_.rifiuta(traduttore("atteso un numero scritto fino in fondo") + ": " +
+        file_.rifiuta(traduttore("atteso un numero completo") + ": " +
                       traduttore(chiuse[std::size(chiuse) - 1].nome));
     if (!file_.fine()) {
         file_.riga("");

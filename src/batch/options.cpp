@@ -185,7 +185,7 @@ const RigaComando righeComandi[] = {
      [](CLI::App& c, Opzioni& o) {
          diCalcolo(c, o);
          c.add_flag("--traccia", o.traccia,
-                    traduttore("racconta i cambi di stato delle fasi con più di 20 iterazioni"));
+                    traduttore("mostra i cambi di stato delle fasi con più di 20 iterazioni"));
      }},
     {Comando::relazione, "relazione", "esegue il calcolo e scrive la relazione (TAB)",
      [](CLI::App& c, Opzioni& o) {

@@ -155,17 +155,17 @@ void controlloFerri(const DatiProgetto& dati, ElencoRilievi& elenco) {
     else if (s.armNumLong < 1)
         elenco.avviso(conValore(
             traduttore("numero di ferri memorizzato minore di 1: i pali contano come non armati "
-                       "(editore e relazione mostrano dieci volte il numero che calcola)"),
+                       "(scheda e relazione mostrano dieci volte il numero usato nel calcolo)"),
             s.armNumLong));
     else if (s.armNumLong >= ferriDaRelazione)
         elenco.avviso(conValore(
             traduttore("numero di ferri memorizzato di 100 o più: sembra quello della relazione, "
-                       "che mostra dieci volte il numero che calcola"),
+                       "che mostra dieci volte il numero usato nel calcolo"),
             s.armNumLong));
     else if (!intero(s.armNumLong))
         elenco.avviso(conValore(
-            traduttore("numero di ferri memorizzato non intero (editore e relazione mostrano dieci "
-                       "volte il numero che calcola)"),
+            traduttore("numero di ferri memorizzato non intero (scheda e relazione mostrano dieci "
+                       "volte il numero usato nel calcolo)"),
             s.armNumLong));
 }
 

@@ -19,7 +19,7 @@ using project::DatiProgetto;
 using project::massimoStrati;
 
 constexpr const char* inKilonewton =
-    "sembra un peso in kN/m³: il file lo tiene in t/m³, dieci volte più piccolo";
+    "sembra un peso di volume in kN/m³: il file lo tiene in t/m³, dieci volte più piccolo";
 
 constexpr double profonditaInsolita = 200;  // no wall reaches there [m]
 
@@ -54,7 +54,7 @@ const ControlloStrato controlliStrato[] = {
      [](Dati d, int j) {
          return d.gammaSat[j] > 0 && d.gammaSat[j] < d.gammaN[j] && d.gammaN[j] <= massimoPeso;
      },
-     "il peso saturo è minore di quello naturale"},
+     "il peso di volume saturo è minore di quello naturale"},
     {&DatiProgetto::phiStrato, "Phi [°]", 1,
      [](Dati d, int j) { return d.phiStrato[j] < 0 || d.phiStrato[j] >= 90; },
      "l'angolo non è ammissibile"},

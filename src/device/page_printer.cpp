@@ -120,7 +120,7 @@ void StampantePagine::fineStampa() {
 
 void StampantePagine::fallita() const {
     throw base::ErroreFile(destinazione(stampante_), 0,
-                           base::traduttore("la stampa non e' riuscita"));
+                           base::traduttore("la stampa non è riuscita"));
 }
 
 std::unique_ptr<plot::Stampante> stampanteSuPdf(const QString& percorso, const QPrinter& pagina,

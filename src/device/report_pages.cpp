@@ -104,7 +104,7 @@ class SuStampante : public PagineRelazione {
     bool comincia() override { return conosciuta(stampante_) && PagineRelazione::comincia(); }
     void fallita() const override {
         throw report::PrinterError(destinazione(stampante_), 0,
-                                   base::traduttore("la stampa non e' riuscita"));
+                                   base::traduttore("la stampa non è riuscita"));
     }
 
     QPrinter& stampante_;
@@ -160,7 +160,7 @@ class SuPdf : private FilePdf, public PagineRelazione {
         return PagineRelazione::comincia();
     }
     void fallita() const override {
-        throw report::PrinterError(percorso_, 0, base::traduttore("la stampa non e' riuscita"));
+        throw report::PrinterError(percorso_, 0, base::traduttore("la stampa non è riuscita"));
     }
 
     std::string percorso_;

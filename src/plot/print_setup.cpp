@@ -37,7 +37,7 @@ struct CampoTesto {
 };
 constexpr CampoTesto testi[] = {
     {"Intestazione", &ImpostazioniStampa::intestazione},
-    {"Pie' di pagina", &ImpostazioniStampa::piePagina},
+    {"Piè di pagina", &ImpostazioniStampa::piePagina},
     {"Set di caratteri", &ImpostazioniStampa::carattere},
 };
 

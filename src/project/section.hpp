@@ -28,16 +28,16 @@ struct Sezione {
     double paliDiamInt = 0;    ///< inner diameter [cm]
     double paliInterasse = 0;  ///< spacing [cm]
 
-    double palancolaBase = 0;      ///< width of the flat between the legs [cm]
-    double palancolaLargAla = 0;   ///< half the width of an inclined leg along the wall [cm]
-    double palancolaAltAla = 0;    ///< half the height of an inclined leg across the wall [cm]
-    double palancolaSpessore = 0;  ///< thickness of the flat [cm]
-    double palancolaSpessAla = 0;  ///< thickness of the legs [cm]
+    double palancolaBase = 0;      ///< width of the flange between the webs [cm]
+    double palancolaLargAla = 0;   ///< half the width of an inclined web along the wall [cm]
+    double palancolaAltAla = 0;    ///< half the height of an inclined web across the wall [cm]
+    double palancolaSpessore = 0;  ///< thickness of the flange [cm]
+    double palancolaSpessAla = 0;  ///< thickness of the webs [cm]
 
     double armInterasse = 0;    ///< pile spacing [cm]
     double armDiamLong = 0;     ///< diameter of the longitudinal bars [cm]
     double armDiamPalo = 0;     ///< pile diameter [cm]
-    double armPassoStaffe = 0;  ///< stirrup pitch [cm]
+    double armPassoStaffe = 0;  ///< stirrup spacing [cm]
     double armDiamStaffe = 0;   ///< stirrup diameter [cm]
     /// Number of longitudinal bars as the calculations take it. The editors and the report show ten
     /// times this number, because it passes through the same factor as the lengths.

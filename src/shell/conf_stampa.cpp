@@ -36,7 +36,7 @@ constexpr Campo campi[] = {
     {"Text4", "Lunghezza pagina (righe)", Campo::numero},
     {"Text5", "Altezza caratteri (punti)", Campo::numero},
     {"Text6", "Intestazione", Campo::testo},
-    {"Text7", "Pie' di pagina", Campo::testo},
+    {"Text7", "Piè di pagina", Campo::testo},
     {"List1", "Set di caratteri", Campo::lista},
     {"Text8", "Offset superiore (righe)", Campo::numero},
 };

@@ -46,7 +46,8 @@ constexpr TipoForma tipi[] = {
 };
 
 constexpr const char* aiutoTipo =
-    "Il tipo di sezione con cui si calcola. I dati degli altri tipi restano nel progetto.";
+    "Il tipo di sezione con cui si calcola. I dati degli altri tipi restano nel progetto. "
+    "Il segno decimale è il punto.";
 
 std::size_t indice(RiquadroSezione riquadro) { return static_cast<std::size_t>(riquadro); }
 

@@ -93,7 +93,7 @@ void disegnaPaloArmato(Schizzo& schizzo, const Sezione& s, double numero, const 
              ferro});
 }
 
-// A piece of pile seen from its side: the pitch of the stirrups can't be seen in plan.
+// A piece of pile seen from its side: the spacing of the stirrups can't be seen in plan.
 void fiancoConStaffe(Schizzo& schizzo, const Sezione& s) {
     constexpr double x1 = 84, x2 = 96, sotto = 4, sopra = 26;
     constexpr double passoMinimo = 3, passoMassimo = 9;

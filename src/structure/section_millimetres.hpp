@@ -37,18 +37,18 @@ struct PaliMm {
 
 /// Sheet pile, a trapezoidal wave measured on the profile's axis.
 struct PalancolaMm {
-    double base;      ///< width of a flat [mm]
-    double largAla;   ///< half the width of an inclined leg along the wall [mm]
-    double altAla;    ///< half the height of an inclined leg across the wall [mm]
-    double spessore;  ///< thickness of the flats [mm]
-    double spessAla;  ///< thickness of the legs [mm]
+    double base;      ///< width of a flange [mm]
+    double largAla;   ///< half the width of an inclined web along the wall [mm]
+    double altAla;    ///< half the height of an inclined web across the wall [mm]
+    double spessore;  ///< thickness of the flanges [mm]
+    double spessAla;  ///< thickness of the webs [mm]
 };
 
 /// Depth of the sheet pile, 2 altAla + spessore [mm].
 [[nodiscard]] double altezza(const PalancolaMm& palancola);
 /// Length after which the wave repeats, 4 largAla + 2 base [mm].
 [[nodiscard]] double passoOnda(const PalancolaMm& palancola);
-/// Thickness of an inclined leg measured along the wall, spessAla / cos(atan(largAla / altAla))
+/// Thickness of an inclined web measured along the wall, spessAla / cos(atan(largAla / altAla))
 /// [mm].
 [[nodiscard]] double spessoreOrizzontaleAla(const PalancolaMm& palancola);
 

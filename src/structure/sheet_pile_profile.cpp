@@ -6,11 +6,11 @@ namespace korven::structure {
 
 namespace {
 
-// One face of the wave from end to end. The face lies `dx` beyond the axis of the flats and `dy`
-// beyond that of the leg.
+// One face of the wave from end to end. The face lies `dx` beyond the axis of the flanges and `dy`
+// beyond that of the web.
 std::array<plot::Punto, 6> faccia(const PalancolaMm& p, double dx, double dy) {
     const double meta = passoOnda(p) / 2;
-    // The leg runs from (altAla, -meta + base/2) to (-altAla, -base/2).
+    // The web runs from (altAla, -meta + base/2) to (-altAla, -base/2).
     const auto ala = [&](double x) {
         return -meta + p.base / 2 + (p.altAla - x) * p.largAla / p.altAla + dy;
     };

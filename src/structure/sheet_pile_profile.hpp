@@ -9,9 +9,9 @@ namespace korven::structure {
 
 /// Outline of one wave of the sheet pile, closed from the last point to the first [mm]: x across
 /// the wall, downhill positive, y along it, from the middle of the wave. First the downhill face,
-/// then back along the uphill one; where flat and leg meet is a corner, as of plates that are
+/// then back along the uphill one; where flange and web meet is a corner, as of plates that are
 /// mitred.
-/// @pre altAla > 0: without height there are no legs, nor a wave
+/// @pre altAla > 0: without height there are no webs, nor a wave
 [[nodiscard]] std::array<plot::Punto, 12> profiloPalancola(const PalancolaMm& palancola);
 
 }  // namespace korven::structure

@@ -33,14 +33,14 @@ void contorno(const PalancolaMm& p, Disposizione& posti) {
 void vistaPalancola(const project::Sezione& s) {
     const PalancolaMm p = palancolaMm(s);
     Disposizione posti;
-    if (p.altAla > 0) contorno(p, posti);  // without height there are no legs, nor a wave
+    if (p.altAla > 0) contorno(p, posti);  // without height there are no webs, nor a wave
 
     const double mezzaOnda = passoOnda(p) / 2 * perMillimetro;
     const double sinistra = xVista - altezza(p) / 2 * perMillimetro;
     const double destra = xVista + altezza(p) / 2 * perMillimetro;
     const double interno = sinistra + p.spessore * perMillimetro;
     constexpr double distanza = 1;
-    plot::linea(interno, yVista, destra, yVista);  // from the width's upper end to the flat
+    plot::linea(interno, yVista, destra, yVista);  // from the width's upper end to the flange
     posti.disponi(
         {quoteVerticali(yVista - mezzaOnda, yVista, destra + distanza, destra,
                         base::testoNumero(s.palancolaBase + 2 * s.palancolaLargAla) + " cm"),

@@ -51,12 +51,12 @@ AreeStrisce areePalancola(const PalancolaMm& p, double bStriscia) {
     const double dy = altezza(p) / nStrisce;
     const double tw = spessoreOrizzontaleAla(p);
     const double piene = p.spessore / dy;
-    // A profile so low that its flats fill the whole depth has no part-filled strip.
+    // A profile so low that its flanges fill the whole depth has no part-filled strip.
     const bool soloPiatti = !(piene < nStrisce);
     const int m = soloPiatti ? nStrisce : static_cast<int>(piene);
-    // The flats of a profile with m >= 50 meet and overlap at mid-depth. Then the strips at the end
-    // of a flat, m + 1 and 100 - m, keep the part that their own flat fills, although the other
-    // flat fills them whole: the part-filled strips are set last.
+    // The flanges of a profile with m >= 50 meet and overlap at mid-depth. Then the strips at the
+    // end of a flange, m + 1 and 100 - m, keep the part that their own flange fills, although the
+    // other flange fills them whole: the part-filled strips are set last.
     TabellaStrisce B;
     for (int i = 1; i <= m; ++i) B[i] = B[nStrisce + 1 - i] = dy * (p.base - tw);
     if (!soloPiatti) B[m + 1] = B[nStrisce - m] = (p.base - tw) * (p.spessore - m * dy);

@@ -21,7 +21,7 @@ struct AreeStrisce {
 /// Steel tube between two concentric circles, concrete inside.
 [[nodiscard]] AreeStrisce areePali(const PaliMm& p, double bStriscia);
 
-/// Steel alone: every strip holds the two legs of a wave, the outer ones the flats too.
+/// Steel alone: every strip holds the two webs of a wave, the outer ones the flanges too.
 [[nodiscard]] AreeStrisce areePalancola(const PalancolaMm& p, double bStriscia);
 
 /// A round pile with a ring of bars, the first at mid-depth; the bars' room is taken out of the

@@ -39,7 +39,8 @@ TEST(EsaminaFile, TellsADecimalCommaWithItsLineItsFieldAndWhatWasRead) {
 TEST(EsaminaFile, PutsTheLinesBehindWhatTheProjectItselfShows) {
     const auto trovate = righeFile(conScambio("1.8", "18 kN/m3"));
     ASSERT_EQ(trovate.size(), 2u);
-    EXPECT_TRUE(trovate[0].starts_with("strato 1: Gamma [kN/m³] = 180: sembra un peso in kN/m³"));
+    EXPECT_TRUE(
+        trovate[0].starts_with("strato 1: Gamma [kN/m³] = 180: sembra un peso di volume in kN/m³"));
     EXPECT_TRUE(trovate[1].starts_with("riga 3: peso naturale dello strato 1 = 18: "));
 }
 

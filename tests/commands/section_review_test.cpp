@@ -102,12 +102,13 @@ TEST(ControlloSezione, TellsABarCountThatTheTenfoldOfTheEditorMadeTooSmall) {
     auto s = structure::paliArmati();
     s.armNumLong = 1.2;  // twelve typed
     EXPECT_EQ(righe(s),
-              (Righe{"numero di ferri memorizzato non intero (editore e relazione mostrano dieci "
-                     "volte il numero che calcola) (1.2)"}));
+              (Righe{"numero di ferri memorizzato non intero (scheda e relazione mostrano dieci "
+                     "volte il numero usato nel calcolo) (1.2)"}));
     s.armNumLong = 0.8;
-    EXPECT_EQ(righe(s),
-              (Righe{"numero di ferri memorizzato minore di 1: i pali contano come non armati "
-                     "(editore e relazione mostrano dieci volte il numero che calcola) (0.8)"}));
+    EXPECT_EQ(
+        righe(s),
+        (Righe{"numero di ferri memorizzato minore di 1: i pali contano come non armati "
+               "(scheda e relazione mostrano dieci volte il numero usato nel calcolo) (0.8)"}));
     s.armNumLong = 1;
     EXPECT_EQ(righe(s), niente);
 }
@@ -115,8 +116,9 @@ TEST(ControlloSezione, TellsABarCountThatTheTenfoldOfTheEditorMadeTooSmall) {
 TEST(ControlloSezione, TellsABarCountThatLooksCopiedFromTheReport) {
     auto s = structure::paliArmati();
     s.armNumLong = 120;  // the report's number for twelve bars
-    EXPECT_EQ(righe(s), (Righe{"numero di ferri memorizzato di 100 o più: sembra quello della "
-                               "relazione, che mostra dieci volte il numero che calcola (120)"}));
+    EXPECT_EQ(righe(s),
+              (Righe{"numero di ferri memorizzato di 100 o più: sembra quello della "
+                     "relazione, che mostra dieci volte il numero usato nel calcolo (120)"}));
 }
 
 // The tubes give 40999 t m2.

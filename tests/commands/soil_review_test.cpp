@@ -108,12 +108,13 @@ TEST(ControlloTerreno, RefusesAFallingSlopeSteeperThanTheFrictionAngleInWordsOfI
 
 TEST(ControlloTerreno, NamesValuesThatNoSoilHas) {
     const std::string kN =
-        ": sembra un peso in kN/m³: il file lo tiene in t/m³, dieci volte più piccolo";
+        ": sembra un peso di volume in kN/m³: il file lo tiene in t/m³, dieci volte più piccolo";
     aspetta({
         {[](DatiProgetto& d) { d.gammaN[1] = d.gammaSat[1] = 18; },
          {"strato 1: Gamma [kN/m³] = 180" + kN, "strato 1: Gamma Sat. [kN/m³] = 180" + kN}},
         {[](DatiProgetto& d) { d.gammaSat[2] = 1.5; },
-         {"strato 2: Gamma Sat. [kN/m³] = 15: il peso saturo è minore di quello naturale"}},
+         {"strato 2: Gamma Sat. [kN/m³] = 15: il peso di volume saturo è minore di quello "
+          "naturale"}},
         {[](DatiProgetto& d) { d.gammaSat[2] = 1.9; }, {}},
         {[](DatiProgetto& d) { d.coesione[2] = -0.5; },
          {"strato 2: Coes. [kN/m²] = -5: valore negativo"}},

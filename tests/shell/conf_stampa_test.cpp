@@ -59,14 +59,14 @@ TEST_F(Stampa, HasItsCaptions) {
                                                              {"Text4", "Lunghezza pagina (righe)"},
                                                              {"Text5", "Altezza caratteri (punti)"},
                                                              {"Text6", "Intestazione"},
-                                                             {"Text7", "Pie' di pagina"},
+                                                             {"Text7", "Piè di pagina"},
                                                              {"List1", "Set di caratteri"},
                                                              {"Text8", "Offset superiore (righe)"}};
     for (const auto& [nome, testo] : etichette) {
         const QWidget* di = &trova<QWidget>(nome);
         const auto tutte = forma->findChildren<QLabel*>();
         EXPECT_TRUE(std::any_of(tutte.begin(), tutte.end(), [&, t = testo](const QLabel* e) {
-            return e->buddy() == di && e->text() == QLatin1String(t);
+            return e->buddy() == di && e->text() == QString::fromUtf8(t);
         })) << nome;
         EXPECT_EQ(di->accessibleName(), testo);
     }

@@ -135,7 +135,7 @@ TEST_F(Uscite, PrintToTheFileOfThePrinterSetUpAndTellWhenItFails) {
     scegli("StampaTabulati");
     ASSERT_EQ(dialogo.messaggi.size(), 1u);
     EXPECT_EQ(dialogo.messaggi[0].testo,
-              ambiente.lavori / "manca/stampa.pdf: la stampa non e' riuscita");
+              ambiente.lavori / "manca/stampa.pdf: la stampa non è riuscita");
 }
 
 TEST_F(Uscite, WriteTheTextAndShowItInTheDesktopsOwnProgram) {

@@ -1,0 +1,81 @@
+// docs/glossary.md settles one term for each thing. These are the words that it gave up: a text
+// that takes one of them again gives one thing two names.
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <regex>
+#include <string>
+
+#include "base/files.hpp"
+#include "tools/text_source.hpp"
+
+namespace korven {
+namespace {
+
+struct GivenUp {
+    std::size_t language;  // column of a record, from 0
+    const char* word;      // a regular expression; \b parts words of plain letters alone
+    const char* instead;
+};
+
+constexpr GivenUp words[] = {
+    {1, "Verbauwand", "Wand"},
+    {1, "Bauzustand|Bauzuständ", "Phase, Aushubphase"},
+    {1, "Schubnachweis", "Querkraftnachweis"},
+    {1, "Stabzahl|Stabanzahl [^0-9]*kleiner", "Anzahl der Stäbe"},
+    {1, "Biegewiderstand", "Momententragfähigkeit"},
+    {1, "Schichtprofil|Schichtenverzeichnis", "Schichtenprofil"},
+    {1, "Grundwassers \\[|Wichte des Grundwassers", "Wichte des Wassers"},
+    {2, "note de calcul", "rapport"},
+    {2, "structural\\b|structurale", "structurel"},
+    {2, "\\b[Aa]iles?\\b", "âme, demi-âme"},
+    {2, "[Nn]ombre d'armatures", "nombre de barres"},
+    {2, "Entraxe des pieux", "espacement"},
+    {3, "\\balas?\\b|\\bAlas?\\b", "alma, media alma"},
+    {3, "[Nn]úmero de armaduras", "número de barras"},
+    {3, "memorizado", "guardado"},
+    {3, "\\b[Oo]rden siguiente", "comando siguiente"},
+    {4, "\\b[Pp]itch\\b", "spacing"},
+    {4, "\\b[Ll]eg (width|height|thickness)|\\b[Ff]lat (width|thickness)", "web, flange"},
+    {4, "saturated weight|a weight in kN", "unit weight"},
+    {4, "[Ff]loor of the excavation", "excavation level"},
+    {4, "wall top", "wall head"},
+    {4, "can't", "cannot"},
+    {4, "\\brecomputed\\b", "recalculated"},
+    {5, "\\babas?\\b|\\bAbas?\\b", "alma, meia alma"},
+    {5, "\\bcortina\\b", "parede; cortina de estacas alone for a wall of piles"},
+    {5, "intradorso", "lado da escavação"},
+    {5, "verificação ao corte", "verificação ao esforço transverso"},
+    {5, "\\bdobrad[ao]s?\\b", "duplicado"},
+};
+
+TEST(TranslatedTerms, AreThoseThatTheGlossarySettledOn) {
+    const std::string source = KORVEN_DATA_FOLDER "/texts.txt";
+    const auto records = tools::readTextSource(source, base::leggiFile(source));
+    ASSERT_GT(records.size(), 700U);
+    for (const auto& given : words) {
+        const std::regex word(given.word);
+        for (const auto& record : records) {
+            const std::string& text = record.text[given.language];
+            EXPECT_FALSE(std::regex_search(text, word))
+                << "line " << record.line << ": \"" << text << "\": say " << given.instead;
+        }
+    }
+}
+
+// French parts these signs from the word by a space, at which a line must not end.
+TEST(TranslatedTerms, HaveNoPlainSpaceBeforeAFrenchSign) {
+    const std::string source = KORVEN_DATA_FOLDER "/texts.txt";
+    int looked = 0;
+    for (const auto& record : tools::readTextSource(source, base::leggiFile(source))) {
+        const std::string& french = record.text[2];
+        for (const char* sign : {" :", " ;", " ?", " !"})
+            EXPECT_EQ(french.find(sign), std::string::npos) << "line " << record.line;
+        if (french.find("\u00a0") != std::string::npos) ++looked;
+    }
+    EXPECT_GT(looked, 90);
+}
+
+}  // namespace
+}  // namespace korven
