@@ -42,7 +42,8 @@ void prepara(QFileDialog& dialogo, const QString& titolo, QFileDialog::AcceptMod
     dialogo.setLabelText(QFileDialog::LookIn, tradotto("Cerca &in:"));
     dialogo.setLabelText(QFileDialog::FileName, tradotto("&Nome del file:"));
     dialogo.setLabelText(QFileDialog::FileType, tradotto("&Tipo di file:"));
-    dialogo.setLabelText(QFileDialog::Reject, tradotto("&Annulla"));
+    // Not "&Annulla", whose key is that of "&Apri" beside it.
+    dialogo.setLabelText(QFileDialog::Reject, tradotto("Annu&lla"));
     dialogo.setNameFilters(filtri());
     dialogo.setDirectory(QDir::current());
     legaEtichette(dialogo);

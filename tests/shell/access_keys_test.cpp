@@ -1,0 +1,146 @@
+// Captions that stand together in a form or a box share no access key, in any language: of two that
+// do, the key presses neither and only walks between them. menu1_test.cpp looks at the menus.
+
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QFileDialog>
+#include <QKeySequence>
+#include <QLabel>
+#include <QMessageBox>
+#include <map>
+
+#include "base/language.hpp"
+#include "commands/help_file.hpp"
+#include "project/mask_editing.hpp"
+#include "shell/base1.hpp"
+#include "shell/base2_32.hpp"
+#include "shell/conf_stampa.hpp"
+#include "shell/definej.hpp"
+#include "shell/dialogo_qt.hpp"
+#include "shell/editacfg.hpp"
+#include "shell/file_dialogs_qt.hpp"
+#include "shell/guida.hpp"
+#include "shell/informazioni.hpp"
+#include "shell/temp_calc.hpp"
+#include "support/desktop_bench.hpp"
+#include "support/dialog_record.hpp"
+#include "support/form_setup.hpp"
+#include "support/sample_projects.hpp"
+#include "support/small_help.hpp"
+
+namespace korven::shell {
+namespace {
+
+// The captions of one box or form that have an access key, by that key.
+class Insieme {
+ public:
+    explicit Insieme(std::string dove) : dove_(std::move(dove)) {}
+
+    void aggiungi(const QString& testo) {
+        const QKeySequence tasto = QKeySequence::mnemonic(testo);
+        if (tasto.isEmpty()) return;
+        const auto [altro, nuovo] = perTasto_.emplace(tasto.toString(), testo);
+        EXPECT_TRUE(nuovo) << dove_ << ": \"" << testo.toStdString() << "\" beside \""
+                           << altro->second.toStdString() << '"';
+    }
+    [[nodiscard]] std::size_t quanti() const { return perTasto_.size(); }
+
+ private:
+    std::string dove_;
+    std::map<QString, QString> perTasto_;
+};
+
+std::string luogo(const QWidget& finestra) {
+    return "language " + std::to_string(base::linguaCorrente()) + ", " +
+           finestra.objectName().toStdString() + " \"" + finestra.windowTitle().toStdString() + '"';
+}
+
+std::size_t tastiDi(const QWidget& finestra) {
+    Insieme insieme(luogo(finestra));
+    for (const auto* bottone : finestra.findChildren<QAbstractButton*>())
+        if (bottone->window() == &finestra) insieme.aggiungi(bottone->text());
+    for (const auto* etichetta : finestra.findChildren<QLabel*>())
+        if (etichetta->window() == &finestra && etichetta->buddy() != nullptr)
+            insieme.aggiungi(etichetta->text());
+    return insieme.quanti();
+}
+
+// Each language in turn, over the texts and masks that are delivered.
+class TastiDiScelta : public ::testing::TestWithParam<int> {
+ protected:
+    TastiDiScelta() : testi(GetParam()) {
+        base::impostaCartellaProgramma(KORVEN_PROGRAM_FOLDER);
+        maschere.leggiMaschereProgramma();
+    }
+    ~TastiDiScelta() override { base::impostaCartellaProgramma(""); }
+
+    QApplication& app = test::applicazione();
+    test::UtenteNuovo utente;
+    const test::TestiConsegnati testi;
+    test::DialogRecord dialogo;
+    project::Maschere maschere;
+};
+
+TEST_P(TastiDiScelta, DifferWithinEachFormThatAMaskDescribes) {
+    const auto dati = test::progettoSemplice();
+    for (int numero = 1; numero <= 5; ++numero) {
+        const auto quale = static_cast<project::NumeroMaschera>(numero);
+        project::preparaMaschera(maschere, quale, dati, 0);
+        const bool campi = maschere.corrente().genere == project::GenereMaschera::campi;
+        if (campi)
+            EXPECT_EQ(tastiDi(Base1(maschere.corrente(), maschere.valoriCombo(),
+                                    maschere.valoriTesto(), dialogo, {}, nullptr)),
+                      3U);
+        else
+            EXPECT_EQ(tastiDi(Base2_32(maschere.corrente(), maschere.valoriTesto(), dialogo, {},
+                                       nullptr)),
+                      5U);
+        maschere.rilasciaForm();
+    }
+}
+
+TEST_P(TastiDiScelta, DifferWithinTheOtherForms) {
+    project::Sezione sezione;
+    bool modificato = false;
+    EXPECT_GE(tastiDi(DefinEJ(sezione, modificato, nullptr)), 2U);
+    DialoghiEditacfg porte;
+    EXPECT_GE(tastiDi(Editacfg(porte, dialogo, nullptr)), 2U);
+    EXPECT_EQ(tastiDi(ConfStampa({"Courier New"}, {}, dialogo, nullptr)), 3U);
+    EXPECT_EQ(tastiDi(TempCalc(nullptr)), 1U);
+    static_cast<void>(tastiDi(Informazioni("File corrente: /MURO", nullptr)));
+    static_cast<void>(tastiDi(FinestraGuida(commands::leggiGuida("m.hlp", test::guidaPiccola()))));
+}
+
+TEST_P(TastiDiScelta, DifferWithinTheBoxes) {
+    DialogoQt box;
+    for (const auto& [pulsanti, quanti] :
+         {std::pair{base::Pulsanti::siNo, 2U}, {base::Pulsanti::siNoAnnulla, 3U}}) {
+        const test::AllaProssimaFinestra<QMessageBox> domanda([quanti = quanti](QMessageBox& b) {
+            EXPECT_EQ(tastiDi(b), quanti);
+            b.reject();
+        });
+        static_cast<void>(box.domanda("?", "!", pulsanti, base::Icona::domanda));
+        EXPECT_TRUE(domanda.fatto);
+    }
+}
+
+TEST_P(TastiDiScelta, DifferWithinTheFileDialogs) {
+    DialogoFileQt nomi;
+    const auto guarda = [](QFileDialog& d) {
+        EXPECT_EQ(tastiDi(d), 5U);
+        QTest::keyClick(&d, Qt::Key_Escape);
+    };
+    for (const std::function<void()>& apri : std::initializer_list<std::function<void()>>{
+             [&] { EXPECT_EQ(nomi.apri(""), ""); }, [&] { EXPECT_FALSE(nomi.salva("muro.kvd")); },
+             [] { EXPECT_EQ(chiediNomeTxt(nullptr, "muro.txt"), ""); }}) {
+        const test::AllaProssimaFinestra<QFileDialog> aperto(guarda);
+        apri();
+        EXPECT_TRUE(aperto.fatto);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Language, TastiDiScelta, ::testing::Range(1, 7));
+
+}  // namespace
+}  // namespace korven::shell
