@@ -31,8 +31,14 @@ std::string conMaschera(int livello) {
     return base::formattaMaschera(livello, livello < 10 ? "#" : "##");
 }
 
+// The stroke fonts of a drawing program have no sign for a no-break space, as French puts it before
+// a colon: it shows as a question mark there.
 std::string suUnaRiga(std::string_view testo) {
+    constexpr std::string_view spazioUnito = "\u00a0";
     std::string riga(testo);
+    for (auto dove = riga.find(spazioUnito); dove != std::string::npos;
+         dove = riga.find(spazioUnito))
+        riga.replace(dove, spazioUnito.size(), " ");
     std::replace_if(
         riga.begin(), riga.end(), [](char c) { return c >= '\0' && c < ' '; }, ' ');
     return riga;

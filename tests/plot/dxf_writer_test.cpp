@@ -129,6 +129,11 @@ TEST_F(Dxf, TextKeepsItsBlanksAndCannotBreakTheFile) {
     EXPECT_NE(scritto(dxf).find("| 1|  a b  c  |    7|"), std::string::npos);
 }
 
+TEST_F(Dxf, TextHasPlainBlanksForThoseThatAStrokeFontLacks) {
+    dxf.testo(1, 1, 0.3, "12005\u00a0: motif\u00a0!", 0, 1);
+    EXPECT_NE(scritto(dxf).find("|12005 : motif !|"), std::string::npos) << scritto(dxf);
+}
+
 TEST_F(Dxf, MinusThreeMovesTheOriginOfLinesAndTexts) {
     dxf.muovi(10, 20, -3);
     dxf.muovi(1, 1, 2);
