@@ -42,7 +42,7 @@ constexpr VoceMenu voci[] = {
     {"fine", "&Uscita", 0, fine, 0},
     {"menuhelp", "&Help", 0, nessuno, 0},
     {"sommario", "&Sommario", 1, sommario, 0},
-    {"about", "&Info", 1, about, 0},
+    {"about", "&Info", 1, about, 32},
 };
 
 }  // namespace
