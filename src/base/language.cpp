@@ -36,10 +36,12 @@ int codiceLingua(std::string_view sigla) {
 
 int leggiLingua(const std::string& percorso) {
     constexpr double codiceMassimo = 32767;
-    LettoreRighe file = LettoreRighe::apri(percorso, "cancellare il file per scegliere la lingua");
-    const double codice = file.numero("il codice della lingua, da 1 a 6");
+    LettoreRighe file = LettoreRighe::apri(
+        percorso,
+        "cancellare il file per scegliere la lingua (delete the file to choose the language)");
+    const double codice = file.numero("il codice della lingua, da 1 a 6 (language code, 1 to 6)");
     if (codice != std::floor(codice) || std::abs(codice) > codiceMassimo)
-        file.rifiuta("atteso un numero intero: il codice della lingua, da 1 a 6");
+        file.rifiuta(std::string(attesoCodiceLingua));
     return static_cast<int>(codice);
 }
 

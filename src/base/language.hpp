@@ -10,6 +10,11 @@ namespace korven::base {
 /// 4 "esp", 5 "eng", 6 "por". Empty for every other code.
 [[nodiscard]] std::string_view siglaLingua(int codice);
 
+/// What a file with the chosen language must hold. Who reads it has no language yet, so it is told
+/// in Italian and in English.
+inline constexpr std::string_view attesoCodiceLingua =
+    "atteso un codice di lingua da 1 a 6 (a language code from 1 to 6 is expected)";
+
 /// Code of a tag in lower case, or 0 when it is none.
 [[nodiscard]] int codiceLingua(std::string_view sigla);
 

@@ -25,7 +25,7 @@ void scegliLingua(const std::string& sigla) {
     if (sigla.empty() && base::esisteFile(scelta)) codice = base::leggiLingua(scelta);
     if (codice == 1) return;
     if (base::siglaLingua(codice).empty()) {
-        if (sigla.empty()) throw base::ErroreFile(scelta, 1, "atteso un codice di lingua da 1 a 6");
+        if (sigla.empty()) throw base::ErroreFile(scelta, 1, std::string(base::attesoCodiceLingua));
         return;  // a wrong option is answered with the others
     }
     base::caricaTesti(base::fileProgramma("texts01.txt"), base::fileProgramma("texts06.txt"),

@@ -36,7 +36,7 @@ bool scegliLingua(const PorteLingua& porte) {
 int codiceValido() {
     const int codice = base::leggiLingua(fileLingua());
     if (base::siglaLingua(codice).empty())
-        throw base::ErroreFile(fileLingua(), 1, "atteso un codice di lingua da 1 a 6");
+        throw base::ErroreFile(fileLingua(), 1, std::string(base::attesoCodiceLingua));
     return codice;
 }
 

@@ -1,8 +1,6 @@
 #include <QDir>
 #include <QIcon>
-#include <QLibraryInfo>
 #include <QTimer>
-#include <QTranslator>
 #include <clocale>
 #include <csignal>
 #include <string>
@@ -30,6 +28,7 @@
 #include "shell/report_output.hpp"
 #include "shell/selezling.hpp"
 #include "shell/termination.hpp"
+#include "shell/toolkit_texts.hpp"
 
 // korven32: the desktop program. Chooses what stands behind the ports, and tells the one error that
 // ends a program.
@@ -37,16 +36,11 @@
 namespace korven::desktop {
 namespace {
 
-// The texts that Qt itself shows in the file dialogs, where the system has them in this language;
-// its Portuguese is that of Brazil alone.
 void traduciQt(QCoreApplication& applicazione) {
-    constexpr const char* codici[] = {"it", "de", "fr", "es", "en", "pt_BR"};
-    const int lingua = base::linguaCorrente();
-    if (lingua < 1 || lingua > 6) return;
-    auto* traduzione = new QTranslator(&applicazione);
-    if (traduzione->load(QString("qtbase_") + codici[lingua - 1],
-                         QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QCoreApplication::installTranslator(traduzione);
+    auto testi = shell::testiQt(base::linguaCorrente());
+    if (!testi) return;
+    testi->setParent(&applicazione);
+    QCoreApplication::installTranslator(testi.release());
 }
 
 // What is behind the commands, plugged in form by form.
@@ -103,6 +97,7 @@ int programma(int argc, char** argv) {
     QCoreApplication::setApplicationName("korven32");
     QGuiApplication::setDesktopFileName("korven32");
     std::setlocale(LC_NUMERIC, "C");
+    shell::segnoDecimaleQt();
     const QStringList argomenti = QCoreApplication::arguments();
     shell::DialogoQt dialogo;
     try {
