@@ -1,6 +1,7 @@
 #include "tools/text_source.hpp"
 
 #include <algorithm>
+#include <cstring>
 #include <map>
 
 #include "base/code_page.hpp"
@@ -14,6 +15,18 @@ namespace {
 
 constexpr const auto& tags = languageMarks;
 constexpr std::string_view fileMark = "@file ";
+constexpr std::size_t french = 2;
+
+// French parts these signs from the word before them by a blank, at which no line may end.
+std::string withNoBreakSpaces(std::string_view text) {
+    std::string joined;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const bool beforeSign =
+            text[i] == ' ' && i + 1 < text.size() && std::strchr(":;?!", text[i + 1]) != nullptr;
+        joined += beforeSign ? "\u00a0" : std::string(1, text[i]);
+    }
+    return joined;
+}
 constexpr std::string_view addedTexts = "texts32.txt";  // the file of the second table
 
 class SourceReader {
@@ -47,7 +60,8 @@ class SourceReader {
         text.remove_prefix(tags[filled_].size());
         if (text.empty()) refuse("atteso un testo");
         if (filled_ == 0) current_ = {file_, {}, lines_.number()};
-        current_.text[filled_++] = text;
+        current_.text[filled_] = filled_ == french ? withNoBreakSpaces(text) : std::string(text);
+        ++filled_;
     }
 
     void endRecord() {

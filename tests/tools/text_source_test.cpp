@@ -44,6 +44,15 @@ TEST(TextSource, WritesSevenCodePageLinesARecord) {
     EXPECT_EQ(textFileBytes(records, "c.txt"), "");
 }
 
+// So that no line of a form begins with a sign; the other languages put no blank there.
+TEST(TextSource, JoinsASignToItsFrenchWord) {
+    const auto records = checked(
+        "@file a.txt\nit: Uno : due\nde: Eins : zwei\nfr: Un : deux ; trois ? :\nes: Uno\nen: One\n"
+        "pt: Um\n");
+    EXPECT_EQ(records[0].text[2], "Un\u00a0: deux\u00a0; trois\u00a0?\u00a0:");
+    EXPECT_EQ(records[0].text[1], "Eins : zwei");
+}
+
 TEST(TextSource, AcceptsBothLineEndsAndAMissingLastOne) {
     std::string content = "@file a.txt\n" + uno;
     content.pop_back();

@@ -64,18 +64,5 @@ TEST(TranslatedTerms, AreThoseThatTheGlossarySettledOn) {
     }
 }
 
-// French parts these signs from the word by a space, at which a line must not end.
-TEST(TranslatedTerms, HaveNoPlainSpaceBeforeAFrenchSign) {
-    const std::string source = KORVEN_DATA_FOLDER "/texts.txt";
-    int looked = 0;
-    for (const auto& record : tools::readTextSource(source, base::leggiFile(source))) {
-        const std::string& french = record.text[2];
-        for (const char* sign : {" :", " ;", " ?", " !"})
-            EXPECT_EQ(french.find(sign), std::string::npos) << "line " << record.line;
-        if (french.find("\u00a0") != std::string::npos) ++looked;
-    }
-    EXPECT_GT(looked, 90);
-}
-
 }  // namespace
 }  // namespace korven
