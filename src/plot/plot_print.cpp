@@ -14,6 +14,7 @@
 #include "plot/line_clip.hpp"
 #include "plot/page_layout.hpp"
 #include "plot/plot_engine.hpp"
+#include "plot/text_extent.hpp"
 
 namespace korven::plot {
 
@@ -134,6 +135,14 @@ void stampaIntera(Stampante& stampante, const Periferica& periferica) {
                 .stampa(statoPlot.archivio);
 }
 
+// An axis unit begins on the sheet and ends beyond it: a page to which the drawing is fitted would
+// cut it at its very edge.
+Riquadro disegnoConTesti() {
+    static const MetricaStimata stimata;
+    const MetricaTesto& metrica = statoPlot.metrica != nullptr ? *statoPlot.metrica : stimata;
+    return conTesti(statoPlot.estensione, statoPlot.archivio, metrica);
+}
+
 // The pointer waits for as long as this lives.
 class Attesa {
  public:
@@ -164,7 +173,7 @@ void plotStampa(bool adatta, Stampante& stampante, base::Dialogo& dialogo) {
     const LavoroDisegno lavoro;
     const Periferica periferica(stampante.misure());
     if (adatta)
-        Pagina(stampante, periferica, disposizioneAdattata(statoPlot.estensione, periferica.foglio))
+        Pagina(stampante, periferica, disposizioneAdattata(disegnoConTesti(), periferica.foglio))
             .stampa(statoPlot.archivio);
     else
         stampaIntera(stampante, periferica);

@@ -186,6 +186,26 @@ TEST_F(Stampa, ZoomOnTheScreenDoesNotChangeThePrint) {
     EXPECT_EQ(stampata(true), adattata);
 }
 
+// A unit behind the end of an axis: "[kN/m2]" of height 0.2 is 1.05 cm long in Arial.
+TEST_F(Stampa, FittedPrintKeepsTextsOnThePaperThatStandOutOfTheSheet) {
+    plotApri(0, 0, 9.8, 9.8);
+    plotPenna(5);
+    plotSimbolo(9.6, 4.9, 0.2, "[kN/m2]", 0, 7);
+    plotMuovi(0, 0, fineDisegno);
+    const double lungo = MetricaStimata().larghezza("Arial", 0.2, "[kN/m2]");
+    ASSERT_NEAR(lungo, 1.05, 0.05);
+    // The drawing is 9.6 + lungo wide; with 0.1 cm on each side it fills the 20 cm of the paper.
+    const double scala = 20 / (9.6 + lungo + 0.2);
+    const Eventi eventi = stampata(true);
+    const auto testo = std::find_if(eventi.begin(), eventi.end(),
+                                    [](const auto& e) { return e.starts_with("text "); });
+    ASSERT_NE(testo, eventi.end());
+    const int x = std::stoi(testo->substr(5));
+    EXPECT_NEAR(x, 100 * scala * 9.7, 1);  // 100 pixels a centimetre
+    EXPECT_NEAR(x + 100 * scala * lungo, 2000 - 100 * scala * 0.1, 1);
+    EXPECT_EQ(statoPlot.estensione, (Riquadro{0, 0, 9.8, 9.8})) << "on paper alone";
+}
+
 TEST_F(Stampa, PolygonsComeFirst) {
     disegna(19, 27);
     statoPlot.archivio.aggiungi(
