@@ -11,6 +11,7 @@
 
 #include "base/file_error.hpp"
 #include "base/file_identity.hpp"
+#include "base/system_reason.hpp"
 #include "base/translated_texts.hpp"
 
 // The standard library can't flush a file to the disk, so this file speaks to the system itself.
@@ -20,7 +21,7 @@ namespace korven::base {
 namespace {
 
 std::string perche(std::string_view cosa, int codice) {
-    return traduttore(cosa) + " (" + std::generic_category().message(codice) + ")";
+    return traduttore(cosa) + " (" + motivoSistema(codice) + ")";
 }
 
 [[noreturn]] void nonLetto(const std::string& percorso, int codice) {

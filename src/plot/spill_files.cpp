@@ -10,6 +10,7 @@
 #include "base/file_error.hpp"
 #include "base/files.hpp"
 #include "base/number_text.hpp"
+#include "base/system_reason.hpp"
 #include "base/text_lines.hpp"
 #include "base/translated_texts.hpp"
 
@@ -45,7 +46,7 @@ class CartellaScarico {
         throw base::ErroreFile(
             cosa, 0,
             base::traduttore("impossibile creare una cartella per le linee del disegno") + " (" +
-                errore.message() + ")");
+                base::motivoSistema(errore.value()) + ")");
     }
 
     fs::path percorso_;

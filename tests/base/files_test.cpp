@@ -8,7 +8,6 @@
 #include <cerrno>
 #include <filesystem>
 #include <string>
-#include <system_error>
 
 #include "base/file_error.hpp"
 #include "support/temporary_folder.hpp"
@@ -135,7 +134,7 @@ std::string erroreADiscoPieno(const Scrittura& scrittura) {
     return {};
 }
 
-const std::string ragione = std::generic_category().message(EFBIG);
+const std::string ragione = "il file è troppo grande";
 
 TEST(ScriviFile, TellsThatTheDiskTakesNoMoreAndLeavesTheOldFileAlone) {
     const CartellaProvvisoria cartella;

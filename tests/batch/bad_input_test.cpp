@@ -20,7 +20,7 @@ TEST_F(IngressoRotto, AMissingProjectIsToldWithItsPathAndTheReason) {
         const auto esito = console({comando, cartella / "altro.kvd"});
         EXPECT_EQ(esito.codice, 3);
         EXPECT_TRUE(dice(esito.errori, cartella / "altro.kvd")) << esito.errori;
-        EXPECT_TRUE(dice(esito.errori, "No such file or directory")) << esito.errori;
+        EXPECT_TRUE(dice(esito.errori, "il file o la cartella non esiste")) << esito.errori;
         EXPECT_TRUE(esito.uscita.empty());
     }
 }
@@ -30,7 +30,7 @@ TEST_F(IngressoRotto, AFolderIsNoProject) {
     const auto esito = console({"calcola", cartella / "muri.kvd"});
     EXPECT_EQ(esito.codice, 3);
     EXPECT_TRUE(dice(esito.errori, cartella / "muri.kvd: ")) << esito.errori;
-    EXPECT_TRUE(dice(esito.errori, "Is a directory")) << esito.errori;
+    EXPECT_TRUE(dice(esito.errori, "è una cartella")) << esito.errori;
 }
 
 TEST_F(IngressoRotto, AProjectThatMayNotBeReadIsToldWithTheReason) {
@@ -38,7 +38,7 @@ TEST_F(IngressoRotto, AProjectThatMayNotBeReadIsToldWithTheReason) {
     const auto esito = esegui("calcola", {}, {.senzaPrivilegi = true});
     if (esito.codice == 127) GTEST_SKIP() << "root without the right to give up its rights";
     EXPECT_EQ(esito.codice, 3);
-    EXPECT_TRUE(dice(esito.errori, "Permission denied")) << esito.errori;
+    EXPECT_TRUE(dice(esito.errori, "permesso negato")) << esito.errori;
 }
 
 TEST_F(IngressoRotto, ABrokenLineIsToldWithItsNumberAndWhatWasExpectedAndNothingIsMade) {

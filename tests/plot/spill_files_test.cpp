@@ -116,7 +116,7 @@ TEST(FileScarico, FullDiskIsAnErrorWithItsReasonAndLeavesNoFile) {
         motivo = errore.what();
     }
     ::setrlimit(RLIMIT_FSIZE, &prima);
-    EXPECT_NE(motivo.find("File too large"), std::string::npos) << motivo;
+    EXPECT_NE(motivo.find("il file è troppo grande"), std::string::npos) << motivo;
     EXPECT_TRUE(std::filesystem::is_empty(cartella.percorso()));
 }
 
