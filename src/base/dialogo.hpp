@@ -19,6 +19,13 @@ class Dialogo {
     /// Returns `annulla` when nobody can answer (no user, window closed).
     virtual Risposta domanda(std::string_view testo, std::string_view titolo, Pulsanti pulsanti,
                              Icona icona) = 0;
+    /// The same with what helps to answer, shown apart from the question below it. Who has no place
+    /// for it asks the question alone.
+    virtual Risposta domandaInformata(std::string_view testo, std::string_view titolo,
+                                      Pulsanti pulsanti, Icona icona,
+                                      std::string_view /*informazione*/) {
+        return domanda(testo, titolo, pulsanti, icona);
+    }
     /// Shape of the pointer; of no meaning where there is none.
     virtual void puntatore(Puntatore forma) = 0;
 };

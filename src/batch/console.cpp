@@ -42,6 +42,14 @@ base::Risposta DialogoConsole::domanda(std::string_view, std::string_view, base:
     return ricalcolaEJ_ ? base::Risposta::si : base::Risposta::no;
 }
 
+base::Risposta DialogoConsole::domandaInformata(std::string_view testo, std::string_view titolo,
+                                                base::Pulsanti pulsanti, base::Icona icona,
+                                                std::string_view informazione) {
+    vista_.chiudi();
+    std::cerr << informazione << '\n';
+    return domanda(testo, titolo, pulsanti, icona);
+}
+
 AvanzamentoConsole::AvanzamentoConsole(bool mostra)
     : mostra_(mostra), terminale_(::isatty(STDERR_FILENO) == 1) {}
 

@@ -39,6 +39,10 @@ class DialogoConsole : public base::Dialogo {
     void messaggio(std::string_view testo, std::string_view titolo, base::Icona icona) override;
     base::Risposta domanda(std::string_view testo, std::string_view titolo, base::Pulsanti pulsanti,
                            base::Icona icona) override;
+    /// Writes the information to standard error.
+    base::Risposta domandaInformata(std::string_view testo, std::string_view titolo,
+                                    base::Pulsanti pulsanti, base::Icona icona,
+                                    std::string_view informazione) override;
     void puntatore(base::Puntatore) override {}
 
     /// All messages shown so far.

@@ -101,9 +101,16 @@ void DialogoQt::messaggio(std::string_view testo, std::string_view titolo, base:
 
 base::Risposta DialogoQt::domanda(std::string_view testo, std::string_view titolo,
                                   base::Pulsanti pulsanti, base::Icona icona) {
+    return domandaInformata(testo, titolo, pulsanti, icona, {});
+}
+
+base::Risposta DialogoQt::domandaInformata(std::string_view testo, std::string_view titolo,
+                                           base::Pulsanti pulsanti, base::Icona icona,
+                                           std::string_view informazione) {
     const PuntatorePerUnBox normale(clessidra_);
     Box box(genitore());
     prepara(box, testo, titolo, icona);
+    box.setInformativeText(inRighe(informazione));
     auto* si = box.addButton(tradotto("&Sì"), QMessageBox::YesRole);
     auto* no = box.addButton(tradotto("&No"), QMessageBox::NoRole);
     QPushButton* annulla = nullptr;

@@ -19,6 +19,9 @@ class DialogoQt : public base::Dialogo {
     void messaggio(std::string_view testo, std::string_view titolo, base::Icona icona) override;
     base::Risposta domanda(std::string_view testo, std::string_view titolo, base::Pulsanti pulsanti,
                            base::Icona icona) override;
+    base::Risposta domandaInformata(std::string_view testo, std::string_view titolo,
+                                    base::Pulsanti pulsanti, base::Icona icona,
+                                    std::string_view informazione) override;
     void puntatore(base::Puntatore forma) override;
 
  private:

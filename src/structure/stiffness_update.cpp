@@ -1,7 +1,9 @@
 #include "structure/stiffness_update.hpp"
 
 #include <cmath>
+#include <string>
 
+#include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
 #include "structure/section_millimetres.hpp"
 #include "structure/section_type.hpp"
@@ -14,14 +16,21 @@ namespace {
 
 constexpr double nmm2PerTm2 = 10000000000;  // 1 t m2 = 1e4 N x 1e6 mm2
 
-bool accettaSostituzione(base::Dialogo& dialogo) {
+// As the editors show it.
+std::string riga(std::string_view cosa, double EJ) {
+    return base::traduttore(cosa) + ": " + base::testoNumero(EJ * 10);
+}
+
+bool accettaSostituzione(double attuale, double calcolata, base::Dialogo& dialogo) {
     using base::traduttore;
     const auto testo = traduttore(
                            "Volete sostituire Il valore di EJ correntemente definito con quello "
                            "ricalcolato in base alle caratteristiche strutturali del diaframma") +
                        "?";
     const auto titolo = traduttore("ATTENZIONE") + "!";
-    return dialogo.domanda(testo, titolo, base::Pulsanti::siNo, base::Icona::domanda) ==
+    return dialogo.domandaInformata(testo, titolo, base::Pulsanti::siNo, base::Icona::domanda,
+                                    riga("EJ del progetto [kN m²]", attuale) + '\n' +
+                                        riga("EJ calcolato dalla sezione [kN m²]", calcolata)) ==
            base::Risposta::si;
 }
 
@@ -44,7 +53,8 @@ void aggiornaEJ(const project::Sezione& sezione, double sforzoNormale, double& r
     momentiResistenti(sezione, sforzoNormale, MRd);
     const auto nuovoEJ = rigidezzaOfferta(sezione);
     if (!nuovoEJ) return;
-    if (rigidezzaEJ == 0 || (*nuovoEJ != rigidezzaEJ && accettaSostituzione(dialogo)))
+    if (rigidezzaEJ == 0 ||
+        (*nuovoEJ != rigidezzaEJ && accettaSostituzione(rigidezzaEJ, *nuovoEJ, dialogo)))
         rigidezzaEJ = *nuovoEJ;
 }
 

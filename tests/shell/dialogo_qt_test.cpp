@@ -32,6 +32,21 @@ TEST(BoxQt, ShowsTextTitleAndIconAsGiven) {
     EXPECT_EQ(icona, QMessageBox::Critical);
 }
 
+TEST(BoxQt, ShowsBelowAQuestionWhatHelpsToAnswerIt) {
+    DialogoQt dialogo;
+    QString testo, sotto;
+    const Box box([&](QMessageBox& b) {
+        testo = b.text();
+        sotto = b.informativeText();
+        QTest::keyClick(&b, Qt::Key_Escape);
+    });
+    EXPECT_EQ(dialogo.domandaInformata("Sostituire?", "ATTENZIONE!", Pulsanti::siNo, Icona::domanda,
+                                       "EJ: 1\nEJ: 2"),
+              Risposta::no);
+    EXPECT_EQ(testo, "Sostituire?");
+    EXPECT_EQ(sotto, "EJ: 1\nEJ: 2");
+}
+
 TEST(BoxQt, BreaksLinesAtCarriageReturns) {
     DialogoQt dialogo;
     QString testo;

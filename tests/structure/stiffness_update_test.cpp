@@ -26,9 +26,15 @@ class DialogoFinto : public base::Dialogo {
         iconaDomanda = icona == base::Icona::domanda;
         return risposta_;
     }
+    Risposta domandaInformata(std::string_view testo, std::string_view titolo,
+                              base::Pulsanti pulsanti, base::Icona icona,
+                              std::string_view informazione) override {
+        informazioni.emplace_back(informazione);
+        return domanda(testo, titolo, pulsanti, icona);
+    }
     void puntatore(base::Puntatore) override {}
 
-    std::vector<std::string> domande, titoli;
+    std::vector<std::string> domande, titoli, informazioni;
     int messaggi = 0;
     bool soloSiNo = false, iconaDomanda = false;
 
@@ -97,6 +103,9 @@ TEST(AggiornaEJ, AsksWhenTheTypedStiffnessDiffersAndTakesTheNewOneOnYes) {
               "Volete sostituire Il valore di EJ correntemente definito con quello ricalcolato in "
               "base alle caratteristiche strutturali del diaframma?");
     EXPECT_EQ(dialogo.titoli[0], "ATTENZIONE!");
+    EXPECT_EQ(dialogo.informazioni,
+              (std::vector<std::string>{"EJ del progetto [kN m²]: 410000\n"
+                                        "EJ calcolato dalla sezione [kN m²]: 409990"}));
     EXPECT_TRUE(dialogo.soloSiNo);
     EXPECT_TRUE(dialogo.iconaDomanda);
 }
