@@ -6,8 +6,8 @@
 namespace korven::commands {
 
 /// The dialogs that ask for the name of a project. They show files of the pattern `modelloProgetti`
-/// whatever the case, with all others on request; whether a file may be replaced is asked by the
-/// command, not by them. Names are absolute paths, UTF-8.
+/// whatever the case and put their extension behind a name that has none; whether a file may be
+/// replaced is asked by the command, not by them. Names are absolute paths, UTF-8.
 class DialogoFile {
  public:
     virtual ~DialogoFile() = default;

@@ -98,7 +98,8 @@ std::string programmaEsistente(const std::string& riga) {
 std::optional<std::string> nomeTxtScelto(std::string_view risposta) {
     if (ultimi(risposta, coda).find('.') != std::string_view::npos)
         risposta = risposta.substr(0, risposta.rfind('.'));
-    if (risposta.empty() || risposta == "*") return std::nullopt;
+    const std::string_view nome = risposta.substr(risposta.rfind('/') + 1);
+    if (nome.empty() || nome == "*") return std::nullopt;
     return std::string(risposta).append(".txt");
 }
 

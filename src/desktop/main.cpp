@@ -54,7 +54,10 @@ commands::FormeProgramma forme(shell::Menu1& finestra, base::Dialogo& dialogo,
     shell::collegaSezione(tutte, &finestra);
     shell::collegaMaschere(tutte, dialogo, &finestra);
     const auto condivisa = [&stampante]() -> QPrinter& { return stampante.stampante(); };
-    shell::collegaDisegni(tutte, finestra, dialogo, condivisa);
+    shell::collegaDisegni(tutte, finestra, dialogo, condivisa,
+                          [&finestra](const std::string& percorso) {
+                              finestra.stato(base::traduttore("File scritto") + ": " + percorso);
+                          });
     shell::collegaRelazione(tutte, finestra, dialogo, condivisa);
     return tutte;
 }

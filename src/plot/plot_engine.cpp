@@ -25,6 +25,7 @@ void nuovoDisegno(Riquadro foglio) {
     const auto configurazione =
         leggiConfigurazione(fileConfigurazione(base::siglaLingua(base::linguaCorrente())));
     statoPlot.archivio.svuota();
+    statoPlot.nome.clear();
     statoPlot.penne = pennePlot(configurazione);
     statoPlot.scostamentoX = configurazione.margineSinistro;
     statoPlot.scostamentoY = configurazione.margineSuperiore;

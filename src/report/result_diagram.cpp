@@ -33,6 +33,12 @@ std::string_view titolo(Diagramma diagramma) {
     return "DIAGRAMMA DEL TAGLIO";
 }
 
+// As the command line calls the files of each.
+const char* nomeDeiFile(Diagramma diagramma) {
+    constexpr const char* nomi[] = {"pressioni", "spostamenti", "momenti", "taglio"};
+    return nomi[static_cast<int>(diagramma) - static_cast<int>(Diagramma::pressioni)];
+}
+
 // A curve is drawn node by node; the pen is up at its first one.
 class Curva {
  public:
@@ -165,6 +171,7 @@ void disegnaDiagramma(Diagramma diagramma, const DatiRelazione& dati, int faseGr
     controllaDisegnabile(vDati, lunghezza);
     const Quadro quadro(diagramma, asseValori(vDati), lunghezza);
     plot::apriFoglio(dati.progetto.titoli, base::traduttore(titolo(diagramma)));
+    plot::statoPlot.nome = nomeDeiFile(diagramma);
     quadro.disegna();
     for (int s = 1; s <= dati.progetto.nFasi; ++s) {
         const FaseDisegnata fase(dati, s, quadro);

@@ -71,6 +71,7 @@ std::string_view motivoRifiuto(double altezzaPagina) {
 void disegnaStratigrafia(const project::DatiProgetto& dati, double altezzaPagina) {
     const double bordo = bordoInferiore(altezzaPagina);
     plot::plotApri(0, bordo, larghezzaStratigrafia, altezzaStratigrafia);
+    plot::statoPlot.nome = "stratigrafia";
     disegnaIntestazione(dati.titoli);
     disegnaTabella({dati, ScalaProfondita(dati.profStrato[dati.nStrati], bordo)});
     plot::plotMuovi(0, 0, plot::fineDisegno);

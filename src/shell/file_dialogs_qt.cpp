@@ -7,15 +7,17 @@
 #include <QLabel>
 #include <utility>
 
+#include "commands/document_names.hpp"
 #include "commands/report_export.hpp"
 #include "shell/qt_text.hpp"
+#include "shell/replace_question.hpp"
 
 namespace korven::shell {
 
 namespace {
 
 // The pattern of the projects whatever the case, which name filters do not promise by themselves.
-QStringList filtri() { return {"Korven 32 (*.[kK][vV][dD])", tradotto("Tutti i file") + " (*)"}; }
+QStringList filtri() { return {"Korven 32 (*.[kK][vV][dD])"}; }
 
 // Qt leaves the labels of its two lists alone; without the list that it names, a label shows its
 // "&" as a letter. A dialog of the desktop's own has none of them.
@@ -45,6 +47,7 @@ void prepara(QFileDialog& dialogo, const QString& titolo, QFileDialog::AcceptMod
     // Not "&Annulla", whose key is that of "&Apri" beside it.
     dialogo.setLabelText(QFileDialog::Reject, tradotto("Annu&lla"));
     dialogo.setNameFilters(filtri());
+    dialogo.setDefaultSuffix(qt(commands::estensioneProgetti));
     dialogo.setDirectory(QDir::current());
     legaEtichette(dialogo);
 }
@@ -88,7 +91,13 @@ std::string chiediNomeTxt(QWidget* sopra, const std::string& proposto) {
     dialogo.setDefaultSuffix(qt(commands::estensioneTxt));
     dialogo.setDirectory(QFileInfo(qt(proposto)).absolutePath());
     dialogo.selectFile(QFileInfo(qt(proposto)).fileName());
-    return risposta(dialogo).value_or("");
+    // The file that is written is not always the one that was named.
+    for (;;) {
+        const auto scelto = risposta(dialogo);
+        if (!scelto) return {};
+        const auto nome = commands::nomeTxtScelto(*scelto);
+        if (!nome || puoSostituire(*nome)) return *scelto;
+    }
 }
 
 }  // namespace korven::shell

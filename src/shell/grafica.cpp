@@ -131,13 +131,19 @@ void GRAFICA::stampa(bool adatta) {
 
 void GRAFICA::esportaDxf() {
     conAvviso(dialogo_, [this] {
-        if (const auto percorso = porte_.fileDaSalvare(richiestaDxf())) plot::plotDxf(*percorso);
+        const auto percorso = porte_.fileDaSalvare(richiestaDxf());
+        if (!percorso) return;
+        plot::plotDxf(*percorso);
+        porte_.scritto(*percorso);
     });
     tutto();
 }
 
 void GRAFICA::esportaImmagine() {
-    if (const auto percorso = porte_.fileDaSalvare(richiestaImmagine())) scriviImmagine(*percorso);
+    const auto percorso = porte_.fileDaSalvare(richiestaImmagine());
+    if (!percorso) return;
+    scriviImmagine(*percorso);
+    porte_.scritto(*percorso);
 }
 
 void GRAFICA::keyPressEvent(QKeyEvent* evento) {

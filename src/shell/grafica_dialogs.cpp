@@ -14,6 +14,7 @@
 #include "project/project_data.hpp"
 #include "shell/grafica_export.hpp"
 #include "shell/qt_text.hpp"
+#include "shell/replace_question.hpp"
 
 namespace korven::shell {
 
@@ -26,14 +27,19 @@ QString cartellaProgetto() {
 
 }  // namespace
 
-PorteDesktop::PorteDesktop(std::function<QPrinter&()> stampante)
-    : stampante_(std::move(stampante)) {}
+PorteDesktop::PorteDesktop(std::function<QPrinter&()> stampante,
+                           std::function<void(const std::string&)> annuncia)
+    : stampante_(std::move(stampante)), annuncia_(std::move(annuncia)) {}
+
+void PorteDesktop::scritto(const std::string& percorso) {
+    if (annuncia_) annuncia_(percorso);
+}
 
 std::optional<std::string> PorteDesktop::fileDaSalvare(const FileDaSalvare& richiesta) {
     QFileDialog dialogo(QApplication::activeWindow(), qt(richiesta.titolo), cartellaProgetto());
     dialogo.setAcceptMode(QFileDialog::AcceptSave);
     dialogo.setFileMode(QFileDialog::AnyFile);
-    if (!richiesta.chiediSovrascrittura) dialogo.setOption(QFileDialog::DontConfirmOverwrite);
+    dialogo.setOption(QFileDialog::DontConfirmOverwrite);  // asked below, in our language
     QStringList filtri;
     for (const TipoFile& tipo : richiesta.tipi) filtri << qt(tipo.nome);
     dialogo.setNameFilters(filtri);
@@ -44,8 +50,11 @@ std::optional<std::string> PorteDesktop::fileDaSalvare(const FileDaSalvare& rich
     QObject::connect(&dialogo, &QFileDialog::filterSelected, &dialogo, seguiFiltro);
     seguiFiltro(filtri.front());
     dialogo.selectFile(qt(richiesta.nome));
-    if (dialogo.exec() != QDialog::Accepted) return {};
-    return QDir::cleanPath(dialogo.selectedFiles().front()).toStdString();
+    while (dialogo.exec() == QDialog::Accepted) {
+        auto percorso = QDir::cleanPath(dialogo.selectedFiles().front()).toStdString();
+        if (puoSostituire(percorso)) return percorso;
+    }
+    return {};
 }
 
 plot::Foglio PorteDesktop::foglioStampante() { return device::paginaStampante(stampante_()); }

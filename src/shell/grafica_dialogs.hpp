@@ -13,9 +13,12 @@ class PorteDesktop : public PorteGrafica {
  public:
     /// @param stampante  the printer of the program, as the printer set-up left it. Asked for when
     ///                   it is needed, since looking for printers takes time.
-    explicit PorteDesktop(std::function<QPrinter&()> stampante);
+    /// @param annuncia  told the path of each file that was written; may be empty
+    explicit PorteDesktop(std::function<QPrinter&()> stampante,
+                          std::function<void(const std::string&)> annuncia = {});
 
     std::optional<std::string> fileDaSalvare(const FileDaSalvare& richiesta) override;
+    void scritto(const std::string& percorso) override;
     plot::Foglio foglioStampante() override;
     /// True when pages go to a printer, or to the file that the printer set-up named.
     [[nodiscard]] bool haStampante() const;
@@ -24,6 +27,7 @@ class PorteDesktop : public PorteGrafica {
 
  private:
     std::function<QPrinter&()> stampante_;
+    std::function<void(const std::string&)> annuncia_;
 };
 
 }  // namespace korven::shell

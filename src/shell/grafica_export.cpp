@@ -1,17 +1,25 @@
 #include "shell/grafica_export.hpp"
 
 #include "base/code_page.hpp"
+#include "base/file_names.hpp"
 #include "base/translated_texts.hpp"
 #include "device/drawing_files.hpp"
 #include "plot/plot_dxf.hpp"
+#include "plot/plot_engine.hpp"
 #include "project/project_data.hpp"
 
 namespace korven::shell {
 
 namespace {
 
-// The name of the DXF file with another extension.
+// As the command line names the drawings of a project; that of the DXF file with another extension
+// where the drawing has no name.
 std::string nomeDisegno(std::string_view estensione) {
+    const std::string& nome = plot::statoPlot.nome;
+    if (!nome.empty() && !project::fileCorrente.empty()) {
+        const std::string percorso = base::nomeUscita(project::fileCorrente, nome, estensione);
+        return percorso.substr(percorso.rfind('/') + 1);
+    }
     const std::string dxf = plot::nomeDxf(project::fileCorrente);
     return dxf.substr(0, dxf.rfind('.') + 1).append(estensione);
 }
@@ -27,8 +35,7 @@ TipoFile tipoPdf() { return {"PDF (*.pdf)", "pdf"}; }
 FileDaSalvare richiestaDxf() {
     return {base::traduttore("Esportazione dell'immagine in formato DXF"),
             plot::nomeDxf(project::fileCorrente),
-            {{"AutoCAD(*.DXF)", "DXF"}},
-            false};
+            {{"AutoCAD(*.DXF)", "DXF"}}};
 }
 
 FileDaSalvare richiestaImmagine() {

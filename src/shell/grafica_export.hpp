@@ -9,8 +9,7 @@ namespace korven::shell {
 /// PDF files.
 [[nodiscard]] TipoFile tipoPdf();
 
-/// The save dialog of the DXF export: the name follows the project's, and nobody asks before a file
-/// is replaced.
+/// The save dialog of the DXF export: the name follows the project's.
 [[nodiscard]] FileDaSalvare richiestaDxf();
 
 /// The save dialog of the other picture files: PDF, SVG, PNG.

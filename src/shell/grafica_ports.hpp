@@ -17,12 +17,11 @@ struct TipoFile {
     bool operator==(const TipoFile&) const = default;
 };
 
-/// What a save dialog is to ask.
+/// What a save dialog is to ask. It asks before a file is replaced.
 struct FileDaSalvare {
     std::string titolo;  ///< translated
     std::string nome;    ///< proposed, without a folder
     std::vector<TipoFile> tipi;
-    bool chiediSovrascrittura = true;
 };
 
 /// What the viewer needs of the outside beyond its own window.
@@ -31,6 +30,8 @@ class PorteGrafica {
     virtual ~PorteGrafica() = default;
     /// Path that the user chose, with an extension; nothing when the dialog was cancelled.
     virtual std::optional<std::string> fileDaSalvare(const FileDaSalvare& richiesta) = 0;
+    /// Tells that a file of the drawing was written.
+    virtual void scritto(const std::string& percorso) = 0;
     /// Page of the printer [cm], to be marked in the drawing.
     virtual plot::Foglio foglioStampante() = 0;
     /// The printer for one job; null when there is none and the user gave up.

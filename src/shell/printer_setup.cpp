@@ -51,14 +51,16 @@ void impostaStampante(QPrinter& stampante, bool haStampanti, base::Dialogo& dial
 }
 
 void collegaDisegni(commands::FormeProgramma& forme, QWidget& principale, base::Dialogo& dialogo,
-                    std::function<QPrinter&()> stampante) {
+                    std::function<QPrinter&()> stampante,
+                    std::function<void(const std::string&)> annuncia) {
     struct Disegni {
-        Disegni(QWidget& finestra, base::Dialogo& d, const std::function<QPrinter&()>& carta)
-            : porte(carta), visore(finestra, porte, d) {}
+        Disegni(QWidget& finestra, base::Dialogo& d, const std::function<QPrinter&()>& carta,
+                const std::function<void(const std::string&)>& scritto)
+            : porte(carta, scritto), visore(finestra, porte, d) {}
         PorteDesktop porte;
         VisoreDisegni visore;
     };
-    const auto disegni = std::make_shared<Disegni>(principale, dialogo, stampante);
+    const auto disegni = std::make_shared<Disegni>(principale, dialogo, stampante, annuncia);
     forme.grafica = [disegni] { disegni->visore.attendi(); };
     forme.chiudiGrafica = [disegni] { disegni->visore.chiudi(); };
     forme.altezzaPagina = [disegni] { return disegni->porte.foglioStampante().altezza; };

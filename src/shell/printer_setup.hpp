@@ -21,7 +21,9 @@ void impostaStampante(QPrinter& stampante, bool haStampanti, base::Dialogo& dial
 /// From here on drawings appear in the viewer, which lives as long as a copy of `forme`.
 /// @param principale  the main form; it and the dialog must outlive `forme`
 /// @param stampante   the printer of the program, called when it is needed
+/// @param annuncia    told the path of each file of a drawing that was written; may be empty
 void collegaDisegni(commands::FormeProgramma& forme, QWidget& principale, base::Dialogo& dialogo,
-                    std::function<QPrinter&()> stampante);
+                    std::function<QPrinter&()> stampante,
+                    std::function<void(const std::string&)> annuncia = {});
 
 }  // namespace korven::shell

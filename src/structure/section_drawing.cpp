@@ -64,6 +64,7 @@ void vista(const project::Sezione& sezione) {
 
 void disegnaSezione(const project::DatiProgetto& dati) {
     plot::apriFoglio(dati.titoli, traduttore("SEZIONE ELEMENTO STRUTTURALE"));
+    plot::statoPlot.nome = "sezione";
     nomiDeiLati();
     plot::plotPenna(4);
     riquadroMateriali(dati.sezione);

@@ -74,7 +74,8 @@ TEST(NomeTxtScelto, CutsAtThePointOfAFolderBeforeAShortName) {
 }
 
 TEST(NomeTxtScelto, EndsTheExportWithoutAName) {
-    for (const auto* none : {"", ".txt", "*", "*.txt", "*.TXT", ".abc"})
+    for (const auto* none :
+         {"", ".txt", "*", "*.txt", "*.TXT", ".abc", "/a/.txt", "/a/*.txt", "/a/"})
         EXPECT_EQ(nomeTxtScelto(none), std::nullopt) << none;
 }
 

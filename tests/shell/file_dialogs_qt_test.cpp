@@ -7,8 +7,12 @@
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTimer>
 #include <filesystem>
 
+#include "shell/qt_text.hpp"
 #include "support/desktop_bench.hpp"
 #include "support/temporary_folder.hpp"
 
@@ -38,7 +42,7 @@ TEST_F(DialoghiFile, TakeTheNameOfAProjectThatDoesNotExistYet) {
         titolo = d.windowTitle();
         scrivi(d, "muro");
     });
-    EXPECT_EQ(dialoghi.apri(""), lavori / "muro");
+    EXPECT_EQ(dialoghi.apri(""), lavori / "muro.kvd");
     EXPECT_EQ(titolo, "Apri un progetto o scrivi il nome di uno nuovo");
 }
 
@@ -86,7 +90,7 @@ TEST_F(DialoghiFile, BeginWhereTheLastNameWasChosen) {
     const std::string nome = lavori / "nuovi/muro";
     {
         const Dialogo dialogo([&](QFileDialog& d) { scrivi(d, nome.c_str()); });
-        EXPECT_EQ(dialoghi.apri(""), nome);
+        EXPECT_EQ(dialoghi.apri(""), nome + ".kvd");
     }
     const Dialogo dialogo([](QFileDialog& d) { scrivi(d, "muro.kvd"); });
     EXPECT_EQ(dialoghi.salva("muro.kvd"), nome + ".kvd");
@@ -117,6 +121,57 @@ TEST_F(DialoghiFile, ShowTheFilesOfThePatternWhateverTheirCase) {
     const QDir cartella(QString::fromStdString(lavori.percorso()));
     EXPECT_EQ(cartella.entryList({modello}, QDir::Files | QDir::CaseSensitive, QDir::Name),
               (QStringList{"a.kvd", "b.KVD", "c.Kvd", "d.kVd"}));
+}
+
+// A short name in a folder with a point would else be read as an extension of that folder.
+TEST_F(DialoghiFile, EndANameWithoutAnExtensionInThatOfTheProjects) {
+    std::filesystem::create_directory(lavori / "v.1");
+    QDir::setCurrent(QString::fromStdString(lavori / "v.1"));
+    {
+        const Dialogo dialogo([](QFileDialog& d) { scrivi(d, "a"); });
+        EXPECT_EQ(dialoghi.apri(""), lavori / "v.1/a.kvd");
+    }
+    const Dialogo dialogo([](QFileDialog& d) { scrivi(d, "b"); });
+    EXPECT_EQ(dialoghi.salva(""), lavori / "v.1/b.kvd");
+}
+
+TEST_F(DialoghiFile, ShowNothingButProjects) {
+    QStringList filtri;
+    const auto guarda = [&](QFileDialog& d) {
+        filtri = d.nameFilters();
+        QTest::keyClick(&d, Qt::Key_Escape);
+    };
+    {
+        const Dialogo dialogo(guarda);
+        EXPECT_EQ(dialoghi.apri(""), "");
+        EXPECT_EQ(filtri.size(), 1);
+    }
+    const Dialogo dialogo(guarda);
+    EXPECT_EQ(dialoghi.salva("muro.kvd"), std::nullopt);
+    EXPECT_EQ(filtri.size(), 1);
+}
+
+TEST_F(DialoghiFile, AskBeforeAnotherTextFileIsReplaced) {
+    test::metti(lavori / "altro.txt", "x");
+    int domande = 0;
+    QString testo;
+    // The name without an extension means the file with one; No leads back to the dialog.
+    QTimer risposte;
+    QObject::connect(&risposte, &QTimer::timeout, [&] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        auto* dialogo = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        if (box != nullptr) {
+            testo = box->text();
+            QTest::mouseClick(box->findChild<QPushButton*>(++domande == 1 ? "no" : "si"),
+                              Qt::LeftButton);
+        } else if (dialogo != nullptr) {
+            scrivi(*dialogo, "altro");
+        }
+    });
+    risposte.start(20);
+    EXPECT_EQ(chiediNomeTxt(nullptr, lavori / "muro.txt"), lavori / "altro.txt");
+    EXPECT_EQ(domande, 2);
+    EXPECT_TRUE(testo.endsWith(qt(lavori / "altro.txt") + "?")) << testo.toStdString();
 }
 
 TEST_F(DialoghiFile, AnswerNothingAtEsc) {

@@ -2,12 +2,15 @@
 
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPrinter>
+#include <QPushButton>
 #include <QTimer>
 #include <functional>
 
 #include "project/project_data.hpp"
 #include "shell/grafica_export.hpp"
+#include "shell/report_output.hpp"
 #include "support/form_setup.hpp"
 
 namespace korven::shell {
@@ -33,20 +36,40 @@ class Dialoghi : public testing::Test {
     PorteDesktop porte{[this]() -> QPrinter& { return stampante; }};
 };
 
-TEST_F(Dialoghi, ProposeTheNameBesideTheProjectAndTakeItWithoutAQuestion) {
-    test::metti(cartella / "muro.DXF", "");
+TEST_F(Dialoghi, ProposeTheNameBesideTheProject) {
     nelDialogo([this](QFileDialog& d) {
         EXPECT_EQ(d.nameFilters(), QStringList{"AutoCAD(*.DXF)"});
-        EXPECT_TRUE(d.testOption(QFileDialog::DontConfirmOverwrite));
         EXPECT_EQ(d.directory().absolutePath().toStdString(), cartella.percorso());
         static_cast<QDialog&>(d).accept();
     });
     EXPECT_EQ(porte.fileDaSalvare(richiestaDxf()), cartella / "muro.DXF");
 }
 
+TEST_F(Dialoghi, AskBeforeAFileIsReplacedAndAgainForANameOnNo) {
+    for (const char* nome : {"muro.DXF", "muro-relazione.pdf"}) {
+        test::metti(cartella / nome, "");
+        int nomi = 0, domande = 0;
+        QTimer risposte;
+        QObject::connect(&risposte, &QTimer::timeout, [&] {
+            QWidget* finestra = QApplication::activeModalWidget();
+            if (auto* box = qobject_cast<QMessageBox*>(finestra)) {
+                EXPECT_TRUE(box->text().endsWith(QString::fromStdString(cartella / nome) + "?"));
+                box->findChild<QPushButton*>(++domande == 1 ? "no" : "si")->click();
+            } else if (auto* dialogo = qobject_cast<QFileDialog*>(finestra)) {
+                ++nomi;
+                static_cast<QDialog&>(*dialogo).accept();
+            }
+        });
+        risposte.start(30);
+        const auto richiesta = nome[4] == '.' ? richiestaDxf() : richiestaPdfRelazione();
+        EXPECT_EQ(porte.fileDaSalvare(richiesta), cartella / nome);
+        EXPECT_EQ(nomi, 2) << nome;
+        EXPECT_EQ(domande, 2) << nome;
+    }
+}
+
 TEST_F(Dialoghi, GiveANameTypedWithoutExtensionThatOfItsKind) {
     nelDialogo([](QFileDialog& d) {
-        EXPECT_FALSE(d.testOption(QFileDialog::DontConfirmOverwrite));
         d.findChild<QLineEdit*>()->setText("tavola");
         static_cast<QDialog&>(d).accept();
     });

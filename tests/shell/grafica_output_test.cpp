@@ -71,7 +71,7 @@ TEST_F(UsciteVisore, PrintNothingWhenTheUserGivesUp) {
     EXPECT_TRUE(dialogo.messaggi.empty());
 }
 
-TEST_F(UsciteVisore, WriteDxfUnderTheNameOfTheProjectWithoutAnOverwriteQuestion) {
+TEST_F(UsciteVisore, WriteDxfUnderTheNameOfTheProject) {
     disegna();
     porte.risposta = cartella / "muro.DXF";
     premi("Picture4");
@@ -80,7 +80,6 @@ TEST_F(UsciteVisore, WriteDxfUnderTheNameOfTheProjectWithoutAnOverwriteQuestion)
     EXPECT_EQ(r.nome, "muro.DXF");
     ASSERT_EQ(r.tipi.size(), 1U);
     EXPECT_EQ(r.tipi.front(), (TipoFile{"AutoCAD(*.DXF)", "DXF"}));
-    EXPECT_FALSE(r.chiediSovrascrittura);
     const std::string dxf = test::contenuto(cartella / "muro.DXF");
     EXPECT_NE(dxf.find("LINE"), std::string::npos);
     EXPECT_TRUE(dxf.ends_with("EOF\r\n"));
@@ -123,7 +122,29 @@ TEST_F(UsciteVisore, WriteAPictureOfTheKindThatItsExtensionNames) {
     const FileDaSalvare& r = porte.richieste.front();
     EXPECT_EQ(r.nome, "muro.pdf");
     EXPECT_EQ(r.tipi.size(), 3U);
-    EXPECT_TRUE(r.chiediSovrascrittura);
+}
+
+TEST_F(UsciteVisore, ProposeANameOfTheDrawingsOwnForAPictureButThatOfTheProjectForDxf) {
+    disegna();
+    plot::statoPlot.nome = "momenti";
+    premi("Picture17");
+    premi("Picture4");
+    ASSERT_EQ(porte.richieste.size(), 2U);
+    EXPECT_EQ(porte.richieste[0].nome, "muro-momenti.pdf");
+    EXPECT_EQ(porte.richieste[1].nome, "muro.DXF");
+}
+
+TEST_F(UsciteVisore, TellWhichFileWasWrittenAndNothingOfOneThatWasNot) {
+    disegna();
+    premi("Picture17");  // cancelled
+    porte.risposta = cartella / "manca/a.pdf";
+    premi("Picture17");  // fails
+    EXPECT_TRUE(porte.scritti.empty());
+    porte.risposta = cartella / "a.svg";
+    premi("Picture17");
+    porte.risposta = cartella / "a.DXF";
+    premi("Picture4");
+    EXPECT_EQ(porte.scritti, (std::vector<std::string>{cartella / "a.svg", cartella / "a.DXF"}));
 }
 
 TEST_F(UsciteVisore, LeaveTheViewAsItIsAfterAPicture) {

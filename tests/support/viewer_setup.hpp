@@ -20,6 +20,7 @@ class PorteRegistrate : public shell::PorteGrafica {
         richieste.push_back(richiesta);
         return risposta;
     }
+    void scritto(const std::string& percorso) override { scritti.push_back(percorso); }
     plot::Foglio foglioStampante() override { return foglio; }
     std::unique_ptr<plot::Stampante> stampante(const std::string& titolo) override {
         titoli.push_back(titolo);
@@ -29,6 +30,7 @@ class PorteRegistrate : public shell::PorteGrafica {
 
     std::optional<std::string> risposta;  // nothing: cancelled
     std::vector<shell::FileDaSalvare> richieste;
+    std::vector<std::string> scritti;
     plot::Foglio foglio{21, 29.7};
     bool conStampante = true;
     std::vector<std::string> titoli;

@@ -238,8 +238,10 @@ const std::map<std::string, Texts> noTexts = {
     {"report/hatch_library.cpp", {"set1.rtn", "set2.rtn", "set3", ".rtn", "set4.rtn"}},
     {"report/markup_reader.cpp", {"TRUE"}},
     {"report/report_data.cpp", {"nseg.txt"}},
+    {"report/result_diagram.cpp", {"pressioni", "spostamenti", "momenti", "taglio"}},
+    {"report/stratigraphic_log.cpp", {"stratigrafia"}},
     {"report/syllable_rule.cpp", {"BCDFGLMNPQRSTVZbcdfglmnpqrstvz", "AEIOUaeiou"}},
-    {"structure/section_drawing.cpp", {"[N/mm²]"}},
+    {"structure/section_drawing.cpp", {"[N/mm²]", "sezione"}},
 };
 
 bool letter(char c) {
