@@ -1,6 +1,7 @@
 #include "commands/document.hpp"
 
 #include <filesystem>
+#include <system_error>
 #include <utility>
 
 #include "analysis/output_guard.hpp"
@@ -94,7 +95,9 @@ void Documento::comincia(const std::string& nome) {
     fileCorrente = nome;
     disco_.ricorda(nome);
     analysis::progettiProtetti.letto.clear();
-    mostra("Nuovo progetto, non ancora salvato", nome);
+    // A new user's first project would else lie unnoticed beside the examples.
+    finestra_.stato(traduttore("Nuovo progetto, non ancora salvato") + ": " + nome + " (" +
+                    traduttore("un'altra cartella si sceglie con Salva") + ")");
 }
 
 bool Documento::apriAllAvvio(const std::string& argomento) {
@@ -112,6 +115,9 @@ bool Documento::apriAllAvvio(const std::string& argomento) {
 
 bool Documento::fileSalva() {
     if (fileCorrente.empty()) return false;
+    // The dialog makes the folder of the name that it returns the current one.
+    std::error_code nessuna;
+    const auto cartella = std::filesystem::current_path(nessuna);
     for (;;) {
         const auto risposta = nomi_.salva(nomeProposto(fileCorrente));
         if (!risposta) return false;
@@ -121,6 +127,7 @@ bool Documento::fileSalva() {
             scrivi(nome);
             return true;
         } catch (const base::ErroreFile& errore) {
+            std::filesystem::current_path(cartella, nessuna);
             dialogo_.messaggio(errore.what(), attenzione(), base::Icona::stop);
         }
     }

@@ -68,7 +68,8 @@ TEST_F(FileApri, BeginsANewProjectWithANameThatNoFileHas) {
     EXPECT_EQ(Progetto, vuoto);
     EXPECT_FALSE(modificato);
     EXPECT_TRUE(fs::is_empty(ambiente.lavori.percorso()));
-    EXPECT_EQ(finestra.ultimoStato, "Nuovo progetto, non ancora salvato: " + fileCorrente);
+    EXPECT_EQ(finestra.ultimoStato, "Nuovo progetto, non ancora salvato: " + fileCorrente +
+                                        " (un'altra cartella si sceglie con Salva)");
 }
 
 TEST_F(FileApri, ReplacesTheLastExtensionAloneAndFindsTheFileWhateverItsCase) {
@@ -284,6 +285,18 @@ TEST_F(FileSalva, TellsOfAFileThatCantBeWrittenAndAsksForAnotherName) {
     EXPECT_EQ(dialogo.messaggi[0].icona, base::Icona::stop);
     EXPECT_NE(dialogo.messaggi[0].testo.find("impossibile scrivere il file"), std::string::npos);
     EXPECT_EQ(fileCorrente, ambiente.lavori / "copia.kvd");
+}
+
+TEST_F(FileSalva, GoesBackToItsFolderWhenTheFileCantBeWritten) {
+    apriMuro();
+    std::filesystem::create_directory(ambiente.lavori / "altra");
+    std::filesystem::current_path(ambiente.lavori.percorso());
+    nomi.vaIn = ambiente.lavori / "altra";
+    nomi.salvati = {ambiente.lavori / "manca/muro", ambiente.lavori / "altra/copia"};
+    EXPECT_TRUE(documento.fileSalva());
+    ASSERT_EQ(nomi.cartelleSalva.size(), 2u);
+    EXPECT_EQ(nomi.cartelleSalva[1], nomi.cartelleSalva[0]);
+    EXPECT_EQ(std::filesystem::current_path(), ambiente.lavori / "altra") << "once it is written";
 }
 
 TEST_F(FileSalva, GivesAProjectItsNameBackThatARunWithoutStiffnessTook) {

@@ -174,7 +174,8 @@ TEST_F(Menu1Test, BeginsEditsAndSavesAProjectFromTheKeyboard) {
     QTest::keyClick(&finestra, Qt::Key_O, Qt::ControlModifier);
     EXPECT_EQ(finestra.windowTitle(), "KORVEN 32 - muro");
     EXPECT_EQ(stato(),
-              "Nuovo progetto, non ancora salvato: " + QString::fromStdString(fileCorrente));
+              "Nuovo progetto, non ancora salvato: " + QString::fromStdString(fileCorrente) +
+                  " (un'altra cartella si sceglie con Salva)");
     voce("EditFasi")->trigger();
     EXPECT_EQ(maschere, std::vector<std::string>{"F"});
     EXPECT_TRUE(modificato);

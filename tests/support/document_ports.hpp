@@ -27,12 +27,16 @@ class DialogoFileFinto : public commands::DialogoFile {
     }
     std::optional<std::string> salva(const std::string& proposta) override {
         proposte.push_back(proposta);
+        cartelleSalva.push_back(std::filesystem::current_path().string());
+        if (!vaIn.empty()) std::filesystem::current_path(vaIn);
         return prossimo(salvati);
     }
 
     std::deque<std::string> aperti, salvati;     ///< the answers
     std::vector<std::string> attuali, proposte;  ///< what was shown first
     std::vector<std::string> cartelle;           ///< where the open dialog began
+    std::vector<std::string> cartelleSalva;      ///< where the save dialog began
+    std::string vaIn;  ///< folder that the save dialog leaves behind as the current one
 
  private:
     static std::optional<std::string> prossimo(std::deque<std::string>& risposte) {
