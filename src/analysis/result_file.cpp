@@ -94,10 +94,11 @@ LettoreRisultati::LettoreRisultati(const std::string& percorso, int nNodi)
 LettoreRisultati::LettoreRisultati(base::LettoreRighe file, int nNodi)
     : file_(std::move(file)), nNodi_(nNodi) {}
 
-void LettoreRisultati::leggiTesta(project::DatiProgetto& dati) {
+double LettoreRisultati::leggiTesta(project::DatiProgetto& dati) {
     const auto titoli = dati.titoli;
-    project::leggiDati(file_, dati);
+    const double metodoScritto = project::leggiDati(file_, dati);
     dati.titoli = titoli;
+    return metodoScritto;
 }
 
 void LettoreRisultati::leggiFase(RisultatiFase& risultati) {

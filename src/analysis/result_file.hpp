@@ -57,8 +57,9 @@ class LettoreRisultati {
 
     /// Reads the head into `dati`; the six `titoli` of `dati` stay, since a report shows those in
     /// memory.
+    /// @return the code of `metodoSpinte` as it stands in the head, which `dati` may not keep
     /// @throws base::ErroreFile on a broken head; `dati` is then as it was
-    void leggiTesta(project::DatiProgetto& dati);
+    double leggiTesta(project::DatiProgetto& dati);
 
     /// Reads the table of the next stage.
     /// @throws base::ErroreFile if the file ends or its lines are not those of a table of this mesh

@@ -9,6 +9,7 @@
 
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
+#include "base/version.hpp"
 #include "batch/paper.hpp"
 #include "batch/wrong_usage.hpp"
 #include "device/drawing_files.hpp"
@@ -47,7 +48,7 @@ const CLI::Validator numero([](std::string& testo) { return base::soloUnNumero(t
                             "");
 
 void versione(CLI::App& app) {
-    app.set_version_flag("--versione", "KORVEN 32 " KORVEN_VERSION,
+    app.set_version_flag("--versione", std::string(base::nomeEVersione),
                          traduttore("mostra la versione"));
 }
 

@@ -2,6 +2,7 @@
 #include <nlohmann/json.hpp>
 
 #include "base/translated_texts.hpp"
+#include "base/version.hpp"
 #include "batch/outcome.hpp"
 
 namespace korven::batch {
@@ -99,7 +100,7 @@ Json nomeONullo(const std::string& percorso) {
 }  // namespace
 
 std::string json(const Esito& esito) {
-    Json j = {{"programma", "KORVEN 32"}, {"versione", KORVEN_VERSION},
+    Json j = {{"programma", "KORVEN 32"}, {"versione", base::versione},
               {"comando", esito.comando}, {"progetto", esito.progetto},
               {"codice", esito.codice},   {"messaggi", esito.messaggi}};
     if (esito.comando == "verifica") {

@@ -30,13 +30,15 @@ class Lettura {
     // A project always reopens with Coulomb: Rankine and Bell are chosen for a session and are not
     // kept. The code 0 of a project in which nobody chose yet stays.
     void metodoSpinte(double& valore, std::string_view nome) {
-        valore = file_.numero(nome);
-        if (valore > 1) valore = 1;
+        metodoScritto = file_.numero(nome);
+        valore = metodoScritto > 1 ? 1 : metodoScritto;
     }
     void descrizione(std::string& valore, std::string_view nome) { valore = file_.riga(nome); }
     void titolo(std::string& valore, std::string_view nome) { valore = file_.riga(nome); }
     // A test stands for a whole block: once a block begins, all of its lines are expected.
     [[nodiscard]] bool blocco() const { return !file_.fine(); }
+
+    double metodoScritto = 0;  ///< the code on file
 
  private:
     base::LettoreRighe& file_;
@@ -93,11 +95,12 @@ class Confronto {
 
 }  // namespace
 
-void leggiDati(base::LettoreRighe& file, DatiProgetto& dati) {
+double leggiDati(base::LettoreRighe& file, DatiProgetto& dati) {
     DatiProgetto letti = dati;
     Lettura lettura(file);
     Percorso(lettura, letti).tutto();
     dati = letti;
+    return lettura.metodoScritto;
 }
 
 void leggiProgetto() {

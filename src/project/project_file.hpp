@@ -14,9 +14,11 @@ namespace korven::project {
 /// on. Nothing is reset first: of the three blocks that older files lack (sheet pile, reinforced
 /// piles, axial force) a missing one keeps what `dati` held, and so do the rows of the tables above
 /// the counts. A `metodoSpinte` above 1 becomes 1.
+/// @return the code of `metodoSpinte` as it stands in the file: the method that the run used whose
+///         results stand behind it
 /// @throws base::ErroreFile on a file that ends early, a line that is no number, a count that is no
 ///         whole number from 0 to the capacity; `dati` is then as it was
-void leggiDati(base::LettoreRighe& file, DatiProgetto& dati);
+double leggiDati(base::LettoreRighe& file, DatiProgetto& dati);
 
 /// Reads the file named by `fileCorrente` into `Progetto`.
 void leggiProgetto();

@@ -1,16 +1,33 @@
 #include "report/calculation_report.hpp"
 
+#include <filesystem>
+
 #include "analysis/output_guard.hpp"
 #include "base/code_page.hpp"
 #include "base/file_names.hpp"
 #include "base/files.hpp"
+#include "report/report_footer.hpp"
 #include "report/report_sections.hpp"
 
 namespace korven::report {
 
-std::string testoRelazione(const DatiRelazione& dati) {
+namespace {
+
+// While a report is written `fileCorrente` names the result file; the run that asked for it knows
+// the project.
+std::string nomeProgetto() {
+    const std::string& corrente = analysis::progettiProtetti.corrente;
+    return std::filesystem::path(corrente.empty() ? project::fileCorrente : corrente)
+        .filename()
+        .string();
+}
+
+}  // namespace
+
+std::string testoRelazione(const DatiRelazione& dati, const std::string& nomeProgetto) {
     RigheRelazione righe;
-    sezioneApertura(dati.progetto, righe);
+    sezioneApertura(dati.progetto, testoPiede({nomeProgetto, dati.metodoUsato, dati.nNodi - 1}),
+                    righe);
     sezioneDati(dati.progetto, righe);
     sezioneRisultati(dati, righe);
     sezioneStrutturale(dati, righe);
@@ -22,7 +39,7 @@ std::string scriviRelazione() {
     std::string percorso = base::nomeRelazione(project::fileCorrente);
     analysis::controllaUscita(percorso, project::fileCorrente);
     const DatiRelazione dati = leggiRisultati(project::fileCorrente, project::Progetto);
-    base::scriviFile(percorso, base::inCp1252(testoRelazione(dati)));
+    base::scriviFile(percorso, base::inCp1252(testoRelazione(dati, nomeProgetto())));
     return percorso;
 }
 

@@ -78,7 +78,7 @@ DatiRelazione leggiRisultati(const std::string& percorso, DatiProgetto& memoria)
     DatiRelazione dati;
     dati.nNodi = segmenti(memoria) + 1;
     analysis::LettoreRisultati file(percorso, dati.nNodi);
-    file.leggiTesta(memoria);
+    dati.metodoUsato = file.leggiTesta(memoria);
     dati.progetto = memoria;
     dati.passo = memoria.lunghezzaParatia / (dati.nNodi - 1);
 

@@ -1,3 +1,4 @@
+#include "report/report_footer.hpp"
 #include "report/report_sections.hpp"
 
 namespace korven::report {
@@ -100,10 +101,10 @@ void fasi(const DatiProgetto& p, RigheRelazione& righe) {
 
 }  // namespace
 
-void sezioneApertura(const DatiProgetto& progetto, RigheRelazione& righe) {
-    righe.riga("#RESET 2,2,2,2,2,2,12,Arial");
+void sezioneApertura(const DatiProgetto& progetto, std::string_view piede, RigheRelazione& righe) {
+    righe.riga(std::string("#RESET ").append(paginaRelazione));
     righe.riga("#HEADER Program KORVEN 32");
-    righe.riga("#FOOTER KORVEN 32 - Dimensionamento di Paratie e Diaframmi");
+    righe.riga(std::string("#FOOTER ").append(piede));
     righe.riga("#FONTSIZE 16");
     righe.riga("#CENTER");
     righe.titolo("CALCOLO DIAFRAMMA");

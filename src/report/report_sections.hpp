@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string_view>
+
 #include "report/report_data.hpp"
 #include "report/report_lines.hpp"
 
@@ -9,7 +11,9 @@
 namespace korven::report {
 
 /// Opening directives, title and the project's own heading lines that are not blank.
-void sezioneApertura(const project::DatiProgetto& progetto, RigheRelazione& righe);
+/// @param piede  the line at the foot of each page (report_footer.hpp)
+void sezioneApertura(const project::DatiProgetto& progetto, std::string_view piede,
+                     RigheRelazione& righe);
 
 /// Soil layers, wall parameters, anchors and stages.
 void sezioneDati(const project::DatiProgetto& progetto, RigheRelazione& righe);

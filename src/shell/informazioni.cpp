@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "base/version.hpp"
 #include "shell/qt_text.hpp"
 #include "shell/wall_picture.hpp"
 
@@ -41,7 +42,8 @@ Informazioni::Informazioni(const std::string& fileCorrente, QWidget* genitore) :
     colonna->addWidget(riga("KORVEN 32", "nome", 2.0, true, this));
     colonna->addWidget(
         riga(tradotto("Dimensionamento di Paratie e Diaframmi"), "sottotitolo", 1.2, false, this));
-    colonna->addWidget(riga(tradotto("Versione") + " " KORVEN_VERSION, "versione", 1, false, this));
+    colonna->addWidget(
+        riga(tradotto("Versione") + " " + qt(base::versione), "versione", 1, false, this));
     colonna->addWidget(
         riga(tradotto("Paratie, diaframmi, pali e palancole, calcolati per fasi di scavo"),
              "descrizione", 1, false, this));

@@ -47,7 +47,7 @@ DatiProgetto leggi(const std::string& nome) {
 
 std::string relazione(Banco& banco) {
     const auto dati = report::leggiRisultati(banco.risultati(), project::Progetto);
-    return report::testoRelazione(dati);
+    return report::testoRelazione(dati, "muro.kvd");
 }
 
 class Esempio : public testing::TestWithParam<std::string> {};

@@ -43,7 +43,7 @@ report::DatiRelazione leggi(std::string contenuto) {
 extern "C" int KORVEN_FUZZ_ENTRY(const std::uint8_t* byte, std::size_t quanti) {
     try {
         const std::string relazione =
-            report::testoRelazione(leggi(test::contenutoFile(byte, quanti)));
+            report::testoRelazione(leggi(test::contenutoFile(byte, quanti)), "muro.kvd");
         test::pretendi(relazione.ends_with("#ENDDOCUMENT\r\n"), "a report has its end");
     } catch (const base::ErroreFile&) {
     } catch (const base::ErroreIndice&) {

@@ -45,7 +45,7 @@ def compute(project, folder, n_seg=50, method=0, ej="mantieni", cap=2000):
         return 4, str(circle), None
     out, tab = paths(project, folder)
     write_lines(out, result_lines(head, run))
-    write_lines(tab, report_lines(out, p, n_seg))
+    write_lines(tab, report_lines(out, p, n_seg, os.path.basename(project)))
     return 0, "", run
 
 

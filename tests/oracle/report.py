@@ -2,6 +2,7 @@
 
 from number_text import formatta_numero
 from number_text import formatta_relazione as num
+from footer import footer_line
 from project_file import LineReader, leggi_dati
 from section import kind, sezione_valida, side_complete, verifica_taglio
 from stages import FS_AZIONI, anchors_in_place
@@ -9,7 +10,6 @@ from wall import anchor_node
 
 COLUMNS = ("sigmaVv", "Ehv", "k0v", "kav", "kpv", "sigmaVm", "Ehm", "k0m", "kam", "kpm",
            "Spostamenti", "Momenti")
-FOOTER = "#FOOTER KORVEN 32 - Dimensionamento di Paratie e Diaframmi"
 CODES = (
     ("vincoloTesta", "Condizioni di vincolo della sommità diaframma: ", ("libera", "cerniera")),
     ("vincoloPiede", "Condizioni di vincolo del piede diaframma: ",
@@ -119,10 +119,11 @@ def code_line(p, field, start, endings):
     return ""
 
 
-def report_lines(path, p, n_seg):
+def report_lines(path, p, n_seg, project_name):
     """Mark-up of the whole report; `p` takes over what the file says."""
     r = Results(path, p, n_seg)
-    out = ["#RESET 2,2,2,2,2,2,12,Arial", "#HEADER Program KORVEN 32", FOOTER, "#FONTSIZE 16",
+    out = ["#RESET 2,2,2,2,2,2,12,Arial", "#HEADER Program KORVEN 32",
+           "#FOOTER " + footer_line(project_name, path, n_seg), "#FONTSIZE 16",
            "#CENTER", "CALCOLO DIAFRAMMA", "#LEFT", "", "#FONTSIZE 10"]
     out += [line for line in p.titoli[1:] if line.strip(" ") != ""] + [""]
     out += _soil_and_wall(p)

@@ -114,7 +114,7 @@ TEST(FileDiProgetto, ReopensWithCoulombAndThenDiffersFromMemory) {
     EXPECT_FALSE(progettoDiverso(stesso, d));  // the comparison does not clamp
 
     auto lettore = file(testo);
-    leggiDati(lettore, d);
+    EXPECT_EQ(leggiDati(lettore, d), 3) << "the code on file is told all the same";
     EXPECT_EQ(d.metodoSpinte, 1);
     auto confronto = file(testo);
     EXPECT_TRUE(progettoDiverso(confronto, d));

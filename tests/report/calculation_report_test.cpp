@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "analysis/output_guard.hpp"
 #include "base/code_page.hpp"
 #include "base/file_error.hpp"
 #include "base/translated_texts.hpp"
@@ -73,7 +74,8 @@ constexpr const char* chiusuraPiccola = "800000000\r\n-1000000000\r\n50\r\n-12.5
 constexpr const char* fineAiTiranti =
     "#RESET 2,2,2,2,2,2,12,Arial\n"
     "#HEADER Program KORVEN 32\n"
-    "#FOOTER KORVEN 32 - Dimensionamento di Paratie e Diaframmi\n"
+    "#FOOTER KORVEN 32 1.1.0 – muro.OUT – Coulomb – 3 segmenti – nessun coefficiente di sicurezza "
+    "sul terreno\n"
     "#FONTSIZE 16\n"
     "#CENTER\n"
     "CALCOLO DIAFRAMMA\n"
@@ -313,6 +315,32 @@ TEST(ScriviRelazione, SaysCoulombAfterARunWithRankineOrBell) {
         EXPECT_NE(relazione.find("calcolate con il metodo di Coulomb"), std::string::npos);
         EXPECT_EQ(Progetto.metodoSpinte, 1);
     }
+}
+
+TEST(ScriviRelazione, NamesTheMethodOfTheRunAtTheFootOfThePages) {
+    const std::pair<double, const char*> casi[] = {
+        {1, " \x96 Coulomb \x96 "}, {2, " \x96 Rankine \x96 "}, {3, " \x96 Bell \x96 "}};
+    for (const auto& [metodo, nome] : casi) {
+        RisultatiAMano file(3);
+        Progetto = muroPiccolo();
+        Progetto.metodoSpinte = metodo;
+        file.scrivi(Progetto, fasiPiccole());
+        const std::string relazione = contenuto(scriviRelazione());
+        const auto piede = relazione.find("#FOOTER ");
+        EXPECT_NE(relazione.substr(piede, relazione.find('\r', piede) - piede).find(nome),
+                  std::string::npos)
+            << nome;
+    }
+}
+
+TEST(ScriviRelazione, NamesTheProjectOfTheRunAtTheFootOfThePages) {
+    RisultatiAMano file(3);
+    Progetto = muroPiccolo();
+    file.scrivi(Progetto, fasiPiccole());
+    analysis::progettiProtetti.corrente = file.cartella / "muro.vecchio.kvd";
+    const std::string relazione = contenuto(scriviRelazione());
+    analysis::progettiProtetti = {};
+    EXPECT_NE(relazione.find(" \x96 muro.vecchio.kvd \x96 Coulomb"), std::string::npos);
 }
 
 TEST(ScriviRelazione, ShowsTheHeadingsInMemoryNotThoseOfTheFile) {

@@ -17,7 +17,7 @@ DatiProgetto nuovo() {
 }
 
 std::vector<std::string> apertura(const DatiProgetto& d) {
-    return righe([&](RigheRelazione& r) { sezioneApertura(d, r); });
+    return righe([&](RigheRelazione& r) { sezioneApertura(d, "Piede", r); });
 }
 
 std::vector<std::string> dati(const DatiProgetto& d) {
@@ -34,10 +34,9 @@ std::vector<std::string> setteRighe(const DatiProgetto& d) {
 
 TEST(SezioneApertura, OpensTheDocumentInTheOrderThatTheRenderersExpect) {
     EXPECT_EQ(apertura(nuovo()),
-              (std::vector<std::string>{
-                  "#RESET 2,2,2,2,2,2,12,Arial", "#HEADER Program KORVEN 32",
-                  "#FOOTER KORVEN 32 - Dimensionamento di Paratie e Diaframmi", "#FONTSIZE 16",
-                  "#CENTER", "CALCOLO DIAFRAMMA", "#LEFT", "", "#FONTSIZE 10", ""}));
+              (std::vector<std::string>{"#RESET 2,2,2,2,2,2,12,Arial", "#HEADER Program KORVEN 32",
+                                        "#FOOTER Piede", "#FONTSIZE 16", "#CENTER",
+                                        "CALCOLO DIAFRAMMA", "#LEFT", "", "#FONTSIZE 10", ""}));
 }
 
 TEST(SezioneApertura, WritesTheHeadingsThatAreNotBlankAsTheyStand) {

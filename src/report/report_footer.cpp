@@ -1,0 +1,113 @@
+#include "report/report_footer.hpp"
+
+#include <cmath>
+#include <initializer_list>
+#include <vector>
+
+#include "base/code_page.hpp"
+#include "base/translated_texts.hpp"
+#include "base/version.hpp"
+#include "report/estimated_width.hpp"
+#include "report/report_page.hpp"
+
+namespace korven::report {
+
+namespace {
+
+using base::traduttore;
+
+constexpr double bordo =
+    0.4 * pointsPerCentimetre;  // left white between a footer and the page's end
+
+constexpr std::string_view metodi[] = {"Coulomb", "Rankine", "Bell"};
+
+std::string nomeMetodo(double codice) {
+    for (std::size_t i = 0; i < std::size(metodi); ++i)
+        if (codice == static_cast<double>(i + 1)) return traduttore(metodi[i]);
+    return traduttore("nessun metodo delle spinte");
+}
+
+// A file may be named with anything; in the mark-up a line end would begin a line of its own.
+std::string nomeScrivibile(const std::string& nome) {
+    std::string byte = base::inCp1252(nome);
+    for (char& c : byte)
+        if (static_cast<unsigned char>(c) < ' ') c = '?';
+    return base::daCp1252(byte);
+}
+
+std::vector<std::string> caratteri(std::string_view testo) {
+    std::vector<std::string> tutti;
+    while (!testo.empty()) {
+        const std::size_t n = base::lunghezzaPrimoCarattere(testo);
+        tutti.emplace_back(testo.substr(0, n));
+        testo.remove_prefix(n);
+    }
+    return tutti;
+}
+
+// The name with `tenuti` of its characters: the longer half in front, the rest from its end.
+std::string senzaMezzo(const std::vector<std::string>& nome, std::size_t tenuti) {
+    const std::size_t davanti = tenuti - tenuti / 2;
+    std::string corto;
+    for (std::size_t i = 0; i < davanti; ++i) corto += nome[i];
+    corto += "…";
+    for (std::size_t i = nome.size() - tenuti / 2; i < nome.size(); ++i) corto += nome[i];
+    return corto;
+}
+
+std::string unite(std::initializer_list<std::string_view> parti) {
+    std::string riga;
+    for (const auto parte : parti) riga.append(riga.empty() ? "" : " – ").append(parte);
+    return riga;
+}
+
+// Where a centred line lies on the page.
+class Misuratore {
+ public:
+    explicit Misuratore(const Foglio& foglio)
+        : pagina_{parseReset(paginaRelazione), usableLength(foglio.larghezza * pointsPerCentimetre),
+                  0} {}
+
+    [[nodiscard]] bool traIMargini(std::string_view riga) const {
+        return larghezza(riga) <= pagina_.room().width;
+    }
+    [[nodiscard]] bool sullaPagina(std::string_view riga) const {
+        const double w = larghezza(riga);
+        const double x = alignedX(Alignment::centre, pagina_.room(), w);
+        return x >= bordo && x + w <= pagina_.width - bordo;
+    }
+
+ private:
+    [[nodiscard]] double larghezza(std::string_view riga) const {
+        return estimatedWidth({pagina_.layout.headerFontName, pagina_.layout.headerFontSize}, riga);
+    }
+    ReportPage pagina_;
+};
+
+}  // namespace
+
+std::string testoPiede(const DatiPiede& dati, const Foglio& foglio) {
+    const Misuratore misura(foglio);
+    const std::string nome = nomeScrivibile(dati.progetto);
+    const std::string metodo = nomeMetodo(dati.metodoUsato);
+    const std::string segmenti = std::to_string(dati.segmenti) + " " + traduttore("segmenti");
+    const auto riga = [&](std::string_view progetto, std::string_view terreno) {
+        return unite({base::nomeEVersione, progetto, metodo, segmenti, terreno});
+    };
+
+    const std::string intera =
+        riga(nome, traduttore("nessun coefficiente di sicurezza sul terreno"));
+    const std::string conSottotitolo =
+        unite({intera, traduttore("Dimensionamento di Paratie e Diaframmi")});
+    if (misura.traIMargini(conSottotitolo)) return conSottotitolo;
+    if (misura.sullaPagina(intera)) return intera;
+
+    const std::string terreno = traduttore("nessun F.S. sul terreno");
+    std::string corta = riga(nome, terreno);
+    const auto lettere = caratteri(nome);
+    for (std::size_t tenuti = lettere.size(); !misura.sullaPagina(corta) && tenuti-- > 2;)
+        corta = riga(senzaMezzo(lettere, tenuti), terreno);
+    return corta;
+}
+
+}  // namespace korven::report
