@@ -169,6 +169,21 @@ void scriviFile(const std::string& percorso, std::string_view contenuto) {
     file.concludi();
 }
 
+void scriviFileNuovo(const std::string& percorso, std::string_view contenuto) {
+    constexpr int nuovo = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
+    constexpr mode_t permessiUsuali = 0666;  // less what the user's mask takes
+    Descrittore file(ripeti([&] { return ::open(percorso.c_str(), nuovo, permessiUsuali); }));
+    if (*file < 0) nonScritto(percorso, errno);
+    const bool scritto = scriviTutto(*file, contenuto) &&
+                         ripeti([&] { return ::fsync(*file); }) == 0 && file.chiudi();
+    if (!scritto) {
+        const int codice = errno;
+        ::unlink(percorso.c_str());
+        nonScritto(percorso, codice);
+    }
+    versaSulDisco(cartellaDi(percorso));
+}
+
 void accodaFile(const std::string& percorso, std::string_view contenuto) {
     Descrittore file(apriDescrittore(percorso, O_WRONLY | O_APPEND));
     if (*file < 0) nonScritto(percorso, errno);
@@ -185,6 +200,19 @@ bool esisteFile(const std::string& percorso) {
     std::error_code errore;
     return std::filesystem::exists(percorso, errore) &&
            !std::filesystem::is_directory(percorso, errore);
+}
+
+bool accettaFile(const std::string& cartella) {
+    std::string prova = cartella + "/.korven-XXXXXX";
+    const Descrittore file(::mkostemp(prova.data(), O_CLOEXEC));
+    if (*file < 0) return false;
+    ::unlink(prova.c_str());
+    return true;
+}
+
+bool esisteNome(const std::string& percorso) {
+    struct stat stato {};
+    return ::lstat(percorso.c_str(), &stato) == 0;
 }
 
 void cancellaFile(const std::string& percorso) {

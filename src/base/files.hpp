@@ -45,6 +45,12 @@ class ScrittoreFile {
     int file_ = -1;
 };
 
+/// Writes a file that does not exist yet, under a name that somebody else could have guessed and
+/// made first, as a link to something that must not be lost.
+/// @throws ErroreScrittura with the system's reason, also if the name is taken, be it by a link
+///         that leads nowhere; nothing is left of a file that can't be written to its end
+void scriviFileNuovo(const std::string& percorso, std::string_view contenuto);
+
 /// Appends to an existing file; on a failure the file is cut back to what it held.
 /// @throws ErroreFile with the system's reason
 void accodaFile(const std::string& percorso, std::string_view contenuto);
@@ -52,6 +58,13 @@ void accodaFile(const std::string& percorso, std::string_view contenuto);
 /// True if something that is no folder has that name. It need not be readable: `leggiFile` then
 /// tells why, where a false here would pass over it in silence.
 [[nodiscard]] bool esisteFile(const std::string& percorso);
+
+/// True if a file can be made in the folder. Tried out under a name that nobody can guess: a file
+/// that is there already, or what a link leads to, must not be emptied.
+[[nodiscard]] bool accettaFile(const std::string& cartella);
+
+/// True if the name is taken: by a file, a folder or a link, though it may lead nowhere.
+[[nodiscard]] bool esisteNome(const std::string& percorso);
 
 /// Removes a file if it exists; says nothing if it can't.
 void cancellaFile(const std::string& percorso);

@@ -38,8 +38,8 @@ inline constexpr std::string_view estensioneProgetti = "kvd";
 [[nodiscard]] std::string rigaFileCorrente(std::string_view percorso);
 
 /// Where the project goes that would be lost: beside `percorso`, "_recuperato" behind the name up
-/// to its last point, with a number from 2 on if a file of that name exists.
-/// @param esiste  tells whether a file exists
+/// to its last point, with a number from 2 on if that name is taken.
+/// @param esiste  tells whether a name is taken
 [[nodiscard]] std::string nomeRecupero(std::string_view percorso,
                                        const std::function<bool(const std::string&)>& esiste);
 

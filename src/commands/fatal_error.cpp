@@ -36,9 +36,9 @@ using NomeLibero = std::string (*)(std::string_view,
 std::string recupera(std::string_view byte, NomeLibero nome) {
     for (const auto& cartella : cartelleRecupero()) {
         const std::string file = nome(
-            (cartella / fs::path(project::fileCorrente).filename()).string(), base::esisteFile);
+            (cartella / fs::path(project::fileCorrente).filename()).string(), base::esisteNome);
         try {
-            base::scriviFile(file, byte);
+            base::scriviFileNuovo(file, byte);
             return file;
         } catch (const base::ErroreFile&) {
             continue;  // the next folder may do

@@ -83,17 +83,14 @@ bool mostraTxt(const std::string& file, base::AvviaProgramma& programmi) {
     return programmi.apri(file);
 }
 
-std::string convertitore() {
-    const std::string programma = base::fileProgramma("outdoc");
-    return base::esisteFile(programma) ? programma : base::cartellaEseguibile() + "/outdoc";
-}
-
 std::string programmaEsistente(const std::string& riga) {
     std::string nome(base::senzaSpaziEsterni(riga));
     return base::esisteFile(nome) ? nome : std::string();
 }
 
 }  // namespace
+
+std::string convertitore() { return base::cartellaEseguibile() + "/outdoc"; }
 
 std::optional<std::string> nomeTxtScelto(std::string_view risposta) {
     if (ultimi(risposta, coda).find('.') != std::string_view::npos)
@@ -128,7 +125,7 @@ void esportaDoc(const std::string& percorso, const PorteEsportazione& porte) {
     const std::string nome = base::nomeDocumento(percorso);
     bool creato = true;
     try {
-        scriviDocumento(percorso, porte.programmi);
+        scriviDocumento(percorso, porte.programmi, porte.outdoc);
     } catch (const base::ErroreFile& errore) {
         avvisa(porte, errore.what(), base::Icona::avviso);
         creato = false;
@@ -145,14 +142,14 @@ void esportaDoc(const std::string& percorso, const PorteEsportazione& porte) {
             nome);
 }
 
-std::string scriviDocumento(const std::string& relazione, base::AvviaProgramma& programmi) {
+std::string scriviDocumento(const std::string& relazione, base::AvviaProgramma& programmi,
+                            const std::string& outdoc) {
     std::string nome = base::nomeDocumento(relazione);
     analysis::controllaUscita(nome, relazione);
-    const std::string programma = convertitore();
-    const auto codice = programmi.esegui(programma, {relazione});
-    if (!codice)
-        throw base::ErroreFile(programma, 0, traduttore("impossibile avviare il programma"));
-    if (*codice != 0) throw base::ErroreFile(nome, 0, traduttore("impossibile scrivere il file"));
+    const auto codice = programmi.esegui(outdoc, {relazione});
+    if (!codice) throw base::ErroreFile(outdoc, 0, traduttore("impossibile avviare il programma"));
+    if (*codice != 0 || !base::esisteFile(nome))
+        throw base::ErroreFile(nome, 0, traduttore("impossibile scrivere il file"));
     return nome;
 }
 

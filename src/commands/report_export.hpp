@@ -21,11 +21,16 @@ inline constexpr std::string_view estensioneTxt = "txt";
 /// @return what was chosen or typed; empty when it was given up
 using ChiediNome = std::function<std::string(const std::string& proposto)>;
 
+/// Path of the converter outdoc: the one that lies beside this program. The program folder may be
+/// anybody's; it is asked for files, never for a program to run.
+[[nodiscard]] std::string convertitore();
+
 /// What an export needs of the outside.
 struct PorteEsportazione {
     base::Dialogo& dialogo;
     base::AvviaProgramma& programmi;
     ChiediNome chiediNome;
+    std::string outdoc = convertitore();
 };
 
 /// The target that an answer of the dialog means: an extension of at most three characters gives
@@ -58,10 +63,12 @@ void esportaTxt(const std::string& percorso, const PorteEsportazione& porte);
 /// Does nothing if there is no such file.
 void esportaDoc(const std::string& percorso, const PorteEsportazione& porte);
 
-/// Runs outdoc, from the program folder or else from the folder of this program.
+/// Runs outdoc.
+/// @param outdoc  its path
 /// @return the path of the word-processor file
-/// @throws base::ErroreFile if outdoc can't be started or fails, or if the file would take the
-/// place of the project or of the mark-up
-std::string scriviDocumento(const std::string& relazione, base::AvviaProgramma& programmi);
+/// @throws base::ErroreFile if outdoc can't be started, fails or leaves no file, or if the file would
+/// take the place of the project or of the mark-up
+std::string scriviDocumento(const std::string& relazione, base::AvviaProgramma& programmi,
+                            const std::string& outdoc = convertitore());
 
 }  // namespace korven::commands

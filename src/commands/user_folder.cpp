@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <iterator>
 #include <string_view>
 
@@ -59,12 +58,7 @@ void copiaCartella(const fs::path& da, const fs::path& a, bool anchePrivate) {
 
 }  // namespace
 
-bool cartellaScrivibile(const std::string& cartella) {
-    const std::string prova = (fs::path(cartella) / ".korven32_prova").string();
-    const bool riuscito = std::ofstream(prova).good();
-    if (riuscito) base::cancellaFile(prova);
-    return riuscito;
-}
+bool cartellaScrivibile(const std::string& cartella) { return base::accettaFile(cartella); }
 
 std::string cartellaDatiUtente() {
     const char* dati = std::getenv("XDG_DATA_HOME");

@@ -35,12 +35,13 @@ class PuntatoreNormale {
 }  // namespace
 
 UsciteRelazione::UsciteRelazione(QWidget& principale, base::Dialogo& dialogo,
-                                 std::function<QPrinter&()> stampante)
+                                 std::function<QPrinter&()> stampante, std::string outdoc)
     : principale_(principale),
       dialogo_(dialogo),
       stampante_(std::move(stampante)),
       dialoghi_(stampante_),
-      programmi_([] { QCoreApplication::processEvents(); }) {}
+      programmi_([] { QCoreApplication::processEvents(); }),
+      outdoc_(std::move(outdoc)) {}
 
 void UsciteRelazione::anteprima(const std::string& relazione) {
     if (!forma_) forma_ = new Form1(&principale_);
@@ -61,7 +62,8 @@ void UsciteRelazione::esportaTxt(const std::string& relazione) {
 }
 
 commands::PorteEsportazione UsciteRelazione::porte() {
-    return {dialogo_, programmi_, [this](const std::string& nome) { return chiediNome(nome); }};
+    return {dialogo_, programmi_, [this](const std::string& nome) { return chiediNome(nome); },
+            outdoc_};
 }
 
 std::string UsciteRelazione::chiediNome(const std::string& proposto) {
@@ -86,9 +88,9 @@ FileDaSalvare richiestaPdfRelazione() {
 }
 
 void collegaRelazione(commands::FormeProgramma& forme, QWidget& principale, base::Dialogo& dialogo,
-                      std::function<QPrinter&()> stampante) {
-    const auto uscite =
-        std::make_shared<UsciteRelazione>(principale, dialogo, std::move(stampante));
+                      std::function<QPrinter&()> stampante, std::string outdoc) {
+    const auto uscite = std::make_shared<UsciteRelazione>(principale, dialogo, std::move(stampante),
+                                                          std::move(outdoc));
     forme.anteprima = [uscite](const std::string& r) { uscite->anteprima(r); };
     forme.stampa = [uscite](const std::string& r) { uscite->stampa(r); };
     forme.esportaDoc = [uscite](const std::string& r) { uscite->esportaDoc(r); };

@@ -25,8 +25,9 @@ class UsciteRelazione {
     /// @param principale  the main form, above which windows and dialogs appear; not owned, like
     ///                    the dialog
     /// @param stampante   the printer of the program, as the printer set-up left it
+    /// @param outdoc      path of the converter
     UsciteRelazione(QWidget& principale, base::Dialogo& dialogo,
-                    std::function<QPrinter&()> stampante);
+                    std::function<QPrinter&()> stampante, std::string outdoc);
 
     /// Shows the report on the form `Form1`, which stays while the program goes on.
     void anteprima(const std::string& relazione);
@@ -48,6 +49,7 @@ class UsciteRelazione {
     std::function<QPrinter&()> stampante_;
     PorteDesktop dialoghi_;
     base::Processi programmi_;
+    std::string outdoc_;
     QPointer<Form1> forma_;  // belongs to the main form
 };
 
@@ -55,8 +57,9 @@ class UsciteRelazione {
 [[nodiscard]] FileDaSalvare richiestaPdfRelazione();
 
 /// Plugs the report's ways out into the commands of the program.
-/// @param principale, dialogo, stampante  as for `UsciteRelazione`
+/// @param principale, dialogo, stampante, outdoc  as for `UsciteRelazione`
 void collegaRelazione(commands::FormeProgramma& forme, QWidget& principale, base::Dialogo& dialogo,
-                      std::function<QPrinter&()> stampante);
+                      std::function<QPrinter&()> stampante,
+                      std::string outdoc = commands::convertitore());
 
 }  // namespace korven::shell

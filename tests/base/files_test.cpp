@@ -157,6 +157,24 @@ TEST(ScriviFile, LeavesNothingOfANewFileThatFindsNoRoom) {
     EXPECT_EQ(voci(cartella), 0u);
 }
 
+TEST(ScriviFileNuovo, WritesUnderAFreeNameAlone) {
+    namespace fs = std::filesystem;
+    const CartellaProvvisoria cartella;
+    scriviFileNuovo(cartella / "nuovo", "testo");
+    EXPECT_EQ(contenuto(cartella / "nuovo"), "testo");
+    metti(cartella / "vero", "prima");
+    fs::create_symlink(cartella / "vero", cartella / "link");
+    fs::create_symlink("nessuno", cartella / "nel vuoto");
+    fs::create_directory(cartella / "cartella");
+    for (const char* nome : {"nuovo", "link", "nel vuoto", "cartella"}) {
+        EXPECT_TRUE(esisteNome(cartella / nome)) << nome;
+        EXPECT_THROW(scriviFileNuovo(cartella / nome, "altro"), ErroreScrittura) << nome;
+    }
+    EXPECT_EQ(contenuto(cartella / "nuovo"), "testo");
+    EXPECT_EQ(contenuto(cartella / "vero"), "prima");
+    EXPECT_FALSE(esisteNome(cartella / "nessuno"));
+}
+
 TEST(AccodaFile, AddsBehindWhatStands) {
     const CartellaProvvisoria cartella;
     metti(cartella / "f", "uno ");

@@ -84,6 +84,29 @@ TEST_F(UsciteRelazioneTest, ThatCannotBeWrittenAreTold) {
     EXPECT_FALSE(std::filesystem::exists(cartella / "r.pdf")) << "whole or not at all";
 }
 
+TEST_F(UsciteRelazioneTest, RunNoProgramOfTheFolderThatTheOptionNames) {
+    const test::CartellaProvvisoria altra;
+    test::metti(altra / "outdoc", "#!/bin/sh\ntouch \"$0.corso\"\n");
+    std::filesystem::permissions(altra / "outdoc", std::filesystem::perms::owner_all);
+    const auto esito = esegui("relazione", {"--doc", "--cartella", altra.percorso()});
+    EXPECT_EQ(esito.codice, 0) << esito.errori;
+    EXPECT_FALSE(std::filesystem::exists(altra / "outdoc.corso"));
+    EXPECT_TRUE(contenuto(cartella / "muro.doc").starts_with("PK"));
+}
+
+// The converter is found beside the program alone; here there is none.
+TEST_F(UsciteRelazioneTest, EndWithThreeWhenTheDocumentWasNotMade) {
+    const std::string solo = cartella / "korven32c";
+    std::filesystem::copy(KORVEN_CONSOLE, solo);
+    const auto esito =
+        test::ProgrammaInCorso(solo, {"relazione", progetto, "--nseg", "10", "--doc", "--cartella",
+                                      std::filesystem::path(KORVEN_CONSOLE).parent_path().string()})
+            .attendi();
+    EXPECT_EQ(esito.codice, 3) << esito.errori;
+    EXPECT_TRUE(dice(esito.errori, cartella / "outdoc")) << esito.errori;
+    EXPECT_FALSE(std::filesystem::exists(cartella / "muro.doc"));
+}
+
 TEST_F(UsciteRelazioneTest, OfARefusedRunAreNotWritten) {
     auto dati = test::progettoSemplice();
     dati.nFasi = 0;

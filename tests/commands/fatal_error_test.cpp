@@ -39,6 +39,16 @@ TEST_F(Recupero, WritesTheUnsavedProjectBesideItsFile) {
     EXPECT_EQ(recuperaProgetto(), ambiente.lavori / "muro_recuperato_2.kvd");
 }
 
+TEST_F(Recupero, FollowsNoLinkThatHasTheRescueName) {
+    test::metti(ambiente.lavori / "altrui", "da tenere");
+    std::filesystem::create_symlink("altrui", ambiente.lavori / "muro_recuperato.kvd");
+    std::filesystem::create_symlink("nessuno", ambiente.lavori / "muro_recuperato_2.kvd");
+    std::filesystem::create_directory(ambiente.lavori / "muro_recuperato_3.kvd");
+    EXPECT_EQ(recuperaProgetto(), ambiente.lavori / "muro_recuperato_4.kvd");
+    EXPECT_EQ(test::contenuto(ambiente.lavori / "altrui"), "da tenere");
+    EXPECT_FALSE(std::filesystem::exists(ambiente.lavori / "nessuno"));
+}
+
 TEST_F(Recupero, WritesNothingWhenNothingIsUnsaved) {
     modificato = false;
     EXPECT_EQ(recuperaProgetto(), "");

@@ -222,7 +222,7 @@ TEST_F(ReportExport, LetsABrokenMarkupEndTheProgram) {
 }
 
 TEST_F(ReportExport, RunsTheConverterOnTheMarkupAndShowsItsFile) {
-    const std::string converter = viewer("outdoc");
+    const std::string converter = base::cartellaEseguibile() + "/outdoc";
     editors(viewer("vedi doc") + "\r\n");
     programs.alPosto = [this] { test::metti(doc, "doc"); };
     exportDoc();
@@ -233,7 +233,8 @@ TEST_F(ReportExport, RunsTheConverterOnTheMarkupAndShowsItsFile) {
     EXPECT_TRUE(dialog.domande.empty());
 }
 
-TEST_F(ReportExport, LooksForTheConverterBesideThisProgramToo) {
+TEST_F(ReportExport, RunsNoConverterOfTheProgramFolder) {
+    (void)viewer("outdoc");
     exportDoc();
     EXPECT_EQ(programs.chiamate,
               Lines{"esegui " + base::cartellaEseguibile() + "/outdoc [" + report + "]"});
@@ -258,6 +259,13 @@ TEST_F(ReportExport, TellsWhereTheDocumentIsWhenItsViewerDoesNotStart) {
     ASSERT_EQ(dialog.messaggi.size(), 1u);
     EXPECT_TRUE(dialog.messaggi[0].testo.ends_with(base::maiuscolo(doc)));
     EXPECT_EQ(dialog.messaggi[0].icona, base::Icona::informazione);
+}
+
+TEST_F(ReportExport, TellsThatTheConverterLeftNoFileThoughItSaysThatAllIsWell) {
+    exportDoc();
+    ASSERT_EQ(dialog.messaggi.size(), 1u);
+    EXPECT_EQ(dialog.messaggi[0].testo, doc + ": impossibile scrivere il file");
+    EXPECT_EQ(dialog.messaggi[0].icona, base::Icona::avviso);
 }
 
 TEST_F(ReportExport, TellsThatTheConverterFailedAndShowsWhatExists) {

@@ -62,11 +62,20 @@ TEST_F(CartellaUtente, LiesWhereTheDesktopKeepsTheDataOfPrograms) {
         ::unsetenv("XDG_DATA_HOME");
 }
 
+TEST_F(CartellaUtente, IsTriedOutWithoutTouchingWhatHasAnyKnownName) {
+    test::metti(installata / "altrui", "da tenere");
+    fs::create_symlink(installata / "altrui", installata / ".korven32_prova");
+    EXPECT_TRUE(cartellaScrivibile(installata.percorso()));
+    EXPECT_EQ(test::contenuto(installata / "altrui"), "da tenere");
+    EXPECT_TRUE(fs::is_symlink(installata / ".korven32_prova"));
+}
+
 TEST_F(CartellaUtente, TakesTheProgramsPlaceOnlyWhenThatCantBeWritten) {
     EXPECT_TRUE(cartellaScrivibile(installata.percorso()));
     EXPECT_FALSE(cartellaScrivibile("/proc/self"));
     EXPECT_FALSE(cartellaScrivibile(installata / "manca"));
-    EXPECT_FALSE(fs::exists(installata / ".korven32_prova"));
+    for (const auto& voce : fs::directory_iterator(installata.percorso()))
+        EXPECT_FALSE(voce.path().filename().string().starts_with(".")) << voce.path();
     const test::AmbienteDocumento ambiente;
     scegliCartellaProgramma();
     EXPECT_EQ(base::cartellaProgramma(), ambiente.programma.percorso());

@@ -34,10 +34,11 @@ class Uscite : public testing::Test {
         ::unsetenv("windir");
         ::setenv("PATH", (strumenti.percorso() + ":/usr/bin:/bin").c_str(), 1);
         script(strumenti / "xdg-open", "echo \"$1\" > \"$0.visto\"");
-        script(ambiente.programma / "outdoc", "echo documento > \"${1%TAB}doc\"");
+        script(outdoc, "echo documento > \"${1%TAB}doc\"");
         maschere.leggiMaschere(test::maschereSemplici(ambiente.lavori));
         commands::FormeProgramma forme;
-        collegaRelazione(forme, finestra, dialogo, [this]() -> QPrinter& { return stampante; });
+        collegaRelazione(
+            forme, finestra, dialogo, [this]() -> QPrinter& { return stampante; }, outdoc);
         programma = std::make_unique<commands::Programma>(dialogo, nomi, finestra, avanzamento,
                                                           maschere, forme);
         finestra.collega(*programma);
@@ -63,6 +64,7 @@ class Uscite : public testing::Test {
     const test::CartellaProvvisoria strumenti;
     test::AmbienteDocumento ambiente;
     const std::string muro = ambiente.lavori / "muro.kvd";
+    const std::string outdoc = strumenti / "outdoc";
     test::DialogoFinto dialogo;
     test::DialogoFileFinto nomi;
     test::AvanzamentoFinto avanzamento;
@@ -208,9 +210,8 @@ TEST_F(Uscite, TellWhereTheDocumentIsWhenNothingShowsIt) {
 TEST_F(Uscite, KeepTheProgramAliveWhileTheyWaitForTheConverter) {
     apriMuro();
     const std::string segno = strumenti / "segno";
-    script(ambiente.programma / "outdoc",
-           "for i in $(seq 1 1000); do [ -e '" + segno +
-               "' ] && echo vivo > \"${1%TAB}doc\" && exit 0; sleep 0.01; done; exit 1");
+    script(outdoc, "for i in $(seq 1 1000); do [ -e '" + segno +
+                       "' ] && echo vivo > \"${1%TAB}doc\" && exit 0; sleep 0.01; done; exit 1");
     QTimer::singleShot(0, &finestra, [&] { test::metti(segno, ""); });
     scegli("espotab");
     EXPECT_EQ(test::contenuto(ambiente.lavori / "muro.doc"), "vivo\n");
@@ -218,7 +219,7 @@ TEST_F(Uscite, KeepTheProgramAliveWhileTheyWaitForTheConverter) {
 
 TEST_F(Uscite, TellThatTheConverterFailedAndGoOn) {
     apriMuro();
-    script(ambiente.programma / "outdoc", "exit 3");
+    script(outdoc, "exit 3");
     scegli("espotab");
     ASSERT_EQ(dialogo.messaggi.size(), 1u);
     EXPECT_TRUE(dialogo.messaggi[0].testo.starts_with(ambiente.lavori / "muro.doc: "));
