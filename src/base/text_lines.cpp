@@ -26,6 +26,14 @@ std::string_view altraCodifica(std::string_view contenuto, long riga) {
     return {};
 }
 
+// The mark with which programs of DOS ended a text.
+std::string senzaSegnoFinale(std::string contenuto) {
+    const std::size_t ultimo = contenuto.find_last_not_of("\r\n\x1A");
+    const std::size_t fine = contenuto.find('\x1A', ultimo == std::string::npos ? 0 : ultimo + 1);
+    if (fine != std::string::npos) contenuto.resize(fine);
+    return contenuto;
+}
+
 }  // namespace
 
 LettoreRighe LettoreRighe::apri(const std::string& percorso, std::string rimedio) {
@@ -34,12 +42,16 @@ LettoreRighe LettoreRighe::apri(const std::string& percorso, std::string rimedio
 
 LettoreRighe::LettoreRighe(std::string percorso, std::string contenuto, std::string rimedio)
     : percorso_(std::move(percorso)),
-      contenuto_(std::move(contenuto)),
+      contenuto_(senzaSegnoFinale(std::move(contenuto))),
       rimedio_(std::move(rimedio)) {}
 
 bool LettoreRighe::fine() const {
     const std::string_view resto = std::string_view(contenuto_).substr(posizione_);
     return resto.empty() || resto == "\n" || resto == "\r\n" || resto == "\r";
+}
+
+bool LettoreRighe::soloRigheVuote() const {
+    return contenuto_.find_first_not_of(" \t\r\n", posizione_) == std::string::npos;
 }
 
 std::string_view LettoreRighe::prossima(std::string_view atteso) {

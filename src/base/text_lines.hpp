@@ -7,7 +7,8 @@ namespace korven::base {
 
 /// Reads a text file line by line, or number by number, and says where it broke. The file is
 /// Windows-1252; lines end in CR LF or LF alone, the last may have no end, or only the CR of one
-/// that was cut in two. Texts come out in UTF-8.
+/// that was cut in two. A mark of DOS at the end (1A) and the line ends behind it are no part of
+/// the file. Texts come out in UTF-8.
 class LettoreRighe {
  public:
     /// Reads the whole file.
@@ -21,6 +22,10 @@ class LettoreRighe {
 
     /// True when nothing follows. A lone line end is nothing.
     [[nodiscard]] bool fine() const;
+
+    /// True when nothing follows but blanks and line ends, as an editor may leave them: no further
+    /// value.
+    [[nodiscard]] bool soloRigheVuote() const;
 
     /// The next line whole, without its end.
     /// @param atteso  what the line is to be, for the error; translated

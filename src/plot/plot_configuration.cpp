@@ -54,8 +54,10 @@ ConfigurazionePlot leggiConfigurazione(base::LettoreRighe& file) {
     ConfigurazionePlot letta;
     for (int i = 1; i <= numeroPenne; ++i) letta.penne[i] = leggiPenna(file, i);
     for (int i = 1; i <= numeroColori; ++i) letta.colori[i] = leggiColore(file, i);
-    if (!file.fine()) letta.margineSinistro = margine(file, "margine sinistro in centimetri");
-    if (!file.fine()) letta.margineSuperiore = margine(file, "margine superiore in centimetri");
+    if (!file.soloRigheVuote())
+        letta.margineSinistro = margine(file, "margine sinistro in centimetri");
+    if (!file.soloRigheVuote())
+        letta.margineSuperiore = margine(file, "margine superiore in centimetri");
     return letta;
 }
 

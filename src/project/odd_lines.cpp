@@ -32,12 +32,12 @@ class Ricerca {
     }
     void descrizione(const std::string&, std::string_view nome) { file_.riga(nome); }
     void titolo(const std::string&, std::string_view nome) { file_.riga(nome); }
-    [[nodiscard]] bool blocco() const { return !file_.fine(); }
+    [[nodiscard]] bool blocco() const { return !file_.soloRigheVuote(); }
 
     std::vector<RigaInsolita> finisci() {
-        while (!file_.fine()) {
+        while (!file_.soloRigheVuote()) {
             RigaInsolita riga = leggi({});
-            if (riga.testo.empty()) continue;  // an editor may leave blank lines at the end
+            if (riga.testo.empty()) continue;
             aggiungi(Motivo::oltreLultima, std::move(riga));
             break;
         }

@@ -36,7 +36,7 @@ class Lettura {
     void descrizione(std::string& valore, std::string_view nome) { valore = file_.riga(nome); }
     void titolo(std::string& valore, std::string_view nome) { valore = file_.riga(nome); }
     // A test stands for a whole block: once a block begins, all of its lines are expected.
-    [[nodiscard]] bool blocco() const { return !file_.fine(); }
+    [[nodiscard]] bool blocco() const { return !file_.soloRigheVuote(); }
 
     double metodoScritto = 0;  ///< the code on file
 
@@ -85,7 +85,7 @@ class Confronto {
     void titolo(const std::string&, std::string_view nome) {
         if (!diverso) file_.riga(nome);
     }
-    [[nodiscard]] bool blocco() const { return !diverso && !file_.fine(); }
+    [[nodiscard]] bool blocco() const { return !diverso && !file_.soloRigheVuote(); }
 
     bool diverso = false;
 

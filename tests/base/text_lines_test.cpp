@@ -51,6 +51,34 @@ TEST(LettoreRighe, CountsALoneLineEndAsNothing) {
     EXPECT_FALSE(altro.fine());
 }
 
+TEST(LettoreRighe, TellsValuesFromTheEmptyLinesThatAnEditorLeft) {
+    for (const char* coda : {"", "\r\n", "\r\n\r\n", "\n \t\n\n", "\x1A", "\r\n\x1A\r\n"}) {
+        LettoreRighe file("f", std::string("7\r\n") + coda);
+        EXPECT_FALSE(file.soloRigheVuote());
+        EXPECT_EQ(file.numero("a"), 7);
+        EXPECT_TRUE(file.soloRigheVuote()) << coda;
+    }
+    EXPECT_FALSE(LettoreRighe("f", "\r\n\r\n0").soloRigheVuote());
+}
+
+TEST(LettoreRighe, DropsTheMarkWithWhichDosEndedAText) {
+    for (const char* coda : {"\x1A", "\x1A\r\n", "\x1A\x1A", "\x1A\n\x1A\n"}) {
+        LettoreRighe file("f", std::string("uno\r\ndue") + coda);
+        EXPECT_EQ(file.riga("a"), "uno");
+        EXPECT_EQ(file.riga("b"), "due") << coda;
+        EXPECT_TRUE(file.fine()) << coda;
+    }
+    LettoreRighe dentro("f",
+                        "a\x1A"
+                        "b\r\nc");
+    EXPECT_EQ(dentro.riga("a"),
+              "a\x1A"
+              "b")
+        << "inside a text it is a character like others";
+    EXPECT_EQ(dentro.riga("b"), "c");
+    EXPECT_TRUE(LettoreRighe("f", "\x1A").fine());
+}
+
 TEST(LettoreRighe, IgnoresBlanksAroundANumber) {
     LettoreRighe file("f", "  1.5  \r\n-.5\r\n");
     EXPECT_EQ(file.numero(""), 1.5);

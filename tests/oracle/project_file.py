@@ -54,8 +54,8 @@ class LineReader:
         self.at = 0
 
     def ended(self):
-        rest = self.lines[self.at:]
-        return not rest or rest == [""]
+        """Nothing but empty lines and the end mark of DOS follow."""
+        return all(line.strip(" \t\x1a") == "" for line in self.lines[self.at:])
 
     def text(self):
         if self.at >= len(self.lines):

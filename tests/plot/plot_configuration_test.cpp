@@ -65,6 +65,16 @@ TEST(ConfigurazionePlot, WithoutMarginsLoadsAndSavingAddsThem) {
     EXPECT_TRUE(testoConfigurazione(c).ends_with("Colore 15\r\n15000\r\n0\r\n0\r\n"));
 }
 
+TEST(ConfigurazionePlot, WithEmptyLinesInPlaceOfTheMarginsLoadsAsWithoutThem) {
+    for (const char* coda : {"\r\n\r\n", "\r\n\r\n\r\n", "\x1A"}) {
+        const ConfigurazionePlot c = letta(senzaUltime(2) + coda);
+        EXPECT_EQ(c.margineSinistro, 0) << coda;
+        EXPECT_EQ(c.margineSuperiore, 0) << coda;
+        EXPECT_EQ(c.colori[15].nome, "Colore 15") << coda;
+    }
+    EXPECT_THROW((void)letta(senzaUltime(2) + "\r\n1.5\r\n"), base::ErroreFile);
+}
+
 TEST(ConfigurazionePlot, OneMarginAloneIsTheLeftOne) {
     const ConfigurazionePlot c = letta(senzaUltime(2) + "1.25\r\n");
     EXPECT_EQ(c.margineSinistro, 1.25);

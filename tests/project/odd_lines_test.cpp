@@ -84,6 +84,12 @@ TEST(RigheInsolite, NameTheFirstLineBehindTheLastValueButNoLoneLineEnd) {
     EXPECT_TRUE(insolite(conRighe({}) + "\r\n").empty());
 }
 
+TEST(RigheInsolite, AreNoneOfTheEmptyLinesAndTheMarkOfDosAtTheEnd) {
+    const std::string testo = testoProgetto(test::progettoSemplice());
+    for (const char* coda : {"\r\n\r\n \r\n", "\x1A", "\r\n\x1A\r\n"})
+        EXPECT_TRUE(insolite(testo + coda).empty()) << coda;
+}
+
 TEST(RigheInsolite, StopWhereAFileOfTheOldestFormStops) {
     std::string antico = conRighe({});
     for (int i = 0; i < 15; ++i) antico.resize(antico.rfind('\n', antico.size() - 2) + 1);

@@ -212,6 +212,22 @@ TEST(FileDiProgetto, MayStopBeforeEachOfTheLaterBlocksButNotInsideOne) {
     }
 }
 
+TEST(FileDiProgetto, MayEndInEmptyLinesOrTheMarkOfDosInEachOfItsForms) {
+    const std::string intero = testoProgetto(test::progettoSemplice());
+    for (const long mancanti : {0, 1, 9, 15})
+        for (const char* coda : {"\r\n\r\n", "\r\n \r\n\r\n", "\x1A", "\x1A\r\n", "\r\n\r\n\x1A"}) {
+            const std::string testo = primeRighe(intero, righe(intero) - mancanti);
+            DatiProgetto senza, con;
+            auto lettore = file(testo);
+            leggiDati(lettore, senza);
+            auto altro = file(testo + coda);
+            EXPECT_NO_THROW(leggiDati(altro, con)) << mancanti;
+            EXPECT_EQ(con, senza) << mancanti;
+            auto confronto = file(testo + coda);
+            EXPECT_FALSE(progettoDiverso(confronto, senza)) << mancanti;
+        }
+}
+
 TEST(FileDiProgetto, RefusesCountsThatAreNoRowCounts) {
     for (const char* conteggio : {"101", "-1", "2.5", "abc", ""}) {
         DatiProgetto d;
