@@ -48,7 +48,7 @@ const CLI::Validator numero([](std::string& testo) { return base::soloUnNumero(t
                             "");
 
 void versione(CLI::App& app) {
-    app.set_version_flag("--versione", std::string(base::nomeEVersione),
+    app.set_version_flag("--version,--versione", std::string(base::nomeEVersione),
                          traduttore("mostra la versione"));
 }
 
@@ -67,7 +67,7 @@ void intestazioni(CLI::App& app) {
 // The options that every command takes.
 void comuni(CLI::App& comando, Opzioni& o) {
     comando.group(traduttore("Comandi"));
-    comando.set_help_flag("-h,--help", traduttore("mostra questo aiuto"));
+    comando.set_help_flag("-h,--help,--aiuto", traduttore("mostra questo aiuto"));
     versione(comando);
     comando.add_option("--cartella", o.cartella, traduttore("cartella del programma"))
         ->type_name("DIR")
@@ -272,7 +272,7 @@ EsitoLettura leggiOpzioni(int argc, const char* const* argv) {
     CLI::App app("KORVEN 32 - " + traduttore("Dimensionamento di Paratie e Diaframmi"),
                  "korven32c");
     intestazioni(app);
-    app.set_help_flag("-h,--help", traduttore("mostra questo aiuto"));
+    app.set_help_flag("-h,--help,--aiuto", traduttore("mostra questo aiuto"));
     versione(app);
     app.require_subcommand(1);
 

@@ -1,14 +1,19 @@
 #include <QDir>
 #include <QIcon>
 #include <QTimer>
+#include <algorithm>
 #include <clocale>
 #include <csignal>
 #include <string>
+#include <vector>
 
 #include "base/closed_pipe.hpp"
 #include "base/file_error.hpp"
+#include "base/files.hpp"
 #include "base/program_folder.hpp"
+#include "base/program_questions.hpp"
 #include "base/translated_texts.hpp"
+#include "commands/desktop_arguments.hpp"
 #include "commands/fatal_error.hpp"
 #include "commands/program.hpp"
 #include "commands/startup.hpp"
@@ -92,9 +97,19 @@ int sessione(shell::Applicazione& applicazione, shell::DialogoQt& dialogo,
     return applicazione.gira();
 }
 
+// What is asked for without a window is answered where there is no display too.
+int domande(const std::vector<std::string>& argomenti) {
+    const auto letti = commands::leggiArgomenti(argomenti, base::esisteFile);
+    if (letti.richiesta == base::Richiesta::nessuna && letti.sconosciuto.empty()) return -1;
+    base::scegliLinguaSilenziosa();
+    return commands::rispondi(letti);
+}
+
 int programma(int argc, char** argv) {
     base::resistiAiTubiChiusi();
     std::signal(SIGXFSZ, SIG_IGN);  // a file at its size limit is a failed write like others
+    if (const int codice = domande({argv + std::min(argc, 1), argv + argc}); codice >= 0)
+        return codice;
     shell::Applicazione applicazione(argc, argv);
     QCoreApplication::setOrganizationName("korven32");
     QCoreApplication::setApplicationName("korven32");

@@ -13,8 +13,12 @@ using test::progettoSemplice;
 using Opzione = test::BancoConsole;
 
 TEST_F(Opzione, HelpAndVersionEndWell) {
-    for (const std::vector<std::string>& argomenti :
-         {std::vector<std::string>{"--help"}, {"-h"}, {"calcola", "--help"}, {"verifica", "-h"}}) {
+    for (const std::vector<std::string>& argomenti : {std::vector<std::string>{"--help"},
+                                                      {"-h"},
+                                                      {"--aiuto"},
+                                                      {"calcola", "--help"},
+                                                      {"calcola", "--aiuto"},
+                                                      {"verifica", "-h"}}) {
         const auto esito = console(argomenti);
         EXPECT_EQ(esito.codice, 0);
         EXPECT_TRUE(dice(esito.uscita, "--help")) << esito.uscita;
@@ -23,11 +27,13 @@ TEST_F(Opzione, HelpAndVersionEndWell) {
     const auto versione = console({"--versione"});
     EXPECT_EQ(versione.codice, 0);
     EXPECT_TRUE(versione.uscita.starts_with("KORVEN 32 ")) << versione.uscita;
-    for (const char* comando : {"calcola", "relazione", "verifica"}) {
-        const auto dopo = console({comando, "--versione"});
-        EXPECT_EQ(dopo.codice, 0);
-        EXPECT_EQ(dopo.uscita, versione.uscita);
-    }
+    EXPECT_EQ(console({"--version"}).uscita, versione.uscita);
+    for (const char* comando : {"calcola", "relazione", "verifica"})
+        for (const char* opzione : {"--version", "--versione"}) {
+            const auto dopo = console({comando, opzione});
+            EXPECT_EQ(dopo.codice, 0);
+            EXPECT_EQ(dopo.uscita, versione.uscita);
+        }
 }
 
 TEST_F(Opzione, WrongUsageEndsWithTwoAndAClearMessage) {

@@ -1,0 +1,62 @@
+#include "commands/desktop_arguments.hpp"
+
+#include <gtest/gtest.h>
+
+namespace korven::commands {
+namespace {
+
+using base::Richiesta;
+
+ArgomentiDesktop letti(const std::vector<std::string>& argomenti) {
+    return leggiArgomenti(argomenti, [](const std::string& nome) { return nome == "--aiuto"; });
+}
+
+TEST(ArgomentiDesktop, AskForNothingWhenThereIsAProjectOrNone) {
+    for (const std::vector<std::string>& argomenti :
+         {std::vector<std::string>{}, {"muro.kvd"}, {"manca.kvd"}, {""}, {"muro.kvd", "--help"}}) {
+        const auto trovati = letti(argomenti);
+        EXPECT_EQ(trovati.richiesta, Richiesta::nessuna);
+        EXPECT_EQ(trovati.sconosciuto, "");
+    }
+}
+
+TEST(ArgomentiDesktop, KnowTheQuestions) {
+    EXPECT_EQ(letti({"--version"}).richiesta, Richiesta::versione);
+    EXPECT_EQ(letti({"--versione", "muro.kvd"}).richiesta, Richiesta::versione);
+    EXPECT_EQ(letti({"-h"}).richiesta, Richiesta::aiuto);
+}
+
+TEST(ArgomentiDesktop, AreAProjectWhereAFileHasTheName) {
+    EXPECT_EQ(letti({"--aiuto"}).richiesta, Richiesta::nessuna);
+}
+
+TEST(ArgomentiDesktop, NameAnOptionThatIsNone) {
+    EXPECT_EQ(letti({"--inesistente"}).sconosciuto, "--inesistente");
+    EXPECT_EQ(letti({"-x", "muro.kvd"}).sconosciuto, "-x");
+    EXPECT_EQ(letti({"-style", "fusion", "--nulla"}).sconosciuto, "--nulla");
+}
+
+TEST(ArgomentiDesktop, LetTheOptionsOfTheWindowSystemPass) {
+    for (const std::vector<std::string>& argomenti :
+         {std::vector<std::string>{"-platform", "offscreen", "muro.kvd"},
+          {"--platform=offscreen"},
+          {"-geometry", "-0-0", "muro.kvd"},
+          {"-reverse", "muro.kvd"}})
+        EXPECT_EQ(letti(argomenti).sconosciuto, "") << argomenti[0];
+    EXPECT_EQ(letti({"-platform", "offscreen", "--version"}).richiesta, Richiesta::versione);
+    EXPECT_EQ(letti({"-reverse", "--version"}).richiesta, Richiesta::versione);
+}
+
+TEST(Rispondi, GoesOnWhereNothingIsAskedAndEndsWithTwoOnAWrongOption) {
+    EXPECT_EQ(rispondi({}), -1);
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(rispondi({Richiesta::nessuna, "--inesistente"}), 2);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+              "korven32: argomento sconosciuto: --inesistente\nPer l'aiuto: korven32 --help\n");
+    testing::internal::CaptureStdout();
+    EXPECT_EQ(rispondi({Richiesta::versione, ""}), 0);
+    EXPECT_TRUE(testing::internal::GetCapturedStdout().starts_with("KORVEN 32 "));
+}
+
+}  // namespace
+}  // namespace korven::commands
