@@ -44,7 +44,8 @@ void scegliLinguaSilenziosa() {
         if (!esisteFile(scelta)) return;
         const int codice = leggiLingua(scelta);
         if (codice == 1 || siglaLingua(codice).empty()) return;
-        caricaTesti(fileProgramma("texts01.txt"), fileProgramma("texts06.txt"));
+        caricaTesti(fileProgramma("texts01.txt"), fileProgramma("texts06.txt"),
+                    fileProgramma("texts32.txt"));
         impostaLingua(codice);
     } catch (const std::exception&) {
         impostaLingua(1);

@@ -1,5 +1,6 @@
 #include "outdoc/document_parts.hpp"
 
+#include "outdoc/earlier_document.hpp"
 #include "outdoc/paragraph.hpp"
 #include "outdoc/zip_archive.hpp"
 
@@ -75,11 +76,12 @@ std::string styles() {
            "</w:styles>\n";
 }
 
-std::string properties(const std::string& title) {
+std::string properties(const std::string& title, const std::string& mark) {
     return declaration +
            "<cp:coreProperties xmlns:cp=\"http://schemas.openxmlformats.org/package/2006/metadata/"
            "core-properties\" xmlns:dc=\"http://purl.org/dc/elements/1.1/\"><dc:title>" +
-           xmlText(title) + "</dc:title></cp:coreProperties>\n";
+           xmlText(title) + "</dc:title><dc:identifier>" + mark +
+           "</dc:identifier></cp:coreProperties>\n";
 }
 
 std::string margin(const std::string& element, const std::string& content) {
@@ -96,14 +98,15 @@ std::string document(const DocumentParts& parts) {
 }  // namespace
 
 std::string documentBytes(const DocumentParts& parts) {
-    return zipArchive({{"[Content_Types].xml", contentTypes()},
-                       {"_rels/.rels", packageRelations()},
-                       {"word/document.xml", document(parts)},
-                       {"word/_rels/document.xml.rels", documentRelations()},
-                       {"word/styles.xml", styles()},
-                       {"word/header1.xml", margin("hdr", parts.header)},
-                       {"word/footer1.xml", margin("ftr", parts.footer)},
-                       {"docProps/core.xml", properties(parts.title)}});
+    std::vector<ZipEntry> entries = {{"[Content_Types].xml", contentTypes()},
+                                     {"_rels/.rels", packageRelations()},
+                                     {"word/document.xml", document(parts)},
+                                     {"word/_rels/document.xml.rels", documentRelations()},
+                                     {"word/styles.xml", styles()},
+                                     {"word/header1.xml", margin("hdr", parts.header)},
+                                     {"word/footer1.xml", margin("ftr", parts.footer)}};
+    entries.push_back({"docProps/core.xml", properties(parts.title, ownMark(zipFiles(entries)))});
+    return zipArchive(entries);
 }
 
 }  // namespace korven::outdoc

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "base/code_page.hpp"
 #include "base/file_error.hpp"
@@ -10,6 +11,7 @@
 #include "base/files.hpp"
 #include "base/translated_texts.hpp"
 #include "outdoc/document_blocks.hpp"
+#include "outdoc/earlier_document.hpp"
 #include "report/estimated_width.hpp"
 
 namespace korven::outdoc {
@@ -181,7 +183,7 @@ std::string DocumentRenderer::footerLines(std::string_view text) const {
     return paragraph(line);
 }
 
-std::string convertReport(const std::string& markup) {
+Converted convertReport(const std::string& markup) {
     const std::string path = base::nomeDocumento(markup);
     auto file = base::LettoreRighe::apri(markup);
     if (base::stessoFile(path, markup))
@@ -193,8 +195,9 @@ std::string convertReport(const std::string& markup) {
     if (!bytes)
         throw base::ErroreFile(markup, 0,
                                base::traduttore("la relazione non apre nessun documento (#RESET)"));
+    std::string kept = keepEarlierDocument(path);
     base::scriviFile(path, *bytes);
-    return path;
+    return {path, std::move(kept)};
 }
 
 }  // namespace korven::outdoc

@@ -61,10 +61,16 @@ class DocumentRenderer : public report::MarkupReceiver {
 /// True for a line that a reader takes for a heading: it has letters, and all of them are capitals.
 [[nodiscard]] bool isHeading(std::string_view text);
 
-/// Converts a mark-up file into a word-processor file beside it, replacing one of that name.
-/// @return the path of the file
+/// A report that was converted.
+struct Converted {
+    std::string document;  ///< path of the word-processor file
+    std::string kept;      ///< where the one is that stood there; empty if nothing had to be kept
+};
+
+/// Converts a mark-up file into a word-processor file beside it, replacing one of that name. What
+/// this program did not write, or somebody changed since, is kept first (earlier_document.hpp).
 /// @throws base::ErroreFile if one can't be read or the other not be written, if a table is beyond
 /// its capacity, if the mark-up opens no document, or if the file would take its place
-std::string convertReport(const std::string& markup);
+Converted convertReport(const std::string& markup);
 
 }  // namespace korven::outdoc

@@ -1,11 +1,11 @@
 #include <exception>
 #include <iostream>
+#include <string>
 
 #include "base/closed_pipe.hpp"
-#include "base/files.hpp"
-#include "base/language.hpp"
-#include "base/program_folder.hpp"
+#include "base/program_questions.hpp"
 #include "base/translated_texts.hpp"
+#include "base/version.hpp"
 #include "outdoc/document_renderer.hpp"
 
 // outdoc REPORT.TAB: writes REPORT.doc beside it.
@@ -15,29 +15,37 @@ namespace {
 
 enum ExitCode { done = 0, wrongUse = 2, brokenInput = 3 };
 
-// The language speaks in errors alone: one that can't be had must not keep a report from its file.
-void chooseLanguage() {
-    try {
-        const std::string choice = base::fileProgramma("language.cfg");
-        if (!base::esisteFile(choice)) return;
-        const int code = base::leggiLingua(choice);
-        if (code == 1 || base::siglaLingua(code).empty()) return;
-        base::caricaTesti(base::fileProgramma("texts01.txt"), base::fileProgramma("texts06.txt"),
-                          base::fileProgramma("texts32.txt"));
-        base::impostaLingua(code);
-    } catch (const std::exception&) {
-        base::impostaLingua(1);
-    }
+constexpr const char* usage = "outdoc FILE.TAB";
+
+int answer(const std::string& text) {
+    std::cout << text << std::flush;
+    return std::cout ? done : brokenInput;
+}
+
+int refuse(const std::string& why) {
+    std::cerr << why << '\n' << base::traduttore("Per l'aiuto") << ": outdoc --help\n";
+    return wrongUse;
 }
 
 int work(int argc, const char* const* argv) {
     base::resistiAiTubiChiusi();
-    chooseLanguage();
-    if (argc != 2) {
-        std::cerr << base::traduttore("Uso") << ": outdoc FILE.TAB\n";
-        return wrongUse;
-    }
-    convertReport(argv[1]);
+    base::scegliLinguaSilenziosa();  // it speaks in errors alone, so none may keep it from its work
+    const std::string argument = argc > 1 ? argv[1] : "";
+    const auto question = base::richiesta(argument);
+    if (question == base::Richiesta::versione)
+        return answer(std::string(base::nomeEVersione) + '\n');
+    if (question == base::Richiesta::aiuto)
+        return answer(base::testoAiuto(usage) + '\n' +
+                      base::traduttore("Scrive accanto alla relazione (TAB) il documento per "
+                                       "elaboratori di testi (DOC).") +
+                      '\n');
+    if (argc != 2) return refuse(base::traduttore("Uso") + ": " + usage);
+    if (argument.starts_with("--"))
+        return refuse("outdoc: " + base::traduttore("argomento sconosciuto") + ": " + argument);
+    const Converted converted = convertReport(argument);
+    if (!converted.kept.empty())
+        std::cerr << "outdoc: " << base::traduttore("Il documento che c'era è conservato in")
+                  << ": " << converted.kept << '\n';
     return done;
 }
 

@@ -14,6 +14,7 @@ constexpr std::uint32_t directorySignature = 0x02014B50;
 constexpr std::uint32_t endSignature = 0x06054B50;
 constexpr int version = 20;  // 2.0, the least that every program reads
 constexpr int firstDay = (1 << 5) | 1;
+constexpr std::size_t headLength = 30;  // of a file, in front of its name
 
 // Numbers stand low byte first.
 void put(std::string& bytes, std::uint32_t value, int length) {
@@ -65,22 +66,47 @@ std::uint32_t crc32(std::string_view bytes) {
     return ~sum;
 }
 
-std::string zipArchive(const std::vector<ZipEntry>& entries) {
-    std::string archive, directory;
+std::optional<std::size_t> storedEntryBefore(std::string_view archive, std::size_t at) {
+    constexpr std::size_t sum = 14, packed = 18, plain = 22, name = 26;
+    const std::size_t start = archive.rfind("PK\x03\x04", at);
+    if (start == std::string_view::npos || archive.size() - start < headLength) return std::nullopt;
+    const auto number = [&](std::size_t offset, int length) {
+        std::uint32_t value = 0;
+        for (int i = length; i-- > 0;)
+            value = value << 8 | static_cast<unsigned char>(
+                                     archive[start + offset + static_cast<std::size_t>(i)]);
+        return value;
+    };
+    const std::size_t first = start + headLength + number(name, 2), length = number(plain, 4);
+    if (first > at || at - first >= length || archive.size() - first < length ||
+        number(packed, 4) != length || number(sum, 4) != crc32(archive.substr(first, length)))
+        return std::nullopt;
+    return start;
+}
+
+std::string zipFiles(const std::vector<ZipEntry>& entries) {
+    std::string files;
     for (const ZipEntry& entry : entries) {
-        const std::string common = description(entry);
+        put32(files, localSignature);
+        files.append(description(entry)).append(entry.name).append(entry.content);
+    }
+    return files;
+}
+
+std::string zipArchive(const std::vector<ZipEntry>& entries) {
+    std::string archive = zipFiles(entries), directory;
+    std::size_t at = 0;
+    for (const ZipEntry& entry : entries) {
         put32(directory, directorySignature);
         put16(directory, version);
-        directory += common;
+        directory += description(entry);
         put16(directory, 0);   // no comment
         put16(directory, 0);   // the one disk
         put16(directory, 0);   // internal attributes
         put(directory, 0, 4);  // external attributes
-        put32(directory, archive.size());
+        put32(directory, at);
         directory += entry.name;
-
-        put32(archive, localSignature);
-        archive.append(common).append(entry.name).append(entry.content);
+        at += headLength + entry.name.size() + entry.content.size();
     }
     const std::size_t start = archive.size();
     archive += directory;

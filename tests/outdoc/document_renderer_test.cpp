@@ -182,7 +182,7 @@ TEST(ConvertReport, WritesBesideTheMarkupAndReplaces) {
     const test::CartellaProvvisoria folder;
     test::metti(folder / "muro.TAB", markup({reset, "testo", "#ENDDOCUMENT"}));
     test::metti(folder / "muro.doc", "old");
-    EXPECT_EQ(convertReport(folder / "muro.TAB"), folder / "muro.doc");
+    EXPECT_EQ(convertReport(folder / "muro.TAB").document, folder / "muro.doc");
     EXPECT_TRUE(test::contenuto(folder / "muro.doc").starts_with("PK"));
 }
 

@@ -27,6 +27,29 @@ TEST(Outdoc, TellsByItsExitCodeThatItFailed) {
     EXPECT_EQ(WEXITSTATUS(run(std::string(KORVEN_OUTDOC) + " 2> /dev/null")), 2);
 }
 
+TEST(Outdoc, AnswersForItselfInEitherLanguage) {
+    const test::CartellaProvvisoria folder;
+    const auto said = [&](const std::string& arguments) {
+        EXPECT_EQ(run(std::string(KORVEN_OUTDOC) + " " + arguments + " > " + folder / "detto"), 0);
+        return test::contenuto(folder / "detto");
+    };
+    EXPECT_TRUE(said("--version").starts_with("KORVEN 32 "));
+    EXPECT_EQ(said("--versione"), said("--version"));
+    EXPECT_NE(said("--help").find("Uso: outdoc FILE.TAB\n"), std::string::npos);
+    EXPECT_EQ(said("--aiuto"), said("--help"));
+    EXPECT_EQ(WEXITSTATUS(run(std::string(KORVEN_OUTDOC) + " --inesistente 2> /dev/null")), 2);
+}
+
+TEST(Outdoc, TellsWhereItKeptADocumentThatItDidNotWrite) {
+    const test::CartellaProvvisoria folder;
+    std::filesystem::copy(KORVEN_REPORTS "/palancola_mensola.TAB", folder / "muro.TAB");
+    test::metti(folder / "muro.doc", "lettera");
+    EXPECT_EQ(run(std::string(KORVEN_OUTDOC) + " " + folder / "muro.TAB 2> " + folder / "detto"),
+              0);
+    EXPECT_EQ(test::contenuto(folder / "detto"),
+              "outdoc: Il documento che c'era è conservato in: " + folder / "muro.doc.bak\n");
+}
+
 // Needs LibreOffice Writer and Poppler; KORVEN_SOFFICE names the program, for example "soffice".
 TEST(Outdoc, IsReadByAWordProcessorWithItsHeadsRepeated) {
     const char* soffice = std::getenv("KORVEN_SOFFICE");

@@ -1,0 +1,119 @@
+#include "outdoc/earlier_document.hpp"
+
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/resource.h>
+
+#include <filesystem>
+
+#include "base/file_error.hpp"
+#include "outdoc/document_renderer.hpp"
+#include "outdoc/zip_archive.hpp"
+#include "support/temporary_folder.hpp"
+
+namespace korven::outdoc {
+namespace {
+
+namespace fs = std::filesystem;
+using test::contenuto;
+using test::metti;
+
+class EarlierDocument : public testing::Test {
+ protected:
+    EarlierDocument() { report("uno"); }
+
+    void report(const std::string& text) const {
+        metti(folder / "muro.TAB",
+              "#RESET 2,2,2,2,2,2,12,Arial\r\n" + text + "\r\n#ENDDOCUMENT\r\n");
+    }
+    std::string convert() const { return convertReport(folder / "muro.TAB").kept; }
+    [[nodiscard]] bool exists(const char* name) const { return fs::exists(folder / name); }
+
+    const test::CartellaProvvisoria folder;
+    const std::string document = folder / "muro.doc";
+};
+
+TEST_F(EarlierDocument, OfItsOwnIsReplacedWithoutACopy) {
+    EXPECT_EQ(convert(), "");
+    EXPECT_TRUE(isOwnWork(contenuto(document)));
+    report("due");
+    EXPECT_EQ(convert(), "");
+    EXPECT_FALSE(exists("muro.doc.bak"));
+}
+
+TEST_F(EarlierDocument, ThatItDidNotWriteIsKept) {
+    metti(document, "la lettera al committente");
+    fs::permissions(document, fs::perms::owner_read | fs::perms::owner_write);
+    EXPECT_EQ(convert(), document + ".bak");
+    EXPECT_EQ(contenuto(document + ".bak"), "la lettera al committente");
+    EXPECT_EQ(fs::status(document + ".bak").permissions(),
+              fs::perms::owner_read | fs::perms::owner_write);
+    EXPECT_TRUE(isOwnWork(contenuto(document)));
+}
+
+TEST_F(EarlierDocument, ThatWasChangedInOneByteIsKept) {
+    (void)convert();
+    const std::string own = contenuto(document);
+    for (const char* part : {"uno", "dc:title>uno", "word/styles.xml", "rId2"}) {
+        std::string changed = own;
+        ++changed[changed.find(part) + std::string_view(part).size() - 1];
+        EXPECT_FALSE(isOwnWork(changed)) << part;
+    }
+    std::string changed = own;
+    changed[changed.find("uno")] = 'U';
+    metti(document, changed);
+    EXPECT_EQ(convert(), document + ".bak");
+    EXPECT_EQ(contenuto(document + ".bak"), changed);
+}
+
+TEST_F(EarlierDocument, LosesNoCopyThatWasKeptBefore) {
+    for (const char* text : {"primo", "secondo", "terzo"}) {
+        metti(document, text);
+        EXPECT_NE(convert(), "");
+    }
+    EXPECT_EQ(contenuto(document + ".bak"), "primo");
+    EXPECT_EQ(contenuto(document + ".bak2"), "secondo");
+    EXPECT_EQ(contenuto(document + ".bak3"), "terzo");
+    metti(document, "secondo");
+    EXPECT_EQ(convert(), "") << "these bytes are kept already";
+    EXPECT_FALSE(exists("muro.doc.bak4"));
+}
+
+TEST_F(EarlierDocument, GoesThroughNoLinkOfTheNameOfTheCopy) {
+    metti(folder / "altrui", "da tenere");
+    fs::create_symlink("altrui", document + ".bak");
+    fs::create_symlink("nessuno", document + ".bak2");
+    metti(document, "lettera");
+    EXPECT_EQ(convert(), document + ".bak3");
+    EXPECT_EQ(contenuto(folder / "altrui"), "da tenere");
+    EXPECT_FALSE(exists("nessuno"));
+}
+
+TEST_F(EarlierDocument, ThatCannotBeKeptIsNotReplaced) {
+    // A limit on the size of files fails the copy as a full disk does.
+    const std::string large(20000, 'x');
+    metti(document, large);
+    ::signal(SIGXFSZ, SIG_IGN);
+    rlimit before{};
+    ::getrlimit(RLIMIT_FSIZE, &before);
+    const rlimit narrow{15000, before.rlim_max};  // the new document would fit
+    ::setrlimit(RLIMIT_FSIZE, &narrow);
+    EXPECT_THROW((void)convert(), base::ErroreFile);
+    ::setrlimit(RLIMIT_FSIZE, &before);
+    EXPECT_EQ(contenuto(document), large);
+    EXPECT_FALSE(exists("muro.doc.bak"));
+}
+
+TEST(IsOwnWork, IsNothingThatOnlyHoldsTheMark) {
+    EXPECT_FALSE(isOwnWork(""));
+    EXPECT_FALSE(isOwnWork("outdoc-"));
+    EXPECT_FALSE(isOwnWork("PK\x03\x04 outdoc-00000000"));
+    // A word processor packs anew: the mark stands in an archive with other parts in front.
+    const std::vector<ZipEntry> parts = {{"word/document.xml", "altro"}};
+    const std::string mark = ownMark(zipFiles({{"word/document.xml", "nostro"}}));
+    EXPECT_FALSE(isOwnWork(zipArchive({parts[0], {"docProps/core.xml", mark}})));
+    EXPECT_TRUE(isOwnWork(zipArchive({parts[0], {"docProps/core.xml", ownMark(zipFiles(parts))}})));
+}
+
+}  // namespace
+}  // namespace korven::outdoc
