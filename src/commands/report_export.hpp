@@ -66,8 +66,8 @@ void esportaDoc(const std::string& percorso, const PorteEsportazione& porte);
 /// Runs outdoc.
 /// @param outdoc  its path
 /// @return the path of the word-processor file
-/// @throws base::ErroreFile if outdoc can't be started, fails or leaves no file, or if the file would
-/// take the place of the project or of the mark-up
+/// @throws base::ErroreFile if outdoc can't be started, fails or leaves no file, or if the file
+/// would take the place of the project or of the mark-up
 std::string scriviDocumento(const std::string& relazione, base::AvviaProgramma& programmi,
                             const std::string& outdoc = convertitore());
 

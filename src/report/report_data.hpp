@@ -23,9 +23,9 @@ struct AzioniFase {
 struct DatiRelazione {
     project::DatiProgetto progetto;
     int nNodi = 0;
-    double passo = 0;                           ///< distance of the nodes [m]
-    /// Code of the earth pressure method that the run used, as the head of the result file holds it;
-    /// `progetto` has what reading the head makes of it.
+    double passo = 0;  ///< distance of the nodes [m]
+    /// Code of the earth pressure method that the run used, as the head of the result file holds
+    /// it; `progetto` has what reading the head makes of it.
     double metodoUsato = 0;
     std::vector<analysis::RisultatiFase> fasi;  ///< element 0 is stage 1
     std::vector<AzioniFase> azioni;             ///< the same
