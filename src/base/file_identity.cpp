@@ -1,9 +1,9 @@
 #include "base/file_identity.hpp"
 
 #include <fcntl.h>
-#include <stdlib.h>
 #include <unistd.h>
 
+#include <cstdlib>
 #include <filesystem>
 #include <system_error>
 

@@ -44,7 +44,7 @@ const std::vector<std::pair<std::string, std::set<std::string>>> outside = {
 const std::map<std::string, std::set<std::string>> operatingSystem = {
     {"poll.h", {"batch"}},    {"unistd.h", {"base", "batch"}}, {"fcntl.h", {"base"}},
     {"sys/stat.h", {"base"}}, {"signal.h", {"batch"}},         {"spawn.h", {"base"}},
-    {"sys/wait.h", {"base"}}, {"sys/types.h", {"base"}},
+    {"sys/wait.h", {"base"}}, {"sys/types.h", {"base"}},       {"sys/file.h", {"base"}},
 };
 
 struct Include {
