@@ -9,6 +9,7 @@
 #include <system_error>
 #include <utility>
 
+#include "base/file_custody.hpp"
 #include "base/file_error.hpp"
 #include "base/file_identity.hpp"
 #include "base/system_reason.hpp"
@@ -131,9 +132,14 @@ ScrittoreFile::ScrittoreFile(const std::string& percorso) : percorso_(percorso) 
     if (::access(meta_.c_str(), F_OK) == 0 && ::access(meta_.c_str(), W_OK) != 0)
         nonScritto(percorso, errno);
     // A name of its own, since the longest name that a folder takes leaves no room behind it.
-    provvisorio_ = cartellaDi(meta_) + "/.korven-XXXXXX";
-    file_ = ::mkostemp(provvisorio_.data(), O_CLOEXEC);
-    if (file_ < 0) nonScritto(percorso, errno);
+    const std::string modello = cartellaDi(meta_) + "/.korven-XXXXXX";
+    // In custody, so that nobody takes it for what a killed program left (leftovers.hpp).
+    do {
+        if (file_ >= 0) ::close(file_);
+        provvisorio_ = modello;
+        file_ = ::mkostemp(provvisorio_.data(), O_CLOEXEC);
+        if (file_ < 0) nonScritto(percorso, errno);
+    } while (prendiInCustodia(file_) == Custodia::altrui || !portaIlNome(file_, provvisorio_));
 }
 
 ScrittoreFile::~ScrittoreFile() { abbandona(); }

@@ -10,6 +10,7 @@
 #include "base/translated_texts.hpp"
 #include "commands/document_names.hpp"
 #include "commands/last_folder.hpp"
+#include "commands/project_commands.hpp"
 #include "project/project_data.hpp"
 #include "project/project_file.hpp"
 
@@ -81,6 +82,7 @@ void Documento::apriNome(const std::string& risposta) {
 
 void Documento::leggi(const std::string& nome, const std::string& file) {
     NomeProvvisorio provvisorio(file);
+    togliResti(file);
     FileSuDisco disco;
     disco.ricorda(file);
     project::leggiProgetto();

@@ -9,6 +9,7 @@
 #include "base/file_error.hpp"
 #include "base/file_names.hpp"
 #include "base/files.hpp"
+#include "base/leftovers.hpp"
 #include "base/text_lines.hpp"
 #include "base/translated_texts.hpp"
 #include "project/project_file.hpp"
@@ -57,15 +58,22 @@ EsitoFase estremi(int k, const project::DatiProgetto& dati, int nNodi,
 
 }  // namespace
 
+void togliResti(const std::string& progetto) {
+    base::togliCartelleProvvisorie();
+    base::togliProvvisori(fs::path(progetto).parent_path().string());
+}
+
 void apriProgetto(const std::string& percorso, const std::string& uscita) {
     const std::string progetto = assoluto(percorso);
     project::azzeraProgetto();
     project::fileCorrente = progetto;
     analysis::progettiProtetti = {.letto = progetto, .corrente = {}};
+    togliResti(progetto);
     project::leggiProgetto();
     if (uscita.empty()) return;
     project::fileCorrente =
         (fs::path(cartellaAssoluta(uscita)) / fs::path(progetto).filename()).string();
+    togliResti(project::fileCorrente);
 }
 
 void creaCartella(const std::string& cartella) {

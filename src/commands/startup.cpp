@@ -1,6 +1,7 @@
 #include "commands/startup.hpp"
 
 #include "base/language.hpp"
+#include "base/leftovers.hpp"
 #include "base/translated_texts.hpp"
 #include "plot/plot_configuration.hpp"
 #include "project/project_data.hpp"
@@ -15,6 +16,7 @@ void leggiDatiProgramma(project::Maschere& maschere) {
 
 void avvia(const std::string& argomento, Documento& documento, const PorteAvvio& porte) {
     project::fileCorrente.clear();
+    base::togliCartelleProvvisorie();
     if (porte.leggiMaschere) porte.leggiMaschere();
     // A file is read into a project that no reset has touched: what an old file lacks is then 0.
     if (!argomento.empty() && documento.apriAllAvvio(argomento)) return;

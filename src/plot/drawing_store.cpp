@@ -30,7 +30,7 @@ void ArchivioDisegno::svuota() {
 
 void ArchivioDisegno::scarica() {
     try {
-        scriviScarico(percorsoFileScarico(nFile_ + 1), linee_);
+        scriviScarico(nFile_ + 1, linee_);
     } catch (...) {
         svuota();
         throw;

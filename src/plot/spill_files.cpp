@@ -7,12 +7,15 @@
 #include <limits>
 #include <system_error>
 
+#include "base/file_custody.hpp"
 #include "base/file_error.hpp"
 #include "base/files.hpp"
+#include "base/leftovers.hpp"
 #include "base/number_text.hpp"
 #include "base/system_reason.hpp"
 #include "base/text_lines.hpp"
 #include "base/translated_texts.hpp"
+#include "plot/drive_files.hpp"
 
 namespace korven::plot {
 
@@ -24,13 +27,19 @@ namespace fs = std::filesystem;
 class CartellaScarico {
  public:
     CartellaScarico() {
+        base::togliCartelleProvvisorie();
         std::error_code errore;
         const fs::path provvisoria = fs::temp_directory_path(errore);
         if (errore) fallita(base::traduttore("cartella provvisoria del sistema"), errore);
-        std::string modello = (provvisoria / "korven32-XXXXXX").string();
-        if (::mkdtemp(modello.data()) == nullptr)
-            fallita(modello, std::error_code(errno, std::generic_category()));
-        percorso_ = modello;
+        const std::string modello =
+            (provvisoria / std::string(base::inizioCartelle)).string() + "XXXXXX";
+        // Another start may have taken the folder for a leftover before its lock was there.
+        do {
+            std::string nome = modello;
+            if (::mkdtemp(nome.data()) == nullptr)
+                fallita(modello, std::error_code(errno, std::generic_category()));
+            percorso_ = nome;
+        } while (!custodia_.prendiCartella(percorso_.string()));
     }
     CartellaScarico(const CartellaScarico&) = delete;
     CartellaScarico& operator=(const CartellaScarico&) = delete;
@@ -50,7 +59,19 @@ class CartellaScarico {
     }
 
     fs::path percorso_;
+    base::InCustodia custodia_;  // says that the process lives
 };
+
+FileDiUnita& fileDiUnita() {
+    static FileDiUnita file;
+    return file;
+}
+
+// The value of `windir`; empty where no drive is named.
+std::string unita() {
+    const char* windir = std::getenv("windir");
+    return windir != nullptr ? windir : "";
+}
 
 std::string nomeSenzaCartella(int numero) { return "plttmp" + std::to_string(numero) + ".tmp"; }
 
@@ -82,8 +103,8 @@ std::string nomeFileScarico(std::string_view windir, int numero) {
 }
 
 std::string percorsoFileScarico(int numero) {
-    if (const char* windir = std::getenv("windir"); windir != nullptr && *windir != '\0')
-        return nomeFileScarico(windir, numero);
+    if (const std::string windir = unita(); !windir.empty())
+        return fileDiUnita().percorso(windir, numero);
     static const CartellaScarico cartella;
     return (cartella.percorso() / nomeSenzaCartella(numero)).string();
 }
@@ -105,6 +126,13 @@ std::string testoScarico(std::span<const Segmento> linee) {
 
 void scriviScarico(const std::string& percorso, std::span<const Segmento> linee) {
     base::scriviFile(percorso, testoScarico(linee));
+}
+
+void scriviScarico(int numero, std::span<const Segmento> linee) {
+    if (const std::string windir = unita(); !windir.empty())
+        fileDiUnita().scrivi(windir, numero, testoScarico(linee));
+    else
+        scriviScarico(percorsoFileScarico(numero), linee);
 }
 
 std::vector<Segmento> leggiScarico(const std::string& percorso) {

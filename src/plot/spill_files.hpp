@@ -19,7 +19,8 @@ namespace korven::plot {
 
 /// Path of spill file `numero` of this process. Where the variable `windir` names no drive, the
 /// files lie in a folder that the first call makes in the system's temporary folder, for this
-/// process alone; it is removed with all that is in it when the process ends.
+/// process alone; it is removed with all that is in it when the process ends. A process that is
+/// killed leaves it to the next start (base/leftovers.hpp).
 /// @throws ErroreFile when that folder can't be made
 [[nodiscard]] std::string percorsoFileScarico(int numero);
 
@@ -29,6 +30,11 @@ namespace korven::plot {
 /// Writes a spill file, all of it or nothing, over one that an earlier drawing left.
 /// @throws ErroreFile with the system's reason
 void scriviScarico(const std::string& percorso, std::span<const Segmento> linee);
+
+/// Writes spill file `numero` of this process: on the drive under the first number that is free
+/// (drive_files.hpp), else in the temporary folder.
+/// @throws ErroreFile with the system's reason
+void scriviScarico(int numero, std::span<const Segmento> linee);
 
 /// Reads a spill file.
 /// @throws ErroreFile when it is missing, cut short or holds what is no number

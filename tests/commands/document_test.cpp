@@ -57,6 +57,12 @@ TEST_F(FileApri, ReadsAnExistingProject) {
     EXPECT_TRUE(analysis::prendeIlPostoDelProgetto(muro));
 }
 
+TEST_F(FileApri, SweepsAwayWhatAKilledProgramLeftBesideTheProject) {
+    test::metti(ambiente.lavori / ".korven-a1B2c3", "metà");
+    apriMuro();
+    EXPECT_FALSE(fs::exists(ambiente.lavori / ".korven-a1B2c3"));
+}
+
 TEST_F(FileApri, BeginsANewProjectWithANameThatNoFileHas) {
     Progetto.lunghezzaParatia = 9;
     nomi.aperti = {ambiente.lavori / "muro"};

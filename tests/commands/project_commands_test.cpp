@@ -41,6 +41,16 @@ TEST_F(Apri, ReadsTheProjectAndWritesResultsBesideIt) {
     EXPECT_EQ(Progetto.sforzoNormale, 0);
 }
 
+TEST_F(Apri, SweepsAwayWhatKilledProgramsLeftInBothFolders) {
+    fs::create_directory(cartella / "uscita");
+    for (const char* resto : {".korven-a1B2c3", "uscita/.korven-muro.OUT.lock"})
+        test::metti(cartella / resto, "");
+    apriProgetto(progetto, cartella / "uscita");
+    EXPECT_FALSE(fs::exists(cartella / ".korven-a1B2c3"));
+    EXPECT_TRUE(fs::is_empty(cartella / "uscita"));
+    EXPECT_TRUE(fs::exists(progetto));
+}
+
 TEST_F(Apri, FillsTheBlocksThatAnOldFileLacksFromTheDefaults) {
     const std::string testo = project::testoProgetto(test::progettoSemplice());
     std::size_t fine = testo.size();

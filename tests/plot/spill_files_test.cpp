@@ -60,6 +60,29 @@ TEST(FileScaricoDeathTest, TemporaryFolderGoesWhenTheProcessEnds) {
     ::unsetenv(variabile);
 }
 
+TEST(FileScaricoDeathTest, TemporaryFolderOfAKilledProcessGoesAtTheNextStart) {
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    constexpr const char* variabile = "KORVEN_TEST_KILLED_FOLDER";
+    std::optional<test::CartellaProvvisoria> propria;
+    if (std::getenv(variabile) == nullptr) {
+        propria.emplace();
+        ::setenv(variabile, propria->percorso().c_str(), 1);
+    }
+    const std::string cartella = std::getenv(variabile);
+    const auto lavora = [&cartella](bool finisce) {
+        ::unsetenv("windir");
+        ::setenv("TMPDIR", cartella.c_str(), 1);
+        scriviScarico(1, {});
+        if (!finisce) ::raise(SIGKILL);
+        std::exit(0);
+    };
+    EXPECT_EXIT(lavora(false), testing::KilledBySignal(SIGKILL), "");
+    EXPECT_FALSE(std::filesystem::is_empty(cartella));
+    EXPECT_EXIT(lavora(true), testing::ExitedWithCode(0), "");
+    EXPECT_TRUE(std::filesystem::is_empty(cartella));
+    ::unsetenv(variabile);
+}
+
 TEST(FileScarico, HoldsTheCountAndSixNumbersARecord) {
     const Segmento linee[] = {{1, 2.5, 0.25, -0.5, 255, 0.05},
                               {0.12345678, 0, 0.00000001, 12345, 0, 0.01}};
