@@ -7,7 +7,8 @@ namespace korven::commands {
 
 inline constexpr int ultimaVoceAiuto = 200;
 
-// Entries of the forms that no menu item names; those of the menu stand in menu_tree.cpp.
+// Entries of the forms that no menu item names but for the box, which About opens; those of the
+// menu stand in menu_tree.cpp.
 inline constexpr int voceGrafica = 28;
 inline constexpr int voceConfStampa = 29;
 inline constexpr int voceTempCalc = 30;

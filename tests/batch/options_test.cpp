@@ -224,7 +224,7 @@ TEST_F(Opzione, NsegStandsForTheContentOfItsFile) {
 TEST_F(Opzione, LinguaGivesHeadingsInThatLanguageButLeavesTheUsersOwn) {
     EXPECT_EQ(esegui("relazione", {"--lingua", "deu"}).codice, 0);
     const std::string relazione = base::daCp1252(contenuto(cartella / "muro.TAB"));
-    EXPECT_TRUE(dice(relazione, "\r\nBERECHNUNG DER VERBAUWAND\r\n"));
+    EXPECT_TRUE(dice(relazione, "\r\nBERECHNUNG DER WAND\r\n"));
     EXPECT_TRUE(dice(relazione, "\r\nERGEBNISSE DER PHASE 2\r\n"));
     EXPECT_TRUE(dice(relazione, "\r\nMuro di prova\r\n"));
     EXPECT_FALSE(dice(relazione, "DESCRIZIONE"));
@@ -240,14 +240,14 @@ TEST_F(Opzione, CartellaBringsItsLanguageAndItsTexts) {
     fs::copy(programma / "texts06.txt", casa + "/texts06.txt");
     metti(casa + "/language.cfg", "2\r\n");
     EXPECT_EQ(esegui("relazione", {"--cartella", casa}).codice, 0);
-    EXPECT_TRUE(dice(contenuto(cartella / "muro.TAB"), "BERECHNUNG DER VERBAUWAND"));
+    EXPECT_TRUE(dice(contenuto(cartella / "muro.TAB"), "BERECHNUNG DER WAND"));
     // An option goes before the file.
     EXPECT_EQ(esegui("relazione", {"--cartella", casa, "--lingua", "eng"}).codice, 0);
     EXPECT_TRUE(dice(contenuto(cartella / "muro.TAB"), "WALL CALCULATION"));
     // The environment names a folder too.
     const test::Ambiente ambiente{.variabili = {{"KORVEN32_HOME", casa}}};
     EXPECT_EQ(esegui("relazione", {}, ambiente).codice, 0);
-    EXPECT_TRUE(dice(contenuto(cartella / "muro.TAB"), "BERECHNUNG DER VERBAUWAND"));
+    EXPECT_TRUE(dice(contenuto(cartella / "muro.TAB"), "BERECHNUNG DER WAND"));
 }
 
 TEST_F(Opzione, ALanguageWithoutItsTextsOrACodeThatIsNoneIsBrokenInput) {

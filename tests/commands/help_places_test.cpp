@@ -19,9 +19,11 @@ TEST(VoceForma, IsThatOfTheMenuItemWhereOneOpensTheForm) {
 TEST(VoceForma, IsOneOfItsOwnForOtherForms) {
     EXPECT_EQ(voceForma("GRAFICA"), voceGrafica);
     EXPECT_EQ(voceForma("TempCalc"), voceTempCalc);
-    for (const int propria :
-         {voceGrafica, voceConfStampa, voceTempCalc, voceGuida, voceInformazioni, voceSelezling})
+    for (const int propria : {voceGrafica, voceConfStampa, voceTempCalc, voceGuida, voceSelezling})
         for (const auto& v : albero()) EXPECT_NE(v.aiuto, propria) << v.nome;
+    // The item opens that very box.
+    for (const auto& v : albero())
+        EXPECT_EQ(v.aiuto == voceInformazioni, v.comando == Comando::about) << v.nome;
 }
 
 TEST(VoceForma, IsZeroForAnyOtherWindow) {
