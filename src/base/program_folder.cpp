@@ -14,6 +14,13 @@ std::string& cartellaImposta() {
     return cartella;
 }
 
+// Empty if nobody has named one.
+std::string cartellaNominata() {
+    if (!cartellaImposta().empty()) return cartellaImposta();
+    const char* casa = std::getenv("KORVEN32_HOME");
+    return casa != nullptr ? casa : "";
+}
+
 char minuscola(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
 
 bool stessoNome(std::string_view a, std::string_view b) {
@@ -24,11 +31,11 @@ bool stessoNome(std::string_view a, std::string_view b) {
 }  // namespace
 
 std::string cartellaProgramma() {
-    if (!cartellaImposta().empty()) return cartellaImposta();
-    if (const char* casa = std::getenv("KORVEN32_HOME"); casa != nullptr && *casa != '\0')
-        return casa;
-    return cartellaEseguibile();
+    const std::string nominata = cartellaNominata();
+    return nominata.empty() ? cartellaEseguibile() : nominata;
 }
+
+bool cartellaProgrammaNominata() { return !cartellaNominata().empty(); }
 
 std::string cartellaEseguibile() {
     std::error_code errore;

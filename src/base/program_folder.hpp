@@ -10,6 +10,9 @@ namespace korven::base {
 /// executable. Ends without a separator.
 [[nodiscard]] std::string cartellaProgramma();
 
+/// True if that folder was named, by `impostaCartellaProgramma` or the environment.
+[[nodiscard]] bool cartellaProgrammaNominata();
+
 /// Names the program folder for the rest of the process; empty goes back to the rule above.
 void impostaCartellaProgramma(std::string cartella);
 

@@ -12,6 +12,7 @@
 #include "batch/command_run.hpp"
 #include "batch/failure.hpp"
 #include "batch/options.hpp"
+#include "commands/user_folder.hpp"
 
 // korven32c: the work of the desktop program without a window.
 
@@ -82,6 +83,7 @@ int programma(int argc, const char* const* argv) {
     // Wrong usage goes before a language that can't be had, which JSON must be able to tell.
     std::exception_ptr senzaLingua;
     try {
+        commands::scegliCartellaProgramma();
         scegliLingua(valoreAnticipato(argc, argv, "--lingua"));
     } catch (const std::exception&) {
         senzaLingua = std::current_exception();

@@ -9,8 +9,8 @@
 #include "base/files.hpp"
 #include "base/table.hpp"
 #include "base/translated_texts.hpp"
+#include "base/user_data.hpp"
 #include "commands/document_names.hpp"
-#include "commands/user_folder.hpp"
 #include "project/project_data.hpp"
 #include "project/project_file.hpp"
 
@@ -24,7 +24,7 @@ std::vector<fs::path> cartelleRecupero() {
     std::error_code errore;
     // A new user may have no folder for data yet, and the temporary one lasts no longer than the
     // machine runs.
-    const fs::path dati = fs::path(cartellaDatiUtente()).parent_path();
+    const fs::path dati = fs::path(base::cartellaDatiUtente()).parent_path();
     fs::create_directories(dati, errore);
     return {fs::path(project::fileCorrente).parent_path(), dati, fs::temp_directory_path(errore)};
 }

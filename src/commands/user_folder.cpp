@@ -1,14 +1,15 @@
 #include "commands/user_folder.hpp"
 
 #include <algorithm>
-#include <cstdlib>
 #include <filesystem>
 #include <iterator>
 #include <string_view>
 
 #include "base/code_page.hpp"
+#include "base/file_error.hpp"
 #include "base/files.hpp"
 #include "base/program_folder.hpp"
+#include "base/user_data.hpp"
 #include "commands/project_commands.hpp"
 
 namespace korven::commands {
@@ -58,25 +59,24 @@ void copiaCartella(const fs::path& da, const fs::path& a, bool anchePrivate) {
 
 }  // namespace
 
-bool cartellaScrivibile(const std::string& cartella) { return base::accettaFile(cartella); }
-
-std::string cartellaDatiUtente() {
-    const char* dati = std::getenv("XDG_DATA_HOME");
-    if (dati != nullptr && fs::path(dati).is_absolute())
-        return (fs::path(dati) / "korven32").string();
-    const char* casa = std::getenv("HOME");
-    return (fs::path(casa != nullptr ? casa : "/tmp") / ".local" / "share" / "korven32").string();
-}
-
 void copiaDati(const std::string& installata, const std::string& utente) {
     copiaCartella(installata, utente, false);
 }
 
 void scegliCartellaProgramma() {
-    const std::string installata = base::cartellaProgramma();
-    if (cartellaScrivibile(installata)) return;
-    copiaDati(installata, cartellaDatiUtente());
-    base::impostaCartellaProgramma(cartellaDatiUtente());
+    if (!base::serveCartellaUtente()) return;
+    const std::string utente = base::cartellaDatiUtente();
+    std::error_code errore;
+    const bool cEra = fs::exists(utente, errore);
+    try {
+        copiaDati(base::cartellaProgramma(), utente);
+    } catch (const base::ErroreFile&) {
+        if (!cEra) {
+            fs::remove_all(utente, errore);
+            return;
+        }
+    }
+    base::impostaCartellaProgramma(utente);
 }
 
 }  // namespace korven::commands

@@ -13,6 +13,7 @@
 #include "base/program_folder.hpp"
 #include "base/program_questions.hpp"
 #include "base/translated_texts.hpp"
+#include "base/user_data.hpp"
 #include "commands/desktop_arguments.hpp"
 #include "commands/fatal_error.hpp"
 #include "commands/program.hpp"
@@ -101,6 +102,7 @@ int sessione(shell::Applicazione& applicazione, shell::DialogoQt& dialogo,
 int domande(const std::vector<std::string>& argomenti) {
     const auto letti = commands::leggiArgomenti(argomenti, base::esisteFile);
     if (letti.richiesta == base::Richiesta::nessuna && letti.sconosciuto.empty()) return -1;
+    base::seguiCartellaUtente();
     base::scegliLinguaSilenziosa();
     return commands::rispondi(letti);
 }

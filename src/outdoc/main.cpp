@@ -5,6 +5,7 @@
 #include "base/closed_pipe.hpp"
 #include "base/program_questions.hpp"
 #include "base/translated_texts.hpp"
+#include "base/user_data.hpp"
 #include "base/version.hpp"
 #include "outdoc/document_renderer.hpp"
 
@@ -29,6 +30,7 @@ int refuse(const std::string& why) {
 
 int work(int argc, const char* const* argv) {
     base::resistiAiTubiChiusi();
+    base::seguiCartellaUtente();
     base::scegliLinguaSilenziosa();  // it speaks in errors alone, so none may keep it from its work
     const std::string argument = argc > 1 ? argv[1] : "";
     const auto question = base::richiesta(argument);
