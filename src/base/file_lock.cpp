@@ -1,16 +1,15 @@
 #include "base/file_lock.hpp"
 
 #include <fcntl.h>
-#include <sys/file.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
-#include <cerrno>
 #include <cstdint>
 #include <filesystem>
 #include <utility>
 
+#include "base/file_custody.hpp"
 #include "base/file_identity.hpp"
+#include "base/leftovers.hpp"
 
 namespace korven::base {
 
@@ -22,14 +21,6 @@ int apri(const std::string& percorso) {
     constexpr mode_t permessi = 0666;
     const int file = ::open(percorso.c_str(), O_RDWR | O_CREAT | comune, permessi);
     return file >= 0 ? file : ::open(percorso.c_str(), O_RDONLY | comune);
-}
-
-// True while the open file still bears the name.
-bool portaIlNome(int file, const std::string& percorso) {
-    struct stat suo {
-    }, delNome{};
-    return ::fstat(file, &suo) == 0 && ::lstat(percorso.c_str(), &delNome) == 0 &&
-           suo.st_dev == delNome.st_dev && suo.st_ino == delNome.st_ino;
 }
 
 // FNV-1a: names that differ in one character must not meet.
@@ -48,16 +39,14 @@ Serratura::Esito Serratura::prendi(const std::string& percorso) {
     for (int i = 0; i < tentativi; ++i) {
         const int file = apri(percorso);
         if (file < 0) return Esito::impossibile;
-        if (::flock(file, LOCK_EX | LOCK_NB) != 0) {
-            const int codice = errno;
-            ::close(file);
-            return codice == EWOULDBLOCK || codice == EINTR ? Esito::occupata : Esito::impossibile;
-        }
-        if (portaIlNome(file, percorso)) {
+        const Custodia custodia = prendiInCustodia(file);
+        if (custodia == Custodia::presa && portaIlNome(file, percorso)) {
             file_ = file;
             return Esito::presa;
         }
         ::close(file);
+        if (custodia == Custodia::altrui) return Esito::occupata;
+        if (custodia == Custodia::impossibile) return Esito::impossibile;
     }
     return Esito::occupata;
 }
@@ -72,8 +61,9 @@ std::string nomeSerratura(const std::string& file) {
     constexpr std::size_t massimo = 255;  // bytes that a name may have on the usual file systems
     const std::filesystem::path meta = destinazione(file).value_or(file);
     const std::string nome = meta.filename().string();
-    std::string serratura = ".korven-" + nome + ".lock";
-    if (serratura.size() > massimo) serratura = ".korven-" + impronta(nome) + ".lock";
+    const std::string inizio(inizioProvvisori), fine = ".lock";
+    std::string serratura = inizio + nome + fine;
+    if (serratura.size() > massimo) serratura = inizio + impronta(nome) + fine;
     return (meta.parent_path() / serratura).string();
 }
 

@@ -62,7 +62,7 @@ const std::map<std::string, Texts> noTexts = {
     {"analysis/unfinished_results.cpp", {"sigmaVv"}},
     {"base/file_names.cpp", {"OUT", "TAB", "doc", "relazione", "pdf"}},
     {"base/file_identity.cpp", {"/.korven-XXXXXX", "/.KORVEN-"}},
-    {"base/file_lock.cpp", {".korven-", ".lock"}},
+    {"base/file_lock.cpp", {".lock"}},
     {"base/files.cpp", {"/.korven-XXXXXX"}},
     {"base/leftovers.hpp", {".korven-", "korven32-"}},
     {"base/text_lines.cpp", {"\\xFF\\xFE", "\\xFE\\xFF", "\\xEF\\xBB\\xBF"}},
