@@ -16,13 +16,7 @@ void CorsaSeguita::iterazione(const analysis::StatoIterazione& stato) {
 }
 
 std::string CorsaSeguita::arresto() const {
-    if (!ferma_) return {};
-    std::string testo;
-    for (const auto& riga : traccia_.arresto("Calcolo interrotto")) {
-        if (!testo.empty()) testo += testo.back() == ':' ? " " : "; ";
-        testo += riga;
-    }
-    return testo;
+    return ferma_ ? traccia_.arrestoInBreve("Calcolo interrotto") : std::string();
 }
 
 }  // namespace korven::commands

@@ -176,12 +176,27 @@ std::vector<std::string> TracciaIterazioni::righe(int da) const {
     return testo;
 }
 
+std::vector<std::string> TracciaIterazioni::ultimeRighe() const {
+    return righe(std::max(2, iterazioni_ - ultimeIterazioni + 1));
+}
+
+std::string TracciaIterazioni::dove(std::string_view motivo) const {
+    return traduttore(motivo) + " (" + traduttore("fase") + " " + std::to_string(fase_) + ", " +
+           std::to_string(iterazioni_) + " " + traduttore("iterazioni") + ")";
+}
+
 std::vector<std::string> TracciaIterazioni::arresto(std::string_view motivo) const {
-    std::vector<std::string> testo = righe(std::max(2, iterazioni_ - ultimeIterazioni + 1));
-    testo.insert(testo.begin(), traduttore(motivo) + " (" + traduttore("fase") + " " +
-                                    std::to_string(fase_) + ", " + std::to_string(iterazioni_) +
-                                    " " + traduttore("iterazioni") + "). " +
-                                    traduttore("Nelle ultime iterazioni cambiano stato") + ":");
+    std::vector<std::string> testo = ultimeRighe();
+    testo.insert(testo.begin(),
+                 dove(motivo) + ". " + traduttore("Nelle ultime iterazioni cambiano stato") + ":");
+    return testo;
+}
+
+// A line of the main form has no room for more.
+std::string TracciaIterazioni::arrestoInBreve(std::string_view motivo) const {
+    std::string testo = dove(motivo) + ": ";
+    const auto ultime = ultimeRighe();
+    for (std::size_t i = 0; i < ultime.size(); ++i) testo += (i > 0 ? "; " : "") + ultime[i];
     return testo;
 }
 

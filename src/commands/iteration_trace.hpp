@@ -51,7 +51,12 @@ class TracciaIterazioni {
     /// @param motivo  Italian key
     [[nodiscard]] std::vector<std::string> arresto(std::string_view motivo) const;
 
+    /// The same in one line.
+    [[nodiscard]] std::string arrestoInBreve(std::string_view motivo) const;
+
  private:
+    [[nodiscard]] std::vector<std::string> ultimeRighe() const;
+    [[nodiscard]] std::string dove(std::string_view motivo) const;
     void confronta(const analysis::StatoIterazione& stato);
 
     int fase_ = 0;

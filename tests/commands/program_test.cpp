@@ -123,7 +123,7 @@ TEST_F(ProgrammaTest, TellsInTheStatusLineWhereARunWasStoppedUntilAnotherGoesThr
     };
     p.esegui(Comando::stampaVideo);
     EXPECT_EQ(finestra.ultimoStato,
-              "Calcolo interrotto (fase 2, 1 iterazioni). Nelle ultime iterazioni cambiano stato: "
+              "Calcolo interrotto (fase 2, 1 iterazioni): "
               "nessun nodo e nessun tirante cambia stato");
     EXPECT_TRUE(dialogo.messaggi.empty());
     avanzamento.adOgniIterazione = {};
