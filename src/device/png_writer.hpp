@@ -1,18 +1,16 @@
 #pragma once
 
-#include <zlib.h>
+#include <png.h>
 
 #include <QImage>
-#include <cstdint>
 #include <string>
-#include <string_view>
 
 #include "base/files.hpp"
 
 namespace korven::device {
 
 /// Writes a picture as PNG strip by strip, so that it need never be in memory as a whole. Colours
-/// of 8 bits each, no transparency (W3C, Portable Network Graphics Specification, second edition).
+/// of 8 bits each, no transparency.
 class ScrittorePng {
  public:
     /// @param misure          width and height [pixels]
@@ -32,15 +30,12 @@ class ScrittorePng {
     void concludi();
 
  private:
-    void brano(std::string_view tipo, std::string_view dati);
-    void comprimi(std::string_view byte, int modo);
+    void scarica();
 
     base::ScrittoreFile file_;
-    z_stream flusso_{};
-    std::string sopra_;     // the row above, three bytes a pixel
-    std::string riga_;      // the row in hand
-    std::string filtrata_;  // what is compressed of it, its filter in front
-    std::string uscita_;    // compressed bytes on their way to the file
+    png_structp png_ = nullptr;
+    png_infop info_ = nullptr;
+    std::string pronti_;  // bytes that the library has made and the file does not hold yet
 };
 
 }  // namespace korven::device

@@ -36,7 +36,7 @@ const std::vector<std::pair<std::string, std::set<std::string>>> outside = {
     {"Q", {"device", "shell", "desktop"}},
     {"CLI/", {"batch"}},
     {"nlohmann/", {"batch"}},
-    {"zlib.h", {"device"}},
+    {"png.h", {"device"}},
 };
 
 // The headers of the operating system that stand beside the standard library: files, terminals and

@@ -43,7 +43,6 @@ const std::map<std::string, std::string> silentFiles = {
     {"outdoc/paragraph.cpp", "words of the file, a font"},
     {"analysis/vector_lanes.cpp", "names of processors"},
     {"device/drawing_fonts.cpp", "names of fonts"},
-    {"device/png_writer.cpp", "words of the file"},
     {"device/svg_writer.cpp", "words of the file"},
     {"batch/paper.cpp", "names of sheets, the same in all languages"},
     {"commands/help_text.cpp", "tags, names of letters"},
