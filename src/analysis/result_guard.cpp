@@ -81,6 +81,11 @@ bool GuardiaRisultati::prova(const std::string& serratura) {
     lascia();
     const auto esito = serratura_.prendi(serratura);
     if (esito == base::Serratura::Esito::presa) tenute().insert(serratura);
+    if (esito == base::Serratura::Esito::ingombra)
+        throw base::ErroreScrittura(
+            serratura, 0,
+            traduttore("qui i calcoli tengono occupato il file dei risultati: togliere ciò che ha "
+                       "questo nome"));
     return esito != base::Serratura::Esito::occupata;
 }
 

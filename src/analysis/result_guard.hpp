@@ -31,7 +31,8 @@ class GuardiaRisultati {
     /// run has left unfinished (`risultatiIncompiuti`), which it tells. What is held already stays
     /// so and is not looked at again.
     /// @return false when the user gave up waiting (`stopCalcolo`)
-    /// @throws base::ErroreScrittura if the other run still holds it in the end
+    /// @throws base::ErroreScrittura if the other run still holds it in the end, or if something
+    /// that is no lock has its name
     [[nodiscard]] bool occupa(const std::string& risultati, base::Dialogo& dialogo,
                               Avanzamento& avanzamento);
 

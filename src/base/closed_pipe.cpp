@@ -1,5 +1,8 @@
 #include "base/closed_pipe.hpp"
 
+#include <fcntl.h>
+#include <unistd.h>
+
 #include <csignal>
 
 namespace korven::base {
@@ -9,6 +12,13 @@ namespace {
 extern "C" void nulla(int) {}
 
 }  // namespace
+
+void occupaCanaliChiusi() {
+    // Each the wrong way round. A file is opened on the lowest number that is free.
+    constexpr int modi[] = {O_WRONLY, O_RDONLY, O_RDONLY};
+    for (int canale = STDIN_FILENO; canale <= STDERR_FILENO; ++canale)
+        if (::fcntl(canale, F_GETFD) < 0 && ::open("/dev/null", modi[canale]) != canale) return;
+}
 
 void resistiAiTubiChiusi() {
     struct sigaction azione {

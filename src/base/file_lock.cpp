@@ -1,8 +1,10 @@
 #include "base/file_lock.hpp"
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <cstdint>
 #include <filesystem>
 #include <utility>
@@ -23,6 +25,13 @@ int apri(const std::string& percorso) {
     return file >= 0 ? file : ::open(percorso.c_str(), O_RDONLY | comune);
 }
 
+bool ingombro(int errore) { return errore == ELOOP || errore == EISDIR || errore == ENXIO; }
+
+bool fileComune(int file) {
+    struct stat stato {};
+    return ::fstat(file, &stato) == 0 && S_ISREG(stato.st_mode);
+}
+
 // FNV-1a: names that differ in one character must not meet.
 std::string impronta(const std::string& nome) {
     std::uint64_t somma = 14695981039346656037u;
@@ -38,7 +47,11 @@ Serratura::Esito Serratura::prendi(const std::string& percorso) {
     percorso_ = percorso;
     for (int i = 0; i < tentativi; ++i) {
         const int file = apri(percorso);
-        if (file < 0) return Esito::impossibile;
+        if (file < 0) return ingombro(errno) ? Esito::ingombra : Esito::impossibile;
+        if (!fileComune(file)) {
+            ::close(file);
+            return Esito::ingombra;
+        }
         const Custodia custodia = prendiInCustodia(file);
         if (custodia == Custodia::presa && portaIlNome(file, percorso)) {
             file_ = file;
@@ -61,7 +74,7 @@ std::string nomeSerratura(const std::string& file) {
     constexpr std::size_t massimo = 255;  // bytes that a name may have on the usual file systems
     const std::filesystem::path meta = destinazione(file).value_or(file);
     const std::string nome = meta.filename().string();
-    const std::string inizio(inizioProvvisori), fine = ".lock";
+    const std::string inizio(inizioProvvisori), fine(fineSerrature);
     std::string serratura = inizio + nome + fine;
     if (serratura.size() > massimo) serratura = inizio + impronta(nome) + fine;
     return (meta.parent_path() / serratura).string();

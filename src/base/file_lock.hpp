@@ -15,6 +15,7 @@ class Serratura {
     enum class Esito {
         presa,
         occupata,    ///< another holds it: another program, or another object of this one
+        ingombra,    ///< something of that name is there that is no lock: a link, a folder, a pipe
         impossibile  ///< no such file can be made here and nobody else's is there, or the file
                      ///< system has no locks
     };

@@ -4,6 +4,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <cctype>
 #include <filesystem>
 #include <system_error>
 #include <vector>
@@ -17,21 +19,43 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Of the user's own and of this kind; a link is neither file nor folder.
-bool suo(const std::string& percorso, mode_t tipo) {
+// A name as mkstemp and mkdtemp make it.
+bool nomeDelSistema(std::string_view nome, std::string_view inizio) {
+    constexpr std::size_t lettere = 6;
+    if (nome.size() != inizio.size() + lettere || !nome.starts_with(inizio)) return false;
+    const auto coda = nome.substr(inizio.size());
+    return std::all_of(coda.begin(), coda.end(),
+                       [](unsigned char c) { return c < 128 && std::isalnum(c) != 0; });
+}
+
+bool nomeDiSerratura(std::string_view nome) {
+    return nome.starts_with(inizioProvvisori) && nome.ends_with(fineSerrature);
+}
+
+// A file of the user's own; a link is none.
+bool fileProvvisorio(const fs::path& percorso) {
     struct stat stato {};
-    return ::lstat(percorso.c_str(), &stato) == 0 && (stato.st_mode & S_IFMT) == tipo &&
-           stato.st_uid == ::geteuid();
+    const std::string nome = percorso.filename().string();
+    return ::lstat(percorso.c_str(), &stato) == 0 && S_ISREG(stato.st_mode) &&
+           stato.st_uid == ::geteuid() &&
+           (nomeDelSistema(nome, inizioProvvisori) ||
+            (nomeDiSerratura(nome) && stato.st_size == 0));
+}
+
+bool cartellaProvvisoria(const fs::path& percorso) {
+    struct stat stato {};
+    return ::lstat(percorso.c_str(), &stato) == 0 && S_ISDIR(stato.st_mode) &&
+           stato.st_uid == ::geteuid() &&
+           nomeDelSistema(percorso.filename().string(), inizioCartelle);
 }
 
 // Collected first, since what is removed would disturb the search.
-std::vector<std::string> trovati(const fs::path& cartella, std::string_view inizio, mode_t tipo) {
+std::vector<std::string> trovati(const fs::path& cartella, bool (*resto)(const fs::path&)) {
     std::vector<std::string> tutti;
     std::error_code errore;
     fs::directory_iterator voce(cartella, errore);
     for (; !errore && voce != fs::directory_iterator(); voce.increment(errore))
-        if (voce->path().filename().string().starts_with(inizio) && suo(voce->path(), tipo))
-            tutti.push_back(voce->path().string());
+        if (resto(voce->path())) tutti.push_back(voce->path().string());
     return tutti;
 }
 
@@ -49,7 +73,7 @@ void togliSeDiNessuno(const std::string& percorso, const Rimozione& rimozione) {
 }  // namespace
 
 void togliProvvisori(const std::string& cartella) {
-    for (const auto& file : trovati(cartella.empty() ? "." : cartella, inizioProvvisori, S_IFREG))
+    for (const auto& file : trovati(cartella.empty() ? "." : cartella, fileProvvisorio))
         togliSeDiNessuno(file, cancellaFile);
 }
 
@@ -57,7 +81,7 @@ void togliCartelleProvvisorie() {
     std::error_code errore;
     const fs::path provvisoria = fs::temp_directory_path(errore);
     if (errore) return;
-    for (const auto& cartella : trovati(provvisoria, inizioCartelle, S_IFDIR))
+    for (const auto& cartella : trovati(provvisoria, cartellaProvvisoria))
         togliSeDiNessuno(cartella,
                          [&errore](const std::string& sua) { fs::remove_all(sua, errore); });
 }

@@ -77,6 +77,7 @@ void lavora(const Opzioni& opzioni, std::exception_ptr senzaLingua,
 }
 
 int programma(int argc, const char* const* argv) {
+    base::occupaCanaliChiusi();
     base::resistiAiTubiChiusi();
     std::signal(SIGXFSZ, SIG_IGN);  // a file at its size limit is a failed write like others
     base::impostaCartellaProgramma(valoreAnticipato(argc, argv, "--cartella"));

@@ -108,6 +108,7 @@ int domande(const std::vector<std::string>& argomenti) {
 }
 
 int programma(int argc, char** argv) {
+    base::occupaCanaliChiusi();
     base::resistiAiTubiChiusi();
     std::signal(SIGXFSZ, SIG_IGN);  // a file at its size limit is a failed write like others
     if (const int codice = domande({argv + std::min(argc, 1), argv + argc}); codice >= 0)

@@ -29,6 +29,7 @@ int refuse(const std::string& why) {
 }
 
 int work(int argc, const char* const* argv) {
+    base::occupaCanaliChiusi();
     base::resistiAiTubiChiusi();
     base::seguiCartellaUtente();
     base::scegliLinguaSilenziosa();  // it speaks in errors alone, so none may keep it from its work

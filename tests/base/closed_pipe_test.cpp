@@ -1,5 +1,6 @@
 #include "base/closed_pipe.hpp"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <unistd.h>
 
@@ -22,6 +23,31 @@ TEST(TuboChiuso, FailsAWriteAndEndsNothing) {
             ::_exit(fallita ? 0 : 9);
         },
         ::testing::ExitedWithCode(0), "");
+}
+
+// What is told must not land in the next file that is opened.
+TEST(CanaliChiusi, FailEveryUseAndTakeNoFile) {
+    EXPECT_EXIT(
+        {
+            for (const int canale : {0, 1, 2}) ::close(canale);
+            occupaCanaliChiusi();
+            const int file = ::open("/dev/null", O_RDWR);
+            char uno = 0;
+            const bool muti =
+                ::read(0, &uno, 1) < 0 && ::write(1, "x", 1) < 0 && ::write(2, "x", 1) < 0;
+            ::_exit(file > 2 && muti ? 0 : 9);
+        },
+        ::testing::ExitedWithCode(0), "");
+}
+
+TEST(CanaliChiusi, LeaveThoseThatAreOpen) {
+    EXPECT_EXIT(
+        {
+            ::close(1);
+            occupaCanaliChiusi();
+            ::_exit(::write(1, "x", 1) < 0 && ::write(2, "x", 1) == 1 ? 0 : 9);
+        },
+        ::testing::ExitedWithCode(0), "x");
 }
 
 TEST(TuboChiuso, IsMetAsEverByAStartedProgram) {

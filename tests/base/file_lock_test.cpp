@@ -1,6 +1,7 @@
 #include "base/file_lock.hpp"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -69,9 +70,19 @@ TEST(Serratura, CantBeHadWhereNoFileCanBe) {
     metti(cartella / "altrui", "x");
     fs::create_symlink(cartella / "altrui", cartella / ".link");
     Serratura serratura;
-    for (const char* nome : {"manca/.s", ".link"})
-        EXPECT_EQ(serratura.prendi(cartella / nome), Esito::impossibile) << nome;
+    EXPECT_EQ(serratura.prendi(cartella / "manca/.s"), Esito::impossibile);
     EXPECT_EQ(serratura.prendi("/proc/.s"), Esito::impossibile);
+}
+
+TEST(Serratura, IsNoLinkFolderOrPipeThatBearsItsName) {
+    const CartellaProvvisoria cartella;
+    metti(cartella / "altrui", "x");
+    fs::create_symlink(cartella / "altrui", cartella / ".link");
+    fs::create_directory(cartella / ".cartella");
+    ASSERT_EQ(::mkfifo((cartella / ".tubo").c_str(), 0600), 0);
+    Serratura serratura;
+    for (const char* nome : {".link", ".cartella", ".tubo"})
+        EXPECT_EQ(serratura.prendi(cartella / nome), Esito::ingombra) << nome;
     EXPECT_EQ(test::contenuto(cartella / "altrui"), "x");
 }
 

@@ -76,6 +76,18 @@ TEST_F(Resti, OfAKilledWriterAreSweptAway) {
     EXPECT_TRUE(fs::is_empty(cartella.percorso()));
 }
 
+TEST_F(Resti, AreNotWhatSomebodyElseHasNamedSo) {
+    const char* altrui[] = {".korven-note", ".korven-a.kvd", ".korven-note12345", ".korven-a b-c.",
+                            ".korven-diario.lock"};
+    for (const char* nome : altrui) test::metti(cartella / nome, "mio");
+    test::metti(cartella / ".korven-muro.OUT.lock", "");
+    test::metti(cartella / ".korven-aB3xYz", "metà");
+    togliProvvisori(cartella.percorso());
+    for (const char* nome : altrui) EXPECT_TRUE(esiste(nome)) << nome;
+    EXPECT_FALSE(esiste(".korven-muro.OUT.lock"));
+    EXPECT_FALSE(esiste(".korven-aB3xYz"));
+}
+
 TEST_F(Resti, OfALivingWriterStay) {
     ScrittoreFile file(cartella / "muro.pdf");
     file.scrivi("tutto");
@@ -104,16 +116,18 @@ TEST_F(Resti, AreNeitherFoldersNorLinksNorFilesOfOtherNames) {
 }
 
 TEST_F(Resti, OfTheTemporaryFolderAreTheFoldersWithoutAProcess) {
-    fs::create_directories(cartella / "korven32-morto/dentro");
-    test::metti(cartella / "korven32-morto/plttmp1.tmp", "0\r\n");
-    fs::create_directory(cartella / "korven32-vivo");
-    const Tenuto vivo(cartella / "korven32-vivo", O_RDONLY | O_DIRECTORY);
-    test::metti(cartella / "korven32-file", "");
+    fs::create_directories(cartella / "korven32-mo1rTo/dentro");
+    test::metti(cartella / "korven32-mo1rTo/plttmp1.tmp", "0\r\n");
+    fs::create_directory(cartella / "korven32-viV0aA");
+    const Tenuto vivo(cartella / "korven32-viV0aA", O_RDONLY | O_DIRECTORY);
+    test::metti(cartella / "korven32-fiL3aa", "");
     fs::create_directory(cartella / "altro");
-    fs::create_directory_symlink("altro", cartella / "korven32-link");
+    fs::create_directory(cartella / "korven32-appunti");
+    fs::create_directory_symlink("altro", cartella / "korven32-liN4kk");
     togliCartelleProvvisorie();
-    EXPECT_FALSE(esiste("korven32-morto"));
-    for (const char* nome : {"korven32-vivo", "korven32-file", "altro", "korven32-link"})
+    EXPECT_FALSE(esiste("korven32-mo1rTo"));
+    for (const char* nome :
+         {"korven32-viV0aA", "korven32-fiL3aa", "altro", "korven32-liN4kk", "korven32-appunti"})
         EXPECT_TRUE(esiste(nome)) << nome;
 }
 
