@@ -1,6 +1,7 @@
 #include "base/file_identity.hpp"
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cstdlib>
@@ -69,6 +70,14 @@ bool senzaMaiuscole(const std::string& cartella) {
     const bool uguali = fs::equivalent(nome, maiuscole, errore);
     ::unlink(nome.c_str());
     return uguali;
+}
+
+ImprontaFile::ImprontaFile(const std::string& percorso) {
+    struct stat stato {};
+    if (::stat(percorso.c_str(), &stato) != 0) return;
+    numero_ = static_cast<long long>(stato.st_ino);
+    secondi_ = stato.st_ctim.tv_sec;
+    nanosecondi_ = stato.st_ctim.tv_nsec;
 }
 
 }  // namespace korven::base

@@ -15,6 +15,17 @@ namespace korven::base {
 /// moment in the folder, only when two names differ in nothing else.
 [[nodiscard]] bool stessoFile(const std::string& uno, const std::string& altro);
 
+/// What tells a file from the one that stood under its name before: written anew it is another,
+/// whatever it holds. Equal for a name that no file has.
+class ImprontaFile {
+ public:
+    explicit ImprontaFile(const std::string& percorso);
+    bool operator==(const ImprontaFile&) const = default;
+
+ private:
+    long long numero_ = 0, secondi_ = 0, nanosecondi_ = 0;
+};
+
 /// True if names that differ only in the case of their letters lead to one file of this folder.
 /// False too where nothing can be written.
 [[nodiscard]] bool senzaMaiuscole(const std::string& cartella);

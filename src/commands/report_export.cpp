@@ -5,6 +5,7 @@
 #include "analysis/output_guard.hpp"
 #include "base/code_page.hpp"
 #include "base/file_error.hpp"
+#include "base/file_identity.hpp"
 #include "base/file_names.hpp"
 #include "base/files.hpp"
 #include "base/program_folder.hpp"
@@ -146,9 +147,10 @@ std::string scriviDocumento(const std::string& relazione, base::AvviaProgramma& 
                             const std::string& outdoc) {
     std::string nome = base::nomeDocumento(relazione);
     analysis::controllaUscita(nome, relazione);
+    const base::ImprontaFile prima(nome);
     const auto codice = programmi.esegui(outdoc, {relazione});
     if (!codice) throw base::ErroreFile(outdoc, 0, traduttore("impossibile avviare il programma"));
-    if (*codice != 0 || !base::esisteFile(nome))
+    if (*codice != 0 || !base::esisteFile(nome) || base::ImprontaFile(nome) == prima)
         throw base::ErroreFile(nome, 0, traduttore("impossibile scrivere il file"));
     return nome;
 }

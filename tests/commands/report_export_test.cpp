@@ -240,8 +240,16 @@ TEST_F(ReportExport, RunsNoConverterOfTheProgramFolder) {
               Lines{"esegui " + base::cartellaEseguibile() + "/outdoc [" + report + "]"});
 }
 
+// A converter that ends well and leaves what stood there has made nothing.
+TEST_F(ReportExport, TakesADocumentThatWasThereBeforeForNone) {
+    test::metti(doc, "vecchio");
+    EXPECT_THROW((void)scriviDocumento(report, programs, "outdoc"), base::ErroreFile);
+    programs.alPosto = [this] { test::metti(doc, "nuovo"); };
+    EXPECT_EQ(scriviDocumento(report, programs, "outdoc"), doc);
+}
+
 TEST_F(ReportExport, TellsWhereTheDocumentIsWhenNothingShowsIt) {
-    test::metti(doc, "doc");
+    programs.alPosto = [this] { test::metti(doc, "doc"); };
     exportDoc();
     EXPECT_EQ(dialog.messaggi,
               (std::vector<test::DialogRecord::Box>{
