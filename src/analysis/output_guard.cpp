@@ -13,10 +13,9 @@ ProgettiProtetti progettiProtetti;
 
 namespace {
 
-[[noreturn]] void rifiuta(const std::string& percorso, const std::string& perso) {
-    throw base::ErroreFile(
-        percorso, 0,
-        base::traduttore("la scrittura prenderebbe il posto di un file letto") + ": " + perso);
+[[noreturn]] void rifiuta(const std::string& percorso, const std::string& perso,
+                          std::string_view motivo) {
+    throw base::ErroreFile(percorso, 0, base::traduttore(motivo) + ": " + perso);
 }
 
 }  // namespace
@@ -33,12 +32,14 @@ bool prendeIlPostoDelProgetto(const std::string& percorso) {
 
 void controllaUscita(const std::string& percorso, const std::string& origine) {
     if (const auto progetto = progettoColpito(percorso); !progetto.empty())
-        rifiuta(percorso, progetto);
+        rifiuta(percorso, progetto, "la scrittura prenderebbe il posto di un file letto");
     controllaCoppia(percorso, origine);
 }
 
 void controllaCoppia(const std::string& percorso, const std::string& altro) {
-    if (base::stessoFile(percorso, altro)) rifiuta(percorso, altro);
+    if (base::stessoFile(percorso, altro))
+        rifiuta(percorso, altro,
+                "la scrittura prenderebbe il posto di un altro file del comando o del progetto");
 }
 
 std::string motivoNome(const std::string& progetto) {

@@ -70,7 +70,8 @@ void AvanzamentoConsole::chiudi() {
 }
 
 void AvanzamentoConsole::attendi(std::string_view detto) {
-    if (mostra_ && !attesaDetta_) std::cerr << detto << '\n' << std::flush;
+    // No progress, but why nothing goes on: told however silent the run is.
+    if (!attesaDetta_) std::cerr << detto << '\n' << std::flush;
     attesaDetta_ = true;
     Avanzamento::attendi(detto);
 }

@@ -129,14 +129,19 @@ TEST(ControllaUscita, RefusesTheProjectAndTheFileThatTheOutputIsMadeFrom) {
     metti(progettiProtetti.letto, "x");
     metti(cartella / "muro.OUT", "x");
     fs::create_symlink(cartella / "muro.OUT", cartella / "via.TAB");
-    for (const char* nome : {"muro.TAB", "via.TAB", "muro.OUT"}) {
+    const std::string inizio = "la scrittura prenderebbe il posto di un ";
+    const std::string altro = inizio + "altro file del comando o del progetto: ";
+    const std::pair<const char*, std::string> casi[] = {
+        {"muro.TAB", inizio + "file letto: " + (cartella / "muro.TAB")},
+        {"via.TAB", altro + (cartella / "muro.OUT")},
+        {"muro.OUT", altro + (cartella / "muro.OUT")}};
+    for (const auto& [nome, motivo] : casi) {
         try {
             controllaUscita(cartella / nome, cartella / "muro.OUT");
             ADD_FAILURE() << nome;
         } catch (const base::ErroreFile& errore) {
             EXPECT_EQ(errore.percorso(), cartella / nome);
-            EXPECT_EQ(errore.atteso(), "la scrittura prenderebbe il posto di un file letto: " +
-                                           (cartella / (nome[0] == 'm' ? nome : "muro.OUT")));
+            EXPECT_EQ(errore.atteso(), motivo);
         }
     }
     EXPECT_NO_THROW(controllaUscita(cartella / "altro.TAB", cartella / "muro.OUT"));
