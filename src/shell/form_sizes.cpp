@@ -4,6 +4,7 @@
 #include <QScreen>
 #include <QStyle>
 #include <QWidget>
+#include <algorithm>
 
 namespace korven::shell {
 
@@ -12,13 +13,33 @@ QSettings ricordiFinestre() {
             QStringLiteral("finestre")};
 }
 
+namespace {
+
+constexpr QSize cornice(16, 48);
+
+// What is remembered may come from a larger screen, or from one with smaller letters.
+void portaSulloSchermo(QWidget& finestra) {
+    if (finestra.isMaximized() || finestra.isFullScreen()) return;
+    const QRect schermo = finestra.screen()->availableGeometry();
+    finestra.resize(finestra.size().boundedTo(misuraMassima(finestra)));
+    QRect intera(finestra.pos(), finestra.size() + cornice);
+    intera.moveRight(std::min(intera.right(), schermo.right()));
+    intera.moveBottom(std::min(intera.bottom(), schermo.bottom()));
+    intera.moveLeft(std::max(intera.left(), schermo.left()));
+    intera.moveTop(std::max(intera.top(), schermo.top()));
+    finestra.move(intera.topLeft());
+}
+
+}  // namespace
+
 bool ripristinaMisure(QWidget& finestra) {
     const QByteArray misure = ricordiFinestre().value(finestra.objectName()).toByteArray();
-    return !misure.isEmpty() && finestra.restoreGeometry(misure);
+    if (misure.isEmpty() || !finestra.restoreGeometry(misure)) return false;
+    portaSulloSchermo(finestra);
+    return true;
 }
 
 QSize misuraMassima(const QWidget& finestra) {
-    constexpr QSize cornice(16, 48);
     return finestra.screen()->availableSize() - cornice;
 }
 

@@ -11,7 +11,7 @@ namespace korven::shell {
 [[nodiscard]] QSettings ricordiFinestre();
 
 /// Gives a window the place and size that it had when `ricordaMisure` was last called for a window
-/// of its object name, in this run or one before.
+/// of its object name, in this run or one before, moved and made smaller as far as its screen asks.
 /// @return false when nothing is remembered; the window is then left as it is
 bool ripristinaMisure(QWidget& finestra);
 

@@ -157,12 +157,12 @@ TEST_F(Guida, MakesLettersLargerAndSmallerWithinBoundsAndRemembersThem) {
 }
 
 TEST_F(Guida, ClosesWithEscFromAnywhereAndRemembersItsSize) {
-    finestra.resize(801, 555);
+    finestra.resize(701, 555);
     cerca().setFocus();
     QTest::keyClick(&cerca(), Qt::Key_Escape);
     EXPECT_FALSE(finestra.isVisible());
     const FinestraGuida altra(commands::leggiGuida("m.hlp", test::guidaPiccola()));
-    EXPECT_EQ(altra.size(), QSize(801, 555));
+    EXPECT_EQ(altra.size(), QSize(701, 555));
 }
 
 TEST_F(Guida, NamesEveryControlForThoseWhoDoNotSee) {
