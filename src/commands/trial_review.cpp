@@ -24,7 +24,10 @@ class SenzaVista : public analysis::Avanzamento {
 
 std::string inUnaRiga(const std::vector<std::string>& righe) {
     std::string testo;
-    for (const auto& riga : righe) testo += (testo.empty() ? "" : " ") + riga;
+    for (const auto& riga : righe) {
+        if (!testo.empty()) testo += testo.back() == ':' || testo.back() == '.' ? " " : "; ";
+        testo += riga;
+    }
     return testo;
 }
 

@@ -118,5 +118,15 @@ TEST(Mostrabile, IsAProjectWhoseValuesAreNumbersInTheUnitOfTheReport) {
     }
 }
 
+TEST(ProvaCalcolo, PartsWhatFlipsInAStageWithoutRest) {
+    const auto rilievo = provaCalcolo(test::progettoSemplice(), 3);
+    ASSERT_TRUE(rilievo);
+    const std::string testo = rilievo->testo;
+    const auto inizio = testo.find("cambiano stato: ");
+    ASSERT_NE(inizio, std::string::npos) << testo;
+    EXPECT_NE(testo.find("; ", inizio), std::string::npos) << testo;
+    EXPECT_EQ(testo.find('\n'), std::string::npos) << testo;
+}
+
 }  // namespace
 }  // namespace korven::commands
