@@ -11,7 +11,7 @@
 #include "base/file_names.hpp"
 #include "commands/project_commands.hpp"
 #include "example_run.hpp"
-#include "shell/progress_qt.hpp"
+#include "shell/run/progress_qt.hpp"
 #include "support/quiet_ports.hpp"
 #include "support/temporary_folder.hpp"
 

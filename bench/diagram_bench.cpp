@@ -6,10 +6,10 @@
 #include "base/file_names.hpp"
 #include "base/program_folder.hpp"
 #include "commands/diagram_output.hpp"
+#include "drawings/result_diagram.hpp"
 #include "example_run.hpp"
 #include "plot/plot_configuration.hpp"
 #include "plot/plot_engine.hpp"
-#include "report/result_diagram.hpp"
 #include "support/quiet_ports.hpp"
 #include "support/temporary_folder.hpp"
 

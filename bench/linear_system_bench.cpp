@@ -6,8 +6,8 @@
 #include <cstddef>
 #include <memory>
 
-#include "analysis/linear_system.hpp"
 #include "analysis/plastic_iteration.hpp"
+#include "analysis/solver/linear_system.hpp"
 #include "example_run.hpp"
 #include "support/reference_solver.hpp"
 #include "yardsticks.hpp"

@@ -4,11 +4,11 @@
 #include <random>
 
 #include "base/program_folder.hpp"
+#include "drawings/hatch_library.hpp"
+#include "drawings/stratigraphic_log.hpp"
 #include "plot/plot_configuration.hpp"
 #include "plot/plot_dxf.hpp"
 #include "plot/plot_engine.hpp"
-#include "report/hatch_library.hpp"
-#include "report/stratigraphic_log.hpp"
 #include "support/hatch_files.hpp"
 #include "support/temporary_folder.hpp"
 

@@ -6,10 +6,10 @@
 
 #include "base/text_lines.hpp"
 #include "largest_report.hpp"
-#include "report/character_widths.hpp"
-#include "report/estimated_width.hpp"
-#include "report/preview_renderer.hpp"
-#include "report/print_renderer.hpp"
+#include "markup/character_widths.hpp"
+#include "markup/estimated_width.hpp"
+#include "markup/preview_renderer.hpp"
+#include "markup/print_renderer.hpp"
 
 // The largest report there can be, laid out on pages and in the list of the preview, without Qt.
 

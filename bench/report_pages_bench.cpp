@@ -7,8 +7,8 @@
 
 #include "device/report_pages.hpp"
 #include "largest_report.hpp"
-#include "report/print_renderer.hpp"
-#include "shell/form1.hpp"
+#include "markup/print_renderer.hpp"
+#include "shell/report/form1.hpp"
 #include "support/quiet_ports.hpp"
 #include "support/temporary_folder.hpp"
 

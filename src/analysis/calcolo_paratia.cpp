@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "analysis/input_checks.hpp"
-#include "analysis/output_guard.hpp"
 #include "analysis/result_file.hpp"
 #include "analysis/run_flags.hpp"
 #include "analysis/segment_count.hpp"
@@ -15,6 +14,7 @@
 #include "base/files.hpp"
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
+#include "project/output_guard.hpp"
 #include "project/project_file.hpp"
 #include "structure/partial_factors.hpp"
 #include "structure/stiffness_update.hpp"

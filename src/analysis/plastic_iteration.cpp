@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "analysis/linear_system.hpp"
+#include "analysis/solver/linear_system.hpp"
 #include "analysis/wall_mesh.hpp"
 
 namespace korven::analysis {

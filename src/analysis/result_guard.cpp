@@ -2,13 +2,13 @@
 
 #include <set>
 
-#include "analysis/output_guard.hpp"
 #include "analysis/run_flags.hpp"
 #include "analysis/unfinished_results.hpp"
 #include "base/file_error.hpp"
 #include "base/file_identity.hpp"
 #include "base/files.hpp"
 #include "base/translated_texts.hpp"
+#include "project/output_guard.hpp"
 
 namespace korven::analysis {
 

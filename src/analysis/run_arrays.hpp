@@ -5,7 +5,7 @@
 #include "analysis/node_vector.hpp"
 #include "analysis/progress.hpp"
 #include "analysis/soil_state.hpp"
-#include "analysis/system_matrix.hpp"
+#include "analysis/solver/system_matrix.hpp"
 #include "project/project_data.hpp"
 
 namespace korven::analysis {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "analysis/node_vector.hpp"
-#include "analysis/system_matrix.hpp"
+#include "analysis/solver/system_matrix.hpp"
 
 namespace korven::analysis {
 

@@ -2,7 +2,6 @@
 
 #include <optional>
 
-#include "analysis/output_guard.hpp"
 #include "base/file_error.hpp"
 #include "base/file_identity.hpp"
 #include "base/file_names.hpp"
@@ -16,6 +15,7 @@
 #include "plot/plot_dxf.hpp"
 #include "plot/plot_engine.hpp"
 #include "plot/text_width.hpp"
+#include "project/output_guard.hpp"
 #include "project/project_data.hpp"
 
 namespace korven::batch {

@@ -14,10 +14,10 @@
 #include "batch/report_output.hpp"
 #include "commands/diagram_output.hpp"
 #include "commands/log_limit.hpp"
+#include "drawings/hatch_samples.hpp"
+#include "drawings/section_drawing.hpp"
+#include "drawings/stratigraphic_log.hpp"
 #include "project/project_data.hpp"
-#include "report/hatch_samples.hpp"
-#include "report/stratigraphic_log.hpp"
-#include "structure/section_drawing.hpp"
 
 namespace korven::batch {
 

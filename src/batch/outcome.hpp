@@ -4,9 +4,9 @@
 #include <string>
 #include <vector>
 
+#include "analysis/watch/run_control.hpp"
 #include "commands/project_commands.hpp"
-#include "commands/project_review.hpp"
-#include "commands/run_control.hpp"
+#include "review/project_review.hpp"
 
 namespace korven::batch {
 

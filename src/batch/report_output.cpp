@@ -1,6 +1,5 @@
 #include "batch/report_output.hpp"
 
-#include "analysis/output_guard.hpp"
 #include "base/file_error.hpp"
 #include "base/file_names.hpp"
 #include "base/processi.hpp"
@@ -10,11 +9,12 @@
 #include "batch/interruption.hpp"
 #include "batch/output_names.hpp"
 #include "commands/output_title.hpp"
-#include "commands/project_review.hpp"
 #include "commands/report_export.hpp"
 #include "device/report_pages.hpp"
+#include "markup/print_renderer.hpp"
+#include "project/output_guard.hpp"
 #include "project/project_data.hpp"
-#include "report/print_renderer.hpp"
+#include "review/project_review.hpp"
 
 namespace korven::batch {
 

@@ -1,6 +1,6 @@
 #include "commands/diagram_output.hpp"
 
-#include "report/result_diagram.hpp"
+#include "drawings/result_diagram.hpp"
 
 namespace korven::commands {
 

@@ -4,13 +4,13 @@
 #include <system_error>
 #include <utility>
 
-#include "analysis/output_guard.hpp"
 #include "base/file_error.hpp"
 #include "base/files.hpp"
 #include "base/translated_texts.hpp"
 #include "commands/document_names.hpp"
 #include "commands/last_folder.hpp"
 #include "commands/project_commands.hpp"
+#include "project/output_guard.hpp"
 #include "project/project_data.hpp"
 #include "project/project_file.hpp"
 

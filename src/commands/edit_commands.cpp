@@ -8,7 +8,7 @@
 #include "base/table.hpp"
 #include "base/translated_texts.hpp"
 #include "commands/fatal_error.hpp"
-#include "project/mask_editing.hpp"
+#include "masks/mask_editing.hpp"
 #include "project/project_data.hpp"
 
 namespace korven::commands {

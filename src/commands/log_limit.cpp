@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "commands/review_list.hpp"
+#include "review/review_list.hpp"
 
 namespace korven::commands {
 

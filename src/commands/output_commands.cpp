@@ -15,12 +15,12 @@
 #include "commands/diagram_output.hpp"
 #include "commands/log_limit.hpp"
 #include "commands/project_commands.hpp"
+#include "drawings/section_drawing.hpp"
+#include "drawings/stratigraphic_log.hpp"
 #include "plot/drawing_stop.hpp"
 #include "plot/drawing_watch.hpp"
 #include "plot/plot_engine.hpp"
 #include "project/project_data.hpp"
-#include "report/stratigraphic_log.hpp"
-#include "structure/section_drawing.hpp"
 
 namespace korven::commands {
 

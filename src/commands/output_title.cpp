@@ -2,7 +2,7 @@
 
 #include <filesystem>
 
-#include "analysis/output_guard.hpp"
+#include "project/output_guard.hpp"
 #include "project/project_data.hpp"
 
 namespace korven::commands {

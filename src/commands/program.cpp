@@ -1,12 +1,12 @@
 #include "commands/program.hpp"
 
 #include "analysis/run_flags.hpp"
+#include "analysis/watch/followed_run.hpp"
 #include "commands/document_names.hpp"
 #include "commands/edit_commands.hpp"
 #include "commands/fatal_error.hpp"
-#include "commands/followed_run.hpp"
-#include "commands/help_contexts.hpp"
 #include "commands/output_commands.hpp"
+#include "help/help_contexts.hpp"
 #include "project/project_data.hpp"
 
 namespace korven::commands {

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "commands/menu_tree.hpp"
-#include "project/mask_values.hpp"
+#include "masks/mask_values.hpp"
 
 namespace korven::commands {
 

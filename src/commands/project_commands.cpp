@@ -5,16 +5,16 @@
 #include <filesystem>
 
 #include "analysis/anchors_in_place.hpp"
-#include "analysis/output_guard.hpp"
 #include "base/file_error.hpp"
 #include "base/file_names.hpp"
 #include "base/files.hpp"
 #include "base/leftovers.hpp"
 #include "base/text_lines.hpp"
 #include "base/translated_texts.hpp"
+#include "markup/text_renderer.hpp"
+#include "project/output_guard.hpp"
 #include "project/project_file.hpp"
 #include "report/calculation_report.hpp"
-#include "report/text_renderer.hpp"
 
 namespace korven::commands {
 

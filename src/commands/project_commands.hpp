@@ -7,7 +7,7 @@
 
 #include "analysis/calcolo_paratia.hpp"
 #include "analysis/result_file.hpp"
-#include "report/structure_checks.hpp"
+#include "results/structure_checks.hpp"
 
 namespace korven::commands {
 

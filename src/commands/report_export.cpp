@@ -2,7 +2,6 @@
 
 #include <cstdlib>
 
-#include "analysis/output_guard.hpp"
 #include "base/code_page.hpp"
 #include "base/file_error.hpp"
 #include "base/file_identity.hpp"
@@ -12,7 +11,8 @@
 #include "base/text_lines.hpp"
 #include "base/translated_texts.hpp"
 #include "commands/project_commands.hpp"
-#include "report/text_renderer.hpp"
+#include "markup/text_renderer.hpp"
+#include "project/output_guard.hpp"
 
 namespace korven::commands {
 

@@ -2,7 +2,7 @@
 
 #include "base/files.hpp"
 #include "base/translated_texts.hpp"
-#include "report/print_renderer.hpp"
+#include "markup/print_renderer.hpp"
 
 namespace korven::commands {
 

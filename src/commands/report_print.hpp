@@ -5,7 +5,7 @@
 #include <string>
 
 #include "base/dialogo.hpp"
-#include "report/report_printer.hpp"
+#include "markup/report_printer.hpp"
 
 namespace korven::commands {
 

@@ -5,7 +5,7 @@
 
 #include "commands/document.hpp"
 #include "commands/language_start.hpp"
-#include "project/mask_values.hpp"
+#include "masks/mask_values.hpp"
 
 namespace korven::commands {
 

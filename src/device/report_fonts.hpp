@@ -7,8 +7,8 @@
 #include <string_view>
 #include <tuple>
 
-#include "report/character_widths.hpp"
-#include "report/report_printer.hpp"
+#include "markup/character_widths.hpp"
+#include "markup/report_printer.hpp"
 
 namespace korven::device {
 

@@ -13,7 +13,7 @@
 #include "device/print_outcome.hpp"
 #include "device/qt_text.hpp"
 #include "device/report_fonts.hpp"
-#include "report/reset_arguments.hpp"
+#include "markup/reset_arguments.hpp"
 
 namespace korven::device {
 

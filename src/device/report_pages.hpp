@@ -5,7 +5,7 @@
 #include <memory>
 #include <string>
 
-#include "report/report_printer.hpp"
+#include "markup/report_printer.hpp"
 
 class QPrinter;
 

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "report/estimated_width.hpp"
-#include "report/report_page.hpp"
-#include "report/table_style.hpp"
+#include "markup/estimated_width.hpp"
+#include "markup/report_page.hpp"
+#include "markup/table_style.hpp"
 
 namespace korven::outdoc {
 

@@ -4,9 +4,9 @@
 #include <string_view>
 #include <vector>
 
+#include "markup/markup_cells.hpp"
+#include "markup/table_fitting.hpp"
 #include "outdoc/paragraph.hpp"
-#include "report/markup_cells.hpp"
-#include "report/table_fitting.hpp"
 
 // Tables and lists of a word-processor file.
 

@@ -3,8 +3,8 @@
 #include <string>
 #include <string_view>
 
-#include "report/report_printer.hpp"
-#include "report/reset_arguments.hpp"
+#include "markup/report_printer.hpp"
+#include "markup/reset_arguments.hpp"
 
 namespace korven::outdoc {
 

@@ -10,9 +10,9 @@
 #include "base/file_names.hpp"
 #include "base/files.hpp"
 #include "base/translated_texts.hpp"
+#include "markup/estimated_width.hpp"
 #include "outdoc/document_blocks.hpp"
 #include "outdoc/earlier_document.hpp"
-#include "report/estimated_width.hpp"
 
 namespace korven::outdoc {
 

@@ -5,12 +5,12 @@
 #include <string_view>
 
 #include "base/text_lines.hpp"
+#include "markup/markup_cells.hpp"
+#include "markup/markup_reader.hpp"
+#include "markup/report_printer.hpp"
+#include "markup/table_fitting.hpp"
 #include "outdoc/document_parts.hpp"
 #include "outdoc/paragraph.hpp"
-#include "report/markup_cells.hpp"
-#include "report/markup_reader.hpp"
-#include "report/report_printer.hpp"
-#include "report/table_fitting.hpp"
 
 namespace korven::outdoc {
 

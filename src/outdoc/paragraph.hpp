@@ -4,8 +4,8 @@
 #include <string_view>
 #include <vector>
 
-#include "report/report_printer.hpp"
-#include "report/scan_state.hpp"
+#include "markup/report_printer.hpp"
+#include "markup/scan_state.hpp"
 
 // Paragraphs of a word-processor file in its XML (WordprocessingML). Lengths in it are twentieths
 // of a point.

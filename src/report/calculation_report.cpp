@@ -2,10 +2,10 @@
 
 #include <filesystem>
 
-#include "analysis/output_guard.hpp"
 #include "base/code_page.hpp"
 #include "base/file_names.hpp"
 #include "base/files.hpp"
+#include "project/output_guard.hpp"
 #include "report/report_footer.hpp"
 #include "report/report_sections.hpp"
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "report/report_data.hpp"
+#include "results/report_data.hpp"
 
 namespace korven::report {
 

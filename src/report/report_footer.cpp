@@ -7,8 +7,8 @@
 #include "base/code_page.hpp"
 #include "base/translated_texts.hpp"
 #include "base/version.hpp"
-#include "report/estimated_width.hpp"
-#include "report/report_page.hpp"
+#include "markup/estimated_width.hpp"
+#include "markup/report_page.hpp"
 
 namespace korven::report {
 

@@ -2,8 +2,8 @@
 
 #include <string_view>
 
-#include "report/report_data.hpp"
 #include "report/report_lines.hpp"
+#include "results/report_data.hpp"
 
 // The sections of the calculation report, in its order. Values are shown in kN, m, cm of
 // displacement and mm of section, though the data hold tonnes, metres and centimetres.

@@ -1,5 +1,5 @@
 #include "report/report_sections.hpp"
-#include "report/structure_checks.hpp"
+#include "results/structure_checks.hpp"
 #include "structure/section_type.hpp"
 #include "structure/section_validity.hpp"
 

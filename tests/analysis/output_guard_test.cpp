@@ -1,4 +1,4 @@
-#include "analysis/output_guard.hpp"
+#include "project/output_guard.hpp"
 
 #include <gtest/gtest.h>
 

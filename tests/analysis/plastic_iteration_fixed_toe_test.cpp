@@ -5,8 +5,8 @@
 
 #include <cmath>
 
-#include "analysis/linear_system.hpp"
 #include "analysis/plastic_iteration.hpp"
+#include "analysis/solver/linear_system.hpp"
 #include "analysis/wall_mesh.hpp"
 #include "support/run_arrays_setup.hpp"
 

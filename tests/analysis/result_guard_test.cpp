@@ -4,8 +4,8 @@
 
 #include <algorithm>
 
-#include "analysis/output_guard.hpp"
 #include "base/file_error.hpp"
+#include "project/output_guard.hpp"
 #include "support/run_harness.hpp"
 #include "support/sample_projects.hpp"
 

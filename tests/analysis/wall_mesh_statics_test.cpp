@@ -4,7 +4,7 @@
 
 #include <cmath>
 
-#include "analysis/linear_system.hpp"
+#include "analysis/solver/linear_system.hpp"
 #include "analysis/wall_mesh.hpp"
 
 namespace korven::analysis {

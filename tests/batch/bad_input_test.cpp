@@ -1,7 +1,7 @@
 #include <sys/stat.h>
 
 #include "batch_bench.hpp"
-#include "structure/sample_sections.hpp"
+#include "support/sample_sections.hpp"
 
 namespace korven::batch {
 namespace {

@@ -4,11 +4,11 @@
 
 #include <filesystem>
 
-#include "analysis/output_guard.hpp"
 #include "base/file_error.hpp"
 #include "base/files.hpp"
 #include "base/table.hpp"
 #include "base/value_error.hpp"
+#include "project/output_guard.hpp"
 #include "project/project_data.hpp"
 #include "support/temporary_folder.hpp"
 

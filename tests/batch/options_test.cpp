@@ -1,5 +1,5 @@
 #include "batch_bench.hpp"
-#include "structure/sample_sections.hpp"
+#include "support/sample_sections.hpp"
 
 namespace korven::batch {
 namespace {

@@ -5,7 +5,7 @@
 
 #include "base/number_text.hpp"
 #include "batch_bench.hpp"
-#include "structure/sample_sections.hpp"
+#include "support/sample_sections.hpp"
 
 namespace korven::batch {
 namespace {

@@ -1,7 +1,7 @@
 #include <sstream>
 
 #include "batch_bench.hpp"
-#include "structure/sample_sections.hpp"
+#include "support/sample_sections.hpp"
 
 namespace korven::batch {
 namespace {

@@ -4,7 +4,7 @@
 
 #include "base/table.hpp"
 #include "commands/fatal_error.hpp"
-#include "project/edited_tables.hpp"
+#include "masks/edited_tables.hpp"
 #include "support/document_ports.hpp"
 #include "support/plain_masks.hpp"
 #include "support/sample_projects.hpp"

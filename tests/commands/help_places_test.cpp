@@ -1,9 +1,9 @@
-#include "commands/help_places.hpp"
+#include "help/help_places.hpp"
 
 #include <gtest/gtest.h>
 
-#include "commands/help_contexts.hpp"
 #include "commands/menu_tree.hpp"
+#include "help/help_contexts.hpp"
 
 namespace korven::commands {
 namespace {

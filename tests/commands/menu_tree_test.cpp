@@ -6,7 +6,7 @@
 #include <set>
 #include <string>
 
-#include "commands/help_contexts.hpp"
+#include "help/help_contexts.hpp"
 
 namespace korven::commands {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "analysis/output_guard.hpp"
+#include "project/output_guard.hpp"
 #include "project/project_data.hpp"
 
 namespace korven::commands {

@@ -5,10 +5,10 @@
 #include <cstdlib>
 #include <filesystem>
 
-#include "analysis/output_guard.hpp"
 #include "base/code_page.hpp"
 #include "base/file_error.hpp"
 #include "base/program_folder.hpp"
+#include "project/output_guard.hpp"
 #include "support/dialog_record.hpp"
 #include "support/started_programs.hpp"
 #include "support/temporary_folder.hpp"

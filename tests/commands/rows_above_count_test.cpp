@@ -10,9 +10,9 @@
 
 #include "commands/diagram_output.hpp"
 #include "commands/project_commands.hpp"
-#include "commands/project_review.hpp"
-#include "project/edited_tables.hpp"
-#include "report/stratigraphic_log.hpp"
+#include "drawings/stratigraphic_log.hpp"
+#include "masks/edited_tables.hpp"
+#include "review/project_review.hpp"
 #include "support/log_setup.hpp"
 #include "support/run_harness.hpp"
 #include "support/sample_projects.hpp"

@@ -10,7 +10,7 @@
 #include "base/text_lines.hpp"
 #include "device/graphics_session.hpp"
 #include "device/report_fonts.hpp"
-#include "report/print_renderer.hpp"
+#include "markup/print_renderer.hpp"
 #include "support/file_limit.hpp"
 #include "support/page_record.hpp"
 #include "support/pdf_pages.hpp"

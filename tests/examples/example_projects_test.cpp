@@ -9,12 +9,12 @@
 
 #include "base/code_page.hpp"
 #include "base/program_folder.hpp"
-#include "commands/project_review.hpp"
+#include "drawings/hatch_library.hpp"
+#include "drawings/layer_description.hpp"
 #include "project/project_file.hpp"
 #include "report/calculation_report.hpp"
-#include "report/hatch_library.hpp"
-#include "report/layer_description.hpp"
-#include "report/report_data.hpp"
+#include "results/report_data.hpp"
+#include "review/project_review.hpp"
 #include "support/run_harness.hpp"
 
 namespace korven {

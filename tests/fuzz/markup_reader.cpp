@@ -1,12 +1,12 @@
-#include "report/markup_reader.hpp"
+#include "markup/markup_reader.hpp"
 
 #include "base/file_error.hpp"
 #include "fuzz_target.hpp"
-#include "report/preview_renderer.hpp"
-#include "report/print_renderer.hpp"
-#include "report/reset_arguments.hpp"
-#include "report/table_style.hpp"
-#include "report/text_renderer.hpp"
+#include "markup/preview_renderer.hpp"
+#include "markup/print_renderer.hpp"
+#include "markup/reset_arguments.hpp"
+#include "markup/table_style.hpp"
+#include "markup/text_renderer.hpp"
 
 // Any bytes as a report in mark-up, read as each of the three renderers reads it, printed, shown
 // and exported as plain text. Only a table beyond its capacity is refused.

@@ -2,13 +2,13 @@
 
 #include <gtest/gtest.h>
 
-#include "analysis/output_guard.hpp"
 #include "base/code_page.hpp"
 #include "base/file_error.hpp"
 #include "base/translated_texts.hpp"
-#include "structure/sample_sections.hpp"
+#include "project/output_guard.hpp"
 #include "support/hand_written_results.hpp"
 #include "support/sample_projects.hpp"
+#include "support/sample_sections.hpp"
 
 namespace korven::report {
 namespace {

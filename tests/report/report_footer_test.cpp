@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "base/version.hpp"
-#include "report/estimated_width.hpp"
+#include "markup/estimated_width.hpp"
 #include "support/report_text.hpp"
 
 namespace korven::report {

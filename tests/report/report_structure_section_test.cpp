@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
 #include "report/report_sections.hpp"
-#include "structure/sample_sections.hpp"
 #include "support/report_text.hpp"
+#include "support/sample_sections.hpp"
 
 namespace korven::report {
 namespace {

@@ -8,7 +8,7 @@
 
 #include "analysis/run_flags.hpp"
 #include "shell/application.hpp"
-#include "shell/progress_qt.hpp"
+#include "shell/run/progress_qt.hpp"
 #include "support/document_ports.hpp"
 #include "support/sample_projects.hpp"
 

@@ -8,10 +8,10 @@
 
 #include "base/text_table.hpp"
 #include "base/translated_texts.hpp"
-#include "shell/definej.hpp"
-#include "shell/informazioni.hpp"
-#include "shell/menu1.hpp"
-#include "shell/temp_calc.hpp"
+#include "shell/main/informazioni.hpp"
+#include "shell/main/menu1.hpp"
+#include "shell/run/temp_calc.hpp"
+#include "shell/section/definej.hpp"
 #include "support/dialog_record.hpp"
 #include "support/form_setup.hpp"
 

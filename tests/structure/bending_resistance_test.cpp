@@ -5,8 +5,8 @@
 #include <cmath>
 #include <utility>
 
-#include "sample_sections.hpp"
 #include "structure/strip_areas.hpp"
+#include "support/sample_sections.hpp"
 
 namespace korven::structure {
 namespace {

@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "base/table.hpp"
-#include "sample_sections.hpp"
+#include "support/sample_sections.hpp"
 
 namespace korven::structure {
 namespace {

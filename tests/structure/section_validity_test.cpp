@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "project/project_data.hpp"
-#include "sample_sections.hpp"
+#include "support/sample_sections.hpp"
 
 namespace korven::structure {
 namespace {

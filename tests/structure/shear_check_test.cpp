@@ -8,7 +8,7 @@
 #include <utility>
 #include <vector>
 
-#include "sample_sections.hpp"
+#include "support/sample_sections.hpp"
 
 namespace korven::structure {
 namespace {

@@ -6,7 +6,7 @@
 #include <numbers>
 #include <utility>
 
-#include "sample_sections.hpp"
+#include "support/sample_sections.hpp"
 
 namespace korven::structure {
 namespace {

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "sample_sections.hpp"
+#include "support/sample_sections.hpp"
 
 namespace korven::structure {
 namespace {

@@ -5,7 +5,7 @@
 #include <cmath>
 #include <numbers>
 
-#include "sample_sections.hpp"
+#include "support/sample_sections.hpp"
 
 namespace korven::structure {
 namespace {

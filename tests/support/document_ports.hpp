@@ -6,10 +6,10 @@
 #include <string>
 #include <vector>
 
-#include "analysis/output_guard.hpp"
 #include "base/program_folder.hpp"
 #include "base/translated_texts.hpp"
 #include "commands/document_ports.hpp"
+#include "project/output_guard.hpp"
 #include "project/project_data.hpp"
 #include "support/recording_ports.hpp"
 #include "support/temporary_folder.hpp"

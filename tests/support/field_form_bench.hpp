@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-#include "shell/base1.hpp"
+#include "shell/masks/base1.hpp"
 #include "support/dialog_record.hpp"
 #include "support/form_setup.hpp"
 #include "support/mask_setup.hpp"

@@ -12,7 +12,7 @@
 #include <string>
 #include <vector>
 
-#include "shell/base2_32.hpp"
+#include "shell/masks/base2_32.hpp"
 #include "support/dialog_script.hpp"
 #include "support/form_setup.hpp"
 #include "support/mask_setup.hpp"

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "base/number_text.hpp"
-#include "report/hatch_library.hpp"
+#include "drawings/hatch_library.hpp"
 #include "support/temporary_folder.hpp"
 
 namespace korven::test {

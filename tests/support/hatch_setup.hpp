@@ -1,6 +1,6 @@
 #pragma once
 
-#include "report/hatch_library.hpp"
+#include "drawings/hatch_library.hpp"
 #include "support/drawing_by_pen.hpp"
 #include "support/hatch_files.hpp"
 

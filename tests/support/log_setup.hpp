@@ -5,9 +5,9 @@
 #include <vector>
 
 #include "base/code_page.hpp"
+#include "drawings/stratigraphic_log.hpp"
 #include "plot/text_width.hpp"
 #include "project/project_data.hpp"
-#include "report/stratigraphic_log.hpp"
 #include "support/hatch_setup.hpp"
 
 namespace korven::test {

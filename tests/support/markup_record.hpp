@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "report/markup_reader.hpp"
+#include "markup/markup_reader.hpp"
 
 namespace korven::test {
 

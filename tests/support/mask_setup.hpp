@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "project/mask.hpp"
+#include "masks/mask.hpp"
 
 namespace korven::test {
 

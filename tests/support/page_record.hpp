@@ -6,8 +6,8 @@
 
 #include "base/code_page.hpp"
 #include "base/text_lines.hpp"
-#include "report/preview_renderer.hpp"
-#include "report/print_renderer.hpp"
+#include "markup/preview_renderer.hpp"
+#include "markup/print_renderer.hpp"
 
 namespace korven::test {
 

@@ -4,7 +4,7 @@
 #include <utility>
 #include <vector>
 
-#include "analysis/linear_system.hpp"
+#include "analysis/solver/linear_system.hpp"
 
 namespace korven::test {
 

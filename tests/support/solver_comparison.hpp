@@ -6,8 +6,8 @@
 #include <cmath>
 #include <cstdint>
 
-#include "analysis/linear_system.hpp"
-#include "analysis/vector_lanes.hpp"
+#include "analysis/solver/linear_system.hpp"
+#include "analysis/solver/vector_lanes.hpp"
 #include "support/reference_solver.hpp"
 
 namespace korven::test {

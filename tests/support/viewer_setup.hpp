@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "project/project_data.hpp"
-#include "shell/grafica_viewer.hpp"
+#include "shell/viewer/viewer.hpp"
 #include "support/dialog_record.hpp"
 #include "support/drawing_by_pen.hpp"
 #include "support/form_setup.hpp"

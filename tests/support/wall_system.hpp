@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "analysis/linear_system.hpp"
+#include "analysis/solver/linear_system.hpp"
 
 namespace korven::test {
 

@@ -12,8 +12,8 @@
 #include "base/program_folder.hpp"
 #include "base/text_lines.hpp"
 #include "commands/example_folders.hpp"
+#include "drawings/layer_description.hpp"
 #include "project/project_file.hpp"
-#include "report/layer_description.hpp"
 #include "tools/example_source.hpp"
 
 namespace korven {

@@ -4,7 +4,7 @@
 
 #include "base/program_folder.hpp"
 #include "base/translated_texts.hpp"
-#include "report/estimated_width.hpp"
+#include "markup/estimated_width.hpp"
 #include "report/report_footer.hpp"
 
 namespace korven::report {

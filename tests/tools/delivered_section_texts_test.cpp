@@ -6,10 +6,10 @@
 
 #include "base/program_folder.hpp"
 #include "base/translated_texts.hpp"
+#include "drawings/dimension_lines.hpp"
+#include "drawings/section_drawing.hpp"
 #include "plot/line_clip.hpp"
 #include "plot/plot_engine.hpp"
-#include "structure/dimension_lines.hpp"
-#include "structure/section_drawing.hpp"
 #include "support/plot_text.hpp"
 
 // The section drawing with the texts that the program is delivered with, in its six languages.

@@ -23,10 +23,6 @@ namespace {
 namespace fs = std::filesystem;
 using Texts = std::vector<std::string>;
 
-constexpr const char* folders[] = {"base",     "project", "plot",     "structure",
-                                   "analysis", "report",  "commands", "device",
-                                   "batch",    "outdoc",  "shell",    "desktop"};
-
 // Files whose literals are all none.
 const std::map<std::string, std::string> silentFiles = {
     {"batch/outcome_json.cpp", "names of fields, the same in all languages"},
@@ -34,21 +30,21 @@ const std::map<std::string, std::string> silentFiles = {
     {"base/language.hpp", "an error from before a language is chosen"},
     {"base/text_table.cpp", "errors of the table of texts itself"},
     {"base/table.hpp", "an index beyond a table, which the translation may meet itself"},
-    {"analysis/vector_lanes.hpp", "names of processors"},
+    {"analysis/solver/vector_lanes.hpp", "names of processors"},
     {"plot/dxf_tables.cpp", "words of the DXF format"},
     {"outdoc/document_blocks.cpp", "words of the file"},
     {"outdoc/document_page.cpp", "words of the file"},
     {"outdoc/document_parts.cpp", "words of the file"},
     {"outdoc/document_parts.hpp", "names of styles"},
     {"outdoc/paragraph.cpp", "words of the file, a font"},
-    {"analysis/vector_lanes.cpp", "names of processors"},
+    {"analysis/solver/vector_lanes.cpp", "names of processors"},
     {"device/drawing_fonts.cpp", "names of fonts"},
     {"device/svg_writer.cpp", "words of the file"},
     {"batch/paper.cpp", "names of sheets, the same in all languages"},
-    {"commands/help_text.cpp", "tags, names of letters"},
-    {"shell/guida_browser.cpp", "style and addresses of the pages"},
+    {"help/help_text.cpp", "tags, names of letters"},
+    {"shell/help/browser.cpp", "style and addresses of the pages"},
     {"shell/form_sizes.cpp", "names of the user's settings"},
-    {"shell/grafica_icons.cpp", "drawings of icons and their names"},
+    {"shell/viewer/icons.cpp", "drawings of icons and their names"},
     {"shell/toolkit_texts.cpp", "words of Qt's own texts"},
 };
 
@@ -162,10 +158,10 @@ const std::map<std::string, Texts> noTexts = {
     {"commands/language_start.cpp",
      {"language.cfg", "module", "hlp", "eng", "fra", "deu", "ita", "esp", "por", "cfg",
       "testmode.tra", "texts01.txt", "texts32.txt", "texts", ".txt"}},
-    {"commands/help_file.cpp", {"@capitolo", "@pagina", "<a name=\\\""}},
-    {"commands/help_search.cpp", {"…"}},
-    {"commands/help_file.hpp", {"KORVEN 32 HLP 1"}},
-    {"commands/help_places.cpp",
+    {"help/help_file.cpp", {"@capitolo", "@pagina", "<a name=\\\""}},
+    {"help/help_search.cpp", {"…"}},
+    {"help/help_file.hpp", {"KORVEN 32 HLP 1"}},
+    {"help/help_places.cpp",
      {"GRAFICA", "Editacfg", "ConfStampa", "TempCalc", "guida", "INFORMAZIONI", "selezling",
       "DefinEJ", "Form1", "apri", "salva", "base1", "campo"}},
     {"commands/last_folder.cpp", {"path", "data"}},
@@ -204,44 +200,45 @@ const std::map<std::string, Texts> noTexts = {
       "about"}},
     {"commands/user_folder.cpp", {".rtn", ".mav", ".hlp", "texts", ".txt", "data"}},
     {"desktop/main.cpp", {"korven32", "/korven32.svg"}},
-    {"shell/definej.cpp", {"DefinEJ", "contestoAiuto", "schizzo", "Labelhelp"}},
-    {"shell/base1.cpp", {"base1", "Label1", "Combo1", "Labelhelp"}},
-    {"shell/base2_32.cpp", {"base2_32", "Label1"}},
-    {"shell/grid_view.cpp", {"MSFlexGrid1", "angolo"}},
-    {"shell/mask_form.cpp", {"contestoAiuto"}},
+    {"shell/section/definej.cpp", {"DefinEJ", "contestoAiuto", "schizzo", "Labelhelp"}},
+    {"shell/masks/base1.cpp", {"base1", "Label1", "Combo1", "Labelhelp"}},
+    {"shell/masks/base2_32.cpp", {"base2_32", "Label1"}},
+    {"shell/masks/grid_view.cpp", {"MSFlexGrid1", "angolo"}},
+    {"shell/masks/mask_form.cpp", {"contestoAiuto"}},
     {"shell/dialogo_qt.cpp", {"messaggio", "annulla"}},
     {"shell/file_dialogs_qt.cpp",
      {"apri", "salva", "Korven 32 (*.[kK][vV][dD])", "lookInLabel", "lookInCombo", "fileTypeLabel",
       "fileTypeCombo"}},
-    {"shell/guida.cpp",
+    {"shell/help/guida.cpp",
      {"guida/caratteri", "guida", "KORVEN 32 -", "pagina", "indietro", "avanti", "sommario",
       "piccoli", "grandi", "A−", "Alt+←", "Alt+→", "Alt+Home", "Ctrl+−", "Ctrl++", "cerca",
       "albero", "conto", "trovate"}},
-    {"shell/guida_porta.cpp", {"contestoAiuto", "campoAiuto", "aiuto"}},
-    {"shell/informazioni.cpp",
+    {"shell/help/porta.cpp", {"contestoAiuto", "campoAiuto", "aiuto"}},
+    {"shell/main/informazioni.cpp",
      {"INFORMAZIONI", "KORVEN 32", "nome", "sottotitolo", "versione", "descrizione", "autori",
       "fileCorrente"}},
-    {"shell/menu1.cpp", {"comando", "aiuto", "menu1", "KORVEN 32", "Image1", "stato", "modifiche"}},
-    {"shell/selezling.cpp",
+    {"shell/main/menu1.cpp",
+     {"comando", "aiuto", "menu1", "KORVEN 32", "Image1", "stato", "modifiche"}},
+    {"shell/main/selezling.cpp",
      {"Picture1", "Picture2", "Picture3", "Picture4", "Picture5", "Picture6", "Italiano", "Deutsch",
       "Français", "Español", "English", "Português", "selezling", "Select your language..."}},
-    {"shell/progress_qt.cpp", {"attesa"}},
-    {"shell/temp_calc.cpp", {"TempCalc", "Command1"}},
-    {"shell/wall_picture.cpp", {"KORVEN 32"}},
-    {"shell/drawing_watch_qt.cpp", {"DisegnoInCorso", "KORVEN 32"}},
+    {"shell/run/progress_qt.cpp", {"attesa"}},
+    {"shell/run/temp_calc.cpp", {"TempCalc", "Command1"}},
+    {"shell/main/wall_picture.cpp", {"KORVEN 32"}},
+    {"shell/viewer/drawing_watch_qt.cpp", {"DisegnoInCorso", "KORVEN 32"}},
     {"device/drawing_files.cpp", {"KORVEN 32"}},
     {"device/graphics_session.cpp", {"korven32", "offscreen"}},
     {"device/page_printer.cpp", {"KORVEN 32"}},
     {"device/print_outcome.cpp", {"%%EOF"}},
     {"device/report_pages.cpp", {"KORVEN 32"}},
-    {"report/report_printer.hpp", {"Arial"}},
-    {"shell/form1.cpp", {"Form1", "Liberation Mono"}},
-    {"shell/conf_stampa.cpp", {"ConfStampa", "printer.cfg"}},
-    {"shell/editacfg.cpp", {"Editacfg", "Labelhelp"}},
-    {"shell/grafica.cpp", {"GRAFICA"}},
-    {"shell/grafica_export.cpp",
+    {"markup/report_printer.hpp", {"Arial"}},
+    {"shell/report/form1.cpp", {"Form1", "Liberation Mono"}},
+    {"shell/report/conf_stampa.cpp", {"ConfStampa", "printer.cfg"}},
+    {"shell/pens/editacfg.cpp", {"Editacfg", "Labelhelp"}},
+    {"shell/viewer/grafica.cpp", {"GRAFICA"}},
+    {"shell/viewer/export.cpp",
      {"PDF (*.pdf)", "pdf", "SVG (*.svg)", "svg", "PNG (*.png)", "png", "AutoCAD(*.DXF)", "DXF"}},
-    {"shell/grafica_strip.cpp",
+    {"shell/viewer/strip.cpp",
      {"striscia", "ingrandisci", "tutto", "stampa", "stampaAdattata", "dxf", "esporta", "sinistra",
       "destra", "alto", "basso", "moltoSinistra", "moltoDestra", "moltoAlto", "moltoBasso",
       "esci"}},
@@ -256,18 +253,18 @@ const std::map<std::string, Texts> noTexts = {
     {"plot/text_width.cpp",
      {"courier", "mono", "arial", "helvetica", "liberation sans", "courier new",
       "liberation mono"}},
-    {"project/mask_values.hpp",
+    {"masks/mask_values.hpp",
      {"EDITT.MAV", "EDITDIA.MAV", "EDITSTRA.MAV", "EDITTIR.MAV", "EDITFASI.MAV"}},
-    {"report/diagram_frame.cpp", {"[kN/m²]"}},
-    {"report/hatch_library.cpp", {"set1.rtn", "set2.rtn", "set3", ".rtn", "set4.rtn"}},
-    {"report/markup_reader.cpp", {"TRUE"}},
-    {"report/report_data.cpp", {"nseg.txt"}},
+    {"drawings/diagram_frame.cpp", {"[kN/m²]"}},
+    {"drawings/hatch_library.cpp", {"set1.rtn", "set2.rtn", "set3", ".rtn", "set4.rtn"}},
+    {"markup/markup_reader.cpp", {"TRUE"}},
+    {"results/report_data.cpp", {"nseg.txt"}},
     {"report/report_footer.cpp", {"…", "–"}},
     {"report/report_footer.hpp", {"2,2,2,2,2,2,12,Arial"}},
-    {"report/result_diagram.cpp", {"pressioni", "spostamenti", "momenti", "taglio"}},
-    {"report/stratigraphic_log.cpp", {"stratigrafia"}},
-    {"report/syllable_rule.cpp", {"BCDFGLMNPQRSTVZbcdfglmnpqrstvz", "AEIOUaeiou"}},
-    {"structure/section_drawing.cpp", {"[N/mm²]", "sezione"}},
+    {"drawings/result_diagram.cpp", {"pressioni", "spostamenti", "momenti", "taglio"}},
+    {"drawings/stratigraphic_log.cpp", {"stratigrafia"}},
+    {"markup/syllable_rule.cpp", {"BCDFGLMNPQRSTVZbcdfglmnpqrstvz", "AEIOUaeiou"}},
+    {"drawings/section_drawing.cpp", {"[N/mm²]", "sezione"}},
 };
 
 bool letter(char c) {
@@ -289,16 +286,14 @@ bool speaks(std::string_view text) {
 std::map<std::string, Texts> spokenLiterals() {
     std::map<std::string, Texts> found;
     const fs::path root = KORVEN_SOURCE_FOLDER;
-    for (const auto* folder : folders)
-        for (const auto& entry : fs::recursive_directory_iterator(root / folder)) {
-            const auto extension = entry.path().extension();
-            if (extension != ".cpp" && extension != ".hpp") continue;
-            Texts& texts = found[fs::relative(entry.path(), root).generic_string()];
-            for (const auto& literal :
-                 tools::stringLiterals(base::leggiFile(entry.path().string())))
-                if (const auto text = base::senzaSpaziEsterni(literal); speaks(text))
-                    texts.emplace_back(text);
-        }
+    for (const auto& entry : fs::recursive_directory_iterator(root)) {
+        const auto extension = entry.path().extension();
+        if (extension != ".cpp" && extension != ".hpp") continue;
+        Texts& texts = found[fs::relative(entry.path(), root).generic_string()];
+        for (const auto& literal : tools::stringLiterals(base::leggiFile(entry.path().string())))
+            if (const auto text = base::senzaSpaziEsterni(literal); speaks(text))
+                texts.emplace_back(text);
+    }
     return found;
 }
 
@@ -348,20 +343,17 @@ TEST(TextKeys, StandInTheTableForEveryLiteralThatIsTranslatedHoweverShort) {
     const auto known = keys();
     const std::regex direct("\\b(?:tradotto|traduttore)\\(\"([^\"]*)\"");
     std::set<std::string> looked;
-    for (const auto* folder : folders)
-        for (const auto& entry :
-             fs::recursive_directory_iterator(fs::path(KORVEN_SOURCE_FOLDER) / folder)) {
-            if (!entry.is_regular_file()) continue;
-            const std::string source = base::leggiFile(entry.path().string());
-            for (std::sregex_iterator at(source.begin(), source.end(), direct), end; at != end;
-                 ++at) {
-                const std::string text = (*at)[1];
-                if (speaks(text)) continue;  // looked at above
-                looked.insert(text);
-                EXPECT_TRUE(known.contains(base::chiaveTesto(text)))
-                    << entry.path() << " has \"" << text << '"';
-            }
+    for (const auto& entry : fs::recursive_directory_iterator(KORVEN_SOURCE_FOLDER)) {
+        if (!entry.is_regular_file() || entry.path().filename() == "CMakeLists.txt") continue;
+        const std::string source = base::leggiFile(entry.path().string());
+        for (std::sregex_iterator at(source.begin(), source.end(), direct), end; at != end; ++at) {
+            const std::string text = (*at)[1];
+            if (speaks(text)) continue;  // looked at above
+            looked.insert(text);
+            EXPECT_TRUE(known.contains(base::chiaveTesto(text)))
+                << entry.path() << " has \"" << text << '"';
         }
+    }
     EXPECT_TRUE(looked.contains("&No")) << "the sources were not found";
 }
 

@@ -1,0 +1,61 @@
+# The rules that every target of the house follows, stated once.
+
+# The digits must be the same on every machine and in every build type: no contraction of a*b+c, no
+# fast-math. Everything else is the usual net of warnings.
+add_library(korven_rules INTERFACE)
+target_compile_features(korven_rules INTERFACE cxx_std_20)
+target_compile_options(korven_rules INTERFACE
+    -ffp-contract=off -Wall -Wextra -Wpedantic -Wshadow -Wconversion
+    # g++ 12 takes "text" + string for copying memory onto itself (GCC bug 105651).
+    $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>
+    # clang counts this to -Wconversion, g++ does not: indices are ints here, as in the formulas.
+    $<$<CXX_COMPILER_ID:Clang>:-Wno-sign-conversion>)
+target_include_directories(korven_rules INTERFACE ${PROJECT_SOURCE_DIR}/src)
+
+# korven_room(<room> <known>...) declares the room src/<room> and the rooms whose headers it includes,
+# no more and no less: tests/architecture reads the same lists and compares them with the includes.
+#
+# A room at the top is the static library korven_<room>, made from all sources of its folder but
+# main.cpp; a room inside another (analysis/solver) goes into the library of the outer one. A file
+# belongs to a room by lying there, so that no list can forget it.
+function(korven_room room)
+    string(REGEX REPLACE "/.*" "" outer ${room})
+    string(REPLACE ";" " " known "${ARGN}")
+    set_property(GLOBAL APPEND PROPERTY korven_rooms "${room}: ${known}")
+    file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${room}/*.cpp)
+    list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
+    set(scope PUBLIC)
+    if(TARGET korven_${outer})
+        target_sources(korven_${outer} PRIVATE ${sources})
+    elseif(sources)
+        add_library(korven_${outer} STATIC ${sources})
+    else()
+        set(scope INTERFACE)
+        add_library(korven_${outer} INTERFACE)
+    endif()
+    target_link_libraries(korven_${outer} ${scope} korven_rules)
+    foreach(other IN LISTS ARGN)
+        string(REGEX REPLACE "/.*" "" library ${other})
+        if(NOT library STREQUAL outer)
+            target_link_libraries(korven_${outer} ${scope} korven_${library})
+        endif()
+    endforeach()
+endfunction()
+
+# korven_test(<name>) makes the test program of the folder tests/<name> and of the folders in it, and
+# hands its tests to ctest.
+function(korven_test name)
+    file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${name}/*.cpp)
+    add_executable(${name}_test ${sources})
+    target_link_libraries(${name}_test PRIVATE ${ARGN} korven_test_support)
+    # The optimiser's work on code that runs once was half the time of a fresh build.
+    target_compile_options(${name}_test PRIVATE -O0)
+    # Qt has its users compiled for shared libraries, which a precompiled header has to be too: the
+    # tests of the windows have one of their own.
+    if(TARGET korven_test_headers AND "korven_shell" IN_LIST ARGN)
+        target_precompile_headers(${name}_test PRIVATE <gtest/gtest.h> <QtWidgets> <QtTest>)
+    elseif(TARGET korven_test_headers AND NOT "korven_device" IN_LIST ARGN)
+        target_precompile_headers(${name}_test REUSE_FROM korven_test_headers)
+    endif()
+    gtest_discover_tests(${name}_test DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 120)
+endfunction()

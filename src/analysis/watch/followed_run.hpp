@@ -1,0 +1,33 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "analysis/progress.hpp"
+#include "analysis/watch/iteration_trace.hpp"
+
+namespace korven::commands {
+
+/// Follows a run that its user may stop, to tell afterwards where it stood. What is shown goes on
+/// to another progress display.
+class CorsaSeguita : public analysis::Avanzamento {
+ public:
+    explicit CorsaSeguita(analysis::Avanzamento& vista) : vista_(vista) {}
+
+    void apri() override;
+    void iterazione(const analysis::StatoIterazione& stato) override;
+    void chiudi() override { vista_.chiudi(); }
+    void attendi(std::string_view detto) override { vista_.attendi(detto); }
+    void fineAttesa() override { vista_.fineAttesa(); }
+
+    /// One line about the stop: stage, iterations, and what still flipped; empty for a run that
+    /// came to its end, was refused, or not needed.
+    [[nodiscard]] std::string arresto() const;
+
+ private:
+    analysis::Avanzamento& vista_;
+    TracciaIterazioni traccia_;
+    bool ferma_ = false;  // the last iteration found the stop asked for
+};
+
+}  // namespace korven::commands

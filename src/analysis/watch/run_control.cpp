@@ -1,0 +1,39 @@
+#include "analysis/watch/run_control.hpp"
+
+#include "analysis/run_flags.hpp"
+
+namespace korven::commands {
+
+void ControlloCorsa::apri() {
+    fasi_.clear();
+    motivo_.clear();
+    oltreLimite_ = false;
+    calcolato_ = true;
+    vista_.apri();
+}
+
+void ControlloCorsa::iterazione(const analysis::StatoIterazione& stato) {
+    vista_.iterazione(stato);
+    traccia_.registra(stato);
+    if (stato.convergente) {
+        Fase fase{stato.fase, stato.iterazione, {}};
+        if (stato.iterazione > iterazioniTracciate) fase.traccia = traccia_.righe();
+        fasi_.push_back(std::move(fase));
+    } else if (maxIterazioni_ > 0 && stato.iterazione >= maxIterazioni_) {
+        ferma();
+    }
+    if (interruzione_ != 0) analysis::stopCalcolo = true;
+}
+
+void ControlloCorsa::attendi(std::string_view detto) {
+    vista_.attendi(detto);
+    if (interruzione_ != 0) analysis::stopCalcolo = true;
+}
+
+void ControlloCorsa::ferma() {
+    analysis::stopCalcolo = true;
+    oltreLimite_ = true;
+    motivo_ = traccia_.arresto("Calcolo interrotto: nessuna convergenza");
+}
+
+}  // namespace korven::commands

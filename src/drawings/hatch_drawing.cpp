@@ -1,0 +1,92 @@
+#include "drawings/hatch_drawing.hpp"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "drawings/hatch_library.hpp"
+#include "plot/line_clip.hpp"
+#include "plot/plot_engine.hpp"
+
+namespace korven::report {
+
+namespace {
+
+using plot::Punto;
+using plot::Tratto;
+
+constexpr double mezzoLato = 100;      // of a tile [stroke units]
+constexpr double tolleranza = 0.0001;  // [cm]
+constexpr double lunghezzaPunto = 0.01;
+constexpr Punto nessunaPosizione{9999, 9999};  // no stroke gets there
+
+bool vicini(Punto a, Punto b) {
+    return std::abs(a.x - b.x) <= tolleranza && std::abs(a.y - b.y) <= tolleranza;
+}
+
+// Number of tiles of half side `a` on each side of the middle one. What is missing at the edge may
+// be left out as long as nobody sees it.
+int piastrelleIntorno(double mezzaMisura, double a) {
+    constexpr double massimo = 1e9;  // more than anybody waits for
+    return mezzaMisura > a
+               ? static_cast<int>(std::min((mezzaMisura - a) / (2 * a) + 0.9999, massimo))
+               : 0;
+}
+
+// Fills one rectangle, pattern upon pattern.
+class Riempimento {
+ public:
+    explicit Riempimento(const plot::Riquadro& riquadro)
+        : riquadro_(riquadro),
+          centro_{(riquadro.xmin + riquadro.xmax) / 2, (riquadro.ymin + riquadro.ymax) / 2} {}
+
+    void disegna(const Campitura& campitura, double passo) {
+        const auto tratti = leggiTratti(campitura);
+        if (tratti.empty()) return;
+        const double u = campitura.unita * std::pow(2, (passo - 1) / 4);
+        const double a = mezzoLato * u;
+        const int nx = piastrelleIntorno(riquadro_.larghezza() / 2, a);
+        const int ny = piastrelleIntorno(riquadro_.altezza() / 2, a);
+        for (int j = -ny; j <= ny; ++j)
+            for (int i = -nx; i <= nx; ++i) {
+                const Punto c{centro_.x + 2 * a * i, centro_.y + 2 * a * j};
+                for (const auto& t : tratti)
+                    traccia({{c.x + u * t.x1, c.y + u * t.y1}, {c.x + u * t.x2, c.y + u * t.y2}});
+            }
+    }
+
+ private:
+    void traccia(const Tratto& intero) {
+        plot::controllaInterruzione();  // most strokes of a tile may lie outside
+        auto tratto = plot::ritagliaTratto(intero, riquadro_);
+        if (!tratto) return;
+        if (vicini(tratto->a, ultima_)) std::swap(tratto->da, tratto->a);
+        if (!vicini(tratto->da, ultima_))
+            plot::plotMuovi(tratto->da.x, tratto->da.y, plot::pennaSu);
+        if (tratto->da == tratto->a)
+            tratto->a.x += tratto->a.x < centro_.x ? lunghezzaPunto : -lunghezzaPunto;
+        plot::plotMuovi(tratto->a.x, tratto->a.y, plot::pennaGiu);
+        ultima_ = tratto->a;
+    }
+
+    plot::Riquadro riquadro_;
+    Punto centro_;
+    Punto ultima_ = nessunaPosizione;
+};
+
+}  // namespace
+
+void disegnaCampitura(double codice, double x1, double x2, double y1, double y2) {
+    const Campiture& tutte = campiture();
+    Riempimento riempimento({x1, std::min(y1, y2), x2, std::max(y1, y2)});
+    bool altriGruppi = true;
+    while (altriGruppi) {
+        const double gruppo = std::fmod(codice, 1000);
+        riempimento.disegna(tutte[static_cast<long>(std::fmod(gruppo, 100))],
+                            std::floor(gruppo / 100));
+        altriGruppi = codice >= 1000;
+        codice = std::floor(codice / 1000);
+    }
+}
+
+}  // namespace korven::report

@@ -1,0 +1,108 @@
+#include <algorithm>
+#include <vector>
+
+#include "base/number_text.hpp"
+#include "drawings/log_columns.hpp"
+#include "plot/plot_engine.hpp"
+#include "plot/sheet.hpp"
+
+// The columns that show how a value changes with depth, growing to the right.
+
+namespace korven::report {
+
+namespace {
+
+using ColonnaStrati = base::Tabella<double, project::massimoStrati>;
+
+// A value axis from the left edge of the column to its right one.
+struct AsseProfilo {
+    double fondoScala;
+    double passo;
+    int tacche;
+    double fattore;  // of the numbers at the ticks
+};
+
+class Profilo {
+ public:
+    Profilo(const Stratigrafia& stratigrafia, const Colonna& colonna, const AsseProfilo& asse)
+        : stratigrafia_(stratigrafia), colonna_(colonna), asse_(asse) {}
+
+    void tacche() const {
+        constexpr double sopraTesta = 0.1;
+        for (int k = 1; k <= asse_.tacche; ++k) {
+            const double valore = k * asse_.passo;
+            plot::linea(x(valore), piedeTabella, x(valore), testaTabella);
+            plot::testoCentrato(x(valore), testaTabella + sopraTesta, altezzaNumeriColonna,
+                                base::formattaMaschera(valore * asse_.fattore, "00"));
+        }
+    }
+
+    void curva(const ColonnaStrati& valori) const {
+        const int n = stratigrafia_.dati.nStrati;
+        plot::plotMuovi(x(valori[1]), testaTabella, plot::pennaSu);
+        for (int i = 1; i <= n; ++i) {
+            const double y = std::max(stratigrafia_.yPiede(i), piedeTabella);
+            plot::plotMuovi(x(valori[i]), y, plot::pennaGiu);
+            if (i < n) plot::plotMuovi(x(valori[i + 1]), y, plot::pennaGiu);
+        }
+    }
+
+ private:
+    [[nodiscard]] double x(double valore) const {
+        return colonna_.sinistra + colonna_.larghezza * valore / asse_.fondoScala;
+    }
+
+    const Stratigrafia& stratigrafia_;
+    const Colonna& colonna_;
+    const AsseProfilo& asse_;
+};
+
+void disegnaProfilo(const Stratigrafia& stratigrafia, const Colonna& colonna,
+                    const AsseProfilo& asse, std::initializer_list<const ColonnaStrati*> curve) {
+    const Profilo profilo(stratigrafia, colonna, asse);
+    profilo.tacche();
+    plot::plotPenna(pennaProfilo);
+    for (const ColonnaStrati* valori : curve) profilo.curva(*valori);
+}
+
+double massimo(const ColonnaStrati& valori, int n) {
+    double trovato = 0;
+    for (int i = 1; i <= n; ++i) trovato = std::max(trovato, valori[i]);
+    return trovato;
+}
+
+constexpr double kilonewton = 10;  // in a tonne-force
+
+}  // namespace
+
+void disegnaPesi(const Stratigrafia& stratigrafia, const Colonna& colonna) {
+    disegnaTestata(colonna, {"gamma N [kN/m³]", "gamma S [kN/m³]"});
+    const auto& dati = stratigrafia.dati;
+    disegnaProfilo(stratigrafia, colonna, {3, 0.5, 5, kilonewton}, {&dati.gammaN, &dati.gammaSat});
+}
+
+void disegnaAttrito(const Stratigrafia& stratigrafia, const Colonna& colonna) {
+    disegnaTestata(colonna, {"angolo attrito [°]"});
+    disegnaProfilo(stratigrafia, colonna, {50, 10, 4, 1}, {&stratigrafia.dati.phiStrato});
+}
+
+void disegnaCoesione(const Stratigrafia& stratigrafia, const Colonna& colonna) {
+    constexpr AsseProfilo assi[] = {
+        {5, 1, 4, kilonewton}, {10, 2, 4, kilonewton}, {50, 10, 4, kilonewton}};
+    const auto& dati = stratigrafia.dati;
+    const double c = massimo(dati.coesione, dati.nStrati);
+    const double su = massimo(dati.suStrato, dati.nStrati);
+    if (c > 0 && su > 0)
+        disegnaTestata(colonna, {"c' [kN/m²]", "Su [kN/m²]"});
+    else if (c > 0)
+        disegnaTestata(colonna, {"c' [kN/m²]"});
+    else if (su > 0)
+        disegnaTestata(colonna, {"Su [kN/m²]"});
+    else
+        disegnaTestata(colonna, {"coesione [kN/m²]"});
+    const AsseProfilo* asse = assi;
+    while (asse + 1 != std::end(assi) && asse->fondoScala < std::max(c, su)) ++asse;
+    disegnaProfilo(stratigrafia, colonna, *asse, {&dati.coesione, &dati.suStrato});
+}
+
+}  // namespace korven::report

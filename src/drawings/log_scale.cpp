@@ -1,0 +1,18 @@
+#include "drawings/log_scale.hpp"
+
+#include <algorithm>
+
+namespace korven::report {
+
+double bordoInferiore(double altezzaPagina) { return std::max(28.5 - altezzaPagina + 0.1, 0.6); }
+
+ScalaProfondita::ScalaProfondita(double profondita, double bordoInferiore)
+    : N_(100 * profondita / (20.6 - bordoInferiore)) {}
+
+double passoProfondita(double profondita) {
+    if (profondita > 100) return 10;
+    if (profondita > 50) return 5;
+    return profondita > 20 ? 2 : 1;
+}
+
+}  // namespace korven::report

@@ -1,0 +1,75 @@
+#include "drawings/section_drawing.hpp"
+
+#include <cmath>
+
+#include "base/number_text.hpp"
+#include "base/translated_texts.hpp"
+#include "drawings/section_views.hpp"
+#include "plot/plot_engine.hpp"
+#include "plot/sheet.hpp"
+#include "structure/section_type.hpp"
+
+namespace korven::structure {
+
+namespace {
+
+using base::traduttore;
+using plot::x0;
+
+constexpr double altezzaTesti = 0.3;
+
+void nomiDeiLati() {
+    plot::testoCentrato(x0 + 0.3, yVista, altezzaTesti, traduttore("LATO MONTE"), 90);
+    plot::testoCentrato(x0 + plot::larghQuadro, yVista, altezzaTesti, traduttore("LATO VALLE"), 90);
+}
+
+void cella(double x, double y, std::string_view grandezza, double valore) {
+    plot::testoDa(x, y, altezzaTesti,
+                  traduttore(grandezza) + " =" + base::testoNumero(valore) + " [N/mm²]");
+}
+
+void riquadroMateriali(const project::Sezione& s) {
+    constexpr double sotto = 0.5, sopra = 2.5, meta = 1.5;
+    constexpr double destra = x0 + plot::larghQuadro;
+    plot::linea(x0, sotto, destra, sotto);
+    plot::plotMuovi(destra, sopra, plot::pennaGiu);
+    plot::plotMuovi(x0, sopra, plot::pennaGiu);
+    plot::plotMuovi(x0, sotto, plot::pennaGiu);
+    plot::linea(plot::xCentro, sotto, plot::xCentro, sopra);
+    plot::linea(x0, meta, destra, meta);
+
+    constexpr double rigaAlta = sotto + 1.35, rigaBassa = sotto + 0.35, rientro = 0.3;
+    cella(x0 + rientro, rigaAlta, "E(acc)", s.modEacciaio);
+    cella(x0 + rientro, rigaBassa, "E(cls)", s.modEcls);
+    cella(plot::xCentro + rientro, rigaAlta, "Fyk", s.fyk);
+    cella(plot::xCentro + rientro, rigaBassa, "Fck", s.fck);
+}
+
+void vista(const project::Sezione& sezione) {
+    switch (tipoSezione(sezione)) {
+        case TipoSezione::diaframma:
+            return vistaDiaframma(sezione);
+        case TipoSezione::pali:
+            return vistaPali(sezione);
+        case TipoSezione::palancola:
+            return vistaPalancola(sezione);
+        case TipoSezione::paliArmati:
+            return vistaPaliArmati(sezione);
+        case TipoSezione::nessuno:
+            return;
+    }
+}
+
+}  // namespace
+
+void disegnaSezione(const project::DatiProgetto& dati) {
+    plot::apriFoglio(dati.titoli, traduttore("SEZIONE ELEMENTO STRUTTURALE"));
+    plot::statoPlot.nome = "sezione";
+    nomiDeiLati();
+    plot::plotPenna(4);
+    riquadroMateriali(dati.sezione);
+    vista(dati.sezione);
+    plot::plotMuovi(0, 0, plot::fineDisegno);
+}
+
+}  // namespace korven::structure

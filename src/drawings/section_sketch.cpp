@@ -1,0 +1,32 @@
+#include "drawings/section_sketch.hpp"
+
+#include <cassert>
+
+#include "base/number_text.hpp"
+#include "drawings/sketch_views.hpp"
+
+namespace korven::structure {
+
+std::string scrittaQuota(std::size_t campo, const project::Sezione& sezione) {
+    const project::CampoSezione& c = project::campiSezione[campo];
+    std::string scritta(c.simbolo);
+    const double valore = sezione.*c.valore;
+    if (valore == 0) return scritta;
+    scritta += " = " + base::testoNumero(valore * c.fattore);
+    if (c.valore == &project::Sezione::armNumLong)
+        scritta += '/' + base::testoNumero(c.fattore) + " = " + base::testoNumero(valore);
+    return scritta;
+}
+
+Schizzo schizzoSezione(project::RiquadroSezione riquadro, const project::Sezione& sezione) {
+    using enum project::RiquadroSezione;
+    assert(riquadro != materiali);
+    Schizzo schizzo = riquadro == diaframma   ? schizzoDiaframma(sezione)
+                      : riquadro == pali      ? schizzoPali(sezione)
+                      : riquadro == palancola ? schizzoPalancola(sezione)
+                                              : schizzoPaliArmati(sezione);
+    for (QuotaSchizzo& quota : schizzo.quote) quota.scritta = scrittaQuota(quota.campo, sezione);
+    return schizzo;
+}
+
+}  // namespace korven::structure

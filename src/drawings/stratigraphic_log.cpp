@@ -1,0 +1,90 @@
+#include "drawings/stratigraphic_log.hpp"
+
+#include "base/translated_texts.hpp"
+#include "drawings/log_columns.hpp"
+#include "plot/plot_engine.hpp"
+#include "plot/sheet.hpp"
+
+namespace korven::report {
+
+namespace {
+
+void disegnaIntestazione(const base::Tabella<std::string, 6>& titoli) {
+    for (int i = 1; i <= 6; ++i) {
+        if (i <= 2) plot::plotPenna(i);
+        const auto [x, y, altezza] = titoloStratigrafia(i);
+        plot::testoCentrato(x, y, altezza, titoli[i]);
+    }
+    plot::plotPenna(3);
+    plot::testoCentrato(11, 25, 0.3, base::traduttore("DESCRIZIONE STRATIGRAFICO-GEOTECNICA"));
+}
+
+struct ColonnaStratigrafia {
+    std::string_view testata;  // empty: the contents draw heads of their own
+    double larghezza;
+    void (*contenuto)(const Stratigrafia&, const Colonna&);
+};
+
+constexpr double larghezzaProfilo = 9.6 / 3;
+constexpr ColonnaStratigrafia colonne[] = {
+    {"Profondità [m]", 1.2, disegnaProfondita},
+    {"stratigrafia", 1, disegnaGrafici},
+    {"descrizione", larghezzaDescrizioni, disegnaDescrizioni},
+    {"falda [m]", 1, disegnaFalda},
+    {"", larghezzaProfilo, disegnaPesi},
+    {"", larghezzaProfilo, disegnaAttrito},
+    {"", larghezzaProfilo, disegnaCoesione},
+    {"scala [m]", 1, disegnaScala},
+};
+
+void disegnaTabella(const Stratigrafia& stratigrafia) {
+    plot::plotPenna(pennaRigaTabella);
+    plot::linea(sinistraTabella, piedeTabella, sinistraTabella + larghezzaTabella, piedeTabella);
+    double x = sinistraTabella;
+    for (const auto& [testata, larghezza, contenuto] : colonne) {
+        const Colonna colonna{x, larghezza};
+        if (!testata.empty()) disegnaTestata(colonna, {testata});
+        contenuto(stratigrafia, colonna);
+        // The rule behind the first column parts it from the others up to the top of the heads.
+        const double cima = x == sinistraTabella ? cimaTestata : testaTabella;
+        x = colonna.destra();
+        plot::plotPenna(pennaRigaTabella);
+        plot::linea(x, piedeTabella, x, cima);
+    }
+}
+
+std::string_view motivoRifiuto(double altezzaPagina) {
+    if (project::fileCorrente.empty())
+        return "Non e' possibile produrre un output grafico prima di aver aperto un file.";
+    const auto& dati = project::Progetto;
+    if (!(dati.profStrato[dati.nStrati] > 0))
+        return "Non e' possibile produrre un output grafico prima di aver introdotto la "
+               "stratigrafia.";
+    if (!(altezzaPagina > paginaTroppoBassa))
+        return "Il foglio della stampante è troppo basso per la colonna stratigrafica: sceglierne "
+               "uno più alto di 8.1 cm.";
+    return {};
+}
+
+}  // namespace
+
+void disegnaStratigrafia(const project::DatiProgetto& dati, double altezzaPagina) {
+    const double bordo = bordoInferiore(altezzaPagina);
+    plot::plotApri(0, bordo, larghezzaStratigrafia, altezzaStratigrafia);
+    plot::statoPlot.nome = "stratigrafia";
+    disegnaIntestazione(dati.titoli);
+    disegnaTabella({dati, ScalaProfondita(dati.profStrato[dati.nStrati], bordo)});
+    plot::plotMuovi(0, 0, plot::fineDisegno);
+}
+
+bool disegnaStratigrafia(base::Dialogo& dialogo, double altezzaPagina) {
+    if (const auto motivo = motivoRifiuto(altezzaPagina); !motivo.empty()) {
+        dialogo.messaggio(base::traduttore(motivo), base::traduttore("ATTENZIONE") + "!",
+                          base::Icona::stop);
+        return false;
+    }
+    disegnaStratigrafia(project::Progetto, altezzaPagina);
+    return true;
+}
+
+}  // namespace korven::report

@@ -1,0 +1,63 @@
+#include "masks/edited_section.hpp"
+
+#include <algorithm>
+
+#include "base/number_text.hpp"
+
+namespace korven::project {
+
+std::size_t campoSezione(double Sezione::*valore) {
+    const auto* trovato =
+        std::find_if(std::begin(campiSezione), std::end(campiSezione),
+                     [valore](const CampoSezione& campo) { return campo.valore == valore; });
+    return static_cast<std::size_t>(trovato - std::begin(campiSezione));
+}
+
+SezioneEditata::SezioneEditata(Sezione& sezione, bool& modificato)
+    : sezione_(sezione), modificato_(modificato) {
+    const auto* scelto = std::find_if(std::begin(tipiSezione), std::end(tipiSezione),
+                                      [&sezione](auto flag) { return sezione.*flag; });
+    if (scelto == std::end(tipiSezione))
+        sezione.tipoDiaframma = true;
+    else
+        tipo_ = static_cast<RiquadroSezione>(scelto - std::begin(tipiSezione));
+    for (std::size_t i = 0; i < numeroCampiSezione; ++i)
+        testi_[i] = base::testoNumero(sezione.*campiSezione[i].valore * campiSezione[i].fattore);
+    mostrati_ = testi_;
+}
+
+double SezioneEditata::scritto(std::size_t campo) const {
+    return base::leggiNumero(testi_[campo]).value_or(0) / campiSezione[campo].fattore;
+}
+
+// 0.21 is shown as 2.1, and a tenth of that double is not the double 0.21. The decimals are: what
+// is shown names the stored number when its point, moved one place, gives that number's text.
+bool SezioneEditata::nominato(std::size_t campo) const {
+    const bool decimi = campiSezione[campo].fattore == 10;
+    const std::string testo = decimi ? mostrati_[campo] + "e-1" : mostrati_[campo];
+    return base::leggiNumero(testo).value_or(0) == sezione_.*campiSezione[campo].valore;
+}
+
+Sezione SezioneEditata::letta() const {
+    Sezione editata;
+    editata.*tipiSezione[static_cast<std::size_t>(tipo_)] = true;
+    for (std::size_t i = 0; i < numeroCampiSezione; ++i) {
+        const auto campo = campiSezione[i].valore;
+        editata.*campo = testi_[i] == mostrati_[i] ? sezione_.*campo : scritto(i);
+    }
+    return editata;
+}
+
+bool SezioneEditata::ritorna() const {
+    for (std::size_t i = 0; i < numeroCampiSezione; ++i)
+        if (testi_[i] == mostrati_[i] && !nominato(i)) return false;
+    return true;
+}
+
+void SezioneEditata::conferma() {
+    const Sezione editata = letta();
+    if (!(editata == sezione_) || !ritorna()) modificato_ = true;
+    sezione_ = editata;
+}
+
+}  // namespace korven::project

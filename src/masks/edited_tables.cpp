@@ -1,0 +1,256 @@
+#include "masks/edited_tables.hpp"
+
+#include <iterator>
+#include <string_view>
+#include <utility>
+
+#include "base/code_page.hpp"
+#include "base/number_text.hpp"
+
+namespace korven::project {
+
+namespace {
+
+// What the user types over what is stored: 1, or 10 where tonnes become kN.
+struct CampoEditato {
+    double DatiProgetto::*campo;
+    double fattore;
+};
+
+constexpr CampoEditato campiEditati[] = {
+    {&DatiProgetto::vincoloTesta, 1},    {&DatiProgetto::vincoloPiede, 1},
+    {&DatiProgetto::modoSpinte, 1},      {&DatiProgetto::modoKs, 1},
+    {&DatiProgetto::modoTensioni, 1},    {&DatiProgetto::metodoSpinte, 1},
+    {&DatiProgetto::metodoKs, 1},        {&DatiProgetto::lunghezzaParatia, 1},
+    {&DatiProgetto::rigidezzaEJ, 10},    {&DatiProgetto::coeffM, 1},
+    {&DatiProgetto::pressioneOrizz, 10}, {&DatiProgetto::sovraccMonte, 10},
+    {&DatiProgetto::momentoTesta, 10},   {&DatiProgetto::forzaTesta, 10},
+    {&DatiProgetto::sforzoNormale, 10},  {&DatiProgetto::inclinazioneMonte, 1},
+    {&DatiProgetto::faldaMonte, 1},      {&DatiProgetto::gammaAcqua, 1},
+};
+
+double letto(const std::string& testo, double fattore) {
+    const double scritto = base::leggiNumero(testo).value_or(0);
+    return fattore == 1 ? scritto : scritto / fattore;
+}
+
+bool stesso(std::string_view uno, std::string_view altro) {
+    return base::senzaSpaziEsterni(uno) == base::senzaSpaziEsterni(altro);
+}
+
+// Takes the texts of a table editor back, cell after cell. A cell that reads as one that was shown
+// gives back the value behind it, with all its digits: ten times a number and its tenth need not be
+// the same double, and a form shows no more than fifteen digits.
+class Ripresa {
+ public:
+    using Mostra = std::vector<std::string> (*)(const DatiProgetto&);
+
+    Ripresa(DatiProgetto& dati, const std::vector<std::string>& testi, Mostra mostra, int colonne)
+        : dati_(dati),
+          prima_(dati),
+          testi_(testi),
+          mostrati_(mostra(dati)),
+          colonne_(static_cast<std::size_t>(colonne)) {}
+
+    // More rows than the table holds end the program, before anything of the project has changed.
+    [[nodiscard]] int righe(int capacita) const {
+        const double scritte = testi_.empty() ? 0 : letto(testi_[0], 1);
+        if (scritte > capacita)
+            throw base::ErroreIndice(capacita + 1, static_cast<std::size_t>(capacita));
+        return scritte > 0 ? static_cast<int>(scritte) : 0;
+    }
+
+    // The next cell, of row `riga`.
+    template <class Colonna>
+    Ripresa& numero(Colonna DatiProgetto::*colonna, int riga, double fattore = 1) {
+        const std::string testo = prossima();
+        const int come = mostrata(testo);
+        (dati_.*colonna)[riga] = come > 0 ? (prima_.*colonna)[come] : letto(testo, fattore);
+        return *this;
+    }
+    template <class Colonna>
+    Ripresa& testo(Colonna DatiProgetto::*colonna, int riga) {
+        const std::string testo = prossima();
+        const int come = mostrata(testo);
+        (dati_.*colonna)[riga] = come > 0 ? (prima_.*colonna)[come] : testo;
+        return *this;
+    }
+
+ private:
+    std::string prossima() {
+        ++posto_;
+        return posto_ < testi_.size() ? testi_[posto_] : std::string();
+    }
+    // The row that showed this text in the column of the current cell, its own row before others,
+    // since rows move when one is inserted or taken out; 0 if none did.
+    [[nodiscard]] int mostrata(const std::string& testo) const {
+        if (posto_ < mostrati_.size() && stesso(testo, mostrati_[posto_]))
+            return static_cast<int>((posto_ - 1) / colonne_) + 1;
+        for (std::size_t i = (posto_ - 1) % colonne_ + 1; i < mostrati_.size(); i += colonne_)
+            if (stesso(testo, mostrati_[i])) return static_cast<int>((i - 1) / colonne_) + 1;
+        return 0;
+    }
+
+    DatiProgetto& dati_;
+    const DatiProgetto prima_;
+    const std::vector<std::string>& testi_;
+    const std::vector<std::string> mostrati_;
+    std::size_t colonne_;
+    std::size_t posto_ = 0;  // of the current cell; the number of rows stands at 0
+};
+
+// A plain exchange sort, kept plain because of what its exchanges do not move: `scambia` says which
+// columns go along, and a depth that stays behind is compared again where it stands.
+template <class Profondita, class Scambio>
+void ordina(const Profondita& profondita, int righe, Scambio scambia) {
+    for (int i = 1; i <= righe - 1; ++i)
+        for (int j = 1; j <= righe - i; ++j)
+            if (profondita[j] > profondita[j + 1]) scambia(j, j + 1);
+}
+
+// Gathers the texts of an editor, in the units that the user sees.
+class Elenco {
+ public:
+    Elenco& testo(std::string valore) {
+        testi_.push_back(std::move(valore));
+        return *this;
+    }
+    Elenco& numero(double valore, double fattore = 1) {
+        return testo(base::testoNumero(valore * fattore));
+    }
+    std::vector<std::string> tutti() && { return std::move(testi_); }
+
+ private:
+    std::vector<std::string> testi_;
+};
+
+}  // namespace
+
+std::vector<std::string> testiStrati(const DatiProgetto& dati) {
+    Elenco elenco;
+    elenco.numero(dati.nStrati);
+    for (int i = 1; i <= dati.nStrati; ++i)
+        elenco.numero(dati.profStrato[i])
+            .numero(dati.gammaN[i], 10)
+            .numero(dati.gammaSat[i], 10)
+            .numero(dati.phiStrato[i])
+            .numero(dati.coesione[i], 10)
+            .numero(dati.ksStrato[i], 10)
+            .testo(dati.descrStrato[i]);
+    return std::move(elenco).tutti();
+}
+
+std::vector<std::string> testiTiranti(const DatiProgetto& dati) {
+    Elenco elenco;
+    elenco.numero(dati.nTiranti);
+    for (int i = 1; i <= dati.nTiranti; ++i)
+        elenco.numero(dati.profTirante[i])
+            .numero(dati.rigTirante[i], 10)
+            .numero(dati.pretTirante[i], 10)
+            .numero(dati.tipoTirante[i]);
+    return std::move(elenco).tutti();
+}
+
+std::vector<std::string> testiFasi(const DatiProgetto& dati) {
+    Elenco elenco;
+    elenco.numero(dati.nFasi);
+    for (int i = 1; i <= dati.nFasi; ++i)
+        elenco.numero(dati.profFase[i])
+            .numero(dati.tirantiFase[i])
+            .numero(dati.sovraccFase[i], 10)
+            .numero(dati.faldaFase[i]);
+    return std::move(elenco).tutti();
+}
+
+std::vector<std::string> testiParatia(const DatiProgetto& dati) {
+    Elenco elenco;
+    for (const auto& [campo, fattore] : campiEditati) elenco.numero(dati.*campo, fattore);
+    return std::move(elenco).tutti();
+}
+
+std::vector<std::string> testiTitoli(const DatiProgetto& dati) {
+    Elenco elenco;
+    for (int i = 1; i <= 6; ++i) elenco.testo(dati.titoli[i]);
+    return std::move(elenco).tutti();
+}
+
+bool riprendiStrati(DatiProgetto& dati, const std::vector<std::string>& testi) {
+    Ripresa lista(dati, testi, testiStrati, 7);
+    const int prima = std::exchange(dati.nStrati, lista.righe(massimoStrati));
+    for (int i = 1; i <= dati.nStrati; ++i) {
+        if (i > prima) dati.suStrato[i] = 0;
+        lista.numero(&DatiProgetto::profStrato, i)
+            .numero(&DatiProgetto::gammaN, i, 10)
+            .numero(&DatiProgetto::gammaSat, i, 10)
+            .numero(&DatiProgetto::phiStrato, i)
+            .numero(&DatiProgetto::coesione, i, 10)
+            .numero(&DatiProgetto::ksStrato, i, 10)
+            .testo(&DatiProgetto::descrStrato, i);
+    }
+    ordina(dati.profStrato, dati.nStrati, [&dati](int a, int b) {
+        for (auto* colonna : {&dati.profStrato, &dati.gammaN, &dati.gammaSat, &dati.phiStrato,
+                              &dati.coesione, &dati.ksStrato})
+            std::swap((*colonna)[a], (*colonna)[b]);
+        std::swap(dati.descrStrato[a], dati.descrStrato[b]);
+    });
+    return true;
+}
+
+bool riprendiTiranti(DatiProgetto& dati, const std::vector<std::string>& testi) {
+    Ripresa lista(dati, testi, testiTiranti, 4);
+    dati.nTiranti = lista.righe(massimoTiranti);
+    for (int i = 1; i <= dati.nTiranti; ++i)
+        lista.numero(&DatiProgetto::profTirante, i)
+            .numero(&DatiProgetto::rigTirante, i, 10)
+            .numero(&DatiProgetto::pretTirante, i, 10)
+            .numero(&DatiProgetto::tipoTirante, i);
+    ordina(dati.profTirante, dati.nTiranti, [&dati](int a, int b) {
+        for (auto* colonna :
+             {&dati.profTirante, &dati.rigTirante, &dati.pretTirante, &dati.tipoTirante})
+            std::swap((*colonna)[a], (*colonna)[b]);
+    });
+    return true;
+}
+
+bool riprendiFasi(DatiProgetto& dati, const std::vector<std::string>& testi) {
+    Ripresa lista(dati, testi, testiFasi, 4);
+    dati.nFasi = lista.righe(massimoFasi);
+    for (int i = 1; i <= dati.nFasi; ++i)
+        lista.numero(&DatiProgetto::profFase, i)
+            .numero(&DatiProgetto::tirantiFase, i)
+            .numero(&DatiProgetto::sovraccFase, i, 10)
+            .numero(&DatiProgetto::faldaFase, i);
+    ordina(dati.profFase, dati.nFasi, [&dati](int a, int b) {
+        std::swap(dati.tirantiFase[a], dati.tirantiFase[b]);
+        std::swap(dati.sovraccFase[a], dati.sovraccFase[b]);
+        std::swap(dati.rigTirante[a], dati.rigTirante[b]);
+    });
+    return true;
+}
+
+bool riprendiParatia(DatiProgetto& dati, const std::vector<std::string>& testi) {
+    const std::vector<std::string> mostrati = testiParatia(dati);
+    bool diversa = false;
+    for (std::size_t i = 0; i < std::size(campiEditati); ++i) {
+        const std::string testo = i < testi.size() ? testi[i] : std::string();
+        if (stesso(testo, mostrati[i])) continue;
+        const auto& [campo, fattore] = campiEditati[i];
+        const double valore = letto(testo, fattore);
+        diversa = diversa || valore != dati.*campo;
+        dati.*campo = valore;
+    }
+    return diversa;
+}
+
+bool riprendiTitoli(DatiProgetto& dati, const std::vector<std::string>& testi) {
+    bool diversi = false;
+    for (std::size_t i = 0; i < 6; ++i) {
+        const std::string riga = i < testi.size() ? testi[i] : std::string();
+        std::string& titolo = dati.titoli[static_cast<long>(i + 1)];
+        diversi = diversi || riga != titolo;
+        titolo = riga;
+    }
+    return diversi;
+}
+
+}  // namespace korven::project

@@ -1,0 +1,72 @@
+#include "masks/mask_editing.hpp"
+
+#include <algorithm>
+
+#include "base/number_text.hpp"
+#include "masks/edited_tables.hpp"
+
+namespace korven::project {
+
+namespace {
+
+constexpr int campoFase = 7;  // behind the six heading lines
+
+using Testi = std::vector<std::string>;
+
+// What each editor shows and takes back; in the order of the masks.
+struct Editore {
+    Testi (*testi)(const DatiProgetto&);
+    bool (*riprendi)(DatiProgetto&, const Testi&);
+    int capienza;  // rows; 0 for a form of fields
+};
+
+constexpr Editore editori[] = {
+    {testiTitoli, riprendiTitoli, 0},
+    {testiParatia, riprendiParatia, 0},
+    {testiStrati, riprendiStrati, massimoStrati},
+    {testiTiranti, riprendiTiranti, massimoTiranti},
+    {testiFasi, riprendiFasi, massimoFasi},
+};
+
+const Editore& editore(NumeroMaschera numero) {
+    return editori[static_cast<std::size_t>(numero) - 1];
+}
+
+Testi letti(const Maschere& maschere) {
+    Testi testi;
+    const int tutti =
+        static_cast<int>(maschere.valoriCombo().size() + maschere.valoriTesto().size());
+    for (int i = 1; i <= tutti; ++i) testi.push_back(maschere.leggiCampo(i));
+    return testi;
+}
+
+}  // namespace
+
+void preparaMaschera(Maschere& maschere, NumeroMaschera numero, const DatiProgetto& dati,
+                     int fase) {
+    maschere.selezionaMaschera(static_cast<int>(numero));
+    int indice = 0;
+    for (const auto& testo : editore(numero).testi(dati)) maschere.impostaCampo(++indice, testo);
+    if (numero == NumeroMaschera::titoli) maschere.impostaCampo(campoFase, std::to_string(fase));
+}
+
+int capienza(NumeroMaschera numero) { return editore(numero).capienza; }
+
+std::string testoRighe(const Maschere& maschere) {
+    const auto colonne = static_cast<std::size_t>(maschere.corrente().nCampi()) - 1;
+    std::string testo;
+    for (std::size_t i = 1; i < maschere.valoriTesto().size(); ++i)
+        testo.append(maschere.valoriTesto()[i]).append(i % colonne == 0 ? "\r\n" : "\t");
+    return testo;
+}
+
+bool riprendiMaschera(const Maschere& maschere, NumeroMaschera numero, DatiProgetto& dati,
+                      int& fase) {
+    if (numero == NumeroMaschera::titoli) {
+        const double scritta = base::leggiNumero(maschere.leggiCampo(campoFase)).value_or(0);
+        fase = static_cast<int>(std::clamp(scritta, 0.0, double{massimoFasi}));
+    }
+    return editore(numero).riprendi(dati, letti(maschere));
+}
+
+}  // namespace korven::project

@@ -1,0 +1,53 @@
+#include "results/shear_extremes.hpp"
+
+#include <algorithm>
+#include <cmath>
+
+#include "analysis/wall_mesh.hpp"
+
+namespace korven::analysis {
+
+namespace {
+
+double valore(const VettoreNodi& taglioNodo, int i, int nNodi) {
+    return i <= nNodi ? taglioNodo[i] : 0;
+}
+
+void estrapolaAlTirante(double prof, double passo, int nNodi, VettoreNodi& taglioNodo) {
+    const int a = nodoTirante(prof, passo);
+    if (a < 1 || a > nNodi) return;
+    taglioNodo[a] = 2 * valore(taglioNodo, a + 1, nNodi) - valore(taglioNodo, a + 2, nNodi);
+}
+
+void includi(EstremiTaglio& estremi, double taglio) {
+    estremi.vMin = std::min(estremi.vMin, taglio);
+    estremi.vMax = std::max(estremi.vMax, taglio);
+}
+
+}  // namespace
+
+double massimoAssoluto(const EstremiTaglio& estremi) {
+    return std::max(std::abs(estremi.vMin), std::abs(estremi.vMax));
+}
+
+EstremiTaglio estremiTaglio(const project::DatiProgetto& dati, int nTirantiFase,
+                            const base::Tabella<double, project::massimoTiranti>& yTirante,
+                            int nNodi, double passo, const VettoreNodi& yNodo,
+                            VettoreNodi& taglioNodo) {
+    for (int j = 1; j <= nTirantiFase; ++j)
+        if (dati.profTirante[j] != 0)
+            estrapolaAlTirante(dati.profTirante[j], passo, nNodi, taglioNodo);
+    EstremiTaglio estremi{.vMin = oltreOgniValore, .vMax = -oltreOgniValore};
+    for (int i = 1; i <= nNodi; ++i) {
+        includi(estremi, taglioNodo[i]);
+        for (int j = 1; j <= nTirantiFase; ++j) {
+            // Exact: an anchor that falls between two nodes shows no step.
+            if (dati.profTirante[j] != zNodo(i, passo)) continue;
+            const double tiro = dati.pretTirante[j] + dati.rigTirante[j] * (yNodo[i] - yTirante[j]);
+            includi(estremi, taglioNodo[i] - tiro);
+        }
+    }
+    return estremi;
+}
+
+}  // namespace korven::analysis

@@ -1,0 +1,60 @@
+#include "results/structure_checks.hpp"
+
+#include "structure/section_validity.hpp"
+
+namespace korven::report {
+
+namespace {
+
+// N mm to t m.
+constexpr double unMomento = 10000000;
+
+}  // namespace
+
+ConfrontoMomenti confrontaMomenti(const analysis::ChiusuraRisultati& chiusura) {
+    ConfrontoMomenti c;
+    c.mrPos = -chiusura.mrd1 / unMomento;
+    c.mrNeg = -chiusura.mrd2 / unMomento;
+    c.mMax = chiusura.mMaxTotale;
+    c.mMin = chiusura.mMinTotale;
+    c.fsAzioni = chiusura.fsAzioni;
+    c.mdMax = c.fsAzioni * c.mMax;
+    c.mdMin = c.fsAzioni * c.mMin;
+    c.negativo = c.mMin < 0;
+    c.verificatoPos = c.mrPos > c.mdMax;
+    c.verificatoNeg = c.mrNeg < c.mdMin;
+    return c;
+}
+
+std::optional<ConfrontoMomenti> verificaMomenti(const DatiRelazione& dati) {
+    if (!structure::sezioneDefinita(dati.progetto.sezione)) return std::nullopt;
+    return confrontaMomenti(dati.chiusura);
+}
+
+std::optional<structure::ConfrontoTaglio> verificaAlTaglio(const DatiRelazione& dati) {
+    const project::Sezione& s = dati.progetto.sezione;
+    if (!structure::sezioneDefinita(s) || !structure::staffePresenti(s)) return std::nullopt;
+    return structure::confrontaTaglio(structure::verificaTaglio(s, 0), s.armInterasse, dati.Vmax);
+}
+
+std::string_view sentenza(bool positivo, bool verificato) {
+    if (positivo)
+        return verificato ? "Condizioni di sicurezza verificate (momento positivo)"
+                          : "CONDIZIONI DI SICUREZZA NON VERIFICATE (momento positivo)";
+    return verificato ? "Condizioni di sicurezza verificate (momento negativo)"
+                      : "CONDIZIONI DI SICUREZZA NON VERIFICATE (momento negativo)";
+}
+
+std::vector<std::string_view> verificheFallite(const DatiRelazione& dati) {
+    std::vector<std::string_view> fallite;
+    if (const auto momenti = verificaMomenti(dati)) {
+        if (!momenti->verificatoPos) fallite.push_back(sentenza(true, false));
+        if (momenti->negativo && !momenti->verificatoNeg) fallite.push_back(sentenza(false, false));
+    }
+    if (const auto taglio = verificaAlTaglio(dati))
+        for (const auto rottura : structure::righeRotturaTaglio(*taglio))
+            fallite.push_back(rottura);
+    return fallite;
+}
+
+}  // namespace korven::report

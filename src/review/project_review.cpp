@@ -1,0 +1,80 @@
+#include "review/project_review.hpp"
+
+#include <algorithm>
+
+#include "analysis/input_checks.hpp"
+#include "analysis/run_arrays.hpp"
+#include "analysis/segment_count.hpp"
+#include "base/translated_texts.hpp"
+#include "review/review_list.hpp"
+
+namespace korven::commands {
+
+namespace {
+
+using base::traduttore;
+using project::DatiProgetto;
+
+// A code of the project and what a value that is none of its codes comes to.
+struct Codice {
+    double DatiProgetto::*campo;
+    std::string_view nome;
+    int ultimo;
+    std::string_view altrimenti;
+};
+
+constexpr Codice codici[] = {
+    {&DatiProgetto::vincoloTesta, "vincolo in testa", 2,
+     "codice non previsto: la testa conta come libera (1)"},
+    {&DatiProgetto::vincoloPiede, "vincolo al piede", 3,
+     "codice non previsto: il piede conta come libero (1)"},
+    {&DatiProgetto::modoSpinte, "opzione delle spinte", 2,
+     "codice non previsto: le spinte sono ricalcolate ad ogni fase (1)"},
+    {&DatiProgetto::modoKs, "opzione di ks", 2,
+     "codice non previsto: ks è ricalcolato ad ogni fase (1)"},
+    {&DatiProgetto::modoTensioni, "opzione delle tensioni", 2,
+     "codice non previsto: si calcola in tensioni totali (2)"},
+    {&DatiProgetto::metodoSpinte, "metodo delle spinte", 3,
+     "codice non previsto: i coefficienti di spinta attiva e passiva restano nulli"},
+    {&DatiProgetto::metodoKs, "metodo di ks", 4,
+     "codice non previsto: il terreno non ha rigidezza"},
+};
+
+void controlloCodici(const DatiProgetto& dati, ElencoRilievi& elenco) {
+    for (const auto& [membro, nome, ultimo, altrimenti] : codici) {
+        const double valore = dati.*membro;
+        if (valore >= 1 && valore <= ultimo && intero(valore)) continue;
+        elenco.avviso(campo(nome, valore) + ": " + traduttore(altrimenti));
+    }
+}
+
+void controlloIngressi(const DatiProgetto& dati, ElencoRilievi& elenco) {
+    const auto motivi = analysis::motiviRifiuto(dati);
+    for (const auto motivo : motivi) elenco.impedimento(traduttore(motivo));
+    const auto nSeg = analysis::leggiNSeg(analysis::vincoli(dati).incastroPiede);
+    if (!nSeg) elenco.impedimento(traduttore(analysis::motivoNSeg()));
+    if (motivi.empty() && nSeg) controlloSuolo(dati, *nSeg, elenco);
+}
+
+}  // namespace
+
+std::vector<Rilievo> esaminaProgetto(const DatiProgetto& dati) {
+    ElencoRilievi elenco;
+    controlloIngressi(dati, elenco);
+    controlloMostrati(dati, elenco);
+    controlloCodici(dati, elenco);
+    controlloTerreno(dati, elenco);
+    controlloTiranti(dati, elenco);
+    controlloFasi(dati, elenco);
+    controlloSezione(dati, elenco);
+    controlloTitoli(dati, elenco);
+    controlloDescrizioni(dati, elenco);
+    return elenco.ordinato();
+}
+
+bool calcolabile(const std::vector<Rilievo>& rilievi) {
+    return std::none_of(rilievi.begin(), rilievi.end(),
+                        [](const Rilievo& r) { return r.impedisce; });
+}
+
+}  // namespace korven::commands

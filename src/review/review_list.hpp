@@ -1,0 +1,65 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "review/project_review.hpp"
+
+// The parts of a project's review: the list that its checks fill, and the checks by subject. A
+// field is called as its editor calls it and its value shown in the editor's unit.
+
+namespace korven::commands {
+
+class ElencoRilievi {
+ public:
+    void impedimento(std::string testo) { rilievi_.push_back({true, std::move(testo)}); }
+    void avviso(std::string testo) { rilievi_.push_back({false, std::move(testo)}); }
+    /// What prevents a run first, else in the order in which it was found; empties the list.
+    [[nodiscard]] std::vector<Rilievo> ordinato();
+
+ private:
+    std::vector<Rilievo> rilievi_;
+};
+
+/// "strato 3: ...", both texts being Italian keys.
+[[nodiscard]] std::string riga(std::string_view nome, int numero, std::string_view testo);
+
+/// A text with the value in question behind it, in brackets.
+[[nodiscard]] std::string conValore(std::string testo, double valore);
+
+/// "strato 3: Gamma [kN/m³] = 18: ...", the texts being Italian keys and the value as shown.
+[[nodiscard]] std::string rigaCampo(std::string_view nome, int numero, std::string_view etichetta,
+                                    double valore, std::string_view testo);
+
+/// "Gamma [kN/m³] = 18".
+[[nodiscard]] std::string campo(std::string_view etichetta, double valore);
+
+[[nodiscard]] bool intero(double valore);
+
+/// Weights above this can't be t/m3 [t/m3]: they were meant as kN/m3.
+inline constexpr double massimoPeso = 5;
+
+/// The layers, the ground and the water.
+void controlloTerreno(const project::DatiProgetto& dati, ElencoRilievi& elenco);
+
+/// The soil values of all stages, as a run would compute them.
+/// @pre no input check fails
+void controlloSuolo(const project::DatiProgetto& dati, int nSeg, ElencoRilievi& elenco);
+
+/// The fields whose shown value, ten times the stored one, is no number any more.
+void controlloMostrati(const project::DatiProgetto& dati, ElencoRilievi& elenco);
+
+void controlloTiranti(const project::DatiProgetto& dati, ElencoRilievi& elenco);
+void controlloFasi(const project::DatiProgetto& dati, ElencoRilievi& elenco);
+
+/// The heading lines, of which report and drawings make something else than is typed.
+void controlloTitoli(const project::DatiProgetto& dati, ElencoRilievi& elenco);
+
+/// The descriptions of the layers, where the log has no room for them.
+void controlloDescrizioni(const project::DatiProgetto& dati, ElencoRilievi& elenco);
+
+/// The stiffness and the structural section.
+void controlloSezione(const project::DatiProgetto& dati, ElencoRilievi& elenco);
+
+}  // namespace korven::commands

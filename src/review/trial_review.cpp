@@ -1,0 +1,51 @@
+#include <csignal>
+
+#include "analysis/calcolo_paratia.hpp"
+#include "analysis/segment_count.hpp"
+#include "analysis/stage_sequence.hpp"
+#include "analysis/trial_run.hpp"
+#include "analysis/watch/run_control.hpp"
+#include "base/translated_texts.hpp"
+#include "base/value_error.hpp"
+#include "review/project_review.hpp"
+
+namespace korven::commands {
+
+namespace {
+
+using base::traduttore;
+
+class SenzaVista : public analysis::Avanzamento {
+ public:
+    void apri() override {}
+    void iterazione(const analysis::StatoIterazione&) override {}
+    void chiudi() override {}
+};
+
+std::string inUnaRiga(const std::vector<std::string>& righe) {
+    std::string testo;
+    for (const auto& riga : righe) {
+        if (!testo.empty()) testo += testo.back() == ':' || testo.back() == '.' ? " " : "; ";
+        testo += riga;
+    }
+    return testo;
+}
+
+}  // namespace
+
+std::optional<Rilievo> provaCalcolo(const project::DatiProgetto& dati, int maxIterazioni) {
+    const auto nSeg = analysis::leggiNSeg(analysis::vincoli(dati).incastroPiede);
+    if (!nSeg) return Rilievo{true, traduttore(analysis::motivoNSeg())};
+    SenzaVista vista;
+    const volatile std::sig_atomic_t interruzione = 0;
+    ControlloCorsa controllo(vista, maxIterazioni, interruzione);
+    const auto prova = analysis::provaFasi(dati, *nSeg, controllo);
+    if (controllo.oltreLimite()) return Rilievo{true, inUnaRiga(controllo.motivo())};
+    if (prova.faseSingolare > 0)
+        return Rilievo{true, traduttore("fase") + " " + std::to_string(prova.faseSingolare) + ": " +
+                                 traduttore(analysis::messaggioSingolare)};
+    if (!prova.mostrabile) return Rilievo{true, base::ErroreValore().what()};
+    return {};
+}
+
+}  // namespace korven::commands

@@ -1,0 +1,198 @@
+#include "shell/main/menu1.hpp"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDragEnterEvent>
+#include <QFileInfo>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QScreen>
+#include <QSessionManager>
+#include <QShortcut>
+#include <QStatusBar>
+#include <QTimer>
+#include <array>
+
+#include "commands/document_names.hpp"
+#include "commands/menu_tree.hpp"
+#include "project/project_data.hpp"
+#include "shell/form_sizes.hpp"
+#include "shell/forms/elided_label.hpp"
+#include "shell/main/wall_picture.hpp"
+#include "shell/qt_text.hpp"
+
+namespace korven::shell {
+
+namespace {
+
+using commands::Comando;
+
+constexpr const char* proprietaComando = "comando";
+constexpr const char* proprietaAiuto = "aiuto";
+
+struct Scorciatoia {
+    Comando comando;
+    QKeySequence::StandardKey tasti;
+};
+constexpr Scorciatoia scorciatoie[] = {{Comando::fileApri, QKeySequence::Open},
+                                       {Comando::fileSalva, QKeySequence::Save},
+                                       {Comando::fine, QKeySequence::Quit},
+                                       {Comando::sommario, QKeySequence::HelpContents}};
+
+void battezza(QAction* azione, const commands::VoceMenu& voce) {
+    azione->setObjectName(qt(voce.nome));
+    azione->setProperty(proprietaComando, static_cast<int>(voce.comando));
+    azione->setProperty(proprietaAiuto, voce.aiuto);
+    azione->setMenuRole(QAction::NoRole);
+    for (const auto& [comando, tasti] : scorciatoie)
+        if (comando == voce.comando) azione->setShortcut(QKeySequence(tasti));
+}
+
+// On a small screen the whole form is to be seen, with the frame that the desktop draws around it.
+QSize misuraIniziale(const QSize& schermo) {
+    constexpr QSize cornice(16, 48);
+    return QSize(900, 620).boundedTo(schermo - cornice);
+}
+
+// The one project among what is dragged over the form; empty if it is anything else.
+std::string progettoTrascinato(const QMimeData& dati) {
+    const auto indirizzi = dati.urls();
+    if (indirizzi.size() != 1 || !indirizzi.first().isLocalFile()) return {};
+    const QString file = indirizzi.first().toLocalFile();
+    const bool progetto = QFileInfo(file).suffix().compare(qt(commands::estensioneProgetti),
+                                                           Qt::CaseInsensitive) == 0;
+    return progetto && QFileInfo(file).isFile() ? file.toStdString() : std::string();
+}
+
+}  // namespace
+
+Menu1::Menu1() {
+    setObjectName("menu1");
+    setWindowTitle("KORVEN 32");
+    immagine_ = new WallPicture(this);
+    immagine_->setObjectName("Image1");
+    setCentralWidget(immagine_);
+    connect(immagine_, &WallPicture::premuta, this, [this] { esegui(Comando::about); });
+    stato_ = new ElidedLabel(this);
+    stato_->setObjectName("stato");
+    stato_->mostra(tradotto("Nessun progetto aperto"));
+    statusBar()->addWidget(stato_, 1);
+    modifiche_ = new QLabel(tradotto("Modifiche non salvate"), this);
+    modifiche_->setObjectName("modifiche");
+    statusBar()->addPermanentWidget(modifiche_);
+    mostraModifiche();
+    setAcceptDrops(true);
+    // The key for the menus on all desktops, which Qt leaves to its programs.
+    connect(new QShortcut(Qt::Key_F10, this), &QShortcut::activated, this, [this] {
+        if (!menuBar()->actions().isEmpty())
+            menuBar()->setActiveAction(menuBar()->actions().first());
+    });
+    resize(misuraIniziale(screen()->availableSize()));
+    setMinimumSize(480, 340);
+    // In the middle of the screen by itself: the box that greets is placed before a window manager
+    // has moved the form.
+    move(screen()->availableGeometry().center() - rect().center());
+    ripristinaMisure(*this);
+}
+
+void Menu1::collega(commands::Programma& programma) {
+    programma_ = &programma;
+    costruisciMenu();
+}
+
+void Menu1::costruisciMenu() {
+    menuBar()->clear();
+    // The menu that takes the items of each level: the bar, then the menu opened last above it.
+    std::array<QMenu*, 3> aperti{};
+    for (const auto& voce : commands::albero()) {
+        const auto livello = static_cast<std::size_t>(voce.livello);
+        QMenu* sopra = livello == 0 ? nullptr : aperti[livello - 1];
+        const QString testo = tradotto(voce.testo);
+        if (commands::apreMenu(voce)) {
+            QMenu* menu = sopra != nullptr ? sopra->addMenu(testo) : menuBar()->addMenu(testo);
+            menu->installEventFilter(this);
+            battezza(menu->menuAction(), voce);
+            aperti[livello] = menu;
+            continue;
+        }
+        QAction* azione = sopra != nullptr ? sopra->addAction(testo) : menuBar()->addAction(testo);
+        battezza(azione, voce);
+        azione->setEnabled(programma_->puo(voce.comando));
+        connect(azione, &QAction::triggered, this,
+                [this, comando = voce.comando] { esegui(comando); });
+    }
+}
+
+void Menu1::esegui(Comando comando) {
+    if (programma_ == nullptr || !programma_->puo(comando)) return;
+    salutata_ = false;  // a session that was to end goes on, and the project may change again
+    const bool finisce = programma_->esegui(comando);
+    mostraModifiche();
+    if (!finisce) return;
+    salutata_ = true;
+    close();
+}
+
+void Menu1::mostraModifiche() { modifiche_->setVisible(project::modificato); }
+
+void Menu1::titolo(const std::string& testo) { setWindowTitle(qt(testo)); }
+void Menu1::stato(const std::string& testo) { stato_->mostra(qt(testo)); }
+
+void Menu1::closeEvent(QCloseEvent* evento) {
+    if (!salutata_ && programma_ != nullptr && !programma_->esegui(Comando::fine)) {
+        evento->ignore();
+        return;
+    }
+    salutata_ = true;
+    ricordaMisure(*this);
+    evento->accept();
+}
+
+void Menu1::fineSessione(QSessionManager& gestore) {
+    const bool chiedibile = gestore.allowsInteraction();
+    const bool finisce = sessioneFinisce(chiedibile);
+    if (!chiedibile) return;
+    gestore.release();
+    if (!finisce) gestore.cancel();
+}
+
+bool Menu1::sessioneFinisce(bool chiedibile) {
+    if (programma_ == nullptr) return true;
+    const bool finisce = programma_->fineSessione(chiedibile);
+    salutata_ = finisce && chiedibile;
+    return finisce;
+}
+
+void Menu1::dragEnterEvent(QDragEnterEvent* evento) {
+    // The viewer of drawings disables the form, which keeps the mouse from it but no drop.
+    if (programma_ != nullptr && isEnabled() && !progettoTrascinato(*evento->mimeData()).empty())
+        evento->acceptProposedAction();
+}
+
+void Menu1::dropEvent(QDropEvent* evento) {
+    const std::string file = progettoTrascinato(*evento->mimeData());
+    if (programma_ == nullptr || !isEnabled() || file.empty()) return;
+    evento->acceptProposedAction();
+    // The program that the file comes from waits for the end of the drop, not for our questions.
+    QTimer::singleShot(0, this, [this, file] {
+        salutata_ = false;
+        programma_->documento().apri(file);
+        mostraModifiche();
+    });
+}
+
+bool Menu1::eventFilter(QObject* oggetto, QEvent* evento) {
+    const auto* menu = qobject_cast<QMenu*>(oggetto);
+    const bool f1 =
+        evento->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(evento)->key() == Qt::Key_F1;
+    if (menu == nullptr || !f1 || menu->activeAction() == nullptr)
+        return QMainWindow::eventFilter(oggetto, evento);
+    const int voce = menu->activeAction()->property(proprietaAiuto).toInt();
+    while (QWidget* aperto = QApplication::activePopupWidget()) aperto->close();
+    programma_->aiuto(voce);
+    return true;
+}
+
+}  // namespace korven::shell

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include "masks/field_model.hpp"
+#include "shell/masks/mask_form.hpp"
+
+class QComboBox;
+class QKeyEvent;
+class QLineEdit;
+class QScrollArea;
+
+namespace korven::shell {
+
+class HelpStrip;
+
+/// The form `base1`: labelled fields as a mask describes them. Its rules are those of
+/// `project::FieldModel`.
+///
+/// Controls by name, counted from 0 each: `Label1_n` the labels of all fields, `Combo1_n` the
+/// choices, `Text1_n` the other fields, `Command1_n` the buttons; `Labelhelp` the help strip. Left
+/// and Right change a choice, as Up and Down go from field to field.
+class Base1 : public MaskForm {
+ public:
+    /// The arguments are those of `FieldModel` and `MaskForm`.
+    Base1(const project::Maschera& maschera, std::vector<double> combo,
+          std::vector<std::string> testi, base::Dialogo& dialogo, GuidaForme guida, QWidget* padre);
+
+    [[nodiscard]] const project::FieldModel& modello() const { return modello_; }
+    /// The strip shows the notes on texts too.
+    void annota(project::FieldModel::Nota nota) {
+        modello_.annota(std::move(nota));
+        spiega();
+    }
+
+ protected:
+    bool eventFilter(QObject* oggetto, QEvent* evento) override;
+
+ private:
+    QWidget* fareCampi();
+    QComboBox* fareScelta(std::size_t campo, QWidget* genitore);
+    QLineEdit* fareTesto(std::size_t campo, QWidget* genitore);
+    [[nodiscard]] QSize misuraComoda() const;
+    void scritto(std::size_t campo, const QString& testo);
+    bool entra(std::size_t campo);
+    bool premuto(std::size_t campo, const QKeyEvent& evento);
+    void mostraAttivo();
+    void spiega();
+    void azione(std::size_t pulsante);
+
+    project::FieldModel modello_;
+    std::vector<QWidget*> controlli_;  // the field's combo or text box
+    QScrollArea* area_ = nullptr;
+    HelpStrip* aiuto_ = nullptr;
+    bool controllando_ = false;  // a box tells of a fault: the focus that moves is not the user's
+};
+
+}  // namespace korven::shell

@@ -1,0 +1,89 @@
+#include "shell/masks/base2_32.hpp"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QVBoxLayout>
+#include <utility>
+
+#include "masks/column_keys.hpp"
+#include "shell/forms/help_strip.hpp"
+#include "shell/masks/grid_view.hpp"
+#include "shell/qt_text.hpp"
+
+namespace korven::shell {
+
+namespace {
+
+constexpr int righeMostrate = 14;
+constexpr int larghezzaMinima = 400;
+
+}  // namespace
+
+Base2_32::Base2_32(const project::Maschera& maschera, const std::vector<std::string>& testi,
+                   base::Dialogo& dialogo, GuidaForme guida, QWidget* padre, int capienza)
+    : MaskForm(maschera, dialogo, std::move(guida), QStringLiteral("base2_32"), padre),
+      modello_(maschera, testi, capienza) {
+    setWindowTitle(qt(modello_.titolo()));
+    QStringList aiuti;
+    for (const auto& colonna : maschera.campi) aiuti << qt(project::aiutoMostrato(colonna.aiuto));
+    aiuto_ = new HelpStrip(
+        aiuti, [this] { modello_.mostraAiuto(this->dialogo()); }, this);
+    aiuto_->setObjectName(QStringLiteral("Label1"));
+    griglia_ = new GridView(
+        modello_, dialogo, [this] { spiega(); }, this);
+    auto* colonna = new QVBoxLayout(this);
+    colonna->addWidget(griglia_, 1);
+    colonna->addWidget(aiuto_);
+    colonna->addWidget(farePulsanti([this](std::size_t pulsante) { azione(pulsante); }));
+    setTabOrder(griglia_, aiuto_);
+
+    const QMargins bordi = colonna->contentsMargins();
+    const int larghezza =
+        std::max(larghezzaMinima, griglia_->larghezzaColonne() + bordi.left() + bordi.right());
+    const int altezza = colonna->totalHeightForWidth(larghezza) - griglia_->sizeHint().height() +
+                        griglia_->horizontalHeader()->sizeHint().height() +
+                        righeMostrate * griglia_->verticalHeader()->defaultSectionSize();
+    disponi({larghezza, altezza});
+    griglia_->aggiorna();
+}
+
+void Base2_32::keyPressEvent(QKeyEvent* evento) {
+    if (evento->key() == Qt::Key_F1)
+        apriGuida();
+    else
+        MaskForm::keyPressEvent(evento);
+}
+
+void Base2_32::spiega() {
+    setWindowTitle(qt(modello_.titolo()));
+    QStringList note;
+    for (const std::string& nota : {modello_.eccesso(), modello_.lettura()})
+        if (!nota.empty()) note << qt(nota);
+    aiuto_->mostra(qt(modello_.aiuto()), note.join(QLatin1Char('\n')));
+}
+
+void Base2_32::reject() {
+    if (modello_.siPuoLasciare(dialogo())) MaskForm::reject();
+}
+
+void Base2_32::azione(std::size_t pulsante) {
+    switch (project::azionePulsante(maschera(), pulsante)) {
+        case project::AzioneGriglia::conferma:
+            if (modello_.conferma(dialogo())) return accept();
+            break;
+        case project::AzioneGriglia::annulla:
+            return MaskForm::reject();
+        case project::AzioneGriglia::inserisciRiga:
+            modello_.inserisciRiga(dialogo());
+            break;
+        case project::AzioneGriglia::eliminaRiga:
+            modello_.eliminaRiga();
+            break;
+        case project::AzioneGriglia::guida:
+            mostraGuida();
+            break;
+    }
+    griglia_->aggiorna();
+}
+
+}  // namespace korven::shell

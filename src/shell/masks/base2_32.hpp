@@ -1,0 +1,45 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "masks/grid_model.hpp"
+#include "shell/masks/mask_form.hpp"
+
+namespace korven::shell {
+
+class GridView;
+class HelpStrip;
+
+/// The form `base2_32`: a table as a mask describes it. Its rules are those of
+/// `project::GridModel`.
+///
+/// Controls by name: `MSFlexGrid1` the grid, `Text1` its floating editor, `Label1` the help strip,
+/// `Command1_n` the buttons. F1 opens the help of the form.
+class Base2_32 : public MaskForm {
+ public:
+    /// The arguments are those of `GridModel` and `MaskForm`.
+    /// @throws base::ErroreIndice for more than 500 rows
+    Base2_32(const project::Maschera& maschera, const std::vector<std::string>& testi,
+             base::Dialogo& dialogo, GuidaForme guida, QWidget* padre,
+             int capienza = project::CelleGriglia::righe);
+
+    [[nodiscard]] const project::GridModel& modello() const { return modello_; }
+
+    /// Esc and the close box: rows that were changed are asked about. The cancel button just
+    /// closes.
+    void reject() override;
+
+ protected:
+    void keyPressEvent(QKeyEvent* evento) override;
+
+ private:
+    void azione(std::size_t pulsante);
+    void spiega();
+
+    project::GridModel modello_;
+    GridView* griglia_ = nullptr;
+    HelpStrip* aiuto_ = nullptr;
+};
+
+}  // namespace korven::shell

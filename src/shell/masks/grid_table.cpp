@@ -1,0 +1,51 @@
+#include "shell/masks/grid_table.hpp"
+
+#include "shell/qt_text.hpp"
+
+namespace korven::shell {
+
+void GridTable::cambiate() {
+    emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
+}
+
+int GridTable::rowCount(const QModelIndex& sotto) const {
+    return sotto.isValid() ? 0 : project::CelleGriglia::righe;
+}
+
+int GridTable::columnCount(const QModelIndex& sotto) const {
+    return sotto.isValid() ? 0 : modello_.colonne();
+}
+
+QVariant GridTable::data(const QModelIndex& indice, int ruolo) const {
+    const project::PostoGriglia qui = posto(indice);
+    const bool numero = modello_.numerica(qui.colonna);
+    switch (ruolo) {
+        case Qt::DisplayRole:
+            return qt(modello_.testo(qui));
+        // A description may be longer than its column.
+        case Qt::ToolTipRole:
+            return numero ? QVariant() : qt(modello_.testo(qui));
+        case Qt::TextAlignmentRole:
+            return QVariant::fromValue(Qt::AlignVCenter |
+                                       (numero ? Qt::AlignRight : Qt::AlignLeft));
+        default:
+            return {};
+    }
+}
+
+QVariant GridTable::headerData(int sezione, Qt::Orientation verso, int ruolo) const {
+    if (ruolo != Qt::DisplayRole) return {};
+    if (verso == Qt::Vertical) return sezione + 1;
+    return qt(modello_.etichetta(sezione + 1));
+}
+
+// Editable, so that what is typed through an input method arrives; the view opens no editor of its
+// own.
+Qt::ItemFlags GridTable::flags(const QModelIndex& indice) const {
+    Qt::ItemFlags segni = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
+    if (indice.isValid() && !modello_.soloLettura(posto(indice).colonna))
+        segni |= Qt::ItemIsEditable;
+    return segni;
+}
+
+}  // namespace korven::shell

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "base/dialogo.hpp"
+#include "commands/program_forms.hpp"
+#include "masks/mask_values.hpp"
+#include "shell/masks/mask_form.hpp"
+
+namespace korven::shell {
+
+/// Shows the form of the current mask, `base1` for fields and `base2_32` for a grid, with its
+/// values, until it is closed. What was confirmed goes back to `maschere`.
+/// @throws base::ErroreIndice for a grid with more than 500 rows
+void mostraForm(project::Maschere& maschere, base::Dialogo& dialogo, const GuidaForme& guida,
+                QWidget* padre);
+
+/// Plugs the forms into the commands. Their help button opens what `forme.aiuto` is by then, so
+/// this comes after it.
+void collegaMaschere(commands::FormeProgramma& forme, base::Dialogo& dialogo, QWidget* padre);
+
+}  // namespace korven::shell

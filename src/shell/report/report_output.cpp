@@ -1,0 +1,100 @@
+#include "shell/report/report_output.hpp"
+
+#include <QCoreApplication>
+#include <QPrinter>
+#include <utility>
+
+#include "base/file_names.hpp"
+#include "base/translated_texts.hpp"
+#include "commands/output_title.hpp"
+#include "commands/report_print.hpp"
+#include "device/report_pages.hpp"
+#include "project/project_data.hpp"
+#include "shell/file_dialogs_qt.hpp"
+#include "shell/qt_text.hpp"
+#include "shell/viewer/export.hpp"
+
+namespace korven::shell {
+
+namespace {
+
+// A form that waits for its user gives the hourglass back for as long.
+class PuntatoreNormale {
+ public:
+    explicit PuntatoreNormale(base::Dialogo& dialogo) : dialogo_(dialogo) {
+        dialogo_.puntatore(base::Puntatore::normale);
+    }
+    PuntatoreNormale(const PuntatoreNormale&) = delete;
+    PuntatoreNormale& operator=(const PuntatoreNormale&) = delete;
+    ~PuntatoreNormale() { dialogo_.puntatore(base::Puntatore::clessidra); }
+
+ private:
+    base::Dialogo& dialogo_;
+};
+
+}  // namespace
+
+UsciteRelazione::UsciteRelazione(QWidget& principale, base::Dialogo& dialogo,
+                                 std::function<QPrinter&()> stampante, std::string outdoc)
+    : principale_(principale),
+      dialogo_(dialogo),
+      stampante_(std::move(stampante)),
+      dialoghi_(stampante_),
+      programmi_([] { QCoreApplication::processEvents(); }),
+      outdoc_(std::move(outdoc)) {}
+
+void UsciteRelazione::anteprima(const std::string& relazione) {
+    if (!forma_) forma_ = new Form1(&principale_);
+    forma_->mostra(relazione);
+}
+
+void UsciteRelazione::stampa(const std::string& relazione) {
+    commands::stampaRelazione(
+        relazione, [this] { return apriStampante(); }, dialogo_);
+}
+
+void UsciteRelazione::esportaDoc(const std::string& relazione) {
+    commands::esportaDoc(relazione, porte());
+}
+
+void UsciteRelazione::esportaTxt(const std::string& relazione) {
+    commands::esportaTxt(relazione, porte());
+}
+
+commands::PorteEsportazione UsciteRelazione::porte() {
+    return {dialogo_, programmi_, [this](const std::string& nome) { return chiediNome(nome); },
+            outdoc_};
+}
+
+std::string UsciteRelazione::chiediNome(const std::string& proposto) {
+    const PuntatoreNormale normale(dialogo_);
+    return chiediNomeTxt(&principale_, proposto);
+}
+
+std::unique_ptr<report::ReportPrinter> UsciteRelazione::apriStampante() {
+    QPrinter& stampante = stampante_();
+    if (dialoghi_.haStampante())
+        return device::relazioneSuStampante(stampante, qt(commands::titoloUscite()));
+    const auto percorso = dialoghi_.fileDaSalvare(richiestaPdfRelazione());
+    if (!percorso) return nullptr;
+    return device::relazioneSuPdf(*percorso, stampante.pageLayout(), qt(commands::titoloUscite()));
+}
+
+FileDaSalvare richiestaPdfRelazione() {
+    const std::string percorso = base::nomePdfRelazione(project::fileCorrente);
+    return {base::traduttore("Stampa della relazione in un file PDF"),
+            percorso.substr(percorso.rfind('/') + 1),
+            {tipoPdf()}};
+}
+
+void collegaRelazione(commands::FormeProgramma& forme, QWidget& principale, base::Dialogo& dialogo,
+                      std::function<QPrinter&()> stampante, std::string outdoc) {
+    const auto uscite = std::make_shared<UsciteRelazione>(principale, dialogo, std::move(stampante),
+                                                          std::move(outdoc));
+    forme.anteprima = [uscite](const std::string& r) { uscite->anteprima(r); };
+    forme.stampa = [uscite](const std::string& r) { uscite->stampa(r); };
+    forme.esportaDoc = [uscite](const std::string& r) { uscite->esportaDoc(r); };
+    forme.esportaTxt = [uscite](const std::string& r) { uscite->esportaTxt(r); };
+}
+
+}  // namespace korven::shell

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QPushButton>
+#include <QWidget>
+
+#include "shell/run/progress_picture.hpp"
+
+namespace korven::shell {
+
+/// The progress window `TempCalc`: the picture of the wall as the last iteration left it, and the
+/// stop button `Command1` over its lower right corner. It stays above the main form and keeps the
+/// user out of the other windows while a run lasts. Closing it, Esc, Enter and the space bar do
+/// what the button does; a run ends only by itself.
+class TempCalc : public QWidget {
+    Q_OBJECT
+ public:
+    explicit TempCalc(QWidget* principale);
+
+    void mostra(QuadroAvanzamento quadro);
+    [[nodiscard]] const QuadroAvanzamento& quadro() const { return quadro_; }
+
+ signals:
+    void interruzione();
+
+ protected:
+    void paintEvent(QPaintEvent* evento) override;
+    void resizeEvent(QResizeEvent* evento) override;
+    void closeEvent(QCloseEvent* evento) override;
+    void keyPressEvent(QKeyEvent* evento) override;
+
+ private:
+    void disponi();
+    void legenda(QPainter& pittore) const;
+    void interrompi();
+
+    QPushButton* command1_;
+    QuadroAvanzamento quadro_;
+    // Translated once: a box of the translators' test mode must not open while a window is painted.
+    const QString deformata_, momenti_;
+};
+
+/// A third of the screen's width, two thirds of its height, in the middle.
+[[nodiscard]] QRect riquadroTempCalc(const QRect& schermo);
+
+}  // namespace korven::shell

@@ -1,0 +1,252 @@
+#include "shell/section/definej.hpp"
+
+#include <QButtonGroup>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "base/number_reading.hpp"
+#include "commands/menu_tree.hpp"
+#include "help/help_contexts.hpp"
+#include "project/project_data.hpp"
+#include "shell/form_sizes.hpp"
+#include "shell/forms/confirm_buttons.hpp"
+#include "shell/forms/help_strip.hpp"
+#include "shell/forms/scrolled_part.hpp"
+#include "shell/qt_text.hpp"
+#include "shell/section/definej_fields.hpp"
+#include "shell/section/section_sketch_view.hpp"
+
+namespace korven::shell {
+
+namespace {
+
+using project::RiquadroSezione;
+
+struct TipoForma {
+    const char* opzione;
+    const char* didascalia;
+    const char* riquadro;
+    const char* titolo;
+};
+
+// In the order of `project::tipiSezione`; the materials last.
+constexpr TipoForma tipi[] = {
+    {"Option1", "Diaframma continuo", "Frame1", "Diaframma continuo [mm]"},
+    {"Option2", "Pali affiancati", "Frame2", "Pali affiancati [mm]"},
+    {"Option3", "Palancola", "Frame5", "Palancola [mm] (misurati sull'asse del profilato)"},
+    {"Option4", "Pali armati affiancati", "Frame6", "Pali armati affiancati [mm]"},
+    {"", "", "Frame4", "Caratteristiche dei materiali"},
+};
+
+constexpr const char* aiutoTipo =
+    "Il tipo di sezione con cui si calcola. I dati degli altri tipi restano nel progetto. "
+    "Il segno decimale è il punto.";
+
+std::size_t indice(RiquadroSezione riquadro) { return static_cast<std::size_t>(riquadro); }
+
+QLabel* etichetta(const QString& testo, Qt::Alignment posto, QWidget* padre) {
+    auto* fatta = new QLabel(testo, padre);
+    fatta->setAlignment(posto);
+    return fatta;
+}
+
+}  // namespace
+
+DefinEJ::DefinEJ(project::Sezione& sezione, bool& modificato, QWidget* padre)
+    : QDialog(padre), modello_(sezione, modificato) {
+    setObjectName(QStringLiteral("DefinEJ"));
+    setWindowTitle(tradotto("Calcolo di EJ e verifica strutturale"));
+    setProperty("contestoAiuto",
+                commands::contestoAiuto(commands::voce(commands::Comando::editRigidezza).aiuto));
+    auto* colonna = new QVBoxLayout(this);
+    area_ = new ParteScorrevole(fareTutto(), this);
+    colonna->addWidget(area_, 1);
+    colonna->addWidget(fareStriscia());
+    colonna->addWidget(pulsantiConferma(*this, [this] {
+        modello_.conferma();
+        accept();
+    }));
+    prendiMisura(*this, colonna->sizeHint());
+    connect(this, &QDialog::finished, this, [this] { ricordaMisure(*this); });
+    mostraTipo();
+    opzioni_[indice(modello_.tipo())]->setFocus();
+    entraOpzioni();
+}
+
+QWidget* DefinEJ::fareTutto() {
+    auto* tutto = new QWidget(this);
+    auto* colonna = new QVBoxLayout(tutto);
+    colonna->setContentsMargins(0, 0, 0, 0);
+    colonna->addWidget(fareOpzioni());
+    colonna->addWidget(fareRiquadri(), 1);
+    colonna->addWidget(fareRiquadro(RiquadroSezione::materiali));
+    return tutto;
+}
+
+QWidget* DefinEJ::fareOpzioni() {
+    auto* riga = new QWidget(this);
+    auto* disposizione = new QHBoxLayout(riga);
+    disposizione->setContentsMargins(4, 0, 4, 0);
+    auto* gruppo = new QButtonGroup(riga);
+    for (std::size_t i = 0; i < opzioni_.size(); ++i) {
+        auto* opzione = opzioni_[i] = new QRadioButton(tradotto(tipi[i].didascalia), riga);
+        opzione->setObjectName(QLatin1String(tipi[i].opzione));
+        opzione->setAccessibleName(opzione->text());
+        opzione->installEventFilter(this);
+        gruppo->addButton(opzione, static_cast<int>(i));
+        disposizione->addWidget(opzione);
+    }
+    disposizione->addStretch();
+    opzioni_[indice(modello_.tipo())]->setChecked(true);
+    connect(gruppo, &QButtonGroup::idToggled, this, [this](int scelto, bool acceso) {
+        if (!acceso) return;
+        modello_.scegli(static_cast<RiquadroSezione>(scelto));
+        mostraTipo();
+    });
+    return riga;
+}
+
+QWidget* DefinEJ::fareRiquadri() {
+    riquadri_ = new QStackedWidget(this);
+    for (std::size_t i = 0; i < schizzi_.size(); ++i) {
+        auto* riquadro = fareRiquadro(static_cast<RiquadroSezione>(i));
+        auto* griglia = static_cast<QGridLayout*>(riquadro->layout());
+        auto* schizzo = schizzi_[i] = new SectionSketchView(
+            [this](std::size_t campo) {
+                campi_[campo]->setFocus();
+                campi_[campo]->selectAll();
+            },
+            riquadro);
+        schizzo->setObjectName(QStringLiteral("schizzo"));
+        schizzo->setAccessibleName(riquadro->title());
+        griglia->setRowStretch(griglia->rowCount(), 1);
+        griglia->addWidget(schizzo, 0, griglia->columnCount(), griglia->rowCount(), 1);
+        griglia->setColumnStretch(griglia->columnCount() - 1, 1);
+        riquadri_->addWidget(riquadro);
+    }
+    return riquadri_;
+}
+
+QGroupBox* DefinEJ::fareRiquadro(RiquadroSezione riquadro) {
+    const TipoForma& tipo = tipi[indice(riquadro)];
+    auto* fatto = new QGroupBox(tradotto(tipo.titolo), this);
+    fatto->setObjectName(QLatin1String(tipo.riquadro));
+    auto* griglia = new QGridLayout(fatto);
+    fareCampi(*griglia, riquadro);
+    if (riquadro == RiquadroSezione::materiali)
+        griglia->setColumnStretch(griglia->columnCount(), 1);
+    return fatto;
+}
+
+// Each row of fields has its caption in the first column; from there each column of fields takes
+// two, one for the symbols. The headings of the columns stand in row 0.
+void DefinEJ::fareCampi(QGridLayout& griglia, RiquadroSezione riquadro) {
+    QStringList righe;
+    auto* padre = griglia.parentWidget();
+    for (std::size_t i = 0; i < campi_.size(); ++i) {
+        if (project::campiSezione[i].riquadro != riquadro) continue;
+        const CampoForma& forma = campiForma[i];
+        auto* campo = fareCampo(i);
+        const QString riga = tradotto(forma.riga);
+        if (!righe.contains(riga)) {
+            righe << riga;
+            auto* didascalia = etichetta(riga, Qt::AlignLeft | Qt::AlignVCenter, padre);
+            didascalia->setBuddy(campo);
+            griglia.addWidget(didascalia, static_cast<int>(righe.size()), 0);
+        }
+        if (forma.titolo != nullptr && griglia.itemAtPosition(0, 2 * forma.colonna + 2) == nullptr)
+            griglia.addWidget(etichetta(tradotto(forma.titolo), Qt::AlignCenter, padre), 0,
+                              2 * forma.colonna + 2);
+        const int y = static_cast<int>(righe.indexOf(riga)) + 1;
+        auto* simbolo = etichetta(qt(project::campiSezione[i].simbolo),
+                                  Qt::AlignRight | Qt::AlignVCenter, padre);
+        simbolo->setContentsMargins(8, 0, 2, 0);
+        griglia.addWidget(simbolo, y, 2 * forma.colonna + 1);
+        griglia.addWidget(campo, y, 2 * forma.colonna + 2);
+    }
+}
+
+QLineEdit* DefinEJ::fareCampo(std::size_t campo) {
+    const CampoForma& forma = campiForma[campo];
+    auto* fatto = campi_[campo] = new QLineEdit(qt(modello_.testo(campo)), this);
+    fatto->setObjectName(QLatin1String(forma.controllo));
+    QStringList nome{tradotto(forma.riga)};
+    if (forma.titolo != nullptr) nome << tradotto(forma.titolo);
+    fatto->setAccessibleName(nome.join(QLatin1Char(' ')));
+    fatto->setAccessibleDescription(tradotto(forma.aiuto));
+    fatto->setAlignment(Qt::AlignRight);
+    constexpr int cifreMostrate = 9;
+    fatto->setMinimumWidth(fatto->fontMetrics().averageCharWidth() * cifreMostrate + 16);
+    fatto->setMaximumWidth(fatto->minimumWidth() * 3 / 2);
+    fatto->installEventFilter(this);
+    connect(fatto, &QLineEdit::textChanged, this, [this, campo](const QString& testo) {
+        modello_.scrivi(campo, testo.toStdString());
+        spiega(campo);
+        aggiornaSchizzo();
+    });
+    return fatto;
+}
+
+QWidget* DefinEJ::fareStriscia() {
+    QStringList testi{tradotto(aiutoTipo)};
+    for (const auto& campo : campiForma) testi << tradotto(campo.aiuto);
+    aiuto_ = new HelpStrip(testi, {}, this);
+    aiuto_->setObjectName(QStringLiteral("Labelhelp"));
+    return aiuto_;
+}
+
+void DefinEJ::mostraTipo() {
+    riquadri_->setCurrentIndex(static_cast<int>(indice(modello_.tipo())));
+    aggiornaSchizzo();
+}
+
+void DefinEJ::aggiornaSchizzo() {
+    schizzi_[indice(modello_.tipo())]->mostra(
+        structure::schizzoSezione(modello_.tipo(), modello_.letta()));
+}
+
+void DefinEJ::entra(std::size_t campo) {
+    area_->ensureWidgetVisible(campi_[campo]);
+    spiega(campo);
+    for (auto* schizzo : schizzi_) schizzo->evidenzia(campo);
+}
+
+void DefinEJ::spiega(std::size_t campo) {
+    aiuto_->mostra(tradotto(campiForma[campo].aiuto),
+                   qt(base::letturaMostrata(modello_.testo(campo))));
+}
+
+void DefinEJ::entraOpzioni() {
+    aiuto_->mostra(tradotto(aiutoTipo));
+    for (auto* schizzo : schizzi_) schizzo->evidenzia({});
+}
+
+bool DefinEJ::eventFilter(QObject* controllo, QEvent* evento) {
+    const auto campo = std::find(campi_.begin(), campi_.end(), controllo);
+    if (evento->type() == QEvent::FocusIn) {
+        if (campo == campi_.end())
+            entraOpzioni();
+        else
+            entra(static_cast<std::size_t>(campo - campi_.begin()));
+    } else if (evento->type() == QEvent::KeyPress && campo != campi_.end()) {
+        const int tasto = static_cast<QKeyEvent*>(evento)->key();
+        if (tasto == Qt::Key_Up || tasto == Qt::Key_Down)
+            return focusNextPrevChild(tasto == Qt::Key_Down);
+    }
+    return QDialog::eventFilter(controllo, evento);
+}
+
+void collegaSezione(commands::FormeProgramma& forme, QWidget* padre) {
+    forme.sezione = [padre] {
+        DefinEJ(project::Progetto.sezione, project::modificato, padre).exec();
+    };
+}
+
+}  // namespace korven::shell

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <QDialog>
+#include <array>
+
+#include "commands/program_forms.hpp"
+#include "masks/edited_section.hpp"
+
+class QGridLayout;
+class QGroupBox;
+class QLineEdit;
+class QRadioButton;
+class QStackedWidget;
+
+namespace korven::shell {
+
+class HelpStrip;
+class ParteScorrevole;
+class SectionSketchView;
+
+/// The form of the structural section. What is typed and stored is the matter of
+/// `project::SezioneEditata`; beside the fields of each type a sketch shows what they measure.
+class DefinEJ : public QDialog {
+    Q_OBJECT
+
+ public:
+    /// @param modificato  the flag of the document; both must outlive the form
+    DefinEJ(project::Sezione& sezione, bool& modificato, QWidget* padre);
+
+ protected:
+    bool eventFilter(QObject* controllo, QEvent* evento) override;
+
+ private:
+    QWidget* fareTutto();
+    QWidget* fareOpzioni();
+    QWidget* fareRiquadri();
+    QGroupBox* fareRiquadro(project::RiquadroSezione riquadro);
+    void fareCampi(QGridLayout& griglia, project::RiquadroSezione riquadro);
+    QLineEdit* fareCampo(std::size_t campo);
+    QWidget* fareStriscia();
+    void mostraTipo();
+    void aggiornaSchizzo();
+    void entra(std::size_t campo);
+    void spiega(std::size_t campo);
+    void entraOpzioni();
+
+    project::SezioneEditata modello_;
+    std::array<QRadioButton*, 4> opzioni_{};
+    std::array<SectionSketchView*, 4> schizzi_{};
+    std::array<QLineEdit*, project::numeroCampiSezione> campi_{};
+    QStackedWidget* riquadri_ = nullptr;
+    ParteScorrevole* area_ = nullptr;  // of the fields
+    HelpStrip* aiuto_ = nullptr;
+};
+
+/// Puts the form of the section of the open project behind its command.
+void collegaSezione(commands::FormeProgramma& forme, QWidget* padre);
+
+}  // namespace korven::shell

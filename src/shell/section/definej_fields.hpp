@@ -1,0 +1,21 @@
+#pragma once
+
+#include "masks/edited_section.hpp"
+
+// What the section form shows of each field: the control, its row and column, the words of help.
+
+namespace korven::shell {
+
+struct CampoForma {
+    double project::Sezione::*valore;
+    const char* controllo;
+    const char* riga;  ///< Italian key of the caption; fields with the same stand beside each other
+    int colonna;       ///< of its frame, from 0
+    const char* titolo;  ///< Italian key of the heading of the column; nullptr for none
+    const char* aiuto;   ///< Italian key
+};
+
+/// In the order of the tabulator, that of `project::campiSezione`.
+extern const CampoForma campiForma[project::numeroCampiSezione];
+
+}  // namespace korven::shell

@@ -1,0 +1,390 @@
+#include "masks/grid_model.hpp"
+
+#include <gtest/gtest.h>
+
+#include "base/table.hpp"
+#include "support/dialog_script.hpp"
+#include "support/mask_setup.hpp"
+
+namespace korven::project {
+namespace {
+
+using Testi = std::vector<std::string>;
+using base::Risposta;
+
+class ModelloGriglia : public ::testing::Test {
+ protected:
+    void scrivi(const std::string& testo) {
+        for (const char c : testo)
+            modello.premi(c == '.' ? Tasto::punto : Tasto::carattere, std::string(1, c), dialogo);
+    }
+    void premi(Tasto tasto) { modello.premi(tasto, "", dialogo); }
+    [[nodiscard]] std::string cella() const { return modello.testo(modello.corrente()); }
+
+    Maschera maschera = test::mascheraGriglia();
+    test::DialogScript dialogo;
+    GridModel modello{maschera, {"2", "3", "18", "uno", "0", "8", "19", "due", "1"}};
+};
+
+TEST_F(ModelloGriglia, ShowsTheRowsItIsGivenTrimmed) {
+    const GridModel altro(maschera, {"1", " 3 ", "18"});
+    EXPECT_EQ(altro.testo({1, 1}), "3");
+    EXPECT_EQ(altro.testo({1, 2}), "18");
+    EXPECT_EQ(altro.testo({1, 3}), "");
+    EXPECT_EQ(altro.colonne(), 4);
+    EXPECT_EQ(altro.etichetta(0), "N");
+    EXPECT_EQ(altro.titolo(), "Tabella");
+    EXPECT_EQ(altro.corrente(), (PostoGriglia{1, 1}));
+}
+
+TEST_F(ModelloGriglia, TakesATitleFromBehindTheRowCount) {
+    const GridModel altro(maschera, {"1|Altro titolo", "3", "18", "", ""});
+    EXPECT_EQ(altro.titolo(), "Altro titolo");
+    EXPECT_EQ(altro.testo({1, 2}), "18");
+}
+
+TEST_F(ModelloGriglia, RefusesMoreRowsThanItHas) {
+    EXPECT_THROW(GridModel(maschera, {"501"}), base::ErroreIndice);
+    EXPECT_NO_THROW(GridModel(maschera, {"500"}));
+    EXPECT_NO_THROW(GridModel(maschera, {"-1", "x"}));
+}
+
+TEST_F(ModelloGriglia, MakesAColumnAsWideAsItsLabelOrItsType) {
+    EXPECT_EQ(modello.campioniLarghezza(1),
+              (std::array<std::string, 2>{" Prof. [m] ", " 888888 "}));
+    EXPECT_EQ(modello.campioniLarghezza(3), (std::array<std::string, 2>{" Nome ", " 88888 "}));
+    EXPECT_TRUE(modello.numerica(1));
+    EXPECT_FALSE(modello.numerica(3));
+}
+
+TEST_F(ModelloGriglia, ReplacesTheCellByTheFirstCharacterAndAppendsTheNext) {
+    scrivi("45");
+    EXPECT_EQ(cella(), "45");
+    premi(Tasto::backspace);
+    EXPECT_EQ(cella(), "4");
+    premi(Tasto::esc);
+    EXPECT_EQ(cella(), "3");
+    scrivi("6");
+    EXPECT_EQ(cella(), "6");
+}
+
+TEST_F(ModelloGriglia, DoesNotReplaceTheCellByBackspaceOrAPoint) {
+    premi(Tasto::backspace);
+    EXPECT_EQ(cella(), "");
+    modello.vaiA({2, 2}, dialogo);
+    premi(Tasto::backspace);
+    scrivi("8");
+    EXPECT_EQ(cella(), "18");
+    modello.vaiA({1, 2}, dialogo);
+    scrivi(".5");
+    EXPECT_EQ(cella(), "18.5");
+}
+
+TEST_F(ModelloGriglia, TakesDeleteForBackspaceAndAPointForACharacter) {
+    scrivi("1.5");
+    EXPECT_EQ(cella(), "1.5");
+    premi(Tasto::canc);
+    premi(Tasto::canc);
+    EXPECT_EQ(cella(), "1");
+    premi(Tasto::canc);
+    premi(Tasto::canc);
+    EXPECT_EQ(cella(), "");
+}
+
+TEST_F(ModelloGriglia, RemovesWholeCharacters) {
+    modello.vaiA({1, 3}, dialogo);
+    modello.premi(Tasto::carattere, "à", dialogo);
+    modello.premi(Tasto::carattere, "è", dialogo);
+    premi(Tasto::backspace);
+    EXPECT_EQ(cella(), "à");
+}
+
+TEST_F(ModelloGriglia, CopiesWithoutTouchingWhatIsTypedNext) {
+    EXPECT_EQ(modello.copia(), "3\t18\tuno\t0\r\n8\t19\tdue\t1");
+    scrivi("7");
+    EXPECT_EQ(cella(), "7");
+}
+
+TEST_F(ModelloGriglia, MovesOnEnterToTheNextColumnAndRow) {
+    premi(Tasto::invio);
+    EXPECT_EQ(modello.corrente(), (PostoGriglia{1, 2}));
+    modello.vaiA({1, 4}, dialogo);
+    premi(Tasto::invio);
+    EXPECT_EQ(modello.corrente(), (PostoGriglia{2, 1}));
+    modello.vaiA({500, 4}, dialogo);
+    premi(Tasto::invio);
+    EXPECT_EQ(modello.corrente(), (PostoGriglia{500, 4}));
+}
+
+TEST_F(ModelloGriglia, GoesBackTheWayThatEnterGoes) {
+    modello.vaiA({2, 2}, dialogo);
+    modello.arretra(dialogo);
+    EXPECT_EQ(modello.corrente(), (PostoGriglia{2, 1}));
+    modello.arretra(dialogo);
+    EXPECT_EQ(modello.corrente(), (PostoGriglia{1, 4}));
+    modello.vaiA({1, 1}, dialogo);
+    modello.arretra(dialogo);
+    EXPECT_EQ(modello.corrente(), (PostoGriglia{1, 1}));
+}
+
+TEST_F(ModelloGriglia, WritesTheEditorWhenItMovesOn) {
+    modello.apriEditore();
+    modello.scriviEditore("6");
+    modello.avanza(dialogo);
+    EXPECT_EQ(modello.testo({1, 1}), "6");
+    EXPECT_EQ(modello.corrente(), (PostoGriglia{1, 2}));
+    modello.vaiA({500, 4}, dialogo);
+    modello.apriEditore();
+    modello.scriviEditore("7");
+    modello.avanza(dialogo);
+    EXPECT_EQ(modello.testo({500, 4}), "7");
+    EXPECT_FALSE(modello.editoreAperto());
+    EXPECT_EQ(dialogo.messaggi.size(), 1u) << "not one of the keys";
+}
+
+TEST_F(ModelloGriglia, EndsAtTheLastCellOfItsData) {
+    EXPECT_EQ(modello.fine(), (PostoGriglia{2, 4}));
+    EXPECT_EQ(GridModel(maschera, {}).fine(), (PostoGriglia{1, 1}));
+}
+
+TEST_F(ModelloGriglia, MovesByArrowsInsideTheGrid) {
+    premi(Tasto::su);
+    premi(Tasto::sinistra);
+    EXPECT_EQ(modello.corrente(), (PostoGriglia{1, 1}));
+    premi(Tasto::giu);
+    premi(Tasto::destra);
+    EXPECT_EQ(modello.corrente(), (PostoGriglia{2, 2}));
+}
+
+TEST_F(ModelloGriglia, PutsTheCursorBackOnABadCell) {
+    scrivi("101");
+    premi(Tasto::invio);
+    EXPECT_EQ(modello.corrente(), (PostoGriglia{1, 1}));
+    EXPECT_FALSE(modello.vaiA({2, 2}, dialogo));
+    ASSERT_EQ(dialogo.messaggi.size(), 2u);
+    EXPECT_TRUE(dialogo.messaggi[0].testo.ends_with("all'intervallo:\r\n0; 100"));
+    EXPECT_EQ(dialogo.messaggi[0].titolo, "Prof. [m]");
+    EXPECT_EQ(dialogo.messaggi[0].icona, base::Icona::stop);
+    premi(Tasto::esc);
+    EXPECT_TRUE(modello.vaiA({2, 2}, dialogo));
+}
+
+TEST_F(ModelloGriglia, CutsATextThatIsTooLong) {
+    modello.vaiA({1, 3}, dialogo);
+    scrivi("abcdefg");
+    EXPECT_FALSE(modello.vaiA({1, 4}, dialogo));
+    EXPECT_EQ(cella(), "abcde");
+    EXPECT_TRUE(modello.vaiA({1, 4}, dialogo));
+}
+
+TEST_F(ModelloGriglia, AcceptsAnEmptyCellInEveryColumn) {
+    for (int c = 1; c <= 4; ++c) {
+        modello.vaiA({3, c}, dialogo);
+        scrivi(" ");
+    }
+    modello.vaiA({1, 1}, dialogo);
+    EXPECT_TRUE(dialogo.messaggi.empty());
+    EXPECT_EQ(modello.corrente(), (PostoGriglia{1, 1}));
+}
+
+TEST_F(ModelloGriglia, EditsInAnEditorThatEnterWritesAndEscDrops) {
+    premi(Tasto::f2);
+    EXPECT_TRUE(modello.editoreAperto());
+    EXPECT_EQ(modello.testoEditore(), "3");
+    modello.scriviEditore("35");
+    premi(Tasto::esc);
+    EXPECT_FALSE(modello.editoreAperto());
+    EXPECT_EQ(cella(), "3");
+    modello.apriEditore();  // a double click
+    modello.scriviEditore("35");
+    premi(Tasto::carattere);  // belongs to the editor
+    premi(Tasto::invio);
+    EXPECT_EQ(cella(), "35");
+    EXPECT_EQ(modello.corrente(), (PostoGriglia{1, 1}));
+    premi(Tasto::esc);  // back to what the cell had on entry
+    EXPECT_EQ(cella(), "3");
+}
+
+TEST_F(ModelloGriglia, WritesAnOpenEditorBeforeItLeavesTheCell) {
+    modello.apriEditore();
+    modello.scriviEditore("7");
+    EXPECT_TRUE(modello.vaiA({2, 2}, dialogo));
+    EXPECT_EQ(modello.testo({1, 1}), "7");
+}
+
+TEST_F(ModelloGriglia, LeavesAReadOnlyColumnAlone) {
+    maschera.campi[1].soloLettura = true;
+    scrivi("9");
+    premi(Tasto::f2);
+    EXPECT_FALSE(modello.editoreAperto());
+    EXPECT_EQ(cella(), "3");
+    maschera.campi[1].massimo = 1;  // out of range, and nothing the user could do about it
+    EXPECT_TRUE(modello.vaiA({2, 2}, dialogo));
+}
+
+TEST_F(ModelloGriglia, ShowsTheHelpOfTheColumnWithItsKeysBelow) {
+    EXPECT_EQ(modello.aiuto(), "la profondità");
+    modello.vaiA({1, 4}, dialogo);
+    EXPECT_EQ(modello.aiuto(), "il tipo\n0=traz.,1=tutti");
+    modello.mostraAiuto(dialogo);
+    EXPECT_EQ(dialogo.messaggi.at(0).testo, "il tipo\n0=traz.,1=tutti");
+}
+
+TEST_F(ModelloGriglia, InsertsARowAtTheCurrentOne) {
+    modello.vaiA({2, 1}, dialogo);
+    modello.inserisciRiga(dialogo);
+    EXPECT_EQ(cella(), "");
+    EXPECT_EQ(modello.testo({3, 3}), "due");
+    premi(Tasto::esc);  // the row is a new one: nothing comes back
+    EXPECT_EQ(cella(), "");
+}
+
+TEST_F(ModelloGriglia, DoesNotPushABadCellDown) {
+    scrivi("999");
+    modello.inserisciRiga(dialogo);
+    EXPECT_EQ(dialogo.messaggi.size(), 1u);
+    EXPECT_EQ(cella(), "999");
+    modello.eliminaRiga();  // a bad row can go
+    EXPECT_EQ(cella(), "8");
+    EXPECT_EQ(modello.corrente(), (PostoGriglia{1, 1}));
+}
+
+TEST_F(ModelloGriglia, ConfirmsAndPacksItsRows) {
+    EXPECT_TRUE(modello.conferma(dialogo));
+    EXPECT_EQ(modello.valoriTesto(), (Testi{"2", "3", "18", "uno", "0", "8", "19", "due", "1"}));
+    EXPECT_TRUE(dialogo.domande.empty());
+}
+
+TEST_F(ModelloGriglia, ClosesTheEditorBeforeItConfirms) {
+    modello.apriEditore();
+    modello.scriviEditore("x");
+    EXPECT_FALSE(modello.conferma(dialogo));
+    EXPECT_EQ(dialogo.messaggi.size(), 1u);
+    modello.apriEditore();
+    modello.scriviEditore("4");
+    EXPECT_TRUE(modello.conferma(dialogo));
+    EXPECT_EQ(modello.valoriTesto()[1], "4");
+}
+
+TEST_F(ModelloGriglia, AsksAboutAGapAndKeepsTheOrderOfItsRows) {
+    GridModel conVuoto(maschera, {"3", "1", "2", "a", "0", "", "", "", "", "3", "4", "b", "1"});
+    conVuoto.vaiA({3, 2}, dialogo);
+    dialogo.risposte = {Risposta::si, Risposta::annulla, Risposta::no};
+    EXPECT_FALSE(conVuoto.conferma(dialogo));
+    EXPECT_EQ(conVuoto.corrente(), (PostoGriglia{3, 2}));
+    EXPECT_FALSE(conVuoto.conferma(dialogo));  // nobody answered
+    EXPECT_TRUE(conVuoto.conferma(dialogo));
+    EXPECT_EQ(conVuoto.valoriTesto(), (Testi{"2", "1", "2", "a", "0", "3", "4", "b", "1"}));
+    ASSERT_EQ(dialogo.domande.size(), 3u);
+    EXPECT_EQ(dialogo.domande[0],
+              (test::DialogRecord::Box{"Alcune righe di dati non sono state completate: volete "
+                                       "controllare i dati inseriti?",
+                                       "ATTENZIONE!", base::Icona::domanda}));
+}
+
+TEST_F(ModelloGriglia, AsksAboutAnEmptyCellUnlessTheMaskAllowsIt) {
+    const Testi testi = {"1", "1", "", "a", "0"};
+    maschera.genere = GenereMaschera::grigliaFissa;
+    dialogo.risposte = {Risposta::no};
+    EXPECT_TRUE(GridModel(maschera, testi).conferma(dialogo));
+    EXPECT_EQ(dialogo.domande.size(), 1u);
+    maschera.genere = GenereMaschera::grigliaLibera;
+    EXPECT_TRUE(GridModel(maschera, testi).conferma(dialogo));
+    EXPECT_EQ(dialogo.domande.size(), 1u);
+}
+
+TEST(AzionePulsante, FollowsTheKindOfTheMask) {
+    using enum AzioneGriglia;
+    const auto azioni = [](GenereMaschera genere) {
+        const Maschera maschera = test::mascheraGriglia(genere);
+        std::vector<AzioneGriglia> tutte;
+        for (std::size_t i = 0; i < 6; ++i) tutte.push_back(azionePulsante(maschera, i));
+        return tutte;
+    };
+    const std::vector<AzioneGriglia> righe = {conferma,    annulla, inserisciRiga,
+                                              eliminaRiga, guida,   guida};
+    EXPECT_EQ(azioni(GenereMaschera::griglia), righe);
+    EXPECT_EQ(azioni(GenereMaschera::grigliaLibera), righe);
+    EXPECT_EQ(azioni(GenereMaschera::grigliaFissa),
+              (std::vector<AzioneGriglia>{conferma, annulla, guida, guida, guida, guida}));
+}
+
+TEST_F(ModelloGriglia, TellsWhatANumberIsReadAsWhileItIsTyped) {
+    EXPECT_EQ(modello.lettura(), "");
+    scrivi("20,5");
+    EXPECT_EQ(modello.lettura(), "letto come 20: il segno decimale è il punto");
+    premi(Tasto::esc);
+    EXPECT_EQ(modello.lettura(), "");
+    premi(Tasto::f2);
+    modello.scriviEditore("20.5.7");
+    EXPECT_EQ(modello.lettura(), "letto come 20.5");
+    premi(Tasto::esc);
+    modello.vaiA({1, 3}, dialogo);
+    scrivi("1,5");
+    EXPECT_EQ(modello.lettura(), "") << "a text";
+}
+
+TEST_F(ModelloGriglia, SelectsTheTextOfACellWhoseFaultABoxTold) {
+    scrivi("999");
+    EXPECT_FALSE(modello.testoScelto());
+    premi(Tasto::invio);
+    ASSERT_EQ(dialogo.messaggi.size(), 1u);
+    EXPECT_TRUE(modello.testoScelto());
+    EXPECT_EQ(cella(), "999");
+    scrivi("7");
+    EXPECT_EQ(cella(), "7") << "replaced";
+    EXPECT_FALSE(modello.testoScelto());
+    scrivi("77");
+    premi(Tasto::giu);
+    EXPECT_TRUE(modello.testoScelto());
+    premi(Tasto::esc);
+    EXPECT_EQ(cella(), "3") << "the text on entry";
+    EXPECT_FALSE(modello.testoScelto());
+}
+
+TEST_F(ModelloGriglia, KnowsWhetherItsRowsWereChanged) {
+    EXPECT_FALSE(modello.cambiata());
+    premi(Tasto::f2);
+    EXPECT_FALSE(modello.cambiata());
+    modello.scriviEditore("33");
+    EXPECT_TRUE(modello.cambiata());
+    premi(Tasto::esc);
+    EXPECT_FALSE(modello.cambiata());
+    scrivi("4");
+    EXPECT_TRUE(modello.cambiata());
+    premi(Tasto::esc);
+    EXPECT_FALSE(modello.cambiata()) << "as it was";
+}
+
+TEST_F(ModelloGriglia, AsksBeforeChangedRowsAreThrownAway) {
+    EXPECT_TRUE(modello.siPuoLasciare(dialogo));
+    EXPECT_TRUE(dialogo.domande.empty());
+    scrivi("4");
+    dialogo.risposte = {Risposta::no, Risposta::si};
+    EXPECT_FALSE(modello.siPuoLasciare(dialogo));
+    EXPECT_TRUE(modello.siPuoLasciare(dialogo));
+    EXPECT_FALSE(modello.siPuoLasciare(dialogo)) << "nobody answers";
+    EXPECT_EQ(dialogo.domande[0],
+              (test::DialogRecord::Box{"Le righe sono state modificate. Volete chiudere la tabella "
+                                       "senza conservare le modifiche?",
+                                       "ATTENZIONE!", base::Icona::avviso}));
+}
+
+TEST(CapienzaGriglia, IsToldInTitleAndStripFromTheFirstRowAboveIt) {
+    const Maschera maschera = test::mascheraGriglia();
+    test::DialogScript dialogo;
+    GridModel modello(maschera, {"2", "1", "", "", "", "2", "", "", ""}, 2);
+    EXPECT_EQ(modello.titolo(), "Tabella");
+    EXPECT_EQ(modello.eccesso(), "");
+    modello.vaiA({5, 1}, dialogo);
+    modello.premi(Tasto::carattere, "3", dialogo);
+    EXPECT_EQ(modello.titolo(), "Tabella - righe scritte: 3, capienza della tabella: 2");
+    EXPECT_EQ(modello.eccesso(),
+              "righe scritte: 3, capienza della tabella: 2. Eliminate le righe di troppo: con la "
+              "conferma il programma le scrive in un file di testo e viene chiuso.");
+    modello.premi(Tasto::backspace, "", dialogo);
+    EXPECT_EQ(modello.eccesso(), "");
+}
+
+}  // namespace
+}  // namespace korven::project

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "review/project_review.hpp"
+#include "support/run_harness.hpp"
+#include "support/sample_projects.hpp"
+
+namespace korven::commands {
+
+using project::DatiProgetto;
+
+// The lines of a review, "! " in front of what prevents a run.
+inline std::vector<std::string> righe(const DatiProgetto& dati, const char* nSeg = "20") {
+    analysis::contenutoNSeg = nSeg;
+    std::vector<std::string> testo;
+    for (const auto& r : esaminaProgetto(dati))
+        testo.push_back((r.impedisce ? "! " : "") + r.testo);
+    analysis::contenutoNSeg.reset();
+    return testo;
+}
+
+using Modifica = std::function<void(DatiProgetto&)>;
+
+inline DatiProgetto conModifica(const Modifica& modifica) {
+    DatiProgetto d = test::progettoSemplice();
+    modifica(d);
+    return d;
+}
+
+struct Caso {
+    Modifica modifica;
+    std::vector<std::string> atteso;
+};
+
+inline void aspetta(const std::vector<Caso>& casi) {
+    for (const auto& caso : casi) EXPECT_EQ(righe(conModifica(caso.modifica)), caso.atteso);
+}
+
+// What a review says can't be computed, a run must refuse; what it says can, must run.
+inline bool laCorsaRiesce(const DatiProgetto& dati) {
+    test::Banco banco(dati, 20);
+    try {
+        banco.calcola();
+    } catch (const base::ErroreIndice&) {
+        return false;
+    }
+    return !analysis::erroreCalcolo;
+}
+
+}  // namespace korven::commands
