@@ -28,7 +28,7 @@ void penne(const test::CartellaProvvisoria& programma) {
     base::impostaCartellaProgramma(programma.percorso());
 }
 
-void diagramma(benchmark::State& stato, report::Diagramma quale) {
+void diagramma(benchmark::State& stato, drawings::Diagramma quale) {
     const test::CartellaProvvisoria programma, cartella;
     penne(programma);
     project::Progetto = bench::esempio("paratia_lunga_incastro");
@@ -39,7 +39,7 @@ void diagramma(benchmark::State& stato, report::Diagramma quale) {
     analysis::CalcoloParatia(static_cast<int>(quale), {mute, mute, uscita});
     if (analysis::erroreCalcolo) stato.SkipWithError("no results");
     project::fileCorrente = base::nomeRisultati(project::fileCorrente);
-    for (auto _ : stato) report::disegnaDiagramma(quale);
+    for (auto _ : stato) drawings::disegnaDiagramma(quale);
     stato.counters["lines"] = static_cast<double>(plot::statoPlot.archivio.lineeInMemoria().size());
 }
 
@@ -47,9 +47,9 @@ void taglie(benchmark::internal::Benchmark* b) {
     b->Arg(50)->Arg(248)->Unit(benchmark::kMillisecond);
 }
 
-BENCHMARK_CAPTURE(diagramma, pressioni, report::Diagramma::pressioni)->Apply(taglie);
-BENCHMARK_CAPTURE(diagramma, momenti, report::Diagramma::momenti)->Apply(taglie);
-BENCHMARK_CAPTURE(diagramma, taglio, report::Diagramma::taglio)->Apply(taglie);
+BENCHMARK_CAPTURE(diagramma, pressioni, drawings::Diagramma::pressioni)->Apply(taglie);
+BENCHMARK_CAPTURE(diagramma, momenti, drawings::Diagramma::momenti)->Apply(taglie);
+BENCHMARK_CAPTURE(diagramma, taglio, drawings::Diagramma::taglio)->Apply(taglie);
 
 }  // namespace
 

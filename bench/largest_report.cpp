@@ -9,7 +9,7 @@
 namespace korven::bench {
 
 std::string relazionePiuLunga() {
-    report::DatiRelazione dati;
+    results::DatiRelazione dati;
     dati.progetto = esempio("paratia_lunga_incastro");
     dati.progetto.nFasi = fasi;
     dati.nNodi = nNodi;

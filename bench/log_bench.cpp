@@ -78,7 +78,7 @@ class Cartella {
         for (int i = 1; i <= plot::numeroColori; ++i) penne.colori[i] = {"Nero", plot::bianco};
         plot::scriviConfigurazione(cartella / "module06ita.cfg", penne);
         scriviLibreria(cartella, {{pattern, fitta(tratti)}});
-        report::dimenticaCampiture();
+        drawings::dimenticaCampiture();
         plot::statoPlot = {};
     }
     Cartella(const Cartella&) = delete;
@@ -103,13 +103,13 @@ void conta(benchmark::State& stato) {
 void disegna(benchmark::State& stato) {
     const Cartella cartella(static_cast<int>(stato.range(0)));
     const auto dati = progetto();
-    for (auto _ : stato) report::disegnaStratigrafia(dati);
+    for (auto _ : stato) drawings::disegnaStratigrafia(dati);
     conta(stato);
 }
 
 void rivedi(benchmark::State& stato) {
     Cartella cartella(static_cast<int>(stato.range(0)));
-    report::disegnaStratigrafia(progetto());
+    drawings::disegnaStratigrafia(progetto());
     plot::statoPlot.superficie = &cartella.superficie;
     for (auto _ : stato) plot::plotTutto();
     conta(stato);
@@ -119,7 +119,7 @@ void rivedi(benchmark::State& stato) {
 
 void scriviDxf(benchmark::State& stato) {
     const Cartella cartella(static_cast<int>(stato.range(0)));
-    report::disegnaStratigrafia(progetto());
+    drawings::disegnaStratigrafia(progetto());
     for (auto _ : stato) plot::plotDxf(cartella.cartella / "stratigrafia.dxf");
     conta(stato);
 }

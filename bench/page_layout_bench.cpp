@@ -24,25 +24,25 @@ using bench::nNodi;
 // does it.
 class Misuratore {
  public:
-    double operator()(const report::ReportFont& font, std::string_view testo) {
+    double operator()(const markup::ReportFont& font, std::string_view testo) {
         ++misure;
         const std::string chiave = font.name + (font.bold ? "*" : "") + std::to_string(font.size);
         auto& larghezze = fonts_[chiave];
         if (!larghezze)
-            larghezze = std::make_unique<report::CharacterWidths>(
-                [font](std::string_view t) { return report::estimatedWidth(font, t); });
+            larghezze = std::make_unique<markup::CharacterWidths>(
+                [font](std::string_view t) { return markup::estimatedWidth(font, t); });
         return (*larghezze)(testo);
     }
     long misure = 0;
 
  private:
-    std::map<std::string, std::unique_ptr<report::CharacterWidths>> fonts_;
+    std::map<std::string, std::unique_ptr<markup::CharacterWidths>> fonts_;
 };
 
-class Stampante : public report::ReportPrinter {
+class Stampante : public markup::ReportPrinter {
  public:
-    report::SheetSize sheet() override { return {595.28, 841.89}; }
-    void setFont(const report::ReportFont& font) override { font_ = font; }
+    markup::SheetSize sheet() override { return {595.28, 841.89}; }
+    void setFont(const markup::ReportFont& font) override { font_ = font; }
     double textWidth(std::string_view testo) override { return misura(font_, testo); }
     double textHeight() override { return 1.15 * font_.size; }
     double lineStep() override { return 1.15 * font_.size; }
@@ -55,10 +55,10 @@ class Stampante : public report::ReportPrinter {
     long pagine = 0, testi = 0;
 
  private:
-    report::ReportFont font_;
+    markup::ReportFont font_;
 };
 
-class Elenco : public report::PreviewList {
+class Elenco : public markup::PreviewList {
  public:
     double windowWidth() override { return 600; }
     double textWidth(std::string_view testo) override {
@@ -75,8 +75,8 @@ void stampa(benchmark::State& stato) {
     for (auto _ : stato) {
         Stampante stampante;
         base::LettoreRighe file("muro.TAB", testo);
-        report::PrintRenderer renderer(stampante);
-        report::renderMarkup(file, report::RendererKind::print, renderer);
+        markup::PrintRenderer renderer(stampante);
+        markup::renderMarkup(file, markup::RendererKind::print, renderer);
         stato.counters["pagine"] = static_cast<double>(stampante.pagine);
         stato.counters["testi"] = static_cast<double>(stampante.testi);
         stato.counters["misure"] = static_cast<double>(stampante.misura.misure);
@@ -89,8 +89,8 @@ void anteprima(benchmark::State& stato) {
     for (auto _ : stato) {
         Elenco elenco;
         base::LettoreRighe file("muro.TAB", testo);
-        report::PreviewRenderer renderer(elenco);
-        report::renderMarkup(file, report::RendererKind::preview, renderer);
+        markup::PreviewRenderer renderer(elenco);
+        markup::renderMarkup(file, markup::RendererKind::preview, renderer);
         stato.counters["righe"] = static_cast<double>(elenco.righe);
         stato.counters["misure"] = static_cast<double>(elenco.misura.misure);
         if (elenco.righe < 1L * fasi * nNodi) stato.SkipWithError("rows were left out");

@@ -31,7 +31,7 @@ void stampaPdf(benchmark::State& stato) {
     test::PorteMute dialogo;
     for (auto _ : stato) {
         const auto carta = device::relazioneSuPdf(relazione.pdf, "muro");
-        report::printReport(relazione.percorso, *carta, dialogo);
+        markup::printReport(relazione.percorso, *carta, dialogo);
     }
     const auto byte = std::filesystem::file_size(relazione.pdf);
     stato.counters["byte"] = static_cast<double>(byte);

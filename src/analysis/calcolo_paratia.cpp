@@ -77,11 +77,11 @@ std::string nomeLasciato;
 class ProgettoAlSicuro {
  public:
     explicit ProgettoAlSicuro(const std::string& progetto)
-        : prima_(std::exchange(progettiProtetti.corrente,
+        : prima_(std::exchange(project::progettiProtetti.corrente,
                                progetto == nomeLasciato ? std::string() : progetto)) {}
     ProgettoAlSicuro(const ProgettoAlSicuro&) = delete;
     ProgettoAlSicuro& operator=(const ProgettoAlSicuro&) = delete;
-    ~ProgettoAlSicuro() { progettiProtetti.corrente = prima_; }
+    ~ProgettoAlSicuro() { project::progettiProtetti.corrente = prima_; }
 
  private:
     std::string prima_;
@@ -169,14 +169,15 @@ void calcolaFasi(int nSeg, const structure::MomentiResistenti& MRd, const PorteC
 }  // namespace
 
 std::string motivoUscite(const std::string& progetto, int modoUscita, const UscitaCalcolo& uscita) {
-    if (const auto motivo = motivoNome(progetto); !motivo.empty()) return traduttore(motivo);
+    if (const auto motivo = project::motivoNome(progetto); !motivo.empty())
+        return traduttore(motivo);
     const ProgettoAlSicuro sicuro(progetto);
     const std::string risultati = base::nomeRisultati(progetto);
     auto file = uscita.file(modoUscita, risultati);
     file.insert(file.begin(), risultati);
-    const auto vietato = std::find_if(file.begin(), file.end(), prendeIlPostoDelProgetto);
+    const auto vietato = std::find_if(file.begin(), file.end(), project::prendeIlPostoDelProgetto);
     if (vietato == file.end()) return {};
-    const std::string colpito = progettoColpito(*vietato);
+    const std::string colpito = project::progettoColpito(*vietato);
     return traduttore(
                "Un file del calcolo prenderebbe il posto del progetto, i calcoli non possono "
                "pertanto essere eseguiti. Dare al progetto un altro nome o scegliere un'altra "

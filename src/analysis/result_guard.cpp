@@ -95,7 +95,7 @@ void GuardiaRisultati::lascia() {
 }
 
 void GuardiaRisultati::togliNonMostrabili(const std::string& risultati) {
-    if (prendeIlPostoDelProgetto(risultati)) return;
+    if (project::prendeIlPostoDelProgetto(risultati)) return;
     const std::string nome = base::nomeSerratura(risultati);
     if (tenute().contains(nome) || prova(nome)) base::cancellaFile(risultati);
 }

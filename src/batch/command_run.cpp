@@ -20,16 +20,16 @@ namespace korven::batch {
 namespace {
 
 int verifica(const Opzioni& opzioni, Esito& esito) {
-    esito.rilievi = commands::esaminaFile(opzioni.progetto, project::Progetto);
+    esito.rilievi = review::esaminaFile(opzioni.progetto, project::Progetto);
     // Every command that calculates writes a result file; only some write more.
     const commands::UscitaRelazione soloRisultati(false);
     if (auto motivo = analysis::motivoUscite(project::fileCorrente, 0, soloRisultati);
         !motivo.empty())
         esito.rilievi.insert(esito.rilievi.begin(), {true, std::move(motivo)});
-    if (commands::calcolabile(esito.rilievi))
-        if (auto motivo = commands::provaCalcolo(project::Progetto, opzioni.maxIterazioni))
+    if (review::calcolabile(esito.rilievi))
+        if (auto motivo = review::provaCalcolo(project::Progetto, opzioni.maxIterazioni))
             esito.rilievi.insert(esito.rilievi.begin(), std::move(*motivo));
-    return commands::calcolabile(esito.rilievi) ? fatto : nonEseguito;
+    return review::calcolabile(esito.rilievi) ? fatto : nonEseguito;
 }
 
 void avvisaPosto() {
@@ -95,7 +95,7 @@ bool giaDetto(const std::string& testo, const Esito& esito) {
 // refused, what else prevents it.
 int calcolaConRilievi(const Opzioni& opzioni, analysis::GuardiaRisultati& guardia, Esito& esito) {
     const Interruzioni interruzioni;
-    esito.rilievi = commands::esaminaFile(opzioni.progetto, project::Progetto);
+    esito.rilievi = review::esaminaFile(opzioni.progetto, project::Progetto);
     esito.esaminato = true;
     for (const auto& rilievo : esito.rilievi)
         if (!rilievo.impedisce) std::cerr << riga(rilievo) << '\n';

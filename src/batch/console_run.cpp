@@ -12,7 +12,7 @@ namespace korven::batch {
 
 namespace {
 
-void raccontaArresto(const commands::ControlloCorsa& controllo, Esito& esito) {
+void raccontaArresto(const analysis::ControlloCorsa& controllo, Esito& esito) {
     std::vector<std::string> righe = controllo.motivo();
     if (righe.empty() && Interruzioni::chiesta() != 0)
         righe.push_back(base::traduttore("Calcolo interrotto dall'utente."));
@@ -46,7 +46,7 @@ CorsaConsole::CorsaConsole(const Opzioni& opzioni, analysis::GuardiaRisultati& g
 bool CorsaConsole::esegui(int modoUscita, analysis::UscitaCalcolo& uscita) {
     // A reading of the results turns every other method into Coulomb's.
     if (opzioni_.metodoSpinte) project::Progetto.metodoSpinte = *opzioni_.metodoSpinte;
-    commands::ControlloCorsa controllo(vista_, opzioni_.maxIterazioni, Interruzioni::chiesta());
+    analysis::ControlloCorsa controllo(vista_, opzioni_.maxIterazioni, Interruzioni::chiesta());
     analysis::CalcoloParatia(modoUscita, {dialogo_, controllo, uscita, &guardia_});
     esito_.messaggi = dialogo_.messaggi();
     if (analysis::erroreCalcolo) {

@@ -36,7 +36,7 @@ void controllaUscite(const UsciteDisegno& uscite) {
     const std::string risultati = progetto.empty() ? "" : base::nomeRisultati(progetto);
     const auto file = uscite.file();
     for (std::size_t i = 0; i < file.size(); ++i) {
-        analysis::controllaUscita(file[i], risultati);
+        project::controllaUscita(file[i], risultati);
         for (std::size_t j = 0; j < i; ++j)
             if (base::stessoFile(file[i], file[j]))
                 throw base::ErroreFile(

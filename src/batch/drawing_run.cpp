@@ -42,7 +42,7 @@ bool stratigrafia(const Opzioni& opzioni, Esito& esito) {
     AvanzamentoConsole vista(false);
     DialogoConsole dialogo(opzioni.ricalcolaEJ, vista);
     if (troppoAlta(esito)) return false;
-    const bool disegnata = report::disegnaStratigrafia(dialogo, opzioni.disegno.foglio.altezza);
+    const bool disegnata = drawings::disegnaStratigrafia(dialogo, opzioni.disegno.foglio.altezza);
     if (!disegnata) esito.messaggi = dialogo.messaggi();
     return disegnata;
 }
@@ -56,12 +56,12 @@ bool disegnaComando(const Opzioni& opzioni, analysis::GuardiaRisultati& guardia,
             return !corsa.interrotta();
         }
         case Comando::sezione:
-            structure::disegnaSezione(Progetto);
+            drawings::disegnaSezione(Progetto);
             return true;
         case Comando::stratigrafia:
             return stratigrafia(opzioni, esito);
         default:
-            report::disegnaCampionario();
+            drawings::disegnaCampionario();
             return true;
     }
 }
@@ -85,13 +85,13 @@ constexpr Tavola tavole[] = {
     {"taglio", 4, nullptr},
     {"sezione", 0,
      [](Esito&) {
-         structure::disegnaSezione(Progetto);
+         drawings::disegnaSezione(Progetto);
          return true;
      }},
     {"stratigrafia", 0,
      [](Esito& esito) {
          if (troppoAlta(esito)) return false;
-         report::disegnaStratigrafia(Progetto);
+         drawings::disegnaStratigrafia(Progetto);
          return true;
      }},
 };

@@ -20,10 +20,10 @@ struct Esito {
     bool guasto = false;                ///< an error cut the command short
     std::vector<std::string> messaggi;  ///< why it was refused, or went wrong
     bool esaminato = false;             ///< the remarks below are those of a review
-    std::vector<commands::Rilievo> rilievi;
+    std::vector<review::Rilievo> rilievi;
     std::optional<commands::EsitoCalcolo> calcolo;
     bool giaAggiornato = false;  ///< the result file was up to date already
-    std::vector<commands::ControlloCorsa::Fase> fasi;
+    std::vector<analysis::ControlloCorsa::Fase> fasi;
     std::vector<std::string> fileScritti;
     std::string fileRelazione, fileTesto, fileDocumento, filePdf;
 };
@@ -32,7 +32,7 @@ struct Esito {
 [[nodiscard]] std::string tabella(const Esito& esito, bool traccia);
 
 /// "da vedere: strato 1: ...", or what prevents a run.
-[[nodiscard]] std::string riga(const commands::Rilievo& rilievo);
+[[nodiscard]] std::string riga(const review::Rilievo& rilievo);
 
 /// What a review found, a line each.
 [[nodiscard]] std::string elenco(const Esito& esito);

@@ -70,7 +70,7 @@ std::string tabella(const Esito& esito, bool traccia) {
     return testo;
 }
 
-std::string riga(const commands::Rilievo& rilievo) {
+std::string riga(const review::Rilievo& rilievo) {
     return (rilievo.impedisce ? traduttore("impedisce il calcolo") : traduttore("da vedere")) +
            ": " + rilievo.testo;
 }
@@ -79,7 +79,7 @@ std::string elenco(const Esito& esito) {
     std::string testo;
     for (const auto& rilievo : esito.rilievi) testo += riga(rilievo) + '\n';
     return testo +
-           (commands::calcolabile(esito.rilievi)
+           (review::calcolabile(esito.rilievi)
                 ? traduttore("Il progetto può essere calcolato.")
                 : traduttore("Il progetto non può essere calcolato.")) +
            '\n';

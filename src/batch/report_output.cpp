@@ -40,13 +40,13 @@ void scriviDocumento(Esito& esito) {
 
 void scriviPdf(const std::string& file, base::Dialogo& dialogo, Esito& esito) {
     const auto pdf = device::relazioneSuPdf(file, commands::titoloUscite());
-    report::printReport(esito.fileRelazione, *pdf, dialogo);
+    markup::printReport(esito.fileRelazione, *pdf, dialogo);
     annota(file, esito.filePdf, esito);
 }
 
 void stampa(const std::string& nome, base::Dialogo& dialogo, const Esito& esito) {
     const auto pagine = device::relazioneSuStampante(nome, commands::titoloUscite());
-    report::printReport(esito.fileRelazione, *pagine, dialogo);
+    markup::printReport(esito.fileRelazione, *pagine, dialogo);
 }
 
 void scriviUscite(const UsciteRelazione& uscite, base::Dialogo& dialogo, Esito& esito) {
@@ -62,18 +62,18 @@ void scriviUscite(const UsciteRelazione& uscite, base::Dialogo& dialogo, Esito& 
 void controllaUscite(const UsciteRelazione& uscite) {
     const auto file = fileDelProgetto();
     if (!uscite.pdf.empty())
-        for (const auto& altro : file) analysis::controllaUscita(uscite.pdf, altro);
+        for (const auto& altro : file) project::controllaUscita(uscite.pdf, altro);
     // Two of these become one file only through links; the project the run looks at itself.
     const bool scritti[] = {true, true, uscite.testo, uscite.documento};
     for (std::size_t i = 1; i < file.size(); ++i)
         for (std::size_t j = 0; j < i; ++j)
-            if (scritti[i] && scritti[j]) analysis::controllaCoppia(file[i], file[j]);
+            if (scritti[i] && scritti[j]) project::controllaCoppia(file[i], file[j]);
     if (!uscite.stampante.empty()) device::controllaStampante(uscite.stampante);
 }
 
 bool scriviRelazione(const UsciteRelazione& uscite, CorsaConsole& corsa, Esito& esito) {
     // Not every value stands in every report, but no project is right with one.
-    if (!commands::mostrabile(project::Progetto)) throw base::ErroreValore();
+    if (!review::mostrabile(project::Progetto)) throw base::ErroreValore();
     commands::UscitaRelazione uscita(true, uscite.testo, uscite.documento);
     if (!corsa.esegui(0, uscita)) return false;
     annotaRisultati(esito);

@@ -5,7 +5,7 @@
 namespace korven::commands {
 
 void UscitaDiagramma::disegnaDiagramma(int modoUscita) {
-    report::disegnaDiagramma(static_cast<report::Diagramma>(modoUscita));
+    drawings::disegnaDiagramma(static_cast<drawings::Diagramma>(modoUscita));
 }
 
 }  // namespace korven::commands

@@ -88,7 +88,7 @@ void Documento::leggi(const std::string& nome, const std::string& file) {
     project::leggiProgetto();
     provvisorio.tieni(nome);
     disco_ = std::move(disco);
-    analysis::progettiProtetti.letto = file;
+    project::progettiProtetti.letto = file;
     mostra("File letto", file);
 }
 
@@ -96,7 +96,7 @@ void Documento::comincia(const std::string& nome) {
     project::azzeraProgetto();
     fileCorrente = nome;
     disco_.ricorda(nome);
-    analysis::progettiProtetti.letto.clear();
+    project::progettiProtetti.letto.clear();
     // A new user's first project would else lie unnoticed beside the examples.
     finestra_.stato(traduttore("Nuovo progetto, non ancora salvato") + ": " + nome + " (" +
                     traduttore("un'altra cartella si sceglie con Salva") + ")");
@@ -156,7 +156,7 @@ void Documento::scrivi(const std::string& nome) {
     provvisorio.tieni(nome);
     disco_.ricorda(nome);
     ricordaCartella(nome);
-    analysis::progettiProtetti.letto = nome;
+    project::progettiProtetti.letto = nome;
     modificato = false;
     finestra_.titolo(titoloFinestra(nome));
     mostra("File scritto", nome);

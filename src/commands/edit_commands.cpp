@@ -15,7 +15,7 @@ namespace korven::commands {
 
 namespace {
 
-using project::NumeroMaschera;
+using masks::NumeroMaschera;
 using project::Progetto;
 
 // The two forms of the refusal differ in one word; they are keys of the table of texts.
@@ -40,26 +40,24 @@ constexpr Editore editori[] = {
 };
 
 // The form is gone by then, so the rows would be too.
-[[noreturn]] void finisciPerTroppeRighe(NumeroMaschera numero, const project::Maschere& maschere) {
+[[noreturn]] void finisciPerTroppeRighe(NumeroMaschera numero, const masks::Maschere& maschere) {
     const auto righe = base::leggiNumero(maschere.valoriTesto().front()).value_or(0);
-    throw ErroreRighe(static_cast<long>(righe), static_cast<std::size_t>(project::capienza(numero)),
-                      recuperaRighe(project::testoRighe(maschere)));
+    throw ErroreRighe(static_cast<long>(righe), static_cast<std::size_t>(masks::capienza(numero)),
+                      recuperaRighe(masks::testoRighe(maschere)));
 }
 
-bool troppeRighe(NumeroMaschera numero, const project::Maschere& maschere) {
-    return project::capienza(numero) > 0 && !maschere.annullato() &&
+bool troppeRighe(NumeroMaschera numero, const masks::Maschere& maschere) {
+    return masks::capienza(numero) > 0 && !maschere.annullato() &&
            !maschere.valoriTesto().empty() &&
-           base::leggiNumero(maschere.valoriTesto().front()).value_or(0) >
-               project::capienza(numero);
+           base::leggiNumero(maschere.valoriTesto().front()).value_or(0) > masks::capienza(numero);
 }
 
-void editaMaschera(NumeroMaschera numero, project::Maschere& maschere,
-                   const FormeProgramma& forme) {
-    project::preparaMaschera(maschere, numero, Progetto, project::faseGrafico);
+void editaMaschera(NumeroMaschera numero, masks::Maschere& maschere, const FormeProgramma& forme) {
+    masks::preparaMaschera(maschere, numero, Progetto, project::faseGrafico);
     try {
         forme.maschera(maschere);
         if (!maschere.annullato() &&
-            project::riprendiMaschera(maschere, numero, Progetto, project::faseGrafico))
+            masks::riprendiMaschera(maschere, numero, Progetto, project::faseGrafico))
             project::modificato = true;
     } catch (const base::ErroreIndice&) {
         if (!troppeRighe(numero, maschere)) throw;
@@ -70,7 +68,7 @@ void editaMaschera(NumeroMaschera numero, project::Maschere& maschere,
 
 }  // namespace
 
-void edita(Comando comando, base::Dialogo& dialogo, project::Maschere& maschere,
+void edita(Comando comando, base::Dialogo& dialogo, masks::Maschere& maschere,
            const FormeProgramma& forme) {
     const auto* editore = std::find_if(std::begin(editori), std::end(editori),
                                        [comando](const auto& e) { return e.comando == comando; });

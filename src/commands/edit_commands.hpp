@@ -13,7 +13,7 @@ namespace korven::commands {
 /// @pre one of the six editing commands, whose form is plugged in
 /// @throws ErroreRighe (fatal_error.hpp) if a table with more rows than it can hold was confirmed;
 ///         the rows have then been written beside the project
-void edita(Comando comando, base::Dialogo& dialogo, project::Maschere& maschere,
+void edita(Comando comando, base::Dialogo& dialogo, masks::Maschere& maschere,
            const FormeProgramma& forme);
 
 }  // namespace korven::commands

@@ -124,8 +124,8 @@ void produciCalcolo(const ComandoCalcolo& comando, base::Dialogo& dialogo,
 void produciStratigrafia(base::Dialogo& dialogo, const FormeProgramma& forme) {
     const auto disegna = [&] {
         const plot::LavoroDisegno lavoro;
-        return report::disegnaStratigrafia(
-            dialogo, forme.altezzaPagina ? forme.altezzaPagina() : report::altezzaPaginaA4);
+        return drawings::disegnaStratigrafia(
+            dialogo, forme.altezzaPagina ? forme.altezzaPagina() : drawings::altezzaPaginaA4);
     };
     try {
         if (seSiPuoScrivere(dialogo, disegna)) forme.grafica();
@@ -152,7 +152,7 @@ void produci(Comando comando, base::Dialogo& dialogo, analysis::Avanzamento& ava
         return;
     }
     if (comando == Comando::graficaStruttura) {
-        structure::disegnaSezione(project::Progetto);
+        drawings::disegnaSezione(project::Progetto);
         return forme.grafica();
     }
     const auto* trovato = std::find_if(std::begin(comandiCalcolo), std::end(comandiCalcolo),

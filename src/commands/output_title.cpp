@@ -8,7 +8,7 @@
 namespace korven::commands {
 
 std::string titoloUscite() {
-    const std::string& inCorso = analysis::progettiProtetti.corrente;
+    const std::string& inCorso = project::progettiProtetti.corrente;
     const std::filesystem::path progetto = inCorso.empty() ? project::fileCorrente : inCorso;
     return "KORVEN 32 - " + progetto.filename().string();
 }

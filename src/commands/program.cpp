@@ -57,7 +57,7 @@ bool Programma::esegui(Comando comando) {
 
 // A run that was stopped is told in the status line until another output goes through.
 void Programma::produciSeguendo(Comando comando) {
-    CorsaSeguita corsa(avanzamento_);
+    analysis::CorsaSeguita corsa(avanzamento_);
     produci(comando, dialogo_, corsa, forme_);
     const std::string arresto = corsa.arresto();
     if (!arresto.empty())
@@ -78,7 +78,7 @@ bool Programma::fineSessione(bool chiedibile) {
 }
 
 void Programma::aiuto(int voce) const {
-    if (forme_.aiuto) forme_.aiuto(contestoAiuto(voce));
+    if (forme_.aiuto) forme_.aiuto(help::contestoAiuto(voce));
 }
 
 }  // namespace korven::commands

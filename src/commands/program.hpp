@@ -12,7 +12,7 @@ class Programma {
  public:
     /// The ports must outlive the program.
     Programma(base::Dialogo& dialogo, DialogoFile& nomi, FinestraPrincipale& finestra,
-              analysis::Avanzamento& avanzamento, project::Maschere& maschere, FormeProgramma forme)
+              analysis::Avanzamento& avanzamento, masks::Maschere& maschere, FormeProgramma forme)
         : dialogo_(dialogo),
           avanzamento_(avanzamento),
           maschere_(maschere),
@@ -41,7 +41,7 @@ class Programma {
 
     base::Dialogo& dialogo_;
     analysis::Avanzamento& avanzamento_;
-    project::Maschere& maschere_;
+    masks::Maschere& maschere_;
     FormeProgramma forme_;
     FinestraPrincipale& finestra_;
     bool diceArresto_ = false;  // the status line tells of a stop

@@ -14,7 +14,7 @@ namespace korven::commands {
 struct FormeProgramma {
     /// Shows the form of the current mask, a field form or a grid, with its values; hands what was
     /// confirmed back to it, and nothing when the form was left without.
-    std::function<void(project::Maschere&)> maschera;
+    std::function<void(masks::Maschere&)> maschera;
     /// The section form `DefinEJ`, which takes its values into `Progetto` and sets `modificato`.
     std::function<void()> sezione;
     /// The viewer `GRAFICA` of the drawing in the plot store.

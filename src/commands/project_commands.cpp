@@ -67,7 +67,7 @@ void apriProgetto(const std::string& percorso, const std::string& uscita) {
     const std::string progetto = assoluto(percorso);
     project::azzeraProgetto();
     project::fileCorrente = progetto;
-    analysis::progettiProtetti = {.letto = progetto, .corrente = {}};
+    project::progettiProtetti = {.letto = progetto, .corrente = {}};
     togliResti(progetto);
     project::leggiProgetto();
     if (uscita.empty()) return;
@@ -87,7 +87,7 @@ EsitoCalcolo leggiEsito() {
     EsitoCalcolo esito;
     esito.fileRisultati = base::nomeRisultati(project::fileCorrente);
     project::DatiProgetto memoria = project::Progetto;
-    const auto dati = report::leggiRisultati(esito.fileRisultati, memoria);
+    const auto dati = results::leggiRisultati(esito.fileRisultati, memoria);
     esito.nSeg = dati.nNodi - 1;
     for (int k = 1; k <= memoria.nFasi; ++k)
         esito.fasi.push_back(
@@ -95,9 +95,9 @@ EsitoCalcolo leggiEsito() {
     esito.chiusura = dati.chiusura;
     for (int j = 1; j <= analysis::tirantiInOpera(memoria, memoria.nFasi); ++j)
         esito.tiranti.push_back({j, memoria.profTirante[j], dati.tiroTirante[j]});
-    esito.momenti = report::verificaMomenti(dati);
-    esito.taglio = report::verificaAlTaglio(dati);
-    esito.fallite = report::verificheFallite(dati);
+    esito.momenti = results::verificaMomenti(dati);
+    esito.taglio = results::verificaAlTaglio(dati);
+    esito.fallite = results::verificheFallite(dati);
     return esito;
 }
 
@@ -118,9 +118,9 @@ std::string nomeTesto(const std::string& relazione) { return base::conUltimiTre(
 
 std::string scriviTesto(const std::string& relazione) {
     std::string percorso = nomeTesto(relazione);
-    analysis::controllaUscita(percorso, relazione);
+    project::controllaUscita(percorso, relazione);
     auto file = base::LettoreRighe::apri(relazione);
-    const auto testo = report::renderText(file);
+    const auto testo = markup::renderText(file);
     if (!testo)
         throw base::ErroreFile(relazione, 0,
                                base::traduttore("la relazione non apre nessun documento (#RESET)"));
@@ -134,7 +134,7 @@ std::vector<std::string> relazioniRimaste(const std::string& progetto) {
     for (const auto& percorso : {relazione, nomeTesto(relazione), base::nomeDocumento(relazione),
                                  base::nomePdfRelazione(progetto)}) {
         std::error_code errore;
-        if (fs::is_regular_file(percorso, errore) && !analysis::prendeIlPostoDelProgetto(percorso))
+        if (fs::is_regular_file(percorso, errore) && !project::prendeIlPostoDelProgetto(percorso))
             rimaste.push_back(percorso);
     }
     return rimaste;

@@ -51,7 +51,7 @@ struct EsitoCalcolo {
     std::vector<EsitoFase> fasi;
     analysis::ChiusuraRisultati chiusura;
     std::vector<EsitoTirante> tiranti;
-    std::optional<report::ConfrontoMomenti> momenti;   ///< nothing without a defined section
+    std::optional<results::ConfrontoMomenti> momenti;  ///< nothing without a defined section
     std::optional<structure::ConfrontoTaglio> taglio;  ///< nothing without stirrups
     std::vector<std::string_view>
         fallite;  ///< section checks that fail, keys of the table of texts

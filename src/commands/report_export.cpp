@@ -53,12 +53,12 @@ std::optional<std::string> destinazioneTxt(const std::string& percorso,
 bool salvaTxt(const std::string& percorso, const std::string& nome,
               const PorteEsportazione& porte) {
     auto file = base::LettoreRighe::apri(percorso);
-    const auto testo = report::renderText(file);
+    const auto testo = markup::renderText(file);
     try {
         if (!testo)
             throw base::ErroreFile(percorso, 0,
                                    traduttore("la relazione non apre nessun documento (#RESET)"));
-        analysis::controllaUscita(nome, percorso);
+        project::controllaUscita(nome, percorso);
         base::scriviFile(nome, *testo);
         return true;
     } catch (const base::ErroreFile& errore) {
@@ -146,7 +146,7 @@ void esportaDoc(const std::string& percorso, const PorteEsportazione& porte) {
 std::string scriviDocumento(const std::string& relazione, base::AvviaProgramma& programmi,
                             const std::string& outdoc) {
     std::string nome = base::nomeDocumento(relazione);
-    analysis::controllaUscita(nome, relazione);
+    project::controllaUscita(nome, relazione);
     const base::ImprontaFile prima(nome);
     const auto codice = programmi.esegui(outdoc, {relazione});
     if (!codice) throw base::ErroreFile(outdoc, 0, traduttore("impossibile avviare il programma"));

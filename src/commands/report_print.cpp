@@ -11,8 +11,8 @@ void stampaRelazione(const std::string& relazione, const ApriStampante& apri,
     if (!base::esisteFile(relazione)) return;
     dialogo.puntatore(base::Puntatore::normale);
     try {
-        if (const auto stampante = apri()) report::printReport(relazione, *stampante, dialogo);
-    } catch (const report::PrinterError& errore) {
+        if (const auto stampante = apri()) markup::printReport(relazione, *stampante, dialogo);
+    } catch (const markup::PrinterError& errore) {
         dialogo.messaggio(errore.what(), base::traduttore("ATTENZIONE") + "!", base::Icona::avviso);
     }
 }

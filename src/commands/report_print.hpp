@@ -10,7 +10,7 @@
 namespace korven::commands {
 
 /// The printer for one job; null when there is none and the user gave up.
-using ApriStampante = std::function<std::unique_ptr<report::ReportPrinter>()>;
+using ApriStampante = std::function<std::unique_ptr<markup::ReportPrinter>()>;
 
 /// Prints a mark-up file. A box tells of a printer that failed, and the program goes on: nothing is
 /// lost by it. Does nothing if there is no such file, and nothing is printed without a printer.

@@ -8,7 +8,7 @@
 
 namespace korven::commands {
 
-void leggiDatiProgramma(project::Maschere& maschere) {
+void leggiDatiProgramma(masks::Maschere& maschere) {
     maschere.leggiMaschereProgramma();
     static_cast<void>(plot::leggiConfigurazione(
         plot::fileConfigurazione(base::siglaLingua(base::linguaCorrente()))));

@@ -22,7 +22,7 @@ struct PorteAvvio {
 /// drawing reads anew: a file that can't be used ends the program when it starts and not in the
 /// middle of somebody's work.
 /// @throws base::ErroreFile with the file, its line and what was expected there
-void leggiDatiProgramma(project::Maschere& maschere);
+void leggiDatiProgramma(masks::Maschere& maschere);
 
 /// The rest of the start, behind the language: no project, masks and pens, then the project that
 /// the command line names. Without an argument the defaults and the about box; with one that names

@@ -83,7 +83,7 @@ int sessione(shell::Applicazione& applicazione, shell::DialogoQt& dialogo,
     nomi.sopra(&finestra);
     avanzamento.sopra(&finestra);
     shell::StampanteProgramma stampante;
-    project::Maschere maschere;
+    masks::Maschere maschere;
     commands::Programma programma(dialogo, nomi, finestra, avanzamento, maschere,
                                   forme(finestra, dialogo, stampante));
     finestra.collega(programma);

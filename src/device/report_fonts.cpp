@@ -12,8 +12,8 @@ namespace {
 
 constexpr double corpoMassimo = 1000;  // a letter as high as the largest sheets [points]
 
-QFont fontRelazione(const report::ReportFont& voluto) {
-    QFont font = fontDisegno(voluto.name.empty() ? report::defaultFontName : voluto.name);
+QFont fontRelazione(const markup::ReportFont& voluto) {
+    QFont font = fontDisegno(voluto.name.empty() ? markup::defaultFontName : voluto.name);
     font.setBold(voluto.bold);
     font.setItalic(voluto.italic);
     font.setStyleStrategy(QFont::PreferNoShaping);  // no ligatures
@@ -22,7 +22,7 @@ QFont fontRelazione(const report::ReportFont& voluto) {
 
 }  // namespace
 
-CarattereRelazione::CarattereRelazione(const report::ReportFont& voluto)
+CarattereRelazione::CarattereRelazione(const markup::ReportFont& voluto)
     : font(fontRelazione(voluto)),
       larghezze_([misure = QFontMetricsF(font)](std::string_view testo) {
           return misure.horizontalAdvance(qt(testo));
@@ -38,14 +38,14 @@ double CarattereRelazione::larghezza(std::string_view testo, double corpo) {
     return larghezze_(testo) * corpo / font.pixelSize();
 }
 
-CarattereRelazione& CaratteriRelazione::carattere(const report::ReportFont& font) {
+CarattereRelazione& CaratteriRelazione::carattere(const markup::ReportFont& font) {
     auto& fatto = fatti_[{font.name, font.bold, font.italic}];
     if (!fatto) fatto = std::make_unique<CarattereRelazione>(font);
     return *fatto;
 }
 
 double corpoStampato(double corpo) {
-    if (!(corpo > 0)) return report::defaultFontSize;
+    if (!(corpo > 0)) return markup::defaultFontSize;
     return std::min(corpo, corpoMassimo);
 }
 

@@ -15,7 +15,7 @@ namespace korven::device {
 /// A typeface of the printed report, in which a text is as wide as the sum of its characters: no
 /// kerning, no ligatures. Heights are shares of the font's size.
 struct CarattereRelazione {
-    explicit CarattereRelazione(const report::ReportFont& font);
+    explicit CarattereRelazione(const markup::ReportFont& font);
 
     /// Width of a text [points].
     /// @param corpo  font size [points]
@@ -27,7 +27,7 @@ struct CarattereRelazione {
     double interlinea = 0;  ///< from line to line
 
  private:
-    report::CharacterWidths larghezze_;
+    markup::CharacterWidths larghezze_;
 };
 
 /// The typefaces that a report asks for, each made once.
@@ -35,7 +35,7 @@ class CaratteriRelazione {
  public:
     /// The typeface of that name, bold and italic as asked; one with the same widths where the
     /// machine has it not, the usual one for an empty name. The size does not matter.
-    [[nodiscard]] CarattereRelazione& carattere(const report::ReportFont& font);
+    [[nodiscard]] CarattereRelazione& carattere(const markup::ReportFont& font);
 
  private:
     std::map<std::tuple<std::string, bool, bool>, std::unique_ptr<CarattereRelazione>> fatti_;

@@ -24,24 +24,24 @@ constexpr double millimetriPerPollice = 25.4;
 
 // A report counts its page one centimetre short of the sheet, half of which is the edge that usual
 // printers leave: only from there on does it stand in the middle [points].
-constexpr double bordoFoglio = report::pointsPerCentimetre / 2;
+constexpr double bordoFoglio = markup::pointsPerCentimetre / 2;
 
 // Further out nothing is on any sheet, and the numbers of a page description end [points].
 constexpr double limite = 100000;
 
 // Texts on the pages of a device; what becomes of the pages is for those derived from it.
-class PagineRelazione : public report::ReportPrinter {
+class PagineRelazione : public markup::ReportPrinter {
  public:
     explicit PagineRelazione(QPagedPaintDevice& carta) : carta_(carta) {
         carattere_ = &caratteri_.carattere({});
     }
 
-    report::SheetSize sheet() override {
+    markup::SheetSize sheet() override {
         const QRectF foglio = carta_.pageLayout().fullRect(QPageLayout::Millimeter);
         constexpr double punti = puntiPerPollice / millimetriPerPollice;
         return {foglio.width() * punti, foglio.height() * punti};
     }
-    void setFont(const report::ReportFont& font) override {
+    void setFont(const markup::ReportFont& font) override {
         carattere_ = &caratteri_.carattere(font);
         corpo_ = corpoStampato(font.size);
     }
@@ -81,7 +81,7 @@ class PagineRelazione : public report::ReportPrinter {
     QPainter pittore_;
     CaratteriRelazione caratteri_;
     CarattereRelazione* carattere_ = nullptr;
-    double corpo_ = report::defaultFontSize;
+    double corpo_ = markup::defaultFontSize;
 };
 
 class SuStampante : public PagineRelazione {
@@ -103,7 +103,7 @@ class SuStampante : public PagineRelazione {
  private:
     bool comincia() override { return conosciuta(stampante_) && PagineRelazione::comincia(); }
     void fallita() const override {
-        throw report::PrinterError(destinazione(stampante_), 0,
+        throw markup::PrinterError(destinazione(stampante_), 0,
                                    base::traduttore("la stampa non è riuscita"));
     }
 
@@ -150,7 +150,7 @@ class SuPdf : private FilePdf, public PagineRelazione {
             base::scriviFile(percorso_,
                              {tutti.constData(), static_cast<std::size_t>(tutti.size())});
         } catch (const base::ErroreFile& errore) {
-            throw report::PrinterError(errore.percorso(), errore.riga(), errore.atteso());
+            throw markup::PrinterError(errore.percorso(), errore.riga(), errore.atteso());
         }
     }
 
@@ -160,7 +160,7 @@ class SuPdf : private FilePdf, public PagineRelazione {
         return PagineRelazione::comincia();
     }
     void fallita() const override {
-        throw report::PrinterError(percorso_, 0, base::traduttore("la stampa non è riuscita"));
+        throw markup::PrinterError(percorso_, 0, base::traduttore("la stampa non è riuscita"));
     }
 
     std::string percorso_;
@@ -168,7 +168,7 @@ class SuPdf : private FilePdf, public PagineRelazione {
 
 }  // namespace
 
-std::unique_ptr<report::ReportPrinter> relazioneSuStampante(QPrinter& stampante,
+std::unique_ptr<markup::ReportPrinter> relazioneSuStampante(QPrinter& stampante,
                                                             const QString& titolo) {
     return std::make_unique<SuStampante>(stampante, titolo);
 }
@@ -180,22 +180,22 @@ void controllaStampante(const std::string& nome) {
     if (!note.isEmpty())
         perche += "; " + base::traduttore("stampanti disponibili") + ": " +
                   note.join(QStringLiteral(", ")).toStdString();
-    throw report::PrinterError(nome, 0, perche);
+    throw markup::PrinterError(nome, 0, perche);
 }
 
-std::unique_ptr<report::ReportPrinter> relazioneSuStampante(const std::string& nome,
+std::unique_ptr<markup::ReportPrinter> relazioneSuStampante(const std::string& nome,
                                                             const std::string& titolo) {
     controllaStampante(nome);
     return std::make_unique<SuStampanteNota>(qt(nome), qt(titolo));
 }
 
-std::unique_ptr<report::ReportPrinter> relazioneSuPdf(const std::string& percorso,
+std::unique_ptr<markup::ReportPrinter> relazioneSuPdf(const std::string& percorso,
                                                       const QPageLayout& pagina,
                                                       const QString& titolo) {
     return std::make_unique<SuPdf>(percorso, pagina, titolo);
 }
 
-std::unique_ptr<report::ReportPrinter> relazioneSuPdf(const std::string& percorso,
+std::unique_ptr<markup::ReportPrinter> relazioneSuPdf(const std::string& percorso,
                                                       const std::string& titolo) {
     const QPageLayout a4(QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF());
     return relazioneSuPdf(percorso, a4, qt(titolo));

@@ -20,13 +20,13 @@ namespace korven::device {
 /// the job: the pages go to the queue when the job ends, which tells nobody whether they arrived.
 /// @param stampante  not owned; its margins are its own again afterwards
 /// @param titolo     name of the job in the queue
-[[nodiscard]] std::unique_ptr<report::ReportPrinter> relazioneSuStampante(QPrinter& stampante,
+[[nodiscard]] std::unique_ptr<markup::ReportPrinter> relazioneSuStampante(QPrinter& stampante,
                                                                           const QString& titolo);
 
 /// The same on the printer of that name, with its usual paper.
-/// @throws report::PrinterError if the system knows no printer of that name, and names those it
+/// @throws markup::PrinterError if the system knows no printer of that name, and names those it
 /// does
-[[nodiscard]] std::unique_ptr<report::ReportPrinter> relazioneSuStampante(
+[[nodiscard]] std::unique_ptr<markup::ReportPrinter> relazioneSuStampante(
     const std::string& nome, const std::string& titolo);
 
 /// @throws as `relazioneSuStampante`
@@ -36,12 +36,12 @@ void controllaStampante(const std::string& nome);
 /// the first.
 /// @param pagina  whose sheet and orientation are taken, not its margins
 /// @param titolo  name of the document
-[[nodiscard]] std::unique_ptr<report::ReportPrinter> relazioneSuPdf(const std::string& percorso,
+[[nodiscard]] std::unique_ptr<markup::ReportPrinter> relazioneSuPdf(const std::string& percorso,
                                                                     const QPageLayout& pagina,
                                                                     const QString& titolo);
 
 /// The same on upright A4 paper.
-[[nodiscard]] std::unique_ptr<report::ReportPrinter> relazioneSuPdf(const std::string& percorso,
+[[nodiscard]] std::unique_ptr<markup::ReportPrinter> relazioneSuPdf(const std::string& percorso,
                                                                     const std::string& titolo);
 
 }  // namespace korven::device

@@ -1,6 +1,6 @@
 #include "drawings/description_blocks.hpp"
 
-namespace korven::report {
+namespace korven::drawings {
 
 double altezzaBlocco(std::size_t righe, double altezzaTesto) {
     return righe == 0 ? 0 : (1.5 * static_cast<double>(righe) + 0.5) * altezzaTesto;
@@ -24,4 +24,4 @@ std::vector<double> disponiBlocchi(const std::vector<Blocco>& blocchi, double su
     return bordi;
 }
 
-}  // namespace korven::report
+}  // namespace korven::drawings

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-namespace korven::report {
+namespace korven::drawings {
 
 /// Height of a block of `righe` lines of text [cm]: (1.5 n + 0.5) times the height of the
 /// characters; 0 for a block without lines.
@@ -23,4 +23,4 @@ struct Blocco {
 [[nodiscard]] std::vector<double> disponiBlocchi(const std::vector<Blocco>& blocchi,
                                                  double superiore, double inferiore);
 
-}  // namespace korven::report
+}  // namespace korven::drawings

@@ -7,7 +7,7 @@
 #include "plot/plot_engine.hpp"
 #include "results/working_pressures.hpp"
 
-namespace korven::report {
+namespace korven::drawings {
 
 namespace {
 
@@ -24,8 +24,8 @@ struct Estremi {
 };
 
 // Extremes of one result over all nodes of all stages.
-Estremi estremi(const DatiRelazione& dati, analysis::VettoreNodi analysis::RisultatiFase::*colonna,
-                double fattore) {
+Estremi estremi(const results::DatiRelazione& dati,
+                analysis::VettoreNodi analysis::RisultatiFase::*colonna, double fattore) {
     Estremi e;
     for (const auto& fase : dati.fasi)
         for (int i = 1; i <= dati.nNodi; ++i) {
@@ -35,9 +35,10 @@ Estremi estremi(const DatiRelazione& dati, analysis::VettoreNodi analysis::Risul
     return e;
 }
 
-double pressioneAlPiede(const DatiRelazione& dati) {
-    const Resistenza terreno = resistenzaNodo(dati.progetto, (dati.nNodi - 1) * dati.passo);
-    return pressioniNodo(dati.fasi.back(), dati.nNodi, dati.progetto.metodoSpinte, terreno)
+double pressioneAlPiede(const results::DatiRelazione& dati) {
+    const results::Resistenza terreno =
+        results::resistenzaNodo(dati.progetto, (dati.nNodi - 1) * dati.passo);
+    return results::pressioniNodo(dati.fasi.back(), dati.nNodi, dati.progetto.metodoSpinte, terreno)
         .limitiM.passiva;
 }
 
@@ -59,7 +60,7 @@ double lunghezzaTacca(const Tacca& tacca) { return tacca.maggiore ? taccaMaggior
 
 }  // namespace
 
-double valoreDiScala(Diagramma diagramma, const DatiRelazione& dati) {
+double valoreDiScala(Diagramma diagramma, const results::DatiRelazione& dati) {
     using Fase = analysis::RisultatiFase;
     switch (diagramma) {
         case Diagramma::pressioni:
@@ -128,4 +129,4 @@ void QuadroDiagramma::asseDelleProfondita() const {
     }
 }
 
-}  // namespace korven::report
+}  // namespace korven::drawings

@@ -7,7 +7,7 @@
 #include "plot/sheet.hpp"
 #include "results/report_data.hpp"
 
-namespace korven::report {
+namespace korven::drawings {
 
 /// The largest value that the scale of a diagram is made for, in the unit of the diagram:
 ///
@@ -15,7 +15,7 @@ namespace korven::report {
 ///     displacements   the extreme of all stages with the larger size, its sign kept [cm]
 ///     moments         the larger size of both extremes of all stages [t m]
 ///     shear           the same of the last stage alone [t]
-[[nodiscard]] double valoreDiScala(Diagramma diagramma, const DatiRelazione& dati);
+[[nodiscard]] double valoreDiScala(Diagramma diagramma, const results::DatiRelazione& dati);
 
 /// Where values and depths lie on the sheet.
 class QuadroDiagramma {
@@ -49,4 +49,4 @@ class QuadroDiagramma {
     double scalaY_;  // cm a metre
 };
 
-}  // namespace korven::report
+}  // namespace korven::drawings

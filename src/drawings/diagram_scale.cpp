@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-namespace korven::report {
+namespace korven::drawings {
 
 namespace {
 
@@ -47,4 +47,4 @@ std::vector<Tacca> tacche(double da, double a, double passo) {
     return tutte;
 }
 
-}  // namespace korven::report
+}  // namespace korven::drawings

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-namespace korven::report {
+namespace korven::drawings {
 
 /// Step of the value axis [units of the value]: 0.001 for values below 0.1, ten times that for
 /// values below 1, and so on, so that an axis has at most a hundred steps on each side.
@@ -32,4 +32,4 @@ struct Tacca {
 /// `da`. Each is computed by its index, so that no error adds up.
 [[nodiscard]] std::vector<Tacca> tacche(double da, double a, double passo);
 
-}  // namespace korven::report
+}  // namespace korven::drawings

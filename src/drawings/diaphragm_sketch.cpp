@@ -4,7 +4,7 @@
 #include "drawings/sketch_views.hpp"
 #include "structure/section_millimetres.hpp"
 
-namespace korven::structure {
+namespace korven::drawings {
 
 namespace {
 
@@ -92,14 +92,14 @@ Schizzo schizzoDiaframma(const Sezione& sezione) {
     schizzo.quote.push_back(quotaTraverso(&Sezione::spessoreDiaframma, xSchizzo - mezzo,
                                           xSchizzo + mezzo, sopraSchizzo + 5, sopraSchizzo + 0.5));
     // A face without bars is drawn as unreinforced only where there are bars on the other.
-    const DiaframmaMm mm = diaframmaMm(sezione);
-    const bool nessuna = !armata(mm.monte) && !armata(mm.valle);
-    const auto segno = [&](const FacciaMm& faccia) {
-        return nessuna || armata(faccia) ? Segno::acciaio : Segno::assente;
+    const structure::DiaframmaMm mm = structure::diaframmaMm(sezione);
+    const bool nessuna = !structure::armata(mm.monte) && !structure::armata(mm.valle);
+    const auto segno = [&](const structure::FacciaMm& faccia) {
+        return nessuna || structure::armata(faccia) ? Segno::acciaio : Segno::assente;
     };
     disegnaFaccia(schizzo, monte, s, k, segno(mm.monte));
     disegnaFaccia(schizzo, valle, s, k, segno(mm.valle));
     return schizzo;
 }
 
-}  // namespace korven::structure
+}  // namespace korven::drawings

@@ -7,7 +7,7 @@
 #include "drawings/section_views.hpp"
 #include "plot/sheet.hpp"
 
-namespace korven::structure {
+namespace korven::drawings {
 
 namespace {
 
@@ -115,4 +115,4 @@ void vistaDiaframma(const project::Sezione& s) {
                   posti);
 }
 
-}  // namespace korven::structure
+}  // namespace korven::drawings

@@ -7,7 +7,7 @@
 #include "base/translated_texts.hpp"
 #include "plot/plot_engine.hpp"
 
-namespace korven::structure {
+namespace korven::drawings {
 
 namespace {
 
@@ -127,4 +127,4 @@ Quota richiamoGirato(Lato lato, plot::Punto oggetto, double y, double x, bool in
 
 plot::Tratto tacca(double x, double y) { return {{x, y - mezzoTratto}, {x, y + mezzoTratto}}; }
 
-}  // namespace korven::structure
+}  // namespace korven::drawings

@@ -10,7 +10,7 @@
 // Dimension lines of the section drawing. All positions in cm of the sheet. A dimension is made
 // first and drawn when it has found its place (dimension_placing.hpp).
 
-namespace korven::structure {
+namespace korven::drawings {
 
 /// What lies between the turned names of the two sides, the title above and the box of the
 /// materials below: the dimensions and their texts keep to it.
@@ -73,4 +73,4 @@ struct Quota {
 /// A short upright stroke across a leader at x, where a dimension along it begins or ends.
 [[nodiscard]] plot::Tratto tacca(double x, double y);
 
-}  // namespace korven::structure
+}  // namespace korven::drawings

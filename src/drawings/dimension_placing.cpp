@@ -9,7 +9,7 @@
 #include "plot/line_clip.hpp"
 #include "plot/plot_engine.hpp"
 
-namespace korven::structure {
+namespace korven::drawings {
 
 namespace {
 
@@ -172,4 +172,4 @@ void aggiungi(Candidate& prime, Candidate altre) {
                  std::make_move_iterator(altre.end()));
 }
 
-}  // namespace korven::structure
+}  // namespace korven::drawings

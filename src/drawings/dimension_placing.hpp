@@ -6,7 +6,7 @@
 #include "drawings/dimension_lines.hpp"
 #include "plot/geometry.hpp"
 
-namespace korven::structure {
+namespace korven::drawings {
 
 /// Places where a dimension may stand, the best first.
 using Candidate = std::vector<Quota>;
@@ -70,4 +70,4 @@ class Disposizione {
 /// The candidates of `altre` behind those of `prime`.
 void aggiungi(Candidate& prime, Candidate altre);
 
-}  // namespace korven::structure
+}  // namespace korven::drawings

@@ -8,7 +8,7 @@
 #include "plot/line_clip.hpp"
 #include "plot/plot_engine.hpp"
 
-namespace korven::report {
+namespace korven::drawings {
 
 namespace {
 
@@ -89,4 +89,4 @@ void disegnaCampitura(double codice, double x1, double x2, double y1, double y2)
     }
 }
 
-}  // namespace korven::report
+}  // namespace korven::drawings

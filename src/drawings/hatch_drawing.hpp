@@ -1,6 +1,6 @@
 #pragma once
 
-namespace korven::report {
+namespace korven::drawings {
 
 /// Fills a rectangle of the sheet with the patterns of a hatch code, with the pen in use.
 ///
@@ -21,4 +21,4 @@ namespace korven::report {
 /// @throws base::ErroreFile when the library is missing or broken
 void disegnaCampitura(double codice, double x1, double x2, double y1, double y2);
 
-}  // namespace korven::report
+}  // namespace korven::drawings

@@ -12,7 +12,7 @@
 #include "base/text_lines.hpp"
 #include "base/translated_texts.hpp"
 
-namespace korven::report {
+namespace korven::drawings {
 
 namespace {
 
@@ -96,4 +96,4 @@ std::vector<TrattoCampitura> leggiTratti(const Campitura& campitura) {
     return tratti;
 }
 
-}  // namespace korven::report
+}  // namespace korven::drawings

@@ -15,7 +15,7 @@
 //     signed
 //                        number of 16 bits, low byte first; 100 units are half the side of the tile
 
-namespace korven::report {
+namespace korven::drawings {
 
 inline constexpr int numeroCampiture = 100;
 
@@ -48,4 +48,4 @@ void dimenticaCampiture();
 /// @throws base::ErroreFile when the file is missing or ends before the last of them
 [[nodiscard]] std::vector<TrattoCampitura> leggiTratti(const Campitura& campitura);
 
-}  // namespace korven::report
+}  // namespace korven::drawings

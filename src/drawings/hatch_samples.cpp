@@ -11,7 +11,7 @@
 #include "plot/plot_engine.hpp"
 #include "plot/sheet.hpp"
 
-namespace korven::report {
+namespace korven::drawings {
 
 namespace {
 
@@ -109,4 +109,4 @@ void disegnaCampionario() {
     plot::plotMuovi(0, 0, plot::fineDisegno);
 }
 
-}  // namespace korven::report
+}  // namespace korven::drawings

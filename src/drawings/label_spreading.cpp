@@ -1,6 +1,6 @@
 #include "drawings/label_spreading.hpp"
 
-namespace korven::report {
+namespace korven::drawings {
 
 std::vector<double> separaEtichette(std::vector<double> posizioni, double distanza,
                                     double superiore, double inferiore) {
@@ -15,4 +15,4 @@ std::vector<double> separaEtichette(std::vector<double> posizioni, double distan
     return posizioni;
 }
 
-}  // namespace korven::report
+}  // namespace korven::drawings

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-namespace korven::report {
+namespace korven::drawings {
 
 /// Moves labels along a vertical line so that they don't run into each other.
 ///
@@ -17,4 +17,4 @@ namespace korven::report {
 [[nodiscard]] std::vector<double> separaEtichette(std::vector<double> posizioni, double distanza,
                                                   double superiore, double inferiore);
 
-}  // namespace korven::report
+}  // namespace korven::drawings

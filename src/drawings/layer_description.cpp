@@ -6,7 +6,7 @@
 #include "base/code_page.hpp"
 #include "base/number_text.hpp"
 
-namespace korven::report {
+namespace korven::drawings {
 
 namespace {
 
@@ -46,4 +46,4 @@ DescrizioneStrato leggiDescrizione(std::string_view descrStrato) {
     return strato;
 }
 
-}  // namespace korven::report
+}  // namespace korven::drawings

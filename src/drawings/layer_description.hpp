@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-namespace korven::report {
+namespace korven::drawings {
 
 /// What the line that describes a layer says.
 struct DescrizioneStrato {
@@ -24,4 +24,4 @@ struct DescrizioneStrato {
 /// leader.
 [[nodiscard]] DescrizioneStrato leggiDescrizione(std::string_view descrStrato);
 
-}  // namespace korven::report
+}  // namespace korven::drawings

@@ -5,7 +5,7 @@
 // What stands in the columns of the stratigraphic log. Each draws with the pen of the column in use
 // and may leave another.
 
-namespace korven::report {
+namespace korven::drawings {
 
 inline constexpr double larghezzaDescrizioni = 3.2;  ///< of their column [cm]
 
@@ -38,4 +38,4 @@ void disegnaCoesione(const Stratigrafia& stratigrafia, const Colonna& colonna);
 /// A bar of blocks, each a step of the scale high, alternately right and left of its axis.
 void disegnaScala(const Stratigrafia& stratigrafia, const Colonna& colonna);
 
-}  // namespace korven::report
+}  // namespace korven::drawings

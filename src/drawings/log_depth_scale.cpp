@@ -5,7 +5,7 @@
 #include "plot/plot_engine.hpp"
 #include "plot/sheet.hpp"
 
-namespace korven::report {
+namespace korven::drawings {
 
 namespace {
 
@@ -39,4 +39,4 @@ void disegnaScala(const Stratigrafia& stratigrafia, const Colonna& colonna) {
     }
 }
 
-}  // namespace korven::report
+}  // namespace korven::drawings

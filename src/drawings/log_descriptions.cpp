@@ -13,7 +13,7 @@
 #include "plot/plot_engine.hpp"
 #include "plot/sheet.hpp"
 
-namespace korven::report {
+namespace korven::drawings {
 
 namespace {
 
@@ -47,9 +47,10 @@ void scriviGiustificata(double x, double y, double larghezza, std::string_view r
 
 class BloccoDescrizione {
  public:
-    BloccoDescrizione(std::string_view descrStrato, const Colonna& colonna, const Misura& misura)
+    BloccoDescrizione(std::string_view descrStrato, const Colonna& colonna,
+                      const markup::Misura& misura)
         : strato_(leggiDescrizione(descrStrato)), colonna_(colonna) {
-        righe_ = adattaTesto(strato_.testo, larghezza(), misura);
+        righe_ = markup::adattaTesto(strato_.testo, larghezza(), misura);
     }
 
     [[nodiscard]] double altezza() const { return altezzaBlocco(righe_.size(), altezzaTesto); }
@@ -84,7 +85,7 @@ class BloccoDescrizione {
 };
 
 BloccoDescrizione blocco(const Stratigrafia& stratigrafia, int i, const Colonna& colonna,
-                         const Misura& misura) {
+                         const markup::Misura& misura) {
     try {
         return {stratigrafia.dati.descrStrato[i], colonna, misura};
     } catch (const base::ErroreIndice& errore) {  // which of up to a hundred layers
@@ -95,7 +96,8 @@ BloccoDescrizione blocco(const Stratigrafia& stratigrafia, int i, const Colonna&
 
 // The texts of all layers, and where they stand.
 struct Disposizione {
-    Disposizione(const Stratigrafia& stratigrafia, const Colonna& colonna, const Misura& misura) {
+    Disposizione(const Stratigrafia& stratigrafia, const Colonna& colonna,
+                 const markup::Misura& misura) {
         for (int i = 1; i <= stratigrafia.dati.nStrati; ++i) {
             testi.push_back(blocco(stratigrafia, i, colonna, misura));
             blocchi.push_back({stratigrafia.yPiede(i), testi.back().altezza()});
@@ -137,4 +139,4 @@ std::vector<DescrizioneDisposta> disponiDescrizioni(const project::DatiProgetto&
     return disposte;
 }
 
-}  // namespace korven::report
+}  // namespace korven::drawings

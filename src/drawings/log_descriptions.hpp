@@ -6,7 +6,7 @@
 
 #include "project/project_data.hpp"
 
-namespace korven::report {
+namespace korven::drawings {
 
 /// Where the log puts the text of a layer.
 struct DescrizioneDisposta {
@@ -25,4 +25,4 @@ using MisuraAltezza = std::function<double(double altezza, std::string_view test
 [[nodiscard]] std::vector<DescrizioneDisposta> disponiDescrizioni(const project::DatiProgetto& dati,
                                                                   const MisuraAltezza& misura);
 
-}  // namespace korven::report
+}  // namespace korven::drawings

@@ -9,7 +9,7 @@
 
 // The columns that show the layers as such: depths, graphic, water.
 
-namespace korven::report {
+namespace korven::drawings {
 
 void disegnaProfondita(const Stratigrafia& stratigrafia, const Colonna& colonna) {
     constexpr double distanza = 1.2 * altezzaNumeriColonna;
@@ -59,4 +59,4 @@ void disegnaFalda(const Stratigrafia& stratigrafia, const Colonna& colonna) {
     numeroFinoA(colonna.destra(), y, falda, 1, 3.5, 2);
 }
 
-}  // namespace korven::report
+}  // namespace korven::drawings

@@ -8,7 +8,7 @@
 
 // The columns that show how a value changes with depth, growing to the right.
 
-namespace korven::report {
+namespace korven::drawings {
 
 namespace {
 
@@ -105,4 +105,4 @@ void disegnaCoesione(const Stratigrafia& stratigrafia, const Colonna& colonna) {
     disegnaProfilo(stratigrafia, colonna, *asse, {&dati.coesione, &dati.suStrato});
 }
 
-}  // namespace korven::report
+}  // namespace korven::drawings

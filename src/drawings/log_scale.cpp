@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace korven::report {
+namespace korven::drawings {
 
 double bordoInferiore(double altezzaPagina) { return std::max(28.5 - altezzaPagina + 0.1, 0.6); }
 
@@ -15,4 +15,4 @@ double passoProfondita(double profondita) {
     return profondita > 20 ? 2 : 1;
 }
 
-}  // namespace korven::report
+}  // namespace korven::drawings

@@ -1,6 +1,6 @@
 #pragma once
 
-namespace korven::report {
+namespace korven::drawings {
 
 /// Height of the paper that the log is made for where there is no printer: A4, upright [cm].
 inline constexpr double altezzaPaginaA4 = 29.7;
@@ -36,4 +36,4 @@ class ScalaProfondita {
 /// Step of the depth scale [m]: 1, from a depth above 20 m 2, above 50 m 5, above 100 m 10.
 [[nodiscard]] double passoProfondita(double profondita);
 
-}  // namespace korven::report
+}  // namespace korven::drawings

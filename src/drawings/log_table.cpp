@@ -6,7 +6,7 @@
 #include "plot/plot_engine.hpp"
 #include "plot/sheet.hpp"
 
-namespace korven::report {
+namespace korven::drawings {
 
 plot::PostoTitolo titoloStratigrafia(int i) {
     constexpr double x = 10.5;
@@ -46,4 +46,4 @@ void numeroFinoA(double x, double y, double valore, int decimali, double spazio,
                      decimali);
 }
 
-}  // namespace korven::report
+}  // namespace korven::drawings

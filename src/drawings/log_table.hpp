@@ -10,7 +10,7 @@
 // The table of the stratigraphic log: columns side by side over the same depths, all in cm of the
 // sheet.
 
-namespace korven::report {
+namespace korven::drawings {
 
 inline constexpr double larghezzaStratigrafia = 20;  ///< sheet
 inline constexpr double altezzaStratigrafia = 28.5;
@@ -63,4 +63,4 @@ void attraversa(const Colonna& colonna, double y);
 /// @param decimali    as of `plotNumero`
 void numeroFinoA(double x, double y, double valore, int decimali, double spazio, int altreCifre);
 
-}  // namespace korven::report
+}  // namespace korven::drawings

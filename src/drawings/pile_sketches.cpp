@@ -5,7 +5,7 @@
 #include "drawings/sketch_views.hpp"
 #include "structure/section_millimetres.hpp"
 
-namespace korven::structure {
+namespace korven::drawings {
 
 namespace {
 
@@ -177,4 +177,4 @@ Schizzo schizzoPaliArmati(const Sezione& sezione) {
     return schizzo;
 }
 
-}  // namespace korven::structure
+}  // namespace korven::drawings

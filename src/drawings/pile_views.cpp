@@ -8,7 +8,7 @@
 #include "plot/sheet.hpp"
 #include "structure/section_millimetres.hpp"
 
-namespace korven::structure {
+namespace korven::drawings {
 
 namespace {
 
@@ -164,4 +164,4 @@ void vistaPaliArmati(const project::Sezione& s) {
          quotaStaffe(pali, staffa, false, testoQuota("Passo staffe", s.armPassoStaffe))});
 }
 
-}  // namespace korven::structure
+}  // namespace korven::drawings

@@ -10,7 +10,7 @@
 #include "plot/plot_engine.hpp"
 #include "results/working_pressures.hpp"
 
-namespace korven::report {
+namespace korven::drawings {
 
 namespace {
 
@@ -56,7 +56,7 @@ class Curva {
 // Everything that one stage adds to a diagram.
 class FaseDisegnata {
  public:
-    FaseDisegnata(const DatiRelazione& dati, int s, const Quadro& quadro)
+    FaseDisegnata(const results::DatiRelazione& dati, int s, const Quadro& quadro)
         : dati_(dati),
           risultati_(dati.fasi[static_cast<std::size_t>(s - 1)]),
           azioni_(dati.azioni[static_cast<std::size_t>(s - 1)]),
@@ -109,7 +109,7 @@ class FaseDisegnata {
     }
 
     void pressioni() const {
-        using P = PressioniNodo;
+        using P = results::PressioniNodo;
         curvaPressione(pennaLimiteAttivo, false, [](const P& p) { return p.limitiM.attiva; });
         curvaPressione(pennaLimitePassivo, false, [](const P& p) { return p.limitiM.passiva; });
         curvaPressione(pennaLimiteAttivo, true, [](const P& p) { return p.limitiV.attiva; });
@@ -126,8 +126,8 @@ class FaseDisegnata {
         for (int i = 1; i <= dati_.nNodi; ++i) {
             const double z = profondita(i);
             if (valle && !(progetto.profFase[s_] <= z)) continue;
-            curva.punto(valore(pressioniNodo(risultati_, i, progetto.metodoSpinte,
-                                             resistenzaNodo(progetto, z))),
+            curva.punto(valore(results::pressioniNodo(risultati_, i, progetto.metodoSpinte,
+                                                      results::resistenzaNodo(progetto, z))),
                         z);
         }
     }
@@ -149,9 +149,9 @@ class FaseDisegnata {
         }
     }
 
-    const DatiRelazione& dati_;
+    const results::DatiRelazione& dati_;
     const analysis::RisultatiFase& risultati_;
-    const AzioniFase& azioni_;
+    const results::AzioniFase& azioni_;
     int s_;
     const Quadro& quadro_;
 };
@@ -165,7 +165,7 @@ void controllaDisegnabile(double vDati, double lunghezza) {
 
 }  // namespace
 
-void disegnaDiagramma(Diagramma diagramma, const DatiRelazione& dati, int faseGrafico) {
+void disegnaDiagramma(Diagramma diagramma, const results::DatiRelazione& dati, int faseGrafico) {
     const double vDati = valoreDiScala(diagramma, dati);
     const double lunghezza = dati.progetto.lunghezzaParatia;
     controllaDisegnabile(vDati, lunghezza);
@@ -185,8 +185,8 @@ void disegnaDiagramma(Diagramma diagramma, const DatiRelazione& dati, int faseGr
 }
 
 void disegnaDiagramma(Diagramma diagramma) {
-    disegnaDiagramma(diagramma, leggiRisultati(project::fileCorrente, project::Progetto),
+    disegnaDiagramma(diagramma, results::leggiRisultati(project::fileCorrente, project::Progetto),
                      project::faseGrafico);
 }
 
-}  // namespace korven::report
+}  // namespace korven::drawings

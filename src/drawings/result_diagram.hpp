@@ -2,7 +2,7 @@
 
 #include "results/report_data.hpp"
 
-namespace korven::report {
+namespace korven::drawings {
 
 /// What a diagram shows, with the numbers that the commands have for it.
 enum class Diagramma { pressioni = 1, spostamenti, momenti, taglio };
@@ -15,11 +15,11 @@ enum class Diagramma { pressioni = 1, spostamenti, momenti, taglio };
 /// scale of the shear is that of the last stage, and nothing is cut at the frame.
 /// @param faseGrafico  the stage to draw, 0 for all
 /// @throws base::ErroreValore for values beyond 10^12 or a wall beyond 10 km, which no sheet holds
-void disegnaDiagramma(Diagramma diagramma, const DatiRelazione& dati, int faseGrafico);
+void disegnaDiagramma(Diagramma diagramma, const results::DatiRelazione& dati, int faseGrafico);
 
 /// Draws from the result file that `fileCorrente` names, for the stage in `faseGrafico`.
 /// `Progetto` is left as a reading of the file leaves it.
 /// @throws base::ErroreFile if the results can't be read
 void disegnaDiagramma(Diagramma diagramma);
 
-}  // namespace korven::report
+}  // namespace korven::drawings

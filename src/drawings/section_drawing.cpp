@@ -9,7 +9,7 @@
 #include "plot/sheet.hpp"
 #include "structure/section_type.hpp"
 
-namespace korven::structure {
+namespace korven::drawings {
 
 namespace {
 
@@ -46,16 +46,16 @@ void riquadroMateriali(const project::Sezione& s) {
 }
 
 void vista(const project::Sezione& sezione) {
-    switch (tipoSezione(sezione)) {
-        case TipoSezione::diaframma:
+    switch (structure::tipoSezione(sezione)) {
+        case structure::TipoSezione::diaframma:
             return vistaDiaframma(sezione);
-        case TipoSezione::pali:
+        case structure::TipoSezione::pali:
             return vistaPali(sezione);
-        case TipoSezione::palancola:
+        case structure::TipoSezione::palancola:
             return vistaPalancola(sezione);
-        case TipoSezione::paliArmati:
+        case structure::TipoSezione::paliArmati:
             return vistaPaliArmati(sezione);
-        case TipoSezione::nessuno:
+        case structure::TipoSezione::nessuno:
             return;
     }
 }
@@ -72,4 +72,4 @@ void disegnaSezione(const project::DatiProgetto& dati) {
     plot::plotMuovi(0, 0, plot::fineDisegno);
 }
 
-}  // namespace korven::structure
+}  // namespace korven::drawings

@@ -2,7 +2,7 @@
 
 #include "project/project_data.hpp"
 
-namespace korven::structure {
+namespace korven::drawings {
 
 /// One centimetre of the section on the sheet [cm]: 1 to 20.
 inline constexpr double scalaSezione = 5.0 / 100;
@@ -13,4 +13,4 @@ inline constexpr double scalaSezione = 5.0 / 100;
 /// empty view.
 void disegnaSezione(const project::DatiProgetto& dati);
 
-}  // namespace korven::structure
+}  // namespace korven::drawings

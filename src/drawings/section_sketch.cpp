@@ -5,10 +5,10 @@
 #include "base/number_text.hpp"
 #include "drawings/sketch_views.hpp"
 
-namespace korven::structure {
+namespace korven::drawings {
 
 std::string scrittaQuota(std::size_t campo, const project::Sezione& sezione) {
-    const project::CampoSezione& c = project::campiSezione[campo];
+    const masks::CampoSezione& c = masks::campiSezione[campo];
     std::string scritta(c.simbolo);
     const double valore = sezione.*c.valore;
     if (valore == 0) return scritta;
@@ -18,8 +18,8 @@ std::string scrittaQuota(std::size_t campo, const project::Sezione& sezione) {
     return scritta;
 }
 
-Schizzo schizzoSezione(project::RiquadroSezione riquadro, const project::Sezione& sezione) {
-    using enum project::RiquadroSezione;
+Schizzo schizzoSezione(masks::RiquadroSezione riquadro, const project::Sezione& sezione) {
+    using enum masks::RiquadroSezione;
     assert(riquadro != materiali);
     Schizzo schizzo = riquadro == diaframma   ? schizzoDiaframma(sezione)
                       : riquadro == pali      ? schizzoPali(sezione)
@@ -29,4 +29,4 @@ Schizzo schizzoSezione(project::RiquadroSezione riquadro, const project::Sezione
     return schizzo;
 }
 
-}  // namespace korven::structure
+}  // namespace korven::drawings

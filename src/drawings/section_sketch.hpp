@@ -11,7 +11,7 @@
 // sheet with its uphill side to the left, and at each dimension the symbol of its field. Lines and
 // texts on a sheet of 120 by 100 units, y upward, without a device.
 
-namespace korven::structure {
+namespace korven::drawings {
 
 inline constexpr double larghezzaSchizzo = 120;
 inline constexpr double altezzaSchizzo = 100;
@@ -41,7 +41,7 @@ enum class Appoggio { inizio, centro, fine };  ///< which part of a text lies at
 
 /// The dimension of one field.
 struct QuotaSchizzo {
-    std::size_t campo = 0;  ///< of `project::campiSezione`
+    std::size_t campo = 0;  ///< of `masks::campiSezione`
     std::vector<plot::Tratto> linee;
     std::vector<plot::Punto> estremi;  ///< where the dimension begins and ends, slanted strokes
     plot::Punto testo;                 ///< on the base line
@@ -61,11 +61,11 @@ struct Schizzo {
 /// each other (bars that do not fit into the wall, a tube without wall, proportions in which
 /// nothing could be told apart) it is drawn after an example and not after them.
 /// @pre not the materials
-[[nodiscard]] Schizzo schizzoSezione(project::RiquadroSezione riquadro,
+[[nodiscard]] Schizzo schizzoSezione(masks::RiquadroSezione riquadro,
                                      const project::Sezione& sezione);
 
 /// What stands at a dimension: "c1 = 50" with the typed number, "c1" where that is 0. The bar count
 /// shows by its tenth what it calculates with: "n = 8/10 = 0.8".
 [[nodiscard]] std::string scrittaQuota(std::size_t campo, const project::Sezione& sezione);
 
-}  // namespace korven::structure
+}  // namespace korven::drawings

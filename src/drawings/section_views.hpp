@@ -5,7 +5,7 @@
 // The views of the four kinds of section, each with its dimensions, about the middle of the frame.
 // They are drawn with the pen in use.
 
-namespace korven::structure {
+namespace korven::drawings {
 
 /// Middle of the views on the sheet [cm].
 inline constexpr double xVista = 10;
@@ -28,4 +28,4 @@ void vistaPalancola(const project::Sezione& sezione);
 /// stored number, which is a tenth of what the editors show: below 1 there are none.
 void vistaPaliArmati(const project::Sezione& sezione);
 
-}  // namespace korven::structure
+}  // namespace korven::drawings

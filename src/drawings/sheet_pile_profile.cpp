@@ -2,14 +2,14 @@
 
 #include <algorithm>
 
-namespace korven::structure {
+namespace korven::drawings {
 
 namespace {
 
 // One face of the wave from end to end. The face lies `dx` beyond the axis of the flanges and `dy`
 // beyond that of the web.
-std::array<plot::Punto, 6> faccia(const PalancolaMm& p, double dx, double dy) {
-    const double meta = passoOnda(p) / 2;
+std::array<plot::Punto, 6> faccia(const structure::PalancolaMm& p, double dx, double dy) {
+    const double meta = structure::passoOnda(p) / 2;
     // The web runs from (altAla, -meta + base/2) to (-altAla, -base/2).
     const auto ala = [&](double x) {
         return -meta + p.base / 2 + (p.altAla - x) * p.largAla / p.altAla + dy;
@@ -25,8 +25,8 @@ std::array<plot::Punto, 6> faccia(const PalancolaMm& p, double dx, double dy) {
 
 }  // namespace
 
-std::array<plot::Punto, 12> profiloPalancola(const PalancolaMm& p) {
-    const double mezzaAla = spessoreOrizzontaleAla(p) / 2;
+std::array<plot::Punto, 12> profiloPalancola(const structure::PalancolaMm& p) {
+    const double mezzaAla = structure::spessoreOrizzontaleAla(p) / 2;
     const auto valle = faccia(p, p.spessore / 2, mezzaAla);
     const auto monte = faccia(p, -p.spessore / 2, -mezzaAla);
     std::array<plot::Punto, 12> profilo{};
@@ -34,4 +34,4 @@ std::array<plot::Punto, 12> profiloPalancola(const PalancolaMm& p) {
     return profilo;
 }
 
-}  // namespace korven::structure
+}  // namespace korven::drawings

@@ -5,7 +5,7 @@
 #include "drawings/sketch_views.hpp"
 #include "structure/section_millimetres.hpp"
 
-namespace korven::structure {
+namespace korven::drawings {
 
 namespace {
 
@@ -19,9 +19,9 @@ constexpr EsempioCampo esempi[] = {{&Sezione::palancolaBase, 30},
                                    {&Sezione::palancolaSpessAla, 2.4}};
 
 bool siDisegna(const Sezione& s) {
-    const PalancolaMm p = palancolaMm(s);
-    const double H = altezza(p), onda = passoOnda(p);
-    return p.spessore < p.altAla && spessoreOrizzontaleAla(p) < p.base && onda < 8 * H &&
+    const structure::PalancolaMm p = structure::palancolaMm(s);
+    const double H = structure::altezza(p), onda = structure::passoOnda(p);
+    return p.spessore < p.altAla && structure::spessoreOrizzontaleAla(p) < p.base && onda < 8 * H &&
            H < 4 * onda && p.spessore >= H / 200;
 }
 
@@ -34,7 +34,7 @@ struct Scala {
 };
 
 // The thickness of a web is measured across it, from where its text stands clear of the profile.
-QuotaSchizzo quotaAla(const PalancolaMm& p, const Scala& sulFoglio) {
+QuotaSchizzo quotaAla(const structure::PalancolaMm& p, const Scala& sulFoglio) {
     const Punto mezzo = sulFoglio({0, -(p.base / 2 + p.largAla)});
     const double lunghezza = std::hypot(p.largAla, p.altAla);
     const Punto normale{p.largAla / lunghezza, p.altAla / lunghezza};
@@ -50,9 +50,9 @@ QuotaSchizzo quotaAla(const PalancolaMm& p, const Scala& sulFoglio) {
     return quota;
 }
 
-void quoteOnda(Schizzo& schizzo, const PalancolaMm& p, const Scala& sulFoglio) {
+void quoteOnda(Schizzo& schizzo, const structure::PalancolaMm& p, const Scala& sulFoglio) {
     constexpr double distanza = 6, distanzaTesti = corpoSchizzo + 1;
-    const double sinistra = sulFoglio({-altezza(p) / 2, 0}).x;
+    const double sinistra = sulFoglio({-structure::altezza(p) / 2, 0}).x;
     const double y1 = sulFoglio({0, -p.base / 2}).y, y2 = sulFoglio({0, p.base / 2}).y;
     const double y3 = sulFoglio({0, p.base / 2 + p.largAla}).y;
     schizzo.quote.push_back(quotaLungo(&Sezione::palancolaBase, y1, y2, sinistra - distanza,
@@ -67,9 +67,10 @@ void quoteOnda(Schizzo& schizzo, const PalancolaMm& p, const Scala& sulFoglio) {
 
 Schizzo schizzoPalancola(const Sezione& sezione) {
     const auto [s, inScala] = valoriSchizzo(sezione, esempi, siDisegna);
-    const PalancolaMm p = palancolaMm(s);
-    const Scala sulFoglio{std::min(larghezzaCorpo / altezza(p), altezzaCorpo / passoOnda(p))};
-    const double meta = passoOnda(p) / 2;
+    const structure::PalancolaMm p = structure::palancolaMm(s);
+    const Scala sulFoglio{
+        std::min(larghezzaCorpo / structure::altezza(p), altezzaCorpo / structure::passoOnda(p))};
+    const double meta = structure::passoOnda(p) / 2;
     const double sopra = sulFoglio({0, meta}).y, sotto = sulFoglio({0, -meta}).y;
     Schizzo schizzo;
     schizzo.inScala = inScala;
@@ -90,4 +91,4 @@ Schizzo schizzoPalancola(const Sezione& sezione) {
     return schizzo;
 }
 
-}  // namespace korven::structure
+}  // namespace korven::drawings

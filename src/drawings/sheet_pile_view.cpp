@@ -7,13 +7,13 @@
 #include "plot/sheet.hpp"
 #include "structure/section_millimetres.hpp"
 
-namespace korven::structure {
+namespace korven::drawings {
 
 namespace {
 
 constexpr double perMillimetro = scalaSezione / 10;
 
-void contorno(const PalancolaMm& p, Disposizione& posti) {
+void contorno(const structure::PalancolaMm& p, Disposizione& posti) {
     const auto profilo = profiloPalancola(p);
     const auto sulFoglio = [](plot::Punto punto) {
         return plot::Punto{xVista + punto.x * perMillimetro, yVista + punto.y * perMillimetro};
@@ -31,13 +31,13 @@ void contorno(const PalancolaMm& p, Disposizione& posti) {
 }  // namespace
 
 void vistaPalancola(const project::Sezione& s) {
-    const PalancolaMm p = palancolaMm(s);
+    const structure::PalancolaMm p = structure::palancolaMm(s);
     Disposizione posti;
     if (p.altAla > 0) contorno(p, posti);  // without height there are no webs, nor a wave
 
-    const double mezzaOnda = passoOnda(p) / 2 * perMillimetro;
-    const double sinistra = xVista - altezza(p) / 2 * perMillimetro;
-    const double destra = xVista + altezza(p) / 2 * perMillimetro;
+    const double mezzaOnda = structure::passoOnda(p) / 2 * perMillimetro;
+    const double sinistra = xVista - structure::altezza(p) / 2 * perMillimetro;
+    const double destra = xVista + structure::altezza(p) / 2 * perMillimetro;
     const double interno = sinistra + p.spessore * perMillimetro;
     constexpr double distanza = 1;
     plot::linea(interno, yVista, destra, yVista);  // from the width's upper end to the flange
@@ -50,4 +50,4 @@ void vistaPalancola(const project::Sezione& s) {
                   testoQuota("Spessore", s.palancolaSpessAla))});
 }
 
-}  // namespace korven::structure
+}  // namespace korven::drawings

@@ -2,7 +2,7 @@
 
 #include "drawings/sketch_views.hpp"
 
-namespace korven::structure {
+namespace korven::drawings {
 
 namespace {
 
@@ -33,7 +33,7 @@ QuotaSchizzo quotaTraverso(double project::Sezione::*campo, double x1, double x2
                            double yOggetto) {
     const bool sopra = y > yOggetto;
     const double oltre = y + (sopra ? sporgenza : -sporgenza);
-    return {project::campoSezione(campo),
+    return {masks::campoSezione(campo),
             {{{x1, yOggetto}, {x1, oltre}}, {{x2, yOggetto}, {x2, oltre}}, {{x1, y}, {x2, y}}},
             {{x1, y}, {x2, y}},
             {(x1 + x2) / 2, sopra ? y + distaccoSopra : y - distaccoSopra - 2 * mezzaLettera},
@@ -45,7 +45,7 @@ QuotaSchizzo quotaLungo(double project::Sezione::*campo, double y1, double y2, d
                         double xOggetto) {
     const bool destra = x > xOggetto;
     const double oltre = x + (destra ? sporgenza : -sporgenza);
-    return {project::campoSezione(campo),
+    return {masks::campoSezione(campo),
             {{{xOggetto, y1}, {oltre, y1}}, {{xOggetto, y2}, {oltre, y2}}, {{x, y1}, {x, y2}}},
             {{x, y1}, {x, y2}},
             {x + (destra ? distacco : -distacco), (y1 + y2) / 2 - mezzaLettera},
@@ -58,7 +58,7 @@ QuotaSchizzo quotaRichiamo(double project::Sezione::*campo, bool versoSinistra, 
     const auto [minimo, massimo] = std::minmax_element(estremi.begin(), estremi.end());
     const double bordo = versoSinistra ? xTestiSinistri : xTestiDestri;
     const double fine = versoSinistra ? *massimo : *minimo;
-    QuotaSchizzo quota{project::campoSezione(campo),
+    QuotaSchizzo quota{masks::campoSezione(campo),
                        {{{bordo, y}, {fine, y}}},
                        {},
                        {bordo, y + distacco},
@@ -68,4 +68,4 @@ QuotaSchizzo quotaRichiamo(double project::Sezione::*campo, bool versoSinistra, 
     return quota;
 }
 
-}  // namespace korven::structure
+}  // namespace korven::drawings

@@ -6,7 +6,7 @@
 
 // The sketch of each type, and what they share.
 
-namespace korven::structure {
+namespace korven::drawings {
 
 [[nodiscard]] Schizzo schizzoDiaframma(const project::Sezione& sezione);
 [[nodiscard]] Schizzo schizzoPali(const project::Sezione& sezione);
@@ -59,4 +59,4 @@ struct ValoriSchizzo {
 [[nodiscard]] QuotaSchizzo quotaRichiamo(double project::Sezione::*campo, bool versoSinistra,
                                          double y, const std::vector<double>& estremi);
 
-}  // namespace korven::structure
+}  // namespace korven::drawings

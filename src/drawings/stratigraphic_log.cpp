@@ -5,7 +5,7 @@
 #include "plot/plot_engine.hpp"
 #include "plot/sheet.hpp"
 
-namespace korven::report {
+namespace korven::drawings {
 
 namespace {
 
@@ -87,4 +87,4 @@ bool disegnaStratigrafia(base::Dialogo& dialogo, double altezzaPagina) {
     return true;
 }
 
-}  // namespace korven::report
+}  // namespace korven::drawings

@@ -4,7 +4,7 @@
 #include "drawings/log_scale.hpp"
 #include "project/project_data.hpp"
 
-namespace korven::report {
+namespace korven::drawings {
 
 /// Draws the soil profile on one sheet of 20 by 28.5 cm: depths, graphic and description of the
 /// layers, the uphill water table, profiles of their parameters, a depth scale. The headings stand
@@ -22,4 +22,4 @@ void disegnaStratigrafia(const project::DatiProgetto& dati, double altezzaPagina
 [[nodiscard]] bool disegnaStratigrafia(base::Dialogo& dialogo,
                                        double altezzaPagina = altezzaPaginaA4);
 
-}  // namespace korven::report
+}  // namespace korven::drawings

@@ -3,7 +3,7 @@
 #include <array>
 #include <cstdint>
 
-namespace korven::commands {
+namespace korven::help {
 
 inline constexpr int ultimaVoceAiuto = 200;
 
@@ -31,4 +31,4 @@ inline constexpr int voceSelezling = 33;
     return contestiAiuto()[static_cast<std::size_t>(voce)];
 }
 
-}  // namespace korven::commands
+}  // namespace korven::help

@@ -8,7 +8,7 @@
 #include "base/translated_texts.hpp"
 #include "help/help_contexts.hpp"
 
-namespace korven::commands {
+namespace korven::help {
 
 namespace {
 
@@ -108,4 +108,4 @@ bool haAncora(const PaginaGuida& pagina, std::string_view ancora) {
            pagina.html.find("<a name=\"" + std::string(ancora) + "\">") != std::string::npos;
 }
 
-}  // namespace korven::commands
+}  // namespace korven::help

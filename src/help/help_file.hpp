@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-namespace korven::commands {
+namespace korven::help {
 
 /// A page of the help.
 struct PaginaGuida {
@@ -44,4 +44,4 @@ inline constexpr std::string_view primaRigaGuida = "KORVEN 32 HLP 1";
 /// True if the page has that place to jump to.
 [[nodiscard]] bool haAncora(const PaginaGuida& pagina, std::string_view ancora);
 
-}  // namespace korven::commands
+}  // namespace korven::help

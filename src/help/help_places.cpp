@@ -5,7 +5,7 @@
 
 #include "help/help_contexts.hpp"
 
-namespace korven::commands {
+namespace korven::help {
 
 namespace {
 
@@ -47,4 +47,4 @@ std::string ancoraCampo(std::string_view controllo) {
 
 std::string ancoraColonna(int colonna) { return ancoraCampo(std::to_string(colonna + 2)); }
 
-}  // namespace korven::commands
+}  // namespace korven::help

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-namespace korven::commands {
+namespace korven::help {
 
 /// The entry of the table of help contexts of a window, by its name: "GRAFICA", "Editacfg". 0 for a
 /// window that has none of its own.
@@ -22,4 +22,4 @@ namespace korven::commands {
 /// the row numbers.
 [[nodiscard]] std::string ancoraColonna(int colonna);
 
-}  // namespace korven::commands
+}  // namespace korven::help

@@ -5,7 +5,7 @@
 #include "base/code_page.hpp"
 #include "help/help_text.hpp"
 
-namespace korven::commands {
+namespace korven::help {
 
 namespace {
 
@@ -114,4 +114,4 @@ std::vector<Trovata> cercaNellaGuida(const Guida& guida, std::string_view cerca)
     return trovate;
 }
 
-}  // namespace korven::commands
+}  // namespace korven::help

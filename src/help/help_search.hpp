@@ -8,7 +8,7 @@
 
 #include "help/help_file.hpp"
 
-namespace korven::commands {
+namespace korven::help {
 
 /// A page that a search has found.
 struct Trovata {
@@ -30,4 +30,4 @@ struct Trovata {
 /// words.
 [[nodiscard]] std::vector<Trovata> cercaNellaGuida(const Guida& guida, std::string_view cerca);
 
-}  // namespace korven::commands
+}  // namespace korven::help

@@ -6,7 +6,7 @@
 
 #include "base/code_page.hpp"
 
-namespace korven::commands {
+namespace korven::help {
 
 namespace {
 
@@ -115,4 +115,4 @@ TestoPiegato piega(std::string_view testo) {
     return piegato;
 }
 
-}  // namespace korven::commands
+}  // namespace korven::help

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-namespace korven::commands {
+namespace korven::help {
 
 /// The words of a page of the help without its tags: entities become their characters, a tag that
 /// ends a block becomes a blank, and blanks in a row one. "k<sub>0</sub>" gives "k0".
@@ -20,4 +20,4 @@ struct TestoPiegato {
 /// Folds a text (UTF-8): "Densità φ" becomes "densita phi".
 [[nodiscard]] TestoPiegato piega(std::string_view testo);
 
-}  // namespace korven::commands
+}  // namespace korven::help

@@ -4,7 +4,7 @@
 
 #include "base/code_page.hpp"
 
-namespace korven::report {
+namespace korven::markup {
 
 CharacterWidths::CharacterWidths(Misura measure) : measure_(std::move(measure)) {
     ascii_.fill(unknown);
@@ -32,4 +32,4 @@ double CharacterWidths::widthOf(std::string_view character) {
     return others_.emplace(character, measure_(character)).first->second;
 }
 
-}  // namespace korven::report
+}  // namespace korven::markup

@@ -7,7 +7,7 @@
 
 #include "markup/text_fitting.hpp"
 
-namespace korven::report {
+namespace korven::markup {
 
 /// Measures texts as the sum of the widths of their characters, each of which it asks for once.
 /// True to a device that draws without kerning and ligatures, and quick where a text grows blank by
@@ -28,4 +28,4 @@ class CharacterWidths {
     std::map<std::string, double, std::less<>> others_;
 };
 
-}  // namespace korven::report
+}  // namespace korven::markup

@@ -2,7 +2,7 @@
 
 #include "plot/text_width.hpp"
 
-namespace korven::report {
+namespace korven::markup {
 
 // Words of narrow letters gain most; hardly one gains more than this.
 static constexpr double boldAllowance = 1.15;
@@ -12,4 +12,4 @@ double estimatedWidth(const ReportFont& font, std::string_view text) {
     return font.bold ? plain * boldAllowance : plain;
 }
 
-}  // namespace korven::report
+}  // namespace korven::markup

@@ -1,6 +1,6 @@
 #include "markup/markup_cells.hpp"
 
-namespace korven::report {
+namespace korven::markup {
 
 std::vector<std::string> cutIntoCells(std::string_view row) {
     std::vector<std::string> cells;
@@ -26,4 +26,4 @@ std::string& CellGrid::cell(int row, int column) {
     return rows_[static_cast<std::size_t>(row)][column];
 }
 
-}  // namespace korven::report
+}  // namespace korven::markup

@@ -7,7 +7,7 @@
 #include "base/table.hpp"
 #include "markup/scan_state.hpp"
 
-namespace korven::report {
+namespace korven::markup {
 
 inline constexpr int maximumGridRows = 510;
 inline constexpr int maximumGridColumns = 30;
@@ -39,4 +39,4 @@ class CellGrid {
     int columns_ = 0;
 };
 
-}  // namespace korven::report
+}  // namespace korven::markup

@@ -2,7 +2,7 @@
 
 #include "base/code_page.hpp"
 
-namespace korven::report {
+namespace korven::markup {
 
 MarkupLine takeApart(std::string_view line) {
     const std::string_view text = base::senzaSpaziEsterni(line);
@@ -18,4 +18,4 @@ MarkupLine takeApart(std::string_view line) {
     return parts;
 }
 
-}  // namespace korven::report
+}  // namespace korven::markup

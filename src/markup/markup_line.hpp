@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-namespace korven::report {
+namespace korven::markup {
 
 /// One line of report mark-up, taken apart.
 struct MarkupLine {
@@ -18,4 +18,4 @@ struct MarkupLine {
 /// keyword from its argument; tabs are content, as they part the cells of a table row.
 [[nodiscard]] MarkupLine takeApart(std::string_view line);
 
-}  // namespace korven::report
+}  // namespace korven::markup

@@ -10,7 +10,7 @@
 #include "markup/markup_line.hpp"
 #include "markup/table_style.hpp"
 
-namespace korven::report {
+namespace korven::markup {
 
 namespace {
 
@@ -179,4 +179,4 @@ void renderMarkup(base::LettoreRighe& file, RendererKind kind, MarkupReceiver& r
     }
 }
 
-}  // namespace korven::report
+}  // namespace korven::markup

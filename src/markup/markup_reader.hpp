@@ -5,7 +5,7 @@
 #include "base/text_lines.hpp"
 #include "markup/scan_state.hpp"
 
-namespace korven::report {
+namespace korven::markup {
 
 /// What a renderer of the report is told. The reader has classified the line and kept the state
 /// when it calls; the state is the renderer's own, who counts body lines in `lineCounter` and
@@ -63,4 +63,4 @@ class MarkupReader {
 /// @throws ErroreFile with the line when a table or list exceeds its capacity
 void renderMarkup(base::LettoreRighe& file, RendererKind kind, MarkupReceiver& receiver);
 
-}  // namespace korven::report
+}  // namespace korven::markup

@@ -4,7 +4,7 @@
 
 #include "base/code_page.hpp"
 
-namespace korven::report {
+namespace korven::markup {
 
 static constexpr std::string_view zeros = "0000000000000";
 
@@ -29,4 +29,4 @@ std::string alignedCell(std::string_view cell, int profile, int decimals) {
     return aligned;
 }
 
-}  // namespace korven::report
+}  // namespace korven::markup

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-namespace korven::report {
+namespace korven::markup {
 
 // How the cell of a table or list counts for the alignment of its column on the decimal point.
 inline constexpr int textProfile = -2;
@@ -25,4 +25,4 @@ inline constexpr int integerProfile = -1;
 /// @param decimals  largest profile of its column, hence not below `profile`
 [[nodiscard]] std::string alignedCell(std::string_view cell, int profile, int decimals);
 
-}  // namespace korven::report
+}  // namespace korven::markup

@@ -3,7 +3,7 @@
 #include "base/files.hpp"
 #include "markup/text_filling.hpp"
 
-namespace korven::report {
+namespace korven::markup {
 
 namespace {
 
@@ -90,4 +90,4 @@ void previewReport(const std::string& percorso, PreviewList& list) {
     renderMarkup(file, RendererKind::preview, renderer);
 }
 
-}  // namespace korven::report
+}  // namespace korven::markup

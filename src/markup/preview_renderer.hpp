@@ -8,7 +8,7 @@
 #include "markup/report_page.hpp"
 #include "markup/table_fitting.hpp"
 
-namespace korven::report {
+namespace korven::markup {
 
 /// Where the preview shows its lines, below those that it shows already.
 class PreviewList {
@@ -53,4 +53,4 @@ class PreviewRenderer : public MarkupReceiver {
 /// @throws ErroreFile for a table beyond 2000 rows, or 510 rows or 30 columns of the grid
 void previewReport(const std::string& percorso, PreviewList& list);
 
-}  // namespace korven::report
+}  // namespace korven::markup

@@ -4,7 +4,7 @@
 #include "markup/table_style.hpp"
 #include "markup/text_filling.hpp"
 
-namespace korven::report {
+namespace korven::markup {
 
 namespace {
 
@@ -222,4 +222,4 @@ void printReport(const std::string& percorso, ReportPrinter& printer, base::Dial
     renderer.finish();
 }
 
-}  // namespace korven::report
+}  // namespace korven::markup

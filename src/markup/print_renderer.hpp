@@ -10,7 +10,7 @@
 #include "markup/report_printer.hpp"
 #include "markup/table_fitting.hpp"
 
-namespace korven::report {
+namespace korven::markup {
 
 /// Lays the report out on the pages of a printer: each text and each cell at its place, page breaks
 /// with header and footer, the head row of a table repeated on each of its pages. Nothing is
@@ -69,4 +69,4 @@ class PrintRenderer : public MarkupReceiver {
 /// the printer throws
 void printReport(const std::string& percorso, ReportPrinter& printer, base::Dialogo& dialogo);
 
-}  // namespace korven::report
+}  // namespace korven::markup

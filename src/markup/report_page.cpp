@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-namespace korven::report {
+namespace korven::markup {
 
 double alignedX(Alignment alignment, const LineRoom& room, double width) {
     switch (alignment) {
@@ -34,4 +34,4 @@ double ReportPage::limit(double lineHeight) const {
     return height - layout.bottomMargin - layout.footerGap - lineHeight;
 }
 
-}  // namespace korven::report
+}  // namespace korven::markup

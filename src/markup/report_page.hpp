@@ -6,7 +6,7 @@
 // Where things lie on a page of the report, or in the list of the preview, which is a page without
 // margins and without an end. Points, y downward.
 
-namespace korven::report {
+namespace korven::markup {
 
 /// The room that lines are aligned in.
 struct LineRoom {
@@ -39,4 +39,4 @@ struct ReportPage {
     [[nodiscard]] double limit(double lineHeight) const;
 };
 
-}  // namespace korven::report
+}  // namespace korven::markup

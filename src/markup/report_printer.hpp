@@ -5,7 +5,7 @@
 
 #include "base/file_error.hpp"
 
-namespace korven::report {
+namespace korven::markup {
 
 /// What a font becomes whose name is empty, and whose size is 0 or less.
 inline constexpr std::string_view defaultFontName = "Arial";
@@ -63,4 +63,4 @@ class ReportPrinter {
     virtual void endJob() = 0;
 };
 
-}  // namespace korven::report
+}  // namespace korven::markup

@@ -4,7 +4,7 @@
 
 #include "base/number_text.hpp"
 
-namespace korven::report {
+namespace korven::markup {
 
 namespace {
 
@@ -33,4 +33,4 @@ ResetArguments parseReset(std::string_view argument) {
     return page;
 }
 
-}  // namespace korven::report
+}  // namespace korven::markup

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-namespace korven::report {
+namespace korven::markup {
 
 inline constexpr double pointsPerCentimetre = 72 / 2.54;
 
@@ -25,4 +25,4 @@ struct ResetArguments {
 /// number counts 0; the point alone is a decimal sign, a comma always ends the field.
 [[nodiscard]] ResetArguments parseReset(std::string_view argument);
 
-}  // namespace korven::report
+}  // namespace korven::markup

@@ -4,7 +4,7 @@
 
 #include "base/table.hpp"
 
-namespace korven::report {
+namespace korven::markup {
 
 inline constexpr int maximumRows = 2000;
 
@@ -29,4 +29,4 @@ struct ScanState {
     int tableStyle = 0;       ///< 1 or 2, from #TABSTYLE; kept for completeness, nothing reads it
 };
 
-}  // namespace korven::report
+}  // namespace korven::markup

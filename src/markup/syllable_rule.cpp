@@ -2,7 +2,7 @@
 
 #include "base/code_page.hpp"
 
-namespace korven::report {
+namespace korven::markup {
 
 namespace {
 
@@ -38,4 +38,4 @@ std::size_t sillaba(std::span<const std::string_view> testo) {
     return testo.size() + 1;
 }
 
-}  // namespace korven::report
+}  // namespace korven::markup

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-namespace korven::report {
+namespace korven::markup {
 
 /// The characters of a UTF-8 text, each a piece of it; a byte out of place is one.
 [[nodiscard]] std::vector<std::string_view> caratteri(std::string_view testo);
@@ -17,4 +17,4 @@ namespace korven::report {
 /// @return 1 or more; for an empty text 1, one more than its length
 [[nodiscard]] std::size_t sillaba(std::span<const std::string_view> testo);
 
-}  // namespace korven::report
+}  // namespace korven::markup

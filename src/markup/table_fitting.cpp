@@ -6,7 +6,7 @@
 #include "base/code_page.hpp"
 #include "markup/number_profile.hpp"
 
-namespace korven::report {
+namespace korven::markup {
 
 namespace {
 
@@ -47,4 +47,4 @@ FittedTable fitColumns(CellGrid& grid, BlockKind kind, const Misura& measure) {
     return fitted;
 }
 
-}  // namespace korven::report
+}  // namespace korven::markup

@@ -6,7 +6,7 @@
 #include "markup/reset_arguments.hpp"
 #include "markup/text_fitting.hpp"
 
-namespace korven::report {
+namespace korven::markup {
 
 // Room between two columns, and the share of it that lies left of a cell [points].
 inline constexpr double columnGap = 0.5 * pointsPerCentimetre;
@@ -28,4 +28,4 @@ enum class BlockKind { table, list };
 /// @param measure  width of a text [points]
 [[nodiscard]] FittedTable fitColumns(CellGrid& grid, BlockKind kind, const Misura& measure);
 
-}  // namespace korven::report
+}  // namespace korven::markup

@@ -2,7 +2,7 @@
 
 #include "base/code_page.hpp"
 
-namespace korven::report {
+namespace korven::markup {
 
 static constexpr std::string_view allToTheRight = ">>>>>>>>>>>>>>>>>>>>>>>";
 
@@ -25,4 +25,4 @@ bool rightAligned(std::string_view columnStyle, int column) {
     return columnStyle.empty() || columnStyle.starts_with('>');
 }
 
-}  // namespace korven::report
+}  // namespace korven::markup

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-namespace korven::report {
+namespace korven::markup {
 
 /// What #TABSTYLE says about the tables that follow.
 struct TableStyle {
@@ -22,4 +22,4 @@ struct TableStyle {
 /// else for left. A column without a character is right aligned.
 [[nodiscard]] bool rightAligned(std::string_view columnStyle, int column);
 
-}  // namespace korven::report
+}  // namespace korven::markup

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace korven::report {
+namespace korven::markup {
 
 namespace {
 
@@ -40,4 +40,4 @@ std::string dottedLeader(std::string_view label, double width, const Misura& mea
     return filledUpTo(std::string(label) + ' ', '.', {}, width, measure);
 }
 
-}  // namespace korven::report
+}  // namespace korven::markup

@@ -5,7 +5,7 @@
 
 #include "markup/text_fitting.hpp"
 
-namespace korven::report {
+namespace korven::markup {
 
 /// The text with the fewest `fill` characters behind it for which text, fill and `tail` together
 /// are no narrower than `width`. Whoever pads with blanks alone reaches a position this way, though
@@ -20,4 +20,4 @@ namespace korven::report {
 /// the eye to the value.
 [[nodiscard]] std::string dottedLeader(std::string_view label, double width, const Misura& measure);
 
-}  // namespace korven::report
+}  // namespace korven::markup

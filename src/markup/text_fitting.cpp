@@ -9,7 +9,7 @@
 #include "base/translated_texts.hpp"
 #include "markup/syllable_rule.hpp"
 
-namespace korven::report {
+namespace korven::markup {
 
 namespace {
 
@@ -94,4 +94,4 @@ std::vector<std::string> adattaTesto(std::string_view testo, double larghezza,
     return Adattamento(testo, larghezza, misura).righe();
 }
 
-}  // namespace korven::report
+}  // namespace korven::markup

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-namespace korven::report {
+namespace korven::markup {
 
 inline constexpr int massimoRighe = 100;  ///< of one text
 
@@ -21,4 +21,4 @@ using Misura = std::function<double(std::string_view)>;
 [[nodiscard]] std::vector<std::string> adattaTesto(std::string_view testo, double larghezza,
                                                    const Misura& misura);
 
-}  // namespace korven::report
+}  // namespace korven::markup

@@ -2,7 +2,7 @@
 
 #include "base/code_page.hpp"
 
-namespace korven::report {
+namespace korven::markup {
 
 void TextRenderer::open(ScanState&, std::string_view) { bytes_.emplace(); }
 
@@ -28,4 +28,4 @@ std::optional<std::string> renderText(base::LettoreRighe& file) {
     return renderer.bytes();
 }
 
-}  // namespace korven::report
+}  // namespace korven::markup

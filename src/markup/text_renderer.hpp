@@ -7,7 +7,7 @@
 #include "base/text_lines.hpp"
 #include "markup/markup_reader.hpp"
 
-namespace korven::report {
+namespace korven::markup {
 
 /// The report as plain text: text lines and table rows as they stand, with their tabs, so that a
 /// spreadsheet can read it. Of the layout nothing survives. The header stands before the first text
@@ -37,4 +37,4 @@ class TextRenderer : public MarkupReceiver {
 /// @throws ErroreFile as `renderMarkup`
 [[nodiscard]] std::optional<std::string> renderText(base::LettoreRighe& file);
 
-}  // namespace korven::report
+}  // namespace korven::markup

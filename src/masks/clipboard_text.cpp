@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace korven::project {
+namespace korven::masks {
 
 namespace {
 
@@ -43,4 +43,4 @@ std::string anteprimaAppunti(std::string_view testo) {
     return std::string(testo.substr(0, fine)) + "......";
 }
 
-}  // namespace korven::project
+}  // namespace korven::masks

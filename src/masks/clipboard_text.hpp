@@ -6,7 +6,7 @@
 
 // Text that comes from the clipboard, as spreadsheets lay it there.
 
-namespace korven::project {
+namespace korven::masks {
 
 /// Its rows and cells: rows end at CR LF or at LF alone, cells at a tab. A line break at the very
 /// end opens no further row.
@@ -16,4 +16,4 @@ namespace korven::project {
 /// dots say so.
 [[nodiscard]] std::string anteprimaAppunti(std::string_view testo);
 
-}  // namespace korven::project
+}  // namespace korven::masks

@@ -4,7 +4,7 @@
 
 #include "base/code_page.hpp"
 
-namespace korven::project {
+namespace korven::masks {
 
 namespace {
 
@@ -43,4 +43,4 @@ std::string aiutoMostrato(std::string_view aiuto) {
     return mostrato;
 }
 
-}  // namespace korven::project
+}  // namespace korven::masks

@@ -7,7 +7,7 @@
 // The help text of a column may end in the values that it takes:
 // "Kind of the anchor.$$$0=tension only,1=tension and compression".
 
-namespace korven::project {
+namespace korven::masks {
 
 /// The keys behind "$$$", trimmed and in upper case; nothing when the help has no "$$$". What has
 /// no
@@ -21,4 +21,4 @@ namespace korven::project {
 /// The help as the strip shows it: a line break stands for "$$$".
 [[nodiscard]] std::string aiutoMostrato(std::string_view aiuto);
 
-}  // namespace korven::project
+}  // namespace korven::masks

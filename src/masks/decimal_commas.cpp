@@ -2,7 +2,7 @@
 
 #include "base/number_text.hpp"
 
-namespace korven::project {
+namespace korven::masks {
 
 std::optional<std::string> conIlPunto(std::string_view testo) {
     const auto virgola = testo.find(',');
@@ -13,4 +13,4 @@ std::optional<std::string> conIlPunto(std::string_view testo) {
     return numero;
 }
 
-}  // namespace korven::project
+}  // namespace korven::masks

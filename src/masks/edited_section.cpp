@@ -4,23 +4,24 @@
 
 #include "base/number_text.hpp"
 
-namespace korven::project {
+namespace korven::masks {
 
-std::size_t campoSezione(double Sezione::*valore) {
+std::size_t campoSezione(double project::Sezione::*valore) {
     const auto* trovato =
         std::find_if(std::begin(campiSezione), std::end(campiSezione),
                      [valore](const CampoSezione& campo) { return campo.valore == valore; });
     return static_cast<std::size_t>(trovato - std::begin(campiSezione));
 }
 
-SezioneEditata::SezioneEditata(Sezione& sezione, bool& modificato)
+SezioneEditata::SezioneEditata(project::Sezione& sezione, bool& modificato)
     : sezione_(sezione), modificato_(modificato) {
-    const auto* scelto = std::find_if(std::begin(tipiSezione), std::end(tipiSezione),
-                                      [&sezione](auto flag) { return sezione.*flag; });
-    if (scelto == std::end(tipiSezione))
+    const auto* scelto =
+        std::find_if(std::begin(project::tipiSezione), std::end(project::tipiSezione),
+                     [&sezione](auto flag) { return sezione.*flag; });
+    if (scelto == std::end(project::tipiSezione))
         sezione.tipoDiaframma = true;
     else
-        tipo_ = static_cast<RiquadroSezione>(scelto - std::begin(tipiSezione));
+        tipo_ = static_cast<RiquadroSezione>(scelto - std::begin(project::tipiSezione));
     for (std::size_t i = 0; i < numeroCampiSezione; ++i)
         testi_[i] = base::testoNumero(sezione.*campiSezione[i].valore * campiSezione[i].fattore);
     mostrati_ = testi_;
@@ -38,9 +39,9 @@ bool SezioneEditata::nominato(std::size_t campo) const {
     return base::leggiNumero(testo).value_or(0) == sezione_.*campiSezione[campo].valore;
 }
 
-Sezione SezioneEditata::letta() const {
-    Sezione editata;
-    editata.*tipiSezione[static_cast<std::size_t>(tipo_)] = true;
+project::Sezione SezioneEditata::letta() const {
+    project::Sezione editata;
+    editata.*project::tipiSezione[static_cast<std::size_t>(tipo_)] = true;
     for (std::size_t i = 0; i < numeroCampiSezione; ++i) {
         const auto campo = campiSezione[i].valore;
         editata.*campo = testi_[i] == mostrati_[i] ? sezione_.*campo : scritto(i);
@@ -55,9 +56,9 @@ bool SezioneEditata::ritorna() const {
 }
 
 void SezioneEditata::conferma() {
-    const Sezione editata = letta();
+    const project::Sezione editata = letta();
     if (!(editata == sezione_) || !ritorna()) modificato_ = true;
     sezione_ = editata;
 }
 
-}  // namespace korven::project
+}  // namespace korven::masks

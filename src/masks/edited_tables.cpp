@@ -7,26 +7,26 @@
 #include "base/code_page.hpp"
 #include "base/number_text.hpp"
 
-namespace korven::project {
+namespace korven::masks {
 
 namespace {
 
 // What the user types over what is stored: 1, or 10 where tonnes become kN.
 struct CampoEditato {
-    double DatiProgetto::*campo;
+    double project::DatiProgetto::*campo;
     double fattore;
 };
 
 constexpr CampoEditato campiEditati[] = {
-    {&DatiProgetto::vincoloTesta, 1},    {&DatiProgetto::vincoloPiede, 1},
-    {&DatiProgetto::modoSpinte, 1},      {&DatiProgetto::modoKs, 1},
-    {&DatiProgetto::modoTensioni, 1},    {&DatiProgetto::metodoSpinte, 1},
-    {&DatiProgetto::metodoKs, 1},        {&DatiProgetto::lunghezzaParatia, 1},
-    {&DatiProgetto::rigidezzaEJ, 10},    {&DatiProgetto::coeffM, 1},
-    {&DatiProgetto::pressioneOrizz, 10}, {&DatiProgetto::sovraccMonte, 10},
-    {&DatiProgetto::momentoTesta, 10},   {&DatiProgetto::forzaTesta, 10},
-    {&DatiProgetto::sforzoNormale, 10},  {&DatiProgetto::inclinazioneMonte, 1},
-    {&DatiProgetto::faldaMonte, 1},      {&DatiProgetto::gammaAcqua, 1},
+    {&project::DatiProgetto::vincoloTesta, 1},    {&project::DatiProgetto::vincoloPiede, 1},
+    {&project::DatiProgetto::modoSpinte, 1},      {&project::DatiProgetto::modoKs, 1},
+    {&project::DatiProgetto::modoTensioni, 1},    {&project::DatiProgetto::metodoSpinte, 1},
+    {&project::DatiProgetto::metodoKs, 1},        {&project::DatiProgetto::lunghezzaParatia, 1},
+    {&project::DatiProgetto::rigidezzaEJ, 10},    {&project::DatiProgetto::coeffM, 1},
+    {&project::DatiProgetto::pressioneOrizz, 10}, {&project::DatiProgetto::sovraccMonte, 10},
+    {&project::DatiProgetto::momentoTesta, 10},   {&project::DatiProgetto::forzaTesta, 10},
+    {&project::DatiProgetto::sforzoNormale, 10},  {&project::DatiProgetto::inclinazioneMonte, 1},
+    {&project::DatiProgetto::faldaMonte, 1},      {&project::DatiProgetto::gammaAcqua, 1},
 };
 
 double letto(const std::string& testo, double fattore) {
@@ -43,9 +43,10 @@ bool stesso(std::string_view uno, std::string_view altro) {
 // the same double, and a form shows no more than fifteen digits.
 class Ripresa {
  public:
-    using Mostra = std::vector<std::string> (*)(const DatiProgetto&);
+    using Mostra = std::vector<std::string> (*)(const project::DatiProgetto&);
 
-    Ripresa(DatiProgetto& dati, const std::vector<std::string>& testi, Mostra mostra, int colonne)
+    Ripresa(project::DatiProgetto& dati, const std::vector<std::string>& testi, Mostra mostra,
+            int colonne)
         : dati_(dati),
           prima_(dati),
           testi_(testi),
@@ -62,14 +63,14 @@ class Ripresa {
 
     // The next cell, of row `riga`.
     template <class Colonna>
-    Ripresa& numero(Colonna DatiProgetto::*colonna, int riga, double fattore = 1) {
+    Ripresa& numero(Colonna project::DatiProgetto::*colonna, int riga, double fattore = 1) {
         const std::string testo = prossima();
         const int come = mostrata(testo);
         (dati_.*colonna)[riga] = come > 0 ? (prima_.*colonna)[come] : letto(testo, fattore);
         return *this;
     }
     template <class Colonna>
-    Ripresa& testo(Colonna DatiProgetto::*colonna, int riga) {
+    Ripresa& testo(Colonna project::DatiProgetto::*colonna, int riga) {
         const std::string testo = prossima();
         const int come = mostrata(testo);
         (dati_.*colonna)[riga] = come > 0 ? (prima_.*colonna)[come] : testo;
@@ -91,8 +92,8 @@ class Ripresa {
         return 0;
     }
 
-    DatiProgetto& dati_;
-    const DatiProgetto prima_;
+    project::DatiProgetto& dati_;
+    const project::DatiProgetto prima_;
     const std::vector<std::string>& testi_;
     const std::vector<std::string> mostrati_;
     std::size_t colonne_;
@@ -126,7 +127,7 @@ class Elenco {
 
 }  // namespace
 
-std::vector<std::string> testiStrati(const DatiProgetto& dati) {
+std::vector<std::string> testiStrati(const project::DatiProgetto& dati) {
     Elenco elenco;
     elenco.numero(dati.nStrati);
     for (int i = 1; i <= dati.nStrati; ++i)
@@ -140,7 +141,7 @@ std::vector<std::string> testiStrati(const DatiProgetto& dati) {
     return std::move(elenco).tutti();
 }
 
-std::vector<std::string> testiTiranti(const DatiProgetto& dati) {
+std::vector<std::string> testiTiranti(const project::DatiProgetto& dati) {
     Elenco elenco;
     elenco.numero(dati.nTiranti);
     for (int i = 1; i <= dati.nTiranti; ++i)
@@ -151,7 +152,7 @@ std::vector<std::string> testiTiranti(const DatiProgetto& dati) {
     return std::move(elenco).tutti();
 }
 
-std::vector<std::string> testiFasi(const DatiProgetto& dati) {
+std::vector<std::string> testiFasi(const project::DatiProgetto& dati) {
     Elenco elenco;
     elenco.numero(dati.nFasi);
     for (int i = 1; i <= dati.nFasi; ++i)
@@ -162,30 +163,30 @@ std::vector<std::string> testiFasi(const DatiProgetto& dati) {
     return std::move(elenco).tutti();
 }
 
-std::vector<std::string> testiParatia(const DatiProgetto& dati) {
+std::vector<std::string> testiParatia(const project::DatiProgetto& dati) {
     Elenco elenco;
     for (const auto& [campo, fattore] : campiEditati) elenco.numero(dati.*campo, fattore);
     return std::move(elenco).tutti();
 }
 
-std::vector<std::string> testiTitoli(const DatiProgetto& dati) {
+std::vector<std::string> testiTitoli(const project::DatiProgetto& dati) {
     Elenco elenco;
     for (int i = 1; i <= 6; ++i) elenco.testo(dati.titoli[i]);
     return std::move(elenco).tutti();
 }
 
-bool riprendiStrati(DatiProgetto& dati, const std::vector<std::string>& testi) {
+bool riprendiStrati(project::DatiProgetto& dati, const std::vector<std::string>& testi) {
     Ripresa lista(dati, testi, testiStrati, 7);
-    const int prima = std::exchange(dati.nStrati, lista.righe(massimoStrati));
+    const int prima = std::exchange(dati.nStrati, lista.righe(project::massimoStrati));
     for (int i = 1; i <= dati.nStrati; ++i) {
         if (i > prima) dati.suStrato[i] = 0;
-        lista.numero(&DatiProgetto::profStrato, i)
-            .numero(&DatiProgetto::gammaN, i, 10)
-            .numero(&DatiProgetto::gammaSat, i, 10)
-            .numero(&DatiProgetto::phiStrato, i)
-            .numero(&DatiProgetto::coesione, i, 10)
-            .numero(&DatiProgetto::ksStrato, i, 10)
-            .testo(&DatiProgetto::descrStrato, i);
+        lista.numero(&project::DatiProgetto::profStrato, i)
+            .numero(&project::DatiProgetto::gammaN, i, 10)
+            .numero(&project::DatiProgetto::gammaSat, i, 10)
+            .numero(&project::DatiProgetto::phiStrato, i)
+            .numero(&project::DatiProgetto::coesione, i, 10)
+            .numero(&project::DatiProgetto::ksStrato, i, 10)
+            .testo(&project::DatiProgetto::descrStrato, i);
     }
     ordina(dati.profStrato, dati.nStrati, [&dati](int a, int b) {
         for (auto* colonna : {&dati.profStrato, &dati.gammaN, &dati.gammaSat, &dati.phiStrato,
@@ -196,14 +197,14 @@ bool riprendiStrati(DatiProgetto& dati, const std::vector<std::string>& testi) {
     return true;
 }
 
-bool riprendiTiranti(DatiProgetto& dati, const std::vector<std::string>& testi) {
+bool riprendiTiranti(project::DatiProgetto& dati, const std::vector<std::string>& testi) {
     Ripresa lista(dati, testi, testiTiranti, 4);
-    dati.nTiranti = lista.righe(massimoTiranti);
+    dati.nTiranti = lista.righe(project::massimoTiranti);
     for (int i = 1; i <= dati.nTiranti; ++i)
-        lista.numero(&DatiProgetto::profTirante, i)
-            .numero(&DatiProgetto::rigTirante, i, 10)
-            .numero(&DatiProgetto::pretTirante, i, 10)
-            .numero(&DatiProgetto::tipoTirante, i);
+        lista.numero(&project::DatiProgetto::profTirante, i)
+            .numero(&project::DatiProgetto::rigTirante, i, 10)
+            .numero(&project::DatiProgetto::pretTirante, i, 10)
+            .numero(&project::DatiProgetto::tipoTirante, i);
     ordina(dati.profTirante, dati.nTiranti, [&dati](int a, int b) {
         for (auto* colonna :
              {&dati.profTirante, &dati.rigTirante, &dati.pretTirante, &dati.tipoTirante})
@@ -212,14 +213,14 @@ bool riprendiTiranti(DatiProgetto& dati, const std::vector<std::string>& testi) 
     return true;
 }
 
-bool riprendiFasi(DatiProgetto& dati, const std::vector<std::string>& testi) {
+bool riprendiFasi(project::DatiProgetto& dati, const std::vector<std::string>& testi) {
     Ripresa lista(dati, testi, testiFasi, 4);
-    dati.nFasi = lista.righe(massimoFasi);
+    dati.nFasi = lista.righe(project::massimoFasi);
     for (int i = 1; i <= dati.nFasi; ++i)
-        lista.numero(&DatiProgetto::profFase, i)
-            .numero(&DatiProgetto::tirantiFase, i)
-            .numero(&DatiProgetto::sovraccFase, i, 10)
-            .numero(&DatiProgetto::faldaFase, i);
+        lista.numero(&project::DatiProgetto::profFase, i)
+            .numero(&project::DatiProgetto::tirantiFase, i)
+            .numero(&project::DatiProgetto::sovraccFase, i, 10)
+            .numero(&project::DatiProgetto::faldaFase, i);
     ordina(dati.profFase, dati.nFasi, [&dati](int a, int b) {
         std::swap(dati.tirantiFase[a], dati.tirantiFase[b]);
         std::swap(dati.sovraccFase[a], dati.sovraccFase[b]);
@@ -228,7 +229,7 @@ bool riprendiFasi(DatiProgetto& dati, const std::vector<std::string>& testi) {
     return true;
 }
 
-bool riprendiParatia(DatiProgetto& dati, const std::vector<std::string>& testi) {
+bool riprendiParatia(project::DatiProgetto& dati, const std::vector<std::string>& testi) {
     const std::vector<std::string> mostrati = testiParatia(dati);
     bool diversa = false;
     for (std::size_t i = 0; i < std::size(campiEditati); ++i) {
@@ -242,7 +243,7 @@ bool riprendiParatia(DatiProgetto& dati, const std::vector<std::string>& testi) 
     return diversa;
 }
 
-bool riprendiTitoli(DatiProgetto& dati, const std::vector<std::string>& testi) {
+bool riprendiTitoli(project::DatiProgetto& dati, const std::vector<std::string>& testi) {
     bool diversi = false;
     for (std::size_t i = 0; i < 6; ++i) {
         const std::string riga = i < testi.size() ? testi[i] : std::string();
@@ -253,4 +254,4 @@ bool riprendiTitoli(DatiProgetto& dati, const std::vector<std::string>& testi) {
     return diversi;
 }
 
-}  // namespace korven::project
+}  // namespace korven::masks

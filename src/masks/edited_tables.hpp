@@ -18,44 +18,44 @@
 // Each function returns whether the project counts as modified by it: where it returns true the
 // caller sets `modificato`, where it returns false `modificato` stays as it was.
 
-namespace korven::project {
+namespace korven::masks {
 
 /// What the table editors show: the number of rows, then the cells; the plain text of each number
 /// in the unit that the user sees. Taken back unchanged they give the same project.
-[[nodiscard]] std::vector<std::string> testiStrati(const DatiProgetto& dati);
-[[nodiscard]] std::vector<std::string> testiTiranti(const DatiProgetto& dati);
-[[nodiscard]] std::vector<std::string> testiFasi(const DatiProgetto& dati);
+[[nodiscard]] std::vector<std::string> testiStrati(const project::DatiProgetto& dati);
+[[nodiscard]] std::vector<std::string> testiTiranti(const project::DatiProgetto& dati);
+[[nodiscard]] std::vector<std::string> testiFasi(const project::DatiProgetto& dati);
 /// What the wall editor shows: the 18 values in its order, codes first.
-[[nodiscard]] std::vector<std::string> testiParatia(const DatiProgetto& dati);
+[[nodiscard]] std::vector<std::string> testiParatia(const project::DatiProgetto& dati);
 /// The six heading lines.
-[[nodiscard]] std::vector<std::string> testiTitoli(const DatiProgetto& dati);
+[[nodiscard]] std::vector<std::string> testiTitoli(const project::DatiProgetto& dati);
 
 /// Takes back the soil layers and sorts them by depth; equal depths stay in the order typed. Su has
 /// no column in the editor and stays with its row number when rows are exchanged; rows beyond the
 /// count of before start with 0, whatever an earlier table left there.
 /// @return true always: a confirmed table counts as modified, whether anything changed or not
 /// @throws base::ErroreIndice if there are more rows than the table holds
-bool riprendiStrati(DatiProgetto& dati, const std::vector<std::string>& testi);
+bool riprendiStrati(project::DatiProgetto& dati, const std::vector<std::string>& testi);
 
 /// Takes back the anchors and sorts them by depth.
 /// @return true always, as for the layers
 /// @throws base::ErroreIndice if there are more rows than the table holds
-bool riprendiTiranti(DatiProgetto& dati, const std::vector<std::string>& testi);
+bool riprendiTiranti(project::DatiProgetto& dati, const std::vector<std::string>& testi);
 
 /// Takes back the excavation stages. They are meant to be typed in the order of the excavation:
 /// rows out of depth order keep their depths and water levels, while their anchor counts and
 /// surcharges, and the stiffness of the anchors with the same row numbers, are exchanged.
 /// @return true always, as for the layers
 /// @throws base::ErroreIndice if there are more rows than the table holds
-bool riprendiFasi(DatiProgetto& dati, const std::vector<std::string>& testi);
+bool riprendiFasi(project::DatiProgetto& dati, const std::vector<std::string>& testi);
 
 /// Takes back the wall parameters, 18 texts in the order of the wall editor.
 /// @return true if any value differs from the stored one; a form confirmed unchanged modifies
 ///         nothing
-bool riprendiParatia(DatiProgetto& dati, const std::vector<std::string>& testi);
+bool riprendiParatia(project::DatiProgetto& dati, const std::vector<std::string>& testi);
 
 /// Takes back the six heading lines.
 /// @return true if any line differs from the stored one
-bool riprendiTitoli(DatiProgetto& dati, const std::vector<std::string>& testi);
+bool riprendiTitoli(project::DatiProgetto& dati, const std::vector<std::string>& testi);
 
-}  // namespace korven::project
+}  // namespace korven::masks

@@ -6,7 +6,7 @@
 #include "masks/column_keys.hpp"
 #include "masks/field_type.hpp"
 
-namespace korven::project {
+namespace korven::masks {
 
 namespace {
 
@@ -85,4 +85,4 @@ void segnala(Vizio vizio, const CampoMaschera& campo, std::string_view titolo,
     dialogo.messaggio(testo, titolo, base::Icona::stop);
 }
 
-}  // namespace korven::project
+}  // namespace korven::masks

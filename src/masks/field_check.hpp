@@ -8,7 +8,7 @@
 
 // What may be typed into a field. The same words tell of a fault in both forms.
 
-namespace korven::project {
+namespace korven::masks {
 
 enum class Vizio {
     nessuno,
@@ -38,4 +38,4 @@ enum class Vizio {
 void segnala(Vizio vizio, const CampoMaschera& campo, std::string_view titolo,
              std::string_view aCapo, base::Dialogo& dialogo);
 
-}  // namespace korven::project
+}  // namespace korven::masks

@@ -8,7 +8,7 @@
 #include "base/number_reading.hpp"
 #include "masks/field_type.hpp"
 
-namespace korven::project {
+namespace korven::masks {
 
 namespace {
 
@@ -135,4 +135,4 @@ void mostraRiferimento(const Maschera& maschera, base::Dialogo& dialogo) {
     dialogo.messaggio(maschera.riferimento, maschera.titolo, base::Icona::informazione);
 }
 
-}  // namespace korven::project
+}  // namespace korven::masks

@@ -12,7 +12,7 @@
 #include "masks/key.hpp"
 #include "masks/mask.hpp"
 
-namespace korven::project {
+namespace korven::masks {
 
 /// A form with labelled fields, as a mask describes it: what is shown, what is being typed, what a
 /// key or a button does. Fields are counted from 0 over all fields of the mask, choices first.
@@ -102,4 +102,4 @@ class FieldModel {
 /// the help context table; without one the reference itself is shown in a box.
 void mostraRiferimento(const Maschera& maschera, base::Dialogo& dialogo);
 
-}  // namespace korven::project
+}  // namespace korven::masks

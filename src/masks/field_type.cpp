@@ -5,7 +5,7 @@
 #include "base/code_page.hpp"
 #include "base/number_text.hpp"
 
-namespace korven::project {
+namespace korven::masks {
 
 namespace {
 
@@ -49,4 +49,4 @@ std::string_view conDecimaliAmmessi(std::string_view testo, const TipoCampo& tip
     return testo.substr(0, fine);
 }
 
-}  // namespace korven::project
+}  // namespace korven::masks

@@ -5,7 +5,7 @@
 
 // What a type text of a mask says. "@" in a text's type lifts its length limit.
 
-namespace korven::project {
+namespace korven::masks {
 
 /// Type of a field in a field form.
 ///
@@ -40,4 +40,4 @@ struct TipoColonna {
 /// The text without the decimals that a picture does not take; any other type takes all.
 [[nodiscard]] std::string_view conDecimaliAmmessi(std::string_view testo, const TipoCampo& tipo);
 
-}  // namespace korven::project
+}  // namespace korven::masks

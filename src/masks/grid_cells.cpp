@@ -4,7 +4,7 @@
 
 #include "base/code_page.hpp"
 
-namespace korven::project {
+namespace korven::masks {
 
 CelleGriglia::CelleGriglia(int colonne)
     : colonne_(colonne),
@@ -97,4 +97,4 @@ std::string CelleGriglia::copia(int riga) const {
     return copiato;
 }
 
-}  // namespace korven::project
+}  // namespace korven::masks

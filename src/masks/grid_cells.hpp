@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-namespace korven::project {
+namespace korven::masks {
 
 /// The cells of a grid: rows 1 to 500, data columns from 1. A row has data when one of its cells is
 /// neither empty nor blank.
@@ -56,4 +56,4 @@ class CelleGriglia {
     std::vector<std::string> celle_;
 };
 
-}  // namespace korven::project
+}  // namespace korven::masks

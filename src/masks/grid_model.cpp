@@ -10,7 +10,7 @@
 #include "masks/column_keys.hpp"
 #include "masks/field_type.hpp"
 
-namespace korven::project {
+namespace korven::masks {
 
 AzioneGriglia azionePulsante(const Maschera& maschera, std::size_t indice) {
     constexpr AzioneGriglia prime[] = {AzioneGriglia::conferma, AzioneGriglia::annulla,
@@ -259,4 +259,4 @@ bool GridModel::conferma(base::Dialogo& dialogo) {
     return true;
 }
 
-}  // namespace korven::project
+}  // namespace korven::masks

@@ -12,7 +12,7 @@
 #include "masks/key.hpp"
 #include "masks/mask.hpp"
 
-namespace korven::project {
+namespace korven::masks {
 
 /// A place in a grid: row 1 to 500, data column from 1 (column 0 holds the row numbers).
 struct PostoGriglia {
@@ -155,4 +155,4 @@ class GridModel {
     std::string testoEditore_;
 };
 
-}  // namespace korven::project
+}  // namespace korven::masks

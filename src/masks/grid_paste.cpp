@@ -8,7 +8,7 @@
 #include "masks/decimal_commas.hpp"
 #include "masks/grid_model.hpp"
 
-namespace korven::project {
+namespace korven::masks {
 
 namespace {
 
@@ -95,4 +95,4 @@ void GridModel::incolla(std::string_view testo, base::Dialogo& dialogo) {
     primoCarattere_ = true;
 }
 
-}  // namespace korven::project
+}  // namespace korven::masks

@@ -1,6 +1,6 @@
 #pragma once
 
-namespace korven::project {
+namespace korven::masks {
 
 /// The keys that the forms give a meaning of their own.
 enum class Tasto {
@@ -18,4 +18,4 @@ enum class Tasto {
     destra,
 };
 
-}  // namespace korven::project
+}  // namespace korven::masks

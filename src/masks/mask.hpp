@@ -7,7 +7,7 @@
 // A mask describes an input form: its fields with labels, types, limits and help. The forms are
 // built from masks alone, so that what is asked and explained can be changed without the program.
 
-namespace korven::project {
+namespace korven::masks {
 
 inline constexpr std::size_t massimoMaschere = 20;
 inline constexpr int massimoCampi = 25;  ///< fields of one mask, choices included
@@ -51,4 +51,4 @@ struct Maschera {
 /// reference, held between 0 and 200, the bounds of that table.
 [[nodiscard]] int voceAiuto(const Maschera& maschera);
 
-}  // namespace korven::project
+}  // namespace korven::masks

@@ -5,7 +5,7 @@
 #include "base/number_text.hpp"
 #include "masks/edited_tables.hpp"
 
-namespace korven::project {
+namespace korven::masks {
 
 namespace {
 
@@ -15,17 +15,17 @@ using Testi = std::vector<std::string>;
 
 // What each editor shows and takes back; in the order of the masks.
 struct Editore {
-    Testi (*testi)(const DatiProgetto&);
-    bool (*riprendi)(DatiProgetto&, const Testi&);
+    Testi (*testi)(const project::DatiProgetto&);
+    bool (*riprendi)(project::DatiProgetto&, const Testi&);
     int capienza;  // rows; 0 for a form of fields
 };
 
 constexpr Editore editori[] = {
     {testiTitoli, riprendiTitoli, 0},
     {testiParatia, riprendiParatia, 0},
-    {testiStrati, riprendiStrati, massimoStrati},
-    {testiTiranti, riprendiTiranti, massimoTiranti},
-    {testiFasi, riprendiFasi, massimoFasi},
+    {testiStrati, riprendiStrati, project::massimoStrati},
+    {testiTiranti, riprendiTiranti, project::massimoTiranti},
+    {testiFasi, riprendiFasi, project::massimoFasi},
 };
 
 const Editore& editore(NumeroMaschera numero) {
@@ -42,7 +42,7 @@ Testi letti(const Maschere& maschere) {
 
 }  // namespace
 
-void preparaMaschera(Maschere& maschere, NumeroMaschera numero, const DatiProgetto& dati,
+void preparaMaschera(Maschere& maschere, NumeroMaschera numero, const project::DatiProgetto& dati,
                      int fase) {
     maschere.selezionaMaschera(static_cast<int>(numero));
     int indice = 0;
@@ -60,13 +60,13 @@ std::string testoRighe(const Maschere& maschere) {
     return testo;
 }
 
-bool riprendiMaschera(const Maschere& maschere, NumeroMaschera numero, DatiProgetto& dati,
+bool riprendiMaschera(const Maschere& maschere, NumeroMaschera numero, project::DatiProgetto& dati,
                       int& fase) {
     if (numero == NumeroMaschera::titoli) {
         const double scritta = base::leggiNumero(maschere.leggiCampo(campoFase)).value_or(0);
-        fase = static_cast<int>(std::clamp(scritta, 0.0, double{massimoFasi}));
+        fase = static_cast<int>(std::clamp(scritta, 0.0, double{project::massimoFasi}));
     }
     return editore(numero).riprendi(dati, letti(maschere));
 }
 
-}  // namespace korven::project
+}  // namespace korven::masks

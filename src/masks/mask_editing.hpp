@@ -7,11 +7,12 @@
 
 // The two ends of an editing command: what goes into the form, and what comes back out of it.
 
-namespace korven::project {
+namespace korven::masks {
 
 /// Selects a mask and fills its values from the project, in the units that the user sees.
 /// @param fase  the stage that diagrams draw, edited with the headings
-void preparaMaschera(Maschere& maschere, NumeroMaschera numero, const DatiProgetto& dati, int fase);
+void preparaMaschera(Maschere& maschere, NumeroMaschera numero, const project::DatiProgetto& dati,
+                     int fase);
 
 /// Rows that the table of a grid mask holds; 0 for a mask without a table.
 [[nodiscard]] int capienza(NumeroMaschera numero);
@@ -26,7 +27,7 @@ void preparaMaschera(Maschere& maschere, NumeroMaschera numero, const DatiProget
 /// @return true if the project counts as modified: a table always, wall and headings if a value
 ///         differs
 /// @throws base::ErroreIndice if a table has more rows than the project holds
-bool riprendiMaschera(const Maschere& maschere, NumeroMaschera numero, DatiProgetto& dati,
+bool riprendiMaschera(const Maschere& maschere, NumeroMaschera numero, project::DatiProgetto& dati,
                       int& fase);
 
-}  // namespace korven::project
+}  // namespace korven::masks

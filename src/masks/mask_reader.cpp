@@ -10,7 +10,7 @@
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
 
-namespace korven::project {
+namespace korven::masks {
 
 namespace {
 
@@ -160,4 +160,4 @@ Maschera leggiMaschera(const std::string& percorso) {
     return leggiMaschera(file);
 }
 
-}  // namespace korven::project
+}  // namespace korven::masks

@@ -19,7 +19,7 @@
 //     captions             values
 //     MN=n                 line, may be missing: entry of the help context table
 
-namespace korven::project {
+namespace korven::masks {
 
 /// Reads a mask. Its texts pass through `traduttore`; of a label only what stands before "[", so
 /// that units stay as they are. A "§" before a label marks the field as read-only and is not shown.
@@ -33,4 +33,4 @@ namespace korven::project {
 /// @throws base::ErroreFile also if it is missing or not readable
 [[nodiscard]] Maschera leggiMaschera(const std::string& percorso);
 
-}  // namespace korven::project
+}  // namespace korven::masks

@@ -9,7 +9,7 @@
 #include "base/translated_texts.hpp"
 #include "masks/mask_reader.hpp"
 
-namespace korven::project {
+namespace korven::masks {
 
 namespace {
 
@@ -110,4 +110,4 @@ void Maschere::rilasciaForm() {
     capacita_ = capacitaDopoLaPrima;
 }
 
-}  // namespace korven::project
+}  // namespace korven::masks

@@ -7,7 +7,7 @@
 
 #include "masks/mask.hpp"
 
-namespace korven::project {
+namespace korven::masks {
 
 /// The masks of the program, in the order of their numbers.
 enum class NumeroMaschera { titoli = 1, paratia, strati, tiranti, fasi };
@@ -80,4 +80,4 @@ class Maschere {
     std::size_t capacita_ = 1000;
 };
 
-}  // namespace korven::project
+}  // namespace korven::masks

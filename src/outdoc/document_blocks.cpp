@@ -8,10 +8,10 @@
 
 namespace korven::outdoc {
 
-using report::Alignment;
-using report::columnGap;
-using report::columnIndent;
-using report::ReportFont;
+using markup::Alignment;
+using markup::columnGap;
+using markup::columnIndent;
+using markup::ReportFont;
 
 namespace {
 
@@ -51,7 +51,7 @@ std::string cellWords(double width, bool underlined, const Paragraph& content) {
 
 }  // namespace
 
-std::vector<double> columnWidths(report::CellGrid& grid, const report::FittedTable& fitted,
+std::vector<double> columnWidths(markup::CellGrid& grid, const markup::FittedTable& fitted,
                                  const ReportFont& font, double textWidth) {
     ReportFont bold = font;
     bold.bold = true;
@@ -59,7 +59,7 @@ std::vector<double> columnWidths(report::CellGrid& grid, const report::FittedTab
     double total = 0;
     for (int column = 1; column <= grid.columns(); ++column) {
         const double plain = fitted.widths[static_cast<std::size_t>(column - 1)];
-        const double head = report::estimatedWidth(bold, grid.cell(1, column));
+        const double head = markup::estimatedWidth(bold, grid.cell(1, column));
         widths.push_back(std::max(plain, head) + columnGap + spare);
         total += widths.back();
     }
@@ -68,7 +68,7 @@ std::vector<double> columnWidths(report::CellGrid& grid, const report::FittedTab
     return widths;
 }
 
-std::string tableWords(report::CellGrid& grid, const std::vector<double>& widths,
+std::string tableWords(markup::CellGrid& grid, const std::vector<double>& widths,
                        Alignment alignment, std::string_view columnStyle, const ReportFont& font,
                        int keptRows) {
     std::string words = tableHead(widths, alignment);
@@ -82,7 +82,7 @@ std::string tableWords(report::CellGrid& grid, const std::vector<double>& widths
             content.font = font;
             content.font.bold = head;
             content.keepWithNext = (head && !last) || row <= keptRows;
-            if (report::rightAligned(columnStyle, column)) content.alignment = Alignment::right;
+            if (markup::rightAligned(columnStyle, column)) content.alignment = Alignment::right;
             content.runs = run(content.font, grid.cell(row, column));
             words += cellWords(widths[static_cast<std::size_t>(column - 1)], head || last, content);
         }
@@ -93,13 +93,13 @@ std::string tableWords(report::CellGrid& grid, const std::vector<double>& widths
 
 double lineHeight(const ReportFont& font) {
     constexpr double linePerSize = 1.15;
-    return linePerSize * (font.size > 0 ? font.size : report::defaultFontSize);
+    return linePerSize * (font.size > 0 ? font.size : markup::defaultFontSize);
 }
 
 double rowHeight(const ReportFont& font) { return lineHeight(font) + 2 * cellRoom; }
 
-Paragraph listRow(const report::FittedTable& fitted, Alignment alignment, double textWidth) {
-    const double start = std::max(0.0, report::alignedX(alignment, {0, textWidth}, fitted.total));
+Paragraph listRow(const markup::FittedTable& fitted, Alignment alignment, double textWidth) {
+    const double start = std::max(0.0, markup::alignedX(alignment, {0, textWidth}, fitted.total));
     Paragraph row;
     row.indent = start + columnIndent;
     double cursor = start;

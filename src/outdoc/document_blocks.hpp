@@ -15,27 +15,27 @@ namespace korven::outdoc {
 /// Widths of the columns of a table [points]: as in print, wider where the bold head needs it,
 /// since a word processor would break its text. A table wider than the page is brought to its width
 /// in proportion.
-[[nodiscard]] std::vector<double> columnWidths(report::CellGrid& grid,
-                                               const report::FittedTable& fitted,
-                                               const report::ReportFont& font, double textWidth);
+[[nodiscard]] std::vector<double> columnWidths(markup::CellGrid& grid,
+                                               const markup::FittedTable& fitted,
+                                               const markup::ReportFont& font, double textWidth);
 
 /// A whole table. Its first row is bold and is repeated on every page that the table reaches; thin
 /// lines part it from the others and close the table.
 /// @param keptRows  rows from the first that stay on the page of the row, or of the paragraph,
 ///                  behind them; the head does in any case
 /// @pre the grid holds at least one row
-[[nodiscard]] std::string tableWords(report::CellGrid& grid, const std::vector<double>& widths,
-                                     report::Alignment alignment, std::string_view columnStyle,
-                                     const report::ReportFont& font, int keptRows = 0);
+[[nodiscard]] std::string tableWords(markup::CellGrid& grid, const std::vector<double>& widths,
+                                     markup::Alignment alignment, std::string_view columnStyle,
+                                     const markup::ReportFont& font, int keptRows = 0);
 
 /// Height of a line of text in a word processor, about [points].
-[[nodiscard]] double lineHeight(const report::ReportFont& font);
+[[nodiscard]] double lineHeight(const markup::ReportFont& font);
 /// Height of a row of a table, about [points].
-[[nodiscard]] double rowHeight(const report::ReportFont& font);
+[[nodiscard]] double rowHeight(const markup::ReportFont& font);
 
 /// A row of a list before its text: indent and tab stops for right aligned columns, the first of
 /// them behind a dotted leader.
-[[nodiscard]] Paragraph listRow(const report::FittedTable& fitted, report::Alignment alignment,
+[[nodiscard]] Paragraph listRow(const markup::FittedTable& fitted, markup::Alignment alignment,
                                 double textWidth);
 
 }  // namespace korven::outdoc

@@ -8,10 +8,10 @@ namespace korven::outdoc {
 
 namespace {
 
-constexpr double paperWidth = 21.0 * report::pointsPerCentimetre;
-constexpr double paperHeight = 29.7 * report::pointsPerCentimetre;
-constexpr double usualMargin = 2 * report::pointsPerCentimetre;
-constexpr double leastText = 4 * report::pointsPerCentimetre;
+constexpr double paperWidth = 21.0 * markup::pointsPerCentimetre;
+constexpr double paperHeight = 29.7 * markup::pointsPerCentimetre;
+constexpr double usualMargin = 2 * markup::pointsPerCentimetre;
+constexpr double leastText = 4 * markup::pointsPerCentimetre;
 constexpr double lineHeight = 1.2;  // of the font size
 
 void leaveRoom(double& one, double& other, double length) {
@@ -42,7 +42,7 @@ std::string DocumentPage::words() const {
 
 DocumentPage documentPage(std::string_view resetArgument) {
     DocumentPage page;
-    page.layout = report::parseReset(resetArgument);
+    page.layout = markup::parseReset(resetArgument);
     page.headerFont = {page.layout.headerFontName, page.layout.headerFontSize, false, false};
     leaveRoom(page.layout.leftMargin, page.layout.rightMargin, paperWidth);
     page.layout.topMargin = std::max(page.layout.topMargin, 0.0);

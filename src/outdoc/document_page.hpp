@@ -10,8 +10,8 @@ namespace korven::outdoc {
 
 /// The page of a document: A4, with the margins that the mark-up asks for.
 struct DocumentPage {
-    report::ResetArguments layout;
-    report::ReportFont headerFont;  ///< of header and footer
+    markup::ResetArguments layout;
+    markup::ReportFont headerFont;  ///< of header and footer
 
     /// Width between the margins [points].
     [[nodiscard]] double textWidth() const;

@@ -16,10 +16,10 @@
 
 namespace korven::outdoc {
 
-using report::Alignment;
-using report::BlockKind;
-using report::FittedTable;
-using report::ScanState;
+using markup::Alignment;
+using markup::BlockKind;
+using markup::FittedTable;
+using markup::ScanState;
 
 namespace {
 
@@ -96,7 +96,7 @@ void DocumentRenderer::newPage(ScanState&) {
 }
 
 void DocumentRenderer::newParagraph(ScanState&, double centimetres) {
-    together_ = std::min(centimetres * report::pointsPerCentimetre, mostTogether);
+    together_ = std::min(centimetres * markup::pointsPerCentimetre, mostTogether);
 }
 
 // Rows that do not yet fill the height to be kept.
@@ -152,8 +152,8 @@ void DocumentRenderer::emptyParagraph() {
 
 FittedTable DocumentRenderer::fit(const ScanState& state, BlockKind kind) {
     grid_.fill(state);
-    return report::fitColumns(
-        grid_, kind, [this](std::string_view text) { return report::estimatedWidth(body_, text); });
+    return markup::fitColumns(
+        grid_, kind, [this](std::string_view text) { return markup::estimatedWidth(body_, text); });
 }
 
 Paragraph DocumentRenderer::inHeaderFont(Alignment alignment) const {
@@ -166,11 +166,11 @@ Paragraph DocumentRenderer::inHeaderFont(Alignment alignment) const {
 // The text of the footer in the middle, the page number at its right end, on a line of its own if
 // the text needs the whole width.
 std::string DocumentRenderer::footerLines(std::string_view text) const {
-    const report::ReportFont& font = parts_.page.headerFont;
+    const markup::ReportFont& font = parts_.page.headerFont;
     const double width = parts_.page.textWidth();
     const std::string number =
         pageField(font, "PAGE") + run(font, " / ") + pageField(font, "NUMPAGES");
-    if ((width - report::estimatedWidth(font, text)) / 2 < pageNumberRoom) {
+    if ((width - markup::estimatedWidth(font, text)) / 2 < pageNumberRoom) {
         Paragraph notice = inHeaderFont(Alignment::centre);
         notice.runs = run(font, text);
         Paragraph below = inHeaderFont(Alignment::right);
@@ -190,7 +190,7 @@ Converted convertReport(const std::string& markup) {
         throw base::ErroreFile(
             path, 0, base::traduttore("la scrittura prenderebbe il posto di un file letto"));
     DocumentRenderer renderer;
-    report::renderMarkup(file, report::RendererKind::print, renderer);
+    markup::renderMarkup(file, markup::RendererKind::print, renderer);
     const auto bytes = renderer.bytes();
     if (!bytes)
         throw base::ErroreFile(markup, 0,

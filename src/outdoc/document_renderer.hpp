@@ -22,35 +22,35 @@ namespace korven::outdoc {
 /// How much of a page is left only the word processor knows, so #NEWPARAGRAPH keeps what follows
 /// it, up to the height that it names, together on one page. Header and footer are those of the
 /// whole document: the header at its first line, the footer at its end.
-class DocumentRenderer : public report::MarkupReceiver {
+class DocumentRenderer : public markup::MarkupReceiver {
  public:
-    void open(report::ScanState& state, std::string_view argument) override;
-    void textLine(report::ScanState& state, std::string_view text) override;
-    void table(report::ScanState& state) override;
-    void list(report::ScanState& state) override;
-    void close(report::ScanState& state) override;
+    void open(markup::ScanState& state, std::string_view argument) override;
+    void textLine(markup::ScanState& state, std::string_view text) override;
+    void table(markup::ScanState& state) override;
+    void list(markup::ScanState& state) override;
+    void close(markup::ScanState& state) override;
     void font(std::string_view name) override { body_.name = name; }
     void fontSize(double points) override { body_.size = points; }
     void fontItalic(bool on) override { body_.italic = on; }
-    void newPage(report::ScanState&) override;
-    void newParagraph(report::ScanState& state, double centimetres) override;
+    void newPage(markup::ScanState&) override;
+    void newParagraph(markup::ScanState& state, double centimetres) override;
 
     /// The bytes of the file; nothing when no document was opened.
     [[nodiscard]] std::optional<std::string> bytes() const;
 
  private:
-    void headerIfDue(report::ScanState& state);
+    void headerIfDue(markup::ScanState& state);
     [[nodiscard]] Paragraph inBodyFont();
     void add(Paragraph content);
     void emptyParagraph();
     [[nodiscard]] int rowsTogether() const;
-    [[nodiscard]] report::FittedTable fit(const report::ScanState& state, report::BlockKind kind);
-    [[nodiscard]] Paragraph inHeaderFont(report::Alignment alignment) const;
+    [[nodiscard]] markup::FittedTable fit(const markup::ScanState& state, markup::BlockKind kind);
+    [[nodiscard]] Paragraph inHeaderFont(markup::Alignment alignment) const;
     [[nodiscard]] std::string footerLines(std::string_view text) const;
 
     DocumentParts parts_;
-    report::ReportFont body_;
-    report::CellGrid grid_;
+    markup::ReportFont body_;
+    markup::CellGrid grid_;
     double together_ = 0;  ///< height of what must still begin on the page reached [points]
     bool opened_ = false;
     bool breakDue_ = false;

@@ -5,8 +5,8 @@
 
 namespace korven::outdoc {
 
-using report::Alignment;
-using report::ReportFont;
+using markup::Alignment;
+using markup::ReportFont;
 
 namespace {
 
@@ -18,8 +18,8 @@ constexpr double largestSize = 1638;
 // No spelling marks: most of a report is numbers, units and names.
 std::string fontProperties(const ReportFont& font) {
     const double size =
-        font.size > 0 ? std::clamp(font.size, smallestSize, largestSize) : report::defaultFontSize;
-    const std::string name = xmlText(font.name.empty() ? report::defaultFontName : font.name);
+        font.size > 0 ? std::clamp(font.size, smallestSize, largestSize) : markup::defaultFontSize;
+    const std::string name = xmlText(font.name.empty() ? markup::defaultFontName : font.name);
     const std::string halves = std::to_string(std::lround(2 * size));
     return "<w:rPr><w:rFonts w:ascii=\"" + name + "\" w:hAnsi=\"" + name + "\" w:cs=\"" + name +
            "\"/>" + (font.bold ? "<w:b/>" : "") + (font.italic ? "<w:i/>" : "") +

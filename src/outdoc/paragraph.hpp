@@ -21,10 +21,10 @@ namespace korven::outdoc {
 
 /// Text that looks alike throughout; its tabs go to the next tab stop. An empty font name is the
 /// program's own, Arial, and a size of 0 or less, which no word processor knows, 10 points.
-[[nodiscard]] std::string run(const report::ReportFont& font, std::string_view text);
+[[nodiscard]] std::string run(const markup::ReportFont& font, std::string_view text);
 
 /// The number of the page, or of all pages.
-[[nodiscard]] std::string pageField(const report::ReportFont& font, std::string_view instruction);
+[[nodiscard]] std::string pageField(const markup::ReportFont& font, std::string_view instruction);
 
 struct TabStop {
     double position = 0;  ///< [points] from the margin
@@ -33,13 +33,13 @@ struct TabStop {
 };
 
 struct Paragraph {
-    report::Alignment alignment = report::Alignment::left;
+    markup::Alignment alignment = markup::Alignment::left;
     std::string_view style;  ///< id of a style of the document; empty: none
     bool keepWithNext = false;
     bool pageBreakBefore = false;
     double indent = 0;  ///< [points]
     std::vector<TabStop> tabs;
-    report::ReportFont font;  ///< of its end, which gives an empty paragraph its height
+    markup::ReportFont font;  ///< of its end, which gives an empty paragraph its height
     std::string runs;
 };
 

@@ -7,7 +7,7 @@
 #include "base/file_identity.hpp"
 #include "base/translated_texts.hpp"
 
-namespace korven::analysis {
+namespace korven::project {
 
 ProgettiProtetti progettiProtetti;
 
@@ -49,4 +49,4 @@ std::string motivoNome(const std::string& progetto) {
            "nome da esso.";
 }
 
-}  // namespace korven::analysis
+}  // namespace korven::project

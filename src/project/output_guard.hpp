@@ -7,7 +7,7 @@
 // another folder may lead an output to the project itself. Every output asks here before it is
 // begun.
 
-namespace korven::analysis {
+namespace korven::project {
 
 /// The projects that no output may replace; empty names protect nothing.
 struct ProgettiProtetti {
@@ -39,4 +39,4 @@ void controllaCoppia(const std::string& percorso, const std::string& altro);
 /// the rule that replaces the last three.
 [[nodiscard]] std::string motivoNome(const std::string& progetto);
 
-}  // namespace korven::analysis
+}  // namespace korven::project

@@ -16,7 +16,7 @@ namespace {
 // While a report is written `fileCorrente` names the result file; the run that asked for it knows
 // the project.
 std::string nomeProgetto() {
-    const std::string& corrente = analysis::progettiProtetti.corrente;
+    const std::string& corrente = project::progettiProtetti.corrente;
     return std::filesystem::path(corrente.empty() ? project::fileCorrente : corrente)
         .filename()
         .string();
@@ -24,7 +24,7 @@ std::string nomeProgetto() {
 
 }  // namespace
 
-std::string testoRelazione(const DatiRelazione& dati, const std::string& nomeProgetto) {
+std::string testoRelazione(const results::DatiRelazione& dati, const std::string& nomeProgetto) {
     RigheRelazione righe;
     sezioneApertura(dati.progetto, testoPiede({nomeProgetto, dati.metodoUsato, dati.nNodi - 1}),
                     righe);
@@ -37,8 +37,9 @@ std::string testoRelazione(const DatiRelazione& dati, const std::string& nomePro
 
 std::string scriviRelazione() {
     std::string percorso = base::nomeRelazione(project::fileCorrente);
-    analysis::controllaUscita(percorso, project::fileCorrente);
-    const DatiRelazione dati = leggiRisultati(project::fileCorrente, project::Progetto);
+    project::controllaUscita(percorso, project::fileCorrente);
+    const results::DatiRelazione dati =
+        results::leggiRisultati(project::fileCorrente, project::Progetto);
     base::scriviFile(percorso, base::inCp1252(testoRelazione(dati, nomeProgetto())));
     return percorso;
 }

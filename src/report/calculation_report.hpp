@@ -10,7 +10,7 @@ namespace korven::report {
 /// @param nomeProgetto  the project file's own name, for the foot of the pages
 /// @throws ErroreValore if a value is too large to be shown
 /// @throws base::ErroreIndice if a stage asks for more anchors than the table holds
-[[nodiscard]] std::string testoRelazione(const DatiRelazione& dati,
+[[nodiscard]] std::string testoRelazione(const results::DatiRelazione& dati,
                                          const std::string& nomeProgetto);
 
 /// Writes the report of the result file that `fileCorrente` names, beside it, under the name that

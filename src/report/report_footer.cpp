@@ -17,7 +17,7 @@ namespace {
 using base::traduttore;
 
 constexpr double bordo =
-    0.4 * pointsPerCentimetre;  // left white between a footer and the page's end
+    0.4 * markup::pointsPerCentimetre;  // left white between a footer and the page's end
 
 constexpr std::string_view metodi[] = {"Coulomb", "Rankine", "Bell"};
 
@@ -65,23 +65,24 @@ std::string unite(std::initializer_list<std::string_view> parti) {
 class Misuratore {
  public:
     explicit Misuratore(const Foglio& foglio)
-        : pagina_{parseReset(paginaRelazione), usableLength(foglio.larghezza * pointsPerCentimetre),
-                  0} {}
+        : pagina_{markup::parseReset(paginaRelazione),
+                  markup::usableLength(foglio.larghezza * markup::pointsPerCentimetre), 0} {}
 
     [[nodiscard]] bool traIMargini(std::string_view riga) const {
         return larghezza(riga) <= pagina_.room().width;
     }
     [[nodiscard]] bool sullaPagina(std::string_view riga) const {
         const double w = larghezza(riga);
-        const double x = alignedX(Alignment::centre, pagina_.room(), w);
+        const double x = markup::alignedX(markup::Alignment::centre, pagina_.room(), w);
         return x >= bordo && x + w <= pagina_.width - bordo;
     }
 
  private:
     [[nodiscard]] double larghezza(std::string_view riga) const {
-        return estimatedWidth({pagina_.layout.headerFontName, pagina_.layout.headerFontSize}, riga);
+        return markup::estimatedWidth(
+            {pagina_.layout.headerFontName, pagina_.layout.headerFontSize}, riga);
     }
-    ReportPage pagina_;
+    markup::ReportPage pagina_;
 };
 
 }  // namespace

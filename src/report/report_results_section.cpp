@@ -6,7 +6,7 @@ namespace korven::report {
 
 namespace {
 
-void fase(const DatiRelazione& dati, int s, RigheRelazione& righe) {
+void fase(const results::DatiRelazione& dati, int s, RigheRelazione& righe) {
     righe.riga(base::traduttore("RISULTATI FASE") + ' ' + std::to_string(s));
     righe.riga("#STARTTABLE");
     righe.intestazione({"Profondità [m]", "Spostamento [cm]", "Momento [kN m]"});
@@ -18,7 +18,7 @@ void fase(const DatiRelazione& dati, int s, RigheRelazione& righe) {
     righe.vuota();
 }
 
-void tiranti(const DatiRelazione& dati, RigheRelazione& righe) {
+void tiranti(const results::DatiRelazione& dati, RigheRelazione& righe) {
     const int inOpera = analysis::tirantiInOpera(dati.progetto, dati.progetto.nFasi);
     if (inOpera <= 0) return;
     righe.titolo("MASSIME TENSIONI APPLICATE AI TIRANTI");
@@ -33,7 +33,7 @@ void tiranti(const DatiRelazione& dati, RigheRelazione& righe) {
 
 }  // namespace
 
-void sezioneRisultati(const DatiRelazione& dati, RigheRelazione& righe) {
+void sezioneRisultati(const results::DatiRelazione& dati, RigheRelazione& righe) {
     for (int s = 1; s <= dati.progetto.nFasi; ++s) fase(dati, s, righe);
     tiranti(dati, righe);
 }

@@ -19,9 +19,9 @@ void sezioneApertura(const project::DatiProgetto& progetto, std::string_view pie
 void sezioneDati(const project::DatiProgetto& progetto, RigheRelazione& righe);
 
 /// A table of displacements and moments for each stage, then the anchor forces of the last one.
-void sezioneRisultati(const DatiRelazione& dati, RigheRelazione& righe);
+void sezioneRisultati(const results::DatiRelazione& dati, RigheRelazione& righe);
 
 /// The structural section with its bending and shear checks; nothing unless the section is defined.
-void sezioneStrutturale(const DatiRelazione& dati, RigheRelazione& righe);
+void sezioneStrutturale(const results::DatiRelazione& dati, RigheRelazione& righe);
 
 }  // namespace korven::report

@@ -92,7 +92,7 @@ void materiali(const Sezione& s, RigheRelazione& righe) {
              righe);
 }
 
-void flessione(const ConfrontoMomenti& c, RigheRelazione& righe) {
+void flessione(const results::ConfrontoMomenti& c, RigheRelazione& righe) {
     conLista("VERIFICA DEI MOMENTI FLETTENTI",
              {{"Momento resistente di calcolo (pos.) [kN m]", c.mrPos * 10},
               {"Momento resistente di calcolo (neg.) [kN m]", c.mrNeg * 10, c.negativo},
@@ -102,8 +102,8 @@ void flessione(const ConfrontoMomenti& c, RigheRelazione& righe) {
               {"Momento massimo di calcolo applicato (pos) [kN m]", c.mdMax * 10},
               {"Momento massimo di calcolo applicato (neg) [kN m]", c.mdMin * 10, c.negativo}},
              righe);
-    righe.titolo(sentenza(true, c.verificatoPos));
-    if (c.negativo) righe.titolo(sentenza(false, c.verificatoNeg));
+    righe.titolo(results::sentenza(true, c.verificatoPos));
+    if (c.negativo) righe.titolo(results::sentenza(false, c.verificatoNeg));
 }
 
 void taglio(const Sezione& s, const structure::ConfrontoTaglio& confronto, RigheRelazione& righe) {
@@ -121,14 +121,14 @@ void taglio(const Sezione& s, const structure::ConfrontoTaglio& confronto, Righe
 
 }  // namespace
 
-void sezioneStrutturale(const DatiRelazione& dati, RigheRelazione& righe) {
+void sezioneStrutturale(const results::DatiRelazione& dati, RigheRelazione& righe) {
     const Sezione& s = dati.progetto.sezione;
-    const auto momenti = verificaMomenti(dati);
+    const auto momenti = results::verificaMomenti(dati);
     if (!momenti) return;
     descrizione(s, righe);
     materiali(s, righe);
     flessione(*momenti, righe);
-    if (const auto confronto = verificaAlTaglio(dati)) taglio(s, *confronto, righe);
+    if (const auto confronto = results::verificaAlTaglio(dati)) taglio(s, *confronto, righe);
 }
 
 }  // namespace korven::report

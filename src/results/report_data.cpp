@@ -11,7 +11,7 @@
 #include "base/program_folder.hpp"
 #include "base/translated_texts.hpp"
 
-namespace korven::report {
+namespace korven::results {
 
 namespace {
 
@@ -62,8 +62,8 @@ class StoriaTiranti {
 AzioniFase azioniFase(const DatiRelazione& dati, int s, const StoriaTiranti& tiranti) {
     const analysis::RisultatiFase& fase = dati.fasi[static_cast<std::size_t>(s - 1)];
     AzioniFase azioni{tiranti.inOpera(s), tiranti.yTirante, fase.taglioNodo, {}};
-    azioni.estremi = analysis::estremiTaglio(dati.progetto, azioni.nTiranti, azioni.yTirante,
-                                             dati.nNodi, dati.passo, fase.yNodo, azioni.taglioNodo);
+    azioni.estremi = results::estremiTaglio(dati.progetto, azioni.nTiranti, azioni.yTirante,
+                                            dati.nNodi, dati.passo, fase.yNodo, azioni.taglioNodo);
     return azioni;
 }
 
@@ -90,7 +90,7 @@ DatiRelazione leggiRisultati(const std::string& percorso, DatiProgetto& memoria)
         tiranti.entra(s);
         tiranti.aggiorna(s);
         dati.azioni.push_back(azioniFase(dati, s, tiranti));
-        dati.Vmax = analysis::massimoAssoluto(dati.azioni.back().estremi);
+        dati.Vmax = results::massimoAssoluto(dati.azioni.back().estremi);
     }
     dati.chiusura = file.leggiChiusura();
     dati.progetto.faldaValle = memoria.faldaValle;
@@ -98,4 +98,4 @@ DatiRelazione leggiRisultati(const std::string& percorso, DatiProgetto& memoria)
     return dati;
 }
 
-}  // namespace korven::report
+}  // namespace korven::results

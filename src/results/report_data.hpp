@@ -7,7 +7,7 @@
 #include "project/project_data.hpp"
 #include "results/shear_extremes.hpp"
 
-namespace korven::report {
+namespace korven::results {
 
 /// What the anchors and the shear of a stage come to, worked out from the stored results.
 struct AzioniFase {
@@ -16,7 +16,7 @@ struct AzioniFase {
     base::Tabella<double, project::massimoTiranti> yTirante;
     /// Shear along the wall [t/m]; at each anchor the value just below it.
     analysis::VettoreNodi taglioNodo;
-    analysis::EstremiTaglio estremi{};
+    results::EstremiTaglio estremi{};
 };
 
 /// All that a report or a diagram shows: a project and the results of its stages.
@@ -55,4 +55,4 @@ struct DatiRelazione {
 [[nodiscard]] DatiRelazione leggiRisultati(const std::string& percorso,
                                            project::DatiProgetto& memoria);
 
-}  // namespace korven::report
+}  // namespace korven::results

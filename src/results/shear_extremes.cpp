@@ -5,16 +5,16 @@
 
 #include "analysis/wall_mesh.hpp"
 
-namespace korven::analysis {
+namespace korven::results {
 
 namespace {
 
-double valore(const VettoreNodi& taglioNodo, int i, int nNodi) {
+double valore(const analysis::VettoreNodi& taglioNodo, int i, int nNodi) {
     return i <= nNodi ? taglioNodo[i] : 0;
 }
 
-void estrapolaAlTirante(double prof, double passo, int nNodi, VettoreNodi& taglioNodo) {
-    const int a = nodoTirante(prof, passo);
+void estrapolaAlTirante(double prof, double passo, int nNodi, analysis::VettoreNodi& taglioNodo) {
+    const int a = analysis::nodoTirante(prof, passo);
     if (a < 1 || a > nNodi) return;
     taglioNodo[a] = 2 * valore(taglioNodo, a + 1, nNodi) - valore(taglioNodo, a + 2, nNodi);
 }
@@ -32,17 +32,17 @@ double massimoAssoluto(const EstremiTaglio& estremi) {
 
 EstremiTaglio estremiTaglio(const project::DatiProgetto& dati, int nTirantiFase,
                             const base::Tabella<double, project::massimoTiranti>& yTirante,
-                            int nNodi, double passo, const VettoreNodi& yNodo,
-                            VettoreNodi& taglioNodo) {
+                            int nNodi, double passo, const analysis::VettoreNodi& yNodo,
+                            analysis::VettoreNodi& taglioNodo) {
     for (int j = 1; j <= nTirantiFase; ++j)
         if (dati.profTirante[j] != 0)
             estrapolaAlTirante(dati.profTirante[j], passo, nNodi, taglioNodo);
-    EstremiTaglio estremi{.vMin = oltreOgniValore, .vMax = -oltreOgniValore};
+    EstremiTaglio estremi{.vMin = analysis::oltreOgniValore, .vMax = -analysis::oltreOgniValore};
     for (int i = 1; i <= nNodi; ++i) {
         includi(estremi, taglioNodo[i]);
         for (int j = 1; j <= nTirantiFase; ++j) {
             // Exact: an anchor that falls between two nodes shows no step.
-            if (dati.profTirante[j] != zNodo(i, passo)) continue;
+            if (dati.profTirante[j] != analysis::zNodo(i, passo)) continue;
             const double tiro = dati.pretTirante[j] + dati.rigTirante[j] * (yNodo[i] - yTirante[j]);
             includi(estremi, taglioNodo[i] - tiro);
         }
@@ -50,4 +50,4 @@ EstremiTaglio estremiTaglio(const project::DatiProgetto& dati, int nTirantiFase,
     return estremi;
 }
 
-}  // namespace korven::analysis
+}  // namespace korven::results

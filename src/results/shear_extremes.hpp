@@ -3,7 +3,7 @@
 #include "analysis/node_vector.hpp"
 #include "project/project_data.hpp"
 
-namespace korven::analysis {
+namespace korven::results {
 
 /// Smallest and largest shear of one stage [t/m].
 struct EstremiTaglio {
@@ -40,6 +40,6 @@ struct EstremiTaglio {
 [[nodiscard]] EstremiTaglio estremiTaglio(
     const project::DatiProgetto& dati, int nTirantiFase,
     const base::Tabella<double, project::massimoTiranti>& yTirante, int nNodi, double passo,
-    const VettoreNodi& yNodo, VettoreNodi& taglioNodo);
+    const analysis::VettoreNodi& yNodo, analysis::VettoreNodi& taglioNodo);
 
-}  // namespace korven::analysis
+}  // namespace korven::results

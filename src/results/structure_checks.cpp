@@ -2,7 +2,7 @@
 
 #include "structure/section_validity.hpp"
 
-namespace korven::report {
+namespace korven::results {
 
 namespace {
 
@@ -57,4 +57,4 @@ std::vector<std::string_view> verificheFallite(const DatiRelazione& dati) {
     return fallite;
 }
 
-}  // namespace korven::report
+}  // namespace korven::results

@@ -9,7 +9,7 @@
 
 // The verdicts of the structural section, for the report and for everybody else who tells them.
 
-namespace korven::report {
+namespace korven::results {
 
 /// The bending check of one metre of wall; moments in t m, signed.
 struct ConfrontoMomenti {
@@ -41,4 +41,4 @@ struct ConfrontoMomenti {
 /// section is verified or not defined.
 [[nodiscard]] std::vector<std::string_view> verificheFallite(const DatiRelazione& dati);
 
-}  // namespace korven::report
+}  // namespace korven::results

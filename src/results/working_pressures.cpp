@@ -5,7 +5,7 @@
 #include "analysis/pressure_coefficients.hpp"
 #include "analysis/vertical_stress.hpp"
 
-namespace korven::report {
+namespace korven::results {
 
 Resistenza resistenzaNodo(const project::DatiProgetto& dati, double z) {
     Resistenza terreno;
@@ -30,4 +30,4 @@ PressioniNodo pressioniNodo(const analysis::RisultatiFase& fase, int i, double m
     return p;
 }
 
-}  // namespace korven::report
+}  // namespace korven::results

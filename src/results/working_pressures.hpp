@@ -4,7 +4,7 @@
 #include "analysis/result_file.hpp"
 #include "project/project_data.hpp"
 
-namespace korven::report {
+namespace korven::results {
 
 /// Strength of the layer that a depth belongs to.
 struct Resistenza {
@@ -30,4 +30,4 @@ struct PressioniNodo {
 [[nodiscard]] PressioniNodo pressioniNodo(const analysis::RisultatiFase& fase, int i,
                                           double metodoSpinte, const Resistenza& terreno);
 
-}  // namespace korven::report
+}  // namespace korven::results

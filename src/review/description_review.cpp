@@ -6,14 +6,14 @@
 #include "plot/text_width.hpp"
 #include "review/review_list.hpp"
 
-namespace korven::commands {
+namespace korven::review {
 
 void controlloDescrizioni(const project::DatiProgetto& dati, ElencoRilievi& elenco) {
     if (!(dati.profStrato[dati.nStrati] > 0)) return;  // there is no log
     const plot::MetricaStimata metrica;
     try {
         const auto disposte =
-            report::disponiDescrizioni(dati, [&metrica](double altezza, std::string_view testo) {
+            drawings::disponiDescrizioni(dati, [&metrica](double altezza, std::string_view testo) {
                 return metrica.larghezza(plot::carattereConsegnato, altezza, testo);
             });
         const auto lunga = std::max_element(
@@ -32,4 +32,4 @@ void controlloDescrizioni(const project::DatiProgetto& dati, ElencoRilievi& elen
     }
 }
 
-}  // namespace korven::commands
+}  // namespace korven::review

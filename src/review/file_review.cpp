@@ -3,7 +3,7 @@
 #include "project/odd_lines.hpp"
 #include "review/project_review.hpp"
 
-namespace korven::commands {
+namespace korven::review {
 
 namespace {
 
@@ -39,4 +39,4 @@ std::vector<Rilievo> esaminaFile(const std::string& percorso, const project::Dat
     return rilievi;
 }
 
-}  // namespace korven::commands
+}  // namespace korven::review

@@ -11,7 +11,7 @@
 #include "plot/text_width.hpp"
 #include "review/review_list.hpp"
 
-namespace korven::commands {
+namespace korven::review {
 
 namespace {
 
@@ -29,14 +29,14 @@ bool sta(const plot::PostoTitolo& posto, double larghezzaFoglio, std::string_vie
 
 bool staOvunque(int riga, std::string_view testo) {
     return sta(plot::titoloFoglio(riga), plot::larghFoglio, testo) &&
-           sta(report::titoloStratigrafia(riga), report::larghezzaStratigrafia, testo);
+           sta(drawings::titoloStratigrafia(riga), drawings::larghezzaStratigrafia, testo);
 }
 
 bool siSovrappongono(std::size_t riga, const std::vector<std::string>& righe) {
     if (riga < 1 || riga >= std::min(righe.size(), titoli)) return false;
     if (vuota(righe[riga - 1]) || vuota(righe[riga])) return false;
-    const auto sopra = report::titoloStratigrafia(static_cast<int>(riga));
-    const auto sotto = report::titoloStratigrafia(static_cast<int>(riga) + 1);
+    const auto sopra = drawings::titoloStratigrafia(static_cast<int>(riga));
+    const auto sotto = drawings::titoloStratigrafia(static_cast<int>(riga) + 1);
     return sopra.y - sotto.y < sotto.altezza;
 }
 
@@ -44,8 +44,7 @@ bool siSovrappongono(std::size_t riga, const std::vector<std::string>& righe) {
 
 std::size_t caratteriNelFoglio(std::size_t riga, const std::string& testo) {
     std::size_t caratteri = base::numeroCaratteri(testo);
-    while (caratteri > 0 &&
-           !staOvunque(static_cast<int>(riga), project::tagliato(testo, caratteri)))
+    while (caratteri > 0 && !staOvunque(static_cast<int>(riga), masks::tagliato(testo, caratteri)))
         --caratteri;
     return caratteri;
 }
@@ -84,4 +83,4 @@ void controlloTitoli(const project::DatiProgetto& dati, ElencoRilievi& elenco) {
             elenco.avviso(traduttore("titolo") + " " + std::to_string(i) + ": " + stranezza);
 }
 
-}  // namespace korven::commands
+}  // namespace korven::review

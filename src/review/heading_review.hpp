@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-namespace korven::commands {
+namespace korven::review {
 
 /// How many characters of heading line `riga`, from 1 to 6, the sheets of all drawings hold; all of
 /// them if there is room. Measured in the typeface that the pens have as delivered.
@@ -21,4 +21,4 @@ namespace korven::commands {
 /// @param campo  of the form, from 0
 [[nodiscard]] std::string notaTitolo(std::size_t campo, const std::vector<std::string>& righe);
 
-}  // namespace korven::commands
+}  // namespace korven::review

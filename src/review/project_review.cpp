@@ -8,7 +8,7 @@
 #include "base/translated_texts.hpp"
 #include "review/review_list.hpp"
 
-namespace korven::commands {
+namespace korven::review {
 
 namespace {
 
@@ -77,4 +77,4 @@ bool calcolabile(const std::vector<Rilievo>& rilievi) {
                         [](const Rilievo& r) { return r.impedisce; });
 }
 
-}  // namespace korven::commands
+}  // namespace korven::review

@@ -6,7 +6,7 @@
 
 #include "project/project_data.hpp"
 
-namespace korven::commands {
+namespace korven::review {
 
 /// Something missing or odd about a project, in words.
 struct Rilievo {
@@ -40,4 +40,4 @@ struct Rilievo {
 /// True if nothing found prevents a run.
 [[nodiscard]] bool calcolabile(const std::vector<Rilievo>& rilievi);
 
-}  // namespace korven::commands
+}  // namespace korven::review

@@ -8,7 +8,7 @@
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
 
-namespace korven::commands {
+namespace korven::review {
 
 std::vector<Rilievo> ElencoRilievi::ordinato() {
     std::stable_partition(rilievi_.begin(), rilievi_.end(),
@@ -39,4 +39,4 @@ std::string rigaCampo(std::string_view nome, int numero, std::string_view etiche
 
 bool intero(double valore) { return valore == std::floor(valore); }
 
-}  // namespace korven::commands
+}  // namespace korven::review

@@ -9,7 +9,7 @@
 // The parts of a project's review: the list that its checks fill, and the checks by subject. A
 // field is called as its editor calls it and its value shown in the editor's unit.
 
-namespace korven::commands {
+namespace korven::review {
 
 class ElencoRilievi {
  public:
@@ -62,4 +62,4 @@ void controlloDescrizioni(const project::DatiProgetto& dati, ElencoRilievi& elen
 /// The stiffness and the structural section.
 void controlloSezione(const project::DatiProgetto& dati, ElencoRilievi& elenco);
 
-}  // namespace korven::commands
+}  // namespace korven::review

@@ -9,7 +9,7 @@
 #include "structure/section_validity.hpp"
 #include "structure/stiffness_update.hpp"
 
-namespace korven::commands {
+namespace korven::review {
 
 namespace {
 
@@ -179,4 +179,4 @@ void controlloSezione(const DatiProgetto& dati, ElencoRilievi& elenco) {
     controlloTaglio(dati, elenco);
 }
 
-}  // namespace korven::commands
+}  // namespace korven::review

@@ -4,7 +4,7 @@
 #include "review/review_list.hpp"
 #include "structure/section_type.hpp"
 
-namespace korven::commands {
+namespace korven::review {
 
 namespace {
 
@@ -122,4 +122,4 @@ bool mostrabile(const DatiProgetto& dati) {
     return elenco.ordinato().empty();
 }
 
-}  // namespace korven::commands
+}  // namespace korven::review

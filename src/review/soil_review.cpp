@@ -9,7 +9,7 @@
 #include "base/translated_texts.hpp"
 #include "review/review_list.hpp"
 
-namespace korven::commands {
+namespace korven::review {
 
 namespace {
 
@@ -168,4 +168,4 @@ void controlloSuolo(const DatiProgetto& scritti, int nSeg, ElencoRilievi& elenco
     }
 }
 
-}  // namespace korven::commands
+}  // namespace korven::review

@@ -1,7 +1,7 @@
 #include "base/translated_texts.hpp"
 #include "review/review_list.hpp"
 
-namespace korven::commands {
+namespace korven::review {
 
 namespace {
 
@@ -72,4 +72,4 @@ void controlloFasi(const DatiProgetto& dati, ElencoRilievi& elenco) {
     }
 }
 
-}  // namespace korven::commands
+}  // namespace korven::review

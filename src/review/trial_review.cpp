@@ -9,7 +9,7 @@
 #include "base/value_error.hpp"
 #include "review/project_review.hpp"
 
-namespace korven::commands {
+namespace korven::review {
 
 namespace {
 
@@ -38,7 +38,7 @@ std::optional<Rilievo> provaCalcolo(const project::DatiProgetto& dati, int maxIt
     if (!nSeg) return Rilievo{true, traduttore(analysis::motivoNSeg())};
     SenzaVista vista;
     const volatile std::sig_atomic_t interruzione = 0;
-    ControlloCorsa controllo(vista, maxIterazioni, interruzione);
+    analysis::ControlloCorsa controllo(vista, maxIterazioni, interruzione);
     const auto prova = analysis::provaFasi(dati, *nSeg, controllo);
     if (controllo.oltreLimite()) return Rilievo{true, inUnaRiga(controllo.motivo())};
     if (prova.faseSingolare > 0)
@@ -48,4 +48,4 @@ std::optional<Rilievo> provaCalcolo(const project::DatiProgetto& dati, int maxIt
     return {};
 }
 
-}  // namespace korven::commands
+}  // namespace korven::review

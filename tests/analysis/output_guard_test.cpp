@@ -19,7 +19,7 @@ using test::progettoSemplice;
 class ProgettoInPericolo : public ::testing::Test {
  protected:
     void SetUp() override { metti(banco.progetto(), "il progetto"); }
-    void TearDown() override { progettiProtetti = {}; }
+    void TearDown() override { project::progettiProtetti = {}; }
 
     // The run is refused with a message that names `file`; nothing is written, removed or asked.
     void aspettaRifiuto(const std::string& file, const std::string& progetto = {}) {
@@ -68,11 +68,11 @@ TEST_F(ProgettoInPericolo, IsNotReplacedByAnOutputThatIsToFollow) {
 }
 
 TEST_F(ProgettoInPericolo, IsSafeUnderTheNameItWasReadFromToo) {
-    progettiProtetti.letto = banco.cartella / "originale.kvd";
-    metti(progettiProtetti.letto, "originale");
-    fs::create_symlink(progettiProtetti.letto, banco.risultati());
-    aspettaRifiuto(banco.risultati(), progettiProtetti.letto);
-    EXPECT_EQ(contenuto(progettiProtetti.letto), "originale");
+    project::progettiProtetti.letto = banco.cartella / "originale.kvd";
+    metti(project::progettiProtetti.letto, "originale");
+    fs::create_symlink(project::progettiProtetti.letto, banco.risultati());
+    aspettaRifiuto(banco.risultati(), project::progettiProtetti.letto);
+    EXPECT_EQ(contenuto(project::progettiProtetti.letto), "originale");
 }
 
 // The rule that replaces the last three characters would reach into the folder's name.
@@ -112,8 +112,9 @@ TEST_F(ProgettoInPericolo, DoesNotStandInTheWayOfARunAfterOneWithoutAStiffness) 
 
 TEST_F(ProgettoInPericolo, IsProtectedNoMoreOnceTheRunIsOver) {
     banco.calcola();
-    EXPECT_TRUE(progettiProtetti.corrente.empty());
-    EXPECT_FALSE(prendeIlPostoDelProgetto(banco.progetto()));  // saving it is the user's right
+    EXPECT_TRUE(project::progettiProtetti.corrente.empty());
+    EXPECT_FALSE(
+        project::prendeIlPostoDelProgetto(banco.progetto()));  // saving it is the user's right
 }
 
 TEST_F(ProgettoInPericolo, IsKnownUnderAnyNameThatWillLeadToIt) {
@@ -125,8 +126,8 @@ TEST_F(ProgettoInPericolo, IsKnownUnderAnyNameThatWillLeadToIt) {
 
 TEST(ControllaUscita, RefusesTheProjectAndTheFileThatTheOutputIsMadeFrom) {
     const test::CartellaProvvisoria cartella;
-    progettiProtetti.letto = cartella / "muro.TAB";
-    metti(progettiProtetti.letto, "x");
+    project::progettiProtetti.letto = cartella / "muro.TAB";
+    metti(project::progettiProtetti.letto, "x");
     metti(cartella / "muro.OUT", "x");
     fs::create_symlink(cartella / "muro.OUT", cartella / "via.TAB");
     const std::string inizio = "la scrittura prenderebbe il posto di un ";
@@ -137,15 +138,15 @@ TEST(ControllaUscita, RefusesTheProjectAndTheFileThatTheOutputIsMadeFrom) {
         {"muro.OUT", altro + (cartella / "muro.OUT")}};
     for (const auto& [nome, motivo] : casi) {
         try {
-            controllaUscita(cartella / nome, cartella / "muro.OUT");
+            project::controllaUscita(cartella / nome, cartella / "muro.OUT");
             ADD_FAILURE() << nome;
         } catch (const base::ErroreFile& errore) {
             EXPECT_EQ(errore.percorso(), cartella / nome);
             EXPECT_EQ(errore.atteso(), motivo);
         }
     }
-    EXPECT_NO_THROW(controllaUscita(cartella / "altro.TAB", cartella / "muro.OUT"));
-    progettiProtetti = {};
+    EXPECT_NO_THROW(project::controllaUscita(cartella / "altro.TAB", cartella / "muro.OUT"));
+    project::progettiProtetti = {};
 }
 
 TEST(CalcoloParatia, RefusesAStageWithMoreAnchorsThanTheirTableHolds) {

@@ -177,10 +177,10 @@ TEST(TogliNonMostrabili, LeavesAProjectAndWhatAnotherRunIsAt) {
         guardia.togliNonMostrabili(risultati);
         EXPECT_TRUE(fs::exists(risultati));
     }
-    progettiProtetti.letto = risultati;
+    project::progettiProtetti.letto = risultati;
     guardia.togliNonMostrabili(risultati);
     EXPECT_TRUE(fs::exists(risultati));
-    progettiProtetti = {};
+    project::progettiProtetti = {};
     guardia.togliNonMostrabili(risultati);
     EXPECT_FALSE(fs::exists(risultati));
 }

@@ -60,10 +60,10 @@ TEST(RaccontaGuasto, GivesOneForAValueTooLargeToBeShownAndLeavesNoResultFile) {
     EXPECT_FALSE(base::esisteFile(cartella / "muro.OUT"));
 
     test::metti(cartella / "muro.OUT", "il progetto");
-    analysis::progettiProtetti.letto = cartella / "muro.OUT";
+    project::progettiProtetti.letto = cartella / "muro.OUT";
     (void)dopo(base::ErroreValore(), project::fileCorrente);
     EXPECT_TRUE(base::esisteFile(cartella / "muro.OUT"));
-    analysis::progettiProtetti = {};
+    project::progettiProtetti = {};
     project::fileCorrente.clear();
 }
 

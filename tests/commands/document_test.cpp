@@ -54,7 +54,7 @@ TEST_F(FileApri, ReadsAnExistingProject) {
     EXPECT_EQ(finestra.ultimoStato, "File letto: " + muro);
     EXPECT_EQ(qui(), fs::canonical(ambiente.lavori.percorso()).string());
     EXPECT_EQ(ricordata(), ambiente.lavori.percorso() + "\r\n");
-    EXPECT_TRUE(analysis::prendeIlPostoDelProgetto(muro));
+    EXPECT_TRUE(project::prendeIlPostoDelProgetto(muro));
 }
 
 TEST_F(FileApri, SweepsAwayWhatAKilledProgramLeftBesideTheProject) {
@@ -86,7 +86,7 @@ TEST_F(FileApri, ReplacesTheLastExtensionAloneAndFindsTheFileWhateverItsCase) {
     EXPECT_EQ(fileCorrente, ambiente.lavori / "A.OLD.kvd");
     EXPECT_EQ(Progetto, test::progettoSemplice());
     EXPECT_EQ(finestra.ultimoStato, "File letto: " + file);
-    EXPECT_TRUE(analysis::prendeIlPostoDelProgetto(file));
+    EXPECT_TRUE(project::prendeIlPostoDelProgetto(file));
 }
 
 TEST_F(FileApri, KeepsTheOpenProjectWhenNothingIsChosen) {
@@ -208,7 +208,7 @@ TEST_F(FileSalva, WritesUnderTheNameGiven) {
     EXPECT_EQ(finestra.ultimoTitolo, "KORVEN 32 - muro nuovo");
     EXPECT_EQ(finestra.ultimoStato, "File scritto: " + scritto);
     EXPECT_EQ(ricordata(), ambiente.lavori.percorso() + "\r\n");
-    EXPECT_TRUE(analysis::prendeIlPostoDelProgetto(scritto));
+    EXPECT_TRUE(project::prendeIlPostoDelProgetto(scritto));
     EXPECT_TRUE(dialogo.domande.empty());
 }
 

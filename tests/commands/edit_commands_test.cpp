@@ -20,14 +20,14 @@ class Edita : public ::testing::Test {
  protected:
     Edita() {
         maschere.leggiMaschere(test::maschereSemplici(cartella));
-        forme.maschera = [this](project::Maschere& tutte) { mostra(tutte); };
+        forme.maschera = [this](masks::Maschere& tutte) { mostra(tutte); };
         forme.sezione = [this] { ++sezioni; };
         Progetto = test::progettoSemplice();
         project::fileCorrente = "/lavori/muro.kvd";
     }
     void esegui(Comando comando) { edita(comando, dialogo, maschere, forme); }
     // The form: notes what it was given and hands back what the test says, choices kept.
-    void mostra(project::Maschere& tutte) {
+    void mostra(masks::Maschere& tutte) {
         titoli.push_back(tutte.corrente().titolo);
         const auto quanti = tutte.valoriCombo().size() + tutte.valoriTesto().size();
         mostrati.clear();
@@ -40,7 +40,7 @@ class Edita : public ::testing::Test {
     test::DialogoFinto dialogo;
     FormeProgramma forme;
     test::CartellaProvvisoria cartella;
-    project::Maschere maschere;
+    masks::Maschere maschere;
     std::vector<std::string> titoli;  // of the forms shown
     Testi mostrati;
     std::optional<Testi> confermati;
@@ -112,20 +112,20 @@ TEST_F(Edita, ShowsTheEighteenWallParametersInTheirOrder) {
 }
 
 TEST_F(Edita, CountsAConfirmedTableAsModifiedAndAnUnchangedFieldFormNot) {
-    const auto paratia = project::testiParatia(Progetto);
+    const auto paratia = masks::testiParatia(Progetto);
     confermati = Testi(paratia.begin() + 7, paratia.end());  // the seven choices stay apart
     esegui(Comando::editParatia);
     EXPECT_FALSE(modificato);
-    confermati = project::testiStrati(Progetto);
+    confermati = masks::testiStrati(Progetto);
     esegui(Comando::editStratigrafia);
     EXPECT_TRUE(modificato);
     EXPECT_EQ(Progetto, test::progettoSemplice());
 }
 
 TEST_F(Edita, TakesBackEveryShownTableUnchanged) {
-    confermati = project::testiTiranti(Progetto);
+    confermati = masks::testiTiranti(Progetto);
     esegui(Comando::editTiranti);
-    confermati = project::testiFasi(Progetto);
+    confermati = masks::testiFasi(Progetto);
     esegui(Comando::editFasi);
     EXPECT_EQ(Progetto, test::progettoSemplice());
 }

@@ -9,46 +9,47 @@ namespace korven::commands {
 namespace {
 
 TEST(VoceForma, IsThatOfTheMenuItemWhereOneOpensTheForm) {
-    EXPECT_EQ(voceForma("Editacfg"), voce(Comando::configura).aiuto);
-    EXPECT_EQ(voceForma("DefinEJ"), voce(Comando::editRigidezza).aiuto);
-    EXPECT_EQ(voceForma("Form1"), voce(Comando::stampaVideo).aiuto);
-    EXPECT_EQ(voceForma("apri"), voce(Comando::fileApri).aiuto);
-    EXPECT_EQ(voceForma("salva"), voce(Comando::fileSalva).aiuto);
+    EXPECT_EQ(help::voceForma("Editacfg"), voce(Comando::configura).aiuto);
+    EXPECT_EQ(help::voceForma("DefinEJ"), voce(Comando::editRigidezza).aiuto);
+    EXPECT_EQ(help::voceForma("Form1"), voce(Comando::stampaVideo).aiuto);
+    EXPECT_EQ(help::voceForma("apri"), voce(Comando::fileApri).aiuto);
+    EXPECT_EQ(help::voceForma("salva"), voce(Comando::fileSalva).aiuto);
 }
 
 TEST(VoceForma, IsOneOfItsOwnForOtherForms) {
-    EXPECT_EQ(voceForma("GRAFICA"), voceGrafica);
-    EXPECT_EQ(voceForma("TempCalc"), voceTempCalc);
-    for (const int propria : {voceGrafica, voceConfStampa, voceTempCalc, voceGuida, voceSelezling})
+    EXPECT_EQ(help::voceForma("GRAFICA"), help::voceGrafica);
+    EXPECT_EQ(help::voceForma("TempCalc"), help::voceTempCalc);
+    for (const int propria : {help::voceGrafica, help::voceConfStampa, help::voceTempCalc,
+                              help::voceGuida, help::voceSelezling})
         for (const auto& v : albero()) EXPECT_NE(v.aiuto, propria) << v.nome;
     // The item opens that very box.
     for (const auto& v : albero())
-        EXPECT_EQ(v.aiuto == voceInformazioni, v.comando == Comando::about) << v.nome;
+        EXPECT_EQ(v.aiuto == help::voceInformazioni, v.comando == Comando::about) << v.nome;
 }
 
 TEST(VoceForma, IsZeroForAnyOtherWindow) {
-    EXPECT_EQ(voceForma("menu1"), 0);
-    EXPECT_EQ(voceForma(""), 0);
+    EXPECT_EQ(help::voceForma("menu1"), 0);
+    EXPECT_EQ(help::voceForma(""), 0);
 }
 
 TEST(SenzaF1, HoldsForTheFieldFormAlone) {
-    EXPECT_TRUE(senzaF1("base1"));
-    EXPECT_TRUE(senzaF1("base1_6"));
-    EXPECT_FALSE(senzaF1("base2_32"));
-    EXPECT_FALSE(senzaF1(""));
+    EXPECT_TRUE(help::senzaF1("base1"));
+    EXPECT_TRUE(help::senzaF1("base1_6"));
+    EXPECT_FALSE(help::senzaF1("base2_32"));
+    EXPECT_FALSE(help::senzaF1(""));
 }
 
 TEST(AncoraCampo, LeavesTheNumberOfOneAmongEqualsOut) {
-    EXPECT_EQ(ancoraCampo("Option1_3"), "campoOption1");
-    EXPECT_EQ(ancoraCampo("Text25"), "campoText25");
-    EXPECT_EQ(ancoraCampo("4"), "campo4");
-    EXPECT_EQ(ancoraCampo(""), "");
-    EXPECT_EQ(ancoraCampo("_x"), "");
+    EXPECT_EQ(help::ancoraCampo("Option1_3"), "campoOption1");
+    EXPECT_EQ(help::ancoraCampo("Text25"), "campoText25");
+    EXPECT_EQ(help::ancoraCampo("4"), "campo4");
+    EXPECT_EQ(help::ancoraCampo(""), "");
+    EXPECT_EQ(help::ancoraCampo("_x"), "");
 }
 
 TEST(AncoraColonna, CountsTheRowNumbersAsTheFirstField) {
-    EXPECT_EQ(ancoraColonna(0), "campo2");
-    EXPECT_EQ(ancoraColonna(6), "campo8");
+    EXPECT_EQ(help::ancoraColonna(0), "campo2");
+    EXPECT_EQ(help::ancoraColonna(6), "campo8");
 }
 
 }  // namespace

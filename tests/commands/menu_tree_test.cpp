@@ -113,11 +113,11 @@ TEST(AlberoMenu, GivesEachItemItsCommand) {
 }
 
 TEST(ContestiAiuto, AreATableOfTwoHundredAndOneEntries) {
-    EXPECT_EQ(contestiAiuto().size(), 201u);
-    EXPECT_EQ(contestoAiuto(200), 200);
-    EXPECT_EQ(contestoAiuto(0), 0);
-    EXPECT_EQ(contestoAiuto(201), 0);
-    EXPECT_EQ(contestoAiuto(-1), 0);
+    EXPECT_EQ(help::contestiAiuto().size(), 201u);
+    EXPECT_EQ(help::contestoAiuto(200), 200);
+    EXPECT_EQ(help::contestoAiuto(0), 0);
+    EXPECT_EQ(help::contestoAiuto(201), 0);
+    EXPECT_EQ(help::contestoAiuto(-1), 0);
 }
 
 }  // namespace

@@ -124,7 +124,7 @@ class ProduciDisegni : public Produci {
     ProduciDisegni() {
         plot::scriviConfigurazione(ambiente.programma / "module06ita.cfg",
                                    test::configurazioneDiProva());
-        report::dimenticaCampiture();  // those of another test's folder
+        drawings::dimenticaCampiture();  // those of another test's folder
         plot::statoPlot = {};
     }
     ~ProduciDisegni() override { plot::statoPlot = {}; }
@@ -214,7 +214,7 @@ TEST_F(ProduciDisegni, TellOfALogThatFindsNoRoomAndGoOn) {
     std::filesystem::create_directory("Z:\\plttmp1.tmp");
     test::scriviLibreria(
         ambiente.programma,
-        {{5, {0.005, std::vector<report::TrattoCampitura>(4000, {0, 0, 0, 2}), "fitta"}}});
+        {{5, {0.005, std::vector<drawings::TrattoCampitura>(4000, {0, 0, 0, 2}), "fitta"}}});
     for (int i = 1; i <= Progetto.nStrati; ++i) Progetto.descrStrato[i] = "105 strato";
     esegui(Comando::graficaStratigrafia);
     ::unsetenv("windir");

@@ -12,7 +12,7 @@ class TitoloUscite : public testing::Test {
  protected:
     ~TitoloUscite() override {
         project::fileCorrente.clear();
-        analysis::progettiProtetti = {};
+        project::progettiProtetti = {};
     }
 };
 
@@ -23,7 +23,7 @@ TEST_F(TitoloUscite, NamesTheProjectWithoutItsFolder) {
 
 TEST_F(TitoloUscite, NamesTheProjectAlsoWhileARunLasts) {
     project::fileCorrente = "/lavori.2024/muro.OUT";
-    analysis::progettiProtetti.corrente = "/lavori.2024/muro.kvd";
+    project::progettiProtetti.corrente = "/lavori.2024/muro.kvd";
     EXPECT_EQ(titoloUscite(), "KORVEN 32 - muro.kvd");
 }
 

@@ -23,7 +23,7 @@ class ProgrammaTest : public ::testing::Test {
     test::DialogoFileFinto nomi;
     test::FinestraFinta finestra;
     test::AvanzamentoFinto avanzamento;
-    project::Maschere maschere;
+    masks::Maschere maschere;
 };
 
 TEST_F(ProgrammaTest, OpensTheHelpAtTheEntryOfEachHelpCommand) {
@@ -167,7 +167,7 @@ TEST_F(ProgrammaTest, SaysWhichCommandsHaveTheirForm) {
         EXPECT_EQ(senza.puo(comando), bastaASe) << voce(comando).nome;
     }
     FormeProgramma forme;
-    forme.maschera = [](project::Maschere&) {};
+    forme.maschera = [](masks::Maschere&) {};
     forme.sezione = forme.grafica = forme.editacfg = forme.impostaStampante =
         forme.sommario = [] {};
     forme.anteprima = forme.stampa = forme.esportaDoc = forme.esportaTxt =

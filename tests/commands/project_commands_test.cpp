@@ -101,9 +101,9 @@ TEST_F(Apri, NamesTheFolderForTheResultsAndKeepsTheNameButMakesNothing) {
 
 TEST_F(Apri, KeepsTheProjectSafeFromOutputs) {
     apriProgetto(progetto, cartella / "uscita");
-    EXPECT_TRUE(analysis::prendeIlPostoDelProgetto(progetto));
+    EXPECT_TRUE(project::prendeIlPostoDelProgetto(progetto));
     apriProgetto(progetto, "");
-    EXPECT_TRUE(analysis::prendeIlPostoDelProgetto(progetto));
+    EXPECT_TRUE(project::prendeIlPostoDelProgetto(progetto));
 }
 
 TEST_F(Apri, TellsAPathThatNamesNothing) {
@@ -264,9 +264,9 @@ TEST(ScriviTesto, NeverReplacesItsMarkUpOrTheProject) {
     EXPECT_THROW(scriviTesto(cartella / "muro.TAB"), base::ErroreFile);
     fs::remove(cartella / "muro.txt");
     test::metti(cartella / "muro.txt", "il progetto");
-    analysis::progettiProtetti.letto = cartella / "muro.txt";
+    project::progettiProtetti.letto = cartella / "muro.txt";
     EXPECT_THROW(scriviTesto(cartella / "muro.TAB"), base::ErroreFile);
-    analysis::progettiProtetti = {};
+    project::progettiProtetti = {};
     EXPECT_EQ(test::contenuto(cartella / "muro.txt"), "il progetto");
 }
 

@@ -31,7 +31,7 @@ class ReportExport : public testing::Test {
     ~ReportExport() override {
         ::unsetenv("windir");
         base::impostaCartellaProgramma({});
-        analysis::progettiProtetti = {};
+        project::progettiProtetti = {};
     }
 
     void exportTxt() { esportaTxt(report, ports); }
@@ -193,12 +193,12 @@ TEST_F(ReportExport, TellsOfATargetThatCantBeWrittenAndGoesOn) {
 
 TEST_F(ReportExport, NeverReplacesTheProject) {
     test::metti(txt, "progetto");
-    analysis::progettiProtetti = {.letto = txt, .corrente = {}};
+    project::progettiProtetti = {.letto = txt, .corrente = {}};
     dialog.risposta = base::Risposta::si;
     exportTxt();
     EXPECT_EQ(dialog.messaggi.size(), 1u);
     EXPECT_EQ(test::contenuto(txt), "progetto");
-    analysis::progettiProtetti.letto = doc;
+    project::progettiProtetti.letto = doc;
     test::metti(doc, "progetto");
     exportDoc();
     EXPECT_EQ(dialog.messaggi.size(), 2u);

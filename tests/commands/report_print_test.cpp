@@ -16,11 +16,11 @@ class Printer : public test::PageRecord {
         : record_(record), refuses_(refuses), loses_(loses) {}
     ~Printer() override { record_ = *this; }
     void startPage() override {
-        if (refuses_) throw report::PrinterError("Ufficio", 0, "senza carta");
+        if (refuses_) throw markup::PrinterError("Ufficio", 0, "senza carta");
         PageRecord::startPage();
     }
     void endJob() override {
-        if (loses_) throw report::PrinterError("Ufficio", 0, "sparita");
+        if (loses_) throw markup::PrinterError("Ufficio", 0, "sparita");
         PageRecord::endJob();
     }
 
@@ -35,7 +35,7 @@ class ReportPrint : public testing::Test {
     void print() {
         stampaRelazione(
             report,
-            [this]() -> std::unique_ptr<report::ReportPrinter> {
+            [this]() -> std::unique_ptr<markup::ReportPrinter> {
                 ++asked;
                 pointerWhenAsked = dialog.ultimoPuntatore;
                 if (noPrinter) return nullptr;

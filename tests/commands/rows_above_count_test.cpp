@@ -69,9 +69,9 @@ class RigheOltreIlConteggio : public test::ProvaStratigrafia {
             corri(tipo, diagramma);
             parti.push_back(test::disegnoComeTesto());
         }
-        report::disegnaStratigrafia(project::Progetto);
+        drawings::disegnaStratigrafia(project::Progetto);
         parti.push_back(test::disegnoComeTesto());
-        for (const auto& rilievo : esaminaProgetto(project::Progetto))
+        for (const auto& rilievo : review::esaminaProgetto(project::Progetto))
             parti.push_back(rilievo.testo);
         return parti;
     }
@@ -86,9 +86,9 @@ TEST_F(RigheOltreIlConteggio, ChangeNothingThatComesOutOfAProject) {
 
 TEST_F(RigheOltreIlConteggio, AreWhatATableTakenBackShorterLeaves) {
     DatiProgetto d = pulito();
-    project::riprendiTiranti(d, {"2", "1.5", "5000", "50", "0", "3", "8000", "100", "0"});
+    masks::riprendiTiranti(d, {"2", "1.5", "5000", "50", "0", "3", "8000", "100", "0"});
     const auto due = tuttoDi(d);
-    project::riprendiTiranti(d, {"1", "1.5", "5000", "50", "0"});
+    masks::riprendiTiranti(d, {"1", "1.5", "5000", "50", "0"});
     EXPECT_EQ(d.rigTirante[2], 800);  // the table keeps it
     EXPECT_EQ(tuttoDi(d), tuttoDi(pulito()));
     EXPECT_NE(due, tuttoDi(pulito()));

@@ -51,7 +51,7 @@ TEST_F(Avvio, ReadsTheProjectThatTheArgumentNames) {
     EXPECT_EQ(std::filesystem::current_path(),
               std::filesystem::canonical(ambiente.lavori.percorso()));
     EXPECT_FALSE(std::filesystem::exists(ambiente.programma / "path"));
-    EXPECT_TRUE(analysis::prendeIlPostoDelProgetto(muro));
+    EXPECT_TRUE(project::prendeIlPostoDelProgetto(muro));
 }
 
 TEST_F(Avvio, KeepsTheWayToARelativeNameWhenItChangesItsFolder) {
@@ -84,7 +84,7 @@ class DatiProgramma : public ::testing::Test {
         const auto scritte = test::maschereSemplici(ambiente.programma);
         for (std::size_t i = 0; i < scritte.size(); ++i)
             std::filesystem::rename(scritte[i],
-                                    ambiente.programma / std::string(project::fileMaschere[i]));
+                                    ambiente.programma / std::string(masks::fileMaschere[i]));
         plot::scriviConfigurazione(penne, test::configurazioneDiProva());
     }
     // What is told of the file that ends the program; nothing when all is well.
@@ -98,7 +98,7 @@ class DatiProgramma : public ::testing::Test {
     }
     test::AmbienteDocumento ambiente;
     const std::string penne = ambiente.programma / "module06ita.cfg";
-    project::Maschere maschere;
+    masks::Maschere maschere;
 };
 
 TEST_F(DatiProgramma, AreReadWhenTheyAreWhole) {

@@ -23,13 +23,13 @@ using Righe = std::vector<std::string>;
 
 class PagineRelazioneTest : public testing::Test {
  protected:
-    void stampa(report::ReportPrinter& carta, const Righe& righe) {
+    void stampa(markup::ReportPrinter& carta, const Righe& righe) {
         base::LettoreRighe file("r.TAB", test::markup(righe));
-        report::PrintRenderer renderer(carta);
-        report::renderMarkup(file, report::RendererKind::print, renderer);
+        markup::PrintRenderer renderer(carta);
+        markup::renderMarkup(file, markup::RendererKind::print, renderer);
         renderer.finish();
     }
-    std::unique_ptr<report::ReportPrinter> suPdf() {
+    std::unique_ptr<markup::ReportPrinter> suPdf() {
         return relazioneSuPdf(pdf, "Ponte über Fluß");
     }
 
@@ -102,7 +102,7 @@ TEST_F(PagineRelazioneTest, TellOfAFileThatCannotBeWritten) {
     try {
         stampa(*carta, relazione);
         FAIL();
-    } catch (const report::PrinterError& errore) {
+    } catch (const markup::PrinterError& errore) {
         EXPECT_EQ(errore.percorso(), cartella / "manca/muro.pdf");
     }
 }
@@ -110,9 +110,9 @@ TEST_F(PagineRelazioneTest, TellOfAFileThatCannotBeWritten) {
 TEST_F(PagineRelazioneTest, TellOfAPrinterThatIsNotThereOrTakesNoPage) {
     QPrinter stampante(QPrinter::HighResolution);
     stampante.setOutputFormat(QPrinter::PdfFormat);
-    EXPECT_THROW(stampa(*relazioneSuStampante(stampante, ""), relazione), report::PrinterError);
+    EXPECT_THROW(stampa(*relazioneSuStampante(stampante, ""), relazione), markup::PrinterError);
     stampante.setOutputFileName(QString::fromStdString(cartella / "manca/muro.pdf"));
-    EXPECT_THROW(stampa(*relazioneSuStampante(stampante, ""), relazione), report::PrinterError);
+    EXPECT_THROW(stampa(*relazioneSuStampante(stampante, ""), relazione), markup::PrinterError);
 }
 
 TEST_F(PagineRelazioneTest, TellOfAFileThatIsCutShort) {
@@ -120,17 +120,17 @@ TEST_F(PagineRelazioneTest, TellOfAFileThatIsCutShort) {
     stampante.setOutputFormat(QPrinter::PdfFormat);
     stampante.setOutputFileName(QString::fromStdString(pdf));
     const test::LimiteFile limite(1000);
-    EXPECT_THROW(stampa(*relazioneSuStampante(stampante, ""), relazione), report::PrinterError);
-    EXPECT_THROW(stampa(*suPdf(), relazione), report::PrinterError);
+    EXPECT_THROW(stampa(*relazioneSuStampante(stampante, ""), relazione), markup::PrinterError);
+    EXPECT_THROW(stampa(*suPdf(), relazione), markup::PrinterError);
 }
 
 TEST_F(PagineRelazioneTest, TellOfAPrinterThatTheSystemDoesNotKnow) {
     const std::string nome = "nessuna stampante ha questo nome";
-    EXPECT_THROW(controllaStampante(nome), report::PrinterError);
+    EXPECT_THROW(controllaStampante(nome), markup::PrinterError);
     try {
         static_cast<void>(relazioneSuStampante(nome, "prova"));
         FAIL();
-    } catch (const report::PrinterError& errore) {
+    } catch (const markup::PrinterError& errore) {
         EXPECT_EQ(errore.percorso(), nome);
         EXPECT_TRUE(errore.atteso().starts_with("stampante non trovata"));
     }

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace korven::report {
+namespace korven::drawings {
 namespace {
 
 void aspetta(const std::vector<double>& trovati, const std::vector<double>& attesi) {
@@ -48,4 +48,4 @@ TEST(DisponiBlocchi, TooManyBlocksLeaveAtTheTop) {
 }
 
 }  // namespace
-}  // namespace korven::report
+}  // namespace korven::drawings

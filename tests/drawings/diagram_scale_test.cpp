@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-namespace korven::report {
+namespace korven::drawings {
 namespace {
 
 TEST(PassoScala, IsTheFirstOfTheTableWhoseLimitTheValueStaysBelow) {
@@ -79,4 +79,4 @@ TEST(Tacche, AreNoneOnAnAxisWhoseEndsChangedPlaces) {
 }
 
 }  // namespace
-}  // namespace korven::report
+}  // namespace korven::drawings

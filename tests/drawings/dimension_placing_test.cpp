@@ -4,7 +4,7 @@
 
 #include "support/drawing_by_pen.hpp"
 
-namespace korven::structure {
+namespace korven::drawings {
 namespace {
 
 using test::polilinee;
@@ -78,4 +78,4 @@ TEST_F(DisposizioneQuote, BendALeaderAtFortyFiveDegrees) {
 }
 
 }  // namespace
-}  // namespace korven::structure
+}  // namespace korven::drawings

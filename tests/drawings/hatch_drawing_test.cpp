@@ -7,7 +7,7 @@
 #include "base/file_error.hpp"
 #include "support/hatch_setup.hpp"
 
-namespace korven::report {
+namespace korven::drawings {
 namespace {
 
 using test::polilinee;
@@ -175,4 +175,4 @@ TEST_F(DisegnaCampitura, TakesACodeOfAnyLength) {
 }
 
 }  // namespace
-}  // namespace korven::report
+}  // namespace korven::drawings

@@ -7,7 +7,7 @@
 #include "base/file_error.hpp"
 #include "support/hatch_setup.hpp"
 
-namespace korven::report {
+namespace korven::drawings {
 namespace {
 
 using test::CampituraDiProva;
@@ -146,4 +146,4 @@ TEST_F(Libreria, WithoutTheStrokesOfAPatternIsAnErrorThatNamesIt) {
 }
 
 }  // namespace
-}  // namespace korven::report
+}  // namespace korven::drawings

@@ -8,7 +8,7 @@
 #include "plot/sheet.hpp"
 #include "support/hatch_setup.hpp"
 
-namespace korven::report {
+namespace korven::drawings {
 namespace {
 
 using test::testiCon;
@@ -93,4 +93,4 @@ TEST_F(Campionario, WithoutALibraryIsAnError) {
 }
 
 }  // namespace
-}  // namespace korven::report
+}  // namespace korven::drawings

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <random>
 
-namespace korven::report {
+namespace korven::drawings {
 namespace {
 
 using Posizioni = std::vector<double>;
@@ -61,4 +61,4 @@ TEST(SeparaEtichette, NoTwoLabelsAreEverCloserThanTheDistance) {
 }
 
 }  // namespace
-}  // namespace korven::report
+}  // namespace korven::drawings

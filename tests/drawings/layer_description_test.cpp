@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace korven::report {
+namespace korven::drawings {
 namespace {
 
 TEST(LeggiDescrizione, TakesTheFirstWordAsTheHatchAndTheRestAsTheText) {
@@ -77,4 +77,4 @@ TEST(LeggiDescrizione, TakesATabBehindTheCodeForABlank) {
 }
 
 }  // namespace
-}  // namespace korven::report
+}  // namespace korven::drawings

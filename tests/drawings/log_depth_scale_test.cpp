@@ -4,7 +4,7 @@
 
 // The column of the scale: from x 17.5 to 18.5, the axis of the bar at 18.1.
 
-namespace korven::report {
+namespace korven::drawings {
 namespace {
 
 using test::polilinee;
@@ -87,4 +87,4 @@ TEST_F(StratigrafiaScala, OfAnAbsurdDepthEndsInAnErrorNotInAnEndlessDrawing) {
 }
 
 }  // namespace
-}  // namespace korven::report
+}  // namespace korven::drawings

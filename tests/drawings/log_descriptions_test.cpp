@@ -4,7 +4,7 @@
 
 // The column of the descriptions: from x 3.7 to 6.9, 26 characters of room between 4.0 and 6.6.
 
-namespace korven::report {
+namespace korven::drawings {
 namespace {
 
 using test::testiCon;
@@ -124,4 +124,4 @@ TEST_F(StratigrafiaDescrizioni, OverrunTheColumnWithAWordThatCannotBeParted) {
 }
 
 }  // namespace
-}  // namespace korven::report
+}  // namespace korven::drawings

@@ -4,7 +4,7 @@
 
 // The columns of depths, graphics and water.
 
-namespace korven::report {
+namespace korven::drawings {
 namespace {
 
 using test::polilinee;
@@ -115,4 +115,4 @@ TEST_F(StratigrafiaStrati, ShowNoWaterTableAtTheFootOfTheLastLayerOrBelow) {
 }
 
 }  // namespace
-}  // namespace korven::report
+}  // namespace korven::drawings

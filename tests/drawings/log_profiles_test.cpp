@@ -4,7 +4,7 @@
 
 // The columns of unit weights, friction and strength: 3.2 cm each, from x 7.9, 11.1 and 14.3.
 
-namespace korven::report {
+namespace korven::drawings {
 namespace {
 
 using test::polilinee;
@@ -119,4 +119,4 @@ TEST_F(StratigrafiaProfili, OfStrengthAreHeadedByWhatTheLayersHave) {
 }
 
 }  // namespace
-}  // namespace korven::report
+}  // namespace korven::drawings

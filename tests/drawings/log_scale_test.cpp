@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace korven::report {
+namespace korven::drawings {
 namespace {
 
 TEST(BordoInferiore, FollowsThePageOfThePrinter) {
@@ -39,4 +39,4 @@ TEST(PassoProfondita, GrowsWithTheDepth) {
 }
 
 }  // namespace
-}  // namespace korven::report
+}  // namespace korven::drawings

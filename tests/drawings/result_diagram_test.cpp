@@ -13,7 +13,7 @@
 #include "plot/text_width.hpp"
 #include "support/drawing_by_pen.hpp"
 
-namespace korven::report {
+namespace korven::drawings {
 namespace {
 
 using test::cifre;
@@ -24,8 +24,8 @@ using Linee = std::vector<std::string>;
 // A wall of 9.5 m in 5 segments: 2 cm of sheet to the metre, nodes at y 21.5, 17.7, 13.9, 10.1, 6.3
 // and 2.5. One layer without cohesion, phi 30; two stages, excavated to 1.9 and 3.8 m; an anchor on
 // the second node in stage 2.
-DatiRelazione muro() {
-    DatiRelazione d;
+results::DatiRelazione muro() {
+    results::DatiRelazione d;
     auto& p = d.progetto;
     p.lunghezzaParatia = 9.5;
     p.nStrati = 1;
@@ -57,7 +57,7 @@ class Disegno : public test::ProvaPlot {
  protected:
     Disegno() { configura(test::penneNere()); }
 
-    DatiRelazione dati = muro();
+    results::DatiRelazione dati = muro();
 };
 
 TEST_F(Disegno, HasTheSixHeadingsAndItsTitleOnTop) {
@@ -293,4 +293,4 @@ TEST(ValoreDiScala, OfShearIsThatOfTheLastStageAlone) {
 }
 
 }  // namespace
-}  // namespace korven::report
+}  // namespace korven::drawings

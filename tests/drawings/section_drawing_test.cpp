@@ -10,7 +10,7 @@
 #include "drawings/section_views.hpp"
 #include "support/drawing_by_pen.hpp"
 
-namespace korven::structure {
+namespace korven::drawings {
 namespace {
 
 using test::polilinee;
@@ -264,4 +264,4 @@ TEST_F(Sezione, OfReinforcedPilesHasSixDimensions) {
 }
 
 }  // namespace
-}  // namespace korven::structure
+}  // namespace korven::drawings

@@ -7,17 +7,17 @@
 #include <random>
 #include <set>
 
-namespace korven::structure {
+namespace korven::drawings {
 namespace {
 
-using project::RiquadroSezione;
+using masks::RiquadroSezione;
 using project::Sezione;
 
 constexpr RiquadroSezione tipi[] = {RiquadroSezione::diaframma, RiquadroSezione::pali,
                                     RiquadroSezione::palancola, RiquadroSezione::paliArmati};
 
 const QuotaSchizzo& quota(const Schizzo& schizzo, double Sezione::*campo) {
-    const std::size_t cercato = project::campoSezione(campo);
+    const std::size_t cercato = masks::campoSezione(campo);
     for (const QuotaSchizzo& q : schizzo.quote)
         if (q.campo == cercato) return q;
     ADD_FAILURE() << "no dimension of field " << cercato;
@@ -85,8 +85,8 @@ void tuttoSulFoglio(const Schizzo& schizzo) {
 TEST(SectionSketch, HasOneDimensionForEachFieldOfItsFrame) {
     for (const RiquadroSezione tipo : tipi) {
         std::multiset<std::size_t> attesi, trovati;
-        for (std::size_t i = 0; i < project::numeroCampiSezione; ++i)
-            if (project::campiSezione[i].riquadro == tipo) attesi.insert(i);
+        for (std::size_t i = 0; i < masks::numeroCampiSezione; ++i)
+            if (masks::campiSezione[i].riquadro == tipo) attesi.insert(i);
         for (const auto& q : schizzoSezione(tipo, {}).quote) trovati.insert(q.campo);
         EXPECT_EQ(trovati, attesi);
     }
@@ -262,7 +262,7 @@ TEST(SectionSketch, KeepsItsTextsApart) {
     piena.palancolaSpessore = 1.25;
     piena.palancolaSpessAla = 0.95;
     const Sezione armati = paliArmati();
-    for (const auto& campo : project::campiSezione)
+    for (const auto& campo : masks::campiSezione)
         if (campo.riquadro == RiquadroSezione::paliArmati)
             piena.*campo.valore = armati.*campo.valore;
     for (const Sezione& s : {Sezione{}, piena})
@@ -283,7 +283,7 @@ TEST(SectionSketch, StaysOnItsSheetWhateverIsTyped) {
     std::uniform_int_distribution<int> dado(0, 5);
     for (int i = 0; i < 3000; ++i) {
         Sezione s;
-        for (const auto& campo : project::campiSezione) {
+        for (const auto& campo : masks::campiSezione) {
             const int quale = dado(caso);
             s.*campo.valore =
                 quale == 0 ? 0 : std::pow(10, esponente(caso)) * (quale == 1 ? -1 : 1);
@@ -299,7 +299,7 @@ TEST(SectionSketch, StaysOnItsSheetForUsualProportions) {
     int inScala = 0;
     for (int i = 0; i < 3000; ++i) {
         Sezione s;
-        for (const auto& campo : project::campiSezione) s.*campo.valore = 50 * parte(caso);
+        for (const auto& campo : masks::campiSezione) s.*campo.valore = 50 * parte(caso);
         for (const RiquadroSezione tipo : tipi) {
             const Schizzo schizzo = schizzoSezione(tipo, s);
             inScala += schizzo.inScala ? 1 : 0;
@@ -311,4 +311,4 @@ TEST(SectionSketch, StaysOnItsSheetForUsualProportions) {
 }
 
 }  // namespace
-}  // namespace korven::structure
+}  // namespace korven::drawings

@@ -4,12 +4,12 @@
 
 #include <cmath>
 
-namespace korven::structure {
+namespace korven::drawings {
 namespace {
 
 // 3-4-5: the leg rises 40 while it goes 30 along the wall, so its thickness along the wall is
 // 12 * 5 / 4 = 15.
-constexpr PalancolaMm onda{100, 30, 40, 8, 12};
+constexpr structure::PalancolaMm onda{100, 30, 40, 8, 12};
 
 TEST(SheetPileProfile, IsOneWaveLongAndSymmetricAboutItsMiddle) {
     const auto profilo = profiloPalancola(onda);
@@ -33,4 +33,4 @@ TEST(SheetPileProfile, HasItsFacesHalfAThicknessBesideTheAxes) {
 }
 
 }  // namespace
-}  // namespace korven::structure
+}  // namespace korven::drawings

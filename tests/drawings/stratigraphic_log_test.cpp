@@ -9,7 +9,7 @@
 #include "support/dxf_reader.hpp"
 #include "support/log_setup.hpp"
 
-namespace korven::report {
+namespace korven::drawings {
 namespace {
 
 using test::polilinee;
@@ -201,4 +201,4 @@ TEST_F(StratigrafiaComando, IsRefusedWhenTheLastLayerEndsAtTheGround) {
 }
 
 }  // namespace
-}  // namespace korven::report
+}  // namespace korven::drawings

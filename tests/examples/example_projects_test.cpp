@@ -46,7 +46,7 @@ DatiProgetto leggi(const std::string& nome) {
 }
 
 std::string relazione(Banco& banco) {
-    const auto dati = report::leggiRisultati(banco.risultati(), project::Progetto);
+    const auto dati = results::leggiRisultati(banco.risultati(), project::Progetto);
     return report::testoRelazione(dati, "muro.kvd");
 }
 
@@ -67,7 +67,7 @@ TEST_P(Esempio, LiesInTheProgramFolderToo) {
 // That the bar count shows ten times what it calculates is told of every reinforced pile.
 TEST_P(Esempio, CanBeComputedAndHasNothingOdd) {
     const DatiProgetto dati = leggi(GetParam());
-    for (const auto& rilievo : commands::esaminaProgetto(dati)) {
+    for (const auto& rilievo : review::esaminaProgetto(dati)) {
         EXPECT_FALSE(rilievo.impedisce) << rilievo.testo;
         EXPECT_TRUE(dati.sezione.tipoPaliArmati && rilievo.testo.starts_with("numero di ferri: "))
             << rilievo.testo;
@@ -77,12 +77,12 @@ TEST_P(Esempio, CanBeComputedAndHasNothingOdd) {
 TEST_P(Esempio, HasHeadingsAndLayersWithAHatchOfTheLibraryAndAName) {
     const std::string prima = base::cartellaProgramma();
     base::impostaCartellaProgramma(KORVEN_PROGRAM_FOLDER);
-    const auto& campiture = report::campiture();
+    const auto& campiture = drawings::campiture();
     base::impostaCartellaProgramma(prima);
     const DatiProgetto dati = leggi(GetParam());
     EXPECT_FALSE(dati.titoli[1].empty());
     for (int j = 1; j <= dati.nStrati; ++j) {
-        const auto strato = report::leggiDescrizione(dati.descrStrato[j]);
+        const auto strato = drawings::leggiDescrizione(dati.descrStrato[j]);
         EXPECT_GT(strato.testo.size(), 5u) << dati.descrStrato[j];
         EXPECT_LE(strato.colore, 5) << "colours above 5 are those of the stages";
         ASSERT_GT(strato.campitura, 0) << dati.descrStrato[j];
@@ -109,7 +109,7 @@ TEST(Esempi, ShowNothingOddInHeadingsAndDescriptionsInAnyLanguage) {
             project::azzera(*dati);
             auto file = base::LettoreRighe::apri(voce.path().string());
             project::leggiDati(file, *dati);
-            for (const auto& rilievo : commands::esaminaProgetto(*dati))
+            for (const auto& rilievo : review::esaminaProgetto(*dati))
                 EXPECT_TRUE(rilievo.testo.starts_with("numero di ferri: "))
                     << voce.path() << ": " << rilievo.testo;
             ++letti;
@@ -214,7 +214,7 @@ TEST(Esempi, ShowInTheirLogsAllThatADescriptionCanSay) {
     for (const auto& nome : nomi()) {
         const DatiProgetto dati = leggi(nome);
         for (int j = 1; j <= dati.nStrati; ++j) {
-            const auto strato = report::leggiDescrizione(dati.descrStrato[j]);
+            const auto strato = drawings::leggiDescrizione(dati.descrStrato[j]);
             doppie += strato.campitura >= 1000;
             passi += static_cast<int>(strato.campitura) % 1000 / 100 > 1;
             aperti += !strato.lineaAlPiede;

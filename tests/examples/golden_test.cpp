@@ -60,7 +60,7 @@ TEST_P(Golden, GivesTheDigitsOfAnIndependentCalculation) {
     banco.calcola();
     confrontaRisultati(test::contenuto(banco.risultati()),
                        test::contenuto((attesi / (GetParam() + ".OUT")).string()));
-    const auto dati = report::leggiRisultati(banco.risultati(), project::Progetto);
+    const auto dati = results::leggiRisultati(banco.risultati(), project::Progetto);
     EXPECT_EQ(base::inCp1252(report::testoRelazione(dati, GetParam() + ".kvd")),
               test::contenuto((attesi / (GetParam() + ".TAB")).string()));
 }

@@ -16,40 +16,40 @@ namespace {
 using namespace korven;
 
 // Shows nothing, but takes the arguments apart as a renderer with pages does.
-class NessunaVista : public report::MarkupReceiver {
+class NessunaVista : public markup::MarkupReceiver {
  public:
-    void open(report::ScanState& stato, std::string_view argomento) override {
+    void open(markup::ScanState& stato, std::string_view argomento) override {
         controlla(stato);
-        (void)report::parseReset(argomento);
+        (void)markup::parseReset(argomento);
     }
-    void textLine(report::ScanState& stato, std::string_view) override {
+    void textLine(markup::ScanState& stato, std::string_view) override {
         ++stato.lineCounter;
         controlla(stato);
     }
-    void table(report::ScanState& stato) override {
+    void table(markup::ScanState& stato) override {
         controlla(stato);
         for (int colonna = 1; colonna <= 40; ++colonna)
-            (void)report::rightAligned(stato.columnStyle, colonna);
+            (void)markup::rightAligned(stato.columnStyle, colonna);
     }
-    void list(report::ScanState& stato) override { controlla(stato); }
-    void close(report::ScanState& stato) override { controlla(stato); }
+    void list(markup::ScanState& stato) override { controlla(stato); }
+    void close(markup::ScanState& stato) override { controlla(stato); }
 
  private:
-    static void controlla(const report::ScanState& stato) {
-        test::pretendi(stato.rowCount >= 0 && stato.rowCount <= report::maximumRows,
+    static void controlla(const markup::ScanState& stato) {
+        test::pretendi(stato.rowCount >= 0 && stato.rowCount <= markup::maximumRows,
                        "no more rows than a table holds");
-        test::pretendi(stato.mode == report::Mode::text || stato.mode == report::Mode::table ||
-                           stato.mode == report::Mode::list,
+        test::pretendi(stato.mode == markup::Mode::text || stato.mode == markup::Mode::table ||
+                           stato.mode == markup::Mode::list,
                        "one of the three modes");
     }
 };
 
 // A printer that sees to it that pages come one after the other and are closed before the job is.
-class Pagine : public report::ReportPrinter {
+class Pagine : public markup::ReportPrinter {
  public:
     ~Pagine() override { test::pretendi(!pagina_ && !lavoro_, "all pages are handed over"); }
-    report::SheetSize sheet() override { return {595, 842}; }
-    void setFont(const report::ReportFont& font) override { corpo_ = font.size; }
+    markup::SheetSize sheet() override { return {595, 842}; }
+    void setFont(const markup::ReportFont& font) override { corpo_ = font.size; }
     double textWidth(std::string_view testo) override {
         return static_cast<double>(testo.size()) * corpo_ / 2;
     }
@@ -76,7 +76,7 @@ class Pagine : public report::ReportPrinter {
     bool pagina_ = false, lavoro_ = false;
 };
 
-class Elenco : public report::PreviewList {
+class Elenco : public markup::PreviewList {
  public:
     double windowWidth() override { return 500; }
     double textWidth(std::string_view testo) override {
@@ -87,10 +87,10 @@ class Elenco : public report::PreviewList {
 
 void stampa(const std::string& contenuto) {
     Pagine pagine;
-    report::PrintRenderer renderer(pagine);
+    markup::PrintRenderer renderer(pagine);
     try {
         base::LettoreRighe file("prova.TAB", contenuto);
-        report::renderMarkup(file, report::RendererKind::print, renderer);
+        markup::renderMarkup(file, markup::RendererKind::print, renderer);
     } catch (const base::ErroreFile&) {
     }
     renderer.finish();
@@ -98,10 +98,10 @@ void stampa(const std::string& contenuto) {
 
 void mostra(const std::string& contenuto) {
     Elenco elenco;
-    report::PreviewRenderer renderer(elenco);
+    markup::PreviewRenderer renderer(elenco);
     try {
         base::LettoreRighe file("prova.TAB", contenuto);
-        report::renderMarkup(file, report::RendererKind::preview, renderer);
+        markup::renderMarkup(file, markup::RendererKind::preview, renderer);
     } catch (const base::ErroreFile&) {
     }
 }
@@ -110,12 +110,12 @@ void mostra(const std::string& contenuto) {
 
 extern "C" int KORVEN_FUZZ_ENTRY(const std::uint8_t* byte, std::size_t quanti) {
     const std::string contenuto = test::contenutoFile(byte, quanti);
-    using enum report::RendererKind;
+    using enum markup::RendererKind;
     for (const auto tipo : {print, preview, text}) {
         try {
             base::LettoreRighe file("prova.TAB", contenuto);
             NessunaVista vista;
-            report::renderMarkup(file, tipo, vista);
+            markup::renderMarkup(file, tipo, vista);
         } catch (const base::ErroreFile&) {
         }
     }
@@ -123,7 +123,7 @@ extern "C" int KORVEN_FUZZ_ENTRY(const std::uint8_t* byte, std::size_t quanti) {
     mostra(contenuto);
     try {
         base::LettoreRighe file("prova.TAB", contenuto);
-        (void)report::renderText(file);
+        (void)markup::renderText(file);
     } catch (const base::ErroreFile&) {
     }
     return 0;

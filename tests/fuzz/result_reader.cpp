@@ -24,9 +24,9 @@ void finiti(const analysis::RisultatiFase& fase) {
             test::pretendi(std::isfinite((*colonna)[i]), "a stage holds finite numbers alone");
 }
 
-report::DatiRelazione leggi(std::string contenuto) {
+results::DatiRelazione leggi(std::string contenuto) {
     analysis::LettoreRisultati file(base::LettoreRighe("prova.OUT", std::move(contenuto)), nNodi);
-    report::DatiRelazione dati;
+    results::DatiRelazione dati;
     dati.nNodi = nNodi;
     file.leggiTesta(dati.progetto);
     dati.passo = dati.progetto.lunghezzaParatia / (nNodi - 1);

@@ -4,7 +4,7 @@
 
 #include "base/file_error.hpp"
 
-namespace korven::commands {
+namespace korven::help {
 namespace {
 
 const std::string piccola =
@@ -100,4 +100,4 @@ TEST(FileGuida, ThatIsMissingIsTold) {
 }
 
 }  // namespace
-}  // namespace korven::commands
+}  // namespace korven::help

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace korven::commands {
+namespace korven::help {
 namespace {
 
 PaginaGuida pagina(const char* nome, const char* titolo, const char* parole, const char* html) {
@@ -78,4 +78,4 @@ TEST(PostiTrovati, AreBytesOfTheTextAsItStands) {
 }
 
 }  // namespace
-}  // namespace korven::commands
+}  // namespace korven::help

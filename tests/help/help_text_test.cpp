@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace korven::commands {
+namespace korven::help {
 namespace {
 
 TEST(TestoPagina, IsWhatStandsBetweenTheTags) {
@@ -40,4 +40,4 @@ TEST(Piega, TellsWhereEachByteComesFrom) {
 }
 
 }  // namespace
-}  // namespace korven::commands
+}  // namespace korven::help

@@ -4,7 +4,7 @@
 
 #include <vector>
 
-namespace korven::report {
+namespace korven::markup {
 namespace {
 
 TEST(CharacterWidths, SumUpAndAskForEachCharacterOnce) {
@@ -20,4 +20,4 @@ TEST(CharacterWidths, SumUpAndAskForEachCharacterOnce) {
 }
 
 }  // namespace
-}  // namespace korven::report
+}  // namespace korven::markup

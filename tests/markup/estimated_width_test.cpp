@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace korven::report {
+namespace korven::markup {
 namespace {
 
 TEST(EstimatedWidth, GrowsWithSizeAndBoldness) {
@@ -15,4 +15,4 @@ TEST(EstimatedWidth, GrowsWithSizeAndBoldness) {
 }
 
 }  // namespace
-}  // namespace korven::report
+}  // namespace korven::markup

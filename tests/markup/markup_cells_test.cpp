@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace korven::report {
+namespace korven::markup {
 namespace {
 
 using Cells = std::vector<std::string>;
@@ -50,4 +50,4 @@ TEST(CellGrid, HoldsRows1To510AndColumns1To30) {
 }
 
 }  // namespace
-}  // namespace korven::report
+}  // namespace korven::markup

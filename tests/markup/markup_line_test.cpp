@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace korven::report {
+namespace korven::markup {
 namespace {
 
 TEST(MarkupLine, DirectiveIsAKeywordInUpperCaseAndATrimmedArgument) {
@@ -36,4 +36,4 @@ TEST(MarkupLine, AnyOtherLineIsContentWithoutItsOuterBlanks) {
 }
 
 }  // namespace
-}  // namespace korven::report
+}  // namespace korven::markup

@@ -5,7 +5,7 @@
 #include "base/file_error.hpp"
 #include "support/markup_record.hpp"
 
-namespace korven::report {
+namespace korven::markup {
 namespace {
 
 using Lines = std::vector<std::string>;
@@ -217,4 +217,4 @@ TEST(RenderMarkup, NamesTheLineOfATableThatIsTooLong) {
 }
 
 }  // namespace
-}  // namespace korven::report
+}  // namespace korven::markup

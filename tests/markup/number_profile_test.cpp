@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <vector>
 
-namespace korven::report {
+namespace korven::markup {
 namespace {
 
 using Cells = std::vector<std::string>;
@@ -79,4 +79,4 @@ TEST(AlignedCell, KeepsABlankThatStoodBehindTheNumber) {
 }
 
 }  // namespace
-}  // namespace korven::report
+}  // namespace korven::markup

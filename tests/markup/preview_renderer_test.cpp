@@ -8,7 +8,7 @@
 
 // The list has 500 usable points and characters of 5; a centimetre has 28.3465 points.
 
-namespace korven::report {
+namespace korven::markup {
 namespace {
 
 using Lines = std::vector<std::string>;
@@ -133,4 +133,4 @@ TEST(PreviewReport, DoesNothingWithoutAFileAndRefusesATooLargeTable) {
 }
 
 }  // namespace
-}  // namespace korven::report
+}  // namespace korven::markup

@@ -6,7 +6,7 @@
 #include "base/file_error.hpp"
 #include "support/page_record.hpp"
 
-namespace korven::report {
+namespace korven::markup {
 namespace {
 
 using Lines = std::vector<std::string>;
@@ -187,4 +187,4 @@ TEST(PrintedList, NeverRepeatsARow) {
 }
 
 }  // namespace
-}  // namespace korven::report
+}  // namespace korven::markup

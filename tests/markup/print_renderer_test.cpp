@@ -10,7 +10,7 @@
 // Pages and lines; tables and lists in print_blocks_test.cpp. The sheet is an A4 of 566 x 813
 // usable points, a centimetre has 28.3465 of them, and 2 cm are 56 whole ones.
 
-namespace korven::report {
+namespace korven::markup {
 namespace {
 
 using Lines = std::vector<std::string>;
@@ -223,4 +223,4 @@ TEST(PrintReport, RefusesATableBeyondTheGridAndGivesThePointerBack) {
 }
 
 }  // namespace
-}  // namespace korven::report
+}  // namespace korven::markup

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace korven::report {
+namespace korven::markup {
 namespace {
 
 TEST(UsableLength, IsACentimetreShortInWholePoints) {
@@ -44,4 +44,4 @@ TEST(ReportPage, KnowsWhereHeaderBodyAndFooterStand) {
 }
 
 }  // namespace
-}  // namespace korven::report
+}  // namespace korven::markup

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace korven::report {
+namespace korven::markup {
 namespace {
 
 // One centimetre is 28.3464... points: 2 cm 56.69, 1.5 cm 42.51, 3 cm 85.03, 0.5 cm 14.17,
@@ -47,4 +47,4 @@ TEST(ParseReset, FontNameStandsAsItIsUpToItsComma) {
 }
 
 }  // namespace
-}  // namespace korven::report
+}  // namespace korven::markup

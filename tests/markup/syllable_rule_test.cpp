@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace korven::report {
+namespace korven::markup {
 namespace {
 
 std::size_t prima(std::string_view testo) { return sillaba(caratteri(testo)); }
@@ -50,4 +50,4 @@ TEST(Sillaba, CountsCharactersNotBytes) {
 TEST(Sillaba, OfNothingIsOneMoreThanItsLength) { EXPECT_EQ(prima(""), 1u); }
 
 }  // namespace
-}  // namespace korven::report
+}  // namespace korven::markup

@@ -4,7 +4,7 @@
 
 #include <string>
 
-namespace korven::report {
+namespace korven::markup {
 namespace {
 
 using Rows = std::vector<std::string>;
@@ -75,4 +75,4 @@ TEST(FitColumns, OfNoRowsHasNoColumns) {
 }
 
 }  // namespace
-}  // namespace korven::report
+}  // namespace korven::markup

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace korven::report {
+namespace korven::markup {
 namespace {
 
 TEST(TableStyle, EqualSignAndThreeLettersAlignThreeColumnsLeft) {
@@ -40,4 +40,4 @@ TEST(TableStyle, ColumnsAreCountedInCharacters) {
 }
 
 }  // namespace
-}  // namespace korven::report
+}  // namespace korven::markup

@@ -4,7 +4,7 @@
 
 #include <random>
 
-namespace korven::report {
+namespace korven::markup {
 namespace {
 
 double fives(std::string_view text) { return 5.0 * static_cast<double>(text.size()); }
@@ -61,4 +61,4 @@ TEST(DottedLeader, PutsOneBlankAndThenPointsUpToTheWidth) {
 }
 
 }  // namespace
-}  // namespace korven::report
+}  // namespace korven::markup

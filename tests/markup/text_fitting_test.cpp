@@ -8,7 +8,7 @@
 #include "base/code_page.hpp"
 #include "base/table.hpp"
 
-namespace korven::report {
+namespace korven::markup {
 namespace {
 
 using Righe = std::vector<std::string>;
@@ -105,4 +105,4 @@ TEST(AdattaTesto, LosesNoLetterOfAnyText) {
 }
 
 }  // namespace
-}  // namespace korven::report
+}  // namespace korven::markup

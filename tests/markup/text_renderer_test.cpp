@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace korven::report {
+namespace korven::markup {
 namespace {
 
 std::optional<std::string> rendered(const std::string& markup) {
@@ -44,4 +44,4 @@ TEST(TextRenderer, LinesThatLookLikeDirectivesNeverAppear) {
 }
 
 }  // namespace
-}  // namespace korven::report
+}  // namespace korven::markup

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace korven::project {
+namespace korven::masks {
 namespace {
 
 using Righe = std::vector<std::vector<std::string>>;
@@ -30,4 +30,4 @@ TEST(AnteprimaAppunti, IsCutBehindTheSixthLineBreak) {
 }
 
 }  // namespace
-}  // namespace korven::project
+}  // namespace korven::masks

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace korven::project {
+namespace korven::masks {
 namespace {
 
 TEST(ConIlPunto, GivesTheNumberOfADecimalComma) {
@@ -18,4 +18,4 @@ TEST(ConIlPunto, LeavesAllElseAlone) {
 }
 
 }  // namespace
-}  // namespace korven::project
+}  // namespace korven::masks

@@ -6,20 +6,20 @@
 
 #include "project/project_data.hpp"
 
-namespace korven::project {
+namespace korven::masks {
 namespace {
 
-std::string testo(const SezioneEditata& editata, double Sezione::*campo) {
+std::string testo(const SezioneEditata& editata, double project::Sezione::*campo) {
     return editata.testo(campoSezione(campo));
 }
 
-void scrivi(SezioneEditata& editata, double Sezione::*campo, std::string_view testo) {
+void scrivi(SezioneEditata& editata, double project::Sezione::*campo, std::string_view testo) {
     editata.scrivi(campoSezione(campo), testo);
 }
 
 // Every field another number, all of which survive the way through their texts.
-Sezione piena() {
-    Sezione sezione;
+project::Sezione piena() {
+    project::Sezione sezione;
     sezione.tipoPalancola = true;
     double valore = 1.25;
     for (const CampoSezione& campo : campiSezione) sezione.*campo.valore = (valore += 0.5);
@@ -28,7 +28,7 @@ Sezione piena() {
 
 TEST(SezioneEditata, HasEachFieldOfTheSectionOnce) {
     std::set<std::size_t> posti;
-    Sezione sezione;
+    project::Sezione sezione;
     for (const CampoSezione& campo : campiSezione) {
         posti.insert(campoSezione(campo.valore));
         sezione.*campo.valore = 1;
@@ -47,7 +47,7 @@ TEST(SezioneEditata, HasEachFieldOfTheSectionOnce) {
 }
 
 TEST(SezioneEditata, ShowsLengthsInMillimetresAndMaterialsAsStored) {
-    Sezione sezione;
+    project::Sezione sezione;
     bool modificato = false;
     sezione.spessoreDiaframma = 80;
     sezione.diametroMonte = 2.6;
@@ -55,34 +55,34 @@ TEST(SezioneEditata, ShowsLengthsInMillimetresAndMaterialsAsStored) {
     sezione.modEacciaio = 210000;
     sezione.fck = 28.5;
     const SezioneEditata editata(sezione, modificato);
-    EXPECT_EQ(testo(editata, &Sezione::spessoreDiaframma), "800");
-    EXPECT_EQ(testo(editata, &Sezione::diametroMonte), "26");
-    EXPECT_EQ(testo(editata, &Sezione::armPassoStaffe), "0.5");
-    EXPECT_EQ(testo(editata, &Sezione::modEacciaio), "210000");
-    EXPECT_EQ(testo(editata, &Sezione::fck), "28.5");
-    EXPECT_EQ(testo(editata, &Sezione::paliDiamEst), "0");
+    EXPECT_EQ(testo(editata, &project::Sezione::spessoreDiaframma), "800");
+    EXPECT_EQ(testo(editata, &project::Sezione::diametroMonte), "26");
+    EXPECT_EQ(testo(editata, &project::Sezione::armPassoStaffe), "0.5");
+    EXPECT_EQ(testo(editata, &project::Sezione::modEacciaio), "210000");
+    EXPECT_EQ(testo(editata, &project::Sezione::fck), "28.5");
+    EXPECT_EQ(testo(editata, &project::Sezione::paliDiamEst), "0");
 }
 
 TEST(SezioneEditata, ShowsTheFieldsOfAllTypesAndNotOnlyOfTheChosenOne) {
-    Sezione sezione = piena();
+    project::Sezione sezione = piena();
     bool modificato = false;
     const SezioneEditata editata(sezione, modificato);
     for (std::size_t i = 0; i < numeroCampiSezione; ++i) EXPECT_NE(editata.testo(i), "0") << i;
 }
 
 TEST(SezioneEditata, TakesTheBarCountThroughTheFactorOfTheLengths) {
-    Sezione sezione;
+    project::Sezione sezione;
     bool modificato = false;
     sezione.armNumLong = 1.2;
     SezioneEditata editata(sezione, modificato);
-    EXPECT_EQ(testo(editata, &Sezione::armNumLong), "12");
-    scrivi(editata, &Sezione::armNumLong, "8");
+    EXPECT_EQ(testo(editata, &project::Sezione::armNumLong), "12");
+    scrivi(editata, &project::Sezione::armNumLong, "8");
     editata.conferma();
     EXPECT_EQ(sezione.armNumLong, 0.8) << "a typed 8 calculates with 0.8";
 }
 
 TEST(SezioneEditata, IsADiaphragmFromTheStartWhenNoTypeIsSet) {
-    Sezione sezione;
+    project::Sezione sezione;
     bool modificato = false;
     SezioneEditata editata(sezione, modificato);
     EXPECT_EQ(editata.tipo(), RiquadroSezione::diaframma);
@@ -95,21 +95,23 @@ TEST(SezioneEditata, IsADiaphragmFromTheStartWhenNoTypeIsSet) {
 TEST(SezioneEditata, ShowsTheFirstTrueFlag) {
     constexpr RiquadroSezione attesi[] = {RiquadroSezione::diaframma, RiquadroSezione::pali,
                                           RiquadroSezione::palancola, RiquadroSezione::paliArmati};
-    for (std::size_t i = 0; i < std::size(tipiSezione); ++i) {
-        Sezione sezione;
+    for (std::size_t i = 0; i < std::size(project::tipiSezione); ++i) {
+        project::Sezione sezione;
         bool modificato = false;
-        for (std::size_t j = i; j < std::size(tipiSezione); ++j) sezione.*tipiSezione[j] = true;
+        for (std::size_t j = i; j < std::size(project::tipiSezione); ++j)
+            sezione.*project::tipiSezione[j] = true;
         SezioneEditata editata(sezione, modificato);
         EXPECT_EQ(editata.tipo(), attesi[i]);
         editata.conferma();
-        for (std::size_t j = 0; j < std::size(tipiSezione); ++j)
-            EXPECT_EQ(sezione.*tipiSezione[j], j == i);
-        EXPECT_EQ(modificato, i + 1 < std::size(tipiSezione)) << "flags beyond the first went";
+        for (std::size_t j = 0; j < std::size(project::tipiSezione); ++j)
+            EXPECT_EQ(sezione.*project::tipiSezione[j], j == i);
+        EXPECT_EQ(modificato, i + 1 < std::size(project::tipiSezione))
+            << "flags beyond the first went";
     }
 }
 
 TEST(SezioneEditata, ChangesNoDataByTheClickOfAnOption) {
-    Sezione sezione = piena();
+    project::Sezione sezione = piena();
     bool modificato = false;
     SezioneEditata editata(sezione, modificato);
     editata.scegli(RiquadroSezione::paliArmati);
@@ -120,7 +122,7 @@ TEST(SezioneEditata, ChangesNoDataByTheClickOfAnOption) {
 
 TEST(SezioneEditata, LeavesModificatoAloneWhenNothingWasEdited) {
     for (const bool prima : {false, true}) {
-        Sezione sezione = piena();
+        project::Sezione sezione = piena();
         bool modificato = prima;
         SezioneEditata(sezione, modificato).conferma();
         EXPECT_EQ(modificato, prima);
@@ -131,7 +133,7 @@ TEST(SezioneEditata, LeavesModificatoAloneWhenNothingWasEdited) {
 TEST(SezioneEditata, CountsAValueThatWouldBeLostOnTheWayThroughItsTextAsAChangeAndKeepsIt) {
     // The text has 15 digits of ten times the value.
     for (const double valore : {12.34567890123456789, 1.0 / 3}) {
-        Sezione sezione = piena();
+        project::Sezione sezione = piena();
         bool modificato = false;
         sezione.paliDiamEst = valore;
         SezioneEditata(sezione, modificato).conferma();
@@ -144,7 +146,7 @@ TEST(SezioneEditata, LeavesModificatoAloneForEveryLengthOfTwoDecimals) {
     // For 0.21 and hundreds more, the double nearest to a tenth of ten times the length is another.
     int mancati = 0;
     for (int k = 1; k <= 999; ++k) {
-        Sezione sezione = piena();
+        project::Sezione sezione = piena();
         bool modificato = false;
         sezione.paliDiamEst = k / 100.0;
         sezione.fck = k / 1000.0;
@@ -157,38 +159,38 @@ TEST(SezioneEditata, LeavesModificatoAloneForEveryLengthOfTwoDecimals) {
 }
 
 TEST(SezioneEditata, ReadsATextThatWasTypedByTheRuleEvenIfItsValueIsNear) {
-    Sezione sezione = piena();
+    project::Sezione sezione = piena();
     bool modificato = false;
     sezione.paliDiamEst = 12.34567890123456789;
     SezioneEditata editata(sezione, modificato);
-    scrivi(editata, &Sezione::paliDiamEst, "123.456789012346 ");
+    scrivi(editata, &project::Sezione::paliDiamEst, "123.456789012346 ");
     editata.conferma();
     EXPECT_EQ(sezione.paliDiamEst, 12.3456789012346);
 }
 
 TEST(SezioneEditata, SetsModificatoForAnyOneFieldEvenOfATypeNotChosen) {
     for (std::size_t i = 0; i < numeroCampiSezione; ++i) {
-        Sezione sezione = piena();
+        project::Sezione sezione = piena();
         bool modificato = false;
         SezioneEditata editata(sezione, modificato);
         editata.scrivi(i, "777");
         EXPECT_EQ(sezione, piena()) << "typing alone stores nothing";
         editata.conferma();
         EXPECT_TRUE(modificato) << i;
-        Sezione attesa = piena();
+        project::Sezione attesa = piena();
         attesa.*campiSezione[i].valore = 777 / campiSezione[i].fattore;
         EXPECT_EQ(sezione, attesa) << i;
     }
 }
 
 TEST(SezioneEditata, SetsModificatoForAnotherTypeAndStoresItsFlagAlone) {
-    Sezione sezione = piena();
+    project::Sezione sezione = piena();
     bool modificato = false;
     SezioneEditata editata(sezione, modificato);
     editata.scegli(RiquadroSezione::pali);
     editata.conferma();
     EXPECT_TRUE(modificato);
-    Sezione attesa = piena();
+    project::Sezione attesa = piena();
     attesa.tipoPalancola = false;
     attesa.tipoPali = true;
     EXPECT_EQ(sezione, attesa) << "all numbers kept";
@@ -200,29 +202,29 @@ TEST(SezioneEditata, TakesTheNumberAtTheBeginningOfAnyText) {
         {"spesso", 0}, {"", 0},          {"-30", -3},  {"1e3", 100},    {"0", 0},
     };
     for (const auto& [scritto, atteso] : casi) {
-        Sezione sezione;
+        project::Sezione sezione;
         bool modificato = false;
         SezioneEditata editata(sezione, modificato);
-        scrivi(editata, &Sezione::spessoreDiaframma, scritto);
+        scrivi(editata, &project::Sezione::spessoreDiaframma, scritto);
         editata.conferma();
         EXPECT_EQ(sezione.spessoreDiaframma, atteso) << scritto;
     }
 }
 
 TEST(SezioneEditata, KeepsMaterialsUnscaled) {
-    Sezione sezione;
+    project::Sezione sezione;
     bool modificato = false;
     SezioneEditata editata(sezione, modificato);
-    scrivi(editata, &Sezione::modEcls, "31000");
-    scrivi(editata, &Sezione::fyk, "430.5");
+    scrivi(editata, &project::Sezione::modEcls, "31000");
+    scrivi(editata, &project::Sezione::fyk, "430.5");
     editata.conferma();
     EXPECT_EQ(sezione.modEcls, 31000);
     EXPECT_EQ(sezione.fyk, 430.5);
 }
 
 TEST(SezioneEditata, StartsFromTheDefaultsOfANewProject) {
-    DatiProgetto dati;
-    azzera(dati);
+    project::DatiProgetto dati;
+    project::azzera(dati);
     bool modificato = false;
     SezioneEditata editata(dati.sezione, modificato);
     EXPECT_EQ(editata.tipo(), RiquadroSezione::diaframma);
@@ -232,4 +234,4 @@ TEST(SezioneEditata, StartsFromTheDefaultsOfANewProject) {
 }
 
 }  // namespace
-}  // namespace korven::project
+}  // namespace korven::masks

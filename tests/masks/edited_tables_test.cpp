@@ -2,12 +2,12 @@
 
 #include <gtest/gtest.h>
 
-namespace korven::project {
+namespace korven::masks {
 namespace {
 
 TEST(RiprendiStrati, ConvertsTheShownUnitsAndSortsByDepth) {
-    DatiProgetto d;
-    azzera(d);
+    project::DatiProgetto d;
+    project::azzera(d);
     d.nStrati = 2;
     d.suStrato[1] = 11;
     d.suStrato[2] = 22;
@@ -28,8 +28,8 @@ TEST(RiprendiStrati, ConvertsTheShownUnitsAndSortsByDepth) {
 
 // What a longer table of before left in a row is not the new layer's.
 TEST(RiprendiStrati, GivesNewRowsNoUndrainedStrength) {
-    DatiProgetto d;
-    azzera(d);
+    project::DatiProgetto d;
+    project::azzera(d);
     d.nStrati = 2;
     for (int j = 1; j <= 4; ++j) d.suStrato[j] = 11.0 * j;
     const std::vector<std::string> riga = {"1", "19", "21", "34", "5", "30000", "G Ghiaia"};
@@ -51,8 +51,8 @@ TEST(RiprendiStrati, GivesNewRowsNoUndrainedStrength) {
 }
 
 TEST(RiprendiStrati, KeepsTheTypedOrderOfEqualDepths) {
-    DatiProgetto d;
-    azzera(d);
+    project::DatiProgetto d;
+    project::azzera(d);
     riprendiStrati(d, {"3", "5", "1", "", "", "", "", "a", "5", "2", "", "", "", "", "b",  //
                        "2", "3", "",  "", "", "", "c"});
     EXPECT_EQ(d.descrStrato[1], "c");
@@ -62,8 +62,8 @@ TEST(RiprendiStrati, KeepsTheTypedOrderOfEqualDepths) {
 }
 
 TEST(RiprendiTiranti, SortsWholeRows) {
-    DatiProgetto d;
-    azzera(d);
+    project::DatiProgetto d;
+    project::azzera(d);
     riprendiTiranti(d, {"2", "6", "8000", "100", "1", "2", "5000", "50", "0"});
     EXPECT_EQ(d.nTiranti, 2);
     EXPECT_EQ(d.profTirante[1], 2);
@@ -75,8 +75,8 @@ TEST(RiprendiTiranti, SortsWholeRows) {
 }
 
 TEST(RiprendiFasi, OutOfDepthOrderExchangesCountsSurchargesAndAnchorStiffnessOnly) {
-    DatiProgetto d;
-    azzera(d);
+    project::DatiProgetto d;
+    project::azzera(d);
     d.rigTirante[1] = 100;
     d.rigTirante[2] = 200;
     riprendiFasi(d, {"2", "5", "1", "20", "6", "3", "0", "10", "4"});
@@ -94,9 +94,9 @@ TEST(RiprendiFasi, OutOfDepthOrderExchangesCountsSurchargesAndAnchorStiffnessOnl
 
 // The wall and the headings are compared with what is stored; a table is not.
 TEST(RiprendiTabelle, ConfirmedWithoutAChangeStillCountAsModified) {
-    DatiProgetto d;
-    azzera(d);
-    const DatiProgetto prima = d;
+    project::DatiProgetto d;
+    project::azzera(d);
+    const project::DatiProgetto prima = d;
     EXPECT_TRUE(riprendiStrati(d, {"0"}));
     EXPECT_TRUE(riprendiTiranti(d, {"0"}));
     EXPECT_TRUE(riprendiFasi(d, {"0"}));
@@ -107,9 +107,9 @@ TEST(RiprendiTabelle, ConfirmedWithoutAChangeStillCountAsModified) {
 }
 
 TEST(RiprendiTabelle, RefuseMoreRowsThanTheTableHoldsAndLeaveTheProjectAlone) {
-    DatiProgetto d;
-    azzera(d);
-    const DatiProgetto prima = d;
+    project::DatiProgetto d;
+    project::azzera(d);
+    const project::DatiProgetto prima = d;
     EXPECT_THROW(riprendiStrati(d, {"101"}), base::ErroreIndice);
     EXPECT_THROW(riprendiTiranti(d, {"21"}), base::ErroreIndice);
     EXPECT_THROW(riprendiFasi(d, {"21"}), base::ErroreIndice);
@@ -118,8 +118,8 @@ TEST(RiprendiTabelle, RefuseMoreRowsThanTheTableHoldsAndLeaveTheProjectAlone) {
 }
 
 TEST(RiprendiTabelle, ReadTheNumericPrefixOfATextAndZeroWhereThereIsNone) {
-    DatiProgetto d;
-    azzera(d);
+    project::DatiProgetto d;
+    project::azzera(d);
     riprendiTiranti(d, {"1", " 2.5m", "1 2", "circa 3", "1d3"});
     EXPECT_EQ(d.profTirante[1], 2.5);
     EXPECT_EQ(d.rigTirante[1], 0.1);
@@ -128,8 +128,8 @@ TEST(RiprendiTabelle, ReadTheNumericPrefixOfATextAndZeroWhereThereIsNone) {
 }
 
 TEST(RiprendiParatia, TellsWhetherAnyValueChanged) {
-    DatiProgetto d;
-    azzera(d);
+    project::DatiProgetto d;
+    project::azzera(d);
     std::vector<std::string> testi = {"1", "3", "1",  "2", "1",  "2",   "4", "12.5", "120000",
                                       "2", "5", "10", "7", "-8", "100", "5", "3",    "1"};
     EXPECT_TRUE(riprendiParatia(d, testi));
@@ -149,12 +149,12 @@ TEST(RiprendiParatia, TellsWhetherAnyValueChanged) {
 }
 
 TEST(RiprendiTitoli, StoresTheLinesAndTellsAChange) {
-    DatiProgetto d;
-    azzera(d);
+    project::DatiProgetto d;
+    project::azzera(d);
     EXPECT_FALSE(riprendiTitoli(d, {"", "", "", "", "", ""}));
     EXPECT_TRUE(riprendiTitoli(d, {"", "", " Lotto 2", "", "", ""}));
     EXPECT_EQ(d.titoli[3], " Lotto 2");
 }
 
 }  // namespace
-}  // namespace korven::project
+}  // namespace korven::masks

@@ -6,7 +6,7 @@
 #include "support/dialog_record.hpp"
 #include "support/mask_setup.hpp"
 
-namespace korven::project {
+namespace korven::masks {
 namespace {
 
 using test::campoMaschera;
@@ -119,4 +119,4 @@ TEST(Tagliato, CountsCharacters) {
 }
 
 }  // namespace
-}  // namespace korven::project
+}  // namespace korven::masks

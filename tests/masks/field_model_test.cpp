@@ -5,7 +5,7 @@
 #include "support/dialog_record.hpp"
 #include "support/mask_setup.hpp"
 
-namespace korven::project {
+namespace korven::masks {
 namespace {
 
 using Testi = std::vector<std::string>;
@@ -204,4 +204,4 @@ TEST(ModelloCampiLettura, TellsWhatTheNumberInUseIsReadAs) {
 }
 
 }  // namespace
-}  // namespace korven::project
+}  // namespace korven::masks

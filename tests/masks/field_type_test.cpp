@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace korven::project {
+namespace korven::masks {
 namespace {
 
 TEST(TipoCampo, IsANumberForZeroAlone) {
@@ -54,4 +54,4 @@ TEST(ConDecimaliAmmessi, CutsThemFromTheEndOfAPicture) {
 }
 
 }  // namespace
-}  // namespace korven::project
+}  // namespace korven::masks

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace korven::project {
+namespace korven::masks {
 namespace {
 
 using Testi = std::vector<std::string>;
@@ -76,4 +76,4 @@ TEST(CelleGriglia, CopyTheRowsAboveWhenNothingStandsBelow) {
 }
 
 }  // namespace
-}  // namespace korven::project
+}  // namespace korven::masks

@@ -6,7 +6,7 @@
 #include "support/dialog_script.hpp"
 #include "support/mask_setup.hpp"
 
-namespace korven::project {
+namespace korven::masks {
 namespace {
 
 using Testi = std::vector<std::string>;
@@ -387,4 +387,4 @@ TEST(CapienzaGriglia, IsToldInTitleAndStripFromTheFirstRowAboveIt) {
 }
 
 }  // namespace
-}  // namespace korven::project
+}  // namespace korven::masks

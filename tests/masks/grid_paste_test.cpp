@@ -4,7 +4,7 @@
 #include "support/dialog_script.hpp"
 #include "support/mask_setup.hpp"
 
-namespace korven::project {
+namespace korven::masks {
 namespace {
 
 using base::Risposta;
@@ -178,4 +178,4 @@ TEST_F(Incolla, AsksNothingAboutCommasThatAreNoDecimalsOrGoNowhere) {
 }
 
 }  // namespace
-}  // namespace korven::project
+}  // namespace korven::masks

@@ -9,7 +9,7 @@
 #include "support/plain_masks.hpp"
 #include "support/temporary_folder.hpp"
 
-namespace korven::project {
+namespace korven::masks {
 namespace {
 
 using Testi = std::vector<std::string>;
@@ -17,7 +17,7 @@ using Testi = std::vector<std::string>;
 class Modifica : public ::testing::Test {
  protected:
     void SetUp() override {
-        azzera(dati);
+        project::azzera(dati);
         maschere.leggiMaschere(test::maschereSemplici(cartella));
     }
     // A field form opened and confirmed at once.
@@ -39,7 +39,7 @@ class Modifica : public ::testing::Test {
     test::CartellaProvvisoria cartella;
     test::DialogScript dialogo;
     Maschere maschere;
-    DatiProgetto dati;
+    project::DatiProgetto dati;
     int fase = 0;
 };
 
@@ -112,7 +112,7 @@ TEST_F(Modifica, TakesATableThroughTheGridAndBackUnchanged) {
     dati.descrStrato[1] = "105C3 Sabbia, fine";
     dati.profStrato[2] = 20;
     dati.ksStrato[2] = 1234.5;
-    const DatiProgetto prima = dati;
+    const project::DatiProgetto prima = dati;
     preparaMaschera(maschere, NumeroMaschera::strati, dati, 0);
     GridModel forma(maschere.corrente(), maschere.valoriTesto());
     EXPECT_EQ(forma.testo({1, 2}), "18.5");
@@ -161,4 +161,4 @@ TEST(Capienza, IsThatOfTheTablesOfTheProject) {
 }
 
 }  // namespace
-}  // namespace korven::project
+}  // namespace korven::masks

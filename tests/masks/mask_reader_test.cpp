@@ -8,7 +8,7 @@
 #include "base/translated_texts.hpp"
 #include "support/temporary_folder.hpp"
 
-namespace korven::project {
+namespace korven::masks {
 namespace {
 
 const std::string campi =
@@ -179,4 +179,4 @@ TEST(VoceAiuto, IsTheNumberAtTheHeadOfTheReferenceUpTo200) {
 }
 
 }  // namespace
-}  // namespace korven::project
+}  // namespace korven::masks

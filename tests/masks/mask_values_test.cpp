@@ -7,7 +7,7 @@
 #include "base/table.hpp"
 #include "support/temporary_folder.hpp"
 
-namespace korven::project {
+namespace korven::masks {
 namespace {
 
 std::string campo(const std::string& tipo = "0") { return "x\n" + tipo + "\n0\n10\nh\n"; }
@@ -155,4 +155,4 @@ TEST_F(MaschereProgramma, AreRefusedWithoutTheFieldsOfTheirEditor) {
 }
 
 }  // namespace
-}  // namespace korven::project
+}  // namespace korven::masks

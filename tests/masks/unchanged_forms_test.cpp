@@ -14,7 +14,7 @@
 #include "support/dialog_script.hpp"
 #include "support/plain_masks.hpp"
 
-namespace korven::project {
+namespace korven::masks {
 namespace {
 
 // What engineers type, what files hold, and what a calculation leaves.
@@ -54,24 +54,24 @@ void riempiProfondita(Colonna& colonna, int righe, Valori& valori) {
         colonna[i] = colonna[i - 1] + std::abs(valori.prossimo()) / 100;
 }
 
-void riempi(DatiProgetto& d, Valori& valori) {
-    d.nStrati = massimoStrati;
-    riempiProfondita(d.profStrato, massimoStrati, valori);
+void riempi(project::DatiProgetto& d, Valori& valori) {
+    d.nStrati = project::massimoStrati;
+    riempiProfondita(d.profStrato, project::massimoStrati, valori);
     for (auto* colonna :
          {&d.gammaN, &d.gammaSat, &d.phiStrato, &d.coesione, &d.suStrato, &d.ksStrato})
-        riempi(*colonna, massimoStrati, valori);
-    for (int i = 1; i <= massimoStrati; ++i)
+        riempi(*colonna, project::massimoStrati, valori);
+    for (int i = 1; i <= project::massimoStrati; ++i)
         d.descrStrato[i] =
             i % 3 == 0 ? "" : "  10C3 Sabbia, \"fine\" n. " + std::to_string(i) + ' ';
-    d.nTiranti = massimoTiranti;
-    riempiProfondita(d.profTirante, massimoTiranti, valori);
+    d.nTiranti = project::massimoTiranti;
+    riempiProfondita(d.profTirante, project::massimoTiranti, valori);
     for (auto* colonna : {&d.rigTirante, &d.pretTirante, &d.tipoTirante})
-        riempi(*colonna, massimoTiranti, valori);
-    d.nFasi = massimoFasi;
-    riempiProfondita(d.profFase, massimoFasi, valori);
-    riempi(d.tirantiFase, massimoFasi, valori);
-    riempi(d.sovraccFase, massimoFasi, valori);
-    riempi(d.faldaFase, massimoFasi, valori);
+        riempi(*colonna, project::massimoTiranti, valori);
+    d.nFasi = project::massimoFasi;
+    riempiProfondita(d.profFase, project::massimoFasi, valori);
+    riempi(d.tirantiFase, project::massimoFasi, valori);
+    riempi(d.sovraccFase, project::massimoFasi, valori);
+    riempi(d.faldaFase, project::massimoFasi, valori);
     for (double* campo : {&d.lunghezzaParatia, &d.rigidezzaEJ, &d.coeffM, &d.pressioneOrizz,
                           &d.sovraccMonte, &d.momentoTesta, &d.forzaTesta, &d.sforzoNormale,
                           &d.inclinazioneMonte, &d.faldaMonte, &d.gammaAcqua})
@@ -108,7 +108,7 @@ class FormeSenzaModifiche : public ::testing::Test {
     test::CartellaProvvisoria cartella;
     test::DialogScript dialogo;
     Maschere maschere;
-    DatiProgetto dati;
+    project::DatiProgetto dati;
     int fase = 0;
 };
 
@@ -116,7 +116,7 @@ TEST_F(FormeSenzaModifiche, LeaveTenThousandValuesOfAllTablesAsTheyAre) {
     Valori valori;
     while (valori.quanti() < 10000) {
         riempi(dati, valori);
-        const DatiProgetto prima = dati;
+        const project::DatiProgetto prima = dati;
         for (const auto tabella :
              {NumeroMaschera::strati, NumeroMaschera::tiranti, NumeroMaschera::fasi})
             EXPECT_TRUE(apriEConferma(tabella));  // a table counts as modified all the same
@@ -125,7 +125,7 @@ TEST_F(FormeSenzaModifiche, LeaveTenThousandValuesOfAllTablesAsTheyAre) {
         bool modificato = false;
         SezioneEditata(dati.sezione, modificato).conferma();
         EXPECT_TRUE(dati == prima);
-        EXPECT_EQ(testoProgetto(dati), testoProgetto(prima));
+        EXPECT_EQ(project::testoProgetto(dati), project::testoProgetto(prima));
     }
 }
 
@@ -134,7 +134,7 @@ TEST_F(FormeSenzaModifiche, KeepTheValuesOfRowsThatMoveWhenOneIsTakenOutOrInsert
     Valori valori;
     riempi(dati, valori);
     dati.nTiranti = 19;
-    const DatiProgetto prima = dati;
+    const project::DatiProgetto prima = dati;
     preparaMaschera(maschere, NumeroMaschera::tiranti, dati, fase);
     GridModel senza(maschere.corrente(), maschere.valoriTesto());
     senza.eliminaRiga();
@@ -165,4 +165,4 @@ TEST_F(FormeSenzaModifiche, KeepTheValuesOfRowsThatMoveWhenOneIsTakenOutOrInsert
 }
 
 }  // namespace
-}  // namespace korven::project
+}  // namespace korven::masks

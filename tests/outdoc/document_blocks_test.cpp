@@ -7,19 +7,19 @@
 namespace korven::outdoc {
 namespace {
 
-using report::Alignment;
-using report::CellGrid;
-using report::FittedTable;
+using markup::Alignment;
+using markup::CellGrid;
+using markup::FittedTable;
 
 constexpr double u = 72 / 2.54;
-const report::ReportFont font{"Courier New", 10, false, false};  // 6 points a character
+const markup::ReportFont font{"Courier New", 10, false, false};  // 6 points a character
 
 FittedTable fitted(CellGrid& grid, const std::vector<std::string>& rows,
-                   report::BlockKind kind = report::BlockKind::table) {
-    report::ScanState state;
+                   markup::BlockKind kind = markup::BlockKind::table) {
+    markup::ScanState state;
     for (const auto& row : rows) state.rows[++state.rowCount] = row;
     grid.fill(state);
-    return report::fitColumns(
+    return markup::fitColumns(
         grid, kind, [](std::string_view text) { return 6.0 * static_cast<double>(text.size()); });
 }
 
@@ -70,7 +70,7 @@ TEST(TableWords, AlignColumnsByTheirStyleAndTheTableByTheAlignment) {
 
 TEST(ListRow, LeadsToTheFirstValueByPoints) {
     CellGrid grid;
-    const auto list = fitted(grid, {"abc\t1\t22"}, report::BlockKind::list);
+    const auto list = fitted(grid, {"abc\t1\t22"}, markup::BlockKind::list);
     const Paragraph row = listRow(list, Alignment::left, 400);
     EXPECT_DOUBLE_EQ(row.indent, 0.25 * u);
     ASSERT_EQ(row.tabs.size(), 2u);
@@ -82,7 +82,7 @@ TEST(ListRow, LeadsToTheFirstValueByPoints) {
 
 TEST(ListRow, StaysWithinThePage) {
     CellGrid grid;
-    const auto list = fitted(grid, {std::string(90, 'x') + "\t1"}, report::BlockKind::list);
+    const auto list = fitted(grid, {std::string(90, 'x') + "\t1"}, markup::BlockKind::list);
     const Paragraph row = listRow(list, Alignment::right, 400);
     EXPECT_DOUBLE_EQ(row.indent, 0.25 * u);
     EXPECT_DOUBLE_EQ(row.tabs[0].position, 400);
@@ -91,7 +91,7 @@ TEST(ListRow, StaysWithinThePage) {
 TEST(DocumentPage, TakesTheMarginsOfTheMarkup) {
     const auto page = documentPage("2,1.5,1,2,0.5,1,10,Arial");
     EXPECT_NEAR(page.textWidth(), 21 * u - 56 - 42, 1e-9);
-    EXPECT_EQ(page.headerFont, (report::ReportFont{"Arial", 10, false, false}));
+    EXPECT_EQ(page.headerFont, (markup::ReportFont{"Arial", 10, false, false}));
     // Top: 28 + 12 + 14 points; bottom: 56 + 12 + 28.
     EXPECT_EQ(page.words(),
               "<w:pgSz w:w=\"11906\" w:h=\"16838\"/><w:pgMar w:top=\"1080\" w:right=\"840\" "

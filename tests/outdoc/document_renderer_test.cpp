@@ -24,7 +24,7 @@ std::string markup(const Lines& lines) {
 std::optional<std::string> rendered(const Lines& lines) {
     base::LettoreRighe file("r.TAB", markup(lines));
     DocumentRenderer renderer;
-    report::renderMarkup(file, report::RendererKind::print, renderer);
+    markup::renderMarkup(file, markup::RendererKind::print, renderer);
     return renderer.bytes();
 }
 

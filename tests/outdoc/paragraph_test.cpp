@@ -5,8 +5,8 @@
 namespace korven::outdoc {
 namespace {
 
-using report::Alignment;
-using report::ReportFont;
+using markup::Alignment;
+using markup::ReportFont;
 
 bool holds(const std::string& text, std::string_view part) {
     return text.find(part) != std::string::npos;

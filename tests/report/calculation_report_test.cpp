@@ -337,9 +337,9 @@ TEST(ScriviRelazione, NamesTheProjectOfTheRunAtTheFootOfThePages) {
     RisultatiAMano file(3);
     Progetto = muroPiccolo();
     file.scrivi(Progetto, fasiPiccole());
-    analysis::progettiProtetti.corrente = file.cartella / "muro.vecchio.kvd";
+    project::progettiProtetti.corrente = file.cartella / "muro.vecchio.kvd";
     const std::string relazione = contenuto(scriviRelazione());
-    analysis::progettiProtetti = {};
+    project::progettiProtetti = {};
     EXPECT_NE(relazione.find(" \x96 muro.vecchio.kvd \x96 Coulomb"), std::string::npos);
 }
 

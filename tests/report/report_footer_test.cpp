@@ -16,7 +16,7 @@ const std::string inizio = "KORVEN 32 " + std::string(base::versione) + " – ";
 constexpr double mezzaRiga = 283 - 4 / 25.4 * 72;
 
 bool sullaPagina(const std::string& riga) {
-    return estimatedWidth({"Arial", 12}, riga) / 2 <= mezzaRiga;
+    return markup::estimatedWidth({"Arial", 12}, riga) / 2 <= mezzaRiga;
 }
 
 TEST(TestoPiede, TellsVersionProjectMethodSegmentsAndThatNoFactorActsOnTheSoil) {
@@ -41,7 +41,7 @@ TEST(TestoPiede, SaysThatTheRunHadNoMethodForACodeOfNone) {
 TEST(TestoPiede, EndsWithTheSubtitleWhereAllOfItFitsBetweenTheMargins) {
     const std::string intera = testoPiede({"muro.kvd", 1, 50});
     const std::string conSottotitolo = intera + " – Dimensionamento di Paratie e Diaframmi";
-    const double larghezza = estimatedWidth({"Arial", 12}, conSottotitolo);
+    const double larghezza = markup::estimatedWidth({"Arial", 12}, conSottotitolo);
     // One centimetre of the sheet is not used, two are margin on either side.
     const double foglio = larghezza / 72 * 2.54 + 5;
     EXPECT_EQ(testoPiede({"muro.kvd", 1, 50}, {foglio + 0.1}), conSottotitolo);

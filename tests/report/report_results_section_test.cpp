@@ -9,8 +9,8 @@ namespace {
 using test::contiene;
 
 // Two stages on a wall of 3 m in 3 segments, two anchors defined.
-DatiRelazione dueFasi() {
-    DatiRelazione d;
+results::DatiRelazione dueFasi() {
+    results::DatiRelazione d;
     project::azzera(d.progetto);
     d.nNodi = 4;
     d.passo = 1;
@@ -26,7 +26,7 @@ DatiRelazione dueFasi() {
     return d;
 }
 
-std::vector<std::string> scritte(const DatiRelazione& d) {
+std::vector<std::string> scritte(const results::DatiRelazione& d) {
     return test::righe([&](RigheRelazione& r) { sezioneRisultati(d, r); });
 }
 

@@ -11,8 +11,8 @@ using project::Sezione;
 using test::contiene;
 
 // mrPos 100 t m, mrNeg -80 t m; both moments within.
-DatiRelazione relazione(const Sezione& sezione) {
-    DatiRelazione d;
+results::DatiRelazione relazione(const Sezione& sezione) {
+    results::DatiRelazione d;
     d.progetto.sezione = sezione;
     d.chiusura = {.mrd2 = 800000000,
                   .mrd1 = -1000000000,
@@ -22,7 +22,7 @@ DatiRelazione relazione(const Sezione& sezione) {
     return d;
 }
 
-std::vector<std::string> scritte(const DatiRelazione& d) {
+std::vector<std::string> scritte(const results::DatiRelazione& d) {
     return test::righe([&](RigheRelazione& r) { sezioneStrutturale(d, r); });
 }
 

@@ -6,7 +6,7 @@
 #include "support/hand_written_results.hpp"
 #include "support/sample_projects.hpp"
 
-namespace korven::report {
+namespace korven::results {
 namespace {
 
 using project::DatiProgetto;
@@ -287,4 +287,4 @@ TEST(LeggiRisultati, AcceptsALastLineWithoutItsEnd) {
 }
 
 }  // namespace
-}  // namespace korven::report
+}  // namespace korven::results

@@ -4,7 +4,7 @@
 
 #include <initializer_list>
 
-namespace korven::analysis {
+namespace korven::results {
 namespace {
 
 using project::DatiProgetto;
@@ -154,4 +154,4 @@ TEST_F(EstremiTaglioTest, MoreAnchorsThanTheTableHoldsAreAnError) {
 }
 
 }  // namespace
-}  // namespace korven::analysis
+}  // namespace korven::results

@@ -4,7 +4,7 @@
 
 #include "support/sample_sections.hpp"
 
-namespace korven::report {
+namespace korven::results {
 namespace {
 
 // mrPos 100 t m, mrNeg -80 t m.
@@ -70,4 +70,4 @@ TEST(VerificheFallite, AreNoneForASectionThatIsNotDefined) {
 }
 
 }  // namespace
-}  // namespace korven::report
+}  // namespace korven::results

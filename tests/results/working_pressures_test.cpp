@@ -5,7 +5,7 @@
 #include <cmath>
 #include <numbers>
 
-namespace korven::report {
+namespace korven::results {
 namespace {
 
 project::DatiProgetto dueStrati() {
@@ -92,4 +92,4 @@ TEST(PressioniNodo, DownhillAboveTheExcavationAreZeroWithCohesionToo) {
 }
 
 }  // namespace
-}  // namespace korven::report
+}  // namespace korven::results

@@ -2,7 +2,7 @@
 
 #include "review_bench.hpp"
 
-namespace korven::commands {
+namespace korven::review {
 namespace {
 
 std::string parole(int quante) {
@@ -35,4 +35,4 @@ TEST(ControlloDescrizioni, TellsATextOfMoreLinesThanTheLogTakesAndNamesItsLayer)
 }
 
 }  // namespace
-}  // namespace korven::commands
+}  // namespace korven::review

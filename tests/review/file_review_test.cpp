@@ -5,7 +5,7 @@
 #include "project/project_file.hpp"
 #include "review_bench.hpp"
 
-namespace korven::commands {
+namespace korven::review {
 namespace {
 
 std::vector<std::string> righeFile(const std::string& testo) {
@@ -73,4 +73,4 @@ TEST(EsaminaFile, RaisesTheErrorOfAFileThatIsGone) {
 }
 
 }  // namespace
-}  // namespace korven::commands
+}  // namespace korven::review

@@ -4,7 +4,7 @@
 
 #include "review_bench.hpp"
 
-namespace korven::commands {
+namespace korven::review {
 namespace {
 
 using Righe = std::vector<std::string>;
@@ -78,4 +78,4 @@ TEST(ControlloTitoli, NamesTheLines) {
 }
 
 }  // namespace
-}  // namespace korven::commands
+}  // namespace korven::review

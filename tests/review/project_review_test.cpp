@@ -2,7 +2,7 @@
 
 #include "review_bench.hpp"
 
-namespace korven::commands {
+namespace korven::review {
 namespace {
 
 TEST(EsaminaProgetto, FindsNothingInASoundProject) {
@@ -144,4 +144,4 @@ TEST(EsaminaProgetto, PutsWhatPreventsARunInFrontOfTheRest) {
 }
 
 }  // namespace
-}  // namespace korven::commands
+}  // namespace korven::review

@@ -10,7 +10,7 @@
 #include "support/run_harness.hpp"
 #include "support/sample_projects.hpp"
 
-namespace korven::commands {
+namespace korven::review {
 
 using project::DatiProgetto;
 
@@ -52,4 +52,4 @@ inline bool laCorsaRiesce(const DatiProgetto& dati) {
     return !analysis::erroreCalcolo;
 }
 
-}  // namespace korven::commands
+}  // namespace korven::review

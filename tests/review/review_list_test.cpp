@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace korven::commands {
+namespace korven::review {
 namespace {
 
 TEST(ElencoRilievi, KeepsTheOrderWithinWhatPreventsARunAndWithinTheRest) {
@@ -32,4 +32,4 @@ TEST(Intero, IsTrueForWholeNumbersOfEitherSignAlone) {
 }
 
 }  // namespace
-}  // namespace korven::commands
+}  // namespace korven::review

@@ -7,7 +7,7 @@
 #include "support/sample_projects.hpp"
 #include "support/sample_sections.hpp"
 
-namespace korven::commands {
+namespace korven::review {
 namespace {
 
 using project::DatiProgetto;
@@ -255,4 +255,4 @@ TEST(ControlloSezione, RefusesMoreBarsThanARunTakesInTheWordsOfTheRun) {
 }
 
 }  // namespace
-}  // namespace korven::commands
+}  // namespace korven::review

@@ -2,7 +2,7 @@
 #include "review_bench.hpp"
 #include "support/sample_sections.hpp"
 
-namespace korven::commands {
+namespace korven::review {
 namespace {
 
 using project::Sezione;
@@ -80,4 +80,4 @@ TEST(ControlloMostrati, LooksAtTheSectionOfTheTypeInForceAlone) {
 }
 
 }  // namespace
-}  // namespace korven::commands
+}  // namespace korven::review

@@ -3,7 +3,7 @@
 #include "base/number_text.hpp"
 #include "review_bench.hpp"
 
-namespace korven::commands {
+namespace korven::review {
 namespace {
 
 TEST(ControlloTerreno, NamesWhatIsOddAboutLayers) {
@@ -183,4 +183,4 @@ TEST(ControlloSuolo, TellsASpringThatPushesOnOnceAndLetsTheRunGoOn) {
 }
 
 }  // namespace
-}  // namespace korven::commands
+}  // namespace korven::review

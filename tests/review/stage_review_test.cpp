@@ -2,7 +2,7 @@
 
 #include "review_bench.hpp"
 
-namespace korven::commands {
+namespace korven::review {
 namespace {
 
 TEST(ControlloTiranti, NamesWhatIsOddAboutAnchors) {
@@ -82,4 +82,4 @@ TEST(ControlloFasi, NamesStagesOutOfOrderAndExcavationsBelowTheWall) {
 }
 
 }  // namespace
-}  // namespace korven::commands
+}  // namespace korven::review

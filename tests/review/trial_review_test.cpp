@@ -8,7 +8,7 @@
 #include "review_bench.hpp"
 #include "support/sample_sections.hpp"
 
-namespace korven::commands {
+namespace korven::review {
 namespace {
 
 constexpr int massimo = 60;  // iterations of a stage
@@ -129,4 +129,4 @@ TEST(ProvaCalcolo, PartsWhatFlipsInAStageWithoutRest) {
 }
 
 }  // namespace
-}  // namespace korven::commands
+}  // namespace korven::review

@@ -79,15 +79,15 @@ class TastiDiScelta : public ::testing::TestWithParam<int> {
     test::UtenteNuovo utente;
     const test::TestiConsegnati testi;
     test::DialogRecord dialogo;
-    project::Maschere maschere;
+    masks::Maschere maschere;
 };
 
 TEST_P(TastiDiScelta, DifferWithinEachFormThatAMaskDescribes) {
     const auto dati = test::progettoSemplice();
     for (int numero = 1; numero <= 5; ++numero) {
-        const auto quale = static_cast<project::NumeroMaschera>(numero);
-        project::preparaMaschera(maschere, quale, dati, 0);
-        const bool campi = maschere.corrente().genere == project::GenereMaschera::campi;
+        const auto quale = static_cast<masks::NumeroMaschera>(numero);
+        masks::preparaMaschera(maschere, quale, dati, 0);
+        const bool campi = maschere.corrente().genere == masks::GenereMaschera::campi;
         if (campi)
             EXPECT_EQ(tastiDi(Base1(maschere.corrente(), maschere.valoriCombo(),
                                     maschere.valoriTesto(), dialogo, {}, nullptr)),
@@ -109,7 +109,7 @@ TEST_P(TastiDiScelta, DifferWithinTheOtherForms) {
     EXPECT_EQ(tastiDi(ConfStampa({"Courier New"}, {}, dialogo, nullptr)), 3U);
     EXPECT_EQ(tastiDi(TempCalc(nullptr)), 1U);
     static_cast<void>(tastiDi(Informazioni("File corrente: /MURO", nullptr)));
-    static_cast<void>(tastiDi(FinestraGuida(commands::leggiGuida("m.hlp", test::guidaPiccola()))));
+    static_cast<void>(tastiDi(FinestraGuida(help::leggiGuida("m.hlp", test::guidaPiccola()))));
 }
 
 TEST_P(TastiDiScelta, DifferWithinTheBoxes) {

@@ -114,15 +114,15 @@ class Accessibilita : public ::testing::Test {
     test::UtenteNuovo utente;
     const test::TestiConsegnati testi;
     test::DialogRecord dialogo;
-    project::Maschere maschere;
+    masks::Maschere maschere;
 };
 
 TEST_F(Accessibilita, OfTheFormsThatAMaskDescribes) {
     const auto dati = test::progettoSemplice();
     for (int numero = 1; numero <= 5; ++numero) {
-        const auto quale = static_cast<project::NumeroMaschera>(numero);
-        project::preparaMaschera(maschere, quale, dati, 0);
-        if (maschere.corrente().genere == project::GenereMaschera::campi) {
+        const auto quale = static_cast<masks::NumeroMaschera>(numero);
+        masks::preparaMaschera(maschere, quale, dati, 0);
+        if (maschere.corrente().genere == masks::GenereMaschera::campi) {
             Base1 forma(maschere.corrente(), maschere.valoriCombo(), maschere.valoriTesto(),
                         dialogo, {}, nullptr);
             controlla(forma);
@@ -164,7 +164,7 @@ TEST_F(Accessibilita, OfTheWindowsAroundTheProject) {
     controlla(informazioni);
     TempCalc corsa(nullptr);
     controlla(corsa);
-    FinestraGuida guida(commands::leggiGuida("m.hlp", test::guidaPiccola()));
+    FinestraGuida guida(help::leggiGuida("m.hlp", test::guidaPiccola()));
     controlla(guida);
     const test::CartellaProvvisoria cartella;
     test::metti(cartella / "muro.TAB", test::markup({"#RESET", "testo", "#ENDDOCUMENT"}));

@@ -122,13 +122,13 @@ void controlla(QWidget& finestra) {
 }
 
 void controllaMaschere(base::Dialogo& dialogo) {
-    project::Maschere maschere;
+    masks::Maschere maschere;
     maschere.leggiMaschereProgramma();
     const auto dati = test::progettoSemplice();
     for (int numero = 1; numero <= 5; ++numero) {
-        const auto quale = static_cast<project::NumeroMaschera>(numero);
-        project::preparaMaschera(maschere, quale, dati, 0);
-        if (maschere.corrente().genere == project::GenereMaschera::campi) {
+        const auto quale = static_cast<masks::NumeroMaschera>(numero);
+        masks::preparaMaschera(maschere, quale, dati, 0);
+        if (maschere.corrente().genere == masks::GenereMaschera::campi) {
             Base1 forma(maschere.corrente(), maschere.valoriCombo(), maschere.valoriTesto(),
                         dialogo, {}, nullptr);
             controlla(forma);
@@ -151,8 +151,8 @@ void controllaSezioni() {
 }
 
 void controllaGuida(const std::string& nome) {
-    FinestraGuida guida(commands::leggiGuida(
-        nome, test::contenuto(std::string(KORVEN_PROGRAM_FOLDER) + "/" + nome)));
+    FinestraGuida guida(
+        help::leggiGuida(nome, test::contenuto(std::string(KORVEN_PROGRAM_FOLDER) + "/" + nome)));
     controlla(guida);
 }
 

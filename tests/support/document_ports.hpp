@@ -79,7 +79,7 @@ class AmbienteDocumento {
         project::azzeraProgetto();
         project::fileCorrente.clear();
         project::modificato = false;
-        analysis::progettiProtetti = {};
+        project::progettiProtetti = {};
     }
     std::filesystem::path primaCartella_ = std::filesystem::current_path();
 };

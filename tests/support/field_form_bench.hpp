@@ -53,7 +53,7 @@ class BancoBase1 : public ::testing::Test {
 
     QApplication& app = applicazione();
     UtenteNuovo utente;
-    project::Maschera maschera = mascheraCampi();
+    masks::Maschera maschera = mascheraCampi();
     DialogRecord dialogo;
     bool cHeGuida = true;
     std::vector<int> aperti;

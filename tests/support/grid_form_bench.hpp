@@ -73,9 +73,9 @@ class BancoGriglia : public ::testing::Test {
 
     QApplication& app = applicazione();
     UtenteNuovo utente;
-    project::Maschera maschera = mascheraGriglia();
+    masks::Maschera maschera = mascheraGriglia();
     DialogScript dialogo;
-    int capienza = project::CelleGriglia::righe;
+    int capienza = masks::CelleGriglia::righe;
     bool cHeGuida = true;
     std::vector<int> aperti;
     std::unique_ptr<shell::Base2_32> forma;

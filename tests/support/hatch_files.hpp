@@ -12,7 +12,7 @@ namespace korven::test {
 
 struct CampituraDiProva {
     double unita = 0;  ///< [cm]
-    std::vector<report::TrattoCampitura> tratti;
+    std::vector<drawings::TrattoCampitura> tratti;
     std::string nome;
 };
 
@@ -23,7 +23,7 @@ using LibreriaDiProva = std::map<int, CampituraDiProva>;
 inline void scriviLibreria(const CartellaProvvisoria& cartella, const LibreriaDiProva& libreria,
                            const std::string& sigla = "ita") {
     std::string conteggi, unita, nomi, tratti;
-    for (int i = 1; i <= report::numeroCampiture; ++i) {
+    for (int i = 1; i <= drawings::numeroCampiture; ++i) {
         const auto riga = libreria.find(i);
         const CampituraDiProva c = riga == libreria.end() ? CampituraDiProva{} : riga->second;
         conteggi += std::to_string(c.tratti.size()) + "\r\n";

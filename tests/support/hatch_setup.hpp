@@ -11,9 +11,9 @@ class ProvaCampiture : public ProvaPlot {
  protected:
     ProvaCampiture() {
         configura(penneDistinte());
-        report::dimenticaCampiture();
+        drawings::dimenticaCampiture();
     }
-    ~ProvaCampiture() override { report::dimenticaCampiture(); }
+    ~ProvaCampiture() override { drawings::dimenticaCampiture(); }
 };
 
 }  // namespace korven::test

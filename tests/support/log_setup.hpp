@@ -38,7 +38,7 @@ class ProvaStratigrafia : public ProvaCampiture {
         for (std::size_t i = 0; i < piedi.size(); ++i)
             dati.profStrato[static_cast<long>(i + 1)] = piedi[i];
     }
-    void disegna() { report::disegnaStratigrafia(dati); }
+    void disegna() { drawings::disegnaStratigrafia(dati); }
 
     /// True when pen `penna` has drawn a polyline just so.
     [[nodiscard]] static bool tracciata(int penna, const std::string& linea) {

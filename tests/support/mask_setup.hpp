@@ -7,10 +7,10 @@
 
 namespace korven::test {
 
-inline project::CampoMaschera campoMaschera(const std::string& etichetta, const std::string& tipo,
-                                            double minimo = 0, double massimo = 0,
-                                            const std::string& aiuto = "") {
-    project::CampoMaschera campo;
+inline masks::CampoMaschera campoMaschera(const std::string& etichetta, const std::string& tipo,
+                                          double minimo = 0, double massimo = 0,
+                                          const std::string& aiuto = "") {
+    masks::CampoMaschera campo;
     campo.etichetta = etichetta;
     campo.tipo = tipo;
     campo.minimo = minimo;
@@ -21,8 +21,8 @@ inline project::CampoMaschera campoMaschera(const std::string& etichetta, const 
 
 /// A form with two choices, of 2 and 3 items, a number from -5 to 10, a text of 4 characters and a
 /// number picture with two decimals.
-inline project::Maschera mascheraCampi() {
-    project::Maschera maschera;
+inline masks::Maschera mascheraCampi() {
+    masks::Maschera maschera;
     maschera.titolo = "Prova";
     maschera.scelte = {{"libera", "cerniera"}, {"Coulomb", "Rankine", "Bell"}};
     maschera.campi = {campoMaschera("Vincolo", "0", 1, 2, "aiuto 0"),
@@ -36,9 +36,9 @@ inline project::Maschera mascheraCampi() {
 }
 
 /// A grid of four columns: number from 0 to 100, number, text of at most 5 characters, kind 0 or 1.
-inline project::Maschera mascheraGriglia(
-    project::GenereMaschera genere = project::GenereMaschera::griglia) {
-    project::Maschera maschera;
+inline masks::Maschera mascheraGriglia(
+    masks::GenereMaschera genere = masks::GenereMaschera::griglia) {
+    masks::Maschera maschera;
     maschera.genere = genere;
     maschera.titolo = "Tabella";
     maschera.campi = {campoMaschera("N", "####", 1, 500),

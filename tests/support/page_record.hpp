@@ -14,17 +14,17 @@ namespace korven::test {
 /// A printer whose measures can be reckoned by hand: a character is half as wide as the font size,
 /// 0.6 of it in bold; a line is as high as the size, and the next one begins 1.2 of it further
 /// down. Keeps what was written, with page and font, and the order of the calls.
-class PageRecord : public report::ReportPrinter {
+class PageRecord : public markup::ReportPrinter {
  public:
     struct Text {
         int page;
         double x, y;
         std::string text;
-        report::ReportFont font;
+        markup::ReportFont font;
     };
 
-    report::SheetSize sheet() override { return size; }
-    void setFont(const report::ReportFont& font) override { font_ = font; }
+    markup::SheetSize sheet() override { return size; }
+    void setFont(const markup::ReportFont& font) override { font_ = font; }
     double textWidth(std::string_view text) override {
         return font_.size * (font_.bold ? 0.6 : 0.5) *
                static_cast<double>(base::numeroCaratteri(text));
@@ -50,17 +50,17 @@ class PageRecord : public report::ReportPrinter {
         return joined;
     }
 
-    report::SheetSize size{595.3, 841.9};
+    markup::SheetSize size{595.3, 841.9};
     int page = 0;
     std::vector<Text> texts;
     std::vector<std::string> calls;
 
  private:
-    report::ReportFont font_;
+    markup::ReportFont font_;
 };
 
 /// The list of a preview in which every character is 5 points wide.
-class ListRecord : public report::PreviewList {
+class ListRecord : public markup::PreviewList {
  public:
     double windowWidth() override { return width; }
     double textWidth(std::string_view text) override {
@@ -82,8 +82,8 @@ inline std::string markup(const std::vector<std::string>& lines) {
 /// A mark-up printed.
 inline PageRecord printed(const std::vector<std::string>& lines, PageRecord record = {}) {
     base::LettoreRighe file("r.TAB", markup(lines));
-    report::PrintRenderer renderer(record);
-    report::renderMarkup(file, report::RendererKind::print, renderer);
+    markup::PrintRenderer renderer(record);
+    markup::renderMarkup(file, markup::RendererKind::print, renderer);
     renderer.finish();
     return record;
 }
@@ -92,8 +92,8 @@ inline PageRecord printed(const std::vector<std::string>& lines, PageRecord reco
 inline std::vector<std::string> previewed(const std::vector<std::string>& lines) {
     ListRecord record;
     base::LettoreRighe file("r.TAB", markup(lines));
-    report::PreviewRenderer renderer(record);
-    report::renderMarkup(file, report::RendererKind::preview, renderer);
+    markup::PreviewRenderer renderer(record);
+    markup::renderMarkup(file, markup::RendererKind::preview, renderer);
     return record.lines;
 }
 

@@ -94,8 +94,8 @@ TEST(DeliveredExamples, KeepGraphicCodesAndLeaders) {
             const std::string& before = italian->descrStrato[j];
             const std::string& after = translated->descrStrato[j];
             EXPECT_EQ(after.substr(0, after.find(' ')), before.substr(0, before.find(' ')));
-            EXPECT_EQ(report::leggiDescrizione(after).richiamo,
-                      report::leggiDescrizione(before).richiamo);
+            EXPECT_EQ(drawings::leggiDescrizione(after).richiamo,
+                      drawings::leggiDescrizione(before).richiamo);
         }
     });
 }

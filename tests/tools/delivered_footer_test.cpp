@@ -26,7 +26,7 @@ class PiedeConsegnato : public testing::TestWithParam<int> {
 
     // Both ends at least 4 mm inside the page: its middle is 283 points from its nearer end.
     static bool sullaPagina(const std::string& riga) {
-        return estimatedWidth({"Arial", 12}, riga) / 2 <= 283 - 4 / 25.4 * 72;
+        return markup::estimatedWidth({"Arial", 12}, riga) / 2 <= 283 - 4 / 25.4 * 72;
     }
 };
 

@@ -24,8 +24,8 @@
 namespace korven {
 namespace {
 
-using commands::Guida;
-using commands::PaginaGuida;
+using help::Guida;
+using help::PaginaGuida;
 
 constexpr int languages[] = {1, 5};
 
@@ -48,7 +48,7 @@ std::vector<std::string> anchors(const PaginaGuida& page) {
 std::map<std::string, std::string> headings(const PaginaGuida& page) {
     std::map<std::string, std::string> found;
     for (const auto& heading : between(page.html, "<h3>", "</h3>"))
-        found[between(heading, "<a name=\"", "\"").at(0)] = commands::testoPagina(heading);
+        found[between(heading, "<a name=\"", "\"").at(0)] = help::testoPagina(heading);
     return found;
 }
 
@@ -61,20 +61,20 @@ class DeliveredHelp : public ::testing::Test {
         base::tabellaTesti = {};
     }
     static Guida help(int language) {
-        return commands::leggiGuida(
+        return help::leggiGuida(
             base::fileProgramma("module06" + std::string(base::siglaLingua(language)) + ".hlp"));
     }
     static const PaginaGuida& page(const Guida& guide, int entry) {
-        const auto* found = commands::paginaDelContesto(guide, commands::contestoAiuto(entry));
+        const auto* found = help::paginaDelContesto(guide, help::contestoAiuto(entry));
         static const PaginaGuida none;
         EXPECT_NE(found, nullptr) << "entry " << entry;
         return found != nullptr ? *found : none;
     }
-    static project::Maschere masks(int language) {
+    static masks::Maschere masks(int language) {
         base::caricaTesti(base::fileProgramma("texts01.txt"), base::fileProgramma("texts06.txt"),
                           base::fileProgramma("texts32.txt"));
         base::impostaLingua(language);
-        project::Maschere all;
+        masks::Maschere all;
         all.leggiMaschereProgramma();
         return all;
     }
@@ -98,7 +98,7 @@ TEST_F(DeliveredHelp, HasAPageForEveryFormThatNoMenuItemNames) {
         const Guida guide = help(language);
         for (const char* form : {"GRAFICA", "Editacfg", "ConfStampa", "TempCalc", "guida",
                                  "INFORMAZIONI", "selezling", "DefinEJ", "Form1"})
-            EXPECT_FALSE(page(guide, commands::voceForma(form)).html.empty()) << form;
+            EXPECT_FALSE(page(guide, help::voceForma(form)).html.empty()) << form;
     }
 }
 
@@ -110,10 +110,10 @@ TEST_F(DeliveredHelp, TellsOfEveryFieldOfEveryMaskUnderItsLabel) {
         for (int number = 1; number <= 5; ++number) {
             all.selezionaMaschera(number);
             const auto& mask = all.corrente();
-            EXPECT_EQ(project::voceAiuto(mask), mask.contesto);
+            EXPECT_EQ(masks::voceAiuto(mask), mask.contesto);
             auto found = headings(page(guide, mask.contesto));
             for (std::size_t i = 0; i < mask.campi.size(); ++i, ++looked) {
-                const std::string anchor = commands::ancoraCampo(std::to_string(i + 1));
+                const std::string anchor = help::ancoraCampo(std::to_string(i + 1));
                 EXPECT_EQ(base::maiuscolo(found[anchor]), base::maiuscolo(mask.campi[i].etichetta))
                     << mask.titolo << ' ' << anchor;
             }
@@ -137,8 +137,8 @@ TEST_F(DeliveredHelp, TellsOfEveryControlOfTheOtherForms) {
         const Guida guide = help(language);
         for (const auto& [form, names] : controls)
             for (const auto& name : names)
-                EXPECT_TRUE(commands::haAncora(page(guide, commands::voceForma(form)),
-                                               commands::ancoraCampo(name)))
+                EXPECT_TRUE(
+                    help::haAncora(page(guide, help::voceForma(form)), help::ancoraCampo(name)))
                     << form << ' ' << name;
     }
 }
@@ -170,9 +170,9 @@ TEST_F(DeliveredHelp, HasNoLinkThatLeadsNowhere) {
             for (const auto& link : between(from.html, "href=\"", "\"")) {
                 ++looked;
                 const auto hash = std::min(link.find('#'), link.size());
-                const auto* to = commands::paginaDiNome(guide, link.substr(0, hash));
+                const auto* to = help::paginaDiNome(guide, link.substr(0, hash));
                 ASSERT_NE(to, nullptr) << from.nome << ": " << link;
-                EXPECT_TRUE(hash == link.size() || commands::haAncora(*to, link.substr(hash + 1)))
+                EXPECT_TRUE(hash == link.size() || help::haAncora(*to, link.substr(hash + 1)))
                     << from.nome << ": " << link;
             }
         EXPECT_GT(looked, 100);
@@ -197,7 +197,7 @@ TEST_F(DeliveredHelp, QuotesMessagesAsTheProgramShowsThem) {
         int looked = 0;
         for (const auto& page : guide.pagine)
             for (const auto& row : between(page.html, "<tr><td>\"", "\"</td>")) {
-                std::string quoted = commands::testoPagina(row);
+                std::string quoted = help::testoPagina(row);
                 if (quoted.starts_with("...")) quoted.erase(0, 3);
                 if (quoted.ends_with("...")) quoted.erase(quoted.size() - 3);
                 ++looked;
@@ -215,7 +215,7 @@ TEST_F(DeliveredHelp, QuotesMessagesAsTheProgramShowsThem) {
 
 TEST_F(DeliveredHelp, FindsWhatAnEngineerLooksFor) {
     const auto first = [](const Guida& guide, const char* words) {
-        const auto found = commands::cercaNellaGuida(guide, words);
+        const auto found = help::cercaNellaGuida(guide, words);
         return found.empty() ? std::string() : found.front().pagina->nome;
     };
     const Guida italian = help(1), english = help(5);

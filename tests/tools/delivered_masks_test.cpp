@@ -23,8 +23,8 @@
 namespace korven {
 namespace {
 
-using project::Maschera;
-using project::NumeroMaschera;
+using masks::Maschera;
+using masks::NumeroMaschera;
 
 constexpr NumeroMaschera allMasks[] = {NumeroMaschera::titoli, NumeroMaschera::paratia,
                                        NumeroMaschera::strati, NumeroMaschera::tiranti,
@@ -44,11 +44,11 @@ class DeliveredMasks : public ::testing::Test {
         base::tabellaTesti = {};
     }
     // The masks in a language, with the texts of the program folder.
-    project::Maschere masks(int language) {
+    masks::Maschere masks(int language) {
         base::caricaTesti(base::fileProgramma("texts01.txt"), base::fileProgramma("texts06.txt"),
                           base::fileProgramma("texts32.txt"));
         base::impostaLingua(language);
-        project::Maschere all;
+        masks::Maschere all;
         all.leggiMaschereProgramma();
         return all;
     }
@@ -102,7 +102,7 @@ TEST_F(DeliveredMasks, HaveRoomForTheirTextsInEveryLanguage) {
 
 TEST_F(DeliveredMasks, ExplainEveryFieldThatCanBeTypedInto) {
     forEachMask([](const Maschera& mask, int) {
-        const bool grid = mask.genere != project::GenereMaschera::campi;
+        const bool grid = mask.genere != masks::GenereMaschera::campi;
         for (std::size_t i = grid ? 1 : 0; i < mask.campi.size(); ++i)
             EXPECT_FALSE(mask.campi[i].aiuto.empty()) << mask.campi[i].etichetta;
     });
@@ -124,7 +124,7 @@ TEST_F(DeliveredMasks, KeepUnitsAndKeysInEveryLanguage) {
                     return start == std::string::npos ? std::string() : label.substr(start);
                 };
                 EXPECT_EQ(unit(a[i].etichetta), unit(b[i].etichetta));
-                EXPECT_EQ(project::chiaviColonna(a[i].aiuto), project::chiaviColonna(b[i].aiuto));
+                EXPECT_EQ(masks::chiaviColonna(a[i].aiuto), masks::chiaviColonna(b[i].aiuto));
             }
         }
     }
@@ -146,12 +146,12 @@ TEST_F(DeliveredMasks, GiveTheButtonsOfAFormDifferentAccessKeys) {
 
 TEST_F(DeliveredMasks, OfferConfirmCancelRowsAndHelp) {
     forEachMask([](const Maschera& mask, int) {
-        const bool grid = mask.genere != project::GenereMaschera::campi;
+        const bool grid = mask.genere != masks::GenereMaschera::campi;
         EXPECT_EQ(mask.pulsanti.size(), grid ? 5u : 3u);
         if (grid) {
-            EXPECT_EQ(project::azionePulsante(mask, 4), project::AzioneGriglia::guida);
+            EXPECT_EQ(masks::azionePulsante(mask, 4), masks::AzioneGriglia::guida);
         }
-        EXPECT_EQ(project::voceAiuto(mask), mask.contesto);
+        EXPECT_EQ(masks::voceAiuto(mask), mask.contesto);
     });
     auto all = masks(1);
     std::vector<int> contexts;
@@ -169,12 +169,11 @@ TEST_F(DeliveredMasks, AcceptWhatANewProjectHolds) {
     project::DatiProgetto fresh;
     project::azzera(fresh);
     for (const auto number : {NumeroMaschera::titoli, NumeroMaschera::paratia}) {
-        project::preparaMaschera(all, number, fresh, 0);
+        masks::preparaMaschera(all, number, fresh, 0);
         const auto& mask = all.corrente();
-        const project::FieldModel form(mask, all.valoriCombo(), all.valoriTesto());
+        const masks::FieldModel form(mask, all.valoriCombo(), all.valoriTesto());
         for (std::size_t i = mask.scelte.size(); i < mask.campi.size(); ++i)
-            EXPECT_EQ(project::controllaCampo(mask.campi[i], form.testo(i)),
-                      project::Vizio::nessuno)
+            EXPECT_EQ(masks::controllaCampo(mask.campi[i], form.testo(i)), masks::Vizio::nessuno)
                 << mask.campi[i].etichetta;
     }
 }
@@ -182,18 +181,18 @@ TEST_F(DeliveredMasks, AcceptWhatANewProjectHolds) {
 TEST_F(DeliveredMasks, LetALayerHaveNoDescription) {
     auto all = masks(1);
     all.selezionaMaschera(static_cast<int>(NumeroMaschera::strati));
-    EXPECT_EQ(all.corrente().genere, project::GenereMaschera::grigliaLibera);
+    EXPECT_EQ(all.corrente().genere, masks::GenereMaschera::grigliaLibera);
     const auto& description = all.corrente().campi.back();
-    EXPECT_EQ(project::controllaCella(description, std::string(500, 'x')), project::Vizio::nessuno);
+    EXPECT_EQ(masks::controllaCella(description, std::string(500, 'x')), masks::Vizio::nessuno);
 }
 
 TEST_F(DeliveredMasks, TakeTheKindOfAnAnchorByItsKeysAlone) {
     auto all = masks(5);
     all.selezionaMaschera(static_cast<int>(NumeroMaschera::tiranti));
     const auto& kind = all.corrente().campi.back();
-    EXPECT_EQ(project::controllaCella(kind, "0"), project::Vizio::nessuno);
-    EXPECT_EQ(project::controllaCella(kind, "1"), project::Vizio::nessuno);
-    EXPECT_EQ(project::controllaCella(kind, "2"), project::Vizio::chiave);
+    EXPECT_EQ(masks::controllaCella(kind, "0"), masks::Vizio::nessuno);
+    EXPECT_EQ(masks::controllaCella(kind, "1"), masks::Vizio::nessuno);
+    EXPECT_EQ(masks::controllaCella(kind, "2"), masks::Vizio::chiave);
 }
 
 }  // namespace

@@ -56,13 +56,13 @@ class TestiDellaSezione : public testing::Test {
     // (strokes of no set direction) may pass under the head: they stand where the scale puts them.
     std::string difetto() {
         dati.sezione = s;
-        structure::disegnaSezione(dati);
+        drawings::disegnaSezione(dati);
         const auto& testi = plot::statoPlot.archivio.testi();
         std::vector<Riquadro> riquadri;
         for (const auto& t : testi) riquadri.push_back(riquadro(t));
         for (std::size_t i = 0; i < testi.size(); ++i) {
             const bool quota = testi[i].altezza < 0.25;
-            if (quota && !dentro(riquadri[i], structure::stanzaQuote))
+            if (quota && !dentro(riquadri[i], drawings::stanzaQuote))
                 return "outside: " + testi[i].testo;
             for (std::size_t j = 0; j < i; ++j)
                 if (siCoprono(riquadri[i], riquadri[j]))

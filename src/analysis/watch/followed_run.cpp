@@ -2,7 +2,7 @@
 
 #include "analysis/run_flags.hpp"
 
-namespace korven::commands {
+namespace korven::analysis {
 
 void CorsaSeguita::apri() {
     ferma_ = false;
@@ -19,4 +19,4 @@ std::string CorsaSeguita::arresto() const {
     return ferma_ ? traccia_.arrestoInBreve("Calcolo interrotto") : std::string();
 }
 
-}  // namespace korven::commands
+}  // namespace korven::analysis

@@ -6,7 +6,7 @@
 #include "analysis/progress.hpp"
 #include "analysis/watch/iteration_trace.hpp"
 
-namespace korven::commands {
+namespace korven::analysis {
 
 /// Follows a run that its user may stop, to tell afterwards where it stood. What is shown goes on
 /// to another progress display.
@@ -30,4 +30,4 @@ class CorsaSeguita : public analysis::Avanzamento {
     bool ferma_ = false;  // the last iteration found the stop asked for
 };
 
-}  // namespace korven::commands
+}  // namespace korven::analysis

@@ -5,15 +5,13 @@
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
 
-namespace korven::commands {
+namespace korven::analysis {
 
 namespace {
 
 // A stage without rest is told by what still changed in its last iterations.
 constexpr int ultimeIterazioni = 20;
 
-using analysis::StatoIterazione;
-using analysis::StatoLato;
 using base::traduttore;
 
 std::string parola(StatoLato stato) {
@@ -200,4 +198,4 @@ std::string TracciaIterazioni::arrestoInBreve(std::string_view motivo) const {
     return testo;
 }
 
-}  // namespace korven::commands
+}  // namespace korven::analysis

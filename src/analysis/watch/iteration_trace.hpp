@@ -6,7 +6,7 @@
 
 #include "analysis/progress.hpp"
 
-namespace korven::commands {
+namespace korven::analysis {
 
 /// Follows the iteration of one stage and remembers which sides of which nodes changed their state,
 /// and which anchors dropped out or came back: what an engineer must know about a stage that finds
@@ -67,4 +67,4 @@ class TracciaIterazioni {
     std::vector<CambioTirante> tiranti_;
 };
 
-}  // namespace korven::commands
+}  // namespace korven::analysis

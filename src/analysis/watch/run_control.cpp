@@ -2,7 +2,7 @@
 
 #include "analysis/run_flags.hpp"
 
-namespace korven::commands {
+namespace korven::analysis {
 
 void ControlloCorsa::apri() {
     fasi_.clear();
@@ -36,4 +36,4 @@ void ControlloCorsa::ferma() {
     motivo_ = traccia_.arresto("Calcolo interrotto: nessuna convergenza");
 }
 
-}  // namespace korven::commands
+}  // namespace korven::analysis

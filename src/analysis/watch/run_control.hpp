@@ -7,7 +7,7 @@
 #include "analysis/progress.hpp"
 #include "analysis/watch/iteration_trace.hpp"
 
-namespace korven::commands {
+namespace korven::analysis {
 
 /// Iterations after which a stage that `--traccia` follows is worth a record.
 inline constexpr int iterazioniTracciate = 20;
@@ -59,4 +59,4 @@ class ControlloCorsa : public analysis::Avanzamento {
     std::vector<std::string> motivo_;
 };
 
-}  // namespace korven::commands
+}  // namespace korven::analysis

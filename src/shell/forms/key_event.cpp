@@ -8,7 +8,7 @@ namespace korven::shell {
 
 namespace {
 
-using project::Tasto;
+using masks::Tasto;
 
 constexpr std::pair<int, Tasto> noti[] = {
     {Qt::Key_Return, Tasto::invio}, {Qt::Key_Enter, Tasto::invio},

@@ -12,7 +12,7 @@ namespace korven::shell {
 /// keyboards it types a comma and "." is the decimal point everywhere in the program.
 /// @return nothing for a key that the models give no meaning, and for those pressed with Ctrl or
 ///         Alt; a character of the third level (AltGr) is typed like any other
-[[nodiscard]] std::optional<project::Tasto> tastoDi(const QKeyEvent& evento);
+[[nodiscard]] std::optional<masks::Tasto> tastoDi(const QKeyEvent& evento);
 
 /// True for the decimal key of the number pad where it types something else than ".".
 [[nodiscard]] bool virgolaDelTastierino(const QKeyEvent& evento);

@@ -42,21 +42,21 @@ bool haNome(const QTextBlock& blocco, const QString& ancora) {
 
 }  // namespace
 
-GuidaBrowser::GuidaBrowser(const commands::Guida& guida, QWidget* padre)
+GuidaBrowser::GuidaBrowser(const help::Guida& guida, QWidget* padre)
     : QTextBrowser(padre), guida_(guida) {
     setOpenExternalLinks(false);
     document()->setDefaultStyleSheet(QLatin1String(stile));
     document()->setDocumentMargin(14);
 }
 
-void GuidaBrowser::vai(const commands::PaginaGuida& pagina, const std::string& ancora) {
+void GuidaBrowser::vai(const help::PaginaGuida& pagina, const std::string& ancora) {
     QUrl indirizzo(QStringLiteral("guida:/") + qt(pagina.nome));
-    if (commands::haAncora(pagina, ancora)) indirizzo.setFragment(qt(ancora));
+    if (help::haAncora(pagina, ancora)) indirizzo.setFragment(qt(ancora));
     setSource(indirizzo, QTextDocument::HtmlResource);
 }
 
-const commands::PaginaGuida* GuidaBrowser::paginaDi(const QUrl& indirizzo) const {
-    return commands::paginaDiNome(guida_, indirizzo.path().mid(1).toStdString());
+const help::PaginaGuida* GuidaBrowser::paginaDi(const QUrl& indirizzo) const {
+    return help::paginaDiNome(guida_, indirizzo.path().mid(1).toStdString());
 }
 
 QVariant GuidaBrowser::loadResource(int, const QUrl& indirizzo) {
@@ -85,7 +85,7 @@ void GuidaBrowser::evidenzia(const std::vector<std::string>& parole, const QStri
         };
         if (!ancora.isEmpty() && haNome(blocco, ancora))
             scegli(blocco.position(), blocco.position() + blocco.length() - 1);
-        for (const auto& [da, a] : commands::postiTrovati(testo, parole))
+        for (const auto& [da, a] : help::postiTrovati(testo, parole))
             scegli(posizione(da), posizione(a));
     }
     setExtraSelections(scelte);

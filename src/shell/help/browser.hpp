@@ -13,13 +13,13 @@ namespace korven::shell {
 class GuidaBrowser : public QTextBrowser {
  public:
     /// @param guida  not owned; must outlive the browser
-    GuidaBrowser(const commands::Guida& guida, QWidget* padre);
+    GuidaBrowser(const help::Guida& guida, QWidget* padre);
 
     /// Goes to a page, and in it to a place if it has that.
-    void vai(const commands::PaginaGuida& pagina, const std::string& ancora = {});
+    void vai(const help::PaginaGuida& pagina, const std::string& ancora = {});
 
     /// The page of an address; nullptr if it is none.
-    [[nodiscard]] const commands::PaginaGuida* paginaDi(const QUrl& indirizzo) const;
+    [[nodiscard]] const help::PaginaGuida* paginaDi(const QUrl& indirizzo) const;
 
     /// Marks in the page shown the words of a search and the heading of a place.
     void evidenzia(const std::vector<std::string>& parole, const QString& ancora = {});
@@ -33,7 +33,7 @@ class GuidaBrowser : public QTextBrowser {
     void wheelEvent(QWheelEvent* evento) override;
 
  private:
-    const commands::Guida& guida_;
+    const help::Guida& guida_;
     int ingrandimento_ = 0;
 };
 

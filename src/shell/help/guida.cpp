@@ -40,7 +40,7 @@ QToolButton* bottone(const char* nome, const QString& testo, const QString& tast
 
 }  // namespace
 
-FinestraGuida::FinestraGuida(commands::Guida guida) : guida_(std::move(guida)) {
+FinestraGuida::FinestraGuida(help::Guida guida) : guida_(std::move(guida)) {
     setObjectName(QStringLiteral("guida"));
     setWindowTitle(QStringLiteral("KORVEN 32 - ") + tradotto("Guida"));
     setAttribute(Qt::WA_QuitOnClose, false);
@@ -189,7 +189,7 @@ void FinestraGuida::riempiAlbero() {
     albero_->expandAll();
 }
 
-void FinestraGuida::mostra(const commands::PaginaGuida& pagina, const std::string& ancora) {
+void FinestraGuida::mostra(const help::PaginaGuida& pagina, const std::string& ancora) {
     pagina_->vai(pagina, ancora);
 }
 
@@ -202,7 +202,7 @@ void FinestraGuida::mostraSommario() {
 void FinestraGuida::cerca(const QString& testo) {
     const std::string cercato = testo.toStdString();
     trovate_->clear();
-    for (const auto& trovata : commands::cercaNellaGuida(guida_, cercato)) {
+    for (const auto& trovata : help::cercaNellaGuida(guida_, cercato)) {
         auto* voce = new QListWidgetItem(qt(trovata.pagina->titolo), trovate_);
         voce->setData(datoBrano, qt(trovata.brano));
         voce->setData(datoPagina, static_cast<qulonglong>(trovata.pagina - guida_.pagine.data()));
@@ -211,9 +211,9 @@ void FinestraGuida::cerca(const QString& testo) {
                                            : tradotto("Pagine trovate") +
                                                  QStringLiteral(": %1").arg(trovate_->count()));
     trovate_->setCurrentRow(0);
-    const bool parole = !commands::paroleCercate(cercato).empty();
+    const bool parole = !help::paroleCercate(cercato).empty();
     colonna_->setCurrentWidget(parole ? risultati_ : albero_);
-    pagina_->evidenzia(commands::paroleCercate(cercato));
+    pagina_->evidenzia(help::paroleCercate(cercato));
 }
 
 void FinestraGuida::apriTrovata() {
@@ -229,7 +229,7 @@ void FinestraGuida::segui(const QUrl& indirizzo) {
         if ((*voce)->data(0, datoPagina).isValid() &&
             (*voce)->data(0, datoPagina).toULongLong() == indice)
             albero_->setCurrentItem(*voce);
-    pagina_->evidenzia(commands::paroleCercate(cerca_->text().toStdString()), indirizzo.fragment());
+    pagina_->evidenzia(help::paroleCercate(cerca_->text().toStdString()), indirizzo.fragment());
 }
 
 void FinestraGuida::ingrandisci(int passi) {

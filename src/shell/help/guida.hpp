@@ -23,14 +23,14 @@ class GuidaBrowser;
 /// page, Ctrl and plus, minus, 0 for the size of the letters, Esc closes.
 class FinestraGuida : public QWidget {
  public:
-    explicit FinestraGuida(commands::Guida guida);
+    explicit FinestraGuida(help::Guida guida);
 
     /// Shows a page, at one of its places if it has it.
-    void mostra(const commands::PaginaGuida& pagina, const std::string& ancora = {});
+    void mostra(const help::PaginaGuida& pagina, const std::string& ancora = {});
     /// Shows the first page, with the contents beside it.
     void mostraSommario();
 
-    [[nodiscard]] const commands::Guida& guida() const { return guida_; }
+    [[nodiscard]] const help::Guida& guida() const { return guida_; }
 
  protected:
     void closeEvent(QCloseEvent* evento) override;
@@ -45,7 +45,7 @@ class FinestraGuida : public QWidget {
     void segui(const QUrl& indirizzo);
     void ingrandisci(int passi);
 
-    const commands::Guida guida_;
+    const help::Guida guida_;
     GuidaBrowser* pagina_ = nullptr;
     QLineEdit* cerca_ = nullptr;
     QStackedWidget* colonna_ = nullptr;

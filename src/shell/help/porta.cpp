@@ -30,15 +30,15 @@ std::string nomeDi(const QWidget& controllo) { return controllo.objectName().toS
 // The entry that a window or control stands for; 0 if it says nothing.
 int voceDi(const QWidget& controllo) {
     const int detta = controllo.property(proprietaContesto).toInt();
-    return detta != 0 ? detta : commands::voceForma(nomeDi(controllo));
+    return detta != 0 ? detta : help::voceForma(nomeDi(controllo));
 }
 
 void aggiungiAncora(const QWidget& controllo, std::vector<std::string>& ancore) {
     if (const auto* griglia = qobject_cast<const QTableView*>(&controllo))
-        ancore.push_back(commands::ancoraColonna(griglia->currentIndex().column()));
+        ancore.push_back(help::ancoraColonna(griglia->currentIndex().column()));
     const std::string campo = controllo.property(proprietaCampo).toString().toStdString();
     for (const auto& nome : {campo, nomeDi(controllo)})
-        if (!nome.empty()) ancore.push_back(commands::ancoraCampo(nome));
+        if (!nome.empty()) ancore.push_back(help::ancoraCampo(nome));
 }
 
 }  // namespace
@@ -56,16 +56,16 @@ PortaGuida::~PortaGuida() {
 bool PortaGuida::carica() {
     if (finestra_) return true;
     return conAvviso(dialogo_, [this] {
-        finestra_ = std::make_unique<FinestraGuida>(commands::leggiGuida(commands::fileAiuto));
+        finestra_ = std::make_unique<FinestraGuida>(help::leggiGuida(commands::fileAiuto));
     });
 }
 
 void PortaGuida::apri(int contesto, const std::vector<std::string>& ancore) {
     if (!carica()) return;
-    if (const auto* pagina = commands::paginaDelContesto(finestra_->guida(), contesto)) {
+    if (const auto* pagina = help::paginaDelContesto(finestra_->guida(), contesto)) {
         std::string ancora;
         for (auto i = ancore.rbegin(); i != ancore.rend(); ++i)
-            if (commands::haAncora(*pagina, *i)) ancora = *i;
+            if (help::haAncora(*pagina, *i)) ancora = *i;
         finestra_->mostra(*pagina, ancora);
     } else {
         finestra_->mostraSommario();
@@ -98,14 +98,14 @@ bool PortaGuida::f1(QWidget& controllo) {
     if (qobject_cast<QMenu*>(&controllo) != nullptr) return false;  // the main form sees to it
     if (const auto* barra = qobject_cast<QMenuBar*>(&controllo);
         barra != nullptr && barra->activeAction() != nullptr) {
-        apri(commands::contestoAiuto(barra->activeAction()->property(proprietaVoceMenu).toInt()));
+        apri(help::contestoAiuto(barra->activeAction()->property(proprietaVoceMenu).toInt()));
         return true;
     }
     std::vector<std::string> ancore;
     for (QWidget* w = &controllo; w != nullptr; w = w->parentWidget()) {
-        if (commands::senzaF1(nomeDi(*w))) return false;
+        if (help::senzaF1(nomeDi(*w))) return false;
         if (const int voce = voceDi(*w); voce != 0) {
-            apri(commands::contestoAiuto(voce), ancore);
+            apri(help::contestoAiuto(voce), ancore);
             return true;
         }
         aggiungiAncora(*w, ancore);

@@ -37,7 +37,7 @@ QString nome(const char* gruppo, std::size_t indice) {
 
 }  // namespace
 
-Base1::Base1(const project::Maschera& maschera, std::vector<double> combo,
+Base1::Base1(const masks::Maschera& maschera, std::vector<double> combo,
              std::vector<std::string> testi, base::Dialogo& dialogo, GuidaForme guida,
              QWidget* padre)
     : MaskForm(maschera, dialogo, std::move(guida), QStringLiteral("base1"), padre),
@@ -191,7 +191,7 @@ void Base1::spiega() {
 bool Base1::premuto(std::size_t campo, const QKeyEvent& evento) {
     const auto tasto = tastoDi(evento);
     if (!tasto) return false;
-    using enum project::Tasto;
+    using enum masks::Tasto;
     if (*tasto == f1) return true;
     if (*tasto == su || *tasto == giu || *tasto == invio) {
         {

@@ -17,7 +17,7 @@ namespace korven::shell {
 class HelpStrip;
 
 /// The form `base1`: labelled fields as a mask describes them. Its rules are those of
-/// `project::FieldModel`.
+/// `masks::FieldModel`.
 ///
 /// Controls by name, counted from 0 each: `Label1_n` the labels of all fields, `Combo1_n` the
 /// choices, `Text1_n` the other fields, `Command1_n` the buttons; `Labelhelp` the help strip. Left
@@ -25,12 +25,12 @@ class HelpStrip;
 class Base1 : public MaskForm {
  public:
     /// The arguments are those of `FieldModel` and `MaskForm`.
-    Base1(const project::Maschera& maschera, std::vector<double> combo,
+    Base1(const masks::Maschera& maschera, std::vector<double> combo,
           std::vector<std::string> testi, base::Dialogo& dialogo, GuidaForme guida, QWidget* padre);
 
-    [[nodiscard]] const project::FieldModel& modello() const { return modello_; }
+    [[nodiscard]] const masks::FieldModel& modello() const { return modello_; }
     /// The strip shows the notes on texts too.
-    void annota(project::FieldModel::Nota nota) {
+    void annota(masks::FieldModel::Nota nota) {
         modello_.annota(std::move(nota));
         spiega();
     }
@@ -50,7 +50,7 @@ class Base1 : public MaskForm {
     void spiega();
     void azione(std::size_t pulsante);
 
-    project::FieldModel modello_;
+    masks::FieldModel modello_;
     std::vector<QWidget*> controlli_;  // the field's combo or text box
     QScrollArea* area_ = nullptr;
     HelpStrip* aiuto_ = nullptr;

@@ -19,13 +19,13 @@ constexpr int larghezzaMinima = 400;
 
 }  // namespace
 
-Base2_32::Base2_32(const project::Maschera& maschera, const std::vector<std::string>& testi,
+Base2_32::Base2_32(const masks::Maschera& maschera, const std::vector<std::string>& testi,
                    base::Dialogo& dialogo, GuidaForme guida, QWidget* padre, int capienza)
     : MaskForm(maschera, dialogo, std::move(guida), QStringLiteral("base2_32"), padre),
       modello_(maschera, testi, capienza) {
     setWindowTitle(qt(modello_.titolo()));
     QStringList aiuti;
-    for (const auto& colonna : maschera.campi) aiuti << qt(project::aiutoMostrato(colonna.aiuto));
+    for (const auto& colonna : maschera.campi) aiuti << qt(masks::aiutoMostrato(colonna.aiuto));
     aiuto_ = new HelpStrip(
         aiuti, [this] { modello_.mostraAiuto(this->dialogo()); }, this);
     aiuto_->setObjectName(QStringLiteral("Label1"));
@@ -67,19 +67,19 @@ void Base2_32::reject() {
 }
 
 void Base2_32::azione(std::size_t pulsante) {
-    switch (project::azionePulsante(maschera(), pulsante)) {
-        case project::AzioneGriglia::conferma:
+    switch (masks::azionePulsante(maschera(), pulsante)) {
+        case masks::AzioneGriglia::conferma:
             if (modello_.conferma(dialogo())) return accept();
             break;
-        case project::AzioneGriglia::annulla:
+        case masks::AzioneGriglia::annulla:
             return MaskForm::reject();
-        case project::AzioneGriglia::inserisciRiga:
+        case masks::AzioneGriglia::inserisciRiga:
             modello_.inserisciRiga(dialogo());
             break;
-        case project::AzioneGriglia::eliminaRiga:
+        case masks::AzioneGriglia::eliminaRiga:
             modello_.eliminaRiga();
             break;
-        case project::AzioneGriglia::guida:
+        case masks::AzioneGriglia::guida:
             mostraGuida();
             break;
     }

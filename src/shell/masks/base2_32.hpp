@@ -12,7 +12,7 @@ class GridView;
 class HelpStrip;
 
 /// The form `base2_32`: a table as a mask describes it. Its rules are those of
-/// `project::GridModel`.
+/// `masks::GridModel`.
 ///
 /// Controls by name: `MSFlexGrid1` the grid, `Text1` its floating editor, `Label1` the help strip,
 /// `Command1_n` the buttons. F1 opens the help of the form.
@@ -20,11 +20,11 @@ class Base2_32 : public MaskForm {
  public:
     /// The arguments are those of `GridModel` and `MaskForm`.
     /// @throws base::ErroreIndice for more than 500 rows
-    Base2_32(const project::Maschera& maschera, const std::vector<std::string>& testi,
+    Base2_32(const masks::Maschera& maschera, const std::vector<std::string>& testi,
              base::Dialogo& dialogo, GuidaForme guida, QWidget* padre,
-             int capienza = project::CelleGriglia::righe);
+             int capienza = masks::CelleGriglia::righe);
 
-    [[nodiscard]] const project::GridModel& modello() const { return modello_; }
+    [[nodiscard]] const masks::GridModel& modello() const { return modello_; }
 
     /// Esc and the close box: rows that were changed are asked about. The cancel button just
     /// closes.
@@ -37,7 +37,7 @@ class Base2_32 : public MaskForm {
     void azione(std::size_t pulsante);
     void spiega();
 
-    project::GridModel modello_;
+    masks::GridModel modello_;
     GridView* griglia_ = nullptr;
     HelpStrip* aiuto_ = nullptr;
 };

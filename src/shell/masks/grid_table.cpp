@@ -9,7 +9,7 @@ void GridTable::cambiate() {
 }
 
 int GridTable::rowCount(const QModelIndex& sotto) const {
-    return sotto.isValid() ? 0 : project::CelleGriglia::righe;
+    return sotto.isValid() ? 0 : masks::CelleGriglia::righe;
 }
 
 int GridTable::columnCount(const QModelIndex& sotto) const {
@@ -17,7 +17,7 @@ int GridTable::columnCount(const QModelIndex& sotto) const {
 }
 
 QVariant GridTable::data(const QModelIndex& indice, int ruolo) const {
-    const project::PostoGriglia qui = posto(indice);
+    const masks::PostoGriglia qui = posto(indice);
     const bool numero = modello_.numerica(qui.colonna);
     switch (ruolo) {
         case Qt::DisplayRole:

@@ -10,13 +10,13 @@ namespace korven::shell {
 /// column. It shows only; typing goes to the model of the form.
 class GridTable : public QAbstractTableModel {
  public:
-    GridTable(const project::GridModel& modello, QObject* padre)
+    GridTable(const masks::GridModel& modello, QObject* padre)
         : QAbstractTableModel(padre), modello_(modello) {}
 
-    [[nodiscard]] QModelIndex indice(project::PostoGriglia posto) const {
+    [[nodiscard]] QModelIndex indice(masks::PostoGriglia posto) const {
         return index(posto.riga - 1, posto.colonna - 1);
     }
-    [[nodiscard]] static project::PostoGriglia posto(const QModelIndex& indice) {
+    [[nodiscard]] static masks::PostoGriglia posto(const QModelIndex& indice) {
         return {indice.row() + 1, indice.column() + 1};
     }
     /// Any of the cells may have changed.
@@ -29,7 +29,7 @@ class GridTable : public QAbstractTableModel {
     [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& indice) const override;
 
  private:
-    const project::GridModel& modello_;
+    const masks::GridModel& modello_;
 };
 
 }  // namespace korven::shell

@@ -21,8 +21,8 @@
 
 namespace korven::shell {
 
-using project::PostoGriglia;
-using project::Tasto;
+using masks::PostoGriglia;
+using masks::Tasto;
 
 namespace {
 
@@ -30,7 +30,7 @@ namespace {
 // leaves it that told its fault, is marked as in a line of text: it alone, not its whole cell.
 class Cella : public QStyledItemDelegate {
  public:
-    Cella(const QTableView& griglia, const project::GridModel& modello, const bool& scrivendo,
+    Cella(const QTableView& griglia, const masks::GridModel& modello, const bool& scrivendo,
           QObject* padre)
         : QStyledItemDelegate(padre), griglia_(griglia), modello_(modello), scrivendo_(scrivendo) {}
 
@@ -61,13 +61,13 @@ class Cella : public QStyledItemDelegate {
 
  private:
     const QTableView& griglia_;
-    const project::GridModel& modello_;
+    const masks::GridModel& modello_;
     const bool& scrivendo_;
 };
 
 }  // namespace
 
-GridView::GridView(project::GridModel& modello, base::Dialogo& dialogo,
+GridView::GridView(masks::GridModel& modello, base::Dialogo& dialogo,
                    std::function<void()> cambiato, QWidget* genitore)
     : QTableView(genitore),
       modello_(modello),

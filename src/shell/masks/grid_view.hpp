@@ -23,7 +23,7 @@ class GridView : public QTableView {
  public:
     /// @param modello   not owned, like `dialogo`
     /// @param cambiato  called when the cursor may have moved
-    GridView(project::GridModel& modello, base::Dialogo& dialogo, std::function<void()> cambiato,
+    GridView(masks::GridModel& modello, base::Dialogo& dialogo, std::function<void()> cambiato,
              QWidget* genitore);
 
     /// Shows cells, cursor and editor as they stand in the model, and takes the focus.
@@ -43,14 +43,14 @@ class GridView : public QTableView {
  private:
     void misuraColonne();
     void mostraAngolo();
-    void vai(project::PostoGriglia posto);
-    void premi(project::Tasto tasto, const QString& testo);
+    void vai(masks::PostoGriglia posto);
+    void premi(masks::Tasto tasto, const QString& testo);
     bool appunti(const QKeyEvent& evento);
     bool sposta(const QKeyEvent& evento);
     bool premiNellEditore(const QKeyEvent& evento);
     void mostraEditore();
 
-    project::GridModel& modello_;
+    masks::GridModel& modello_;
     base::Dialogo& dialogo_;
     std::function<void()> cambiato_;
     GridTable* tabella_;

@@ -22,12 +22,12 @@ constexpr int larghezzaCarattere = 4;  // 60 twips at 96 dots an inch; more wher
 
 }  // namespace
 
-MaskForm::MaskForm(const project::Maschera& maschera, base::Dialogo& dialogo, GuidaForme guida,
+MaskForm::MaskForm(const masks::Maschera& maschera, base::Dialogo& dialogo, GuidaForme guida,
                    const QString& nome, QWidget* padre)
     : QDialog(padre), maschera_(maschera), dialogo_(dialogo), guida_(std::move(guida)) {
     setObjectName(QStringLiteral("%1_%2").arg(nome).arg(maschera.contesto));
     setWindowTitle(qt(maschera.titolo));
-    setProperty("contestoAiuto", commands::contestoAiuto(maschera.contesto));
+    setProperty("contestoAiuto", help::contestoAiuto(maschera.contesto));
     connect(this, &QDialog::finished, this, [this] { ricordaMisure(*this); });
 }
 
@@ -60,11 +60,11 @@ void MaskForm::disponi(QSize comoda) {
     if (!isMaximized()) move(screen()->availableGeometry().center() - rect().center());
 }
 
-bool MaskForm::apriGuida() { return guida_ && guida_(commands::contestoAiuto(maschera_.contesto)); }
+bool MaskForm::apriGuida() { return guida_ && guida_(help::contestoAiuto(maschera_.contesto)); }
 
 void MaskForm::mostraGuida() {
-    if (!guida_ || !guida_(commands::contestoAiuto(project::voceAiuto(maschera_))))
-        project::mostraRiferimento(maschera_, dialogo_);
+    if (!guida_ || !guida_(help::contestoAiuto(masks::voceAiuto(maschera_))))
+        masks::mostraRiferimento(maschera_, dialogo_);
 }
 
 // Without a default button Enter would do nothing on a button that has the focus.

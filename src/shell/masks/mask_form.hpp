@@ -19,7 +19,7 @@ class MaskForm : public QDialog {
  public:
     /// @param maschera  must outlive the form, as must `dialogo`
     /// @param nome      of the form; its size is remembered for each mask
-    MaskForm(const project::Maschera& maschera, base::Dialogo& dialogo, GuidaForme guida,
+    MaskForm(const masks::Maschera& maschera, base::Dialogo& dialogo, GuidaForme guida,
              const QString& nome, QWidget* padre);
 
  protected:
@@ -38,11 +38,11 @@ class MaskForm : public QDialog {
 
     bool eventFilter(QObject* oggetto, QEvent* evento) override;
 
-    [[nodiscard]] const project::Maschera& maschera() const { return maschera_; }
+    [[nodiscard]] const masks::Maschera& maschera() const { return maschera_; }
     [[nodiscard]] base::Dialogo& dialogo() const { return dialogo_; }
 
  private:
-    const project::Maschera& maschera_;
+    const masks::Maschera& maschera_;
     base::Dialogo& dialogo_;
     GuidaForme guida_;
 };

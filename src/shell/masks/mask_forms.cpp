@@ -7,19 +7,19 @@
 
 namespace korven::shell {
 
-void mostraForm(project::Maschere& maschere, base::Dialogo& dialogo, const GuidaForme& guida,
+void mostraForm(masks::Maschere& maschere, base::Dialogo& dialogo, const GuidaForme& guida,
                 QWidget* padre) {
-    const project::Maschera& maschera = maschere.corrente();
-    const auto numero = static_cast<project::NumeroMaschera>(maschere.numero());
-    if (maschera.genere == project::GenereMaschera::campi) {
+    const masks::Maschera& maschera = maschere.corrente();
+    const auto numero = static_cast<masks::NumeroMaschera>(maschere.numero());
+    if (maschera.genere == masks::GenereMaschera::campi) {
         Base1 forma(maschera, maschere.valoriCombo(), maschere.valoriTesto(), dialogo, guida,
                     padre);
-        if (numero == project::NumeroMaschera::titoli) forma.annota(commands::notaTitolo);
+        if (numero == masks::NumeroMaschera::titoli) forma.annota(review::notaTitolo);
         if (forma.exec() == QDialog::Accepted)
             maschere.conferma(forma.modello().valoriCombo(), forma.modello().valoriTesto());
         return;
     }
-    const int capienza = project::capienza(numero);
+    const int capienza = masks::capienza(numero);
     Base2_32 forma(maschera, maschere.valoriTesto(), dialogo, guida, padre, capienza);
     if (forma.exec() == QDialog::Accepted) maschere.conferma({}, forma.modello().valoriTesto());
 }
@@ -31,7 +31,7 @@ void collegaMaschere(commands::FormeProgramma& forme, base::Dialogo& dialogo, QW
             aiuto(contesto);
             return true;
         };
-    forme.maschera = [&dialogo, guida, padre](project::Maschere& maschere) {
+    forme.maschera = [&dialogo, guida, padre](masks::Maschere& maschere) {
         mostraForm(maschere, dialogo, guida, padre);
     };
 }

@@ -10,7 +10,7 @@ namespace korven::shell {
 /// Shows the form of the current mask, `base1` for fields and `base2_32` for a grid, with its
 /// values, until it is closed. What was confirmed goes back to `maschere`.
 /// @throws base::ErroreIndice for a grid with more than 500 rows
-void mostraForm(project::Maschere& maschere, base::Dialogo& dialogo, const GuidaForme& guida,
+void mostraForm(masks::Maschere& maschere, base::Dialogo& dialogo, const GuidaForme& guida,
                 QWidget* padre);
 
 /// Plugs the forms into the commands. Their help button opens what `forme.aiuto` is by then, so

@@ -272,10 +272,10 @@ bool Editacfg::segnalaFuori() {
                                                          : superiore_;
     std::string titolo = testoDi(campo->accessibleName());
     if (fuori->penna > 0) titolo += ": " + modello_.configurazione().penne[fuori->penna].etichetta;
-    project::CampoMaschera limiti;
+    masks::CampoMaschera limiti;
     limiti.minimo = fuori->minimo;
     limiti.massimo = fuori->massimo;
-    project::segnala(project::Vizio::intervallo, limiti, titolo, "\r\n", dialogo_);
+    masks::segnala(masks::Vizio::intervallo, limiti, titolo, "\r\n", dialogo_);
     campo->setFocus();
     campo->selectAll();
     return true;

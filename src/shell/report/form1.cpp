@@ -63,7 +63,7 @@ Form1::Form1(QWidget* padre) : QWidget(padre, Qt::Window), elenco_(new QListView
     setFocusProxy(elenco_);
 
     const QFontMetricsF misure(elenco_->font());
-    larghezze_ = std::make_unique<report::CharacterWidths>(
+    larghezze_ = std::make_unique<markup::CharacterWidths>(
         [misure](std::string_view testo) { return misure.horizontalAdvance(qt(testo)); });
 }
 
@@ -72,7 +72,7 @@ void Form1::mostra(const std::string& relazione) {
     apri();
     const int prima = righe_.rowCount();
     try {
-        report::previewReport(relazione, *this);
+        markup::previewReport(relazione, *this);
     } catch (...) {
         consegna();
         throw;

@@ -19,7 +19,7 @@ namespace korven::shell {
 /// it is closed; a report shown before that is added behind.
 ///
 /// A double click on the list and Esc close it, Ctrl+C copies the selected lines.
-class Form1 : public QWidget, public report::PreviewList {
+class Form1 : public QWidget, public markup::PreviewList {
     Q_OBJECT
  public:
     explicit Form1(QWidget* padre = nullptr);
@@ -46,7 +46,7 @@ class Form1 : public QWidget, public report::PreviewList {
     QListView* elenco_;
     RigheAnteprima righe_;
     std::vector<QString> nuove_;  // of the report that is being read
-    std::unique_ptr<report::CharacterWidths> larghezze_;
+    std::unique_ptr<markup::CharacterWidths> larghezze_;
 };
 
 }  // namespace korven::shell

@@ -71,7 +71,7 @@ std::string UsciteRelazione::chiediNome(const std::string& proposto) {
     return chiediNomeTxt(&principale_, proposto);
 }
 
-std::unique_ptr<report::ReportPrinter> UsciteRelazione::apriStampante() {
+std::unique_ptr<markup::ReportPrinter> UsciteRelazione::apriStampante() {
     QPrinter& stampante = stampante_();
     if (dialoghi_.haStampante())
         return device::relazioneSuStampante(stampante, qt(commands::titoloUscite()));

@@ -42,7 +42,7 @@ class UsciteRelazione {
  private:
     [[nodiscard]] commands::PorteEsportazione porte();
     [[nodiscard]] std::string chiediNome(const std::string& proposto);
-    [[nodiscard]] std::unique_ptr<report::ReportPrinter> apriStampante();
+    [[nodiscard]] std::unique_ptr<markup::ReportPrinter> apriStampante();
 
     QWidget& principale_;
     base::Dialogo& dialogo_;

@@ -27,7 +27,7 @@ namespace korven::shell {
 
 namespace {
 
-using project::RiquadroSezione;
+using masks::RiquadroSezione;
 
 struct TipoForma {
     const char* opzione;
@@ -64,7 +64,7 @@ DefinEJ::DefinEJ(project::Sezione& sezione, bool& modificato, QWidget* padre)
     setObjectName(QStringLiteral("DefinEJ"));
     setWindowTitle(tradotto("Calcolo di EJ e verifica strutturale"));
     setProperty("contestoAiuto",
-                commands::contestoAiuto(commands::voce(commands::Comando::editRigidezza).aiuto));
+                help::contestoAiuto(commands::voce(commands::Comando::editRigidezza).aiuto));
     auto* colonna = new QVBoxLayout(this);
     area_ = new ParteScorrevole(fareTutto(), this);
     colonna->addWidget(area_, 1);
@@ -151,7 +151,7 @@ void DefinEJ::fareCampi(QGridLayout& griglia, RiquadroSezione riquadro) {
     QStringList righe;
     auto* padre = griglia.parentWidget();
     for (std::size_t i = 0; i < campi_.size(); ++i) {
-        if (project::campiSezione[i].riquadro != riquadro) continue;
+        if (masks::campiSezione[i].riquadro != riquadro) continue;
         const CampoForma& forma = campiForma[i];
         auto* campo = fareCampo(i);
         const QString riga = tradotto(forma.riga);
@@ -165,8 +165,8 @@ void DefinEJ::fareCampi(QGridLayout& griglia, RiquadroSezione riquadro) {
             griglia.addWidget(etichetta(tradotto(forma.titolo), Qt::AlignCenter, padre), 0,
                               2 * forma.colonna + 2);
         const int y = static_cast<int>(righe.indexOf(riga)) + 1;
-        auto* simbolo = etichetta(qt(project::campiSezione[i].simbolo),
-                                  Qt::AlignRight | Qt::AlignVCenter, padre);
+        auto* simbolo =
+            etichetta(qt(masks::campiSezione[i].simbolo), Qt::AlignRight | Qt::AlignVCenter, padre);
         simbolo->setContentsMargins(8, 0, 2, 0);
         griglia.addWidget(simbolo, y, 2 * forma.colonna + 1);
         griglia.addWidget(campo, y, 2 * forma.colonna + 2);
@@ -209,7 +209,7 @@ void DefinEJ::mostraTipo() {
 
 void DefinEJ::aggiornaSchizzo() {
     schizzi_[indice(modello_.tipo())]->mostra(
-        structure::schizzoSezione(modello_.tipo(), modello_.letta()));
+        drawings::schizzoSezione(modello_.tipo(), modello_.letta()));
 }
 
 void DefinEJ::entra(std::size_t campo) {

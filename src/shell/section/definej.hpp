@@ -19,7 +19,7 @@ class ParteScorrevole;
 class SectionSketchView;
 
 /// The form of the structural section. What is typed and stored is the matter of
-/// `project::SezioneEditata`; beside the fields of each type a sketch shows what they measure.
+/// `masks::SezioneEditata`; beside the fields of each type a sketch shows what they measure.
 class DefinEJ : public QDialog {
     Q_OBJECT
 
@@ -34,8 +34,8 @@ class DefinEJ : public QDialog {
     QWidget* fareTutto();
     QWidget* fareOpzioni();
     QWidget* fareRiquadri();
-    QGroupBox* fareRiquadro(project::RiquadroSezione riquadro);
-    void fareCampi(QGridLayout& griglia, project::RiquadroSezione riquadro);
+    QGroupBox* fareRiquadro(masks::RiquadroSezione riquadro);
+    void fareCampi(QGridLayout& griglia, masks::RiquadroSezione riquadro);
     QLineEdit* fareCampo(std::size_t campo);
     QWidget* fareStriscia();
     void mostraTipo();
@@ -44,10 +44,10 @@ class DefinEJ : public QDialog {
     void spiega(std::size_t campo);
     void entraOpzioni();
 
-    project::SezioneEditata modello_;
+    masks::SezioneEditata modello_;
     std::array<QRadioButton*, 4> opzioni_{};
     std::array<SectionSketchView*, 4> schizzi_{};
-    std::array<QLineEdit*, project::numeroCampiSezione> campi_{};
+    std::array<QLineEdit*, masks::numeroCampiSezione> campi_{};
     QStackedWidget* riquadri_ = nullptr;
     ParteScorrevole* area_ = nullptr;  // of the fields
     HelpStrip* aiuto_ = nullptr;

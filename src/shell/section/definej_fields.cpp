@@ -22,7 +22,7 @@ constexpr const char* aiutoInterassePali =
 
 using project::Sezione;
 
-const CampoForma campiForma[project::numeroCampiSezione] = {
+const CampoForma campiForma[masks::numeroCampiSezione] = {
     {&Sezione::copriferroMonte, "Text5", "Copriferro", 0, monte, aiutoCopriferro},
     {&Sezione::copriferroValle, "Text6", "Copriferro", 1, valle, aiutoCopriferro},
     {&Sezione::interasseMonte, "Text1", "Interasse ferri", 0, monte, aiutoInterasse},

@@ -15,7 +15,7 @@ struct CampoForma {
     const char* aiuto;   ///< Italian key
 };
 
-/// In the order of the tabulator, that of `project::campiSezione`.
-extern const CampoForma campiForma[project::numeroCampiSezione];
+/// In the order of the tabulator, that of `masks::campiSezione`.
+extern const CampoForma campiForma[masks::numeroCampiSezione];
 
 }  // namespace korven::shell

@@ -12,7 +12,7 @@ namespace korven::shell {
 
 namespace {
 
-using structure::Segno;
+using drawings::Segno;
 
 // On a white sheet under any theme, as drawings are.
 const QColor foglio(255, 255, 255), cornice(200, 204, 208), inchiostro(40, 48, 56);
@@ -51,7 +51,7 @@ SectionSketchView::SectionSketchView(std::function<void(std::size_t)> scelto, QW
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
-void SectionSketchView::mostra(structure::Schizzo schizzo) {
+void SectionSketchView::mostra(drawings::Schizzo schizzo) {
     schizzo_ = std::move(schizzo);
     update();
 }
@@ -63,29 +63,29 @@ void SectionSketchView::evidenzia(std::optional<std::size_t> campo) {
 }
 
 double SectionSketchView::scala() const {
-    return std::min((width() - 2) / structure::larghezzaSchizzo,
-                    (height() - 2) / structure::altezzaSchizzo);
+    return std::min((width() - 2) / drawings::larghezzaSchizzo,
+                    (height() - 2) / drawings::altezzaSchizzo);
 }
 
 QPointF SectionSketchView::sulWidget(plot::Punto punto) const {
-    return {width() / 2.0 + (punto.x - structure::larghezzaSchizzo / 2) * scala(),
-            height() / 2.0 - (punto.y - structure::altezzaSchizzo / 2) * scala()};
+    return {width() / 2.0 + (punto.x - drawings::larghezzaSchizzo / 2) * scala(),
+            height() / 2.0 - (punto.y - drawings::altezzaSchizzo / 2) * scala()};
 }
 
 QFont SectionSketchView::carattere(bool grassetto) const {
     QFont fatto = font();
-    fatto.setPixelSize(std::max(1, qRound(structure::corpoSchizzo * scala())));
+    fatto.setPixelSize(std::max(1, qRound(drawings::corpoSchizzo * scala())));
     fatto.setBold(grassetto);
     return fatto;
 }
 
-QRectF SectionSketchView::postoTesto(const structure::QuotaSchizzo& quota) const {
+QRectF SectionSketchView::postoTesto(const drawings::QuotaSchizzo& quota) const {
     const QFontMetricsF misure(carattere(true));
     const double larghezza = misure.horizontalAdvance(qt(quota.scritta));
     const QPointF punto = sulWidget(quota.testo);
-    const double arretrato = quota.appoggio == structure::Appoggio::inizio   ? 0
-                             : quota.appoggio == structure::Appoggio::centro ? larghezza / 2
-                                                                             : larghezza;
+    const double arretrato = quota.appoggio == drawings::Appoggio::inizio   ? 0
+                             : quota.appoggio == drawings::Appoggio::centro ? larghezza / 2
+                                                                            : larghezza;
     return {punto.x() - arretrato, punto.y() - misure.ascent(), larghezza, misure.height()};
 }
 
@@ -106,8 +106,7 @@ void SectionSketchView::dipingiSezione(QPainter& pittore) const {
     }
 }
 
-void SectionSketchView::dipingiQuota(QPainter& pittore,
-                                     const structure::QuotaSchizzo& quota) const {
+void SectionSketchView::dipingiQuota(QPainter& pittore, const drawings::QuotaSchizzo& quota) const {
     const bool scelta = quota.campo == evidenziato_;
     const QColor colore = scelta ? QColor(196, 60, 20) : inchiostro;
     pittore.setPen(penna(scelta ? colore : grigio, scelta ? 2 : 1));
@@ -121,8 +120,8 @@ void SectionSketchView::dipingiQuota(QPainter& pittore,
     const QFont scritto = carattere(scelta);
     const double larghezza = QFontMetricsF(scritto).horizontalAdvance(qt(quota.scritta));
     const QRectF posto = postoTesto(quota);
-    const double x = quota.appoggio == structure::Appoggio::inizio ? posto.left()
-                     : quota.appoggio == structure::Appoggio::centro
+    const double x = quota.appoggio == drawings::Appoggio::inizio ? posto.left()
+                     : quota.appoggio == drawings::Appoggio::centro
                          ? posto.center().x() - larghezza / 2
                          : posto.right() - larghezza;
     pittore.setFont(scritto);
@@ -134,15 +133,15 @@ void SectionSketchView::dipingiLati(QPainter& pittore) const {
     pittore.setPen(grigio);
     const auto lato = [&](double x, const QString& nome) {
         pittore.save();
-        pittore.translate(sulWidget({x, structure::altezzaSchizzo / 2}));
+        pittore.translate(sulWidget({x, drawings::altezzaSchizzo / 2}));
         pittore.rotate(-90);
-        const double meta = structure::altezzaSchizzo / 2 * scala();
+        const double meta = drawings::altezzaSchizzo / 2 * scala();
         pittore.drawText(QRectF(-meta, -meta, 2 * meta, 2 * meta), Qt::AlignCenter, nome);
         pittore.restore();
     };
     constexpr double dalBordo = 4;
     lato(dalBordo, monte_);
-    lato(structure::larghezzaSchizzo - dalBordo, valle_);
+    lato(drawings::larghezzaSchizzo - dalBordo, valle_);
 }
 
 void SectionSketchView::paintEvent(QPaintEvent*) {

@@ -17,13 +17,13 @@ class SectionSketchView : public QWidget {
     /// @param scelto  called with the field of a dimension whose text is clicked
     SectionSketchView(std::function<void(std::size_t)> scelto, QWidget* genitore);
 
-    void mostra(structure::Schizzo schizzo);
-    /// @param campo  of `project::campiSezione`; none when the field with the focus is not here
+    void mostra(drawings::Schizzo schizzo);
+    /// @param campo  of `masks::campiSezione`; none when the field with the focus is not here
     void evidenzia(std::optional<std::size_t> campo);
-    [[nodiscard]] const structure::Schizzo& schizzo() const { return schizzo_; }
+    [[nodiscard]] const drawings::Schizzo& schizzo() const { return schizzo_; }
     [[nodiscard]] std::optional<std::size_t> evidenziato() const { return evidenziato_; }
     /// Where a text of the sketch stands in the widget.
-    [[nodiscard]] QRectF postoTesto(const structure::QuotaSchizzo& quota) const;
+    [[nodiscard]] QRectF postoTesto(const drawings::QuotaSchizzo& quota) const;
 
     [[nodiscard]] QSize sizeHint() const override { return {432, 360}; }
     [[nodiscard]] QSize minimumSizeHint() const override { return {312, 260}; }
@@ -37,13 +37,13 @@ class SectionSketchView : public QWidget {
     [[nodiscard]] QPointF sulWidget(plot::Punto punto) const;
     [[nodiscard]] QFont carattere(bool grassetto) const;
     void dipingiSezione(QPainter& pittore) const;
-    void dipingiQuota(QPainter& pittore, const structure::QuotaSchizzo& quota) const;
+    void dipingiQuota(QPainter& pittore, const drawings::QuotaSchizzo& quota) const;
     void dipingiLati(QPainter& pittore) const;
 
     std::function<void(std::size_t)> scelto_;
     // Translated once: a box of the translators' test mode must not open while a window is painted.
     const QString monte_, valle_;
-    structure::Schizzo schizzo_;
+    drawings::Schizzo schizzo_;
     std::optional<std::size_t> evidenziato_;
 };
 

@@ -2,13 +2,8 @@
 
 #include <gtest/gtest.h>
 
-namespace korven::commands {
+namespace korven::analysis {
 namespace {
-
-using analysis::StatiNodo;
-using analysis::StatoIterazione;
-using analysis::StatoLato;
-using analysis::TiranteInOpera;
 
 constexpr auto el = StatoLato::elastico;
 constexpr auto at = StatoLato::attivo;
@@ -124,4 +119,4 @@ TEST(TracciaIterazioni, BeginsANewRecordWithTheFirstIterationOfAStage) {
 }
 
 }  // namespace
-}  // namespace korven::commands
+}  // namespace korven::analysis

@@ -5,13 +5,8 @@
 #include "support/run_harness.hpp"
 #include "support/sample_projects.hpp"
 
-namespace korven::commands {
+namespace korven::analysis {
 namespace {
-
-using analysis::StatiNodo;
-using analysis::StatoIterazione;
-using analysis::StatoLato;
-using analysis::stopCalcolo;
 
 constexpr StatiNodo elastico;
 constexpr StatiNodo passivo{StatoLato::elastico, StatoLato::passivo};
@@ -155,4 +150,4 @@ TEST_F(Controllo, SaysThatNothingWasComputedWhenTheResultsAreUpToDate) {
 }
 
 }  // namespace
-}  // namespace korven::commands
+}  // namespace korven::analysis

@@ -5,7 +5,7 @@
 namespace korven::shell {
 namespace {
 
-using project::Tasto;
+using masks::Tasto;
 
 std::optional<Tasto> tasto(int quale, Qt::KeyboardModifiers con = {}, const char* testo = "") {
     return tastoDi(QKeyEvent(QEvent::KeyPress, quale, con, QString::fromUtf8(testo)));

@@ -25,8 +25,8 @@ class Guida : public ::testing::Test {
         EXPECT_TRUE(QTest::qWaitForWindowActive(&finestra));
     }
     ~Guida() override { finestra.close(); }
-    const commands::PaginaGuida& pagina(const char* nome) {
-        return *commands::paginaDiNome(finestra.guida(), nome);
+    const help::PaginaGuida& pagina(const char* nome) {
+        return *help::paginaDiNome(finestra.guida(), nome);
     }
     std::string mostrata() {
         const auto* p = browser().paginaDi(browser().source());
@@ -42,7 +42,7 @@ class Guida : public ::testing::Test {
 
     QApplication& app = test::applicazione();
     const test::UtenteNuovo utente;  // what the window remembers is the test's own
-    FinestraGuida finestra{commands::leggiGuida("m.hlp", test::guidaPiccola())};
+    FinestraGuida finestra{help::leggiGuida("m.hlp", test::guidaPiccola())};
 };
 
 TEST_F(Guida, ShowsChaptersWithTheirPagesAndMarksTheOneInUse) {
@@ -144,7 +144,7 @@ TEST_F(Guida, MakesLettersLargerAndSmallerWithinBoundsAndRemembersThem) {
     EXPECT_GT(browser().fontInfo().pixelSize(), prima);
     EXPECT_EQ(browser().ingrandimento(), 16);
     {
-        FinestraGuida altra(commands::leggiGuida("m.hlp", test::guidaPiccola()));
+        FinestraGuida altra(help::leggiGuida("m.hlp", test::guidaPiccola()));
         auto& sua = dynamic_cast<GuidaBrowser&>(test::controllo<QTextBrowser>(altra, "pagina"));
         EXPECT_EQ(sua.ingrandimento(), 16);
     }
@@ -161,7 +161,7 @@ TEST_F(Guida, ClosesWithEscFromAnywhereAndRemembersItsSize) {
     cerca().setFocus();
     QTest::keyClick(&cerca(), Qt::Key_Escape);
     EXPECT_FALSE(finestra.isVisible());
-    const FinestraGuida altra(commands::leggiGuida("m.hlp", test::guidaPiccola()));
+    const FinestraGuida altra(help::leggiGuida("m.hlp", test::guidaPiccola()));
     EXPECT_EQ(altra.size(), QSize(701, 555));
 }
 
@@ -178,7 +178,7 @@ TEST_F(Guida, DoesNotKeepTheProgramRunning) {
 TEST_F(Guida, HasRoomForItsWordsInEveryLanguage) {
     for (int lingua = 1; lingua <= 6; ++lingua) {
         const test::TestiConsegnati testi(lingua);
-        FinestraGuida tradotta(commands::leggiGuida("m.hlp", test::guidaPiccola()));
+        FinestraGuida tradotta(help::leggiGuida("m.hlp", test::guidaPiccola()));
         tradotta.resize(tradotta.minimumSize());
         tradotta.show();
         for (const char* nome : {"indietro", "avanti", "sommario", "piccoli", "grandi"}) {

@@ -167,7 +167,7 @@ TEST_F(Porta, StaysUsableBesideAModalForm) {
         auto& cerca = test::controllo<QLineEdit>(*porta.finestra(), "cerca");
         risponde = rispondeAlMouse(*porta.finestra(), cerca);
         // The same window without the door is shut out.
-        FinestraGuida altra(commands::leggiGuida("m.hlp", test::guidaPiccola()));
+        FinestraGuida altra(help::leggiGuida("m.hlp", test::guidaPiccola()));
         altra.show();
         altraRisponde = rispondeAlMouse(altra, test::controllo<QLineEdit>(altra, "cerca"));
         forma.accept();

@@ -34,7 +34,7 @@ class Menu1Test : public ::testing::Test {
         forme.aiuto = [this](int contesto) { aiuti.push_back(contesto); };
         forme.sommario = [] {};
         tutteLeMaschere.leggiMaschere(test::maschereSemplici(ambiente.lavori));
-        forme.maschera = [this](project::Maschere& m) {
+        forme.maschera = [this](masks::Maschere& m) {
             maschere.push_back(m.corrente().titolo);
             m.conferma(m.valoriCombo(), m.valoriTesto());
         };
@@ -78,7 +78,7 @@ class Menu1Test : public ::testing::Test {
     std::vector<std::string> informazioni;
     std::vector<int> aiuti;
     std::vector<std::string> maschere;
-    project::Maschere tutteLeMaschere;
+    masks::Maschere tutteLeMaschere;
     bool accettato = false;
 };
 

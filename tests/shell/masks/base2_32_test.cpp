@@ -14,7 +14,7 @@ namespace korven::shell {
 namespace {
 
 using base::Risposta;
-using project::GenereMaschera;
+using masks::GenereMaschera;
 
 class FormaGriglia : public test::BancoGriglia {
  protected:

@@ -66,7 +66,7 @@ class FormeDelleMaschere : public ::testing::Test {
     test::UtenteNuovo utente;
     std::unique_ptr<test::TestiConsegnati> testi;
     test::DialogRecord dialogo;
-    project::Maschere maschere;
+    masks::Maschere maschere;
     commands::FormeProgramma forme;
 };
 
@@ -232,7 +232,7 @@ TEST_F(FormeDelleMaschere, ClipNoCaptionInAnyLanguage) {
                 if (striscia == nullptr) striscia = forma.findChild<QLabel*>("Label1");
                 ASSERT_NE(striscia, nullptr);
                 for (const auto& campo : maschere.corrente().campi) {
-                    striscia->setText(qt(project::aiutoMostrato(campo.aiuto)));
+                    striscia->setText(qt(masks::aiutoMostrato(campo.aiuto)));
                     EXPECT_GE(striscia->height(),
                               striscia->QLabel::heightForWidth(striscia->width()))
                         << lingua << campo.aiuto;

@@ -100,13 +100,13 @@ class Disegni : public test::ProvaPlot {
 
 TEST_F(Disegni, AskForThePrinterWithTheFirstDrawingAndNotBefore) {
     EXPECT_EQ(chiesta, 0);
-    structure::disegnaSezione(project::Progetto);
+    drawings::disegnaSezione(project::Progetto);
     EXPECT_GT(chiesta, 0);
 }
 
 TEST_F(Disegni, AppearInTheViewerUntilItIsClosed) {
     principale.show();
-    structure::disegnaSezione(project::Progetto);
+    drawings::disegnaSezione(project::Progetto);
     EXPECT_FALSE(principale.isEnabled());
     bool visto = false;
     QTimer::singleShot(0, &principale, [&visto] {

@@ -69,7 +69,7 @@ class Uscite : public testing::Test {
     test::DialogoFileFinto nomi;
     test::AvanzamentoFinto avanzamento;
     QPrinter stampante{QPrinter::HighResolution};
-    project::Maschere maschere;
+    masks::Maschere maschere;
     Menu1 finestra;
     std::unique_ptr<commands::Programma> programma;
 };

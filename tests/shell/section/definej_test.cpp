@@ -29,7 +29,7 @@ class FormaSezione : public ::testing::Test {
     FormaSezione() {
         test::applicazione();
         double valore = 1.5;
-        for (const auto& campo : project::campiSezione) sezione.*campo.valore = (valore += 0.25);
+        for (const auto& campo : masks::campiSezione) sezione.*campo.valore = (valore += 0.25);
         sezione.tipoDiaframma = true;
     }
     void apri() {
@@ -145,11 +145,11 @@ TEST_F(FormaSezione, ShowsEachValueInTheControlOfItsField) {
         {"Text14", &Sezione::modEcls},
         {"Text15", &Sezione::fyk},
         {"Text18", &Sezione::fck}};
-    ASSERT_EQ(std::size(campi), project::numeroCampiSezione);
+    ASSERT_EQ(std::size(campi), masks::numeroCampiSezione);
     apri();
     for (const auto& [nome, campo] : campi) {
-        const bool materiale = project::campiSezione[project::campoSezione(campo)].riquadro ==
-                               project::RiquadroSezione::materiali;
+        const bool materiale = masks::campiSezione[masks::campoSezione(campo)].riquadro ==
+                               masks::RiquadroSezione::materiali;
         EXPECT_EQ(trova<QLineEdit>(nome).text().toDouble(), sezione.*campo * (materiale ? 1 : 10))
             << nome;
     }
@@ -283,8 +283,8 @@ TEST_F(FormaSezione, GoesUpAndDownByTheArrowKeys) {
 TEST_F(FormaSezione, TellsInItsStripWhatTheFieldMeans) {
     apri();
     EXPECT_TRUE(aiuto().startsWith("Il tipo di sezione"));
-    for (std::size_t i = 0; i < project::numeroCampiSezione; ++i) {
-        const auto riquadro = static_cast<std::size_t>(project::campiSezione[i].riquadro);
+    for (std::size_t i = 0; i < masks::numeroCampiSezione; ++i) {
+        const auto riquadro = static_cast<std::size_t>(masks::campiSezione[i].riquadro);
         if (riquadro < 4) premi(opzioni[riquadro]);
         auto& campo = trova<QLineEdit>(campiForma[i].controllo);
         campo.setFocus();
@@ -305,7 +305,7 @@ TEST_F(FormaSezione, RedrawsTheSketchWhileANumberIsTyped) {
     auto& schizzo = *trova("Frame1").findChild<SectionSketchView*>();
     const auto scritta = [&] {
         for (const auto& quota : schizzo.schizzo().quote)
-            if (quota.campo == project::campoSezione(&Sezione::spessoreDiaframma))
+            if (quota.campo == masks::campoSezione(&Sezione::spessoreDiaframma))
                 return quota.scritta;
         return std::string();
     };

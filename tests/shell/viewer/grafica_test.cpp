@@ -28,9 +28,9 @@ TEST_F(Visore, AppearsWithTheFirstDrawingAndDisablesTheMainForm) {
 // A run gives its results the place of the project, and draws from them.
 TEST_F(Visore, NamesTheProjectWhileARunDraws) {
     project::fileCorrente = "/progetti/muro.OUT";
-    analysis::progettiProtetti.corrente = "/progetti/muro.kvd";
+    project::progettiProtetti.corrente = "/progetti/muro.kvd";
     disegna();
-    analysis::progettiProtetti = {};
+    project::progettiProtetti = {};
     EXPECT_EQ(forma().windowTitle(), "KORVEN 32 - muro.kvd");
 }
 
