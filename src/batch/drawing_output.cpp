@@ -12,7 +12,7 @@
 #include "device/drawing_fonts.hpp"
 #include "device/graphics_session.hpp"
 #include "plot/drawing_watch.hpp"
-#include "plot/plot_dxf.hpp"
+#include "plot/dxf/export.hpp"
 #include "plot/plot_engine.hpp"
 #include "plot/text_width.hpp"
 #include "project/output_guard.hpp"

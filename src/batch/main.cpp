@@ -3,10 +3,10 @@
 #include <iostream>
 
 #include "analysis/result_guard.hpp"
-#include "base/closed_pipe.hpp"
 #include "base/file_error.hpp"
 #include "base/files.hpp"
 #include "base/language.hpp"
+#include "base/process/closed_pipe.hpp"
 #include "base/program_folder.hpp"
 #include "base/translated_texts.hpp"
 #include "batch/command_run.hpp"

@@ -2,7 +2,7 @@
 
 #include "base/file_error.hpp"
 #include "base/file_names.hpp"
-#include "base/processi.hpp"
+#include "base/process/processi.hpp"
 #include "base/translated_texts.hpp"
 #include "base/value_error.hpp"
 #include "batch/console_run.hpp"

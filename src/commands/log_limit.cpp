@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "review/review_list.hpp"
+#include "review/list.hpp"
 
 namespace korven::commands {
 

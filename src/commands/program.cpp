@@ -6,7 +6,7 @@
 #include "commands/edit_commands.hpp"
 #include "commands/fatal_error.hpp"
 #include "commands/output_commands.hpp"
-#include "help/help_contexts.hpp"
+#include "help/contexts.hpp"
 #include "project/project_data.hpp"
 
 namespace korven::commands {

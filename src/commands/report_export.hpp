@@ -5,8 +5,8 @@
 #include <string>
 #include <string_view>
 
-#include "base/avvia_programma.hpp"
 #include "base/dialogo.hpp"
+#include "base/process/avvia_programma.hpp"
 
 // The report leaves the program as plain text or as a word-processor file, and a viewer shows it.
 

@@ -7,9 +7,9 @@
 #include <string>
 #include <vector>
 
-#include "base/closed_pipe.hpp"
 #include "base/file_error.hpp"
 #include "base/files.hpp"
+#include "base/process/closed_pipe.hpp"
 #include "base/program_folder.hpp"
 #include "base/program_questions.hpp"
 #include "base/translated_texts.hpp"

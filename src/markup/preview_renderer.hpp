@@ -3,8 +3,8 @@
 #include <string>
 #include <string_view>
 
-#include "markup/markup_cells.hpp"
-#include "markup/markup_reader.hpp"
+#include "markup/cells.hpp"
+#include "markup/reader.hpp"
 #include "markup/report_page.hpp"
 #include "markup/table_fitting.hpp"
 

@@ -4,8 +4,8 @@
 #include <string_view>
 
 #include "base/dialogo.hpp"
-#include "markup/markup_cells.hpp"
-#include "markup/markup_reader.hpp"
+#include "markup/cells.hpp"
+#include "markup/reader.hpp"
 #include "markup/report_page.hpp"
 #include "markup/report_printer.hpp"
 #include "markup/table_fitting.hpp"

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "markup/markup_cells.hpp"
+#include "markup/cells.hpp"
 #include "markup/reset_arguments.hpp"
 #include "markup/text_fitting.hpp"
 

@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "base/text_lines.hpp"
-#include "markup/markup_reader.hpp"
+#include "markup/reader.hpp"
 
 namespace korven::markup {
 

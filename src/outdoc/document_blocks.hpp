@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "markup/markup_cells.hpp"
+#include "markup/cells.hpp"
 #include "markup/table_fitting.hpp"
 #include "outdoc/paragraph.hpp"
 

@@ -5,8 +5,8 @@
 #include <string_view>
 
 #include "base/text_lines.hpp"
-#include "markup/markup_cells.hpp"
-#include "markup/markup_reader.hpp"
+#include "markup/cells.hpp"
+#include "markup/reader.hpp"
 #include "markup/report_printer.hpp"
 #include "markup/table_fitting.hpp"
 #include "outdoc/document_parts.hpp"

@@ -2,7 +2,7 @@
 #include <iostream>
 #include <string>
 
-#include "base/closed_pipe.hpp"
+#include "base/process/closed_pipe.hpp"
 #include "base/program_questions.hpp"
 #include "base/translated_texts.hpp"
 #include "base/user_data.hpp"

@@ -9,7 +9,7 @@
 #include "masks/field_check.hpp"
 #include "plot/sheet.hpp"
 #include "plot/text_width.hpp"
-#include "review/review_list.hpp"
+#include "review/list.hpp"
 
 namespace korven::review {
 

@@ -7,7 +7,7 @@
 #include "analysis/vertical_stress.hpp"
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
-#include "review/review_list.hpp"
+#include "review/list.hpp"
 
 namespace korven::review {
 

@@ -1,5 +1,5 @@
 #include "base/translated_texts.hpp"
-#include "review/review_list.hpp"
+#include "review/list.hpp"
 
 namespace korven::review {
 

@@ -2,7 +2,7 @@
 
 #include <QObject>
 
-#include "base/end_signals.hpp"
+#include "base/process/end_signals.hpp"
 
 namespace korven::shell {
 

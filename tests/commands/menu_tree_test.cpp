@@ -6,7 +6,8 @@
 #include <set>
 #include <string>
 
-#include "help/help_contexts.hpp"
+#include "help/contexts.hpp"
+#include "help/places.hpp"
 
 namespace korven::commands {
 namespace {
@@ -118,6 +119,25 @@ TEST(ContestiAiuto, AreATableOfTwoHundredAndOneEntries) {
     EXPECT_EQ(help::contestoAiuto(0), 0);
     EXPECT_EQ(help::contestoAiuto(201), 0);
     EXPECT_EQ(help::contestoAiuto(-1), 0);
+}
+
+TEST(VoceForma, IsThatOfTheMenuItemWhereOneOpensTheForm) {
+    EXPECT_EQ(help::voceForma("Editacfg"), voce(Comando::configura).aiuto);
+    EXPECT_EQ(help::voceForma("DefinEJ"), voce(Comando::editRigidezza).aiuto);
+    EXPECT_EQ(help::voceForma("Form1"), voce(Comando::stampaVideo).aiuto);
+    EXPECT_EQ(help::voceForma("apri"), voce(Comando::fileApri).aiuto);
+    EXPECT_EQ(help::voceForma("salva"), voce(Comando::fileSalva).aiuto);
+}
+
+TEST(VoceForma, IsOneOfItsOwnForOtherForms) {
+    EXPECT_EQ(help::voceForma("GRAFICA"), help::voceGrafica);
+    EXPECT_EQ(help::voceForma("TempCalc"), help::voceTempCalc);
+    for (const int propria : {help::voceGrafica, help::voceConfStampa, help::voceTempCalc,
+                              help::voceGuida, help::voceSelezling})
+        for (const auto& v : albero()) EXPECT_NE(v.aiuto, propria) << v.nome;
+    // The item opens that very box.
+    for (const auto& v : albero())
+        EXPECT_EQ(v.aiuto == help::voceInformazioni, v.comando == Comando::about) << v.nome;
 }
 
 }  // namespace

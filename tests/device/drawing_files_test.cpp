@@ -18,7 +18,7 @@
 #include "device/drawing_painter.hpp"
 #include "device/graphics_session.hpp"
 #include "plot/drawing_stop.hpp"
-#include "plot/plot_dxf.hpp"
+#include "plot/dxf/export.hpp"
 #include "plot/plot_engine.hpp"
 #include "support/drawing_by_pen.hpp"
 #include "support/ink.hpp"

@@ -4,7 +4,7 @@
 
 #include "base/file_error.hpp"
 #include "base/table.hpp"
-#include "plot/plot_dxf.hpp"
+#include "plot/dxf/export.hpp"
 #include "support/dialog_record.hpp"
 #include "support/dxf_reader.hpp"
 #include "support/log_setup.hpp"

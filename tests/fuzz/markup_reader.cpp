@@ -1,9 +1,8 @@
-#include "markup/markup_reader.hpp"
-
 #include "base/file_error.hpp"
 #include "fuzz_target.hpp"
 #include "markup/preview_renderer.hpp"
 #include "markup/print_renderer.hpp"
+#include "markup/reader.hpp"
 #include "markup/reset_arguments.hpp"
 #include "markup/table_style.hpp"
 #include "markup/text_renderer.hpp"

@@ -3,7 +3,7 @@
 #include "base/code_page.hpp"
 #include "base/file_error.hpp"
 #include "project/project_file.hpp"
-#include "review_bench.hpp"
+#include "review/bench.hpp"
 
 namespace korven::review {
 namespace {

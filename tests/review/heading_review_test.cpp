@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "review_bench.hpp"
+#include "review/bench.hpp"
 
 namespace korven::review {
 namespace {

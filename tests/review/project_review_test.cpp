@@ -1,6 +1,6 @@
 #include "review/project_review.hpp"
 
-#include "review_bench.hpp"
+#include "review/bench.hpp"
 
 namespace korven::review {
 namespace {

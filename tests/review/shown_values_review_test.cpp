@@ -1,5 +1,5 @@
-#include "review/review_list.hpp"
-#include "review_bench.hpp"
+#include "review/bench.hpp"
+#include "review/list.hpp"
 #include "support/sample_sections.hpp"
 
 namespace korven::review {

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "base/number_text.hpp"
-#include "review_bench.hpp"
+#include "review/bench.hpp"
 
 namespace korven::review {
 namespace {

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "review_bench.hpp"
+#include "review/bench.hpp"
 
 namespace korven::review {
 namespace {

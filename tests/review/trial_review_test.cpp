@@ -5,7 +5,7 @@
 
 #include "base/file_error.hpp"
 #include "project/project_file.hpp"
-#include "review_bench.hpp"
+#include "review/bench.hpp"
 #include "support/sample_sections.hpp"
 
 namespace korven::review {

@@ -11,7 +11,7 @@
 #include <map>
 
 #include "base/language.hpp"
-#include "help/help_file.hpp"
+#include "help/file.hpp"
 #include "masks/mask_editing.hpp"
 #include "shell/dialogo_qt.hpp"
 #include "shell/file_dialogs_qt.hpp"

@@ -13,7 +13,7 @@
 #include <functional>
 #include <set>
 
-#include "help/help_file.hpp"
+#include "help/file.hpp"
 #include "masks/mask_editing.hpp"
 #include "shell/dialogo_qt.hpp"
 #include "shell/help/guida.hpp"

@@ -16,7 +16,7 @@
 #include <QTableView>
 #include <QToolButton>
 
-#include "help/help_file.hpp"
+#include "help/file.hpp"
 #include "masks/mask_editing.hpp"
 #include "shell/dialogo_qt.hpp"
 #include "shell/forms/elided_label.hpp"

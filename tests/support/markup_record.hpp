@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "markup/markup_reader.hpp"
+#include "markup/reader.hpp"
 
 namespace korven::test {
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "base/avvia_programma.hpp"
+#include "base/process/avvia_programma.hpp"
 
 namespace korven::test {
 

@@ -12,7 +12,7 @@
 #include "base/files.hpp"
 #include "base/language.hpp"
 #include "base/text_lines.hpp"
-#include "plot/dxf_colour.hpp"
+#include "plot/dxf/colour.hpp"
 
 namespace korven {
 namespace {
@@ -199,7 +199,7 @@ int layerOf(const Configuration& all, std::size_t pen) {
     return plot::livelloDxf(plot::daRgb(c[0], c[1], c[2])).value();
 }
 
-// DXF knows seven colours: the numbers of its layers (plot/dxf_tables.cpp), 7 is black or white as
+// DXF knows seven colours: the numbers of its layers (plot/dxf/tables.cpp), 7 is black or white as
 // the screen needs it.
 int dxfColourOf(const Configuration& all, std::size_t pen) {
     constexpr int colours[] = {5, 3, 4, 1, 6, 2, 7, 7, 5, 3, 4, 1, 6, 2, 7};

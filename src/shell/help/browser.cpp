@@ -5,7 +5,7 @@
 #include <QWheelEvent>
 #include <algorithm>
 
-#include "help/help_search.hpp"
+#include "help/search.hpp"
 #include "shell/qt_text.hpp"
 
 namespace korven::shell {

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "help/help_file.hpp"
+#include "help/file.hpp"
 
 namespace korven::shell {
 

@@ -13,7 +13,7 @@
 #include <QVBoxLayout>
 #include <functional>
 
-#include "help/help_search.hpp"
+#include "help/search.hpp"
 #include "shell/form_sizes.hpp"
 #include "shell/help/browser.hpp"
 #include "shell/help/results.hpp"

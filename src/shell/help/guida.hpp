@@ -3,7 +3,7 @@
 #include <QWidget>
 #include <string>
 
-#include "help/help_file.hpp"
+#include "help/file.hpp"
 
 class QLabel;
 class QLineEdit;

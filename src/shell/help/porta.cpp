@@ -11,8 +11,8 @@
 
 #include "base/files.hpp"
 #include "commands/language_start.hpp"
-#include "help/help_contexts.hpp"
-#include "help/help_places.hpp"
+#include "help/contexts.hpp"
+#include "help/places.hpp"
 #include "shell/dialogo_qt.hpp"
 #include "shell/failure_box.hpp"
 #include "shell/help/guida.hpp"

@@ -20,7 +20,7 @@ class FinestraGuida;
 /// open.
 ///
 /// F1 in any window opens the page of the place. A window says its entry of the table of help
-/// contexts in the property "contestoAiuto" (int), or has its name in help/help_places.hpp; a
+/// contexts in the property "contestoAiuto" (int), or has its name in help/places.hpp; a
 /// control may say its field in the property "campoAiuto" (text or number, as in "@campo" of the
 /// help), else its object name is taken.
 class PortaGuida : public QObject {

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "base/code_page.hpp"
-#include "help/help_contexts.hpp"
+#include "help/contexts.hpp"
 #include "masks/field_model.hpp"
 #include "shell/form_sizes.hpp"
 #include "shell/qt_text.hpp"

@@ -7,7 +7,7 @@
 #include <string>
 
 #include "base/dialogo.hpp"
-#include "base/processi.hpp"
+#include "base/process/processi.hpp"
 #include "commands/program_forms.hpp"
 #include "commands/report_export.hpp"
 #include "markup/report_printer.hpp"

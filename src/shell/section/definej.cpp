@@ -13,7 +13,7 @@
 
 #include "base/number_reading.hpp"
 #include "commands/menu_tree.hpp"
-#include "help/help_contexts.hpp"
+#include "help/contexts.hpp"
 #include "project/project_data.hpp"
 #include "shell/form_sizes.hpp"
 #include "shell/forms/confirm_buttons.hpp"

@@ -4,7 +4,7 @@
 #include "base/file_names.hpp"
 #include "base/translated_texts.hpp"
 #include "device/drawing_files.hpp"
-#include "plot/plot_dxf.hpp"
+#include "plot/dxf/export.hpp"
 #include "plot/plot_engine.hpp"
 #include "project/project_data.hpp"
 

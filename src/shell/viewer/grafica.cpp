@@ -12,7 +12,7 @@
 
 #include "commands/output_title.hpp"
 #include "device/text_painting.hpp"
-#include "plot/plot_dxf.hpp"
+#include "plot/dxf/export.hpp"
 #include "plot/plot_engine.hpp"
 #include "plot/plot_print.hpp"
 #include "plot/zoom_window.hpp"

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "help/file.hpp"
+
+namespace korven::help {
+
+/// A page that a search has found.
+struct Trovata {
+    const PaginaGuida* pagina = nullptr;
+    std::string brano;  ///< what stands around the first word found in the body, else its beginning
+};
+
+/// The words of a search, folded (text.hpp), parted by blanks.
+[[nodiscard]] std::vector<std::string> paroleCercate(std::string_view cerca);
+
+/// Where words of a search stand in a text (UTF-8), at the beginning of a word each: first byte and
+/// the one behind the last.
+[[nodiscard]] std::vector<std::pair<std::size_t, std::size_t>> postiTrovati(
+    std::string_view testo, const std::vector<std::string>& parole);
+
+/// The pages that hold every word, upper and lower case and accents alike, at the beginning of a
+/// word: "spin" finds "spinta". Those with the words in their title come first, then those with
+/// them among their further words; else in the order of the help. Nothing for a search without
+/// words.
+[[nodiscard]] std::vector<Trovata> cercaNellaGuida(const Guida& guida, std::string_view cerca);
+
+}  // namespace korven::help
