@@ -53,7 +53,7 @@ class ModelloPenne {
     bool cambiaValore(int indice, Colore valore);
     void cambiaNome(int indice, std::string_view nome);
 
-    /// The first width, from pen 1 on, then margin that `conferma` would refuse.
+    /// The first width (from pen 1 on), or else the first margin, that `conferma` would refuse.
     [[nodiscard]] std::optional<ValoreFuori> valoreFuori(std::string_view margineSinistro,
                                                          std::string_view margineSuperiore) const;
 
@@ -68,9 +68,9 @@ class ModelloPenne {
 
     std::string percorso_;
     ConfigurazionePlot configurazione_;
-    std::string etichetta_;   // of the pen chosen
-    bool scelta_ = false;     // that there is one
-    bool mostrando_ = false;  // the guard
+    std::string etichetta_;   // label of the pen chosen
+    bool scelta_ = false;     // a pen is chosen
+    bool mostrando_ = false;  // while `mostra` fills the controls
 };
 
 }  // namespace korven::plot

@@ -12,8 +12,8 @@ inline constexpr int massimoTestiPlot = 2000;
 inline constexpr int massimoPoligoni = 64000;
 
 /// All that a drawing consists of, in the order in which it was drawn. Lines beyond the rows of
-/// memory go to spill files of `massimoLinee` records, numbered from 1; texts and polygons stay in
-/// memory.
+/// memory go to spill files of `massimoLinee` records, numbered from 1; texts and polygons never
+/// leave memory.
 class ArchivioDisegno {
  public:
     /// Forgets the drawing. Its spill files stay where they are, the next drawing writes over them.

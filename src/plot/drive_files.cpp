@@ -36,8 +36,8 @@ FileDiUnita::Preso FileDiUnita::prendi(std::string_view windir, int daNumero) {
 void FileDiUnita::scrivi(std::string_view windir, int numero, std::string_view testo) {
     Unita& presi = unita_[cartella(windir)];
     const auto indice = static_cast<std::size_t>(numero - 1);
-    // What somebody removed meanwhile is made anew, and what is behind it with it: the numbers
-    // rise.
+    // A file that somebody removed meanwhile is made anew, and so are those after it: the numbers
+    // always rise.
     presi.erase(std::find_if(presi.begin(), presi.end(),
                              [](const Preso& preso) { return !preso.file.portaIlNome(); }),
                 presi.end());

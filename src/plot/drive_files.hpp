@@ -10,17 +10,17 @@
 namespace korven::plot {
 
 /// The spill files of this process where the system's variable `windir` names a drive. Their names
-/// are the same for every process, so each takes the numbers that are free: those whose file is not
-/// there, or is no other living process's. A file is its process's by a lock on it, which the
-/// system ends with the process; the file stays behind and is written over by whoever comes next.
+/// are the same for every process, so each takes the numbers that are free: those whose file is
+/// missing, or belongs to no other living process. A process owns a file by a lock on it, which the
+/// system ends with the process; the file stays and is written over by whoever comes next.
 class FileDiUnita {
  public:
     /// Path of spill file `numero` of this process, from 1; the name of that very number as long as
     /// none was written.
     [[nodiscard]] std::string percorso(std::string_view windir, int numero) const;
 
-    /// Writes spill file `numero` under the first number that is free, behind that of the file
-    /// before; written again it keeps its number. A link is never followed: its number is not free.
+    /// Writes spill file `numero` under the first free number after that of the file before;
+    /// written again it keeps its number. A link is never followed: its number is not free.
     /// @throws base::ErroreScrittura with the system's reason; nothing of the file is left then
     void scrivi(std::string_view windir, int numero, std::string_view testo);
 

@@ -13,7 +13,7 @@ namespace korven::plot {
 
 namespace {
 
-// "the colour of pen 12", to be used behind "expected".
+// "the colour of pen 12", to follow "expected".
 std::string quale(std::string_view cosa, int numero) {
     return base::traduttore(cosa) + ' ' + std::to_string(numero);
 }

@@ -17,8 +17,8 @@ inline constexpr int numeroColori = 15;
 
 /// Greatest width of a line [mm].
 inline constexpr double massimoSpessoreMm = 100;
-/// Limits of both margins [cm]: no sheet is shifted off itself, which would leave a drawing without
-/// width.
+/// Limits of both margins [cm]: beyond them a sheet would be shifted off itself and leave a drawing
+/// without any width.
 inline constexpr double minimoMargineCm = -10, massimoMargineCm = 100;
 
 /// A pen as its user sees it.
@@ -71,8 +71,8 @@ void scriviConfigurazione(const std::string& percorso, const ConfigurazionePlot&
 [[nodiscard]] int pennaConEtichetta(const ConfigurazionePlot& configurazione,
                                     std::string_view etichetta);
 
-/// Path of the configuration file of a language tag ("ita"), or of the language that stands in for
-/// it: "module06ita.cfg" in the program folder, whatever its case. It may not exist.
+/// Path of the configuration file of a language tag ("ita"), or of the language that replaces it:
+/// "module06ita.cfg" in the program folder, whatever its case. It may not exist.
 [[nodiscard]] std::string fileConfigurazione(std::string_view sigla);
 
 }  // namespace korven::plot

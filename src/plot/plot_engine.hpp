@@ -48,8 +48,8 @@ struct StatoPlot {
     double scalaY = 0;
     double spessoreSuperficie = -1;  ///< width [cm] last set on the surface
 
-    /// What its files are called behind the project's name: "momenti"; the drawing says it after
-    /// `plotApri`. Empty: they have the project's name alone.
+    /// What its files add to the project's name: "momenti"; the drawing says it after `plotApri`.
+    /// Empty: they have the project's name alone.
     std::string nome;
 
     std::string stileTesti;  ///< text style of DXF files, held from the first one on

@@ -5,8 +5,7 @@
 
 #include "base/table.hpp"
 
-// The sheet that the result diagrams and the section drawing share, all in cm from its lower left
-// corner.
+// The sheet of the result diagrams and of the section drawing, in cm from its lower left corner.
 
 namespace korven::plot {
 
@@ -18,7 +17,7 @@ inline constexpr double larghQuadro = 17;  ///< frame width
 inline constexpr double altQuadro = 20;    ///< frame height
 inline constexpr double xCentro = x0 + larghQuadro / 2;
 
-/// Where a heading line stands: its middle x, its base line y, the height of its characters.
+/// The place of a heading line: its middle x, its base line y, the height of its characters.
 struct PostoTitolo {
     double x = 0, y = 0, altezza = 0;
 };

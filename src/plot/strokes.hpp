@@ -22,7 +22,7 @@ struct Segmento {
 
 /// Values of the last argument of `plotSimbolo` that say what its text is.
 inline constexpr int conteggioSimbolo = -1;   ///< the text is the code of a marker
-inline constexpr int conteggioCentrato = -2;  ///< the text stands centred on its point
+inline constexpr int conteggioCentrato = -2;  ///< the text is centred on its point
 
 /// A written text. Origin and offsets are already in its point [cm].
 struct TestoPlot {

@@ -6,8 +6,8 @@
 
 namespace korven::plot {
 
-/// What a picture of a drawing shows [cm]: its sheet, and beside it what texts need that begin on
-/// the sheet and stand out of it, two centimetres at most on each side.
+/// What a picture of a drawing shows [cm]: its sheet, and beside it the room for texts that begin
+/// on the sheet and reach beyond it, two centimetres at most on each side.
 /// @param respiro  room beyond the last letter [cm]
 [[nodiscard]] Riquadro conTesti(const Riquadro& foglio, const ArchivioDisegno& archivio,
                                 const MetricaTesto& metrica, double respiro = 0);

@@ -17,11 +17,10 @@ class MetricaTesto {
 };
 
 /// Width of a text in any size, over the font size, where no device measures: that of a usual
-/// sans-serif face, or of a typewriter face when the name of the typeface holds "Courier" or
-/// "Mono".
+/// sans-serif face, or of a typewriter face when the typeface has "Courier" or "Mono" in its name.
 [[nodiscard]] double larghezzaStimata(std::string_view carattere, std::string_view testo);
 
-/// Stands for a device: measures by `larghezzaStimata`.
+/// Takes the place of a device: measures by `larghezzaStimata`.
 class MetricaStimata : public MetricaTesto {
  public:
     /// True for a typeface whose widths are those that this class knows; any other is an estimate.

@@ -11,7 +11,7 @@ namespace korven::plot {
 
 /// Name of the text style in DXF files: the first line of dxf.cfg in the program folder. Where that
 /// file is missing or empty it is "MONOTXT", and the file is written with it if the folder allows
-/// it. A blank line stands for that name as well.
+/// it. A blank line means that name as well.
 /// @throws ErroreFile when the file is there and can't be read
 [[nodiscard]] std::string leggiStileTesti();
 
@@ -19,8 +19,8 @@ namespace korven::plot {
 /// @throws ErroreFile when a spill file can't be read
 [[nodiscard]] std::string testoDxf(std::string_view stile);
 
-/// Writes the stored drawing as DXF in Windows-1252, all of it or nothing, over what stood there.
-/// The text style is read once and held for the run.
+/// Writes the stored drawing as DXF in Windows-1252, all of it or nothing, over an earlier file of
+/// that name. The text style is read once and held for the run.
 /// @throws ErroreFile with the system's reason
 void plotDxf(const std::string& percorso);
 

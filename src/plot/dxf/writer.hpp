@@ -10,8 +10,8 @@
 namespace korven::plot {
 
 /// A pen plotter that draws into a DXF file: lines and texts, one layer for each colour of the
-/// standard palette. It has the vocabulary of the plot engine and is driven by a replay of what is
-/// stored.
+/// standard palette. It has the vocabulary of the plot engine; a replay of the stored drawing
+/// drives it.
 class ScrittoreDxf {
  public:
     /// An argument of this value marks a call that sets state and writes nothing.
