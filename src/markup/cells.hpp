@@ -12,7 +12,7 @@ namespace korven::markup {
 inline constexpr int maximumGridRows = 510;
 inline constexpr int maximumGridColumns = 30;
 
-/// The cells of a row: one tab is put behind it and it is cut at each tab, so an empty row is one
+/// The cells of a row: one tab is put after it and it is cut at each tab, so an empty row is one
 /// empty cell and a tab at the end adds one. The texts are kept as they are, blanks included.
 [[nodiscard]] std::vector<std::string> cutIntoCells(std::string_view row);
 

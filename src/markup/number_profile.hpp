@@ -12,10 +12,10 @@ inline constexpr int integerProfile = -1;
 /// Profile of a cell, taken with its outer blanks: `textProfile` if it holds anything but blanks,
 /// digits and points, so that a negative number is a text too; `integerProfile` without a point, or
 /// if the trimmed cell ends with one, so also for an empty cell; otherwise the count of characters
-/// behind the first point.
+/// after the first point.
 [[nodiscard]] int numberProfile(std::string_view cell);
 
-/// The cell rewritten to show `decimals` characters behind its first point. Zeros fill it up, an
+/// The cell rewritten to show `decimals` characters after its first point. Zeros fill it up, an
 /// integer gets point and zeros; nothing is rounded, what is too much is cut off. A cell that then
 /// begins with a point gets a 0 before it. `decimals` of -1 cuts the point off as well. A text
 /// stays as it is.

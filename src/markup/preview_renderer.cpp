@@ -7,7 +7,7 @@ namespace korven::markup {
 
 namespace {
 
-// How far the blanks before a cell and behind it reach, from the left end of its column.
+// How far the blanks before a cell and after it reach, from the left end of its column.
 struct Reach {
     double before, behind;
 };
@@ -63,8 +63,8 @@ void PreviewRenderer::block(ScanState& state, BlockKind kind) {
     }
 }
 
-// The blanks behind a cell are measured with the cell once more behind the line that holds it
-// already. Hence mostly none are added, and the next cell's own blanks make the column.
+// The blanks after a cell are measured with the cell a second time, appended to the line that holds
+// it already. Hence mostly none are added, and the next cell's own blanks make the column.
 std::string PreviewRenderer::row(const FittedTable& fitted, BlockKind kind, int number, double x0) {
     std::string line = padTo(x0);
     double cursor = x0;

@@ -23,8 +23,8 @@ class PreviewList {
 };
 
 /// Shows the report as the lines of a list, with its header once and its footer at the end. It
-/// knows one font and no pages; columns and alignment come about by blanks, and all columns but
-/// the labels of lists stand right.
+/// knows one font and no pages; columns and alignment come about by blanks, and all columns but the
+/// labels of lists are aligned to the right.
 class PreviewRenderer : public MarkupReceiver {
  public:
     /// @param list  not owned; must outlive the renderer

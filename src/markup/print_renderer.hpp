@@ -63,10 +63,9 @@ class PrintRenderer : public MarkupReceiver {
     bool jobOpen_ = false;
 };
 
-/// Prints a mark-up file, with the pointer waiting meanwhile. Does nothing if there is no such
-/// file.
+/// Prints a mark-up file, with the pointer waiting meanwhile. Without such a file it does nothing.
 /// @throws ErroreFile for a table beyond 2000 rows, or 510 rows or 30 columns of the grid, and what
-/// the printer throws
+///         the printer throws
 void printReport(const std::string& percorso, ReportPrinter& printer, base::Dialogo& dialogo);
 
 }  // namespace korven::markup

@@ -45,8 +45,7 @@ class MarkupReader {
     MarkupReader(RendererKind kind, MarkupReceiver& receiver) : kind_(kind), receiver_(receiver) {}
 
     /// Acts on one line (UTF-8, without its line end).
-    /// @throws ErroreIndice for a row beyond 2000 of one table or list, and what the renderer
-    /// throws
+    /// @throws ErroreIndice for row 2001 of one table or list, and what the renderer throws
     void line(std::string_view text);
 
     [[nodiscard]] const ScanState& state() const { return state_; }

@@ -34,8 +34,8 @@ struct ReportPage {
     /// y of the footer line.
     /// @param headerHeight  of the header's text: header and footer share their font
     [[nodiscard]] double footerTop(double headerHeight) const;
-    /// The y below which no further line begins: one that stands at it still has its place.
-    /// @param lineHeight  of the footer, measured in the font in force where the line stands
+    /// The y below which no further line begins: one that begins at it still has its place.
+    /// @param lineHeight  of the footer, measured in the font in force where the line is written
     [[nodiscard]] double limit(double lineHeight) const;
 };
 

@@ -27,8 +27,8 @@ struct SheetSize {
     double height = 0;
 };
 
-/// A printer, or the file that stands for one, did not take what it was to print. Other than a
-/// mark-up that is broken it is no reason to end the program.
+/// A printer, or the file that takes its place, did not take what it was to print. Unlike a broken
+/// mark-up this is no reason to end the program.
 class PrinterError : public base::ErroreFile {
  public:
     using ErroreFile::ErroreFile;

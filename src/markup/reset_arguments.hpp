@@ -20,9 +20,9 @@ struct ResetArguments {
 };
 
 /// Reads "a,b,c,d,e,f,size,font": six lengths in centimetres, in the order of the struct, the font
-/// size in points and the font as it stands. A length becomes the integer part (rounded down) of
-/// its points, the size loses its decimals. Missing fields read as empty, and what begins with no
-/// number counts 0; the point alone is a decimal sign, a comma always ends the field.
+/// size in points and the font, taken unchanged. A length becomes the integer part (rounded down)
+/// of its points, the size loses its decimals. Missing fields read as empty, and what begins with
+/// no number counts 0; the point alone is a decimal sign, a comma always ends the field.
 [[nodiscard]] ResetArguments parseReset(std::string_view argument);
 
 }  // namespace korven::markup

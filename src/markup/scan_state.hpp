@@ -11,7 +11,7 @@ inline constexpr int maximumRows = 2000;
 enum class Mode { text = 0, table = 2, list = 3 };
 enum class Alignment { left = 0, centre = 1, right = 2 };
 
-/// What the directives of a report leave behind from line to line. Each renderer has its own.
+/// What a renderer remembers of a report from line to line. Each has its own.
 struct ScanState {
     bool documentOpen = false;              ///< set by #RESET, cleared by #ENDDOCUMENT
     Mode mode = Mode::text;                 ///< what becomes of a content line

@@ -11,9 +11,9 @@ namespace korven::markup {
 [[nodiscard]] std::vector<std::string_view> caratteri(std::string_view testo);
 
 /// Number of characters after which a text can be parted, by a simple form of the Italian rules:
-/// the first character that is a blank or has a blank (or the end) behind it, that is the first of
+/// the first character that is a blank or is followed by one (or by the end), that is the first of
 /// a double consonant, or that is a vowel before a single consonant and another vowel. "sabbia" is
-/// parted behind "sab", "argilla" behind "argil", "limosa" behind "li", "ghiaia" only at its end.
+/// parted after "sab", "argilla" after "argil", "limosa" after "li", "ghiaia" only at its end.
 /// @return 1 or more; for an empty text 1, one more than its length
 [[nodiscard]] std::size_t sillaba(std::span<const std::string_view> testo);
 

@@ -43,7 +43,7 @@ class Adattamento {
         righe_.push_back(std::move(riga));
     }
 
-    // Goes on behind `lunghezza` bytes, and behind the line end if one stands there.
+    // Goes on after `lunghezza` bytes, and after the line end if one follows.
     void prosegui(std::size_t lunghezza) {
         resto_.remove_prefix(lunghezza);
         if (resto_.starts_with(fineRiga)) resto_.remove_prefix(1);

@@ -9,9 +9,9 @@
 
 namespace korven::markup {
 
-/// The report as plain text: text lines and table rows as they stand, with their tabs, so that a
-/// spreadsheet can read it. Of the layout nothing survives. The header stands before the first text
-/// line, not before a table that comes earlier; the footer at the end.
+/// The report as plain text: text lines and table rows unchanged, with their tabs, so that a
+/// spreadsheet can read it. Of the layout nothing survives. The header comes before the first text
+/// line, not before a table that comes earlier; the footer comes at the end.
 ///
 /// The text is collected in memory as the bytes of the file (Windows-1252, CR LF), so that the
 /// caller can save it whole or not at all.
