@@ -36,7 +36,7 @@ QFont nuovoFont(std::string_view carattere) {
     QFont font(famiglia(carattere));
     font.setStyleHint(QFont::SansSerif);
     font.setPixelSize(corpoDiMisura);
-    font.setKerning(false);  // a plotter sets letter behind letter
+    font.setKerning(false);  // a plotter sets letter after letter
     font.setHintingPreference(QFont::PreferNoHinting);
     return font;
 }

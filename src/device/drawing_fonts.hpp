@@ -8,7 +8,7 @@
 namespace korven::device {
 
 /// The font of a drawing's texts: the typeface named, or one with the same widths when the machine
-/// has it not (Liberation for Arial, Courier New and Times New Roman), at a size for measuring.
+/// lacks it (Liberation for Arial, Courier New and Times New Roman), at a size for measuring.
 /// Shapes are not fitted to pixels, so that a text has the same proportions on every device.
 [[nodiscard]] QFont fontDisegno(std::string_view carattere);
 
@@ -19,9 +19,9 @@ namespace korven::device {
 /// Row of a text over its height.
 inline constexpr double rigaPerAltezza = 5.0 / 3.0;
 
-/// Width of a painted text over that in the font it is painted in: 1, but where a drawing counts on
-/// other widths. Fonts of one name come in versions, and where the machine has none of the widths
-/// of a known face a wider one stands in; the text is as wide as it was measured all the same.
+/// Width of a painted text over that in the font it is painted in: 1, except where a drawing counts
+/// on other widths. Fonts of one name come in versions, and a wider one is used where the machine
+/// has none of the widths of a known face; the text is as wide as it was measured all the same.
 [[nodiscard]] double stiramento(std::string_view carattere, std::string_view testo);
 
 /// Measures texts in the fonts that the drawing is painted with. Faces whose widths are known take

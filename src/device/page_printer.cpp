@@ -20,7 +20,7 @@ constexpr double twipPerPollice = 1440;
 constexpr double twipPerMillimetro = 56.7;  // 567 to the centimetre, as the measures of pages are
 constexpr int pianiAColori = 3;
 
-// The printer stands before the class that prints on it, and so lives longer.
+// The printer is declared before the class that prints on it, and so lives longer.
 struct FilePdf {
     FilePdf(const QString& percorso, const QPrinter& pagina) : stampante(QPrinter::HighResolution) {
         stampante.setOutputFormat(QPrinter::PdfFormat);

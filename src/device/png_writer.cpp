@@ -7,8 +7,8 @@ namespace korven::device {
 
 namespace {
 
-// The library gets the bytes rid of here, and the file takes them between its calls: an error of
-// the file must not pass through code that is not C++.
+// The library hands its bytes over here, and the file takes them between its calls: an error of the
+// file must not pass through code that is not C++.
 void accoda(png_structp png, png_bytep byte, png_size_t quanti) {
     static_cast<std::string*>(png_get_io_ptr(png))
         ->append(reinterpret_cast<const char*>(byte), quanti);
@@ -27,8 +27,7 @@ ScrittorePng::ScrittorePng(const std::string& percorso, QSize misure, int pixelP
         throw std::bad_alloc();
     }
     png_set_write_fn(png_, &pronti_, accoda, nienteDaScaricare);
-    // Wide sheets at a fine resolution go beyond the million pixels a side that the library
-    // expects.
+    // Wide sheets at a fine resolution exceed the million pixels a side that the library allows.
     png_set_user_limits(png_, PNG_UINT_31_MAX, PNG_UINT_31_MAX);
     const auto larghezza = static_cast<png_uint_32>(misure.width());
     png_set_IHDR(png_, info_, larghezza, static_cast<png_uint_32>(misure.height()), 8,
@@ -38,7 +37,7 @@ ScrittorePng::ScrittorePng(const std::string& percorso, QSize misure, int pixelP
     png_set_pHYs(png_, info_, passo, passo, PNG_RESOLUTION_METER);
     png_set_filter(png_, PNG_FILTER_TYPE_BASE, PNG_FILTER_UP);  // most rows repeat the last
     png_write_info(png_, info_);
-    png_set_bgr(png_);  // four bytes a pixel, blue first, the last of no meaning
+    png_set_bgr(png_);  // four bytes a pixel, blue first, the last without meaning
     png_set_filler(png_, 0, PNG_FILLER_AFTER);
     scarica();
 }

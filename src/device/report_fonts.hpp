@@ -34,7 +34,7 @@ struct CarattereRelazione {
 class CaratteriRelazione {
  public:
     /// The typeface of that name, bold and italic as asked; one with the same widths where the
-    /// machine has it not, the usual one for an empty name. The size does not matter.
+    /// machine lacks it, the usual one for an empty name. The size does not matter.
     [[nodiscard]] CarattereRelazione& carattere(const markup::ReportFont& font);
 
  private:

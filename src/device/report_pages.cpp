@@ -23,7 +23,7 @@ constexpr double puntiPerPollice = 72;
 constexpr double millimetriPerPollice = 25.4;
 
 // A report counts its page one centimetre short of the sheet, half of which is the edge that usual
-// printers leave: only from there on does it stand in the middle [points].
+// printers leave: only from there on is it in the middle [points].
 constexpr double bordoFoglio = markup::pointsPerCentimetre / 2;
 
 // Further out nothing is on any sheet, and the numbers of a page description end [points].
@@ -111,7 +111,7 @@ class SuStampante : public PagineRelazione {
     const MarginiMinimi margini_;
 };
 
-// The printer stands before the class that prints on it, and so lives longer.
+// The printer is declared before the class that prints on it, and so lives longer.
 struct Stampante {
     explicit Stampante(const QString& nome)
         : stampante(QPrinterInfo::printerInfo(nome), QPrinter::HighResolution) {}
@@ -124,7 +124,7 @@ class SuStampanteNota : private Stampante, public SuStampante {
         : Stampante(nome), SuStampante(stampante, titolo) {}
 };
 
-// The file stands before the class that writes it, and so lives longer.
+// The file is declared before the class that writes it, and so lives longer.
 struct FilePdf {
     FilePdf(const QPageLayout& pagina, const QString& titolo) : scrittore(&byte) {
         scrittore.setPageLayout({pagina.pageSize(), pagina.orientation(),

@@ -13,8 +13,7 @@ namespace korven::device {
 
 /// The report on the pages of a printer, or in the file that the printer writes. Pages are measured
 /// from their printable edge, or from half a centimetre where that is less. A job that an error
-/// cuts short is taken back when the printer given out is deleted. The process needs a
-/// QGuiApplication.
+/// cuts short is taken back when the printer given out is deleted. A QGuiApplication must exist.
 ///
 /// A printer that the system no longer knows is told before the first page, and again at the end of
 /// the job: the pages go to the queue when the job ends, which tells nobody whether they arrived.
@@ -24,8 +23,8 @@ namespace korven::device {
                                                                           const QString& titolo);
 
 /// The same on the printer of that name, with its usual paper.
-/// @throws markup::PrinterError if the system knows no printer of that name, and names those it
-/// does
+/// @throws markup::PrinterError if the system knows no printer of that name; the text has those it
+///         does know
 [[nodiscard]] std::unique_ptr<markup::ReportPrinter> relazioneSuStampante(
     const std::string& nome, const std::string& titolo);
 
