@@ -53,7 +53,7 @@ CifreDecimali cifrePiuBrevi(double valore) {
     const char* esponente = e + 1;
     if (*esponente == '+') ++esponente;  // from_chars takes no plus sign
     std::from_chars(esponente, fine, numero.punto);
-    ++numero.punto;  // the text stands as d.ddd, the digits here as 0.dddd
+    ++numero.punto;  // the text is d.ddd, the digits here are 0.dddd
     togliZeri(numero);
     return numero;
 }

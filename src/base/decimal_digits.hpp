@@ -16,7 +16,7 @@ struct CifreDecimali {
 /// @throws ErroreValore if `valore` is not finite: such a value must never reach a text
 [[nodiscard]] CifreDecimali cifrePiuBrevi(double valore);
 
-/// Rounds to `decimali` digits behind the point, half away from zero.
+/// Rounds to `decimali` digits after the point, half away from zero.
 [[nodiscard]] CifreDecimali arrotondaDecimali(CifreDecimali numero, int decimali);
 
 /// Rounds to `significative` digits in all, half away from zero.

@@ -19,8 +19,8 @@ class Dialogo {
     /// Returns `annulla` when nobody can answer (no user, window closed).
     virtual Risposta domanda(std::string_view testo, std::string_view titolo, Pulsanti pulsanti,
                              Icona icona) = 0;
-    /// The same with what helps to answer, shown apart from the question below it. Who has no place
-    /// for it asks the question alone.
+    /// The same with what helps to answer, shown apart from the question below it. A port without
+    /// room for it asks the question alone.
     virtual Risposta domandaInformata(std::string_view testo, std::string_view titolo,
                                       Pulsanti pulsanti, Icona icona,
                                       std::string_view /*informazione*/) {

@@ -17,11 +17,11 @@ enum class Custodia {
 /// Tries to take the lock of an open file or folder, without waiting; closing it lets go.
 [[nodiscard]] Custodia prendiInCustodia(int file);
 
-/// True while the open file still bears the name, and no link stands there instead.
+/// True while the open file still bears the name, and the name is not a link now.
 [[nodiscard]] bool portaIlNome(int file, const std::string& percorso);
 
-/// A file or folder of this process's own for as long as this lives, where the file system has
-/// locks.
+/// A file or folder that belongs to this process as long as this lives, where the file system has
+/// locks at all.
 class InCustodia {
  public:
     InCustodia() = default;

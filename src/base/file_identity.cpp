@@ -44,7 +44,7 @@ std::optional<std::string> destinazione(const std::string& percorso) {
         std::error_code errore;
         const auto oltre = fs::read_symlink(meta, errore);
         if (errore) return meta.string();
-        meta = meta.parent_path() / oltre;  // an absolute target stands for itself
+        meta = meta.parent_path() / oltre;  // an absolute target replaces the folder
     }
     return std::nullopt;
 }

@@ -5,18 +5,18 @@
 
 namespace korven::base {
 
-/// The file that a name stands for: a link leads to its target, which need not exist.
+/// The file that a name leads to: a link leads to its target, which need not exist.
 /// @return nothing if links lead round in a circle
 [[nodiscard]] std::optional<std::string> destinazione(const std::string& percorso);
 
 /// True if both names lead to one file, or would once they are written: equal texts, symbolic or
 /// hard links, other ways to a folder ("q" and "./q"), and the case of letters where the file
-/// system does not tell it apart. To learn that, a file of a name of its own may be made for a
-/// moment in the folder, only when two names differ in nothing else.
+/// system ignores it. To learn that, a file with a name of its own may be made for a moment in the
+/// folder, only when two names differ in nothing else.
 [[nodiscard]] bool stessoFile(const std::string& uno, const std::string& altro);
 
-/// What tells a file from the one that stood under its name before: written anew it is another,
-/// whatever it holds. Equal for a name that no file has.
+/// What tells a file from an earlier one of the same name: written anew it is another, whatever it
+/// holds. Equal for a name that no file has.
 class ImprontaFile {
  public:
     explicit ImprontaFile(const std::string& percorso);

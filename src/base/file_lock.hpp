@@ -8,8 +8,8 @@ namespace korven::base {
 ///
 /// The holder removes the file before it lets go. Who gets the lock of a file that has lost its
 /// name meanwhile begins anew, so that two never hold the lock of one name. The system ends a lock
-/// with its process, however that ended: a file that a killed program left behind stands in
-/// nobody's way, the next holder takes it over and removes it.
+/// with its process, however that ended: a file that a killed program left is in nobody's way, the
+/// next holder takes it over and removes it.
 class Serratura {
  public:
     enum class Esito {
@@ -25,8 +25,8 @@ class Serratura {
     Serratura& operator=(const Serratura&) = delete;
     ~Serratura() { lascia(); }
 
-    /// Tries to take the lock on the file of this name, without waiting. What was held is let go
-    /// first.
+    /// Tries to take the lock on the file of this name, without waiting, after letting go of what
+    /// it holds.
     [[nodiscard]] Esito prendi(const std::string& percorso);
     void lascia();
 

@@ -11,9 +11,8 @@ namespace korven::base {
 /// The path with its last three characters replaced: a project's result file, a report's TXT file.
 [[nodiscard]] std::string conUltimiTre(std::string_view percorso, std::string_view estensione);
 
-/// The path up to and including its first point, wherever that stands, then `estensione`. A folder
-/// with a point in its name therefore cuts the path there. Without any point, one is put at the
-/// end.
+/// The path up to and including its first point, wherever that is, then `estensione`. A folder with
+/// a point in its name therefore cuts the path there. A path without any point gets one at its end.
 [[nodiscard]] std::string finoAlPrimoPunto(std::string_view percorso, std::string_view estensione);
 
 /// Path of the result file: beside the project, same stem, "OUT" for its last three characters.

@@ -74,8 +74,8 @@ bool scriviTutto(int file, std::string_view contenuto) {
     return true;
 }
 
-// A name that stands for a device, a pipe or a socket: reading it could wait for ever or never end,
-// and a rename would replace it.
+// The name of a device, a pipe or a socket: reading it could wait for ever or never end, and a
+// rename would replace it.
 void rifiutaSpeciale(const std::string& percorso, const struct stat& stato) {
     if (!S_ISREG(stato.st_mode) && !S_ISDIR(stato.st_mode))
         throw ErroreFile(percorso, 0, traduttore("non è un file normale"));
@@ -131,7 +131,7 @@ ScrittoreFile::ScrittoreFile(const std::string& percorso) : percorso_(percorso) 
     // Taking over the name would get past a file's own write protection.
     if (::access(meta_.c_str(), F_OK) == 0 && ::access(meta_.c_str(), W_OK) != 0)
         nonScritto(percorso, errno);
-    // A name of its own, since the longest name that a folder takes leaves no room behind it.
+    // A name of its own: after the longest name that a folder takes there is no room for more.
     const std::string modello = cartellaDi(meta_) + "/.korven-XXXXXX";
     // In custody, so that nobody takes it for what a killed program left (leftovers.hpp).
     do {

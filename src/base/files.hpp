@@ -15,14 +15,15 @@ inline constexpr std::size_t massimoByte = std::size_t{1} << 30;
 [[nodiscard]] std::string leggiFile(const std::string& percorso);
 
 /// Puts `contenuto` under the name `percorso`, all of it or nothing: the bytes go into a temporary
-/// file of the same folder, to the disk, and then take the name. What stood there before survives
-/// any failure; its permissions are kept, a link is followed to its target, which need not exist.
+/// file of the same folder, to the disk, and then take the name. An earlier file of that name
+/// survives any failure. Its permissions are kept; a link is followed to its target, which may be
+/// missing.
 /// @throws ErroreFile with the system's reason (full disk, no permission, no such folder, links in
-///         a loop), or if the name stands for a pipe, a device or a socket
+///         a loop), or if the name is that of a pipe, a device or a socket
 void scriviFile(const std::string& percorso, std::string_view contenuto);
 
 /// A file in the making, for contents too long for memory: what `scriviFile` does, part by part.
-/// Without `concludi` nothing is left of it, and what stood under its name stays.
+/// Without `concludi` nothing is left of it, and an earlier file of that name stays.
 class ScrittoreFile {
  public:
     /// @throws ErroreFile as `scriviFile`

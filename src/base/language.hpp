@@ -6,8 +6,8 @@
 
 namespace korven::base {
 
-/// Tag of a language code, as it stands in names of files and folders: 1 "ita", 2 "deu", 3 "fra",
-/// 4 "esp", 5 "eng", 6 "por". Empty for every other code.
+/// Tag of a language code, as the names of files and folders have it: 1 "ita", 2 "deu", 3 "fra", 4
+/// "esp", 5 "eng", 6 "por". Empty for every other code.
 [[nodiscard]] std::string_view siglaLingua(int codice);
 
 /// What a file with the chosen language must hold. Who reads it has no language yet, so it is told
@@ -24,10 +24,10 @@ inline constexpr std::string_view attesoCodiceLingua =
 /// @throws ErroreFile when the file cannot be read or its first line holds no whole number
 [[nodiscard]] int leggiLingua(const std::string& percorso);
 
-/// The tag whose file is to be taken: `sigla` itself when there is a file for it, otherwise the
-/// stand-ins, one step after the other, each testing the tag that the step before it left:
-/// deu to eng, eng to fra, fra to esp, por to esp, esp to ita. Nobody stands in for Italian, so the
-/// tag that comes back may still be without a file.
+/// The tag whose file is to be taken: `sigla` itself when there is a file for it, otherwise its
+/// replacements, one step after the other, each testing the tag that the step before it left: deu
+/// to eng, eng to fra, fra to esp, por to esp, esp to ita. Nothing replaces Italian, so the tag
+/// that comes back may still be without a file.
 [[nodiscard]] std::string siglaDisponibile(std::string_view sigla,
                                            const std::function<bool(std::string_view)>& esisteFile);
 

@@ -32,7 +32,7 @@ bool nomeDiSerratura(std::string_view nome) {
     return nome.starts_with(inizioProvvisori) && nome.ends_with(fineSerrature);
 }
 
-// A file of the user's own; a link is none.
+// A file of the user's own, and no link.
 bool fileProvvisorio(const fs::path& percorso) {
     struct stat stato {};
     const std::string nome = percorso.filename().string();

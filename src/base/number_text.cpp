@@ -39,7 +39,7 @@ std::size_t lunghezzaNumero(std::string_view testo) {
     return fine;
 }
 
-// The exponent behind an e; one beyond all doubles and all lengths of text is held at a bound.
+// The exponent after an e; one beyond all doubles and all lengths of text is held at a bound.
 long long esponenteScritto(std::string_view cifre) {
     constexpr long long limite = 1'000'000'000'000'000;
     const bool negativo = cifre.starts_with('-');
@@ -61,7 +61,7 @@ bool troppoPiccolo(std::string_view numero) {
     return posto + (e < numero.size() ? esponenteScritto(numero.substr(e + 1)) : 0) < 0;
 }
 
-// What stands behind the leading blanks, without its sign.
+// What follows the leading blanks, without its sign.
 struct Segnato {
     bool negativo;
     std::string_view resto;

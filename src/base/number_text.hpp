@@ -6,8 +6,7 @@
 
 // Numbers as text, the same on every machine and under every locale: the point is the only decimal
 // sign. All formatters round half away from zero, decided on the shortest decimal text that reads
-// back as the same double, so that 1.005 is a tie and 0.00000005 is not lost. A value must be
-// finite.
+// back as the same double, so that 1.005 is a tie and 0.00000005 is not lost. Only finite values.
 
 namespace korven::base {
 
@@ -29,10 +28,10 @@ namespace korven::base {
 /// Fixed-field text of a number for drawings.
 ///
 /// @param maschera  a picture such as "###.##"; only its lengths count: the characters before the
-///                  point are the width of the integer part, those behind it the decimals
+///                  point are the width of the integer part, those after it the decimals
 /// @return the rounded number (half rounded up), its integer part padded with blanks on the left;
 ///         an integer part longer than its width pushes the fraction out of the picture, one longer
-///         than the whole picture stands alone
+///         than the whole picture is written alone
 [[nodiscard]] std::string formattaMaschera(double valore, std::string_view maschera);
 
 /// Text of a number in the report: a value rounded to four decimals, then cut (not rounded again)
@@ -41,7 +40,7 @@ namespace korven::base {
 /// @param decimali  1 to 12; 0 leaves the point at the end, -1 takes it off
 [[nodiscard]] std::string formattaDecimali(double valore, int decimali);
 
-/// Text of `valore` * 10^`potenza` with exactly `decimali` digits behind the point, rounded once; a
+/// Text of `valore` * 10^`potenza` with exactly `decimali` digits after the point, rounded once; a
 /// 0 before the point, never "-0". The power of ten moves the point of the decimal text and so
 /// costs no digit: tonnes become kN, metres centimetres.
 /// @param decimali  0 or less leaves the point out

@@ -30,8 +30,7 @@ class ErroreIndice : public std::out_of_range {
 };
 
 /// A table of N rows counted from 1, as engineers count, with a row 0 that belongs to it and is
-/// never filled by a user (layer 0 is the ground surface). Every access is checked in every build
-/// type.
+/// never filled by a user (layer 0 is the ground surface). Every build type checks every access.
 ///
 /// @throws ErroreIndice for an index below 0 or above N
 template <class T, std::size_t N>

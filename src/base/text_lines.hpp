@@ -7,8 +7,8 @@ namespace korven::base {
 
 /// Reads a text file line by line, or number by number, and says where it broke. The file is
 /// Windows-1252; lines end in CR LF or LF alone, the last may have no end, or only the CR of one
-/// that was cut in two. A mark of DOS at the end (1A) and the line ends behind it are no part of
-/// the file. Texts come out in UTF-8.
+/// that was cut in two. A mark of DOS at the end (1A) and the line ends after it are no part of the
+/// file. Texts come out in UTF-8.
 class LettoreRighe {
  public:
     /// Reads the whole file.
@@ -23,8 +23,7 @@ class LettoreRighe {
     /// True when nothing follows. A lone line end is nothing.
     [[nodiscard]] bool fine() const;
 
-    /// True when nothing follows but blanks and line ends, as an editor may leave them: no further
-    /// value.
+    /// True when only blanks and line ends follow, as an editor may leave them: no further value.
     [[nodiscard]] bool soloRigheVuote() const;
 
     /// The next line whole, without its end.
@@ -36,8 +35,8 @@ class LettoreRighe {
     /// @throws ErroreFile at the end of the file or if the line begins with no number
     double numero(std::string_view atteso);
 
-    /// The number that the next line is: nothing but blanks may stand around it, and it must lie
-    /// between `minimo` and `massimo`. For files that people edit, where "0,35" must not become 0.
+    /// The number that makes up the next line: with nothing but blanks around it, and between
+    /// `minimo` and `massimo`. For files that people edit, where "0,35" must not become 0.
     /// @throws ErroreFile as above, and if something follows or the number lies outside
     double numeroSolo(double minimo, double massimo, std::string_view atteso);
 

@@ -31,7 +31,7 @@ void aggiungiTesti(TabellaTesti& testi, LettoreRighe& file) {
 }
 
 // Shell's method: passes of exchanges over pairs `passo` rows apart. A pass ends where the one
-// before it made its last exchange, as everything behind is in order already.
+// before it made its last exchange, as everything after that is in order already.
 void ordinaTesti(TabellaTesti& testi) {
     auto& righe = testi.righe;
     for (int i = 1; i <= testi.nTesti; ++i)

@@ -13,7 +13,7 @@ inline constexpr int massimoTesti = 800;           ///< in texts01.txt and texts
 inline constexpr int massimoTestiAggiunti = 4000;  ///< in texts32.txt
 inline constexpr int numeroLingue = 6;
 inline constexpr int colonnaItaliano = 1;  ///< the key of a record
-inline constexpr int colonnaInglese = 5;   ///< stands in for a language that is not translated yet
+inline constexpr int colonnaInglese = 5;   ///< shown where a translation is missing
 
 /// One text in the six languages, in the order of the language codes. A translation that begins
 /// with "@" is not made yet.
@@ -27,7 +27,7 @@ struct TabellaTesti {
     TabellaTesti() = default;
     explicit TabellaTesti(int quanti) : capacita(quanti) {}
 
-    /// The next row, to be filled. What stood there before the table was emptied is gone.
+    /// The next row, to be filled. What it held before the table was emptied is gone.
     RecordTesti& nuovaRiga();
 
     int capacita = massimoTesti;
@@ -37,7 +37,7 @@ struct TabellaTesti {
 
 /// The two tables of the running program, filled and sorted at the start, constant afterwards. The
 /// first has a size that the format of its files fixes; texts that came to the program after it was
-/// full stand in the second, which is looked up where the first has no record.
+/// full are in the second, which is looked up where the first has no record.
 extern TabellaTesti tabellaTesti;
 extern TabellaTesti testiAggiunti;
 
@@ -46,8 +46,8 @@ extern TabellaTesti testiAggiunti;
 [[nodiscard]] std::string chiaveTesto(std::string_view testo);
 
 /// Appends the records of a text file: seven lines a record, the six languages and a separator line
-/// whose content is ignored. The separator may be missing behind the last record alone. The table
-/// is unsorted afterwards.
+/// whose content is ignored. The separator may be missing after the last record alone. The table is
+/// unsorted afterwards.
 ///
 /// @throws ErroreFile when the file ends inside a record or holds a record beyond the capacity; the
 /// table then keeps the records read before

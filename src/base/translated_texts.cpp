@@ -82,7 +82,7 @@ std::string traduci(const TabellaTesti& testi, int codice, std::string_view test
     }
     if (s != record.testo[colonnaItaliano]) {
         t = conFormaDi(s, t);
-        // The two forms of this short word stand in the boxes of every system; they need no eye.
+        // The two forms of this short word appear in the boxes of every system; they need no eye.
         if (maiuscolo(s) != "NO") box.segnala("Verificare maiuscole", s + "\n" + t);
     }
     return t;

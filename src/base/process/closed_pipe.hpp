@@ -2,7 +2,7 @@
 
 namespace korven::base {
 
-/// Gives the standard streams that are closed a stand-in on which every use fails. Without it the
+/// Puts in the place of each closed standard stream one on which every use fails. Without it the
 /// next file that is opened would take the place, and what is told would be written into it. To be
 /// called before anything is opened.
 void occupaCanaliChiusi();

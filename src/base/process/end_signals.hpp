@@ -8,7 +8,7 @@ namespace korven::base {
 /// Receives the system's signals to end (SIGTERM at shutdown, SIGHUP when the connection or
 /// terminal goes, SIGINT) as numbers in a pipe, where an event loop can wait for them. A second
 /// signal of the same kind ends the program at once. One object at a time; the handlers found
-/// before are put back behind it. A signal that is ignored stays ignored.
+/// before are put back when it goes. A signal that is ignored stays ignored.
 class SegnaliFine {
  public:
     SegnaliFine();
