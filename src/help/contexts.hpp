@@ -8,7 +8,7 @@ namespace korven::help {
 inline constexpr int ultimaVoceAiuto = 200;
 
 // Entries of the forms that no menu item names but for the box, which About opens; those of the
-// menu stand in menu_tree.cpp.
+// menu are in menu_tree.cpp.
 inline constexpr int voceGrafica = 28;
 inline constexpr int voceConfStampa = 29;
 inline constexpr int voceTempCalc = 30;
@@ -18,7 +18,7 @@ inline constexpr int voceSelezling = 33;
 
 /// The table of help contexts, entries 0 to 200: menu items and masks name an entry, the entry
 /// holds the number under which the help files keep the page. Entry n is page n, so that a page can
-/// be found from either side; entry 0 stands for no page of its own.
+/// be found from either side; entry 0 has no page of its own.
 [[nodiscard]] constexpr std::array<std::int16_t, ultimaVoceAiuto + 1> contestiAiuto() {
     std::array<std::int16_t, ultimaVoceAiuto + 1> tabella{};
     for (std::size_t i = 0; i < tabella.size(); ++i) tabella[i] = static_cast<std::int16_t>(i);

@@ -15,7 +15,7 @@ namespace {
 constexpr std::string_view segnoCapitolo = "@capitolo ";
 constexpr std::string_view segnoPagina = "@pagina ";
 
-// Entry and name behind "@pagina ": "5 stratigrafia".
+// Entry and name after "@pagina ": "5 stratigrafia".
 bool leggiSegno(std::string_view testo, PaginaGuida& pagina) {
     const char* fine = testo.data() + testo.size();
     const auto [resto, errore] = std::from_chars(testo.data(), fine, pagina.voce);
@@ -31,7 +31,7 @@ bool giaUsata(const Guida& guida, const PaginaGuida& nuova) {
     });
 }
 
-// Reads the lines behind "@pagina", up to the next "@" or the end.
+// Reads the lines after "@pagina", up to the next "@" or the end.
 // @return the line that ended the page; empty at the end of the file
 std::string leggiPagina(base::LettoreRighe& lettore, PaginaGuida& pagina) {
     const std::string attesoTitolo = base::traduttore("atteso il titolo della pagina");

@@ -13,7 +13,7 @@ struct PaginaGuida {
     std::string nome;          ///< by which links name it
     std::string titolo;        ///< plain text
     std::string parole;        ///< further words under which a search finds it, parted by commas
-    std::string html;          ///< what stands below the title, in the tags of QTextBrowser
+    std::string html;          ///< all below the title, in the tags of QTextBrowser
     std::size_t capitolo = 0;  ///< index of its chapter
 };
 
@@ -26,8 +26,7 @@ struct Guida {
 /// First line of every help file.
 inline constexpr std::string_view primaRigaGuida = "KORVEN 32 HLP 1";
 
-/// Reads a help file (docs/help.md tells its form): structure alone, the tags are taken as they
-/// stand.
+/// Reads a help file (docs/help.md tells its form): structure alone, the tags are taken unread.
 /// @throws base::ErroreFile with file, line and what was expected: a file missing or cut short, a
 ///         page outside a chapter or without title or body, an entry or a name used twice
 [[nodiscard]] Guida leggiGuida(const std::string& percorso);

@@ -20,14 +20,14 @@ bool dellaParola(char c) {
     return (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || static_cast<unsigned char>(c) > 127;
 }
 
-// Where `parola` stands at the beginning of a word; npos if nowhere.
+// Where a word begins with `parola`; npos if nowhere.
 std::size_t trovaParola(std::string_view testo, std::string_view parola, std::size_t da = 0) {
     for (auto i = testo.find(parola, da); i != testo.npos; i = testo.find(parola, i + 1))
         if (i == 0 || !dellaParola(testo[i - 1]) || !dellaParola(parola.front())) return i;
     return testo.npos;
 }
 
-// From a blank before `centro` to a blank behind it, so that no word and no character is cut.
+// From a blank before `centro` to a blank after it, so that no word and no character is cut.
 std::string brano(std::string_view testo, std::size_t centro) {
     std::size_t inizio = centro > primaDelBrano ? centro - primaDelBrano : 0;
     if (inizio > 0) inizio = std::min(testo.find(' ', inizio) + 1, centro);

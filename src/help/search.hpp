@@ -13,21 +13,20 @@ namespace korven::help {
 /// A page that a search has found.
 struct Trovata {
     const PaginaGuida* pagina = nullptr;
-    std::string brano;  ///< what stands around the first word found in the body, else its beginning
+    std::string brano;  ///< the text around the first word found in the body, else its beginning
 };
 
 /// The words of a search, folded (text.hpp), parted by blanks.
 [[nodiscard]] std::vector<std::string> paroleCercate(std::string_view cerca);
 
-/// Where words of a search stand in a text (UTF-8), at the beginning of a word each: first byte and
-/// the one behind the last.
+/// Where words of a search begin a word of a text (UTF-8): the first byte of each and the one after
+/// its last.
 [[nodiscard]] std::vector<std::pair<std::size_t, std::size_t>> postiTrovati(
     std::string_view testo, const std::vector<std::string>& parole);
 
 /// The pages that hold every word, upper and lower case and accents alike, at the beginning of a
 /// word: "spin" finds "spinta". Those with the words in their title come first, then those with
-/// them among their further words; else in the order of the help. Nothing for a search without
-/// words.
+/// them among their further words; else in the order of the help. No words find no page.
 [[nodiscard]] std::vector<Trovata> cercaNellaGuida(const Guida& guida, std::string_view cerca);
 
 }  // namespace korven::help

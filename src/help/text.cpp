@@ -27,7 +27,7 @@ constexpr Coppia pieghe[] = {
     {"φ", "phi"},     {"’", "'"},
 };
 
-// Tags within a line of text; every other one parts what stands before and behind it.
+// Tags within a line of text; every other one parts the text before it from that after it.
 constexpr std::string_view nellaRiga[] = {"sub", "sup", "b", "i", "a", "code", "span"};
 
 template <class Tabella>
