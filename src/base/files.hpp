@@ -16,8 +16,7 @@ inline constexpr std::size_t massimoByte = std::size_t{1} << 30;
 
 /// Puts `contenuto` under the name `percorso`, all of it or nothing: the bytes go into a temporary
 /// file of the same folder, to the disk, and then take the name. An earlier file of that name
-/// survives any failure. Its permissions are kept; a link is followed to its target, which may be
-/// missing.
+/// survives any failure. Its permissions are kept; a link is followed, even to a missing target.
 /// @throws ErroreFile with the system's reason (full disk, no permission, no such folder, links in
 ///         a loop), or if the name is that of a pipe, a device or a socket
 void scriviFile(const std::string& percorso, std::string_view contenuto);
