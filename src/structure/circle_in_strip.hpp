@@ -11,7 +11,7 @@ namespace korven::structure {
 /// what lies below y0 and above y1 is taken from pi r^2.
 ///
 /// @param c   centre of the circle, on the axis across the strips [mm]
-/// @param r   radius [mm], not below 0; a circle of radius 0 has no area wherever it stands
+/// @param r   radius [mm], not below 0; a circle of radius 0 has no area wherever it is
 /// @param y0  lower edge of the strip [mm]
 /// @param y1  upper edge of the strip [mm], not below y0
 /// @return area [mm2]; 0 if the circle only touches the strip

@@ -17,8 +17,7 @@ namespace korven::structure {
 /// @param Nd   design axial force [N], positive in compression
 [[nodiscard]] double cercaDeformazione(const ModelloStrisce& modello, int k, double chi, double Nd);
 
-/// True when the strip forces balance the axial force within 1 N; never for a sum that is not
-/// finite.
+/// True when the strip forces balance the axial force within 1 N; false for a sum not finite.
 [[nodiscard]] bool inEquilibrio(const ModelloStrisce& modello, double eps0, double chi, double Nd);
 
 }  // namespace korven::structure

@@ -18,8 +18,7 @@ struct PuntiAllungamento {
 };
 
 /// True when a strain limit is exceeded: a shortening of 0.0035 at either face, y = 0 and y = H, or
-/// an elongation of 0.01 at either of the given points. A limit that is exactly reached is not
-/// exceeded.
+/// an elongation of 0.01 at either of the given points. A limit exactly reached is not exceeded.
 [[nodiscard]] bool limiteSuperato(double eps0, double chi, double H,
                                   const PuntiAllungamento& punti);
 
@@ -28,9 +27,8 @@ struct PuntiAllungamento {
 ///
 /// The curvature is found by 14 halvings between 0 and 0.02 / H, which leave less than a
 /// ten-thousandth of that range; the moment is that of the last halving, on whichever side of the
-/// limit it fell. A direction in which the last
-/// halving finds no equilibrium (the axial force crushes or tears the section) has resistance 0,
-/// and so has one whose moment is not finite.
+/// limit it fell. A direction in which the last halving finds no equilibrium (the axial force
+/// crushes or tears the section) has resistance 0, and so has one whose moment is not finite.
 ///
 /// @param H   depth of the section [mm]
 /// @param Nd  design axial force on one metre of wall [N], positive in compression

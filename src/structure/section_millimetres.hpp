@@ -48,8 +48,7 @@ struct PalancolaMm {
 [[nodiscard]] double altezza(const PalancolaMm& palancola);
 /// Length after which the wave repeats, 4 largAla + 2 base [mm].
 [[nodiscard]] double passoOnda(const PalancolaMm& palancola);
-/// Thickness of an inclined web measured along the wall, spessAla / cos(atan(largAla / altAla))
-/// [mm].
+/// Thickness of an inclined web along the wall, spessAla / cos(atan(largAla / altAla)) [mm].
 [[nodiscard]] double spessoreOrizzontaleAla(const PalancolaMm& palancola);
 
 /// Reinforced concrete piles with a ring of bars. The stirrups serve the shear check alone.
@@ -61,7 +60,7 @@ struct PaliArmatiMm {
     double numLong;     ///< number of bars as stored: no length, so not times ten
 };
 
-/// Radius of the ring on which the bars' axes stand, diamPalo/2 - copriferro - diamLong/2 [mm].
+/// Radius of the ring of the bars' axes, diamPalo/2 - copriferro - diamLong/2 [mm].
 [[nodiscard]] double raggioFerri(const PaliArmatiMm& pali);
 
 inline constexpr int massimoFerri = 100000;

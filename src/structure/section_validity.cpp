@@ -14,7 +14,7 @@ struct CampoRichiesto {
     bool perLaRelazione = true;  // false: the report does not ask for it
 };
 
-// The bar layers of the diaphragm stand apart: one face may make up for the other.
+// The bar layers of the diaphragm are each judged alone: one face may make up for the other.
 constexpr CampoRichiesto campiRichiesti[] = {
     {TipoSezione::diaframma, &Sezione::spessoreDiaframma},
     {TipoSezione::diaframma, &Sezione::modEacciaio},

@@ -18,7 +18,7 @@ enum class Lato { monte, valle };
 /// a complete bar layer on one face at least; a sheet pile needs nothing of concrete; the stirrups
 /// are never asked for. No true flag: false.
 ///
-/// Stiffness, bending and shear are computed only behind this test.
+/// Stiffness, bending and shear are computed only after this test.
 [[nodiscard]] bool sezioneValida(const project::Sezione& sezione);
 
 /// The milder test by which the report decides whether it shows the section: as `sezioneValida`,

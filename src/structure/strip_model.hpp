@@ -34,8 +34,8 @@ struct ModelloStrisce {
 ///     M = sum of y (Ac (sigma_c + q) + As (sigma_s + q))
 ///
 /// q spreads the axial force evenly over all areas, concrete and steel alike. With it the strip
-/// forces sum to zero in equilibrium, so that M is a couple and the place of y = 0 is of no
-/// meaning. Without axial force M is the plain sum of y times force.
+/// forces sum to zero in equilibrium, so that M is a couple and the place of y = 0 makes no
+/// difference. Without axial force M is the plain sum of y times force.
 [[nodiscard]] double momentoSezione(const ModelloStrisce& modello, double eps0, double chi,
                                     double Nd);
 
