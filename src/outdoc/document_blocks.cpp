@@ -24,7 +24,7 @@ constexpr std::string_view lineBelow =
     "<w:tcBorders><w:bottom w:val=\"single\" w:sz=\"4\" w:space=\"0\" w:color=\"auto\"/>"
     "</w:tcBorders>";
 
-// A table begins the margin of its cells further left than it says, so that its texts stand below
+// A table begins the margin of its cells further left than it says, so that its texts align with
 // those above it; with that margin as its indent its lines begin at the margin of the page.
 std::string tableHead(const std::vector<double>& widths, Alignment alignment) {
     constexpr std::string_view places[] = {"left", "center", "right"};

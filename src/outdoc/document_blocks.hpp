@@ -13,8 +13,8 @@
 namespace korven::outdoc {
 
 /// Widths of the columns of a table [points]: as in print, wider where the bold head needs it,
-/// since a word processor would break its text. A table wider than the page is brought to its width
-/// in proportion.
+/// since a word processor would break its text. A table wider than the page is brought to the width
+/// of the page in proportion.
 [[nodiscard]] std::vector<double> columnWidths(markup::CellGrid& grid,
                                                const markup::FittedTable& fitted,
                                                const markup::ReportFont& font, double textWidth);
@@ -22,7 +22,7 @@ namespace korven::outdoc {
 /// A whole table. Its first row is bold and is repeated on every page that the table reaches; thin
 /// lines part it from the others and close the table.
 /// @param keptRows  rows from the first that stay on the page of the row, or of the paragraph,
-///                  behind them; the head does in any case
+///                  after them; the head does in any case
 /// @pre the grid holds at least one row
 [[nodiscard]] std::string tableWords(markup::CellGrid& grid, const std::vector<double>& widths,
                                      markup::Alignment alignment, std::string_view columnStyle,
@@ -34,7 +34,7 @@ namespace korven::outdoc {
 [[nodiscard]] double rowHeight(const markup::ReportFont& font);
 
 /// A row of a list before its text: indent and tab stops for right aligned columns, the first of
-/// them behind a dotted leader.
+/// them after a dotted leader.
 [[nodiscard]] Paragraph listRow(const markup::FittedTable& fitted, markup::Alignment alignment,
                                 double textWidth);
 

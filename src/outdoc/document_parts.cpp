@@ -62,7 +62,7 @@ std::string style(std::string_view id, const std::string& name, const std::strin
            properties + "</w:style>\n";
 }
 
-// Lines stand as close as in print.
+// Lines are as close as in print.
 std::string styles() {
     return declaration + "<w:styles" + nameSpaces +
            ">\n<w:docDefaults><w:rPrDefault><w:rPr/></w:rPrDefault><w:pPrDefault><w:pPr>"

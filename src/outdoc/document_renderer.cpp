@@ -45,7 +45,7 @@ void DocumentRenderer::open(ScanState&, std::string_view argument) {
     body_ = parts_.page.headerFont;
 }
 
-// The first heading of a report stands in the middle and is its title.
+// The first heading of a report is centred and is its title.
 void DocumentRenderer::textLine(ScanState& state, std::string_view text) {
     headerIfDue(state);
     if (text.empty()) return emptyParagraph();

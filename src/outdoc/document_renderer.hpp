@@ -64,7 +64,7 @@ class DocumentRenderer : public markup::MarkupReceiver {
 /// A report that was converted.
 struct Converted {
     std::string document;  ///< path of the word-processor file
-    std::string kept;      ///< where the one is that stood there; empty if nothing had to be kept
+    std::string kept;      ///< where the earlier one is now; empty if nothing had to be kept
 };
 
 /// Converts a mark-up file into a word-processor file beside it, replacing one of that name. What

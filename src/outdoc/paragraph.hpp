@@ -12,7 +12,7 @@
 
 namespace korven::outdoc {
 
-/// A text as it stands in XML. Control characters, which it can't hold, are left out; a tab is the
+/// A text as XML takes it. Control characters, which XML can't hold, are left out; a tab is the
 /// caller's to translate.
 [[nodiscard]] std::string xmlText(std::string_view utf8);
 
