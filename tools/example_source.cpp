@@ -106,7 +106,7 @@ class Reader {
     std::vector<ExampleSource> examples_;
 };
 
-// Where the text of a description begins: behind the graphic code and the blanks that follow it.
+// Where the text of a description begins: after the graphic code and the blanks that follow it.
 std::size_t startOfText(std::string_view description) {
     const auto code = description.find_first_not_of(' ');
     const auto end = description.find(' ', std::min(code, description.size()));

@@ -27,21 +27,20 @@ struct ExampleSource {
 ///
 /// @param path  name of the source in errors
 /// @throws base::ErroreFile with the line: a line of another form or out of order, a name of other
-/// characters or used before in its language, a text that stands twice in an example, that is empty
-/// or that Windows-1252 lacks, a "_" in front that only some of the languages have
+///         characters or used before in its language, a text that occurs twice in an example, that
+///         is empty or that Windows-1252 lacks, a "_" in front that only some of the languages have
 [[nodiscard]] std::vector<ExampleSource> readExampleSource(const std::string& path,
                                                            std::string_view content);
 
 /// The texts of a project that are translated, each once: its headings, then the descriptions of
-/// its layers behind the graphic code; the empty ones are left out.
+/// its layers after the graphic code; the empty ones are left out.
 [[nodiscard]] std::vector<std::string> exampleTexts(const project::DatiProgetto& dati);
 
 /// Refuses blocks that do not go with the projects one to one.
 ///
 /// @param path      name of the source in errors
 /// @param projects  names of all projects, without extension
-/// @throws base::ErroreFile: a block without its project, with its line; a project without its
-/// block
+/// @throws base::ErroreFile: a block without its project, with its line; a project without a block
 void checkExampleNames(const std::string& path, const std::vector<ExampleSource>& sources,
                        const std::vector<std::string>& projects);
 

@@ -37,8 +37,8 @@ double area(const std::vector<HatchPoint>& polygon) {
     return twice / 2.0;
 }
 
-/// The part of the line from `a` to `b` inside a convex polygon, by its parameter; empty (from not
-/// below to) when it passes by.
+/// The part of the line from `a` to `b` inside a convex polygon, by its parameter; empty (`from`
+/// not below `to`) when it passes by.
 /// Source: Cyrus, Beck (1978), Generalized two- and three-dimensional clipping.
 Interval inside(HatchPoint a, HatchPoint b, const std::vector<HatchPoint>& polygon) {
     const double turn = area(polygon) < 0.0 ? -1.0 : 1.0;
@@ -100,7 +100,7 @@ void HatchCanvas::chain(const std::vector<HatchPoint>& points, bool closed) {
     if (closed) corners.push_back(corners.front());
     const auto whole = corners;
     for (std::size_t i = 0; i < whole.size(); ++i) {
-        // An open end may stand on an edge if it was put there, since a line from edge to edge has
+        // An open end may lie on an edge if it was put there, since a line from edge to edge has
         // its ends there, but no line may run along one.
         const bool end = !closed && (i == 0 || i + 1 == whole.size());
         const auto& next = whole[i == 0 ? 1 : i - 1];

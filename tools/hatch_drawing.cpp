@@ -18,7 +18,7 @@ constexpr int candidates = 400;
 
 double radians(double degrees) { return degrees * std::numbers::pi / 180.0; }
 
-/// Turned, scaled, moved: where a block or a figure stands.
+/// Turned, scaled, moved: where a block or a figure is placed.
 struct Placing {
     HatchPoint origin;
     double turn = 0.0;  // degrees
@@ -206,8 +206,8 @@ class Drawing {
             run(command.body, {at(k * v[0], k * v[1]), at.turn, at.scale});
     }
 
-    // Seed, count, radius of a copy, largest turn to either side. Each copy goes where it stands
-    // farthest from all that is there (best of many candidates), so that they spread evenly and
+    // Seed, count, radius of a copy, largest turn to either side. Each copy goes to the place that
+    // is farthest from all that is there (best of many candidates), so that they spread evenly and
     // yet without rows.
     // Source: Mitchell (1991), Spectrally optimal sampling for distribution ray tracing.
     void scatter(const HatchCommand& command, const Placing& at) {

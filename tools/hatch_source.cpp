@@ -17,10 +17,10 @@ constexpr int reach = 200;  // shapes may run out of the tile, no further than i
 /// What a word of the language takes.
 struct Word {
     std::string_view word;
-    std::size_t least, most;       ///< numbers behind it
+    std::size_t least, most;       ///< numbers after it
     bool pairs = false;            ///< the numbers come in pairs x, y
     bool block = false;            ///< lines up to "fine" belong to it
-    bool fillable = false;         ///< "pieno" may stand in front
+    bool fillable = false;         ///< "pieno" may come first
     std::size_t count = anyCount;  ///< index of the number that counts chords or copies
 };
 

@@ -11,9 +11,9 @@ namespace korven::tools {
 /// One line of the stroke language of data/campiture.txt; the head of that file explains each word.
 struct HatchCommand {
     std::string word;                ///< "linea", "cerchio", ...
-    bool full = false;               ///< "pieno" stood in front: the shape hides what lies below
+    bool full = false;               ///< "pieno" came first: the shape hides what lies below
     std::string figure;              ///< of "metti": the name of the figure
-    std::vector<int> values;         ///< the numbers behind the word
+    std::vector<int> values;         ///< the numbers after the word
     std::vector<HatchCommand> body;  ///< the lines up to "fine", of a word that repeats them
 };
 

@@ -15,9 +15,8 @@ struct HelpBody {
     std::size_t faultLine = 0;         ///< index of the line with the fault
 };
 
-/// Turns the lines of a page into HTML, in the tags that the viewer shows; the head of
-/// data/guida/ita.txt tells the mark-up. Characters that Windows-1252 lacks become numeric
-/// entities.
+/// Turns the lines of a page into HTML, in the tags that the viewer shows; data/guida/ita.txt tells
+/// the mark-up at its head. Numeric entities replace characters that Windows-1252 lacks.
 [[nodiscard]] HelpBody helpBody(const std::vector<std::string_view>& lines);
 
 }  // namespace korven::tools

@@ -1,6 +1,5 @@
-// make_examples SOURCE FROM TO: lays the example projects of the folder FROM, which are Italian, in
-// the other languages into the folders deu to por below TO, with the names and texts of the table
-// SOURCE.
+// make_examples SOURCE FROM TO: lays the Italian example projects of the folder FROM, in the other
+// languages, into the folders deu to por below TO, with the names and texts of the table SOURCE.
 
 #include <algorithm>
 #include <filesystem>

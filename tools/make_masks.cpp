@@ -1,5 +1,4 @@
-// make_masks SOURCE FOLDER: turns the readable masks of the input forms into the mask files of the
-// program.
+// make_masks SOURCE FOLDER: turns the readable masks of the input forms into the mask files proper.
 
 #include <iostream>
 

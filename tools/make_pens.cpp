@@ -1,5 +1,4 @@
-// make_pens SOURCE FOLDER: turns the readable pens and colours into the configuration files of the
-// drawings.
+// make_pens SOURCE FOLDER: turns the readable pens and colours into the files that drawings read.
 
 #include <iostream>
 

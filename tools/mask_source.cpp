@@ -59,7 +59,7 @@ class Reader {
         return std::string(base::senzaSpaziEsterni(text));
     }
 
-    // What stands behind a name such as "titolo:"; the line is then done.
+    // The text after a name such as "titolo:"; the line is then done.
     std::string named(Mark name) {
         if (!line_ || !line_->starts_with(name))
             lines_.refuse("attesa una riga \"" + std::string(name) + " ...\"");

@@ -16,7 +16,7 @@ class SourceLines {
     SourceLines(std::string path, std::string_view content)
         : path_(std::move(path)), rest_(content) {}
 
-    /// The next line without its end; nothing behind the last one.
+    /// The next line without its end; nothing after the last one.
     std::optional<std::string_view> next();
 
     /// Number of the line last read, from 1; 0 before the first.
@@ -34,11 +34,11 @@ class SourceLines {
     long number_ = 0;
 };
 
-/// What stands in front of a text in each language, in the order of the language codes.
+/// The mark before a text in each language, in the order of the language codes.
 inline constexpr std::array<std::string_view, 6> languageMarks = {
     "it: ", "de: ", "fr: ", "es: ", "en: ", "pt: "};
 
-/// The text of the line of language `index` (from 0), checked: the mark of that language, behind it
+/// The text of the line of language `index` (from 0), checked: the mark of that language, after it
 /// a text without outer blanks that Windows-1252 can hold.
 /// @throws base::ErroreFile otherwise
 [[nodiscard]] std::string languageText(const SourceLines& lines, std::string_view line,

@@ -16,7 +16,7 @@ struct TextRecord {
 
 /// Reads the source: blocks of six lines "it: ...", "de: ...", "fr: ...", "es: ...", "en: ...",
 /// "pt: ..." in this order, parted by empty lines; "# ..." is a comment; "@file NAME" names the
-/// file of the records behind it.
+/// file of the records that follow.
 ///
 /// @param path  name of the source in errors
 /// @throws base::ErroreFile with the line: a line of another form, an incomplete or empty record, a
@@ -24,7 +24,7 @@ struct TextRecord {
 [[nodiscard]] std::vector<TextRecord> readTextSource(const std::string& path,
                                                      std::string_view content);
 
-/// Refuses what a translator can get wrong: a key that stands twice (whatever its case), a
+/// Refuses what a translator can get wrong: a key that occurs twice (whatever its case), a
 /// character that Windows-1252 lacks, outer blanks, an access key ("&") that only some of the
 /// languages have, units in brackets that differ, more records than the program takes.
 ///
