@@ -39,7 +39,7 @@ double area(const std::vector<HatchPoint>& polygon) {
 
 /// The part of the line from `a` to `b` inside a convex polygon, by its parameter; empty (`from`
 /// not below `to`) when it passes by.
-/// Source: Cyrus, Beck (1978), Generalized two- and three-dimensional clipping.
+/// Source: Cyrus, Beck (1978), Generalized two- and three-dimensional clipping (not looked up).
 Interval inside(HatchPoint a, HatchPoint b, const std::vector<HatchPoint>& polygon) {
     const double turn = area(polygon) < 0.0 ? -1.0 : 1.0;
     const HatchPoint d{b.x - a.x, b.y - a.y};

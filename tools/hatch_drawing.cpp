@@ -32,7 +32,8 @@ struct Placing {
 };
 
 /// A generator of our own, so that a pattern never changes with a library.
-/// Source: Knuth, The Art of Computer Programming, vol. 2, 3.3.4 (constants of MMIX).
+/// Source: Knuth, The Art of Computer Programming, vol. 2 (1997), 3.3.4, the constants of MMIX
+/// (not looked up).
 class Chance {
  public:
     explicit Chance(int seed) : state_(static_cast<std::uint64_t>(seed)) { next(1); }
@@ -209,7 +210,8 @@ class Drawing {
     // Seed, count, radius of a copy, largest turn to either side. Each copy goes to the place that
     // is farthest from all that is there (best of many candidates), so that they spread evenly and
     // yet without rows.
-    // Source: Mitchell (1991), Spectrally optimal sampling for distribution ray tracing.
+    // Source: Mitchell (1991), Spectrally optimal sampling for distribution ray tracing, Computer
+    // Graphics 25(4), 157-164 (not looked up).
     void scatter(const HatchCommand& command, const Placing& at) {
         const auto& v = command.values;
         const int turn = v.size() > 3 ? v[3] : 0;

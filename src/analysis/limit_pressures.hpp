@@ -19,7 +19,7 @@ struct PressioniLimite {
 /// @param sigma  vertical stress that the pressures use [t/m2]
 /// @param c      cohesion [t/m2]
 /// @param phi    friction angle [rad]
-/// Source of the cohesion term: Bell (1915).
+/// Source of the cohesion term: Bell (1915), 233-272 (not looked up).
 [[nodiscard]] PressioniLimite limitiMonte(double metodoSpinte, double sigma, double ka, double kp,
                                           double c, double phi);
 

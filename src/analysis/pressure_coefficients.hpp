@@ -22,7 +22,8 @@ struct CoefficientiSpinta {
 /// @param phi   friction angle [rad]; any value is computed
 /// @param beta  slope of the ground [rad], positive when it rises away from the wall
 /// @return k0 [-]; not finite when sin beta is -1
-/// Source: Jaky (1944), with the slope term of Kezdi.
+/// Source: Jaky (1944), 355-358; the slope term is Kezdi's (1972), as Bowles (1996) reports it
+/// (neither looked up).
 [[nodiscard]] double coefficienteRiposo(double phi, double beta);
 
 /// Coulomb's coefficients for a vertical, smooth wall (wall angle pi/2, no wall friction):
@@ -41,7 +42,7 @@ struct CoefficientiSpinta {
 ///         the denominator of kp is 0 but for rounding: phi + beta = pi/2, or phi = pi/2. Beyond
 ///         that pole, phi + beta above pi/2, kp is the formula's and falls again. Without friction
 ///         both are 1 at any slope
-/// Source: Coulomb (1776), in the form of Mueller-Breslau.
+/// Source: Coulomb (1776), 343-382, in the form of Mueller-Breslau (1906) (neither looked up).
 [[nodiscard]] CoefficientiSpinta spinteCoulomb(double phi, double beta);
 
 /// Rankine's coefficients for ground that slopes at beta:
@@ -54,7 +55,7 @@ struct CoefficientiSpinta {
 /// @param phi   friction angle [rad], meant for 0 to below pi/2
 /// @param beta  slope of the ground [rad], meant for -phi to phi; its sign does not matter
 /// @return undefined for a slope steeper than phi, rising or falling, and at phi = pi/2
-/// Source: Rankine (1857).
+/// Source: Rankine (1857), 9-27 (not looked up).
 [[nodiscard]] CoefficientiSpinta spinteRankine(double phi, double beta);
 
 /// Bell's coefficients; the slope does not enter.
@@ -62,7 +63,7 @@ struct CoefficientiSpinta {
 ///     ka = tan^2(pi/4 - phi/2),  kp = tan^2(pi/4 + phi/2)
 ///
 /// @param phi  friction angle [rad], meant for 0 to below pi/2; nothing is refused
-/// Source: Bell (1915).
+/// Source: Bell (1915), 233-272 (not looked up).
 [[nodiscard]] CoefficientiSpinta spinteBell(double phi);
 
 /// The coefficients by code: 1 Coulomb, 2 Rankine, 3 Bell. Any other code leaves both at 0.

@@ -28,7 +28,7 @@ struct NodoKs {
     double fondo = 0;          ///< bottom of the layer for the linear method [m]
 };
 
-/// Bearing-capacity factors of Bowles' ks.
+/// Bearing-capacity factors of Bowles' ks, which are Hansen's.
 struct FattoriPortanza {
     double Nq, Nc, Ngamma;
 };
@@ -37,7 +37,7 @@ struct FattoriPortanza {
 ///     Ngamma = 1.5 (Nq - 1) tan phi
 ///
 /// @param phi  friction angle [rad], not 0
-/// Source: Bowles, Foundation Analysis and Design (Hansen's factors).
+/// Source: Hansen (1970), as Bowles (1996), chapter 4, reports him (neither looked up).
 [[nodiscard]] FattoriPortanza fattoriPortanza(double phi);
 
 ///     Eh = -40 (c Nc + G Ngamma + sigma' Nq)
@@ -46,13 +46,14 @@ struct FattoriPortanza {
 /// negative, as with a negative stress.
 /// @param c  cohesion [t/m2]
 /// @param G  unit weight [t/m3]: natural above water, saturated less 1 below
-/// Source: Bowles, Foundation Analysis and Design.
+/// Source: Bowles (1996), chapter 9, subgrade reaction (not looked up).
 [[nodiscard]] double moduloBowles(double c, double G, double sigmaEfficace, double phi);
 
 /// Modulus by `metodoKs`: 1 Bowles, 2 Lancellotta, -m sqrt(k0 sigma), 3 the layer's own ks, 4
 /// linear from the ks of the layer above, at the top, to the layer's own at the bottom (0 at the
 /// surface). Any other code gives 0. At the very depth of a layer of no thickness the linear method
-/// takes the layer's own value. Source of method 2: Lancellotta, Geotechnical Engineering.
+/// takes the layer's own value.
+/// Source of method 2: Lancellotta (1995) (not looked up).
 [[nodiscard]] ModuloNodo moduloReazione(const project::DatiProgetto& dati, const NodoKs& nodo);
 
 }  // namespace korven::analysis

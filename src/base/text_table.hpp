@@ -55,6 +55,7 @@ void aggiungiTesti(TabellaTesti& testi, LettoreRighe& file);
 
 /// Sorts the rows by `chiaveTesto` of their Italian text, ascending (Shell's method with halved
 /// gaps). Of records with equal keys any may come first.
+/// Source: Shell (1959), A high-speed sorting procedure, Comm. ACM 2(7), 30-32 (not looked up).
 void ordinaTesti(TabellaTesti& testi);
 
 /// Row of a text in a sorted table, whatever its case; 0 when there is none. Binary search.

@@ -11,7 +11,7 @@ namespace korven::plot {
 /// end beyond a side is moved along the stroke to that side, after the ends have been exchanged
 /// where needed so that it comes first. Ends that were exchanged stay so.
 /// Source: the line clip of Cohen and Sutherland, in Newman & Sproull, Principles of Interactive
-/// Computer Graphics (1979).
+/// Computer Graphics (1979) (not looked up).
 [[nodiscard]] std::optional<Tratto> ritagliaTratto(Tratto tratto, const Riquadro& riquadro);
 
 }  // namespace korven::plot

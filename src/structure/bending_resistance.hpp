@@ -36,7 +36,7 @@ struct MaterialiFlessione {
 ///                       for with the action factor, Nd = 1.4 x 10000 x sforzoNormale [N]
 /// @param MRd            result [N mm]; stays as the caller initialised it if no flag is true
 /// @pre `sezioneValida`
-/// Source: CEN, ENV 1992-1-1 (1991), 4.3.1, with a concrete factor of 1.6
+/// Source: CEN, ENV 1992-1-1 (1991), 4.3.1 (not looked up), with a concrete factor of 1.6
 void momentiResistenti(const project::Sezione& sezione, double sforzoNormale,
                        MomentiResistenti& MRd);
 

@@ -15,6 +15,7 @@ namespace korven::structure {
 /// @param y0  lower edge of the strip [mm]
 /// @param y1  upper edge of the strip [mm], not below y0
 /// @return area [mm2]; 0 if the circle only touches the strip
+/// Source: elementary geometry, the area of a circular segment
 [[nodiscard]] double areaCerchioInStriscia(double c, double r, double y0, double y1);
 
 }  // namespace korven::structure

@@ -34,7 +34,7 @@ struct TaglioResistente {
 /// @param Nsd      axial force [N], positive in compression. The report passes 0: the axial force
 ///                 of the project enters the bending check alone
 /// @pre `sezioneValida` and `staffePresenti`
-/// Source: CEN, ENV 1992-1-1 (1991), 4.3.2.3 and 4.3.2.4.3, with a concrete factor of 1.6
+/// Source: CEN, ENV 1992-1-1 (1991), 4.3.2.3 and 4.3.2.4.3 (not looked up); concrete factor 1.6
 [[nodiscard]] TaglioResistente verificaTaglio(const project::Sezione& sezione, double Nsd);
 
 /// The shear check of one metre of wall, as the report shows it; all forces [kN/m].

@@ -29,6 +29,9 @@ namespace korven::structure {
 /// Reinforced piles: the pile's circle, in which each bar replaces its concrete; a bar counts with
 /// the component of its ring radius across the axis of bending.
 ///
+/// Source: the uncracked homogenised section of elastic theory; the uphill term of x without half
+/// the diameter is this program's own
+///
 /// @pre `sezioneValida`; then no divisor is 0. The result is not finite only if the numbers
 ///      overflow (lengths beyond 1e70), or if steel softer than concrete makes the homogenised
 ///      section vanish

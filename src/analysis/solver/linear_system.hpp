@@ -20,10 +20,8 @@ enum class EsitoSistema { risolto, singolare };
 /// `bordoVisibile` says how much of it that is, so that no work goes into the rest.
 ///
 /// @param n  number of unknowns, 1 to 500
-/// @param A  on entry the matrix in rows and columns 1 to n. On exit rows n - bordoVisibile + 1 to
-/// n
-///           and columns n - bordoVisibile + 1 to n hold their part of the inverse, every other
-///           cell is as it was on entry
+/// @param A  on entry the matrix in rows and columns 1 to n. On exit the last `bordoVisibile` rows
+///           and columns of these hold their part of the inverse, every other cell is as it was
 /// @param b  right-hand side, entries 1 to n; may not be x
 /// @param x  solution, entries 1 to n
 /// @param bordoVisibile  trailing rows and columns of the inverse that are read again, 0 to n:
@@ -35,8 +33,8 @@ enum class EsitoSistema { risolto, singolare };
 /// A value that is not finite in A or b is carried through as IEEE arithmetic has it; the
 /// comparison for the largest cell passes over NaN.
 ///
-/// Source: Golub & Van Loan, Matrix Computations, 3.4 (complete pivoting); Press et al., Numerical
-/// Recipes, 2.1 (Gauss-Jordan elimination in place).
+/// Source: Golub & Van Loan, Matrix Computations (1996), 3.4 (complete pivoting); Press et al.,
+/// Numerical Recipes (1992), 2.1 (Gauss-Jordan elimination in place); neither looked up.
 [[nodiscard]] EsitoSistema RisolviSistema(int n, MatriceSistema& A, const VettoreSistema& b,
                                           VettoreSistema& x, int bordoVisibile);
 
