@@ -57,7 +57,7 @@ void ServeTheEventQueue(benchmark::State& stato) {
     for (auto _ : stato) {
         std::filesystem::remove(base::nomeRisultati(project::fileCorrente));
         project::Progetto = dati;
-        analysis::CalcoloParatia(0, {muto, attese, uscita});
+        analysis::CalcoloParatia(analysis::relazione, {muto, attese, uscita});
         if (analysis::erroreCalcolo) stato.SkipWithError("no results");
     }
     stato.counters["iterazioni"] =

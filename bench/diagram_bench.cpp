@@ -28,7 +28,7 @@ void penne(const test::CartellaProvvisoria& programma) {
     base::impostaCartellaProgramma(programma.percorso());
 }
 
-void diagramma(benchmark::State& stato, drawings::Diagramma quale) {
+void diagramma(benchmark::State& stato, analysis::Diagramma quale) {
     const test::CartellaProvvisoria programma, cartella;
     penne(programma);
     project::Progetto = bench::esempio("paratia_lunga_incastro");
@@ -36,7 +36,7 @@ void diagramma(benchmark::State& stato, drawings::Diagramma quale) {
     project::fileCorrente = cartella / "muro.kvd";
     test::PorteMute mute;
     commands::UscitaDiagramma uscita;
-    analysis::CalcoloParatia(static_cast<int>(quale), {mute, mute, uscita});
+    analysis::CalcoloParatia(quale, {mute, mute, uscita});
     if (analysis::erroreCalcolo) stato.SkipWithError("no results");
     project::fileCorrente = base::nomeRisultati(project::fileCorrente);
     for (auto _ : stato) drawings::disegnaDiagramma(quale);
@@ -47,9 +47,9 @@ void taglie(benchmark::internal::Benchmark* b) {
     b->Arg(50)->Arg(248)->Unit(benchmark::kMillisecond);
 }
 
-BENCHMARK_CAPTURE(diagramma, pressioni, drawings::Diagramma::pressioni)->Apply(taglie);
-BENCHMARK_CAPTURE(diagramma, momenti, drawings::Diagramma::momenti)->Apply(taglie);
-BENCHMARK_CAPTURE(diagramma, taglio, drawings::Diagramma::taglio)->Apply(taglie);
+BENCHMARK_CAPTURE(diagramma, pressioni, analysis::Diagramma::pressioni)->Apply(taglie);
+BENCHMARK_CAPTURE(diagramma, momenti, analysis::Diagramma::momenti)->Apply(taglie);
+BENCHMARK_CAPTURE(diagramma, taglio, analysis::Diagramma::taglio)->Apply(taglie);
 
 }  // namespace
 

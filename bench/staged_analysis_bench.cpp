@@ -26,7 +26,7 @@ void corsa(benchmark::State& stato, bool aggiornata, bool relazione) {
     commands::UscitaRelazione uscita(relazione);
     const auto esegui = [&] {
         project::Progetto = dati;
-        analysis::CalcoloParatia(0, {muto, muto, uscita});
+        analysis::CalcoloParatia(analysis::relazione, {muto, muto, uscita});
     };
     esegui();
     for (auto _ : stato) {

@@ -1,7 +1,6 @@
 #include "analysis/calcolo_paratia.hpp"
 
 #include <algorithm>
-#include <cassert>
 #include <memory>
 #include <utility>
 
@@ -168,7 +167,8 @@ void calcolaFasi(int nSeg, const structure::MomentiResistenti& MRd, const PorteC
 
 }  // namespace
 
-std::string motivoUscite(const std::string& progetto, int modoUscita, const UscitaCalcolo& uscita) {
+std::string motivoUscite(const std::string& progetto, ModoUscita modoUscita,
+                         const UscitaCalcolo& uscita) {
     if (const auto motivo = project::motivoNome(progetto); !motivo.empty())
         return traduttore(motivo);
     const ProgettoAlSicuro sicuro(progetto);
@@ -185,8 +185,7 @@ std::string motivoUscite(const std::string& progetto, int modoUscita, const Usci
            ": " + *vietato + (colpito == *vietato ? "" : " (" + colpito + ")");
 }
 
-void CalcoloParatia(int modoUscita, const PorteCalcolo& porte) {
-    assert(modoUscita >= 0 && modoUscita <= 4);
+void CalcoloParatia(ModoUscita modoUscita, const PorteCalcolo& porte) {
     const Clessidra clessidra(porte.dialogo);
     fsAzioni = structure::fsAzioniSezione;
     erroreCalcolo = false;
@@ -217,10 +216,10 @@ void CalcoloParatia(int modoUscita, const PorteCalcolo& porte) {
     if (!risultatiAggiornati()) calcolaFasi(*nSeg, MRd, porte);
     if (erroreCalcolo) return;
 
-    if (modoUscita == 0)
-        porte.uscita.scriviRelazione();
+    if (modoUscita)
+        porte.uscita.disegnaDiagramma(*modoUscita);
     else
-        porte.uscita.disegnaDiagramma(modoUscita);
+        porte.uscita.scriviRelazione();
 }
 
 }  // namespace korven::analysis

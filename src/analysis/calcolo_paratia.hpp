@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "analysis/diagrams.hpp"
 #include "analysis/progress.hpp"
 #include "analysis/result_guard.hpp"
 #include "base/dialogo.hpp"
@@ -15,12 +16,12 @@ class UscitaCalcolo {
     virtual ~UscitaCalcolo() = default;
     /// The files that the output of `modoUscita` will write beside the result file `risultati`: a
     /// run is refused before its first byte if one of them is the project.
-    [[nodiscard]] virtual std::vector<std::string> file(int modoUscita,
+    [[nodiscard]] virtual std::vector<std::string> file(ModoUscita modoUscita,
                                                         const std::string& risultati) const = 0;
     /// Writes the calculation report.
     virtual void scriviRelazione() = 0;
-    /// Draws a result diagram: 1 pressures, 2 displacements, 3 moments, 4 shear.
-    virtual void disegnaDiagramma(int modoUscita) = 0;
+    /// Draws a result diagram.
+    virtual void disegnaDiagramma(Diagramma diagramma) = 0;
 };
 
 /// The outside of a run.
@@ -53,17 +54,16 @@ struct PorteCalcolo {
 /// killed run has left unfinished is removed; without one it counts as finished until it is read.
 /// Giving up the wait for another run ends like a stop.
 ///
-/// @param modoUscita  0 the report, 1 to 4 a diagram
-/// @pre `modoUscita` is one of these: asserted
+/// @param modoUscita  the report or a diagram
 /// @throws base::ErroreFile if a file can't be read or written, or another run does not let go of
 /// the result file; nothing half-written stays
-void CalcoloParatia(int modoUscita, const PorteCalcolo& porte);
+void CalcoloParatia(ModoUscita modoUscita, const PorteCalcolo& porte);
 
 /// Why the outputs of a run can't be written under the names that follow from the project's,
 /// translated; empty if they can. Writes nothing.
 /// @param progetto    the name from which they follow, which need not be that of a file
 /// @param modoUscita  as for `CalcoloParatia`
-[[nodiscard]] std::string motivoUscite(const std::string& progetto, int modoUscita,
+[[nodiscard]] std::string motivoUscite(const std::string& progetto, ModoUscita modoUscita,
                                        const UscitaCalcolo& uscita);
 
 /// The message of a system without a solution, an Italian key.

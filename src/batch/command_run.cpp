@@ -23,7 +23,8 @@ int verifica(const Opzioni& opzioni, Esito& esito) {
     esito.rilievi = review::esaminaFile(opzioni.progetto, project::Progetto);
     // Every command that calculates writes a result file; only some write more.
     const commands::UscitaRelazione soloRisultati(false);
-    if (auto motivo = analysis::motivoUscite(project::fileCorrente, 0, soloRisultati);
+    if (auto motivo =
+            analysis::motivoUscite(project::fileCorrente, analysis::relazione, soloRisultati);
         !motivo.empty())
         esito.rilievi.insert(esito.rilievi.begin(), {true, std::move(motivo)});
     if (review::calcolabile(esito.rilievi))
@@ -49,7 +50,7 @@ int concludi(CorsaConsole& corsa, Esito& esito) {
 int calcola(const Opzioni& opzioni, analysis::GuardiaRisultati& guardia, Esito& esito) {
     CorsaConsole corsa(opzioni, guardia, esito);
     commands::UscitaRelazione soloRisultati(false);
-    if (!corsa.esegui(0, soloRisultati)) return nonEseguito;
+    if (!corsa.esegui(analysis::relazione, soloRisultati)) return nonEseguito;
     annotaRisultati(esito);
     return concludi(corsa, esito);
 }

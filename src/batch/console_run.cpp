@@ -43,7 +43,7 @@ CorsaConsole::CorsaConsole(const Opzioni& opzioni, analysis::GuardiaRisultati& g
     esito_.corsa = true;
 }
 
-bool CorsaConsole::esegui(int modoUscita, analysis::UscitaCalcolo& uscita) {
+bool CorsaConsole::esegui(analysis::ModoUscita modoUscita, analysis::UscitaCalcolo& uscita) {
     // A reading of the results turns every other method into Coulomb's.
     if (opzioni_.metodoSpinte) project::Progetto.metodoSpinte = *opzioni_.metodoSpinte;
     analysis::ControlloCorsa controllo(vista_, opzioni_.maxIterazioni, Interruzioni::chiesta());

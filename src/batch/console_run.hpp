@@ -23,9 +23,9 @@ class CorsaConsole {
     CorsaConsole(const Opzioni& opzioni, analysis::GuardiaRisultati& guardia, Esito& esito);
 
     /// Brings the results up to date and hands over to the output.
-    /// @param modoUscita  0 the report, 1 to 4 a diagram
+    /// @param modoUscita  the report or a diagram
     /// @return false when the run was refused, found singular or stopped, which has then been told
-    [[nodiscard]] bool esegui(int modoUscita, analysis::UscitaCalcolo& uscita);
+    [[nodiscard]] bool esegui(analysis::ModoUscita modoUscita, analysis::UscitaCalcolo& uscita);
 
     [[nodiscard]] base::Dialogo& dialogo() { return dialogo_; }
 

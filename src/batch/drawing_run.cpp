@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <iostream>
-#include <iterator>
+#include <optional>
+#include <string_view>
 #include <utility>
+#include <vector>
 
 #include "base/file_names.hpp"
 #include "base/translated_texts.hpp"
@@ -25,7 +27,7 @@ namespace {
 
 using project::Progetto;
 
-bool diagramma(int tipo, CorsaConsole& corsa) {
+bool diagramma(analysis::Diagramma tipo, CorsaConsole& corsa) {
     commands::UscitaDiagramma uscita;
     return corsa.esegui(tipo, uscita);
 }
@@ -73,28 +75,31 @@ void scrivi(const UsciteDisegno& uscite, Esito& esito) {
 
 // One drawing of the project: the end of its files' names, and how it is made.
 struct Tavola {
-    const char* nome;
-    int tipo;  // of a diagram; 0: none
-    bool (*disegna)(Esito&);
+    std::string_view nome;
+    bool (*disegna)(Esito&);  // empty: a diagram
+    std::optional<analysis::Diagramma> diagramma;
 };
 
-constexpr Tavola tavole[] = {
-    {"pressioni", 1, nullptr},
-    {"spostamenti", 2, nullptr},
-    {"momenti", 3, nullptr},
-    {"taglio", 4, nullptr},
-    {"sezione", 0,
-     [](Esito&) {
-         drawings::disegnaSezione(Progetto);
-         return true;
-     }},
-    {"stratigrafia", 0,
-     [](Esito& esito) {
-         if (troppoAlta(esito)) return false;
-         drawings::disegnaStratigrafia(Progetto);
-         return true;
-     }},
-};
+bool tavolaSezione(Esito&) {
+    drawings::disegnaSezione(Progetto);
+    return true;
+}
+
+bool tavolaStratigrafia(Esito& esito) {
+    if (troppoAlta(esito)) return false;
+    drawings::disegnaStratigrafia(Progetto);
+    return true;
+}
+
+// In the order in which they are made.
+std::vector<Tavola> tutteLeTavole() {
+    std::vector<Tavola> tutte;
+    for (const auto& riga : analysis::diagrammi)
+        tutte.push_back({riga.nome, nullptr, riga.diagramma});
+    tutte.push_back({"sezione", tavolaSezione, std::nullopt});
+    tutte.push_back({"stratigrafia", tavolaStratigrafia, std::nullopt});
+    return tutte;
+}
 
 // "DIR/muro-momenti.pdf" for each form asked for.
 UsciteDisegno usciteTavola(const Opzioni& opzioni, const Tavola& tavola) {
@@ -120,9 +125,9 @@ UsciteRelazione usciteRelazione() {
     return uscite;
 }
 
-void annuncia(const Opzioni& opzioni, std::size_t quale, const Tavola& tavola) {
+void annuncia(const Opzioni& opzioni, std::size_t quale, std::size_t quante, const Tavola& tavola) {
     if (!opzioni.silenzioso)
-        std::cerr << base::traduttore("disegno") << ' ' << quale << '/' << std::size(tavole) << ": "
+        std::cerr << base::traduttore("disegno") << ' ' << quale << '/' << quante << ": "
                   << tavola.nome << '\n';
 }
 
@@ -138,6 +143,7 @@ int disegna(const Opzioni& opzioni, analysis::GuardiaRisultati& guardia, Esito& 
 }
 
 int tutto(const Opzioni& opzioni, analysis::GuardiaRisultati& guardia, Esito& esito) {
+    const std::vector<Tavola> tavole = tutteLeTavole();
     std::vector<std::string> tutte;
     for (const Tavola& tavola : tavole) {
         const UsciteDisegno uscite = usciteTavola(opzioni, tavola);
@@ -159,9 +165,9 @@ int tutto(const Opzioni& opzioni, analysis::GuardiaRisultati& guardia, Esito& es
     int codice = fatto;
     for (const Tavola& tavola : tavole) {
         if (corsa.interrotta()) return nonEseguito;
-        annuncia(opzioni, ++quale, tavola);
-        if (tavola.tipo != 0 && !diagramma(tavola.tipo, corsa)) return nonEseguito;
-        if (tavola.tipo == 0 && !tavola.disegna(esito))
+        annuncia(opzioni, ++quale, tavole.size(), tavola);
+        if (tavola.diagramma && !diagramma(*tavola.diagramma, corsa)) return nonEseguito;
+        if (!tavola.diagramma && !tavola.disegna(esito))
             codice = nonEseguito;  // the other drawings are made all the same
         else
             scrivi(usciteTavola(opzioni, tavola), esito);

@@ -22,9 +22,16 @@ namespace {
 using base::traduttore;
 
 const std::map<std::string, double> metodi = {{"coulomb", 1}, {"rankine", 2}, {"bell", 3}};
-const std::map<std::string, int> tipi = {
-    {"pressioni", 1}, {"spostamenti", 2}, {"momenti", 3}, {"taglio", 4}};
 const std::map<std::string, bool> risposteEJ = {{"mantieni", false}, {"ricalcola", true}};
+
+const std::map<std::string, analysis::Diagramma>& tipi() {
+    static const auto tabella = [] {
+        std::map<std::string, analysis::Diagramma> nomi;
+        for (const auto& riga : analysis::diagrammi) nomi.emplace(riga.nome, riga.diagramma);
+        return nomi;
+    }();
+    return tabella;
+}
 
 std::string chiavi(const auto& tabella) {
     std::string testo;
@@ -199,10 +206,10 @@ const RigaComando righeComandi[] = {
      [](CLI::App& c, Opzioni& o) {
          diCalcolo(c, o);
          c.add_option_function<std::string>(
-              "--tipo", [&o](const std::string& nome) { o.tipo = tipi.at(nome); },
+              "--tipo", [&o](const std::string& nome) { o.tipo = tipi().at(nome); },
               traduttore("grandezza del diagramma"))
-             ->type_name(chiavi(tipi))
-             ->check(senzaNome(CLI::IsMember(tipi)))
+             ->type_name(chiavi(tipi()))
+             ->check(senzaNome(CLI::IsMember(tipi())))
              ->required();
          c.add_option("--fase", o.fase, traduttore("fase da disegnare; 0 per tutte"))
              ->type_name("N")

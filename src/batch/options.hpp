@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "analysis/diagrams.hpp"
 #include "batch/drawing_output.hpp"
 #include "batch/report_output.hpp"
 
@@ -37,7 +38,7 @@ struct Opzioni {
     bool silenzioso = false;
     bool traccia = false;  ///< `calcola`: record of the slow stages
     int maxIterazioni = 5000;
-    int tipo = 0;               ///< `diagramma`: 1 pressures, 2 displacements, 3 moments, 4 shear
+    analysis::Diagramma tipo = analysis::Diagramma::pressioni;  ///< of `diagramma`, which needs one
     int fase = 0;               ///< `diagramma`: the stage to draw, 0 for all
     UsciteRelazione relazione;  ///< of `relazione`, besides the mark-up
     UsciteDisegno disegno;      ///< files of a drawing

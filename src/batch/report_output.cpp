@@ -75,7 +75,7 @@ bool scriviRelazione(const UsciteRelazione& uscite, CorsaConsole& corsa, Esito& 
     // Not every value stands in every report, but no project is right with one.
     if (!review::mostrabile(project::Progetto)) throw base::ErroreValore();
     commands::UscitaRelazione uscita(true, uscite.testo, uscite.documento);
-    if (!corsa.esegui(0, uscita)) return false;
+    if (!corsa.esegui(analysis::relazione, uscita)) return false;
     annotaRisultati(esito);
     esito.fileRelazione = uscita.relazione();
     esito.fileScritti.push_back(esito.fileRelazione);

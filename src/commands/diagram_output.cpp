@@ -4,8 +4,8 @@
 
 namespace korven::commands {
 
-void UscitaDiagramma::disegnaDiagramma(int modoUscita) {
-    drawings::disegnaDiagramma(static_cast<drawings::Diagramma>(modoUscita));
+void UscitaDiagramma::disegnaDiagramma(analysis::Diagramma diagramma) {
+    drawings::disegnaDiagramma(diagramma);
 }
 
 }  // namespace korven::commands

@@ -8,11 +8,12 @@ namespace korven::commands {
 /// own beside the results.
 class UscitaDiagramma : public analysis::UscitaCalcolo {
  public:
-    [[nodiscard]] std::vector<std::string> file(int, const std::string&) const override {
+    [[nodiscard]] std::vector<std::string> file(analysis::ModoUscita,
+                                                const std::string&) const override {
         return {};
     }
     void scriviRelazione() override {}
-    void disegnaDiagramma(int modoUscita) override;
+    void disegnaDiagramma(analysis::Diagramma diagramma) override;
 };
 
 }  // namespace korven::commands

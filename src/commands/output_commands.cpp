@@ -31,19 +31,19 @@ using Relazione = std::function<void(const std::string&)> FormeProgramma::*;
 
 struct ComandoCalcolo {
     Comando comando;
-    int modoUscita;
+    analysis::ModoUscita modoUscita;
     Relazione relazione;  // nullptr: a diagram
 };
 
 constexpr ComandoCalcolo comandiCalcolo[] = {
-    {Comando::stampaVideo, 0, &FormeProgramma::anteprima},
-    {Comando::stampaTabulati, 0, &FormeProgramma::stampa},
-    {Comando::esportaDoc, 0, &FormeProgramma::esportaDoc},
-    {Comando::esportaTxt, 0, &FormeProgramma::esportaTxt},
-    {Comando::graficaPressioni, 1, nullptr},
-    {Comando::graficaSpostamenti, 2, nullptr},
-    {Comando::graficaMomenti, 3, nullptr},
-    {Comando::graficaTaglio, 4, nullptr},
+    {Comando::stampaVideo, analysis::relazione, &FormeProgramma::anteprima},
+    {Comando::stampaTabulati, analysis::relazione, &FormeProgramma::stampa},
+    {Comando::esportaDoc, analysis::relazione, &FormeProgramma::esportaDoc},
+    {Comando::esportaTxt, analysis::relazione, &FormeProgramma::esportaTxt},
+    {Comando::graficaPressioni, analysis::Diagramma::pressioni, nullptr},
+    {Comando::graficaSpostamenti, analysis::Diagramma::spostamenti, nullptr},
+    {Comando::graficaMomenti, analysis::Diagramma::momenti, nullptr},
+    {Comando::graficaTaglio, analysis::Diagramma::taglio, nullptr},
 };
 
 std::string attenzione() { return base::traduttore("ATTENZIONE") + "!"; }
@@ -73,8 +73,9 @@ bool seSiPuoScrivere(base::Dialogo& dialogo, Uscita uscita) {
 }
 
 // True when the run went through and its output is there.
-bool calcola(int modoUscita, base::Dialogo& dialogo, analysis::Avanzamento& avanzamento,
-             analysis::UscitaCalcolo& uscita, analysis::GuardiaRisultati& guardia) {
+bool calcola(analysis::ModoUscita modoUscita, base::Dialogo& dialogo,
+             analysis::Avanzamento& avanzamento, analysis::UscitaCalcolo& uscita,
+             analysis::GuardiaRisultati& guardia) {
     try {
         const bool scritto = seSiPuoScrivere(dialogo, [&] {
             analysis::CalcoloParatia(modoUscita, {dialogo, avanzamento, uscita, &guardia});
@@ -96,13 +97,13 @@ void produciRelazione(Relazione destinazione, base::Dialogo& dialogo,
     UscitaRelazione uscita(true);
     // Until the report has been read: another run would write its own in its place.
     analysis::GuardiaRisultati guardia;
-    if (!calcola(0, dialogo, avanzamento, uscita, guardia)) return;
+    if (!calcola(analysis::relazione, dialogo, avanzamento, uscita, guardia)) return;
     clessidra.mostra();  // the run gives the pointer back at its end
     (forme.*destinazione)(uscita.relazione());
 }
 
-void produciDiagramma(int modoUscita, base::Dialogo& dialogo, analysis::Avanzamento& avanzamento,
-                      const FormeProgramma& forme) {
+void produciDiagramma(analysis::ModoUscita modoUscita, base::Dialogo& dialogo,
+                      analysis::Avanzamento& avanzamento, const FormeProgramma& forme) {
     UscitaDiagramma uscita;
     bool disegnato = false;
     {

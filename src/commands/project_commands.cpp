@@ -101,8 +101,9 @@ EsitoCalcolo leggiEsito() {
     return esito;
 }
 
-std::vector<std::string> UscitaRelazione::file(int modoUscita, const std::string& risultati) const {
-    if (!scrive_ || modoUscita != 0) return {};
+std::vector<std::string> UscitaRelazione::file(analysis::ModoUscita modoUscita,
+                                               const std::string& risultati) const {
+    if (!scrive_ || modoUscita != analysis::relazione) return {};
     const std::string relazione = base::nomeRelazione(risultati);
     std::vector<std::string> nomi = {relazione};
     if (testo_) nomi.push_back(nomeTesto(relazione));

@@ -69,10 +69,10 @@ class UscitaRelazione : public analysis::UscitaCalcolo {
     /// @param documento  so will the word-processor file
     explicit UscitaRelazione(bool scrive, bool testo = false, bool documento = false)
         : scrive_(scrive), testo_(testo), documento_(documento) {}
-    [[nodiscard]] std::vector<std::string> file(int modoUscita,
+    [[nodiscard]] std::vector<std::string> file(analysis::ModoUscita modoUscita,
                                                 const std::string& risultati) const override;
     void scriviRelazione() override;
-    void disegnaDiagramma(int) override {}
+    void disegnaDiagramma(analysis::Diagramma) override {}
 
     /// Path of the mark-up file; empty while none was written.
     [[nodiscard]] const std::string& relazione() const { return relazione_; }

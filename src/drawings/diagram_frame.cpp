@@ -11,6 +11,7 @@ namespace korven::drawings {
 
 namespace {
 
+using analysis::Diagramma;
 using plot::x0;
 using plot::y0;
 
@@ -40,20 +41,6 @@ double pressioneAlPiede(const results::DatiRelazione& dati) {
         results::resistenzaNodo(dati.progetto, (dati.nNodi - 1) * dati.passo);
     return results::pressioniNodo(dati.fasi.back(), dati.nNodi, dati.progetto.metodoSpinte, terreno)
         .limitiM.passiva;
-}
-
-const char* unita(Diagramma diagramma) {
-    switch (diagramma) {
-        case Diagramma::pressioni:
-            return "[kN/m²]";
-        case Diagramma::spostamenti:
-            return "[cm]";
-        case Diagramma::momenti:
-            return "[kN m]";
-        case Diagramma::taglio:
-            break;
-    }
-    return "[kN]";
 }
 
 double lunghezzaTacca(const Tacca& tacca) { return tacca.maggiore ? taccaMaggiore : taccaMinore; }
@@ -99,7 +86,8 @@ void QuadroDiagramma::disegna() const {
     asseDelleProfondita();
     const double spazioUnita = plot::larghezzaTesto(altezzaNumeri, "[m]");
     plot::testoDa(x0 - 0.1 - spazioUnita, y0 + plot::altQuadro - 0.2, altezzaNumeri, "m");
-    plot::testoDa(x0 + plot::larghQuadro - 0.2, y0 - 0.3, altezzaNumeri, unita(diagramma_));
+    plot::testoDa(x0 + plot::larghQuadro - 0.2, y0 - 0.3, altezzaNumeri,
+                  analysis::nomi(diagramma_).unita);
 
     plot::plotPenna(7);
     plot::plotMuovi(xZero, y0 + margine, plot::pennaSu);

@@ -2,8 +2,8 @@
 
 #include <string>
 
+#include "analysis/diagrams.hpp"
 #include "drawings/diagram_scale.hpp"
-#include "drawings/result_diagram.hpp"
 #include "plot/sheet.hpp"
 #include "results/report_data.hpp"
 
@@ -15,7 +15,8 @@ namespace korven::drawings {
 ///     displacements   the extreme of all stages with the larger size, its sign kept [cm]
 ///     moments         the larger size of both extremes of all stages [t m]
 ///     shear           the same of the last stage alone [t]
-[[nodiscard]] double valoreDiScala(Diagramma diagramma, const results::DatiRelazione& dati);
+[[nodiscard]] double valoreDiScala(analysis::Diagramma diagramma,
+                                   const results::DatiRelazione& dati);
 
 /// Where values and depths lie on the sheet.
 class QuadroDiagramma {
@@ -27,7 +28,7 @@ class QuadroDiagramma {
     static constexpr double xDestra = plot::x0 + plot::larghQuadro - margine;
     static constexpr double altezzaEtichette = 0.25;
 
-    QuadroDiagramma(Diagramma diagramma, const AsseValori& asse, double lunghezzaParatia);
+    QuadroDiagramma(analysis::Diagramma diagramma, const AsseValori& asse, double lunghezzaParatia);
 
     /// Abscissa of a value of a curve.
     [[nodiscard]] double x(double valore) const { return xZero + verso_ * scalaX_ * valore; }
@@ -41,7 +42,7 @@ class QuadroDiagramma {
     void asseDeiValori() const;
     void asseDelleProfondita() const;
 
-    Diagramma diagramma_;
+    analysis::Diagramma diagramma_;
     AsseValori asse_;
     double lunghezza_;
     double verso_;   // -1 where values grow to the left

@@ -1,7 +1,6 @@
 #include "drawings/result_diagram.hpp"
 
 #include <cmath>
-#include <string_view>
 
 #include "analysis/wall_mesh.hpp"
 #include "base/translated_texts.hpp"
@@ -14,30 +13,11 @@ namespace korven::drawings {
 
 namespace {
 
+using analysis::Diagramma;
 using Quadro = QuadroDiagramma;
 
 constexpr int pennaLimiteAttivo = 8;
 constexpr int pennaLimitePassivo = 9;
-
-std::string_view titolo(Diagramma diagramma) {
-    switch (diagramma) {
-        case Diagramma::pressioni:
-            return "DIAGRAMMA DELLE PRESSIONI";
-        case Diagramma::spostamenti:
-            return "DIAGRAMMA DEGLI SPOSTAMENTI";
-        case Diagramma::momenti:
-            return "DIAGRAMMA DEI MOMENTI";
-        case Diagramma::taglio:
-            break;
-    }
-    return "DIAGRAMMA DEL TAGLIO";
-}
-
-// As the command line calls the files of each.
-const char* nomeDeiFile(Diagramma diagramma) {
-    constexpr const char* nomi[] = {"pressioni", "spostamenti", "momenti", "taglio"};
-    return nomi[static_cast<int>(diagramma) - static_cast<int>(Diagramma::pressioni)];
-}
 
 // A curve is drawn node by node; the pen is up at its first one.
 class Curva {
@@ -170,8 +150,9 @@ void disegnaDiagramma(Diagramma diagramma, const results::DatiRelazione& dati, i
     const double lunghezza = dati.progetto.lunghezzaParatia;
     controllaDisegnabile(vDati, lunghezza);
     const Quadro quadro(diagramma, asseValori(vDati), lunghezza);
-    plot::apriFoglio(dati.progetto.titoli, base::traduttore(titolo(diagramma)));
-    plot::statoPlot.nome = nomeDeiFile(diagramma);
+    const auto& nomi = analysis::nomi(diagramma);
+    plot::apriFoglio(dati.progetto.titoli, base::traduttore(nomi.titolo));
+    plot::statoPlot.nome = nomi.nome;
     quadro.disegna();
     for (int s = 1; s <= dati.progetto.nFasi; ++s) {
         const FaseDisegnata fase(dati, s, quadro);

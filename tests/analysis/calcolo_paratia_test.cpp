@@ -29,7 +29,7 @@ void aspettaRifiuto(const Banco& banco, std::string_view messaggio) {
 
 TEST(CalcoloParatia, LeavesACompleteResultFileAndGoesOnToTheOutput) {
     Banco banco(progettoSemplice());
-    banco.calcola(0);
+    banco.calcola(relazione);
     EXPECT_FALSE(erroreCalcolo);
     EXPECT_EQ(banco.uscita.relazioni, 1);
     EXPECT_EQ(banco.avanzamento.aperture, 1);
@@ -38,8 +38,8 @@ TEST(CalcoloParatia, LeavesACompleteResultFileAndGoesOnToTheOutput) {
     const auto fasi = banco.leggi();
     EXPECT_EQ(fasi.size(), 2u);
     EXPECT_EQ(banco.chiusura.fsAzioni, 1.4);
-    banco.calcola(3);
-    EXPECT_EQ(banco.uscita.diagrammi, std::vector{3});
+    banco.calcola(Diagramma::momenti);
+    EXPECT_EQ(banco.uscita.diagrammi, std::vector{Diagramma::momenti});
 }
 
 TEST(CalcoloParatia, RefusesAWallWithoutLengthFirst) {
@@ -246,9 +246,11 @@ TEST(CalcoloParatia, AsksAboutTheStiffnessAndTakesTheAnswer) {
 class UscitaCheRilegge : public UscitaCalcolo {
  public:
     explicit UscitaCheRilegge(int nNodi) : nNodi_(nNodi) {}
-    std::vector<std::string> file(int, const std::string&) const override { return {}; }
+    std::vector<std::string> file(analysis::ModoUscita, const std::string&) const override {
+        return {};
+    }
     void scriviRelazione() override { LettoreRisultati(fileCorrente, nNodi_).leggiTesta(Progetto); }
-    void disegnaDiagramma(int) override { scriviRelazione(); }
+    void disegnaDiagramma(Diagramma) override { scriviRelazione(); }
 
  private:
     int nNodi_;
@@ -260,13 +262,13 @@ TEST(CalcoloParatia, RunsWithCoulombAfterAReportOfRankineOrBellHasReadItsHeadBac
         dati.metodoSpinte = metodo;
         Banco banco(dati);
         UscitaCheRilegge uscita(51);
-        CalcoloParatia(0, {banco.dialogo, banco.avanzamento, uscita});
+        CalcoloParatia(relazione, {banco.dialogo, banco.avanzamento, uscita});
         EXPECT_EQ(Progetto.metodoSpinte, 1);
         const std::string primo = contenuto(banco.risultati());
-        CalcoloParatia(0, {banco.dialogo, banco.avanzamento, uscita});
+        CalcoloParatia(relazione, {banco.dialogo, banco.avanzamento, uscita});
         EXPECT_EQ(banco.avanzamento.aperture, 2);
         EXPECT_NE(contenuto(banco.risultati()), primo);
-        CalcoloParatia(0, {banco.dialogo, banco.avanzamento, uscita});
+        CalcoloParatia(relazione, {banco.dialogo, banco.avanzamento, uscita});
         EXPECT_EQ(banco.avanzamento.aperture, 2);
     }
 }
@@ -279,7 +281,7 @@ TEST(CalcoloParatia, SetsItsFlagsAtTheStartOfEveryRunAndShowsTheResultsNameToThe
     Banco banco(progettoSemplice());
     fsAzioni = 0;
     erroreCalcolo = true;
-    CalcoloParatia(0, {banco.dialogo, banco.avanzamento, spia});
+    CalcoloParatia(relazione, {banco.dialogo, banco.avanzamento, spia});
     EXPECT_EQ(fsAzioni, 1.4);
     EXPECT_FALSE(erroreCalcolo);
     EXPECT_EQ(spia.nome, banco.risultati());
@@ -287,7 +289,7 @@ TEST(CalcoloParatia, SetsItsFlagsAtTheStartOfEveryRunAndShowsTheResultsNameToThe
 
     fsAzioni = 0;
     Progetto.nFasi = 0;
-    CalcoloParatia(0, {banco.dialogo, banco.avanzamento, spia});  // refused
+    CalcoloParatia(relazione, {banco.dialogo, banco.avanzamento, spia});  // refused
     EXPECT_EQ(fsAzioni, 1.4);
     EXPECT_TRUE(erroreCalcolo);
 }

@@ -20,7 +20,7 @@ using test::metti;
 class Guardia : public ::testing::Test {
  protected:
     void calcola() {
-        CalcoloParatia(0, {banco.dialogo, banco.avanzamento, banco.uscita, &guardia});
+        CalcoloParatia(relazione, {banco.dialogo, banco.avanzamento, banco.uscita, &guardia});
     }
     void occupaAltri() {
         ASSERT_EQ(altra.prendi(base::nomeSerratura(banco.risultati())),
@@ -52,11 +52,11 @@ TEST_F(Guardia, HoldsTheResultFileFromTheComparisonBeyondTheOutput) {
     } spia;
     {
         GuardiaRisultati mia;
-        CalcoloParatia(0, {banco.dialogo, banco.avanzamento, spia, &mia});
+        CalcoloParatia(relazione, {banco.dialogo, banco.avanzamento, spia, &mia});
         EXPECT_TRUE(spia.occupata);
         EXPECT_EQ(nomi(), ".korven-muro.OUT.lock muro.OUT ");
-        CalcoloParatia(
-            0, {banco.dialogo, banco.avanzamento, spia, &mia});  // its own lock stands in no way
+        CalcoloParatia(relazione, {banco.dialogo, banco.avanzamento, spia,
+                                   &mia});  // its own lock stands in no way
         EXPECT_TRUE(banco.avanzamento.attese.empty());
     }
     EXPECT_EQ(nomi(), "muro.OUT ");
@@ -67,7 +67,7 @@ TEST_F(Guardia, LetsTheSameProgramBeginItsNextOutput) {
     calcola();
     {
         GuardiaRisultati seconda;
-        CalcoloParatia(0, {banco.dialogo, banco.avanzamento, banco.uscita, &seconda});
+        CalcoloParatia(relazione, {banco.dialogo, banco.avanzamento, banco.uscita, &seconda});
     }
     EXPECT_TRUE(banco.avanzamento.attese.empty());
     EXPECT_EQ(banco.uscita.relazioni, 2);

@@ -197,11 +197,12 @@ TEST(LeggiEsito, HoldsTheChecksOfTheSectionAndTheForcesThatTheReportShows) {
 }
 
 TEST(UscitaRelazione, NamesTheFilesThatItWillWrite) {
-    EXPECT_TRUE(UscitaRelazione(false, true).file(0, "/x/muro.OUT").empty());
-    EXPECT_TRUE(UscitaRelazione(true, true).file(3, "/x/muro.OUT").empty());
-    EXPECT_EQ(UscitaRelazione(true).file(0, "/x/muro.OUT"),
+    EXPECT_TRUE(UscitaRelazione(false, true).file(analysis::relazione, "/x/muro.OUT").empty());
+    EXPECT_TRUE(
+        UscitaRelazione(true, true).file(analysis::Diagramma::momenti, "/x/muro.OUT").empty());
+    EXPECT_EQ(UscitaRelazione(true).file(analysis::relazione, "/x/muro.OUT"),
               std::vector<std::string>{"/x/muro.TAB"});
-    EXPECT_EQ(UscitaRelazione(true, true).file(0, "/x.y/muro.OUT"),
+    EXPECT_EQ(UscitaRelazione(true, true).file(analysis::relazione, "/x.y/muro.OUT"),
               (std::vector<std::string>{"/x.TAB", "/x.txt"}));
 }
 
@@ -209,7 +210,7 @@ TEST(UscitaRelazione, WritesTheReportAfterARunAndRemembersItsName) {
     test::Banco banco(test::progettoSemplice(), 20);
     UscitaRelazione uscita(true);
     EXPECT_TRUE(uscita.relazione().empty());
-    analysis::CalcoloParatia(0, {banco.dialogo, banco.avanzamento, uscita});
+    analysis::CalcoloParatia(analysis::relazione, {banco.dialogo, banco.avanzamento, uscita});
     EXPECT_EQ(uscita.relazione(), banco.cartella / "muro.TAB");
     EXPECT_TRUE(fs::exists(uscita.relazione()));
 }
@@ -217,7 +218,7 @@ TEST(UscitaRelazione, WritesTheReportAfterARunAndRemembersItsName) {
 TEST(UscitaRelazione, WritesNothingWhenOnlyTheRunIsWanted) {
     test::Banco banco(test::progettoSemplice(), 20);
     UscitaRelazione uscita(false);
-    analysis::CalcoloParatia(0, {banco.dialogo, banco.avanzamento, uscita});
+    analysis::CalcoloParatia(analysis::relazione, {banco.dialogo, banco.avanzamento, uscita});
     EXPECT_TRUE(banco.haRisultati());
     EXPECT_FALSE(fs::exists(banco.cartella / "muro.TAB"));
 }

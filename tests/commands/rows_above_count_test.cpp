@@ -53,20 +53,20 @@ class RigheOltreIlConteggio : public test::ProvaStratigrafia {
     static std::vector<std::string> tuttoDi(const DatiProgetto& dati) {
         test::Banco banco(dati, 20);
         std::vector<std::string> parti;
-        const auto corri = [&](int modoUscita, analysis::UscitaCalcolo& uscita) {
+        const auto corri = [&](analysis::ModoUscita modoUscita, analysis::UscitaCalcolo& uscita) {
             analysis::CalcoloParatia(modoUscita, {banco.dialogo, banco.avanzamento, uscita});
             EXPECT_FALSE(analysis::erroreCalcolo);
         };
         UscitaRelazione relazione(true);
-        corri(0, relazione);
+        corri(analysis::relazione, relazione);
         parti.push_back(test::contenuto(banco.risultati()));
         parti.push_back(test::contenuto(relazione.relazione()));
         for (const auto& tirante : leggiEsito().tiranti)
             parti.push_back(std::to_string(tirante.tirante) + ": " +
                             std::to_string(tirante.tiroMassimo));
         UscitaDiagramma diagramma;
-        for (int tipo = 1; tipo <= 4; ++tipo) {
-            corri(tipo, diagramma);
+        for (const auto& riga : analysis::diagrammi) {
+            corri(riga.diagramma, diagramma);
             parti.push_back(test::disegnoComeTesto());
         }
         drawings::disegnaStratigrafia(project::Progetto);

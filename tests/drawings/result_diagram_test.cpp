@@ -16,6 +16,7 @@
 namespace korven::drawings {
 namespace {
 
+using analysis::Diagramma;
 using test::cifre;
 using test::polilinee;
 using test::testiCon;

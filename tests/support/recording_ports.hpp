@@ -62,14 +62,17 @@ class AvanzamentoFinto : public analysis::Avanzamento {
 /// Counts the outputs asked for.
 class UscitaFinta : public analysis::UscitaCalcolo {
  public:
-    [[nodiscard]] std::vector<std::string> file(int, const std::string&) const override {
+    [[nodiscard]] std::vector<std::string> file(analysis::ModoUscita,
+                                                const std::string&) const override {
         return daScrivere;
     }
     void scriviRelazione() override { ++relazioni; }
-    void disegnaDiagramma(int modoUscita) override { diagrammi.push_back(modoUscita); }
+    void disegnaDiagramma(analysis::Diagramma diagramma) override {
+        diagrammi.push_back(diagramma);
+    }
 
     int relazioni = 0;
-    std::vector<int> diagrammi;
+    std::vector<analysis::Diagramma> diagrammi;
     std::vector<std::string> daScrivere;
 };
 

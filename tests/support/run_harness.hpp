@@ -41,7 +41,7 @@ class Banco {
         analysis::contenutoNSeg = std::to_string(nSeg);
     }
 
-    void calcola(int modoUscita = 0) {
+    void calcola(analysis::ModoUscita modoUscita = analysis::relazione) {
         analysis::CalcoloParatia(modoUscita, {dialogo, avanzamento, uscita});
     }
 

@@ -133,7 +133,7 @@ TEST_F(Controllo, ForgetsTheRunBeforeWhenANewOneOpens) {
 TEST_F(Controllo, RemovesTheResultFileOfARunThatItStops) {
     test::Banco banco(test::progettoSemplice(), 20);
     ControlloCorsa controllo(vista, 1, interruzione);
-    analysis::CalcoloParatia(0, {banco.dialogo, controllo, banco.uscita});
+    analysis::CalcoloParatia(analysis::relazione, {banco.dialogo, controllo, banco.uscita});
     EXPECT_TRUE(analysis::erroreCalcolo);
     EXPECT_TRUE(controllo.oltreLimite());
     EXPECT_FALSE(banco.haRisultati());
@@ -144,7 +144,7 @@ TEST_F(Controllo, SaysThatNothingWasComputedWhenTheResultsAreUpToDate) {
     test::Banco banco(test::progettoSemplice(), 20);
     banco.calcola();
     ControlloCorsa controllo(vista, 0, interruzione);
-    analysis::CalcoloParatia(0, {banco.dialogo, controllo, banco.uscita});
+    analysis::CalcoloParatia(analysis::relazione, {banco.dialogo, controllo, banco.uscita});
     EXPECT_FALSE(controllo.calcolato());
     EXPECT_TRUE(controllo.fasi().empty());
 }

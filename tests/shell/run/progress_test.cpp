@@ -63,7 +63,7 @@ class Corsa : public ::testing::Test {
  protected:
     void calcola(AvanzamentoQt& avanzamento) {
         avanzamento.sopra(&principale);
-        analysis::CalcoloParatia(0, {banco.dialogo, avanzamento, banco.uscita});
+        analysis::CalcoloParatia(analysis::relazione, {banco.dialogo, avanzamento, banco.uscita});
     }
     test::Banco banco{test::progettoSemplice()};
     QWidget principale;
@@ -135,7 +135,8 @@ class CorsaCheAttende : public Corsa {
             fa(*attesa);
         });
         occhio.start(0);
-        analysis::CalcoloParatia(0, {banco.dialogo, avanzamento, banco.uscita, &guardia});
+        analysis::CalcoloParatia(analysis::relazione,
+                                 {banco.dialogo, avanzamento, banco.uscita, &guardia});
         EXPECT_TRUE(testo.starts_with("Un altro calcolo sta usando il file dei risultati"));
         EXPECT_TRUE(modale);
         EXPECT_EQ(principale.findChild<QMessageBox*>("attesa"), nullptr);

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string_view>
+
+namespace korven::analysis {
+
+/// What a result diagram shows along the wall, with the numbers that `modoUscita` has for it.
+enum class Diagramma { pressioni = 1, spostamenti, momenti, taglio };
+
+/// What comes after a run: a diagram, or the report.
+using ModoUscita = std::optional<Diagramma>;
+inline constexpr ModoUscita relazione = std::nullopt;
+
+/// How a diagram is called, wherever it is.
+struct NomiDiagramma {
+    Diagramma diagramma;
+    std::string_view nome;    ///< one word, in names of files and on the command line
+    std::string_view titolo;  ///< over the drawing, an Italian key
+    std::string_view unita;   ///< of the values shown, the same in all languages
+};
+
+/// The diagrams in the order of their numbers.
+inline constexpr std::array<NomiDiagramma, 4> diagrammi = {{
+    {Diagramma::pressioni, "pressioni", "DIAGRAMMA DELLE PRESSIONI", "[kN/m²]"},
+    {Diagramma::spostamenti, "spostamenti", "DIAGRAMMA DEGLI SPOSTAMENTI", "[cm]"},
+    {Diagramma::momenti, "momenti", "DIAGRAMMA DEI MOMENTI", "[kN m]"},
+    {Diagramma::taglio, "taglio", "DIAGRAMMA DEL TAGLIO", "[kN]"},
+}};
+
+[[nodiscard]] constexpr const NomiDiagramma& nomi(Diagramma diagramma) {
+    return diagrammi[static_cast<std::size_t>(diagramma) - 1];
+}
+
+}  // namespace korven::analysis
