@@ -9,10 +9,11 @@
 #include "base/file_names.hpp"
 #include "base/translated_texts.hpp"
 #include "batch/console_run.hpp"
+#include "batch/drawing_forms.hpp"
 #include "batch/drawing_run.hpp"
 #include "batch/failure.hpp"
 #include "batch/interruption.hpp"
-#include "batch/report_output.hpp"
+#include "batch/report_forms.hpp"
 #include "project/project_data.hpp"
 
 namespace korven::batch {

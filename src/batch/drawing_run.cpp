@@ -10,10 +10,11 @@
 #include "base/file_names.hpp"
 #include "base/translated_texts.hpp"
 #include "batch/console_run.hpp"
+#include "batch/drawing_forms.hpp"
 #include "batch/failure.hpp"
 #include "batch/interruption.hpp"
 #include "batch/output_names.hpp"
-#include "batch/report_output.hpp"
+#include "batch/report_forms.hpp"
 #include "commands/diagram_output.hpp"
 #include "commands/log_limit.hpp"
 #include "drawings/hatch_samples.hpp"
@@ -68,9 +69,9 @@ bool disegnaComando(const Opzioni& opzioni, analysis::GuardiaRisultati& guardia,
     }
 }
 
-void scrivi(const UsciteDisegno& uscite, Esito& esito) {
-    scriviDisegno(uscite);
-    for (const std::string& file : uscite.file()) esito.fileScritti.push_back(file);
+void scrivi(const FormeDisegno& forme, Esito& esito) {
+    scriviDisegno(forme);
+    for (const std::string& file : forme.file()) esito.fileScritti.push_back(file);
 }
 
 // One drawing of the project: the end of its files' names, and how it is made.
@@ -102,14 +103,14 @@ std::vector<Tavola> tutteLeTavole() {
 }
 
 // "DIR/muro-momenti.pdf" for each form asked for.
-UsciteDisegno usciteTavola(const Opzioni& opzioni, const Tavola& tavola) {
-    UsciteDisegno uscite;
+FormeDisegno usciteTavola(const Opzioni& opzioni, const Tavola& tavola) {
+    FormeDisegno uscite;
     uscite.dpi = opzioni.disegno.dpi;
-    const std::pair<const char*, std::string UsciteDisegno::*> forme[] = {
-        {"dxf", &UsciteDisegno::dxf},
-        {"pdf", &UsciteDisegno::pdf},
-        {"svg", &UsciteDisegno::svg},
-        {"png", &UsciteDisegno::png}};
+    const std::pair<const char*, std::string FormeDisegno::*> forme[] = {
+        {"dxf", &FormeDisegno::dxf},
+        {"pdf", &FormeDisegno::pdf},
+        {"svg", &FormeDisegno::svg},
+        {"png", &FormeDisegno::png}};
     for (const auto& [forma, file] : forme)
         if (std::find(opzioni.formati.begin(), opzioni.formati.end(), forma) !=
             opzioni.formati.end())
@@ -118,8 +119,8 @@ UsciteDisegno usciteTavola(const Opzioni& opzioni, const Tavola& tavola) {
 }
 
 // The report in each of its forms, beside the drawings.
-UsciteRelazione usciteRelazione() {
-    UsciteRelazione uscite;
+FormeRelazione usciteRelazione() {
+    FormeRelazione uscite;
     uscite.testo = uscite.documento = true;
     uscite.pdf = base::nomePdfRelazione(project::fileCorrente);
     return uscite;
@@ -146,12 +147,12 @@ int tutto(const Opzioni& opzioni, analysis::GuardiaRisultati& guardia, Esito& es
     const std::vector<Tavola> tavole = tutteLeTavole();
     std::vector<std::string> tutte;
     for (const Tavola& tavola : tavole) {
-        const UsciteDisegno uscite = usciteTavola(opzioni, tavola);
+        const FormeDisegno uscite = usciteTavola(opzioni, tavola);
         controllaUscite(uscite);
         for (const auto& file : uscite.file()) tutte.push_back(file);
     }
     const AmbienteDisegno ambiente(true);
-    const UsciteRelazione relazione = usciteRelazione();
+    const FormeRelazione relazione = usciteRelazione();
     controllaUscite(relazione);
     tutte.push_back(relazione.pdf);
     controllaNomi(tutte, {});

@@ -134,15 +134,15 @@ void diCalcolo(CLI::App& comando, Opzioni& o) {
 }
 
 // What the report leaves besides its mark-up.
-void diRelazione(CLI::App& comando, UsciteRelazione& uscite) {
-    comando.add_flag("--txt", uscite.testo, traduttore("scrive anche il testo semplice"));
-    comando.add_flag("--doc", uscite.documento,
+void diRelazione(CLI::App& comando, FormeRelazione& forme) {
+    comando.add_flag("--txt", forme.testo, traduttore("scrive anche il testo semplice"));
+    comando.add_flag("--doc", forme.documento,
                      traduttore("scrive anche il documento per elaboratori di testi (DOC)"));
-    comando.add_option("--pdf", uscite.pdf, traduttore("scrive la relazione in formato PDF"))
+    comando.add_option("--pdf", forme.pdf, traduttore("scrive la relazione in formato PDF"))
         ->type_name("FILE")
         ->check(percorso);
     comando
-        .add_option("--stampa", uscite.stampante,
+        .add_option("--stampa", forme.stampante,
                     traduttore("stampa la relazione su questa stampante"))
         ->type_name("NOME")
         ->check(percorso);
@@ -150,11 +150,11 @@ void diRelazione(CLI::App& comando, UsciteRelazione& uscite) {
 
 // The files of a drawing.
 void diDisegno(CLI::App& comando, Opzioni& o) {
-    const std::tuple<const char*, std::string UsciteDisegno::*, const char*> forme[] = {
-        {"--dxf", &UsciteDisegno::dxf, "scrive il disegno in formato DXF"},
-        {"--pdf", &UsciteDisegno::pdf, "scrive il disegno in formato PDF"},
-        {"--svg", &UsciteDisegno::svg, "scrive il disegno in formato SVG"},
-        {"--png", &UsciteDisegno::png, "scrive il disegno in formato PNG"},
+    const std::tuple<const char*, std::string FormeDisegno::*, const char*> forme[] = {
+        {"--dxf", &FormeDisegno::dxf, "scrive il disegno in formato DXF"},
+        {"--pdf", &FormeDisegno::pdf, "scrive il disegno in formato PDF"},
+        {"--svg", &FormeDisegno::svg, "scrive il disegno in formato SVG"},
+        {"--png", &FormeDisegno::png, "scrive il disegno in formato PNG"},
     };
     for (const auto& [nome, file, spiegazione] : forme)
         comando.add_option(nome, o.disegno.*file, traduttore(spiegazione))

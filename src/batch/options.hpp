@@ -5,8 +5,7 @@
 #include <vector>
 
 #include "analysis/diagrams.hpp"
-#include "batch/drawing_output.hpp"
-#include "batch/report_output.hpp"
+#include "batch/forms.hpp"
 
 namespace korven::batch {
 
@@ -39,9 +38,9 @@ struct Opzioni {
     bool traccia = false;  ///< `calcola`: record of the slow stages
     int maxIterazioni = 5000;
     analysis::Diagramma tipo = analysis::Diagramma::pressioni;  ///< of `diagramma`, which needs one
-    int fase = 0;               ///< `diagramma`: the stage to draw, 0 for all
-    UsciteRelazione relazione;  ///< of `relazione`, besides the mark-up
-    UsciteDisegno disegno;      ///< files of a drawing
+    int fase = 0;              ///< `diagramma`: the stage to draw, 0 for all
+    FormeRelazione relazione;  ///< of `relazione`, besides the mark-up
+    FormeDisegno disegno;      ///< files of a drawing
     std::vector<std::string> formati = {"pdf", "dxf"};  ///< `tutto`: forms of each drawing
 };
 

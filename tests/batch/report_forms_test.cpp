@@ -9,9 +9,9 @@ namespace {
 using test::contenuto;
 using test::dice;
 
-class UsciteRelazioneTest : public test::BancoConsole {};
+class FormeRelazioneTest : public test::BancoConsole {};
 
-TEST_F(UsciteRelazioneTest, ComeInEveryFormAskedFor) {
+TEST_F(FormeRelazioneTest, ComeInEveryFormAskedFor) {
     const auto esito = esegui("relazione", {"--txt", "--doc", "--pdf", cartella / "r.pdf"});
     EXPECT_EQ(esito.codice, 0) << esito.errori;
     EXPECT_EQ(nomi(), "muro.OUT muro.TAB muro.doc muro.kvd muro.txt r.pdf ");
@@ -21,12 +21,12 @@ TEST_F(UsciteRelazioneTest, ComeInEveryFormAskedFor) {
         EXPECT_TRUE(dice(esito.uscita, "File scritto: " + cartella / nome)) << esito.uscita;
 }
 
-TEST_F(UsciteRelazioneTest, AreTheMarkupAloneWithoutAnOption) {
+TEST_F(FormeRelazioneTest, AreTheMarkupAloneWithoutAnOption) {
     EXPECT_EQ(esegui("relazione").codice, 0);
     EXPECT_EQ(nomi(), "muro.OUT muro.TAB muro.kvd ");
 }
 
-TEST_F(UsciteRelazioneTest, ReplaceThoseOfAnEarlierRunWithoutAQuestion) {
+TEST_F(FormeRelazioneTest, ReplaceThoseOfAnEarlierRunWithoutAQuestion) {
     test::metti(cartella / "muro.doc", "di prima");
     test::metti(cartella / "r.pdf", "di prima");
     EXPECT_EQ(esegui("relazione", {"--doc", "--pdf", cartella / "r.pdf"}).codice, 0);
@@ -34,7 +34,7 @@ TEST_F(UsciteRelazioneTest, ReplaceThoseOfAnEarlierRunWithoutAQuestion) {
     EXPECT_TRUE(contenuto(cartella / "r.pdf").starts_with("%PDF"));
 }
 
-TEST_F(UsciteRelazioneTest, AreNamedInTheAnswerForScripts) {
+TEST_F(FormeRelazioneTest, AreNamedInTheAnswerForScripts) {
     const auto esito = esegui("relazione", {"--json", "--doc", "--pdf", cartella / "r.pdf"});
     const auto file = nlohmann::json::parse(esito.uscita)["file"];
     EXPECT_EQ(file["documento"], cartella / "muro.doc");
@@ -46,7 +46,7 @@ TEST_F(UsciteRelazioneTest, AreNamedInTheAnswerForScripts) {
     EXPECT_TRUE(senza["pdf"].is_null());
 }
 
-TEST_F(UsciteRelazioneTest, NeverTakeThePlaceOfTheProjectOrOfEachOther) {
+TEST_F(FormeRelazioneTest, NeverTakeThePlaceOfTheProjectOrOfEachOther) {
     const std::string prima = contenuto(progetto);
     for (const char* nome : {"muro.kvd", "muro.OUT", "muro.TAB", "muro.txt", "muro.doc"}) {
         const auto esito = esegui("relazione", {"--pdf", cartella / nome});
@@ -57,7 +57,7 @@ TEST_F(UsciteRelazioneTest, NeverTakeThePlaceOfTheProjectOrOfEachOther) {
     EXPECT_EQ(contenuto(progetto), prima);
 }
 
-TEST_F(UsciteRelazioneTest, NeverMakeADocumentOfAProjectOfThatName) {
+TEST_F(FormeRelazioneTest, NeverMakeADocumentOfAProjectOfThatName) {
     progetto = cartella / "muro.doc";
     scrivi(test::progettoSemplice());
     const std::string prima = contenuto(progetto);
@@ -65,7 +65,7 @@ TEST_F(UsciteRelazioneTest, NeverMakeADocumentOfAProjectOfThatName) {
     EXPECT_EQ(contenuto(progetto), prima);
 }
 
-TEST_F(UsciteRelazioneTest, TellOfAPrinterThatIsNotThereBeforeAnythingIsComputed) {
+TEST_F(FormeRelazioneTest, TellOfAPrinterThatIsNotThereBeforeAnythingIsComputed) {
     // No print server at all, whatever this machine has.
     const test::Ambiente solo{.variabili = {{"CUPS_SERVER", cartella / "nessuno.sock"}}};
     const auto esito = esegui("relazione", {"--stampa", "Ufficio"}, solo);
@@ -76,7 +76,7 @@ TEST_F(UsciteRelazioneTest, TellOfAPrinterThatIsNotThereBeforeAnythingIsComputed
     EXPECT_TRUE(dice(inglese.errori, "printer not found")) << inglese.errori;
 }
 
-TEST_F(UsciteRelazioneTest, ThatCannotBeWrittenAreTold) {
+TEST_F(FormeRelazioneTest, ThatCannotBeWrittenAreTold) {
     const auto esito = esegui("relazione", {"--pdf", cartella / "manca/r.pdf"});
     EXPECT_EQ(esito.codice, 3);
     EXPECT_TRUE(dice(esito.errori, cartella / "manca/r.pdf")) << esito.errori;
@@ -84,7 +84,7 @@ TEST_F(UsciteRelazioneTest, ThatCannotBeWrittenAreTold) {
     EXPECT_FALSE(std::filesystem::exists(cartella / "r.pdf")) << "whole or not at all";
 }
 
-TEST_F(UsciteRelazioneTest, RunNoProgramOfTheFolderThatTheOptionNames) {
+TEST_F(FormeRelazioneTest, RunNoProgramOfTheFolderThatTheOptionNames) {
     const test::CartellaProvvisoria altra;
     test::metti(altra / "outdoc", "#!/bin/sh\ntouch \"$0.corso\"\n");
     std::filesystem::permissions(altra / "outdoc", std::filesystem::perms::owner_all);
@@ -95,7 +95,7 @@ TEST_F(UsciteRelazioneTest, RunNoProgramOfTheFolderThatTheOptionNames) {
 }
 
 // The converter is found beside the program alone; here there is none.
-TEST_F(UsciteRelazioneTest, EndWithThreeWhenTheDocumentWasNotMade) {
+TEST_F(FormeRelazioneTest, EndWithThreeWhenTheDocumentWasNotMade) {
     const std::string solo = cartella / "korven32c";
     std::filesystem::copy(KORVEN_CONSOLE, solo);
     const auto esito =
@@ -107,7 +107,7 @@ TEST_F(UsciteRelazioneTest, EndWithThreeWhenTheDocumentWasNotMade) {
     EXPECT_FALSE(std::filesystem::exists(cartella / "muro.doc"));
 }
 
-TEST_F(UsciteRelazioneTest, OfARefusedRunAreNotWritten) {
+TEST_F(FormeRelazioneTest, OfARefusedRunAreNotWritten) {
     auto dati = test::progettoSemplice();
     dati.nFasi = 0;
     scrivi(dati);
@@ -115,7 +115,7 @@ TEST_F(UsciteRelazioneTest, OfARefusedRunAreNotWritten) {
     EXPECT_EQ(nomi(), "muro.kvd ");
 }
 
-TEST_F(UsciteRelazioneTest, OfAnEarlierRunAreNamedWhenThisOneFails) {
+TEST_F(FormeRelazioneTest, OfAnEarlierRunAreNamedWhenThisOneFails) {
     ASSERT_EQ(esegui("tutto", {"--uscita", cartella.percorso(), "--formati", "dxf"}).codice, 0);
     auto dati = test::progettoSemplice();
     dati.nFasi = 0;
@@ -126,7 +126,7 @@ TEST_F(UsciteRelazioneTest, OfAnEarlierRunAreNamedWhenThisOneFails) {
         EXPECT_TRUE(dice(esito.errori, cartella / nome)) << esito.errori;
 }
 
-TEST_F(UsciteRelazioneTest, ComeAllWithTheDrawings) {
+TEST_F(FormeRelazioneTest, ComeAllWithTheDrawings) {
     const auto esito = esegui("tutto", {"--json", "--uscita", cartella / "o", "--formati", "dxf"});
     EXPECT_EQ(esito.codice, 0) << esito.errori;
     const auto file = nlohmann::json::parse(esito.uscita)["file"];
@@ -136,7 +136,7 @@ TEST_F(UsciteRelazioneTest, ComeAllWithTheDrawings) {
     EXPECT_TRUE(contenuto(cartella / "o/muro.doc").starts_with("PK"));
 }
 
-TEST_F(UsciteRelazioneTest, AreWrongUsageWithoutANameForThem) {
+TEST_F(FormeRelazioneTest, AreWrongUsageWithoutANameForThem) {
     EXPECT_EQ(esegui("relazione", {"--pdf"}).codice, 2);
     EXPECT_EQ(esegui("relazione", {"--stampa", "--json"}).codice, 2);
     EXPECT_EQ(esegui("calcola", {"--pdf", cartella / "r.pdf"}).codice, 2);

@@ -1,6 +1,8 @@
-#include "batch/drawing_output.hpp"
+#include "batch/drawing_forms.hpp"
 
 #include <optional>
+#include <string>
+#include <vector>
 
 #include "base/file_error.hpp"
 #include "base/file_identity.hpp"
@@ -20,21 +22,10 @@
 
 namespace korven::batch {
 
-bool UsciteDisegno::nessuna() const { return file().empty(); }
-
-bool UsciteDisegno::dipinte() const { return !pdf.empty() || !svg.empty() || !png.empty(); }
-
-std::vector<std::string> UsciteDisegno::file() const {
-    std::vector<std::string> tutti;
-    for (const std::string* nome : {&dxf, &pdf, &svg, &png})
-        if (!nome->empty()) tutti.push_back(*nome);
-    return tutti;
-}
-
-void controllaUscite(const UsciteDisegno& uscite) {
+void controllaUscite(const FormeDisegno& forme) {
     const std::string& progetto = project::fileCorrente;
     const std::string risultati = progetto.empty() ? "" : base::nomeRisultati(progetto);
-    const auto file = uscite.file();
+    const auto file = forme.file();
     for (std::size_t i = 0; i < file.size(); ++i) {
         project::controllaUscita(file[i], risultati);
         for (std::size_t j = 0; j < i; ++j)
@@ -81,11 +72,11 @@ AmbienteDisegno::~AmbienteDisegno() {
     plot::statoPlot.sorveglia = nullptr;
 }
 
-void scriviDisegno(const UsciteDisegno& uscite) {
-    if (!uscite.dxf.empty()) plot::plotDxf(uscite.dxf);
-    if (!uscite.pdf.empty()) device::scriviPdf(uscite.pdf, uscite.foglio);
-    if (!uscite.svg.empty()) device::scriviSvg(uscite.svg);
-    if (!uscite.png.empty()) device::scriviPng(uscite.png, uscite.dpi);
+void scriviDisegno(const FormeDisegno& forme) {
+    if (!forme.dxf.empty()) plot::plotDxf(forme.dxf);
+    if (!forme.pdf.empty()) device::scriviPdf(forme.pdf, forme.foglio);
+    if (!forme.svg.empty()) device::scriviSvg(forme.svg);
+    if (!forme.png.empty()) device::scriviPng(forme.png, forme.dpi);
 }
 
 }  // namespace korven::batch

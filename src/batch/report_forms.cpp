@@ -1,4 +1,4 @@
-#include "batch/report_output.hpp"
+#include "batch/report_forms.hpp"
 
 #include "base/file_error.hpp"
 #include "base/file_names.hpp"
@@ -49,37 +49,37 @@ void stampa(const std::string& nome, base::Dialogo& dialogo, const Esito& esito)
     markup::printReport(esito.fileRelazione, *pagine, dialogo);
 }
 
-void scriviUscite(const UsciteRelazione& uscite, base::Dialogo& dialogo, Esito& esito) {
-    if (uscite.testo && !interrotto())
+void scriviForme(const FormeRelazione& forme, base::Dialogo& dialogo, Esito& esito) {
+    if (forme.testo && !interrotto())
         annota(commands::scriviTesto(esito.fileRelazione), esito.fileTesto, esito);
-    if (uscite.documento && !interrotto()) scriviDocumento(esito);
-    if (!uscite.pdf.empty() && !interrotto()) scriviPdf(uscite.pdf, dialogo, esito);
-    if (!uscite.stampante.empty() && !interrotto()) stampa(uscite.stampante, dialogo, esito);
+    if (forme.documento && !interrotto()) scriviDocumento(esito);
+    if (!forme.pdf.empty() && !interrotto()) scriviPdf(forme.pdf, dialogo, esito);
+    if (!forme.stampante.empty() && !interrotto()) stampa(forme.stampante, dialogo, esito);
 }
 
 }  // namespace
 
-void controllaUscite(const UsciteRelazione& uscite) {
+void controllaUscite(const FormeRelazione& forme) {
     const auto file = fileDelProgetto();
-    if (!uscite.pdf.empty())
-        for (const auto& altro : file) project::controllaUscita(uscite.pdf, altro);
+    if (!forme.pdf.empty())
+        for (const auto& altro : file) project::controllaUscita(forme.pdf, altro);
     // Two of these become one file only through links; the project the run looks at itself.
-    const bool scritti[] = {true, true, uscite.testo, uscite.documento};
+    const bool scritti[] = {true, true, forme.testo, forme.documento};
     for (std::size_t i = 1; i < file.size(); ++i)
         for (std::size_t j = 0; j < i; ++j)
             if (scritti[i] && scritti[j]) project::controllaCoppia(file[i], file[j]);
-    if (!uscite.stampante.empty()) device::controllaStampante(uscite.stampante);
+    if (!forme.stampante.empty()) device::controllaStampante(forme.stampante);
 }
 
-bool scriviRelazione(const UsciteRelazione& uscite, CorsaConsole& corsa, Esito& esito) {
+bool scriviRelazione(const FormeRelazione& forme, CorsaConsole& corsa, Esito& esito) {
     // Not every value stands in every report, but no project is right with one.
     if (!review::mostrabile(project::Progetto)) throw base::ErroreValore();
-    commands::UscitaRelazione uscita(true, uscite.testo, uscite.documento);
+    commands::UscitaRelazione uscita(true, forme.testo, forme.documento);
     if (!corsa.esegui(analysis::relazione, uscita)) return false;
     annotaRisultati(esito);
     esito.fileRelazione = uscita.relazione();
     esito.fileScritti.push_back(esito.fileRelazione);
-    scriviUscite(uscite, corsa.dialogo(), esito);
+    scriviForme(forme, corsa.dialogo(), esito);
     return true;
 }
 

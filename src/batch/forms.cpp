@@ -1,0 +1,12 @@
+#include "batch/forms.hpp"
+
+namespace korven::batch {
+
+std::vector<std::string> FormeDisegno::file() const {
+    std::vector<std::string> tutti;
+    for (const std::string* nome : {&dxf, &pdf, &svg, &png})
+        if (!nome->empty()) tutti.push_back(*nome);
+    return tutti;
+}
+
+}  // namespace korven::batch

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "plot/geometry.hpp"
+
+namespace korven::batch {
+
+/// What a report leaves besides its mark-up. The names of plain text and word-processor file follow
+/// from that of the mark-up.
+struct FormeRelazione {
+    bool testo = false;
+    bool documento = false;
+    std::string pdf;        ///< file; empty: none
+    std::string stampante;  ///< name of a printer; empty: none
+
+    /// True when pages are painted, which needs fonts.
+    [[nodiscard]] bool dipinte() const { return !pdf.empty() || !stampante.empty(); }
+};
+
+/// The files that a drawing goes to; empty names are not written.
+struct FormeDisegno {
+    std::string dxf, pdf, svg, png;
+    int dpi = 150;                    ///< resolution of the PNG file
+    plot::Foglio foglio{21.0, 29.7};  ///< sheet [cm]: page of the PDF file, height of a log
+
+    [[nodiscard]] bool nessuna() const { return file().empty(); }
+    /// True when one of the files is painted, which needs fonts.
+    [[nodiscard]] bool dipinte() const { return !pdf.empty() || !svg.empty() || !png.empty(); }
+    /// All that will be written, in this order.
+    [[nodiscard]] std::vector<std::string> file() const;
+};
+
+}  // namespace korven::batch
