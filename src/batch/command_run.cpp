@@ -8,12 +8,12 @@
 #include "analysis/segment_count.hpp"
 #include "base/file_names.hpp"
 #include "base/translated_texts.hpp"
-#include "batch/console_run.hpp"
-#include "batch/drawing_forms.hpp"
 #include "batch/drawing_run.hpp"
-#include "batch/failure.hpp"
-#include "batch/interruption.hpp"
-#include "batch/report_forms.hpp"
+#include "batch/run/console_run.hpp"
+#include "batch/run/drawing_forms.hpp"
+#include "batch/run/failure.hpp"
+#include "batch/run/interruption.hpp"
+#include "batch/run/report_forms.hpp"
 #include "project/project_data.hpp"
 
 namespace korven::batch {

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "analysis/result_guard.hpp"
-#include "batch/options.hpp"
-#include "batch/outcome.hpp"
+#include "batch/options/options.hpp"
+#include "batch/run/outcome.hpp"
 
 namespace korven::batch {
 

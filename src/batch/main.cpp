@@ -10,8 +10,8 @@
 #include "base/program_folder.hpp"
 #include "base/translated_texts.hpp"
 #include "batch/command_run.hpp"
-#include "batch/failure.hpp"
-#include "batch/options.hpp"
+#include "batch/options/options.hpp"
+#include "batch/run/failure.hpp"
 #include "commands/user_folder.hpp"
 
 // korven32c: the work of the desktop program without a window.

@@ -1,6 +1,6 @@
 #include <sys/stat.h>
 
-#include "batch_bench.hpp"
+#include "batch/batch_bench.hpp"
 #include "support/sample_sections.hpp"
 
 namespace korven::batch {

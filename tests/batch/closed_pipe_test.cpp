@@ -1,4 +1,4 @@
-#include "batch_bench.hpp"
+#include "batch/batch_bench.hpp"
 
 namespace korven::batch {
 namespace {

@@ -1,6 +1,6 @@
 #include <algorithm>
 
-#include "batch_bench.hpp"
+#include "batch/batch_bench.hpp"
 #include "support/dxf_reader.hpp"
 
 namespace korven::batch {

@@ -1,6 +1,6 @@
 #include <nlohmann/json.hpp>
 
-#include "batch_bench.hpp"
+#include "batch/batch_bench.hpp"
 
 // The program in a folder that its user can't write, as after an installation for all users.
 

@@ -3,7 +3,7 @@
 #include <thread>
 
 #include "base/file_lock.hpp"
-#include "batch_bench.hpp"
+#include "batch/batch_bench.hpp"
 
 namespace korven::batch {
 namespace {

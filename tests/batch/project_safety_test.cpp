@@ -1,4 +1,4 @@
-#include "batch_bench.hpp"
+#include "batch/batch_bench.hpp"
 
 // Names, links and folders that lead an output to the project itself.
 

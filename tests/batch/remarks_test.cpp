@@ -2,7 +2,7 @@
 
 #include <nlohmann/json.hpp>
 
-#include "batch_bench.hpp"
+#include "batch/batch_bench.hpp"
 
 namespace korven::batch {
 namespace {

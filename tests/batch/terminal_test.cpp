@@ -7,7 +7,7 @@
 #include <chrono>
 #include <thread>
 
-#include "batch_bench.hpp"
+#include "batch/batch_bench.hpp"
 
 namespace korven::batch {
 namespace {

@@ -1,7 +1,7 @@
 // A section that is too weak for its wall is a result like another: the report says so, the program
 // does not fail.
 
-#include "batch_bench.hpp"
+#include "batch/batch_bench.hpp"
 
 namespace korven::batch {
 namespace {

@@ -1,4 +1,4 @@
-#include "batch/forms.hpp"
+#include "batch/options/forms.hpp"
 
 namespace korven::batch {
 

@@ -1,7 +1,7 @@
 #include "base/code_page.hpp"
 #include "base/translated_texts.hpp"
-#include "batch/outcome.hpp"
-#include "batch/shown_number.hpp"
+#include "batch/run/outcome.hpp"
+#include "batch/run/shown_number.hpp"
 
 namespace korven::batch {
 

@@ -1,4 +1,4 @@
-#include "batch/console_run.hpp"
+#include "batch/run/console_run.hpp"
 
 #include <iostream>
 

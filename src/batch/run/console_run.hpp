@@ -1,10 +1,10 @@
 #pragma once
 
 #include "analysis/result_guard.hpp"
-#include "batch/console.hpp"
-#include "batch/interruption.hpp"
-#include "batch/options.hpp"
-#include "batch/outcome.hpp"
+#include "batch/options/options.hpp"
+#include "batch/run/console.hpp"
+#include "batch/run/interruption.hpp"
+#include "batch/run/outcome.hpp"
 
 namespace korven::batch {
 

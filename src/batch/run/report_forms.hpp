@@ -1,7 +1,7 @@
 #pragma once
 
-#include "batch/forms.hpp"
-#include "batch/outcome.hpp"
+#include "batch/options/forms.hpp"
+#include "batch/run/outcome.hpp"
 
 namespace korven::batch {
 

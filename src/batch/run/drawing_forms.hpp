@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "batch/forms.hpp"
+#include "batch/options/forms.hpp"
 
 namespace korven::batch {
 

@@ -1,4 +1,4 @@
-#include "batch/failure.hpp"
+#include "batch/run/failure.hpp"
 
 #include <gtest/gtest.h>
 

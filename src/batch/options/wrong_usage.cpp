@@ -1,4 +1,4 @@
-#include "batch/wrong_usage.hpp"
+#include "batch/options/wrong_usage.hpp"
 
 #include <string_view>
 

@@ -3,7 +3,7 @@
 
 #include "base/translated_texts.hpp"
 #include "base/version.hpp"
-#include "batch/outcome.hpp"
+#include "batch/run/outcome.hpp"
 
 namespace korven::batch {
 

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "analysis/result_guard.hpp"
-#include "batch/outcome.hpp"
+#include "batch/run/outcome.hpp"
 
 namespace korven::batch {
 

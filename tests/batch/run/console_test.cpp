@@ -1,6 +1,6 @@
 #include <sstream>
 
-#include "batch_bench.hpp"
+#include "batch/batch_bench.hpp"
 
 namespace korven::batch {
 namespace {

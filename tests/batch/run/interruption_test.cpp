@@ -1,4 +1,4 @@
-#include "batch/interruption.hpp"
+#include "batch/run/interruption.hpp"
 
 #include <signal.h>
 #include <unistd.h>
@@ -7,7 +7,7 @@
 #include <nlohmann/json.hpp>
 #include <thread>
 
-#include "batch_bench.hpp"
+#include "batch/batch_bench.hpp"
 
 namespace korven::batch {
 namespace {

@@ -1,4 +1,4 @@
-#include "batch/drawing_forms.hpp"
+#include "batch/run/drawing_forms.hpp"
 
 #include <optional>
 #include <string>
@@ -8,8 +8,8 @@
 #include "base/file_identity.hpp"
 #include "base/file_names.hpp"
 #include "base/translated_texts.hpp"
-#include "batch/interruption.hpp"
-#include "batch/output_names.hpp"
+#include "batch/run/interruption.hpp"
+#include "batch/run/output_names.hpp"
 #include "device/drawing_files.hpp"
 #include "device/drawing_fonts.hpp"
 #include "device/graphics_session.hpp"

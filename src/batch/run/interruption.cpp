@@ -1,4 +1,4 @@
-#include "batch/interruption.hpp"
+#include "batch/run/interruption.hpp"
 
 namespace korven::batch {
 

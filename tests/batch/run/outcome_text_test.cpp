@@ -1,6 +1,6 @@
 #include <sstream>
 
-#include "batch_bench.hpp"
+#include "batch/batch_bench.hpp"
 #include "support/sample_sections.hpp"
 
 namespace korven::batch {

@@ -1,4 +1,4 @@
-#include "batch/failure.hpp"
+#include "batch/run/failure.hpp"
 
 #include <algorithm>
 #include <exception>
@@ -10,7 +10,7 @@
 #include "base/table.hpp"
 #include "base/translated_texts.hpp"
 #include "base/value_error.hpp"
-#include "batch/output_names.hpp"
+#include "batch/run/output_names.hpp"
 #include "commands/fatal_error.hpp"
 #include "plot/drawing_stop.hpp"
 #include "project/project_data.hpp"

@@ -4,7 +4,7 @@
 #include <sstream>
 
 #include "base/number_text.hpp"
-#include "batch_bench.hpp"
+#include "batch/batch_bench.hpp"
 #include "support/sample_sections.hpp"
 
 namespace korven::batch {

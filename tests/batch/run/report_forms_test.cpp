@@ -1,6 +1,6 @@
 #include <nlohmann/json.hpp>
 
-#include "batch_bench.hpp"
+#include "batch/batch_bench.hpp"
 #include "support/pdf_pages.hpp"
 
 namespace korven::batch {

@@ -1,5 +1,3 @@
-#include "batch/options.hpp"
-
 #include <CLI/CLI.hpp>
 #include <iostream>
 #include <limits>
@@ -10,8 +8,9 @@
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
 #include "base/version.hpp"
-#include "batch/paper.hpp"
-#include "batch/wrong_usage.hpp"
+#include "batch/options/options.hpp"
+#include "batch/options/paper.hpp"
+#include "batch/options/wrong_usage.hpp"
 #include "device/drawing_files.hpp"
 #include "project/project_data.hpp"
 

@@ -1,4 +1,4 @@
-#include "batch_bench.hpp"
+#include "batch/batch_bench.hpp"
 #include "support/sample_sections.hpp"
 
 namespace korven::batch {

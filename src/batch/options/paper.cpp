@@ -1,4 +1,4 @@
-#include "batch/paper.hpp"
+#include "batch/options/paper.hpp"
 
 namespace korven::batch {
 

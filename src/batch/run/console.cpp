@@ -1,4 +1,4 @@
-#include "batch/console.hpp"
+#include "batch/run/console.hpp"
 
 #include <poll.h>
 #include <unistd.h>
@@ -6,7 +6,7 @@
 #include <iostream>
 
 #include "base/translated_texts.hpp"
-#include "batch/shown_number.hpp"
+#include "batch/run/shown_number.hpp"
 
 namespace korven::batch {
 

@@ -1,4 +1,4 @@
-#include "batch/shown_number.hpp"
+#include "batch/run/shown_number.hpp"
 
 #include <gtest/gtest.h>
 

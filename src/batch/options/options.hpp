@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "analysis/diagrams.hpp"
-#include "batch/forms.hpp"
+#include "batch/options/forms.hpp"
 
 namespace korven::batch {
 

@@ -1,4 +1,4 @@
-#include "batch/output_names.hpp"
+#include "batch/run/output_names.hpp"
 
 #include "base/file_identity.hpp"
 #include "base/file_names.hpp"
