@@ -98,15 +98,19 @@ std::string document(const DocumentParts& parts) {
 }  // namespace
 
 std::string documentBytes(const DocumentParts& parts) {
-    std::vector<ZipEntry> entries = {{"[Content_Types].xml", contentTypes()},
-                                     {"_rels/.rels", packageRelations()},
-                                     {"word/document.xml", document(parts)},
-                                     {"word/_rels/document.xml.rels", documentRelations()},
-                                     {"word/styles.xml", styles()},
-                                     {"word/header1.xml", margin("hdr", parts.header)},
-                                     {"word/footer1.xml", margin("ftr", parts.footer)}};
-    entries.push_back({"docProps/core.xml", properties(parts.title, ownMark(zipFiles(entries)))});
-    return zipArchive(entries);
+    ZipWriter file;
+    const auto add = [&file](const char* name, const std::string& content) {
+        file.add(name, content, Packing::deflated);
+    };
+    add("[Content_Types].xml", contentTypes());
+    add("_rels/.rels", packageRelations());
+    add("word/document.xml", document(parts));
+    add("word/_rels/document.xml.rels", documentRelations());
+    add("word/styles.xml", styles());
+    add("word/header1.xml", margin("hdr", parts.header));
+    add("word/footer1.xml", margin("ftr", parts.footer));
+    file.add(markedPart, properties(parts.title, ownMark(file.files())), Packing::stored);
+    return file.finish();
 }
 
 }  // namespace korven::outdoc

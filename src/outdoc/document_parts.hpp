@@ -21,7 +21,7 @@ struct DocumentParts {
 };
 
 /// The bytes of the word-processor file: an Office Open XML document (ECMA-376), which word
-/// processors know by its content, whatever the extension.
+/// processors know by its content, whatever the extension. Equal parts make equal bytes.
 [[nodiscard]] std::string documentBytes(const DocumentParts& parts);
 
 }  // namespace korven::outdoc

@@ -37,16 +37,14 @@ std::string nameOfCopy(const std::string& path, const std::string& bytes, bool& 
 }  // namespace
 
 std::string ownMark(std::string_view parts) {
-    return std::string(markStart) + hexadecimal(crc32(parts));
+    return std::string(markStart) + hexadecimal(checkSum(parts));
 }
 
 bool isOwnWork(std::string_view bytes) {
-    const std::size_t mark = bytes.rfind(markStart);
-    if (mark == std::string_view::npos) return false;
-    // The part that holds the mark is the last one, stored as it is.
-    const auto start = storedEntryBefore(bytes, mark);
-    return start &&
-           bytes.substr(mark, markStart.size() + digits) == ownMark(bytes.substr(0, *start));
+    const auto marked = storedFile(bytes, markedPart);
+    if (!marked) return false;
+    const std::string mark = ownMark(bytes.substr(0, marked->head));
+    return marked->content.find(mark) != std::string::npos;
 }
 
 std::string keepEarlierDocument(const std::string& path) {

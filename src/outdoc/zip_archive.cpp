@@ -1,7 +1,14 @@
 #include "outdoc/zip_archive.hpp"
 
-#include <array>
+#include <minizip/unzip.h>
+#include <minizip/zip.h>
+#include <zlib.h>
+
+#include <algorithm>
+#include <cstring>
 #include <limits>
+#include <new>
+#include <utility>
 
 #include "base/table.hpp"
 
@@ -9,116 +16,140 @@ namespace korven::outdoc {
 
 namespace {
 
-constexpr std::uint32_t localSignature = 0x04034B50;
-constexpr std::uint32_t directorySignature = 0x02014B50;
-constexpr std::uint32_t endSignature = 0x06054B50;
-constexpr int version = 20;  // 2.0, the least that every program reads
-constexpr int firstDay = (1 << 5) | 1;
-constexpr std::size_t headLength = 30;  // of a file, in front of its name
+constexpr uLong firstDay = (1 << 21) | (1 << 16);  // 1 January 1980, midnight
+constexpr std::size_t headLength = 30;             // of a file, in front of its name
 
-// Numbers stand low byte first.
-void put(std::string& bytes, std::uint32_t value, int length) {
-    for (; length > 0; --length, value >>= 8) bytes += static_cast<char>(value & 0xFF);
-}
-
-void put16(std::string& bytes, std::size_t value) {
-    put(bytes, static_cast<std::uint32_t>(value), 2);
-}
-
-void put32(std::string& bytes, std::size_t value) {
-    constexpr std::size_t most = std::numeric_limits<std::int32_t>::max();
-    if (value > most) throw base::ErroreIndice(std::numeric_limits<std::int32_t>::max(), most);
-    put(bytes, static_cast<std::uint32_t>(value), 4);
-}
-
-// What the head of a file and its entry in the directory have in common.
-std::string description(const ZipEntry& entry) {
+// What the library takes for a file: bytes in memory, and how far it is in them.
+struct BytesWritten {
     std::string bytes;
-    put16(bytes, version);
-    put16(bytes, 0);  // no flags
-    put16(bytes, 0);  // stored
-    put16(bytes, 0);  // midnight
-    put16(bytes, firstDay);
-    put(bytes, crc32(entry.content), 4);
-    put32(bytes, entry.content.size());  // as stored
-    put32(bytes, entry.content.size());  // as it is
-    put16(bytes, entry.name.size());
-    put16(bytes, 0);  // no extra field
+    std::size_t at = 0;
+};
+struct BytesRead {
+    std::string_view bytes;
+    std::size_t at = 0;
+};
+
+voidpf open(voidpf memory, const void*, int) { return memory; }
+int succeed(voidpf, voidpf) { return 0; }
+
+template <class Memory>
+ZPOS64_T tell(voidpf, voidpf stream) {
+    return static_cast<Memory*>(stream)->at;
+}
+
+template <class Memory>
+long seek(voidpf, voidpf stream, ZPOS64_T offset, int origin) {
+    auto& memory = *static_cast<Memory*>(stream);
+    std::size_t from = 0;
+    if (origin == ZLIB_FILEFUNC_SEEK_CUR) from = memory.at;
+    if (origin == ZLIB_FILEFUNC_SEEK_END) from = memory.bytes.size();
+    if (offset > memory.bytes.size() - from) return -1;
+    memory.at = from + offset;
+    return 0;
+}
+
+uLong read(voidpf, voidpf stream, void* to, uLong length) {
+    auto& memory = *static_cast<BytesRead*>(stream);
+    length = std::min<uLong>(length, memory.bytes.size() - memory.at);
+    std::memcpy(to, memory.bytes.data() + memory.at, length);
+    memory.at += length;
+    return length;
+}
+
+// An exception must not pass through code that is not C++.
+uLong write(voidpf, voidpf stream, const void* from, uLong length) {
+    auto& memory = *static_cast<BytesWritten*>(stream);
+    try {
+        memory.bytes.replace(memory.at, length, static_cast<const char*>(from), length);
+    } catch (const std::bad_alloc&) {
+        return 0;
+    }
+    memory.at += length;
+    return length;
+}
+
+template <class Memory>
+zlib_filefunc64_def calls(Memory& memory, read_file_func reading, write_file_func writing) {
+    return {open, reading, writing, tell<Memory>, seek<Memory>, succeed, succeed, &memory};
+}
+
+// In memory nothing else can go wrong.
+void demand(int outcome) {
+    if (outcome != ZIP_OK) throw std::bad_alloc();
+}
+
+struct Close {
+    void operator()(unzFile file) const { unzClose(file); }
+};
+using OpenArchive = std::unique_ptr<void, Close>;
+
+// The bytes of the file at which the archive is open, checked against the sum in its head.
+std::optional<std::string> content(unzFile archive, std::size_t length) {
+    std::string bytes(length, '\0');
+    const int read = unzReadCurrentFile(archive, bytes.data(), static_cast<unsigned>(length));
+    const bool whole = read >= 0 && static_cast<std::size_t>(read) == length;
+    if (unzCloseCurrentFile(archive) != UNZ_OK || !whole) return std::nullopt;
     return bytes;
 }
 
 }  // namespace
 
-std::uint32_t crc32(std::string_view bytes) {
-    static const auto table = [] {
-        constexpr std::uint32_t polynomial = 0xEDB88320;
-        std::array<std::uint32_t, 256> made{};
-        for (std::uint32_t i = 0; i < made.size(); ++i) {
-            std::uint32_t c = i;
-            for (int bit = 0; bit < 8; ++bit) c = (c & 1) != 0 ? polynomial ^ (c >> 1) : c >> 1;
-            made[i] = c;
-        }
-        return made;
-    }();
-    std::uint32_t sum = 0xFFFFFFFF;
-    for (const char byte : bytes)
-        sum = table[(sum ^ static_cast<unsigned char>(byte)) & 0xFF] ^ (sum >> 8);
-    return ~sum;
+struct ZipWriter::State {
+    BytesWritten memory;
+    zipFile archive = nullptr;
+};
+
+ZipWriter::ZipWriter() : state_(std::make_unique<State>()) {
+    auto functions = calls(state_->memory, nullptr, write);
+    state_->archive = zipOpen2_64("", APPEND_STATUS_CREATE, nullptr, &functions);
+    if (state_->archive == nullptr) throw std::bad_alloc();
 }
 
-std::optional<std::size_t> storedEntryBefore(std::string_view archive, std::size_t at) {
-    constexpr std::size_t sum = 14, packed = 18, plain = 22, name = 26;
-    const std::size_t start = archive.rfind("PK\x03\x04", at);
-    if (start == std::string_view::npos || archive.size() - start < headLength) return std::nullopt;
-    const auto number = [&](std::size_t offset, int length) {
-        std::uint32_t value = 0;
-        for (int i = length; i-- > 0;)
-            value = value << 8 | static_cast<unsigned char>(
-                                     archive[start + offset + static_cast<std::size_t>(i)]);
-        return value;
-    };
-    const std::size_t first = start + headLength + number(name, 2), length = number(plain, 4);
-    if (first > at || at - first >= length || archive.size() - first < length ||
-        number(packed, 4) != length || number(sum, 4) != crc32(archive.substr(first, length)))
+ZipWriter::~ZipWriter() {
+    if (state_->archive != nullptr) zipClose(state_->archive, nullptr);
+}
+
+void ZipWriter::add(const std::string& name, std::string_view content, Packing packing) {
+    constexpr std::size_t most = std::numeric_limits<std::int32_t>::max();
+    if (content.size() > most)
+        throw base::ErroreIndice(std::numeric_limits<std::int32_t>::max(), most);
+    const int method = packing == Packing::deflated ? Z_DEFLATED : 0;
+    zip_fileinfo about{};
+    about.dosDate = firstDay;
+    demand(zipOpenNewFileInZip(state_->archive, name.c_str(), &about, nullptr, 0, nullptr, 0,
+                               nullptr, method, Z_BEST_COMPRESSION));
+    demand(zipWriteInFileInZip(state_->archive, content.data(),
+                               static_cast<unsigned>(content.size())));
+    demand(zipCloseFileInZip(state_->archive));
+}
+
+std::string_view ZipWriter::files() const { return state_->memory.bytes; }
+
+std::string ZipWriter::finish() {
+    demand(zipClose(std::exchange(state_->archive, nullptr), nullptr));
+    return std::move(state_->memory.bytes);
+}
+
+std::optional<StoredFile> storedFile(std::string_view archive, const char* name) {
+    constexpr int asWritten = 1;  // capitals count
+    BytesRead memory{archive};
+    auto functions = calls(memory, read, nullptr);
+    const OpenArchive file(unzOpen2_64("", &functions));
+    unz_file_info64 about{};
+    if (file == nullptr || unzLocateFile(file.get(), name, asWritten) != UNZ_OK ||
+        unzGetCurrentFileInfo64(file.get(), &about, nullptr, 0, nullptr, 0, nullptr, 0) != UNZ_OK ||
+        about.compression_method != 0 || about.uncompressed_size > archive.size() ||
+        unzOpenCurrentFile(file.get()) != UNZ_OK)
         return std::nullopt;
-    return start;
+    const std::size_t start = unzGetCurrentFileZStreamPos64(file.get());
+    auto bytes = content(file.get(), about.uncompressed_size);
+    if (!bytes || start < headLength + about.size_filename) return std::nullopt;
+    return StoredFile{std::move(*bytes), start - headLength - about.size_filename};
 }
 
-std::string zipFiles(const std::vector<ZipEntry>& entries) {
-    std::string files;
-    for (const ZipEntry& entry : entries) {
-        put32(files, localSignature);
-        files.append(description(entry)).append(entry.name).append(entry.content);
-    }
-    return files;
-}
-
-std::string zipArchive(const std::vector<ZipEntry>& entries) {
-    std::string archive = zipFiles(entries), directory;
-    std::size_t at = 0;
-    for (const ZipEntry& entry : entries) {
-        put32(directory, directorySignature);
-        put16(directory, version);
-        directory += description(entry);
-        put16(directory, 0);   // no comment
-        put16(directory, 0);   // the one disk
-        put16(directory, 0);   // internal attributes
-        put(directory, 0, 4);  // external attributes
-        put32(directory, at);
-        directory += entry.name;
-        at += headLength + entry.name.size() + entry.content.size();
-    }
-    const std::size_t start = archive.size();
-    archive += directory;
-    put32(archive, endSignature);
-    put16(archive, 0);  // the one disk
-    put16(archive, 0);
-    put16(archive, entries.size());
-    put16(archive, entries.size());
-    put32(archive, directory.size());
-    put32(archive, start);
-    put16(archive, 0);  // no comment
-    return archive;
+std::uint32_t checkSum(std::string_view bytes) {
+    return static_cast<std::uint32_t>(
+        crc32_z(0, reinterpret_cast<const Bytef*>(bytes.data()), bytes.size()));
 }
 
 }  // namespace korven::outdoc

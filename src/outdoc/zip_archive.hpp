@@ -2,34 +2,53 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace korven::outdoc {
 
-/// A file of an archive.
-struct ZipEntry {
-    std::string name;  ///< with "/" between folders, ASCII
-    std::string content;
+enum class Packing { deflated, stored };
+
+/// A ZIP archive in the making, in memory. All its files are dated 1 January 1980, so that equal
+/// files make equal archives, whenever they are packed.
+class ZipWriter {
+ public:
+    /// @throws std::bad_alloc as every function here that packs
+    ZipWriter();
+    ZipWriter(const ZipWriter&) = delete;
+    ZipWriter& operator=(const ZipWriter&) = delete;
+    ~ZipWriter();
+
+    /// Adds a file behind those that are there.
+    /// @param name  with "/" between folders, ASCII
+    /// @throws base::ErroreIndice for contents beyond the 32-bit lengths of the format
+    void add(const std::string& name, std::string_view content, Packing packing);
+
+    /// What the archive begins with so far: its files, each behind its head.
+    [[nodiscard]] std::string_view files() const;
+
+    /// Ends the archive with its directory and hands it out; nothing can be added then.
+    [[nodiscard]] std::string finish();
+
+ private:
+    struct State;
+    std::unique_ptr<State> state_;
 };
 
+/// A file that stands in an archive as it is, without compression.
+struct StoredFile {
+    std::string content;
+    std::size_t head = 0;  ///< where its head begins in the archive
+};
+
+/// Reads a file from an archive.
+/// @return nothing if these bytes are no archive, or if no file of that name stands there as it is
+///         and with the check sum of its head
+[[nodiscard]] std::optional<StoredFile> storedFile(std::string_view archive, const char* name);
+
 /// Check sum of the archive format: CRC-32, polynomial EDB88320 (reflected), as in ISO 3309.
-[[nodiscard]] std::uint32_t crc32(std::string_view bytes);
-
-/// Looks for the file of an archive in whose content the byte `at` lies.
-/// @return where its head begins; nothing if no file stands there as it is, without compression and
-/// with the check sum that its head has
-[[nodiscard]] std::optional<std::size_t> storedEntryBefore(std::string_view archive,
-                                                           std::size_t at);
-
-/// What an archive begins with: the files, each behind its head.
-[[nodiscard]] std::string zipFiles(const std::vector<ZipEntry>& entries);
-
-/// The bytes of a ZIP archive that holds these files as they are, without compression, all dated
-/// 1 January 1980, so that equal files make an equal archive.
-/// @throws base::ErroreIndice for contents beyond the 32-bit lengths of the format
-[[nodiscard]] std::string zipArchive(const std::vector<ZipEntry>& entries);
+[[nodiscard]] std::uint32_t checkSum(std::string_view bytes);
 
 }  // namespace korven::outdoc

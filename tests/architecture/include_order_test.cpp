@@ -41,6 +41,8 @@ const std::vector<std::pair<std::string, std::set<std::string>>> outside = {
     {"CLI/", {"batch"}},
     {"nlohmann/", {"batch"}},
     {"png.h", {"device"}},
+    {"minizip/", {"outdoc"}},
+    {"zlib.h", {"outdoc"}},
 };
 
 // The headers of the operating system that stand beside the standard library: files, terminals and

@@ -6,6 +6,7 @@
 
 #include "base/code_page.hpp"
 #include "base/file_error.hpp"
+#include "outdoc/unpacked.hpp"
 #include "support/temporary_folder.hpp"
 
 namespace korven::outdoc {
@@ -28,19 +29,11 @@ std::optional<std::string> rendered(const Lines& lines) {
     return renderer.bytes();
 }
 
-// A file of the archive: it is stored as it is behind its name.
-std::string part(const std::string& archive, const std::string& name, const std::string& end) {
-    const auto start = archive.find(name + "<?xml");
-    if (start == std::string::npos) return {};
-    const auto length = archive.find(end, start) + end.size() - start - name.size();
-    return archive.substr(start + name.size(), length);
-}
-
 std::string body(const Lines& lines) {
     Lines whole{reset};
     whole.insert(whole.end(), lines.begin(), lines.end());
     whole.emplace_back("#ENDDOCUMENT");
-    return part(rendered(whole).value_or(""), "word/document.xml", "</w:document>");
+    return unpacked(rendered(whole).value_or(""), "word/document.xml");
 }
 
 int count(const std::string& text, std::string_view what) {
@@ -104,8 +97,8 @@ TEST(DocumentRenderer, MakesTitleAndHeadingsOfCapitalsAndKeepsThemWithWhatFollow
 TEST(DocumentRenderer, PutsHeaderFooterAndPageNumberBesideTheText) {
     const auto bytes =
         rendered({reset, "#HEADER Testa", "#FOOTER Piede", "x", "#ENDDOCUMENT"}).value_or("");
-    EXPECT_NE(part(bytes, "word/header1.xml", "</w:hdr>").find(">Testa</w:t>"), std::string::npos);
-    const std::string footer = part(bytes, "word/footer1.xml", "</w:ftr>");
+    EXPECT_NE(unpacked(bytes, "word/header1.xml").find(">Testa</w:t>"), std::string::npos);
+    const std::string footer = unpacked(bytes, "word/footer1.xml");
     EXPECT_NE(footer.find(">Piede</w:t>"), std::string::npos);
     EXPECT_NE(footer.find("\" PAGE \""), std::string::npos);
     EXPECT_NE(footer.find("\" NUMPAGES \""), std::string::npos);
@@ -115,7 +108,7 @@ TEST(DocumentRenderer, PutsHeaderFooterAndPageNumberBesideTheText) {
 TEST(DocumentRenderer, GivesThePageNumberItsOwnLineBelowALongFooter) {
     const auto bytes =
         rendered({reset, "#FOOTER " + std::string(70, 'm'), "#ENDDOCUMENT"}).value_or("");
-    EXPECT_EQ(count(part(bytes, "word/footer1.xml", "</w:ftr>"), "<w:p>"), 2);
+    EXPECT_EQ(count(unpacked(bytes, "word/footer1.xml"), "<w:p>"), 2);
 }
 
 TEST(DocumentRenderer, BreaksThePageBeforeTheNextParagraphOrTable) {

@@ -5,6 +5,7 @@
 #include <sys/resource.h>
 
 #include <filesystem>
+#include <utility>
 
 #include "base/file_error.hpp"
 #include "outdoc/document_renderer.hpp"
@@ -54,16 +55,35 @@ TEST_F(EarlierDocument, ThatItDidNotWriteIsKept) {
 TEST_F(EarlierDocument, ThatWasChangedInOneByteIsKept) {
     (void)convert();
     const std::string own = contenuto(document);
-    for (const char* part : {"uno", "dc:title>uno", "word/styles.xml", "rId2"}) {
-        std::string changed = own;
-        ++changed[changed.find(part) + std::string_view(part).size() - 1];
+    const auto marked = storedFile(own, markedPart);
+    ASSERT_TRUE(marked);
+    std::string changed = own;
+    for (std::size_t at = 0; at < marked->head; ++at) {
+        ++changed[at];
+        EXPECT_FALSE(isOwnWork(changed)) << at;
+        --changed[at];
+    }
+    for (const char* part : {"uno", "outdoc-"}) {
+        changed = own;
+        ++changed[changed.rfind(part)];
         EXPECT_FALSE(isOwnWork(changed)) << part;
     }
-    std::string changed = own;
-    changed[changed.find("uno")] = 'U';
     metti(document, changed);
     EXPECT_EQ(convert(), document + ".bak");
     EXPECT_EQ(contenuto(document + ".bak"), changed);
+}
+
+// As it was written before documents were compressed.
+TEST_F(EarlierDocument, OfAnOlderVersionIsReplacedWithoutACopy) {
+    const std::string older = contenuto(KORVEN_OUTDOC_FILES "/stored_document.doc");
+    EXPECT_NE(older.find("<w:t xml:space=\"preserve\">uno</w:t>"), std::string::npos) << "stored";
+    EXPECT_TRUE(isOwnWork(older));
+    std::string changed = older;
+    changed[changed.find("uno")] = 'U';
+    EXPECT_FALSE(isOwnWork(changed));
+    metti(document, older);
+    EXPECT_EQ(convert(), "");
+    EXPECT_LT(contenuto(document).size(), older.size() / 2);
 }
 
 TEST_F(EarlierDocument, LosesNoCopyThatWasKeptBefore) {
@@ -109,10 +129,16 @@ TEST(IsOwnWork, IsNothingThatOnlyHoldsTheMark) {
     EXPECT_FALSE(isOwnWork("outdoc-"));
     EXPECT_FALSE(isOwnWork("PK\x03\x04 outdoc-00000000"));
     // A word processor packs anew: the mark stands in an archive with other parts in front.
-    const std::vector<ZipEntry> parts = {{"word/document.xml", "altro"}};
-    const std::string mark = ownMark(zipFiles({{"word/document.xml", "nostro"}}));
-    EXPECT_FALSE(isOwnWork(zipArchive({parts[0], {"docProps/core.xml", mark}})));
-    EXPECT_TRUE(isOwnWork(zipArchive({parts[0], {"docProps/core.xml", ownMark(zipFiles(parts))}})));
+    const auto archive = [](const std::string& content, const std::string& marked) {
+        ZipWriter file;
+        file.add("word/document.xml", content, Packing::deflated);
+        const std::string parts(file.files());
+        file.add(markedPart, marked.empty() ? ownMark(parts) : marked, Packing::stored);
+        return std::pair(parts, file.finish());
+    };
+    const auto [parts, ours] = archive("nostro", "");
+    EXPECT_TRUE(isOwnWork(ours));
+    EXPECT_FALSE(isOwnWork(archive("altro", ownMark(parts)).second));
 }
 
 }  // namespace

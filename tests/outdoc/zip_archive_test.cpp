@@ -2,49 +2,101 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+#include <vector>
+
+#include "outdoc/unpacked.hpp"
+
 namespace korven::outdoc {
 namespace {
 
-std::uint32_t number(const std::string& bytes, std::size_t at, int length) {
-    std::uint32_t value = 0;
-    for (int i = length; i > 0; --i)
-        value =
-            value << 8 | static_cast<unsigned char>(bytes[at + static_cast<std::size_t>(i) - 1]);
-    return value;
+struct Entry {
+    std::string name, content;
+    Packing packing;
+};
+
+const std::vector<Entry> entries{{"a.txt", std::string(2000, 'a'), Packing::deflated},
+                                 {"b/c.xml", "", Packing::deflated},
+                                 {"d", "\x01\x02\xFF", Packing::stored}};
+
+std::string packed(const std::vector<Entry>& files) {
+    ZipWriter archive;
+    for (const auto& [name, content, packing] : files) archive.add(name, content, packing);
+    return archive.finish();
 }
 
-TEST(Crc32, HasThePublishedCheckValue) {
-    EXPECT_EQ(crc32("123456789"), 0xCBF43926u);
-    EXPECT_EQ(crc32(""), 0u);
+TEST(CheckSum, HasThePublishedCheckValue) {
+    EXPECT_EQ(checkSum("123456789"), 0xCBF43926u);
+    EXPECT_EQ(checkSum(""), 0u);
 }
 
-// Offsets as in the description of the format: the end record is 22 bytes long, an entry of the
-// directory 46 and the head of a file 30, each with the name behind it.
-TEST(ZipArchive, LeadsFromItsEndToEachFile) {
-    const std::vector<ZipEntry> entries{{"a.txt", "uno"}, {"b/c.xml", ""}, {"d", "\x01\x02\xFF"}};
-    const std::string bytes = zipArchive(entries);
-    const std::size_t end = bytes.size() - 22;
+TEST(ZipWriter, LeadsFromTheEndOfTheArchiveToEachFile) {
+    const std::string bytes = packed(entries);
+    const std::size_t end = bytes.size() - endLength;
     ASSERT_EQ(number(bytes, end, 4), 0x06054B50u);
     EXPECT_EQ(number(bytes, end + 10, 2), 3u);
     std::size_t at = number(bytes, end + 16, 4);
     EXPECT_EQ(at + number(bytes, end + 12, 4), end);
     for (const auto& entry : entries) {
+        const std::string& content = entry.content;
         ASSERT_EQ(number(bytes, at, 4), 0x02014B50u);
-        EXPECT_EQ(number(bytes, at + 10, 2), 0u);  // stored
-        EXPECT_EQ(number(bytes, at + 16, 4), crc32(entry.content));
-        const std::size_t nameLength = number(bytes, at + 28, 2);
-        EXPECT_EQ(bytes.substr(at + 46, nameLength), entry.name);
-        const std::size_t file = number(bytes, at + 42, 4);
-        ASSERT_EQ(number(bytes, file, 4), 0x04034B50u);
-        EXPECT_EQ(number(bytes, file + 18, 4), entry.content.size());
-        EXPECT_EQ(number(bytes, file + 22, 4), entry.content.size());
-        EXPECT_EQ(bytes.substr(file + 30, nameLength), entry.name);
-        EXPECT_EQ(bytes.substr(file + 30 + nameLength, entry.content.size()), entry.content);
-        at += 46 + nameLength;
+        EXPECT_EQ(number(bytes, at + 10, 2), entry.packing == Packing::stored ? 0u : 8u);
+        EXPECT_EQ(number(bytes, at + 16, 4), checkSum(content));
+        EXPECT_EQ(number(bytes, at + 24, 4), content.size());
+        EXPECT_EQ(bytes.substr(at + entryLength, number(bytes, at + 28, 2)), entry.name);
+        const std::size_t head = number(bytes, at + 42, 4);
+        ASSERT_EQ(number(bytes, head, 4), 0x04034B50u);
+        EXPECT_EQ(bytes.substr(head + headLength, entry.name.size()), entry.name);
+        EXPECT_EQ(contentOf(bytes, at), content);
+        at += entryLength + entry.name.size();
     }
+    EXPECT_LT(bytes.size(), 500u) << "2000 times the same letter is deflated";
 }
 
-TEST(ZipArchive, MayBeEmpty) { EXPECT_EQ(zipArchive({}).size(), 22u); }
+TEST(ZipWriter, DatesAllFilesTheSameSoThatEqualFilesMakeEqualArchives) {
+    const std::string bytes = packed(entries);
+    constexpr std::uint32_t firstDay = 1 << 5 | 1;  // month and day, years from 1980
+    EXPECT_EQ(number(bytes, 10, 2), 0u) << "midnight";
+    EXPECT_EQ(number(bytes, 12, 2), firstDay);
+    EXPECT_EQ(packed(entries), bytes);
+}
+
+TEST(ZipWriter, TellsWhatTheArchiveBeginsWith) {
+    ZipWriter archive;
+    EXPECT_EQ(archive.files(), "");
+    archive.add("d", "uno", Packing::stored);
+    EXPECT_EQ(archive.files().size(), headLength + 4);
+    const std::string begun(archive.files());
+    archive.add("e", "due", Packing::stored);
+    EXPECT_TRUE(archive.finish().starts_with(begun));
+}
+
+TEST(ZipWriter, MayPackNothing) { EXPECT_EQ(packed({}).size(), endLength); }
+
+TEST(ZipWriter, LeavesNothingOpenWhenItIsGivenUp) {
+    ZipWriter archive;
+    archive.add("d", "uno", Packing::stored);
+}
+
+TEST(StoredFile, IsFoundByItsNameWithThePlaceOfItsHead) {
+    const std::string bytes = packed(entries);
+    const auto found = storedFile(bytes, "d");
+    ASSERT_TRUE(found);
+    EXPECT_EQ(found->content, "\x01\x02\xFF");
+    EXPECT_EQ(bytes.substr(found->head, 4), "PK\x03\x04");
+    EXPECT_EQ(bytes.substr(found->head + headLength, 1), "d");
+    for (const char* name : {"D", "a.txt", "e"}) EXPECT_FALSE(storedFile(bytes, name)) << name;
+}
+
+TEST(StoredFile, IsNoneThatWasChangedOrCutShort) {
+    const std::string bytes = packed(entries);
+    std::string changed = bytes;
+    ++changed[storedFile(bytes, "d")->head + headLength + 1];  // its first byte
+    EXPECT_FALSE(storedFile(changed, "d"));
+    for (std::size_t length = 0; length <= bytes.size() - endLength; ++length)
+        EXPECT_FALSE(storedFile(bytes.substr(0, length), "d")) << length;
+    EXPECT_FALSE(storedFile("la lettera al committente", "d"));
+}
 
 }  // namespace
 }  // namespace korven::outdoc
