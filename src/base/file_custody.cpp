@@ -23,14 +23,9 @@ namespace {
                               std::generic_category().message(codice) + ")");
 }
 
-bool sostituisci(int file, std::string_view contenuto) {
-    if (::ftruncate(file, 0) != 0 || ::lseek(file, 0, SEEK_SET) != 0) return false;
-    while (!contenuto.empty()) {
-        const ssize_t scritti = ::write(file, contenuto.data(), contenuto.size());
-        if (scritti < 0 && errno != EINTR) return false;
-        if (scritti > 0) contenuto.remove_prefix(static_cast<std::size_t>(scritti));
-    }
-    return true;
+bool sostituisci(int file, std::string_view contenuto, const Disco& disco) {
+    return disco.accorcia(file, 0) && ::lseek(file, 0, SEEK_SET) == 0 &&
+           scriviTutto(disco, file, contenuto);
 }
 
 }  // namespace
@@ -85,8 +80,8 @@ bool InCustodia::prendiCartella(const std::string& percorso) {
 
 bool InCustodia::portaIlNome() const { return file_ >= 0 && base::portaIlNome(file_, percorso_); }
 
-void InCustodia::riscrivi(std::string_view contenuto) {
-    if (sostituisci(file_, contenuto)) return;
+void InCustodia::riscrivi(std::string_view contenuto, const Disco& disco) {
+    if (sostituisci(file_, contenuto, disco)) return;
     const int codice = errno;
     cancellaFile(percorso_);
     lascia();

@@ -3,6 +3,8 @@
 #include <string>
 #include <string_view>
 
+#include "base/disk.hpp"
+
 // How a process shows that it is still using a file or a folder: by an advisory lock on it, which
 // the system ends with the process, however that ended.
 
@@ -44,7 +46,7 @@ class InCustodia {
 
     /// Gives the file that was taken another content.
     /// @throws ErroreScrittura with the system's reason; the file is then removed
-    void riscrivi(std::string_view contenuto);
+    void riscrivi(std::string_view contenuto, const Disco& disco = discoDiSistema());
 
     void lascia();
 

@@ -15,8 +15,6 @@
 #include "base/system_reason.hpp"
 #include "base/translated_texts.hpp"
 
-// The standard library can't flush a file to the disk, so this file speaks to the system itself.
-
 namespace korven::base {
 
 namespace {
@@ -33,46 +31,22 @@ std::string perche(std::string_view cosa, int codice) {
     throw ErroreScrittura(percorso, 0, perche("impossibile scrivere il file", codice));
 }
 
-// A system call that a signal cut short is made again.
-template <class Chiamata>
-auto ripeti(const Chiamata& chiamata) {
-    for (;;) {
-        const auto esito = chiamata();
-        if (esito >= 0 || errno != EINTR) return esito;
-    }
-}
-
-int apriDescrittore(const std::string& percorso, int modo) {
-    return ripeti([&] { return ::open(percorso.c_str(), modo | O_CLOEXEC); });
-}
-
 class Descrittore {
  public:
-    explicit Descrittore(int numero) : numero_(numero) {}
+    Descrittore(const Disco& disco, const std::string& percorso, int modo, mode_t permessi = 0)
+        : disco_(disco), numero_(disco.apri(percorso, modo, permessi)) {}
     Descrittore(const Descrittore&) = delete;
     Descrittore& operator=(const Descrittore&) = delete;
     ~Descrittore() {
         if (numero_ >= 0) ::close(numero_);
     }
     [[nodiscard]] int operator*() const { return numero_; }
-    // An interrupted close has closed the file all the same.
-    [[nodiscard]] bool chiudi() {
-        return ::close(std::exchange(numero_, -1)) == 0 || errno == EINTR;
-    }
+    [[nodiscard]] bool chiudi() { return disco_.chiudi(std::exchange(numero_, -1)); }
 
  private:
+    const Disco& disco_;
     int numero_;
 };
-
-bool scriviTutto(int file, std::string_view contenuto) {
-    while (!contenuto.empty()) {
-        const ssize_t scritti =
-            ripeti([&] { return ::write(file, contenuto.data(), contenuto.size()); });
-        if (scritti < 0) return false;
-        contenuto.remove_prefix(static_cast<std::size_t>(scritti));
-    }
-    return true;
-}
 
 // The name of a device, a pipe or a socket: reading it could wait for ever or never end, and a
 // rename would replace it.
@@ -98,16 +72,17 @@ mode_t permessi(const std::string& percorso) {
     return 0666 & ~maschera;
 }
 
-void versaSulDisco(const std::string& cartella) {
-    const Descrittore file(apriDescrittore(cartella, O_RDONLY | O_DIRECTORY));
-    if (*file >= 0) ::fsync(*file);
+// The name of a file is what its folder holds. A folder that can't be flushed loses nothing.
+void versaCartella(const Disco& disco, const std::string& cartella) {
+    const Descrittore file(disco, cartella, O_RDONLY | O_DIRECTORY);
+    if (*file >= 0) static_cast<void>(disco.versa(*file));
 }
 
 }  // namespace
 
 std::string leggiFile(const std::string& percorso) {
     // Without waiting: a pipe without a writer would hold the program.
-    const Descrittore file(apriDescrittore(percorso, O_RDONLY | O_NONBLOCK));
+    const Descrittore file(discoDiSistema(), percorso, O_RDONLY | O_NONBLOCK);
     struct stat stato {};
     if (*file < 0 || ::fstat(*file, &stato) != 0) nonLetto(percorso, errno);
     rifiutaSpeciale(percorso, stato);
@@ -115,7 +90,8 @@ std::string leggiFile(const std::string& percorso) {
     std::string contenuto;
     char blocco[65536];
     for (;;) {
-        const ssize_t letti = ripeti([&] { return ::read(*file, blocco, sizeof blocco); });
+        const ssize_t letti = ::read(*file, blocco, sizeof blocco);
+        if (letti < 0 && errno == EINTR) continue;  // a signal cut it short
         if (letti < 0) nonLetto(percorso, errno);
         if (letti == 0) return contenuto;
         contenuto.append(blocco, static_cast<std::size_t>(letti));
@@ -123,7 +99,8 @@ std::string leggiFile(const std::string& percorso) {
     }
 }
 
-ScrittoreFile::ScrittoreFile(const std::string& percorso) : percorso_(percorso) {
+ScrittoreFile::ScrittoreFile(const std::string& percorso, const Disco& disco)
+    : disco_(disco), percorso_(percorso) {
     const auto meta = destinazione(percorso);
     if (!meta) nonScritto(percorso, ELOOP);
     meta_ = *meta;
@@ -137,7 +114,7 @@ ScrittoreFile::ScrittoreFile(const std::string& percorso) : percorso_(percorso) 
     do {
         if (file_ >= 0) ::close(file_);
         provvisorio_ = modello;
-        file_ = ::mkostemp(provvisorio_.data(), O_CLOEXEC);
+        file_ = disco_.creaProvvisorio(provvisorio_);
         if (file_ < 0) nonScritto(percorso, errno);
     } while (prendiInCustodia(file_) == Custodia::altrui || !portaIlNome(file_, provvisorio_));
 }
@@ -157,46 +134,45 @@ void ScrittoreFile::fallito() {
 }
 
 void ScrittoreFile::scrivi(std::string_view contenuto) {
-    if (!scriviTutto(file_, contenuto)) fallito();
+    if (!scriviTutto(disco_, file_, contenuto)) fallito();
 }
 
 void ScrittoreFile::concludi() {
-    const bool scritto = ::fchmod(file_, permessi(meta_)) == 0 &&
-                         ripeti([&] { return ::fsync(file_); }) == 0 &&
-                         ::rename(provvisorio_.c_str(), meta_.c_str()) == 0;
+    const bool scritto = ::fchmod(file_, permessi(meta_)) == 0 && disco_.versa(file_) &&
+                         disco_.rinomina(provvisorio_, meta_);
     if (!scritto) fallito();
     ::close(std::exchange(file_, -1));
-    versaSulDisco(cartellaDi(meta_));
+    versaCartella(disco_, cartellaDi(meta_));
 }
 
-void scriviFile(const std::string& percorso, std::string_view contenuto) {
-    ScrittoreFile file(percorso);
+void scriviFile(const std::string& percorso, std::string_view contenuto, const Disco& disco) {
+    ScrittoreFile file(percorso, disco);
     file.scrivi(contenuto);
     file.concludi();
 }
 
-void scriviFileNuovo(const std::string& percorso, std::string_view contenuto) {
-    constexpr int nuovo = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
+void scriviFileNuovo(const std::string& percorso, std::string_view contenuto, const Disco& disco) {
+    constexpr int nuovo = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW;
     constexpr mode_t permessiUsuali = 0666;  // less what the user's mask takes
-    Descrittore file(ripeti([&] { return ::open(percorso.c_str(), nuovo, permessiUsuali); }));
+    Descrittore file(disco, percorso, nuovo, permessiUsuali);
     if (*file < 0) nonScritto(percorso, errno);
-    const bool scritto = scriviTutto(*file, contenuto) &&
-                         ripeti([&] { return ::fsync(*file); }) == 0 && file.chiudi();
+    const bool scritto =
+        scriviTutto(disco, *file, contenuto) && disco.versa(*file) && file.chiudi();
     if (!scritto) {
         const int codice = errno;
         ::unlink(percorso.c_str());
         nonScritto(percorso, codice);
     }
-    versaSulDisco(cartellaDi(percorso));
+    versaCartella(disco, cartellaDi(percorso));
 }
 
-void accodaFile(const std::string& percorso, std::string_view contenuto) {
-    Descrittore file(apriDescrittore(percorso, O_WRONLY | O_APPEND));
+void accodaFile(const std::string& percorso, std::string_view contenuto, const Disco& disco) {
+    Descrittore file(disco, percorso, O_WRONLY | O_APPEND);
     if (*file < 0) nonScritto(percorso, errno);
     const off_t prima = ::lseek(*file, 0, SEEK_END);
-    if (!scriviTutto(*file, contenuto)) {
+    if (!scriviTutto(disco, *file, contenuto)) {
         const int codice = errno;
-        if (::ftruncate(*file, prima) != 0) ::unlink(percorso.c_str());
+        if (!disco.accorcia(*file, prima)) ::unlink(percorso.c_str());
         nonScritto(percorso, codice);
     }
     if (!file.chiudi()) nonScritto(percorso, errno);
@@ -210,8 +186,9 @@ bool esisteFile(const std::string& percorso) {
 
 bool accettaFile(const std::string& cartella) {
     std::string prova = cartella + "/.korven-XXXXXX";
-    const Descrittore file(::mkostemp(prova.data(), O_CLOEXEC));
-    if (*file < 0) return false;
+    const int file = ::mkostemp(prova.data(), O_CLOEXEC);
+    if (file < 0) return false;
+    ::close(file);
     ::unlink(prova.c_str());
     return true;
 }

@@ -4,6 +4,11 @@
 #include <string>
 #include <string_view>
 
+#include "base/disk.hpp"
+
+// Whoever writes takes the disk as its last parameter: the machine's, but for a test that wants to
+// see what stays and what is told when it fails.
+
 namespace korven::base {
 
 /// Size beyond which a file is none of this program's: 1 GiB.
@@ -19,14 +24,15 @@ inline constexpr std::size_t massimoByte = std::size_t{1} << 30;
 /// survives any failure. Its permissions are kept; a link is followed, even to a missing target.
 /// @throws ErroreFile with the system's reason (full disk, no permission, no such folder, links in
 ///         a loop), or if the name is that of a pipe, a device or a socket
-void scriviFile(const std::string& percorso, std::string_view contenuto);
+void scriviFile(const std::string& percorso, std::string_view contenuto,
+                const Disco& disco = discoDiSistema());
 
 /// A file in the making, for contents too long for memory: what `scriviFile` does, part by part.
 /// Without `concludi` nothing is left of it, and an earlier file of that name stays.
 class ScrittoreFile {
  public:
     /// @throws ErroreFile as `scriviFile`
-    explicit ScrittoreFile(const std::string& percorso);
+    explicit ScrittoreFile(const std::string& percorso, const Disco& disco = discoDiSistema());
     ScrittoreFile(const ScrittoreFile&) = delete;
     ScrittoreFile& operator=(const ScrittoreFile&) = delete;
     ~ScrittoreFile();
@@ -41,6 +47,7 @@ class ScrittoreFile {
     [[noreturn]] void fallito();
     void abbandona();
 
+    const Disco& disco_;
     std::string percorso_, meta_, provvisorio_;
     int file_ = -1;
 };
@@ -49,11 +56,13 @@ class ScrittoreFile {
 /// made first, as a link to something that must not be lost.
 /// @throws ErroreScrittura with the system's reason, also if the name is taken, be it by a link
 ///         that leads nowhere; nothing is left of a file that can't be written to its end
-void scriviFileNuovo(const std::string& percorso, std::string_view contenuto);
+void scriviFileNuovo(const std::string& percorso, std::string_view contenuto,
+                     const Disco& disco = discoDiSistema());
 
 /// Appends to an existing file; on a failure the file is cut back to what it held.
 /// @throws ErroreFile with the system's reason
-void accodaFile(const std::string& percorso, std::string_view contenuto);
+void accodaFile(const std::string& percorso, std::string_view contenuto,
+                const Disco& disco = discoDiSistema());
 
 /// True if something that is no folder has that name. It need not be readable: `leggiFile` then
 /// tells why, where a false here would pass over it in silence.
