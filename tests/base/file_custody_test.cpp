@@ -5,6 +5,7 @@
 #include <filesystem>
 
 #include "base/file_error.hpp"
+#include "support/failing_disk.hpp"
 #include "support/temporary_folder.hpp"
 
 namespace korven::base {
@@ -27,6 +28,16 @@ TEST(InCustodia, IsAFileThatNobodyElseTakesUntilItIsLet) {
     EXPECT_TRUE(altrui.prendiFile(cartella / "f"));
     EXPECT_TRUE(altrui.portaIlNome());
     EXPECT_FALSE(nostro.portaIlNome());
+}
+
+TEST(InCustodia, LosesAFileThatCannotBeRewritten) {
+    const test::CartellaProvvisoria cartella;
+    const test::DiscoPieno disco(2);
+    InCustodia file;
+    ASSERT_TRUE(file.prendiFile(cartella / "f"));
+    EXPECT_THROW(file.riscrivi("troppo", disco), ErroreScrittura);
+    EXPECT_FALSE(file.portaIlNome());
+    EXPECT_TRUE(fs::is_empty(cartella.percorso()));
 }
 
 TEST(InCustodia, MovesWithItsLock) {

@@ -8,8 +8,10 @@
 #include <cerrno>
 #include <filesystem>
 #include <string>
+#include <utility>
 
 #include "base/file_error.hpp"
+#include "support/failing_disk.hpp"
 #include "support/temporary_folder.hpp"
 
 namespace korven::base {
@@ -96,65 +98,68 @@ TEST(ScriviFile, LeavesTheOldFileAndNoHalfOneWhenTheFolderIsMissing) {
     EXPECT_EQ(voci(cartella), 0u);
 }
 
-// A disk that takes no more, for this process: no file may grow beyond a size. What stood before
-// comes back at the end.
-class DiscoPieno {
- public:
-    explicit DiscoPieno(rlim_t byte) {
-        segnale_ = ::signal(SIGXFSZ, SIG_IGN);  // the write fails instead of ending the process
-        ::getrlimit(RLIMIT_FSIZE, &limite_);
-        rlimit stretto = limite_;
-        stretto.rlim_cur = byte;
-        riuscito_ = ::setrlimit(RLIMIT_FSIZE, &stretto) == 0;
-    }
-    DiscoPieno(const DiscoPieno&) = delete;
-    DiscoPieno& operator=(const DiscoPieno&) = delete;
-    ~DiscoPieno() {
-        ::setrlimit(RLIMIT_FSIZE, &limite_);
-        ::signal(SIGXFSZ, segnale_);
-    }
-    [[nodiscard]] bool riuscito() const { return riuscito_; }
-
- private:
-    rlimit limite_{};
-    void (*segnale_)(int) = SIG_DFL;
-    bool riuscito_ = false;
-};
-
-// What a write tells that finds no room for its last bytes; empty if it tells nothing.
+// What a write tells that fails; empty if it tells nothing.
 template <class Scrittura>
-std::string erroreADiscoPieno(const Scrittura& scrittura) {
-    const DiscoPieno disco(4096);
-    if (!disco.riuscito()) return {};
+std::string detto(const Scrittura& scrittura) {
     try {
         scrittura();
-    } catch (const ErroreFile& errore) {
+    } catch (const ErroreScrittura& errore) {
         return errore.what();
     }
     return {};
 }
 
-const std::string ragione = "il file è troppo grande";
+std::string nonScritto(const std::string& percorso, const char* motivo) {
+    return percorso + ": impossibile scrivere il file (" + motivo + ")";
+}
 
 TEST(ScriviFile, TellsThatTheDiskTakesNoMoreAndLeavesTheOldFileAlone) {
     const CartellaProvvisoria cartella;
     metti(cartella / "f", "prima");
-    const std::string detto =
-        erroreADiscoPieno([&] { scriviFile(cartella / "f", std::string(10000, 'x')); });
-    EXPECT_NE(detto.find(cartella / "f"), std::string::npos) << detto;
-    EXPECT_NE(detto.find(ragione), std::string::npos) << detto;
+    const test::DiscoPieno disco(4096);
+    EXPECT_EQ(detto([&] { scriviFile(cartella / "f", std::string(10000, 'x'), disco); }),
+              nonScritto(cartella / "f", test::nonCeSpazio));
     EXPECT_EQ(contenuto(cartella / "f"), "prima");
     EXPECT_EQ(voci(cartella), 1u);
-    scriviFile(cartella / "f", std::string(10000, 'x'));  // room again
+    disco.spazio = 10000;  // room again
+    scriviFile(cartella / "f", std::string(10000, 'x'), disco);
     EXPECT_EQ(contenuto(cartella / "f").size(), 10000u);
 }
 
-TEST(ScriviFile, LeavesNothingOfANewFileThatFindsNoRoom) {
+TEST(ScriviFile, LeavesNothingOfANewFileWhicheverCallFails) {
     const CartellaProvvisoria cartella;
-    const std::string detto =
-        erroreADiscoPieno([&] { scriviFile(cartella / "f", std::string(10000, 'x')); });
-    EXPECT_NE(detto.find(ragione), std::string::npos) << detto;
-    EXPECT_EQ(voci(cartella), 0u);
+    test::DiscoGuasto chiuso, versa, nome;
+    chiuso.apertura = versa.versamento = nome.nome = true;
+    chiuso.motivo = EROFS;
+    versa.motivo = EIO;
+    const test::DiscoPieno pieno(2);
+    const std::pair<const Disco*, const char*> casi[] = {{&chiuso, "il disco è di sola lettura"},
+                                                         {&pieno, test::nonCeSpazio},
+                                                         {&versa, "errore del disco"},
+                                                         {&nome, test::nonCeSpazio}};
+    for (const auto& [disco, motivo] : casi) {
+        EXPECT_EQ(detto([&, d = disco] { scriviFile(cartella / "f", "dopo", *d); }),
+                  nonScritto(cartella / "f", motivo));
+        EXPECT_EQ(voci(cartella), 0u) << motivo;
+    }
+}
+
+// The one test of a disk that is really full: no file of this process may grow beyond a size.
+TEST(ScriviFile, IsToldByTheSystemThatAFileMayNotGrow) {
+    const CartellaProvvisoria cartella;
+    metti(cartella / "f", "prima");
+    const auto segnale = ::signal(SIGXFSZ, SIG_IGN);  // the write fails, the process goes on
+    rlimit prima{};
+    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &prima), 0);
+    const rlimit stretto{4096, prima.rlim_max};
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &stretto), 0);
+    const std::string risposta =
+        detto([&] { scriviFile(cartella / "f", std::string(10000, 'x')); });
+    ::setrlimit(RLIMIT_FSIZE, &prima);
+    ::signal(SIGXFSZ, segnale);
+    EXPECT_EQ(risposta, nonScritto(cartella / "f", "il file è troppo grande"));
+    EXPECT_EQ(contenuto(cartella / "f"), "prima");
+    EXPECT_EQ(voci(cartella), 1u);
 }
 
 TEST(ScriviFileNuovo, WritesUnderAFreeNameAlone) {
@@ -175,6 +180,19 @@ TEST(ScriviFileNuovo, WritesUnderAFreeNameAlone) {
     EXPECT_FALSE(esisteNome(cartella / "nessuno"));
 }
 
+TEST(ScriviFileNuovo, LeavesNothingOfAFileThatCannotBeWrittenToItsEnd) {
+    const CartellaProvvisoria cartella;
+    test::DiscoGuasto versa, chiude;
+    versa.versamento = chiude.chiusura = true;
+    const test::DiscoPieno pieno(2);
+    for (const Disco* disco : {static_cast<const Disco*>(&pieno), static_cast<const Disco*>(&versa),
+                               static_cast<const Disco*>(&chiude)}) {
+        EXPECT_EQ(detto([&] { scriviFileNuovo(cartella / "f", "testo", *disco); }),
+                  nonScritto(cartella / "f", test::nonCeSpazio));
+        EXPECT_EQ(voci(cartella), 0u);
+    }
+}
+
 TEST(AccodaFile, AddsBehindWhatStands) {
     const CartellaProvvisoria cartella;
     metti(cartella / "f", "uno ");
@@ -188,12 +206,30 @@ TEST(AccodaFile, TellsThatTheDiskTakesNoMoreAndCutsTheFileBack) {
     const CartellaProvvisoria cartella;
     const std::string prima(3000, 'p');
     metti(cartella / "f", prima);
-    const std::string detto =
-        erroreADiscoPieno([&] { accodaFile(cartella / "f", std::string(5000, 'x')); });
-    EXPECT_NE(detto.find(cartella / "f"), std::string::npos) << detto;
-    EXPECT_NE(detto.find(ragione), std::string::npos) << detto;
+    const test::DiscoPieno disco(1096);
+    EXPECT_EQ(detto([&] { accodaFile(cartella / "f", std::string(5000, 'x'), disco); }),
+              nonScritto(cartella / "f", test::nonCeSpazio));
     EXPECT_EQ(contenuto(cartella / "f"), prima);
     EXPECT_EQ(voci(cartella), 1u);
+}
+
+TEST(AccodaFile, RemovesAFileThatCannotBeCutBack) {
+    const CartellaProvvisoria cartella;
+    metti(cartella / "f", "prima");
+    test::DiscoPieno disco(2);
+    disco.taglio = true;
+    EXPECT_THROW(accodaFile(cartella / "f", "dopo", disco), ErroreScrittura);
+    EXPECT_EQ(voci(cartella), 0u) << "half a file would be taken for a whole one";
+}
+
+TEST(AccodaFile, TellsOfADiskThatFailsOnlyAtTheEnd) {
+    const CartellaProvvisoria cartella;
+    metti(cartella / "f", "prima");
+    test::DiscoGuasto disco;
+    disco.chiusura = true;
+    disco.motivo = EIO;
+    EXPECT_EQ(detto([&] { accodaFile(cartella / "f", "dopo", disco); }),
+              nonScritto(cartella / "f", "errore del disco"));
 }
 
 TEST(LeggiFile, SaysWhyAFileCannotBeRead) {
@@ -267,6 +303,15 @@ TEST(ScrittoreFile, GivesTheFileItsNameOnceItIsWhole) {
     EXPECT_EQ(test::contenuto(cartella / "a"), "prima");
     file.concludi();
     EXPECT_EQ(test::contenuto(cartella / "a"), "uno due");
+}
+
+TEST(ScrittoreFile, IsGivenUpAtTheFirstFailure) {
+    const test::CartellaProvvisoria cartella;
+    const test::DiscoPieno disco(5);
+    ScrittoreFile file(cartella / "a", disco);
+    file.scrivi("uno ");
+    EXPECT_THROW(file.scrivi("due"), ErroreScrittura);
+    EXPECT_TRUE(std::filesystem::is_empty(cartella.percorso()));
 }
 
 TEST(ScrittoreFile, LeavesNothingOfAFileThatIsGivenUp) {
