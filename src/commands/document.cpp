@@ -83,11 +83,11 @@ void Documento::apriNome(const std::string& risposta) {
 void Documento::leggi(const std::string& nome, const std::string& file) {
     NomeProvvisorio provvisorio(file);
     togliResti(file);
-    FileSuDisco disco;
-    disco.ricorda(file);
+    FileSuDisco suDisco;
+    suDisco.ricorda(file);
     project::leggiProgetto();
     provvisorio.tieni(nome);
-    disco_ = std::move(disco);
+    suDisco_ = std::move(suDisco);
     project::progettiProtetti.letto = file;
     mostra("File letto", file);
 }
@@ -95,7 +95,7 @@ void Documento::leggi(const std::string& nome, const std::string& file) {
 void Documento::comincia(const std::string& nome) {
     project::azzeraProgetto();
     fileCorrente = nome;
-    disco_.ricorda(nome);
+    suDisco_.ricorda(nome);
     project::progettiProtetti.letto.clear();
     // A new user's first project would else lie unnoticed beside the examples.
     finestra_.stato(traduttore("Nuovo progetto, non ancora salvato") + ": " + nome + " (" +
@@ -144,7 +144,7 @@ bool Documento::accettaNome(const std::string& nome) {
     if (!consente(traduttore("Il file indicato esiste già. Volete sovrascriverlo"),
                   base::Icona::domanda))
         return false;
-    if (!disco_.cambiato(nome)) return true;
+    if (!suDisco_.cambiato(nome)) return true;
     return consente(traduttore("Un altro programma ha modificato questo file dopo la lettura. "
                                "Volete perdere quelle modifiche e sovrascriverlo"),
                     base::Icona::avviso);
@@ -152,9 +152,9 @@ bool Documento::accettaNome(const std::string& nome) {
 
 void Documento::scrivi(const std::string& nome) {
     NomeProvvisorio provvisorio(nome);
-    project::scriviProgetto();
+    project::scriviProgetto(disco_);
     provvisorio.tieni(nome);
-    disco_.ricorda(nome);
+    suDisco_.ricorda(nome);
     ricordaCartella(nome);
     project::progettiProtetti.letto = nome;
     modificato = false;

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "base/dialogo.hpp"
+#include "base/disk.hpp"
 #include "commands/document_ports.hpp"
 #include "commands/file_on_disk.hpp"
 
@@ -12,8 +13,9 @@ namespace korven::commands {
 /// Works on `Progetto`, `fileCorrente` and `modificato`.
 class Documento {
  public:
-    Documento(base::Dialogo& dialogo, DialogoFile& nomi, FinestraPrincipale& finestra)
-        : dialogo_(dialogo), nomi_(nomi), finestra_(finestra) {}
+    Documento(base::Dialogo& dialogo, DialogoFile& nomi, FinestraPrincipale& finestra,
+              const base::Disco& disco = base::discoDiSistema())
+        : dialogo_(dialogo), nomi_(nomi), finestra_(finestra), disco_(disco) {}
 
     /// Asks about unsaved changes, then for a name. An existing file is read; a name without a file
     /// begins a new project, and no file exists until it is saved.
@@ -53,7 +55,8 @@ class Documento {
     base::Dialogo& dialogo_;
     DialogoFile& nomi_;
     FinestraPrincipale& finestra_;
-    FileSuDisco disco_;
+    const base::Disco& disco_;
+    FileSuDisco suDisco_;
 };
 
 }  // namespace korven::commands

@@ -21,8 +21,8 @@ constexpr Prefisso prefissi[] = {
     {"esem", "ita"}, {"exam", "eng"}, {"exem", "fra"}, {"ejem", "esp"}};
 
 // Copied and then removed, so that a full disk leaves the file where it was.
-void sposta(const fs::path& da, const fs::path& cartella) {
-    base::scriviFile((cartella / da.filename()).string(), base::leggiFile(da.string()));
+void sposta(const fs::path& da, const fs::path& cartella, const base::Disco& disco) {
+    base::scriviFile((cartella / da.filename()).string(), base::leggiFile(da.string()), disco);
     base::cancellaFile(da.string());
 }
 
@@ -46,12 +46,13 @@ std::string cartellaEsempi(std::string_view sigla) {
     return (fs::path(base::cartellaProgramma()) / "data" / sigla).string();
 }
 
-void preparaEsempi() {
+void preparaEsempi(const base::Disco& disco) {
     for (const auto& prefisso : prefissi) creaCartella(cartellaEsempi(prefisso.sigla));
     for (const auto& file : fileDellaCartella(base::cartellaProgramma())) {
         const std::string nome = base::minuscolo(file.filename().string());
         for (const auto& prefisso : prefissi)
-            if (nome.starts_with(prefisso.inizio)) sposta(file, cartellaEsempi(prefisso.sigla));
+            if (nome.starts_with(prefisso.inizio))
+                sposta(file, cartellaEsempi(prefisso.sigla), disco);
     }
 }
 

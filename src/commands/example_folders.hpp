@@ -3,6 +3,8 @@
 #include <string>
 #include <string_view>
 
+#include "base/disk.hpp"
+
 namespace korven::commands {
 
 /// True for a program folder in which nobody has started the program: neither a language nor a
@@ -16,6 +18,6 @@ namespace korven::commands {
 /// there, by the beginning of their names: "esem" Italian, "exam" English, "exem" French, "ejem"
 /// Spanish. German and Portuguese have no such beginning; their examples lie in place.
 /// @throws base::ErroreFile if a folder can't be made or a file can't be copied
-void preparaEsempi();
+void preparaEsempi(const base::Disco& disco = base::discoDiSistema());
 
 }  // namespace korven::commands

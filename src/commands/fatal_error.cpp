@@ -33,12 +33,12 @@ using NomeLibero = std::string (*)(std::string_view,
                                    const std::function<bool(const std::string&)>&);
 
 // Into the first folder that takes it; empty where none does.
-std::string recupera(std::string_view byte, NomeLibero nome) {
+std::string recupera(std::string_view byte, NomeLibero nome, const base::Disco& disco) {
     for (const auto& cartella : cartelleRecupero()) {
         const std::string file = nome(
             (cartella / fs::path(project::fileCorrente).filename()).string(), base::esisteNome);
         try {
-            base::scriviFileNuovo(file, byte);
+            base::scriviFileNuovo(file, byte, disco);
             return file;
         } catch (const base::ErroreFile&) {
             continue;  // the next folder may do
@@ -61,13 +61,13 @@ std::string spiegazione(const std::exception& errore) {
            std::to_string(indice->indice()) + " > " + std::to_string(indice->capacita()) + ")";
 }
 
-std::string recuperaProgetto() {
+std::string recuperaProgetto(const base::Disco& disco) {
     if (!project::modificato || project::fileCorrente.empty()) return {};
-    return recupera(base::inCp1252(project::testoProgetto(project::Progetto)), nomeRecupero);
+    return recupera(base::inCp1252(project::testoProgetto(project::Progetto)), nomeRecupero, disco);
 }
 
-std::string recuperaRighe(std::string_view righe) {
-    return recupera(base::inCp1252(righe), nomeRighe);
+std::string recuperaRighe(std::string_view righe, const base::Disco& disco) {
+    return recupera(base::inCp1252(righe), nomeRighe, disco);
 }
 
 std::string testoFine(const std::exception& errore, const std::string& recuperato) {

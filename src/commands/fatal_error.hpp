@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "base/disk.hpp"
 #include "base/table.hpp"
 
 namespace korven::commands {
@@ -27,11 +28,12 @@ class ErroreRighe : public base::ErroreIndice {
 /// Writes the unsaved project, if there is one, under a rescue name beside its file, or where the
 /// user's own data go if nothing can be written there.
 /// @return the file written; empty when nothing was unsaved or nothing could be written
-std::string recuperaProgetto();
+std::string recuperaProgetto(const base::Disco& disco = base::discoDiSistema());
 
 /// Writes rows that were typed as text beside the project, or where `recuperaProgetto` goes.
 /// @return the file written; empty when nothing could be written
-std::string recuperaRighe(std::string_view righe);
+std::string recuperaRighe(std::string_view righe,
+                          const base::Disco& disco = base::discoDiSistema());
 
 /// The whole text of the box that ends the program: the error, and where the rows typed and the
 /// unsaved work are, or that they could not be saved.

@@ -28,7 +28,7 @@ std::string fileModulo(std::string_view sigla, std::string_view estensione) {
 bool scegliLingua(const PorteLingua& porte) {
     const int codice = porte.scegli(lingueOfferte());
     if (codice == 0) return false;
-    base::scriviFile(fileLingua(), std::to_string(codice) + "\r\n");
+    base::scriviFile(fileLingua(), std::to_string(codice) + "\r\n", porte.disco);
     return true;
 }
 
@@ -60,14 +60,14 @@ bool iniziaLingua(const PorteLingua& porte) {
     if ((prova || !base::esisteFile(fileLingua())) && !scegliLingua(porte)) return false;
     const int codice = codiceValido();
     const std::string sigla(base::siglaLingua(codice));
-    if (primaVolta) preparaEsempi();
+    if (primaVolta) preparaEsempi(porte.disco);
     base::caricaTesti(base::fileProgramma("texts01.txt"),
                       base::fileProgramma(std::string("texts").append(numeroModulo) + ".txt"),
                       base::fileProgramma("texts32.txt"));
     base::impostaLingua(codice);
     base::impostaModoProva(prova ? &porte.dialogo : nullptr);
     fileAiuto = trovaAiuto(sigla);
-    if (primaVolta) scriviUltimaCartella(cartellaEsempi(sigla));
+    if (primaVolta) scriviUltimaCartella(cartellaEsempi(sigla), porte.disco);
     return true;
 }
 

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "base/dialogo.hpp"
+#include "base/disk.hpp"
 
 namespace korven::commands {
 
@@ -19,6 +20,7 @@ struct PorteLingua {
     std::function<int(const std::vector<int>& codici)> scegli;
     /// Root of the file system, where the file lies that switches the translators' test mode on.
     std::string radice = "/";
+    const base::Disco& disco = base::discoDiSistema();
 };
 
 /// Chooses and loads the language, first of all at the start: `language.cfg` if the user has chosen

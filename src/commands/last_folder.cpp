@@ -39,9 +39,9 @@ void ricordaCartella(const std::string& progetto) {
 
 void vaiAllaCartellaDi(const std::string& progetto) { vaiA(fs::path(progetto).parent_path()); }
 
-void scriviUltimaCartella(const std::string& cartella) {
+void scriviUltimaCartella(const std::string& cartella, const base::Disco& disco) {
     try {
-        base::scriviFile(fileCartella(), cartella + "\r\n");
+        base::scriviFile(fileCartella(), cartella + "\r\n", disco);
     } catch (const base::ErroreFile&) {
         return;  // the next open dialog starts elsewhere
     }

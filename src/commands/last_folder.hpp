@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "base/disk.hpp"
+
 // The file "path" of the program folder: one line, the folder of the project opened or saved last.
 // It saves the user a walk through folders and nothing more, so whatever goes wrong with it is
 // passed over.
@@ -19,6 +21,7 @@ void ricordaCartella(const std::string& progetto);
 void vaiAllaCartellaDi(const std::string& progetto);
 
 /// Writes the file: the folder that the next open dialog starts in.
-void scriviUltimaCartella(const std::string& cartella);
+void scriviUltimaCartella(const std::string& cartella,
+                          const base::Disco& disco = base::discoDiSistema());
 
 }  // namespace korven::commands

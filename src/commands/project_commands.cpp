@@ -117,7 +117,7 @@ void UscitaRelazione::scriviRelazione() {
 
 std::string nomeTesto(const std::string& relazione) { return base::conUltimiTre(relazione, "txt"); }
 
-std::string scriviTesto(const std::string& relazione) {
+std::string scriviTesto(const std::string& relazione, const base::Disco& disco) {
     std::string percorso = nomeTesto(relazione);
     project::controllaUscita(percorso, relazione);
     auto file = base::LettoreRighe::apri(relazione);
@@ -125,7 +125,7 @@ std::string scriviTesto(const std::string& relazione) {
     if (!testo)
         throw base::ErroreFile(relazione, 0,
                                base::traduttore("la relazione non apre nessun documento (#RESET)"));
-    base::scriviFile(percorso, *testo);
+    base::scriviFile(percorso, *testo, disco);
     return percorso;
 }
 

@@ -7,6 +7,7 @@
 
 #include "analysis/calcolo_paratia.hpp"
 #include "analysis/result_file.hpp"
+#include "base/disk.hpp"
 #include "results/structure_checks.hpp"
 
 namespace korven::commands {
@@ -91,7 +92,8 @@ class UscitaRelazione : public analysis::UscitaCalcolo {
 /// @throws base::ErroreFile if one can't be read or the other not be written, if the mark-up opens
 /// no
 ///         document, or if the text would take the place of the project or of the mark-up
-std::string scriviTesto(const std::string& relazione);
+std::string scriviTesto(const std::string& relazione,
+                        const base::Disco& disco = base::discoDiSistema());
 
 /// The report, its text, its word-processor and PDF file that lie where a run of this project
 /// writes them, if they are plain files: after a run that failed they must not be taken for its

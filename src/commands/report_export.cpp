@@ -59,7 +59,7 @@ bool salvaTxt(const std::string& percorso, const std::string& nome,
             throw base::ErroreFile(percorso, 0,
                                    traduttore("la relazione non apre nessun documento (#RESET)"));
         project::controllaUscita(nome, percorso);
-        base::scriviFile(nome, *testo);
+        base::scriviFile(nome, *testo, porte.disco);
         return true;
     } catch (const base::ErroreFile& errore) {
         avvisa(porte, errore.what(), base::Icona::avviso);

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "base/dialogo.hpp"
+#include "base/disk.hpp"
 #include "base/process/avvia_programma.hpp"
 
 // The report leaves the program as plain text or as a word-processor file, and a viewer shows it.
@@ -31,6 +32,7 @@ struct PorteEsportazione {
     base::AvviaProgramma& programmi;
     ChiediNome chiediNome;
     std::string outdoc = convertitore();
+    const base::Disco& disco = base::discoDiSistema();  ///< takes the plain text
 };
 
 /// The target that an answer of the dialog means: an extension of at most three characters gives

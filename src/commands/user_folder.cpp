@@ -34,15 +34,16 @@ bool programma(const fs::directory_entry& voce) {
     return (voce.status().permissions() & eseguibile) != fs::perms::none;
 }
 
-void copia(const fs::path& da, const fs::path& a) {
+void copia(const fs::path& da, const fs::path& a, const base::Disco& disco) {
     const bool esiste = base::esisteFile(a.string());
     if (esiste && !delProgramma(a)) return;
     const std::string contenuto = base::leggiFile(da.string());
     if (!esiste || base::leggiFile(a.string()) != contenuto)
-        base::scriviFile(a.string(), contenuto);
+        base::scriviFile(a.string(), contenuto, disco);
 }
 
-void copiaCartella(const fs::path& da, const fs::path& a, bool anchePrivate) {
+void copiaCartella(const fs::path& da, const fs::path& a, bool anchePrivate,
+                   const base::Disco& disco) {
     creaCartella(a.string());
     std::error_code errore;
     fs::directory_iterator voce(da, errore);
@@ -50,26 +51,26 @@ void copiaCartella(const fs::path& da, const fs::path& a, bool anchePrivate) {
         const fs::path meta = a / voce->path().filename();
         if (voce->is_directory()) {
             if (anchePrivate || voce->path().filename() == "data")
-                copiaCartella(voce->path(), meta, true);
+                copiaCartella(voce->path(), meta, true, disco);
         } else if (voce->is_regular_file() && !programma(*voce)) {
-            copia(voce->path(), meta);
+            copia(voce->path(), meta, disco);
         }
     }
 }
 
 }  // namespace
 
-void copiaDati(const std::string& installata, const std::string& utente) {
-    copiaCartella(installata, utente, false);
+void copiaDati(const std::string& installata, const std::string& utente, const base::Disco& disco) {
+    copiaCartella(installata, utente, false, disco);
 }
 
-void scegliCartellaProgramma() {
+void scegliCartellaProgramma(const base::Disco& disco) {
     if (!base::serveCartellaUtente()) return;
     const std::string utente = base::cartellaDatiUtente();
     std::error_code errore;
     const bool cEra = fs::exists(utente, errore);
     try {
-        copiaDati(base::cartellaProgramma(), utente);
+        copiaDati(base::cartellaProgramma(), utente, disco);
     } catch (const base::ErroreFile&) {
         if (!cEra) {
             fs::remove_all(utente, errore);

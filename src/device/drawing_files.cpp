@@ -43,10 +43,10 @@ plot::Riquadro pagina(const plot::Riquadro& disegno, const plot::Foglio& foglio)
 
 }  // namespace
 
-void scriviPdf(const std::string& percorso, const plot::Foglio& foglio) {
+void scriviPdf(const std::string& percorso, const plot::Foglio& foglio, const base::Disco& disco) {
     const plot::LavoroDisegno lavoro;
     const plot::Riquadro vista = pagina(plot::statoPlot.estensione, foglio);
-    DispositivoFile file(percorso);
+    DispositivoFile file(percorso, disco);
     {
         QPdfWriter scrittore(&file);
         scrittore.setCreator(QStringLiteral("KORVEN 32"));
@@ -65,12 +65,14 @@ void scriviPdf(const std::string& percorso, const plot::Foglio& foglio) {
     file.concludi();
 }
 
-void scriviSvg(const std::string& percorso) {
+void scriviSvg(const std::string& percorso, const base::Disco& disco) {
     const plot::LavoroDisegno lavoro;
-    ScrittoreSvg(percorso, vistaDelDisegno(), pennaMinimaCm).scrivi(plot::statoPlot.archivio);
+    ScrittoreSvg(percorso, vistaDelDisegno(), pennaMinimaCm, disco)
+        .scrivi(plot::statoPlot.archivio);
 }
 
-void scriviPng(const std::string& percorso, int dpi, std::size_t byteFascia) {
+void scriviPng(const std::string& percorso, int dpi, std::size_t byteFascia,
+               const base::Disco& disco) {
     assert(dpi >= risoluzioneMinima && dpi <= risoluzioneMassima);
     const plot::LavoroDisegno lavoro;
     const plot::Riquadro vista = vistaDelDisegno();
@@ -87,7 +89,7 @@ void scriviPng(const std::string& percorso, int dpi, std::size_t byteFascia) {
     // Lines of one pixel have a quick way of their own in Qt, which sets them down a pixel aside
     // where a strip begins.
     const double pennaMinima = righe < misure.height() ? 1.01 : 1;
-    ScrittorePng file(percorso, misure, static_cast<int>(std::lround(100 * scala)));
+    ScrittorePng file(percorso, misure, static_cast<int>(std::lround(100 * scala)), disco);
     for (int prima = 0; prima < misure.height(); prima += righe) {
         fascia.fill(Qt::white);
         QPainter painter(&fascia);

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <string>
 
+#include "base/disk.hpp"
 #include "plot/geometry.hpp"
 
 // The stored drawing as a picture file. Each file is written whole or not at all, and none is held
@@ -19,16 +20,18 @@ inline constexpr plot::Foglio foglioPredefinito{21.0, 29.7};  ///< of PDF files:
 /// One page with the drawing at true size, the drawing in its middle.
 /// @param foglio  the page [cm]; larger where the drawing is
 /// @throws base::ErroreFile with the system's reason
-void scriviPdf(const std::string& percorso, const plot::Foglio& foglio = foglioPredefinito);
+void scriviPdf(const std::string& percorso, const plot::Foglio& foglio = foglioPredefinito,
+               const base::Disco& disco = base::discoDiSistema());
 
 /// @throws base::ErroreFile with the system's reason
-void scriviSvg(const std::string& percorso);
+void scriviSvg(const std::string& percorso, const base::Disco& disco = base::discoDiSistema());
 
 /// On white ground, painted and written in strips: a sheet at the finest resolution takes half a
 /// gigabyte.
 /// @param dpi         resolution, within the limits above
 /// @param byteFascia  memory of a strip, which has at least one row
 /// @throws base::ErroreFile with the system's reason
-void scriviPng(const std::string& percorso, int dpi, std::size_t byteFascia = std::size_t{1} << 25);
+void scriviPng(const std::string& percorso, int dpi, std::size_t byteFascia = std::size_t{1} << 25,
+               const base::Disco& disco = base::discoDiSistema());
 
 }  // namespace korven::device

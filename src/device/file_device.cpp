@@ -4,7 +4,8 @@
 
 namespace korven::device {
 
-DispositivoFile::DispositivoFile(const std::string& percorso) : file_(percorso) {
+DispositivoFile::DispositivoFile(const std::string& percorso, const base::Disco& disco)
+    : file_(percorso, disco) {
     open(QIODevice::WriteOnly);
 }
 

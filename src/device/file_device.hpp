@@ -13,7 +13,8 @@ namespace korven::device {
 class DispositivoFile : public QIODevice {
  public:
     /// @throws base::ErroreFile with the system's reason
-    explicit DispositivoFile(const std::string& percorso);
+    explicit DispositivoFile(const std::string& percorso,
+                             const base::Disco& disco = base::discoDiSistema());
 
     /// Gives the file its name.
     /// @throws base::ErroreFile with the reason of the first failure

@@ -18,8 +18,9 @@ void nienteDaScaricare(png_structp) {}
 
 }  // namespace
 
-ScrittorePng::ScrittorePng(const std::string& percorso, QSize misure, int pixelPerMetro)
-    : file_(percorso),
+ScrittorePng::ScrittorePng(const std::string& percorso, QSize misure, int pixelPerMetro,
+                           const base::Disco& disco)
+    : file_(percorso, disco),
       png_(png_create_write_struct(PNG_LIBPNG_VER_STRING, nullptr, nullptr, nullptr)) {
     info_ = png_ ? png_create_info_struct(png_) : nullptr;
     if (!info_) {

@@ -16,7 +16,8 @@ class ScrittorePng {
     /// @param misure          width and height [pixels]
     /// @param pixelPerMetro   resolution
     /// @throws base::ErroreFile with the system's reason
-    ScrittorePng(const std::string& percorso, QSize misure, int pixelPerMetro);
+    ScrittorePng(const std::string& percorso, QSize misure, int pixelPerMetro,
+                 const base::Disco& disco = base::discoDiSistema());
     ScrittorePng(const ScrittorePng&) = delete;
     ScrittorePng& operator=(const ScrittorePng&) = delete;
     ~ScrittorePng();

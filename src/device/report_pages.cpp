@@ -139,16 +139,17 @@ struct FilePdf {
 
 class SuPdf : private FilePdf, public PagineRelazione {
  public:
-    SuPdf(const std::string& percorso, const QPageLayout& pagina, const QString& titolo)
-        : FilePdf(pagina, titolo), PagineRelazione(scrittore), percorso_(percorso) {}
+    SuPdf(const std::string& percorso, const QPageLayout& pagina, const QString& titolo,
+          const base::Disco& disco)
+        : FilePdf(pagina, titolo), PagineRelazione(scrittore), percorso_(percorso), disco_(disco) {}
 
     void endJob() override {
         pittore().end();
         byte.close();
         const QByteArray& tutti = byte.data();
         try {
-            base::scriviFile(percorso_,
-                             {tutti.constData(), static_cast<std::size_t>(tutti.size())});
+            base::scriviFile(percorso_, {tutti.constData(), static_cast<std::size_t>(tutti.size())},
+                             disco_);
         } catch (const base::ErroreFile& errore) {
             throw markup::PrinterError(errore.percorso(), errore.riga(), errore.atteso());
         }
@@ -164,6 +165,7 @@ class SuPdf : private FilePdf, public PagineRelazione {
     }
 
     std::string percorso_;
+    const base::Disco& disco_;
 };
 
 }  // namespace
@@ -191,14 +193,16 @@ std::unique_ptr<markup::ReportPrinter> relazioneSuStampante(const std::string& n
 
 std::unique_ptr<markup::ReportPrinter> relazioneSuPdf(const std::string& percorso,
                                                       const QPageLayout& pagina,
-                                                      const QString& titolo) {
-    return std::make_unique<SuPdf>(percorso, pagina, titolo);
+                                                      const QString& titolo,
+                                                      const base::Disco& disco) {
+    return std::make_unique<SuPdf>(percorso, pagina, titolo, disco);
 }
 
 std::unique_ptr<markup::ReportPrinter> relazioneSuPdf(const std::string& percorso,
-                                                      const std::string& titolo) {
+                                                      const std::string& titolo,
+                                                      const base::Disco& disco) {
     const QPageLayout a4(QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF());
-    return relazioneSuPdf(percorso, a4, qt(titolo));
+    return relazioneSuPdf(percorso, a4, qt(titolo), disco);
 }
 
 }  // namespace korven::device

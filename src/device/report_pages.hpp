@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 
+#include "base/disk.hpp"
 #include "markup/report_printer.hpp"
 
 class QPrinter;
@@ -35,12 +36,13 @@ void controllaStampante(const std::string& nome);
 /// the first.
 /// @param pagina  whose sheet and orientation are taken, not its margins
 /// @param titolo  name of the document
-[[nodiscard]] std::unique_ptr<markup::ReportPrinter> relazioneSuPdf(const std::string& percorso,
-                                                                    const QPageLayout& pagina,
-                                                                    const QString& titolo);
+[[nodiscard]] std::unique_ptr<markup::ReportPrinter> relazioneSuPdf(
+    const std::string& percorso, const QPageLayout& pagina, const QString& titolo,
+    const base::Disco& disco = base::discoDiSistema());
 
 /// The same on upright A4 paper.
-[[nodiscard]] std::unique_ptr<markup::ReportPrinter> relazioneSuPdf(const std::string& percorso,
-                                                                    const std::string& titolo);
+[[nodiscard]] std::unique_ptr<markup::ReportPrinter> relazioneSuPdf(
+    const std::string& percorso, const std::string& titolo,
+    const base::Disco& disco = base::discoDiSistema());
 
 }  // namespace korven::device

@@ -56,8 +56,8 @@ std::string attributo(std::string_view nome, std::string_view valore) {
 }  // namespace
 
 ScrittoreSvg::ScrittoreSvg(const std::string& percorso, const plot::Riquadro& vista,
-                           double pennaMinima)
-    : file_(percorso), vista_(vista), pennaMinima_(pennaMinima) {
+                           double pennaMinima, const base::Disco& disco)
+    : file_(percorso, disco), vista_(vista), pennaMinima_(pennaMinima) {
     inizio();
 }
 

@@ -17,7 +17,8 @@ class ScrittoreSvg {
     /// @param vista        the part of the sheet that is shown [cm]
     /// @param pennaMinima  thinnest line [cm]
     /// @throws base::ErroreFile with the system's reason
-    ScrittoreSvg(const std::string& percorso, const plot::Riquadro& vista, double pennaMinima);
+    ScrittoreSvg(const std::string& percorso, const plot::Riquadro& vista, double pennaMinima,
+                 const base::Disco& disco = base::discoDiSistema());
 
     /// @throws base::ErroreFile with the system's reason, or when a spill file can't be read
     /// @throws plot::DisegnoInterrotto when `plot::statoPlot.sorveglia` wants the end

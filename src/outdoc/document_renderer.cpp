@@ -183,7 +183,7 @@ std::string DocumentRenderer::footerLines(std::string_view text) const {
     return paragraph(line);
 }
 
-Converted convertReport(const std::string& markup) {
+Converted convertReport(const std::string& markup, const base::Disco& disk) {
     const std::string path = base::nomeDocumento(markup);
     auto file = base::LettoreRighe::apri(markup);
     if (base::stessoFile(path, markup))
@@ -195,8 +195,8 @@ Converted convertReport(const std::string& markup) {
     if (!bytes)
         throw base::ErroreFile(markup, 0,
                                base::traduttore("la relazione non apre nessun documento (#RESET)"));
-    std::string kept = keepEarlierDocument(path);
-    base::scriviFile(path, *bytes);
+    std::string kept = keepEarlierDocument(path, disk);
+    base::scriviFile(path, *bytes, disk);
     return {path, std::move(kept)};
 }
 

@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "base/disk.hpp"
 #include "base/text_lines.hpp"
 #include "markup/cells.hpp"
 #include "markup/reader.hpp"
@@ -71,6 +72,7 @@ struct Converted {
 /// this program did not write, or somebody changed since, is kept first (earlier_document.hpp).
 /// @throws base::ErroreFile if one can't be read or the other not be written, if a table is beyond
 /// its capacity, if the mark-up opens no document, or if the file would take its place
-Converted convertReport(const std::string& markup);
+Converted convertReport(const std::string& markup,
+                        const base::Disco& disk = base::discoDiSistema());
 
 }  // namespace korven::outdoc

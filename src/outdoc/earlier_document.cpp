@@ -47,14 +47,14 @@ bool isOwnWork(std::string_view bytes) {
     return marked->content.find(mark) != std::string::npos;
 }
 
-std::string keepEarlierDocument(const std::string& path) {
+std::string keepEarlierDocument(const std::string& path, const base::Disco& disk) {
     if (!base::esisteFile(path)) return {};
     const std::string bytes = base::leggiFile(path);
     if (isOwnWork(bytes)) return {};
     bool there = false;
     std::string name = nameOfCopy(path, bytes, there);
     if (there) return {};
-    base::scriviFileNuovo(name, bytes);
+    base::scriviFileNuovo(name, bytes, disk);
     std::error_code error;  // the copy is no less private than the document, where that can be had
     std::filesystem::permissions(name, std::filesystem::status(path, error).permissions(), error);
     return name;

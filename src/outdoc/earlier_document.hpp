@@ -3,6 +3,8 @@
 #include <string>
 #include <string_view>
 
+#include "base/disk.hpp"
+
 namespace korven::outdoc {
 
 /// The part of a document that holds the mark: the last one, stored without compression.
@@ -22,6 +24,7 @@ inline constexpr const char* markedPart = "docProps/core.xml";
 /// that name is taken by something else.
 /// @return the name of the copy; empty if none was needed, also when one of the same bytes is there
 /// @throws base::ErroreFile if the document can't be read or the copy not be written
-std::string keepEarlierDocument(const std::string& path);
+std::string keepEarlierDocument(const std::string& path,
+                                const base::Disco& disk = base::discoDiSistema());
 
 }  // namespace korven::outdoc

@@ -30,7 +30,7 @@ void ArchivioDisegno::svuota() {
 
 void ArchivioDisegno::scarica() {
     try {
-        scriviScarico(nFile_ + 1, linee_);
+        scriviScarico(nFile_ + 1, linee_, *disco_);
     } catch (...) {
         svuota();
         throw;

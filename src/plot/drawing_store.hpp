@@ -3,6 +3,7 @@
 #include <functional>
 #include <vector>
 
+#include "base/disk.hpp"
 #include "plot/strokes.hpp"
 
 namespace korven::plot {
@@ -16,6 +17,10 @@ inline constexpr int massimoPoligoni = 64000;
 /// leave memory.
 class ArchivioDisegno {
  public:
+    ArchivioDisegno() : ArchivioDisegno(base::discoDiSistema()) {}
+    /// @param disco  takes the spill files; not owned
+    explicit ArchivioDisegno(const base::Disco& disco) : disco_(&disco) {}
+
     /// Forgets the drawing. Its spill files stay where they are, the next drawing writes over them.
     void svuota();
 
@@ -48,6 +53,7 @@ class ArchivioDisegno {
  private:
     void scarica();
 
+    const base::Disco* disco_;
     std::vector<Segmento> linee_;
     std::vector<TestoPlot> testi_;
     std::vector<PoligonoPlot> poligoni_;

@@ -33,7 +33,8 @@ FileDiUnita::Preso FileDiUnita::prendi(std::string_view windir, int daNumero) {
     return preso;
 }
 
-void FileDiUnita::scrivi(std::string_view windir, int numero, std::string_view testo) {
+void FileDiUnita::scrivi(std::string_view windir, int numero, std::string_view testo,
+                         const base::Disco& disco) {
     Unita& presi = unita_[cartella(windir)];
     const auto indice = static_cast<std::size_t>(numero - 1);
     // A file that somebody removed meanwhile is made anew, and so are those after it: the numbers
@@ -43,7 +44,7 @@ void FileDiUnita::scrivi(std::string_view windir, int numero, std::string_view t
                 presi.end());
     while (presi.size() <= indice)
         presi.push_back(prendi(windir, presi.empty() ? 1 : presi.back().numero + 1));
-    presi[indice].file.riscrivi(testo);
+    presi[indice].file.riscrivi(testo, disco);
 }
 
 }  // namespace korven::plot

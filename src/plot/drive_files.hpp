@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/disk.hpp"
 #include "base/file_custody.hpp"
 
 namespace korven::plot {
@@ -22,7 +23,8 @@ class FileDiUnita {
     /// Writes spill file `numero` under the first free number after that of the file before;
     /// written again it keeps its number. A link is never followed: its number is not free.
     /// @throws base::ErroreScrittura with the system's reason; nothing of the file is left then
-    void scrivi(std::string_view windir, int numero, std::string_view testo);
+    void scrivi(std::string_view windir, int numero, std::string_view testo,
+                const base::Disco& disco = base::discoDiSistema());
 
  private:
     struct Preso {

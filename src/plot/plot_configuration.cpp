@@ -87,8 +87,9 @@ std::string testoConfigurazione(const ConfigurazionePlot& configurazione) {
     return testo;
 }
 
-void scriviConfigurazione(const std::string& percorso, const ConfigurazionePlot& configurazione) {
-    base::scriviFile(percorso, testoConfigurazione(configurazione));
+void scriviConfigurazione(const std::string& percorso, const ConfigurazionePlot& configurazione,
+                          const base::Disco& disco) {
+    base::scriviFile(percorso, testoConfigurazione(configurazione), disco);
 }
 
 TabellaPenne pennePlot(const ConfigurazionePlot& configurazione) {

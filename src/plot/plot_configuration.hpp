@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "base/disk.hpp"
 #include "base/table.hpp"
 #include "base/text_lines.hpp"
 #include "plot/colour.hpp"
@@ -60,7 +61,8 @@ struct ConfigurazionePlot {
 
 /// Writes the file anew, all of it or nothing.
 /// @throws ErroreFile with the system's reason
-void scriviConfigurazione(const std::string& percorso, const ConfigurazionePlot& configurazione);
+void scriviConfigurazione(const std::string& percorso, const ConfigurazionePlot& configurazione,
+                          const base::Disco& disco = base::discoDiSistema());
 
 /// The pens as the plot engine works with them: widths in centimetres, each colour index replaced
 /// by the value of its colour. Index 0 has no colour and yields 0.

@@ -76,8 +76,9 @@ std::string testoImpostazioni(const ImpostazioniStampa& impostazioni) {
     return testo.append(base::formattaNumero(impostazioni.offsetSuperiore)).append("\r\n");
 }
 
-void salvaImpostazioni(const std::string& percorso, const ImpostazioniStampa& impostazioni) {
-    base::scriviFile(percorso, testoImpostazioni(impostazioni));
+void salvaImpostazioni(const std::string& percorso, const ImpostazioniStampa& impostazioni,
+                       const base::Disco& disco) {
+    base::scriviFile(percorso, testoImpostazioni(impostazioni), disco);
     statoPlot.penna.carattere = impostazioni.carattere;
 }
 

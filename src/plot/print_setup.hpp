@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "base/disk.hpp"
+
 // The page layout for text printing, kept in the file printer.cfg of the program folder.
 
 namespace korven::plot {
@@ -32,7 +34,8 @@ struct ImpostazioniStampa {
 
 /// Writes the file anew, all of it or nothing, and makes its font the one of the pen in use.
 /// @throws ErroreFile with the system's reason
-void salvaImpostazioni(const std::string& percorso, const ImpostazioniStampa& impostazioni);
+void salvaImpostazioni(const std::string& percorso, const ImpostazioniStampa& impostazioni,
+                       const base::Disco& disco = base::discoDiSistema());
 
 /// The values as texts for fields, in the order of the file.
 using CampiStampa = std::array<std::string, 9>;

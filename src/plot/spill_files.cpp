@@ -124,15 +124,16 @@ std::string testoScarico(std::span<const Segmento> linee) {
     return testo;
 }
 
-void scriviScarico(const std::string& percorso, std::span<const Segmento> linee) {
-    base::scriviFile(percorso, testoScarico(linee));
+void scriviScarico(const std::string& percorso, std::span<const Segmento> linee,
+                   const base::Disco& disco) {
+    base::scriviFile(percorso, testoScarico(linee), disco);
 }
 
-void scriviScarico(int numero, std::span<const Segmento> linee) {
+void scriviScarico(int numero, std::span<const Segmento> linee, const base::Disco& disco) {
     if (const std::string windir = unita(); !windir.empty())
-        fileDiUnita().scrivi(windir, numero, testoScarico(linee));
+        fileDiUnita().scrivi(windir, numero, testoScarico(linee), disco);
     else
-        scriviScarico(percorsoFileScarico(numero), linee);
+        scriviScarico(percorsoFileScarico(numero), linee, disco);
 }
 
 std::vector<Segmento> leggiScarico(const std::string& percorso) {

@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/disk.hpp"
 #include "plot/strokes.hpp"
 
 // Text files that take the lines of a drawing that memory has no rows for: the count of records,
@@ -29,12 +30,14 @@ namespace korven::plot {
 
 /// Writes a spill file, all of it or nothing, over one that an earlier drawing left.
 /// @throws ErroreFile with the system's reason
-void scriviScarico(const std::string& percorso, std::span<const Segmento> linee);
+void scriviScarico(const std::string& percorso, std::span<const Segmento> linee,
+                   const base::Disco& disco = base::discoDiSistema());
 
 /// Writes spill file `numero` of this process: on the drive under the first number that is free
 /// (drive_files.hpp), else in the temporary folder.
 /// @throws ErroreFile with the system's reason
-void scriviScarico(int numero, std::span<const Segmento> linee);
+void scriviScarico(int numero, std::span<const Segmento> linee,
+                   const base::Disco& disco = base::discoDiSistema());
 
 /// Reads a spill file.
 /// @throws ErroreFile when it is missing, cut short or holds what is no number

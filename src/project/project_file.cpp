@@ -117,7 +117,9 @@ std::string testoProgetto(const DatiProgetto& dati) {
     return scrittura.testo;
 }
 
-void scriviProgetto() { base::scriviFile(fileCorrente, base::inCp1252(testoProgetto(Progetto))); }
+void scriviProgetto(const base::Disco& disco) {
+    base::scriviFile(fileCorrente, base::inCp1252(testoProgetto(Progetto)), disco);
+}
 
 bool progettoDiverso(base::LettoreRighe& file, const DatiProgetto& dati) {
     Confronto confronto(file);

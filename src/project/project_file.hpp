@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "base/disk.hpp"
 #include "base/text_lines.hpp"
 #include "project/project_data.hpp"
 
@@ -26,7 +27,7 @@ void leggiProgetto();
 /// Writes `Progetto` under the name in `fileCorrente`, all blocks, replacing what stood there.
 /// `modificato` stays as it is.
 /// @throws base::ErroreFile if it can't be written; the old file is then untouched
-void scriviProgetto();
+void scriviProgetto(const base::Disco& disco = base::discoDiSistema());
 
 /// The text of a whole project file, UTF-8, lines ended by CR LF. A line feed inside a text becomes
 /// a blank, since a text has one line. In the file a character that Windows-1252 lacks is a '?'; a

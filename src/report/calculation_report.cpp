@@ -35,12 +35,12 @@ std::string testoRelazione(const results::DatiRelazione& dati, const std::string
     return righe.testo();
 }
 
-std::string scriviRelazione() {
+std::string scriviRelazione(const base::Disco& disco) {
     std::string percorso = base::nomeRelazione(project::fileCorrente);
     project::controllaUscita(percorso, project::fileCorrente);
     const results::DatiRelazione dati =
         results::leggiRisultati(project::fileCorrente, project::Progetto);
-    base::scriviFile(percorso, base::inCp1252(testoRelazione(dati, nomeProgetto())));
+    base::scriviFile(percorso, base::inCp1252(testoRelazione(dati, nomeProgetto())), disco);
     return percorso;
 }
 

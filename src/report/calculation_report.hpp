@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "base/disk.hpp"
 #include "results/report_data.hpp"
 
 namespace korven::report {
@@ -20,6 +21,6 @@ namespace korven::report {
 /// @return the path of the mark-up file
 /// @throws base::ErroreFile if the results can't be read or the report can't be written, or if its
 ///         name leads to the project or to the result file itself; nothing is written then
-std::string scriviRelazione();
+std::string scriviRelazione(const base::Disco& disco = base::discoDiSistema());
 
 }  // namespace korven::report

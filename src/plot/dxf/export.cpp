@@ -19,9 +19,9 @@ constexpr std::string_view stilePredefinito = "MONOTXT";
 
 // The file only makes the style easy to change. An installed program, whose folder nobody may
 // write, draws with the default all the same.
-std::string stilePredefinitoScritto(const std::string& percorso) {
+std::string stilePredefinitoScritto(const std::string& percorso, const base::Disco& disco) {
     try {
-        base::scriviFile(percorso, std::string(stilePredefinito).append("\r\n"));
+        base::scriviFile(percorso, std::string(stilePredefinito).append("\r\n"), disco);
     } catch (const base::ErroreFile&) {
     }
     return std::string(stilePredefinito);
@@ -35,12 +35,12 @@ std::string nomeDxf(std::string_view progetto) {
     return std::string(progetto.substr(0, progetto.rfind('.'))).append(".DXF");
 }
 
-std::string leggiStileTesti() {
+std::string leggiStileTesti(const base::Disco& disco) {
     const std::string percorso = base::fileProgramma("dxf.cfg");
-    if (!base::esisteFile(percorso)) return stilePredefinitoScritto(percorso);
+    if (!base::esisteFile(percorso)) return stilePredefinitoScritto(percorso, disco);
     auto file = base::LettoreRighe::apri(percorso,
                                          base::traduttore("cancellare il file per usare MONOTXT"));
-    if (file.fine()) return stilePredefinitoScritto(percorso);
+    if (file.fine()) return stilePredefinitoScritto(percorso, disco);
     const std::string riga = file.riga(base::traduttore("nome dello stile dei testi"));
     const std::string_view nome = base::senzaSpaziEsterni(riga);
     return std::string(nome.empty() ? stilePredefinito : nome);
@@ -76,9 +76,9 @@ std::string testoDxf(std::string_view stile) {
     return testo;
 }
 
-void plotDxf(const std::string& percorso) {
-    if (statoPlot.stileTesti.empty()) statoPlot.stileTesti = leggiStileTesti();
-    base::ScrittoreFile file(percorso);
+void plotDxf(const std::string& percorso, const base::Disco& disco) {
+    if (statoPlot.stileTesti.empty()) statoPlot.stileTesti = leggiStileTesti(disco);
+    base::ScrittoreFile file(percorso, disco);
     scriviDxf(statoPlot.stileTesti,
               [&file](const std::string& parte) { file.scrivi(base::inCp1252(parte)); });
     file.concludi();
