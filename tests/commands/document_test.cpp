@@ -6,6 +6,7 @@
 #include "base/file_error.hpp"
 #include "project/project_file.hpp"
 #include "support/document_ports.hpp"
+#include "support/failing_disk.hpp"
 #include "support/sample_projects.hpp"
 
 namespace korven::commands {
@@ -291,6 +292,23 @@ TEST_F(FileSalva, TellsOfAFileThatCantBeWrittenAndAsksForAnotherName) {
     EXPECT_EQ(dialogo.messaggi[0].icona, base::Icona::stop);
     EXPECT_NE(dialogo.messaggi[0].testo.find("impossibile scrivere il file"), std::string::npos);
     EXPECT_EQ(fileCorrente, ambiente.lavori / "copia.kvd");
+}
+
+TEST_F(FileSalva, TellsOfAFullDiskAndKeepsFileAndChanges) {
+    const std::string muro = apriMuro();
+    Progetto.titoli[1] = "cambiato";
+    modificato = true;
+    const test::DiscoPieno disco(100);
+    Documento pieno(dialogo, nomi, finestra, disco);
+    dialogo.risposte = {Risposta::si, Risposta::si};
+    nomi.salvati = {muro};
+    EXPECT_FALSE(pieno.fileSalva()) << "called off when the name is asked for again";
+    ASSERT_EQ(dialogo.messaggi.size(), 1u);
+    EXPECT_EQ(dialogo.messaggi[0].testo,
+              muro + ": impossibile scrivere il file (" + test::nonCeSpazio + ")");
+    EXPECT_EQ(contenuto(muro), testoSemplice());
+    EXPECT_TRUE(modificato);
+    EXPECT_EQ(fileCorrente, muro);
 }
 
 TEST_F(FileSalva, GoesBackToItsFolderWhenTheFileCantBeWritten) {

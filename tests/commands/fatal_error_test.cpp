@@ -10,6 +10,7 @@
 #include "base/table.hpp"
 #include "project/project_file.hpp"
 #include "support/document_ports.hpp"
+#include "support/failing_disk.hpp"
 #include "support/sample_projects.hpp"
 
 namespace korven::commands {
@@ -79,6 +80,13 @@ TEST_F(Recupero, MakesTheFolderOfTheUsersDataWhenThereIsNone) {
         setenv("XDG_DATA_HOME", valore.c_str(), 1);
     else
         unsetenv("XDG_DATA_HOME");
+}
+
+TEST_F(Recupero, LeavesNoHalfFileWhereNoDiskHasRoom) {
+    const test::DiscoPieno disco(100);
+    EXPECT_EQ(recuperaProgetto(disco), "");
+    EXPECT_EQ(recuperaRighe("1\t2\r\n", disco), "");
+    EXPECT_TRUE(std::filesystem::is_empty(ambiente.lavori.percorso()));
 }
 
 TEST_F(Recupero, IsToldWithTheErrorThatEndsTheProgram) {

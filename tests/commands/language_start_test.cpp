@@ -5,6 +5,7 @@
 #include "base/file_error.hpp"
 #include "commands/example_folders.hpp"
 #include "support/document_ports.hpp"
+#include "support/failing_disk.hpp"
 
 namespace korven::commands {
 namespace {
@@ -30,13 +31,15 @@ class Lingua : public ::testing::Test {
                                      offerte = codici;
                                      return scelta;
                                  },
-                             .radice = radice.percorso()});
+                             .radice = radice.percorso(),
+                             .disco = disco});
     }
     std::string nelProgramma(const char* nome) { return ambiente.programma / nome; }
 
     test::AmbienteDocumento ambiente;
     test::CartellaProvvisoria radice;
     test::DialogoFinto dialogo;
+    test::DiscoGuasto disco;
     int domande = 0;
     std::vector<int> offerte;
 };
@@ -119,6 +122,26 @@ TEST_F(Lingua, LeavesAUsedProgramFolderAsItIs) {
     EXPECT_TRUE(parti(1));
     EXPECT_TRUE(std::filesystem::exists(nelProgramma("esem1.kvd")));
     EXPECT_EQ(contenuto(nelProgramma("path")), "/lavori\r\n");
+}
+
+TEST_F(Lingua, ThatCannotBeWrittenDownEndsTheProgram) {
+    disco.spazio = 0;
+    EXPECT_THROW(parti(2), base::ErroreScrittura);
+    EXPECT_FALSE(std::filesystem::exists(nelProgramma("language.cfg")));
+}
+
+TEST_F(Lingua, LosesNoExampleThatFindsNoRoomInItsFolder) {
+    test::metti(nelProgramma("esem1.kvd"), "esempio");
+    disco.spazio = 5;  // language.cfg fits
+    EXPECT_THROW(parti(1), base::ErroreScrittura);
+    EXPECT_EQ(contenuto(nelProgramma("esem1.kvd")), "esempio");
+    EXPECT_FALSE(std::filesystem::exists(nelProgramma("data/ita/esem1.kvd")));
+}
+
+TEST_F(Lingua, NeedsNoNoteOfTheLastFolder) {
+    disco.spazio = 3;
+    EXPECT_TRUE(parti(1));
+    EXPECT_FALSE(std::filesystem::exists(nelProgramma("path")));
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include "base/code_page.hpp"
 #include "base/file_error.hpp"
 #include "project/output_guard.hpp"
+#include "support/failing_disk.hpp"
 #include "support/hand_written_results.hpp"
 #include "support/run_harness.hpp"
 #include "support/sample_projects.hpp"
@@ -238,6 +239,15 @@ TEST(ScriviTesto, ReplacesAnEarlierText) {
     test::metti(cartella / "muro.TAB", "#RESET\r\nx\r\n");
     scriviTesto(cartella / "muro.TAB");
     EXPECT_EQ(test::contenuto(cartella / "muro.txt"), "\r\nx\r\n");
+}
+
+TEST(ScriviTesto, LeavesAnEarlierTextAloneOnAFullDisk) {
+    CartellaProvvisoria cartella;
+    test::metti(cartella / "muro.txt", "vecchio testo");
+    test::metti(cartella / "muro.TAB", "#RESET\r\nx\r\n");
+    const test::DiscoPieno disco(2);
+    EXPECT_THROW(scriviTesto(cartella / "muro.TAB", disco), base::ErroreScrittura);
+    EXPECT_EQ(test::contenuto(cartella / "muro.txt"), "vecchio testo");
 }
 
 TEST(ScriviTesto, NeedsTheMarkUp) {

@@ -10,6 +10,7 @@
 #include "base/program_folder.hpp"
 #include "project/output_guard.hpp"
 #include "support/dialog_record.hpp"
+#include "support/failing_disk.hpp"
 #include "support/started_programs.hpp"
 #include "support/temporary_folder.hpp"
 
@@ -188,6 +189,18 @@ TEST_F(ReportExport, TellsOfATargetThatCantBeWrittenAndGoesOn) {
     exportTxt();
     ASSERT_EQ(dialog.messaggi.size(), 1u);
     EXPECT_NE(dialog.messaggi[0].testo.find("altro.txt"), std::string::npos);
+    EXPECT_TRUE(programs.chiamate.empty());
+}
+
+TEST_F(ReportExport, TellsOfAFullDiskAndLeavesTheTextOfBefore) {
+    test::metti(txt, "old");
+    dialog.risposta = base::Risposta::si;
+    const test::DiscoPieno disk(3);
+    esportaTxt(report, {dialog, programs, {}, {}, disk});
+    ASSERT_EQ(dialog.messaggi.size(), 1u);
+    EXPECT_EQ(dialog.messaggi[0].testo,
+              txt + ": impossibile scrivere il file (" + test::nonCeSpazio + ")");
+    EXPECT_EQ(test::contenuto(txt), "old");
     EXPECT_TRUE(programs.chiamate.empty());
 }
 

@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include "base/file_error.hpp"
 #include "support/document_ports.hpp"
+#include "support/failing_disk.hpp"
 
 namespace korven::commands {
 namespace {
@@ -46,6 +48,14 @@ TEST_F(CartellaUtente, KeepsWhatTheUserChangedAndFollowsTheProgramInItsTexts) {
     copiaDati(installata.percorso(), utente());
     EXPECT_EQ(contenuto(nellUtente("module06ita.CFG")), "penne mie");
     EXPECT_EQ(contenuto(nellUtente("texts06.txt")), "testi 2");
+}
+
+TEST_F(CartellaUtente, KeepsItsOldFilesOnAFullDisk) {
+    copiaDati(installata.percorso(), utente());
+    metti("texts06.txt", "testi 2");
+    const test::DiscoPieno disco(3);
+    EXPECT_THROW(copiaDati(installata.percorso(), utente(), disco), base::ErroreScrittura);
+    EXPECT_EQ(contenuto(nellUtente("texts06.txt")), "testi 1");
 }
 
 TEST_F(CartellaUtente, GivesWayToAFolderThatWasNamed) {

@@ -10,6 +10,7 @@
 #include <QXmlStreamReader>
 #include <cmath>
 #include <filesystem>
+#include <functional>
 #include <optional>
 
 #include "base/code_page.hpp"
@@ -21,6 +22,7 @@
 #include "plot/dxf/export.hpp"
 #include "plot/plot_engine.hpp"
 #include "support/drawing_by_pen.hpp"
+#include "support/failing_disk.hpp"
 #include "support/ink.hpp"
 
 namespace korven::device {
@@ -167,6 +169,27 @@ TEST_F(File, ThatCannotBeWrittenAreAnError) {
     EXPECT_THROW(scriviPdf(cartella / "manca/disegno"), base::ErroreFile);
     EXPECT_THROW(scriviSvg(cartella / "manca/disegno"), base::ErroreFile);
     EXPECT_THROW(scriviPng(cartella / "manca/disegno", 100), base::ErroreFile);
+}
+
+TEST_F(File, OnAFullDiskTellWhyAndLeaveTheFileOfBefore) {
+    apri();
+    plotMuovi(0, 0, fineDisegno);
+    const std::string nome = cartella / "disegno";
+    using Scrittura = std::function<void(const base::Disco&)>;
+    const Scrittura scritture[] = {
+        [&](const base::Disco& d) { scriviPdf(nome, foglioPredefinito, d); },
+        [&](const base::Disco& d) { scriviSvg(nome, d); },
+        [&](const base::Disco& d) { scriviPng(nome, 100, 1000, d); }};
+    test::metti(nome, "prima");
+    for (const auto& scrivi : scritture) {
+        try {
+            scrivi(test::DiscoPieno(60));
+            ADD_FAILURE();
+        } catch (const base::ErroreScrittura& errore) {
+            EXPECT_NE(errore.atteso().find(test::nonCeSpazio), std::string::npos);
+        }
+        EXPECT_EQ(test::contenuto(nome), "prima");
+    }
 }
 
 // How far a text reaches that is painted at height 1 [cm].

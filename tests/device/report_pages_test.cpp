@@ -11,7 +11,7 @@
 #include "device/graphics_session.hpp"
 #include "device/report_fonts.hpp"
 #include "markup/print_renderer.hpp"
-#include "support/file_limit.hpp"
+#include "support/failing_disk.hpp"
 #include "support/page_record.hpp"
 #include "support/pdf_pages.hpp"
 #include "support/temporary_folder.hpp"
@@ -115,13 +115,28 @@ TEST_F(PagineRelazioneTest, TellOfAPrinterThatIsNotThereOrTakesNoPage) {
     EXPECT_THROW(stampa(*relazioneSuStampante(stampante, ""), relazione), markup::PrinterError);
 }
 
-TEST_F(PagineRelazioneTest, TellOfAFileThatIsCutShort) {
+// What a disk leaves that was full: Qt itself says nothing of it.
+TEST_F(PagineRelazioneTest, TellOfAFileThatThePrinterLeftCutShort) {
     QPrinter stampante(QPrinter::HighResolution);
     stampante.setOutputFormat(QPrinter::PdfFormat);
     stampante.setOutputFileName(QString::fromStdString(pdf));
-    const test::LimiteFile limite(1000);
-    EXPECT_THROW(stampa(*relazioneSuStampante(stampante, ""), relazione), markup::PrinterError);
-    EXPECT_THROW(stampa(*suPdf(), relazione), markup::PrinterError);
+    const auto carta = relazioneSuStampante(stampante, "");
+    carta->startPage();
+    std::filesystem::remove(pdf);
+    test::metti(pdf, "%PDF-1.4\n1 0 obj\nstart");
+    EXPECT_THROW(carta->endJob(), markup::PrinterError);
+}
+
+TEST_F(PagineRelazioneTest, OnAFullDiskTellWhyAndLeaveTheFileOfBefore) {
+    test::metti(pdf, "prima");
+    const test::DiscoPieno disco(1000);
+    try {
+        stampa(*relazioneSuPdf(pdf, "Muro", disco), relazione);
+        FAIL();
+    } catch (const markup::PrinterError& errore) {
+        EXPECT_NE(errore.atteso().find(test::nonCeSpazio), std::string::npos);
+    }
+    EXPECT_EQ(test::contenuto(pdf), "prima");
 }
 
 TEST_F(PagineRelazioneTest, TellOfAPrinterThatTheSystemDoesNotKnow) {

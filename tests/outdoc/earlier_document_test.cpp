@@ -1,8 +1,6 @@
 #include "outdoc/earlier_document.hpp"
 
 #include <gtest/gtest.h>
-#include <signal.h>
-#include <sys/resource.h>
 
 #include <filesystem>
 #include <utility>
@@ -10,6 +8,7 @@
 #include "base/file_error.hpp"
 #include "outdoc/document_renderer.hpp"
 #include "outdoc/zip_archive.hpp"
+#include "support/failing_disk.hpp"
 #include "support/temporary_folder.hpp"
 
 namespace korven::outdoc {
@@ -110,18 +109,28 @@ TEST_F(EarlierDocument, GoesThroughNoLinkOfTheNameOfTheCopy) {
 }
 
 TEST_F(EarlierDocument, ThatCannotBeKeptIsNotReplaced) {
-    // A limit on the size of files fails the copy as a full disk does.
     const std::string large(20000, 'x');
     metti(document, large);
-    ::signal(SIGXFSZ, SIG_IGN);
-    rlimit before{};
-    ::getrlimit(RLIMIT_FSIZE, &before);
-    const rlimit narrow{15000, before.rlim_max};  // the new document would fit
-    ::setrlimit(RLIMIT_FSIZE, &narrow);
-    EXPECT_THROW((void)convert(), base::ErroreFile);
-    ::setrlimit(RLIMIT_FSIZE, &before);
+    const test::DiscoPieno disk(15000);  // the new document would fit
+    EXPECT_THROW((void)convertReport(folder / "muro.TAB", disk), base::ErroreFile);
     EXPECT_EQ(contenuto(document), large);
     EXPECT_FALSE(exists("muro.doc.bak"));
+}
+
+TEST_F(EarlierDocument, StaysWhenTheNewOneFindsNoRoom) {
+    EXPECT_EQ(convert(), "");
+    const std::string earlier = contenuto(document);
+    report("due");
+    const test::DiscoPieno disk(500);
+    try {
+        (void)convertReport(folder / "muro.TAB", disk);
+        FAIL();
+    } catch (const base::ErroreScrittura& error) {
+        EXPECT_EQ(error.percorso(), document);
+        EXPECT_NE(error.atteso().find(test::nonCeSpazio), std::string::npos);
+    }
+    EXPECT_EQ(contenuto(document), earlier);
+    EXPECT_EQ(std::distance(fs::directory_iterator(folder.percorso()), {}), 2) << "and the report";
 }
 
 TEST(IsOwnWork, IsNothingThatOnlyHoldsTheMark) {

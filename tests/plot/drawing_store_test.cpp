@@ -1,9 +1,7 @@
 #include "plot/drawing_store.hpp"
 
 #include <gtest/gtest.h>
-#include <signal.h>
 #include <stdlib.h>
-#include <sys/resource.h>
 
 #include <filesystem>
 #include <limits>
@@ -12,6 +10,7 @@
 #include "base/table.hpp"
 #include "base/value_error.hpp"
 #include "plot/spill_files.hpp"
+#include "support/failing_disk.hpp"
 #include "support/temporary_folder.hpp"
 
 namespace korven::plot {
@@ -135,25 +134,21 @@ TEST_F(ArchivioConUnita, FileThatCannotBeWrittenAtTheEndIsAnErrorToo) {
 }
 
 TEST_F(ArchivioConUnita, FullDiskIsAnErrorThatLeavesNeitherADrawingNorAPartOfAFile) {
-    // A limit on the size of files fails a write as a full disk does.
-    ArchivioDisegno archivio = conLinee(32000);
-    ::signal(SIGXFSZ, SIG_IGN);
-    rlimit prima{};
-    ::getrlimit(RLIMIT_FSIZE, &prima);
-    const rlimit stretto{5000, prima.rlim_max};
-    ::setrlimit(RLIMIT_FSIZE, &stretto);
+    const test::DiscoPieno disco(5000);
+    ArchivioDisegno archivio(disco);
+    for (int k = 1; k <= 32000; ++k) archivio.aggiungi(linea(k));
     std::string motivo;
     try {
         archivio.aggiungi(linea(32001));
     } catch (const base::ErroreFile& errore) {
         motivo = errore.what();
     }
-    ::setrlimit(RLIMIT_FSIZE, &prima);
     EXPECT_NE(motivo.find("plttmp1.tmp: impossibile scrivere il file"), std::string::npos)
         << motivo;
     EXPECT_TRUE(rende(archivio, 0));
     EXPECT_TRUE(fs::is_empty(fs::current_path()));
     // The store can be drawn into again once there is room.
+    disco.spazio = test::DiscoPieno::senzaFine;
     for (int k = 1; k <= 32001; ++k) archivio.aggiungi(linea(k));
     archivio.chiudi();
     EXPECT_TRUE(rende(archivio, 32001));

@@ -5,6 +5,7 @@
 #include <filesystem>
 
 #include "base/file_error.hpp"
+#include "support/failing_disk.hpp"
 #include "support/temporary_folder.hpp"
 
 namespace korven::plot {
@@ -49,6 +50,15 @@ TEST_F(FileDiUnitaTest, OfTwoProcessesHaveNumbersOfTheirOwn) {
         EXPECT_EQ(contenuto(nostri.percorso(windir, n)), "nostro " + std::to_string(n));
         EXPECT_EQ(contenuto(altrui.percorso(windir, n)), "altrui " + std::to_string(n));
     }
+}
+
+TEST_F(FileDiUnitaTest, LeaveNothingOnAFullDiskAndKeepTheirNumber) {
+    FileDiUnita file;
+    const test::DiscoPieno disco(2);
+    EXPECT_THROW(file.scrivi(windir, 1, "troppo", disco), base::ErroreScrittura);
+    EXPECT_TRUE(fs::is_empty(cartella.percorso()));
+    file.scrivi(windir, 1, "uno");
+    EXPECT_EQ(contenuto("C:\\plttmp1.tmp"), "uno");
 }
 
 TEST_F(FileDiUnitaTest, OfAProcessThatHasEndedAreWrittenOver) {

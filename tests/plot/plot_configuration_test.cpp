@@ -3,7 +3,9 @@
 #include <gtest/gtest.h>
 
 #include "base/file_error.hpp"
+#include "support/failing_disk.hpp"
 #include "support/plot_setup.hpp"
+#include "support/temporary_folder.hpp"
 
 namespace korven::plot {
 namespace {
@@ -107,6 +109,14 @@ TEST(ConfigurazionePlot, CutShortIsAnErrorThatNamesTheLine) {
     }
     for (int righe = 3; righe <= 152; ++righe)
         EXPECT_THROW((void)letta(senzaUltime(righe)), base::ErroreFile) << righe;
+}
+
+TEST(ConfigurazionePlot, StaysAsItWasOnAFullDisk) {
+    const test::CartellaProvvisoria cartella;
+    test::metti(cartella / "module06ita.cfg", "prima");
+    const test::DiscoPieno disco(100);
+    EXPECT_THROW(scriviConfigurazione(cartella / "module06ita.cfg", {}, disco), base::ErroreFile);
+    EXPECT_EQ(test::contenuto(cartella / "module06ita.cfg"), "prima");
 }
 
 TEST(ConfigurazionePlot, MissingFileIsAnError) {

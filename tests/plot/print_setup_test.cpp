@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "base/file_error.hpp"
+#include "support/failing_disk.hpp"
 #include "support/plot_setup.hpp"
 
 namespace korven::plot {
@@ -61,6 +62,15 @@ TEST_F(Impostazioni, KeepTheirTextsWhole) {
 TEST_F(Impostazioni, GiveTheirFontToThePenInUse) {
     salvaImpostazioni(programma / "printer.cfg", complete);
     EXPECT_EQ(statoPlot.penna.carattere, "Liberation Mono");
+}
+
+TEST_F(Impostazioni, LeaveFileAndPenAsTheyWereOnAFullDisk) {
+    test::metti(programma / "printer.cfg", "prima");
+    statoPlot.penna.carattere = "Arial";
+    const test::DiscoPieno disco(10);
+    EXPECT_THROW(salvaImpostazioni(programma / "printer.cfg", complete, disco), base::ErroreFile);
+    EXPECT_EQ(test::contenuto(programma / "printer.cfg"), "prima");
+    EXPECT_EQ(statoPlot.penna.carattere, "Arial");
 }
 
 TEST_F(Impostazioni, SelectTheSavedFontElseCourierNewElseTheFirst) {

@@ -3,13 +3,13 @@
 #include <gtest/gtest.h>
 #include <signal.h>
 #include <stdlib.h>
-#include <sys/resource.h>
 
 #include <cstdlib>
 #include <filesystem>
 #include <optional>
 
 #include "base/file_error.hpp"
+#include "support/failing_disk.hpp"
 #include "support/temporary_folder.hpp"
 
 namespace korven::plot {
@@ -124,22 +124,16 @@ TEST(FileScarico, BrokenFileIsAnErrorThatNamesTheLine) {
 }
 
 TEST(FileScarico, FullDiskIsAnErrorWithItsReasonAndLeavesNoFile) {
-    // A limit on the size of files fails a write as a full disk does.
     const test::CartellaProvvisoria cartella;
-    ::signal(SIGXFSZ, SIG_IGN);
-    rlimit prima{};
-    ::getrlimit(RLIMIT_FSIZE, &prima);
-    const rlimit stretto{100, prima.rlim_max};
     const std::vector<Segmento> linee(100, Segmento{1, 2, 3, 4, 255, 0.1});
-    ::setrlimit(RLIMIT_FSIZE, &stretto);
+    const test::DiscoPieno disco(100);
     std::string motivo;
     try {
-        scriviScarico(cartella / "linee.tmp", linee);
+        scriviScarico(cartella / "linee.tmp", linee, disco);
     } catch (const base::ErroreFile& errore) {
         motivo = errore.what();
     }
-    ::setrlimit(RLIMIT_FSIZE, &prima);
-    EXPECT_NE(motivo.find("il file è troppo grande"), std::string::npos) << motivo;
+    EXPECT_NE(motivo.find(test::nonCeSpazio), std::string::npos) << motivo;
     EXPECT_TRUE(std::filesystem::is_empty(cartella.percorso()));
 }
 

@@ -9,6 +9,7 @@
 #include "base/code_page.hpp"
 #include "base/file_error.hpp"
 #include "base/files.hpp"
+#include "support/failing_disk.hpp"
 #include "support/sample_projects.hpp"
 #include "support/temporary_folder.hpp"
 
@@ -340,6 +341,22 @@ TEST(FileDiProgetto, IsWrittenAndReadUnderTheCurrentName) {
     EXPECT_EQ(Progetto, scritto);
     fileCorrente.clear();
     modificato = false;
+}
+
+TEST(FileDiProgetto, StaysAsItWasOnAFullDisk) {
+    const test::CartellaProvvisoria cartella;
+    fileCorrente = cartella / "muro.kvd";
+    test::metti(fileCorrente, "prima");
+    const test::DiscoPieno disco(100);
+    try {
+        scriviProgetto(disco);
+        ADD_FAILURE();
+    } catch (const base::ErroreScrittura& errore) {
+        EXPECT_EQ(errore.percorso(), fileCorrente);
+        EXPECT_NE(errore.atteso().find(test::nonCeSpazio), std::string::npos);
+    }
+    EXPECT_EQ(test::contenuto(fileCorrente), "prima");
+    fileCorrente.clear();
 }
 
 }  // namespace

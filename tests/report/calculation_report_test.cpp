@@ -6,6 +6,7 @@
 #include "base/file_error.hpp"
 #include "base/translated_texts.hpp"
 #include "project/output_guard.hpp"
+#include "support/failing_disk.hpp"
 #include "support/hand_written_results.hpp"
 #include "support/sample_projects.hpp"
 #include "support/sample_sections.hpp"
@@ -381,6 +382,16 @@ TEST(ScriviRelazione, LeavesAnEarlierReportAloneWhenTheResultsAreBroken) {
     file.scrivi(Progetto, {faseFerma(4)});
     test::metti(file.cartella / "muro.TAB", "vecchia");
     EXPECT_THROW(scriviRelazione(), base::ErroreFile);
+    EXPECT_EQ(contenuto(file.cartella / "muro.TAB"), "vecchia");
+}
+
+TEST(ScriviRelazione, LeavesAnEarlierReportAloneOnAFullDisk) {
+    RisultatiAMano file(3);
+    Progetto = muroPiccolo();
+    file.scrivi(Progetto, fasiPiccole());
+    test::metti(file.cartella / "muro.TAB", "vecchia");
+    const test::DiscoPieno disco(1000);
+    EXPECT_THROW(scriviRelazione(disco), base::ErroreScrittura);
     EXPECT_EQ(contenuto(file.cartella / "muro.TAB"), "vecchia");
 }
 

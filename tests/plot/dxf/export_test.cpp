@@ -9,6 +9,7 @@
 #include "plot/plot_engine.hpp"
 #include "plot/spill_files.hpp"
 #include "support/dxf_reader.hpp"
+#include "support/failing_disk.hpp"
 #include "support/plot_setup.hpp"
 
 namespace korven::plot {
@@ -179,6 +180,21 @@ TEST_F(PlotDxf, FileThatCannotBeWrittenIsAnError) {
     plotApri(0, 0, 19, 27);
     plotMuovi(0, 0, fineDisegno);
     EXPECT_THROW(plotDxf(uscita / "manca/prova.dxf"), base::ErroreFile);
+}
+
+TEST_F(PlotDxf, FullDiskIsAnErrorAndLeavesTheFileOfBefore) {
+    plotApri(0, 0, 19, 27);
+    plotMuovi(0, 0, fineDisegno);
+    test::metti(uscita / "prova.dxf", "before");
+    const test::DiscoPieno disco(200);
+    EXPECT_THROW(plotDxf(uscita / "prova.dxf", disco), base::ErroreFile);
+    EXPECT_EQ(test::contenuto(uscita / "prova.dxf"), "before");
+}
+
+TEST_F(PlotDxf, StyleFileThatFindsNoRoomIsDoneWithout) {
+    const test::DiscoPieno disco(0);
+    EXPECT_EQ(leggiStileTesti(disco), "MONOTXT");
+    EXPECT_FALSE(std::filesystem::exists(programma / "dxf.cfg"));
 }
 
 }  // namespace
