@@ -14,7 +14,7 @@ struct Blocco {
     double altezza = 0;  ///< [cm]
 };
 
-/// Lower edges of blocks that stand in one column, from the top down.
+/// Lower edges of blocks in one column, from the top down.
 ///
 /// Down the column: a block ends on its own line if it has room between that and the block above,
 /// else right below that block. If the last one then ends below `inferiore`, it is set there, and

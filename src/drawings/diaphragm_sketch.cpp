@@ -48,7 +48,7 @@ void disegnaFaccia(Schizzo& schizzo, const Faccia& f, const Sezione& s, double k
     const auto y = [&](int i) { return ySchizzo + (i - (n - 1) / 2.0) * passo; };
     for (int i = 0; i < n; ++i) schizzo.cerchi.push_back({{xFerri, y(i)}, raggio, segno});
 
-    // Below the lowest bar, where the strokes stand clear of the others.
+    // Below the lowest bar, where the strokes are clear of the others.
     const double yCopriferro = std::max((sottoSchizzo + y(0)) / 2, sottoSchizzo + 2);
     schizzo.quote.push_back(quotaRichiamo(f.copriferro, f.monte, yCopriferro, {x, bordo}));
     schizzo.quote.back().linee.push_back({{bordo, y(0)}, {bordo, yCopriferro}});

@@ -29,7 +29,7 @@ int numeroFerri(double interasse) {
         std::min(std::floor(striscia / interasse), static_cast<double>(massimoFerriDisegnati)));
 }
 
-// The row stands in the middle of the strip.
+// The row is in the middle of the strip.
 double yFerro(const Faccia& faccia, int k) {
     const double primo = -(numeroFerri(faccia.interasse) - 1) / 2.0;
     return yVista + (primo + k) * faccia.interasse * scalaSezione;
@@ -59,7 +59,7 @@ Candidate quotaInterasse(const Faccia& faccia) {
     return quote;
 }
 
-// Between two bars, so that the strokes stand clear of the marks, the lowest pair first.
+// Between two bars, so that the strokes are clear of the marks, the lowest pair first.
 std::vector<double> altezzeCopriferro(const Faccia& faccia) {
     const int n = numeroFerri(faccia.interasse);
     if (n < 2) return {yVista - 3, yVista + 3, yVista - 2, yVista + 2, yVista - 4, yVista + 4};

@@ -12,7 +12,7 @@ namespace korven::drawings {
 namespace {
 
 constexpr double altezzaQuote = 0.2;
-constexpr double distacco = 0.2;  // of a text from its line, more than what stands out of it
+constexpr double distacco = 0.2;  // of a text from its line, more than what sticks out of it
 constexpr double distaccoRichiamo = 0.08;
 constexpr double mezzoTratto = 0.1;  // of the strokes that end a dimension
 constexpr double sporgenza = 0.08;   // of an extension line beyond its dimension

@@ -50,12 +50,12 @@ struct Quota {
 /// "80 [mm]", a length without a caption.
 [[nodiscard]] std::string testoMisura(double centimetri);
 
-/// A dimension from x1 to x2 at y, with extension lines from `yOggetto`; the text stands centred on
-/// the other side of it.
+/// A dimension from x1 to x2 at y, with extension lines from `yOggetto`; the text is centred on the
+/// other side of it.
 [[nodiscard]] Quota quotaOrizzontale(double x1, double x2, double y, double yOggetto,
                                      const Scritta& scritta);
 
-/// A dimension from y1 to y2 at x, with extension lines from `xOggetto`; the text stands turned on
+/// A dimension from y1 to y2 at x, with extension lines from `xOggetto`; the text is turned and on
 /// the other side of it, about its middle. An end beyond `stanzaQuote` is cut off there and ends in
 /// an arrow.
 [[nodiscard]] Quota quotaVerticale(double y1, double y2, double x, double xOggetto,

@@ -8,7 +8,7 @@
 
 namespace korven::drawings {
 
-/// Places where a dimension may stand, the best first.
+/// Places that a dimension may take, the best first.
 using Candidate = std::vector<Quota>;
 
 /// Finds each dimension of a view its place: inside `stanzaQuote`, its text clear of the section,
@@ -16,15 +16,15 @@ using Candidate = std::vector<Quota>;
 /// All positions in cm of the sheet.
 class Disposizione {
  public:
-    /// The section, on which no text stands.
+    /// The section, on which no text may lie.
     void occupa(const plot::Riquadro& pieno) { pieni_.push_back(pieno); }
     void occupaDisco(plot::Punto centro, double raggio) { dischi_.push_back({centro, raggio}); }
     void occupaTratto(const plot::Tratto& tratto) { bordi_.push_back(tratto); }
 
     /// Draws each dimension at the first of its places that is free. One that is placed early may
-    /// take the only place of a later one, so other orders are tried where one finds none.
-    /// Sections without measure, where no order serves all: a text that finds no other place stands
-    /// on the section, clear of the other texts, or at its first place whatever lies there.
+    /// take the only place of a later one, so other orders are tried where one finds none. Sections
+    /// without measure, where no order serves all: a text that finds no other place lies on the
+    /// section, clear of the other texts, or at its first place whatever lies there.
     /// @pre every dimension has a candidate
     void disponi(const std::vector<Candidate>& quote);
 
@@ -62,12 +62,12 @@ class Disposizione {
 [[nodiscard]] Candidate richiami(Lato lato, plot::Punto oggetto, double xSezione,
                                  const Scritta& scritta);
 
-/// Those of them that are level, across which the dimension from the section's edge to the point is
-/// marked.
+/// Those of them that are level, across which the dimension from the section's edge to the point
+/// has its marks.
 [[nodiscard]] Candidate richiamiConMisura(Lato lato, plot::Punto oggetto, double xSezione,
                                           const Scritta& scritta);
 
-/// The candidates of `altre` behind those of `prime`.
+/// The candidates of `altre` after those of `prime`.
 void aggiungi(Candidate& prime, Candidate altre);
 
 }  // namespace korven::drawings

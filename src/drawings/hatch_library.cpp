@@ -18,7 +18,7 @@ namespace {
 
 using base::traduttore;
 
-// The first stroke behind the last pattern has to have a number of 16 bits as well.
+// The first stroke after the last pattern has to have a number of 16 bits as well.
 constexpr int massimoTratti = std::numeric_limits<std::int16_t>::max() - 1;
 constexpr std::streamsize byteTratto = 8;
 

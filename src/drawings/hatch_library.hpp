@@ -11,9 +11,8 @@
 //     set1.rtn           number of strokes of each pattern, a number a line
 //     set2.rtn           unit of each pattern, centimetres of a stroke unit at size step 1
 //     set3ita.rtn        names, one file for each language tag
-//     set4.rtn           strokes of all patterns, one after the other: x1, y1, x2, y2, each a
-//     signed
-//                        number of 16 bits, low byte first; 100 units are half the side of the tile
+//     set4.rtn           strokes of all patterns, one after the other: x1, y1, x2, y2, each with
+//                        sign and 16 bits, low byte first; 100 units are half the side of the tile
 
 namespace korven::drawings {
 

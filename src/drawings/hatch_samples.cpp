@@ -19,7 +19,7 @@ constexpr int grandezze[] = {1, 3, 5};
 constexpr int pennaTesti = 4;
 constexpr int pennaCampiture = 10;  // colour 1
 
-// The patterns stand one below the other, so that those of a kind stay together.
+// The patterns go from the top down, so that those of a kind stay together.
 constexpr double cima = plot::y0 + plot::altQuadro - 0.1;
 constexpr double piede = 0.8;
 constexpr int righePreferite = 16;

@@ -2,8 +2,8 @@
 
 #include "drawings/log_table.hpp"
 
-// What stands in the columns of the stratigraphic log. Each draws with the pen of the column in use
-// and may leave another.
+// What the columns of the stratigraphic log show. Each draws with the pen of the column in use and
+// may leave another.
 
 namespace korven::drawings {
 

@@ -33,7 +33,7 @@ void disegnaScala(const Stratigrafia& stratigrafia, const Colonna& colonna) {
         const double y = stratigrafia.scala.y(std::min(k * passo, H));
         striscia(xAsse, sopra, y, k % 2 == 1);
         attraversa(colonna, y);
-        // The depth of the last layer stands in the first column already.
+        // The depth of the last layer is in the first column already.
         if (!ultimo) numeroFinoA(xAsse, y, k * passo, -1, 1.5, 3);
         sopra = y;
     }

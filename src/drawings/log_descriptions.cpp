@@ -94,7 +94,7 @@ BloccoDescrizione blocco(const Stratigrafia& stratigrafia, int i, const Colonna&
     }
 }
 
-// The texts of all layers, and where they stand.
+// The texts of all layers, and their places.
 struct Disposizione {
     Disposizione(const Stratigrafia& stratigrafia, const Colonna& colonna,
                  const markup::Misura& misura) {

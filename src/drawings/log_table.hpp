@@ -7,8 +7,7 @@
 #include "plot/sheet.hpp"
 #include "project/project_data.hpp"
 
-// The table of the stratigraphic log: columns side by side over the same depths, all in cm of the
-// sheet.
+// The table of the stratigraphic log: columns side by side over the same depths; cm of the sheet.
 
 namespace korven::drawings {
 
@@ -17,7 +16,7 @@ inline constexpr double altezzaStratigrafia = 28.5;
 inline constexpr double sinistraTabella = 1.5;
 inline constexpr double larghezzaTabella = 17;
 inline constexpr double piedeTabella = 1;
-inline constexpr double testaTabella = ScalaProfondita::yTesta;  ///< the heads stand above
+inline constexpr double testaTabella = ScalaProfondita::yTesta;  ///< the heads are above
 inline constexpr double cimaTestata = 24.5;                      ///< top of the heads
 
 inline constexpr int pennaRigaTabella = 1;
@@ -48,8 +47,8 @@ struct Stratigrafia {
     [[nodiscard]] double yPiede(int i) const { return scala.y(dati.profStrato[i]); }
 };
 
-/// Draws the heads of a column in their box and leaves the pen of the column in use. The heads
-/// stand upright, parting the column in equal parts.
+/// Draws the heads of a column in their box and leaves the pen of the column in use. The heads are
+/// written upright and share the column equally.
 /// @param testate  Italian keys, one or two
 void disegnaTestata(const Colonna& colonna, std::initializer_list<std::string_view> testate);
 

@@ -110,7 +110,7 @@ void fiancoConStaffe(Schizzo& schizzo, const Sezione& s) {
     constexpr double distanza = 3;
     schizzo.quote.push_back(
         quotaLungo(&Sezione::armPassoStaffe, y(mezzo), y(mezzo + 1), x2 + distanza, x2 - rientro));
-    schizzo.quote.back().testo.x += rientro;  // clear of strokes that may stand close
+    schizzo.quote.back().testo.x += rientro;  // clear of strokes that may be close
 }
 
 void quoteFerri(Schizzo& schizzo, const Sezione& s, double numero, const Coppia& c) {

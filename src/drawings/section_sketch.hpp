@@ -64,8 +64,8 @@ struct Schizzo {
 [[nodiscard]] Schizzo schizzoSezione(masks::RiquadroSezione riquadro,
                                      const project::Sezione& sezione);
 
-/// What stands at a dimension: "c1 = 50" with the typed number, "c1" where that is 0. The bar count
-/// shows by its tenth what it calculates with: "n = 8/10 = 0.8".
+/// What is written at a dimension: "c1 = 50" with the typed number, "c1" where that is 0. The bar
+/// count shows by its tenth what it calculates with: "n = 8/10 = 0.8".
 [[nodiscard]] std::string scrittaQuota(std::size_t campo, const project::Sezione& sezione);
 
 }  // namespace korven::drawings

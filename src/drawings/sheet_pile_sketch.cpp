@@ -33,7 +33,7 @@ struct Scala {
     }
 };
 
-// The thickness of a web is measured across it, from where its text stands clear of the profile.
+// The thickness of a web is measured across it, from where its text is clear of the profile.
 QuotaSchizzo quotaAla(const structure::PalancolaMm& p, const Scala& sulFoglio) {
     const Punto mezzo = sulFoglio({0, -(p.base / 2 + p.largAla)});
     const double lunghezza = std::hypot(p.largAla, p.altAla);

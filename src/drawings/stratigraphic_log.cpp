@@ -45,7 +45,7 @@ void disegnaTabella(const Stratigrafia& stratigrafia) {
         const Colonna colonna{x, larghezza};
         if (!testata.empty()) disegnaTestata(colonna, {testata});
         contenuto(stratigrafia, colonna);
-        // The rule behind the first column parts it from the others up to the top of the heads.
+        // The rule after the first column parts it from the others up to the top of the heads.
         const double cima = x == sinistraTabella ? cimaTestata : testaTabella;
         x = colonna.destra();
         plot::plotPenna(pennaRigaTabella);
