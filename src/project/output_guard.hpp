@@ -4,8 +4,7 @@
 
 // The project is the one file that nobody can compute anew. The names of the outputs follow from
 // its name by rules that cut characters, so that a name ("muro.OUT"), a link or the choice of
-// another folder may lead an output to the project itself. Every output asks here before it is
-// begun.
+// another folder may lead an output to the project itself. Every output asks here before it begins.
 
 namespace korven::project {
 
@@ -26,8 +25,7 @@ extern ProgettiProtetti progettiProtetti;
 
 /// Refuses a name under which a project or another file that the output is made from would be lost.
 /// @param origine  the file that the output is made from
-/// @throws base::ErroreFile that names `percorso` and what would be lost; nothing has been written
-/// then
+/// @throws base::ErroreFile that names `percorso` and what would be lost; nothing is written
 void controllaUscita(const std::string& percorso, const std::string& origine);
 
 /// Refuses one of two names that lead to one file.

@@ -35,7 +35,7 @@ class Lettura {
     }
     void descrizione(std::string& valore, std::string_view nome) { valore = file_.riga(nome); }
     void titolo(std::string& valore, std::string_view nome) { valore = file_.riga(nome); }
-    // A test stands for a whole block: once a block begins, all of its lines are expected.
+    // A test decides for a whole block: once a block begins, all of its lines are expected.
     [[nodiscard]] bool blocco() const { return !file_.soloRigheVuote(); }
 
     double metodoScritto = 0;  ///< the code on file
@@ -67,7 +67,7 @@ std::string Scrittura::unaRiga(std::string testo) {
     return testo;
 }
 
-// The first inequality settles the answer; nothing behind it is read any more.
+// The first inequality settles the answer; nothing after it is read any more.
 class Confronto {
  public:
     explicit Confronto(base::LettoreRighe& file) : file_(file) {}
@@ -104,7 +104,7 @@ double leggiDati(base::LettoreRighe& file, DatiProgetto& dati) {
 }
 
 void leggiProgetto() {
-    // A wrong count is seldom noticed where it stands: the lines behind it are taken for others.
+    // A wrong count is seldom noticed in its own line: those after it are taken for others.
     auto file = base::LettoreRighe::apri(
         fileCorrente, base::traduttore("controllare anche i numeri di strati, tiranti e fasi: le "
                                        "righe che li seguono devono essere altrettante"));

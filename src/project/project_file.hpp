@@ -7,16 +7,15 @@
 #include "project/project_data.hpp"
 
 // The project file (.kvd): one value a line, no keys, in stored units; also the head of a result
-// file. The counts govern the blocks behind them; `docs/file_formats.md` has the table of lines.
+// file. The counts govern the blocks after them; `docs/file_formats.md` has the table of lines.
 
 namespace korven::project {
 
-/// Reads one project and leaves the reader behind its last value, so that a result file can be read
+/// Reads one project and leaves the reader after its last value, so that a result file can be read
 /// on. Nothing is reset first: of the three blocks that older files lack (sheet pile, reinforced
 /// piles, axial force) a missing one keeps what `dati` held, and so do the rows of the tables above
 /// the counts. A `metodoSpinte` above 1 becomes 1.
-/// @return the code of `metodoSpinte` as it stands in the file: the method that the run used whose
-///         results stand behind it
+/// @return the code of `metodoSpinte` in the file: the method of the run whose results follow it
 /// @throws base::ErroreFile on a file that ends early, a line that is no number, a count that is no
 ///         whole number from 0 to the capacity; `dati` is then as it was
 double leggiDati(base::LettoreRighe& file, DatiProgetto& dati);
@@ -24,7 +23,7 @@ double leggiDati(base::LettoreRighe& file, DatiProgetto& dati);
 /// Reads the file named by `fileCorrente` into `Progetto`.
 void leggiProgetto();
 
-/// Writes `Progetto` under the name in `fileCorrente`, all blocks, replacing what stood there.
+/// Writes `Progetto` under the name in `fileCorrente`, all blocks, replacing an earlier file.
 /// `modificato` stays as it is.
 /// @throws base::ErroreFile if it can't be written; the old file is then untouched
 void scriviProgetto(const base::Disco& disco = base::discoDiSistema());
@@ -37,7 +36,7 @@ void scriviProgetto(const base::Disco& disco = base::discoDiSistema());
 /// True when the file differs from `dati`: plain inequality of any number, text or flag, anywhere.
 /// A value with more than seven decimals never equals its written form. The headings are not
 /// compared; a file that lacks the later blocks is compared as far as it goes.
-/// @throws base::ErroreFile on a broken file, if no difference stands before the break
+/// @throws base::ErroreFile on a broken file, if no difference comes before the break
 [[nodiscard]] bool progettoDiverso(base::LettoreRighe& file, const DatiProgetto& dati);
 
 /// Compares the file named by `fileCorrente` with `Progetto`.

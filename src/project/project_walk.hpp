@@ -11,7 +11,7 @@ namespace korven::project {
 ///
 ///     visita.conteggio(int&, capacity, name)   a row count
 ///     visita.numero(double&, name)             visita.bandiera(bool&, name)
-///     visita.metodoSpinte(double&, name)       the one number not always taken as it stands
+///     visita.metodoSpinte(double&, name)       the one number not always taken unchanged
 ///     visita.descrizione(std::string&, name)   visita.titolo(std::string&, name)
 ///     visita.blocco() -> bool                  whether one of the later blocks is there
 ///

@@ -22,7 +22,7 @@ struct Foglio {
 inline constexpr Foglio foglioA4{21.0};
 
 /// The text of the report's #FOOTER, translated: program and version, project, method, segments and
-/// that no factor of safety acts on the soil, joined by dashes; behind them the program's subtitle.
+/// that no factor of safety acts on the soil, joined by dashes; after them the program's subtitle.
 ///
 /// The footer is one centred line, which no renderer wraps or shrinks, so what is too long is cut
 /// here. The subtitle is there only if all of it fits between the margins. The rest may reach into

@@ -15,11 +15,10 @@ struct Voce {
 };
 
 /// Collects the lines of a report in mark-up. Texts given as keys pass through the translation;
-/// directives and the user's own lines do not. Numbers stand with two decimals, whatever their
-/// size.
+/// directives and the user's own lines do not. Numbers have two decimals, whatever their size.
 class RigheRelazione {
  public:
-    /// A line as it stands: a directive, or the user's own text.
+    /// A line left unchanged: a directive, or the user's own text.
     void riga(std::string_view testo);
     void vuota() { riga({}); }
     /// A title, caption or sentence.

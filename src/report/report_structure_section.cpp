@@ -53,8 +53,7 @@ void palancola(const Sezione& s, RigheRelazione& righe) {
              righe);
 }
 
-// The bar count goes through the factor of the lengths and shows ten times the number that
-// calculates.
+// The bar count goes through the factor of the lengths and shows ten times the calculating number.
 void paliArmati(const Sezione& s, RigheRelazione& righe) {
     const bool staffe = structure::staffePresenti(s);
     conLista("CALCOLO STRUTTURALE PALI ARMATI",

@@ -31,7 +31,7 @@ class StoriaTiranti {
             maxSpostTirante_[j] = std::numeric_limits<double>::lowest();
     }
 
-    /// Anchors that come into place in stage s stand on the wall as the stage before left it.
+    /// Anchors that come into place in stage s are put on the wall as the stage before left it.
     void entra(int s) {
         for (int j = inOpera(s - 1) + 1; j <= inOpera(s); ++j)
             yTirante[j] = s > 1 ? spostamento(s - 1, j) : 0;

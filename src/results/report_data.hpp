@@ -47,8 +47,8 @@ struct DatiRelazione {
 /// Reads a result file written under the mesh of `nseg.txt`.
 ///
 /// @param percorso  the result file
-/// @param memoria   the project in memory: its headings stand in the report, and the fields that an
-///                  old file lacks are taken from it. Changed as by every reading of the head: a
+/// @param memoria   the project in memory: its headings appear in the report, and the fields that
+///                  an old file lacks are taken from it. Changed as by every reading of the head: a
 ///                  `metodoSpinte` above 1 becomes 1, and `faldaValle` goes through the stages to
 ///                  the last one's level
 /// @throws base::ErroreFile if the file is missing, cut short or of another mesh

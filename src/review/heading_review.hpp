@@ -12,7 +12,7 @@ namespace korven::review {
 
 /// What is odd about a heading line, a sentence each: the report takes it for a command, the sheet
 /// ends before it does, the log prints it over its neighbour.
-/// @param riga   from 1; a line behind the sixth has nothing odd
+/// @param riga   from 1; a line after the sixth has nothing odd
 /// @param righe  all lines, element 0 is line 1
 [[nodiscard]] std::vector<std::string> stranezzeTitolo(std::size_t riga,
                                                        const std::vector<std::string>& righe);

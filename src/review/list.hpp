@@ -25,7 +25,7 @@ class ElencoRilievi {
 /// "strato 3: ...", both texts being Italian keys.
 [[nodiscard]] std::string riga(std::string_view nome, int numero, std::string_view testo);
 
-/// A text with the value in question behind it, in brackets.
+/// A text followed by the value in question, in brackets.
 [[nodiscard]] std::string conValore(std::string testo, double valore);
 
 /// "strato 3: Gamma [kN/m³] = 18: ...", the texts being Italian keys and the value as shown.

@@ -10,7 +10,7 @@ namespace korven::review {
 
 /// Something missing or odd about a project, in words.
 struct Rilievo {
-    bool impedisce = false;  ///< the project can't be computed as long as it stands
+    bool impedisce = false;  ///< the project can't be computed until it is mended
     std::string testo;       ///< translated, one line
 };
 
@@ -19,8 +19,8 @@ struct Rilievo {
 /// in the order of the data.
 [[nodiscard]] std::vector<Rilievo> esaminaProgetto(const project::DatiProgetto& dati);
 
-/// The same, and behind it what is odd about the lines of the file that the project was read from:
-/// numbers with something behind them, a method that reading does not keep, lines too many.
+/// The same, and after it what is odd about the lines of the file that the project was read from:
+/// numbers with something after them, a method that reading does not keep, lines too many.
 /// @param percorso  the file that `dati` was read from
 /// @throws base::ErroreFile if it is no such file any more
 [[nodiscard]] std::vector<Rilievo> esaminaFile(const std::string& percorso,

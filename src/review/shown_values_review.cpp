@@ -13,8 +13,7 @@ using project::DatiProgetto;
 using project::Sezione;
 using structure::TipoSezione;
 
-// The fields that are shown ten times as large as they are stored, called as everywhere in a
-// review.
+// The fields shown ten times as large as they are stored, with their names in a review.
 
 constexpr double mostrato = 10;
 
