@@ -8,8 +8,7 @@ namespace korven::analysis {
 
 /// Number of anchors in place in stage `fase`, counted from the first row of the anchor table: the
 /// whole part of its `tirantiFase`, 0 for a negative one, and no more than `nTiranti`: a row beyond
-/// the count is what a longer table left behind, no anchor. Stage 0 stands before the first and has
-/// none.
+/// the count is what a longer table left, no anchor. Stage 0 comes before the first and has none.
 /// @throws base::ErroreIndice if `tirantiFase` is more than the table holds
 [[nodiscard]] inline int tirantiInOpera(const project::DatiProgetto& dati, int fase) {
     const double numero = dati.tirantiFase[fase];

@@ -34,16 +34,15 @@ struct PorteCalcolo {
 };
 
 /// The one entry of the analysis: refuses a project that can't be computed, brings the result file
-/// up to date and goes on to the output. Works on `Progetto` and `fileCorrente`; the outcome is
-/// `erroreCalcolo`.
+/// up to date and goes on to the output. Works on `Progetto` and `fileCorrente`; `erroreCalcolo`
+/// tells the outcome.
 ///
 /// The stages are computed only when the result file does not already hold this very project.
 /// `Progetto.faldaValle` is stored before the stages overwrite it: a run whose last stage changes
 /// it is followed by one more when asked again in the same session.
-///
-/// A refused, singular or stopped run leaves no result file behind once it has begun one; a refusal
-/// by the first checks leaves an older one alone. `fileCorrente` is restored at every exit but one:
-/// a run without a stiffness EJ leaves it at the result file's name until another file is opened.
+///  A refused, singular or stopped run leaves no result file once it has begun one; a refusal by
+/// the first checks leaves an older one alone. `fileCorrente` is restored at every exit but one: a
+/// run without a stiffness EJ leaves it at the result file's name until another file is opened.
 ///
 /// Before anything is written or removed a run is refused whose result file or output would take
 /// the place of the project, whose name is too short for the rule that names the result file, in

@@ -35,8 +35,7 @@ void azzera(VettoreNodi& vettore, int quanti) {
     for (int i = 1; i <= quanti; ++i) vettore[i] = 0;
 }
 
-// Lays the restraints over the springs of their nodes and returns the number of nodes of the
-// system.
+// Lays the restraints over the springs of their nodes. Returns how many nodes the system has.
 int applicaVincoli(ArraysCorsa& corsa) {
     if (corsa.vincolo.cernieraTesta) corsa.kNodo[1] = kVincolo;
     if (corsa.vincolo.bloccoPiede) corsa.kNodo[corsa.nNodi] = kVincolo;
@@ -52,7 +51,7 @@ void aggiornaMomenti(const project::DatiProgetto& dati, ArraysCorsa& corsa) {
     VettoreNodi& M = corsa.momentoNodo;
     const VettoreNodi& y = corsa.yNodo;
     M[1] = -dati.momentoTesta;
-    // From the moments of the iteration before, which still stand there.
+    // From the moments of the iteration before, which are still there.
     M[n] = corsa.vincolo.incastroPiede ? 2 * M[n - 1] - M[n - 2] : 0;
     for (int i = 2; i <= n - 1; ++i)
         M[i] = (-corsa.EJNodo[i] / (h * h)) * (y[i - 1] + y[i + 1] - 2 * y[i]);

@@ -29,7 +29,7 @@ struct RisultatiFase {
     VettoreNodi taglioNodo;   ///< [t]; has no name in the column line
 };
 
-/// What stands behind the last stage.
+/// What follows the last stage.
 struct ChiusuraRisultati {
     double mrd2 = 0;  ///< resistance with positive curvature [N mm]; 0 without a valid section
     double mrd1 = 0;  ///< resistance with negative curvature [N mm]
@@ -57,7 +57,7 @@ class LettoreRisultati {
 
     /// Reads the head into `dati`; the six `titoli` of `dati` stay, since a report shows those in
     /// memory.
-    /// @return the code of `metodoSpinte` as it stands in the head, which `dati` may not keep
+    /// @return the code of `metodoSpinte` in the head, which `dati` may not keep
     /// @throws base::ErroreFile on a broken head; `dati` is then as it was
     double leggiTesta(project::DatiProgetto& dati);
 
@@ -65,7 +65,7 @@ class LettoreRisultati {
     /// @throws base::ErroreFile if the file ends or its lines are not those of a table of this mesh
     void leggiFase(RisultatiFase& risultati);
 
-    /// Reads the closing numbers, behind which the file must end.
+    /// Reads the closing numbers, after which the file must end.
     /// @throws base::ErroreFile if one is missing or cut short, or more lines follow
     [[nodiscard]] ChiusuraRisultati leggiChiusura();
 

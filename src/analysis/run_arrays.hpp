@@ -24,8 +24,7 @@ struct Vincoli {
 /// The arrays of one run. They start at 0 and live for one call of `CalcoloParatia`; what a stage
 /// does not set again, it takes over from the stage before: `yNodo`, `yTirante`, `momentoNodo`, and
 /// the cells of the matrix that nobody clears.
-///
-/// Nothing is put back behind the last stage: what reads the results works out the anchors'
+///  Nothing is put back after the last stage: what reads the results works out the anchors'
 /// `yTirante` and the nodes' layers for itself, from the result file and whether or not a run has
 /// gone before.
 struct ArraysCorsa {

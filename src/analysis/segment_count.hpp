@@ -11,18 +11,18 @@ inline constexpr int minimoSegmenti = 3;
 inline constexpr int massimoSegmenti = 249;          ///< 2 (n + 1) equations fill the matrix
 inline constexpr int massimoSegmentiIncastro = 248;  ///< a fixed toe adds a node
 
-/// Stands for the content of `nseg.txt` when it is given, for the rest of the process.
+/// Replaces the content of `nseg.txt` when it is given, for the rest of the process.
 extern std::optional<std::string> contenutoNSeg;
 
 /// Number of wall segments: the first item of `nseg.txt` in the program folder, 50 when there is no
 /// such file. It is no part of a project: the same project gives different meshes under different
 /// installations.
 /// @param incastroPiede  fixed toe, whose system is one node larger
-/// @return nothing if what stands there is no whole number from 3 to the capacity
+/// @return nothing if what it finds is no whole number from 3 to the capacity
 [[nodiscard]] std::optional<int> leggiNSeg(bool incastroPiede);
 
 /// What to tell about an unusable number of segments, an Italian key: it blames the file, or the
-/// option that stands for its content.
+/// option that replaces its content.
 [[nodiscard]] std::string_view motivoNSeg();
 
 }  // namespace korven::analysis

@@ -27,8 +27,7 @@ struct RisultatoFase {
 /// Solves stage k as a whole equilibrium: sets its excavation, its water level in
 /// `dati.faldaValle`, and its anchors, computes the soil afresh and iterates until no displacement
 /// changes or `stopCalcolo` is set. There is no limit to the number of iterations.
-///
-/// An anchor new in this stage is put on the wall as it stands at the end of the stage before, and
+///  An anchor new in this stage is put on the wall as it is at the end of the stage before, and
 /// acts at once.
 [[nodiscard]] RisultatoFase risolviFase(int k, project::DatiProgetto& dati, ArraysCorsa& corsa,
                                         Avanzamento& avanzamento);

@@ -7,7 +7,7 @@
 // the excavation lowers the pressure of the retained side and makes that of the excavated side more
 // negative. The user types ksStrato as a positive number. Where the data turn the sign of a formula
 // round (a negative effective stress, a saturated weight below that of water, a negative ks) the
-// modulus is positive, a spring that pushes on; it is computed with as it stands.
+// modulus is positive, a spring that pushes on, and is taken as it is.
 
 namespace korven::analysis {
 

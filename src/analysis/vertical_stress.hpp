@@ -40,8 +40,7 @@ struct TensioneNodo {
 [[nodiscard]] TensioneNodo tensioneValle(const project::DatiProgetto& dati, double z, double scavo,
                                          double sovraccarico);
 
-/// Bottom of layer j for these sums and for the layer of a node: the last layer counts 100 m
-/// deeper.
+/// Bottom of layer j for these sums and for the layer of a node: the last one counts 100 m deeper.
 [[nodiscard]] double fondoStrato(const project::DatiProgetto& dati, int j);
 
 }  // namespace korven::analysis

@@ -57,7 +57,7 @@ void equilibrioGlobale(const Parete& parete, MatriceSistema& A, VettoreNodi& b) 
     double forze = 0;
     double momenti = 0;
     for (int i = 1; i <= n; ++i) {
-        const double w = i == 1 || i == n ? 1 : 2;  // a node at an end stands for half a segment
+        const double w = i == 1 || i == n ? 1 : 2;  // a node at an end counts for half a segment
         A(2 * N + 1, n + i) = k[i] * w * h / 2;
         A(2 * N + 2, n + i) = (k[i] * w * h / 2) * -zNodo(i, h);
         forze += -p[i] * w * h / 2;

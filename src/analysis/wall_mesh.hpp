@@ -5,13 +5,12 @@
 
 namespace korven::analysis {
 
-/// Stiffness of the springs that stand for restraints, as a coefficient of the net pressure [t/m3].
+/// Stiffness of the springs that act as restraints, as a coefficient of the net pressure [t/m3].
 inline constexpr double kVincolo = -1e11;
 
 /// Node of an anchor at a depth: the nearest one, the deeper one half way.
 /// @return a number outside 1 to `nNodi` for an anchor beside the wall; below the toe it goes on
-///         growing to 501, above the top it falls to -1, which also answers a depth that is no
-///         number
+///         growing to 501, above the top it falls to -1, also for a depth that is no number
 [[nodiscard]] int nodoTirante(double profondita, double passoNodi);
 
 /// What one iteration knows of the wall.
@@ -33,8 +32,7 @@ struct Parete {
 ///                       M(j) = -E(j) (y(j-1) - 2 y(j) + y(j+1)) / h^2 in both ends; 0 at the toe
 ///     row 2N+1          sum of all horizontal forces
 ///     row 2N+2          sum of their moments about the wall top
-///
-/// Cells are assigned, never added to, and cells that no equation names are left as they stand.
+///  Cells are assigned, never added to, and cells that no equation names are left as they are.
 /// @pre n >= 4
 void assembla(const Parete& parete, MatriceSistema& A, VettoreNodi& b);
 

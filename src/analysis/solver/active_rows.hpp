@@ -28,8 +28,7 @@ struct RigheAttive {
 
     int quante = 0;
     double* celle[capacitaSistema];
-    // Numbers of the rows, and of the columns at each place; doubles, to be searched with the
-    // cells.
+    // Numbers of the rows, and of the columns at each place; doubles, searched with the cells.
     alignas(64) Colonna numero;
     alignas(64) Colonna colonna;
     int indice[capacitaSistema];         // of the row of a number
@@ -64,7 +63,7 @@ inline bool haZeroNegativo(const double* riga, int m) {
 }
 
 /// V vectors of cells from column k on, of R rows, through `passi` passes; the vectors' largest
-/// absolute values go into `massimi`. With `attive` only those lanes change: the cells behind the
+/// absolute values go into `massimi`. With `attive` only those lanes change: the cells after the
 /// last active column hold the factors of earlier passes.
 template <int L, int R, int V, bool parziale>
 KORVEN_CORSIE void attraversaPassi(double* const (&riga)[R], double* const* pivot,
@@ -218,8 +217,8 @@ KORVEN_CORSIE int trovaColonna(const RigheAttive& r, int i) {
     return numeroMaggiore<L>(r.celle[i], r.colonna, r.massima[i], r.quante);
 }
 
-/// Takes the pivot row i out, after the swap that brings it to row number `arrivo`: the row that
-/// stood there moves to where the pivot row was.
+/// Takes the pivot row i out, after the swap that brings it to row number `arrivo`: the row found
+/// there moves to where the pivot row was.
 KORVEN_CORSIE void togliRiga(RigheAttive& r, int i, int arrivo) {
     const int spostata = r.indice[arrivo];
     std::swap(r.numero[i], r.numero[spostata]);

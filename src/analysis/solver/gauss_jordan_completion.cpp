@@ -63,7 +63,7 @@ KORVEN_CORSIE void completaBloccoSinistra(SistemaEliminato& s, int t0) {
         completaColonneSinistra<L, R>(s, t0, k0);
 }
 
-/// After this the cells left of the diagonal are the d of the passes behind the row's own.
+/// After this the cells left of the diagonal are the d of the passes after the row's own.
 template <int L>
 KORVEN_CORSIE void completaSinistra(SistemaEliminato& s) {
     int t0 = s.n;
@@ -153,8 +153,7 @@ void postiInversa(const SistemaEliminato& s, int* posto) {
     for (int t = 0; t < s.n; ++t) std::swap(posto[s.rigaPivot[t]], posto[s.colonnaPivot[t]]);
 }
 
-/// Column of the inverse at place v, for all rows: cell(t, v) takes the passes behind the row's
-/// own.
+/// Column of the inverse at place v, for all rows: cell(t, v) takes the passes after its row's own.
 KORVEN_CORSIE void scriviColonna(const SistemaEliminato& s, int v, int colonna, MatriceSistema& A) {
     double pivot[capacitaSistema];
     for (int j = 0; j <= v; ++j) pivot[j] = s.riga[j][v];

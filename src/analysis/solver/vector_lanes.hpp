@@ -18,7 +18,7 @@ extern bool registriLarghi;
 
 }  // namespace korven::analysis
 
-// In front of a function that calls a template over four lanes, behind a look at `registriLarghi`.
+// In front of a function that calls a template over four lanes, after a look at `registriLarghi`.
 #if defined(__x86_64__) && defined(__GNUC__) && !defined(__clang__)
 #define KORVEN_REGISTRI_LARGHI [[gnu::target("avx2")]]
 #else

@@ -8,8 +8,8 @@
 
 namespace korven::analysis {
 
-/// Follows a run that its user may stop, to tell afterwards where it stood. What is shown goes on
-/// to another progress display.
+/// Follows a run that its user may stop, to tell afterwards where it was. What is shown goes on to
+/// another progress display.
 class CorsaSeguita : public analysis::Avanzamento {
  public:
     explicit CorsaSeguita(analysis::Avanzamento& vista) : vista_(vista) {}
