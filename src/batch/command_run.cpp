@@ -41,7 +41,7 @@ void avvisaPosto() {
               << ": " << base::nomeRelazione(risultati) << '\n';
 }
 
-// What a run leaves behind, unless it was interrupted behind its calculation.
+// What a run leaves, unless it was interrupted after its calculation.
 int concludi(CorsaConsole& corsa, Esito& esito) {
     if (corsa.interrotta()) return nonEseguito;
     esito.calcolo = commands::leggiEsito();
@@ -93,8 +93,8 @@ bool giaDetto(const std::string& testo, const Esito& esito) {
     });
 }
 
-// What looks like a slip is told before the program computes with it; behind a run that was
-// refused, what else prevents it.
+// What looks like a slip is told before the program computes with it; after a run that was refused,
+// what else prevents it.
 int calcolaConRilievi(const Opzioni& opzioni, analysis::GuardiaRisultati& guardia, Esito& esito) {
     const Interruzioni interruzioni;
     esito.rilievi = review::esaminaFile(opzioni.progetto, project::Progetto);

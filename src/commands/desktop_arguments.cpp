@@ -31,7 +31,7 @@ constexpr OpzioneFinestre opzioniFinestre[] = {
     {"sync", false},           {"widgetcount", false},
 };
 
-// With one dash or two; the value stands behind "=" or is the next argument.
+// With one dash or two; the value follows "=" or is the next argument.
 const OpzioneFinestre* delleFinestre(std::string_view argomento) {
     argomento.remove_prefix(argomento.starts_with("--") ? 2 : 1);
     const std::string_view nome = argomento.substr(0, argomento.find('='));

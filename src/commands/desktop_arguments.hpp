@@ -15,7 +15,7 @@ struct ArgomentiDesktop {
                               ///< is well
 };
 
-/// Looks through the arguments behind the program's name, up to the first that is no option. The
+/// Looks through the arguments after the program's name, up to the first that is no option. The
 /// options of the window system are none of the program's and pass.
 /// @param esiste  tells whether a file exists: a project may have any name, "--help" too
 [[nodiscard]] ArgomentiDesktop leggiArgomenti(

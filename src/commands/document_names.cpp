@@ -14,8 +14,7 @@ std::string conEstensione(std::string_view nome, std::string_view estensione = e
     return std::string(nome).append(".").append(estensione);
 }
 
-// Beside `percorso`, with `coda` behind its name, and a number from 2 on if a file of that name
-// exists.
+// Beside `percorso`, with `coda` after its name, and a number from 2 on if that name is taken.
 std::string nomeLibero(std::string_view percorso, std::string_view coda,
                        std::string_view estensione,
                        const std::function<bool(const std::string&)>& esiste) {

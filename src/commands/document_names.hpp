@@ -21,9 +21,9 @@ inline constexpr std::string_view estensioneProgetti = "kvd";
 /// True if that name says that nothing was chosen: "*.kvd" or ".kvd", with or without a folder.
 [[nodiscard]] bool nessunaScelta(std::string_view nome);
 
-/// The name under which a project is saved that was called `risposta` in the save dialog: cut
-/// behind the first point of the whole path, whatever stands there, and "kvd" appended. A folder
-/// with a point in its name cuts the path there.
+/// The name under which a project is saved that was called `risposta` in the save dialog: cut after
+/// the first point of the whole path, wherever that is, and "kvd" appended. A folder with a point
+/// in its name cuts the path there.
 [[nodiscard]] std::string nomeDaSalvare(std::string_view risposta);
 
 /// The file name without its folder: what the save dialog proposes.
@@ -37,13 +37,13 @@ inline constexpr std::string_view estensioneProgetti = "kvd";
 /// a single one for the mark of an access key. Empty when no project is open.
 [[nodiscard]] std::string rigaFileCorrente(std::string_view percorso);
 
-/// Where the project goes that would be lost: beside `percorso`, "_recuperato" behind the name up
-/// to its last point, with a number from 2 on if that name is taken.
+/// Where the project goes that would be lost: beside `percorso`, "_recuperato" after the name up to
+/// its last point, with a number from 2 on if that name is taken.
 /// @param esiste  tells whether a name is taken
 [[nodiscard]] std::string nomeRecupero(std::string_view percorso,
                                        const std::function<bool(const std::string&)>& esiste);
 
-/// Where the rows of a table go that would be lost: beside `percorso`, "_righe" behind the name up
+/// Where the rows of a table go that would be lost: beside `percorso`, "_righe" after the name up
 /// to its last point, "txt", numbered likewise.
 [[nodiscard]] std::string nomeRighe(std::string_view percorso,
                                     const std::function<bool(const std::string&)>& esiste);

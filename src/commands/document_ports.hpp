@@ -6,7 +6,7 @@
 namespace korven::commands {
 
 /// The dialogs that ask for the name of a project. They show files of the pattern `modelloProgetti`
-/// whatever the case and put their extension behind a name that has none; whether a file may be
+/// whatever the case and add their extension to a name that has none; whether a file may be
 /// replaced is asked by the command, not by them. Names are absolute paths, UTF-8.
 class DialogoFile {
  public:

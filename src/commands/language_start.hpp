@@ -9,7 +9,7 @@
 
 namespace korven::commands {
 
-/// Number of this program among the maker's; it stands in the names of its files.
+/// Number of this program among the maker's, part of the names of its files.
 inline constexpr const char* numeroModulo = "06";
 
 /// What the start of the language asks of its surroundings.
@@ -32,7 +32,7 @@ struct PorteLingua {
 ///         from 1 to 6
 [[nodiscard]] bool iniziaLingua(const PorteLingua& porte);
 
-/// Path of the help file of the language in force, or of the one that stands in for it:
+/// Path of the help file of the language in force, or of the one that replaces it:
 /// "module06ita.hlp" in the program folder. It may not exist.
 extern std::string fileAiuto;
 

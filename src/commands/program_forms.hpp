@@ -8,9 +8,9 @@
 
 namespace korven::commands {
 
-/// The forms and devices behind the menu commands, plugged in by `main`: all of them, but those of
-/// the help where its file is missing. The call returns when the form is closed; preview and help
-/// stay while the program goes on. A command whose form is missing can't be chosen (`haForma`).
+/// The forms and devices of the menu commands, plugged in by `main`: all of them, but those of the
+/// help where its file is missing. The call returns when the form is closed; preview and help stay
+/// while the program goes on. A command whose form is missing can't be chosen (`haForma`).
 struct FormeProgramma {
     /// Shows the form of the current mask, a field form or a grid, with its values; hands what was
     /// confirmed back to it, and nothing when the form was left without.

@@ -90,14 +90,12 @@ class UscitaRelazione : public analysis::UscitaCalcolo {
 /// Writes a mark-up file as plain text beside it, replacing a file of that name.
 /// @return the path of the text file
 /// @throws base::ErroreFile if one can't be read or the other not be written, if the mark-up opens
-/// no
 ///         document, or if the text would take the place of the project or of the mark-up
 std::string scriviTesto(const std::string& relazione,
                         const base::Disco& disco = base::discoDiSistema());
 
 /// The report, its text, its word-processor and PDF file that lie where a run of this project
-/// writes them, if they are plain files: after a run that failed they must not be taken for its
-/// outcome.
+/// writes them, if they are plain files: a failed run must not seem to have made them.
 [[nodiscard]] std::vector<std::string> relazioniRimaste(const std::string& progetto);
 
 /// True if the first point of the path, which ends the name of the report, is not that of the

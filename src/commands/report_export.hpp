@@ -18,7 +18,7 @@ inline constexpr std::string_view filtroTxt = "NotePad|*.txt";
 inline constexpr std::string_view estensioneTxt = "txt";
 
 /// Asks for a file name in a dialog to open files, without the box for read-only files.
-/// @param proposto  the name that stands in its field
+/// @param proposto  the name that its field shows
 /// @return what was chosen or typed; empty when it was given up
 using ChiediNome = std::function<std::string(const std::string& proposto)>;
 

@@ -7,7 +7,7 @@
 namespace korven::commands {
 
 /// Copies the data files of an installed program into a folder of the user's, where it can keep
-/// what it is told. Programs stay behind. What the user may have changed there (language, pens,
+/// what it is told. Programs are not copied. What the user may have changed there (language, pens,
 /// printer, projects) is left alone; texts, hatches, masks and help, which belong to the program,
 /// follow the installed ones.
 /// @throws base::ErroreFile if the folder can't be made or a file can't be written

@@ -38,14 +38,13 @@ std::string chiavi(const auto& tabella) {
     return testo;
 }
 
-// A check would write its own name behind that of the value in the help.
+// A check would write its own name after that of the value in the help.
 CLI::Validator senzaNome(const CLI::Validator& controllo) { return controllo.description(""); }
 
 // A path without a character names nothing.
 const CLI::Validator nonVuoto([](std::string& testo) { return testo.empty() ? "?" : ""; }, "");
 
-// The library takes any next argument for the value: a forgotten one must not make a folder
-// "--json".
+// The library takes any next argument for the value, even "--json", and would make that folder.
 const CLI::Validator percorso(
     [](std::string& testo) { return testo.empty() || testo.starts_with('-') ? "?" : ""; }, "");
 
@@ -306,7 +305,7 @@ EsitoLettura leggiOpzioni(int argc, const char* const* argv) {
 std::string valoreAnticipato(int argc, const char* const* argv, const std::string& nome) {
     for (int i = 1; i < argc; ++i) {
         const std::string argomento = argv[i];
-        if (argomento == "--") return {};  // behind it there are no options
+        if (argomento == "--") return {};  // after it there are no options
         if (argomento.starts_with(nome + "=")) return argomento.substr(nome.size() + 1);
         if (argomento != nome) continue;
         const std::string valore = i + 1 < argc ? argv[i + 1] : "";

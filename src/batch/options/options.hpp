@@ -20,7 +20,7 @@ enum class Comando {
     tutto
 };
 
-/// The word that stands for a command on the command line.
+/// The word of a command on the command line.
 [[nodiscard]] const char* nomeComando(Comando comando);
 
 /// What the command line asks for.
@@ -30,7 +30,7 @@ struct Opzioni {
     std::string uscita;                  ///< folder for the results; empty: beside the project
     bool ricalcolaEJ = false;            ///< answer to the question about the stiffness
     std::optional<double> metodoSpinte;  ///< code to set after the project is read
-    std::optional<std::string> nseg;     ///< stands for the content of nseg.txt
+    std::optional<std::string> nseg;     ///< replaces the content of nseg.txt
     std::string cartella;                ///< program folder; empty: the usual one
     std::string lingua;                  ///< tag; empty: that of language.cfg
     bool json = false;

@@ -16,7 +16,7 @@ std::string uniti(const std::vector<std::string>& parole, const char* prima = " 
     return testo;
 }
 
-// The option that the library complains about: its text has the name first, the value behind it.
+// The option that the library complains about: its text has the name first, the value after it.
 const CLI::Option* opzioneDetta(const CLI::App& comando, const std::string& detto) {
     const CLI::Option* trovata = nullptr;
     std::size_t posto = std::string::npos, lunghezza = 0;
@@ -40,8 +40,7 @@ std::string primaDelComando(const std::string& opzione) {
     return traduttore("le opzioni stanno dopo il comando") + ": " + opzione;
 }
 
-// What stands in front of the command belongs to the program, which has no options but its help and
-// version.
+// What comes before the command belongs to the program, which has no options but help and version.
 std::string argomentiDiTroppo(const CLI::App& programma) {
     const auto prima = programma.remaining(false);
     for (const auto& argomento : prima)
@@ -79,7 +78,7 @@ std::string valoreVuoto(int argc, const char* const* argv) {
     return {};
 }
 
-// The library only says that a command is required, whatever stands in its place.
+// The library only says that a command is required, whatever is in its place.
 std::string comandoMancante(int argc, const char* const* argv,
                             const std::vector<std::string>& comandi) {
     if (argc > 1 && std::string_view(argv[1]).starts_with('-')) return primaDelComando(argv[1]);

@@ -32,7 +32,7 @@ class AvanzamentoConsole : public analysis::Avanzamento {
 /// Tells messages on standard error and answers the one question of a run as the command line said.
 class DialogoConsole : public base::Dialogo {
  public:
-    /// @param vista  its line is ended before a message, which stands on a line of its own
+    /// @param vista  its line is ended before a message, which has a line of its own
     DialogoConsole(bool ricalcolaEJ, AvanzamentoConsole& vista)
         : ricalcolaEJ_(ricalcolaEJ), vista_(vista) {}
 

@@ -15,7 +15,7 @@ void racconta(const std::vector<std::string>& righe, Esito& esito);
 void annotaRisultati(Esito& esito);
 
 /// The analysis with the console for its ports. While one of these lives an interrupt stops the run
-/// or, behind it, is kept in mind.
+/// or, after it, is kept in mind.
 class CorsaConsole {
  public:
     /// @param guardia  keeps the result file beyond this object's life, for as long as outputs are

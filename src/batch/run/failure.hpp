@@ -26,8 +26,8 @@ void raccontaGuasto(analysis::GuardiaRisultati& guardia, Esito& esito);
 void fallisci(int codice, const std::string& perche, Esito& esito);
 
 /// Tells of the report and the text of an earlier run, which lie where those of this failed one
-/// would be and may be taken for them. Whether they belong to the project as it now stands is not
-/// known; what this run has written itself is left out, under whatever name.
+/// would be and may be taken for them. Whether they belong to the project as it now is nobody
+/// knows; what this run has written itself is left out, under whatever name.
 void avvisaRelazioniRimaste(Esito& esito);
 
 }  // namespace korven::batch

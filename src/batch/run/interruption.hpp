@@ -8,7 +8,7 @@
 namespace korven::batch {
 
 /// Takes the signals that ask for the end of the program (Ctrl+C, termination, closed terminal) for
-/// as long as it lives: the length of a run with its report, since before and behind it there is
+/// as long as it lives: the length of a run with its report, since before and after it there is
 /// nothing to tidy up.
 ///
 /// The first signal only asks: the run stops at its next iteration and removes its result file; a

@@ -28,7 +28,7 @@ struct Esito {
     std::string fileRelazione, fileTesto, fileDocumento, filePdf;
 };
 
-/// The table of a run, a line a stage, with the traces of slow stages behind it if `traccia`.
+/// The table of a run, a line a stage, with the traces of slow stages after it if `traccia`.
 [[nodiscard]] std::string tabella(const Esito& esito, bool traccia);
 
 /// "da vedere: strato 1: ...", or what prevents a run.

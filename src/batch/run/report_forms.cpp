@@ -72,7 +72,7 @@ void controllaUscite(const FormeRelazione& forme) {
 }
 
 bool scriviRelazione(const FormeRelazione& forme, CorsaConsole& corsa, Esito& esito) {
-    // Not every value stands in every report, but no project is right with one.
+    // Not every value appears in every report, but no project is right with one.
     if (!review::mostrabile(project::Progetto)) throw base::ErroreValore();
     commands::UscitaRelazione uscita(true, forme.testo, forme.documento);
     if (!corsa.esegui(analysis::relazione, uscita)) return false;
