@@ -1,5 +1,6 @@
 #include "analysis/subgrade_modulus.hpp"
 
+#include <cassert>
 #include <cmath>
 
 #include "analysis/pressure_coefficients.hpp"
@@ -30,6 +31,7 @@ ModuloNodo lineare(const project::DatiProgetto& dati, const NodoKs& nodo) {
 }  // namespace
 
 FattoriPortanza fattoriPortanza(double phi) {
+    assert(phi != 0);
     const double radice = std::tan(pi / 4 + phi / 2);
     const double Nq = radice * radice * std::exp(pi * std::tan(phi));
     return {Nq, (Nq - 1) / std::tan(phi), 1.5 * (Nq - 1) * std::tan(phi)};

@@ -36,7 +36,7 @@ struct FattoriPortanza {
 ///     Nq = tan^2(pi/4 + phi/2) exp(pi tan phi),  Nc = (Nq - 1) / tan phi,
 ///     Ngamma = 1.5 (Nq - 1) tan phi
 ///
-/// @param phi  friction angle [rad], not 0
+/// @param phi  friction angle [rad], not 0: asserted
 /// Source: Hansen (1970), as Bowles (1996), chapter 4, reports him (neither looked up).
 [[nodiscard]] FattoriPortanza fattoriPortanza(double phi);
 

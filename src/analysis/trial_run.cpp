@@ -1,7 +1,9 @@
 #include "analysis/trial_run.hpp"
 
+#include <cassert>
 #include <cmath>
 
+#include "analysis/input_checks.hpp"
 #include "analysis/run_flags.hpp"
 #include "analysis/stage_sequence.hpp"
 #include "structure/stiffness_update.hpp"
@@ -21,6 +23,7 @@ bool mostrabili(const EstremiIterazione& estremi) {
 }  // namespace
 
 EsitoProva provaFasi(project::DatiProgetto dati, int nSeg, Avanzamento& avanzamento) {
+    assert(motivoRifiuto(dati).empty());
     if (dati.rigidezzaEJ == 0)
         dati.rigidezzaEJ = structure::rigidezzaOfferta(dati.sezione).value_or(0);
     const auto corsa = preparaCorsa(dati, nSeg);

@@ -15,7 +15,7 @@ struct EsitoProva {
 /// stage that fails, or where `avanzamento` sets `stopCalcolo`, which it clears at its start.
 /// @param dati  a copy, which the stages change; a stiffness of 0 is taken from the section
 /// @param nSeg  segments of the wall
-/// @pre no input check and no check of the soil fails
+/// @pre no input check fails, which is asserted, and no check of the soil
 [[nodiscard]] EsitoProva provaFasi(project::DatiProgetto dati, int nSeg, Avanzamento& avanzamento);
 
 }  // namespace korven::analysis

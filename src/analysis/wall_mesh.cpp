@@ -1,5 +1,6 @@
 #include "analysis/wall_mesh.hpp"
 
+#include <cassert>
 #include <cmath>
 
 namespace korven::analysis {
@@ -80,6 +81,7 @@ int nodoTirante(double profondita, double passoNodi) {
 }
 
 void assembla(const Parete& parete, MatriceSistema& A, VettoreNodi& b) {
+    assert(parete.n >= 4);
     equilibrioTagli(parete, A, b);
     equilibrioMomenti(parete, A, b);
     equilibrioGlobale(parete, A, b);

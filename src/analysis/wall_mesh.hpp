@@ -32,8 +32,9 @@ struct Parete {
 ///                       M(j) = -E(j) (y(j-1) - 2 y(j) + y(j+1)) / h^2 in both ends; 0 at the toe
 ///     row 2N+1          sum of all horizontal forces
 ///     row 2N+2          sum of their moments about the wall top
-///  Cells are assigned, never added to, and cells that no equation names are left as they are.
-/// @pre n >= 4
+///
+/// Cells are assigned, never added to, and cells that no equation names are left as they are.
+/// @pre n >= 4: asserted
 void assembla(const Parete& parete, MatriceSistema& A, VettoreNodi& b);
 
 }  // namespace korven::analysis

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cassert>
 #include <cstdint>
 
 namespace korven::base {
@@ -147,7 +148,10 @@ std::size_t numeroCaratteri(std::string_view utf8) {
     return n;
 }
 
-std::size_t lunghezzaPrimoCarattere(std::string_view utf8) { return primoCarattere(utf8).byte; }
+std::size_t lunghezzaPrimoCarattere(std::string_view utf8) {
+    assert(!utf8.empty());
+    return primoCarattere(utf8).byte;
+}
 
 std::string_view senzaSpaziEsterni(std::string_view testo) {
     const auto primo = testo.find_first_not_of(' ');

@@ -37,7 +37,8 @@ namespace korven::base {
 /// Number of characters of a UTF-8 text; a byte out of place counts as one.
 [[nodiscard]] std::size_t numeroCaratteri(std::string_view utf8);
 
-/// Length in bytes of the first character of a text that is not empty; 1 for a byte out of place.
+/// Length in bytes of the first character of a text; 1 for a byte out of place.
+/// @pre the text is not empty: asserted
 [[nodiscard]] std::size_t lunghezzaPrimoCarattere(std::string_view utf8);
 
 /// The text without its leading and trailing blanks (code 32 alone: a tab is content).

@@ -49,7 +49,7 @@ struct VoceMenu {
 /// The menu from left to right and from top to bottom.
 [[nodiscard]] std::span<const VoceMenu> albero();
 
-/// The item of a command. @pre not `nessuno`
+/// The item of a command. @pre not `nessuno`: asserted
 [[nodiscard]] const VoceMenu& voce(Comando comando);
 
 /// True for an item that opens a menu: the next one lies deeper.

@@ -13,7 +13,7 @@ namespace korven::commands {
 ///
 /// A result too large to be shown is told in a box like a refused run, sets `erroreCalcolo` and
 /// takes its result file with it. A result file or report that can't be written is told likewise.
-/// @pre one of the ten output commands, whose form is plugged in
+/// @pre one of the ten output commands, whose form is plugged in: asserted
 /// @throws base::ErroreFile if a file can't be read, or a drawing not be stored
 void produci(Comando comando, base::Dialogo& dialogo, analysis::Avanzamento& avanzamento,
              const FormeProgramma& forme);

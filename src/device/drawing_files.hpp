@@ -28,7 +28,7 @@ void scriviSvg(const std::string& percorso, const base::Disco& disco = base::dis
 
 /// On white ground, painted and written in strips: a sheet at the finest resolution takes half a
 /// gigabyte.
-/// @param dpi         resolution, within the limits above
+/// @param dpi         resolution, within the limits above: asserted
 /// @param byteFascia  memory of a strip, which has at least one row
 /// @throws base::ErroreFile with the system's reason
 void scriviPng(const std::string& percorso, int dpi, std::size_t byteFascia = std::size_t{1} << 25,

@@ -57,6 +57,7 @@ void ScrittorePng::scarica() {
 }
 
 void ScrittorePng::concludi() {
+    assert(png_get_current_row_number(png_) == png_get_image_height(png_, info_));
     png_write_end(png_, info_);
     scarica();
     file_.concludi();

@@ -22,11 +22,11 @@ class ScrittorePng {
     ScrittorePng& operator=(const ScrittorePng&) = delete;
     ~ScrittorePng();
 
-    /// The next rows from the top: the first `righe` of a picture in Format_RGB32.
+    /// The next rows from the top: the first `righe` of a picture in Format_RGB32 (asserted).
     /// @throws base::ErroreFile with the system's reason
     void scrivi(const QImage& fascia, int righe);
 
-    /// @pre all rows are written
+    /// @pre all rows are written: asserted
     /// @throws base::ErroreFile with the system's reason
     void concludi();
 

@@ -1,6 +1,7 @@
 #include "drawings/dimension_placing.hpp"
 
 #include <algorithm>
+#include <cassert>
 #include <cmath>
 #include <iterator>
 #include <numeric>
@@ -99,6 +100,7 @@ Disposizione::Posti Disposizione::prova(const std::vector<Candidate>& quote,
     Posti posti = posti_;
     posti.scelte.assign(quote.size(), nullptr);
     for (const std::size_t i : ordine) {
+        assert(!quote[i].empty());
         const auto prima = [&](bool ancheSullaSezione) {
             return std::find_if(quote[i].begin(), quote[i].end(), [&](const Quota& quota) {
                 return libera(quota, posti) &&

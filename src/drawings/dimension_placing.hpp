@@ -25,7 +25,7 @@ class Disposizione {
     /// take the only place of a later one, so other orders are tried where one finds none. Sections
     /// without measure, where no order serves all: a text that finds no other place lies on the
     /// section, clear of the other texts, or at its first place whatever lies there.
-    /// @pre every dimension has a candidate
+    /// @pre every dimension has a candidate: asserted
     void disponi(const std::vector<Candidate>& quote);
 
  private:

@@ -1,13 +1,16 @@
 #include "drawings/log_scale.hpp"
 
 #include <algorithm>
+#include <cassert>
 
 namespace korven::drawings {
 
 double bordoInferiore(double altezzaPagina) { return std::max(28.5 - altezzaPagina + 0.1, 0.6); }
 
 ScalaProfondita::ScalaProfondita(double profondita, double bordoInferiore)
-    : N_(100 * profondita / (20.6 - bordoInferiore)) {}
+    : N_(100 * profondita / (20.6 - bordoInferiore)) {
+    assert(profondita > 0 && bordoInferiore < 20.6);
+}
 
 double passoProfondita(double profondita) {
     if (profondita > 100) return 10;

@@ -22,6 +22,7 @@ class ScalaProfondita {
 
     /// @param profondita      foot of the last layer [m], above 0
     /// @param bordoInferiore  of the drawing [cm], below 20.6
+    /// @pre both in range: asserted
     ScalaProfondita(double profondita, double bordoInferiore);
 
     /// The scale is 1 : N, with N = 100 H / (20.6 - lower edge): all layers fill the column.

@@ -60,7 +60,7 @@ struct Schizzo {
 /// 0 or less the sketch takes one in a usual proportion to the others; where the values do not fit
 /// each other (bars that do not fit into the wall, a tube without wall, proportions in which
 /// nothing could be told apart) it is drawn after an example and not after them.
-/// @pre not the materials
+/// @pre not the materials: asserted
 [[nodiscard]] Schizzo schizzoSezione(masks::RiquadroSezione riquadro,
                                      const project::Sezione& sezione);
 

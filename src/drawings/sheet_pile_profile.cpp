@@ -1,6 +1,7 @@
 #include "drawings/sheet_pile_profile.hpp"
 
 #include <algorithm>
+#include <cassert>
 
 namespace korven::drawings {
 
@@ -26,6 +27,7 @@ std::array<plot::Punto, 6> faccia(const structure::PalancolaMm& p, double dx, do
 }  // namespace
 
 std::array<plot::Punto, 12> profiloPalancola(const structure::PalancolaMm& p) {
+    assert(p.altAla > 0);
     const double mezzaAla = structure::spessoreOrizzontaleAla(p) / 2;
     const auto valle = faccia(p, p.spessore / 2, mezzaAla);
     const auto monte = faccia(p, -p.spessore / 2, -mezzaAla);

@@ -9,7 +9,7 @@ namespace korven::drawings {
 /// Draws the soil profile on one sheet of 20 by 28.5 cm: depths, graphic and description of the
 /// layers, the uphill water table, profiles of their parameters, a depth scale. The headings are
 /// above it as they were typed. The scale is such that the layers fill the height of the sheet.
-/// @param dati           at least one layer, the last of them ending below 0
+/// @param dati           at least one layer, the last of them ending below 0: asserted
 /// @param altezzaPagina  of the printer [cm] (log_scale.hpp)
 /// @throws base::ErroreFile   when a configuration, hatch or spill file can't be used
 /// @throws base::ErroreIndice when a description needs more than 100 lines, or the texts are more

@@ -1,6 +1,7 @@
 #include "masks/edited_section.hpp"
 
 #include <algorithm>
+#include <cassert>
 
 #include "base/number_text.hpp"
 
@@ -25,6 +26,11 @@ SezioneEditata::SezioneEditata(project::Sezione& sezione, bool& modificato)
     for (std::size_t i = 0; i < numeroCampiSezione; ++i)
         testi_[i] = base::testoNumero(sezione.*campiSezione[i].valore * campiSezione[i].fattore);
     mostrati_ = testi_;
+}
+
+void SezioneEditata::scegli(RiquadroSezione tipo) {
+    assert(tipo != RiquadroSezione::materiali);
+    tipo_ = tipo;
 }
 
 double SezioneEditata::scritto(std::size_t campo) const {

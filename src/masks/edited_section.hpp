@@ -71,8 +71,8 @@ class SezioneEditata {
 
     /// The type chosen, whose frame is the one that shows.
     [[nodiscard]] RiquadroSezione tipo() const { return tipo_; }
-    /// @pre not the materials
-    void scegli(RiquadroSezione tipo) { tipo_ = tipo; }
+    /// @pre not the materials: asserted
+    void scegli(RiquadroSezione tipo);
 
     /// Text of field `campo` of `campiSezione`, as plain number of the stored value at first.
     [[nodiscard]] const std::string& testo(std::size_t campo) const { return testi_[campo]; }

@@ -38,7 +38,7 @@ class Maschere {
     /// @throws base::ErroreIndice for a number without mask
     void selezionaMaschera(int numero);
 
-    /// The current mask. @pre one is selected
+    /// The current mask. @pre one is selected: asserted
     [[nodiscard]] const Maschera& corrente() const;
     /// Number of the current mask, from 1. @pre one is selected
     [[nodiscard]] int numero() const { return static_cast<int>(corrente_.value()) + 1; }

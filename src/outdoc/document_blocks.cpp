@@ -1,6 +1,7 @@
 #include "outdoc/document_blocks.hpp"
 
 #include <algorithm>
+#include <cassert>
 
 #include "markup/estimated_width.hpp"
 #include "markup/report_page.hpp"
@@ -71,6 +72,7 @@ std::vector<double> columnWidths(markup::CellGrid& grid, const markup::FittedTab
 std::string tableWords(markup::CellGrid& grid, const std::vector<double>& widths,
                        Alignment alignment, std::string_view columnStyle, const ReportFont& font,
                        int keptRows) {
+    assert(grid.rowCount() >= 1);
     std::string words = tableHead(widths, alignment);
     for (int row = 1; row <= grid.rowCount(); ++row) {
         const bool head = row == 1;

@@ -23,7 +23,7 @@ namespace korven::outdoc {
 /// lines part it from the others and close the table.
 /// @param keptRows  rows from the first that stay on the page of the row, or of the paragraph,
 ///                  after them; the head does in any case
-/// @pre the grid holds at least one row
+/// @pre the grid holds at least one row: asserted
 [[nodiscard]] std::string tableWords(markup::CellGrid& grid, const std::vector<double>& widths,
                                      markup::Alignment alignment, std::string_view columnStyle,
                                      const markup::ReportFont& font, int keptRows = 0);

@@ -1,13 +1,16 @@
 #pragma once
 
 #include <algorithm>
+#include <cassert>
+#include <cmath>
 
 namespace korven::plot {
 
 /// A measure in pixels of a device, its fraction cut off. What lies beyond any device is held at a
 /// thousand million pixels on either side, so that every measure has a whole number.
-/// @pre `misura` is finite
+/// @pre `misura` is finite: asserted
 [[nodiscard]] inline int pixelInteri(double misura) {
+    assert(std::isfinite(misura));
     constexpr double limite = 1e9;
     return static_cast<int>(std::clamp(misura, -limite, limite));
 }

@@ -17,7 +17,7 @@ struct Fogli {
 ///
 ///     n foglio - (n - 1) sovrapposizione >= misura,  n >= 1
 ///
-/// @pre sovrapposizione < foglio, else no number of sheets is enough
+/// @pre sovrapposizione < foglio, asserted: else no number of sheets is enough
 [[nodiscard]] int fogliPerCoprire(double misura, double foglio, double sovrapposizione);
 
 /// Sheets for a drawing at full size.

@@ -16,7 +16,7 @@ struct DisposizioneSuperficie {
 
 /// Gives a surface the largest size in its room that keeps the proportions of the window. A surface
 /// narrower than six tool strips is widened to that, and the window grows to the right with it.
-/// @pre the window has a width and a height
+/// @pre the window has a width and a height: asserted
 [[nodiscard]] DisposizioneSuperficie disponiSuperficie(const Riquadro& finestra,
                                                        const SpazioDisegno& spazio);
 

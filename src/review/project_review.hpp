@@ -29,7 +29,8 @@ struct Rilievo {
 /// Computes the stages in memory, which takes as long as a run, and writes nothing.
 /// @param maxIterazioni  of a stage, as for a run
 /// @return why a run would come to no result; nothing if it would
-/// @pre `dati` are computable as far as the reviews above can tell
+/// @pre `dati` are computable as far as the reviews above can tell; that no input check fails is
+///      asserted
 [[nodiscard]] std::optional<Rilievo> provaCalcolo(const project::DatiProgetto& dati,
                                                   int maxIterazioni);
 

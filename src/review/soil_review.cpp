@@ -1,7 +1,9 @@
 #include <algorithm>
+#include <cassert>
 #include <cmath>
 #include <memory>
 
+#include "analysis/input_checks.hpp"
 #include "analysis/node_vector.hpp"
 #include "analysis/run_arrays.hpp"
 #include "analysis/vertical_stress.hpp"
@@ -152,6 +154,7 @@ void controlloTerreno(const DatiProgetto& dati, ElencoRilievi& elenco) {
 }
 
 void controlloSuolo(const DatiProgetto& scritti, int nSeg, ElencoRilievi& elenco) {
+    assert(analysis::motivoRifiuto(scritti).empty());
     DatiProgetto dati = scritti;
     const auto suolo = std::make_unique<analysis::StatoSuolo>();
     const double passoNodi = dati.lunghezzaParatia / nSeg;

@@ -1,7 +1,10 @@
 #include "structure/bending_resistance.hpp"
 
+#include <cassert>
+
 #include "structure/partial_factors.hpp"
 #include "structure/section_type.hpp"
+#include "structure/section_validity.hpp"
 #include "structure/strip_areas.hpp"
 
 namespace korven::structure {
@@ -50,7 +53,9 @@ MomentiResistenti resistenzaPaliArmati(const PaliArmatiMm& p, const MaterialiFle
 void momentiResistenti(const project::Sezione& s, double sforzoNormale, MomentiResistenti& MRd) {
     const double Nd = fsAzioniSezione * newtonPerTonnellata * sforzoNormale;
     const MaterialiFlessione materiali{.modEacciaio = s.modEacciaio, .fyk = s.fyk, .fck = s.fck};
-    switch (tipoSezione(s)) {
+    const TipoSezione tipo = tipoSezione(s);
+    assert(tipo == TipoSezione::nessuno || sezioneValida(s));
+    switch (tipo) {
         case TipoSezione::diaframma:
             MRd = resistenzaDiaframma(diaframmaMm(s), materiali, Nd, bStrisciaMetro);
             break;

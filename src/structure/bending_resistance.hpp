@@ -35,7 +35,7 @@ struct MaterialiFlessione {
 /// @param sforzoNormale  axial force on one metre of wall [t], positive in compression; designed
 ///                       for with the action factor, Nd = 1.4 x 10000 x sforzoNormale [N]
 /// @param MRd            result [N mm]; stays as the caller initialised it if no flag is true
-/// @pre `sezioneValida`
+/// @pre a section of a type is `sezioneValida`: asserted
 /// Source: CEN, ENV 1992-1-1 (1991), 4.3.1 (not looked up), with a concrete factor of 1.6
 void momentiResistenti(const project::Sezione& sezione, double sforzoNormale,
                        MomentiResistenti& MRd);

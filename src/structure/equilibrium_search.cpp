@@ -1,5 +1,6 @@
 #include "structure/equilibrium_search.hpp"
 
+#include <cassert>
 #include <cmath>
 
 namespace korven::structure {
@@ -11,6 +12,7 @@ constexpr double tolleranzaForza = 1;  // N
 }  // namespace
 
 double cercaDeformazione(const ModelloStrisce& m, int k, double chi, double Nd) {
+    assert((k == 1 || k == -1) && k * chi >= 0);
     const double D = nStrisce * m.dy * chi;
     double inferiore = k == 1 ? -0.01 - D : -0.01;
     double superiore = k == 1 ? 0.01 : 0.01 - D;

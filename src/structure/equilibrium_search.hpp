@@ -15,6 +15,7 @@ namespace korven::structure {
 /// @param k    direction of bending: 1 stretches the uphill side (chi above 0), -1 the downhill one
 /// @param chi  curvature [1/mm], of the sign of k or 0
 /// @param Nd   design axial force [N], positive in compression
+/// @pre k is 1 or -1, and chi of its sign: asserted
 [[nodiscard]] double cercaDeformazione(const ModelloStrisce& modello, int k, double chi, double Nd);
 
 /// True when the strip forces balance the axial force within 1 N; false for a sum not finite.

@@ -1,9 +1,11 @@
 #include "structure/shear_check.hpp"
 
+#include <cassert>
 #include <cmath>
 #include <numbers>
 
 #include "structure/partial_factors.hpp"
+#include "structure/section_validity.hpp"
 
 namespace korven::structure {
 
@@ -20,6 +22,7 @@ double perMetro(double Vrd, double armInterasse) { return Vrd / 1000 * 100 / arm
 }  // namespace
 
 TaglioResistente verificaTaglio(const project::Sezione& s, double Nsd) {
+    assert(sezioneValida(s) && staffePresenti(s));
     const double fcd = s.fck / fsCalcestruzzo;
     const double fyd = s.fyk / fsAcciaio;
     const double d = 10 * (s.armDiamPalo - s.armCopriferro - s.armDiamLong / 2);

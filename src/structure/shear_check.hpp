@@ -30,10 +30,10 @@ struct TaglioResistente {
 /// above 600 mm, and below 0 for d above 1600 mm, where Vrd1 lowers Vrd3. armNumLong counts as it
 /// is stored. A resistance that has no value (no effective depth) is 0.
 ///
-/// @param sezione  as stored (cm, N/mm2); the type flags are not looked at
+/// @param sezione  as stored (cm, N/mm2)
 /// @param Nsd      axial force [N], positive in compression. The report passes 0: the axial force
 ///                 of the project enters the bending check alone
-/// @pre `sezioneValida` and `staffePresenti`
+/// @pre `sezioneValida` and `staffePresenti`: asserted
 /// Source: CEN, ENV 1992-1-1 (1991), 4.3.2.3 and 4.3.2.4.3 (not looked up); concrete factor 1.6
 [[nodiscard]] TaglioResistente verificaTaglio(const project::Sezione& sezione, double Nsd);
 

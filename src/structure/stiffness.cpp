@@ -1,10 +1,12 @@
 #include "structure/stiffness.hpp"
 
+#include <cassert>
 #include <cmath>
 #include <numbers>
 
 #include "structure/section_millimetres.hpp"
 #include "structure/section_type.hpp"
+#include "structure/section_validity.hpp"
 
 namespace korven::structure {
 
@@ -69,7 +71,9 @@ double rigidezzaPaliArmati(const PaliArmatiMm& p, double Ec, double Es) {
 }  // namespace
 
 double calcolaEJ(const project::Sezione& s) {
-    switch (tipoSezione(s)) {
+    const TipoSezione tipo = tipoSezione(s);
+    assert(tipo == TipoSezione::nessuno || sezioneValida(s));
+    switch (tipo) {
         case TipoSezione::diaframma:
             return rigidezzaDiaframma(diaframmaMm(s), s.modEcls, s.modEacciaio);
         case TipoSezione::pali:

@@ -32,9 +32,9 @@ namespace korven::structure {
 /// Source: the uncracked homogenised section of elastic theory; the uphill term of x without half
 /// the diameter is this program's own
 ///
-/// @pre `sezioneValida`; then no divisor is 0. The result is not finite only if the numbers
-///      overflow (lengths beyond 1e70), or if steel softer than concrete makes the homogenised
-///      section vanish
+/// @pre a section of a type is `sezioneValida`: asserted. Then no divisor is 0; the result is not
+///      finite only if the numbers overflow (lengths beyond 1e70), or if steel softer than concrete
+///      makes the homogenised section vanish
 [[nodiscard]] double calcolaEJ(const project::Sezione& sezione);
 
 }  // namespace korven::structure

@@ -36,7 +36,7 @@ TEST(CalcolaEJ, DiaphragmWithSteelAsStiffAsConcreteIsAPlainRectangle) {
 // Av = pi 30^2/4/100 = 7.068583; x = 515.16398 mm from the uphill face;
 // EJ = 25e6 [ 1000^3/12 + 7 (Av (925 - x)^2 + Am (x - 60)^2) ].
 TEST(CalcolaEJ, DiaphragmOfTwoUnequalFacesMatchesTheHandCalculation) {
-    Sezione s;
+    Sezione s = sezioneConMateriali();
     s.tipoDiaframma = true;
     s.modEcls = 25000;
     s.modEacciaio = 200000;
@@ -104,6 +104,7 @@ TEST(CalcolaEJ, SheetPileMatchesTheHandCalculationAndNeedsNoConcrete) {
     Sezione s;
     s.tipoPalancola = true;
     s.modEacciaio = 200000;
+    s.fyk = 430;
     s.palancolaBase = 20;
     s.palancolaLargAla = 30;
     s.palancolaAltAla = 40;

@@ -1,6 +1,7 @@
 #include "batch/run/failure.hpp"
 
 #include <algorithm>
+#include <cassert>
 #include <exception>
 #include <iostream>
 
@@ -28,6 +29,7 @@ void togliRisultati(analysis::GuardiaRisultati& guardia, Esito& esito) {
 }  // namespace
 
 void raccontaGuasto(analysis::GuardiaRisultati& guardia, Esito& esito) {
+    assert(std::current_exception());
     try {
         throw;
     } catch (const base::ErroreValore& errore) {
