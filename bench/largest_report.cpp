@@ -23,7 +23,7 @@ std::string relazionePiuLunga() {
             fase.momentoNodo[i] = 5.0 * k * std::sin(0.05 * i);
         }
     }
-    return base::inCp1252(report::testoRelazione(dati));
+    return base::inCp1252(report::testoRelazione(dati, "muro.kvd"));
 }
 
 }  // namespace korven::bench
