@@ -43,7 +43,7 @@ void impostaModoProva(Dialogo* dialogo);
 /// The rule of `traduttore` on tables of one's own, already sorted.
 /// @param prova     dialog of the test mode, nullptr when it is off
 /// @param aggiunti  where a text is looked up that the first table lacks; nullptr: nowhere
-[[nodiscard]] std::string traduci(const TabellaTesti& testi, int lingua, std::string_view testo,
+[[nodiscard]] std::string traduci(const TabellaTesti& testi, int codice, std::string_view testo,
                                   Dialogo* prova = nullptr, const TabellaTesti* aggiunti = nullptr);
 
 }  // namespace korven::base

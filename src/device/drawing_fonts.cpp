@@ -25,7 +25,7 @@ QString famiglia(std::string_view carattere) {
         {"Courier New", "Liberation Mono"},
         {"Times New Roman", "Liberation Serif"},
     }};
-    const QString voluta = qt(carattere);
+    QString voluta = qt(carattere);
     if (QFontDatabase::hasFamily(voluta)) return voluta;
     for (const auto& [nome, sostituto] : sostituti)
         if (voluta.compare(nome, Qt::CaseInsensitive) == 0) return sostituto;

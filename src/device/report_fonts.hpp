@@ -15,7 +15,7 @@ namespace korven::device {
 /// A typeface of the printed report, in which a text is as wide as the sum of its characters: no
 /// kerning, no ligatures. Heights are shares of the font's size.
 struct CarattereRelazione {
-    explicit CarattereRelazione(const markup::ReportFont& font);
+    explicit CarattereRelazione(const markup::ReportFont& voluto);
 
     /// Width of a text [points].
     /// @param corpo  font size [points]

@@ -6,6 +6,7 @@
 #include <QPdfWriter>
 #include <QPrinter>
 #include <QPrinterInfo>
+#include <utility>
 
 #include "base/files.hpp"
 #include "base/translated_texts.hpp"
@@ -139,9 +140,12 @@ struct FilePdf {
 
 class SuPdf : private FilePdf, public PagineRelazione {
  public:
-    SuPdf(const std::string& percorso, const QPageLayout& pagina, const QString& titolo,
+    SuPdf(std::string percorso, const QPageLayout& pagina, const QString& titolo,
           const base::Disco& disco)
-        : FilePdf(pagina, titolo), PagineRelazione(scrittore), percorso_(percorso), disco_(disco) {}
+        : FilePdf(pagina, titolo),
+          PagineRelazione(scrittore),
+          percorso_(std::move(percorso)),
+          disco_(disco) {}
 
     void endJob() override {
         pittore().end();

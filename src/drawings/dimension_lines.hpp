@@ -22,7 +22,8 @@ enum class Lato { monte, valle };
 
 /// A text and how long it is in the pen in use, measured once for all the places that are tried.
 struct Scritta {
-    Scritta(const std::string& scritto);
+    // A text is put in wherever one of these is asked for: implicit on purpose.
+    Scritta(const std::string& scritto);  // NOLINT(google-explicit-constructor)
 
     std::string testo;
     double lungo;  ///< [cm]

@@ -101,8 +101,9 @@ void disegnaCampionario() {
     const double larghezza = (plot::larghQuadro + margine) / colonne;
     const double altezza = (cima - piede) / righe;
     for (int k = 0; k < n; ++k) {
-        const double x = plot::x0 + k / righe * larghezza;
-        const double y = cima - k % righe * altezza;
+        const int colonna = k / righe, riga = k % righe;
+        const double x = plot::x0 + colonna * larghezza;
+        const double y = cima - riga * altezza;
         disegnaCampione(numeri[static_cast<std::size_t>(k)],
                         {x, y - altezza, x + larghezza - margine, y});
     }

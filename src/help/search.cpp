@@ -110,6 +110,7 @@ std::vector<Trovata> cercaNellaGuida(const Guida& guida, std::string_view cerca)
     std::stable_sort(pesate.begin(), pesate.end(),
                      [](const Pesata& a, const Pesata& b) { return a.peso > b.peso; });
     std::vector<Trovata> trovate;
+    trovate.reserve(pesate.size());
     for (auto& pesata : pesate) trovate.push_back(std::move(pesata.trovata));
     return trovate;
 }

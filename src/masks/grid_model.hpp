@@ -47,14 +47,14 @@ class GridModel {
     [[nodiscard]] std::string titolo() const;
     [[nodiscard]] int colonne() const { return celle_.colonne(); }
     /// Head of a column, 0 for that of the row numbers.
-    [[nodiscard]] const std::string& etichetta(int colonna) const;
+    [[nodiscard]] const std::string& etichetta(int numero) const;
     /// The texts that a column must have room for: its label, and as many digits as its type is
     /// long; each between blanks. The wider one counts.
-    [[nodiscard]] std::array<std::string, 2> campioniLarghezza(int colonna) const;
+    [[nodiscard]] std::array<std::string, 2> campioniLarghezza(int numero) const;
     /// True when a column holds numbers, which are aligned at the right.
-    [[nodiscard]] bool numerica(int colonna) const;
+    [[nodiscard]] bool numerica(int numero) const;
     /// True when a column is shown and never changed: typing and pasting leave it as it is.
-    [[nodiscard]] bool soloLettura(int colonna) const;
+    [[nodiscard]] bool soloLettura(int numero) const;
     [[nodiscard]] const std::string& testo(PostoGriglia posto) const;
 
     [[nodiscard]] PostoGriglia corrente() const { return corrente_; }

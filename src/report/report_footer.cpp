@@ -96,9 +96,8 @@ std::string testoPiede(const DatiPiede& dati, const Foglio& foglio) {
         return unite({base::nomeEVersione, progetto, metodo, segmenti, terreno});
     };
 
-    const std::string intera =
-        riga(nome, traduttore("nessun coefficiente di sicurezza sul terreno"));
-    const std::string conSottotitolo =
+    std::string intera = riga(nome, traduttore("nessun coefficiente di sicurezza sul terreno"));
+    std::string conSottotitolo =
         unite({intera, traduttore("Dimensionamento di Paratie e Diaframmi")});
     if (misura.traIMargini(conSottotitolo)) return conSottotitolo;
     if (misura.sullaPagina(intera)) return intera;

@@ -45,7 +45,7 @@ void controlloTerreno(const project::DatiProgetto& dati, ElencoRilievi& elenco);
 
 /// The soil values of all stages, as a run would compute them.
 /// @pre no input check fails: asserted
-void controlloSuolo(const project::DatiProgetto& dati, int nSeg, ElencoRilievi& elenco);
+void controlloSuolo(const project::DatiProgetto& scritti, int nSeg, ElencoRilievi& elenco);
 
 /// The fields whose shown value, ten times the stored one, is no number any more.
 void controlloMostrati(const project::DatiProgetto& dati, ElencoRilievi& elenco);

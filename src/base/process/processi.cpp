@@ -24,6 +24,7 @@ pid_t genera(const std::string& programma, const std::vector<std::string>& argom
     std::vector<std::string> parole{programma};
     parole.insert(parole.end(), argomenti.begin(), argomenti.end());
     std::vector<char*> argv;
+    argv.reserve(parole.size() + 1);
     for (auto& parola : parole) argv.push_back(parola.data());
     argv.push_back(nullptr);
 

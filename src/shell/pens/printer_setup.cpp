@@ -52,7 +52,7 @@ void impostaStampante(QPrinter& stampante, bool haStampanti, base::Dialogo& dial
 
 void collegaDisegni(commands::FormeProgramma& forme, QWidget& principale, base::Dialogo& dialogo,
                     std::function<QPrinter&()> stampante,
-                    std::function<void(const std::string&)> annuncia) {
+                    const std::function<void(const std::string&)>& annuncia) {
     struct Disegni {
         Disegni(QWidget& finestra, base::Dialogo& d, const std::function<QPrinter&()>& carta,
                 const std::function<void(const std::string&)>& scritto)

@@ -24,6 +24,6 @@ void impostaStampante(QPrinter& stampante, bool haStampanti, base::Dialogo& dial
 /// @param annuncia    told the path of each file of a drawing that was written; may be empty
 void collegaDisegni(commands::FormeProgramma& forme, QWidget& principale, base::Dialogo& dialogo,
                     std::function<QPrinter&()> stampante,
-                    std::function<void(const std::string&)> annuncia = {});
+                    const std::function<void(const std::string&)>& annuncia = {});
 
 }  // namespace korven::shell

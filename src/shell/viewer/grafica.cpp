@@ -148,6 +148,7 @@ void GRAFICA::esportaImmagine() {
 
 void GRAFICA::keyPressEvent(QKeyEvent* evento) {
     const QString tasto = evento->text().toUpper();
+    // NOLINTBEGIN(bugprone-branch-clone): the keys in the order in which they are looked at
     if (evento->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))
         QWidget::keyPressEvent(evento);
     else if (tasto == QLatin1String("S"))
@@ -164,6 +165,7 @@ void GRAFICA::keyPressEvent(QKeyEvent* evento) {
         close();
     else
         QWidget::keyPressEvent(evento);
+    // NOLINTEND(bugprone-branch-clone)
 }
 
 void GRAFICA::closeEvent(QCloseEvent* evento) {
