@@ -65,7 +65,7 @@ int versa(const std::string& testo, int codice) {
     return ingressoRotto;
 }
 
-void lavora(const Opzioni& opzioni, std::exception_ptr senzaLingua,
+void lavora(const Opzioni& opzioni, const std::exception_ptr& senzaLingua,
             analysis::GuardiaRisultati& guardia, Esito& esito) {
     try {
         if (senzaLingua) std::rethrow_exception(senzaLingua);

@@ -35,8 +35,8 @@ using NomeLibero = std::string (*)(std::string_view,
 // Into the first folder that takes it; empty where none does.
 std::string recupera(std::string_view byte, NomeLibero nome, const base::Disco& disco) {
     for (const auto& cartella : cartelleRecupero()) {
-        const std::string file = nome(
-            (cartella / fs::path(project::fileCorrente).filename()).string(), base::esisteNome);
+        std::string file = nome((cartella / fs::path(project::fileCorrente).filename()).string(),
+                                base::esisteNome);
         try {
             base::scriviFileNuovo(file, byte, disco);
             return file;

@@ -67,7 +67,7 @@ KORVEN_CORSIE MascheraCorsie<L> sotto(int k) {
 
 template <class Valori>
 KORVEN_CORSIE Valori assoluto(const Valori& v) {
-    using Bit = decltype(v < v);
+    using Bit = decltype(v < Valori{});
     constexpr std::int64_t senzaSegno = 0x7fff'ffff'ffff'ffff;
     return reinterpret_cast<Valori>(reinterpret_cast<Bit>(v) & senzaSegno);
 }

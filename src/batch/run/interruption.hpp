@@ -1,6 +1,6 @@
 #pragma once
 
-#include <signal.h>
+#include <signal.h>  // NOLINT(modernize-deprecated-headers): sigaction is no part of csignal
 
 #include <array>
 #include <csignal>
