@@ -12,7 +12,7 @@
 #include "commands/project_commands.hpp"
 #include "example_run.hpp"
 #include "shell/run/progress_qt.hpp"
-#include "support/quiet_ports.hpp"
+#include "support/dialog_double.hpp"
 #include "support/temporary_folder.hpp"
 
 // How long the stop button waits while a run goes on: the longest time between two moments at which
@@ -51,13 +51,13 @@ void ServeTheEventQueue(benchmark::State& stato) {
     const auto dati = bench::esempio("paratia_lunga_incastro");
     analysis::contenutoNSeg = std::to_string(stato.range(0));
     project::fileCorrente = cartella / "muro.kvd";
-    test::PorteMute muto;
+    test::DialogoFinto dialogo(base::Risposta::no);
     commands::UscitaRelazione uscita(false);
     Attese attese;
     for (auto _ : stato) {
         std::filesystem::remove(base::nomeRisultati(project::fileCorrente));
         project::Progetto = dati;
-        analysis::CalcoloParatia(analysis::relazione, {muto, attese, uscita});
+        analysis::CalcoloParatia(analysis::relazione, {dialogo, attese, uscita});
         if (analysis::erroreCalcolo) stato.SkipWithError("no results");
     }
     stato.counters["iterazioni"] =

@@ -10,7 +10,8 @@
 #include "example_run.hpp"
 #include "plot/plot_configuration.hpp"
 #include "plot/plot_engine.hpp"
-#include "support/quiet_ports.hpp"
+#include "support/dialog_double.hpp"
+#include "support/progress_double.hpp"
 #include "support/temporary_folder.hpp"
 
 // A diagram of the largest example from its result file to the finished store.
@@ -34,9 +35,10 @@ void diagramma(benchmark::State& stato, analysis::Diagramma quale) {
     project::Progetto = bench::esempio("paratia_lunga_incastro");
     analysis::contenutoNSeg = std::to_string(stato.range(0));
     project::fileCorrente = cartella / "muro.kvd";
-    test::PorteMute mute;
+    test::DialogoFinto dialogo(base::Risposta::no);
+    test::AvanzamentoFinto avanzamento;
     commands::UscitaDiagramma uscita;
-    analysis::CalcoloParatia(quale, {mute, mute, uscita});
+    analysis::CalcoloParatia(quale, {dialogo, avanzamento, uscita});
     if (analysis::erroreCalcolo) stato.SkipWithError("no results");
     project::fileCorrente = base::nomeRisultati(project::fileCorrente);
     for (auto _ : stato) drawings::disegnaDiagramma(quale);

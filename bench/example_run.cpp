@@ -6,19 +6,9 @@
 #include "analysis/run_flags.hpp"
 #include "analysis/stage_sequence.hpp"
 #include "project/project_file.hpp"
+#include "support/progress_double.hpp"
 
 namespace korven::bench {
-
-namespace {
-
-class Nessuno : public analysis::Avanzamento {
- public:
-    void apri() override {}
-    void iterazione(const analysis::StatoIterazione&) override {}
-    void chiudi() override {}
-};
-
-}  // namespace
 
 project::DatiProgetto esempio(const std::string& nome) {
     auto file = base::LettoreRighe::apri(std::string(KORVEN_EXAMPLES) + "/" + nome + ".kvd");
@@ -33,9 +23,9 @@ std::unique_ptr<analysis::ArraysCorsa> corsaConvergente(project::DatiProgetto da
     corsa->nNodi = nSeg + 1;
     corsa->passoNodi = dati.lunghezzaParatia / nSeg;
     corsa->vincolo = analysis::vincoli(dati);
-    Nessuno nessuno;
+    test::AvanzamentoFinto avanzamento;
     for (int k = 1; k <= dati.nFasi; ++k)
-        if (analysis::risolviFase(k, dati, *corsa, nessuno).esito !=
+        if (analysis::risolviFase(k, dati, *corsa, avanzamento).esito !=
             analysis::EsitoFase::convergente)
             throw std::runtime_error("no rest in stage " + std::to_string(k));
     analysis::classificaNodi(dati, *corsa);

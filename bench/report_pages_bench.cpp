@@ -9,7 +9,7 @@
 #include "largest_report.hpp"
 #include "markup/print_renderer.hpp"
 #include "shell/report/form1.hpp"
-#include "support/quiet_ports.hpp"
+#include "support/dialog_double.hpp"
 #include "support/temporary_folder.hpp"
 
 // The largest report there can be with the fonts, pages and list of Qt, from the mark-up file to
@@ -28,7 +28,7 @@ struct Relazione {
 
 void stampaPdf(benchmark::State& stato) {
     const Relazione relazione;
-    test::PorteMute dialogo;
+    test::DialogoFinto dialogo;
     for (auto _ : stato) {
         const auto carta = device::relazioneSuPdf(relazione.pdf, "muro");
         markup::printReport(relazione.percorso, *carta, dialogo);

@@ -8,7 +8,8 @@
 #include "base/file_names.hpp"
 #include "commands/project_commands.hpp"
 #include "example_run.hpp"
-#include "support/quiet_ports.hpp"
+#include "support/dialog_double.hpp"
+#include "support/progress_double.hpp"
 #include "support/temporary_folder.hpp"
 
 // Whole runs of the largest example, a long wall with six layers and six stages, files included.
@@ -22,11 +23,12 @@ void corsa(benchmark::State& stato, bool aggiornata, bool relazione) {
     const auto dati = bench::esempio("paratia_lunga_incastro");
     analysis::contenutoNSeg = std::to_string(stato.range(0));
     project::fileCorrente = cartella / "muro.kvd";
-    test::PorteMute muto;
+    test::DialogoFinto dialogo(base::Risposta::no);
+    test::AvanzamentoFinto avanzamento;
     commands::UscitaRelazione uscita(relazione);
     const auto esegui = [&] {
         project::Progetto = dati;
-        analysis::CalcoloParatia(analysis::relazione, {muto, muto, uscita});
+        analysis::CalcoloParatia(analysis::relazione, {dialogo, avanzamento, uscita});
     };
     esegui();
     for (auto _ : stato) {
@@ -35,12 +37,12 @@ void corsa(benchmark::State& stato, bool aggiornata, bool relazione) {
             std::filesystem::remove(base::nomeRisultati(project::fileCorrente));
             stato.ResumeTiming();
         }
-        muto.iterazioni = 0;
+        avanzamento.iterazioni = 0;
         esegui();
-        if (analysis::erroreCalcolo || (muto.iterazioni == 0) != aggiornata)
+        if (analysis::erroreCalcolo || (avanzamento.iterazioni == 0) != aggiornata)
             stato.SkipWithError("not the run that was meant");
     }
-    stato.counters["iterazioni"] = muto.iterazioni;
+    stato.counters["iterazioni"] = avanzamento.iterazioni;
 }
 
 void taglie(benchmark::internal::Benchmark* b) {

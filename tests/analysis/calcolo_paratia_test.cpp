@@ -4,6 +4,7 @@
 
 #include "analysis/input_checks.hpp"
 #include "base/file_error.hpp"
+#include "support/output_double.hpp"
 #include "support/run_harness.hpp"
 #include "support/sample_projects.hpp"
 

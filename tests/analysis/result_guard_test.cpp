@@ -6,6 +6,7 @@
 
 #include "base/file_error.hpp"
 #include "project/output_guard.hpp"
+#include "support/output_double.hpp"
 #include "support/run_harness.hpp"
 #include "support/sample_projects.hpp"
 

@@ -4,7 +4,7 @@
 
 #include "analysis/run_flags.hpp"
 #include "analysis/stage_sequence.hpp"
-#include "support/recording_ports.hpp"
+#include "support/progress_double.hpp"
 #include "support/run_arrays_setup.hpp"
 #include "support/sample_projects.hpp"
 

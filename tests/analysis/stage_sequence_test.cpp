@@ -5,7 +5,7 @@
 #include <cmath>
 
 #include "analysis/run_flags.hpp"
-#include "support/recording_ports.hpp"
+#include "support/progress_double.hpp"
 #include "support/run_arrays_setup.hpp"
 #include "support/sample_projects.hpp"
 

@@ -4,7 +4,7 @@
 
 #include "base/file_error.hpp"
 #include "base/language.hpp"
-#include "support/dialog_record.hpp"
+#include "support/dialog_double.hpp"
 #include "support/temporary_folder.hpp"
 
 namespace korven::base {
@@ -47,7 +47,7 @@ TEST(Traduttore, BracketedUnitIsUnchangedInEveryLanguageThoughARecordExists) {
 }
 
 TEST(Traduttore, ItalianLooksNothingUpAndTellsNothingInTestMode) {
-    test::DialogRecord prova;
+    test::DialogoFinto prova;
     EXPECT_EQ(traduci(italiano, "  MOMENTO ", &prova), "MOMENTO");
     EXPECT_EQ(traduci(italiano, "Non esiste", &prova), "Non esiste");
     EXPECT_TRUE(prova.messaggi.empty());
@@ -87,16 +87,16 @@ TEST(Traduttore, LanguageCodeOutsideTheTableIsRefusedWhereAColumnIsNeeded) {
     }
 }
 
-using Box = test::DialogRecord::Box;
+using Box = test::DialogoFinto::Detto;
 
 TEST(TestMode, TellsOfAMissingText) {
-    test::DialogRecord prova;
+    test::DialogoFinto prova;
     traduci(inglese, " Non esiste ", &prova);
     EXPECT_EQ(prova.messaggi, (std::vector<Box>{{"Non esiste", "Testo Mancante", Icona::nessuna}}));
 }
 
 TEST(TestMode, TellsOfATextWithoutTranslationAndOfOneWithoutEnglish) {
-    test::DialogRecord prova;
+    test::DialogoFinto prova;
     traduci(tedesco, "Solo inglese", &prova);
     EXPECT_EQ(prova.messaggi,
               (std::vector<Box>{{"Solo inglese", "Testo Non Tradotto in deu", Icona::nessuna}}));
@@ -109,7 +109,7 @@ TEST(TestMode, TellsOfATextWithoutTranslationAndOfOneWithoutEnglish) {
 }
 
 TEST(TestMode, AsksToCheckTheCaseButNotOfTheWordNo) {
-    test::DialogRecord prova;
+    test::DialogoFinto prova;
     traduci(inglese, "MOMENTO", &prova);
     EXPECT_EQ(
         prova.messaggi,
@@ -121,7 +121,7 @@ TEST(TestMode, AsksToCheckTheCaseButNotOfTheWordNo) {
 }
 
 TEST(TestMode, TellsNothingOfATextThatIsInOrder) {
-    test::DialogRecord prova;
+    test::DialogoFinto prova;
     traduci(inglese, "Momento", &prova);
     traduci(inglese, "[kN]", &prova);
     EXPECT_TRUE(prova.messaggi.empty());
@@ -158,7 +158,7 @@ TEST_F(ProgramTexts, TableIsMadeOfBothFilesAndSortedAsOne) {
     EXPECT_EQ(traduttore("Alfa"), "Alpha");
     EXPECT_EQ(traduttore("MOMENTO"), "MOMENT");
 
-    test::DialogRecord prova;
+    test::DialogoFinto prova;
     impostaModoProva(&prova);
     EXPECT_EQ(traduttore("Manca"), "Manca");
     EXPECT_EQ(prova.messaggi.size(), 1u);

@@ -5,6 +5,7 @@
 #include "base/code_page.hpp"
 #include "base/file_error.hpp"
 #include "project/project_file.hpp"
+#include "support/dialog_double.hpp"
 #include "support/document_ports.hpp"
 #include "support/failing_disk.hpp"
 #include "support/sample_projects.hpp"

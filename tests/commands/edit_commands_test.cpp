@@ -5,6 +5,7 @@
 #include "base/table.hpp"
 #include "commands/fatal_error.hpp"
 #include "masks/edited_tables.hpp"
+#include "support/dialog_double.hpp"
 #include "support/document_ports.hpp"
 #include "support/plain_masks.hpp"
 #include "support/sample_projects.hpp"

@@ -4,6 +4,7 @@
 
 #include "base/file_error.hpp"
 #include "commands/example_folders.hpp"
+#include "support/dialog_double.hpp"
 #include "support/document_ports.hpp"
 #include "support/failing_disk.hpp"
 

@@ -12,9 +12,11 @@
 #include "drawings/hatch_library.hpp"
 #include "plot/plot_engine.hpp"
 #include "project/project_file.hpp"
+#include "support/dialog_double.hpp"
 #include "support/document_ports.hpp"
 #include "support/hatch_files.hpp"
 #include "support/plot_setup.hpp"
+#include "support/progress_double.hpp"
 #include "support/sample_projects.hpp"
 
 namespace korven::commands {

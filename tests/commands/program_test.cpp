@@ -7,7 +7,9 @@
 #include "base/file_lock.hpp"
 #include "base/file_names.hpp"
 #include "project/project_file.hpp"
+#include "support/dialog_double.hpp"
 #include "support/document_ports.hpp"
+#include "support/progress_double.hpp"
 #include "support/sample_projects.hpp"
 
 namespace korven::commands {

@@ -9,7 +9,7 @@
 #include "base/file_error.hpp"
 #include "base/program_folder.hpp"
 #include "project/output_guard.hpp"
-#include "support/dialog_record.hpp"
+#include "support/dialog_double.hpp"
 #include "support/failing_disk.hpp"
 #include "support/started_programs.hpp"
 #include "support/temporary_folder.hpp"
@@ -48,7 +48,7 @@ class ReportExport : public testing::Test {
     const std::string report = folder / "muro.TAB";
     const std::string txt = folder / "muro.txt";
     const std::string doc = folder / "muro.doc";
-    test::DialogRecord dialog;
+    test::DialogoFinto dialog;
     test::StartedPrograms programs;
     Lines proposed;
     std::string answer;
@@ -102,8 +102,8 @@ TEST_F(ReportExport, AsksBeforeItReplacesATextAndYesIsEnough) {
     dialog.risposta = base::Risposta::si;
     exportTxt();
     EXPECT_EQ(dialog.domande,
-              (std::vector<test::DialogRecord::Box>{{"Volete sovrascrivere il file\n" + txt + "?",
-                                                     "ATTENZIONE!", base::Icona::avviso}}));
+              (std::vector<test::DialogoFinto::Detto>{{"Volete sovrascrivere il file\n" + txt + "?",
+                                                       "ATTENZIONE!", base::Icona::avviso}}));
     EXPECT_TRUE(proposed.empty());
     EXPECT_EQ(test::contenuto(txt), text);
     EXPECT_EQ(programs.chiamate, Lines{"apri " + txt});
@@ -174,7 +174,7 @@ TEST_F(ReportExport, TellsWhereTheTextIsWhenNothingShowsIt) {
     programs.predefinito = false;
     exportTxt();
     EXPECT_EQ(dialog.messaggi,
-              (std::vector<test::DialogRecord::Box>{
+              (std::vector<test::DialogoFinto::Detto>{
                   {"Non è stato trovato un editor di testi per il formato TXT. Il programma ha "
                    "comunque creato il file:\n" +
                        base::maiuscolo(txt),
@@ -265,7 +265,7 @@ TEST_F(ReportExport, TellsWhereTheDocumentIsWhenNothingShowsIt) {
     programs.alPosto = [this] { test::metti(doc, "doc"); };
     exportDoc();
     EXPECT_EQ(dialog.messaggi,
-              (std::vector<test::DialogRecord::Box>{
+              (std::vector<test::DialogoFinto::Detto>{
                   {"Non è stato trovato nè un visualizzatore nè un editor di testi per il formato "
                    "DOC. Il programma ha comunque creato il file:\n" +
                        base::maiuscolo(doc),

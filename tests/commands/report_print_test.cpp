@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "support/dialog_record.hpp"
+#include "support/dialog_double.hpp"
 #include "support/page_record.hpp"
 #include "support/temporary_folder.hpp"
 
@@ -37,7 +37,7 @@ class ReportPrint : public testing::Test {
             report,
             [this]() -> std::unique_ptr<markup::ReportPrinter> {
                 ++asked;
-                pointerWhenAsked = dialog.ultimoPuntatore;
+                pointerWhenAsked = dialog.ultimoPuntatore();
                 if (noPrinter) return nullptr;
                 return std::make_unique<Printer>(pages, refuses, loses);
             },
@@ -46,7 +46,7 @@ class ReportPrint : public testing::Test {
 
     test::CartellaProvvisoria folder;
     const std::string report = folder / "muro.TAB";
-    test::DialogRecord dialog;
+    test::DialogoFinto dialog;
     test::PageRecord pages;
     bool noPrinter = false, refuses = false, loses = false;
     int asked = 0;
@@ -65,7 +65,7 @@ TEST_F(ReportPrint, PrintsTheReport) {
 
 TEST_F(ReportPrint, GivesThePointerBackBeforeItMayAskForAPrinter) {
     write(oneLine);
-    dialog.ultimoPuntatore = base::Puntatore::clessidra;
+    dialog.puntatore(base::Puntatore::clessidra);
     print();
     EXPECT_EQ(pointerWhenAsked, base::Puntatore::normale);
 }
@@ -101,10 +101,10 @@ TEST_F(ReportPrint, TellsOfAPrinterThatRefusesOrVanishesAndGoesOn) {
     loses = true;
     print();
     ASSERT_EQ(dialog.messaggi.size(), 2u);
-    EXPECT_EQ(dialog.messaggi[0], (test::DialogRecord::Box{"Ufficio: senza carta", "ATTENZIONE!",
-                                                           base::Icona::avviso}));
+    EXPECT_EQ(dialog.messaggi[0], (test::DialogoFinto::Detto{"Ufficio: senza carta", "ATTENZIONE!",
+                                                             base::Icona::avviso}));
     EXPECT_EQ(dialog.messaggi[1].testo, "Ufficio: sparita");
-    EXPECT_EQ(dialog.ultimoPuntatore, base::Puntatore::normale);
+    EXPECT_EQ(dialog.ultimoPuntatore(), base::Puntatore::normale);
 }
 
 TEST_F(ReportPrint, LetsABrokenReportEndTheProgramWithoutAJob) {

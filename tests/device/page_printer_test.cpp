@@ -12,7 +12,7 @@
 #include "device/graphics_session.hpp"
 #include "plot/plot_engine.hpp"
 #include "plot/plot_print.hpp"
-#include "support/dialog_record.hpp"
+#include "support/dialog_double.hpp"
 #include "support/drawing_by_pen.hpp"
 #include "support/pdf_pages.hpp"
 
@@ -49,7 +49,7 @@ class Carta : public test::ProvaPlot {
     const SessioneGrafica sessione;
     const test::CartellaProvvisoria cartella;
     const std::string file = cartella / "stampa.pdf";
-    test::DialogRecord dialogo;
+    test::DialogoFinto dialogo;
     QPrinter stampante{QPrinter::HighResolution};
 };
 
@@ -101,7 +101,7 @@ TEST_F(Carta, TellsWhenItCannotPrint) {
     disegna(19, 27);
     stampante.setOutputFileName(QString::fromStdString(cartella / "manca/stampa.pdf"));
     EXPECT_THROW(pagineStampate(false), base::ErroreFile);
-    EXPECT_EQ(dialogo.ultimoPuntatore, base::Puntatore::normale);
+    EXPECT_EQ(dialogo.ultimoPuntatore(), base::Puntatore::normale);
     stampante.setOutputFileName(QString::fromStdString(file));
     EXPECT_EQ(pagineStampate(false), 1) << "and prints the next time";
 }
@@ -112,7 +112,7 @@ TEST_F(Carta, TellsOfAPrinterThatTheSystemNoLongerKnows) {
     stampante.setPrinterName("nessuna stampante ha questo nome");
     EXPECT_THROW(pagineStampate(false), base::ErroreFile);
     EXPECT_THROW(pagineStampate(true), base::ErroreFile);
-    EXPECT_EQ(dialogo.ultimoPuntatore, base::Puntatore::normale);
+    EXPECT_EQ(dialogo.ultimoPuntatore(), base::Puntatore::normale);
 }
 
 // What a disk leaves that was full: Qt itself says nothing of it.

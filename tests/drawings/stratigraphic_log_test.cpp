@@ -5,7 +5,7 @@
 #include "base/file_error.hpp"
 #include "base/table.hpp"
 #include "plot/dxf/export.hpp"
-#include "support/dialog_record.hpp"
+#include "support/dialog_double.hpp"
 #include "support/dxf_reader.hpp"
 #include "support/log_setup.hpp"
 
@@ -160,11 +160,11 @@ class StratigrafiaComando : public test::ProvaStratigrafia {
         EXPECT_FALSE(disegnaStratigrafia(dialogo));
         ASSERT_EQ(dialogo.messaggi.size(), 1u);
         EXPECT_EQ(dialogo.messaggi[0],
-                  (test::DialogRecord::Box{motivo, "ATTENZIONE!", base::Icona::stop}));
+                  (test::DialogoFinto::Detto{motivo, "ATTENZIONE!", base::Icona::stop}));
         EXPECT_TRUE(plot::statoPlot.archivio.testi().empty());
     }
 
-    test::DialogRecord dialogo;
+    test::DialogoFinto dialogo;
 };
 
 TEST_F(StratigrafiaComando, DrawsTheProjectThatIsOpen) {

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "base/file_error.hpp"
-#include "support/dialog_record.hpp"
+#include "support/dialog_double.hpp"
 #include "support/page_record.hpp"
 #include "support/temporary_folder.hpp"
 
@@ -186,23 +186,19 @@ TEST(PrintRenderer, HandsOverADocumentThatIsNeverClosed) {
 }
 
 TEST(PrintReport, ShowsTheWaitingPointerMeanwhile) {
-    class Watch : public test::DialogRecord {
-     public:
-        void puntatore(base::Puntatore forma) override { shapes.push_back(forma); }
-        std::vector<base::Puntatore> shapes;
-    };
     const test::CartellaProvvisoria folder;
     test::metti(folder / "r.TAB", test::markup(document({"one"})));
-    Watch dialog;
+    test::DialogoFinto dialog;
     PageRecord record;
     printReport(folder / "r.TAB", record, dialog);
     EXPECT_EQ(record.onPage(1), "Head|one|Foot!");
-    EXPECT_EQ(dialog.shapes, (std::vector{base::Puntatore::clessidra, base::Puntatore::normale}));
+    EXPECT_EQ(dialog.puntatori,
+              (std::vector{base::Puntatore::clessidra, base::Puntatore::normale}));
 }
 
 TEST(PrintReport, DoesNothingWithoutAFile) {
     const test::CartellaProvvisoria folder;
-    test::DialogRecord dialog;
+    test::DialogoFinto dialog;
     PageRecord record;
     printReport(folder / "r.TAB", record, dialog);
     EXPECT_TRUE(record.calls.empty());
@@ -215,11 +211,11 @@ TEST(PrintReport, RefusesATableBeyondTheGridAndGivesThePointerBack) {
     for (int row = 1; row <= 511; ++row) body.emplace_back("a\tb");
     body.emplace_back("#ENDTABLE");
     test::metti(folder / "r.TAB", test::markup(document(body)));
-    test::DialogRecord dialog;
-    dialog.ultimoPuntatore = base::Puntatore::clessidra;
+    test::DialogoFinto dialog;
+    dialog.puntatore(base::Puntatore::clessidra);
     PageRecord record;
     EXPECT_THROW(printReport(folder / "r.TAB", record, dialog), base::ErroreFile);
-    EXPECT_EQ(dialog.ultimoPuntatore, base::Puntatore::normale);
+    EXPECT_EQ(dialog.ultimoPuntatore(), base::Puntatore::normale);
 }
 
 }  // namespace

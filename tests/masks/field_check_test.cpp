@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "masks/column_keys.hpp"
-#include "support/dialog_record.hpp"
+#include "support/dialog_double.hpp"
 #include "support/mask_setup.hpp"
 
 namespace korven::masks {
@@ -93,7 +93,7 @@ TEST(ChiaviColonna, MayBeAListThatAllowsNothing) {
 }
 
 TEST(Segnala, TellsTheExactWords) {
-    test::DialogRecord dialogo;
+    test::DialogoFinto dialogo;
     const auto campo = campoMaschera("Peso", "0", -2.5, 1000000);
     segnala(Vizio::intervallo, campo, "Peso", "\r", dialogo);
     segnala(Vizio::alfanumerico, campo, "Peso", "\r", dialogo);
@@ -109,7 +109,7 @@ TEST(Segnala, TellsTheExactWords) {
     ASSERT_EQ(dialogo.messaggi.size(), attesi.size());
     for (std::size_t i = 0; i < attesi.size(); ++i)
         EXPECT_EQ(dialogo.messaggi[i],
-                  (test::DialogRecord::Box{attesi[i], "Peso", base::Icona::stop}));
+                  (test::DialogoFinto::Detto{attesi[i], "Peso", base::Icona::stop}));
 }
 
 TEST(Tagliato, CountsCharacters) {

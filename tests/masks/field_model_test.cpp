@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "support/dialog_record.hpp"
+#include "support/dialog_double.hpp"
 #include "support/mask_setup.hpp"
 
 namespace korven::masks {
@@ -13,7 +13,7 @@ using Testi = std::vector<std::string>;
 class ModelloCampi : public ::testing::Test {
  protected:
     Maschera maschera = test::mascheraCampi();
-    test::DialogRecord dialogo;
+    test::DialogoFinto dialogo;
     FieldModel modello{maschera, {0, 2}, {"5", "abcd", "1.25"}};
 };
 
@@ -186,7 +186,7 @@ TEST(ModelloCampiLettura, TellsWhatTheNumberInUseIsReadAs) {
     const Maschera maschera = test::mascheraCampi();
     FieldModel modello(maschera, {0, 0}, {"5", "1,5", "1.25"});
     EXPECT_EQ(modello.lettura(), "") << "a choice";
-    test::DialogRecord dialogo;
+    test::DialogoFinto dialogo;
     modello.passaA(2, dialogo);
     EXPECT_EQ(modello.lettura(), "");
     modello.scrivi(2, "5.5.5");

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "base/table.hpp"
-#include "support/dialog_script.hpp"
+#include "support/dialog_double.hpp"
 #include "support/mask_setup.hpp"
 
 namespace korven::masks {
@@ -22,7 +22,7 @@ class ModelloGriglia : public ::testing::Test {
     [[nodiscard]] std::string cella() const { return modello.testo(modello.corrente()); }
 
     Maschera maschera = test::mascheraGriglia();
-    test::DialogScript dialogo;
+    test::DialogoFinto dialogo;
     GridModel modello{maschera, {"2", "3", "18", "uno", "0", "8", "19", "due", "1"}};
 };
 
@@ -277,9 +277,9 @@ TEST_F(ModelloGriglia, AsksAboutAGapAndKeepsTheOrderOfItsRows) {
     EXPECT_EQ(conVuoto.valoriTesto(), (Testi{"2", "1", "2", "a", "0", "3", "4", "b", "1"}));
     ASSERT_EQ(dialogo.domande.size(), 3u);
     EXPECT_EQ(dialogo.domande[0],
-              (test::DialogRecord::Box{"Alcune righe di dati non sono state completate: volete "
-                                       "controllare i dati inseriti?",
-                                       "ATTENZIONE!", base::Icona::domanda}));
+              (test::DialogoFinto::Detto{"Alcune righe di dati non sono state completate: volete "
+                                         "controllare i dati inseriti?",
+                                         "ATTENZIONE!", base::Icona::domanda}));
 }
 
 TEST_F(ModelloGriglia, AsksAboutAnEmptyCellUnlessTheMaskAllowsIt) {
@@ -364,15 +364,15 @@ TEST_F(ModelloGriglia, AsksBeforeChangedRowsAreThrownAway) {
     EXPECT_FALSE(modello.siPuoLasciare(dialogo));
     EXPECT_TRUE(modello.siPuoLasciare(dialogo));
     EXPECT_FALSE(modello.siPuoLasciare(dialogo)) << "nobody answers";
-    EXPECT_EQ(dialogo.domande[0],
-              (test::DialogRecord::Box{"Le righe sono state modificate. Volete chiudere la tabella "
-                                       "senza conservare le modifiche?",
-                                       "ATTENZIONE!", base::Icona::avviso}));
+    EXPECT_EQ(dialogo.domande[0], (test::DialogoFinto::Detto{
+                                      "Le righe sono state modificate. Volete chiudere la tabella "
+                                      "senza conservare le modifiche?",
+                                      "ATTENZIONE!", base::Icona::avviso}));
 }
 
 TEST(CapienzaGriglia, IsToldInTitleAndStripFromTheFirstRowAboveIt) {
     const Maschera maschera = test::mascheraGriglia();
-    test::DialogScript dialogo;
+    test::DialogoFinto dialogo;
     GridModel modello(maschera, {"2", "1", "", "", "", "2", "", "", ""}, 2);
     EXPECT_EQ(modello.titolo(), "Tabella");
     EXPECT_EQ(modello.eccesso(), "");

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "masks/grid_model.hpp"
-#include "support/dialog_script.hpp"
+#include "support/dialog_double.hpp"
 #include "support/mask_setup.hpp"
 
 namespace korven::masks {
@@ -11,13 +11,14 @@ using base::Risposta;
 
 class Incolla : public ::testing::Test {
  protected:
+    Incolla() { dialogo.risposte = {Risposta::si}; }
     [[nodiscard]] std::string riga(int r) const {
         std::string testo;
         for (int c = 1; c <= 4; ++c) testo += modello.testo({r, c}) + (c < 4 ? "|" : "");
         return testo;
     }
     Maschera maschera = test::mascheraGriglia();
-    test::DialogScript dialogo{{Risposta::si}};
+    test::DialogoFinto dialogo;
     GridModel modello{maschera, {"1", "3", "18", "uno", "0"}};
 };
 
@@ -36,9 +37,9 @@ TEST_F(Incolla, ShowsTheTextBeforeItWrites) {
     modello.incolla("1\n2\n3\n4\n5\n6\n7\n8", dialogo);
     ASSERT_EQ(dialogo.domande.size(), 1u);
     EXPECT_EQ(dialogo.domande[0],
-              (test::DialogRecord::Box{"Confermate l'inserimento dei seguenti dati?\r\n"
-                                       "1\n2\n3\n4\n5\n6\n......",
-                                       "ATTENZIONE!", base::Icona::domanda}));
+              (test::DialogoFinto::Detto{"Confermate l'inserimento dei seguenti dati?\r\n"
+                                         "1\n2\n3\n4\n5\n6\n......",
+                                         "ATTENZIONE!", base::Icona::domanda}));
     EXPECT_EQ(modello.testo({9, 1}), "8");
 }
 
@@ -141,10 +142,10 @@ TEST_F(Incolla, OffersToTakeDecimalCommasAsPointsBeforeAnythingIsWritten) {
     ASSERT_EQ(dialogo.domande.size(), 2u);
     EXPECT_EQ(
         dialogo.domande[1],
-        (test::DialogRecord::Box{"Alcuni numeri hanno la virgola decimale, per esempio 1,5.\r\n"
-                                 "Volete leggere la virgola come punto?\r\n"
-                                 "Con No le loro celle restano vuote.",
-                                 "ATTENZIONE!", base::Icona::domanda}));
+        (test::DialogoFinto::Detto{"Alcuni numeri hanno la virgola decimale, per esempio 1,5.\r\n"
+                                   "Volete leggere la virgola come punto?\r\n"
+                                   "Con No le loro celle restano vuote.",
+                                   "ATTENZIONE!", base::Icona::domanda}));
     EXPECT_EQ(riga(2), "1.5|-0.25|a,b|1");
     EXPECT_EQ(riga(3), "2.5|3.75|1,5|0") << "a text keeps its comma";
     EXPECT_TRUE(dialogo.messaggi.empty());

@@ -5,7 +5,7 @@
 #include "base/table.hpp"
 #include "masks/field_model.hpp"
 #include "masks/grid_model.hpp"
-#include "support/dialog_script.hpp"
+#include "support/dialog_double.hpp"
 #include "support/plain_masks.hpp"
 #include "support/temporary_folder.hpp"
 
@@ -37,7 +37,7 @@ class Modifica : public ::testing::Test {
     }
 
     test::CartellaProvvisoria cartella;
-    test::DialogScript dialogo;
+    test::DialogoFinto dialogo;
     Maschere maschere;
     project::DatiProgetto dati;
     int fase = 0;

@@ -11,7 +11,7 @@
 #include "masks/grid_model.hpp"
 #include "masks/mask_editing.hpp"
 #include "project/project_file.hpp"
-#include "support/dialog_script.hpp"
+#include "support/dialog_double.hpp"
 #include "support/plain_masks.hpp"
 
 namespace korven::masks {
@@ -106,7 +106,7 @@ class FormeSenzaModifiche : public ::testing::Test {
     }
 
     test::CartellaProvvisoria cartella;
-    test::DialogScript dialogo;
+    test::DialogoFinto dialogo;
     Maschere maschere;
     project::DatiProgetto dati;
     int fase = 0;

@@ -7,7 +7,7 @@
 
 #include "base/file_error.hpp"
 #include "plot/plot_engine.hpp"
-#include "support/dialog_record.hpp"
+#include "support/dialog_double.hpp"
 #include "support/plot_record.hpp"
 #include "support/plot_setup.hpp"
 
@@ -25,11 +25,6 @@ MisureStampante monocromatica() {
     return m;
 }
 
-struct Puntatori : test::DialogRecord {
-    void puntatore(base::Puntatore forma) override { prese.push_back(forma); }
-    std::vector<base::Puntatore> prese;
-};
-
 class Stampa : public test::ProvaPlot {
  protected:
     static void disegna(double larghezza, double altezza) {
@@ -42,7 +37,7 @@ class Stampa : public test::ProvaPlot {
     }
     static Eventi stampata(bool adatta, const MisureStampante& misure = a100pixel) {
         test::StampanteRegistrata stampante(misure);
-        Puntatori dialogo;
+        test::DialogoFinto dialogo;
         plotStampa(adatta, stampante, dialogo);
         return stampante.eventi;
     }
@@ -229,12 +224,13 @@ TEST_F(Stampa, LinesOfSpillFilesArePrintedFileByFile) {
 TEST_F(Stampa, PointerWaitsMeanwhileAndComesBackEvenAfterAnError) {
     disegna(19, 27);
     test::StampanteRegistrata stampante(a100pixel);
-    Puntatori dialogo;
+    test::DialogoFinto dialogo;
     plotStampa(false, stampante, dialogo);
-    EXPECT_EQ(dialogo.prese, (std::vector{base::Puntatore::clessidra, base::Puntatore::normale}));
+    EXPECT_EQ(dialogo.puntatori,
+              (std::vector{base::Puntatore::clessidra, base::Puntatore::normale}));
     test::metti(programma / "overlap.cfg", "");
     EXPECT_THROW(plotStampa(false, stampante, dialogo), base::ErroreFile);
-    EXPECT_EQ(dialogo.prese.back(), base::Puntatore::normale);
+    EXPECT_EQ(dialogo.puntatori.back(), base::Puntatore::normale);
 }
 
 TEST_F(Stampa, LineOrTextWithoutAPlaceIsLeftOut) {

@@ -24,7 +24,7 @@
 #include "shell/run/temp_calc.hpp"
 #include "shell/section/definej.hpp"
 #include "support/desktop_bench.hpp"
-#include "support/dialog_record.hpp"
+#include "support/dialog_double.hpp"
 #include "support/form_setup.hpp"
 #include "support/sample_projects.hpp"
 #include "support/small_help.hpp"
@@ -78,7 +78,7 @@ class TastiDiScelta : public ::testing::TestWithParam<int> {
     QApplication& app = test::applicazione();
     test::UtenteNuovo utente;
     const test::TestiConsegnati testi;
-    test::DialogRecord dialogo;
+    test::DialogoFinto dialogo;
     masks::Maschere maschere;
 };
 

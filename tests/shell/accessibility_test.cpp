@@ -28,6 +28,7 @@
 #include "shell/run/temp_calc.hpp"
 #include "shell/section/definej.hpp"
 #include "support/desktop_bench.hpp"
+#include "support/dialog_double.hpp"
 #include "support/page_record.hpp"
 #include "support/sample_projects.hpp"
 #include "support/small_help.hpp"
@@ -113,7 +114,7 @@ class Accessibilita : public ::testing::Test {
     QApplication& app = test::applicazione();
     test::UtenteNuovo utente;
     const test::TestiConsegnati testi;
-    test::DialogRecord dialogo;
+    test::DialogoFinto dialogo;
     masks::Maschere maschere;
 };
 

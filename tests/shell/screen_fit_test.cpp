@@ -34,6 +34,7 @@
 #include "shell/run/temp_calc.hpp"
 #include "shell/section/definej.hpp"
 #include "support/desktop_bench.hpp"
+#include "support/dialog_double.hpp"
 #include "support/sample_projects.hpp"
 #include "support/viewer_setup.hpp"
 
@@ -171,7 +172,7 @@ void controllaBox(DialogoQt& box) {
 }
 
 void controllaTutte() {
-    test::DialogRecord dialogo;
+    test::DialogoFinto dialogo;
     controllaMaschere(dialogo);
     controllaSezioni();
     DialoghiEditacfg porte;

@@ -12,7 +12,7 @@
 #include "shell/main/menu1.hpp"
 #include "shell/run/temp_calc.hpp"
 #include "shell/section/definej.hpp"
-#include "support/dialog_record.hpp"
+#include "support/dialog_double.hpp"
 #include "support/form_setup.hpp"
 
 namespace korven::shell {
@@ -31,7 +31,7 @@ class ModoProva : public ::testing::Test {
     }
     QApplication& app = test::applicazione();
     test::UtenteNuovo utente;
-    test::DialogRecord dialogo;
+    test::DialogoFinto dialogo;
 };
 
 TEST_F(ModoProva, TellsOfTheTextsOfAWindowWhileItIsMadeAndNotWhileItIsPainted) {

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "support/dialog_double.hpp"
 #include "support/sample_sections.hpp"
 
 namespace korven::structure {
@@ -13,34 +14,7 @@ namespace {
 
 using base::Risposta;
 using project::Sezione;
-
-class DialogoFinto : public base::Dialogo {
- public:
-    explicit DialogoFinto(Risposta risposta = Risposta::no) : risposta_(risposta) {}
-    void messaggio(std::string_view, std::string_view, base::Icona) override { ++messaggi; }
-    Risposta domanda(std::string_view testo, std::string_view titolo, base::Pulsanti pulsanti,
-                     base::Icona icona) override {
-        domande.emplace_back(testo);
-        titoli.emplace_back(titolo);
-        soloSiNo = pulsanti == base::Pulsanti::siNo;
-        iconaDomanda = icona == base::Icona::domanda;
-        return risposta_;
-    }
-    Risposta domandaInformata(std::string_view testo, std::string_view titolo,
-                              base::Pulsanti pulsanti, base::Icona icona,
-                              std::string_view informazione) override {
-        informazioni.emplace_back(informazione);
-        return domanda(testo, titolo, pulsanti, icona);
-    }
-    void puntatore(base::Puntatore) override {}
-
-    std::vector<std::string> domande, titoli, informazioni;
-    int messaggi = 0;
-    bool soloSiNo = false, iconaDomanda = false;
-
- private:
-    Risposta risposta_;
-};
+using test::DialogoFinto;
 
 TEST(RigidezzaOfferta, IsNothingForASectionThatIsNotDefinedOrHasNoNumber) {
     EXPECT_FALSE(rigidezzaOfferta({}));
@@ -72,13 +46,13 @@ TEST(AggiornaEJ, DoesNothingForASectionThatIsNotValid) {
 }
 
 TEST(AggiornaEJ, FillsAnUndefinedStiffnessWithoutAQuestion) {
-    DialogoFinto dialogo;
+    DialogoFinto dialogo(Risposta::no);
     double rigidezzaEJ = 0;
     MomentiResistenti MRd;
     aggiornaEJ(paliTubolari(), 0, rigidezzaEJ, MRd, dialogo);
     EXPECT_EQ(rigidezzaEJ, ejTubi);
     EXPECT_TRUE(dialogo.domande.empty());
-    EXPECT_EQ(dialogo.messaggi, 0);
+    EXPECT_TRUE(dialogo.messaggi.empty());
 }
 
 TEST(AggiornaEJ, ComputesTheResistancesOfAValidSectionWhateverTheAnswer) {
@@ -99,15 +73,15 @@ TEST(AggiornaEJ, AsksWhenTheTypedStiffnessDiffersAndTakesTheNewOneOnYes) {
     aggiornaEJ(paliTubolari(), 0, rigidezzaEJ, MRd, dialogo);
     EXPECT_EQ(rigidezzaEJ, ejTubi);
     ASSERT_EQ(dialogo.domande.size(), 1u);
-    EXPECT_EQ(dialogo.domande[0],
+    EXPECT_EQ(dialogo.domande[0].testo,
               "Volete sostituire Il valore di EJ correntemente definito con quello ricalcolato in "
               "base alle caratteristiche strutturali del diaframma?");
-    EXPECT_EQ(dialogo.titoli[0], "ATTENZIONE!");
+    EXPECT_EQ(dialogo.domande[0].titolo, "ATTENZIONE!");
     EXPECT_EQ(dialogo.informazioni,
               (std::vector<std::string>{"EJ del progetto [kN m²]: 410000\n"
                                         "EJ calcolato dalla sezione [kN m²]: 409990"}));
-    EXPECT_TRUE(dialogo.soloSiNo);
-    EXPECT_TRUE(dialogo.iconaDomanda);
+    EXPECT_EQ(dialogo.pulsanti[0], base::Pulsanti::siNo);
+    EXPECT_EQ(dialogo.domande[0].icona, base::Icona::domanda);
 }
 
 TEST(AggiornaEJ, KeepsTheTypedStiffnessOnNoAndAsksAgainAtEveryRun) {

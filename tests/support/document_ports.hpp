@@ -11,7 +11,6 @@
 #include "commands/document_ports.hpp"
 #include "project/output_guard.hpp"
 #include "project/project_data.hpp"
-#include "support/recording_ports.hpp"
 #include "support/temporary_folder.hpp"
 
 namespace korven::test {

@@ -12,7 +12,7 @@
 #include <vector>
 
 #include "shell/masks/base1.hpp"
-#include "support/dialog_record.hpp"
+#include "support/dialog_double.hpp"
 #include "support/form_setup.hpp"
 #include "support/mask_setup.hpp"
 
@@ -54,7 +54,7 @@ class BancoBase1 : public ::testing::Test {
     QApplication& app = applicazione();
     UtenteNuovo utente;
     masks::Maschera maschera = mascheraCampi();
-    DialogRecord dialogo;
+    DialogoFinto dialogo;
     bool cHeGuida = true;
     std::vector<int> aperti;
     std::unique_ptr<shell::Base1> forma;

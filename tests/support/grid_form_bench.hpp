@@ -13,7 +13,7 @@
 #include <vector>
 
 #include "shell/masks/base2_32.hpp"
-#include "support/dialog_script.hpp"
+#include "support/dialog_double.hpp"
 #include "support/form_setup.hpp"
 #include "support/mask_setup.hpp"
 
@@ -74,7 +74,7 @@ class BancoGriglia : public ::testing::Test {
     QApplication& app = applicazione();
     UtenteNuovo utente;
     masks::Maschera maschera = mascheraGriglia();
-    DialogScript dialogo;
+    DialogoFinto dialogo;
     int capienza = masks::CelleGriglia::righe;
     bool cHeGuida = true;
     std::vector<int> aperti;

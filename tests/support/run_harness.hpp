@@ -10,7 +10,9 @@
 #include "analysis/segment_count.hpp"
 #include "base/file_names.hpp"
 #include "base/files.hpp"
-#include "support/recording_ports.hpp"
+#include "support/dialog_double.hpp"
+#include "support/output_double.hpp"
+#include "support/progress_double.hpp"
 #include "support/temporary_folder.hpp"
 
 namespace korven::test {

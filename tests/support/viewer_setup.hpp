@@ -7,7 +7,7 @@
 
 #include "project/project_data.hpp"
 #include "shell/viewer/viewer.hpp"
-#include "support/dialog_record.hpp"
+#include "support/dialog_double.hpp"
 #include "support/drawing_by_pen.hpp"
 #include "support/form_setup.hpp"
 
@@ -115,7 +115,7 @@ class ProvaVisore : public ProvaPlot {
     QApplication& app = applicazione();
     QWidget principale;
     PorteRegistrate porte;
-    DialogRecord dialogo;
+    DialogoFinto dialogo;
     std::optional<shell::VisoreDisegni> visore;
 };
 

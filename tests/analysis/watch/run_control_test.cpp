@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "support/progress_double.hpp"
 #include "support/run_harness.hpp"
 #include "support/sample_projects.hpp"
 

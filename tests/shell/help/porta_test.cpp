@@ -13,7 +13,7 @@
 #include "shell/help/browser.hpp"
 #include "shell/help/guida.hpp"
 #include "support/desktop_bench.hpp"
-#include "support/dialog_record.hpp"
+#include "support/dialog_double.hpp"
 #include "support/document_ports.hpp"
 #include "support/form_setup.hpp"
 #include "support/small_help.hpp"

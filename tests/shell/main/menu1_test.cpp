@@ -14,9 +14,11 @@
 #include "base/file_error.hpp"
 #include "project/project_file.hpp"
 #include "support/desktop_bench.hpp"
+#include "support/dialog_double.hpp"
 #include "support/document_ports.hpp"
 #include "support/form_setup.hpp"
 #include "support/plain_masks.hpp"
+#include "support/progress_double.hpp"
 #include "support/sample_projects.hpp"
 
 namespace korven::shell {

@@ -8,6 +8,7 @@
 #include "shell/dialogo_qt.hpp"
 #include "shell/masks/base1.hpp"
 #include "support/desktop_bench.hpp"
+#include "support/dialog_double.hpp"
 #include "support/field_form_bench.hpp"
 
 namespace korven::shell {
@@ -36,7 +37,7 @@ class MovimentiCampi : public test::BancoBase1 {
     void attendi(const char* messaggio, const char* titolo) {
         ASSERT_EQ(dialogo.messaggi.size(), 1U);
         EXPECT_EQ(dialogo.messaggi[0],
-                  (test::DialogRecord::Box{messaggio, titolo, base::Icona::stop}));
+                  (test::DialogoFinto::Detto{messaggio, titolo, base::Icona::stop}));
     }
 };
 

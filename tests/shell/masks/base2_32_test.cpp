@@ -8,6 +8,7 @@
 #include <QScreen>
 
 #include "base/table.hpp"
+#include "support/dialog_double.hpp"
 #include "support/grid_form_bench.hpp"
 
 namespace korven::shell {
@@ -169,7 +170,7 @@ TEST_F(FormaGriglia, ReturnsToItsCursorWhenTheUserWantsToLookAtIncompleteRows) {
     premi(0);
     ASSERT_EQ(dialogo.domande.size(), 1U);
     EXPECT_EQ(dialogo.domande[0],
-              (test::DialogRecord::Box{incomplete, "ATTENZIONE!", base::Icona::domanda}));
+              (test::DialogoFinto::Detto{incomplete, "ATTENZIONE!", base::Icona::domanda}));
     EXPECT_TRUE(forma->isVisible());
     EXPECT_EQ(cursore(), "2,3");
     EXPECT_TRUE(griglia().hasFocus());

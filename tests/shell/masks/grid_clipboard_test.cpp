@@ -4,6 +4,7 @@
 
 #include "shell/dialogo_qt.hpp"
 #include "support/desktop_bench.hpp"
+#include "support/dialog_double.hpp"
 #include "support/grid_form_bench.hpp"
 
 namespace korven::shell {
@@ -51,8 +52,8 @@ TEST_F(Appunti, FillTheGridFromTheCursorOnByCtrlVAndShiftInsert) {
         EXPECT_EQ(cursore(), "4,2");
         ASSERT_EQ(dialogo.domande.size(), 1U);
         EXPECT_EQ(dialogo.domande[0],
-                  (test::DialogRecord::Box{std::string(conferma) + "5\tx\r\n6\ty\r\n",
-                                           "ATTENZIONE!", base::Icona::domanda}));
+                  (test::DialogoFinto::Detto{std::string(conferma) + "5\tx\r\n6\ty\r\n",
+                                             "ATTENZIONE!", base::Icona::domanda}));
     }
 }
 
@@ -113,8 +114,8 @@ TEST_F(Appunti, StopAtRow500WithAMessage) {
     ASSERT_EQ(dialogo.messaggi.size(), 1U);
     EXPECT_EQ(
         dialogo.messaggi[0],
-        (test::DialogRecord::Box{"Non è possibile inserire un numero di righe superiore a 500",
-                                 "ATTENZIONE!", base::Icona::avviso}));
+        (test::DialogoFinto::Detto{"Non è possibile inserire un numero di righe superiore a 500",
+                                   "ATTENZIONE!", base::Icona::avviso}));
 }
 
 TEST_F(Appunti, DoNotMakeTheNextCharacterAppend) {

@@ -5,6 +5,7 @@
 #include <QInputMethodEvent>
 #include <functional>
 
+#include "support/dialog_double.hpp"
 #include "support/grid_form_bench.hpp"
 
 namespace korven::shell {
@@ -174,7 +175,7 @@ TEST_F(VistaGriglia, PutsTheCursorBackOnABadCellWhateverTheWayOut) {
         EXPECT_EQ(cella(1, 1), "1x");
         ASSERT_EQ(dialogo.messaggi.size(), 1U);
         EXPECT_EQ(dialogo.messaggi[0],
-                  (test::DialogRecord::Box{alfanumerico, "Prof. [m]", base::Icona::stop}));
+                  (test::DialogoFinto::Detto{alfanumerico, "Prof. [m]", base::Icona::stop}));
     }
 }
 

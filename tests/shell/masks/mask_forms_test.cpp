@@ -15,7 +15,7 @@
 #include "shell/masks/base2_32.hpp"
 #include "shell/qt_text.hpp"
 #include "support/desktop_bench.hpp"
-#include "support/dialog_record.hpp"
+#include "support/dialog_double.hpp"
 #include "support/form_setup.hpp"
 
 namespace korven::shell {
@@ -65,7 +65,7 @@ class FormeDelleMaschere : public ::testing::Test {
     QApplication& app = test::applicazione();
     test::UtenteNuovo utente;
     std::unique_ptr<test::TestiConsegnati> testi;
-    test::DialogRecord dialogo;
+    test::DialogoFinto dialogo;
     masks::Maschere maschere;
     commands::FormeProgramma forme;
 };

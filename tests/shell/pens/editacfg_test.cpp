@@ -12,7 +12,7 @@
 #include <filesystem>
 #include <optional>
 
-#include "support/dialog_record.hpp"
+#include "support/dialog_double.hpp"
 #include "support/form_setup.hpp"
 #include "support/plot_setup.hpp"
 
@@ -64,7 +64,7 @@ class Penne : public test::ProvaPlot {
 
     QApplication& app = test::applicazione();
     PorteScritte porte;
-    test::DialogRecord dialogo;
+    test::DialogoFinto dialogo;
     std::unique_ptr<Editacfg> forma;
 };
 

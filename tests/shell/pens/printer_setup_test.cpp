@@ -12,7 +12,7 @@
 #include "project/project_data.hpp"
 #include "shell/program_printer.hpp"
 #include "support/desktop_bench.hpp"
-#include "support/dialog_record.hpp"
+#include "support/dialog_double.hpp"
 #include "support/form_setup.hpp"
 #include "support/plot_setup.hpp"
 
@@ -22,7 +22,7 @@ namespace {
 class Stampante : public ::testing::Test {
  protected:
     QApplication& app = test::applicazione();
-    test::DialogRecord dialogo;
+    test::DialogoFinto dialogo;
     QPrinter stampante{QPrinter::HighResolution};
 };
 
@@ -91,7 +91,7 @@ class Disegni : public test::ProvaPlot {
         });
     }
     QApplication& app = test::applicazione();
-    test::DialogRecord dialogo;
+    test::DialogoFinto dialogo;
     StampanteProgramma programma;
     QWidget principale;
     commands::FormeProgramma forme;

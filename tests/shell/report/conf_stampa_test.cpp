@@ -6,7 +6,7 @@
 #include <QPushButton>
 #include <filesystem>
 
-#include "support/dialog_record.hpp"
+#include "support/dialog_double.hpp"
 #include "support/form_setup.hpp"
 #include "support/plot_setup.hpp"
 
@@ -30,7 +30,7 @@ class Stampa : public test::ProvaPlot {
     }
 
     QApplication& app = test::applicazione();
-    test::DialogRecord dialogo;
+    test::DialogoFinto dialogo;
     std::optional<int> copieScelte;
     std::unique_ptr<ConfStampa> forma;
     const std::string file = programma / "printer.cfg";

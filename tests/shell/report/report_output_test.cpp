@@ -16,10 +16,12 @@
 #include "project/project_file.hpp"
 #include "shell/main/menu1.hpp"
 #include "support/desktop_bench.hpp"
+#include "support/dialog_double.hpp"
 #include "support/document_ports.hpp"
 #include "support/form_setup.hpp"
 #include "support/pdf_pages.hpp"
 #include "support/plain_masks.hpp"
+#include "support/progress_double.hpp"
 #include "support/sample_projects.hpp"
 
 namespace korven::shell {

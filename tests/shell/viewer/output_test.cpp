@@ -175,7 +175,7 @@ TEST_F(UsciteVisore, TellOfAnOverlapAsLargeAsTheSheetAndGoOn) {
     ASSERT_EQ(dialogo.messaggi.size(), 1U);
     EXPECT_NE(dialogo.messaggi.front().testo.find("la sovrapposizione deve essere minore"),
               std::string::npos);
-    EXPECT_EQ(dialogo.ultimoPuntatore, base::Puntatore::normale);
+    EXPECT_EQ(dialogo.ultimoPuntatore(), base::Puntatore::normale);
     EXPECT_TRUE(porte.carta.eventi.empty());
 }
 
