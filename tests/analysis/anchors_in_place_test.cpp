@@ -2,20 +2,19 @@
 
 #include <gtest/gtest.h>
 
+#include "support/wall_builder.hpp"
+
 namespace korven::analysis {
 namespace {
 
 // Row 2 is what a table of two anchors left behind when the second was taken out.
 project::DatiProgetto unTiranteDiDue(double inOpera) {
-    project::DatiProgetto d;
-    d.nTiranti = 1;
-    for (int a = 1; a <= 2; ++a) {
-        d.profTirante[a] = 2.0 * a;
-        d.rigTirante[a] = 500;
-    }
-    d.nFasi = 1;
-    d.tirantiFase[1] = inOpera;
-    return d;
+    return test::muro()
+        .tirante(2, 500)
+        .tirante(4, 500)
+        .con(&project::DatiProgetto::nTiranti, 1)
+        .fase({.tiranti = inOpera})
+        .dati();
 }
 
 TEST(TirantiInOpera, AreNeverMoreThanTheTableCounts) {

@@ -4,6 +4,8 @@
 
 #include "analysis/plastic_iteration.hpp"
 #include "support/run_arrays_setup.hpp"
+#include "support/sample_projects.hpp"
+#include "support/wall_builder.hpp"
 
 namespace korven::analysis {
 namespace {

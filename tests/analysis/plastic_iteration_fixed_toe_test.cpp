@@ -9,6 +9,7 @@
 #include "analysis/solver/linear_system.hpp"
 #include "analysis/wall_mesh.hpp"
 #include "support/run_arrays_setup.hpp"
+#include "support/sample_projects.hpp"
 
 namespace korven::analysis {
 namespace {

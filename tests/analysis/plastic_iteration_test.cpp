@@ -6,6 +6,7 @@
 
 #include "support/run_arrays_setup.hpp"
 #include "support/sample_projects.hpp"
+#include "support/wall_builder.hpp"
 
 namespace korven::analysis {
 namespace {

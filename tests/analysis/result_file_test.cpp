@@ -10,6 +10,7 @@
 #include "support/run_arrays_setup.hpp"
 #include "support/run_harness.hpp"
 #include "support/sample_projects.hpp"
+#include "support/wall_builder.hpp"
 
 namespace korven::analysis {
 namespace {
@@ -32,12 +33,9 @@ std::vector<std::string> righe(const std::string& testo) {
 project::DatiProgetto progettoDiFasi(int nFasi, double vincoloPiede = 1) {
     auto dati = progettoSemplice();
     dati.vincoloPiede = vincoloPiede;
-    dati.nFasi = nFasi;
-    for (int k = 1; k <= nFasi; ++k) {
-        dati.profFase[k] = 1 + 0.5 * k;
-        dati.tirantiFase[k] = 1;
-        dati.faldaFase[k] = 5;
-    }
+    dati.nFasi = 0;
+    for (int k = 1; k <= nFasi; ++k)
+        test::aggiungiFase(dati, {.scavo = 1 + 0.5 * k, .tiranti = 1, .falda = 5});
     return dati;
 }
 

@@ -6,6 +6,7 @@
 #include <random>
 
 #include "analysis/soil_state.hpp"
+#include "support/wall_builder.hpp"
 
 namespace korven::analysis {
 namespace {
@@ -14,30 +15,17 @@ namespace {
 // 3 m. Nq, Nc and Ngamma of phi 30 by hand.
 class SuoloKs : public testing::Test {
  protected:
-    SuoloKs() {
-        dati.nStrati = 2;
-        dati.profStrato[1] = 4;
-        dati.profStrato[2] = 10;
-        dati.gammaN[1] = 1.7;
-        dati.gammaN[2] = 1.8;
-        dati.gammaSat[1] = 2;
-        dati.gammaSat[2] = 2.1;
-        dati.phiStrato[1] = dati.phiStrato[2] = 30;
-        dati.coesione[2] = 0.5;
-        dati.ksStrato[1] = 1000;
-        dati.ksStrato[2] = 2500;
-        dati.metodoSpinte = dati.modoSpinte = dati.modoKs = dati.modoTensioni = 1;
-        dati.gammaAcqua = 1;
-        dati.faldaMonte = 2;
-        dati.faldaValle = 5;
-        dati.nFasi = 1;
-        dati.profFase[1] = 3;
-    }
-
     std::optional<RifiutoSuolo> calcola() { return calcolaSuolo(dati, 1, 25, 0.5, s); }
     [[nodiscard]] static int nodo(double z) { return 1 + static_cast<int>(std::lround(z / 0.5)); }
 
-    project::DatiProgetto dati;
+    project::DatiProgetto dati =
+        test::muro()
+            .strato({.fondo = 4, .gammaN = 1.7, .ks = 1000})
+            .strato({.fondo = 10, .gammaN = 1.8, .gammaSat = 2.1, .coesione = 0.5, .ks = 2500})
+            .falda(2)
+            .con(&project::DatiProgetto::faldaValle, 5)
+            .fase({.scavo = 3})
+            .dati();
     StatoSuolo s;
     const double Nq = 18.4011222187087, Nc = 30.1396277915191, Ngamma = 15.0698138957596;
 };

@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "analysis/pressure_coefficients.hpp"
+#include "support/wall_builder.hpp"
 
 namespace korven::analysis {
 namespace {
@@ -15,29 +16,6 @@ using project::DatiProgetto;
 // A wall of 12 m, nodes every 0.5 m, layers to 4 and 10 m, excavation at 3 m, water at 2 and 5 m.
 class CalcolaSuolo : public testing::Test {
  protected:
-    CalcolaSuolo() {
-        dati.nStrati = 2;
-        const double righe[2][6] = {{4, 1.7, 2.0, 30, 0, 1000}, {10, 1.8, 2.1, 35, 0.5, 2500}};
-        for (int j = 1; j <= 2; ++j) {
-            const double* r = righe[j - 1];
-            dati.profStrato[j] = r[0];
-            dati.gammaN[j] = r[1];
-            dati.gammaSat[j] = r[2];
-            dati.phiStrato[j] = r[3];
-            dati.coesione[j] = r[4];
-            dati.ksStrato[j] = r[5];
-        }
-        dati.metodoSpinte = dati.modoSpinte = dati.modoKs = dati.modoTensioni = 1;
-        dati.metodoKs = 3;
-        dati.gammaAcqua = 1;
-        dati.faldaMonte = 2;
-        dati.faldaValle = 5;
-        dati.sovraccMonte = 1;
-        dati.nFasi = 1;
-        dati.profFase[1] = 3;
-        dati.sovraccFase[1] = 0.4;
-    }
-
     void calcola() { EXPECT_FALSE(calcolaSuolo(dati, 1, nNodi, passo, s).has_value()); }
     std::optional<RifiutoSuolo> rifiuto() {
         auto suolo = std::make_unique<StatoSuolo>();
@@ -46,7 +24,19 @@ class CalcolaSuolo : public testing::Test {
     [[nodiscard]] int nodo(double z) const { return 1 + static_cast<int>(std::lround(z / passo)); }
     [[nodiscard]] static double rad(double gradi) { return gradi * pi / 180; }
 
-    DatiProgetto dati;
+    DatiProgetto dati = test::muro()
+                            .strato({.fondo = 4, .gammaN = 1.7, .gammaSat = 2.0, .ks = 1000})
+                            .strato({.fondo = 10,
+                                     .gammaN = 1.8,
+                                     .gammaSat = 2.1,
+                                     .phi = 35,
+                                     .coesione = 0.5,
+                                     .ks = 2500})
+                            .sovraccarico(1)
+                            .falda(2)
+                            .con(&DatiProgetto::faldaValle, 5)
+                            .fase({.scavo = 3, .sovraccarico = 0.4})
+                            .dati();
     const int nNodi = 25;
     const double passo = 0.5;
     StatoSuolo s;

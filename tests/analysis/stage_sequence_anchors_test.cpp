@@ -7,14 +7,15 @@
 #include "support/progress_double.hpp"
 #include "support/run_arrays_setup.hpp"
 #include "support/sample_projects.hpp"
+#include "support/wall_builder.hpp"
 
 namespace korven::analysis {
 namespace {
 
-using test::aggiungiFase;
 using test::aggiungiTirante;
 using test::corsaNuova;
 using test::muroElastico;
+using test::ripetiFase;
 
 constexpr int nodo = 5;  // at 2 m: nodes every 0.5 m
 
@@ -76,7 +77,7 @@ TEST_F(TirantiNelleFasi, OfTheFirstStageStartFromZeroAndPullAtOnce) {
 }
 
 TEST_F(TirantiNelleFasi, AreLaidOnTheWallAsItStandsAtTheEndOfTheStageBefore) {
-    aggiungiFase(dati, 1);
+    ripetiFase(dati, 1);
     calcola();
     EXPECT_EQ(dopo[0].attivi, 0);
     EXPECT_GT(dopo[0].y, 1e-3);
@@ -89,8 +90,8 @@ TEST_F(TirantiNelleFasi, AreLaidOnTheWallAsItStandsAtTheEndOfTheStageBefore) {
 }
 
 TEST_F(TirantiNelleFasi, KeepTheirReferenceInTheStagesAfter) {
-    aggiungiFase(dati, 1);
-    const int k = aggiungiFase(dati, 1);
+    ripetiFase(dati, 1);
+    const int k = ripetiFase(dati, 1);
     dati.faldaFase[k] = 8;
     calcola();
     EXPECT_EQ(dopo[2].yTirante, dopo[0].y);
@@ -98,9 +99,9 @@ TEST_F(TirantiNelleFasi, KeepTheirReferenceInTheStagesAfter) {
 }
 
 TEST_F(TirantiNelleFasi, ThatLeaveActNoMoreAndReturnAsNewOnes) {
-    aggiungiFase(dati, 1);
-    aggiungiFase(dati, 0);
-    const int k = aggiungiFase(dati, 1);
+    ripetiFase(dati, 1);
+    ripetiFase(dati, 0);
+    const int k = ripetiFase(dati, 1);
     dati.faldaFase[3] = 6;
     dati.faldaFase[k] = 6;
     calcola();
@@ -116,7 +117,7 @@ TEST_F(TirantiNelleFasi, ThatLeaveActNoMoreAndReturnAsNewOnes) {
 TEST_F(TirantiNelleFasi, AreCountedFromTheFirstRowWhateverTheirDepth) {
     aggiungiTirante(dati, 6, 900, 7, 0);
     dati.tirantiFase[1] = 1;
-    aggiungiFase(dati, 2);
+    ripetiFase(dati, 2);
     calcola();
     EXPECT_EQ(corsa->yTirante[1], 0);
     EXPECT_EQ(dopo[1].yTirante, 0);
@@ -132,7 +133,7 @@ TEST_F(TirantiNelleFasi, WithoutStiffnessPullWithTheirPrestressAlone) {
 
 TEST_F(TirantiNelleFasi, WithoutPrestressHoldOnlyAWallThatGoesTowardsTheExcavation) {
     dati.pretTirante[1] = 0;
-    aggiungiFase(dati, 1);
+    ripetiFase(dati, 1);
     dati.tirantiFase[1] = 1;
     dati.faldaFase[1] = 0.2;  // first stage: pushed back
     dati.faldaFase[2] = 3;    // second: forward

@@ -8,15 +8,16 @@
 #include "support/progress_double.hpp"
 #include "support/run_arrays_setup.hpp"
 #include "support/sample_projects.hpp"
+#include "support/wall_builder.hpp"
 
 namespace korven::analysis {
 namespace {
 
-using test::aggiungiFase;
 using test::aggiungiTirante;
 using test::corsaNuova;
 using test::muroElastico;
 using test::muroNudo;
+using test::ripetiFase;
 
 // Runs the stages one by one; a stage that needs more than a thousand iterations is stopped.
 struct Sequenza {
@@ -65,7 +66,7 @@ TEST(RisolviFase, NeedsASecondIterationToSeeThatALoadedElasticWallStandsStill) {
 TEST(RisolviFase, ForgetsTheDisplacementsItComparesWithAtEachStage) {
     auto dati = muroElastico(1000);
     dati.forzaTesta = 2;
-    aggiungiFase(dati, 0);  // the same stage once more
+    ripetiFase(dati, 0);  // the same stage once more
     Sequenza s(dati);
     ASSERT_EQ(s.fase(1), EsitoFase::convergente);
     ASSERT_EQ(s.fase(2), EsitoFase::convergente);
@@ -157,13 +158,14 @@ TEST(RisolviFase, EndsTheRunAlsoWhenTheStopComesWithConvergence) {
 // Equal soil on both sides and two soft two-way springs at the ends. While all nodes are plastic in
 // one direction, equilibrium lies far out in the other: the wall jumps from side to side for ever.
 TEST(RisolviFase, GoesOnWithoutLimitWhileTheNodesFlipUntilItIsStopped) {
-    auto dati = muroNudo();
-    dati.gammaN[1] = dati.gammaSat[1] = 2;
-    dati.ksStrato[1] = 5000;
-    dati.modoSpinte = dati.modoKs = 2;
-    aggiungiTirante(dati, 0, 1, 0, 1);
-    aggiungiTirante(dati, 10, 1, 0, 1);
-    dati.tirantiFase[1] = 2;
+    const auto dati = test::muro()
+                          .strato({.gammaN = 2, .gammaSat = 2, .ks = 5000})
+                          .con(&project::DatiProgetto::modoSpinte, 2)
+                          .con(&project::DatiProgetto::modoKs, 2)
+                          .tirante(0, 1, 0, 1)
+                          .tirante(10, 1, 0, 1)
+                          .fase({.tiranti = 2})
+                          .dati();
     Sequenza s(dati, 12);
     for (int i = 1; i <= 13; ++i) s.corsa->yNodo[i] = 1;  // far out, as a stage before may leave it
     double prima = 1;
@@ -217,12 +219,9 @@ TEST(RisolviFase, TakesAResultThatIsNotFiniteForASingularSystem) {
 
 TEST(RisolviFase, ForgetsTheStagesBeforeWhenNoAnchorIsNew) {
     auto dati = test::progettoSemplice();
-    dati.nFasi = 3;  // down to 5 m and filled up again
-    for (int k = 1; k <= 3; ++k) {
-        dati.profFase[k] = k == 2 ? 5 : 2;
-        dati.faldaFase[k] = 5;
-        dati.tirantiFase[k] = 1;
-    }
+    dati.nFasi = 0;
+    for (const double scavo : {2, 5, 2})  // down to 5 m and filled up again
+        test::aggiungiFase(dati, {.scavo = scavo, .tiranti = 1, .falda = 5});
     Sequenza s(dati);
     ASSERT_EQ(s.fase(1), EsitoFase::convergente);
     std::vector<double> prima;
@@ -238,7 +237,7 @@ TEST(RisolviFase, SolvesTheSameDepthTwiceWithAnotherWaterLevel) {
     auto dati = muroElastico(1000);
     dati.faldaMonte = 2;
     dati.faldaFase[1] = 2;
-    const int k = aggiungiFase(dati, 0);
+    const int k = ripetiFase(dati, 0);
     dati.faldaFase[k] = 4;
     Sequenza s(dati);
     ASSERT_EQ(s.fase(1), EsitoFase::convergente);
@@ -255,7 +254,7 @@ TEST(RisolviFase, ExtrapolatesTheMomentAtAFixedToeFromTheStageBeforeWhenOneItera
     dati.vincoloPiede = 3;
     dati.faldaMonte = 2;
     dati.faldaFase[1] = 6;
-    const int k = aggiungiFase(dati, 0);
+    const int k = ripetiFase(dati, 0);
     dati.faldaFase[k] = 2;  // no load is left
     Sequenza s(dati);
     ASSERT_EQ(s.fase(1), EsitoFase::convergente);
@@ -271,7 +270,7 @@ TEST(RisolviFase, KeepsTheUnclearedCellsOfAFixedToeFromOneStageToTheNext) {
     auto dati = muroElastico(1000);
     dati.vincoloPiede = 3;
     dati.forzaTesta = 5;
-    aggiungiFase(dati, 0);
+    ripetiFase(dati, 0);
     const int forze = 2 * 22 - 1;  // balance of forces; column 4 is a shear, never written there
     Sequenza normale(dati), pulita(dati), piantata(dati);
     std::vector<double> primaSoluzione;  // y(1) after the first solve of stage 2

@@ -6,6 +6,7 @@
 #include <random>
 
 #include "analysis/pressure_coefficients.hpp"
+#include "support/wall_builder.hpp"
 
 namespace korven::analysis {
 namespace {
@@ -45,20 +46,6 @@ TEST(ModuloBowles, IsFortyTimesTheSumOfTheThreeTerms) {
 // Two layers to 4 and 10 m.
 class ModuloReazioneTest : public testing::Test {
  protected:
-    ModuloReazioneTest() {
-        dati.nStrati = 2;
-        dati.profStrato[1] = 4;
-        dati.profStrato[2] = 10;
-        dati.gammaN[1] = 1.7;
-        dati.gammaN[2] = 1.8;
-        dati.gammaSat[1] = 2;
-        dati.gammaSat[2] = 2.1;
-        dati.coesione[2] = 0.5;
-        dati.ksStrato[1] = 1000;
-        dati.ksStrato[2] = 2500;
-        dati.gammaAcqua = 1;
-    }
-
     double modulo(double metodo, const NodoKs& nodo) {
         dati.metodoKs = metodo;
         const ModuloNodo m = moduloReazione(dati, nodo);
@@ -66,7 +53,11 @@ class ModuloReazioneTest : public testing::Test {
         return m.Eh;
     }
 
-    DatiProgetto dati;
+    DatiProgetto dati =
+        test::muro()
+            .strato({.fondo = 4, .gammaN = 1.7, .ks = 1000})
+            .strato({.fondo = 10, .gammaN = 1.8, .gammaSat = 2.1, .coesione = 0.5, .ks = 2500})
+            .dati();
     const double Nq = 18.4011222187087, Nc = 30.1396277915191, Ngamma = 15.0698138957596;
 };
 

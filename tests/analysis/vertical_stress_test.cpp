@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <random>
 
+#include "support/wall_builder.hpp"
+
 namespace korven::analysis {
 namespace {
 
@@ -57,18 +59,13 @@ TEST(PressioneAcquaNetta, IsNegativeWhereTheDownhillTableIsTheHigherOne) {
 
 // Three layers to 3, 5 and 9 m.
 DatiProgetto treStrati() {
-    DatiProgetto dati;
-    dati.nStrati = 3;
-    const double fondo[] = {3, 5, 9}, naturale[] = {1.7, 1.8, 1.9}, saturo[] = {2.0, 2.1, 2.2};
-    for (int j = 1; j <= 3; ++j) {
-        dati.profStrato[j] = fondo[j - 1];
-        dati.gammaN[j] = naturale[j - 1];
-        dati.gammaSat[j] = saturo[j - 1];
-    }
-    dati.gammaAcqua = 1;
-    dati.faldaMonte = 4;
-    dati.faldaValle = 6;
-    return dati;
+    return test::muro()
+        .strato({.fondo = 3, .gammaN = 1.7, .gammaSat = 2.0})
+        .strato({.fondo = 5, .gammaN = 1.8, .gammaSat = 2.1})
+        .strato({.fondo = 9, .gammaN = 1.9, .gammaSat = 2.2})
+        .falda(4)
+        .con(&DatiProgetto::faldaValle, 6)
+        .dati();
 }
 
 TEST(TensioneMonte, SumsSurchargeLayersAndWater) {
@@ -168,14 +165,13 @@ TEST(TensioneValle, GoesOnInTheLastLayerBelowTheSoilColumn) {
 // Random columns of 1 to 6 layers, some without thickness, water anywhere from 3 m above ground.
 DatiProgetto colonna(std::mt19937& caso) {
     std::uniform_real_distribution<double> spessore(0, 5), peso(1.5, 2), falda(-3, 15);
-    DatiProgetto dati;
-    dati.nStrati = std::uniform_int_distribution(1, 6)(caso);
-    for (int j = 1; j <= dati.nStrati; ++j) {
-        dati.profStrato[j] = dati.profStrato[j - 1] + (caso() % 5 == 0 ? 0 : spessore(caso));
-        dati.gammaN[j] = peso(caso);
-        dati.gammaSat[j] = dati.gammaN[j] + 0.3;
+    DatiProgetto dati = test::progettoVuoto();
+    const int quanti = std::uniform_int_distribution(1, 6)(caso);
+    for (double fondo = 0; dati.nStrati < quanti;) {
+        fondo += caso() % 5 == 0 ? 0 : spessore(caso);
+        const double gamma = peso(caso);
+        test::aggiungiStrato(dati, {.fondo = fondo, .gammaN = gamma, .gammaSat = gamma + 0.3});
     }
-    dati.gammaAcqua = 1;
     dati.sovraccMonte = peso(caso);
     dati.faldaMonte = falda(caso);
     dati.faldaValle = falda(caso);

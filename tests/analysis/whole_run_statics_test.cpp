@@ -7,12 +7,14 @@
 #include <cmath>
 #include <numbers>
 
-#include "support/run_arrays_setup.hpp"
+#include "support/sample_projects.hpp"
+#include "support/wall_builder.hpp"
 #include "support/whole_run.hpp"
 
 namespace korven::analysis {
 namespace {
 
+using test::aggiungiStrato;
 using test::aggiungiTirante;
 using test::fasiDi;
 using test::muroElastico;
@@ -23,11 +25,7 @@ constexpr double L = 10;
 // Dug free to the toe and almost without springs: the wall carries the pressure at rest
 // K0 gamma z = (1 - sin 30) 2 z = z, a triangle of 10 t/m2 at the toe.
 project::DatiProgetto muroSottoTriangolo() {
-    auto d = muroNudo();
-    d.gammaN[1] = d.gammaSat[1] = 2;
-    d.ksStrato[1] = 1e-6;
-    d.profFase[1] = 11;
-    return d;
+    return test::muro().strato({.gammaN = 2, .gammaSat = 2, .ks = 1e-6}).fase({.scavo = 11}).dati();
 }
 
 TEST(SuoloMolle, LoadsAWallBetweenTwoHingesWithItsPressureAtRest) {
@@ -137,14 +135,9 @@ TEST(MensolaIncastrata, GivesTheCantileverItsDisplacementToFirstOrderInTheStep) 
 // as above. y(1) = H d^3 / (3 EJ) but for the step.
 TEST(SuoloRigido, ClampsAWallWhereItBegins) {
     for (const int nSeg : {20, 40, 80}) {
-        auto d = muroElastico(1e12);
-        d.nStrati = 2;
-        d.profStrato[2] = d.profStrato[1];
-        d.phiStrato[2] = d.phiStrato[1];
-        d.coesione[2] = d.coesione[1];
-        d.ksStrato[2] = d.ksStrato[1];
+        auto d = muroElastico(0);
         d.profStrato[1] = 4;
-        d.ksStrato[1] = 0;
+        aggiungiStrato(d, {.gammaN = 0, .gammaSat = 0, .coesione = 1e6, .ks = 1e12});
         d.forzaTesta = 15;
         const auto fasi = fasiDi(d, nSeg);
         ASSERT_EQ(fasi.size(), 1u);

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "support/random_walls.hpp"
-#include "support/run_arrays_setup.hpp"
+#include "support/sample_projects.hpp"
 #include "support/whole_run.hpp"
 
 namespace korven::analysis {

@@ -12,6 +12,7 @@
 #include "drawings/diagram_frame.hpp"
 #include "plot/text_width.hpp"
 #include "support/drawing_by_pen.hpp"
+#include "support/wall_builder.hpp"
 
 namespace korven::drawings {
 namespace {
@@ -27,21 +28,13 @@ using Linee = std::vector<std::string>;
 // the second node in stage 2.
 results::DatiRelazione muro() {
     results::DatiRelazione d;
-    auto& p = d.progetto;
-    p.lunghezzaParatia = 9.5;
-    p.nStrati = 1;
-    p.profStrato[1] = 20;
-    p.phiStrato[1] = 30;
-    p.metodoSpinte = 1;
-    p.nTiranti = 1;
-    p.profTirante[1] = 1.9;
-    p.rigTirante[1] = 100;
-    p.pretTirante[1] = 3;
-    p.nFasi = 2;
-    p.profFase[1] = 1.9;
-    p.profFase[2] = 3.8;
-    p.tirantiFase[2] = 1;
-    for (int i = 1; i <= 6; ++i) p.titoli[i] = "riga " + std::to_string(i);
+    d.progetto = test::muro()
+                     .lungo(9.5)
+                     .tirante(1.9, 100, 3)
+                     .fase({.scavo = 1.9})
+                     .fase({.scavo = 3.8, .tiranti = 1})
+                     .dati();
+    for (int i = 1; i <= 6; ++i) d.progetto.titoli[i] = "riga " + std::to_string(i);
     d.nNodi = 6;
     d.passo = 1.9;
     d.fasi.resize(2);

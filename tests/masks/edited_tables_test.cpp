@@ -2,12 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include "support/wall_builder.hpp"
+
 namespace korven::masks {
 namespace {
 
 TEST(RiprendiStrati, ConvertsTheShownUnitsAndSortsByDepth) {
-    project::DatiProgetto d;
-    project::azzera(d);
+    project::DatiProgetto d = test::progettoVuoto();
     d.nStrati = 2;
     d.suStrato[1] = 11;
     d.suStrato[2] = 22;
@@ -28,8 +29,7 @@ TEST(RiprendiStrati, ConvertsTheShownUnitsAndSortsByDepth) {
 
 // What a longer table of before left in a row is not the new layer's.
 TEST(RiprendiStrati, GivesNewRowsNoUndrainedStrength) {
-    project::DatiProgetto d;
-    project::azzera(d);
+    project::DatiProgetto d = test::progettoVuoto();
     d.nStrati = 2;
     for (int j = 1; j <= 4; ++j) d.suStrato[j] = 11.0 * j;
     const std::vector<std::string> riga = {"1", "19", "21", "34", "5", "30000", "G Ghiaia"};
@@ -51,8 +51,7 @@ TEST(RiprendiStrati, GivesNewRowsNoUndrainedStrength) {
 }
 
 TEST(RiprendiStrati, KeepsTheTypedOrderOfEqualDepths) {
-    project::DatiProgetto d;
-    project::azzera(d);
+    project::DatiProgetto d = test::progettoVuoto();
     riprendiStrati(d, {"3", "5", "1", "", "", "", "", "a", "5", "2", "", "", "", "", "b",  //
                        "2", "3", "",  "", "", "", "c"});
     EXPECT_EQ(d.descrStrato[1], "c");
@@ -62,8 +61,7 @@ TEST(RiprendiStrati, KeepsTheTypedOrderOfEqualDepths) {
 }
 
 TEST(RiprendiTiranti, SortsWholeRows) {
-    project::DatiProgetto d;
-    project::azzera(d);
+    project::DatiProgetto d = test::progettoVuoto();
     riprendiTiranti(d, {"2", "6", "8000", "100", "1", "2", "5000", "50", "0"});
     EXPECT_EQ(d.nTiranti, 2);
     EXPECT_EQ(d.profTirante[1], 2);
@@ -75,8 +73,7 @@ TEST(RiprendiTiranti, SortsWholeRows) {
 }
 
 TEST(RiprendiFasi, OutOfDepthOrderExchangesCountsSurchargesAndAnchorStiffnessOnly) {
-    project::DatiProgetto d;
-    project::azzera(d);
+    project::DatiProgetto d = test::progettoVuoto();
     d.rigTirante[1] = 100;
     d.rigTirante[2] = 200;
     riprendiFasi(d, {"2", "5", "1", "20", "6", "3", "0", "10", "4"});
@@ -94,8 +91,7 @@ TEST(RiprendiFasi, OutOfDepthOrderExchangesCountsSurchargesAndAnchorStiffnessOnl
 
 // The wall and the headings are compared with what is stored; a table is not.
 TEST(RiprendiTabelle, ConfirmedWithoutAChangeStillCountAsModified) {
-    project::DatiProgetto d;
-    project::azzera(d);
+    project::DatiProgetto d = test::progettoVuoto();
     const project::DatiProgetto prima = d;
     EXPECT_TRUE(riprendiStrati(d, {"0"}));
     EXPECT_TRUE(riprendiTiranti(d, {"0"}));
@@ -107,8 +103,7 @@ TEST(RiprendiTabelle, ConfirmedWithoutAChangeStillCountAsModified) {
 }
 
 TEST(RiprendiTabelle, RefuseMoreRowsThanTheTableHoldsAndLeaveTheProjectAlone) {
-    project::DatiProgetto d;
-    project::azzera(d);
+    project::DatiProgetto d = test::progettoVuoto();
     const project::DatiProgetto prima = d;
     EXPECT_THROW(riprendiStrati(d, {"101"}), base::ErroreIndice);
     EXPECT_THROW(riprendiTiranti(d, {"21"}), base::ErroreIndice);
@@ -118,8 +113,7 @@ TEST(RiprendiTabelle, RefuseMoreRowsThanTheTableHoldsAndLeaveTheProjectAlone) {
 }
 
 TEST(RiprendiTabelle, ReadTheNumericPrefixOfATextAndZeroWhereThereIsNone) {
-    project::DatiProgetto d;
-    project::azzera(d);
+    project::DatiProgetto d = test::progettoVuoto();
     riprendiTiranti(d, {"1", " 2.5m", "1 2", "circa 3", "1d3"});
     EXPECT_EQ(d.profTirante[1], 2.5);
     EXPECT_EQ(d.rigTirante[1], 0.1);
@@ -128,8 +122,7 @@ TEST(RiprendiTabelle, ReadTheNumericPrefixOfATextAndZeroWhereThereIsNone) {
 }
 
 TEST(RiprendiParatia, TellsWhetherAnyValueChanged) {
-    project::DatiProgetto d;
-    project::azzera(d);
+    project::DatiProgetto d = test::progettoVuoto();
     std::vector<std::string> testi = {"1", "3", "1",  "2", "1",  "2",   "4", "12.5", "120000",
                                       "2", "5", "10", "7", "-8", "100", "5", "3",    "1"};
     EXPECT_TRUE(riprendiParatia(d, testi));
@@ -149,8 +142,7 @@ TEST(RiprendiParatia, TellsWhetherAnyValueChanged) {
 }
 
 TEST(RiprendiTitoli, StoresTheLinesAndTellsAChange) {
-    project::DatiProgetto d;
-    project::azzera(d);
+    project::DatiProgetto d = test::progettoVuoto();
     EXPECT_FALSE(riprendiTitoli(d, {"", "", "", "", "", ""}));
     EXPECT_TRUE(riprendiTitoli(d, {"", "", " Lotto 2", "", "", ""}));
     EXPECT_EQ(d.titoli[3], " Lotto 2");

@@ -8,8 +8,8 @@
 #include "project/output_guard.hpp"
 #include "support/failing_disk.hpp"
 #include "support/hand_written_results.hpp"
-#include "support/sample_projects.hpp"
 #include "support/sample_sections.hpp"
+#include "support/wall_builder.hpp"
 
 namespace korven::report {
 namespace {
@@ -23,38 +23,23 @@ using test::RisultatiAMano;
 
 // A wall of 3 m in 3 segments, one anchor that comes into place in stage 2.
 project::DatiProgetto muroPiccolo() {
-    project::DatiProgetto d;
-    project::azzera(d);
-    d.nStrati = 1;
-    d.profStrato[1] = 10;
-    d.gammaN[1] = 1.8;
-    d.gammaSat[1] = 2;
-    d.phiStrato[1] = 30;
-    d.coesione[1] = 0.5;
-    d.ksStrato[1] = 1500;
-    d.vincoloTesta = d.vincoloPiede = d.modoSpinte = d.modoKs = d.modoTensioni = 1;
-    d.metodoSpinte = 1;
-    d.metodoKs = 2;
-    d.lunghezzaParatia = 3;
-    d.rigidezzaEJ = 12345.6;
-    d.coeffM = 0.7;
-    d.pressioneOrizz = 0.25;
-    d.sovraccMonte = 1;
-    d.momentoTesta = -0.05;
-    d.faldaMonte = 2.5;
-    d.nTiranti = 1;
-    d.profTirante[1] = 1;
-    d.rigTirante[1] = 500;
-    d.pretTirante[1] = 5;
-    d.nFasi = 2;
-    d.profFase[1] = 0.5;
-    d.faldaFase[1] = 2.5;
-    d.profFase[2] = 1.5;
-    d.tirantiFase[2] = 1;
-    d.faldaFase[2] = 2.5;
-    d.titoli[1] = "Muro di prova";
-    d.titoli[3] = " Sponda destra";
-    return d;
+    using project::DatiProgetto;
+    return test::muro()
+        .titolo(1, "Muro di prova")
+        .titolo(3, " Sponda destra")
+        .lungo(3)
+        .rigido(12345.6)
+        .strato({.fondo = 10, .coesione = 0.5})
+        .con(&DatiProgetto::metodoKs, 2)
+        .con(&DatiProgetto::coeffM, 0.7)
+        .con(&DatiProgetto::pressioneOrizz, 0.25)
+        .sovraccarico(1)
+        .con(&DatiProgetto::momentoTesta, -0.05)
+        .falda(2.5)
+        .tirante(1, 500, 5)
+        .fase({.scavo = 0.5, .falda = 2.5})
+        .fase({.scavo = 1.5, .tiranti = 1, .falda = 2.5})
+        .dati();
 }
 
 const std::vector<std::string>& fasiPiccole() {

@@ -2,19 +2,15 @@
 
 #include "report/report_sections.hpp"
 #include "support/report_text.hpp"
+#include "support/wall_builder.hpp"
 
 namespace korven::report {
 namespace {
 
 using project::DatiProgetto;
 using test::contiene;
+using test::progettoVuoto;
 using test::righe;
-
-DatiProgetto nuovo() {
-    DatiProgetto d;
-    project::azzera(d);
-    return d;
-}
 
 std::vector<std::string> apertura(const DatiProgetto& d) {
     return righe([&](RigheRelazione& r) { sezioneApertura(d, "Piede", r); });
@@ -33,14 +29,14 @@ std::vector<std::string> setteRighe(const DatiProgetto& d) {
 }
 
 TEST(SezioneApertura, OpensTheDocumentInTheOrderThatTheRenderersExpect) {
-    EXPECT_EQ(apertura(nuovo()),
+    EXPECT_EQ(apertura(progettoVuoto()),
               (std::vector<std::string>{"#RESET 2,2,2,2,2,2,12,Arial", "#HEADER Program KORVEN 32",
                                         "#FOOTER Piede", "#FONTSIZE 16", "#CENTER",
                                         "CALCOLO DIAFRAMMA", "#LEFT", "", "#FONTSIZE 10", ""}));
 }
 
 TEST(SezioneApertura, WritesTheHeadingsThatAreNotBlankAsTheyStand) {
-    auto d = nuovo();
+    auto d = progettoVuoto();
     d.titoli[1] = "  Muro di sponda ";
     d.titoli[2] = "   ";
     d.titoli[4] = "CALCOLO DIAFRAMMA";
@@ -53,22 +49,21 @@ TEST(SezioneApertura, WritesTheHeadingsThatAreNotBlankAsTheyStand) {
 
 TEST(SezioneApertura, NeverLooksAHeadingUp) {
     const test::UnTesto tedesco("Muro", "Mauer");
-    auto d = nuovo();
+    auto d = progettoVuoto();
     d.titoli[1] = "Muro";
     EXPECT_TRUE(contiene(apertura(d), "Muro"));
     EXPECT_FALSE(contiene(apertura(d), "Mauer"));
 }
 
 TEST(SezioneDati, ShowsALayerInKilonewtons) {
-    auto d = nuovo();
-    d.nStrati = 1;
-    d.profStrato[1] = 4.5;
-    d.gammaN[1] = 1.8;
-    d.gammaSat[1] = 2.05;
-    d.phiStrato[1] = 32.5;
-    d.coesione[1] = 0.25;
-    d.suStrato[1] = 77;
-    d.ksStrato[1] = 1500;
+    auto d = progettoVuoto();
+    test::aggiungiStrato(d, {.fondo = 4.5,
+                             .gammaN = 1.8,
+                             .gammaSat = 2.05,
+                             .phi = 32.5,
+                             .coesione = 0.25,
+                             .su = 77,
+                             .ks = 1500});
     const auto tutte = dati(d);
     EXPECT_EQ((std::vector<std::string>{tutte.begin(), tutte.begin() + 6}),
               (std::vector<std::string>{
@@ -79,7 +74,7 @@ TEST(SezioneDati, ShowsALayerInKilonewtons) {
 }
 
 TEST(SezioneDati, ChoosesALineForEachCode) {
-    auto d = nuovo();
+    auto d = progettoVuoto();
     d.vincoloTesta = d.vincoloPiede = d.modoSpinte = d.modoKs = d.modoTensioni = 1;
     d.metodoSpinte = d.metodoKs = 1;
     EXPECT_EQ(setteRighe(d),
@@ -105,7 +100,7 @@ TEST(SezioneDati, ChoosesALineForEachCode) {
 }
 
 TEST(SezioneDati, HasFurtherLinesForTheCodesWithMoreThanTwoValues) {
-    auto d = nuovo();
+    auto d = progettoVuoto();
     d.vincoloPiede = d.metodoSpinte = d.metodoKs = 3;
     auto sette = setteRighe(d);
     EXPECT_EQ(sette[1], "Condizioni di vincolo del piede diaframma: incastro");
@@ -118,19 +113,19 @@ TEST(SezioneDati, HasFurtherLinesForTheCodesWithMoreThanTwoValues) {
 
 TEST(SezioneDati, WritesSevenLinesWhateverTheCodesAndAnEmptyOneForACodeOfItsOwn) {
     for (const double codice : {0.0, -1.0, 5.0, 1.5}) {
-        auto d = nuovo();
+        auto d = progettoVuoto();
         d.vincoloTesta = d.vincoloPiede = d.modoSpinte = d.modoKs = d.modoTensioni = codice;
         d.metodoSpinte = d.metodoKs = codice;
         EXPECT_EQ(setteRighe(d), std::vector<std::string>(7)) << codice;
     }
-    auto d = nuovo();
+    auto d = progettoVuoto();
     d.vincoloTesta = d.modoSpinte = d.modoKs = d.modoTensioni = 3;
     d.vincoloPiede = d.metodoSpinte = 4;
     EXPECT_EQ(setteRighe(d), std::vector<std::string>(7));
 }
 
 TEST(SezioneDati, ListsTheWallInKilonewtonsWithoutTheAxialForce) {
-    auto d = nuovo();
+    auto d = progettoVuoto();
     d.lunghezzaParatia = 12.5;
     d.rigidezzaEJ = 12345.6;
     d.coeffM = 0.75;
@@ -151,7 +146,7 @@ TEST(SezioneDati, ListsTheWallInKilonewtonsWithoutTheAxialForce) {
 }
 
 TEST(SezioneDati, ShowsTheCoefficientMOnlyForLancellottasMethod) {
-    auto d = nuovo();
+    auto d = progettoVuoto();
     d.coeffM = 0.75;
     for (const double metodo : {0.0, 1.0, 3.0, 4.0}) {
         d.metodoKs = metodo;
@@ -164,22 +159,17 @@ TEST(SezioneDati, ShowsTheCoefficientMOnlyForLancellottasMethod) {
 }
 
 TEST(SezioneDati, ShowsTheConstantPressureOfEitherSignUnlessItIsNothing) {
-    auto d = nuovo();
+    auto d = progettoVuoto();
     EXPECT_EQ(test::unite(dati(d)).find("Pressione orizzontale"), std::string::npos);
     d.pressioneOrizz = -0.25;
     EXPECT_TRUE(contiene(dati(d), "Pressione orizzontale costante [kN/m²]\t-2.50"));
 }
 
 TEST(SezioneDati, ShowsTheAnchorsAndTheirKind) {
-    auto d = nuovo();
-    d.nTiranti = 3;
-    d.profTirante[1] = 1.5;
-    d.rigTirante[1] = 500;
-    d.pretTirante[1] = 5;
-    d.profTirante[2] = 4;
-    d.tipoTirante[2] = 1;
-    d.profTirante[3] = 6;
-    d.tipoTirante[3] = 2;
+    auto d = progettoVuoto();
+    test::aggiungiTirante(d, 1.5, 500, 5);
+    test::aggiungiTirante(d, 4, 0, 0, 1);
+    test::aggiungiTirante(d, 6, 0, 0, 2);
     EXPECT_NE(test::unite(dati(d)).find(
                   "DESCRIZIONE TIRANTI|#STARTTABLE|"
                   "Prof. [m]\tRigidezza [kN/m]\tPretens. [kN]\tTipologia|"
@@ -190,18 +180,13 @@ TEST(SezioneDati, ShowsTheAnchorsAndTheirKind) {
 }
 
 TEST(SezioneDati, HasNoWordAboutAnchorsWithoutAny) {
-    EXPECT_FALSE(contiene(dati(nuovo()), "DESCRIZIONE TIRANTI"));
+    EXPECT_FALSE(contiene(dati(progettoVuoto()), "DESCRIZIONE TIRANTI"));
 }
 
 TEST(SezioneDati, ShowsTheStagesWithTheAnchorCountInTwoDecimalsToo) {
-    auto d = nuovo();
-    d.nFasi = 2;
-    d.profFase[1] = 2.5;
-    d.faldaFase[1] = 3;
-    d.profFase[2] = 5;
-    d.tirantiFase[2] = 1;
-    d.sovraccFase[2] = 0.5;
-    d.faldaFase[2] = 5;
+    auto d = progettoVuoto();
+    test::aggiungiFase(d, {.scavo = 2.5, .falda = 3});
+    test::aggiungiFase(d, {.scavo = 5, .tiranti = 1, .sovraccarico = 0.5, .falda = 5});
     const auto tutte = dati(d);
     EXPECT_EQ((std::vector<std::string>{tutte.end() - 7, tutte.end()}),
               (std::vector<std::string>{

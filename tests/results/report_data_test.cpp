@@ -5,11 +5,13 @@
 #include "base/file_error.hpp"
 #include "support/hand_written_results.hpp"
 #include "support/sample_projects.hpp"
+#include "support/wall_builder.hpp"
 
 namespace korven::results {
 namespace {
 
 using project::DatiProgetto;
+using test::aggiungiTirante;
 using test::faseFerma;
 using test::faseScritta;
 using test::RisultatiAMano;
@@ -18,22 +20,9 @@ using test::RisultatiAMano;
 DatiProgetto muroQuattroSegmenti(int nFasi) {
     DatiProgetto d = test::progettoSemplice();
     d.lunghezzaParatia = 8;
-    d.nTiranti = 0;
-    d.nFasi = nFasi;
-    for (int k = 1; k <= nFasi; ++k) {
-        d.profFase[k] = k;
-        d.tirantiFase[k] = 0;
-        d.faldaFase[k] = 3 + k;
-    }
+    d.nTiranti = d.nFasi = 0;
+    for (int k = 1; k <= nFasi; ++k) test::aggiungiFase(d, {.scavo = 1.0 * k, .falda = 3.0 + k});
     return d;
-}
-
-void tirante(DatiProgetto& d, double prof, double rig, double pret, double tipo = 0) {
-    ++d.nTiranti;
-    d.profTirante[d.nTiranti] = prof;
-    d.rigTirante[d.nTiranti] = rig;
-    d.pretTirante[d.nTiranti] = pret;
-    d.tipoTirante[d.nTiranti] = tipo;
 }
 
 // Only displacements matter to the anchors.
@@ -130,7 +119,7 @@ TEST(LeggiRisultati, SetsFaldaValleStageByStageSoThatABrokenSecondStageLeavesThe
 TEST(LeggiRisultati, TakesTheLargestDisplacementOfAnAnchorOverAllStages) {
     RisultatiAMano file(4);
     auto d = muroQuattroSegmenti(3);
-    tirante(d, 2, 500, 5);
+    aggiungiTirante(d, 2, 500, 5);
     for (int k = 1; k <= 3; ++k) d.tirantiFase[k] = 1;
     file.scrivi(d, {spostata("0", "0.004", "0", "0", "0"), spostata("0", "0.012", "0", "0", "0"),
                     spostata("0", "0.001", "0", "0", "0")});
@@ -141,7 +130,7 @@ TEST(LeggiRisultati, ShowsThePrestressOfAnAnchorThatWasOnlyPushedBackOfEitherKin
     for (const double tipo : {0.0, 1.0}) {
         RisultatiAMano file(4);
         auto d = muroQuattroSegmenti(2);
-        tirante(d, 2, 500, 5, tipo);
+        aggiungiTirante(d, 2, 500, 5, tipo);
         d.tirantiFase[2] = 1;
         file.scrivi(d,
                     {spostata("0", "0.01", "0", "0", "0"), spostata("0", "0.004", "0", "0", "0")});
@@ -152,7 +141,7 @@ TEST(LeggiRisultati, ShowsThePrestressOfAnAnchorThatWasOnlyPushedBackOfEitherKin
 TEST(LeggiRisultati, ShowsThePrestressOfAnAnchorOfTheFirstStageWhoseNodeIsNegativeThroughout) {
     RisultatiAMano file(4);
     auto d = muroQuattroSegmenti(1);
-    tirante(d, 2, 500, 5);
+    aggiungiTirante(d, 2, 500, 5);
     d.tirantiFase[1] = 1;
     file.scrivi(d, {spostata("0", "-.003", "0", "0", "0")});
     EXPECT_EQ(letti(file, d).tiroTirante[1], 5);
@@ -161,7 +150,7 @@ TEST(LeggiRisultati, ShowsThePrestressOfAnAnchorOfTheFirstStageWhoseNodeIsNegati
 TEST(LeggiRisultati, SetsAnAnchorOnTheWallAsTheStageBeforeLeftIt) {
     RisultatiAMano file(4);
     auto d = muroQuattroSegmenti(2);
-    tirante(d, 2, 500, 5);
+    aggiungiTirante(d, 2, 500, 5);
     d.tirantiFase[2] = 1;
     file.scrivi(d, {spostata("0", "0.01", "0", "0", "0"), spostata("0", "0.018", "0", "0", "0")});
     EXPECT_DOUBLE_EQ(letti(file, d).tiroTirante[1], 5 + 500 * (0.018 - 0.01));
@@ -170,7 +159,7 @@ TEST(LeggiRisultati, SetsAnAnchorOnTheWallAsTheStageBeforeLeftIt) {
 TEST(LeggiRisultati, CountsStagesBeforeAnAnchorCameNeitherForItsMaximumNorTwice) {
     RisultatiAMano file(4);
     auto d = muroQuattroSegmenti(2);
-    tirante(d, 2, 500, 5);
+    aggiungiTirante(d, 2, 500, 5);
     d.tirantiFase[2] = 1;
     // The wall stood further out before the anchor was there than it ever did with it.
     file.scrivi(d, {spostata("0", "0.03", "0", "0", "0"), spostata("0", "0.02", "0", "0", "0")});
@@ -180,7 +169,7 @@ TEST(LeggiRisultati, CountsStagesBeforeAnAnchorCameNeitherForItsMaximumNorTwice)
 TEST(LeggiRisultati, SetsAnAnchorThatLeftAndCameBackOnTheWallAnewButKeepsItsMaximum) {
     RisultatiAMano file(4);
     auto d = muroQuattroSegmenti(4);
-    tirante(d, 2, 500, 5);
+    aggiungiTirante(d, 2, 500, 5);
     d.tirantiFase[1] = 1;
     d.tirantiFase[2] = 0;
     d.tirantiFase[3] = 1;
@@ -195,7 +184,7 @@ TEST(LeggiRisultati, SetsAnAnchorThatLeftAndCameBackOnTheWallAnewButKeepsItsMaxi
 TEST(LeggiRisultati, TakesTheDeeperNodeForAnAnchorHalfWayBetweenTwo) {
     RisultatiAMano file(4);
     auto d = muroQuattroSegmenti(1);
-    tirante(d, 5, 1000, 0);
+    aggiungiTirante(d, 5, 1000, 0);
     d.tirantiFase[1] = 1;
     file.scrivi(d, {spostata("0", "0", "0.002", "0.003", "0")});
     EXPECT_DOUBLE_EQ(letti(file, d).tiroTirante[1], 3);
@@ -204,7 +193,7 @@ TEST(LeggiRisultati, TakesTheDeeperNodeForAnAnchorHalfWayBetweenTwo) {
 TEST(LeggiRisultati, ReadsZeroForAnAnchorBeyondTheToe) {
     RisultatiAMano file(4);
     auto d = muroQuattroSegmenti(2);
-    tirante(d, 30, 1000, 7);
+    aggiungiTirante(d, 30, 1000, 7);
     d.tirantiFase[1] = d.tirantiFase[2] = 1;
     file.scrivi(d, {spostata("1", "1", "1", "1", "1"), spostata("2", "2", "2", "2", "2")});
     EXPECT_EQ(letti(file, d).tiroTirante[1], 7);
@@ -220,7 +209,7 @@ TEST(LeggiRisultati, TakesTheShearOfTheLastStageAlone) {
 TEST(LeggiRisultati, FindsTheShearAboveAnAnchorThatStandsExactlyAtANode) {
     RisultatiAMano file(4);
     auto d = muroQuattroSegmenti(1);
-    tirante(d, 2, 0, 10);
+    aggiungiTirante(d, 2, 0, 10);
     d.tirantiFase[1] = 1;
     // At the anchor's node 2 x 3 - 1 = 5 below it, and 5 - 10 = -5 above it; its own 99 is gone.
     file.scrivi(d, {tagliata("0", "99", "3", "1", "0")});
@@ -230,7 +219,7 @@ TEST(LeggiRisultati, FindsTheShearAboveAnAnchorThatStandsExactlyAtANode) {
 TEST(LeggiRisultati, UsesThePlaceWhereTheAnchorWasSetForTheShearAboveIt) {
     RisultatiAMano file(4);
     auto d = muroQuattroSegmenti(2);
-    tirante(d, 2, 1000, 10);
+    aggiungiTirante(d, 2, 1000, 10);
     d.tirantiFase[2] = 1;
     file.scrivi(d, {spostata("0", "0.01", "0", "0", "0"), faseScritta({{"0", "0", "0"},
                                                                        {"0.015", "0", "0"},

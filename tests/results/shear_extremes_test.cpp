@@ -4,21 +4,17 @@
 
 #include <initializer_list>
 
+#include "support/wall_builder.hpp"
+
 namespace korven::results {
 namespace {
 
 using project::DatiProgetto;
+using test::aggiungiTirante;
 
 // A wall of 10 segments of 0.5 m.
 class EstremiTaglioTest : public testing::Test {
  protected:
-    void tirante(double prof, double rig, double pret) {
-        const int j = ++dati.nTiranti;
-        dati.profTirante[j] = prof;
-        dati.rigTirante[j] = rig;
-        dati.pretTirante[j] = pret;
-    }
-
     void tagli(std::initializer_list<double> valori) {
         int i = 0;
         for (double v : valori) taglioNodo[++i] = v;
@@ -53,7 +49,7 @@ TEST_F(EstremiTaglioTest, LargerAbsoluteLimitMayBeTheNegativeOne) {
 // Node 3 at 1.00 m: 2 x 4 - 1 = 7 below the anchor; above it 7 - (20 + 100 (0.03 - 0.01)) = -15.
 TEST_F(EstremiTaglioTest, CountTheShearBelowAndAboveAnAnchorAtANode) {
     tagli({-1, -2, 0, 4, 1, 0.5});
-    tirante(1.0, 100, 20);
+    aggiungiTirante(dati, 1.0, 100, 20);
     yNodo[3] = 0.03;
     yTirante[1] = 0.01;
     const EstremiTaglio e = calcola();
@@ -64,7 +60,7 @@ TEST_F(EstremiTaglioTest, CountTheShearBelowAndAboveAnAnchorAtANode) {
 
 TEST_F(EstremiTaglioTest, AnchorBetweenTwoNodesChangesTheNearestNodeButHasNoStep) {
     tagli({-1, -2, 0, 4, 1, 0.5});
-    tirante(1.2, 100, 20);  // nearest: node 3 at 1.0
+    aggiungiTirante(dati, 1.2, 100, 20);  // nearest: node 3 at 1.0
     const EstremiTaglio e = calcola();
     EXPECT_EQ(taglioNodo[3], 7);
     EXPECT_EQ(e.vMax, 7);
@@ -73,7 +69,7 @@ TEST_F(EstremiTaglioTest, AnchorBetweenTwoNodesChangesTheNearestNodeButHasNoStep
 
 TEST_F(EstremiTaglioTest, AnchorHalfWayBetweenTwoNodesBelongsToTheLowerOne) {
     tagli({-1, -2, 0, 4, 1, 0.5});
-    tirante(1.25, 0, 0);
+    aggiungiTirante(dati, 1.25, 0, 0);
     (void)calcola();
     EXPECT_EQ(taglioNodo[3], 0);
     EXPECT_EQ(taglioNodo[4], 2 * 1 - 0.5);
@@ -83,7 +79,7 @@ TEST_F(EstremiTaglioTest, AnchorHalfWayBetweenTwoNodesBelongsToTheLowerOne) {
 TEST_F(EstremiTaglioTest, DepthIsComparedExactly) {
     passo = 0.1;
     tagli({1, 1, 1, 1, 1, 1});
-    tirante(0.3, 0, 50);
+    aggiungiTirante(dati, 0.3, 0, 50);
     EXPECT_EQ(calcola().vMin, 1);
     dati.profTirante[1] = 3 * passo;
     EXPECT_EQ(calcola().vMin, -49);
@@ -91,7 +87,7 @@ TEST_F(EstremiTaglioTest, DepthIsComparedExactly) {
 
 TEST_F(EstremiTaglioTest, AnchorAtDepthZeroKeepsItsNodeButHasItsStep) {
     tagli({2, 4, 1, 0});
-    tirante(0, 0, 10);
+    aggiungiTirante(dati, 0, 0, 10);
     const EstremiTaglio e = calcola();
     EXPECT_EQ(taglioNodo[1], 2);
     EXPECT_EQ(e.vMin, -8);
@@ -101,8 +97,8 @@ TEST_F(EstremiTaglioTest, AnchorAtDepthZeroKeepsItsNodeButHasItsStep) {
 // Anchors at nodes 3 and 4. In table order node 3 is set first, from the value that node 4 had.
 TEST_F(EstremiTaglioTest, AnchorsTakeTheirTurnInTableOrderOnTheSameArray) {
     tagli({0, 0, 0, 4, 1, -1, 0});
-    tirante(1.0, 0, 0);
-    tirante(1.5, 0, 0);
+    aggiungiTirante(dati, 1.0, 0, 0);
+    aggiungiTirante(dati, 1.5, 0, 0);
     (void)calcola();
     EXPECT_EQ(taglioNodo[3], 2 * 4 - 1);
     EXPECT_EQ(taglioNodo[4], 2 * 1 + 1);
@@ -119,7 +115,7 @@ TEST_F(EstremiTaglioTest, NodesBeyondTheToeReadZero) {
     tagli({0, 1, 2, 3, 5});
     taglioNodo[6] = 100;  // what a longer wall left behind
     taglioNodo[7] = 1000;
-    tirante(1.5, 0, 0);  // node 4
+    aggiungiTirante(dati, 1.5, 0, 0);  // node 4
     (void)calcola();
     EXPECT_EQ(taglioNodo[4], 2 * 5);
     dati.profTirante[1] = 2.0;  // the toe
@@ -131,7 +127,7 @@ TEST_F(EstremiTaglioTest, AnchorOutsideTheWallChangesNothing) {
     tagli({1, 2, 3});
     for (double prof : {5.0, 1e6, 1e300, -3.0}) {
         dati.nTiranti = 0;
-        tirante(prof, 10, 10);
+        aggiungiTirante(dati, prof, 10, 10);
         const EstremiTaglio e = calcola();
         EXPECT_EQ(e.vMin, 1) << prof;
         EXPECT_EQ(e.vMax, 3) << prof;
@@ -140,7 +136,7 @@ TEST_F(EstremiTaglioTest, AnchorOutsideTheWallChangesNothing) {
 
 TEST_F(EstremiTaglioTest, OnlyAnchorsInPlaceCount) {
     tagli({0, 0, 0, 4, 1, 0});
-    tirante(1.0, 0, 50);
+    aggiungiTirante(dati, 1.0, 0, 50);
     const EstremiTaglio e = estremiTaglio(dati, 0, yTirante, nNodi, passo, yNodo, taglioNodo);
     EXPECT_EQ(e.vMin, 0);
     EXPECT_EQ(e.vMax, 4);

@@ -5,19 +5,16 @@
 #include <cmath>
 #include <numbers>
 
+#include "support/wall_builder.hpp"
+
 namespace korven::results {
 namespace {
 
 project::DatiProgetto dueStrati() {
-    project::DatiProgetto d;
-    d.nStrati = 2;
-    d.profStrato[1] = 4;
-    d.phiStrato[1] = 30;
-    d.coesione[1] = 0.5;
-    d.profStrato[2] = 10;
-    d.phiStrato[2] = 20;
-    d.coesione[2] = 2;
-    return d;
+    return test::muro()
+        .strato({.fondo = 4, .phi = 30, .coesione = 0.5})
+        .strato({.fondo = 10, .phi = 20, .coesione = 2})
+        .dati();
 }
 
 TEST(ResistenzaNodo, IsThatOfTheLayerOfTheDepth) {

@@ -1,6 +1,7 @@
 #include "review/project_review.hpp"
 
 #include "review/bench.hpp"
+#include "support/wall_builder.hpp"
 
 namespace korven::review {
 namespace {
@@ -11,8 +12,7 @@ TEST(EsaminaProgetto, FindsNothingInASoundProject) {
 }
 
 TEST(EsaminaProgetto, TellsEveryFailedInputCheckOfARunNotTheFirstAlone) {
-    DatiProgetto d;
-    project::azzera(d);
+    DatiProgetto d = test::progettoVuoto();
     d.vincoloTesta = d.vincoloPiede = d.modoSpinte = d.modoKs = d.modoTensioni = 1;
     d.metodoSpinte = d.metodoKs = 1;
     EXPECT_EQ(

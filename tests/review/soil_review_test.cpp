@@ -2,6 +2,7 @@
 
 #include "base/number_text.hpp"
 #include "review/bench.hpp"
+#include "support/wall_builder.hpp"
 
 namespace korven::review {
 namespace {
@@ -82,11 +83,7 @@ TEST(ControlloTerreno, DoesNotRefuseASlopeAboveTheFrictionOfALayerThatNoNodeLies
         p.inclinazioneMonte = 25;
         p.phiStrato[1] = 30;
         p.phiStrato[2] = 34;
-        p.nStrati = 3;
-        p.profStrato[3] = 30;
-        p.gammaN[3] = p.gammaSat[3] = 2;
-        p.ksStrato[3] = 100;
-        p.phiStrato[3] = 10;
+        test::aggiungiStrato(p, {.fondo = 30, .gammaN = 2, .phi = 10, .ks = 100});
     });
     EXPECT_EQ(righe(d),
               std::vector<std::string>{

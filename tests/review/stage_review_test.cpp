@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "review/bench.hpp"
+#include "support/wall_builder.hpp"
 
 namespace korven::review {
 namespace {
@@ -11,11 +12,7 @@ TEST(ControlloTiranti, NamesWhatIsOddAboutAnchors) {
          {"tirante 1: Prof. [m] = 12.5: è più profondo della paratia"}},
         {[](DatiProgetto& d) { d.profTirante[1] = -1; },
          {"tirante 1: Prof. [m] = -1: è sopra la testa della paratia"}},
-        {[](DatiProgetto& d) {
-             d.nTiranti = 2;
-             d.profTirante[2] = 1;
-             d.rigTirante[2] = 500;
-         },
+        {[](DatiProgetto& d) { test::aggiungiTirante(d, 1, 500); },
          {"tirante 2: Prof. [m] = 1: è più in alto del precedente"}},
         {[](DatiProgetto& d) { d.rigTirante[1] = -500; },
          {"tirante 1: Rigidezza [kN/m] = -5000: valore negativo"}},

@@ -1,47 +1,47 @@
 #pragma once
 
-#include "project/project_data.hpp"
+#include "support/wall_builder.hpp"
 
 namespace korven::test {
 
 /// A small wall that computes: two layers, one anchor, two stages, typed stiffness.
 inline project::DatiProgetto progettoSemplice() {
-    project::DatiProgetto d;
-    project::azzera(d);
-    d.nStrati = 2;
-    d.profStrato[1] = 4;
-    d.gammaN[1] = 1.8;
-    d.gammaSat[1] = 2;
-    d.phiStrato[1] = 30;
-    d.ksStrato[1] = 1500;
-    d.descrStrato[1] = "1A Sabbia, limosa \"media\"";
-    d.profStrato[2] = 20;
-    d.gammaN[2] = 1.9;
-    d.gammaSat[2] = 2.1;
-    d.phiStrato[2] = 34;
-    d.coesione[2] = 0.5;
-    d.ksStrato[2] = 3000;
-    d.descrStrato[2] = "2 Ghiaia";
-    d.vincoloTesta = d.vincoloPiede = d.modoSpinte = d.modoKs = d.modoTensioni = 1;
-    d.metodoSpinte = 1;
-    d.metodoKs = 3;
-    d.lunghezzaParatia = 12;
-    d.rigidezzaEJ = 12000;
-    d.sovraccMonte = 1;
-    d.faldaMonte = 3;
-    d.nTiranti = 1;
-    d.profTirante[1] = 1.5;
-    d.rigTirante[1] = 500;
-    d.pretTirante[1] = 5;
-    d.nFasi = 2;
-    d.profFase[1] = 2;
-    d.faldaFase[1] = 3;
-    d.profFase[2] = 5;
-    d.tirantiFase[2] = 1;
-    d.faldaFase[2] = 5;
-    d.faldaValle = 5;  // as a run leaves it
-    d.titoli[1] = "Muro di prova";
-    return d;
+    return muro()
+        .titolo(1, "Muro di prova")
+        .lungo(12)
+        .rigido(12000)
+        .strato({.fondo = 4, .descrizione = "1A Sabbia, limosa \"media\""})
+        .strato({.fondo = 20,
+                 .gammaN = 1.9,
+                 .gammaSat = 2.1,
+                 .phi = 34,
+                 .coesione = 0.5,
+                 .ks = 3000,
+                 .descrizione = "2 Ghiaia"})
+        .sovraccarico(1)
+        .falda(3)
+        .tirante(1.5, 500, 5)
+        .fase({.scavo = 2, .falda = 3})
+        .fase({.scavo = 5, .tiranti = 1, .falda = 5})
+        .con(&project::DatiProgetto::faldaValle, 5)  // as a run leaves it
+        .dati();
+}
+
+/// A free wall of 10 m in the air: one layer without weight and without springs, no water, no
+/// anchor, one stage without excavation.
+inline project::DatiProgetto muroNudo() {
+    return muro().strato({.gammaN = 0, .gammaSat = 0, .ks = 0}).dati();
+}
+
+/// A wall in soil that stays elastic whatever the loads: equal on both sides, no excavation, under
+/// a surcharge so large that no limit is ever reached. `ks` on each side.
+inline project::DatiProgetto muroElastico(double ks) {
+    return muro()
+        .strato({.gammaN = 0, .gammaSat = 0, .coesione = 1e6, .ks = ks})
+        .sovraccarico(1e6)
+        .con(&project::DatiProgetto::modoSpinte, 2)
+        .con(&project::DatiProgetto::modoKs, 2)
+        .dati();
 }
 
 }  // namespace korven::test
