@@ -6,8 +6,8 @@
 #include <functional>
 
 #include "support/random_walls.hpp"
+#include "support/run_harness.hpp"
 #include "support/stage_equilibrium.hpp"
-#include "support/whole_run.hpp"
 
 namespace korven::analysis {
 namespace {

@@ -7,9 +7,9 @@
 #include <cmath>
 #include <numbers>
 
+#include "support/run_harness.hpp"
 #include "support/sample_projects.hpp"
 #include "support/wall_builder.hpp"
-#include "support/whole_run.hpp"
 
 namespace korven::analysis {
 namespace {

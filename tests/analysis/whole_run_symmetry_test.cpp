@@ -9,8 +9,8 @@
 #include <vector>
 
 #include "support/random_walls.hpp"
+#include "support/run_harness.hpp"
 #include "support/sample_projects.hpp"
-#include "support/whole_run.hpp"
 
 namespace korven::analysis {
 namespace {

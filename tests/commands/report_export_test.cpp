@@ -4,14 +4,17 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <functional>
+#include <string>
+#include <vector>
 
 #include "base/code_page.hpp"
 #include "base/file_error.hpp"
+#include "base/process/avvia_programma.hpp"
 #include "base/program_folder.hpp"
 #include "project/output_guard.hpp"
 #include "support/dialog_double.hpp"
 #include "support/failing_disk.hpp"
-#include "support/started_programs.hpp"
 #include "support/temporary_folder.hpp"
 
 namespace korven::commands {
@@ -21,6 +24,42 @@ using Lines = std::vector<std::string>;
 
 constexpr const char* markup = "#RESET\r\n#HEADER h\r\ntesto\r\n#ENDDOCUMENT\r\n";
 constexpr const char* text = "h\r\ntesto\r\n\r\n";
+
+/// Starts nothing, keeps what was to be started and answers as told.
+class StartedPrograms : public base::AvviaProgramma {
+ public:
+    bool avvia(const std::string& programma, const std::vector<std::string>& argomenti,
+               base::Finestra finestra) override {
+        constexpr const char* finestre[] = {"normale", "massima", "minima"};
+        chiamate.push_back(std::string("avvia ") + finestre[static_cast<int>(finestra)] +
+                           riga(programma, argomenti));
+        return parte;
+    }
+    std::optional<int> esegui(const std::string& programma,
+                              const std::vector<std::string>& argomenti) override {
+        chiamate.push_back("esegui" + riga(programma, argomenti));
+        if (alPosto) alPosto();
+        return codice;
+    }
+    bool apri(const std::string& file) override {
+        chiamate.push_back("apri " + file);
+        return predefinito;
+    }
+
+    bool parte = true;
+    bool predefinito = true;
+    std::optional<int> codice = 0;
+    std::function<void()> alPosto;  ///< what a program that is waited for does
+    std::vector<std::string> chiamate;
+
+ private:
+    static std::string riga(const std::string& programma,
+                            const std::vector<std::string>& argomenti) {
+        std::string parole = " " + programma;
+        for (const auto& argomento : argomenti) parole += " [" + argomento + "]";
+        return parole;
+    }
+};
 
 class ReportExport : public testing::Test {
  protected:
@@ -49,7 +88,7 @@ class ReportExport : public testing::Test {
     const std::string txt = folder / "muro.txt";
     const std::string doc = folder / "muro.doc";
     test::DialogoFinto dialog;
-    test::StartedPrograms programs;
+    StartedPrograms programs;
     Lines proposed;
     std::string answer;
     PorteEsportazione ports{dialog, programs, [this](const std::string& name) {

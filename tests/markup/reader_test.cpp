@@ -2,14 +2,52 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+#include <string_view>
+#include <vector>
+
 #include "base/file_error.hpp"
-#include "support/markup_record.hpp"
 
 namespace korven::markup {
 namespace {
 
 using Lines = std::vector<std::string>;
 constexpr RendererKind kinds[] = {RendererKind::print, RendererKind::preview, RendererKind::text};
+
+/// Writes down what a renderer is told, an event a line: "text Muro", "table a|b" with its rows.
+class MarkupRecord : public MarkupReceiver {
+ public:
+    void open(ScanState&, std::string_view argument) override { note("open", argument); }
+    void textLine(ScanState& state, std::string_view text) override {
+        ++state.lineCounter;
+        note("text", text);
+    }
+    void table(ScanState& state) override { note("table", rows(state)); }
+    void list(ScanState& state) override { note("list", rows(state)); }
+    void close(ScanState&) override { note("close", ""); }
+    void font(std::string_view name) override { note("font", name); }
+    void fontSize(double points) override { note("size", std::to_string(points)); }
+    void fontItalic(bool on) override { note("italic", on ? "on" : "off"); }
+    void newPage(ScanState&) override { note("page", ""); }
+    void newParagraph(ScanState&, double centimetres) override {
+        note("paragraph", std::to_string(centimetres));
+    }
+
+    std::vector<std::string> events;
+
+ private:
+    static std::string rows(const ScanState& state) {
+        std::string joined;
+        for (int row = 1; row <= state.rowCount; ++row)
+            joined += (row > 1 ? "|" : "") + state.rows[row];
+        return joined;
+    }
+    void note(std::string_view what, std::string_view text) {
+        std::string event(what);
+        if (!text.empty()) event.append(" ").append(text);
+        events.push_back(std::move(event));
+    }
+};
 
 // A reader and what its renderer was told.
 struct Reading {
@@ -20,7 +58,7 @@ struct Reading {
     }
     [[nodiscard]] const ScanState& state() const { return reader.state(); }
 
-    test::MarkupRecord record;
+    MarkupRecord record;
     MarkupReader reader;
 };
 
@@ -197,7 +235,7 @@ TEST(MarkupReader, Takes2000RowsAndRefusesTheNext) {
 
 TEST(RenderMarkup, ReadsTheCodePageAndBothLineEnds) {
     base::LettoreRighe file("r.TAB", "#RESET\r\nProfondit\xE0\n#ENDDOCUMENT");
-    test::MarkupRecord record;
+    MarkupRecord record;
     renderMarkup(file, RendererKind::preview, record);
     EXPECT_EQ(record.events, (Lines{"open", "text Profondità", "close"}));
 }
@@ -206,7 +244,7 @@ TEST(RenderMarkup, NamesTheLineOfATableThatIsTooLong) {
     std::string content = "#RESET\r\n#STARTLIST\r\n";
     for (int row = 1; row <= 2001; ++row) content += "a\r\n";
     base::LettoreRighe file("r.TAB", content);
-    test::MarkupRecord record;
+    MarkupRecord record;
     try {
         renderMarkup(file, RendererKind::print, record);
         FAIL();
