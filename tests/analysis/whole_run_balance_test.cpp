@@ -5,9 +5,9 @@
 #include <cmath>
 #include <functional>
 
+#include "analysis/stage_equilibrium.hpp"
 #include "support/random_walls.hpp"
 #include "support/run_harness.hpp"
-#include "support/stage_equilibrium.hpp"
 
 namespace korven::analysis {
 namespace {

@@ -18,7 +18,7 @@
 #include "help/search.hpp"
 #include "help/text.hpp"
 #include "masks/mask_values.hpp"
-#include "support/markup_check.hpp"
+#include "tools/markup_check.hpp"
 #include "tools/text_source.hpp"
 
 namespace korven {

@@ -1,10 +1,11 @@
 // What leaves the viewer: printed pages and files.
 
+#include "shell/viewer/export.hpp"
+
 #include <algorithm>
 #include <filesystem>
 
 #include "base/file_error.hpp"
-#include "shell/viewer/export.hpp"
 #include "support/viewer_setup.hpp"
 
 namespace korven::shell {

@@ -1,3 +1,5 @@
+#include "shell/run/progress_qt.hpp"
+
 #include <gtest/gtest.h>
 
 #include <QWindow>
@@ -5,7 +7,6 @@
 #include "analysis/calcolo_paratia.hpp"
 #include "analysis/run_flags.hpp"
 #include "base/file_lock.hpp"
-#include "shell/run/progress_qt.hpp"
 #include "support/desktop_bench.hpp"
 #include "support/run_harness.hpp"
 #include "support/sample_projects.hpp"
