@@ -12,21 +12,19 @@
 
 #include "base/language.hpp"
 #include "help/file.hpp"
-#include "masks/mask_editing.hpp"
 #include "shell/dialogo_qt.hpp"
 #include "shell/file_dialogs_qt.hpp"
 #include "shell/help/guida.hpp"
 #include "shell/main/informazioni.hpp"
 #include "shell/masks/base1.hpp"
-#include "shell/masks/base2_32.hpp"
 #include "shell/pens/editacfg.hpp"
 #include "shell/report/conf_stampa.hpp"
 #include "shell/run/temp_calc.hpp"
 #include "shell/section/definej.hpp"
+#include "support/delivered_program.hpp"
 #include "support/desktop_bench.hpp"
 #include "support/dialog_double.hpp"
 #include "support/form_setup.hpp"
-#include "support/sample_projects.hpp"
 #include "support/small_help.hpp"
 
 namespace korven::shell {
@@ -69,35 +67,16 @@ std::size_t tastiDi(const QWidget& finestra) {
 // Each language in turn, over the texts and masks that are delivered.
 class TastiDiScelta : public ::testing::TestWithParam<int> {
  protected:
-    TastiDiScelta() : testi(GetParam()) {
-        base::impostaCartellaProgramma(KORVEN_PROGRAM_FOLDER);
-        maschere.leggiMaschereProgramma();
-    }
-    ~TastiDiScelta() override { base::impostaCartellaProgramma(""); }
-
     QApplication& app = test::applicazione();
     test::UtenteNuovo utente;
-    const test::TestiConsegnati testi;
+    test::ProgrammaConsegnato programma{GetParam()};
     test::DialogoFinto dialogo;
-    masks::Maschere maschere;
 };
 
 TEST_P(TastiDiScelta, DifferWithinEachFormThatAMaskDescribes) {
-    const auto dati = test::progettoSemplice();
-    for (int numero = 1; numero <= 5; ++numero) {
-        const auto quale = static_cast<masks::NumeroMaschera>(numero);
-        masks::preparaMaschera(maschere, quale, dati, 0);
-        const bool campi = maschere.corrente().genere == masks::GenereMaschera::campi;
-        if (campi)
-            EXPECT_EQ(tastiDi(Base1(maschere.corrente(), maschere.valoriCombo(),
-                                    maschere.valoriTesto(), dialogo, {}, nullptr)),
-                      3U);
-        else
-            EXPECT_EQ(tastiDi(Base2_32(maschere.corrente(), maschere.valoriTesto(), dialogo, {},
-                                       nullptr)),
-                      5U);
-        maschere.rilasciaForm();
-    }
+    programma.perOgniMaschera(dialogo, [](const QWidget& forma) {
+        EXPECT_EQ(tastiDi(forma), dynamic_cast<const Base1*>(&forma) != nullptr ? 3U : 5U);
+    });
 }
 
 TEST_P(TastiDiScelta, DifferWithinTheOtherForms) {

@@ -14,23 +14,19 @@
 #include <set>
 
 #include "help/file.hpp"
-#include "masks/mask_editing.hpp"
 #include "shell/dialogo_qt.hpp"
 #include "shell/help/guida.hpp"
 #include "shell/main/informazioni.hpp"
 #include "shell/main/menu1.hpp"
 #include "shell/main/selezling.hpp"
-#include "shell/masks/base1.hpp"
-#include "shell/masks/base2_32.hpp"
 #include "shell/pens/editacfg.hpp"
 #include "shell/report/conf_stampa.hpp"
 #include "shell/report/form1.hpp"
 #include "shell/run/temp_calc.hpp"
-#include "shell/section/definej.hpp"
+#include "support/delivered_program.hpp"
 #include "support/desktop_bench.hpp"
 #include "support/dialog_double.hpp"
 #include "support/page_record.hpp"
-#include "support/sample_projects.hpp"
 #include "support/small_help.hpp"
 #include "support/viewer_setup.hpp"
 
@@ -105,45 +101,19 @@ void controlla(QWidget& finestra, bool senzaControlli = false) {
 // be hidden by an Italian key.
 class Accessibilita : public ::testing::Test {
  protected:
-    Accessibilita() : testi(2) {
-        base::impostaCartellaProgramma(KORVEN_PROGRAM_FOLDER);
-        maschere.leggiMaschereProgramma();
-    }
-    ~Accessibilita() override { base::impostaCartellaProgramma(""); }
-
     QApplication& app = test::applicazione();
     test::UtenteNuovo utente;
-    const test::TestiConsegnati testi;
+    test::ProgrammaConsegnato programma{2};
     test::DialogoFinto dialogo;
-    masks::Maschere maschere;
 };
 
 TEST_F(Accessibilita, OfTheFormsThatAMaskDescribes) {
-    const auto dati = test::progettoSemplice();
-    for (int numero = 1; numero <= 5; ++numero) {
-        const auto quale = static_cast<masks::NumeroMaschera>(numero);
-        masks::preparaMaschera(maschere, quale, dati, 0);
-        if (maschere.corrente().genere == masks::GenereMaschera::campi) {
-            Base1 forma(maschere.corrente(), maschere.valoriCombo(), maschere.valoriTesto(),
-                        dialogo, {}, nullptr);
-            controlla(forma);
-        } else {
-            Base2_32 forma(maschere.corrente(), maschere.valoriTesto(), dialogo, {}, nullptr);
-            controlla(forma);
-        }
-        maschere.rilasciaForm();
-    }
+    programma.perOgniMaschera(dialogo, [](QWidget& forma) { controlla(forma); });
     EXPECT_TRUE(dialogo.messaggi.empty());
 }
 
 TEST_F(Accessibilita, OfTheSectionFormInEachOfItsTypes) {
-    for (const auto tipo : project::tipiSezione) {
-        project::Sezione sezione;
-        sezione.*tipo = true;
-        bool modificato = false;
-        DefinEJ forma(sezione, modificato, nullptr);
-        controlla(forma);
-    }
+    test::ProgrammaConsegnato::perOgniTipoDiSezione([](QWidget& forma) { controlla(forma); });
 }
 
 TEST_F(Accessibilita, OfTheFormsOfTheDevices) {

@@ -17,7 +17,6 @@
 #include <QToolButton>
 
 #include "help/file.hpp"
-#include "masks/mask_editing.hpp"
 #include "shell/dialogo_qt.hpp"
 #include "shell/forms/elided_label.hpp"
 #include "shell/forms/help_strip.hpp"
@@ -26,16 +25,13 @@
 #include "shell/main/informazioni.hpp"
 #include "shell/main/menu1.hpp"
 #include "shell/main/selezling.hpp"
-#include "shell/masks/base1.hpp"
-#include "shell/masks/base2_32.hpp"
 #include "shell/pens/editacfg.hpp"
 #include "shell/report/conf_stampa.hpp"
 #include "shell/report/form1.hpp"
 #include "shell/run/temp_calc.hpp"
-#include "shell/section/definej.hpp"
+#include "support/delivered_program.hpp"
 #include "support/desktop_bench.hpp"
 #include "support/dialog_double.hpp"
-#include "support/sample_projects.hpp"
 #include "support/viewer_setup.hpp"
 
 namespace korven::shell {
@@ -122,35 +118,6 @@ void controlla(QWidget& finestra) {
     controllaTesti(finestra);
 }
 
-void controllaMaschere(base::Dialogo& dialogo) {
-    masks::Maschere maschere;
-    maschere.leggiMaschereProgramma();
-    const auto dati = test::progettoSemplice();
-    for (int numero = 1; numero <= 5; ++numero) {
-        const auto quale = static_cast<masks::NumeroMaschera>(numero);
-        masks::preparaMaschera(maschere, quale, dati, 0);
-        if (maschere.corrente().genere == masks::GenereMaschera::campi) {
-            Base1 forma(maschere.corrente(), maschere.valoriCombo(), maschere.valoriTesto(),
-                        dialogo, {}, nullptr);
-            controlla(forma);
-        } else {
-            Base2_32 forma(maschere.corrente(), maschere.valoriTesto(), dialogo, {}, nullptr);
-            controlla(forma);
-        }
-        maschere.rilasciaForm();
-    }
-}
-
-void controllaSezioni() {
-    for (const auto tipo : project::tipiSezione) {
-        project::Sezione sezione;
-        sezione.*tipo = true;
-        bool modificato = false;
-        DefinEJ forma(sezione, modificato, nullptr);
-        controlla(forma);
-    }
-}
-
 void controllaGuida(const std::string& nome) {
     FinestraGuida guida(
         help::leggiGuida(nome, test::contenuto(std::string(KORVEN_PROGRAM_FOLDER) + "/" + nome)));
@@ -171,10 +138,10 @@ void controllaBox(DialogoQt& box) {
     EXPECT_TRUE(vista.fatto);
 }
 
-void controllaTutte() {
+void controllaTutte(test::ProgrammaConsegnato& programma) {
     test::DialogoFinto dialogo;
-    controllaMaschere(dialogo);
-    controllaSezioni();
+    programma.perOgniMaschera(dialogo, controlla);
+    programma.perOgniTipoDiSezione(controlla);
     DialoghiEditacfg porte;
     controlla(*std::make_unique<Editacfg>(porte, dialogo, nullptr));
     controlla(*std::make_unique<ConfStampa>(QStringList{"Courier New", "Arial"},
@@ -237,11 +204,9 @@ void guardaQui(const Schermo& schermo) {
     ASSERT_EQ(QGuiApplication::primaryScreen()->logicalDotsPerInch(), schermo.puntiPerPollice);
     for (int lingua = 1; lingua <= 6; ++lingua) {
         SCOPED_TRACE(lingua);
-        base::impostaCartellaProgramma(KORVEN_PROGRAM_FOLDER);
-        const test::TestiConsegnati testi(lingua);
-        controllaTutte();
+        test::ProgrammaConsegnato programma(lingua);
+        controllaTutte(programma);
     }
-    base::impostaCartellaProgramma("");
     VisoreSulloSchermo().controllaVisore();
 }
 
