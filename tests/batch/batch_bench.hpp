@@ -11,6 +11,7 @@
 #include "support/program_run.hpp"
 #include "support/sample_projects.hpp"
 #include "support/temporary_folder.hpp"
+#include "support/wall_builder.hpp"
 
 namespace korven::test {
 
@@ -63,63 +64,36 @@ inline bool dice(const std::string& testo, std::string_view parte) {
 
 /// A wall whose first stage flips for ever between two states in 10 segments.
 inline project::DatiProgetto progettoSenzaPace() {
-    project::DatiProgetto d;
-    project::azzera(d);
-    d.nStrati = 1;
-    d.profStrato[1] = 5;
-    d.gammaN[1] = 1.67;
-    d.gammaSat[1] = 2;
-    d.phiStrato[1] = 25;
-    d.ksStrato[1] = 3000;
-    d.vincoloTesta = d.modoSpinte = d.modoKs = d.modoTensioni = d.metodoSpinte = 1;
-    d.vincoloPiede = 2;
-    d.metodoKs = 3;
-    d.lunghezzaParatia = 10;
-    d.rigidezzaEJ = 500;
-    d.sovraccMonte = 1;
-    d.momentoTesta = 5;
-    d.faldaMonte = 2;
-    d.faldaValle = 5;
-    d.nTiranti = 2;
-    d.profTirante[1] = 2.8;
-    d.rigTirante[1] = d.rigTirante[2] = 1000;
-    d.profTirante[2] = 4.4;
-    d.pretTirante[2] = 1;
-    d.nFasi = 1;
-    d.profFase[1] = 6;
-    d.tirantiFase[1] = 1;
-    d.faldaFase[1] = 50;
-    return d;
+    using project::DatiProgetto;
+    return muro()
+        .rigido(500)
+        .strato({.fondo = 5, .gammaN = 1.67, .phi = 25, .ks = 3000})
+        .con(&DatiProgetto::vincoloPiede, 2)
+        .sovraccarico(1)
+        .con(&DatiProgetto::momentoTesta, 5)
+        .falda(2)
+        .con(&DatiProgetto::faldaValle, 5)
+        .tirante(2.8, 1000)
+        .tirante(4.4, 1000, 1)
+        .fase({.scavo = 6, .tiranti = 1})
+        .dati();
 }
 
 /// A wall in stiff ground whose one stage takes 22 iterations in 30 segments.
 inline project::DatiProgetto progettoLento() {
-    project::DatiProgetto d;
-    project::azzera(d);
-    d.nStrati = 2;
-    d.profStrato[1] = 8;
-    d.profStrato[2] = 13;
-    d.gammaN[1] = 1.69;
-    d.gammaN[2] = 1.71;
-    d.coesione[1] = 2;
-    for (int j = 1; j <= 2; ++j) {
-        d.gammaSat[j] = 2;
-        d.phiStrato[j] = 40;
-        d.ksStrato[j] = 50000;
-    }
-    d.vincoloTesta = d.modoKs = d.modoTensioni = d.metodoSpinte = 1;
-    d.modoSpinte = 2;
-    d.vincoloPiede = d.metodoKs = 3;
-    d.lunghezzaParatia = 12;
-    d.rigidezzaEJ = 500;
-    d.sovraccMonte = 1;
-    d.forzaTesta = 3;
-    d.faldaMonte = 50;
-    d.faldaValle = 5;
-    d.nFasi = 1;
-    d.profFase[1] = 7.2;
-    d.faldaFase[1] = 50;
-    return d;
+    using project::DatiProgetto;
+    return muro()
+        .lungo(12)
+        .rigido(500)
+        .strato({.fondo = 8, .gammaN = 1.69, .phi = 40, .coesione = 2, .ks = 50000})
+        .strato({.fondo = 13, .gammaN = 1.71, .phi = 40, .ks = 50000})
+        .con(&DatiProgetto::vincoloPiede, 3)
+        .con(&DatiProgetto::modoSpinte, 2)
+        .sovraccarico(1)
+        .con(&DatiProgetto::forzaTesta, 3)
+        .con(&DatiProgetto::faldaValle, 5)
+        .fase({.scavo = 7.2})
+        .dati();
 }
 
 }  // namespace korven::test

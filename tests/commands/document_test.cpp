@@ -9,6 +9,7 @@
 #include "support/document_ports.hpp"
 #include "support/failing_disk.hpp"
 #include "support/sample_projects.hpp"
+#include "support/wall_builder.hpp"
 
 namespace korven::commands {
 namespace {
@@ -71,8 +72,7 @@ TEST_F(FileApri, BeginsANewProjectWithANameThatNoFileHas) {
     documento.fileApri();
     EXPECT_EQ(fileCorrente, ambiente.lavori / "muro.kvd");
     EXPECT_EQ(finestra.ultimoTitolo, "KORVEN 32 - muro");
-    project::DatiProgetto vuoto;
-    project::azzera(vuoto);
+    project::DatiProgetto vuoto = test::progettoVuoto();
     EXPECT_EQ(Progetto, vuoto);
     EXPECT_FALSE(modificato);
     EXPECT_TRUE(fs::is_empty(ambiente.lavori.percorso()));

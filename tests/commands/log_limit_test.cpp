@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "support/sample_projects.hpp"
+#include "support/wall_builder.hpp"
 
 namespace korven::commands {
 namespace {
@@ -28,8 +29,7 @@ TEST(RifiutoStratigrafia, NamesTheLayerThatLiesFarthestFromTheGround) {
 TEST(RifiutoStratigrafia, LetsALogOf500MetresBeDrawn) {
     EXPECT_EQ(rifiuto(8, 500), "");
     EXPECT_EQ(rifiuto(-100, 400), "");
-    project::DatiProgetto vuoto;
-    project::azzera(vuoto);
+    project::DatiProgetto vuoto = test::progettoVuoto();
     EXPECT_EQ(rifiutoStratigrafia(vuoto), "");
 }
 

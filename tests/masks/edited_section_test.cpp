@@ -5,6 +5,7 @@
 #include <set>
 
 #include "project/project_data.hpp"
+#include "support/wall_builder.hpp"
 
 namespace korven::masks {
 namespace {
@@ -223,8 +224,7 @@ TEST(SezioneEditata, KeepsMaterialsUnscaled) {
 }
 
 TEST(SezioneEditata, StartsFromTheDefaultsOfANewProject) {
-    project::DatiProgetto dati;
-    project::azzera(dati);
+    project::DatiProgetto dati = test::progettoVuoto();
     bool modificato = false;
     SezioneEditata editata(dati.sezione, modificato);
     EXPECT_EQ(editata.tipo(), RiquadroSezione::diaframma);

@@ -8,6 +8,7 @@
 #include "support/dialog_double.hpp"
 #include "support/plain_masks.hpp"
 #include "support/temporary_folder.hpp"
+#include "support/wall_builder.hpp"
 
 namespace korven::masks {
 namespace {
@@ -104,14 +105,14 @@ TEST_F(Modifica, EditsTheStageOfTheDiagramsWithTheHeadings) {
 }
 
 TEST_F(Modifica, TakesATableThroughTheGridAndBackUnchanged) {
-    dati.nStrati = 2;
-    dati.profStrato[1] = 3.25;
-    dati.gammaN[1] = 1.85;
-    dati.gammaSat[1] = 2.05;
-    dati.coesione[1] = 0.3;
-    dati.descrStrato[1] = "105C3 Sabbia, fine";
-    dati.profStrato[2] = 20;
-    dati.ksStrato[2] = 1234.5;
+    test::aggiungiStrato(dati, {.fondo = 3.25,
+                                .gammaN = 1.85,
+                                .gammaSat = 2.05,
+                                .phi = 0,
+                                .coesione = 0.3,
+                                .ks = 0,
+                                .descrizione = "105C3 Sabbia, fine"});
+    test::aggiungiStrato(dati, {.fondo = 20, .gammaN = 0, .gammaSat = 0, .phi = 0, .ks = 1234.5});
     const project::DatiProgetto prima = dati;
     preparaMaschera(maschere, NumeroMaschera::strati, dati, 0);
     GridModel forma(maschere.corrente(), maschere.valoriTesto());

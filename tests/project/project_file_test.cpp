@@ -12,6 +12,7 @@
 #include "support/failing_disk.hpp"
 #include "support/sample_projects.hpp"
 #include "support/temporary_folder.hpp"
+#include "support/wall_builder.hpp"
 
 namespace korven::project {
 namespace {
@@ -29,8 +30,7 @@ std::string primeRighe(const std::string& testo, long quante) {
 long righe(const std::string& testo) { return std::count(testo.begin(), testo.end(), '\n'); }
 
 TEST(FileDiProgetto, OfAFreshProjectHasFiftyNineLinesAndBlankHeadings) {
-    DatiProgetto d;
-    azzera(d);
+    DatiProgetto d = test::progettoVuoto();
     const std::string testo = testoProgetto(d);
     EXPECT_EQ(righe(testo), 59);
     EXPECT_TRUE(testo.starts_with("0\r\n"));
@@ -75,8 +75,7 @@ TEST(FileDiProgetto, ReturnsTheSameProjectAfterWritingAndReading) {
     std::mt19937 caso(3);
     std::uniform_int_distribution<int> intero(-400000, 400000), righeCaso(0, 20);
     for (int prova = 0; prova < 200; ++prova) {
-        DatiProgetto d;
-        azzera(d);
+        DatiProgetto d = test::progettoVuoto();
         const auto valore = [&] { return intero(caso) / 128.0; };  // at most seven decimals
         d.nStrati = righeCaso(caso);
         d.nTiranti = righeCaso(caso);
@@ -96,8 +95,7 @@ TEST(FileDiProgetto, ReturnsTheSameProjectAfterWritingAndReading) {
         d.sezione.armNumLong = valore();
         d.sforzoNormale = valore();
 
-        DatiProgetto riletto;
-        azzera(riletto);
+        DatiProgetto riletto = test::progettoVuoto();
         auto lettore = file(testoProgetto(d));
         leggiDati(lettore, riletto);
         EXPECT_EQ(riletto, d);
@@ -122,8 +120,7 @@ TEST(FileDiProgetto, ReopensWithCoulombAndThenDiffersFromMemory) {
 }
 
 TEST(FileDiProgetto, KeepsTheMethodCodeOfAFreshProject) {
-    DatiProgetto d;
-    azzera(d);
+    DatiProgetto d = test::progettoVuoto();
     auto lettore = file(testoProgetto(d));
     leggiDati(lettore, d);
     EXPECT_EQ(d.metodoSpinte, 0);
@@ -134,8 +131,7 @@ TEST(FileDiProgetto, OfTheOldestFormLoadsKeepsTheLaterFieldsAndComparesAsEqual) 
     const std::string intero = testoProgetto(vecchio);
     const std::string antico = primeRighe(intero, righe(intero) - 15);  // up to paliInterasse
 
-    DatiProgetto d;
-    azzera(d);
+    DatiProgetto d = test::progettoVuoto();
     d.sezione.palancolaBase = 22;  // of the project that was open before
     d.sezione.armNumLong = 12;
     d.sforzoNormale = 4;
@@ -152,8 +148,7 @@ TEST(FileDiProgetto, OfTheOldestFormLoadsKeepsTheLaterFieldsAndComparesAsEqual) 
 }
 
 TEST(FileDiProgetto, LeavesTheRowsAboveItsCountsAsTheyWere) {
-    DatiProgetto d;
-    azzera(d);
+    DatiProgetto d = test::progettoVuoto();
     d.profStrato[3] = 30;  // of the project that was open before
     d.rigTirante[2] = 800;
     d.sovraccFase[3] = 2;

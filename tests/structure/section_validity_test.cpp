@@ -7,6 +7,7 @@
 
 #include "project/project_data.hpp"
 #include "support/sample_sections.hpp"
+#include "support/wall_builder.hpp"
 
 namespace korven::structure {
 namespace {
@@ -41,8 +42,7 @@ const std::vector<Caso> casi = {
 };
 
 TEST(SezioneValida, NewProjectHasNoValidSection) {
-    project::DatiProgetto dati;
-    project::azzera(dati);
+    project::DatiProgetto dati = test::progettoVuoto();
     EXPECT_FALSE(sezioneValida(dati.sezione));
     EXPECT_FALSE(sezioneDefinita(dati.sezione));
 }

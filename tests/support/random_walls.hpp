@@ -4,7 +4,7 @@
 #include <cmath>
 #include <random>
 
-#include "project/project_data.hpp"
+#include "support/wall_builder.hpp"
 
 namespace korven::test {
 
@@ -16,8 +16,7 @@ class MuriCasuali {
     explicit MuriCasuali(unsigned seme) : caso_(seme) {}
 
     project::DatiProgetto prossimo() {
-        project::DatiProgetto d;
-        project::azzera(d);
+        auto d = progettoVuoto();
         d.lunghezzaParatia = tra(8, 18);
         d.rigidezzaEJ = std::round(tra(5000, 60000));
         codici(d);
@@ -45,14 +44,15 @@ class MuriCasuali {
         d.coeffM = std::round(tra(300, 2000));
     }
     void strati(project::DatiProgetto& d) {
-        d.nStrati = intero(1, 4);
-        for (int j = 1; j <= d.nStrati; ++j) {
-            d.profStrato[j] = d.profStrato[j - 1] + tra(2, 7);
-            d.gammaN[j] = tra(1.6, 2);
-            d.gammaSat[j] = d.gammaN[j] + tra(0.1, 0.3);
-            d.phiStrato[j] = tra(24, 38);
-            d.coesione[j] = intero(0, 1) * tra(0, 1.5);
-            d.ksStrato[j] = std::round(tra(500, 6000));
+        const int n = intero(1, 4);
+        for (int j = 1; j <= n; ++j) {
+            const double fondo = d.profStrato[j - 1] + tra(2, 7), gammaN = tra(1.6, 2);
+            aggiungiStrato(d, {.fondo = fondo,
+                               .gammaN = gammaN,
+                               .gammaSat = gammaN + tra(0.1, 0.3),
+                               .phi = tra(24, 38),
+                               .coesione = intero(0, 1) * tra(0, 1.5),
+                               .ks = std::round(tra(500, 6000))});
         }
     }
     void carichi(project::DatiProgetto& d) {
@@ -66,24 +66,24 @@ class MuriCasuali {
     void tiranti(project::DatiProgetto& d) {
         const int n = intero(0, 3);
         for (int a = 1; a <= n; ++a) {
-            d.nTiranti = a;
-            d.profTirante[a] = (a == 1 ? tra(0, 2) : d.profTirante[a - 1] + tra(1, 2.5));
-            d.rigTirante[a] = std::round(tra(100, 1500));
-            d.pretTirante[a] = intero(0, 2) == 0 ? 0 : tra(0, 12);
-            d.tipoTirante[a] = intero(0, 2);
+            const double profondita = a == 1 ? tra(0, 2) : d.profTirante[a - 1] + tra(1, 2.5);
+            const double rigidezza = std::round(tra(100, 1500));
+            const double pretensione = intero(0, 2) == 0 ? 0 : tra(0, 12);
+            aggiungiTirante(d, profondita, rigidezza, pretensione, intero(0, 2));
         }
     }
     void fasi(project::DatiProgetto& d) {
-        d.nFasi = intero(1, 4);
+        const int n = intero(1, 4);
         const double quota = d.nTiranti > 0 || d.vincoloPiede > 1 ? 0.6 : 0.3;
-        const double passo = quota * d.lunghezzaParatia / d.nFasi;
-        for (int k = 1; k <= d.nFasi; ++k) {
-            d.profFase[k] = d.profFase[k - 1] + tra(passo / 2, passo);
-            d.tirantiFase[k] =
+        const double passo = quota * d.lunghezzaParatia / n;
+        for (int k = 1; k <= n; ++k) {
+            const double scavo = d.profFase[k - 1] + tra(passo / 2, passo);
+            const double tiranti =
                 k == 1 ? intero(0, std::min(1, d.nTiranti))
                        : std::min<double>(d.nTiranti, d.tirantiFase[k - 1] + intero(0, 2));
-            d.sovraccFase[k] = intero(0, 1) * tra(0, 1);
-            d.faldaFase[k] = std::max(d.faldaMonte, d.profFase[k]) + intero(0, 1) * tra(0, 2);
+            const double sovraccarico = intero(0, 1) * tra(0, 1);
+            aggiungiFase(d, {scavo, tiranti, sovraccarico,
+                             std::max(d.faldaMonte, scavo) + intero(0, 1) * tra(0, 2)});
         }
         if (d.nFasi > 2 && intero(0, 3) == 0) d.tirantiFase[d.nFasi] = 0;  // all slackened
     }

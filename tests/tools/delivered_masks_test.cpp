@@ -17,6 +17,7 @@
 #include "masks/grid_model.hpp"
 #include "masks/mask_editing.hpp"
 #include "masks/mask_values.hpp"
+#include "support/wall_builder.hpp"
 #include "tools/mask_source.hpp"
 #include "tools/text_source.hpp"
 
@@ -166,8 +167,7 @@ TEST_F(DeliveredMasks, OfferConfirmCancelRowsAndHelp) {
 // A value that is refused holds the user in its field.
 TEST_F(DeliveredMasks, AcceptWhatANewProjectHolds) {
     auto all = masks(1);
-    project::DatiProgetto fresh;
-    project::azzera(fresh);
+    project::DatiProgetto fresh = test::progettoVuoto();
     for (const auto number : {NumeroMaschera::titoli, NumeroMaschera::paratia}) {
         masks::preparaMaschera(all, number, fresh, 0);
         const auto& mask = all.corrente();

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "base/file_error.hpp"
+#include "support/wall_builder.hpp"
 
 namespace korven::tools {
 namespace {
@@ -41,8 +42,7 @@ long lineRefused(const std::string& content) {
 }
 
 project::DatiProgetto wall() {
-    project::DatiProgetto dati;
-    project::azzera(dati);
+    project::DatiProgetto dati = test::progettoVuoto();
     dati.titoli[1] = "Muro";
     dati.titoli[4] = "Sabbia";
     dati.nStrati = 3;
