@@ -16,7 +16,6 @@ namespace {
 using Orologio = std::chrono::steady_clock;
 
 constexpr auto intervallo = std::chrono::milliseconds(10);
-constexpr auto attesaApertura = std::chrono::seconds(3);
 
 // A process group of its own keeps a viewer alive when the terminal interrupts this program.
 pid_t genera(const std::string& programma, const std::vector<std::string>& argomenti,
@@ -55,7 +54,8 @@ Controllo controlla(pid_t processo) {
 
 }  // namespace
 
-Processi::Processi(std::function<void()> servi) : servi_(std::move(servi)) {}
+Processi::Processi(std::function<void()> servi, std::chrono::milliseconds attesaApertura)
+    : servi_(std::move(servi)), attesaApertura_(attesaApertura) {}
 
 bool Processi::avvia(const std::string& programma, const std::vector<std::string>& argomenti,
                      Finestra) {
@@ -81,7 +81,7 @@ bool Processi::apri(const std::string& file) {
     raccogliFiniti();
     const pid_t processo = genera("xdg-open", {file}, true);
     if (processo == 0) return false;
-    for (const auto fine = Orologio::now() + attesaApertura; Orologio::now() < fine; pausa()) {
+    for (const auto fine = Orologio::now() + attesaApertura_; Orologio::now() < fine; pausa()) {
         const Controllo controllo = controlla(processo);
         if (controllo.stato == Stato::uscito) return controllo.codice == 0;
         if (controllo.stato == Stato::interrotto) return false;

@@ -2,6 +2,7 @@
 
 #include <sys/types.h>
 
+#include <chrono>
 #include <functional>
 #include <vector>
 
@@ -15,14 +16,16 @@ class Processi : public AvviaProgramma {
  public:
     /// @param servi  called again and again while a program is waited for, to serve the window
     /// system; may be empty
-    explicit Processi(std::function<void()> servi = {});
+    /// @param attesaApertura  how long `apri` watches the program that it started
+    explicit Processi(std::function<void()> servi = {},
+                      std::chrono::milliseconds attesaApertura = std::chrono::seconds(3));
 
     bool avvia(const std::string& programma, const std::vector<std::string>& argomenti,
                Finestra finestra) override;
     std::optional<int> esegui(const std::string& programma,
                               const std::vector<std::string>& argomenti) override;
     /// Through xdg-open, which knows the default programs of all desktops. One that is still at
-    /// work after three seconds counts as having found its program.
+    /// work after `attesaApertura` counts as having found its program.
     bool apri(const std::string& file) override;
 
  private:
@@ -30,6 +33,7 @@ class Processi : public AvviaProgramma {
     void raccogliFiniti();
 
     std::function<void()> servi_;
+    std::chrono::milliseconds attesaApertura_;
     std::vector<pid_t> avviati_;
 };
 

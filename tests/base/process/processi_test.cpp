@@ -85,7 +85,7 @@ TEST_F(DesktopProgram, MayBeMissing) {
 
 TEST_F(DesktopProgram, CountsAsFoundWhileItRuns) {
     opener("sleep 4");
-    EXPECT_TRUE(Processi().apri("/tmp/a.txt"));
+    EXPECT_TRUE(Processi({}, std::chrono::milliseconds(50)).apri("/tmp/a.txt"));
 }
 
 }  // namespace
