@@ -17,38 +17,38 @@ constexpr std::size_t casellaPiuCorta = 12;  // room for a number
 
 }  // namespace
 
-FieldModel::FieldModel(const Maschera& maschera, std::vector<double> combo,
-                       std::vector<std::string> testi)
+ModelloCampi::ModelloCampi(const Maschera& maschera, std::vector<double> combo,
+                           std::vector<std::string> testi)
     : maschera_(maschera), combo_(std::move(combo)), testi_(std::move(testi)) {
     combo_.resize(maschera.scelte.size());
     testi_.resize(static_cast<std::size_t>(maschera.nCampi()));
     while (attivo_ + 1 < campi() && !prendeFuoco(attivo_)) ++attivo_;
 }
 
-bool FieldModel::soloLettura(std::size_t campo) const {
+bool ModelloCampi::soloLettura(std::size_t campo) const {
     return maschera_.campi.at(campo).soloLettura;
 }
 
-std::string FieldModel::didascalia(std::size_t campo) const {
+std::string ModelloCampi::didascalia(std::size_t campo) const {
     std::string testo = maschera_.campi.at(campo).etichetta + ' ';
     const std::size_t lunghezza = base::numeroCaratteri(testo);
     if (lunghezza < lunghezzaDidascalia) testo.append(lunghezzaDidascalia - lunghezza, '.');
     return testo;
 }
 
-std::string FieldModel::titoloMessaggio(std::size_t campo) const {
+std::string ModelloCampi::titoloMessaggio(std::size_t campo) const {
     std::string titolo = didascalia(campo);
     titolo.erase(titolo.find_last_not_of('.') + 1);
     titolo.erase(titolo.find_last_not_of(' ') + 1);
     return titolo;
 }
 
-std::size_t FieldModel::lunghezzaMassima(std::size_t campo) const {
+std::size_t ModelloCampi::lunghezzaMassima(std::size_t campo) const {
     const TipoCampo tipo = tipoCampo(maschera_.campi.at(campo).tipo);
     return tipo.illimitato ? 0 : tipo.lunghezza;
 }
 
-std::size_t FieldModel::larghezzaCaselle() const {
+std::size_t ModelloCampi::larghezzaCaselle() const {
     std::size_t larghezza = casellaPiuCorta;
     for (std::size_t i = combo_.size(); i < campi(); ++i)
         larghezza = std::max(
@@ -56,40 +56,40 @@ std::size_t FieldModel::larghezzaCaselle() const {
     return larghezza;
 }
 
-bool FieldModel::numerica(std::size_t campo) const {
+bool ModelloCampi::numerica(std::size_t campo) const {
     const TipoCampo tipo = tipoCampo(maschera_.campi.at(campo).tipo);
     return !scelta(campo) && (tipo.numero || tipo.figura);
 }
 
-const std::vector<std::string>& FieldModel::voci(std::size_t campo) const {
+const std::vector<std::string>& ModelloCampi::voci(std::size_t campo) const {
     return maschera_.scelte.at(campo);
 }
 
-std::size_t FieldModel::voceMostrata(std::size_t campo) const {
+std::size_t ModelloCampi::voceMostrata(std::size_t campo) const {
     const auto ultima = static_cast<double>(voci(campo).size() - 1);
     return static_cast<std::size_t>(std::clamp(std::floor(combo_.at(campo)), 0.0, ultima));
 }
 
-void FieldModel::scegli(std::size_t campo, std::size_t voce) {
+void ModelloCampi::scegli(std::size_t campo, std::size_t voce) {
     assert(voce < voci(campo).size());
     if (!soloLettura(campo) && voce != voceMostrata(campo))
         combo_.at(campo) = static_cast<double>(voce);
 }
 
-const std::string& FieldModel::testo(std::size_t campo) const { return testi_.at(posto(campo)); }
+const std::string& ModelloCampi::testo(std::size_t campo) const { return testi_.at(posto(campo)); }
 
-void FieldModel::scrivi(std::size_t campo, std::string_view testo) {
+void ModelloCampi::scrivi(std::size_t campo, std::string_view testo) {
     if (soloLettura(campo)) return;
     testi_.at(posto(campo)) =
         base::comeNeiFile(conDecimaliAmmessi(testo, tipoCampo(maschera_.campi[campo].tipo)));
 }
 
 // A read-only text is locked, yet its text can be read and copied; a read-only choice is disabled.
-bool FieldModel::prendeFuoco(std::size_t campo) const {
+bool ModelloCampi::prendeFuoco(std::size_t campo) const {
     return !(scelta(campo) && soloLettura(campo));
 }
 
-bool FieldModel::lascia(base::Dialogo& dialogo) {
+bool ModelloCampi::lascia(base::Dialogo& dialogo) {
     // A fault that can't be mended here would hold the user for good.
     if (scelta(attivo_) || soloLettura(attivo_)) return true;
     const CampoMaschera& campo = maschera_.campi[attivo_];
@@ -101,14 +101,14 @@ bool FieldModel::lascia(base::Dialogo& dialogo) {
     return false;
 }
 
-bool FieldModel::passaA(std::size_t campo, base::Dialogo& dialogo) {
+bool ModelloCampi::passaA(std::size_t campo, base::Dialogo& dialogo) {
     if (campo == attivo_) return true;
     if (campo >= campi() || !prendeFuoco(campo) || !lascia(dialogo)) return false;
     attivo_ = campo;
     return true;
 }
 
-bool FieldModel::premi(Tasto tasto, base::Dialogo& dialogo) {
+bool ModelloCampi::premi(Tasto tasto, base::Dialogo& dialogo) {
     const bool avanti = tasto == Tasto::giu || tasto == Tasto::invio;
     if (!avanti && tasto != Tasto::su) return false;
     std::size_t nuovo = attivo_;
@@ -119,15 +119,15 @@ bool FieldModel::premi(Tasto tasto, base::Dialogo& dialogo) {
     return passaA(nuovo, dialogo);
 }
 
-std::string FieldModel::lettura() const {
+std::string ModelloCampi::lettura() const {
     if (scelta(attivo_)) return {};
     if (numerica(attivo_)) return base::letturaMostrata(testo(attivo_));
     return nota_ ? nota_(posto(attivo_), testi_) : std::string();
 }
 
-const std::string& FieldModel::aiuto() const { return maschera_.campi[attivo_].aiuto; }
+const std::string& ModelloCampi::aiuto() const { return maschera_.campi[attivo_].aiuto; }
 
-void FieldModel::mostraAiuto(base::Dialogo& dialogo) const {
+void ModelloCampi::mostraAiuto(base::Dialogo& dialogo) const {
     dialogo.messaggio(aiuto(), titoloMessaggio(attivo_), base::Icona::informazione);
 }
 

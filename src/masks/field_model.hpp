@@ -16,12 +16,13 @@ namespace korven::masks {
 
 /// A form with labelled fields, as a mask describes it: what is shown, what is being typed, what a
 /// key or a button does. Fields are counted from 0 over all fields of the mask, choices first.
-class FieldModel {
+class ModelloCampi {
  public:
     /// @param combo  for each choice its selected item from 0, as far as given
     /// @param testi  the texts of the other fields, as far as given
     /// The mask must outlive the model. The first field that can takes the focus.
-    FieldModel(const Maschera& maschera, std::vector<double> combo, std::vector<std::string> testi);
+    ModelloCampi(const Maschera& maschera, std::vector<double> combo,
+                 std::vector<std::string> testi);
 
     [[nodiscard]] std::size_t campi() const { return maschera_.campi.size(); }
     [[nodiscard]] bool scelta(std::size_t campo) const { return campo < maschera_.scelte.size(); }

@@ -19,7 +19,8 @@ AzioneGriglia azionePulsante(const Maschera& maschera, std::size_t indice) {
     return indice < note ? prime[indice] : AzioneGriglia::guida;
 }
 
-GridModel::GridModel(const Maschera& maschera, const std::vector<std::string>& testi, int capienza)
+ModelloGriglia::ModelloGriglia(const Maschera& maschera, const std::vector<std::string>& testi,
+                               int capienza)
     : maschera_(maschera),
       titolo_(maschera.titolo),
       capienza_(capienza),
@@ -39,19 +40,19 @@ GridModel::GridModel(const Maschera& maschera, const std::vector<std::string>& t
     entra({1, 1});
 }
 
-std::string GridModel::righeDiTroppo() const {
+std::string ModelloGriglia::righeDiTroppo() const {
     const int righe = celle_.righeConDati();
     if (righe <= capienza_) return {};
     return base::traduttore("righe scritte") + ": " + std::to_string(righe) + ", " +
            base::traduttore("capienza della tabella") + ": " + std::to_string(capienza_);
 }
 
-std::string GridModel::titolo() const {
+std::string ModelloGriglia::titolo() const {
     const std::string troppe = righeDiTroppo();
     return troppe.empty() ? titolo_ : titolo_ + " - " + troppe;
 }
 
-std::string GridModel::eccesso() const {
+std::string ModelloGriglia::eccesso() const {
     const std::string troppe = righeDiTroppo();
     if (troppe.empty()) return {};
     return troppe + ". " +
@@ -60,37 +61,37 @@ std::string GridModel::eccesso() const {
                "in un file di testo e viene chiuso.");
 }
 
-const CampoMaschera& GridModel::colonna(int numero) const {
+const CampoMaschera& ModelloGriglia::colonna(int numero) const {
     return maschera_.campi.at(static_cast<std::size_t>(numero));
 }
 
-const std::string& GridModel::etichetta(int numero) const { return colonna(numero).etichetta; }
+const std::string& ModelloGriglia::etichetta(int numero) const { return colonna(numero).etichetta; }
 
-std::array<std::string, 2> GridModel::campioniLarghezza(int numero) const {
+std::array<std::string, 2> ModelloGriglia::campioniLarghezza(int numero) const {
     const std::string cifre(base::numeroCaratteri(colonna(numero).tipo), '8');
     return {' ' + etichetta(numero) + ' ', ' ' + cifre + ' '};
 }
 
-bool GridModel::numerica(int numero) const { return !tipoColonna(colonna(numero).tipo).testo; }
+bool ModelloGriglia::numerica(int numero) const { return !tipoColonna(colonna(numero).tipo).testo; }
 
-bool GridModel::soloLettura(int numero) const { return colonna(numero).soloLettura; }
+bool ModelloGriglia::soloLettura(int numero) const { return colonna(numero).soloLettura; }
 
-const std::string& GridModel::testo(PostoGriglia posto) const {
+const std::string& ModelloGriglia::testo(PostoGriglia posto) const {
     return celle_.testo(posto.riga, posto.colonna);
 }
 
-void GridModel::scriviCella(std::string_view testo) {
+void ModelloGriglia::scriviCella(std::string_view testo) {
     if (!soloLettura(corrente_.colonna)) celle_.scrivi(corrente_.riga, corrente_.colonna, testo);
 }
 
-void GridModel::entra(PostoGriglia posto) {
+void ModelloGriglia::entra(PostoGriglia posto) {
     corrente_ = posto;
     allIngresso_ = cella();
     primoCarattere_ = true;
     testoScelto_ = false;
 }
 
-bool GridModel::validazionedati(base::Dialogo& dialogo) {
+bool ModelloGriglia::validazionedati(base::Dialogo& dialogo) {
     const CampoMaschera& campo = colonna(corrente_.colonna);
     if (campo.soloLettura) return true;  // a fault that can't be mended here would hold the user
     const Vizio vizio = controllaCella(campo, cella());
@@ -104,7 +105,7 @@ bool GridModel::validazionedati(base::Dialogo& dialogo) {
     return false;
 }
 
-bool GridModel::vaiA(PostoGriglia posto, base::Dialogo& dialogo) {
+bool ModelloGriglia::vaiA(PostoGriglia posto, base::Dialogo& dialogo) {
     if (posto == corrente_) return true;
     if (posto.riga < 1 || posto.riga > CelleGriglia::righe || posto.colonna < 1 ||
         posto.colonna > colonne())
@@ -115,7 +116,7 @@ bool GridModel::vaiA(PostoGriglia posto, base::Dialogo& dialogo) {
     return true;
 }
 
-void GridModel::avanza(base::Dialogo& dialogo) {
+void ModelloGriglia::avanza(base::Dialogo& dialogo) {
     chiudiEditore(true);
     const bool ultima = corrente_.colonna == colonne();
     const PostoGriglia prossimo = ultima ? PostoGriglia{corrente_.riga + 1, 1}
@@ -126,32 +127,32 @@ void GridModel::avanza(base::Dialogo& dialogo) {
         vaiA(prossimo, dialogo);
 }
 
-void GridModel::arretra(base::Dialogo& dialogo) {
+void ModelloGriglia::arretra(base::Dialogo& dialogo) {
     vaiA(corrente_.colonna > 1 ? PostoGriglia{corrente_.riga, corrente_.colonna - 1}
                                : PostoGriglia{corrente_.riga - 1, colonne()},
          dialogo);
 }
 
-PostoGriglia GridModel::fine() const {
+PostoGriglia ModelloGriglia::fine() const {
     const int ultima = celle_.ultimaRiga();
     return ultima == 0 ? PostoGriglia{} : PostoGriglia{ultima, colonne()};
 }
 
-void GridModel::batti(std::string_view carattere, bool sostituisce) {
+void ModelloGriglia::batti(std::string_view carattere, bool sostituisce) {
     scriviCella(sostituisce && primoCarattere_ ? std::string(carattere)
                                                : cella() + std::string(carattere));
     primoCarattere_ = false;
     testoScelto_ = false;
 }
 
-void GridModel::togliUltimo() {
+void ModelloGriglia::togliUltimo() {
     const std::size_t caratteri = base::numeroCaratteri(cella());
     if (caratteri > 0) scriviCella(tagliato(cella(), caratteri - 1));
     primoCarattere_ = false;
     testoScelto_ = false;
 }
 
-void GridModel::premi(Tasto tasto, std::string_view carattere, base::Dialogo& dialogo) {
+void ModelloGriglia::premi(Tasto tasto, std::string_view carattere, base::Dialogo& dialogo) {
     if (editoreAperto_) {
         if (tasto == Tasto::invio || tasto == Tasto::esc) chiudiEditore(tasto == Tasto::invio);
         return;
@@ -193,47 +194,49 @@ void GridModel::premi(Tasto tasto, std::string_view carattere, base::Dialogo& di
     }
 }
 
-void GridModel::apriEditore() {
+void ModelloGriglia::apriEditore() {
     if (editoreAperto_ || soloLettura(corrente_.colonna)) return;
     editoreAperto_ = true;
     testoScelto_ = false;
     testoEditore_ = cella();
 }
 
-void GridModel::chiudiEditore(bool scrivi) {
+void ModelloGriglia::chiudiEditore(bool scrivi) {
     if (!editoreAperto_) return;
     editoreAperto_ = false;
     if (scrivi) scriviCella(testoEditore_);
     primoCarattere_ = true;
 }
 
-std::string GridModel::lettura() const {
+std::string ModelloGriglia::lettura() const {
     if (!numerica(corrente_.colonna)) return {};
     return base::letturaMostrata(editoreAperto_ ? testoEditore_ : cella());
 }
 
-std::string GridModel::aiuto() const { return aiutoMostrato(colonna(corrente_.colonna).aiuto); }
+std::string ModelloGriglia::aiuto() const {
+    return aiutoMostrato(colonna(corrente_.colonna).aiuto);
+}
 
-void GridModel::mostraAiuto(base::Dialogo& dialogo) const {
+void ModelloGriglia::mostraAiuto(base::Dialogo& dialogo) const {
     dialogo.messaggio(aiuto(), etichetta(corrente_.colonna), base::Icona::informazione);
 }
 
-void GridModel::inserisciRiga(base::Dialogo& dialogo) {
+void ModelloGriglia::inserisciRiga(base::Dialogo& dialogo) {
     chiudiEditore(true);
     if (!validazionedati(dialogo)) return;
     if (celle_.inserisci(corrente_.riga)) entra(corrente_);
 }
 
-void GridModel::eliminaRiga() {
+void ModelloGriglia::eliminaRiga() {
     chiudiEditore(false);
     if (celle_.elimina(corrente_.riga)) entra(corrente_);
 }
 
-bool GridModel::cambiata() const {
+bool ModelloGriglia::cambiata() const {
     return celle_ != iniziali_ || (editoreAperto_ && testoEditore_ != cella());
 }
 
-bool GridModel::siPuoLasciare(base::Dialogo& dialogo) const {
+bool ModelloGriglia::siPuoLasciare(base::Dialogo& dialogo) const {
     if (!cambiata()) return true;
     return dialogo.domanda(base::traduttore("Le righe sono state modificate. Volete chiudere la "
                                             "tabella senza conservare le modifiche") +
@@ -242,7 +245,7 @@ bool GridModel::siPuoLasciare(base::Dialogo& dialogo) const {
                            base::Icona::avviso) == base::Risposta::si;
 }
 
-bool GridModel::conferma(base::Dialogo& dialogo) {
+bool ModelloGriglia::conferma(base::Dialogo& dialogo) {
     chiudiEditore(true);
     if (!validazionedati(dialogo)) return false;
     if (maschera_.genere == GenereMaschera::grigliaLibera) return true;

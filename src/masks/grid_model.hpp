@@ -33,15 +33,15 @@ enum class AzioneGriglia { conferma, annulla, inserisciRiga, eliminaRiga, guida 
 ///
 /// Cells are typed into in two ways: the grid itself takes what is typed, or F2 (a double click)
 /// opens an editor that floats on the current cell. Either way the cell is checked when it is left.
-class GridModel {
+class ModelloGriglia {
  public:
     /// @param testi  the number of rows as text, then the cells row after row; what stands behind a
     ///               "|" in the first text replaces the title of the form
     /// @param capienza  rows that whoever takes the table back can hold; more may be typed
     /// The mask must outlive the model.
     /// @throws base::ErroreIndice for more than 500 rows
-    GridModel(const Maschera& maschera, const std::vector<std::string>& testi,
-              int capienza = CelleGriglia::righe);
+    ModelloGriglia(const Maschera& maschera, const std::vector<std::string>& testi,
+                   int capienza = CelleGriglia::righe);
 
     /// Title of the form; with the number of rows and the capacity behind it where there are more.
     [[nodiscard]] std::string titolo() const;

@@ -27,7 +27,7 @@ void troppeRighe(base::Dialogo& dialogo) {
 using Righe = std::vector<std::vector<std::string>>;
 
 // The values that go to a column of numbers from the current cell on and have a decimal comma.
-std::vector<std::string*> conVirgola(Righe& righe, const GridModel& griglia) {
+std::vector<std::string*> conVirgola(Righe& righe, const ModelloGriglia& griglia) {
     std::vector<std::string*> trovati;
     for (auto& riga : righe) {
         int c = griglia.corrente().colonna;
@@ -41,7 +41,7 @@ std::vector<std::string*> conVirgola(Righe& righe, const GridModel& griglia) {
 
 // Offers to take decimal commas as points: on no they stay as they are, and their cells empty.
 // Returns false where the paste is called off.
-bool leggiVirgole(Righe& righe, const GridModel& griglia, base::Dialogo& dialogo) {
+bool leggiVirgole(Righe& righe, const ModelloGriglia& griglia, base::Dialogo& dialogo) {
     const auto trovati = conVirgola(righe, griglia);
     if (trovati.empty()) return true;
     const std::string domanda =
@@ -57,7 +57,7 @@ bool leggiVirgole(Righe& righe, const GridModel& griglia, base::Dialogo& dialogo
 
 }  // namespace
 
-void GridModel::incolla(std::string_view testo, base::Dialogo& dialogo) {
+void ModelloGriglia::incolla(std::string_view testo, base::Dialogo& dialogo) {
     auto righe = righeAppunti(testo);
     if (righe.empty()) return;
     if (!chiede("Confermate l'inserimento dei seguenti dati", "\r\n" + anteprimaAppunti(testo),

@@ -10,14 +10,14 @@ namespace {
 
 using Testi = std::vector<std::string>;
 
-class ModelloCampi : public ::testing::Test {
+class ModelloCampiTest : public ::testing::Test {
  protected:
     Maschera maschera = test::mascheraCampi();
     test::DialogoFinto dialogo;
-    FieldModel modello{maschera, {0, 2}, {"5", "abcd", "1.25"}};
+    ModelloCampi modello{maschera, {0, 2}, {"5", "abcd", "1.25"}};
 };
 
-TEST_F(ModelloCampi, ShowsWhatTheCommandFilledIn) {
+TEST_F(ModelloCampiTest, ShowsWhatTheCommandFilledIn) {
     EXPECT_EQ(modello.campi(), 5u);
     EXPECT_EQ(modello.voceMostrata(0), 0u);
     EXPECT_EQ(modello.voceMostrata(1), 2u);
@@ -29,19 +29,19 @@ TEST_F(ModelloCampi, ShowsWhatTheCommandFilledIn) {
     EXPECT_GE(modello.larghezzaCaselle(), 6u);
 }
 
-TEST_F(ModelloCampi, KnowsWhichFieldsTakeANumber) {
+TEST_F(ModelloCampiTest, KnowsWhichFieldsTakeANumber) {
     std::vector<bool> numeriche;
     for (std::size_t i = 0; i < modello.campi(); ++i) numeriche.push_back(modello.numerica(i));
     EXPECT_EQ(numeriche, (std::vector<bool>{false, false, true, false, true}));
 }
 
-TEST_F(ModelloCampi, LeadsFromTheLabelWithDotsUpTo120Characters) {
+TEST_F(ModelloCampiTest, LeadsFromTheLabelWithDotsUpTo120Characters) {
     EXPECT_EQ(modello.didascalia(2), "Lunghezza [m] " + std::string(106, '.'));
     maschera.campi[2].etichetta = std::string(130, 'x');
     EXPECT_EQ(modello.didascalia(2), std::string(130, 'x') + ' ');
 }
 
-TEST_F(ModelloCampi, TakesTheDotsFromATitleThenTheBlanks) {
+TEST_F(ModelloCampiTest, TakesTheDotsFromATitleThenTheBlanks) {
     EXPECT_EQ(modello.titoloMessaggio(2), "Lunghezza [m]");
     maschera.campi[2].etichetta = "Prof.";  // its own dot stands before a blank
     EXPECT_EQ(modello.titoloMessaggio(2), "Prof.");
@@ -49,7 +49,7 @@ TEST_F(ModelloCampi, TakesTheDotsFromATitleThenTheBlanks) {
     EXPECT_EQ(modello.titoloMessaggio(2), std::string(118, 'x') + "..");
 }
 
-TEST_F(ModelloCampi, MovesByUpDownAndEnterAcrossTextsAndChoices) {
+TEST_F(ModelloCampiTest, MovesByUpDownAndEnterAcrossTextsAndChoices) {
     EXPECT_EQ(modello.attivo(), 0u);
     EXPECT_FALSE(modello.premi(Tasto::su, dialogo));
     EXPECT_TRUE(modello.premi(Tasto::giu, dialogo));
@@ -62,13 +62,13 @@ TEST_F(ModelloCampi, MovesByUpDownAndEnterAcrossTextsAndChoices) {
     EXPECT_FALSE(modello.premi(Tasto::invio, dialogo));
 }
 
-TEST_F(ModelloCampi, DoesNothingOnF1) {
+TEST_F(ModelloCampiTest, DoesNothingOnF1) {
     EXPECT_FALSE(modello.premi(Tasto::f1, dialogo));
     EXPECT_EQ(modello.attivo(), 0u);
     EXPECT_TRUE(dialogo.messaggi.empty());
 }
 
-TEST_F(ModelloCampi, PassesOverAChoiceThatIsReadOnly) {
+TEST_F(ModelloCampiTest, PassesOverAChoiceThatIsReadOnly) {
     maschera.campi[1].soloLettura = true;
     EXPECT_TRUE(modello.premi(Tasto::giu, dialogo));
     EXPECT_EQ(modello.attivo(), 2u);
@@ -79,7 +79,7 @@ TEST_F(ModelloCampi, PassesOverAChoiceThatIsReadOnly) {
     EXPECT_EQ(modello.voceMostrata(1), 2u);
 }
 
-TEST_F(ModelloCampi, StopsAtAReadOnlyTextAndLocksIt) {
+TEST_F(ModelloCampiTest, StopsAtAReadOnlyTextAndLocksIt) {
     maschera.campi[2].soloLettura = true;
     EXPECT_TRUE(modello.passaA(2, dialogo));
     modello.scrivi(2, "7");
@@ -88,12 +88,12 @@ TEST_F(ModelloCampi, StopsAtAReadOnlyTextAndLocksIt) {
     EXPECT_TRUE(modello.lascia(dialogo));
 }
 
-TEST_F(ModelloCampi, StartsOnTheFirstFieldThatTakesTheFocus) {
+TEST_F(ModelloCampiTest, StartsOnTheFirstFieldThatTakesTheFocus) {
     maschera.campi[0].soloLettura = true;
-    EXPECT_EQ(FieldModel(maschera, {}, {}).attivo(), 1u);
+    EXPECT_EQ(ModelloCampi(maschera, {}, {}).attivo(), 1u);
 }
 
-TEST_F(ModelloCampi, TellsAValueOutOfRangeAndKeepsTheFocus) {
+TEST_F(ModelloCampiTest, TellsAValueOutOfRangeAndKeepsTheFocus) {
     modello.passaA(2, dialogo);
     modello.scrivi(2, "11");
     EXPECT_FALSE(modello.premi(Tasto::giu, dialogo));
@@ -107,7 +107,7 @@ TEST_F(ModelloCampi, TellsAValueOutOfRangeAndKeepsTheFocus) {
     EXPECT_TRUE(modello.premi(Tasto::giu, dialogo));
 }
 
-TEST_F(ModelloCampi, TellsABlankInsideANumber) {
+TEST_F(ModelloCampiTest, TellsABlankInsideANumber) {
     modello.passaA(2, dialogo);
     modello.scrivi(2, "1 2");
     EXPECT_FALSE(modello.lascia(dialogo));
@@ -116,14 +116,14 @@ TEST_F(ModelloCampi, TellsABlankInsideANumber) {
               "Non sono ammessi caratteri alfanumerici in un campo di tipo numerico.");
 }
 
-TEST_F(ModelloCampi, AcceptsAnEmptyNumber) {
+TEST_F(ModelloCampiTest, AcceptsAnEmptyNumber) {
     modello.passaA(2, dialogo);
     modello.scrivi(2, "");
     EXPECT_TRUE(modello.conferma(dialogo));
     EXPECT_EQ(modello.valoriTesto(), (Testi{"", "abcd", "1.25"}));
 }
 
-TEST_F(ModelloCampi, CutsATextThatIsTooLongAndKeepsTheFocusOnce) {
+TEST_F(ModelloCampiTest, CutsATextThatIsTooLongAndKeepsTheFocusOnce) {
     modello.passaA(3, dialogo);
     modello.scrivi(3, "àbcdefg");
     EXPECT_FALSE(modello.lascia(dialogo));
@@ -131,20 +131,20 @@ TEST_F(ModelloCampi, CutsATextThatIsTooLongAndKeepsTheFocusOnce) {
     EXPECT_TRUE(modello.lascia(dialogo));
 }
 
-TEST_F(ModelloCampi, KeepsNoMoreDecimalsThanThePictureWhileTyping) {
+TEST_F(ModelloCampiTest, KeepsNoMoreDecimalsThanThePictureWhileTyping) {
     modello.passaA(4, dialogo);
     modello.scrivi(4, "12.345");
     EXPECT_EQ(modello.testo(4), "12.34");
     EXPECT_TRUE(modello.lascia(dialogo));
 }
 
-TEST_F(ModelloCampi, ShowsAtOnceWhatNoFileCanHold) {
+TEST_F(ModelloCampiTest, ShowsAtOnceWhatNoFileCanHold) {
     modello.scrivi(3, "φ 30°");
     EXPECT_EQ(modello.testo(3), "? 30°");
 }
 
-TEST_F(ModelloCampi, ShowsTheLastItemOfACodeBeyondAllAndChangesNothing) {
-    FieldModel altro(maschera, {7, -0.5}, {});
+TEST_F(ModelloCampiTest, ShowsTheLastItemOfACodeBeyondAllAndChangesNothing) {
+    ModelloCampi altro(maschera, {7, -0.5}, {});
     EXPECT_EQ(altro.voceMostrata(0), 1u);
     EXPECT_EQ(altro.voceMostrata(1), 0u);
     altro.scegli(0, 1);  // the item that is shown
@@ -155,7 +155,7 @@ TEST_F(ModelloCampi, ShowsTheLastItemOfACodeBeyondAllAndChangesNothing) {
     EXPECT_EQ(altro.valoriCombo()[0], 1);
 }
 
-TEST_F(ModelloCampi, ChecksTheFieldWithTheFocusOnConfirm) {
+TEST_F(ModelloCampiTest, ChecksTheFieldWithTheFocusOnConfirm) {
     modello.passaA(2, dialogo);
     modello.scrivi(2, "99");
     EXPECT_FALSE(modello.conferma(dialogo));
@@ -167,7 +167,7 @@ TEST_F(ModelloCampi, ChecksTheFieldWithTheFocusOnConfirm) {
     EXPECT_EQ(modello.valoriTesto(), (Testi{"9", "abcd", "1.25"}));
 }
 
-TEST_F(ModelloCampi, ShowsTheHelpOfTheFieldWithTheFocus) {
+TEST_F(ModelloCampiTest, ShowsTheHelpOfTheFieldWithTheFocus) {
     EXPECT_EQ(modello.aiuto(), "aiuto 0");
     modello.passaA(3, dialogo);
     EXPECT_EQ(modello.aiuto(), "aiuto 3");
@@ -176,7 +176,7 @@ TEST_F(ModelloCampi, ShowsTheHelpOfTheFieldWithTheFocus) {
     EXPECT_EQ(dialogo.messaggi[0].testo, "aiuto 3");
 }
 
-TEST_F(ModelloCampi, ShowsTheReferenceWhereThereIsNoHelpFile) {
+TEST_F(ModelloCampiTest, ShowsTheReferenceWhereThereIsNoHelpFile) {
     mostraRiferimento(maschera, dialogo);
     ASSERT_EQ(dialogo.messaggi.size(), 1u);
     EXPECT_EQ(dialogo.messaggi[0].testo, "6 EDITX");
@@ -184,7 +184,7 @@ TEST_F(ModelloCampi, ShowsTheReferenceWhereThereIsNoHelpFile) {
 
 TEST(ModelloCampiLettura, TellsWhatTheNumberInUseIsReadAs) {
     const Maschera maschera = test::mascheraCampi();
-    FieldModel modello(maschera, {0, 0}, {"5", "1,5", "1.25"});
+    ModelloCampi modello(maschera, {0, 0}, {"5", "1,5", "1.25"});
     EXPECT_EQ(modello.lettura(), "") << "a choice";
     test::DialogoFinto dialogo;
     modello.passaA(2, dialogo);

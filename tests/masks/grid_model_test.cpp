@@ -12,7 +12,7 @@ namespace {
 using Testi = std::vector<std::string>;
 using base::Risposta;
 
-class ModelloGriglia : public ::testing::Test {
+class ModelloGrigliaTest : public ::testing::Test {
  protected:
     void scrivi(const std::string& testo) {
         for (const char c : testo)
@@ -23,11 +23,11 @@ class ModelloGriglia : public ::testing::Test {
 
     Maschera maschera = test::mascheraGriglia();
     test::DialogoFinto dialogo;
-    GridModel modello{maschera, {"2", "3", "18", "uno", "0", "8", "19", "due", "1"}};
+    ModelloGriglia modello{maschera, {"2", "3", "18", "uno", "0", "8", "19", "due", "1"}};
 };
 
-TEST_F(ModelloGriglia, ShowsTheRowsItIsGivenTrimmed) {
-    const GridModel altro(maschera, {"1", " 3 ", "18"});
+TEST_F(ModelloGrigliaTest, ShowsTheRowsItIsGivenTrimmed) {
+    const ModelloGriglia altro(maschera, {"1", " 3 ", "18"});
     EXPECT_EQ(altro.testo({1, 1}), "3");
     EXPECT_EQ(altro.testo({1, 2}), "18");
     EXPECT_EQ(altro.testo({1, 3}), "");
@@ -37,19 +37,19 @@ TEST_F(ModelloGriglia, ShowsTheRowsItIsGivenTrimmed) {
     EXPECT_EQ(altro.corrente(), (PostoGriglia{1, 1}));
 }
 
-TEST_F(ModelloGriglia, TakesATitleFromBehindTheRowCount) {
-    const GridModel altro(maschera, {"1|Altro titolo", "3", "18", "", ""});
+TEST_F(ModelloGrigliaTest, TakesATitleFromBehindTheRowCount) {
+    const ModelloGriglia altro(maschera, {"1|Altro titolo", "3", "18", "", ""});
     EXPECT_EQ(altro.titolo(), "Altro titolo");
     EXPECT_EQ(altro.testo({1, 2}), "18");
 }
 
-TEST_F(ModelloGriglia, RefusesMoreRowsThanItHas) {
-    EXPECT_THROW(GridModel(maschera, {"501"}), base::ErroreIndice);
-    EXPECT_NO_THROW(GridModel(maschera, {"500"}));
-    EXPECT_NO_THROW(GridModel(maschera, {"-1", "x"}));
+TEST_F(ModelloGrigliaTest, RefusesMoreRowsThanItHas) {
+    EXPECT_THROW(ModelloGriglia(maschera, {"501"}), base::ErroreIndice);
+    EXPECT_NO_THROW(ModelloGriglia(maschera, {"500"}));
+    EXPECT_NO_THROW(ModelloGriglia(maschera, {"-1", "x"}));
 }
 
-TEST_F(ModelloGriglia, MakesAColumnAsWideAsItsLabelOrItsType) {
+TEST_F(ModelloGrigliaTest, MakesAColumnAsWideAsItsLabelOrItsType) {
     EXPECT_EQ(modello.campioniLarghezza(1),
               (std::array<std::string, 2>{" Prof. [m] ", " 888888 "}));
     EXPECT_EQ(modello.campioniLarghezza(3), (std::array<std::string, 2>{" Nome ", " 88888 "}));
@@ -57,7 +57,7 @@ TEST_F(ModelloGriglia, MakesAColumnAsWideAsItsLabelOrItsType) {
     EXPECT_FALSE(modello.numerica(3));
 }
 
-TEST_F(ModelloGriglia, ReplacesTheCellByTheFirstCharacterAndAppendsTheNext) {
+TEST_F(ModelloGrigliaTest, ReplacesTheCellByTheFirstCharacterAndAppendsTheNext) {
     scrivi("45");
     EXPECT_EQ(cella(), "45");
     premi(Tasto::backspace);
@@ -68,7 +68,7 @@ TEST_F(ModelloGriglia, ReplacesTheCellByTheFirstCharacterAndAppendsTheNext) {
     EXPECT_EQ(cella(), "6");
 }
 
-TEST_F(ModelloGriglia, DoesNotReplaceTheCellByBackspaceOrAPoint) {
+TEST_F(ModelloGrigliaTest, DoesNotReplaceTheCellByBackspaceOrAPoint) {
     premi(Tasto::backspace);
     EXPECT_EQ(cella(), "");
     modello.vaiA({2, 2}, dialogo);
@@ -80,7 +80,7 @@ TEST_F(ModelloGriglia, DoesNotReplaceTheCellByBackspaceOrAPoint) {
     EXPECT_EQ(cella(), "18.5");
 }
 
-TEST_F(ModelloGriglia, TakesDeleteForBackspaceAndAPointForACharacter) {
+TEST_F(ModelloGrigliaTest, TakesDeleteForBackspaceAndAPointForACharacter) {
     scrivi("1.5");
     EXPECT_EQ(cella(), "1.5");
     premi(Tasto::canc);
@@ -91,7 +91,7 @@ TEST_F(ModelloGriglia, TakesDeleteForBackspaceAndAPointForACharacter) {
     EXPECT_EQ(cella(), "");
 }
 
-TEST_F(ModelloGriglia, RemovesWholeCharacters) {
+TEST_F(ModelloGrigliaTest, RemovesWholeCharacters) {
     modello.vaiA({1, 3}, dialogo);
     modello.premi(Tasto::carattere, "à", dialogo);
     modello.premi(Tasto::carattere, "è", dialogo);
@@ -99,13 +99,13 @@ TEST_F(ModelloGriglia, RemovesWholeCharacters) {
     EXPECT_EQ(cella(), "à");
 }
 
-TEST_F(ModelloGriglia, CopiesWithoutTouchingWhatIsTypedNext) {
+TEST_F(ModelloGrigliaTest, CopiesWithoutTouchingWhatIsTypedNext) {
     EXPECT_EQ(modello.copia(), "3\t18\tuno\t0\r\n8\t19\tdue\t1");
     scrivi("7");
     EXPECT_EQ(cella(), "7");
 }
 
-TEST_F(ModelloGriglia, MovesOnEnterToTheNextColumnAndRow) {
+TEST_F(ModelloGrigliaTest, MovesOnEnterToTheNextColumnAndRow) {
     premi(Tasto::invio);
     EXPECT_EQ(modello.corrente(), (PostoGriglia{1, 2}));
     modello.vaiA({1, 4}, dialogo);
@@ -116,7 +116,7 @@ TEST_F(ModelloGriglia, MovesOnEnterToTheNextColumnAndRow) {
     EXPECT_EQ(modello.corrente(), (PostoGriglia{500, 4}));
 }
 
-TEST_F(ModelloGriglia, GoesBackTheWayThatEnterGoes) {
+TEST_F(ModelloGrigliaTest, GoesBackTheWayThatEnterGoes) {
     modello.vaiA({2, 2}, dialogo);
     modello.arretra(dialogo);
     EXPECT_EQ(modello.corrente(), (PostoGriglia{2, 1}));
@@ -127,7 +127,7 @@ TEST_F(ModelloGriglia, GoesBackTheWayThatEnterGoes) {
     EXPECT_EQ(modello.corrente(), (PostoGriglia{1, 1}));
 }
 
-TEST_F(ModelloGriglia, WritesTheEditorWhenItMovesOn) {
+TEST_F(ModelloGrigliaTest, WritesTheEditorWhenItMovesOn) {
     modello.apriEditore();
     modello.scriviEditore("6");
     modello.avanza(dialogo);
@@ -142,12 +142,12 @@ TEST_F(ModelloGriglia, WritesTheEditorWhenItMovesOn) {
     EXPECT_EQ(dialogo.messaggi.size(), 1u) << "not one of the keys";
 }
 
-TEST_F(ModelloGriglia, EndsAtTheLastCellOfItsData) {
+TEST_F(ModelloGrigliaTest, EndsAtTheLastCellOfItsData) {
     EXPECT_EQ(modello.fine(), (PostoGriglia{2, 4}));
-    EXPECT_EQ(GridModel(maschera, {}).fine(), (PostoGriglia{1, 1}));
+    EXPECT_EQ(ModelloGriglia(maschera, {}).fine(), (PostoGriglia{1, 1}));
 }
 
-TEST_F(ModelloGriglia, MovesByArrowsInsideTheGrid) {
+TEST_F(ModelloGrigliaTest, MovesByArrowsInsideTheGrid) {
     premi(Tasto::su);
     premi(Tasto::sinistra);
     EXPECT_EQ(modello.corrente(), (PostoGriglia{1, 1}));
@@ -156,7 +156,7 @@ TEST_F(ModelloGriglia, MovesByArrowsInsideTheGrid) {
     EXPECT_EQ(modello.corrente(), (PostoGriglia{2, 2}));
 }
 
-TEST_F(ModelloGriglia, PutsTheCursorBackOnABadCell) {
+TEST_F(ModelloGrigliaTest, PutsTheCursorBackOnABadCell) {
     scrivi("101");
     premi(Tasto::invio);
     EXPECT_EQ(modello.corrente(), (PostoGriglia{1, 1}));
@@ -169,7 +169,7 @@ TEST_F(ModelloGriglia, PutsTheCursorBackOnABadCell) {
     EXPECT_TRUE(modello.vaiA({2, 2}, dialogo));
 }
 
-TEST_F(ModelloGriglia, CutsATextThatIsTooLong) {
+TEST_F(ModelloGrigliaTest, CutsATextThatIsTooLong) {
     modello.vaiA({1, 3}, dialogo);
     scrivi("abcdefg");
     EXPECT_FALSE(modello.vaiA({1, 4}, dialogo));
@@ -177,7 +177,7 @@ TEST_F(ModelloGriglia, CutsATextThatIsTooLong) {
     EXPECT_TRUE(modello.vaiA({1, 4}, dialogo));
 }
 
-TEST_F(ModelloGriglia, AcceptsAnEmptyCellInEveryColumn) {
+TEST_F(ModelloGrigliaTest, AcceptsAnEmptyCellInEveryColumn) {
     for (int c = 1; c <= 4; ++c) {
         modello.vaiA({3, c}, dialogo);
         scrivi(" ");
@@ -187,7 +187,7 @@ TEST_F(ModelloGriglia, AcceptsAnEmptyCellInEveryColumn) {
     EXPECT_EQ(modello.corrente(), (PostoGriglia{1, 1}));
 }
 
-TEST_F(ModelloGriglia, EditsInAnEditorThatEnterWritesAndEscDrops) {
+TEST_F(ModelloGrigliaTest, EditsInAnEditorThatEnterWritesAndEscDrops) {
     premi(Tasto::f2);
     EXPECT_TRUE(modello.editoreAperto());
     EXPECT_EQ(modello.testoEditore(), "3");
@@ -205,14 +205,14 @@ TEST_F(ModelloGriglia, EditsInAnEditorThatEnterWritesAndEscDrops) {
     EXPECT_EQ(cella(), "3");
 }
 
-TEST_F(ModelloGriglia, WritesAnOpenEditorBeforeItLeavesTheCell) {
+TEST_F(ModelloGrigliaTest, WritesAnOpenEditorBeforeItLeavesTheCell) {
     modello.apriEditore();
     modello.scriviEditore("7");
     EXPECT_TRUE(modello.vaiA({2, 2}, dialogo));
     EXPECT_EQ(modello.testo({1, 1}), "7");
 }
 
-TEST_F(ModelloGriglia, LeavesAReadOnlyColumnAlone) {
+TEST_F(ModelloGrigliaTest, LeavesAReadOnlyColumnAlone) {
     maschera.campi[1].soloLettura = true;
     scrivi("9");
     premi(Tasto::f2);
@@ -222,7 +222,7 @@ TEST_F(ModelloGriglia, LeavesAReadOnlyColumnAlone) {
     EXPECT_TRUE(modello.vaiA({2, 2}, dialogo));
 }
 
-TEST_F(ModelloGriglia, ShowsTheHelpOfTheColumnWithItsKeysBelow) {
+TEST_F(ModelloGrigliaTest, ShowsTheHelpOfTheColumnWithItsKeysBelow) {
     EXPECT_EQ(modello.aiuto(), "la profondità");
     modello.vaiA({1, 4}, dialogo);
     EXPECT_EQ(modello.aiuto(), "il tipo\n0=traz.,1=tutti");
@@ -230,7 +230,7 @@ TEST_F(ModelloGriglia, ShowsTheHelpOfTheColumnWithItsKeysBelow) {
     EXPECT_EQ(dialogo.messaggi.at(0).testo, "il tipo\n0=traz.,1=tutti");
 }
 
-TEST_F(ModelloGriglia, InsertsARowAtTheCurrentOne) {
+TEST_F(ModelloGrigliaTest, InsertsARowAtTheCurrentOne) {
     modello.vaiA({2, 1}, dialogo);
     modello.inserisciRiga(dialogo);
     EXPECT_EQ(cella(), "");
@@ -239,7 +239,7 @@ TEST_F(ModelloGriglia, InsertsARowAtTheCurrentOne) {
     EXPECT_EQ(cella(), "");
 }
 
-TEST_F(ModelloGriglia, DoesNotPushABadCellDown) {
+TEST_F(ModelloGrigliaTest, DoesNotPushABadCellDown) {
     scrivi("999");
     modello.inserisciRiga(dialogo);
     EXPECT_EQ(dialogo.messaggi.size(), 1u);
@@ -249,13 +249,13 @@ TEST_F(ModelloGriglia, DoesNotPushABadCellDown) {
     EXPECT_EQ(modello.corrente(), (PostoGriglia{1, 1}));
 }
 
-TEST_F(ModelloGriglia, ConfirmsAndPacksItsRows) {
+TEST_F(ModelloGrigliaTest, ConfirmsAndPacksItsRows) {
     EXPECT_TRUE(modello.conferma(dialogo));
     EXPECT_EQ(modello.valoriTesto(), (Testi{"2", "3", "18", "uno", "0", "8", "19", "due", "1"}));
     EXPECT_TRUE(dialogo.domande.empty());
 }
 
-TEST_F(ModelloGriglia, ClosesTheEditorBeforeItConfirms) {
+TEST_F(ModelloGrigliaTest, ClosesTheEditorBeforeItConfirms) {
     modello.apriEditore();
     modello.scriviEditore("x");
     EXPECT_FALSE(modello.conferma(dialogo));
@@ -266,8 +266,9 @@ TEST_F(ModelloGriglia, ClosesTheEditorBeforeItConfirms) {
     EXPECT_EQ(modello.valoriTesto()[1], "4");
 }
 
-TEST_F(ModelloGriglia, AsksAboutAGapAndKeepsTheOrderOfItsRows) {
-    GridModel conVuoto(maschera, {"3", "1", "2", "a", "0", "", "", "", "", "3", "4", "b", "1"});
+TEST_F(ModelloGrigliaTest, AsksAboutAGapAndKeepsTheOrderOfItsRows) {
+    ModelloGriglia conVuoto(maschera,
+                            {"3", "1", "2", "a", "0", "", "", "", "", "3", "4", "b", "1"});
     conVuoto.vaiA({3, 2}, dialogo);
     dialogo.risposte = {Risposta::si, Risposta::annulla, Risposta::no};
     EXPECT_FALSE(conVuoto.conferma(dialogo));
@@ -282,14 +283,14 @@ TEST_F(ModelloGriglia, AsksAboutAGapAndKeepsTheOrderOfItsRows) {
                                          "ATTENZIONE!", base::Icona::domanda}));
 }
 
-TEST_F(ModelloGriglia, AsksAboutAnEmptyCellUnlessTheMaskAllowsIt) {
+TEST_F(ModelloGrigliaTest, AsksAboutAnEmptyCellUnlessTheMaskAllowsIt) {
     const Testi testi = {"1", "1", "", "a", "0"};
     maschera.genere = GenereMaschera::grigliaFissa;
     dialogo.risposte = {Risposta::no};
-    EXPECT_TRUE(GridModel(maschera, testi).conferma(dialogo));
+    EXPECT_TRUE(ModelloGriglia(maschera, testi).conferma(dialogo));
     EXPECT_EQ(dialogo.domande.size(), 1u);
     maschera.genere = GenereMaschera::grigliaLibera;
-    EXPECT_TRUE(GridModel(maschera, testi).conferma(dialogo));
+    EXPECT_TRUE(ModelloGriglia(maschera, testi).conferma(dialogo));
     EXPECT_EQ(dialogo.domande.size(), 1u);
 }
 
@@ -309,7 +310,7 @@ TEST(AzionePulsante, FollowsTheKindOfTheMask) {
               (std::vector<AzioneGriglia>{conferma, annulla, guida, guida, guida, guida}));
 }
 
-TEST_F(ModelloGriglia, TellsWhatANumberIsReadAsWhileItIsTyped) {
+TEST_F(ModelloGrigliaTest, TellsWhatANumberIsReadAsWhileItIsTyped) {
     EXPECT_EQ(modello.lettura(), "");
     scrivi("20,5");
     EXPECT_EQ(modello.lettura(), "letto come 20: il segno decimale è il punto");
@@ -324,7 +325,7 @@ TEST_F(ModelloGriglia, TellsWhatANumberIsReadAsWhileItIsTyped) {
     EXPECT_EQ(modello.lettura(), "") << "a text";
 }
 
-TEST_F(ModelloGriglia, SelectsTheTextOfACellWhoseFaultABoxTold) {
+TEST_F(ModelloGrigliaTest, SelectsTheTextOfACellWhoseFaultABoxTold) {
     scrivi("999");
     EXPECT_FALSE(modello.testoScelto());
     premi(Tasto::invio);
@@ -342,7 +343,7 @@ TEST_F(ModelloGriglia, SelectsTheTextOfACellWhoseFaultABoxTold) {
     EXPECT_FALSE(modello.testoScelto());
 }
 
-TEST_F(ModelloGriglia, KnowsWhetherItsRowsWereChanged) {
+TEST_F(ModelloGrigliaTest, KnowsWhetherItsRowsWereChanged) {
     EXPECT_FALSE(modello.cambiata());
     premi(Tasto::f2);
     EXPECT_FALSE(modello.cambiata());
@@ -356,7 +357,7 @@ TEST_F(ModelloGriglia, KnowsWhetherItsRowsWereChanged) {
     EXPECT_FALSE(modello.cambiata()) << "as it was";
 }
 
-TEST_F(ModelloGriglia, AsksBeforeChangedRowsAreThrownAway) {
+TEST_F(ModelloGrigliaTest, AsksBeforeChangedRowsAreThrownAway) {
     EXPECT_TRUE(modello.siPuoLasciare(dialogo));
     EXPECT_TRUE(dialogo.domande.empty());
     scrivi("4");
@@ -373,7 +374,7 @@ TEST_F(ModelloGriglia, AsksBeforeChangedRowsAreThrownAway) {
 TEST(CapienzaGriglia, IsToldInTitleAndStripFromTheFirstRowAboveIt) {
     const Maschera maschera = test::mascheraGriglia();
     test::DialogoFinto dialogo;
-    GridModel modello(maschera, {"2", "1", "", "", "", "2", "", "", ""}, 2);
+    ModelloGriglia modello(maschera, {"2", "1", "", "", "", "2", "", "", ""}, 2);
     EXPECT_EQ(modello.titolo(), "Tabella");
     EXPECT_EQ(modello.eccesso(), "");
     modello.vaiA({5, 1}, dialogo);

@@ -19,7 +19,7 @@ class Incolla : public ::testing::Test {
     }
     Maschera maschera = test::mascheraGriglia();
     test::DialogoFinto dialogo;
-    GridModel modello{maschera, {"1", "3", "18", "uno", "0"}};
+    ModelloGriglia modello{maschera, {"1", "3", "18", "uno", "0"}};
 };
 
 TEST_F(Incolla, FillsColumnsFromTheCurrentCellOn) {
@@ -66,7 +66,7 @@ TEST_F(Incolla, OverwritesAfterOneQuestion) {
 }
 
 TEST_F(Incolla, LeavesOccupiedCellsAloneOnNoAndFillsTheFreeOnes) {
-    GridModel mezzo(maschera, {"2", "3", "", "uno", "", "", "19", "", "1"});
+    ModelloGriglia mezzo(maschera, {"2", "3", "", "uno", "", "", "19", "", "1"});
     dialogo.risposte = {Risposta::si, Risposta::no};
     mezzo.incolla("7\t8\tdue\t1\r\n9\t9\ttre\t0", dialogo);
     EXPECT_EQ(mezzo.valoriTesto(), (std::vector<std::string>{"2", "3", "8", "uno", "1",  //
@@ -130,7 +130,7 @@ TEST_F(Incolla, PassesOverAReadOnlyColumn) {
 }
 
 TEST_F(Incolla, TakesBackWhatItCopied) {
-    GridModel altra(maschera, {"0"});
+    ModelloGriglia altra(maschera, {"0"});
     altra.incolla(modello.copia(), dialogo);
     EXPECT_EQ(altra.valoriTesto(), modello.valoriTesto());
 }

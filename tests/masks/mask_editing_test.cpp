@@ -23,11 +23,11 @@ class Modifica : public ::testing::Test {
     }
     // A field form opened and confirmed at once.
     void confermaCampi() {
-        FieldModel forma(maschere.corrente(), maschere.valoriCombo(), maschere.valoriTesto());
+        ModelloCampi forma(maschere.corrente(), maschere.valoriCombo(), maschere.valoriTesto());
         ASSERT_TRUE(forma.conferma(dialogo));
         maschere.conferma(forma.valoriCombo(), forma.valoriTesto());
     }
-    void confermaGriglia(GridModel& forma) {
+    void confermaGriglia(ModelloGriglia& forma) {
         ASSERT_TRUE(forma.conferma(dialogo));
         maschere.conferma({}, forma.valoriTesto());
     }
@@ -115,7 +115,7 @@ TEST_F(Modifica, TakesATableThroughTheGridAndBackUnchanged) {
     test::aggiungiStrato(dati, {.fondo = 20, .gammaN = 0, .gammaSat = 0, .phi = 0, .ks = 1234.5});
     const project::DatiProgetto prima = dati;
     preparaMaschera(maschere, NumeroMaschera::strati, dati, 0);
-    GridModel forma(maschere.corrente(), maschere.valoriTesto());
+    ModelloGriglia forma(maschere.corrente(), maschere.valoriTesto());
     EXPECT_EQ(forma.testo({1, 2}), "18.5");
     EXPECT_EQ(forma.testo({1, 5}), "3");
     EXPECT_EQ(forma.testo({2, 6}), "12345");
@@ -126,7 +126,7 @@ TEST_F(Modifica, TakesATableThroughTheGridAndBackUnchanged) {
 
 TEST_F(Modifica, SortsAnchorsAndLeavesStagesInTheirOrder) {
     preparaMaschera(maschere, NumeroMaschera::tiranti, dati, 0);
-    GridModel tiranti(maschere.corrente(), {"2", "6", "1", "1", "1", "2", "5", "5", "0"});
+    ModelloGriglia tiranti(maschere.corrente(), {"2", "6", "1", "1", "1", "2", "5", "5", "0"});
     confermaGriglia(tiranti);
     riprendi(NumeroMaschera::tiranti);
     EXPECT_EQ(dati.profTirante[1], 2);
@@ -134,7 +134,7 @@ TEST_F(Modifica, SortsAnchorsAndLeavesStagesInTheirOrder) {
     preparaMaschera(maschere, NumeroMaschera::tiranti, dati, 0);
     EXPECT_EQ(maschere.valoriTesto(), (Testi{"2", "2", "5", "5", "0", "6", "1", "1", "1"}));
     preparaMaschera(maschere, NumeroMaschera::fasi, dati, 0);
-    GridModel fasi(maschere.corrente(), {"2", "5", "1", "20", "6", "3", "0", "10", "4"});
+    ModelloGriglia fasi(maschere.corrente(), {"2", "5", "1", "20", "6", "3", "0", "10", "4"});
     confermaGriglia(fasi);
     riprendi(NumeroMaschera::fasi);
     preparaMaschera(maschere, NumeroMaschera::fasi, dati, 0);
@@ -146,7 +146,7 @@ TEST_F(Modifica, RaisesMoreRowsThanTheProjectHolds) {
     preparaMaschera(maschere, NumeroMaschera::tiranti, dati, 0);
     Testi testi = {"21"};
     for (int i = 0; i < 21 * 4; ++i) testi.push_back("1");
-    GridModel forma(maschere.corrente(), testi);
+    ModelloGriglia forma(maschere.corrente(), testi);
     confermaGriglia(forma);
     EXPECT_THROW((void)riprendiMaschera(maschere, NumeroMaschera::tiranti, dati, fase),
                  base::ErroreIndice);

@@ -92,11 +92,11 @@ class FormeSenzaModifiche : public ::testing::Test {
     bool apriEConferma(NumeroMaschera numero) {
         preparaMaschera(maschere, numero, dati, fase);
         if (maschere.corrente().genere == GenereMaschera::campi) {
-            FieldModel forma(maschere.corrente(), maschere.valoriCombo(), maschere.valoriTesto());
+            ModelloCampi forma(maschere.corrente(), maschere.valoriCombo(), maschere.valoriTesto());
             EXPECT_TRUE(forma.conferma(dialogo));
             maschere.conferma(forma.valoriCombo(), forma.valoriTesto());
         } else {
-            GridModel forma(maschere.corrente(), maschere.valoriTesto());
+            ModelloGriglia forma(maschere.corrente(), maschere.valoriTesto());
             EXPECT_TRUE(forma.conferma(dialogo));
             maschere.conferma({}, forma.valoriTesto());
         }
@@ -136,7 +136,7 @@ TEST_F(FormeSenzaModifiche, KeepTheValuesOfRowsThatMoveWhenOneIsTakenOutOrInsert
     dati.nTiranti = 19;
     const project::DatiProgetto prima = dati;
     preparaMaschera(maschere, NumeroMaschera::tiranti, dati, fase);
-    GridModel senza(maschere.corrente(), maschere.valoriTesto());
+    ModelloGriglia senza(maschere.corrente(), maschere.valoriTesto());
     senza.eliminaRiga();
     maschere.conferma({}, senza.valoriTesto());
     (void)riprendiMaschera(maschere, NumeroMaschera::tiranti, dati, fase);
@@ -148,7 +148,7 @@ TEST_F(FormeSenzaModifiche, KeepTheValuesOfRowsThatMoveWhenOneIsTakenOutOrInsert
 
     dati = prima;
     preparaMaschera(maschere, NumeroMaschera::tiranti, dati, fase);
-    GridModel con(maschere.corrente(), maschere.valoriTesto());
+    ModelloGriglia con(maschere.corrente(), maschere.valoriTesto());
     con.inserisciRiga(dialogo);
     for (const char cifra : {'0', '1', '2', '3'}) {
         con.premi(Tasto::carattere, std::string(1, cifra), dialogo);

@@ -50,8 +50,8 @@ QSize ingombro(const QWidget& pezzo) {
     const auto diUnaRiga = [&](const QString& testo) {
         return testo.isEmpty() ? QSize() : misure.size(Qt::TextShowMnemonic, testo);
     };
-    if (dynamic_cast<const ElidedLabel*>(&pezzo) != nullptr) return {};
-    if (const auto* puntini = dynamic_cast<const LeaderLabel*>(&pezzo))
+    if (dynamic_cast<const EtichettaAccorciata*>(&pezzo) != nullptr) return {};
+    if (const auto* puntini = dynamic_cast<const EtichettaPuntinata*>(&pezzo))
         return {misure.horizontalAdvance(puntini->accessibleName()), misure.height()};
     if (const auto* etichetta = qobject_cast<const QLabel*>(&pezzo)) {
         if (etichetta->text().isEmpty()) return {};

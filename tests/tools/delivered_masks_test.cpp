@@ -171,7 +171,7 @@ TEST_F(DeliveredMasks, AcceptWhatANewProjectHolds) {
     for (const auto number : {NumeroMaschera::titoli, NumeroMaschera::paratia}) {
         masks::preparaMaschera(all, number, fresh, 0);
         const auto& mask = all.corrente();
-        const masks::FieldModel form(mask, all.valoriCombo(), all.valoriTesto());
+        const masks::ModelloCampi form(mask, all.valoriCombo(), all.valoriTesto());
         for (std::size_t i = mask.scelte.size(); i < mask.campi.size(); ++i)
             EXPECT_EQ(masks::controllaCampo(mask.campi[i], form.testo(i)), masks::Vizio::nessuno)
                 << mask.campi[i].etichetta;

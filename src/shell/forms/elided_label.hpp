@@ -7,9 +7,9 @@ namespace korven::shell {
 
 /// A line that gives up its middle where there is no room for it: of a long path its beginning and
 /// its file name stay. The whole of it is the tool tip.
-class ElidedLabel : public QLabel {
+class EtichettaAccorciata : public QLabel {
  public:
-    explicit ElidedLabel(QWidget* genitore) : QLabel(genitore) {
+    explicit EtichettaAccorciata(QWidget* genitore) : QLabel(genitore) {
         setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
         setTextFormat(Qt::PlainText);
         setContentsMargins(8, 0, 8, 0);

@@ -24,7 +24,8 @@ QString conNota(const QString& nota, const QString& testo) {
 
 }  // namespace
 
-HelpStrip::HelpStrip(const QStringList& testi, std::function<void()> premuto, QWidget* genitore)
+StrisciaAiuto::StrisciaAiuto(const QStringList& testi, std::function<void()> premuto,
+                             QWidget* genitore)
     : QLabel(genitore), premuto_(std::move(premuto)) {
     const QString nota = qt(base::letturaPiuLunga());
     for (const QString& testo : testi) testi_ << conNota(nota, testo);
@@ -46,20 +47,20 @@ HelpStrip::HelpStrip(const QStringList& testi, std::function<void()> premuto, QW
     setSizePolicy(misura);
 }
 
-void HelpStrip::mostra(const QString& testo, const QString& nota) {
+void StrisciaAiuto::mostra(const QString& testo, const QString& nota) {
     const QString tutto = conNota(nota, testo);
     if (tutto == text()) return;
     setText(tutto);
     setAccessibleName(tutto);
 }
 
-int HelpStrip::altezzaTesto(const QString& testo, int larghezza) const {
+int StrisciaAiuto::altezzaTesto(const QString& testo, int larghezza) const {
     return fontMetrics()
         .boundingRect(0, 0, larghezza, QWIDGETSIZE_MAX, Qt::TextWordWrap | Qt::AlignLeft, testo)
         .height();
 }
 
-int HelpStrip::heightForWidth(int larghezza) const {
+int StrisciaAiuto::heightForWidth(int larghezza) const {
     const int bordi = 2 * (margine + frameWidth());
     int altezza = std::max(fontMetrics().height(), altezzaTesto(text(), larghezza - bordi));
     for (const QString& testo : testi_)
@@ -67,24 +68,24 @@ int HelpStrip::heightForWidth(int larghezza) const {
     return altezza + bordi;
 }
 
-QSize HelpStrip::sizeHint() const { return {larghezzaComoda, heightForWidth(larghezzaComoda)}; }
+QSize StrisciaAiuto::sizeHint() const { return {larghezzaComoda, heightForWidth(larghezzaComoda)}; }
 
-QSize HelpStrip::minimumSizeHint() const {
+QSize StrisciaAiuto::minimumSizeHint() const {
     return {larghezzaMinima, fontMetrics().height() + 2 * (margine + frameWidth())};
 }
 
-void HelpStrip::mousePressEvent(QMouseEvent* evento) {
+void StrisciaAiuto::mousePressEvent(QMouseEvent* evento) {
     if (evento->button() == Qt::LeftButton && premuto_) premuto_();
 }
 
-void HelpStrip::keyPressEvent(QKeyEvent* evento) {
+void StrisciaAiuto::keyPressEvent(QKeyEvent* evento) {
     constexpr int tasti[] = {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter};
     if (std::find(std::begin(tasti), std::end(tasti), evento->key()) == std::end(tasti))
         return QLabel::keyPressEvent(evento);
     premuto_();
 }
 
-void HelpStrip::paintEvent(QPaintEvent* evento) {
+void StrisciaAiuto::paintEvent(QPaintEvent* evento) {
     QLabel::paintEvent(evento);
     if (!hasFocus()) return;
     QPainter pittore(this);

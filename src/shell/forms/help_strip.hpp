@@ -9,13 +9,13 @@ namespace korven::shell {
 /// The strip of a form that explains the field in use. It has room for the longest of its texts
 /// from the beginning, so that nothing moves while the user goes from field to field, and above it
 /// for a note on what is being typed. A click, or the space bar, asks for the text in a box.
-class HelpStrip : public QLabel {
+class StrisciaAiuto : public QLabel {
  public:
     /// @param testi    all that it will ever show, in lines where they have line breaks
     /// @param premuto  what a click does; may be empty
     /// The note has the room of one on a number (base/number_reading.hpp); a longer one makes the
     /// strip grow while it stands.
-    HelpStrip(const QStringList& testi, std::function<void()> premuto, QWidget* genitore);
+    StrisciaAiuto(const QStringList& testi, std::function<void()> premuto, QWidget* genitore);
 
     /// @param nota  in lines of its own above the text; empty for none
     void mostra(const QString& testo, const QString& nota = {});

@@ -8,9 +8,9 @@ namespace korven::shell {
 
 /// The label of a field, followed by a leader of dots as far as there is room. The dots end at the
 /// right edge, so that those of all rows stand below each other and none is cut in half.
-class LeaderLabel : public QLabel {
+class EtichettaPuntinata : public QLabel {
  public:
-    LeaderLabel(const QString& didascalia, const QString& etichetta, QWidget* genitore)
+    EtichettaPuntinata(const QString& didascalia, const QString& etichetta, QWidget* genitore)
         : QLabel(didascalia, genitore), etichetta_(etichetta) {
         setTextFormat(Qt::PlainText);
         setAccessibleName(etichetta);

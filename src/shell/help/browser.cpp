@@ -42,31 +42,31 @@ bool haNome(const QTextBlock& blocco, const QString& ancora) {
 
 }  // namespace
 
-GuidaBrowser::GuidaBrowser(const help::Guida& guida, QWidget* padre)
+VistaGuida::VistaGuida(const help::Guida& guida, QWidget* padre)
     : QTextBrowser(padre), guida_(guida) {
     setOpenExternalLinks(false);
     document()->setDefaultStyleSheet(QLatin1String(stile));
     document()->setDocumentMargin(14);
 }
 
-void GuidaBrowser::vai(const help::PaginaGuida& pagina, const std::string& ancora) {
+void VistaGuida::vai(const help::PaginaGuida& pagina, const std::string& ancora) {
     QUrl indirizzo(QStringLiteral("guida:/") + qt(pagina.nome));
     if (help::haAncora(pagina, ancora)) indirizzo.setFragment(qt(ancora));
     setSource(indirizzo, QTextDocument::HtmlResource);
 }
 
-const help::PaginaGuida* GuidaBrowser::paginaDi(const QUrl& indirizzo) const {
+const help::PaginaGuida* VistaGuida::paginaDi(const QUrl& indirizzo) const {
     return help::paginaDiNome(guida_, indirizzo.path().mid(1).toStdString());
 }
 
-QVariant GuidaBrowser::loadResource(int, const QUrl& indirizzo) {
+QVariant VistaGuida::loadResource(int, const QUrl& indirizzo) {
     const auto* pagina = paginaDi(indirizzo);
     if (pagina == nullptr) return {};
     return QStringLiteral("<p class=\"capitolo\">%1</p><h1>%2</h1>%3")
         .arg(pulito(guida_.capitoli[pagina->capitolo]), pulito(pagina->titolo), qt(pagina->html));
 }
 
-void GuidaBrowser::evidenzia(const std::vector<std::string>& parole, const QString& ancora) {
+void VistaGuida::evidenzia(const std::vector<std::string>& parole, const QString& ancora) {
     QList<ExtraSelection> scelte;
     const auto scegli = [&](int da, int a) {
         ExtraSelection scelta;
@@ -91,13 +91,13 @@ void GuidaBrowser::evidenzia(const std::vector<std::string>& parole, const QStri
     setExtraSelections(scelte);
 }
 
-void GuidaBrowser::ingrandisci(int passi) {
+void VistaGuida::ingrandisci(int passi) {
     passi = std::clamp(passi, minimoIngrandimento, massimoIngrandimento);
     zoomIn(passi - ingrandimento_);
     ingrandimento_ = passi;
 }
 
-void GuidaBrowser::wheelEvent(QWheelEvent* evento) {
+void VistaGuida::wheelEvent(QWheelEvent* evento) {
     if (!(evento->modifiers() & Qt::ControlModifier)) return QTextBrowser::wheelEvent(evento);
     ingrandisci(ingrandimento_ + (evento->angleDelta().y() > 0 ? 1 : -1));
     evento->accept();

@@ -10,10 +10,10 @@ namespace korven::shell {
 
 /// Shows the pages of a help, each under the address "guida:/NAME", with a history of its own and
 /// letters that can be made larger.
-class GuidaBrowser : public QTextBrowser {
+class VistaGuida : public QTextBrowser {
  public:
     /// @param guida  not owned; must outlive the browser
-    GuidaBrowser(const help::Guida& guida, QWidget* padre);
+    VistaGuida(const help::Guida& guida, QWidget* padre);
 
     /// Goes to a page, and in it to a place if it has that.
     void vai(const help::PaginaGuida& pagina, const std::string& ancora = {});

@@ -44,7 +44,7 @@ FinestraGuida::FinestraGuida(help::Guida guida) : guida_(std::move(guida)) {
     setObjectName(QStringLiteral("guida"));
     setWindowTitle(QStringLiteral("KORVEN 32 - ") + tradotto("Guida"));
     setAttribute(Qt::WA_QuitOnClose, false);
-    pagina_ = new GuidaBrowser(guida_, this);
+    pagina_ = new VistaGuida(guida_, this);
     pagina_->setObjectName(QStringLiteral("pagina"));
     pagina_->setAccessibleName(tradotto("Guida"));
     auto* divisa = new QSplitter(this);
@@ -116,7 +116,7 @@ QWidget* FinestraGuida::fareColonna() {
     trovate_ = new QListWidget(risultati_);
     trovate_->setObjectName(QStringLiteral("trovate"));
     trovate_->setAccessibleName(tradotto("Pagine trovate"));
-    trovate_->setItemDelegate(new TrovateDelegate(trovate_));
+    trovate_->setItemDelegate(new DelegatoTrovate(trovate_));
     trovate_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     trovate_->setResizeMode(QListView::Adjust);
     trovate_->setAlternatingRowColors(true);

@@ -14,7 +14,7 @@ class QTreeWidget;
 
 namespace korven::shell {
 
-class GuidaBrowser;
+class VistaGuida;
 
 /// The window of the help: contents at the left, the page at the right, and a search whose results
 /// take the place of the contents.
@@ -46,7 +46,7 @@ class FinestraGuida : public QWidget {
     void ingrandisci(int passi);
 
     const help::Guida guida_;
-    GuidaBrowser* pagina_ = nullptr;
+    VistaGuida* pagina_ = nullptr;
     QLineEdit* cerca_ = nullptr;
     QStackedWidget* colonna_ = nullptr;
     QTreeWidget* albero_ = nullptr;

@@ -24,7 +24,7 @@ QRect sottoIlTitolo(const QRect& voce, const QFont& carattere) {
 
 }  // namespace
 
-void TrovateDelegate::paint(QPainter* pittore, const QStyleOptionViewItem& opzioni,
+void DelegatoTrovate::paint(QPainter* pittore, const QStyleOptionViewItem& opzioni,
                             const QModelIndex& indice) const {
     QStyleOptionViewItem sfondo = opzioni;
     initStyleOption(&sfondo, indice);
@@ -47,7 +47,7 @@ void TrovateDelegate::paint(QPainter* pittore, const QStyleOptionViewItem& opzio
     pittore->restore();
 }
 
-QSize TrovateDelegate::sizeHint(const QStyleOptionViewItem& opzioni,
+QSize DelegatoTrovate::sizeHint(const QStyleOptionViewItem& opzioni,
                                 const QModelIndex& indice) const {
     const auto* lista = qobject_cast<const QAbstractItemView*>(opzioni.widget);
     const int larghezza = lista != nullptr ? lista->viewport()->width() : 200;

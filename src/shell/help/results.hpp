@@ -9,7 +9,7 @@ inline constexpr int datoBrano = Qt::UserRole + 1;
 
 /// Shows a page found: its title in bold letters, below it the excerpt over as many lines as it
 /// needs in the width of the list.
-class TrovateDelegate : public QStyledItemDelegate {
+class DelegatoTrovate : public QStyledItemDelegate {
  public:
     using QStyledItemDelegate::QStyledItemDelegate;
 

@@ -34,7 +34,7 @@ Informazioni::Informazioni(const std::string& fileCorrente, QWidget* genitore) :
     setWindowTitle(tradotto("Informazioni su KORVEN 32"));
     auto* colonna = new QVBoxLayout(this);
     colonna->setSpacing(8);
-    auto* immagine = new WallPicture(this);
+    auto* immagine = new QuadroParatia(this);
     immagine->setFixedSize(460, 210);
     immagine->mostraTitolo(false);
     immagine->setAccessibleName(tradotto("Dimensionamento di Paratie e Diaframmi"));

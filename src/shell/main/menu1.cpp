@@ -71,11 +71,11 @@ std::string progettoTrascinato(const QMimeData& dati) {
 Menu1::Menu1() {
     setObjectName("menu1");
     setWindowTitle("KORVEN 32");
-    immagine_ = new WallPicture(this);
+    immagine_ = new QuadroParatia(this);
     immagine_->setObjectName("Image1");
     setCentralWidget(immagine_);
-    connect(immagine_, &WallPicture::premuta, this, [this] { esegui(Comando::about); });
-    stato_ = new ElidedLabel(this);
+    connect(immagine_, &QuadroParatia::premuta, this, [this] { esegui(Comando::about); });
+    stato_ = new EtichettaAccorciata(this);
     stato_->setObjectName("stato");
     stato_->mostra(tradotto("Nessun progetto aperto"));
     statusBar()->addWidget(stato_, 1);

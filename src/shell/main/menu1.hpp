@@ -10,8 +10,8 @@ class QSessionManager;
 
 namespace korven::shell {
 
-class ElidedLabel;
-class WallPicture;
+class EtichettaAccorciata;
+class QuadroParatia;
 
 /// The main form `menu1`: the menu, the picture and the status line. It hands every command over
 /// to the program and decides nothing.
@@ -52,8 +52,8 @@ class Menu1 : public QMainWindow, public commands::FinestraPrincipale {
     void mostraModifiche();
 
     commands::Programma* programma_ = nullptr;
-    WallPicture* immagine_;
-    ElidedLabel* stato_;
+    QuadroParatia* immagine_;
+    EtichettaAccorciata* stato_;
     QLabel* modifiche_;
     bool salutata_ = false;  // the question about unsaved work has been answered
 };

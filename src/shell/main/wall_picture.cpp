@@ -143,14 +143,14 @@ void nome(QPainter& p, const QString& sottotitolo) {
 
 }  // namespace
 
-WallPicture::WallPicture(QWidget* genitore)
+QuadroParatia::QuadroParatia(QWidget* genitore)
     : QWidget(genitore), sottotitolo_(tradotto("Dimensionamento di Paratie e Diaframmi")) {
     setAccessibleName(
         tradotto("Sezione di una paratia tirantata fra monte e valle; un clic apre "
                  "le informazioni sul programma"));
 }
 
-void WallPicture::paintEvent(QPaintEvent*) {
+void QuadroParatia::paintEvent(QPaintEvent*) {
     QPainter p(this);
     p.setRenderHint(QPainter::Antialiasing);
     const double scala = std::min(width() / foglio.width(), height() / foglio.height());
@@ -166,7 +166,7 @@ void WallPicture::paintEvent(QPaintEvent*) {
     if (titolo_) nome(p, sottotitolo_);
 }
 
-void WallPicture::mouseReleaseEvent(QMouseEvent* evento) {
+void QuadroParatia::mouseReleaseEvent(QMouseEvent* evento) {
     if (evento->button() == Qt::LeftButton && rect().contains(evento->position().toPoint()))
         emit premuta();
 }

@@ -9,10 +9,10 @@ namespace korven::shell {
 
 /// The picture of the main form: a section through an anchored wall, with the ground it retains,
 /// its excavation stages and the line of its moments. Drawn, so that it is sharp at every size.
-class WallPicture : public QWidget {
+class QuadroParatia : public QWidget {
     Q_OBJECT
  public:
-    explicit WallPicture(QWidget* genitore = nullptr);
+    explicit QuadroParatia(QWidget* genitore = nullptr);
 
     /// Whether the name of the program stands in the sky.
     void mostraTitolo(bool mostra) {

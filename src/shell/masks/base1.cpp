@@ -40,11 +40,11 @@ QString nome(const char* gruppo, std::size_t indice) {
 Base1::Base1(const masks::Maschera& maschera, std::vector<double> combo,
              std::vector<std::string> testi, base::Dialogo& dialogo, GuidaForme guida,
              QWidget* padre)
-    : MaskForm(maschera, dialogo, std::move(guida), QStringLiteral("base1"), padre),
+    : FormaMaschera(maschera, dialogo, std::move(guida), QStringLiteral("base1"), padre),
       modello_(maschera, std::move(combo), std::move(testi)) {
     QStringList aiuti;
     for (const auto& campo : maschera.campi) aiuti << qt(campo.aiuto);
-    aiuto_ = new HelpStrip(
+    aiuto_ = new StrisciaAiuto(
         aiuti, [this] { modello_.mostraAiuto(this->dialogo()); }, this);
     aiuto_->setObjectName(QStringLiteral("Labelhelp"));
     auto* colonna = new QVBoxLayout(this);
@@ -65,8 +65,8 @@ QWidget* Base1::fareCampi() {
     griglia->setColumnStretch(0, 1);
     for (std::size_t i = 0; i < modello_.campi(); ++i) {
         const int riga = static_cast<int>(i);
-        auto* etichetta =
-            new LeaderLabel(qt(modello_.didascalia(i)), qt(maschera().campi[i].etichetta), tutti);
+        auto* etichetta = new EtichettaPuntinata(qt(modello_.didascalia(i)),
+                                                 qt(maschera().campi[i].etichetta), tutti);
         etichetta->setObjectName(nome("Label1", i));
         QWidget* controllo = nullptr;
         if (modello_.scelta(i))
@@ -235,7 +235,7 @@ bool Base1::eventFilter(QObject* oggetto, QEvent* evento) {
             default:
                 break;
         }
-    return MaskForm::eventFilter(oggetto, evento);
+    return FormaMaschera::eventFilter(oggetto, evento);
 }
 
 void Base1::azione(std::size_t pulsante) {

@@ -14,23 +14,23 @@ class QScrollArea;
 
 namespace korven::shell {
 
-class HelpStrip;
+class StrisciaAiuto;
 
 /// The form `base1`: labelled fields as a mask describes them. Its rules are those of
-/// `masks::FieldModel`.
+/// `masks::ModelloCampi`.
 ///
 /// Controls by name, counted from 0 each: `Label1_n` the labels of all fields, `Combo1_n` the
 /// choices, `Text1_n` the other fields, `Command1_n` the buttons; `Labelhelp` the help strip. Left
 /// and Right change a choice, as Up and Down go from field to field.
-class Base1 : public MaskForm {
+class Base1 : public FormaMaschera {
  public:
-    /// The arguments are those of `FieldModel` and `MaskForm`.
+    /// The arguments are those of `ModelloCampi` and `FormaMaschera`.
     Base1(const masks::Maschera& maschera, std::vector<double> combo,
           std::vector<std::string> testi, base::Dialogo& dialogo, GuidaForme guida, QWidget* padre);
 
-    [[nodiscard]] const masks::FieldModel& modello() const { return modello_; }
+    [[nodiscard]] const masks::ModelloCampi& modello() const { return modello_; }
     /// The strip shows the notes on texts too.
-    void annota(masks::FieldModel::Nota nota) {
+    void annota(masks::ModelloCampi::Nota nota) {
         modello_.annota(std::move(nota));
         spiega();
     }
@@ -50,10 +50,10 @@ class Base1 : public MaskForm {
     void spiega();
     void azione(std::size_t pulsante);
 
-    masks::FieldModel modello_;
+    masks::ModelloCampi modello_;
     std::vector<QWidget*> controlli_;  // the field's combo or text box
     QScrollArea* area_ = nullptr;
-    HelpStrip* aiuto_ = nullptr;
+    StrisciaAiuto* aiuto_ = nullptr;
     bool controllando_ = false;  // a box tells of a fault: the focus that moves is not the user's
 };
 

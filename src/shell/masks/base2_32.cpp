@@ -21,15 +21,15 @@ constexpr int larghezzaMinima = 400;
 
 Base2_32::Base2_32(const masks::Maschera& maschera, const std::vector<std::string>& testi,
                    base::Dialogo& dialogo, GuidaForme guida, QWidget* padre, int capienza)
-    : MaskForm(maschera, dialogo, std::move(guida), QStringLiteral("base2_32"), padre),
+    : FormaMaschera(maschera, dialogo, std::move(guida), QStringLiteral("base2_32"), padre),
       modello_(maschera, testi, capienza) {
     setWindowTitle(qt(modello_.titolo()));
     QStringList aiuti;
     for (const auto& colonna : maschera.campi) aiuti << qt(masks::aiutoMostrato(colonna.aiuto));
-    aiuto_ = new HelpStrip(
+    aiuto_ = new StrisciaAiuto(
         aiuti, [this] { modello_.mostraAiuto(this->dialogo()); }, this);
     aiuto_->setObjectName(QStringLiteral("Label1"));
-    griglia_ = new GridView(
+    griglia_ = new VistaGriglia(
         modello_, dialogo, [this] { spiega(); }, this);
     auto* colonna = new QVBoxLayout(this);
     colonna->addWidget(griglia_, 1);
@@ -51,7 +51,7 @@ void Base2_32::keyPressEvent(QKeyEvent* evento) {
     if (evento->key() == Qt::Key_F1)
         apriGuida();
     else
-        MaskForm::keyPressEvent(evento);
+        FormaMaschera::keyPressEvent(evento);
 }
 
 void Base2_32::spiega() {
@@ -63,7 +63,7 @@ void Base2_32::spiega() {
 }
 
 void Base2_32::reject() {
-    if (modello_.siPuoLasciare(dialogo())) MaskForm::reject();
+    if (modello_.siPuoLasciare(dialogo())) FormaMaschera::reject();
 }
 
 void Base2_32::azione(std::size_t pulsante) {
@@ -72,7 +72,7 @@ void Base2_32::azione(std::size_t pulsante) {
             if (modello_.conferma(dialogo())) return accept();
             break;
         case masks::AzioneGriglia::annulla:
-            return MaskForm::reject();
+            return FormaMaschera::reject();
         case masks::AzioneGriglia::inserisciRiga:
             modello_.inserisciRiga(dialogo());
             break;

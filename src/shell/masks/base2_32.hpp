@@ -8,23 +8,23 @@
 
 namespace korven::shell {
 
-class GridView;
-class HelpStrip;
+class VistaGriglia;
+class StrisciaAiuto;
 
 /// The form `base2_32`: a table as a mask describes it. Its rules are those of
-/// `masks::GridModel`.
+/// `masks::ModelloGriglia`.
 ///
 /// Controls by name: `MSFlexGrid1` the grid, `Text1` its floating editor, `Label1` the help strip,
 /// `Command1_n` the buttons. F1 opens the help of the form.
-class Base2_32 : public MaskForm {
+class Base2_32 : public FormaMaschera {
  public:
-    /// The arguments are those of `GridModel` and `MaskForm`.
+    /// The arguments are those of `ModelloGriglia` and `FormaMaschera`.
     /// @throws base::ErroreIndice for more than 500 rows
     Base2_32(const masks::Maschera& maschera, const std::vector<std::string>& testi,
              base::Dialogo& dialogo, GuidaForme guida, QWidget* padre,
              int capienza = masks::CelleGriglia::righe);
 
-    [[nodiscard]] const masks::GridModel& modello() const { return modello_; }
+    [[nodiscard]] const masks::ModelloGriglia& modello() const { return modello_; }
 
     /// Esc and the close box: rows that were changed are asked about. The cancel button just
     /// closes.
@@ -37,9 +37,9 @@ class Base2_32 : public MaskForm {
     void azione(std::size_t pulsante);
     void spiega();
 
-    masks::GridModel modello_;
-    GridView* griglia_ = nullptr;
-    HelpStrip* aiuto_ = nullptr;
+    masks::ModelloGriglia modello_;
+    VistaGriglia* griglia_ = nullptr;
+    StrisciaAiuto* aiuto_ = nullptr;
 };
 
 }  // namespace korven::shell

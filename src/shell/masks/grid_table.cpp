@@ -4,19 +4,19 @@
 
 namespace korven::shell {
 
-void GridTable::cambiate() {
+void TabellaGriglia::cambiate() {
     emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
 }
 
-int GridTable::rowCount(const QModelIndex& sotto) const {
+int TabellaGriglia::rowCount(const QModelIndex& sotto) const {
     return sotto.isValid() ? 0 : masks::CelleGriglia::righe;
 }
 
-int GridTable::columnCount(const QModelIndex& sotto) const {
+int TabellaGriglia::columnCount(const QModelIndex& sotto) const {
     return sotto.isValid() ? 0 : modello_.colonne();
 }
 
-QVariant GridTable::data(const QModelIndex& indice, int ruolo) const {
+QVariant TabellaGriglia::data(const QModelIndex& indice, int ruolo) const {
     const masks::PostoGriglia qui = posto(indice);
     const bool numero = modello_.numerica(qui.colonna);
     switch (ruolo) {
@@ -33,7 +33,7 @@ QVariant GridTable::data(const QModelIndex& indice, int ruolo) const {
     }
 }
 
-QVariant GridTable::headerData(int sezione, Qt::Orientation verso, int ruolo) const {
+QVariant TabellaGriglia::headerData(int sezione, Qt::Orientation verso, int ruolo) const {
     if (ruolo != Qt::DisplayRole) return {};
     if (verso == Qt::Vertical) return sezione + 1;
     return qt(modello_.etichetta(sezione + 1));
@@ -41,7 +41,7 @@ QVariant GridTable::headerData(int sezione, Qt::Orientation verso, int ruolo) co
 
 // Editable, so that what is typed through an input method arrives; the view opens no editor of its
 // own.
-Qt::ItemFlags GridTable::flags(const QModelIndex& indice) const {
+Qt::ItemFlags TabellaGriglia::flags(const QModelIndex& indice) const {
     Qt::ItemFlags segni = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
     if (indice.isValid() && !modello_.soloLettura(posto(indice).colonna))
         segni |= Qt::ItemIsEditable;

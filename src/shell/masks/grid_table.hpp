@@ -8,9 +8,9 @@ namespace korven::shell {
 
 /// The cells of a grid as a view of Qt asks for them: row and column 0 are the first data row and
 /// column. It shows only; typing goes to the model of the form.
-class GridTable : public QAbstractTableModel {
+class TabellaGriglia : public QAbstractTableModel {
  public:
-    GridTable(const masks::GridModel& modello, QObject* padre)
+    TabellaGriglia(const masks::ModelloGriglia& modello, QObject* padre)
         : QAbstractTableModel(padre), modello_(modello) {}
 
     [[nodiscard]] QModelIndex indice(masks::PostoGriglia posto) const {
@@ -29,7 +29,7 @@ class GridTable : public QAbstractTableModel {
     [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& indice) const override;
 
  private:
-    const masks::GridModel& modello_;
+    const masks::ModelloGriglia& modello_;
 };
 
 }  // namespace korven::shell

@@ -30,7 +30,7 @@ namespace {
 // leaves it that told its fault, is marked as in a line of text: it alone, not its whole cell.
 class Cella : public QStyledItemDelegate {
  public:
-    Cella(const QTableView& griglia, const masks::GridModel& modello, const bool& scrivendo,
+    Cella(const QTableView& griglia, const masks::ModelloGriglia& modello, const bool& scrivendo,
           QObject* padre)
         : QStyledItemDelegate(padre), griglia_(griglia), modello_(modello), scrivendo_(scrivendo) {}
 
@@ -61,19 +61,19 @@ class Cella : public QStyledItemDelegate {
 
  private:
     const QTableView& griglia_;
-    const masks::GridModel& modello_;
+    const masks::ModelloGriglia& modello_;
     const bool& scrivendo_;
 };
 
 }  // namespace
 
-GridView::GridView(masks::GridModel& modello, base::Dialogo& dialogo,
-                   std::function<void()> cambiato, QWidget* genitore)
+VistaGriglia::VistaGriglia(masks::ModelloGriglia& modello, base::Dialogo& dialogo,
+                           std::function<void()> cambiato, QWidget* genitore)
     : QTableView(genitore),
       modello_(modello),
       dialogo_(dialogo),
       cambiato_(std::move(cambiato)),
-      tabella_(new GridTable(modello, this)),
+      tabella_(new TabellaGriglia(modello, this)),
       editore_(new QLineEdit(viewport())) {
     setObjectName(QStringLiteral("MSFlexGrid1"));
     setAccessibleName(qt(modello.titolo()));
@@ -103,12 +103,12 @@ GridView::GridView(masks::GridModel& modello, base::Dialogo& dialogo,
     // Aids for those who can't see move the cursor in this way.
     connect(selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this](const QModelIndex& nuovo) {
-                if (nuovo.isValid()) vai(GridTable::posto(nuovo));
+                if (nuovo.isValid()) vai(TabellaGriglia::posto(nuovo));
             });
 }
 
 // The wider of label and digits, as the model has them. The label of the current column is bold.
-void GridView::misuraColonne() {
+void VistaGriglia::misuraColonne() {
     QFont grassetto = font();
     grassetto.setBold(true);
     const QFontMetrics etichette(grassetto);
@@ -125,7 +125,7 @@ void GridView::misuraColonne() {
 }
 
 // The corner holds the label of the row numbers.
-void GridView::mostraAngolo() {
+void VistaGriglia::mostraAngolo() {
     auto* angolo = findChild<QAbstractButton*>();
     if (angolo == nullptr) return;
     angolo->setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -137,12 +137,12 @@ void GridView::mostraAngolo() {
     disposizione->addWidget(etichetta);
 }
 
-int GridView::larghezzaColonne() const {
+int VistaGriglia::larghezzaColonne() const {
     return verticalHeader()->width() + horizontalHeader()->length() +
            verticalScrollBar()->sizeHint().width() + 2 * frameWidth() + 4;
 }
 
-void GridView::aggiorna() {
+void VistaGriglia::aggiorna() {
     tabella_->cambiate();
     const QModelIndex corrente = tabella_->indice(modello_.corrente());
     setCurrentIndex(corrente);
@@ -154,7 +154,7 @@ void GridView::aggiorna() {
     cambiato_();
 }
 
-void GridView::mostraEditore() {
+void VistaGriglia::mostraEditore() {
     editore_->setVisible(modello_.editoreAperto());
     if (!modello_.editoreAperto()) return;
     const PostoGriglia posto = modello_.corrente();
@@ -165,21 +165,21 @@ void GridView::mostraEditore() {
         editore_->setText(qt(modello_.testoEditore()));
 }
 
-void GridView::vai(PostoGriglia posto) {
+void VistaGriglia::vai(PostoGriglia posto) {
     if (posto == modello_.corrente()) return;
     scrivendo_ = false;
     modello_.vaiA(posto, dialogo_);
     aggiorna();
 }
 
-void GridView::premi(Tasto tasto, const QString& testo) {
+void VistaGriglia::premi(Tasto tasto, const QString& testo) {
     const PostoGriglia prima = modello_.corrente();
     modello_.premi(tasto, testo.toStdString(), dialogo_);
     scrivendo_ = tasto != Tasto::esc && modello_.corrente() == prima;
     aggiorna();
 }
 
-bool GridView::appunti(const QKeyEvent& evento) {
+bool VistaGriglia::appunti(const QKeyEvent& evento) {
     if (evento.matches(QKeySequence::Copy)) {
         QApplication::clipboard()->setText(qt(modello_.copia()));
         return true;
@@ -190,7 +190,7 @@ bool GridView::appunti(const QKeyEvent& evento) {
     return true;
 }
 
-bool GridView::sposta(const QKeyEvent& evento) {
+bool VistaGriglia::sposta(const QKeyEvent& evento) {
     const bool ctrl = evento.modifiers().testFlag(Qt::ControlModifier);
     const PostoGriglia qui = modello_.corrente();
     switch (evento.key()) {
@@ -211,17 +211,17 @@ bool GridView::sposta(const QKeyEvent& evento) {
             vai(ctrl ? modello_.fine() : PostoGriglia{qui.riga, modello_.colonne()});
             return true;
         case Qt::Key_PageUp:
-            vai(GridTable::posto(moveCursor(MovePageUp, Qt::NoModifier)));
+            vai(TabellaGriglia::posto(moveCursor(MovePageUp, Qt::NoModifier)));
             return true;
         case Qt::Key_PageDown:
-            vai(GridTable::posto(moveCursor(MovePageDown, Qt::NoModifier)));
+            vai(TabellaGriglia::posto(moveCursor(MovePageDown, Qt::NoModifier)));
             return true;
         default:
             return false;
     }
 }
 
-void GridView::keyPressEvent(QKeyEvent* evento) {
+void VistaGriglia::keyPressEvent(QKeyEvent* evento) {
     evento->accept();
     if (appunti(*evento) || sposta(*evento)) return;
     auto tasto = tastoDi(*evento);
@@ -232,7 +232,7 @@ void GridView::keyPressEvent(QKeyEvent* evento) {
 }
 
 // Accents typed by dead keys come this way, and whatever an input method composes.
-void GridView::inputMethodEvent(QInputMethodEvent* evento) {
+void VistaGriglia::inputMethodEvent(QInputMethodEvent* evento) {
     const QString testo = evento->commitString();
     if (!testo.isEmpty())
         premi(testo == QLatin1String(".") ? Tasto::punto : Tasto::carattere, testo);
@@ -240,26 +240,27 @@ void GridView::inputMethodEvent(QInputMethodEvent* evento) {
 }
 
 // The cursor is moved by the model alone: what the view would do by itself selects without asking.
-void GridView::mousePressEvent(QMouseEvent* evento) {
+void VistaGriglia::mousePressEvent(QMouseEvent* evento) {
     const QModelIndex indice = indexAt(evento->position().toPoint());
     if (evento->button() != Qt::LeftButton || !indice.isValid()) return;
-    if (GridTable::posto(indice) == modello_.corrente() && modello_.editoreAperto()) return;
-    vai(GridTable::posto(indice));
+    if (TabellaGriglia::posto(indice) == modello_.corrente() && modello_.editoreAperto()) return;
+    vai(TabellaGriglia::posto(indice));
 }
 
-void GridView::mouseDoubleClickEvent(QMouseEvent* evento) {
+void VistaGriglia::mouseDoubleClickEvent(QMouseEvent* evento) {
     const QModelIndex indice = indexAt(evento->position().toPoint());
     if (evento->button() != Qt::LeftButton || !indice.isValid()) return;
-    if (GridTable::posto(indice) != modello_.corrente()) return;  // was not left by the first click
+    if (TabellaGriglia::posto(indice) != modello_.corrente())
+        return;  // was not left by the first click
     modello_.apriEditore();
     aggiorna();
 }
 
-void GridView::mouseMoveEvent(QMouseEvent*) {}
+void VistaGriglia::mouseMoveEvent(QMouseEvent*) {}
 
-void GridView::mouseReleaseEvent(QMouseEvent*) {}
+void VistaGriglia::mouseReleaseEvent(QMouseEvent*) {}
 
-bool GridView::premiNellEditore(const QKeyEvent& evento) {
+bool VistaGriglia::premiNellEditore(const QKeyEvent& evento) {
     if (evento.key() == Qt::Key_Tab || evento.key() == Qt::Key_Backtab) return sposta(evento);
     const auto tasto = tastoDi(evento);
     if (!tasto) return false;
@@ -273,7 +274,7 @@ bool GridView::premiNellEditore(const QKeyEvent& evento) {
     return true;
 }
 
-bool GridView::eventFilter(QObject* oggetto, QEvent* evento) {
+bool VistaGriglia::eventFilter(QObject* oggetto, QEvent* evento) {
     if (oggetto == editore_ && evento->type() == QEvent::KeyPress &&
         premiNellEditore(*static_cast<QKeyEvent*>(evento)))
         return true;

@@ -10,21 +10,21 @@ class QLineEdit;
 
 namespace korven::shell {
 
-class GridTable;
+class TabellaGriglia;
 
-/// The grid `MSFlexGrid1` with its floating editor `Text1`: shows the cells of a `GridModel` and
-/// hands it keys, clicks and the clipboard. Where the cursor stands, and whether it may go, is the
-/// model's to say.
+/// The grid `MSFlexGrid1` with its floating editor `Text1`: shows the cells of a `ModelloGriglia`
+/// and hands it keys, clicks and the clipboard. Where the cursor stands, and whether it may go, is
+/// the model's to say.
 ///
 /// Beyond the keys of the model: Tab and Shift+Tab go on and back like Enter, Home and End to the
 /// ends of the row, with Ctrl to the first cell and the end of the data, the page keys by what is
 /// seen, Ctrl+Tab out of the grid.
-class GridView : public QTableView {
+class VistaGriglia : public QTableView {
  public:
     /// @param modello   not owned, like `dialogo`
     /// @param cambiato  called when the cursor may have moved
-    GridView(masks::GridModel& modello, base::Dialogo& dialogo, std::function<void()> cambiato,
-             QWidget* genitore);
+    VistaGriglia(masks::ModelloGriglia& modello, base::Dialogo& dialogo,
+                 std::function<void()> cambiato, QWidget* genitore);
 
     /// Shows cells, cursor and editor as they stand in the model, and takes the focus.
     void aggiorna();
@@ -50,10 +50,10 @@ class GridView : public QTableView {
     bool premiNellEditore(const QKeyEvent& evento);
     void mostraEditore();
 
-    masks::GridModel& modello_;
+    masks::ModelloGriglia& modello_;
     base::Dialogo& dialogo_;
     std::function<void()> cambiato_;
-    GridTable* tabella_;
+    TabellaGriglia* tabella_;
     QLineEdit* editore_;
     bool scrivendo_ = false;  // into the current cell, which so shows the end of its text
 };

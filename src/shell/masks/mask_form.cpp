@@ -22,8 +22,8 @@ constexpr int larghezzaCarattere = 4;  // 60 twips at 96 dots an inch; more wher
 
 }  // namespace
 
-MaskForm::MaskForm(const masks::Maschera& maschera, base::Dialogo& dialogo, GuidaForme guida,
-                   const QString& nome, QWidget* padre)
+FormaMaschera::FormaMaschera(const masks::Maschera& maschera, base::Dialogo& dialogo,
+                             GuidaForme guida, const QString& nome, QWidget* padre)
     : QDialog(padre), maschera_(maschera), dialogo_(dialogo), guida_(std::move(guida)) {
     setObjectName(QStringLiteral("%1_%2").arg(nome).arg(maschera.contesto));
     setWindowTitle(qt(maschera.titolo));
@@ -31,7 +31,7 @@ MaskForm::MaskForm(const masks::Maschera& maschera, base::Dialogo& dialogo, Guid
     connect(this, &QDialog::finished, this, [this] { ricordaMisure(*this); });
 }
 
-QWidget* MaskForm::farePulsanti(const std::function<void(std::size_t)>& premuto) {
+QWidget* FormaMaschera::farePulsanti(const std::function<void(std::size_t)>& premuto) {
     auto* riga = new QWidget(this);
     auto* fila = new QHBoxLayout(riga);
     fila->setContentsMargins(0, 0, 0, 0);
@@ -55,20 +55,22 @@ QWidget* MaskForm::farePulsanti(const std::function<void(std::size_t)>& premuto)
     return riga;
 }
 
-void MaskForm::disponi(QSize comoda) {
+void FormaMaschera::disponi(QSize comoda) {
     prendiMisura(*this, comoda);
     if (!isMaximized()) move(screen()->availableGeometry().center() - rect().center());
 }
 
-bool MaskForm::apriGuida() { return guida_ && guida_(help::contestoAiuto(maschera_.contesto)); }
+bool FormaMaschera::apriGuida() {
+    return guida_ && guida_(help::contestoAiuto(maschera_.contesto));
+}
 
-void MaskForm::mostraGuida() {
+void FormaMaschera::mostraGuida() {
     if (!guida_ || !guida_(help::contestoAiuto(masks::voceAiuto(maschera_))))
         masks::mostraRiferimento(maschera_, dialogo_);
 }
 
 // Without a default button Enter would do nothing on a button that has the focus.
-bool MaskForm::eventFilter(QObject* oggetto, QEvent* evento) {
+bool FormaMaschera::eventFilter(QObject* oggetto, QEvent* evento) {
     auto* pulsante = qobject_cast<QPushButton*>(oggetto);
     if (pulsante != nullptr && evento->type() == QEvent::KeyPress) {
         const int tasto = static_cast<QKeyEvent*>(evento)->key();

@@ -15,12 +15,12 @@ using GuidaForme = std::function<bool(int contesto)>;
 
 /// What a form has that is made from a mask, be it fields or a grid: the row of buttons, the help,
 /// the place on the screen. The number of its page in the help is its property "contestoAiuto".
-class MaskForm : public QDialog {
+class FormaMaschera : public QDialog {
  public:
     /// @param maschera  must outlive the form, as must `dialogo`
     /// @param nome      of the form; its size is remembered for each mask
-    MaskForm(const masks::Maschera& maschera, base::Dialogo& dialogo, GuidaForme guida,
-             const QString& nome, QWidget* padre);
+    FormaMaschera(const masks::Maschera& maschera, base::Dialogo& dialogo, GuidaForme guida,
+                  const QString& nome, QWidget* padre);
 
  protected:
     /// The buttons `Command1_0`, `Command1_1`..., as wide as the longest caption asks for. They

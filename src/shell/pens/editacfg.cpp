@@ -208,7 +208,7 @@ QWidget* Editacfg::fareMargini() {
 QWidget* Editacfg::fareStriscia() {
     QStringList testi;
     for (const char* testo : {aiutoColori, aiutoSpessore, aiutoMargine}) testi << tradotto(testo);
-    aiuto_ = new HelpStrip(testi, {}, this);
+    aiuto_ = new StrisciaAiuto(testi, {}, this);
     aiuto_->setObjectName(QStringLiteral("Labelhelp"));
     for (auto* campo : {spessore_, sinistro_, superiore_}) segui(campo);
     for (auto* lista : {penne_, caratteri_}) lista->installEventFilter(this);

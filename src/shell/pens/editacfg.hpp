@@ -15,7 +15,7 @@ class QRadioButton;
 
 namespace korven::shell {
 
-class HelpStrip;
+class StrisciaAiuto;
 
 /// The two dialogs that open from the form of the pens.
 class PorteEditacfg {
@@ -76,7 +76,7 @@ class Editacfg : public QDialog {
     QListWidget* caratteri_ = nullptr;                            // List2
     QLineEdit* sinistro_ = nullptr;                               // Text2
     QLineEdit* superiore_ = nullptr;                              // Text3
-    HelpStrip* aiuto_ = nullptr;                                  // Labelhelp
+    StrisciaAiuto* aiuto_ = nullptr;                              // Labelhelp
 };
 
 }  // namespace korven::shell

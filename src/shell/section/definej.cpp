@@ -118,7 +118,7 @@ QWidget* DefinEJ::fareRiquadri() {
     for (std::size_t i = 0; i < schizzi_.size(); ++i) {
         auto* riquadro = fareRiquadro(static_cast<RiquadroSezione>(i));
         auto* griglia = static_cast<QGridLayout*>(riquadro->layout());
-        auto* schizzo = schizzi_[i] = new SectionSketchView(
+        auto* schizzo = schizzi_[i] = new VistaSchizzo(
             [this](std::size_t campo) {
                 campi_[campo]->setFocus();
                 campi_[campo]->selectAll();
@@ -197,7 +197,7 @@ QLineEdit* DefinEJ::fareCampo(std::size_t campo) {
 QWidget* DefinEJ::fareStriscia() {
     QStringList testi{tradotto(aiutoTipo)};
     for (const auto& campo : campiForma) testi << tradotto(campo.aiuto);
-    aiuto_ = new HelpStrip(testi, {}, this);
+    aiuto_ = new StrisciaAiuto(testi, {}, this);
     aiuto_->setObjectName(QStringLiteral("Labelhelp"));
     return aiuto_;
 }

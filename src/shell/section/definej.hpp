@@ -14,9 +14,9 @@ class QStackedWidget;
 
 namespace korven::shell {
 
-class HelpStrip;
+class StrisciaAiuto;
 class ParteScorrevole;
-class SectionSketchView;
+class VistaSchizzo;
 
 /// The form of the structural section. What is typed and stored is the matter of
 /// `masks::SezioneEditata`; beside the fields of each type a sketch shows what they measure.
@@ -46,11 +46,11 @@ class DefinEJ : public QDialog {
 
     masks::SezioneEditata modello_;
     std::array<QRadioButton*, 4> opzioni_{};
-    std::array<SectionSketchView*, 4> schizzi_{};
+    std::array<VistaSchizzo*, 4> schizzi_{};
     std::array<QLineEdit*, masks::numeroCampiSezione> campi_{};
     QStackedWidget* riquadri_ = nullptr;
     ParteScorrevole* area_ = nullptr;  // of the fields
-    HelpStrip* aiuto_ = nullptr;
+    StrisciaAiuto* aiuto_ = nullptr;
 };
 
 /// Puts the form of the section of the open project behind its command.

@@ -43,7 +43,7 @@ void disponi(QPainter& pittore, Segno segno) {
 
 }  // namespace
 
-SectionSketchView::SectionSketchView(std::function<void(std::size_t)> scelto, QWidget* genitore)
+VistaSchizzo::VistaSchizzo(std::function<void(std::size_t)> scelto, QWidget* genitore)
     : QWidget(genitore),
       scelto_(std::move(scelto)),
       monte_(tradotto("LATO MONTE")),
@@ -51,35 +51,35 @@ SectionSketchView::SectionSketchView(std::function<void(std::size_t)> scelto, QW
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
-void SectionSketchView::mostra(drawings::Schizzo schizzo) {
+void VistaSchizzo::mostra(drawings::Schizzo schizzo) {
     schizzo_ = std::move(schizzo);
     update();
 }
 
-void SectionSketchView::evidenzia(std::optional<std::size_t> campo) {
+void VistaSchizzo::evidenzia(std::optional<std::size_t> campo) {
     if (campo == evidenziato_) return;
     evidenziato_ = campo;
     update();
 }
 
-double SectionSketchView::scala() const {
+double VistaSchizzo::scala() const {
     return std::min((width() - 2) / drawings::larghezzaSchizzo,
                     (height() - 2) / drawings::altezzaSchizzo);
 }
 
-QPointF SectionSketchView::sulWidget(plot::Punto punto) const {
+QPointF VistaSchizzo::sulWidget(plot::Punto punto) const {
     return {width() / 2.0 + (punto.x - drawings::larghezzaSchizzo / 2) * scala(),
             height() / 2.0 - (punto.y - drawings::altezzaSchizzo / 2) * scala()};
 }
 
-QFont SectionSketchView::carattere(bool grassetto) const {
+QFont VistaSchizzo::carattere(bool grassetto) const {
     QFont fatto = font();
     fatto.setPixelSize(std::max(1, qRound(drawings::corpoSchizzo * scala())));
     fatto.setBold(grassetto);
     return fatto;
 }
 
-QRectF SectionSketchView::postoTesto(const drawings::QuotaSchizzo& quota) const {
+QRectF VistaSchizzo::postoTesto(const drawings::QuotaSchizzo& quota) const {
     const QFontMetricsF misure(carattere(true));
     const double larghezza = misure.horizontalAdvance(qt(quota.scritta));
     const QPointF punto = sulWidget(quota.testo);
@@ -89,7 +89,7 @@ QRectF SectionSketchView::postoTesto(const drawings::QuotaSchizzo& quota) const 
     return {punto.x() - arretrato, punto.y() - misure.ascent(), larghezza, misure.height()};
 }
 
-void SectionSketchView::dipingiSezione(QPainter& pittore) const {
+void VistaSchizzo::dipingiSezione(QPainter& pittore) const {
     for (const auto& linea : schizzo_.linee) {
         QPolygonF punti;
         for (const auto& punto : linea.punti) punti << sulWidget(punto);
@@ -106,7 +106,7 @@ void SectionSketchView::dipingiSezione(QPainter& pittore) const {
     }
 }
 
-void SectionSketchView::dipingiQuota(QPainter& pittore, const drawings::QuotaSchizzo& quota) const {
+void VistaSchizzo::dipingiQuota(QPainter& pittore, const drawings::QuotaSchizzo& quota) const {
     const bool scelta = quota.campo == evidenziato_;
     const QColor colore = scelta ? QColor(196, 60, 20) : inchiostro;
     pittore.setPen(penna(scelta ? colore : grigio, scelta ? 2 : 1));
@@ -128,7 +128,7 @@ void SectionSketchView::dipingiQuota(QPainter& pittore, const drawings::QuotaSch
     pittore.drawText(QPointF(x, sulWidget(quota.testo).y()), qt(quota.scritta));
 }
 
-void SectionSketchView::dipingiLati(QPainter& pittore) const {
+void VistaSchizzo::dipingiLati(QPainter& pittore) const {
     pittore.setFont(carattere(false));
     pittore.setPen(grigio);
     const auto lato = [&](double x, const QString& nome) {
@@ -144,7 +144,7 @@ void SectionSketchView::dipingiLati(QPainter& pittore) const {
     lato(drawings::larghezzaSchizzo - dalBordo, valle_);
 }
 
-void SectionSketchView::paintEvent(QPaintEvent*) {
+void VistaSchizzo::paintEvent(QPaintEvent*) {
     QPainter pittore(this);
     pittore.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
     pittore.setPen(penna(cornice, 1));
@@ -159,7 +159,7 @@ void SectionSketchView::paintEvent(QPaintEvent*) {
         if (quota.campo == evidenziato_) dipingiQuota(pittore, quota);
 }
 
-void SectionSketchView::mousePressEvent(QMouseEvent* evento) {
+void VistaSchizzo::mousePressEvent(QMouseEvent* evento) {
     const auto colpita =
         std::find_if(schizzo_.quote.begin(), schizzo_.quote.end(), [&](const auto& quota) {
             return postoTesto(quota).adjusted(-3, -3, 3, 3).contains(evento->position());

@@ -10,12 +10,12 @@ namespace korven::shell {
 
 /// Paints the sketch of a section, with the dimension of one field in the colour of selections. A
 /// click on a text is a click on its field.
-class SectionSketchView : public QWidget {
+class VistaSchizzo : public QWidget {
     Q_OBJECT
 
  public:
     /// @param scelto  called with the field of a dimension whose text is clicked
-    SectionSketchView(std::function<void(std::size_t)> scelto, QWidget* genitore);
+    VistaSchizzo(std::function<void(std::size_t)> scelto, QWidget* genitore);
 
     void mostra(drawings::Schizzo schizzo);
     /// @param campo  of `masks::campiSezione`; none when the field with the focus is not here

@@ -32,8 +32,8 @@ class Guida : public ::testing::Test {
         const auto* p = browser().paginaDi(browser().source());
         return p != nullptr ? p->nome : std::string();
     }
-    GuidaBrowser& browser() {
-        return dynamic_cast<GuidaBrowser&>(test::controllo<QTextBrowser>(finestra, "pagina"));
+    VistaGuida& browser() {
+        return dynamic_cast<VistaGuida&>(test::controllo<QTextBrowser>(finestra, "pagina"));
     }
     QTreeWidget& albero() { return test::controllo<QTreeWidget>(finestra, "albero"); }
     QLineEdit& cerca() { return test::controllo<QLineEdit>(finestra, "cerca"); }
@@ -145,7 +145,7 @@ TEST_F(Guida, MakesLettersLargerAndSmallerWithinBoundsAndRemembersThem) {
     EXPECT_EQ(browser().ingrandimento(), 16);
     {
         FinestraGuida altra(help::leggiGuida("m.hlp", test::guidaPiccola()));
-        auto& sua = dynamic_cast<GuidaBrowser&>(test::controllo<QTextBrowser>(altra, "pagina"));
+        auto& sua = dynamic_cast<VistaGuida&>(test::controllo<QTextBrowser>(altra, "pagina"));
         EXPECT_EQ(sua.ingrandimento(), 16);
     }
     QTest::keyClick(&finestra, Qt::Key_0, Qt::ControlModifier);

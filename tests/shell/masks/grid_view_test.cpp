@@ -14,7 +14,7 @@ namespace {
 constexpr const char* alfanumerico =
     "Non sono ammessi caratteri alfanumerici in un campo di tipo numerico.";
 
-class VistaGriglia : public test::BancoGriglia {
+class VistaGrigliaTest : public test::BancoGriglia {
  protected:
     void SetUp() override { apri(); }
 
@@ -25,7 +25,7 @@ class VistaGriglia : public test::BancoGriglia {
     }
 };
 
-TEST_F(VistaGriglia, ClearsTheCellByTheFirstCharacterAndAppendsTheNext) {
+TEST_F(VistaGrigliaTest, ClearsTheCellByTheFirstCharacterAndAppendsTheNext) {
     scrivi("4");
     EXPECT_EQ(cella(1, 1), "4");
     scrivi("5");
@@ -37,7 +37,7 @@ TEST_F(VistaGriglia, ClearsTheCellByTheFirstCharacterAndAppendsTheNext) {
     EXPECT_TRUE(forma->isVisible());
 }
 
-TEST_F(VistaGriglia, DoesNotClearTheCellByOtherKeys) {
+TEST_F(VistaGrigliaTest, DoesNotClearTheCellByOtherKeys) {
     const std::pair<Qt::Key, const char*> casi[] = {{Qt::Key_Backspace, "1"},
                                                     {Qt::Key_Delete, "1"},
                                                     {Qt::Key_Escape, "18"},
@@ -56,7 +56,7 @@ TEST_F(VistaGriglia, DoesNotClearTheCellByOtherKeys) {
     EXPECT_EQ(cella(1, 2), "18");
 }
 
-TEST_F(VistaGriglia, TellsATypedPointFromDelete) {
+TEST_F(VistaGrigliaTest, TellsATypedPointFromDelete) {
     scrivi("1.5");
     EXPECT_EQ(cella(1, 1), "1.5");
     tasto(Qt::Key_Delete);
@@ -69,7 +69,7 @@ TEST_F(VistaGriglia, TellsATypedPointFromDelete) {
     EXPECT_EQ(cella(1, 1), "3..");
 }
 
-TEST_F(VistaGriglia, TakesTheDecimalKeyOfTheNumberPadForAPointInANumber) {
+TEST_F(VistaGrigliaTest, TakesTheDecimalKeyOfTheNumberPadForAPointInANumber) {
     scrivi("1");
     tastoCon(Qt::Key_Comma, Qt::KeypadModifier, ",");
     scrivi("5");
@@ -80,7 +80,7 @@ TEST_F(VistaGriglia, TakesTheDecimalKeyOfTheNumberPadForAPointInANumber) {
     EXPECT_EQ(cella(1, 3), "a,");
 }
 
-TEST_F(VistaGriglia, TakesCharactersOfTheThirdLevelAndOfInputMethods) {
+TEST_F(VistaGrigliaTest, TakesCharactersOfTheThirdLevelAndOfInputMethods) {
     clic(1, 3);
     tastoCon(Qt::Key_At, Qt::ControlModifier | Qt::AltModifier, "@");
     tastoCon(Qt::Key_BracketLeft, Qt::GroupSwitchModifier, "[");
@@ -95,7 +95,7 @@ TEST_F(VistaGriglia, TakesCharactersOfTheThirdLevelAndOfInputMethods) {
     EXPECT_EQ(cella(1, 3), "@[ê") << "commands type nothing";
 }
 
-TEST_F(VistaGriglia, MovesOnByEnterColumnByColumnAndRowByRow) {
+TEST_F(VistaGrigliaTest, MovesOnByEnterColumnByColumnAndRowByRow) {
     std::string strada;
     for (int i = 0; i < 5; ++i) {
         tasto(i % 2 == 0 ? Qt::Key_Return : Qt::Key_Enter);
@@ -105,7 +105,7 @@ TEST_F(VistaGriglia, MovesOnByEnterColumnByColumnAndRowByRow) {
     EXPECT_TRUE(forma->isVisible());
 }
 
-TEST_F(VistaGriglia, MovesByTabArrowsAndTheKeysOfTheBlock) {
+TEST_F(VistaGrigliaTest, MovesByTabArrowsAndTheKeysOfTheBlock) {
     struct Passo {
         Qt::Key tasto;
         Qt::KeyboardModifiers con;
@@ -134,7 +134,7 @@ TEST_F(VistaGriglia, MovesByTabArrowsAndTheKeysOfTheBlock) {
     }
 }
 
-TEST_F(VistaGriglia, TurnsPagesByWhatIsSeen) {
+TEST_F(VistaGrigliaTest, TurnsPagesByWhatIsSeen) {
     tasto(Qt::Key_PageDown);
     const int pagina = griglia().currentIndex().row();
     EXPECT_GT(pagina, 5);
@@ -146,7 +146,7 @@ TEST_F(VistaGriglia, TurnsPagesByWhatIsSeen) {
     EXPECT_EQ(cursore(), "500,1");
 }
 
-TEST_F(VistaGriglia, IsLeftByCtrlTab) {
+TEST_F(VistaGrigliaTest, IsLeftByCtrlTab) {
     tasto(Qt::Key_Tab, Qt::ControlModifier);
     EXPECT_FALSE(griglia().hasFocus());
     EXPECT_EQ(forma->focusWidget()->objectName(), "Label1");
@@ -156,7 +156,7 @@ TEST_F(VistaGriglia, IsLeftByCtrlTab) {
     EXPECT_EQ(forma->result(), QDialog::Accepted);
 }
 
-TEST_F(VistaGriglia, PutsTheCursorBackOnABadCellWhateverTheWayOut) {
+TEST_F(VistaGrigliaTest, PutsTheCursorBackOnABadCellWhateverTheWayOut) {
     const std::function<void()> uscite[] = {
         [&] { tasto(Qt::Key_Return); },
         [&] { tasto(Qt::Key_Down); },
@@ -179,7 +179,7 @@ TEST_F(VistaGriglia, PutsTheCursorBackOnABadCellWhateverTheWayOut) {
     }
 }
 
-TEST_F(VistaGriglia, ChecksEachKindOfColumn) {
+TEST_F(VistaGrigliaTest, ChecksEachKindOfColumn) {
     const std::tuple<int, const char*, const char*, const char*> casi[] = {
         {1, "100.5", "100.5",
          "Vi e' un errore di digitazione del valore introdotto o il valore è fuori dal range "
@@ -203,7 +203,7 @@ TEST_F(VistaGriglia, ChecksEachKindOfColumn) {
     }
 }
 
-TEST_F(VistaGriglia, TakesTheKeysOfAColumnAndNothingElse) {
+TEST_F(VistaGrigliaTest, TakesTheKeysOfAColumnAndNothingElse) {
     const std::pair<const char*, bool> casi[] = {{"0", true},     {"1", true},  {" 1 ", true},
                                                  {"", true},      {"2", false}, {"01", false},
                                                  {"traz.", false}};
@@ -220,7 +220,7 @@ TEST_F(VistaGriglia, TakesTheKeysOfAColumnAndNothingElse) {
     }
 }
 
-TEST_F(VistaGriglia, OpensTheEditorByF2AndByADoubleClick) {
+TEST_F(VistaGrigliaTest, OpensTheEditorByF2AndByADoubleClick) {
     tasto(Qt::Key_F2);
     EXPECT_TRUE(editore().isVisible());
     EXPECT_TRUE(editore().hasFocus());
@@ -234,7 +234,7 @@ TEST_F(VistaGriglia, OpensTheEditorByF2AndByADoubleClick) {
     EXPECT_EQ(cursore(), "2,3");
 }
 
-TEST_F(VistaGriglia, WritesTheEditorByEnterAndDropsItByEsc) {
+TEST_F(VistaGrigliaTest, WritesTheEditorByEnterAndDropsItByEsc) {
     tasto(Qt::Key_F2);
     scrivi("5");
     tasto(Qt::Key_Return);
@@ -249,7 +249,7 @@ TEST_F(VistaGriglia, WritesTheEditorByEnterAndDropsItByEsc) {
     EXPECT_TRUE(forma->isVisible());
 }
 
-TEST_F(VistaGriglia, WritesTheEditorWhenTheCursorGoesElsewhere) {
+TEST_F(VistaGrigliaTest, WritesTheEditorWhenTheCursorGoesElsewhere) {
     tasto(Qt::Key_F2);
     scrivi("5");
     clic(2, 2);
@@ -263,7 +263,7 @@ TEST_F(VistaGriglia, WritesTheEditorWhenTheCursorGoesElsewhere) {
     EXPECT_FALSE(editore().isVisible());
 }
 
-TEST_F(VistaGriglia, MovesInsideTheEditorByItsOwnKeys) {
+TEST_F(VistaGrigliaTest, MovesInsideTheEditorByItsOwnKeys) {
     tasto(Qt::Key_F2);
     tasto(Qt::Key_Home);
     scrivi("1");
@@ -275,7 +275,7 @@ TEST_F(VistaGriglia, MovesInsideTheEditorByItsOwnKeys) {
     EXPECT_EQ(cella(1, 1), "1.3");
 }
 
-TEST_F(VistaGriglia, KeepsTheArrowsInsideTheEditorAndOpensTheHelpFromIt) {
+TEST_F(VistaGrigliaTest, KeepsTheArrowsInsideTheEditorAndOpensTheHelpFromIt) {
     tasto(Qt::Key_F2);
     for (const auto quale : {Qt::Key_Left, Qt::Key_Up, Qt::Key_Down}) tasto(quale);
     EXPECT_TRUE(editore().isVisible());
@@ -289,7 +289,7 @@ TEST_F(VistaGriglia, KeepsTheArrowsInsideTheEditorAndOpensTheHelpFromIt) {
     EXPECT_FALSE(editore().isVisible());
 }
 
-TEST_F(VistaGriglia, LeavesAReadOnlyColumnAsItIs) {
+TEST_F(VistaGrigliaTest, LeavesAReadOnlyColumnAsItIs) {
     maschera.campi[1].soloLettura = true;
     scrivi("9");
     tasto(Qt::Key_F2);
@@ -298,7 +298,7 @@ TEST_F(VistaGriglia, LeavesAReadOnlyColumnAsItIs) {
     EXPECT_EQ(cella(1, 1), "3");
 }
 
-TEST_F(VistaGriglia, ShowsTheEndOfALongTextWhileItIsTyped) {
+TEST_F(VistaGrigliaTest, ShowsTheEndOfALongTextWhileItIsTyped) {
     maschera.campi[3].tipo = "/@";
     apri({"1", "1", "2", "", "0"});
     clic(1, 3);

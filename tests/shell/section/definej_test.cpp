@@ -290,7 +290,7 @@ TEST_F(FormaSezione, TellsInItsStripWhatTheFieldMeans) {
         campo.setFocus();
         EXPECT_EQ(aiuto().toStdString(), campiForma[i].aiuto);
         if (riquadro < 4) {
-            auto* schizzo = trova(riquadri[riquadro]).findChild<SectionSketchView*>();
+            auto* schizzo = trova(riquadri[riquadro]).findChild<VistaSchizzo*>();
             EXPECT_EQ(schizzo->evidenziato(), i);
         }
     }
@@ -302,7 +302,7 @@ TEST_F(FormaSezione, TellsInItsStripWhatTheFieldMeans) {
 
 TEST_F(FormaSezione, RedrawsTheSketchWhileANumberIsTyped) {
     apri();
-    auto& schizzo = *trova("Frame1").findChild<SectionSketchView*>();
+    auto& schizzo = *trova("Frame1").findChild<VistaSchizzo*>();
     const auto scritta = [&] {
         for (const auto& quota : schizzo.schizzo().quote)
             if (quota.campo == masks::campoSezione(&Sezione::spessoreDiaframma))
@@ -318,7 +318,7 @@ TEST_F(FormaSezione, RedrawsTheSketchWhileANumberIsTyped) {
 
 TEST_F(FormaSezione, TakesAClickOnADimensionToItsField) {
     apri();
-    auto& schizzo = *trova("Frame1").findChild<SectionSketchView*>();
+    auto& schizzo = *trova("Frame1").findChild<VistaSchizzo*>();
     for (const auto& quota : schizzo.schizzo().quote) {
         QTest::mouseClick(&schizzo, Qt::LeftButton, {},
                           schizzo.postoTesto(quota).center().toPoint());
@@ -331,7 +331,7 @@ TEST_F(FormaSezione, TakesAClickOnADimensionToItsField) {
 
 TEST_F(FormaSezione, PaintsTheDimensionOfTheFocusInAnotherColour) {
     apri();
-    auto& schizzo = *trova("Frame1").findChild<SectionSketchView*>();
+    auto& schizzo = *trova("Frame1").findChild<VistaSchizzo*>();
     const auto colorati = [&] {
         const QImage immagine = schizzo.grab().toImage();
         int quanti = 0;
@@ -354,7 +354,7 @@ TEST_F(FormaSezione, HasANameAndAHelpPage) {
         EXPECT_FALSE(trova(campo.controllo).accessibleName().isEmpty()) << campo.controllo;
     EXPECT_EQ(trova("Text2").accessibleName(), "Interasse ferri LATO VALLE");
     for (const char* riquadro : riquadri)
-        EXPECT_FALSE(trova(riquadro).findChild<SectionSketchView*>()->accessibleName().isEmpty());
+        EXPECT_FALSE(trova(riquadro).findChild<VistaSchizzo*>()->accessibleName().isEmpty());
 }
 
 TEST_F(FormaSezione, OpensOnTheProjectFromItsCommand) {
