@@ -116,16 +116,16 @@ std::size_t startOfText(std::string_view description) {
 
 // Calls `take` with each text that is translated; what it does to the text is put back.
 template <typename Take>
-void eachText(project::DatiProgetto& dati, Take take) {
+void eachText(project::DatiProgetto& data, Take take) {
     const auto piece = [&take](std::string& whole, std::size_t start) {
         std::string text = whole.substr(start);
         if (text.empty()) return;
         take(text);
         whole.replace(start, std::string::npos, text);
     };
-    for (int i = 1; i <= 6; ++i) piece(dati.titoli[i], 0);
-    for (int j = 1; j <= dati.nStrati; ++j)
-        piece(dati.descrStrato[j], startOfText(dati.descrStrato[j]));
+    for (int i = 1; i <= 6; ++i) piece(data.titoli[i], 0);
+    for (int j = 1; j <= data.nStrati; ++j)
+        piece(data.descrStrato[j], startOfText(data.descrStrato[j]));
 }
 
 const ExampleText* blockOf(const ExampleSource& source, std::string_view italian) {
@@ -140,9 +140,9 @@ std::vector<ExampleSource> readExampleSource(const std::string& path, std::strin
     return Reader(SourceLines(path, content)).all();
 }
 
-std::vector<std::string> exampleTexts(const project::DatiProgetto& dati) {
+std::vector<std::string> exampleTexts(const project::DatiProgetto& data) {
     std::vector<std::string> texts;
-    project::DatiProgetto copy = dati;
+    project::DatiProgetto copy = data;
     eachText(copy, [&texts](const std::string& text) {
         if (std::find(texts.begin(), texts.end(), text) == texts.end()) texts.push_back(text);
     });
@@ -162,9 +162,9 @@ void checkExampleNames(const std::string& path, const std::vector<ExampleSource>
 }
 
 void checkExample(const std::string& path, const ExampleSource& source,
-                  const project::DatiProgetto& dati) {
+                  const project::DatiProgetto& data) {
     const SourceLines lines(path, "");
-    const auto texts = exampleTexts(dati);
+    const auto texts = exampleTexts(data);
     for (const auto& text : texts)
         if (blockOf(source, text) == nullptr)
             lines.refuse(source.line, "attesa la traduzione di: " + text);
@@ -173,10 +173,10 @@ void checkExample(const std::string& path, const ExampleSource& source,
             lines.refuse(block.line, "atteso un testo dell'esempio " + source.name[0]);
 }
 
-project::DatiProgetto translatedExample(const ExampleSource& source, project::DatiProgetto dati,
+project::DatiProgetto translatedExample(const ExampleSource& source, project::DatiProgetto data,
                                         std::size_t index) {
-    eachText(dati, [&](std::string& text) { text = blockOf(source, text)->text[index]; });
-    return dati;
+    eachText(data, [&](std::string& text) { text = blockOf(source, text)->text[index]; });
+    return data;
 }
 
 }  // namespace korven::tools

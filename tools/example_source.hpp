@@ -34,7 +34,7 @@ struct ExampleSource {
 
 /// The texts of a project that are translated, each once: its headings, then the descriptions of
 /// its layers after the graphic code; the empty ones are left out.
-[[nodiscard]] std::vector<std::string> exampleTexts(const project::DatiProgetto& dati);
+[[nodiscard]] std::vector<std::string> exampleTexts(const project::DatiProgetto& data);
 
 /// Refuses blocks that do not go with the projects one to one.
 ///
@@ -50,13 +50,13 @@ void checkExampleNames(const std::string& path, const std::vector<ExampleSource>
 /// @throws base::ErroreFile: a text of the project that the block lacks, with the line of
 /// "@esempio"; a text that the project lacks, with its line
 void checkExample(const std::string& path, const ExampleSource& source,
-                  const project::DatiProgetto& dati);
+                  const project::DatiProgetto& data);
 
 /// The project in language `index` (from 0, in the order of the codes): its texts replaced, all
 /// else as it is.
 /// @pre `checkExample` has nothing to refuse
 [[nodiscard]] project::DatiProgetto translatedExample(const ExampleSource& source,
-                                                      project::DatiProgetto dati,
+                                                      project::DatiProgetto data,
                                                       std::size_t index);
 
 }  // namespace korven::tools

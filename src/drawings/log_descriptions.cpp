@@ -48,9 +48,9 @@ void scriviGiustificata(double x, double y, double larghezza, std::string_view r
 class BloccoDescrizione {
  public:
     BloccoDescrizione(std::string_view descrStrato, const Colonna& colonna,
-                      const markup::Misura& misura)
+                      const markup::TextMeasure& misura)
         : strato_(leggiDescrizione(descrStrato)), colonna_(colonna) {
-        righe_ = markup::adattaTesto(strato_.testo, larghezza(), misura);
+        righe_ = markup::fitText(strato_.testo, larghezza(), misura);
     }
 
     [[nodiscard]] double altezza() const { return altezzaBlocco(righe_.size(), altezzaTesto); }
@@ -85,7 +85,7 @@ class BloccoDescrizione {
 };
 
 BloccoDescrizione blocco(const Stratigrafia& stratigrafia, int i, const Colonna& colonna,
-                         const markup::Misura& misura) {
+                         const markup::TextMeasure& misura) {
     try {
         return {stratigrafia.dati.descrStrato[i], colonna, misura};
     } catch (const base::ErroreIndice& errore) {  // which of up to a hundred layers
@@ -97,7 +97,7 @@ BloccoDescrizione blocco(const Stratigrafia& stratigrafia, int i, const Colonna&
 // The texts of all layers, and their places.
 struct Disposizione {
     Disposizione(const Stratigrafia& stratigrafia, const Colonna& colonna,
-                 const markup::Misura& misura) {
+                 const markup::TextMeasure& misura) {
         for (int i = 1; i <= stratigrafia.dati.nStrati; ++i) {
             testi.push_back(blocco(stratigrafia, i, colonna, misura));
             blocchi.push_back({stratigrafia.yPiede(i), testi.back().altezza()});

@@ -6,7 +6,7 @@
 
 namespace korven::markup {
 
-CharacterWidths::CharacterWidths(Misura measure) : measure_(std::move(measure)) {
+CharacterWidths::CharacterWidths(TextMeasure measure) : measure_(std::move(measure)) {
     ascii_.fill(unknown);
 }
 

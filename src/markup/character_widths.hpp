@@ -15,7 +15,7 @@ namespace korven::markup {
 class CharacterWidths {
  public:
     /// @param measure  width of a text of one character
-    explicit CharacterWidths(Misura measure);
+    explicit CharacterWidths(TextMeasure measure);
 
     [[nodiscard]] double operator()(std::string_view utf8);
 
@@ -23,7 +23,7 @@ class CharacterWidths {
     [[nodiscard]] double widthOf(std::string_view character);
 
     static constexpr double unknown = -1;
-    Misura measure_;
+    TextMeasure measure_;
     std::array<double, 128> ascii_;
     std::map<std::string, double, std::less<>> others_;
 };

@@ -9,7 +9,7 @@ namespace {
 
 // How far the blanks before a cell and after it reach, from the left end of its column.
 struct Reach {
-    double before, behind;
+    double before, after;
 };
 
 Reach reachOf(BlockKind kind, double width) {
@@ -77,15 +77,15 @@ std::string PreviewRenderer::row(const FittedTable& fitted, BlockKind kind, int 
         else
             line = filledUpTo(std::move(line), ' ', cell, cursor + reach.before, measure_);
         line += cell;
-        line = filledUpTo(std::move(line), ' ', cell, cursor + reach.behind, measure_);
+        line = filledUpTo(std::move(line), ' ', cell, cursor + reach.after, measure_);
         cursor += width + columnGap;
     }
     return line;
 }
 
-void previewReport(const std::string& percorso, PreviewList& list) {
-    if (!base::esisteFile(percorso)) return;
-    auto file = base::LettoreRighe::apri(percorso);
+void previewReport(const std::string& path, PreviewList& list) {
+    if (!base::esisteFile(path)) return;
+    auto file = base::LettoreRighe::apri(path);
     PreviewRenderer renderer(list);
     renderMarkup(file, RendererKind::preview, renderer);
 }

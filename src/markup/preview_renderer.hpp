@@ -44,13 +44,13 @@ class PreviewRenderer : public MarkupReceiver {
     [[nodiscard]] std::string row(const FittedTable& fitted, BlockKind kind, int number, double x0);
 
     PreviewList& list_;
-    Misura measure_;
+    TextMeasure measure_;
     CellGrid grid_;
     LineRoom room_;
 };
 
 /// Shows a mark-up file. Does nothing if there is no such file.
 /// @throws ErroreFile for a table beyond 2000 rows, or 510 rows or 30 columns of the grid
-void previewReport(const std::string& percorso, PreviewList& list);
+void previewReport(const std::string& path, PreviewList& list);
 
 }  // namespace korven::markup

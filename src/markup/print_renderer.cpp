@@ -10,15 +10,15 @@ namespace {
 
 class WaitingPointer {
  public:
-    explicit WaitingPointer(base::Dialogo& dialogo) : dialogo_(dialogo) {
-        dialogo_.puntatore(base::Puntatore::clessidra);
+    explicit WaitingPointer(base::Dialogo& dialog) : dialog_(dialog) {
+        dialog_.puntatore(base::Puntatore::clessidra);
     }
     WaitingPointer(const WaitingPointer&) = delete;
     WaitingPointer& operator=(const WaitingPointer&) = delete;
-    ~WaitingPointer() { dialogo_.puntatore(base::Puntatore::normale); }
+    ~WaitingPointer() { dialog_.puntatore(base::Puntatore::normale); }
 
  private:
-    base::Dialogo& dialogo_;
+    base::Dialogo& dialog_;
 };
 
 }  // namespace
@@ -213,10 +213,10 @@ void PrintRenderer::listRow(const ScanState& state, const FittedTable& fitted, i
     endLine();
 }
 
-void printReport(const std::string& percorso, ReportPrinter& printer, base::Dialogo& dialogo) {
-    if (!base::esisteFile(percorso)) return;
-    const WaitingPointer waiting(dialogo);
-    auto file = base::LettoreRighe::apri(percorso);
+void printReport(const std::string& path, ReportPrinter& printer, base::Dialogo& dialog) {
+    if (!base::esisteFile(path)) return;
+    const WaitingPointer waiting(dialog);
+    auto file = base::LettoreRighe::apri(path);
     PrintRenderer renderer(printer);
     renderMarkup(file, RendererKind::print, renderer);
     renderer.finish();

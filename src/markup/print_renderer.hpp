@@ -53,7 +53,7 @@ class PrintRenderer : public MarkupReceiver {
     void listRow(const ScanState& state, const FittedTable& fitted, int row);
 
     ReportPrinter& printer_;
-    Misura measure_;
+    TextMeasure measure_;
     CellGrid grid_;
     ReportPage page_;
     ReportFont body_;
@@ -66,6 +66,6 @@ class PrintRenderer : public MarkupReceiver {
 /// Prints a mark-up file, with the pointer waiting meanwhile. Without such a file it does nothing.
 /// @throws ErroreFile for a table beyond 2000 rows, or 510 rows or 30 columns of the grid, and what
 ///         the printer throws
-void printReport(const std::string& percorso, ReportPrinter& printer, base::Dialogo& dialogo);
+void printReport(const std::string& path, ReportPrinter& printer, base::Dialogo& dialog);
 
 }  // namespace korven::markup

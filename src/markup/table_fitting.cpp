@@ -26,7 +26,7 @@ void align(CellGrid& grid, int column) {
     }
 }
 
-double widestOf(CellGrid& grid, int column, const Misura& measure) {
+double widestOf(CellGrid& grid, int column, const TextMeasure& measure) {
     double widest = 0;  // no text is narrower
     for (int row = 1; row <= grid.rowCount(); ++row)
         widest = std::max(widest, measure(grid.cell(row, column)));
@@ -35,7 +35,7 @@ double widestOf(CellGrid& grid, int column, const Misura& measure) {
 
 }  // namespace
 
-FittedTable fitColumns(CellGrid& grid, BlockKind kind, const Misura& measure) {
+FittedTable fitColumns(CellGrid& grid, BlockKind kind, const TextMeasure& measure) {
     for (int column = 1; column <= grid.columns(); ++column) align(grid, column);
     FittedTable fitted;
     for (int column = 1; column <= grid.columns(); ++column) {

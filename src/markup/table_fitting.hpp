@@ -26,6 +26,6 @@ enum class BlockKind { table, list };
 /// the widest of each column. Row 1 counts like the others. The grid keeps what was rewritten, also
 /// for a later table whose rows are short.
 /// @param measure  width of a text [points]
-[[nodiscard]] FittedTable fitColumns(CellGrid& grid, BlockKind kind, const Misura& measure);
+[[nodiscard]] FittedTable fitColumns(CellGrid& grid, BlockKind kind, const TextMeasure& measure);
 
 }  // namespace korven::markup

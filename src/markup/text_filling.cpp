@@ -19,7 +19,7 @@ std::string joined(const std::string& text, std::size_t count, char fill, std::s
 }  // namespace
 
 std::string filledUpTo(std::string text, char fill, std::string_view tail, double width,
-                       const Misura& measure) {
+                       const TextMeasure& measure) {
     const auto fallsShort = [&](std::size_t count) {
         return measure(joined(text, count, fill, tail)) < width;
     };
@@ -36,7 +36,7 @@ std::string filledUpTo(std::string text, char fill, std::string_view tail, doubl
     return joined(text, count, fill, {});
 }
 
-std::string dottedLeader(std::string_view label, double width, const Misura& measure) {
+std::string dottedLeader(std::string_view label, double width, const TextMeasure& measure) {
     return filledUpTo(std::string(label) + ' ', '.', {}, width, measure);
 }
 

@@ -14,10 +14,11 @@ namespace korven::markup {
 /// @param measure  in the unit of `width`; must not shrink as the text grows
 /// @return the text filled, without the tail
 [[nodiscard]] std::string filledUpTo(std::string text, char fill, std::string_view tail,
-                                     double width, const Misura& measure);
+                                     double width, const TextMeasure& measure);
 
 /// The label of a list: a blank after it, then points up to the width of its column, which lead the
 /// eye to the value.
-[[nodiscard]] std::string dottedLeader(std::string_view label, double width, const Misura& measure);
+[[nodiscard]] std::string dottedLeader(std::string_view label, double width,
+                                       const TextMeasure& measure);
 
 }  // namespace korven::markup

@@ -13,85 +13,84 @@ namespace korven::markup {
 
 namespace {
 
-constexpr char fineRiga = '|';
+constexpr char lineEnd = '|';
 
-void togliSpaziIniziali(std::string_view& testo) {
-    testo.remove_prefix(std::min(testo.find_first_not_of(' '), testo.size()));
+void skipBlanks(std::string_view& text) {
+    text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
 }
 
-class Adattamento {
+class Fitting {
  public:
-    Adattamento(std::string_view testo, double larghezza, const Misura& misura)
-        : resto_(testo), larghezza_(larghezza), misura_(misura) {}
+    Fitting(std::string_view text, double width, const TextMeasure& measure)
+        : rest_(text), width_(width), measure_(measure) {}
 
-    std::vector<std::string> righe() {
-        for (togliSpaziIniziali(resto_); !resto_.empty(); togliSpaziIniziali(resto_)) {
-            const std::string_view tratto = resto_.substr(0, resto_.find(fineRiga));
-            if (misura_(tratto) < larghezza_)
-                rigaIntera(tratto);
+    std::vector<std::string> lines() {
+        for (skipBlanks(rest_); !rest_.empty(); skipBlanks(rest_)) {
+            const std::string_view stretch = rest_.substr(0, rest_.find(lineEnd));
+            if (measure_(stretch) < width_)
+                wholeLine(stretch);
             else
-                rigaTagliata(tratto);
+                cutLine(stretch);
         }
-        return std::move(righe_);
+        return std::move(lines_);
     }
 
  private:
-    void aggiungi(std::string riga) {
-        if (righe_.size() == massimoRighe)
+    void add(std::string line) {
+        if (lines_.size() == maximumLines)
             throw base::ErroreIndice(
                 base::traduttore("la descrizione di uno strato ha più di 100 righe"));
-        righe_.push_back(std::move(riga));
+        lines_.push_back(std::move(line));
     }
 
-    // Goes on after `lunghezza` bytes, and after the line end if one follows.
-    void prosegui(std::size_t lunghezza) {
-        resto_.remove_prefix(lunghezza);
-        if (resto_.starts_with(fineRiga)) resto_.remove_prefix(1);
+    // Goes on after `length` bytes, and after the line end if one follows.
+    void goOn(std::size_t length) {
+        rest_.remove_prefix(length);
+        if (rest_.starts_with(lineEnd)) rest_.remove_prefix(1);
     }
 
-    void rigaIntera(std::string_view tratto) {
-        aggiungi(std::string(base::senzaSpaziEsterni(tratto)));
-        prosegui(tratto.size());
+    void wholeLine(std::string_view stretch) {
+        add(std::string(base::senzaSpaziEsterni(stretch)));
+        goOn(stretch.size());
     }
 
-    void rigaTagliata(std::string_view tratto) {
-        const std::string_view testa = tratto.substr(0, lunghezzaTesta(tratto));
-        std::string_view coda = tratto.substr(testa.size());
-        const bool dentroParola = !coda.empty() && !testa.ends_with(' ') && !coda.starts_with(' ');
-        aggiungi(std::string(base::senzaSpaziEsterni(testa)) + (dentroParola ? "-" : ""));
+    void cutLine(std::string_view stretch) {
+        const std::string_view head = stretch.substr(0, headLength(stretch));
+        std::string_view tail = stretch.substr(head.size());
+        const bool insideWord = !tail.empty() && !head.ends_with(' ') && !tail.starts_with(' ');
+        add(std::string(base::senzaSpaziEsterni(head)) + (insideWord ? "-" : ""));
         // Blanks before a line end are no line of their own.
-        togliSpaziIniziali(coda);
-        prosegui(tratto.size() - coda.size());
+        skipBlanks(tail);
+        goOn(stretch.size() - tail.size());
     }
 
     // Bytes of the syllables that the line takes: the last one that overran is taken back.
-    [[nodiscard]] std::size_t lunghezzaTesta(std::string_view tratto) const {
-        const auto lettere = caratteri(tratto);
-        std::span<const std::string_view> daDividere = lettere;
-        std::size_t testa = 0;
-        while (!daDividere.empty()) {
-            const auto pezzo = daDividere.first(std::min(sillaba(daDividere), daDividere.size()));
-            std::size_t nuova = testa;
-            for (const auto lettera : pezzo) nuova += lettera.size();
-            const bool entra = misura_(tratto.substr(0, nuova)) < larghezza_;
-            if (entra || testa == 0) testa = nuova;
-            if (!entra) break;
-            daDividere = daDividere.subspan(pezzo.size());
+    [[nodiscard]] std::size_t headLength(std::string_view stretch) const {
+        const auto letters = characters(stretch);
+        std::span<const std::string_view> undivided = letters;
+        std::size_t head = 0;
+        while (!undivided.empty()) {
+            const auto piece = undivided.first(std::min(syllable(undivided), undivided.size()));
+            std::size_t longer = head;
+            for (const auto letter : piece) longer += letter.size();
+            const bool fits = measure_(stretch.substr(0, longer)) < width_;
+            if (fits || head == 0) head = longer;
+            if (!fits) break;
+            undivided = undivided.subspan(piece.size());
         }
-        return testa;
+        return head;
     }
 
-    std::string_view resto_;
-    double larghezza_;
-    const Misura& misura_;
-    std::vector<std::string> righe_;
+    std::string_view rest_;
+    double width_;
+    const TextMeasure& measure_;
+    std::vector<std::string> lines_;
 };
 
 }  // namespace
 
-std::vector<std::string> adattaTesto(std::string_view testo, double larghezza,
-                                     const Misura& misura) {
-    return Adattamento(testo, larghezza, misura).righe();
+std::vector<std::string> fitText(std::string_view text, double width, const TextMeasure& measure) {
+    return Fitting(text, width, measure).lines();
 }
 
 }  // namespace korven::markup

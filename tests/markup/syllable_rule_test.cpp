@@ -5,49 +5,49 @@
 namespace korven::markup {
 namespace {
 
-std::size_t prima(std::string_view testo) { return sillaba(caratteri(testo)); }
+std::size_t first(std::string_view text) { return syllable(characters(text)); }
 
-TEST(Sillaba, EndsBetweenDoubleConsonants) {
-    EXPECT_EQ(prima("sabbia"), 3u) << "sab-bia";
-    EXPECT_EQ(prima("SABBIA"), 3u);
-    EXPECT_EQ(prima("ghiacciaio"), 5u) << "ghiac-ciaio";
-    EXPECT_EQ(prima("sBbia"), 5u) << "capital and small letter are no double";
+TEST(Syllable, EndsBetweenDoubleConsonants) {
+    EXPECT_EQ(first("sabbia"), 3u) << "sab-bia";
+    EXPECT_EQ(first("SABBIA"), 3u);
+    EXPECT_EQ(first("ghiacciaio"), 5u) << "ghiac-ciaio";
+    EXPECT_EQ(first("sBbia"), 5u) << "capital and small letter are no double";
 }
 
-TEST(Sillaba, EndsBeforeAConsonantBetweenVowels) {
-    EXPECT_EQ(prima("limosa"), 2u) << "li-mosa";
-    EXPECT_EQ(prima("mosa"), 2u);
-    EXPECT_EQ(prima("OSA"), 1u);
+TEST(Syllable, EndsBeforeAConsonantBetweenVowels) {
+    EXPECT_EQ(first("limosa"), 2u) << "li-mosa";
+    EXPECT_EQ(first("mosa"), 2u);
+    EXPECT_EQ(first("OSA"), 1u);
 }
 
-TEST(Sillaba, DoesNotEndBeforeTwoConsonants) {
-    EXPECT_EQ(prima("argilla"), 5u) << "the double l is the first place, not the r";
-    EXPECT_EQ(prima("conglomerato"), 6u) << "conglo-merato";
+TEST(Syllable, DoesNotEndBeforeTwoConsonants) {
+    EXPECT_EQ(first("argilla"), 5u) << "the double l is the first place, not the r";
+    EXPECT_EQ(first("conglomerato"), 6u) << "conglo-merato";
 }
 
-TEST(Sillaba, IsTheWholeWordWhereNoRuleApplies) {
-    EXPECT_EQ(prima("ghiaia"), 6u);
-    EXPECT_EQ(prima("ghiaia fine"), 6u) << "up to the blank";
+TEST(Syllable, IsTheWholeWordWhereNoRuleApplies) {
+    EXPECT_EQ(first("ghiaia"), 6u);
+    EXPECT_EQ(first("ghiaia fine"), 6u) << "up to the blank";
 }
 
-TEST(Sillaba, TakesABlankAlone) {
-    EXPECT_EQ(prima(" fine"), 1u);
-    EXPECT_EQ(prima("a fine"), 1u);
+TEST(Syllable, TakesABlankAlone) {
+    EXPECT_EQ(first(" fine"), 1u);
+    EXPECT_EQ(first("a fine"), 1u);
 }
 
-TEST(Sillaba, LooksOnlyAtTheLettersOfTheRule) {
-    EXPECT_EQ(prima("hhhh"), 4u) << "h is never doubled";
-    EXPECT_EQ(prima("axe"), 1u) << "any sign that is no vowel may stand between two";
-    EXPECT_EQ(prima("wxyk"), 4u);
+TEST(Syllable, LooksOnlyAtTheLettersOfTheRule) {
+    EXPECT_EQ(first("hhhh"), 4u) << "h is never doubled";
+    EXPECT_EQ(first("axe"), 1u) << "any sign that is no vowel may stand between two";
+    EXPECT_EQ(first("wxyk"), 4u);
 }
 
-TEST(Sillaba, CountsCharactersNotBytes) {
-    EXPECT_EQ(prima("così"), 4u) << "an accented letter is no vowel of the rule";
-    EXPECT_EQ(prima("più"), 3u);
-    EXPECT_EQ(prima("àmmo"), 2u);
+TEST(Syllable, CountsCharactersNotBytes) {
+    EXPECT_EQ(first("così"), 4u) << "an accented letter is no vowel of the rule";
+    EXPECT_EQ(first("più"), 3u);
+    EXPECT_EQ(first("àmmo"), 2u);
 }
 
-TEST(Sillaba, OfNothingIsOneMoreThanItsLength) { EXPECT_EQ(prima(""), 1u); }
+TEST(Syllable, OfNothingIsOneMoreThanItsLength) { EXPECT_EQ(first(""), 1u); }
 
 }  // namespace
 }  // namespace korven::markup

@@ -11,7 +11,7 @@ double fives(std::string_view text) { return 5.0 * static_cast<double>(text.size
 
 // What the text is to become, blank by blank.
 std::string byHand(std::string text, char fill, std::string_view tail, double width,
-                   const Misura& measure) {
+                   const TextMeasure& measure) {
     while (measure(std::string(text).append(tail)) < width) text += fill;
     return text;
 }
@@ -35,7 +35,7 @@ TEST(FilledUpTo, EndsThoughTheFillHasNoWidth) {
 
 TEST(FilledUpTo, GivesWhatFillingOneByOneGivesAlsoWhereNeighboursOverlap) {
     // Pairs of characters stand closer than alone, as in a face with kerning.
-    const Misura kerned = [](std::string_view text) {
+    const TextMeasure kerned = [](std::string_view text) {
         double width = 0;
         for (std::size_t i = 0; i < text.size(); ++i)
             width += 3.7 + 0.1 * (text[i] % 7) - (i > 0 ? 0.05 * (text[i - 1] % 5) : 0);

@@ -11,96 +11,94 @@
 namespace korven::markup {
 namespace {
 
-using Righe = std::vector<std::string>;
+using Lines = std::vector<std::string>;
 
 // Every character is one unit wide.
-double caratteriLarga(std::string_view testo) {
-    return static_cast<double>(base::numeroCaratteri(testo));
+double characterWide(std::string_view text) {
+    return static_cast<double>(base::numeroCaratteri(text));
 }
 
-Righe adatta(std::string_view testo, double larghezza) {
-    return adattaTesto(testo, larghezza, caratteriLarga);
+Lines fitted(std::string_view text, double width) { return fitText(text, width, characterWide); }
+
+TEST(FitText, LeavesAShortTextInOneLine) {
+    EXPECT_EQ(fitted("sabbia limosa", 14), Lines{"sabbia limosa"});
+    EXPECT_EQ(fitted("  sabbia", 14), Lines{"sabbia"});
 }
 
-TEST(AdattaTesto, LeavesAShortTextInOneLine) {
-    EXPECT_EQ(adatta("sabbia limosa", 14), Righe{"sabbia limosa"});
-    EXPECT_EQ(adatta("  sabbia", 14), Righe{"sabbia"});
+TEST(FitText, OfNothingHasNoLines) {
+    EXPECT_TRUE(fitted("", 10).empty());
+    EXPECT_TRUE(fitted("   ", 10).empty());
 }
 
-TEST(AdattaTesto, OfNothingHasNoLines) {
-    EXPECT_TRUE(adatta("", 10).empty());
-    EXPECT_TRUE(adatta("   ", 10).empty());
+TEST(FitText, AForcedLineEndBetweenTwoWordsGivesTwoLinesWithoutHyphen) {
+    EXPECT_EQ(fitted("sabbia|ghiaia", 20), (Lines{"sabbia", "ghiaia"}));
+    EXPECT_EQ(fitted("sabbia | ghiaia|", 20), (Lines{"sabbia", "ghiaia"}));
 }
 
-TEST(AdattaTesto, AForcedLineEndBetweenTwoWordsGivesTwoLinesWithoutHyphen) {
-    EXPECT_EQ(adatta("sabbia|ghiaia", 20), (Righe{"sabbia", "ghiaia"}));
-    EXPECT_EQ(adatta("sabbia | ghiaia|", 20), (Righe{"sabbia", "ghiaia"}));
+TEST(FitText, TwoForcedLineEndsInARowLeaveALineEmpty) {
+    EXPECT_EQ(fitted("sabbia||ghiaia", 20), (Lines{"sabbia", "", "ghiaia"}));
+    EXPECT_EQ(fitted("|ghiaia", 20), (Lines{"", "ghiaia"}));
 }
 
-TEST(AdattaTesto, TwoForcedLineEndsInARowLeaveALineEmpty) {
-    EXPECT_EQ(adatta("sabbia||ghiaia", 20), (Righe{"sabbia", "", "ghiaia"}));
-    EXPECT_EQ(adatta("|ghiaia", 20), (Righe{"", "ghiaia"}));
+TEST(FitText, AWordWithoutAPlaceToPartOverrunsTheColumn) {
+    EXPECT_EQ(fitted("ghiaia", 4), Lines{"ghiaia"});
+    EXPECT_EQ(fitted("ghiaia fine", 5), (Lines{"ghiaia", "fine"}));
 }
 
-TEST(AdattaTesto, AWordWithoutAPlaceToPartOverrunsTheColumn) {
-    EXPECT_EQ(adatta("ghiaia", 4), Righe{"ghiaia"});
-    EXPECT_EQ(adatta("ghiaia fine", 5), (Righe{"ghiaia", "fine"}));
+TEST(FitText, PartsWordsWithAHyphen) {
+    EXPECT_EQ(fitted("sabbia", 5), (Lines{"sab-", "bia"}));
+    EXPECT_EQ(fitted("argilla", 6), (Lines{"argil-", "la"}));
 }
 
-TEST(AdattaTesto, PartsWordsWithAHyphen) {
-    EXPECT_EQ(adatta("sabbia", 5), (Righe{"sab-", "bia"}));
-    EXPECT_EQ(adatta("argilla", 6), (Righe{"argil-", "la"}));
-}
-
-TEST(AdattaTesto, TakesAsManySyllablesAsStayNarrowerThanTheColumn) {
+TEST(FitText, TakesAsManySyllablesAsStayNarrowerThanTheColumn) {
     // 9: "sabbia " has 7, with "li" it would have 9 and be as wide as the column.
-    EXPECT_EQ(adatta("sabbia limosa fine", 9), (Righe{"sabbia", "limosa", "fine"}));
-    EXPECT_EQ(adatta("sabbia limosa fine", 10), (Righe{"sabbia li-", "mosa fine"}));
+    EXPECT_EQ(fitted("sabbia limosa fine", 9), (Lines{"sabbia", "limosa", "fine"}));
+    EXPECT_EQ(fitted("sabbia limosa fine", 10), (Lines{"sabbia li-", "mosa fine"}));
 }
 
-TEST(AdattaTesto, ATextAsWideAsTheColumnIsCut) {
-    EXPECT_EQ(adatta("sabbia", 6), (Righe{"sab-", "bia"}));
-    EXPECT_EQ(adatta("sabbia", 6.5), Righe{"sabbia"});
+TEST(FitText, ATextAsWideAsTheColumnIsCut) {
+    EXPECT_EQ(fitted("sabbia", 6), (Lines{"sab-", "bia"}));
+    EXPECT_EQ(fitted("sabbia", 6.5), Lines{"sabbia"});
 }
 
-TEST(AdattaTesto, ALineEndBehindACutLineIsNoLineOfItsOwn) {
-    EXPECT_EQ(adatta("ghiaia|fine", 5), (Righe{"ghiaia", "fine"}));
-    EXPECT_EQ(adatta("ghiaia  |fine", 5), (Righe{"ghiaia", "fine"}));
-    EXPECT_EQ(adatta("ghiaia||fine", 5), (Righe{"ghiaia", "", "fine"}));
+TEST(FitText, ALineEndAfterACutLineIsNoLineOfItsOwn) {
+    EXPECT_EQ(fitted("ghiaia|fine", 5), (Lines{"ghiaia", "fine"}));
+    EXPECT_EQ(fitted("ghiaia  |fine", 5), (Lines{"ghiaia", "fine"}));
+    EXPECT_EQ(fitted("ghiaia||fine", 5), (Lines{"ghiaia", "", "fine"}));
 }
 
-TEST(AdattaTesto, ALineEndIsNeverPartOfASyllable) {
+TEST(FitText, ALineEndIsNeverPartOfASyllable) {
     // Without that "ghiaia|sab" would be one, up to the double consonant.
-    EXPECT_EQ(adatta("ghiaia|sabbia", 5), (Righe{"ghiaia", "sab-", "bia"}));
+    EXPECT_EQ(fitted("ghiaia|sabbia", 5), (Lines{"ghiaia", "sab-", "bia"}));
 }
 
-TEST(AdattaTesto, MeasuresCharactersWithAccentsAsOne) {
-    EXPECT_EQ(adatta("città più", 10), Righe{"città più"});
-    EXPECT_EQ(adatta("città", 5), (Righe{"cit-", "tà"}));
+TEST(FitText, MeasuresCharactersWithAccentsAsOne) {
+    EXPECT_EQ(fitted("città più", 10), Lines{"città più"});
+    EXPECT_EQ(fitted("città", 5), (Lines{"cit-", "tà"}));
 }
 
-TEST(AdattaTesto, HoldsAHundredLinesAndNoMore) {
-    std::string testo;
-    for (int i = 0; i < 99; ++i) testo += "a|";
-    EXPECT_EQ(adatta(testo + "a", 10).size(), 100u);
-    EXPECT_THROW((void)adatta(testo + "a|a", 10), base::ErroreIndice);
+TEST(FitText, HoldsAHundredLinesAndNoMore) {
+    std::string text;
+    for (int i = 0; i < 99; ++i) text += "a|";
+    EXPECT_EQ(fitted(text + "a", 10).size(), 100u);
+    EXPECT_THROW((void)fitted(text + "a|a", 10), base::ErroreIndice);
 }
 
-TEST(AdattaTesto, LosesNoLetterOfAnyText) {
-    constexpr std::string_view lettere = "aeioabcrlst |à";
-    std::mt19937 caso(54);
-    std::uniform_int_distribution<std::size_t> quale(0, lettere.size() - 1), lungo(0, 80);
-    std::uniform_real_distribution<double> larghezza(0, 15);
-    const auto soloLettere = [](std::string testo) {
-        std::erase_if(testo, [](char c) { return c == ' ' || c == '|' || c == '-'; });
-        return testo;
+TEST(FitText, LosesNoLetterOfAnyText) {
+    constexpr std::string_view letters = "aeioabcrlst |à";
+    std::mt19937 random(54);
+    std::uniform_int_distribution<std::size_t> which(0, letters.size() - 1), length(0, 80);
+    std::uniform_real_distribution<double> width(0, 15);
+    const auto lettersOnly = [](std::string text) {
+        std::erase_if(text, [](char c) { return c == ' ' || c == '|' || c == '-'; });
+        return text;
     };
-    for (int prova = 0; prova < 500; ++prova) {
-        std::string testo;
-        for (std::size_t n = lungo(caso); n > 0; --n) testo += lettere[quale(caso)];
-        std::string righe;
-        for (const auto& riga : adatta(testo, larghezza(caso))) righe += riga;
-        EXPECT_EQ(soloLettere(righe), soloLettere(testo));
+    for (int trial = 0; trial < 500; ++trial) {
+        std::string text;
+        for (std::size_t n = length(random); n > 0; --n) text += letters[which(random)];
+        std::string lines;
+        for (const auto& line : fitted(text, width(random))) lines += line;
+        EXPECT_EQ(lettersOnly(lines), lettersOnly(text));
     }
 }
 
