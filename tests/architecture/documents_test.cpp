@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <cctype>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -63,6 +64,58 @@ TEST(Documents, OfTheArchitectureNameFilesThatExist) {
         if (path.starts_with("tests/") || path.starts_with("src/")) continue;
         const bool there = fs::exists(source / path) || fs::exists(source / (path + ".hpp"));
         EXPECT_TRUE(there) << path;
+    }
+}
+
+// The names of what a header declares outside of all types: types and functions.
+struct Declared {
+    std::set<std::string> types;
+    std::string all;  // in small letters, each after a blank
+};
+
+std::string plain(std::string name) {
+    std::erase(name, '_');
+    for (char& c : name) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+    return name;
+}
+
+Declared declaredIn(const fs::path& header) {
+    const std::regex type("^(?:enum class|class|struct) (\\w+)[^;]*\\{.*");
+    const std::regex function("^(?:\\[\\[nodiscard\\]\\] )?\\w[\\w:<>&* ]* (\\w+)\\(.*");
+    Declared declared;
+    std::ifstream file(header);
+    for (std::string line; std::getline(file, line);) {
+        std::smatch found;
+        const bool isType = std::regex_match(line, found, type);
+        if (!isType && !std::regex_match(line, found, function)) continue;
+        if (isType) declared.types.insert(found[1]);
+        declared.all += ' ' + plain(found[1]);
+    }
+    return declared;
+}
+
+TEST(Documents, OfTheGlossaryPairEveryFileWithATypeThatItDeclares) {
+    const fs::path source = KORVEN_SOURCE;
+    const auto rows = found(contentOf(fs::path(KORVEN_DOCS) / "glossary.md"),
+                            std::regex("\\| `([\\w/]+\\.hpp)` \\| `(\\w+)` \\|"), "|");
+    EXPECT_GT(rows.size(), 100u);
+    std::set<std::string> files;
+    for (const auto& row : rows) {
+        const std::string file = row.substr(0, row.find('|'));
+        files.insert(file);
+        ASSERT_TRUE(fs::exists(source / file)) << file;
+        const auto declared = declaredIn(source / file);
+        EXPECT_TRUE(declared.types.contains(row.substr(file.size() + 1))) << row;
+    }
+    for (const auto& entry : fs::recursive_directory_iterator(source)) {
+        const std::string file = fs::relative(entry.path(), source).generic_string();
+        if (!file.ends_with(".hpp") || file.starts_with("markup") || file.starts_with("outdoc"))
+            continue;
+        const auto declared = declaredIn(entry.path());
+        const bool sameName =
+            declared.all.find(plain(entry.path().stem().string())) != std::string::npos;
+        EXPECT_TRUE(declared.types.empty() || sameName || files.contains(file))
+            << "docs/glossary.md has no row for " << file;
     }
 }
 
