@@ -7,7 +7,7 @@
 namespace korven::analysis {
 namespace {
 
-// Row 2 is what a table of two anchors left behind when the second was taken out.
+// Row 2 is what a table of two anchors left when the second was taken out.
 project::DatiProgetto unTiranteDiDue(double inOpera) {
     return test::muro()
         .tirante(2, 500)

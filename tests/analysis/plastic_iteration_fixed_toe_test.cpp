@@ -157,7 +157,7 @@ TEST_F(PiedeIncastrato, ExtrapolatesTheMomentAtTheToeFromTheIterationBefore) {
     EXPECT_NE(corsa->momentoNodo[nNodi - 1], vicino);
 }
 
-// The toe is an inner node of the grown system, and the shear stands at the middle of a node's
+// The toe is an inner node of the grown system, and the shear is that at the middle of a node's
 // pressure: half of the toe's reaction lies below it.
 TEST_F(PiedeIncastrato, HoldsHalfOfTheToesReactionInTheLastShear) {
     itera(*corsa);

@@ -39,7 +39,7 @@ project::DatiProgetto progettoDiFasi(int nFasi, double vincoloPiede = 1) {
     return dati;
 }
 
-// Lines of the result file behind its head.
+// Lines of the result file after its head.
 std::vector<std::string> codaDi(const Banco& banco, const project::DatiProgetto& testa) {
     auto tutte = righe(contenuto(banco.risultati()));
     const auto n = righe(project::testoProgetto(testa)).size();

@@ -248,7 +248,7 @@ TEST(RisolviFase, SolvesTheSameDepthTwiceWithAnotherWaterLevel) {
 }
 
 // A stage that is still in its first iteration leaves the toe's moment as the stage before makes
-// it: 2 M(n-1) - M(n-2) of the values that stood there.
+// it: 2 M(n-1) - M(n-2) of the values found there.
 TEST(RisolviFase, ExtrapolatesTheMomentAtAFixedToeFromTheStageBeforeWhenOneIterationIsEnough) {
     auto dati = muroElastico(1000);
     dati.vincoloPiede = 3;

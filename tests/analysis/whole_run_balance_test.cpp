@@ -1,4 +1,4 @@
-// Equilibrium of whole runs, stage by stage, from what stands in the result file.
+// Equilibrium of whole runs, stage by stage, from what is in the result file.
 
 #include <gtest/gtest.h>
 

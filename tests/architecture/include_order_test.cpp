@@ -45,8 +45,8 @@ const std::vector<std::pair<std::string, std::set<std::string>>> outside = {
     {"zlib.h", {"outdoc"}},
 };
 
-// The headers of the operating system that stand beside the standard library: files, terminals and
-// signals, processes.
+// The headers of the operating system that are used beside the standard library: files, terminals
+// and signals, processes.
 const std::map<std::string, std::set<std::string>> operatingSystem = {
     {"poll.h", {"batch"}},    {"unistd.h", {"base", "batch"}}, {"fcntl.h", {"base"}},
     {"sys/stat.h", {"base"}}, {"signal.h", {"batch"}},         {"spawn.h", {"base"}},

@@ -24,7 +24,7 @@ TEST(ConFormaDi, UpperAndMixedModelsGiveUpperCase) {
 TEST(ConFormaDi, FirstCharacterWithoutCaseCountsAsLowerCase) {
     EXPECT_EQ(conFormaDi("&apri", "&Open"), "&open");
     EXPECT_EQ(conFormaDi("3 fasi", "3 Stages"), "3 stages");
-    EXPECT_EQ(conFormaDi("&Apri", "&Open"), "&OPEN");  // the A stands behind the first character
+    EXPECT_EQ(conFormaDi("&Apri", "&Open"), "&OPEN");  // the A comes after the first character
 }
 
 TEST(ConFormaDi, EmptyModelOrTextDoesNoHarm) {

@@ -201,7 +201,7 @@ TEST(AccodaFile, AddsBehindWhatStands) {
     EXPECT_THROW(accodaFile(cartella / "g", "x"), ErroreScrittura);
 }
 
-// The first bytes still fit; they must not stay behind.
+// The first bytes still fit; they must not stay.
 TEST(AccodaFile, TellsThatTheDiskTakesNoMoreAndCutsTheFileBack) {
     const CartellaProvvisoria cartella;
     const std::string prima(3000, 'p');

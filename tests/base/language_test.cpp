@@ -29,7 +29,7 @@ TEST(SiglaDisponibile, FallsBackStepByStepEachTestingTheResultOfTheOneBefore) {
     EXPECT_EQ(scelta("deu", {"ita", "fra"}), "fra");
     EXPECT_EQ(scelta("deu", {"ita", "esp"}), "esp");
     EXPECT_EQ(scelta("deu", {"ita"}), "ita");
-    EXPECT_EQ(scelta("fra", {"ita", "eng"}), "ita");  // the step to English lies behind it
+    EXPECT_EQ(scelta("fra", {"ita", "eng"}), "ita");  // the step to English comes after it
     EXPECT_EQ(scelta("por", {"ita", "esp"}), "esp");
     EXPECT_EQ(scelta("por", {"ita", "eng"}), "ita");
     EXPECT_EQ(scelta("esp", {"eng"}), "ita");

@@ -174,7 +174,7 @@ TEST_F(ProgramTexts, AddedTextsStandBehindTheTableWhoseSizeIsFixed) {
     EXPECT_EQ(tabellaTesti.nTesti, 2);
     EXPECT_EQ(testiAggiunti.nTesti, 2);
     impostaLingua(tedesco);
-    EXPECT_EQ(traduttore("MARGINE"), "MARGIN");  // English stands in, in the form of the key
+    EXPECT_EQ(traduttore("MARGINE"), "MARGIN");  // English takes its place, in the form of the key
     impostaLingua(inglese);
     EXPECT_EQ(traduttore("Zeta"), "Zed");  // the first table goes before
     EXPECT_EQ(traduttore("Manca"), "Manca");

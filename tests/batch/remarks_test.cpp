@@ -93,7 +93,7 @@ TEST_F(Rilievi, TellAWallTooShortAsTheRunDoes) {
 
 TEST_F(Rilievi, TellAValueThatNoReportCouldShowAsTheReportDoes) {
     auto d = test::progettoSemplice();
-    d.sforzoNormale = 1e308;  // stands in no report
+    d.sforzoNormale = 1e308;  // is in no report
     scrivi(d);
     EXPECT_EQ(esegui("verifica").codice, 1);
     const auto esito = esegui("relazione");

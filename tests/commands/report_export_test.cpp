@@ -292,7 +292,7 @@ TEST_F(ReportExport, RunsNoConverterOfTheProgramFolder) {
               Lines{"esegui " + base::cartellaEseguibile() + "/outdoc [" + report + "]"});
 }
 
-// A converter that ends well and leaves what stood there has made nothing.
+// A converter that ends well and leaves the earlier file has made nothing.
 TEST_F(ReportExport, TakesADocumentThatWasThereBeforeForNone) {
     test::metti(doc, "vecchio");
     EXPECT_THROW((void)scriviDocumento(report, programs, "outdoc"), base::ErroreFile);

@@ -33,7 +33,7 @@ TEST(DisponiBlocchi, SetsTheLastBlockOnTheFootOfTheTableAndPushesUpWhatOverlaps)
 }
 
 TEST(DisponiBlocchi, StopsPushingUpAtTheFirstBlockThatHasRoom) {
-    // The second stands clear above the third, so the first two stay as they were.
+    // The second is clear above the third, so the first two stay as they were.
     aspetta(disponiBlocchi({{10.5, 1}, {10, 1}, {2, 1}, {1, 1.5}}, 21, 1), {10.5, 9.5, 2.5, 1});
 }
 

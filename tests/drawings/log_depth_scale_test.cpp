@@ -56,7 +56,7 @@ TEST_F(StratigrafiaScala, StopsTheLastBlockAtTheLastLayer) {
     disegna();
     EXPECT_EQ(numeri(), (Linee{"1", "2", "3", "4", "5", "6", "7"}));
     EXPECT_EQ(traverse(), 8);
-    // 7 m lie at 21 - 700 / 37.5; the eighth block stands on the left.
+    // 7 m lie at 21 - 700 / 37.5; the eighth block is on the left.
     EXPECT_TRUE(tracciata(4, "18.080 2.333, 18.080 1.000"));
     EXPECT_TRUE(tracciata(4, "17.500 1.000, 18.500 1.000"));
 }

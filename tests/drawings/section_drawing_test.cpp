@@ -237,7 +237,7 @@ TEST_F(Sezione, OfReinforcedPilesHasARingOfBarsAndAStirrupInEach) {
     EXPECT_EQ(quantiDi(2.5), 3);
     EXPECT_EQ(quantiDi(0.06), 36);
     EXPECT_EQ(quantiDi(2.22), 3) << "(50 - 6 + 0.4) cm";
-    // The first bar of the middle pile stands at angle 0, on the radius 50 - 6 - 1.2 cm.
+    // The first bar of the middle pile is at angle 0, on the radius 50 - 6 - 1.2 cm.
     const auto tutti = cerchi();
     EXPECT_TRUE(std::any_of(tutti.begin(), tutti.end(), [](const Cerchio& c) {
         return std::fabs(c.x - 12.14) < 1e-9 && std::fabs(c.y - 13) < 1e-9;

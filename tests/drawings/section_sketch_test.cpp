@@ -238,7 +238,7 @@ TEST(SectionSketch, FallsBackToTheExampleWhereValuesDoNotFitEachOther) {
               misura(senzaParete, &Sezione::paliDiamEst));
 }
 
-// Where a text stands; the letters of the fonts in use are narrower than this.
+// The place of a text; the letters of the fonts in use are narrower than this.
 struct Posto {
     double x1, x2, y1, y2;
 };

@@ -91,7 +91,7 @@ TEST_P(Esempio, HasHeadingsAndLayersWithAHatchOfTheLibraryAndAName) {
     }
 }
 
-// The headings of the log stand so close that of lines next to each other the upper one is cut.
+// The headings of the log are so close that of lines next to each other the upper one is cut.
 TEST_P(Esempio, LeavesEmptyTheHeadingsThatWouldTouchInTheLog) {
     const DatiProgetto dati = leggi(GetParam());
     EXPECT_FALSE(dati.titoli[4].empty());
@@ -117,7 +117,7 @@ TEST(Esempi, ShowNothingOddInHeadingsAndDescriptionsInAnyLanguage) {
     EXPECT_EQ(letti, 42);
 }
 
-// Their labels would stand one over the other in the first diagram that a new user sees.
+// Their labels would lie one over the other in the first diagram that a new user sees.
 TEST(Esempi, TheFirstOneDigsDeeperInEachStage) {
     const DatiProgetto dati = leggi("diaframma_due_ordini");
     for (int k = 1; k <= dati.nFasi; ++k) EXPECT_GT(dati.profFase[k], dati.profFase[k - 1]) << k;

@@ -67,18 +67,18 @@ TEST(PreviewRenderer, AlignsTheColumnsOfATableRightWhateverTheirStyle) {
         expected);
 }
 
-// The blanks behind a cell are measured with the cell a second time: only where that is short of
-// the next column do they come, so behind an empty cell.
+// The blanks after a cell are measured with the cell a second time: only where that is short of the
+// next column do they come, so after an empty cell.
 TEST(PreviewRenderer, PadsBehindACellThatIsNarrowerThanTheGap) {
-    // Column 1 is 25 wide. Behind "abcde" 35 + 25 is enough for 39.17; behind nothing 35 is not.
+    // Column 1 is 25 wide. After "abcde" 35 + 25 is enough for 39.17; after nothing 35 is not.
     const auto lines = shown({"#STARTTABLE", "abcde\tb", "\tb", "#ENDTABLE"});
     ASSERT_EQ(lines.size(), 2u);
     EXPECT_EQ(lines[0], "  abcde   b");  // 39.17 + 5 + 7.09 = 51.26 -> 55
-    EXPECT_EQ(lines[1], "          b");  // 40 behind column 1, then 2 blanks to 55
+    EXPECT_EQ(lines[1], "          b");  // 40 after column 1, then 2 blanks to 55
 }
 
 TEST(PreviewRenderer, PlacesATableWholeByTheAlignment) {
-    // One column of 15: 29.17 with its gap, begins at 235.41 -> 240. The cell ends at or behind
+    // One column of 15: 29.17 with its gap, begins at 235.41 -> 240. The cell ends at or after
     // 235.41 + 22.09 = 257.5 -> 260.
     EXPECT_EQ(shown({"#CENTER", "#STARTTABLE", "aaa", "#ENDTABLE"}),
               Lines{std::string(49, ' ') + "aaa"});

@@ -69,7 +69,7 @@ TEST(PrintedTable, AlignsLeftTheColumnsThatTheStyleNames) {
     ASSERT_EQ(record.onPage(1), "Head|aaaa|b|c|dddd|a|b|c|d|Foot");
     EXPECT_NEAR(record.texts[5].x, 56 + 0.25 * u, tolerance);
     EXPECT_NEAR(record.texts[6].x, 56 + 20 + 0.5 * u + 0.25 * u, tolerance);
-    // Columns of 20, 5, 5 and 20; the fourth stands right.
+    // Columns of 20, 5, 5 and 20; the fourth is aligned right.
     EXPECT_NEAR(record.texts[8].x, 56 + 30 + 1.5 * u + 0.25 * u + 15, tolerance);
 }
 

@@ -34,7 +34,7 @@ TEST(FilledUpTo, EndsThoughTheFillHasNoWidth) {
 }
 
 TEST(FilledUpTo, GivesWhatFillingOneByOneGivesAlsoWhereNeighboursOverlap) {
-    // Pairs of characters stand closer than alone, as in a face with kerning.
+    // Pairs of characters are closer than each alone, as in a face with kerning.
     const TextMeasure kerned = [](std::string_view text) {
         double width = 0;
         for (std::size_t i = 0; i < text.size(); ++i)

@@ -43,7 +43,7 @@ TEST_F(ModelloCampiTest, LeadsFromTheLabelWithDotsUpTo120Characters) {
 
 TEST_F(ModelloCampiTest, TakesTheDotsFromATitleThenTheBlanks) {
     EXPECT_EQ(modello.titoloMessaggio(2), "Lunghezza [m]");
-    maschera.campi[2].etichetta = "Prof.";  // its own dot stands before a blank
+    maschera.campi[2].etichetta = "Prof.";  // its own dot comes before a blank
     EXPECT_EQ(modello.titoloMessaggio(2), "Prof.");
     maschera.campi[2].etichetta = std::string(118, 'x') + "..";
     EXPECT_EQ(modello.titoloMessaggio(2), std::string(118, 'x') + "..");

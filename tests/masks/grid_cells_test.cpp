@@ -39,7 +39,7 @@ TEST(CelleGriglia, InsertARowInsideTheData) {
     EXPECT_EQ(celle.impacchettate(), (Testi{"2", "1", "a", "2", "b"}));
     EXPECT_FALSE(celle.haDati(2));
     EXPECT_EQ(celle.testo(3, 2), "b");
-    EXPECT_FALSE(celle.inserisci(4));  // behind the data
+    EXPECT_FALSE(celle.inserisci(4));  // after the data
 }
 
 TEST(CelleGriglia, InsertNoRowWhenTheLastOneIsFull) {

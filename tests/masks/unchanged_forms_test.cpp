@@ -1,5 +1,5 @@
 // A form that is opened and confirmed without an edit changes no data, whatever the numbers: each
-// goes out through ten times its value and fifteen digits, and must be the same double behind it.
+// goes out through ten times its value and fifteen digits, and must be the same double after it.
 
 #include <gtest/gtest.h>
 

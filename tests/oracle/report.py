@@ -257,7 +257,7 @@ def _shear(p, r):
     vrd3 = vrd3 / 1000 * 100 / p.armInterasse
     vsd = 1.4 * 10 * r.Vmax
     out = ["", "VERIFICA AL TAGLIO"]
-    # no empty line stands between this list and the failure lines
+    # no empty line comes between this list and the failure lines
     out += listing([("Diametro staffe [mm]", p.armDiamStaffe * 10),
                     ("Passo staffe [mm]", p.armPassoStaffe * 10),
                     ("Capacità portante bielle CLS - Vrd2 [kN]", vrd2),

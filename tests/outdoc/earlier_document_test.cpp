@@ -137,7 +137,7 @@ TEST(IsOwnWork, IsNothingThatOnlyHoldsTheMark) {
     EXPECT_FALSE(isOwnWork(""));
     EXPECT_FALSE(isOwnWork("outdoc-"));
     EXPECT_FALSE(isOwnWork("PK\x03\x04 outdoc-00000000"));
-    // A word processor packs anew: the mark stands in an archive with other parts in front.
+    // A word processor packs anew: the mark is in an archive with other parts in front.
     const auto archive = [](const std::string& content, const std::string& marked) {
         ZipWriter file;
         file.add("word/document.xml", content, Packing::deflated);

@@ -17,7 +17,7 @@ using test::contenuto;
 constexpr const char* windir = "C:\\WINDOWS";
 
 // In the working folder of a system without drives the files lie under their whole names. Each
-// object stands for a process: locks part them just as well.
+// object acts as a process: locks part them just as well.
 class FileDiUnitaTest : public testing::Test {
  protected:
     FileDiUnitaTest() { fs::current_path(cartella.percorso()); }

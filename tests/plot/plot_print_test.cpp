@@ -181,7 +181,7 @@ TEST_F(Stampa, ZoomOnTheScreenDoesNotChangeThePrint) {
     EXPECT_EQ(stampata(true), adattata);
 }
 
-// A unit behind the end of an axis: "[kN/m2]" of height 0.2 is 1.05 cm long in Arial.
+// A unit after the end of an axis: "[kN/m2]" of height 0.2 is 1.05 cm long in Arial.
 TEST_F(Stampa, FittedPrintKeepsTextsOnThePaperThatStandOutOfTheSheet) {
     plotApri(0, 0, 9.8, 9.8);
     plotPenna(5);

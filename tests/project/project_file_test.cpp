@@ -34,7 +34,7 @@ TEST(FileDiProgetto, OfAFreshProjectHasFiftyNineLinesAndBlankHeadings) {
     const std::string testo = testoProgetto(d);
     EXPECT_EQ(righe(testo), 59);
     EXPECT_TRUE(testo.starts_with("0\r\n"));
-    // 1 + 19 + 1 + 1 lines stand before the headings.
+    // 1 + 19 + 1 + 1 lines come before the headings.
     EXPECT_TRUE(
         testo.substr(primeRighe(testo, 22).size()).starts_with("\r\n\r\n\r\n\r\n\r\n\r\n0\r\n"));
 }
@@ -56,7 +56,7 @@ TEST(FileDiProgetto, HasOneLineAValueInTheOrderOfTheFormat) {
     const auto riga = [&linee](std::size_t n) { return linee.at(n - 1); };
     EXPECT_EQ(riga(1), "2");
     EXPECT_EQ(riga(2), "4");
-    EXPECT_EQ(riga(7), "2.5");  // Su stands before ks
+    EXPECT_EQ(riga(7), "2.5");  // Su comes before ks
     EXPECT_EQ(riga(8), "1500");
     EXPECT_EQ(riga(9), "1A Sabbia, limosa \"media\"");  // no quoting
     EXPECT_EQ(riga(23), "7");                           // between modoTensioni and metodoSpinte

@@ -20,7 +20,7 @@ std::vector<std::string> dati(const DatiProgetto& d) {
     return righe([&](RigheRelazione& r) { sezioneDati(d, r); });
 }
 
-// The seven lines behind the title of the wall's parameters.
+// The seven lines after the title of the wall's parameters.
 std::vector<std::string> setteRighe(const DatiProgetto& d) {
     const auto tutte = dati(d);
     const auto titolo = std::find(tutte.begin(), tutte.end(), "PARAMETRI DEL DIAFRAMMA");

@@ -44,7 +44,7 @@ TEST(SezioneRisultati, WritesATableAStageWithCentimetresAndKilonewtonmetresTopDo
 TEST(SezioneRisultati, TakesTheDepthOfANodeAsAProduct) {
     auto d = dueFasi();
     d.passo = 0.333;
-    EXPECT_TRUE(contiene(scritte(d), "0.66\t0.00\t0.00"));  // 0.666, cut behind the decimals
+    EXPECT_TRUE(contiene(scritte(d), "0.66\t0.00\t0.00"));  // 0.666, cut after the decimals
 }
 
 TEST(SezioneRisultati, ShowsTheForcesOfTheAnchorsInPlaceInTheLastStage) {

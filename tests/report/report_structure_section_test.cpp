@@ -189,9 +189,9 @@ TEST(SezioneStrutturale, DoesNotVerifyAMomentThatEqualsTheResistance) {
     EXPECT_TRUE(contiene(tutte, "Condizioni di sicurezza verificate (momento negativo)"));
 }
 
-// Worked by hand: d 530 mm, bw 600 mm, fctk 2.4562, tauRd 0.38378, k 1.07, Asl 3769.9 mm2,
-// rhoL 0.011855, Vrd1 218624 N, Vrd2 1788750 N, Asw 157.08 mm2, Vrd3 368478.17 N; per metre of
-// wall / 0.8 m. 2235.9375 is cut behind its second decimal.
+// Worked by hand: d 530 mm, bw 600 mm, fctk 2.4562, tauRd 0.38378, k 1.07, Asl 3769.9 mm2, rhoL
+// 0.011855, Vrd1 218624 N, Vrd2 1788750 N, Asw 157.08 mm2, Vrd3 368478.17 N; per metre of wall /
+// 0.8 m. 2235.9375 is cut after its second decimal.
 TEST(SezioneStrutturale, ChecksTheShearOfReinforcedPilesWithStirrups) {
     auto d = relazione(paliConStaffe());
     d.Vmax = 30;

@@ -161,7 +161,7 @@ TEST(LeggiRisultati, CountsStagesBeforeAnAnchorCameNeitherForItsMaximumNorTwice)
     auto d = muroQuattroSegmenti(2);
     aggiungiTirante(d, 2, 500, 5);
     d.tirantiFase[2] = 1;
-    // The wall stood further out before the anchor was there than it ever did with it.
+    // The wall was further out before the anchor was there than it ever did with it.
     file.scrivi(d, {spostata("0", "0.03", "0", "0", "0"), spostata("0", "0.02", "0", "0", "0")});
     EXPECT_EQ(letti(file, d).tiroTirante[1], 5);
 }

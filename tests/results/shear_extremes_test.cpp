@@ -113,7 +113,7 @@ TEST_F(EstremiTaglioTest, AnchorsTakeTheirTurnInTableOrderOnTheSameArray) {
 
 TEST_F(EstremiTaglioTest, NodesBeyondTheToeReadZero) {
     tagli({0, 1, 2, 3, 5});
-    taglioNodo[6] = 100;  // what a longer wall left behind
+    taglioNodo[6] = 100;  // what a longer wall left
     taglioNodo[7] = 1000;
     aggiungiTirante(dati, 1.5, 0, 0);  // node 4
     (void)calcola();

@@ -1,4 +1,4 @@
-// Captions that stand together in a form or a box share no access key, in any language: of two that
+// Captions that are together in a form or a box share no access key, in any language: of two that
 // do, the key presses neither and only walks between them. menu1_test.cpp looks at the menus.
 
 #include <gtest/gtest.h>

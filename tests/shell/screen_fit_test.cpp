@@ -1,6 +1,6 @@
 // Every window of the program on small screens, in all languages: its frame lies on the screen, and
-// no text is wider or higher than what it stands in. Qt takes screen and scale at its start alone,
-// so each screen has a process of its own: this program once more.
+// no text is wider or higher than what holds it. Qt takes screen and scale at its start alone, so
+// each screen has a process of its own: this program once more.
 
 #include <gtest/gtest.h>
 
@@ -67,7 +67,7 @@ QSize ingombro(const QWidget& pezzo) {
     return {};
 }
 
-// What lies outside of one it stands in is not seen, unless that one scrolls.
+// What lies outside of one that holds it is not seen, unless that one scrolls.
 bool inVista(const QWidget& pezzo) {
     for (const QWidget* qui = &pezzo; !qui->isWindow(); qui = qui->parentWidget()) {
         const QWidget* sopra = qui->parentWidget();

@@ -64,7 +64,7 @@ TEST_F(TerminazioneTest, EndsFormsAndRunsOnTheWay) {
     EXPECT_TRUE(analysis::stopCalcolo);
 }
 
-// The signal comes while a question stands before a run; the run then begins all the same, and one
+// The signal comes while a question waits before a run; the run then begins all the same, and one
 // that finds no end would keep the program for ever.
 TEST_F(TerminazioneTest, StopsARunThatBeginsAfterTheSignal) {
     EXPECT_FALSE(Terminazione::chiesta());

@@ -43,7 +43,7 @@ TEST(VerificaTaglio, MatchesTheHandCalculation) {
 }
 
 // 500 kN on pi 400^2 + 5428.67 (200000/30000 - 1) = 533418 mm2 press with 0.937352 N/mm2, which
-// adds tauRd k 0.15 sigmaCp bw d: the term stands inside the bracket.
+// adds tauRd k 0.15 sigmaCp bw d: the term is inside the bracket.
 TEST(VerificaTaglio, AxialCompressionRaisesTheConcreteShareAndTensionLowersIt) {
     const double senza = verificaTaglio(paloStaffato(), 0).Vrd3;
     const TaglioResistente r = verificaTaglio(paloStaffato(), 500000);

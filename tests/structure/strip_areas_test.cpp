@@ -123,7 +123,7 @@ TEST(AreePaliArmati, TakeTheBarsOutOfTheConcrete) {
     EXPECT_NEAR(somma(aree.As) + somma(aree.Ac), pi * 400 * 400, 1e-5);
 }
 
-// One bar stands at mid-depth, 388 to 412 mm: strips 49 (384-392) to 52 (408-416).
+// One bar is at mid-depth, 388 to 412 mm: strips 49 (384-392) to 52 (408-416).
 TEST(AreePaliArmati, PutTheFirstBarAtMidDepth) {
     PaliArmatiMm p = paliArmatiMm(paliArmati());
     p.numLong = 1;

@@ -11,13 +11,13 @@
 
 namespace korven::test {
 
-/// Displacement [m], moment [t m] and shear [t] of a node, as they stand in the file.
+/// Displacement [m], moment [t m] and shear [t] of a node, as the file has them.
 struct NodoScritto {
     std::string_view y, momento, taglio;
 };
 
-/// The table of a stage as a run would have written it. The ten soil values are of no interest to a
-/// report and stand for one and the same node.
+/// The table of a stage as a run would have written it. The ten soil values do not matter to a
+/// report and are those of one and the same node.
 inline std::string faseScritta(const std::vector<NodoScritto>& nodi) {
     std::string testo =
         "sigmaVv       Ehv           k0v           kav           kpv           "

@@ -10,7 +10,7 @@
 
 namespace korven::test {
 
-/// What a finished program left behind.
+/// What a finished program left.
 struct EsitoProgramma {
     int codice = -1;  ///< exit code; -1 if a signal ended it
     std::string uscita, errori;

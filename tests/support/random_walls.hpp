@@ -10,7 +10,7 @@ namespace korven::test {
 
 /// Walls as a designer might type them, drawn at random from a fixed seed: one to four layers, one
 /// to four stages that go deeper, up to three anchors, every method and restraint, loads of both
-/// signs. All values have at most two decimals. Not every one of them stands.
+/// signs. All values have at most two decimals. Not every one of them holds.
 class MuriCasuali {
  public:
     explicit MuriCasuali(unsigned seme) : caso_(seme) {}

@@ -6,7 +6,7 @@
 
 namespace korven::test {
 
-/// The arrays of a run as they stand when its first stage begins, for tests that drive single steps
+/// The arrays of a run as they are when its first stage begins, for tests that drive single steps
 /// of the iteration.
 inline std::unique_ptr<analysis::ArraysCorsa> corsaNuova(const project::DatiProgetto& dati,
                                                          int nSeg) {

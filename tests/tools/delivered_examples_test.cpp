@@ -48,7 +48,7 @@ std::vector<std::string> lines(const std::string& bytes) {
 }
 
 // Lines of the project file that hold text, from 0: the description ends each layer's eight lines
-// behind the count; the six headings stand together.
+// after the count; the six headings are together.
 std::set<std::size_t> textLines(const project::DatiProgetto& dati) {
     std::set<std::size_t> all;
     const auto layers = static_cast<std::size_t>(dati.nStrati);

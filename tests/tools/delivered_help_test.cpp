@@ -29,7 +29,7 @@ using help::PaginaGuida;
 
 constexpr int languages[] = {1, 5};
 
-// What stands between two texts, for each time they come one behind the other.
+// What is between two texts, for each time that one follows the other.
 std::vector<std::string> between(std::string_view html, std::string_view from,
                                  std::string_view to) {
     std::vector<std::string> found;

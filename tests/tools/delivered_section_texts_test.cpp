@@ -53,7 +53,7 @@ class TestiDellaSezione : public testing::Test {
     }
 
     // Draws the section and looks at it: the first fault, empty when there is none. Rounds of piles
-    // (strokes of no set direction) may pass under the head: they stand where the scale puts them.
+    // (strokes of no set direction) may pass under the head: they are where the scale puts them.
     std::string difetto() {
         dati.sezione = s;
         drawings::disegnaSezione(dati);

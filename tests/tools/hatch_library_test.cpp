@@ -156,7 +156,7 @@ struct Place {
     double x, y;
 };
 
-// An end of a stroke, and the end behind it.
+// An end of a stroke, and the end that follows it.
 struct End {
     Place at, from;
 };

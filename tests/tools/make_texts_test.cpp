@@ -20,7 +20,7 @@ std::string bytes(const std::string& name) {
     return base::leggiFile(std::string(KORVEN_PROGRAM_FOLDER "/") + name);
 }
 
-// Both tables as one: what is true of a text does not depend on where it stands.
+// Both tables as one: what is true of a text does not depend on its place.
 base::TabellaTesti delivered() {
     base::TabellaTesti table{base::massimoTesti + base::massimoTestiAggiunti};
     for (const auto* name : names) {

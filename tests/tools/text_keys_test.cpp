@@ -1,6 +1,6 @@
-// Every text that the sources may show must stand in the table of texts. What reaches the
-// translation goes through tables, constants and functions, so this test does not follow it: it
-// takes each literal with a word in it for a text and knows by name those that are none.
+// Every text that the sources may show must be in the table of texts. What reaches the translation
+// goes through tables, constants and functions, so this test does not follow it: it takes each
+// literal with a word in it for a text and knows by name those that are none.
 
 #include <gtest/gtest.h>
 

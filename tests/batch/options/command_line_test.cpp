@@ -103,7 +103,7 @@ TEST_F(Opzione, WrongUsageIsToldInTheLanguageAskedFor) {
         EXPECT_TRUE(dice(esito.errori, "korven32c: unbekanntes Argument: --svelto\n"))
             << esito.errori;
     }
-    // Behind "--" stand names of files, whatever they look like.
+    // After "--" come names of files, whatever they look like.
     const auto esito = console({"calcola", "--svelto", "--", "--lingua", "deu"});
     EXPECT_EQ(esito.codice, 2);
     EXPECT_TRUE(dice(esito.errori, "argomento sconosciuto")) << esito.errori;

@@ -38,7 +38,7 @@ TEST_F(SenzaPace, AnInterruptStopsARunAsTheStopButtonDoes) {
         const auto esito = corsa.attendi();
         EXPECT_EQ(esito.codice, 1);
         EXPECT_TRUE(esito.errori.ends_with("\nCalcolo interrotto dall'utente.\n"))
-            << esito.errori;  // behind what is odd about the project
+            << esito.errori;  // after what is odd about the project
         EXPECT_TRUE(esito.uscita.empty());
         EXPECT_EQ(nomi(), "muro.kvd ");
     }
@@ -105,7 +105,7 @@ TEST_F(Interruzione, EndsADrawingThatNobodyWouldWaitForWithoutATrace) {
     }
 }
 
-// Whenever the interrupt comes, what stands afterwards is whole, and the exit code tells it.
+// Whenever the interrupt comes, what is left is whole, and the exit code tells it.
 TEST_F(Interruzione, LeavesWholeFilesAndIsNeverSwallowedAtAnyMoment) {
     const std::vector<std::string> comando = {"relazione", progetto, "--txt"};
     ASSERT_EQ(console(comando).codice, 0);
@@ -122,7 +122,7 @@ TEST_F(Interruzione, LeavesWholeFilesAndIsNeverSwallowedAtAnyMoment) {
             ASSERT_TRUE(interi.contains(nome)) << nome;
             EXPECT_EQ(byte, interi.at(nome)) << nome;
         }
-        // -1: before or behind the run, where the signal ends the program as always.
+        // -1: before or after the run, where the signal ends the program as always.
         EXPECT_LE(esito.codice, 1) << esito.errori;
         EXPECT_TRUE(esito.codice != 0 || file() == interi);
         EXPECT_TRUE(esito.codice != 1 || dice(esito.errori, "dell'utente") ||

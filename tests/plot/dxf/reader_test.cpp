@@ -46,7 +46,7 @@ TEST(LettoreDxf, RefusesBrokenFiles) {
         {"    16\r\n", "    17\r\n"},                            // count of layers
         {" 40\r\n0.75\r\n", " 40\r\n0.7\r\n"},                   // length of a line type
         {" 0\r\nEOF\r\n", ""},                                   // no end
-        {" 0\r\nEOF\r\n", " 0\r\nEOF\r\n 0\r\nEOF\r\n"},         // something behind it
+        {" 0\r\nEOF\r\n", " 0\r\nEOF\r\n 0\r\nEOF\r\n"},         // something after it
         {" 0\r\nENDSEC\r\n 0\r\nEOF\r\n", " 0\r\nEOF\r\n"},      // open section
         {" 72\r\n     1\r\n11\r\n", " 72\r\n     3\r\n11\r\n"},  // unknown alignment
     };

@@ -12,7 +12,7 @@ constexpr Riquadro foglio{0, 0, 19, 27};
 constexpr Colore verdePieno = daRgb(0, 255, 0);
 constexpr Colore arancio = daRgb(255, 128, 0);
 
-// The lines that a writer has put behind the start of its file, parted by '|'.
+// The lines that a writer has put after the start of its file, parted by '|'.
 std::string scritto(const ScrittoreDxf& dxf) {
     std::string testo = dxf.contenuto().substr(inizioDxf(foglio, "MONOTXT").size());
     for (std::size_t fine; (fine = testo.find("\r\n")) != std::string::npos;)

@@ -1,5 +1,4 @@
-// The form of fields: how it is built, its buttons and its help. Moving about and checking stand in
-// base1_moves_test.cpp.
+// The form of fields: how it is built, its buttons, help. Moves and checks: base1_moves_test.cpp.
 
 #include "shell/masks/base1.hpp"
 

@@ -1,5 +1,5 @@
-// The form of a table: how it is built, its buttons, its help. The keys stand in
-// grid_view_test.cpp, the clipboard in grid_clipboard_test.cpp.
+// The form of a table: how it is built, its buttons, its help. The keys are in grid_view_test.cpp,
+// the clipboard in grid_clipboard_test.cpp.
 
 #include "shell/masks/base2_32.hpp"
 

@@ -1,4 +1,4 @@
-// The forms behind the editing commands, with the masks and texts as they are delivered.
+// The forms of the editing commands, with the masks and texts as they are delivered.
 
 #include "shell/masks/mask_forms.hpp"
 

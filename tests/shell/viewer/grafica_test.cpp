@@ -71,7 +71,7 @@ TEST_F(Visore, LeavesTheOtherWindowsOfTheMainFormInUse) {
 }
 
 TEST_F(Visore, LetsACommandWaitUntilItIsClosed) {
-    visore->attendi();  // nothing stands: at once
+    visore->attendi();  // nothing is open: at once
     disegna();
     QTimer::singleShot(20, &forma(), [this] { tasto('U'); });
     visore->attendi();
