@@ -60,8 +60,8 @@ void RepaintTheWindow(benchmark::State& stato) {
     const Disegno disegno(static_cast<int>(stato.range(0)));
     QImage finestra(disegno.superficie.immagine().size(), QImage::Format_RGB32);
     for (auto _ : stato) {
-        QPainter painter(&finestra);
-        painter.drawImage(QPointF(), disegno.superficie.immagine());
+        QPainter pittore(&finestra);
+        pittore.drawImage(QPointF(), disegno.superficie.immagine());
     }
 }
 

@@ -54,13 +54,13 @@ void scriviPdf(const std::string& percorso, const plot::Foglio& foglio, const ba
         const QSizeF misure = QSizeF(vista.larghezza(), vista.altezza()) * millimetriPerCentimetro;
         scrittore.setPageSize(QPageSize(misure, QPageSize::Millimeter, {}, QPageSize::FuzzyMatch));
         scrittore.setPageMargins(QMarginsF());
-        QPainter painter(&scrittore);
-        PittoreDisegno pittore(painter, vista, perCentimetro(dpiVettoriale),
+        QPainter pittore(&scrittore);
+        PittoreDisegno disegno(pittore, vista, perCentimetro(dpiVettoriale),
                                pennaMinimaCm * perCentimetro(dpiVettoriale));
         // Qt compresses a page when it ends, which for millions of lines beside the paper would
         // take seconds.
-        pittore.limita(vista.ymin, vista.ymax);
-        pittore.dipingi(plot::statoPlot.archivio);
+        disegno.limita(vista.ymin, vista.ymax);
+        disegno.dipingi(plot::statoPlot.archivio);
     }
     file.concludi();
 }
@@ -92,12 +92,12 @@ void scriviPng(const std::string& percorso, int dpi, std::size_t byteFascia,
     ScrittorePng file(percorso, misure, static_cast<int>(std::lround(100 * scala)), disco);
     for (int prima = 0; prima < misure.height(); prima += righe) {
         fascia.fill(Qt::white);
-        QPainter painter(&fascia);
-        painter.translate(0, -prima);
-        PittoreDisegno pittore(painter, vista, scala, pennaMinima);
-        pittore.limita(vista.ymax - (prima + righe) / scala, vista.ymax - prima / scala);
-        pittore.dipingi(plot::statoPlot.archivio);
-        painter.end();
+        QPainter pittore(&fascia);
+        pittore.translate(0, -prima);
+        PittoreDisegno disegno(pittore, vista, scala, pennaMinima);
+        disegno.limita(vista.ymax - (prima + righe) / scala, vista.ymax - prima / scala);
+        disegno.dipingi(plot::statoPlot.archivio);
+        pittore.end();
         file.scrivi(fascia, std::min(righe, misure.height() - prima));
     }
     file.concludi();

@@ -9,10 +9,10 @@
 
 namespace korven::device {
 
-PittoreDisegno::PittoreDisegno(QPainter& painter, const plot::Riquadro& vista, double pixelPerCm,
+PittoreDisegno::PittoreDisegno(QPainter& pittore, const plot::Riquadro& vista, double pixelPerCm,
                                double pennaMinima)
-    : painter_(painter), vista_(vista), pixelPerCm_(pixelPerCm), pennaMinima_(pennaMinima) {
-    painter_.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+    : pittore_(pittore), vista_(vista), pixelPerCm_(pixelPerCm), pennaMinima_(pennaMinima) {
+    pittore_.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
 }
 
 void PittoreDisegno::limita(double ymin, double ymax) {
@@ -27,10 +27,10 @@ void PittoreDisegno::dipingi(const plot::ArchivioDisegno& archivio) {
             const plot::Punto& v = poligono.vertici[static_cast<std::size_t>(i)];
             vertici << punto(v.x, v.y);
         }
-        painter_.setPen(qColore(poligono.colore));
-        painter_.setBrush(qColore(poligono.colore));
-        painter_.drawPolygon(vertici);
-        painter_.setBrush(Qt::NoBrush);
+        pittore_.setPen(qColore(poligono.colore));
+        pittore_.setBrush(qColore(poligono.colore));
+        pittore_.drawPolygon(vertici);
+        pittore_.setBrush(Qt::NoBrush);
     }
     archivio.perOgniLinea([this](const plot::Segmento& linea) { traccia(linea); });
     tracciaSpezzata();
@@ -61,16 +61,16 @@ void PittoreDisegno::traccia(const plot::Segmento& linea) {
 void PittoreDisegno::tracciaSpezzata() {
     if (spezzata_.isEmpty()) return;
     const double spessore = std::max(ultima_.spessore * pixelPerCm_, pennaMinima_);
-    painter_.setPen(
+    pittore_.setPen(
         QPen(qColore(ultima_.colore), spessore, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter_.drawPolyline(spezzata_);
+    pittore_.drawPolyline(spezzata_);
     spezzata_.clear();
 }
 
 void PittoreDisegno::scrivi(const plot::TestoPlot& testo) {
     if (testo.testo.empty()) return;
     const QFont font = fontDisegno(testo.carattere);
-    dipingiTesto(painter_, {punto(testo.x, testo.y), font,
+    dipingiTesto(pittore_, {punto(testo.x, testo.y), font,
                             corpoPerRiga(font, rigaPerAltezza * testo.altezza * pixelPerCm_),
                             testo.angolo, testo.conteggio == plot::conteggioCentrato, testo.colore,
                             testo.testo, stiramento(testo.carattere, testo.testo)});

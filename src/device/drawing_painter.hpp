@@ -17,7 +17,7 @@ class PittoreDisegno {
     ///                    left corner lies at the origin of the painter
     /// @param pixelPerCm  units of the painter in a centimetre
     /// @param pennaMinima thinnest line that the device shows well [units of the painter]
-    PittoreDisegno(QPainter& painter, const plot::Riquadro& vista, double pixelPerCm,
+    PittoreDisegno(QPainter& pittore, const plot::Riquadro& vista, double pixelPerCm,
                    double pennaMinima);
 
     /// Leaves out lines that lie wholly above or below a strip of the sheet [cm].
@@ -33,7 +33,7 @@ class PittoreDisegno {
     void tracciaSpezzata();
     void scrivi(const plot::TestoPlot& testo);
 
-    QPainter& painter_;
+    QPainter& pittore_;
     plot::Riquadro vista_;
     double pixelPerCm_;
     double pennaMinima_;

@@ -27,6 +27,6 @@ struct TestoDaDipingere {
 
 /// Writes a text on its base line, on a transparent ground. The font is scaled to `corpo`, which
 /// need not be a whole number.
-void dipingiTesto(QPainter& painter, const TestoDaDipingere& testo);
+void dipingiTesto(QPainter& pittore, const TestoDaDipingere& testo);
 
 }  // namespace korven::device

@@ -200,9 +200,9 @@ double inchiostro(const char* carattere, const std::string& testo) {
     QImage immagine(static_cast<int>(38 * pixelCm), static_cast<int>(2 * pixelCm),
                     QImage::Format_RGB32);
     immagine.fill(Qt::white);
-    QPainter painter(&immagine);
-    PittoreDisegno(painter, {0, 0, 38, 2}, pixelCm, 1).dipingi(archivio);
-    painter.end();
+    QPainter pittore(&immagine);
+    PittoreDisegno(pittore, {0, 0, 38, 2}, pixelCm, 1).dipingi(archivio);
+    pittore.end();
     return test::macchia(immagine).larghezza() / pixelCm;
 }
 
@@ -299,9 +299,9 @@ TEST_F(File, OfSvgShowTheDrawingAtItsPlace) {
     scriviSvg(cartella / "d.svg");
     QImage immagine(1000, 500, QImage::Format_RGB32);
     immagine.fill(Qt::white);
-    QPainter painter(&immagine);
-    QSvgRenderer(QString::fromStdString(cartella / "d.svg")).render(&painter);
-    painter.end();
+    QPainter pittore(&immagine);
+    QSvgRenderer(QString::fromStdString(cartella / "d.svg")).render(&pittore);
+    pittore.end();
     const Macchia m = test::macchia(immagine);
     EXPECT_NEAR(m.sinistra, 190, 1);
     EXPECT_NEAR(m.destra, 609, 1);

@@ -48,10 +48,10 @@ QIcon iconaColore(plot::Colore colore, const QWidget& accanto) {
     QPixmap immagine(campione * rapporto);
     immagine.setDevicePixelRatio(rapporto);
     immagine.fill(device::qColore(colore));
-    QPainter painter(&immagine);
-    painter.setPen(Qt::gray);
-    painter.drawRect(QRectF(0.5, 0.5, campione.width() - 1, campione.height() - 1));
-    painter.end();
+    QPainter pittore(&immagine);
+    pittore.setPen(Qt::gray);
+    pittore.drawRect(QRectF(0.5, 0.5, campione.width() - 1, campione.height() - 1));
+    pittore.end();
     return immagine;
 }
 

@@ -53,17 +53,17 @@ class MotoreIcona : public QIconEngine {
  public:
     explicit MotoreIcona(const char* tratti) : tratti_(tratti) {}
 
-    void paint(QPainter* painter, const QRect& luogo, QIcon::Mode modo, QIcon::State) override {
+    void paint(QPainter* pittore, const QRect& luogo, QIcon::Mode modo, QIcon::State) override {
         const auto gruppo = modo == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
         QSvgRenderer figura(
             disegno(tratti_, QGuiApplication::palette().color(gruppo, QPalette::ButtonText)));
-        figura.render(painter, luogo);
+        figura.render(pittore, luogo);
     }
     QPixmap pixmap(const QSize& misure, QIcon::Mode modo, QIcon::State stato) override {
         QPixmap immagine(misure);
         immagine.fill(Qt::transparent);
-        QPainter painter(&immagine);
-        paint(&painter, QRect(QPoint(), misure), modo, stato);
+        QPainter pittore(&immagine);
+        paint(&pittore, QRect(QPoint(), misure), modo, stato);
         return immagine;
     }
     [[nodiscard]] QIconEngine* clone() const override { return new MotoreIcona(tratti_); }

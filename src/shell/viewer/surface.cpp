@@ -30,16 +30,16 @@ void SuperficieGrafica::arma(bool armata) {
 }
 
 void SuperficieGrafica::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    painter.fillRect(rect(), Qt::white);  // a picture of odd size leaves half a pixel
-    painter.drawImage(QPointF(), disegno_.immagine());
+    QPainter pittore(this);
+    pittore.fillRect(rect(), Qt::white);  // a picture of odd size leaves half a pixel
+    pittore.drawImage(QPointF(), disegno_.immagine());
     if (!trascinamento_) return;
     // Dark dashes on a light line: seen on every ground.
     const QRectF finestra = QRectF(inizio_, fine_).normalized();
-    painter.setPen(QPen(Qt::white, 1));
-    painter.drawRect(finestra);
-    painter.setPen(QPen(Qt::black, 1, Qt::DashLine));
-    painter.drawRect(finestra);
+    pittore.setPen(QPen(Qt::white, 1));
+    pittore.drawRect(finestra);
+    pittore.setPen(QPen(Qt::black, 1, Qt::DashLine));
+    pittore.drawRect(finestra);
 }
 
 void SuperficieGrafica::mousePressEvent(QMouseEvent* evento) {
