@@ -12,7 +12,7 @@ namespace korven::masks {
 /// end opens no further row.
 [[nodiscard]] std::vector<std::vector<std::string>> righeAppunti(std::string_view testo);
 
-/// What a question shows of it: a text of more than five line breaks is cut behind the sixth, and
+/// What a question shows of it: a text of more than five line breaks is cut after the sixth, and
 /// dots say so.
 [[nodiscard]] std::string anteprimaAppunti(std::string_view testo);
 

@@ -9,8 +9,7 @@
 
 namespace korven::masks {
 
-/// The keys behind "$$$", trimmed and in upper case; nothing when the help has no "$$$". What has
-/// no
+/// The keys after "$$$", trimmed and in upper case; nothing when the help has no "$$$". What has no
 /// "=" is a key as a whole, an empty key is none.
 [[nodiscard]] std::vector<std::string> chiaviColonna(std::string_view aiuto);
 
@@ -18,7 +17,7 @@ namespace korven::masks {
 /// compared as texts, so that "01" is not "1".
 [[nodiscard]] bool ammessa(std::string_view aiuto, std::string_view testo);
 
-/// The help as the strip shows it: a line break stands for "$$$".
+/// The help as the strip shows it: a line break replaces "$$$".
 [[nodiscard]] std::string aiutoMostrato(std::string_view aiuto);
 
 }  // namespace korven::masks

@@ -10,8 +10,8 @@
 
 namespace korven::masks {
 
-/// Where a field of the section form stands: in the frame of a type, in the order of `tipiSezione`,
-/// or among the materials.
+/// Where the section form has a field: in the frame of a type, in the order of `tipiSezione`, or
+/// among the materials.
 enum class RiquadroSezione { diaframma, pali, palancola, paliArmati, materiali };
 
 struct CampoSezione {
@@ -79,7 +79,7 @@ class SezioneEditata {
     /// Any text is taken.
     void scrivi(std::size_t campo, std::string_view testo) { testi_[campo] = testo; }
 
-    /// The section that the form stands for: the stored number where the text is the one that was
+    /// The section that the form describes: the stored number where the text is the one that was
     /// shown, else the numeric prefix of the text, 0 if there is none, in the stored unit, whatever
     /// its size or sign; one flag true.
     [[nodiscard]] project::Sezione letta() const;

@@ -39,8 +39,8 @@ bool stesso(std::string_view uno, std::string_view altro) {
 }
 
 // Takes the texts of a table editor back, cell after cell. A cell that reads as one that was shown
-// gives back the value behind it, with all its digits: ten times a number and its tenth need not be
-// the same double, and a form shows no more than fifteen digits.
+// gives back the value that it was made of, with all its digits: ten times a number and its tenth
+// need not be the same double, and a form shows no more than fifteen digits.
 class Ripresa {
  public:
     using Mostra = std::vector<std::string> (*)(const project::DatiProgetto&);
@@ -97,11 +97,11 @@ class Ripresa {
     const std::vector<std::string>& testi_;
     const std::vector<std::string> mostrati_;
     std::size_t colonne_;
-    std::size_t posto_ = 0;  // of the current cell; the number of rows stands at 0
+    std::size_t posto_ = 0;  // of the current cell; the number of rows is at 0
 };
 
 // A plain exchange sort, kept plain because of what its exchanges do not move: `scambia` says which
-// columns go along, and a depth that stays behind is compared again where it stands.
+// columns go along, and a depth that is left is compared again in its place.
 template <class Profondita, class Scambio>
 void ordina(const Profondita& profondita, int righe, Scambio scambia) {
     for (int i = 1; i <= righe - 1; ++i)

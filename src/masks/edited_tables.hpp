@@ -50,8 +50,7 @@ bool riprendiTiranti(project::DatiProgetto& dati, const std::vector<std::string>
 bool riprendiFasi(project::DatiProgetto& dati, const std::vector<std::string>& testi);
 
 /// Takes back the wall parameters, 18 texts in the order of the wall editor.
-/// @return true if any value differs from the stored one; a form confirmed unchanged modifies
-///         nothing
+/// @return true if any value differs from the stored one, so never for a form confirmed unchanged
 bool riprendiParatia(project::DatiProgetto& dati, const std::vector<std::string>& testi);
 
 /// Takes back the six heading lines.

@@ -27,7 +27,7 @@ enum class Vizio {
 [[nodiscard]] Vizio controllaCampo(const CampoMaschera& campo, std::string_view testo);
 
 /// Checks the text of a cell: an empty or blank one is fine; then come the keys of the column, and
-/// behind a match the length of a text or the limits of a number.
+/// after a match the length of a text or the limits of a number.
 [[nodiscard]] Vizio controllaCella(const CampoMaschera& colonna, std::string_view testo);
 
 /// The first `caratteri` characters.

@@ -18,9 +18,10 @@ namespace korven::masks {
 /// key or a button does. Fields are counted from 0 over all fields of the mask, choices first.
 class ModelloCampi {
  public:
-    /// @param combo  for each choice its selected item from 0, as far as given
-    /// @param testi  the texts of the other fields, as far as given
-    /// The mask must outlive the model. The first field that can takes the focus.
+    /// The first field that can takes the focus.
+    /// @param maschera  must outlive the model
+    /// @param combo     for each choice its selected item from 0, as far as given
+    /// @param testi     the texts of the other fields, as far as given
     ModelloCampi(const Maschera& maschera, std::vector<double> combo,
                  std::vector<std::string> testi);
 
@@ -48,9 +49,9 @@ class ModelloCampi {
     void scegli(std::size_t campo, std::size_t voce);
 
     [[nodiscard]] const std::string& testo(std::size_t campo) const;
-    /// The text as it stands after a key or a paste; decimals that a number picture does not take
-    /// are removed from its end, and what no project file can hold is a '?' at once. A read-only
-    /// field keeps its text.
+    /// The text that a key or a paste leaves; decimals that a number picture does not take are
+    /// removed from its end, and what no project file can hold is a '?' at once. A read-only field
+    /// keeps its text.
     void scrivi(std::size_t campo, std::string_view testo);
 
     /// The field that has the focus.
@@ -69,14 +70,13 @@ class ModelloCampi {
     /// @return true when the focus moved
     bool premi(Tasto tasto, base::Dialogo& dialogo);
 
-    /// What somebody who knows the fields has to say of a text, told by its place behind the
-    /// choices and all texts; empty for nothing.
+    /// What somebody who knows the fields has to say of a text, told by its place after the choices
+    /// and all texts; empty for nothing.
     using Nota = std::function<std::string(std::size_t, const std::vector<std::string>&)>;
     void annota(Nota nota) { nota_ = std::move(nota); }
 
     /// What the strip says of what is typed into the field that has the focus: where a number is
-    /// read otherwise than typed (base/number_reading.hpp), or the note about a text; empty
-    /// otherwise.
+    /// read otherwise than typed (base/number_reading.hpp), or the note about a text; else empty.
     [[nodiscard]] std::string lettura() const;
     /// Text of the strip: the help of the field that has the focus.
     [[nodiscard]] const std::string& aiuto() const;

@@ -12,7 +12,7 @@ namespace korven::masks {
 /// | type text | kind |
 /// | --- | --- |
 /// | "0" | number, checked against its limits |
-/// | begins with "#" and holds "." | number picture: no more decimals than "#" behind its point |
+/// | begins with "#" and holds "." | number picture: no more decimals than "#" after its point |
 /// | any other | text; its leading number is the greatest length |
 ///
 /// A picture without "@" has no leading number and so takes no text at all: write "##.##@".

@@ -29,13 +29,13 @@ class CelleGriglia {
     /// The last row with data, searched from the bottom up to row `fino`; 0 when there is none.
     [[nodiscard]] int ultimaRiga(int fino = 1) const;
 
-    /// Moves `riga` and what follows down by one and empties it. Nothing happens behind the last
-    /// row with data or when that is row 500.
+    /// Moves `riga` and what follows down by one and empties it. Nothing happens after the last row
+    /// with data or when that is row 500.
     /// @return true when a row was inserted
     bool inserisci(int riga);
 
-    /// Moves the rows behind `riga` up by one and clears the last row with data. Nothing happens
-    /// behind the last row with data.
+    /// Moves the rows after `riga` up by one and clears the last row with data. After that row
+    /// nothing happens.
     /// @return true when a row was deleted
     bool elimina(int riga);
 
@@ -44,7 +44,7 @@ class CelleGriglia {
     [[nodiscard]] std::vector<std::string> impacchettate() const;
 
     /// Text for the clipboard: cells parted by tabs, rows by CR LF. Row 1 to the last row with data
-    /// from `riga` down; when nothing stands there, the rows above `riga`.
+    /// from `riga` down; when there is none, the rows above `riga`.
     [[nodiscard]] std::string copia(int riga) const;
 
     bool operator==(const CelleGriglia&) const = default;

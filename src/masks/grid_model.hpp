@@ -35,15 +35,15 @@ enum class AzioneGriglia { conferma, annulla, inserisciRiga, eliminaRiga, guida 
 /// opens an editor that floats on the current cell. Either way the cell is checked when it is left.
 class ModelloGriglia {
  public:
-    /// @param testi  the number of rows as text, then the cells row after row; what stands behind a
-    ///               "|" in the first text replaces the title of the form
+    /// @param testi  the number of rows as text, then the cells row after row; what follows a "|"
+    ///               in the first text replaces the title of the form
     /// @param capienza  rows that whoever takes the table back can hold; more may be typed
     /// The mask must outlive the model.
     /// @throws base::ErroreIndice for more than 500 rows
     ModelloGriglia(const Maschera& maschera, const std::vector<std::string>& testi,
                    int capienza = CelleGriglia::righe);
 
-    /// Title of the form; with the number of rows and the capacity behind it where there are more.
+    /// Title of the form; followed by the number of rows and the capacity where there are more.
     [[nodiscard]] std::string titolo() const;
     [[nodiscard]] int colonne() const { return celle_.colonne(); }
     /// Head of a column, 0 for that of the row numbers.
@@ -63,9 +63,8 @@ class ModelloGriglia {
     /// @return true when `posto` is the current cell
     bool vaiA(PostoGriglia posto, base::Dialogo& dialogo);
 
-    /// Enter, and the tab key: to the next column, behind the last one to the next row. An open
-    /// editor writes its text first; at the very last cell the cursor stays and the cell is
-    /// checked.
+    /// Enter, and the tab key: to the next column, after the last one to the next row. An open
+    /// editor writes its text first; at the very last cell it stays and the cell is checked.
     void avanza(base::Dialogo& dialogo);
     /// Shift and the tab key: the way back, at the first cell nowhere.
     void arretra(base::Dialogo& dialogo);
@@ -73,11 +72,11 @@ class ModelloGriglia {
     [[nodiscard]] PostoGriglia fine() const;
 
     /// A key pressed on the grid or in its editor. In the grid a character is appended to the cell,
-    /// the first one after entering it replaces what stood there; Backspace removes the last one,
-    /// Esc brings back what the cell had on entry, Enter moves to the next column and from the last
-    /// one to the next row, arrows move by one cell. A typed "." never replaces: it is appended
-    /// even as the first, and opens the way for more to be appended, as Backspace does; Delete
-    /// removes the last character. In the editor Enter writes its text into the cell, Esc drops it.
+    /// the first one after entering it replaces the old text; Backspace removes the last one, Esc
+    /// brings back what the cell had on entry, Enter moves to the next column and from the last one
+    /// to the next row, arrows move by one cell. A typed "." never replaces: it is appended even as
+    /// the first, and opens the way for more to be appended, as Backspace does; Delete removes the
+    /// last character. In the editor Enter writes its text into the cell, Esc drops it.
     /// @param carattere  what the key types, UTF-8; for `Tasto::carattere` alone
     void premi(Tasto tasto, std::string_view carattere, base::Dialogo& dialogo);
 
@@ -85,7 +84,7 @@ class ModelloGriglia {
     void apriEditore();
     [[nodiscard]] bool editoreAperto() const { return editoreAperto_; }
     [[nodiscard]] const std::string& testoEditore() const { return testoEditore_; }
-    /// The text of the open editor as it stands after a key.
+    /// The text of the open editor that a key leaves.
     void scriviEditore(std::string_view testo) { testoEditore_ = testo; }
 
     /// True after a box told a fault of the current cell, until it is typed into or left: its text
@@ -116,7 +115,7 @@ class ModelloGriglia {
 
     /// Inserts an empty row at the current one; a bad current cell is told and nothing happens.
     void inserisciRiga(base::Dialogo& dialogo);
-    /// Deletes the current row, whatever stands in it; the cursor stays.
+    /// Deletes the current row, whatever is in it; the cursor stays.
     void eliminaRiga();
 
     /// The confirm button: closes the editor, checks the current cell and asks about rows with

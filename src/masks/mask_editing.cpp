@@ -9,7 +9,7 @@ namespace korven::masks {
 
 namespace {
 
-constexpr int campoFase = 7;  // behind the six heading lines
+constexpr int campoFase = 7;  // after the six heading lines
 
 using Testi = std::vector<std::string>;
 

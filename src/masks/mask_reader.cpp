@@ -123,7 +123,7 @@ class Lettore {
         return letto;
     }
 
-    // The line is the last one, and only that line may stand here.
+    // The line is the last one, and only that line may come here.
     int contesto() {
         constexpr std::string_view segno = "MN=";
         int voce = 0;

@@ -12,7 +12,7 @@
 //     title                value
 //     number of choices    value, in a mask of fields alone
 //     choices              a line each: items, each ended by "|"
-//     number of fields     value: those behind the choices, or the columns of the grid
+//     number of fields     value: those after the choices, or the columns of the grid
 //     fields               label (line), type, minimum, maximum (values), help (line)
 //     reference            line, in the DOS code page
 //     number of buttons    value
@@ -21,12 +21,11 @@
 
 namespace korven::masks {
 
-/// Reads a mask. Its texts pass through `traduttore`; of a label only what stands before "[", so
+/// Reads a mask. Its texts pass through `traduttore`; of a label only what comes before "[", so
 /// that units stay as they are. A "§" before a label marks the field as read-only and is not shown.
 /// @throws base::ErroreFile with the line and what was expected there: the file ends early, a
-/// number
-///         is none or no count, an unknown kind, more than 25 fields, limits the wrong way round,
-///         lines behind the end
+///         number is none or no count, an unknown kind, more than 25 fields, limits the wrong way
+///         round, lines after the end
 [[nodiscard]] Maschera leggiMaschera(base::LettoreRighe& file);
 
 /// Reads the mask file `percorso`.

@@ -45,8 +45,8 @@ class Maschere {
 
     /// Sets field `indice`, from 1 over all fields of the current mask. Up to the number of choices
     /// the text is a code, of which code - 1 is kept, 0 for a code of 0 or less: code 1 is the
-    /// first item, and so is the code 0 of a new project. Behind them texts are kept as they stand;
-    /// for a grid the first is the number of rows, the others the cells row after row.
+    /// first item, and so is the code 0 of a new project. After them texts are kept unchanged; for
+    /// a grid the first is the number of rows, the others the cells row after row.
     /// @throws base::ErroreIndice beyond the capacity of the list
     void impostaCampo(int indice, std::string_view testo);
 
