@@ -36,7 +36,7 @@
 #include "shell/termination.hpp"
 #include "shell/toolkit_texts.hpp"
 
-// korven32: the desktop program. Chooses what stands behind the ports, and tells the one error that
+// korven32: the desktop program. Chooses what is behind the ports, and tells the one error that
 // ends a program.
 
 namespace korven::desktop {
@@ -53,7 +53,7 @@ void traduciQt(QCoreApplication& applicazione) {
 commands::FormeProgramma forme(shell::Menu1& finestra, base::Dialogo& dialogo,
                                shell::StampanteProgramma& stampante) {
     commands::FormeProgramma tutte;
-    shell::collegaGuida(tutte, finestra);  // first: the forms behind it have help buttons
+    shell::collegaGuida(tutte, finestra);  // first: the forms plugged in later have help buttons
     tutte.informazioni = [&finestra](const std::string& fileCorrente) {
         shell::Informazioni(fileCorrente, &finestra).exec();
     };

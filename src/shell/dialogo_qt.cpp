@@ -76,7 +76,7 @@ class PuntatorePerUnBox {
 
 }  // namespace
 
-// The main form is disabled while the viewer stands: a box above it would bring it to the front,
+// The main form is disabled while the viewer is open: a box above it would bring it to the front,
 // over the window that the user is at.
 QWidget* DialogoQt::genitore() const {
     QWidget* modale = QApplication::activeModalWidget();

@@ -13,7 +13,7 @@ namespace korven::shell {
 class DialogoQt : public base::Dialogo {
  public:
     /// The window over which the boxes appear; none before there is one. While it is disabled they
-    /// appear over the one that stands in its place.
+    /// appear over the one that takes its place.
     void sopra(QWidget* finestra) { finestra_ = finestra; }
 
     void messaggio(std::string_view testo, std::string_view titolo, base::Icona icona) override;

@@ -29,8 +29,8 @@ void legaEtichette(const QFileDialog& dialogo) {
             etichetta->setBuddy(dialogo.findChild<QComboBox*>(QLatin1String(scelta)));
 }
 
-// A new project is opened by a name that no file has, so both dialogs take any name; what stands
-// under it is the command's to judge.
+// A new project is opened by a name that no file has, so both dialogs take any name; the command
+// judges what it finds under it.
 void prepara(QFileDialog& dialogo, const QString& titolo, QFileDialog::AcceptMode modo) {
     dialogo.setObjectName(modo == QFileDialog::AcceptOpen ? "apri" : "salva");
     dialogo.setWindowTitle(titolo);

@@ -16,7 +16,7 @@ class Terminazione : public QObject {
     Terminazione(const Terminazione&) = delete;
     Terminazione& operator=(const Terminazione&) = delete;
 
-    /// True once a signal has come. A run that begins afterwards, behind a question that the signal
+    /// True once a signal has come. A run that begins afterwards, after a question that the signal
     /// closed, asks this, since it has put `stopCalcolo` back.
     [[nodiscard]] static bool chiesta() { return chiesta_; }
 

@@ -7,7 +7,7 @@
 namespace korven::shell {
 
 /// The label of a field, followed by a leader of dots as far as there is room. The dots end at the
-/// right edge, so that those of all rows stand below each other and none is cut in half.
+/// right edge, so that those of all rows are below each other and none is cut in half.
 class EtichettaPuntinata : public QLabel {
  public:
     EtichettaPuntinata(const QString& didascalia, const QString& etichetta, QWidget* genitore)

@@ -15,8 +15,7 @@ namespace {
 constexpr int minimoIngrandimento = -4;
 constexpr int massimoIngrandimento = 16;
 
-// A warning stands on the same pale ground in light and dark desktops, so it brings its own
-// letters.
+// A warning has the same pale ground in light and dark desktops, so it brings its own letters.
 constexpr const char* stile = R"(
 h1 { font-size: x-large; margin-top: 2px; margin-bottom: 8px; }
 h2 { font-size: large; margin-top: 16px; margin-bottom: 4px; }

@@ -27,7 +27,7 @@ constexpr const char* proprietaVoceMenu = "aiuto";
 
 std::string nomeDi(const QWidget& controllo) { return controllo.objectName().toStdString(); }
 
-// The entry that a window or control stands for; 0 if it says nothing.
+// The entry that a window or control names; 0 if it names none.
 int voceDi(const QWidget& controllo) {
     const int detta = controllo.property(proprietaContesto).toInt();
     return detta != 0 ? detta : help::voceForma(nomeDi(controllo));

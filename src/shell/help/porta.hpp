@@ -16,8 +16,7 @@ namespace korven::shell {
 class FinestraGuida;
 
 /// The one door to the help: menu commands, help buttons and F1 go through it. It reads the help
-/// file when it is first needed and keeps one window, which stays usable while a modal form is
-/// open.
+/// file when it is first needed and keeps one window, which is usable beside a modal form.
 ///
 /// F1 in any window opens the page of the place. A window says its entry of the table of help
 /// contexts in the property "contestoAiuto" (int), or has its name in help/places.hpp; a

@@ -4,7 +4,7 @@
 
 namespace korven::shell {
 
-/// Role of an item under which the excerpt of a page found stands.
+/// Role of an item that holds the excerpt of a page found.
 inline constexpr int datoBrano = Qt::UserRole + 1;
 
 /// Shows a page found: its title in bold letters, below it the excerpt over as many lines as it

@@ -14,7 +14,7 @@ class QuadroParatia : public QWidget {
  public:
     explicit QuadroParatia(QWidget* genitore = nullptr);
 
-    /// Whether the name of the program stands in the sky.
+    /// Whether the name of the program is written in the sky.
     void mostraTitolo(bool mostra) {
         titolo_ = mostra;
         update();

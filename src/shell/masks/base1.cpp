@@ -178,7 +178,7 @@ void Base1::mostraAttivo() {
             casella->setMaxLength(static_cast<int>(limite));
     }
     controlli_[campo]->setFocus(Qt::TabFocusReason);
-    // Behind a box the focus comes back in another way, which would leave nothing selected.
+    // After a box the focus comes back in another way, which would leave nothing selected.
     if (casella != nullptr) casella->selectAll();
     spiega();
 }

@@ -16,8 +16,7 @@ namespace korven::shell {
 
 class StrisciaAiuto;
 
-/// The form `base1`: labelled fields as a mask describes them. Its rules are those of
-/// `masks::ModelloCampi`.
+/// The form `base1`: labelled fields as a mask describes them. `masks::ModelloCampi` has its rules.
 ///
 /// Controls by name, counted from 0 each: `Label1_n` the labels of all fields, `Combo1_n` the
 /// choices, `Text1_n` the other fields, `Command1_n` the buttons; `Labelhelp` the help strip. Left

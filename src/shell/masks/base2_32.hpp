@@ -11,8 +11,7 @@ namespace korven::shell {
 class VistaGriglia;
 class StrisciaAiuto;
 
-/// The form `base2_32`: a table as a mask describes it. Its rules are those of
-/// `masks::ModelloGriglia`.
+/// The form `base2_32`: a table as a mask describes it. `masks::ModelloGriglia` has its rules.
 ///
 /// Controls by name: `MSFlexGrid1` the grid, `Text1` its floating editor, `Label1` the help strip,
 /// `Command1_n` the buttons. F1 opens the help of the form.
@@ -26,8 +25,7 @@ class Base2_32 : public FormaMaschera {
 
     [[nodiscard]] const masks::ModelloGriglia& modello() const { return modello_; }
 
-    /// Esc and the close box: rows that were changed are asked about. The cancel button just
-    /// closes.
+    /// Esc and the close box ask about rows that were changed; the cancel button does not.
     void reject() override;
 
  protected:

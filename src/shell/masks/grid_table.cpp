@@ -39,8 +39,7 @@ QVariant TabellaGriglia::headerData(int sezione, Qt::Orientation verso, int ruol
     return qt(modello_.etichetta(sezione + 1));
 }
 
-// Editable, so that what is typed through an input method arrives; the view opens no editor of its
-// own.
+// Editable, so that what is typed through an input method arrives; the view itself opens no editor.
 Qt::ItemFlags TabellaGriglia::flags(const QModelIndex& indice) const {
     Qt::ItemFlags segni = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
     if (indice.isValid() && !modello_.soloLettura(posto(indice).colonna))

@@ -13,8 +13,8 @@ namespace korven::shell {
 class TabellaGriglia;
 
 /// The grid `MSFlexGrid1` with its floating editor `Text1`: shows the cells of a `ModelloGriglia`
-/// and hands it keys, clicks and the clipboard. Where the cursor stands, and whether it may go, is
-/// the model's to say.
+/// and hands it keys, clicks and the clipboard. Where the cursor is, and whether it may go, is the
+/// model's to say.
 ///
 /// Beyond the keys of the model: Tab and Shift+Tab go on and back like Enter, Home and End to the
 /// ends of the row, with Ctrl to the first cell and the end of the data, the page keys by what is
@@ -26,7 +26,7 @@ class VistaGriglia : public QTableView {
     VistaGriglia(masks::ModelloGriglia& modello, base::Dialogo& dialogo,
                  std::function<void()> cambiato, QWidget* genitore);
 
-    /// Shows cells, cursor and editor as they stand in the model, and takes the focus.
+    /// Shows cells, cursor and editor as they are in the model, and takes the focus.
     void aggiorna();
     /// Width that shows all columns.
     [[nodiscard]] int larghezzaColonne() const;

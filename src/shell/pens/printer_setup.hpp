@@ -17,7 +17,7 @@ namespace korven::shell {
 void impostaStampante(QPrinter& stampante, bool haStampanti, base::Dialogo& dialogo,
                       QWidget* padre);
 
-/// Puts the printer set-up, the viewer of drawings and the form of the pens behind their commands.
+/// Plugs the printer set-up, the viewer of drawings and the form of the pens into their commands.
 /// From here on drawings appear in the viewer, which lives as long as a copy of `forme`.
 /// @param principale  the main form; it and the dialog must outlive `forme`
 /// @param stampante   the printer of the program, called when it is needed

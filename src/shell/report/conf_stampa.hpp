@@ -18,8 +18,7 @@ namespace korven::shell {
 /// file is printer.cfg in the program folder. No menu command opens it.
 class ConfStampa : public QDialog {
  public:
-    /// Shows the printer dialog and returns the number of copies set there; nothing when it was
-    /// cancelled.
+    /// Shows the printer dialog and returns the number of copies set there; nothing when cancelled.
     using DialogoStampante = std::function<std::optional<int>(QWidget* padre)>;
 
     /// @param caratteri  names of the fonts of the printer, in its order

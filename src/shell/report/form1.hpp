@@ -16,7 +16,7 @@ namespace korven::shell {
 
 /// The preview: the report as the lines of the list `List1`, in a font whose characters are all of
 /// one width, so that blanks and points bring columns into line. It keeps what it has shown until
-/// it is closed; a report shown before that is added behind.
+/// it is closed; a report shown before that is added at the end.
 ///
 /// A double click on the list and Esc close it, Ctrl+C copies the selected lines.
 class Form1 : public QWidget, public markup::PreviewList {
@@ -24,7 +24,7 @@ class Form1 : public QWidget, public markup::PreviewList {
  public:
     explicit Form1(QWidget* padre = nullptr);
 
-    /// Shows a mark-up file behind what is there. Does nothing if there is no such file.
+    /// Shows a mark-up file after what is there. Does nothing if there is no such file.
     /// @throws base::ErroreFile if the mark-up is broken; the lines before are shown
     void mostra(const std::string& relazione);
 

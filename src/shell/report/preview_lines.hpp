@@ -15,7 +15,7 @@ class RigheAnteprima : public QAbstractListModel {
 
     /// @param font  of the list, to measure the lines with
     void impostaFont(const QFont& font) { font_ = font; }
-    /// Adds lines behind those that are there.
+    /// Adds lines after those that are there.
     void aggiungi(const std::vector<QString>& righe);
     void svuota();
 

@@ -75,7 +75,7 @@ void TempCalc::paintEvent(QPaintEvent*) {
     legenda(pittore);
 }
 
-// In the corner where the wall stands still and the button is not.
+// In the corner where the wall does not move and the button is not.
 void TempCalc::legenda(QPainter& pittore) const {
     const int riga = fontMetrics().height() + 4;
     int y = riga;

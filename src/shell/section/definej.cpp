@@ -146,7 +146,7 @@ QGroupBox* DefinEJ::fareRiquadro(RiquadroSezione riquadro) {
 }
 
 // Each row of fields has its caption in the first column; from there each column of fields takes
-// two, one for the symbols. The headings of the columns stand in row 0.
+// two, one for the symbols. The headings of the columns are in row 0.
 void DefinEJ::fareCampi(QGridLayout& griglia, RiquadroSezione riquadro) {
     QStringList righe;
     auto* padre = griglia.parentWidget();

@@ -53,7 +53,7 @@ class DefinEJ : public QDialog {
     StrisciaAiuto* aiuto_ = nullptr;
 };
 
-/// Puts the form of the section of the open project behind its command.
+/// Plugs the form of the section of the open project into its command.
 void collegaSezione(commands::FormeProgramma& forme, QWidget* padre);
 
 }  // namespace korven::shell

@@ -9,8 +9,8 @@ namespace korven::shell {
 struct CampoForma {
     double project::Sezione::*valore;
     const char* controllo;
-    const char* riga;  ///< Italian key of the caption; fields with the same stand beside each other
-    int colonna;       ///< of its frame, from 0
+    const char* riga;    ///< Italian key of the caption; fields with the same are beside each other
+    int colonna;         ///< of its frame, from 0
     const char* titolo;  ///< Italian key of the heading of the column; nullptr for none
     const char* aiuto;   ///< Italian key
 };

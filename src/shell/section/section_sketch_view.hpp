@@ -22,7 +22,7 @@ class VistaSchizzo : public QWidget {
     void evidenzia(std::optional<std::size_t> campo);
     [[nodiscard]] const drawings::Schizzo& schizzo() const { return schizzo_; }
     [[nodiscard]] std::optional<std::size_t> evidenziato() const { return evidenziato_; }
-    /// Where a text of the sketch stands in the widget.
+    /// The place of a text of the sketch in the widget.
     [[nodiscard]] QRectF postoTesto(const drawings::QuotaSchizzo& quota) const;
 
     [[nodiscard]] QSize sizeHint() const override { return {432, 360}; }

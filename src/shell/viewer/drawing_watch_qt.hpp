@@ -32,7 +32,7 @@ class SorveglianzaQt : public plot::SorvegliaDisegno {
     using Istante = std::chrono::steady_clock::time_point;
     using Orologio = std::function<Istante()>;
 
-    /// @param sopra     the form that the box stands on; nullptr: none
+    /// @param sopra     the form that the box lies on; nullptr: none
     /// @param orologio  the time of day, another one in tests
     explicit SorveglianzaQt(std::function<QWidget*()> sopra,
                             Orologio orologio = std::chrono::steady_clock::now)

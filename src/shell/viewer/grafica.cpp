@@ -59,7 +59,7 @@ plot::SpazioDisegno GRAFICA::apri() {
     setWindowTitle(qt(commands::titoloUscite()));
     if (!isVisible()) {
         if (!ripristinaMisure(*this)) {
-            // Most sheets stand upright.
+            // Most sheets are upright.
             const QSize schermo = screen()->availableSize();
             const int altezza = schermo.height() * 9 / 10;
             resize(std::min(altezza * 9 / 10, schermo.width() * 9 / 10), altezza);

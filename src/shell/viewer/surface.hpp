@@ -12,8 +12,8 @@ class SuperficieSchermo;
 
 namespace korven::shell {
 
-/// The place in the viewer where the drawing stands, and where a drag of the mouse marks what is to
-/// be enlarged.
+/// The place in the viewer where the drawing is shown, and where a drag of the mouse marks what is
+/// to be enlarged.
 class SuperficieGrafica : public QWidget {
  public:
     /// Called at the end of a drag with the two points where it began and ended [cm]. They may lie

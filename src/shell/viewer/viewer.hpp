@@ -16,8 +16,8 @@ class QWidget;
 namespace korven::shell {
 
 /// The viewer of the program. While it lives every drawing appears on the form `GRAFICA`, which is
-/// made by the first one; while that form stands the main form is disabled, which the window system
-/// can't close either then, and its closing brings the main form back.
+/// made by the first one; while that form is open the main form is disabled, which the window
+/// system can't close either then, and its closing brings the main form back.
 class VisoreDisegni : public QObject {
  public:
     /// All three are not owned and must outlive the viewer.
@@ -26,10 +26,10 @@ class VisoreDisegni : public QObject {
     VisoreDisegni& operator=(const VisoreDisegni&) = delete;
     ~VisoreDisegni() override;
 
-    /// Returns when the form has been closed; at once when it does not stand.
+    /// Returns when the form has been closed; at once when it is not open.
     void attendi();
 
-    /// Closes the form, if it stands.
+    /// Closes the form, if it is open.
     void chiudi();
 
     /// The form; nullptr as long as nothing was drawn. It is hidden when it was closed.
