@@ -27,7 +27,7 @@ class Disco {
     /// @return its number, negative on failure
     [[nodiscard]] virtual int creaProvvisorio(std::string& modello) const = 0;
 
-    /// Writes where the file stands, as much as fits.
+    /// Writes at the place that the file has come to, as much as fits.
     /// @return how many bytes, negative on failure
     [[nodiscard]] virtual ssize_t scrivi(int file, std::string_view byte) const = 0;
 

@@ -3,9 +3,9 @@
 #include <string>
 #include <string_view>
 
-// What programs of this house leave behind when they are killed. Each of these files and folders is
-// locked by the program that uses it (file_custody.hpp), and the system ends the lock with the
-// program: one that nobody holds any more is swept away by whoever comes next.
+// What programs of this house leave when they are killed. Each of these files and folders is locked
+// by the program that uses it (file_custody.hpp), and the system ends the lock with the program:
+// one that nobody holds any more is swept away by whoever comes next.
 
 namespace korven::base {
 

@@ -21,12 +21,12 @@ class ZipWriter {
     ZipWriter& operator=(const ZipWriter&) = delete;
     ~ZipWriter();
 
-    /// Adds a file behind those that are there.
+    /// Adds a file after those that are there.
     /// @param name  with "/" between folders, ASCII
     /// @throws base::ErroreIndice for contents beyond the 32-bit lengths of the format
     void add(const std::string& name, std::string_view content, Packing packing);
 
-    /// What the archive begins with so far: its files, each behind its head.
+    /// What the archive begins with so far: its files, each after its head.
     [[nodiscard]] std::string_view files() const;
 
     /// Ends the archive with its directory and hands it out; nothing can be added then.
@@ -37,15 +37,15 @@ class ZipWriter {
     std::unique_ptr<State> state_;
 };
 
-/// A file that stands in an archive as it is, without compression.
+/// A file that an archive holds as it is, without compression.
 struct StoredFile {
     std::string content;
     std::size_t head = 0;  ///< where its head begins in the archive
 };
 
 /// Reads a file from an archive.
-/// @return nothing if these bytes are no archive, or if no file of that name stands there as it is
-///         and with the check sum of its head
+/// @return nothing if these bytes are no archive, or if it holds no file of that name as it is and
+///         with the check sum of its head
 [[nodiscard]] std::optional<StoredFile> storedFile(std::string_view archive, const char* name);
 
 /// Check sum of the archive format: CRC-32, polynomial EDB88320 (reflected), as in ISO 3309.
