@@ -44,6 +44,7 @@ void perdiLettore(int uscita) {
 
 [[noreturn]] void diventa(const std::string& programma, std::vector<char*> argomenti,
                           const Ambiente& ambiente) {
+    dimenticaLingua();
     for (const auto& [nome, valore] : ambiente.variabili) ::setenv(nome.c_str(), valore.c_str(), 1);
     if (!ambiente.cartella.empty() && ::chdir(ambiente.cartella.c_str()) != 0) ::_exit(127);
     if (ambiente.limiteFile) {
@@ -77,6 +78,10 @@ void leggiEntrambi(int uscita, int errori, EsitoProgramma& esito) {
 }
 
 }  // namespace
+
+void dimenticaLingua() {
+    for (const char* nome : {"LC_ALL", "LC_MESSAGES", "LANG"}) ::unsetenv(nome);
+}
 
 ProgrammaInCorso::ProgrammaInCorso(const std::string& programma,
                                    const std::vector<std::string>& argomenti,

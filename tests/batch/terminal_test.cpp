@@ -41,6 +41,7 @@ class SuTerminale : public test::BancoConsole {
             ::tcgetattr(STDIN_FILENO, &modi);
             modi.c_lflag |= NOFLSH;
             ::tcsetattr(STDIN_FILENO, TCSANOW, &modi);
+            test::dimenticaLingua();
             ::execv(puntatori[0], puntatori.data());
             ::_exit(127);
         }

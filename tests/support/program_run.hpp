@@ -27,7 +27,11 @@ struct Ambiente {
     bool uscitaNonLetta = false, erroriNonLetti = false;  ///< a pipe whose reader is gone
 };
 
-/// A program that runs beside the test. Its two outputs are kept in pipes until `attendi`.
+/// Takes what the machine says of its language out of the environment of this process.
+void dimenticaLingua();
+
+/// A program that runs beside the test and knows nothing of the machine's language. Its two outputs
+/// are kept in pipes until `attendi`.
 class ProgrammaInCorso {
  public:
     ProgrammaInCorso(const std::string& programma, const std::vector<std::string>& argomenti,
