@@ -29,6 +29,10 @@ namespace korven::base {
 [[nodiscard]] std::string nomeUscita(std::string_view progetto, std::string_view nome,
                                      std::string_view estensione);
 
+/// What the PDF file of a report is called after its project: the Italian word, and the one that
+/// the command line takes in all other languages.
+inline constexpr std::string_view parolaRelazione = "relazione", parolaReport = "report";
+
 /// Path of the PDF file of a project's report: "DIR/muro-relazione.pdf".
 [[nodiscard]] std::string nomePdfRelazione(std::string_view progetto);
 

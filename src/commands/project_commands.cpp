@@ -133,7 +133,8 @@ std::vector<std::string> relazioniRimaste(const std::string& progetto) {
     const std::string relazione = base::nomeRelazione(base::nomeRisultati(progetto));
     std::vector<std::string> rimaste;
     for (const auto& percorso : {relazione, nomeTesto(relazione), base::nomeDocumento(relazione),
-                                 base::nomePdfRelazione(progetto)}) {
+                                 base::nomePdfRelazione(progetto),
+                                 base::nomeUscita(progetto, base::parolaReport, "pdf")}) {
         std::error_code errore;
         if (fs::is_regular_file(percorso, errore) && !project::prendeIlPostoDelProgetto(percorso))
             rimaste.push_back(percorso);

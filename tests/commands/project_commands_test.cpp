@@ -295,6 +295,12 @@ TEST(RelazioniRimaste, AreThoseThatANewReportWouldReplace) {
     test::metti(cartella / "altro.TAB", "x");
     EXPECT_EQ(relazioniRimaste(cartella / "altro.v2.kvd"),
               std::vector<std::string>{cartella / "altro.TAB"});
+    std::vector<std::string> pdf;
+    for (const char* nome : {"pdf-relazione.pdf", "pdf-report.pdf"}) {  // of either language
+        pdf.push_back(cartella / nome);
+        test::metti(pdf.back(), "x");
+        EXPECT_EQ(relazioniRimaste(cartella / "pdf.kvd"), pdf);
+    }
 }
 
 TEST(RelazioneAltrove, IsOneWhosePathIsCutBeforeTheExtension) {

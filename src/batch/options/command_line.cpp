@@ -1,18 +1,17 @@
+#include "batch/options/command_line.hpp"
+
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <iostream>
-#include <limits>
-#include <map>
-#include <tuple>
+#include <memory>
 #include <utility>
 
-#include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
 #include "base/version.hpp"
-#include "batch/options/options.hpp"
-#include "batch/options/paper.hpp"
 #include "batch/options/wrong_usage.hpp"
-#include "device/drawing_files.hpp"
-#include "project/project_data.hpp"
+
+// The rows of options and commands in the hands of the library that reads the command line. No
+// other file includes it: it takes the compiler seconds.
 
 namespace korven::batch {
 
@@ -20,42 +19,52 @@ namespace {
 
 using base::traduttore;
 
-const std::map<std::string, double> metodi = {{"coulomb", 1}, {"rankine", 2}, {"bell", 3}};
-const std::map<std::string, bool> risposteEJ = {{"mantieni", false}, {"ricalcola", true}};
+const Gemelli aiuto{"--aiuto", "--help"}, versione{"--versione", "--version"};
 
-const std::map<std::string, analysis::Diagramma>& tipi() {
-    static const auto tabella = [] {
-        std::map<std::string, analysis::Diagramma> nomi;
-        for (const auto& riga : analysis::diagrammi) nomi.emplace(riga.nome, riga.diagramma);
-        return nomi;
-    }();
-    return tabella;
-}
+// Shows of twins the one of the language in use.
+class Aiuto : public CLI::Formatter {
+ public:
+    void tace(const std::string& nome) { taciuti_.push_back(nome); }
 
-std::string chiavi(const auto& tabella) {
-    std::string testo;
-    for (const auto& [chiave, valore] : tabella) testo += (testo.empty() ? "" : "|") + chiave;
-    return testo;
-}
+    std::string make_option_name(const CLI::Option* opzione, bool perPosto) const override {
+        if (perPosto) return opzione->get_name(true);
+        std::vector<std::string> nomi;
+        for (const auto& nome : opzione->get_snames()) nomi.push_back("-" + nome);
+        for (const auto& nome : opzione->get_lnames())
+            if (mostra("--" + nome)) nomi.push_back("--" + nome);
+        return CLI::detail::join(nomi);
+    }
+    std::string make_subcommand(const CLI::App* comando) const override {
+        std::ostringstream riga;
+        CLI::detail::format_help(riga, comando->get_name(), comando->get_description(),
+                                 get_column_width());
+        return riga.str();
+    }
 
-// A check would write its own name after that of the value in the help.
-CLI::Validator senzaNome(const CLI::Validator& controllo) { return controllo.description(""); }
+ private:
+    [[nodiscard]] bool mostra(const std::string& nome) const {
+        return std::find(taciuti_.begin(), taciuti_.end(), nome) == taciuti_.end();
+    }
+    std::vector<std::string> taciuti_;
+};
 
-// A path without a character names nothing.
-const CLI::Validator nonVuoto([](std::string& testo) { return testo.empty() ? "?" : ""; }, "");
+class Lettura {
+ public:
+    Lettura(Opzioni& opzioni, const std::vector<RigaComando>& comandi);
+    EsitoLettura leggi(int argc, const char* const* argv);
 
-// The library takes any next argument for the value, even "--json", and would make that folder.
-const CLI::Validator percorso(
-    [](std::string& testo) { return testo.empty() || testo.starts_with('-') ? "?" : ""; }, "");
+ private:
+    void domande(CLI::App& app);
+    void aggiungi(CLI::App& comando, const Opzione& riga);
+    bool accetta(const Opzione& riga, const std::string& valore);
+    [[nodiscard]] std::string spiegazione(const CLI::ParseError& errore) const;
+    [[nodiscard]] std::string argomentiDiTroppo() const;
 
-// Whether the number will do is for the run to say; what is none is a slip of the pen.
-const CLI::Validator numero([](std::string& testo) { return base::soloUnNumero(testo) ? "" : "?"; },
-                            "");
-
-void versione(CLI::App& app) {
-    app.set_version_flag("--version,--versione", std::string(base::nomeEVersione),
-                         traduttore("mostra la versione"));
-}
+    Opzioni& o_;
+    const std::vector<RigaComando>& comandi_;
+    std::shared_ptr<Aiuto> formato_ = std::make_shared<Aiuto>();
+    CLI::App app_;
+};
 
 // The words of the help itself.
 void intestazioni(CLI::App& app) {
@@ -69,193 +78,116 @@ void intestazioni(CLI::App& app) {
     app.option_defaults()->group(traduttore("Opzioni"));
 }
 
-// The options that every command takes.
-void comuni(CLI::App& comando, Opzioni& o) {
-    comando.group(traduttore("Comandi"));
-    comando.set_help_flag("-h,--help,--aiuto", traduttore("mostra questo aiuto"));
-    versione(comando);
-    comando.add_option("--cartella", o.cartella, traduttore("cartella del programma"))
-        ->type_name("DIR")
-        ->check(percorso)
-        ->check(senzaNome(CLI::ExistingDirectory));
-    comando.add_option("--lingua", o.lingua, traduttore("lingua dei testi"))
-        ->type_name("ita|deu|fra|esp|eng|por")
-        ->check(senzaNome(CLI::IsMember({"ita", "deu", "fra", "esp", "eng", "por"})));
-    comando.add_flag("--json", o.json,
-                     traduttore("scrive l'esito in formato JSON sull'uscita normale"));
-    comando.add_flag("--silenzioso", o.silenzioso,
-                     traduttore("non mostra l'avanzamento né la tabella dei risultati"));
+std::string nomi(const Gemelli& nome) {
+    const auto& [uno, altro] = std::pair(nome.mostrato(), nome.taciuto());
+    return uno == altro ? uno : uno + "," + altro;
 }
 
-void diProgetto(CLI::App& comando, Opzioni& o) {
-    comando.add_option("progetto", o.progetto, traduttore("file di progetto"))
-        ->type_name("PROGETTO.kvd")
-        ->check(nonVuoto)
-        ->required();
-    comuni(comando, o);
+Lettura::Lettura(Opzioni& opzioni, const std::vector<RigaComando>& comandi)
+    : o_(opzioni),
+      comandi_(comandi),
+      app_("KORVEN 32 - " + traduttore("Dimensionamento di Paratie e Diaframmi"), "korven32c") {
+    app_.formatter(formato_);
+    intestazioni(app_);
+    domande(app_);
+    app_.require_subcommand(1);
+    // In Italian the help has always shown both names of what every program is asked.
+    if (aiuto.mostrato() == aiuto.inglese)
+        for (const auto& nome : {aiuto, versione}) formato_->tace(nome.taciuto());
+    for (const auto& riga : comandi_) {
+        auto* comando = app_.add_subcommand(riga.nome.mostrato(), traduttore(riga.spiegazione));
+        if (riga.nome.mostrato() != riga.nome.taciuto()) comando->alias(riga.nome.taciuto());
+        comando->group(traduttore("Comandi"));
+        // An argument by its place comes first, then what every program is asked.
+        for (const bool perPosto : {true, false}) {
+            for (const auto& opzione : riga.opzioni)
+                if (opzione.perPosto() == perPosto) aggiungi(*comando, opzione);
+            if (perPosto) domande(*comando);
+        }
+        comando->final_callback([this, &riga] { o_.comando = &riga; });
+    }
 }
 
-// The options of the commands for which the analysis matters.
-void diModello(CLI::App& comando, Opzioni& o) {
-    diProgetto(comando, o);
-    comando
-        .add_option("--uscita", o.uscita,
-                    traduttore("scrive i risultati in questa cartella, non accanto al progetto"))
-        ->type_name("DIR")
-        ->check(percorso);
-    comando
-        .add_option_function<std::string>(
-            "--metodo-spinte", [&o](const std::string& nome) { o.metodoSpinte = metodi.at(nome); },
-            traduttore("metodo delle spinte (un progetto si riapre sempre con Coulomb)"))
-        ->type_name(chiavi(metodi))
-        ->check(senzaNome(CLI::IsMember(metodi)));
-    comando.add_option("--nseg", o.nseg, traduttore("numero di segmenti, al posto di nseg.txt"))
-        ->type_name("N")
-        ->check(numero);
+void Lettura::domande(CLI::App& app) {
+    app.set_help_flag("-h," + aiuto.inglese + "," + aiuto.italiano,
+                      traduttore("mostra questo aiuto"));
+    app.set_version_flag(versione.inglese + "," + versione.italiano,
+                         std::string(base::nomeEVersione), traduttore("mostra la versione"));
 }
 
-// The options of the commands that run the analysis.
-void diCalcolo(CLI::App& comando, Opzioni& o) {
-    diModello(comando, o);
-    comando
-        .add_option_function<std::string>(
-            "--ej", [&o](const std::string& nome) { o.ricalcolaEJ = risposteEJ.at(nome); },
-            traduttore("rigidezza EJ scritta nel progetto o ricalcolata dalla sezione"))
-        ->type_name(chiavi(risposteEJ))
-        ->check(senzaNome(CLI::IsMember(risposteEJ)));
-    comando
-        .add_option("--max-iterazioni", o.maxIterazioni,
-                    traduttore("ferma una fase che non converge; 0 per nessun limite"))
-        ->type_name("N")
-        ->check(senzaNome(CLI::Range(std::numeric_limits<int>::max())))
-        ->capture_default_str();
+void Lettura::aggiungi(CLI::App& comando, const Opzione& riga) {
+    const std::string spiegazione = traduttore(riga.spiegazione) + riga.coda;
+    if (riga.nome.mostrato() != riga.nome.taciuto()) formato_->tace(riga.nome.taciuto());
+    if (const auto* segna = std::get_if<Segna>(&riga.azione)) {
+        comando.add_flag_callback(
+            nomi(riga.nome), [this, segna] { (*segna)(o_); }, spiegazione);
+        return;
+    }
+    // What is typed is taken by the check: the library looks at it before it counts how often the
+    // option was given.
+    auto* opzione = comando.add_option(riga.perPosto() ? riga.nome.mostrato() : nomi(riga.nome),
+                                       CLI::callback_t([](const CLI::results_t&) { return true; }),
+                                       spiegazione);
+    opzione->check(
+        [this, &riga](const std::string& v) -> std::string { return accetta(riga, v) ? "" : "?"; });
+    opzione->type_name(riga.valoreMostrato())->type_size(1);
+    opzione->expected(riga.ripetibile ? CLI::detail::expected_max_vector_size : 1);
+    if (riga.ripetibile) opzione->delimiter(',');
+    opzione->required(riga.obbligatoria)->default_str(riga.predefinito);
 }
 
-// What the report leaves besides its mark-up.
-void diRelazione(CLI::App& comando, FormeRelazione& forme) {
-    comando.add_flag("--txt", forme.testo, traduttore("scrive anche il testo semplice"));
-    comando.add_flag("--doc", forme.documento,
-                     traduttore("scrive anche il documento per elaboratori di testi (DOC)"));
-    comando.add_option("--pdf", forme.pdf, traduttore("scrive la relazione in formato PDF"))
-        ->type_name("FILE")
-        ->check(percorso);
-    comando
-        .add_option("--stampa", forme.stampante,
-                    traduttore("stampa la relazione su questa stampante"))
-        ->type_name("NOME")
-        ->check(percorso);
+bool Lettura::accetta(const Opzione& riga, const std::string& valore) {
+    if (const auto* leggi = std::get_if<Leggi>(&riga.azione)) return (*leggi)(o_, valore);
+    if (const auto* conta = std::get_if<Conta>(&riga.azione)) {
+        int& numero = conta->dove(o_);
+        return CLI::detail::lexical_cast(valore, numero) && numero >= conta->minimo &&
+               numero <= conta->massimo;
+    }
+    for (std::size_t i = 0; i < riga.valori.size(); ++i) {
+        if (!riga.valori[i].comprende(valore)) continue;
+        std::get<Scegli>(riga.azione)(o_, i);
+        return true;
+    }
+    return false;
 }
 
-// The files of a drawing.
-void diDisegno(CLI::App& comando, Opzioni& o) {
-    const std::tuple<const char*, std::string FormeDisegno::*, const char*> forme[] = {
-        {"--dxf", &FormeDisegno::dxf, "scrive il disegno in formato DXF"},
-        {"--pdf", &FormeDisegno::pdf, "scrive il disegno in formato PDF"},
-        {"--svg", &FormeDisegno::svg, "scrive il disegno in formato SVG"},
-        {"--png", &FormeDisegno::png, "scrive il disegno in formato PNG"},
-    };
-    for (const auto& [nome, file, spiegazione] : forme)
-        comando.add_option(nome, o.disegno.*file, traduttore(spiegazione))
-            ->type_name("FILE")
-            ->check(percorso);
+// The option that the library complains about: its text has the name first, then the value.
+const CLI::Option* opzioneDetta(const CLI::App& comando, const std::string& detto) {
+    const CLI::Option* trovata = nullptr;
+    std::size_t posto = std::string::npos, lunghezza = 0;
+    for (const auto* opzione : comando.get_options()) {
+        const std::string nome = opzione->get_name();
+        const std::size_t qui = nome.empty() ? std::string::npos : detto.find(nome);
+        if (qui == std::string::npos || qui > posto || (qui == posto && nome.size() < lunghezza))
+            continue;
+        trovata = opzione;
+        posto = qui;
+        lunghezza = nome.size();
+    }
+    return trovata;
 }
 
-void risoluzione(CLI::App& comando, Opzioni& o) {
-    comando.add_option("--dpi", o.disegno.dpi, traduttore("punti per pollice dei file PNG"))
-        ->type_name("N")
-        ->check(senzaNome(CLI::Range(device::risoluzioneMinima, device::risoluzioneMassima)))
-        ->capture_default_str();
+std::string Lettura::argomentiDiTroppo() const {
+    const auto prima = app_.remaining(false);
+    for (const auto& argomento : prima)
+        if (argomento.starts_with('-')) return primaDelComando(argomento);
+    return argomentoSconosciuto(prima.empty() ? app_.get_subcommands().front()->remaining(true)
+                                              : prima);
 }
 
-void foglio(CLI::App& comando, Opzioni& o) {
-    comando
-        .add_option_function<std::string>(
-            "--foglio", [&o](const std::string& nome) { o.disegno.foglio = fogli().at(nome); },
-            traduttore("foglio della stampante, dalla cui altezza dipende la colonna") + " [A4]")
-        ->type_name(chiavi(fogli()))
-        ->check(senzaNome(CLI::IsMember(fogli())));
-}
-
-using Preparazione = void (*)(CLI::App&, Opzioni&);
-
-struct RigaComando {
-    Comando comando;
-    const char* nome;
-    const char* spiegazione;
-    Preparazione opzioni;
-};
-
-// In the order of the help.
-const RigaComando righeComandi[] = {
-    {Comando::calcola, "calcola", "esegue il calcolo per fasi e mostra una riga per fase",
-     [](CLI::App& c, Opzioni& o) {
-         diCalcolo(c, o);
-         c.add_flag("--traccia", o.traccia,
-                    traduttore("mostra i cambi di stato delle fasi con più di 20 iterazioni"));
-     }},
-    {Comando::relazione, "relazione", "esegue il calcolo e scrive la relazione (TAB)",
-     [](CLI::App& c, Opzioni& o) {
-         diCalcolo(c, o);
-         diRelazione(c, o.relazione);
-     }},
-    {Comando::verifica, "verifica",
-     "dice che cosa manca o è strano nel progetto, senza scrivere risultati", diModello},
-    {Comando::diagramma, "diagramma", "esegue il calcolo e disegna un diagramma",
-     [](CLI::App& c, Opzioni& o) {
-         diCalcolo(c, o);
-         c.add_option_function<std::string>(
-              "--tipo", [&o](const std::string& nome) { o.tipo = tipi().at(nome); },
-              traduttore("grandezza del diagramma"))
-             ->type_name(chiavi(tipi()))
-             ->check(senzaNome(CLI::IsMember(tipi())))
-             ->required();
-         c.add_option("--fase", o.fase, traduttore("fase da disegnare; 0 per tutte"))
-             ->type_name("N")
-             ->check(senzaNome(CLI::Range(0, project::massimoFasi)));
-         diDisegno(c, o);
-         risoluzione(c, o);
-     }},
-    {Comando::sezione, "sezione", "disegna la sezione strutturale",
-     [](CLI::App& c, Opzioni& o) {
-         diProgetto(c, o);
-         diDisegno(c, o);
-         risoluzione(c, o);
-     }},
-    {Comando::stratigrafia, "stratigrafia", "disegna la colonna stratigrafica",
-     [](CLI::App& c, Opzioni& o) {
-         diProgetto(c, o);
-         diDisegno(c, o);
-         risoluzione(c, o);
-         foglio(c, o);
-     }},
-    {Comando::campiture, "campiture", "disegna i campioni di tutte le campiture",
-     [](CLI::App& c, Opzioni& o) {
-         comuni(c, o);
-         diDisegno(c, o);
-         risoluzione(c, o);
-     }},
-    {Comando::tutto, "tutto", "scrive la relazione in ogni formato e tutti i disegni",
-     [](CLI::App& c, Opzioni& o) {
-         diCalcolo(c, o);
-         c.get_option("--uscita")->required();
-         c.add_option("--formati", o.formati, traduttore("formati dei disegni"))
-             ->type_name("pdf,dxf,svg,png")
-             ->delimiter(',')
-             ->check(senzaNome(CLI::IsMember({"pdf", "dxf", "svg", "png"})))
-             ->capture_default_str();
-         risoluzione(c, o);
-     }},
-};
-
-std::vector<std::string> nomiComandi() {
-    std::vector<std::string> nomi;
-    for (const auto& riga : righeComandi) nomi.emplace_back(riga.nome);
-    return nomi;
-}
-
-bool disegna(Comando comando) {
-    return comando == Comando::diagramma || comando == Comando::sezione ||
-           comando == Comando::stratigrafia || comando == Comando::campiture;
+// The library's own words are English and are not shown.
+std::string Lettura::spiegazione(const CLI::ParseError& errore) const {
+    const auto codice = static_cast<CLI::ExitCodes>(errore.get_exit_code());
+    if (codice == CLI::ExitCodes::ExtrasError) return argomentiDiTroppo();
+    const CLI::Option* opzione = opzioneDetta(*app_.get_subcommands().front(), errore.what());
+    if (opzione == nullptr) return traduttore("valore non ammesso");
+    const bool perPosto = opzione->get_positional();
+    const std::string nome = perPosto ? opzione->get_type_name() : opzione->get_name();
+    const auto& valori = opzione->results();
+    if (codice == CLI::ExitCodes::RequiredError) return mancaArgomento(nome);
+    if (codice == CLI::ExitCodes::ArgumentMismatch)
+        return valori.size() > 1 ? dataPiuVolte(nome) : mancaValore(nome);
+    return valoreNonAmmesso(nome, valori, perPosto ? "" : opzione->get_type_name());
 }
 
 EsitoLettura rifiuta(const std::string& perche) {
@@ -264,50 +196,36 @@ EsitoLettura rifiuta(const std::string& perche) {
     return {std::nullopt, 2};
 }
 
-}  // namespace
-
-const char* nomeComando(Comando comando) {
-    for (const auto& riga : righeComandi)
-        if (riga.comando == comando) return riga.nome;
-    return "";
-}
-
-EsitoLettura leggiOpzioni(int argc, const char* const* argv) {
-    Opzioni o;
-    CLI::App app("KORVEN 32 - " + traduttore("Dimensionamento di Paratie e Diaframmi"),
-                 "korven32c");
-    intestazioni(app);
-    app.set_help_flag("-h,--help,--aiuto", traduttore("mostra questo aiuto"));
-    versione(app);
-    app.require_subcommand(1);
-
-    for (const auto& riga : righeComandi) {
-        auto* comando = app.add_subcommand(riga.nome, traduttore(riga.spiegazione));
-        riga.opzioni(*comando, o);
-        comando->final_callback([&o, &riga] { o.comando = riga.comando; });
-    }
-
+EsitoLettura Lettura::leggi(int argc, const char* const* argv) {
     if (const auto perche = valoreVuoto(argc, argv); !perche.empty()) return rifiuta(perche);
     try {
-        app.parse(argc, argv);
+        app_.parse(argc, argv);
     } catch (const CLI::Success& chiesto) {  // help and version
-        return {std::nullopt, app.exit(chiesto)};
+        return {std::nullopt, app_.exit(chiesto)};
     } catch (const CLI::ParseError& errore) {
-        const bool senzaComando = app.get_subcommands().empty();
-        return rifiuta(senzaComando ? comandoMancante(argc, argv, nomiComandi())
-                                    : spiegazioneUso(app, errore));
+        const bool senzaComando = app_.get_subcommands().empty();
+        return rifiuta(senzaComando ? comandoMancante(argc, argv, comandi_) : spiegazione(errore));
     }
-    if (disegna(o.comando) && o.disegno.nessuna())
-        return rifiuta(traduttore("manca un argomento") + ": --dxf, --pdf, --svg, --png");
-    return {o, 0};
+    if (o_.comando->disegna && o_.disegno.nessuna())
+        return rifiuta(mancaArgomento("--dxf, --pdf, --svg, --png"));
+    return {o_, 0};
 }
 
-std::string valoreAnticipato(int argc, const char* const* argv, const std::string& nome) {
+}  // namespace
+
+EsitoLettura leggiOpzioni(int argc, const char* const* argv,
+                          const std::vector<RigaComando>& comandi) {
+    Opzioni opzioni;
+    return Lettura(opzioni, comandi).leggi(argc, argv);
+}
+
+std::string valoreAnticipato(int argc, const char* const* argv, const Gemelli& nome) {
     for (int i = 1; i < argc; ++i) {
         const std::string argomento = argv[i];
         if (argomento == "--") return {};  // after it there are no options
-        if (argomento.starts_with(nome + "=")) return argomento.substr(nome.size() + 1);
-        if (argomento != nome) continue;
+        const auto uguale = argomento.find('=');
+        if (!nome.comprende(argomento.substr(0, uguale))) continue;
+        if (uguale != std::string::npos) return argomento.substr(uguale + 1);
         const std::string valore = i + 1 < argc ? argv[i + 1] : "";
         return valore.starts_with('-') ? "" : valore;  // an option is no value
     }

@@ -2,15 +2,19 @@
 
 namespace korven::batch {
 
-const std::map<std::string, plot::Foglio>& fogli() {
+const std::vector<FoglioConNome>& fogli() {
     static const auto tutti = [] {
-        const std::map<std::string, plot::Foglio> verticali = {
-            {"A3", {29.7, 42.0}},      {"A4", {21.0, 29.7}},       {"A5", {14.8, 21.0}},
-            {"Legal", {21.59, 35.56}}, {"Letter", {21.59, 27.94}},
+        const FoglioConNome verticali[] = {
+            {uguali("A3"), {29.7, 42.0}},       {uguali("A4"), {21.0, 29.7}},
+            {uguali("A5"), {14.8, 21.0}},       {uguali("Legal"), {21.59, 35.56}},
+            {uguali("Letter"), {21.59, 27.94}},
         };
-        auto fatti = verticali;
-        for (const auto& [nome, foglio] : verticali)
-            fatti[nome + "-orizzontale"] = {foglio.altezza, foglio.larghezza};
+        std::vector<FoglioConNome> fatti;
+        for (const auto& [nome, foglio] : verticali) {
+            fatti.push_back({nome, foglio});
+            fatti.push_back({{nome.italiano + "-orizzontale", nome.inglese + "-landscape"},
+                             {foglio.altezza, foglio.larghezza}});
+        }
         return fatti;
     }();
     return tutti;

@@ -1,13 +1,18 @@
 #pragma once
 
-#include <map>
-#include <string>
+#include <vector>
 
+#include "batch/options/twins.hpp"
 #include "plot/geometry.hpp"
 
 namespace korven::batch {
 
-/// The sheets that a drawing can be made for, by name: "A4" upright, "A4-orizzontale" lying. [cm]
-[[nodiscard]] const std::map<std::string, plot::Foglio>& fogli();
+struct FoglioConNome {
+    Gemelli nome;
+    plot::Foglio foglio;  ///< [cm]
+};
+
+/// The sheets that a drawing can be made for: "A4" upright, "A4-orizzontale" lying.
+[[nodiscard]] const std::vector<FoglioConNome>& fogli();
 
 }  // namespace korven::batch

@@ -16,75 +16,52 @@ std::string uniti(const std::vector<std::string>& parole, const char* prima = " 
     return testo;
 }
 
-// The option that the library complains about: its text has the name first, the value after it.
-const CLI::Option* opzioneDetta(const CLI::App& comando, const std::string& detto) {
-    const CLI::Option* trovata = nullptr;
-    std::size_t posto = std::string::npos, lunghezza = 0;
-    for (const auto* opzione : comando.get_options()) {
-        const std::string nome = opzione->get_name();
-        const std::size_t qui = nome.empty() ? std::string::npos : detto.find(nome);
-        if (qui == std::string::npos || qui > posto || (qui == posto && nome.size() < lunghezza))
-            continue;
-        trovata = opzione;
-        posto = qui;
-        lunghezza = nome.size();
-    }
-    return trovata;
+}  // namespace
+
+std::string mancaArgomento(const std::string& nome) {
+    return traduttore("manca un argomento") + ": " + nome;
 }
 
-std::string nomeMostrato(const CLI::Option& opzione) {
-    return opzione.get_positional() ? opzione.get_type_name() : opzione.get_name();
+std::string mancaValore(const std::string& nome) {
+    return traduttore("manca il valore di un'opzione") + ": " + nome;
+}
+
+std::string dataPiuVolte(const std::string& nome) {
+    return traduttore("un'opzione è data più volte") + ": " + nome;
+}
+
+std::string valoreNonAmmesso(const std::string& nome, const std::vector<std::string>& valori,
+                             const std::string& ammessi) {
+    return traduttore("valore non ammesso") + ": " + nome + uniti(valori) +
+           (ammessi.empty() ? "" : " (" + ammessi + ")");
+}
+
+std::string argomentoSconosciuto(const std::vector<std::string>& argomenti) {
+    return traduttore("argomento sconosciuto") + ":" + uniti(argomenti);
 }
 
 std::string primaDelComando(const std::string& opzione) {
     return traduttore("le opzioni stanno dopo il comando") + ": " + opzione;
 }
 
-// What comes before the command belongs to the program, which has no options but help and version.
-std::string argomentiDiTroppo(const CLI::App& programma) {
-    const auto prima = programma.remaining(false);
-    for (const auto& argomento : prima)
-        if (argomento.starts_with('-')) return primaDelComando(argomento);
-    return traduttore("argomento sconosciuto") + ":" +
-           uniti(prima.empty() ? programma.get_subcommands().front()->remaining(true) : prima);
-}
-
-}  // namespace
-
-std::string spiegazioneUso(const CLI::App& programma, const CLI::ParseError& errore) {
-    const auto codice = static_cast<CLI::ExitCodes>(errore.get_exit_code());
-    if (codice == CLI::ExitCodes::ExtrasError) return argomentiDiTroppo(programma);
-    const CLI::App& comando = *programma.get_subcommands().front();
-    const CLI::Option* opzione = opzioneDetta(comando, errore.what());
-    if (opzione == nullptr) return traduttore("valore non ammesso");
-    const std::string nome = ": " + nomeMostrato(*opzione);
-    if (codice == CLI::ExitCodes::RequiredError) return traduttore("manca un argomento") + nome;
-    if (codice == CLI::ExitCodes::ArgumentMismatch)
-        return traduttore(opzione->results().size() > 1 ? "un'opzione è data più volte"
-                                                        : "manca il valore di un'opzione") +
-               nome;
-    const std::string tipo = opzione->get_positional() ? "" : opzione->get_type_name();
-    const std::string ammessi = tipo.empty() ? "" : " (" + tipo + ")";
-    return traduttore("valore non ammesso") + nome + uniti(opzione->results()) + ammessi;
-}
-
 std::string valoreVuoto(int argc, const char* const* argv) {
     for (int i = 1; i < argc && std::string_view(argv[i]) != "--"; ++i) {
         const std::string_view argomento = argv[i];
         if (argomento.starts_with("--") && argomento.ends_with('='))
-            return traduttore("manca il valore di un'opzione") + ": " +
-                   std::string(argomento.substr(0, argomento.size() - 1));
+            return mancaValore(std::string(argomento.substr(0, argomento.size() - 1)));
     }
     return {};
 }
 
 // The library only says that a command is required, whatever is in its place.
 std::string comandoMancante(int argc, const char* const* argv,
-                            const std::vector<std::string>& comandi) {
+                            const std::vector<RigaComando>& comandi) {
     if (argc > 1 && std::string_view(argv[1]).starts_with('-')) return primaDelComando(argv[1]);
+    std::vector<std::string> nomi;
+    for (const auto& comando : comandi) nomi.push_back(comando.nome.mostrato());
     return (argc > 1 ? traduttore("comando sconosciuto") + " (" + argv[1] + ")"
                      : traduttore("manca il comando")) +
-           ":" + uniti(comandi, ", ");
+           ":" + uniti(nomi, ", ");
 }
 
 }  // namespace korven::batch

@@ -1,21 +1,34 @@
 #pragma once
 
-#include <CLI/CLI.hpp>
 #include <string>
+#include <vector>
+
+#include "batch/options/command.hpp"
+
+// What is wrong with a command line, in the language in use. Options and commands are called by the
+// names that are shown in it, whichever were typed.
 
 namespace korven::batch {
 
-/// What is wrong with a command line whose command is known, in the language in force: the
-/// library's own words are English and are not shown.
-/// @param programma  the program, of whose commands one was given
-[[nodiscard]] std::string spiegazioneUso(const CLI::App& programma, const CLI::ParseError& errore);
+/// @param nome  of an option, or the word of an argument by its place
+[[nodiscard]] std::string mancaArgomento(const std::string& nome);
+[[nodiscard]] std::string mancaValore(const std::string& nome);
+[[nodiscard]] std::string dataPiuVolte(const std::string& nome);
+/// @param valori   as typed
+/// @param ammessi  what may stand there; empty: not told
+[[nodiscard]] std::string valoreNonAmmesso(const std::string& nome,
+                                           const std::vector<std::string>& valori,
+                                           const std::string& ammessi);
+[[nodiscard]] std::string argomentoSconosciuto(const std::vector<std::string>& argomenti);
+/// An option in front of the command, where the program has none but its help and version.
+[[nodiscard]] std::string primaDelComando(const std::string& opzione);
 
-/// What is wrong with an option written "--uscita=" without a value, for which the library would
-/// take the next argument; empty if there is none.
+/// An option written "--uscita=" without a value, for which the library would take the next
+/// argument; empty if there is none.
 [[nodiscard]] std::string valoreVuoto(int argc, const char* const* argv);
 
-/// The same for one without a command that exists.
+/// A command line without a command that exists.
 [[nodiscard]] std::string comandoMancante(int argc, const char* const* argv,
-                                          const std::vector<std::string>& comandi);
+                                          const std::vector<RigaComando>& comandi);
 
 }  // namespace korven::batch

@@ -6,6 +6,7 @@
 #include "analysis/run_flags.hpp"
 #include "base/file_names.hpp"
 #include "base/translated_texts.hpp"
+#include "batch/run/failure.hpp"
 #include "project/project_data.hpp"
 
 namespace korven::batch {
@@ -56,6 +57,12 @@ bool CorsaConsole::esegui(analysis::ModoUscita modoUscita, analysis::UscitaCalco
     esito_.giaAggiornato = !controllo.calcolato();
     if (controllo.calcolato()) esito_.fasi = controllo.fasi();
     return true;
+}
+
+int CorsaConsole::concludi() {
+    if (interrotta()) return nonEseguito;
+    esito_.calcolo = commands::leggiEsito();
+    return fatto;
 }
 
 bool CorsaConsole::interrotta() {

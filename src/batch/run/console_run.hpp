@@ -29,6 +29,11 @@ class CorsaConsole {
 
     [[nodiscard]] base::Dialogo& dialogo() { return dialogo_; }
 
+    /// Reads what the run has left behind into the outcome, unless it was interrupted after its
+    /// calculation.
+    /// @return the exit code
+    [[nodiscard]] int concludi();
+
     /// True after an interrupt that found the calculation finished; tells what that means.
     [[nodiscard]] bool interrotta();
 

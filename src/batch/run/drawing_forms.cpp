@@ -8,8 +8,11 @@
 #include "base/file_identity.hpp"
 #include "base/file_names.hpp"
 #include "base/translated_texts.hpp"
+#include "batch/run/console_run.hpp"
+#include "batch/run/failure.hpp"
 #include "batch/run/interruption.hpp"
 #include "batch/run/output_names.hpp"
+#include "commands/log_limit.hpp"
 #include "device/drawing_files.hpp"
 #include "device/drawing_fonts.hpp"
 #include "device/graphics_session.hpp"
@@ -72,11 +75,28 @@ AmbienteDisegno::~AmbienteDisegno() {
     plot::statoPlot.sorveglia = nullptr;
 }
 
-void scriviDisegno(const FormeDisegno& forme) {
+void scriviDisegno(const FormeDisegno& forme, Esito& esito) {
     if (!forme.dxf.empty()) plot::plotDxf(forme.dxf);
     if (!forme.pdf.empty()) device::scriviPdf(forme.pdf, forme.foglio);
     if (!forme.svg.empty()) device::scriviSvg(forme.svg);
     if (!forme.png.empty()) device::scriviPng(forme.png, forme.dpi);
+    for (const std::string& file : forme.file()) esito.fileScritti.push_back(file);
+}
+
+int disegna(const FormeDisegno& forme, Esito& esito, const std::function<bool()>& disegno) {
+    controllaUscite(forme);
+    const Interruzioni interruzioni;
+    const AmbienteDisegno ambiente(forme.dipinte());
+    if (!disegno()) return nonEseguito;
+    scriviDisegno(forme, esito);
+    return fatto;
+}
+
+bool stratigrafiaTroppoAlta(Esito& esito) {
+    const std::string perche = commands::rifiutoStratigrafia(project::Progetto);
+    if (perche.empty()) return false;
+    racconta({perche}, esito);
+    return true;
 }
 
 }  // namespace korven::batch

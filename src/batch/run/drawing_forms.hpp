@@ -1,8 +1,10 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 
 #include "batch/options/forms.hpp"
+#include "batch/run/outcome.hpp"
 
 namespace korven::batch {
 
@@ -28,9 +30,19 @@ class AmbienteDisegno {
     std::unique_ptr<Metrica> metrica_;
 };
 
-/// Writes the stored drawing.
+/// Writes the stored drawing and names its files in the outcome.
 /// @pre an AmbienteDisegno lives, a painting one if a file is to be painted
 /// @throws base::ErroreFile with the system's reason
-void scriviDisegno(const FormeDisegno& forme);
+void scriviDisegno(const FormeDisegno& forme, Esito& esito);
+
+/// Makes one drawing and writes it; its names are looked at before.
+/// @param disegno  leaves the drawing in the store, or returns false and has told why not
+/// @return the exit code
+/// @throws base::ErroreFile if a file can't be read or written
+[[nodiscard]] int disegna(const FormeDisegno& forme, Esito& esito,
+                          const std::function<bool()>& disegno);
+
+/// True for a log that is too high to be drawn, which is told.
+[[nodiscard]] bool stratigrafiaTroppoAlta(Esito& esito);
 
 }  // namespace korven::batch

@@ -12,7 +12,8 @@ namespace korven::batch {
 
 /// What a command has to tell, whether as text or as JSON.
 struct Esito {
-    std::string comando;
+    std::string comando;       ///< its Italian name, whatever the language
+    bool soloRilievi = false;  ///< its outcome is the remarks alone
     std::string progetto;
     int codice = 0;                     ///< exit code
     bool progettoLetto = false;         ///< the project could be read

@@ -103,7 +103,7 @@ std::string json(const Esito& esito) {
     Json j = {{"programma", "KORVEN 32"}, {"versione", base::versione},
               {"comando", esito.comando}, {"progetto", esito.progetto},
               {"codice", esito.codice},   {"messaggi", esito.messaggi}};
-    if (esito.comando == "verifica") {
+    if (esito.soloRilievi) {
         j["calcolabile"] = esito.codice == 0;
         j["rilievi"] = rilievi(esito);
     } else {

@@ -22,6 +22,10 @@ std::vector<std::string> fileDelProgetto() {
     return {risultati, relazione, commands::nomeTesto(relazione), base::nomeDocumento(relazione)};
 }
 
+std::string nomeProprio(const Gemelli& nome, const std::string& estensione) {
+    return base::nomeUscita(project::fileCorrente, nome.mostrato(), estensione);
+}
+
 void controllaNomi(const std::vector<std::string>& uscite, const std::vector<std::string>& altri) {
     for (std::size_t i = 0; i < uscite.size(); ++i) {
         for (const auto& altro : altri)

@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "batch/options/twins.hpp"
+
 namespace korven::batch {
 
 /// Two files of one command would become one: wrong usage, found before anything is computed.
@@ -15,6 +17,10 @@ class NomiInConflitto : public std::runtime_error {
 /// The result file of the current project and its report in each of its forms, as mark-up, text
 /// and word-processor file; none without a project. They need not exist.
 [[nodiscard]] std::vector<std::string> fileDelProgetto();
+
+/// Path of a file that a command names itself, beside the results: "DIR/muro-momenti.pdf", in
+/// English "DIR/muro-moments.pdf".
+[[nodiscard]] std::string nomeProprio(const Gemelli& nome, const std::string& estensione);
 
 /// Refuses outputs of a command that would replace one another, or one of `altri`: by what the
 /// names will become (`base::stessoFile`), whether the files exist yet or not.

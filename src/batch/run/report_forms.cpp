@@ -1,5 +1,8 @@
 #include "batch/run/report_forms.hpp"
 
+#include <iostream>
+#include <string>
+
 #include "base/file_error.hpp"
 #include "base/file_names.hpp"
 #include "base/process/processi.hpp"
@@ -58,6 +61,13 @@ void scriviForme(const FormeRelazione& forme, base::Dialogo& dialogo, Esito& esi
 }
 
 }  // namespace
+
+void avvisaPosto() {
+    if (!commands::relazioneAltrove(project::fileCorrente)) return;
+    const std::string risultati = base::nomeRisultati(project::fileCorrente);
+    std::cerr << base::traduttore("Il nome della relazione termina al primo punto del percorso")
+              << ": " << base::nomeRelazione(risultati) << '\n';
+}
 
 void controllaUscite(const FormeRelazione& forme) {
     const auto file = fileDelProgetto();

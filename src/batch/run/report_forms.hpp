@@ -7,6 +7,9 @@ namespace korven::batch {
 
 class CorsaConsole;
 
+/// Tells where the report goes when the rule for its name takes it away from the results.
+void avvisaPosto();
+
 /// Refuses, before anything is computed, a PDF name under which the project or another output would
 /// be lost, outputs that a link would make one, and a printer that the system does not know.
 /// @pre an AmbienteDisegno that paints lives, if pages are painted

@@ -1,4 +1,4 @@
-#include "batch/batch_bench.hpp"
+#include "reading_bench.hpp"
 #include "support/sample_sections.hpp"
 
 namespace korven::batch {
@@ -7,36 +7,42 @@ namespace {
 namespace fs = std::filesystem;
 using test::contenuto;
 using test::dice;
+using test::leggi;
 using test::metti;
 using test::progettoSemplice;
 
-using Opzione = test::BancoConsole;
+using LineaDiComando = test::BancoConsole;
 
-TEST_F(Opzione, HelpAndVersionEndWell) {
+TEST_F(LineaDiComando, HelpAndVersionEndWell) {
     for (const std::vector<std::string>& argomenti : {std::vector<std::string>{"--help"},
                                                       {"-h"},
                                                       {"--aiuto"},
                                                       {"calcola", "--help"},
                                                       {"calcola", "--aiuto"},
                                                       {"verifica", "-h"}}) {
-        const auto esito = console(argomenti);
-        EXPECT_EQ(esito.codice, 0);
-        EXPECT_TRUE(dice(esito.uscita, "--help")) << esito.uscita;
-        EXPECT_TRUE(esito.errori.empty());
+        const auto lettura = leggi(argomenti);
+        EXPECT_FALSE(lettura.esito.opzioni);
+        EXPECT_EQ(lettura.esito.codice, 0);
+        EXPECT_TRUE(dice(lettura.uscita, "--help")) << lettura.uscita;
+        EXPECT_TRUE(lettura.errori.empty());
     }
-    const auto versione = console({"--versione"});
-    EXPECT_EQ(versione.codice, 0);
+    const auto versione = leggi({"--versione"});
+    EXPECT_EQ(versione.esito.codice, 0);
     EXPECT_TRUE(versione.uscita.starts_with("KORVEN 32 ")) << versione.uscita;
-    EXPECT_EQ(console({"--version"}).uscita, versione.uscita);
-    for (const char* comando : {"calcola", "relazione", "verifica"})
+    EXPECT_EQ(leggi({"--version"}).uscita, versione.uscita);
+    for (const auto& comando : comandi())
         for (const char* opzione : {"--version", "--versione"}) {
-            const auto dopo = console({comando, opzione});
-            EXPECT_EQ(dopo.codice, 0);
+            const auto dopo = leggi({comando.nome.italiano, opzione});
+            EXPECT_EQ(dopo.esito.codice, 0);
             EXPECT_EQ(dopo.uscita, versione.uscita);
         }
+    // The program tells it as it was read.
+    const auto esito = console({"--versione"});
+    EXPECT_EQ(esito.codice, 0);
+    EXPECT_EQ(esito.uscita + esito.errori, versione.uscita);
 }
 
-TEST_F(Opzione, WrongUsageEndsWithTwoAndAClearMessage) {
+TEST_F(LineaDiComando, WrongUsageEndsWithTwoAndAClearMessage) {
     const struct {
         std::vector<std::string> argomenti;
         const char* detto;
@@ -82,18 +88,45 @@ TEST_F(Opzione, WrongUsageEndsWithTwoAndAClearMessage) {
         {{"calcola", progetto, "--uscita"}, "manca il valore di un'opzione: --uscita\n"},
     };
     for (const auto& caso : casi) {
-        const auto esito = console(caso.argomenti);
-        EXPECT_EQ(esito.codice, 2) << caso.detto;
+        const auto esito = leggi(caso.argomenti);
+        EXPECT_EQ(esito.esito.codice, 2) << caso.detto;
         EXPECT_TRUE(esito.uscita.empty());
         EXPECT_TRUE(dice(esito.errori, caso.detto)) << esito.errori;
         EXPECT_TRUE(dice(esito.errori, "korven32c --help")) << esito.errori;
         for (const char* inglese : {"required", "expected", "Could not", "missing", "convert"})
             EXPECT_FALSE(dice(esito.errori, inglese)) << esito.errori;
     }
+    const auto esito = console(casi[0].argomenti);
+    EXPECT_EQ(esito.codice, 2);
+    EXPECT_EQ(esito.uscita + esito.errori, leggi(casi[0].argomenti).errori);
     EXPECT_EQ(nomi(), "muro.kvd ");
 }
 
-TEST_F(Opzione, WrongUsageIsToldInTheLanguageAskedFor) {
+// "--json=true" and the like have always been understood.
+TEST_F(LineaDiComando, ASwitchTakesTheWordsOfASwitch) {
+    const std::pair<const char*, bool> casi[] = {
+        {"--json", true}, {"--json=true", true}, {"--json=false", false}};
+    for (const auto& [scritta, acceso] : casi) {
+        const auto lettura = leggi({"calcola", progetto, scritta});
+        ASSERT_TRUE(lettura.esito.opzioni) << lettura.errori;
+        EXPECT_EQ(lettura.esito.opzioni->json, acceso) << scritta;
+    }
+}
+
+TEST_F(LineaDiComando, FormatiArePartedByCommasByBlanksAndOneAfterTheOther) {
+    const std::vector<std::string> entrambi = {"svg", "dxf"};
+    for (const std::vector<std::string>& scritti :
+         {std::vector<std::string>{"svg,dxf"}, {"svg", "dxf"}, {"svg", "--formati", "dxf"}}) {
+        std::vector<std::string> argomenti = {"tutto", progetto, "--uscita", "o", "--formati"};
+        argomenti.insert(argomenti.end(), scritti.begin(), scritti.end());
+        const auto lettura = leggi(argomenti);
+        ASSERT_TRUE(lettura.esito.opzioni) << lettura.errori;
+        EXPECT_EQ(lettura.esito.opzioni->formati, entrambi);
+    }
+    EXPECT_EQ(leggi({"tutto", progetto, "--uscita", "o", "--formati", "svg,doc"}).esito.codice, 2);
+}
+
+TEST_F(LineaDiComando, WrongUsageIsToldInTheLanguageAskedFor) {
     for (const std::vector<std::string>& lingua :
          {std::vector<std::string>{"--lingua", "deu"}, {"--lingua=deu"}}) {
         auto argomenti = lingua;
@@ -109,7 +142,7 @@ TEST_F(Opzione, WrongUsageIsToldInTheLanguageAskedFor) {
     EXPECT_TRUE(dice(esito.errori, "argomento sconosciuto")) << esito.errori;
 }
 
-TEST_F(Opzione, AProjectMayHaveTheNameOfAnOption) {
+TEST_F(LineaDiComando, AProjectMayHaveTheNameOfAnOption) {
     fs::copy(progetto, cartella / "--lingua");
     const auto esito =
         console({"calcola", "--nseg", "10", "--", "--lingua"}, {.cartella = cartella.percorso()});
@@ -117,7 +150,7 @@ TEST_F(Opzione, AProjectMayHaveTheNameOfAnOption) {
     EXPECT_EQ(nomi(), "--linOUT --lingua muro.kvd ");
 }
 
-TEST_F(Opzione, AProgramFolderThatDoesNotExistIsWrongUsageWhateverElseIsAsked) {
+TEST_F(LineaDiComando, AProgramFolderThatDoesNotExistIsWrongUsageWhateverElseIsAsked) {
     for (const std::vector<std::string>& altre :
          {std::vector<std::string>{}, {"--lingua", "deu"}, {"--json"}}) {
         auto argomenti = altre;
@@ -129,7 +162,7 @@ TEST_F(Opzione, AProgramFolderThatDoesNotExistIsWrongUsageWhateverElseIsAsked) {
     }
 }
 
-TEST_F(Opzione, AProgramFolderWithTheLooksOfAnOptionIsWrongUsageThoughItExists) {
+TEST_F(LineaDiComando, AProgramFolderWithTheLooksOfAnOptionIsWrongUsageThoughItExists) {
     fs::create_directory(cartella / "-x");
     for (const std::vector<std::string>& opzione :
          {std::vector<std::string>{"--cartella", "-x"}, {"--cartella=-x"}}) {
@@ -145,13 +178,13 @@ TEST_F(Opzione, AProgramFolderWithTheLooksOfAnOptionIsWrongUsageThoughItExists) 
     EXPECT_EQ(esito.codice, 0) << esito.errori;
 }
 
-TEST_F(Opzione, VerificaMakesNoFolderForResults) {
+TEST_F(LineaDiComando, VerificaMakesNoFolderForResults) {
     const auto esito = esegui("verifica", {"--uscita", cartella / "fuori"});
     EXPECT_EQ(esito.codice, 0) << esito.errori;
     EXPECT_FALSE(fs::exists(cartella / "fuori"));
 }
 
-TEST_F(Opzione, UscitaMakesTheFolderAndLeavesThatOfTheProjectUntouched) {
+TEST_F(LineaDiComando, UscitaMakesTheFolderAndLeavesThatOfTheProjectUntouched) {
     const auto prima = file();
     const auto esito = esegui("relazione", {"--txt", "--uscita", cartella / "risultati/variante"});
     EXPECT_EQ(esito.codice, 0) << esito.errori;
@@ -161,7 +194,7 @@ TEST_F(Opzione, UscitaMakesTheFolderAndLeavesThatOfTheProjectUntouched) {
     EXPECT_FALSE(fs::exists(cartella / "risultati/variante/muro.kvd"));
 }
 
-TEST_F(Opzione, ARelativePathIsMadeAbsoluteBeforeItsNameIsCut) {
+TEST_F(LineaDiComando, ARelativePathIsMadeAbsoluteBeforeItsNameIsCut) {
     fs::create_directory(cartella / "sotto");
     const auto esito = console({"relazione", "../muro.kvd", "--nseg", "10", "--txt"},
                                {.cartella = cartella / "sotto"});
@@ -169,7 +202,7 @@ TEST_F(Opzione, ARelativePathIsMadeAbsoluteBeforeItsNameIsCut) {
     EXPECT_EQ(nomi(), "muro.OUT muro.TAB muro.kvd muro.txt ");
 }
 
-TEST_F(Opzione, EjKeepsTheTypedStiffnessUnlessToldToRecompute) {
+TEST_F(LineaDiComando, EjKeepsTheTypedStiffnessUnlessToldToRecompute) {
     auto d = progettoSemplice();
     d.sezione = structure::diaframmaSimmetrico();
     scrivi(d);
@@ -186,7 +219,7 @@ TEST_F(Opzione, EjKeepsTheTypedStiffnessUnlessToldToRecompute) {
     EXPECT_EQ(EJ({}), scritta);
 }
 
-TEST_F(Opzione, MetodoSpinteHoldsForTheRunThoughTheReportSaysCoulomb) {
+TEST_F(LineaDiComando, MetodoSpinteHoldsForTheRunThoughTheReportSaysCoulomb) {
     auto d = progettoSemplice();
     d.inclinazioneMonte = 15;
     scrivi(d);
@@ -207,7 +240,7 @@ TEST_F(Opzione, MetodoSpinteHoldsForTheRunThoughTheReportSaysCoulomb) {
     EXPECT_EQ(out.substr(out.find("sigmaVv")), risultati["coulomb"]);
 }
 
-TEST_F(Opzione, NsegStandsForTheContentOfItsFile) {
+TEST_F(LineaDiComando, NsegStandsForTheContentOfItsFile) {
     EXPECT_EQ(console({"calcola", progetto, "--nseg", "7"}).codice, 0);
     const std::string conOpzione = contenuto(cartella / "muro.OUT");
     // The head with its tables, for each stage the names and the nodes, the closing numbers.
@@ -221,7 +254,7 @@ TEST_F(Opzione, NsegStandsForTheContentOfItsFile) {
     EXPECT_EQ(contenuto(cartella / "muro.OUT"), conOpzione);
 }
 
-TEST_F(Opzione, LinguaGivesHeadingsInThatLanguageButLeavesTheUsersOwn) {
+TEST_F(LineaDiComando, LinguaGivesHeadingsInThatLanguageButLeavesTheUsersOwn) {
     EXPECT_EQ(esegui("relazione", {"--lingua", "deu"}).codice, 0);
     const std::string relazione = base::daCp1252(contenuto(cartella / "muro.TAB"));
     EXPECT_TRUE(dice(relazione, "\r\nBERECHNUNG DER WAND\r\n"));
@@ -232,7 +265,7 @@ TEST_F(Opzione, LinguaGivesHeadingsInThatLanguageButLeavesTheUsersOwn) {
     EXPECT_TRUE(dice(contenuto(cartella / "muro.TAB"), "\r\nCALCOLO DIAFRAMMA\r\n"));
 }
 
-TEST_F(Opzione, CartellaBringsItsLanguageAndItsTexts) {
+TEST_F(LineaDiComando, CartellaBringsItsLanguageAndItsTexts) {
     const std::string casa = cartella / "casa";
     fs::create_directory(casa);
     const fs::path programma = fs::path(KORVEN_CONSOLE).parent_path();
@@ -250,7 +283,7 @@ TEST_F(Opzione, CartellaBringsItsLanguageAndItsTexts) {
     EXPECT_TRUE(dice(contenuto(cartella / "muro.TAB"), "BERECHNUNG DER WAND"));
 }
 
-TEST_F(Opzione, ALanguageWithoutItsTextsOrACodeThatIsNoneIsBrokenInput) {
+TEST_F(LineaDiComando, ALanguageWithoutItsTextsOrACodeThatIsNoneIsBrokenInput) {
     const std::string casa = cartella / "casa";
     fs::create_directory(casa);
     const auto senza = esegui("calcola", {"--cartella", casa, "--lingua", "deu"});
@@ -265,7 +298,7 @@ TEST_F(Opzione, ALanguageWithoutItsTextsOrACodeThatIsNoneIsBrokenInput) {
     EXPECT_EQ(nomi(), "muro.kvd ");
 }
 
-TEST_F(Opzione, SilenziosoPrintsNothingAtAllWhenAllIsWell) {
+TEST_F(LineaDiComando, SilenziosoPrintsNothingAtAllWhenAllIsWell) {
     for (const char* comando : {"calcola", "relazione", "verifica"}) {
         const auto esito = esegui(comando, {"--silenzioso"});
         EXPECT_EQ(esito.codice, 0);
@@ -273,7 +306,7 @@ TEST_F(Opzione, SilenziosoPrintsNothingAtAllWhenAllIsWell) {
     }
 }
 
-TEST_F(Opzione, SilenziosoStillTellsWhyARunWasRefused) {
+TEST_F(LineaDiComando, SilenziosoStillTellsWhyARunWasRefused) {
     auto d = progettoSemplice();
     d.rigidezzaEJ = 0;
     scrivi(d);

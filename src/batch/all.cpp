@@ -1,0 +1,164 @@
+#include <algorithm>
+#include <iostream>
+#include <iterator>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "base/file_names.hpp"
+#include "base/translated_texts.hpp"
+#include "batch/command_table.hpp"
+#include "batch/options/common_options.hpp"
+#include "batch/run/console_run.hpp"
+#include "batch/run/drawing_forms.hpp"
+#include "batch/run/failure.hpp"
+#include "batch/run/output_names.hpp"
+#include "batch/run/report_forms.hpp"
+#include "batch/run/reviewed_run.hpp"
+#include "commands/diagram_output.hpp"
+#include "commands/log_limit.hpp"
+#include "drawings/section_drawing.hpp"
+#include "drawings/stratigraphic_log.hpp"
+#include "project/project_data.hpp"
+
+namespace korven::batch {
+
+namespace {
+
+using project::Progetto;
+
+// One drawing of the project: the end of its files' names, and how it is made.
+struct Tavola {
+    Gemelli nome;
+    bool (*disegna)(Esito&);  // empty: a diagram
+    std::optional<analysis::Diagramma> diagramma;
+};
+
+bool tavolaSezione(Esito&) {
+    drawings::disegnaSezione(Progetto);
+    return true;
+}
+
+bool tavolaStratigrafia(Esito& esito) {
+    if (stratigrafiaTroppoAlta(esito)) return false;
+    drawings::disegnaStratigrafia(Progetto);
+    return true;
+}
+
+// In the order in which they are made.
+const std::vector<Tavola>& tavole() {
+    static const auto tutte = [] {
+        std::vector<Tavola> fatte;
+        for (const auto& riga : analysis::diagrammi)
+            fatte.push_back({nomeDiagramma(riga), nullptr, riga.diagramma});
+        fatte.push_back({{"sezione", "section"}, tavolaSezione, std::nullopt});
+        fatte.push_back({{"stratigrafia", "log"}, tavolaStratigrafia, std::nullopt});
+        return fatte;
+    }();
+    return tutte;
+}
+
+struct Forma {
+    const char* nome;
+    std::string FormeDisegno::*file;
+};
+
+constexpr Forma forme[] = {{"pdf", &FormeDisegno::pdf},
+                           {"dxf", &FormeDisegno::dxf},
+                           {"svg", &FormeDisegno::svg},
+                           {"png", &FormeDisegno::png}};
+
+// "DIR/muro-momenti.pdf" for each form asked for.
+FormeDisegno formeTavola(const Opzioni& opzioni, const Tavola& tavola) {
+    FormeDisegno chieste;
+    chieste.dpi = opzioni.disegno.dpi;
+    const std::vector<std::string> senzaOpzione = {"pdf", "dxf"};
+    const auto& formati = opzioni.formati.empty() ? senzaOpzione : opzioni.formati;
+    for (const auto& [forma, file] : forme)
+        if (std::find(formati.begin(), formati.end(), forma) != formati.end())
+            chieste.*file = nomeProprio(tavola.nome, forma);
+    return chieste;
+}
+
+// The report in each of its forms, beside the drawings.
+FormeRelazione formeRelazione() {
+    FormeRelazione chieste;
+    chieste.testo = chieste.documento = true;
+    chieste.pdf =
+        nomeProprio({std::string(base::parolaRelazione), std::string(base::parolaReport)}, "pdf");
+    return chieste;
+}
+
+void annuncia(const Opzioni& opzioni, std::size_t quale, const Tavola& tavola) {
+    if (!opzioni.silenzioso)
+        std::cerr << base::traduttore("disegno") << ' ' << quale << '/' << tavole().size() << ": "
+                  << tavola.nome.mostrato() << '\n';
+}
+
+bool diagramma(analysis::Diagramma tipo, CorsaConsole& corsa) {
+    commands::UscitaDiagramma uscita;
+    return corsa.esegui(tipo, uscita);
+}
+
+void controllaTutte(const Opzioni& opzioni, const FormeRelazione& relazione) {
+    std::vector<std::string> tutte;
+    for (const Tavola& tavola : tavole()) {
+        const FormeDisegno chieste = formeTavola(opzioni, tavola);
+        controllaUscite(chieste);
+        for (const auto& file : chieste.file()) tutte.push_back(file);
+    }
+    controllaUscite(relazione);
+    tutte.push_back(relazione.pdf);
+    controllaNomi(tutte, {});
+}
+
+int esegui(const Opzioni& opzioni, analysis::GuardiaRisultati& guardia, Esito& esito) {
+    return calcolaConRilievi(opzioni, esito, [&]() -> int {
+        avvisaPosto();
+        const AmbienteDisegno ambiente(true);
+        const FormeRelazione relazione = formeRelazione();
+        controllaTutte(opzioni, relazione);
+        CorsaConsole corsa(opzioni, guardia, esito);
+        if (!scriviRelazione(relazione, corsa, esito)) return nonEseguito;
+        esito.calcolo = commands::leggiEsito();
+        // Whether anything was computed is for the first run to say: the others find its results.
+        const auto fasi = esito.fasi;
+        const bool giaAggiornato = esito.giaAggiornato;
+        std::size_t quale = 0;
+        CodiceUscita codice = fatto;
+        for (const Tavola& tavola : tavole()) {
+            if (corsa.interrotta()) return nonEseguito;
+            annuncia(opzioni, ++quale, tavola);
+            if (tavola.diagramma && !diagramma(*tavola.diagramma, corsa)) return nonEseguito;
+            if (!tavola.diagramma && !tavola.disegna(esito))
+                codice = nonEseguito;  // the other drawings are made all the same
+            else
+                scriviDisegno(formeTavola(opzioni, tavola), esito);
+        }
+        esito.fasi = fasi;
+        esito.giaAggiornato = giaAggiornato;
+        return codice;
+    });
+}
+
+bool leggiFormato(Opzioni& o, const std::string& formato) {
+    o.formati.push_back(formato);
+    return std::any_of(std::begin(forme), std::end(forme),
+                       [&](const Forma& forma) { return formato == forma.nome; });
+}
+
+}  // namespace
+
+RigaComando tutto() {
+    Opzione formati = {
+        {"--formati", "--formats"}, "formati dei disegni", leggiFormato, uguali("pdf,dxf,svg,png")};
+    formati.predefinito = "[pdf,dxf]";
+    formati.ripetibile = true;
+    return {{"tutto", "all"},
+            "scrive la relazione in ogni formato e tutti i disegni",
+            insieme({opzioniCalcolo(true), {formati, opzioneRisoluzione()}}),
+            esegui};
+}
+
+}  // namespace korven::batch

@@ -1,0 +1,64 @@
+#include <algorithm>
+#include <vector>
+
+#include "analysis/diagrams.hpp"
+#include "batch/command_table.hpp"
+#include "batch/options/common_options.hpp"
+#include "batch/run/console_run.hpp"
+#include "batch/run/drawing_forms.hpp"
+#include "batch/run/reviewed_run.hpp"
+#include "commands/diagram_output.hpp"
+#include "project/project_data.hpp"
+
+namespace korven::batch {
+
+namespace {
+
+int esegui(const Opzioni& opzioni, analysis::GuardiaRisultati& guardia, Esito& esito) {
+    return calcolaConRilievi(opzioni, esito, [&]() -> int {
+        return disegna(opzioni.disegno, esito, [&] {
+            CorsaConsole corsa(opzioni, guardia, esito);
+            commands::UscitaDiagramma uscita;
+            if (!corsa.esegui(opzioni.tipo, uscita)) return false;
+            annotaRisultati(esito);
+            return !corsa.interrotta();
+        });
+    });
+}
+
+// By their Italian names, as the help has them.
+const std::vector<analysis::NomiDiagramma>& inOrdine() {
+    static const auto ordinati = [] {
+        std::vector righe(analysis::diagrammi.begin(), analysis::diagrammi.end());
+        std::sort(righe.begin(), righe.end(),
+                  [](const auto& uno, const auto& altro) { return uno.nome < altro.nome; });
+        return righe;
+    }();
+    return ordinati;
+}
+
+Opzione tipo() {
+    Opzione riga = {{"--tipo", "--type"},
+                    "grandezza del diagramma",
+                    [](Opzioni& o, std::size_t quale) { o.tipo = inOrdine()[quale].diagramma; }};
+    for (const auto& diagramma : inOrdine()) riga.valori.push_back(nomeDiagramma(diagramma));
+    riga.obbligatoria = true;
+    return riga;
+}
+
+}  // namespace
+
+RigaComando diagramma() {
+    const Opzione fase = {{"--fase", "--stage"},
+                          "fase da disegnare; 0 per tutte",
+                          Conta{0, project::massimoFasi, [](Opzioni& o) -> int& { return o.fase; }},
+                          uguali("N")};
+    RigaComando riga = {{"diagramma", "diagram"},
+                        "esegue il calcolo e disegna un diagramma",
+                        insieme({opzioniCalcolo(), {tipo(), fase}, opzioniDisegno()}),
+                        esegui};
+    riga.disegna = true;
+    return riga;
+}
+
+}  // namespace korven::batch

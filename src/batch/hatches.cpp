@@ -1,0 +1,29 @@
+#include "batch/command_table.hpp"
+#include "batch/options/common_options.hpp"
+#include "batch/run/drawing_forms.hpp"
+#include "drawings/hatch_samples.hpp"
+
+namespace korven::batch {
+
+namespace {
+
+// The one command without a project.
+int esegui(const Opzioni& opzioni, analysis::GuardiaRisultati&, Esito& esito) {
+    return disegna(opzioni.disegno, esito, [] {
+        drawings::disegnaCampionario();
+        return true;
+    });
+}
+
+}  // namespace
+
+RigaComando campiture() {
+    RigaComando riga = {{"campiture", "hatches"},
+                        "disegna i campioni di tutte le campiture",
+                        insieme({opzioniComuni(), opzioniDisegno()}),
+                        esegui};
+    riga.disegna = true;
+    return riga;
+}
+
+}  // namespace korven::batch

@@ -1,0 +1,148 @@
+#include "batch/options/common_options.hpp"
+
+#include <filesystem>
+#include <limits>
+#include <string>
+
+#include "base/number_text.hpp"
+#include "device/drawing_files.hpp"
+
+namespace korven::batch {
+
+namespace {
+
+const Gemelli cartella = uguali("DIR"), file = uguali("FILE"), numero = uguali("N");
+
+bool esisteCartella(const std::string& percorso) {
+    std::error_code errore;
+    return percorsoAmmesso(percorso) && std::filesystem::is_directory(percorso, errore);
+}
+
+// Whether the number will do is for the run to say; what is none is a slip of the pen.
+bool leggiNseg(Opzioni& o, const std::string& valore) {
+    o.nseg = valore;
+    return base::soloUnNumero(valore);
+}
+
+bool leggiUscita(Opzioni& o, const std::string& valore) {
+    o.uscita = valore;
+    return percorsoAmmesso(valore);
+}
+
+Opzione opzioneUscita(bool obbligatoria) {
+    Opzione riga = {{"--uscita", "--output"},
+                    "scrive i risultati in questa cartella, non accanto al progetto",
+                    leggiUscita,
+                    cartella};
+    riga.obbligatoria = obbligatoria;
+    return riga;
+}
+
+template <std::string FormeDisegno::*file>
+bool leggiFile(Opzioni& o, const std::string& valore) {
+    o.disegno.*file = valore;
+    return percorsoAmmesso(valore);
+}
+
+}  // namespace
+
+const Gemelli& nomeOpzioneCartella() {
+    static const Gemelli nome{"--cartella", "--folder"};
+    return nome;
+}
+
+const Gemelli& nomeOpzioneLingua() {
+    static const Gemelli nome{"--lingua", "--language"};
+    return nome;
+}
+
+Gemelli nomeDiagramma(const analysis::NomiDiagramma& diagramma) {
+    return {std::string(diagramma.nome), std::string(diagramma.inglese)};
+}
+
+std::vector<Opzione> opzioniComuni() {
+    return {
+        {nomeOpzioneCartella(), "cartella del programma",
+         // taken before all others, by its name; here it is only looked at
+         [](Opzioni&, const std::string& valore) { return esisteCartella(valore); }, cartella},
+        {nomeOpzioneLingua(),
+         "lingua dei testi",
+         [](Opzioni&, std::size_t) {},  // likewise
+         {},
+         {uguali("ita"), uguali("deu"), uguali("fra"), uguali("esp"), uguali("eng"),
+          uguali("por")}},
+        {uguali("--json"), "scrive l'esito in formato JSON sull'uscita normale",
+         [](Opzioni& o) { o.json = true; }},
+        {{"--silenzioso", "--quiet"},
+         "non mostra l'avanzamento né la tabella dei risultati",
+         [](Opzioni& o) { o.silenzioso = true; }},
+    };
+}
+
+std::vector<Opzione> opzioniProgetto() {
+    Opzione progetto = {{"progetto", "project"},
+                        "file di progetto",
+                        // A path without a character names nothing.
+                        [](Opzioni& o, const std::string& valore) {
+                            o.progetto = valore;
+                            return !valore.empty();
+                        },
+                        {"PROGETTO.kvd", "PROJECT.kvd"}};
+    progetto.obbligatoria = true;
+    return insieme({{progetto}, opzioniComuni()});
+}
+
+std::vector<Opzione> opzioniModello(bool cartellaObbligatoria) {
+    return insieme({opzioniProgetto(),
+                    {opzioneUscita(cartellaObbligatoria),
+                     {{"--metodo-spinte", "--pressures"},
+                      "metodo delle spinte (un progetto si riapre sempre con Coulomb)",
+                      [](Opzioni& o, std::size_t quale) {
+                          constexpr double codici[] = {3, 1, 2};  // as the project stores them
+                          o.metodoSpinte = codici[quale];
+                      },
+                      {},
+                      {uguali("bell"), uguali("coulomb"), uguali("rankine")}},
+                     {{"--nseg", "--segments"},
+                      "numero di segmenti, al posto di nseg.txt",
+                      leggiNseg,
+                      numero}}});
+}
+
+std::vector<Opzione> opzioniCalcolo(bool cartellaObbligatoria) {
+    return insieme({opzioniModello(cartellaObbligatoria),
+                    {{uguali("--ej"),
+                      "rigidezza EJ scritta nel progetto o ricalcolata dalla sezione",
+                      [](Opzioni& o, std::size_t quale) { o.ricalcolaEJ = quale == 1; },
+                      {},
+                      {{"mantieni", "keep"}, {"ricalcola", "recalculate"}}},
+                     {{"--max-iterazioni", "--max-iterations"},
+                      "ferma una fase che non converge; 0 per nessun limite",
+                      Conta{0, std::numeric_limits<int>::max(),
+                            [](Opzioni& o) -> int& { return o.maxIterazioni; }},
+                      numero,
+                      {},
+                      std::to_string(Opzioni().maxIterazioni)}}});
+}
+
+std::vector<Opzione> opzioniDisegno() {
+    return {
+        {uguali("--dxf"), "scrive il disegno in formato DXF", leggiFile<&FormeDisegno::dxf>, file},
+        {uguali("--pdf"), "scrive il disegno in formato PDF", leggiFile<&FormeDisegno::pdf>, file},
+        {uguali("--svg"), "scrive il disegno in formato SVG", leggiFile<&FormeDisegno::svg>, file},
+        {uguali("--png"), "scrive il disegno in formato PNG", leggiFile<&FormeDisegno::png>, file},
+        opzioneRisoluzione(),
+    };
+}
+
+Opzione opzioneRisoluzione() {
+    return {uguali("--dpi"),
+            "punti per pollice dei file PNG",
+            Conta{device::risoluzioneMinima, device::risoluzioneMassima,
+                  [](Opzioni& o) -> int& { return o.disegno.dpi; }},
+            numero,
+            {},
+            std::to_string(FormeDisegno().dpi)};
+}
+
+}  // namespace korven::batch

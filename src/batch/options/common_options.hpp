@@ -1,0 +1,38 @@
+#pragma once
+
+#include <vector>
+
+#include "analysis/diagrams.hpp"
+#include "batch/options/option.hpp"
+
+// The options that several commands take, in groups. The order is that of the help.
+
+namespace korven::batch {
+
+/// Names of the two options that are looked up before the others can be read.
+[[nodiscard]] const Gemelli& nomeOpzioneCartella();
+[[nodiscard]] const Gemelli& nomeOpzioneLingua();
+
+/// What a diagram is called on the command line and in names of files.
+[[nodiscard]] Gemelli nomeDiagramma(const analysis::NomiDiagramma& diagramma);
+
+/// Every command.
+[[nodiscard]] std::vector<Opzione> opzioniComuni();
+
+/// Commands that read a project.
+[[nodiscard]] std::vector<Opzione> opzioniProgetto();
+
+/// Commands for which the analysis matters.
+/// @param cartellaObbligatoria  the folder for the results has to be named
+[[nodiscard]] std::vector<Opzione> opzioniModello(bool cartellaObbligatoria = false);
+
+/// Commands that run the analysis.
+[[nodiscard]] std::vector<Opzione> opzioniCalcolo(bool cartellaObbligatoria = false);
+
+/// Commands that make one drawing: its files.
+[[nodiscard]] std::vector<Opzione> opzioniDisegno();
+
+/// The resolution of PNG files.
+[[nodiscard]] Opzione opzioneRisoluzione();
+
+}  // namespace korven::batch

@@ -1,0 +1,24 @@
+#include "batch/options/option.hpp"
+
+#include <iterator>
+
+namespace korven::batch {
+
+std::string Opzione::valoreMostrato() const {
+    if (valori.empty()) return valore.mostrato();
+    std::string tutti;
+    for (const auto& v : valori) tutti += (tutti.empty() ? "" : "|") + v.mostrato();
+    return tutti;
+}
+
+std::vector<Opzione> insieme(std::vector<std::vector<Opzione>> gruppi) {
+    std::vector<Opzione> tutte;
+    for (auto& gruppo : gruppi) std::move(gruppo.begin(), gruppo.end(), std::back_inserter(tutte));
+    return tutte;
+}
+
+bool percorsoAmmesso(const std::string& valore) {
+    return !valore.empty() && !valore.starts_with('-');
+}
+
+}  // namespace korven::batch

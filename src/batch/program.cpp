@@ -1,0 +1,92 @@
+#include "batch/program.hpp"
+
+#include <csignal>
+#include <exception>
+#include <iostream>
+
+#include "analysis/result_guard.hpp"
+#include "base/process/closed_pipe.hpp"
+#include "base/program_folder.hpp"
+#include "base/translated_texts.hpp"
+#include "batch/command_table.hpp"
+#include "batch/options/command_line.hpp"
+#include "batch/options/common_options.hpp"
+#include "batch/options/language_in_use.hpp"
+#include "batch/run/failure.hpp"
+#include "commands/user_folder.hpp"
+
+namespace korven::batch {
+
+namespace {
+
+// What a command has to tell on standard output.
+std::string resoconto(const Opzioni& opzioni, const Esito& esito) {
+    if (opzioni.json) return json(esito);
+    if (opzioni.silenzioso) return {};
+    if (esito.soloRilievi) return esito.guasto ? "" : elenco(esito);
+    if (esito.codice != fatto) return {};
+    std::string testo = esito.calcolo ? tabella(esito, opzioni.traccia) : "";
+    for (const auto& file : esito.fileScritti)
+        testo += base::traduttore("File scritto") + ": " + file + '\n';
+    return testo;
+}
+
+std::string resocontoAncheDiUnGuasto(const Opzioni& opzioni, analysis::GuardiaRisultati& guardia,
+                                     Esito& esito) {
+    try {
+        return resoconto(opzioni, esito);
+    } catch (const std::exception&) {
+        raccontaGuasto(guardia, esito);
+    }
+    return resoconto(opzioni, esito);  // of the failure: without the numbers that could not be told
+}
+
+// Standard output may be a full disk; nobody must take half a table for the whole.
+int versa(const std::string& testo, int codice) {
+    std::cout << testo << std::flush;
+    if (std::cout) return codice;
+    std::cerr << "korven32c: " << base::traduttore("impossibile scrivere sull'uscita normale")
+              << '\n';
+    return ingressoRotto;
+}
+
+void lavora(const Opzioni& opzioni, const std::exception_ptr& senzaLingua,
+            analysis::GuardiaRisultati& guardia, Esito& esito) {
+    try {
+        if (senzaLingua) std::rethrow_exception(senzaLingua);
+        esito.codice = opzioni.comando->esegui(opzioni, guardia, esito);
+    } catch (const std::exception&) {
+        raccontaGuasto(guardia, esito);
+    }
+    if (esito.corsa && esito.codice != fatto) avvisaRelazioniRimaste(esito);
+}
+
+}  // namespace
+
+int programma(int argc, const char* const* argv) {
+    base::occupaCanaliChiusi();
+    base::resistiAiTubiChiusi();
+    std::signal(SIGXFSZ, SIG_IGN);  // a file at its size limit is a failed write like others
+    base::impostaCartellaProgramma(valoreAnticipato(argc, argv, nomeOpzioneCartella()));
+    // Wrong usage goes before a language that can't be had, which JSON must be able to tell.
+    std::exception_ptr senzaLingua;
+    try {
+        commands::scegliCartellaProgramma();
+        scegliLingua(valoreAnticipato(argc, argv, nomeOpzioneLingua()));
+    } catch (const std::exception&) {
+        senzaLingua = std::current_exception();
+    }
+    const auto [opzioni, codice] = leggiOpzioni(argc, argv, comandi());
+    if (!opzioni) return versa({}, codice);
+
+    Esito esito;
+    esito.comando = opzioni->comando->nome.italiano;
+    esito.soloRilievi = opzioni->comando->soloRilievi;
+    esito.progetto = opzioni->progetto;
+    analysis::GuardiaRisultati guardia;
+    lavora(*opzioni, senzaLingua, guardia, esito);
+    const std::string testo = resocontoAncheDiUnGuasto(*opzioni, guardia, esito);
+    return versa(testo, esito.codice);
+}
+
+}  // namespace korven::batch

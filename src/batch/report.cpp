@@ -1,0 +1,59 @@
+#include <iostream>
+
+#include "base/file_names.hpp"
+#include "base/translated_texts.hpp"
+#include "batch/command_table.hpp"
+#include "batch/options/common_options.hpp"
+#include "batch/run/console_run.hpp"
+#include "batch/run/drawing_forms.hpp"
+#include "batch/run/failure.hpp"
+#include "batch/run/report_forms.hpp"
+#include "batch/run/reviewed_run.hpp"
+
+namespace korven::batch {
+
+namespace {
+
+int esegui(const Opzioni& opzioni, analysis::GuardiaRisultati& guardia, Esito& esito) {
+    return calcolaConRilievi(opzioni, esito, [&]() -> int {
+        avvisaPosto();
+        const AmbienteDisegno ambiente(opzioni.relazione.dipinte());
+        controllaUscite(opzioni.relazione);
+        CorsaConsole corsa(opzioni, guardia, esito);
+        if (!scriviRelazione(opzioni.relazione, corsa, esito)) return nonEseguito;
+        return corsa.concludi();
+    });
+}
+
+std::vector<Opzione> forme() {
+    return {
+        {uguali("--txt"), "scrive anche il testo semplice",
+         [](Opzioni& o) { o.relazione.testo = true; }},
+        {uguali("--doc"), "scrive anche il documento per elaboratori di testi (DOC)",
+         [](Opzioni& o) { o.relazione.documento = true; }},
+        {uguali("--pdf"), "scrive la relazione in formato PDF",
+         [](Opzioni& o, const std::string& file) {
+             o.relazione.pdf = file;
+             return percorsoAmmesso(file);
+         },
+         uguali("FILE")},
+        {{"--stampa", "--print"},
+         "stampa la relazione su questa stampante",
+         [](Opzioni& o, const std::string& stampante) {
+             o.relazione.stampante = stampante;
+             return percorsoAmmesso(stampante);
+         },
+         {"NOME", "NAME"}},
+    };
+}
+
+}  // namespace
+
+RigaComando relazione() {
+    return {{"relazione", "report"},
+            "esegue il calcolo e scrive la relazione (TAB)",
+            insieme({opzioniCalcolo(), forme()}),
+            esegui};
+}
+
+}  // namespace korven::batch
