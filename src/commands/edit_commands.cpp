@@ -1,9 +1,5 @@
 #include "commands/edit_commands.hpp"
 
-#include <algorithm>
-#include <cassert>
-#include <iterator>
-
 #include "base/number_text.hpp"
 #include "base/table.hpp"
 #include "base/translated_texts.hpp"
@@ -17,27 +13,6 @@ namespace {
 
 using masks::NumeroMaschera;
 using project::Progetto;
-
-// The two forms of the refusal differ in one word; they are keys of the table of texts.
-constexpr const char* senzaI = "Non e' possibile editare dati prima di aver aperto un file.";
-constexpr const char* conI = "Non e' possibile editare i dati prima di aver aperto un file.";
-
-constexpr auto senzaMaschera = NumeroMaschera{0};  // the section form has none
-
-struct Editore {
-    Comando comando;
-    const char* rifiuto;
-    NumeroMaschera maschera;
-};
-
-constexpr Editore editori[] = {
-    {Comando::editStratigrafia, conI, NumeroMaschera::strati},
-    {Comando::editParatia, senzaI, NumeroMaschera::paratia},
-    {Comando::editRigidezza, conI, senzaMaschera},
-    {Comando::editTiranti, conI, NumeroMaschera::tiranti},
-    {Comando::editFasi, conI, NumeroMaschera::fasi},
-    {Comando::editTitoli, senzaI, NumeroMaschera::titoli},
-};
 
 // The form is gone by then, so the rows would be too.
 [[noreturn]] void finisciPerTroppeRighe(NumeroMaschera numero, const masks::Maschere& maschere) {
@@ -68,18 +43,15 @@ void editaMaschera(NumeroMaschera numero, masks::Maschere& maschere, const Forme
 
 }  // namespace
 
-void edita(Comando comando, base::Dialogo& dialogo, masks::Maschere& maschere,
-           const FormeProgramma& forme) {
-    const auto* editore = std::find_if(std::begin(editori), std::end(editori),
-                                       [comando](const auto& e) { return e.comando == comando; });
-    assert(editore != std::end(editori));
+void edita(NumeroMaschera numero, const char* rifiuto, base::Dialogo& dialogo,
+           masks::Maschere& maschere, const FormeProgramma& forme) {
     if (project::fileCorrente.empty())
-        dialogo.messaggio(base::traduttore(editore->rifiuto), base::traduttore("ATTENZIONE") + "!",
+        dialogo.messaggio(base::traduttore(rifiuto), base::traduttore("ATTENZIONE") + "!",
                           base::Icona::nessuna);
-    else if (editore->maschera == senzaMaschera)
+    else if (numero == senzaMaschera)
         forme.sezione();
     else
-        editaMaschera(editore->maschera, maschere, forme);
+        editaMaschera(numero, maschere, forme);
 }
 
 }  // namespace korven::commands

@@ -6,14 +6,24 @@
 
 namespace korven::commands {
 
+// The two forms of the refusal without an open project differ in one word; they are keys of the
+// table of texts.
+inline constexpr char editareDati[] = "Non e' possibile editare dati prima di aver aperto un file.";
+inline constexpr char editareIDati[] =
+    "Non e' possibile editare i dati prima di aver aperto un file.";
+
+/// Stands for the section form, which has no mask.
+inline constexpr auto senzaMaschera = masks::NumeroMaschera{0};
+
 /// An editing command: refuses without an open project, shows the form with the values of
 /// `Progetto` and takes back what was confirmed, with `modificato` by the rules of
 /// masks/edited_tables.hpp. The stage that the diagrams draw, a field of the headings' form, is
 /// no part of the project and modifies nothing.
-/// @pre one of the six editing commands, whose form is plugged in: asserted
+/// @param maschera  which form, or `senzaMaschera`; it is plugged in: asserted
+/// @param rifiuto   what is said without an open project
 /// @throws ErroreRighe (fatal_error.hpp) if a table with more rows than it can hold was confirmed;
 ///         the rows have then been written beside the project
-void edita(Comando comando, base::Dialogo& dialogo, masks::Maschere& maschere,
-           const FormeProgramma& forme);
+void edita(masks::NumeroMaschera maschera, const char* rifiuto, base::Dialogo& dialogo,
+           masks::Maschere& maschere, const FormeProgramma& forme);
 
 }  // namespace korven::commands

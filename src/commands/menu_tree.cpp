@@ -4,58 +4,138 @@
 #include <cassert>
 #include <iterator>
 
+#include "commands/document_names.hpp"
+#include "commands/edit_commands.hpp"
+#include "commands/output_commands.hpp"
+#include "commands/program.hpp"
+#include "project/project_data.hpp"
+
 namespace korven::commands {
 
 namespace {
 
-using enum Comando;
+using enum analysis::Diagramma;
+using masks::NumeroMaschera;
+using F = FormeProgramma;
+
+template <auto forma>
+bool ha(const F& forme) {
+    return static_cast<bool>(forme.*forma);
+}
+
+// What the commands do, each in the terms of the program that carries it out.
+
+bool apri(Programma& programma, const VoceMenu&) {
+    programma.documento().fileApri();
+    return false;
+}
+
+bool salva(Programma& programma, const VoceMenu&) {
+    programma.documento().fileSalva();
+    return false;
+}
+
+bool esci(Programma& programma, const VoceMenu&) { return programma.documento().fine(); }
+
+template <auto forma>
+bool mostra(Programma& programma, const VoceMenu&) {
+    (programma.forme().*forma)();
+    return false;
+}
+
+bool informa(Programma& programma, const VoceMenu&) {
+    programma.forme().informazioni(rigaFileCorrente(project::fileCorrente));
+    return false;
+}
+
+bool spiega(Programma& programma, const VoceMenu& voce) {
+    programma.aiuto(voce.aiuto);
+    return false;
+}
+
+template <NumeroMaschera numero, const char* rifiuto>
+bool edita(Programma& programma, const VoceMenu&) {
+    programma.edita(numero, rifiuto);
+    return false;
+}
+
+template <auto uscita>
+bool produci(Programma& programma, const VoceMenu&) {
+    programma.produci(uscita);
+    return false;
+}
+
+template <Destinazione destinazione>
+void relazione(const PorteUscita& porte) {
+    produciRelazione(destinazione, porte);
+}
+
+template <analysis::Diagramma quale>
+void diagramma(const PorteUscita& porte) {
+    produciDiagramma(quale, porte);
+}
 
 constexpr VoceMenu voci[] = {
-    {"archivi", "&Archivi", 0, nessuno, 0},
-    {"FileApri", "&Apri", 1, fileApri, 3},
-    {"FileSalva", "&Salva", 1, fileSalva, 4},
-    {"PrintSetup", "&Configura Stampante", 1, printSetup, 27},
-    {"AiutoFile", "&Help", 1, aiutoFile, 24},
-    {"edizione", "&Edizione", 0, nessuno, 0},
-    {"EditStratigrafia", "&Stratigrafia", 1, editStratigrafia, 5},
-    {"EditParatia", "&Parametri Diaframma", 1, editParatia, 6},
-    {"EditRigidezza", "&Descrizione Struttura", 1, editRigidezza, 7},
-    {"EditTiranti", "&Caratteristiche Tiranti", 1, editTiranti, 8},
-    {"EditFasi", "&Fasi di Scavo", 1, editFasi, 9},
-    {"EditTitoli", "&Titoli", 1, editTitoli, 10},
-    {"AiutoEdit", "&Help", 1, aiutoEdit, 25},
-    {"Stampa", "&Stampa", 0, nessuno, 0},
-    {"StampaGrafica", "&Grafica", 1, nessuno, 11},
-    {"GraficaMomenti", "&Momenti", 2, graficaMomenti, 12},
-    {"GraficaSpostamenti", "&Spostamenti", 2, graficaSpostamenti, 13},
-    {"GraficaTaglio", "&Taglio", 2, graficaTaglio, 14},
-    {"GraficaPressioni", "&Pressioni", 2, graficaPressioni, 15},
-    {"GraficaStruttura", "&Elemento Strutturale", 2, graficaStruttura, 16},
-    {"GraficaStratigrafia", "&Descrizione stratigrafica", 2, graficaStratigrafia, 17},
-    {"statab", "&Tabulati", 1, nessuno, 18},
-    {"StampaVideo", "Visualizza &Anteprima Tabulati", 2, stampaVideo, 19},
-    {"StampaTabulati", "Stampa &Rapida Tabulati", 2, stampaTabulati, 20},
-    {"espotab", "&Esporta Tabulati in Formato DOC", 2, esportaDoc, 21},
-    {"espotabtxt", "Esporta Tabulati in Formato &TXT", 2, esportaTxt, 22},
-    {"configura", "&Configura", 1, configura, 23},
-    {"AiutoStampa", "&Help", 1, aiutoStampa, 26},
-    {"fine", "&Uscita", 0, fine, 0},
-    {"menuhelp", "&Help", 0, nessuno, 0},
-    {"sommario", "&Sommario", 1, sommario, 0},
-    {"about", "&Info", 1, about, 32},
+    {"archivi", "&Archivi", 0},
+    {"FileApri", "&Apri", 1, 3, nullptr, apri},
+    {"FileSalva", "&Salva", 1, 4, nullptr, salva},
+    {"PrintSetup", "&Configura Stampante", 1, 27, ha<&F::impostaStampante>,
+     mostra<&F::impostaStampante>},
+    {"AiutoFile", "&Help", 1, 24, ha<&F::aiuto>, spiega},
+
+    {"edizione", "&Edizione", 0},
+    {"EditStratigrafia", "&Stratigrafia", 1, 5, ha<&F::maschera>,
+     edita<NumeroMaschera::strati, editareIDati>},
+    {"EditParatia", "&Parametri Diaframma", 1, 6, ha<&F::maschera>,
+     edita<NumeroMaschera::paratia, editareDati>},
+    {"EditRigidezza", "&Descrizione Struttura", 1, 7, ha<&F::sezione>,
+     edita<senzaMaschera, editareIDati>},
+    {"EditTiranti", "&Caratteristiche Tiranti", 1, 8, ha<&F::maschera>,
+     edita<NumeroMaschera::tiranti, editareIDati>},
+    {"EditFasi", "&Fasi di Scavo", 1, 9, ha<&F::maschera>,
+     edita<NumeroMaschera::fasi, editareIDati>},
+    {"EditTitoli", "&Titoli", 1, 10, ha<&F::maschera>, edita<NumeroMaschera::titoli, editareDati>},
+    {"AiutoEdit", "&Help", 1, 25, ha<&F::aiuto>, spiega},
+
+    {"Stampa", "&Stampa", 0},
+    {"StampaGrafica", "&Grafica", 1, 11},
+    {"GraficaMomenti", "&Momenti", 2, 12, ha<&F::grafica>, produci<diagramma<momenti>>},
+    {"GraficaSpostamenti", "&Spostamenti", 2, 13, ha<&F::grafica>, produci<diagramma<spostamenti>>},
+    {"GraficaTaglio", "&Taglio", 2, 14, ha<&F::grafica>, produci<diagramma<taglio>>},
+    {"GraficaPressioni", "&Pressioni", 2, 15, ha<&F::grafica>, produci<diagramma<pressioni>>},
+    {"GraficaStruttura", "&Elemento Strutturale", 2, 16, ha<&F::grafica>, produci<produciSezione>},
+    {"GraficaStratigrafia", "&Descrizione stratigrafica", 2, 17, ha<&F::grafica>,
+     produci<produciStratigrafia>},
+    {"statab", "&Tabulati", 1, 18},
+    {"StampaVideo", "Visualizza &Anteprima Tabulati", 2, 19, ha<&F::anteprima>,
+     produci<relazione<&F::anteprima>>},
+    {"StampaTabulati", "Stampa &Rapida Tabulati", 2, 20, ha<&F::stampa>,
+     produci<relazione<&F::stampa>>},
+    {"espotab", "&Esporta Tabulati in Formato DOC", 2, 21, ha<&F::esportaDoc>,
+     produci<relazione<&F::esportaDoc>>},
+    {"espotabtxt", "Esporta Tabulati in Formato &TXT", 2, 22, ha<&F::esportaTxt>,
+     produci<relazione<&F::esportaTxt>>},
+    {"configura", "&Configura", 1, 23, ha<&F::editacfg>, mostra<&F::editacfg>},
+    {"AiutoStampa", "&Help", 1, 26, ha<&F::aiuto>, spiega},
+
+    {"fine", "&Uscita", 0, 0, nullptr, esci},
+
+    {"menuhelp", "&Help", 0},
+    {"sommario", "&Sommario", 1, 0, ha<&F::sommario>, mostra<&F::sommario>},
+    {"about", "&Info", 1, 32, ha<&F::informazioni>, informa},
 };
 
 }  // namespace
 
 std::span<const VoceMenu> albero() { return voci; }
 
-const VoceMenu& voce(Comando comando) {
+const VoceMenu& voce(std::string_view nome) {
     const auto* trovata = std::find_if(std::begin(voci), std::end(voci),
-                                       [comando](const auto& v) { return v.comando == comando; });
-    assert(comando != nessuno && trovata != std::end(voci));
+                                       [nome](const auto& v) { return v.nome == nome; });
+    assert(trovata != std::end(voci));
     return *trovata;
 }
 
-bool apreMenu(const VoceMenu& voce) { return voce.comando == Comando::nessuno; }
+bool apreMenu(const VoceMenu& voce) { return voce.comando == nullptr; }
 
 }  // namespace korven::commands

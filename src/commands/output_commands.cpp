@@ -1,9 +1,5 @@
 #include "commands/output_commands.hpp"
 
-#include <algorithm>
-#include <cassert>
-#include <iterator>
-
 #include "analysis/calcolo_paratia.hpp"
 #include "analysis/run_flags.hpp"
 #include "base/file_error.hpp"
@@ -27,24 +23,6 @@ namespace korven::commands {
 namespace {
 
 using project::fileCorrente;
-using Relazione = std::function<void(const std::string&)> FormeProgramma::*;
-
-struct ComandoCalcolo {
-    Comando comando;
-    analysis::ModoUscita modoUscita;
-    Relazione relazione;  // nullptr: a diagram
-};
-
-constexpr ComandoCalcolo comandiCalcolo[] = {
-    {Comando::stampaVideo, analysis::relazione, &FormeProgramma::anteprima},
-    {Comando::stampaTabulati, analysis::relazione, &FormeProgramma::stampa},
-    {Comando::esportaDoc, analysis::relazione, &FormeProgramma::esportaDoc},
-    {Comando::esportaTxt, analysis::relazione, &FormeProgramma::esportaTxt},
-    {Comando::graficaPressioni, analysis::Diagramma::pressioni, nullptr},
-    {Comando::graficaSpostamenti, analysis::Diagramma::spostamenti, nullptr},
-    {Comando::graficaMomenti, analysis::Diagramma::momenti, nullptr},
-    {Comando::graficaTaglio, analysis::Diagramma::taglio, nullptr},
-};
 
 std::string attenzione() { return base::traduttore("ATTENZIONE") + "!"; }
 
@@ -73,12 +51,12 @@ bool seSiPuoScrivere(base::Dialogo& dialogo, Uscita uscita) {
 }
 
 // True when the run went through and its output is there.
-bool calcola(analysis::ModoUscita modoUscita, base::Dialogo& dialogo,
-             analysis::Avanzamento& avanzamento, analysis::UscitaCalcolo& uscita,
-             analysis::GuardiaRisultati& guardia) {
+bool calcola(analysis::ModoUscita modoUscita, const PorteUscita& porte,
+             analysis::UscitaCalcolo& uscita, analysis::GuardiaRisultati& guardia) {
     try {
-        const bool scritto = seSiPuoScrivere(dialogo, [&] {
-            analysis::CalcoloParatia(modoUscita, {dialogo, avanzamento, uscita, &guardia});
+        const bool scritto = seSiPuoScrivere(porte.dialogo, [&] {
+            analysis::CalcoloParatia(modoUscita,
+                                     {porte.dialogo, porte.avanzamento, uscita, &guardia});
             return true;
         });
         if (!scritto) analysis::erroreCalcolo = true;
@@ -86,50 +64,60 @@ bool calcola(analysis::ModoUscita modoUscita, base::Dialogo& dialogo,
         analysis::erroreCalcolo = true;
         // As after a singular system: what can't be shown must not be taken for up to date.
         guardia.togliNonMostrabili(base::nomeRisultati(fileCorrente));
-        dialogo.messaggio(errore.what(), attenzione(), base::Icona::stop);
+        porte.dialogo.messaggio(errore.what(), attenzione(), base::Icona::stop);
     }
     return !analysis::erroreCalcolo;
 }
 
-void produciRelazione(Relazione destinazione, base::Dialogo& dialogo,
-                      analysis::Avanzamento& avanzamento, const FormeProgramma& forme) {
-    Clessidra clessidra(dialogo);
+// True, and told, where no project is open.
+bool senzaProgetto(base::Dialogo& dialogo) {
+    if (!fileCorrente.empty()) return false;
+    dialogo.messaggio(
+        base::traduttore("Non e' possibile produrre un output prima di aver aperto un file."),
+        attenzione(), base::Icona::nessuna);
+    return true;
+}
+
+}  // namespace
+
+void produciRelazione(Destinazione destinazione, const PorteUscita& porte) {
+    if (senzaProgetto(porte.dialogo)) return;
+    Clessidra clessidra(porte.dialogo);
     UscitaRelazione uscita(true);
     // Until the report has been read: another run would write its own in its place.
     analysis::GuardiaRisultati guardia;
-    if (!calcola(analysis::relazione, dialogo, avanzamento, uscita, guardia)) return;
+    if (!calcola(analysis::relazione, porte, uscita, guardia)) return;
     clessidra.mostra();  // the run gives the pointer back at its end
-    (forme.*destinazione)(uscita.relazione());
+    (porte.forme.*destinazione)(uscita.relazione());
 }
 
-void produciDiagramma(analysis::ModoUscita modoUscita, base::Dialogo& dialogo,
-                      analysis::Avanzamento& avanzamento, const FormeProgramma& forme) {
+void produciDiagramma(analysis::Diagramma quale, const PorteUscita& porte) {
+    if (senzaProgetto(porte.dialogo)) return;
     UscitaDiagramma uscita;
     bool disegnato = false;
     {
         analysis::GuardiaRisultati guardia;
-        disegnato = calcola(modoUscita, dialogo, avanzamento, uscita, guardia);
+        disegnato = calcola(quale, porte, uscita, guardia);
     }
-    if (disegnato) forme.grafica();  // which needs no file any more
+    if (disegnato) porte.forme.grafica();  // which needs no file any more
 }
 
-void produciCalcolo(const ComandoCalcolo& comando, base::Dialogo& dialogo,
-                    analysis::Avanzamento& avanzamento, const FormeProgramma& forme) {
-    if (comando.relazione != nullptr)
-        produciRelazione(comando.relazione, dialogo, avanzamento, forme);
-    else
-        produciDiagramma(comando.modoUscita, dialogo, avanzamento, forme);
+void produciSezione(const PorteUscita& porte) {
+    if (senzaProgetto(porte.dialogo)) return;
+    drawings::disegnaSezione(project::Progetto);
+    porte.forme.grafica();
 }
 
 // Layers far apart take minutes to be hatched, which their user may cut short.
-void produciStratigrafia(base::Dialogo& dialogo, const FormeProgramma& forme) {
+void produciStratigrafia(const PorteUscita& porte) {
+    const auto& forme = porte.forme;
     const auto disegna = [&] {
         const plot::LavoroDisegno lavoro;
         return drawings::disegnaStratigrafia(
-            dialogo, forme.altezzaPagina ? forme.altezzaPagina() : drawings::altezzaPaginaA4);
+            porte.dialogo, forme.altezzaPagina ? forme.altezzaPagina() : drawings::altezzaPaginaA4);
     };
     try {
-        if (seSiPuoScrivere(dialogo, disegna)) forme.grafica();
+        if (seSiPuoScrivere(porte.dialogo, disegna)) forme.grafica();
     } catch (const plot::DisegnoInterrotto&) {
         plot::statoPlot.archivio.svuota();
         if (forme.chiudiGrafica) forme.chiudiGrafica();
@@ -138,28 +126,6 @@ void produciStratigrafia(base::Dialogo& dialogo, const FormeProgramma& forme) {
         if (perche.empty()) throw;
         throw base::ErroreIndice(perche + " (" + errore.what() + ")");
     }
-}
-
-}  // namespace
-
-void produci(Comando comando, base::Dialogo& dialogo, analysis::Avanzamento& avanzamento,
-             const FormeProgramma& forme) {
-    // The log refuses in words of its own.
-    if (comando == Comando::graficaStratigrafia) return produciStratigrafia(dialogo, forme);
-    if (fileCorrente.empty()) {
-        dialogo.messaggio(base::traduttore("Non e' possibile produrre un output prima di aver "
-                                           "aperto un file."),
-                          attenzione(), base::Icona::nessuna);
-        return;
-    }
-    if (comando == Comando::graficaStruttura) {
-        drawings::disegnaSezione(project::Progetto);
-        return forme.grafica();
-    }
-    const auto* trovato = std::find_if(std::begin(comandiCalcolo), std::end(comandiCalcolo),
-                                       [comando](const auto& c) { return c.comando == comando; });
-    assert(trovato != std::end(comandiCalcolo));
-    produciCalcolo(*trovato, dialogo, avanzamento, forme);
 }
 
 }  // namespace korven::commands

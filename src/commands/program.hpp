@@ -3,11 +3,13 @@
 #include "analysis/progress.hpp"
 #include "base/dialogo.hpp"
 #include "commands/document.hpp"
+#include "commands/menu_tree.hpp"
+#include "commands/output_commands.hpp"
 #include "commands/program_forms.hpp"
 
 namespace korven::commands {
 
-/// The menu commands of the desktop program, each by its road: documents, editors, outputs, help.
+/// The desktop program behind its menu: documents, editors, outputs, help.
 class Programma {
  public:
     /// The ports must outlive the program.
@@ -20,25 +22,32 @@ class Programma {
           finestra_(finestra),
           documento_(dialogo, nomi, finestra) {}
 
-    /// Carries a command out. @return true when the program is to end
-    bool esegui(Comando comando);
+    /// Carries the command of an item out. @pre `puo`
+    /// @return true when the program is to end
+    bool esegui(const VoceMenu& voce) { return voce.comando(*this, voce); }
+
+    /// False when the item opens a menu, or the form of its command is not plugged in.
+    [[nodiscard]] bool puo(const VoceMenu& voce) const;
 
     /// The desktop ends its session: the question about unsaved work where its user may be asked, a
     /// rescue file (fatal_error.hpp) where nobody can be. A run stops when the program is to end.
     /// @return false to ask the desktop to stay
     bool fineSessione(bool chiedibile);
 
-    /// False when the form of a command is not plugged in.
-    [[nodiscard]] bool puo(Comando comando) const { return haForma(comando, forme_); }
-
     /// Shows the help of the menu item with this entry of the table of help contexts.
     void aiuto(int voce) const;
 
+    /// An editing command (edit_commands.hpp).
+    void edita(masks::NumeroMaschera maschera, const char* rifiuto);
+
+    /// An output command (output_commands.hpp). A run that was stopped is told in the status line
+    /// until another output goes through.
+    void produci(void (*uscita)(const PorteUscita&));
+
     [[nodiscard]] Documento& documento() { return documento_; }
+    [[nodiscard]] const FormeProgramma& forme() const { return forme_; }
 
  private:
-    void produciSeguendo(Comando comando);
-
     base::Dialogo& dialogo_;
     analysis::Avanzamento& avanzamento_;
     masks::Maschere& maschere_;

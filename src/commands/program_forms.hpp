@@ -3,14 +3,13 @@
 #include <functional>
 #include <string>
 
-#include "commands/menu_tree.hpp"
 #include "masks/mask_values.hpp"
 
 namespace korven::commands {
 
 /// The forms and devices of the menu commands, plugged in by `main`: all of them, but those of the
 /// help where its file is missing. The call returns when the form is closed; preview and help stay
-/// while the program goes on. A command whose form is missing can't be chosen (`haForma`).
+/// while the program goes on. A command whose form is missing can't be chosen.
 struct FormeProgramma {
     /// Shows the form of the current mask, a field form or a grid, with its values; hands what was
     /// confirmed back to it, and nothing when the form was left without.
@@ -36,8 +35,5 @@ struct FormeProgramma {
     /// The about box with the line of the open project, empty if none (document_names.hpp).
     std::function<void(const std::string& fileCorrente)> informazioni;
 };
-
-/// True if what a command shows is plugged in, or it needs nothing.
-[[nodiscard]] bool haForma(Comando comando, const FormeProgramma& forme);
 
 }  // namespace korven::commands

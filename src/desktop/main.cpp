@@ -93,7 +93,7 @@ int sessione(shell::Applicazione& applicazione, shell::DialogoQt& dialogo,
     QTimer::singleShot(0, &finestra, [&] {
         commands::avvia(argomento, programma.documento(),
                         {.leggiMaschere = [&] { commands::leggiDatiProgramma(maschere); },
-                         .saluta = [&] { finestra.esegui(commands::Comando::about); }});
+                         .saluta = [&] { finestra.esegui(commands::voce("about")); }});
     });
     return applicazione.gira();
 }

@@ -4,6 +4,7 @@
 
 #include "base/table.hpp"
 #include "commands/fatal_error.hpp"
+#include "commands/program.hpp"
 #include "masks/edited_tables.hpp"
 #include "support/dialog_double.hpp"
 #include "support/document_ports.hpp"
@@ -26,7 +27,9 @@ class Edita : public ::testing::Test {
         Progetto = test::progettoSemplice();
         project::fileCorrente = "/lavori/muro.kvd";
     }
-    void esegui(Comando comando) { edita(comando, dialogo, maschere, forme); }
+    void esegui(std::string_view comando) {
+        Programma(dialogo, nomi, finestra, avanzamento, maschere, forme).esegui(voce(comando));
+    }
     // The form: notes what it was given and hands back what the test says, choices kept.
     void mostra(masks::Maschere& tutte) {
         titoli.push_back(tutte.corrente().titolo);
@@ -39,6 +42,9 @@ class Edita : public ::testing::Test {
 
     test::AmbienteDocumento ambiente;
     test::DialogoFinto dialogo;
+    test::DialogoFileFinto nomi;
+    test::FinestraFinta finestra;
+    test::AvanzamentoFinto avanzamento;
     FormeProgramma forme;
     test::CartellaProvvisoria cartella;
     masks::Maschere maschere;
@@ -50,13 +56,10 @@ class Edita : public ::testing::Test {
 
 TEST_F(Edita, RefusesEachEditorWithoutAProjectInItsOwnWords) {
     project::fileCorrente.clear();
-    const std::pair<Comando, const char*> casi[] = {
-        {Comando::editStratigrafia, "editare i dati prima"},
-        {Comando::editParatia, "editare dati prima"},
-        {Comando::editRigidezza, "editare i dati prima"},
-        {Comando::editTiranti, "editare i dati prima"},
-        {Comando::editFasi, "editare i dati prima"},
-        {Comando::editTitoli, "editare dati prima"},
+    const std::pair<const char*, const char*> casi[] = {
+        {"EditStratigrafia", "editare i dati prima"}, {"EditParatia", "editare dati prima"},
+        {"EditRigidezza", "editare i dati prima"},    {"EditTiranti", "editare i dati prima"},
+        {"EditFasi", "editare i dati prima"},         {"EditTitoli", "editare dati prima"},
     };
     for (const auto& [comando, parole] : casi) {
         dialogo.messaggi.clear();
@@ -71,32 +74,30 @@ TEST_F(Edita, RefusesEachEditorWithoutAProjectInItsOwnWords) {
 }
 
 TEST_F(Edita, ShowsTheMaskOfEachEditor) {
-    for (const auto comando : {Comando::editTitoli, Comando::editParatia, Comando::editStratigrafia,
-                               Comando::editTiranti, Comando::editFasi})
+    for (const char* comando :
+         {"EditTitoli", "EditParatia", "EditStratigrafia", "EditTiranti", "EditFasi"})
         esegui(comando);
     EXPECT_EQ(titoli, (Testi{"T", "D", "S", "A", "F"}));
-    esegui(Comando::editRigidezza);
+    esegui("EditRigidezza");
     EXPECT_EQ(sezioni, 1);
     EXPECT_EQ(titoli.size(), 5u);
 }
 
 TEST_F(Edita, LeavesTheProjectAloneWhenTheFormIsLeftWithoutConfirming) {
-    for (const auto comando :
-         {Comando::editStratigrafia, Comando::editParatia, Comando::editTitoli})
-        esegui(comando);
+    for (const char* comando : {"EditStratigrafia", "EditParatia", "EditTitoli"}) esegui(comando);
     EXPECT_FALSE(modificato);
     EXPECT_EQ(Progetto, test::progettoSemplice());
 }
 
 TEST_F(Edita, ShowsTablesWithTheirRowCountAndKilonewtons) {
-    esegui(Comando::editStratigrafia);
+    esegui("EditStratigrafia");
     EXPECT_EQ(mostrati,
               (Testi{"2", "4", "18", "20", "30", "0", "15000", "1A Sabbia, limosa \"media\"", "20",
                      "19", "21", "34", "5", "30000", "2 Ghiaia"}));
-    esegui(Comando::editTiranti);
+    esegui("EditTiranti");
     EXPECT_EQ(mostrati, (Testi{"1", "1.5", "5000", "50", "0"}));
     Progetto.sovraccFase[2] = 0.25;
-    esegui(Comando::editFasi);
+    esegui("EditFasi");
     EXPECT_EQ(mostrati, (Testi{"2", "2", "0", "0", "3", "5", "1", "2.5", "5"}));
 }
 
@@ -107,7 +108,7 @@ TEST_F(Edita, ShowsTheEighteenWallParametersInTheirOrder) {
     Progetto.forzaTesta = 2;
     Progetto.sforzoNormale = 12.5;
     Progetto.inclinazioneMonte = 5;
-    esegui(Comando::editParatia);
+    esegui("EditParatia");
     EXPECT_EQ(mostrati, (Testi{"1", "1", "1", "1", "1", "1", "3", "12", "120000", "0.4", "1", "10",
                                "-30", "20", "125", "5", "3", "1"}));
 }
@@ -115,31 +116,31 @@ TEST_F(Edita, ShowsTheEighteenWallParametersInTheirOrder) {
 TEST_F(Edita, CountsAConfirmedTableAsModifiedAndAnUnchangedFieldFormNot) {
     const auto paratia = masks::testiParatia(Progetto);
     confermati = Testi(paratia.begin() + 7, paratia.end());  // the seven choices stay apart
-    esegui(Comando::editParatia);
+    esegui("EditParatia");
     EXPECT_FALSE(modificato);
     confermati = masks::testiStrati(Progetto);
-    esegui(Comando::editStratigrafia);
+    esegui("EditStratigrafia");
     EXPECT_TRUE(modificato);
     EXPECT_EQ(Progetto, test::progettoSemplice());
 }
 
 TEST_F(Edita, TakesBackEveryShownTableUnchanged) {
     confermati = masks::testiTiranti(Progetto);
-    esegui(Comando::editTiranti);
+    esegui("EditTiranti");
     confermati = masks::testiFasi(Progetto);
-    esegui(Comando::editFasi);
+    esegui("EditFasi");
     EXPECT_EQ(Progetto, test::progettoSemplice());
 }
 
 TEST_F(Edita, KeepsTheStageToDrawOutOfTheProject) {
-    esegui(Comando::editTitoli);
+    esegui("EditTitoli");
     EXPECT_EQ(mostrati, (Testi{"Muro di prova", "", "", "", "", "", "0"}));
     confermati = Testi{"Muro di prova", "", "", "", "", "", "2"};
-    esegui(Comando::editTitoli);
+    esegui("EditTitoli");
     EXPECT_EQ(project::faseGrafico, 2);
     EXPECT_FALSE(modificato);
     confermati = Testi{"Muro di prova", "Tratto B", "", "", "", "", "2"};
-    esegui(Comando::editTitoli);
+    esegui("EditTitoli");
     EXPECT_TRUE(modificato);
     EXPECT_EQ(Progetto.titoli[2], "Tratto B");
 }
@@ -154,14 +155,14 @@ TEST_F(Edita, TakesAMissingOrUnreadableStageForAll) {
     for (const auto& [testi, fase] : casi) {
         project::faseGrafico = 7;
         confermati = testi;
-        esegui(Comando::editTitoli);
+        esegui("EditTitoli");
         EXPECT_EQ(project::faseGrafico, fase);
     }
 }
 
 TEST_F(Edita, EndsOnMoreRowsThanTheTableHolds) {
     confermati = Testi{"101"};
-    EXPECT_THROW(esegui(Comando::editStratigrafia), base::ErroreIndice);
+    EXPECT_THROW(esegui("EditStratigrafia"), base::ErroreIndice);
 }
 
 TEST_F(Edita, WritesTheRowsThatATableDoesNotHoldBesideTheProjectBeforeItEnds) {
@@ -176,7 +177,7 @@ TEST_F(Edita, WritesTheRowsThatATableDoesNotHoldBesideTheProjectBeforeItEnds) {
             attese += "5\t0\t\tx\r\n";
         }
         try {
-            esegui(Comando::editFasi);
+            esegui("EditFasi");
             FAIL() << "no end at " << righe;
         } catch (const ErroreRighe& errore) {
             EXPECT_EQ(errore.indice(), righe);

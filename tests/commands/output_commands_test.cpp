@@ -9,6 +9,7 @@
 #include "base/number_text.hpp"
 #include "base/table.hpp"
 #include "base/value_error.hpp"
+#include "commands/program.hpp"
 #include "drawings/hatch_library.hpp"
 #include "plot/plot_engine.hpp"
 #include "project/project_file.hpp"
@@ -25,11 +26,10 @@ namespace {
 using base::Puntatore;
 using project::Progetto;
 
-constexpr Comando relazioni[] = {Comando::stampaVideo, Comando::stampaTabulati, Comando::esportaDoc,
-                                 Comando::esportaTxt};
-constexpr Comando diagrammi[] = {Comando::graficaPressioni, Comando::graficaSpostamenti,
-                                 Comando::graficaMomenti, Comando::graficaTaglio};
-constexpr Comando senzaCalcolo[] = {Comando::graficaStruttura, Comando::graficaStratigrafia};
+constexpr std::string_view relazioni[] = {"StampaVideo", "StampaTabulati", "espotab", "espotabtxt"};
+constexpr std::string_view diagrammi[] = {"GraficaPressioni", "GraficaSpostamenti",
+                                          "GraficaMomenti", "GraficaTaglio"};
+constexpr std::string_view senzaCalcolo[] = {"GraficaStruttura", "GraficaStratigrafia"};
 
 class Produci : public ::testing::Test {
  protected:
@@ -52,11 +52,16 @@ class Produci : public ::testing::Test {
         Progetto = test::progettoSemplice();
         project::fileCorrente = muro;
     }
-    void esegui(Comando comando) { produci(comando, dialogo, avanzamento, forme); }
+    void esegui(std::string_view comando) {
+        Programma(dialogo, nomi, finestra, avanzamento, maschere, forme).esegui(voce(comando));
+    }
 
     test::AmbienteDocumento ambiente;
     test::DialogoFinto dialogo;
+    test::DialogoFileFinto nomi;
+    test::FinestraFinta finestra;
     test::AvanzamentoFinto avanzamento;
+    masks::Maschere maschere;
     FormeProgramma forme;
     std::string muro = ambiente.lavori / "muro.kvd";
     std::vector<std::string> ricevute;
@@ -68,15 +73,15 @@ class Produci : public ::testing::Test {
 
 TEST_F(Produci, RefusesEveryOutputWithoutAProject) {
     project::fileCorrente.clear();
-    for (const auto& gruppo :
-         {std::span<const Comando>(relazioni), std::span<const Comando>(diagrammi),
-          std::span<const Comando>(senzaCalcolo)})
+    for (const auto& gruppo : {std::span<const std::string_view>(relazioni),
+                               std::span<const std::string_view>(diagrammi),
+                               std::span<const std::string_view>(senzaCalcolo)})
         for (const auto comando : gruppo) {
             dialogo.messaggi.clear();
             esegui(comando);
             ASSERT_EQ(dialogo.messaggi.size(), 1u);
             EXPECT_EQ(dialogo.messaggi[0].testo,
-                      comando == Comando::graficaStratigrafia
+                      comando == "GraficaStratigrafia"
                           ? "Non e' possibile produrre un output grafico prima di aver aperto un "
                             "file."
                           : "Non e' possibile produrre un output prima di aver aperto un file.");
@@ -115,7 +120,7 @@ TEST_F(Produci, DoesNotGoOnAfterARefusedRun) {
 
 TEST_F(Produci, DoesNotGoOnAfterAStoppedRun) {
     avanzamento.adOgniIterazione = [](const auto&) { analysis::stopCalcolo = true; };
-    esegui(Comando::stampaVideo);
+    esegui("StampaVideo");
     EXPECT_TRUE(analysis::erroreCalcolo);
     EXPECT_TRUE(ricevute.empty());
     EXPECT_FALSE(std::filesystem::exists(ambiente.lavori / "muro.OUT"));
@@ -146,7 +151,7 @@ TEST_F(ProduciDisegni, ShowEachDiagramOfTheRunInTheViewer) {
 
 TEST_F(ProduciDisegni, DrawTheSectionWithoutARun) {
     Progetto.lunghezzaParatia = 0;  // a run would be refused
-    esegui(Comando::graficaStruttura);
+    esegui("GraficaStruttura");
     EXPECT_EQ(viste, 1);
     EXPECT_EQ(avanzamento.aperture, 0);
     EXPECT_TRUE(dialogo.messaggi.empty());
@@ -156,7 +161,7 @@ TEST_F(ProduciDisegni, DrawTheSectionWithoutARun) {
 TEST_F(ProduciDisegni, DrawTheLogForThePageOfThePrinter) {
     test::scriviLibreria(ambiente.programma, {});
     forme.altezzaPagina = [] { return 21.0; };
-    esegui(Comando::graficaStratigrafia);
+    esegui("GraficaStratigrafia");
     EXPECT_EQ(viste, 1);
     EXPECT_DOUBLE_EQ(plot::statoPlot.estensione.ymin, 7.6);
 }
@@ -169,7 +174,7 @@ TEST_F(ProduciDisegni, TakeAwayTheViewerOfALogThatItsUserStops) {
     plot::statoPlot.sorveglia = &fermo;
     int tolte = 0;
     forme.chiudiGrafica = [&tolte] { ++tolte; };
-    esegui(Comando::graficaStratigrafia);
+    esegui("GraficaStratigrafia");
     EXPECT_EQ(viste, 0);
     EXPECT_EQ(tolte, 1);
     EXPECT_TRUE(plot::statoPlot.archivio.lineeInMemoria().empty());
@@ -181,7 +186,7 @@ TEST_F(ProduciDisegni, TellTheLayerOfALogThatHasTooManyTexts) {
     test::scriviLibreria(ambiente.programma, {});
     Progetto.profStrato[2] = 45000;
     try {
-        esegui(Comando::graficaStratigrafia);
+        esegui("GraficaStratigrafia");
         FAIL() << "drawn";
     } catch (const base::ErroreIndice& errore) {
         const std::string detto = errore.what();
@@ -194,7 +199,7 @@ TEST_F(ProduciDisegni, TellTheLayerOfALogThatHasTooManyTexts) {
 TEST_F(ProduciDisegni, DrawTheLogWithoutARun) {
     test::scriviLibreria(ambiente.programma, {});
     Progetto.lunghezzaParatia = 0;
-    esegui(Comando::graficaStratigrafia);
+    esegui("GraficaStratigrafia");
     EXPECT_EQ(viste, 1);
     EXPECT_EQ(avanzamento.aperture, 0);
     EXPECT_FALSE(plot::statoPlot.archivio.lineeInMemoria().empty());
@@ -203,7 +208,7 @@ TEST_F(ProduciDisegni, DrawTheLogWithoutARun) {
 
 TEST_F(ProduciDisegni, DoNotOpenTheViewerOnALogThatWasRefused) {
     Progetto.nStrati = 0;
-    esegui(Comando::graficaStratigrafia);
+    esegui("GraficaStratigrafia");
     EXPECT_EQ(viste, 0);
     EXPECT_EQ(dialogo.messaggi.size(), 1u);
 }
@@ -218,7 +223,7 @@ TEST_F(ProduciDisegni, TellOfALogThatFindsNoRoomAndGoOn) {
         ambiente.programma,
         {{5, {0.005, std::vector<drawings::TrattoCampitura>(4000, {0, 0, 0, 2}), "fitta"}}});
     for (int i = 1; i <= Progetto.nStrati; ++i) Progetto.descrStrato[i] = "105 strato";
-    esegui(Comando::graficaStratigrafia);
+    esegui("GraficaStratigrafia");
     ::unsetenv("windir");
     std::filesystem::current_path(prima);
     EXPECT_EQ(viste, 0);
@@ -230,7 +235,7 @@ TEST_F(ProduciDisegni, TellOfALogThatFindsNoRoomAndGoOn) {
 TEST_F(ProduciDisegni, TellOfAResultThatIsTooLargeLikeOfARefusedRun) {
     // As the caption of the progress does when a moment grows beyond all numbers.
     avanzamento.adOgniIterazione = [](const auto&) { (void)base::testoNumero(HUGE_VAL); };
-    esegui(Comando::graficaMomenti);
+    esegui("GraficaMomenti");
     EXPECT_TRUE(analysis::erroreCalcolo);
     EXPECT_EQ(viste, 0);
     ASSERT_EQ(dialogo.messaggi.size(), 1u);
@@ -241,7 +246,7 @@ TEST_F(ProduciDisegni, TellOfAResultThatIsTooLargeLikeOfARefusedRun) {
 // A folder that bears the name of a file: nobody can write there, the administrator neither.
 TEST_F(Produci, TellsOfResultsThatCantBeWrittenAndGoesOn) {
     std::filesystem::create_directory(ambiente.lavori / "muro.OUT");
-    for (const auto comando : {Comando::stampaVideo, Comando::graficaMomenti}) {
+    for (const char* comando : {"StampaVideo", "GraficaMomenti"}) {
         dialogo.messaggi.clear();
         analysis::erroreCalcolo = false;
         esegui(comando);
@@ -258,13 +263,13 @@ TEST_F(Produci, TellsOfResultsThatCantBeWrittenAndGoesOn) {
 
 TEST_F(Produci, KeepsTheResultsWhenOnlyTheReportCantBeWritten) {
     std::filesystem::create_directory(ambiente.lavori / "muro.TAB");
-    esegui(Comando::stampaVideo);
+    esegui("StampaVideo");
     EXPECT_TRUE(analysis::erroreCalcolo);
     EXPECT_EQ(dialogo.messaggi.size(), 1u);
     EXPECT_TRUE(ricevute.empty());
     EXPECT_TRUE(std::filesystem::exists(ambiente.lavori / "muro.OUT"));
     std::filesystem::remove(ambiente.lavori / "muro.TAB");
-    esegui(Comando::stampaVideo);
+    esegui("StampaVideo");
     EXPECT_FALSE(analysis::erroreCalcolo);
     EXPECT_EQ(ricevute.size(), 1u);
 }

@@ -2,13 +2,23 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <functional>
+#include <map>
+#include <tuple>
+
 #include "analysis/run_flags.hpp"
 #include "base/code_page.hpp"
 #include "base/file_lock.hpp"
 #include "base/file_names.hpp"
+#include "drawings/hatch_library.hpp"
+#include "plot/plot_engine.hpp"
 #include "project/project_file.hpp"
 #include "support/dialog_double.hpp"
 #include "support/document_ports.hpp"
+#include "support/hatch_files.hpp"
+#include "support/plain_masks.hpp"
+#include "support/plot_setup.hpp"
 #include "support/progress_double.hpp"
 #include "support/sample_projects.hpp"
 
@@ -35,11 +45,11 @@ TEST_F(ProgrammaTest, OpensTheHelpAtTheEntryOfEachHelpCommand) {
     forme.aiuto = [&](int contesto) { contesti.push_back(contesto); };
     forme.sommario = [&] { ++sommari; };
     auto p = programma(forme);
-    p.esegui(Comando::aiutoFile);
-    p.esegui(Comando::aiutoEdit);
-    p.esegui(Comando::aiutoStampa);
+    p.esegui(voce("AiutoFile"));
+    p.esegui(voce("AiutoEdit"));
+    p.esegui(voce("AiutoStampa"));
     EXPECT_EQ(contesti, (std::vector<int>{24, 25, 26}));
-    p.esegui(Comando::sommario);
+    p.esegui(voce("sommario"));
     EXPECT_EQ(sommari, 1);
     EXPECT_EQ(contesti.size(), 3u);
 }
@@ -49,9 +59,9 @@ TEST_F(ProgrammaTest, NamesTheOpenProjectInTheAboutBox) {
     FormeProgramma forme;
     forme.informazioni = [&](const std::string& riga) { righe.push_back(riga); };
     auto p = programma(forme);
-    p.esegui(Comando::about);
+    p.esegui(voce("about"));
     project::fileCorrente = "/lavori/muro.kvd";
-    p.esegui(Comando::about);
+    p.esegui(voce("about"));
     EXPECT_EQ(righe, (std::vector<std::string>{"", "File corrente: /LAVORI/MURO"}));
 }
 
@@ -61,8 +71,8 @@ TEST_F(ProgrammaTest, NeedsNoProjectForTheFormsOfTheDevices) {
     forme.editacfg = [&] { ++penne; };
     forme.impostaStampante = [&] { ++stampante; };
     auto p = programma(forme);
-    p.esegui(Comando::configura);
-    p.esegui(Comando::printSetup);
+    p.esegui(voce("configura"));
+    p.esegui(voce("PrintSetup"));
     EXPECT_EQ(penne, 1);
     EXPECT_EQ(stampante, 1);
     EXPECT_TRUE(dialogo.messaggi.empty());
@@ -72,9 +82,8 @@ TEST_F(ProgrammaTest, EndsOnlyThroughTheExit) {
     auto p = programma({});
     project::modificato = true;
     dialogo.risposte = {base::Risposta::annulla, base::Risposta::no};
-    EXPECT_FALSE(p.esegui(Comando::fine));
-    EXPECT_TRUE(p.esegui(Comando::fine));
-    EXPECT_FALSE(p.esegui(Comando::nessuno));
+    EXPECT_FALSE(p.esegui(voce("fine")));
+    EXPECT_TRUE(p.esegui(voce("fine")));
 }
 
 TEST_F(ProgrammaTest, AsksAboutUnsavedWorkWhenTheSessionEndsOrRescuesIt) {
@@ -103,7 +112,7 @@ TEST_F(ProgrammaTest, StopsARunWhenTheSessionEndsInTheMiddleOfItAndKeepsWhatIsSa
     avanzamento.adOgniIterazione = [&](const analysis::StatoIterazione&) {
         if (finisce.size() < 2) finisce.push_back(p.fineSessione(true));
     };
-    p.esegui(Comando::stampaVideo);
+    p.esegui(voce("StampaVideo"));
     EXPECT_EQ(finisce, (std::vector{false, true}));
     EXPECT_EQ(avanzamento.iterazioni, 2);  // cancel lets the run go on
     EXPECT_EQ(test::contenuto(muro), base::inCp1252(project::testoProgetto(project::Progetto)));
@@ -123,13 +132,13 @@ TEST_F(ProgrammaTest, TellsInTheStatusLineWhereARunWasStoppedUntilAnotherGoesThr
     avanzamento.adOgniIterazione = [](const analysis::StatoIterazione& stato) {
         if (stato.fase == 2) analysis::stopCalcolo = true;
     };
-    p.esegui(Comando::stampaVideo);
+    p.esegui(voce("StampaVideo"));
     EXPECT_EQ(finestra.ultimoStato,
               "Calcolo interrotto (fase 2, 1 iterazioni): "
               "nessun nodo e nessun tirante cambia stato");
     EXPECT_TRUE(dialogo.messaggi.empty());
     avanzamento.adOgniIterazione = {};
-    p.esegui(Comando::stampaVideo);
+    p.esegui(voce("StampaVideo"));
     EXPECT_EQ(finestra.ultimoStato, aperto);
 }
 
@@ -144,7 +153,7 @@ TEST_F(ProgrammaTest, TellsOfAnotherRunThatDoesNotLetGoOfTheResults) {
     base::Serratura altra;
     ASSERT_EQ(altra.prendi(base::nomeSerratura(base::nomeRisultati(muro))),
               base::Serratura::Esito::presa);
-    p.esegui(Comando::stampaVideo);
+    p.esegui(voce("StampaVideo"));
     EXPECT_EQ(avanzamento.attese.size(), 200u);
     EXPECT_EQ(avanzamento.fineAttese, 1);
     EXPECT_EQ(avanzamento.aperture, 0);
@@ -153,31 +162,142 @@ TEST_F(ProgrammaTest, TellsOfAnotherRunThatDoesNotLetGoOfTheResults) {
               std::string::npos);
     EXPECT_EQ(dialogo.messaggi[0].icona, base::Icona::stop);
     altra.lascia();
-    p.esegui(Comando::stampaVideo);
+    p.esegui(voce("StampaVideo"));
     EXPECT_EQ(avanzamento.aperture, 1);
 }
 
-TEST_F(ProgrammaTest, SaysWhichCommandsHaveTheirForm) {
-    const auto senza = programma({});
-    EXPECT_TRUE(senza.puo(Comando::fileApri));
-    EXPECT_TRUE(senza.puo(Comando::fileSalva));
-    EXPECT_TRUE(senza.puo(Comando::fine));
-    for (int c = 1; c <= static_cast<int>(Comando::about); ++c) {
-        const auto comando = static_cast<Comando>(c);
-        const bool bastaASe = comando == Comando::fileApri || comando == Comando::fileSalva ||
-                              comando == Comando::fine;
-        EXPECT_EQ(senza.puo(comando), bastaASe) << voce(comando).nome;
+using Nomi = std::vector<std::string>;
+
+// The items that can be chosen.
+Nomi sceglibili(const Programma& p) {
+    Nomi scelte;
+    for (const auto& v : albero())
+        if (p.puo(v)) scelte.emplace_back(v.nome);
+    return scelte;
+}
+
+TEST_F(ProgrammaTest, LetsOnlyThoseCommandsBeChosenThatShowNoFormOrOneThatIsPluggedIn) {
+    EXPECT_EQ(sceglibili(programma({})), (Nomi{"FileApri", "FileSalva", "fine"}));
+    const std::tuple<const char*, std::function<void(FormeProgramma&)>, Nomi> casi[] = {
+        {"maschera",
+         [](auto& f) { f.maschera = [](masks::Maschere&) {}; },
+         {"EditStratigrafia", "EditParatia", "EditTiranti", "EditFasi", "EditTitoli"}},
+        {"sezione", [](auto& f) { f.sezione = [] {}; }, {"EditRigidezza"}},
+        {"grafica",
+         [](auto& f) { f.grafica = [] {}; },
+         {"GraficaMomenti", "GraficaSpostamenti", "GraficaTaglio", "GraficaPressioni",
+          "GraficaStruttura", "GraficaStratigrafia"}},
+        {"anteprima", [](auto& f) { f.anteprima = [](const std::string&) {}; }, {"StampaVideo"}},
+        {"stampa", [](auto& f) { f.stampa = [](const std::string&) {}; }, {"StampaTabulati"}},
+        {"esportaDoc", [](auto& f) { f.esportaDoc = [](const std::string&) {}; }, {"espotab"}},
+        {"esportaTxt", [](auto& f) { f.esportaTxt = [](const std::string&) {}; }, {"espotabtxt"}},
+        {"editacfg", [](auto& f) { f.editacfg = [] {}; }, {"configura"}},
+        {"impostaStampante", [](auto& f) { f.impostaStampante = [] {}; }, {"PrintSetup"}},
+        {"aiuto", [](auto& f) { f.aiuto = [](int) {}; }, {"AiutoFile", "AiutoEdit", "AiutoStampa"}},
+        {"sommario", [](auto& f) { f.sommario = [] {}; }, {"sommario"}},
+        {"informazioni", [](auto& f) { f.informazioni = [](const std::string&) {}; }, {"about"}},
+    };
+    std::size_t quanti = 3;
+    for (const auto& [forma, inserisci, attesi] : casi) {
+        FormeProgramma forme;
+        inserisci(forme);
+        Nomi sue = sceglibili(programma(forme));
+        for (const char* sempre : {"FileApri", "FileSalva", "fine"}) std::erase(sue, sempre);
+        EXPECT_EQ(sue, attesi) << forma;
+        quanti += sue.size();
     }
+    const auto tutte = albero();
+    EXPECT_EQ(quanti, static_cast<std::size_t>(std::count_if(
+                          tutte.begin(), tutte.end(), [](const auto& v) { return !apreMenu(v); })));
+}
+
+// With a project open, pens and patterns to draw with, and forms that say that they were shown.
+class MenuIntero : public ProgrammaTest {
+ protected:
+    MenuIntero() {
+        plot::scriviConfigurazione(ambiente.programma / "module06ita.cfg",
+                                   test::configurazioneDiProva());
+        test::scriviLibreria(ambiente.programma, {});
+        drawings::dimenticaCampiture();  // those of another test's folder
+        plot::statoPlot = {};
+        maschere.leggiMaschere(test::maschereSemplici(cartella));
+        project::Progetto = test::progettoSemplice();
+        project::fileCorrente = ambiente.lavori / "muro.kvd";
+
+        const auto dice = [this](const char* forma) { return [=, this] { mostrate += forma; }; };
+        const auto riceve = [this](const char* forma) {
+            return [=, this](const std::string&) { mostrate += forma; };
+        };
+        forme.maschera = [this](masks::Maschere& m) { mostrate += "mask " + m.corrente().titolo; };
+        forme.sezione = dice("section");
+        forme.grafica = [this] { mostrate += "viewer of " + plot::statoPlot.nome; };
+        forme.anteprima = riceve("preview");
+        forme.stampa = riceve("printer");
+        forme.esportaDoc = riceve("doc");
+        forme.esportaTxt = riceve("txt");
+        forme.editacfg = dice("pens");
+        forme.impostaStampante = dice("printer set-up");
+        forme.aiuto = [this](int contesto) { mostrate += "page " + std::to_string(contesto); };
+        forme.sommario = dice("contents");
+        forme.informazioni = riceve("about box");
+    }
+    ~MenuIntero() override { plot::statoPlot = {}; }
+
+    // What an item brings about.
+    std::string esito(std::string_view nome) {
+        auto p = programma(forme);
+        mostrate.clear();
+        nomi.attuali.clear();
+        nomi.proposte.clear();
+        if (p.esegui(voce(nome))) mostrate += "end";
+        if (!nomi.attuali.empty()) mostrate += "open dialog";
+        if (!nomi.proposte.empty()) mostrate += "save dialog";
+        return mostrate;
+    }
+
+    test::CartellaProvvisoria cartella;
     FormeProgramma forme;
-    forme.maschera = [](masks::Maschere&) {};
-    forme.sezione = forme.grafica = forme.editacfg = forme.impostaStampante =
-        forme.sommario = [] {};
-    forme.anteprima = forme.stampa = forme.esportaDoc = forme.esportaTxt =
-        forme.informazioni = [](const std::string&) {};
-    forme.aiuto = [](int) {};
-    const auto tutte = programma(forme);
-    for (int c = 1; c <= static_cast<int>(Comando::about); ++c)
-        EXPECT_TRUE(tutte.puo(static_cast<Comando>(c)));
+    std::string mostrate;
+};
+
+TEST_F(MenuIntero, BringsAboutWhatEachItemSays) {
+    const std::map<std::string_view, std::string> attesi = {
+        {"FileApri", "open dialog"},
+        {"FileSalva", "save dialog"},
+        {"PrintSetup", "printer set-up"},
+        {"AiutoFile", "page 24"},
+        {"EditStratigrafia", "mask S"},
+        {"EditParatia", "mask D"},
+        {"EditRigidezza", "section"},
+        {"EditTiranti", "mask A"},
+        {"EditFasi", "mask F"},
+        {"EditTitoli", "mask T"},
+        {"AiutoEdit", "page 25"},
+        {"GraficaMomenti", "viewer of momenti"},
+        {"GraficaSpostamenti", "viewer of spostamenti"},
+        {"GraficaTaglio", "viewer of taglio"},
+        {"GraficaPressioni", "viewer of pressioni"},
+        {"GraficaStruttura", "viewer of sezione"},
+        {"GraficaStratigrafia", "viewer of stratigrafia"},
+        {"StampaVideo", "preview"},
+        {"StampaTabulati", "printer"},
+        {"espotab", "doc"},
+        {"espotabtxt", "txt"},
+        {"configura", "pens"},
+        {"AiutoStampa", "page 26"},
+        {"fine", "end"},
+        {"sommario", "contents"},
+        {"about", "about box"},
+    };
+    std::size_t provate = 0;
+    for (const auto& v : albero()) {
+        if (apreMenu(v)) continue;
+        ++provate;
+        ASSERT_TRUE(attesi.contains(v.nome)) << v.nome;
+        EXPECT_EQ(esito(v.nome), attesi.at(v.nome)) << v.nome;
+    }
+    EXPECT_EQ(provate, attesi.size());
+    EXPECT_TRUE(dialogo.messaggi.empty());
 }
 
 }  // namespace

@@ -27,27 +27,23 @@ namespace korven::shell {
 
 namespace {
 
-using commands::Comando;
-
-constexpr const char* proprietaComando = "comando";
 constexpr const char* proprietaAiuto = "aiuto";
 
 struct Scorciatoia {
-    Comando comando;
+    std::string_view voce;
     QKeySequence::StandardKey tasti;
 };
-constexpr Scorciatoia scorciatoie[] = {{Comando::fileApri, QKeySequence::Open},
-                                       {Comando::fileSalva, QKeySequence::Save},
-                                       {Comando::fine, QKeySequence::Quit},
-                                       {Comando::sommario, QKeySequence::HelpContents}};
+constexpr Scorciatoia scorciatoie[] = {{"FileApri", QKeySequence::Open},
+                                       {"FileSalva", QKeySequence::Save},
+                                       {"fine", QKeySequence::Quit},
+                                       {"sommario", QKeySequence::HelpContents}};
 
 void battezza(QAction* azione, const commands::VoceMenu& voce) {
     azione->setObjectName(qt(voce.nome));
-    azione->setProperty(proprietaComando, static_cast<int>(voce.comando));
     azione->setProperty(proprietaAiuto, voce.aiuto);
     azione->setMenuRole(QAction::NoRole);
-    for (const auto& [comando, tasti] : scorciatoie)
-        if (comando == voce.comando) azione->setShortcut(QKeySequence(tasti));
+    for (const auto& [nome, tasti] : scorciatoie)
+        if (nome == voce.nome) azione->setShortcut(QKeySequence(tasti));
 }
 
 // On a small screen the whole form is to be seen, with the frame that the desktop draws around it.
@@ -74,7 +70,7 @@ Menu1::Menu1() {
     immagine_ = new QuadroParatia(this);
     immagine_->setObjectName("Image1");
     setCentralWidget(immagine_);
-    connect(immagine_, &QuadroParatia::premuta, this, [this] { esegui(Comando::about); });
+    connect(immagine_, &QuadroParatia::premuta, this, [this] { esegui(commands::voce("about")); });
     stato_ = new EtichettaAccorciata(this);
     stato_->setObjectName("stato");
     stato_->mostra(tradotto("Nessun progetto aperto"));
@@ -119,16 +115,15 @@ void Menu1::costruisciMenu() {
         }
         QAction* azione = sopra != nullptr ? sopra->addAction(testo) : menuBar()->addAction(testo);
         battezza(azione, voce);
-        azione->setEnabled(programma_->puo(voce.comando));
-        connect(azione, &QAction::triggered, this,
-                [this, comando = voce.comando] { esegui(comando); });
+        azione->setEnabled(programma_->puo(voce));
+        connect(azione, &QAction::triggered, this, [this, &voce] { esegui(voce); });
     }
 }
 
-void Menu1::esegui(Comando comando) {
-    if (programma_ == nullptr || !programma_->puo(comando)) return;
+void Menu1::esegui(const commands::VoceMenu& voce) {
+    if (programma_ == nullptr || !programma_->puo(voce)) return;
     salutata_ = false;  // a session that was to end goes on, and the project may change again
-    const bool finisce = programma_->esegui(comando);
+    const bool finisce = programma_->esegui(voce);
     mostraModifiche();
     if (!finisce) return;
     salutata_ = true;
@@ -141,7 +136,7 @@ void Menu1::titolo(const std::string& testo) { setWindowTitle(qt(testo)); }
 void Menu1::stato(const std::string& testo) { stato_->mostra(qt(testo)); }
 
 void Menu1::closeEvent(QCloseEvent* evento) {
-    if (!salutata_ && programma_ != nullptr && !programma_->esegui(Comando::fine)) {
+    if (!salutata_ && programma_ != nullptr && !programma_->esegui(commands::voce("fine"))) {
         evento->ignore();
         return;
     }

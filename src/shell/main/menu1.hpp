@@ -24,8 +24,8 @@ class Menu1 : public QMainWindow, public commands::FinestraPrincipale {
     /// @param programma  not owned; must outlive the form
     void collega(commands::Programma& programma);
 
-    /// A command, as from the menu.
-    void esegui(commands::Comando comando);
+    /// The command of an item, as from the menu; nothing where its form is missing.
+    void esegui(const commands::VoceMenu& voce);
 
     /// The session manager wants the program to end: the question about unsaved work where it lets
     /// the user be asked, a rescue file where it does not.

@@ -25,7 +25,6 @@ namespace korven::shell {
 namespace {
 
 using base::Risposta;
-using commands::Comando;
 using project::fileCorrente;
 using project::modificato;
 
@@ -154,7 +153,7 @@ TEST_F(Menu1Test, LetsNobodyChooseACommandWhoseFormIsMissing) {
     EXPECT_TRUE(voce("EditFasi")->isEnabled());
     EXPECT_TRUE(voce("FileApri")->isEnabled());
     EXPECT_FALSE(voce("StampaVideo")->isEnabled());
-    finestra.esegui(Comando::stampaVideo);
+    finestra.esegui(commands::voce("StampaVideo"));
     EXPECT_TRUE(dialogo.messaggi.empty());
 }
 

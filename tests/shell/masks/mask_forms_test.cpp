@@ -8,7 +8,7 @@
 #include <QPushButton>
 #include <QTableView>
 
-#include "commands/edit_commands.hpp"
+#include "commands/program.hpp"
 #include "masks/column_keys.hpp"
 #include "project/project_data.hpp"
 #include "shell/masks/base1.hpp"
@@ -16,12 +16,13 @@
 #include "shell/qt_text.hpp"
 #include "support/desktop_bench.hpp"
 #include "support/dialog_double.hpp"
+#include "support/document_ports.hpp"
 #include "support/form_setup.hpp"
+#include "support/progress_double.hpp"
 
 namespace korven::shell {
 namespace {
 
-using commands::Comando;
 using project::Progetto;
 
 void premi(const QWidget& forma, const char* pulsante) {
@@ -52,13 +53,14 @@ class FormeDelleMaschere : public ::testing::Test {
     }
     // Calls an editing command and does something to its form.
     template <class Forma>
-    void edita(Comando comando, std::function<void(Forma&)> azione) {
+    void edita(std::string_view comando, std::function<void(Forma&)> azione) {
         const test::AllaProssimaFinestra<QDialog> finestra([&](QDialog& aperta) {
             auto* forma = dynamic_cast<Forma*>(&aperta);
             ASSERT_NE(forma, nullptr) << "a form of the other kind";
             azione(*forma);
         });
-        commands::edita(comando, dialogo, maschere, forme);
+        commands::Programma(dialogo, nomi, principale, avanzamento, maschere, forme)
+            .esegui(commands::voce(comando));
         EXPECT_TRUE(finestra.fatto);
     }
 
@@ -66,13 +68,16 @@ class FormeDelleMaschere : public ::testing::Test {
     test::UtenteNuovo utente;
     std::unique_ptr<test::TestiConsegnati> testi;
     test::DialogoFinto dialogo;
+    test::DialogoFileFinto nomi;
+    test::FinestraFinta principale;
+    test::AvanzamentoFinto avanzamento;
     masks::Maschere maschere;
     commands::FormeProgramma forme;
 };
 
 TEST_F(FormeDelleMaschere, SayInTheStripWhatIsOddAboutAHeadingWhileItIsTyped) {
     Progetto.titoli[1] = "#12";
-    edita<Base1>(Comando::editTitoli, [](Base1& forma) {
+    edita<Base1>("EditTitoli", [](Base1& forma) {
         auto& striscia = test::controllo<QLabel>(forma, "Labelhelp");
         auto& prima = test::controllo<QLineEdit>(forma, "Text1_0");
         EXPECT_TRUE(striscia.text().startsWith("comincia con #: "))
@@ -89,7 +94,7 @@ TEST_F(FormeDelleMaschere, SayInTheStripWhatIsOddAboutAHeadingWhileItIsTyped) {
 }
 
 TEST_F(FormeDelleMaschere, GiveANewProjectRealCodesAtTheFirstConfirmOfTheWall) {
-    edita<Base1>(Comando::editParatia, [](Base1& forma) {
+    edita<Base1>("EditParatia", [](Base1& forma) {
         EXPECT_EQ(test::controllo<QComboBox>(forma, "Combo1_5").currentText(), "Coulomb");
         premi(forma, "Command1_0");
     });
@@ -98,12 +103,12 @@ TEST_F(FormeDelleMaschere, GiveANewProjectRealCodesAtTheFirstConfirmOfTheWall) {
     EXPECT_EQ(Progetto.gammaAcqua, 1);
     EXPECT_TRUE(project::modificato);
     project::modificato = false;
-    edita<Base1>(Comando::editParatia, [](Base1& forma) { premi(forma, "Command1_0"); });
+    edita<Base1>("EditParatia", [](Base1& forma) { premi(forma, "Command1_0"); });
     EXPECT_FALSE(project::modificato) << "nothing changed";
 }
 
 TEST_F(FormeDelleMaschere, TakeTheWallInTheUnitsOfTheUser) {
-    edita<Base1>(Comando::editParatia, [](Base1& forma) {
+    edita<Base1>("EditParatia", [](Base1& forma) {
         const std::pair<const char*, const char*> valori[] = {
             {"Text1_0", "12.5"}, {"Text1_1", "1e3"}, {"Text1_4", "20"}, {"Text1_10", ""}};
         for (const auto& [nome, valore] : valori) {
@@ -123,7 +128,7 @@ TEST_F(FormeDelleMaschere, TakeTheWallInTheUnitsOfTheUser) {
 }
 
 TEST_F(FormeDelleMaschere, TakeHeadingsAndTheStageOfTheDiagrams) {
-    edita<Base1>(Comando::editTitoli, [](Base1& forma) {
+    edita<Base1>("EditTitoli", [](Base1& forma) {
         auto& titolo = test::controllo<QLineEdit>(forma, "Text1_1");
         QTest::keyClicks(&titolo, "Lotto ");
         QTest::sendKeyEvent(QTest::Click, &titolo, Qt::Key_Egrave, QString::fromUtf8("è"), {});
@@ -138,7 +143,7 @@ TEST_F(FormeDelleMaschere, TakeHeadingsAndTheStageOfTheDiagrams) {
 }
 
 TEST_F(FormeDelleMaschere, TakeATableTypedFromNothing) {
-    edita<Base2_32>(Comando::editFasi, [](Base2_32& forma) {
+    edita<Base2_32>("EditFasi", [](Base2_32& forma) {
         auto* griglia = &test::controllo<QTableView>(forma, "MSFlexGrid1");
         for (const char* valore : {"3", "0", "10", "5"}) {
             QTest::keyClicks(griglia, valore);
@@ -154,7 +159,7 @@ TEST_F(FormeDelleMaschere, TakeATableTypedFromNothing) {
 }
 
 TEST_F(FormeDelleMaschere, LetALayerBeWithoutDescription) {
-    edita<Base2_32>(Comando::editStratigrafia, [](Base2_32& forma) {
+    edita<Base2_32>("EditStratigrafia", [](Base2_32& forma) {
         QTest::keyClicks(&test::controllo(forma, "MSFlexGrid1"), "30");
         premi(forma, "Command1_0");
     });
@@ -163,8 +168,8 @@ TEST_F(FormeDelleMaschere, LetALayerBeWithoutDescription) {
 }
 
 TEST_F(FormeDelleMaschere, TakeBackNothingWhenTheyAreCancelled) {
-    edita<Base1>(Comando::editParatia, [](Base1& forma) { premi(forma, "Command1_1"); });
-    edita<Base2_32>(Comando::editTiranti, [](Base2_32& forma) {
+    edita<Base1>("EditParatia", [](Base1& forma) { premi(forma, "Command1_1"); });
+    edita<Base2_32>("EditTiranti", [](Base2_32& forma) {
         QTest::keyClicks(&test::controllo(forma, "MSFlexGrid1"), "30");
         premi(forma, "Command1_1");
     });
@@ -177,12 +182,12 @@ TEST_F(FormeDelleMaschere, OpenTheHelpThatTheCommandsHave) {
     std::vector<int> aperti;
     forme.aiuto = [&](int contesto) { aperti.push_back(contesto); };
     collegaMaschere(forme, dialogo, nullptr);
-    edita<Base1>(Comando::editParatia, [](Base1& forma) {
+    edita<Base1>("EditParatia", [](Base1& forma) {
         premi(forma, "Command1_2");
         EXPECT_EQ(forma.property("contestoAiuto").toInt(), 6);
         forma.reject();
     });
-    edita<Base2_32>(Comando::editStratigrafia, [](Base2_32& forma) {
+    edita<Base2_32>("EditStratigrafia", [](Base2_32& forma) {
         premi(forma, "Command1_4");
         forma.reject();
     });
@@ -191,7 +196,7 @@ TEST_F(FormeDelleMaschere, OpenTheHelpThatTheCommandsHave) {
 }
 
 TEST_F(FormeDelleMaschere, ShowTheReferenceWithoutAHelp) {
-    edita<Base1>(Comando::editParatia, [](Base1& forma) {
+    edita<Base1>("EditParatia", [](Base1& forma) {
         premi(forma, "Command1_2");
         forma.reject();
     });
@@ -201,7 +206,7 @@ TEST_F(FormeDelleMaschere, ShowTheReferenceWithoutAHelp) {
 
 TEST_F(FormeDelleMaschere, TranslateALabelUpToItsUnit) {
     apriIn(3);
-    edita<Base1>(Comando::editParatia, [](Base1& forma) {
+    edita<Base1>("EditParatia", [](Base1& forma) {
         const QString etichetta = test::controllo<QLabel>(forma, "Label1_7").text();
         EXPECT_TRUE(etichetta.startsWith("Longueur")) << etichetta.toStdString();
         EXPECT_TRUE(etichetta.contains(" [m] ..."));
@@ -214,9 +219,8 @@ TEST_F(FormeDelleMaschere, TranslateALabelUpToItsUnit) {
 TEST_F(FormeDelleMaschere, ClipNoCaptionInAnyLanguage) {
     for (int lingua = 1; lingua <= 6; ++lingua) {
         apriIn(lingua);
-        for (const auto comando :
-             {Comando::editTitoli, Comando::editParatia, Comando::editStratigrafia,
-              Comando::editTiranti, Comando::editFasi})
+        for (const char* comando :
+             {"EditTitoli", "EditParatia", "EditStratigrafia", "EditTiranti", "EditFasi"})
             edita<QDialog>(comando, [&](QDialog& forma) {
                 for (const auto* etichetta : forma.findChildren<QLabel*>()) {
                     EXPECT_GE(etichetta->width(), etichetta->minimumSizeHint().width())
