@@ -12,6 +12,7 @@
 #include "base/file_names.hpp"
 #include "base/files.hpp"
 #include "base/number_text.hpp"
+#include "base/pointer_guard.hpp"
 #include "base/translated_texts.hpp"
 #include "project/output_guard.hpp"
 #include "project/project_file.hpp"
@@ -34,20 +35,6 @@ void avvisa(base::Dialogo& dialogo, std::string_view testo) {
     dialogo.messaggio(testo, traduttore("ATTENZIONE") + "!", base::Icona::stop);
     erroreCalcolo = true;
 }
-
-// The hourglass, for as long as a run lasts.
-class Clessidra {
- public:
-    explicit Clessidra(base::Dialogo& dialogo) : dialogo_(dialogo) {
-        dialogo_.puntatore(base::Puntatore::clessidra);
-    }
-    Clessidra(const Clessidra&) = delete;
-    Clessidra& operator=(const Clessidra&) = delete;
-    ~Clessidra() { dialogo_.puntatore(base::Puntatore::normale); }
-
- private:
-    base::Dialogo& dialogo_;
-};
 
 // Puts the name of the result file in the place of the project's for the length of a run. A project
 // that is saved while events are served, as when the session ends, keeps the name it was given.
@@ -186,7 +173,7 @@ std::string motivoUscite(const std::string& progetto, ModoUscita modoUscita,
 }
 
 void CalcoloParatia(ModoUscita modoUscita, const PorteCalcolo& porte) {
-    const Clessidra clessidra(porte.dialogo);
+    const base::GuardiaPuntatore clessidra(porte.dialogo);
     fsAzioni = structure::fsAzioniSezione;
     erroreCalcolo = false;
     if (const auto motivo = motivoRifiuto(Progetto); !motivo.empty())

@@ -5,6 +5,7 @@
 #include "base/file_error.hpp"
 #include "base/file_names.hpp"
 #include "base/files.hpp"
+#include "base/pointer_guard.hpp"
 #include "base/table.hpp"
 #include "base/translated_texts.hpp"
 #include "base/value_error.hpp"
@@ -25,18 +26,6 @@ namespace {
 using project::fileCorrente;
 
 std::string attenzione() { return base::traduttore("ATTENZIONE") + "!"; }
-
-class Clessidra {
- public:
-    explicit Clessidra(base::Dialogo& dialogo) : dialogo_(dialogo) { mostra(); }
-    Clessidra(const Clessidra&) = delete;
-    Clessidra& operator=(const Clessidra&) = delete;
-    ~Clessidra() { dialogo_.puntatore(base::Puntatore::normale); }
-    void mostra() { dialogo_.puntatore(base::Puntatore::clessidra); }
-
- private:
-    base::Dialogo& dialogo_;
-};
 
 // What an output says, or false where a file of it can't be written: in the folder of a colleague,
 // on a full disk. The user is told, and may save the project elsewhere or make room.
@@ -82,12 +71,12 @@ bool senzaProgetto(base::Dialogo& dialogo) {
 
 void produciRelazione(Destinazione destinazione, const PorteUscita& porte) {
     if (senzaProgetto(porte.dialogo)) return;
-    Clessidra clessidra(porte.dialogo);
+    base::GuardiaPuntatore clessidra(porte.dialogo);
     UscitaRelazione uscita(true);
     // Until the report has been read: another run would write its own in its place.
     analysis::GuardiaRisultati guardia;
     if (!calcola(analysis::relazione, porte, uscita, guardia)) return;
-    clessidra.mostra();  // the run gives the pointer back at its end
+    clessidra.rimetti();  // the run gives the pointer back at its end
     (porte.forme.*destinazione)(uscita.relazione());
 }
 

@@ -1,27 +1,11 @@
 #include "markup/print_renderer.hpp"
 
 #include "base/files.hpp"
+#include "base/pointer_guard.hpp"
 #include "markup/table_style.hpp"
 #include "markup/text_filling.hpp"
 
 namespace korven::markup {
-
-namespace {
-
-class WaitingPointer {
- public:
-    explicit WaitingPointer(base::Dialogo& dialog) : dialog_(dialog) {
-        dialog_.puntatore(base::Puntatore::clessidra);
-    }
-    WaitingPointer(const WaitingPointer&) = delete;
-    WaitingPointer& operator=(const WaitingPointer&) = delete;
-    ~WaitingPointer() { dialog_.puntatore(base::Puntatore::normale); }
-
- private:
-    base::Dialogo& dialog_;
-};
-
-}  // namespace
 
 PrintRenderer::PrintRenderer(ReportPrinter& printer)
     : printer_(printer),
@@ -215,7 +199,7 @@ void PrintRenderer::listRow(const ScanState& state, const FittedTable& fitted, i
 
 void printReport(const std::string& path, ReportPrinter& printer, base::Dialogo& dialog) {
     if (!base::esisteFile(path)) return;
-    const WaitingPointer waiting(dialog);
+    const base::GuardiaPuntatore waiting(dialog);
     auto file = base::LettoreRighe::apri(path);
     PrintRenderer renderer(printer);
     renderMarkup(file, RendererKind::print, renderer);

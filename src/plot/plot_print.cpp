@@ -7,6 +7,7 @@
 
 #include "base/file_error.hpp"
 #include "base/files.hpp"
+#include "base/pointer_guard.hpp"
 #include "base/program_folder.hpp"
 #include "base/text_lines.hpp"
 #include "base/translated_texts.hpp"
@@ -143,20 +144,6 @@ Riquadro disegnoConTesti() {
     return conTesti(statoPlot.estensione, statoPlot.archivio, metrica);
 }
 
-// The pointer waits for as long as this lives.
-class Attesa {
- public:
-    explicit Attesa(base::Dialogo& dialogo) : dialogo_(dialogo) {
-        dialogo_.puntatore(base::Puntatore::clessidra);
-    }
-    Attesa(const Attesa&) = delete;
-    Attesa& operator=(const Attesa&) = delete;
-    ~Attesa() { dialogo_.puntatore(base::Puntatore::normale); }
-
- private:
-    base::Dialogo& dialogo_;
-};
-
 }  // namespace
 
 double sovrapposizioneFogli() {
@@ -169,7 +156,7 @@ double sovrapposizioneFogli() {
 }
 
 void plotStampa(bool adatta, Stampante& stampante, base::Dialogo& dialogo) {
-    const Attesa attesa(dialogo);
+    const base::GuardiaPuntatore attesa(dialogo);
     const LavoroDisegno lavoro;
     const Periferica periferica(stampante.misure());
     if (adatta)

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "base/file_names.hpp"
+#include "base/pointer_guard.hpp"
 #include "base/translated_texts.hpp"
 #include "commands/output_title.hpp"
 #include "commands/report_print.hpp"
@@ -15,24 +16,6 @@
 #include "shell/viewer/export.hpp"
 
 namespace korven::shell {
-
-namespace {
-
-// A form that waits for its user gives the hourglass back for as long.
-class PuntatoreNormale {
- public:
-    explicit PuntatoreNormale(base::Dialogo& dialogo) : dialogo_(dialogo) {
-        dialogo_.puntatore(base::Puntatore::normale);
-    }
-    PuntatoreNormale(const PuntatoreNormale&) = delete;
-    PuntatoreNormale& operator=(const PuntatoreNormale&) = delete;
-    ~PuntatoreNormale() { dialogo_.puntatore(base::Puntatore::clessidra); }
-
- private:
-    base::Dialogo& dialogo_;
-};
-
-}  // namespace
 
 UsciteRelazione::UsciteRelazione(QWidget& principale, base::Dialogo& dialogo,
                                  std::function<QPrinter&()> stampante, std::string outdoc)
@@ -67,7 +50,7 @@ commands::PorteEsportazione UsciteRelazione::porte() {
 }
 
 std::string UsciteRelazione::chiediNome(const std::string& proposto) {
-    const PuntatoreNormale normale(dialogo_);
+    const base::GuardiaPuntatore normale(dialogo_, base::Puntatore::normale);
     return chiediNomeTxt(&principale_, proposto);
 }
 
