@@ -202,4 +202,11 @@ void cancellaFile(const std::string& percorso) {
     ::unlink(percorso.c_str());  // an empty folder of that name stays
 }
 
+void creaCartella(const std::string& cartella) {
+    std::error_code errore;
+    std::filesystem::create_directories(cartella, errore);
+    if (!std::filesystem::is_directory(cartella, errore))
+        throw ErroreFile(cartella, 0, traduttore("impossibile creare la cartella"));
+}
+
 }  // namespace korven::base

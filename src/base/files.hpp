@@ -78,4 +78,8 @@ void accodaFile(const std::string& percorso, std::string_view contenuto,
 /// Removes a file if it exists; says nothing if it can't.
 void cancellaFile(const std::string& percorso);
 
+/// Makes a folder, with those above it, unless it exists.
+/// @throws ErroreFile if it can't be made
+void creaCartella(const std::string& cartella);
+
 }  // namespace korven::base

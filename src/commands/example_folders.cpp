@@ -6,7 +6,6 @@
 #include "base/code_page.hpp"
 #include "base/files.hpp"
 #include "base/program_folder.hpp"
-#include "commands/project_commands.hpp"
 
 namespace korven::commands {
 
@@ -47,7 +46,7 @@ std::string cartellaEsempi(std::string_view sigla) {
 }
 
 void preparaEsempi(const base::Disco& disco) {
-    for (const auto& prefisso : prefissi) creaCartella(cartellaEsempi(prefisso.sigla));
+    for (const auto& prefisso : prefissi) base::creaCartella(cartellaEsempi(prefisso.sigla));
     for (const auto& file : fileDellaCartella(base::cartellaProgramma())) {
         const std::string nome = base::minuscolo(file.filename().string());
         for (const auto& prefisso : prefissi)

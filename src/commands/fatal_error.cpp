@@ -20,13 +20,19 @@ namespace {
 
 namespace fs = std::filesystem;
 
+// Beside the project, among the user's own data, and where the system keeps things no longer than
+// the machine runs.
 std::vector<fs::path> cartelleRecupero() {
     std::error_code errore;
-    // A new user may have no folder for data yet, and the temporary one lasts no longer than the
-    // machine runs.
+    const fs::path progetto = fs::path(project::fileCorrente).parent_path();
     const fs::path dati = fs::path(base::cartellaDatiUtente()).parent_path();
-    fs::create_directories(dati, errore);
-    return {fs::path(project::fileCorrente).parent_path(), dati, fs::temp_directory_path(errore)};
+    const fs::path provvisoria = fs::temp_directory_path(errore);
+    try {
+        base::creaCartella(dati.string());  // a new user may have none yet
+    } catch (const base::ErroreFile&) {
+        return {progetto, provvisoria};
+    }
+    return {progetto, dati, provvisoria};
 }
 
 using NomeLibero = std::string (*)(std::string_view,

@@ -76,13 +76,6 @@ void apriProgetto(const std::string& percorso, const std::string& uscita) {
     togliResti(project::fileCorrente);
 }
 
-void creaCartella(const std::string& cartella) {
-    std::error_code errore;
-    fs::create_directories(cartella, errore);
-    if (!fs::is_directory(cartella, errore))
-        throw base::ErroreFile(cartella, 0, base::traduttore("impossibile creare la cartella"));
-}
-
 EsitoCalcolo leggiEsito() {
     EsitoCalcolo esito;
     esito.fileRisultati = base::nomeRisultati(project::fileCorrente);

@@ -26,10 +26,6 @@ void togliResti(const std::string& progetto);
 /// @throws base::ErroreFile if the project is missing, unreadable or broken
 void apriProgetto(const std::string& percorso, const std::string& uscita);
 
-/// Makes a folder, with those above it, unless it exists.
-/// @throws base::ErroreFile if it can't be made
-void creaCartella(const std::string& cartella);
-
 /// The extremes of one stage, from the result file.
 struct EsitoFase {
     int fase = 0;

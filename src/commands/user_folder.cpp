@@ -10,7 +10,6 @@
 #include "base/files.hpp"
 #include "base/program_folder.hpp"
 #include "base/user_data.hpp"
-#include "commands/project_commands.hpp"
 
 namespace korven::commands {
 
@@ -44,7 +43,7 @@ void copia(const fs::path& da, const fs::path& a, const base::Disco& disco) {
 
 void copiaCartella(const fs::path& da, const fs::path& a, bool anchePrivate,
                    const base::Disco& disco) {
-    creaCartella(a.string());
+    base::creaCartella(a.string());
     std::error_code errore;
     fs::directory_iterator voce(da, errore);
     for (; !errore && voce != fs::directory_iterator(); voce.increment(errore)) {

@@ -320,5 +320,27 @@ TEST(ScrittoreFile, LeavesNothingOfAFileThatIsGivenUp) {
     EXPECT_TRUE(std::filesystem::is_empty(cartella.percorso()));
 }
 
+TEST(CreaCartella, MakesItWithThoseAboveIt) {
+    const CartellaProvvisoria cartella;
+    creaCartella(cartella / "uscita/profonda/");
+    EXPECT_TRUE(std::filesystem::is_directory(cartella / "uscita/profonda"));
+    EXPECT_NO_THROW(creaCartella(cartella / "uscita/profonda"));
+}
+
+TEST(CreaCartella, TellsAFolderThatCannotBeMade) {
+    const CartellaProvvisoria cartella;
+    metti(cartella / "occupato", "file");
+    std::filesystem::create_symlink("anello", cartella / "anello");
+    for (const std::string& nome : {cartella / "occupato", cartella / "occupato/sotto",
+                                    cartella / "anello/sotto", cartella / std::string(300, 'x')}) {
+        try {
+            creaCartella(nome);
+            ADD_FAILURE() << nome;
+        } catch (const ErroreFile& errore) {
+            EXPECT_EQ(errore.percorso(), nome);
+        }
+    }
+}
+
 }  // namespace
 }  // namespace korven::base

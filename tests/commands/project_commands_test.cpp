@@ -112,28 +112,6 @@ TEST_F(Apri, TellsAPathThatNamesNothing) {
     EXPECT_THROW(apriProgetto(cartella / "altro.kvd", cartella / "uscita"), base::ErroreFile);
 }
 
-TEST(CreaCartella, MakesItWithThoseAboveIt) {
-    const CartellaProvvisoria cartella;
-    creaCartella(cartella / "uscita/profonda/");
-    EXPECT_TRUE(fs::is_directory(cartella / "uscita/profonda"));
-    EXPECT_NO_THROW(creaCartella(cartella / "uscita/profonda"));
-}
-
-TEST(CreaCartella, TellsAFolderThatCannotBeMade) {
-    const CartellaProvvisoria cartella;
-    test::metti(cartella / "occupato", "file");
-    fs::create_symlink("anello", cartella / "anello");
-    for (const std::string& nome : {cartella / "occupato", cartella / "occupato/sotto",
-                                    cartella / "anello/sotto", cartella / std::string(300, 'x')}) {
-        try {
-            creaCartella(nome);
-            ADD_FAILURE() << nome;
-        } catch (const base::ErroreFile& errore) {
-            EXPECT_EQ(errore.percorso(), nome);
-        }
-    }
-}
-
 TEST(LeggiEsito, TellsTheExtremesOfEachStageAndChangesNothingInMemory) {
     test::RisultatiAMano file(3);
     auto d = test::progettoSemplice();

@@ -33,7 +33,7 @@ void preparaProgetto(const Opzioni& opzioni, Esito& esito) {
 
 int calcolaConRilievi(const Opzioni& opzioni, Esito& esito, const std::function<int()>& corsa) {
     preparaProgetto(opzioni, esito);
-    if (!opzioni.uscita.empty()) commands::creaCartella(opzioni.uscita);
+    if (!opzioni.uscita.empty()) base::creaCartella(opzioni.uscita);
     const Interruzioni interruzioni;
     esito.rilievi = review::esaminaFile(opzioni.progetto, project::Progetto);
     esito.esaminato = true;
