@@ -45,9 +45,9 @@ std::string senzaEstensione(const fs::path& percorso) {
     return (percorso.parent_path() / nome.substr(0, nome.rfind('.'))).string();
 }
 
-EsitoFase estremi(int k, const project::DatiProgetto& dati, int nNodi,
-                  const analysis::RisultatiFase& risultati) {
-    EsitoFase esito{k, dati.profFase[k], 0, risultati.momentoNodo[1], risultati.momentoNodo[1]};
+EstremiFase estremi(int k, const project::DatiProgetto& dati, int nNodi,
+                    const analysis::RisultatiFase& risultati) {
+    EstremiFase esito{k, dati.profFase[k], 0, risultati.momentoNodo[1], risultati.momentoNodo[1]};
     for (int i = 1; i <= nNodi; ++i) {
         esito.spostamentoMax = std::max(esito.spostamentoMax, std::fabs(risultati.yNodo[i]));
         esito.momentoMax = std::max(esito.momentoMax, risultati.momentoNodo[i]);

@@ -27,7 +27,7 @@ void togliResti(const std::string& progetto);
 void apriProgetto(const std::string& percorso, const std::string& uscita);
 
 /// The extremes of one stage, from the result file.
-struct EsitoFase {
+struct EstremiFase {
     int fase = 0;
     double profFase = 0;        ///< excavation depth [m]
     double spostamentoMax = 0;  ///< largest absolute displacement [m]
@@ -45,7 +45,7 @@ struct EsitoTirante {
 struct EsitoCalcolo {
     int nSeg = 0;
     std::string fileRisultati;
-    std::vector<EsitoFase> fasi;
+    std::vector<EstremiFase> fasi;
     analysis::ChiusuraRisultati chiusura;
     std::vector<EsitoTirante> tiranti;
     std::optional<results::ConfrontoMomenti> momenti;  ///< nothing without a defined section

@@ -18,7 +18,7 @@ double arrotondato(double valore) { return std::round(valore * 1e6) / 1e6 + 0.0;
 double kN(double forza) { return std::round(forza * 1e7) / 1e6 + 0.0; }
 double kNm(double momento) { return kN(momento); }
 
-Json fase(const commands::EsitoFase& riga, const Esito& esito) {
+Json fase(const commands::EstremiFase& riga, const Esito& esito) {
     Json iterazioni = nullptr;
     for (const auto& corsa : esito.fasi)
         if (corsa.fase == riga.fase) iterazioni = corsa.iterazioni;
