@@ -17,8 +17,9 @@
 
 namespace korven::shell {
 
-UsciteRelazione::UsciteRelazione(QWidget& principale, base::Dialogo& dialogo,
-                                 std::function<QPrinter&()> stampante, std::string outdoc)
+DestinazioniRelazione::DestinazioniRelazione(QWidget& principale, base::Dialogo& dialogo,
+                                             std::function<QPrinter&()> stampante,
+                                             std::string outdoc)
     : principale_(principale),
       dialogo_(dialogo),
       stampante_(std::move(stampante)),
@@ -26,35 +27,35 @@ UsciteRelazione::UsciteRelazione(QWidget& principale, base::Dialogo& dialogo,
       programmi_([] { QCoreApplication::processEvents(); }),
       outdoc_(std::move(outdoc)) {}
 
-void UsciteRelazione::anteprima(const std::string& relazione) {
+void DestinazioniRelazione::anteprima(const std::string& relazione) {
     if (!forma_) forma_ = new Form1(&principale_);
     forma_->mostra(relazione);
 }
 
-void UsciteRelazione::stampa(const std::string& relazione) {
+void DestinazioniRelazione::stampa(const std::string& relazione) {
     commands::stampaRelazione(
         relazione, [this] { return apriStampante(); }, dialogo_);
 }
 
-void UsciteRelazione::esportaDoc(const std::string& relazione) {
+void DestinazioniRelazione::esportaDoc(const std::string& relazione) {
     commands::esportaDoc(relazione, porte());
 }
 
-void UsciteRelazione::esportaTxt(const std::string& relazione) {
+void DestinazioniRelazione::esportaTxt(const std::string& relazione) {
     commands::esportaTxt(relazione, porte());
 }
 
-commands::PorteEsportazione UsciteRelazione::porte() {
+commands::PorteEsportazione DestinazioniRelazione::porte() {
     return {dialogo_, programmi_, [this](const std::string& nome) { return chiediNome(nome); },
             outdoc_};
 }
 
-std::string UsciteRelazione::chiediNome(const std::string& proposto) {
+std::string DestinazioniRelazione::chiediNome(const std::string& proposto) {
     const base::GuardiaPuntatore normale(dialogo_, base::Puntatore::normale);
     return chiediNomeTxt(&principale_, proposto);
 }
 
-std::unique_ptr<markup::ReportPrinter> UsciteRelazione::apriStampante() {
+std::unique_ptr<markup::ReportPrinter> DestinazioniRelazione::apriStampante() {
     QPrinter& stampante = stampante_();
     if (dialoghi_.haStampante())
         return device::relazioneSuStampante(stampante, qt(commands::titoloUscite()));
@@ -72,8 +73,8 @@ FileDaSalvare richiestaPdfRelazione() {
 
 void collegaRelazione(commands::FormeProgramma& forme, QWidget& principale, base::Dialogo& dialogo,
                       std::function<QPrinter&()> stampante, std::string outdoc) {
-    const auto uscite = std::make_shared<UsciteRelazione>(principale, dialogo, std::move(stampante),
-                                                          std::move(outdoc));
+    const auto uscite = std::make_shared<DestinazioniRelazione>(
+        principale, dialogo, std::move(stampante), std::move(outdoc));
     forme.anteprima = [uscite](const std::string& r) { uscite->anteprima(r); };
     forme.stampa = [uscite](const std::string& r) { uscite->stampa(r); };
     forme.esportaDoc = [uscite](const std::string& r) { uscite->esportaDoc(r); };

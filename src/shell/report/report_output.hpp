@@ -20,14 +20,14 @@ class QPrinter;
 namespace korven::shell {
 
 /// The ways out of the program that a report has on the desktop.
-class UsciteRelazione {
+class DestinazioniRelazione {
  public:
     /// @param principale  the main form, above which windows and dialogs appear; not owned, like
     ///                    the dialog
     /// @param stampante   the printer of the program, as the printer set-up left it
     /// @param outdoc      path of the converter
-    UsciteRelazione(QWidget& principale, base::Dialogo& dialogo,
-                    std::function<QPrinter&()> stampante, std::string outdoc);
+    DestinazioniRelazione(QWidget& principale, base::Dialogo& dialogo,
+                          std::function<QPrinter&()> stampante, std::string outdoc);
 
     /// Shows the report on the form `Form1`, which stays while the program goes on.
     void anteprima(const std::string& relazione);
@@ -57,7 +57,7 @@ class UsciteRelazione {
 [[nodiscard]] FileDaSalvare richiestaPdfRelazione();
 
 /// Plugs the report's ways out into the commands of the program.
-/// @param principale, dialogo, stampante, outdoc  as for `UsciteRelazione`
+/// @param principale, dialogo, stampante, outdoc  as for `DestinazioniRelazione`
 void collegaRelazione(commands::FormeProgramma& forme, QWidget& principale, base::Dialogo& dialogo,
                       std::function<QPrinter&()> stampante,
                       std::string outdoc = commands::convertitore());
