@@ -21,8 +21,9 @@ constexpr double twipPerMillimetro = 56.7;  // 567 to the centimetre, as the mea
 constexpr int pianiAColori = 3;
 
 // The printer is declared before the class that prints on it, and so lives longer.
-struct FilePdf {
-    FilePdf(const QString& percorso, const QPrinter& pagina) : stampante(QPrinter::HighResolution) {
+struct StampanteQtSuPdf {
+    StampanteQtSuPdf(const QString& percorso, const QPrinter& pagina)
+        : stampante(QPrinter::HighResolution) {
         stampante.setOutputFormat(QPrinter::PdfFormat);
         stampante.setOutputFileName(percorso);
         stampante.setCreator(QStringLiteral("KORVEN 32"));
@@ -32,10 +33,10 @@ struct FilePdf {
     QPrinter stampante;
 };
 
-class StampantePdf : private FilePdf, public StampantePagine {
+class StampantePdf : private StampanteQtSuPdf, public StampantePagine {
  public:
     StampantePdf(const QString& percorso, const QPrinter& pagina, const QString& titolo)
-        : FilePdf(percorso, pagina), StampantePagine(stampante, titolo) {}
+        : StampanteQtSuPdf(percorso, pagina), StampantePagine(stampante, titolo) {}
 };
 
 }  // namespace

@@ -113,21 +113,21 @@ class SuStampante : public PagineRelazione {
 };
 
 // The printer is declared before the class that prints on it, and so lives longer.
-struct Stampante {
-    explicit Stampante(const QString& nome)
+struct StampanteQtNota {
+    explicit StampanteQtNota(const QString& nome)
         : stampante(QPrinterInfo::printerInfo(nome), QPrinter::HighResolution) {}
     QPrinter stampante;
 };
 
-class SuStampanteNota : private Stampante, public SuStampante {
+class SuStampanteNota : private StampanteQtNota, public SuStampante {
  public:
     SuStampanteNota(const QString& nome, const QString& titolo)
-        : Stampante(nome), SuStampante(stampante, titolo) {}
+        : StampanteQtNota(nome), SuStampante(stampante, titolo) {}
 };
 
 // The file is declared before the class that writes it, and so lives longer.
-struct FilePdf {
-    FilePdf(const QPageLayout& pagina, const QString& titolo) : scrittore(&byte) {
+struct PdfInMemoria {
+    PdfInMemoria(const QPageLayout& pagina, const QString& titolo) : scrittore(&byte) {
         scrittore.setPageLayout({pagina.pageSize(), pagina.orientation(),
                                  QMarginsF(bordoFoglio, bordoFoglio, bordoFoglio, bordoFoglio),
                                  QPageLayout::Point});
@@ -138,11 +138,11 @@ struct FilePdf {
     QPdfWriter scrittore;
 };
 
-class SuPdf : private FilePdf, public PagineRelazione {
+class SuPdf : private PdfInMemoria, public PagineRelazione {
  public:
     SuPdf(std::string percorso, const QPageLayout& pagina, const QString& titolo,
           const base::Disco& disco)
-        : FilePdf(pagina, titolo),
+        : PdfInMemoria(pagina, titolo),
           PagineRelazione(scrittore),
           percorso_(std::move(percorso)),
           disco_(disco) {}
