@@ -77,7 +77,7 @@ Candidate quotaCopriferro(const Faccia& faccia, double bordoFerri) {
     return quote;
 }
 
-void disegnaFaccia(const Faccia& faccia, Disposizione& posti) {
+void disegnaFaccia(const Faccia& faccia, PostiQuote& posti) {
     const double raggio = faccia.diametro / 2 * scalaSezione;
     const double bordoFerri = faccia.x + faccia.verso * faccia.copriferro * scalaSezione;
     const double xFerri = bordoFerri + faccia.verso * raggio;
@@ -97,7 +97,7 @@ void vistaDiaframma(const project::Sezione& s) {
     const double mezza = s.spessoreDiaframma / 2 * scalaSezione;
     const double sinistra = xVista - mezza, destra = xVista + mezza;
     constexpr double sotto = yVista - mezzaStriscia, sopra = yVista + mezzaStriscia;
-    Disposizione posti;
+    PostiQuote posti;
     if (s.spessoreDiaframma > 0) {
         plot::linea(sinistra, sotto, destra, sotto);
         plot::linea(destra, sotto, destra, sopra);

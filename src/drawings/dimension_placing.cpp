@@ -64,7 +64,7 @@ Candidate richiamiLivellati(Lato lato, plot::Punto oggetto, double y, double xSe
 
 }  // namespace
 
-bool Disposizione::libera(const Quota& quota, const Posti& posti) {
+bool PostiQuote::libera(const Quota& quota, const Posti& posti) {
     const Riquadro testo = quota.riquadroTesto();
     if (!dentro(testo, stanzaQuote)) return false;
     const auto coperto = [&](const Riquadro& altro) { return siCoprono(testo, altro); };
@@ -82,7 +82,7 @@ bool Disposizione::libera(const Quota& quota, const Posti& posti) {
     });
 }
 
-bool Disposizione::sullaSezione(const Riquadro& testo) const {
+bool PostiQuote::sullaSezione(const Riquadro& testo) const {
     const auto sulDisco = [&](const Disco& disco) {
         const double x = std::clamp(disco.centro.x, testo.xmin, testo.xmax);
         const double y = std::clamp(disco.centro.y, testo.ymin, testo.ymax);
@@ -95,8 +95,8 @@ bool Disposizione::sullaSezione(const Riquadro& testo) const {
            std::any_of(bordi_.begin(), bordi_.end(), sulBordo);
 }
 
-Disposizione::Posti Disposizione::prova(const std::vector<Candidate>& quote,
-                                        const std::vector<std::size_t>& ordine) const {
+PostiQuote::Posti PostiQuote::prova(const std::vector<Candidate>& quote,
+                                    const std::vector<std::size_t>& ordine) const {
     Posti posti = posti_;
     posti.scelte.assign(quote.size(), nullptr);
     for (const std::size_t i : ordine) {
@@ -120,7 +120,7 @@ Disposizione::Posti Disposizione::prova(const std::vector<Candidate>& quote,
     return posti;
 }
 
-void Disposizione::disponi(const std::vector<Candidate>& quote) {
+void PostiQuote::disponi(const std::vector<Candidate>& quote) {
     std::vector<std::size_t> ordine(quote.size());
     std::iota(ordine.begin(), ordine.end(), std::size_t{0});
     Posti migliori = prova(quote, ordine);

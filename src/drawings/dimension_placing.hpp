@@ -14,7 +14,7 @@ using Candidate = std::vector<Quota>;
 /// Finds each dimension of a view its place: inside `stanzaQuote`, its text clear of the section,
 /// of the other texts and of their lines, its lines clear of the texts and none on top of another.
 /// All positions in cm of the sheet.
-class Disposizione {
+class PostiQuote {
  public:
     /// The section, on which no text may lie.
     void occupa(const plot::Riquadro& pieno) { pieni_.push_back(pieno); }

@@ -95,9 +95,9 @@ BloccoDescrizione blocco(const Stratigrafia& stratigrafia, int i, const Colonna&
 }
 
 // The texts of all layers, and their places.
-struct Disposizione {
-    Disposizione(const Stratigrafia& stratigrafia, const Colonna& colonna,
-                 const markup::TextMeasure& misura) {
+struct DescrizioniDisposte {
+    DescrizioniDisposte(const Stratigrafia& stratigrafia, const Colonna& colonna,
+                        const markup::TextMeasure& misura) {
         for (int i = 1; i <= stratigrafia.dati.nStrati; ++i) {
             testi.push_back(blocco(stratigrafia, i, colonna, misura));
             blocchi.push_back({stratigrafia.yPiede(i), testi.back().altezza()});
@@ -113,7 +113,7 @@ struct Disposizione {
 }  // namespace
 
 void disegnaDescrizioni(const Stratigrafia& stratigrafia, const Colonna& colonna) {
-    const Disposizione disposizione(stratigrafia, colonna, [](std::string_view riga) {
+    const DescrizioniDisposte disposizione(stratigrafia, colonna, [](std::string_view riga) {
         return plot::larghezzaTesto(altezzaTesto, riga);
     });
     for (std::size_t i = 0; i < disposizione.testi.size(); ++i)
@@ -127,7 +127,7 @@ std::vector<DescrizioneDisposta> disponiDescrizioni(const project::DatiProgetto&
     const Stratigrafia stratigrafia{
         dati, ScalaProfondita(dati.profStrato[dati.nStrati], bordoInferiore(altezzaPaginaA4))};
     const Colonna colonna{0, larghezzaDescrizioni};
-    const Disposizione disposizione(stratigrafia, colonna, [&misura](std::string_view riga) {
+    const DescrizioniDisposte disposizione(stratigrafia, colonna, [&misura](std::string_view riga) {
         return misura(altezzaTesto, riga);
     });
     std::vector<DescrizioneDisposta> disposte;

@@ -32,8 +32,8 @@ struct Pali {
     [[nodiscard]] double y(int k) const { return yPalo(k, interasse); }
 };
 
-Disposizione attorno(const Pali& pali) {
-    Disposizione posti;
+PostiQuote attorno(const Pali& pali) {
+    PostiQuote posti;
     for (int k = -1; k <= 1; ++k) posti.occupaDisco({xVista, pali.y(k)}, pali.raggio);
     return posti;
 }
@@ -71,7 +71,7 @@ void vistaPali(const project::Sezione& s) {
         plot::disegnaCerchio(xVista, pali.y(k), interno);
         croce(xVista, pali.y(k));
     }
-    Disposizione posti = attorno(pali);
+    PostiQuote posti = attorno(pali);
     posti.disponi(
         {quotaDiametro(pali, pali.raggio, true, testoQuota("Diametro esterno", s.paliDiamEst)),
          quotaDiametro(pali, interno, false, testoQuota("Diametro interno", s.paliDiamInt)),
@@ -155,7 +155,7 @@ void vistaPaliArmati(const project::Sezione& s) {
         }
         croce(xVista, y);
     }
-    Disposizione posti = attorno(pali);
+    PostiQuote posti = attorno(pali);
     posti.disponi(
         {quotaInterasse(pali, s.armInterasse),
          quotaDiametro(pali, pali.raggio, true, testoQuota("Diametro pali", s.armDiamPalo)),

@@ -13,7 +13,7 @@ namespace {
 
 constexpr double perMillimetro = scalaSezione / 10;
 
-void contorno(const structure::PalancolaMm& p, Disposizione& posti) {
+void contorno(const structure::PalancolaMm& p, PostiQuote& posti) {
     const auto profilo = profiloPalancola(p);
     const auto sulFoglio = [](plot::Punto punto) {
         return plot::Punto{xVista + punto.x * perMillimetro, yVista + punto.y * perMillimetro};
@@ -32,7 +32,7 @@ void contorno(const structure::PalancolaMm& p, Disposizione& posti) {
 
 void vistaPalancola(const project::Sezione& s) {
     const structure::PalancolaMm p = structure::palancolaMm(s);
-    Disposizione posti;
+    PostiQuote posti;
     if (p.altAla > 0) contorno(p, posti);  // without height there are no webs, nor a wave
 
     const double mezzaOnda = structure::passoOnda(p) / 2 * perMillimetro;

@@ -25,14 +25,14 @@ class DisposizioneQuote : public test::ProvaPlot {
 };
 
 TEST_F(DisposizioneQuote, TakeTheFirstPlaceThatIsFree) {
-    Disposizione posti;
+    PostiQuote posti;
     posti.disponi({{scritta(5, 5)}});
     posti.disponi({{scritta(5.1, 5.1), scritta(8, 8), scritta(9, 9)}});
     EXPECT_EQ(testiDisegnati(), (Linee{"\"AB\" 5.000 5.000 h 0.20", "\"AB\" 8.000 8.000 h 0.20"}));
 }
 
 TEST_F(DisposizioneQuote, KeepTextsOffTheSectionAndInsideTheRoom) {
-    Disposizione posti;
+    PostiQuote posti;
     posti.occupa({4, 4, 6, 6});
     posti.occupaDisco({10, 10}, 2);
     posti.occupaTratto({{14, 3}, {15, 20}});
@@ -43,7 +43,7 @@ TEST_F(DisposizioneQuote, KeepTextsOffTheSectionAndInsideTheRoom) {
 }
 
 TEST_F(DisposizioneQuote, LetNoLineRunThroughATextNorAlongAnotherLine) {
-    Disposizione posti;
+    PostiQuote posti;
     posti.disponi({{richiamo(Lato::monte, {6, 5}, 5, std::string("AB"))}});
     const auto lungo = [](double y) { return richiamo(Lato::monte, {9, y}, y, std::string("CD")); };
     posti.disponi({{lungo(5.1), lungo(5.03), lungo(7)}});
@@ -51,13 +51,13 @@ TEST_F(DisposizioneQuote, LetNoLineRunThroughATextNorAlongAnotherLine) {
 }
 
 TEST_F(DisposizioneQuote, TryAnotherOrderWhereTheFirstLeavesOneOutside) {
-    Disposizione posti;
+    PostiQuote posti;
     posti.disponi({{scritta(5, 5), scritta(8, 8)}, {scritta(5, 5)}});
     EXPECT_EQ(testiDisegnati(), (Linee{"\"AB\" 8.000 8.000 h 0.20", "\"AB\" 5.000 5.000 h 0.20"}));
 }
 
 TEST_F(DisposizioneQuote, StandOnTheSectionWhereNothingElseIsFree) {
-    Disposizione posti;
+    PostiQuote posti;
     posti.occupa({0, 0, 19, 27});
     posti.disponi({{scritta(1, 1), scritta(5, 5)}});
     EXPECT_EQ(testiDisegnati(), Linee{"\"AB\" 5.000 5.000 h 0.20"});
