@@ -64,9 +64,9 @@ std::string unite(std::initializer_list<std::string_view> parti) {
 // Where a centred line lies on the page.
 class Misuratore {
  public:
-    explicit Misuratore(const Foglio& foglio)
+    explicit Misuratore(double larghezzaFoglio)
         : pagina_{markup::parseReset(paginaRelazione),
-                  markup::usableLength(foglio.larghezza * markup::pointsPerCentimetre), 0} {}
+                  markup::usableLength(larghezzaFoglio * markup::pointsPerCentimetre), 0} {}
 
     [[nodiscard]] bool traIMargini(std::string_view riga) const {
         return larghezza(riga) <= pagina_.room().width;
@@ -87,8 +87,8 @@ class Misuratore {
 
 }  // namespace
 
-std::string testoPiede(const DatiPiede& dati, const Foglio& foglio) {
-    const Misuratore misura(foglio);
+std::string testoPiede(const DatiPiede& dati, double larghezzaFoglio) {
+    const Misuratore misura(larghezzaFoglio);
     const std::string nome = nomeScrivibile(dati.progetto);
     const std::string metodo = nomeMetodo(dati.metodoUsato);
     const std::string segmenti = std::to_string(dati.segmenti) + " " + traduttore("segmenti");

@@ -15,11 +15,7 @@ struct DatiPiede {
     int segmenti = 0;        ///< of the wall
 };
 
-/// A sheet of paper that a footer is measured for.
-struct Foglio {
-    double larghezza = 0;  ///< [cm]
-};
-inline constexpr Foglio foglioA4{21.0};
+inline constexpr double larghezzaA4 = 21.0;  ///< [cm]
 
 /// The text of the report's #FOOTER, translated: program and version, project, method, segments and
 /// that no factor of safety acts on the soil, joined by dashes; after them the program's subtitle.
@@ -30,7 +26,7 @@ inline constexpr Foglio foglioA4{21.0};
 /// takes its short form, and a name that is still too long loses its middle ("dia…ini.kvd"), down
 /// to its first and last character.
 ///
-/// @param foglio  the mark-up knows no sheet: reports are made for A4 upright
-[[nodiscard]] std::string testoPiede(const DatiPiede& dati, const Foglio& foglio = foglioA4);
+/// @param larghezzaFoglio  [cm]; the mark-up knows no sheet: reports are made for A4 upright
+[[nodiscard]] std::string testoPiede(const DatiPiede& dati, double larghezzaFoglio = larghezzaA4);
 
 }  // namespace korven::report

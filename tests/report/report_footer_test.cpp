@@ -44,8 +44,8 @@ TEST(TestoPiede, EndsWithTheSubtitleWhereAllOfItFitsBetweenTheMargins) {
     const double larghezza = markup::estimatedWidth({"Arial", 12}, conSottotitolo);
     // One centimetre of the sheet is not used, two are margin on either side.
     const double foglio = larghezza / 72 * 2.54 + 5;
-    EXPECT_EQ(testoPiede({"muro.kvd", 1, 50}, {foglio + 0.1}), conSottotitolo);
-    EXPECT_EQ(testoPiede({"muro.kvd", 1, 50}, {foglio - 0.1}), intera);
+    EXPECT_EQ(testoPiede({"muro.kvd", 1, 50}, foglio + 0.1), conSottotitolo);
+    EXPECT_EQ(testoPiede({"muro.kvd", 1, 50}, foglio - 0.1), intera);
 }
 
 TEST(TestoPiede, TakesTheShortRemarkForANameThatIsTooLongForTheWholeOne) {
