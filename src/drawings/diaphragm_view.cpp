@@ -11,6 +11,8 @@ namespace korven::drawings {
 
 namespace {
 
+using project::Lato;
+
 constexpr double striscia = 200;  // [cm]
 constexpr double mezzaStriscia = striscia / 2 * scalaSezione;
 

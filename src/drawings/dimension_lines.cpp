@@ -11,6 +11,8 @@ namespace korven::drawings {
 
 namespace {
 
+using project::Lato;
+
 constexpr double altezzaQuote = 0.2;
 constexpr double distacco = 0.2;  // of a text from its line, more than what sticks out of it
 constexpr double distaccoRichiamo = 0.08;

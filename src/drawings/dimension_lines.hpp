@@ -6,6 +6,7 @@
 
 #include "plot/geometry.hpp"
 #include "plot/sheet.hpp"
+#include "project/section.hpp"
 
 // Dimension lines of the section drawing. All positions in cm of the sheet. A dimension is made
 // first and drawn when it has found its place (dimension_placing.hpp).
@@ -16,9 +17,6 @@ namespace korven::drawings {
 /// materials below: the dimensions and their texts keep to it.
 inline constexpr plot::Riquadro stanzaQuote{plot::x0 + 0.5, 2.6, plot::x0 + plot::larghQuadro - 0.5,
                                             22};
-
-/// Which side of the section a leader leads to.
-enum class Lato { monte, valle };
 
 /// A text and how long it is in the pen in use, measured once for all the places that are tried.
 struct Scritta {
@@ -65,11 +63,12 @@ struct Quota {
 /// A line from a point of the section, ended there by a short slanted stroke, to the edge of
 /// `stanzaQuote`, the text on it at that edge.
 /// @param y  height at which it runs level; it leaves a point of another height at 45 degrees
-[[nodiscard]] Quota richiamo(Lato lato, plot::Punto oggetto, double y, const Scritta& scritta);
+[[nodiscard]] Quota richiamo(project::Lato lato, plot::Punto oggetto, double y,
+                             const Scritta& scritta);
 
 /// Such a line to x and from there up or down, the text turned along it.
-[[nodiscard]] Quota richiamoGirato(Lato lato, plot::Punto oggetto, double y, double x, bool inAlto,
-                                   const Scritta& scritta);
+[[nodiscard]] Quota richiamoGirato(project::Lato lato, plot::Punto oggetto, double y, double x,
+                                   bool inAlto, const Scritta& scritta);
 
 /// A short upright stroke across a leader at x, where a dimension along it begins or ends.
 [[nodiscard]] plot::Tratto tacca(double x, double y);

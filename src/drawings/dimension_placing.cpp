@@ -16,6 +16,7 @@ namespace {
 
 using plot::Riquadro;
 using plot::Tratto;
+using project::Lato;
 
 constexpr double passoColonne = 0.1;  // between the places that are tried
 

@@ -59,12 +59,12 @@ class PostiQuote {
 /// Leaders from a point of the section: to the edge of `stanzaQuote`, then turned up and down at
 /// every place from the section to that edge; all these first level, then bent up and down.
 /// @param xSezione  where the section ends on that side
-[[nodiscard]] Candidate richiami(Lato lato, plot::Punto oggetto, double xSezione,
+[[nodiscard]] Candidate richiami(project::Lato lato, plot::Punto oggetto, double xSezione,
                                  const Scritta& scritta);
 
 /// Those of them that are level, across which the dimension from the section's edge to the point
 /// has its marks.
-[[nodiscard]] Candidate richiamiConMisura(Lato lato, plot::Punto oggetto, double xSezione,
+[[nodiscard]] Candidate richiamiConMisura(project::Lato lato, plot::Punto oggetto, double xSezione,
                                           const Scritta& scritta);
 
 /// The candidates of `altre` after those of `prime`.

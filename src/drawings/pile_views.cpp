@@ -12,6 +12,8 @@ namespace korven::drawings {
 
 namespace {
 
+using project::Lato;
+
 constexpr double distanzaQuote = 0.6;  // of a dimension from the piles
 
 // Three piles above each other: -1 the lowest, 1 the uppermost.

@@ -11,6 +11,8 @@ namespace korven::drawings {
 
 namespace {
 
+using project::Lato;
+
 constexpr double perMillimetro = scalaSezione / 10;
 
 void contorno(const structure::PalancolaMm& p, PostiQuote& posti) {

@@ -2,6 +2,9 @@
 
 namespace korven::project {
 
+/// The two sides of the wall: the retained ground and the excavated one.
+enum class Lato { monte, valle };
+
 /// The structural section of the wall. Lengths are stored in centimetres and shown in millimetres;
 /// moduli and strengths are N/mm2 everywhere. Exactly one of the four type flags is meant to be
 /// true; should two be, the first in the order of this struct's `tipo...` members decides.

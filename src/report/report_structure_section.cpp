@@ -7,8 +7,8 @@ namespace korven::report {
 
 namespace {
 
+using project::Lato;
 using project::Sezione;
-using structure::Lato;
 using structure::TipoSezione;
 
 void conLista(std::string_view titolo, const std::vector<Voce>& voci, RigheRelazione& righe) {
@@ -29,9 +29,9 @@ void faccia(std::string_view titolo, double diametro, double interasse, double c
 
 void diaframma(const Sezione& s, RigheRelazione& righe) {
     righe.titolo("CALCOLO STRUTTURALE DIAFRAMMA");
-    if (facciaCompleta(s, Lato::monte))
+    if (structure::facciaCompleta(s, Lato::monte))
         faccia("ARMATURA LATO MONTE", s.diametroMonte, s.interasseMonte, s.copriferroMonte, righe);
-    if (facciaCompleta(s, Lato::valle))
+    if (structure::facciaCompleta(s, Lato::valle))
         faccia("ARMATURA LATO VALLE", s.diametroValle, s.interasseValle, s.copriferroValle, righe);
 }
 

@@ -56,17 +56,18 @@ bool completa(const Sezione& sezione, bool perLaRelazione) {
         if (riga.tipo != tipo || (perLaRelazione && !riga.perLaRelazione)) continue;
         if (!(sezione.*riga.campo > 0)) return false;
     }
-    return tipo != TipoSezione::diaframma || facciaCompleta(sezione, Lato::monte) ||
-           facciaCompleta(sezione, Lato::valle);
+    return tipo != TipoSezione::diaframma || facciaCompleta(sezione, project::Lato::monte) ||
+           facciaCompleta(sezione, project::Lato::valle);
 }
 
 }  // namespace
 
-bool facciaCompleta(const Sezione& sezione, Lato lato) {
-    return lato == Lato::monte ? sezione.copriferroMonte > 0 && sezione.interasseMonte > 0 &&
-                                     sezione.diametroMonte > 0
-                               : sezione.copriferroValle > 0 && sezione.interasseValle > 0 &&
-                                     sezione.diametroValle > 0;
+bool facciaCompleta(const Sezione& sezione, project::Lato lato) {
+    return lato == project::Lato::monte
+               ? sezione.copriferroMonte > 0 && sezione.interasseMonte > 0 &&
+                     sezione.diametroMonte > 0
+               : sezione.copriferroValle > 0 && sezione.interasseValle > 0 &&
+                     sezione.diametroValle > 0;
 }
 
 bool staffePresenti(const Sezione& sezione) {

@@ -4,10 +4,8 @@
 
 namespace korven::structure {
 
-enum class Lato { monte, valle };
-
 /// True when cover, spacing and bar diameter of that face of the diaphragm are all above 0.
-[[nodiscard]] bool facciaCompleta(const project::Sezione& sezione, Lato lato);
+[[nodiscard]] bool facciaCompleta(const project::Sezione& sezione, project::Lato lato);
 
 /// True when the section is of reinforced piles and both stirrup fields are above 0: only then is
 /// there a shear check. Says nothing about the other fields.

@@ -44,8 +44,10 @@ TEST_F(DisposizioneQuote, KeepTextsOffTheSectionAndInsideTheRoom) {
 
 TEST_F(DisposizioneQuote, LetNoLineRunThroughATextNorAlongAnotherLine) {
     PostiQuote posti;
-    posti.disponi({{richiamo(Lato::monte, {6, 5}, 5, std::string("AB"))}});
-    const auto lungo = [](double y) { return richiamo(Lato::monte, {9, y}, y, std::string("CD")); };
+    posti.disponi({{richiamo(project::Lato::monte, {6, 5}, 5, std::string("AB"))}});
+    const auto lungo = [](double y) {
+        return richiamo(project::Lato::monte, {9, y}, y, std::string("CD"));
+    };
     posti.disponi({{lungo(5.1), lungo(5.03), lungo(7)}});
     EXPECT_EQ(testiDisegnati()[1], "\"CD\" 2.100 7.080 h 0.20");
 }
@@ -72,7 +74,7 @@ TEST_F(DisposizioneQuote, EndInAnArrowWhereTheSheetEndsBeforeThem) {
 }
 
 TEST_F(DisposizioneQuote, BendALeaderAtFortyFiveDegrees) {
-    richiamo(Lato::valle, {12, 10}, 11, std::string("AB")).disegna();
+    richiamo(project::Lato::valle, {12, 10}, 11, std::string("AB")).disegna();
     EXPECT_EQ(polilinee(4), (Linee{"11.900 9.900, 12.100 10.100", "13.000 11.000, 17.900 11.000",
                                    "12.000 10.000, 13.000 11.000"}));
 }

@@ -121,21 +121,21 @@ TEST(SezioneDefinita, DiffersInTheInnerDiameterOfPilesAlone) {
 
 TEST(FacciaCompleta, NeedsCoverSpacingAndDiameter) {
     const Sezione intera = diaframmaSimmetrico();
-    EXPECT_TRUE(facciaCompleta(intera, Lato::monte));
-    EXPECT_TRUE(facciaCompleta(intera, Lato::valle));
+    EXPECT_TRUE(facciaCompleta(intera, project::Lato::monte));
+    EXPECT_TRUE(facciaCompleta(intera, project::Lato::valle));
     for (double Sezione::*campo :
          {&Sezione::copriferroMonte, &Sezione::interasseMonte, &Sezione::diametroMonte}) {
         Sezione s = intera;
         s.*campo = 0;
-        EXPECT_FALSE(facciaCompleta(s, Lato::monte));
-        EXPECT_TRUE(facciaCompleta(s, Lato::valle));
+        EXPECT_FALSE(facciaCompleta(s, project::Lato::monte));
+        EXPECT_TRUE(facciaCompleta(s, project::Lato::valle));
     }
     for (double Sezione::*campo :
          {&Sezione::copriferroValle, &Sezione::interasseValle, &Sezione::diametroValle}) {
         Sezione s = intera;
         s.*campo = 0;
-        EXPECT_TRUE(facciaCompleta(s, Lato::monte));
-        EXPECT_FALSE(facciaCompleta(s, Lato::valle));
+        EXPECT_TRUE(facciaCompleta(s, project::Lato::monte));
+        EXPECT_FALSE(facciaCompleta(s, project::Lato::valle));
     }
 }
 
