@@ -120,7 +120,7 @@ void StampantePagine::fineStampa() {
 }
 
 void StampantePagine::fallita() const {
-    throw base::ErroreFile(destinazione(stampante_), 0,
+    throw base::ErroreFile(destinazionePagine(stampante_), 0,
                            base::traduttore("la stampa non è riuscita"));
 }
 

@@ -25,7 +25,7 @@ bool pdfIntero(const QString& percorso) {
 
 }  // namespace
 
-std::string destinazione(const QPrinter& stampante) {
+std::string destinazionePagine(const QPrinter& stampante) {
     return (suFile(stampante) ? stampante.outputFileName() : stampante.printerName()).toStdString();
 }
 

@@ -10,7 +10,7 @@ class QPrinter;
 namespace korven::device {
 
 /// Where the pages of a printer go: the file that it writes, else its name.
-[[nodiscard]] std::string destinazione(const QPrinter& stampante);
+[[nodiscard]] std::string destinazionePagine(const QPrinter& stampante);
 
 /// False for a printer that the system no longer knows. One that writes a file needs no system.
 [[nodiscard]] bool conosciuta(const QPrinter& stampante);

@@ -104,7 +104,7 @@ class SuStampante : public PagineRelazione {
  private:
     bool comincia() override { return conosciuta(stampante_) && PagineRelazione::comincia(); }
     void fallita() const override {
-        throw markup::PrinterError(destinazione(stampante_), 0,
+        throw markup::PrinterError(destinazionePagine(stampante_), 0,
                                    base::traduttore("la stampa non è riuscita"));
     }
 

@@ -26,7 +26,7 @@ class EsitoStampa : public testing::Test {
 };
 
 TEST_F(EsitoStampa, NamesTheFileThatThePrinterWrites) {
-    EXPECT_EQ(destinazione(stampante), file);
+    EXPECT_EQ(destinazionePagine(stampante), file);
     EXPECT_TRUE(conosciuta(stampante));
 }
 
