@@ -70,7 +70,7 @@ void Documento::apri(const std::string& nome) {
 void Documento::apriNome(const std::string& risposta) {
     const std::string nome = nomeDaAprire(risposta);
     if (nessunaScelta(nome)) return;
-    if (const std::string file = fileDelProgetto(nome); !file.empty()) {
+    if (const std::string file = trovaProgetto(nome); !file.empty()) {
         leggi(nome, file);
         ricordaCartella(nome);
     } else {

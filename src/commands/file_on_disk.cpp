@@ -35,7 +35,7 @@ bool FileSuDisco::cambiato(const std::string& percorso) const {
     return adesso && adesso != contenuto_;
 }
 
-std::string fileDelProgetto(const std::string& nome) {
+std::string trovaProgetto(const std::string& nome) {
     if (base::esisteFile(nome)) return nome;
     const fs::path cercato(nome);
     std::string trovato;

@@ -26,6 +26,6 @@ class FileSuDisco {
 /// The file that a name of a project leads to: the file of that very name, else one of the same
 /// folder whose name differs in the case of the extension alone ("MURO.KVD" for "MURO.kvd"), since
 /// the dialogs show projects whatever the case. Empty when there is none.
-[[nodiscard]] std::string fileDelProgetto(const std::string& nome);
+[[nodiscard]] std::string trovaProgetto(const std::string& nome);
 
 }  // namespace korven::commands
