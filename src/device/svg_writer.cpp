@@ -108,7 +108,7 @@ void ScrittoreSvg::poligono(const plot::PoligonoPlot& poligono) {
 }
 
 void ScrittoreSvg::linea(const plot::Segmento& linea) {
-    if (!plot::mostrabile(linea)) return;
+    if (!plot::disegnabile(linea)) return;
     const bool stessaPenna = linee_ > 0 && linee_ < lineeTracciato &&
                              linea.colore == ultima_.colore && linea.spessore == ultima_.spessore;
     if (!stessaPenna) {
@@ -132,7 +132,7 @@ void ScrittoreSvg::chiudiTracciato() {
 
 void ScrittoreSvg::testo(const plot::TestoPlot& testo) {
     const double larghezza = MetricaQt().larghezza(testo.carattere, testo.altezza, testo.testo);
-    if (!(larghezza > 0) || !plot::mostrabile(testo)) return;
+    if (!(larghezza > 0) || !plot::disegnabile(testo)) return;
     const QFont font = fontDisegno(testo.carattere);
     const std::string x = cifre((testo.x - vista_.xmin) * unita);
     const std::string y = cifre((vista_.ymax - testo.y) * unita);

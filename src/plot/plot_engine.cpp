@@ -62,7 +62,7 @@ Punto sulFoglio(double x, double y) {
 }
 
 void mostra(SuperficieDisegno& superficie, const Segmento& linea) {
-    if (!mostrabile(linea)) return;
+    if (!disegnabile(linea)) return;
     if (linea.spessore != statoPlot.spessoreSuperficie) {
         statoPlot.spessoreSuperficie = linea.spessore;
         superficie.spessore(spessoreSuperficie(linea.spessore, statoPlot.scalaX, statoPlot.scalaY));
@@ -71,7 +71,7 @@ void mostra(SuperficieDisegno& superficie, const Segmento& linea) {
 }
 
 void mostra(SuperficieDisegno& superficie, const TestoPlot& testo) {
-    if (!mostrabile(testo)) return;
+    if (!disegnabile(testo)) return;
     superficie.testo({{testo.x, testo.y},
                       carattereSuperficie(testo.altezza, statoPlot.scalaX, statoPlot.scalaY),
                       decimiDiGrado(testo.angolo),

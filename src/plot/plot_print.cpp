@@ -80,7 +80,7 @@ class Pagina {
     }
 
     void traccia(const Segmento& linea) {
-        if (!mostrabile(linea)) return;
+        if (!disegnabile(linea)) return;
         const auto visibile = ritagliaTratto({disposizione_.sullaCarta({linea.x1, linea.y1}),
                                               disposizione_.sullaCarta({linea.x2, linea.y2})},
                                              periferica_.ritaglio);
@@ -96,7 +96,7 @@ class Pagina {
     }
 
     void scrivi(const TestoPlot& testo) {
-        if (!mostrabile(testo)) return;
+        if (!disegnabile(testo)) return;
         if (ultimo_ == nullptr || ultimo_->carattere != testo.carattere ||
             ultimo_->altezza != testo.altezza || ultimo_->angolo != testo.angolo)
             scegliCarattere(testo);

@@ -39,11 +39,11 @@ struct TestoPlot {
 
 /// True for a stroke or text that a device can show: a place or size that is no finite number has
 /// no pixel. One that is not shown does not keep the others from being shown.
-[[nodiscard]] inline bool mostrabile(const Segmento& s) {
+[[nodiscard]] inline bool disegnabile(const Segmento& s) {
     return std::isfinite(s.x1) && std::isfinite(s.y1) && std::isfinite(s.x2) &&
            std::isfinite(s.y2) && std::isfinite(s.spessore);
 }
-[[nodiscard]] inline bool mostrabile(const TestoPlot& t) {
+[[nodiscard]] inline bool disegnabile(const TestoPlot& t) {
     return std::isfinite(t.x) && std::isfinite(t.y) && std::isfinite(t.altezza) &&
            std::isfinite(t.angolo);
 }
