@@ -22,10 +22,10 @@ void controlloDescrizioni(const project::DatiProgetto& dati, ElencoRilievi& elen
         for (const auto& descrizione : disposte)
             if (descrizione.oltreLaTesta)
                 elenco.avviso(
-                    riga("strato", descrizione.strato,
-                         "nella stratigrafia la descrizione entra nella testata della "
-                         "tabella: abbreviare le descrizioni, la più lunga è quella dello "
-                         "strato") +
+                    rigaNumerata("strato", descrizione.strato,
+                                 "nella stratigrafia la descrizione entra nella testata della "
+                                 "tabella: abbreviare le descrizioni, la più lunga è quella dello "
+                                 "strato") +
                     " " + std::to_string(lunga->strato));
     } catch (const base::ErroreIndice& errore) {  // names the layer and the number of lines
         elenco.avviso(errore.what());

@@ -16,7 +16,7 @@ std::vector<Rilievo> ElencoRilievi::ordinato() {
     return std::exchange(rilievi_, {});
 }
 
-std::string riga(std::string_view nome, int numero, std::string_view testo) {
+std::string rigaNumerata(std::string_view nome, int numero, std::string_view testo) {
     return base::traduttore(nome) + " " + std::to_string(numero) + ": " + base::traduttore(testo);
 }
 

@@ -23,7 +23,7 @@ class ElencoRilievi {
 };
 
 /// "strato 3: ...", both texts being Italian keys.
-[[nodiscard]] std::string riga(std::string_view nome, int numero, std::string_view testo);
+[[nodiscard]] std::string rigaNumerata(std::string_view nome, int numero, std::string_view testo);
 
 /// A text followed by the value in question, in brackets.
 [[nodiscard]] std::string conValore(std::string testo, double valore);

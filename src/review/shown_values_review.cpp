@@ -97,7 +97,7 @@ void esaminaRighe(const DatiProgetto& dati, const CampoRiga<Colonna> (&campi)[n]
                   std::string_view nome, int righe, ElencoRilievi& elenco) {
     for (int j = 1; j <= righe; ++j)
         for (const auto& [colonna, etichetta] : campi)
-            esamina((dati.*colonna)[j], riga(nome, j, etichetta), elenco);
+            esamina((dati.*colonna)[j], rigaNumerata(nome, j, etichetta), elenco);
 }
 
 }  // namespace

@@ -47,9 +47,9 @@ void controlloTiranti(const DatiProgetto& dati, ElencoRilievi& elenco) {
         avvisaSe(pret < 0, "Pretens. [kN]", pret * 10, "valore negativo");
         if (dati.tipoTirante[j] != 0 && dati.tipoTirante[j] != 1)
             elenco.avviso(
-                conValore(riga("tirante", j,
-                               "tipo non previsto: il calcolo lo fa agire solo a "
-                               "trazione, la relazione lo dice a trazione e compressione"),
+                conValore(rigaNumerata("tirante", j,
+                                       "tipo non previsto: il calcolo lo fa agire solo a "
+                                       "trazione, la relazione lo dice a trazione e compressione"),
                           dati.tipoTirante[j]));
     }
 }

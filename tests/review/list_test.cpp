@@ -18,7 +18,7 @@ TEST(ElencoRilievi, KeepsTheOrderWithinWhatPreventsARunAndWithinTheRest) {
 }
 
 TEST(Riga, NamesTheRowInFrontOfTheText) {
-    EXPECT_EQ(riga("strato", 3, "ha spessore nullo"), "strato 3: ha spessore nullo");
+    EXPECT_EQ(rigaNumerata("strato", 3, "ha spessore nullo"), "strato 3: ha spessore nullo");
 }
 
 TEST(ConValore, PutsThePlainNumberInBrackets) {
