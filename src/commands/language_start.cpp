@@ -25,7 +25,7 @@ std::string fileModulo(std::string_view sigla, std::string_view estensione) {
         std::string("module").append(numeroModulo).append(sigla).append(".").append(estensione));
 }
 
-bool scegliLingua(const PorteLingua& porte) {
+bool chiediLingua(const PorteLingua& porte) {
     const int codice = porte.scegli(lingueOfferte());
     if (codice == 0) return false;
     base::scriviFile(fileLingua(), std::to_string(codice) + "\r\n", porte.disco);
@@ -57,7 +57,7 @@ std::vector<int> lingueOfferte() {
 bool iniziaLingua(const PorteLingua& porte) {
     const bool prova = base::esisteFile((fs::path(porte.radice) / "testmode.tra").string());
     const bool primaVolta = maiUsata();
-    if ((prova || !base::esisteFile(fileLingua())) && !scegliLingua(porte)) return false;
+    if ((prova || !base::esisteFile(fileLingua())) && !chiediLingua(porte)) return false;
     const int codice = codiceValido();
     const std::string sigla(base::siglaLingua(codice));
     if (primaVolta) preparaEsempi(porte.disco);

@@ -32,7 +32,7 @@ std::string cartellaAssoluta(const fs::path& cartella) {
 
 // The folder is that which the system would go to, also through "link/.."; the name of the file
 // stays as it was typed, since the names of the results follow from it.
-std::string assoluto(const fs::path& percorso) {
+std::string percorsoAssoluto(const fs::path& percorso) {
     return (fs::path(
                 cartellaAssoluta(percorso.parent_path().empty() ? "." : percorso.parent_path())) /
             percorso.filename())
@@ -64,7 +64,7 @@ void togliResti(const std::string& progetto) {
 }
 
 void apriProgetto(const std::string& percorso, const std::string& uscita) {
-    const std::string progetto = assoluto(percorso);
+    const std::string progetto = percorsoAssoluto(percorso);
     project::azzeraProgetto();
     project::fileCorrente = progetto;
     project::progettiProtetti = {.letto = progetto, .corrente = {}};

@@ -25,7 +25,7 @@ struct Faccia {
     std::string_view lato, didascaliaInterasse;
 };
 
-int numeroFerri(double interasse) {
+int ferriDisegnati(double interasse) {
     if (!(interasse > 0)) return 0;
     return static_cast<int>(
         std::min(std::floor(striscia / interasse), static_cast<double>(massimoFerriDisegnati)));
@@ -33,7 +33,7 @@ int numeroFerri(double interasse) {
 
 // The row is in the middle of the strip.
 double yFerro(const Faccia& faccia, int k) {
-    const double primo = -(numeroFerri(faccia.interasse) - 1) / 2.0;
+    const double primo = -(ferriDisegnati(faccia.interasse) - 1) / 2.0;
     return yVista + (primo + k) * faccia.interasse * scalaSezione;
 }
 
@@ -46,7 +46,7 @@ std::string conLato(std::string_view didascalia, const Faccia& faccia, double ce
 
 Candidate quotaInterasse(const Faccia& faccia) {
     const Scritta testo = testoQuota(faccia.didascaliaInterasse, faccia.interasse);
-    const int n = numeroFerri(faccia.interasse);
+    const int n = ferriDisegnati(faccia.interasse);
     if (n < 2) {
         Candidate quote;
         for (const double y : {yVista + 1, yVista - 1})  // the only bar lies in the middle
@@ -63,7 +63,7 @@ Candidate quotaInterasse(const Faccia& faccia) {
 
 // Between two bars, so that the strokes are clear of the marks, the lowest pair first.
 std::vector<double> altezzeCopriferro(const Faccia& faccia) {
-    const int n = numeroFerri(faccia.interasse);
+    const int n = ferriDisegnati(faccia.interasse);
     if (n < 2) return {yVista - 3, yVista + 3, yVista - 2, yVista + 2, yVista - 4, yVista + 4};
     const double mezzo = faccia.interasse * scalaSezione / 2;
     const double primo = yFerro(faccia, 0), ultimo = yFerro(faccia, n - 1);
@@ -83,7 +83,7 @@ void disegnaFaccia(const Faccia& faccia, PostiQuote& posti) {
     const double raggio = faccia.diametro / 2 * scalaSezione;
     const double bordoFerri = faccia.x + faccia.verso * faccia.copriferro * scalaSezione;
     const double xFerri = bordoFerri + faccia.verso * raggio;
-    const int n = numeroFerri(faccia.interasse);
+    const int n = ferriDisegnati(faccia.interasse);
     for (int k = 0; k < n; ++k) plot::disegnaCerchio(xFerri, yFerro(faccia, k), raggio);
 
     const double yAlto = n > 0 ? yFerro(faccia, n - 1) : yVista + mezzaStriscia - 0.5;

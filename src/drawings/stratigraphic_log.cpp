@@ -53,7 +53,7 @@ void disegnaTabella(const Stratigrafia& stratigrafia) {
     }
 }
 
-std::string_view motivoRifiuto(double altezzaPagina) {
+std::string_view motivoSenzaDisegno(double altezzaPagina) {
     if (project::fileCorrente.empty())
         return "Non e' possibile produrre un output grafico prima di aver aperto un file.";
     const auto& dati = project::Progetto;
@@ -78,7 +78,7 @@ void disegnaStratigrafia(const project::DatiProgetto& dati, double altezzaPagina
 }
 
 bool disegnaStratigrafia(base::Dialogo& dialogo, double altezzaPagina) {
-    if (const auto motivo = motivoRifiuto(altezzaPagina); !motivo.empty()) {
+    if (const auto motivo = motivoSenzaDisegno(altezzaPagina); !motivo.empty()) {
         dialogo.messaggio(base::traduttore(motivo), base::traduttore("ATTENZIONE") + "!",
                           base::Icona::stop);
         return false;

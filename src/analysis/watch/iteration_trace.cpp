@@ -45,8 +45,8 @@ std::string conteggio(const Intervallo& cambi, const Intervallo& ultima) {
 
 // Neighbours of one side that change between the same two states: one line, since a long wall that
 // finds no rest may flip at hundreds of nodes.
-struct Tratto {
-    explicit Tratto(const TracciaIterazioni::CambioNodo& cambio)
+struct NodiVicini {
+    explicit NodiVicini(const TracciaIterazioni::CambioNodo& cambio)
         : primo(cambio),
           ultimo(cambio),
           cambi{cambio.cambi, cambio.cambi},
@@ -70,7 +70,7 @@ struct Tratto {
     std::string_view versi = " -> ";
 };
 
-std::string frase(const Tratto& tratto) {
+std::string frase(const NodiVicini& tratto) {
     const auto& [primo, ultimo, cambi, iterazioni, versi] = tratto;
     const bool uno = primo.nodo == ultimo.nodo;
     std::string testo = traduttore(uno ? "nodo" : "nodi") + " " +
@@ -82,8 +82,8 @@ std::string frase(const Tratto& tratto) {
     return testo + ", " + conteggio(cambi, iterazioni);
 }
 
-std::vector<Tratto> uniti(const std::vector<TracciaIterazioni::CambioNodo>& nodi) {
-    std::vector<Tratto> tratti;
+std::vector<NodiVicini> uniti(const std::vector<TracciaIterazioni::CambioNodo>& nodi) {
+    std::vector<NodiVicini> tratti;
     for (const bool monte : {true, false})
         for (const auto& cambio : nodi) {
             if (cambio.monte != monte) continue;
@@ -92,8 +92,9 @@ std::vector<Tratto> uniti(const std::vector<TracciaIterazioni::CambioNodo>& nodi
             else
                 tratti.emplace_back(cambio);
         }
-    std::stable_sort(tratti.begin(), tratti.end(),
-                     [](const Tratto& x, const Tratto& y) { return x.primo.nodo < y.primo.nodo; });
+    std::stable_sort(tratti.begin(), tratti.end(), [](const NodiVicini& x, const NodiVicini& y) {
+        return x.primo.nodo < y.primo.nodo;
+    });
     return tratti;
 }
 
