@@ -12,7 +12,7 @@
 
 namespace korven::commands {
 
-std::string fileAiuto;
+std::string fileGuida;
 
 namespace {
 
@@ -40,7 +40,7 @@ int codiceValido() {
     return codice;
 }
 
-std::string trovaAiuto(std::string_view sigla) {
+std::string trovaGuida(std::string_view sigla) {
     const auto esiste = [](std::string_view s) { return base::esisteFile(fileModulo(s, "hlp")); };
     return fileModulo(base::siglaDisponibile(sigla, esiste), "hlp");
 }
@@ -66,7 +66,7 @@ bool iniziaLingua(const PorteLingua& porte) {
                       base::fileProgramma("texts32.txt"));
     base::impostaLingua(codice);
     base::impostaModoProva(prova ? &porte.dialogo : nullptr);
-    fileAiuto = trovaAiuto(sigla);
+    fileGuida = trovaGuida(sigla);
     if (primaVolta) scriviUltimaCartella(cartellaEsempi(sigla), porte.disco);
     return true;
 }

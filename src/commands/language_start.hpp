@@ -34,7 +34,7 @@ struct PorteLingua {
 
 /// Path of the help file of the language in force, or of the one that replaces it:
 /// "module06ita.hlp" in the program folder. It may not exist.
-extern std::string fileAiuto;
+extern std::string fileGuida;
 
 /// The languages that can be offered: those with a configuration of their own for the drawings, in
 /// the order of the buttons: English, French, German, Italian, Spanish, Portuguese.

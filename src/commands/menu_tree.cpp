@@ -49,7 +49,7 @@ bool informa(Programma& programma, const VoceMenu&) {
 }
 
 bool spiega(Programma& programma, const VoceMenu& voce) {
-    programma.aiuto(voce.aiuto);
+    programma.apriGuida(voce.guida);
     return false;
 }
 
@@ -81,7 +81,7 @@ constexpr VoceMenu voci[] = {
     {"FileSalva", "&Salva", 1, 4, nullptr, salva},
     {"PrintSetup", "&Configura Stampante", 1, 27, ha<&F::impostaStampante>,
      mostra<&F::impostaStampante>},
-    {"AiutoFile", "&Help", 1, 24, ha<&F::aiuto>, spiega},
+    {"AiutoFile", "&Help", 1, 24, ha<&F::guida>, spiega},
 
     {"edizione", "&Edizione", 0},
     {"EditStratigrafia", "&Stratigrafia", 1, 5, ha<&F::maschera>,
@@ -95,7 +95,7 @@ constexpr VoceMenu voci[] = {
     {"EditFasi", "&Fasi di Scavo", 1, 9, ha<&F::maschera>,
      edita<NumeroMaschera::fasi, editareIDati>},
     {"EditTitoli", "&Titoli", 1, 10, ha<&F::maschera>, edita<NumeroMaschera::titoli, editareDati>},
-    {"AiutoEdit", "&Help", 1, 25, ha<&F::aiuto>, spiega},
+    {"AiutoEdit", "&Help", 1, 25, ha<&F::guida>, spiega},
 
     {"Stampa", "&Stampa", 0},
     {"StampaGrafica", "&Grafica", 1, 11},
@@ -116,7 +116,7 @@ constexpr VoceMenu voci[] = {
     {"espotabtxt", "Esporta Tabulati in Formato &TXT", 2, 22, ha<&F::esportaTxt>,
      produci<relazione<&F::esportaTxt>>},
     {"configura", "&Configura", 1, 23, ha<&F::editacfg>, mostra<&F::editacfg>},
-    {"AiutoStampa", "&Help", 1, 26, ha<&F::aiuto>, spiega},
+    {"AiutoStampa", "&Help", 1, 26, ha<&F::guida>, spiega},
 
     {"fine", "&Uscita", 0, 0, nullptr, esci},
 

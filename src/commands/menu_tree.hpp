@@ -15,7 +15,7 @@ struct VoceMenu {
     std::string_view testo;  ///< caption, an Italian key; "&" marks the access key
     int livello = 0;         ///< 0 menu bar, 1 menu, 2 submenu: an item belongs to the nearest
                              ///< one above it of a lower level
-    int aiuto = 0;           ///< its entry of the table of help contexts; 0: none
+    int guida = 0;           ///< its entry of the table of help contexts; 0: none
     /// Whether the form that the command shows is plugged in; null if it shows none.
     bool (*haForma)(const FormeProgramma& forme) = nullptr;
     /// Carries the command out; null for an item that opens a menu.

@@ -37,8 +37,8 @@ bool Programma::fineSessione(bool chiedibile) {
     return true;
 }
 
-void Programma::aiuto(int voce) const {
-    if (forme_.aiuto) forme_.aiuto(help::contestoAiuto(voce));
+void Programma::apriGuida(int voce) const {
+    if (forme_.guida) forme_.guida(help::contestoGuida(voce));
 }
 
 }  // namespace korven::commands

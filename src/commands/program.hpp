@@ -35,7 +35,7 @@ class Programma {
     bool fineSessione(bool chiedibile);
 
     /// Shows the help of the menu item with this entry of the table of help contexts.
-    void aiuto(int voce) const;
+    void apriGuida(int voce) const;
 
     /// An editing command (edit_commands.hpp).
     void edita(masks::NumeroMaschera maschera, const char* rifiuto);

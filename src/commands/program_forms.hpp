@@ -30,7 +30,7 @@ struct FormeProgramma {
     /// The system's dialog for the printer.
     std::function<void()> impostaStampante;
     /// The help file at the page of a context number, and at its contents.
-    std::function<void(int contesto)> aiuto;
+    std::function<void(int contesto)> guida;
     std::function<void()> sommario;
     /// The about box with the line of the open project, empty if none (document_names.hpp).
     std::function<void(const std::string& fileCorrente)> informazioni;

@@ -20,7 +20,7 @@ bool leggiSegno(std::string_view testo, PaginaGuida& pagina) {
     const char* fine = testo.data() + testo.size();
     const auto [resto, errore] = std::from_chars(testo.data(), fine, pagina.voce);
     if (errore != std::errc() || resto == fine || *resto != ' ') return false;
-    if (pagina.voce < 0 || pagina.voce > ultimaVoceAiuto) return false;
+    if (pagina.voce < 0 || pagina.voce > ultimaVoceGuida) return false;
     pagina.nome = base::senzaSpaziEsterni(std::string_view(resto, fine));
     return !pagina.nome.empty();
 }
@@ -96,7 +96,7 @@ Guida leggiGuida(const std::string& percorso, std::string contenuto) {
 
 const PaginaGuida* paginaDelContesto(const Guida& guida, int contesto) {
     if (contesto == 0) return nullptr;
-    return prima(guida, [=](const auto& p) { return contestoAiuto(p.voce) == contesto; });
+    return prima(guida, [=](const auto& p) { return contestoGuida(p.voce) == contesto; });
 }
 
 const PaginaGuida* paginaDiNome(const Guida& guida, std::string_view nome) {

@@ -19,7 +19,7 @@ constexpr Posto posti[] = {
     {"Editacfg", 23},
     {"ConfStampa", voceConfStampa},
     {"TempCalc", voceTempCalc},
-    {"guida", voceGuida},
+    {"guida", voceFinestraGuida},
     {"INFORMAZIONI", voceInformazioni},
     {"selezling", voceSelezling},
     {"DefinEJ", 7},

@@ -99,7 +99,7 @@ class ModelloCampi {
     Nota nota_;
 };
 
-/// The help button of either form: with a help file the caller opens entry `voceAiuto(maschera)` of
+/// The help button of either form: with a help file the caller opens entry `voceGuida(maschera)` of
 /// the help context table; without one the reference itself is shown in a box.
 void mostraRiferimento(const Maschera& maschera, base::Dialogo& dialogo);
 

@@ -49,6 +49,6 @@ struct Maschera {
 
 /// Entry of the help context table that the help button opens: the number at the head of the mask's
 /// reference, held between 0 and 200, the bounds of that table.
-[[nodiscard]] int voceAiuto(const Maschera& maschera);
+[[nodiscard]] int voceGuida(const Maschera& maschera);
 
 }  // namespace korven::masks

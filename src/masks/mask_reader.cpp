@@ -17,7 +17,7 @@ namespace {
 using base::senzaSpaziEsterni;
 using base::traduttore;
 
-constexpr int massimaVoceAiuto = 200;
+constexpr int massimaVoceGuida = 200;
 constexpr int minimoPulsanti = 2;  // confirm and cancel
 constexpr int massimoPulsanti = 10;
 
@@ -131,7 +131,7 @@ class Lettore {
             const std::string letta = riga("voce della guida (MN=)");
             if (base::maiuscolo(letta).starts_with(segno)) {
                 resto_ = letta.substr(segno.size());
-                voce = intero("voce della guida (MN=)", 0, massimaVoceAiuto);
+                voce = intero("voce della guida (MN=)", 0, massimaVoceGuida);
             } else if (!senzaSpaziEsterni(letta).empty()) {
                 file_.rifiuta(traduttore("voce della guida (MN=)"));
             }
@@ -148,9 +148,9 @@ class Lettore {
 
 }  // namespace
 
-int voceAiuto(const Maschera& maschera) {
+int voceGuida(const Maschera& maschera) {
     const double numero = base::leggiNumero(maschera.riferimento).value_or(0);
-    return static_cast<int>(std::clamp(numero, 0.0, double{massimaVoceAiuto}));
+    return static_cast<int>(std::clamp(numero, 0.0, double{massimaVoceGuida}));
 }
 
 Maschera leggiMaschera(base::LettoreRighe& file) { return Lettore(file).maschera(); }

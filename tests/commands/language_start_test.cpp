@@ -99,10 +99,10 @@ TEST_F(Lingua, IsAskedForAgainInTheTestModeWhichTellsOfMissingTexts) {
 TEST_F(Lingua, FindsTheHelpFileOfALanguageThatStandsIn) {
     metti("module06eng.hlp");
     EXPECT_TRUE(parti(2));
-    EXPECT_EQ(fileAiuto, nelProgramma("module06eng.hlp"));
+    EXPECT_EQ(fileGuida, nelProgramma("module06eng.hlp"));
     metti("module06deu.hlp");
     EXPECT_TRUE(parti(2));
-    EXPECT_EQ(fileAiuto, nelProgramma("module06deu.hlp"));
+    EXPECT_EQ(fileGuida, nelProgramma("module06deu.hlp"));
 }
 
 TEST_F(Lingua, PutsTheExamplesIntoTheirFoldersAtTheFirstStart) {

@@ -65,7 +65,7 @@ TEST(AlberoMenu, GivesEachItemItsEntryOfTheHelpContexts) {
     for (const auto& v : albero())
         for (const auto& [nome, aiuto] : voci)
             if (v.nome == nome) {
-                EXPECT_EQ(v.aiuto, aiuto) << nome;
+                EXPECT_EQ(v.guida, aiuto) << nome;
                 ++trovate;
             }
     EXPECT_EQ(trovate, 25);
@@ -88,31 +88,31 @@ TEST(AlberoMenu, GivesEachItemEitherACommandOrAMenuBelowIt) {
     }
 }
 
-TEST(ContestiAiuto, AreATableOfTwoHundredAndOneEntries) {
-    EXPECT_EQ(help::contestiAiuto().size(), 201u);
-    EXPECT_EQ(help::contestoAiuto(200), 200);
-    EXPECT_EQ(help::contestoAiuto(0), 0);
-    EXPECT_EQ(help::contestoAiuto(201), 0);
-    EXPECT_EQ(help::contestoAiuto(-1), 0);
+TEST(ContestiGuida, AreATableOfTwoHundredAndOneEntries) {
+    EXPECT_EQ(help::contestiGuida().size(), 201u);
+    EXPECT_EQ(help::contestoGuida(200), 200);
+    EXPECT_EQ(help::contestoGuida(0), 0);
+    EXPECT_EQ(help::contestoGuida(201), 0);
+    EXPECT_EQ(help::contestoGuida(-1), 0);
 }
 
 TEST(VoceForma, IsThatOfTheMenuItemWhereOneOpensTheForm) {
-    EXPECT_EQ(help::voceForma("Editacfg"), voce("configura").aiuto);
-    EXPECT_EQ(help::voceForma("DefinEJ"), voce("EditRigidezza").aiuto);
-    EXPECT_EQ(help::voceForma("Form1"), voce("StampaVideo").aiuto);
-    EXPECT_EQ(help::voceForma("apri"), voce("FileApri").aiuto);
-    EXPECT_EQ(help::voceForma("salva"), voce("FileSalva").aiuto);
+    EXPECT_EQ(help::voceForma("Editacfg"), voce("configura").guida);
+    EXPECT_EQ(help::voceForma("DefinEJ"), voce("EditRigidezza").guida);
+    EXPECT_EQ(help::voceForma("Form1"), voce("StampaVideo").guida);
+    EXPECT_EQ(help::voceForma("apri"), voce("FileApri").guida);
+    EXPECT_EQ(help::voceForma("salva"), voce("FileSalva").guida);
 }
 
 TEST(VoceForma, IsOneOfItsOwnForOtherForms) {
     EXPECT_EQ(help::voceForma("GRAFICA"), help::voceGrafica);
     EXPECT_EQ(help::voceForma("TempCalc"), help::voceTempCalc);
     for (const int propria : {help::voceGrafica, help::voceConfStampa, help::voceTempCalc,
-                              help::voceGuida, help::voceSelezling})
-        for (const auto& v : albero()) EXPECT_NE(v.aiuto, propria) << v.nome;
+                              help::voceFinestraGuida, help::voceSelezling})
+        for (const auto& v : albero()) EXPECT_NE(v.guida, propria) << v.nome;
     // The item opens that very box.
     for (const auto& v : albero())
-        EXPECT_EQ(v.aiuto == help::voceInformazioni, v.nome == "about") << v.nome;
+        EXPECT_EQ(v.guida == help::voceInformazioni, v.nome == "about") << v.nome;
 }
 
 }  // namespace

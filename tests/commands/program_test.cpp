@@ -42,7 +42,7 @@ TEST_F(ProgrammaTest, OpensTheHelpAtTheEntryOfEachHelpCommand) {
     std::vector<int> contesti;
     int sommari = 0;
     FormeProgramma forme;
-    forme.aiuto = [&](int contesto) { contesti.push_back(contesto); };
+    forme.guida = [&](int contesto) { contesti.push_back(contesto); };
     forme.sommario = [&] { ++sommari; };
     auto p = programma(forme);
     p.esegui(voce("AiutoFile"));
@@ -193,7 +193,7 @@ TEST_F(ProgrammaTest, LetsOnlyThoseCommandsBeChosenThatShowNoFormOrOneThatIsPlug
         {"esportaTxt", [](auto& f) { f.esportaTxt = [](const std::string&) {}; }, {"espotabtxt"}},
         {"editacfg", [](auto& f) { f.editacfg = [] {}; }, {"configura"}},
         {"impostaStampante", [](auto& f) { f.impostaStampante = [] {}; }, {"PrintSetup"}},
-        {"aiuto", [](auto& f) { f.aiuto = [](int) {}; }, {"AiutoFile", "AiutoEdit", "AiutoStampa"}},
+        {"guida", [](auto& f) { f.guida = [](int) {}; }, {"AiutoFile", "AiutoEdit", "AiutoStampa"}},
         {"sommario", [](auto& f) { f.sommario = [] {}; }, {"sommario"}},
         {"informazioni", [](auto& f) { f.informazioni = [](const std::string&) {}; }, {"about"}},
     };
@@ -237,7 +237,7 @@ class MenuIntero : public ProgrammaTest {
         forme.esportaTxt = riceve("txt");
         forme.editacfg = dice("pens");
         forme.impostaStampante = dice("printer set-up");
-        forme.aiuto = [this](int contesto) { mostrate += "page " + std::to_string(contesto); };
+        forme.guida = [this](int contesto) { mostrate += "page " + std::to_string(contesto); };
         forme.sommario = dice("contents");
         forme.informazioni = riceve("about box");
     }

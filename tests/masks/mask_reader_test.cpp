@@ -169,12 +169,12 @@ TEST(LeggiMaschera, AnswersAnyBytesWithAMaskOrAFault) {
     EXPECT_GT(guasti, 100);
 }
 
-TEST(VoceAiuto, IsTheNumberAtTheHeadOfTheReferenceUpTo200) {
+TEST(VoceGuida, IsTheNumberAtTheHeadOfTheReferenceUpTo200) {
     Maschera maschera;
     for (const auto& [testo, voce] : std::initializer_list<std::pair<const char*, int>>{
              {"12 EDITX", 12}, {"200", 200}, {"201", 200}, {"-3", 0}, {"EDITX", 0}, {"", 0}}) {
         maschera.riferimento = testo;
-        EXPECT_EQ(voceAiuto(maschera), voce) << testo;
+        EXPECT_EQ(voceGuida(maschera), voce) << testo;
     }
 }
 

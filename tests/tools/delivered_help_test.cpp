@@ -65,7 +65,7 @@ class DeliveredHelp : public ::testing::Test {
             base::fileProgramma("module06" + std::string(base::siglaLingua(language)) + ".hlp"));
     }
     static const PaginaGuida& page(const Guida& guide, int entry) {
-        const auto* found = help::paginaDelContesto(guide, help::contestoAiuto(entry));
+        const auto* found = help::paginaDelContesto(guide, help::contestoGuida(entry));
         static const PaginaGuida none;
         EXPECT_NE(found, nullptr) << "entry " << entry;
         return found != nullptr ? *found : none;
@@ -85,9 +85,9 @@ TEST_F(DeliveredHelp, HasAPageForEveryMenuItemWithAHelpContext) {
         const Guida guide = help(language);
         int looked = 0;
         for (const auto& item : commands::albero()) {
-            if (item.aiuto == 0) continue;
+            if (item.guida == 0) continue;
             ++looked;
-            EXPECT_FALSE(page(guide, item.aiuto).html.empty()) << item.nome;
+            EXPECT_FALSE(page(guide, item.guida).html.empty()) << item.nome;
         }
         EXPECT_EQ(looked, 26);
     }
@@ -110,7 +110,7 @@ TEST_F(DeliveredHelp, TellsOfEveryFieldOfEveryMaskUnderItsLabel) {
         for (int number = 1; number <= 5; ++number) {
             all.selezionaMaschera(number);
             const auto& mask = all.corrente();
-            EXPECT_EQ(masks::voceAiuto(mask), mask.contesto);
+            EXPECT_EQ(masks::voceGuida(mask), mask.contesto);
             auto found = headings(page(guide, mask.contesto));
             for (std::size_t i = 0; i < mask.campi.size(); ++i, ++looked) {
                 const std::string anchor = help::ancoraCampo(std::to_string(i + 1));

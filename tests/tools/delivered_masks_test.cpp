@@ -152,7 +152,7 @@ TEST_F(DeliveredMasks, OfferConfirmCancelRowsAndHelp) {
         if (grid) {
             EXPECT_EQ(masks::azionePulsante(mask, 4), masks::AzioneGriglia::guida);
         }
-        EXPECT_EQ(masks::voceAiuto(mask), mask.contesto);
+        EXPECT_EQ(masks::voceGuida(mask), mask.contesto);
     });
     auto all = masks(1);
     std::vector<int> contexts;

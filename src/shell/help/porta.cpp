@@ -21,9 +21,9 @@ namespace korven::shell {
 
 namespace {
 
-constexpr const char* proprietaContesto = "contestoAiuto";
-constexpr const char* proprietaCampo = "campoAiuto";
-constexpr const char* proprietaVoceMenu = "aiuto";
+constexpr const char* proprietaContesto = "contestoGuida";
+constexpr const char* proprietaCampo = "campoGuida";
+constexpr const char* proprietaVoceMenu = "voceGuida";
 
 std::string nomeDi(const QWidget& controllo) { return controllo.objectName().toStdString(); }
 
@@ -56,7 +56,7 @@ PortaGuida::~PortaGuida() {
 bool PortaGuida::carica() {
     if (finestra_) return true;
     return conAvviso(dialogo_, [this] {
-        finestra_ = std::make_unique<FinestraGuida>(help::leggiGuida(commands::fileAiuto));
+        finestra_ = std::make_unique<FinestraGuida>(help::leggiGuida(commands::fileGuida));
     });
 }
 
@@ -98,14 +98,14 @@ bool PortaGuida::f1(QWidget& controllo) {
     if (qobject_cast<QMenu*>(&controllo) != nullptr) return false;  // the main form sees to it
     if (const auto* barra = qobject_cast<QMenuBar*>(&controllo);
         barra != nullptr && barra->activeAction() != nullptr) {
-        apri(help::contestoAiuto(barra->activeAction()->property(proprietaVoceMenu).toInt()));
+        apri(help::contestoGuida(barra->activeAction()->property(proprietaVoceMenu).toInt()));
         return true;
     }
     std::vector<std::string> ancore;
     for (QWidget* w = &controllo; w != nullptr; w = w->parentWidget()) {
         if (help::senzaF1(nomeDi(*w))) return false;
         if (const int voce = voceDi(*w); voce != 0) {
-            apri(help::contestoAiuto(voce), ancore);
+            apri(help::contestoGuida(voce), ancore);
             return true;
         }
         aggiungiAncora(*w, ancore);
@@ -137,7 +137,7 @@ bool PortaGuida::eventFilter(QObject* oggetto, QEvent* evento) {
 }
 
 void collegaGuida(commands::FormeProgramma& forme, QWidget& principale) {
-    if (!base::esisteFile(commands::fileAiuto)) return;
+    if (!base::esisteFile(commands::fileGuida)) return;
     // The box of a broken help file, above whatever window is active.
     struct Porta : DialogoQt, PortaGuida {
         explicit Porta(QWidget& sotto) : PortaGuida(sotto, *static_cast<DialogoQt*>(this)) {
@@ -145,7 +145,7 @@ void collegaGuida(commands::FormeProgramma& forme, QWidget& principale) {
         }
     };
     auto* porta = new Porta(principale);
-    forme.aiuto = [porta](int contesto) { porta->apri(contesto); };
+    forme.guida = [porta](int contesto) { porta->apri(contesto); };
     forme.sommario = [porta] { porta->sommario(); };
 }
 

@@ -27,7 +27,7 @@ namespace korven::shell {
 
 namespace {
 
-constexpr const char* proprietaAiuto = "aiuto";
+constexpr const char* proprietaGuida = "voceGuida";
 
 struct Scorciatoia {
     std::string_view voce;
@@ -40,7 +40,7 @@ constexpr Scorciatoia scorciatoie[] = {{"FileApri", QKeySequence::Open},
 
 void battezza(QAction* azione, const commands::VoceMenu& voce) {
     azione->setObjectName(qt(voce.nome));
-    azione->setProperty(proprietaAiuto, voce.aiuto);
+    azione->setProperty(proprietaGuida, voce.guida);
     azione->setMenuRole(QAction::NoRole);
     for (const auto& [nome, tasti] : scorciatoie)
         if (nome == voce.nome) azione->setShortcut(QKeySequence(tasti));
@@ -184,9 +184,9 @@ bool Menu1::eventFilter(QObject* oggetto, QEvent* evento) {
         evento->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(evento)->key() == Qt::Key_F1;
     if (menu == nullptr || !f1 || menu->activeAction() == nullptr)
         return QMainWindow::eventFilter(oggetto, evento);
-    const int voce = menu->activeAction()->property(proprietaAiuto).toInt();
+    const int voce = menu->activeAction()->property(proprietaGuida).toInt();
     while (QWidget* aperto = QApplication::activePopupWidget()) aperto->close();
-    programma_->aiuto(voce);
+    programma_->apriGuida(voce);
     return true;
 }
 

@@ -27,7 +27,7 @@ FormaMaschera::FormaMaschera(const masks::Maschera& maschera, base::Dialogo& dia
     : QDialog(padre), maschera_(maschera), dialogo_(dialogo), guida_(std::move(guida)) {
     setObjectName(QStringLiteral("%1_%2").arg(nome).arg(maschera.contesto));
     setWindowTitle(qt(maschera.titolo));
-    setProperty("contestoAiuto", help::contestoAiuto(maschera.contesto));
+    setProperty("contestoGuida", help::contestoGuida(maschera.contesto));
     connect(this, &QDialog::finished, this, [this] { ricordaMisure(*this); });
 }
 
@@ -60,12 +60,10 @@ void FormaMaschera::disponi(QSize comoda) {
     if (!isMaximized()) move(screen()->availableGeometry().center() - rect().center());
 }
 
-bool FormaMaschera::apriGuida() {
-    return guida_ && guida_(help::contestoAiuto(maschera_.contesto));
-}
+bool FormaMaschera::apriGuida() { return guida_ && guida_(help::contestoGuida(maschera_.contesto)); }
 
 void FormaMaschera::mostraGuida() {
-    if (!guida_ || !guida_(help::contestoAiuto(masks::voceAiuto(maschera_))))
+    if (!guida_ || !guida_(help::contestoGuida(masks::voceGuida(maschera_))))
         masks::mostraRiferimento(maschera_, dialogo_);
 }
 

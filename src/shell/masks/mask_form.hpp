@@ -14,7 +14,7 @@ namespace korven::shell {
 using GuidaForme = std::function<bool(int contesto)>;
 
 /// What a form has that is made from a mask, be it fields or a grid: the row of buttons, the help,
-/// the place on the screen. The number of its page in the help is its property "contestoAiuto".
+/// the place on the screen. The number of its page in the help is its property "contestoGuida".
 class FormaMaschera : public QDialog {
  public:
     /// @param maschera  must outlive the form, as must `dialogo`

@@ -26,9 +26,9 @@ void mostraForm(masks::Maschere& maschere, base::Dialogo& dialogo, const GuidaFo
 
 void collegaMaschere(commands::FormeProgramma& forme, base::Dialogo& dialogo, QWidget* padre) {
     GuidaForme guida;
-    if (forme.aiuto)
-        guida = [aiuto = forme.aiuto](int contesto) {
-            aiuto(contesto);
+    if (forme.guida)
+        guida = [apri = forme.guida](int contesto) {
+            apri(contesto);
             return true;
         };
     forme.maschera = [&dialogo, guida, padre](masks::Maschere& maschere) {

@@ -13,7 +13,7 @@ namespace korven::shell {
 void mostraForm(masks::Maschere& maschere, base::Dialogo& dialogo, const GuidaForme& guida,
                 QWidget* padre);
 
-/// Plugs the forms into the commands. Their help button opens what `forme.aiuto` is by then, so
+/// Plugs the forms into the commands. Their help button opens what `forme.guida` is by then, so
 /// this comes after it.
 void collegaMaschere(commands::FormeProgramma& forme, base::Dialogo& dialogo, QWidget* padre);
 

@@ -24,12 +24,12 @@ namespace {
 class Porta : public ::testing::Test {
  protected:
     Porta() {
-        commands::fileAiuto = cartella / "module06ita.hlp";
-        test::metti(commands::fileAiuto, test::guidaPiccola());
+        commands::fileGuida = cartella / "module06ita.hlp";
+        test::metti(commands::fileGuida, test::guidaPiccola());
         principale.setObjectName("menu1");
         principale.show();
     }
-    ~Porta() override { commands::fileAiuto.clear(); }
+    ~Porta() override { commands::fileGuida.clear(); }
 
     QUrl indirizzo() { return test::controllo<QTextBrowser>(*porta.finestra(), "pagina").source(); }
     bool aperta() { return porta.finestra() != nullptr && porta.finestra()->isVisible(); }
@@ -76,14 +76,14 @@ TEST_F(Porta, OpensTheContentsForAContextWithoutAPage) {
 TEST_F(Porta, ReadsTheFileOnlyWhenItIsNeeded) {
     EXPECT_EQ(porta.finestra(), nullptr);
     porta.apri(3);
-    test::metti(commands::fileAiuto, "x");
+    test::metti(commands::fileGuida, "x");
     porta.apri(28);
     EXPECT_EQ(indirizzo(), QUrl("guida:/visore"));
     EXPECT_TRUE(dialogo.messaggi.empty());
 }
 
 TEST_F(Porta, SaysWhereABrokenFileIsBrokenAndGoesOn) {
-    test::metti(commands::fileAiuto, "KORVEN 32 HLP 1\r\n@capitolo A\r\nx\r\n");
+    test::metti(commands::fileGuida, "KORVEN 32 HLP 1\r\n@capitolo A\r\nx\r\n");
     porta.apri(3);
     EXPECT_FALSE(aperta());
     ASSERT_EQ(dialogo.messaggi.size(), 1u);
@@ -91,16 +91,16 @@ TEST_F(Porta, SaysWhereABrokenFileIsBrokenAndGoesOn) {
     EXPECT_NE(testo.find("module06ita.hlp"), std::string::npos) << testo;
     EXPECT_NE(testo.find("3"), std::string::npos) << testo;
     EXPECT_NE(testo.find("attesa una riga @capitolo o @pagina"), std::string::npos) << testo;
-    test::metti(commands::fileAiuto, test::guidaPiccola());
+    test::metti(commands::fileGuida, test::guidaPiccola());
     porta.apri(3);
     EXPECT_TRUE(aperta());
 }
 
 TEST_F(Porta, OpensAtF1ThePageThatTheFormNames) {
     Forma forma("qualunque");
-    forma.setProperty("contestoAiuto", 5);
+    forma.setProperty("contestoGuida", 5);
     EXPECT_EQ(f1(*forma.campo), "guida:/strati");
-    forma.campo->setProperty("campoAiuto", 4);
+    forma.campo->setProperty("campoGuida", 4);
     EXPECT_EQ(f1(*forma.campo), "guida:/strati#campo4");
     Forma sopra("altra", &forma);  // a form of its own above it, without a page
     EXPECT_EQ(f1(*sopra.campo), "guida:/strati");
@@ -115,7 +115,7 @@ TEST_F(Porta, KnowsFormsAndFieldsByTheirNames) {
 
 TEST_F(Porta, GoesToTheColumnOfAGrid) {
     Forma forma("base2_32_5");
-    forma.setProperty("contestoAiuto", 5);
+    forma.setProperty("contestoGuida", 5);
     QTableWidget griglia(3, 7, &forma);
     griglia.setCurrentCell(0, 2);
     EXPECT_EQ(f1(griglia), "guida:/strati#campo4");
@@ -125,7 +125,7 @@ TEST_F(Porta, GoesToTheColumnOfAGrid) {
 
 TEST_F(Porta, LeavesF1OfTheFieldFormAlone) {
     Forma forma("base1_6");
-    forma.setProperty("contestoAiuto", 5);
+    forma.setProperty("contestoGuida", 5);
     EXPECT_EQ(f1(*forma.campo), "");
 }
 
@@ -160,7 +160,7 @@ bool rispondeAlMouse(QWidget& finestra, QWidget& campo) {
 
 TEST_F(Porta, StaysUsableBesideAModalForm) {
     Forma forma("qualunque");
-    forma.setProperty("contestoAiuto", 5);
+    forma.setProperty("contestoGuida", 5);
     bool risponde = false, altraRisponde = true;
     QTimer::singleShot(0, [&] {
         QTest::keyClick(forma.campo, Qt::Key_F1);
@@ -206,9 +206,9 @@ TEST_F(Porta, StaysUsableWhenFormsAndBoxesComeAndGoWhileItIsOpen) {
 
 TEST_F(Porta, DoesNotPlugInWhereThereIsNoHelpFile) {
     commands::FormeProgramma forme;
-    commands::fileAiuto = cartella / "manca.hlp";
+    commands::fileGuida = cartella / "manca.hlp";
     collegaGuida(forme, principale);
-    EXPECT_FALSE(forme.aiuto);
+    EXPECT_FALSE(forme.guida);
     EXPECT_FALSE(forme.sommario);
 }
 
@@ -217,8 +217,8 @@ TEST_F(Porta, PlugsIntoTheCommandsOfTheProgram) {
     QWidget altra;
     altra.show();
     collegaGuida(forme, altra);
-    ASSERT_TRUE(forme.aiuto && forme.sommario);
-    forme.aiuto(3);
+    ASSERT_TRUE(forme.guida && forme.sommario);
+    forme.guida(3);
     QWidget* sua = nullptr;
     for (QWidget* finestra : QApplication::topLevelWidgets())
         if (finestra->objectName() == "guida" && finestra->isVisible()) sua = finestra;

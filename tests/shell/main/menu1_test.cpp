@@ -32,7 +32,7 @@ class Menu1Test : public ::testing::Test {
  protected:
     Menu1Test() {
         forme.informazioni = [this](const std::string& riga) { informazioni.push_back(riga); };
-        forme.aiuto = [this](int contesto) { aiuti.push_back(contesto); };
+        forme.guida = [this](int contesto) { aiuti.push_back(contesto); };
         forme.sommario = [] {};
         tutteLeMaschere.leggiMaschere(test::maschereSemplici(ambiente.lavori));
         forme.maschera = [this](masks::Maschere& m) {

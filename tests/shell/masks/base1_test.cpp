@@ -22,7 +22,7 @@ TEST_F(FormaCampi, HasTitleAndHelpContextOfItsMask) {
     maschera.contesto = 6;
     apri();
     EXPECT_EQ(forma->windowTitle(), "Prova");
-    EXPECT_EQ(forma->property("contestoAiuto").toInt(), 6);
+    EXPECT_EQ(forma->property("contestoGuida").toInt(), 6);
 }
 
 TEST_F(FormaCampi, StandsInTheMiddleOfTheScreen) {

@@ -33,7 +33,7 @@ TEST_F(FormaGriglia, HasTitleAndHelpContextOfItsMask) {
     maschera.contesto = 5;
     apri();
     EXPECT_EQ(forma->windowTitle(), "Tabella");
-    EXPECT_EQ(forma->property("contestoAiuto").toInt(), 5);
+    EXPECT_EQ(forma->property("contestoGuida").toInt(), 5);
     apri({"1|Altro titolo", "3", "18", "uno", "0"});
     EXPECT_EQ(forma->windowTitle(), "Altro titolo");
     EXPECT_EQ(cella(1, 3), "uno");

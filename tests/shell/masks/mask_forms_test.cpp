@@ -180,11 +180,11 @@ TEST_F(FormeDelleMaschere, TakeBackNothingWhenTheyAreCancelled) {
 
 TEST_F(FormeDelleMaschere, OpenTheHelpThatTheCommandsHave) {
     std::vector<int> aperti;
-    forme.aiuto = [&](int contesto) { aperti.push_back(contesto); };
+    forme.guida = [&](int contesto) { aperti.push_back(contesto); };
     collegaMaschere(forme, dialogo, nullptr);
     edita<Base1>("EditParatia", [](Base1& forma) {
         premi(forma, "Command1_2");
-        EXPECT_EQ(forma.property("contestoAiuto").toInt(), 6);
+        EXPECT_EQ(forma.property("contestoGuida").toInt(), 6);
         forma.reject();
     });
     edita<Base2_32>("EditStratigrafia", [](Base2_32& forma) {

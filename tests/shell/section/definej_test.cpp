@@ -349,7 +349,7 @@ TEST_F(FormaSezione, PaintsTheDimensionOfTheFocusInAnotherColour) {
 
 TEST_F(FormaSezione, HasANameAndAHelpPage) {
     apri();
-    EXPECT_EQ(forma->property("contestoAiuto").toInt(), 7);
+    EXPECT_EQ(forma->property("contestoGuida").toInt(), 7);
     for (const auto& campo : campiForma)
         EXPECT_FALSE(trova(campo.controllo).accessibleName().isEmpty()) << campo.controllo;
     EXPECT_EQ(trova("Text2").accessibleName(), "Interasse ferri LATO VALLE");
