@@ -17,7 +17,6 @@
 #include "batch/run/report_forms.hpp"
 #include "batch/run/reviewed_run.hpp"
 #include "commands/diagram_output.hpp"
-#include "commands/log_limit.hpp"
 #include "drawings/section_drawing.hpp"
 #include "drawings/stratigraphic_log.hpp"
 #include "project/project_data.hpp"

@@ -5,7 +5,6 @@
 #include "batch/run/console_run.hpp"
 #include "batch/run/drawing_forms.hpp"
 #include "batch/run/reviewed_run.hpp"
-#include "commands/log_limit.hpp"
 #include "drawings/stratigraphic_log.hpp"
 #include "project/project_data.hpp"
 

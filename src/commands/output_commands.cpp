@@ -10,7 +10,6 @@
 #include "base/translated_texts.hpp"
 #include "base/value_error.hpp"
 #include "commands/diagram_output.hpp"
-#include "commands/log_limit.hpp"
 #include "commands/project_commands.hpp"
 #include "drawings/section_drawing.hpp"
 #include "drawings/stratigraphic_log.hpp"
@@ -18,6 +17,7 @@
 #include "plot/drawing_watch.hpp"
 #include "plot/plot_engine.hpp"
 #include "project/project_data.hpp"
+#include "review/log_limit.hpp"
 
 namespace korven::commands {
 

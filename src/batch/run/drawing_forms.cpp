@@ -12,7 +12,7 @@
 #include "batch/run/failure.hpp"
 #include "batch/run/interruption.hpp"
 #include "batch/run/output_names.hpp"
-#include "commands/log_limit.hpp"
+#include "review/log_limit.hpp"
 #include "device/drawing_files.hpp"
 #include "device/drawing_fonts.hpp"
 #include "device/graphics_session.hpp"

@@ -4,6 +4,7 @@
 #include <iostream>
 
 #include "analysis/segment_count.hpp"
+#include "base/files.hpp"
 #include "batch/run/failure.hpp"
 #include "batch/run/interruption.hpp"
 #include "commands/project_commands.hpp"

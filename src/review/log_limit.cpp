@@ -1,4 +1,4 @@
-#include "commands/log_limit.hpp"
+#include "review/log_limit.hpp"
 
 #include <algorithm>
 #include <cmath>
