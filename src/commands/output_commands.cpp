@@ -111,7 +111,7 @@ void produciStratigrafia(const PorteUscita& porte) {
         plot::statoPlot.archivio.svuota();
         if (forme.chiudiGrafica) forme.chiudiGrafica();
     } catch (const base::ErroreIndice& errore) {  // more numbers on its scale than a drawing holds
-        const std::string perche = rifiutoStratigrafia(project::Progetto);
+        const std::string perche = review::rifiutoStratigrafia(project::Progetto);
         if (perche.empty()) throw;
         throw base::ErroreIndice(perche + " (" + errore.what() + ")");
     }

@@ -5,7 +5,7 @@
 
 #include "review/list.hpp"
 
-namespace korven::commands {
+namespace korven::review {
 
 std::string rifiutoStratigrafia(const project::DatiProgetto& dati) {
     double alto = 0, basso = 0;
@@ -17,9 +17,9 @@ std::string rifiutoStratigrafia(const project::DatiProgetto& dati) {
         if (std::abs(profondita) > std::abs(dati.profStrato[lontano])) lontano = i;
     }
     if (basso - alto <= massimaAltezzaStratigrafia) return {};
-    return review::rigaCampo("strato", lontano, "Prof. [m]", dati.profStrato[lontano],
-                             "la colonna stratigrafica non è disegnata oltre i 500 m di altezza: "
-                             "correggere la profondità");
+    return rigaCampo("strato", lontano, "Prof. [m]", dati.profStrato[lontano],
+                     "la colonna stratigrafica non è disegnata oltre i 500 m di altezza: "
+                     "correggere la profondità");
 }
 
-}  // namespace korven::commands
+}  // namespace korven::review

@@ -4,7 +4,7 @@
 
 #include "project/project_data.hpp"
 
-namespace korven::commands {
+namespace korven::review {
 
 /// Height on the ground that the command line draws in one log [m]. No wall needs a hundredth of
 /// it; what is higher is a slip of the pen, which would be hatched over kilometres of paper.
@@ -16,4 +16,4 @@ inline constexpr double massimaAltezzaStratigrafia = 500;
 /// @return translated, one line; empty when the log can be drawn
 [[nodiscard]] std::string rifiutoStratigrafia(const project::DatiProgetto& dati);
 
-}  // namespace korven::commands
+}  // namespace korven::review

@@ -5,7 +5,7 @@
 #include "support/sample_projects.hpp"
 #include "support/wall_builder.hpp"
 
-namespace korven::commands {
+namespace korven::review {
 namespace {
 
 // Layers that end at these depths.
@@ -34,4 +34,4 @@ TEST(RifiutoStratigrafia, LetsALogOf500MetresBeDrawn) {
 }
 
 }  // namespace
-}  // namespace korven::commands
+}  // namespace korven::review

@@ -93,7 +93,7 @@ int disegna(const FormeDisegno& forme, Esito& esito, const std::function<bool()>
 }
 
 bool stratigrafiaTroppoAlta(Esito& esito) {
-    const std::string perche = commands::rifiutoStratigrafia(project::Progetto);
+    const std::string perche = review::rifiutoStratigrafia(project::Progetto);
     if (perche.empty()) return false;
     racconta({perche}, esito);
     return true;
