@@ -13,7 +13,7 @@
 #include "batch/options/common_options.hpp"
 #include "batch/options/language_in_use.hpp"
 #include "batch/run/failure.hpp"
-#include "commands/user_folder.hpp"
+#include "commands/start/user_folder.hpp"
 
 namespace korven::batch {
 

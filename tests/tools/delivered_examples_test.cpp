@@ -11,7 +11,7 @@
 #include "base/language.hpp"
 #include "base/program_folder.hpp"
 #include "base/text_lines.hpp"
-#include "commands/example_folders.hpp"
+#include "commands/start/example_folders.hpp"
 #include "drawings/layer_description.hpp"
 #include "project/project_file.hpp"
 #include "tools/example_source.hpp"

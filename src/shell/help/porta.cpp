@@ -10,7 +10,7 @@
 #include <QWindow>
 
 #include "base/files.hpp"
-#include "commands/language_start.hpp"
+#include "commands/start/language_start.hpp"
 #include "help/contexts.hpp"
 #include "help/places.hpp"
 #include "shell/dialogo_qt.hpp"

@@ -9,7 +9,7 @@
 #include <QTableWidget>
 #include <QWindow>
 
-#include "commands/language_start.hpp"
+#include "commands/start/language_start.hpp"
 #include "shell/help/browser.hpp"
 #include "shell/help/guida.hpp"
 #include "support/desktop_bench.hpp"

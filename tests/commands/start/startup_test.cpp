@@ -1,4 +1,4 @@
-#include "commands/startup.hpp"
+#include "commands/start/startup.hpp"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "commands/user_folder.hpp"
+#include "commands/start/user_folder.hpp"
 
 #include <gtest/gtest.h>
 

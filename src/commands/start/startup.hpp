@@ -4,7 +4,7 @@
 #include <string>
 
 #include "commands/document.hpp"
-#include "commands/language_start.hpp"
+#include "commands/start/language_start.hpp"
 #include "masks/mask_values.hpp"
 
 namespace korven::commands {

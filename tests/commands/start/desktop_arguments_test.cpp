@@ -1,4 +1,4 @@
-#include "commands/desktop_arguments.hpp"
+#include "commands/start/desktop_arguments.hpp"
 
 #include <gtest/gtest.h>
 

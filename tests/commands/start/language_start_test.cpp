@@ -1,9 +1,9 @@
-#include "commands/language_start.hpp"
+#include "commands/start/language_start.hpp"
 
 #include <gtest/gtest.h>
 
 #include "base/file_error.hpp"
-#include "commands/example_folders.hpp"
+#include "commands/start/example_folders.hpp"
 #include "support/dialog_double.hpp"
 #include "support/document_ports.hpp"
 #include "support/failing_disk.hpp"

@@ -1,4 +1,4 @@
-#include "commands/startup.hpp"
+#include "commands/start/startup.hpp"
 
 #include "base/language.hpp"
 #include "base/leftovers.hpp"

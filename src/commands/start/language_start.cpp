@@ -1,4 +1,4 @@
-#include "commands/language_start.hpp"
+#include "commands/start/language_start.hpp"
 
 #include <filesystem>
 
@@ -7,8 +7,8 @@
 #include "base/language.hpp"
 #include "base/program_folder.hpp"
 #include "base/translated_texts.hpp"
-#include "commands/example_folders.hpp"
 #include "commands/last_folder.hpp"
+#include "commands/start/example_folders.hpp"
 
 namespace korven::commands {
 

@@ -1,4 +1,4 @@
-#include "commands/example_folders.hpp"
+#include "commands/start/example_folders.hpp"
 
 #include <filesystem>
 #include <vector>
