@@ -20,6 +20,7 @@
 #include "drawings/section_drawing.hpp"
 #include "drawings/stratigraphic_log.hpp"
 #include "project/project_data.hpp"
+#include "results/run_outcome.hpp"
 
 namespace korven::batch {
 
@@ -120,7 +121,7 @@ int esegui(const Opzioni& opzioni, analysis::GuardiaRisultati& guardia, Esito& e
         controllaTutte(opzioni, relazione);
         CorsaConsole corsa(opzioni, guardia, esito);
         if (!scriviRelazione(relazione, corsa, esito)) return nonEseguito;
-        esito.calcolo = commands::leggiEsito();
+        esito.calcolo = results::leggiEsito();
         // Whether anything was computed is for the first run to say: the others find its results.
         const auto fasi = esito.fasi;
         const bool giaAggiornato = esito.giaAggiornato;

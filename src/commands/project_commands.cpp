@@ -1,10 +1,7 @@
 #include "commands/project_commands.hpp"
 
-#include <algorithm>
-#include <cmath>
 #include <filesystem>
 
-#include "analysis/anchors_in_place.hpp"
 #include "base/file_error.hpp"
 #include "base/file_names.hpp"
 #include "base/files.hpp"
@@ -45,17 +42,6 @@ std::string senzaEstensione(const fs::path& percorso) {
     return (percorso.parent_path() / nome.substr(0, nome.rfind('.'))).string();
 }
 
-EstremiFase estremi(int k, const project::DatiProgetto& dati, int nNodi,
-                    const analysis::RisultatiFase& risultati) {
-    EstremiFase esito{k, dati.profFase[k], 0, risultati.momentoNodo[1], risultati.momentoNodo[1]};
-    for (int i = 1; i <= nNodi; ++i) {
-        esito.spostamentoMax = std::max(esito.spostamentoMax, std::fabs(risultati.yNodo[i]));
-        esito.momentoMax = std::max(esito.momentoMax, risultati.momentoNodo[i]);
-        esito.momentoMin = std::min(esito.momentoMin, risultati.momentoNodo[i]);
-    }
-    return esito;
-}
-
 }  // namespace
 
 void togliResti(const std::string& progetto) {
@@ -74,24 +60,6 @@ void apriProgetto(const std::string& percorso, const std::string& uscita) {
     project::fileCorrente =
         (fs::path(cartellaAssoluta(uscita)) / fs::path(progetto).filename()).string();
     togliResti(project::fileCorrente);
-}
-
-EsitoCalcolo leggiEsito() {
-    EsitoCalcolo esito;
-    esito.fileRisultati = base::nomeRisultati(project::fileCorrente);
-    project::DatiProgetto memoria = project::Progetto;
-    const auto dati = results::leggiRisultati(esito.fileRisultati, memoria);
-    esito.nSeg = dati.nNodi - 1;
-    for (int k = 1; k <= memoria.nFasi; ++k)
-        esito.fasi.push_back(
-            estremi(k, memoria, dati.nNodi, dati.fasi[static_cast<std::size_t>(k - 1)]));
-    esito.chiusura = dati.chiusura;
-    for (int j = 1; j <= analysis::tirantiInOpera(memoria, memoria.nFasi); ++j)
-        esito.tiranti.push_back({j, memoria.profTirante[j], dati.tiroTirante[j]});
-    esito.momenti = results::verificaMomenti(dati);
-    esito.taglio = results::verificaAlTaglio(dati);
-    esito.fallite = results::verificheFallite(dati);
-    return esito;
 }
 
 std::vector<std::string> UscitaRelazione::file(analysis::ModoUscita modoUscita,

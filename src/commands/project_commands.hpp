@@ -1,14 +1,10 @@
 #pragma once
 
-#include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "analysis/calcolo_paratia.hpp"
-#include "analysis/result_file.hpp"
 #include "base/disk.hpp"
-#include "results/structure_checks.hpp"
 
 namespace korven::commands {
 
@@ -25,39 +21,6 @@ void togliResti(const std::string& progetto);
 /// @param uscita    folder for the results, which need not exist yet; empty: beside the project
 /// @throws base::ErroreFile if the project is missing, unreadable or broken
 void apriProgetto(const std::string& percorso, const std::string& uscita);
-
-/// The extremes of one stage, from the result file.
-struct EstremiFase {
-    int fase = 0;
-    double profFase = 0;        ///< excavation depth [m]
-    double spostamentoMax = 0;  ///< largest absolute displacement [m]
-    double momentoMax = 0;      ///< largest signed moment [t m]
-    double momentoMin = 0;      ///< smallest signed moment [t m]
-};
-
-/// An anchor that is in place in the last stage.
-struct EsitoTirante {
-    int tirante = 0;
-    double profondita = 0;   ///< depth of the head [m]
-    double tiroMassimo = 0;  ///< largest force, as the report shows it [t]
-};
-
-struct EsitoCalcolo {
-    int nSeg = 0;
-    std::string fileRisultati;
-    std::vector<EstremiFase> fasi;
-    analysis::ChiusuraRisultati chiusura;
-    std::vector<EsitoTirante> tiranti;
-    std::optional<results::ConfrontoMomenti> momenti;  ///< nothing without a defined section
-    std::optional<structure::ConfrontoTaglio> taglio;  ///< nothing without stirrups
-    std::vector<std::string_view>
-        fallite;  ///< section checks that fail, keys of the table of texts
-};
-
-/// The outcome of the last run of the current project, read back from its result file. Changes
-/// nothing in memory.
-/// @throws base::ErroreFile if the file is cut short or of another mesh
-[[nodiscard]] EsitoCalcolo leggiEsito();
 
 /// The output of a command line: writes the report and remembers where; makes no diagrams.
 class UscitaRelazione : public analysis::UscitaCalcolo {

@@ -12,6 +12,7 @@
 #include "commands/project_commands.hpp"
 #include "drawings/stratigraphic_log.hpp"
 #include "masks/edited_tables.hpp"
+#include "results/run_outcome.hpp"
 #include "review/project_review.hpp"
 #include "support/log_setup.hpp"
 #include "support/run_harness.hpp"
@@ -61,7 +62,7 @@ class RigheOltreIlConteggio : public test::ProvaStratigrafia {
         corri(analysis::relazione, relazione);
         parti.push_back(test::contenuto(banco.risultati()));
         parti.push_back(test::contenuto(relazione.relazione()));
-        for (const auto& tirante : leggiEsito().tiranti)
+        for (const auto& tirante : results::leggiEsito().tiranti)
             parti.push_back(std::to_string(tirante.tirante) + ": " +
                             std::to_string(tirante.tiroMassimo));
         UscitaDiagramma diagramma;

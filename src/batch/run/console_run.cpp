@@ -2,12 +2,12 @@
 
 #include <iostream>
 
-#include "analysis/calcolo_paratia.hpp"
 #include "analysis/run_flags.hpp"
 #include "base/file_names.hpp"
 #include "base/translated_texts.hpp"
 #include "batch/run/failure.hpp"
 #include "project/project_data.hpp"
+#include "results/run_outcome.hpp"
 
 namespace korven::batch {
 
@@ -61,7 +61,7 @@ bool CorsaConsole::esegui(analysis::ModoUscita modoUscita, analysis::UscitaCalco
 
 int CorsaConsole::concludi() {
     if (interrotta()) return nonEseguito;
-    esito_.calcolo = commands::leggiEsito();
+    esito_.calcolo = results::leggiEsito();
     return fatto;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "analysis/calcolo_paratia.hpp"
 #include "analysis/result_guard.hpp"
 #include "batch/options/options.hpp"
 #include "batch/run/console.hpp"

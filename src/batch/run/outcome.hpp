@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "analysis/watch/run_control.hpp"
-#include "commands/project_commands.hpp"
+#include "results/run_outcome.hpp"
 #include "review/project_review.hpp"
 
 namespace korven::batch {
@@ -22,7 +22,7 @@ struct Esito {
     std::vector<std::string> messaggi;  ///< why it was refused, or went wrong
     bool esaminato = false;             ///< the remarks below are those of a review
     std::vector<review::Rilievo> rilievi;
-    std::optional<commands::EsitoCalcolo> calcolo;
+    std::optional<results::EsitoCalcolo> calcolo;
     bool giaAggiornato = false;  ///< the result file was up to date already
     std::vector<analysis::ControlloCorsa::Fase> fasi;
     std::vector<std::string> fileScritti;

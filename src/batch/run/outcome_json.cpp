@@ -18,7 +18,7 @@ double arrotondato(double valore) { return std::round(valore * 1e6) / 1e6 + 0.0;
 double kN(double forza) { return std::round(forza * 1e7) / 1e6 + 0.0; }
 double kNm(double momento) { return kN(momento); }
 
-Json fase(const commands::EstremiFase& riga, const Esito& esito) {
+Json fase(const results::EstremiFase& riga, const Esito& esito) {
     Json iterazioni = nullptr;
     for (const auto& corsa : esito.fasi)
         if (corsa.fase == riga.fase) iterazioni = corsa.iterazioni;
@@ -33,7 +33,7 @@ Json fase(const commands::EstremiFase& riga, const Esito& esito) {
     return j;
 }
 
-Json tiranti(const commands::EsitoCalcolo& calcolo) {
+Json tiranti(const results::EsitoCalcolo& calcolo) {
     Json tutti = Json::array();
     for (const auto& tirante : calcolo.tiranti)
         tutti.push_back({{"tirante", tirante.tirante},
@@ -42,7 +42,7 @@ Json tiranti(const commands::EsitoCalcolo& calcolo) {
     return tutti;
 }
 
-Json flessione(const commands::EsitoCalcolo& calcolo) {
+Json flessione(const results::EsitoCalcolo& calcolo) {
     if (!calcolo.momenti) return nullptr;
     const auto& m = *calcolo.momenti;
     const auto lato = [](double md, double mr, bool verificata) {
@@ -54,7 +54,7 @@ Json flessione(const commands::EsitoCalcolo& calcolo) {
             {"negativo", m.negativo ? lato(m.mdMin, m.mrNeg, m.verificatoNeg) : Json(nullptr)}};
 }
 
-Json taglio(const commands::EsitoCalcolo& calcolo) {
+Json taglio(const results::EsitoCalcolo& calcolo) {
     if (!calcolo.taglio) return nullptr;
     const auto& t = *calcolo.taglio;
     Json rotture = Json::array();

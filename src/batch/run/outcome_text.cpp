@@ -17,19 +17,19 @@ std::string colonna(const std::string& testo, std::size_t larghezza) {
 
 struct Colonna {
     std::string titolo;
-    std::string (*cella)(const commands::EstremiFase&);
+    std::string (*cella)(const results::EstremiFase&);
 };
 
 const std::vector<Colonna>& colonne() {
     static const std::vector<Colonna> tutte = {
         {traduttore("Scavo [m]"),
-         [](const commands::EstremiFase& f) { return numeroMostrato(f.profFase, 2); }},
+         [](const results::EstremiFase& f) { return numeroMostrato(f.profFase, 2); }},
         {traduttore("Spostamento max. [cm]"),
-         [](const commands::EstremiFase& f) { return numeroMostrato(f.spostamentoMax, 4, 2); }},
+         [](const results::EstremiFase& f) { return numeroMostrato(f.spostamentoMax, 4, 2); }},
         {traduttore("Momento max. [kN m]"),
-         [](const commands::EstremiFase& f) { return numeroMostrato(f.momentoMax, 2, 1); }},
+         [](const results::EstremiFase& f) { return numeroMostrato(f.momentoMax, 2, 1); }},
         {traduttore("Momento min. [kN m]"),
-         [](const commands::EstremiFase& f) { return numeroMostrato(f.momentoMin, 2, 1); }},
+         [](const results::EstremiFase& f) { return numeroMostrato(f.momentoMin, 2, 1); }},
     };
     return tutte;
 }

@@ -12,6 +12,7 @@
 #include "batch/run/interruption.hpp"
 #include "batch/run/output_names.hpp"
 #include "commands/output_title.hpp"
+#include "commands/project_commands.hpp"
 #include "commands/report_export.hpp"
 #include "device/report_pages.hpp"
 #include "markup/print_renderer.hpp"
