@@ -9,6 +9,7 @@
 #include "base/version.hpp"
 #include "markup/estimated_width.hpp"
 #include "markup/report_page.hpp"
+#include "markup/syllable_rule.hpp"
 
 namespace korven::report {
 
@@ -35,18 +36,8 @@ std::string nomeScrivibile(const std::string& nome) {
     return base::daCp1252(byte);
 }
 
-std::vector<std::string> caratteri(std::string_view testo) {
-    std::vector<std::string> tutti;
-    while (!testo.empty()) {
-        const std::size_t n = base::lunghezzaPrimoCarattere(testo);
-        tutti.emplace_back(testo.substr(0, n));
-        testo.remove_prefix(n);
-    }
-    return tutti;
-}
-
 // The name with `tenuti` of its characters: the longer half in front, the rest from its end.
-std::string senzaMezzo(const std::vector<std::string>& nome, std::size_t tenuti) {
+std::string senzaMezzo(const std::vector<std::string_view>& nome, std::size_t tenuti) {
     const std::size_t davanti = tenuti - tenuti / 2;
     std::string corto;
     for (std::size_t i = 0; i < davanti; ++i) corto += nome[i];
@@ -104,7 +95,7 @@ std::string testoPiede(const DatiPiede& dati, double larghezzaFoglio) {
 
     const std::string terreno = traduttore("nessun F.S. sul terreno");
     std::string corta = riga(nome, terreno);
-    const auto lettere = caratteri(nome);
+    const auto lettere = markup::characters(nome);
     for (std::size_t tenuti = lettere.size(); !misura.sullaPagina(corta) && tenuti-- > 2;)
         corta = riga(senzaMezzo(lettere, tenuti), terreno);
     return corta;
