@@ -37,24 +37,21 @@ struct SistemaDoppio {
         const EsitoSistema atteso = risolviPassoPasso(n, piena, b, xPiena);
         ++(atteso == EsitoSistema::risolto ? risolti : singolari);
 
-        const bool suoi = analysis::registriLarghi;
         for (const bool larghi : {false, true}) {
-            if (larghi && !suoi) continue;
-            analysis::registriLarghi = larghi;
-            confrontaVersione(n, bordo, atteso);
-            analysis::registriLarghi = suoi;
+            if (larghi && !analysis::registriLarghi()) continue;
+            confrontaVersione(n, bordo, larghi, atteso);
             if (::testing::Test::HasFatalFailure()) return;
         }
     }
 
  private:
-    void confrontaVersione(int n, int bordo, analysis::EsitoSistema atteso) {
+    void confrontaVersione(int n, int bordo, bool larghi, analysis::EsitoSistema atteso) {
         using analysis::EsitoSistema;
         for (int i = 1; i <= n; ++i) {
             x[i] = -77.0 - i;
             for (int j = 1; j <= n; ++j) A(i, j) = prima_(i, j);
         }
-        const EsitoSistema esito = analysis::RisolviSistema(n, A, b, x, bordo);
+        const EsitoSistema esito = analysis::RisolviSistema(n, A, b, x, bordo, larghi);
         ASSERT_EQ(esito, atteso);
         for (int i = 1; i <= n; ++i)
             ASSERT_TRUE(stessiBit(x[i], xPiena[i])) << "x " << i << ' ' << x[i] << ' ' << xPiena[i];

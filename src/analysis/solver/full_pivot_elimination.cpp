@@ -139,10 +139,10 @@ bool eliminaLarga(int n, MatriceSistema& A, const VettoreSistema& b, bool conser
 
 }  // namespace
 
-bool elimina(int n, MatriceSistema& A, const VettoreSistema& b, bool conservaFattori,
+bool elimina(int n, MatriceSistema& A, const VettoreSistema& b, bool conservaFattori, bool larghi,
              SistemaEliminato& s) {
-    return registriLarghi ? eliminaLarga(n, A, b, conservaFattori, s)
-                          : eliminaCon<2>(n, A, b, conservaFattori, s);
+    return larghi ? eliminaLarga(n, A, b, conservaFattori, s)
+                  : eliminaCon<2>(n, A, b, conservaFattori, s);
 }
 
 }  // namespace korven::analysis

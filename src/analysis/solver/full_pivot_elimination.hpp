@@ -29,9 +29,10 @@ struct SistemaEliminato {
 /// @param A  matrix; its work area is taken over by the result
 /// @param b  right-hand side
 /// @param conservaFattori  whether the cells j > t are wanted
+/// @param larghi  as for `RisolviSistema`
 /// @param[out] s  the eliminated system
 /// @return false when a pass finds no cell but zeros and NaN: the system is singular
 [[nodiscard]] bool elimina(int n, MatriceSistema& A, const VettoreSistema& b, bool conservaFattori,
-                           SistemaEliminato& s);
+                           bool larghi, SistemaEliminato& s);
 
 }  // namespace korven::analysis

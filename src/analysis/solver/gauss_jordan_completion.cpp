@@ -194,8 +194,8 @@ void completaLarga(SistemaEliminato& s, VettoreSistema& x, MatriceSistema& A, in
 
 }  // namespace
 
-void completa(SistemaEliminato& s, VettoreSistema& x, MatriceSistema& A, int bordo) {
-    if (registriLarghi)
+void completa(SistemaEliminato& s, VettoreSistema& x, MatriceSistema& A, int bordo, bool larghi) {
+    if (larghi)
         completaLarga(s, x, A, bordo);
     else
         completaCon<2>(s, x, A, bordo);

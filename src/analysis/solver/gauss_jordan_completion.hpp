@@ -12,6 +12,7 @@ namespace korven::analysis {
 /// @param[out] x  solution, entries 1 to n
 /// @param[out] A  the last `bordo` rows and columns of the inverse, nothing else
 /// @param bordo  0 to n
-void completa(SistemaEliminato& s, VettoreSistema& x, MatriceSistema& A, int bordo);
+/// @param larghi  as for `RisolviSistema`
+void completa(SistemaEliminato& s, VettoreSistema& x, MatriceSistema& A, int bordo, bool larghi);
 
 }  // namespace korven::analysis

@@ -12,13 +12,13 @@
 namespace korven::analysis {
 
 EsitoSistema RisolviSistema(int n, MatriceSistema& A, const VettoreSistema& b, VettoreSistema& x,
-                            int bordoVisibile) {
+                            int bordoVisibile, bool larghi) {
     assert(1 <= n && n <= capacitaSistema);
     assert(0 <= bordoVisibile && bordoVisibile <= n);
     assert(&b != &x);
     SistemaEliminato s;
-    if (!elimina(n, A, b, bordoVisibile > 0, s)) return EsitoSistema::singolare;
-    completa(s, x, A, bordoVisibile);
+    if (!elimina(n, A, b, bordoVisibile > 0, larghi, s)) return EsitoSistema::singolare;
+    completa(s, x, A, bordoVisibile, larghi);
     return EsitoSistema::risolto;
 }
 

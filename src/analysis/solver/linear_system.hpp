@@ -1,6 +1,7 @@
 #pragma once
 
 #include "analysis/solver/system_matrix.hpp"
+#include "analysis/solver/vector_lanes.hpp"
 
 namespace korven::analysis {
 
@@ -26,6 +27,8 @@ enum class EsitoSistema { risolto, singolare };
 /// @param x  solution, entries 1 to n
 /// @param bordoVisibile  trailing rows and columns of the inverse that are read again, 0 to n:
 ///           0 with a free or hinged toe, 2 with a fixed toe, n for the whole inverse
+/// @param larghi  four doubles side by side, else two: of no influence on the digits
+/// @pre larghi only where `registriLarghi` holds
 /// @return `singolare` when the largest cell left is exactly 0 or all cells left are NaN: there is
 ///         no threshold. Then x is as it was, and so is A: the inverse never came to be, and as a
 ///         singular system ends the run nothing is assembled over A again
@@ -36,6 +39,7 @@ enum class EsitoSistema { risolto, singolare };
 /// Source: Golub & Van Loan, Matrix Computations (1996), 3.4 (complete pivoting); Press et al.,
 /// Numerical Recipes (1992), 2.1 (Gauss-Jordan elimination in place); neither looked up.
 [[nodiscard]] EsitoSistema RisolviSistema(int n, MatriceSistema& A, const VettoreSistema& b,
-                                          VettoreSistema& x, int bordoVisibile);
+                                          VettoreSistema& x, int bordoVisibile,
+                                          bool larghi = registriLarghi());
 
 }  // namespace korven::analysis

@@ -3,9 +3,9 @@
 namespace korven::analysis {
 
 #if defined(__x86_64__) && defined(__GNUC__) && !defined(__clang__)
-bool registriLarghi = __builtin_cpu_supports("avx2");
+bool registriLarghi() { return __builtin_cpu_supports("avx2"); }
 #else
-bool registriLarghi = false;
+bool registriLarghi() { return false; }
 #endif
 
 }  // namespace korven::analysis

@@ -5,20 +5,19 @@
 // Every operation acts on each lane as the same operation acts on one double, so the number of
 // lanes changes no bit of a result. What works on lanes is a template over their number L, written
 // once and compiled for two of them: four fill a register of AVX2, two one of any x86-64 or ARMv8.
-// The program picks the version when it starts. More lanes than a register holds would be slow: the
+// Each solve picks the version. More lanes than a register holds would be slow: the
 // compiler takes them apart one by one.
 
 #include <cstdint>
 
 namespace korven::analysis {
 
-/// Whether the processor has registers of four doubles that this program was compiled for. A test
-/// may turn it off to see the other version.
-extern bool registriLarghi;
+/// Whether the processor has registers of four doubles that this program was compiled for.
+[[nodiscard]] bool registriLarghi();
 
 }  // namespace korven::analysis
 
-// In front of a function that calls a template over four lanes, after a look at `registriLarghi`.
+// In front of a function that calls a template over four lanes, where `registriLarghi` holds.
 #if defined(__x86_64__) && defined(__GNUC__) && !defined(__clang__)
 #define KORVEN_REGISTRI_LARGHI [[gnu::target("avx2")]]
 #else
