@@ -2,28 +2,22 @@
 
 #include <algorithm>
 #include <memory>
-#include <utility>
 
 #include "analysis/input_checks.hpp"
 #include "analysis/result_file.hpp"
+#include "analysis/run_files.hpp"
 #include "analysis/run_flags.hpp"
 #include "analysis/segment_count.hpp"
 #include "analysis/stage_sequence.hpp"
 #include "base/file_names.hpp"
-#include "base/files.hpp"
 #include "base/number_text.hpp"
 #include "base/pointer_guard.hpp"
 #include "base/translated_texts.hpp"
 #include "project/output_guard.hpp"
-#include "project/project_file.hpp"
 #include "structure/partial_factors.hpp"
 #include "structure/stiffness_update.hpp"
 
 namespace korven::analysis {
-
-bool erroreCalcolo = false;
-bool stopCalcolo = false;
-double fsAzioni = 0;
 
 namespace {
 
@@ -34,79 +28,6 @@ using project::Progetto;
 void avvisa(base::Dialogo& dialogo, std::string_view testo) {
     dialogo.messaggio(testo, traduttore("ATTENZIONE") + "!", base::Icona::stop);
     erroreCalcolo = true;
-}
-
-// Puts the name of the result file in the place of the project's for the length of a run. A project
-// that is saved while events are served, as when the session ends, keeps the name it was given.
-class NomeRisultati {
- public:
-    NomeRisultati() : progetto_(fileCorrente), risultati_(base::nomeRisultati(progetto_)) {
-        fileCorrente = risultati_;
-    }
-    NomeRisultati(const NomeRisultati&) = delete;
-    NomeRisultati& operator=(const NomeRisultati&) = delete;
-    ~NomeRisultati() {
-        if (!lasciato_ && fileCorrente == risultati_) fileCorrente = progetto_;
-    }
-    void lascia() { lasciato_ = true; }
-
- private:
-    std::string progetto_, risultati_;
-    bool lasciato_ = false;
-};
-
-// The name at which a run without a stiffness left `fileCorrente`. It is no project's: the next run
-// writes its results there.
-std::string nomeLasciato;
-
-// The project's name is safe from the outputs for the length of a run.
-class ProgettoAlSicuro {
- public:
-    explicit ProgettoAlSicuro(const std::string& progetto)
-        : prima_(std::exchange(project::progettiProtetti.corrente,
-                               progetto == nomeLasciato ? std::string() : progetto)) {}
-    ProgettoAlSicuro(const ProgettoAlSicuro&) = delete;
-    ProgettoAlSicuro& operator=(const ProgettoAlSicuro&) = delete;
-    ~ProgettoAlSicuro() { project::progettiProtetti.corrente = prima_; }
-
- private:
-    std::string prima_;
-};
-
-// A result file in the making and the progress display beside it: both are gone unless the run ends
-// well, whatever ends it. It keeps its own name: `fileCorrente` may become that of a project that
-// is saved meanwhile.
-class FileInCorso {
- public:
-    explicit FileInCorso(Avanzamento& avanzamento)
-        : avanzamento_(avanzamento), nome_(fileCorrente) {
-        project::scriviProgetto();
-        try {
-            avanzamento_.apri();
-        } catch (...) {
-            base::cancellaFile(nome_);
-            throw;
-        }
-    }
-    FileInCorso(const FileInCorso&) = delete;
-    FileInCorso& operator=(const FileInCorso&) = delete;
-    ~FileInCorso() {
-        avanzamento_.chiudi();
-        if (!finito_) base::cancellaFile(nome_);
-    }
-    void aggiungi(std::string_view testo) { base::accodaFile(nome_, testo); }
-    void finito() { finito_ = true; }
-
- private:
-    Avanzamento& avanzamento_;
-    std::string nome_;
-    bool finito_ = false;
-};
-
-bool risultatiAggiornati() {
-    if (!base::esisteFile(fileCorrente)) return false;
-    auto file = base::LettoreRighe::apri(fileCorrente, traduttore(rimedioRisultati));
-    return !project::progettoDiverso(file, Progetto);
 }
 
 std::string messaggioRifiuto(int fase, const RifiutoSuolo& rifiuto) {
@@ -191,7 +112,6 @@ void CalcoloParatia(ModoUscita modoUscita, const PorteCalcolo& porte) {
                           porte.dialogo);
     if (Progetto.rigidezzaEJ == 0) {
         nome.lascia();
-        nomeLasciato = fileCorrente;
         return avvisa(porte.dialogo, traduttore(messaggioSenzaEJ));
     }
     const auto nSeg = leggiNSeg(vincoli(Progetto).incastroPiede);

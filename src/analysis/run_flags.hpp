@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 namespace korven::analysis {
 
 /// True when the last run was refused, failed or was stopped. Cleared at the start of every run;
@@ -11,5 +13,9 @@ extern bool stopCalcolo;
 
 /// Partial factor of the actions, set at the start of every run and stored with its results.
 extern double fsAzioni;
+
+/// The name at which a run without a stiffness left `fileCorrente`. It is no project's: the next
+/// run writes its results there.
+extern std::string nomeLasciato;
 
 }  // namespace korven::analysis
