@@ -3,10 +3,8 @@
 #include <stdexcept>
 
 #include "analysis/plastic_iteration.hpp"
-#include "analysis/run_flags.hpp"
 #include "analysis/stage_sequence.hpp"
 #include "project/project_file.hpp"
-#include "support/progress_double.hpp"
 
 namespace korven::bench {
 
@@ -19,13 +17,10 @@ project::DatiProgetto esempio(const std::string& nome) {
 
 std::unique_ptr<analysis::ArraysCorsa> corsaConvergente(project::DatiProgetto dati, int nSeg) {
     auto corsa = std::make_unique<analysis::ArraysCorsa>();
-    corsa->nSeg = nSeg;
-    corsa->nNodi = nSeg + 1;
-    corsa->passoNodi = dati.lunghezzaParatia / nSeg;
-    corsa->vincolo = analysis::vincoli(dati);
-    test::AvanzamentoFinto avanzamento;
+    analysis::preparaCorsa(dati, nSeg, *corsa);
+    analysis::OsservatoreCorsa nessuno;
     for (int k = 1; k <= dati.nFasi; ++k)
-        if (analysis::risolviFase(k, dati, *corsa, avanzamento).esito !=
+        if (analysis::risolviFase(k, dati, *corsa, nessuno).esito !=
             analysis::EsitoFase::convergente)
             throw std::runtime_error("no rest in stage " + std::to_string(k));
     analysis::classificaNodi(dati, *corsa);

@@ -1,14 +1,13 @@
 #include "analysis/calcolo_paratia.hpp"
 
 #include <algorithm>
-#include <memory>
 
 #include "analysis/input_checks.hpp"
 #include "analysis/result_file.hpp"
 #include "analysis/run_files.hpp"
 #include "analysis/run_flags.hpp"
 #include "analysis/segment_count.hpp"
-#include "analysis/stage_sequence.hpp"
+#include "analysis/staged_run.hpp"
 #include "base/file_names.hpp"
 #include "base/number_text.hpp"
 #include "base/pointer_guard.hpp"
@@ -46,30 +45,44 @@ std::string motivoTiranti() {
     return {};
 }
 
-void racconta(int fase, const RisultatoFase& risultato, base::Dialogo& dialogo) {
-    if (risultato.esito == EsitoFase::singolare) avvisa(dialogo, traduttore(messaggioSingolare));
-    if (risultato.esito == EsitoFase::rifiutata)
-        avvisa(dialogo, messaggioRifiuto(fase, *risultato.rifiuto));
+// Takes a run into the program: its water tables into `Progetto`, its stages into the result file,
+// and the stop of the user into it.
+class CorsaSuFile : public OsservatoreCorsa {
+ public:
+    CorsaSuFile(FileInCorso& file, int nNodi, Avanzamento& avanzamento)
+        : file_(file), nNodi_(nNodi), avanzamento_(avanzamento) {}
+    void inizio(int fase) override {
+        Progetto.faldaValle = Progetto.faldaFase[fase];
+        avanzamento_.inizio(fase);
+    }
+    void iterazione(const StatoIterazione& stato) override { avanzamento_.iterazione(stato); }
+    [[nodiscard]] bool fermata() override { return stopCalcolo || avanzamento_.fermata(); }
+    void fine(const FaseCalcolata& fase) override {
+        file_.aggiungi(testoFase(fase.risultati, nNodi_));
+        avanzamento_.fine(fase);
+    }
+
+ private:
+    FileInCorso& file_;
+    int nNodi_;
+    Avanzamento& avanzamento_;
+};
+
+void racconta(const FaseCalcolata& fase, base::Dialogo& dialogo) {
+    if (fase.esito == EsitoFase::singolare) avvisa(dialogo, traduttore(messaggioSingolare));
+    if (fase.esito == EsitoFase::rifiutata)
+        avvisa(dialogo, messaggioRifiuto(fase.fase, *fase.rifiuto));
     erroreCalcolo = true;  // a stop by the user needs no message
 }
 
-void calcolaFasi(int nSeg, const structure::MomentiResistenti& MRd, const PorteCalcolo& porte) {
+void aggiornaRisultati(int nSeg, const structure::MomentiResistenti& MRd,
+                       const PorteCalcolo& porte) {
     FileInCorso file(porte.avanzamento);
-    const auto corsa = preparaCorsa(Progetto, nSeg);
-    ChiusuraRisultati chiusura{MRd[2], MRd[1], -oltreOgniValore, oltreOgniValore, fsAzioni};
     stopCalcolo = false;
-
-    for (int k = 1; k <= Progetto.nFasi; ++k) {
-        const RisultatoFase risultato = risolviFase(k, Progetto, *corsa, porte.avanzamento);
-        if (risultato.esito != EsitoFase::convergente) {
-            racconta(k, risultato, porte.dialogo);
-            return;
-        }
-        file.aggiungi(testoFase(*corsa));
-        chiusura.mMaxTotale = std::max(chiusura.mMaxTotale, risultato.estremi.mMaxFase);
-        chiusura.mMinTotale = std::min(chiusura.mMinTotale, risultato.estremi.mMinFase);
-    }
-    file.aggiungi(testoChiusura(chiusura));
+    CorsaSuFile seguito(file, nSeg + 1, porte.avanzamento);
+    const EsitoCorsa corsa = calcolaFasi(Progetto, nSeg, seguito);
+    if (!corsa.finita()) return racconta(corsa.fasi.back(), porte.dialogo);
+    file.aggiungi(testoChiusura({MRd[2], MRd[1], corsa.mMaxTotale, corsa.mMinTotale, fsAzioni}));
     file.finito();
 }
 
@@ -120,7 +133,7 @@ void CalcoloParatia(ModoUscita modoUscita, const PorteCalcolo& porte) {
     if (porte.guardia != nullptr &&
         !porte.guardia->occupa(fileCorrente, porte.dialogo, porte.avanzamento))
         return;
-    if (!risultatiAggiornati()) calcolaFasi(*nSeg, MRd, porte);
+    if (!risultatiAggiornati()) aggiornaRisultati(*nSeg, MRd, porte);
     if (erroreCalcolo) return;
 
     if (modoUscita)

@@ -17,29 +17,17 @@ using base::traduttore;
 
 struct Colonna {
     std::string_view nome;
-    VettoreNodi RisultatiFase::*letta;
-    const VettoreNodi& (*scritta)(const ArraysCorsa&);
+    VettoreNodi RisultatiFase::*valori;
 };
 
-using Corsa = const ArraysCorsa&;
-
-const Colonna colonne[] = {
-    {"sigmaVv", &RisultatiFase::sigmaVv,
-     [](Corsa c) -> const VettoreNodi& { return c.suolo.sigmaVv; }},
-    {"Ehv", &RisultatiFase::Ehv, [](Corsa c) -> const VettoreNodi& { return c.suolo.Ehv; }},
-    {"k0v", &RisultatiFase::k0v, [](Corsa c) -> const VettoreNodi& { return c.suolo.k0v; }},
-    {"kav", &RisultatiFase::kav, [](Corsa c) -> const VettoreNodi& { return c.suolo.kav; }},
-    {"kpv", &RisultatiFase::kpv, [](Corsa c) -> const VettoreNodi& { return c.suolo.kpv; }},
-    {"sigmaVm", &RisultatiFase::sigmaVm,
-     [](Corsa c) -> const VettoreNodi& { return c.suolo.sigmaVm; }},
-    {"Ehm", &RisultatiFase::Ehm, [](Corsa c) -> const VettoreNodi& { return c.suolo.Ehm; }},
-    {"k0m", &RisultatiFase::k0m, [](Corsa c) -> const VettoreNodi& { return c.suolo.k0m; }},
-    {"kam", &RisultatiFase::kam, [](Corsa c) -> const VettoreNodi& { return c.suolo.kam; }},
-    {"kpm", &RisultatiFase::kpm, [](Corsa c) -> const VettoreNodi& { return c.suolo.kpm; }},
-    {"Spostamenti", &RisultatiFase::yNodo, [](Corsa c) -> const VettoreNodi& { return c.yNodo; }},
-    {"Momenti", &RisultatiFase::momentoNodo,
-     [](Corsa c) -> const VettoreNodi& { return c.momentoNodo; }},
-    {"", &RisultatiFase::taglioNodo, [](Corsa c) -> const VettoreNodi& { return c.taglioNodo; }},
+constexpr Colonna colonne[] = {
+    {"sigmaVv", &RisultatiFase::sigmaVv},   {"Ehv", &RisultatiFase::Ehv},
+    {"k0v", &RisultatiFase::k0v},           {"kav", &RisultatiFase::kav},
+    {"kpv", &RisultatiFase::kpv},           {"sigmaVm", &RisultatiFase::sigmaVm},
+    {"Ehm", &RisultatiFase::Ehm},           {"k0m", &RisultatiFase::k0m},
+    {"kam", &RisultatiFase::kam},           {"kpm", &RisultatiFase::kpm},
+    {"Spostamenti", &RisultatiFase::yNodo}, {"Momenti", &RisultatiFase::momentoNodo},
+    {"", &RisultatiFase::taglioNodo},
 };
 
 struct Chiusa {
@@ -69,12 +57,12 @@ std::string rigaColonne() {
 
 }  // namespace
 
-std::string testoFase(const ArraysCorsa& corsa) {
+std::string testoFase(const RisultatiFase& risultati, int nNodi) {
     std::string testo = rigaColonne() + "\r\n";
-    for (int i = 1; i <= corsa.nNodi; ++i) {
+    for (int i = 1; i <= nNodi; ++i) {
         for (const auto& colonna : colonne) {
             if (&colonna != std::begin(colonne)) testo += ',';
-            testo += base::formattaNumero(colonna.scritta(corsa)[i]);
+            testo += base::formattaNumero((risultati.*colonna.valori)[i]);
         }
         testo += "\r\n";
     }
@@ -112,7 +100,7 @@ void LettoreRisultati::leggiFase(RisultatiFase& risultati) {
         for (const auto& colonna : colonne) {
             const auto valore = base::leggiNumero(resto);
             if (!valore) rifiutaNodo(i);
-            (risultati.*colonna.letta)[i] = *valore;
+            (risultati.*colonna.valori)[i] = *valore;
             resto.remove_prefix(std::min(resto.find(',') + 1, resto.size()));
         }
     }

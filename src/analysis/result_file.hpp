@@ -3,8 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "analysis/node_vector.hpp"
-#include "analysis/run_arrays.hpp"
+#include "analysis/stage_results.hpp"
 #include "base/text_lines.hpp"
 #include "project/project_data.hpp"
 
@@ -20,15 +19,6 @@ inline constexpr const char* rimedioRisultati =
     "il file dei risultati è incompleto o è stato scritto con un altro numero di segmenti "
     "(nseg.txt): cancellarlo e ripetere il calcolo";
 
-/// The table of one stage, in the order of its columns. Units and signs as in StatoSuolo.
-struct RisultatiFase {
-    VettoreNodi sigmaVv, Ehv, k0v, kav, kpv;
-    VettoreNodi sigmaVm, Ehm, k0m, kam, kpm;
-    VettoreNodi yNodo;        ///< [m]
-    VettoreNodi momentoNodo;  ///< [t m]
-    VettoreNodi taglioNodo;   ///< [t]; has no name in the column line
-};
-
 /// What follows the last stage.
 struct ChiusuraRisultati {
     double mrd2 = 0;  ///< resistance with positive curvature [N mm]; 0 without a valid section
@@ -38,9 +28,9 @@ struct ChiusuraRisultati {
     double fsAzioni = 0;    ///< partial factor of the actions [-]
 };
 
-/// Text of a stage's table as it is appended to the file: the numbers of the last iteration, with
-/// at most seven decimals. The node that a fixed toe adds to the system is not written.
-[[nodiscard]] std::string testoFase(const ArraysCorsa& corsa);
+/// Text of a stage's table as it is appended to the file, the rows 1 to `nNodi` with at most seven
+/// decimals.
+[[nodiscard]] std::string testoFase(const RisultatiFase& risultati, int nNodi);
 
 /// Text of the five closing lines.
 [[nodiscard]] std::string testoChiusura(const ChiusuraRisultati& chiusura);

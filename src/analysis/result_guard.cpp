@@ -65,7 +65,7 @@ bool GuardiaRisultati::attendi(const std::string& risultati, const std::string& 
     stopCalcolo = false;
     for (int i = 0; i < pause; ++i) {
         avanzamento.attendi(detto);
-        if (stopCalcolo) {
+        if (stopCalcolo || avanzamento.fermata()) {
             erroreCalcolo = true;
             return false;
         }

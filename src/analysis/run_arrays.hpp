@@ -2,13 +2,18 @@
 
 #include <vector>
 
+#include "analysis/iteration_state.hpp"
 #include "analysis/node_vector.hpp"
-#include "analysis/progress.hpp"
 #include "analysis/soil_state.hpp"
 #include "analysis/solver/system_matrix.hpp"
 #include "project/project_data.hpp"
 
 namespace korven::analysis {
+
+// Segments of the wall.
+inline constexpr int minimoSegmenti = 3;
+inline constexpr int massimoSegmenti = 249;          ///< 2 (n + 1) equations fill the matrix
+inline constexpr int massimoSegmentiIncastro = 248;  ///< a fixed toe adds a node
 
 /// Restraints of the wall, from the project's codes.
 struct Vincoli {
@@ -21,13 +26,13 @@ struct Vincoli {
 /// a free end. A fixed toe is blocked as well.
 [[nodiscard]] Vincoli vincoli(const project::DatiProgetto& dati);
 
-/// The arrays of one run. They start at 0 and live for one call of `CalcoloParatia`; what a stage
-/// does not set again, it takes over from the stage before: `yNodo`, `yTirante`, `momentoNodo`, and
-/// the cells of the matrix that nobody clears.
-///  Nothing is put back after the last stage: what reads the results works out the anchors'
+/// The arrays of one run but the matrix. `preparaCorsa` puts them all to 0; what a stage does not
+/// set again, it takes over from the stage before: `yNodo`, `yTirante`, `momentoNodo`.
+///
+/// Nothing is put back after the last stage: what reads the results works out the anchors'
 /// `yTirante` and the nodes' layers for itself, from the result file and whether or not a run has
 /// gone before.
-struct ArraysCorsa {
+struct VettoriCorsa {
     int nSeg = 0;
     int nNodi = 0;
     double passoNodi = 0;  ///< [m]
@@ -42,7 +47,6 @@ struct ArraysCorsa {
     VettoreNodi taglioNodo;   ///< shear [t]
     VettoreNodi momentoNodo;  ///< moment [t m]
 
-    MatriceSistema matriceA;
     VettoreNodi termineB, soluzioneX;
 
     int nTirantiAttivi = 0;
@@ -52,5 +56,17 @@ struct ArraysCorsa {
     std::vector<StatiNodo> stati;         ///< of the iteration, element 0 is node 1
     std::vector<TiranteInOpera> tiranti;  ///< of the iteration, element 0 is anchor 1
 };
+
+/// The arrays of one run, 4 MB. A thread that runs again and again keeps one of these; a run begins
+/// with `preparaCorsa`, whatever the one before has left.
+struct ArraysCorsa : VettoriCorsa {
+    /// From one stage to the next it keeps the cells that nobody clears.
+    MatriceSistema matriceA;
+};
+
+/// Puts the arrays to the state before the first stage: mesh and restraints set, all else 0 that a
+/// run of this mesh can read.
+/// @pre `nSeg` from 3 to the capacity: asserted
+void preparaCorsa(const project::DatiProgetto& dati, int nSeg, ArraysCorsa& corsa);
 
 }  // namespace korven::analysis

@@ -8,7 +8,7 @@ namespace korven::analysis {
 /// the caller goes on to its viewer or preview only when it is false.
 extern bool erroreCalcolo;
 
-/// Set by the stop button, read at the end of every iteration; cleared before the first stage.
+/// Set by the stop button, asked for after every iteration; cleared before the first stage.
 extern bool stopCalcolo;
 
 /// Partial factor of the actions, set at the start of every run and stored with its results.

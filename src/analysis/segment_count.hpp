@@ -4,12 +4,11 @@
 #include <string>
 #include <string_view>
 
+#include "analysis/run_arrays.hpp"
+
 namespace korven::analysis {
 
 inline constexpr int segmentiPredefiniti = 50;
-inline constexpr int minimoSegmenti = 3;
-inline constexpr int massimoSegmenti = 249;          ///< 2 (n + 1) equations fill the matrix
-inline constexpr int massimoSegmentiIncastro = 248;  ///< a fixed toe adds a node
 
 /// Replaces the content of `nseg.txt` when it is given, for the rest of the process.
 extern std::optional<std::string> contenutoNSeg;

@@ -3,7 +3,6 @@
 #include <cmath>
 
 #include "analysis/anchors_in_place.hpp"
-#include "analysis/run_flags.hpp"
 #include "analysis/wall_mesh.hpp"
 
 namespace korven::analysis {
@@ -34,51 +33,38 @@ bool sensata(const project::DatiProgetto& dati, const ArraysCorsa& corsa,
     return estremi.yMax <= massimoSpostamentoRelativo * dati.lunghezzaParatia;
 }
 
-}  // namespace
-
-Vincoli vincoli(const project::DatiProgetto& dati) {
-    return {dati.vincoloTesta == 2, dati.vincoloPiede == 2 || dati.vincoloPiede == 3,
-            dati.vincoloPiede == 3};
-}
-
-std::unique_ptr<ArraysCorsa> preparaCorsa(const project::DatiProgetto& dati, int nSeg) {
-    auto corsa = std::make_unique<ArraysCorsa>();
-    corsa->nSeg = nSeg;
-    corsa->nNodi = nSeg + 1;
-    corsa->passoNodi = dati.lunghezzaParatia / nSeg;
-    corsa->vincolo = vincoli(dati);
-    return corsa;
-}
-
-RisultatoFase risolviFase(int k, project::DatiProgetto& dati, ArraysCorsa& corsa,
-                          Avanzamento& avanzamento) {
-    preparaFase(k, dati, corsa);
-    RisultatoFase risultato;
-    risultato.rifiuto = calcolaSuolo(dati, k, corsa.nNodi, corsa.passoNodi, corsa.suolo);
-    if (risultato.rifiuto) {
-        risultato.esito = EsitoFase::rifiutata;
-        return risultato;
-    }
-    for (int iterazione = 1;; ++iterazione) {
+EsitoFase itera(const project::DatiProgetto& dati, ArraysCorsa& corsa,
+                OsservatoreCorsa& osservatore, FaseCalcolata& fase) {
+    for (bool convergente = false; !convergente;) {
         classificaNodi(dati, corsa);
         applicaTiranti(dati, corsa);
-        if (!risolviIterazione(dati, corsa)) {
-            risultato.esito = EsitoFase::singolare;
-            return risultato;
-        }
-        risultato.estremi = estremiIterazione(corsa);
-        const bool convergente = convergenza(corsa);
-        avanzamento.iterazione({k, iterazione, risultato.estremi.yMax, risultato.estremi.mMax,
-                                convergente, corsa.nNodi, corsa.passoNodi, dati.profFase[k],
+        if (!risolviIterazione(dati, corsa)) return EsitoFase::singolare;
+        ++fase.iterazioni;
+        fase.estremi = estremiIterazione(corsa);
+        convergente = convergenza(corsa);
+        osservatore.iterazione({fase.fase, fase.iterazioni, fase.estremi.yMax, fase.estremi.mMax,
+                                convergente, corsa.nNodi, corsa.passoNodi, dati.profFase[fase.fase],
                                 &corsa.yNodo, &corsa.momentoNodo, corsa.stati, corsa.tiranti});
-        if (stopCalcolo) {
-            risultato.esito = EsitoFase::fermata;
-            return risultato;
-        }
-        if (convergente) break;
+        if (osservatore.fermata()) return EsitoFase::fermata;
     }
-    if (!sensata(dati, corsa, risultato.estremi)) risultato.esito = EsitoFase::singolare;
-    return risultato;
+    return sensata(dati, corsa, fase.estremi) ? EsitoFase::convergente : EsitoFase::singolare;
+}
+
+}  // namespace
+
+FaseCalcolata risolviFase(int k, project::DatiProgetto& dati, ArraysCorsa& corsa,
+                          OsservatoreCorsa& osservatore) {
+    preparaFase(k, dati, corsa);
+    FaseCalcolata fase;
+    fase.fase = k;
+    fase.rifiuto = calcolaSuolo(dati, k, corsa.nNodi, corsa.passoNodi, corsa.suolo);
+    if (fase.rifiuto) {
+        fase.esito = EsitoFase::rifiutata;
+        return fase;
+    }
+    fase.esito = itera(dati, corsa, osservatore, fase);
+    if (fase.esito == EsitoFase::convergente) fase.risultati = risultatiFase(corsa);
+    return fase;
 }
 
 }  // namespace korven::analysis

@@ -1,10 +1,11 @@
 #pragma once
 
-#include <memory>
-#include <string>
+#include <optional>
 
 #include "analysis/plastic_iteration.hpp"
 #include "analysis/run_arrays.hpp"
+#include "analysis/run_observer.hpp"
+#include "analysis/stage_results.hpp"
 
 namespace korven::analysis {
 
@@ -14,22 +15,23 @@ inline constexpr double massimoSpostamentoRelativo = 1000;
 
 enum class EsitoFase { convergente, singolare, fermata, rifiutata };
 
-struct RisultatoFase {
+/// What became of one stage.
+struct FaseCalcolata {
+    int fase = 0;
     EsitoFase esito = EsitoFase::convergente;
-    EstremiIterazione estremi;            ///< of the last iteration
+    int iterazioni = 0;                   ///< solves that were finished
+    EstremiIterazione estremi;            ///< of the last of them
     std::optional<RifiutoSuolo> rifiuto;  ///< why the stage was refused
+    RisultatiFase risultati;              ///< its table; all 0 unless it came to rest
 };
-
-/// The arrays of a run before its first stage: mesh and restraints set, all else 0.
-[[nodiscard]] std::unique_ptr<ArraysCorsa> preparaCorsa(const project::DatiProgetto& dati,
-                                                        int nSeg);
 
 /// Solves stage k as a whole equilibrium: sets its excavation, its water level in
 /// `dati.faldaValle`, and its anchors, computes the soil afresh and iterates until no displacement
-/// changes or `stopCalcolo` is set. There is no limit to the number of iterations.
-///  An anchor new in this stage is put on the wall as it is at the end of the stage before, and
+/// changes or the observer asks for a stop. There is no limit to the number of iterations.
+///
+/// An anchor new in this stage is put on the wall as it is at the end of the stage before, and
 /// acts at once.
-[[nodiscard]] RisultatoFase risolviFase(int k, project::DatiProgetto& dati, ArraysCorsa& corsa,
-                                        Avanzamento& avanzamento);
+[[nodiscard]] FaseCalcolata risolviFase(int k, project::DatiProgetto& dati, ArraysCorsa& corsa,
+                                        OsservatoreCorsa& osservatore);
 
 }  // namespace korven::analysis

@@ -4,8 +4,7 @@
 #include <cmath>
 
 #include "analysis/input_checks.hpp"
-#include "analysis/run_flags.hpp"
-#include "analysis/stage_sequence.hpp"
+#include "analysis/staged_run.hpp"
 #include "structure/stiffness_update.hpp"
 
 namespace korven::analysis {
@@ -22,18 +21,16 @@ bool mostrabili(const EstremiIterazione& estremi) {
 
 }  // namespace
 
-EsitoProva provaFasi(project::DatiProgetto dati, int nSeg, Avanzamento& avanzamento) {
+EsitoProva provaFasi(project::DatiProgetto dati, int nSeg, OsservatoreCorsa& osservatore) {
     assert(motivoRifiuto(dati).empty());
     if (dati.rigidezzaEJ == 0)
         dati.rigidezzaEJ = structure::rigidezzaOfferta(dati.sezione).value_or(0);
-    const auto corsa = preparaCorsa(dati, nSeg);
     EsitoProva prova;
-    stopCalcolo = false;
-    for (int k = 1; k <= dati.nFasi; ++k) {
-        const RisultatoFase risultato = risolviFase(k, dati, *corsa, avanzamento);
-        if (risultato.esito == EsitoFase::singolare) prova.faseSingolare = k;
-        if (risultato.esito != EsitoFase::convergente) return prova;
-        prova.mostrabile = prova.mostrabile && mostrabili(risultato.estremi);
+    const EsitoCorsa corsa = calcolaFasi(dati, nSeg, osservatore);
+    for (const FaseCalcolata& fase : corsa.fasi) {
+        if (fase.esito == EsitoFase::singolare) prova.faseSingolare = fase.fase;
+        if (fase.esito == EsitoFase::convergente && !mostrabili(fase.estremi))
+            prova.mostrabile = false;
     }
     return prova;
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "analysis/progress.hpp"
+#include "analysis/run_observer.hpp"
 #include "project/project_data.hpp"
 
 namespace korven::analysis {
@@ -12,10 +12,11 @@ struct EsitoProva {
 };
 
 /// Computes the stages of a project in memory as a run does, and writes nothing. Ends at the first
-/// stage that fails, or where `avanzamento` sets `stopCalcolo`, which it clears at its start.
+/// stage that fails, or where the observer stops it.
 /// @param dati  a copy, which the stages change; a stiffness of 0 is taken from the section
 /// @param nSeg  segments of the wall
 /// @pre no input check fails, which is asserted, and no check of the soil
-[[nodiscard]] EsitoProva provaFasi(project::DatiProgetto dati, int nSeg, Avanzamento& avanzamento);
+[[nodiscard]] EsitoProva provaFasi(project::DatiProgetto dati, int nSeg,
+                                   OsservatoreCorsa& osservatore);
 
 }  // namespace korven::analysis

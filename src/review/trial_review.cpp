@@ -1,8 +1,8 @@
 #include <csignal>
 
 #include "analysis/calcolo_paratia.hpp"
+#include "analysis/run_arrays.hpp"
 #include "analysis/segment_count.hpp"
-#include "analysis/stage_sequence.hpp"
 #include "analysis/trial_run.hpp"
 #include "analysis/watch/run_control.hpp"
 #include "base/translated_texts.hpp"

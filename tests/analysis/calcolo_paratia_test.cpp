@@ -137,6 +137,18 @@ TEST(CalcoloParatia, RunsOnceMoreWhenTheLastStageMovedTheDownhillWaterTable) {
     EXPECT_EQ(banco.avanzamento.aperture, 2);
 }
 
+// A project that is saved while its run goes on holds the level of the stage.
+TEST(CalcoloParatia, HasTheWaterTableOfTheStageInTheProjectWhileItIsComputed) {
+    Banco banco(progettoSemplice());
+    int fasi = 0;
+    banco.avanzamento.adOgniIterazione = [&fasi](const StatoIterazione& stato) {
+        EXPECT_EQ(Progetto.faldaValle, stato.fase == 1 ? 3 : 5);
+        fasi = stato.fase;
+    };
+    banco.calcola();
+    EXPECT_EQ(fasi, 2);
+}
+
 TEST(CalcoloParatia, RunsAnewAfterTheChangeOfASingleNumberButNotOfAHeading) {
     Banco banco(progettoSemplice());
     banco.calcola();

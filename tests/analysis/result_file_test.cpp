@@ -74,34 +74,31 @@ TEST(FileRisultati, BeginsWithTheProjectAsTheRunFoundIt) {
 }
 
 TEST(TestoFase, PadsEachColumnNameToFourteenWithoutBlanksBehindTheLast) {
-    const auto corsa = test::corsaNuova(progettoSemplice(), 4);
-    EXPECT_EQ(righe(testoFase(*corsa))[0],
+    EXPECT_EQ(righe(testoFase({}, 5))[0],
               "sigmaVv       Ehv           k0v           kav           kpv           "
               "sigmaVm       Ehm           k0m           kam           kpm           "
               "Spostamenti   Momenti");
 }
 
 TEST(TestoFase, WritesThirteenNumbersANodeInTheOrderOfTheColumns) {
-    const auto corsa = test::corsaNuova(progettoSemplice(), 4);
-    auto& s = corsa->suolo;
+    RisultatiFase r;
     double valore = 0;
-    for (auto* colonna : {&s.sigmaVv, &s.Ehv, &s.k0v, &s.kav, &s.kpv, &s.sigmaVm, &s.Ehm, &s.k0m,
-                          &s.kam, &s.kpm, &corsa->yNodo, &corsa->momentoNodo, &corsa->taglioNodo})
+    for (auto* colonna : {&r.sigmaVv, &r.Ehv, &r.k0v, &r.kav, &r.kpv, &r.sigmaVm, &r.Ehm, &r.k0m,
+                          &r.kam, &r.kpm, &r.yNodo, &r.momentoNodo, &r.taglioNodo})
         (*colonna)[3] = ++valore;
-    corsa->yNodo[6] = 99;  // beyond the toe
-    const auto testo = righe(testoFase(*corsa));
+    const auto testo = righe(testoFase(r, 5));
     ASSERT_EQ(testo.size(), 6u);
     EXPECT_EQ(testo[1], "0,0,0,0,0,0,0,0,0,0,0,0,0");
     EXPECT_EQ(testo[3], "1,2,3,4,5,6,7,8,9,10,11,12,13");
 }
 
 TEST(TestoFase, RoundsToSevenDecimals) {
-    const auto corsa = test::corsaNuova(progettoSemplice(), 4);
-    corsa->yNodo[1] = 0.00000005;
-    corsa->momentoNodo[1] = -12.345678949;
-    corsa->taglioNodo[1] = -0.00000004;
-    EXPECT_TRUE(righe(testoFase(*corsa))[1].ends_with(",0.0000001,-12.3456789,0"))
-        << righe(testoFase(*corsa))[1];
+    RisultatiFase r;
+    r.yNodo[1] = 0.00000005;
+    r.momentoNodo[1] = -12.345678949;
+    r.taglioNodo[1] = -0.00000004;
+    EXPECT_TRUE(righe(testoFase(r, 5))[1].ends_with(",0.0000001,-12.3456789,0"))
+        << righe(testoFase(r, 5))[1];
 }
 
 TEST(TestoChiusura, WritesTheResistanceOfPositiveCurvatureFirst) {

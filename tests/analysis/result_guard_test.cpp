@@ -126,6 +126,16 @@ TEST_F(Guardia, LetsTheUserGiveUpTheWaitingLikeARun) {
     EXPECT_EQ(banco.uscita.relazioni, 0);
 }
 
+TEST_F(Guardia, LetsTheDisplayEndTheWaitingToo) {
+    occupaAltri();
+    banco.avanzamento.allaPausa = [this](int volta) { banco.avanzamento.ferma = volta == 2; };
+    calcola();
+    EXPECT_TRUE(erroreCalcolo);
+    EXPECT_FALSE(stopCalcolo);
+    EXPECT_EQ(banco.avanzamento.attese.size(), 2u);
+    EXPECT_FALSE(banco.haRisultati());
+}
+
 class RisultatiDiUnCalcoloUcciso : public Guardia {
  protected:
     void SetUp() override {

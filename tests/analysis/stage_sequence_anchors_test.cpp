@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "analysis/run_flags.hpp"
 #include "analysis/stage_sequence.hpp"
 #include "support/progress_double.hpp"
 #include "support/run_arrays_setup.hpp"
@@ -23,15 +22,13 @@ constexpr int nodo = 5;  // at 2 m: nodes every 0.5 m
 class TirantiNelleFasi : public ::testing::Test {
  protected:
     TirantiNelleFasi() {
-        stopCalcolo = false;
-        avanzamento.adOgniIterazione = [](const StatoIterazione& stato) {
-            if (stato.iterazione >= 1000) stopCalcolo = true;  // a failure, not a test without end
+        avanzamento.adOgniIterazione = [this](const StatoIterazione& stato) {
+            avanzamento.ferma = stato.iterazione >= 1000;  // a failure, not a test without end
         };
         dati.faldaMonte = 1;
         dati.faldaFase[1] = 4;  // pushes towards the excavation
         aggiungiTirante(dati, 2, 800, 10, 0);
     }
-    ~TirantiNelleFasi() override { stopCalcolo = false; }
     void calcola() {
         corsa = corsaNuova(dati, 20);
         dopo.clear();

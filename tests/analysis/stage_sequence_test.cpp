@@ -4,7 +4,6 @@
 
 #include <cmath>
 
-#include "analysis/run_flags.hpp"
 #include "support/progress_double.hpp"
 #include "support/run_arrays_setup.hpp"
 #include "support/sample_projects.hpp"
@@ -23,15 +22,13 @@ using test::ripetiFase;
 struct Sequenza {
     explicit Sequenza(const project::DatiProgetto& progetto, int nSeg = 20)
         : dati(progetto), corsa(corsaNuova(progetto, nSeg)) {
-        stopCalcolo = false;
         avanzamento.adOgniIterazione = [this](const StatoIterazione& stato) {
             ultima = stato.iterazione;
-            if (stato.iterazione >= 1000) stopCalcolo = true;
+            if (stato.iterazione >= 1000) avanzamento.ferma = true;
         };
     }
     Sequenza(const Sequenza&) = delete;
     Sequenza& operator=(const Sequenza&) = delete;
-    ~Sequenza() { stopCalcolo = false; }
 
     EsitoFase fase(int k) {
         ultima = 0;
@@ -139,8 +136,8 @@ TEST(RisolviFase, TellsEachIterationOfAStageFromOne) {
 TEST(RisolviFase, EndsAfterTheIterationInWhichItIsStopped) {
     auto dati = test::progettoSemplice();
     Sequenza s(dati);
-    s.avanzamento.adOgniIterazione = [](const StatoIterazione& stato) {
-        stopCalcolo = stato.iterazione == 2;
+    s.avanzamento.adOgniIterazione = [&s](const StatoIterazione& stato) {
+        s.avanzamento.ferma = stato.iterazione == 2;
     };
     EXPECT_EQ(s.fase(1), EsitoFase::fermata);
     EXPECT_EQ(s.avanzamento.iterazioni, 2);
@@ -148,9 +145,9 @@ TEST(RisolviFase, EndsAfterTheIterationInWhichItIsStopped) {
 
 TEST(RisolviFase, EndsTheRunAlsoWhenTheStopComesWithConvergence) {
     Sequenza s(muroElastico(1000));
-    s.avanzamento.adOgniIterazione = [](const StatoIterazione& stato) {
+    s.avanzamento.adOgniIterazione = [&s](const StatoIterazione& stato) {
         EXPECT_TRUE(stato.convergente);
-        stopCalcolo = true;
+        s.avanzamento.ferma = true;
     };
     EXPECT_EQ(s.fase(1), EsitoFase::fermata);
 }
@@ -174,7 +171,7 @@ TEST(RisolviFase, GoesOnWithoutLimitWhileTheNodesFlipUntilItIsStopped) {
         const double y = (*stato.yNodo)[7];
         EXPECT_LT(y * prima, 0) << stato.iterazione;
         prima = y;
-        if (stato.iterazione == 3000) stopCalcolo = true;
+        if (stato.iterazione == 3000) s.avanzamento.ferma = true;
     };
     EXPECT_EQ(s.fase(1), EsitoFase::fermata);
     EXPECT_EQ(s.avanzamento.iterazioni, 3000);

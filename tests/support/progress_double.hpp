@@ -17,6 +17,7 @@ class AvanzamentoFinto : public analysis::Avanzamento {
         ++iterazioni;
         if (adOgniIterazione) adOgniIterazione(stato);
     }
+    [[nodiscard]] bool fermata() override { return ferma; }
     void chiudi() override { ++chiusure; }
     /// No time passes.
     void attendi(std::string_view detto) override {
@@ -25,6 +26,7 @@ class AvanzamentoFinto : public analysis::Avanzamento {
     }
     void fineAttesa() override { ++fineAttese; }
 
+    bool ferma = false;  ///< what is answered when the run asks for a stop
     int aperture = 0, chiusure = 0, iterazioni = 0, fineAttese = 0;
     std::vector<std::string> attese;
     std::function<void(int volta)> allaPausa;

@@ -11,10 +11,7 @@ namespace korven::test {
 inline std::unique_ptr<analysis::ArraysCorsa> corsaNuova(const project::DatiProgetto& dati,
                                                          int nSeg) {
     auto corsa = std::make_unique<analysis::ArraysCorsa>();
-    corsa->nSeg = nSeg;
-    corsa->nNodi = nSeg + 1;
-    corsa->passoNodi = dati.lunghezzaParatia / nSeg;
-    corsa->vincolo = analysis::vincoli(dati);
+    analysis::preparaCorsa(dati, nSeg, *corsa);
     for (int i = 1; i <= corsa->nNodi; ++i) corsa->EJNodo[i] = dati.rigidezzaEJ;
     return corsa;
 }

@@ -16,6 +16,7 @@ class CorsaSeguita : public analysis::Avanzamento {
 
     void apri() override;
     void iterazione(const analysis::StatoIterazione& stato) override;
+    [[nodiscard]] bool fermata() override { return vista_.fermata(); }
     void chiudi() override { vista_.chiudi(); }
     void attendi(std::string_view detto) override { vista_.attendi(detto); }
     void fineAttesa() override { vista_.fineAttesa(); }

@@ -1,7 +1,5 @@
 #include "analysis/watch/run_control.hpp"
 
-#include "analysis/run_flags.hpp"
-
 namespace korven::analysis {
 
 void ControlloCorsa::apri() {
@@ -20,20 +18,16 @@ void ControlloCorsa::iterazione(const analysis::StatoIterazione& stato) {
         if (stato.iterazione > iterazioniTracciate) fase.traccia = traccia_.righe();
         fasi_.push_back(std::move(fase));
     } else if (maxIterazioni_ > 0 && stato.iterazione >= maxIterazioni_) {
-        ferma();
+        oltreLimite_ = true;
+        motivo_ = traccia_.arresto("Calcolo interrotto: nessuna convergenza");
     }
-    if (interruzione_ != 0) analysis::stopCalcolo = true;
 }
+
+bool ControlloCorsa::fermata() { return oltreLimite_ || interruzione_ != 0 || vista_.fermata(); }
 
 void ControlloCorsa::attendi(std::string_view detto) {
+    oltreLimite_ = false;  // of a run before
     vista_.attendi(detto);
-    if (interruzione_ != 0) analysis::stopCalcolo = true;
-}
-
-void ControlloCorsa::ferma() {
-    analysis::stopCalcolo = true;
-    oltreLimite_ = true;
-    motivo_ = traccia_.arresto("Calcolo interrotto: nessuna convergenza");
 }
 
 }  // namespace korven::analysis

@@ -33,6 +33,7 @@ class ControlloCorsa : public analysis::Avanzamento {
 
     void apri() override;
     void iterazione(const analysis::StatoIterazione& stato) override;
+    [[nodiscard]] bool fermata() override;
     void chiudi() override { vista_.chiudi(); }
     void attendi(std::string_view detto) override;
     void fineAttesa() override { vista_.fineAttesa(); }
@@ -47,8 +48,6 @@ class ControlloCorsa : public analysis::Avanzamento {
     [[nodiscard]] const std::vector<std::string>& motivo() const { return motivo_; }
 
  private:
-    void ferma();
-
     analysis::Avanzamento& vista_;
     int maxIterazioni_;
     const volatile std::sig_atomic_t& interruzione_;

@@ -14,9 +14,6 @@ constexpr StatiNodo passivo{StatoLato::elastico, StatoLato::passivo};
 
 class Controllo : public ::testing::Test {
  protected:
-    void SetUp() override { stopCalcolo = false; }
-    void TearDown() override { stopCalcolo = false; }
-
     // One iteration of a wall of one node that flips at every second one.
     static void passo(ControlloCorsa& controllo, int fase, int iterazione, bool convergente) {
         const std::vector<StatiNodo> stati = {iterazione % 2 == 0 ? passivo : elastico};
@@ -50,16 +47,16 @@ TEST_F(Controllo, HandsTheProgressOnAndKeepsTheIterationsOfEachStage) {
     EXPECT_EQ(controllo.fasi()[0].iterazioni, 2);
     EXPECT_EQ(controllo.fasi()[1].iterazioni, 1);
     EXPECT_TRUE(controllo.fasi()[0].traccia.empty());
-    EXPECT_FALSE(stopCalcolo);
+    EXPECT_FALSE(controllo.fermata());
 }
 
 TEST_F(Controllo, HandsTheWaitingOnAndEndsItOnAnInterrupt) {
     ControlloCorsa controllo(vista, 100, interruzione);
     controllo.attendi("un altro calcolo");
-    EXPECT_FALSE(stopCalcolo);
+    EXPECT_FALSE(controllo.fermata());
     interruzione = 1;
     controllo.attendi("un altro calcolo");
-    EXPECT_TRUE(stopCalcolo);
+    EXPECT_TRUE(controllo.fermata());
     controllo.fineAttesa();
     EXPECT_EQ(vista.attese, std::vector<std::string>(2, "un altro calcolo"));
     EXPECT_EQ(vista.fineAttese, 1);
@@ -79,10 +76,10 @@ TEST_F(Controllo, StopsAStageAtTheLimitAndTellsWhatStillFlips) {
     ControlloCorsa controllo(vista, 30, interruzione);
     controllo.apri();
     for (int i = 1; i <= 29; ++i) passo(controllo, 2, i, false);
-    EXPECT_FALSE(stopCalcolo);
+    EXPECT_FALSE(controllo.fermata());
     EXPECT_FALSE(controllo.oltreLimite());
     passo(controllo, 2, 30, false);
-    EXPECT_TRUE(stopCalcolo);
+    EXPECT_TRUE(controllo.fermata());
     EXPECT_TRUE(controllo.oltreLimite());
     EXPECT_EQ(controllo.motivo(),
               (std::vector<std::string>{
@@ -97,7 +94,7 @@ TEST_F(Controllo, LetsAStageThatConvergesAtTheLimitPass) {
     ControlloCorsa controllo(vista, 3, interruzione);
     controllo.apri();
     for (int i = 1; i <= 3; ++i) passo(controllo, 1, i, i == 3);
-    EXPECT_FALSE(stopCalcolo);
+    EXPECT_FALSE(controllo.fermata());
     EXPECT_EQ(controllo.fasi().size(), 1u);
 }
 
@@ -105,17 +102,17 @@ TEST_F(Controllo, KnowsNoLimitWhenItIsZero) {
     ControlloCorsa controllo(vista, 0, interruzione);
     controllo.apri();
     for (int i = 1; i <= 20000; ++i) passo(controllo, 1, i, false);
-    EXPECT_FALSE(stopCalcolo);
+    EXPECT_FALSE(controllo.fermata());
 }
 
 TEST_F(Controllo, StopsOnAnInterruptWithoutAReasonOfItsOwn) {
     ControlloCorsa controllo(vista, 0, interruzione);
     controllo.apri();
     passo(controllo, 1, 1, false);
-    EXPECT_FALSE(stopCalcolo);
+    EXPECT_FALSE(controllo.fermata());
     interruzione = 1;
     passo(controllo, 1, 2, false);
-    EXPECT_TRUE(stopCalcolo);
+    EXPECT_TRUE(controllo.fermata());
     EXPECT_FALSE(controllo.oltreLimite());
     EXPECT_TRUE(controllo.motivo().empty());
 }

@@ -1,0 +1,23 @@
+#include "analysis/run_arrays.hpp"
+
+#include <cassert>
+
+namespace korven::analysis {
+
+Vincoli vincoli(const project::DatiProgetto& dati) {
+    return {dati.vincoloTesta == 2, dati.vincoloPiede == 2 || dati.vincoloPiede == 3,
+            dati.vincoloPiede == 3};
+}
+
+void preparaCorsa(const project::DatiProgetto& dati, int nSeg, ArraysCorsa& corsa) {
+    static_cast<VettoriCorsa&>(corsa) = {};
+    corsa.nSeg = nSeg;
+    corsa.nNodi = nSeg + 1;
+    corsa.passoNodi = dati.lunghezzaParatia / nSeg;
+    corsa.vincolo = vincoli(dati);
+    assert(nSeg >= minimoSegmenti);
+    assert(nSeg <= (corsa.vincolo.incastroPiede ? massimoSegmentiIncastro : massimoSegmenti));
+    corsa.matriceA.azzera(2 * (corsa.vincolo.incastroPiede ? corsa.nNodi + 1 : corsa.nNodi));
+}
+
+}  // namespace korven::analysis
