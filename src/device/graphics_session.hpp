@@ -1,6 +1,8 @@
 #pragma once
 
+#include <array>
 #include <memory>
+#include <string>
 
 class QGuiApplication;
 
@@ -16,6 +18,13 @@ class SessioneGrafica {
     ~SessioneGrafica();
 
  private:
+    // The platform is named here and not in the environment, which child processes would inherit.
+    // Qt takes what it understands out of these and refers to them for as long as the application
+    // lives.
+    std::string programma_ = "korven32", opzione_ = "-platform", piattaforma_ = "offscreen";
+    std::array<char*, 4> argomenti_{programma_.data(), opzione_.data(), piattaforma_.data(),
+                                    nullptr};
+    int numeroArgomenti_ = 3;
     std::unique_ptr<QGuiApplication> applicazione_;
 };
 
