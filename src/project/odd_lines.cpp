@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "base/number_text.hpp"
+#include "project/codes.hpp"
 #include "project/project_walk.hpp"
 
 namespace korven::project {
@@ -28,7 +29,7 @@ class Ricerca {
     void bandiera(bool, std::string_view nome) { esamina(nome); }
     void metodoSpinte(double, std::string_view nome) {
         const RigaInsolita riga = esamina(nome);
-        if (riga.letto > 1) aggiungi(Motivo::metodoSpinte, riga);
+        if (riga.letto > MetodoSpinte::coulomb) aggiungi(Motivo::metodoSpinte, riga);
     }
     void descrizione(const std::string&, std::string_view nome) { file_.riga(nome); }
     void titolo(const std::string&, std::string_view nome) { file_.riga(nome); }

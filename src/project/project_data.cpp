@@ -1,5 +1,9 @@
 #include "project/project_data.hpp"
 
+#include <type_traits>
+
+#include "project/field_table.hpp"
+
 namespace korven::project {
 
 DatiProgetto Progetto;
@@ -11,26 +15,24 @@ int faseGrafico = 0;
 // reach once nStrati is 0, and a file or an editor fills a row before it counts it.
 static constexpr int stratiAzzerati = 50;
 
-// The rows of the stage table that are ever used; two of its columns are longer.
+// The rows of the stage table that are ever used, all that the anchors and more than the headings
+// have; two of its columns are longer.
 static constexpr int fasiAzzerate = 20;
-
-template <class T, std::size_t n>
-static void tieniOltre(int ultima, const base::Tabella<T, n>& da, base::Tabella<T, n>& a) {
-    for (long i = ultima + 1; i <= static_cast<long>(n); ++i) a[i] = da[i];
-}
 
 void azzera(DatiProgetto& dati) {
     DatiProgetto nuovo;
-    tieniOltre(stratiAzzerati, dati.profStrato, nuovo.profStrato);
-    tieniOltre(stratiAzzerati, dati.gammaN, nuovo.gammaN);
-    tieniOltre(stratiAzzerati, dati.gammaSat, nuovo.gammaSat);
-    tieniOltre(stratiAzzerati, dati.phiStrato, nuovo.phiStrato);
-    tieniOltre(stratiAzzerati, dati.coesione, nuovo.coesione);
-    tieniOltre(stratiAzzerati, dati.suStrato, nuovo.suStrato);
-    tieniOltre(stratiAzzerati, dati.ksStrato, nuovo.ksStrato);
-    tieniOltre(stratiAzzerati, dati.descrStrato, nuovo.descrStrato);
-    tieniOltre(fasiAzzerate, dati.sovraccFase, nuovo.sovraccFase);
-    tieniOltre(fasiAzzerate, dati.faldaFase, nuovo.faldaFase);
+    const auto tieniOltre = [&](auto colonna, int ultima) {
+        constexpr int capacita = std::remove_reference_t<decltype(nuovo.*colonna)>::capacita;
+        for (int i = ultima + 1; i <= capacita; ++i) (nuovo.*colonna)[i] = (dati.*colonna)[i];
+    };
+    for (const Campo& campo : campi())
+        std::visit(
+            [&]<class Record, class T>(T Record::*membro) {
+                if constexpr (eTabella<T>)
+                    tieniOltre(membro,
+                               campo.parte == Parte::strati ? stratiAzzerati : fasiAzzerate);
+            },
+            campo.membro);
     nuovo.gammaAcqua = 1;
     nuovo.sezione.tipoDiaframma = true;
     dati = nuovo;

@@ -10,6 +10,7 @@ namespace korven::project {
 inline constexpr int massimoStrati = 100;
 inline constexpr int massimoTiranti = 20;
 inline constexpr int massimoFasi = 20;
+inline constexpr int numeroTitoli = 6;
 
 /// The whole data set of one retaining-wall project. Forces in tonnes-force, lengths of the
 /// geometry in metres, lengths of the section in centimetres; the user sees kN and mm, ten times
@@ -30,8 +31,8 @@ struct DatiProgetto {
     base::Tabella<double, massimoStrati> ksStrato;          ///< subgrade modulus [t/m3]
     base::Tabella<std::string, massimoStrati> descrStrato;  ///< graphic code, then description
 
-    // Wall and ground. The codes are numbers as the file holds them; a value that is no code of the
-    // field acts as each use of it says.
+    // Wall and ground. The codes (codes.hpp) are numbers as the file holds them; a value that is no
+    // code of the field acts as each use of it says.
     double vincoloTesta = 0;       ///< top: 1 free, 2 hinge
     double vincoloPiede = 0;       ///< toe: 1 free, 2 hinge, 3 fixed
     double modoSpinte = 0;         ///< 1 pressures recomputed each stage, 2 as uphill
@@ -72,7 +73,7 @@ struct DatiProgetto {
     base::Tabella<double, 50> sovraccFase;  ///< surcharge of the stage [t/m2]
     base::Tabella<double, 100> faldaFase;   ///< downhill water table depth [m]
 
-    base::Tabella<std::string, 6> titoli;  ///< heading lines of the report
+    base::Tabella<std::string, numeroTitoli> titoli;  ///< heading lines of the report
 
     Sezione sezione;
 

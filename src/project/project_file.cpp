@@ -7,6 +7,7 @@
 #include "base/files.hpp"
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
+#include "project/codes.hpp"
 #include "project/project_walk.hpp"
 
 namespace korven::project {
@@ -31,7 +32,8 @@ class Lettura {
     // kept. The code 0 of a project in which nobody chose yet stays.
     void metodoSpinte(double& valore, std::string_view nome) {
         metodoScritto = file_.numero(nome);
-        valore = metodoScritto > 1 ? 1 : metodoScritto;
+        constexpr auto coulomb = MetodoSpinte::coulomb;
+        valore = metodoScritto > coulomb ? project::valore(coulomb) : metodoScritto;
     }
     void descrizione(std::string& valore, std::string_view nome) { valore = file_.riga(nome); }
     void titolo(std::string& valore, std::string_view nome) { valore = file_.riga(nome); }

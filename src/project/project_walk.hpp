@@ -1,13 +1,21 @@
 #pragma once
 
+#include <algorithm>
+#include <iterator>
 #include <string>
+#include <type_traits>
 
 #include "base/translated_texts.hpp"
-#include "project/project_fields.hpp"
+#include "project/field_table.hpp"
 
 namespace korven::project {
 
-/// Goes through a project in the order of the file's lines. The visitor reads, writes or compares:
+/// The fields with which one of the later blocks of the file begins; older files end before them.
+inline constexpr Membro inizioBlocchi[] = {&Sezione::tipoPalancola, &Sezione::tipoPaliArmati,
+                                           &DatiProgetto::sforzoNormale};
+
+/// Goes through a project in the order of the file's lines, that of the table of fields; columns of
+/// a table row by row. The visitor reads, writes or compares:
 ///
 ///     visita.conteggio(int&, capacity, name)   a row count
 ///     visita.numero(double&, name)             visita.bandiera(bool&, name)
@@ -24,85 +32,52 @@ class Percorso {
     Percorso(Visita& visita, Dati& dati) : visita_(visita), dati_(dati) {}
 
     void tutto() {
-        strati();
-        paratia();
-        tiranti();
-        fasi();
-        for (int i = 1; i <= 6; ++i) visita_.titolo(dati_.titoli[i], numerato("titolo", i));
-        sezioneBase();
-        if (!visita_.blocco()) return;
-        sezionePalancola();
-        if (!visita_.blocco()) return;
-        sezionePaliArmati();
-        if (!visita_.blocco()) return;
-        visita_.numero(dati_.sforzoNormale, base::traduttore("sforzo normale"));
+        const auto tutti = campi();
+        for (auto da = tutti.begin(); da != tutti.end();) {
+            if (apreBlocco(*da) && !visita_.blocco()) return;
+            const auto a = finePasso(da, tutti.end());
+            if (colonna(*da))
+                for (int i = 1; i <= righe(dati_, da->parte); ++i)
+                    std::for_each(da, a, [&](const Campo& c) { visitaRiga(c, i); });
+            else
+                visitaValore(*da, 1, base::traduttore(da->cosa));
+            da = a;
+        }
     }
 
  private:
-    static std::string numerato(std::string_view nome, int riga) {
-        return base::traduttore(nome) + ' ' + std::to_string(riga);
+    static bool apreBlocco(const Campo& campo) {
+        return std::find(std::begin(inizioBlocchi), std::end(inizioBlocchi), campo.membro) !=
+               std::end(inizioBlocchi);
     }
 
-    template <class Tabella, std::size_t n>
-    void riga(const CampoTabella<Tabella> (&campi)[n], int i) {
-        for (const auto& campo : campi)
-            visita_.numero((dati_.*campo.colonna)[i], numerato(campo.nome, i));
+    // The columns of a table are visited together, anything else alone.
+    template <class Posto>
+    static Posto finePasso(Posto da, Posto fine) {
+        if (!colonna(*da)) return std::next(da);
+        return std::find_if(da, fine,
+                            [&](const Campo& c) { return !colonna(c) || c.parte != da->parte; });
     }
 
-    template <std::size_t n>
-    void sezione(const CampoScalare<Sezione> (&campi)[n]) {
-        for (const auto& campo : campi)
-            visita_.numero(dati_.sezione.*campo.campo, base::traduttore(campo.nome));
+    void visitaRiga(const Campo& campo, int i) {
+        visitaValore(campo, i, base::traduttore(campo.cosa) + ' ' + std::to_string(i));
     }
 
-    void strati() {
-        visita_.conteggio(dati_.nStrati, massimoStrati, base::traduttore("numero degli strati"));
-        for (int i = 1; i <= dati_.nStrati; ++i) {
-            riga(campiStrato, i);
-            visita_.descrizione(dati_.descrStrato[i], numerato("descrizione dello strato", i));
-        }
-    }
-
-    void paratia() {
-        for (const auto& campo : campiParatia) {
-            if (campo.campo == &DatiProgetto::metodoSpinte)
-                visita_.metodoSpinte(dati_.metodoSpinte, base::traduttore(campo.nome));
+    void visitaValore(const Campo& campo, int i, const std::string& nome) {
+        conValore(dati_, campo, i, [&](auto& valore) {
+            using Valore = std::remove_cvref_t<decltype(valore)>;
+            if constexpr (std::is_same_v<Valore, int>)
+                visita_.conteggio(valore, static_cast<int>(campo.limiti->massimo), nome);
+            else if constexpr (std::is_same_v<Valore, bool>)
+                visita_.bandiera(valore, nome);
+            else if constexpr (std::is_same_v<Valore, std::string>)
+                campo.parte == Parte::titoli ? visita_.titolo(valore, nome)
+                                             : visita_.descrizione(valore, nome);
+            else if (campo.membro == Membro(&DatiProgetto::metodoSpinte))
+                visita_.metodoSpinte(valore, nome);
             else
-                visita_.numero(dati_.*campo.campo, base::traduttore(campo.nome));
-        }
-    }
-
-    void tiranti() {
-        visita_.conteggio(dati_.nTiranti, massimoTiranti, base::traduttore("numero dei tiranti"));
-        for (int i = 1; i <= dati_.nTiranti; ++i) riga(campiTirante, i);
-    }
-
-    void fasi() {
-        visita_.conteggio(dati_.nFasi, massimoFasi, base::traduttore("numero delle fasi"));
-        for (int i = 1; i <= dati_.nFasi; ++i) {
-            visita_.numero(dati_.profFase[i], numerato("profondità della fase", i));
-            visita_.numero(dati_.tirantiFase[i], numerato("numero dei tiranti della fase", i));
-            visita_.numero(dati_.sovraccFase[i], numerato("sovraccarico della fase", i));
-            visita_.numero(dati_.faldaFase[i], numerato("falda della fase", i));
-        }
-    }
-
-    void sezioneBase() {
-        sezione(campiDiaframma);
-        visita_.bandiera(dati_.sezione.tipoDiaframma, base::traduttore("tipo diaframma (0 o -1)"));
-        visita_.bandiera(dati_.sezione.tipoPali, base::traduttore("tipo pali (0 o -1)"));
-        sezione(campiPali);
-    }
-
-    void sezionePalancola() {
-        visita_.bandiera(dati_.sezione.tipoPalancola, base::traduttore("tipo palancola (0 o -1)"));
-        sezione(campiPalancola);
-    }
-
-    void sezionePaliArmati() {
-        visita_.bandiera(dati_.sezione.tipoPaliArmati,
-                         base::traduttore("tipo pali armati (0 o -1)"));
-        sezione(campiPaliArmati);
+                visita_.numero(valore, nome);
+        });
     }
 
     Visita& visita_;

@@ -14,6 +14,7 @@
 #include "base/code_page.hpp"
 #include "base/files.hpp"
 #include "base/text_table.hpp"
+#include "project/field_table.hpp"
 #include "tools/string_literals.hpp"
 #include "tools/text_source.hpp"
 
@@ -26,6 +27,7 @@ using Texts = std::vector<std::string>;
 // Files whose literals are all none.
 const std::map<std::string, std::string> silentFiles = {
     {"batch/run/outcome_json.cpp", "names of fields, the same in all languages"},
+    {"project/units.hpp", "units, the same in all languages"},
     {"base/language.cpp", "tags, and errors from before a language is chosen"},
     {"base/language.hpp", "an error from before a language is chosen"},
     {"base/text_table.cpp", "errors of the table of texts itself"},
@@ -235,6 +237,7 @@ const std::map<std::string, Texts> noTexts = {
      {"EDITT.MAV", "EDITDIA.MAV", "EDITSTRA.MAV", "EDITTIR.MAV", "EDITFASI.MAV"}},
     {"drawings/hatch_library.cpp", {"set1.rtn", "set2.rtn", "set3", ".rtn", "set4.rtn"}},
     {"markup/reader.cpp", {"TRUE"}},
+    {"project/field_table.cpp", {"sezione."}},
     {"results/report_data.cpp", {"nseg.txt"}},
     {"report/report_footer.cpp", {"…", "–"}},
     {"report/report_footer.hpp", {"2,2,2,2,2,2,12,Arial"}},
@@ -285,9 +288,21 @@ bool listed(const Texts& texts, const std::string& text) {
     return std::find(texts.begin(), texts.end(), text) != texts.end();
 }
 
+// In the table of fields: captions that are looked up with their unit and items that are looked up
+// as a line of all, see below.
+bool isPartOfField(const std::string& file, const std::string& text) {
+    if (file != "project/field_table.cpp") return false;
+    for (const auto& field : project::campi()) {
+        if (text == field.didascalia) return true;
+        for (const auto& code : field.codici)
+            if (text == code.voce) return true;
+    }
+    return false;
+}
+
 bool isNoText(const std::string& file, const std::string& text) {
     const auto exempt = noTexts.find(file);
-    return silentFiles.contains(file) || namesControl(text) ||
+    return silentFiles.contains(file) || namesControl(text) || isPartOfField(file, text) ||
            (exempt != noTexts.end() && listed(exempt->second, text));
 }
 
@@ -312,6 +327,23 @@ TEST(TextKeys, StandInTheTableForEveryLiteralThatMayBeShown) {
                    "this test";
         }
     EXPECT_GT(looked, 200) << "the sources were not found";
+}
+
+TEST(TextKeys, StandInTheTableForEachCaptionOfAFieldAndItsUnit) {
+    const auto known = keys();
+    const auto has = [&](const auto& text) { return known.contains(base::chiaveTesto(text)); };
+    std::set<std::string_view> withoutUnit;
+    for (const auto& field : project::campi()) {
+        EXPECT_TRUE(has(std::string(field.cosa))) << field.cosa;
+        if (field.didascalia.empty() || has(project::etichetta(field))) continue;
+        withoutUnit.insert(field.nome);
+        EXPECT_TRUE(has(std::string(field.didascalia))) << field.didascalia;
+    }
+    // Neither report nor remarks say these captions, only forms, which look them up without unit.
+    EXPECT_EQ(withoutUnit,
+              (std::set<std::string_view>{"sforzoNormale", "gammaAcqua",
+                                          "sezione.spessoreDiaframma", "sezione.paliInterasse",
+                                          "sezione.palancolaBase", "sezione.armInterasse"}));
 }
 
 // A short literal has no word in it; where it goes straight into the translation it is a text.

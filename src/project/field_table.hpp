@@ -1,0 +1,123 @@
+#pragma once
+
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <type_traits>
+#include <variant>
+
+#include "project/project_data.hpp"
+#include "project/units.hpp"
+
+// The one table of the fields of a project: what each is called, in which unit it is stored and
+// shown, what may be typed into it, which codes it knows. The file, the editors, the remarks, the
+// report and the drawings go through it. Where one of them must say another word, or leave a field
+// out, that stands there.
+
+namespace korven::project {
+
+/// The member that a field is: one of the project, a column of its tables or one of its section.
+using Membro = std::variant<int DatiProgetto::*, double DatiProgetto::*,
+                            base::Tabella<double, massimoStrati> DatiProgetto::*,
+                            base::Tabella<double, massimoTiranti> DatiProgetto::*,
+                            base::Tabella<double, 50> DatiProgetto::*,
+                            base::Tabella<std::string, massimoStrati> DatiProgetto::*,
+                            base::Tabella<std::string, numeroTitoli> DatiProgetto::*,
+                            double Sezione::*, bool Sezione::*>;
+
+/// What a field belongs to. The fields of the first four but `paratia` are columns of a table, each
+/// table with its count before them.
+enum class Parte {
+    strati,
+    tiranti,
+    fasi,
+    titoli,
+    paratia,
+    diaframma,  ///< of the section, as all that follow: a part for each type,
+    pali,
+    palancola,
+    paliArmati,
+    materiali,  ///< and one for all of them
+};
+
+/// A code of a field.
+struct Codice {
+    double valore;          ///< as stored
+    std::string_view nome;  ///< of its enumerator (codes.hpp)
+    std::string_view voce;  ///< what its editor offers, Italian
+};
+
+/// The least and the greatest number, in the shown unit.
+struct Limiti {
+    double minimo;
+    double massimo;
+};
+
+struct Campo {
+    Membro membro;
+    std::string_view nome;  ///< of the member as written, "sezione." before one of the section
+    Parte parte;
+    std::string_view cosa;  ///< what it is, as an error or a remark says it; Italian key
+    /// The caption of editor and report without its unit, Italian; empty for what neither shows.
+    std::string_view didascalia;
+    Unita unita;
+    std::optional<Limiti> limiti = {};    ///< of what its editor takes; none: any number or text
+    std::span<const Codice> codici = {};  ///< none: the field is no code
+};
+
+/// All fields, in the order in which they stand in the project file.
+[[nodiscard]] std::span<const Campo> campi();
+
+/// The row of a member. @pre there is one, as for every member of the project
+[[nodiscard]] const Campo& campo(const Membro& membro);
+
+/// Caption and unit, as a table or a list is headed: "Gamma Sat. [kN/m³]"; Italian key.
+[[nodiscard]] std::string etichetta(const Campo& campo);
+
+/// Rows that the table of a part has; 1 for one that is no table.
+[[nodiscard]] int righe(const DatiProgetto& dati, Parte parte);
+
+/// True for a field with one value for each row of its part.
+[[nodiscard]] bool colonna(const Campo& campo);
+
+template <class T>
+inline constexpr bool eTabella = false;
+template <class T, std::size_t n>
+inline constexpr bool eTabella<base::Tabella<T, n>> = true;
+
+/// The value of a member of the project, in row `riga` if it is a column.
+template <class Dati, class T>
+[[nodiscard]] auto& cella(Dati& dati, T DatiProgetto::*membro, int riga) {
+    if constexpr (eTabella<T>)
+        return (dati.*membro)[riga];
+    else
+        return dati.*membro;
+}
+template <class Dati, class T>
+[[nodiscard]] auto& cella(Dati& dati, T Sezione::*membro, int) {
+    return dati.sezione.*membro;
+}
+
+/// Hands the value of a field to `visita`, which takes an int (a count), a double, a bool or a
+/// std::string, by reference.
+template <class Dati, class Visita>
+void conValore(Dati& dati, const Campo& campo, int riga, Visita visita) {
+    std::visit([&](auto membro) { visita(cella(dati, membro, riga)); }, campo.membro);
+}
+
+/// The stored number of a field, 0 for one that is none. @pre `riga` is one of its rows
+[[nodiscard]] double numero(const DatiProgetto& dati, const Campo& campo, int riga = 1);
+
+/// The number in the unit that people see.
+[[nodiscard]] inline double mostrato(const Campo& campo, double conservato) {
+    return conservato * campo.unita.fattore;
+}
+[[nodiscard]] double mostrato(const DatiProgetto& dati, const Campo& campo, int riga = 1);
+
+/// The stored number of one that was typed.
+[[nodiscard]] inline double conservato(const Campo& campo, double scritto) {
+    return scritto / campo.unita.fattore;
+}
+
+}  // namespace korven::project

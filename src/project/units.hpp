@@ -1,0 +1,49 @@
+#pragma once
+
+#include <string_view>
+
+// The unit that a number is stored in and the one that people read and type. The factor of a
+// conversion is written here and nowhere else.
+
+namespace korven::project {
+
+inline constexpr double kilonewton = 10;   ///< in a tonne-force, taken as exactly that
+inline constexpr double millimetri = 10;   ///< in a centimetre
+inline constexpr double centimetri = 100;  ///< in a metre
+
+/// t to kN, and with it t m to kN m, t/m2 to kN/m2, t/m3 to kN/m3.
+[[nodiscard]] constexpr double inKilonewton(double tonnellate) { return tonnellate * kilonewton; }
+/// cm to mm: lengths of the section.
+[[nodiscard]] constexpr double inMillimetri(double cm) { return cm * millimetri; }
+/// m to cm: displacements.
+[[nodiscard]] constexpr double inCentimetri(double m) { return m * centimetri; }
+
+struct Unita {
+    std::string_view conservata;  ///< of the file and the calculations
+    std::string_view mostrata;    ///< of editors, report and drawings; empty: none is shown
+    double fattore = 1;           ///< the shown number over the stored one
+};
+
+namespace unita {
+
+inline constexpr Unita nessuna{"", ""};
+inline constexpr Unita numero{"-", "-"};
+/// The bars of a pile are counted through the factor of the lengths beside which they are typed: a
+/// typed 8 is stored, and calculates, as 0.8.
+inline constexpr Unita numeroBarre{"-", "-", millimetri};
+inline constexpr Unita gradi{"°", "°"};
+inline constexpr Unita metri{"m", "m"};
+inline constexpr Unita misura{"cm", "mm", millimetri};  ///< a length of the section
+inline constexpr Unita tensione{"N/mm²", "N/mm²"};
+inline constexpr Unita forza{"t", "kN", kilonewton};
+inline constexpr Unita momento{"t m", "kN m", kilonewton};
+inline constexpr Unita pressione{"t/m²", "kN/m²", kilonewton};
+inline constexpr Unita peso{"t/m³", "kN/m³", kilonewton};
+inline constexpr Unita pesoAcqua{"t/m³", "t/m³"};  ///< unlike the weights of the soil
+inline constexpr Unita modulo{"t/m³", "kN/m³", kilonewton};
+inline constexpr Unita rigidezza{"t/m", "kN/m", kilonewton};
+inline constexpr Unita rigidezzaFlessionale{"t m²", "kN m²", kilonewton};
+
+}  // namespace unita
+
+}  // namespace korven::project

@@ -1,0 +1,128 @@
+#include "project/field_table.hpp"
+
+#include <gtest/gtest.h>
+
+#include <set>
+#include <utility>
+
+#include "project/codes.hpp"
+
+namespace korven::project {
+namespace {
+
+struct Qualsiasi {
+    template <class T>
+    operator T() const;  // NOLINT(google-explicit-constructor): stands for any member
+};
+
+template <class T, std::size_t... i>
+constexpr bool fatto(std::index_sequence<i...>) {
+    return requires { T{(static_cast<void>(i), Qualsiasi{})...}; };
+}
+
+// How many members a plain record has: as many values as it can be made of.
+template <class T, std::size_t n = 1>
+constexpr std::size_t membri() {
+    if constexpr (fatto<T>(std::make_index_sequence<n + 1>()))
+        return membri<T, n + 1>();
+    else
+        return n;
+}
+
+TEST(TabellaCampi, HasOneRowForEachMemberOfTheProjectAndItsSection) {
+    static_assert(membri<Limiti>() == 2);
+    const std::size_t tutti = membri<DatiProgetto>() - 1 + membri<Sezione>();  // but the section
+    std::set<std::string_view> nomi;
+    for (const Campo& c : campi()) {
+        EXPECT_TRUE(nomi.insert(c.nome).second) << c.nome;
+        EXPECT_EQ(&campo(c.membro), &c) << c.nome << " stands in two rows";
+    }
+    EXPECT_EQ(nomi.size(), tutti) << "a member has no row in project/field_table.cpp";
+}
+
+TEST(TabellaCampi, NamesAFieldAsTheCodeDoes) {
+    EXPECT_EQ(campo(&DatiProgetto::phiStrato).nome, "phiStrato");
+    EXPECT_EQ(campo(&Sezione::spessoreDiaframma).nome, "sezione.spessoreDiaframma");
+    EXPECT_EQ(campo(&DatiProgetto::titoli).nome, "titoli");
+}
+
+TEST(TabellaCampi, PutsTheShownUnitBehindTheCaption) {
+    EXPECT_EQ(etichetta(campo(&DatiProgetto::gammaSat)), "Gamma Sat. [kN/m³]");
+    EXPECT_EQ(etichetta(campo(&DatiProgetto::gammaAcqua)), "Peso specifico dell'acqua [t/m³]");
+    EXPECT_EQ(etichetta(campo(&DatiProgetto::tirantiFase)), "Numero tot. tiranti");
+    EXPECT_EQ(etichetta(campo(&Sezione::armNumLong)), "Numero armature logitudinali [-]");
+}
+
+TEST(TabellaCampi, ShowsTenfoldWhatIsStoredInTonnesOrCentimetresAndAllElseAsItIs) {
+    DatiProgetto d;
+    d.gammaN[2] = 1.8;
+    d.phiStrato[2] = 30.5;
+    d.rigidezzaEJ = 12000;
+    d.gammaAcqua = 1.03;
+    d.sezione.spessoreDiaframma = 80;
+    d.sezione.armNumLong = 0.8;  // no length, but typed among them
+    d.sezione.fck = 28.5;
+    EXPECT_EQ(mostrato(d, campo(&DatiProgetto::gammaN), 2), 18);
+    EXPECT_EQ(mostrato(d, campo(&DatiProgetto::phiStrato), 2), 30.5);
+    EXPECT_EQ(mostrato(d, campo(&DatiProgetto::rigidezzaEJ)), 120000);
+    EXPECT_EQ(mostrato(d, campo(&DatiProgetto::gammaAcqua)), 1.03);
+    EXPECT_EQ(mostrato(d, campo(&Sezione::spessoreDiaframma)), 800);
+    EXPECT_EQ(mostrato(d, campo(&Sezione::armNumLong)), 8);
+    EXPECT_EQ(mostrato(d, campo(&Sezione::fck)), 28.5);
+    EXPECT_EQ(conservato(campo(&DatiProgetto::gammaN), 18), 1.8);
+    EXPECT_EQ(conservato(campo(&DatiProgetto::phiStrato), 30.5), 30.5);
+}
+
+// A factor belongs to two units, not to a field.
+TEST(TabellaCampi, HasAFactorOfTenWhereTheTwoUnitsDifferAndForTheBarsOfAPile) {
+    for (const Campo& c : campi()) {
+        const bool diverse = c.unita.conservata != c.unita.mostrata;
+        const bool barre = c.membro == Membro(&Sezione::armNumLong);
+        EXPECT_EQ(c.unita.fattore, diverse || barre ? 10 : 1) << c.nome;
+    }
+}
+
+TEST(TabellaCampi, CountsTheRowsOfEachTable) {
+    DatiProgetto d;
+    d.nStrati = 3;
+    d.nTiranti = 2;
+    d.nFasi = 4;
+    EXPECT_EQ(righe(d, Parte::strati), 3);
+    EXPECT_EQ(righe(d, Parte::tiranti), 2);
+    EXPECT_EQ(righe(d, Parte::fasi), 4);
+    EXPECT_EQ(righe(d, Parte::titoli), 6);
+    EXPECT_EQ(righe(d, Parte::paratia), 1);
+    EXPECT_TRUE(colonna(campo(&DatiProgetto::descrStrato)));
+    EXPECT_FALSE(colonna(campo(&DatiProgetto::nStrati)));
+    EXPECT_FALSE(colonna(campo(&Sezione::fyk)));
+}
+
+TEST(TabellaCampi, NamesTheCodesOfAFieldByTheirEnumerators) {
+    const auto codici = campo(&DatiProgetto::metodoKs).codici;
+    ASSERT_EQ(codici.size(), 4u);
+    EXPECT_EQ(codici[1].nome, "lancellotta");
+    EXPECT_EQ(codici[1].valore, 2);
+    EXPECT_EQ(campo(&DatiProgetto::tipoTirante).codici[0].valore, 0);
+    for (const Campo& c : campi())
+        for (std::size_t i = 1; i < c.codici.size(); ++i)
+            EXPECT_EQ(c.codici[i].valore, c.codici[i - 1].valore + 1) << c.nome;
+}
+
+TEST(Codici, AreUnequalToANumberThatIsNoneOfThemAndKeepItsOrder) {
+    EXPECT_TRUE(2.0 == VincoloPiede::cerniera);
+    EXPECT_FALSE(2.5 == VincoloPiede::cerniera);
+    EXPECT_FALSE(0.0 == VincoloTesta::libera);
+    EXPECT_TRUE(2.5 < MetodoSpinte::bell);
+    EXPECT_FALSE(3.0 < MetodoSpinte::bell);
+    EXPECT_TRUE(4.0 >= MetodoKs::costante);
+    EXPECT_EQ(valore(TipoTirante::trazioneCompressione), 1);
+}
+
+TEST(Unita, ConvertByOneProductEach) {
+    EXPECT_EQ(inKilonewton(1.23), 1.23 * 10);
+    EXPECT_EQ(inMillimetri(0.21), 0.21 * 10);
+    EXPECT_EQ(inCentimetri(0.0123), 0.0123 * 100);
+}
+
+}  // namespace
+}  // namespace korven::project
