@@ -2,6 +2,7 @@
 
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
+#include "project/codes.hpp"
 #include "structure/stiffness_update.hpp"
 
 namespace korven::analysis {
@@ -16,7 +17,7 @@ bool senzaFasi(const DatiProgetto& dati) { return dati.nFasi == 0; }
 
 // Bowles' factors divide by tan phi.
 bool bowlesSenzaAttrito(const DatiProgetto& dati) {
-    if (dati.metodoKs != 1) return false;
+    if (dati.metodoKs != project::MetodoKs::bowles) return false;
     for (int j = 1; j <= dati.nStrati; ++j)
         if (dati.phiStrato[j] == 0) return true;
     return false;

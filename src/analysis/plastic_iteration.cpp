@@ -5,6 +5,7 @@
 
 #include "analysis/solver/linear_system.hpp"
 #include "analysis/wall_mesh.hpp"
+#include "project/codes.hpp"
 
 namespace korven::analysis {
 
@@ -84,7 +85,9 @@ void applicaTiranti(const project::DatiProgetto& dati, ArraysCorsa& corsa) {
         const double y = sullaParete ? corsa.yNodo[m] : 0;
         const double rig = dati.rigTirante[a];
         const double pret = dati.pretTirante[a];
-        const bool agisce = (corsa.yTirante[a] - y) * rig <= pret || dati.tipoTirante[a] == 1;
+        using project::TipoTirante;
+        const bool agisce = (corsa.yTirante[a] - y) * rig <= pret ||
+                            dati.tipoTirante[a] == TipoTirante::trazioneCompressione;
         corsa.tiranti.push_back({m, agisce});
         if (!agisce || !sullaParete) continue;
         const double f = (m == 1 || m == corsa.nNodi ? 2 : 1) / corsa.passoNodi;

@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+#include "project/codes.hpp"
+
 namespace korven::analysis {
 
 const double pi = 4 * std::atan(1.0);
@@ -49,9 +51,10 @@ CoefficientiSpinta spinteBell(double phi) {
 }
 
 CoefficientiSpinta coefficientiSpinta(double metodoSpinte, double phi, double beta) {
-    if (metodoSpinte == 1) return spinteCoulomb(phi, beta);
-    if (metodoSpinte == 2) return spinteRankine(phi, beta);
-    if (metodoSpinte == 3) return spinteBell(phi);
+    using project::MetodoSpinte;
+    if (metodoSpinte == MetodoSpinte::coulomb) return spinteCoulomb(phi, beta);
+    if (metodoSpinte == MetodoSpinte::rankine) return spinteRankine(phi, beta);
+    if (metodoSpinte == MetodoSpinte::bell) return spinteBell(phi);
     return {};
 }
 

@@ -2,11 +2,15 @@
 
 #include <cassert>
 
+#include "project/codes.hpp"
+
 namespace korven::analysis {
 
 Vincoli vincoli(const project::DatiProgetto& dati) {
-    return {dati.vincoloTesta == 2, dati.vincoloPiede == 2 || dati.vincoloPiede == 3,
-            dati.vincoloPiede == 3};
+    using project::VincoloPiede;
+    const bool incastro = dati.vincoloPiede == VincoloPiede::incastro;
+    return {dati.vincoloTesta == project::VincoloTesta::cerniera,
+            dati.vincoloPiede == VincoloPiede::cerniera || incastro, incastro};
 }
 
 void preparaCorsa(const project::DatiProgetto& dati, int nSeg, ArraysCorsa& corsa) {

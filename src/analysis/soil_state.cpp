@@ -5,12 +5,14 @@
 #include "analysis/pressure_coefficients.hpp"
 #include "analysis/subgrade_modulus.hpp"
 #include "analysis/vertical_stress.hpp"
+#include "project/codes.hpp"
 
 namespace korven::analysis {
 
 namespace {
 
 using project::DatiProgetto;
+using project::ModoTensioni;
 
 Indefinito latoMonte(const DatiProgetto& dati, double z, int i, const TensioneNodo& tensione,
                      StatoSuolo& suolo) {
@@ -18,7 +20,8 @@ Indefinito latoMonte(const DatiProgetto& dati, double z, int i, const TensioneNo
     if (j == 0) return Indefinito::no;  // beyond the reach of the last layer: no soil
     const double beta = dati.inclinazioneMonte * pi / 180;
     const double phi = dati.phiStrato[j] * pi / 180;
-    suolo.sigmaVm[i] = dati.modoTensioni == 1 ? tensione.efficace : tensione.totale;
+    suolo.sigmaVm[i] =
+        dati.modoTensioni == ModoTensioni::efficaci ? tensione.efficace : tensione.totale;
     suolo.phiNodo[i] = phi;
     suolo.cNodo[i] = dati.coesione[j];
     suolo.k0m[i] = coefficienteRiposo(phi, beta);
@@ -62,17 +65,18 @@ Indefinito latoValle(const DatiProgetto& dati, int fase, double z, int i, StatoS
     // With pressures held equal to the uphill side no effective stress is computed here, so that
     // the depth term of Bowles' ks vanishes.
     double efficace = 0;
-    if (dati.modoSpinte == 2) {
+    if (dati.modoSpinte == project::ModoSpinte::comeMonte) {
         suolo.sigmaVv[i] = suolo.sigmaVm[i];
     } else {
         const TensioneNodo tensione =
             tensioneValle(dati, z, dati.profFase[fase], dati.sovraccFase[fase]);
         efficace = tensione.efficace;
-        suolo.sigmaVv[i] = dati.modoTensioni == 1 ? tensione.efficace : tensione.totale;
+        suolo.sigmaVv[i] =
+            dati.modoTensioni == ModoTensioni::efficaci ? tensione.efficace : tensione.totale;
     }
     suolo.limitiV[i] = limitiValle(dati.metodoSpinte, suolo.sigmaVv[i], suolo.kav[i], suolo.kpv[i],
                                    suolo.cNodo[i], phi);
-    if (dati.modoKs == 2) {
+    if (dati.modoKs == project::ModoKs::comeMonte) {
         suolo.Ehv[i] = suolo.Ehm[i];
         return Indefinito::no;
     }

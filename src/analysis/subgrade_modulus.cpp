@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "analysis/pressure_coefficients.hpp"
+#include "project/codes.hpp"
 
 namespace korven::analysis {
 
@@ -43,15 +44,16 @@ double moduloBowles(double c, double G, double sigmaEfficace, double phi) {
 }
 
 ModuloNodo moduloReazione(const project::DatiProgetto& dati, const NodoKs& nodo) {
+    using project::MetodoKs;
     const int j = nodo.strato;
-    if (dati.metodoKs == 1) {
+    if (dati.metodoKs == MetodoKs::bowles) {
         const double G =
             nodo.falda > nodo.z ? dati.gammaN[j] : dati.gammaSat[j] - alleggerimentoBowles;
         return {moduloBowles(dati.coesione[j], G, nodo.sigmaEfficace, nodo.phi)};
     }
-    if (dati.metodoKs == 2) return lancellotta(dati.coeffM, nodo.sigmaRiposo);
-    if (dati.metodoKs == 3) return {-dati.ksStrato[j]};
-    if (dati.metodoKs == 4) return lineare(dati, nodo);
+    if (dati.metodoKs == MetodoKs::lancellotta) return lancellotta(dati.coeffM, nodo.sigmaRiposo);
+    if (dati.metodoKs == MetodoKs::costante) return {-dati.ksStrato[j]};
+    if (dati.metodoKs == MetodoKs::lineare) return lineare(dati, nodo);
     return {};
 }
 
