@@ -5,6 +5,7 @@
 
 #include "base/number_text.hpp"
 #include "plot/plot_engine.hpp"
+#include "project/units.hpp"
 #include "results/working_pressures.hpp"
 
 namespace korven::drawings {
@@ -53,7 +54,7 @@ double valoreDiScala(Diagramma diagramma, const results::DatiRelazione& dati) {
         case Diagramma::pressioni:
             return pressioneAlPiede(dati);
         case Diagramma::spostamenti: {
-            const auto [min, max] = estremi(dati, &Fase::yNodo, 100);
+            const auto [min, max] = estremi(dati, &Fase::yNodo, project::centimetri);
             return std::fabs(min) > max ? min : max;
         }
         case Diagramma::momenti: {
@@ -97,7 +98,7 @@ void QuadroDiagramma::disegna() const {
 
 void QuadroDiagramma::asseDeiValori() const {
     // The numbers are kN, the values tonnes; displacements are centimetres in both.
-    const double fattore = diagramma_ == Diagramma::spostamenti ? 1 : 10;
+    const double fattore = diagramma_ == Diagramma::spostamenti ? 1 : project::kilonewton;
     for (const Tacca& tacca : tacche(-asse_.vMax, asse_.vMax, asse_.passo)) {
         const double x = xSinistra + scalaX_ * (tacca.valore + asse_.vMax);
         plot::linea(x, y0, x, y0 + lunghezzaTacca(tacca));

@@ -7,6 +7,7 @@
 #include "base/value_error.hpp"
 #include "drawings/diagram_frame.hpp"
 #include "plot/plot_engine.hpp"
+#include "project/units.hpp"
 #include "results/working_pressures.hpp"
 
 namespace korven::drawings {
@@ -68,7 +69,7 @@ class FaseDisegnata {
             case Diagramma::pressioni:
                 return pressioni();
             case Diagramma::spostamenti:
-                return semplice(risultati_.yNodo, 100);
+                return semplice(risultati_.yNodo, project::centimetri);
             case Diagramma::momenti:
                 return semplice(risultati_.momentoNodo, 1);
             case Diagramma::taglio:

@@ -5,6 +5,7 @@
 #include "drawings/sheet_pile_profile.hpp"
 #include "plot/plot_engine.hpp"
 #include "plot/sheet.hpp"
+#include "project/units.hpp"
 #include "structure/section_millimetres.hpp"
 
 namespace korven::drawings {
@@ -13,7 +14,7 @@ namespace {
 
 using project::Lato;
 
-constexpr double perMillimetro = scalaSezione / 10;
+constexpr double perMillimetro = scalaSezione / project::millimetri;
 
 void contorno(const structure::PalancolaMm& p, PostiQuote& posti) {
     const auto profilo = profiloPalancola(p);

@@ -1,5 +1,6 @@
 #include "analysis/anchors_in_place.hpp"
 #include "base/translated_texts.hpp"
+#include "project/units.hpp"
 #include "report/report_sections.hpp"
 
 namespace korven::report {
@@ -12,8 +13,8 @@ void fase(const results::DatiRelazione& dati, int s, RigheRelazione& righe) {
     righe.intestazione({"Profondità [m]", "Spostamento [cm]", "Momento [kN m]"});
     const auto& risultati = dati.fasi[static_cast<std::size_t>(s - 1)];
     for (int i = 1; i <= dati.nNodi; ++i)
-        righe.valori({analysis::zNodo(i, dati.passo), risultati.yNodo[i] * 100,
-                      risultati.momentoNodo[i] * 10});
+        righe.valori({analysis::zNodo(i, dati.passo), project::inCentimetri(risultati.yNodo[i]),
+                      project::inKilonewton(risultati.momentoNodo[i])});
     righe.riga("#ENDTABLE");
     righe.vuota();
 }
@@ -26,7 +27,7 @@ void tiranti(const results::DatiRelazione& dati, RigheRelazione& righe) {
     righe.riga("#STARTTABLE");
     righe.intestazione({"Prof. tirante [m]", "Tensione max. [kN]"});
     for (int j = 1; j <= inOpera; ++j)
-        righe.valori({dati.progetto.profTirante[j], dati.tiroTirante[j] * 10});
+        righe.valori({dati.progetto.profTirante[j], project::inKilonewton(dati.tiroTirante[j])});
     righe.riga("#ENDTABLE");
     righe.vuota();
 }

@@ -4,14 +4,11 @@
 #include <limits>
 
 #include "base/table.hpp"
+#include "project/units.hpp"
 
 namespace korven::structure {
 
-namespace {
-
-constexpr double mm(double cm) { return cm * 10; }
-
-}  // namespace
+using project::inMillimetri;
 
 double altezza(const PalancolaMm& palancola) { return 2 * palancola.altAla + palancola.spessore; }
 
@@ -38,32 +35,34 @@ int numeroFerri(const PaliArmatiMm& pali) {
 }
 
 DiaframmaMm diaframmaMm(const project::Sezione& s) {
-    return {.spessore = mm(s.spessoreDiaframma),
-            .monte = {mm(s.copriferroMonte), mm(s.interasseMonte), mm(s.diametroMonte)},
-            .valle = {mm(s.copriferroValle), mm(s.interasseValle), mm(s.diametroValle)}};
+    return {.spessore = inMillimetri(s.spessoreDiaframma),
+            .monte = {inMillimetri(s.copriferroMonte), inMillimetri(s.interasseMonte),
+                      inMillimetri(s.diametroMonte)},
+            .valle = {inMillimetri(s.copriferroValle), inMillimetri(s.interasseValle),
+                      inMillimetri(s.diametroValle)}};
 }
 
 PaliMm paliMm(const project::Sezione& s) {
-    return {.diamEst = mm(s.paliDiamEst),
-            .diamInt = mm(s.paliDiamInt),
-            .interasse = mm(s.paliInterasse)};
+    return {.diamEst = inMillimetri(s.paliDiamEst),
+            .diamInt = inMillimetri(s.paliDiamInt),
+            .interasse = inMillimetri(s.paliInterasse)};
 }
 
 PalancolaMm palancolaMm(const project::Sezione& s) {
-    return {.base = mm(s.palancolaBase),
-            .largAla = mm(s.palancolaLargAla),
-            .altAla = mm(s.palancolaAltAla),
-            .spessore = mm(s.palancolaSpessore),
-            .spessAla = mm(s.palancolaSpessAla)};
+    return {.base = inMillimetri(s.palancolaBase),
+            .largAla = inMillimetri(s.palancolaLargAla),
+            .altAla = inMillimetri(s.palancolaAltAla),
+            .spessore = inMillimetri(s.palancolaSpessore),
+            .spessAla = inMillimetri(s.palancolaSpessAla)};
 }
 
 // The count of bars shares the editors' factor of ten with the lengths but is taken here as it is
 // stored: a pile shown with 120 bars calculates with 12.
 PaliArmatiMm paliArmatiMm(const project::Sezione& s) {
-    return {.interasse = mm(s.armInterasse),
-            .diamPalo = mm(s.armDiamPalo),
-            .diamLong = mm(s.armDiamLong),
-            .copriferro = mm(s.armCopriferro),
+    return {.interasse = inMillimetri(s.armInterasse),
+            .diamPalo = inMillimetri(s.armDiamPalo),
+            .diamLong = inMillimetri(s.armDiamLong),
+            .copriferro = inMillimetri(s.armCopriferro),
             .numLong = s.armNumLong};
 }
 

@@ -5,6 +5,7 @@
 
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
+#include "project/units.hpp"
 #include "structure/section_millimetres.hpp"
 #include "structure/section_type.hpp"
 #include "structure/section_validity.hpp"
@@ -18,7 +19,7 @@ constexpr double nmm2PerTm2 = 10000000000;  // 1 t m2 = 1e4 N x 1e6 mm2
 
 // As the editors show it.
 std::string riga(std::string_view cosa, double EJ) {
-    return base::traduttore(cosa) + ": " + base::testoNumero(EJ * 10);
+    return base::traduttore(cosa) + ": " + base::testoNumero(project::inKilonewton(EJ));
 }
 
 bool accettaSostituzione(double attuale, double calcolata, base::Dialogo& dialogo) {
