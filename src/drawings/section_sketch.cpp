@@ -9,12 +9,13 @@ namespace korven::drawings {
 
 std::string scrittaQuota(std::size_t campo, const project::Sezione& sezione) {
     const masks::CampoSezione& c = masks::campiSezione[campo];
+    const project::Campo& riga = c.campo();
     std::string scritta(c.simbolo);
     const double valore = sezione.*c.valore;
     if (valore == 0) return scritta;
-    scritta += " = " + base::testoNumero(valore * c.fattore);
+    scritta += " = " + base::testoNumero(project::mostrato(riga, valore));
     if (c.valore == &project::Sezione::armNumLong)
-        scritta += '/' + base::testoNumero(c.fattore) + " = " + base::testoNumero(valore);
+        scritta += '/' + base::testoNumero(riga.unita.fattore) + " = " + base::testoNumero(valore);
     return scritta;
 }
 

@@ -7,6 +7,21 @@
 
 namespace korven::masks {
 
+RiquadroSezione CampoSezione::riquadro() const {
+    switch (campo().parte) {
+        case project::Parte::diaframma:
+            return RiquadroSezione::diaframma;
+        case project::Parte::pali:
+            return RiquadroSezione::pali;
+        case project::Parte::palancola:
+            return RiquadroSezione::palancola;
+        case project::Parte::paliArmati:
+            return RiquadroSezione::paliArmati;
+        default:
+            return RiquadroSezione::materiali;
+    }
+}
+
 std::size_t campoSezione(double project::Sezione::*valore) {
     const auto* trovato =
         std::find_if(std::begin(campiSezione), std::end(campiSezione),
@@ -24,7 +39,8 @@ SezioneEditata::SezioneEditata(project::Sezione& sezione, bool& modificato)
     else
         tipo_ = static_cast<RiquadroSezione>(scelto - std::begin(project::tipiSezione));
     for (std::size_t i = 0; i < numeroCampiSezione; ++i)
-        testi_[i] = base::testoNumero(sezione.*campiSezione[i].valore * campiSezione[i].fattore);
+        testi_[i] = base::testoNumero(
+            project::mostrato(campiSezione[i].campo(), sezione.*campiSezione[i].valore));
     mostrati_ = testi_;
 }
 
@@ -34,13 +50,14 @@ void SezioneEditata::scegli(RiquadroSezione tipo) {
 }
 
 double SezioneEditata::scritto(std::size_t campo) const {
-    return base::leggiNumero(testi_[campo]).value_or(0) / campiSezione[campo].fattore;
+    return project::conservato(campiSezione[campo].campo(),
+                               base::leggiNumero(testi_[campo]).value_or(0));
 }
 
 // 0.21 is shown as 2.1, and a tenth of that double is not the double 0.21. The decimals are: what
 // is shown names the stored number when its point, moved one place, gives that number's text.
 bool SezioneEditata::nominato(std::size_t campo) const {
-    const bool decimi = campiSezione[campo].fattore == 10;
+    const bool decimi = campiSezione[campo].campo().unita.fattore == 10;
     const std::string testo = decimi ? mostrati_[campo] + "e-1" : mostrati_[campo];
     return base::leggiNumero(testo).value_or(0) == sezione_.*campiSezione[campo].valore;
 }

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "project/section.hpp"
+#include "project/field_table.hpp"
 
 namespace korven::masks {
 
@@ -14,46 +14,47 @@ namespace korven::masks {
 /// among the materials.
 enum class RiquadroSezione { diaframma, pali, palancola, paliArmati, materiali };
 
+/// A field of the section form, with what stands in the table of fields.
 struct CampoSezione {
     double project::Sezione::*valore;
-    RiquadroSezione riquadro;
-    double fattore;            ///< the typed number over the stored one
     std::string_view simbolo;  ///< by which the sketch calls it; 1 is uphill, 2 downhill
+
+    [[nodiscard]] const project::Campo& campo() const { return project::campo(valore); }
+    [[nodiscard]] RiquadroSezione riquadro() const;
 };
 
-/// The fields of the section form. The bar count goes through the factor of the lengths, although
-/// it is none: a typed 8 is stored, and calculates, as 0.8.
+/// The fields of the section form, in the order of the tabulator.
 inline constexpr CampoSezione campiSezione[] = {
-    {&project::Sezione::copriferroMonte, RiquadroSezione::diaframma, 10, "c1"},
-    {&project::Sezione::copriferroValle, RiquadroSezione::diaframma, 10, "c2"},
-    {&project::Sezione::interasseMonte, RiquadroSezione::diaframma, 10, "i1"},
-    {&project::Sezione::interasseValle, RiquadroSezione::diaframma, 10, "i2"},
-    {&project::Sezione::diametroMonte, RiquadroSezione::diaframma, 10, "d1"},
-    {&project::Sezione::diametroValle, RiquadroSezione::diaframma, 10, "d2"},
-    {&project::Sezione::spessoreDiaframma, RiquadroSezione::diaframma, 10, "H"},
+    {&project::Sezione::copriferroMonte, "c1"},
+    {&project::Sezione::copriferroValle, "c2"},
+    {&project::Sezione::interasseMonte, "i1"},
+    {&project::Sezione::interasseValle, "i2"},
+    {&project::Sezione::diametroMonte, "d1"},
+    {&project::Sezione::diametroValle, "d2"},
+    {&project::Sezione::spessoreDiaframma, "H"},
 
-    {&project::Sezione::paliDiamEst, RiquadroSezione::pali, 10, "D"},
-    {&project::Sezione::paliDiamInt, RiquadroSezione::pali, 10, "d"},
-    {&project::Sezione::paliInterasse, RiquadroSezione::pali, 10, "i"},
+    {&project::Sezione::paliDiamEst, "D"},
+    {&project::Sezione::paliDiamInt, "d"},
+    {&project::Sezione::paliInterasse, "i"},
 
-    {&project::Sezione::palancolaBase, RiquadroSezione::palancola, 10, "b"},
-    {&project::Sezione::palancolaLargAla, RiquadroSezione::palancola, 10, "a"},
-    {&project::Sezione::palancolaAltAla, RiquadroSezione::palancola, 10, "h"},
-    {&project::Sezione::palancolaSpessore, RiquadroSezione::palancola, 10, "t"},
-    {&project::Sezione::palancolaSpessAla, RiquadroSezione::palancola, 10, "s"},
+    {&project::Sezione::palancolaBase, "b"},
+    {&project::Sezione::palancolaLargAla, "a"},
+    {&project::Sezione::palancolaAltAla, "h"},
+    {&project::Sezione::palancolaSpessore, "t"},
+    {&project::Sezione::palancolaSpessAla, "s"},
 
-    {&project::Sezione::armDiamPalo, RiquadroSezione::paliArmati, 10, "D"},
-    {&project::Sezione::armInterasse, RiquadroSezione::paliArmati, 10, "i"},
-    {&project::Sezione::armNumLong, RiquadroSezione::paliArmati, 10, "n"},
-    {&project::Sezione::armDiamLong, RiquadroSezione::paliArmati, 10, "d"},
-    {&project::Sezione::armCopriferro, RiquadroSezione::paliArmati, 10, "c"},
-    {&project::Sezione::armDiamStaffe, RiquadroSezione::paliArmati, 10, "ds"},
-    {&project::Sezione::armPassoStaffe, RiquadroSezione::paliArmati, 10, "p"},
+    {&project::Sezione::armDiamPalo, "D"},
+    {&project::Sezione::armInterasse, "i"},
+    {&project::Sezione::armNumLong, "n"},
+    {&project::Sezione::armDiamLong, "d"},
+    {&project::Sezione::armCopriferro, "c"},
+    {&project::Sezione::armDiamStaffe, "ds"},
+    {&project::Sezione::armPassoStaffe, "p"},
 
-    {&project::Sezione::fyk, RiquadroSezione::materiali, 1, ""},
-    {&project::Sezione::modEacciaio, RiquadroSezione::materiali, 1, ""},
-    {&project::Sezione::fck, RiquadroSezione::materiali, 1, ""},
-    {&project::Sezione::modEcls, RiquadroSezione::materiali, 1, ""},
+    {&project::Sezione::fyk, ""},
+    {&project::Sezione::modEacciaio, ""},
+    {&project::Sezione::fck, ""},
+    {&project::Sezione::modEcls, ""},
 };
 inline constexpr std::size_t numeroCampiSezione = std::size(campiSezione);
 

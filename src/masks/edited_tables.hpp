@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "project/project_data.hpp"
+#include "project/field_table.hpp"
 
 // What an editor shows of the project, and taking back what it hands over: texts as typed, in the
 // units that the user sees. A number is the longest numeric prefix of its text, 0 if there is none.
@@ -19,6 +19,10 @@
 // caller sets `modificato`, where it returns false `modificato` stays as it was.
 
 namespace korven::masks {
+
+/// The text of one field: the plain number in the unit that the user sees, or the text itself.
+[[nodiscard]] std::string testoMostrato(const project::DatiProgetto& dati,
+                                        const project::Campo& campo, int riga = 1);
 
 /// What the table editors show: the number of rows, then the cells; the plain text of each number
 /// in the unit that the user sees. Taken back unchanged they give the same project.

@@ -86,7 +86,7 @@ TEST(SectionSketch, HasOneDimensionForEachFieldOfItsFrame) {
     for (const RiquadroSezione tipo : tipi) {
         std::multiset<std::size_t> attesi, trovati;
         for (std::size_t i = 0; i < masks::numeroCampiSezione; ++i)
-            if (masks::campiSezione[i].riquadro == tipo) attesi.insert(i);
+            if (masks::campiSezione[i].riquadro() == tipo) attesi.insert(i);
         for (const auto& q : schizzoSezione(tipo, {}).quote) trovati.insert(q.campo);
         EXPECT_EQ(trovati, attesi);
     }
@@ -263,7 +263,7 @@ TEST(SectionSketch, KeepsItsTextsApart) {
     piena.palancolaSpessAla = 0.95;
     const Sezione armati = paliArmati();
     for (const auto& campo : masks::campiSezione)
-        if (campo.riquadro == RiquadroSezione::paliArmati)
+        if (campo.riquadro() == RiquadroSezione::paliArmati)
             piena.*campo.valore = armati.*campo.valore;
     for (const Sezione& s : {Sezione{}, piena})
         for (const RiquadroSezione tipo : tipi) {

@@ -179,7 +179,7 @@ TEST(SezioneEditata, SetsModificatoForAnyOneFieldEvenOfATypeNotChosen) {
         editata.conferma();
         EXPECT_TRUE(modificato) << i;
         project::Sezione attesa = piena();
-        attesa.*campiSezione[i].valore = 777 / campiSezione[i].fattore;
+        attesa.*campiSezione[i].valore = 777 / campiSezione[i].campo().unita.fattore;
         EXPECT_EQ(sezione, attesa) << i;
     }
 }

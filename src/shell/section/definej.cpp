@@ -150,10 +150,10 @@ void DefinEJ::fareCampi(QGridLayout& griglia, RiquadroSezione riquadro) {
     QStringList righe;
     auto* padre = griglia.parentWidget();
     for (std::size_t i = 0; i < campi_.size(); ++i) {
-        if (masks::campiSezione[i].riquadro != riquadro) continue;
+        if (masks::campiSezione[i].riquadro() != riquadro) continue;
         const CampoForma& forma = campiForma[i];
         auto* campo = fareCampo(i);
-        const QString riga = tradotto(forma.riga);
+        const QString riga = tradotto(forma.didascalia());
         if (!righe.contains(riga)) {
             righe << riga;
             auto* didascalia = etichetta(riga, Qt::AlignLeft | Qt::AlignVCenter, padre);
@@ -176,7 +176,7 @@ QLineEdit* DefinEJ::fareCampo(std::size_t campo) {
     const CampoForma& forma = campiForma[campo];
     auto* fatto = campi_[campo] = new QLineEdit(qt(modello_.testo(campo)), this);
     fatto->setObjectName(QLatin1String(forma.controllo));
-    QStringList nome{tradotto(forma.riga)};
+    QStringList nome{tradotto(forma.didascalia())};
     if (forma.titolo != nullptr) nome << tradotto(forma.titolo);
     fatto->setAccessibleName(nome.join(QLatin1Char(' ')));
     fatto->setAccessibleDescription(tradotto(forma.aiuto));

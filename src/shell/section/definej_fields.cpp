@@ -20,40 +20,44 @@ constexpr const char* aiutoInterassePali =
 
 }  // namespace
 
+std::string_view CampoForma::didascalia() const {
+    return riga != nullptr ? riga : project::campo(valore).didascalia;
+}
+
 using project::Sezione;
 
 const CampoForma campiForma[masks::numeroCampiSezione] = {
-    {&Sezione::copriferroMonte, "Text5", "Copriferro", 0, monte, aiutoCopriferro},
-    {&Sezione::copriferroValle, "Text6", "Copriferro", 1, valle, aiutoCopriferro},
+    {&Sezione::copriferroMonte, "Text5", nullptr, 0, monte, aiutoCopriferro},
+    {&Sezione::copriferroValle, "Text6", nullptr, 1, valle, aiutoCopriferro},
     {&Sezione::interasseMonte, "Text1", "Interasse ferri", 0, monte, aiutoInterasse},
     {&Sezione::interasseValle, "Text2", "Interasse ferri", 1, valle, aiutoInterasse},
     {&Sezione::diametroMonte, "Text3", "Diametro ferri", 0, monte, aiutoDiametro},
     {&Sezione::diametroValle, "Text4", "Diametro ferri", 1, valle, aiutoDiametro},
-    {&Sezione::spessoreDiaframma, "Text7", "Spessore", 0, nullptr,
+    {&Sezione::spessoreDiaframma, "Text7", nullptr, 0, nullptr,
      "Spessore della parete, di solito 400–1200 mm."},
 
-    {&Sezione::paliDiamEst, "Text11", "Diametro esterno", 0, nullptr,
+    {&Sezione::paliDiamEst, "Text11", nullptr, 0, nullptr,
      "Diametro esterno del tubo d'acciaio, calcolato pieno di calcestruzzo."},
-    {&Sezione::paliDiamInt, "Text12", "Diametro interno", 0, nullptr,
+    {&Sezione::paliDiamInt, "Text12", nullptr, 0, nullptr,
      "Diametro interno del tubo, minore di quello esterno. Con 0 la sezione non è definita."},
-    {&Sezione::paliInterasse, "Text10", "Interasse pali", 0, nullptr, aiutoInterassePali},
+    {&Sezione::paliInterasse, "Text10", nullptr, 0, nullptr, aiutoInterassePali},
 
-    {&Sezione::palancolaBase, "Text16", "Larghezza piatto", 0, nullptr,
+    {&Sezione::palancolaBase, "Text16", nullptr, 0, nullptr,
      "Larghezza di un piatto, sull'asse del profilato. Il profilo si ripete ogni 2 b + 4 a."},
-    {&Sezione::palancolaLargAla, "Text17", "Larghezza ala", 0, nullptr,
+    {&Sezione::palancolaLargAla, "Text17", nullptr, 0, nullptr,
      "Misura dell'ala lungo la parete, dalla fine del piatto all'asse del profilo: metà "
      "dell'anima inclinata."},
-    {&Sezione::palancolaAltAla, "Text9", "Altezza ala", 0, nullptr,
+    {&Sezione::palancolaAltAla, "Text9", nullptr, 0, nullptr,
      "Misura dell'ala attraverso la parete, dall'asse del profilo a quello del piatto. L'altezza "
      "del profilo è 2 h + t."},
     {&Sezione::palancolaSpessore, "Text13", "Spessore piatto", 0, nullptr,
      "Spessore dei piatti, di solito 8–20 mm."},
-    {&Sezione::palancolaSpessAla, "Text19", "Spessore ala", 0, nullptr,
+    {&Sezione::palancolaSpessAla, "Text19", nullptr, 0, nullptr,
      "Spessore delle ali, misurato perpendicolarmente ad esse, di solito 7–15 mm."},
 
-    {&Sezione::armDiamPalo, "Text22", "Diametro pali", 0, nullptr,
+    {&Sezione::armDiamPalo, "Text22", nullptr, 0, nullptr,
      "Diametro dei pali di calcestruzzo, di solito 400–1200 mm."},
-    {&Sezione::armInterasse, "Text20", "Interasse pali", 0, nullptr, aiutoInterassePali},
+    {&Sezione::armInterasse, "Text20", nullptr, 0, nullptr, aiutoInterassePali},
     {&Sezione::armNumLong, "Text25", "N° ferri:", 0, nullptr,
      "Attenzione: il calcolo usa un decimo del numero scritto. Per calcolare con 12 ferri "
      "scrivete 120; anche la relazione mostra 120."},
@@ -61,10 +65,10 @@ const CampoForma campiForma[masks::numeroCampiSezione] = {
      "Diametro dei ferri longitudinali, disposti in cerchio, di solito 16–32 mm."},
     {&Sezione::armCopriferro, "Text26", "Copriferro", 0, nullptr,
      "Dal bordo del palo al bordo esterno dei ferri longitudinali, di solito 50–75 mm."},
-    {&Sezione::armDiamStaffe, "Text24", "Diametro staffe", 0, nullptr,
+    {&Sezione::armDiamStaffe, "Text24", nullptr, 0, nullptr,
      "Diametro delle staffe o della spirale. Serve solo alla verifica a taglio, che con 0 non "
      "viene fatta."},
-    {&Sezione::armPassoStaffe, "Text23", "Passo staffe", 0, nullptr,
+    {&Sezione::armPassoStaffe, "Text23", nullptr, 0, nullptr,
      "Distanza fra le staffe lungo il palo. Serve solo alla verifica a taglio, che con 0 non "
      "viene fatta."},
 

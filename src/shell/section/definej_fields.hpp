@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string_view>
+
 #include "masks/edited_section.hpp"
 
 // What the section form shows of each field: the control, its row and column, the words of help.
@@ -9,10 +11,13 @@ namespace korven::shell {
 struct CampoForma {
     double project::Sezione::*valore;
     const char* controllo;
-    const char* riga;    ///< Italian key of the caption; fields with the same are beside each other
+    const char* riga;    ///< Italian key where the caption is not that of the table of fields
     int colonna;         ///< of its frame, from 0
     const char* titolo;  ///< Italian key of the heading of the column; nullptr for none
     const char* aiuto;   ///< Italian key
+
+    /// Italian key of the caption; fields with the same stand beside each other.
+    [[nodiscard]] std::string_view didascalia() const;
 };
 
 /// In the order of the tabulator, that of `masks::campiSezione`.

@@ -148,7 +148,7 @@ TEST_F(FormaSezione, ShowsEachValueInTheControlOfItsField) {
     ASSERT_EQ(std::size(campi), masks::numeroCampiSezione);
     apri();
     for (const auto& [nome, campo] : campi) {
-        const bool materiale = masks::campiSezione[masks::campoSezione(campo)].riquadro ==
+        const bool materiale = masks::campiSezione[masks::campoSezione(campo)].riquadro() ==
                                masks::RiquadroSezione::materiali;
         EXPECT_EQ(trova<QLineEdit>(nome).text().toDouble(), sezione.*campo * (materiale ? 1 : 10))
             << nome;
@@ -284,7 +284,7 @@ TEST_F(FormaSezione, TellsInItsStripWhatTheFieldMeans) {
     apri();
     EXPECT_TRUE(aiuto().startsWith("Il tipo di sezione"));
     for (std::size_t i = 0; i < masks::numeroCampiSezione; ++i) {
-        const auto riquadro = static_cast<std::size_t>(masks::campiSezione[i].riquadro);
+        const auto riquadro = static_cast<std::size_t>(masks::campiSezione[i].riquadro());
         if (riquadro < 4) premi(opzioni[riquadro]);
         auto& campo = trova<QLineEdit>(campiForma[i].controllo);
         campo.setFocus();

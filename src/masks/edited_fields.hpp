@@ -1,0 +1,15 @@
+#pragma once
+
+#include <vector>
+
+#include "masks/mask_values.hpp"
+#include "project/field_table.hpp"
+
+namespace korven::masks {
+
+/// The fields of the project that a form shows, in its order: the choices and fields of a field
+/// form, the columns of a grid behind that of the row numbers. The stage that diagrams draw, which
+/// the headings' form shows too, is no field of the project.
+[[nodiscard]] std::vector<const project::Campo*> campiEditati(NumeroMaschera numero);
+
+}  // namespace korven::masks
