@@ -17,7 +17,7 @@ namespace {
 
 using base::traduttore;
 
-constexpr std::size_t titoli = 6;
+constexpr std::size_t titoli = project::numeroTitoli;
 
 bool vuota(const std::string& riga) { return base::senzaSpaziEsterni(riga).empty(); }
 

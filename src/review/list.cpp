@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <limits>
 #include <utility>
 
@@ -9,6 +10,19 @@
 #include "base/translated_texts.hpp"
 
 namespace korven::review {
+
+namespace {
+
+using project::DatiProgetto;
+using project::Sezione;
+
+constexpr project::Membro dettiPerEsteso[] = {
+    &DatiProgetto::coeffM,       &DatiProgetto::sforzoNormale, &DatiProgetto::gammaAcqua,
+    &Sezione::spessoreDiaframma, &Sezione::paliInterasse,      &Sezione::palancolaBase,
+    &Sezione::armInterasse,
+};
+
+}  // namespace
 
 std::vector<Rilievo> ElencoRilievi::ordinato() {
     std::stable_partition(rilievi_.begin(), rilievi_.end(),
@@ -24,16 +38,32 @@ std::string conValore(std::string testo, double valore) {
     return std::move(testo) + " (" + base::testoNumero(valore) + ")";
 }
 
-// Ten times a stored value may be too large for a number; the review must still be able to tell it.
-std::string campo(std::string_view etichetta, double valore) {
-    constexpr double massimo = std::numeric_limits<double>::max();
-    return base::traduttore(etichetta) + " = " +
-           base::testoNumero(std::clamp(valore, -massimo, massimo));
+std::string nomeCampo(const project::Campo& campo) {
+    const bool detto =
+        !campo.codici.empty() || std::find(std::begin(dettiPerEsteso), std::end(dettiPerEsteso),
+                                           campo.membro) != std::end(dettiPerEsteso);
+    return base::traduttore(detto ? std::string(campo.cosa) : project::etichetta(campo));
 }
 
-std::string rigaCampo(std::string_view nome, int numero, std::string_view etichetta, double valore,
+// The shown value may be too large for a number; the review must still be able to tell it.
+std::string campo(const project::Membro& membro, double conservato) {
+    constexpr double massimo = std::numeric_limits<double>::max();
+    const project::Campo& riga = project::campo(membro);
+    return nomeCampo(riga) + " = " +
+           base::testoNumero(std::clamp(project::mostrato(riga, conservato), -massimo, massimo));
+}
+
+std::string nomeRiga(const project::Campo& colonna, int numero) {
+    const char* nome = colonna.parte == project::Parte::strati    ? "strato"
+                       : colonna.parte == project::Parte::tiranti ? "tirante"
+                                                                  : "fase";
+    return base::traduttore(nome) + " " + std::to_string(numero);
+}
+
+std::string rigaCampo(const project::DatiProgetto& dati, const project::Membro& colonna, int numero,
                       std::string_view testo) {
-    return base::traduttore(nome) + " " + std::to_string(numero) + ": " + campo(etichetta, valore) +
+    const project::Campo& riga = project::campo(colonna);
+    return nomeRiga(riga, numero) + ": " + campo(colonna, project::numero(dati, riga, numero)) +
            ": " + base::traduttore(testo);
 }
 

@@ -4,10 +4,11 @@
 #include <string_view>
 #include <vector>
 
+#include "project/field_table.hpp"
 #include "review/project_review.hpp"
 
 // The parts of a project's review: the list that its checks fill, and the checks by subject. A
-// field is called as its editor calls it and its value shown in the editor's unit.
+// field is called as editor and report call it and its value shown in their unit.
 
 namespace korven::review {
 
@@ -28,12 +29,21 @@ class ElencoRilievi {
 /// A text followed by the value in question, in brackets.
 [[nodiscard]] std::string conValore(std::string testo, double valore);
 
-/// "strato 3: Gamma [kN/m³] = 18: ...", the texts being Italian keys and the value as shown.
-[[nodiscard]] std::string rigaCampo(std::string_view nome, int numero, std::string_view etichetta,
-                                    double valore, std::string_view testo);
+/// What a remark calls a field: its caption and unit or, where a caption says too little or too
+/// much outside its form, what it is; translated.
+[[nodiscard]] std::string nomeCampo(const project::Campo& campo);
 
-/// "Gamma [kN/m³] = 18".
-[[nodiscard]] std::string campo(std::string_view etichetta, double valore);
+/// "Gamma [kN/m³] = 18" for a stored 1.8.
+[[nodiscard]] std::string campo(const project::Membro& membro, double conservato);
+
+/// "strato 3: Gamma [kN/m³] = 18: ...": a row of a column, by its stored number.
+/// @param testo  Italian key
+[[nodiscard]] std::string rigaCampo(const project::DatiProgetto& dati,
+                                    const project::Membro& colonna, int numero,
+                                    std::string_view testo);
+
+/// "strato 3" for a column of the layers.
+[[nodiscard]] std::string nomeRiga(const project::Campo& colonna, int numero);
 
 [[nodiscard]] bool intero(double valore);
 
@@ -47,7 +57,7 @@ void controlloTerreno(const project::DatiProgetto& dati, ElencoRilievi& elenco);
 /// @pre no input check fails: asserted
 void controlloSuolo(const project::DatiProgetto& scritti, int nSeg, ElencoRilievi& elenco);
 
-/// The fields whose shown value, ten times the stored one, is no number any more.
+/// The fields whose shown value is larger than the stored one and no number any more.
 void controlloMostrati(const project::DatiProgetto& dati, ElencoRilievi& elenco);
 
 void controlloTiranti(const project::DatiProgetto& dati, ElencoRilievi& elenco);

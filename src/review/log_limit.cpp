@@ -17,9 +17,9 @@ std::string rifiutoStratigrafia(const project::DatiProgetto& dati) {
         if (std::abs(profondita) > std::abs(dati.profStrato[lontano])) lontano = i;
     }
     if (basso - alto <= massimaAltezzaStratigrafia) return {};
-    return rigaCampo("strato", lontano, "Prof. [m]", dati.profStrato[lontano],
-                     "la colonna stratigrafica non è disegnata oltre i 500 m di altezza: "
-                     "correggere la profondità");
+    return rigaCampo(dati, &project::DatiProgetto::profStrato, lontano,
+                             "la colonna stratigrafica non è disegnata oltre i 500 m di altezza: "
+                             "correggere la profondità");
 }
 
 }  // namespace korven::review

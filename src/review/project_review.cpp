@@ -15,36 +15,30 @@ namespace {
 using base::traduttore;
 using project::DatiProgetto;
 
-// A code of the project and what a value that is none of its codes comes to.
-struct Codice {
-    double DatiProgetto::*campo;
-    std::string_view nome;
-    int ultimo;
+// A field with codes and what a value that is none of them comes to.
+struct CampoConCodici {
+    double DatiProgetto::*membro;
     std::string_view altrimenti;
 };
 
-constexpr Codice codici[] = {
-    {&DatiProgetto::vincoloTesta, "vincolo in testa", 2,
-     "codice non previsto: la testa conta come libera (1)"},
-    {&DatiProgetto::vincoloPiede, "vincolo al piede", 3,
-     "codice non previsto: il piede conta come libero (1)"},
-    {&DatiProgetto::modoSpinte, "opzione delle spinte", 2,
-     "codice non previsto: le spinte sono ricalcolate ad ogni fase (1)"},
-    {&DatiProgetto::modoKs, "opzione di ks", 2,
-     "codice non previsto: ks è ricalcolato ad ogni fase (1)"},
-    {&DatiProgetto::modoTensioni, "opzione delle tensioni", 2,
-     "codice non previsto: si calcola in tensioni totali (2)"},
-    {&DatiProgetto::metodoSpinte, "metodo delle spinte", 3,
+constexpr CampoConCodici codici[] = {
+    {&DatiProgetto::vincoloTesta, "codice non previsto: la testa conta come libera (1)"},
+    {&DatiProgetto::vincoloPiede, "codice non previsto: il piede conta come libero (1)"},
+    {&DatiProgetto::modoSpinte, "codice non previsto: le spinte sono ricalcolate ad ogni fase (1)"},
+    {&DatiProgetto::modoKs, "codice non previsto: ks è ricalcolato ad ogni fase (1)"},
+    {&DatiProgetto::modoTensioni, "codice non previsto: si calcola in tensioni totali (2)"},
+    {&DatiProgetto::metodoSpinte,
      "codice non previsto: i coefficienti di spinta attiva e passiva restano nulli"},
-    {&DatiProgetto::metodoKs, "metodo di ks", 4,
-     "codice non previsto: il terreno non ha rigidezza"},
+    {&DatiProgetto::metodoKs, "codice non previsto: il terreno non ha rigidezza"},
 };
 
 void controlloCodici(const DatiProgetto& dati, ElencoRilievi& elenco) {
-    for (const auto& [membro, nome, ultimo, altrimenti] : codici) {
+    for (const auto& [membro, altrimenti] : codici) {
         const double valore = dati.*membro;
-        if (valore >= 1 && valore <= ultimo && intero(valore)) continue;
-        elenco.avviso(campo(nome, valore) + ": " + traduttore(altrimenti));
+        const auto noti = project::campo(membro).codici;
+        if (std::none_of(noti.begin(), noti.end(),
+                         [valore](const auto& codice) { return codice.valore == valore; }))
+            elenco.avviso(campo(membro, valore) + ": " + traduttore(altrimenti));
     }
 }
 

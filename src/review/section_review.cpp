@@ -22,10 +22,7 @@ constexpr const char* oltreMeta = "l'asse delle armature arriva a metà della se
 
 bool qualcosaScritto(const Sezione& s) {
     Sezione vuota;
-    vuota.tipoDiaframma = s.tipoDiaframma;
-    vuota.tipoPali = s.tipoPali;
-    vuota.tipoPalancola = s.tipoPalancola;
-    vuota.tipoPaliArmati = s.tipoPaliArmati;
+    for (const auto tipo : project::tipiSezione) vuota.*tipo = s.*tipo;
     return !(s == vuota);
 }
 
@@ -40,26 +37,36 @@ constexpr double scartoRigidezza = 3;
 void controlloRigidezza(const DatiProgetto& dati, ElencoRilievi& elenco) {
     const double EJ = dati.rigidezzaEJ;
     const double sezione = rigidezzaDallaSezione(dati.sezione);
-    const std::string scritta = campo("Rigidezza EJ diaframma [kN m²]", EJ * 10) + ": ";
+    const std::string scritta = campo(&DatiProgetto::rigidezzaEJ, EJ) + ": ";
     if (EJ == 0 && sezione == 0) elenco.impedimento(traduttore(analysis::messaggioSenzaEJ));
     if (EJ < 0) elenco.avviso(scritta + traduttore("valore negativo"));
     if (EJ > 0 && sezione > 0 && (EJ > scartoRigidezza * sezione || sezione > scartoRigidezza * EJ))
-        elenco.avviso(
-            conValore(scritta + traduttore("è lontana da quella della sezione"), sezione * 10));
+        elenco.avviso(conValore(scritta + traduttore("è lontana da quella della sezione"),
+                                project::inKilonewton(sezione)));
 }
 
 // The fields of one face of the diaphragm.
 struct Faccia {
     std::string_view nome;
-    double copriferro, interasse, diametro;
+    double Sezione::*copriferro;
+    double Sezione::*interasse;
+    double Sezione::*diametro;
 };
 
-void controlloFaccia(const Faccia& f, const Sezione& s, ElencoRilievi& elenco) {
-    const std::string dove = traduttore(f.nome) + ": ";
-    const std::string copriferro = dove + campo("Copriferro [mm]", f.copriferro * 10) + ": ";
+constexpr Faccia facce[] = {
+    {"lato monte", &Sezione::copriferroMonte, &Sezione::interasseMonte, &Sezione::diametroMonte},
+    {"lato valle", &Sezione::copriferroValle, &Sezione::interasseValle, &Sezione::diametroValle},
+};
+
+void controlloFaccia(const Faccia& faccia, const Sezione& s, ElencoRilievi& elenco) {
+    const struct {
+        double copriferro, interasse, diametro;
+    } f{s.*faccia.copriferro, s.*faccia.interasse, s.*faccia.diametro};
+    const std::string dove = traduttore(faccia.nome) + ": ";
+    const std::string copriferro = dove + campo(faccia.copriferro, f.copriferro) + ": ";
     if ((f.interasse > 0) != (f.diametro > 0)) {
-        elenco.avviso(dove + campo("Interasse armature [mm]", f.interasse * 10) + ", " +
-                      campo("Diametro armature [mm]", f.diametro * 10) + ": " +
+        elenco.avviso(dove + campo(faccia.interasse, f.interasse) + ", " +
+                      campo(faccia.diametro, f.diametro) + ": " +
                       traduttore("la faccia conta come non armata"));
         return;
     }
@@ -77,8 +84,8 @@ void controlloFaccia(const Faccia& f, const Sezione& s, ElencoRilievi& elenco) {
 
 void controlloStaffe(const Sezione& s, ElencoRilievi& elenco) {
     if ((s.armPassoStaffe > 0) == (s.armDiamStaffe > 0)) return;
-    elenco.avviso(campo("Diametro staffe [mm]", s.armDiamStaffe * 10) + ", " +
-                  campo("Passo staffe [mm]", s.armPassoStaffe * 10) + ": " +
+    elenco.avviso(campo(&Sezione::armDiamStaffe, s.armDiamStaffe) + ", " +
+                  campo(&Sezione::armPassoStaffe, s.armPassoStaffe) + ": " +
                   traduttore("senza l'uno o l'altro non c'è verifica a taglio"));
 }
 
@@ -87,14 +94,12 @@ void controlloTaglio(const DatiProgetto& dati, ElencoRilievi& elenco) {
     if (!structure::staffePresenti(dati.sezione) || !structure::sezioneValida(dati.sezione)) return;
     if (analysis::vincoli(dati).incastroPiede)
         elenco.avviso(
-            campo("vincolo al piede", dati.vincoloPiede) + ": " +
+            campo(&DatiProgetto::vincoloPiede, dati.vincoloPiede) + ": " +
             traduttore("la verifica a taglio conta anche il valore al piede incastrato, che "
                        "non è un taglio della paratia e cresce con il numero di segmenti"));
     if (dati.forzaTesta != 0)
         elenco.avviso(
-            campo("Forza orizzontale esterna applicata alla sommità del diaframma [kN]",
-                  dati.forzaTesta * 10) +
-            ": " +
+            campo(&DatiProgetto::forzaTesta, dati.forzaTesta) + ": " +
             traduttore("la verifica a taglio conta anche il valore in testa, che è il doppio "
                        "della forza e non è il taglio della paratia"));
 }
@@ -102,20 +107,17 @@ void controlloTaglio(const DatiProgetto& dati, ElencoRilievi& elenco) {
 void controlloMisure(const Sezione& s, ElencoRilievi& elenco) {
     switch (structure::tipoSezione(s)) {
         case TipoSezione::diaframma:
-            controlloFaccia({"lato monte", s.copriferroMonte, s.interasseMonte, s.diametroMonte}, s,
-                            elenco);
-            controlloFaccia({"lato valle", s.copriferroValle, s.interasseValle, s.diametroValle}, s,
-                            elenco);
+            for (const Faccia& faccia : facce) controlloFaccia(faccia, s, elenco);
             break;
         case TipoSezione::pali:
             if (s.paliDiamEst > 0 && s.paliDiamInt >= s.paliDiamEst)
-                elenco.avviso(campo("Diametro interno [mm]", s.paliDiamInt * 10) + ": " +
+                elenco.avviso(campo(&Sezione::paliDiamInt, s.paliDiamInt) + ": " +
                               traduttore("non è minore del diametro esterno"));
             break;
         case TipoSezione::paliArmati:
             if (s.armDiamPalo > 0 && structure::raggioFerri(structure::paliArmatiMm(s)) <= 0)
-                elenco.avviso(campo("Copriferro armature logitudinali [mm]", s.armCopriferro * 10) +
-                              ": " + traduttore(oltreMeta));
+                elenco.avviso(campo(&Sezione::armCopriferro, s.armCopriferro) + ": " +
+                              traduttore(oltreMeta));
             controlloStaffe(s, elenco);
             break;
         case TipoSezione::palancola:

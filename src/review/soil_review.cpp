@@ -9,6 +9,7 @@
 #include "analysis/vertical_stress.hpp"
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
+#include "project/codes.hpp"
 #include "review/list.hpp"
 
 namespace korven::review {
@@ -19,16 +20,16 @@ using base::testoNumero;
 using base::traduttore;
 using project::DatiProgetto;
 using project::massimoStrati;
+using project::MetodoKs;
+using project::MetodoSpinte;
 
-constexpr const char* inKilonewton =
+constexpr const char* scrittoInKilonewton =
     "sembra un peso di volume in kN/m³: il file lo tiene in t/m³, dieci volte più piccolo";
 
 constexpr double profonditaInsolita = 200;  // no wall reaches there [m]
 
 struct ControlloStrato {
     base::Tabella<double, massimoStrati> DatiProgetto::*colonna;
-    std::string_view etichetta;
-    double fattore;  // from the stored to the shown unit
     bool (*dubbio)(const DatiProgetto&, int);
     std::string_view testo;
 };
@@ -36,77 +37,74 @@ struct ControlloStrato {
 using Dati = const DatiProgetto&;
 
 const ControlloStrato controlliStrato[] = {
-    {&DatiProgetto::profStrato, "Prof. [m]", 1,
-     [](Dati d, int j) { return d.profStrato[j] < d.profStrato[j - 1]; },
+    {&DatiProgetto::profStrato, [](Dati d, int j) { return d.profStrato[j] < d.profStrato[j - 1]; },
      "finisce più in alto dello strato precedente"},
-    {&DatiProgetto::profStrato, "Prof. [m]", 1,
+    {&DatiProgetto::profStrato,
      [](Dati d, int j) { return d.profStrato[j] == d.profStrato[j - 1]; }, "ha spessore nullo"},
-    {&DatiProgetto::profStrato, "Prof. [m]", 1,
-     [](Dati d, int j) { return d.profStrato[j] > profonditaInsolita; },
+    {&DatiProgetto::profStrato, [](Dati d, int j) { return d.profStrato[j] > profonditaInsolita; },
      "supera i 200 m: controllare la profondità"},
-    {&DatiProgetto::gammaN, "Gamma [kN/m³]", 10, [](Dati d, int j) { return d.gammaN[j] <= 0; },
+    {&DatiProgetto::gammaN, [](Dati d, int j) { return d.gammaN[j] <= 0; },
      "peso di volume mancante"},
-    {&DatiProgetto::gammaN, "Gamma [kN/m³]", 10,
-     [](Dati d, int j) { return d.gammaN[j] > massimoPeso; }, inKilonewton},
-    {&DatiProgetto::gammaSat, "Gamma Sat. [kN/m³]", 10,
-     [](Dati d, int j) { return d.gammaSat[j] <= 0; }, "peso di volume mancante"},
-    {&DatiProgetto::gammaSat, "Gamma Sat. [kN/m³]", 10,
-     [](Dati d, int j) { return d.gammaSat[j] > massimoPeso; }, inKilonewton},
-    {&DatiProgetto::gammaSat, "Gamma Sat. [kN/m³]", 10,
+    {&DatiProgetto::gammaN, [](Dati d, int j) { return d.gammaN[j] > massimoPeso; },
+     scrittoInKilonewton},
+    {&DatiProgetto::gammaSat, [](Dati d, int j) { return d.gammaSat[j] <= 0; },
+     "peso di volume mancante"},
+    {&DatiProgetto::gammaSat, [](Dati d, int j) { return d.gammaSat[j] > massimoPeso; },
+     scrittoInKilonewton},
+    {&DatiProgetto::gammaSat,
      [](Dati d, int j) {
          return d.gammaSat[j] > 0 && d.gammaSat[j] < d.gammaN[j] && d.gammaN[j] <= massimoPeso;
      },
      "il peso di volume saturo è minore di quello naturale"},
-    {&DatiProgetto::phiStrato, "Phi [°]", 1,
+    {&DatiProgetto::phiStrato,
      [](Dati d, int j) { return d.phiStrato[j] < 0 || d.phiStrato[j] >= 90; },
      "l'angolo non è ammissibile"},
     // Whether a run can do with it depends on the method; `controlloSuolo` finds that out.
-    {&DatiProgetto::phiStrato, "Phi [°]", 1,
+    {&DatiProgetto::phiStrato,
      [](Dati d, int j) { return d.phiStrato[j] < std::abs(d.inclinazioneMonte); },
      "l'angolo di attrito è minore dell'inclinazione del terreno"},
-    {&DatiProgetto::phiStrato, "Phi [°]", 1,
+    {&DatiProgetto::phiStrato,
      [](Dati d, int j) {
-         return d.metodoSpinte == 1 && d.phiStrato[j] < 90 &&
+         return d.metodoSpinte == MetodoSpinte::coulomb && d.phiStrato[j] < 90 &&
                 d.phiStrato[j] + d.inclinazioneMonte >= 90;
      },
      "con l'inclinazione del terreno arriva a 90°: il coefficiente passivo di Coulomb non ha "
      "significato"},
-    {&DatiProgetto::coesione, "Coes. [kN/m²]", 10, [](Dati d, int j) { return d.coesione[j] < 0; },
+    {&DatiProgetto::coesione, [](Dati d, int j) { return d.coesione[j] < 0; }, "valore negativo"},
+    {&DatiProgetto::ksStrato,
+     [](Dati d, int j) { return d.metodoKs >= MetodoKs::costante && d.ksStrato[j] == 0; },
+     "modulo ks mancante"},
+    {&DatiProgetto::ksStrato,
+     [](Dati d, int j) { return d.metodoKs >= MetodoKs::costante && d.ksStrato[j] < 0; },
      "valore negativo"},
-    {&DatiProgetto::ksStrato, "ks [kN/m³]", 10,
-     [](Dati d, int j) { return d.metodoKs >= 3 && d.ksStrato[j] == 0; }, "modulo ks mancante"},
-    {&DatiProgetto::ksStrato, "ks [kN/m³]", 10,
-     [](Dati d, int j) { return d.metodoKs >= 3 && d.ksStrato[j] < 0; }, "valore negativo"},
 };
 
 struct ControlloScalare {
     double DatiProgetto::*campo;
-    std::string_view etichetta;
-    double fattore;
     bool (*dubbio)(Dati);
     std::string_view testo;
 };
 
 const ControlloScalare controlliScalari[] = {
-    {&DatiProgetto::sovraccMonte, "Sovraccarico verticale lato monte [kN/m²]", 10,
-     [](Dati d) { return d.sovraccMonte < 0; }, "valore negativo"},
-    {&DatiProgetto::inclinazioneMonte, "Inclinazione del terreno a monte del diaframma [°]", 1,
-     [](Dati d) { return std::abs(d.inclinazioneMonte) >= 90; }, "l'angolo non è ammissibile"},
-    {&DatiProgetto::gammaAcqua, "peso dell'acqua", 1, [](Dati d) { return d.gammaAcqua <= 0; },
+    {&DatiProgetto::sovraccMonte, [](Dati d) { return d.sovraccMonte < 0; }, "valore negativo"},
+    {&DatiProgetto::inclinazioneMonte, [](Dati d) { return std::abs(d.inclinazioneMonte) >= 90; },
+     "l'angolo non è ammissibile"},
+    {&DatiProgetto::gammaAcqua, [](Dati d) { return d.gammaAcqua <= 0; },
      "peso di volume mancante"},
-    {&DatiProgetto::gammaAcqua, "peso dell'acqua", 1,
-     [](Dati d) { return d.gammaAcqua > massimoPeso; }, inKilonewton},
-    {&DatiProgetto::coeffM, "coefficiente m", 1,
-     [](Dati d) { return d.metodoKs == 2 && d.coeffM == 0; }, "il terreno non ha rigidezza"},
-    {&DatiProgetto::coeffM, "coefficiente m", 1,
-     [](Dati d) { return d.metodoKs == 2 && d.coeffM < 0; }, "valore negativo"},
+    {&DatiProgetto::gammaAcqua, [](Dati d) { return d.gammaAcqua > massimoPeso; },
+     scrittoInKilonewton},
+    {&DatiProgetto::coeffM,
+     [](Dati d) { return d.metodoKs == MetodoKs::lancellotta && d.coeffM == 0; },
+     "il terreno non ha rigidezza"},
+    {&DatiProgetto::coeffM,
+     [](Dati d) { return d.metodoKs == MetodoKs::lancellotta && d.coeffM < 0; }, "valore negativo"},
 };
 
 void controlloPiede(const DatiProgetto& dati, ElencoRilievi& elenco) {
     const int n = dati.nStrati;
     if (n == 0 || dati.profStrato[n] >= dati.lunghezzaParatia) return;
     elenco.avviso(rigaCampo(
-        "strato", n, "Prof. [m]", dati.profStrato[n],
+        dati, &DatiProgetto::profStrato, n,
         analysis::fondoStrato(dati, n) < dati.lunghezzaParatia
             ? "la paratia scende più di 100 m sotto l'ultimo strato: là sotto non ha terreno"
             : "gli strati finiscono sopra il piede della paratia: l'ultimo viene prolungato"));
@@ -124,7 +122,7 @@ bool moduloNegativo(const analysis::StatoSuolo& suolo, int fase, int nNodi, doub
         const double peggiore = std::max(suolo.Ehm[i], suolo.Ehv[i]);
         if (!(peggiore > 0)) continue;
         elenco.avviso(luogo(fase, analysis::zNodo(i, passoNodi)) +
-                      campo("ks [kN/m³]", -10 * peggiore) + ": " +
+                      campo(&DatiProgetto::ksStrato, -peggiore) + ": " +
                       traduttore("il terreno spinge invece di reagire, come accade con una "
                                  "tensione efficace negativa"));
         return true;
@@ -134,8 +132,8 @@ bool moduloNegativo(const analysis::StatoSuolo& suolo, int fase, int nNodi, doub
 
 bool ksNegativoScritto(const DatiProgetto& dati) {
     for (int j = 1; j <= dati.nStrati; ++j)
-        if (dati.metodoKs >= 3 && dati.ksStrato[j] < 0) return true;
-    return dati.metodoKs == 2 && dati.coeffM < 0;
+        if (dati.metodoKs >= MetodoKs::costante && dati.ksStrato[j] < 0) return true;
+    return dati.metodoKs == MetodoKs::lancellotta && dati.coeffM < 0;
 }
 
 }  // namespace
@@ -143,13 +141,10 @@ bool ksNegativoScritto(const DatiProgetto& dati) {
 void controlloTerreno(const DatiProgetto& dati, ElencoRilievi& elenco) {
     for (int j = 1; j <= dati.nStrati; ++j)
         for (const auto& c : controlliStrato)
-            if (c.dubbio(dati, j))
-                elenco.avviso(
-                    rigaCampo("strato", j, c.etichetta, (dati.*c.colonna)[j] * c.fattore, c.testo));
+            if (c.dubbio(dati, j)) elenco.avviso(rigaCampo(dati, c.colonna, j, c.testo));
     for (const auto& c : controlliScalari)
         if (c.dubbio(dati))
-            elenco.avviso(campo(c.etichetta, dati.*c.campo * c.fattore) + ": " +
-                          traduttore(c.testo));
+            elenco.avviso(campo(c.campo, dati.*c.campo) + ": " + traduttore(c.testo));
     controlloPiede(dati, elenco);
 }
 

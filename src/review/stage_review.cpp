@@ -1,4 +1,5 @@
 #include "base/translated_texts.hpp"
+#include "project/codes.hpp"
 #include "review/list.hpp"
 
 namespace korven::review {
@@ -6,11 +7,12 @@ namespace korven::review {
 namespace {
 
 using project::DatiProgetto;
+using project::TipoTirante;
 
 void numeroTiranti(const DatiProgetto& dati, int k, ElencoRilievi& elenco) {
     const double inOpera = dati.tirantiFase[k];
     const auto dici = [&](std::string_view testo) {
-        return rigaCampo("fase", k, "Numero tot. tiranti", inOpera, testo);
+        return rigaCampo(dati, &DatiProgetto::tirantiFase, k, testo);
     };
     if (inOpera >= project::massimoTiranti + 1)
         elenco.impedimento(dici("più tiranti di quanti ne tiene la tabella (20)"));
@@ -32,20 +34,21 @@ void controlloTiranti(const DatiProgetto& dati, ElencoRilievi& elenco) {
         const double prof = dati.profTirante[j];
         const double rig = dati.rigTirante[j];
         const double pret = dati.pretTirante[j];
-        const auto avvisaSe = [&](bool dubbio, std::string_view etichetta, double valore,
+        const auto avvisaSe = [&](bool dubbio, const project::Membro& colonna,
                                   std::string_view testo) {
-            if (dubbio) elenco.avviso(rigaCampo("tirante", j, etichetta, valore, testo));
+            if (dubbio) elenco.avviso(rigaCampo(dati, colonna, j, testo));
         };
-        avvisaSe(dati.lunghezzaParatia > 0 && prof > dati.lunghezzaParatia, "Prof. [m]", prof,
-                 "è più profondo della paratia");
-        avvisaSe(prof < 0, "Prof. [m]", prof, "è sopra la testa della paratia");
-        avvisaSe(j > 1 && prof < dati.profTirante[j - 1], "Prof. [m]", prof,
+        avvisaSe(dati.lunghezzaParatia > 0 && prof > dati.lunghezzaParatia,
+                 &DatiProgetto::profTirante, "è più profondo della paratia");
+        avvisaSe(prof < 0, &DatiProgetto::profTirante, "è sopra la testa della paratia");
+        avvisaSe(j > 1 && prof < dati.profTirante[j - 1], &DatiProgetto::profTirante,
                  "è più in alto del precedente");
-        avvisaSe(rig < 0, "Rigidezza [kN/m]", rig * 10, "valore negativo");
-        avvisaSe(rig == 0 && pret == 0, "Rigidezza [kN/m]", rig * 10,
+        avvisaSe(rig < 0, &DatiProgetto::rigTirante, "valore negativo");
+        avvisaSe(rig == 0 && pret == 0, &DatiProgetto::rigTirante,
                  "senza rigidezza né pretensione il tirante non agisce");
-        avvisaSe(pret < 0, "Pretens. [kN]", pret * 10, "valore negativo");
-        if (dati.tipoTirante[j] != 0 && dati.tipoTirante[j] != 1)
+        avvisaSe(pret < 0, &DatiProgetto::pretTirante, "valore negativo");
+        if (dati.tipoTirante[j] != TipoTirante::soloTrazione &&
+            dati.tipoTirante[j] != TipoTirante::trazioneCompressione)
             elenco.avviso(
                 conValore(rigaNumerata("tirante", j,
                                        "tipo non previsto: il calcolo lo fa agire solo a "
@@ -59,7 +62,7 @@ void controlloFasi(const DatiProgetto& dati, ElencoRilievi& elenco) {
         const double scavo = dati.profFase[k];
         numeroTiranti(dati, k, elenco);
         const auto avvisaSe = [&](bool dubbio, std::string_view testo) {
-            if (dubbio) elenco.avviso(rigaCampo("fase", k, "Prof. [m]", scavo, testo));
+            if (dubbio) elenco.avviso(rigaCampo(dati, &DatiProgetto::profFase, k, testo));
         };
         avvisaSe(scavo < 0, "lo scavo è sopra la testa della paratia");
         avvisaSe(k > 1 && scavo < dati.profFase[k - 1],
@@ -67,8 +70,7 @@ void controlloFasi(const DatiProgetto& dati, ElencoRilievi& elenco) {
         avvisaSe(dati.lunghezzaParatia > 0 && scavo >= dati.lunghezzaParatia,
                  "lo scavo raggiunge o supera il piede della paratia");
         if (dati.sovraccFase[k] < 0)
-            elenco.avviso(rigaCampo("fase", k, "Sovracc. [kN/m²]", dati.sovraccFase[k] * 10,
-                                    "valore negativo"));
+            elenco.avviso(rigaCampo(dati, &DatiProgetto::sovraccFase, k, "valore negativo"));
     }
 }
 
