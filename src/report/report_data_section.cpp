@@ -1,3 +1,4 @@
+#include "project/codes.hpp"
 #include "report/report_footer.hpp"
 #include "report/report_sections.hpp"
 
@@ -7,7 +8,7 @@ namespace {
 
 using project::DatiProgetto;
 
-// A sentence chosen by a code of the project: the first for 1, the second for 2 and so on.
+// A sentence chosen by a code of the project, in the order of its codes.
 struct FraseCodice {
     double DatiProgetto::*codice;
     std::string_view frasi[4];
@@ -42,20 +43,29 @@ constexpr FraseCodice frasiCodici[] = {
 };
 
 // A code without a sentence gives an empty line, so that there are always seven.
-std::string_view frase(const FraseCodice& voce, double codice) {
-    for (int i = 0; i < 4; ++i)
-        if (codice == i + 1) return voce.frasi[i];
+std::string_view frase(const FraseCodice& voce, double valore) {
+    const auto codici = project::campo(voce.codice).codici;
+    for (std::size_t i = 0; i < codici.size(); ++i)
+        if (codici[i].valore == valore) return voce.frasi[i];
     return {};
 }
 
-void strati(const DatiProgetto& p, RigheRelazione& righe) {
-    righe.titolo("DESCRIZIONE LITOSTRATIGRAFICA");
+using project::Membro;
+
+constexpr Membro colonneStrati[] = {&DatiProgetto::profStrato, &DatiProgetto::gammaN,
+                                    &DatiProgetto::gammaSat,   &DatiProgetto::phiStrato,
+                                    &DatiProgetto::coesione,   &DatiProgetto::ksStrato};
+constexpr Membro colonneTiranti[] = {&DatiProgetto::profTirante, &DatiProgetto::rigTirante,
+                                     &DatiProgetto::pretTirante, &DatiProgetto::tipoTirante};
+constexpr Membro colonneFasi[] = {&DatiProgetto::profFase, &DatiProgetto::tirantiFase,
+                                  &DatiProgetto::sovraccFase, &DatiProgetto::faldaFase};
+
+void tabella(std::string_view titolo, std::span<const Membro> colonne, int quante,
+             const DatiProgetto& p, RigheRelazione& righe) {
+    righe.titolo(titolo);
     righe.riga("#STARTTABLE");
-    righe.intestazione({"Prof. [m]", "Gamma [kN/m³]", "Gamma Sat. [kN/m³]", "Phi [°]",
-                        "Coes. [kN/m²]", "ks [kN/m³]"});
-    for (int i = 1; i <= p.nStrati; ++i)
-        righe.valori({p.profStrato[i], p.gammaN[i] * 10, p.gammaSat[i] * 10, p.phiStrato[i],
-                      p.coesione[i] * 10, p.ksStrato[i] * 10});
+    righe.intestazione(colonne);
+    for (int i = 1; i <= quante; ++i) righe.valori(p, colonne, i);
     righe.riga("#ENDTABLE");
     righe.vuota();
 }
@@ -64,38 +74,16 @@ void parametri(const DatiProgetto& p, RigheRelazione& righe) {
     righe.titolo("PARAMETRI DEL DIAFRAMMA");
     for (const auto& voce : frasiCodici) righe.titolo(frase(voce, p.*voce.codice));
     righe.lista({
-        {"Lunghezza diaframma [m]", p.lunghezzaParatia},
-        {"Rigidezza EJ diaframma [kN m²]", p.rigidezzaEJ * 10},
-        {"Coefficiente 'm' per il calcolo di ks [-]", p.coeffM, p.metodoKs == 2},
-        {"Pressione orizzontale costante [kN/m²]", p.pressioneOrizz * 10, p.pressioneOrizz != 0},
-        {"Sovraccarico verticale lato monte [kN/m²]", p.sovraccMonte * 10},
-        {"Momento esterno applicato alla sommità del diaframma [kN m]", p.momentoTesta * 10},
-        {"Forza orizzontale esterna applicata alla sommità del diaframma [kN]", p.forzaTesta * 10},
-        {"Inclinazione del terreno a monte del diaframma [°]", p.inclinazioneMonte},
-        {"Profondità falda a monte del diaframma [m]", p.faldaMonte},
+        voce(p, &DatiProgetto::lunghezzaParatia),
+        voce(p, &DatiProgetto::rigidezzaEJ),
+        voce(p, &DatiProgetto::coeffM, p.metodoKs == project::MetodoKs::lancellotta),
+        voce(p, &DatiProgetto::pressioneOrizz, p.pressioneOrizz != 0),
+        voce(p, &DatiProgetto::sovraccMonte),
+        voce(p, &DatiProgetto::momentoTesta),
+        voce(p, &DatiProgetto::forzaTesta),
+        voce(p, &DatiProgetto::inclinazioneMonte),
+        voce(p, &DatiProgetto::faldaMonte),
     });
-    righe.vuota();
-}
-
-void tiranti(const DatiProgetto& p, RigheRelazione& righe) {
-    if (p.nTiranti <= 0) return;
-    righe.titolo("DESCRIZIONE TIRANTI");
-    righe.riga("#STARTTABLE");
-    righe.intestazione({"Prof. [m]", "Rigidezza [kN/m]", "Pretens. [kN]", "Tipologia"});
-    for (int j = 1; j <= p.nTiranti; ++j)
-        righe.valori({p.profTirante[j], p.rigTirante[j] * 10, p.pretTirante[j] * 10},
-                     p.tipoTirante[j] == 0 ? "Solo traz." : "Traz./compr.");
-    righe.riga("#ENDTABLE");
-    righe.vuota();
-}
-
-void fasi(const DatiProgetto& p, RigheRelazione& righe) {
-    righe.titolo("DESCRIZIONE FASI DI SCAVO");
-    righe.riga("#STARTTABLE");
-    righe.intestazione({"Prof. [m]", "Numero tot. tiranti", "Sovracc. [kN/m²]", "Prof. falda [m]"});
-    for (int k = 1; k <= p.nFasi; ++k)
-        righe.valori({p.profFase[k], p.tirantiFase[k], p.sovraccFase[k] * 10, p.faldaFase[k]});
-    righe.riga("#ENDTABLE");
     righe.vuota();
 }
 
@@ -111,17 +99,18 @@ void sezioneApertura(const DatiProgetto& progetto, std::string_view piede, Righe
     righe.riga("#LEFT");
     righe.vuota();
     righe.riga("#FONTSIZE 10");
-    for (int i = 1; i <= 6; ++i)
+    for (int i = 1; i <= project::numeroTitoli; ++i)
         if (progetto.titoli[i].find_first_not_of(' ') != std::string::npos)
             righe.riga(progetto.titoli[i]);
     righe.vuota();
 }
 
 void sezioneDati(const DatiProgetto& progetto, RigheRelazione& righe) {
-    strati(progetto, righe);
+    tabella("DESCRIZIONE LITOSTRATIGRAFICA", colonneStrati, progetto.nStrati, progetto, righe);
     parametri(progetto, righe);
-    tiranti(progetto, righe);
-    fasi(progetto, righe);
+    if (progetto.nTiranti > 0)
+        tabella("DESCRIZIONE TIRANTI", colonneTiranti, progetto.nTiranti, progetto, righe);
+    tabella("DESCRIZIONE FASI DI SCAVO", colonneFasi, progetto.nFasi, progetto, righe);
 }
 
 }  // namespace korven::report

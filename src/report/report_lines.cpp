@@ -1,5 +1,7 @@
 #include "report/report_lines.hpp"
 
+#include <algorithm>
+
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
 
@@ -14,23 +16,56 @@ void cella(std::string& riga, std::string_view testo) {
     riga += testo;
 }
 
+// A number that is no code is called as the last one.
+std::string_view vocePrevista(const project::Campo& campo, double valore) {
+    const auto trovato =
+        std::find_if(campo.codici.begin(), campo.codici.end(),
+                     [valore](const project::Codice& codice) { return codice.valore == valore; });
+    return trovato == campo.codici.end() ? campo.codici.back().voce : trovato->voce;
+}
+
 }  // namespace
+
+Voce voce(const project::DatiProgetto& dati, const project::Membro& membro, bool presente) {
+    const project::Campo& campo = project::campo(membro);
+    return {etichetta(campo), mostrato(dati, campo), presente};
+}
 
 void RigheRelazione::riga(std::string_view testo) { testo_.append(testo).append("\r\n"); }
 
 void RigheRelazione::titolo(std::string_view chiave) { riga(base::traduttore(chiave)); }
 
-void RigheRelazione::intestazione(std::initializer_list<std::string_view> chiavi) {
+void RigheRelazione::intestazione(const std::vector<std::string>& chiavi) {
     std::string celle;
-    for (const auto chiave : chiavi) cella(celle, base::traduttore(chiave));
+    for (const auto& chiave : chiavi) cella(celle, base::traduttore(chiave));
     riga(celle);
 }
 
-void RigheRelazione::valori(std::initializer_list<double> numeri, std::string_view chiave) {
+void RigheRelazione::intestazione(std::span<const project::Membro> colonne) {
+    std::vector<std::string> chiavi;
+    for (const auto& colonna : colonne) chiavi.push_back(etichetta(project::campo(colonna)));
+    intestazione(chiavi);
+}
+
+void RigheRelazione::valori(const std::vector<double>& numeri, std::string_view chiave) {
     std::string celle;
     for (const double valore : numeri) cella(celle, numero(valore));
     if (!chiave.empty()) cella(celle, base::traduttore(chiave));
     riga(celle);
+}
+
+void RigheRelazione::valori(const project::DatiProgetto& dati,
+                            std::span<const project::Membro> colonne, int numero) {
+    std::vector<double> numeri;
+    std::string_view parola;
+    for (const auto& colonna : colonne) {
+        const project::Campo& campo = project::campo(colonna);
+        if (campo.codici.empty())
+            numeri.push_back(mostrato(dati, campo, numero));
+        else
+            parola = vocePrevista(campo, project::numero(dati, campo, numero));
+    }
+    valori(numeri, parola);
 }
 
 void RigheRelazione::lista(const std::vector<Voce>& voci) {

@@ -7,6 +7,8 @@ namespace korven::report {
 
 namespace {
 
+using project::DatiProgetto;
+using project::inKilonewton;
 using project::Lato;
 using project::Sezione;
 using structure::TipoSezione;
@@ -18,98 +20,94 @@ void conLista(std::string_view titolo, const std::vector<Voce>& voci, RigheRelaz
     righe.vuota();
 }
 
-void faccia(std::string_view titolo, double diametro, double interasse, double copriferro,
-            RigheRelazione& righe) {
-    conLista(titolo,
-             {{"Diametro armature [mm]", diametro * 10},
-              {"Interasse armature [mm]", interasse * 10},
-              {"Copriferro [mm]", copriferro * 10}},
-             righe);
+void faccia(const DatiProgetto& p, std::string_view titolo, double Sezione::*diametro,
+            double Sezione::*interasse, double Sezione::*copriferro, RigheRelazione& righe) {
+    conLista(titolo, {voce(p, diametro), voce(p, interasse), voce(p, copriferro)}, righe);
 }
 
-void diaframma(const Sezione& s, RigheRelazione& righe) {
+void diaframma(const DatiProgetto& p, RigheRelazione& righe) {
     righe.titolo("CALCOLO STRUTTURALE DIAFRAMMA");
-    if (structure::facciaCompleta(s, Lato::monte))
-        faccia("ARMATURA LATO MONTE", s.diametroMonte, s.interasseMonte, s.copriferroMonte, righe);
-    if (structure::facciaCompleta(s, Lato::valle))
-        faccia("ARMATURA LATO VALLE", s.diametroValle, s.interasseValle, s.copriferroValle, righe);
+    if (structure::facciaCompleta(p.sezione, Lato::monte))
+        faccia(p, "ARMATURA LATO MONTE", &Sezione::diametroMonte, &Sezione::interasseMonte,
+               &Sezione::copriferroMonte, righe);
+    if (structure::facciaCompleta(p.sezione, Lato::valle))
+        faccia(p, "ARMATURA LATO VALLE", &Sezione::diametroValle, &Sezione::interasseValle,
+               &Sezione::copriferroValle, righe);
 }
 
-void pali(const Sezione& s, RigheRelazione& righe) {
+// The spacing of the piles has the caption of the bars.
+void pali(const DatiProgetto& p, RigheRelazione& righe) {
+    Voce interasse = voce(p, &Sezione::paliInterasse);
+    interasse.etichetta = etichetta(project::campo(&Sezione::interasseMonte));
     conLista("CALCOLO STRUTTURALE PALIFICATA",
-             {{"Diametro esterno [mm]", s.paliDiamEst * 10},
-              {"Diametro interno [mm]", s.paliDiamInt * 10},
-              {"Interasse armature [mm]", s.paliInterasse * 10}},
-             righe);
+             {voce(p, &Sezione::paliDiamEst), voce(p, &Sezione::paliDiamInt), interasse}, righe);
 }
 
-void palancola(const Sezione& s, RigheRelazione& righe) {
+void palancola(const DatiProgetto& p, RigheRelazione& righe) {
+    const Sezione& s = p.sezione;
+    const double larghezza = s.palancolaBase + 2 * s.palancolaLargAla;
     conLista("CALCOLO STRUTTURALE PALANCOLA",
-             {{"Larghezza totale elemento [mm]", (s.palancolaBase + 2 * s.palancolaLargAla) * 10},
-              {"Larghezza ala [mm]", s.palancolaLargAla * 10},
-              {"Altezza ala [mm]", s.palancolaAltAla * 10},
-              {"Spessore palancola [mm]", s.palancolaSpessore * 10},
-              {"Spessore ala [mm]", s.palancolaSpessAla * 10}},
+             {{"Larghezza totale elemento [mm]", project::inMillimetri(larghezza)},
+              voce(p, &Sezione::palancolaLargAla),
+              voce(p, &Sezione::palancolaAltAla),
+              voce(p, &Sezione::palancolaSpessore),
+              voce(p, &Sezione::palancolaSpessAla)},
              righe);
 }
 
-// The bar count goes through the factor of the lengths and shows ten times the calculating number.
-void paliArmati(const Sezione& s, RigheRelazione& righe) {
-    const bool staffe = structure::staffePresenti(s);
+void paliArmati(const DatiProgetto& p, RigheRelazione& righe) {
+    const bool staffe = structure::staffePresenti(p.sezione);
     conLista("CALCOLO STRUTTURALE PALI ARMATI",
-             {{"Diametro pali [mm]", s.armDiamPalo * 10},
-              {"Diametro armature longitudinali [mm]", s.armDiamLong * 10},
-              {"Numero armature logitudinali [-]", s.armNumLong * 10},
-              {"Copriferro armature logitudinali [mm]", s.armCopriferro * 10},
-              {"Diametro staffe [mm]", s.armDiamStaffe * 10, staffe},
-              {"Passo staffe [mm]", s.armPassoStaffe * 10, staffe}},
+             {voce(p, &Sezione::armDiamPalo), voce(p, &Sezione::armDiamLong),
+              voce(p, &Sezione::armNumLong), voce(p, &Sezione::armCopriferro),
+              voce(p, &Sezione::armDiamStaffe, staffe), voce(p, &Sezione::armPassoStaffe, staffe)},
              righe);
 }
 
-void descrizione(const Sezione& s, RigheRelazione& righe) {
-    switch (structure::tipoSezione(s)) {
+void descrizione(const DatiProgetto& p, RigheRelazione& righe) {
+    switch (structure::tipoSezione(p.sezione)) {
         case TipoSezione::diaframma:
-            return diaframma(s, righe);
+            return diaframma(p, righe);
         case TipoSezione::pali:
-            return pali(s, righe);
+            return pali(p, righe);
         case TipoSezione::palancola:
-            return palancola(s, righe);
+            return palancola(p, righe);
         case TipoSezione::paliArmati:
-            return paliArmati(s, righe);
+            return paliArmati(p, righe);
         case TipoSezione::nessuno:
             return;
     }
 }
 
-void materiali(const Sezione& s, RigheRelazione& righe) {
-    const bool calcestruzzo = structure::tipoSezione(s) != TipoSezione::palancola;
+void materiali(const DatiProgetto& p, RigheRelazione& righe) {
+    const bool calcestruzzo = structure::tipoSezione(p.sezione) != TipoSezione::palancola;
     conLista("CARATTERISTICHE DEI MATERIALI",
-             {{"Modulo elastico acciaio [N/mm²]", s.modEacciaio},
-              {"Modulo elastico CLS [N/mm²]", s.modEcls, calcestruzzo},
-              {"Resistenza limite acciaio Fyk [N/mm²]", s.fyk},
-              {"Resistenza limite CLS Fck [N/mm²]", s.fck, calcestruzzo}},
+             {voce(p, &Sezione::modEacciaio), voce(p, &Sezione::modEcls, calcestruzzo),
+              voce(p, &Sezione::fyk), voce(p, &Sezione::fck, calcestruzzo)},
              righe);
 }
 
 void flessione(const results::ConfrontoMomenti& c, RigheRelazione& righe) {
-    conLista("VERIFICA DEI MOMENTI FLETTENTI",
-             {{"Momento resistente di calcolo (pos.) [kN m]", c.mrPos * 10},
-              {"Momento resistente di calcolo (neg.) [kN m]", c.mrNeg * 10, c.negativo},
-              {"Momento massimo applicato (pos) [kN m]", c.mMax * 10},
-              {"Momento massimo applicato (neg) [kN m]", c.mMin * 10, c.negativo},
-              {"F.S. parziale delle azioni [-]", c.fsAzioni},
-              {"Momento massimo di calcolo applicato (pos) [kN m]", c.mdMax * 10},
-              {"Momento massimo di calcolo applicato (neg) [kN m]", c.mdMin * 10, c.negativo}},
-             righe);
+    conLista(
+        "VERIFICA DEI MOMENTI FLETTENTI",
+        {{"Momento resistente di calcolo (pos.) [kN m]", inKilonewton(c.mrPos)},
+         {"Momento resistente di calcolo (neg.) [kN m]", inKilonewton(c.mrNeg), c.negativo},
+         {"Momento massimo applicato (pos) [kN m]", inKilonewton(c.mMax)},
+         {"Momento massimo applicato (neg) [kN m]", inKilonewton(c.mMin), c.negativo},
+         {"F.S. parziale delle azioni [-]", c.fsAzioni},
+         {"Momento massimo di calcolo applicato (pos) [kN m]", inKilonewton(c.mdMax)},
+         {"Momento massimo di calcolo applicato (neg) [kN m]", inKilonewton(c.mdMin), c.negativo}},
+        righe);
     righe.titolo(results::sentenza(true, c.verificatoPos));
     if (c.negativo) righe.titolo(results::sentenza(false, c.verificatoNeg));
 }
 
-void taglio(const Sezione& s, const structure::ConfrontoTaglio& confronto, RigheRelazione& righe) {
+void taglio(const DatiProgetto& p, const structure::ConfrontoTaglio& confronto,
+            RigheRelazione& righe) {
     righe.vuota();
     righe.titolo("VERIFICA AL TAGLIO");
-    righe.lista({{"Diametro staffe [mm]", s.armDiamStaffe * 10},
-                 {"Passo staffe [mm]", s.armPassoStaffe * 10},
+    righe.lista({voce(p, &Sezione::armDiamStaffe),
+                 voce(p, &Sezione::armPassoStaffe),
                  {"Capacità portante bielle CLS - Vrd2 [kN]", confronto.Vrd2},
                  {"Capacità portante armatura d'anima - Vrd3 [kN]", confronto.Vrd3},
                  {"Taglio massimo agente sulla struttura [kN]", confronto.taglioMassimo},
@@ -121,13 +119,13 @@ void taglio(const Sezione& s, const structure::ConfrontoTaglio& confronto, Righe
 }  // namespace
 
 void sezioneStrutturale(const results::DatiRelazione& dati, RigheRelazione& righe) {
-    const Sezione& s = dati.progetto.sezione;
     const auto momenti = results::verificaMomenti(dati);
     if (!momenti) return;
-    descrizione(s, righe);
-    materiali(s, righe);
+    descrizione(dati.progetto, righe);
+    materiali(dati.progetto, righe);
     flessione(*momenti, righe);
-    if (const auto confronto = results::verificaAlTaglio(dati)) taglio(s, *confronto, righe);
+    if (const auto confronto = results::verificaAlTaglio(dati))
+        taglio(dati.progetto, *confronto, righe);
 }
 
 }  // namespace korven::report
