@@ -6,6 +6,7 @@
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
 #include "plot/plot_engine.hpp"
+#include "project/field_table.hpp"
 
 namespace korven::drawings {
 
@@ -69,10 +70,19 @@ void Quota::disegna() const {
         plot::testoDa(posizione.x, posizione.y, altezzaQuote, scritta.testo, angolo);
 }
 
-std::string testoMisura(double centimetri) { return base::testoNumero(centimetri * 10) + " [mm]"; }
+std::string testoMisura(double centimetri) {
+    return base::testoNumero(project::inMillimetri(centimetri))
+        .append(" [")
+        .append(project::unita::misura.mostrata)
+        .append("]");
+}
 
 std::string testoQuota(std::string_view didascalia, double centimetri) {
     return base::traduttore(didascalia) + " =" + testoMisura(centimetri);
+}
+
+std::string testoQuota(const project::Sezione& sezione, double project::Sezione::*misura) {
+    return testoQuota(project::campo(misura).didascalia, sezione.*misura);
 }
 
 Quota quotaOrizzontale(double x1, double x2, double y, double yOggetto, const Scritta& scritta) {

@@ -45,6 +45,9 @@ struct Quota {
 /// @param didascalia  Italian key
 /// @param centimetri  the length as it is stored
 [[nodiscard]] std::string testoQuota(std::string_view didascalia, double centimetri);
+/// The same with the caption that the table of fields has.
+[[nodiscard]] std::string testoQuota(const project::Sezione& sezione,
+                                     double project::Sezione::*misura);
 
 /// "80 [mm]", a length without a caption.
 [[nodiscard]] std::string testoMisura(double centimetri);

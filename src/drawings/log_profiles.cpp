@@ -5,6 +5,7 @@
 #include "drawings/log_columns.hpp"
 #include "plot/plot_engine.hpp"
 #include "plot/sheet.hpp"
+#include "project/field_table.hpp"
 
 // The columns that show how a value changes with depth, growing to the right.
 
@@ -19,13 +20,16 @@ struct AsseProfilo {
     double fondoScala;
     double passo;
     int tacche;
-    double fattore;  // of the numbers at the ticks
+    project::Membro campo;  // whose unit the numbers at the ticks have
 };
 
 class Profilo {
  public:
     Profilo(const Stratigrafia& stratigrafia, const Colonna& colonna, const AsseProfilo& asse)
-        : stratigrafia_(stratigrafia), colonna_(colonna), asse_(asse) {}
+        : stratigrafia_(stratigrafia),
+          colonna_(colonna),
+          asse_(asse),
+          campo_(project::campo(asse.campo)) {}
 
     void tacche() const {
         constexpr double sopraTesta = 0.1;
@@ -33,7 +37,7 @@ class Profilo {
             const double valore = k * asse_.passo;
             plot::linea(x(valore), piedeTabella, x(valore), testaTabella);
             plot::testoCentrato(x(valore), testaTabella + sopraTesta, altezzaNumeriColonna,
-                                base::formattaMaschera(valore * asse_.fattore, "00"));
+                                base::formattaMaschera(mostrato(campo_, valore), "00"));
         }
     }
 
@@ -55,6 +59,7 @@ class Profilo {
     const Stratigrafia& stratigrafia_;
     const Colonna& colonna_;
     const AsseProfilo& asse_;
+    const project::Campo& campo_;
 };
 
 void disegnaProfilo(const Stratigrafia& stratigrafia, const Colonna& colonna,
@@ -71,24 +76,24 @@ double massimo(const ColonnaStrati& valori, int n) {
     return trovato;
 }
 
-constexpr double kilonewton = 10;  // in a tonne-force
-
 }  // namespace
 
 void disegnaPesi(const Stratigrafia& stratigrafia, const Colonna& colonna) {
     disegnaTestata(colonna, {"gamma N [kN/m³]", "gamma S [kN/m³]"});
     const auto& dati = stratigrafia.dati;
-    disegnaProfilo(stratigrafia, colonna, {3, 0.5, 5, kilonewton}, {&dati.gammaN, &dati.gammaSat});
+    disegnaProfilo(stratigrafia, colonna, {3, 0.5, 5, &project::DatiProgetto::gammaN},
+                   {&dati.gammaN, &dati.gammaSat});
 }
 
 void disegnaAttrito(const Stratigrafia& stratigrafia, const Colonna& colonna) {
     disegnaTestata(colonna, {"angolo attrito [°]"});
-    disegnaProfilo(stratigrafia, colonna, {50, 10, 4, 1}, {&stratigrafia.dati.phiStrato});
+    disegnaProfilo(stratigrafia, colonna, {50, 10, 4, &project::DatiProgetto::phiStrato},
+                   {&stratigrafia.dati.phiStrato});
 }
 
 void disegnaCoesione(const Stratigrafia& stratigrafia, const Colonna& colonna) {
-    constexpr AsseProfilo assi[] = {
-        {5, 1, 4, kilonewton}, {10, 2, 4, kilonewton}, {50, 10, 4, kilonewton}};
+    constexpr auto campo = &project::DatiProgetto::coesione;
+    constexpr AsseProfilo assi[] = {{5, 1, 4, campo}, {10, 2, 4, campo}, {50, 10, 4, campo}};
     const auto& dati = stratigrafia.dati;
     const double c = massimo(dati.coesione, dati.nStrati);
     const double su = massimo(dati.suStrato, dati.nStrati);

@@ -13,6 +13,7 @@ namespace korven::drawings {
 namespace {
 
 using project::Lato;
+using project::Sezione;
 
 constexpr double distanzaQuote = 0.6;  // of a dimension from the piles
 
@@ -54,8 +55,7 @@ Candidate quotaDiametro(const Pali& pali, double raggio, bool sopra, const Scrit
     return quote;
 }
 
-Candidate quotaInterasse(const Pali& pali, double centimetri) {
-    const Scritta testo = testoQuota("Interasse pali", centimetri);
+Candidate quotaInterasse(const Pali& pali, const Scritta& testo) {
     Candidate quote;
     for (const double x : {pali.destra() + 2 * distanzaQuote, pali.destra() + distanzaQuote,
                            pali.sinistra() - distanzaQuote})
@@ -74,10 +74,9 @@ void vistaPali(const project::Sezione& s) {
         croce(xVista, pali.y(k));
     }
     PostiQuote posti = attorno(pali);
-    posti.disponi(
-        {quotaDiametro(pali, pali.raggio, true, testoQuota("Diametro esterno", s.paliDiamEst)),
-         quotaDiametro(pali, interno, false, testoQuota("Diametro interno", s.paliDiamInt)),
-         quotaInterasse(pali, s.paliInterasse)});
+    posti.disponi({quotaDiametro(pali, pali.raggio, true, testoQuota(s, &Sezione::paliDiamEst)),
+                   quotaDiametro(pali, interno, false, testoQuota(s, &Sezione::paliDiamInt)),
+                   quotaInterasse(pali, testoQuota(s, &Sezione::paliInterasse))});
 }
 
 namespace {
@@ -158,12 +157,11 @@ void vistaPaliArmati(const project::Sezione& s) {
         croce(xVista, y);
     }
     PostiQuote posti = attorno(pali);
-    posti.disponi(
-        {quotaInterasse(pali, s.armInterasse),
-         quotaDiametro(pali, pali.raggio, true, testoQuota("Diametro pali", s.armDiamPalo)),
-         quotaFerri(pali, corona, s), quotaCopriferro(pali, s),
-         quotaStaffe(pali, staffa, true, testoQuota("Diametro staffe", s.armDiamStaffe)),
-         quotaStaffe(pali, staffa, false, testoQuota("Passo staffe", s.armPassoStaffe))});
+    posti.disponi({quotaInterasse(pali, testoQuota(s, &Sezione::armInterasse)),
+                   quotaDiametro(pali, pali.raggio, true, testoQuota(s, &Sezione::armDiamPalo)),
+                   quotaFerri(pali, corona, s), quotaCopriferro(pali, s),
+                   quotaStaffe(pali, staffa, true, testoQuota(s, &Sezione::armDiamStaffe)),
+                   quotaStaffe(pali, staffa, false, testoQuota(s, &Sezione::armPassoStaffe))});
 }
 
 }  // namespace korven::drawings

@@ -7,6 +7,7 @@
 #include "drawings/section_views.hpp"
 #include "plot/plot_engine.hpp"
 #include "plot/sheet.hpp"
+#include "project/units.hpp"
 #include "structure/section_type.hpp"
 
 namespace korven::drawings {
@@ -25,7 +26,9 @@ void nomiDeiLati() {
 
 void cella(double x, double y, std::string_view grandezza, double valore) {
     plot::testoDa(x, y, altezzaTesti,
-                  traduttore(grandezza) + " =" + base::testoNumero(valore) + " [N/mm²]");
+                  (traduttore(grandezza) + " =" + base::testoNumero(valore) + " [")
+                      .append(project::unita::tensione.mostrata)
+                      .append("]"));
 }
 
 void riquadroMateriali(const project::Sezione& s) {

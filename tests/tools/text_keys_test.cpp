@@ -243,7 +243,7 @@ const std::map<std::string, Texts> noTexts = {
     {"report/report_footer.hpp", {"2,2,2,2,2,2,12,Arial"}},
     {"drawings/stratigraphic_log.cpp", {"stratigrafia"}},
     {"markup/syllable_rule.cpp", {"BCDFGLMNPQRSTVZbcdfglmnpqrstvz", "AEIOUaeiou"}},
-    {"drawings/section_drawing.cpp", {"[N/mm²]", "sezione"}},
+    {"drawings/section_drawing.cpp", {"sezione"}},
 };
 
 bool letter(char c) {
