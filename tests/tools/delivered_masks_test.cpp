@@ -12,6 +12,7 @@
 #include "base/program_folder.hpp"
 #include "base/translated_texts.hpp"
 #include "masks/column_keys.hpp"
+#include "masks/edited_fields.hpp"
 #include "masks/field_check.hpp"
 #include "masks/field_model.hpp"
 #include "masks/grid_model.hpp"
@@ -175,6 +176,42 @@ TEST_F(DeliveredMasks, AcceptWhatANewProjectHolds) {
         for (std::size_t i = mask.scelte.size(); i < mask.campi.size(); ++i)
             EXPECT_EQ(masks::controllaCampo(mask.campi[i], form.testo(i)), masks::Vizio::nessuno)
                 << mask.campi[i].etichetta;
+    }
+}
+
+// The forms are built from the mask files alone; what these say of a field is what the table of
+// fields says.
+TEST_F(DeliveredMasks, SayOfEachFieldWhatTheTableOfFieldsSays) {
+    auto all = masks(1);
+    for (const auto number : allMasks) {
+        all.selezionaMaschera(static_cast<int>(number));
+        const auto& mask = all.corrente();
+        auto fields = masks::campiEditati(number);
+        const bool headings = number == NumeroMaschera::titoli;
+        if (headings) fields.resize(project::numeroTitoli, fields[0]);  // one column, line by line
+        const std::size_t first = mask.genere == masks::GenereMaschera::campi ? 0 : 1;
+        ASSERT_EQ(mask.campi.size(), first + fields.size() + (headings ? 1 : 0));
+        for (std::size_t i = 0; i < fields.size(); ++i) {
+            const auto& shown = mask.campi[first + i];
+            const auto& field = *fields[i];
+            const auto label =
+                headings ? "Titolo [" + std::to_string(i + 1) + "]" : project::etichetta(field);
+            EXPECT_EQ(shown.etichetta, label);
+            const auto limits = field.limiti.value_or(project::Limiti{0, 0});
+            const bool choice = i < mask.scelte.size();
+            std::vector<std::string> items, keys;
+            for (const auto& code : field.codici) {
+                items.emplace_back(code.voce);
+                keys.push_back(base::testoNumero(code.valore));
+            }
+            if (choice) {
+                EXPECT_EQ(mask.scelte[i], items) << label;
+                continue;
+            }
+            EXPECT_EQ(shown.minimo, limits.minimo) << label;
+            EXPECT_EQ(shown.massimo, limits.massimo) << label;
+            EXPECT_EQ(masks::chiaviColonna(shown.aiuto), keys) << label;
+        }
     }
 }
 
