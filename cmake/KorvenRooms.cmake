@@ -12,6 +12,13 @@ target_compile_options(korven_rules INTERFACE
     $<$<CXX_COMPILER_ID:Clang>:-Wno-sign-conversion>)
 target_include_directories(korven_rules INTERFACE ${PROJECT_SOURCE_DIR}/src)
 
+# What hardens the release: a stack, a copy or an index run over ends the program where it happens,
+# and nothing that is called through a table can be bent once the program has started. Tests and the
+# programs of the build go without: _FORTIFY_SOURCE asks for an optimised build.
+set(korven_hardened_code
+    "$<$<CONFIG:Release>:-fPIE;-fstack-protector-strong;-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2;-D_GLIBCXX_ASSERTIONS>")
+set(korven_hardened_link "$<$<CONFIG:Release>:-pie;LINKER:-z,relro,-z,now>")
+
 # korven_room(<room> <known>...) declares the room src/<room> and the rooms whose headers it includes,
 # no more and no less: tests/architecture reads the same lists and compares them with the includes.
 #
@@ -34,12 +41,24 @@ function(korven_room room)
         add_library(korven_${outer} INTERFACE)
     endif()
     target_link_libraries(korven_${outer} ${scope} korven_rules)
+    if(NOT scope STREQUAL INTERFACE)
+        target_compile_options(korven_${outer} PRIVATE ${korven_hardened_code})
+    endif()
     foreach(other IN LISTS ARGN)
         string(REGEX REPLACE "/.*" "" library ${other})
         if(NOT library STREQUAL outer)
             target_link_libraries(korven_${outer} ${scope} korven_${library})
         endif()
     endforeach()
+endfunction()
+
+# korven_program(<name> <room>) makes the program whose main.cpp lies in src/<room>.
+function(korven_program name room)
+    add_executable(${name} ${room}/main.cpp)
+    target_link_libraries(${name} PRIVATE korven_${room})
+    target_compile_options(${name} PRIVATE ${korven_hardened_code})
+    target_link_options(${name} PRIVATE ${korven_hardened_link})
+    add_dependencies(${name} korven_data)
 endfunction()
 
 # korven_test(<name>) makes the test program of the folder tests/<name> and of the folders in it, and
