@@ -72,13 +72,14 @@ std::optional<ValoreFuori> ModelloPenne::valoreFuori(std::string_view margineSin
     return {};
 }
 
-void ModelloPenne::conferma(std::string_view margineSinistro, std::string_view margineSuperiore) {
+void ModelloPenne::conferma(std::string_view margineSinistro, std::string_view margineSuperiore,
+                            const base::Disco& disco) {
     configurazione_.margineSinistro = numeroScritto(margineSinistro);
     configurazione_.margineSuperiore = numeroScritto(margineSuperiore);
     // A file that can't be read back would end the program at the next drawing.
     base::LettoreRighe daScrivere(percorso_, testoConfigurazione(configurazione_));
     static_cast<void>(leggiConfigurazione(daScrivere));
-    scriviConfigurazione(percorso_, configurazione_);
+    scriviConfigurazione(percorso_, configurazione_, disco);
     statoPlot.scostamentoX = configurazione_.margineSinistro;
     statoPlot.scostamentoY = configurazione_.margineSuperiore;
 }

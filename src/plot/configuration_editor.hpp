@@ -61,7 +61,8 @@ class ModelloPenne {
     /// The pens come into force with the next drawing.
     /// @throws ErroreFile with the system's reason, or with the line of a width or a margin that
     ///         could not be read back; the margins in force and the file are then as before
-    void conferma(std::string_view margineSinistro, std::string_view margineSuperiore);
+    void conferma(std::string_view margineSinistro, std::string_view margineSuperiore,
+                  const base::Disco& disco = base::discoDiSistema());
 
  private:
     PennaConfigurata* pennaDaCambiare();

@@ -232,8 +232,7 @@ TEST_F(IngressoRotto, APipeIsToldInsteadOfWaitedFor) {
 
 TEST_F(IngressoRotto, AFullStandardOutputIsTold) {
     ASSERT_EQ(console({"calcola", progetto}).codice, 0);  // what follows writes no result file
-    metti(cartella / "uscita", "");
-    const Ambiente piena{.limiteFile = 0, .uscita = cartella / "uscita"};
+    const Ambiente piena{.uscita = "/dev/full"};
     for (const std::vector<std::string>& argomenti : {std::vector<std::string>{"calcola", progetto},
                                                       {"calcola", progetto, "--json"},
                                                       {"verifica", progetto},

@@ -1,6 +1,7 @@
 #include "plot/configuration_editor.hpp"
 
 #include "base/file_error.hpp"
+#include "support/failing_disk.hpp"
 #include "support/plot_setup.hpp"
 
 namespace korven::plot {
@@ -153,6 +154,15 @@ TEST_F(Penne, KeepTheMarginsInForceWhenTheFileCannotBeWritten) {
     std::filesystem::remove(file);
     std::filesystem::create_directory(file);  // a folder has taken the name
     EXPECT_THROW(modello.conferma("1", "2"), base::ErroreFile);
+    EXPECT_EQ(statoPlot.scostamentoX, 0);
+}
+
+TEST_F(Penne, KeepTheirFileAndTheMarginsInForceOnAFullDisk) {
+    ModelloPenne modello(file);
+    const std::string prima = test::contenuto(file);
+    const test::DiscoPieno disco(100);
+    EXPECT_THROW(modello.conferma("1", "2", disco), base::ErroreScrittura);
+    EXPECT_EQ(test::contenuto(file), prima);
     EXPECT_EQ(statoPlot.scostamentoX, 0);
 }
 
