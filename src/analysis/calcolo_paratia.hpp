@@ -40,7 +40,8 @@ struct PorteCalcolo {
 /// The stages are computed only when the result file does not already hold this very project.
 /// `Progetto.faldaValle` is stored before the stages overwrite it: a run whose last stage changes
 /// it is followed by one more when asked again in the same session.
-///  A refused, singular or stopped run leaves no result file once it has begun one; a refusal by
+///
+/// A refused, singular or stopped run leaves no result file once it has begun one; a refusal by
 /// the first checks leaves an older one alone. `fileCorrente` is restored at every exit but one: a
 /// run without a stiffness EJ leaves it at the result file's name until another file is opened.
 ///

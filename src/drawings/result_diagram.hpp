@@ -7,7 +7,8 @@ namespace korven::drawings {
 
 /// Draws one result along the wall on one sheet: the curves of all stages in one frame, each stage
 /// in pen 14 + its number, or those of one stage alone.
-///  The wall is the vertical line in the middle of the frame, its top above, uphill to the left.
+///
+/// The wall is the vertical line in the middle of the frame, its top above, uphill to the left.
 /// Values count to the right, pressures to the left, so that uphill pressures are drawn uphill. The
 /// scale of the shear is that of the last stage, and nothing is cut at the frame.
 /// @param faseGrafico  the stage to draw, 0 for all

@@ -23,7 +23,8 @@ struct EstremiTaglio {
 ///  anchor after anchor in the order of their table, so that a later anchor may build on a value
 /// that an earlier one has set. Nodes beyond the toe read 0. An anchor at depth 0 keeps the node's
 /// own value, and one that is at no node of the wall changes nothing.
-///  Where an anchor's depth is exactly the node's `zNodo`, as doubles, the value above it counts
+///
+/// Where an anchor's depth is exactly the node's `zNodo`, as doubles, the value above it counts
 /// too, taglioNodo[i] - tiro, with tiro = pretTirante + rigTirante (yNodo[i] - yTirante). An anchor
 /// between two nodes has no such second value.
 ///

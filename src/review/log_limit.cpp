@@ -18,8 +18,8 @@ std::string rifiutoStratigrafia(const project::DatiProgetto& dati) {
     }
     if (basso - alto <= massimaAltezzaStratigrafia) return {};
     return rigaCampo(dati, &project::DatiProgetto::profStrato, lontano,
-                             "la colonna stratigrafica non è disegnata oltre i 500 m di altezza: "
-                             "correggere la profondità");
+                     "la colonna stratigrafica non è disegnata oltre i 500 m di altezza: "
+                     "correggere la profondità");
 }
 
 }  // namespace korven::review

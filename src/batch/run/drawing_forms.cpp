@@ -12,7 +12,6 @@
 #include "batch/run/failure.hpp"
 #include "batch/run/interruption.hpp"
 #include "batch/run/output_names.hpp"
-#include "review/log_limit.hpp"
 #include "device/drawing_files.hpp"
 #include "device/drawing_fonts.hpp"
 #include "device/graphics_session.hpp"
@@ -22,6 +21,7 @@
 #include "plot/text_width.hpp"
 #include "project/output_guard.hpp"
 #include "project/project_data.hpp"
+#include "review/log_limit.hpp"
 
 namespace korven::batch {
 

@@ -60,7 +60,9 @@ void FormaMaschera::disponi(QSize comoda) {
     if (!isMaximized()) move(screen()->availableGeometry().center() - rect().center());
 }
 
-bool FormaMaschera::apriGuida() { return guida_ && guida_(help::contestoGuida(maschera_.contesto)); }
+bool FormaMaschera::apriGuida() {
+    return guida_ && guida_(help::contestoGuida(maschera_.contesto));
+}
 
 void FormaMaschera::mostraGuida() {
     if (!guida_ || !guida_(help::contestoGuida(masks::voceGuida(maschera_))))
