@@ -167,8 +167,8 @@ bool areParameters(const Tokens& t, std::size_t open, std::size_t behind) {
 }
 
 bool declaresNoVariable(const Tokens& t) {
-    static const std::set<std::string> beginnings = {"using",  "typedef", "static_assert",
-                                                     "friend", "extern",  "namespace"};
+    static const std::set<std::string> beginnings = {
+        "using", "typedef", "static_assert", "friend", "extern", "namespace", "concept"};
     static const std::set<std::string> types = {"struct", "class", "union", "enum"};
     if (t.empty() || beginnings.contains(t[0]) || has(t, "operator")) return true;
     // A type declared ahead, or defined without a variable.

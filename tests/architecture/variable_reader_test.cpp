@@ -62,6 +62,7 @@ TEST(ProcessVariables, AreNoneOfTheDeclarationsOfOtherThings) {
                          "namespace fs = std::filesystem; int f(); int g(int, const S&, A a = {}, "
                          "bool b = c(1, 2), int (*d)(int));"
                          "static_assert(sizeof(int) == 4); template <class T> T h(T t);"
+                         "template <class T> concept C = sizeof(T) == 4;"
                          "template <> struct X<2> { using Y = int; };"
                          "bool operator==(const S& a, const S& b); S& S::operator=(S&&) {}"
                          "extern \"C\" void k(int) {} extern \"C\" { void l(int i); }")

@@ -5,7 +5,7 @@
 #include <stdexcept>
 #include <vector>
 
-#include "support/recording_ports.hpp"
+#include "support/dialog_double.hpp"
 
 namespace korven::base {
 namespace {

@@ -9,6 +9,7 @@
 #include "support/dialog_double.hpp"
 #include "support/document_ports.hpp"
 #include "support/plain_masks.hpp"
+#include "support/progress_double.hpp"
 #include "support/sample_projects.hpp"
 
 namespace korven::commands {

@@ -6,6 +6,7 @@
 #include "base/code_page.hpp"
 #include "base/file_error.hpp"
 #include "project/output_guard.hpp"
+#include "project/project_file.hpp"
 #include "support/failing_disk.hpp"
 #include "support/run_harness.hpp"
 #include "support/sample_projects.hpp"
