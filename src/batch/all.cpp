@@ -50,6 +50,7 @@ bool tavolaStratigrafia(Esito& esito) {
 const std::vector<Tavola>& tavole() {
     static const auto tutte = [] {
         std::vector<Tavola> fatte;
+        fatte.reserve(analysis::diagrammi.size() + 2);
         for (const auto& riga : analysis::diagrammi)
             fatte.push_back({nomeDiagramma(riga), nullptr, riga.diagramma});
         fatte.push_back({{"sezione", "section"}, tavolaSezione, std::nullopt});

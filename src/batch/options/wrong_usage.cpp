@@ -58,6 +58,7 @@ std::string comandoMancante(int argc, const char* const* argv,
                             const std::vector<RigaComando>& comandi) {
     if (argc > 1 && std::string_view(argv[1]).starts_with('-')) return primaDelComando(argv[1]);
     std::vector<std::string> nomi;
+    nomi.reserve(comandi.size());
     for (const auto& comando : comandi) nomi.push_back(comando.nome.mostrato());
     return (argc > 1 ? traduttore("comando sconosciuto") + " (" + argv[1] + ")"
                      : traduttore("manca il comando")) +
