@@ -128,7 +128,7 @@ TEST(TestMode, TellsNothingOfATextThatIsInOrder) {
 }
 
 // The program's own table, language and mode are put back, so that tests can run in any order.
-class ProgramTexts : public ::testing::Test {
+class TestiProgramma : public ::testing::Test {
  protected:
     void TearDown() override {
         tabellaTesti.nTesti = 0;
@@ -138,7 +138,7 @@ class ProgramTexts : public ::testing::Test {
     test::CartellaProvvisoria cartella;
 };
 
-TEST_F(ProgramTexts, WithNoTableEveryTextComesBackTrimmedInEveryLanguage) {
+TEST_F(TestiProgramma, WithNoTableEveryTextComesBackTrimmedInEveryLanguage) {
     for (int lingua = 1; lingua <= 6; ++lingua) {
         impostaLingua(lingua);
         EXPECT_EQ(linguaCorrente(), lingua);
@@ -146,7 +146,7 @@ TEST_F(ProgramTexts, WithNoTableEveryTextComesBackTrimmedInEveryLanguage) {
     }
 }
 
-TEST_F(ProgramTexts, TableIsMadeOfBothFilesAndSortedAsOne) {
+TEST_F(TestiProgramma, TableIsMadeOfBothFilesAndSortedAsOne) {
     test::metti(cartella / "texts01.txt", "Zeta\r\nZ\r\nZ\r\nZ\r\nZed\r\nZ\r\n\r\n");
     test::metti(cartella / "texts06.txt",
                 "Momento\r\nM\r\nM\r\nM\r\nMoment\r\nM\r\n\r\nAlfa\r\nA\r\nA\r\nA\r\nAlpha\r\nA");
@@ -164,7 +164,7 @@ TEST_F(ProgramTexts, TableIsMadeOfBothFilesAndSortedAsOne) {
     EXPECT_EQ(prova.messaggi.size(), 1u);
 }
 
-TEST_F(ProgramTexts, AddedTextsStandBehindTheTableWhoseSizeIsFixed) {
+TEST_F(TestiProgramma, AddedTextsStandBehindTheTableWhoseSizeIsFixed) {
     test::metti(cartella / "texts01.txt", "Zeta\r\nZ\r\nZ\r\nZ\r\nZed\r\nZ\r\n\r\n");
     test::metti(cartella / "texts06.txt", "Fase\r\nS\r\nP\r\nF\r\nStage\r\nF\r\n\r\n");
     test::metti(cartella / "texts32.txt",
@@ -192,7 +192,7 @@ TEST_F(ProgramTexts, AddedTextsStandBehindTheTableWhoseSizeIsFixed) {
     EXPECT_EQ(tabellaTesti.nTesti, 0);
 }
 
-TEST_F(ProgramTexts, MissingOrBrokenFileIsRefusedAndLeavesNoTexts) {
+TEST_F(TestiProgramma, MissingOrBrokenFileIsRefusedAndLeavesNoTexts) {
     test::metti(cartella / "texts01.txt", "Zeta\r\nZ\r\nZ\r\nZ\r\nZed\r\nZ\r\n\r\n");
     EXPECT_THROW(caricaTesti(cartella / "texts01.txt", cartella / "manca.txt"), ErroreFile);
     EXPECT_THROW(caricaTesti(cartella / "manca.txt", cartella / "texts01.txt"), ErroreFile);
@@ -201,7 +201,7 @@ TEST_F(ProgramTexts, MissingOrBrokenFileIsRefusedAndLeavesNoTexts) {
     EXPECT_EQ(tabellaTesti.nTesti, 0);
 }
 
-TEST_F(ProgramTexts, LanguageFileHoldsTheCodeOnItsOneLine) {
+TEST_F(TestiProgramma, LanguageFileHoldsTheCodeOnItsOneLine) {
     const std::string file = cartella / "language.cfg";
     const std::pair<const char*, int> casi[] = {{"1\r\n", 1}, {"6", 6},     {" 5 \r\n", 5},
                                                 {"0\r\n", 0}, {"7\r\n", 7}, {"-2\r\n", -2}};
@@ -211,7 +211,7 @@ TEST_F(ProgramTexts, LanguageFileHoldsTheCodeOnItsOneLine) {
     }
 }
 
-TEST_F(ProgramTexts, LanguageFileWithoutAWholeNumberIsRefused) {
+TEST_F(TestiProgramma, LanguageFileWithoutAWholeNumberIsRefused) {
     const std::string file = cartella / "language.cfg";
     EXPECT_THROW((void)leggiLingua(file), ErroreFile);
     for (const char* testo : {"", "\r\n", "eng\r\n", "2.5\r\n", "1e30\r\n"}) {

@@ -26,7 +26,7 @@ constexpr const char* markup = "#RESET\r\n#HEADER h\r\ntesto\r\n#ENDDOCUMENT\r\n
 constexpr const char* text = "h\r\ntesto\r\n\r\n";
 
 /// Starts nothing, keeps what was to be started and answers as told.
-class StartedPrograms : public base::AvviaProgramma {
+class ProgrammiAvviati : public base::AvviaProgramma {
  public:
     bool avvia(const std::string& programma, const std::vector<std::string>& argomenti,
                base::Finestra finestra) override {
@@ -88,7 +88,7 @@ class ReportExport : public testing::Test {
     const std::string txt = folder / "muro.txt";
     const std::string doc = folder / "muro.doc";
     test::DialogoFinto dialog;
-    StartedPrograms programs;
+    ProgrammiAvviati programs;
     Lines proposed;
     std::string answer;
     PorteEsportazione ports{dialog, programs, [this](const std::string& name) {
