@@ -1,5 +1,7 @@
 #include "commands/edit_commands.hpp"
 
+#include <cassert>
+
 #include "base/number_text.hpp"
 #include "base/table.hpp"
 #include "base/translated_texts.hpp"
@@ -45,6 +47,7 @@ void editaMaschera(NumeroMaschera numero, masks::Maschere& maschere, const Forme
 
 void edita(NumeroMaschera numero, const char* rifiuto, base::Dialogo& dialogo,
            masks::Maschere& maschere, const FormeProgramma& forme) {
+    assert(numero == senzaMaschera ? bool(forme.sezione) : bool(forme.maschera));
     if (project::fileCorrente.empty())
         dialogo.messaggio(base::traduttore(rifiuto), base::traduttore("ATTENZIONE") + "!",
                           base::Icona::nessuna);

@@ -1,5 +1,7 @@
 #include "commands/output_commands.hpp"
 
+#include <cassert>
+
 #include "analysis/calcolo_paratia.hpp"
 #include "analysis/run_flags.hpp"
 #include "base/file_error.hpp"
@@ -70,6 +72,7 @@ bool senzaProgetto(base::Dialogo& dialogo) {
 }  // namespace
 
 void produciRelazione(Destinazione destinazione, const PorteUscita& porte) {
+    assert(porte.forme.*destinazione);
     if (senzaProgetto(porte.dialogo)) return;
     base::GuardiaPuntatore clessidra(porte.dialogo);
     UscitaRelazione uscita(true);
@@ -81,6 +84,7 @@ void produciRelazione(Destinazione destinazione, const PorteUscita& porte) {
 }
 
 void produciDiagramma(analysis::Diagramma quale, const PorteUscita& porte) {
+    assert(porte.forme.grafica);
     if (senzaProgetto(porte.dialogo)) return;
     UscitaDiagramma uscita;
     bool disegnato = false;
@@ -92,6 +96,7 @@ void produciDiagramma(analysis::Diagramma quale, const PorteUscita& porte) {
 }
 
 void produciSezione(const PorteUscita& porte) {
+    assert(porte.forme.grafica);
     if (senzaProgetto(porte.dialogo)) return;
     drawings::disegnaSezione(project::Progetto);
     porte.forme.grafica();
@@ -99,6 +104,7 @@ void produciSezione(const PorteUscita& porte) {
 
 // Layers far apart take minutes to be hatched, which their user may cut short.
 void produciStratigrafia(const PorteUscita& porte) {
+    assert(porte.forme.grafica);
     const auto& forme = porte.forme;
     const auto disegna = [&] {
         const plot::LavoroDisegno lavoro;

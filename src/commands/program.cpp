@@ -1,5 +1,7 @@
 #include "commands/program.hpp"
 
+#include <cassert>
+
 #include "analysis/run_flags.hpp"
 #include "analysis/watch/followed_run.hpp"
 #include "commands/edit_commands.hpp"
@@ -7,6 +9,11 @@
 #include "help/contexts.hpp"
 
 namespace korven::commands {
+
+bool Programma::esegui(const VoceMenu& voce) {
+    assert(puo(voce));
+    return voce.comando(*this, voce);
+}
 
 bool Programma::puo(const VoceMenu& voce) const {
     return !apreMenu(voce) && (voce.haForma == nullptr || voce.haForma(forme_));

@@ -22,9 +22,9 @@ class Programma {
           finestra_(finestra),
           documento_(dialogo, nomi, finestra) {}
 
-    /// Carries the command of an item out. @pre `puo`
+    /// Carries the command of an item out. @pre `puo`: asserted
     /// @return true when the program is to end
-    bool esegui(const VoceMenu& voce) { return voce.comando(*this, voce); }
+    bool esegui(const VoceMenu& voce);
 
     /// False when the item opens a menu, or the form of its command is not plugged in.
     [[nodiscard]] bool puo(const VoceMenu& voce) const;
