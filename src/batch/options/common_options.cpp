@@ -6,6 +6,7 @@
 
 #include "base/number_text.hpp"
 #include "device/drawing_files.hpp"
+#include "project/codes.hpp"
 
 namespace korven::batch {
 
@@ -98,8 +99,9 @@ std::vector<Opzione> opzioniModello(bool cartellaObbligatoria) {
                      {{"--metodo-spinte", "--pressures"},
                       "metodo delle spinte (un progetto si riapre sempre con Coulomb)",
                       [](Opzioni& o, std::size_t quale) {
-                          constexpr double codici[] = {3, 1, 2};  // as the project stores them
-                          o.metodoSpinte = codici[quale];
+                          using enum project::MetodoSpinte;
+                          constexpr project::MetodoSpinte metodi[] = {bell, coulomb, rankine};
+                          o.metodoSpinte = project::valore(metodi[quale]);
                       },
                       {},
                       {uguali("bell"), uguali("coulomb"), uguali("rankine")}},

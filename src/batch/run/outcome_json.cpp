@@ -4,6 +4,7 @@
 #include "base/translated_texts.hpp"
 #include "base/version.hpp"
 #include "batch/run/outcome.hpp"
+#include "project/units.hpp"
 
 namespace korven::batch {
 
@@ -14,8 +15,8 @@ using Json = nlohmann::ordered_json;
 // Six decimals, without the noise of a product; a zero has no sign for the reader of a result.
 double arrotondato(double valore) { return std::round(valore * 1e6) / 1e6 + 0.0; }
 
-// t to kN, t m to kN m. The result file has seven decimals of them.
-double kN(double forza) { return std::round(forza * 1e7) / 1e6 + 0.0; }
+// t to kN, t m to kN m, in one product. The result file has seven decimals of them.
+double kN(double forza) { return std::round(forza * (project::kilonewton * 1e6)) / 1e6 + 0.0; }
 double kNm(double momento) { return kN(momento); }
 
 Json fase(const results::EstremiFase& riga, const Esito& esito) {
