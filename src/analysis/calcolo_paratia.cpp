@@ -77,7 +77,7 @@ void racconta(const FaseCalcolata& fase, base::Dialogo& dialogo) {
 
 void aggiornaRisultati(int nSeg, const structure::MomentiResistenti& MRd,
                        const PorteCalcolo& porte) {
-    FileInCorso file(porte.avanzamento);
+    FileInCorso file(porte.avanzamento, porte.disco);
     stopCalcolo = false;
     CorsaSuFile seguito(file, nSeg + 1, porte.avanzamento);
     const EsitoCorsa corsa = calcolaFasi(Progetto, nSeg, seguito);

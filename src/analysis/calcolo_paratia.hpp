@@ -7,6 +7,7 @@
 #include "analysis/progress.hpp"
 #include "analysis/result_guard.hpp"
 #include "base/dialogo.hpp"
+#include "base/disk.hpp"
 
 namespace korven::analysis {
 
@@ -31,6 +32,8 @@ struct PorteCalcolo {
     UscitaCalcolo& uscita;
     /// Keeps the result file from other runs, for as long as it lives; none: nobody else is there.
     GuardiaRisultati* guardia = nullptr;
+    /// Takes the result file.
+    const base::Disco& disco = base::discoDiSistema();
 };
 
 /// The one entry of the analysis: refuses a project that can't be computed, brings the result file

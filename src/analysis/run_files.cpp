@@ -34,9 +34,9 @@ ProgettoAlSicuro::ProgettoAlSicuro(const std::string& progetto)
 
 ProgettoAlSicuro::~ProgettoAlSicuro() { project::progettiProtetti.corrente = prima_; }
 
-FileInCorso::FileInCorso(Avanzamento& avanzamento)
-    : avanzamento_(avanzamento), nome_(fileCorrente) {
-    project::scriviProgetto();
+FileInCorso::FileInCorso(Avanzamento& avanzamento, const base::Disco& disco)
+    : avanzamento_(avanzamento), disco_(disco), nome_(fileCorrente) {
+    project::scriviProgetto(disco_);
     try {
         avanzamento_.apri();
     } catch (...) {
@@ -50,7 +50,7 @@ FileInCorso::~FileInCorso() {
     if (!finito_) base::cancellaFile(nome_);
 }
 
-void FileInCorso::aggiungi(std::string_view testo) { base::accodaFile(nome_, testo); }
+void FileInCorso::aggiungi(std::string_view testo) { base::accodaFile(nome_, testo, disco_); }
 
 bool risultatiAggiornati() {
     if (!base::esisteFile(fileCorrente)) return false;

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "analysis/progress.hpp"
+#include "base/disk.hpp"
 
 // What a run does with files and their names: guards that put things back, whatever ends the run.
 
@@ -47,7 +48,8 @@ class ProgettoAlSicuro {
 class FileInCorso {
  public:
     /// @throws base::ErroreScrittura if the head can't be written; no file stays
-    explicit FileInCorso(Avanzamento& avanzamento);
+    /// @param disco  must outlive the file
+    FileInCorso(Avanzamento& avanzamento, const base::Disco& disco);
     FileInCorso(const FileInCorso&) = delete;
     FileInCorso& operator=(const FileInCorso&) = delete;
     ~FileInCorso();
@@ -58,6 +60,7 @@ class FileInCorso {
 
  private:
     Avanzamento& avanzamento_;
+    const base::Disco& disco_;
     std::string nome_;
     bool finito_ = false;
 };

@@ -1,0 +1,73 @@
+#include "analysis/run_files.hpp"
+
+#include <gtest/gtest.h>
+
+#include "base/file_error.hpp"
+#include "support/failing_disk.hpp"
+#include "support/run_harness.hpp"
+#include "support/sample_projects.hpp"
+
+namespace korven::analysis {
+namespace {
+
+using project::fileCorrente;
+using test::Banco;
+using test::progettoSemplice;
+
+// Full in the head of the result file, after it, and in a table of a stage.
+TEST(FileInCorso, LeavesNoHalfFileOnAFullDisk) {
+    for (const std::size_t byte : {100u, 3000u, 12000u}) {
+        Banco banco(progettoSemplice());
+        const test::DiscoPieno disco(byte);
+        try {
+            CalcoloParatia(relazione,
+                           {banco.dialogo, banco.avanzamento, banco.uscita, nullptr, disco});
+            ADD_FAILURE() << byte;
+        } catch (const base::ErroreScrittura& errore) {
+            EXPECT_EQ(errore.percorso(), banco.risultati()) << byte;
+            EXPECT_NE(errore.atteso().find(test::nonCeSpazio), std::string::npos);
+        }
+        EXPECT_EQ(disco.spazio, 0u) << "the disk was not filled";
+        EXPECT_FALSE(banco.haRisultati()) << byte;
+        EXPECT_EQ(fileCorrente, banco.progetto()) << byte;
+        EXPECT_EQ(banco.avanzamento.aperture, banco.avanzamento.chiusure) << byte;
+        EXPECT_EQ(banco.uscita.relazioni, 0) << byte;
+    }
+}
+
+TEST(FileInCorso, TakesTheProgressDisplayAlongWhenTheRunDoesNotFinish) {
+    Banco banco(progettoSemplice());
+    fileCorrente = banco.risultati();
+    {
+        FileInCorso file(banco.avanzamento, base::discoDiSistema());
+        file.aggiungi("una fase\r\n");
+        EXPECT_TRUE(banco.haRisultati());
+        EXPECT_EQ(banco.avanzamento.chiusure, 0);
+    }
+    EXPECT_FALSE(banco.haRisultati());
+    EXPECT_EQ(banco.avanzamento.chiusure, 1);
+}
+
+TEST(FileInCorso, StaysWhenItIsFinished) {
+    Banco banco(progettoSemplice());
+    fileCorrente = banco.risultati();
+    {
+        FileInCorso file(banco.avanzamento, base::discoDiSistema());
+        file.finito();
+    }
+    EXPECT_TRUE(banco.haRisultati());
+}
+
+// The project may be saved under another name while events are served.
+TEST(NomeRisultati, LeavesANameAloneThatWasGivenMeanwhile) {
+    Banco banco(progettoSemplice());
+    {
+        const NomeRisultati nome;
+        EXPECT_EQ(fileCorrente, banco.risultati());
+        fileCorrente = banco.cartella / "altro.kvd";
+    }
+    EXPECT_EQ(fileCorrente, banco.cartella / "altro.kvd");
+}
+
+}  // namespace
+}  // namespace korven::analysis
