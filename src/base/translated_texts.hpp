@@ -11,6 +11,7 @@ namespace korven::base {
 /// Returns the text to show for an Italian text, which is its key. Every text that is shown or
 /// printed passes through here. Never fails for a text: one that no table holds comes back as it
 /// is, without its outer blanks. A unit in brackets ("[kN/m]") is the same in every language.
+///
 /// A key is found whatever its case; when the case differs from the record's, the translation takes
 /// the case form of the argument (case_form.hpp). A translation that begins with "@" is replaced by
 /// the English one, and that by the Italian text.

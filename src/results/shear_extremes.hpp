@@ -20,12 +20,13 @@ struct EstremiTaglio {
 /// value just below the anchor, extrapolated from the two nodes under it,
 ///
 ///     taglioNodo[a] = 2 taglioNodo[a + 1] - taglioNodo[a + 2],
-///  anchor after anchor in the order of their table, so that a later anchor may build on a value
+///
+/// anchor after anchor in the order of their table, so that a later anchor may build on a value
 /// that an earlier one has set. Nodes beyond the toe read 0. An anchor at depth 0 keeps the node's
 /// own value, and one that is at no node of the wall changes nothing.
 ///
 /// Where an anchor's depth is exactly the node's `zNodo`, as doubles, the value above it counts
-/// too, taglioNodo[i] - tiro, with tiro = pretTirante + rigTirante (yNodo[i] - yTirante). An anchor
+/// too: taglioNodo[i] - tiro, with tiro = pretTirante + rigTirante (yNodo[i] - yTirante). An anchor
 /// between two nodes has no such second value.
 ///
 /// @param dati         the anchor table (profTirante [m], pretTirante [t], rigTirante [t/m])

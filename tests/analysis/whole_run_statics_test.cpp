@@ -179,9 +179,9 @@ TEST(SuoloRigido, MovesByTheLoadOverTheModulusWhereEveryNodeCarriesItsOwnWater) 
 //
 //     y(z) = 2 H beta / k exp(-beta z) cos(beta z)
 //     M(z) = -H / beta exp(-beta z) sin(beta z),  beta = (k / 4 EJ)^(1/4)
-//  largest at beta z = pi / 4, where it is 0.3224 H / beta. Source: Hetenyi (1946), Beams on
-// Elastic Foundation (not looked up). The wall is 10 / beta long, so its far end changes less than
-// 1e-4 of it.
+//
+// largest at beta z = pi / 4, where it is 0.3224 H / beta. Source: Hetenyi (1946), Beams on Elastic
+// Foundation (not looked up). The wall is 10 / beta long: its far end changes less than 1e-4 of it.
 class TraveLunga : public ::testing::Test {
  protected:
     static constexpr double H = 1000, k = 2000, EJ = 500;
