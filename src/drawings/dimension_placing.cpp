@@ -1,7 +1,6 @@
 #include "drawings/dimension_placing.hpp"
 
 #include <algorithm>
-#include <cassert>
 #include <cmath>
 #include <iterator>
 #include <numeric>
@@ -101,7 +100,7 @@ PostiQuote::Posti PostiQuote::prova(const std::vector<Candidate>& quote,
     Posti posti = posti_;
     posti.scelte.assign(quote.size(), nullptr);
     for (const std::size_t i : ordine) {
-        assert(!quote[i].empty());
+        if (quote[i].empty()) continue;
         const auto prima = [&](bool ancheSullaSezione) {
             return std::find_if(quote[i].begin(), quote[i].end(), [&](const Quota& quota) {
                 return libera(quota, posti) &&
@@ -131,7 +130,8 @@ void PostiQuote::disponi(const std::vector<Candidate>& quote) {
         if (Posti altri = prova(quote, ordine); altri.difetti < migliori.difetti)
             migliori = std::move(altri);
     }
-    for (const Quota* quota : migliori.scelte) quota->disegna();
+    for (const Quota* quota : migliori.scelte)
+        if (quota != nullptr) quota->disegna();
     migliori.scelte.clear();
     migliori.difetti = 0;
     posti_ = std::move(migliori);

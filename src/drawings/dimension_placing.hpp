@@ -24,8 +24,8 @@ class PostiQuote {
     /// Draws each dimension at the first of its places that is free. One that is placed early may
     /// take the only place of a later one, so other orders are tried where one finds none. Sections
     /// without measure, where no order serves all: a text that finds no other place lies on the
-    /// section, clear of the other texts, or at its first place whatever lies there.
-    /// @pre every dimension has a candidate: asserted
+    /// section, clear of the other texts, or at its first place whatever lies there. A dimension
+    /// that has no place at all, of a section that fills the sheet, is left out.
     void disponi(const std::vector<Candidate>& quote);
 
  private:

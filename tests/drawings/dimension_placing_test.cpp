@@ -65,6 +65,14 @@ TEST_F(DisposizioneQuote, StandOnTheSectionWhereNothingElseIsFree) {
     EXPECT_EQ(testiDisegnati(), Linee{"\"AB\" 5.000 5.000 h 0.20"});
 }
 
+TEST_F(DisposizioneQuote, AreLeftOutWhereTheSectionFillsTheSheet) {
+    const Candidate senzaPosto = quoteVerticali(5, 8, 1e300, 10, std::string("CD"));
+    EXPECT_TRUE(senzaPosto.empty());
+    PostiQuote posti;
+    posti.disponi({senzaPosto, {scritta(5, 5)}});
+    EXPECT_EQ(testiDisegnati(), Linee{"\"AB\" 5.000 5.000 h 0.20"});
+}
+
 TEST_F(DisposizioneQuote, EndInAnArrowWhereTheSheetEndsBeforeThem) {
     quotaVerticale(13, 28, 12, 10, std::string("AB")).disegna();
     EXPECT_EQ(polilinee(4), (Linee{"12.000 13.000, 12.000 22.000", "10.000 13.000, 12.080 13.000",
