@@ -144,7 +144,7 @@ TEST_F(Porta, OpensTheContentsWhereNoPageIsNamed) {
 TEST_F(Porta, OpensThePageOfAHighlightedItemOfTheBar) {
     QMenuBar barra(&principale);
     QAction* voce = barra.addAction("Apri");
-    voce->setProperty("aiuto", 3);
+    voce->setProperty("voceGuida", 3);
     barra.show();
     barra.setActiveAction(voce);
     EXPECT_EQ(f1(barra), "guida:/apri");
