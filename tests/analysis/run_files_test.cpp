@@ -16,7 +16,7 @@ using test::progettoSemplice;
 
 // Full in the head of the result file, after it, and in a table of a stage.
 TEST(FileInCorso, LeavesNoHalfFileOnAFullDisk) {
-    for (const std::size_t byte : {100u, 3000u, 12000u}) {
+    for (const std::size_t byte : {100u, 3000u, 8000u}) {
         Banco banco(progettoSemplice());
         const test::DiscoPieno disco(byte);
         try {
