@@ -22,83 +22,83 @@ using bench::nNodi;
 
 // Widths of a font without a device, asked for each character once, as a program with a window
 // does it.
-class Misuratore {
+class Measurer {
  public:
-    double operator()(const markup::ReportFont& font, std::string_view testo) {
-        ++misure;
-        const std::string chiave = font.name + (font.bold ? "*" : "") + std::to_string(font.size);
-        auto& larghezze = fonts_[chiave];
-        if (!larghezze)
-            larghezze = std::make_unique<markup::CharacterWidths>(
+    double operator()(const markup::ReportFont& font, std::string_view text) {
+        ++measures;
+        const std::string key = font.name + (font.bold ? "*" : "") + std::to_string(font.size);
+        auto& widths = fonts_[key];
+        if (!widths)
+            widths = std::make_unique<markup::CharacterWidths>(
                 [font](std::string_view t) { return markup::estimatedWidth(font, t); });
-        return (*larghezze)(testo);
+        return (*widths)(text);
     }
-    long misure = 0;
+    long measures = 0;
 
  private:
     std::map<std::string, std::unique_ptr<markup::CharacterWidths>> fonts_;
 };
 
-class Stampante : public markup::ReportPrinter {
+class Printer : public markup::ReportPrinter {
  public:
     markup::SheetSize sheet() override { return {595.28, 841.89}; }
     void setFont(const markup::ReportFont& font) override { font_ = font; }
-    double textWidth(std::string_view testo) override { return misura(font_, testo); }
+    double textWidth(std::string_view text) override { return measure(font_, text); }
     double textHeight() override { return 1.15 * font_.size; }
     double lineStep() override { return 1.15 * font_.size; }
-    void startPage() override { ++pagine; }
-    void write(double, double, std::string_view) override { ++testi; }
+    void startPage() override { ++pages; }
+    void write(double, double, std::string_view) override { ++texts; }
     void endPage() override {}
     void endJob() override {}
 
-    Misuratore misura;
-    long pagine = 0, testi = 0;
+    Measurer measure;
+    long pages = 0, texts = 0;
 
  private:
     markup::ReportFont font_;
 };
 
-class Elenco : public markup::PreviewList {
+class List : public markup::PreviewList {
  public:
     double windowWidth() override { return 600; }
-    double textWidth(std::string_view testo) override {
-        return misura({"Arial", 10, false, false}, testo);
+    double textWidth(std::string_view text) override {
+        return measure({"Arial", 10, false, false}, text);
     }
-    void addLine(std::string_view) override { ++righe; }
+    void addLine(std::string_view) override { ++lines; }
 
-    Misuratore misura;
-    long righe = 0;
+    Measurer measure;
+    long lines = 0;
 };
 
-void stampa(benchmark::State& stato) {
-    const std::string testo = bench::relazionePiuLunga();
-    for (auto _ : stato) {
-        Stampante stampante;
-        base::LettoreRighe file("muro.TAB", testo);
-        markup::PrintRenderer renderer(stampante);
+void print(benchmark::State& state) {
+    const std::string text = bench::relazionePiuLunga();
+    for (auto _ : state) {
+        Printer printer;
+        base::LettoreRighe file("muro.TAB", text);
+        markup::PrintRenderer renderer(printer);
         markup::renderMarkup(file, markup::RendererKind::print, renderer);
-        stato.counters["pagine"] = static_cast<double>(stampante.pagine);
-        stato.counters["testi"] = static_cast<double>(stampante.testi);
-        stato.counters["misure"] = static_cast<double>(stampante.misura.misure);
-        if (stampante.testi < 3L * fasi * nNodi) stato.SkipWithError("cells were left out");
+        state.counters["pages"] = static_cast<double>(printer.pages);
+        state.counters["texts"] = static_cast<double>(printer.texts);
+        state.counters["measures"] = static_cast<double>(printer.measure.measures);
+        if (printer.texts < 3L * fasi * nNodi) state.SkipWithError("cells were left out");
     }
 }
 
-void anteprima(benchmark::State& stato) {
-    const std::string testo = bench::relazionePiuLunga();
-    for (auto _ : stato) {
-        Elenco elenco;
-        base::LettoreRighe file("muro.TAB", testo);
-        markup::PreviewRenderer renderer(elenco);
+void preview(benchmark::State& state) {
+    const std::string text = bench::relazionePiuLunga();
+    for (auto _ : state) {
+        List list;
+        base::LettoreRighe file("muro.TAB", text);
+        markup::PreviewRenderer renderer(list);
         markup::renderMarkup(file, markup::RendererKind::preview, renderer);
-        stato.counters["righe"] = static_cast<double>(elenco.righe);
-        stato.counters["misure"] = static_cast<double>(elenco.misura.misure);
-        if (elenco.righe < 1L * fasi * nNodi) stato.SkipWithError("rows were left out");
+        state.counters["lines"] = static_cast<double>(list.lines);
+        state.counters["measures"] = static_cast<double>(list.measure.measures);
+        if (list.lines < 1L * fasi * nNodi) state.SkipWithError("rows were left out");
     }
 }
 
-BENCHMARK(stampa)->Unit(benchmark::kMillisecond)->UseRealTime();
-BENCHMARK(anteprima)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(print)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(preview)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 }  // namespace
 

@@ -37,9 +37,9 @@ TEST(FileProgramma, IsFoundWhateverTheCaseOfItsName) {
 TEST(FileProgramma, IsWhereItWouldBeWhenTheFolderCannotBeListed) {
     const test::CartellaProvvisoria cartella;
     test::metti(cartella / "file", "");
-    for (const std::string folder : {"/nessuna/cartella", "/proc/1/fd/0/x"}) {
-        impostaCartellaProgramma(folder);
-        EXPECT_EQ(fileProgramma("nseg.txt"), folder + "/nseg.txt");
+    for (const std::string chiusa : {"/nessuna/cartella", "/proc/1/fd/0/x"}) {
+        impostaCartellaProgramma(chiusa);
+        EXPECT_EQ(fileProgramma("nseg.txt"), chiusa + "/nseg.txt");
     }
     impostaCartellaProgramma(cartella / "file");
     EXPECT_EQ(fileProgramma("nseg.txt"), cartella / "file/nseg.txt");

@@ -20,10 +20,10 @@
 namespace korven::commands {
 namespace {
 
-using Lines = std::vector<std::string>;
+using Righe = std::vector<std::string>;
 
 constexpr const char* markup = "#RESET\r\n#HEADER h\r\ntesto\r\n#ENDDOCUMENT\r\n";
-constexpr const char* text = "h\r\ntesto\r\n\r\n";
+constexpr const char* testo = "h\r\ntesto\r\n\r\n";
 
 /// Starts nothing, keeps what was to be started and answers as told.
 class ProgrammiAvviati : public base::AvviaProgramma {
@@ -61,39 +61,41 @@ class ProgrammiAvviati : public base::AvviaProgramma {
     }
 };
 
-class ReportExport : public testing::Test {
+class EsportaRelazione : public testing::Test {
  protected:
-    ReportExport() {
+    EsportaRelazione() {
         ::unsetenv("windir");
-        base::impostaCartellaProgramma(folder.percorso());
-        test::metti(report, markup);
+        base::impostaCartellaProgramma(cartella.percorso());
+        test::metti(relazione, markup);
     }
-    ~ReportExport() override {
+    ~EsportaRelazione() override {
         ::unsetenv("windir");
         base::impostaCartellaProgramma({});
         project::progettiProtetti = {};
     }
 
-    void exportTxt() { esportaTxt(report, ports); }
-    void exportDoc() { esportaDoc(report, ports); }
+    void inTxt() { esportaTxt(relazione, porte); }
+    void inDoc() { esportaDoc(relazione, porte); }
     // A program that editor.cfg may name, and the file itself.
-    std::string viewer(const std::string& name) {
-        test::metti(folder / name, "");
-        return folder / name;
+    std::string visore(const std::string& nome) {
+        test::metti(cartella / nome, "");
+        return cartella / nome;
     }
-    void editors(const std::string& content) { test::metti(folder / "editor.cfg", content); }
+    void programmiScelti(const std::string& scritto) {
+        test::metti(cartella / "editor.cfg", scritto);
+    }
 
-    test::CartellaProvvisoria folder;
-    const std::string report = folder / "muro.TAB";
-    const std::string txt = folder / "muro.txt";
-    const std::string doc = folder / "muro.doc";
-    test::DialogoFinto dialog;
-    ProgrammiAvviati programs;
-    Lines proposed;
-    std::string answer;
-    PorteEsportazione ports{dialog, programs, [this](const std::string& name) {
-                                proposed.push_back(name);
-                                return answer;
+    test::CartellaProvvisoria cartella;
+    const std::string relazione = cartella / "muro.TAB";
+    const std::string txt = cartella / "muro.txt";
+    const std::string doc = cartella / "muro.doc";
+    test::DialogoFinto dialogo;
+    ProgrammiAvviati programmi;
+    Righe proposti;
+    std::string risposto;
+    PorteEsportazione porte{dialogo, programmi, [this](const std::string& nome) {
+                                proposti.push_back(nome);
+                                return risposto;
                             }};
 };
 
@@ -114,196 +116,196 @@ TEST(NomeTxtScelto, CutsAtThePointOfAFolderBeforeAShortName) {
 }
 
 TEST(NomeTxtScelto, EndsTheExportWithoutAName) {
-    for (const auto* none :
+    for (const auto* nessuno :
          {"", ".txt", "*", "*.txt", "*.TXT", ".abc", "/a/.txt", "/a/*.txt", "/a/"})
-        EXPECT_EQ(nomeTxtScelto(none), std::nullopt) << none;
+        EXPECT_EQ(nomeTxtScelto(nessuno), std::nullopt) << nessuno;
 }
 
-TEST_F(ReportExport, MissingMarkupProducesNoDialog) {
-    std::filesystem::remove(report);
+TEST_F(EsportaRelazione, MissingMarkupProducesNoDialog) {
+    std::filesystem::remove(relazione);
     test::metti(txt, "old");
-    exportTxt();
-    exportDoc();
-    EXPECT_TRUE(dialog.domande.empty());
-    EXPECT_TRUE(dialog.messaggi.empty());
-    EXPECT_TRUE(programs.chiamate.empty());
+    inTxt();
+    inDoc();
+    EXPECT_TRUE(dialogo.domande.empty());
+    EXPECT_TRUE(dialogo.messaggi.empty());
+    EXPECT_TRUE(programmi.chiamate.empty());
     EXPECT_EQ(test::contenuto(txt), "old");
 }
 
-TEST_F(ReportExport, WritesTheTextBesideTheMarkupWithoutAQuestion) {
-    exportTxt();
-    EXPECT_EQ(test::contenuto(txt), text);
-    EXPECT_TRUE(dialog.domande.empty());
+TEST_F(EsportaRelazione, WritesTheTextBesideTheMarkupWithoutAQuestion) {
+    inTxt();
+    EXPECT_EQ(test::contenuto(txt), testo);
+    EXPECT_TRUE(dialogo.domande.empty());
 }
 
-TEST_F(ReportExport, AsksBeforeItReplacesATextAndYesIsEnough) {
+TEST_F(EsportaRelazione, AsksBeforeItReplacesATextAndYesIsEnough) {
     test::metti(txt, "old");
-    dialog.risposta = base::Risposta::si;
-    exportTxt();
-    EXPECT_EQ(dialog.domande,
+    dialogo.risposta = base::Risposta::si;
+    inTxt();
+    EXPECT_EQ(dialogo.domande,
               (std::vector<test::DialogoFinto::Detto>{{"Volete sovrascrivere il file\n" + txt + "?",
                                                        "ATTENZIONE!", base::Icona::avviso}}));
-    EXPECT_TRUE(proposed.empty());
-    EXPECT_EQ(test::contenuto(txt), text);
-    EXPECT_EQ(programs.chiamate, Lines{"apri " + txt});
+    EXPECT_TRUE(proposti.empty());
+    EXPECT_EQ(test::contenuto(txt), testo);
+    EXPECT_EQ(programmi.chiamate, Righe{"apri " + txt});
 }
 
-TEST_F(ReportExport, TakesAnotherNameOnNoWithoutAFurtherQuestion) {
+TEST_F(EsportaRelazione, TakesAnotherNameOnNoWithoutAFurtherQuestion) {
     test::metti(txt, "old");
-    test::metti(folder / "altro.txt", "old");
-    dialog.risposta = base::Risposta::no;
-    answer = folder / "altro";
-    exportTxt();
-    EXPECT_EQ(proposed, Lines{txt});
-    EXPECT_EQ(dialog.domande.size(), 1u);
+    test::metti(cartella / "altro.txt", "old");
+    dialogo.risposta = base::Risposta::no;
+    risposto = cartella / "altro";
+    inTxt();
+    EXPECT_EQ(proposti, Righe{txt});
+    EXPECT_EQ(dialogo.domande.size(), 1u);
     EXPECT_EQ(test::contenuto(txt), "old");
-    EXPECT_EQ(test::contenuto(folder / "altro.txt"), text);
-    EXPECT_EQ(programs.chiamate, Lines{"apri " + folder / "altro.txt"});
+    EXPECT_EQ(test::contenuto(cartella / "altro.txt"), testo);
+    EXPECT_EQ(programmi.chiamate, Righe{"apri " + cartella / "altro.txt"});
 }
 
-TEST_F(ReportExport, EndsWhenNoIsFollowedByAnEmptyName) {
+TEST_F(EsportaRelazione, EndsWhenNoIsFollowedByAnEmptyName) {
     test::metti(txt, "old");
-    for (const auto reply : {base::Risposta::no, base::Risposta::annulla}) {
-        dialog.risposta = reply;
-        exportTxt();
+    for (const auto risposta : {base::Risposta::no, base::Risposta::annulla}) {
+        dialogo.risposta = risposta;
+        inTxt();
     }
-    EXPECT_EQ(proposed.size(), 2u);
+    EXPECT_EQ(proposti.size(), 2u);
     EXPECT_EQ(test::contenuto(txt), "old");
-    EXPECT_TRUE(programs.chiamate.empty());
-    EXPECT_TRUE(dialog.messaggi.empty());
+    EXPECT_TRUE(programmi.chiamate.empty());
+    EXPECT_TRUE(dialogo.messaggi.empty());
 }
 
-TEST_F(ReportExport, ShowsTheTextInTheNotepadOfTheSystemAndLooksNoFurther) {
-    ::setenv("windir", folder.percorso().c_str(), 1);
-    const std::string notepad = viewer("notepad.exe");
-    editors("\r\n" + viewer("vedi") + "\r\n");
-    programs.parte = programs.predefinito = false;
-    exportTxt();
-    EXPECT_EQ(programs.chiamate, Lines{"avvia massima " + notepad + " [" + txt + "]"});
-    EXPECT_TRUE(dialog.messaggi.empty());
+TEST_F(EsportaRelazione, ShowsTheTextInTheNotepadOfTheSystemAndLooksNoFurther) {
+    ::setenv("windir", cartella.percorso().c_str(), 1);
+    const std::string bloccoNote = visore("notepad.exe");
+    programmiScelti("\r\n" + visore("vedi") + "\r\n");
+    programmi.parte = programmi.predefinito = false;
+    inTxt();
+    EXPECT_EQ(programmi.chiamate, Righe{"avvia massima " + bloccoNote + " [" + txt + "]"});
+    EXPECT_TRUE(dialogo.messaggi.empty());
 }
 
-TEST_F(ReportExport, ShowsTheTextInTheSecondProgramOfTheEditorFile) {
-    ::setenv("windir", folder.percorso().c_str(), 1);  // without a notepad
-    editors(viewer("primo") + "\r\n" + viewer("secondo") + "\r\n");
-    exportTxt();
-    EXPECT_EQ(programs.chiamate, Lines{"avvia minima " + folder / "secondo" + " [" + txt + "]"});
+TEST_F(EsportaRelazione, ShowsTheTextInTheSecondProgramOfTheEditorFile) {
+    ::setenv("windir", cartella.percorso().c_str(), 1);  // without a notepad
+    programmiScelti(visore("primo") + "\r\n" + visore("secondo") + "\r\n");
+    inTxt();
+    EXPECT_EQ(programmi.chiamate, Righe{"avvia minima " + cartella / "secondo" + " [" + txt + "]"});
 }
 
-TEST_F(ReportExport, ShowsTheTextInTheDesktopsOwnProgramOtherwise) {
-    for (const std::string content : {"", "uno\r\n", "uno\r\ndue\r\n", "\r\n\r\n"}) {
-        editors(content);
-        dialog.risposta = base::Risposta::si;
-        programs.chiamate.clear();
-        exportTxt();
-        EXPECT_EQ(programs.chiamate, Lines{"apri " + txt}) << content;
+TEST_F(EsportaRelazione, ShowsTheTextInTheDesktopsOwnProgramOtherwise) {
+    for (const std::string scritto : {"", "uno\r\n", "uno\r\ndue\r\n", "\r\n\r\n"}) {
+        programmiScelti(scritto);
+        dialogo.risposta = base::Risposta::si;
+        programmi.chiamate.clear();
+        inTxt();
+        EXPECT_EQ(programmi.chiamate, Righe{"apri " + txt}) << scritto;
     }
 }
 
-TEST_F(ReportExport, TriesTheDesktopsProgramWhenThatOfTheEditorFileDoesNotStart) {
-    editors("\r\n" + viewer("secondo"));
-    programs.parte = false;
-    exportTxt();
-    ASSERT_EQ(programs.chiamate.size(), 2u);
-    EXPECT_EQ(programs.chiamate[1], "apri " + txt);
-    EXPECT_TRUE(dialog.messaggi.empty());
+TEST_F(EsportaRelazione, TriesTheDesktopsProgramWhenThatOfTheEditorFileDoesNotStart) {
+    programmiScelti("\r\n" + visore("secondo"));
+    programmi.parte = false;
+    inTxt();
+    ASSERT_EQ(programmi.chiamate.size(), 2u);
+    EXPECT_EQ(programmi.chiamate[1], "apri " + txt);
+    EXPECT_TRUE(dialogo.messaggi.empty());
 }
 
-TEST_F(ReportExport, TellsWhereTheTextIsWhenNothingShowsIt) {
-    programs.predefinito = false;
-    exportTxt();
-    EXPECT_EQ(dialog.messaggi,
+TEST_F(EsportaRelazione, TellsWhereTheTextIsWhenNothingShowsIt) {
+    programmi.predefinito = false;
+    inTxt();
+    EXPECT_EQ(dialogo.messaggi,
               (std::vector<test::DialogoFinto::Detto>{
                   {"Non è stato trovato un editor di testi per il formato TXT. Il programma ha "
                    "comunque creato il file:\n" +
                        base::maiuscolo(txt),
                    "ATTENZIONE!", base::Icona::informazione}}));
-    EXPECT_EQ(test::contenuto(txt), text);
+    EXPECT_EQ(test::contenuto(txt), testo);
 }
 
-TEST_F(ReportExport, TellsOfATargetThatCantBeWrittenAndGoesOn) {
+TEST_F(EsportaRelazione, TellsOfATargetThatCantBeWrittenAndGoesOn) {
     test::metti(txt, "old");
-    dialog.risposta = base::Risposta::no;
-    answer = folder / "manca/altro";
-    exportTxt();
-    ASSERT_EQ(dialog.messaggi.size(), 1u);
-    EXPECT_NE(dialog.messaggi[0].testo.find("altro.txt"), std::string::npos);
-    EXPECT_TRUE(programs.chiamate.empty());
+    dialogo.risposta = base::Risposta::no;
+    risposto = cartella / "manca/altro";
+    inTxt();
+    ASSERT_EQ(dialogo.messaggi.size(), 1u);
+    EXPECT_NE(dialogo.messaggi[0].testo.find("altro.txt"), std::string::npos);
+    EXPECT_TRUE(programmi.chiamate.empty());
 }
 
-TEST_F(ReportExport, TellsOfAFullDiskAndLeavesTheTextOfBefore) {
+TEST_F(EsportaRelazione, TellsOfAFullDiskAndLeavesTheTextOfBefore) {
     test::metti(txt, "old");
-    dialog.risposta = base::Risposta::si;
-    const test::DiscoPieno disk(3);
-    esportaTxt(report, {dialog, programs, {}, {}, disk});
-    ASSERT_EQ(dialog.messaggi.size(), 1u);
-    EXPECT_EQ(dialog.messaggi[0].testo,
+    dialogo.risposta = base::Risposta::si;
+    const test::DiscoPieno disco(3);
+    esportaTxt(relazione, {dialogo, programmi, {}, {}, disco});
+    ASSERT_EQ(dialogo.messaggi.size(), 1u);
+    EXPECT_EQ(dialogo.messaggi[0].testo,
               txt + ": impossibile scrivere il file (" + test::nonCeSpazio + ")");
     EXPECT_EQ(test::contenuto(txt), "old");
-    EXPECT_TRUE(programs.chiamate.empty());
+    EXPECT_TRUE(programmi.chiamate.empty());
 }
 
-TEST_F(ReportExport, NeverReplacesTheProject) {
+TEST_F(EsportaRelazione, NeverReplacesTheProject) {
     test::metti(txt, "progetto");
     project::progettiProtetti = {.letto = txt, .corrente = {}};
-    dialog.risposta = base::Risposta::si;
-    exportTxt();
-    EXPECT_EQ(dialog.messaggi.size(), 1u);
+    dialogo.risposta = base::Risposta::si;
+    inTxt();
+    EXPECT_EQ(dialogo.messaggi.size(), 1u);
     EXPECT_EQ(test::contenuto(txt), "progetto");
     project::progettiProtetti.letto = doc;
     test::metti(doc, "progetto");
-    exportDoc();
-    EXPECT_EQ(dialog.messaggi.size(), 2u);
+    inDoc();
+    EXPECT_EQ(dialogo.messaggi.size(), 2u);
     EXPECT_EQ(test::contenuto(doc), "progetto");
 }
 
-TEST_F(ReportExport, WritesNoTextOfAMarkupWithoutReset) {
-    test::metti(report, "testo\r\n");
-    exportTxt();
-    ASSERT_EQ(dialog.messaggi.size(), 1u);
+TEST_F(EsportaRelazione, WritesNoTextOfAMarkupWithoutReset) {
+    test::metti(relazione, "testo\r\n");
+    inTxt();
+    ASSERT_EQ(dialogo.messaggi.size(), 1u);
     EXPECT_FALSE(std::filesystem::exists(txt));
-    EXPECT_TRUE(programs.chiamate.empty());
+    EXPECT_TRUE(programmi.chiamate.empty());
 }
 
-TEST_F(ReportExport, LetsABrokenMarkupEndTheProgram) {
-    std::string broken = "#RESET\r\n#STARTTABLE\r\n";
-    for (int row = 0; row <= 2000; ++row) broken += "a\r\n";
-    test::metti(report, broken);
-    EXPECT_THROW(exportTxt(), base::ErroreFile);
+TEST_F(EsportaRelazione, LetsABrokenMarkupEndTheProgram) {
+    std::string rotta = "#RESET\r\n#STARTTABLE\r\n";
+    for (int riga = 0; riga <= 2000; ++riga) rotta += "a\r\n";
+    test::metti(relazione, rotta);
+    EXPECT_THROW(inTxt(), base::ErroreFile);
     EXPECT_FALSE(std::filesystem::exists(txt));
 }
 
-TEST_F(ReportExport, RunsTheConverterOnTheMarkupAndShowsItsFile) {
-    const std::string converter = base::cartellaEseguibile() + "/outdoc";
-    editors(viewer("vedi doc") + "\r\n");
-    programs.alPosto = [this] { test::metti(doc, "doc"); };
-    exportDoc();
-    EXPECT_EQ(programs.chiamate,
-              (Lines{"esegui " + converter + " [" + report + "]",
-                     "avvia massima " + folder / "vedi doc" + " [" + doc + "]"}));
-    EXPECT_TRUE(dialog.messaggi.empty());
-    EXPECT_TRUE(dialog.domande.empty());
+TEST_F(EsportaRelazione, RunsTheConverterOnTheMarkupAndShowsItsFile) {
+    const std::string convertitore = base::cartellaEseguibile() + "/outdoc";
+    programmiScelti(visore("vedi doc") + "\r\n");
+    programmi.alPosto = [this] { test::metti(doc, "doc"); };
+    inDoc();
+    EXPECT_EQ(programmi.chiamate,
+              (Righe{"esegui " + convertitore + " [" + relazione + "]",
+                     "avvia massima " + cartella / "vedi doc" + " [" + doc + "]"}));
+    EXPECT_TRUE(dialogo.messaggi.empty());
+    EXPECT_TRUE(dialogo.domande.empty());
 }
 
-TEST_F(ReportExport, RunsNoConverterOfTheProgramFolder) {
-    (void)viewer("outdoc");
-    exportDoc();
-    EXPECT_EQ(programs.chiamate,
-              Lines{"esegui " + base::cartellaEseguibile() + "/outdoc [" + report + "]"});
+TEST_F(EsportaRelazione, RunsNoConverterOfTheProgramFolder) {
+    (void)visore("outdoc");
+    inDoc();
+    EXPECT_EQ(programmi.chiamate,
+              Righe{"esegui " + base::cartellaEseguibile() + "/outdoc [" + relazione + "]"});
 }
 
 // A converter that ends well and leaves the earlier file has made nothing.
-TEST_F(ReportExport, TakesADocumentThatWasThereBeforeForNone) {
+TEST_F(EsportaRelazione, TakesADocumentThatWasThereBeforeForNone) {
     test::metti(doc, "vecchio");
-    EXPECT_THROW((void)scriviDocumento(report, programs, "outdoc"), base::ErroreFile);
-    programs.alPosto = [this] { test::metti(doc, "nuovo"); };
-    EXPECT_EQ(scriviDocumento(report, programs, "outdoc"), doc);
+    EXPECT_THROW((void)scriviDocumento(relazione, programmi, "outdoc"), base::ErroreFile);
+    programmi.alPosto = [this] { test::metti(doc, "nuovo"); };
+    EXPECT_EQ(scriviDocumento(relazione, programmi, "outdoc"), doc);
 }
 
-TEST_F(ReportExport, TellsWhereTheDocumentIsWhenNothingShowsIt) {
-    programs.alPosto = [this] { test::metti(doc, "doc"); };
-    exportDoc();
-    EXPECT_EQ(dialog.messaggi,
+TEST_F(EsportaRelazione, TellsWhereTheDocumentIsWhenNothingShowsIt) {
+    programmi.alPosto = [this] { test::metti(doc, "doc"); };
+    inDoc();
+    EXPECT_EQ(dialogo.messaggi,
               (std::vector<test::DialogoFinto::Detto>{
                   {"Non è stato trovato nè un visualizzatore nè un editor di testi per il formato "
                    "DOC. Il programma ha comunque creato il file:\n" +
@@ -311,35 +313,35 @@ TEST_F(ReportExport, TellsWhereTheDocumentIsWhenNothingShowsIt) {
                    "ATTENZIONE!", base::Icona::informazione}}));
 }
 
-TEST_F(ReportExport, TellsWhereTheDocumentIsWhenItsViewerDoesNotStart) {
-    editors(viewer("vedi"));
-    programs.parte = false;
-    programs.alPosto = [this] { test::metti(doc, "doc"); };
-    exportDoc();
-    ASSERT_EQ(dialog.messaggi.size(), 1u);
-    EXPECT_TRUE(dialog.messaggi[0].testo.ends_with(base::maiuscolo(doc)));
-    EXPECT_EQ(dialog.messaggi[0].icona, base::Icona::informazione);
+TEST_F(EsportaRelazione, TellsWhereTheDocumentIsWhenItsViewerDoesNotStart) {
+    programmiScelti(visore("vedi"));
+    programmi.parte = false;
+    programmi.alPosto = [this] { test::metti(doc, "doc"); };
+    inDoc();
+    ASSERT_EQ(dialogo.messaggi.size(), 1u);
+    EXPECT_TRUE(dialogo.messaggi[0].testo.ends_with(base::maiuscolo(doc)));
+    EXPECT_EQ(dialogo.messaggi[0].icona, base::Icona::informazione);
 }
 
-TEST_F(ReportExport, TellsThatTheConverterLeftNoFileThoughItSaysThatAllIsWell) {
-    exportDoc();
-    ASSERT_EQ(dialog.messaggi.size(), 1u);
-    EXPECT_EQ(dialog.messaggi[0].testo, doc + ": impossibile scrivere il file");
-    EXPECT_EQ(dialog.messaggi[0].icona, base::Icona::avviso);
+TEST_F(EsportaRelazione, TellsThatTheConverterLeftNoFileThoughItSaysThatAllIsWell) {
+    inDoc();
+    ASSERT_EQ(dialogo.messaggi.size(), 1u);
+    EXPECT_EQ(dialogo.messaggi[0].testo, doc + ": impossibile scrivere il file");
+    EXPECT_EQ(dialogo.messaggi[0].icona, base::Icona::avviso);
 }
 
-TEST_F(ReportExport, TellsThatTheConverterFailedAndShowsWhatExists) {
-    editors(viewer("vedi"));
-    for (const std::optional<int> code : {std::optional<int>(), std::optional<int>(3)}) {
-        programs.codice = code;
-        exportDoc();
+TEST_F(EsportaRelazione, TellsThatTheConverterFailedAndShowsWhatExists) {
+    programmiScelti(visore("vedi"));
+    for (const std::optional<int> ricevuto : {std::optional<int>(), std::optional<int>(3)}) {
+        programmi.codice = ricevuto;
+        inDoc();
     }
-    EXPECT_EQ(dialog.messaggi.size(), 2u);
-    EXPECT_EQ(programs.chiamate.size(), 2u);  // no file, nothing to show
+    EXPECT_EQ(dialogo.messaggi.size(), 2u);
+    EXPECT_EQ(programmi.chiamate.size(), 2u);  // no file, nothing to show
     test::metti(doc, "old");
-    exportDoc();
-    EXPECT_EQ(dialog.messaggi.size(), 3u);
-    EXPECT_EQ(programs.chiamate.back(), "avvia massima " + folder / "vedi" + " [" + doc + "]");
+    inDoc();
+    EXPECT_EQ(dialogo.messaggi.size(), 3u);
+    EXPECT_EQ(programmi.chiamate.back(), "avvia massima " + cartella / "vedi" + " [" + doc + "]");
 }
 
 }  // namespace

@@ -37,9 +37,9 @@ constexpr int puntiPerPollice = 254;  // a hundred pixels to the centimetre
 
 using test::Macchia;
 
-class File : public test::ProvaPlot {
+class FileDelDisegno : public test::ProvaPlot {
  protected:
-    File() { configura(test::penneNere()); }
+    FileDelDisegno() { configura(test::penneNere()); }
 
     /// A sheet of 10 by 5 cm.
     static void apri() {
@@ -57,7 +57,7 @@ class File : public test::ProvaPlot {
     const test::CartellaProvvisoria cartella;
 };
 
-TEST_F(File, ShowTheWholeSheetAtTheResolutionAskedFor) {
+TEST_F(FileDelDisegno, ShowTheWholeSheetAtTheResolutionAskedFor) {
     apri();
     const QImage foglio = immagine();
     EXPECT_EQ(foglio.width(), 1000);
@@ -66,20 +66,20 @@ TEST_F(File, ShowTheWholeSheetAtTheResolutionAskedFor) {
     EXPECT_EQ(qGray(foglio.pixel(10, 10)), 255);
 }
 
-TEST_F(File, ShowATextThatStandsOutOfTheSheetToItsEnd) {
+TEST_F(FileDelDisegno, ShowATextThatStandsOutOfTheSheetToItsEnd) {
     apri();
     plot::plotSimbolo(9.5, 3, 1, "H", 0, 1);
     const double fine = 9.5 + MetricaQt().larghezza("Arial", 1, "H");
     EXPECT_NEAR(immagine().width(), (fine + 0.1) * 100, 1);
 }
 
-TEST_F(File, ShowNoMoreThanTwoCentimetresBesideTheSheet) {
+TEST_F(FileDelDisegno, ShowNoMoreThanTwoCentimetresBesideTheSheet) {
     apri();
     plot::plotSimbolo(9, 3, 1, std::string(40, 'H'), 0, 40);
     EXPECT_EQ(immagine().width(), 1200);
 }
 
-TEST_F(File, ShowALineOfOneCentimetreAHundredPixelsLong) {
+TEST_F(FileDelDisegno, ShowALineOfOneCentimetreAHundredPixelsLong) {
     apri();
     plotMuovi(2, 3, pennaSu);
     plotMuovi(3, 3, pennaGiu);
@@ -90,7 +90,7 @@ TEST_F(File, ShowALineOfOneCentimetreAHundredPixelsLong) {
     EXPECT_LE(m.altezza(), 2) << "0.1 mm is one pixel, which may lie on two";
 }
 
-TEST_F(File, ShowALineAsWideAsItsPen) {
+TEST_F(FileDelDisegno, ShowALineAsWideAsItsPen) {
     apri();
     plot::plotPenna(20);  // 2 mm
     plotMuovi(2, 3, pennaSu);
@@ -98,7 +98,7 @@ TEST_F(File, ShowALineAsWideAsItsPen) {
     EXPECT_NEAR(macchia().altezza(), 20, 1);
 }
 
-TEST_F(File, ShowATextOnItsBaseLineFromItsPoint) {
+TEST_F(FileDelDisegno, ShowATextOnItsBaseLineFromItsPoint) {
     apri();
     plot::plotSimbolo(2, 3, 1, "HHH", 0, 3);
     const Macchia m = macchia();
@@ -109,14 +109,14 @@ TEST_F(File, ShowATextOnItsBaseLineFromItsPoint) {
     EXPECT_NEAR(m.altezza(), 107, 5);
 }
 
-TEST_F(File, ShowACentredTextAboutItsPoint) {
+TEST_F(FileDelDisegno, ShowACentredTextAboutItsPoint) {
     apri();
     plot::plotSimbolo(5, 3, 1, "HHH", 0, plot::conteggioCentrato);
     const Macchia m = macchia();
     EXPECT_NEAR((m.sinistra + m.destra) / 2.0, 500, 2);
 }
 
-TEST_F(File, ShowATurnedTextUpwardFromItsPoint) {
+TEST_F(FileDelDisegno, ShowATurnedTextUpwardFromItsPoint) {
     apri();
     plot::plotSimbolo(5, 1, 1, "HHH", 90, 3);
     const Macchia m = macchia();
@@ -126,7 +126,7 @@ TEST_F(File, ShowATurnedTextUpwardFromItsPoint) {
     EXPECT_NEAR(m.larghezza(), 107, 5);
 }
 
-TEST_F(File, HoldOnePdfPageOfA4) {
+TEST_F(FileDelDisegno, HoldOnePdfPageOfA4) {
     apri();
     plotMuovi(0, 0, pennaSu);
     plotMuovi(10, 5, pennaGiu);
@@ -137,7 +137,7 @@ TEST_F(File, HoldOnePdfPageOfA4) {
     EXPECT_NE(pdf.find("/MediaBox [0 0 595.000000 842.000000]"), std::string::npos);
 }
 
-TEST_F(File, OfPdfLeaveOutLinesAboveAndBelowThePage) {
+TEST_F(FileDelDisegno, OfPdfLeaveOutLinesAboveAndBelowThePage) {
     const auto byte = [this](double y) {
         apri();
         for (int i = 0; i < 2000; ++i) {
@@ -153,7 +153,7 @@ TEST_F(File, OfPdfLeaveOutLinesAboveAndBelowThePage) {
     EXPECT_GT(byte(-12), vuota + 1000) << "on the page, beside the sheet";
 }
 
-TEST_F(File, HoldTheTextsOfAnSvgAsTexts) {
+TEST_F(FileDelDisegno, HoldTheTextsOfAnSvgAsTexts) {
     apri();
     plot::plotSimbolo(2, 3, 1, "Pietà", 0, 5);
     plotMuovi(0, 0, fineDisegno);
@@ -163,7 +163,7 @@ TEST_F(File, HoldTheTextsOfAnSvgAsTexts) {
     EXPECT_NE(svg.find("width=\"100mm\" height=\"50mm\""), std::string::npos);
 }
 
-TEST_F(File, ThatCannotBeWrittenAreAnError) {
+TEST_F(FileDelDisegno, ThatCannotBeWrittenAreAnError) {
     apri();
     plotMuovi(0, 0, fineDisegno);
     EXPECT_THROW(scriviPdf(cartella / "manca/disegno"), base::ErroreFile);
@@ -171,7 +171,7 @@ TEST_F(File, ThatCannotBeWrittenAreAnError) {
     EXPECT_THROW(scriviPng(cartella / "manca/disegno", 100), base::ErroreFile);
 }
 
-TEST_F(File, OnAFullDiskTellWhyAndLeaveTheFileOfBefore) {
+TEST_F(FileDelDisegno, OnAFullDiskTellWhyAndLeaveTheFileOfBefore) {
     apri();
     plotMuovi(0, 0, fineDisegno);
     const std::string nome = cartella / "disegno";
@@ -214,7 +214,7 @@ double larghezzaDipinta(const char* carattere, const std::string& lettera) {
     return (inchiostro(carattere, testo + 'H') - inchiostro(carattere, "HH")) / volte;
 }
 
-TEST_F(File, AreWrittenInFontsOfTheWidthsThatAreMeasured) {
+TEST_F(FileDelDisegno, AreWrittenInFontsOfTheWidthsThatAreMeasured) {
     for (const char* carattere : {"Arial", "Courier New"}) {
         for (int byte = 32; byte < 256; ++byte) {
             if (byte == 127 || byte == 173) continue;  // no characters that are shown
@@ -230,14 +230,14 @@ TEST_F(File, AreWrittenInFontsOfTheWidthsThatAreMeasured) {
 }
 
 // No font has the width of this letter, which is measured as a question mark.
-TEST_F(File, HaveTextsAsWideAsMeasuredWhateverTheFont) {
+TEST_F(FileDelDisegno, HaveTextsAsWideAsMeasuredWhateverTheFont) {
     EXPECT_NEAR(larghezzaDipinta("Arial", "Ω"), MetricaQt().larghezza("Arial", 1, "?"), 0.003);
     EXPECT_EQ(stiramento("Arial", "Pietà"), 1) << "the letters of its own font are left alone";
     EXPECT_EQ(stiramento("Times New Roman", "Ω"), 1);
 }
 
 // Strips of three rows.
-TEST_F(File, LookTheSameInHoweverManyStripsTheyArePainted) {
+TEST_F(FileDelDisegno, LookTheSameInHoweverManyStripsTheyArePainted) {
     apri();
     for (int i = 2; i <= 30; ++i) {  // pen 1 is as thin as a pixel
         plot::plotPenna(i);
@@ -259,7 +259,7 @@ TEST_F(File, LookTheSameInHoweverManyStripsTheyArePainted) {
     EXPECT_EQ(diversi, 0);
 }
 
-TEST_F(File, AreGivenUpWithoutATraceWhenSomebodyWantsTheEnd) {
+TEST_F(FileDelDisegno, AreGivenUpWithoutATraceWhenSomebodyWantsTheEnd) {
     struct Fermo : plot::SorvegliaDisegno {
         bool fermare() override { return true; }
     } fermo;
@@ -274,7 +274,7 @@ TEST_F(File, AreGivenUpWithoutATraceWhenSomebodyWantsTheEnd) {
     EXPECT_TRUE(std::filesystem::is_empty(cartella.percorso()));
 }
 
-TEST_F(File, OfSvgAreWellFormedWhateverATextHolds) {
+TEST_F(FileDelDisegno, OfSvgAreWellFormedWhateverATextHolds) {
     apri();
     plot::plotSimbolo(2, 3, 1, "a<b & \"c\"\x01\x1B>", 0, 9);
     plotMuovi(0, 0, fineDisegno);
@@ -289,7 +289,7 @@ TEST_F(File, OfSvgAreWellFormedWhateverATextHolds) {
 }
 
 // The reader of the system paints it: at 100 pixels to the centimetre.
-TEST_F(File, OfSvgShowTheDrawingAtItsPlace) {
+TEST_F(FileDelDisegno, OfSvgShowTheDrawingAtItsPlace) {
     apri();
     plot::plotPenna(20);  // 2 mm
     plotMuovi(2, 3, pennaSu);
@@ -309,7 +309,7 @@ TEST_F(File, OfSvgShowTheDrawingAtItsPlace) {
     EXPECT_NEAR(m.sopra, 90, 1);
 }
 
-TEST_F(File, OfUnknownFacesAreMeasuredInTheFontThatStandsInForThem) {
+TEST_F(FileDelDisegno, OfUnknownFacesAreMeasuredInTheFontThatStandsInForThem) {
     const QFont font = fontDisegno("Times New Roman");
     const double vera = QFontMetricsF(font).horizontalAdvance(QStringLiteral("Fase")) /
                         font.pixelSize() * corpoPerRiga(font, rigaPerAltezza * 0.3);

@@ -15,91 +15,91 @@ namespace {
 using namespace korven;
 
 // Shows nothing, but takes the arguments apart as a renderer with pages does.
-class NessunaVista : public markup::MarkupReceiver {
+class NoView : public markup::MarkupReceiver {
  public:
-    void open(markup::ScanState& stato, std::string_view argomento) override {
-        controlla(stato);
-        (void)markup::parseReset(argomento);
+    void open(markup::ScanState& state, std::string_view argument) override {
+        check(state);
+        (void)markup::parseReset(argument);
     }
-    void textLine(markup::ScanState& stato, std::string_view) override {
-        ++stato.lineCounter;
-        controlla(stato);
+    void textLine(markup::ScanState& state, std::string_view) override {
+        ++state.lineCounter;
+        check(state);
     }
-    void table(markup::ScanState& stato) override {
-        controlla(stato);
-        for (int colonna = 1; colonna <= 40; ++colonna)
-            (void)markup::rightAligned(stato.columnStyle, colonna);
+    void table(markup::ScanState& state) override {
+        check(state);
+        for (int column = 1; column <= 40; ++column)
+            (void)markup::rightAligned(state.columnStyle, column);
     }
-    void list(markup::ScanState& stato) override { controlla(stato); }
-    void close(markup::ScanState& stato) override { controlla(stato); }
+    void list(markup::ScanState& state) override { check(state); }
+    void close(markup::ScanState& state) override { check(state); }
 
  private:
-    static void controlla(const markup::ScanState& stato) {
-        test::pretendi(stato.rowCount >= 0 && stato.rowCount <= markup::maximumRows,
+    static void check(const markup::ScanState& state) {
+        test::pretendi(state.rowCount >= 0 && state.rowCount <= markup::maximumRows,
                        "no more rows than a table holds");
-        test::pretendi(stato.mode == markup::Mode::text || stato.mode == markup::Mode::table ||
-                           stato.mode == markup::Mode::list,
+        test::pretendi(state.mode == markup::Mode::text || state.mode == markup::Mode::table ||
+                           state.mode == markup::Mode::list,
                        "one of the three modes");
     }
 };
 
 // A printer that sees to it that pages come one after the other and are closed before the job is.
-class Pagine : public markup::ReportPrinter {
+class Pages : public markup::ReportPrinter {
  public:
-    ~Pagine() override { test::pretendi(!pagina_ && !lavoro_, "all pages are handed over"); }
+    ~Pages() override { test::pretendi(!page_ && !job_, "all pages are handed over"); }
     markup::SheetSize sheet() override { return {595, 842}; }
-    void setFont(const markup::ReportFont& font) override { corpo_ = font.size; }
-    double textWidth(std::string_view testo) override {
-        return static_cast<double>(testo.size()) * corpo_ / 2;
+    void setFont(const markup::ReportFont& font) override { size_ = font.size; }
+    double textWidth(std::string_view text) override {
+        return static_cast<double>(text.size()) * size_ / 2;
     }
-    double textHeight() override { return corpo_; }
-    double lineStep() override { return corpo_; }
+    double textHeight() override { return size_; }
+    double lineStep() override { return size_; }
     void startPage() override {
-        test::pretendi(!pagina_, "one page at a time");
-        pagina_ = lavoro_ = true;
+        test::pretendi(!page_, "one page at a time");
+        page_ = job_ = true;
     }
     void write(double, double, std::string_view) override {
-        test::pretendi(pagina_, "texts stand on pages");
+        test::pretendi(page_, "texts are written on pages");
     }
     void endPage() override {
-        test::pretendi(pagina_, "a page that ends has begun");
-        pagina_ = false;
+        test::pretendi(page_, "a page that ends has begun");
+        page_ = false;
     }
     void endJob() override {
-        test::pretendi(lavoro_ && !pagina_, "a job ends once, behind its last page");
-        lavoro_ = false;
+        test::pretendi(job_ && !page_, "a job ends once, after its last page");
+        job_ = false;
     }
 
  private:
-    double corpo_ = 0;
-    bool pagina_ = false, lavoro_ = false;
+    double size_ = 0;
+    bool page_ = false, job_ = false;
 };
 
-class Elenco : public markup::PreviewList {
+class List : public markup::PreviewList {
  public:
     double windowWidth() override { return 500; }
-    double textWidth(std::string_view testo) override {
-        return 5.0 * static_cast<double>(testo.size());
+    double textWidth(std::string_view text) override {
+        return 5.0 * static_cast<double>(text.size());
     }
     void addLine(std::string_view) override {}
 };
 
-void stampa(const std::string& contenuto) {
-    Pagine pagine;
-    markup::PrintRenderer renderer(pagine);
+void printIt(const std::string& content) {
+    Pages pages;
+    markup::PrintRenderer renderer(pages);
     try {
-        base::LettoreRighe file("prova.TAB", contenuto);
+        base::LettoreRighe file("prova.TAB", content);
         markup::renderMarkup(file, markup::RendererKind::print, renderer);
     } catch (const base::ErroreFile&) {
     }
     renderer.finish();
 }
 
-void mostra(const std::string& contenuto) {
-    Elenco elenco;
-    markup::PreviewRenderer renderer(elenco);
+void showIt(const std::string& content) {
+    List list;
+    markup::PreviewRenderer renderer(list);
     try {
-        base::LettoreRighe file("prova.TAB", contenuto);
+        base::LettoreRighe file("prova.TAB", content);
         markup::renderMarkup(file, markup::RendererKind::preview, renderer);
     } catch (const base::ErroreFile&) {
     }
@@ -107,21 +107,21 @@ void mostra(const std::string& contenuto) {
 
 }  // namespace
 
-extern "C" int KORVEN_FUZZ_ENTRY(const std::uint8_t* byte, std::size_t quanti) {
-    const std::string contenuto = test::contenutoFile(byte, quanti);
+extern "C" int KORVEN_FUZZ_ENTRY(const std::uint8_t* bytes, std::size_t count) {
+    const std::string content = test::contenutoFile(bytes, count);
     using enum markup::RendererKind;
-    for (const auto tipo : {print, preview, text}) {
+    for (const auto kind : {print, preview, text}) {
         try {
-            base::LettoreRighe file("prova.TAB", contenuto);
-            NessunaVista vista;
-            markup::renderMarkup(file, tipo, vista);
+            base::LettoreRighe file("prova.TAB", content);
+            NoView view;
+            markup::renderMarkup(file, kind, view);
         } catch (const base::ErroreFile&) {
         }
     }
-    stampa(contenuto);
-    mostra(contenuto);
+    printIt(content);
+    showIt(content);
     try {
-        base::LettoreRighe file("prova.TAB", contenuto);
+        base::LettoreRighe file("prova.TAB", content);
         (void)markup::renderText(file);
     } catch (const base::ErroreFile&) {
     }

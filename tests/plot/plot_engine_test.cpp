@@ -18,7 +18,7 @@ namespace {
 constexpr Colore rossoPieno = 255;
 constexpr Colore bluPieno = 255 * 65536;
 
-class PlotEngine : public test::ProvaPlot {
+class MotorePlot : public test::ProvaPlot {
  protected:
     static const std::vector<Segmento>& linee() { return statoPlot.archivio.lineeInMemoria(); }
     static const std::vector<TestoPlot>& testi() { return statoPlot.archivio.testi(); }
@@ -34,7 +34,7 @@ class PlotEngine : public test::ProvaPlot {
     }
 };
 
-TEST_F(PlotEngine, PenDownDrawsFromTheLastPositionAndPenUpOnlyMoves) {
+TEST_F(MotorePlot, PenDownDrawsFromTheLastPositionAndPenUpOnlyMoves) {
     plotApri(0, 0, 19, 27);
     plotPenna(1);
     plotMuovi(1, 2, pennaSu);
@@ -48,7 +48,7 @@ TEST_F(PlotEngine, PenDownDrawsFromTheLastPositionAndPenUpOnlyMoves) {
                                               {7, 8, 9, 8, rossoPieno, 0.01}}));
 }
 
-TEST_F(PlotEngine, MinusThreeMovesTheOriginAndTheNextLineStartsAtItsZero) {
+TEST_F(MotorePlot, MinusThreeMovesTheOriginAndTheNextLineStartsAtItsZero) {
     plotApri(0, 0, 19, 27);
     plotPenna(1);
     plotMuovi(3, 5, pennaSuOrigine);
@@ -60,7 +60,7 @@ TEST_F(PlotEngine, MinusThreeMovesTheOriginAndTheNextLineStartsAtItsZero) {
     EXPECT_EQ(tratto(1), (Tratto{{4, 6}, {6, 6}}));
 }
 
-TEST_F(PlotEngine, MinusTwoDrawsAndThenMovesTheOrigin) {
+TEST_F(MotorePlot, MinusTwoDrawsAndThenMovesTheOrigin) {
     plotApri(0, 0, 19, 27);
     plotPenna(1);
     plotMuovi(1, 1, pennaSu);
@@ -71,7 +71,7 @@ TEST_F(PlotEngine, MinusTwoDrawsAndThenMovesTheOrigin) {
     EXPECT_EQ(tratto(1), (Tratto{{4, 2}, {5, 2}}));
 }
 
-TEST_F(PlotEngine, OriginStartsAnewWithEachDrawing) {
+TEST_F(MotorePlot, OriginStartsAnewWithEachDrawing) {
     plotApri(0, 0, 19, 27);
     plotMuovi(3, 5, pennaSuOrigine);
     plotMuovi(0, 0, fineDisegno);
@@ -81,7 +81,7 @@ TEST_F(PlotEngine, OriginStartsAnewWithEachDrawing) {
     EXPECT_EQ(tratto(0), (Tratto{{0, 0}, {2, 1}}));
 }
 
-TEST_F(PlotEngine, PenOfColourZeroMovesAndLeavesNoTrace) {
+TEST_F(MotorePlot, PenOfColourZeroMovesAndLeavesNoTrace) {
     plotApri(0, 0, 19, 27);
     plotPenna(3);
     plotMuovi(1, 1, pennaSu);
@@ -96,7 +96,7 @@ TEST_F(PlotEngine, PenOfColourZeroMovesAndLeavesNoTrace) {
     EXPECT_EQ(tratto(0), (Tratto{{5, 5}, {6, 5}}));
 }
 
-TEST_F(PlotEngine, WhiteIsStoredAsBlackForLinesAndTexts) {
+TEST_F(MotorePlot, WhiteIsStoredAsBlackForLinesAndTexts) {
     plotApri(0, 0, 19, 27);
     plotPenna(2);
     plotMuovi(1, 0, pennaGiu);
@@ -108,7 +108,7 @@ TEST_F(PlotEngine, WhiteIsStoredAsBlackForLinesAndTexts) {
     EXPECT_EQ(statoPlot.penna.colore, bianco);  // the pen itself keeps its colour
 }
 
-TEST_F(PlotEngine, PensAboveThirtyAreThirtyAndRowZeroDrawsNothing) {
+TEST_F(MotorePlot, PensAboveThirtyAreThirtyAndRowZeroDrawsNothing) {
     plotApri(0, 0, 19, 27);
     plotPenna(45);
     EXPECT_EQ(statoPlot.penna, statoPlot.penne[30]);
@@ -120,7 +120,7 @@ TEST_F(PlotEngine, PensAboveThirtyAreThirtyAndRowZeroDrawsNothing) {
     EXPECT_THROW(plotPenna(-1), base::ErroreIndice);
 }
 
-TEST_F(PlotEngine, PenWithAColourOfItsOwnKeepsWidthAndFontOfItsRow) {
+TEST_F(MotorePlot, PenWithAColourOfItsOwnKeepsWidthAndFontOfItsRow) {
     plotApri(0, 0, 19, 27);
     plotPennaRgb(4, 4711);
     EXPECT_EQ(statoPlot.penna, (PennaPlot{4711, statoPlot.penne[4].spessore, "Courier New"}));
@@ -134,7 +134,7 @@ TEST_F(PlotEngine, PenWithAColourOfItsOwnKeepsWidthAndFontOfItsRow) {
     EXPECT_EQ(statoPlot.penna.colore, bluPieno);
 }
 
-TEST_F(PlotEngine, OffsetsShiftLinesAndTextsRightAndDownAndWidenTheWindow) {
+TEST_F(MotorePlot, OffsetsShiftLinesAndTextsRightAndDownAndWidenTheWindow) {
     configuraMargini(1.5, 0.5);
     plotApri(0, 0, 19, 27);
     plotPenna(1);
@@ -148,7 +148,7 @@ TEST_F(PlotEngine, OffsetsShiftLinesAndTextsRightAndDownAndWidenTheWindow) {
     EXPECT_EQ(statoPlot.estensione, (Riquadro{0, -0.5, 20.5, 27}));
 }
 
-TEST_F(PlotEngine, TextIsStoredAsItStandsWithTheFontOfThePen) {
+TEST_F(MotorePlot, TextIsStoredAsItStandsWithTheFontOfThePen) {
     plotApri(0, 0, 19, 27);
     plotPenna(1);
     plotSimbolo(2, 3, 0.4, " città ", 90, conteggioCentrato);
@@ -158,7 +158,7 @@ TEST_F(PlotEngine, TextIsStoredAsItStandsWithTheFontOfThePen) {
                                                {4, 5, 0.2, -30, 1, "m", bluPieno, "Courier New"}}));
 }
 
-TEST_F(PlotEngine, TextDoesNotMoveThePen) {
+TEST_F(MotorePlot, TextDoesNotMoveThePen) {
     plotApri(0, 0, 19, 27);
     plotPenna(1);
     plotMuovi(1, 1, pennaSu);
@@ -167,7 +167,7 @@ TEST_F(PlotEngine, TextDoesNotMoveThePen) {
     EXPECT_EQ(tratto(0), (Tratto{{1, 1}, {2, 1}}));
 }
 
-TEST_F(PlotEngine, MarkerIsDrawnAboutItsPointAndLeavesThePenThere) {
+TEST_F(MotorePlot, MarkerIsDrawnAboutItsPointAndLeavesThePenThere) {
     plotApri(0, 0, 19, 27);
     plotPenna(1);
     plotMuovi(10, 10, pennaSuOrigine);
@@ -180,7 +180,7 @@ TEST_F(PlotEngine, MarkerIsDrawnAboutItsPointAndLeavesThePenThere) {
     EXPECT_TRUE(testi().empty());
 }
 
-TEST_F(PlotEngine, UnknownMarkerDrawsNothingAndDoesNotMoveThePen) {
+TEST_F(MotorePlot, UnknownMarkerDrawsNothingAndDoesNotMoveThePen) {
     plotApri(0, 0, 19, 27);
     plotPenna(1);
     plotMuovi(1, 1, pennaSu);
@@ -191,7 +191,7 @@ TEST_F(PlotEngine, UnknownMarkerDrawsNothingAndDoesNotMoveThePen) {
     EXPECT_EQ(tratto(0), (Tratto{{1, 1}, {2, 1}}));
 }
 
-TEST_F(PlotEngine, NumberIsWrittenAsATextThatStartsAtItsPoint) {
+TEST_F(MotorePlot, NumberIsWrittenAsATextThatStartsAtItsPoint) {
     plotApri(0, 0, 19, 27);
     plotPenna(1);
     plotNumero(2, 3, 0.2, -1.5, 90, 2);
@@ -200,14 +200,14 @@ TEST_F(PlotEngine, NumberIsWrittenAsATextThatStartsAtItsPoint) {
                                                {2, 3, 0.2, 0, 1, "7", rossoPieno, "Arial"}}));
 }
 
-TEST_F(PlotEngine, PenStartsAtValuesThatNoRowHas) {
+TEST_F(MotorePlot, PenStartsAtValuesThatNoRowHas) {
     plotApri(0, 0, 19, 27);
     EXPECT_EQ(statoPlot.penna.colore, -1);
     EXPECT_EQ(statoPlot.penna.spessore, -1);
     EXPECT_TRUE(statoPlot.penna.carattere.empty());
 }
 
-TEST_F(PlotEngine, NewDrawingForgetsTheOneBefore) {
+TEST_F(MotorePlot, NewDrawingForgetsTheOneBefore) {
     plotApri(0, 0, 19, 27);
     plotPenna(1);
     plotMuovi(1, 0, pennaGiu);
@@ -219,7 +219,7 @@ TEST_F(PlotEngine, NewDrawingForgetsTheOneBefore) {
     EXPECT_EQ(statoPlot.estensione, (Riquadro{0, 0, 20, 28.5}));
 }
 
-TEST_F(PlotEngine, ConfigurationIsReadAnewForEachDrawing) {
+TEST_F(MotorePlot, ConfigurationIsReadAnewForEachDrawing) {
     plotApri(0, 0, 19, 27);
     EXPECT_EQ(statoPlot.penne[1].colore, rossoPieno);
     ConfigurazionePlot c = test::configurazioneDiProva();
@@ -229,7 +229,7 @@ TEST_F(PlotEngine, ConfigurationIsReadAnewForEachDrawing) {
     EXPECT_EQ(statoPlot.penne[1].colore, 4711);
 }
 
-TEST_F(PlotEngine, MissingConfigurationIsAnErrorAndLeavesTheDrawingBefore) {
+TEST_F(MotorePlot, MissingConfigurationIsAnErrorAndLeavesTheDrawingBefore) {
     plotApri(0, 0, 19, 27);
     plotPenna(1);
     plotMuovi(1, 0, pennaGiu);
@@ -240,7 +240,7 @@ TEST_F(PlotEngine, MissingConfigurationIsAnErrorAndLeavesTheDrawingBefore) {
     EXPECT_EQ(statoPlot.estensione, (Riquadro{0, 0, 19, 27}));
 }
 
-TEST_F(PlotEngine, Line32001GoesBehindAFirstSpillFileAndTheEndWritesTheSecond) {
+TEST_F(MotorePlot, Line32001GoesBehindAFirstSpillFileAndTheEndWritesTheSecond) {
     plotApri(0, 0, 19, 27);
     plotPenna(1);
     test::tracciaLinee(32000);
@@ -255,7 +255,7 @@ TEST_F(PlotEngine, Line32001GoesBehindAFirstSpillFileAndTheEndWritesTheSecond) {
               (std::vector<Segmento>{{32000, 0, 32000, 1, rossoPieno, 0.01}}));
 }
 
-TEST_F(PlotEngine, Text2001IsRefusedInWordsThatNameTheLimit) {
+TEST_F(MotorePlot, Text2001IsRefusedInWordsThatNameTheLimit) {
     plotApri(0, 0, 19, 27);
     plotPenna(1);
     for (int i = 0; i < 2000; ++i) plotSimbolo(1, 1, 0.3, "t", 0, 1);
@@ -267,7 +267,7 @@ TEST_F(PlotEngine, Text2001IsRefusedInWordsThatNameTheLimit) {
     }
 }
 
-TEST_F(PlotEngine, LabelWidthIsThatOfTheFontInUseUnlessADeviceMeasures) {
+TEST_F(MotorePlot, LabelWidthIsThatOfTheFontInUseUnlessADeviceMeasures) {
     plotApri(0, 0, 19, 27);
     plotPenna(1);  // Arial
     const double arial = larghezzaTesto(0.2, "iii");
@@ -289,7 +289,7 @@ struct SempreFermo : SorvegliaDisegno {
     int iniziati = 0, finiti = 0;
 };
 
-TEST_F(PlotEngine, AnInterruptEndsADrawingAtItsNextLine) {
+TEST_F(MotorePlot, AnInterruptEndsADrawingAtItsNextLine) {
     plotApri(0, 0, 10, 10);
     plotPenna(1);
     SempreFermo sorveglia;
@@ -298,7 +298,7 @@ TEST_F(PlotEngine, AnInterruptEndsADrawingAtItsNextLine) {
     EXPECT_THROW(plotMuovi(2, 2, pennaGiu), DisegnoInterrotto);
 }
 
-TEST_F(PlotEngine, AnInterruptEndsAReplayWithThePartThatIsShown) {
+TEST_F(MotorePlot, AnInterruptEndsAReplayWithThePartThatIsShown) {
     plotApri(0, 0, 10, 10);
     plotPenna(1);
     test::tracciaLinee(2);

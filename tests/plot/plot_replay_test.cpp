@@ -14,9 +14,9 @@ namespace {
 using Eventi = std::vector<std::string>;
 
 // A surface on which a drawing of 20 x 10 cm has 50 pixels to the centimetre.
-class Replay : public test::ProvaPlot {
+class Riproduzione : public test::ProvaPlot {
  protected:
-    Replay() { statoPlot.superficie = &superficie; }
+    Riproduzione() { statoPlot.superficie = &superficie; }
 
     Eventi preso() { return std::exchange(superficie.eventi, {}); }
     static void disegna() {
@@ -33,7 +33,7 @@ class Replay : public test::ProvaPlot {
     test::SuperficieRegistrata superficie{{1000, 500, 20}};
 };
 
-TEST_F(Replay, DrawingAppearsWhileItIsMade) {
+TEST_F(Riproduzione, DrawingAppearsWhileItIsMade) {
     disegna();
     EXPECT_EQ(preso(),
               (Eventi{"prepare 0.00 0.00 20.00 10.00 on 1000 500",
@@ -45,7 +45,7 @@ TEST_F(Replay, DrawingAppearsWhileItIsMade) {
                       "show"}));
 }
 
-TEST_F(Replay, ReplayShowsTheSameAndStoresNothing) {
+TEST_F(Riproduzione, ReplayShowsTheSameAndStoresNothing) {
     disegna();
     const Eventi prima = preso();
     plotTutto();
@@ -54,7 +54,7 @@ TEST_F(Replay, ReplayShowsTheSameAndStoresNothing) {
     EXPECT_EQ(statoPlot.archivio.testi().size(), 1U);
 }
 
-TEST_F(Replay, StrokesOfACallerDuringAReplayAreShownButNotStored) {
+TEST_F(Riproduzione, StrokesOfACallerDuringAReplayAreShownButNotStored) {
     disegna();
     plotApri(0, 0, 20, 10, 1);
     preso();
@@ -66,7 +66,7 @@ TEST_F(Replay, StrokesOfACallerDuringAReplayAreShownButNotStored) {
     EXPECT_EQ(statoPlot.archivio.testi().size(), 1U);
 }
 
-TEST_F(Replay, ZoomShowsTheRectangleAtItsScaleAndKeepsTheWholeDrawing) {
+TEST_F(Riproduzione, ZoomShowsTheRectangleAtItsScaleAndKeepsTheWholeDrawing) {
     disegna();
     preso();
     plotZoom(0, 0, 4, 2);  // 250 pixels to the centimetre
@@ -82,7 +82,7 @@ TEST_F(Replay, ZoomShowsTheRectangleAtItsScaleAndKeepsTheWholeDrawing) {
     EXPECT_EQ(statoPlot.estensione, (Riquadro{0, 0, 20, 10}));
 }
 
-TEST_F(Replay, FullViewComesBackUnchangedHoweverOftenEvenWithMargins) {
+TEST_F(Riproduzione, FullViewComesBackUnchangedHoweverOftenEvenWithMargins) {
     ConfigurazionePlot c = test::configurazioneDiProva();
     c.margineSinistro = 2;
     c.margineSuperiore = 1;
@@ -100,7 +100,7 @@ TEST_F(Replay, FullViewComesBackUnchangedHoweverOftenEvenWithMargins) {
     }
 }
 
-TEST_F(Replay, NarrowWindowIsWidenedOnTheSurfaceAloneNotInTheWholeDrawing) {
+TEST_F(Riproduzione, NarrowWindowIsWidenedOnTheSurfaceAloneNotInTheWholeDrawing) {
     plotApri(0, 0, 1, 10);  // 50 pixels wide, raised to 6 tool strips: 120 pixels, 2.4 cm
     EXPECT_EQ(preso().front(), "prepare 0.00 0.00 2.40 10.00 on 120 500");
     EXPECT_EQ(statoPlot.finestra, (Riquadro{0, 0, 2.4, 10}));
@@ -110,14 +110,14 @@ TEST_F(Replay, NarrowWindowIsWidenedOnTheSurfaceAloneNotInTheWholeDrawing) {
     EXPECT_EQ(statoPlot.estensione, (Riquadro{0, 0, 1, 10}));
 }
 
-TEST_F(Replay, EndOfADrawingTakesTheZoomOff) {
+TEST_F(Riproduzione, EndOfADrawingTakesTheZoomOff) {
     disegna();
     plotZoom(1, 1, 3, 2);
     plotMuovi(0, 0, fineDisegno);
     EXPECT_FALSE(statoPlot.zoom);
 }
 
-TEST_F(Replay, NewDrawingWhileAZoomWasLeftInForceHasItsOwnExtent) {
+TEST_F(Riproduzione, NewDrawingWhileAZoomWasLeftInForceHasItsOwnExtent) {
     disegna();
     plotZoom(1, 1, 3, 2);  // and the viewer is closed
     plotApri(0, 0, 30, 15);
@@ -125,7 +125,7 @@ TEST_F(Replay, NewDrawingWhileAZoomWasLeftInForceHasItsOwnExtent) {
     EXPECT_FALSE(statoPlot.zoom);
 }
 
-TEST_F(Replay, WhiteIsBlackOnTheSurface) {
+TEST_F(Riproduzione, WhiteIsBlackOnTheSurface) {
     plotApri(0, 0, 20, 10);
     plotPenna(2);
     preso();
@@ -135,7 +135,7 @@ TEST_F(Replay, WhiteIsBlackOnTheSurface) {
                                "text 1.00 1.00 font -20 turn 0 colour 0 Courier New \"nero\""}));
 }
 
-TEST_F(Replay, TextTooSmallForAPixelIsWrittenWithHeightMinusOne) {
+TEST_F(Riproduzione, TextTooSmallForAPixelIsWrittenWithHeightMinusOne) {
     plotApri(0, 0, 20, 10);
     plotPenna(1);
     preso();
@@ -143,7 +143,7 @@ TEST_F(Replay, TextTooSmallForAPixelIsWrittenWithHeightMinusOne) {
     EXPECT_EQ(preso(), (Eventi{"text 1.00 1.00 font -1 turn 0 colour 255 Arial \"a\""}));
 }
 
-TEST_F(Replay, PolygonsComeFirst) {
+TEST_F(Riproduzione, PolygonsComeFirst) {
     disegna();
     statoPlot.archivio.aggiungi(PoligonoPlot{4, {}, nero});
     preso();
@@ -151,7 +151,7 @@ TEST_F(Replay, PolygonsComeFirst) {
     EXPECT_EQ(preso().at(2), "polygon of 4");
 }
 
-TEST_F(Replay, SpillFilesAreReplayedInTheOrderDrawn) {
+TEST_F(Riproduzione, SpillFilesAreReplayedInTheOrderDrawn) {
     plotApri(0, 0, 20, 10);
     plotPenna(1);
     test::tracciaLinee(32002);
@@ -162,7 +162,7 @@ TEST_F(Replay, SpillFilesAreReplayedInTheOrderDrawn) {
     EXPECT_EQ(prima.size(), 2U + 1 + 32002 + 1);
 }
 
-TEST_F(Replay, LineOrTextWithoutAPlaceIsLeftOutAndTheOthersAreShown) {
+TEST_F(Riproduzione, LineOrTextWithoutAPlaceIsLeftOutAndTheOthersAreShown) {
     constexpr double nessuno = std::numeric_limits<double>::quiet_NaN();
     plotApri(0, 0, 20, 10);
     plotPenna(1);
@@ -180,13 +180,13 @@ TEST_F(Replay, LineOrTextWithoutAPlaceIsLeftOutAndTheOthersAreShown) {
                       "text 1.00 1.00 font -20 turn 0 colour 255 Arial \"b\"", "show"}));
 }
 
-TEST_F(Replay, NoSheetIsMarkedWhereThePrinterHasNone) {
+TEST_F(Riproduzione, NoSheetIsMarkedWhereThePrinterHasNone) {
     statoPlot.foglioStampante = {};
     plotApri(0, 0, 20, 10);
     EXPECT_EQ(preso().size(), 1U);
 }
 
-TEST_F(Replay, WithoutASurfaceTheDrawingIsStoredAndReplayDoesNothing) {
+TEST_F(Riproduzione, WithoutASurfaceTheDrawingIsStoredAndReplayDoesNothing) {
     statoPlot.superficie = nullptr;
     disegna();
     plotZoom(1, 1, 3, 2);

@@ -46,7 +46,7 @@ class Uscite : public testing::Test {
         finestra.collega(*programma);
         finestra.show();
     }
-    ~Uscite() override { ::setenv("PATH", path.c_str(), 1); }
+    ~Uscite() override { ::setenv("PATH", percorsi.c_str(), 1); }
 
     static void script(const std::string& nome, const std::string& testo) {
         test::metti(nome, "#!/bin/sh\n" + testo + "\n");
@@ -62,7 +62,7 @@ class Uscite : public testing::Test {
     }
 
     QApplication& app = test::applicazione();
-    const std::string path = std::getenv("PATH");
+    const std::string percorsi = std::getenv("PATH");
     const test::CartellaProvvisoria strumenti;
     test::AmbienteDocumento ambiente;
     const std::string muro = ambiente.lavori / "muro.kvd";
