@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <random>
 
-#include "base/program_folder.hpp"
+#include "base/folders/program_folder.hpp"
 #include "drawings/hatch_library.hpp"
 #include "drawings/stratigraphic_log.hpp"
 #include "plot/dxf/export.hpp"

@@ -2,7 +2,7 @@
 
 #include <random>
 
-#include "base/program_folder.hpp"
+#include "base/folders/program_folder.hpp"
 #include "device/graphics_session.hpp"
 #include "device/screen_surface.hpp"
 #include "plot/plot_configuration.hpp"

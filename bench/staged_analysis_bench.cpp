@@ -5,7 +5,7 @@
 #include "analysis/calcolo_paratia.hpp"
 #include "analysis/run_flags.hpp"
 #include "analysis/segment_count.hpp"
-#include "base/file_names.hpp"
+#include "base/folders/file_names.hpp"
 #include "commands/project_commands.hpp"
 #include "example_run.hpp"
 #include "support/dialog_double.hpp"

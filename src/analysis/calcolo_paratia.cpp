@@ -8,7 +8,7 @@
 #include "analysis/run_flags.hpp"
 #include "analysis/segment_count.hpp"
 #include "analysis/staged_run.hpp"
-#include "base/file_names.hpp"
+#include "base/folders/file_names.hpp"
 #include "base/number_text.hpp"
 #include "base/pointer_guard.hpp"
 #include "base/translated_texts.hpp"

@@ -4,7 +4,7 @@
 
 #include "analysis/progress.hpp"
 #include "base/dialogo.hpp"
-#include "base/file_lock.hpp"
+#include "base/folders/file_lock.hpp"
 
 namespace korven::analysis {
 

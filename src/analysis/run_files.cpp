@@ -4,8 +4,8 @@
 
 #include "analysis/result_file.hpp"
 #include "analysis/run_flags.hpp"
-#include "base/file_names.hpp"
 #include "base/files.hpp"
+#include "base/folders/file_names.hpp"
 #include "base/translated_texts.hpp"
 #include "project/output_guard.hpp"
 #include "project/project_file.hpp"

@@ -4,8 +4,8 @@
 
 #include "analysis/input_checks.hpp"
 #include "base/files.hpp"
+#include "base/folders/program_folder.hpp"
 #include "base/number_text.hpp"
-#include "base/program_folder.hpp"
 
 namespace korven::analysis {
 

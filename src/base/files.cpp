@@ -110,7 +110,7 @@ ScrittoreFile::ScrittoreFile(const std::string& percorso, const Disco& disco)
         nonScritto(percorso, errno);
     // A name of its own: after the longest name that a folder takes there is no room for more.
     const std::string modello = cartellaDi(meta_) + "/.korven-XXXXXX";
-    // In custody, so that nobody takes it for what a killed program left (leftovers.hpp).
+    // In custody, so that nobody takes it for what a killed program left (folders/leftovers.hpp).
     do {
         if (file_ >= 0) ::close(file_);
         provvisorio_ = modello;

@@ -5,8 +5,8 @@
 #include <iostream>
 
 #include "analysis/result_guard.hpp"
+#include "base/folders/program_folder.hpp"
 #include "base/process/closed_pipe.hpp"
-#include "base/program_folder.hpp"
 #include "base/translated_texts.hpp"
 #include "batch/command_table.hpp"
 #include "batch/options/command_line.hpp"

@@ -1,6 +1,6 @@
 #include <iostream>
 
-#include "base/file_names.hpp"
+#include "base/folders/file_names.hpp"
 #include "base/translated_texts.hpp"
 #include "batch/command_table.hpp"
 #include "batch/options/common_options.hpp"

@@ -3,7 +3,7 @@
 #include <filesystem>
 
 #include "base/code_page.hpp"
-#include "base/file_names.hpp"
+#include "base/folders/file_names.hpp"
 #include "base/translated_texts.hpp"
 
 namespace korven::commands {

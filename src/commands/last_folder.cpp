@@ -4,7 +4,7 @@
 
 #include "base/file_error.hpp"
 #include "base/files.hpp"
-#include "base/program_folder.hpp"
+#include "base/folders/program_folder.hpp"
 
 namespace korven::commands {
 

@@ -3,9 +3,9 @@
 #include <filesystem>
 
 #include "base/file_error.hpp"
-#include "base/file_names.hpp"
 #include "base/files.hpp"
-#include "base/leftovers.hpp"
+#include "base/folders/file_names.hpp"
+#include "base/folders/leftovers.hpp"
 #include "base/text_lines.hpp"
 #include "base/translated_texts.hpp"
 #include "markup/text_renderer.hpp"

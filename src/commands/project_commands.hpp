@@ -9,7 +9,7 @@
 namespace korven::commands {
 
 /// Sweeps away what killed programs of this house left in the folder of a project and in the
-/// system's temporary folder (base/leftovers.hpp).
+/// system's temporary folder (base/folders/leftovers.hpp).
 void togliResti(const std::string& progetto);
 
 /// Opens a project for a command: reads `percorso` into `Progetto` and makes `fileCorrente` the

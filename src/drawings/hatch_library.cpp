@@ -7,8 +7,8 @@
 
 #include "base/file_error.hpp"
 #include "base/files.hpp"
+#include "base/folders/program_folder.hpp"
 #include "base/language.hpp"
-#include "base/program_folder.hpp"
 #include "base/text_lines.hpp"
 #include "base/translated_texts.hpp"
 

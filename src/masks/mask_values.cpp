@@ -3,8 +3,8 @@
 #include <cassert>
 
 #include "base/file_error.hpp"
+#include "base/folders/program_folder.hpp"
 #include "base/number_text.hpp"
-#include "base/program_folder.hpp"
 #include "base/table.hpp"
 #include "base/translated_texts.hpp"
 #include "masks/mask_reader.hpp"

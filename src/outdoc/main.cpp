@@ -2,10 +2,10 @@
 #include <iostream>
 #include <string>
 
+#include "base/folders/user_data.hpp"
 #include "base/process/closed_pipe.hpp"
-#include "base/program_questions.hpp"
+#include "base/process/program_questions.hpp"
 #include "base/translated_texts.hpp"
-#include "base/user_data.hpp"
 #include "base/version.hpp"
 #include "outdoc/document_renderer.hpp"
 

@@ -4,9 +4,9 @@
 
 #include "base/code_page.hpp"
 #include "base/files.hpp"
+#include "base/folders/program_folder.hpp"
 #include "base/language.hpp"
 #include "base/number_text.hpp"
-#include "base/program_folder.hpp"
 #include "base/translated_texts.hpp"
 
 namespace korven::plot {

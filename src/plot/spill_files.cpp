@@ -10,7 +10,7 @@
 #include "base/file_custody.hpp"
 #include "base/file_error.hpp"
 #include "base/files.hpp"
-#include "base/leftovers.hpp"
+#include "base/folders/leftovers.hpp"
 #include "base/number_text.hpp"
 #include "base/system_reason.hpp"
 #include "base/text_lines.hpp"

@@ -21,7 +21,7 @@ namespace korven::plot {
 /// Path of spill file `numero` of this process. Where the variable `windir` names no drive, the
 /// files lie in a folder that the first call makes in the system's temporary folder, for this
 /// process alone; it is removed with all that is in it when the process ends. A process that is
-/// killed leaves it to the next start (base/leftovers.hpp).
+/// killed leaves it to the next start (base/folders/leftovers.hpp).
 /// @throws ErroreFile when that folder can't be made
 [[nodiscard]] std::string percorsoFileScarico(int numero);
 

@@ -3,8 +3,8 @@
 #include <filesystem>
 
 #include "base/code_page.hpp"
-#include "base/file_names.hpp"
 #include "base/files.hpp"
+#include "base/folders/file_names.hpp"
 #include "project/output_guard.hpp"
 #include "report/report_footer.hpp"
 #include "report/report_sections.hpp"

@@ -8,7 +8,7 @@
 #include "analysis/segment_count.hpp"
 #include "analysis/wall_mesh.hpp"
 #include "base/file_error.hpp"
-#include "base/program_folder.hpp"
+#include "base/folders/program_folder.hpp"
 #include "base/translated_texts.hpp"
 
 namespace korven::results {

@@ -4,7 +4,7 @@
 #include <cmath>
 
 #include "analysis/anchors_in_place.hpp"
-#include "base/file_names.hpp"
+#include "base/folders/file_names.hpp"
 #include "project/project_data.hpp"
 #include "results/report_data.hpp"
 

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "base/program_folder.hpp"
+#include "base/folders/program_folder.hpp"
 #include "support/temporary_folder.hpp"
 
 namespace korven::analysis {

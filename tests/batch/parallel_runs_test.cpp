@@ -2,7 +2,7 @@
 #include <memory>
 #include <thread>
 
-#include "base/file_lock.hpp"
+#include "base/folders/file_lock.hpp"
 #include "batch/batch_bench.hpp"
 
 namespace korven::batch {

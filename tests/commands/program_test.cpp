@@ -9,8 +9,8 @@
 
 #include "analysis/run_flags.hpp"
 #include "base/code_page.hpp"
-#include "base/file_lock.hpp"
-#include "base/file_names.hpp"
+#include "base/folders/file_lock.hpp"
+#include "base/folders/file_names.hpp"
 #include "drawings/hatch_library.hpp"
 #include "plot/plot_engine.hpp"
 #include "project/project_file.hpp"

@@ -10,8 +10,8 @@
 
 #include "base/code_page.hpp"
 #include "base/file_error.hpp"
+#include "base/folders/program_folder.hpp"
 #include "base/process/avvia_programma.hpp"
-#include "base/program_folder.hpp"
 #include "project/output_guard.hpp"
 #include "support/dialog_double.hpp"
 #include "support/failing_disk.hpp"

@@ -8,7 +8,7 @@
 #include <set>
 
 #include "base/code_page.hpp"
-#include "base/program_folder.hpp"
+#include "base/folders/program_folder.hpp"
 #include "drawings/hatch_library.hpp"
 #include "drawings/layer_description.hpp"
 #include "project/project_file.hpp"

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "base/file_error.hpp"
-#include "base/program_folder.hpp"
+#include "base/folders/program_folder.hpp"
 #include "base/table.hpp"
 #include "support/temporary_folder.hpp"
 

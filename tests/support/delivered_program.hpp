@@ -2,7 +2,7 @@
 
 #include <functional>
 
-#include "base/program_folder.hpp"
+#include "base/folders/program_folder.hpp"
 #include "masks/mask_editing.hpp"
 #include "shell/masks/base1.hpp"
 #include "shell/masks/base2_32.hpp"

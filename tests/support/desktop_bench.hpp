@@ -6,7 +6,7 @@
 #include <QTimer>
 #include <functional>
 
-#include "base/program_folder.hpp"
+#include "base/folders/program_folder.hpp"
 #include "base/translated_texts.hpp"
 
 namespace korven::test {

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "base/program_folder.hpp"
+#include "base/folders/program_folder.hpp"
 #include "base/translated_texts.hpp"
 #include "commands/document_ports.hpp"
 #include "project/output_guard.hpp"

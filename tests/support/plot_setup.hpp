@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "base/program_folder.hpp"
+#include "base/folders/program_folder.hpp"
 #include "base/translated_texts.hpp"
 #include "plot/plot_configuration.hpp"
 #include "plot/plot_engine.hpp"

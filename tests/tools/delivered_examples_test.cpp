@@ -8,8 +8,8 @@
 
 #include "base/code_page.hpp"
 #include "base/files.hpp"
+#include "base/folders/program_folder.hpp"
 #include "base/language.hpp"
-#include "base/program_folder.hpp"
 #include "base/text_lines.hpp"
 #include "commands/start/example_folders.hpp"
 #include "drawings/layer_description.hpp"

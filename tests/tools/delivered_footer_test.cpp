@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "base/program_folder.hpp"
+#include "base/folders/program_folder.hpp"
 #include "base/translated_texts.hpp"
 #include "markup/estimated_width.hpp"
 #include "report/report_footer.hpp"

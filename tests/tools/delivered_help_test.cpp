@@ -8,8 +8,8 @@
 
 #include "base/code_page.hpp"
 #include "base/files.hpp"
+#include "base/folders/program_folder.hpp"
 #include "base/language.hpp"
-#include "base/program_folder.hpp"
 #include "base/translated_texts.hpp"
 #include "commands/menu_tree.hpp"
 #include "help/contexts.hpp"

@@ -8,8 +8,8 @@
 
 #include "base/code_page.hpp"
 #include "base/files.hpp"
+#include "base/folders/program_folder.hpp"
 #include "base/number_text.hpp"
-#include "base/program_folder.hpp"
 #include "base/translated_texts.hpp"
 #include "masks/column_keys.hpp"
 #include "masks/edited_fields.hpp"

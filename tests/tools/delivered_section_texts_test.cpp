@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "base/program_folder.hpp"
+#include "base/folders/program_folder.hpp"
 #include "base/translated_texts.hpp"
 #include "drawings/dimension_lines.hpp"
 #include "drawings/section_drawing.hpp"

@@ -3,7 +3,7 @@
 #include <iostream>
 
 #include "analysis/run_flags.hpp"
-#include "base/file_names.hpp"
+#include "base/folders/file_names.hpp"
 #include "base/translated_texts.hpp"
 #include "batch/run/failure.hpp"
 #include "project/project_data.hpp"

@@ -6,7 +6,7 @@
 
 #include "base/file_error.hpp"
 #include "base/file_identity.hpp"
-#include "base/file_names.hpp"
+#include "base/folders/file_names.hpp"
 #include "base/translated_texts.hpp"
 #include "batch/run/console_run.hpp"
 #include "batch/run/failure.hpp"

@@ -6,8 +6,8 @@
 #include <iostream>
 
 #include "base/file_identity.hpp"
-#include "base/file_names.hpp"
 #include "base/files.hpp"
+#include "base/folders/file_names.hpp"
 #include "base/table.hpp"
 #include "base/translated_texts.hpp"
 #include "base/value_error.hpp"

@@ -1,7 +1,7 @@
 #include "batch/run/output_names.hpp"
 
 #include "base/file_identity.hpp"
-#include "base/file_names.hpp"
+#include "base/folders/file_names.hpp"
 #include "base/translated_texts.hpp"
 #include "commands/project_commands.hpp"
 #include "project/project_data.hpp"

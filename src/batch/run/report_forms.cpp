@@ -4,7 +4,7 @@
 #include <string>
 
 #include "base/file_error.hpp"
-#include "base/file_names.hpp"
+#include "base/folders/file_names.hpp"
 #include "base/process/processi.hpp"
 #include "base/translated_texts.hpp"
 #include "base/value_error.hpp"

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "base/program_questions.hpp"
+#include "base/process/program_questions.hpp"
 
 namespace korven::commands {
 

@@ -5,7 +5,7 @@
 
 #include "base/code_page.hpp"
 #include "base/files.hpp"
-#include "base/program_folder.hpp"
+#include "base/folders/program_folder.hpp"
 
 namespace korven::commands {
 

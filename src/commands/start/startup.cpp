@@ -1,7 +1,7 @@
 #include "commands/start/startup.hpp"
 
+#include "base/folders/leftovers.hpp"
 #include "base/language.hpp"
-#include "base/leftovers.hpp"
 #include "base/translated_texts.hpp"
 #include "plot/plot_configuration.hpp"
 #include "project/project_data.hpp"

@@ -8,8 +8,8 @@
 #include "base/code_page.hpp"
 #include "base/file_error.hpp"
 #include "base/files.hpp"
-#include "base/program_folder.hpp"
-#include "base/user_data.hpp"
+#include "base/folders/program_folder.hpp"
+#include "base/folders/user_data.hpp"
 
 namespace korven::commands {
 

@@ -5,7 +5,7 @@
 #include "base/code_page.hpp"
 #include "base/file_error.hpp"
 #include "base/files.hpp"
-#include "base/program_folder.hpp"
+#include "base/folders/program_folder.hpp"
 #include "base/text_lines.hpp"
 #include "base/translated_texts.hpp"
 #include "plot/dxf/writer.hpp"

@@ -11,7 +11,7 @@
 #include <utility>
 #include <vector>
 
-#include "base/program_folder.hpp"
+#include "base/folders/program_folder.hpp"
 #include "base/translated_texts.hpp"
 #include "device/text_painting.hpp"
 #include "shell/failure_box.hpp"

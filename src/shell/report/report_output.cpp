@@ -4,7 +4,7 @@
 #include <QPrinter>
 #include <utility>
 
-#include "base/file_names.hpp"
+#include "base/folders/file_names.hpp"
 #include "base/pointer_guard.hpp"
 #include "base/translated_texts.hpp"
 #include "commands/output_title.hpp"

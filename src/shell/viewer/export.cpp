@@ -1,7 +1,7 @@
 #include "shell/viewer/export.hpp"
 
 #include "base/code_page.hpp"
-#include "base/file_names.hpp"
+#include "base/folders/file_names.hpp"
 #include "base/translated_texts.hpp"
 #include "device/drawing_files.hpp"
 #include "plot/dxf/export.hpp"

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "base/program_folder.hpp"
+#include "base/folders/program_folder.hpp"
 #include "base/translated_texts.hpp"
 #include "batch/batch_bench.hpp"
 #include "batch/command_table.hpp"

@@ -6,7 +6,7 @@
 
 #include "analysis/calcolo_paratia.hpp"
 #include "analysis/run_flags.hpp"
-#include "base/file_lock.hpp"
+#include "base/folders/file_lock.hpp"
 #include "support/desktop_bench.hpp"
 #include "support/run_harness.hpp"
 #include "support/sample_projects.hpp"

@@ -1,4 +1,4 @@
-#include "base/program_folder.hpp"
+#include "base/folders/program_folder.hpp"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "base/file_lock.hpp"
+#include "base/folders/file_lock.hpp"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -11,7 +11,7 @@
 
 #include "base/file_custody.hpp"
 #include "base/file_identity.hpp"
-#include "base/leftovers.hpp"
+#include "base/folders/leftovers.hpp"
 
 namespace korven::base {
 

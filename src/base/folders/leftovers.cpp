@@ -1,4 +1,4 @@
-#include "base/leftovers.hpp"
+#include "base/folders/leftovers.hpp"
 
 #include <fcntl.h>
 #include <sys/stat.h>

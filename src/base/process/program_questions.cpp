@@ -1,10 +1,10 @@
-#include "base/program_questions.hpp"
+#include "base/process/program_questions.hpp"
 
 #include <exception>
 
 #include "base/files.hpp"
+#include "base/folders/program_folder.hpp"
 #include "base/language.hpp"
-#include "base/program_folder.hpp"
 #include "base/translated_texts.hpp"
 #include "base/version.hpp"
 

@@ -1,4 +1,4 @@
-#include "base/file_names.hpp"
+#include "base/folders/file_names.hpp"
 
 #include <gtest/gtest.h>
 

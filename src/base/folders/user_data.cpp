@@ -1,10 +1,10 @@
-#include "base/user_data.hpp"
+#include "base/folders/user_data.hpp"
 
 #include <cstdlib>
 #include <filesystem>
 
 #include "base/files.hpp"
-#include "base/program_folder.hpp"
+#include "base/folders/program_folder.hpp"
 
 namespace korven::base {
 

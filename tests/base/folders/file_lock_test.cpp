@@ -1,4 +1,4 @@
-#include "base/file_lock.hpp"
+#include "base/folders/file_lock.hpp"
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>

@@ -1,4 +1,4 @@
-#include "base/program_questions.hpp"
+#include "base/process/program_questions.hpp"
 
 #include <gtest/gtest.h>
 
