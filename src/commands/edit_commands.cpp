@@ -6,7 +6,7 @@
 #include "base/table.hpp"
 #include "base/translated_texts.hpp"
 #include "commands/fatal_error.hpp"
-#include "masks/mask_editing.hpp"
+#include "masks/editing.hpp"
 #include "project/project_data.hpp"
 
 namespace korven::commands {

@@ -2,7 +2,7 @@
 
 #include "base/dialogo.hpp"
 #include "commands/program_forms.hpp"
-#include "masks/mask_values.hpp"
+#include "masks/values.hpp"
 
 namespace korven::commands {
 

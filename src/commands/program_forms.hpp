@@ -3,7 +3,7 @@
 #include <functional>
 #include <string>
 
-#include "masks/mask_values.hpp"
+#include "masks/values.hpp"
 
 namespace korven::commands {
 

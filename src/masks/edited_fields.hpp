@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "masks/mask_values.hpp"
+#include "masks/values.hpp"
 #include "project/field_table.hpp"
 
 namespace korven::masks {

@@ -6,8 +6,8 @@
 #include "base/files.hpp"
 #include "base/folders/file_names.hpp"
 #include "project/output_guard.hpp"
-#include "report/report_footer.hpp"
-#include "report/report_sections.hpp"
+#include "report/footer.hpp"
+#include "report/sections.hpp"
 
 namespace korven::report {
 

@@ -15,7 +15,7 @@
 #include "project/codes.hpp"
 #include "project/field_table.hpp"
 #include "project/project_file.hpp"
-#include "report/report_sections.hpp"
+#include "report/sections.hpp"
 #include "review/list.hpp"
 #include "support/sample_projects.hpp"
 #include "support/sample_sections.hpp"

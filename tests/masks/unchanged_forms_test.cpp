@@ -7,9 +7,9 @@
 #include <random>
 
 #include "masks/edited_section.hpp"
+#include "masks/editing.hpp"
 #include "masks/field_model.hpp"
 #include "masks/grid_model.hpp"
-#include "masks/mask_editing.hpp"
 #include "project/project_file.hpp"
 #include "support/dialog_double.hpp"
 #include "support/plain_masks.hpp"

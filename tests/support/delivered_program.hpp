@@ -3,7 +3,7 @@
 #include <functional>
 
 #include "base/folders/program_folder.hpp"
-#include "masks/mask_editing.hpp"
+#include "masks/editing.hpp"
 #include "shell/masks/base1.hpp"
 #include "shell/masks/base2_32.hpp"
 #include "shell/section/definej.hpp"

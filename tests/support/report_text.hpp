@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "base/translated_texts.hpp"
-#include "report/report_lines.hpp"
+#include "report/lines.hpp"
 
 namespace korven::test {
 

@@ -5,7 +5,7 @@
 #include "base/folders/program_folder.hpp"
 #include "base/translated_texts.hpp"
 #include "markup/estimated_width.hpp"
-#include "report/report_footer.hpp"
+#include "report/footer.hpp"
 
 namespace korven::report {
 namespace {

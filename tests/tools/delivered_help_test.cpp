@@ -17,7 +17,7 @@
 #include "help/places.hpp"
 #include "help/search.hpp"
 #include "help/text.hpp"
-#include "masks/mask_values.hpp"
+#include "masks/values.hpp"
 #include "tools/markup_check.hpp"
 #include "tools/text_source.hpp"
 

@@ -5,7 +5,7 @@
 
 #include "commands/document.hpp"
 #include "commands/start/language_start.hpp"
-#include "masks/mask_values.hpp"
+#include "masks/values.hpp"
 
 namespace korven::commands {
 

@@ -1,6 +1,6 @@
 #include "shell/masks/mask_forms.hpp"
 
-#include "masks/mask_editing.hpp"
+#include "masks/editing.hpp"
 #include "review/heading_review.hpp"
 #include "shell/masks/base1.hpp"
 #include "shell/masks/base2_32.hpp"

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "masks/mask_values.hpp"
+#include "masks/values.hpp"
 #include "project/project_data.hpp"
 
 // The two ends of an editing command: what goes into the form, and what comes back out of it.

@@ -1,4 +1,4 @@
-#include "report/report_lines.hpp"
+#include "report/lines.hpp"
 
 #include <gtest/gtest.h>
 

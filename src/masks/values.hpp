@@ -26,7 +26,7 @@ inline constexpr std::string_view fileMaschere[] = {"EDITT.MAV", "EDITDIA.MAV", 
 class Maschere {
  public:
     /// Reads mask files; mask 1 is the first of them. Read again, all are replaced.
-    /// @throws base::ErroreFile for a missing or broken file (mask_reader.hpp)
+    /// @throws base::ErroreFile for a missing or broken file (reader.hpp)
     /// @throws base::ErroreIndice for more than 20 masks
     void leggiMaschere(const std::vector<std::string>& percorsi);
 

@@ -1,4 +1,4 @@
-#include "masks/mask_reader.hpp"
+#include "masks/reader.hpp"
 
 #include <gtest/gtest.h>
 

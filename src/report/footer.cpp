@@ -1,4 +1,4 @@
-#include "report/report_footer.hpp"
+#include "report/footer.hpp"
 
 #include <cmath>
 #include <initializer_list>

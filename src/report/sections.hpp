@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "report/report_lines.hpp"
+#include "report/lines.hpp"
 #include "results/report_data.hpp"
 
 // The sections of the calculation report, in its order. Values are shown in kN, m, cm of
@@ -11,7 +11,7 @@
 namespace korven::report {
 
 /// Opening directives, title and the project's own heading lines that are not blank.
-/// @param piede  the line at the foot of each page (report_footer.hpp)
+/// @param piede  the line at the foot of each page (footer.hpp)
 void sezioneApertura(const project::DatiProgetto& progetto, std::string_view piede,
                      RigheRelazione& righe);
 

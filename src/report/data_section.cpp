@@ -1,6 +1,6 @@
 #include "project/codes.hpp"
-#include "report/report_footer.hpp"
-#include "report/report_sections.hpp"
+#include "report/footer.hpp"
+#include "report/sections.hpp"
 
 namespace korven::report {
 

@@ -1,4 +1,4 @@
-#include "report/report_sections.hpp"
+#include "report/sections.hpp"
 #include "results/structure_checks.hpp"
 #include "structure/section_type.hpp"
 #include "structure/section_validity.hpp"

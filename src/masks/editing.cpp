@@ -1,4 +1,4 @@
-#include "masks/mask_editing.hpp"
+#include "masks/editing.hpp"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #include "analysis/anchors_in_place.hpp"
 #include "base/translated_texts.hpp"
 #include "project/units.hpp"
-#include "report/report_sections.hpp"
+#include "report/sections.hpp"
 
 namespace korven::report {
 

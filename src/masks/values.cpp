@@ -1,4 +1,4 @@
-#include "masks/mask_values.hpp"
+#include "masks/values.hpp"
 
 #include <cassert>
 
@@ -7,7 +7,7 @@
 #include "base/number_text.hpp"
 #include "base/table.hpp"
 #include "base/translated_texts.hpp"
-#include "masks/mask_reader.hpp"
+#include "masks/reader.hpp"
 
 namespace korven::masks {
 

@@ -1,4 +1,4 @@
-#include "masks/mask_values.hpp"
+#include "masks/values.hpp"
 
 #include <gtest/gtest.h>
 

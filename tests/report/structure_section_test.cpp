@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "report/report_sections.hpp"
+#include "report/sections.hpp"
 #include "support/report_text.hpp"
 #include "support/sample_sections.hpp"
 
