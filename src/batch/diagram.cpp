@@ -5,7 +5,7 @@
 #include "batch/command_table.hpp"
 #include "batch/options/common_options.hpp"
 #include "batch/run/console_run.hpp"
-#include "batch/run/drawing_forms.hpp"
+#include "batch/run/drawing_formats.hpp"
 #include "batch/run/reviewed_run.hpp"
 #include "commands/diagram_output.hpp"
 #include "project/project_data.hpp"

@@ -1,6 +1,6 @@
 #include "batch/command_table.hpp"
 #include "batch/options/common_options.hpp"
-#include "batch/run/drawing_forms.hpp"
+#include "batch/run/drawing_formats.hpp"
 #include "drawings/hatch_samples.hpp"
 
 namespace korven::batch {

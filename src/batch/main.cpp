@@ -1,7 +1,7 @@
 #include <exception>
 #include <iostream>
 
-#include "batch/program.hpp"
+#include "batch/console_program.hpp"
 #include "batch/run/failure.hpp"
 
 // korven32c: the work of the desktop program without a window.

@@ -5,9 +5,9 @@
 #include "batch/command_table.hpp"
 #include "batch/options/common_options.hpp"
 #include "batch/run/console_run.hpp"
-#include "batch/run/drawing_forms.hpp"
+#include "batch/run/drawing_formats.hpp"
 #include "batch/run/failure.hpp"
-#include "batch/run/report_forms.hpp"
+#include "batch/run/report_formats.hpp"
 #include "batch/run/reviewed_run.hpp"
 
 namespace korven::batch {

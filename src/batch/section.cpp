@@ -1,6 +1,6 @@
 #include "batch/command_table.hpp"
 #include "batch/options/common_options.hpp"
-#include "batch/run/drawing_forms.hpp"
+#include "batch/run/drawing_formats.hpp"
 #include "batch/run/reviewed_run.hpp"
 #include "drawings/section_drawing.hpp"
 #include "project/project_data.hpp"

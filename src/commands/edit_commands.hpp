@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/dialogo.hpp"
-#include "commands/program_forms.hpp"
+#include "commands/desktop_forms.hpp"
 #include "masks/values.hpp"
 
 namespace korven::commands {

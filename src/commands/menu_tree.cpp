@@ -4,10 +4,10 @@
 #include <cassert>
 #include <iterator>
 
+#include "commands/desktop_program.hpp"
 #include "commands/document_names.hpp"
 #include "commands/edit_commands.hpp"
 #include "commands/output_commands.hpp"
-#include "commands/program.hpp"
 #include "project/project_data.hpp"
 
 namespace korven::commands {

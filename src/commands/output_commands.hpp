@@ -3,7 +3,7 @@
 #include "analysis/diagrams.hpp"
 #include "analysis/progress.hpp"
 #include "base/dialogo.hpp"
-#include "commands/program_forms.hpp"
+#include "commands/desktop_forms.hpp"
 
 // An output command refuses without an open project, brings the results up to date, and goes on
 // only when `erroreCalcolo` is false.

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "base/code_page.hpp"
-#include "help/text.hpp"
+#include "help/search_text.hpp"
 
 namespace korven::help {
 

@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-#include "help/file.hpp"
+#include "help/pages.hpp"
 
 namespace korven::help {
 
@@ -16,7 +16,7 @@ struct Trovata {
     std::string brano;  ///< the text around the first word found in the body, else its beginning
 };
 
-/// The words of a search, folded (text.hpp), parted by blanks.
+/// The words of a search, folded (search_text.hpp), parted by blanks.
 [[nodiscard]] std::vector<std::string> paroleCercate(std::string_view cerca);
 
 /// Where words of a search begin a word of a text (UTF-8): the first byte of each and the one after

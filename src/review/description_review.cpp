@@ -4,7 +4,7 @@
 #include "base/translated_texts.hpp"
 #include "drawings/log_descriptions.hpp"
 #include "plot/text_width.hpp"
-#include "review/list.hpp"
+#include "review/remark_list.hpp"
 
 namespace korven::review {
 

@@ -9,7 +9,7 @@
 #include "masks/field_check.hpp"
 #include "plot/sheet.hpp"
 #include "plot/text_width.hpp"
-#include "review/list.hpp"
+#include "review/remark_list.hpp"
 
 namespace korven::review {
 

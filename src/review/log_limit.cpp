@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "review/list.hpp"
+#include "review/remark_list.hpp"
 
 namespace korven::review {
 

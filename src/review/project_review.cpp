@@ -6,7 +6,7 @@
 #include "analysis/run_arrays.hpp"
 #include "analysis/segment_count.hpp"
 #include "base/translated_texts.hpp"
-#include "review/list.hpp"
+#include "review/remark_list.hpp"
 
 namespace korven::review {
 

@@ -3,7 +3,7 @@
 #include "analysis/input_checks.hpp"
 #include "analysis/run_arrays.hpp"
 #include "base/translated_texts.hpp"
-#include "review/list.hpp"
+#include "review/remark_list.hpp"
 #include "structure/section_millimetres.hpp"
 #include "structure/section_type.hpp"
 #include "structure/section_validity.hpp"

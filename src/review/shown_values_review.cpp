@@ -1,7 +1,7 @@
 #include <cmath>
 
 #include "base/translated_texts.hpp"
-#include "review/list.hpp"
+#include "review/remark_list.hpp"
 #include "structure/section_type.hpp"
 
 namespace korven::review {

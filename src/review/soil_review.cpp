@@ -10,7 +10,7 @@
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
 #include "project/codes.hpp"
-#include "review/list.hpp"
+#include "review/remark_list.hpp"
 
 namespace korven::review {
 

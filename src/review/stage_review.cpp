@@ -1,6 +1,6 @@
 #include "base/translated_texts.hpp"
 #include "project/codes.hpp"
-#include "review/list.hpp"
+#include "review/remark_list.hpp"
 
 namespace korven::review {
 

@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "base/table.hpp"
+#include "commands/desktop_program.hpp"
 #include "commands/fatal_error.hpp"
-#include "commands/program.hpp"
 #include "masks/edited_tables.hpp"
 #include "support/dialog_double.hpp"
 #include "support/document_ports.hpp"

@@ -16,7 +16,7 @@
 #include "project/field_table.hpp"
 #include "project/project_file.hpp"
 #include "report/sections.hpp"
-#include "review/list.hpp"
+#include "review/remark_list.hpp"
 #include "support/sample_projects.hpp"
 #include "support/sample_sections.hpp"
 

@@ -9,7 +9,7 @@
 #include "base/number_text.hpp"
 #include "base/table.hpp"
 #include "base/value_error.hpp"
-#include "commands/program.hpp"
+#include "commands/desktop_program.hpp"
 #include "drawings/hatch_library.hpp"
 #include "plot/plot_engine.hpp"
 #include "project/project_file.hpp"

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "review/list.hpp"
+#include "review/remark_list.hpp"
 #include "structure/section_millimetres.hpp"
 #include "structure/stiffness_update.hpp"
 #include "support/run_harness.hpp"

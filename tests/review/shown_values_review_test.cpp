@@ -1,5 +1,5 @@
 #include "review/bench.hpp"
-#include "review/list.hpp"
+#include "review/remark_list.hpp"
 #include "support/sample_sections.hpp"
 
 namespace korven::review {

@@ -11,7 +11,7 @@
 #include <map>
 
 #include "base/language.hpp"
-#include "help/file.hpp"
+#include "help/pages.hpp"
 #include "shell/dialogo_qt.hpp"
 #include "shell/file_dialogs_qt.hpp"
 #include "shell/help/guida.hpp"

@@ -13,7 +13,7 @@
 #include <functional>
 #include <set>
 
-#include "help/file.hpp"
+#include "help/pages.hpp"
 #include "shell/dialogo_qt.hpp"
 #include "shell/help/guida.hpp"
 #include "shell/main/informazioni.hpp"

@@ -16,7 +16,7 @@
 #include <QTableView>
 #include <QToolButton>
 
-#include "help/file.hpp"
+#include "help/pages.hpp"
 #include "shell/dialogo_qt.hpp"
 #include "shell/forms/elided_label.hpp"
 #include "shell/forms/help_strip.hpp"

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "batch/options/options.hpp"
-#include "batch/options/twins.hpp"
+#include "batch/options/twin_names.hpp"
 
 namespace korven::batch {
 

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "analysis/diagrams.hpp"
-#include "batch/options/forms.hpp"
+#include "batch/options/output_formats.hpp"
 
 namespace korven::batch {
 

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "batch/options/twins.hpp"
+#include "batch/options/twin_names.hpp"
 #include "plot/geometry.hpp"
 
 namespace korven::batch {

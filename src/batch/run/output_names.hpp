@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "batch/options/twins.hpp"
+#include "batch/options/twin_names.hpp"
 
 namespace korven::batch {
 

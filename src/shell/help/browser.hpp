@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "help/file.hpp"
+#include "help/pages.hpp"
 
 namespace korven::shell {
 

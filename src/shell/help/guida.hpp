@@ -3,7 +3,7 @@
 #include <QWidget>
 #include <string>
 
-#include "help/file.hpp"
+#include "help/pages.hpp"
 
 class QLabel;
 class QLineEdit;

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "base/dialogo.hpp"
-#include "commands/program_forms.hpp"
+#include "commands/desktop_forms.hpp"
 
 class QWidget;
 

@@ -2,8 +2,8 @@
 
 #include <QMainWindow>
 
+#include "commands/desktop_program.hpp"
 #include "commands/document_ports.hpp"
-#include "commands/program.hpp"
 
 class QLabel;
 class QSessionManager;

@@ -3,7 +3,7 @@
 #include <functional>
 
 #include "base/dialogo.hpp"
-#include "commands/program_forms.hpp"
+#include "commands/desktop_forms.hpp"
 
 class QPrinter;
 class QWidget;

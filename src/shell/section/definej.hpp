@@ -3,7 +3,7 @@
 #include <QDialog>
 #include <array>
 
-#include "commands/program_forms.hpp"
+#include "commands/desktop_forms.hpp"
 #include "masks/edited_section.hpp"
 
 class QGridLayout;

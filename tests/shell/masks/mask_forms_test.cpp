@@ -8,7 +8,7 @@
 #include <QPushButton>
 #include <QTableView>
 
-#include "commands/program.hpp"
+#include "commands/desktop_program.hpp"
 #include "masks/column_keys.hpp"
 #include "project/project_data.hpp"
 #include "shell/masks/base1.hpp"

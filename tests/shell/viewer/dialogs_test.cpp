@@ -9,7 +9,7 @@
 #include <functional>
 
 #include "project/project_data.hpp"
-#include "shell/report/report_output.hpp"
+#include "shell/report/destinations.hpp"
 #include "shell/viewer/export.hpp"
 #include "support/form_setup.hpp"
 

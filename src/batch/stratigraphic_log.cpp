@@ -1,11 +1,12 @@
+#include "drawings/stratigraphic_log.hpp"
+
 #include "batch/command_table.hpp"
 #include "batch/options/common_options.hpp"
 #include "batch/options/paper.hpp"
 #include "batch/run/console.hpp"
 #include "batch/run/console_run.hpp"
-#include "batch/run/drawing_forms.hpp"
+#include "batch/run/drawing_formats.hpp"
 #include "batch/run/reviewed_run.hpp"
-#include "drawings/stratigraphic_log.hpp"
 #include "project/project_data.hpp"
 
 namespace korven::batch {

@@ -8,7 +8,7 @@
 
 #include "base/dialogo.hpp"
 #include "base/process/processi.hpp"
-#include "commands/program_forms.hpp"
+#include "commands/desktop_forms.hpp"
 #include "commands/report_export.hpp"
 #include "markup/report_printer.hpp"
 #include "shell/report/form1.hpp"

@@ -1,4 +1,4 @@
-#include "batch/program.hpp"
+#include "batch/console_program.hpp"
 
 #include <csignal>
 #include <exception>

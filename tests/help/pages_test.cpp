@@ -1,4 +1,4 @@
-#include "help/file.hpp"
+#include "help/pages.hpp"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "batch/options/forms.hpp"
+#include "batch/options/output_formats.hpp"
 #include "batch/run/outcome.hpp"
 
 namespace korven::batch {

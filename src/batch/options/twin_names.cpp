@@ -1,4 +1,4 @@
-#include "batch/options/twins.hpp"
+#include "batch/options/twin_names.hpp"
 
 #include "base/text_table.hpp"
 #include "base/translated_texts.hpp"

@@ -1,4 +1,4 @@
-#include "batch/options/forms.hpp"
+#include "batch/options/output_formats.hpp"
 
 namespace korven::batch {
 

@@ -2,10 +2,10 @@
 
 #include "analysis/progress.hpp"
 #include "base/dialogo.hpp"
+#include "commands/desktop_forms.hpp"
 #include "commands/document.hpp"
 #include "commands/menu_tree.hpp"
 #include "commands/output_commands.hpp"
-#include "commands/program_forms.hpp"
 
 namespace korven::commands {
 

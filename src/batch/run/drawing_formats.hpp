@@ -3,7 +3,7 @@
 #include <functional>
 #include <memory>
 
-#include "batch/options/forms.hpp"
+#include "batch/options/output_formats.hpp"
 #include "batch/run/outcome.hpp"
 
 namespace korven::batch {

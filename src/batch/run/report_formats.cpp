@@ -1,4 +1,4 @@
-#include "batch/run/report_forms.hpp"
+#include "batch/run/report_formats.hpp"
 
 #include <iostream>
 #include <string>

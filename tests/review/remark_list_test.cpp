@@ -1,4 +1,4 @@
-#include "review/list.hpp"
+#include "review/remark_list.hpp"
 
 #include <gtest/gtest.h>
 

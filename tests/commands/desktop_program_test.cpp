@@ -1,4 +1,4 @@
-#include "commands/program.hpp"
+#include "commands/desktop_program.hpp"
 
 #include <gtest/gtest.h>
 

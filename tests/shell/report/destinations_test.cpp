@@ -1,6 +1,6 @@
 // The ways out of the program that a report has, from the menu to the window or the file.
 
-#include "shell/report/report_output.hpp"
+#include "shell/report/destinations.hpp"
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -12,7 +12,7 @@
 #include <QPrinter>
 
 #include "base/code_page.hpp"
-#include "commands/program.hpp"
+#include "commands/desktop_program.hpp"
 #include "project/project_file.hpp"
 #include "shell/main/menu1.hpp"
 #include "support/desktop_bench.hpp"

@@ -1,4 +1,4 @@
-#include "help/text.hpp"
+#include "help/search_text.hpp"
 
 #include <gtest/gtest.h>
 

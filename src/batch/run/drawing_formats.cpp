@@ -1,4 +1,4 @@
-#include "batch/run/drawing_forms.hpp"
+#include "batch/run/drawing_formats.hpp"
 
 #include <optional>
 #include <string>

@@ -1,4 +1,4 @@
-#include "shell/report/report_output.hpp"
+#include "shell/report/destinations.hpp"
 
 #include <QCoreApplication>
 #include <QPrinter>
