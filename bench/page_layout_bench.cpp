@@ -20,8 +20,8 @@ using namespace korven;
 using bench::fasi;
 using bench::nNodi;
 
-// Widths of a font without a device, asked for each character once, as a program with a window
-// does it.
+// Widths of a font without a device, asked for each character once, as a program with a
+// window does it.
 class Measurer {
  public:
     double operator()(const markup::ReportFont& font, std::string_view text) {

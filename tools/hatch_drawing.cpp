@@ -32,8 +32,8 @@ struct Placing {
 };
 
 /// A generator of our own, so that a pattern never changes with a library.
-/// Source: Knuth, The Art of Computer Programming, vol. 2 (1997), 3.3.4, the constants of MMIX
-/// (not looked up).
+/// Source: Knuth, The Art of Computer Programming, vol. 2 (1997), 3.3.4, the constants of MMIX (not
+/// looked up).
 class Chance {
  public:
     explicit Chance(int seed) : state_(static_cast<std::uint64_t>(seed)) { next(1); }

@@ -7,11 +7,10 @@
 
 namespace korven::tools {
 
-/// The languages that drawings have a configuration in, the first of the language codes;
-/// Portuguese takes that of another one.
+/// The languages that drawings have a configuration in: all of the program.
 inline constexpr std::size_t penLanguages = 6;
 
-/// Texts in these languages: ita, deu, fra, esp, eng; UTF-8.
+/// Texts in these languages, in the order of the language codes; UTF-8.
 using PenTexts = std::array<std::string, penLanguages>;
 
 /// A pen of the plotter.

@@ -8,8 +8,8 @@
 
 namespace korven::tools {
 
-/// Goes through a readable source under data/ line by line and says where it broke. Lines end in
-/// LF or CR LF, the last may have no end. It looks at the content, which must outlive it.
+/// Goes through a readable source under data/ line by line and says where it broke. Lines end in LF
+/// or CR LF, the last may have no end. It looks at the content, which must outlive it.
 class SourceLines {
  public:
     /// @param path  name of the source in errors

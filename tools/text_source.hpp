@@ -31,8 +31,8 @@ struct TextRecord {
 /// @throws base::ErroreFile with the line of the record's key
 void checkTextRecords(const std::string& path, const std::vector<TextRecord>& records);
 
-/// The bytes of one text file: seven lines a record, the last of them empty, Windows-1252 with
-/// CR LF.
+/// The bytes of one text file: seven lines a record, the last of them empty, Windows-1252
+/// with CR LF.
 [[nodiscard]] std::string textFileBytes(const std::vector<TextRecord>& records,
                                         std::string_view file);
 

@@ -32,7 +32,7 @@ struct PorteCalcolo {
     UscitaCalcolo& uscita;
     /// Keeps the result file from other runs, for as long as it lives; none: nobody else is there.
     GuardiaRisultati* guardia = nullptr;
-    /// Takes the result file.
+    /// The disk that the result file is written to.
     const base::Disco& disco = base::discoDiSistema();
 };
 
@@ -44,9 +44,9 @@ struct PorteCalcolo {
 /// `Progetto.faldaValle` is stored before the stages overwrite it: a run whose last stage changes
 /// it is followed by one more when asked again in the same session.
 ///
-/// A refused, singular or stopped run leaves no result file once it has begun one; a refusal by
-/// the first checks leaves an older one alone. `fileCorrente` is restored at every exit but one: a
-/// run without a stiffness EJ leaves it at the result file's name until another file is opened.
+/// A refused, singular or stopped run leaves no result file once it has begun one; a refusal by the
+/// first checks leaves an older one alone. `fileCorrente` is restored at every exit but one: a run
+/// without a stiffness EJ leaves it at the result file's name until another file is opened.
 ///
 /// Before anything is written or removed a run is refused whose result file or output would take
 /// the place of the project, whose name is too short for the rule that names the result file, in

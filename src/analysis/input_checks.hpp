@@ -8,9 +8,9 @@
 
 namespace korven::analysis {
 
-/// The reasons why a run would be refused before anything is read or written, as Italian keys, in
-/// the order in which they are looked at. The missing stiffness is no such reason: the section may
-/// give it.
+/// The reasons why a run would be refused before anything is read or written, as Italian keys,
+/// in the order in which they are looked at. A missing stiffness is none of them: the section
+/// may give it.
 [[nodiscard]] std::vector<std::string_view> motiviRifiuto(const project::DatiProgetto& dati);
 
 /// The first of them, which a run tells; empty if there is none.

@@ -29,6 +29,7 @@ struct PressioniLimite {
 ///     passive = sigma kp - 2 c tan(pi/4 + phi/2)
 ///
 /// Where ka or kp is 0, as above the excavation, no cohesion enters.
+/// Source of the cohesion term: Bell (1915), 233-272 (not looked up).
 [[nodiscard]] PressioniLimite limitiValle(double metodoSpinte, double sigma, double ka, double kp,
                                           double c, double phi);
 

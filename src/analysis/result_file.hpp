@@ -28,8 +28,8 @@ struct ChiusuraRisultati {
     double fsAzioni = 0;    ///< partial factor of the actions [-]
 };
 
-/// Text of a stage's table as it is appended to the file, the rows 1 to `nNodi` with at most seven
-/// decimals.
+/// Text of a stage's table as it is appended to the file, the rows 1 to `nNodi` with at
+/// most seven decimals.
 [[nodiscard]] std::string testoFase(const RisultatiFase& risultati, int nNodi);
 
 /// Text of the five closing lines.
@@ -45,8 +45,8 @@ class LettoreRisultati {
     /// Reads a file that is open already, from its head.
     LettoreRisultati(base::LettoreRighe file, int nNodi);
 
-    /// Reads the head into `dati`; the six `titoli` of `dati` stay, since a report shows those in
-    /// memory.
+    /// Reads the head into `dati`; the six `titoli` of `dati` stay, since a report shows
+    /// those in memory.
     /// @return the code of `metodoSpinte` in the head, which `dati` may not keep
     /// @throws base::ErroreFile on a broken head; `dati` is then as it was
     double leggiTesta(project::DatiProgetto& dati);

@@ -5,8 +5,8 @@
 
 namespace korven::analysis {
 
-/// The table of one stage, in the order of the columns of the result file. Units and signs as in
-/// StatoSuolo.
+/// The table of one stage, in the order of the columns of the result file. Units and signs
+/// as in StatoSuolo.
 struct RisultatiFase {
     VettoreNodi sigmaVv, Ehv, k0v, kav, kpv;
     VettoreNodi sigmaVm, Ehm, k0m, kam, kpm;

@@ -29,8 +29,8 @@ struct FaseCalcolata {
 /// `dati.faldaValle`, and its anchors, computes the soil afresh and iterates until no displacement
 /// changes or the observer asks for a stop. There is no limit to the number of iterations.
 ///
-/// An anchor new in this stage is put on the wall as it is at the end of the stage before, and
-/// acts at once.
+/// An anchor new in this stage is put on the wall as it is at the end of the stage before, and acts
+/// at once.
 [[nodiscard]] FaseCalcolata risolviFase(int k, project::DatiProgetto& dati, ArraysCorsa& corsa,
                                         OsservatoreCorsa& osservatore);
 

@@ -27,8 +27,8 @@ struct EsitoCorsa {
 /// at once have the digits of one after the other, as long as each has arrays and an observer of
 /// its own.
 ///
-/// @param dati    a copy, whose `faldaValle` the stages overwrite; its `rigidezzaEJ` is taken as
-///                given
+/// @param dati    a copy, whose `faldaValle` the stages overwrite; its `rigidezzaEJ` is
+///                taken as given
 /// @param nSeg    segments of the wall, as for `preparaCorsa`
 /// @param arrays  to be used again from run to run; what an earlier one left there does not matter,
 ///                whatever its outcome

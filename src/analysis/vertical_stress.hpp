@@ -6,6 +6,8 @@ namespace korven::analysis {
 
 /// Vertical stress at a node and the layer that the node belongs to. A node exactly on a boundary
 /// belongs to the lower layer; its stress is the same from both sides.
+/// Source of the effective stress, the total one less the pore pressure: Terzaghi (1943) (not
+/// looked up).
 struct TensioneNodo {
     int strato = 0;       ///< 0 if no layer holds the depth
     double totale = 0;    ///< [t/m2]

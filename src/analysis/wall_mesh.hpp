@@ -35,6 +35,8 @@ struct Parete {
 ///
 /// Cells are assigned, never added to, and cells that no equation names are left as they are.
 /// @pre n >= 4: asserted
+/// Source: Winkler (1867) for the beam on springs; Abramowitz & Stegun (1964), chapter 25, for the
+/// trapezoid rule and the second difference (neither looked up).
 void assembla(const Parete& parete, MatriceSistema& A, VettoreNodi& b);
 
 }  // namespace korven::analysis

@@ -4,8 +4,8 @@
 
 namespace korven::commands {
 
-/// The output of the four diagram commands: draws into the plot store. It writes no file of its
-/// own beside the results.
+/// The output of the four diagram commands: draws into the plot store. It writes no file of its own
+/// beside the results.
 class UscitaDiagramma : public analysis::UscitaCalcolo {
  public:
     [[nodiscard]] std::vector<std::string> file(analysis::ModoUscita,

@@ -26,8 +26,8 @@ void scriviPdf(const std::string& percorso, const plot::Foglio& foglio = foglioP
 /// @throws base::ErroreFile with the system's reason
 void scriviSvg(const std::string& percorso, const base::Disco& disco = base::discoDiSistema());
 
-/// On white ground, painted and written in strips: a sheet at the finest resolution takes half a
-/// gigabyte.
+/// On white ground, painted and written in strips: a sheet at the finest resolution takes
+/// half a gigabyte.
 /// @param dpi         resolution, within the limits above: asserted
 /// @param byteFascia  memory of a strip, which has at least one row
 /// @throws base::ErroreFile with the system's reason

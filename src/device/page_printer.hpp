@@ -30,8 +30,8 @@ class StampantePagine : public plot::Stampante {
     ~StampantePagine() override;
 
     plot::MisureStampante misure() override;
-    /// @throws base::ErroreFile when the printer or the file takes no page, and when the system
-    /// no longer knows the printer
+    /// @throws base::ErroreFile when the printer or the file takes no page, and when the system no
+    /// longer knows the printer
     void iniziaPagina() override;
     void poligono(std::span<const plot::PuntoPagina> vertici, plot::Colore colore) override;
     void penna(plot::Colore colore, int spessore) override;

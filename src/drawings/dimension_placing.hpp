@@ -22,10 +22,10 @@ class PostiQuote {
     void occupaTratto(const plot::Tratto& tratto) { bordi_.push_back(tratto); }
 
     /// Draws each dimension at the first of its places that is free. One that is placed early may
-    /// take the only place of a later one, so other orders are tried where one finds none. Sections
-    /// without measure, where no order serves all: a text that finds no other place lies on the
-    /// section, clear of the other texts, or at its first place whatever lies there. A dimension
-    /// that has no place at all, of a section that fills the sheet, is left out.
+    /// take the only place of a later one, so other orders are tried where one finds none. Where no
+    /// order serves all, as with a section out of all proportion, a text that finds no free place
+    /// lies on the section, clear of the other texts, or at its first place whatever lies there. A
+    /// dimension that has no place at all, of a section that fills the sheet, is left out.
     void disponi(const std::vector<Candidate>& quote);
 
  private:

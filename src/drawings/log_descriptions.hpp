@@ -18,8 +18,8 @@ struct DescrizioneDisposta {
 /// Width [cm] of a text of that height [cm].
 using MisuraAltezza = std::function<double(double altezza, std::string_view testo)>;
 
-/// Lays out the descriptions of all layers, as the log does on a page of A4 upright, and draws
-/// nothing.
+/// Lays out the descriptions of all layers, as the log does on a page of A4 upright,
+/// and draws nothing.
 /// @pre the last layer ends below 0: asserted
 /// @throws base::ErroreIndice when a description needs more than 100 lines; it names the layer
 [[nodiscard]] std::vector<DescrizioneDisposta> disponiDescrizioni(const project::DatiProgetto& dati,

@@ -69,7 +69,7 @@ constexpr double angoloGomito = 1.25 * std::numbers::pi;  // of the bar that the
 constexpr int massimoFerriSchizzo = 200;                  // more of them run into one another
 
 // Angles of the bars as the calculations set them: the first at 0, a fractional count leaves a gap.
-// Where a count calculates with no bar at all, those of the example.
+// Where a count leaves no bar to calculate with, those of the example.
 std::vector<double> angoliFerri(double numero) {
     std::vector<double> angoli;
     const double n = numero >= 1 ? numero : ferriEsempio;

@@ -8,7 +8,7 @@
 namespace korven::markup {
 
 /// What a renderer of the report is told. The reader has classified the line and kept the state
-/// when it calls; the state is the renderer's own, who counts body lines in `lineCounter` and
+/// when it calls; the state belongs to the renderer, which counts body lines in `lineCounter` and
 /// writes the header where it is due. All texts are UTF-8.
 class MarkupReceiver {
  public:

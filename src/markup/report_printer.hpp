@@ -7,7 +7,7 @@
 
 namespace korven::markup {
 
-/// What a font becomes whose name is empty, and whose size is 0 or less.
+/// Name and size of a font for which the mark-up gives none: an empty name, a size of 0 or less.
 inline constexpr std::string_view defaultFontName = "Arial";
 inline constexpr double defaultFontSize = 10;  ///< [points]
 

@@ -11,8 +11,8 @@ using project::Campo;
 using project::DatiProgetto;
 using project::Membro;
 
-// The axial force is the last value of the file but stands among the loads here; the reserved
-// option and the working value of the downhill water are not shown.
+// The axial force is the last value of the file but comes among the loads here; the reserved option
+// and the working value of the downhill water are not shown.
 constexpr Membro dellaParatia[] = {
     &DatiProgetto::vincoloTesta,   &DatiProgetto::vincoloPiede,
     &DatiProgetto::modoSpinte,     &DatiProgetto::modoKs,

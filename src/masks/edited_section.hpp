@@ -14,7 +14,7 @@ namespace korven::masks {
 /// among the materials.
 enum class RiquadroSezione { diaframma, pali, palancola, paliArmati, materiali };
 
-/// A field of the section form, with what stands in the table of fields.
+/// A field of the section form, with its row in the table of fields.
 struct CampoSezione {
     double project::Sezione::*valore;
     std::string_view simbolo;  ///< by which the sketch calls it; 1 is uphill, 2 downhill

@@ -24,8 +24,8 @@ void preparaMaschera(Maschere& maschere, NumeroMaschera numero, const project::D
 /// Takes the values of a confirmed form back (edited_tables.hpp).
 /// @param fase  receives the stage that diagrams draw, a whole number from 0, 0 for what is none;
 ///              its change never modifies the project, as no file holds it
-/// @return true if the project counts as modified: a table always, wall and headings if a value
-///         differs
+/// @return true if the project counts as modified: a table always, wall and headings if
+///         a value differs
 /// @throws base::ErroreIndice if a table has more rows than the project holds
 bool riprendiMaschera(const Maschere& maschere, NumeroMaschera numero, project::DatiProgetto& dati,
                       int& fase);

@@ -35,10 +35,10 @@ enum class AzioneGriglia { conferma, annulla, inserisciRiga, eliminaRiga, guida 
 /// opens an editor that floats on the current cell. Either way the cell is checked when it is left.
 class ModelloGriglia {
  public:
+    /// The mask must outlive the model.
     /// @param testi  the number of rows as text, then the cells row after row; what follows a "|"
     ///               in the first text replaces the title of the form
     /// @param capienza  rows that whoever takes the table back can hold; more may be typed
-    /// The mask must outlive the model.
     /// @throws base::ErroreIndice for more than 500 rows
     ModelloGriglia(const Maschera& maschera, const std::vector<std::string>& testi,
                    int capienza = CelleGriglia::righe);

@@ -10,8 +10,8 @@ namespace korven::outdoc {
 /// The part of a document that holds the mark: the last one, stored without compression.
 inline constexpr const char* markedPart = "docProps/core.xml";
 
-/// The mark by which this program knows a document that it wrote itself: it is among the
-/// properties of the document, with the check sum of the parts in front of them.
+/// The mark by which this program knows a document that it wrote itself: it is among the properties
+/// of the document, with the check sum of the parts in front of them.
 /// @param parts  the bytes of the archive up to the part that holds the mark
 [[nodiscard]] std::string ownMark(std::string_view parts);
 

@@ -48,7 +48,9 @@ struct StoredFile {
 ///         with the check sum of its head
 [[nodiscard]] std::optional<StoredFile> storedFile(std::string_view archive, const char* name);
 
-/// Check sum of the archive format: CRC-32, polynomial EDB88320 (reflected), as in ISO 3309.
+/// Check sum of the archive format: CRC-32, polynomial EDB88320 (reflected).
+/// Source: Peterson & Brown, Cyclic codes for error detection, Proc. IRE 49 (1961), 228-235; the
+/// polynomial is that of ISO 3309 (neither looked up).
 [[nodiscard]] std::uint32_t checkSum(std::string_view bytes);
 
 }  // namespace korven::outdoc

@@ -14,8 +14,8 @@ namespace korven::plot {
 /// with fewer than two colour planes prints black, unless a file "forcecol" in the program folder
 /// says that it knows colours all the same.
 /// @param dialogo  whose pointer waits meanwhile
-/// @throws ErroreFile when overlap.cfg is no number or as large as the sheet, or a spill file
-/// can't be read
+/// @throws ErroreFile when overlap.cfg is no number or as large as the sheet, or a spill file can't
+/// be read
 void plotStampa(bool adatta, Stampante& stampante, base::Dialogo& dialogo);
 
 }  // namespace korven::plot

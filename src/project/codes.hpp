@@ -3,9 +3,9 @@
 #include <compare>
 #include <concepts>
 
-// The codes of the project. The project keeps them as numbers, as the file does, and any number may
-// stand there: each is compared with the code that it is to be, and one that is none is unequal to
-// all of them and acts as that place says.
+// The codes of the project. The project keeps them as numbers, as the file does, and any number is
+// possible. Wherever one is used it is compared with the codes; a number that is none of them is
+// unequal to all and acts as that place says.
 
 namespace korven::project {
 

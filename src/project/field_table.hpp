@@ -13,7 +13,7 @@
 // The one table of the fields of a project: what each is called, in which unit it is stored and
 // shown, what may be typed into it, which codes it knows. The file, the editors, the remarks, the
 // report and the drawings go through it. Where one of them must say another word, or leave a field
-// out, that stands there.
+// out, its own code says so.
 
 namespace korven::project {
 
@@ -66,7 +66,7 @@ struct Campo {
     std::span<const Codice> codici = {};  ///< none: the field is no code
 };
 
-/// All fields, in the order in which they stand in the project file.
+/// All fields, in the order of the project file.
 [[nodiscard]] std::span<const Campo> campi();
 
 /// The row of a member. @pre there is one, as for every member of the project

@@ -34,7 +34,7 @@ class RigheRelazione {
     void intestazione(const std::vector<std::string>& chiavi);
     /// A row of numbers, followed by a last cell of text if there is one.
     void valori(const std::vector<double>& numeri, std::string_view chiave = {});
-    /// The captions of columns of the project, and row `numero` of them; a code stands behind the
+    /// The captions of columns of the project, and row `numero` of them; a code comes after the
     /// numbers, as the word for it.
     void intestazione(std::span<const project::Membro> colonne);
     void valori(const project::DatiProgetto& dati, std::span<const project::Membro> colonne,

@@ -11,8 +11,8 @@ namespace korven::review {
 inline constexpr double massimaAltezzaStratigrafia = 500;
 
 /// Why the log of these layers is not drawn where nobody sees it grow: it would be higher than
-/// `massimaAltezzaStratigrafia`. Names the layer that lies farthest from the ground level, with its
-/// depth.
+/// `massimaAltezzaStratigrafia`. Names the layer that lies farthest from the ground level,
+/// with its depth.
 /// @return translated, one line; empty when the log can be drawn
 [[nodiscard]] std::string rifiutoStratigrafia(const project::DatiProgetto& dati);
 

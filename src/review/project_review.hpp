@@ -27,10 +27,10 @@ struct Rilievo {
                                                const project::DatiProgetto& dati);
 
 /// Computes the stages in memory, which takes as long as a run, and writes nothing.
-/// @param maxIterazioni  of a stage, as for a run
+/// @param maxIterazioni  of a stage; 0 for no limit
 /// @return why a run would come to no result; nothing if it would
-/// @pre `dati` are computable as far as the reviews above can tell; that no input check fails is
-///      asserted
+/// @pre no input check fails, which is asserted, and the reviews above find nothing that prevents a
+///      run of `dati`
 [[nodiscard]] std::optional<Rilievo> provaCalcolo(const project::DatiProgetto& dati,
                                                   int maxIterazioni);
 

@@ -8,8 +8,8 @@
 
 namespace korven::shell {
 
-/// Boxes and the shape of the pointer on the desktop. Esc answers a question with the least that
-/// it can do: cancel, or no where there is no cancel; Enter takes yes, or no where a warning asks.
+/// Boxes and the shape of the pointer on the desktop. Esc answers a question with the least that it
+/// can do: cancel, or no where there is no cancel; Enter takes yes, or no where a warning asks.
 class DialogoQt : public base::Dialogo {
  public:
     /// The window over which the boxes appear; none before there is one. While it is disabled they

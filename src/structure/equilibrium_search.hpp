@@ -9,8 +9,8 @@ namespace korven::structure {
 /// can reach -0.01 and 0.01 and halves it until the forces at its two ends differ by less than 1 N,
 /// or until no double lies between them. The last midpoint is the result.
 ///
-/// There is no test that the bracket holds a root: without one, as when the axial force crushes
-/// the section, the lower end walks up towards the upper one. `inEquilibrio` tells.
+/// There is no test that the bracket holds a root: without one, as when the axial force crushes the
+/// section, the lower end walks up towards the upper one. `inEquilibrio` tells.
 ///
 /// @param k    direction of bending: 1 stretches the uphill side (chi above 0), -1 the downhill one
 /// @param chi  curvature [1/mm], of the sign of k or 0

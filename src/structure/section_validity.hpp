@@ -20,8 +20,8 @@ namespace korven::structure {
 [[nodiscard]] bool sezioneValida(const project::Sezione& sezione);
 
 /// The milder test by which the report decides whether it shows the section: as `sezioneValida`,
-/// but side-by-side piles may lack `paliDiamInt`. Such piles are shown with resistances of 0,
-/// since the run has computed none.
+/// but side-by-side piles may lack `paliDiamInt`. Such piles are shown with resistances of 0, since
+/// the run has computed none.
 [[nodiscard]] bool sezioneDefinita(const project::Sezione& sezione);
 
 }  // namespace korven::structure

@@ -29,8 +29,8 @@ namespace korven::structure {
 /// Reinforced piles: the pile's circle, in which each bar replaces its concrete; a bar counts with
 /// the component of its ring radius across the axis of bending.
 ///
-/// Source: the uncracked homogenised section of elastic theory; the uphill term of x without half
-/// the diameter is this program's own
+/// Source: the uncracked section homogenised to concrete, Park & Paulay (1975) (not looked up); the
+/// uphill term of x without half the diameter is this program's own
 ///
 /// @pre a section of a type is `sezioneValida`: asserted. Then no divisor is 0; the result is not
 ///      finite only if the numbers overflow (lengths beyond 1e70), or if steel softer than concrete

@@ -36,6 +36,8 @@ struct ModelloStrisce {
 /// q spreads the axial force evenly over all areas, concrete and steel alike. With it the strip
 /// forces sum to zero in equilibrium, so that M is a couple and the place of y = 0 makes no
 /// difference. Without axial force M is the plain sum of y times force.
+/// Source: CEN, ENV 1992-1-1 (1991), 4.3.1, for the plane sections (not looked up); q is this
+/// program's own
 [[nodiscard]] double momentoSezione(const ModelloStrisce& modello, double eps0, double chi,
                                     double Nd);
 

@@ -41,7 +41,7 @@ def version():
 
 
 def method_in_head(path):
-    """The code of the method as it stands in the head of a result file."""
+    """The code of the method in the head of a result file."""
     with open(path, encoding="cp1252", errors="replace") as file:
         lines = file.read().split("\n")
     layers = int(float(lines[0]))

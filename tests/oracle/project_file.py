@@ -90,7 +90,7 @@ def _read_table(reader, project, count_name, fields, capacity):
 
 
 def leggi_dati(reader, project):
-    """Read one project; the reader is left behind its last value."""
+    """Read one project; the reader is left after its last value."""
     _read_table(reader, project, *TABLES[0])
     _read_fields(reader, project, WALL_FIELDS)
     _read_table(reader, project, *TABLES[1])

@@ -11,8 +11,8 @@
 //
 // Seen from one cell, that is a chain of subtractions in the order of the passes. Here the chains
 // are run row by row and, within a row, for a group of columns at a time; the chain of a cell never
-// changes its order, and no link is left out, be d zero or not. With the places of
-// SistemaEliminato passes run from high places to low:
+// changes its order, and no link is left out, be d zero or not. With the places of SistemaEliminato
+// passes run from high places to low:
 //
 //     left of the diagonal   a cell waits to become the d of its pass: cell(t,k) takes the passes
 //                            t > j > k. The pivot row of a pass enters as it was then, so row t

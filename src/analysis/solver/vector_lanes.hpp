@@ -4,9 +4,9 @@
 //
 // Every operation acts on each lane as the same operation acts on one double, so the number of
 // lanes changes no bit of a result. What works on lanes is a template over their number L, written
-// once and compiled for two of them: four fill a register of AVX2, two one of any x86-64 or ARMv8.
-// Each solve picks the version. More lanes than a register holds would be slow: the
-// compiler takes them apart one by one.
+// once and compiled for L = 4, which fills a register of AVX2, and for L = 2, which fills one of
+// any x86-64 or ARMv8; each solve picks the version. More lanes than a register holds would be
+// slow: the compiler takes them apart one by one.
 
 #include <cstdint>
 

@@ -22,7 +22,7 @@ class CorsaSeguita : public analysis::Avanzamento {
     void fineAttesa() override { vista_.fineAttesa(); }
 
     /// One line about the stop: stage, iterations, and what still flipped; empty for a run that
-    /// came to its end, was refused, or not needed.
+    /// came to its end, was refused or was not needed.
     [[nodiscard]] std::string arresto() const;
 
  private:

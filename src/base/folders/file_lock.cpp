@@ -32,7 +32,8 @@ bool fileComune(int file) {
     return ::fstat(file, &stato) == 0 && S_ISREG(stato.st_mode);
 }
 
-// FNV-1a (Fowler, Noll and Vo, 1991): names that differ in one character must not meet.
+// FNV-1a: names that differ in one character must not meet.
+// Source: Fowler, Noll and Vo (1991) (not looked up).
 std::string impronta(const std::string& nome) {
     std::uint64_t somma = 14695981039346656037u;
     for (const char c : nome) somma = (somma ^ static_cast<unsigned char>(c)) * 1099511628211u;

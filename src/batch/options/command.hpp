@@ -21,8 +21,8 @@ struct RigaComando {
     std::vector<Opzione> opzioni;
 
     /// Does the work and fills the outcome; progress, refusals and warnings go to standard error.
-    /// @param guardia  keeps the result file from the comparison on, until what is told of it is
-    ///                 told
+    /// @param guardia  keeps the result file from the comparison on, until what is told of
+    ///                 it is told
     /// @return the exit code: done, or the run was refused, found singular or stopped
     /// @throws the exceptions of the logic; what `esito` then holds is true as far as it goes
     int (*esegui)(const Opzioni& opzioni, analysis::GuardiaRisultati& guardia, Esito& esito);

@@ -15,7 +15,7 @@ namespace korven::batch {
 [[nodiscard]] std::string mancaValore(const std::string& nome);
 [[nodiscard]] std::string dataPiuVolte(const std::string& nome);
 /// @param valori   as typed
-/// @param ammessi  what may stand there; empty: not told
+/// @param ammessi  the values that are allowed; empty: not told
 [[nodiscard]] std::string valoreNonAmmesso(const std::string& nome,
                                            const std::vector<std::string>& valori,
                                            const std::string& ammessi);

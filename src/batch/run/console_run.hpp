@@ -30,8 +30,8 @@ class CorsaConsole {
 
     [[nodiscard]] base::Dialogo& dialogo() { return dialogo_; }
 
-    /// Reads what the run has left into the outcome, unless it was interrupted after its
-    /// calculation.
+    /// Reads what the run has left into the outcome, unless it was interrupted
+    /// after its calculation.
     /// @return the exit code
     [[nodiscard]] int concludi();
 

@@ -19,8 +19,7 @@ enum CodiceUscita { fatto = 0, nonEseguito = 1, usoErrato = 2, ingressoRotto = 3
 /// | two files of the command would become one | 2 |
 /// | broken input, an index beyond a table, full disk, anything else | 3 |
 ///
-/// @pre called from the handler of an exception derived from std::exception; that there is one is
-/// asserted
+/// @pre an exception derived from std::exception is being handled: asserted, but for its type
 void raccontaGuasto(analysis::GuardiaRisultati& guardia, Esito& esito);
 
 /// Tells on standard error why a command failed and writes it into the outcome.

@@ -14,8 +14,8 @@ class NomiInConflitto : public std::runtime_error {
     NomiInConflitto(const std::string& uscita, const std::string& altro);
 };
 
-/// The result file of the current project and its report in each of its forms, as mark-up, text
-/// and word-processor file; none without a project. They need not exist.
+/// The result file of the current project and its report in each of its forms, as mark-up, text and
+/// word-processor file; none without a project. They need not exist.
 [[nodiscard]] std::vector<std::string> fileDelProgetto();
 
 /// Path of a file that a command names itself, beside the results: "DIR/muro-momenti.pdf", in

@@ -26,8 +26,8 @@ struct PorteLingua {
 /// Chooses and loads the language, first of all at the start: `language.cfg` if the user has chosen
 /// before, else (and always in the test mode) the form that asks. Makes the example folders ready
 /// in a program folder that was never used.
-/// @return false when the user was asked and did not choose: the program has no language to start
-///         with
+/// @return false when the user was asked and did not choose: the program has no language
+///         to start with
 /// @throws base::ErroreFile if a text file is missing or broken, or `language.cfg` holds no code
 ///         from 1 to 6
 [[nodiscard]] bool iniziaLingua(const PorteLingua& porte);

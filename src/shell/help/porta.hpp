@@ -19,9 +19,9 @@ class FinestraGuida;
 /// file when it is first needed and keeps one window, which is usable beside a modal form.
 ///
 /// F1 in any window opens the page of the place. A window says its entry of the table of help
-/// contexts in the property "contestoGuida" (int), or has its name in help/places.hpp; a
-/// control may say its field in the property "campoGuida" (text or number, as in "@campo" of the
-/// help), else its object name is taken.
+/// contexts in the property "contestoGuida" (int), or has its name in help/places.hpp; a control
+/// may say its field in the property "campoGuida" (text or number, as in "@campo" of the help),
+/// else its object name is taken.
 class PortaGuida : public QObject {
  public:
     /// Becomes a child of the main form.

@@ -13,8 +13,8 @@ namespace korven::shell {
 class EtichettaAccorciata;
 class QuadroParatia;
 
-/// The main form `menu1`: the menu, the picture and the status line. It hands every command over
-/// to the program and decides nothing.
+/// The main form `menu1`: the menu, the picture and the status line. It hands every command over to
+/// the program and decides nothing.
 class Menu1 : public QMainWindow, public commands::FinestraPrincipale {
     Q_OBJECT
  public:

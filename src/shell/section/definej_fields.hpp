@@ -16,7 +16,7 @@ struct CampoForma {
     const char* titolo;  ///< Italian key of the heading of the column; nullptr for none
     const char* aiuto;   ///< Italian key
 
-    /// Italian key of the caption; fields with the same stand beside each other.
+    /// Italian key of the caption; fields with the same one are side by side.
     [[nodiscard]] std::string_view didascalia() const;
 };
 
