@@ -73,7 +73,7 @@ TEST(FileRisultati, BeginsWithTheProjectAsTheRunFoundIt) {
     EXPECT_TRUE(contenuto(banco.risultati()).starts_with(project::testoProgetto(dati)));
 }
 
-TEST(TestoFase, PadsEachColumnNameToFourteenWithoutBlanksBehindTheLast) {
+TEST(TestoFase, PadsEachColumnNameToFourteenWithoutBlanksAfterTheLast) {
     EXPECT_EQ(righe(testoFase({}, 5))[0],
               "sigmaVv       Ehv           k0v           kav           kpv           "
               "sigmaVm       Ehm           k0m           kam           kpm           "
@@ -238,7 +238,7 @@ TEST(LettoreRisultati, RefusesANodeLineThatIsNotThirteenNumbers) {
     }
 }
 
-TEST(LettoreRisultati, RefusesLinesBehindTheClosingNumbers) {
+TEST(LettoreRisultati, RefusesLinesAfterTheClosingNumbers) {
     Banco banco(progettoSemplice(), 12);
     banco.calcola();
     const auto buono = contenuto(banco.risultati());

@@ -73,7 +73,7 @@ TEST_F(TirantiNelleFasi, OfTheFirstStageStartFromZeroAndPullAtOnce) {
     EXPECT_NEAR(sommaMolle() + sommaAcqua(), F, 1e-4);
 }
 
-TEST_F(TirantiNelleFasi, AreLaidOnTheWallAsItStandsAtTheEndOfTheStageBefore) {
+TEST_F(TirantiNelleFasi, AreLaidOnTheWallAsItIsAtTheEndOfTheStageBefore) {
     ripetiFase(dati, 1);
     calcola();
     EXPECT_EQ(dopo[0].attivi, 0);

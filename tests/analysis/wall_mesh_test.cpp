@@ -97,7 +97,7 @@ class Assembla : public testing::Test {
     MatriceSistema A;
 };
 
-TEST_F(Assembla, WritesTheEquationsAsTheyStandOnPaper) {
+TEST_F(Assembla, WritesTheEquationsAsTheyAreOnPaper) {
     for (int quanti : {4, 5, 6, 11, 51, 52, 250}) {
         nodi(quanti);
         A.azzera(capacitaSistema);

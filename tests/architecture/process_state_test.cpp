@@ -11,8 +11,8 @@
 
 #include "architecture/variable_reader.hpp"
 
-// What lives as long as the process stands in one list, in docs/architecture.md, and the
-// computation knows none of it.
+// What lives as long as the process is in one list, in docs/architecture.md, and the computation
+// knows none of it.
 
 namespace korven::architecture {
 namespace {

@@ -42,7 +42,7 @@ class Cutter {
         rest_.remove_prefix(std::min(count, rest_.size()));
         return taken;
     }
-    // Goes behind the next `end`.
+    // Goes on after the next `end`.
     void skipTo(std::string_view end) {
         const auto at = rest_.find(end);
         rest_.remove_prefix(at == std::string_view::npos ? rest_.size() : at + end.size());
@@ -96,9 +96,8 @@ class Cutter {
     bool lineStart_ = true;
 };
 
-// Position behind the bracket that closes the one at `open`; `open` itself if none does.
-std::size_t behindBracket(const Tokens& t, std::size_t open, const char* opens,
-                          const char* closes) {
+// Position after the bracket that closes the one at `open`; `open` itself if none does.
+std::size_t afterBracket(const Tokens& t, std::size_t open, const char* opens, const char* closes) {
     int depth = 0;
     for (std::size_t i = open; i < t.size(); ++i) {
         if (t[i] == opens) ++depth;
@@ -123,15 +122,15 @@ bool assigns(const Tokens& t) { return assignment(t) < t.size(); }
 Tokens plain(const Tokens& statement) {
     Tokens left;
     for (std::size_t i = 0; i < statement.size();) {
-        std::size_t behind = i;
+        std::size_t after = i;
         if (statement[i] == "[" && i + 1 < statement.size() && statement[i + 1] == "[")
-            behind = behindBracket(statement, i, "[", "]");
+            after = afterBracket(statement, i, "[", "]");
         if (statement[i] == "<" && i > 0 && isName(statement[i - 1]))
-            behind = behindBracket(statement, i, "<", ">");
-        if (behind == i)
+            after = afterBracket(statement, i, "<", ">");
+        if (after == i)
             left.push_back(statement[i++]);
         else
-            i = behind;
+            i = after;
     }
     return left;
 }
@@ -152,10 +151,10 @@ bool isParameter(Tokens one) {
 }
 
 // Whether what is between these parentheses declares parameters.
-bool areParameters(const Tokens& t, std::size_t open, std::size_t behind) {
+bool areParameters(const Tokens& t, std::size_t open, std::size_t after) {
     Tokens one;
     int depth = 0;
-    for (std::size_t i = open + 1; i + 1 < behind; ++i) {
+    for (std::size_t i = open + 1; i + 1 < after; ++i) {
         depth += t[i] == "(" ? 1 : t[i] == ")" ? -1 : 0;
         if (t[i] != "," || depth > 0) {
             one.push_back(t[i]);
@@ -184,10 +183,10 @@ ProcessVariable variableOf(const Tokens& statement) {
     const auto open = std::find(head.begin(), head.end(), "(");
     if (open != head.end()) {
         const auto at = static_cast<std::size_t>(open - head.begin());
-        const std::size_t behind = behindBracket(head, at, "(", ")");
+        const std::size_t after = afterBracket(head, at, "(", ")");
         const bool pointer = at + 1 < head.size() && head[at + 1] == "*";
-        if (!pointer && areParameters(head, at, behind)) return {};
-        head.resize(pointer ? behind - 1 : at);
+        if (!pointer && areParameters(head, at, after)) return {};
+        head.resize(pointer ? after - 1 : at);
     }
     const auto bracket = std::find(head.begin(), head.end(), "[");
     if (bracket != head.end()) head.erase(bracket, head.end());
@@ -203,7 +202,7 @@ ProcessVariable variableOf(const Tokens& statement) {
 
 enum class Scope { space, type, body, braces };
 
-// Follows the scopes and hands out whole statements with the scope that they stand in.
+// Follows the scopes and hands out whole statements with the scope that they are in.
 class Walk {
  public:
     std::vector<ProcessVariable> variables(const Tokens& tokens) {
@@ -223,7 +222,7 @@ class Walk {
  private:
     struct Level {
         Scope scope;
-        Tokens before;  // the statement that goes on behind the brace
+        Tokens before;  // the statement that goes on after the brace
         int parentheses;
     };
 

@@ -193,7 +193,7 @@ TEST(ScriviFileNuovo, LeavesNothingOfAFileThatCannotBeWrittenToItsEnd) {
     }
 }
 
-TEST(AccodaFile, AddsBehindWhatStands) {
+TEST(AccodaFile, AddsAfterWhatIsThere) {
     const CartellaProvvisoria cartella;
     metti(cartella / "f", "uno ");
     accodaFile(cartella / "f", "due");

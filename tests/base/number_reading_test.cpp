@@ -14,7 +14,7 @@ TEST(LetturaMostrata, TellsTheNumberThatATextIsTakenForWhereItSaysMore) {
     EXPECT_EQ(letturaMostrata("-1.50x"), "letto come -1.5");
 }
 
-TEST(LetturaMostrata, NamesTheDecimalSignBehindAComma) {
+TEST(LetturaMostrata, NamesTheDecimalSignAfterAComma) {
     EXPECT_EQ(letturaMostrata("20,5"), "letto come 20: il segno decimale è il punto");
     EXPECT_EQ(letturaMostrata("0,5"), "letto come 0: il segno decimale è il punto");
 }

@@ -254,7 +254,7 @@ TEST(LeggiNumero, AgreesWithTheShiftedDigitsForAnyPlaceOfThePointAndAnyExponent)
     EXPECT_GT(nulli, 500);
 }
 
-TEST(SoloUnNumero, LetsBlanksButNothingElseStandAroundTheNumber) {
+TEST(SoloUnNumero, LetsBlanksButNothingElseSurroundTheNumber) {
     for (const char* testo : {"50", " 50 ", "-7", "1.5", ".5", "5.", "1e999", "+3"})
         EXPECT_TRUE(soloUnNumero(testo)) << testo;
     for (const char* testo : {"", " ", "50abc", "50,7", "50 60", "cinquanta", "1e", "--1", "."})

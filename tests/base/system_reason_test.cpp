@@ -32,7 +32,7 @@ TEST(MotivoSistema, LeavesAnUnusualReasonToTheSystem) {
     EXPECT_EQ(motivoSistema(EILSEQ), std::generic_category().message(EILSEQ));
 }
 
-TEST(MotivoSistema, StandsInTheErrorOfAFile) {
+TEST(MotivoSistema, IsToldInTheErrorOfAFile) {
     try {
         static_cast<void>(leggiFile("/manca/muro.kvd"));
         FAIL() << "no error";

@@ -40,7 +40,7 @@ TEST(AggiungiTesti, ReadsSevenLinesARecordInTheOrderOfTheLanguageCodes) {
     EXPECT_EQ(testi->righe[2].testo[6], "Um");
 }
 
-TEST(AggiungiTesti, LastRecordMayLackItsSeparatorAndEvenTheLineEndBehindIt) {
+TEST(AggiungiTesti, LastRecordMayLackItsSeparatorAndEvenTheLineEndAfterIt) {
     for (const char* coda : {"", "\r\n", "\r\n\r\n", "\r\n---", "\r\n---\r\n"}) {
         auto testi = std::make_unique<TabellaTesti>();
         LettoreRighe file("t.txt", record("Uno") + "\r\nDue\r\nd\r\nf\r\ne\r\nen\r\np" + coda);

@@ -164,7 +164,7 @@ TEST_F(TestiProgramma, TableIsMadeOfBothFilesAndSortedAsOne) {
     EXPECT_EQ(prova.messaggi.size(), 1u);
 }
 
-TEST_F(TestiProgramma, AddedTextsStandBehindTheTableWhoseSizeIsFixed) {
+TEST_F(TestiProgramma, AddedTextsComeAfterTheTableWhoseSizeIsFixed) {
     test::metti(cartella / "texts01.txt", "Zeta\r\nZ\r\nZ\r\nZ\r\nZed\r\nZ\r\n\r\n");
     test::metti(cartella / "texts06.txt", "Fase\r\nS\r\nP\r\nF\r\nStage\r\nF\r\n\r\n");
     test::metti(cartella / "texts32.txt",

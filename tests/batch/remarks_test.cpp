@@ -49,7 +49,7 @@ TEST_F(Rilievi, AreWrittenByEveryCommandThatComputesAsVerificaListsThem) {
     }
 }
 
-TEST_F(Rilievi, StandInTheJsonOfEveryCommandThatComputes) {
+TEST_F(Rilievi, AreInTheJsonOfEveryCommandThatComputes) {
     virgola();
     const Json attesi = Json::parse(esegui("verifica", {"--json"}).uscita)["rilievi"];
     for (const char* comando : {"calcola", "relazione"}) {

@@ -16,7 +16,7 @@ TEST(NomeDaAprire, ReplacesAnExtensionWithinTheLastFourCharacters) {
     EXPECT_EQ(nomeDaAprire("/lavori/A.b.c"), "/lavori/A.b.kvd");  // the last point alone
 }
 
-TEST(NomeDaAprire, KeepsAPointThatStandsFartherFromTheEnd) {
+TEST(NomeDaAprire, KeepsAPointThatIsFartherFromTheEnd) {
     EXPECT_EQ(nomeDaAprire("/lavori/muro.2024"), "/lavori/muro.2024.kvd");
     EXPECT_EQ(nomeDaAprire("/lavori.1/muro"), "/lavori.1/muro.kvd");
     EXPECT_EQ(nomeDaAprire("/lavori/muro.sò"), "/lavori/muro.kvd");  // characters, not bytes
@@ -36,7 +36,7 @@ TEST(NessunaScelta, IsTheNameOfThePatternOrAnEmptyOne) {
     EXPECT_FALSE(nessunaScelta(nomeDaAprire("/lavori/a")));
 }
 
-TEST(NomeDaSalvare, CutsTheWholePathBehindItsFirstPoint) {
+TEST(NomeDaSalvare, CutsTheWholePathAfterItsFirstPoint) {
     EXPECT_EQ(nomeDaSalvare("/c/lavori/muro"), "/c/lavori/muro.kvd");
     EXPECT_EQ(nomeDaSalvare("/c/lavori/muro.OLD.kvd"), "/c/lavori/muro.kvd");
     EXPECT_EQ(nomeDaSalvare("/c/lavori.1/muro"), "/c/lavori.kvd");
@@ -64,7 +64,7 @@ TEST(RigaFileCorrente, DoublesTheFirstAmpersandAlone) {
     EXPECT_EQ(rigaFileCorrente("/a&b/c&d.kvd"), "File corrente: /A&&B/C&D");
 }
 
-TEST(NomeRecupero, StandsBesideTheProjectAndReplacesNoFile) {
+TEST(NomeRecupero, LiesBesideTheProjectAndReplacesNoFile) {
     std::set<std::string> presenti;
     const auto esiste = [&](const std::string& nome) { return presenti.contains(nome); };
     EXPECT_EQ(nomeRecupero("/lavori/muro.kvd", esiste), "/lavori/muro_recuperato.kvd");

@@ -108,7 +108,7 @@ std::string relazione(const DatiProgetto& d) {
     return righe.testo();
 }
 
-// A number must stand there with the caption in front of it, or in a table under it.
+// A number must be there with the caption in front of it, or in a table under it.
 bool nellaRelazione(const Campo& campo) {
     const DatiProgetto d = conAltroValore(campo);
     const std::string testo = relazione(d);
@@ -135,13 +135,13 @@ bool traIRilievi(const Campo& campo) {
            rilievi[0].testo.find(review::nomeCampo(campo)) != std::string::npos;
 }
 
-TEST(CampiDelProgetto, AllStandInTheFile) { EXPECT_EQ(diversiDa(nelFile), Nomi{}); }
+TEST(CampiDelProgetto, AreAllInTheFile) { EXPECT_EQ(diversiDa(nelFile), Nomi{}); }
 
-TEST(CampiDelProgetto, AllStandInAnEditorButThreeThatOnlyFilesBring) {
+TEST(CampiDelProgetto, AreAllInAnEditorButThreeThatOnlyFilesBring) {
     EXPECT_EQ(diversiDa(inUnEditore), (Nomi{"suStrato", "opzioneRiservata", "faldaValle"}));
 }
 
-TEST(CampiDelProgetto, AllStandInTheReportButThoseThatItLeavesOut) {
+TEST(CampiDelProgetto, AreAllInTheReportButThoseThatItLeavesOut) {
     EXPECT_EQ(diversiDa(nellaRelazione),
               (Nomi{"suStrato", "descrStrato",         // in the stratigraphic log
                     "opzioneRiservata", "faldaValle",  // no data of the user
@@ -159,8 +159,8 @@ TEST(CampiDelProgetto, AllThatAreShownTenfoldAreLookedAtForNumbersTooLargeToBeSh
     }
 }
 
-// The frame of each type holds the fields of its part, and each field stands in one.
-TEST(CampiDelProgetto, OfTheSectionAllStandInItsFormUnderTheirPart) {
+// The frame of each type holds the fields of its part, and each field is in one.
+TEST(CampiDelProgetto, OfTheSectionAreAllInItsFormUnderTheirPart) {
     std::set<const Campo*> nellaForma;
     for (const auto& campo : masks::campiSezione) nellaForma.insert(&campo.campo());
     for (const Campo& campo : project::campi())

@@ -66,7 +66,7 @@ TEST_F(FileDelDisegno, ShowTheWholeSheetAtTheResolutionAskedFor) {
     EXPECT_EQ(qGray(foglio.pixel(10, 10)), 255);
 }
 
-TEST_F(FileDelDisegno, ShowATextThatStandsOutOfTheSheetToItsEnd) {
+TEST_F(FileDelDisegno, ShowATextThatReachesOutOfTheSheetToItsEnd) {
     apri();
     plot::plotSimbolo(9.5, 3, 1, "H", 0, 1);
     const double fine = 9.5 + MetricaQt().larghezza("Arial", 1, "H");

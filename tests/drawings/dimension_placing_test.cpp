@@ -58,7 +58,7 @@ TEST_F(DisposizioneQuote, TryAnotherOrderWhereTheFirstLeavesOneOutside) {
     EXPECT_EQ(testiDisegnati(), (Linee{"\"AB\" 8.000 8.000 h 0.20", "\"AB\" 5.000 5.000 h 0.20"}));
 }
 
-TEST_F(DisposizioneQuote, StandOnTheSectionWhereNothingElseIsFree) {
+TEST_F(DisposizioneQuote, LieOnTheSectionWhereNothingElseIsFree) {
     PostiQuote posti;
     posti.occupa({0, 0, 19, 27});
     posti.disponi({{scritta(1, 1), scritta(5, 5)}});

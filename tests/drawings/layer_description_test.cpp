@@ -16,7 +16,7 @@ TEST(LeggiDescrizione, TakesTheFirstWordAsTheHatchAndTheRestAsTheText) {
     EXPECT_EQ(leggiDescrizione("  105   Sabbia  ").testo, "Sabbia");
 }
 
-TEST(LeggiDescrizione, TakesTheColourBehindTheLetterC) {
+TEST(LeggiDescrizione, TakesTheColourAfterTheLetterC) {
     EXPECT_EQ(leggiDescrizione("105C3 Sabbia").campitura, 105);
     EXPECT_EQ(leggiDescrizione("105C3 Sabbia").colore, 3);
     EXPECT_EQ(leggiDescrizione("105c12").colore, 12) << "the word is read in upper case";
@@ -24,14 +24,14 @@ TEST(LeggiDescrizione, TakesTheColourBehindTheLetterC) {
     EXPECT_EQ(leggiDescrizione("105C0").colore, 1);
 }
 
-TEST(LeggiDescrizione, ReadsBothNumbersWhenCAndAStandInTheWord) {
+TEST(LeggiDescrizione, ReadsBothNumbersWhenCAndAAreInTheWord) {
     for (const char* parola : {"105C2A7", "105A7C2", "105a7c2"}) {
         EXPECT_EQ(leggiDescrizione(parola).campitura, 105) << parola;
         EXPECT_EQ(leggiDescrizione(parola).colore, 2) << parola;
     }
 }
 
-TEST(LeggiDescrizione, MakesNoUseOfTheNumberBehindA) {
+TEST(LeggiDescrizione, MakesNoUseOfTheNumberAfterA) {
     EXPECT_EQ(leggiDescrizione("12005A4").campitura, 12005);
     EXPECT_EQ(leggiDescrizione("12005A4").colore, 1);
 }
@@ -72,7 +72,7 @@ TEST(LeggiDescrizione, CutsAHatchToAWholeNumber) {
     EXPECT_TRUE(leggiDescrizione("-0.5").lineaAlPiede);
 }
 
-TEST(LeggiDescrizione, TakesATabBehindTheCodeForABlank) {
+TEST(LeggiDescrizione, TakesATabAfterTheCodeForABlank) {
     EXPECT_EQ(leggiDescrizione("105\tGhiaia sabbiosa").testo, "Ghiaia sabbiosa");
 }
 

@@ -38,13 +38,13 @@ TEST_F(StratigrafiaDescrizioni, JustifyAllLinesButTheLast) {
                               "con 6.300 16.500", "ghiaia sparsa 4.000 16.125"}));
 }
 
-TEST_F(StratigrafiaDescrizioni, WriteLinesThatEndInAPointAsTheyStand) {
+TEST_F(StratigrafiaDescrizioni, WriteLinesThatEndInAPointAsTheyAre) {
     dati.descrStrato[1] = "5 Sabbia fine.|Ghiaia";
     disegna();
     EXPECT_EQ(testi(), (Linee{"Sabbia fine. 4.000 16.500", "Ghiaia 4.000 16.125"}));
 }
 
-TEST_F(StratigrafiaDescrizioni, WriteLinesOfOneWordAsTheyStand) {
+TEST_F(StratigrafiaDescrizioni, WriteLinesOfOneWordAsTheyAre) {
     dati.descrStrato[1] = "5 Sabbia|Ghiaia";
     disegna();
     EXPECT_EQ(testi(), (Linee{"Sabbia 4.000 16.500", "Ghiaia 4.000 16.125"}));

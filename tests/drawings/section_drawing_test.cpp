@@ -135,7 +135,7 @@ TEST_F(Sezione, OfADiaphragmIsAStripOfTwoMetres) {
     EXPECT_TRUE(testiCon("\"800 [mm]\"")[0].starts_with("\"800 [mm]\" 10.000 "));
 }
 
-TEST_F(Sezione, OfADiaphragmHasABarForEachWholeSpacingBehindTheCover) {
+TEST_F(Sezione, OfADiaphragmHasABarForEachWholeSpacingAfterTheCover) {
     diaframma();
     disegna();
     EXPECT_EQ(quantiDi(0.06), 10) << "uphill, 24 mm every 20 cm";

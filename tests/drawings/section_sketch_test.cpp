@@ -227,7 +227,7 @@ TEST(SectionSketch, FallsBackToTheExampleWhereValuesDoNotFitEachOther) {
     const Schizzo diaframmaErrato = schizzoSezione(RiquadroSezione::diaframma, s);
     EXPECT_FALSE(diaframmaErrato.inScala);
     EXPECT_EQ(quota(diaframmaErrato, &Sezione::copriferroMonte).scritta, "c1 = 600")
-        << "the typed number stands there all the same";
+        << "the typed number is written all the same";
 
     Sezione tubo;
     tubo.paliDiamEst = 50;

@@ -120,8 +120,8 @@ TEST_F(StratigrafiaPagina, WithADescriptionOfMoreThanAHundredLinesIsAnError) {
 }
 
 TEST_F(StratigrafiaPagina, WithMoreStrokesThanMemoryHoldsGoesWholeIntoADxfFile) {
-    // 2000 strokes a tile, none across its middle. The layers hold 5 tiles, 5, and 9 with two
-    // halves.
+    // 2000 strokes a tile, none across its middle. The layers hold 5 tiles, 5, and 9
+    // with two halves.
     std::vector<TrattoCampitura> tratti;
     for (int i = 0; i < 2000; ++i) {
         const auto x = static_cast<std::int16_t>(i % 100 - 50);

@@ -38,10 +38,10 @@ void ripeti(const char* nome, Bersaglio bersaglio) {
     EXPECT_NO_THROW(bersaglio(nullptr, 0)) << "an empty file";
 }
 
-TEST(CorpusFuzz, ProjectReaderStandsAllItsFiles) { ripeti("project_reader", fuzzProjectReader); }
-TEST(CorpusFuzz, ResultReaderStandsAllItsFiles) { ripeti("result_reader", fuzzResultReader); }
-TEST(CorpusFuzz, MarkupReaderStandsAllItsFiles) { ripeti("markup_reader", fuzzMarkupReader); }
-TEST(CorpusFuzz, TextTableStandsAllItsFiles) { ripeti("text_table", fuzzTextTable); }
+TEST(CorpusFuzz, ProjectReaderSurvivesAllItsFiles) { ripeti("project_reader", fuzzProjectReader); }
+TEST(CorpusFuzz, ResultReaderSurvivesAllItsFiles) { ripeti("result_reader", fuzzResultReader); }
+TEST(CorpusFuzz, MarkupReaderSurvivesAllItsFiles) { ripeti("markup_reader", fuzzMarkupReader); }
+TEST(CorpusFuzz, TextTableSurvivesAllItsFiles) { ripeti("text_table", fuzzTextTable); }
 
 }  // namespace
 }  // namespace korven

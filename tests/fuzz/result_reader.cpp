@@ -7,8 +7,8 @@
 #include "report/calculation_report.hpp"
 
 // Any bytes as a result file of a wall in 4 segments. What can be read holds numbers alone and
-// gives a report, unless a stage asks for more anchors than the table holds or a value is
-// too large to be shown.
+// gives a report, unless a stage asks for more anchors than the table holds or a value is too large
+// to be shown.
 
 namespace {
 

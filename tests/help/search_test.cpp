@@ -53,7 +53,7 @@ TEST(CercaNellaGuida, FindsNothingWithoutWords) {
     EXPECT_EQ(nomi("   "), Nomi{});
 }
 
-TEST(CercaNellaGuida, ShowsWhatStandsAroundTheFirstWordFound) {
+TEST(CercaNellaGuida, ShowsTheTextAroundTheFirstWordFound) {
     EXPECT_EQ(cercaNellaGuida(guida, "densita").front().brano, "La spinta usa φ e la densità.");
     EXPECT_EQ(cercaNellaGuida(guida, "staffe").front().brano,
               "La scala del diagramma, ala e passo.");
@@ -67,7 +67,7 @@ TEST(CercaNellaGuida, ShowsWhatStandsAroundTheFirstWordFound) {
     EXPECT_LT(brano.size(), 160u);
 }
 
-TEST(PostiTrovati, AreBytesOfTheTextAsItStands) {
+TEST(PostiTrovati, AreBytesOfTheTextAsItIs) {
     const std::string testo = "Più φ, più";
     const auto posti = postiTrovati(testo, {"phi", "piu"});
     ASSERT_EQ(posti.size(), 3u);

@@ -5,7 +5,7 @@
 namespace korven::help {
 namespace {
 
-TEST(TestoPagina, IsWhatStandsBetweenTheTags) {
+TEST(TestoPagina, IsTheTextBetweenTheTags) {
     EXPECT_EQ(testoPagina("<h3><a name=\"x\"></a>Phi</h3>\n<p>Da <b>18</b> a 28</p>\n"),
               "Phi Da 18 a 28");
 }

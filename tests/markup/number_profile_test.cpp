@@ -28,7 +28,7 @@ TEST(NumberProfile, TakesNoPointAndAPointAtTheEndForInteger) {
         EXPECT_EQ(numberProfile(cell), integerProfile) << cell;
 }
 
-TEST(NumberProfile, CountsWhatStandsBehindTheFirstPoint) {
+TEST(NumberProfile, CountsWhatFollowsTheFirstPoint) {
     EXPECT_EQ(numberProfile("3.125"), 3);
     EXPECT_EQ(numberProfile(".5"), 1);
     EXPECT_EQ(numberProfile("1.2.34"), 4);
@@ -73,7 +73,7 @@ TEST(AlignedCell, HasThirteenZerosToGive) {
               (Cells{"1.0000000000000", "0.12345678901234567"}));
 }
 
-TEST(AlignedCell, KeepsABlankThatStoodBehindTheNumber) {
+TEST(AlignedCell, KeepsABlankThatFollowedTheNumber) {
     EXPECT_EQ(alignedCell("1.5 ", 2, 2), "1.5 ");  // the column takes its outer blanks off later
     EXPECT_EQ(alignedCell(" 7", integerProfile, 1), "7.0");
 }

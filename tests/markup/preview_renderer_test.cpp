@@ -69,7 +69,7 @@ TEST(PreviewRenderer, AlignsTheColumnsOfATableRightWhateverTheirStyle) {
 
 // The blanks after a cell are measured with the cell a second time: only where that is short of the
 // next column do they come, so after an empty cell.
-TEST(PreviewRenderer, PadsBehindACellThatIsNarrowerThanTheGap) {
+TEST(PreviewRenderer, PadsAfterACellThatIsNarrowerThanTheGap) {
     // Column 1 is 25 wide. After "abcde" 35 + 25 is enough for 39.17; after nothing 35 is not.
     const auto lines = shown({"#STARTTABLE", "abcde\tb", "\tb", "#ENDTABLE"});
     ASSERT_EQ(lines.size(), 2u);
@@ -113,7 +113,7 @@ TEST(PreviewRenderer, FurtherResetShowsTheHeaderAgain) {
               (Lines{std::string(49, ' ') + "one", head[0], "", "two"}));
 }
 
-TEST(PreviewReport, AddsBehindTheLinesOfAnEarlierRun) {
+TEST(PreviewReport, AddsAfterTheLinesOfAnEarlierRun) {
     const test::CartellaProvvisoria folder;
     test::metti(folder / "r.TAB", test::markup(document({"one"})));
     test::ListRecord list;

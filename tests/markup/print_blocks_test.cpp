@@ -137,7 +137,7 @@ TEST(PrintedTable, PrintsTheHeaderWhenItIsTheFirstOfTheDocument) {
     EXPECT_EQ(printed(document(table({"a", "b"}) + Lines{"text"})).onPage(1), "Head|a|b|text|Foot");
 }
 
-TEST(PrintedTable, MakesABlankLineBehindItCount) {
+TEST(PrintedTable, MakesABlankLineAfterItCount) {
     const auto record = printed(document(table({"a", "b"}) + Lines{"", "text"}));
     EXPECT_DOUBLE_EQ(record.texts[3].y, 124 + 3 * 12);
     // Also one that has no rows at all.

@@ -100,7 +100,7 @@ TEST(PrintRenderer, BreaksThePageBeforeALineBelowTheLimit) {
     EXPECT_EQ(printed(document(body)).page, 1);
 }
 
-TEST(PrintRenderer, LetsALineStandAtTheLimitItself) {
+TEST(PrintRenderer, LetsALineBeginAtTheLimitItself) {
     PageRecord low;
     low.size.height = 72.6;  // 44 usable: the limit of lines at 10, 22, 34 is 34
     const auto record = printed(document({"a", "b", "c", "d"}, "#RESET 0,0,0,0,0,0,10,Arial"), low);
@@ -141,7 +141,7 @@ TEST(PrintRenderer, NewPageBeforeTheFirstLineHeadsTheNextPageTwice) {
 }
 
 TEST(PrintRenderer, NewParagraphBreaksOnlyIfItsHeightIsNotLeft) {
-    // Behind two lines of 12 points y is 152.8; the limit is 813 - 56 - 56 - 12 = 689.
+    // After two lines of 12 points y is 152.8; the limit is 813 - 56 - 56 - 12 = 689.
     EXPECT_EQ(printed(document({"a", "b", "#NEWPARAGRAPH 18.9", "c"})).page, 1);   // 689 - 535.7
     EXPECT_EQ(printed(document({"a", "b", "#NEWPARAGRAPH 18.95", "c"})).page, 2);  // 689 - 537.2
     EXPECT_EQ(printed(document({"a", "b", "#NEWPARAGRAPH", "c"})).page, 1);
@@ -167,7 +167,7 @@ TEST(PrintRenderer, EmptyDocumentIsAPageWithItsFooter) {
     EXPECT_EQ(printed(document({})).calls, (Lines{"start", "write Foot!", "end", "job"}));
 }
 
-TEST(PrintRenderer, StartsAPageThoughNothingStandsOnIt) {
+TEST(PrintRenderer, StartsAPageThoughNothingIsWrittenOnIt) {
     EXPECT_EQ(printed({reset, "#ENDDOCUMENT"}).calls, (Lines{"start", "end", "job"}));
 }
 

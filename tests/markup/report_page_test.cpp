@@ -25,7 +25,7 @@ TEST(AlignedX, LetsWhatIsTooWideStickOut) {
     EXPECT_DOUBLE_EQ(alignedX(Alignment::right, room, 500), -50);
 }
 
-TEST(ReportPage, KnowsWhereHeaderBodyAndFooterStand) {
+TEST(ReportPage, KnowsWhereHeaderBodyAndFooterAre) {
     ReportPage page{{.leftMargin = 56,
                      .rightMargin = 28,
                      .topMargin = 40,

@@ -42,7 +42,7 @@ TEST(ParseReset, TakesTheNumberAtTheHeadOfAFieldAndZeroWithoutOne) {
     EXPECT_EQ(page.headerFontSize, -1);
 }
 
-TEST(ParseReset, FontNameStandsAsItIsUpToItsComma) {
+TEST(ParseReset, FontNameIsTakenAsItIsUpToItsComma) {
     EXPECT_EQ(parseReset("2,2,2,2,2,2,12, Arial ,bold").headerFontName, " Arial ");
 }
 

@@ -23,7 +23,7 @@ TEST(TableStyle, MinusGivesStyleTwoAndAnyOtherCharacterIsALetterOfStyleOne) {
     EXPECT_TRUE(rightAligned(parseTableStyle("<>").columnStyle, 2));
 }
 
-TEST(TableStyle, RestIsTrimmedBehindTheStyleSign) {
+TEST(TableStyle, RestIsTrimmedAfterTheStyleSign) {
     EXPECT_EQ(parseTableStyle("= << ").columnStyle, "<<" + std::string(23, '>'));
 }
 

@@ -10,7 +10,7 @@ std::optional<std::string> rendered(const std::string& markup) {
     return renderText(file);
 }
 
-TEST(TextRenderer, WritesHeaderTextRowsAndFooterAsTheyStand) {
+TEST(TextRenderer, WritesHeaderTextRowsAndFooterAsTheyAre) {
     EXPECT_EQ(rendered("#RESET 2,2,2,2,2,2,12,Arial\r\n#HEADER Program\r\n#FOOTER Fine\r\n"
                        "#FONTSIZE 16\r\n#CENTER\r\n  TITOLO\r\n#LEFT\r\n\r\n#STARTTABLE\r\n"
                        "Prof. [m]\tPhi [\xB0]\r\n 1.00\t30.00\r\n#ENDTABLE\r\n#STARTLIST\r\n"
@@ -25,7 +25,7 @@ TEST(TextRenderer, OpensNoFileWithoutReset) {
     EXPECT_EQ(rendered("#RESET\r\n"), "");
 }
 
-TEST(TextRenderer, HeaderStandsBeforeTheFirstTextLineNotBeforeAnEarlierTable) {
+TEST(TextRenderer, HeaderComesBeforeTheFirstTextLineNotBeforeAnEarlierTable) {
     EXPECT_EQ(rendered("#RESET\r\n#HEADER h\r\n#STARTTABLE\r\na\tb\r\n#ENDTABLE\r\nx\r\ny\r\n"),
               "a\tb\r\nh\r\nx\r\ny\r\n");
 }

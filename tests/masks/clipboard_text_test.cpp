@@ -13,7 +13,7 @@ TEST(RigheAppunti, EndAtCrLfOrLfAndCellsAtTabs) {
     EXPECT_EQ(righeAppunti("\t\r\n\r\nx"), (Righe{{"", ""}, {""}, {"x"}}));
 }
 
-TEST(RigheAppunti, OpenNoRowBehindTheLastLineBreak) {
+TEST(RigheAppunti, OpenNoRowAfterTheLastLineBreak) {
     EXPECT_EQ(righeAppunti("1\r\n2\r\n"), (Righe{{"1"}, {"2"}}));
     EXPECT_TRUE(righeAppunti("").empty());
     EXPECT_EQ(righeAppunti("\n"), (Righe{{""}}));
@@ -24,7 +24,7 @@ TEST(AnteprimaAppunti, ShowsUpToFiveLineBreaksWhole) {
     EXPECT_EQ(anteprimaAppunti(cinque), cinque);
 }
 
-TEST(AnteprimaAppunti, IsCutBehindTheSixthLineBreak) {
+TEST(AnteprimaAppunti, IsCutAfterTheSixthLineBreak) {
     EXPECT_EQ(anteprimaAppunti("1\r\n2\r\n3\r\n4\r\n5\r\n6\r\n7\r\n8"),
               "1\r\n2\r\n3\r\n4\r\n5\r\n6\r\n......");
 }

@@ -20,7 +20,7 @@ TEST(TipoCampo, OfADecimalNumberIsATextOfThatLength) {
 
 TEST(TipoCampo, WithAnAtSignHasNoLengthLimit) { EXPECT_TRUE(tipoCampo("40@").illimitato); }
 
-TEST(TipoCampo, OfAPictureCountsTheDecimalsBehindItsPoint) {
+TEST(TipoCampo, OfAPictureCountsTheDecimalsAfterItsPoint) {
     EXPECT_TRUE(tipoCampo("###.##@").figura);
     EXPECT_EQ(tipoCampo("###.##@").decimali, 2u);
     EXPECT_EQ(tipoCampo("#.@").decimali, 0u);

@@ -68,7 +68,7 @@ TEST(CelleGriglia, CopyFromTheFirstRowToTheLastWithDataBelow) {
     EXPECT_EQ(celle.copia(3), "1\ta\r\n\t\r\n3\tc");
 }
 
-TEST(CelleGriglia, CopyTheRowsAboveWhenNothingStandsBelow) {
+TEST(CelleGriglia, CopyTheRowsAboveWhenNothingIsBelow) {
     const auto celle = conRighe({{"1", "a"}, {"2", "b"}});
     EXPECT_EQ(celle.copia(4), "1\ta\r\n2\tb\r\n\t");
     EXPECT_EQ(celle.copia(3), "1\ta\r\n2\tb");

@@ -37,7 +37,7 @@ TEST_F(ModelloGrigliaTest, ShowsTheRowsItIsGivenTrimmed) {
     EXPECT_EQ(altro.corrente(), (PostoGriglia{1, 1}));
 }
 
-TEST_F(ModelloGrigliaTest, TakesATitleFromBehindTheRowCount) {
+TEST_F(ModelloGrigliaTest, TakesATitleThatFollowsTheRowCount) {
     const ModelloGriglia altro(maschera, {"1|Altro titolo", "3", "18", "", ""});
     EXPECT_EQ(altro.titolo(), "Altro titolo");
     EXPECT_EQ(altro.testo({1, 2}), "18");

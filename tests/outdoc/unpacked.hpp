@@ -6,7 +6,7 @@
 #include <string>
 
 // Archives as the description of their format has them: the end record is 22 bytes long, an entry
-// of the directory 46 and the head of a file 30, each with the name behind it.
+// of the directory 46 and the head of a file 30, each followed by the name.
 
 namespace korven::outdoc {
 
@@ -36,7 +36,7 @@ inline std::string inflated(std::string packed, std::size_t length) {
     return whole ? plain : std::string();
 }
 
-/// The content of the file whose entry in the directory stands at `entry`.
+/// The content of the file whose entry in the directory begins at `entry`.
 inline std::string contentOf(const std::string& archive, std::size_t entry) {
     const std::size_t head = number(archive, entry + 42, 4);
     const std::size_t start = head + headLength + number(archive, head + 26, 2);

@@ -93,7 +93,7 @@ TEST_F(ArchivioConUnita, DrawingThatEndsAtExactly64000LinesHasTwoFiles) {
     EXPECT_TRUE(rende(archivio, 64000));
 }
 
-TEST_F(ArchivioConUnita, EndingTwiceChangesNothingAndDrawingGoesOnBehindIt) {
+TEST_F(ArchivioConUnita, EndingTwiceChangesNothingAndDrawingGoesOnAfterIt) {
     ArchivioDisegno archivio = conLinee(32001);
     archivio.chiudi();
     archivio.chiudi();

@@ -51,7 +51,7 @@ TEST(DisposizioneIntera, CountsXFromTheSheetNotFromTheWindow) {
     EXPECT_EQ(disposizioneIntera({2, 0, 19, 27}, a4, 1, 1, 1).sullaCarta({2, 27}), (Punto{2, 0}));
 }
 
-TEST(DisposizioneAdattata, WideDrawingFillsTheWidthAndStandsInTheMiddleOfTheHeight) {
+TEST(DisposizioneAdattata, WideDrawingFillsTheWidthAndLiesInTheMiddleOfTheHeight) {
     // Widened to 40 x 10; 20 / 40 = 0.5 is less than 30 / 10; 5 of 30 cm high, 12.5 above.
     const Disposizione d = disposizioneAdattata({0.1, 0.1, 39.9, 9.9}, {20, 30});
     EXPECT_DOUBLE_EQ(d.scala, 0.5);

@@ -53,7 +53,7 @@ TEST(ConfigurazionePlot, ComesBackAsItWasWritten) {
     EXPECT_EQ(letta(testoConfigurazione(c)), c);
 }
 
-TEST(ConfigurazionePlot, TextsStandInTheCodePageOfTheSystem) {
+TEST(ConfigurazionePlot, TextsAreInTheCodePageOfTheSystem) {
     ConfigurazionePlot c = configurazioneDiProva();
     c.penne[1].etichetta = "Profondità";
     EXPECT_TRUE(testoConfigurazione(c).starts_with("Profondit\xE0\r\n"));

@@ -148,7 +148,7 @@ TEST_F(MotorePlot, OffsetsShiftLinesAndTextsRightAndDownAndWidenTheWindow) {
     EXPECT_EQ(statoPlot.estensione, (Riquadro{0, -0.5, 20.5, 27}));
 }
 
-TEST_F(MotorePlot, TextIsStoredAsItStandsWithTheFontOfThePen) {
+TEST_F(MotorePlot, TextIsStoredAsItIsWithTheFontOfThePen) {
     plotApri(0, 0, 19, 27);
     plotPenna(1);
     plotSimbolo(2, 3, 0.4, " città ", 90, conteggioCentrato);
@@ -240,7 +240,7 @@ TEST_F(MotorePlot, MissingConfigurationIsAnErrorAndLeavesTheDrawingBefore) {
     EXPECT_EQ(statoPlot.estensione, (Riquadro{0, 0, 19, 27}));
 }
 
-TEST_F(MotorePlot, Line32001GoesBehindAFirstSpillFileAndTheEndWritesTheSecond) {
+TEST_F(MotorePlot, Line32001GoesAfterAFirstSpillFileAndTheEndWritesTheSecond) {
     plotApri(0, 0, 19, 27);
     plotPenna(1);
     test::tracciaLinee(32000);

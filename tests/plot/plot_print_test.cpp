@@ -46,7 +46,7 @@ class Stampa : public test::ProvaPlot {
     }
 };
 
-TEST_F(Stampa, FullSizePrintsLinesAndTextsWhereTheyStandFromTheUpperLeftCorner) {
+TEST_F(Stampa, FullSizePrintsLinesAndTextsWhereTheyAreFromTheUpperLeftCorner) {
     disegna(19, 27);
     EXPECT_EQ(stampata(false),
               (Eventi{"page", "pen 16711680 width 5",  // 0.05 cm of 100 pixels
@@ -182,7 +182,7 @@ TEST_F(Stampa, ZoomOnTheScreenDoesNotChangeThePrint) {
 }
 
 // A unit after the end of an axis: "[kN/m2]" of height 0.2 is 1.05 cm long in Arial.
-TEST_F(Stampa, FittedPrintKeepsTextsOnThePaperThatStandOutOfTheSheet) {
+TEST_F(Stampa, FittedPrintKeepsTextsOnThePaperThatReachOutOfTheSheet) {
     plotApri(0, 0, 9.8, 9.8);
     plotPenna(5);
     plotSimbolo(9.6, 4.9, 0.2, "[kN/m2]", 0, 7);

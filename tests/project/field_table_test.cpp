@@ -12,7 +12,7 @@ namespace {
 
 struct Qualsiasi {
     template <class T>
-    operator T() const;  // NOLINT(google-explicit-constructor): stands for any member
+    operator T() const;  // NOLINT(google-explicit-constructor): takes the place of any member
 };
 
 template <class T, std::size_t... i>
@@ -35,7 +35,7 @@ TEST(TabellaCampi, HasOneRowForEachMemberOfTheProjectAndItsSection) {
     std::set<std::string_view> nomi;
     for (const Campo& c : campi()) {
         EXPECT_TRUE(nomi.insert(c.nome).second) << c.nome;
-        EXPECT_EQ(&campo(c.membro), &c) << c.nome << " stands in two rows";
+        EXPECT_EQ(&campo(c.membro), &c) << c.nome << " is in two rows";
     }
     EXPECT_EQ(nomi.size(), tutti) << "a member has no row in project/field_table.cpp";
 }
@@ -46,7 +46,7 @@ TEST(TabellaCampi, NamesAFieldAsTheCodeDoes) {
     EXPECT_EQ(campo(&DatiProgetto::titoli).nome, "titoli");
 }
 
-TEST(TabellaCampi, PutsTheShownUnitBehindTheCaption) {
+TEST(TabellaCampi, PutsTheShownUnitAfterTheCaption) {
     EXPECT_EQ(etichetta(campo(&DatiProgetto::gammaSat)), "Gamma Sat. [kN/m³]");
     EXPECT_EQ(etichetta(campo(&DatiProgetto::gammaAcqua)), "Peso specifico dell'acqua [t/m³]");
     EXPECT_EQ(etichetta(campo(&DatiProgetto::tirantiFase)), "Numero tot. tiranti");

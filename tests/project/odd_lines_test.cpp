@@ -48,7 +48,7 @@ TEST(RigheInsolite, NameTheLineTheFieldAndWhatWasReadOfADecimalComma) {
     EXPECT_EQ(trovate[1].letto, 1.5);
 }
 
-TEST(RigheInsolite, SeeARestBehindCountsAndFlagsToo) {
+TEST(RigheInsolite, SeeARestAfterCountsAndFlagsToo) {
     const auto trovate = insolite(conRighe({{1, "2,0"}, {68, "-1 vero"}}));
     ASSERT_EQ(trovate.size(), 2u);
     EXPECT_EQ(trovate[0].riga, 1);
@@ -75,7 +75,7 @@ TEST(RigheInsolite, NameAMethodOfEarthPressureThatTheReadingDoesNotKeep) {
     EXPECT_TRUE(insolite(conRighe({{24, "0"}})).empty());
 }
 
-TEST(RigheInsolite, NameTheFirstLineBehindTheLastValueButNoLoneLineEnd) {
+TEST(RigheInsolite, NameTheFirstLineAfterTheLastValueButNoLoneLineEnd) {
     const auto trovate = insolite(conRighe({}) + "7\r\n8\r\n");
     ASSERT_EQ(trovate.size(), 1u);
     EXPECT_EQ(trovate[0].motivo, Motivo::oltreLultima);

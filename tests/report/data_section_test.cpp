@@ -35,7 +35,7 @@ TEST(SezioneApertura, OpensTheDocumentInTheOrderThatTheRenderersExpect) {
                                         "CALCOLO DIAFRAMMA", "#LEFT", "", "#FONTSIZE 10", ""}));
 }
 
-TEST(SezioneApertura, WritesTheHeadingsThatAreNotBlankAsTheyStand) {
+TEST(SezioneApertura, WritesTheHeadingsThatAreNotBlankAsTheyAre) {
     auto d = progettoVuoto();
     d.titoli[1] = "  Muro di sponda ";
     d.titoli[2] = "   ";

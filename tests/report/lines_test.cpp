@@ -24,13 +24,13 @@ TEST(RigheRelazione, PartsTheCellsOfARowByTabsAndShowsTwoDecimalsWhateverTheSize
               "Prof. [m]\tPhi [°]\r\n1250.00\t0.50\t1000000.00\r\n-.50\t-.00\t0.00\t0.00\r\n");
 }
 
-TEST(RigheRelazione, CutsBehindTheSecondDecimalAndDoesNotRoundTheThird) {
+TEST(RigheRelazione, CutsAfterTheSecondDecimalAndDoesNotRoundTheThird) {
     RigheRelazione righe;
     righe.valori({2.999, 2.99996, 1.005, -1.239});
     EXPECT_EQ(righe.testo(), "2.99\t3.00\t1.00\t-1.23\r\n");
 }
 
-TEST(RigheRelazione, PutsATextBehindTheNumbersOfARow) {
+TEST(RigheRelazione, PutsATextAfterTheNumbersOfARow) {
     RigheRelazione righe;
     righe.valori({2, 5000}, "Solo traz.");
     EXPECT_EQ(righe.testo(), "2.00\t5000.00\tSolo traz.\r\n");
@@ -49,7 +49,7 @@ TEST(RigheRelazione, WritesAnEmptyListWhenNoRowIsWanted) {
     EXPECT_EQ(righe.testo(), "#STARTLIST\r\n#ENDLIST\r\n");
 }
 
-TEST(RigheRelazione, TranslatesTitlesCaptionsAndLabelsButNoLineAsItStands) {
+TEST(RigheRelazione, TranslatesTitlesCaptionsAndLabelsButNoLineAsItIs) {
     const test::UnTesto tedesco("Phi", "Reibungswinkel");
     RigheRelazione righe;
     righe.riga("Phi");

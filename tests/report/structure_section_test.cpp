@@ -213,7 +213,7 @@ TEST(SezioneStrutturale, KeepsTheAxialForceOutOfTheShearCheck) {
     EXPECT_EQ(scritte(d), senza);
 }
 
-TEST(SezioneStrutturale, TellsEachKindOfShearFailureBehindTheList) {
+TEST(SezioneStrutturale, TellsEachKindOfShearFailureAfterTheList) {
     auto d = relazione(paliConStaffe());
     d.Vmax = 33;  // Vsd 462
     auto tutte = scritte(d);

@@ -52,7 +52,7 @@ TEST(TiroFinale, IsThePrestressAloneForANodeThatNeverPassedThatPlace) {
     EXPECT_EQ(tiroFinale(5, 500, -0.01, 0.002), 5);
 }
 
-TEST(LeggiRisultati, ReadsTheStagesAndTheClosingNumbersBehindTheHead) {
+TEST(LeggiRisultati, ReadsTheStagesAndTheClosingNumbersAfterTheHead) {
     RisultatiAMano file(4);
     const auto d = muroQuattroSegmenti(2);
     file.scrivi(d, {faseFerma(5), spostata("0.001", "0.002", "-.0005", "0", "0.25")},
@@ -206,7 +206,7 @@ TEST(LeggiRisultati, TakesTheShearOfTheLastStageAlone) {
     EXPECT_EQ(letti(file, d).Vmax, 6.5);
 }
 
-TEST(LeggiRisultati, FindsTheShearAboveAnAnchorThatStandsExactlyAtANode) {
+TEST(LeggiRisultati, FindsTheShearAboveAnAnchorThatIsExactlyAtANode) {
     RisultatiAMano file(4);
     auto d = muroQuattroSegmenti(1);
     aggiungiTirante(d, 2, 0, 10);

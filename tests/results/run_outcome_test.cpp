@@ -72,7 +72,7 @@ TEST(LeggiEsito, HoldsTheChecksOfTheSectionAndTheForcesThatTheReportShows) {
     EXPECT_FALSE(esito.taglio);  // no stirrups
     EXPECT_EQ(esito.fallite, std::vector<std::string_view>{
                                  "CONDIZIONI DI SICUREZZA NON VERIFICATE (momento negativo)"});
-    ASSERT_EQ(esito.tiranti.size(), 1u);  // in place, though the wall stands still
+    ASSERT_EQ(esito.tiranti.size(), 1u);  // in place, though the wall does not move
     EXPECT_EQ(esito.tiranti[0].profondita, d.profTirante[1]);
     EXPECT_EQ(esito.tiranti[0].tiroMassimo, d.pretTirante[1]);
 }

@@ -36,7 +36,7 @@ TEST(EsaminaFile, TellsADecimalCommaWithItsLineItsFieldAndWhatWasRead) {
                                        "conta, il segno decimale è il punto (12000,5)"});
 }
 
-TEST(EsaminaFile, PutsTheLinesBehindWhatTheProjectItselfShows) {
+TEST(EsaminaFile, PutsTheLinesAfterWhatTheProjectItselfShows) {
     const auto trovate = righeFile(conScambio("1.8", "18 kN/m3"));
     ASSERT_EQ(trovate.size(), 2u);
     EXPECT_TRUE(
@@ -52,7 +52,7 @@ TEST(EsaminaFile, TellsThatRankineAndBellDoNotSurviveTheReading) {
                                        "sempre con il metodo di Coulomb (1)"});
 }
 
-TEST(EsaminaFile, TellsLinesBehindTheLastValueAsAMiscount) {
+TEST(EsaminaFile, TellsLinesAfterTheLastValueAsAMiscount) {
     EXPECT_EQ(righeFile(project::testoProgetto(test::progettoSemplice()) + "4\r\n"),
               std::vector<std::string>{
                   "riga 88: il file continua dopo l'ultimo valore: i numeri di strati, tiranti e "

@@ -58,7 +58,7 @@ TEST(StranezzeTitolo, TellNeighboursThatTheLogPrintsOverEachOther) {
     EXPECT_TRUE(stranezzeTitolo(3, titoli({"a", "", "c", "", "e"})).empty());
 }
 
-TEST(StranezzeTitolo, HaveNothingToSayOfAnEmptyLineOrOfTheFieldBehindTheLines) {
+TEST(StranezzeTitolo, HaveNothingToSayOfAnEmptyLineOrOfTheFieldAfterTheLines) {
     EXPECT_TRUE(stranezzeTitolo(2, titoli({"a", "", "c"})).empty());
     Righe campi = titoli({"a", "", "", "", "", "f"});
     campi.push_back("#3");  // the stage of the diagrams

@@ -105,7 +105,7 @@ TEST(EsaminaProgetto, SaysOfUnknownCodesWhatTheRunDoesWithThem) {
 }
 
 // Shown in kN such values are too large for a number.
-TEST(EsaminaProgetto, StandsTheLargestNumbersInAnyField) {
+TEST(EsaminaProgetto, BearsTheLargestNumbersInAnyField) {
     project::Sezione paliArmati;
     paliArmati.tipoPaliArmati = true;
     for (const double enorme : {1.7e308, -1.7e308}) {

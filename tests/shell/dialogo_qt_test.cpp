@@ -84,7 +84,7 @@ TEST(BoxQt, TakesEnterForYesAndEscForTheLeastItCanDo) {
     EXPECT_EQ(premi(Qt::Key_Escape, Pulsanti::siNo), Risposta::no);
 }
 
-TEST(BoxQt, StandsAboveTheViewerThatDisablesTheMainForm) {
+TEST(BoxQt, AppearsAboveTheViewerThatDisablesTheMainForm) {
     QWidget principale, visore;
     QWidget anteprima(&principale, Qt::Window);
     DialogoQt dialogo;

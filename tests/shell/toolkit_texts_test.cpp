@@ -25,8 +25,8 @@ TEST(TestiQt, AreThoseOfTheLanguageWhereTheSystemHasThem) {
     EXPECT_EQ(testiQt(7), nullptr);
 }
 
-// The program says "ficheiro" and "guardar"; "arquivo" and "salvar" beside them are another
-// country's.
+// The program says "ficheiro" and "guardar"; "arquivo" and "salvar" beside them
+// are another country's.
 TEST(TestiQt, ArePortugueseAsInPortugal) {
     const auto testi = testiQt(6);
     if (!testi) GTEST_SKIP() << "Qt's translations are not installed";

@@ -36,8 +36,9 @@ TEST(LimiteSuperato, ReadsShorteningAtTheFacesAndElongationAtItsPoints) {
     EXPECT_TRUE(limiteSuperato(0.006, -0.96e-4, 100, coperti));
 }
 
-// Elastic plate: the limit is -0.0035 at a face, chi = 0.007 / 100; M = E chi 10 (100^3 - 100)
-// / 12. The last halving lies within 0.02 / 100 / 16384 of the limit, 0.0175 % of chi.
+// Elastic plate: the limit is -0.0035 at a face, chi = 0.007 / 100;
+// M = E chi 10 (100^3 - 100) / 12. The last halving lies within 0.02 / 100 / 16384 of the limit,
+// 0.0175 % of chi.
 TEST(CercaLimite, FindsTheCurvatureOfTheLimitWithinItsTolerance) {
     const double atteso = 200000 * 0.7e-4 * 10 * (1e6 - 100) / 12;
     const MomentiResistenti MRd = cercaLimite(piastra(1e6), 100, facce, 0);

@@ -24,9 +24,9 @@ inline std::string senzaTestata(std::string_view testo) {
     return std::string(testo);
 }
 
-/// Compares a text with the golden file `nome` below tests/golden. With KORVEN_GOLDEN=write in the
-/// environment the file is written instead, its header kept, and is to be read before it is
-/// committed.
+/// Compares a text with the golden file `nome` below tests/golden. With KORVEN_GOLDEN=write
+/// in the environment the file is written instead, its header kept, and is to be read before
+/// it is committed.
 inline void confrontaConGolden(std::string_view nome, const std::string& testo) {
     const std::string percorso = std::string(KORVEN_GOLDEN_FOLDER) + '/' + std::string(nome);
     const std::string atteso = contenuto(percorso);

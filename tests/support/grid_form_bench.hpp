@@ -47,7 +47,7 @@ class BancoGriglia : public ::testing::Test {
     std::string cella(int riga, int colonna) {
         return griglia().model()->index(riga - 1, colonna - 1).data().toString().toStdString();
     }
-    /// Where the cursor of the window stands, as "row,column".
+    /// Where the cursor of the window is, as "row,column".
     std::string cursore() {
         const QModelIndex qui = griglia().currentIndex();
         return std::to_string(qui.row() + 1) + ',' + std::to_string(qui.column() + 1);

@@ -35,8 +35,8 @@ inline std::string unite(const std::vector<std::string>& righe) {
     return testo;
 }
 
-/// One text of the program and its German translation, German being the language as long as this
-/// lives.
+/// One text of the program and its German translation, German being the language as long
+/// as this lives.
 class UnTesto {
  public:
     UnTesto(std::string_view italiano, std::string_view tedesco) {

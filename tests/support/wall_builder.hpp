@@ -43,7 +43,7 @@ inline void aggiungiStrato(project::DatiProgetto& d, const Strato& strato) {
     d.descrStrato[j] = strato.descrizione;
 }
 
-/// Adds an anchor behind those already there: depth of its head [m], stiffness [t/m], prestress [t]
+/// Adds an anchor after those already there: depth of its head [m], stiffness [t/m], prestress [t]
 /// and the code of its kind, 0 for tension only.
 inline void aggiungiTirante(project::DatiProgetto& d, double profondita, double rigidezza,
                             double pretensione = 0, double tipo = 0) {
@@ -82,7 +82,7 @@ inline project::DatiProgetto progettoVuoto() {
 ///
 /// It begins as a free wall of 10 m and 10,000 t m2 in dry ground, with Coulomb's pressures and a
 /// constant ks, all computed anew in each stage from effective stresses. A wall for which nobody
-/// names a layer stands in 20 m of sand; one for which nobody names a stage is not dug out.
+/// names a layer is in 20 m of sand; one for which nobody names a stage is not dug out.
 class Muro {
  public:
     Muro() : d_(progettoVuoto()) {

@@ -74,8 +74,8 @@ class CorseInsieme : public ::testing::Test {
             return corsa.fasi.back().esito == esito;
         });
     }
-    // All walls in each of four threads, which begin at different ones; `intanto` goes on
-    // meanwhile.
+    // All walls in each of four threads, which begin at different ones; `intanto`
+    // goes on meanwhile.
     void confrontaInsieme(const std::function<void()>& intanto) {
         constexpr std::size_t quanti = 4;
         std::vector<std::vector<EsitoCorsa>> avute(quanti, std::vector<EsitoCorsa>(tutti.size()));

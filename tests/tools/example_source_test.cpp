@@ -112,7 +112,7 @@ TEST(ExampleSource, RefusesABlockWithoutProjectAndAProjectWithoutBlock) {
     EXPECT_EQ(fault({"argine", "muro"}), 0);
 }
 
-TEST(ExampleSource, RefusesANameThatStandsTwiceInALanguage) {
+TEST(ExampleSource, RefusesANameThatOccursTwiceInALanguage) {
     const std::string other =
         "@nome deu wand\n@nome fra b\n@nome esp c\n@nome eng d\n@nome por e\n";
     EXPECT_EQ(lineRefused(head + "@esempio muro\n"), 8);
@@ -123,7 +123,7 @@ TEST(ExampleSource, RefusesANameThatStandsTwiceInALanguage) {
         << "each language has a folder of its own";
 }
 
-TEST(ExampleSource, RefusesATextThatStandsTwice) {
+TEST(ExampleSource, RefusesATextThatOccursTwice) {
     EXPECT_EQ(lineRefused(head + block("Muro") + block("Muro")), 16);
 }
 

@@ -43,8 +43,8 @@ TEST(HatchDrawing, DrawsArcsFromAngleToAngle) {
     EXPECT_EQ(drawn("arco 0 0 10 0 180 2"), (Strokes{{10, 0, 0, 10}, {0, 10, -10, 0}}));
 }
 
-// One period of four chords, corners at x = -125, -75, -25, 25, 75: sin of -45, 45, 135, ...
-// degrees.
+// One period of four chords, corners at x = -125, -75, -25, 25, 75: the sines of -45, 45 and 135
+// degrees and so on.
 TEST(HatchDrawing, DrawsWavesThatCrossTheEdgeInTheMiddleOfAChord) {
     EXPECT_EQ(drawn("onda 0 10 1 4"), (Strokes{{75, -7, 100, 0},
                                                {-100, 0, -75, 7},

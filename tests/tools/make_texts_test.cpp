@@ -123,8 +123,8 @@ const std::vector<std::vector<std::string>> menus = {
     {"&Imposta", "&Stampa", "&Annulla"}};
 
 std::string accessKey(const std::string& text) {
-    const std::string_view behind = std::string_view(text).substr(text.find('&') + 1);
-    return base::maiuscolo(behind.substr(0, base::lunghezzaPrimoCarattere(behind)));
+    const std::string_view rest = std::string_view(text).substr(text.find('&') + 1);
+    return base::maiuscolo(rest.substr(0, base::lunghezzaPrimoCarattere(rest)));
 }
 
 TEST(DeliveredTexts, HaveNoAccessKeyTwiceInOneMenu) {

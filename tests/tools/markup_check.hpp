@@ -8,9 +8,9 @@
 
 namespace korven::test {
 
-/// What is wrong with a piece of HTML in the tags of the help: a tag not known, not closed or
-/// closed in the wrong order, an attribute without quotes, an entity not known. Empty if nothing
-/// is.
+/// What is wrong with a piece of HTML in the tags of the help: a tag not known, not closed
+/// or closed in the wrong order, an attribute without quotes, an entity not known. Empty
+/// if nothing is.
 class MarkupCheck {
  public:
     explicit MarkupCheck(std::string_view html) : rest_(html) {}

@@ -84,7 +84,7 @@ TEST(PenSource, RefusesValuesOutOfRange) {
         EXPECT_EQ(lineOfFault(std::string(row) + "\n"), 1) << row;
 }
 
-TEST(PenSource, RefusesMissingLanguagesAndTextsThatStandTwice) {
+TEST(PenSource, RefusesMissingLanguagesAndTextsThatOccurTwice) {
     EXPECT_EQ(lineOfFault("@colore 1 #010203\nit: Nero\nfr: Noir\n"), 3);
     EXPECT_EQ(lineOfFault("@colore 1 #010203\n" + texts("a") + "@colore 2 #010204\n" + texts("a")),
               14);

@@ -316,7 +316,7 @@ std::set<std::string> keys() {
     return all;
 }
 
-TEST(TextKeys, StandInTheTableForEveryLiteralThatMayBeShown) {
+TEST(TextKeys, AreInTheTableForEveryLiteralThatMayBeShown) {
     const auto known = keys();
     int looked = 0;
     for (const auto& [file, texts] : spokenLiterals())
@@ -331,7 +331,7 @@ TEST(TextKeys, StandInTheTableForEveryLiteralThatMayBeShown) {
     EXPECT_GT(looked, 200) << "the sources were not found";
 }
 
-TEST(TextKeys, StandInTheTableForEachCaptionOfAFieldAndItsUnit) {
+TEST(TextKeys, AreInTheTableForEachCaptionOfAFieldAndItsUnit) {
     const auto known = keys();
     const auto has = [&](const auto& text) { return known.contains(base::chiaveTesto(text)); };
     std::set<std::string_view> withoutUnit;
@@ -349,7 +349,7 @@ TEST(TextKeys, StandInTheTableForEachCaptionOfAFieldAndItsUnit) {
 }
 
 // A short literal has no word in it; where it goes straight into the translation it is a text.
-TEST(TextKeys, StandInTheTableForEveryLiteralThatIsTranslatedHoweverShort) {
+TEST(TextKeys, AreInTheTableForEveryLiteralThatIsTranslatedHoweverShort) {
     const auto known = keys();
     const std::regex direct("\\b(?:tradotto|traduttore)\\(\"([^\"]*)\"");
     std::set<std::string> looked;

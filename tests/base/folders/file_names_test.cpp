@@ -24,7 +24,7 @@ TEST(NomiDeiFile, TheWordProcessorFileTakesTheNameOfTheReport) {
     EXPECT_EQ(nomeDocumento("/lavori.TAB"), "/lavori.doc");
 }
 
-TEST(NomiDeiFile, FurtherFilesStandBesideTheProjectWithAWordBehindItsStem) {
+TEST(NomiDeiFile, FurtherFilesLieBesideTheProjectWithAWordAfterItsStem) {
     EXPECT_EQ(nomeUscita("/lavori.1/muro.v2.kvd", "momenti", "pdf"),
               "/lavori.1/muro.v2-momenti.pdf");
     EXPECT_EQ(nomePdfRelazione("/lavori/muro.kvd"), "/lavori/muro-relazione.pdf");

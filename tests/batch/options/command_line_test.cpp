@@ -240,7 +240,7 @@ TEST_F(LineaDiComando, MetodoSpinteHoldsForTheRunThoughTheReportSaysCoulomb) {
     EXPECT_EQ(out.substr(out.find("sigmaVv")), risultati["coulomb"]);
 }
 
-TEST_F(LineaDiComando, NsegStandsForTheContentOfItsFile) {
+TEST_F(LineaDiComando, NsegReplacesTheContentOfItsFile) {
     EXPECT_EQ(console({"calcola", progetto, "--nseg", "7"}).codice, 0);
     const std::string conOpzione = contenuto(cartella / "muro.OUT");
     // The head with its tables, for each stage the names and the nodes, the closing numbers.

@@ -46,7 +46,7 @@ auto tutte(const Opzioni& o) {
                       o.disegno.foglio.larghezza, o.disegno.foglio.altezza, o.formati);
 }
 
-// Words of a help: names stand between blanks, commas, bars and brackets.
+// Words of a help: names are parted by blanks, commas, bars and brackets.
 std::set<std::string> parole(const std::string& testo) {
     std::set<std::string> trovate;
     for (std::size_t da = 0;
@@ -162,7 +162,7 @@ TEST(Nomi, GivenTwiceAreOneOptionGivenTwice) {
                    "un'opzione è data più volte: --lingua\n"));
 }
 
-TEST(Nomi, StandInTheTableOfTheManualAllOfThemAndNoOthers) {
+TEST(Nomi, AreInTheTableOfTheManualAllOfThemAndNoOthers) {
     const std::string manuale = base::leggiFile(KORVEN_DOCS "/batch.md");
     const std::string titolo = "\n## Names in two languages\n";
     const auto inizio = manuale.find(titolo);

@@ -77,7 +77,7 @@ TEST_F(PlotDxf, StyleIsHeldForTheRun) {
     EXPECT_EQ(esportata().stile, "ROMANS");
 }
 
-TEST_F(PlotDxf, LinesAndTextsComeOutWhereTheyStand) {
+TEST_F(PlotDxf, LinesAndTextsComeOutWhereTheyAre) {
     configura(test::penneDistinte());
     plotApri(0, 0.6, 20, 28.5);
     plotPenna(12);  // 255 0 0

@@ -198,7 +198,7 @@ TEST_F(Menu1Test, ShowsTheAboutBoxAtAClickOnItsPicture) {
     EXPECT_EQ(informazioni, (std::vector<std::string>{"", "File corrente: /LAVORI/MURO"}));
 }
 
-TEST_F(Menu1Test, OpensADroppedProjectBehindTheQuestionAboutUnsavedWork) {
+TEST_F(Menu1Test, OpensADroppedProjectAfterTheQuestionAboutUnsavedWork) {
     apri();
     const std::string muro = scriviMuro();
     lascia(muro);

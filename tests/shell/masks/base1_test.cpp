@@ -25,7 +25,7 @@ TEST_F(FormaCampi, HasTitleAndHelpContextOfItsMask) {
     EXPECT_EQ(forma->property("contestoGuida").toInt(), 6);
 }
 
-TEST_F(FormaCampi, StandsInTheMiddleOfTheScreen) {
+TEST_F(FormaCampi, OpensInTheMiddleOfTheScreen) {
     apri();
     const QPoint scarto =
         forma->screen()->availableGeometry().center() - forma->geometry().center();

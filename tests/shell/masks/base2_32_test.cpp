@@ -104,7 +104,7 @@ TEST_F(FormaGriglia, HasItsButtonsBelowTheGrid) {
     }
 }
 
-TEST_F(FormaGriglia, HasOnlyHelpBehindCancelInAFixedGrid) {
+TEST_F(FormaGriglia, HasOnlyHelpAfterCancelInAFixedGrid) {
     maschera.pulsanti = {"&Conferma", "&Annulla", "&Help"};
     maschera.riferimento = "8 EDITTIR";
     apriGenere(GenereMaschera::grigliaFissa, {"1", "3", "18", "uno", "0"});
@@ -262,7 +262,7 @@ TEST_F(FormaGriglia, TellsWhatANumberIsReadAsWhileItIsTyped) {
     EXPECT_EQ(striscia().text(), "la profondità");
 }
 
-TEST_F(FormaGriglia, MarksTheTextOfACellBehindABox) {
+TEST_F(FormaGriglia, MarksTheTextOfACellAfterABox) {
     apri();
     const auto foto = [&] { return griglia().viewport()->grab().toImage(); };
     scrivi("999");

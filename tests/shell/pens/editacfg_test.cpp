@@ -76,7 +76,7 @@ TEST_F(Penne, LeaveRoomForTheRestOfTheFormOnASmallScreen) {
     EXPECT_LE(forma->minimumSizeHint().width(), forma->screen()->availableSize().width());
 }
 
-TEST_F(Penne, StandInAFormWithItsCaptions) {
+TEST_F(Penne, AreShownInAFormWithItsCaptions) {
     EXPECT_EQ(forma->windowTitle(), "SELEZIONE COLORI");
     EXPECT_EQ(penne().count(), plot::numeroPenne);
     EXPECT_EQ(penne().item(29)->text(), "Penna 30");

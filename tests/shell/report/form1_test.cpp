@@ -54,7 +54,7 @@ TEST_F(Anteprima, BringsColumnsAndLeadersIntoLine) {
     EXPECT_NEAR(forma.textWidth(riga(3).toStdString()), punti, forma.textWidth("m"));
 }
 
-TEST_F(Anteprima, AddsBehindWhatItShowsUntilItIsClosed) {
+TEST_F(Anteprima, AddsAfterWhatItShowsUntilItIsClosed) {
     mostra(breve);
     mostra(breve);
     EXPECT_EQ(quante(), 16);

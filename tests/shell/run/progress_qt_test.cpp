@@ -89,7 +89,7 @@ TEST_F(Corsa, ShowsTheWindowWhileItLastsAndPutsTheCaptionBack) {
 TEST_F(Corsa, IsRedrawnNoMoreOftenThanTheRhythmAllowsButWithTheLastState) {
     int volte = 0;
     QObject::connect(&principale, &QWidget::windowTitleChanged, [&](const QString&) { ++volte; });
-    AvanzamentoQt fermo([] { return RitmoRidisegno::Istante{}; });  // time stands still
+    AvanzamentoQt fermo([] { return RitmoRidisegno::Istante{}; });  // no time passes
     calcola(fermo);
     EXPECT_EQ(volte, 3);  // the first iteration, the last one, the caption put back
 }

@@ -47,7 +47,7 @@ TEST_F(Visore, BringsTheMainFormBackWhenItIsClosed) {
     EXPECT_FALSE(principale.isEnabled());
 }
 
-TEST_F(Visore, KeepsTheMainFormFromBeingClosedWhileItStands) {
+TEST_F(Visore, KeepsTheMainFormFromBeingClosedWhileItIsOpen) {
     disegna();
     EXPECT_FALSE(principale.close());
     EXPECT_TRUE(principale.isVisible());
