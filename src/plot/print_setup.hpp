@@ -24,8 +24,8 @@ struct ImpostazioniStampa {
     bool operator==(const ImpostazioniStampa&) const = default;
 };
 
-/// Reads the file: nine values, one a line, in the order above. The last came later, so that a file
-/// may end before it. Without a file the values are those above.
+/// Reads the file: nine values, one a line, in the order above; the last may be missing. Without a
+/// file the values are those above.
 /// @throws ErroreFile when the file is cut short or a number is none
 [[nodiscard]] ImpostazioniStampa leggiImpostazioni(const std::string& percorso);
 

@@ -18,7 +18,7 @@ namespace {
 using test::fasiDi;
 using test::MuriCasuali;
 
-// A wall without excavation and without a slope stands between two sides that obey the same rules,
+// A wall without excavation and without a slope is between two sides that obey the same rules,
 // limits included. Anchors pull from one side only, so two-way springs without prestress are left.
 project::DatiProgetto senzaScavo(MuriCasuali& caso) {
     auto d = caso.prossimo();

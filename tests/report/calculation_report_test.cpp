@@ -244,7 +244,7 @@ TEST(ScriviRelazione, WritesTheWholeReportOfASheetPile) {
 
 // The shear of the last stage: at the anchor 2 x 2 - 0 = 4 t below it and 4 - (5 + 500 x 0.003) =
 // -2.5 t above it, so Vmax is 4 t. The resistances of one pile are worked by
-// hand in report_structure_section_test.cpp.
+// hand in structure_section_test.cpp.
 TEST(ScriviRelazione, WritesTheWholeReportOfReinforcedPilesWithTheirShearCheck) {
     auto s = structure::paliArmati();
     s.armDiamPalo = 60;

@@ -91,7 +91,7 @@ Lettura::Lettura(Opzioni& opzioni, const std::vector<RigaComando>& comandi)
     intestazioni(app_);
     domande(app_);
     app_.require_subcommand(1);
-    // In Italian the help has always shown both names of what every program is asked.
+    // In Italian the help shows both names of what every program is asked.
     if (aiuto.mostrato() == aiuto.inglese)
         for (const auto& nome : {aiuto, versione}) formato_->tace(nome.taciuto());
     for (const auto& riga : comandi_) {

@@ -102,7 +102,7 @@ TEST_F(LineaDiComando, WrongUsageEndsWithTwoAndAClearMessage) {
     EXPECT_EQ(nomi(), "muro.kvd ");
 }
 
-// "--json=true" and the like have always been understood.
+// "--json=true" and the like are understood.
 TEST_F(LineaDiComando, ASwitchTakesTheWordsOfASwitch) {
     const std::pair<const char*, bool> casi[] = {
         {"--json", true}, {"--json=true", true}, {"--json=false", false}};
