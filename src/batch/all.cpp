@@ -60,35 +60,35 @@ const std::vector<Tavola>& tavole() {
     return tutte;
 }
 
-struct Forma {
+struct Formato {
     const char* nome;
-    std::string FormeDisegno::*file;
+    std::string FormatiDisegno::*file;
 };
 
-constexpr Forma forme[] = {{"pdf", &FormeDisegno::pdf},
-                           {"dxf", &FormeDisegno::dxf},
-                           {"svg", &FormeDisegno::svg},
-                           {"png", &FormeDisegno::png}};
+constexpr Formato formatiPossibili[] = {{"pdf", &FormatiDisegno::pdf},
+                                        {"dxf", &FormatiDisegno::dxf},
+                                        {"svg", &FormatiDisegno::svg},
+                                        {"png", &FormatiDisegno::png}};
 
-// "DIR/muro-momenti.pdf" for each form asked for.
-FormeDisegno formeTavola(const Opzioni& opzioni, const Tavola& tavola) {
-    FormeDisegno chieste;
-    chieste.dpi = opzioni.disegno.dpi;
+// "DIR/muro-momenti.pdf" in each format asked for.
+FormatiDisegno formatiTavola(const Opzioni& opzioni, const Tavola& tavola) {
+    FormatiDisegno chiesti;
+    chiesti.dpi = opzioni.disegno.dpi;
     const std::vector<std::string> senzaOpzione = {"pdf", "dxf"};
-    const auto& formati = opzioni.formati.empty() ? senzaOpzione : opzioni.formati;
-    for (const auto& [forma, file] : forme)
-        if (std::find(formati.begin(), formati.end(), forma) != formati.end())
-            chieste.*file = nomeProprio(tavola.nome, forma);
-    return chieste;
+    const auto& nomi = opzioni.formati.empty() ? senzaOpzione : opzioni.formati;
+    for (const auto& [nome, file] : formatiPossibili)
+        if (std::find(nomi.begin(), nomi.end(), nome) != nomi.end())
+            chiesti.*file = nomeProprio(tavola.nome, nome);
+    return chiesti;
 }
 
-// The report in each of its forms, beside the drawings.
-FormeRelazione formeRelazione() {
-    FormeRelazione chieste;
-    chieste.testo = chieste.documento = true;
-    chieste.pdf =
+// The report in each of its formats, beside the drawings.
+FormatiRelazione formatiRelazione() {
+    FormatiRelazione chiesti;
+    chiesti.testo = chiesti.documento = true;
+    chiesti.pdf =
         nomeProprio({std::string(base::parolaRelazione), std::string(base::parolaReport)}, "pdf");
-    return chieste;
+    return chiesti;
 }
 
 void annuncia(const Opzioni& opzioni, std::size_t quale, const Tavola& tavola) {
@@ -102,12 +102,12 @@ bool diagramma(analysis::Diagramma tipo, CorsaConsole& corsa) {
     return corsa.esegui(tipo, uscita);
 }
 
-void controllaTutte(const Opzioni& opzioni, const FormeRelazione& relazione) {
+void controllaTutte(const Opzioni& opzioni, const FormatiRelazione& relazione) {
     std::vector<std::string> tutte;
     for (const Tavola& tavola : tavole()) {
-        const FormeDisegno chieste = formeTavola(opzioni, tavola);
-        controllaUscite(chieste);
-        for (const auto& file : chieste.file()) tutte.push_back(file);
+        const FormatiDisegno chiesti = formatiTavola(opzioni, tavola);
+        controllaUscite(chiesti);
+        for (const auto& file : chiesti.file()) tutte.push_back(file);
     }
     controllaUscite(relazione);
     tutte.push_back(relazione.pdf);
@@ -118,10 +118,10 @@ int esegui(const Opzioni& opzioni, analysis::GuardiaRisultati& guardia, Esito& e
     return calcolaConRilievi(opzioni, esito, [&]() -> int {
         avvisaPosto();
         const AmbienteDisegno ambiente(true);
-        const FormeRelazione relazione = formeRelazione();
+        const FormatiRelazione relazione = formatiRelazione();
         controllaTutte(opzioni, relazione);
         CorsaConsole corsa(opzioni, guardia, esito);
-        if (!scriviRelazione(relazione, corsa, esito)) return nonEseguito;
+        if (!produciRelazione(relazione, corsa, esito)) return nonEseguito;
         esito.calcolo = results::leggiEsito();
         // Whether anything was computed is for the first run to say: the others find its results.
         const auto fasi = esito.fasi;
@@ -135,7 +135,7 @@ int esegui(const Opzioni& opzioni, analysis::GuardiaRisultati& guardia, Esito& e
             if (!tavola.diagramma && !tavola.disegna(esito))
                 codice = nonEseguito;  // the other drawings are made all the same
             else
-                scriviDisegno(formeTavola(opzioni, tavola), esito);
+                scriviDisegno(formatiTavola(opzioni, tavola), esito);
         }
         esito.fasi = fasi;
         esito.giaAggiornato = giaAggiornato;
@@ -145,13 +145,13 @@ int esegui(const Opzioni& opzioni, analysis::GuardiaRisultati& guardia, Esito& e
 
 bool leggiFormato(Opzioni& o, const std::string& formato) {
     o.formati.push_back(formato);
-    return std::any_of(std::begin(forme), std::end(forme),
-                       [&](const Forma& forma) { return formato == forma.nome; });
+    return std::any_of(std::begin(formatiPossibili), std::end(formatiPossibili),
+                       [&](const Formato& possibile) { return formato == possibile.nome; });
 }
 
 }  // namespace
 
-RigaComando tutto() {
+RigaComando comandoTutto() {
     Opzione formati = {
         {"--formati", "--formats"}, "formati dei disegni", leggiFormato, uguali("pdf,dxf,svg,png")};
     formati.predefinito = "[pdf,dxf]";

@@ -21,7 +21,7 @@ int esegui(const Opzioni& opzioni, analysis::GuardiaRisultati& guardia, Esito& e
 
 }  // namespace
 
-RigaComando calcola() {
+RigaComando comandoCalcola() {
     return {{"calcola", "calculate"},
             "esegue il calcolo per fasi e mostra una riga per fase",
             insieme({opzioniCalcolo(),

@@ -29,7 +29,7 @@ int esegui(const Opzioni& opzioni, analysis::GuardiaRisultati&, Esito& esito) {
 
 }  // namespace
 
-RigaComando verifica() {
+RigaComando comandoVerifica() {
     RigaComando riga = {{"verifica", "check"},
                         "dice che cosa manca o è strano nel progetto, senza scrivere risultati",
                         opzioniModello(),

@@ -4,8 +4,8 @@ namespace korven::batch {
 
 const std::vector<RigaComando>& comandi() {
     static const std::vector<RigaComando> tutti = {
-        calcola(), relazione(),    verifica(),  diagramma(),
-        sezione(), stratigrafia(), campiture(), tutto(),
+        comandoCalcola(), comandoRelazione(),    comandoVerifica(),  comandoDiagramma(),
+        comandoSezione(), comandoStratigrafia(), comandoCampiture(), comandoTutto(),
     };
     return tutti;
 }

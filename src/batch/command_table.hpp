@@ -7,14 +7,14 @@
 namespace korven::batch {
 
 // The rows of the commands, each in the file of its own.
-[[nodiscard]] RigaComando calcola();
-[[nodiscard]] RigaComando relazione();
-[[nodiscard]] RigaComando verifica();
-[[nodiscard]] RigaComando diagramma();
-[[nodiscard]] RigaComando sezione();
-[[nodiscard]] RigaComando stratigrafia();
-[[nodiscard]] RigaComando campiture();
-[[nodiscard]] RigaComando tutto();
+[[nodiscard]] RigaComando comandoCalcola();
+[[nodiscard]] RigaComando comandoRelazione();
+[[nodiscard]] RigaComando comandoVerifica();
+[[nodiscard]] RigaComando comandoDiagramma();
+[[nodiscard]] RigaComando comandoSezione();
+[[nodiscard]] RigaComando comandoStratigrafia();
+[[nodiscard]] RigaComando comandoCampiture();
+[[nodiscard]] RigaComando comandoTutto();
 
 /// All commands of korven32c, in the order of the help.
 [[nodiscard]] const std::vector<RigaComando>& comandi();

@@ -48,7 +48,7 @@ Opzione tipo() {
 
 }  // namespace
 
-RigaComando diagramma() {
+RigaComando comandoDiagramma() {
     const Opzione fase = {{"--fase", "--stage"},
                           "fase da disegnare; 0 per tutte",
                           Conta{0, project::massimoFasi, [](Opzioni& o) -> int& { return o.fase; }},

@@ -17,7 +17,7 @@ int esegui(const Opzioni& opzioni, analysis::GuardiaRisultati&, Esito& esito) {
 
 }  // namespace
 
-RigaComando campiture() {
+RigaComando comandoCampiture() {
     RigaComando riga = {{"campiture", "hatches"},
                         "disegna i campioni di tutte le campiture",
                         insieme({opzioniComuni(), opzioniDisegno()}),

@@ -20,12 +20,12 @@ int esegui(const Opzioni& opzioni, analysis::GuardiaRisultati& guardia, Esito& e
         const AmbienteDisegno ambiente(opzioni.relazione.dipinte());
         controllaUscite(opzioni.relazione);
         CorsaConsole corsa(opzioni, guardia, esito);
-        if (!scriviRelazione(opzioni.relazione, corsa, esito)) return nonEseguito;
+        if (!produciRelazione(opzioni.relazione, corsa, esito)) return nonEseguito;
         return corsa.concludi();
     });
 }
 
-std::vector<Opzione> forme() {
+std::vector<Opzione> formati() {
     return {
         {uguali("--txt"), "scrive anche il testo semplice",
          [](Opzioni& o) { o.relazione.testo = true; }},
@@ -49,10 +49,10 @@ std::vector<Opzione> forme() {
 
 }  // namespace
 
-RigaComando relazione() {
+RigaComando comandoRelazione() {
     return {{"relazione", "report"},
             "esegue il calcolo e scrive la relazione (TAB)",
-            insieme({opzioniCalcolo(), forme()}),
+            insieme({opzioniCalcolo(), formati()}),
             esegui};
 }
 

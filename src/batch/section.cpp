@@ -19,7 +19,7 @@ int esegui(const Opzioni& opzioni, analysis::GuardiaRisultati&, Esito& esito) {
 
 }  // namespace
 
-RigaComando sezione() {
+RigaComando comandoSezione() {
     RigaComando riga = {{"sezione", "section"},
                         "disegna la sezione strutturale",
                         insieme({opzioniProgetto(), opzioniDisegno()}),

@@ -38,7 +38,7 @@ Opzione foglio() {
 
 }  // namespace
 
-RigaComando stratigrafia() {
+RigaComando comandoStratigrafia() {
     RigaComando riga = {{"stratigrafia", "log"},
                         "disegna la colonna stratigrafica",
                         insieme({opzioniProgetto(), opzioniDisegno(), {foglio()}}),

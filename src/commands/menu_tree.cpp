@@ -129,7 +129,7 @@ constexpr VoceMenu voci[] = {
 
 std::span<const VoceMenu> albero() { return voci; }
 
-const VoceMenu& voce(std::string_view nome) {
+const VoceMenu& voceMenu(std::string_view nome) {
     const auto* trovata = std::find_if(std::begin(voci), std::end(voci),
                                        [nome](const auto& v) { return v.nome == nome; });
     assert(trovata != std::end(voci));

@@ -27,7 +27,7 @@ struct VoceMenu {
 [[nodiscard]] std::span<const VoceMenu> albero();
 
 /// The item of a name, which lives as long as the program. @pre there is one: asserted
-[[nodiscard]] const VoceMenu& voce(std::string_view nome);
+[[nodiscard]] const VoceMenu& voceMenu(std::string_view nome);
 
 /// True for an item that opens a menu: the next one lies deeper.
 [[nodiscard]] bool apreMenu(const VoceMenu& voce);

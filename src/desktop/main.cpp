@@ -71,7 +71,7 @@ commands::FormeProgramma forme(shell::Menu1& finestra, base::Dialogo& dialogo,
 int sessione(shell::Applicazione& applicazione, shell::DialogoQt& dialogo,
              const std::string& argomento) {
     commands::scegliCartellaProgramma();
-    if (!commands::iniziaLingua({.dialogo = dialogo, .scegli = shell::scegliLingua})) return 0;
+    if (!commands::iniziaLingua({.dialogo = dialogo, .scegli = shell::chiediLingua})) return 0;
     traduciQt(applicazione);
 
     QApplication::setWindowIcon(QIcon(shell::qt(base::cartellaEseguibile() + "/korven32.svg")));
@@ -93,7 +93,7 @@ int sessione(shell::Applicazione& applicazione, shell::DialogoQt& dialogo,
     QTimer::singleShot(0, &finestra, [&] {
         commands::avvia(argomento, programma.documento(),
                         {.leggiMaschere = [&] { commands::leggiDatiProgramma(maschere); },
-                         .saluta = [&] { finestra.esegui(commands::voce("about")); }});
+                         .saluta = [&] { finestra.esegui(commands::voceMenu("about")); }});
     });
     return applicazione.gira();
 }

@@ -62,8 +62,8 @@ class Ripresa {
         const auto& profondita = *colonne_.front();
         for (int i = 1; i <= righe - 1; ++i)
             for (int j = 1; j <= righe - i; ++j)
-                if (project::numero(dati_, profondita, j) >
-                    project::numero(dati_, profondita, j + 1))
+                if (project::numeroConservato(dati_, profondita, j) >
+                    project::numeroConservato(dati_, profondita, j + 1))
                     scambia(j, j + 1);
     }
 
@@ -191,7 +191,7 @@ bool riprendiParatia(DatiProgetto& dati, const Testi& testi) {
         const std::string testo = i < testi.size() ? testi[i] : std::string();
         if (stesso(testo, testoMostrato(dati, campo))) continue;
         const double valore = project::conservato(campo, letto(testo));
-        diversa = diversa || valore != project::numero(dati, campo);
+        diversa = diversa || valore != project::numeroConservato(dati, campo);
         dati.*std::get<double DatiProgetto::*>(campo.membro) = valore;
     }
     return diversa;

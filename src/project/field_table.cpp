@@ -221,7 +221,7 @@ bool colonna(const Campo& campo) {
     return std::visit([]<class Record, class T>(T Record::*) { return eTabella<T>; }, campo.membro);
 }
 
-double numero(const DatiProgetto& dati, const Campo& campo, int riga) {
+double numeroConservato(const DatiProgetto& dati, const Campo& campo, int riga) {
     double trovato = 0;
     conValore(dati, campo, riga, [&trovato](const auto& valore) {
         using Valore = std::remove_cvref_t<decltype(valore)>;
@@ -231,7 +231,7 @@ double numero(const DatiProgetto& dati, const Campo& campo, int riga) {
 }
 
 double mostrato(const DatiProgetto& dati, const Campo& campo, int riga) {
-    return mostrato(campo, numero(dati, campo, riga));
+    return mostrato(campo, numeroConservato(dati, campo, riga));
 }
 
 }  // namespace korven::project

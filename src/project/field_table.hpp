@@ -107,7 +107,7 @@ void conValore(Dati& dati, const Campo& campo, int riga, Visita visita) {
 }
 
 /// The stored number of a field, 0 for one that is none. @pre `riga` is one of its rows
-[[nodiscard]] double numero(const DatiProgetto& dati, const Campo& campo, int riga = 1);
+[[nodiscard]] double numeroConservato(const DatiProgetto& dati, const Campo& campo, int riga = 1);
 
 /// The number in the unit that people see.
 [[nodiscard]] inline double mostrato(const Campo& campo, double conservato) {

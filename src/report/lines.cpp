@@ -63,7 +63,7 @@ void RigheRelazione::valori(const project::DatiProgetto& dati,
         if (campo.codici.empty())
             numeri.push_back(mostrato(dati, campo, numero));
         else
-            parola = vocePrevista(campo, project::numero(dati, campo, numero));
+            parola = vocePrevista(campo, project::numeroConservato(dati, campo, numero));
     }
     valori(numeri, parola);
 }

@@ -58,9 +58,9 @@ std::vector<std::string> stranezzeTitolo(std::size_t riga, const std::vector<std
             traduttore("comincia con #: la relazione la prende per un comando, non la stampa e può "
                        "finire lì; farla cominciare con un altro segno"));
     if (const auto ci = caratteriNelFoglio(riga, testo); ci < base::numeroCaratteri(testo))
-        trovate.push_back(
-            conValore(traduttore("nei disegni esce dal foglio: numero di caratteri che ci stanno"),
-                      static_cast<double>(ci)));
+        trovate.push_back(conValoreTraParentesi(
+            traduttore("nei disegni esce dal foglio: numero di caratteri che ci stanno"),
+            static_cast<double>(ci)));
     if (siSovrappongono(riga - 1, righe) || siSovrappongono(riga, righe))
         trovate.push_back(
             traduttore("nella stratigrafia si sovrappone alla riga vicina: lasciare una riga vuota "

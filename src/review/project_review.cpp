@@ -38,7 +38,7 @@ void controlloCodici(const DatiProgetto& dati, ElencoRilievi& elenco) {
         const auto noti = project::campo(membro).codici;
         if (std::none_of(noti.begin(), noti.end(),
                          [valore](const auto& codice) { return codice.valore == valore; }))
-            elenco.avviso(campo(membro, valore) + ": " + traduttore(altrimenti));
+            elenco.avviso(campoEValore(membro, valore) + ": " + traduttore(altrimenti));
     }
 }
 

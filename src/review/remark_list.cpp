@@ -34,7 +34,7 @@ std::string rigaNumerata(std::string_view nome, int numero, std::string_view tes
     return base::traduttore(nome) + " " + std::to_string(numero) + ": " + base::traduttore(testo);
 }
 
-std::string conValore(std::string testo, double valore) {
+std::string conValoreTraParentesi(std::string testo, double valore) {
     return std::move(testo) + " (" + base::testoNumero(valore) + ")";
 }
 
@@ -46,7 +46,7 @@ std::string nomeCampo(const project::Campo& campo) {
 }
 
 // The shown value may be too large for a number; the review must still be able to tell it.
-std::string campo(const project::Membro& membro, double conservato) {
+std::string campoEValore(const project::Membro& membro, double conservato) {
     constexpr double massimo = std::numeric_limits<double>::max();
     const project::Campo& riga = project::campo(membro);
     return nomeCampo(riga) + " = " +
@@ -63,8 +63,9 @@ std::string nomeRiga(const project::Campo& colonna, int numero) {
 std::string rigaCampo(const project::DatiProgetto& dati, const project::Membro& colonna, int numero,
                       std::string_view testo) {
     const project::Campo& riga = project::campo(colonna);
-    return nomeRiga(riga, numero) + ": " + campo(colonna, project::numero(dati, riga, numero)) +
-           ": " + base::traduttore(testo);
+    return nomeRiga(riga, numero) + ": " +
+           campoEValore(colonna, project::numeroConservato(dati, riga, numero)) + ": " +
+           base::traduttore(testo);
 }
 
 bool intero(double valore) { return valore == std::floor(valore); }

@@ -27,14 +27,14 @@ class ElencoRilievi {
 [[nodiscard]] std::string rigaNumerata(std::string_view nome, int numero, std::string_view testo);
 
 /// A text followed by the value in question, in brackets.
-[[nodiscard]] std::string conValore(std::string testo, double valore);
+[[nodiscard]] std::string conValoreTraParentesi(std::string testo, double valore);
 
 /// What a remark calls a field: its caption and unit or, where a caption says too little or too
 /// much outside its form, what it is; translated.
 [[nodiscard]] std::string nomeCampo(const project::Campo& campo);
 
 /// "Gamma [kN/m³] = 18" for a stored 1.8.
-[[nodiscard]] std::string campo(const project::Membro& membro, double conservato);
+[[nodiscard]] std::string campoEValore(const project::Membro& membro, double conservato);
 
 /// "strato 3: Gamma [kN/m³] = 18: ...": a row of a column, by its stored number.
 /// @param testo  Italian key

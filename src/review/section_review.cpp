@@ -37,12 +37,13 @@ constexpr double scartoRigidezza = 3;
 void controlloRigidezza(const DatiProgetto& dati, ElencoRilievi& elenco) {
     const double EJ = dati.rigidezzaEJ;
     const double sezione = rigidezzaDallaSezione(dati.sezione);
-    const std::string scritta = campo(&DatiProgetto::rigidezzaEJ, EJ) + ": ";
+    const std::string scritta = campoEValore(&DatiProgetto::rigidezzaEJ, EJ) + ": ";
     if (EJ == 0 && sezione == 0) elenco.impedimento(traduttore(analysis::messaggioSenzaEJ));
     if (EJ < 0) elenco.avviso(scritta + traduttore("valore negativo"));
     if (EJ > 0 && sezione > 0 && (EJ > scartoRigidezza * sezione || sezione > scartoRigidezza * EJ))
-        elenco.avviso(conValore(scritta + traduttore("è lontana da quella della sezione"),
-                                project::inKilonewton(sezione)));
+        elenco.avviso(
+            conValoreTraParentesi(scritta + traduttore("è lontana da quella della sezione"),
+                                  project::inKilonewton(sezione)));
 }
 
 // The fields of one face of the diaphragm.
@@ -63,10 +64,10 @@ void controlloFaccia(const Faccia& faccia, const Sezione& s, ElencoRilievi& elen
         double copriferro, interasse, diametro;
     } f{s.*faccia.copriferro, s.*faccia.interasse, s.*faccia.diametro};
     const std::string dove = traduttore(faccia.nome) + ": ";
-    const std::string copriferro = dove + campo(faccia.copriferro, f.copriferro) + ": ";
+    const std::string copriferro = dove + campoEValore(faccia.copriferro, f.copriferro) + ": ";
     if ((f.interasse > 0) != (f.diametro > 0)) {
-        elenco.avviso(dove + campo(faccia.interasse, f.interasse) + ", " +
-                      campo(faccia.diametro, f.diametro) + ": " +
+        elenco.avviso(dove + campoEValore(faccia.interasse, f.interasse) + ", " +
+                      campoEValore(faccia.diametro, f.diametro) + ": " +
                       traduttore("la faccia conta come non armata"));
         return;
     }
@@ -84,8 +85,8 @@ void controlloFaccia(const Faccia& faccia, const Sezione& s, ElencoRilievi& elen
 
 void controlloStaffe(const Sezione& s, ElencoRilievi& elenco) {
     if ((s.armPassoStaffe > 0) == (s.armDiamStaffe > 0)) return;
-    elenco.avviso(campo(&Sezione::armDiamStaffe, s.armDiamStaffe) + ", " +
-                  campo(&Sezione::armPassoStaffe, s.armPassoStaffe) + ": " +
+    elenco.avviso(campoEValore(&Sezione::armDiamStaffe, s.armDiamStaffe) + ", " +
+                  campoEValore(&Sezione::armPassoStaffe, s.armPassoStaffe) + ": " +
                   traduttore("senza l'uno o l'altro non c'è verifica a taglio"));
 }
 
@@ -94,12 +95,12 @@ void controlloTaglio(const DatiProgetto& dati, ElencoRilievi& elenco) {
     if (!structure::staffePresenti(dati.sezione) || !structure::sezioneValida(dati.sezione)) return;
     if (analysis::vincoli(dati).incastroPiede)
         elenco.avviso(
-            campo(&DatiProgetto::vincoloPiede, dati.vincoloPiede) + ": " +
+            campoEValore(&DatiProgetto::vincoloPiede, dati.vincoloPiede) + ": " +
             traduttore("la verifica a taglio conta anche il valore al piede incastrato, che "
                        "non è un taglio della paratia e cresce con il numero di segmenti"));
     if (dati.forzaTesta != 0)
         elenco.avviso(
-            campo(&DatiProgetto::forzaTesta, dati.forzaTesta) + ": " +
+            campoEValore(&DatiProgetto::forzaTesta, dati.forzaTesta) + ": " +
             traduttore("la verifica a taglio conta anche il valore in testa, che è il doppio "
                        "della forza e non è il taglio della paratia"));
 }
@@ -111,12 +112,12 @@ void controlloMisure(const Sezione& s, ElencoRilievi& elenco) {
             break;
         case TipoSezione::pali:
             if (s.paliDiamEst > 0 && s.paliDiamInt >= s.paliDiamEst)
-                elenco.avviso(campo(&Sezione::paliDiamInt, s.paliDiamInt) + ": " +
+                elenco.avviso(campoEValore(&Sezione::paliDiamInt, s.paliDiamInt) + ": " +
                               traduttore("non è minore del diametro esterno"));
             break;
         case TipoSezione::paliArmati:
             if (s.armDiamPalo > 0 && structure::raggioFerri(structure::paliArmatiMm(s)) <= 0)
-                elenco.avviso(campo(&Sezione::armCopriferro, s.armCopriferro) + ": " +
+                elenco.avviso(campoEValore(&Sezione::armCopriferro, s.armCopriferro) + ": " +
                               traduttore(oltreMeta));
             controlloStaffe(s, elenco);
             break;
@@ -154,17 +155,17 @@ void controlloFerri(const DatiProgetto& dati, ElencoRilievi& elenco) {
     if (auto troppi = analysis::motivoFerri(dati); !troppi.empty())
         elenco.impedimento(std::move(troppi));
     else if (s.armNumLong < 1)
-        elenco.avviso(conValore(
+        elenco.avviso(conValoreTraParentesi(
             traduttore("numero di ferri memorizzato minore di 1: i pali contano come non armati "
                        "(scheda e relazione mostrano dieci volte il numero usato nel calcolo)"),
             s.armNumLong));
     else if (s.armNumLong >= ferriDaRelazione)
-        elenco.avviso(conValore(
+        elenco.avviso(conValoreTraParentesi(
             traduttore("numero di ferri memorizzato di 100 o più: sembra quello della relazione, "
                        "che mostra dieci volte il numero usato nel calcolo"),
             s.armNumLong));
     else if (!intero(s.armNumLong))
-        elenco.avviso(conValore(
+        elenco.avviso(conValoreTraParentesi(
             traduttore("numero di ferri memorizzato non intero (scheda e relazione mostrano dieci "
                        "volte il numero usato nel calcolo)"),
             s.armNumLong));

@@ -15,13 +15,13 @@ using project::Sezione;
 using structure::TipoSezione;
 
 // Of the section only the type in force is shown. `dove` names a face of the diaphragm.
-struct CampoSezione {
+struct CampoMostrato {
     TipoSezione tipo;
     double Sezione::*membro;
     std::string_view dove = {};
 };
 
-constexpr CampoSezione campiSezione[] = {
+constexpr CampoMostrato campiMostrati[] = {
     {TipoSezione::diaframma, &Sezione::spessoreDiaframma},
     {TipoSezione::diaframma, &Sezione::copriferroMonte, "lato monte"},
     {TipoSezione::diaframma, &Sezione::interasseMonte, "lato monte"},
@@ -77,7 +77,7 @@ void controlloMostrati(const DatiProgetto& dati, ElencoRilievi& elenco) {
     esaminaParatia(dati, elenco);
     esaminaTabella(dati, project::Parte::tiranti, elenco);
     esaminaTabella(dati, project::Parte::fasi, elenco);
-    for (const auto& [tipo, membro, dove] : campiSezione) {
+    for (const auto& [tipo, membro, dove] : campiMostrati) {
         if (tipo != structure::tipoSezione(dati.sezione)) continue;
         const Campo& c = project::campo(membro);
         const std::string faccia = dove.empty() ? std::string() : traduttore(dove) + ": ";

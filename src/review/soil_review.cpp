@@ -122,7 +122,7 @@ bool moduloNegativo(const analysis::StatoSuolo& suolo, int fase, int nNodi, doub
         const double peggiore = std::max(suolo.Ehm[i], suolo.Ehv[i]);
         if (!(peggiore > 0)) continue;
         elenco.avviso(luogo(fase, analysis::zNodo(i, passoNodi)) +
-                      campo(&DatiProgetto::ksStrato, -peggiore) + ": " +
+                      campoEValore(&DatiProgetto::ksStrato, -peggiore) + ": " +
                       traduttore("il terreno spinge invece di reagire, come accade con una "
                                  "tensione efficace negativa"));
         return true;
@@ -144,7 +144,7 @@ void controlloTerreno(const DatiProgetto& dati, ElencoRilievi& elenco) {
             if (c.dubbio(dati, j)) elenco.avviso(rigaCampo(dati, c.colonna, j, c.testo));
     for (const auto& c : controlliScalari)
         if (c.dubbio(dati))
-            elenco.avviso(campo(c.campo, dati.*c.campo) + ": " + traduttore(c.testo));
+            elenco.avviso(campoEValore(c.campo, dati.*c.campo) + ": " + traduttore(c.testo));
     controlloPiede(dati, elenco);
 }
 

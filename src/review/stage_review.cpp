@@ -49,11 +49,11 @@ void controlloTiranti(const DatiProgetto& dati, ElencoRilievi& elenco) {
         avvisaSe(pret < 0, &DatiProgetto::pretTirante, "valore negativo");
         if (dati.tipoTirante[j] != TipoTirante::soloTrazione &&
             dati.tipoTirante[j] != TipoTirante::trazioneCompressione)
-            elenco.avviso(
-                conValore(rigaNumerata("tirante", j,
-                                       "tipo non previsto: il calcolo lo fa agire solo a "
-                                       "trazione, la relazione lo dice a trazione e compressione"),
-                          dati.tipoTirante[j]));
+            elenco.avviso(conValoreTraParentesi(
+                rigaNumerata("tirante", j,
+                             "tipo non previsto: il calcolo lo fa agire solo a "
+                             "trazione, la relazione lo dice a trazione e compressione"),
+                dati.tipoTirante[j]));
     }
 }
 

@@ -45,11 +45,11 @@ TEST_F(ProgrammaTest, OpensTheHelpAtTheEntryOfEachHelpCommand) {
     forme.guida = [&](int contesto) { contesti.push_back(contesto); };
     forme.sommario = [&] { ++sommari; };
     auto p = programma(forme);
-    p.esegui(voce("AiutoFile"));
-    p.esegui(voce("AiutoEdit"));
-    p.esegui(voce("AiutoStampa"));
+    p.esegui(voceMenu("AiutoFile"));
+    p.esegui(voceMenu("AiutoEdit"));
+    p.esegui(voceMenu("AiutoStampa"));
     EXPECT_EQ(contesti, (std::vector<int>{24, 25, 26}));
-    p.esegui(voce("sommario"));
+    p.esegui(voceMenu("sommario"));
     EXPECT_EQ(sommari, 1);
     EXPECT_EQ(contesti.size(), 3u);
 }
@@ -59,9 +59,9 @@ TEST_F(ProgrammaTest, NamesTheOpenProjectInTheAboutBox) {
     FormeProgramma forme;
     forme.informazioni = [&](const std::string& riga) { righe.push_back(riga); };
     auto p = programma(forme);
-    p.esegui(voce("about"));
+    p.esegui(voceMenu("about"));
     project::fileCorrente = "/lavori/muro.kvd";
-    p.esegui(voce("about"));
+    p.esegui(voceMenu("about"));
     EXPECT_EQ(righe, (std::vector<std::string>{"", "File corrente: /LAVORI/MURO"}));
 }
 
@@ -71,8 +71,8 @@ TEST_F(ProgrammaTest, NeedsNoProjectForTheFormsOfTheDevices) {
     forme.editacfg = [&] { ++penne; };
     forme.impostaStampante = [&] { ++stampante; };
     auto p = programma(forme);
-    p.esegui(voce("configura"));
-    p.esegui(voce("PrintSetup"));
+    p.esegui(voceMenu("configura"));
+    p.esegui(voceMenu("PrintSetup"));
     EXPECT_EQ(penne, 1);
     EXPECT_EQ(stampante, 1);
     EXPECT_TRUE(dialogo.messaggi.empty());
@@ -82,8 +82,8 @@ TEST_F(ProgrammaTest, EndsOnlyThroughTheExit) {
     auto p = programma({});
     project::modificato = true;
     dialogo.risposte = {base::Risposta::annulla, base::Risposta::no};
-    EXPECT_FALSE(p.esegui(voce("fine")));
-    EXPECT_TRUE(p.esegui(voce("fine")));
+    EXPECT_FALSE(p.esegui(voceMenu("fine")));
+    EXPECT_TRUE(p.esegui(voceMenu("fine")));
 }
 
 TEST_F(ProgrammaTest, AsksAboutUnsavedWorkWhenTheSessionEndsOrRescuesIt) {
@@ -112,7 +112,7 @@ TEST_F(ProgrammaTest, StopsARunWhenTheSessionEndsInTheMiddleOfItAndKeepsWhatIsSa
     avanzamento.adOgniIterazione = [&](const analysis::StatoIterazione&) {
         if (finisce.size() < 2) finisce.push_back(p.fineSessione(true));
     };
-    p.esegui(voce("StampaVideo"));
+    p.esegui(voceMenu("StampaVideo"));
     EXPECT_EQ(finisce, (std::vector{false, true}));
     EXPECT_EQ(avanzamento.iterazioni, 2);  // cancel lets the run go on
     EXPECT_EQ(test::contenuto(muro), base::inCp1252(project::testoProgetto(project::Progetto)));
@@ -132,13 +132,13 @@ TEST_F(ProgrammaTest, TellsInTheStatusLineWhereARunWasStoppedUntilAnotherGoesThr
     avanzamento.adOgniIterazione = [](const analysis::StatoIterazione& stato) {
         if (stato.fase == 2) analysis::stopCalcolo = true;
     };
-    p.esegui(voce("StampaVideo"));
+    p.esegui(voceMenu("StampaVideo"));
     EXPECT_EQ(finestra.ultimoStato,
               "Calcolo interrotto (fase 2, 1 iterazioni): "
               "nessun nodo e nessun tirante cambia stato");
     EXPECT_TRUE(dialogo.messaggi.empty());
     avanzamento.adOgniIterazione = {};
-    p.esegui(voce("StampaVideo"));
+    p.esegui(voceMenu("StampaVideo"));
     EXPECT_EQ(finestra.ultimoStato, aperto);
 }
 
@@ -153,7 +153,7 @@ TEST_F(ProgrammaTest, TellsOfAnotherRunThatDoesNotLetGoOfTheResults) {
     base::Serratura altra;
     ASSERT_EQ(altra.prendi(base::nomeSerratura(base::nomeRisultati(muro))),
               base::Serratura::Esito::presa);
-    p.esegui(voce("StampaVideo"));
+    p.esegui(voceMenu("StampaVideo"));
     EXPECT_EQ(avanzamento.attese.size(), 200u);
     EXPECT_EQ(avanzamento.fineAttese, 1);
     EXPECT_EQ(avanzamento.aperture, 0);
@@ -162,7 +162,7 @@ TEST_F(ProgrammaTest, TellsOfAnotherRunThatDoesNotLetGoOfTheResults) {
               std::string::npos);
     EXPECT_EQ(dialogo.messaggi[0].icona, base::Icona::stop);
     altra.lascia();
-    p.esegui(voce("StampaVideo"));
+    p.esegui(voceMenu("StampaVideo"));
     EXPECT_EQ(avanzamento.aperture, 1);
 }
 
@@ -249,7 +249,7 @@ class MenuIntero : public ProgrammaTest {
         mostrate.clear();
         nomi.attuali.clear();
         nomi.proposte.clear();
-        if (p.esegui(voce(nome))) mostrate += "end";
+        if (p.esegui(voceMenu(nome))) mostrate += "end";
         if (!nomi.attuali.empty()) mostrate += "open dialog";
         if (!nomi.proposte.empty()) mostrate += "save dialog";
         return mostrate;

@@ -29,7 +29,7 @@ class Edita : public ::testing::Test {
         project::fileCorrente = "/lavori/muro.kvd";
     }
     void esegui(std::string_view comando) {
-        Programma(dialogo, nomi, finestra, avanzamento, maschere, forme).esegui(voce(comando));
+        Programma(dialogo, nomi, finestra, avanzamento, maschere, forme).esegui(voceMenu(comando));
     }
     // The form: notes what it was given and hands back what the test says, choices kept.
     void mostra(masks::Maschere& tutte) {

@@ -72,7 +72,7 @@ TEST(AlberoMenu, GivesEachItemItsEntryOfTheHelpContexts) {
 }
 
 TEST(AlberoMenu, FindsEachItemByANameOfItsOwn) {
-    for (const auto& v : albero()) EXPECT_EQ(&voce(v.nome), &v) << v.nome;
+    for (const auto& v : albero()) EXPECT_EQ(&voceMenu(v.nome), &v) << v.nome;
 }
 
 TEST(AlberoMenu, GivesEachItemEitherACommandOrAMenuBelowIt) {
@@ -97,11 +97,11 @@ TEST(ContestiGuida, AreATableOfTwoHundredAndOneEntries) {
 }
 
 TEST(VoceForma, IsThatOfTheMenuItemWhereOneOpensTheForm) {
-    EXPECT_EQ(help::voceForma("Editacfg"), voce("configura").guida);
-    EXPECT_EQ(help::voceForma("DefinEJ"), voce("EditRigidezza").guida);
-    EXPECT_EQ(help::voceForma("Form1"), voce("StampaVideo").guida);
-    EXPECT_EQ(help::voceForma("apri"), voce("FileApri").guida);
-    EXPECT_EQ(help::voceForma("salva"), voce("FileSalva").guida);
+    EXPECT_EQ(help::voceForma("Editacfg"), voceMenu("configura").guida);
+    EXPECT_EQ(help::voceForma("DefinEJ"), voceMenu("EditRigidezza").guida);
+    EXPECT_EQ(help::voceForma("Form1"), voceMenu("StampaVideo").guida);
+    EXPECT_EQ(help::voceForma("apri"), voceMenu("FileApri").guida);
+    EXPECT_EQ(help::voceForma("salva"), voceMenu("FileSalva").guida);
 }
 
 TEST(VoceForma, IsOneOfItsOwnForOtherForms) {

@@ -53,7 +53,7 @@ class Produci : public ::testing::Test {
         project::fileCorrente = muro;
     }
     void esegui(std::string_view comando) {
-        Programma(dialogo, nomi, finestra, avanzamento, maschere, forme).esegui(voce(comando));
+        Programma(dialogo, nomi, finestra, avanzamento, maschere, forme).esegui(voceMenu(comando));
     }
 
     test::AmbienteDocumento ambiente;

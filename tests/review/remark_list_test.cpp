@@ -22,8 +22,8 @@ TEST(Riga, NamesTheRowInFrontOfTheText) {
 }
 
 TEST(ConValore, PutsThePlainNumberInBrackets) {
-    EXPECT_EQ(conValore("codice", -0.5), "codice (-0.5)");
-    EXPECT_EQ(conValore("codice", 3), "codice (3)");
+    EXPECT_EQ(conValoreTraParentesi("codice", -0.5), "codice (-0.5)");
+    EXPECT_EQ(conValoreTraParentesi("codice", 3), "codice (3)");
 }
 
 TEST(Intero, IsTrueForWholeNumbersOfEitherSignAlone) {

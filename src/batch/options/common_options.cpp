@@ -39,7 +39,7 @@ Opzione opzioneUscita(bool obbligatoria) {
     return riga;
 }
 
-template <std::string FormeDisegno::*file>
+template <std::string FormatiDisegno::*file>
 bool leggiFile(Opzioni& o, const std::string& valore) {
     o.disegno.*file = valore;
     return percorsoAmmesso(valore);
@@ -129,10 +129,14 @@ std::vector<Opzione> opzioniCalcolo(bool cartellaObbligatoria) {
 
 std::vector<Opzione> opzioniDisegno() {
     return {
-        {uguali("--dxf"), "scrive il disegno in formato DXF", leggiFile<&FormeDisegno::dxf>, file},
-        {uguali("--pdf"), "scrive il disegno in formato PDF", leggiFile<&FormeDisegno::pdf>, file},
-        {uguali("--svg"), "scrive il disegno in formato SVG", leggiFile<&FormeDisegno::svg>, file},
-        {uguali("--png"), "scrive il disegno in formato PNG", leggiFile<&FormeDisegno::png>, file},
+        {uguali("--dxf"), "scrive il disegno in formato DXF", leggiFile<&FormatiDisegno::dxf>,
+         file},
+        {uguali("--pdf"), "scrive il disegno in formato PDF", leggiFile<&FormatiDisegno::pdf>,
+         file},
+        {uguali("--svg"), "scrive il disegno in formato SVG", leggiFile<&FormatiDisegno::svg>,
+         file},
+        {uguali("--png"), "scrive il disegno in formato PNG", leggiFile<&FormatiDisegno::png>,
+         file},
         opzioneRisoluzione(),
     };
 }
@@ -144,7 +148,7 @@ Opzione opzioneRisoluzione() {
                   [](Opzioni& o) -> int& { return o.disegno.dpi; }},
             numero,
             {},
-            std::to_string(FormeDisegno().dpi)};
+            std::to_string(FormatiDisegno().dpi)};
 }
 
 }  // namespace korven::batch

@@ -25,9 +25,9 @@ struct Opzioni {
     int maxIterazioni = 5000;
     analysis::Diagramma tipo = analysis::Diagramma::pressioni;  ///< of `diagramma`, which needs one
     int fase = 0;                      ///< `diagramma`: the stage to draw, 0 for all
-    FormeRelazione relazione;          ///< of `relazione`, besides the mark-up
-    FormeDisegno disegno;              ///< files of a drawing
-    std::vector<std::string> formati;  ///< `tutto`: forms of each drawing; empty: PDF and DXF
+    FormatiRelazione relazione;        ///< of `relazione`, besides the mark-up
+    FormatiDisegno disegno;            ///< files of a drawing
+    std::vector<std::string> formati;  ///< `tutto`: of each drawing; empty: PDF and DXF
 };
 
 }  // namespace korven::batch

@@ -2,7 +2,7 @@
 
 namespace korven::batch {
 
-std::vector<std::string> FormeDisegno::file() const {
+std::vector<std::string> FormatiDisegno::file() const {
     std::vector<std::string> tutti;
     for (const std::string* nome : {&dxf, &pdf, &svg, &png})
         if (!nome->empty()) tutti.push_back(*nome);

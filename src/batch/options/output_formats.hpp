@@ -9,7 +9,7 @@ namespace korven::batch {
 
 /// What a report leaves besides its mark-up. The names of plain text and word-processor file follow
 /// from that of the mark-up.
-struct FormeRelazione {
+struct FormatiRelazione {
     bool testo = false;
     bool documento = false;
     std::string pdf;        ///< file; empty: none
@@ -20,7 +20,7 @@ struct FormeRelazione {
 };
 
 /// The files that a drawing goes to; empty names are not written.
-struct FormeDisegno {
+struct FormatiDisegno {
     std::string dxf, pdf, svg, png;
     int dpi = 150;                    ///< resolution of the PNG file
     plot::Foglio foglio{21.0, 29.7};  ///< sheet [cm]: page of the PDF file, height of a log

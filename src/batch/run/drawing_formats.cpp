@@ -25,10 +25,10 @@
 
 namespace korven::batch {
 
-void controllaUscite(const FormeDisegno& forme) {
+void controllaUscite(const FormatiDisegno& formati) {
     const std::string& progetto = project::fileCorrente;
     const std::string risultati = progetto.empty() ? "" : base::nomeRisultati(progetto);
-    const auto file = forme.file();
+    const auto file = formati.file();
     for (std::size_t i = 0; i < file.size(); ++i) {
         project::controllaUscita(file[i], risultati);
         for (std::size_t j = 0; j < i; ++j)
@@ -75,20 +75,20 @@ AmbienteDisegno::~AmbienteDisegno() {
     plot::statoPlot.sorveglia = nullptr;
 }
 
-void scriviDisegno(const FormeDisegno& forme, Esito& esito) {
-    if (!forme.dxf.empty()) plot::plotDxf(forme.dxf);
-    if (!forme.pdf.empty()) device::scriviPdf(forme.pdf, forme.foglio);
-    if (!forme.svg.empty()) device::scriviSvg(forme.svg);
-    if (!forme.png.empty()) device::scriviPng(forme.png, forme.dpi);
-    for (const std::string& file : forme.file()) esito.fileScritti.push_back(file);
+void scriviDisegno(const FormatiDisegno& formati, Esito& esito) {
+    if (!formati.dxf.empty()) plot::plotDxf(formati.dxf);
+    if (!formati.pdf.empty()) device::scriviPdf(formati.pdf, formati.foglio);
+    if (!formati.svg.empty()) device::scriviSvg(formati.svg);
+    if (!formati.png.empty()) device::scriviPng(formati.png, formati.dpi);
+    for (const std::string& file : formati.file()) esito.fileScritti.push_back(file);
 }
 
-int disegna(const FormeDisegno& forme, Esito& esito, const std::function<bool()>& disegno) {
-    controllaUscite(forme);
+int disegna(const FormatiDisegno& formati, Esito& esito, const std::function<bool()>& disegno) {
+    controllaUscite(formati);
     const Interruzioni interruzioni;
-    const AmbienteDisegno ambiente(forme.dipinte());
+    const AmbienteDisegno ambiente(formati.dipinte());
     if (!disegno()) return nonEseguito;
-    scriviDisegno(forme, esito);
+    scriviDisegno(formati, esito);
     return fatto;
 }
 

@@ -53,12 +53,12 @@ void stampa(const std::string& nome, base::Dialogo& dialogo, const Esito& esito)
     markup::printReport(esito.fileRelazione, *pagine, dialogo);
 }
 
-void scriviForme(const FormeRelazione& forme, base::Dialogo& dialogo, Esito& esito) {
-    if (forme.testo && !interrotto())
+void scriviFormati(const FormatiRelazione& formati, base::Dialogo& dialogo, Esito& esito) {
+    if (formati.testo && !interrotto())
         annota(commands::scriviTesto(esito.fileRelazione), esito.fileTesto, esito);
-    if (forme.documento && !interrotto()) scriviDocumento(esito);
-    if (!forme.pdf.empty() && !interrotto()) scriviPdf(forme.pdf, dialogo, esito);
-    if (!forme.stampante.empty() && !interrotto()) stampa(forme.stampante, dialogo, esito);
+    if (formati.documento && !interrotto()) scriviDocumento(esito);
+    if (!formati.pdf.empty() && !interrotto()) scriviPdf(formati.pdf, dialogo, esito);
+    if (!formati.stampante.empty() && !interrotto()) stampa(formati.stampante, dialogo, esito);
 }
 
 }  // namespace
@@ -70,27 +70,27 @@ void avvisaPosto() {
               << ": " << base::nomeRelazione(risultati) << '\n';
 }
 
-void controllaUscite(const FormeRelazione& forme) {
+void controllaUscite(const FormatiRelazione& formati) {
     const auto file = fileDelProgetto();
-    if (!forme.pdf.empty())
-        for (const auto& altro : file) project::controllaUscita(forme.pdf, altro);
+    if (!formati.pdf.empty())
+        for (const auto& altro : file) project::controllaUscita(formati.pdf, altro);
     // Two of these become one file only through links; the project the run looks at itself.
-    const bool scritti[] = {true, true, forme.testo, forme.documento};
+    const bool scritti[] = {true, true, formati.testo, formati.documento};
     for (std::size_t i = 1; i < file.size(); ++i)
         for (std::size_t j = 0; j < i; ++j)
             if (scritti[i] && scritti[j]) project::controllaCoppia(file[i], file[j]);
-    if (!forme.stampante.empty()) device::controllaStampante(forme.stampante);
+    if (!formati.stampante.empty()) device::controllaStampante(formati.stampante);
 }
 
-bool scriviRelazione(const FormeRelazione& forme, CorsaConsole& corsa, Esito& esito) {
+bool produciRelazione(const FormatiRelazione& formati, CorsaConsole& corsa, Esito& esito) {
     // Not every value appears in every report, but no project is right with one.
     if (!review::mostrabile(project::Progetto)) throw base::ErroreValore();
-    commands::UscitaRelazione uscita(true, forme.testo, forme.documento);
+    commands::UscitaRelazione uscita(true, formati.testo, formati.documento);
     if (!corsa.esegui(analysis::relazione, uscita)) return false;
     annotaRisultati(esito);
     esito.fileRelazione = uscita.relazione();
     esito.fileScritti.push_back(esito.fileRelazione);
-    scriviForme(forme, corsa.dialogo(), esito);
+    scriviFormati(formati, corsa.dialogo(), esito);
     return true;
 }
 

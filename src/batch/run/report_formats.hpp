@@ -14,12 +14,13 @@ void avvisaPosto();
 /// be lost, outputs that a link would make one, and a printer that the system does not know.
 /// @pre an AmbienteDisegno that paints lives, if pages are painted
 /// @throws base::ErroreFile that names both files, or the printer
-void controllaUscite(const FormeRelazione& forme);
+void controllaUscite(const FormatiRelazione& formati);
 
 /// Runs the analysis, writes the report and all that was asked for besides, and names it in the
 /// outcome. An interrupt keeps what was not begun from being written.
 /// @return false when the run was refused, found singular or stopped
 /// @throws base::ErroreFile if a file can't be written, or a printer fails
-[[nodiscard]] bool scriviRelazione(const FormeRelazione& forme, CorsaConsole& corsa, Esito& esito);
+[[nodiscard]] bool produciRelazione(const FormatiRelazione& formati, CorsaConsole& corsa,
+                                    Esito& esito);
 
 }  // namespace korven::batch

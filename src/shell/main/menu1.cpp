@@ -70,7 +70,8 @@ Menu1::Menu1() {
     immagine_ = new QuadroParatia(this);
     immagine_->setObjectName("Image1");
     setCentralWidget(immagine_);
-    connect(immagine_, &QuadroParatia::premuta, this, [this] { esegui(commands::voce("about")); });
+    connect(immagine_, &QuadroParatia::premuta, this,
+            [this] { esegui(commands::voceMenu("about")); });
     stato_ = new EtichettaAccorciata(this);
     stato_->setObjectName("stato");
     stato_->mostra(tradotto("Nessun progetto aperto"));
@@ -136,7 +137,7 @@ void Menu1::titolo(const std::string& testo) { setWindowTitle(qt(testo)); }
 void Menu1::stato(const std::string& testo) { stato_->mostra(qt(testo)); }
 
 void Menu1::closeEvent(QCloseEvent* evento) {
-    if (!salutata_ && programma_ != nullptr && !programma_->esegui(commands::voce("fine"))) {
+    if (!salutata_ && programma_ != nullptr && !programma_->esegui(commands::voceMenu("fine"))) {
         evento->ignore();
         return;
     }

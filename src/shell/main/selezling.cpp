@@ -54,7 +54,7 @@ Selezling::Selezling(const std::vector<int>& codici, QWidget* genitore) : QDialo
     fila->addStretch();
 }
 
-int scegliLingua(const std::vector<int>& codici) {
+int chiediLingua(const std::vector<int>& codici) {
     Selezling forma(codici);
     forma.exec();
     return forma.scelta();

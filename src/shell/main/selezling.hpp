@@ -21,6 +21,6 @@ class Selezling : public QDialog {
 };
 
 /// Shows the form. @return the code chosen, 0 when it was closed without
-[[nodiscard]] int scegliLingua(const std::vector<int>& codici);
+[[nodiscard]] int chiediLingua(const std::vector<int>& codici);
 
 }  // namespace korven::shell

@@ -63,7 +63,7 @@ DefinEJ::DefinEJ(project::Sezione& sezione, bool& modificato, QWidget* padre)
     : QDialog(padre), modello_(sezione, modificato) {
     setObjectName(QStringLiteral("DefinEJ"));
     setWindowTitle(tradotto("Calcolo di EJ e verifica strutturale"));
-    setProperty("contestoGuida", help::contestoGuida(commands::voce("EditRigidezza").guida));
+    setProperty("contestoGuida", help::contestoGuida(commands::voceMenu("EditRigidezza").guida));
     auto* colonna = new QVBoxLayout(this);
     area_ = new ParteScorrevole(fareTutto(), this);
     colonna->addWidget(area_, 1);

@@ -9,9 +9,9 @@ namespace {
 using test::contenuto;
 using test::dice;
 
-class FormeRelazioneTest : public test::BancoConsole {};
+class FormatiRelazioneTest : public test::BancoConsole {};
 
-TEST_F(FormeRelazioneTest, ComeInEveryFormAskedFor) {
+TEST_F(FormatiRelazioneTest, ComeInEveryFormAskedFor) {
     const auto esito = esegui("relazione", {"--txt", "--doc", "--pdf", cartella / "r.pdf"});
     EXPECT_EQ(esito.codice, 0) << esito.errori;
     EXPECT_EQ(nomi(), "muro.OUT muro.TAB muro.doc muro.kvd muro.txt r.pdf ");
@@ -21,12 +21,12 @@ TEST_F(FormeRelazioneTest, ComeInEveryFormAskedFor) {
         EXPECT_TRUE(dice(esito.uscita, "File scritto: " + cartella / nome)) << esito.uscita;
 }
 
-TEST_F(FormeRelazioneTest, AreTheMarkupAloneWithoutAnOption) {
+TEST_F(FormatiRelazioneTest, AreTheMarkupAloneWithoutAnOption) {
     EXPECT_EQ(esegui("relazione").codice, 0);
     EXPECT_EQ(nomi(), "muro.OUT muro.TAB muro.kvd ");
 }
 
-TEST_F(FormeRelazioneTest, ReplaceThoseOfAnEarlierRunWithoutAQuestion) {
+TEST_F(FormatiRelazioneTest, ReplaceThoseOfAnEarlierRunWithoutAQuestion) {
     test::metti(cartella / "muro.doc", "di prima");
     test::metti(cartella / "r.pdf", "di prima");
     EXPECT_EQ(esegui("relazione", {"--doc", "--pdf", cartella / "r.pdf"}).codice, 0);
@@ -34,7 +34,7 @@ TEST_F(FormeRelazioneTest, ReplaceThoseOfAnEarlierRunWithoutAQuestion) {
     EXPECT_TRUE(contenuto(cartella / "r.pdf").starts_with("%PDF"));
 }
 
-TEST_F(FormeRelazioneTest, AreNamedInTheAnswerForScripts) {
+TEST_F(FormatiRelazioneTest, AreNamedInTheAnswerForScripts) {
     const auto esito = esegui("relazione", {"--json", "--doc", "--pdf", cartella / "r.pdf"});
     const auto file = nlohmann::json::parse(esito.uscita)["file"];
     EXPECT_EQ(file["documento"], cartella / "muro.doc");
@@ -46,7 +46,7 @@ TEST_F(FormeRelazioneTest, AreNamedInTheAnswerForScripts) {
     EXPECT_TRUE(senza["pdf"].is_null());
 }
 
-TEST_F(FormeRelazioneTest, NeverTakeThePlaceOfTheProjectOrOfEachOther) {
+TEST_F(FormatiRelazioneTest, NeverTakeThePlaceOfTheProjectOrOfEachOther) {
     const std::string prima = contenuto(progetto);
     for (const char* nome : {"muro.kvd", "muro.OUT", "muro.TAB", "muro.txt", "muro.doc"}) {
         const auto esito = esegui("relazione", {"--pdf", cartella / nome});
@@ -57,7 +57,7 @@ TEST_F(FormeRelazioneTest, NeverTakeThePlaceOfTheProjectOrOfEachOther) {
     EXPECT_EQ(contenuto(progetto), prima);
 }
 
-TEST_F(FormeRelazioneTest, NeverMakeADocumentOfAProjectOfThatName) {
+TEST_F(FormatiRelazioneTest, NeverMakeADocumentOfAProjectOfThatName) {
     progetto = cartella / "muro.doc";
     scrivi(test::progettoSemplice());
     const std::string prima = contenuto(progetto);
@@ -65,7 +65,7 @@ TEST_F(FormeRelazioneTest, NeverMakeADocumentOfAProjectOfThatName) {
     EXPECT_EQ(contenuto(progetto), prima);
 }
 
-TEST_F(FormeRelazioneTest, TellOfAPrinterThatIsNotThereBeforeAnythingIsComputed) {
+TEST_F(FormatiRelazioneTest, TellOfAPrinterThatIsNotThereBeforeAnythingIsComputed) {
     // No print server at all, whatever this machine has.
     const test::Ambiente solo{.variabili = {{"CUPS_SERVER", cartella / "nessuno.sock"}}};
     const auto esito = esegui("relazione", {"--stampa", "Ufficio"}, solo);
@@ -76,7 +76,7 @@ TEST_F(FormeRelazioneTest, TellOfAPrinterThatIsNotThereBeforeAnythingIsComputed)
     EXPECT_TRUE(dice(inglese.errori, "printer not found")) << inglese.errori;
 }
 
-TEST_F(FormeRelazioneTest, ThatCannotBeWrittenAreTold) {
+TEST_F(FormatiRelazioneTest, ThatCannotBeWrittenAreTold) {
     const auto esito = esegui("relazione", {"--pdf", cartella / "manca/r.pdf"});
     EXPECT_EQ(esito.codice, 3);
     EXPECT_TRUE(dice(esito.errori, cartella / "manca/r.pdf")) << esito.errori;
@@ -84,7 +84,7 @@ TEST_F(FormeRelazioneTest, ThatCannotBeWrittenAreTold) {
     EXPECT_FALSE(std::filesystem::exists(cartella / "r.pdf")) << "whole or not at all";
 }
 
-TEST_F(FormeRelazioneTest, RunNoProgramOfTheFolderThatTheOptionNames) {
+TEST_F(FormatiRelazioneTest, RunNoProgramOfTheFolderThatTheOptionNames) {
     const test::CartellaProvvisoria altra;
     test::metti(altra / "outdoc", "#!/bin/sh\ntouch \"$0.corso\"\n");
     std::filesystem::permissions(altra / "outdoc", std::filesystem::perms::owner_all);
@@ -95,7 +95,7 @@ TEST_F(FormeRelazioneTest, RunNoProgramOfTheFolderThatTheOptionNames) {
 }
 
 // The converter is found beside the program alone; here there is none.
-TEST_F(FormeRelazioneTest, EndWithThreeWhenTheDocumentWasNotMade) {
+TEST_F(FormatiRelazioneTest, EndWithThreeWhenTheDocumentWasNotMade) {
     const std::string solo = cartella / "korven32c";
     std::filesystem::copy(KORVEN_CONSOLE, solo);
     const auto esito =
@@ -107,7 +107,7 @@ TEST_F(FormeRelazioneTest, EndWithThreeWhenTheDocumentWasNotMade) {
     EXPECT_FALSE(std::filesystem::exists(cartella / "muro.doc"));
 }
 
-TEST_F(FormeRelazioneTest, OfARefusedRunAreNotWritten) {
+TEST_F(FormatiRelazioneTest, OfARefusedRunAreNotWritten) {
     auto dati = test::progettoSemplice();
     dati.nFasi = 0;
     scrivi(dati);
@@ -115,7 +115,7 @@ TEST_F(FormeRelazioneTest, OfARefusedRunAreNotWritten) {
     EXPECT_EQ(nomi(), "muro.kvd ");
 }
 
-TEST_F(FormeRelazioneTest, OfAnEarlierRunAreNamedWhenThisOneFails) {
+TEST_F(FormatiRelazioneTest, OfAnEarlierRunAreNamedWhenThisOneFails) {
     ASSERT_EQ(esegui("tutto", {"--uscita", cartella.percorso(), "--formati", "dxf"}).codice, 0);
     auto dati = test::progettoSemplice();
     dati.nFasi = 0;
@@ -126,7 +126,7 @@ TEST_F(FormeRelazioneTest, OfAnEarlierRunAreNamedWhenThisOneFails) {
         EXPECT_TRUE(dice(esito.errori, cartella / nome)) << esito.errori;
 }
 
-TEST_F(FormeRelazioneTest, ComeAllWithTheDrawings) {
+TEST_F(FormatiRelazioneTest, ComeAllWithTheDrawings) {
     const auto esito = esegui("tutto", {"--json", "--uscita", cartella / "o", "--formati", "dxf"});
     EXPECT_EQ(esito.codice, 0) << esito.errori;
     const auto file = nlohmann::json::parse(esito.uscita)["file"];
@@ -136,7 +136,7 @@ TEST_F(FormeRelazioneTest, ComeAllWithTheDrawings) {
     EXPECT_TRUE(contenuto(cartella / "o/muro.doc").starts_with("PK"));
 }
 
-TEST_F(FormeRelazioneTest, AreWrongUsageWithoutANameForThem) {
+TEST_F(FormatiRelazioneTest, AreWrongUsageWithoutANameForThem) {
     EXPECT_EQ(esegui("relazione", {"--pdf"}).codice, 2);
     EXPECT_EQ(esegui("relazione", {"--stampa", "--json"}).codice, 2);
     EXPECT_EQ(esegui("calcola", {"--pdf", cartella / "r.pdf"}).codice, 2);

@@ -153,7 +153,7 @@ TEST_F(Menu1Test, LetsNobodyChooseACommandWhoseFormIsMissing) {
     EXPECT_TRUE(voce("EditFasi")->isEnabled());
     EXPECT_TRUE(voce("FileApri")->isEnabled());
     EXPECT_FALSE(voce("StampaVideo")->isEnabled());
-    finestra.esegui(commands::voce("StampaVideo"));
+    finestra.esegui(commands::voceMenu("StampaVideo"));
     EXPECT_TRUE(dialogo.messaggi.empty());
 }
 

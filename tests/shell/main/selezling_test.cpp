@@ -26,7 +26,7 @@ TEST(SelezlingTest, ReturnsTheLanguageOfTheButtonClicked) {
     const test::AllaProssimaFinestra<Selezling> scelta([](Selezling& forma) {
         QTest::mouseClick(forma.findChild<QToolButton*>("Picture3"), Qt::LeftButton);
     });
-    EXPECT_EQ(scegliLingua({5, 2, 1}), 2);
+    EXPECT_EQ(chiediLingua({5, 2, 1}), 2);
     EXPECT_TRUE(scelta.fatto);
 }
 
@@ -35,13 +35,13 @@ TEST(SelezlingTest, CanBeUsedFromTheKeyboard) {
         forma.findChild<QToolButton*>("Picture4")->setFocus();
         QTest::keyClick(forma.findChild<QToolButton*>("Picture4"), Qt::Key_Space);
     });
-    EXPECT_EQ(scegliLingua({5, 2, 1}), 1);
+    EXPECT_EQ(chiediLingua({5, 2, 1}), 1);
 }
 
 TEST(SelezlingTest, ReturnsNoneWhenItIsClosed) {
     const test::AllaProssimaFinestra<Selezling> chiude(
         [](Selezling& forma) { QTest::keyClick(&forma, Qt::Key_Escape); });
-    EXPECT_EQ(scegliLingua({5, 2, 1}), 0);
+    EXPECT_EQ(chiediLingua({5, 2, 1}), 0);
 }
 
 TEST(Bandiera, FillsItsSizeAtTheDensityOfTheScreen) {

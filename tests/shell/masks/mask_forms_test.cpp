@@ -60,7 +60,7 @@ class FormeDelleMaschere : public ::testing::Test {
             azione(*forma);
         });
         commands::Programma(dialogo, nomi, principale, avanzamento, maschere, forme)
-            .esegui(commands::voce(comando));
+            .esegui(commands::voceMenu(comando));
         EXPECT_TRUE(finestra.fatto);
     }
 
