@@ -12,11 +12,12 @@ namespace korven::analysis {
 /// no other run of these programs writes, removes or reads it.
 ///
 /// Held by whoever runs `CalcoloParatia` and writes its outputs, and let go with the object. The
-/// lock is a small file beside the result file (`base::Serratura`), since the result file itself is
-/// removed and made anew. Two guards of one program do not shut each other out: while an export
-/// waits for its converter the user may already ask for the next output. Where no lock can be had,
-/// in a folder that can't be written and on a file system without locks, a run goes on without: it
-/// then finds a read-only folder out by itself, and runs at the same time do not see one another.
+/// lock is a small file beside the result file (`base::Serratura`), since the result file itself
+/// is removed and made anew. Two guards of one program do not shut each other out: while an
+/// export waits for its converter the user may already ask for the next output. Where no lock can
+/// be had, in a folder that can't be written and on a file system without locks, a run goes on
+/// without one: it finds out by itself that a folder is read-only, and runs at the same time do
+/// not see one another.
 class GuardiaRisultati {
  public:
     /// Waiting for another run: so many times a pause of `Avanzamento::attendi`, 10 s in all.

@@ -5,7 +5,7 @@
 
 namespace korven::base {
 
-/// What a form says at once of a text that is taken for another number than it seems to say:
+/// What a form says at once of a text that is read as another number than it seems to name:
 /// "letto come 20" for "20,5", "20.5.7" and "20 m", and where a comma is to blame what the decimal
 /// sign is; in the language in force. A text without a number at its head, or with one beyond all
 /// numbers, is read as 0.

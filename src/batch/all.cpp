@@ -123,7 +123,7 @@ int esegui(const Opzioni& opzioni, analysis::GuardiaRisultati& guardia, Esito& e
         CorsaConsole corsa(opzioni, guardia, esito);
         if (!produciRelazione(relazione, corsa, esito)) return nonEseguito;
         esito.calcolo = results::leggiEsito();
-        // Whether anything was computed is for the first run to say: the others find its results.
+        // Only the first run tells whether anything was computed: the others find its results.
         const auto fasi = esito.fasi;
         const bool giaAggiornato = esito.giaAggiornato;
         std::size_t quale = 0;

@@ -77,7 +77,7 @@ void disegnaCampione(int numero, const plot::Riquadro& posto) {
     }
 }
 
-// How a code is made, in the place of the headings.
+// How a code is made: written where other drawings have their headings.
 base::Tabella<std::string, 6> spiegazioni() {
     using base::traduttore;
     base::Tabella<std::string, 6> righe;

@@ -65,7 +65,7 @@ struct Schizzo {
                                      const project::Sezione& sezione);
 
 /// What is written at a dimension: "c1 = 50" with the typed number, "c1" where that is 0. The bar
-/// count shows by its tenth what it calculates with: "n = 8/10 = 0.8".
+/// count shows, as its tenth, the number that the calculations use: "n = 8/10 = 0.8".
 [[nodiscard]] std::string scrittaQuota(std::size_t campo, const project::Sezione& sezione);
 
 }  // namespace korven::drawings

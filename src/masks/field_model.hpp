@@ -70,8 +70,8 @@ class ModelloCampi {
     /// @return true when the focus moved
     bool premi(Tasto tasto, base::Dialogo& dialogo);
 
-    /// What somebody who knows the fields has to say of a text, told by its place after the choices
-    /// and all texts; empty for nothing.
+    /// A note on one of the texts, from code that knows what the fields mean: takes the place of
+    /// the field, counted after the choices, and all texts; empty for no note.
     using Nota = std::function<std::string(std::size_t, const std::vector<std::string>&)>;
     void annota(Nota nota) { nota_ = std::move(nota); }
 

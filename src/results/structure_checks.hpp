@@ -22,9 +22,9 @@ struct ConfrontoMomenti {
     bool verificatoNeg = false;  ///< of no meaning without a negative moment
 };
 
-/// A positive moment stretches the excavated side, which is the bending pass of negative curvature:
-/// hence the sign and the crossing of the two resistances. Strict comparisons: a moment that just
-/// equals its resistance is not verified.
+/// A positive moment stretches the excavated side, which is bending of negative curvature: hence
+/// the sign and the crossing of the two resistances. Strict comparisons: a moment that just equals
+/// its resistance is not verified.
 [[nodiscard]] ConfrontoMomenti confrontaMomenti(const analysis::ChiusuraRisultati& chiusura);
 
 /// The bending check as the report shows it; nothing unless the section is defined.

@@ -58,7 +58,7 @@ class Box : public QMessageBox {
     }
 };
 
-// A box waits for its user with a plain pointer, whatever the program is at.
+// A box waits for its user with a plain pointer, whatever the program is doing.
 class PuntatorePerUnBox {
  public:
     explicit PuntatorePerUnBox(bool clessidra) : clessidra_(clessidra) {
@@ -77,7 +77,7 @@ class PuntatorePerUnBox {
 }  // namespace
 
 // The main form is disabled while the viewer is open: a box above it would bring it to the front,
-// over the window that the user is at.
+// in front of the window that the user is working in.
 QWidget* DialogoQt::genitore() const {
     QWidget* modale = QApplication::activeModalWidget();
     if (modale != nullptr) return modale;

@@ -16,6 +16,8 @@ namespace korven::structure {
 /// @param chi  curvature [1/mm], of the sign of k or 0
 /// @param Nd   design axial force [N], positive in compression
 /// @pre k is 1 or -1, and chi of its sign: asserted
+/// Source: bisection, Press et al., Numerical Recipes (1992), 9.1 (not looked up); the bracket and
+/// the tolerance are this program's own
 [[nodiscard]] double cercaDeformazione(const ModelloStrisce& modello, int k, double chi, double Nd);
 
 /// True when the strip forces balance the axial force within 1 N; false for a sum not finite.

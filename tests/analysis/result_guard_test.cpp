@@ -57,7 +57,7 @@ TEST_F(Guardia, HoldsTheResultFileFromTheComparisonBeyondTheOutput) {
         EXPECT_TRUE(spia.occupata);
         EXPECT_EQ(nomi(), ".korven-muro.OUT.lock muro.OUT ");
         CalcoloParatia(relazione, {banco.dialogo, banco.avanzamento, spia,
-                                   &mia});  // its own lock stands in no way
+                                   &mia});  // its own lock is in nobody's way
         EXPECT_TRUE(banco.avanzamento.attese.empty());
     }
     EXPECT_EQ(nomi(), "muro.OUT ");

@@ -21,7 +21,7 @@ using base::traduttore;
 
 const Gemelli aiuto{"--aiuto", "--help"}, versione{"--versione", "--version"};
 
-// Shows of twins the one of the language in use.
+// Shows, of two names, the one of the language in use.
 class Aiuto : public CLI::Formatter {
  public:
     void tace(const std::string& nome) { taciuti_.push_back(nome); }

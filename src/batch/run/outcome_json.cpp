@@ -78,7 +78,7 @@ Json calcolo(const Esito& esito) {
             {"fasi", fasi},
             {"momento_massimo_kNm", kNm(chiusura.mMaxTotale)},
             {"momento_minimo_kNm", kNm(chiusura.mMinTotale)},
-            // N mm to kN m; the pass of negative curvature resists the positive moment
+            // N mm to kN m; a positive moment is resisted by bending of negative curvature
             {"momento_resistente_positivo_kNm", arrotondato(-chiusura.mrd1 / 1e6)},
             {"momento_resistente_negativo_kNm", arrotondato(-chiusura.mrd2 / 1e6)},
             {"fattore_azioni", chiusura.fsAzioni},

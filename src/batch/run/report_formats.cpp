@@ -74,7 +74,7 @@ void controllaUscite(const FormatiRelazione& formati) {
     const auto file = fileDelProgetto();
     if (!formati.pdf.empty())
         for (const auto& altro : file) project::controllaUscita(formati.pdf, altro);
-    // Two of these become one file only through links; the project the run looks at itself.
+    // Only links can make one file of two of these. Whether one is the project the run checks.
     const bool scritti[] = {true, true, formati.testo, formati.documento};
     for (std::size_t i = 1; i < file.size(); ++i)
         for (std::size_t j = 0; j < i; ++j)

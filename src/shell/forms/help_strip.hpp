@@ -11,8 +11,8 @@ namespace korven::shell {
 /// for a note on what is being typed. A click, or the space bar, asks for the text in a box.
 class StrisciaAiuto : public QLabel {
  public:
-    /// The note has the room of one on a number (base/number_reading.hpp); a longer one makes the
-    /// strip grow while it is shown.
+    /// Above the text there is room for a note on a number (base/number_reading.hpp); a longer note
+    /// makes the strip grow while it is shown.
     /// @param testi    all that it will ever show, in lines where they have line breaks
     /// @param premuto  what a click does; may be empty
     StrisciaAiuto(const QStringList& testi, std::function<void()> premuto, QWidget* genitore);

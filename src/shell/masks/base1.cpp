@@ -117,7 +117,8 @@ QLineEdit* Base1::fareTesto(std::size_t campo, QWidget* genitore) {
     constexpr int bordi = 20;
     testo->setFixedWidth(std::min(carattere * static_cast<int>(modello_.larghezzaCaselle()) + bordi,
                                   screen()->availableSize().width() * 6 / 10));
-    // What a file brought and is too long is shown whole: it is told and cut when it is left.
+    // A text from a file that is too long is shown whole; it is cut, and told, on leaving the
+    // field.
     if (const auto limite = static_cast<int>(modello_.lunghezzaMassima(campo)); limite > 0)
         testo->setMaxLength(std::max(limite, static_cast<int>(testo->text().size())));
     if (modello_.numerica(campo)) testo->setAlignment(Qt::AlignRight);
@@ -222,12 +223,12 @@ bool Base1::eventFilter(QObject* oggetto, QEvent* evento) {
             case QEvent::KeyPress:
                 if (premuto(campo, *static_cast<QKeyEvent*>(evento))) return true;
                 break;
-            // The press that would have given the focus: the field that has it was not left.
+            // The field with the focus could not be left, so a press on another one does nothing.
             case QEvent::MouseButtonPress:
             case QEvent::MouseButtonDblClick:
                 if (campo != modello_.attivo()) return true;
                 break;
-            // Turned over a choice the wheel scrolls the fields, it changes no value unseen.
+            // Over a choice without the focus the wheel scrolls the form: no value changes unseen.
             case QEvent::Wheel:
                 if (static_cast<QWidget*>(oggetto)->hasFocus()) break;
                 evento->ignore();

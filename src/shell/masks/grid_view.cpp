@@ -26,8 +26,8 @@ using masks::Tasto;
 
 namespace {
 
-// Of a text that is being typed and has no room the end is shown. A text that is selected, as a box
-// leaves it that told its fault, is marked as in a line of text: it alone, not its whole cell.
+// Of a text without room its end is shown while it is typed. A text that is selected, as after a
+// box has told its fault, is marked as in a line of text: the text alone, not its whole cell.
 class Cella : public QStyledItemDelegate {
  public:
     Cella(const QTableView& griglia, const masks::ModelloGriglia& modello, const bool& scrivendo,
@@ -251,7 +251,7 @@ void VistaGriglia::mouseDoubleClickEvent(QMouseEvent* evento) {
     const QModelIndex indice = indexAt(evento->position().toPoint());
     if (evento->button() != Qt::LeftButton || !indice.isValid()) return;
     if (TabellaGriglia::posto(indice) != modello_.corrente())
-        return;  // was not left by the first click
+        return;  // the first click could not leave the cell
     modello_.apriEditore();
     aggiorna();
 }

@@ -16,8 +16,8 @@ class QWidget;
 namespace korven::shell {
 
 /// The viewer of the program. While it lives every drawing appears on the form `GRAFICA`, which is
-/// made by the first one; while that form is open the main form is disabled, which the window
-/// system can't close either then, and its closing brings the main form back.
+/// made by the first one. While that form is open the main form is disabled, and the window system
+/// can't close it either; when `GRAFICA` closes, the main form comes back.
 class VisoreDisegni : public QObject {
  public:
     /// All three are not owned and must outlive the viewer.
