@@ -17,7 +17,7 @@ WORDS = ("sabbia fine, limosa", "argilla \"grigia\"", "ghiaia  con ciottoli", "l
 
 
 def coded(rnd, codes, other=0.04):
-    """One of the codes, now and then a value that stands for none of them."""
+    """One of the codes, now and then a value that is none of them."""
     return float(rnd.choice((0, 7)) if rnd.random() < other else rnd.choice(codes))
 
 
