@@ -16,7 +16,7 @@ class PreviewList {
     virtual ~PreviewList() = default;
     /// Width of the window [points].
     [[nodiscard]] virtual double windowWidth() = 0;
-    /// Width of a text in the font of the list [points]. It is asked a dozen times for each cell,
+    /// Width of a text in the font of the list [points]. It is asked some six times for each cell,
     /// so it should be quick (character_widths.hpp).
     [[nodiscard]] virtual double textWidth(std::string_view text) = 0;
     virtual void addLine(std::string_view text) = 0;
