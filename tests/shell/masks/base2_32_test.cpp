@@ -289,7 +289,7 @@ TEST_F(FormaGriglia, InsertsARowInsideTheData) {
     EXPECT_TRUE(griglia().hasFocus());
     clic(5, 1);
     premi(2);
-    EXPECT_EQ(cella(3, 3), "due") << "nothing behind the data";
+    EXPECT_EQ(cella(3, 3), "due") << "nothing after the data";
 }
 
 TEST_F(FormaGriglia, InsertsNothingWhenTheLastRowIsFull) {
