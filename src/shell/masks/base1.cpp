@@ -117,7 +117,7 @@ QLineEdit* Base1::fareTesto(std::size_t campo, QWidget* genitore) {
     constexpr int bordi = 20;
     testo->setFixedWidth(std::min(carattere * static_cast<int>(modello_.larghezzaCaselle()) + bordi,
                                   screen()->availableSize().width() * 6 / 10));
-    // A text too long from a file is shown whole; leaving the field tells it and cuts the text.
+    // A text from a file may be too long: it is shown whole, then told and cut when it is left.
     if (const auto limite = static_cast<int>(modello_.lunghezzaMassima(campo)); limite > 0)
         testo->setMaxLength(std::max(limite, static_cast<int>(testo->text().size())));
     if (modello_.numerica(campo)) testo->setAlignment(Qt::AlignRight);
