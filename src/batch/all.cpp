@@ -10,6 +10,7 @@
 #include "base/translated_texts.hpp"
 #include "batch/command_table.hpp"
 #include "batch/options/common_options.hpp"
+#include "batch/run/command_ports.hpp"
 #include "batch/run/console_run.hpp"
 #include "batch/run/drawing_formats.hpp"
 #include "batch/run/failure.hpp"
@@ -114,13 +115,13 @@ void controllaTutte(const Opzioni& opzioni, const FormatiRelazione& relazione) {
     controllaNomi(tutte, {});
 }
 
-int esegui(const Opzioni& opzioni, analysis::GuardiaRisultati& guardia, Esito& esito) {
+int esegui(const Opzioni& opzioni, const PorteComando& porte, Esito& esito) {
     return calcolaConRilievi(opzioni, esito, [&]() -> int {
         avvisaPosto();
         const AmbienteDisegno ambiente(true);
         const FormatiRelazione relazione = formatiRelazione();
         controllaTutte(opzioni, relazione);
-        CorsaConsole corsa(opzioni, guardia, esito);
+        CorsaConsole corsa(opzioni, porte, esito);
         if (!produciRelazione(relazione, corsa, esito)) return nonEseguito;
         esito.calcolo = results::leggiEsito();
         // Only the first run tells whether anything was computed: the others find its results.
@@ -135,7 +136,7 @@ int esegui(const Opzioni& opzioni, analysis::GuardiaRisultati& guardia, Esito& e
             if (!tavola.diagramma && !tavola.disegna(esito))
                 codice = nonEseguito;  // the other drawings are made all the same
             else
-                scriviDisegno(formatiTavola(opzioni, tavola), esito);
+                scriviDisegno(formatiTavola(opzioni, tavola), porte.disco, esito);
         }
         esito.fasi = fasi;
         esito.giaAggiornato = giaAggiornato;

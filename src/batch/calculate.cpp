@@ -9,9 +9,9 @@ namespace korven::batch {
 
 namespace {
 
-int esegui(const Opzioni& opzioni, analysis::GuardiaRisultati& guardia, Esito& esito) {
+int esegui(const Opzioni& opzioni, const PorteComando& porte, Esito& esito) {
     return calcolaConRilievi(opzioni, esito, [&]() -> int {
-        CorsaConsole corsa(opzioni, guardia, esito);
+        CorsaConsole corsa(opzioni, porte, esito);
         commands::UscitaRelazione soloRisultati(false);
         if (!corsa.esegui(analysis::relazione, soloRisultati)) return nonEseguito;
         annotaRisultati(esito);

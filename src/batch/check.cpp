@@ -12,7 +12,7 @@ namespace korven::batch {
 
 namespace {
 
-int esegui(const Opzioni& opzioni, analysis::GuardiaRisultati&, Esito& esito) {
+int esegui(const Opzioni& opzioni, const PorteComando&, Esito& esito) {
     preparaProgetto(opzioni, esito);
     esito.rilievi = review::esaminaFile(opzioni.progetto, project::Progetto);
     // Every command that calculates writes a result file; only some write more.

@@ -12,6 +12,7 @@
 #include "batch/options/command_line.hpp"
 #include "batch/options/common_options.hpp"
 #include "batch/options/language_in_use.hpp"
+#include "batch/run/command_ports.hpp"
 #include "batch/run/failure.hpp"
 #include "commands/start/user_folder.hpp"
 
@@ -51,19 +52,19 @@ int versa(const std::string& testo, int codice) {
 }
 
 void lavora(const Opzioni& opzioni, const std::exception_ptr& senzaLingua,
-            analysis::GuardiaRisultati& guardia, Esito& esito) {
+            const PorteComando& porte, Esito& esito) {
     try {
         if (senzaLingua) std::rethrow_exception(senzaLingua);
-        esito.codice = opzioni.comando->esegui(opzioni, guardia, esito);
+        esito.codice = opzioni.comando->esegui(opzioni, porte, esito);
     } catch (const std::exception&) {
-        raccontaGuasto(guardia, esito);
+        raccontaGuasto(porte.guardia, esito);
     }
     if (esito.corsa && esito.codice != fatto) avvisaRelazioniRimaste(esito);
 }
 
 }  // namespace
 
-int programma(int argc, const char* const* argv) {
+int programma(int argc, const char* const* argv, const base::Disco& disco) {
     base::occupaCanaliChiusi();
     base::resistiAiTubiChiusi();
     std::signal(SIGXFSZ, SIG_IGN);  // a file at its size limit is a failed write like others
@@ -71,7 +72,7 @@ int programma(int argc, const char* const* argv) {
     // Wrong usage goes before a language that can't be had, which JSON must be able to tell.
     std::exception_ptr senzaLingua;
     try {
-        commands::scegliCartellaProgramma();
+        commands::scegliCartellaProgramma(disco);
         scegliLingua(valoreAnticipato(argc, argv, nomeOpzioneLingua()));
     } catch (const std::exception&) {
         senzaLingua = std::current_exception();
@@ -84,7 +85,7 @@ int programma(int argc, const char* const* argv) {
     esito.soloRilievi = opzioni->comando->soloRilievi;
     esito.progetto = opzioni->progetto;
     analysis::GuardiaRisultati guardia;
-    lavora(*opzioni, senzaLingua, guardia, esito);
+    lavora(*opzioni, senzaLingua, {guardia, disco}, esito);
     const std::string testo = resocontoAncheDiUnGuasto(*opzioni, guardia, esito);
     return versa(testo, esito.codice);
 }

@@ -4,6 +4,7 @@
 #include "analysis/diagrams.hpp"
 #include "batch/command_table.hpp"
 #include "batch/options/common_options.hpp"
+#include "batch/run/command_ports.hpp"
 #include "batch/run/console_run.hpp"
 #include "batch/run/drawing_formats.hpp"
 #include "batch/run/reviewed_run.hpp"
@@ -14,10 +15,10 @@ namespace korven::batch {
 
 namespace {
 
-int esegui(const Opzioni& opzioni, analysis::GuardiaRisultati& guardia, Esito& esito) {
+int esegui(const Opzioni& opzioni, const PorteComando& porte, Esito& esito) {
     return calcolaConRilievi(opzioni, esito, [&]() -> int {
-        return disegna(opzioni.disegno, esito, [&] {
-            CorsaConsole corsa(opzioni, guardia, esito);
+        return disegna(opzioni.disegno, porte.disco, esito, [&] {
+            CorsaConsole corsa(opzioni, porte, esito);
             commands::UscitaDiagramma uscita;
             if (!corsa.esegui(opzioni.tipo, uscita)) return false;
             annotaRisultati(esito);

@@ -1,5 +1,6 @@
 #include "batch/command_table.hpp"
 #include "batch/options/common_options.hpp"
+#include "batch/run/command_ports.hpp"
 #include "batch/run/drawing_formats.hpp"
 #include "drawings/hatch_samples.hpp"
 
@@ -8,8 +9,8 @@ namespace korven::batch {
 namespace {
 
 // The one command without a project.
-int esegui(const Opzioni& opzioni, analysis::GuardiaRisultati&, Esito& esito) {
-    return disegna(opzioni.disegno, esito, [] {
+int esegui(const Opzioni& opzioni, const PorteComando& porte, Esito& esito) {
+    return disegna(opzioni.disegno, porte.disco, esito, [] {
         drawings::disegnaCampionario();
         return true;
     });

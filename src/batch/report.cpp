@@ -14,12 +14,12 @@ namespace korven::batch {
 
 namespace {
 
-int esegui(const Opzioni& opzioni, analysis::GuardiaRisultati& guardia, Esito& esito) {
+int esegui(const Opzioni& opzioni, const PorteComando& porte, Esito& esito) {
     return calcolaConRilievi(opzioni, esito, [&]() -> int {
         avvisaPosto();
         const AmbienteDisegno ambiente(opzioni.relazione.dipinte());
         controllaUscite(opzioni.relazione);
-        CorsaConsole corsa(opzioni, guardia, esito);
+        CorsaConsole corsa(opzioni, porte, esito);
         if (!produciRelazione(opzioni.relazione, corsa, esito)) return nonEseguito;
         return corsa.concludi();
     });

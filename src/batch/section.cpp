@@ -1,5 +1,6 @@
 #include "batch/command_table.hpp"
 #include "batch/options/common_options.hpp"
+#include "batch/run/command_ports.hpp"
 #include "batch/run/drawing_formats.hpp"
 #include "batch/run/reviewed_run.hpp"
 #include "drawings/section_drawing.hpp"
@@ -9,9 +10,9 @@ namespace korven::batch {
 
 namespace {
 
-int esegui(const Opzioni& opzioni, analysis::GuardiaRisultati&, Esito& esito) {
+int esegui(const Opzioni& opzioni, const PorteComando& porte, Esito& esito) {
     preparaProgetto(opzioni, esito);
-    return disegna(opzioni.disegno, esito, [] {
+    return disegna(opzioni.disegno, porte.disco, esito, [] {
         drawings::disegnaSezione(project::Progetto);
         return true;
     });

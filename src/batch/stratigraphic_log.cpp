@@ -3,6 +3,7 @@
 #include "batch/command_table.hpp"
 #include "batch/options/common_options.hpp"
 #include "batch/options/paper.hpp"
+#include "batch/run/command_ports.hpp"
 #include "batch/run/console.hpp"
 #include "batch/run/console_run.hpp"
 #include "batch/run/drawing_formats.hpp"
@@ -13,9 +14,9 @@ namespace korven::batch {
 
 namespace {
 
-int esegui(const Opzioni& opzioni, analysis::GuardiaRisultati&, Esito& esito) {
+int esegui(const Opzioni& opzioni, const PorteComando& porte, Esito& esito) {
     preparaProgetto(opzioni, esito);
-    return disegna(opzioni.disegno, esito, [&] {
+    return disegna(opzioni.disegno, porte.disco, esito, [&] {
         if (stratigrafiaTroppoAlta(esito)) return false;
         AvanzamentoConsole vista(false);
         DialogoConsole dialogo(opzioni.ricalcolaEJ, vista);

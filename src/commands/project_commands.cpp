@@ -73,7 +73,7 @@ std::vector<std::string> UscitaRelazione::file(analysis::ModoUscita modoUscita,
 }
 
 void UscitaRelazione::scriviRelazione() {
-    if (scrive_) relazione_ = report::scriviRelazione();
+    if (scrive_) relazione_ = report::scriviRelazione(disco_);
 }
 
 std::string nomeTesto(const std::string& relazione) { return base::conUltimiTre(relazione, "txt"); }

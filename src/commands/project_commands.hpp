@@ -17,7 +17,7 @@ void togliResti(const std::string& progetto);
 /// Both are absolute, their folders without links, "." and "..", since the rules for names cut
 /// paths at points. The file that was read is safe from all outputs from then on. Makes nothing,
 /// and sweeps both folders.
-/// @param percorso  not empty
+/// @param percorso  of the project; an empty one is refused like any that names no file
 /// @param uscita    folder for the results, which need not exist yet; empty: beside the project
 /// @throws base::ErroreFile if the project is missing, unreadable or broken
 void apriProgetto(const std::string& percorso, const std::string& uscita);
@@ -27,8 +27,10 @@ class UscitaRelazione : public analysis::UscitaCalcolo {
  public:
     /// @param testo      the text export will follow: its name is looked at too before a run
     /// @param documento  so will the word-processor file
-    explicit UscitaRelazione(bool scrive, bool testo = false, bool documento = false)
-        : scrive_(scrive), testo_(testo), documento_(documento) {}
+    /// @param disco      takes the report
+    explicit UscitaRelazione(bool scrive, bool testo = false, bool documento = false,
+                             const base::Disco& disco = base::discoDiSistema())
+        : scrive_(scrive), testo_(testo), documento_(documento), disco_(disco) {}
     [[nodiscard]] std::vector<std::string> file(analysis::ModoUscita modoUscita,
                                                 const std::string& risultati) const override;
     void scriviRelazione() override;
@@ -40,6 +42,7 @@ class UscitaRelazione : public analysis::UscitaCalcolo {
  private:
     bool scrive_;
     bool testo_, documento_;
+    const base::Disco& disco_;
     std::string relazione_;
 };
 

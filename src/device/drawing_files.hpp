@@ -15,6 +15,7 @@ namespace korven::device {
 inline constexpr int risoluzionePredefinita = 150;  ///< of PNG files [dots per inch]
 inline constexpr int risoluzioneMinima = 20;
 inline constexpr int risoluzioneMassima = 1200;
+inline constexpr std::size_t fasciaPredefinita = std::size_t{1} << 25;  ///< of PNG files [byte]
 inline constexpr plot::Foglio foglioPredefinito{21.0, 29.7};  ///< of PDF files: A4 upright [cm]
 
 /// One page with the drawing at true size, the drawing in its middle.
@@ -31,7 +32,7 @@ void scriviSvg(const std::string& percorso, const base::Disco& disco = base::dis
 /// @param dpi         resolution, within the limits above: asserted
 /// @param byteFascia  memory of a strip, which has at least one row
 /// @throws base::ErroreFile with the system's reason
-void scriviPng(const std::string& percorso, int dpi, std::size_t byteFascia = std::size_t{1} << 25,
+void scriviPng(const std::string& percorso, int dpi, std::size_t byteFascia = fasciaPredefinita,
                const base::Disco& disco = base::discoDiSistema());
 
 }  // namespace korven::device

@@ -23,4 +23,6 @@ SessioneGrafica::~SessioneGrafica() {
     qInstallMessageHandler(nullptr);
 }
 
+bool SessioneGrafica::aperta() { return QCoreApplication::instance() != nullptr; }
+
 }  // namespace korven::device

@@ -3,6 +3,8 @@
 #include <fcntl.h>
 #include <gtest/gtest.h>
 
+#include <cerrno>
+
 #include "support/failing_disk.hpp"
 #include "support/temporary_folder.hpp"
 
@@ -36,6 +38,15 @@ TEST(ScriviTutto, TellsTheReasonOfTheDisk) {
     EXPECT_EQ(errno, ENOSPC);
     EXPECT_TRUE(disco.chiudi(file));
     EXPECT_EQ(test::contenuto(cartella / "f"), "undi");
+}
+
+TEST(DiscoDiSistema, TellsOfADeviceThatIsReallyFull) {
+    const Disco& disco = discoDiSistema();
+    const int file = disco.apri("/dev/full", O_WRONLY, 0);
+    ASSERT_GE(file, 0);
+    EXPECT_FALSE(scriviTutto(disco, file, "undici byte"));
+    EXPECT_EQ(errno, ENOSPC);
+    EXPECT_TRUE(disco.chiudi(file));
 }
 
 }  // namespace

@@ -1,8 +1,6 @@
 #include "base/files.hpp"
 
 #include <gtest/gtest.h>
-#include <signal.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 #include <cerrno>
@@ -142,24 +140,6 @@ TEST(ScriviFile, LeavesNothingOfANewFileWhicheverCallFails) {
                   nonScritto(cartella / "f", motivo));
         EXPECT_EQ(voci(cartella), 0u) << motivo;
     }
-}
-
-// The one test of a disk that is really full: no file of this process may grow beyond a size.
-TEST(ScriviFile, IsToldByTheSystemThatAFileMayNotGrow) {
-    const CartellaProvvisoria cartella;
-    metti(cartella / "f", "prima");
-    const auto segnale = ::signal(SIGXFSZ, SIG_IGN);  // the write fails, the process goes on
-    rlimit prima{};
-    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &prima), 0);
-    const rlimit stretto{4096, prima.rlim_max};
-    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &stretto), 0);
-    const std::string risposta =
-        detto([&] { scriviFile(cartella / "f", std::string(10000, 'x')); });
-    ::setrlimit(RLIMIT_FSIZE, &prima);
-    ::signal(SIGXFSZ, segnale);
-    EXPECT_EQ(risposta, nonScritto(cartella / "f", "il file è troppo grande"));
-    EXPECT_EQ(contenuto(cartella / "f"), "prima");
-    EXPECT_EQ(voci(cartella), 1u);
 }
 
 TEST(ScriviFileNuovo, WritesUnderAFreeNameAlone) {

@@ -1,6 +1,7 @@
 #include <sys/stat.h>
 
 #include "batch/batch_bench.hpp"
+#include "support/failing_disk.hpp"
 #include "support/sample_sections.hpp"
 
 namespace korven::batch {
@@ -13,7 +14,12 @@ using test::dice;
 using test::metti;
 using test::progettoSemplice;
 
-using IngressoRotto = test::BancoConsole;
+class IngressoRotto : public test::BancoConsole {
+ protected:
+    [[nodiscard]] std::string nonScritto(const std::string& nome) const {
+        return cartella / nome + ": impossibile scrivere il file (" + test::nonCeSpazio + ")";
+    }
+};
 
 TEST_F(IngressoRotto, AMissingProjectIsToldWithItsPathAndTheReason) {
     for (const char* comando : {"calcola", "relazione", "verifica"}) {
@@ -247,22 +253,55 @@ TEST_F(IngressoRotto, AFullStandardOutputIsTold) {
 }
 
 TEST_F(IngressoRotto, AFullDiskLeavesTheProjectAndNoHalfFile) {
-    Ambiente pieno;
-    for (const long limite : {0L, 100L, 1000L, 2000L}) {  // head, stages
-        pieno.limiteFile = limite;
-        const auto esito = esegui("calcola", {}, pieno);
-        EXPECT_EQ(esito.codice, 3) << limite;
-        EXPECT_TRUE(dice(esito.errori, cartella / "muro.OUT: impossibile scrivere il file"))
-            << esito.errori;
-        EXPECT_EQ(nomi(), "muro.kvd ") << limite;
+    for (const std::size_t byte : {0U, 100U, 1000U, 2000U}) {  // head, stages
+        const auto esito = esegui("calcola", test::DiscoPieno(byte));
+        EXPECT_EQ(esito.codice, 3) << byte;
+        EXPECT_TRUE(dice(esito.errori, nonScritto("muro.OUT"))) << esito.errori;
+        EXPECT_EQ(nomi(), "muro.kvd ") << byte;
     }
     ASSERT_EQ(esegui("calcola").codice, 0);
     const auto prima = file();
-    pieno.limiteFile = 1000;
-    const auto esito = esegui("relazione", {}, pieno);  // the results are up to date
+    const auto esito = esegui("relazione", test::DiscoPieno(1000));  // the results are up to date
     EXPECT_EQ(esito.codice, 3);
-    EXPECT_TRUE(dice(esito.errori, cartella / "muro.TAB: ")) << esito.errori;
+    EXPECT_TRUE(dice(esito.errori, nonScritto("muro.TAB"))) << esito.errori;
     EXPECT_EQ(file(), prima);
+}
+
+TEST_F(IngressoRotto, AFullDiskLeavesNoHalfReportInAnyForm) {
+    ASSERT_EQ(esegui("relazione").codice, 0);
+    const auto prima = file();
+    const std::size_t relazione = prima.at("muro.TAB").size();
+    const std::pair<std::vector<std::string>, const char*> forme[] = {
+        {{"--txt"}, "muro.txt"}, {{"--pdf", cartella / "muro.pdf"}, "muro.pdf"}};
+    for (const auto& [opzioni, nome] : forme) {
+        const auto esito = esegui("relazione", test::DiscoPieno(relazione + 1000), opzioni);
+        EXPECT_EQ(esito.codice, 3) << nome;
+        EXPECT_TRUE(dice(esito.errori, nonScritto(nome))) << esito.errori;
+        EXPECT_EQ(file(), prima) << nome;
+    }
+}
+
+TEST_F(IngressoRotto, AFullDiskLeavesNoHalfDrawingInAnyForm) {
+    for (const char* forma : {"dxf", "pdf", "svg", "png"}) {
+        const std::string nome = std::string("muro.") + forma;
+        const auto esito =
+            console({"sezione", progetto, std::string("--") + forma, cartella / nome},
+                    test::DiscoPieno(500));
+        EXPECT_EQ(esito.codice, 3) << nome;
+        EXPECT_TRUE(dice(esito.errori, nonScritto(nome))) << esito.errori;
+        EXPECT_EQ(nomi(), "muro.kvd ") << nome;
+    }
+}
+
+// The system ends a program whose file grows beyond the limit of its processes, unless it says that
+// it won't be ended so: no disk within the test can show that.
+TEST_F(IngressoRotto, ALimitOnTheSizeOfFilesIsAFailedWriteLikeOthers) {
+    const auto esito = esegui("calcola", {}, {.limiteFile = 1000});
+    EXPECT_EQ(esito.codice, 3);
+    EXPECT_TRUE(dice(esito.errori, cartella / "muro.OUT: impossibile scrivere il file (il file è "
+                                              "troppo grande)"))
+        << esito.errori;
+    EXPECT_EQ(nomi(), "muro.kvd ");
 }
 
 TEST_F(IngressoRotto, AFolderThatCannotBeWrittenIsToldAndTheProjectIsUntouched) {

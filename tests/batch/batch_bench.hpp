@@ -2,11 +2,18 @@
 
 #include <gtest/gtest.h>
 
+#include <iostream>
 #include <map>
+#include <sstream>
 #include <string>
 #include <vector>
 
 #include "base/code_page.hpp"
+#include "base/disk.hpp"
+#include "base/folders/program_folder.hpp"
+#include "batch/console_program.hpp"
+#include "project/output_guard.hpp"
+#include "project/project_data.hpp"
 #include "project/project_file.hpp"
 #include "support/program_run.hpp"
 #include "support/sample_projects.hpp"
@@ -18,6 +25,23 @@ namespace korven::test {
 #ifndef KORVEN_CONSOLE
 #define KORVEN_CONSOLE "korven32c"  // the build names the program's file; a header alone has none
 #endif
+
+/// Keeps what goes to an output of this process.
+class UscitaTrattenuta {
+ public:
+    explicit UscitaTrattenuta(std::ostream& uscita)
+        : uscita_(uscita), prima_(uscita.rdbuf(testo_.rdbuf())) {}
+    UscitaTrattenuta(const UscitaTrattenuta&) = delete;
+    UscitaTrattenuta& operator=(const UscitaTrattenuta&) = delete;
+    ~UscitaTrattenuta() { uscita_.rdbuf(prima_); }
+
+    [[nodiscard]] std::string testo() const { return testo_.str(); }
+
+ private:
+    std::ostringstream testo_;
+    std::ostream& uscita_;
+    std::streambuf* prima_;
+};
 
 /// A folder with a project, and korven32c beside it.
 class BancoConsole : public ::testing::Test {
@@ -34,10 +58,32 @@ class BancoConsole : public ::testing::Test {
         altri.insert(altri.begin(), {comando, progetto, "--nseg", "10"});
         return console(altri, ambiente);
     }
+    /// The same within this process, whose files that disk takes.
+    EsitoProgramma esegui(const std::string& comando, const base::Disco& disco,
+                          std::vector<std::string> altri = {}) {
+        altri.insert(altri.begin(), {comando, progetto, "--nseg", "10"});
+        return console(altri, disco);
+    }
     /// Runs korven32c with these arguments alone.
     static EsitoProgramma console(const std::vector<std::string>& argomenti,
                                   const Ambiente& ambiente = {}) {
         return ProgrammaInCorso(KORVEN_CONSOLE, argomenti, ambiente).attendi();
+    }
+
+    static EsitoProgramma console(std::vector<std::string> argomenti, const base::Disco& disco) {
+        const std::string programmi = std::filesystem::path(KORVEN_CONSOLE).parent_path().string();
+        argomenti.insert(argomenti.begin(), KORVEN_CONSOLE);
+        argomenti.insert(argomenti.end(), {"--cartella", programmi, "--lingua", "ita"});
+        std::vector<const char*> puntatori;
+        for (const auto& argomento : argomenti) puntatori.push_back(argomento.c_str());
+        const UscitaTrattenuta uscita(std::cout), errori(std::cerr);
+        const int codice =
+            batch::programma(static_cast<int>(puntatori.size()), puntatori.data(), disco);
+        base::impostaCartellaProgramma("");
+        project::azzeraProgetto();
+        project::fileCorrente.clear();
+        project::progettiProtetti = {};
+        return {codice, uscita.testo(), errori.testo()};
     }
 
     /// All files of the folder and what they hold.

@@ -45,7 +45,9 @@ void perdiLettore(int uscita) {
 [[noreturn]] void diventa(const std::string& programma, std::vector<char*> argomenti,
                           const Ambiente& ambiente) {
     // A shell has its background jobs ignore signals, which is handed down to every program.
-    for (const int segnale : {SIGINT, SIGQUIT, SIGHUP, SIGTERM}) ::signal(segnale, SIG_DFL);
+    // This process may ignore what korven32c ignores.
+    for (const int segnale : {SIGINT, SIGQUIT, SIGHUP, SIGTERM, SIGPIPE, SIGXFSZ})
+        ::signal(segnale, SIG_DFL);
     dimenticaLingua();
     for (const auto& [nome, valore] : ambiente.variabili) ::setenv(nome.c_str(), valore.c_str(), 1);
     if (!ambiente.cartella.empty() && ::chdir(ambiente.cartella.c_str()) != 0) ::_exit(127);

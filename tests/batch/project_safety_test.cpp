@@ -1,4 +1,5 @@
 #include "batch/batch_bench.hpp"
+#include "support/failing_disk.hpp"
 
 // Names, links and folders that lead an output to the project itself.
 
@@ -166,7 +167,7 @@ TEST_F(RelazioneRimasta, IsToldAfterAStoppedRunAndOneThatFoundNoRoom) {
     scrivi(test::progettoSenzaPace());
     EXPECT_TRUE(dice(esegui("calcola", {"--max-iterazioni", "50"}).errori, avviso));
     scrivi(test::progettoSemplice());
-    const auto esito = esegui("calcola", {}, {.limiteFile = 100});
+    const auto esito = esegui("calcola", test::DiscoPieno(100));
     EXPECT_EQ(esito.codice, 3);
     EXPECT_TRUE(dice(esito.errori, avviso)) << esito.errori;
 }

@@ -20,7 +20,7 @@ struct EsitoProgramma {
 struct Ambiente {
     std::string cartella = {};                                        ///< working folder
     std::vector<std::pair<std::string, std::string>> variabili = {};  ///< added to its environment
-    std::optional<long> limiteFile = {};  ///< bytes that a file may grow to, as on a full disk
+    std::optional<long> limiteFile = {};  ///< bytes that a file may grow to
     std::string uscita = {};  ///< file that takes the standard output; empty: it is kept
     /// Obeys the permissions of files even as root. Exit code 127 where that can't be had.
     bool senzaPrivilegi = false;

@@ -9,6 +9,7 @@
 #include "shell/viewer/viewer.hpp"
 #include "support/dialog_double.hpp"
 #include "support/drawing_by_pen.hpp"
+#include "support/failing_disk.hpp"
 #include "support/form_setup.hpp"
 
 namespace korven::test {
@@ -20,6 +21,7 @@ class PorteRegistrate : public shell::PorteGrafica {
         richieste.push_back(richiesta);
         return risposta;
     }
+    [[nodiscard]] const base::Disco& disco() const override { return guasto; }
     void scritto(const std::string& percorso) override { scritti.push_back(percorso); }
     plot::Foglio foglioStampante() override { return foglio; }
     std::unique_ptr<plot::Stampante> stampante(const std::string& titolo) override {
@@ -31,6 +33,7 @@ class PorteRegistrate : public shell::PorteGrafica {
     std::optional<std::string> risposta;  // nothing: cancelled
     std::vector<shell::FileDaSalvare> richieste;
     std::vector<std::string> scritti;
+    DiscoGuasto guasto;  // until told otherwise it takes everything
     plot::Foglio foglio{21, 29.7};
     bool conStampante = true;
     std::vector<std::string> titoli;

@@ -5,13 +5,10 @@
 
 #include "batch/options/option.hpp"
 
-namespace korven::analysis {
-class GuardiaRisultati;
-}
-
 namespace korven::batch {
 
 struct Esito;
+struct PorteComando;
 
 /// A command of korven32c as a row: what it is called, what the help says of it, the options it
 /// takes, what it does.
@@ -21,11 +18,9 @@ struct RigaComando {
     std::vector<Opzione> opzioni;
 
     /// Does the work and fills the outcome; progress, refusals and warnings go to standard error.
-    /// @param guardia  keeps the result file from the comparison on, until what is told of
-    ///                 it is told
     /// @return the exit code: done, or the run was refused, found singular or stopped
     /// @throws the exceptions of the logic; what `esito` then holds is true as far as it goes
-    int (*esegui)(const Opzioni& opzioni, analysis::GuardiaRisultati& guardia, Esito& esito);
+    int (*esegui)(const Opzioni& opzioni, const PorteComando& porte, Esito& esito);
 
     bool disegna = false;      ///< must be given one file of a drawing at least
     bool soloRilievi = false;  ///< its outcome is a list of remarks

@@ -34,10 +34,9 @@ void annotaRisultati(Esito& esito) {
         esito.fileScritti.push_back(base::nomeRisultati(project::fileCorrente));
 }
 
-CorsaConsole::CorsaConsole(const Opzioni& opzioni, analysis::GuardiaRisultati& guardia,
-                           Esito& esito)
+CorsaConsole::CorsaConsole(const Opzioni& opzioni, const PorteComando& porte, Esito& esito)
     : opzioni_(opzioni),
-      guardia_(guardia),
+      porte_(porte),
       esito_(esito),
       vista_(!opzioni.silenzioso),
       dialogo_(opzioni.ricalcolaEJ, vista_) {
@@ -48,7 +47,8 @@ bool CorsaConsole::esegui(analysis::ModoUscita modoUscita, analysis::UscitaCalco
     // A reading of the results turns every other method into Coulomb's.
     if (opzioni_.metodoSpinte) project::Progetto.metodoSpinte = *opzioni_.metodoSpinte;
     analysis::ControlloCorsa controllo(vista_, opzioni_.maxIterazioni, Interruzioni::chiesta());
-    analysis::CalcoloParatia(modoUscita, {dialogo_, controllo, uscita, &guardia_});
+    analysis::CalcoloParatia(modoUscita,
+                             {dialogo_, controllo, uscita, &porte_.guardia, porte_.disco});
     esito_.messaggi = dialogo_.messaggi();
     if (analysis::erroreCalcolo) {
         raccontaArresto(controllo, esito_);

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "analysis/calcolo_paratia.hpp"
-#include "analysis/result_guard.hpp"
 #include "batch/options/options.hpp"
+#include "batch/run/command_ports.hpp"
 #include "batch/run/console.hpp"
 #include "batch/run/interruption.hpp"
 #include "batch/run/outcome.hpp"
@@ -19,9 +19,9 @@ void annotaRisultati(Esito& esito);
 /// or, after it, is kept in mind.
 class CorsaConsole {
  public:
-    /// @param guardia  keeps the result file beyond this object's life, for as long as outputs are
-    ///                 made of it
-    CorsaConsole(const Opzioni& opzioni, analysis::GuardiaRisultati& guardia, Esito& esito);
+    /// @param porte  their guard keeps the result file beyond this object's life, for as long as
+    ///               outputs are made of it
+    CorsaConsole(const Opzioni& opzioni, const PorteComando& porte, Esito& esito);
 
     /// Brings the results up to date and hands over to the output.
     /// @param modoUscita  the report or a diagram
@@ -29,6 +29,7 @@ class CorsaConsole {
     [[nodiscard]] bool esegui(analysis::ModoUscita modoUscita, analysis::UscitaCalcolo& uscita);
 
     [[nodiscard]] base::Dialogo& dialogo() { return dialogo_; }
+    [[nodiscard]] const base::Disco& disco() const { return porte_.disco; }
 
     /// Reads what the run has left into the outcome, unless it was interrupted
     /// after its calculation.
@@ -40,7 +41,7 @@ class CorsaConsole {
 
  private:
     const Opzioni& opzioni_;
-    analysis::GuardiaRisultati& guardia_;
+    const PorteComando& porte_;
     Esito& esito_;
     AvanzamentoConsole vista_;
     DialogoConsole dialogo_;

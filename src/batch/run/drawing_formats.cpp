@@ -1,5 +1,6 @@
 #include "batch/run/drawing_formats.hpp"
 
+#include <cassert>
 #include <optional>
 #include <string>
 #include <vector>
@@ -75,20 +76,24 @@ AmbienteDisegno::~AmbienteDisegno() {
     plot::statoPlot.sorveglia = nullptr;
 }
 
-void scriviDisegno(const FormatiDisegno& formati, Esito& esito) {
-    if (!formati.dxf.empty()) plot::plotDxf(formati.dxf);
-    if (!formati.pdf.empty()) device::scriviPdf(formati.pdf, formati.foglio);
-    if (!formati.svg.empty()) device::scriviSvg(formati.svg);
-    if (!formati.png.empty()) device::scriviPng(formati.png, formati.dpi);
+void scriviDisegno(const FormatiDisegno& formati, const base::Disco& disco, Esito& esito) {
+    assert(plot::statoPlot.metrica);
+    assert(!formati.dipinte() || device::SessioneGrafica::aperta());
+    if (!formati.dxf.empty()) plot::plotDxf(formati.dxf, disco);
+    if (!formati.pdf.empty()) device::scriviPdf(formati.pdf, formati.foglio, disco);
+    if (!formati.svg.empty()) device::scriviSvg(formati.svg, disco);
+    if (!formati.png.empty())
+        device::scriviPng(formati.png, formati.dpi, device::fasciaPredefinita, disco);
     for (const std::string& file : formati.file()) esito.fileScritti.push_back(file);
 }
 
-int disegna(const FormatiDisegno& formati, Esito& esito, const std::function<bool()>& disegno) {
+int disegna(const FormatiDisegno& formati, const base::Disco& disco, Esito& esito,
+            const std::function<bool()>& disegno) {
     controllaUscite(formati);
     const Interruzioni interruzioni;
     const AmbienteDisegno ambiente(formati.dipinte());
     if (!disegno()) return nonEseguito;
-    scriviDisegno(formati, esito);
+    scriviDisegno(formati, disco, esito);
     return fatto;
 }
 

@@ -3,6 +3,7 @@
 #include <functional>
 #include <memory>
 
+#include "base/disk.hpp"
 #include "batch/options/output_formats.hpp"
 #include "batch/run/outcome.hpp"
 
@@ -31,15 +32,15 @@ class AmbienteDisegno {
 };
 
 /// Writes the stored drawing and names its files in the outcome.
-/// @pre an AmbienteDisegno lives, a painting one if a file is to be painted
+/// @pre an AmbienteDisegno lives, a painting one if a file is to be painted: asserted
 /// @throws base::ErroreFile with the system's reason
-void scriviDisegno(const FormatiDisegno& formati, Esito& esito);
+void scriviDisegno(const FormatiDisegno& formati, const base::Disco& disco, Esito& esito);
 
 /// Makes one drawing and writes it; its names are looked at before.
 /// @param disegno  leaves the drawing in the store, or returns false and has told why not
 /// @return the exit code
 /// @throws base::ErroreFile if a file can't be read or written
-[[nodiscard]] int disegna(const FormatiDisegno& formati, Esito& esito,
+[[nodiscard]] int disegna(const FormatiDisegno& formati, const base::Disco& disco, Esito& esito,
                           const std::function<bool()>& disegno);
 
 /// True for a log that is too high to be drawn, which is told.

@@ -1,5 +1,6 @@
 #include "batch/run/report_formats.hpp"
 
+#include <cassert>
 #include <iostream>
 #include <string>
 
@@ -14,6 +15,7 @@
 #include "commands/output_title.hpp"
 #include "commands/project_commands.hpp"
 #include "commands/report_export.hpp"
+#include "device/graphics_session.hpp"
 #include "device/report_pages.hpp"
 #include "markup/print_renderer.hpp"
 #include "project/output_guard.hpp"
@@ -42,9 +44,9 @@ void scriviDocumento(Esito& esito) {
     }
 }
 
-void scriviPdf(const std::string& file, base::Dialogo& dialogo, Esito& esito) {
-    const auto pdf = device::relazioneSuPdf(file, commands::titoloUscite());
-    markup::printReport(esito.fileRelazione, *pdf, dialogo);
+void scriviPdf(const std::string& file, CorsaConsole& corsa, Esito& esito) {
+    const auto pdf = device::relazioneSuPdf(file, commands::titoloUscite(), corsa.disco());
+    markup::printReport(esito.fileRelazione, *pdf, corsa.dialogo());
     annota(file, esito.filePdf, esito);
 }
 
@@ -53,12 +55,13 @@ void stampa(const std::string& nome, base::Dialogo& dialogo, const Esito& esito)
     markup::printReport(esito.fileRelazione, *pagine, dialogo);
 }
 
-void scriviFormati(const FormatiRelazione& formati, base::Dialogo& dialogo, Esito& esito) {
+void scriviFormati(const FormatiRelazione& formati, CorsaConsole& corsa, Esito& esito) {
     if (formati.testo && !interrotto())
-        annota(commands::scriviTesto(esito.fileRelazione), esito.fileTesto, esito);
+        annota(commands::scriviTesto(esito.fileRelazione, corsa.disco()), esito.fileTesto, esito);
     if (formati.documento && !interrotto()) scriviDocumento(esito);
-    if (!formati.pdf.empty() && !interrotto()) scriviPdf(formati.pdf, dialogo, esito);
-    if (!formati.stampante.empty() && !interrotto()) stampa(formati.stampante, dialogo, esito);
+    if (!formati.pdf.empty() && !interrotto()) scriviPdf(formati.pdf, corsa, esito);
+    if (!formati.stampante.empty() && !interrotto())
+        stampa(formati.stampante, corsa.dialogo(), esito);
 }
 
 }  // namespace
@@ -71,6 +74,7 @@ void avvisaPosto() {
 }
 
 void controllaUscite(const FormatiRelazione& formati) {
+    assert(!formati.dipinte() || device::SessioneGrafica::aperta());
     const auto file = fileDelProgetto();
     if (!formati.pdf.empty())
         for (const auto& altro : file) project::controllaUscita(formati.pdf, altro);
@@ -85,12 +89,12 @@ void controllaUscite(const FormatiRelazione& formati) {
 bool produciRelazione(const FormatiRelazione& formati, CorsaConsole& corsa, Esito& esito) {
     // Not every value appears in every report, but no project is right with one.
     if (!review::mostrabile(project::Progetto)) throw base::ErroreValore();
-    commands::UscitaRelazione uscita(true, formati.testo, formati.documento);
+    commands::UscitaRelazione uscita(true, formati.testo, formati.documento, corsa.disco());
     if (!corsa.esegui(analysis::relazione, uscita)) return false;
     annotaRisultati(esito);
     esito.fileRelazione = uscita.relazione();
     esito.fileScritti.push_back(esito.fileRelazione);
-    scriviFormati(formati, corsa.dialogo(), esito);
+    scriviFormati(formati, corsa, esito);
     return true;
 }
 

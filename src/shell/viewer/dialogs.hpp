@@ -18,6 +18,7 @@ class PorteDesktop : public PorteGrafica {
                           std::function<void(const std::string&)> annuncia = {});
 
     std::optional<std::string> fileDaSalvare(const FileDaSalvare& richiesta) override;
+    [[nodiscard]] const base::Disco& disco() const override { return base::discoDiSistema(); }
     void scritto(const std::string& percorso) override;
     plot::Foglio foglioStampante() override;
     /// True when pages go to a printer, or to the file that the printer set-up named.

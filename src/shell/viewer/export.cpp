@@ -50,14 +50,15 @@ FileDaSalvare richiestaPdf() {
             {tipoPdf()}};
 }
 
-void scriviImmagine(const std::string& percorso) {
+void scriviImmagine(const std::string& percorso, const base::Disco& disco) {
     const std::string tipo = estensione(percorso);
     if (tipo == "svg")
-        device::scriviSvg(percorso);
+        device::scriviSvg(percorso, disco);
     else if (tipo == "png")
-        device::scriviPng(percorso, device::risoluzionePredefinita);
+        device::scriviPng(percorso, device::risoluzionePredefinita, device::fasciaPredefinita,
+                          disco);
     else
-        device::scriviPdf(percorso);
+        device::scriviPdf(percorso, device::foglioPredefinito, disco);
 }
 
 }  // namespace korven::shell

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "base/disk.hpp"
 #include "shell/viewer/ports.hpp"
 
 namespace korven::shell {
@@ -21,6 +22,6 @@ namespace korven::shell {
 /// Writes the stored drawing as the kind of file that the extension of the path names, whatever its
 /// case; PDF when it names none of the three.
 /// @throws base::ErroreFile with the system's reason
-void scriviImmagine(const std::string& percorso);
+void scriviImmagine(const std::string& percorso, const base::Disco& disco);
 
 }  // namespace korven::shell

@@ -133,7 +133,7 @@ void GRAFICA::esportaDxf() {
     conAvviso(dialogo_, [this] {
         const auto percorso = porte_.fileDaSalvare(richiestaDxf());
         if (!percorso) return;
-        plot::plotDxf(*percorso);
+        plot::plotDxf(*percorso, porte_.disco());
         porte_.scritto(*percorso);
     });
     tutto();
@@ -142,7 +142,7 @@ void GRAFICA::esportaDxf() {
 void GRAFICA::esportaImmagine() {
     const auto percorso = porte_.fileDaSalvare(richiestaImmagine());
     if (!percorso) return;
-    scriviImmagine(*percorso);
+    scriviImmagine(*percorso, porte_.disco());
     porte_.scritto(*percorso);
 }
 

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "base/disk.hpp"
 #include "plot/geometry.hpp"
 #include "plot/printer.hpp"
 
@@ -30,6 +31,8 @@ class PorteGrafica {
     virtual ~PorteGrafica() = default;
     /// Path that the user chose, with an extension; nothing when the dialog was cancelled.
     virtual std::optional<std::string> fileDaSalvare(const FileDaSalvare& richiesta) = 0;
+    /// Takes the files of the drawing.
+    [[nodiscard]] virtual const base::Disco& disco() const = 0;
     /// Tells that a file of the drawing was written.
     virtual void scritto(const std::string& percorso) = 0;
     /// Page of the printer [cm], to be marked in the drawing.

@@ -80,8 +80,6 @@ TEST_F(FormatiRelazioneTest, ThatCannotBeWrittenAreTold) {
     const auto esito = esegui("relazione", {"--pdf", cartella / "manca/r.pdf"});
     EXPECT_EQ(esito.codice, 3);
     EXPECT_TRUE(dice(esito.errori, cartella / "manca/r.pdf")) << esito.errori;
-    EXPECT_EQ(esegui("relazione", {"--pdf", cartella / "r.pdf"}, {.limiteFile = 20000}).codice, 3);
-    EXPECT_FALSE(std::filesystem::exists(cartella / "r.pdf")) << "whole or not at all";
 }
 
 TEST_F(FormatiRelazioneTest, RunNoProgramOfTheFolderThatTheOptionNames) {

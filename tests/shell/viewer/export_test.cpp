@@ -169,6 +169,21 @@ TEST_F(UsciteVisore, TellOfAFileThatCannotBeWrittenAndGoOn) {
     EXPECT_TRUE(forma().isVisible());
 }
 
+TEST_F(UsciteVisore, TellOfAFullDiskAndLeaveNoHalfFile) {
+    disegna();
+    for (const char* nome : {"a.DXF", "a.pdf", "a.svg", "a.png"}) {
+        porte.risposta = cartella / nome;
+        porte.guasto.spazio = 200;
+        premi(std::string(nome).ends_with("DXF") ? "Picture4" : "Picture17");
+        ASSERT_FALSE(dialogo.messaggi.empty()) << nome;
+        EXPECT_EQ(dialogo.messaggi.back().testo,
+                  cartella / nome + ": impossibile scrivere il file (" + test::nonCeSpazio + ")");
+        EXPECT_TRUE(std::filesystem::is_empty(cartella.percorso())) << nome;
+    }
+    EXPECT_EQ(dialogo.messaggi.size(), 4U);
+    EXPECT_TRUE(porte.scritti.empty());
+}
+
 TEST_F(UsciteVisore, TellOfAnOverlapAsLargeAsTheSheetAndGoOn) {
     disegna();
     test::metti(programma / "overlap.cfg", "21\r\n");
