@@ -1,5 +1,7 @@
 #include "analysis/vertical_stress.hpp"
 
+#include <cassert>
+
 namespace korven::analysis {
 
 namespace {
@@ -55,6 +57,7 @@ TensioneNodo tensioneMonte(const project::DatiProgetto& dati, double z) {
 
 TensioneNodo tensioneValle(const project::DatiProgetto& dati, double z, double scavo,
                            double sovraccarico) {
+    assert(scavo <= z);
     const double e = scavo;
     const double w = dati.faldaValle;
     const double gammaAcqua = dati.gammaAcqua;

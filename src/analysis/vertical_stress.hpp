@@ -38,7 +38,7 @@ struct TensioneNodo {
 /// Stress at depth z on the excavated side, from the surcharge of the stage and the weight between
 /// the excavation level and z; the water table is `dati.faldaValle`. Water above the excavation
 /// level lowers the effective stress by (z - scavo) gammaAcqua only.
-/// @param scavo  excavation depth [m], not below z
+/// @param scavo  excavation depth [m], not below z: asserted
 [[nodiscard]] TensioneNodo tensioneValle(const project::DatiProgetto& dati, double z, double scavo,
                                          double sovraccarico);
 

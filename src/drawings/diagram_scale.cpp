@@ -1,5 +1,6 @@
 #include "drawings/diagram_scale.hpp"
 
+#include <cassert>
 #include <cmath>
 
 namespace korven::drawings {
@@ -31,6 +32,7 @@ double passoScala(double valore) {
 }
 
 AsseValori asseValori(double vDati) {
+    assert(std::fabs(vDati) <= 1e12);
     const double passo = passoScala(vDati);
     double vMax = passo * std::ceil(vDati / passo);
     if (vMax == 0) vMax = 10 * passo;
@@ -38,6 +40,7 @@ AsseValori asseValori(double vDati) {
 }
 
 std::vector<Tacca> tacche(double da, double a, double passo) {
+    assert(passo > 0);
     std::vector<Tacca> tutte;
     const double ultima = parteIntera((a - da) / passo);
     for (int k = 0; k <= ultima; ++k) {

@@ -19,7 +19,7 @@ struct AsseValori {
 ///
 /// A negative `vDati` gives a negative end, rounded towards 0: the two ends of the axis then change
 /// places and it has no ticks.
-/// @param vDati  finite, at most 10^12 in size
+/// @param vDati  at most 10^12 in size: asserted
 [[nodiscard]] AsseValori asseValori(double vDati);
 
 /// A mark on an axis.
@@ -30,6 +30,7 @@ struct Tacca {
 
 /// The ticks at `da`, `da` + `passo`, ... up to `a`, which is included; none when `a` lies before
 /// `da`. Each is computed by its index, so that no error adds up.
+/// @param passo  above 0: asserted
 [[nodiscard]] std::vector<Tacca> tacche(double da, double a, double passo);
 
 }  // namespace korven::drawings

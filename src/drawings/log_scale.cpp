@@ -5,7 +5,10 @@
 
 namespace korven::drawings {
 
-double bordoInferiore(double altezzaPagina) { return std::max(28.5 - altezzaPagina + 0.1, 0.6); }
+double bordoInferiore(double altezzaPagina) {
+    assert(altezzaPagina > paginaTroppoBassa);
+    return std::max(28.5 - altezzaPagina + 0.1, 0.6);
+}
 
 ScalaProfondita::ScalaProfondita(double profondita, double bordoInferiore)
     : N_(100 * profondita / (20.6 - bordoInferiore)) {

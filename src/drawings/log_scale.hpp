@@ -12,7 +12,7 @@ inline constexpr double paginaTroppoBassa = 8.1;
 ///
 ///     28.5 - altezzaPagina + 0.1, at least 0.6
 ///
-/// @param altezzaPagina  of the printer [cm], above `paginaTroppoBassa`
+/// @param altezzaPagina  of the printer [cm], above `paginaTroppoBassa`: asserted
 [[nodiscard]] double bordoInferiore(double altezzaPagina);
 
 /// Where depths lie on the sheet of the log.

@@ -1,5 +1,6 @@
 #include "structure/circle_in_strip.hpp"
 
+#include <cassert>
 #include <cmath>
 #include <numbers>
 
@@ -27,6 +28,7 @@ double oltre(double distanza, double r) {
 }  // namespace
 
 double areaCerchioInStriscia(double c, double r, double y0, double y1) {
+    assert(!(r < 0) && !(y1 < y0));  // NaN of a section beyond all measure passes
     if (c + r <= y0 || c - r >= y1) return 0;
     const bool tagliatoSotto = c - r < y0;
     const bool tagliatoSopra = c + r > y1;

@@ -14,6 +14,7 @@ namespace korven::structure {
 /// @param r   radius [mm], not below 0; a circle of radius 0 has no area wherever it is
 /// @param y0  lower edge of the strip [mm]
 /// @param y1  upper edge of the strip [mm], not below y0
+/// @pre r and the order of the edges: asserted
 /// @return area [mm2]; 0 if the circle only touches the strip
 /// Source: elementary geometry, the area of a circular segment
 [[nodiscard]] double areaCerchioInStriscia(double c, double r, double y0, double y1);

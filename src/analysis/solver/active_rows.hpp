@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <cassert>
 #include <cmath>
 #include <cstdint>
 #include <utility>
@@ -153,10 +154,11 @@ KORVEN_CORSIE void applicaSubito(RigheAttive& r, int i, double* pivot) {
 }
 
 /// Puts the running pass off; rows that hold -0 take it at once.
-/// @pre the pivot row is finite
-/// @param massimoPivot  largest absolute value of the pivot row
+/// @pre the pivot row is finite, which is asserted of its largest value
+/// @param massimoPivot  that value, without its sign
 template <int L>
 KORVEN_CORSIE void rimanda(RigheAttive& r, double* pivot, double massimoPivot) {
+    assert(std::isfinite(massimoPivot));
     RigheAttive::Colonna& sospeso = r.sospeso[r.finestra];
     r.pivot[r.finestra++] = pivot;
     for (int i = 0; i < r.quante; ++i) {

@@ -16,6 +16,7 @@ EsitoSistema RisolviSistema(int n, MatriceSistema& A, const VettoreSistema& b, V
     assert(1 <= n && n <= capacitaSistema);
     assert(0 <= bordoVisibile && bordoVisibile <= n);
     assert(&b != &x);
+    assert(!larghi || registriLarghi());
     SistemaEliminato s;
     if (!elimina(n, A, b, bordoVisibile > 0, larghi, s)) return EsitoSistema::singolare;
     completa(s, x, A, bordoVisibile, larghi);

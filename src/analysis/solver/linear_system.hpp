@@ -28,7 +28,7 @@ enum class EsitoSistema { risolto, singolare };
 /// @param bordoVisibile  trailing rows and columns of the inverse that are read again, 0 to n:
 ///           0 with a free or hinged toe, 2 with a fixed toe, n for the whole inverse
 /// @param larghi  four doubles side by side, else two: of no influence on the digits
-/// @pre larghi only where `registriLarghi` holds
+/// @pre larghi only where `registriLarghi` holds: asserted
 /// @return `singolare` when the largest cell left is exactly 0 or all cells left are NaN: there is
 ///         no threshold. Then x is as it was, and so is A: the inverse never came to be, and as a
 ///         singular system ends the run nothing is assembled over A again

@@ -12,7 +12,7 @@ void avvisaPosto();
 
 /// Refuses, before anything is computed, a PDF name under which the project or another output would
 /// be lost, outputs that a link would make one, and a printer that the system does not know.
-/// @pre an AmbienteDisegno that paints lives, if pages are painted
+/// @pre an AmbienteDisegno that paints lives, if pages are painted: asserted
 /// @throws base::ErroreFile that names both files, or the printer
 void controllaUscite(const FormatiRelazione& formati);
 
