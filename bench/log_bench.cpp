@@ -11,6 +11,7 @@
 #include "plot/plot_engine.hpp"
 #include "support/hatch_files.hpp"
 #include "support/temporary_folder.hpp"
+#include "support/wall_builder.hpp"
 
 // A stratigraphic log with dense hatches through all its stations: drawn into the store and the
 // spill files, read back for a surface, written as DXF. Each has to grow as the strokes do.
@@ -44,14 +45,12 @@ class Contatore : public plot::SuperficieDisegno {
 
 // Each layer is 4 cm of column high: three whole tiles of 1 cm and two halves.
 project::DatiProgetto progetto() {
-    project::DatiProgetto dati;
-    dati.nStrati = strati;
-    for (int i = 1; i <= strati; ++i) {
-        dati.profStrato[i] = 4 * i;
-        dati.descrStrato[i] = "105 Sabbia fine limosa, debolmente argillosa, con rara ghiaia.";
-    }
-    dati.faldaMonte = 3;
-    return dati;
+    test::Muro muro = test::muro().falda(3);
+    for (int i = 1; i <= strati; ++i)
+        muro.strato({.fondo = 4.0 * i,
+                     .descrizione = "105 Sabbia fine limosa, debolmente argillosa, con rara "
+                                    "ghiaia."});
+    return muro.dati();
 }
 
 // Short strokes all over the tile, as many as fill the column with `tratti` of them.

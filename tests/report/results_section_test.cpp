@@ -2,6 +2,7 @@
 
 #include "report/sections.hpp"
 #include "support/report_text.hpp"
+#include "support/wall_builder.hpp"
 
 namespace korven::report {
 namespace {
@@ -11,13 +12,10 @@ using test::contiene;
 // Two stages on a wall of 3 m in 3 segments, two anchors defined.
 results::DatiRelazione dueFasi() {
     results::DatiRelazione d;
-    project::azzera(d.progetto);
+    d.progetto =
+        test::muro().lungo(3).tirante(0.5, 1000).tirante(1.25, 1000).fase({}).fase({}).dati();
     d.nNodi = 4;
     d.passo = 1;
-    d.progetto.nFasi = 2;
-    d.progetto.nTiranti = 2;
-    d.progetto.profTirante[1] = 0.5;
-    d.progetto.profTirante[2] = 1.25;
     d.fasi.resize(2);
     d.fasi[1].yNodo[1] = 0.0123456;
     d.fasi[1].yNodo[2] = -0.00005;

@@ -42,16 +42,15 @@ long lineRefused(const std::string& content) {
 }
 
 project::DatiProgetto wall() {
-    project::DatiProgetto dati = test::progettoVuoto();
-    dati.titoli[1] = "Muro";
-    dati.titoli[4] = "Sabbia";
-    dati.nStrati = 3;
-    dati.profStrato[1] = 1.25;
-    dati.descrStrato[1] = "-103C3 Sabbia";
-    dati.descrStrato[2] = "105  Argilla|molle";
-    dati.descrStrato[3] = "107";
-    dati.descrStrato[4] = "102 beyond the count";
-    return dati;
+    project::DatiProgetto wall = test::muro()
+                                     .titolo(1, "Muro")
+                                     .titolo(4, "Sabbia")
+                                     .strato({.fondo = 1.25, .descrizione = "-103C3 Sabbia"})
+                                     .strato({.fondo = 5, .descrizione = "105  Argilla|molle"})
+                                     .strato({.descrizione = "107"})
+                                     .dati();
+    wall.descrStrato[4] = "102 beyond the count";
+    return wall;
 }
 
 const std::string wallTexts = head + block("Muro") + block("Sabbia") + block("Argilla|molle");
