@@ -302,4 +302,30 @@ std::vector<ProcessVariable> processVariables(std::string_view source) {
     return Walk().variables(tokensOf(source));
 }
 
+std::set<std::string> functionsNaming(const Tokens& tokens, const std::set<std::string>& names) {
+    std::set<std::string> found;
+    Tokens head;           // what has been read since the last statement outside all bodies
+    std::string function;  // whose body this is
+    int depth = 0;         // of braces in the body
+    for (const auto& token : tokens) {
+        if (depth > 0) {
+            depth += token == "{" ? 1 : token == "}" ? -1 : 0;
+            if (names.contains(token)) found.insert(function);
+        } else if (token == "{" && has(head, "namespace")) {
+            head.clear();
+        } else if (token == "{") {
+            const auto open = std::find(head.begin(), head.end(), "(");
+            function = open == head.begin() || open == head.end() ? "" : *(open - 1);
+            depth = 1;
+            head.clear();
+        } else if (token == ";" || token == "}") {
+            head.clear();
+        } else {
+            head.push_back(token);
+        }
+    }
+    found.erase("");
+    return found;
+}
+
 }  // namespace korven::architecture

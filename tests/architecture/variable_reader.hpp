@@ -1,5 +1,6 @@
 #pragma once
 
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -25,5 +26,9 @@ struct ProcessVariable {
 /// This is no compiler: a variable defined by a macro, or as `Type name(argument);` with an
 /// argument that might as well be a type, is not seen.
 [[nodiscard]] std::vector<ProcessVariable> processVariables(std::string_view source);
+
+/// The functions outside all types in whose bodies one of these names stands, by their own names.
+[[nodiscard]] std::set<std::string> functionsNaming(const std::vector<std::string>& tokens,
+                                                    const std::set<std::string>& names);
 
 }  // namespace korven::architecture

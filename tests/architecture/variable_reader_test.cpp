@@ -69,5 +69,15 @@ TEST(ProcessVariables, AreNoneOfTheDeclarationsOfOtherThings) {
             .empty());
 }
 
+TEST(FunctionsNaming, AreThoseInWhoseBodiesANameStands) {
+    const auto tokens = tokensOf(
+        "namespace n { int state = 0; A table{state};"
+        "int read(int x) { if (x > 0) { return state; } return x; } int twice() { return read(2); }"
+        "void none() { int states = 1; } }");
+    EXPECT_EQ(functionsNaming(tokens, {"state"}), (std::set<std::string>{"read"}));
+    EXPECT_EQ(functionsNaming(tokens, {"state", "read"}), (std::set<std::string>{"read", "twice"}));
+    EXPECT_TRUE(functionsNaming(tokens, {"other"}).empty());
+}
+
 }  // namespace
 }  // namespace korven::architecture
