@@ -20,7 +20,8 @@ class CharacterWidths {
     [[nodiscard]] double operator()(std::string_view utf8);
 
  private:
-    [[nodiscard]] double widthOf(std::string_view character);
+    [[nodiscard]] double asciiWidth(unsigned char character);
+    [[nodiscard]] double otherWidth(std::string_view character);
 
     static constexpr double unknown = -1;
     TextMeasure measure_;
