@@ -1,7 +1,6 @@
 #include "analysis/staged_run.hpp"
 
 #include <algorithm>
-#include <cassert>
 #include <memory>
 
 namespace korven::analysis {

@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "base/table.hpp"
+#include "base/translated_texts.hpp"
 
 namespace korven::outdoc {
 
@@ -112,7 +113,7 @@ ZipWriter::~ZipWriter() {
 void ZipWriter::add(const std::string& name, std::string_view content, Packing packing) {
     constexpr std::size_t most = std::numeric_limits<std::int32_t>::max();
     if (content.size() > most)
-        throw base::ErroreIndice(std::numeric_limits<std::int32_t>::max(), most);
+        throw base::ErroreIndice(name + ": " + base::traduttore("il file è troppo grande"));
     const int method = packing == Packing::deflated ? Z_DEFLATED : 0;
     zip_fileinfo about{};
     about.dosDate = firstDay;

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <filesystem>
 
 #include "base/code_page.hpp"
 #include "base/file_error.hpp"
@@ -177,6 +178,15 @@ TEST(ConvertReport, WritesBesideTheMarkupAndReplaces) {
     test::metti(folder / "muro.doc", "old");
     EXPECT_EQ(convertReport(folder / "muro.TAB").document, folder / "muro.doc");
     EXPECT_TRUE(test::contenuto(folder / "muro.doc").starts_with("PK"));
+}
+
+// The report of the example that the README opens; unpacked, its words are ten times as long.
+TEST(ConvertReport, MakesADocumentOfLessThan15Kilobytes) {
+    const test::CartellaProvvisoria folder;
+    std::filesystem::copy(KORVEN_REPORTS "/diaframma_due_ordini.TAB", folder / "muro.TAB");
+    const std::string document = convertReport(folder / "muro.TAB").document;
+    EXPECT_LT(std::filesystem::file_size(document), 15000u);
+    EXPECT_GT(unpacked(test::contenuto(document), "word/document.xml").size(), 100000u);
 }
 
 TEST(ConvertReport, RefusesWhatItCantConvertAndLeavesAnOldFileAlone) {

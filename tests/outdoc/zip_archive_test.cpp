@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "base/table.hpp"
 #include "outdoc/unpacked.hpp"
 
 namespace korven::outdoc {
@@ -28,6 +29,16 @@ std::string packed(const std::vector<Entry>& files) {
 TEST(CheckSum, HasThePublishedCheckValue) {
     EXPECT_EQ(checkSum("123456789"), 0xCBF43926u);
     EXPECT_EQ(checkSum(""), 0u);
+}
+
+TEST(ZipWriter, RefusesContentsLongerThanItsFormatTells) {
+    const std::string_view beyond("", std::size_t{1} << 31);  // refused for its length, never read
+    try {
+        ZipWriter().add("word/document.xml", beyond, Packing::deflated);
+        ADD_FAILURE() << "taken";
+    } catch (const base::ErroreIndice& error) {
+        EXPECT_STREQ(error.what(), "word/document.xml: il file è troppo grande");
+    }
 }
 
 TEST(ZipWriter, LeadsFromTheEndOfTheArchiveToEachFile) {
