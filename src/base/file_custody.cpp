@@ -6,11 +6,11 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <system_error>
 #include <utility>
 
 #include "base/file_error.hpp"
 #include "base/files.hpp"
+#include "base/system_reason.hpp"
 #include "base/translated_texts.hpp"
 
 namespace korven::base {
@@ -18,9 +18,8 @@ namespace korven::base {
 namespace {
 
 [[noreturn]] void nonScritto(const std::string& percorso, int codice) {
-    throw ErroreScrittura(percorso, 0,
-                          traduttore("impossibile scrivere il file") + " (" +
-                              std::generic_category().message(codice) + ")");
+    throw ErroreScrittura(
+        percorso, 0, traduttore("impossibile scrivere il file") + " (" + motivoSistema(codice) + ")");
 }
 
 bool sostituisci(int file, std::string_view contenuto, const Disco& disco) {

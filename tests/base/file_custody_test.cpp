@@ -35,7 +35,12 @@ TEST(InCustodia, LosesAFileThatCannotBeRewritten) {
     const test::DiscoPieno disco(2);
     InCustodia file;
     ASSERT_TRUE(file.prendiFile(cartella / "f"));
-    EXPECT_THROW(file.riscrivi("troppo", disco), ErroreScrittura);
+    try {
+        file.riscrivi("troppo", disco);
+        ADD_FAILURE() << "a full disk passed";
+    } catch (const ErroreScrittura& errore) {
+        EXPECT_EQ(errore.atteso(), "impossibile scrivere il file (non c'è più spazio sul disco)");
+    }
     EXPECT_FALSE(file.portaIlNome());
     EXPECT_TRUE(fs::is_empty(cartella.percorso()));
 }
