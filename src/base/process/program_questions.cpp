@@ -1,5 +1,6 @@
 #include "base/process/program_questions.hpp"
 
+#include <algorithm>
 #include <exception>
 
 #include "base/files.hpp"
@@ -12,30 +13,48 @@ namespace korven::base {
 
 namespace {
 
-struct Parola {
-    std::string_view parola;
+// A question with its names on the command line.
+struct Domanda {
     Richiesta richiesta;
+    std::string_view breve, inglese, italiano;
+    std::string_view spiegazione;  // Italian key
 };
 
-constexpr Parola parole[] = {{"--version", Richiesta::versione},
-                             {"--versione", Richiesta::versione},
-                             {"--help", Richiesta::aiuto},
-                             {"--aiuto", Richiesta::aiuto},
-                             {"-h", Richiesta::aiuto}};
+constexpr Domanda domande[] = {
+    {Richiesta::aiuto, "-h", "--help", "--aiuto", "mostra questo aiuto"},
+    {Richiesta::versione, {}, "--version", "--versione", "mostra la versione"}};
+
+// As the help of korven32c shows them: the Italian name in Italian alone.
+std::string nomi(const Domanda& domanda) {
+    std::string tutti(domanda.breve);
+    if (!tutti.empty()) tutti += ", ";
+    tutti += domanda.inglese;
+    if (linguaCorrente() == colonnaItaliano) tutti.append(", ").append(domanda.italiano);
+    return tutti;
+}
 
 }  // namespace
 
 Richiesta richiesta(std::string_view argomento) {
-    for (const auto& [parola, domanda] : parole)
-        if (argomento == parola) return domanda;
+    for (const auto& [richiesta, breve, inglese, italiano, spiegazione] : domande)
+        if (argomento == inglese || argomento == italiano ||
+            (!breve.empty() && argomento == breve))
+            return richiesta;
     return Richiesta::nessuna;
 }
 
 std::string testoAiuto(std::string_view uso) {
-    return std::string(nomeEVersione) + " - " +
-           traduttore("Dimensionamento di Paratie e Diaframmi") + "\n" + traduttore("Uso") + ": " +
-           std::string(uso) + "\n\n  -h, --help, --aiuto    " + traduttore("mostra questo aiuto") +
-           "\n  --version, --versione  " + traduttore("mostra la versione") + "\n";
+    std::size_t larghezza = 0;
+    for (const auto& domanda : domande) larghezza = std::max(larghezza, nomi(domanda).size());
+    std::string testo = std::string(nomeEVersione) + " - " +
+                        traduttore("Dimensionamento di Paratie e Diaframmi") + "\n" +
+                        traduttore("Uso") + ": " + std::string(uso) + "\n\n";
+    for (const auto& domanda : domande) {
+        std::string riga = "  " + nomi(domanda);
+        riga.resize(larghezza + 4, ' ');
+        testo += riga + traduttore(domanda.spiegazione) + '\n';
+    }
+    return testo;
 }
 
 void scegliLinguaSilenziosa() {

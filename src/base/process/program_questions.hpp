@@ -14,7 +14,8 @@ enum class Richiesta { nessuna, versione, aiuto };
 [[nodiscard]] Richiesta richiesta(std::string_view argomento);
 
 /// The help of a program that has no options of its own: name and version, `uso` as the way it is
-/// called, the two questions. Lines, in the language in force.
+/// called, the two questions with the names that belong to the language. Lines, in the language in
+/// force.
 [[nodiscard]] std::string testoAiuto(std::string_view uso);
 
 /// The language that `language.cfg` of the program folder names, for what is told before anything
