@@ -36,6 +36,10 @@ struct Tavola {
     std::optional<analysis::Diagramma> diagramma;
 };
 
+Gemelli gemelli(const base::ParolaFile& parola) {
+    return {std::string(parola.italiana), std::string(parola.inglese)};
+}
+
 bool tavolaSezione(Esito&) {
     drawings::disegnaSezione(Progetto);
     return true;
@@ -54,8 +58,8 @@ const std::vector<Tavola>& tavole() {
         fatte.reserve(analysis::diagrammi.size() + 2);
         for (const auto& riga : analysis::diagrammi)
             fatte.push_back({nomeDiagramma(riga), nullptr, riga.diagramma});
-        fatte.push_back({{"sezione", "section"}, tavolaSezione, std::nullopt});
-        fatte.push_back({{"stratigrafia", "log"}, tavolaStratigrafia, std::nullopt});
+        fatte.push_back({gemelli(base::parolaSezione), tavolaSezione, std::nullopt});
+        fatte.push_back({gemelli(base::parolaStratigrafia), tavolaStratigrafia, std::nullopt});
         return fatte;
     }();
     return tutte;
@@ -88,7 +92,7 @@ FormatiRelazione formatiRelazione() {
     FormatiRelazione chiesti;
     chiesti.testo = chiesti.documento = true;
     chiesti.pdf =
-        nomeProprio({std::string(base::parolaRelazione), std::string(base::parolaReport)}, "pdf");
+        nomeProprio(gemelli(base::parolaRelazione), "pdf");
     return chiesti;
 }
 

@@ -95,7 +95,7 @@ std::vector<std::string> relazioniRimaste(const std::string& progetto) {
     std::vector<std::string> rimaste;
     for (const auto& percorso : {relazione, nomeTesto(relazione), base::nomeDocumento(relazione),
                                  base::nomePdfRelazione(progetto),
-                                 base::nomeUscita(progetto, base::parolaReport, "pdf")}) {
+                                 base::nomeUscita(progetto, base::parolaRelazione.inglese, "pdf")}) {
         std::error_code errore;
         if (fs::is_regular_file(percorso, errore) && !project::prendeIlPostoDelProgetto(percorso))
             rimaste.push_back(percorso);

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "base/folders/file_names.hpp"
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
 #include "drawings/section_views.hpp"
@@ -67,7 +68,7 @@ void vista(const project::Sezione& sezione) {
 
 void disegnaSezione(const project::DatiProgetto& dati) {
     plot::apriFoglio(dati.titoli, traduttore("SEZIONE ELEMENTO STRUTTURALE"));
-    plot::statoPlot.nome = "sezione";
+    plot::statoPlot.nome = base::parolaSezione.italiana;
     nomiDeiLati();
     plot::plotPenna(4);
     riquadroMateriali(dati.sezione);

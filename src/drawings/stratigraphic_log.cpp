@@ -1,5 +1,6 @@
 #include "drawings/stratigraphic_log.hpp"
 
+#include "base/folders/file_names.hpp"
 #include "base/translated_texts.hpp"
 #include "drawings/log_columns.hpp"
 #include "plot/plot_engine.hpp"
@@ -71,7 +72,7 @@ std::string_view motivoSenzaDisegno(double altezzaPagina) {
 void disegnaStratigrafia(const project::DatiProgetto& dati, double altezzaPagina) {
     const double bordo = bordoInferiore(altezzaPagina);
     plot::plotApri(0, bordo, larghezzaStratigrafia, altezzaStratigrafia);
-    plot::statoPlot.nome = "stratigrafia";
+    plot::statoPlot.nome = base::parolaStratigrafia.italiana;
     disegnaIntestazione(dati.titoli);
     disegnaTabella({dati, ScalaProfondita(dati.profStrato[dati.nStrati], bordo)});
     plot::plotMuovi(0, 0, plot::fineDisegno);

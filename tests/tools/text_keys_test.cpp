@@ -61,7 +61,8 @@ const std::map<std::string, Texts> noTexts = {
     {"analysis/segment_count.cpp", {"nseg.txt"}},
     {"analysis/unfinished_results.cpp", {"sigmaVv"}},
     {"base/folders/file_names.cpp", {"OUT", "TAB", "doc", "pdf"}},
-    {"base/folders/file_names.hpp", {"relazione", "report"}},
+    {"base/folders/file_names.hpp",
+     {"relazione", "report", "sezione", "section", "stratigrafia", "log"}},
     {"base/file_identity.cpp", {"/.korven-XXXXXX", "/.KORVEN-"}},
     {"base/process/closed_pipe.cpp", {"/dev/null"}},
     {"base/files.cpp", {"/.korven-XXXXXX"}},
@@ -77,9 +78,7 @@ const std::map<std::string, Texts> noTexts = {
     {"batch/main.cpp", {"korven32c:"}},
     {"batch/console_program.cpp", {"korven32c:"}},
     {"batch/run/failure.cpp", {"korven32c:"}},
-    {"batch/all.cpp",
-     {"sezione", "section", "stratigrafia", "log", "pdf", "dxf", "svg", "png", "pdf,dxf,svg,png",
-      "[pdf,dxf]", "tutto", "all"}},
+    {"batch/all.cpp", {"pdf", "dxf", "svg", "png", "pdf,dxf,svg,png", "[pdf,dxf]", "tutto", "all"}},
     {"batch/calculate.cpp", {"calcola", "calculate"}},
     {"batch/check.cpp", {"verifica", "check"}},
     {"batch/diagram.cpp", {"diagramma", "diagram"}},
@@ -242,9 +241,7 @@ const std::map<std::string, Texts> noTexts = {
     {"results/report_data.cpp", {"nseg.txt"}},
     {"report/footer.cpp", {"…", "–"}},
     {"report/footer.hpp", {"2,2,2,2,2,2,12,Arial"}},
-    {"drawings/stratigraphic_log.cpp", {"stratigrafia"}},
     {"markup/syllable_rule.cpp", {"BCDFGLMNPQRSTVZbcdfglmnpqrstvz", "AEIOUaeiou"}},
-    {"drawings/section_drawing.cpp", {"sezione"}},
 };
 
 bool letter(char c) {

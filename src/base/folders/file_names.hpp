@@ -29,9 +29,15 @@ namespace korven::base {
 [[nodiscard]] std::string nomeUscita(std::string_view progetto, std::string_view nome,
                                      std::string_view estensione);
 
-/// What the PDF file of a report is called after its project: the Italian word, and the one that
-/// the command line takes in all other languages.
-inline constexpr std::string_view parolaRelazione = "relazione", parolaReport = "report";
+/// A word by which a made file is told from the others of its project: the Italian one, which the
+/// desktop takes in every language, and the one of the command line in all other languages.
+struct ParolaFile {
+    std::string_view italiana, inglese;
+};
+
+inline constexpr ParolaFile parolaRelazione{"relazione", "report"};
+inline constexpr ParolaFile parolaSezione{"sezione", "section"};
+inline constexpr ParolaFile parolaStratigrafia{"stratigrafia", "log"};
 
 /// Path of the PDF file of a project's report: "DIR/muro-relazione.pdf".
 [[nodiscard]] std::string nomePdfRelazione(std::string_view progetto);

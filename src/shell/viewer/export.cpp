@@ -12,8 +12,8 @@ namespace korven::shell {
 
 namespace {
 
-// As the command line names the drawings of a project; that of the DXF file with another extension
-// where the drawing has no name.
+// As the command line names the drawings of a project in Italian: the name that a drawing bears is
+// the same in every language. Where it bears none, that of the DXF file with another extension.
 std::string nomeDisegno(std::string_view estensione) {
     const std::string& nome = plot::statoPlot.nome;
     if (!nome.empty() && !project::fileCorrente.empty()) {
