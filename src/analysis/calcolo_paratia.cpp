@@ -8,13 +8,13 @@
 #include "analysis/run_flags.hpp"
 #include "analysis/segment_count.hpp"
 #include "analysis/staged_run.hpp"
+#include "analysis/stiffness_update.hpp"
 #include "base/folders/file_names.hpp"
 #include "base/number_text.hpp"
 #include "base/pointer_guard.hpp"
 #include "base/translated_texts.hpp"
 #include "project/output_guard.hpp"
 #include "structure/partial_factors.hpp"
-#include "structure/stiffness_update.hpp"
 
 namespace korven::analysis {
 
@@ -121,8 +121,7 @@ void CalcoloParatia(ModoUscita modoUscita, const PorteCalcolo& porte) {
 
     NomeRisultati nome;
     structure::MomentiResistenti MRd;
-    structure::aggiornaEJ(Progetto.sezione, Progetto.sforzoNormale, Progetto.rigidezzaEJ, MRd,
-                          porte.dialogo);
+    aggiornaEJ(Progetto.sezione, Progetto.sforzoNormale, Progetto.rigidezzaEJ, MRd, porte.dialogo);
     if (Progetto.rigidezzaEJ == 0) {
         nome.lascia();
         return avvisa(porte.dialogo, traduttore(messaggioSenzaEJ));

@@ -3,7 +3,7 @@
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
 #include "project/codes.hpp"
-#include "structure/stiffness_update.hpp"
+#include "structure/offered_stiffness.hpp"
 
 namespace korven::analysis {
 

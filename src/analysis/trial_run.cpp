@@ -5,7 +5,7 @@
 
 #include "analysis/input_checks.hpp"
 #include "analysis/staged_run.hpp"
-#include "structure/stiffness_update.hpp"
+#include "structure/offered_stiffness.hpp"
 
 namespace korven::analysis {
 

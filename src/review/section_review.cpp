@@ -4,10 +4,10 @@
 #include "analysis/run_arrays.hpp"
 #include "base/translated_texts.hpp"
 #include "review/remark_list.hpp"
+#include "structure/offered_stiffness.hpp"
 #include "structure/section_millimetres.hpp"
 #include "structure/section_type.hpp"
 #include "structure/section_validity.hpp"
-#include "structure/stiffness_update.hpp"
 
 namespace korven::review {
 

@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
 #include "review/remark_list.hpp"
+#include "structure/offered_stiffness.hpp"
 #include "structure/section_millimetres.hpp"
-#include "structure/stiffness_update.hpp"
 #include "support/run_harness.hpp"
 #include "support/sample_projects.hpp"
 #include "support/sample_sections.hpp"
