@@ -9,7 +9,7 @@
 #include "analysis/run_flags.hpp"
 #include "analysis/segment_count.hpp"
 #include "base/folders/file_names.hpp"
-#include "commands/project_commands.hpp"
+#include "commands/report_files.hpp"
 #include "example_run.hpp"
 #include "shell/run/progress_qt.hpp"
 #include "support/dialog_double.hpp"

@@ -3,7 +3,7 @@
 #include "batch/run/console_run.hpp"
 #include "batch/run/failure.hpp"
 #include "batch/run/reviewed_run.hpp"
-#include "commands/project_commands.hpp"
+#include "commands/report_files.hpp"
 
 namespace korven::batch {
 

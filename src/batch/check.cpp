@@ -5,7 +5,7 @@
 #include "batch/options/common_options.hpp"
 #include "batch/run/failure.hpp"
 #include "batch/run/reviewed_run.hpp"
-#include "commands/project_commands.hpp"
+#include "commands/report_files.hpp"
 #include "project/project_data.hpp"
 
 namespace korven::batch {

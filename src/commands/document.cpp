@@ -9,7 +9,7 @@
 #include "base/translated_texts.hpp"
 #include "commands/document_names.hpp"
 #include "commands/last_folder.hpp"
-#include "commands/project_commands.hpp"
+#include "commands/project_opening.hpp"
 #include "project/output_guard.hpp"
 #include "project/project_data.hpp"
 #include "project/project_file.hpp"

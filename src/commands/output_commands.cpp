@@ -12,7 +12,7 @@
 #include "base/translated_texts.hpp"
 #include "base/value_error.hpp"
 #include "commands/diagram_output.hpp"
-#include "commands/project_commands.hpp"
+#include "commands/report_files.hpp"
 #include "drawings/section_drawing.hpp"
 #include "drawings/stratigraphic_log.hpp"
 #include "plot/drawing_stop.hpp"

@@ -10,7 +10,7 @@
 #include "base/folders/program_folder.hpp"
 #include "base/text_lines.hpp"
 #include "base/translated_texts.hpp"
-#include "commands/project_commands.hpp"
+#include "commands/report_files.hpp"
 #include "markup/text_renderer.hpp"
 #include "project/output_guard.hpp"
 

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "commands/diagram_output.hpp"
-#include "commands/project_commands.hpp"
+#include "commands/report_files.hpp"
 #include "drawings/stratigraphic_log.hpp"
 #include "masks/edited_tables.hpp"
 #include "results/run_outcome.hpp"

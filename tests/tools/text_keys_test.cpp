@@ -97,7 +97,7 @@ const std::map<std::string, Texts> noTexts = {
      {"language.cfg", "texts01.txt", "texts06.txt", "texts32.txt", "LC_ALL", "LC_MESSAGES", "LANG",
       "ita", "deu", "fra", "esp", "eng", "por"}},
     {"base/process/processi.cpp", {"xdg-open"}},
-    {"commands/project_commands.cpp", {"txt", "pdf"}},
+    {"commands/report_files.cpp", {"txt", "pdf"}},
     {"commands/report_export.cpp", {"windir", "/notepad.exe", "/outdoc", ".txt", "editor.cfg"}},
     {"commands/output_title.cpp", {"KORVEN 32 -"}},
     {"commands/report_export.hpp", {"NotePad|*.txt", "txt"}},

@@ -13,7 +13,7 @@
 #include "base/value_error.hpp"
 #include "batch/run/output_names.hpp"
 #include "commands/fatal_error.hpp"
-#include "commands/project_commands.hpp"
+#include "commands/report_files.hpp"
 #include "plot/drawing_stop.hpp"
 #include "project/project_data.hpp"
 

@@ -3,7 +3,7 @@
 #include "base/file_identity.hpp"
 #include "base/folders/file_names.hpp"
 #include "base/translated_texts.hpp"
-#include "commands/project_commands.hpp"
+#include "commands/report_files.hpp"
 #include "project/project_data.hpp"
 
 namespace korven::batch {

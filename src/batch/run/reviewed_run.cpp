@@ -7,7 +7,7 @@
 #include "base/files.hpp"
 #include "batch/run/failure.hpp"
 #include "batch/run/interruption.hpp"
-#include "commands/project_commands.hpp"
+#include "commands/project_opening.hpp"
 #include "project/project_data.hpp"
 
 namespace korven::batch {

@@ -1,16 +1,14 @@
-#include "commands/project_commands.hpp"
+#include "commands/report_files.hpp"
 
 #include <filesystem>
 
 #include "base/file_error.hpp"
 #include "base/files.hpp"
 #include "base/folders/file_names.hpp"
-#include "base/folders/leftovers.hpp"
 #include "base/text_lines.hpp"
 #include "base/translated_texts.hpp"
 #include "markup/text_renderer.hpp"
 #include "project/output_guard.hpp"
-#include "project/project_file.hpp"
 #include "report/calculation_report.hpp"
 
 namespace korven::commands {
@@ -19,23 +17,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::string cartellaAssoluta(const fs::path& cartella) {
-    std::error_code errore;
-    const fs::path intera = fs::absolute(cartella, errore);
-    const fs::path vera = fs::weakly_canonical(intera, errore);
-    if (errore) return intera.lexically_normal().string();
-    return (vera.has_filename() ? vera : vera.parent_path()).string();  // no separator at the end
-}
-
-// The folder is that which the system would go to, also through "link/.."; the name of the file
-// stays as it was typed, since the names of the results follow from it.
-std::string percorsoAssoluto(const fs::path& percorso) {
-    return (fs::path(
-                cartellaAssoluta(percorso.parent_path().empty() ? "." : percorso.parent_path())) /
-            percorso.filename())
-        .string();
-}
-
 // A name may be nothing but an extension (".kvd"), which the library takes for a name.
 std::string senzaEstensione(const fs::path& percorso) {
     const std::string nome = percorso.filename().string();
@@ -43,24 +24,6 @@ std::string senzaEstensione(const fs::path& percorso) {
 }
 
 }  // namespace
-
-void togliResti(const std::string& progetto) {
-    base::togliCartelleProvvisorie();
-    base::togliProvvisori(fs::path(progetto).parent_path().string());
-}
-
-void apriProgetto(const std::string& percorso, const std::string& uscita) {
-    const std::string progetto = percorsoAssoluto(percorso);
-    project::azzeraProgetto();
-    project::fileCorrente = progetto;
-    project::progettiProtetti = {.letto = progetto, .corrente = {}};
-    togliResti(progetto);
-    project::leggiProgetto();
-    if (uscita.empty()) return;
-    project::fileCorrente =
-        (fs::path(cartellaAssoluta(uscita)) / fs::path(progetto).filename()).string();
-    togliResti(project::fileCorrente);
-}
 
 std::vector<std::string> UscitaRelazione::file(analysis::ModoUscita modoUscita,
                                                const std::string& risultati) const {
@@ -93,9 +56,10 @@ std::string scriviTesto(const std::string& relazione, const base::Disco& disco) 
 std::vector<std::string> relazioniRimaste(const std::string& progetto) {
     const std::string relazione = base::nomeRelazione(base::nomeRisultati(progetto));
     std::vector<std::string> rimaste;
-    for (const auto& percorso : {relazione, nomeTesto(relazione), base::nomeDocumento(relazione),
-                                 base::nomePdfRelazione(progetto),
-                                 base::nomeUscita(progetto, base::parolaRelazione.inglese, "pdf")}) {
+    for (const auto& percorso :
+         {relazione, nomeTesto(relazione), base::nomeDocumento(relazione),
+          base::nomePdfRelazione(progetto),
+          base::nomeUscita(progetto, base::parolaRelazione.inglese, "pdf")}) {
         std::error_code errore;
         if (fs::is_regular_file(percorso, errore) && !project::prendeIlPostoDelProgetto(percorso))
             rimaste.push_back(percorso);
