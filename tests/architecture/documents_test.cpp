@@ -6,6 +6,7 @@
 #include <iterator>
 #include <regex>
 #include <set>
+#include <sstream>
 #include <string>
 
 // What the documents for developers say of the source, compared with it.
@@ -46,13 +47,71 @@ TEST(Documents, NameATestForEveryTraitThatIsRequired) {
     for (const auto& name : named) EXPECT_TRUE(tests.contains(name)) << name;
 }
 
-TEST(Documents, ShowEveryRoom) {
-    const std::string document = contentOf(fs::path(KORVEN_DOCS) / "architecture.md");
-    const std::string rooms = contentOf(KORVEN_ROOMS);
-    for (const auto& room : found(rooms, std::regex("(?:^|\\n)([\\w/]+):"))) {
-        const std::string last = room.substr(room.rfind('/') + 1);
-        EXPECT_TRUE(std::regex_search(document, std::regex("\\b" + last + "\\b"))) << room;
+using Names = std::set<std::string>;
+
+// The part of a text after `start`, up to `end`.
+std::string partOf(const std::string& text, const std::string& start, const std::string& end) {
+    const auto from = text.find(start);
+    if (from == std::string::npos) return {};
+    return text.substr(from + start.size(),
+                       text.find(end, from + start.size()) - from - start.size());
+}
+
+Names words(const std::string& text) { return found(text, std::regex("([\\w]+)")); }
+
+// The rooms of a line of the picture: "flows    commands: start    what a command does". Columns
+// are parted by two blanks or more; the first is a heading, one of several words without a colon a
+// remark, and after a colon are the rooms inside.
+Names roomsDrawnIn(std::string line) {
+    Names rooms;
+    const std::regex gap(" {2,}");
+    line.erase(line.find_last_not_of(' ') + 1);
+    std::sregex_token_iterator column(line.begin(), line.end(), gap, -1), end;
+    for (++column; column != end; ++column) {
+        const std::string cell = *column;
+        const auto colon = cell.find(':');
+        const std::string outer = cell.substr(0, colon);
+        if (outer.find(' ') != std::string::npos) continue;
+        rooms.insert(outer);
+        if (colon == std::string::npos) continue;
+        for (const auto& inner : words(cell.substr(colon))) rooms.insert(outer + '/' + inner);
     }
+    return rooms;
+}
+
+Names roomsOfThePicture(const std::string& document) {
+    std::istringstream lines(partOf(document, "```\n", "```"));
+    Names rooms;
+    for (std::string line; std::getline(lines, line);) rooms.merge(roomsDrawnIn(line));
+    return rooms;
+}
+
+// "| `base` | ...; `folders`: what is in it |": a room, and those inside it before a colon.
+Names roomsOfTheTable(const std::string& document) {
+    std::istringstream lines(partOf(document, "| Room | Holds |\n| --- | --- |\n", "\n\n"));
+    Names rooms;
+    for (std::string line; std::getline(lines, line);) {
+        const std::string outer = partOf(line, "| `", "`");
+        rooms.insert(outer);
+        for (const auto& inner : found(line, std::regex("`(\\w+)`:")))
+            rooms.insert(outer + '/' + inner);
+    }
+    return rooms;
+}
+
+TEST(Documents, ShowEveryRoomAndNoOther) {
+    const std::string document = contentOf(fs::path(KORVEN_DOCS) / "architecture.md");
+    const Names rooms = found(contentOf(KORVEN_ROOMS), std::regex("(?:^|\\n)([\\w/]+):"));
+    EXPECT_GT(rooms.size(), 30u);
+    EXPECT_EQ(roomsOfThePicture(document), rooms);
+    EXPECT_EQ(roomsOfTheTable(document), rooms);
+}
+
+TEST(Documents, AreReadWithRoomsInsideRoomsAndWithoutRemarks) {
+    EXPECT_EQ(roomsDrawnIn("programs  desktop   batch: options run   outdoc   choose the ports"),
+              (Names{"desktop", "batch", "batch/options", "batch/run", "outdoc"}));
+    EXPECT_EQ(roomsOfTheTable("| Room | Holds |\n| --- | --- |\n| `a` | x (`y`); `b`: z |\n\nend"),
+              (Names{"a", "a/b"}));
 }
 
 TEST(Documents, OfTheArchitectureNameFilesThatExist) {

@@ -162,6 +162,14 @@ TEST(IncludeOrder, LibrariesStayInTheFoldersThatMayUseThem) {
     EXPECT_GT(read, 100);
 }
 
+// It costs more to compile than all else together, and what is typed is read in one place.
+TEST(IncludeOrder, OneFileAloneReadsTheCommandLineByItsLibrary) {
+    std::set<std::string> files;
+    for (const auto& include : allIncludes())
+        if (include.name.starts_with("CLI")) files.insert(include.file);
+    EXPECT_EQ(files, std::set<std::string>{"batch/options/command_line.cpp"});
+}
+
 TEST(IncludeOrder, NoRoomKnowsItselfByAWayRound) {
     for (const auto& [room, known] : rooms) {
         for (const auto& other : known) ASSERT_TRUE(rooms.contains(other)) << other;
