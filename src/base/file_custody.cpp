@@ -19,7 +19,8 @@ namespace {
 
 [[noreturn]] void nonScritto(const std::string& percorso, int codice) {
     throw ErroreScrittura(
-        percorso, 0, traduttore("impossibile scrivere il file") + " (" + motivoSistema(codice) + ")");
+        percorso, 0,
+        traduttore("impossibile scrivere il file") + " (" + motivoSistema(codice) + ")");
 }
 
 bool sostituisci(int file, std::string_view contenuto, const Disco& disco) {

@@ -91,8 +91,7 @@ FormatiDisegno formatiTavola(const Opzioni& opzioni, const Tavola& tavola) {
 FormatiRelazione formatiRelazione() {
     FormatiRelazione chiesti;
     chiesti.testo = chiesti.documento = true;
-    chiesti.pdf =
-        nomeProprio(gemelli(base::parolaRelazione), "pdf");
+    chiesti.pdf = nomeProprio(gemelli(base::parolaRelazione), "pdf");
     return chiesti;
 }
 

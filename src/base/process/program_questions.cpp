@@ -37,8 +37,7 @@ std::string nomi(const Domanda& domanda) {
 
 Richiesta richiesta(std::string_view argomento) {
     for (const auto& [richiesta, breve, inglese, italiano, spiegazione] : domande)
-        if (argomento == inglese || argomento == italiano ||
-            (!breve.empty() && argomento == breve))
+        if (argomento == inglese || argomento == italiano || (!breve.empty() && argomento == breve))
             return richiesta;
     return Richiesta::nessuna;
 }

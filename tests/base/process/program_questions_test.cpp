@@ -32,7 +32,7 @@ TEST(TestoAiuto, ShowsTheEnglishNamesAloneInEveryOtherLanguage) {
         EXPECT_NE(testo.find("\n  -h, --help  mostra questo aiuto\n"
                              "  --version   mostra la versione\n"),
                   std::string::npos)
-            << testo;  // no texts are loaded
+            << testo;                                       // no texts are loaded
         EXPECT_EQ(richiesta("--aiuto"), Richiesta::aiuto);  // understood all the same
     }
     impostaLingua(1);
