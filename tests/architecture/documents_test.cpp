@@ -86,9 +86,13 @@ Names roomsOfThePicture(const std::string& document) {
     return rooms;
 }
 
-// "| `base` | ...; `folders`: what is in it |": a room, and those inside it before a colon.
+std::string tableOfRooms(const std::string& document) {
+    return partOf(document, "| --- | --- | --- |\n", "\n\n");
+}
+
+// "| `base` | ...; `folders`: what is in it | ... |": a room, and those inside it before a colon.
 Names roomsOfTheTable(const std::string& document) {
-    std::istringstream lines(partOf(document, "| Room | Holds |\n| --- | --- |\n", "\n\n"));
+    std::istringstream lines(tableOfRooms(document));
     Names rooms;
     for (std::string line; std::getline(lines, line);) {
         const std::string outer = partOf(line, "| `", "`");
@@ -107,11 +111,47 @@ TEST(Documents, ShowEveryRoomAndNoOther) {
     EXPECT_EQ(roomsOfTheTable(document), rooms);
 }
 
+// A line for each room: the room, a colon and those that it knows, without itself and `base`.
+Names arrowsOfTheTable(const std::string& document) {
+    std::istringstream lines(tableOfRooms(document));
+    Names arrows;
+    for (std::string line; std::getline(lines, line);) {
+        const std::string outer = partOf(line, "| `", "`");
+        const std::string known = line.substr(line.rfind('|', line.size() - 2));
+        for (const auto& room : words(known)) arrows.insert(outer + ": " + room);
+    }
+    return arrows;
+}
+
+Names arrowsOfTheHouse(const std::string& list) {
+    std::istringstream lines(list);
+    Names arrows;
+    for (std::string line; std::getline(lines, line);) {
+        const auto outer = [](const std::string& room) { return room.substr(0, room.find('/')); };
+        const std::string room = outer(line.substr(0, line.find(':')));
+        std::istringstream known(line.substr(line.find(':') + 1));
+        for (std::string other; known >> other;)
+            if (outer(other) != room && outer(other) != "base")
+                arrows.insert(room + ": " + outer(other));
+    }
+    return arrows;
+}
+
+TEST(Documents, SayWhatEveryRoomKnows) {
+    const std::string document = contentOf(fs::path(KORVEN_DOCS) / "architecture.md");
+    const Names arrows = arrowsOfTheHouse(contentOf(KORVEN_ROOMS));
+    EXPECT_GT(arrows.size(), 40u);
+    EXPECT_EQ(arrowsOfTheTable(document), arrows);
+}
+
 TEST(Documents, AreReadWithRoomsInsideRoomsAndWithoutRemarks) {
     EXPECT_EQ(roomsDrawnIn("programs  desktop   batch: options run   outdoc   choose the ports"),
               (Names{"desktop", "batch", "batch/options", "batch/run", "outdoc"}));
-    EXPECT_EQ(roomsOfTheTable("| Room | Holds |\n| --- | --- |\n| `a` | x (`y`); `b`: z |\n\nend"),
+    EXPECT_EQ(roomsOfTheTable("| --- | --- | --- |\n| `a` | x (`y`); `b`: z | – |\n\nend"),
               (Names{"a", "a/b"}));
+    EXPECT_EQ(arrowsOfTheTable("| --- | --- | --- |\n| `a` | x | b, c |\n| `b` | y | – |\n\n"),
+              (Names{"a: b", "a: c"}));
+    EXPECT_EQ(arrowsOfTheHouse("a: base b/x\na/y: a c\nb: base\n"), (Names{"a: b", "a: c"}));
 }
 
 TEST(Documents, OfTheArchitectureNameFilesThatExist) {

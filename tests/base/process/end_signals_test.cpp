@@ -6,13 +6,19 @@ namespace korven::base {
 namespace {
 
 TEST(SegnaliFine, HandsOutEachSignalOnce) {
-    const SegnaliFine segnali;
-    EXPECT_EQ(segnali.prossimo(), 0);
-    std::raise(SIGTERM);
-    std::raise(SIGHUP);
-    EXPECT_EQ(segnali.prossimo(), SIGTERM);
-    EXPECT_EQ(segnali.prossimo(), SIGHUP);
-    EXPECT_EQ(segnali.prossimo(), 0);
+    // Whoever runs the tests from a job in the background may have them ignored.
+    const auto primaTerm = std::signal(SIGTERM, SIG_DFL), primaHup = std::signal(SIGHUP, SIG_DFL);
+    {
+        const SegnaliFine segnali;
+        EXPECT_EQ(segnali.prossimo(), 0);
+        std::raise(SIGTERM);
+        std::raise(SIGHUP);
+        EXPECT_EQ(segnali.prossimo(), SIGTERM);
+        EXPECT_EQ(segnali.prossimo(), SIGHUP);
+        EXPECT_EQ(segnali.prossimo(), 0);
+    }
+    std::signal(SIGTERM, primaTerm);
+    std::signal(SIGHUP, primaHup);
 }
 
 TEST(SegnaliFine, PutsTheHandlersBackAndLeavesIgnoredOnesAlone) {
