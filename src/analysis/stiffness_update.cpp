@@ -12,22 +12,27 @@ namespace korven::analysis {
 
 namespace {
 
+namespace unita = project::unita;
+
 // As the editors show it.
-std::string riga(std::string_view cosa, double EJ) {
-    return base::traduttore(cosa) + ": " + base::testoNumero(project::inKilonewton(EJ));
+std::string riga(const std::string& etichetta, double EJ) {
+    return base::traduttore(etichetta) + ": " +
+           base::testoNumero(mostrato(unita::rigidezzaFlessionale, EJ));
 }
 
 bool accettaSostituzione(double attuale, double calcolata, base::Dialogo& dialogo) {
     using base::traduttore;
+    using project::etichetta;
     const auto testo = traduttore(
                            "Volete sostituire Il valore di EJ correntemente definito con quello "
                            "ricalcolato in base alle caratteristiche strutturali del diaframma") +
                        "?";
     const auto titolo = traduttore("ATTENZIONE") + "!";
+    const auto valori =
+        riga(etichetta("EJ del progetto", unita::rigidezzaFlessionale), attuale) + '\n' +
+        riga(etichetta("EJ calcolato dalla sezione", unita::rigidezzaFlessionale), calcolata);
     return dialogo.domandaInformata(testo, titolo, base::Pulsanti::siNo, base::Icona::domanda,
-                                    riga("EJ del progetto [kN m²]", attuale) + '\n' +
-                                        riga("EJ calcolato dalla sezione [kN m²]", calcolata)) ==
-           base::Risposta::si;
+                                    valori) == base::Risposta::si;
 }
 
 }  // namespace

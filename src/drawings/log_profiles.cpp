@@ -13,6 +13,9 @@ namespace korven::drawings {
 
 namespace {
 
+namespace unita = project::unita;
+using project::etichetta;
+
 using ColonnaStrati = base::Tabella<double, project::massimoStrati>;
 
 // A value axis from the left edge of the column to its right one.
@@ -20,16 +23,13 @@ struct AsseProfilo {
     double fondoScala;
     double passo;
     int tacche;
-    project::Membro campo;  // whose unit the numbers at the ticks have
+    project::Unita unita;  // of the values; the numbers at the ticks are shown
 };
 
 class Profilo {
  public:
     Profilo(const Stratigrafia& stratigrafia, const Colonna& colonna, const AsseProfilo& asse)
-        : stratigrafia_(stratigrafia),
-          colonna_(colonna),
-          asse_(asse),
-          campo_(project::campo(asse.campo)) {}
+        : stratigrafia_(stratigrafia), colonna_(colonna), asse_(asse) {}
 
     void tacche() const {
         constexpr double sopraTesta = 0.1;
@@ -37,7 +37,7 @@ class Profilo {
             const double valore = k * asse_.passo;
             plot::linea(x(valore), piedeTabella, x(valore), testaTabella);
             plot::testoCentrato(x(valore), testaTabella + sopraTesta, altezzaNumeriColonna,
-                                base::formattaMaschera(mostrato(campo_, valore), "00"));
+                                base::formattaMaschera(mostrato(asse_.unita, valore), "00"));
         }
     }
 
@@ -59,7 +59,6 @@ class Profilo {
     const Stratigrafia& stratigrafia_;
     const Colonna& colonna_;
     const AsseProfilo& asse_;
-    const project::Campo& campo_;
 };
 
 void disegnaProfilo(const Stratigrafia& stratigrafia, const Colonna& colonna,
@@ -79,32 +78,33 @@ double massimo(const ColonnaStrati& valori, int n) {
 }  // namespace
 
 void disegnaPesi(const Stratigrafia& stratigrafia, const Colonna& colonna) {
-    disegnaTestata(colonna, {"gamma N [kN/m³]", "gamma S [kN/m³]"});
+    disegnaTestata(colonna, {etichetta("gamma N", unita::peso), etichetta("gamma S", unita::peso)});
     const auto& dati = stratigrafia.dati;
-    disegnaProfilo(stratigrafia, colonna, {3, 0.5, 5, &project::DatiProgetto::gammaN},
-                   {&dati.gammaN, &dati.gammaSat});
+    disegnaProfilo(stratigrafia, colonna, {3, 0.5, 5, unita::peso}, {&dati.gammaN, &dati.gammaSat});
 }
 
 void disegnaAttrito(const Stratigrafia& stratigrafia, const Colonna& colonna) {
-    disegnaTestata(colonna, {"angolo attrito [°]"});
-    disegnaProfilo(stratigrafia, colonna, {50, 10, 4, &project::DatiProgetto::phiStrato},
+    disegnaTestata(colonna, {etichetta("angolo attrito", unita::gradi)});
+    disegnaProfilo(stratigrafia, colonna, {50, 10, 4, unita::gradi},
                    {&stratigrafia.dati.phiStrato});
 }
 
 void disegnaCoesione(const Stratigrafia& stratigrafia, const Colonna& colonna) {
-    constexpr auto campo = &project::DatiProgetto::coesione;
-    constexpr AsseProfilo assi[] = {{5, 1, 4, campo}, {10, 2, 4, campo}, {50, 10, 4, campo}};
+    constexpr project::Unita u = unita::pressione;
+    constexpr AsseProfilo assi[] = {{5, 1, 4, u}, {10, 2, 4, u}, {50, 10, 4, u}};
     const auto& dati = stratigrafia.dati;
     const double c = massimo(dati.coesione, dati.nStrati);
     const double su = massimo(dati.suStrato, dati.nStrati);
+    const std::string efficace = etichetta("c'", unita::pressione);
+    const std::string nonDrenata = etichetta("Su", unita::pressione);
     if (c > 0 && su > 0)
-        disegnaTestata(colonna, {"c' [kN/m²]", "Su [kN/m²]"});
+        disegnaTestata(colonna, {efficace, nonDrenata});
     else if (c > 0)
-        disegnaTestata(colonna, {"c' [kN/m²]"});
+        disegnaTestata(colonna, {efficace});
     else if (su > 0)
-        disegnaTestata(colonna, {"Su [kN/m²]"});
+        disegnaTestata(colonna, {nonDrenata});
     else
-        disegnaTestata(colonna, {"coesione [kN/m²]"});
+        disegnaTestata(colonna, {etichetta("coesione", unita::pressione)});
     const AsseProfilo* asse = assi;
     while (asse + 1 != std::end(assi) && asse->fondoScala < std::max(c, su)) ++asse;
     disegnaProfilo(stratigrafia, colonna, *asse, {&dati.coesione, &dati.suStrato});

@@ -11,7 +11,7 @@ double bordoInferiore(double altezzaPagina) {
 }
 
 ScalaProfondita::ScalaProfondita(double profondita, double bordoInferiore)
-    : N_(100 * profondita / (20.6 - bordoInferiore)) {
+    : N_(project::inCentimetri(profondita) / (20.6 - bordoInferiore)) {
     assert(profondita > 0 && bordoInferiore < 20.6);
 }
 

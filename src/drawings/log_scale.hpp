@@ -1,5 +1,7 @@
 #pragma once
 
+#include "project/units.hpp"
+
 namespace korven::drawings {
 
 /// Height of the paper that the log is made for where there is no printer: A4, upright [cm].
@@ -28,7 +30,9 @@ class ScalaProfondita {
     /// The scale is 1 : N, with N = 100 H / (20.6 - lower edge): all layers fill the column.
     [[nodiscard]] double N() const { return N_; }
     /// Ordinate of a depth [m]: 21 - 100 d / N.
-    [[nodiscard]] double y(double profondita) const { return yTesta - 100 * profondita / N_; }
+    [[nodiscard]] double y(double profondita) const {
+        return yTesta - project::inCentimetri(profondita) / N_;
+    }
 
  private:
     double N_;

@@ -20,31 +20,34 @@ void disegnaIntestazione(const base::Tabella<std::string, 6>& titoli) {
     plot::testoCentrato(11, 25, 0.3, base::traduttore("DESCRIZIONE STRATIGRAFICO-GEOTECNICA"));
 }
 
+namespace unita = project::unita;
+
 struct ColonnaStratigrafia {
     std::string_view testata;  // empty: the contents draw heads of their own
+    project::Unita unita;
     double larghezza;
     void (*contenuto)(const Stratigrafia&, const Colonna&);
 };
 
 constexpr double larghezzaProfilo = 9.6 / 3;
 constexpr ColonnaStratigrafia colonne[] = {
-    {"Profondità [m]", 1.2, disegnaProfondita},
-    {"stratigrafia", 1, disegnaGrafici},
-    {"descrizione", larghezzaDescrizioni, disegnaDescrizioni},
-    {"falda [m]", 1, disegnaFalda},
-    {"", larghezzaProfilo, disegnaPesi},
-    {"", larghezzaProfilo, disegnaAttrito},
-    {"", larghezzaProfilo, disegnaCoesione},
-    {"scala [m]", 1, disegnaScala},
+    {"Profondità", unita::metri, 1.2, disegnaProfondita},
+    {"stratigrafia", unita::nessuna, 1, disegnaGrafici},
+    {"descrizione", unita::nessuna, larghezzaDescrizioni, disegnaDescrizioni},
+    {"falda", unita::metri, 1, disegnaFalda},
+    {"", unita::nessuna, larghezzaProfilo, disegnaPesi},
+    {"", unita::nessuna, larghezzaProfilo, disegnaAttrito},
+    {"", unita::nessuna, larghezzaProfilo, disegnaCoesione},
+    {"scala", unita::metri, 1, disegnaScala},
 };
 
 void disegnaTabella(const Stratigrafia& stratigrafia) {
     plot::plotPenna(pennaRigaTabella);
     plot::linea(sinistraTabella, piedeTabella, sinistraTabella + larghezzaTabella, piedeTabella);
     double x = sinistraTabella;
-    for (const auto& [testata, larghezza, contenuto] : colonne) {
+    for (const auto& [testata, unita, larghezza, contenuto] : colonne) {
         const Colonna colonna{x, larghezza};
-        if (!testata.empty()) disegnaTestata(colonna, {testata});
+        if (!testata.empty()) disegnaTestata(colonna, {etichetta(testata, unita)});
         contenuto(stratigrafia, colonna);
         // The rule after the first column parts it from the others up to the top of the heads.
         const double cima = x == sinistraTabella ? cimaTestata : testaTabella;

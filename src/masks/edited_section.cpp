@@ -55,10 +55,11 @@ double SezioneEditata::scritto(std::size_t campo) const {
 }
 
 // 0.21 is shown as 2.1, and a tenth of that double is not the double 0.21. The decimals are: what
-// is shown names the stored number when its point, moved one place, gives that number's text.
+// is shown names the stored number when its point, moved back, gives that number's text.
 bool SezioneEditata::nominato(std::size_t campo) const {
-    const bool decimi = campiSezione[campo].campo().unita.fattore == 10;
-    const std::string testo = decimi ? mostrati_[campo] + "e-1" : mostrati_[campo];
+    const int posti = project::posti(campiSezione[campo].campo().unita);
+    const std::string testo =
+        posti > 0 ? mostrati_[campo] + "e-" + std::to_string(posti) : mostrati_[campo];
     return base::leggiNumero(testo).value_or(0) == sezione_.*campiSezione[campo].valore;
 }
 

@@ -196,11 +196,14 @@ const Campo& campo(const Membro& membro) {
     return *trovato;
 }
 
-std::string etichetta(const Campo& campo) {
-    std::string testo(campo.didascalia);
-    if (!campo.unita.mostrata.empty()) testo.append(" [").append(campo.unita.mostrata).append("]");
-    return testo;
+const Codice* codice(const Campo& campo, double conservato) {
+    const auto trovato =
+        std::find_if(campo.codici.begin(), campo.codici.end(),
+                     [conservato](const Codice& c) { return c.valore == conservato; });
+    return trovato == campo.codici.end() ? nullptr : &*trovato;
 }
+
+std::string etichetta(const Campo& campo) { return etichetta(campo.didascalia, campo.unita); }
 
 int righe(const DatiProgetto& dati, Parte parte) {
     switch (parte) {

@@ -72,6 +72,9 @@ struct Campo {
 /// The row of a member. @pre there is one, as for every member of the project
 [[nodiscard]] const Campo& campo(const Membro& membro);
 
+/// The code that a stored number of the field is; nullptr for one that is none.
+[[nodiscard]] const Codice* codice(const Campo& campo, double conservato);
+
 /// Caption and unit, as a table or a list is headed: "Gamma Sat. [kN/m³]"; Italian key.
 [[nodiscard]] std::string etichetta(const Campo& campo);
 
@@ -111,7 +114,7 @@ void conValore(Dati& dati, const Campo& campo, int riga, Visita visita) {
 
 /// The number in the unit that people see.
 [[nodiscard]] inline double mostrato(const Campo& campo, double conservato) {
-    return conservato * campo.unita.fattore;
+    return mostrato(campo.unita, conservato);
 }
 [[nodiscard]] double mostrato(const DatiProgetto& dati, const Campo& campo, int riga = 1);
 

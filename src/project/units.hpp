@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 
 // The unit that a number is stored in and the one that people read and type. The factor of a
@@ -10,6 +11,13 @@ namespace korven::project {
 inline constexpr double kilonewton = 10;   ///< in a tonne-force, taken as exactly that
 inline constexpr double millimetri = 10;   ///< in a centimetre
 inline constexpr double centimetri = 100;  ///< in a metre
+
+// The section is calculated in newtons and millimetres.
+inline constexpr double millimetriMetro = millimetri * centimetri;    ///< in a metre
+inline constexpr double newtonKilonewton = 1000;                      ///< in a kilonewton
+inline constexpr double newton = newtonKilonewton * kilonewton;       ///< in a tonne-force
+inline constexpr double newtonMillimetri = newton * millimetriMetro;  ///< in a t m
+inline constexpr double newtonMillimetri2 = newtonMillimetri * millimetriMetro;  ///< in a t m2
 
 /// t to kN, and with it t m to kN m, t/m2 to kN/m2, t/m3 to kN/m3.
 [[nodiscard]] constexpr double inKilonewton(double tonnellate) { return tonnellate * kilonewton; }
@@ -24,6 +32,30 @@ struct Unita {
     double fattore = 1;           ///< the shown number over the stored one
 };
 
+/// The stored number as it is shown.
+[[nodiscard]] constexpr double mostrato(const Unita& unita, double conservato) {
+    return conservato * unita.fattore;
+}
+
+/// Places by which the decimal point of the stored number moves for the shown one.
+[[nodiscard]] constexpr int posti(const Unita& unita) {
+    int n = 0;
+    for (double fattore = unita.fattore; fattore > 1; fattore /= 10) ++n;
+    return n;
+}
+
+/// "[kN m]"; empty where no unit is shown.
+[[nodiscard]] inline std::string traParentesi(const Unita& unita) {
+    return unita.mostrata.empty() ? std::string() : '[' + std::string(unita.mostrata) + ']';
+}
+
+/// Caption and unit, as a table or a list is headed: "Momento [kN m]"; Italian key.
+[[nodiscard]] inline std::string etichetta(std::string_view didascalia, const Unita& unita) {
+    std::string testo(didascalia);
+    if (!unita.mostrata.empty()) testo.append(" ").append(traParentesi(unita));
+    return testo;
+}
+
 namespace unita {
 
 inline constexpr Unita nessuna{"", ""};
@@ -33,6 +65,7 @@ inline constexpr Unita numero{"-", "-"};
 inline constexpr Unita numeroBarre{"-", "-", millimetri};
 inline constexpr Unita gradi{"°", "°"};
 inline constexpr Unita metri{"m", "m"};
+inline constexpr Unita spostamento{"m", "cm", centimetri};
 inline constexpr Unita misura{"cm", "mm", millimetri};  ///< a length of the section
 inline constexpr Unita tensione{"N/mm²", "N/mm²"};
 inline constexpr Unita forza{"t", "kN", kilonewton};

@@ -1,7 +1,5 @@
 #include "report/lines.hpp"
 
-#include <algorithm>
-
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
 
@@ -18,10 +16,8 @@ void cella(std::string& riga, std::string_view testo) {
 
 // A number that is no code is called as the last one.
 std::string_view vocePrevista(const project::Campo& campo, double valore) {
-    const auto trovato =
-        std::find_if(campo.codici.begin(), campo.codici.end(),
-                     [valore](const project::Codice& codice) { return codice.valore == valore; });
-    return trovato == campo.codici.end() ? campo.codici.back().voce : trovato->voce;
+    const auto* codice = project::codice(campo, valore);
+    return codice != nullptr ? codice->voce : campo.codici.back().voce;
 }
 
 }  // namespace
@@ -29,6 +25,11 @@ std::string_view vocePrevista(const project::Campo& campo, double valore) {
 Voce voce(const project::DatiProgetto& dati, const project::Membro& membro, bool presente) {
     const project::Campo& campo = project::campo(membro);
     return {etichetta(campo), mostrato(dati, campo), presente};
+}
+
+Voce voce(std::string_view didascalia, const project::Unita& unita, double conservato,
+          bool presente) {
+    return {etichetta(didascalia, unita), mostrato(unita, conservato), presente};
 }
 
 void RigheRelazione::riga(std::string_view testo) { testo_.append(testo).append("\r\n"); }

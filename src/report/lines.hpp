@@ -20,6 +20,10 @@ struct Voce {
 [[nodiscard]] Voce voce(const project::DatiProgetto& dati, const project::Membro& membro,
                         bool presente = true);
 
+/// The row of a result, stored as the project stores such a number.
+[[nodiscard]] Voce voce(std::string_view didascalia, const project::Unita& unita, double conservato,
+                        bool presente = true);
+
 /// Collects the lines of a report in mark-up. Texts given as keys pass through the translation;
 /// directives and the user's own lines do not. Numbers have two decimals, whatever their size.
 class RigheRelazione {

@@ -7,14 +7,20 @@ namespace korven::report {
 
 namespace {
 
+namespace unita = project::unita;
+using project::etichetta;
+
 void fase(const results::DatiRelazione& dati, int s, RigheRelazione& righe) {
     righe.riga(base::traduttore("RISULTATI FASE") + ' ' + std::to_string(s));
     righe.riga("#STARTTABLE");
-    righe.intestazione({"Profondità [m]", "Spostamento [cm]", "Momento [kN m]"});
+    righe.intestazione({etichetta("Profondità", unita::metri),
+                        etichetta("Spostamento", unita::spostamento),
+                        etichetta("Momento", unita::momento)});
     const auto& risultati = dati.fasi[static_cast<std::size_t>(s - 1)];
     for (int i = 1; i <= dati.nNodi; ++i)
-        righe.valori({analysis::zNodo(i, dati.passo), project::inCentimetri(risultati.yNodo[i]),
-                      project::inKilonewton(risultati.momentoNodo[i])});
+        righe.valori({analysis::zNodo(i, dati.passo),
+                      mostrato(unita::spostamento, risultati.yNodo[i]),
+                      mostrato(unita::momento, risultati.momentoNodo[i])});
     righe.riga("#ENDTABLE");
     righe.vuota();
 }
@@ -25,9 +31,10 @@ void tiranti(const results::DatiRelazione& dati, RigheRelazione& righe) {
     righe.titolo("MASSIME TENSIONI APPLICATE AI TIRANTI");
     righe.vuota();
     righe.riga("#STARTTABLE");
-    righe.intestazione({"Prof. tirante [m]", "Tensione max. [kN]"});
+    righe.intestazione(
+        {etichetta("Prof. tirante", unita::metri), etichetta("Tensione max.", unita::forza)});
     for (int j = 1; j <= inOpera; ++j)
-        righe.valori({dati.progetto.profTirante[j], project::inKilonewton(dati.tiroTirante[j])});
+        righe.valori({dati.progetto.profTirante[j], mostrato(unita::forza, dati.tiroTirante[j])});
     righe.riga("#ENDTABLE");
     righe.vuota();
 }

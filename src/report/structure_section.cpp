@@ -8,10 +8,11 @@ namespace korven::report {
 namespace {
 
 using project::DatiProgetto;
-using project::inKilonewton;
+using project::etichetta;
 using project::Lato;
 using project::Sezione;
 using structure::TipoSezione;
+namespace unita = project::unita;
 
 void conLista(std::string_view titolo, const std::vector<Voce>& voci, RigheRelazione& righe) {
     righe.titolo(titolo);
@@ -47,11 +48,9 @@ void palancola(const DatiProgetto& p, RigheRelazione& righe) {
     const Sezione& s = p.sezione;
     const double larghezza = s.palancolaBase + 2 * s.palancolaLargAla;
     conLista("CALCOLO STRUTTURALE PALANCOLA",
-             {{"Larghezza totale elemento [mm]", project::inMillimetri(larghezza)},
-              voce(p, &Sezione::palancolaLargAla),
-              voce(p, &Sezione::palancolaAltAla),
-              voce(p, &Sezione::palancolaSpessore),
-              voce(p, &Sezione::palancolaSpessAla)},
+             {voce("Larghezza totale elemento", unita::misura, larghezza),
+              voce(p, &Sezione::palancolaLargAla), voce(p, &Sezione::palancolaAltAla),
+              voce(p, &Sezione::palancolaSpessore), voce(p, &Sezione::palancolaSpessAla)},
              righe);
 }
 
@@ -90,13 +89,13 @@ void materiali(const DatiProgetto& p, RigheRelazione& righe) {
 void flessione(const results::ConfrontoMomenti& c, RigheRelazione& righe) {
     conLista(
         "VERIFICA DEI MOMENTI FLETTENTI",
-        {{"Momento resistente di calcolo (pos.) [kN m]", inKilonewton(c.mrPos)},
-         {"Momento resistente di calcolo (neg.) [kN m]", inKilonewton(c.mrNeg), c.negativo},
-         {"Momento massimo applicato (pos) [kN m]", inKilonewton(c.mMax)},
-         {"Momento massimo applicato (neg) [kN m]", inKilonewton(c.mMin), c.negativo},
-         {"F.S. parziale delle azioni [-]", c.fsAzioni},
-         {"Momento massimo di calcolo applicato (pos) [kN m]", inKilonewton(c.mdMax)},
-         {"Momento massimo di calcolo applicato (neg) [kN m]", inKilonewton(c.mdMin), c.negativo}},
+        {voce("Momento resistente di calcolo (pos.)", unita::momento, c.mrPos),
+         voce("Momento resistente di calcolo (neg.)", unita::momento, c.mrNeg, c.negativo),
+         voce("Momento massimo applicato (pos)", unita::momento, c.mMax),
+         voce("Momento massimo applicato (neg)", unita::momento, c.mMin, c.negativo),
+         voce("F.S. parziale delle azioni", unita::numero, c.fsAzioni),
+         voce("Momento massimo di calcolo applicato (pos)", unita::momento, c.mdMax),
+         voce("Momento massimo di calcolo applicato (neg)", unita::momento, c.mdMin, c.negativo)},
         righe);
     righe.titolo(results::sentenza(true, c.verificatoPos));
     if (c.negativo) righe.titolo(results::sentenza(false, c.verificatoNeg));
@@ -106,13 +105,15 @@ void taglio(const DatiProgetto& p, const structure::ConfrontoTaglio& confronto,
             RigheRelazione& righe) {
     righe.vuota();
     righe.titolo("VERIFICA AL TAGLIO");
-    righe.lista({voce(p, &Sezione::armDiamStaffe),
-                 voce(p, &Sezione::armPassoStaffe),
-                 {"Capacità portante bielle CLS - Vrd2 [kN]", confronto.Vrd2},
-                 {"Capacità portante armatura d'anima - Vrd3 [kN]", confronto.Vrd3},
-                 {"Taglio massimo agente sulla struttura [kN]", confronto.taglioMassimo},
-                 {"Coeff. di sicurezza parziale [-]", confronto.fsAzioni},
-                 {"Taglio massimo di calcolo - Vsd [kN]", confronto.Vsd}});
+    righe.lista(
+        {voce(p, &Sezione::armDiamStaffe),
+         voce(p, &Sezione::armPassoStaffe),
+         {etichetta("Capacità portante bielle CLS - Vrd2", unita::forza), confronto.Vrd2},
+         {etichetta("Capacità portante armatura d'anima - Vrd3", unita::forza), confronto.Vrd3},
+         {etichetta("Taglio massimo agente sulla struttura", unita::forza),
+          confronto.taglioMassimo},
+         voce("Coeff. di sicurezza parziale", unita::numero, confronto.fsAzioni),
+         {etichetta("Taglio massimo di calcolo - Vsd", unita::forza), confronto.Vsd}});
     for (const auto rottura : structure::righeRotturaTaglio(confronto)) righe.titolo(rottura);
 }
 

@@ -1,20 +1,14 @@
 #include "results/structure_checks.hpp"
 
+#include "project/units.hpp"
 #include "structure/section_validity.hpp"
 
 namespace korven::results {
 
-namespace {
-
-// N mm to t m.
-constexpr double unMomento = 10000000;
-
-}  // namespace
-
 ConfrontoMomenti confrontaMomenti(const analysis::ChiusuraRisultati& chiusura) {
     ConfrontoMomenti c;
-    c.mrPos = -chiusura.mrd1 / unMomento;
-    c.mrNeg = -chiusura.mrd2 / unMomento;
+    c.mrPos = -chiusura.mrd1 / project::newtonMillimetri;
+    c.mrNeg = -chiusura.mrd2 / project::newtonMillimetri;
     c.mMax = chiusura.mMaxTotale;
     c.mMin = chiusura.mMinTotale;
     c.fsAzioni = chiusura.fsAzioni;

@@ -11,8 +11,6 @@ namespace korven::structure {
 
 namespace {
 
-constexpr double newtonPerTonnellata = 10000;
-
 ModelloStrisce modello(double H, const AreeStrisce& aree, const MaterialiFlessione& materiali) {
     return {.dy = H / nStrisce,
             .fcd = materiali.fck / fsCalcestruzzo,
@@ -51,7 +49,7 @@ MomentiResistenti resistenzaPaliArmati(const PaliArmatiMm& p, const MaterialiFle
 }
 
 void momentiResistenti(const project::Sezione& s, double sforzoNormale, MomentiResistenti& MRd) {
-    const double Nd = fsAzioniSezione * newtonPerTonnellata * sforzoNormale;
+    const double Nd = fsAzioniSezione * project::newton * sforzoNormale;
     const MaterialiFlessione materiali{.modEacciaio = s.modEacciaio, .fyk = s.fyk, .fck = s.fck};
     const TipoSezione tipo = tipoSezione(s);
     assert(tipo == TipoSezione::nessuno || sezioneValida(s));

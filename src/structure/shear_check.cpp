@@ -19,7 +19,10 @@ constexpr double quadrato(double x) { return x * x; }
 
 double oZero(double resistenza) { return std::isfinite(resistenza) ? resistenza : 0; }
 
-double perMetro(double Vrd, double armInterasse) { return Vrd / 1000 * 100 / armInterasse; }
+// One pile's resistance [N], spacing in cm: kN to the metre of wall.
+double perMetro(double Vrd, double armInterasse) {
+    return Vrd / project::newtonKilonewton * project::centimetri / armInterasse;
+}
 
 }  // namespace
 
@@ -32,7 +35,7 @@ TaglioResistente verificaTaglio(const project::Sezione& s, double Nsd) {
     const double fctm = 0.3 * std::pow(s.fck, 2.0 / 3.0);
     const double fctk = 0.7 * fctm;
     const double tauRd = 0.25 * fctk / fsCalcestruzzo;
-    const double kTaglio = 1.6 - d / 1000;  // not held above 1
+    const double kTaglio = 1.6 - d / project::millimetriMetro;  // not held above 1
     const double Asl = s.armNumLong * pi * quadrato(inMillimetri(s.armDiamLong) / 2);
     const double rhoL = Asl / (d * bw);
     const double sigmaCp = Nsd / (pi * quadrato(inMillimetri(s.armDiamPalo) / 2) +

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <numbers>
 
+#include "project/units.hpp"
 #include "structure/section_millimetres.hpp"
 #include "structure/section_type.hpp"
 #include "structure/section_validity.hpp"
@@ -13,6 +14,8 @@ namespace korven::structure {
 namespace {
 
 using std::numbers::pi;
+
+constexpr double metro = project::millimetriMetro;  // of wall, to which the stiffness refers
 
 constexpr double quadrato(double x) { return x * x; }
 constexpr double cubo(double x) { return x * x * x; }
@@ -34,13 +37,13 @@ double rigidezzaDiaframma(const DiaframmaMm& d, double Ec, double Es) {
                      (H + (n - 1) * (Am + Av));
     const double Jv = Av * quadrato(H - x - d.valle.copriferro - d.valle.diametro / 2);
     const double Jm = Am * quadrato(x - d.monte.copriferro - d.monte.diametro / 2);
-    return Ec * 1000 * (cubo(H) / 12 + (n - 1) * (Jv + Jm));
+    return Ec * metro * (cubo(H) / 12 + (n - 1) * (Jv + Jm));
 }
 
 double rigidezzaPali(const PaliMm& p, double Ec, double Es) {
     const double Re = p.diamEst / 2;
     const double Ri = p.diamInt / 2;
-    return 1000 * (pi / 4) * (Ec * quarta(Ri) + Es * (quarta(Re) - quarta(Ri))) / p.interasse;
+    return metro * (pi / 4) * (Ec * quarta(Ri) + Es * (quarta(Re) - quarta(Ri))) / p.interasse;
 }
 
 double rigidezzaPalancola(const PalancolaMm& p, double Es) {
@@ -49,7 +52,7 @@ double rigidezzaPalancola(const PalancolaMm& p, double Es) {
     const double He = altezza(p);
     const double Bi = Be - 2 * tw;
     const double Hi = He - 2 * p.spessore;
-    return 1000 * Es * (Be * cubo(He) / 12 - Bi * cubo(Hi) / 12) / passoOnda(p);
+    return metro * Es * (Be * cubo(He) / 12 - Bi * cubo(Hi) / 12) / passoOnda(p);
 }
 
 double rigidezzaPaliArmati(const PaliArmatiMm& p, double Ec, double Es) {
@@ -65,7 +68,7 @@ double rigidezzaPaliArmati(const PaliArmatiMm& p, double Ec, double Es) {
         Ss = Ss + Jb * Es;
         Sc = Sc - Jb * Ec;
     }
-    return 1000 * (Ss + Sc) / p.interasse;
+    return metro * (Ss + Sc) / p.interasse;
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/table.hpp"
+#include "project/units.hpp"
 
 namespace korven::structure {
 
@@ -9,8 +10,9 @@ namespace korven::structure {
 // the sign of the strain. The design axial force Nd is positive in compression [N]. Areas and
 // forces belong to one metre of wall.
 
-inline constexpr int nStrisce = 100;            ///< strips across the depth, for every kind of wall
-inline constexpr double bStrisciaMetro = 1000;  ///< width that one result refers to [mm]
+inline constexpr int nStrisce = 100;  ///< strips across the depth, for every kind of wall
+inline constexpr double bStrisciaMetro =
+    project::millimetriMetro;  ///< width of wall of a result [mm]
 
 using TabellaStrisce = base::Tabella<double, nStrisce>;
 

@@ -108,6 +108,14 @@ TEST(TabellaCampi, NamesTheCodesOfAFieldByTheirEnumerators) {
             EXPECT_EQ(c.codici[i].valore, c.codici[i - 1].valore + 1) << c.nome;
 }
 
+TEST(TabellaCampi, FindsTheCodeThatANumberIs) {
+    const Campo& metodo = campo(&DatiProgetto::metodoSpinte);
+    EXPECT_EQ(codice(metodo, 3), &metodo.codici[2]);
+    EXPECT_EQ(codice(metodo, 3)->nome, "bell");
+    for (const double nessuno : {0.0, 1.5, 4.0, -1.0}) EXPECT_EQ(codice(metodo, nessuno), nullptr);
+    EXPECT_EQ(codice(campo(&DatiProgetto::coeffM), 1), nullptr) << "a field without codes";
+}
+
 TEST(Codici, AreUnequalToANumberThatIsNoneOfThemAndKeepItsOrder) {
     EXPECT_TRUE(2.0 == VincoloPiede::cerniera);
     EXPECT_FALSE(2.5 == VincoloPiede::cerniera);
@@ -118,7 +126,30 @@ TEST(Codici, AreUnequalToANumberThatIsNoneOfThemAndKeepItsOrder) {
     EXPECT_EQ(valore(TipoTirante::trazioneCompressione), 1);
 }
 
+TEST(Unita, MoveTheDecimalPointByThePlacesOfTheirFactor) {
+    EXPECT_EQ(posti(unita::metri), 0);
+    EXPECT_EQ(posti(unita::momento), 1);
+    EXPECT_EQ(posti(unita::spostamento), 2);
+}
+
+TEST(Unita, AreShownInBracketsBehindACaption) {
+    EXPECT_EQ(etichetta("Momento", unita::momento), "Momento [kN m]");
+    EXPECT_EQ(etichetta("Descrizione", unita::nessuna), "Descrizione");
+    EXPECT_EQ(traParentesi(unita::pressione), "[kN/m²]");
+    EXPECT_EQ(traParentesi(unita::nessuna), "");
+}
+
+// 1 t m2 = 1e4 N x 1e6 mm2.
+TEST(Unita, OfTheSectionAreNewtonsAndMillimetres) {
+    EXPECT_EQ(millimetriMetro, 1000);
+    EXPECT_EQ(newton, 1e4);
+    EXPECT_EQ(newtonMillimetri, 1e7);
+    EXPECT_EQ(newtonMillimetri2, 1e10);
+}
+
 TEST(Unita, ConvertByOneProductEach) {
+    EXPECT_EQ(mostrato(unita::spostamento, 0.0123), 0.0123 * 100);
+
     EXPECT_EQ(inKilonewton(1.23), 1.23 * 10);
     EXPECT_EQ(inMillimetri(0.21), 0.21 * 10);
     EXPECT_EQ(inCentimetri(0.0123), 0.0123 * 100);

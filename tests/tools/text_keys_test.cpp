@@ -298,6 +298,28 @@ bool isPartOfField(const std::string& file, const std::string& text) {
     return false;
 }
 
+// The units of project/units.hpp as they are shown, by their names there.
+std::map<std::string, std::string> shownUnits() {
+    const std::string source = base::leggiFile(KORVEN_SOURCE_FOLDER "/project/units.hpp");
+    const std::regex row("Unita (\\w+)\\{\"[^\"]*\",\\s*\"([^\"]*)\"");
+    std::map<std::string, std::string> units;
+    for (std::sregex_iterator at(source.begin(), source.end(), row), end; at != end; ++at)
+        units[(*at)[1]] = (*at)[2];
+    return units;
+}
+
+// The literals of a source that have a unit of that table beside them, without and with it: a
+// caption is looked up together with its unit.
+std::map<std::string, std::string> captionsWithUnit(const std::string& source) {
+    static const auto units = shownUnits();
+    static const std::regex pair("\"([^\"]*)\",\\s*(?:project::)?unita::(\\w+)");
+    std::map<std::string, std::string> captions;
+    for (std::sregex_iterator at(source.begin(), source.end(), pair), end; at != end; ++at)
+        if (const auto& unit = units.at((*at)[2]); !unit.empty())
+            captions[(*at)[1]] = std::string((*at)[1]) + " [" + unit + "]";
+    return captions;
+}
+
 bool isNoText(const std::string& file, const std::string& text) {
     const auto exempt = noTexts.find(file);
     return silentFiles.contains(file) || namesControl(text) || isPartOfField(file, text) ||
@@ -315,16 +337,35 @@ std::set<std::string> keys() {
 TEST(TextKeys, AreInTheTableForEveryLiteralThatMayBeShown) {
     const auto known = keys();
     int looked = 0;
-    for (const auto& [file, texts] : spokenLiterals())
+    for (const auto& [file, texts] : spokenLiterals()) {
+        const auto captions = captionsWithUnit(base::leggiFile(KORVEN_SOURCE_FOLDER "/" + file));
         for (const auto& text : texts) {
-            if (isNoText(file, text)) continue;
+            if (isNoText(file, text) || captions.contains(text)) continue;
             ++looked;
             EXPECT_TRUE(known.contains(base::chiaveTesto(text)))
                 << "src/" << file << " has \"" << text
                 << "\", which has no record in data/texts.txt; if it is never shown, name it in "
                    "this test";
         }
+    }
     EXPECT_GT(looked, 200) << "the sources were not found";
+}
+
+TEST(TextKeys, AreInTheTableForEachCaptionWithTheUnitThatIsBesideIt) {
+    const auto known = keys();
+    std::set<std::string> looked;
+    for (const auto& [file, texts] : spokenLiterals()) {
+        if (file == "project/field_table.cpp") continue;  // looked at below, by its rows
+        const auto source = base::leggiFile(KORVEN_SOURCE_FOLDER "/" + file);
+        for (const auto& [caption, text] : captionsWithUnit(source)) {
+            looked.insert(text);
+            EXPECT_TRUE(known.contains(base::chiaveTesto(text))) << "src/" << file << ": " << text;
+        }
+    }
+    EXPECT_TRUE(looked.contains("Tensione max. [kN]"));
+    EXPECT_TRUE(looked.contains("Spostamento max. [cm]"));
+    EXPECT_TRUE(looked.contains("c' [kN/m²]"));
+    EXPECT_TRUE(looked.contains("F.S. parziale delle azioni [-]"));
 }
 
 TEST(TextKeys, AreInTheTableForEachCaptionOfAFieldAndItsUnit) {
@@ -342,6 +383,15 @@ TEST(TextKeys, AreInTheTableForEachCaptionOfAFieldAndItsUnit) {
               (std::set<std::string_view>{"sforzoNormale", "gammaAcqua",
                                           "sezione.spessoreDiaframma", "sezione.paliInterasse",
                                           "sezione.palancolaBase", "sezione.armInterasse"}));
+}
+
+// The foot of the report names the method of a run, its table the kind of an anchor.
+TEST(TextKeys, AreInTheTableForEachCodeThatTheReportSaysAlone) {
+    const auto known = keys();
+    for (const auto* field : {&project::campo(&project::DatiProgetto::metodoSpinte),
+                              &project::campo(&project::DatiProgetto::tipoTirante)})
+        for (const auto& code : field->codici)
+            EXPECT_TRUE(known.contains(base::chiaveTesto(std::string(code.voce)))) << code.voce;
 }
 
 // A short literal has no word in it; where it goes straight into the translation it is a text.

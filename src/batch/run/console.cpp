@@ -14,12 +14,12 @@ namespace {
 
 constexpr const char* cancellaRiga = "\r\x1b[K";
 
-// Short numbers: the line must fit a terminal. Displacement in m, moment in kN m.
+// Short numbers: the line must fit a terminal. The displacement stays in m.
 std::string rigaAvanzamento(const analysis::StatoIterazione& stato) {
     return base::traduttore("fase") + "=" + std::to_string(stato.fase) +
            "   iter.=" + std::to_string(stato.iterazione) +
            "   Ymax=" + numeroMostrato(stato.yMax, 4) +
-           "   Mmax=" + numeroMostrato(stato.mMax, 2, 1);
+           "   Mmax=" + numeroMostrato(stato.mMax, 2, project::unita::momento);
 }
 
 // A terminal that hangs must not hold a program that was told to end.

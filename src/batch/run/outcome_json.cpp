@@ -19,6 +19,12 @@ double arrotondato(double valore) { return std::round(valore * 1e6) / 1e6 + 0.0;
 double kN(double forza) { return std::round(forza * (project::kilonewton * 1e6)) / 1e6 + 0.0; }
 double kNm(double momento) { return kN(momento); }
 
+// N mm to kN m; a positive moment is resisted by bending of negative curvature.
+double resistente(double passata) {
+    constexpr double kilonewtonMetro = project::newtonMillimetri / project::kilonewton;
+    return arrotondato(-passata / kilonewtonMetro);
+}
+
 Json fase(const results::EstremiFase& riga, const Esito& esito) {
     Json iterazioni = nullptr;
     for (const auto& corsa : esito.fasi)
@@ -78,9 +84,8 @@ Json calcolo(const Esito& esito) {
             {"fasi", fasi},
             {"momento_massimo_kNm", kNm(chiusura.mMaxTotale)},
             {"momento_minimo_kNm", kNm(chiusura.mMinTotale)},
-            // N mm to kN m; a positive moment is resisted by bending of negative curvature
-            {"momento_resistente_positivo_kNm", arrotondato(-chiusura.mrd1 / 1e6)},
-            {"momento_resistente_negativo_kNm", arrotondato(-chiusura.mrd2 / 1e6)},
+            {"momento_resistente_positivo_kNm", resistente(chiusura.mrd1)},
+            {"momento_resistente_negativo_kNm", resistente(chiusura.mrd2)},
             {"fattore_azioni", chiusura.fsAzioni},
             {"verifica_flessione", flessione(*esito.calcolo)},
             {"verifica_taglio", taglio(*esito.calcolo)},

@@ -16,23 +16,26 @@ std::string colonna(const std::string& testo, std::size_t larghezza) {
 }
 
 struct Colonna {
-    std::string titolo;
-    std::string (*cella)(const results::EstremiFase&);
+    std::string_view cosa;  // with the unit an Italian key
+    project::Unita unita;
+    double results::EstremiFase::*valore;
+    int decimali;
+
+    [[nodiscard]] std::string titolo() const { return traduttore(etichetta(cosa, unita)); }
+    [[nodiscard]] std::string cella(const results::EstremiFase& fase) const {
+        return numeroMostrato(fase.*valore, decimali, unita);
+    }
 };
 
-const std::vector<Colonna>& colonne() {
-    static const std::vector<Colonna> tutte = {
-        {traduttore("Scavo [m]"),
-         [](const results::EstremiFase& f) { return numeroMostrato(f.profFase, 2); }},
-        {traduttore("Spostamento max. [cm]"),
-         [](const results::EstremiFase& f) { return numeroMostrato(f.spostamentoMax, 4, 2); }},
-        {traduttore("Momento max. [kN m]"),
-         [](const results::EstremiFase& f) { return numeroMostrato(f.momentoMax, 2, 1); }},
-        {traduttore("Momento min. [kN m]"),
-         [](const results::EstremiFase& f) { return numeroMostrato(f.momentoMin, 2, 1); }},
-    };
-    return tutte;
-}
+namespace unita = project::unita;
+using results::EstremiFase;
+
+constexpr Colonna colonne[] = {
+    {"Scavo", unita::metri, &EstremiFase::profFase, 2},
+    {"Spostamento max.", unita::spostamento, &EstremiFase::spostamentoMax, 4},
+    {"Momento max.", unita::momento, &EstremiFase::momentoMax, 2},
+    {"Momento min.", unita::momento, &EstremiFase::momentoMin, 2},
+};
 
 std::string iterazioni(const Esito& esito, int fase) {
     for (const auto& corsa : esito.fasi)
@@ -46,13 +49,13 @@ std::string tabella(const Esito& esito, bool traccia) {
     const std::string fase = traduttore("Fase");
     const std::string numeroIterazioni = traduttore("Iterazioni");
     std::string testo = fase + "  " + numeroIterazioni;
-    for (const auto& c : colonne()) testo += "  " + c.titolo;
+    for (const auto& c : colonne) testo += "  " + c.titolo();
     testo += '\n';
     for (const auto& riga : esito.calcolo->fasi) {
         testo += colonna(std::to_string(riga.fase), base::numeroCaratteri(fase)) + "  " +
                  colonna(iterazioni(esito, riga.fase), base::numeroCaratteri(numeroIterazioni));
-        for (const auto& c : colonne())
-            testo += "  " + colonna(c.cella(riga), base::numeroCaratteri(c.titolo));
+        for (const auto& c : colonne)
+            testo += "  " + colonna(c.cella(riga), base::numeroCaratteri(c.titolo()));
         testo += '\n';
     }
     testo += (esito.giaAggiornato

@@ -7,10 +7,10 @@
 
 namespace korven::batch {
 
-std::string numeroMostrato(double valore, int decimali, int potenza) {
-    const double mostrato = valore * std::pow(10, potenza);
+std::string numeroMostrato(double valore, int decimali, const project::Unita& unita) {
+    const double mostrato = project::mostrato(unita, valore);
     if (!std::isfinite(mostrato)) return "-";
-    if (std::fabs(mostrato) < 1e9) return base::testoDecimali(valore, decimali, potenza);
+    if (std::fabs(mostrato) < 1e9) return base::testoDecimali(valore, decimali, posti(unita));
     char testo[32];
     const auto fine =
         std::to_chars(testo, testo + sizeof testo, mostrato, std::chars_format::scientific, 3).ptr;

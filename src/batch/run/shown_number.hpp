@@ -2,11 +2,14 @@
 
 #include <string>
 
+#include "project/units.hpp"
+
 namespace korven::batch {
 
-/// A number as the progress and the table show it: `valore` * 10^`potenza`, rounded half away from
+/// A stored number as the progress and the table show it: in the shown unit, rounded half away from
 /// zero to `decimali` digits after the point. From a thousand millions on, where a failing wall may
 /// get to, the short form "1.000e+12" keeps lines and columns in place; "-" for no number.
-[[nodiscard]] std::string numeroMostrato(double valore, int decimali, int potenza = 0);
+[[nodiscard]] std::string numeroMostrato(double valore, int decimali,
+                                         const project::Unita& unita = project::unita::nessuna);
 
 }  // namespace korven::batch
