@@ -8,7 +8,8 @@ namespace {
 
 using project::DatiProgetto;
 
-// A sentence chosen by a code of the project, in the order of its codes.
+// What the report says of a code, in the order of the codes: a sentence of its own for each, as
+// fixed, and not the words that the editor offers.
 struct FraseCodice {
     double DatiProgetto::*codice;
     std::string_view frasi[4];
@@ -44,10 +45,9 @@ constexpr FraseCodice frasiCodici[] = {
 
 // A code without a sentence gives an empty line, so that there are always seven.
 std::string_view frase(const FraseCodice& voce, double valore) {
-    const auto codici = project::campo(voce.codice).codici;
-    for (std::size_t i = 0; i < codici.size(); ++i)
-        if (codici[i].valore == valore) return voce.frasi[i];
-    return {};
+    const project::Campo& campo = project::campo(voce.codice);
+    const auto* codice = project::codice(campo, valore);
+    return codice != nullptr ? voce.frasi[codice - campo.codici.data()] : std::string_view();
 }
 
 using project::Membro;

@@ -10,6 +10,7 @@
 #include "markup/estimated_width.hpp"
 #include "markup/report_page.hpp"
 #include "markup/syllable_rule.hpp"
+#include "project/field_table.hpp"
 
 namespace korven::report {
 
@@ -20,12 +21,10 @@ using base::traduttore;
 constexpr double bordo =
     0.4 * markup::pointsPerCentimetre;  // left white between a footer and the page's end
 
-constexpr std::string_view metodi[] = {"Coulomb", "Rankine", "Bell"};
-
-std::string nomeMetodo(double codice) {
-    for (std::size_t i = 0; i < std::size(metodi); ++i)
-        if (codice == static_cast<double>(i + 1)) return traduttore(metodi[i]);
-    return traduttore("nessun metodo delle spinte");
+std::string nomeMetodo(double usato) {
+    const auto* metodo =
+        project::codice(project::campo(&project::DatiProgetto::metodoSpinte), usato);
+    return traduttore(metodo != nullptr ? metodo->voce : "nessun metodo delle spinte");
 }
 
 // A file may be named with anything; in the mark-up a line end would begin a line of its own.

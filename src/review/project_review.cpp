@@ -35,9 +35,7 @@ constexpr CampoConCodici codici[] = {
 void controlloCodici(const DatiProgetto& dati, ElencoRilievi& elenco) {
     for (const auto& [membro, altrimenti] : codici) {
         const double valore = dati.*membro;
-        const auto noti = project::campo(membro).codici;
-        if (std::none_of(noti.begin(), noti.end(),
-                         [valore](const auto& codice) { return codice.valore == valore; }))
+        if (project::codice(project::campo(membro), valore) == nullptr)
             elenco.avviso(campoEValore(membro, valore) + ": " + traduttore(altrimenti));
     }
 }
