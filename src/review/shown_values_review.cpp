@@ -14,41 +14,58 @@ using project::DatiProgetto;
 using project::Sezione;
 using structure::TipoSezione;
 
-// Of the section only the type in force is shown. `dove` names a face of the diaphragm.
+// The fields of the section in the order of their remarks, which goes face by face. `dove` names
+// the face.
 struct CampoMostrato {
-    TipoSezione tipo;
     double Sezione::*membro;
     std::string_view dove = {};
 };
 
 constexpr CampoMostrato campiMostrati[] = {
-    {TipoSezione::diaframma, &Sezione::spessoreDiaframma},
-    {TipoSezione::diaframma, &Sezione::copriferroMonte, "lato monte"},
-    {TipoSezione::diaframma, &Sezione::interasseMonte, "lato monte"},
-    {TipoSezione::diaframma, &Sezione::diametroMonte, "lato monte"},
-    {TipoSezione::diaframma, &Sezione::copriferroValle, "lato valle"},
-    {TipoSezione::diaframma, &Sezione::interasseValle, "lato valle"},
-    {TipoSezione::diaframma, &Sezione::diametroValle, "lato valle"},
-    {TipoSezione::pali, &Sezione::paliDiamEst},
-    {TipoSezione::pali, &Sezione::paliDiamInt},
-    {TipoSezione::pali, &Sezione::paliInterasse},
-    {TipoSezione::palancola, &Sezione::palancolaBase},
-    {TipoSezione::palancola, &Sezione::palancolaLargAla},
-    {TipoSezione::palancola, &Sezione::palancolaAltAla},
-    {TipoSezione::palancola, &Sezione::palancolaSpessore},
-    {TipoSezione::palancola, &Sezione::palancolaSpessAla},
-    {TipoSezione::paliArmati, &Sezione::armInterasse},
-    {TipoSezione::paliArmati, &Sezione::armDiamPalo},
-    {TipoSezione::paliArmati, &Sezione::armDiamLong},
-    {TipoSezione::paliArmati, &Sezione::armNumLong},
-    {TipoSezione::paliArmati, &Sezione::armCopriferro},
-    {TipoSezione::paliArmati, &Sezione::armDiamStaffe},
-    {TipoSezione::paliArmati, &Sezione::armPassoStaffe},
+    {&Sezione::spessoreDiaframma},
+    {&Sezione::copriferroMonte, "lato monte"},
+    {&Sezione::interasseMonte, "lato monte"},
+    {&Sezione::diametroMonte, "lato monte"},
+    {&Sezione::copriferroValle, "lato valle"},
+    {&Sezione::interasseValle, "lato valle"},
+    {&Sezione::diametroValle, "lato valle"},
+    {&Sezione::paliDiamEst},
+    {&Sezione::paliDiamInt},
+    {&Sezione::paliInterasse},
+    {&Sezione::palancolaBase},
+    {&Sezione::palancolaLargAla},
+    {&Sezione::palancolaAltAla},
+    {&Sezione::palancolaSpessore},
+    {&Sezione::palancolaSpessAla},
+    {&Sezione::armInterasse},
+    {&Sezione::armDiamPalo},
+    {&Sezione::armDiamLong},
+    {&Sezione::armNumLong},
+    {&Sezione::armCopriferro},
+    {&Sezione::armDiamStaffe},
+    {&Sezione::armPassoStaffe},
 };
 
 // The log draws the undrained strength as a curve and shows no number of it.
 bool scritto(const Campo& campo) {
     return campo.unita.fattore != 1 && campo.membro != project::Membro(&DatiProgetto::suStrato);
+}
+
+// Of the section only the type in force is shown.
+bool inVigore(const Campo& campo, const Sezione& sezione) {
+    switch (structure::tipoSezione(sezione)) {
+        case TipoSezione::diaframma:
+            return campo.parte == project::Parte::diaframma;
+        case TipoSezione::pali:
+            return campo.parte == project::Parte::pali;
+        case TipoSezione::palancola:
+            return campo.parte == project::Parte::palancola;
+        case TipoSezione::paliArmati:
+            return campo.parte == project::Parte::paliArmati;
+        case TipoSezione::nessuno:
+            break;
+    }
+    return false;
 }
 
 void esamina(double valore, const std::string& campo, ElencoRilievi& elenco) {
@@ -77,9 +94,9 @@ void controlloMostrati(const DatiProgetto& dati, ElencoRilievi& elenco) {
     esaminaParatia(dati, elenco);
     esaminaTabella(dati, project::Parte::tiranti, elenco);
     esaminaTabella(dati, project::Parte::fasi, elenco);
-    for (const auto& [tipo, membro, dove] : campiMostrati) {
-        if (tipo != structure::tipoSezione(dati.sezione)) continue;
+    for (const auto& [membro, dove] : campiMostrati) {
         const Campo& c = project::campo(membro);
+        if (!inVigore(c, dati.sezione)) continue;
         const std::string faccia = dove.empty() ? std::string() : traduttore(dove) + ": ";
         esamina(project::mostrato(dati, c), faccia + nomeCampo(c), elenco);
     }

@@ -180,6 +180,7 @@ const std::map<std::string, Texts> noTexts = {
     {"desktop/main.cpp", {"korven32", "/korven32.svg", "about"}},
     {"shell/section/definej.cpp",
      {"DefinEJ", "contestoGuida", "schizzo", "Labelhelp", "EditRigidezza"}},
+    {"shell/section/definej_fields.cpp", {"Fyk", "Fck"}},  // with their unit, see below
     {"shell/masks/base1.cpp", {"base1", "Label1", "Combo1", "Labelhelp"}},
     {"shell/masks/base2_32.cpp", {"base2_32", "Label1"}},
     {"shell/masks/grid_view.cpp", {"MSFlexGrid1", "angolo"}},
@@ -383,6 +384,20 @@ TEST(TextKeys, AreInTheTableForEachCaptionOfAFieldAndItsUnit) {
               (std::set<std::string_view>{"sforzoNormale", "gammaAcqua",
                                           "sezione.spessoreDiaframma", "sezione.paliInterasse",
                                           "sezione.palancolaBase", "sezione.armInterasse"}));
+}
+
+TEST(TextKeys, AreInTheTableForTheHeadingsOfTheSectionFormWithTheirUnits) {
+    const auto known = keys();
+    for (const auto type : project::tipiSezione) {
+        if (type == &project::Sezione::tipoPalancola) continue;  // its frame has a title of its own
+        const auto title =
+            project::etichetta(project::campo(type).didascalia, project::unita::misura);
+        EXPECT_TRUE(known.contains(base::chiaveTesto(title))) << title;
+    }
+    for (const auto column : {"Fyk", "Fck", "E"}) {
+        const auto title = project::etichetta(column, project::unita::tensione);
+        EXPECT_TRUE(known.contains(base::chiaveTesto(title))) << title;
+    }
 }
 
 // The foot of the report names the method of a run, its table the kind of an anchor.

@@ -14,7 +14,7 @@
 #include "base/number_reading.hpp"
 #include "commands/menu_tree.hpp"
 #include "help/contexts.hpp"
-#include "project/project_data.hpp"
+#include "project/field_table.hpp"
 #include "shell/form_sizes.hpp"
 #include "shell/forms/confirm_buttons.hpp"
 #include "shell/forms/help_strip.hpp"
@@ -31,19 +31,27 @@ using masks::RiquadroSezione;
 
 struct TipoForma {
     const char* opzione;
-    const char* didascalia;
     const char* riquadro;
-    const char* titolo;
+    const char* titolo;  // Italian key; nullptr for the caption of the type and the unit
 };
 
 // In the order of `project::tipiSezione`; the materials last.
 constexpr TipoForma tipi[] = {
-    {"Option1", "Diaframma continuo", "Frame1", "Diaframma continuo [mm]"},
-    {"Option2", "Pali affiancati", "Frame2", "Pali affiancati [mm]"},
-    {"Option3", "Palancola", "Frame5", "Palancola [mm] (misurati sull'asse del profilato)"},
-    {"Option4", "Pali armati affiancati", "Frame6", "Pali armati affiancati [mm]"},
-    {"", "", "Frame4", "Caratteristiche dei materiali"},
+    {"Option1", "Frame1", nullptr},
+    {"Option2", "Frame2", nullptr},
+    {"Option3", "Frame5", "Palancola [mm] (misurati sull'asse del profilato)"},
+    {"Option4", "Frame6", nullptr},
+    {"", "Frame4", "Caratteristiche dei materiali"},
 };
+
+std::string_view didascalia(std::size_t tipo) {
+    return project::campo(project::tipiSezione[tipo]).didascalia;
+}
+
+std::string titolo(std::size_t riquadro) {
+    if (tipi[riquadro].titolo != nullptr) return tipi[riquadro].titolo;
+    return project::etichetta(didascalia(riquadro), project::unita::misura);
+}
 
 constexpr const char* aiutoTipo =
     "Il tipo di sezione con cui si calcola. I dati degli altri tipi restano nel progetto. "
@@ -95,7 +103,7 @@ QWidget* DefinEJ::fareOpzioni() {
     disposizione->setContentsMargins(4, 0, 4, 0);
     auto* gruppo = new QButtonGroup(riga);
     for (std::size_t i = 0; i < opzioni_.size(); ++i) {
-        auto* opzione = opzioni_[i] = new QRadioButton(tradotto(tipi[i].didascalia), riga);
+        auto* opzione = opzioni_[i] = new QRadioButton(tradotto(didascalia(i)), riga);
         opzione->setObjectName(QLatin1String(tipi[i].opzione));
         opzione->setAccessibleName(opzione->text());
         opzione->installEventFilter(this);
@@ -134,9 +142,8 @@ QWidget* DefinEJ::fareRiquadri() {
 }
 
 QGroupBox* DefinEJ::fareRiquadro(RiquadroSezione riquadro) {
-    const TipoForma& tipo = tipi[indice(riquadro)];
-    auto* fatto = new QGroupBox(tradotto(tipo.titolo), this);
-    fatto->setObjectName(QLatin1String(tipo.riquadro));
+    auto* fatto = new QGroupBox(tradotto(titolo(indice(riquadro))), this);
+    fatto->setObjectName(QLatin1String(tipi[indice(riquadro)].riquadro));
     auto* griglia = new QGridLayout(fatto);
     fareCampi(*griglia, riquadro);
     if (riquadro == RiquadroSezione::materiali)
@@ -160,8 +167,9 @@ void DefinEJ::fareCampi(QGridLayout& griglia, RiquadroSezione riquadro) {
             didascalia->setBuddy(campo);
             griglia.addWidget(didascalia, static_cast<int>(righe.size()), 0);
         }
-        if (forma.titolo != nullptr && griglia.itemAtPosition(0, 2 * forma.colonna + 2) == nullptr)
-            griglia.addWidget(etichetta(tradotto(forma.titolo), Qt::AlignCenter, padre), 0,
+        if (const auto titolo = forma.intestazione();
+            !titolo.empty() && griglia.itemAtPosition(0, 2 * forma.colonna + 2) == nullptr)
+            griglia.addWidget(etichetta(tradotto(titolo), Qt::AlignCenter, padre), 0,
                               2 * forma.colonna + 2);
         const int y = static_cast<int>(righe.indexOf(riga)) + 1;
         auto* simbolo =
@@ -177,7 +185,7 @@ QLineEdit* DefinEJ::fareCampo(std::size_t campo) {
     auto* fatto = campi_[campo] = new QLineEdit(qt(modello_.testo(campo)), this);
     fatto->setObjectName(QLatin1String(forma.controllo));
     QStringList nome{tradotto(forma.didascalia())};
-    if (forma.titolo != nullptr) nome << tradotto(forma.titolo);
+    if (const auto titolo = forma.intestazione(); !titolo.empty()) nome << tradotto(titolo);
     fatto->setAccessibleName(nome.join(QLatin1Char(' ')));
     fatto->setAccessibleDescription(tradotto(forma.aiuto));
     fatto->setAlignment(Qt::AlignRight);

@@ -1,5 +1,8 @@
 #include "shell/section/definej_fields.hpp"
 
+#include <algorithm>
+#include <iterator>
+
 namespace korven::shell {
 
 namespace {
@@ -24,9 +27,15 @@ std::string_view CampoForma::didascalia() const {
     return riga != nullptr ? riga : project::campo(valore).didascalia;
 }
 
+std::string CampoForma::intestazione() const {
+    if (titolo == nullptr) return {};
+    const project::Campo& campo = project::campo(valore);
+    return campo.parte == project::Parte::materiali ? etichetta(titolo, campo.unita) : titolo;
+}
+
 using project::Sezione;
 
-const CampoForma campiForma[masks::numeroCampiSezione] = {
+constexpr CampoForma campiForma[masks::numeroCampiSezione] = {
     {&Sezione::copriferroMonte, "Text5", nullptr, 0, monte, aiutoCopriferro},
     {&Sezione::copriferroValle, "Text6", nullptr, 1, valle, aiutoCopriferro},
     {&Sezione::interasseMonte, "Text1", "Interasse ferri", 0, monte, aiutoInterasse},
@@ -72,16 +81,21 @@ const CampoForma campiForma[masks::numeroCampiSezione] = {
      "Distanza fra le staffe lungo il palo. Serve solo alla verifica a taglio, che con 0 non "
      "viene fatta."},
 
-    {&Sezione::fyk, "Text15", "Acciaio", 1, "Fyk [N/mm²]",
+    {&Sezione::fyk, "Text15", "Acciaio", 1, "Fyk",
      "Resistenza caratteristica allo snervamento, in N/mm²: per esempio 450 o 500 per i ferri, "
      "355 per i profilati."},
-    {&Sezione::modEacciaio, "Text8", "Acciaio", 2, "E [N/mm²]",
+    {&Sezione::modEacciaio, "Text8", "Acciaio", 2, "E",
      "Modulo elastico dell'acciaio, in N/mm²: 200000 per i ferri, 210000 per i profilati."},
-    {&Sezione::fck, "Text18", "CLS", 0, "Fck [N/mm²]",
+    {&Sezione::fck, "Text18", "CLS", 0, "Fck",
      "Resistenza caratteristica cilindrica del calcestruzzo, in N/mm², di solito 25–40. La "
      "palancola non la usa."},
-    {&Sezione::modEcls, "Text14", "CLS", 2, "E [N/mm²]",
+    {&Sezione::modEcls, "Text14", "CLS", 2, "E",
      "Modulo elastico del calcestruzzo, in N/mm², di solito 30000–35000. La palancola non lo usa."},
 };
+
+static_assert(std::equal(std::begin(campiForma), std::end(campiForma),
+                         std::begin(masks::campiSezione), [](const auto& una, const auto& altra) {
+                             return una.valore == altra.valore;
+                         }));
 
 }  // namespace korven::shell

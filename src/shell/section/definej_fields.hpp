@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 
 #include "masks/edited_section.hpp"
@@ -13,11 +14,14 @@ struct CampoForma {
     const char* controllo;
     const char* riga;    ///< Italian key where the caption is not that of the table of fields
     int colonna;         ///< of its frame, from 0
-    const char* titolo;  ///< Italian key of the heading of the column; nullptr for none
+    const char* titolo;  ///< of the column, without its unit; nullptr for none
     const char* aiuto;   ///< Italian key
 
     /// Italian key of the caption; fields with the same one are side by side.
     [[nodiscard]] std::string_view didascalia() const;
+    /// Italian key of the heading of its column, empty for none. The columns of the materials say
+    /// their units; of the other frames the title says it.
+    [[nodiscard]] std::string intestazione() const;
 };
 
 /// In the order of the tabulator, that of `masks::campiSezione`.
