@@ -18,16 +18,14 @@ struct NomiDiagramma {
     Diagramma diagramma;
     std::string_view nome;     ///< one word, in names of files and on the command line
     std::string_view inglese;  ///< the same in English, on the command line alone
-    std::string_view titolo;   ///< over the drawing, an Italian key
-    std::string_view unita;    ///< of the values shown, the same in all languages
 };
 
 /// The diagrams in the order of their numbers.
 inline constexpr std::array<NomiDiagramma, 4> diagrammi = {{
-    {Diagramma::pressioni, "pressioni", "pressures", "DIAGRAMMA DELLE PRESSIONI", "[kN/m²]"},
-    {Diagramma::spostamenti, "spostamenti", "displacements", "DIAGRAMMA DEGLI SPOSTAMENTI", "[cm]"},
-    {Diagramma::momenti, "momenti", "moments", "DIAGRAMMA DEI MOMENTI", "[kN m]"},
-    {Diagramma::taglio, "taglio", "shear", "DIAGRAMMA DEL TAGLIO", "[kN]"},
+    {Diagramma::pressioni, "pressioni", "pressures"},
+    {Diagramma::spostamenti, "spostamenti", "displacements"},
+    {Diagramma::momenti, "momenti", "moments"},
+    {Diagramma::taglio, "taglio", "shear"},
 }};
 
 [[nodiscard]] constexpr const NomiDiagramma& nomi(Diagramma diagramma) {

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "base/value_error.hpp"
-#include "drawings/diagram_frame.hpp"
+#include "drawings/diagram_rows.hpp"
 #include "plot/text_width.hpp"
 #include "support/drawing_by_pen.hpp"
 #include "support/wall_builder.hpp"
@@ -253,29 +253,42 @@ TEST_F(Disegno, OfValuesThatNoSheetHoldsIsRefused) {
     EXPECT_THROW(disegnaDiagramma(Diagramma::taglio, dati, 0), base::ErroreValore);
 }
 
+// Only the displacements are scaled in the unit that is shown.
+TEST(RigaDiagramma, BelongsToItsDiagramAndShowsItsUnitOnceByTheFactor) {
+    for (const auto& nomi : analysis::diagrammi) {
+        const RigaDiagramma& riga = rigaDiagramma(nomi.diagramma);
+        EXPECT_EQ(riga.diagramma, nomi.diagramma);
+        EXPECT_EQ(riga.fattoreCurve() * riga.fattoreNumeri(), riga.unita.fattore) << nomi.nome;
+        const bool spostamenti = nomi.diagramma == Diagramma::spostamenti;
+        EXPECT_EQ(riga.fattoreCurve(), spostamenti ? 100 : 1) << nomi.nome;
+        EXPECT_EQ(riga.fattoreNumeri(), spostamenti ? 1 : 10) << nomi.nome;
+    }
+}
+
 TEST(ValoreDiScala, OfPressuresIsThePassivePressureAtTheToeInTheLastStage) {
     auto dati = muro();
     dati.progetto.coesione[1] = 1;
     dati.fasi[0].sigmaVm[6] = 100;
     dati.fasi[1].sigmaVm[6] = 10;
     dati.fasi[1].kpm[6] = 3;
-    EXPECT_NEAR(valoreDiScala(Diagramma::pressioni, dati), 30 + 2 * std::sqrt(3.), 1e-12);
+    EXPECT_NEAR(rigaDiagramma(Diagramma::pressioni).valoreDiScala(dati), 30 + 2 * std::sqrt(3.),
+                1e-12);
 }
 
 TEST(ValoreDiScala, OfDisplacementsKeepsTheSignOfTheLargerExtreme) {
     auto dati = muro();
     nodi(dati.fasi[0].yNodo, {0.01, -0.02});
     nodi(dati.fasi[1].yNodo, {0.015});
-    EXPECT_DOUBLE_EQ(valoreDiScala(Diagramma::spostamenti, dati), -2);
+    EXPECT_DOUBLE_EQ(rigaDiagramma(Diagramma::spostamenti).valoreDiScala(dati), -2);
     nodi(dati.fasi[1].yNodo, {0.02});
-    EXPECT_DOUBLE_EQ(valoreDiScala(Diagramma::spostamenti, dati), 2);
+    EXPECT_DOUBLE_EQ(rigaDiagramma(Diagramma::spostamenti).valoreDiScala(dati), 2);
 }
 
 TEST(ValoreDiScala, OfMomentsIsTheLargerSizeOfAllStages) {
     auto dati = muro();
     nodi(dati.fasi[0].momentoNodo, {5, -30});
     nodi(dati.fasi[1].momentoNodo, {20, 0});
-    EXPECT_EQ(valoreDiScala(Diagramma::momenti, dati), 30);
+    EXPECT_EQ(rigaDiagramma(Diagramma::momenti).valoreDiScala(dati), 30);
 }
 
 TEST(ValoreDiScala, OfShearIsThatOfTheLastStageAlone) {
@@ -283,7 +296,7 @@ TEST(ValoreDiScala, OfShearIsThatOfTheLastStageAlone) {
     nodi(dati.azioni[0].taglioNodo, {90});
     dati.azioni[0].estremi = {.vMin = 0, .vMax = 90};
     dati.Vmax = 12;
-    EXPECT_EQ(valoreDiScala(Diagramma::taglio, dati), 12);
+    EXPECT_EQ(rigaDiagramma(Diagramma::taglio).valoreDiScala(dati), 12);
 }
 
 }  // namespace

@@ -54,7 +54,7 @@ const std::map<std::string, std::string> silentFiles = {
 const std::map<std::string, Texts> noTexts = {
     {"analysis/diagrams.hpp",
      {"pressioni", "pressures", "spostamenti", "displacements", "momenti", "moments", "taglio",
-      "shear", "[kN/m²]"}},
+      "shear"}},
     {"analysis/progress.cpp", {"iter.=", "Ymax=", "Mmax="}},
     {"analysis/result_file.cpp",
      {"sigmaVv", "Ehv", "kav", "kpv", "sigmaVm", "Ehm", "kam", "kpm", "Spostamenti", "Momenti"}},
