@@ -33,14 +33,14 @@ struct DatiProgetto {
 
     // Wall and ground. The codes (codes.hpp) are numbers as the file holds them; a value that is no
     // code of the field acts as each use of it says.
-    double vincoloTesta = 0;       ///< top: 1 free, 2 hinge
-    double vincoloPiede = 0;       ///< toe: 1 free, 2 hinge, 3 fixed
-    double modoSpinte = 0;         ///< 1 pressures recomputed each stage, 2 as uphill
-    double modoKs = 0;             ///< 1 ks recomputed each stage, 2 as uphill
-    double modoTensioni = 0;       ///< 1 effective stresses, 2 total stresses
+    double vincoloTesta = 0;       ///< top: VincoloTesta
+    double vincoloPiede = 0;       ///< toe: VincoloPiede
+    double modoSpinte = 0;         ///< vertical stress downhill: ModoSpinte
+    double modoKs = 0;             ///< ks downhill: ModoKs
+    double modoTensioni = 0;       ///< effective or total stresses: ModoTensioni
     double opzioneRiservata = 0;   ///< carried through load, save and comparison; nothing reads it
-    double metodoSpinte = 0;       ///< 1 Coulomb, 2 Rankine, 3 Bell
-    double metodoKs = 0;           ///< 1 Bowles, 2 Lancellotta, 3 constant, 4 linear in each layer
+    double metodoSpinte = 0;       ///< earth pressures: MetodoSpinte
+    double metodoKs = 0;           ///< subgrade modulus: MetodoKs
     double lunghezzaParatia = 0;   ///< wall length [m]
     double rigidezzaEJ = 0;        ///< bending stiffness per metre [t m2]; 0: not yet given
     double coeffM = 0;             ///< coefficient m of Lancellotta's ks
@@ -61,8 +61,8 @@ struct DatiProgetto {
     base::Tabella<double, massimoTiranti> profTirante;  ///< depth of the head [m]
     base::Tabella<double, massimoTiranti> rigTirante;   ///< axial stiffness [t/m]
     base::Tabella<double, massimoTiranti> pretTirante;  ///< prestress [t]
-    /// 0 tension only, 1 tension and compression. Any other value acts as tension only, though the
-    /// report calls it tension and compression.
+    /// TipoTirante. Any other value acts as tension only, though the report calls it tension and
+    /// compression.
     base::Tabella<double, massimoTiranti> tipoTirante;
 
     // Excavation stages, rows 1 to nFasi. The four columns have capacities of their own; only rows

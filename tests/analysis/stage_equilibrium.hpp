@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "analysis/result_file.hpp"
+#include "project/codes.hpp"
 #include "project/project_data.hpp"
 
 // What a stage's table in the result file says about the forces on the wall, worked out anew from
@@ -84,7 +85,7 @@ class EquilibrioFase {
         const int j = strato(z);
         const double phi = d_.phiStrato[j] * std::numbers::pi / 180;
         const double quarto = std::numbers::pi / 4;
-        const bool coesivo = d_.metodoSpinte < 3;
+        const bool coesivo = d_.metodoSpinte < project::MetodoSpinte::bell;
         const double ca = coesivo ? 2 * d_.coesione[j] * std::tan(quarto - phi / 2) : 0;
         const double cp = coesivo ? 2 * d_.coesione[j] * std::tan(quarto + phi / 2) : 0;
 
@@ -114,7 +115,7 @@ class EquilibrioFase {
     void tirante(int a, const analysis::RisultatiFase& r, ForzeFase& f) const {
         const int m = nodoDi(a);
         double F = d_.pretTirante[a] + d_.rigTirante[a] * (r.yNodo[m] - yTirante_[a]);
-        if (d_.tipoTirante[a] != 1) F = std::max(F, 0.0);
+        if (d_.tipoTirante[a] != project::TipoTirante::trazioneCompressione) F = std::max(F, 0.0);
         f.nodo[static_cast<std::size_t>(m - 1)] +=
             {-F, d_.rigTirante[a] * (2 * arrotondamento + dyIterazione)};
         f.scala += std::fabs(F);
@@ -125,19 +126,19 @@ class EquilibrioFase {
     // the first segment.
     void reazioni(const analysis::RisultatiFase& r, ForzeFase& f) const {
         const auto ultimo = static_cast<std::size_t>(n_ - 1);
-        if (d_.vincoloTesta == 2) {
+        if (d_.vincoloTesta == project::VincoloTesta::cerniera) {
             const Misura vicina = 0.5 * f.nodo[1];  // q(2) h / 2
             f.nodo[0] = {2 * d_.forzaTesta + r.taglioNodo[1] - r.taglioNodo[2] - vicina.valore,
                          2 * arrotondamento + vicina.errore};
             f.vincolo[0] = true;
         }
-        if (d_.vincoloPiede < 2) return;
+        if (d_.vincoloPiede < project::VincoloPiede::cerniera) return;
         const Misura vicina = 0.5 * f.nodo[ultimo - 1];
         const Misura meta{r.taglioNodo[n_ - 1] - r.taglioNodo[n_] - vicina.valore,  // q(n) h / 2
                           2 * arrotondamento + vicina.errore};
         f.vincolo[ultimo] = true;
         f.nodo[ultimo] = meta;
-        if (d_.vincoloPiede != 3) return;
+        if (d_.vincoloPiede != project::VincoloPiede::incastro) return;
         // The fixed toe is an inner node of the solved system: its pressure counts over h.
         f.nodo[ultimo] = 2 * meta;
         f.sottoPiede = {r.taglioNodo[n_] - meta.valore, arrotondamento + meta.errore};

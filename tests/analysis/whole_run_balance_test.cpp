@@ -94,7 +94,7 @@ TEST(CorseIntere, HaveShearsThatFollowThePressures) {
                         salto.errore + rumoreSolutore)
                 << j;
         }
-        if (c.d.vincoloPiede != 3) {
+        if (c.d.vincoloPiede != project::VincoloPiede::incastro) {
             EXPECT_NEAR(c.r.taglioNodo[c.n], 0, 1e-6 + rumoreSolutore);
         }
     });
@@ -105,7 +105,7 @@ TEST(CorseIntere, HaveShearsThatFollowThePressures) {
 TEST(CorseIntere, HaveMomentsThatFollowTheShears) {
     perOgniFase(104, 60, [](const FaseCalcolata& c) {
         EXPECT_NEAR(c.r.momentoNodo[1], -c.d.momentoTesta, arrotondamento);
-        const int ultimo = c.d.vincoloPiede == 3 ? c.n - 2 : c.n - 1;
+        const int ultimo = c.d.vincoloPiede == project::VincoloPiede::incastro ? c.n - 2 : c.n - 1;
         for (int j = 1; j <= ultimo; ++j) {
             const Misura forza = c.f.nodo[static_cast<std::size_t>(j - 1)];
             // Node 1 is half a node whose shear column holds H twice: what counts is its force.
@@ -128,7 +128,7 @@ TEST(CorseIntere, HaveMomentsThatFollowTheCurvature) {
                         4 * arrotondamento * EJ / h2 + 2 * arrotondamento)
                 << i;
         }
-        if (c.d.vincoloPiede != 3) {
+        if (c.d.vincoloPiede != project::VincoloPiede::incastro) {
             EXPECT_EQ(c.r.momentoNodo[c.n], 0);
         }
     });

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "project/codes.hpp"
 #include "report/sections.hpp"
 #include "support/report_text.hpp"
 #include "support/wall_builder.hpp"
@@ -8,6 +9,13 @@ namespace korven::report {
 namespace {
 
 using project::DatiProgetto;
+using project::MetodoKs;
+using project::MetodoSpinte;
+using project::ModoKs;
+using project::ModoSpinte;
+using project::ModoTensioni;
+using project::VincoloPiede;
+using project::VincoloTesta;
 using test::contiene;
 using test::progettoVuoto;
 using test::righe;
@@ -75,8 +83,13 @@ TEST(SezioneDati, ShowsALayerInKilonewtons) {
 
 TEST(SezioneDati, ChoosesALineForEachCode) {
     auto d = progettoVuoto();
-    d.vincoloTesta = d.vincoloPiede = d.modoSpinte = d.modoKs = d.modoTensioni = 1;
-    d.metodoSpinte = d.metodoKs = 1;
+    d.vincoloTesta = valore(VincoloTesta::libera);
+    d.vincoloPiede = valore(VincoloPiede::libero);
+    d.modoSpinte = valore(ModoSpinte::ricalcolate);
+    d.modoKs = valore(ModoKs::ricalcolato);
+    d.modoTensioni = valore(ModoTensioni::efficaci);
+    d.metodoSpinte = valore(MetodoSpinte::coulomb);
+    d.metodoKs = valore(MetodoKs::bowles);
     EXPECT_EQ(setteRighe(d),
               (std::vector<std::string>{
                   "Condizioni di vincolo della sommità diaframma: libera",
@@ -86,8 +99,13 @@ TEST(SezioneDati, ChoosesALineForEachCode) {
                   "Calcolo effettuato in termini di tensioni efficaci",
                   "Spinte attive e passive calcolate con il metodo di Coulomb",
                   "Coefficiente di rigidezza ks calcolato con il metodo di Bowles"}));
-    d.vincoloTesta = d.vincoloPiede = d.modoSpinte = d.modoKs = d.modoTensioni = 2;
-    d.metodoSpinte = d.metodoKs = 2;
+    d.vincoloTesta = valore(VincoloTesta::cerniera);
+    d.vincoloPiede = valore(VincoloPiede::cerniera);
+    d.modoSpinte = valore(ModoSpinte::comeMonte);
+    d.modoKs = valore(ModoKs::comeMonte);
+    d.modoTensioni = valore(ModoTensioni::totali);
+    d.metodoSpinte = valore(MetodoSpinte::rankine);
+    d.metodoKs = valore(MetodoKs::lancellotta);
     EXPECT_EQ(setteRighe(d),
               (std::vector<std::string>{
                   "Condizioni di vincolo della sommità diaframma: cerniera",
@@ -101,12 +119,14 @@ TEST(SezioneDati, ChoosesALineForEachCode) {
 
 TEST(SezioneDati, HasFurtherLinesForTheCodesWithMoreThanTwoValues) {
     auto d = progettoVuoto();
-    d.vincoloPiede = d.metodoSpinte = d.metodoKs = 3;
+    d.vincoloPiede = valore(VincoloPiede::incastro);
+    d.metodoSpinte = valore(MetodoSpinte::bell);
+    d.metodoKs = valore(MetodoKs::costante);
     auto sette = setteRighe(d);
     EXPECT_EQ(sette[1], "Condizioni di vincolo del piede diaframma: incastro");
     EXPECT_EQ(sette[5], "Spinte attive e passive calcolate con il metodo di Bell");
     EXPECT_EQ(sette[6], "Coefficiente di rigidezza ks costante in ogni strato di terreno");
-    d.metodoKs = 4;
+    d.metodoKs = valore(MetodoKs::lineare);
     EXPECT_EQ(setteRighe(d)[6],
               "Coefficiente di rigidezza ks variabile linearmente in ogni strato di terreno");
 }
@@ -119,7 +139,7 @@ TEST(SezioneDati, WritesSevenLinesWhateverTheCodesAndAnEmptyOneForACodeOfItsOwn)
         EXPECT_EQ(setteRighe(d), std::vector<std::string>(7)) << codice;
     }
     auto d = progettoVuoto();
-    d.vincoloTesta = d.modoSpinte = d.modoKs = d.modoTensioni = 3;
+    d.vincoloTesta = d.modoSpinte = d.modoKs = d.modoTensioni = 3;  // codes of others
     d.vincoloPiede = d.metodoSpinte = 4;
     EXPECT_EQ(setteRighe(d), std::vector<std::string>(7));
 }
@@ -148,11 +168,12 @@ TEST(SezioneDati, ListsTheWallInKilonewtonsWithoutTheAxialForce) {
 TEST(SezioneDati, ShowsTheCoefficientMOnlyForLancellottasMethod) {
     auto d = progettoVuoto();
     d.coeffM = 0.75;
-    for (const double metodo : {0.0, 1.0, 3.0, 4.0}) {
+    for (const double metodo :
+         {0.0, valore(MetodoKs::bowles), valore(MetodoKs::costante), valore(MetodoKs::lineare)}) {
         d.metodoKs = metodo;
         EXPECT_FALSE(contiene(dati(d), "Coefficiente 'm' per il calcolo di ks [-]\t0.75"));
     }
-    d.metodoKs = 2;
+    d.metodoKs = valore(MetodoKs::lancellotta);
     EXPECT_TRUE(contiene(dati(d), "Coefficiente 'm' per il calcolo di ks [-]\t0.75"));
     d.coeffM = 0;
     EXPECT_TRUE(contiene(dati(d), "Coefficiente 'm' per il calcolo di ks [-]\t0.00"));

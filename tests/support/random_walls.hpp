@@ -4,6 +4,7 @@
 #include <cmath>
 #include <random>
 
+#include "project/codes.hpp"
 #include "support/wall_builder.hpp"
 
 namespace korven::test {
@@ -74,7 +75,8 @@ class MuriCasuali {
     }
     void fasi(project::DatiProgetto& d) {
         const int n = intero(1, 4);
-        const double quota = d.nTiranti > 0 || d.vincoloPiede > 1 ? 0.6 : 0.3;
+        const double quota =
+            d.nTiranti > 0 || d.vincoloPiede > project::VincoloPiede::libero ? 0.6 : 0.3;
         const double passo = quota * d.lunghezzaParatia / n;
         for (int k = 1; k <= n; ++k) {
             const double scavo = d.profFase[k - 1] + tra(passo / 2, passo);

@@ -39,8 +39,8 @@ inline project::DatiProgetto muroElastico(double ks) {
     return muro()
         .strato({.gammaN = 0, .gammaSat = 0, .coesione = 1e6, .ks = ks})
         .sovraccarico(1e6)
-        .con(&project::DatiProgetto::modoSpinte, 2)
-        .con(&project::DatiProgetto::modoKs, 2)
+        .con(&project::DatiProgetto::modoSpinte, valore(project::ModoSpinte::comeMonte))
+        .con(&project::DatiProgetto::modoKs, valore(project::ModoKs::comeMonte))
         .dati();
 }
 

@@ -4,6 +4,7 @@
 #include <type_traits>
 #include <utility>
 
+#include "project/codes.hpp"
 #include "project/project_data.hpp"
 
 // Walls for tests, in the units in which a project stores them: metres, tonnes-force, degrees.
@@ -86,9 +87,13 @@ inline project::DatiProgetto progettoVuoto() {
 class Muro {
  public:
     Muro() : d_(progettoVuoto()) {
-        d_.vincoloTesta = d_.vincoloPiede = d_.modoSpinte = d_.modoKs = d_.modoTensioni = 1;
-        d_.metodoSpinte = 1;
-        d_.metodoKs = 3;
+        d_.vincoloTesta = valore(project::VincoloTesta::libera);
+        d_.vincoloPiede = valore(project::VincoloPiede::libero);
+        d_.modoSpinte = valore(project::ModoSpinte::ricalcolate);
+        d_.modoKs = valore(project::ModoKs::ricalcolato);
+        d_.modoTensioni = valore(project::ModoTensioni::efficaci);
+        d_.metodoSpinte = valore(project::MetodoSpinte::coulomb);
+        d_.metodoKs = valore(project::MetodoKs::costante);
         d_.lunghezzaParatia = 10;
         d_.rigidezzaEJ = 10000;
         d_.faldaMonte = 50;
