@@ -1,10 +1,13 @@
 #include "tools/mask_source.hpp"
 
+#include <algorithm>
 #include <optional>
+#include <span>
 #include <utility>
 
 #include "base/code_page.hpp"
 #include "base/number_text.hpp"
+#include "project/field_table.hpp"
 #include "tools/source_lines.hpp"
 
 namespace korven::tools {
@@ -16,6 +19,8 @@ using Mark = std::string_view;
 constexpr Mark maskMark = "@maschera";
 constexpr Mark choiceMark = "@scelta ";
 constexpr Mark fieldMark = "@campo ";
+constexpr Mark otherMark = "@altro ";
+constexpr Mark keysMark = "$$$";  // before the only values that a column takes
 
 std::vector<std::string> parts(std::string_view text) {
     std::vector<std::string> all;
@@ -25,6 +30,13 @@ std::vector<std::string> parts(std::string_view text) {
         if (end == std::string_view::npos) return all;
         text.remove_prefix(end + 1);
     }
+}
+
+template <class Text>
+std::string joined(std::span<const project::Codice> codes, Mark between, Text text) {
+    std::string all;
+    for (const auto& code : codes) all.append(all.empty() ? Mark() : between).append(text(code));
+    return all;
 }
 
 class Reader {
@@ -40,8 +52,11 @@ class Reader {
                 choice();
             else if (line_->starts_with(fieldMark))
                 field();
+            else if (line_->starts_with(otherMark))
+                other();
             else
-                lines_.refuse("attesa una riga \"@maschera\", \"@scelta\" o \"@campo\"");
+                lines_.refuse(
+                    "attesa una riga \"@maschera\", \"@scelta\", \"@campo\" o \"@altro\"");
         }
         return std::move(masks_);
     }
@@ -102,25 +117,63 @@ class Reader {
         made.buttons = parts(namedValue("pulsanti:"));
     }
 
+    // The row of the table of fields that the line names after its mark.
+    const project::Campo& projectField(Mark mark) {
+        const auto name = base::senzaSpaziEsterni(line_->substr(mark.size()));
+        const auto all = project::campi();
+        const auto found =
+            std::find_if(all.begin(), all.end(), [name](const auto& c) { return c.nome == name; });
+        if (found == all.end()) lines_.refuse("atteso il nome di un campo del progetto");
+        return *found;
+    }
+
     void choice() {
         MaskSource& mask = current();
         if (mask.kind != 1 || mask.fields.size() > mask.choices.size())
             lines_.refuse("attese le scelte prima dei campi, e non in una griglia");
-        MaskField made;
-        made.label = checked(line_->substr(choiceMark.size()));
+        const project::Campo& field = projectField(choiceMark);
+        if (field.codici.empty()) lines_.refuse("atteso un campo con dei codici");
         advance();
-        mask.choices.push_back(named("voci:"));
+        MaskField made;
+        made.label = etichetta(field);
+        mask.choices.push_back(
+            joined(field.codici, "|", [](const auto& code) { return std::string(code.voce); }));
         // A choice has no type; its limits are its codes.
         made.type = "0";
-        made.least = 1;
-        made.most = static_cast<double>(parts(mask.choices.back()).size());
+        made.least = field.codici.front().valore;
+        made.most = field.codici.back().valore;
         made.help = named("aiuto:");
         mask.fields.push_back(std::move(made));
     }
 
     void field() {
+        MaskSource& mask = current();
+        const project::Campo& field = projectField(fieldMark);
+        advance();
         MaskField made;
-        made.label = checked(line_->substr(fieldMark.size()));
+        made.label = etichetta(field);
+        made.type = namedValue("tipo:");
+        const auto limits = field.limiti.value_or(project::Limiti{0, 0});
+        made.least = limits.minimo;
+        made.most = limits.massimo;
+        made.help = named("aiuto:");
+        if (!field.codici.empty())
+            made.help += std::string(keysMark) + joined(field.codici, ",", [](const auto& code) {
+                             return base::testoNumero(code.valore) + '=' + std::string(code.voce);
+                         });
+        if (field.parte != project::Parte::titoli) {
+            mask.fields.push_back(std::move(made));
+            return;
+        }
+        for (int i = 1; i <= project::numeroTitoli; ++i) {
+            mask.fields.push_back(made);
+            mask.fields.back().label += " [" + std::to_string(i) + ']';
+        }
+    }
+
+    void other() {
+        MaskField made;
+        made.label = checked(line_->substr(otherMark.size()));
         MaskSource& mask = current();
         advance();
         made.type = namedValue("tipo:");

@@ -31,8 +31,9 @@ struct MaskSource {
 ///
 /// @param path  name of the source in errors
 /// @throws base::ErroreFile with the line: a line of another form or out of order, a text that
-///         Windows-1252 lacks, a comma in a text that would end there, a choice after another field
-///         or in a grid, limits the wrong way round
+///         Windows-1252 lacks, a comma in a text that would end there, a field that the project
+///         has not, a choice without codes, after another field or in a grid, limits the wrong
+///         way round
 [[nodiscard]] std::vector<MaskSource> readMaskSource(const std::string& path,
                                                      std::string_view content);
 
