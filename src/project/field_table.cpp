@@ -225,6 +225,7 @@ bool colonna(const Campo& campo) {
 }
 
 double numeroConservato(const DatiProgetto& dati, const Campo& campo, int riga) {
+    assert(!colonna(campo) || (riga >= 1 && riga <= righe(dati, campo.parte)));
     double trovato = 0;
     conValore(dati, campo, riga, [&trovato](const auto& valore) {
         using Valore = std::remove_cvref_t<decltype(valore)>;

@@ -109,7 +109,7 @@ void conValore(Dati& dati, const Campo& campo, int riga, Visita visita) {
     std::visit([&](auto membro) { visita(cella(dati, membro, riga)); }, campo.membro);
 }
 
-/// The stored number of a field, 0 for one that is none. @pre `riga` is one of its rows
+/// The stored number of a field, 0 for one that is none. @pre `riga` is one of its rows: asserted
 [[nodiscard]] double numeroConservato(const DatiProgetto& dati, const Campo& campo, int riga = 1);
 
 /// The number in the unit that people see.

@@ -55,6 +55,7 @@ TEST(TabellaCampi, PutsTheShownUnitAfterTheCaption) {
 
 TEST(TabellaCampi, ShowsTenfoldWhatIsStoredInTonnesOrCentimetresAndAllElseAsItIs) {
     DatiProgetto d;
+    d.nStrati = 2;
     d.gammaN[2] = 1.8;
     d.phiStrato[2] = 30.5;
     d.rigidezzaEJ = 12000;
