@@ -4,9 +4,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <functional>
 #include <set>
+#include <utility>
 
 #include "base/number_text.hpp"
 #include "masks/edited_fields.hpp"
@@ -16,6 +18,7 @@
 #include "project/field_table.hpp"
 #include "project/project_file.hpp"
 #include "report/sections.hpp"
+#include "review/project_review.hpp"
 #include "review/remark_list.hpp"
 #include "support/sample_projects.hpp"
 #include "support/sample_sections.hpp"
@@ -157,6 +160,56 @@ TEST(CampiDelProgetto, AllThatAreShownTenfoldAreLookedAtForNumbersTooLargeToBeSh
         const bool soloDisegnato = campo.nome == "suStrato";
         EXPECT_EQ(nonGuardati.contains(campo.nome), !decuplo || soloDisegnato) << campo.nome;
     }
+}
+
+// What hardly any field is meant to hold: too small, too large, none of the codes.
+constexpr double insoliti[] = {-2, 0, 0.5, 2.5, 6, 95, 1e4, 1e308};
+
+std::vector<std::string> rilievi(const DatiProgetto& d) {
+    std::vector<std::string> testi;
+    for (const auto& rilievo : review::esaminaProgetto(d)) testi.push_back(rilievo.testo);
+    return testi;
+}
+
+// Some such value brings a remark that names the field.
+bool esaminato(const Campo& campo) {
+    const std::string nome = review::nomeCampo(campo);
+    if (nome.empty()) return false;
+    const auto prima = rilievi(progettoCon(campo));
+    return std::any_of(std::begin(insoliti), std::end(insoliti), [&](double insolito) {
+        DatiProgetto d = progettoCon(campo);
+        project::conValore(d, campo, 1, [insolito](auto& valore) {
+            using Valore = std::remove_reference_t<decltype(valore)>;
+            if constexpr (std::is_same_v<Valore, double>)
+                valore = insolito;
+            else if constexpr (std::is_same_v<Valore, std::string>)
+                valore = std::string(500, 'x');
+            else if constexpr (std::is_same_v<Valore, bool>)
+                valore = !valore;
+        });
+        const auto dopo = rilievi(d);
+        return std::any_of(dopo.begin(), dopo.end(), [&](const std::string& testo) {
+            return testo.find(nome) != std::string::npos &&
+                   std::find(prima.begin(), prima.end(), testo) == prima.end();
+        });
+    });
+}
+
+TEST(CampiDelProgetto, AllAreNamedByARemarkButThoseNamedHereWithTheirReason) {
+    const std::pair<const char*, Nomi> altri[] = {
+        {"looked at when a file is read", {"nStrati", "nTiranti", "nFasi"}},
+        {"no run takes it", {"suStrato", "opzioneRiservata", "faldaValle"}},
+        {"any depth has a meaning", {"faldaMonte", "faldaFase"}},
+        {"refused in a sentence of its own", {"lunghezzaParatia"}},
+        {"named by its row", {"tipoTirante", "descrStrato", "titoli"}},
+        {"a remark is on the section as a whole",
+         {"sezione.tipoDiaframma", "sezione.tipoPali", "sezione.tipoPalancola",
+          "sezione.tipoPaliArmati", "sezione.fck", "sezione.fyk", "sezione.modEcls",
+          "sezione.modEacciaio"}},
+    };
+    Nomi attesi;
+    for (const auto& [perche, nomi] : altri) attesi.insert(nomi.begin(), nomi.end());
+    EXPECT_EQ(diversiDa(esaminato), attesi);
 }
 
 // The frame of each type holds the fields of its part, and each field is in one.
