@@ -9,24 +9,28 @@ namespace korven::analysis {
 
 using project::MetodoSpinte;
 
-PressioniLimite limitiMonte(double metodoSpinte, double sigma, double ka, double kp, double c,
-                            double phi) {
+CoesioneLimiti coesioneLimiti(double c, double phi) {
+    return {2 * c * std::tan(pi / 4 - phi / 2), 2 * c * std::tan(pi / 4 + phi / 2)};
+}
+
+PressioniLimite limitiMonte(double metodoSpinte, double sigma, double ka, double kp,
+                            const CoesioneLimiti& coesione) {
     PressioniLimite limiti{sigma * ka, sigma * kp};
     if (metodoSpinte < MetodoSpinte::bell) {
-        limiti.attiva -= 2 * c * std::tan(pi / 4 - phi / 2);
+        limiti.attiva -= coesione.attiva;
         if (limiti.attiva < 0) limiti.attiva = 0;
-        limiti.passiva += 2 * c * std::tan(pi / 4 + phi / 2);
+        limiti.passiva += coesione.passiva;
     }
     return limiti;
 }
 
-PressioniLimite limitiValle(double metodoSpinte, double sigma, double ka, double kp, double c,
-                            double phi) {
+PressioniLimite limitiValle(double metodoSpinte, double sigma, double ka, double kp,
+                            const CoesioneLimiti& coesione) {
     PressioniLimite limiti{sigma * ka, sigma * kp};
     if (metodoSpinte < MetodoSpinte::bell && ka != 0 && kp != 0) {
-        limiti.attiva += 2 * c * std::tan(pi / 4 - phi / 2);
+        limiti.attiva += coesione.attiva;
         if (limiti.attiva > 0) limiti.attiva = 0;
-        limiti.passiva -= 2 * c * std::tan(pi / 4 + phi / 2);
+        limiti.passiva -= coesione.passiva;
     }
     return limiti;
 }

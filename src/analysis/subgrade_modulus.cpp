@@ -38,8 +38,8 @@ FattoriPortanza fattoriPortanza(double phi) {
     return {Nq, (Nq - 1) / std::tan(phi), 1.5 * (Nq - 1) * std::tan(phi)};
 }
 
-double moduloBowles(double c, double G, double sigmaEfficace, double phi) {
-    const auto [Nq, Nc, Ngamma] = fattoriPortanza(phi);
+double moduloBowles(double c, double G, double sigmaEfficace, const FattoriPortanza& portanza) {
+    const auto& [Nq, Nc, Ngamma] = portanza;
     return -40 * (c * Nc + G * Ngamma + sigmaEfficace * Nq);
 }
 
@@ -49,7 +49,7 @@ ModuloNodo moduloReazione(const project::DatiProgetto& dati, const NodoKs& nodo)
     if (dati.metodoKs == MetodoKs::bowles) {
         const double G =
             nodo.falda > nodo.z ? dati.gammaN[j] : dati.gammaSat[j] - alleggerimentoBowles;
-        return {moduloBowles(dati.coesione[j], G, nodo.sigmaEfficace, nodo.phi)};
+        return {moduloBowles(dati.coesione[j], G, nodo.sigmaEfficace, nodo.portanza)};
     }
     if (dati.metodoKs == MetodoKs::lancellotta) return lancellotta(dati.coeffM, nodo.sigmaRiposo);
     if (dati.metodoKs == MetodoKs::costante) return {-dati.ksStrato[j]};

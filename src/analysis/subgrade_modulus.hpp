@@ -17,20 +17,20 @@ struct ModuloNodo {
     Indefinito motivo = Indefinito::no;
 };
 
+/// Bearing-capacity factors of Bowles' ks, which are Hansen's.
+struct FattoriPortanza {
+    double Nq = 0, Nc = 0, Ngamma = 0;
+};
+
 /// What a method needs to know of a node on one side.
 struct NodoKs {
     int strato = 0;            ///< the layer whose values count
     double z = 0;              ///< depth [m]
-    double phi = 0;            ///< friction angle [rad]
+    FattoriPortanza portanza;  ///< of the node's friction angle, for Bowles' method
     double falda = 0;          ///< water table of this side [m]
     double sigmaEfficace = 0;  ///< effective vertical stress [t/m2]
     double sigmaRiposo = 0;    ///< at-rest coefficient times vertical stress [t/m2], positive
     double fondo = 0;          ///< bottom of the layer for the linear method [m]
-};
-
-/// Bearing-capacity factors of Bowles' ks, which are Hansen's.
-struct FattoriPortanza {
-    double Nq, Nc, Ngamma;
 };
 
 ///     Nq = tan^2(pi/4 + phi/2) exp(pi tan phi),  Nc = (Nq - 1) / tan phi,
@@ -47,7 +47,8 @@ struct FattoriPortanza {
 /// @param c  cohesion [t/m2]
 /// @param G  unit weight [t/m3]: natural above water, saturated less 1 below
 /// Source: Bowles (1996), chapter 9, subgrade reaction (not looked up).
-[[nodiscard]] double moduloBowles(double c, double G, double sigmaEfficace, double phi);
+[[nodiscard]] double moduloBowles(double c, double G, double sigmaEfficace,
+                                  const FattoriPortanza& portanza);
 
 /// Modulus by `metodoKs`: 1 Bowles, 2 Lancellotta, -m sqrt(k0 sigma), 3 the layer's own ks, 4
 /// linear from the ks of the layer above, at the top, to the layer's own at the bottom (0 at the

@@ -72,7 +72,7 @@ void equilibrioGlobale(const Parete& parete, MatriceSistema& A, VettoreNodi& b) 
 
 // Depths far outside the wall all lead to nodes that do not exist.
 static constexpr int primaDiTutti = -1;
-static constexpr int dopoTutti = capacitaNodi + 1;
+static constexpr int dopoTutti = 1000000;
 
 int nodoTirante(double profondita, double passoNodi) {
     const double nodo = 1 + std::trunc(profondita / passoNodi + 0.5);

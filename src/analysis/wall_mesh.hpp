@@ -10,7 +10,7 @@ inline constexpr double kVincolo = -1e11;
 
 /// Node of an anchor at a depth: the nearest one, the deeper one half way.
 /// @return a number outside 1 to `nNodi` for an anchor beside the wall; below the toe it goes on
-///         growing to 501, above the top it falls to -1, also for a depth that is no number
+///         growing to a million, above the top it falls to -1, also for a depth that is no number
 [[nodiscard]] int nodoTirante(double profondita, double passoNodi);
 
 /// What one iteration knows of the wall.

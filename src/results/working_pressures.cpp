@@ -19,10 +19,11 @@ PressioniNodo pressioniNodo(const analysis::RisultatiFase& fase, int i, double m
                             const Resistenza& terreno) {
     const auto [phi, c] = terreno;
     PressioniNodo p;
+    const auto coesione = analysis::coesioneLimiti(c, phi);
     p.limitiM =
-        analysis::limitiMonte(metodoSpinte, fase.sigmaVm[i], fase.kam[i], fase.kpm[i], c, phi);
+        analysis::limitiMonte(metodoSpinte, fase.sigmaVm[i], fase.kam[i], fase.kpm[i], coesione);
     p.limitiV =
-        analysis::limitiValle(metodoSpinte, fase.sigmaVv[i], fase.kav[i], fase.kpv[i], c, phi);
+        analysis::limitiValle(metodoSpinte, fase.sigmaVv[i], fase.kav[i], fase.kpv[i], coesione);
     p.pm = fase.sigmaVm[i] * fase.k0m[i] + fase.Ehm[i] * fase.yNodo[i];
     p.pm = std::min(std::max(p.pm, p.limitiM.attiva), p.limitiM.passiva);
     p.pv = fase.sigmaVv[i] * fase.k0v[i] + fase.Ehv[i] * fase.yNodo[i];

@@ -39,8 +39,8 @@ TEST(FattoriPortanza, TendToThoseOfClay) {
 
 // 40 (2 x 30.139628 + 1.8 x 15.069814 + 10 x 18.401122): no half and no width in the middle term.
 TEST(ModuloBowles, IsFortyTimesTheSumOfTheThreeTerms) {
-    EXPECT_NEAR(moduloBowles(2, 1.8, 10, rad(30)), -10856.645711, 1e-6);
-    EXPECT_NEAR(moduloBowles(0, 0, 1, rad(30)), -40 * 18.4011222187087, 1e-9);
+    EXPECT_NEAR(moduloBowles(2, 1.8, 10, fattoriPortanza(rad(30))), -10856.645711, 1e-6);
+    EXPECT_NEAR(moduloBowles(0, 0, 1, fattoriPortanza(rad(30))), -40 * 18.4011222187087, 1e-9);
 }
 
 // Two layers to 4 and 10 m.
@@ -62,20 +62,29 @@ class ModuloReazioneTest : public testing::Test {
 };
 
 TEST_F(ModuloReazioneTest, BowlesTakesTheNaturalWeightAboveWater) {
-    const NodoKs nodo{
-        .strato = 2, .z = 6, .phi = rad(30), .falda = 6.1, .sigmaEfficace = 9, .sigmaRiposo = 77};
+    const NodoKs nodo{.strato = 2,
+                      .z = 6,
+                      .portanza = fattoriPortanza(rad(30)),
+                      .falda = 6.1,
+                      .sigmaEfficace = 9,
+                      .sigmaRiposo = 77};
     EXPECT_NEAR(modulo(1, nodo), -40 * (0.5 * Nc + 1.8 * Ngamma + 9 * Nq), 1e-7);
 }
 
 TEST_F(ModuloReazioneTest, BowlesTakesTheSaturatedWeightLessOneFromTheWaterTableOn) {
     for (double falda : {6.0, 2.0, -1.0}) {
-        const NodoKs nodo{.strato = 2, .z = 6, .phi = rad(30), .falda = falda, .sigmaEfficace = 9};
+        const NodoKs nodo{.strato = 2,
+                          .z = 6,
+                          .portanza = fattoriPortanza(rad(30)),
+                          .falda = falda,
+                          .sigmaEfficace = 9};
         EXPECT_NEAR(modulo(1, nodo), -40 * (0.5 * Nc + 1.1 * Ngamma + 9 * Nq), 1e-7) << falda;
     }
 }
 
 TEST_F(ModuloReazioneTest, BowlesTakesOffOneWhateverWaterWeighs) {
-    const NodoKs nodo{.strato = 2, .z = 6, .phi = rad(30), .falda = 2, .sigmaEfficace = 9};
+    const NodoKs nodo{
+        .strato = 2, .z = 6, .portanza = fattoriPortanza(rad(30)), .falda = 2, .sigmaEfficace = 9};
     const double prima = modulo(1, nodo);
     dati.gammaAcqua = 1.5;
     EXPECT_EQ(modulo(1, nodo), prima);
@@ -138,13 +147,17 @@ TEST_F(ModuloReazioneTest, LinearHasNoValueBelowALayerWithoutThickness) {
 }
 
 TEST_F(ModuloReazioneTest, IsZeroForACodeThatIsNoMethod) {
-    const NodoKs nodo{.strato = 2, .z = 6, .phi = rad(30), .sigmaEfficace = 9, .sigmaRiposo = 4};
+    const NodoKs nodo{.strato = 2,
+                      .z = 6,
+                      .portanza = fattoriPortanza(rad(30)),
+                      .sigmaEfficace = 9,
+                      .sigmaRiposo = 4};
     for (double codice : {0.0, 5.0, -1.0, 2.5}) EXPECT_EQ(modulo(codice, nodo), 0) << codice;
 }
 
 TEST_F(ModuloReazioneTest, OnlyBowlesNeedsFriction) {
     dati.coeffM = 700;
-    const NodoKs nodo{.strato = 2, .z = 7, .phi = 0, .sigmaRiposo = 4, .fondo = 10};
+    const NodoKs nodo{.strato = 2, .z = 7, .sigmaRiposo = 4, .fondo = 10};
     EXPECT_EQ(modulo(2, nodo), -1400);
     EXPECT_EQ(modulo(3, nodo), -2500);
     EXPECT_DOUBLE_EQ(modulo(4, nodo), -1750);
@@ -152,7 +165,7 @@ TEST_F(ModuloReazioneTest, OnlyBowlesNeedsFriction) {
 
 // At 30 degrees Nq = 18.4011 and Ngamma = 15.0698: -40 (0.9 * 15.0698 - 2 * 18.4011).
 TEST(ModuloBowles, TurnsPositiveWithANegativeStressAsTheFormulaHasIt) {
-    EXPECT_NEAR(moduloBowles(0, 0.9, -2, pi / 6), 929.576, 0.01);
+    EXPECT_NEAR(moduloBowles(0, 0.9, -2, fattoriPortanza(pi / 6)), 929.576, 0.01);
 }
 
 TEST_F(ModuloReazioneTest, IsNeverPositiveForAnySoilInPractice) {
@@ -165,7 +178,7 @@ TEST_F(ModuloReazioneTest, IsNeverPositiveForAnySoilInPractice) {
         const NodoKs nodo{
             .strato = j,
             .z = dati.profStrato[j - 1] + uno(caso) * (fondo - dati.profStrato[j - 1]),
-            .phi = 0.01 + 0.8 * uno(caso),
+            .portanza = fattoriPortanza(0.01 + 0.8 * uno(caso)),
             .falda = 20 * uno(caso) - 2,
             .sigmaEfficace = 30 * uno(caso),
             .sigmaRiposo = 20 * uno(caso),

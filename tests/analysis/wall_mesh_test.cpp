@@ -187,7 +187,7 @@ TEST(NodoTirante, LiesBeyondTheWallForADeeperAnchor) {
     EXPECT_EQ(nodoTirante(10.2, 0.2), 52);
     EXPECT_GT(nodoTirante(1e300, 0.2), capacitaNodi);
     EXPECT_LT(nodoTirante(-1e300, 0.2), 1);
-    EXPECT_EQ(nodoTirante(1e300, 0.2), 501);
+    EXPECT_EQ(nodoTirante(1e300, 0.2), 1000000);
     EXPECT_EQ(nodoTirante(-1e300, 0.2), -1);
 }
 
