@@ -1,0 +1,43 @@
+#include "safety/mesh_error.hpp"
+
+#include <cmath>
+
+namespace korven::safety {
+
+namespace {
+
+using equilibrium::Estremi;
+
+std::optional<Estremi> involuppo(const project::DatiProgetto& dati, int nSeg) {
+    const auto fasi = equilibrium::calcolaEquilibrio(dati, nSeg);
+    if (fasi.empty() || fasi.back().esito != equilibrium::EsitoFase::equilibrio)
+        return std::nullopt;
+    return equilibrium::estremi(fasi, dati.lunghezzaParatia / nSeg);
+}
+
+ErroreGrandezza errore(double semplice, double doppia, double quadrupla) {
+    const double a = std::fabs(semplice), b = std::fabs(doppia), c = std::fabs(quadrupla);
+    ErroreGrandezza e{.valore = a, .fine = c};
+    if (c > 0) e.quota = std::fabs(a - c) / c;
+    const double rapporto = (a - b) / (b - c);  // 2 to the order
+    if (std::isfinite(rapporto) && rapporto > 1) e.ordine = std::log2(rapporto);
+    return e;
+}
+
+}  // namespace
+
+std::optional<ErroreMaglia> erroreMaglia(const project::DatiProgetto& dati, int nSeg,
+                                         const Estremi& estremi) {
+    const auto doppia = involuppo(dati, 2 * nSeg);
+    const auto quadrupla = involuppo(dati, 4 * nSeg);
+    if (!doppia || !quadrupla) return std::nullopt;
+    const auto di = [&](auto valore) {
+        return errore(valore(estremi), valore(*doppia), valore(*quadrupla));
+    };
+    return ErroreMaglia{di([](const Estremi& e) { return e.momento().valore; }),
+                        di([](const Estremi& e) { return e.taglio.valore; }),
+                        di([](const Estremi& e) { return e.spostamento.valore; }),
+                        di([](const Estremi& e) { return e.tiro.valore; })};
+}
+
+}  // namespace korven::safety

@@ -1,0 +1,50 @@
+#include "safety/mesh_error.hpp"
+
+#include <gtest/gtest.h>
+
+#include "support/sample_projects.hpp"
+
+namespace korven::safety {
+namespace {
+
+using equilibrium::calcolaEquilibrio;
+using project::DatiProgetto;
+
+// A beam on two hinges under the uniform pressure q: by finite differences the moment at mid span
+// is q L^2 / 8 at every even mesh, and the displacement 5 q L^4 / (384 EJ) (1 + 0.8 (h/L)^2): with
+// h = L / 10, L / 20 and L / 40 the errors against the finest are (0.8 / 100)(1 - 1/16) and a
+// quarter of what is left.
+TEST(ErroreMaglia, IsThatOfFiniteDifferencesForABeam) {
+    auto dati = test::muroNudo();
+    dati.vincoloTesta = dati.vincoloPiede = 2;
+    dati.pressioneOrizz = 1;
+    const auto estremi = equilibrium::estremi(calcolaEquilibrio(dati, 10), 1);
+    EXPECT_NEAR(estremi.momento().valore, 12.5, 1e-9);
+    const auto errore = erroreMaglia(dati, 10, estremi);
+    ASSERT_TRUE(errore);
+    EXPECT_NEAR(errore->momento.quota.value_or(1), 0, 1e-9);
+    const double fine = 1 + 0.8 / 1600;
+    EXPECT_NEAR(errore->spostamento.quota.value_or(0), (1 + 0.8 / 100) / fine - 1, 1e-6);
+    EXPECT_NEAR(errore->spostamento.ordine.value_or(0), 2, 1e-3);
+    EXPECT_FALSE(errore->tiro.quota);
+}
+
+TEST(ErroreMaglia, IsNoneWhereAFinerMeshDoesNotStand) {
+    auto dati = test::progettoSemplice();
+    dati.profFase[2] = 11.5;
+    dati.tirantiFase[2] = 0;
+    EXPECT_FALSE(erroreMaglia(dati, 50, {}));
+}
+
+TEST(ErroreMaglia, GoesBeyondTheSegmentsOfTheSpecifiedRun) {
+    const DatiProgetto dati = test::progettoSemplice();
+    const int nSeg = 249;
+    const auto errore = erroreMaglia(
+        dati, nSeg,
+        equilibrium::estremi(calcolaEquilibrio(dati, nSeg), dati.lunghezzaParatia / nSeg));
+    ASSERT_TRUE(errore);
+    EXPECT_LT(errore->momento.quota.value_or(1), 0.01);
+}
+
+}  // namespace
+}  // namespace korven::safety
