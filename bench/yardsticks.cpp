@@ -17,6 +17,11 @@ bool risolviDgesv(SistemaPieno& s) {
                               s.n) == 0;
 }
 
+bool risolviDpbsv(SistemaBandato& s) {
+    return LAPACKE_dpbsv_work(LAPACK_COL_MAJOR, 'U', s.n, 2, 1, s.A.data(), 3, s.b.data(), s.n) ==
+           0;
+}
+
 bool risolviFullPivLU(SistemaPieno& s) {
     Eigen::Map<Eigen::MatrixXd> A(s.A.data(), s.n, s.n);
     Eigen::Map<Eigen::VectorXd> b(s.b.data(), s.n);

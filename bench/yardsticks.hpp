@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <vector>
 
 namespace korven::bench {
@@ -10,6 +11,21 @@ struct SistemaPieno {
     std::vector<double> A, b;
 };
 
+/// A symmetric system with two diagonals beside the main one, the upper half by columns of three,
+/// and a right-hand side of ones.
+struct SistemaBandato {
+    int n = 0;
+    std::vector<double> A, b;
+
+    explicit SistemaBandato(int righe)
+        : n(righe), A(3 * static_cast<std::size_t>(righe)), b(static_cast<std::size_t>(righe), 1) {}
+
+    /// Adds to cell i, j with i not beyond j.
+    void aggiungi(int i, int j, double valore) {
+        A[static_cast<std::size_t>(2 + i - j + 3 * j)] += valore;
+    }
+};
+
 /// OpenBLAS on one thread from here on.
 void unSoloFilo();
 
@@ -17,5 +33,9 @@ void unSoloFilo();
 /// @return false when LAPACK finds the matrix singular, or Eigen finds a rank below n
 bool risolviDgesv(SistemaPieno& s);
 bool risolviFullPivLU(SistemaPieno& s);
+
+/// LAPACK dpbsv (Cholesky), in place, the answer in s.b.
+/// @return false when the matrix is not positive definite
+bool risolviDpbsv(SistemaBandato& s);
 
 }  // namespace korven::bench

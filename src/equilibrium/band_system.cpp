@@ -27,6 +27,8 @@ SistemaBanda::SistemaBanda(int n)
     assert(n >= 4);
 }
 
+// Each row waits for the ones above it; the products that do not are written so that they need not
+// wait with it.
 bool SistemaBanda::fattorizza(double e, std::span<const double> k) {
     const std::size_t n = inverso_.size();
     // What the columns before subtract from the diagonal of this row and of the next, and from the
@@ -37,32 +39,28 @@ bool SistemaBanda::fattorizza(double e, std::span<const double> k) {
         const double perno = cella - daQui;
         if (!(perno > nulloPerArrotondamento * cella)) return false;
         const double inverso = 1 / perno;
-        inverso_[i] = inverso;
         const double uno = i + 1 < n ? e * accanto(i, n) - daAccanto : 0;
         const double due = i + 2 < n ? e : 0;
+        inverso_[i] = inverso;
         l1_[i] = uno * inverso;
         l2_[i] = due * inverso;
-        daQui = daDopo + uno * l1_[i];
-        daAccanto = due * l1_[i];
-        daDopo = due * l2_[i];
+        daQui = daDopo + (uno * uno) * inverso;
+        daAccanto = (due * uno) * inverso;
+        daDopo = (due * due) * inverso;
     }
     return true;
 }
 
 void SistemaBanda::risolvi(std::span<const double> b, std::span<double> x) const {
     const std::size_t n = inverso_.size();
-    double prima = 0, seconda = 0;  // what the rows above subtract from this one and from the next
-    for (std::size_t i = 0; i < n; ++i) {
-        x[i] = b[i] - prima;
-        prima = seconda + l1_[i] * x[i];
-        seconda = l2_[i] * x[i];
-    }
-    double dopo = 0, dopoAncora = 0;
-    for (std::size_t i = n; i-- > 0;) {
-        x[i] = x[i] * inverso_[i] - l1_[i] * dopo - l2_[i] * dopoAncora;
-        dopoAncora = dopo;
-        dopo = x[i];
-    }
+    x[0] = b[0];
+    x[1] = b[1] - l1_[0] * x[0];
+    for (std::size_t i = 2; i < n; ++i)
+        x[i] = (b[i] - l2_[i - 2] * x[i - 2]) - l1_[i - 1] * x[i - 1];
+    x[n - 1] *= inverso_[n - 1];
+    x[n - 2] = x[n - 2] * inverso_[n - 2] - l1_[n - 2] * x[n - 1];
+    for (std::size_t i = n - 2; i-- > 0;)
+        x[i] = (x[i] * inverso_[i] - l2_[i] * x[i + 2]) - l1_[i] * x[i + 1];
 }
 
 }  // namespace korven::equilibrium

@@ -64,15 +64,16 @@ Newton::Newton(int n) : banda_(n) {
 
 void Newton::valuta(const ProblemaFase& problema, Punto& punto) const {
     const std::size_t n = punto.y.size();
-    for (std::size_t i = 0; i < n; ++i) {
+    const auto nParete = static_cast<std::size_t>(problema.nParete);
+    punto.r.back() = punto.k.back() = 0;  // of the node that a fixed toe adds
+    for (std::size_t i = 0; i < nParete; ++i) {
         const NodoFase& nodo = problema.nodi[i];
         // The spring of a restraint takes the place of the soil's; the constant part stays.
         const double y = nodo.vincolato ? 0 : punto.y[i];
-        const bool fuori = i >= static_cast<std::size_t>(problema.nParete);
-        punto.r[i] = fuori ? 0
-                           : nodo.peso * (nodo.acqua + problema.costante + nodo.monte.pressione(y) +
-                                          nodo.valle.pressione(y));
-        punto.k[i] = nodo.peso * (nodo.monte.rigidezza(y) + nodo.valle.rigidezza(y));
+        double k = 0;
+        const double p = nodo.monte.pressione(y, k) + nodo.valle.pressione(y, k);
+        punto.r[i] = nodo.peso * (nodo.acqua + problema.costante + p);
+        punto.k[i] = nodo.peso * k;
     }
     for (const TiranteFase& t : problema.tiranti) {
         if (t.nodo < 0) continue;

@@ -18,14 +18,22 @@ struct LatoNodo {
     double Eh = 0;                   ///< modulus [t/m3], not positive
     double minimo = 0, massimo = 0;  ///< limits [t/m2]
 
-    [[nodiscard]] double pressione(double y) const {
+    /// The pressure at y [t/m2]; adds -dp/dy at y [t/m3] to `rigidezza`.
+    double pressione(double y, double& rigidezza) const {
         const double prova = riposo + y * Eh;
-        return prova < minimo ? minimo : prova > massimo ? massimo : prova;
+        if (prova < minimo) return minimo;
+        if (prova > massimo) return massimo;
+        rigidezza -= Eh;
+        return prova;
     }
-    /// @return -dp/dy at y [t/m3]
+    [[nodiscard]] double pressione(double y) const {
+        double rigidezza = 0;
+        return pressione(y, rigidezza);
+    }
     [[nodiscard]] double rigidezza(double y) const {
-        const double prova = riposo + y * Eh;
-        return prova < minimo || prova > massimo ? 0 : -Eh;
+        double k = 0;
+        pressione(y, k);
+        return k;
     }
     /// What the pressure tends to when the node moves without end [t/m2].
     /// @param verso  1 towards the excavation, -1 away from it

@@ -49,12 +49,6 @@ Somme limite(const ProblemaFase& problema, int i, int verso) {
     return s;
 }
 
-Somme tutti(const ProblemaFase& problema, int verso) {
-    Somme somme;
-    for (int i = 0; i < problema.n(); ++i) somme.aggiungi(limite(problema, i, verso));
-    return somme;
-}
-
 // Keeps the movement that most is missing for.
 class Peggiore {
  public:
@@ -73,36 +67,36 @@ class Peggiore {
     double misura_ = 0;
 };
 
-void traslazioni(const ProblemaFase& problema, Peggiore& peggiore) {
-    for (const int verso : {1, -1}) {
-        const Somme s = tutti(problema, verso);
-        peggiore.prova({true, 0, verso, verso * (s.forza + problema.H)}, s.trattenuti, 1);
-    }
-}
+}  // namespace
 
-// The nodes above the point move one way and those below the other, so the sums of both ways are
-// kept for both parts.
-void rotazioni(const ProblemaFase& problema, int verso, Peggiore& peggiore) {
-    Somme sopra;                           // they move against `verso`
-    Somme sotto = tutti(problema, verso);  // they move with it
-    const double lunghezza = problema.profondita(problema.n() - 1);
+std::optional<Meccanismo> meccanismo(const ProblemaFase& problema) {
+    // What the nodes above and below a point do when they move towards the excavation and away.
+    Somme sopraVia, sopraVerso, sottoVia, sottoVerso;
     for (int i = 0; i < problema.n(); ++i) {
-        sotto.togli(limite(problema, i, verso));
-        const double z = problema.profondita(i);
+        sottoVerso.aggiungi(limite(problema, i, 1));
+        sottoVia.aggiungi(limite(problema, i, -1));
+    }
+    Peggiore peggiore;
+    peggiore.prova({true, 0, 1, sottoVerso.forza + problema.H}, sottoVerso.trattenuti, 1);
+    peggiore.prova({true, 0, -1, -(sottoVia.forza + problema.H)}, sottoVia.trattenuti, 1);
+
+    const double lunghezza = problema.profondita(problema.n() - 1);
+    const auto rotazione = [&](int verso, double z, const Somme& sopra, const Somme& sotto) {
         const double forza = sopra.forza + sotto.forza + problema.H;
         const double momento = sopra.momento + sotto.momento - problema.M;
         peggiore.prova({false, z, verso, verso * (momento - z * forza)},
                        sopra.trattenuti + sotto.trattenuti, std::max(z, lunghezza - z));
-        sopra.aggiungi(limite(problema, i, -verso));
+    };
+    for (int i = 0; i < problema.n(); ++i) {
+        const double z = problema.profondita(i);
+        const Somme nodoVerso = limite(problema, i, 1), nodoVia = limite(problema, i, -1);
+        sottoVerso.togli(nodoVerso);
+        sottoVia.togli(nodoVia);
+        rotazione(1, z, sopraVia, sottoVerso);
+        rotazione(-1, z, sopraVerso, sottoVia);
+        sopraVerso.aggiungi(nodoVerso);
+        sopraVia.aggiungi(nodoVia);
     }
-}
-
-}  // namespace
-
-std::optional<Meccanismo> meccanismo(const ProblemaFase& problema) {
-    Peggiore peggiore;
-    traslazioni(problema, peggiore);
-    for (const int verso : {1, -1}) rotazioni(problema, verso, peggiore);
     return peggiore.trovato();
 }
 
