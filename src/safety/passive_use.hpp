@@ -3,21 +3,17 @@
 #include <optional>
 #include <vector>
 
+#include "equilibrium/limit_parts.hpp"
 #include "equilibrium/staged_equilibrium.hpp"
 
 namespace korven::safety {
-
-/// From one depth to another [m].
-struct Tratto {
-    double da = 0, a = 0;
-};
 
 /// How much of what the soil in front of the wall can give is used in one stage.
 struct UsoPassiva {
     /// Sum of the pressure below the excavation over the sum of its passive limit, 0 to 1; nothing
     /// where the limit is 0, as with an excavation below the toe.
     std::optional<double> quota;
-    std::vector<Tratto> alLimite;  ///< where it is at the limit, from the top down
+    std::vector<equilibrium::Tratto> alLimite;  ///< where it is at the limit, from the top down
 };
 
 /// @param fase   a stage in equilibrium

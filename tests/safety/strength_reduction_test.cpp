@@ -5,9 +5,8 @@
 #include <cmath>
 
 #include "analysis/pressure_coefficients.hpp"
-#include "base/text_lines.hpp"
-#include "project/project_file.hpp"
 #include "support/wall_builder.hpp"
+#include "support/wall_files.hpp"
 
 namespace korven::safety {
 namespace {
@@ -97,9 +96,7 @@ TEST(Riduzione, DividesCohesionToo) {
 // By an independent calculation 2.98, 2.51, 1.64 and 1.74, of the example with its last two stages
 // both dug to 10 m, the fourth under 0.5 t/m2.
 TEST(Riduzione, IsThatOfAnIndependentCalculation) {
-    auto file = base::LettoreRighe::apri(KORVEN_EXAMPLES "/diaframma_due_ordini.kvd");
-    DatiProgetto dati;
-    project::leggiDati(file, dati);
+    auto dati = test::leggiMuro(KORVEN_EXAMPLES "/diaframma_due_ordini.kvd");
     dati.profFase[3] = 10;
     dati.faldaFase[3] = 10.5;
     dati.sovraccFase[4] = 0.5;
