@@ -24,13 +24,13 @@ struct FattoriPortanza {
 
 /// What a method needs to know of a node on one side.
 struct NodoKs {
-    int strato = 0;            ///< the layer whose values count
-    double z = 0;              ///< depth [m]
-    FattoriPortanza portanza;  ///< of the node's friction angle, for Bowles' method
-    double falda = 0;          ///< water table of this side [m]
-    double sigmaEfficace = 0;  ///< effective vertical stress [t/m2]
-    double sigmaRiposo = 0;    ///< at-rest coefficient times vertical stress [t/m2], positive
-    double fondo = 0;          ///< bottom of the layer for the linear method [m]
+    int strato = 0;              ///< the layer whose values count
+    double z = 0;                ///< depth [m]
+    FattoriPortanza portanza{};  ///< of the node's friction angle, for Bowles' method
+    double falda = 0;            ///< water table of this side [m]
+    double sigmaEfficace = 0;    ///< effective vertical stress [t/m2]
+    double sigmaRiposo = 0;      ///< at-rest coefficient times vertical stress [t/m2], positive
+    double fondo = 0;            ///< bottom of the layer for the linear method [m]
 };
 
 ///     Nq = tan^2(pi/4 + phi/2) exp(pi tan phi),  Nc = (Nq - 1) / tan phi,
