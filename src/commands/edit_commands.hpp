@@ -19,11 +19,11 @@ inline constexpr auto senzaMaschera = masks::NumeroMaschera{0};
 /// `Progetto` and takes back what was confirmed, with `modificato` by the rules of
 /// masks/edited_tables.hpp. The stage that the diagrams draw, a field of the headings' form, is no
 /// part of the project and modifies nothing.
-/// @param maschera  which form, or `senzaMaschera`; it is plugged in: asserted
-/// @param rifiuto   what is said without an open project
+/// @param numero  which form, or `senzaMaschera`; it is plugged in: asserted
+/// @param rifiuto  what is said without an open project
 /// @throws ErroreRighe (fatal_error.hpp) if a table with more rows than it can hold was confirmed;
 ///         the rows have then been written beside the project
-void edita(masks::NumeroMaschera maschera, const char* rifiuto, base::Dialogo& dialogo,
+void edita(masks::NumeroMaschera numero, const char* rifiuto, base::Dialogo& dialogo,
            masks::Maschere& maschere, const FormeProgramma& forme);
 
 }  // namespace korven::commands
