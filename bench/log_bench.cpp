@@ -5,7 +5,7 @@
 
 #include "base/folders/program_folder.hpp"
 #include "drawings/hatch_library.hpp"
-#include "drawings/stratigraphic_log.hpp"
+#include "drawings/log/stratigraphic_log.hpp"
 #include "plot/dxf/export.hpp"
 #include "plot/plot_configuration.hpp"
 #include "plot/plot_engine.hpp"

@@ -18,8 +18,8 @@
 #include "batch/run/report_formats.hpp"
 #include "batch/run/reviewed_run.hpp"
 #include "commands/diagram_output.hpp"
+#include "drawings/log/stratigraphic_log.hpp"
 #include "drawings/section_drawing.hpp"
-#include "drawings/stratigraphic_log.hpp"
 #include "project/project_data.hpp"
 #include "results/run_outcome.hpp"
 

@@ -1,4 +1,4 @@
-#include "drawings/stratigraphic_log.hpp"
+#include "drawings/log/stratigraphic_log.hpp"
 
 #include "batch/command_table.hpp"
 #include "batch/options/common_options.hpp"

@@ -2,7 +2,7 @@
 
 #include "base/table.hpp"
 #include "base/translated_texts.hpp"
-#include "drawings/log_descriptions.hpp"
+#include "drawings/log/descriptions.hpp"
 #include "plot/text_width.hpp"
 #include "review/remark_list.hpp"
 

@@ -4,8 +4,8 @@
 
 #include "base/code_page.hpp"
 #include "base/translated_texts.hpp"
-#include "drawings/log_scale.hpp"
-#include "drawings/log_table.hpp"
+#include "drawings/log/depth_scale.hpp"
+#include "drawings/log/table.hpp"
 #include "masks/field_check.hpp"
 #include "plot/sheet.hpp"
 #include "plot/text_width.hpp"

@@ -10,7 +10,7 @@
 
 #include "commands/diagram_output.hpp"
 #include "commands/report_files.hpp"
-#include "drawings/stratigraphic_log.hpp"
+#include "drawings/log/stratigraphic_log.hpp"
 #include "masks/edited_tables.hpp"
 #include "results/run_outcome.hpp"
 #include "review/project_review.hpp"

@@ -10,7 +10,7 @@
 #include "base/code_page.hpp"
 #include "base/folders/program_folder.hpp"
 #include "drawings/hatch_library.hpp"
-#include "drawings/layer_description.hpp"
+#include "drawings/log/layer_description.hpp"
 #include "project/project_file.hpp"
 #include "report/calculation_report.hpp"
 #include "results/report_data.hpp"

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "base/code_page.hpp"
-#include "drawings/stratigraphic_log.hpp"
+#include "drawings/log/stratigraphic_log.hpp"
 #include "plot/text_width.hpp"
 #include "project/project_data.hpp"
 #include "support/hatch_setup.hpp"

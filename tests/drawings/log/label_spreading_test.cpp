@@ -1,4 +1,4 @@
-#include "drawings/label_spreading.hpp"
+#include "drawings/log/label_spreading.hpp"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "drawings/stratigraphic_log.hpp"
+#include "drawings/log/stratigraphic_log.hpp"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "drawings/log_table.hpp"
+#include "drawings/log/table.hpp"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "drawings/log_descriptions.hpp"
+#include "drawings/log/descriptions.hpp"
 
 #include <string>
 #include <string_view>
@@ -6,9 +6,9 @@
 
 #include "base/table.hpp"
 #include "base/translated_texts.hpp"
-#include "drawings/description_blocks.hpp"
-#include "drawings/layer_description.hpp"
-#include "drawings/log_columns.hpp"
+#include "drawings/log/columns.hpp"
+#include "drawings/log/description_blocks.hpp"
+#include "drawings/log/layer_description.hpp"
 #include "markup/text_fitting.hpp"
 #include "plot/plot_engine.hpp"
 #include "plot/sheet.hpp"

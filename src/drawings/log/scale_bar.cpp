@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "drawings/log_columns.hpp"
+#include "drawings/log/columns.hpp"
 #include "plot/plot_engine.hpp"
 #include "plot/sheet.hpp"
 

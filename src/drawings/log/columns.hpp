@@ -1,6 +1,6 @@
 #pragma once
 
-#include "drawings/log_table.hpp"
+#include "drawings/log/table.hpp"
 
 // What the columns of the stratigraphic log show. Each draws with the pen of the column in use and
 // may leave another.

@@ -1,4 +1,4 @@
-#include "drawings/layer_description.hpp"
+#include "drawings/log/layer_description.hpp"
 
 #include <algorithm>
 #include <cmath>

@@ -1,8 +1,8 @@
-#include "drawings/stratigraphic_log.hpp"
+#include "drawings/log/stratigraphic_log.hpp"
 
 #include "base/folders/file_names.hpp"
 #include "base/translated_texts.hpp"
-#include "drawings/log_columns.hpp"
+#include "drawings/log/columns.hpp"
 #include "plot/plot_engine.hpp"
 #include "plot/sheet.hpp"
 

@@ -3,7 +3,7 @@
 #include <initializer_list>
 #include <string_view>
 
-#include "drawings/log_scale.hpp"
+#include "drawings/log/depth_scale.hpp"
 #include "plot/sheet.hpp"
 #include "project/project_data.hpp"
 

@@ -1,4 +1,4 @@
-#include "drawings/log_scale.hpp"
+#include "drawings/log/depth_scale.hpp"
 
 #include <algorithm>
 #include <cassert>

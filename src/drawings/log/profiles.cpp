@@ -2,7 +2,7 @@
 #include <vector>
 
 #include "base/number_text.hpp"
-#include "drawings/log_columns.hpp"
+#include "drawings/log/columns.hpp"
 #include "plot/plot_engine.hpp"
 #include "plot/sheet.hpp"
 #include "project/field_table.hpp"

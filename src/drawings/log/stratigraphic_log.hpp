@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/dialogo.hpp"
-#include "drawings/log_scale.hpp"
+#include "drawings/log/depth_scale.hpp"
 #include "project/project_data.hpp"
 
 namespace korven::drawings {
@@ -10,7 +10,7 @@ namespace korven::drawings {
 /// layers, the uphill water table, profiles of their parameters, a depth scale. The headings are
 /// above it as they were typed. The scale is such that the layers fill the height of the sheet.
 /// @param dati           at least one layer, the last of them ending below 0: asserted
-/// @param altezzaPagina  of the printer [cm] (log_scale.hpp)
+/// @param altezzaPagina  of the printer [cm] (depth_scale.hpp)
 /// @throws base::ErroreFile   when a configuration, hatch or spill file can't be used
 /// @throws base::ErroreIndice when a description needs more than 100 lines, or the texts are more
 /// than the 2000 that a drawing holds

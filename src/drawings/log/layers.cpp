@@ -1,9 +1,9 @@
 #include <vector>
 
 #include "drawings/hatch_drawing.hpp"
-#include "drawings/label_spreading.hpp"
-#include "drawings/layer_description.hpp"
-#include "drawings/log_columns.hpp"
+#include "drawings/log/columns.hpp"
+#include "drawings/log/label_spreading.hpp"
+#include "drawings/log/layer_description.hpp"
 #include "plot/plot_engine.hpp"
 #include "plot/sheet.hpp"
 

@@ -1,4 +1,4 @@
-#include "drawings/description_blocks.hpp"
+#include "drawings/log/description_blocks.hpp"
 
 #include <gtest/gtest.h>
 
