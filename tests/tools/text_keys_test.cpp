@@ -309,14 +309,22 @@ std::map<std::string, std::string> shownUnits() {
     return units;
 }
 
-// The literals of a source that have a unit of that table beside them, without and with it: a
-// caption is looked up together with its unit.
+// The unit of a field as it is shown, empty for what is no field.
+std::string shownUnit(const std::string& member) {
+    for (const auto& field : project::campi())
+        if (field.nome == member) return std::string(field.unita.mostrata);
+    return {};
+}
+
+// The literals of a source that have a unit of that table beside them, or a field whose unit they
+// go with, without and with it: a caption is looked up together with its unit.
 std::map<std::string, std::string> captionsWithUnit(const std::string& source) {
     static const auto units = shownUnits();
-    static const std::regex pair("\"([^\"]*)\",\\s*(?:project::)?unita::(\\w+)");
+    static const std::regex pair("\"([^\"]*)\",\\s*&?(?:project::)?(unita|DatiProgetto)::(\\w+)");
     std::map<std::string, std::string> captions;
     for (std::sregex_iterator at(source.begin(), source.end(), pair), end; at != end; ++at)
-        if (const auto& unit = units.at((*at)[2]); !unit.empty())
+        if (const auto unit = (*at)[2] == "unita" ? units.at((*at)[3]) : shownUnit((*at)[3]);
+            !unit.empty())
             captions[(*at)[1]] = std::string((*at)[1]) + " [" + unit + "]";
     return captions;
 }
@@ -366,6 +374,7 @@ TEST(TextKeys, AreInTheTableForEachCaptionWithTheUnitThatIsBesideIt) {
     EXPECT_TRUE(looked.contains("Tensione max. [kN]"));
     EXPECT_TRUE(looked.contains("Spostamento max. [cm]"));
     EXPECT_TRUE(looked.contains("c' [kN/m²]"));
+    EXPECT_TRUE(looked.contains("falda [m]"));
     EXPECT_TRUE(looked.contains("F.S. parziale delle azioni [-]"));
 }
 

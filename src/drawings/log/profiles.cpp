@@ -1,5 +1,6 @@
 #include <algorithm>
-#include <vector>
+#include <initializer_list>
+#include <string>
 
 #include "base/number_text.hpp"
 #include "drawings/log/columns.hpp"
@@ -13,17 +14,15 @@ namespace korven::drawings {
 
 namespace {
 
-namespace unita = project::unita;
-using project::etichetta;
-
+using project::DatiProgetto;
 using ColonnaStrati = base::Tabella<double, project::massimoStrati>;
+using Strati = ColonnaStrati DatiProgetto::*;
 
-// A value axis from the left edge of the column to its right one.
+// A value axis from the left edge of the column to its right one, in the stored unit.
 struct AsseProfilo {
     double fondoScala;
     double passo;
     int tacche;
-    project::Unita unita;  // of the values; the numbers at the ticks are shown
 };
 
 class Profilo {
@@ -31,17 +30,19 @@ class Profilo {
     Profilo(const Stratigrafia& stratigrafia, const Colonna& colonna, const AsseProfilo& asse)
         : stratigrafia_(stratigrafia), colonna_(colonna), asse_(asse) {}
 
-    void tacche() const {
+    // The numbers at the ticks are in the unit that people see.
+    void tacche(const project::Campo& campo) const {
         constexpr double sopraTesta = 0.1;
         for (int k = 1; k <= asse_.tacche; ++k) {
             const double valore = k * asse_.passo;
             plot::linea(x(valore), piedeTabella, x(valore), testaTabella);
             plot::testoCentrato(x(valore), testaTabella + sopraTesta, altezzaNumeriColonna,
-                                base::formattaMaschera(mostrato(asse_.unita, valore), "00"));
+                                base::formattaMaschera(mostrato(campo, valore), "00"));
         }
     }
 
-    void curva(const ColonnaStrati& valori) const {
+    void curva(Strati strati) const {
+        const auto& valori = stratigrafia_.dati.*strati;
         const int n = stratigrafia_.dati.nStrati;
         plot::plotMuovi(x(valori[1]), testaTabella, plot::pennaSu);
         for (int i = 1; i <= n; ++i) {
@@ -61,12 +62,18 @@ class Profilo {
     const AsseProfilo& asse_;
 };
 
+// The curves of fields with the same unit over one axis.
 void disegnaProfilo(const Stratigrafia& stratigrafia, const Colonna& colonna,
-                    const AsseProfilo& asse, std::initializer_list<const ColonnaStrati*> curve) {
+                    const AsseProfilo& asse, std::initializer_list<Strati> curve) {
     const Profilo profilo(stratigrafia, colonna, asse);
-    profilo.tacche();
+    profilo.tacche(project::campo(*curve.begin()));
     plot::plotPenna(pennaProfilo);
-    for (const ColonnaStrati* valori : curve) profilo.curva(*valori);
+    for (const Strati strati : curve) profilo.curva(strati);
+}
+
+// The log calls its values by shorter words than the editors, in the units of their fields.
+std::string testata(std::string_view parole, Strati strati) {
+    return project::etichetta(parole, project::campo(strati).unita);
 }
 
 double massimo(const ColonnaStrati& valori, int n) {
@@ -78,25 +85,24 @@ double massimo(const ColonnaStrati& valori, int n) {
 }  // namespace
 
 void disegnaPesi(const Stratigrafia& stratigrafia, const Colonna& colonna) {
-    disegnaTestata(colonna, {etichetta("gamma N", unita::peso), etichetta("gamma S", unita::peso)});
-    const auto& dati = stratigrafia.dati;
-    disegnaProfilo(stratigrafia, colonna, {3, 0.5, 5, unita::peso}, {&dati.gammaN, &dati.gammaSat});
+    disegnaTestata(colonna, {testata("gamma N", &DatiProgetto::gammaN),
+                             testata("gamma S", &DatiProgetto::gammaSat)});
+    disegnaProfilo(stratigrafia, colonna, {3, 0.5, 5},
+                   {&DatiProgetto::gammaN, &DatiProgetto::gammaSat});
 }
 
 void disegnaAttrito(const Stratigrafia& stratigrafia, const Colonna& colonna) {
-    disegnaTestata(colonna, {etichetta("angolo attrito", unita::gradi)});
-    disegnaProfilo(stratigrafia, colonna, {50, 10, 4, unita::gradi},
-                   {&stratigrafia.dati.phiStrato});
+    disegnaTestata(colonna, {testata("angolo attrito", &DatiProgetto::phiStrato)});
+    disegnaProfilo(stratigrafia, colonna, {50, 10, 4}, {&DatiProgetto::phiStrato});
 }
 
 void disegnaCoesione(const Stratigrafia& stratigrafia, const Colonna& colonna) {
-    constexpr project::Unita u = unita::pressione;
-    constexpr AsseProfilo assi[] = {{5, 1, 4, u}, {10, 2, 4, u}, {50, 10, 4, u}};
+    constexpr AsseProfilo assi[] = {{5, 1, 4}, {10, 2, 4}, {50, 10, 4}};
     const auto& dati = stratigrafia.dati;
     const double c = massimo(dati.coesione, dati.nStrati);
     const double su = massimo(dati.suStrato, dati.nStrati);
-    const std::string efficace = etichetta("c'", unita::pressione);
-    const std::string nonDrenata = etichetta("Su", unita::pressione);
+    const std::string efficace = testata("c'", &DatiProgetto::coesione);
+    const std::string nonDrenata = testata("Su", &DatiProgetto::suStrato);
     if (c > 0 && su > 0)
         disegnaTestata(colonna, {efficace, nonDrenata});
     else if (c > 0)
@@ -104,10 +110,11 @@ void disegnaCoesione(const Stratigrafia& stratigrafia, const Colonna& colonna) {
     else if (su > 0)
         disegnaTestata(colonna, {nonDrenata});
     else
-        disegnaTestata(colonna, {etichetta("coesione", unita::pressione)});
+        disegnaTestata(colonna, {testata("coesione", &DatiProgetto::coesione)});
     const AsseProfilo* asse = assi;
     while (asse + 1 != std::end(assi) && asse->fondoScala < std::max(c, su)) ++asse;
-    disegnaProfilo(stratigrafia, colonna, *asse, {&dati.coesione, &dati.suStrato});
+    disegnaProfilo(stratigrafia, colonna, *asse,
+                   {&DatiProgetto::coesione, &DatiProgetto::suStrato});
 }
 
 }  // namespace korven::drawings

@@ -1,17 +1,20 @@
 #include "drawings/log/stratigraphic_log.hpp"
 
+#include <optional>
+
 #include "base/folders/file_names.hpp"
 #include "base/translated_texts.hpp"
 #include "drawings/log/columns.hpp"
 #include "plot/plot_engine.hpp"
 #include "plot/sheet.hpp"
+#include "project/field_table.hpp"
 
 namespace korven::drawings {
 
 namespace {
 
-void disegnaIntestazione(const base::Tabella<std::string, 6>& titoli) {
-    for (int i = 1; i <= 6; ++i) {
+void disegnaIntestazione(const base::Tabella<std::string, project::numeroTitoli>& titoli) {
+    for (int i = 1; i <= project::numeroTitoli; ++i) {
         if (i <= 2) plot::plotPenna(i);
         const auto [x, y, altezza] = titoloStratigrafia(i);
         plot::testoCentrato(x, y, altezza, titoli[i]);
@@ -20,33 +23,34 @@ void disegnaIntestazione(const base::Tabella<std::string, 6>& titoli) {
     plot::testoCentrato(11, 25, 0.3, base::traduttore("DESCRIZIONE STRATIGRAFICO-GEOTECNICA"));
 }
 
-namespace unita = project::unita;
+using project::DatiProgetto;
 
 struct ColonnaStratigrafia {
-    std::string_view testata;  // empty: the contents draw heads of their own
-    project::Unita unita;
+    std::string_view testata;              // empty: the contents draw heads of their own
+    std::optional<project::Membro> campo;  // the field whose numbers and unit it shows
     double larghezza;
     void (*contenuto)(const Stratigrafia&, const Colonna&);
 };
 
 constexpr double larghezzaProfilo = 9.6 / 3;
 constexpr ColonnaStratigrafia colonne[] = {
-    {"Profondità", unita::metri, 1.2, disegnaProfondita},
-    {"stratigrafia", unita::nessuna, 1, disegnaGrafici},
-    {"descrizione", unita::nessuna, larghezzaDescrizioni, disegnaDescrizioni},
-    {"falda", unita::metri, 1, disegnaFalda},
-    {"", unita::nessuna, larghezzaProfilo, disegnaPesi},
-    {"", unita::nessuna, larghezzaProfilo, disegnaAttrito},
-    {"", unita::nessuna, larghezzaProfilo, disegnaCoesione},
-    {"scala", unita::metri, 1, disegnaScala},
+    {"Profondità", &DatiProgetto::profStrato, 1.2, disegnaProfondita},
+    {"stratigrafia", std::nullopt, 1, disegnaGrafici},
+    {"descrizione", std::nullopt, larghezzaDescrizioni, disegnaDescrizioni},
+    {"falda", &DatiProgetto::faldaMonte, 1, disegnaFalda},
+    {"", std::nullopt, larghezzaProfilo, disegnaPesi},
+    {"", std::nullopt, larghezzaProfilo, disegnaAttrito},
+    {"", std::nullopt, larghezzaProfilo, disegnaCoesione},
+    {"scala", &DatiProgetto::profStrato, 1, disegnaScala},
 };
 
 void disegnaTabella(const Stratigrafia& stratigrafia) {
     plot::plotPenna(pennaRigaTabella);
     plot::linea(sinistraTabella, piedeTabella, sinistraTabella + larghezzaTabella, piedeTabella);
     double x = sinistraTabella;
-    for (const auto& [testata, unita, larghezza, contenuto] : colonne) {
+    for (const auto& [testata, campo, larghezza, contenuto] : colonne) {
         const Colonna colonna{x, larghezza};
+        const project::Unita unita = campo ? project::campo(*campo).unita : project::unita::nessuna;
         if (!testata.empty()) disegnaTestata(colonna, {etichetta(testata, unita)});
         contenuto(stratigrafia, colonna);
         // The rule after the first column parts it from the others up to the top of the heads.
