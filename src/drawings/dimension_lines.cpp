@@ -71,10 +71,8 @@ void Quota::disegna() const {
 }
 
 std::string testoMisura(double centimetri) {
-    return base::testoNumero(project::inMillimetri(centimetri))
-        .append(" [")
-        .append(project::unita::misura.mostrata)
-        .append("]");
+    constexpr project::Unita misura = project::unita::misura;
+    return base::testoNumero(mostrato(misura, centimetri)) + " " + traParentesi(misura);
 }
 
 std::string testoQuota(std::string_view didascalia, double centimetri) {

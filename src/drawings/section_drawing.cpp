@@ -8,7 +8,7 @@
 #include "drawings/section_views.hpp"
 #include "plot/plot_engine.hpp"
 #include "plot/sheet.hpp"
-#include "project/units.hpp"
+#include "project/field_table.hpp"
 #include "structure/section_type.hpp"
 
 namespace korven::drawings {
@@ -17,6 +17,7 @@ namespace {
 
 using base::traduttore;
 using plot::x0;
+using project::Sezione;
 
 constexpr double altezzaTesti = 0.3;
 
@@ -25,14 +26,16 @@ void nomiDeiLati() {
     plot::testoCentrato(x0 + plot::larghQuadro, yVista, altezzaTesti, traduttore("LATO VALLE"), 90);
 }
 
-void cella(double x, double y, std::string_view grandezza, double valore) {
-    plot::testoDa(x, y, altezzaTesti,
-                  (traduttore(grandezza) + " =" + base::testoNumero(valore) + " [")
-                      .append(project::unita::tensione.mostrata)
-                      .append("]"));
+void cella(double x, double y, std::string_view grandezza, const Sezione& sezione,
+           double Sezione::*membro) {
+    const project::Campo& campo = project::campo(membro);
+    const double valore = project::mostrato(campo, sezione.*membro);
+    plot::testoDa(
+        x, y, altezzaTesti,
+        traduttore(grandezza) + " =" + base::testoNumero(valore) + " " + traParentesi(campo.unita));
 }
 
-void riquadroMateriali(const project::Sezione& s) {
+void riquadroMateriali(const Sezione& s) {
     constexpr double sotto = 0.5, sopra = 2.5, meta = 1.5;
     constexpr double destra = x0 + plot::larghQuadro;
     plot::linea(x0, sotto, destra, sotto);
@@ -43,13 +46,13 @@ void riquadroMateriali(const project::Sezione& s) {
     plot::linea(x0, meta, destra, meta);
 
     constexpr double rigaAlta = sotto + 1.35, rigaBassa = sotto + 0.35, rientro = 0.3;
-    cella(x0 + rientro, rigaAlta, "E(acc)", s.modEacciaio);
-    cella(x0 + rientro, rigaBassa, "E(cls)", s.modEcls);
-    cella(plot::xCentro + rientro, rigaAlta, "Fyk", s.fyk);
-    cella(plot::xCentro + rientro, rigaBassa, "Fck", s.fck);
+    cella(x0 + rientro, rigaAlta, "E(acc)", s, &Sezione::modEacciaio);
+    cella(x0 + rientro, rigaBassa, "E(cls)", s, &Sezione::modEcls);
+    cella(plot::xCentro + rientro, rigaAlta, "Fyk", s, &Sezione::fyk);
+    cella(plot::xCentro + rientro, rigaBassa, "Fck", s, &Sezione::fck);
 }
 
-void vista(const project::Sezione& sezione) {
+void vista(const Sezione& sezione) {
     switch (structure::tipoSezione(sezione)) {
         case structure::TipoSezione::diaframma:
             return vistaDiaframma(sezione);

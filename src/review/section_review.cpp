@@ -41,9 +41,9 @@ void controlloRigidezza(const DatiProgetto& dati, ElencoRilievi& elenco) {
     if (EJ == 0 && sezione == 0) elenco.impedimento(traduttore(analysis::messaggioSenzaEJ));
     if (EJ < 0) elenco.avviso(scritta + traduttore("valore negativo"));
     if (EJ > 0 && sezione > 0 && (EJ > scartoRigidezza * sezione || sezione > scartoRigidezza * EJ))
-        elenco.avviso(
-            conValoreTraParentesi(scritta + traduttore("è lontana da quella della sezione"),
-                                  project::inKilonewton(sezione)));
+        elenco.avviso(conValoreTraParentesi(
+            scritta + traduttore("è lontana da quella della sezione"),
+            project::mostrato(project::campo(&DatiProgetto::rigidezzaEJ), sezione)));
 }
 
 // The fields of one face of the diaphragm.
