@@ -3,13 +3,12 @@
 #include <algorithm>
 
 #include "base/number_text.hpp"
+#include "masks/edited_fields.hpp"
 #include "masks/edited_tables.hpp"
 
 namespace korven::masks {
 
 namespace {
-
-constexpr int campoFase = 7;  // after the six heading lines
 
 using Testi = std::vector<std::string>;
 

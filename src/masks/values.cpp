@@ -7,6 +7,7 @@
 #include "base/number_text.hpp"
 #include "base/table.hpp"
 #include "base/translated_texts.hpp"
+#include "masks/edited_fields.hpp"
 #include "masks/reader.hpp"
 
 namespace korven::masks {
@@ -21,14 +22,24 @@ struct Forma {
     int nCampi;
 };
 
-const Forma forme[] = {
-    {{}, 7}, {{2, 3, 2, 2, 2, 3, 4}, 11}, {{}, 8}, {{}, 5}, {{}, 5},
-};
+Forma formaAttesa(NumeroMaschera numero) {
+    if (numero == NumeroMaschera::titoli) return {{}, campoFase};
+    const auto editati = campiEditati(numero);
+    const int tutti = static_cast<int>(editati.size());
+    if (numero != NumeroMaschera::paratia) return {{}, 1 + tutti};  // after the row numbers
+    Forma forma{{}, tutti};
+    for (const project::Campo* campo : editati) {
+        if (campo->codici.empty()) continue;
+        forma.scelte.push_back(campo->codici.size());
+        --forma.nCampi;
+    }
+    return forma;
+}
 
 bool haForma(const Maschera& maschera, NumeroMaschera numero) {
     const bool campi = numero == NumeroMaschera::titoli || numero == NumeroMaschera::paratia;
-    const Forma& forma = forme[static_cast<std::size_t>(numero) - 1];
     if (campi != (maschera.genere == GenereMaschera::campi)) return false;
+    const Forma forma = formaAttesa(numero);
     if (maschera.nCampi() != forma.nCampi || maschera.scelte.size() != forma.scelte.size())
         return false;
     for (std::size_t i = 0; i < forma.scelte.size(); ++i)
