@@ -40,6 +40,10 @@ constexpr Codice tipiTirante[] = {CODICE(TipoTirante, soloTrazione, "Solo traz."
 constexpr std::string_view mai;  // of what no editor and no report shows
 constexpr auto senzaLimiti = std::nullopt;
 constexpr Limiti tra(double minimo, double massimo) { return {minimo, massimo}; }
+// Of a code that is typed as its number.
+constexpr Limiti tra(std::span<const Codice> codici) {
+    return {codici.front().valore, codici.back().valore};
+}
 
 using enum Parte;
 
@@ -106,8 +110,8 @@ constexpr Campo tabella[] = {
      tra(0, 100000000)},
     {DEL_PROGETTO(pretTirante), tiranti, "pretensione del tirante", "Pretens.", unita::forza,
      tra(0, 100000)},
-    {DEL_PROGETTO(tipoTirante), tiranti, "tipo del tirante", "Tipologia", unita::nessuna, tra(0, 1),
-     tipiTirante},
+    {DEL_PROGETTO(tipoTirante), tiranti, "tipo del tirante", "Tipologia", unita::nessuna,
+     tra(tipiTirante), tipiTirante},
 
     {DEL_PROGETTO(nFasi), fasi, "numero delle fasi", mai, unita::nessuna, tra(0, massimoFasi)},
     {DEL_PROGETTO(profFase), fasi, "profondità della fase", "Prof.", unita::metri, tra(0, 100)},

@@ -26,13 +26,12 @@ using Membro = std::variant<int DatiProgetto::*, double DatiProgetto::*,
                             base::Tabella<std::string, numeroTitoli> DatiProgetto::*,
                             double Sezione::*, bool Sezione::*>;
 
-/// What a field belongs to. The fields of the first four but `paratia` are columns of a table, each
-/// table with its count before them.
+/// What a field belongs to.
 enum class Parte {
-    strati,
+    strati,  ///< a table, as the next two: its number of rows, then its columns
     tiranti,
     fasi,
-    titoli,
+    titoli,  ///< one column, whose number of rows is fixed
     paratia,
     diaframma,  ///< of the section, as all that follow: a part for each type,
     pali,
@@ -44,7 +43,7 @@ enum class Parte {
 /// A code of a field.
 struct Codice {
     double valore;          ///< as stored
-    std::string_view nome;  ///< of its enumerator (codes.hpp)
+    std::string_view nome;  ///< of its enumerator (codes.hpp); for programs to read
     std::string_view voce;  ///< what its editor offers, Italian
 };
 

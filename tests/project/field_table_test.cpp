@@ -109,6 +109,13 @@ TEST(TabellaCampi, NamesTheCodesOfAFieldByTheirEnumerators) {
             EXPECT_EQ(c.codici[i].valore, c.codici[i - 1].valore + 1) << c.nome;
 }
 
+TEST(TabellaCampi, LetsTheKindOfAnAnchorBeTypedAsOneOfItsCodes) {
+    const auto limiti = campo(&DatiProgetto::tipoTirante).limiti;
+    ASSERT_TRUE(limiti);
+    EXPECT_EQ(limiti->minimo, 0);
+    EXPECT_EQ(limiti->massimo, 1);
+}
+
 TEST(TabellaCampi, FindsTheCodeThatANumberIs) {
     const Campo& metodo = campo(&DatiProgetto::metodoSpinte);
     EXPECT_EQ(codice(metodo, 3), &metodo.codici[2]);
