@@ -18,6 +18,7 @@
 #include "batch/run/report_formats.hpp"
 #include "batch/run/reviewed_run.hpp"
 #include "commands/diagram_output.hpp"
+#include "drawings/diagram_rows.hpp"
 #include "drawings/log/stratigraphic_log.hpp"
 #include "drawings/section_drawing.hpp"
 #include "project/project_data.hpp"
@@ -36,10 +37,6 @@ struct Tavola {
     std::optional<analysis::Diagramma> diagramma;
 };
 
-Gemelli gemelli(const base::ParolaFile& parola) {
-    return {std::string(parola.italiana), std::string(parola.inglese)};
-}
-
 bool tavolaSezione(Esito&) {
     drawings::disegnaSezione(Progetto);
     return true;
@@ -55,9 +52,9 @@ bool tavolaStratigrafia(Esito& esito) {
 const std::vector<Tavola>& tavole() {
     static const auto tutte = [] {
         std::vector<Tavola> fatte;
-        fatte.reserve(analysis::diagrammi.size() + 2);
-        for (const auto& riga : analysis::diagrammi)
-            fatte.push_back({nomeDiagramma(riga), nullptr, riga.diagramma});
+        fatte.reserve(drawings::diagrammi().size() + 2);
+        for (const auto& riga : drawings::diagrammi())
+            fatte.push_back({gemelli(riga.nome), nullptr, riga.diagramma});
         fatte.push_back({gemelli(base::parolaSezione), tavolaSezione, std::nullopt});
         fatte.push_back({gemelli(base::parolaStratigrafia), tavolaStratigrafia, std::nullopt});
         return fatte;

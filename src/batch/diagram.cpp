@@ -1,7 +1,6 @@
 #include <algorithm>
 #include <vector>
 
-#include "analysis/diagrams.hpp"
 #include "batch/command_table.hpp"
 #include "batch/options/common_options.hpp"
 #include "batch/run/command_ports.hpp"
@@ -9,6 +8,7 @@
 #include "batch/run/drawing_formats.hpp"
 #include "batch/run/reviewed_run.hpp"
 #include "commands/diagram_output.hpp"
+#include "drawings/diagram_rows.hpp"
 #include "project/project_data.hpp"
 
 namespace korven::batch {
@@ -28,11 +28,13 @@ int esegui(const Opzioni& opzioni, const PorteComando& porte, Esito& esito) {
 }
 
 // By their Italian names, as the help has them.
-const std::vector<analysis::NomiDiagramma>& inOrdine() {
+const std::vector<drawings::RigaDiagramma>& inOrdine() {
     static const auto ordinati = [] {
-        std::vector righe(analysis::diagrammi.begin(), analysis::diagrammi.end());
-        std::sort(righe.begin(), righe.end(),
-                  [](const auto& uno, const auto& altro) { return uno.nome < altro.nome; });
+        const auto tutte = drawings::diagrammi();
+        std::vector righe(tutte.begin(), tutte.end());
+        std::sort(righe.begin(), righe.end(), [](const auto& una, const auto& altra) {
+            return una.nome.italiana < altra.nome.italiana;
+        });
         return righe;
     }();
     return ordinati;
@@ -42,7 +44,7 @@ Opzione tipo() {
     Opzione riga = {{"--tipo", "--type"},
                     "grandezza del diagramma",
                     [](Opzioni& o, std::size_t quale) { o.tipo = inOrdine()[quale].diagramma; }};
-    for (const auto& diagramma : inOrdine()) riga.valori.push_back(nomeDiagramma(diagramma));
+    for (const auto& diagramma : inOrdine()) riga.valori.push_back(gemelli(diagramma.nome));
     riga.obbligatoria = true;
     return riga;
 }

@@ -55,7 +55,7 @@ void QuadroDiagramma::asseDeiValori() const {
         const double x = xSinistra + scalaX_ * (tacca.valore + asse_.vMax);
         plot::linea(x, y0, x, y0 + lunghezzaTacca(tacca));
         if (!tacca.maggiore) continue;
-        const double numero = std::round(tacca.valore * 1000) / 1000 * riga_.fattoreNumeri();
+        const double numero = mostrato(riga_.unita, std::round(tacca.valore * 1000) / 1000);
         plot::testoCentrato(x, y0 - 1.5 * altezzaNumeri, altezzaNumeri, base::testoNumero(numero));
     }
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "analysis/diagrams.hpp"
 #include "analysis/node_vector.hpp"
 #include "drawings/diagram_frame.hpp"
 #include "results/report_data.hpp"
@@ -21,7 +20,7 @@ class FaseDisegnata {
     void tirantiNuovi() const;
 
     /// The stage's values of all nodes, times `fattore`.
-    void nodi(Valori valori, double fattore) const;
+    void nodi(Valori valori, double fattore = 1) const;
     /// Limit and acting pressures of both sides.
     void pressioni() const;
     void taglio() const;

@@ -29,7 +29,7 @@ void disegnaDiagramma(analysis::Diagramma diagramma, const results::DatiRelazion
     controllaDisegnabile(vDati, lunghezza);
     const QuadroDiagramma quadro(riga, asseValori(vDati), lunghezza);
     plot::apriFoglio(dati.progetto.titoli, base::traduttore(riga.titolo));
-    plot::statoPlot.nome = analysis::nomi(diagramma).nome;
+    plot::statoPlot.nome = riga.nome.italiana;
     quadro.disegna();
     for (int s = 1; s <= dati.progetto.nFasi; ++s) {
         const FaseDisegnata fase(dati, s, quadro);
@@ -37,7 +37,7 @@ void disegnaDiagramma(analysis::Diagramma diagramma, const results::DatiRelazion
         plot::plotPenna(fase.penna());
         if (scelta) fase.livelloScavo();
         if (faseGrafico == 0 || s >= faseGrafico) fase.tirantiNuovi();
-        if (scelta) riga.curve(fase, riga.fattoreCurve());
+        if (scelta) riga.curve(fase);
     }
     plot::plotMuovi(0, 0, plot::fineDisegno);
 }

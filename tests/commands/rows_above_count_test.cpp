@@ -10,6 +10,7 @@
 
 #include "commands/diagram_output.hpp"
 #include "commands/report_files.hpp"
+#include "drawings/diagram_rows.hpp"
 #include "drawings/log/stratigraphic_log.hpp"
 #include "masks/edited_tables.hpp"
 #include "results/run_outcome.hpp"
@@ -66,7 +67,7 @@ class RigheOltreIlConteggio : public test::ProvaStratigrafia {
             parti.push_back(std::to_string(tirante.tirante) + ": " +
                             std::to_string(tirante.tiroMassimo));
         UscitaDiagramma diagramma;
-        for (const auto& riga : analysis::diagrammi) {
+        for (const auto& riga : drawings::diagrammi()) {
             corri(riga.diagramma, diagramma);
             parti.push_back(test::disegnoComeTesto());
         }

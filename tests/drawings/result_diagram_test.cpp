@@ -253,16 +253,22 @@ TEST_F(Disegno, OfValuesThatNoSheetHoldsIsRefused) {
     EXPECT_THROW(disegnaDiagramma(Diagramma::taglio, dati, 0), base::ErroreValore);
 }
 
-// Only the displacements are scaled in the unit that is shown.
-TEST(RigaDiagramma, BelongsToItsDiagramAndShowsItsUnitOnceByTheFactor) {
-    for (const auto& nomi : analysis::diagrammi) {
-        const RigaDiagramma& riga = rigaDiagramma(nomi.diagramma);
-        EXPECT_EQ(riga.diagramma, nomi.diagramma);
-        EXPECT_EQ(riga.fattoreCurve() * riga.fattoreNumeri(), riga.unita.fattore) << nomi.nome;
-        const bool spostamenti = nomi.diagramma == Diagramma::spostamenti;
-        EXPECT_EQ(riga.fattoreCurve(), spostamenti ? 100 : 1) << nomi.nome;
-        EXPECT_EQ(riga.fattoreNumeri(), spostamenti ? 1 : 10) << nomi.nome;
+TEST(RigaDiagramma, IsThereOnceForEachDiagramInTheOrderOfTheirNumbers) {
+    ASSERT_EQ(diagrammi().size(), 4u);
+    int numero = 0;
+    for (const RigaDiagramma& riga : diagrammi()) {
+        EXPECT_EQ(static_cast<int>(riga.diagramma), ++numero);
+        EXPECT_EQ(&rigaDiagramma(riga.diagramma), &riga);
     }
+    EXPECT_EQ(rigaDiagramma(Diagramma::taglio).nome.italiana, "taglio");
+    EXPECT_EQ(rigaDiagramma(Diagramma::taglio).nome.inglese, "shear");
+}
+
+// Only the displacements have an axis in the unit that is shown.
+TEST(RigaDiagramma, ShowsTheNumbersOfItsAxisByTheFactorOfItsUnit) {
+    for (const RigaDiagramma& riga : diagrammi())
+        EXPECT_EQ(riga.unita.fattore, riga.diagramma == Diagramma::spostamenti ? 1 : 10)
+            << riga.nome.italiana;
 }
 
 TEST(ValoreDiScala, OfPressuresIsThePassivePressureAtTheToeInTheLastStage) {

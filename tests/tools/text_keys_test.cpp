@@ -52,9 +52,6 @@ const std::map<std::string, std::string> silentFiles = {
 
 // Names of files and of the system, symbols, what is typed on the command line.
 const std::map<std::string, Texts> noTexts = {
-    {"analysis/diagrams.hpp",
-     {"pressioni", "pressures", "spostamenti", "displacements", "momenti", "moments", "taglio",
-      "shear"}},
     {"analysis/progress.cpp", {"iter.=", "Ymax=", "Mmax="}},
     {"analysis/result_file.cpp",
      {"sigmaVv", "Ehv", "kav", "kpv", "sigmaVm", "Ehm", "kam", "kpm", "Spostamenti", "Momenti"}},
@@ -236,6 +233,9 @@ const std::map<std::string, Texts> noTexts = {
       "liberation mono"}},
     {"masks/values.hpp",
      {"EDITT.MAV", "EDITDIA.MAV", "EDITSTRA.MAV", "EDITTIR.MAV", "EDITFASI.MAV"}},
+    {"drawings/diagram_rows.cpp",
+     {"pressioni", "pressures", "spostamenti", "displacements", "momenti", "moments", "taglio",
+      "shear"}},
     {"drawings/hatch_library.cpp", {"set1.rtn", "set2.rtn", "set3", ".rtn", "set4.rtn"}},
     {"markup/reader.cpp", {"TRUE"}},
     {"project/field_table.cpp", {"sezione."}},

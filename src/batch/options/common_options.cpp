@@ -57,8 +57,8 @@ const Gemelli& nomeOpzioneLingua() {
     return nome;
 }
 
-Gemelli nomeDiagramma(const analysis::NomiDiagramma& diagramma) {
-    return {std::string(diagramma.nome), std::string(diagramma.inglese)};
+Gemelli gemelli(const base::ParolaFile& parola) {
+    return {std::string(parola.italiana), std::string(parola.inglese)};
 }
 
 std::vector<Opzione> opzioniComuni() {

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "analysis/diagrams.hpp"
+#include "base/folders/file_names.hpp"
 #include "batch/options/option.hpp"
 
 // The options that several commands take, in groups. The order is that of the help.
@@ -13,8 +13,8 @@ namespace korven::batch {
 [[nodiscard]] const Gemelli& nomeOpzioneCartella();
 [[nodiscard]] const Gemelli& nomeOpzioneLingua();
 
-/// What a diagram is called on the command line and in names of files.
-[[nodiscard]] Gemelli nomeDiagramma(const analysis::NomiDiagramma& diagramma);
+/// A word in names of made files, as an option takes it too.
+[[nodiscard]] Gemelli gemelli(const base::ParolaFile& parola);
 
 /// Every command.
 [[nodiscard]] std::vector<Opzione> opzioniComuni();
