@@ -19,13 +19,13 @@ std::string scrittaQuota(std::size_t campo, const project::Sezione& sezione) {
     return scritta;
 }
 
-Schizzo schizzoSezione(masks::RiquadroSezione riquadro, const project::Sezione& sezione) {
-    using enum masks::RiquadroSezione;
-    assert(riquadro != materiali);
-    Schizzo schizzo = riquadro == diaframma   ? schizzoDiaframma(sezione)
-                      : riquadro == pali      ? schizzoPali(sezione)
-                      : riquadro == palancola ? schizzoPalancola(sezione)
-                                              : schizzoPaliArmati(sezione);
+Schizzo schizzoSezione(project::Parte tipo, const project::Sezione& sezione) {
+    using enum project::Parte;
+    assert(tipo == diaframma || tipo == pali || tipo == palancola || tipo == paliArmati);
+    Schizzo schizzo = tipo == diaframma   ? schizzoDiaframma(sezione)
+                      : tipo == pali      ? schizzoPali(sezione)
+                      : tipo == palancola ? schizzoPalancola(sezione)
+                                          : schizzoPaliArmati(sezione);
     for (QuotaSchizzo& quota : schizzo.quote) quota.scritta = scrittaQuota(quota.campo, sezione);
     return schizzo;
 }

@@ -56,13 +56,12 @@ struct Schizzo {
     bool inScala = false;                ///< drawn after the values
 };
 
-/// The sketch of a section of the type `riquadro`, whatever flags the section has. Where a value is
+/// The sketch of a section of the type `tipo`, whatever flags the section has. Where a value is
 /// 0 or less the sketch takes one in a usual proportion to the others; where the values do not fit
 /// each other (bars that do not fit into the wall, a tube without wall, proportions in which
 /// nothing could be told apart) it is drawn after an example and not after them.
-/// @pre not the materials: asserted
-[[nodiscard]] Schizzo schizzoSezione(masks::RiquadroSezione riquadro,
-                                     const project::Sezione& sezione);
+/// @pre a type of section: asserted
+[[nodiscard]] Schizzo schizzoSezione(project::Parte tipo, const project::Sezione& sezione);
 
 /// What is written at a dimension: "c1 = 50" with the typed number, "c1" where that is 0. The bar
 /// count shows, as its tenth, the number that the calculations use: "n = 8/10 = 0.8".

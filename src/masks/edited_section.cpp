@@ -7,20 +7,7 @@
 
 namespace korven::masks {
 
-RiquadroSezione CampoSezione::riquadro() const {
-    switch (campo().parte) {
-        case project::Parte::diaframma:
-            return RiquadroSezione::diaframma;
-        case project::Parte::pali:
-            return RiquadroSezione::pali;
-        case project::Parte::palancola:
-            return RiquadroSezione::palancola;
-        case project::Parte::paliArmati:
-            return RiquadroSezione::paliArmati;
-        default:
-            return RiquadroSezione::materiali;
-    }
-}
+using project::tipiSezione;
 
 std::size_t campoSezione(double project::Sezione::*valore) {
     const auto* trovato =
@@ -31,21 +18,19 @@ std::size_t campoSezione(double project::Sezione::*valore) {
 
 SezioneEditata::SezioneEditata(project::Sezione& sezione, bool& modificato)
     : sezione_(sezione), modificato_(modificato) {
-    const auto* scelto =
-        std::find_if(std::begin(project::tipiSezione), std::end(project::tipiSezione),
-                     [&sezione](auto flag) { return sezione.*flag; });
-    if (scelto == std::end(project::tipiSezione))
-        sezione.tipoDiaframma = true;
+    if (const auto tipo = project::parteInVigore(sezione))
+        tipo_ = *tipo;
     else
-        tipo_ = static_cast<RiquadroSezione>(scelto - std::begin(project::tipiSezione));
+        sezione.tipoDiaframma = true;
     for (std::size_t i = 0; i < numeroCampiSezione; ++i)
         testi_[i] = base::testoNumero(
             project::mostrato(campiSezione[i].campo(), sezione.*campiSezione[i].valore));
     mostrati_ = testi_;
 }
 
-void SezioneEditata::scegli(RiquadroSezione tipo) {
-    assert(tipo != RiquadroSezione::materiali);
+void SezioneEditata::scegli(project::Parte tipo) {
+    assert(std::any_of(std::begin(tipiSezione), std::end(tipiSezione),
+                       [=](auto flag) { return project::campo(flag).parte == tipo; }));
     tipo_ = tipo;
 }
 
@@ -65,7 +50,7 @@ bool SezioneEditata::nominato(std::size_t campo) const {
 
 project::Sezione SezioneEditata::letta() const {
     project::Sezione editata;
-    editata.*project::tipiSezione[static_cast<std::size_t>(tipo_)] = true;
+    for (const auto flag : tipiSezione) editata.*flag = project::campo(flag).parte == tipo_;
     for (std::size_t i = 0; i < numeroCampiSezione; ++i) {
         const auto campo = campiSezione[i].valore;
         editata.*campo = testi_[i] == mostrati_[i] ? sezione_.*campo : scritto(i);

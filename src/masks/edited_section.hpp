@@ -10,17 +10,14 @@
 
 namespace korven::masks {
 
-/// Where the section form has a field: in the frame of a type, in the order of `tipiSezione`, or
-/// among the materials.
-enum class RiquadroSezione { diaframma, pali, palancola, paliArmati, materiali };
-
 /// A field of the section form, with its row in the table of fields.
 struct CampoSezione {
     double project::Sezione::*valore;
     std::string_view simbolo;  ///< by which the sketch calls it; 1 is uphill, 2 downhill
 
     [[nodiscard]] const project::Campo& campo() const { return project::campo(valore); }
-    [[nodiscard]] RiquadroSezione riquadro() const;
+    /// The frame of the form that has it: that of a type, or the materials.
+    [[nodiscard]] project::Parte riquadro() const { return campo().parte; }
 };
 
 /// The fields of the section form, in the order of the tabulator.
@@ -71,9 +68,9 @@ class SezioneEditata {
     SezioneEditata(project::Sezione& sezione, bool& modificato);
 
     /// The type chosen, whose frame is the one that shows.
-    [[nodiscard]] RiquadroSezione tipo() const { return tipo_; }
-    /// @pre not the materials: asserted
-    void scegli(RiquadroSezione tipo);
+    [[nodiscard]] project::Parte tipo() const { return tipo_; }
+    /// @pre a type of section: asserted
+    void scegli(project::Parte tipo);
 
     /// Text of field `campo` of `campiSezione`, as plain number of the stored value at first.
     [[nodiscard]] const std::string& testo(std::size_t campo) const { return testi_[campo]; }
@@ -97,7 +94,7 @@ class SezioneEditata {
 
     project::Sezione& sezione_;
     bool& modificato_;
-    RiquadroSezione tipo_ = RiquadroSezione::diaframma;
+    project::Parte tipo_ = project::Parte::diaframma;
     std::array<std::string, numeroCampiSezione> testi_, mostrati_;
 };
 

@@ -209,6 +209,12 @@ const Codice* codice(const Campo& campo, double conservato) {
 
 std::string etichetta(const Campo& campo) { return etichetta(campo.didascalia, campo.unita); }
 
+std::optional<Parte> parteInVigore(const Sezione& sezione) {
+    for (const auto flag : tipiSezione)
+        if (sezione.*flag) return campo(flag).parte;
+    return std::nullopt;
+}
+
 int righe(const DatiProgetto& dati, Parte parte) {
     switch (parte) {
         case strati:

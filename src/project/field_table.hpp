@@ -77,6 +77,10 @@ struct Campo {
 /// Caption and unit, as a table or a list is headed: "Gamma Sat. [kN/m³]"; Italian key.
 [[nodiscard]] std::string etichetta(const Campo& campo);
 
+/// The part of a section's type: of its first true flag in the order of `tipiSezione`; none without
+/// one. Of the section only this part and the materials count.
+[[nodiscard]] std::optional<Parte> parteInVigore(const Sezione& sezione);
+
 /// Rows that the table of a part has; 1 for one that is no table.
 [[nodiscard]] int righe(const DatiProgetto& dati, Parte parte);
 

@@ -2,7 +2,6 @@
 
 #include "base/translated_texts.hpp"
 #include "review/remark_list.hpp"
-#include "structure/section_type.hpp"
 
 namespace korven::review {
 
@@ -12,7 +11,6 @@ using base::traduttore;
 using project::Campo;
 using project::DatiProgetto;
 using project::Sezione;
-using structure::TipoSezione;
 
 // The fields of the section in the order of their remarks, which goes face by face. `dove` names
 // the face.
@@ -51,23 +49,6 @@ bool scritto(const Campo& campo) {
     return campo.unita.fattore != 1 && campo.membro != project::Membro(&DatiProgetto::suStrato);
 }
 
-// Of the section only the type in force is shown.
-bool inVigore(const Campo& campo, const Sezione& sezione) {
-    switch (structure::tipoSezione(sezione)) {
-        case TipoSezione::diaframma:
-            return campo.parte == project::Parte::diaframma;
-        case TipoSezione::pali:
-            return campo.parte == project::Parte::pali;
-        case TipoSezione::palancola:
-            return campo.parte == project::Parte::palancola;
-        case TipoSezione::paliArmati:
-            return campo.parte == project::Parte::paliArmati;
-        case TipoSezione::nessuno:
-            break;
-    }
-    return false;
-}
-
 void esamina(double valore, const std::string& campo, ElencoRilievi& elenco) {
     if (std::isfinite(valore)) return;
     elenco.impedimento(campo + ": " + traduttore("valore troppo grande per essere mostrato"));
@@ -94,9 +75,10 @@ void controlloMostrati(const DatiProgetto& dati, ElencoRilievi& elenco) {
     esaminaParatia(dati, elenco);
     esaminaTabella(dati, project::Parte::tiranti, elenco);
     esaminaTabella(dati, project::Parte::fasi, elenco);
+    const auto inVigore = project::parteInVigore(dati.sezione);  // the only type that is shown
     for (const auto& [membro, dove] : campiMostrati) {
         const Campo& c = project::campo(membro);
-        if (!inVigore(c, dati.sezione)) continue;
+        if (c.parte != inVigore) continue;
         const std::string faccia = dove.empty() ? std::string() : traduttore(dove) + ": ";
         esamina(project::mostrato(dati, c), faccia + nomeCampo(c), elenco);
     }

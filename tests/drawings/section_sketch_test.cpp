@@ -10,11 +10,10 @@
 namespace korven::drawings {
 namespace {
 
-using masks::RiquadroSezione;
+using project::Parte;
 using project::Sezione;
 
-constexpr RiquadroSezione tipi[] = {RiquadroSezione::diaframma, RiquadroSezione::pali,
-                                    RiquadroSezione::palancola, RiquadroSezione::paliArmati};
+constexpr Parte tipi[] = {Parte::diaframma, Parte::pali, Parte::palancola, Parte::paliArmati};
 
 const QuotaSchizzo& quota(const Schizzo& schizzo, double Sezione::*campo) {
     const std::size_t cercato = masks::campoSezione(campo);
@@ -83,7 +82,7 @@ void tuttoSulFoglio(const Schizzo& schizzo) {
 }
 
 TEST(SectionSketch, HasOneDimensionForEachFieldOfItsFrame) {
-    for (const RiquadroSezione tipo : tipi) {
+    for (const Parte tipo : tipi) {
         std::multiset<std::size_t> attesi, trovati;
         for (std::size_t i = 0; i < masks::numeroCampiSezione; ++i)
             if (masks::campiSezione[i].riquadro() == tipo) attesi.insert(i);
@@ -96,7 +95,7 @@ TEST(SectionSketch, CallsEachFieldBySymbolAndTypedNumber) {
     Sezione s = diaframma();
     s.interasseValle = 0;
     s.copriferroValle = -1;
-    const Schizzo schizzo = schizzoSezione(RiquadroSezione::diaframma, s);
+    const Schizzo schizzo = schizzoSezione(Parte::diaframma, s);
     EXPECT_EQ(quota(schizzo, &Sezione::spessoreDiaframma).scritta, "H = 800");
     EXPECT_EQ(quota(schizzo, &Sezione::diametroMonte).scritta, "d1 = 24");
     EXPECT_EQ(quota(schizzo, &Sezione::interasseValle).scritta, "i2") << "nothing typed";
@@ -106,7 +105,7 @@ TEST(SectionSketch, CallsEachFieldBySymbolAndTypedNumber) {
 TEST(SectionSketch, ShowsThatTheBarCountCalculatesWithItsTenth) {
     Sezione s = paliArmati();
     s.armNumLong = 0.8;  // a typed 8
-    const Schizzo schizzo = schizzoSezione(RiquadroSezione::paliArmati, s);
+    const Schizzo schizzo = schizzoSezione(Parte::paliArmati, s);
     EXPECT_EQ(quota(schizzo, &Sezione::armNumLong).scritta, "n = 8/10 = 0.8");
     EXPECT_EQ(cerchi(schizzo, Segno::acciaio), 0) << "a count below 1 calculates with no bar";
     EXPECT_EQ(cerchi(schizzo, Segno::assente), 16) << "where bars are meant, in both piles";
@@ -114,15 +113,15 @@ TEST(SectionSketch, ShowsThatTheBarCountCalculatesWithItsTenth) {
 
 TEST(SectionSketch, DrawsAsManyBarsAsTheCalculationHas) {
     Sezione s = paliArmati();
-    EXPECT_EQ(cerchi(schizzoSezione(RiquadroSezione::paliArmati, s), Segno::acciaio), 2 * 12);
+    EXPECT_EQ(cerchi(schizzoSezione(Parte::paliArmati, s), Segno::acciaio), 2 * 12);
     s.armNumLong = 6.7;
-    EXPECT_EQ(cerchi(schizzoSezione(RiquadroSezione::paliArmati, s), Segno::acciaio), 2 * 6);
+    EXPECT_EQ(cerchi(schizzoSezione(Parte::paliArmati, s), Segno::acciaio), 2 * 6);
     s.armNumLong = 1e9;
-    EXPECT_LE(cerchi(schizzoSezione(RiquadroSezione::paliArmati, s), Segno::acciaio), 400);
+    EXPECT_LE(cerchi(schizzoSezione(Parte::paliArmati, s), Segno::acciaio), 400);
 }
 
 TEST(SectionSketch, DrawsTheDiaphragmToScale) {
-    const Schizzo schizzo = schizzoSezione(RiquadroSezione::diaframma, diaframma());
+    const Schizzo schizzo = schizzoSezione(Parte::diaframma, diaframma());
     EXPECT_TRUE(schizzo.inScala);
     const double H = misura(schizzo, &Sezione::spessoreDiaframma);
     EXPECT_NEAR(misura(schizzo, &Sezione::copriferroMonte) / H, 6.0 / 80, 1e-12);
@@ -134,7 +133,7 @@ TEST(SectionSketch, DrawsTheDiaphragmToScale) {
 }
 
 TEST(SectionSketch, PutsTheUphillSideOnTheLeft) {
-    const Schizzo schizzo = schizzoSezione(RiquadroSezione::diaframma, diaframma());
+    const Schizzo schizzo = schizzoSezione(Parte::diaframma, diaframma());
     for (const auto campo :
          {&Sezione::copriferroMonte, &Sezione::interasseMonte, &Sezione::diametroMonte})
         EXPECT_LT(quota(schizzo, campo).estremi.front().x, larghezzaSchizzo / 2);
@@ -146,11 +145,11 @@ TEST(SectionSketch, PutsTheUphillSideOnTheLeft) {
 TEST(SectionSketch, DrawsAFaceWithoutBarsAsSuch) {
     Sezione s = diaframma();
     s.diametroValle = 0;
-    const Schizzo schizzo = schizzoSezione(RiquadroSezione::diaframma, s);
+    const Schizzo schizzo = schizzoSezione(Parte::diaframma, s);
     EXPECT_TRUE(schizzo.inScala);
     for (const auto& c : schizzo.cerchi)
         EXPECT_EQ(c.segno, c.centro.x < larghezzaSchizzo / 2 ? Segno::acciaio : Segno::assente);
-    EXPECT_EQ(cerchi(schizzoSezione(RiquadroSezione::diaframma, {}), Segno::assente), 0)
+    EXPECT_EQ(cerchi(schizzoSezione(Parte::diaframma, {}), Segno::assente), 0)
         << "with nothing typed the sketch shows both faces as they are meant";
 }
 
@@ -159,7 +158,7 @@ TEST(SectionSketch, DrawsTheTubesToScale) {
     s.paliDiamEst = 60;
     s.paliDiamInt = 45;
     s.paliInterasse = 90;
-    const Schizzo schizzo = schizzoSezione(RiquadroSezione::pali, s);
+    const Schizzo schizzo = schizzoSezione(Parte::pali, s);
     EXPECT_TRUE(schizzo.inScala);
     const double D = misura(schizzo, &Sezione::paliDiamEst);
     EXPECT_NEAR(misura(schizzo, &Sezione::paliDiamInt) / D, 0.75, 1e-12);
@@ -176,7 +175,7 @@ TEST(SectionSketch, DrawsTheSheetPileToScale) {
     s.palancolaAltAla = 20;
     s.palancolaSpessore = 2;
     s.palancolaSpessAla = 1.5;
-    const Schizzo schizzo = schizzoSezione(RiquadroSezione::palancola, s);
+    const Schizzo schizzo = schizzoSezione(Parte::palancola, s);
     EXPECT_TRUE(schizzo.inScala);
     const double b = misura(schizzo, &Sezione::palancolaBase);
     EXPECT_NEAR(misura(schizzo, &Sezione::palancolaLargAla) / b, 1.0 / 3, 1e-12);
@@ -195,7 +194,7 @@ TEST(SectionSketch, DrawsTheSheetPileToScale) {
 }
 
 TEST(SectionSketch, DrawsTheReinforcedPilesToScale) {
-    const Schizzo schizzo = schizzoSezione(RiquadroSezione::paliArmati, paliArmati());
+    const Schizzo schizzo = schizzoSezione(Parte::paliArmati, paliArmati());
     EXPECT_TRUE(schizzo.inScala);
     const double D = misura(schizzo, &Sezione::armDiamPalo);
     EXPECT_NEAR(misura(schizzo, &Sezione::armInterasse) / D, 1.25, 1e-12);
@@ -214,9 +213,9 @@ TEST(SectionSketch, DrawsTheReinforcedPilesToScale) {
 TEST(SectionSketch, FillsWhatIsMissingInProportion) {
     Sezione s;
     s.paliDiamEst = 100;
-    const Schizzo schizzo = schizzoSezione(RiquadroSezione::pali, s);
+    const Schizzo schizzo = schizzoSezione(Parte::pali, s);
     EXPECT_TRUE(schizzo.inScala);
-    const Schizzo vuoto = schizzoSezione(RiquadroSezione::pali, {});
+    const Schizzo vuoto = schizzoSezione(Parte::pali, {});
     EXPECT_NEAR(misura(schizzo, &Sezione::paliDiamInt), misura(vuoto, &Sezione::paliDiamInt),
                 1e-12);
 }
@@ -224,7 +223,7 @@ TEST(SectionSketch, FillsWhatIsMissingInProportion) {
 TEST(SectionSketch, FallsBackToTheExampleWhereValuesDoNotFitEachOther) {
     Sezione s = diaframma();
     s.copriferroMonte = 60;  // deeper than the middle of the wall
-    const Schizzo diaframmaErrato = schizzoSezione(RiquadroSezione::diaframma, s);
+    const Schizzo diaframmaErrato = schizzoSezione(Parte::diaframma, s);
     EXPECT_FALSE(diaframmaErrato.inScala);
     EXPECT_EQ(quota(diaframmaErrato, &Sezione::copriferroMonte).scritta, "c1 = 600")
         << "the typed number is written all the same";
@@ -232,7 +231,7 @@ TEST(SectionSketch, FallsBackToTheExampleWhereValuesDoNotFitEachOther) {
     Sezione tubo;
     tubo.paliDiamEst = 50;
     tubo.paliDiamInt = 50;
-    const Schizzo senzaParete = schizzoSezione(RiquadroSezione::pali, tubo);
+    const Schizzo senzaParete = schizzoSezione(Parte::pali, tubo);
     EXPECT_FALSE(senzaParete.inScala);
     EXPECT_LT(misura(senzaParete, &Sezione::paliDiamInt),
               misura(senzaParete, &Sezione::paliDiamEst));
@@ -263,10 +262,9 @@ TEST(SectionSketch, KeepsItsTextsApart) {
     piena.palancolaSpessAla = 0.95;
     const Sezione armati = paliArmati();
     for (const auto& campo : masks::campiSezione)
-        if (campo.riquadro() == RiquadroSezione::paliArmati)
-            piena.*campo.valore = armati.*campo.valore;
+        if (campo.riquadro() == Parte::paliArmati) piena.*campo.valore = armati.*campo.valore;
     for (const Sezione& s : {Sezione{}, piena})
-        for (const RiquadroSezione tipo : tipi) {
+        for (const Parte tipo : tipi) {
             const auto quote = schizzoSezione(tipo, s).quote;
             for (std::size_t i = 0; i < quote.size(); ++i)
                 for (std::size_t j = 0; j < i; ++j) {
@@ -288,7 +286,7 @@ TEST(SectionSketch, StaysOnItsSheetWhateverIsTyped) {
             s.*campo.valore =
                 quale == 0 ? 0 : std::pow(10, esponente(caso)) * (quale == 1 ? -1 : 1);
         }
-        for (const RiquadroSezione tipo : tipi) tuttoSulFoglio(schizzoSezione(tipo, s));
+        for (const Parte tipo : tipi) tuttoSulFoglio(schizzoSezione(tipo, s));
         if (HasFailure()) return;
     }
 }
@@ -300,7 +298,7 @@ TEST(SectionSketch, StaysOnItsSheetForUsualProportions) {
     for (int i = 0; i < 3000; ++i) {
         Sezione s;
         for (const auto& campo : masks::campiSezione) s.*campo.valore = 50 * parte(caso);
-        for (const RiquadroSezione tipo : tipi) {
+        for (const Parte tipo : tipi) {
             const Schizzo schizzo = schizzoSezione(tipo, s);
             inScala += schizzo.inScala ? 1 : 0;
             tuttoSulFoglio(schizzo);

@@ -10,6 +10,8 @@
 namespace korven::masks {
 namespace {
 
+using project::Parte;
+
 std::string testo(const SezioneEditata& editata, double project::Sezione::*campo) {
     return editata.testo(campoSezione(campo));
 }
@@ -86,7 +88,7 @@ TEST(SezioneEditata, IsADiaphragmFromTheStartWhenNoTypeIsSet) {
     project::Sezione sezione;
     bool modificato = false;
     SezioneEditata editata(sezione, modificato);
-    EXPECT_EQ(editata.tipo(), RiquadroSezione::diaframma);
+    EXPECT_EQ(editata.tipo(), Parte::diaframma);
     EXPECT_TRUE(sezione.tipoDiaframma) << "before anything is confirmed";
     EXPECT_FALSE(modificato);
     editata.conferma();
@@ -94,8 +96,7 @@ TEST(SezioneEditata, IsADiaphragmFromTheStartWhenNoTypeIsSet) {
 }
 
 TEST(SezioneEditata, ShowsTheFirstTrueFlag) {
-    constexpr RiquadroSezione attesi[] = {RiquadroSezione::diaframma, RiquadroSezione::pali,
-                                          RiquadroSezione::palancola, RiquadroSezione::paliArmati};
+    constexpr Parte attesi[] = {Parte::diaframma, Parte::pali, Parte::palancola, Parte::paliArmati};
     for (std::size_t i = 0; i < std::size(project::tipiSezione); ++i) {
         project::Sezione sezione;
         bool modificato = false;
@@ -115,8 +116,8 @@ TEST(SezioneEditata, ChangesNoDataByTheClickOfAnOption) {
     project::Sezione sezione = piena();
     bool modificato = false;
     SezioneEditata editata(sezione, modificato);
-    editata.scegli(RiquadroSezione::paliArmati);
-    EXPECT_EQ(editata.tipo(), RiquadroSezione::paliArmati);
+    editata.scegli(Parte::paliArmati);
+    EXPECT_EQ(editata.tipo(), Parte::paliArmati);
     EXPECT_EQ(sezione, piena());
     EXPECT_FALSE(modificato);
 }
@@ -188,7 +189,7 @@ TEST(SezioneEditata, SetsModificatoForAnotherTypeAndStoresItsFlagAlone) {
     project::Sezione sezione = piena();
     bool modificato = false;
     SezioneEditata editata(sezione, modificato);
-    editata.scegli(RiquadroSezione::pali);
+    editata.scegli(Parte::pali);
     editata.conferma();
     EXPECT_TRUE(modificato);
     project::Sezione attesa = piena();
@@ -227,7 +228,7 @@ TEST(SezioneEditata, StartsFromTheDefaultsOfANewProject) {
     project::DatiProgetto dati = test::progettoVuoto();
     bool modificato = false;
     SezioneEditata editata(dati.sezione, modificato);
-    EXPECT_EQ(editata.tipo(), RiquadroSezione::diaframma);
+    EXPECT_EQ(editata.tipo(), Parte::diaframma);
     for (std::size_t i = 0; i < numeroCampiSezione; ++i) EXPECT_EQ(editata.testo(i), "0");
     editata.conferma();
     EXPECT_FALSE(modificato);

@@ -116,6 +116,16 @@ TEST(TabellaCampi, LetsTheKindOfAnAnchorBeTypedAsOneOfItsCodes) {
     EXPECT_EQ(limiti->massimo, 1);
 }
 
+TEST(TabellaCampi, HasAPartInForceForTheFirstTypeOfASection) {
+    EXPECT_EQ(parteInVigore({}), std::nullopt);
+    const Parte attese[] = {Parte::diaframma, Parte::pali, Parte::palancola, Parte::paliArmati};
+    for (std::size_t i = 0; i < std::size(tipiSezione); ++i) {
+        Sezione sezione;
+        for (std::size_t j = i; j < std::size(tipiSezione); ++j) sezione.*tipiSezione[j] = true;
+        EXPECT_EQ(parteInVigore(sezione), attese[i]) << i;
+    }
+}
+
 TEST(TabellaCampi, FindsTheCodeThatANumberIs) {
     const Campo& metodo = campo(&DatiProgetto::metodoSpinte);
     EXPECT_EQ(codice(metodo, 3), &metodo.codici[2]);

@@ -27,9 +27,10 @@ namespace korven::shell {
 
 namespace {
 
-using masks::RiquadroSezione;
+using project::Parte;
 
 struct TipoForma {
+    Parte parte;
     const char* opzione;
     const char* riquadro;
     const char* titolo;  // Italian key; nullptr for the caption of the type and the unit
@@ -37,11 +38,11 @@ struct TipoForma {
 
 // In the order of `project::tipiSezione`; the materials last.
 constexpr TipoForma tipi[] = {
-    {"Option1", "Frame1", nullptr},
-    {"Option2", "Frame2", nullptr},
-    {"Option3", "Frame5", "Palancola [mm] (misurati sull'asse del profilato)"},
-    {"Option4", "Frame6", nullptr},
-    {"", "Frame4", "Caratteristiche dei materiali"},
+    {Parte::diaframma, "Option1", "Frame1", nullptr},
+    {Parte::pali, "Option2", "Frame2", nullptr},
+    {Parte::palancola, "Option3", "Frame5", "Palancola [mm] (misurati sull'asse del profilato)"},
+    {Parte::paliArmati, "Option4", "Frame6", nullptr},
+    {Parte::materiali, "", "Frame4", "Caratteristiche dei materiali"},
 };
 
 std::string_view didascalia(std::size_t tipo) {
@@ -57,7 +58,11 @@ constexpr const char* aiutoTipo =
     "Il tipo di sezione con cui si calcola. I dati degli altri tipi restano nel progetto. "
     "Il segno decimale è il punto.";
 
-std::size_t indice(RiquadroSezione riquadro) { return static_cast<std::size_t>(riquadro); }
+std::size_t indice(Parte riquadro) {
+    const auto* trovato = std::find_if(std::begin(tipi), std::end(tipi),
+                                       [=](const auto& tipo) { return tipo.parte == riquadro; });
+    return static_cast<std::size_t>(trovato - std::begin(tipi));
+}
 
 QLabel* etichetta(const QString& testo, Qt::Alignment posto, QWidget* padre) {
     auto* fatta = new QLabel(testo, padre);
@@ -93,7 +98,7 @@ QWidget* DefinEJ::fareTutto() {
     colonna->setContentsMargins(0, 0, 0, 0);
     colonna->addWidget(fareOpzioni());
     colonna->addWidget(fareRiquadri(), 1);
-    colonna->addWidget(fareRiquadro(RiquadroSezione::materiali));
+    colonna->addWidget(fareRiquadro(Parte::materiali));
     return tutto;
 }
 
@@ -114,7 +119,7 @@ QWidget* DefinEJ::fareOpzioni() {
     opzioni_[indice(modello_.tipo())]->setChecked(true);
     connect(gruppo, &QButtonGroup::idToggled, this, [this](int scelto, bool acceso) {
         if (!acceso) return;
-        modello_.scegli(static_cast<RiquadroSezione>(scelto));
+        modello_.scegli(tipi[scelto].parte);
         mostraTipo();
     });
     return riga;
@@ -123,7 +128,7 @@ QWidget* DefinEJ::fareOpzioni() {
 QWidget* DefinEJ::fareRiquadri() {
     riquadri_ = new QStackedWidget(this);
     for (std::size_t i = 0; i < schizzi_.size(); ++i) {
-        auto* riquadro = fareRiquadro(static_cast<RiquadroSezione>(i));
+        auto* riquadro = fareRiquadro(tipi[i].parte);
         auto* griglia = static_cast<QGridLayout*>(riquadro->layout());
         auto* schizzo = schizzi_[i] = new VistaSchizzo(
             [this](std::size_t campo) {
@@ -141,19 +146,18 @@ QWidget* DefinEJ::fareRiquadri() {
     return riquadri_;
 }
 
-QGroupBox* DefinEJ::fareRiquadro(RiquadroSezione riquadro) {
+QGroupBox* DefinEJ::fareRiquadro(Parte riquadro) {
     auto* fatto = new QGroupBox(tradotto(titolo(indice(riquadro))), this);
     fatto->setObjectName(QLatin1String(tipi[indice(riquadro)].riquadro));
     auto* griglia = new QGridLayout(fatto);
     fareCampi(*griglia, riquadro);
-    if (riquadro == RiquadroSezione::materiali)
-        griglia->setColumnStretch(griglia->columnCount(), 1);
+    if (riquadro == Parte::materiali) griglia->setColumnStretch(griglia->columnCount(), 1);
     return fatto;
 }
 
 // Each row of fields has its caption in the first column; from there each column of fields takes
 // two, one for the symbols. The headings of the columns are in row 0.
-void DefinEJ::fareCampi(QGridLayout& griglia, RiquadroSezione riquadro) {
+void DefinEJ::fareCampi(QGridLayout& griglia, Parte riquadro) {
     QStringList righe;
     auto* padre = griglia.parentWidget();
     for (std::size_t i = 0; i < campi_.size(); ++i) {

@@ -34,8 +34,8 @@ class DefinEJ : public QDialog {
     QWidget* fareTutto();
     QWidget* fareOpzioni();
     QWidget* fareRiquadri();
-    QGroupBox* fareRiquadro(masks::RiquadroSezione riquadro);
-    void fareCampi(QGridLayout& griglia, masks::RiquadroSezione riquadro);
+    QGroupBox* fareRiquadro(project::Parte riquadro);
+    void fareCampi(QGridLayout& griglia, project::Parte riquadro);
     QLineEdit* fareCampo(std::size_t campo);
     QWidget* fareStriscia();
     void mostraTipo();

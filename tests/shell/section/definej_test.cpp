@@ -148,8 +148,8 @@ TEST_F(FormaSezione, ShowsEachValueInTheControlOfItsField) {
     ASSERT_EQ(std::size(campi), masks::numeroCampiSezione);
     apri();
     for (const auto& [nome, campo] : campi) {
-        const bool materiale = masks::campiSezione[masks::campoSezione(campo)].riquadro() ==
-                               masks::RiquadroSezione::materiali;
+        const bool materiale =
+            masks::campiSezione[masks::campoSezione(campo)].riquadro() == project::Parte::materiali;
         EXPECT_EQ(trova<QLineEdit>(nome).text().toDouble(), sezione.*campo * (materiale ? 1 : 10))
             << nome;
     }
