@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "project/codes.hpp"
 #include "support/random_walls.hpp"
 #include "support/run_harness.hpp"
 #include "support/sample_projects.hpp"
@@ -15,6 +16,10 @@
 namespace korven::analysis {
 namespace {
 
+using project::MetodoKs;
+using project::ModoKs;
+using project::ModoSpinte;
+using project::TipoTirante;
 using test::fasiDi;
 using test::MuriCasuali;
 
@@ -30,13 +35,13 @@ project::DatiProgetto senzaScavo(MuriCasuali& caso) {
         d.faldaFase[k] = caso.tra(-0.5, 8);
     }
     for (int a = 1; a <= d.nTiranti; ++a) {
-        d.tipoTirante[a] = 1;
+        d.tipoTirante[a] = valore(TipoTirante::trazioneCompressione);
         d.pretTirante[a] = 0;
     }
     d.nFasi = 1;
-    d.modoSpinte = 1;
+    d.modoSpinte = valore(ModoSpinte::ricalcolate);
     // The linear method takes another bottom for the last layer on each side.
-    d.modoKs = d.metodoKs == 4 ? 2 : 1;
+    d.modoKs = valore(d.metodoKs == MetodoKs::lineare ? ModoKs::comeMonte : ModoKs::ricalcolato);
     d.forzaTesta = caso.tra(-6, 6);
     d.momentoTesta = caso.tra(-6, 6);
     return d;

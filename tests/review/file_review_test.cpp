@@ -2,6 +2,7 @@
 
 #include "base/code_page.hpp"
 #include "base/file_error.hpp"
+#include "project/codes.hpp"
 #include "project/project_file.hpp"
 #include "review/bench.hpp"
 
@@ -46,7 +47,7 @@ TEST(EsaminaFile, PutsTheLinesAfterWhatTheProjectItselfShows) {
 
 TEST(EsaminaFile, TellsThatRankineAndBellDoNotSurviveTheReading) {
     DatiProgetto d = test::progettoSemplice();
-    d.metodoSpinte = 2;
+    d.metodoSpinte = valore(project::MetodoSpinte::rankine);
     EXPECT_EQ(righeFile(project::testoProgetto(d)),
               std::vector<std::string>{"riga 24: metodo delle spinte = 2: un progetto si riapre "
                                        "sempre con il metodo di Coulomb (1)"});

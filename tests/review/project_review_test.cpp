@@ -1,10 +1,20 @@
 #include "review/project_review.hpp"
 
+#include "project/codes.hpp"
 #include "review/bench.hpp"
 #include "support/wall_builder.hpp"
 
 namespace korven::review {
 namespace {
+
+using project::MetodoKs;
+using project::MetodoSpinte;
+using project::ModoKs;
+using project::ModoSpinte;
+using project::ModoTensioni;
+using project::TipoTirante;
+using project::VincoloPiede;
+using project::VincoloTesta;
 
 TEST(EsaminaProgetto, FindsNothingInASoundProject) {
     EXPECT_EQ(righe(test::progettoSemplice()), std::vector<std::string>{});
@@ -13,8 +23,13 @@ TEST(EsaminaProgetto, FindsNothingInASoundProject) {
 
 TEST(EsaminaProgetto, TellsEveryFailedInputCheckOfARunNotTheFirstAlone) {
     DatiProgetto d = test::progettoVuoto();
-    d.vincoloTesta = d.vincoloPiede = d.modoSpinte = d.modoKs = d.modoTensioni = 1;
-    d.metodoSpinte = d.metodoKs = 1;
+    d.vincoloTesta = valore(VincoloTesta::libera);
+    d.vincoloPiede = valore(VincoloPiede::libero);
+    d.modoSpinte = valore(ModoSpinte::ricalcolate);
+    d.modoKs = valore(ModoKs::ricalcolato);
+    d.modoTensioni = valore(ModoTensioni::efficaci);
+    d.metodoSpinte = valore(MetodoSpinte::coulomb);
+    d.metodoKs = valore(MetodoKs::bowles);
     EXPECT_EQ(
         righe(d),
         (std::vector<std::string>{
@@ -29,7 +44,7 @@ TEST(EsaminaProgetto, TellsEveryFailedInputCheckOfARunNotTheFirstAlone) {
 
 TEST(EsaminaProgetto, RefusesBowlesOnALayerWithoutFriction) {
     aspetta({{[](DatiProgetto& d) {
-                  d.metodoKs = 1;
+                  d.metodoKs = valore(MetodoKs::bowles);
                   d.phiStrato[2] = 0;
               },
               {"! Con il metodo scelto per il calcolo di Ks non sono ammessi angoli di attrito "
@@ -46,7 +61,8 @@ TEST(EsaminaProgetto, RefusesAnUnusableNumberOfSegmentsInTheMannerOfTheInputChec
         EXPECT_EQ(righe(test::progettoSemplice(), nSeg), rifiuto) << nSeg;
     for (const char* nSeg : {"3", "249", " 20", "20 segmenti"})
         EXPECT_TRUE(righe(test::progettoSemplice(), nSeg).empty()) << nSeg;
-    const auto incastro = conModifica([](DatiProgetto& d) { d.vincoloPiede = 3; });
+    const auto incastro =
+        conModifica([](DatiProgetto& d) { d.vincoloPiede = valore(VincoloPiede::incastro); });
     EXPECT_EQ(righe(incastro, "249"), rifiuto);
     EXPECT_TRUE(righe(incastro, "248").empty());
 }
@@ -73,10 +89,14 @@ TEST(EsaminaProgetto, NamesEachCodeOutOfRangeAndWhatItComesTo) {
          {"tirante 1: tipo non previsto: il calcolo lo fa agire solo a trazione, la relazione lo "
           "dice a trazione e compressione (2)"}},
         {[](DatiProgetto& d) {
-             d.vincoloTesta = d.modoSpinte = d.modoKs = d.modoTensioni = 2;
-             d.vincoloPiede = d.metodoSpinte = 3;
-             d.metodoKs = 4;
-             d.tipoTirante[1] = 1;
+             d.vincoloTesta = valore(VincoloTesta::cerniera);
+             d.vincoloPiede = valore(VincoloPiede::incastro);
+             d.modoSpinte = valore(ModoSpinte::comeMonte);
+             d.modoKs = valore(ModoKs::comeMonte);
+             d.modoTensioni = valore(ModoTensioni::totali);
+             d.metodoSpinte = valore(MetodoSpinte::bell);
+             d.metodoKs = valore(MetodoKs::lineare);
+             d.tipoTirante[1] = valore(TipoTirante::trazioneCompressione);
          },
          {}},
     });
@@ -85,12 +105,16 @@ TEST(EsaminaProgetto, NamesEachCodeOutOfRangeAndWhatItComesTo) {
 // What the review says of an unknown code is what a run makes of it.
 TEST(EsaminaProgetto, SaysOfUnknownCodesWhatTheRunDoesWithThem) {
     const std::pair<Modifica, Modifica> coppie[] = {
-        {[](DatiProgetto& d) { d.vincoloTesta = 3; }, [](DatiProgetto& d) { d.vincoloTesta = 1; }},
-        {[](DatiProgetto& d) { d.vincoloPiede = 4; }, [](DatiProgetto& d) { d.vincoloPiede = 1; }},
-        {[](DatiProgetto& d) { d.modoSpinte = 0; }, [](DatiProgetto& d) { d.modoSpinte = 1; }},
-        {[](DatiProgetto& d) { d.modoKs = -1; }, [](DatiProgetto& d) { d.modoKs = 1; }},
+        {[](DatiProgetto& d) { d.vincoloTesta = 3; },
+         [](DatiProgetto& d) { d.vincoloTesta = valore(VincoloTesta::libera); }},
+        {[](DatiProgetto& d) { d.vincoloPiede = 4; },
+         [](DatiProgetto& d) { d.vincoloPiede = valore(VincoloPiede::libero); }},
+        {[](DatiProgetto& d) { d.modoSpinte = 0; },
+         [](DatiProgetto& d) { d.modoSpinte = valore(ModoSpinte::ricalcolate); }},
+        {[](DatiProgetto& d) { d.modoKs = -1; },
+         [](DatiProgetto& d) { d.modoKs = valore(ModoKs::ricalcolato); }},
         {[](DatiProgetto& d) { d.modoTensioni = 1.5; },
-         [](DatiProgetto& d) { d.modoTensioni = 2; }},
+         [](DatiProgetto& d) { d.modoTensioni = valore(ModoTensioni::totali); }},
     };
     for (const auto& [ignoto, noto] : coppie) {
         std::vector<double> spostamenti[2];

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "project/codes.hpp"
 #include "review/remark_list.hpp"
 #include "structure/offered_stiffness.hpp"
 #include "structure/section_millimetres.hpp"
@@ -12,6 +13,7 @@ namespace {
 
 using project::DatiProgetto;
 using project::Sezione;
+using project::VincoloPiede;
 
 std::vector<std::string> righe(const Sezione& sezione, double rigidezzaEJ) {
     DatiProgetto d = test::progettoSemplice();
@@ -184,7 +186,7 @@ TEST(ControlloSezione, TellsShearsAtTheEndsThatTheShearCheckTakesAtTheirFaceValu
     DatiProgetto d = test::progettoSemplice();
     d.sezione = structure::paliArmati();
     d.rigidezzaEJ = structure::rigidezzaOfferta(d.sezione).value_or(0);
-    d.vincoloPiede = 3;
+    d.vincoloPiede = valore(VincoloPiede::incastro);
     d.forzaTesta = -2;
     const auto trovate = [&d] {
         ElencoRilievi elenco;
@@ -206,11 +208,11 @@ TEST(ControlloSezione, TellsShearsAtTheEndsThatTheShearCheckTakesAtTheirFaceValu
         "della "
         "paratia";
     EXPECT_EQ(trovate(), (Righe{piede, testa}));
-    d.vincoloPiede = 2;
+    d.vincoloPiede = valore(VincoloPiede::cerniera);
     EXPECT_EQ(trovate(), Righe{testa});
     d.forzaTesta = 0;
     EXPECT_EQ(trovate(), niente);
-    d.vincoloPiede = 3;
+    d.vincoloPiede = valore(VincoloPiede::incastro);
     EXPECT_EQ(trovate(), Righe{piede});
     d.sezione.tipoPaliArmati = false;
     d.sezione.tipoPali = true;

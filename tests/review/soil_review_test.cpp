@@ -1,11 +1,14 @@
 #include <gtest/gtest.h>
 
 #include "base/number_text.hpp"
+#include "project/codes.hpp"
 #include "review/bench.hpp"
 #include "support/wall_builder.hpp"
 
 namespace korven::review {
 namespace {
+
+using project::MetodoKs;
 
 TEST(ControlloTerreno, NamesWhatIsOddAboutLayers) {
     aspetta({
@@ -28,14 +31,14 @@ TEST(ControlloTerreno, NamesWhatIsOddAboutLayers) {
         {[](DatiProgetto& d) { d.ksStrato[1] = 0; },
          {"strato 1: ks [kN/m³] = 0: modulo ks mancante"}},
         {[](DatiProgetto& d) {
-             d.metodoKs = 1;
+             d.metodoKs = valore(MetodoKs::bowles);
              d.ksStrato[1] = 0;
          },
          {}},
-        {[](DatiProgetto& d) { d.metodoKs = 2; },
+        {[](DatiProgetto& d) { d.metodoKs = valore(MetodoKs::lancellotta); },
          {"coefficiente m = 0: il terreno non ha rigidezza"}},
         {[](DatiProgetto& d) {
-             d.metodoKs = 2;
+             d.metodoKs = valore(MetodoKs::lancellotta);
              d.coeffM = 100;
          },
          {}},
@@ -164,7 +167,7 @@ TEST(ControlloTerreno, TellsAWallThatReachesBelowTheDeepenedLastLayer) {
 // Water 2 m above the ground on light soil: at depth 0.6 its effective stress is -0.06 + 0.02.
 TEST(ControlloSuolo, TellsASpringThatPushesOnOnceAndLetsTheRunGoOn) {
     const auto d = conModifica([](DatiProgetto& p) {
-        p.metodoKs = 1;
+        p.metodoKs = valore(MetodoKs::bowles);
         p.sovraccMonte = 0;
         p.faldaMonte = -2;
         p.gammaN[1] = 0.5;
