@@ -76,11 +76,12 @@ class Ripresa {
             [&](auto membro) {
                 auto& valore = project::cella(dati_, membro, riga);
                 using Valore = std::remove_reference_t<decltype(valore)>;
-                if (come > 0)
+                if (come > 0) {
                     valore = project::cella(prima_, membro, come);
-                else if constexpr (std::is_same_v<Valore, std::string>)
-                    valore = testo;
-                else if constexpr (std::is_same_v<Valore, double>)
+                    return;
+                }
+                if constexpr (std::is_same_v<Valore, std::string>) valore = testo;
+                if constexpr (std::is_same_v<Valore, double>)
                     valore = project::conservato(colonna, letto(testo));
             },
             colonna.membro);
