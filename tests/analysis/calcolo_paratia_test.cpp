@@ -4,6 +4,7 @@
 
 #include "analysis/input_checks.hpp"
 #include "base/file_error.hpp"
+#include "project/codes.hpp"
 #include "support/output_double.hpp"
 #include "support/run_harness.hpp"
 #include "support/sample_projects.hpp"
@@ -12,6 +13,7 @@ namespace korven::analysis {
 namespace {
 
 using project::fileCorrente;
+using project::MetodoKs;
 using project::Progetto;
 using test::Banco;
 using test::contenuto;
@@ -75,7 +77,7 @@ TEST(CalcoloParatia, RefusesAProjectWithoutLayersThenOneWithoutStages) {
 
 TEST(CalcoloParatia, RefusesBowlesWithALayerWithoutFrictionBeforeAnythingIsWritten) {
     auto dati = progettoSemplice();
-    dati.metodoKs = 1;
+    dati.metodoKs = valore(MetodoKs::bowles);
     dati.phiStrato[2] = 0;
     dati.coesione[2] = 4;
     {
@@ -87,7 +89,7 @@ TEST(CalcoloParatia, RefusesBowlesWithALayerWithoutFrictionBeforeAnythingIsWritt
             "Con il metodo scelto per il calcolo di Ks non sono ammessi angoli di attrito nulli.");
         EXPECT_EQ(contenuto(banco.risultati()), "vecchio");
     }
-    dati.metodoKs = 3;
+    dati.metodoKs = valore(MetodoKs::costante);
     Banco banco(dati);
     banco.calcola();
     EXPECT_FALSE(erroreCalcolo);

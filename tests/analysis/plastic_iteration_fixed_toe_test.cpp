@@ -8,12 +8,14 @@
 #include "analysis/plastic_iteration.hpp"
 #include "analysis/solver/linear_system.hpp"
 #include "analysis/wall_mesh.hpp"
+#include "project/codes.hpp"
 #include "support/run_arrays_setup.hpp"
 #include "support/sample_projects.hpp"
 
 namespace korven::analysis {
 namespace {
 
+using project::VincoloPiede;
 using test::corsaNuova;
 using test::muroElastico;
 
@@ -26,7 +28,7 @@ constexpr int forze = 2 * n - 1;  // balance of forces; the balance of moments i
 class PiedeIncastrato : public ::testing::Test {
  protected:
     PiedeIncastrato() {
-        dati.vincoloPiede = 3;
+        dati.vincoloPiede = valore(VincoloPiede::incastro);
         dati.forzaTesta = 5;
         dati.pressioneOrizz = 0.5;
         corsa = corsaNuova(dati, nSeg);
@@ -172,7 +174,7 @@ TEST_F(PiedeIncastrato, HoldsHalfOfTheToesReactionInTheLastShear) {
 }
 
 TEST_F(PiedeIncastrato, AtAHingedToeTheLastShearIsZeroInstead) {
-    dati.vincoloPiede = 2;
+    dati.vincoloPiede = valore(VincoloPiede::cerniera);
     corsa = corsaNuova(dati, nSeg);
     ASSERT_FALSE(calcolaSuolo(dati, 1, nNodi, corsa->passoNodi, corsa->suolo));
     itera(*corsa);

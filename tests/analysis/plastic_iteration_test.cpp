@@ -4,6 +4,7 @@
 
 #include <cmath>
 
+#include "project/codes.hpp"
 #include "support/run_arrays_setup.hpp"
 #include "support/sample_projects.hpp"
 #include "support/wall_builder.hpp"
@@ -11,6 +12,8 @@
 namespace korven::analysis {
 namespace {
 
+using project::VincoloPiede;
+using project::VincoloTesta;
 using test::aggiungiTirante;
 using test::corsaNuova;
 using test::muroElastico;
@@ -218,7 +221,8 @@ TEST(RisolviIterazione, ReportsASystemWithoutAnySpringAsSingular) {
 
 TEST(RisolviIterazione, LaysARestraintOverTheSpringButKeepsThePressureOfItsNode) {
     auto dati = muroNudo();
-    dati.vincoloTesta = dati.vincoloPiede = 2;
+    dati.vincoloTesta = valore(VincoloTesta::cerniera);
+    dati.vincoloPiede = valore(VincoloPiede::cerniera);
     dati.pressioneOrizz = 1.5;
     aggiungiTirante(dati, 0, 700, 0, 1);
     const auto corsa = corsaNuova(dati, 20);

@@ -6,10 +6,16 @@
 #include <random>
 
 #include "analysis/soil_state.hpp"
+#include "project/codes.hpp"
 #include "support/wall_builder.hpp"
 
 namespace korven::analysis {
 namespace {
+
+using project::MetodoKs;
+using project::MetodoSpinte;
+using project::ModoSpinte;
+using project::ModoTensioni;
 
 // Layers to 4 and 10 m of phi 30 with water at 2 and 5 m, nodes every 0.5 m to 12 m, excavation at
 // 3 m. Nq, Nc and Ngamma of phi 30 by hand.
@@ -33,7 +39,7 @@ class SuoloKs : public testing::Test {
 // At 6 m the effective stress is 1.7 x 2 + 2 x 2 + 2.1 x 2 - 4 = 7.6 uphill and 1.7 x 1 + 1.8 x 1 +
 // 2.1 x 1 - 1 = 4.6 downhill; both lie under water, G = 1.1.
 TEST_F(SuoloKs, BowlesCountsTheEffectiveStressOfItsSideWhateverTheStressMode) {
-    dati.metodoKs = 1;
+    dati.metodoKs = valore(MetodoKs::bowles);
     for (double modo : {1.0, 2.0}) {
         dati.modoTensioni = modo;
         ASSERT_FALSE(calcola().has_value());
@@ -43,7 +49,7 @@ TEST_F(SuoloKs, BowlesCountsTheEffectiveStressOfItsSideWhateverTheStressMode) {
 }
 
 TEST_F(SuoloKs, BowlesLooksAtTheWaterOfItsOwnSide) {
-    dati.metodoKs = 1;
+    dati.metodoKs = valore(MetodoKs::bowles);
     ASSERT_FALSE(calcola().has_value());
     // 4.5 m: uphill under water; downhill above it, 1.7 x 1 + 1.8 x 0.5 of stress.
     EXPECT_NEAR(s.Ehm[nodo(4.5)], -40 * (0.5 * Nc + 1.1 * Ngamma + 5.95 * Nq), 1e-7);
@@ -52,8 +58,8 @@ TEST_F(SuoloKs, BowlesLooksAtTheWaterOfItsOwnSide) {
 
 // The effective stress of the excavated side is not computed then, and reads 0.
 TEST_F(SuoloKs, BowlesLosesItsDepthTermWhenThePressuresComeFromTheOtherSide) {
-    dati.metodoKs = 1;
-    dati.modoSpinte = 2;
+    dati.metodoKs = valore(MetodoKs::bowles);
+    dati.modoSpinte = valore(ModoSpinte::comeMonte);
     ASSERT_FALSE(calcola().has_value());
     EXPECT_NEAR(s.Ehv[nodo(6)], -40 * (0.5 * Nc + 1.1 * Ngamma), 1e-8);
     EXPECT_NEAR(s.Ehv[nodo(11)], -40 * (0.5 * Nc + 1.1 * Ngamma), 1e-8);
@@ -61,13 +67,13 @@ TEST_F(SuoloKs, BowlesLosesItsDepthTermWhenThePressuresComeFromTheOtherSide) {
 }
 
 TEST_F(SuoloKs, LancellottaCountsTheStressThatThePressuresUse) {
-    dati.metodoKs = 2;
+    dati.metodoKs = valore(MetodoKs::lancellotta);
     dati.coeffM = 800;
-    dati.modoTensioni = 2;
+    dati.modoTensioni = valore(ModoTensioni::totali);
     ASSERT_FALSE(calcola().has_value());
     EXPECT_NEAR(s.Ehm[nodo(6)], -800 * std::sqrt(0.5 * 11.6), 1e-9);
     EXPECT_NEAR(s.Ehv[nodo(6)], -800 * std::sqrt(0.5 * 5.6), 1e-9);
-    dati.modoSpinte = 2;
+    dati.modoSpinte = valore(ModoSpinte::comeMonte);
     ASSERT_FALSE(calcola().has_value());
     EXPECT_NEAR(s.Ehv[nodo(6)], -800 * std::sqrt(0.5 * 11.6), 1e-9);
 }
@@ -75,7 +81,7 @@ TEST_F(SuoloKs, LancellottaCountsTheStressThatThePressuresUse) {
 // Uphill the last layer counts 100 m deeper, so that its line is flat; downhill the line reaches
 // the layer's value at its true bottom and goes on below it.
 TEST_F(SuoloKs, LinearTakesTheDeepenedBottomUphillAndTheTrueOneDownhill) {
-    dati.metodoKs = 4;
+    dati.metodoKs = valore(MetodoKs::lineare);
     ASSERT_FALSE(calcola().has_value());
     EXPECT_DOUBLE_EQ(s.Ehm[nodo(2)], -500);
     EXPECT_DOUBLE_EQ(s.Ehm[nodo(7)], -(1000 + 1500 * 3.0 / 106));
@@ -86,7 +92,7 @@ TEST_F(SuoloKs, LinearTakesTheDeepenedBottomUphillAndTheTrueOneDownhill) {
 }
 
 TEST_F(SuoloKs, LinearIsUnharmedByALayerWithoutThicknessBetweenTwoOthers) {
-    dati.metodoKs = 4;
+    dati.metodoKs = valore(MetodoKs::lineare);
     dati.nStrati = 3;
     dati.profStrato[2] = 4;
     dati.profStrato[3] = 10;
@@ -99,7 +105,7 @@ TEST_F(SuoloKs, LinearIsUnharmedByALayerWithoutThicknessBetweenTwoOthers) {
 }
 
 TEST_F(SuoloKs, LinearTakesTheOwnValueAtTheDepthOfALastLayerWithoutThickness) {
-    dati.metodoKs = 4;
+    dati.metodoKs = valore(MetodoKs::lineare);
     dati.profStrato[2] = 4;
     ASSERT_FALSE(calcolaSuolo(dati, 1, 9, 0.5, s).has_value());  // the wall ends there
     EXPECT_DOUBLE_EQ(s.Ehv[nodo(4)], -2500);
@@ -111,7 +117,7 @@ TEST_F(SuoloKs, LinearTakesTheOwnValueAtTheDepthOfALastLayerWithoutThickness) {
 }
 
 TEST_F(SuoloKs, ConstantTakesTheLastLayerBelowTheColumnOnBothSides) {
-    dati.metodoKs = 3;
+    dati.metodoKs = valore(MetodoKs::costante);
     ASSERT_FALSE(calcola().has_value());
     EXPECT_EQ(s.Ehm[nodo(12)], -2500);
     EXPECT_EQ(s.Ehv[nodo(12)], -2500);
@@ -137,7 +143,7 @@ TEST_F(SuoloKs, AcceptsAFrictionOfZeroButWithBowles) {
 }
 
 TEST_F(SuoloKs, NamesTheFirstDepthWhoseSlopeExceedsTheFriction) {
-    dati.metodoKs = 3;
+    dati.metodoKs = valore(MetodoKs::costante);
     dati.inclinazioneMonte = 31;
     dati.phiStrato[1] = 32;
     for (double metodo : {1.0, 2.0}) {
@@ -147,12 +153,12 @@ TEST_F(SuoloKs, NamesTheFirstDepthWhoseSlopeExceedsTheFriction) {
         EXPECT_EQ(rifiuto->profondita, 4);
         EXPECT_EQ(rifiuto->motivo, Indefinito::radiceNegativa);
     }
-    dati.metodoSpinte = 3;  // Bell does not know of slopes
+    dati.metodoSpinte = valore(MetodoSpinte::bell);  // Bell does not know of slopes
     EXPECT_FALSE(calcola().has_value());
 }
 
 TEST_F(SuoloKs, RefusesTheRootOfANegativeStress) {
-    dati.metodoKs = 2;
+    dati.metodoKs = valore(MetodoKs::lancellotta);
     dati.coeffM = 800;
     dati.sovraccMonte = -0.5;
     auto rifiuto = calcola();
@@ -168,14 +174,14 @@ TEST_F(SuoloKs, RefusesTheRootOfANegativeStress) {
 }
 
 TEST_F(SuoloKs, RefusesDivisionsByZero) {
-    dati.metodoKs = 3;
-    dati.metodoSpinte = 3;
+    dati.metodoKs = valore(MetodoKs::costante);
+    dati.metodoSpinte = valore(MetodoSpinte::bell);
     dati.inclinazioneMonte = -90;  // 1 + sin beta
     auto rifiuto = calcola();
     ASSERT_TRUE(rifiuto.has_value());
     EXPECT_EQ(rifiuto->motivo, Indefinito::denominatoreNullo);
     dati.inclinazioneMonte = 0;
-    dati.metodoSpinte = 1;
+    dati.metodoSpinte = valore(MetodoSpinte::coulomb);
     dati.phiStrato[2] = 90;
     rifiuto = calcola();
     ASSERT_TRUE(rifiuto.has_value());
@@ -184,7 +190,7 @@ TEST_F(SuoloKs, RefusesDivisionsByZero) {
 }
 
 TEST_F(SuoloKs, RefusesWhatIsTooLargeForANumber) {
-    dati.metodoKs = 3;
+    dati.metodoKs = valore(MetodoKs::costante);
     dati.gammaN[1] = dati.gammaSat[1] = 1e308;
     const auto rifiuto = calcola();
     ASSERT_TRUE(rifiuto.has_value());
@@ -197,7 +203,7 @@ TEST_F(SuoloKs, KeepsThePressureAtRestBetweenTheLimits) {
     std::mt19937 caso(271);
     std::uniform_real_distribution<double> uno(0, 1);
     for (int prova = 0; prova < 200; ++prova) {
-        dati.metodoKs = 3;
+        dati.metodoKs = valore(MetodoKs::costante);
         dati.metodoSpinte = 1 + static_cast<double>(caso() % 3);
         for (int j = 1; j <= 2; ++j) {
             dati.phiStrato[j] = 5 + 40 * uno(caso);

@@ -6,12 +6,18 @@
 #include <memory>
 
 #include "analysis/pressure_coefficients.hpp"
+#include "project/codes.hpp"
 #include "support/wall_builder.hpp"
 
 namespace korven::analysis {
 namespace {
 
 using project::DatiProgetto;
+using project::MetodoKs;
+using project::MetodoSpinte;
+using project::ModoKs;
+using project::ModoSpinte;
+using project::ModoTensioni;
 
 // A wall of 12 m, nodes every 0.5 m, layers to 4 and 10 m, excavation at 3 m, water at 2 and 5 m.
 class CalcolaSuolo : public testing::Test {
@@ -126,7 +132,7 @@ TEST_F(CalcolaSuolo, GivesNodesBelowTheSoilColumnTheLastLayer) {
 }
 
 TEST_F(CalcolaSuolo, LetsTheCoefficientsActOnTotalStressAndAddsTheWaterAllTheSame) {
-    dati.modoTensioni = 2;
+    dati.modoTensioni = valore(ModoTensioni::totali);
     calcola();
     EXPECT_DOUBLE_EQ(s.sigmaVm[nodo(6)], 12.6);
     EXPECT_DOUBLE_EQ(s.sigmaVv[nodo(6)], 6.0);
@@ -152,7 +158,7 @@ TEST_F(CalcolaSuolo, CountsDownhillPoresFromTheExcavationButTheHeadFromTheWater)
 }
 
 TEST_F(CalcolaSuolo, TakesTheUphillStressDownhillFromTheExcavationOnly) {
-    dati.modoSpinte = 2;
+    dati.modoSpinte = valore(ModoSpinte::comeMonte);
     calcola();
     for (int i = 1; i <= nNodi; ++i) EXPECT_EQ(s.sigmaVv[i], i < nodo(3) ? 0 : s.sigmaVm[i]) << i;
     EXPECT_DOUBLE_EQ(s.sigmaVv[nodo(3)], 1 + 1.7 * 2 + 2 * 1 - 1);
@@ -182,7 +188,7 @@ TEST_F(CalcolaSuolo, LeavesTheCoefficientsZeroWithoutAMethod) {
 }
 
 TEST_F(CalcolaSuolo, KnowsNoCohesionWithBell) {
-    dati.metodoSpinte = 3;
+    dati.metodoSpinte = valore(MetodoSpinte::bell);
     calcola();
     const int i = nodo(6);
     EXPECT_EQ(s.limitiM[i].attiva, s.sigmaVm[i] * s.kam[i]);
@@ -190,8 +196,8 @@ TEST_F(CalcolaSuolo, KnowsNoCohesionWithBell) {
 }
 
 TEST_F(CalcolaSuolo, TakesTheModulusDownhillFromTheOtherSide) {
-    dati.modoKs = 2;
-    dati.metodoKs = 2;
+    dati.modoKs = valore(ModoKs::comeMonte);
+    dati.metodoKs = valore(MetodoKs::lancellotta);
     dati.coeffM = 500;
     calcola();
     for (int i = 1; i <= nNodi; ++i) EXPECT_EQ(s.Ehv[i], i < nodo(3) ? 0 : s.Ehm[i]) << i;
@@ -199,7 +205,7 @@ TEST_F(CalcolaSuolo, TakesTheModulusDownhillFromTheOtherSide) {
 }
 
 TEST_F(CalcolaSuolo, FeelsTheReducedOverburdenInTheModulusOfLancellotta) {
-    dati.metodoKs = 2;
+    dati.metodoKs = valore(MetodoKs::lancellotta);
     dati.coeffM = 500;
     calcola();
     const double k0 = 1 - std::sin(rad(35));
@@ -209,7 +215,7 @@ TEST_F(CalcolaSuolo, FeelsTheReducedOverburdenInTheModulusOfLancellotta) {
 
 // A zero modulus is no error here: it makes nodes without a spring.
 TEST_F(CalcolaSuolo, HasNoSpringsWithLancellottasCoefficientAtZero) {
-    dati.metodoKs = 2;
+    dati.metodoKs = valore(MetodoKs::lancellotta);
     calcola();
     for (int i = 1; i <= nNodi; ++i) {
         EXPECT_EQ(s.Ehm[i], 0) << i;

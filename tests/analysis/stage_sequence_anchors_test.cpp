@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "analysis/stage_sequence.hpp"
+#include "project/codes.hpp"
 #include "support/progress_double.hpp"
 #include "support/run_arrays_setup.hpp"
 #include "support/sample_projects.hpp"
@@ -11,6 +12,7 @@
 namespace korven::analysis {
 namespace {
 
+using project::TipoTirante;
 using test::aggiungiTirante;
 using test::corsaNuova;
 using test::muroElastico;
@@ -149,7 +151,7 @@ TEST_F(TirantiNelleFasi, WithoutPrestressHoldOnlyAWallThatGoesTowardsTheExcavati
 
 TEST_F(TirantiNelleFasi, OfBothSignsPushAWallThatGoesBack) {
     dati.pretTirante[1] = 0;
-    dati.tipoTirante[1] = 1;
+    dati.tipoTirante[1] = valore(TipoTirante::trazioneCompressione);
     dati.tirantiFase[1] = 1;
     dati.faldaMonte = 4;
     dati.faldaFase[1] = 1;

@@ -4,6 +4,7 @@
 
 #include <cmath>
 
+#include "project/codes.hpp"
 #include "support/progress_double.hpp"
 #include "support/run_arrays_setup.hpp"
 #include "support/sample_projects.hpp"
@@ -12,6 +13,8 @@
 namespace korven::analysis {
 namespace {
 
+using project::VincoloPiede;
+using project::VincoloTesta;
 using test::aggiungiTirante;
 using test::corsaNuova;
 using test::muroElastico;
@@ -85,11 +88,12 @@ TEST(RisolviFase, FindsAnExcavationDeeperThanTheWallSingularUnlessSomethingHolds
     EXPECT_EQ(Sequenza(dati).fase(1), EsitoFase::singolare);
 
     auto cerniere = dati;
-    cerniere.vincoloTesta = cerniere.vincoloPiede = 2;
+    cerniere.vincoloTesta = valore(VincoloTesta::cerniera);
+    cerniere.vincoloPiede = valore(VincoloPiede::cerniera);
     EXPECT_EQ(Sequenza(cerniere).fase(1), EsitoFase::convergente);
 
     auto incastro = dati;
-    incastro.vincoloPiede = 3;
+    incastro.vincoloPiede = valore(VincoloPiede::incastro);
     EXPECT_EQ(Sequenza(incastro).fase(1), EsitoFase::convergente);
 
     auto tiranti = dati;
@@ -248,7 +252,7 @@ TEST(RisolviFase, SolvesTheSameDepthTwiceWithAnotherWaterLevel) {
 // it: 2 M(n-1) - M(n-2) of the values found there.
 TEST(RisolviFase, ExtrapolatesTheMomentAtAFixedToeFromTheStageBeforeWhenOneIterationIsEnough) {
     auto dati = muroElastico(1000);
-    dati.vincoloPiede = 3;
+    dati.vincoloPiede = valore(VincoloPiede::incastro);
     dati.faldaMonte = 2;
     dati.faldaFase[1] = 6;
     const int k = ripetiFase(dati, 0);
@@ -265,7 +269,7 @@ TEST(RisolviFase, ExtrapolatesTheMomentAtAFixedToeFromTheStageBeforeWhenOneItera
 
 TEST(RisolviFase, KeepsTheUnclearedCellsOfAFixedToeFromOneStageToTheNext) {
     auto dati = muroElastico(1000);
-    dati.vincoloPiede = 3;
+    dati.vincoloPiede = valore(VincoloPiede::incastro);
     dati.forzaTesta = 5;
     ripetiFase(dati, 0);
     const int forze = 2 * 22 - 1;  // balance of forces; column 4 is a shear, never written there

@@ -8,6 +8,7 @@
 
 #include "analysis/result_file.hpp"
 #include "analysis/run_flags.hpp"
+#include "project/codes.hpp"
 #include "support/run_harness.hpp"
 #include "support/sample_projects.hpp"
 #include "support/stage_comparison.hpp"
@@ -16,6 +17,7 @@
 namespace korven::analysis {
 namespace {
 
+using project::VincoloPiede;
 using test::progettoSemplice;
 
 // Writes down the calls of a run and may act at any of them.
@@ -145,9 +147,9 @@ TEST(CalcolaFasi, HasNoStageOfAProjectWithoutStages) {
 // toe, which nobody clears between two solves.
 TEST(CalcolaFasi, HasTheSameDigitsInArraysThatAnotherRunHasUsed) {
     auto incastrato = progettoSemplice();
-    incastrato.vincoloPiede = 3;
+    incastrato.vincoloPiede = valore(VincoloPiede::incastro);
     auto singolare = incastrato;
-    singolare.vincoloPiede = 1;
+    singolare.vincoloPiede = valore(VincoloPiede::libero);
     singolare.ksStrato[1] = singolare.ksStrato[2] = 0;
     OsservatoreCorsa nessuno;
     Diario interrotto;

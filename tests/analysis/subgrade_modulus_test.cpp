@@ -6,12 +6,14 @@
 #include <random>
 
 #include "analysis/pressure_coefficients.hpp"
+#include "project/codes.hpp"
 #include "support/wall_builder.hpp"
 
 namespace korven::analysis {
 namespace {
 
 using project::DatiProgetto;
+using project::MetodoKs;
 
 double rad(double gradi) { return gradi * pi / 180; }
 
@@ -102,7 +104,7 @@ TEST_F(ModuloReazioneTest, LancellottaWithoutCoefficientGivesNoSpring) {
 }
 
 TEST_F(ModuloReazioneTest, LancellottaRefusesANegativeStress) {
-    dati.metodoKs = 2;
+    dati.metodoKs = valore(MetodoKs::lancellotta);
     dati.coeffM = 700;
     EXPECT_EQ(moduloReazione(dati, {.strato = 1, .sigmaRiposo = -0.01}).motivo,
               Indefinito::tensioneNegativa);
@@ -141,7 +143,7 @@ TEST_F(ModuloReazioneTest, LinearTakesTheOwnValueAtALayerWithoutThickness) {
 
 TEST_F(ModuloReazioneTest, LinearHasNoValueBelowALayerWithoutThickness) {
     dati.profStrato[2] = 4;
-    dati.metodoKs = 4;
+    dati.metodoKs = valore(MetodoKs::lineare);
     EXPECT_EQ(moduloReazione(dati, {.strato = 2, .z = 4.5, .fondo = 4}).motivo,
               Indefinito::spessoreNullo);
 }

@@ -7,6 +7,7 @@
 #include <cmath>
 #include <numbers>
 
+#include "project/codes.hpp"
 #include "support/run_harness.hpp"
 #include "support/sample_projects.hpp"
 #include "support/wall_builder.hpp"
@@ -14,6 +15,8 @@
 namespace korven::analysis {
 namespace {
 
+using project::VincoloPiede;
+using project::VincoloTesta;
 using test::aggiungiStrato;
 using test::aggiungiTirante;
 using test::fasiDi;
@@ -30,7 +33,8 @@ project::DatiProgetto muroSottoTriangolo() {
 
 TEST(SuoloMolle, LoadsAWallBetweenTwoHingesWithItsPressureAtRest) {
     auto d = muroSottoTriangolo();
-    d.vincoloTesta = d.vincoloPiede = 2;
+    d.vincoloTesta = valore(VincoloTesta::cerniera);
+    d.vincoloPiede = valore(VincoloPiede::cerniera);
     const auto fasi = fasiDi(d, 50);
     ASSERT_EQ(fasi.size(), 1u);
     // Simply supported beam under a triangle: M(z) = q L z / 6 - q z^3 / (6 L), at most
@@ -55,7 +59,7 @@ TEST(SuoloMolle, LeavesAnAnchoredWallOnAHingedToeToStatics) {
     for (const double rigidezza : {200.0, 5000.0})
         for (const double d0 : {1.0, 2.0, 4.0}) {
             auto d = muroSottoTriangolo();
-            d.vincoloPiede = 2;
+            d.vincoloPiede = valore(VincoloPiede::cerniera);
             aggiungiTirante(d, d0, rigidezza, 3, 0);
             d.tirantiFase[1] = 1;
             const int nSeg = 50;
@@ -79,7 +83,8 @@ TEST(SuoloMolle, LeavesAnAnchoredWallOnAHingedToeToStatics) {
 
 TEST(SuoloMolle, AddsTheWaterToThePressureAtRest) {
     auto d = muroSottoTriangolo();
-    d.vincoloTesta = d.vincoloPiede = 2;
+    d.vincoloTesta = valore(VincoloTesta::cerniera);
+    d.vincoloPiede = valore(VincoloPiede::cerniera);
     d.faldaMonte = 0;  // effective weight 1, so K0 1 z and the water 1 z on the one side
     const auto fasi = fasiDi(d, 50);
     ASSERT_EQ(fasi.size(), 1u);
@@ -91,7 +96,7 @@ TEST(SuoloMolle, AddsTheWaterToThePressureAtRest) {
 
 TEST(SuoloMolle, LeavesACantileverToItsFixedToe) {
     auto d = muroSottoTriangolo();
-    d.vincoloPiede = 3;
+    d.vincoloPiede = valore(VincoloPiede::incastro);
     d.forzaTesta = 2;
     const auto fasi = fasiDi(d, 50);
     ASSERT_EQ(fasi.size(), 1u);
@@ -112,7 +117,7 @@ TEST(MensolaIncastrata, GivesTheCantileverItsDisplacementToFirstOrderInTheStep) 
     double erroreGrosso = 0;
     for (const int N : {12, 24, 48}) {
         auto d = muroNudo();
-        d.vincoloPiede = 3;
+        d.vincoloPiede = valore(VincoloPiede::incastro);
         d.forzaTesta = H;
         const auto fasi = fasiDi(d, N);
         ASSERT_EQ(fasi.size(), 1u);
