@@ -150,7 +150,7 @@ TEST(Unita, MoveTheDecimalPointByThePlacesOfTheirFactor) {
     EXPECT_EQ(posti(unita::spostamento), 2);
 }
 
-TEST(Unita, AreShownInBracketsBehindACaption) {
+TEST(Unita, AreShownInBracketsAfterACaption) {
     EXPECT_EQ(etichetta("Momento", unita::momento), "Momento [kN m]");
     EXPECT_EQ(etichetta("Descrizione", unita::nessuna), "Descrizione");
     EXPECT_EQ(traParentesi(unita::pressione), "[kN/m²]");
