@@ -35,7 +35,8 @@ struct ChiusuraRisultati {
 /// Text of the five closing lines.
 [[nodiscard]] std::string testoChiusura(const ChiusuraRisultati& chiusura);
 
-/// Reads a result file from its head to its end.
+/// Reads a result file from its head to its end. It is here, not in `results`, which alone uses it:
+/// one table of the columns writes a stage and reads it back, so that the two can't differ.
 class LettoreRisultati {
  public:
     /// @param nNodi  nodes of the mesh that wrote the file; the file does not tell
