@@ -10,18 +10,10 @@
 
 #include "base/file_error.hpp"
 #include "base/files.hpp"
-#include "base/system_reason.hpp"
-#include "base/translated_texts.hpp"
 
 namespace korven::base {
 
 namespace {
-
-[[noreturn]] void nonScritto(const std::string& percorso, int codice) {
-    throw ErroreScrittura(
-        percorso, 0,
-        traduttore("impossibile scrivere il file") + " (" + motivoSistema(codice) + ")");
-}
 
 bool sostituisci(int file, std::string_view contenuto, const Disco& disco) {
     return disco.accorcia(file, 0) && ::lseek(file, 0, SEEK_SET) == 0 &&

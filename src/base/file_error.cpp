@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "base/system_reason.hpp"
 #include "base/translated_texts.hpp"
 
 namespace korven::base {
@@ -20,5 +21,11 @@ ErroreFile::ErroreFile(std::string percorso, long riga, std::string atteso)
       percorso_(std::move(percorso)),
       riga_(riga),
       atteso_(std::move(atteso)) {}
+
+void nonScritto(const std::string& percorso, int codice) {
+    throw ErroreScrittura(
+        percorso, 0,
+        traduttore("impossibile scrivere il file") + " (" + motivoSistema(codice) + ")");
+}
 
 }  // namespace korven::base

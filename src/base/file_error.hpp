@@ -32,4 +32,9 @@ class ErroreScrittura : public ErroreFile {
     using ErroreFile::ErroreFile;
 };
 
+/// The system refused to write a file.
+/// @param codice  its reason, as `errno` holds it
+/// @throws ErroreScrittura always
+[[noreturn]] void nonScritto(const std::string& percorso, int codice);
+
 }  // namespace korven::base

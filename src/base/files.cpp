@@ -19,16 +19,10 @@ namespace korven::base {
 
 namespace {
 
-std::string perche(std::string_view cosa, int codice) {
-    return traduttore(cosa) + " (" + motivoSistema(codice) + ")";
-}
-
 [[noreturn]] void nonLetto(const std::string& percorso, int codice) {
-    throw ErroreFile(percorso, 0, perche("impossibile leggere il file", codice));
-}
-
-[[noreturn]] void nonScritto(const std::string& percorso, int codice) {
-    throw ErroreScrittura(percorso, 0, perche("impossibile scrivere il file", codice));
+    throw ErroreFile(
+        percorso, 0,
+        traduttore("impossibile leggere il file") + " (" + motivoSistema(codice) + ")");
 }
 
 class Descrittore {

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
+
 #include "base/text_lines.hpp"
 #include "base/translated_texts.hpp"
 
@@ -18,6 +20,16 @@ TEST(ErroreFile, ReadsAsOneLineWithPathLineAndWhatWasExpected) {
 
 TEST(ErroreFile, NamesNoLineWhenTheWholeFileIsMeant) {
     EXPECT_STREQ(ErroreFile("a.txt", 0, "il file non esiste").what(), "a.txt: il file non esiste");
+}
+
+TEST(NonScritto, TellsWhatCouldNotBeWrittenAndWhyTheSystemRefused) {
+    try {
+        nonScritto("/lavori/muro.OUT", ENOSPC);
+    } catch (const ErroreScrittura& errore) {
+        EXPECT_STREQ(
+            errore.what(),
+            "/lavori/muro.OUT: impossibile scrivere il file (non c'è più spazio sul disco)");
+    }
 }
 
 // The table of the program with two texts, in German, for the length of a test.
