@@ -32,7 +32,7 @@ using project::Progetto;
 
 // One drawing of the project: the end of its files' names, and how it is made.
 struct Tavola {
-    Gemelli nome;
+    base::Gemelli nome;
     bool (*disegna)(Esito&);  // empty: a diagram
     std::optional<analysis::Diagramma> diagramma;
 };
@@ -54,9 +54,9 @@ const std::vector<Tavola>& tavole() {
         std::vector<Tavola> fatte;
         fatte.reserve(drawings::diagrammi().size() + 2);
         for (const auto& riga : drawings::diagrammi())
-            fatte.push_back({gemelli(riga.nome), nullptr, riga.diagramma});
-        fatte.push_back({gemelli(base::parolaSezione), tavolaSezione, std::nullopt});
-        fatte.push_back({gemelli(base::parolaStratigrafia), tavolaStratigrafia, std::nullopt});
+            fatte.push_back({riga.nome, nullptr, riga.diagramma});
+        fatte.push_back({base::parolaSezione, tavolaSezione, std::nullopt});
+        fatte.push_back({base::parolaStratigrafia, tavolaStratigrafia, std::nullopt});
         return fatte;
     }();
     return tutte;
@@ -88,7 +88,7 @@ FormatiDisegno formatiTavola(const Opzioni& opzioni, const Tavola& tavola) {
 FormatiRelazione formatiRelazione() {
     FormatiRelazione chiesti;
     chiesti.testo = chiesti.documento = true;
-    chiesti.pdf = nomeProprio(gemelli(base::parolaRelazione), "pdf");
+    chiesti.pdf = nomeProprio(base::parolaRelazione, "pdf");
     return chiesti;
 }
 
@@ -153,8 +153,10 @@ bool leggiFormato(Opzioni& o, const std::string& formato) {
 }  // namespace
 
 RigaComando comandoTutto() {
-    Opzione formati = {
-        {"--formati", "--formats"}, "formati dei disegni", leggiFormato, uguali("pdf,dxf,svg,png")};
+    Opzione formati = {{"--formati", "--formats"},
+                       "formati dei disegni",
+                       leggiFormato,
+                       base::uguali("pdf,dxf,svg,png")};
     formati.predefinito = "[pdf,dxf]";
     formati.ripetibile = true;
     return {{"tutto", "all"},

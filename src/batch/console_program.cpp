@@ -68,12 +68,12 @@ int programma(int argc, const char* const* argv, const base::Disco& disco) {
     base::occupaCanaliChiusi();
     base::resistiAiTubiChiusi();
     std::signal(SIGXFSZ, SIG_IGN);  // a file at its size limit is a failed write like others
-    base::impostaCartellaProgramma(valoreAnticipato(argc, argv, nomeOpzioneCartella()));
+    base::impostaCartellaProgramma(valoreAnticipato(argc, argv, nomeOpzioneCartella));
     // Wrong usage goes before a language that can't be had, which JSON must be able to tell.
     std::exception_ptr senzaLingua;
     try {
         commands::scegliCartellaProgramma(disco);
-        scegliLingua(valoreAnticipato(argc, argv, nomeOpzioneLingua()));
+        scegliLingua(valoreAnticipato(argc, argv, nomeOpzioneLingua));
     } catch (const std::exception&) {
         senzaLingua = std::current_exception();
     }

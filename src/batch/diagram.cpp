@@ -33,7 +33,7 @@ const std::vector<drawings::RigaDiagramma>& inOrdine() {
         const auto tutte = drawings::diagrammi();
         std::vector righe(tutte.begin(), tutte.end());
         std::sort(righe.begin(), righe.end(), [](const auto& una, const auto& altra) {
-            return una.nome.italiana < altra.nome.italiana;
+            return una.nome.italiano < altra.nome.italiano;
         });
         return righe;
     }();
@@ -44,7 +44,7 @@ Opzione tipo() {
     Opzione riga = {{"--tipo", "--type"},
                     "grandezza del diagramma",
                     [](Opzioni& o, std::size_t quale) { o.tipo = inOrdine()[quale].diagramma; }};
-    for (const auto& diagramma : inOrdine()) riga.valori.push_back(gemelli(diagramma.nome));
+    for (const auto& diagramma : inOrdine()) riga.valori.push_back(diagramma.nome);
     riga.obbligatoria = true;
     return riga;
 }
@@ -55,7 +55,7 @@ RigaComando comandoDiagramma() {
     const Opzione fase = {{"--fase", "--stage"},
                           "fase da disegnare; 0 per tutte",
                           Conta{0, project::massimoFasi, [](Opzioni& o) -> int& { return o.fase; }},
-                          uguali("N")};
+                          base::uguali("N")};
     RigaComando riga = {{"diagramma", "diagram"},
                         "esegue il calcolo e disegna un diagramma",
                         insieme({opzioniCalcolo(), {tipo(), fase}, opzioniDisegno()}),

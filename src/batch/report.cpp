@@ -14,6 +14,8 @@ namespace korven::batch {
 
 namespace {
 
+using base::uguali;
+
 int esegui(const Opzioni& opzioni, const PorteComando& porte, Esito& esito) {
     return calcolaConRilievi(opzioni, esito, [&]() -> int {
         avvisaPosto();

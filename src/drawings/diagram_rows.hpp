@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "analysis/diagrams.hpp"
-#include "base/folders/file_names.hpp"
+#include "base/twin_names.hpp"
 #include "project/units.hpp"
 #include "results/report_data.hpp"
 
@@ -15,7 +15,7 @@ class FaseDisegnata;
 /// What the diagrams differ by.
 struct RigaDiagramma {
     analysis::Diagramma diagramma;
-    base::ParolaFile nome;    ///< on the command line too
+    base::Gemelli nome;       ///< in names of files and on the command line
     project::Unita unita;     ///< of the values as the axis divides them, and of its numbers
     std::string_view titolo;  ///< over the drawing, an Italian key
     double verso;             ///< -1 where values grow to the left

@@ -29,7 +29,7 @@ void disegnaDiagramma(analysis::Diagramma diagramma, const results::DatiRelazion
     controllaDisegnabile(vDati, lunghezza);
     const QuadroDiagramma quadro(riga, asseValori(vDati), lunghezza);
     plot::apriFoglio(dati.progetto.titoli, base::traduttore(riga.titolo));
-    plot::statoPlot.nome = riga.nome.italiana;
+    plot::statoPlot.nome = riga.nome.italiano;
     quadro.disegna();
     for (int s = 1; s <= dati.progetto.nFasi; ++s) {
         const FaseDisegnata fase(dati, s, quadro);

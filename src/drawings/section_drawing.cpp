@@ -71,7 +71,7 @@ void vista(const Sezione& sezione) {
 
 void disegnaSezione(const project::DatiProgetto& dati) {
     plot::apriFoglio(dati.titoli, traduttore("SEZIONE ELEMENTO STRUTTURALE"));
-    plot::statoPlot.nome = base::parolaSezione.italiana;
+    plot::statoPlot.nome = base::parolaSezione.italiano;
     nomiDeiLati();
     plot::plotPenna(4);
     riquadroMateriali(dati.sezione);

@@ -260,7 +260,7 @@ TEST(RigaDiagramma, IsThereOnceForEachDiagramInTheOrderOfTheirNumbers) {
         EXPECT_EQ(static_cast<int>(riga.diagramma), ++numero);
         EXPECT_EQ(&rigaDiagramma(riga.diagramma), &riga);
     }
-    EXPECT_EQ(rigaDiagramma(Diagramma::taglio).nome.italiana, "taglio");
+    EXPECT_EQ(rigaDiagramma(Diagramma::taglio).nome.italiano, "taglio");
     EXPECT_EQ(rigaDiagramma(Diagramma::taglio).nome.inglese, "shear");
 }
 
@@ -268,7 +268,7 @@ TEST(RigaDiagramma, IsThereOnceForEachDiagramInTheOrderOfTheirNumbers) {
 TEST(RigaDiagramma, ShowsTheNumbersOfItsAxisByTheFactorOfItsUnit) {
     for (const RigaDiagramma& riga : diagrammi())
         EXPECT_EQ(riga.unita.fattore, riga.diagramma == Diagramma::spostamenti ? 1 : 10)
-            << riga.nome.italiana;
+            << riga.nome.italiano;
 }
 
 TEST(ValoreDiScala, OfPressuresIsThePassivePressureAtTheToeInTheLastStage) {

@@ -36,7 +36,7 @@ std::string nomeUscita(std::string_view progetto, std::string_view nome,
 }
 
 std::string nomePdfRelazione(std::string_view progetto) {
-    return nomeUscita(progetto, parolaRelazione.italiana, "pdf");
+    return nomeUscita(progetto, parolaRelazione.italiano, "pdf");
 }
 
 }  // namespace korven::base

@@ -3,6 +3,8 @@
 #include <string>
 #include <string_view>
 
+#include "base/twin_names.hpp"
+
 // The names of the files that belong to a project. Paths are UTF-8; rules that count characters
 // count characters, not bytes.
 
@@ -29,15 +31,11 @@ namespace korven::base {
 [[nodiscard]] std::string nomeUscita(std::string_view progetto, std::string_view nome,
                                      std::string_view estensione);
 
-/// A word by which a made file is told from the others of its project: the Italian one, which the
-/// desktop takes in every language, and the one of the command line in all other languages.
-struct ParolaFile {
-    std::string_view italiana, inglese;
-};
-
-inline constexpr ParolaFile parolaRelazione{"relazione", "report"};
-inline constexpr ParolaFile parolaSezione{"sezione", "section"};
-inline constexpr ParolaFile parolaStratigrafia{"stratigrafia", "log"};
+// Words by which a made file is told from the others of its project. The command line takes the one
+// that belongs to its language, the desktop the Italian one in every language.
+inline constexpr Gemelli parolaRelazione{"relazione", "report"};
+inline constexpr Gemelli parolaSezione{"sezione", "section"};
+inline constexpr Gemelli parolaStratigrafia{"stratigrafia", "log"};
 
 /// Path of the PDF file of a project's report: "DIR/muro-relazione.pdf".
 [[nodiscard]] std::string nomePdfRelazione(std::string_view progetto);

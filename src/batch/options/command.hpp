@@ -13,7 +13,7 @@ struct PorteComando;
 /// A command of korven32c as a row: what it is called, what the help says of it, the options it
 /// takes, what it does.
 struct RigaComando {
-    Gemelli nome;
+    base::Gemelli nome;
     std::string spiegazione;  ///< for the help, the key of a text
     std::vector<Opzione> opzioni;
 

@@ -78,7 +78,7 @@ void intestazioni(CLI::App& app) {
     app.option_defaults()->group(traduttore("Opzioni"));
 }
 
-std::string nomi(const Gemelli& nome) {
+std::string nomi(const base::Gemelli& nome) {
     const auto& [uno, altro] = std::pair(nome.mostrato(), nome.taciuto());
     return uno == altro ? uno : uno + "," + altro;
 }
@@ -219,7 +219,7 @@ EsitoLettura leggiOpzioni(int argc, const char* const* argv,
     return Lettura(opzioni, comandi).leggi(argc, argv);
 }
 
-std::string valoreAnticipato(int argc, const char* const* argv, const Gemelli& nome) {
+std::string valoreAnticipato(int argc, const char* const* argv, const base::Gemelli& nome) {
     for (int i = 1; i < argc; ++i) {
         const std::string argomento = argv[i];
         if (argomento == "--") return {};  // after it there are no options

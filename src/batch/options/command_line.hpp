@@ -22,6 +22,7 @@ struct EsitoLettura {
 
 /// Value of an option that is needed before the others can be told in the right language; empty if
 /// it is not given.
-[[nodiscard]] std::string valoreAnticipato(int argc, const char* const* argv, const Gemelli& nome);
+[[nodiscard]] std::string valoreAnticipato(int argc, const char* const* argv,
+                                           const base::Gemelli& nome);
 
 }  // namespace korven::batch

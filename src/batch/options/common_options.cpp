@@ -12,7 +12,9 @@ namespace korven::batch {
 
 namespace {
 
-const Gemelli cartella = uguali("DIR"), file = uguali("FILE"), numero = uguali("N");
+using base::uguali;
+
+constexpr base::Gemelli cartella = uguali("DIR"), file = uguali("FILE"), numero = uguali("N");
 
 bool esisteCartella(const std::string& percorso) {
     std::error_code errore;
@@ -47,26 +49,12 @@ bool leggiFile(Opzioni& o, const std::string& valore) {
 
 }  // namespace
 
-const Gemelli& nomeOpzioneCartella() {
-    static const Gemelli nome{"--cartella", "--folder"};
-    return nome;
-}
-
-const Gemelli& nomeOpzioneLingua() {
-    static const Gemelli nome{"--lingua", "--language"};
-    return nome;
-}
-
-Gemelli gemelli(const base::ParolaFile& parola) {
-    return {std::string(parola.italiana), std::string(parola.inglese)};
-}
-
 std::vector<Opzione> opzioniComuni() {
     return {
-        {nomeOpzioneCartella(), "cartella del programma",
+        {nomeOpzioneCartella, "cartella del programma",
          // taken before all others, by its name; here it is only looked at
          [](Opzioni&, const std::string& valore) { return esisteCartella(valore); }, cartella},
-        {nomeOpzioneLingua(),
+        {nomeOpzioneLingua,
          "lingua dei testi",
          [](Opzioni&, std::size_t) {},  // likewise
          {},

@@ -2,7 +2,6 @@
 
 #include <vector>
 
-#include "base/folders/file_names.hpp"
 #include "batch/options/option.hpp"
 
 // The options that several commands take, in groups. The order is that of the help.
@@ -10,11 +9,8 @@
 namespace korven::batch {
 
 /// Names of the two options that are looked up before the others can be read.
-[[nodiscard]] const Gemelli& nomeOpzioneCartella();
-[[nodiscard]] const Gemelli& nomeOpzioneLingua();
-
-/// A word in names of made files, as an option takes it too.
-[[nodiscard]] Gemelli gemelli(const base::ParolaFile& parola);
+inline constexpr base::Gemelli nomeOpzioneCartella{"--cartella", "--folder"};
+inline constexpr base::Gemelli nomeOpzioneLingua{"--lingua", "--language"};
 
 /// Every command.
 [[nodiscard]] std::vector<Opzione> opzioniComuni();

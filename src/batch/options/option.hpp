@@ -5,8 +5,8 @@
 #include <variant>
 #include <vector>
 
+#include "base/twin_names.hpp"
 #include "batch/options/options.hpp"
-#include "batch/options/twin_names.hpp"
 
 namespace korven::batch {
 
@@ -25,13 +25,13 @@ struct Conta {
 /// An option of a command, or an argument by its place, as a row: what it is called, what the help
 /// says of it and where what is typed goes.
 struct Opzione {
-    Gemelli nome;             ///< "--uscita"; an argument by its place has no dashes
+    base::Gemelli nome;       ///< "--uscita"; an argument by its place has no dashes
     std::string spiegazione;  ///< for the help, the key of a text
     std::variant<Segna, Scegli, Leggi, Conta> azione;
-    Gemelli valore = {};               ///< word for its value in the help: "DIR"
-    std::vector<Gemelli> valori = {};  ///< all the values that it may have, of `Scegli`
-    std::string predefinito = {};      ///< value without the option, for the help
-    std::string coda = {};             ///< after the explanation in the help, in every language
+    base::Gemelli valore = {};               ///< word for its value in the help: "DIR"
+    std::vector<base::Gemelli> valori = {};  ///< all the values that it may have, of `Scegli`
+    std::string predefinito = {};            ///< value without the option, for the help
+    std::string coda = {};  ///< after the explanation in the help, in every language
     bool obbligatoria = false;
     bool ripetibile = false;  ///< takes several values, parted by commas too
 

@@ -2,18 +2,29 @@
 
 namespace korven::batch {
 
+namespace {
+
+struct FoglioNeiDueVersi {
+    base::Gemelli inPiedi, coricato;
+    plot::Foglio foglio;  // upright
+};
+
+constexpr FoglioNeiDueVersi righe[] = {
+    {base::uguali("A3"), {"A3-orizzontale", "A3-landscape"}, {29.7, 42.0}},
+    {base::uguali("A4"), {"A4-orizzontale", "A4-landscape"}, {21.0, 29.7}},
+    {base::uguali("A5"), {"A5-orizzontale", "A5-landscape"}, {14.8, 21.0}},
+    {base::uguali("Legal"), {"Legal-orizzontale", "Legal-landscape"}, {21.59, 35.56}},
+    {base::uguali("Letter"), {"Letter-orizzontale", "Letter-landscape"}, {21.59, 27.94}},
+};
+
+}  // namespace
+
 const std::vector<FoglioConNome>& fogli() {
     static const auto tutti = [] {
-        const FoglioConNome verticali[] = {
-            {uguali("A3"), {29.7, 42.0}},       {uguali("A4"), {21.0, 29.7}},
-            {uguali("A5"), {14.8, 21.0}},       {uguali("Legal"), {21.59, 35.56}},
-            {uguali("Letter"), {21.59, 27.94}},
-        };
         std::vector<FoglioConNome> fatti;
-        for (const auto& [nome, foglio] : verticali) {
-            fatti.push_back({nome, foglio});
-            fatti.push_back({{nome.italiano + "-orizzontale", nome.inglese + "-landscape"},
-                             {foglio.altezza, foglio.larghezza}});
+        for (const auto& [inPiedi, coricato, foglio] : righe) {
+            fatti.push_back({inPiedi, foglio});
+            fatti.push_back({coricato, {foglio.altezza, foglio.larghezza}});
         }
         return fatti;
     }();

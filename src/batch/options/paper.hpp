@@ -2,13 +2,13 @@
 
 #include <vector>
 
-#include "batch/options/twin_names.hpp"
+#include "base/twin_names.hpp"
 #include "plot/geometry.hpp"
 
 namespace korven::batch {
 
 struct FoglioConNome {
-    Gemelli nome;
+    base::Gemelli nome;
     plot::Foglio foglio;  ///< [cm]
 };
 

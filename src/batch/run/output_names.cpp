@@ -22,7 +22,7 @@ std::vector<std::string> fileDelProgetto() {
     return {risultati, relazione, commands::nomeTesto(relazione), base::nomeDocumento(relazione)};
 }
 
-std::string nomeProprio(const Gemelli& nome, const std::string& estensione) {
+std::string nomeProprio(const base::Gemelli& nome, const std::string& estensione) {
     return base::nomeUscita(project::fileCorrente, nome.mostrato(), estensione);
 }
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "batch/options/twin_names.hpp"
+#include "base/twin_names.hpp"
 
 namespace korven::batch {
 
@@ -20,7 +20,7 @@ class NomiInConflitto : public std::runtime_error {
 
 /// Path of a file that a command names itself, beside the results: "DIR/muro-momenti.pdf", in
 /// English "DIR/muro-moments.pdf".
-[[nodiscard]] std::string nomeProprio(const Gemelli& nome, const std::string& estensione);
+[[nodiscard]] std::string nomeProprio(const base::Gemelli& nome, const std::string& estensione);
 
 /// Refuses outputs of a command that would replace one another, or one of `altri`: by what the
 /// names will become (`base::stessoFile`), whether the files exist yet or not.

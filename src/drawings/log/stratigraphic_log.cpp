@@ -79,7 +79,7 @@ std::string_view motivoSenzaDisegno(double altezzaPagina) {
 void disegnaStratigrafia(const project::DatiProgetto& dati, double altezzaPagina) {
     const double bordo = bordoInferiore(altezzaPagina);
     plot::plotApri(0, bordo, larghezzaStratigrafia, altezzaStratigrafia);
-    plot::statoPlot.nome = base::parolaStratigrafia.italiana;
+    plot::statoPlot.nome = base::parolaStratigrafia.italiano;
     disegnaIntestazione(dati.titoli);
     disegnaTabella({dati, ScalaProfondita(dati.profStrato[dati.nStrati], bordo)});
     plot::plotMuovi(0, 0, plot::fineDisegno);

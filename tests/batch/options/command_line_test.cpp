@@ -32,7 +32,7 @@ TEST_F(LineaDiComando, HelpAndVersionEndWell) {
     EXPECT_EQ(leggi({"--version"}).uscita, versione.uscita);
     for (const auto& comando : comandi())
         for (const char* opzione : {"--version", "--versione"}) {
-            const auto dopo = leggi({comando.nome.italiano, opzione});
+            const auto dopo = leggi({std::string(comando.nome.italiano), opzione});
             EXPECT_EQ(dopo.esito.codice, 0);
             EXPECT_EQ(dopo.uscita, versione.uscita);
         }

@@ -2,6 +2,7 @@
 // language in use is shown.
 
 #include <algorithm>
+#include <functional>
 #include <map>
 #include <set>
 #include <tuple>
@@ -16,24 +17,26 @@ namespace {
 using test::InLingua;
 using test::leggi;
 
+using base::Gemelli;
 using Coppia = std::pair<std::string, std::string>;
+using Nome = std::string_view Gemelli::*;
 
-// A value that the option takes, in both languages.
-Gemelli valoreDi(const Opzione& opzione) {
+// A value that the option takes, by the name in one of the languages if it has any.
+std::string valoreDi(const Opzione& opzione, Nome nome) {
     static const test::CartellaProvvisoria cartella;
-    if (!opzione.valori.empty()) return opzione.valori.back();
-    if (opzione.nome.italiano == nomeOpzioneCartella().italiano) return uguali(cartella.percorso());
-    if (opzione.nome.italiano == "--formati") return uguali("svg");
-    return uguali(opzione.valore.italiano == "N" ? "20" : "nome");
+    if (!opzione.valori.empty()) return std::string(opzione.valori.back().*nome);
+    if (opzione.nome.italiano == nomeOpzioneCartella.italiano) return cartella.percorso();
+    if (opzione.nome.italiano == "--formati") return "svg";
+    return opzione.valore.italiano == "N" ? "20" : "nome";
 }
 
 // The command with all its options, named by `nome`.
-std::vector<std::string> interoComando(const RigaComando& riga, std::string Gemelli::*nome) {
-    std::vector<std::string> argomenti = {riga.nome.*nome};
+std::vector<std::string> interoComando(const RigaComando& riga, Nome nome) {
+    std::vector<std::string> argomenti = {std::string(riga.nome.*nome)};
     for (const auto& opzione : riga.opzioni) {
-        if (!opzione.perPosto()) argomenti.push_back(opzione.nome.*nome);
+        if (!opzione.perPosto()) argomenti.emplace_back(opzione.nome.*nome);
         if (!std::holds_alternative<Segna>(opzione.azione))
-            argomenti.push_back(valoreDi(opzione).*nome);
+            argomenti.push_back(valoreDi(opzione, nome));
     }
     return argomenti;
 }
@@ -47,8 +50,8 @@ auto tutte(const Opzioni& o) {
 }
 
 // Words of a help: names are parted by blanks, commas, bars and brackets.
-std::set<std::string> parole(const std::string& testo) {
-    std::set<std::string> trovate;
+std::set<std::string, std::less<>> parole(const std::string& testo) {
+    std::set<std::string, std::less<>> trovate;
     for (std::size_t da = 0;
          (da = testo.find_first_not_of(" \n,|[]():=", da)) != std::string::npos;) {
         const auto fine = std::min(testo.find_first_of(" \n,|[]():=", da), testo.size());
@@ -112,8 +115,8 @@ TEST(Nomi, ThatTheHelpShowsAreThoseOfTheLanguageInUseAndNoOthers) {
         const auto generale = parole(leggi({"--help"}).uscita);
         for (const auto& riga : comandi()) {
             EXPECT_TRUE(generale.contains(riga.nome.mostrato())) << sigla;
-            const auto aiuto = parole(leggi({riga.nome.italiano, "--aiuto"}).uscita);
-            EXPECT_EQ(parole(leggi({riga.nome.inglese, "--help"}).uscita), aiuto);
+            const auto aiuto = parole(leggi({std::string(riga.nome.italiano), "--aiuto"}).uscita);
+            EXPECT_EQ(parole(leggi({std::string(riga.nome.inglese), "--help"}).uscita), aiuto);
             EXPECT_EQ(aiuto.contains("--aiuto"), italiano);
             EXPECT_TRUE(aiuto.contains("--help"));
             for (const auto& opzione : riga.opzioni) {
