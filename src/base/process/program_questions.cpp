@@ -13,32 +13,23 @@ namespace korven::base {
 
 namespace {
 
-// A question with its names on the command line.
-struct Domanda {
-    Richiesta richiesta;
-    std::string_view breve, inglese, italiano;
-    std::string_view spiegazione;  // Italian key
-};
-
-constexpr Domanda domande[] = {
-    {Richiesta::aiuto, "-h", "--help", "--aiuto", "mostra questo aiuto"},
-    {Richiesta::versione, {}, "--version", "--versione", "mostra la versione"}};
-
-// As the help of korven32c shows them: the Italian name in Italian alone.
 std::string nomi(const Domanda& domanda) {
-    std::string tutti(domanda.breve);
-    if (!tutti.empty()) tutti += ", ";
-    tutti += domanda.inglese;
-    if (linguaCorrente() == colonnaItaliano) tutti.append(", ").append(domanda.italiano);
+    std::string tutti;
+    for (const auto nome : {domanda.breve, domanda.nome.inglese, domanda.nome.italiano})
+        if (!nome.empty() && nome != domanda.taciuto())
+            tutti.append(tutti.empty() ? "" : ", ").append(nome);
     return tutti;
 }
 
 }  // namespace
 
+std::string_view Domanda::taciuto() const {
+    return nome.mostrato() == nome.italiano ? std::string_view{} : nome.italiano;
+}
+
 Richiesta richiesta(std::string_view argomento) {
-    for (const auto& [richiesta, breve, inglese, italiano, spiegazione] : domande)
-        if (argomento == inglese || argomento == italiano || (!breve.empty() && argomento == breve))
-            return richiesta;
+    for (const auto& [richiesta, breve, nome, spiegazione] : domande)
+        if (nome.comprende(argomento) || (!breve.empty() && argomento == breve)) return richiesta;
     return Richiesta::nessuna;
 }
 

@@ -1,7 +1,10 @@
 #pragma once
 
+#include <array>
 #include <string>
 #include <string_view>
+
+#include "base/twin_names.hpp"
 
 // What every program of the house answers before it does any work.
 
@@ -9,8 +12,25 @@ namespace korven::base {
 
 enum class Richiesta { nessuna, versione, aiuto };
 
-/// What an argument of the command line asks for: "--version" and "--help", their Italian twins
-/// "--versione" and "--aiuto", and "-h".
+/// A question with its names on the command line.
+struct Domanda {
+    Richiesta richiesta;
+    std::string_view breve;  ///< "-h"; empty for none
+    Gemelli nome;
+    std::string_view spiegazione;  ///< for the help, the key of a text
+
+    /// The name that the help leaves out: the Italian one. In Italian it shows both, and this is
+    /// empty.
+    [[nodiscard]] std::string_view taciuto() const;
+};
+
+/// In the order of the help.
+inline constexpr std::array<Domanda, 2> domande = {{
+    {Richiesta::aiuto, "-h", {"--aiuto", "--help"}, "mostra questo aiuto"},
+    {Richiesta::versione, {}, {"--versione", "--version"}, "mostra la versione"},
+}};
+
+/// What an argument of the command line asks for, by any name of a question.
 [[nodiscard]] Richiesta richiesta(std::string_view argomento);
 
 /// The help of a program that has no options of its own: name and version, `uso` as the way it is

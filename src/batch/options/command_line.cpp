@@ -6,6 +6,7 @@
 #include <memory>
 #include <utility>
 
+#include "base/process/program_questions.hpp"
 #include "base/translated_texts.hpp"
 #include "base/version.hpp"
 #include "batch/options/wrong_usage.hpp"
@@ -18,8 +19,6 @@ namespace korven::batch {
 namespace {
 
 using base::traduttore;
-
-const Gemelli aiuto{"--aiuto", "--help"}, versione{"--versione", "--version"};
 
 // Shows, of two names, the one of the language in use.
 class Aiuto : public CLI::Formatter {
@@ -78,9 +77,16 @@ void intestazioni(CLI::App& app) {
     app.option_defaults()->group(traduttore("Opzioni"));
 }
 
+// As the library takes them: all of them, parted by commas.
 std::string nomi(const base::Gemelli& nome) {
     const auto& [uno, altro] = std::pair(nome.mostrato(), nome.taciuto());
     return uno == altro ? uno : uno + "," + altro;
+}
+
+std::string nomi(const base::Domanda& domanda) {
+    std::string tutti(domanda.breve);
+    if (!tutti.empty()) tutti += ',';
+    return tutti.append(domanda.nome.inglese).append(",").append(domanda.nome.italiano);
 }
 
 Lettura::Lettura(Opzioni& opzioni, const std::vector<RigaComando>& comandi)
@@ -91,9 +97,6 @@ Lettura::Lettura(Opzioni& opzioni, const std::vector<RigaComando>& comandi)
     intestazioni(app_);
     domande(app_);
     app_.require_subcommand(1);
-    // In Italian the help shows both names of what every program is asked.
-    if (aiuto.mostrato() == aiuto.inglese)
-        for (const auto& nome : {aiuto, versione}) formato_->tace(nome.taciuto());
     for (const auto& riga : comandi_) {
         auto* comando = app_.add_subcommand(riga.nome.mostrato(), traduttore(riga.spiegazione));
         if (riga.nome.mostrato() != riga.nome.taciuto()) comando->alias(riga.nome.taciuto());
@@ -109,10 +112,14 @@ Lettura::Lettura(Opzioni& opzioni, const std::vector<RigaComando>& comandi)
 }
 
 void Lettura::domande(CLI::App& app) {
-    app.set_help_flag("-h," + aiuto.inglese + "," + aiuto.italiano,
-                      traduttore("mostra questo aiuto"));
-    app.set_version_flag(versione.inglese + "," + versione.italiano,
-                         std::string(base::nomeEVersione), traduttore("mostra la versione"));
+    for (const auto& domanda : base::domande) {
+        const std::string spiegazione = traduttore(domanda.spiegazione);
+        if (domanda.richiesta == base::Richiesta::versione)
+            app.set_version_flag(nomi(domanda), std::string(base::nomeEVersione), spiegazione);
+        else
+            app.set_help_flag(nomi(domanda), spiegazione);
+        formato_->tace(std::string(domanda.taciuto()));
+    }
 }
 
 void Lettura::aggiungi(CLI::App& comando, const Opzione& riga) {

@@ -17,6 +17,15 @@ TEST(RichiestaProgramma, IsAskedInEnglishAndInItalian) {
         EXPECT_EQ(richiesta(altro), Richiesta::nessuna) << altro;
 }
 
+TEST(Domanda, LeavesNoNameOutInItalianAndTheItalianOneInEveryOtherLanguage) {
+    for (const auto& domanda : domande) {
+        EXPECT_EQ(domanda.taciuto(), "");
+        impostaLingua(5);
+        EXPECT_EQ(domanda.taciuto(), domanda.nome.italiano);
+        impostaLingua(1);
+    }
+}
+
 TEST(TestoAiuto, SaysHowTheProgramIsCalledAndWhatItAnswers) {
     EXPECT_EQ(testoAiuto("prova FILE"), "KORVEN 32 " + std::string(versione) +
                                             " - Dimensionamento di Paratie e Diaframmi\n"
