@@ -30,6 +30,9 @@ inline constexpr std::array<Domanda, 2> domande = {{
     {Richiesta::versione, {}, {"--versione", "--version"}, "mostra la versione"},
 }};
 
+/// What the helps call the project that a program is given.
+inline constexpr Gemelli argomentoProgetto{"PROGETTO.kvd", "PROJECT.kvd"};
+
 /// What an argument of the command line asks for, by any name of a question.
 [[nodiscard]] Richiesta richiesta(std::string_view argomento);
 

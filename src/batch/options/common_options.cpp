@@ -5,6 +5,7 @@
 #include <string>
 
 #include "base/number_text.hpp"
+#include "base/process/program_questions.hpp"
 #include "device/drawing_files.hpp"
 #include "project/codes.hpp"
 
@@ -76,7 +77,7 @@ std::vector<Opzione> opzioniProgetto() {
                             o.progetto = valore;
                             return !valore.empty();
                         },
-                        {"PROGETTO.kvd", "PROJECT.kvd"}};
+                        base::argomentoProgetto};
     progetto.obbligatoria = true;
     return insieme({{progetto}, opzioniComuni()});
 }

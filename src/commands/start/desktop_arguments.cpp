@@ -69,7 +69,7 @@ int rispondi(const ArgomentiDesktop& argomenti) {
     if (argomenti.richiesta == base::Richiesta::versione)
         std::cout << base::nomeEVersione << '\n';
     else
-        std::cout << base::testoAiuto("korven32 [PROGETTO.kvd]");
+        std::cout << base::testoAiuto("korven32 [" + base::argomentoProgetto.mostrato() + "]");
     std::cout << std::flush;
     return std::cout ? fatto : uscitaRotta;
 }

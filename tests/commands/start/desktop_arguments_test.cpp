@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "base/translated_texts.hpp"
+
 namespace korven::commands {
 namespace {
 
@@ -56,6 +58,21 @@ TEST(Rispondi, GoesOnWhereNothingIsAskedAndEndsWithTwoOnAWrongOption) {
     testing::internal::CaptureStdout();
     EXPECT_EQ(rispondi({Richiesta::versione, ""}), 0);
     EXPECT_TRUE(testing::internal::GetCapturedStdout().starts_with("KORVEN 32 "));
+}
+
+std::string aiuto() {
+    testing::internal::CaptureStdout();
+    EXPECT_EQ(rispondi({Richiesta::aiuto, ""}), 0);
+    return testing::internal::GetCapturedStdout();
+}
+
+TEST(Rispondi, NamesTheProjectInTheHelpAsTheLanguageDoes) {
+    EXPECT_NE(aiuto().find("Uso: korven32 [PROGETTO.kvd]\n"), std::string::npos);
+    for (int lingua = 2; lingua <= 6; ++lingua) {
+        base::impostaLingua(lingua);
+        EXPECT_NE(aiuto().find(": korven32 [PROJECT.kvd]\n"), std::string::npos) << lingua;
+    }
+    base::impostaLingua(1);
 }
 
 }  // namespace
