@@ -32,12 +32,15 @@ namespace korven::base {
                                      std::string_view estensione);
 
 // Words by which a made file is told from the others of its project. The command line takes the one
-// that belongs to its language, the desktop the Italian one in every language.
+// that belongs to its language. The desktop, whose names are as fixed as its screens, takes the
+// Italian one in every language: a name that an office has agreed on must not change with the
+// language of the one who prints.
 inline constexpr Gemelli parolaRelazione{"relazione", "report"};
 inline constexpr Gemelli parolaSezione{"sezione", "section"};
 inline constexpr Gemelli parolaStratigrafia{"stratigrafia", "log"};
 
-/// Path of the PDF file of a project's report: "DIR/muro-relazione.pdf".
+/// Path of the PDF file that the desktop proposes for a project's report, in every language:
+/// "DIR/muro-relazione.pdf".
 [[nodiscard]] std::string nomePdfRelazione(std::string_view progetto);
 
 }  // namespace korven::base

@@ -12,8 +12,9 @@ namespace korven::shell {
 
 namespace {
 
-// As the command line names the drawings of a project in Italian: the name that a drawing bears is
-// the same in every language. Where it bears none, that of the DXF file with another extension.
+// By the name that the drawing bears, which is the Italian one in every language: what an office
+// calls a drawing must not change with the language of the one who prints it. Where it bears none,
+// as the DXF file with another extension.
 std::string nomeDisegno(std::string_view estensione) {
     const std::string& nome = plot::statoPlot.nome;
     if (!nome.empty() && !project::fileCorrente.empty()) {
