@@ -26,7 +26,7 @@
 #include "shell/main/informazioni.hpp"
 #include "shell/main/menu1.hpp"
 #include "shell/main/selezling.hpp"
-#include "shell/masks/mask_forms.hpp"
+#include "shell/masks/form_opening.hpp"
 #include "shell/pens/printer_setup.hpp"
 #include "shell/program_printer.hpp"
 #include "shell/qt_text.hpp"

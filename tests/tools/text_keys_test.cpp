@@ -182,7 +182,7 @@ const std::map<std::string, Texts> noTexts = {
     {"shell/masks/base1.cpp", {"base1", "Label1", "Combo1", "Labelhelp"}},
     {"shell/masks/base2_32.cpp", {"base2_32", "Label1"}},
     {"shell/masks/grid_view.cpp", {"MSFlexGrid1", "angolo"}},
-    {"shell/masks/mask_form.cpp", {"contestoGuida"}},
+    {"shell/masks/form_frame.cpp", {"contestoGuida"}},
     {"shell/dialogo_qt.cpp", {"messaggio", "annulla"}},
     {"shell/file_dialogs_qt.cpp",
      {"apri", "salva", "Korven 32 (*.[kK][vV][dD])", "lookInLabel", "lookInCombo", "fileTypeLabel",

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "batch/options/option.hpp"
+#include "batch/options/option_row.hpp"
 
 namespace korven::batch {
 

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "batch/options/option.hpp"
+#include "batch/options/option_row.hpp"
 
 // The options that several commands take, in groups. The order is that of the help.
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "analysis/calcolo_paratia.hpp"
-#include "batch/options/options.hpp"
+#include "batch/options/choices.hpp"
 #include "batch/run/command_ports.hpp"
 #include "batch/run/console.hpp"
 #include "batch/run/interruption.hpp"

@@ -2,7 +2,7 @@
 
 #include <functional>
 
-#include "batch/options/options.hpp"
+#include "batch/options/choices.hpp"
 #include "batch/run/outcome.hpp"
 
 namespace korven::batch {

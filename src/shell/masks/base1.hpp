@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "masks/field_model.hpp"
-#include "shell/masks/mask_form.hpp"
+#include "shell/masks/form_frame.hpp"
 
 class QComboBox;
 class QKeyEvent;

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "masks/grid_model.hpp"
-#include "shell/masks/mask_form.hpp"
+#include "shell/masks/form_frame.hpp"
 
 namespace korven::shell {
 

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "base/twin_names.hpp"
-#include "batch/options/options.hpp"
+#include "batch/options/choices.hpp"
 
 namespace korven::batch {
 

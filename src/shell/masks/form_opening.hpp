@@ -3,7 +3,7 @@
 #include "base/dialogo.hpp"
 #include "commands/desktop_forms.hpp"
 #include "masks/values.hpp"
-#include "shell/masks/mask_form.hpp"
+#include "shell/masks/form_frame.hpp"
 
 namespace korven::shell {
 

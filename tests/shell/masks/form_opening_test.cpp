@@ -1,6 +1,6 @@
 // The forms of the editing commands, with the masks and texts as they are delivered.
 
-#include "shell/masks/mask_forms.hpp"
+#include "shell/masks/form_opening.hpp"
 
 #include <QComboBox>
 #include <QLabel>

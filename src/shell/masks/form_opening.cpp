@@ -1,4 +1,4 @@
-#include "shell/masks/mask_forms.hpp"
+#include "shell/masks/form_opening.hpp"
 
 #include "masks/editing.hpp"
 #include "review/heading_review.hpp"

@@ -1,4 +1,4 @@
-#include "batch/options/option.hpp"
+#include "batch/options/option_row.hpp"
 
 #include <iterator>
 

@@ -1,4 +1,4 @@
-#include "shell/masks/mask_form.hpp"
+#include "shell/masks/form_frame.hpp"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
