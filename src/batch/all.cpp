@@ -153,10 +153,10 @@ bool leggiFormato(Opzioni& o, const std::string& formato) {
 }  // namespace
 
 RigaComando comandoTutto() {
-    Opzione formati = {{"--formati", "--formats"},
-                       "formati dei disegni",
-                       leggiFormato,
-                       base::uguali("pdf,dxf,svg,png")};
+    RigaOpzione formati = {{"--formati", "--formats"},
+                           "formati dei disegni",
+                           leggiFormato,
+                           base::uguali("pdf,dxf,svg,png")};
     formati.predefinito = "[pdf,dxf]";
     formati.ripetibile = true;
     return {{"tutto", "all"},

@@ -40,10 +40,11 @@ const std::vector<drawings::RigaDiagramma>& inOrdine() {
     return ordinati;
 }
 
-Opzione tipo() {
-    Opzione riga = {{"--tipo", "--type"},
-                    "grandezza del diagramma",
-                    [](Opzioni& o, std::size_t quale) { o.tipo = inOrdine()[quale].diagramma; }};
+RigaOpzione tipo() {
+    RigaOpzione riga = {
+        {"--tipo", "--type"}, "grandezza del diagramma", [](Opzioni& o, std::size_t quale) {
+            o.tipo = inOrdine()[quale].diagramma;
+        }};
     for (const auto& diagramma : inOrdine()) riga.valori.push_back(diagramma.nome);
     riga.obbligatoria = true;
     return riga;
@@ -52,10 +53,11 @@ Opzione tipo() {
 }  // namespace
 
 RigaComando comandoDiagramma() {
-    const Opzione fase = {{"--fase", "--stage"},
-                          "fase da disegnare; 0 per tutte",
-                          Conta{0, project::massimoFasi, [](Opzioni& o) -> int& { return o.fase; }},
-                          base::uguali("N")};
+    const RigaOpzione fase = {
+        {"--fase", "--stage"},
+        "fase da disegnare; 0 per tutte",
+        Conta{0, project::massimoFasi, [](Opzioni& o) -> int& { return o.fase; }},
+        base::uguali("N")};
     RigaComando riga = {{"diagramma", "diagram"},
                         "esegue il calcolo e disegna un diagramma",
                         insieme({opzioniCalcolo(), {tipo(), fase}, opzioniDisegno()}),

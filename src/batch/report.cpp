@@ -27,7 +27,7 @@ int esegui(const Opzioni& opzioni, const PorteComando& porte, Esito& esito) {
     });
 }
 
-std::vector<Opzione> formati() {
+std::vector<RigaOpzione> formati() {
     return {
         {uguali("--txt"), "scrive anche il testo semplice",
          [](Opzioni& o) { o.relazione.testo = true; }},

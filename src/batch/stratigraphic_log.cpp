@@ -27,8 +27,8 @@ int esegui(const Opzioni& opzioni, const PorteComando& porte, Esito& esito) {
     });
 }
 
-Opzione foglio() {
-    Opzione riga = {
+RigaOpzione foglio() {
+    RigaOpzione riga = {
         {"--foglio", "--paper"},
         "foglio della stampante, dalla cui altezza dipende la colonna",
         [](Opzioni& o, std::size_t quale) { o.disegno.foglio = fogli()[quale].foglio; }};

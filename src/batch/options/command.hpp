@@ -15,7 +15,7 @@ struct PorteComando;
 struct RigaComando {
     base::Gemelli nome;
     std::string spiegazione;  ///< for the help, the key of a text
-    std::vector<Opzione> opzioni;
+    std::vector<RigaOpzione> opzioni;
 
     /// Does the work and fills the outcome; progress, refusals and warnings go to standard error.
     /// @return the exit code: done, or the run was refused, found singular or stopped

@@ -54,8 +54,8 @@ class Lettura {
 
  private:
     void domande(CLI::App& app);
-    void aggiungi(CLI::App& comando, const Opzione& riga);
-    bool accetta(const Opzione& riga, const std::string& valore);
+    void aggiungi(CLI::App& comando, const RigaOpzione& riga);
+    bool accetta(const RigaOpzione& riga, const std::string& valore);
     [[nodiscard]] std::string spiegazione(const CLI::ParseError& errore) const;
     [[nodiscard]] std::string argomentiDiTroppo() const;
 
@@ -122,7 +122,7 @@ void Lettura::domande(CLI::App& app) {
     }
 }
 
-void Lettura::aggiungi(CLI::App& comando, const Opzione& riga) {
+void Lettura::aggiungi(CLI::App& comando, const RigaOpzione& riga) {
     const std::string spiegazione = traduttore(riga.spiegazione) + riga.coda;
     if (riga.nome.mostrato() != riga.nome.taciuto()) formato_->tace(riga.nome.taciuto());
     if (const auto* segna = std::get_if<Segna>(&riga.azione)) {
@@ -143,7 +143,7 @@ void Lettura::aggiungi(CLI::App& comando, const Opzione& riga) {
     opzione->required(riga.obbligatoria)->default_str(riga.predefinito);
 }
 
-bool Lettura::accetta(const Opzione& riga, const std::string& valore) {
+bool Lettura::accetta(const RigaOpzione& riga, const std::string& valore) {
     if (const auto* leggi = std::get_if<Leggi>(&riga.azione)) return (*leggi)(o_, valore);
     if (const auto* conta = std::get_if<Conta>(&riga.azione)) {
         int& numero = conta->dove(o_);

@@ -33,11 +33,11 @@ bool leggiUscita(Opzioni& o, const std::string& valore) {
     return percorsoAmmesso(valore);
 }
 
-Opzione opzioneUscita(bool obbligatoria) {
-    Opzione riga = {{"--uscita", "--output"},
-                    "scrive i risultati in questa cartella, non accanto al progetto",
-                    leggiUscita,
-                    cartella};
+RigaOpzione opzioneUscita(bool obbligatoria) {
+    RigaOpzione riga = {{"--uscita", "--output"},
+                        "scrive i risultati in questa cartella, non accanto al progetto",
+                        leggiUscita,
+                        cartella};
     riga.obbligatoria = obbligatoria;
     return riga;
 }
@@ -50,7 +50,7 @@ bool leggiFile(Opzioni& o, const std::string& valore) {
 
 }  // namespace
 
-std::vector<Opzione> opzioniComuni() {
+std::vector<RigaOpzione> opzioniComuni() {
     return {
         {nomeOpzioneCartella, "cartella del programma",
          // taken before all others, by its name; here it is only looked at
@@ -69,20 +69,20 @@ std::vector<Opzione> opzioniComuni() {
     };
 }
 
-std::vector<Opzione> opzioniProgetto() {
-    Opzione progetto = {{"progetto", "project"},
-                        "file di progetto",
-                        // A path without a character names nothing.
-                        [](Opzioni& o, const std::string& valore) {
-                            o.progetto = valore;
-                            return !valore.empty();
-                        },
-                        base::argomentoProgetto};
+std::vector<RigaOpzione> opzioniProgetto() {
+    RigaOpzione progetto = {{"progetto", "project"},
+                            "file di progetto",
+                            // A path without a character names nothing.
+                            [](Opzioni& o, const std::string& valore) {
+                                o.progetto = valore;
+                                return !valore.empty();
+                            },
+                            base::argomentoProgetto};
     progetto.obbligatoria = true;
     return insieme({{progetto}, opzioniComuni()});
 }
 
-std::vector<Opzione> opzioniModello(bool cartellaObbligatoria) {
+std::vector<RigaOpzione> opzioniModello(bool cartellaObbligatoria) {
     return insieme({opzioniProgetto(),
                     {opzioneUscita(cartellaObbligatoria),
                      {{"--metodo-spinte", "--pressures"},
@@ -100,7 +100,7 @@ std::vector<Opzione> opzioniModello(bool cartellaObbligatoria) {
                       numero}}});
 }
 
-std::vector<Opzione> opzioniCalcolo(bool cartellaObbligatoria) {
+std::vector<RigaOpzione> opzioniCalcolo(bool cartellaObbligatoria) {
     return insieme({opzioniModello(cartellaObbligatoria),
                     {{uguali("--ej"),
                       "rigidezza EJ scritta nel progetto o ricalcolata dalla sezione",
@@ -116,7 +116,7 @@ std::vector<Opzione> opzioniCalcolo(bool cartellaObbligatoria) {
                       std::to_string(Opzioni().maxIterazioni)}}});
 }
 
-std::vector<Opzione> opzioniDisegno() {
+std::vector<RigaOpzione> opzioniDisegno() {
     return {
         {uguali("--dxf"), "scrive il disegno in formato DXF", leggiFile<&FormatiDisegno::dxf>,
          file},
@@ -130,7 +130,7 @@ std::vector<Opzione> opzioniDisegno() {
     };
 }
 
-Opzione opzioneRisoluzione() {
+RigaOpzione opzioneRisoluzione() {
     return {uguali("--dpi"),
             "punti per pollice dei file PNG",
             Conta{device::risoluzioneMinima, device::risoluzioneMassima,

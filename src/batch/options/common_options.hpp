@@ -13,22 +13,22 @@ inline constexpr base::Gemelli nomeOpzioneCartella{"--cartella", "--folder"};
 inline constexpr base::Gemelli nomeOpzioneLingua{"--lingua", "--language"};
 
 /// Every command.
-[[nodiscard]] std::vector<Opzione> opzioniComuni();
+[[nodiscard]] std::vector<RigaOpzione> opzioniComuni();
 
 /// Commands that read a project.
-[[nodiscard]] std::vector<Opzione> opzioniProgetto();
+[[nodiscard]] std::vector<RigaOpzione> opzioniProgetto();
 
 /// Commands for which the analysis matters.
 /// @param cartellaObbligatoria  the folder for the results has to be named
-[[nodiscard]] std::vector<Opzione> opzioniModello(bool cartellaObbligatoria = false);
+[[nodiscard]] std::vector<RigaOpzione> opzioniModello(bool cartellaObbligatoria = false);
 
 /// Commands that run the analysis.
-[[nodiscard]] std::vector<Opzione> opzioniCalcolo(bool cartellaObbligatoria = false);
+[[nodiscard]] std::vector<RigaOpzione> opzioniCalcolo(bool cartellaObbligatoria = false);
 
 /// Commands that make one drawing: its files.
-[[nodiscard]] std::vector<Opzione> opzioniDisegno();
+[[nodiscard]] std::vector<RigaOpzione> opzioniDisegno();
 
 /// The resolution of PNG files.
-[[nodiscard]] Opzione opzioneRisoluzione();
+[[nodiscard]] RigaOpzione opzioneRisoluzione();
 
 }  // namespace korven::batch

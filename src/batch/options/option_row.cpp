@@ -4,15 +4,15 @@
 
 namespace korven::batch {
 
-std::string Opzione::valoreMostrato() const {
+std::string RigaOpzione::valoreMostrato() const {
     if (valori.empty()) return valore.mostrato();
     std::string tutti;
     for (const auto& v : valori) tutti += (tutti.empty() ? "" : "|") + v.mostrato();
     return tutti;
 }
 
-std::vector<Opzione> insieme(std::vector<std::vector<Opzione>> gruppi) {
-    std::vector<Opzione> tutte;
+std::vector<RigaOpzione> insieme(std::vector<std::vector<RigaOpzione>> gruppi) {
+    std::vector<RigaOpzione> tutte;
     for (auto& gruppo : gruppi) std::move(gruppo.begin(), gruppo.end(), std::back_inserter(tutte));
     return tutte;
 }

@@ -12,7 +12,7 @@ namespace korven::batch {
 
 /// A switch, which takes no value.
 using Segna = void (*)(Opzioni&);
-/// One of `Opzione::valori`, counted from 0.
+/// One of `RigaOpzione::valori`, counted from 0.
 using Scegli = void (*)(Opzioni&, std::size_t quale);
 /// Any other text; false refuses it as a value that is not allowed.
 using Leggi = bool (*)(Opzioni&, const std::string& valore);
@@ -24,7 +24,7 @@ struct Conta {
 
 /// An option of a command, or an argument by its place, as a row: what it is called, what the help
 /// says of it and where what is typed goes.
-struct Opzione {
+struct RigaOpzione {
     base::Gemelli nome;       ///< "--uscita"; an argument by its place has no dashes
     std::string spiegazione;  ///< for the help, the key of a text
     std::variant<Segna, Scegli, Leggi, Conta> azione;
@@ -41,7 +41,7 @@ struct Opzione {
 };
 
 /// The rows of several groups as one list.
-[[nodiscard]] std::vector<Opzione> insieme(std::vector<std::vector<Opzione>> gruppi);
+[[nodiscard]] std::vector<RigaOpzione> insieme(std::vector<std::vector<RigaOpzione>> gruppi);
 
 /// A path that an option may have for its value. A forgotten value must not make a folder "--json"
 /// of the next option.

@@ -22,7 +22,7 @@ using Coppia = std::pair<std::string, std::string>;
 using Nome = std::string_view Gemelli::*;
 
 // A value that the option takes, by the name in one of the languages if it has any.
-std::string valoreDi(const Opzione& opzione, Nome nome) {
+std::string valoreDi(const RigaOpzione& opzione, Nome nome) {
     static const test::CartellaProvvisoria cartella;
     if (!opzione.valori.empty()) return std::string(opzione.valori.back().*nome);
     if (opzione.nome.italiano == nomeOpzioneCartella.italiano) return cartella.percorso();
