@@ -27,7 +27,6 @@ using Texts = std::vector<std::string>;
 // Files whose literals are all none.
 const std::map<std::string, std::string> silentFiles = {
     {"batch/run/outcome_json.cpp", "names of fields, the same in all languages"},
-    {"safety/diagnosis.cpp", "words of the outcome, the same in all languages"},
     {"project/units.hpp", "units, the same in all languages"},
     {"base/language.cpp", "tags, and errors from before a language is chosen"},
     {"base/language.hpp", "an error from before a language is chosen"},
