@@ -21,7 +21,7 @@ UsoPassiva usoPassiva(const equilibrium::ProblemaFase& problema,
         if (ora && !prima) uso.alLimite.push_back({z, z});
         prima = ora;
     }
-    if (limite < 0) uso.quota = pressione / limite;
+    if (limite < 0 && pressione <= 0) uso.quota = pressione / limite;
     return uso;
 }
 

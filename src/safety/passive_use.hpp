@@ -11,7 +11,8 @@ namespace korven::safety {
 /// How much of what the soil in front of the wall can give is used in one stage.
 struct UsoPassiva {
     /// Sum of the pressure below the excavation over the sum of its passive limit, 0 to 1; nothing
-    /// where the limit is 0, as with an excavation below the toe.
+    /// where the limit is 0, as with an excavation below the toe, or where the soil in front pulls,
+    /// as with a negative stress.
     std::optional<double> quota;
     std::vector<equilibrium::Tratto> alLimite;  ///< where it is at the limit, from the top down
 };

@@ -45,6 +45,15 @@ TEST(UsoPassiva, IsNoneBelowTheToe) {
     EXPECT_FALSE(usoPassiva(p, fase, 5).quota);
 }
 
+TEST(UsoPassiva, IsNoneOfSoilThatPulls) {
+    auto p = test::pareteNuda(5, 1);
+    FaseEquilibrio fase;
+    fase.valle = {0, 0, 3, -1, 0};
+    fase.stati.resize(5);
+    for (auto& nodo : p.nodi) nodo.valle.minimo = -1;
+    EXPECT_FALSE(usoPassiva(p, fase, 0).quota);
+}
+
 TEST(UsoPassiva, LiesBetweenNothingAndAll) {
     test::MuriCasuali muri(31);
     for (int m = 0; m < 100; ++m) {
