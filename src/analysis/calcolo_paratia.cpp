@@ -2,15 +2,12 @@
 
 #include <algorithm>
 
-#include "analysis/input_checks.hpp"
 #include "analysis/result_file.hpp"
 #include "analysis/run_files.hpp"
 #include "analysis/run_flags.hpp"
-#include "analysis/segment_count.hpp"
+#include "analysis/run_start.hpp"
 #include "analysis/staged_run.hpp"
-#include "analysis/stiffness_update.hpp"
 #include "base/folders/file_names.hpp"
-#include "base/number_text.hpp"
 #include "base/pointer_guard.hpp"
 #include "base/translated_texts.hpp"
 #include "project/output_guard.hpp"
@@ -23,27 +20,6 @@ namespace {
 using base::traduttore;
 using project::fileCorrente;
 using project::Progetto;
-
-void avvisa(base::Dialogo& dialogo, std::string_view testo) {
-    dialogo.messaggio(testo, traduttore("ATTENZIONE") + "!", base::Icona::stop);
-    erroreCalcolo = true;
-}
-
-std::string messaggioRifiuto(int fase, const RifiutoSuolo& rifiuto) {
-    return traduttore("Calcolo interrotto") + ": " + traduttore("fase") + " " +
-           std::to_string(fase) + ", " + traduttore("profondità") + " " +
-           base::testoNumero(rifiuto.profondita) + " m: " + traduttore(causa(rifiuto.motivo)) + ".";
-}
-
-// A stage that asks for more anchors than there can be.
-std::string motivoTiranti() {
-    for (int k = 1; k <= Progetto.nFasi; ++k)
-        if (!(Progetto.tirantiFase[k] < project::massimoTiranti + 1))
-            return traduttore("fase") + " " + std::to_string(k) + ": " +
-                   traduttore("più tiranti di quanti ne tiene la tabella (20)") + ": " +
-                   base::testoNumero(Progetto.tirantiFase[k]);
-    return {};
-}
 
 // Takes a run into the program: its water tables into `Progetto`, its stages into the result file,
 // and the stop of the user into it.
@@ -70,19 +46,18 @@ class CorsaSuFile : public OsservatoreCorsa {
 
 void racconta(const FaseCalcolata& fase, base::Dialogo& dialogo) {
     if (fase.esito == EsitoFase::singolare) avvisa(dialogo, traduttore(messaggioSingolare));
-    if (fase.esito == EsitoFase::rifiutata)
-        avvisa(dialogo, messaggioRifiuto(fase.fase, *fase.rifiuto));
+    if (fase.esito == EsitoFase::rifiutata) avvisa(dialogo, fase.fase, *fase.rifiuto);
     erroreCalcolo = true;  // a stop by the user needs no message
 }
 
-void aggiornaRisultati(int nSeg, const structure::MomentiResistenti& MRd,
-                       const PorteCalcolo& porte) {
+void aggiornaRisultati(const Avvio& avvio, const PorteCalcolo& porte) {
     FileInCorso file(porte.avanzamento, porte.disco);
     stopCalcolo = false;
-    CorsaSuFile seguito(file, nSeg + 1, porte.avanzamento);
-    const EsitoCorsa corsa = calcolaFasi(Progetto, nSeg, seguito);
+    CorsaSuFile seguito(file, avvio.nSeg + 1, porte.avanzamento);
+    const EsitoCorsa corsa = calcolaFasi(Progetto, avvio.nSeg, seguito);
     if (!corsa.finita()) return racconta(corsa.fasi.back(), porte.dialogo);
-    file.aggiungi(testoChiusura({MRd[2], MRd[1], corsa.mMaxTotale, corsa.mMinTotale, fsAzioni}));
+    file.aggiungi(
+        testoChiusura({avvio.MRd[2], avvio.MRd[1], corsa.mMaxTotale, corsa.mMinTotale, fsAzioni}));
     file.finito();
 }
 
@@ -110,29 +85,17 @@ void CalcoloParatia(ModoUscita modoUscita, const PorteCalcolo& porte) {
     const base::GuardiaPuntatore clessidra(porte.dialogo);
     fsAzioni = structure::fsAzioniSezione;
     erroreCalcolo = false;
-    if (const auto motivo = motivoRifiuto(Progetto); !motivo.empty())
-        return avvisa(porte.dialogo, traduttore(motivo));
-    if (const auto motivo = motivoTiranti(); !motivo.empty()) return avvisa(porte.dialogo, motivo);
-    if (const auto motivo = motivoFerri(Progetto); !motivo.empty())
-        return avvisa(porte.dialogo, motivo);
-    if (const auto motivo = motivoUscite(fileCorrente, modoUscita, porte.uscita); !motivo.empty())
-        return avvisa(porte.dialogo, motivo);
-    const ProgettoAlSicuro sicuro(fileCorrente);
-
-    NomeRisultati nome;
-    structure::MomentiResistenti MRd;
-    aggiornaEJ(Progetto.sezione, Progetto.sforzoNormale, Progetto.rigidezzaEJ, MRd, porte.dialogo);
-    if (Progetto.rigidezzaEJ == 0) {
-        nome.lascia();
-        return avvisa(porte.dialogo, traduttore(messaggioSenzaEJ));
+    const auto avvio = avviaCalcolo(modoUscita, porte.uscita, porte.dialogo);
+    if (!avvio) {
+        erroreCalcolo = true;
+        return;
     }
-    const auto nSeg = leggiNSeg(vincoli(Progetto).incastroPiede);
-    if (!nSeg) return avvisa(porte.dialogo, traduttore(motivoNSeg()));
-
+    const ProgettoAlSicuro sicuro(fileCorrente);
+    const NomeRisultati nome;
     if (porte.guardia != nullptr &&
         !porte.guardia->occupa(fileCorrente, porte.dialogo, porte.avanzamento))
         return;
-    if (!risultatiAggiornati()) aggiornaRisultati(*nSeg, MRd, porte);
+    if (!risultatiAggiornati()) aggiornaRisultati(*avvio, porte);
     if (erroreCalcolo) return;
 
     if (modoUscita)
