@@ -83,13 +83,7 @@ TEST(SezioneDati, ShowsALayerInKilonewtons) {
 
 TEST(SezioneDati, ChoosesALineForEachCode) {
     auto d = progettoVuoto();
-    d.vincoloTesta = valore(VincoloTesta::libera);
-    d.vincoloPiede = valore(VincoloPiede::libero);
-    d.modoSpinte = valore(ModoSpinte::ricalcolate);
-    d.modoKs = valore(ModoKs::ricalcolato);
-    d.modoTensioni = valore(ModoTensioni::efficaci);
-    d.metodoSpinte = valore(MetodoSpinte::coulomb);
-    d.metodoKs = valore(MetodoKs::bowles);
+    test::primiCodici(d);
     EXPECT_EQ(setteRighe(d),
               (std::vector<std::string>{
                   "Condizioni di vincolo della sommità diaframma: libera",

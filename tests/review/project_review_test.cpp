@@ -23,13 +23,7 @@ TEST(EsaminaProgetto, FindsNothingInASoundProject) {
 
 TEST(EsaminaProgetto, TellsEveryFailedInputCheckOfARunNotTheFirstAlone) {
     DatiProgetto d = test::progettoVuoto();
-    d.vincoloTesta = valore(VincoloTesta::libera);
-    d.vincoloPiede = valore(VincoloPiede::libero);
-    d.modoSpinte = valore(ModoSpinte::ricalcolate);
-    d.modoKs = valore(ModoKs::ricalcolato);
-    d.modoTensioni = valore(ModoTensioni::efficaci);
-    d.metodoSpinte = valore(MetodoSpinte::coulomb);
-    d.metodoKs = valore(MetodoKs::bowles);
+    test::primiCodici(d);
     EXPECT_EQ(
         righe(d),
         (std::vector<std::string>{

@@ -77,6 +77,18 @@ inline project::DatiProgetto progettoVuoto() {
     return d;
 }
 
+/// Gives each code of the wall its first value: free ends, all computed anew in each stage from
+/// effective stresses, Coulomb, Bowles.
+inline void primiCodici(project::DatiProgetto& d) {
+    d.vincoloTesta = valore(project::VincoloTesta::libera);
+    d.vincoloPiede = valore(project::VincoloPiede::libero);
+    d.modoSpinte = valore(project::ModoSpinte::ricalcolate);
+    d.modoKs = valore(project::ModoKs::ricalcolato);
+    d.modoTensioni = valore(project::ModoTensioni::efficaci);
+    d.metodoSpinte = valore(project::MetodoSpinte::coulomb);
+    d.metodoKs = valore(project::MetodoKs::bowles);
+}
+
 /// A wall told in one sentence:
 ///
 ///     muro().lungo(12).strato({.fondo = 20, .phi = 34}).tirante(1.5, 500, 5).fase({.scavo = 4})
@@ -87,12 +99,7 @@ inline project::DatiProgetto progettoVuoto() {
 class Muro {
  public:
     Muro() : d_(progettoVuoto()) {
-        d_.vincoloTesta = valore(project::VincoloTesta::libera);
-        d_.vincoloPiede = valore(project::VincoloPiede::libero);
-        d_.modoSpinte = valore(project::ModoSpinte::ricalcolate);
-        d_.modoKs = valore(project::ModoKs::ricalcolato);
-        d_.modoTensioni = valore(project::ModoTensioni::efficaci);
-        d_.metodoSpinte = valore(project::MetodoSpinte::coulomb);
+        primiCodici(d_);
         d_.metodoKs = valore(project::MetodoKs::costante);
         d_.lunghezzaParatia = 10;
         d_.rigidezzaEJ = 10000;
