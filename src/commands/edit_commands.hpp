@@ -19,7 +19,7 @@ inline constexpr auto senzaMaschera = masks::NumeroMaschera{0};
 /// `Progetto` and takes back what was confirmed, with `modificato` by the rules of
 /// masks/edited_tables.hpp. The stage that the diagrams draw, a field of the headings' form, is no
 /// part of the project and modifies nothing.
-/// @param numero  which form, or `senzaMaschera`; it is plugged in: asserted
+/// @param numero   which form, or `senzaMaschera`; it is plugged in: asserted
 /// @param rifiuto  what is said without an open project
 /// @throws ErroreRighe (fatal_error.hpp) if a table with more rows than it can hold was confirmed;
 ///         the rows have then been written beside the project

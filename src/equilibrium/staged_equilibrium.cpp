@@ -1,6 +1,7 @@
 #include "equilibrium/staged_equilibrium.hpp"
 
 #include <algorithm>
+#include <cmath>
 
 #include "equilibrium/statics.hpp"
 
@@ -15,6 +16,14 @@ StatoLato stato(const LatoNodo& lato, double y, StatoLato sottoIlMinimo, StatoLa
     const double prova = lato.riposo + y * lato.Eh;
     if (prova < lato.minimo) return sottoIlMinimo;
     return prova > lato.massimo ? sopraIlMassimo : StatoLato::elastico;
+}
+
+// Displacements that are numbers may come with moments that are none.
+bool numeri(const FaseEquilibrio& fase) {
+    for (const auto* v : {&fase.momento, &fase.taglio, &fase.tiri})
+        for (const double x : *v)
+            if (!std::isfinite(x)) return false;
+    return true;
 }
 
 }  // namespace
@@ -68,6 +77,7 @@ const FaseEquilibrio& EquilibrioParete::calcola(int k) {
     }
     fase_.moto = meccanismo(problema());
     if (fase_.moto) {
+        if (!std::isfinite(fase_.moto->mancante)) return senzaNumero();
         fase_.esito = EsitoFase::meccanismo;
         return fase_;
     }
@@ -76,7 +86,15 @@ const FaseEquilibrio& EquilibrioParete::calcola(int k) {
     fase_.newton = soluzione.esito;
     fase_.esito =
         soluzione.esito == EsitoNewton::trovato ? EsitoFase::equilibrio : EsitoFase::nessunNumero;
-    if (fase_.esito == EsitoFase::equilibrio) risultati();
+    if (fase_.esito != EsitoFase::equilibrio) return fase_;
+    risultati();
+    return numeri(fase_) ? fase_ : senzaNumero();
+}
+
+const FaseEquilibrio& EquilibrioParete::senzaNumero() {
+    fase_.esito = EsitoFase::nessunNumero;
+    fase_.newton = EsitoNewton::nessunNumero;
+    fase_.moto.reset();
     return fase_;
 }
 

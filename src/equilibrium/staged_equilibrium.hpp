@@ -64,6 +64,7 @@ class EquilibrioParete {
 
  private:
     void risultati();
+    const FaseEquilibrio& senzaNumero();
 
     ImpostazioneFasi impostazione_;
     std::vector<double> y_;

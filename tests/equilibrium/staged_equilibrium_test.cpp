@@ -191,6 +191,19 @@ TEST(CalcolaEquilibrio, CallsAnAnchorOfNegativeStiffnessNoStableData) {
     EXPECT_EQ(fasi.back().instabile.che, Instabile::tirante);
 }
 
+// Between two hinges the moments overflow, of a free wall the sums of the verdict.
+TEST(CalcolaEquilibrio, SaysThatItHasNoNumberForLoadsBeyondAll) {
+    for (const double vincolo : {2.0, 1.0}) {
+        auto dati = test::muroNudo();
+        dati.vincoloTesta = dati.vincoloPiede = vincolo;
+        dati.pressioneOrizz = 1e308;
+        const auto fasi = calcolaEquilibrio(dati, 50);
+        ASSERT_EQ(fasi.size(), 1u);
+        EXPECT_EQ(fasi[0].esito, EsitoFase::nessunNumero) << vincolo;
+        EXPECT_FALSE(fasi[0].moto) << vincolo;
+    }
+}
+
 TEST(EquilibrioParete, RepeatsItsDigitsInASecondObject) {
     test::MuriCasuali muri(5);
     for (int m = 0; m < 20; ++m) {
