@@ -3,6 +3,7 @@
 #include "analysis/wall_mesh.hpp"
 #include "base/translated_texts.hpp"
 #include "plot/plot_engine.hpp"
+#include "results/shear_extremes.hpp"
 #include "results/working_pressures.hpp"
 
 namespace korven::drawings {
@@ -101,8 +102,7 @@ void FaseDisegnata::taglio() const {
         for (int j = 1; j <= azioni_.nTiranti; ++j) {
             if (nodoTirante(j) != i) continue;
             const double tiro =
-                progetto.pretTirante[j] +
-                progetto.rigTirante[j] * (risultati_.yNodo[i] - azioni_.yTirante[j]);
+                results::tiroNelTaglio(progetto, j, risultati_.yNodo[i], azioni_.yTirante[j]);
             curva.punto(sotto - tiro, profondita(i));
         }
         curva.punto(sotto, profondita(i));

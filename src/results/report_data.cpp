@@ -1,15 +1,19 @@
 #include "results/report_data.hpp"
 
 #include <algorithm>
+#include <cassert>
 #include <limits>
+#include <utility>
 
 #include "analysis/anchors_in_place.hpp"
 #include "analysis/input_checks.hpp"
 #include "analysis/segment_count.hpp"
 #include "analysis/wall_mesh.hpp"
+#include "base/code_page.hpp"
 #include "base/file_error.hpp"
 #include "base/folders/program_folder.hpp"
 #include "base/translated_texts.hpp"
+#include "project/project_file.hpp"
 
 namespace korven::results {
 
@@ -67,17 +71,9 @@ AzioniFase azioniFase(const DatiRelazione& dati, int s, const StoriaTiranti& tir
     return azioni;
 }
 
-}  // namespace
-
-double tiroFinale(double pretTirante, double rigTirante, double maxSpostTirante, double yTirante) {
-    if (maxSpostTirante > yTirante) return pretTirante + rigTirante * (maxSpostTirante - yTirante);
-    return pretTirante;
-}
-
-DatiRelazione leggiRisultati(const std::string& percorso, DatiProgetto& memoria) {
+DatiRelazione leggi(analysis::LettoreRisultati file, int nNodi, DatiProgetto& memoria) {
     DatiRelazione dati;
-    dati.nNodi = segmenti(memoria) + 1;
-    analysis::LettoreRisultati file(percorso, dati.nNodi);
+    dati.nNodi = nNodi;
     dati.metodoUsato = file.leggiTesta(memoria);
     dati.progetto = memoria;
     dati.passo = memoria.lunghezzaParatia / (dati.nNodi - 1);
@@ -96,6 +92,35 @@ DatiRelazione leggiRisultati(const std::string& percorso, DatiProgetto& memoria)
     dati.progetto.faldaValle = memoria.faldaValle;
     for (int j = 1; j <= tiranti.inOpera(memoria.nFasi); ++j) dati.tiroTirante[j] = tiranti.tiro(j);
     return dati;
+}
+
+}  // namespace
+
+double tiroFinale(double pretTirante, double rigTirante, double maxSpostTirante, double yTirante) {
+    if (maxSpostTirante > yTirante) return pretTirante + rigTirante * (maxSpostTirante - yTirante);
+    return pretTirante;
+}
+
+DatiRelazione leggiRisultati(const std::string& percorso, DatiProgetto& memoria) {
+    const int nNodi = segmenti(memoria) + 1;
+    return leggi({percorso, nNodi}, nNodi, memoria);
+}
+
+std::string testoRisultati(const DatiProgetto& testa, int nSeg, const analysis::EsitoCorsa& corsa,
+                           const analysis::ChiusuraRisultati& chiusura) {
+    assert(corsa.finita());
+    std::string testo = project::testoProgetto(testa);
+    for (const analysis::FaseCalcolata& fase : corsa.fasi)
+        testo += analysis::testoFase(fase.risultati, nSeg + 1);
+    return testo + analysis::testoChiusura(chiusura);
+}
+
+DatiRelazione risultatiInMemoria(const DatiProgetto& testa, int nSeg,
+                                 const analysis::EsitoCorsa& corsa,
+                                 const analysis::ChiusuraRisultati& chiusura) {
+    base::LettoreRighe testo({}, base::inCp1252(testoRisultati(testa, nSeg, corsa, chiusura)));
+    DatiProgetto memoria = testa;
+    return leggi({std::move(testo), nSeg + 1}, nSeg + 1, memoria);
 }
 
 }  // namespace korven::results

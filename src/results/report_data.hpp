@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "analysis/result_file.hpp"
+#include "analysis/staged_run.hpp"
 #include "project/project_data.hpp"
 #include "results/shear_extremes.hpp"
 
@@ -54,5 +55,21 @@ struct DatiRelazione {
 /// @throws base::ErroreFile if the file is missing, cut short or of another mesh
 [[nodiscard]] DatiRelazione leggiRisultati(const std::string& percorso,
                                            project::DatiProgetto& memoria);
+
+/// The text of the result file that a run leaves, UTF-8.
+/// @param testa  the project as it was before the run
+/// @pre all stages came to rest
+/// @throws base::ErroreValore on a number that is none
+[[nodiscard]] std::string testoRisultati(const project::DatiProgetto& testa, int nSeg,
+                                         const analysis::EsitoCorsa& corsa,
+                                         const analysis::ChiusuraRisultati& chiusura);
+
+/// The same as `leggiRisultati` of a run in memory. Its results go through the text of the file
+/// that it would have left, so that they are those of the report to the last digit; no file is
+/// written or read, not even `nseg.txt`.
+/// @param testa  as for `testoRisultati`, which tells what else is required and thrown
+[[nodiscard]] DatiRelazione risultatiInMemoria(const project::DatiProgetto& testa, int nSeg,
+                                               const analysis::EsitoCorsa& corsa,
+                                               const analysis::ChiusuraRisultati& chiusura);
 
 }  // namespace korven::results

@@ -19,12 +19,26 @@ void estrapolaAlTirante(double prof, double passo, int nNodi, analysis::VettoreN
     taglioNodo[a] = 2 * valore(taglioNodo, a + 1, nNodi) - valore(taglioNodo, a + 2, nNodi);
 }
 
-void includi(EstremiTaglio& estremi, double taglio) {
-    estremi.vMin = std::min(estremi.vMin, taglio);
-    estremi.vMax = std::max(estremi.vMax, taglio);
+void includi(EstremiTaglio& estremi, double taglio, double z) {
+    if (taglio < estremi.vMin) {
+        estremi.vMin = taglio;
+        estremi.zMin = z;
+    }
+    if (taglio > estremi.vMax) {
+        estremi.vMax = taglio;
+        estremi.zMax = z;
+    }
 }
 
 }  // namespace
+
+double tiroNelTaglio(const project::DatiProgetto& dati, int j, double y, double yTirante) {
+    return dati.pretTirante[j] + dati.rigTirante[j] * (y - yTirante);
+}
+
+bool gradinoNelTaglio(const project::DatiProgetto& dati, int j, int i, double passo) {
+    return dati.profTirante[j] == analysis::zNodo(i, passo);
+}
 
 double massimoAssoluto(const EstremiTaglio& estremi) {
     return std::max(std::abs(estremi.vMin), std::abs(estremi.vMax));
@@ -39,13 +53,11 @@ EstremiTaglio estremiTaglio(const project::DatiProgetto& dati, int nTirantiFase,
             estrapolaAlTirante(dati.profTirante[j], passo, nNodi, taglioNodo);
     EstremiTaglio estremi{.vMin = analysis::oltreOgniValore, .vMax = -analysis::oltreOgniValore};
     for (int i = 1; i <= nNodi; ++i) {
-        includi(estremi, taglioNodo[i]);
-        for (int j = 1; j <= nTirantiFase; ++j) {
-            // Exact: an anchor that falls between two nodes shows no step.
-            if (dati.profTirante[j] != analysis::zNodo(i, passo)) continue;
-            const double tiro = dati.pretTirante[j] + dati.rigTirante[j] * (yNodo[i] - yTirante[j]);
-            includi(estremi, taglioNodo[i] - tiro);
-        }
+        const double z = analysis::zNodo(i, passo);
+        includi(estremi, taglioNodo[i], z);
+        for (int j = 1; j <= nTirantiFase; ++j)
+            if (gradinoNelTaglio(dati, j, i, passo))
+                includi(estremi, taglioNodo[i] - tiroNelTaglio(dati, j, yNodo[i], yTirante[j]), z);
     }
     return estremi;
 }

@@ -5,14 +5,26 @@
 
 namespace korven::results {
 
-/// Smallest and largest shear of one stage [t/m].
+/// Smallest and largest shear of one stage [t/m], and the depths of their nodes [m].
 struct EstremiTaglio {
-    double vMin;
-    double vMax;
+    double vMin = 0;
+    double vMax = 0;
+    double zMin = 0;
+    double zMax = 0;
 };
 
 /// The larger of the two in absolute value [t/m].
 [[nodiscard]] double massimoAssoluto(const EstremiTaglio& estremi);
+
+/// The force that the shear takes anchor j for when its node is at displacement `y` [t]: that of a
+/// spring, for a tension-only anchor too where it would be compressed and is slack in truth.
+/// @param yTirante  displacement of its node when it came into place [m]
+[[nodiscard]] double tiroNelTaglio(const project::DatiProgetto& dati, int j, double y,
+                                   double yTirante);
+
+/// True if anchor j is exactly at the depth of node i, as doubles: what falls between two nodes
+/// shows no step.
+[[nodiscard]] bool gradinoNelTaglio(const project::DatiProgetto& dati, int j, int i, double passo);
 
 /// Extremes of the shear along the wall in one stage.
 ///
@@ -25,8 +37,8 @@ struct EstremiTaglio {
 /// that an earlier one has set. Nodes beyond the toe read 0. An anchor at depth 0 keeps the node's
 /// own value, and one that is at no node of the wall changes nothing.
 ///
-/// Where an anchor's depth is exactly the node's `zNodo`, as doubles, the value above it counts
-/// too: taglioNodo[i] - tiro, with tiro = pretTirante + rigTirante (yNodo[i] - yTirante). An anchor
+/// Where an anchor is exactly at a node (`gradinoNelTaglio`) the value above it counts too:
+/// taglioNodo[i] - tiro, with tiro = pretTirante + rigTirante (yNodo[i] - yTirante). An anchor
 /// between two nodes has no such second value.
 ///
 /// @param dati         the anchor table (profTirante [m], pretTirante [t], rigTirante [t/m])

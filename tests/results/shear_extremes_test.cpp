@@ -36,7 +36,9 @@ TEST_F(EstremiTaglioTest, AreTheSmallestAndLargestNodeValuesWithoutAnchors) {
     tagli({1, -3, 2, 5, -1});
     const EstremiTaglio e = calcola();
     EXPECT_EQ(e.vMin, -3);
+    EXPECT_EQ(e.zMin, 0.5);
     EXPECT_EQ(e.vMax, 5);
+    EXPECT_EQ(e.zMax, 1.5);
     EXPECT_EQ(massimoAssoluto(e), 5);
 }
 
@@ -56,6 +58,8 @@ TEST_F(EstremiTaglioTest, CountTheShearBelowAndAboveAnAnchorAtANode) {
     EXPECT_EQ(taglioNodo[3], 7);
     EXPECT_EQ(e.vMax, 7);
     EXPECT_DOUBLE_EQ(e.vMin, -15);
+    EXPECT_EQ(e.zMax, 1.0);
+    EXPECT_EQ(e.zMin, 1.0);
 }
 
 TEST_F(EstremiTaglioTest, AnchorBetweenTwoNodesChangesTheNearestNodeButHasNoStep) {
