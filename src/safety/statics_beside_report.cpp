@@ -1,0 +1,73 @@
+#include "safety/statics_beside_report.hpp"
+
+#include <cmath>
+
+#include "analysis/staged_run.hpp"
+#include "base/value_error.hpp"
+#include "structure/partial_factors.hpp"
+
+namespace korven::safety {
+
+namespace {
+
+// Ends a stage that does not come to rest.
+class FinoAlLimite : public analysis::OsservatoreCorsa {
+ public:
+    explicit FinoAlLimite(analysis::OsservatoreCorsa& altro) : altro_(altro) {}
+    void inizio(int fase) override { altro_.inizio(fase); }
+    void iterazione(const analysis::StatoIterazione& stato) override {
+        altro_.iterazione(stato);
+        oltre_ = !stato.convergente && stato.iterazione >= massimeIterazioni;
+    }
+    [[nodiscard]] bool fermata() override { return altro_.fermata() || oltre_; }
+    void fine(const analysis::FaseCalcolata& fase) override { altro_.fine(fase); }
+
+ private:
+    analysis::OsservatoreCorsa& altro_;
+    bool oltre_ = false;
+};
+
+}  // namespace
+
+std::optional<results::NumeriRelazione> numeriDellaRelazione(
+    const project::DatiProgetto& dati, int nSeg, analysis::OsservatoreCorsa& osservatore) {
+    FinoAlLimite seguito(osservatore);
+    const analysis::EsitoCorsa corsa = analysis::calcolaFasi(dati, nSeg, seguito);
+    if (!corsa.finita()) return std::nullopt;
+    try {
+        // The section's resistances are not asked for.
+        return results::numeriRelazione(results::risultatiInMemoria(
+            dati, nSeg, corsa,
+            {0, 0, corsa.mMaxTotale, corsa.mMinTotale, structure::fsAzioniSezione}));
+    } catch (const base::ErroreValore&) {
+        return std::nullopt;
+    }
+}
+
+std::optional<double> Confronto::scarto() const {
+    if (!relazione || statica.valore == 0) return std::nullopt;
+    const double vera = std::fabs(statica.valore);
+    return std::fabs(std::fabs(relazione->valore) - vera) / vera;
+}
+
+ConfrontoFase confronta(const equilibrium::FaseEquilibrio& fase, double h,
+                        const results::NumeriFase* relazione) {
+    const equilibrium::Estremi e = equilibrium::estremi(fase, h);
+    ConfrontoFase confronto{.fase = fase.fase,
+                            .momento = {e.momento(), std::nullopt},
+                            .taglio = {e.taglio, std::nullopt},
+                            .tiri = {}};
+    if (relazione) {
+        confronto.momento.relazione = relazione->momento();
+        confronto.taglio.relazione = relazione->taglio;
+    }
+    for (std::size_t j = 0; j < fase.tiri.size(); ++j) {
+        ConfrontoTiro& tiro = confronto.tiri.emplace_back();
+        tiro.tirante = static_cast<int>(j) + 1;
+        tiro.statica = fase.tiri[j];
+        if (relazione) tiro.relazione = relazione->tiri.at(j);
+    }
+    return confronto;
+}
+
+}  // namespace korven::safety

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "analysis/run_observer.hpp"
+#include "equilibrium/extremes.hpp"
+#include "results/report_numbers.hpp"
+
+// The numbers of the report beside those of the balance of the nodes. The two differ where the
+// report's rules leave the statics: the force at the top, slack anchors, a fixed toe, very stiff
+// props.
+
+namespace korven::safety {
+
+/// Solves of one stage after which the specified run counts as one that does not come to rest.
+inline constexpr int massimeIterazioni = 200;
+
+/// The numbers that the report of this project would show, from the specified run in memory; no
+/// file is written or read.
+/// @param dati         with the bending stiffness of the run
+/// @param osservatore  follows the run, and may stop it
+/// @return nothing if a stage does not come to rest, or the numbers are none
+/// @pre no input check fails
+[[nodiscard]] std::optional<results::NumeriRelazione> numeriDellaRelazione(
+    const project::DatiProgetto& dati, int nSeg, analysis::OsservatoreCorsa& osservatore);
+
+/// A largest number both ways.
+struct Confronto {
+    equilibrium::Estremo statica;                       ///< from the balance of the nodes
+    std::optional<results::NumeroRelazione> relazione;  ///< nothing without a report
+
+    /// How far the report's is off in size, as a share of the statics'; nothing where one of the
+    /// two is missing or the statics' is 0.
+    [[nodiscard]] std::optional<double> scarto() const;
+};
+
+/// The force of an anchor in one stage, both ways.
+struct ConfrontoTiro {
+    int tirante = 0;     ///< counted from 1
+    double statica = 0;  ///< from the displacement itself, tension positive [t]
+    std::optional<results::TiroRelazione> relazione;
+};
+
+/// One stage both ways.
+struct ConfrontoFase {
+    int fase = 0;
+    Confronto momento, taglio;  ///< larger in size [t m, t]
+    std::vector<ConfrontoTiro> tiri;
+};
+
+/// @param fase       a stage in equilibrium
+/// @param h          distance of its nodes [m]
+/// @param relazione  of the same stage; may be nullptr
+[[nodiscard]] ConfrontoFase confronta(const equilibrium::FaseEquilibrio& fase, double h,
+                                      const results::NumeriFase* relazione);
+
+}  // namespace korven::safety
