@@ -50,24 +50,22 @@ std::optional<double> Confronto::scarto() const {
     return std::fabs(std::fabs(relazione->valore) - vera) / vera;
 }
 
-ConfrontoFase confronta(const equilibrium::FaseEquilibrio& fase, double h,
-                        const results::NumeriFase* relazione) {
+ConfrontoFase statica(const equilibrium::FaseEquilibrio& fase, double h) {
     const equilibrium::Estremi e = equilibrium::estremi(fase, h);
     ConfrontoFase confronto{.fase = fase.fase,
                             .momento = {e.momento(), std::nullopt},
                             .taglio = {e.taglio, std::nullopt},
                             .tiri = {}};
-    if (relazione) {
-        confronto.momento.relazione = relazione->momento();
-        confronto.taglio.relazione = relazione->taglio;
-    }
-    for (std::size_t j = 0; j < fase.tiri.size(); ++j) {
-        ConfrontoTiro& tiro = confronto.tiri.emplace_back();
-        tiro.tirante = static_cast<int>(j) + 1;
-        tiro.statica = fase.tiri[j];
-        if (relazione) tiro.relazione = relazione->tiri.at(j);
-    }
+    for (const double tiro : fase.tiri)
+        confronto.tiri.push_back({static_cast<int>(confronto.tiri.size()) + 1, tiro, std::nullopt});
     return confronto;
+}
+
+void affianca(const results::NumeriFase& relazione, ConfrontoFase& confronto) {
+    confronto.momento.relazione = relazione.momento();
+    confronto.taglio.relazione = relazione.taglio;
+    for (std::size_t j = 0; j < confronto.tiri.size(); ++j)
+        confronto.tiri[j].relazione = relazione.tiri.at(j);
 }
 
 }  // namespace korven::safety

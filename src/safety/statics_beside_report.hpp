@@ -49,10 +49,12 @@ struct ConfrontoFase {
     std::vector<ConfrontoTiro> tiri;
 };
 
-/// @param fase       a stage in equilibrium
-/// @param h          distance of its nodes [m]
-/// @param relazione  of the same stage; may be nullptr
-[[nodiscard]] ConfrontoFase confronta(const equilibrium::FaseEquilibrio& fase, double h,
-                                      const results::NumeriFase* relazione);
+/// The statics of a stage, without a report as yet.
+/// @param fase  a stage in equilibrium
+/// @param h     distance of its nodes [m]
+[[nodiscard]] ConfrontoFase statica(const equilibrium::FaseEquilibrio& fase, double h);
+
+/// Sets the report's numbers of the same stage beside them.
+void affianca(const results::NumeriFase& relazione, ConfrontoFase& confronto);
 
 }  // namespace korven::safety

@@ -7,10 +7,7 @@
 
 #include "analysis/input_checks.hpp"
 #include "project/field_table.hpp"
-#include "safety/mesh_error.hpp"
-#include "safety/passive_use.hpp"
-#include "safety/shortest_wall.hpp"
-#include "safety/strength_reduction.hpp"
+#include "safety/margin.hpp"
 #include "support/random_walls.hpp"
 
 namespace korven::safety {
@@ -66,24 +63,28 @@ void controllaNumeri(const equilibrium::FaseEquilibrio& fase) {
     for (const double tiro : fase.tiri) ASSERT_TRUE(std::isfinite(tiro));
 }
 
+void controlla(const std::optional<double>& valore, double minimo, double massimo) {
+    const double x = valore.value_or(minimo);
+    ASSERT_TRUE(x >= minimo && x <= massimo) << x;
+}
+
+void controlla(const Confronto& confronto) {
+    ASSERT_TRUE(std::isfinite(confronto.statica.valore));
+    ASSERT_TRUE(std::isfinite(confronto.relazione.value_or(results::NumeroRelazione{}).valore));
+}
+
 void percorri(const DatiProgetto& dati, int nSeg) {
-    equilibrium::EquilibrioParete parete(dati, nSeg);
-    equilibrium::Estremi estremi;
-    bool sta = true;
-    for (int k = 1; sta && k <= dati.nFasi; ++k) {
-        const auto& fase = parete.calcola(k);
-        sta = fase.esito == EsitoFase::equilibrio;
-        if (fase.rifiuto) return;
-        if (!sta) break;
-        controllaNumeri(fase);
-        aggiungi(fase, parete.problema().h, estremi);
-        const double uso = usoPassiva(parete.problema(), fase, dati.profFase[k]).quota.value_or(0);
-        ASSERT_TRUE(uso >= 0 && uso <= 1) << uso;
-        const double F = riduzione(dati, nSeg, k).F.value_or(1);
-        ASSERT_TRUE(F >= minimaRiduzione && F <= massimaRiduzione) << F;
+    for (const auto& fase : equilibrium::calcolaEquilibrio(dati, nSeg))
+        if (fase.esito == EsitoFase::equilibrio) controllaNumeri(fase);
+    analysis::OsservatoreCorsa nessuno;
+    const Margine m = margine(dati, nSeg, nessuno);
+    for (const MargineFase& fase : m.fasi) {
+        controlla(fase.passiva.quota, 0, 1);
+        controlla(fase.riduzione.F, minimaRiduzione, massimaRiduzione);
+        controlla(fase.confronto.momento);
+        controlla(fase.confronto.taglio);
     }
-    ASSERT_TRUE(std::isfinite(lunghezzaMinima(dati, nSeg).lunghezza.value_or(0)));
-    if (sta) (void)erroreMaglia(dati, nSeg, estremi);
+    ASSERT_TRUE(std::isfinite(m.lunghezza.lunghezza.value_or(0)));
 }
 
 // Another 400 with each seed: --gtest_shuffle --gtest_repeat=50 goes through 20,000.

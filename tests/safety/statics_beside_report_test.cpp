@@ -26,8 +26,8 @@ std::vector<ConfrontoFase> confronti(const DatiProgetto& dati, int nSeg = 50) {
     EXPECT_TRUE(relazione);
     std::vector<ConfrontoFase> tutti;
     for (const auto& fase : equilibrium::calcolaEquilibrio(dati, nSeg)) {
-        const auto s = static_cast<std::size_t>(fase.fase - 1);
-        tutti.push_back(confronta(fase, dati.lunghezzaParatia / nSeg, &relazione->fasi.at(s)));
+        tutti.push_back(statica(fase, dati.lunghezzaParatia / nSeg));
+        affianca(relazione->fasi.at(tutti.size() - 1), tutti.back());
     }
     return tutti;
 }
@@ -41,7 +41,7 @@ TEST(Confronto, TellsHowFarTheReportIsOffInSize) {
 }
 
 // Of a wall without restraints and slack anchors both ways have the same moments.
-TEST(Confronta, FindsTheReportOfAPlainWallRight) {
+TEST(Affianca, FindsTheReportOfAPlainWallRight) {
     for (const ConfrontoFase& fase : confronti(esempio("diaframma_due_ordini"))) {
         EXPECT_LT(fase.momento.scarto().value(), 1e-4) << fase.fase;
         EXPECT_EQ(fase.momento.statica.z, fase.momento.relazione->z);
@@ -51,7 +51,7 @@ TEST(Confronta, FindsTheReportOfAPlainWallRight) {
 }
 
 // One unit of the last digit of a displacement is 10 t here.
-TEST(Confronta, ShowsThatTheReportKnowsNothingOfTheForceOfAVeryStiffProp) {
+TEST(Affianca, ShowsThatTheReportKnowsNothingOfTheForceOfAVeryStiffProp) {
     const auto fasi = confronti(muro("puntone_rigidissimo"));
     const ConfrontoTiro& tiro = fasi.back().tiri.at(0);
     EXPECT_NEAR(tiro.statica, 4.22, 0.005);
@@ -72,10 +72,10 @@ TEST(NumeriDellaRelazione, AreNothingWhenTheObserverStopsTheRun) {
     EXPECT_FALSE(numeriDellaRelazione(muro("banchina"), 50, ferma));
 }
 
-TEST(Confronta, HasTheStaticsAloneWithoutAReport) {
+TEST(Statica, StandsAloneWithoutAReport) {
     const DatiProgetto dati = muro("oscilla_1");
     const auto fasi = equilibrium::calcolaEquilibrio(dati, 50);
-    const ConfrontoFase c = confronta(fasi.front(), dati.lunghezzaParatia / 50, nullptr);
+    const ConfrontoFase c = statica(fasi.front(), dati.lunghezzaParatia / 50);
     EXPECT_EQ(c.fase, 1);
     EXPECT_FALSE(c.momento.relazione);
     EXPECT_FALSE(c.taglio.scarto());

@@ -1,0 +1,84 @@
+#include "safety/margin.hpp"
+
+#include <algorithm>
+
+namespace korven::safety {
+
+namespace {
+
+using equilibrium::EquilibrioParete;
+using equilibrium::EsitoFase;
+using equilibrium::FaseEquilibrio;
+using project::DatiProgetto;
+
+MargineFase fase(const DatiProgetto& dati, int nSeg, int k, EquilibrioParete& parete,
+                 equilibrium::Estremi& diTutte) {
+    const FaseEquilibrio& f = parete.calcola(k);
+    const equilibrium::ProblemaFase& problema = parete.problema();
+    MargineFase m;
+    m.fase = k;
+    m.scavo = dati.profFase[k];
+    m.esito = f.esito;
+    m.rifiuto = f.rifiuto;
+    m.moto = f.moto;
+    m.instabile = f.instabile;
+    m.newton = f.newton;
+    if (m.rifiuto) return m;
+    m.riduzione = riduzione(dati, nSeg, k);
+    if (!m.inEquilibrio()) return m;
+    m.passiva = usoPassiva(problema, f, m.scavo);
+    m.estremi = equilibrium::estremi(f, problema.h);
+    m.confronto = statica(f, problema.h);
+    equilibrium::aggiungi(f, problema.h, diTutte);
+    return m;
+}
+
+MargineFase ignota(const DatiProgetto& dati, int k) {
+    MargineFase m;
+    m.fase = k;
+    m.scavo = dati.profFase[k];
+    return m;
+}
+
+// The specified run can come to rest where the certain method finds data without a certain
+// equilibrium, but not where there is none.
+bool puoAvereRelazione(const Margine& m) {
+    const MargineFase* caduta = m.caduta();
+    return !caduta || (caduta->esito == EsitoFase::nonDefinito && !caduta->rifiuto);
+}
+
+void affiancaRelazione(Margine& m) {
+    if (!m.relazione) return;
+    for (MargineFase& f : m.fasi)
+        if (f.inEquilibrio())
+            affianca(m.relazione->fasi.at(static_cast<std::size_t>(f.fase - 1)), f.confronto);
+    if (!m.sta()) return;  // the report is of more stages than the statics
+    m.momento.relazione = m.relazione->momento;
+    m.taglio.relazione = m.relazione->taglio;
+}
+
+}  // namespace
+
+const MargineFase* Margine::caduta() const {
+    const auto f =
+        std::find_if(fasi.begin(), fasi.end(), [](const auto& una) { return !una.inEquilibrio(); });
+    return f == fasi.end() ? nullptr : &*f;
+}
+
+Margine margine(const DatiProgetto& dati, int nSeg, analysis::OsservatoreCorsa& osservatore) {
+    Margine m;
+    m.nSeg = nSeg;
+    EquilibrioParete parete(dati, nSeg);
+    equilibrium::Estremi estremi;
+    for (int k = 1; k <= dati.nFasi; ++k)
+        m.fasi.push_back(m.sta() ? fase(dati, nSeg, k, parete, estremi) : ignota(dati, k));
+    m.momento.statica = estremi.momento();
+    m.taglio.statica = estremi.taglio;
+    m.lunghezza = lunghezzaMinima(dati, nSeg);
+    if (m.sta()) m.maglia = erroreMaglia(dati, nSeg, estremi);
+    if (puoAvereRelazione(m)) m.relazione = numeriDellaRelazione(dati, nSeg, osservatore);
+    affiancaRelazione(m);
+    return m;
+}
+
+}  // namespace korven::safety
