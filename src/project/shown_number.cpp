@@ -1,13 +1,13 @@
-#include "batch/run/shown_number.hpp"
+#include "project/shown_number.hpp"
 
 #include <charconv>
 #include <cmath>
 
 #include "base/number_text.hpp"
 
-namespace korven::batch {
+namespace korven::project {
 
-std::string numeroMostrato(double valore, int decimali, const project::Unita& unita) {
+std::string numeroMostrato(double valore, int decimali, const Unita& unita) {
     const double mostrato = project::mostrato(unita, valore);
     if (!std::isfinite(mostrato)) return "-";
     if (std::fabs(mostrato) < 1e9) return base::testoDecimali(valore, decimali, posti(unita));
@@ -17,4 +17,4 @@ std::string numeroMostrato(double valore, int decimali, const project::Unita& un
     return {testo, fine};
 }
 
-}  // namespace korven::batch
+}  // namespace korven::project

@@ -4,12 +4,12 @@
 
 #include "project/units.hpp"
 
-namespace korven::batch {
+namespace korven::project {
 
 /// A stored number as the progress and the table show it: in the shown unit, rounded half away from
 /// zero to `decimali` digits after the point. From a thousand millions on, where a failing wall may
 /// get to, the short form "1.000e+12" keeps lines and columns in place; "-" for no number.
 [[nodiscard]] std::string numeroMostrato(double valore, int decimali,
-                                         const project::Unita& unita = project::unita::nessuna);
+                                         const Unita& unita = unita::nessuna);
 
-}  // namespace korven::batch
+}  // namespace korven::project

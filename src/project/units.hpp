@@ -66,7 +66,9 @@ inline constexpr Unita numeroBarre{"-", "-", millimetri};
 inline constexpr Unita gradi{"°", "°"};
 inline constexpr Unita metri{"m", "m"};
 inline constexpr Unita spostamento{"m", "cm", centimetri};
-inline constexpr Unita misura{"cm", "mm", millimetri};  ///< a length of the section
+inline constexpr Unita spostamentoFine{"m", "mm",
+                                       millimetriMetro};  ///< where it is told, not tabled
+inline constexpr Unita misura{"cm", "mm", millimetri};    ///< a length of the section
 inline constexpr Unita tensione{"N/mm²", "N/mm²"};
 inline constexpr Unita forza{"t", "kN", kilonewton};
 inline constexpr Unita momento{"t m", "kN m", kilonewton};

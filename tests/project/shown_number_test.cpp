@@ -1,19 +1,19 @@
-#include "batch/run/shown_number.hpp"
+#include "project/shown_number.hpp"
 
 #include <gtest/gtest.h>
 
 #include <limits>
 
-namespace korven::batch {
+namespace korven::project {
 namespace {
 
-using namespace project::unita;
+using namespace unita;
 
 TEST(NumeroMostrato, RoundsHalfAwayFromZeroOnBothSides) {
     const struct {
         double valore;
         int decimali;
-        project::Unita unita;
+        Unita unita;
         const char* testo;
     } casi[] = {
         {0.00125, 4, metri, "0.0013"},         {-0.00125, 4, metri, "-0.0013"},
@@ -35,4 +35,4 @@ TEST(NumeroMostrato, IsShortForWhatNoWallReaches) {
 }
 
 }  // namespace
-}  // namespace korven::batch
+}  // namespace korven::project

@@ -6,7 +6,7 @@
 #include <iostream>
 
 #include "base/translated_texts.hpp"
-#include "batch/run/shown_number.hpp"
+#include "project/shown_number.hpp"
 
 namespace korven::batch {
 
@@ -18,8 +18,8 @@ constexpr const char* cancellaRiga = "\r\x1b[K";
 std::string rigaAvanzamento(const analysis::StatoIterazione& stato) {
     return base::traduttore("fase") + "=" + std::to_string(stato.fase) +
            "   iter.=" + std::to_string(stato.iterazione) +
-           "   Ymax=" + numeroMostrato(stato.yMax, 4) +
-           "   Mmax=" + numeroMostrato(stato.mMax, 2, project::unita::momento);
+           "   Ymax=" + project::numeroMostrato(stato.yMax, 4) +
+           "   Mmax=" + project::numeroMostrato(stato.mMax, 2, project::unita::momento);
 }
 
 // A terminal that hangs must not hold a program that was told to end.

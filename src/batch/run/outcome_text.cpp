@@ -1,7 +1,7 @@
 #include "base/code_page.hpp"
 #include "base/translated_texts.hpp"
 #include "batch/run/outcome.hpp"
-#include "batch/run/shown_number.hpp"
+#include "project/shown_number.hpp"
 
 namespace korven::batch {
 
@@ -23,7 +23,7 @@ struct Colonna {
 
     [[nodiscard]] std::string titolo() const { return traduttore(etichetta(cosa, unita)); }
     [[nodiscard]] std::string cella(const results::EstremiFase& fase) const {
-        return numeroMostrato(fase.*valore, decimali, unita);
+        return project::numeroMostrato(fase.*valore, decimali, unita);
     }
 };
 
