@@ -106,6 +106,11 @@ struct DatoInstabile {
     int nodo = 0;       ///< counted from 0; of the soil
     bool monte = true;  ///< side of the soil
     int tirante = 0;    ///< counted from 1
+    /// The value as it is stored: the modulus [t/m3], the active limit [t/m2], the stiffness of the
+    /// anchor [t/m] or of the wall [t m2].
+    double valore = 0;
+    double passivo = 0;     ///< of `limiti`: the passive limit [t/m2]
+    double profondita = 0;  ///< of the node [m]
 };
 
 /// Looks for data whose energy is not convex, so that an equilibrium need be neither certain nor

@@ -47,19 +47,33 @@ TEST(DatoInstabile, FindsWhatMakesTheEnergyNotConvex) {
     EXPECT_EQ(datoInstabile(p).che, Instabile::modulo);
     EXPECT_EQ(datoInstabile(p).nodo, 2);
     EXPECT_FALSE(datoInstabile(p).monte);
+    EXPECT_EQ(datoInstabile(p).valore, 50);
+    EXPECT_EQ(datoInstabile(p).profondita, 2);
     p.nodi[2].vincolato = true;  // its soil reacts no more
     EXPECT_EQ(datoInstabile(p).che, Instabile::no);
 
     p.nodi[1].monte = {2, -100, 5, 1};
     EXPECT_EQ(datoInstabile(p).che, Instabile::limiti);
     EXPECT_TRUE(datoInstabile(p).monte);
+    EXPECT_EQ(datoInstabile(p).valore, 5);
+    EXPECT_EQ(datoInstabile(p).passivo, 1);
 
     p.tiranti = {{0, 10, 0, 0, false, 1}, {1, -10, 0, 0, false, 1}};
     EXPECT_EQ(datoInstabile(p).che, Instabile::tirante);
     EXPECT_EQ(datoInstabile(p).tirante, 2);
+    EXPECT_EQ(datoInstabile(p).valore, -10);
 
     p.EJ = -1;
     EXPECT_EQ(datoInstabile(p).che, Instabile::parete);
+    EXPECT_EQ(datoInstabile(p).valore, -1);
+}
+
+// Of the excavated side the passive limit is the lowest.
+TEST(DatoInstabile, TellsTheLimitsOfEachSideByTheirNames) {
+    auto p = test::pareteNuda(5, 1);
+    p.nodi[3].valle = {-2, -100, -1, -5};
+    EXPECT_EQ(datoInstabile(p).valore, -5);
+    EXPECT_EQ(datoInstabile(p).passivo, -1);
 }
 
 TEST(DatoInstabile, MindsNoLimitsThatAreOneNumberAndNoneWithoutAModulus) {
