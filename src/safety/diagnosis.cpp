@@ -48,28 +48,38 @@ std::string_view parola(Causa causa) {
     return {};
 }
 
-Diagnosi diagnosi(const project::DatiProgetto& dati, int nSeg, int fase) {
-    equilibrium::EquilibrioParete parete(dati, nSeg);
-    const equilibrium::FaseEquilibrio* f = nullptr;
-    for (int k = 1; k <= fase; ++k) {
-        f = &parete.calcola(k);
-        assert(!f->rifiuto);
-        if (f->esito != EsitoFase::equilibrio) break;
-    }
-    assert(f);
-    Diagnosi d;
-    d.causa = causa(f->esito);
-    d.fase = f->fase;
-    d.moto = f->moto;
-    d.instabile = f->instabile;
-    if (d.causa == Causa::meccanismo) {
+Diagnosi diagnosi(const project::DatiProgetto& dati, int nSeg,
+                  const equilibrium::EquilibrioParete& parete,
+                  const equilibrium::FaseEquilibrio& fase) {
+    assert(!fase.rifiuto);
+    Diagnosi d{.causa = causa(fase.esito),
+               .fase = fase.fase,
+               .paratia = dati.lunghezzaParatia,
+               .moto = fase.moto,
+               .instabile = fase.instabile,
+               .newton = fase.newton};
+    if (d.moto) {
+        d.parti = partiAlLimite(parete.problema(), *d.moto);
         const LunghezzaMinima minima = lunghezzaMinima(dati, nSeg);
         if (minima.lunghezza && *minima.lunghezza > dati.lunghezzaParatia)
             d.lunghezza = minima.lunghezza;
     }
     if (d.causa == Causa::oscilla)
-        d.spostamento = std::fabs(equilibrium::estremi(*f, parete.problema().h).spostamento.valore);
+        d.spostamento =
+            std::fabs(equilibrium::estremi(fase, parete.problema().h).spostamento.valore);
     return d;
+}
+
+Diagnosi diagnosi(const project::DatiProgetto& dati, int nSeg, int fase) {
+    equilibrium::EquilibrioParete parete(dati, nSeg);
+    Diagnosi chiesta;
+    for (int k = 1; k <= dati.nFasi; ++k) {
+        const equilibrium::FaseEquilibrio& f = parete.calcola(k);
+        if (k > fase && f.rifiuto) break;
+        if (f.esito != EsitoFase::equilibrio) return diagnosi(dati, nSeg, parete, f);
+        if (k == fase) chiesta = diagnosi(dati, nSeg, parete, f);
+    }
+    return chiesta;
 }
 
 }  // namespace korven::safety

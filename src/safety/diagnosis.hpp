@@ -3,6 +3,7 @@
 #include <optional>
 #include <string_view>
 
+#include "equilibrium/limit_parts.hpp"
 #include "equilibrium/staged_equilibrium.hpp"
 #include "project/project_data.hpp"
 
@@ -22,20 +23,32 @@ enum class Causa {
 /// The stable word for it, in every language the same: "eseguito", "non_definito", ...
 [[nodiscard]] std::string_view parola(Causa causa);
 
-/// Why a stage of the specified run found no rest, by the certain method.
+/// Why a stage is no equilibrium, or why the specified run found none of one that is.
 struct Diagnosi {
     Causa causa = Causa::oscilla;
-    int fase = 0;  ///< the stage that is no equilibrium, or the one asked about
-    std::optional<equilibrium::Meccanismo> moto;  ///< of a mechanism
+    int fase = 0;        ///< the stage that is no equilibrium, or the one asked about
+    double paratia = 0;  ///< length of the wall [m]
+    std::optional<equilibrium::Meccanismo> moto{};  ///< of a mechanism
+    equilibrium::PartiAlLimite parti{};             ///< of a mechanism
     /// Of a mechanism: the length from which on the wall stands, if a longer one does [m].
-    std::optional<double> lunghezza;
-    equilibrium::DatoInstabile instabile;  ///< of `nonDefinito`
+    std::optional<double> lunghezza{};
+    equilibrium::DatoInstabile instabile{};                               ///< of `nonDefinito`
+    equilibrium::EsitoNewton newton = equilibrium::EsitoNewton::trovato;  ///< of `nessunNumero`
     double spostamento = 0;  ///< of `oscilla`: largest displacement of the stage in size [m]
 };
 
-/// Follows the wall to stage `fase`.
+/// Of a stage just computed.
+/// @param dati    the project whose stage it is
+/// @param parete  what has computed it
+/// @pre its soil has its values (`rifiuto`): asserted
+[[nodiscard]] Diagnosi diagnosi(const project::DatiProgetto& dati, int nSeg,
+                                const equilibrium::EquilibrioParete& parete,
+                                const equilibrium::FaseEquilibrio& fase);
+
+/// Of a stage of the specified run that found no rest. Follows the wall through all its stages: a
+/// wall that stands in this one and falls in a later one is none that stands.
 /// @param dati  with the bending stiffness of the run
-/// @pre the soil of these stages has its values, as the run found: asserted
+/// @pre the soil of the stages up to this one has its values, as the run found: asserted
 [[nodiscard]] Diagnosi diagnosi(const project::DatiProgetto& dati, int nSeg, int fase);
 
 }  // namespace korven::safety

@@ -100,6 +100,25 @@ TEST(MuriRaccontati, HaveTheForceOfAVeryStiffProp) {
     EXPECT_NEAR(fasi[1].tiri[0], resto, 1e-6);
 }
 
+// The quay wall 40 cm shorter stands in its first stage and falls in its second.
+TEST(Diagnosi, IsOfALaterStageThatFallsWhereTheOneAskedAboutStands) {
+    auto dati = muro("banchina");
+    EXPECT_EQ(diagnosi(dati, 50, 1).causa, Causa::oscilla);
+    EXPECT_EQ(diagnosi(dati, 50, 1).fase, 1);
+    dati.lunghezzaParatia -= 0.4;
+    const Diagnosi d = diagnosi(dati, 50, 1);
+    EXPECT_EQ(d.causa, Causa::meccanismo);
+    EXPECT_EQ(d.fase, 2);
+}
+
+TEST(Diagnosi, OfAMechanismNamesItsPartsAtTheirLimits) {
+    const auto dati = muro("meccanismo");
+    const Diagnosi d = diagnosi(dati, 50, 1);
+    EXPECT_EQ(d.paratia, dati.lunghezzaParatia);
+    EXPECT_FALSE(d.parti.monteAttivo.empty());
+    EXPECT_FALSE(d.parti.vallePassivo.empty());
+}
+
 TEST(Diagnosi, NamesDataThatAreNoStableWall) {
     auto dati = muro("banchina");
     dati.rigidezzaEJ = -1000;

@@ -229,6 +229,8 @@ inline const std::map<std::string, Texts> noTexts = {
     {"safety/diagnosis.cpp",
      {"eseguito", "rifiutato", "meccanismo", "oscilla", "fermato", "non_definito",
       "nessun_numero"}},
+    {"safety/words.cpp", {"korven32c"}},
+    {"safety/words.hpp", {"equilibrio", "equilibrium"}},
     {"report/footer.cpp", {"…", "–"}},
     {"report/footer.hpp", {"2,2,2,2,2,2,12,Arial"}},
     {"markup/syllable_rule.cpp", {"BCDFGLMNPQRSTVZbcdfglmnpqrstvz", "AEIOUaeiou"}},

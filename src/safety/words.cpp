@@ -1,0 +1,230 @@
+#include "safety/words.hpp"
+
+#include <cmath>
+#include <utility>
+#include <vector>
+
+#include "base/translated_texts.hpp"
+#include "project/shown_number.hpp"
+
+namespace korven::safety {
+
+namespace {
+
+using base::traduttore;
+using equilibrium::DatoInstabile;
+using equilibrium::EsitoNewton;
+using equilibrium::Instabile;
+using equilibrium::Meccanismo;
+using equilibrium::PartiAlLimite;
+using equilibrium::Tratto;
+using project::Unita;
+namespace unita = project::unita;
+
+std::string unito(std::string numero, const Unita& u) {
+    return std::move(numero) + " " + std::string(u.mostrata);
+}
+
+std::string valore(double conservato, const Unita& u) {
+    return unito(numeroMostrato(conservato, 1, u), u);
+}
+
+// A depth or a length to the centimetre, without zeros at its end.
+std::string metri(double m) {
+    std::string testo = project::numeroMostrato(m, 2);
+    if (testo.find('.') == std::string::npos || testo.find('e') != std::string::npos) return testo;
+    testo.erase(testo.find_last_not_of('0') + 1);
+    if (testo.back() == '.') testo.pop_back();
+    return testo;
+}
+
+// Keeps what is said, parted by a sign, and leaves out what says nothing.
+class Elenco {
+ public:
+    explicit Elenco(std::string_view segno) : segno_(segno) {}
+    void aggiungi(const std::string& detto) {
+        if (detto.empty()) return;
+        if (!testo_.empty()) testo_ += segno_;
+        testo_ += detto;
+    }
+    [[nodiscard]] const std::string& testo() const { return testo_; }
+
+ private:
+    std::string_view segno_;
+    std::string testo_;
+};
+
+// What moves and where to, told of the part that moves towards the excavation if the wall has one.
+std::string versoDi(const Meccanismo& moto, double paratia) {
+    const std::string dove = metri(moto.profondita);
+    const bool sopra = dove != metri(0);
+    const bool sotto = dove != metri(paratia);
+    if (moto.verso > 0) return sotto ? "il piede verso lo scavo" : "la testa verso monte";
+    return sopra ? "la testa verso lo scavo" : "il piede verso monte";
+}
+
+std::string tratti(std::string_view parte, const std::vector<Tratto>& dove) {
+    if (dove.empty()) return {};
+    Elenco elenco(", ");
+    for (const Tratto& t : dove)
+        elenco.aggiungi(t.da == t.a ? metri(t.da) : metri(t.da) + "-" + metri(t.a));
+    return traduttore(parte) + " " + unito(elenco.testo(), unita::metri);
+}
+
+std::string lenti(const std::vector<int>& tiranti) {
+    if (tiranti.empty()) return {};
+    Elenco elenco(", ");
+    for (const int tirante : tiranti) elenco.aggiungi(std::to_string(tirante));
+    return traduttore(tiranti.size() == 1 ? "tirante lento" : "tiranti lenti") + " " +
+           elenco.testo();
+}
+
+std::string nodo(const DatoInstabile& dato) {
+    return traduttore(dato.monte ? "lato monte" : "lato valle") + ", " + traduttore("profondità") +
+           " " + unito(metri(dato.profondita), unita::metri);
+}
+
+// Coefficients and limits of the excavated side are stored negative.
+std::string limiti(const DatoInstabile& dato) {
+    const double segno = dato.monte ? 1 : -1;
+    return "(" + numeroMostrato(segno * dato.valore, 2, unita::pressione) + " > " +
+           unito(numeroMostrato(segno * dato.passivo, 2, unita::pressione), unita::pressione) + ")";
+}
+
+std::string nella(std::string_view che, const Diagnosi& d) {
+    return traduttore(che) + " " + std::to_string(d.fase);
+}
+
+std::string sta(const Diagnosi& d) {
+    return traduttore("con uno spostamento massimo di") + " " +
+           valore(d.spostamento, unita::spostamentoFine) + ": " +
+           traduttore("oscilla soltanto l'iterazione");
+}
+
+std::string meccanismo(const Diagnosi& d) {
+    Elenco elenco("; ");
+    elenco.aggiungi(nella("la paratia è un meccanismo nella fase", d) + ": " + inBreve(d));
+    elenco.aggiungi(parole(d.parti));
+    elenco.aggiungi(d.lunghezza
+                        ? traduttore("di solito aiuta una paratia più lunga: circa") + " " +
+                              unito(metri(*d.lunghezza), unita::metri)
+                        : traduttore("controllare profondità di scavo, tiranti, livelli dell'acqua "
+                                     "e carichi in testa"));
+    return elenco.testo();
+}
+
+}  // namespace
+
+std::string parole(const Meccanismo& moto, double paratia) {
+    if (moto.traslazione)
+        return traduttore(moto.verso > 0 ? "trasla verso lo scavo" : "trasla verso monte");
+    return traduttore("ruota attorno alla profondità di") + " " +
+           unito(metri(moto.profondita), unita::metri) + ", " + traduttore(versoDi(moto, paratia));
+}
+
+std::string mancante(const Meccanismo& moto) {
+    const Unita& u = moto.traslazione ? unita::forza : unita::momento;
+    if (moto.mancante == 0) return traduttore("è in bilico, senza alcuna riserva");
+    const std::string quanto = numeroMostrato(moto.mancante, 1, u);
+    if (quanto == "0.0") return traduttore("mancano meno di") + " " + unito("0.1", u);
+    return traduttore("mancano") + " " + unito(quanto, u);
+}
+
+std::string parole(const PartiAlLimite& parti) {
+    Elenco lati(", ");
+    lati.aggiungi(tratti("monte attivo", parti.monteAttivo));
+    lati.aggiungi(tratti("monte passivo", parti.montePassivo));
+    lati.aggiungi(tratti("valle attivo", parti.valleAttivo));
+    lati.aggiungi(tratti("valle passivo", parti.vallePassivo));
+    Elenco tutte("; ");
+    if (!lati.testo().empty()) tutte.aggiungi(traduttore("al limite") + ": " + lati.testo());
+    tutte.aggiungi(lenti(parti.tirantiLenti));
+    return tutte.testo();
+}
+
+std::string parole(const DatoInstabile& dato) {
+    switch (dato.che) {
+        case Instabile::no:
+            break;
+        case Instabile::modulo:  // stored with the sign of the pressures that it takes away
+            return traduttore("modulo di reazione ks negativo") + " (" +
+                   valore(-dato.valore, unita::modulo) + "), " + nodo(dato) + "; " +
+                   traduttore(
+                       "controllare i valori di ks: una legge lineare può scendere sotto "
+                       "lo zero");
+        case Instabile::limiti:
+            return traduttore("limite attivo oltre quello passivo") + " " + limiti(dato) + ", " +
+                   nodo(dato) + "; " +
+                   traduttore(
+                       "controllare angolo di attrito, coesione, inclinazione del terreno "
+                       "e tensioni verticali");
+        case Instabile::tirante:
+            return traduttore("rigidezza negativa del tirante") + " " +
+                   std::to_string(dato.tirante) + " (" + valore(dato.valore, unita::rigidezza) +
+                   ")";
+        case Instabile::parete:
+            return traduttore("rigidezza EJ della paratia non positiva") + " (" +
+                   valore(dato.valore, unita::rigidezzaFlessionale) + ")";
+    }
+    return {};
+}
+
+std::string parole(EsitoNewton esito) {
+    switch (esito) {
+        case EsitoNewton::trovato:
+            break;
+        case EsitoNewton::nessunNumero:
+            return traduttore(
+                "i numeri superano ogni misura; controllare l'ordine di grandezza "
+                "dei dati");
+        case EsitoNewton::senzaMisura:
+            return traduttore(
+                "spostamenti oltre mille volte la lunghezza della paratia: nessun "
+                "equilibrio utile; controllare rigidezze e carichi");
+        case EsitoNewton::nonRaggiunto:
+            return traduttore(
+                "spostamenti non trovati nel numero massimo di passi; controllare "
+                "l'ordine di grandezza dei dati");
+    }
+    return {};
+}
+
+std::string inBreve(const Diagnosi& d) {
+    switch (d.causa) {
+        case Causa::meccanismo:
+            return d.moto ? parole(*d.moto, d.paratia) + "; " + mancante(*d.moto) : std::string();
+        case Causa::oscilla:
+            return traduttore("la paratia sta") + ", " + sta(d);
+        case Causa::nonDefinito:
+            return parole(d.instabile);
+        case Causa::nessunNumero:
+            return parole(d.newton);
+        case Causa::eseguito:
+        case Causa::rifiutato:
+        case Causa::fermato:
+            break;
+    }
+    return {};
+}
+
+std::string frase(const Diagnosi& d) {
+    switch (d.causa) {
+        case Causa::meccanismo:
+            return meccanismo(d);
+        case Causa::oscilla:
+            return nella("la paratia sta nella fase", d) + ", " + sta(d) + "; " +
+                   traduttore("il suo equilibrio si calcola con") + " korven32c " +
+                   comandoEquilibrio.mostrato();
+        case Causa::nonDefinito:
+            return nella("l'equilibrio non è definito nella fase", d) + ": " + inBreve(d);
+        case Causa::nessunNumero:
+            return nella("nessun numero nella fase", d) + ": " + inBreve(d);
+        case Causa::eseguito:
+        case Causa::rifiutato:
+        case Causa::fermato:
+            break;
+    }
+    return {};
+}
+
+}  // namespace korven::safety

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <string>
+
+#include "base/twin_names.hpp"
+#include "safety/diagnosis.hpp"
+
+// A verdict in words, translated: forces in kN, moments in kN m, displacements in mm, all per metre
+// of wall. Lower case and without a full stop, as parts of a line.
+
+namespace korven::safety {
+
+/// The command that computes the certain equilibrium.
+inline constexpr base::Gemelli comandoEquilibrio{"equilibrio", "equilibrium"};
+
+/// How the wall moves: "ruota attorno alla profondità di 4.2 m, il piede verso lo scavo".
+/// @param paratia  length of the wall [m]
+[[nodiscard]] std::string parole(const equilibrium::Meccanismo& moto, double paratia);
+
+/// What holds too little: "mancano 35.1 kN m", of a translation "mancano 12.0 kN".
+[[nodiscard]] std::string mancante(const equilibrium::Meccanismo& moto);
+
+/// "al limite: monte attivo 0-10 m, valle passivo 8-10 m; tirante lento 2"; empty if nothing is.
+[[nodiscard]] std::string parole(const equilibrium::PartiAlLimite& parti);
+
+/// The value for which no equilibrium is certain, and what to look at. Empty for none.
+[[nodiscard]] std::string parole(const equilibrium::DatoInstabile& dato);
+
+/// Why there are no displacements, and what to look at. Empty where they were found.
+[[nodiscard]] std::string parole(equilibrium::EsitoNewton esito);
+
+/// The short form, of a stage that is known: the movement and what is missing, or how far the wall
+/// moves that stands, or what makes it no number.
+[[nodiscard]] std::string inBreve(const Diagnosi& diagnosi);
+
+/// The whole form, one line: the stage, the short form, the parts at their limits, what helps.
+[[nodiscard]] std::string frase(const Diagnosi& diagnosi);
+
+}  // namespace korven::safety
