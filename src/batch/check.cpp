@@ -7,6 +7,7 @@
 #include "batch/run/reviewed_run.hpp"
 #include "commands/report_files.hpp"
 #include "project/project_data.hpp"
+#include "review/remark_list.hpp"
 
 namespace korven::batch {
 
@@ -14,17 +15,18 @@ namespace {
 
 int esegui(const Opzioni& opzioni, const PorteComando&, Esito& esito) {
     preparaProgetto(opzioni, esito);
-    esito.rilievi = review::esaminaFile(opzioni.progetto, project::Progetto);
+    esito.osservazioni = review::esaminaFile(opzioni.progetto, project::Progetto);
     // Every command that calculates writes a result file; only some write more.
     const commands::UscitaRelazione soloRisultati(false);
     if (auto motivo =
             analysis::motivoUscite(project::fileCorrente, analysis::relazione, soloRisultati);
         !motivo.empty())
-        esito.rilievi.insert(esito.rilievi.begin(), {true, std::move(motivo)});
-    if (review::calcolabile(esito.rilievi))
+        esito.osservazioni.insert(esito.osservazioni.begin(),
+                                  review::una("uscita-in-conflitto", motivo));
+    if (review::calcolabile(esito.osservazioni))
         if (auto motivo = review::provaCalcolo(project::Progetto, opzioni.maxIterazioni))
-            esito.rilievi.insert(esito.rilievi.begin(), std::move(*motivo));
-    return review::calcolabile(esito.rilievi) ? fatto : nonEseguito;
+            esito.osservazioni.insert(esito.osservazioni.begin(), std::move(*motivo));
+    return review::calcolabile(esito.osservazioni) ? fatto : nonEseguito;
 }
 
 }  // namespace

@@ -234,6 +234,10 @@ bool colonna(const Campo& campo) {
     return std::visit([]<class Record, class T>(T Record::*) { return eTabella<T>; }, campo.membro);
 }
 
+std::string nomeStabile(const Campo& campo, int riga) {
+    return std::string(campo.nome) + (colonna(campo) ? "[" + std::to_string(riga) + "]" : "");
+}
+
 double numeroConservato(const DatiProgetto& dati, const Campo& campo, int riga) {
     assert(!colonna(campo) || (riga >= 1 && riga <= righe(dati, campo.parte)));
     double trovato = 0;

@@ -71,6 +71,9 @@ struct Campo {
 /// The row of a member. @pre there is one, as for every member of the project
 [[nodiscard]] const Campo& campo(const Membro& membro);
 
+/// The name of a field for programs, with its row if it is one of a table: "gammaN[3]".
+[[nodiscard]] std::string nomeStabile(const Campo& campo, int riga = 1);
+
 /// The code that a stored number of the field is; nullptr for one that is none.
 [[nodiscard]] const Codice* codice(const Campo& campo, double conservato);
 

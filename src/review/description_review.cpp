@@ -8,7 +8,19 @@
 
 namespace korven::review {
 
-void controlloDescrizioni(const project::DatiProgetto& dati, ElencoRilievi& elenco) {
+namespace {
+
+void entra(int strato, int lunga, ElencoOsservazioni& elenco) {
+    const auto descrizione = [](int j) { return riga(&project::DatiProgetto::descrStrato, j); };
+    Soggetto questa = descrizione(strato);
+    if (lunga != strato) questa.campi.push_back(descrizione(lunga).campi.front());
+    elenco.conParole("descrizione-lunga", questa,
+                     testo("descrizione-lunga") + " " + std::to_string(lunga));
+}
+
+}  // namespace
+
+void controlloDescrizioni(const project::DatiProgetto& dati, ElencoOsservazioni& elenco) {
     if (!(dati.profStrato[dati.nStrati] > 0)) return;  // there is no log
     const plot::MetricaStimata metrica;
     try {
@@ -20,15 +32,9 @@ void controlloDescrizioni(const project::DatiProgetto& dati, ElencoRilievi& elen
             disposte.begin(), disposte.end(),
             [](const auto& una, const auto& altra) { return una.altezza < altra.altezza; });
         for (const auto& descrizione : disposte)
-            if (descrizione.oltreLaTesta)
-                elenco.avviso(
-                    rigaNumerata("strato", descrizione.strato,
-                                 "nella stratigrafia la descrizione entra nella testata della "
-                                 "tabella: abbreviare le descrizioni, la più lunga è quella dello "
-                                 "strato") +
-                    " " + std::to_string(lunga->strato));
+            if (descrizione.oltreLaTesta) entra(descrizione.strato, lunga->strato, elenco);
     } catch (const base::ErroreIndice& errore) {  // names the layer and the number of lines
-        elenco.avviso(errore.what());
+        elenco.conParole("descrizione-senza-posto", errore.what());
     }
 }
 

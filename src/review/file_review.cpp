@@ -1,7 +1,10 @@
+#include <utility>
+
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
 #include "project/odd_lines.hpp"
 #include "review/project_review.hpp"
+#include "review/remark_list.hpp"
 
 namespace korven::review {
 
@@ -9,34 +12,38 @@ namespace {
 
 using base::testoNumero;
 using base::traduttore;
+using project::DatiProgetto;
 using project::RigaInsolita;
 
-std::string racconto(const RigaInsolita& insolita) {
-    const std::string dove = traduttore("riga") + " " + std::to_string(insolita.riga) + ": ";
+void racconta(const RigaInsolita& insolita, ElencoOsservazioni& elenco) {
+    const std::string dove = traduttore("riga") + " " + std::to_string(insolita.riga);
+    const std::string letto = dove + ": " + insolita.campo + " = " + testoNumero(insolita.letto);
     switch (insolita.motivo) {
         case RigaInsolita::Motivo::resto:
-            return dove + insolita.campo + " = " + testoNumero(insolita.letto) + ": " +
-                   traduttore("il resto della riga non conta, il segno decimale è il punto") +
-                   " (" + insolita.testo + ")";
+            elenco.conParole("resto-della-riga", Soggetto{letto, {}},
+                             testo("resto-della-riga") + " (" + insolita.testo + ")");
+            break;
         case RigaInsolita::Motivo::metodoSpinte:
-            return dove + insolita.campo + " = " + testoNumero(insolita.letto) + ": " +
-                   traduttore("un progetto si riapre sempre con il metodo di Coulomb (1)");
+            elenco.aggiungi(
+                "metodo-riaperto",
+                Soggetto{letto, {nomeStabile(project::campo(&DatiProgetto::metodoSpinte))}});
+            break;
         case RigaInsolita::Motivo::oltreLultima:
-            return dove + traduttore(
-                              "il file continua dopo l'ultimo valore: i numeri di strati, "
-                              "tiranti e fasi potrebbero non essere quelli delle righe scritte");
+            elenco.aggiungi("righe-in-piu", Soggetto{dove, {}});
+            break;
     }
-    return {};
 }
 
 }  // namespace
 
-std::vector<Rilievo> esaminaFile(const std::string& percorso, const project::DatiProgetto& dati) {
-    std::vector<Rilievo> rilievi = esaminaProgetto(dati);
+Osservazioni esaminaFile(const std::string& percorso, const DatiProgetto& dati) {
+    ElencoOsservazioni elenco;
     auto file = base::LettoreRighe::apri(percorso);
-    for (const auto& insolita : project::righeInsolite(file, dati))
-        rilievi.push_back({false, racconto(insolita)});
-    return rilievi;
+    for (const auto& insolita : project::righeInsolite(file, dati)) racconta(insolita, elenco);
+    Osservazioni osservazioni = esaminaProgetto(dati);
+    for (auto& osservazione : elenco.ordinate()) osservazioni.push_back(std::move(osservazione));
+    perPeso(osservazioni);
+    return osservazioni;
 }
 
 }  // namespace korven::review

@@ -15,8 +15,6 @@ namespace korven::review {
 
 namespace {
 
-using base::traduttore;
-
 constexpr std::size_t titoli = project::numeroTitoli;
 
 bool vuota(const std::string& riga) { return base::senzaSpaziEsterni(riga).empty(); }
@@ -49,38 +47,36 @@ std::size_t caratteriNelFoglio(std::size_t riga, const std::string& testo) {
     return caratteri;
 }
 
-std::vector<std::string> stranezzeTitolo(std::size_t riga, const std::vector<std::string>& righe) {
-    std::vector<std::string> trovate;
+std::vector<Stranezza> stranezzeTitolo(std::size_t riga, const std::vector<std::string>& righe) {
+    std::vector<Stranezza> trovate;
     if (riga < 1 || riga > std::min(righe.size(), titoli) || vuota(righe[riga - 1])) return trovate;
-    const std::string& testo = righe[riga - 1];
-    if (base::senzaSpaziEsterni(testo).starts_with('#'))
-        trovate.push_back(
-            traduttore("comincia con #: la relazione la prende per un comando, non la stampa e può "
-                       "finire lì; farla cominciare con un altro segno"));
-    if (const auto ci = caratteriNelFoglio(riga, testo); ci < base::numeroCaratteri(testo))
-        trovate.push_back(conValoreTraParentesi(
-            traduttore("nei disegni esce dal foglio: numero di caratteri che ci stanno"),
-            static_cast<double>(ci)));
+    const std::string& scritto = righe[riga - 1];
+    const auto trovata = [&](Voce voce) { return Stranezza{voce, testo(voce)}; };
+    if (base::senzaSpaziEsterni(scritto).starts_with('#'))
+        trovate.push_back(trovata("titolo-comando"));
+    if (const auto ci = caratteriNelFoglio(riga, scritto); ci < base::numeroCaratteri(scritto))
+        trovate.push_back({"titolo-largo",
+                           conValoreTraParentesi(testo("titolo-largo"), static_cast<double>(ci))});
     if (siSovrappongono(riga - 1, righe) || siSovrappongono(riga, righe))
-        trovate.push_back(
-            traduttore("nella stratigrafia si sovrappone alla riga vicina: lasciare una riga vuota "
-                       "tra due titoli"));
+        trovate.push_back(trovata("titoli-sovrapposti"));
     return trovate;
 }
 
 std::string notaTitolo(std::size_t campo, const std::vector<std::string>& righe) {
     std::string nota;
     for (const auto& stranezza : stranezzeTitolo(campo + 1, righe))
-        nota += (nota.empty() ? "" : "; ") + stranezza;
+        nota += (nota.empty() ? "" : "; ") + stranezza.testo;
     return nota;
 }
 
-void controlloTitoli(const project::DatiProgetto& dati, ElencoRilievi& elenco) {
+void controlloTitoli(const project::DatiProgetto& dati, ElencoOsservazioni& elenco) {
     std::vector<std::string> righe;
     for (int i = 1; i <= static_cast<int>(titoli); ++i) righe.push_back(dati.titoli[i]);
-    for (std::size_t i = 1; i <= titoli; ++i)
-        for (const auto& stranezza : stranezzeTitolo(i, righe))
-            elenco.avviso(traduttore("titolo") + " " + std::to_string(i) + ": " + stranezza);
+    for (int i = 1; i <= static_cast<int>(titoli); ++i) {
+        const Soggetto titolo = review::riga(&project::DatiProgetto::titoli, i);
+        for (const auto& stranezza : stranezzeTitolo(static_cast<std::size_t>(i), righe))
+            elenco.conParole(stranezza.voce, titolo, stranezza.testo);
+    }
 }
 
 }  // namespace korven::review

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "base/translated_texts.hpp"
 #include "review/remark_list.hpp"
 
 namespace korven::review {
@@ -17,9 +18,10 @@ std::string rifiutoStratigrafia(const project::DatiProgetto& dati) {
         if (std::abs(profondita) > std::abs(dati.profStrato[lontano])) lontano = i;
     }
     if (basso - alto <= massimaAltezzaStratigrafia) return {};
-    return rigaCampo(dati, &project::DatiProgetto::profStrato, lontano,
-                     "la colonna stratigrafica non è disegnata oltre i 500 m di altezza: "
-                     "correggere la profondità");
+    return rigaConValore(dati, &project::DatiProgetto::profStrato, lontano).testo + ": " +
+           base::traduttore(
+               "la colonna stratigrafica non è disegnata oltre i 500 m di altezza: "
+               "correggere la profondità");
 }
 
 }  // namespace korven::review

@@ -1,7 +1,5 @@
 #include "review/project_review.hpp"
 
-#include <algorithm>
-
 #include "analysis/input_checks.hpp"
 #include "analysis/run_arrays.hpp"
 #include "analysis/segment_count.hpp"
@@ -32,26 +30,27 @@ constexpr CampoConCodici codici[] = {
     {&DatiProgetto::metodoKs, "codice non previsto: il terreno non ha rigidezza"},
 };
 
-void controlloCodici(const DatiProgetto& dati, ElencoRilievi& elenco) {
+void controlloCodici(const DatiProgetto& dati, ElencoOsservazioni& elenco) {
     for (const auto& [membro, altrimenti] : codici) {
         const double valore = dati.*membro;
         if (project::codice(project::campo(membro), valore) == nullptr)
-            elenco.avviso(campoEValore(membro, valore) + ": " + traduttore(altrimenti));
+            elenco.conParole("codice-non-previsto", campoConValore(membro, valore),
+                             traduttore(altrimenti));
     }
 }
 
-void controlloIngressi(const DatiProgetto& dati, ElencoRilievi& elenco) {
+void controlloIngressi(const DatiProgetto& dati, ElencoOsservazioni& elenco) {
     const auto motivi = analysis::motiviRifiuto(dati);
-    for (const auto motivo : motivi) elenco.impedimento(traduttore(motivo));
+    for (const auto motivo : motivi) elenco.conParole("dati-mancanti", traduttore(motivo));
     const auto nSeg = analysis::leggiNSeg(analysis::vincoli(dati).incastroPiede);
-    if (!nSeg) elenco.impedimento(traduttore(analysis::motivoNSeg()));
+    if (!nSeg) elenco.conParole("segmenti-non-ammessi", traduttore(analysis::motivoNSeg()));
     if (motivi.empty() && nSeg) controlloSuolo(dati, *nSeg, elenco);
 }
 
 }  // namespace
 
-std::vector<Rilievo> esaminaProgetto(const DatiProgetto& dati) {
-    ElencoRilievi elenco;
+Osservazioni esaminaProgetto(const DatiProgetto& dati) {
+    ElencoOsservazioni elenco;
     controlloIngressi(dati, elenco);
     controlloMostrati(dati, elenco);
     controlloCodici(dati, elenco);
@@ -61,12 +60,7 @@ std::vector<Rilievo> esaminaProgetto(const DatiProgetto& dati) {
     controlloSezione(dati, elenco);
     controlloTitoli(dati, elenco);
     controlloDescrizioni(dati, elenco);
-    return elenco.ordinato();
-}
-
-bool calcolabile(const std::vector<Rilievo>& rilievi) {
-    return std::none_of(rilievi.begin(), rilievi.end(),
-                        [](const Rilievo& r) { return r.impedisce; });
+    return elenco.ordinate();
 }
 
 }  // namespace korven::review

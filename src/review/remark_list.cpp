@@ -6,6 +6,7 @@
 #include <limits>
 #include <utility>
 
+#include "base/filled_text.hpp"
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
 
@@ -22,16 +23,75 @@ constexpr project::Membro dettiPerEsteso[] = {
     &Sezione::armInterasse,
 };
 
-}  // namespace
-
-std::vector<Rilievo> ElencoRilievi::ordinato() {
-    std::stable_partition(rilievi_.begin(), rilievi_.end(),
-                          [](const Rilievo& r) { return r.impedisce; });
-    return std::exchange(rilievi_, {});
+// The shown value may be too large for a number; the review must still be able to tell it.
+std::string campoEValore(const project::Campo& campo, double conservato) {
+    constexpr double massimo = std::numeric_limits<double>::max();
+    return nomeCampo(campo) + " = " +
+           base::testoNumero(std::clamp(project::mostrato(campo, conservato), -massimo, massimo));
 }
 
-std::string rigaNumerata(std::string_view nome, int numero, std::string_view testo) {
-    return base::traduttore(nome) + " " + std::to_string(numero) + ": " + base::traduttore(testo);
+std::string inRiga(const Soggetto& soggetto, const std::string& testo) {
+    return soggetto.testo.empty() ? testo : soggetto.testo + ": " + testo;
+}
+
+}  // namespace
+
+void ElencoOsservazioni::aggiungi(Voce voce, const Soggetto& soggetto,
+                                  const std::vector<std::string>& valori) {
+    conParole(voce, soggetto, testo(voce, valori));
+}
+
+void ElencoOsservazioni::conValore(Voce voce, const Soggetto& soggetto, double valore) {
+    conParole(voce, soggetto, conValoreTraParentesi(testo(voce), valore));
+}
+
+void ElencoOsservazioni::conParole(Voce voce, const Soggetto& soggetto, const std::string& testo) {
+    osservazioni_.push_back(
+        {voce->codice, voce->peso, inRiga(soggetto, testo), soggetto.campi, voce->guida});
+}
+
+Osservazioni ElencoOsservazioni::ordinate() {
+    perPeso(osservazioni_);
+    return std::exchange(osservazioni_, {});
+}
+
+Osservazione una(Voce voce, const std::string& testo) {
+    ElencoOsservazioni elenco;
+    elenco.conParole(voce, testo);
+    return elenco.ordinate().front();
+}
+
+std::string testo(Voce voce, const std::vector<std::string>& valori) {
+    return base::riempito(base::traduttore(voce->testo), valori);
+}
+
+Soggetto riga(const project::Membro& colonna, int numero) {
+    const project::Campo& campo = project::campo(colonna);
+    return {nomeRiga(campo, numero), {project::nomeStabile(campo, numero)}};
+}
+
+Soggetto rigaConValore(const project::DatiProgetto& dati, const project::Membro& colonna,
+                       int numero) {
+    const project::Campo& campo = project::campo(colonna);
+    Soggetto soggetto = riga(colonna, numero);
+    soggetto.testo += ": " + campoEValore(campo, project::numeroConservato(dati, campo, numero));
+    return soggetto;
+}
+
+Soggetto campoConValore(const project::Membro& membro, double conservato) {
+    const project::Campo& campo = project::campo(membro);
+    return {campoEValore(campo, conservato), {project::nomeStabile(campo)}};
+}
+
+Soggetto dopo(const std::string& prima, Soggetto soggetto) {
+    soggetto.testo.insert(0, prima);
+    return soggetto;
+}
+
+Soggetto insieme(Soggetto uno, const Soggetto& altro) {
+    uno.testo += ", " + altro.testo;
+    uno.campi.insert(uno.campi.end(), altro.campi.begin(), altro.campi.end());
+    return uno;
 }
 
 std::string conValoreTraParentesi(std::string testo, double valore) {
@@ -45,27 +105,12 @@ std::string nomeCampo(const project::Campo& campo) {
     return base::traduttore(detto ? std::string(campo.cosa) : project::etichetta(campo));
 }
 
-// The shown value may be too large for a number; the review must still be able to tell it.
-std::string campoEValore(const project::Membro& membro, double conservato) {
-    constexpr double massimo = std::numeric_limits<double>::max();
-    const project::Campo& riga = project::campo(membro);
-    return nomeCampo(riga) + " = " +
-           base::testoNumero(std::clamp(project::mostrato(riga, conservato), -massimo, massimo));
-}
-
 std::string nomeRiga(const project::Campo& colonna, int numero) {
     const char* nome = colonna.parte == project::Parte::strati    ? "strato"
                        : colonna.parte == project::Parte::tiranti ? "tirante"
-                                                                  : "fase";
+                       : colonna.parte == project::Parte::fasi    ? "fase"
+                                                                  : "titolo";
     return base::traduttore(nome) + " " + std::to_string(numero);
-}
-
-std::string rigaCampo(const project::DatiProgetto& dati, const project::Membro& colonna, int numero,
-                      std::string_view testo) {
-    const project::Campo& riga = project::campo(colonna);
-    return nomeRiga(riga, numero) + ": " +
-           campoEValore(colonna, project::numeroConservato(dati, riga, numero)) + ": " +
-           base::traduttore(testo);
 }
 
 bool intero(double valore) { return valore == std::floor(valore); }

@@ -5,26 +5,60 @@
 #include <vector>
 
 #include "project/field_table.hpp"
-#include "review/project_review.hpp"
+#include "review/remark.hpp"
+#include "review/remark_table.hpp"
 
 // The parts of a project's review: the list that its checks fill, and the checks by subject. A
 // field is called as editor and report call it and its value shown in their unit.
 
 namespace korven::review {
 
-class ElencoRilievi {
- public:
-    void impedimento(std::string testo) { rilievi_.push_back({true, std::move(testo)}); }
-    void avviso(std::string testo) { rilievi_.push_back({false, std::move(testo)}); }
-    /// What prevents a run first, else in the order in which it was found; empties the list.
-    [[nodiscard]] std::vector<Rilievo> ordinato();
-
- private:
-    std::vector<Rilievo> rilievi_;
+/// What a remark is about: how its line begins, and the fields in question.
+struct Soggetto {
+    std::string testo;
+    std::vector<std::string> campi;
 };
 
-/// "strato 3: ...", both texts being Italian keys.
-[[nodiscard]] std::string rigaNumerata(std::string_view nome, int numero, std::string_view testo);
+class ElencoOsservazioni {
+ public:
+    /// "strato 3: Gamma [kN/m³] = 18: ...", the text of the row with its values after the subject.
+    void aggiungi(Voce voce, const Soggetto& soggetto, const std::vector<std::string>& valori = {});
+    /// One that is about no field in particular.
+    void aggiungi(Voce voce) { aggiungi(voce, Soggetto{}); }
+    /// The value in question follows in brackets.
+    void conValore(Voce voce, const Soggetto& soggetto, double valore);
+    /// A sentence that is worded elsewhere, translated, follows.
+    void conParole(Voce voce, const Soggetto& soggetto, const std::string& testo);
+    void conParole(Voce voce, const std::string& testo) { conParole(voce, Soggetto{}, testo); }
+
+    /// By weight, else in the order in which they were found; empties the list.
+    [[nodiscard]] Osservazioni ordinate();
+
+ private:
+    Osservazioni osservazioni_;
+};
+
+/// One alone, of a sentence that is worded elsewhere.
+[[nodiscard]] Osservazione una(Voce voce, const std::string& testo);
+
+/// The text of a row, translated, with its values.
+[[nodiscard]] std::string testo(Voce voce, const std::vector<std::string>& valori = {});
+
+/// "strato 3", with one cell of its row in question.
+[[nodiscard]] Soggetto riga(const project::Membro& colonna, int numero);
+
+/// "strato 3: Gamma [kN/m³] = 18".
+[[nodiscard]] Soggetto rigaConValore(const project::DatiProgetto& dati,
+                                     const project::Membro& colonna, int numero);
+
+/// "Gamma [kN/m³] = 18" for a stored 1.8.
+[[nodiscard]] Soggetto campoConValore(const project::Membro& membro, double conservato);
+
+/// The same in front of which another text stands: "lato monte: ...".
+[[nodiscard]] Soggetto dopo(const std::string& prima, Soggetto soggetto);
+
+/// Two fields in one remark: "..., ...".
+[[nodiscard]] Soggetto insieme(Soggetto uno, const Soggetto& altro);
 
 /// A text followed by the value in question, in brackets.
 [[nodiscard]] std::string conValoreTraParentesi(std::string testo, double valore);
@@ -33,16 +67,7 @@ class ElencoRilievi {
 /// much outside its form, what it is; translated.
 [[nodiscard]] std::string nomeCampo(const project::Campo& campo);
 
-/// "Gamma [kN/m³] = 18" for a stored 1.8.
-[[nodiscard]] std::string campoEValore(const project::Membro& membro, double conservato);
-
-/// "strato 3: Gamma [kN/m³] = 18: ...": a row of a column, by its stored number.
-/// @param testo  Italian key
-[[nodiscard]] std::string rigaCampo(const project::DatiProgetto& dati,
-                                    const project::Membro& colonna, int numero,
-                                    std::string_view testo);
-
-/// "strato 3" for a column of the layers.
+/// "strato 3" for a column of the layers, and so on.
 [[nodiscard]] std::string nomeRiga(const project::Campo& colonna, int numero);
 
 [[nodiscard]] bool intero(double valore);
@@ -51,25 +76,25 @@ class ElencoRilievi {
 inline constexpr double massimoPeso = 5;
 
 /// The layers, the ground and the water.
-void controlloTerreno(const project::DatiProgetto& dati, ElencoRilievi& elenco);
+void controlloTerreno(const project::DatiProgetto& dati, ElencoOsservazioni& elenco);
 
 /// The soil values of all stages, as a run would compute them.
 /// @pre no input check fails: asserted
-void controlloSuolo(const project::DatiProgetto& scritti, int nSeg, ElencoRilievi& elenco);
+void controlloSuolo(const project::DatiProgetto& scritti, int nSeg, ElencoOsservazioni& elenco);
 
 /// The fields whose shown value is larger than the stored one and no number any more.
-void controlloMostrati(const project::DatiProgetto& dati, ElencoRilievi& elenco);
+void controlloMostrati(const project::DatiProgetto& dati, ElencoOsservazioni& elenco);
 
-void controlloTiranti(const project::DatiProgetto& dati, ElencoRilievi& elenco);
-void controlloFasi(const project::DatiProgetto& dati, ElencoRilievi& elenco);
+void controlloTiranti(const project::DatiProgetto& dati, ElencoOsservazioni& elenco);
+void controlloFasi(const project::DatiProgetto& dati, ElencoOsservazioni& elenco);
 
 /// The heading lines, of which report and drawings make something else than is typed.
-void controlloTitoli(const project::DatiProgetto& dati, ElencoRilievi& elenco);
+void controlloTitoli(const project::DatiProgetto& dati, ElencoOsservazioni& elenco);
 
 /// The descriptions of the layers, where the log has no room for them.
-void controlloDescrizioni(const project::DatiProgetto& dati, ElencoRilievi& elenco);
+void controlloDescrizioni(const project::DatiProgetto& dati, ElencoOsservazioni& elenco);
 
 /// The stiffness and the structural section.
-void controlloSezione(const project::DatiProgetto& dati, ElencoRilievi& elenco);
+void controlloSezione(const project::DatiProgetto& dati, ElencoOsservazioni& elenco);
 
 }  // namespace korven::review

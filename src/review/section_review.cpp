@@ -1,5 +1,3 @@
-#include <utility>
-
 #include "analysis/input_checks.hpp"
 #include "analysis/run_arrays.hpp"
 #include "base/translated_texts.hpp"
@@ -18,8 +16,6 @@ using project::DatiProgetto;
 using project::Sezione;
 using structure::TipoSezione;
 
-constexpr const char* oltreMeta = "l'asse delle armature arriva a metà della sezione o la supera";
-
 bool qualcosaScritto(const Sezione& s) {
     Sezione vuota;
     for (const auto tipo : project::tipiSezione) vuota.*tipo = s.*tipo;
@@ -34,16 +30,17 @@ double rigidezzaDallaSezione(const Sezione& s) {
 // A typed stiffness this many times the section's own, or less than that part of it, is a slip.
 constexpr double scartoRigidezza = 3;
 
-void controlloRigidezza(const DatiProgetto& dati, ElencoRilievi& elenco) {
+void controlloRigidezza(const DatiProgetto& dati, ElencoOsservazioni& elenco) {
     const double EJ = dati.rigidezzaEJ;
     const double sezione = rigidezzaDallaSezione(dati.sezione);
-    const std::string scritta = campoEValore(&DatiProgetto::rigidezzaEJ, EJ) + ": ";
-    if (EJ == 0 && sezione == 0) elenco.impedimento(traduttore(analysis::messaggioSenzaEJ));
-    if (EJ < 0) elenco.avviso(scritta + traduttore("valore negativo"));
+    const Soggetto scritta = campoConValore(&DatiProgetto::rigidezzaEJ, EJ);
+    if (EJ == 0 && sezione == 0)
+        elenco.conParole("senza-rigidezza", {{}, scritta.campi},
+                         traduttore(analysis::messaggioSenzaEJ));
+    if (EJ < 0) elenco.aggiungi("ej-negativa", scritta);
     if (EJ > 0 && sezione > 0 && (EJ > scartoRigidezza * sezione || sezione > scartoRigidezza * EJ))
-        elenco.avviso(conValoreTraParentesi(
-            scritta + traduttore("è lontana da quella della sezione"),
-            project::mostrato(project::campo(&DatiProgetto::rigidezzaEJ), sezione)));
+        elenco.conValore("ej-lontana", scritta,
+                         project::mostrato(project::campo(&DatiProgetto::rigidezzaEJ), sezione));
 }
 
 // The fields of one face of the diaphragm.
@@ -59,66 +56,60 @@ constexpr Faccia facce[] = {
     {"lato valle", &Sezione::copriferroValle, &Sezione::interasseValle, &Sezione::diametroValle},
 };
 
-void controlloFaccia(const Faccia& faccia, const Sezione& s, ElencoRilievi& elenco) {
+void controlloFaccia(const Faccia& faccia, const Sezione& s, ElencoOsservazioni& elenco) {
     const struct {
         double copriferro, interasse, diametro;
     } f{s.*faccia.copriferro, s.*faccia.interasse, s.*faccia.diametro};
     const std::string dove = traduttore(faccia.nome) + ": ";
-    const std::string copriferro = dove + campoEValore(faccia.copriferro, f.copriferro) + ": ";
+    const Soggetto copriferro = dopo(dove, campoConValore(faccia.copriferro, f.copriferro));
     if ((f.interasse > 0) != (f.diametro > 0)) {
-        elenco.avviso(dove + campoEValore(faccia.interasse, f.interasse) + ", " +
-                      campoEValore(faccia.diametro, f.diametro) + ": " +
-                      traduttore("la faccia conta come non armata"));
+        elenco.aggiungi("faccia-non-armata",
+                        dopo(dove, insieme(campoConValore(faccia.interasse, f.interasse),
+                                           campoConValore(faccia.diametro, f.diametro))));
         return;
     }
     const bool armata = f.interasse > 0;
     // Without a whole face the section counts as defined in part and no bars count at all.
     if (armata && f.copriferro <= 0 && structure::sezioneValida(s))
-        elenco.avviso(copriferro + traduttore("senza copriferro il calcolo conta le armature ma la "
-                                              "relazione non le mostra"));
-    if (!armata && f.copriferro > 0)
-        elenco.avviso(copriferro + traduttore("la faccia conta come non armata"));
+        elenco.aggiungi("senza-copriferro", copriferro);
+    if (!armata && f.copriferro > 0) elenco.aggiungi("faccia-non-armata", copriferro);
     if (armata && s.spessoreDiaframma > 0 &&
         f.copriferro + f.diametro / 2 >= s.spessoreDiaframma / 2)
-        elenco.avviso(copriferro + traduttore(oltreMeta));
+        elenco.aggiungi("ferri-a-meta", copriferro);
 }
 
-void controlloStaffe(const Sezione& s, ElencoRilievi& elenco) {
+void controlloStaffe(const Sezione& s, ElencoOsservazioni& elenco) {
     if ((s.armPassoStaffe > 0) == (s.armDiamStaffe > 0)) return;
-    elenco.avviso(campoEValore(&Sezione::armDiamStaffe, s.armDiamStaffe) + ", " +
-                  campoEValore(&Sezione::armPassoStaffe, s.armPassoStaffe) + ": " +
-                  traduttore("senza l'uno o l'altro non c'è verifica a taglio"));
+    elenco.aggiungi("staffe-incomplete",
+                    insieme(campoConValore(&Sezione::armDiamStaffe, s.armDiamStaffe),
+                            campoConValore(&Sezione::armPassoStaffe, s.armPassoStaffe)));
 }
 
 // The shear check takes the largest value of all nodes, those at the ends included.
-void controlloTaglio(const DatiProgetto& dati, ElencoRilievi& elenco) {
+void controlloTaglio(const DatiProgetto& dati, ElencoOsservazioni& elenco) {
     if (!structure::staffePresenti(dati.sezione) || !structure::sezioneValida(dati.sezione)) return;
     if (analysis::vincoli(dati).incastroPiede)
-        elenco.avviso(
-            campoEValore(&DatiProgetto::vincoloPiede, dati.vincoloPiede) + ": " +
-            traduttore("la verifica a taglio conta anche il valore al piede incastrato, che "
-                       "non è un taglio della paratia e cresce con il numero di segmenti"));
+        elenco.aggiungi("taglio-al-piede",
+                        campoConValore(&DatiProgetto::vincoloPiede, dati.vincoloPiede));
     if (dati.forzaTesta != 0)
-        elenco.avviso(
-            campoEValore(&DatiProgetto::forzaTesta, dati.forzaTesta) + ": " +
-            traduttore("la verifica a taglio conta anche il valore in testa, che è il doppio "
-                       "della forza e non è il taglio della paratia"));
+        elenco.aggiungi("taglio-in-testa",
+                        campoConValore(&DatiProgetto::forzaTesta, dati.forzaTesta));
 }
 
-void controlloMisure(const Sezione& s, ElencoRilievi& elenco) {
+void controlloMisure(const Sezione& s, ElencoOsservazioni& elenco) {
     switch (structure::tipoSezione(s)) {
         case TipoSezione::diaframma:
             for (const Faccia& faccia : facce) controlloFaccia(faccia, s, elenco);
             break;
         case TipoSezione::pali:
             if (s.paliDiamEst > 0 && s.paliDiamInt >= s.paliDiamEst)
-                elenco.avviso(campoEValore(&Sezione::paliDiamInt, s.paliDiamInt) + ": " +
-                              traduttore("non è minore del diametro esterno"));
+                elenco.aggiungi("diametri-invertiti",
+                                campoConValore(&Sezione::paliDiamInt, s.paliDiamInt));
             break;
         case TipoSezione::paliArmati:
             if (s.armDiamPalo > 0 && structure::raggioFerri(structure::paliArmatiMm(s)) <= 0)
-                elenco.avviso(campoEValore(&Sezione::armCopriferro, s.armCopriferro) + ": " +
-                              traduttore(oltreMeta));
+                elenco.aggiungi("ferri-a-meta",
+                                campoConValore(&Sezione::armCopriferro, s.armCopriferro));
             controlloStaffe(s, elenco);
             break;
         case TipoSezione::palancola:
@@ -127,53 +118,39 @@ void controlloMisure(const Sezione& s, ElencoRilievi& elenco) {
     }
 }
 
-void controlloTipo(const Sezione& s, ElencoRilievi& elenco) {
+void controlloTipo(const Sezione& s, ElencoOsservazioni& elenco) {
     const int tipi = s.tipoDiaframma + s.tipoPali + s.tipoPalancola + s.tipoPaliArmati;
-    if (tipi > 1) elenco.avviso(traduttore("sezione: più tipi indicati insieme, vale il primo"));
+    if (tipi > 1) elenco.aggiungi("piu-tipi");
     if (structure::sezioneValida(s) || !qualcosaScritto(s)) return;
     if (structure::sezioneDefinita(s))
-        elenco.avviso(
-            traduttore("sezione di pali senza diametro interno: la relazione la mostra con "
-                       "resistenza nulla"));
+        elenco.aggiungi("pali-senza-interno");
     else if (tipi == 0)
-        elenco.avviso(
-            traduttore("sezione senza un tipo: nessuna verifica strutturale e nessun ricalcolo di "
-                       "EJ"));
+        elenco.aggiungi("sezione-senza-tipo");
     else
-        elenco.avviso(
-            traduttore("sezione definita solo in parte: nessuna verifica strutturale e nessun "
-                       "ricalcolo di EJ"));
+        elenco.aggiungi("sezione-incompleta");
 }
 
 // Few piles have so many bars, but any report of ten bars or more shows such a number.
 constexpr double ferriDaRelazione = 100;
 
 // The editor stores a tenth of the number that is typed, so 12 typed for twelve bars becomes 1.2.
-void controlloFerri(const DatiProgetto& dati, ElencoRilievi& elenco) {
+void controlloFerri(const DatiProgetto& dati, ElencoOsservazioni& elenco) {
     const Sezione& s = dati.sezione;
     if (structure::tipoSezione(s) != TipoSezione::paliArmati || s.armNumLong == 0) return;
-    if (auto troppi = analysis::motivoFerri(dati); !troppi.empty())
-        elenco.impedimento(std::move(troppi));
+    const Soggetto ferri{{}, campoConValore(&Sezione::armNumLong, s.armNumLong).campi};
+    if (const auto troppi = analysis::motivoFerri(dati); !troppi.empty())
+        elenco.conParole("troppi-ferri", ferri, troppi);
     else if (s.armNumLong < 1)
-        elenco.avviso(conValoreTraParentesi(
-            traduttore("numero di ferri memorizzato minore di 1: i pali contano come non armati "
-                       "(scheda e relazione mostrano dieci volte il numero usato nel calcolo)"),
-            s.armNumLong));
+        elenco.conValore("ferri-meno-di-uno", ferri, s.armNumLong);
     else if (s.armNumLong >= ferriDaRelazione)
-        elenco.avviso(conValoreTraParentesi(
-            traduttore("numero di ferri memorizzato di 100 o più: sembra quello della relazione, "
-                       "che mostra dieci volte il numero usato nel calcolo"),
-            s.armNumLong));
+        elenco.conValore("ferri-da-relazione", ferri, s.armNumLong);
     else if (!intero(s.armNumLong))
-        elenco.avviso(conValoreTraParentesi(
-            traduttore("numero di ferri memorizzato non intero (scheda e relazione mostrano dieci "
-                       "volte il numero usato nel calcolo)"),
-            s.armNumLong));
+        elenco.conValore("ferri-non-interi", ferri, s.armNumLong);
 }
 
 }  // namespace
 
-void controlloSezione(const DatiProgetto& dati, ElencoRilievi& elenco) {
+void controlloSezione(const DatiProgetto& dati, ElencoOsservazioni& elenco) {
     controlloRigidezza(dati, elenco);
     controlloTipo(dati.sezione, elenco);
     controlloMisure(dati.sezione, elenco);

@@ -49,28 +49,32 @@ bool scritto(const Campo& campo) {
     return campo.unita.fattore != 1 && campo.membro != project::Membro(&DatiProgetto::suStrato);
 }
 
-void esamina(double valore, const std::string& campo, ElencoRilievi& elenco) {
-    if (std::isfinite(valore)) return;
-    elenco.impedimento(campo + ": " + traduttore("valore troppo grande per essere mostrato"));
+void esamina(double valore, const Soggetto& campo, ElencoOsservazioni& elenco) {
+    if (!std::isfinite(valore)) elenco.aggiungi("valore-non-mostrabile", campo);
 }
 
-void esaminaTabella(const DatiProgetto& dati, project::Parte parte, ElencoRilievi& elenco) {
+// The value can't be told: its name alone.
+Soggetto nominato(const Campo& campo, int riga = 0) {
+    return {nomeCampo(campo), {project::nomeStabile(campo, riga)}};
+}
+
+void esaminaTabella(const DatiProgetto& dati, project::Parte parte, ElencoOsservazioni& elenco) {
     for (int j = 1; j <= project::righe(dati, parte); ++j)
         for (const Campo& c : project::campi())
             if (c.parte == parte && project::colonna(c) && scritto(c))
-                esamina(project::mostrato(dati, c, j), nomeRiga(c, j) + ": " + nomeCampo(c),
+                esamina(project::mostrato(dati, c, j), dopo(nomeRiga(c, j) + ": ", nominato(c, j)),
                         elenco);
 }
 
-void esaminaParatia(const DatiProgetto& dati, ElencoRilievi& elenco) {
+void esaminaParatia(const DatiProgetto& dati, ElencoOsservazioni& elenco) {
     for (const Campo& c : project::campi())
         if (c.parte == project::Parte::paratia && scritto(c))
-            esamina(project::mostrato(dati, c), nomeCampo(c), elenco);
+            esamina(project::mostrato(dati, c), nominato(c), elenco);
 }
 
 }  // namespace
 
-void controlloMostrati(const DatiProgetto& dati, ElencoRilievi& elenco) {
+void controlloMostrati(const DatiProgetto& dati, ElencoOsservazioni& elenco) {
     esaminaTabella(dati, project::Parte::strati, elenco);
     esaminaParatia(dati, elenco);
     esaminaTabella(dati, project::Parte::tiranti, elenco);
@@ -80,14 +84,14 @@ void controlloMostrati(const DatiProgetto& dati, ElencoRilievi& elenco) {
         const Campo& c = project::campo(membro);
         if (c.parte != inVigore) continue;
         const std::string faccia = dove.empty() ? std::string() : traduttore(dove) + ": ";
-        esamina(project::mostrato(dati, c), faccia + nomeCampo(c), elenco);
+        esamina(project::mostrato(dati, c), dopo(faccia, nominato(c)), elenco);
     }
 }
 
 bool mostrabile(const DatiProgetto& dati) {
-    ElencoRilievi elenco;
+    ElencoOsservazioni elenco;
     controlloMostrati(dati, elenco);
-    return elenco.ordinato().empty();
+    return elenco.ordinate().empty();
 }
 
 }  // namespace korven::review

@@ -23,91 +23,82 @@ using project::massimoStrati;
 using project::MetodoKs;
 using project::MetodoSpinte;
 
-constexpr const char* scrittoInKilonewton =
-    "sembra un peso di volume in kN/m³: il file lo tiene in t/m³, dieci volte più piccolo";
-
 constexpr double profonditaInsolita = 200;  // no wall reaches there [m]
 
 struct ControlloStrato {
     base::Tabella<double, massimoStrati> DatiProgetto::*colonna;
     bool (*dubbio)(const DatiProgetto&, int);
-    std::string_view testo;
+    Voce voce;
 };
 
 using Dati = const DatiProgetto&;
 
 const ControlloStrato controlliStrato[] = {
     {&DatiProgetto::profStrato, [](Dati d, int j) { return d.profStrato[j] < d.profStrato[j - 1]; },
-     "finisce più in alto dello strato precedente"},
+     "strato-in-disordine"},
     {&DatiProgetto::profStrato,
-     [](Dati d, int j) { return d.profStrato[j] == d.profStrato[j - 1]; }, "ha spessore nullo"},
+     [](Dati d, int j) { return d.profStrato[j] == d.profStrato[j - 1]; }, "strato-nullo"},
     {&DatiProgetto::profStrato, [](Dati d, int j) { return d.profStrato[j] > profonditaInsolita; },
-     "supera i 200 m: controllare la profondità"},
-    {&DatiProgetto::gammaN, [](Dati d, int j) { return d.gammaN[j] <= 0; },
-     "peso di volume mancante"},
+     "strato-profondo"},
+    {&DatiProgetto::gammaN, [](Dati d, int j) { return d.gammaN[j] <= 0; }, "peso-mancante"},
     {&DatiProgetto::gammaN, [](Dati d, int j) { return d.gammaN[j] > massimoPeso; },
-     scrittoInKilonewton},
-    {&DatiProgetto::gammaSat, [](Dati d, int j) { return d.gammaSat[j] <= 0; },
-     "peso di volume mancante"},
+     "peso-in-kilonewton"},
+    {&DatiProgetto::gammaSat, [](Dati d, int j) { return d.gammaSat[j] <= 0; }, "peso-mancante"},
     {&DatiProgetto::gammaSat, [](Dati d, int j) { return d.gammaSat[j] > massimoPeso; },
-     scrittoInKilonewton},
+     "peso-in-kilonewton"},
     {&DatiProgetto::gammaSat,
      [](Dati d, int j) {
          return d.gammaSat[j] > 0 && d.gammaSat[j] < d.gammaN[j] && d.gammaN[j] <= massimoPeso;
      },
-     "il peso di volume saturo è minore di quello naturale"},
+     "peso-saturo-minore"},
     {&DatiProgetto::phiStrato,
      [](Dati d, int j) { return d.phiStrato[j] < 0 || d.phiStrato[j] >= 90; },
-     "l'angolo non è ammissibile"},
+     "angolo-non-ammissibile"},
     // Whether a run can do with it depends on the method; `controlloSuolo` finds that out.
     {&DatiProgetto::phiStrato,
      [](Dati d, int j) { return d.phiStrato[j] < std::abs(d.inclinazioneMonte); },
-     "l'angolo di attrito è minore dell'inclinazione del terreno"},
+     "angolo-minore-del-pendio"},
     {&DatiProgetto::phiStrato,
      [](Dati d, int j) {
          return d.metodoSpinte == MetodoSpinte::coulomb && d.phiStrato[j] < 90 &&
                 d.phiStrato[j] + d.inclinazioneMonte >= 90;
      },
-     "con l'inclinazione del terreno arriva a 90°: il coefficiente passivo di Coulomb non ha "
-     "significato"},
-    {&DatiProgetto::coesione, [](Dati d, int j) { return d.coesione[j] < 0; }, "valore negativo"},
+     "polo-passivo"},
+    {&DatiProgetto::coesione, [](Dati d, int j) { return d.coesione[j] < 0; }, "valore-negativo"},
     {&DatiProgetto::ksStrato,
      [](Dati d, int j) { return d.metodoKs >= MetodoKs::costante && d.ksStrato[j] == 0; },
-     "modulo ks mancante"},
+     "ks-mancante"},
     {&DatiProgetto::ksStrato,
      [](Dati d, int j) { return d.metodoKs >= MetodoKs::costante && d.ksStrato[j] < 0; },
-     "valore negativo"},
+     "ks-negativo"},
 };
 
 struct ControlloScalare {
     double DatiProgetto::*campo;
     bool (*dubbio)(Dati);
-    std::string_view testo;
+    Voce voce;
 };
 
 const ControlloScalare controlliScalari[] = {
-    {&DatiProgetto::sovraccMonte, [](Dati d) { return d.sovraccMonte < 0; }, "valore negativo"},
+    {&DatiProgetto::sovraccMonte, [](Dati d) { return d.sovraccMonte < 0; }, "valore-negativo"},
     {&DatiProgetto::inclinazioneMonte, [](Dati d) { return std::abs(d.inclinazioneMonte) >= 90; },
-     "l'angolo non è ammissibile"},
-    {&DatiProgetto::gammaAcqua, [](Dati d) { return d.gammaAcqua <= 0; },
-     "peso di volume mancante"},
+     "angolo-non-ammissibile"},
+    {&DatiProgetto::gammaAcqua, [](Dati d) { return d.gammaAcqua <= 0; }, "peso-mancante"},
     {&DatiProgetto::gammaAcqua, [](Dati d) { return d.gammaAcqua > massimoPeso; },
-     scrittoInKilonewton},
+     "peso-in-kilonewton"},
     {&DatiProgetto::coeffM,
      [](Dati d) { return d.metodoKs == MetodoKs::lancellotta && d.coeffM == 0; },
-     "il terreno non ha rigidezza"},
+     "terreno-senza-rigidezza"},
     {&DatiProgetto::coeffM,
-     [](Dati d) { return d.metodoKs == MetodoKs::lancellotta && d.coeffM < 0; }, "valore negativo"},
+     [](Dati d) { return d.metodoKs == MetodoKs::lancellotta && d.coeffM < 0; }, "ks-negativo"},
 };
 
-void controlloPiede(const DatiProgetto& dati, ElencoRilievi& elenco) {
+void controlloPiede(const DatiProgetto& dati, ElencoOsservazioni& elenco) {
     const int n = dati.nStrati;
     if (n == 0 || dati.profStrato[n] >= dati.lunghezzaParatia) return;
-    elenco.avviso(rigaCampo(
-        dati, &DatiProgetto::profStrato, n,
-        analysis::fondoStrato(dati, n) < dati.lunghezzaParatia
-            ? "la paratia scende più di 100 m sotto l'ultimo strato: là sotto non ha terreno"
-            : "gli strati finiscono sopra il piede della paratia: l'ultimo viene prolungato"));
+    elenco.aggiungi(analysis::fondoStrato(dati, n) < dati.lunghezzaParatia ? Voce("terreno-finito")
+                                                                           : "strato-prolungato",
+                    rigaConValore(dati, &DatiProgetto::profStrato, n));
 }
 
 std::string luogo(int fase, double profondita) {
@@ -117,14 +108,13 @@ std::string luogo(int fase, double profondita) {
 
 // A spring that pushes on instead of holding back; a run computes with it.
 bool moduloNegativo(const analysis::StatoSuolo& suolo, int fase, int nNodi, double passoNodi,
-                    ElencoRilievi& elenco) {
+                    ElencoOsservazioni& elenco) {
     for (int i = 1; i <= nNodi; ++i) {
         const double peggiore = std::max(suolo.Ehm[i], suolo.Ehv[i]);
         if (!(peggiore > 0)) continue;
-        elenco.avviso(luogo(fase, analysis::zNodo(i, passoNodi)) +
-                      campoEValore(&DatiProgetto::ksStrato, -peggiore) + ": " +
-                      traduttore("il terreno spinge invece di reagire, come accade con una "
-                                 "tensione efficace negativa"));
+        elenco.aggiungi("modulo-negativo",
+                        dopo(luogo(fase, analysis::zNodo(i, passoNodi)),
+                             campoConValore(&DatiProgetto::ksStrato, -peggiore)));
         return true;
     }
     return false;
@@ -138,17 +128,16 @@ bool ksNegativoScritto(const DatiProgetto& dati) {
 
 }  // namespace
 
-void controlloTerreno(const DatiProgetto& dati, ElencoRilievi& elenco) {
+void controlloTerreno(const DatiProgetto& dati, ElencoOsservazioni& elenco) {
     for (int j = 1; j <= dati.nStrati; ++j)
         for (const auto& c : controlliStrato)
-            if (c.dubbio(dati, j)) elenco.avviso(rigaCampo(dati, c.colonna, j, c.testo));
+            if (c.dubbio(dati, j)) elenco.aggiungi(c.voce, rigaConValore(dati, c.colonna, j));
     for (const auto& c : controlliScalari)
-        if (c.dubbio(dati))
-            elenco.avviso(campoEValore(c.campo, dati.*c.campo) + ": " + traduttore(c.testo));
+        if (c.dubbio(dati)) elenco.aggiungi(c.voce, campoConValore(c.campo, dati.*c.campo));
     controlloPiede(dati, elenco);
 }
 
-void controlloSuolo(const DatiProgetto& scritti, int nSeg, ElencoRilievi& elenco) {
+void controlloSuolo(const DatiProgetto& scritti, int nSeg, ElencoOsservazioni& elenco) {
     assert(analysis::motivoRifiuto(scritti).empty());
     DatiProgetto dati = scritti;
     const auto suolo = std::make_unique<analysis::StatoSuolo>();
@@ -158,8 +147,9 @@ void controlloSuolo(const DatiProgetto& scritti, int nSeg, ElencoRilievi& elenco
     for (int k = 1; k <= dati.nFasi; ++k) {
         dati.faldaValle = dati.faldaFase[k];
         if (const auto rifiuto = analysis::calcolaSuolo(dati, k, nSeg + 1, passoNodi, *suolo)) {
-            elenco.impedimento(luogo(k, rifiuto->profondita) +
-                               traduttore(analysis::causa(rifiuto->motivo)));
+            elenco.conParole(
+                "suolo-non-calcolabile",
+                luogo(k, rifiuto->profondita) + traduttore(analysis::causa(rifiuto->motivo)));
             return;
         }
         detto = detto || moduloNegativo(*suolo, k, nSeg + 1, passoNodi, elenco);

@@ -8,6 +8,7 @@
 #include "base/translated_texts.hpp"
 #include "base/value_error.hpp"
 #include "review/project_review.hpp"
+#include "review/remark_list.hpp"
 
 namespace korven::review {
 
@@ -33,18 +34,19 @@ std::string inUnaRiga(const std::vector<std::string>& righe) {
 
 }  // namespace
 
-std::optional<Rilievo> provaCalcolo(const project::DatiProgetto& dati, int maxIterazioni) {
+std::optional<Osservazione> provaCalcolo(const project::DatiProgetto& dati, int maxIterazioni) {
     const auto nSeg = analysis::leggiNSeg(analysis::vincoli(dati).incastroPiede);
-    if (!nSeg) return Rilievo{true, traduttore(analysis::motivoNSeg())};
+    if (!nSeg) return una("segmenti-non-ammessi", traduttore(analysis::motivoNSeg()));
     SenzaVista vista;
     const volatile std::sig_atomic_t interruzione = 0;
     analysis::ControlloCorsa controllo(vista, maxIterazioni, interruzione);
     const auto prova = analysis::provaFasi(dati, *nSeg, controllo);
-    if (controllo.oltreLimite()) return Rilievo{true, inUnaRiga(controllo.motivo())};
+    if (controllo.oltreLimite()) return una("fase-senza-riposo", inUnaRiga(controllo.motivo()));
     if (prova.faseSingolare > 0)
-        return Rilievo{true, traduttore("fase") + " " + std::to_string(prova.faseSingolare) + ": " +
-                                 traduttore(analysis::messaggioSingolare)};
-    if (!prova.mostrabile) return Rilievo{true, base::ErroreValore().what()};
+        return una("fase-singolare", traduttore("fase") + " " +
+                                         std::to_string(prova.faseSingolare) + ": " +
+                                         traduttore(analysis::messaggioSingolare));
+    if (!prova.mostrabile) return una("risultato-non-mostrabile", base::ErroreValore().what());
     return {};
 }
 

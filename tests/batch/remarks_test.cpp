@@ -22,8 +22,8 @@ class Rilievi : public test::BancoConsole {
     }
     static std::vector<std::string> elencati(const std::string& testo) {
         std::vector<std::string> tutti;
-        for (std::size_t da = testo.find("da vedere: "); da != std::string::npos;
-             da = testo.find("da vedere: ", da + 1))
+        for (std::size_t da = testo.find("pericolo: "); da != std::string::npos;
+             da = testo.find("pericolo: ", da + 1))
             tutti.push_back(testo.substr(da, testo.find('\n', da) - da));
         return tutti;
     }

@@ -131,9 +131,9 @@ bool traIRilievi(const Campo& campo) {
         if constexpr (std::is_same_v<std::remove_reference_t<decltype(valore)>, double>)
             valore = enorme;
     });
-    review::ElencoRilievi elenco;
+    review::ElencoOsservazioni elenco;
     review::controlloMostrati(d, elenco);
-    const auto rilievi = elenco.ordinato();
+    const auto rilievi = elenco.ordinate();
     return rilievi.size() == 1 &&
            rilievi[0].testo.find(review::nomeCampo(campo)) != std::string::npos;
 }

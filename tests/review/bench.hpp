@@ -19,7 +19,7 @@ inline std::vector<std::string> righe(const DatiProgetto& dati, const char* nSeg
     analysis::contenutoNSeg = nSeg;
     std::vector<std::string> testo;
     for (const auto& r : esaminaProgetto(dati))
-        testo.push_back((r.impedisce ? "! " : "") + r.testo);
+        testo.push_back((r.impedisce() ? "! " : "") + r.testo);
     analysis::contenutoNSeg.reset();
     return testo;
 }

@@ -18,7 +18,7 @@ std::vector<std::string> righeFile(const std::string& testo) {
     project::leggiDati(file, dati);
     std::vector<std::string> trovate;
     for (const auto& r : esaminaFile(percorso, dati))
-        trovate.push_back((r.impedisce ? "! " : "") + r.testo);
+        trovate.push_back((r.impedisce() ? "! " : "") + r.testo);
     return trovate;
 }
 

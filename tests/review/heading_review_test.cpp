@@ -21,10 +21,16 @@ Righe titoli(const Righe& prime) {
     return sei;
 }
 
+Righe stranezze(std::size_t riga, const Righe& righe) {
+    Righe testi;
+    for (const auto& stranezza : stranezzeTitolo(riga, righe)) testi.push_back(stranezza.testo);
+    return testi;
+}
+
 TEST(StranezzeTitolo, TellALineThatTheReportTakesForACommand) {
-    EXPECT_EQ(stranezzeTitolo(1, titoli({"#ENDDOCUMENT"})), Righe{comando});
-    EXPECT_EQ(stranezzeTitolo(3, titoli({"", "", "  # 12"})), Righe{comando});
-    EXPECT_TRUE(stranezzeTitolo(1, titoli({"Lotto #12"})).empty());
+    EXPECT_EQ(stranezze(1, titoli({"#ENDDOCUMENT"})), Righe{comando});
+    EXPECT_EQ(stranezze(3, titoli({"", "", "  # 12"})), Righe{comando});
+    EXPECT_TRUE(stranezze(1, titoli({"Lotto #12"})).empty());
 }
 
 // Arial sets an "m" 0.833 wide on its body; a text of height h is set on a body of 5/3 h / 1.117.
@@ -39,10 +45,10 @@ TEST(StranezzeTitolo, TellHowManyCharactersTheSheetHolds) {
     const std::string lunga(60, 'm');
     EXPECT_EQ(caratteriNelFoglio(1, lunga), prima);
     for (std::size_t riga = 2; riga <= 6; ++riga) EXPECT_EQ(caratteriNelFoglio(riga, lunga), altre);
-    EXPECT_EQ(stranezzeTitolo(1, titoli({lunga})),
+    EXPECT_EQ(stranezze(1, titoli({lunga})),
               Righe{"nei disegni esce dal foglio: numero di caratteri che ci stanno (28)"});
-    EXPECT_TRUE(stranezzeTitolo(1, titoli({std::string(28, 'm')})).empty());
-    EXPECT_TRUE(stranezzeTitolo(1, titoli({std::string(60, 'i')})).empty());  // narrow characters
+    EXPECT_TRUE(stranezze(1, titoli({std::string(28, 'm')})).empty());
+    EXPECT_TRUE(stranezze(1, titoli({std::string(60, 'i')})).empty());  // narrow characters
 }
 
 TEST(StranezzeTitolo, TellNeighboursThatTheLogPrintsOverEachOther) {
@@ -50,19 +56,19 @@ TEST(StranezzeTitolo, TellNeighboursThatTheLogPrintsOverEachOther) {
         auto due = titoli({});
         due[riga - 1] = "sopra";
         due[riga] = "sotto";
-        EXPECT_EQ(stranezzeTitolo(riga, due), Righe{vicina});
-        EXPECT_EQ(stranezzeTitolo(riga + 1, due), Righe{vicina});
+        EXPECT_EQ(stranezze(riga, due), Righe{vicina});
+        EXPECT_EQ(stranezze(riga + 1, due), Righe{vicina});
         due[riga] = "  ";
-        EXPECT_TRUE(stranezzeTitolo(riga, due).empty());
+        EXPECT_TRUE(stranezze(riga, due).empty());
     }
-    EXPECT_TRUE(stranezzeTitolo(3, titoli({"a", "", "c", "", "e"})).empty());
+    EXPECT_TRUE(stranezze(3, titoli({"a", "", "c", "", "e"})).empty());
 }
 
 TEST(StranezzeTitolo, HaveNothingToSayOfAnEmptyLineOrOfTheFieldAfterTheLines) {
-    EXPECT_TRUE(stranezzeTitolo(2, titoli({"a", "", "c"})).empty());
+    EXPECT_TRUE(stranezze(2, titoli({"a", "", "c"})).empty());
     Righe campi = titoli({"a", "", "", "", "", "f"});
     campi.push_back("#3");  // the stage of the diagrams
-    EXPECT_TRUE(stranezzeTitolo(7, campi).empty());
+    EXPECT_TRUE(stranezze(7, campi).empty());
     EXPECT_EQ(notaTitolo(6, campi), "");
 }
 

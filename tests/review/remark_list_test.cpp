@@ -2,23 +2,62 @@
 
 #include <gtest/gtest.h>
 
+#include "support/sample_projects.hpp"
+
 namespace korven::review {
 namespace {
 
-TEST(ElencoRilievi, KeepsTheOrderWithinWhatPreventsARunAndWithinTheRest) {
-    ElencoRilievi elenco;
-    elenco.avviso("a");
-    elenco.impedimento("b");
-    elenco.avviso("c");
-    elenco.impedimento("d");
+using project::DatiProgetto;
+
+TEST(ElencoOsservazioni, PutsTheHeaviestFirstAndKeepsTheOrderWithinAWeight) {
+    ElencoOsservazioni elenco;
+    elenco.conParole("strato-nullo", "a");
+    elenco.conParole("ks-mancante", "b");
+    elenco.conParole("troppi-ferri", "c");
+    elenco.conParole("strato-profondo", "d");
+    elenco.conParole("peso-mancante", "e");
     std::string ordine;
-    for (const auto& r : elenco.ordinato()) ordine += r.testo;
-    EXPECT_EQ(ordine, "bdac");
-    EXPECT_TRUE(elenco.ordinato().empty());
+    for (const auto& o : elenco.ordinate()) ordine += o.testo;
+    EXPECT_EQ(ordine, "cbead");
+    EXPECT_TRUE(elenco.ordinate().empty());
 }
 
-TEST(Riga, NamesTheRowInFrontOfTheText) {
-    EXPECT_EQ(rigaNumerata("strato", 3, "ha spessore nullo"), "strato 3: ha spessore nullo");
+TEST(ElencoOsservazioni, TakesCodeWeightTextAndPageFromTheTable) {
+    DatiProgetto dati = test::progettoSemplice();
+    dati.gammaN[1] = 1.8;
+    ElencoOsservazioni elenco;
+    elenco.aggiungi("peso-in-kilonewton", rigaConValore(dati, &DatiProgetto::gammaN, 1));
+    const auto trovate = elenco.ordinate();
+    ASSERT_EQ(trovate.size(), 1u);
+    EXPECT_EQ(trovate[0].codice, "peso-in-kilonewton");
+    EXPECT_EQ(trovate[0].peso, Peso::pericolo);
+    EXPECT_EQ(trovate[0].testo,
+              "strato 1: Gamma [kN/m³] = 18: sembra un peso di volume in kN/m³: il file lo tiene "
+              "in t/m³, dieci volte più piccolo");
+    EXPECT_EQ(trovate[0].campi, std::vector<std::string>{"gammaN[1]"});
+    EXPECT_EQ(trovate[0].guida, "stratigrafia");
+}
+
+TEST(ElencoOsservazioni, PutsAValueInBracketsBehindTheText) {
+    ElencoOsservazioni elenco;
+    elenco.conValore("tipo-tirante", riga(&DatiProgetto::tipoTirante, 2), 3);
+    const auto trovate = elenco.ordinate();
+    EXPECT_TRUE(trovate[0].testo.starts_with("tirante 2: tipo non previsto")) << trovate[0].testo;
+    EXPECT_TRUE(trovate[0].testo.ends_with(" (3)")) << trovate[0].testo;
+    EXPECT_EQ(trovate[0].campi, std::vector<std::string>{"tipoTirante[2]"});
+}
+
+TEST(Soggetto, NamesRowFieldAndValueInTheUnitOfTheEditor) {
+    DatiProgetto dati = test::progettoSemplice();
+    dati.coesione[1] = 0.5;
+    const auto uno = rigaConValore(dati, &DatiProgetto::coesione, 1);
+    EXPECT_EQ(uno.testo, "strato 1: Coes. [kN/m²] = 5");
+    const auto altro = campoConValore(&DatiProgetto::lunghezzaParatia, 12);
+    EXPECT_EQ(altro.campi, std::vector<std::string>{"lunghezzaParatia"});
+    const auto due = dopo("lato monte: ", insieme(uno, altro));
+    EXPECT_EQ(due.testo, "lato monte: " + uno.testo + ", " + altro.testo);
+    EXPECT_EQ(due.campi, (std::vector<std::string>{"coesione[1]", "lunghezzaParatia"}));
+    EXPECT_EQ(riga(&DatiProgetto::titoli, 4).testo, "titolo 4");
 }
 
 TEST(ConValore, PutsThePlainNumberInBrackets) {

@@ -19,10 +19,10 @@ std::vector<std::string> righe(const Sezione& sezione, double rigidezzaEJ) {
     DatiProgetto d = test::progettoSemplice();
     d.sezione = sezione;
     d.rigidezzaEJ = rigidezzaEJ;
-    ElencoRilievi elenco;
+    ElencoOsservazioni elenco;
     controlloSezione(d, elenco);
     std::vector<std::string> testo;
-    for (const auto& r : elenco.ordinato()) testo.push_back((r.impedisce ? "! " : "") + r.testo);
+    for (const auto& r : elenco.ordinate()) testo.push_back((r.impedisce() ? "! " : "") + r.testo);
     return testo;
 }
 
@@ -189,11 +189,11 @@ TEST(ControlloSezione, TellsShearsAtTheEndsThatTheShearCheckTakesAtTheirFaceValu
     d.vincoloPiede = valore(VincoloPiede::incastro);
     d.forzaTesta = -2;
     const auto trovate = [&d] {
-        ElencoRilievi elenco;
+        ElencoOsservazioni elenco;
         controlloSezione(d, elenco);
         Righe testo;
-        for (const auto& r : elenco.ordinato())
-            testo.push_back((r.impedisce ? "! " : "") + r.testo);
+        for (const auto& r : elenco.ordinate())
+            testo.push_back((r.impedisce() ? "! " : "") + r.testo);
         return testo;
     };
     EXPECT_EQ(trovate(), niente);  // no stirrups, no check

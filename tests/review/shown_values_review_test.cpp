@@ -10,10 +10,10 @@ using project::Sezione;
 using Righe = std::vector<std::string>;
 
 Righe trovati(const DatiProgetto& dati) {
-    ElencoRilievi elenco;
+    ElencoOsservazioni elenco;
     controlloMostrati(dati, elenco);
     Righe testo;
-    for (const auto& r : elenco.ordinato()) testo.push_back((r.impedisce ? "! " : "") + r.testo);
+    for (const auto& r : elenco.ordinate()) testo.push_back((r.impedisce() ? "! " : "") + r.testo);
     return testo;
 }
 

@@ -95,7 +95,7 @@ TEST(ProvaCalcolo, NamesTheStageThatNoEquilibriumHolds) {
     const auto motivo = provaCalcolo(d, massimo);
     analysis::contenutoNSeg.reset();
     ASSERT_TRUE(motivo);
-    EXPECT_TRUE(motivo->impedisce);
+    EXPECT_TRUE(motivo->impedisce());
     EXPECT_TRUE(motivo->testo.starts_with("fase 2: La geometria assegnata al diaframma"))
         << motivo->testo;
 }

@@ -18,6 +18,7 @@
 #include "help/search.hpp"
 #include "help/search_text.hpp"
 #include "masks/values.hpp"
+#include "review/remark_table.hpp"
 #include "tools/markup_check.hpp"
 #include "tools/text_source.hpp"
 
@@ -99,6 +100,16 @@ TEST_F(DeliveredHelp, HasAPageForEveryFormThatNoMenuItemNames) {
         for (const char* form : {"GRAFICA", "Editacfg", "ConfStampa", "TempCalc", "guida",
                                  "INFORMAZIONI", "selezling", "DefinEJ", "Form1"})
             EXPECT_FALSE(page(guide, help::voceForma(form)).html.empty()) << form;
+    }
+}
+
+TEST_F(DeliveredHelp, HasThePageThatEachRemarkNames) {
+    for (const int language : languages) {
+        const Guida guide = help(language);
+        for (const auto rows : review::vociOsservazioni)
+            for (const auto& row : rows)
+                EXPECT_NE(help::paginaDiNome(guide, row.guida), nullptr)
+                    << row.codice << ": " << row.guida;
     }
 }
 

@@ -13,6 +13,7 @@ using Texts = std::vector<std::string>;
 // Files whose literals are all none.
 inline const std::map<std::string, std::string> silentFiles = {
     {"batch/run/outcome_json.cpp", "names of fields, the same in all languages"},
+    {"review/remark_table.hpp", "what the compiler says"},
     {"project/units.hpp", "units, the same in all languages"},
     {"base/language.cpp", "tags, and errors from before a language is chosen"},
     {"base/language.hpp", "an error from before a language is chosen"},
@@ -55,6 +56,7 @@ inline const std::map<std::string, Texts> noTexts = {
      {"language.cfg", "texts01.txt", "texts06.txt", "texts32.txt"}},
     {"base/process/program_questions.hpp", {"PROGETTO.kvd", "PROJECT.kvd"}},
     {"base/version.cpp", {"KORVEN 32"}},
+    {"review/remark.cpp", {"impedisce"}},
     {"base/folders/program_folder.cpp", {"KORVEN32_HOME", "/proc/self/exe"}},
     {"base/folders/user_data.cpp",
      {"XDG_DATA_HOME", "korven32", "HOME", "/tmp", ".local", "share"}},

@@ -15,6 +15,7 @@
 #include "base/files.hpp"
 #include "base/text_table.hpp"
 #include "project/field_table.hpp"
+#include "review/remark_table.hpp"
 #include "tools/no_texts.hpp"
 #include "tools/string_literals.hpp"
 #include "tools/text_source.hpp"
@@ -111,10 +112,18 @@ std::map<std::string, std::string> captionsWithUnit(const std::string& source) {
     return captions;
 }
 
+// Codes of remarks and the pages of the help that they name, which people do not read.
+bool namesRemark(const std::string& text) {
+    for (const auto rows : review::vociOsservazioni)
+        for (const auto& row : rows)
+            if (text == row.codice || text == row.guida) return true;
+    return false;
+}
+
 bool isNoText(const std::string& file, const std::string& text) {
     const auto exempt = noTexts.find(file);
     return silentFiles.contains(file) || namesControl(text) || isPartOfField(file, text) ||
-           (exempt != noTexts.end() && listed(exempt->second, text));
+           namesRemark(text) || (exempt != noTexts.end() && listed(exempt->second, text));
 }
 
 std::set<std::string> keys() {

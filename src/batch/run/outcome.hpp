@@ -21,7 +21,7 @@ struct Esito {
     bool guasto = false;                ///< an error cut the command short
     std::vector<std::string> messaggi;  ///< why it was refused, or went wrong
     bool esaminato = false;             ///< the remarks below are those of a review
-    std::vector<review::Rilievo> rilievi;
+    review::Osservazioni osservazioni;
     std::optional<results::EsitoCalcolo> calcolo;
     bool giaAggiornato = false;  ///< the result file was up to date already
     std::vector<analysis::ControlloCorsa::Fase> fasi;
@@ -33,7 +33,7 @@ struct Esito {
 [[nodiscard]] std::string tabella(const Esito& esito, bool traccia);
 
 /// "da vedere: strato 1: ...", or what prevents a run.
-[[nodiscard]] std::string riga(const review::Rilievo& rilievo);
+[[nodiscard]] std::string riga(const review::Osservazione& osservazione);
 
 /// What a review found, a line each.
 [[nodiscard]] std::string elenco(const Esito& esito);

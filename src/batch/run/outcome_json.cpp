@@ -94,9 +94,19 @@ Json calcolo(const Esito& esito) {
 
 Json rilievi(const Esito& esito) {
     Json tutti = Json::array();
-    for (const auto& rilievo : esito.rilievi)
-        tutti.push_back({{"impedisce", rilievo.impedisce}, {"testo", rilievo.testo}});
+    for (const auto& o : esito.osservazioni)
+        tutti.push_back({{"impedisce", o.impedisce()}, {"testo", o.testo}});
     return tutti;
+}
+
+Json osservazioni(const Esito& esito) {
+    Json tutte = Json::array();
+    for (const auto& o : esito.osservazioni)
+        tutte.push_back({{"codice", o.codice},
+                         {"peso", review::parola(o.peso)},
+                         {"testo", o.testo},
+                         {"campi", o.campi}});
+    return tutte;
 }
 
 Json nomeONullo(const std::string& percorso) {
@@ -112,8 +122,12 @@ std::string json(const Esito& esito) {
     if (esito.soloRilievi) {
         j["calcolabile"] = esito.codice == 0;
         j["rilievi"] = rilievi(esito);
+        j["osservazioni"] = osservazioni(esito);
     } else {
-        if (esito.esaminato) j["rilievi"] = rilievi(esito);
+        if (esito.esaminato) {
+            j["rilievi"] = rilievi(esito);
+            j["osservazioni"] = osservazioni(esito);
+        }
         j["calcolo"] = esito.calcolo ? calcolo(esito) : Json(nullptr);
         j["file"] = {{"risultati", nomeONullo(esito.calcolo ? esito.calcolo->fileRisultati : "")},
                      {"relazione", nomeONullo(esito.fileRelazione)},

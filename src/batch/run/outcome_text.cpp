@@ -73,16 +73,17 @@ std::string tabella(const Esito& esito, bool traccia) {
     return testo;
 }
 
-std::string riga(const review::Rilievo& rilievo) {
-    return (rilievo.impedisce ? traduttore("impedisce il calcolo") : traduttore("da vedere")) +
-           ": " + rilievo.testo;
+std::string riga(const review::Osservazione& osservazione) {
+    const auto peso =
+        osservazione.impedisce() ? "impedisce il calcolo" : review::parola(osservazione.peso);
+    return traduttore(peso) + ": " + osservazione.testo;
 }
 
 std::string elenco(const Esito& esito) {
     std::string testo;
-    for (const auto& rilievo : esito.rilievi) testo += riga(rilievo) + '\n';
+    for (const auto& osservazione : esito.osservazioni) testo += riga(osservazione) + '\n';
     return testo +
-           (review::calcolabile(esito.rilievi)
+           (review::calcolabile(esito.osservazioni)
                 ? traduttore("Il progetto può essere calcolato.")
                 : traduttore("Il progetto non può essere calcolato.")) +
            '\n';

@@ -36,14 +36,14 @@ int calcolaConRilievi(const Opzioni& opzioni, Esito& esito, const std::function<
     preparaProgetto(opzioni, esito);
     if (!opzioni.uscita.empty()) base::creaCartella(opzioni.uscita);
     const Interruzioni interruzioni;
-    esito.rilievi = review::esaminaFile(opzioni.progetto, project::Progetto);
+    esito.osservazioni = review::esaminaFile(opzioni.progetto, project::Progetto);
     esito.esaminato = true;
-    for (const auto& rilievo : esito.rilievi)
-        if (!rilievo.impedisce) std::cerr << riga(rilievo) << '\n';
+    for (const auto& osservazione : esito.osservazioni)
+        if (!osservazione.impedisce()) std::cerr << riga(osservazione) << '\n';
     const int codice = corsa();
-    for (const auto& rilievo : esito.rilievi)
-        if (rilievo.impedisce && codice != fatto && !giaDetto(rilievo.testo, esito))
-            std::cerr << riga(rilievo) << '\n';
+    for (const auto& osservazione : esito.osservazioni)
+        if (osservazione.impedisce() && codice != fatto && !giaDetto(osservazione.testo, esito))
+            std::cerr << riga(osservazione) << '\n';
     return codice;
 }
 

@@ -84,7 +84,7 @@ TEST_F(EsitoTesto, TellsWhatAReviewFound) {
     EXPECT_EQ(
         esito.uscita,
         "impedisce il calcolo: Il valore di EJ non è ancora stato definito.\n"
-        "da vedere: vincolo in testa = 0: codice non previsto: la testa conta come libera (1)\n"
+        "pericolo: vincolo in testa = 0: codice non previsto: la testa conta come libera (1)\n"
         "Il progetto non può essere calcolato.\n");
     EXPECT_EQ(nomi(), "muro.kvd ");  // nothing is computed or written
 }

@@ -1,0 +1,76 @@
+#pragma once
+
+#include "review/remark_row.hpp"
+
+namespace korven::review {
+
+// The remarks on what is typed: soil, ground, water, method, anchors, stages, file.
+inline constexpr VoceOsservazione vociProgetto[] = {
+    {"dati-mancanti", Peso::impedisce, "primo_calcolo", ""},
+    {"segmenti-non-ammessi", Peso::impedisce, "sicurezza", ""},
+    {"uscita-in-conflitto", Peso::impedisce, "salva", ""},
+    {"suolo-non-calcolabile", Peso::impedisce, "stratigrafia", ""},
+    {"valore-non-mostrabile", Peso::impedisce, "schede",
+     "valore troppo grande per essere mostrato"},
+    {"codice-non-previsto", Peso::pericolo, "parametri", ""},
+    {"valore-negativo", Peso::daVedere, "schede", "valore negativo"},
+
+    {"strato-in-disordine", Peso::pericolo, "stratigrafia",
+     "finisce più in alto dello strato precedente"},
+    {"strato-nullo", Peso::daVedere, "stratigrafia", "ha spessore nullo"},
+    {"strato-profondo", Peso::daVedere, "stratigrafia",
+     "supera i 200 m: controllare la profondità"},
+    {"strato-prolungato", Peso::daVedere, "stratigrafia",
+     "gli strati finiscono sopra il piede della paratia: l'ultimo viene prolungato"},
+    {"terreno-finito", Peso::pericolo, "stratigrafia",
+     "la paratia scende più di 100 m sotto l'ultimo strato: là sotto non ha terreno"},
+    {"peso-mancante", Peso::pericolo, "stratigrafia", "peso di volume mancante"},
+    {"peso-in-kilonewton", Peso::pericolo, "stratigrafia",
+     "sembra un peso di volume in kN/m³: il file lo tiene in t/m³, dieci volte più piccolo"},
+    {"peso-saturo-minore", Peso::daVedere, "stratigrafia",
+     "il peso di volume saturo è minore di quello naturale"},
+    {"angolo-non-ammissibile", Peso::pericolo, "stratigrafia", "l'angolo non è ammissibile"},
+    {"angolo-minore-del-pendio", Peso::pericolo, "stratigrafia",
+     "l'angolo di attrito è minore dell'inclinazione del terreno"},
+    {"polo-passivo", Peso::pericolo, "stratigrafia",
+     "con l'inclinazione del terreno arriva a 90°: il coefficiente passivo di Coulomb non ha "
+     "significato"},
+
+    {"ks-mancante", Peso::pericolo, "ks_valori", "modulo ks mancante"},
+    {"ks-negativo", Peso::pericolo, "ks_valori", "valore negativo"},
+    {"terreno-senza-rigidezza", Peso::pericolo, "ks_valori", "il terreno non ha rigidezza"},
+    {"modulo-negativo", Peso::pericolo, "ks_valori",
+     "il terreno spinge invece di reagire, come accade con una tensione efficace negativa"},
+
+    {"troppi-tiranti", Peso::impedisce, "fasi", "più tiranti di quanti ne tiene la tabella (20)"},
+    {"tiranti-non-definiti", Peso::pericolo, "fasi",
+     "più tiranti di quelli definiti: gli altri non agiscono, definirli nella tabella dei tiranti "
+     "o correggere il numero"},
+    {"tiranti-negativi", Peso::daVedere, "fasi", "valore negativo"},
+    {"tiranti-non-interi", Peso::daVedere, "fasi", "il numero di tiranti non è intero"},
+    {"tiranti-in-meno", Peso::daVedere, "fasi", "i tiranti sono meno che nella fase precedente"},
+    {"tirante-sotto-il-piede", Peso::pericolo, "tiranti", "è più profondo della paratia"},
+    {"tirante-sopra-la-testa", Peso::pericolo, "tiranti", "è sopra la testa della paratia"},
+    {"tirante-in-disordine", Peso::daVedere, "tiranti", "è più in alto del precedente"},
+    {"tirante-inerte", Peso::daVedere, "tiranti",
+     "senza rigidezza né pretensione il tirante non agisce"},
+    {"tipo-tirante", Peso::pericolo, "tiranti",
+     "tipo non previsto: il calcolo lo fa agire solo a trazione, la relazione lo dice a trazione e "
+     "compressione"},
+
+    {"scavo-sopra-la-testa", Peso::daVedere, "fasi", "lo scavo è sopra la testa della paratia"},
+    {"scavo-che-risale", Peso::daVedere, "fasi",
+     "lo scavo è meno profondo che nella fase precedente"},
+    {"scavo-al-piede", Peso::pericolo, "fasi",
+     "lo scavo raggiunge o supera il piede della paratia"},
+
+    {"resto-della-riga", Peso::pericolo, "sicurezza",
+     "il resto della riga non conta, il segno decimale è il punto"},
+    {"metodo-riaperto", Peso::pericolo, "parametri",
+     "un progetto si riapre sempre con il metodo di Coulomb (1)"},
+    {"righe-in-piu", Peso::pericolo, "sicurezza",
+     "il file continua dopo l'ultimo valore: i numeri di strati, tiranti e fasi potrebbero non "
+     "essere quelli delle righe scritte"},
+};
+
+}  // namespace korven::review

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <array>
+#include <span>
+#include <string_view>
+
+#include "review/project_rows.hpp"
+#include "review/result_rows.hpp"
+#include "review/section_rows.hpp"
+
+namespace korven::review {
+
+/// The whole table of remarks, by subject.
+inline constexpr std::array<std::span<const VoceOsservazione>, 3> vociOsservazioni = {
+    vociProgetto, vociSezione, vociRisultati};
+
+/// The row of a code, which the compiler looks up: `aggiungi("ks-mancante", ...)`.
+class Voce {
+ public:
+    // NOLINTNEXTLINE(google-explicit-constructor): a code in quotes is how a remark is named
+    consteval Voce(const char* codice) {
+        for (const auto voci : vociOsservazioni)
+            for (const auto& voce : voci)
+                if (voce.codice == codice) riga_ = &voce;
+        if (riga_ == nullptr) throw "no remark has this code";
+    }
+    constexpr const VoceOsservazione& operator*() const { return *riga_; }
+    constexpr const VoceOsservazione* operator->() const { return riga_; }
+
+ private:
+    const VoceOsservazione* riga_ = nullptr;
+};
+
+}  // namespace korven::review
