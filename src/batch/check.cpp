@@ -5,6 +5,7 @@
 #include "batch/options/common_options.hpp"
 #include "batch/run/failure.hpp"
 #include "batch/run/reviewed_run.hpp"
+#include "batch/run/told_remarks.hpp"
 #include "commands/report_files.hpp"
 #include "project/project_data.hpp"
 #include "review/remark_list.hpp"
@@ -26,16 +27,15 @@ int esegui(const Opzioni& opzioni, const PorteComando&, Esito& esito) {
     if (review::calcolabile(esito.osservazioni))
         if (auto motivo = review::provaCalcolo(project::Progetto, opzioni.maxIterazioni))
             esito.osservazioni.insert(esito.osservazioni.begin(), std::move(*motivo));
-    return review::calcolabile(esito.osservazioni) ? fatto : nonEseguito;
+    return conSeverita(opzioni, esito, esito.calcolabile() ? fatto : nonEseguito);
 }
 
 }  // namespace
 
 RigaComando comandoVerifica() {
-    RigaComando riga = {{"verifica", "check"},
+    RigaComando riga = {nomeComandoVerifica,
                         "dice che cosa manca o è strano nel progetto, senza scrivere risultati",
-                        opzioniModello(),
-                        esegui};
+                        insieme({opzioniModello(), {opzioneSevero()}}), esegui};
     riga.soloRilievi = true;
     return riga;
 }

@@ -25,7 +25,7 @@ std::string resoconto(const Opzioni& opzioni, const Esito& esito) {
     if (opzioni.json) return json(esito);
     if (opzioni.silenzioso) return {};
     if (esito.soloRilievi) return esito.guasto ? "" : elenco(esito);
-    if (esito.codice != fatto) return {};
+    if (!esito.compiuto()) return {};
     std::string testo = esito.calcolo ? tabella(esito, opzioni.traccia) : "";
     for (const auto& file : esito.fileScritti)
         testo += base::traduttore("File scritto") + ": " + file + '\n';
@@ -59,7 +59,7 @@ void lavora(const Opzioni& opzioni, const std::exception_ptr& senzaLingua,
     } catch (const std::exception&) {
         raccontaGuasto(porte.guardia, esito);
     }
-    if (esito.corsa && esito.codice != fatto) avvisaRelazioniRimaste(esito);
+    if (esito.corsa && !esito.compiuto()) avvisaRelazioniRimaste(esito);
 }
 
 }  // namespace

@@ -101,5 +101,62 @@ TEST_F(Rilievi, TellAValueThatNoReportCouldShowAsTheReportDoes) {
     EXPECT_TRUE(dice(esito.errori, "i dati portano a un valore troppo grande")) << esito.errori;
 }
 
+class Severo : public Rilievi {};
+
+TEST_F(Severo, EndsWith1ForADangerWithAllFilesWrittenAndTheTableShown) {
+    virgola();
+    const auto atteso = esegui("relazione", {"--txt", "--uscita", cartella / "a"});
+    ASSERT_EQ(atteso.codice, 0);
+    const auto esito = esegui("relazione", {"--txt", "--severo", "--uscita", cartella / "a"});
+    EXPECT_EQ(esito.codice, 1);
+    EXPECT_TRUE(dice(esito.uscita, "Spostamento max. [cm]")) << esito.uscita;
+    EXPECT_TRUE(dice(esito.uscita, "File scritto: " + cartella / "a/muro.txt"));
+    EXPECT_TRUE(
+        dice(esito.errori, "1 pericolo: con --severo il comando finisce con il codice 1\n"));
+    EXPECT_FALSE(dice(esito.errori, "File di un calcolo precedente"));
+}
+
+TEST_F(Severo, SaysWhyInTheJsonThatHoldsTheResultsAllTheSame) {
+    virgola();
+    const auto esito = esegui("calcola", {"--severo", "--json"});
+    EXPECT_EQ(esito.codice, 1);
+    const Json j = Json::parse(esito.uscita);
+    EXPECT_EQ(j["codice"], 1);
+    EXPECT_EQ(j["messaggi"],
+              Json::array({"1 pericolo: con --severo il comando finisce con il codice 1"}));
+    EXPECT_EQ(j["calcolo"]["fasi"].size(), 2u);
+    EXPECT_EQ(j["osservazioni"][0]["codice"], "resto-della-riga");
+    EXPECT_EQ(j["osservazioni"][0]["peso"], "pericolo");
+}
+
+TEST_F(Severo, EndsVerificaWith1ForAProjectThatCanBeComputedAllTheSame) {
+    virgola();
+    EXPECT_EQ(esegui("verifica").codice, 0);
+    const auto esito = esegui("verifica", {"--severo"});
+    EXPECT_EQ(esito.codice, 1);
+    EXPECT_TRUE(dice(esito.uscita, "Il progetto può essere calcolato.")) << esito.uscita;
+    const auto json = esegui("verifica", {"--severo", "--json"});
+    EXPECT_EQ(Json::parse(json.uscita)["calcolabile"], true);
+}
+
+TEST_F(Severo, ChangesNothingForAProjectWithoutDanger) {
+    EXPECT_EQ(esegui("calcola", {"--severo", "--silenzioso"}).codice, 0);
+}
+
+TEST_F(Rilievi, ToBeLookedAtAreCountedByTheCommandsThatComputeAndListedByVerifica) {
+    auto d = test::progettoSemplice();
+    d.profTirante[1] = 3;
+    d.tirantiFase[1] = 1;
+    d.tirantiFase[2] = 0.5;
+    scrivi(d);
+    const auto verifica = esegui("verifica");
+    ASSERT_TRUE(dice(verifica.uscita, "da vedere: fase 2")) << verifica.uscita;
+    const auto esito = esegui("calcola");
+    EXPECT_FALSE(dice(esito.errori, "da vedere: fase 2")) << esito.errori;
+    EXPECT_TRUE(dice(esito.errori, " da vedere: korven32c verifica --calcola --nseg 10 "))
+        << esito.errori;
+    EXPECT_TRUE(esegui("calcola", {"--silenzioso"}).errori.empty());
+}
+
 }  // namespace
 }  // namespace korven::batch

@@ -21,6 +21,7 @@ struct Opzioni {
     std::optional<std::string> nseg;     ///< replaces the content of nseg.txt
     bool json = false;
     bool silenzioso = false;
+    bool severo = false;   ///< remarks of weight `pericolo` end a command with 1
     bool traccia = false;  ///< `calcola`: record of the slow stages
     int maxIterazioni = 5000;
     analysis::Diagramma tipo = analysis::Diagramma::pressioni;  ///< of `diagramma`, which needs one

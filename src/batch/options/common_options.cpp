@@ -1,6 +1,9 @@
 #include "batch/options/common_options.hpp"
 
+#include <algorithm>
+#include <cassert>
 #include <filesystem>
+#include <iterator>
 #include <limits>
 #include <string>
 
@@ -14,6 +17,25 @@ namespace korven::batch {
 namespace {
 
 using base::uguali;
+
+struct Metodo {
+    base::Gemelli nome;
+    project::MetodoSpinte codice;
+};
+
+constexpr Metodo metodi[] = {{uguali("bell"), project::MetodoSpinte::bell},
+                             {uguali("coulomb"), project::MetodoSpinte::coulomb},
+                             {uguali("rankine"), project::MetodoSpinte::rankine}};
+
+RigaOpzione opzioneMetodo() {
+    RigaOpzione riga = {nomeOpzioneMetodo,
+                        "metodo delle spinte (un progetto si riapre sempre con Coulomb)",
+                        [](Opzioni& o, std::size_t quale) {
+                            o.metodoSpinte = project::valore(metodi[quale].codice);
+                        }};
+    for (const auto& metodo : metodi) riga.valori.push_back(metodo.nome);
+    return riga;
+}
 
 constexpr base::Gemelli cartella = uguali("DIR"), file = uguali("FILE"), numero = uguali("N");
 
@@ -83,26 +105,17 @@ std::vector<RigaOpzione> opzioniProgetto() {
 }
 
 std::vector<RigaOpzione> opzioniModello(bool cartellaObbligatoria) {
-    return insieme({opzioniProgetto(),
-                    {opzioneUscita(cartellaObbligatoria),
-                     {{"--metodo-spinte", "--pressures"},
-                      "metodo delle spinte (un progetto si riapre sempre con Coulomb)",
-                      [](Opzioni& o, std::size_t quale) {
-                          using enum project::MetodoSpinte;
-                          constexpr project::MetodoSpinte metodi[] = {bell, coulomb, rankine};
-                          o.metodoSpinte = project::valore(metodi[quale]);
-                      },
-                      {},
-                      {uguali("bell"), uguali("coulomb"), uguali("rankine")}},
-                     {{"--nseg", "--segments"},
-                      "numero di segmenti, al posto di nseg.txt",
-                      leggiNseg,
-                      numero}}});
+    return insieme(
+        {opzioniProgetto(),
+         {opzioneUscita(cartellaObbligatoria),
+          opzioneMetodo(),
+          {nomeOpzioneNseg, "numero di segmenti, al posto di nseg.txt", leggiNseg, numero}}});
 }
 
 std::vector<RigaOpzione> opzioniCalcolo(bool cartellaObbligatoria) {
     return insieme({opzioniModello(cartellaObbligatoria),
-                    {{uguali("--ej"),
+                    {opzioneSevero(),
+                     {uguali("--ej"),
                       "rigidezza EJ scritta nel progetto o ricalcolata dalla sezione",
                       [](Opzioni& o, std::size_t quale) { o.ricalcolaEJ = quale == 1; },
                       {},
@@ -114,6 +127,19 @@ std::vector<RigaOpzione> opzioniCalcolo(bool cartellaObbligatoria) {
                       numero,
                       {},
                       std::to_string(Opzioni().maxIterazioni)}}});
+}
+
+RigaOpzione opzioneSevero() {
+    return {nomeOpzioneSevero, "finisce con il codice 1 se c'è un'osservazione di peso pericolo",
+            [](Opzioni& o) { o.severo = true; }};
+}
+
+std::string nomeMetodo(double codice) {
+    const auto* metodo =
+        std::find_if(std::begin(metodi), std::end(metodi),
+                     [codice](const Metodo& m) { return project::valore(m.codice) == codice; });
+    assert(metodo != std::end(metodi));
+    return metodo->nome.mostrato();
 }
 
 std::vector<RigaOpzione> opzioniDisegno() {

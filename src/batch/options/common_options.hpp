@@ -12,6 +12,17 @@ namespace korven::batch {
 inline constexpr base::Gemelli nomeOpzioneCartella{"--cartella", "--folder"};
 inline constexpr base::Gemelli nomeOpzioneLingua{"--lingua", "--language"};
 
+/// Names that messages say too: the command that lists remarks, with its options.
+inline constexpr base::Gemelli nomeComandoVerifica{"verifica", "check"};
+inline constexpr base::Gemelli nomeOpzioneCalcola{"--calcola", "--calculate"};
+inline constexpr base::Gemelli nomeOpzioneMetodo{"--metodo-spinte", "--pressures"};
+inline constexpr base::Gemelli nomeOpzioneNseg{"--nseg", "--segments"};
+inline constexpr base::Gemelli nomeOpzioneSevero{"--severo", "--strict"};
+
+/// The name of a method for the soil pressures, as the option takes it.
+/// @pre the code is one of theirs: asserted
+[[nodiscard]] std::string nomeMetodo(double codice);
+
 /// Every command.
 [[nodiscard]] std::vector<RigaOpzione> opzioniComuni();
 
@@ -24,6 +35,9 @@ inline constexpr base::Gemelli nomeOpzioneLingua{"--lingua", "--language"};
 
 /// Commands that run the analysis.
 [[nodiscard]] std::vector<RigaOpzione> opzioniCalcolo(bool cartellaObbligatoria = false);
+
+/// Commands that look for remarks.
+[[nodiscard]] RigaOpzione opzioneSevero();
 
 /// Commands that make one drawing: its files.
 [[nodiscard]] std::vector<RigaOpzione> opzioniDisegno();

@@ -19,6 +19,7 @@ struct Esito {
     bool progettoLetto = false;         ///< the project could be read
     bool corsa = false;                 ///< the command came as far as to run the analysis
     bool guasto = false;                ///< an error cut the command short
+    bool severo = false;                ///< all was done, the code is 1 for the remarks alone
     std::vector<std::string> messaggi;  ///< why it was refused, or went wrong
     bool esaminato = false;             ///< the remarks below are those of a review
     review::Osservazioni osservazioni;
@@ -27,6 +28,13 @@ struct Esito {
     std::vector<analysis::ControlloCorsa::Fase> fasi;
     std::vector<std::string> fileScritti;
     std::string fileRelazione, fileTesto, fileDocumento, filePdf;
+
+    /// True if the command has done all that it was asked.
+    [[nodiscard]] bool compiuto() const { return codice == 0 || severo; }
+    /// True if nothing prevents a run of the project, as far as the remarks know.
+    [[nodiscard]] bool calcolabile() const {
+        return progettoLetto && !guasto && review::calcolabile(osservazioni);
+    }
 };
 
 /// The table of a run, a line a stage, with the traces of slow stages after it if `traccia`.

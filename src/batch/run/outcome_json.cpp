@@ -120,7 +120,7 @@ std::string json(const Esito& esito) {
               {"comando", esito.comando}, {"progetto", esito.progetto},
               {"codice", esito.codice},   {"messaggi", esito.messaggi}};
     if (esito.soloRilievi) {
-        j["calcolabile"] = esito.codice == 0;
+        j["calcolabile"] = esito.calcolabile();
         j["rilievi"] = rilievi(esito);
         j["osservazioni"] = osservazioni(esito);
     } else {

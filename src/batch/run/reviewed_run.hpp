@@ -12,10 +12,11 @@ namespace korven::batch {
 void preparaProgetto(const Opzioni& opzioni, Esito& esito);
 
 /// Opens the project and makes the folder for the results, then runs the command between the
-/// remarks on the project: what looks like a slip is told before the program computes with it;
-/// after a run that was refused, what else prevents it. An interrupt stops the run.
+/// remarks on the project: what makes its numbers worthless is told before the program computes
+/// with it; after a run that was refused, what else prevents it, and how many more remarks there
+/// are. An interrupt stops the run and has the last word.
 /// @param corsa  gives the exit code
-/// @return the same
+/// @return the same or, with `--severo`, what follows from the remarks (`conSeverita`)
 [[nodiscard]] int calcolaConRilievi(const Opzioni& opzioni, Esito& esito,
                                     const std::function<int()>& corsa);
 
