@@ -37,6 +37,7 @@ class CorsaSuFile : public OsservatoreCorsa {
         file_.aggiungi(testoFase(fase.risultati, nNodi_));
         avanzamento_.fine(fase);
     }
+    void caduta(const FaseCalcolata& fase) override { avanzamento_.caduta(fase); }
 
  private:
     FileInCorso& file_;

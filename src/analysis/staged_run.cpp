@@ -14,7 +14,10 @@ EsitoCorsa calcolaFasi(project::DatiProgetto dati, int nSeg, OsservatoreCorsa& o
         osservatore.inizio(k);
         const FaseCalcolata& fase =
             corsa.fasi.emplace_back(risolviFase(k, dati, arrays, osservatore));
-        if (fase.esito != EsitoFase::convergente) break;
+        if (fase.esito != EsitoFase::convergente) {
+            osservatore.caduta(fase);
+            break;
+        }
         corsa.mMaxTotale = std::max(corsa.mMaxTotale, fase.estremi.mMaxFase);
         corsa.mMinTotale = std::min(corsa.mMinTotale, fase.estremi.mMinFase);
         osservatore.fine(fase);

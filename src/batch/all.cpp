@@ -159,10 +159,12 @@ RigaComando comandoTutto() {
                            base::uguali("pdf,dxf,svg,png")};
     formati.predefinito = "[pdf,dxf]";
     formati.ripetibile = true;
-    return {{"tutto", "all"},
-            "scrive la relazione in ogni formato e tutti i disegni",
-            insieme({opzioniCalcolo(true), {formati, opzioneRisoluzione()}}),
-            esegui};
+    RigaComando riga = {{"tutto", "all"},
+                        "scrive la relazione in ogni formato e tutti i disegni",
+                        insieme({opzioniCalcolo(true), {formati, opzioneRisoluzione()}}),
+                        esegui};
+    riga.calcola = true;
+    return riga;
 }
 
 }  // namespace korven::batch

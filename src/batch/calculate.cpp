@@ -22,13 +22,15 @@ int esegui(const Opzioni& opzioni, const PorteComando& porte, Esito& esito) {
 }  // namespace
 
 RigaComando comandoCalcola() {
-    return {{"calcola", "calculate"},
-            "esegue il calcolo per fasi e mostra una riga per fase",
-            insieme({opzioniCalcolo(),
-                     {{{"--traccia", "--trace"},
-                       "mostra i cambi di stato delle fasi con più di 20 iterazioni",
-                       [](Opzioni& o) { o.traccia = true; }}}}),
-            esegui};
+    RigaComando riga = {{"calcola", "calculate"},
+                        "esegue il calcolo per fasi e mostra una riga per fase",
+                        insieme({opzioniCalcolo(),
+                                 {{{"--traccia", "--trace"},
+                                   "mostra i cambi di stato delle fasi con più di 20 iterazioni",
+                                   [](Opzioni& o) { o.traccia = true; }}}}),
+                        esegui};
+    riga.calcola = true;
+    return riga;
 }
 
 }  // namespace korven::batch

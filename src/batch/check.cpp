@@ -1,6 +1,7 @@
 #include <utility>
 
 #include "analysis/calcolo_paratia.hpp"
+#include "analysis/watch/run_end.hpp"
 #include "batch/command_table.hpp"
 #include "batch/options/common_options.hpp"
 #include "batch/run/failure.hpp"
@@ -9,10 +10,19 @@
 #include "commands/report_files.hpp"
 #include "project/project_data.hpp"
 #include "review/remark_list.hpp"
+#include "safety/run_cause.hpp"
+#include "structure/offered_stiffness.hpp"
 
 namespace korven::batch {
 
 namespace {
+
+// A run takes a stiffness that is left open from the section.
+project::DatiProgetto conRigidezza(project::DatiProgetto dati) {
+    if (dati.rigidezzaEJ == 0)
+        dati.rigidezzaEJ = structure::rigidezzaOfferta(dati.sezione).value_or(0);
+    return dati;
+}
 
 int esegui(const Opzioni& opzioni, const PorteComando&, Esito& esito) {
     preparaProgetto(opzioni, esito);
@@ -24,9 +34,11 @@ int esegui(const Opzioni& opzioni, const PorteComando&, Esito& esito) {
         !motivo.empty())
         esito.osservazioni.insert(esito.osservazioni.begin(),
                                   review::una("uscita-in-conflitto", motivo));
+    analysis::FineCorsa fine{analysis::ModoFine::rifiutata};
     if (review::calcolabile(esito.osservazioni))
-        if (auto motivo = review::provaCalcolo(project::Progetto, opzioni.maxIterazioni))
+        if (auto motivo = review::provaCalcolo(project::Progetto, opzioni.maxIterazioni, &fine))
             esito.osservazioni.insert(esito.osservazioni.begin(), std::move(*motivo));
+    annota(safety::causaCorsa(fine, conRigidezza(project::Progetto)), esito);
     return conSeverita(opzioni, esito, esito.calcolabile() ? fatto : nonEseguito);
 }
 
@@ -36,6 +48,7 @@ RigaComando comandoVerifica() {
     RigaComando riga = {nomeComandoVerifica,
                         "dice che cosa manca o è strano nel progetto, senza scrivere risultati",
                         insieme({opzioniModello(), {opzioneSevero()}}), esegui};
+    riga.calcola = true;
     riga.soloRilievi = true;
     return riga;
 }

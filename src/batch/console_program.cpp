@@ -82,6 +82,7 @@ int programma(int argc, const char* const* argv, const base::Disco& disco) {
 
     Esito esito;
     esito.comando = opzioni->comando->nome.italiano;
+    esito.calcola = opzioni->comando->calcola;
     esito.soloRilievi = opzioni->comando->soloRilievi;
     esito.progetto = opzioni->progetto;
     analysis::GuardiaRisultati guardia;

@@ -62,6 +62,7 @@ RigaComando comandoDiagramma() {
                         "esegue il calcolo e disegna un diagramma",
                         insieme({opzioniCalcolo(), {tipo(), fase}, opzioniDisegno()}),
                         esegui};
+    riga.calcola = true;
     riga.disegna = true;
     return riga;
 }

@@ -52,10 +52,12 @@ std::vector<RigaOpzione> formati() {
 }  // namespace
 
 RigaComando comandoRelazione() {
-    return {{"relazione", "report"},
-            "esegue il calcolo e scrive la relazione (TAB)",
-            insieme({opzioniCalcolo(), formati()}),
-            esegui};
+    RigaComando riga = {{"relazione", "report"},
+                        "esegue il calcolo e scrive la relazione (TAB)",
+                        insieme({opzioniCalcolo(), formati()}),
+                        esegui};
+    riga.calcola = true;
+    return riga;
 }
 
 }  // namespace korven::batch

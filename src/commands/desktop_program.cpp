@@ -7,6 +7,8 @@
 #include "commands/edit_commands.hpp"
 #include "commands/fatal_error.hpp"
 #include "help/contexts.hpp"
+#include "project/project_data.hpp"
+#include "safety/run_cause.hpp"
 
 namespace korven::commands {
 
@@ -26,12 +28,13 @@ void Programma::edita(masks::NumeroMaschera maschera, const char* rifiuto) {
 void Programma::produci(void (*uscita)(const PorteUscita&)) {
     analysis::CorsaSeguita corsa(avanzamento_);
     uscita({dialogo_, corsa, forme_});
-    const std::string arresto = corsa.arresto();
-    if (!arresto.empty())
-        finestra_.stato(arresto);
+    std::string detto = corsa.arresto();
+    if (detto.empty()) detto = safety::causaCorsa(corsa.comeFinita(), project::Progetto).frase;
+    if (!detto.empty())
+        finestra_.stato(detto);
     else if (diceArresto_)
         documento_.mostraStato();
-    diceArresto_ = !arresto.empty();
+    diceArresto_ = !detto.empty();
 }
 
 bool Programma::fineSessione(bool chiedibile) {

@@ -40,8 +40,8 @@ class Programma {
     /// An editing command (edit_commands.hpp).
     void edita(masks::NumeroMaschera maschera, const char* rifiuto);
 
-    /// An output command (output_commands.hpp). A run that was stopped is told in the status line
-    /// until another output goes through.
+    /// An output command (output_commands.hpp). Of a run that was stopped, or that found no
+    /// solution, the status line tells where and why, until another output goes through.
     void produci(void (*uscita)(const PorteUscita&));
 
     [[nodiscard]] Documento& documento() { return documento_; }

@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 
+#include "analysis/watch/run_end.hpp"
 #include "project/project_data.hpp"
 #include "review/remark.hpp"
 
@@ -22,11 +23,13 @@ namespace korven::review {
 
 /// Computes the stages in memory, which takes as long as a run, and writes nothing.
 /// @param maxIterazioni  of a stage; 0 for no limit
+/// @param fine  how it ended, if anybody asks: a bound of the numbers counts too
 /// @return why a run would come to no result; nothing if it would
 /// @pre no input check fails, which is asserted, and the reviews above find nothing that prevents a
 ///      run of `dati`
 [[nodiscard]] std::optional<Osservazione> provaCalcolo(const project::DatiProgetto& dati,
-                                                       int maxIterazioni);
+                                                       int maxIterazioni,
+                                                       analysis::FineCorsa* fine = nullptr);
 
 /// True if each value of the project is a number in the unit in which reports and editors show it,
 /// up to ten times the stored one.

@@ -32,15 +32,26 @@ std::string inUnaRiga(const std::vector<std::string>& righe) {
     return testo;
 }
 
+analysis::FineCorsa comeFinita(const analysis::ControlloCorsa& controllo,
+                               const analysis::EsitoProva& prova) {
+    const bool senzaNumeri =
+        controllo.comeFinita().modo == analysis::ModoFine::compiuta && !prova.mostrabile;
+    return senzaNumeri ? analysis::FineCorsa{analysis::ModoFine::nonMostrabile}
+                       : controllo.comeFinita();
+}
+
 }  // namespace
 
-std::optional<Osservazione> provaCalcolo(const project::DatiProgetto& dati, int maxIterazioni) {
+std::optional<Osservazione> provaCalcolo(const project::DatiProgetto& dati, int maxIterazioni,
+                                         analysis::FineCorsa* fine) {
     const auto nSeg = analysis::leggiNSeg(analysis::vincoli(dati).incastroPiede);
+    if (fine != nullptr) *fine = {analysis::ModoFine::rifiutata};
     if (!nSeg) return una("segmenti-non-ammessi", traduttore(analysis::motivoNSeg()));
     SenzaVista vista;
     const volatile std::sig_atomic_t interruzione = 0;
     analysis::ControlloCorsa controllo(vista, maxIterazioni, interruzione);
     const auto prova = analysis::provaFasi(dati, *nSeg, controllo);
+    if (fine != nullptr) *fine = comeFinita(controllo, prova);
     if (controllo.oltreLimite()) return una("fase-senza-riposo", inUnaRiga(controllo.motivo()));
     if (prova.faseSingolare > 0)
         return una("fase-singolare", traduttore("fase") + " " +

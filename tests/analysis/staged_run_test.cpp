@@ -33,6 +33,9 @@ class Diario : public OsservatoreCorsa {
         return ferma && ferma(ultima);
     }
     void fine(const FaseCalcolata& fase) override { annota("fine " + std::to_string(fase.fase)); }
+    void caduta(const FaseCalcolata& fase) override {
+        annota("caduta " + std::to_string(fase.fase));
+    }
 
     std::vector<std::string> righe;
     StatoIterazione ultima;
@@ -111,6 +114,7 @@ TEST(CalcolaFasi, EndsWithTheStageThatIsStoppedAndGivesNoTableOfIt) {
     Diario diario;
     diario.ferma = [](const StatoIterazione& stato) { return stato.fase == 2; };
     const EsitoCorsa corsa = calcolaFasi(progettoSemplice(), 20, diario);
+    EXPECT_EQ(diario.righe.back(), "caduta 2");
     ASSERT_EQ(corsa.fasi.size(), 2u);
     EXPECT_EQ(corsa.fasi[0].esito, EsitoFase::convergente);
     EXPECT_EQ(corsa.fasi[1].esito, EsitoFase::fermata);

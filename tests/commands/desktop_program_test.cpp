@@ -7,6 +7,7 @@
 #include <map>
 #include <tuple>
 
+#include "analysis/calcolo_paratia.hpp"
 #include "analysis/run_flags.hpp"
 #include "base/code_page.hpp"
 #include "base/folders/file_lock.hpp"
@@ -139,6 +140,33 @@ TEST_F(ProgrammaTest, TellsInTheStatusLineWhereARunWasStoppedUntilAnotherGoesThr
     EXPECT_TRUE(dialogo.messaggi.empty());
     avanzamento.adOgniIterazione = {};
     p.esegui(voceMenu("StampaVideo"));
+    EXPECT_EQ(finestra.ultimoStato, aperto);
+}
+
+// A wall dug out to its toe: the box says that it is refused, the line below what becomes of it.
+TEST_F(ProgrammaTest, TellsInTheStatusLineWhatAWallWithoutASolutionDoes) {
+    auto scavato = test::progettoSemplice();
+    scavato.nTiranti = 0;
+    scavato.tirantiFase[2] = 0;
+    scavato.profFase[2] = 11.9;
+    const std::string muro = ambiente.lavori / "muro.kvd";
+    test::metti(muro, base::inCp1252(project::testoProgetto(scavato)));
+    FormeProgramma forme;
+    int anteprime = 0;
+    forme.anteprima = [&](const std::string&) { ++anteprime; };
+    auto p = programma(forme);
+    ASSERT_TRUE(p.documento().apriAllAvvio(muro));
+    const std::string aperto = finestra.ultimoStato;
+    p.esegui(voceMenu("StampaVideo"));
+    EXPECT_EQ(anteprime, 0);
+    ASSERT_EQ(dialogo.messaggi.size(), 1u);
+    EXPECT_EQ(dialogo.messaggi[0].testo, analysis::messaggioSingolare);
+    EXPECT_TRUE(finestra.ultimoStato.starts_with("la paratia è un meccanismo nella fase 2: "))
+        << finestra.ultimoStato;
+
+    project::Progetto.profFase[2] = 3;
+    p.esegui(voceMenu("StampaVideo"));
+    EXPECT_EQ(anteprime, 1);
     EXPECT_EQ(finestra.ultimoStato, aperto);
 }
 

@@ -92,8 +92,11 @@ TEST(ProvaCalcolo, NamesTheStageThatNoEquilibriumHolds) {
     d.tirantiFase[2] = 0;
     d.profFase[2] = 11.9;  // dug out to the toe
     analysis::contenutoNSeg = "10";
-    const auto motivo = provaCalcolo(d, massimo);
+    analysis::FineCorsa fine;
+    const auto motivo = provaCalcolo(d, massimo, &fine);
     analysis::contenutoNSeg.reset();
+    EXPECT_EQ(fine.modo, analysis::ModoFine::singolare);
+    EXPECT_EQ(fine.fase, 2);
     ASSERT_TRUE(motivo);
     EXPECT_TRUE(motivo->impedisce());
     EXPECT_TRUE(motivo->testo.starts_with("fase 2: La geometria assegnata al diaframma"))
@@ -105,7 +108,20 @@ TEST(ProvaCalcolo, FindsNothingInASoundProjectAndTakesAMissingStiffnessFromTheSe
     EXPECT_FALSE(provaCalcolo(test::progettoSemplice(), massimo));
     auto d = conSezione();
     d.rigidezzaEJ = 0;
-    EXPECT_FALSE(provaCalcolo(d, massimo));
+    analysis::FineCorsa fine{analysis::ModoFine::rifiutata};
+    EXPECT_FALSE(provaCalcolo(d, massimo, &fine));
+    EXPECT_EQ(fine.modo, analysis::ModoFine::compiuta);
+    analysis::contenutoNSeg.reset();
+}
+
+TEST(ProvaCalcolo, TellsHowItEndedWhereItHasNoSegmentsOrNoRest) {
+    analysis::FineCorsa fine;
+    analysis::contenutoNSeg = "2";
+    EXPECT_TRUE(provaCalcolo(test::progettoSemplice(), massimo, &fine));
+    EXPECT_EQ(fine.modo, analysis::ModoFine::rifiutata);
+    analysis::contenutoNSeg = "10";
+    EXPECT_TRUE(provaCalcolo(test::progettoSemplice(), 3, &fine));
+    EXPECT_EQ(fine.modo, analysis::ModoFine::oltreLimite);
     analysis::contenutoNSeg.reset();
 }
 

@@ -18,6 +18,7 @@ class AvanzamentoFinto : public analysis::Avanzamento {
         if (adOgniIterazione) adOgniIterazione(stato);
     }
     [[nodiscard]] bool fermata() override { return ferma; }
+    void caduta(const analysis::FaseCalcolata&) override { ++cadute; }
     void chiudi() override { ++chiusure; }
     /// No time passes.
     void attendi(std::string_view detto) override {
@@ -27,7 +28,7 @@ class AvanzamentoFinto : public analysis::Avanzamento {
     void fineAttesa() override { ++fineAttese; }
 
     bool ferma = false;  ///< what is answered when the run asks for a stop
-    int aperture = 0, chiusure = 0, iterazioni = 0, fineAttese = 0;
+    int aperture = 0, chiusure = 0, iterazioni = 0, fineAttese = 0, cadute = 0;
     std::vector<std::string> attese;
     std::function<void(int volta)> allaPausa;
     std::function<void(const analysis::StatoIterazione&)> adOgniIterazione;

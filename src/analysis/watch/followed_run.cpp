@@ -6,6 +6,7 @@ namespace korven::analysis {
 
 void CorsaSeguita::apri() {
     ferma_ = false;
+    fine_ = {};
     vista_.apri();
 }
 
@@ -13,6 +14,11 @@ void CorsaSeguita::iterazione(const analysis::StatoIterazione& stato) {
     vista_.iterazione(stato);
     traccia_.registra(stato);
     ferma_ = analysis::stopCalcolo;
+}
+
+void CorsaSeguita::caduta(const FaseCalcolata& fase) {
+    vista_.caduta(fase);
+    fine_ = fineCorsa(fase, false);
 }
 
 std::string CorsaSeguita::arresto() const {

@@ -6,6 +6,7 @@ void ControlloCorsa::apri() {
     fasi_.clear();
     motivo_.clear();
     oltreLimite_ = false;
+    fine_ = {};
     calcolato_ = true;
     vista_.apri();
 }
@@ -21,6 +22,11 @@ void ControlloCorsa::iterazione(const analysis::StatoIterazione& stato) {
         oltreLimite_ = true;
         motivo_ = traccia_.arresto("Calcolo interrotto: nessuna convergenza");
     }
+}
+
+void ControlloCorsa::caduta(const FaseCalcolata& fase) {
+    vista_.caduta(fase);
+    fine_ = fineCorsa(fase, oltreLimite_);
 }
 
 bool ControlloCorsa::fermata() { return oltreLimite_ || interruzione_ != 0 || vista_.fermata(); }

@@ -6,6 +6,7 @@
 
 #include "analysis/progress.hpp"
 #include "analysis/watch/iteration_trace.hpp"
+#include "analysis/watch/run_end.hpp"
 
 namespace korven::analysis {
 
@@ -34,6 +35,7 @@ class ControlloCorsa : public analysis::Avanzamento {
     void apri() override;
     void iterazione(const analysis::StatoIterazione& stato) override;
     [[nodiscard]] bool fermata() override;
+    void caduta(const FaseCalcolata& fase) override;
     void chiudi() override { vista_.chiudi(); }
     void attendi(std::string_view detto) override;
     void fineAttesa() override { vista_.fineAttesa(); }
@@ -42,6 +44,8 @@ class ControlloCorsa : public analysis::Avanzamento {
     [[nodiscard]] bool calcolato() const { return calcolato_; }
     /// The stages that came to rest, in order.
     [[nodiscard]] const std::vector<Fase>& fasi() const { return fasi_; }
+    /// How it ended, as far as its stages tell: a refusal before the first is told by nobody here.
+    [[nodiscard]] const FineCorsa& comeFinita() const { return fine_; }
     /// True when the limit of iterations stopped the run.
     [[nodiscard]] bool oltreLimite() const { return oltreLimite_; }
     /// Why the run was stopped, in words, a line a fact; empty if it was not, or by an interrupt.
@@ -55,6 +59,7 @@ class ControlloCorsa : public analysis::Avanzamento {
     std::vector<Fase> fasi_;
     bool calcolato_ = false;
     bool oltreLimite_ = false;
+    FineCorsa fine_;
     std::vector<std::string> motivo_;
 };
 

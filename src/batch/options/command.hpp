@@ -22,6 +22,7 @@ struct RigaComando {
     /// @throws the exceptions of the logic; what `esito` then holds is true as far as it goes
     int (*esegui)(const Opzioni& opzioni, const PorteComando& porte, Esito& esito);
 
+    bool calcola = false;      ///< follows a wall through its stages
     bool disegna = false;      ///< must be given one file of a drawing at least
     bool soloRilievi = false;  ///< its outcome is a list of remarks
 };

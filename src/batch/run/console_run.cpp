@@ -20,7 +20,22 @@ void raccontaArresto(const analysis::ControlloCorsa& controllo, Esito& esito) {
     racconta(righe, esito);
 }
 
+// A run that no stage has ended was refused before the first, or its user would not wait for
+// another.
+analysis::FineCorsa comeFinita(const analysis::ControlloCorsa& controllo) {
+    if (!analysis::erroreCalcolo || controllo.comeFinita().modo != analysis::ModoFine::compiuta)
+        return controllo.comeFinita();
+    return {Interruzioni::chiesta() != 0 ? analysis::ModoFine::fermata
+                                         : analysis::ModoFine::rifiutata};
+}
+
 }  // namespace
+
+void annota(const safety::CausaCorsa& causa, Esito& esito) {
+    esito.causa = causa.causa;
+    esito.spiegazione = causa.frase;
+    if (!causa.frase.empty()) std::cerr << causa.frase << '\n';
+}
 
 void racconta(const std::vector<std::string>& righe, Esito& esito) {
     for (const auto& riga : righe) {
@@ -50,10 +65,9 @@ bool CorsaConsole::esegui(analysis::ModoUscita modoUscita, analysis::UscitaCalco
     analysis::CalcoloParatia(modoUscita,
                              {dialogo_, controllo, uscita, &porte_.guardia, porte_.disco});
     esito_.messaggi = dialogo_.messaggi();
-    if (analysis::erroreCalcolo) {
-        raccontaArresto(controllo, esito_);
-        return false;
-    }
+    if (analysis::erroreCalcolo) raccontaArresto(controllo, esito_);
+    annota(safety::causaCorsa(comeFinita(controllo), project::Progetto), esito_);
+    if (analysis::erroreCalcolo) return false;
     esito_.giaAggiornato = !controllo.calcolato();
     if (controllo.calcolato()) esito_.fasi = controllo.fasi();
     return true;
@@ -67,6 +81,7 @@ int CorsaConsole::concludi() {
 
 bool CorsaConsole::interrotta() {
     if (Interruzioni::chiesta() == 0) return false;
+    esito_.causa = safety::Causa::fermato;
     racconta({base::traduttore(
                  "Interruzione dell'utente a calcolo finito: i file già scritti sono completi.")},
              esito_);

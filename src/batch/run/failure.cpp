@@ -24,6 +24,7 @@ namespace {
 // As after a singular system: what can't be shown must not be taken for up to date.
 void togliRisultati(analysis::GuardiaRisultati& guardia, Esito& esito) {
     esito.calcolo.reset();
+    if (esito.calcola) esito.causa = safety::Causa::nessunNumero;
     if (esito.corsa) guardia.togliNonMostrabili(base::nomeRisultati(project::fileCorrente));
 }
 

@@ -7,6 +7,7 @@
 #include "analysis/watch/run_control.hpp"
 #include "results/run_outcome.hpp"
 #include "review/project_review.hpp"
+#include "safety/run_cause.hpp"
 
 namespace korven::batch {
 
@@ -21,7 +22,11 @@ struct Esito {
     bool guasto = false;                ///< an error cut the command short
     bool severo = false;                ///< all was done, the code is 1 for the remarks alone
     std::vector<std::string> messaggi;  ///< why it was refused, or went wrong
-    bool esaminato = false;             ///< the remarks below are those of a review
+    bool calcola = false;               ///< the command follows a wall through its stages
+    /// What became of that; nothing if the command did not come so far.
+    std::optional<safety::Causa> causa;
+    std::string spiegazione;  ///< what the certain equilibrium says of a run that found no rest
+    bool esaminato = false;   ///< the remarks below are those of a review
     review::Osservazioni osservazioni;
     std::optional<results::EsitoCalcolo> calcolo;
     bool giaAggiornato = false;  ///< the result file was up to date already
@@ -36,6 +41,9 @@ struct Esito {
         return progettoLetto && !guasto && review::calcolabile(osservazioni);
     }
 };
+
+/// Takes in what became of a run; a sentence about it goes to standard error too.
+void annota(const safety::CausaCorsa& causa, Esito& esito);
 
 /// The table of a run, a line a stage, with the traces of slow stages after it if `traccia`.
 [[nodiscard]] std::string tabella(const Esito& esito, bool traccia);

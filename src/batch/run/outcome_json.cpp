@@ -109,9 +109,11 @@ Json osservazioni(const Esito& esito) {
     return tutte;
 }
 
-Json nomeONullo(const std::string& percorso) {
-    return percorso.empty() ? Json(nullptr) : Json(percorso);
+Json causa(const Esito& esito) {
+    return esito.causa ? Json(safety::parola(*esito.causa)) : Json(nullptr);
 }
+
+Json testoONullo(const std::string& testo) { return testo.empty() ? Json(nullptr) : Json(testo); }
 
 }  // namespace
 
@@ -119,6 +121,10 @@ std::string json(const Esito& esito) {
     Json j = {{"programma", "KORVEN 32"}, {"versione", base::versione},
               {"comando", esito.comando}, {"progetto", esito.progetto},
               {"codice", esito.codice},   {"messaggi", esito.messaggi}};
+    if (esito.calcola) {
+        j["causa"] = causa(esito);
+        j["spiegazione"] = testoONullo(esito.spiegazione);
+    }
     if (esito.soloRilievi) {
         j["calcolabile"] = esito.calcolabile();
         j["rilievi"] = rilievi(esito);
@@ -129,11 +135,11 @@ std::string json(const Esito& esito) {
             j["osservazioni"] = osservazioni(esito);
         }
         j["calcolo"] = esito.calcolo ? calcolo(esito) : Json(nullptr);
-        j["file"] = {{"risultati", nomeONullo(esito.calcolo ? esito.calcolo->fileRisultati : "")},
-                     {"relazione", nomeONullo(esito.fileRelazione)},
-                     {"testo", nomeONullo(esito.fileTesto)},
-                     {"documento", nomeONullo(esito.fileDocumento)},
-                     {"pdf", nomeONullo(esito.filePdf)},
+        j["file"] = {{"risultati", testoONullo(esito.calcolo ? esito.calcolo->fileRisultati : "")},
+                     {"relazione", testoONullo(esito.fileRelazione)},
+                     {"testo", testoONullo(esito.fileTesto)},
+                     {"documento", testoONullo(esito.fileDocumento)},
+                     {"pdf", testoONullo(esito.filePdf)},
                      {"scritti", esito.fileScritti}};
     }
     // A path may hold bytes that are no UTF-8; they must not stop the answer.

@@ -50,6 +50,29 @@ TEST_F(Controllo, HandsTheProgressOnAndKeepsTheIterationsOfEachStage) {
     EXPECT_FALSE(controllo.fermata());
 }
 
+TEST_F(Controllo, TellsHowTheRunEndedAndInWhichStage) {
+    const auto caduta = [this](EsitoFase esito, bool oltreLimite = false) {
+        ControlloCorsa controllo(vista, 1, interruzione);
+        controllo.apri();
+        if (oltreLimite) passo(controllo, 2, 1, false);
+        FaseCalcolata fase;
+        fase.fase = 2;
+        fase.esito = esito;
+        controllo.caduta(fase);
+        EXPECT_EQ(controllo.comeFinita().fase, 2);
+        return controllo.comeFinita().modo;
+    };
+    EXPECT_EQ(caduta(EsitoFase::singolare), ModoFine::singolare);
+    EXPECT_EQ(caduta(EsitoFase::rifiutata), ModoFine::rifiutata);
+    EXPECT_EQ(caduta(EsitoFase::fermata), ModoFine::fermata);
+    EXPECT_EQ(caduta(EsitoFase::fermata, true), ModoFine::oltreLimite);
+    EXPECT_EQ(vista.cadute, 4);
+    ControlloCorsa controllo(vista, 1, interruzione);
+    controllo.apri();
+    EXPECT_EQ(controllo.comeFinita().modo, ModoFine::compiuta);
+    EXPECT_EQ(controllo.comeFinita().fase, 0);
+}
+
 TEST_F(Controllo, HandsTheWaitingOnAndEndsItOnAnInterrupt) {
     ControlloCorsa controllo(vista, 100, interruzione);
     controllo.attendi("un altro calcolo");
