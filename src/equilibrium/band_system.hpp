@@ -5,13 +5,20 @@
 
 namespace korven::equilibrium {
 
+/// A row of L D L': of D, and of L in the column below.
+struct RigaBanda {
+    double inverso = 0;     ///< 1 / D
+    double l1 = 0, l2 = 0;  ///< cells of L in the next row taken out, and in the one after it
+};
+
 /// The tangent of a wall: bending, which is a symmetric band of width two, and a spring a node.
 ///
 ///     K = e D'D + diag(k),  (D y)(i) = y(i-1) - 2 y(i) + y(i+1) at the inner nodes,  e = EJ / h^3
 ///
-/// It is factorised as L D L' without a change of rows: L has ones on its diagonal and two
-/// diagonals below. Source: Golub & Van Loan, Matrix Computations (2013), chapter 4 (not looked
-/// up).
+/// It is factorised as L D L', the rows taken out in turn from the top and from the bottom: L has
+/// ones on its diagonal and two cells below each, of the two rows further towards the middle.
+/// Source: Golub & Van Loan, Matrix Computations (2013), chapter 4, for the factors of a band (not
+/// looked up).
 class SistemaBanda {
  public:
     /// @param n  nodes, not fewer than 4: asserted
@@ -27,8 +34,7 @@ class SistemaBanda {
     void risolvi(std::span<const double> b, std::span<double> x) const;
 
  private:
-    std::vector<double> inverso_;  ///< 1 / D
-    std::vector<double> l1_, l2_;  ///< first and second diagonal of L, by column
+    std::vector<RigaBanda> righe_;
 };
 
 }  // namespace korven::equilibrium
