@@ -1,60 +1,99 @@
 #include "equilibrium/verdict.hpp"
 
 #include <algorithm>
+#include <limits>
 
 namespace korven::equilibrium {
 
 namespace {
 
-// What the nodes on one side of a point do to a movement: sums of limit forces and of their moments
-// about the top, and how many of them hold without bound.
+// The nodes that hold a movement one way without bound, by the first and the last of them.
+struct Fermi {
+    int primo = std::numeric_limits<int>::max();
+    int ultimo = -1;
+
+    void aggiungi(int i) {
+        primo = std::min(primo, i);
+        ultimo = std::max(ultimo, i);
+    }
+    [[nodiscard]] bool nessuno() const { return ultimo < 0; }
+};
+
+// The sum of forces and that of their moments about the top.
 struct Somme {
     double forza = 0, momento = 0;
-    int trattenuti = 0;
 
-    void aggiungi(const Somme& s) {
-        forza += s.forza;
-        momento += s.momento;
-        trattenuti += s.trattenuti;
-    }
-    void togli(const Somme& s) {
-        forza -= s.forza;
-        momento -= s.momento;
-        trattenuti -= s.trattenuti;
+    void aggiungi(double F, double z) {
+        forza += F;
+        momento += F * z;
     }
 };
 
-// The anchors of a node that moves without end: a force, or a hold.
-void tiranti(const ProblemaFase& problema, int i, int verso, Somme& nodo) {
-    for (const TiranteFase& t : problema.tiranti) {
-        if (t.nodo != i) continue;
-        if (t.rigidezza == 0)
-            nodo.forza -= t.volte * t.tiro(0);
-        else if (verso > 0 || t.compressione)
-            ++nodo.trattenuti;
+// Something for each way: towards the excavation and away from it.
+template <class T>
+struct DueVersi {
+    T verso{}, via{};
+};
+
+DueVersi<Fermi> fermi(const ProblemaFase& problema) {
+    DueVersi<Fermi> f;
+    int i = 0;
+    for (const NodoFase& nodo : problema.nodi) {
+        if (nodo.vincolato) {
+            f.verso.aggiungi(i);
+            f.via.aggiungi(i);
+        }
+        ++i;
     }
+    for (const TiranteFase& t : problema.tiranti) {
+        if (t.nodo < 0 || t.rigidezza == 0) continue;
+        f.verso.aggiungi(t.nodo);
+        if (t.compressione) f.via.aggiungi(t.nodo);
+    }
+    return f;
 }
 
-Somme limite(const ProblemaFase& problema, int i, int verso) {
-    const NodoFase& nodo = problema.nodi[static_cast<std::size_t>(i)];
-    Somme s;
-    if (nodo.vincolato) {
-        s.trattenuti = 1;
-        return s;
+// What a side tends to.
+DueVersi<double> limiti(const LatoNodo& lato) {
+    if (lato.Eh != 0) return {lato.minimo, lato.massimo};
+    const double ferma = lato.pressione(0);
+    return {ferma, ferma};
+}
+
+// The force that a node tends to. A restraint that moves holds, whatever else there is.
+DueVersi<double> limiti(const NodoFase& nodo, double costante) {
+    if (nodo.vincolato) return {};
+    const auto monte = limiti(nodo.monte), valle = limiti(nodo.valle);
+    const double carico = nodo.acqua + costante;
+    return {nodo.peso * (carico + monte.verso + valle.verso),
+            nodo.peso * (carico + monte.via + valle.via)};
+}
+
+// All limit forces along a translation each way, with force and moment at the top.
+DueVersi<Somme> traslazione(const ProblemaFase& problema) {
+    DueVersi<Somme> somme{{problema.H, -problema.M}, {problema.H, -problema.M}};
+    const auto aggiungi = [&](const DueVersi<double>& forza, double z) {
+        somme.verso.aggiungi(forza.verso, z);
+        somme.via.aggiungi(forza.via, z);
+    };
+    for (const TiranteFase& t : problema.tiranti) {
+        if (t.nodo < 0 || t.rigidezza != 0) continue;
+        if (problema.nodi[static_cast<std::size_t>(t.nodo)].vincolato) continue;
+        const double forza = -t.volte * t.tiro(0);
+        aggiungi({forza, forza}, problema.profondita(t.nodo));
     }
-    s.forza = nodo.peso * (nodo.acqua + problema.costante + nodo.monte.limite(verso) +
-                           nodo.valle.limite(verso));
-    tiranti(problema, i, verso, s);
-    s.momento = s.forza * problema.profondita(i);
-    return s;
+    int i = 0;
+    for (const NodoFase& nodo : problema.nodi)
+        aggiungi(limiti(nodo, problema.costante), problema.profondita(i++));
+    return somme;
 }
 
 // Keeps the movement that most is missing for.
 class Peggiore {
  public:
     // One movement: what all forces do along it, and its largest displacement.
-    void prova(const Meccanismo& moto, int trattenuti, double spostamentoMassimo) {
-        if (trattenuti > 0 || moto.mancante < 0) return;
+    void prova(const Meccanismo& moto, double spostamentoMassimo) {
+        if (moto.mancante < 0) return;
         const double misura = moto.mancante / spostamentoMassimo;
         if (peggiore_ && misura <= misura_) return;
         peggiore_ = moto;
@@ -70,32 +109,32 @@ class Peggiore {
 }  // namespace
 
 std::optional<Meccanismo> meccanismo(const ProblemaFase& problema) {
-    // What the nodes above and below a point do when they move towards the excavation and away.
-    Somme sopraVia, sopraVerso, sottoVia, sottoVerso;
-    for (int i = 0; i < problema.n(); ++i) {
-        sottoVerso.aggiungi(limite(problema, i, 1));
-        sottoVia.aggiungi(limite(problema, i, -1));
-    }
+    const auto [fermiVerso, fermiVia] = fermi(problema);
+    // Above its pivot a rotation goes the other way than below. With holds both ways above and
+    // below all pivots, as at a fixed toe, there is nothing to look for.
+    if (fermiVerso.ultimo > fermiVia.primo && fermiVia.ultimo > fermiVerso.primo)
+        return std::nullopt;
+    const auto [verso, via] = traslazione(problema);
     Peggiore peggiore;
-    peggiore.prova({true, 0, 1, sottoVerso.forza + problema.H}, sottoVerso.trattenuti, 1);
-    peggiore.prova({true, 0, -1, -(sottoVia.forza + problema.H)}, sottoVia.trattenuti, 1);
+    if (fermiVerso.nessuno()) peggiore.prova({true, 0, 1, verso.forza}, 1);
+    if (fermiVia.nessuno()) peggiore.prova({true, 0, -1, -via.forza}, 1);
 
     const double lunghezza = problema.profondita(problema.n() - 1);
-    const auto rotazione = [&](int verso, double z, const Somme& sopra, const Somme& sotto) {
-        const double forza = sopra.forza + sotto.forza + problema.H;
-        const double momento = sopra.momento + sotto.momento - problema.M;
-        peggiore.prova({false, z, verso, verso * (momento - z * forza)},
-                       sopra.trattenuti + sotto.trattenuti, std::max(z, lunghezza - z));
-    };
-    for (int i = 0; i < problema.n(); ++i) {
+    Somme girate;  // what the nodes above the pivot push more away than towards
+    int i = 0;
+    for (const NodoFase& nodo : problema.nodi) {
         const double z = problema.profondita(i);
-        const Somme nodoVerso = limite(problema, i, 1), nodoVia = limite(problema, i, -1);
-        sottoVerso.togli(nodoVerso);
-        sottoVia.togli(nodoVia);
-        rotazione(1, z, sopraVia, sottoVerso);
-        rotazione(-1, z, sopraVerso, sottoVia);
-        sopraVerso.aggiungi(nodoVerso);
-        sopraVia.aggiungi(nodoVia);
+        if (fermiVerso.ultimo <= i && i <= fermiVia.primo)
+            peggiore.prova(
+                {false, z, 1, verso.momento + girate.momento - z * (verso.forza + girate.forza)},
+                std::max(z, lunghezza - z));
+        if (fermiVia.ultimo <= i && i <= fermiVerso.primo)
+            peggiore.prova(
+                {false, z, -1, z * (via.forza - girate.forza) - (via.momento - girate.momento)},
+                std::max(z, lunghezza - z));
+        const auto forza = limiti(nodo, problema.costante);
+        girate.aggiungi(forza.via - forza.verso, z);
+        ++i;
     }
     return peggiore.trovato();
 }

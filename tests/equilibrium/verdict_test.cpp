@@ -83,6 +83,39 @@ TEST(Meccanismo, HoldsATensionAnchorOneWayAndAPropBothWays) {
     EXPECT_FALSE(meccanismo(p));
 }
 
+// A prop at 3 m: the force at the top turns the wall about it, 1 t by 3 m. A second point that is
+// held both ways, wherever it is, leaves no movement.
+TEST(Meccanismo, TurnsAboutTheOnlyPointThatIsHeldBothWays) {
+    auto p = nuda();
+    p.tiranti = {{3, 500, 0, 0, true, 1}};
+    p.H = 1;
+    const auto moto = meccanismo(p);
+    ASSERT_TRUE(moto);
+    EXPECT_EQ(moto->profondita, 3);
+    EXPECT_EQ(moto->verso, -1);  // above the prop towards the excavation
+    EXPECT_NEAR(moto->mancante, 3, 1e-12);
+    for (const int altro : {0, 2, 4, 10}) {
+        p.tiranti.resize(1);
+        p.tiranti.push_back({altro, 1, 0, 0, true, 1});
+        EXPECT_FALSE(meccanismo(p)) << altro;
+    }
+}
+
+// Two anchors that pull one way hold what turns about a point between them only one way.
+TEST(Meccanismo, HoldsNoMovementThatLetsAllTensionAnchorsGoSlack) {
+    auto p = nuda();
+    p.tiranti = {{2, 500, 0, 0, false, 1}, {7, 500, 0, 0, false, 1}};
+    p.H = 1;
+    p.M = -4;  // the resultant is at 4 m, between the anchors
+    EXPECT_FALSE(meccanismo(p));
+    p.M = -8;  // at 8 m: the wall turns about the lower anchor, and the upper one goes slack
+    const auto moto = meccanismo(p);
+    ASSERT_TRUE(moto);
+    EXPECT_EQ(moto->profondita, 7);
+    EXPECT_EQ(moto->verso, 1);
+    EXPECT_NEAR(moto->mancante, 1, 1e-12);
+}
+
 // An anchor without stiffness is a force: 2 t at 3 m against 10 m of 0.12 t/m2 about the hinge.
 TEST(Meccanismo, TakesAnAnchorWithoutStiffnessAsAForce) {
     auto p = nuda();
