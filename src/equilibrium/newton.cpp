@@ -4,7 +4,6 @@
 #include <cmath>
 
 #include "analysis/stage_sequence.hpp"
-#include "analysis/wall_mesh.hpp"
 
 namespace korven::equilibrium {
 
@@ -18,16 +17,27 @@ constexpr int massimoTentativi = 120;
 // Part of the largest spring per metre that is added to a singular tangent.
 constexpr double spintaRelativa = 1e-6;
 
+// Four sums or maxima side by side, since each addition waits for the one before it.
 double prodotto(const std::vector<double>& a, const std::vector<double>& b) {
-    double somma = 0;
-    for (std::size_t i = 0; i < a.size(); ++i) somma += a[i] * b[i];
-    return somma;
+    const std::size_t n = a.size();
+    const double *x = a.data(), *y = b.data();
+    double somme[4] = {};
+    std::size_t i = 0;
+    for (; i + 4 <= n; i += 4)
+        for (std::size_t j = 0; j < 4; ++j) somme[j] += x[i + j] * y[i + j];
+    for (; i < n; ++i) somme[0] += x[i] * y[i];
+    return (somme[0] + somme[1]) + (somme[2] + somme[3]);
 }
 
 double massimoAssoluto(const std::vector<double>& v) {
-    double massimo = 0;
-    for (const double x : v) massimo = std::max(massimo, std::fabs(x));
-    return massimo;
+    const std::size_t n = v.size();
+    const double* const x = v.data();
+    double massimi[4] = {};
+    std::size_t i = 0;
+    for (; i + 4 <= n; i += 4)
+        for (std::size_t j = 0; j < 4; ++j) massimi[j] = std::max(massimi[j], std::fabs(x[i + j]));
+    for (; i < n; ++i) massimi[0] = std::max(massimi[0], std::fabs(x[i]));
+    return std::max(std::max(massimi[0], massimi[1]), std::max(massimi[2], massimi[3]));
 }
 
 bool finito(const std::vector<double>& v) {
@@ -36,114 +46,72 @@ bool finito(const std::vector<double>& v) {
     return somma == 0;
 }
 
-// Forces of the nodes, from the second differences of the bending moment. The moment at the top is
-// given, that at the other end is 0.
-void flessione(const ProblemaFase& problema, const std::vector<double>& y, std::vector<double>& r) {
-    const std::size_t n = y.size();
-    const double E = problema.EJ / (problema.h * problema.h);
-    double M0 = -problema.M;                    // of the node before
-    double M1 = -E * (y[0] - 2 * y[1] + y[2]);  // of this one
-    r[0] += (M1 - M0) / problema.h;
-    for (std::size_t i = 1; i + 1 < n; ++i) {
-        const double M2 = i + 2 < n ? -E * (y[i] - 2 * y[i + 1] + y[i + 2]) : 0;
-        r[i] += ((M2 - M1) - (M1 - M0)) / problema.h;
-        M0 = M1;
-        M1 = M2;
-    }
-    r[n - 1] -= (M1 - M0) / problema.h;
-}
-
 }  // namespace
 
-Newton::Newton(int n) : banda_(n) {
+Newton::Newton(int n) : forze_(n), banda_(n) {
     const auto quanti = static_cast<std::size_t>(n);
     for (auto* v : {&qui_.y, &qui_.r, &qui_.k, &prova_.y, &prova_.r, &prova_.k, &d_,
                     &kFattorizzato_, &kSpinto_})
         v->resize(quanti);
 }
 
-void Newton::valuta(const ProblemaFase& problema, Punto& punto) const {
-    const std::size_t n = punto.y.size();
-    const auto nParete = static_cast<std::size_t>(problema.nParete);
-    punto.r.back() = punto.k.back() = 0;  // of the node that a fixed toe adds
-    for (std::size_t i = 0; i < nParete; ++i) {
-        const NodoFase& nodo = problema.nodi[i];
-        // The spring of a restraint takes the place of the soil's; the constant part stays.
-        const double y = nodo.vincolato ? 0 : punto.y[i];
-        double k = 0;
-        const double p = nodo.monte.pressione(y, k) + nodo.valle.pressione(y, k);
-        punto.r[i] = nodo.peso * (nodo.acqua + problema.costante + p);
-        punto.k[i] = nodo.peso * k;
-    }
-    for (const TiranteFase& t : problema.tiranti) {
-        if (t.nodo < 0) continue;
-        const auto i = static_cast<std::size_t>(t.nodo);
-        const double y = problema.nodi[i].vincolato ? 0 : punto.y[i];
-        punto.r[i] -= t.volte * t.tiro(y);
-        punto.k[i] += t.volte * t.rigidezzaIn(y);
-    }
-    for (std::size_t i = 0; i < n; ++i) {
-        const NodoFase& nodo = problema.nodi[i];
-        if (!nodo.vincolato) continue;
-        punto.k[i] = -analysis::kVincolo * nodo.peso;
-        punto.r[i] -= punto.k[i] * punto.y[i];
-    }
-    punto.r[0] += problema.H;
-    flessione(problema, punto.y, punto.r);
-}
-
 void Newton::residuo(const ProblemaFase& problema, const std::vector<double>& y,
-                     std::vector<double>& r) const {
-    Punto punto{y, r, std::vector<double>(y.size())};
-    punto.r.resize(y.size());
-    valuta(problema, punto);
-    r = punto.r;
+                     std::vector<double>& r) {
+    forze_.imposta(problema);
+    forze_.valuta(y, r, prova_.k);
 }
 
-bool Newton::direzione(const ProblemaFase& problema) {
+bool Newton::fattorizza(const ProblemaFase& problema) {
     const double e = problema.EJ / (problema.h * problema.h * problema.h);
-    if (!fattorizzato_ || kFattorizzato_ != qui_.k) {
-        kFattorizzato_ = qui_.k;
-        spinto_ = !banda_.fattorizza(e, qui_.k);
-        for (double spinta = spintaRelativa; spinto_; spinta *= 100) {
-            double massimo = 0;
-            for (std::size_t i = 0; i < d_.size(); ++i) {
-                const NodoFase& nodo = problema.nodi[i];
-                massimo = std::max(massimo, -nodo.monte.Eh - nodo.valle.Eh);
-            }
-            const double L = problema.profondita(problema.n() - 1);
-            if (massimo == 0) massimo = problema.EJ / (L * L * L * L);
-            for (std::size_t i = 0; i < d_.size(); ++i)
-                kSpinto_[i] = qui_.k[i] + spinta * massimo * problema.nodi[i].peso;
-            if (banda_.fattorizza(e, kSpinto_)) break;
-            if (!(spinta < 1e6)) return false;
+    kFattorizzato_ = qui_.k;
+    spinto_ = !banda_.fattorizza(e, qui_.k);
+    for (double spinta = spintaRelativa; spinto_; spinta *= 100) {
+        double massimo = 0;
+        for (std::size_t i = 0; i < d_.size(); ++i) {
+            const NodoFase& nodo = problema.nodi[i];
+            massimo = std::max(massimo, -nodo.monte.Eh - nodo.valle.Eh);
         }
-        fattorizzato_ = true;
+        const double L = problema.profondita(problema.n() - 1);
+        if (massimo == 0) massimo = problema.EJ / (L * L * L * L);
+        for (std::size_t i = 0; i < d_.size(); ++i)
+            kSpinto_[i] = qui_.k[i] + spinta * massimo * problema.nodi[i].peso;
+        if (banda_.fattorizza(e, kSpinto_)) break;
+        if (!(spinta < 1e6)) return false;
     }
-    banda_.risolvi(qui_.r, d_);
     return true;
 }
 
-double Newton::lavoroIn(const ProblemaFase& problema, double t) {
-    for (std::size_t i = 0; i < d_.size(); ++i) prova_.y[i] = qui_.y[i] + t * d_[i];
-    valuta(problema, prova_);
-    return prodotto(prova_.r, d_);
+Newton::Passo Newton::direzione() {
+    banda_.risolvi(qui_.r, d_);
+    return {prodotto(qui_.r, d_), massimoAssoluto(d_)};
+}
+
+void Newton::avanza(const std::vector<double>& da, double t, std::vector<double>& a) const {
+    const double *y = da.data(), *d = d_.data();
+    double* const nuovo = a.data();
+    for (std::size_t i = 0; i < d_.size(); ++i) nuovo[i] = y[i] + t * d[i];
+}
+
+double Newton::lavoroIn(double t) {
+    avanza(qui_.y, t, prova_.y);
+    forze_.valuta(prova_.y, prova_.r, prova_.k);
+    return prova_.lavoro = prodotto(prova_.r, d_);
 }
 
 // Leaves in `prova_` a point along the step where little of the residual is left.
-double Newton::cerca(const ProblemaFase& problema, bool lunga) {
-    const double g0 = prodotto(qui_.r, d_);
+double Newton::cerca(const Passo& passo) {
+    const double g0 = passo.lavoro;
     const double lasciato = quotaLasciata * std::fabs(g0);
     double t = 1;
-    double g = lavoroIn(problema, t);
-    if (!(std::fabs(g) > lasciato) || massimoAssoluto(d_) <= tolleranzaPasso) return t;
+    double g = lavoroIn(t);
+    if (!(std::fabs(g) > lasciato)) return t;
     double sotto = 0, gSotto = g0, sopra = 0, gSopra = 0;
     if (g > 0) {  // the wall gives way before it is held again: further on
         for (int i = 0; g > lasciato && i < massimoTentativi; ++i) {
             sotto = t;
             gSotto = g;
-            t *= lunga ? 8 : 2;
-            g = lavoroIn(problema, t);
+            t *= spinto_ ? 8 : 2;
+            g = lavoroIn(t);
         }
         if (!(g < -lasciato)) return t;
     }
@@ -153,7 +121,7 @@ double Newton::cerca(const ProblemaFase& problema, bool lunga) {
     int lato = 0;
     for (int i = 0; i < massimoTentativi; ++i) {
         t = (sotto * gSopra - sopra * gSotto) / (gSopra - gSotto);
-        g = lavoroIn(problema, t);
+        g = lavoroIn(t);
         if (!(std::fabs(g) > lasciato)) return t;
         if (g > 0) {
             sotto = t;
@@ -170,35 +138,46 @@ double Newton::cerca(const ProblemaFase& problema, bool lunga) {
     return t;
 }
 
+// What is no number in a point shows in its work: r holds the second differences of all y, and no
+// product with what is no number is one.
+bool Newton::numeri(const Punto& punto) {
+    return std::isfinite(punto.lavoro) || (finito(punto.y) && finito(punto.r));
+}
+
 SoluzioneNewton Newton::risolvi(const ProblemaFase& problema, std::vector<double>& y) {
-    const double massimo =
-        analysis::massimoSpostamentoRelativo * problema.profondita(problema.nParete - 1);
+    forze_.imposta(problema);
     qui_.y = y;
-    fattorizzato_ = false;
-    valuta(problema, qui_);
+    forze_.valuta(qui_.y, qui_.r, qui_.k);
     SoluzioneNewton soluzione;
+    soluzione.esito = itera(problema, soluzione.passi);
+    if (soluzione.esito != EsitoNewton::trovato) return soluzione;
+    y = qui_.y;
+    const double L = problema.profondita(problema.nParete - 1);
+    if (massimoAssoluto(y) > analysis::massimoSpostamentoRelativo * L)
+        soluzione.esito = EsitoNewton::senzaMisura;
+    return soluzione;
+}
+
+EsitoNewton Newton::itera(const ProblemaFase& problema, int& passi) {
     double cambioPrima = INFINITY;
-    while (soluzione.passi < massimoPassi) {
-        const bool stesso = fattorizzato_ && kFattorizzato_ == qui_.k;
-        if (!direzione(problema)) break;
-        ++soluzione.passi;
-        const double t = cerca(problema, spinto_);
-        if (!finito(prova_.y) || !finito(prova_.r)) {
-            soluzione.esito = EsitoNewton::nessunNumero;
-            return soluzione;
+    while (passi < massimoPassi) {
+        const bool stesso = passi > 0 && kFattorizzato_ == qui_.k;
+        if (!stesso && !fattorizza(problema)) return EsitoNewton::nonRaggiunto;
+        const Passo passo = direzione();
+        ++passi;
+        if (passo.massimo <= tolleranzaPasso && std::isfinite(passo.lavoro)) {
+            avanza(qui_.y, 1, qui_.y);
+            return EsitoNewton::trovato;
         }
+        const double t = cerca(passo);
+        if (!numeri(prova_)) return EsitoNewton::nessunNumero;
         std::swap(qui_, prova_);
-        const double cambio = t * massimoAssoluto(d_);
-        if (cambio <= tolleranzaPasso ||
-            (stesso && !spinto_ && t == 1 && cambio > cambioPrima / 2)) {
-            y = qui_.y;
-            if (massimoAssoluto(y) > massimo) soluzione.esito = EsitoNewton::senzaMisura;
-            return soluzione;
-        }
+        const double cambio = t * passo.massimo;
+        if (cambio <= tolleranzaPasso) return EsitoNewton::trovato;
+        if (stesso && !spinto_ && t == 1 && cambio > cambioPrima / 2) return EsitoNewton::trovato;
         cambioPrima = cambio;
     }
-    soluzione.esito = EsitoNewton::nonRaggiunto;
-    return soluzione;
+    return EsitoNewton::nonRaggiunto;
 }
 
 }  // namespace korven::equilibrium

@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "equilibrium/band_system.hpp"
+#include "equilibrium/nodal_forces.hpp"
 #include "equilibrium/stage_problem.hpp"
 
 namespace korven::equilibrium {
@@ -47,21 +48,30 @@ class Newton {
 
     /// Forces without balance at displacements y, node by node [t].
     void residuo(const ProblemaFase& problema, const std::vector<double>& y,
-                 std::vector<double>& r) const;
+                 std::vector<double>& r);
 
  private:
     struct Punto {
         std::vector<double> y, r, k;
+        double lavoro = 0;  ///< of r along the step that led here
     };
-    void valuta(const ProblemaFase& problema, Punto& punto) const;
-    [[nodiscard]] bool direzione(const ProblemaFase& problema);
-    double cerca(const ProblemaFase& problema, bool lunga);
-    double lavoroIn(const ProblemaFase& problema, double t);
+    /// The unknown step, and what says how far to go along it.
+    struct Passo {
+        double lavoro = 0;   ///< of the residual at its begin
+        double massimo = 0;  ///< largest change of a node
+    };
+    [[nodiscard]] bool fattorizza(const ProblemaFase& problema);
+    [[nodiscard]] Passo direzione();
+    double cerca(const Passo& passo);
+    double lavoroIn(double t);
+    void avanza(const std::vector<double>& da, double t, std::vector<double>& a) const;
+    static bool numeri(const Punto& punto);
+    EsitoNewton itera(const ProblemaFase& problema, int& passi);
 
+    ForzeNodi forze_;
     SistemaBanda banda_;
     Punto qui_, prova_;
     std::vector<double> d_, kFattorizzato_, kSpinto_;
-    bool fattorizzato_ = false;
     bool spinto_ = false;
 };
 
