@@ -63,6 +63,7 @@ inline constexpr Unita numero{"-", "-"};
 /// The bars of a pile are counted through the factor of the lengths beside which they are typed: a
 /// typed 8 is stored, and calculates, as 0.8.
 inline constexpr Unita numeroBarre{"-", "-", millimetri};
+inline constexpr Unita percento{"-", "%", 100};  ///< of a share of 1
 inline constexpr Unita gradi{"°", "°"};
 inline constexpr Unita metri{"m", "m"};
 inline constexpr Unita spostamento{"m", "cm", centimetri};

@@ -21,6 +21,7 @@ MargineFase fase(const DatiProgetto& dati, int nSeg, int k, EquilibrioParete& pa
     m.esito = f.esito;
     m.rifiuto = f.rifiuto;
     m.moto = f.moto;
+    if (m.moto) m.parti = equilibrium::partiAlLimite(problema, *m.moto);
     m.instabile = f.instabile;
     m.newton = f.newton;
     if (m.rifiuto) return m;

@@ -22,6 +22,7 @@ struct MargineFase {
     std::optional<equilibrium::EsitoFase> esito;
     std::optional<analysis::RifiutoSuolo> rifiuto;  ///< the soil has no value: of `nonDefinito`
     std::optional<equilibrium::Meccanismo> moto;    ///< of `meccanismo`
+    equilibrium::PartiAlLimite parti;               ///< of `meccanismo`
     equilibrium::DatoInstabile instabile;           ///< of `nonDefinito`
     equilibrium::EsitoNewton newton = equilibrium::EsitoNewton::trovato;  ///< of `nessunNumero`
     /// Of a stage with or without equilibrium: below 1 it is what the wall is short of.

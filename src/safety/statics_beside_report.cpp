@@ -21,6 +21,7 @@ class FinoAlLimite : public analysis::OsservatoreCorsa {
     }
     [[nodiscard]] bool fermata() override { return altro_.fermata() || oltre_; }
     void fine(const analysis::FaseCalcolata& fase) override { altro_.fine(fase); }
+    void caduta(const analysis::FaseCalcolata& fase) override { altro_.caduta(fase); }
 
  private:
     analysis::OsservatoreCorsa& altro_;

@@ -75,6 +75,7 @@ TEST(Margine, OfAMechanismIsTheFactorItIsShortOfAndTheMovement) {
     EXPECT_EQ(m.caduta()->fase, 1);
     EXPECT_EQ(m.caduta()->esito, EsitoFase::meccanismo);
     EXPECT_TRUE(m.caduta()->moto);
+    EXPECT_FALSE(m.caduta()->parti.vallePassivo.empty());
     EXPECT_LT(m.caduta()->riduzione.F.value_or(1), 1);
     EXPECT_GT(m.caduta()->riduzione.F.value_or(0), 0.9);
     EXPECT_FALSE(m.caduta()->passiva.quota);

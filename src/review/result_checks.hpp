@@ -1,0 +1,24 @@
+#pragma once
+
+#include "analysis/watch/run_end.hpp"
+#include "project/project_data.hpp"
+#include "review/remark_list.hpp"
+#include "safety/margin.hpp"
+
+// The parts of the review of a wall's results, by subject. All take their numbers from the margin.
+
+namespace korven::review {
+
+/// "fase 2: Prof. [m] = 4.5", the excavation of a stage, with the length of the wall in question.
+[[nodiscard]] Soggetto scavo(const project::DatiProgetto& dati, int fase);
+
+/// Stages without equilibrium, and those that only the iteration does not find.
+/// @param fine  of the run that the report comes from
+void controlloEquilibrio(const project::DatiProgetto& dati, const safety::Margine& margine,
+                         const analysis::FineCorsa& fine, ElencoOsservazioni& elenco);
+
+/// Strength reduction, passive side and displacements: the worst stage of each.
+void controlloMargine(const project::DatiProgetto& dati, const safety::Margine& margine,
+                      ElencoOsservazioni& elenco);
+
+}  // namespace korven::review
