@@ -95,22 +95,16 @@ std::string nella(std::string_view che, const Diagnosi& d) {
     return traduttore(che) + " " + std::to_string(d.fase);
 }
 
-std::string sta(const Diagnosi& d) {
-    return traduttore("con uno spostamento massimo di") + " " +
-           valore(d.spostamento, unita::spostamentoFine) + ": " +
-           traduttore("oscilla soltanto l'iterazione");
+std::string movimento(const Diagnosi& d) {
+    return d.moto ? parole(*d.moto, d.paratia) + "; " + mancante(*d.moto) : std::string();
 }
 
-std::string meccanismo(const Diagnosi& d) {
-    Elenco elenco("; ");
-    elenco.aggiungi(nella("la paratia è un meccanismo nella fase", d) + ": " + inBreve(d));
-    elenco.aggiungi(parole(d.parti));
-    elenco.aggiungi(d.lunghezza
-                        ? traduttore("di solito aiuta una paratia più lunga: circa") + " " +
-                              unito(metri(*d.lunghezza), unita::metri)
-                        : traduttore("controllare profondità di scavo, tiranti, livelli dell'acqua "
-                                     "e carichi in testa"));
-    return elenco.testo();
+std::string rimedio(const Diagnosi& d) {
+    if (!d.lunghezza)
+        return traduttore(
+            "controllare profondità di scavo, tiranti, livelli dell'acqua e carichi in testa");
+    return traduttore("di solito aiuta una paratia più lunga: circa") + " " +
+           unito(metri(*d.lunghezza), unita::metri);
 }
 
 }  // namespace
@@ -192,13 +186,16 @@ std::string parole(EsitoNewton esito) {
 std::string inBreve(const Diagnosi& d) {
     switch (d.causa) {
         case Causa::meccanismo:
-            return d.moto ? parole(*d.moto, d.paratia) + "; " + mancante(*d.moto) : std::string();
+            return nella("la paratia è un meccanismo nella fase", d) + ": " + movimento(d);
         case Causa::oscilla:
-            return traduttore("la paratia sta") + ", " + sta(d);
+            return nella("la paratia sta nella fase", d) + ", " +
+                   traduttore("con uno spostamento massimo di") + " " +
+                   valore(d.spostamento, unita::spostamentoFine) + ": " +
+                   traduttore("oscilla soltanto l'iterazione");
         case Causa::nonDefinito:
-            return parole(d.instabile);
+            return nella("l'equilibrio non è definito nella fase", d) + ": " + parole(d.instabile);
         case Causa::nessunNumero:
-            return parole(d.newton);
+            return nella("nessun numero nella fase", d) + ": " + parole(d.newton);
         case Causa::eseguito:
         case Causa::rifiutato:
         case Causa::fermato:
@@ -208,23 +205,16 @@ std::string inBreve(const Diagnosi& d) {
 }
 
 std::string frase(const Diagnosi& d) {
-    switch (d.causa) {
-        case Causa::meccanismo:
-            return meccanismo(d);
-        case Causa::oscilla:
-            return nella("la paratia sta nella fase", d) + ", " + sta(d) + "; " +
-                   traduttore("il suo equilibrio si calcola con") + " korven32c " +
-                   comandoEquilibrio.mostrato();
-        case Causa::nonDefinito:
-            return nella("l'equilibrio non è definito nella fase", d) + ": " + inBreve(d);
-        case Causa::nessunNumero:
-            return nella("nessun numero nella fase", d) + ": " + inBreve(d);
-        case Causa::eseguito:
-        case Causa::rifiutato:
-        case Causa::fermato:
-            break;
+    Elenco elenco("; ");
+    elenco.aggiungi(inBreve(d));
+    if (d.causa == Causa::meccanismo) {
+        elenco.aggiungi(parole(d.parti));
+        elenco.aggiungi(rimedio(d));
     }
-    return {};
+    if (d.causa == Causa::oscilla)
+        elenco.aggiungi(traduttore("il suo equilibrio si calcola con") + " korven32c " +
+                        comandoEquilibrio.mostrato());
+    return elenco.testo();
 }
 
 }  // namespace korven::safety

@@ -29,11 +29,11 @@ inline constexpr base::Gemelli comandoEquilibrio{"equilibrio", "equilibrium"};
 /// Why there are no displacements, and what to look at. Empty where they were found.
 [[nodiscard]] std::string parole(equilibrium::EsitoNewton esito);
 
-/// The short form, of a stage that is known: the movement and what is missing, or how far the wall
-/// moves that stands, or what makes it no number.
+/// The short form: the stage, the movement and what is missing; of a wall that stands how far it
+/// moves; or what makes it no equilibrium or no number.
 [[nodiscard]] std::string inBreve(const Diagnosi& diagnosi);
 
-/// The whole form, one line: the stage, the short form, the parts at their limits, what helps.
+/// The whole form, one line: the short one, the parts at their limits, what helps.
 [[nodiscard]] std::string frase(const Diagnosi& diagnosi);
 
 }  // namespace korven::safety

@@ -16,6 +16,7 @@
 #include "project/project_data.hpp"
 #include "project/project_file.hpp"
 #include "support/program_run.hpp"
+#include "support/restless_wall.hpp"
 #include "support/sample_projects.hpp"
 #include "support/temporary_folder.hpp"
 #include "support/wall_builder.hpp"
@@ -106,23 +107,6 @@ class BancoConsole : public ::testing::Test {
 
 inline bool dice(const std::string& testo, std::string_view parte) {
     return testo.find(parte) != std::string::npos;
-}
-
-/// A wall whose first stage flips for ever between two states in 10 segments.
-inline project::DatiProgetto progettoSenzaPace() {
-    using project::DatiProgetto;
-    return muro()
-        .rigido(500)
-        .strato({.fondo = 5, .gammaN = 1.67, .phi = 25, .ks = 3000})
-        .con(&DatiProgetto::vincoloPiede, 2)
-        .sovraccarico(1)
-        .con(&DatiProgetto::momentoTesta, 5)
-        .falda(2)
-        .con(&DatiProgetto::faldaValle, 5)
-        .tirante(2.8, 1000)
-        .tirante(4.4, 1000, 1)
-        .fase({.scavo = 6, .tiranti = 1})
-        .dati();
 }
 
 /// A wall in stiff ground whose one stage takes 22 iterations in 30 segments.

@@ -106,7 +106,8 @@ Diagnosi muroCheCade() {
 TEST(Frase, TellsOfAMechanismHowAndWhatHelps) {
     Diagnosi d = muroCheCade();
     EXPECT_EQ(inBreve(d),
-              "ruota attorno alla profondità di 4.2 m, il piede verso lo scavo; mancano 35.1 kN m");
+              "la paratia è un meccanismo nella fase 3: ruota attorno alla profondità di 4.2 m, il "
+              "piede verso lo scavo; mancano 35.1 kN m");
     const std::string fatto =
         "la paratia è un meccanismo nella fase 3: ruota attorno alla profondità di 4.2 m, il "
         "piede verso lo scavo; mancano 35.1 kN m; al limite: monte attivo 0-10 m, valle passivo "
@@ -120,9 +121,10 @@ TEST(Frase, TellsOfAMechanismHowAndWhatHelps) {
 
 TEST(Frase, TellsOfAWallThatStandsThatOnlyTheIterationFlips) {
     const Diagnosi d{.causa = Causa::oscilla, .fase = 2, .paratia = 10, .spostamento = 0.0123};
-    EXPECT_EQ(inBreve(d),
-              "la paratia sta, con uno spostamento massimo di 12.3 mm: oscilla soltanto "
-              "l'iterazione");
+    EXPECT_EQ(
+        inBreve(d),
+        "la paratia sta nella fase 2, con uno spostamento massimo di 12.3 mm: oscilla soltanto "
+        "l'iterazione");
     EXPECT_EQ(frase(d),
               "la paratia sta nella fase 2, con uno spostamento massimo di 12.3 mm: oscilla "
               "soltanto l'iterazione; il suo equilibrio si calcola con korven32c equilibrio");

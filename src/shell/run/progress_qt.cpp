@@ -5,6 +5,7 @@
 #include <QTimer>
 
 #include "analysis/run_flags.hpp"
+#include "project/project_data.hpp"
 #include "shell/qt_text.hpp"
 #include "shell/termination.hpp"
 
@@ -24,6 +25,7 @@ void AvanzamentoQt::iterazione(const analysis::StatoIterazione& stato) {
     quadro_ = quadro(stato);
     didascalia_ =
         qt(analysis::didascaliaAvanzamento(stato.fase, stato.iterazione, stato.yMax, stato.mMax));
+    riga_ = qt(lenta_.riga(stato, project::Progetto));
     daMostrare_ = true;
     if (ritmo_.tocca(orologio_())) mostra();
     QCoreApplication::processEvents();
@@ -32,7 +34,10 @@ void AvanzamentoQt::iterazione(const analysis::StatoIterazione& stato) {
 
 void AvanzamentoQt::mostra() {
     daMostrare_ = false;
-    if (finestra_ != nullptr) finestra_->mostra(quadro_);
+    if (finestra_ != nullptr) {
+        finestra_->mostra(quadro_);
+        finestra_->racconta(riga_);
+    }
     if (principale_ != nullptr) principale_->setWindowTitle(didascalia_);
 }
 

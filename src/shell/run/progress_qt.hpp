@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "analysis/progress.hpp"
+#include "safety/slow_stage.hpp"
 #include "shell/run/redraw_rhythm.hpp"
 #include "shell/run/temp_calc.hpp"
 
@@ -15,7 +16,8 @@ namespace korven::shell {
 
 /// Shows a run on its two surfaces, the window `TempCalc` and the caption of the main form, and
 /// serves the event queue once per iteration, so that the stop button can be pressed. The surfaces
-/// are redrawn at most 30 times a second, and with the last state in any case.
+/// are redrawn at most 30 times a second, and with the last state in any case. Of a stage that
+/// finds no rest the window says what becomes of the wall.
 class AvanzamentoQt : public analysis::Avanzamento {
  public:
     using Orologio = std::function<RitmoRidisegno::Istante()>;
@@ -43,10 +45,11 @@ class AvanzamentoQt : public analysis::Avanzamento {
     QPointer<QWidget> principale_;
     QString didascaliaPrima_;
     RitmoRidisegno ritmo_;
+    safety::FaseSenzaRiposo lenta_;
     std::unique_ptr<TempCalc> finestra_;
     std::unique_ptr<QMessageBox> attesa_;
     QuadroAvanzamento quadro_;
-    QString didascalia_;
+    QString didascalia_, riga_;
     bool daMostrare_ = false;
 };
 

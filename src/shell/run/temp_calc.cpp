@@ -29,6 +29,13 @@ TempCalc::TempCalc(QWidget* principale)
     command1_->setObjectName("Command1");
     connect(command1_, &QPushButton::clicked, this, &TempCalc::interrompi);
     command1_->setFocus();
+    riga_ = new QLabel(this);
+    riga_->setObjectName("riga");
+    riga_->setTextFormat(Qt::PlainText);
+    riga_->setWordWrap(true);
+    riga_->setMargin(4);
+    riga_->setAutoFillBackground(true);
+    riga_->hide();
     disponi();
 }
 
@@ -37,10 +44,23 @@ void TempCalc::mostra(QuadroAvanzamento quadro) {
     update();
 }
 
+void TempCalc::racconta(const QString& riga) {
+    if (riga == riga_->text()) return;
+    riga_->setText(riga);
+    setAccessibleDescription(riga);
+    disponi();
+    riga_->setVisible(!riga.isEmpty());
+}
+
 void TempCalc::disponi() {
     const QSize bottone = command1_->sizeHint();
     command1_->setGeometry(width() - bottone.width() * 5 / 2, height() - bottone.height() * 5 / 2,
                            bottone.width(), bottone.height());
+    constexpr int margine = 8;
+    constexpr int righeLegenda = 3;  // with the room around them
+    const int larghezza = width() - 2 * margine;
+    riga_->setGeometry(margine, righeLegenda * altezzaRiga(), larghezza,
+                       riga_->heightForWidth(larghezza));
 }
 
 void TempCalc::resizeEvent(QResizeEvent*) { disponi(); }
@@ -75,9 +95,11 @@ void TempCalc::paintEvent(QPaintEvent*) {
     legenda(pittore);
 }
 
+int TempCalc::altezzaRiga() const { return fontMetrics().height() + 4; }
+
 // In the corner where the wall does not move and the button is not.
 void TempCalc::legenda(QPainter& pittore) const {
-    const int riga = fontMetrics().height() + 4;
+    const int riga = altezzaRiga();
     int y = riga;
     for (const auto& [nome, colore] :
          {std::pair{deformata_, coloreDeformata}, std::pair{momenti_, coloreMomenti}}) {

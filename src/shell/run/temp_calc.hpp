@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QLabel>
 #include <QPushButton>
 #include <QWidget>
 
@@ -18,6 +19,8 @@ class TempCalc : public QWidget {
 
     void mostra(QuadroAvanzamento quadro);
     [[nodiscard]] const QuadroAvanzamento& quadro() const { return quadro_; }
+    /// Says a line under the legend, over the picture; an empty one takes it away.
+    void racconta(const QString& riga);
 
  signals:
     void interruzione();
@@ -31,9 +34,11 @@ class TempCalc : public QWidget {
  private:
     void disponi();
     void legenda(QPainter& pittore) const;
+    [[nodiscard]] int altezzaRiga() const;
     void interrompi();
 
     QPushButton* command1_;
+    QLabel* riga_;
     QuadroAvanzamento quadro_;
     // Translated once: a box of the translators' test mode must not open while a window is painted.
     const QString deformata_, momenti_;

@@ -8,6 +8,7 @@
 #include "analysis/run_flags.hpp"
 #include "base/folders/file_lock.hpp"
 #include "support/desktop_bench.hpp"
+#include "support/restless_wall.hpp"
 #include "support/run_harness.hpp"
 #include "support/sample_projects.hpp"
 
@@ -112,6 +113,48 @@ TEST_F(Corsa, EndsWhenTheStopButtonIsPressed) {
     EXPECT_FALSE(banco.haRisultati());
     EXPECT_TRUE(banco.dialogo.messaggi.empty());
     EXPECT_EQ(avanzamento.finestra(), nullptr);
+}
+
+// A wall that flips for ever; the test looks at the window after each iteration and ends the run.
+class CorsaSenzaRiposo : public ::testing::Test {
+ protected:
+    // The line of the window after that many iterations.
+    QString riga(int iterazioni) {
+        AvanzamentoQt avanzamento([this] { return ora += milliseconds(1000); });
+        QString vista;
+        class Seguito : public analysis::Avanzamento {
+         public:
+            Seguito(AvanzamentoQt& a, int quante, QString& vista)
+                : a_(a), quante_(quante), vista_(vista) {}
+            void apri() override { a_.apri(); }
+            void chiudi() override { a_.chiudi(); }
+            void iterazione(const analysis::StatoIterazione& stato) override {
+                a_.iterazione(stato);
+                if (stato.iterazione < quante_) return;
+                analysis::stopCalcolo = true;
+                const auto* riga = a_.finestra()->findChild<QLabel*>("riga");
+                if (riga->isVisible()) vista_ = riga->text();
+            }
+
+         private:
+            AvanzamentoQt& a_;
+            int quante_;
+            QString& vista_;
+        } seguito(avanzamento, iterazioni, vista);
+        analysis::CalcoloParatia(analysis::relazione, {banco.dialogo, seguito, banco.uscita});
+        EXPECT_TRUE(banco.dialogo.messaggi.empty());
+        return vista;
+    }
+    RitmoRidisegno::Istante ora{};
+    test::Banco banco{test::progettoSenzaPace(), 10};
+};
+
+TEST_F(CorsaSenzaRiposo, SaysAfter200IterationsWhatBecomesOfTheWall) {
+    EXPECT_EQ(riga(199), "");
+    const QString detto = riga(200);
+    EXPECT_TRUE(detto.startsWith("la paratia sta nella fase 1, con uno spostamento massimo di "))
+        << detto.toStdString();
+    EXPECT_TRUE(detto.endsWith("mm: oscilla soltanto l'iterazione")) << detto.toStdString();
 }
 
 // Another run's lock is held by the test.
