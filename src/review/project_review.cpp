@@ -55,6 +55,8 @@ Osservazioni esaminaProgetto(const DatiProgetto& dati) {
     controlloMostrati(dati, elenco);
     controlloCodici(dati, elenco);
     controlloTerreno(dati, elenco);
+    controlloAcqua(dati, elenco);
+    controlloTensioni(dati, elenco);
     controlloTiranti(dati, elenco);
     controlloFasi(dati, elenco);
     controlloSezione(dati, elenco);

@@ -36,6 +36,30 @@ inline constexpr VoceOsservazione vociProgetto[] = {
      "con l'inclinazione del terreno arriva a 90°: il coefficiente passivo di Coulomb non ha "
      "significato"},
 
+    {"acqua-a-zero", Peso::pericolo, "fasi",
+     "acqua fino alla testa della paratia da tutte e due le parti, come risulta quando i livelli "
+     "non sono scritti: scriverli; senza falda, più di %1 m"},
+    {"acqua-piu-alta-davanti", Peso::pericolo, "fasi",
+     "l'acqua è più alta davanti che dietro e spinge la paratia verso il terreno: se non è voluto, "
+     "correggere il livello di valle; senza falda, più di %1 m"},
+    {"acqua-sopra-lo-scavo", Peso::daVedere, "fasi",
+     "l'acqua davanti sta sopra il fondo dello scavo e sostiene la paratia: vale solo se lo scavo "
+     "resta pieno d'acqua, altrimenti scrivere almeno la profondità dello scavo"},
+
+    {"tensioni-totali-con-attrito", Peso::pericolo, "non_drenato",
+     "con attrito sotto l'acqua le tensioni totali contano l'acqua due volte, nel peso del terreno "
+     "e come spinta: usare le tensioni efficaci, o Phi = 0 con la coesione non drenata"},
+    {"su-non-usata", Peso::daVedere, "non_drenato",
+     "nessun calcolo legge la resistenza non drenata, solo la stratigrafia la disegna: nei calcoli "
+     "in tensioni totali scriverla come coesione"},
+    {"coesione-con-bell", Peso::pericolo, "parametri",
+     "con Bell la coesione non entra nelle spinte: usare Coulomb o Rankine"},
+    {"pendio-con-bell", Peso::pericolo, "parametri",
+     "con Bell la pendenza non entra nelle spinte attiva e passiva: usare Coulomb o Rankine"},
+    {"k0-sotto-ka", Peso::daVedere, "spinte",
+     "il coefficiente a riposo (%1) è minore di quello attivo (%2): coesione a parte, il terreno a "
+     "monte è in stato attivo già senza spostamenti"},
+
     {"ks-mancante", Peso::pericolo, "ks_valori", "modulo ks mancante"},
     {"ks-negativo", Peso::pericolo, "ks_valori", "valore negativo"},
     {"terreno-senza-rigidezza", Peso::pericolo, "ks_valori", "il terreno non ha rigidezza"},

@@ -24,10 +24,30 @@ constexpr project::Membro dettiPerEsteso[] = {
 };
 
 // The shown value may be too large for a number; the review must still be able to tell it.
-std::string campoEValore(const project::Campo& campo, double conservato) {
+std::string valoreMostrato(const project::Campo& campo, double conservato) {
     constexpr double massimo = std::numeric_limits<double>::max();
-    return nomeCampo(campo) + " = " +
-           base::testoNumero(std::clamp(project::mostrato(campo, conservato), -massimo, massimo));
+    return base::testoNumero(std::clamp(project::mostrato(campo, conservato), -massimo, massimo));
+}
+
+std::string campoEValore(const project::Campo& campo, double conservato) {
+    return nomeCampo(campo) + " = " + valoreMostrato(campo, conservato);
+}
+
+struct NomiRighe {
+    const char *singolare, *plurale;
+};
+
+NomiRighe nomiRighe(project::Parte parte) {
+    switch (parte) {
+        case project::Parte::strati:
+            return {"strato", "strati"};
+        case project::Parte::tiranti:
+            return {"tirante", "tiranti"};
+        case project::Parte::fasi:
+            return {"fase", "fasi"};
+        default:
+            return {"titolo", "titoli"};
+    }
 }
 
 std::string inRiga(const Soggetto& soggetto, const std::string& testo) {
@@ -88,6 +108,22 @@ Soggetto dopo(const std::string& prima, Soggetto soggetto) {
     return soggetto;
 }
 
+Soggetto righeConValori(const project::DatiProgetto& dati, const project::Membro& colonna,
+                        const std::vector<int>& numeri) {
+    if (numeri.size() == 1) return rigaConValore(dati, colonna, numeri.front());
+    const project::Campo& campo = project::campo(colonna);
+    std::vector<std::string> quali, valori;
+    Soggetto soggetto;
+    for (const int numero : numeri) {
+        quali.push_back(std::to_string(numero));
+        valori.push_back(valoreMostrato(campo, project::numeroConservato(dati, campo, numero)));
+        soggetto.campi.push_back(project::nomeStabile(campo, numero));
+    }
+    soggetto.testo = base::traduttore(nomiRighe(campo.parte).plurale) + " " + inFila(quali) + ": " +
+                     nomeCampo(campo) + " = " + inFila(valori);
+    return soggetto;
+}
+
 Soggetto insieme(Soggetto uno, const Soggetto& altro) {
     uno.testo += ", " + altro.testo;
     uno.campi.insert(uno.campi.end(), altro.campi.begin(), altro.campi.end());
@@ -98,7 +134,16 @@ std::string conValoreTraParentesi(std::string testo, double valore) {
     return std::move(testo) + " (" + base::testoNumero(valore) + ")";
 }
 
+std::string inFila(const std::vector<std::string>& pezzi) {
+    std::string fila;
+    for (const auto& pezzo : pezzi) fila += (fila.empty() ? "" : ", ") + pezzo;
+    return fila;
+}
+
 std::string nomeCampo(const project::Campo& campo) {
+    // What no editor shows has the caption of the log.
+    if (campo.membro == project::Membro(&DatiProgetto::suStrato))
+        return base::traduttore("Su [kN/m²]");
     const bool detto =
         !campo.codici.empty() || std::find(std::begin(dettiPerEsteso), std::end(dettiPerEsteso),
                                            campo.membro) != std::end(dettiPerEsteso);
@@ -106,11 +151,7 @@ std::string nomeCampo(const project::Campo& campo) {
 }
 
 std::string nomeRiga(const project::Campo& colonna, int numero) {
-    const char* nome = colonna.parte == project::Parte::strati    ? "strato"
-                       : colonna.parte == project::Parte::tiranti ? "tirante"
-                       : colonna.parte == project::Parte::fasi    ? "fase"
-                                                                  : "titolo";
-    return base::traduttore(nome) + " " + std::to_string(numero);
+    return base::traduttore(nomiRighe(colonna.parte).singolare) + " " + std::to_string(numero);
 }
 
 bool intero(double valore) { return valore == std::floor(valore); }

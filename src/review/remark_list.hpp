@@ -51,6 +51,12 @@ class ElencoOsservazioni {
 [[nodiscard]] Soggetto rigaConValore(const project::DatiProgetto& dati,
                                      const project::Membro& colonna, int numero);
 
+/// Several rows with their cells of one column: "strati 1, 3: Phi [°] = 30, 28"; of one row as
+/// above. @pre there is one
+[[nodiscard]] Soggetto righeConValori(const project::DatiProgetto& dati,
+                                      const project::Membro& colonna,
+                                      const std::vector<int>& numeri);
+
 /// "Gamma [kN/m³] = 18" for a stored 1.8.
 [[nodiscard]] Soggetto campoConValore(const project::Membro& membro, double conservato);
 
@@ -59,6 +65,9 @@ class ElencoOsservazioni {
 
 /// Two fields in one remark: "..., ...".
 [[nodiscard]] Soggetto insieme(Soggetto uno, const Soggetto& altro);
+
+/// "1, 3, 4".
+[[nodiscard]] std::string inFila(const std::vector<std::string>& pezzi);
 
 /// A text followed by the value in question, in brackets.
 [[nodiscard]] std::string conValoreTraParentesi(std::string testo, double valore);
@@ -77,6 +86,12 @@ inline constexpr double massimoPeso = 5;
 
 /// The layers, the ground and the water.
 void controlloTerreno(const project::DatiProgetto& dati, ElencoOsservazioni& elenco);
+
+/// The water levels.
+void controlloAcqua(const project::DatiProgetto& dati, ElencoOsservazioni& elenco);
+
+/// What the kind of stresses and the method of the pressures leave out or count twice.
+void controlloTensioni(const project::DatiProgetto& dati, ElencoOsservazioni& elenco);
 
 /// The soil values of all stages, as a run would compute them.
 /// @pre no input check fails: asserted

@@ -198,8 +198,7 @@ bool esaminato(const Campo& campo) {
 TEST(CampiDelProgetto, AllAreNamedByARemarkButThoseNamedHereWithTheirReason) {
     const std::pair<const char*, Nomi> altri[] = {
         {"looked at when a file is read", {"nStrati", "nTiranti", "nFasi"}},
-        {"no run takes it", {"suStrato", "opzioneRiservata", "faldaValle"}},
-        {"any depth has a meaning", {"faldaMonte", "faldaFase"}},
+        {"no run takes it", {"opzioneRiservata", "faldaValle"}},
         {"refused in a sentence of its own", {"lunghezzaParatia"}},
         {"named by its row", {"tipoTirante", "descrStrato", "titoli"}},
         {"a remark is on the section as a whole",

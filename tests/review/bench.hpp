@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -14,13 +15,27 @@ namespace korven::review {
 
 using project::DatiProgetto;
 
+inline Osservazioni osservazioni(const DatiProgetto& dati, const char* nSeg = "20") {
+    analysis::contenutoNSeg = nSeg;
+    auto trovate = esaminaProgetto(dati);
+    analysis::contenutoNSeg.reset();
+    return trovate;
+}
+
 // The lines of a review, "! " in front of what prevents a run.
 inline std::vector<std::string> righe(const DatiProgetto& dati, const char* nSeg = "20") {
-    analysis::contenutoNSeg = nSeg;
     std::vector<std::string> testo;
-    for (const auto& r : esaminaProgetto(dati))
+    for (const auto& r : osservazioni(dati, nSeg))
         testo.push_back((r.impedisce() ? "! " : "") + r.testo);
-    analysis::contenutoNSeg.reset();
+    return testo;
+}
+
+// Those of some codes alone, where a project is odd in other ways too.
+inline std::vector<std::string> righeDi(const DatiProgetto& dati,
+                                        const std::set<std::string_view>& codici) {
+    std::vector<std::string> testo;
+    for (const auto& r : osservazioni(dati))
+        if (codici.contains(r.codice)) testo.push_back((r.impedisce() ? "! " : "") + r.testo);
     return testo;
 }
 

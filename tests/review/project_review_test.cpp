@@ -73,7 +73,11 @@ TEST(EsaminaProgetto, NamesEachCodeOutOfRangeAndWhatItComesTo) {
         {[](DatiProgetto& d) { d.modoKs = -1; },
          {"opzione di ks = -1: codice non previsto: ks è ricalcolato ad ogni fase (1)"}},
         {[](DatiProgetto& d) { d.modoTensioni = 1.5; },
-         {"opzione delle tensioni = 1.5: codice non previsto: si calcola in tensioni totali (2)"}},
+         {"opzione delle tensioni = 1.5: codice non previsto: si calcola in tensioni totali (2)",
+          "opzione delle tensioni = 1.5, strati 1, 2: Phi [°] = 30, 34: con attrito sotto l'acqua "
+          "le "
+          "tensioni totali contano l'acqua due volte, nel peso del terreno e come spinta: usare le "
+          "tensioni efficaci, o Phi = 0 con la coesione non drenata"}},
         {[](DatiProgetto& d) { d.metodoSpinte = 4; },
          {"metodo delle spinte = 4: codice non previsto: i coefficienti di spinta attiva e passiva "
           "restano nulli"}},
@@ -88,7 +92,8 @@ TEST(EsaminaProgetto, NamesEachCodeOutOfRangeAndWhatItComesTo) {
              d.modoSpinte = valore(ModoSpinte::comeMonte);
              d.modoKs = valore(ModoKs::comeMonte);
              d.modoTensioni = valore(ModoTensioni::totali);
-             d.metodoSpinte = valore(MetodoSpinte::bell);
+             d.faldaMonte = d.faldaFase[1] = d.faldaFase[2] = 13;  // below the toe
+             d.metodoSpinte = valore(MetodoSpinte::rankine);
              d.metodoKs = valore(MetodoKs::lineare);
              d.tipoTirante[1] = valore(TipoTirante::trazioneCompressione);
          },

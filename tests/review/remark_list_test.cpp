@@ -60,6 +60,23 @@ TEST(Soggetto, NamesRowFieldAndValueInTheUnitOfTheEditor) {
     EXPECT_EQ(riga(&DatiProgetto::titoli, 4).testo, "titolo 4");
 }
 
+TEST(Soggetto, NamesSeveralRowsWithTheirValuesInOrder) {
+    const DatiProgetto dati = test::progettoSemplice();
+    const auto due = righeConValori(dati, &DatiProgetto::phiStrato, {1, 2});
+    EXPECT_EQ(due.testo, "strati 1, 2: Phi [°] = 30, 34");
+    EXPECT_EQ(due.campi, (std::vector<std::string>{"phiStrato[1]", "phiStrato[2]"}));
+    EXPECT_EQ(righeConValori(dati, &DatiProgetto::phiStrato, {2}).testo, "strato 2: Phi [°] = 34");
+    EXPECT_EQ(righeConValori(dati, &DatiProgetto::faldaFase, {1, 2}).testo,
+              "fasi 1, 2: Prof. falda [m] = 3, 5");
+    EXPECT_EQ(righeConValori(dati, &DatiProgetto::suStrato, {1}).testo, "strato 1: Su [kN/m²] = 0");
+}
+
+TEST(InFila, PutsCommasBetweenThePieces) {
+    EXPECT_EQ(inFila({}), "");
+    EXPECT_EQ(inFila({"2"}), "2");
+    EXPECT_EQ(inFila({"1", "3", "4"}), "1, 3, 4");
+}
+
 TEST(ConValore, PutsThePlainNumberInBrackets) {
     EXPECT_EQ(conValoreTraParentesi("codice", -0.5), "codice (-0.5)");
     EXPECT_EQ(conValoreTraParentesi("codice", 3), "codice (3)");

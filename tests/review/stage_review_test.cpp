@@ -66,11 +66,11 @@ TEST(ControlloFasi, RefusesMoreAnchorsThanTheTableHoldsAsTheRunDoes) {
 
 TEST(ControlloFasi, NamesStagesOutOfOrderAndExcavationsBelowTheWall) {
     aspetta({
-        {[](DatiProgetto& d) { d.profFase[1] = 6; },
+        {[](DatiProgetto& d) { d.profFase[1] = d.faldaFase[1] = 6; },
          {"fase 2: Prof. [m] = 5: lo scavo è meno profondo che nella fase precedente"}},
-        {[](DatiProgetto& d) { d.profFase[2] = 12; },
+        {[](DatiProgetto& d) { d.profFase[2] = d.faldaFase[2] = 12; },
          {"fase 2: Prof. [m] = 12: lo scavo raggiunge o supera il piede della paratia"}},
-        {[](DatiProgetto& d) { d.profFase[1] = 5; }, {}},
+        {[](DatiProgetto& d) { d.profFase[1] = d.faldaFase[1] = 5; }, {}},
         {[](DatiProgetto& d) { d.profFase[1] = -1; },
          {"fase 1: Prof. [m] = -1: lo scavo è sopra la testa della paratia"}},
         {[](DatiProgetto& d) { d.sovraccFase[2] = -2; },
