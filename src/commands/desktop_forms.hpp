@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <string>
 
@@ -16,6 +17,8 @@ struct FormeProgramma {
     std::function<void(masks::Maschere&)> maschera;
     /// The section form `DefinEJ`, which takes its values into `Progetto` and sets `modificato`.
     std::function<void()> sezione;
+    /// The same, which begins at a field of `masks::campiSezione`.
+    std::function<void(std::size_t campo)> sezioneDa;
     /// The viewer `GRAFICA` of the drawing in the plot store.
     std::function<void()> grafica;
     /// Takes that viewer away, whose drawing was given up.
@@ -32,6 +35,8 @@ struct FormeProgramma {
     /// The help file at the page of a context number, and at its contents.
     std::function<void(int contesto)> guida;
     std::function<void()> sommario;
+    /// The help file at the page of a name.
+    std::function<void(const std::string& nome)> paginaGuida;
     /// The about box with the line of the open project, empty if none (document_names.hpp).
     std::function<void(const std::string& fileCorrente)> informazioni;
 };

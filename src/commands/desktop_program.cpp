@@ -25,6 +25,12 @@ void Programma::edita(masks::NumeroMaschera maschera, const char* rifiuto) {
     commands::edita(maschera, rifiuto, dialogo_, maschere_, forme_);
 }
 
+void Programma::editaDa(const masks::PostoCampo& posto) {
+    const bool forma = posto.maschera == masks::senzaMaschera ? forme_.sezione && forme_.sezioneDa
+                                                              : bool(forme_.maschera);
+    if (forma && !project::fileCorrente.empty()) commands::editaDa(posto, maschere_, forme_);
+}
+
 void Programma::produci(void (*uscita)(const PorteUscita&)) {
     analysis::CorsaSeguita corsa(avanzamento_);
     uscita({dialogo_, corsa, forme_});

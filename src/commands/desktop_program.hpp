@@ -6,6 +6,7 @@
 #include "commands/document.hpp"
 #include "commands/menu_tree.hpp"
 #include "commands/output_commands.hpp"
+#include "masks/field_places.hpp"
 
 namespace korven::commands {
 
@@ -39,6 +40,10 @@ class Programma {
 
     /// An editing command (edit_commands.hpp).
     void edita(masks::NumeroMaschera maschera, const char* rifiuto);
+
+    /// Opens the form that edits a field, at the field; nothing without an open project, or where
+    /// the form is missing.
+    void editaDa(const masks::PostoCampo& posto);
 
     /// An output command (output_commands.hpp). Of a run that was stopped, or that found no
     /// solution, the status line tells where and why, until another output goes through.

@@ -1,6 +1,7 @@
 #include "commands/edit_commands.hpp"
 
 #include <cassert>
+#include <optional>
 
 #include "base/number_text.hpp"
 #include "base/table.hpp"
@@ -29,8 +30,10 @@ bool troppeRighe(NumeroMaschera numero, const masks::Maschere& maschere) {
            base::leggiNumero(maschere.valoriTesto().front()).value_or(0) > masks::capienza(numero);
 }
 
-void editaMaschera(NumeroMaschera numero, masks::Maschere& maschere, const FormeProgramma& forme) {
+void editaMaschera(NumeroMaschera numero, masks::Maschere& maschere, const FormeProgramma& forme,
+                   std::optional<masks::PostoForma> inizio = {}) {
     masks::preparaMaschera(maschere, numero, Progetto, project::faseGrafico);
+    if (inizio) maschere.comincia(*inizio);
     try {
         forme.maschera(maschere);
         if (!maschere.annullato() &&
@@ -47,14 +50,25 @@ void editaMaschera(NumeroMaschera numero, masks::Maschere& maschere, const Forme
 
 void edita(NumeroMaschera numero, const char* rifiuto, base::Dialogo& dialogo,
            masks::Maschere& maschere, const FormeProgramma& forme) {
-    assert(numero == senzaMaschera ? bool(forme.sezione) : bool(forme.maschera));
+    assert(numero == masks::senzaMaschera ? bool(forme.sezione) : bool(forme.maschera));
     if (project::fileCorrente.empty())
         dialogo.messaggio(base::traduttore(rifiuto), base::traduttore("ATTENZIONE") + "!",
                           base::Icona::nessuna);
-    else if (numero == senzaMaschera)
+    else if (numero == masks::senzaMaschera)
         forme.sezione();
     else
         editaMaschera(numero, maschere, forme);
+}
+
+void editaDa(const masks::PostoCampo& posto, masks::Maschere& maschere,
+             const FormeProgramma& forme) {
+    assert(!project::fileCorrente.empty());
+    if (posto.maschera != masks::senzaMaschera)
+        editaMaschera(posto.maschera, maschere, forme, posto.posto);
+    else if (posto.posto.campo > 0)
+        forme.sezioneDa(static_cast<std::size_t>(posto.posto.campo - 1));
+    else
+        forme.sezione();
 }
 
 }  // namespace korven::commands

@@ -89,7 +89,7 @@ constexpr VoceMenu voci[] = {
     {"EditParatia", "&Parametri Diaframma", 1, 6, ha<&F::maschera>,
      edita<NumeroMaschera::paratia, editareDati>},
     {"EditRigidezza", "&Descrizione Struttura", 1, 7, ha<&F::sezione>,
-     edita<senzaMaschera, editareIDati>},
+     edita<masks::senzaMaschera, editareIDati>},
     {"EditTiranti", "&Caratteristiche Tiranti", 1, 8, ha<&F::maschera>,
      edita<NumeroMaschera::tiranti, editareIDati>},
     {"EditFasi", "&Fasi di Scavo", 1, 9, ha<&F::maschera>,

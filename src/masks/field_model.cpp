@@ -25,6 +25,10 @@ ModelloCampi::ModelloCampi(const Maschera& maschera, std::vector<double> combo,
     while (attivo_ + 1 < campi() && !prendeFuoco(attivo_)) ++attivo_;
 }
 
+void ModelloCampi::comincia(std::size_t campo) {
+    if (campo < campi() && prendeFuoco(campo)) attivo_ = campo;
+}
+
 bool ModelloCampi::soloLettura(std::size_t campo) const {
     return maschera_.campi.at(campo).soloLettura;
 }

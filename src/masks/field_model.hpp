@@ -56,6 +56,9 @@ class ModelloCampi {
 
     /// The field that has the focus.
     [[nodiscard]] std::size_t attivo() const { return attivo_; }
+    /// Begins at another field than the first, before anything is typed: nothing is checked. A
+    /// field that there is not, or that is passed over, changes nothing.
+    void comincia(std::size_t campo);
     /// False for a field that is passed over: a choice that is read-only.
     [[nodiscard]] bool prendeFuoco(std::size_t campo) const;
     /// Checks the text of the field that has the focus. A fault is told in a box and the focus is

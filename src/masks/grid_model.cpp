@@ -91,6 +91,11 @@ void ModelloGriglia::entra(PostoGriglia posto) {
     testoScelto_ = false;
 }
 
+void ModelloGriglia::comincia(PostoGriglia posto) {
+    entra(
+        {std::clamp(posto.riga, 1, CelleGriglia::righe), std::clamp(posto.colonna, 1, colonne())});
+}
+
 bool ModelloGriglia::validazionedati(base::Dialogo& dialogo) {
     const CampoMaschera& campo = colonna(corrente_.colonna);
     if (campo.soloLettura) return true;  // a fault that can't be mended here would hold the user

@@ -58,6 +58,9 @@ class ModelloGriglia {
     [[nodiscard]] const std::string& testo(PostoGriglia posto) const;
 
     [[nodiscard]] PostoGriglia corrente() const { return corrente_; }
+    /// Begins at another cell than the first, before anything is typed: nothing is checked. A place
+    /// beyond the grid is the nearest cell.
+    void comincia(PostoGriglia posto);
     /// Moves to another cell, if the one that is left is good; otherwise a box tells the fault, a
     /// text that was too long is cut, and the cursor stays. An open editor writes its text first.
     /// @return true when `posto` is the current cell

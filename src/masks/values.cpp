@@ -74,6 +74,7 @@ void Maschere::selezionaMaschera(int numero) {
     valoriCombo_.assign(maschere_[*corrente_].scelte.size(), 0);
     valoriTesto_.clear();
     annullato_ = true;
+    inizio_.reset();
 }
 
 const Maschera& Maschere::corrente() const {

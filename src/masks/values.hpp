@@ -12,6 +12,17 @@ namespace korven::masks {
 /// The masks of the program, in the order of their numbers.
 enum class NumeroMaschera { titoli = 1, paratia, strati, tiranti, fasi };
 
+/// Stands for the section form, which has no mask.
+inline constexpr auto senzaMaschera = NumeroMaschera{0};
+
+/// A place in a form, from 1: row and column of data of a grid, field of a field form.
+struct PostoForma {
+    int riga = 1;
+    int campo = 1;
+
+    bool operator==(const PostoForma&) const = default;
+};
+
 /// Names of their files in the program folder, in this order.
 inline constexpr std::string_view fileMaschere[] = {"EDITT.MAV", "EDITDIA.MAV", "EDITSTRA.MAV",
                                                     "EDITTIR.MAV", "EDITFASI.MAV"};
@@ -53,6 +64,10 @@ class Maschere {
     /// The text of field `indice`: for a choice what is kept plus 1. Empty beyond the last text.
     [[nodiscard]] std::string leggiCampo(int indice) const;
 
+    /// Where the form of the current mask begins: at its first place unless another is asked for.
+    void comincia(PostoForma posto) { inizio_ = posto; }
+    [[nodiscard]] std::optional<PostoForma> inizio() const { return inizio_; }
+
     /// Takes over what a confirmed form hands back.
     /// @throws base::ErroreIndice beyond the capacity of the list; the texts are taken all the
     ///         same, so that they can be rescued
@@ -73,6 +88,7 @@ class Maschere {
 
     std::vector<Maschera> maschere_;
     std::optional<std::size_t> corrente_;
+    std::optional<PostoForma> inizio_;
     // A code that is no whole number stays what it is if the user picks nothing.
     std::vector<double> valoriCombo_;
     std::vector<std::string> valoriTesto_;

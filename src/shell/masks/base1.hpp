@@ -28,6 +28,11 @@ class Base1 : public FormaMaschera {
           std::vector<std::string> testi, base::Dialogo& dialogo, GuidaForme guida, QWidget* padre);
 
     [[nodiscard]] const masks::ModelloCampi& modello() const { return modello_; }
+    /// Begins at a field, counted from 0, before it is shown.
+    void comincia(std::size_t campo) {
+        modello_.comincia(campo);
+        mostraAttivo();
+    }
     /// The strip shows the notes on texts too.
     void annota(masks::ModelloCampi::Nota nota) {
         modello_.annota(std::move(nota));

@@ -47,6 +47,11 @@ Base2_32::Base2_32(const masks::Maschera& maschera, const std::vector<std::strin
     griglia_->aggiorna();
 }
 
+void Base2_32::comincia(masks::PostoGriglia posto) {
+    modello_.comincia(posto);
+    griglia_->aggiorna();
+}
+
 void Base2_32::keyPressEvent(QKeyEvent* evento) {
     if (evento->key() == Qt::Key_F1)
         apriGuida();

@@ -25,6 +25,9 @@ class Base2_32 : public FormaMaschera {
 
     [[nodiscard]] const masks::ModelloGriglia& modello() const { return modello_; }
 
+    /// Begins at a cell, before it is shown.
+    void comincia(masks::PostoGriglia posto);
+
     /// Esc and the close box ask about rows that were changed; the cancel button does not.
     void reject() override;
 

@@ -14,6 +14,8 @@ void mostraForm(masks::Maschere& maschere, base::Dialogo& dialogo, const GuidaFo
     if (maschera.genere == masks::GenereMaschera::campi) {
         Base1 forma(maschera, maschere.valoriCombo(), maschere.valoriTesto(), dialogo, guida,
                     padre);
+        if (const auto inizio = maschere.inizio())
+            forma.comincia(static_cast<std::size_t>(inizio->campo - 1));
         if (numero == masks::NumeroMaschera::titoli) forma.annota(review::notaTitolo);
         if (forma.exec() == QDialog::Accepted)
             maschere.conferma(forma.modello().valoriCombo(), forma.modello().valoriTesto());
@@ -21,6 +23,7 @@ void mostraForm(masks::Maschere& maschere, base::Dialogo& dialogo, const GuidaFo
     }
     const int capienza = masks::capienza(numero);
     Base2_32 forma(maschera, maschere.valoriTesto(), dialogo, guida, padre, capienza);
+    if (const auto inizio = maschere.inizio()) forma.comincia({inizio->riga, inizio->campo});
     if (forma.exec() == QDialog::Accepted) maschere.conferma({}, forma.modello().valoriTesto());
 }
 

@@ -92,6 +92,14 @@ DefinEJ::DefinEJ(project::Sezione& sezione, bool& modificato, QWidget* padre)
     entraOpzioni();
 }
 
+void DefinEJ::comincia(std::size_t campo) {
+    const Parte riquadro = masks::campiSezione[campo].riquadro();
+    if (riquadro != modello_.tipo() && riquadro != Parte::materiali) return;
+    campi_[campo]->setFocus();
+    campi_[campo]->selectAll();
+    entra(campo);
+}
+
 QWidget* DefinEJ::fareTutto() {
     auto* tutto = new QWidget(this);
     auto* colonna = new QVBoxLayout(tutto);
@@ -257,6 +265,11 @@ bool DefinEJ::eventFilter(QObject* controllo, QEvent* evento) {
 void collegaSezione(commands::FormeProgramma& forme, QWidget* padre) {
     forme.sezione = [padre] {
         DefinEJ(project::Progetto.sezione, project::modificato, padre).exec();
+    };
+    forme.sezioneDa = [padre](std::size_t campo) {
+        DefinEJ forma(project::Progetto.sezione, project::modificato, padre);
+        forma.comincia(campo);
+        forma.exec();
     };
 }
 

@@ -27,6 +27,10 @@ class DefinEJ : public QDialog {
     /// @param modificato  the flag of the document; both must outlive the form
     DefinEJ(project::Sezione& sezione, bool& modificato, QWidget* padre);
 
+    /// Begins at a field of `masks::campiSezione`, before it is shown: at the choice of types, as
+    /// without, for a field of a type that is not chosen.
+    void comincia(std::size_t campo);
+
  protected:
     bool eventFilter(QObject* controllo, QEvent* evento) override;
 
