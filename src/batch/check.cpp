@@ -38,7 +38,9 @@ int esegui(const Opzioni& opzioni, const PorteComando&, Esito& esito) {
     if (review::calcolabile(esito.osservazioni))
         if (auto motivo = review::provaCalcolo(project::Progetto, opzioni.maxIterazioni, &fine))
             esito.osservazioni.insert(esito.osservazioni.begin(), std::move(*motivo));
-    annota(safety::causaCorsa(fine, conRigidezza(project::Progetto)), esito);
+    const project::DatiProgetto dati = conRigidezza(project::Progetto);
+    annota(safety::causaCorsa(fine, dati), esito);
+    if (opzioni.calcola) aggiungiRisultati(dati, esito);
     return conSeverita(opzioni, esito, esito.calcolabile() ? fatto : nonEseguito);
 }
 
@@ -47,7 +49,11 @@ int esegui(const Opzioni& opzioni, const PorteComando&, Esito& esito) {
 RigaComando comandoVerifica() {
     RigaComando riga = {nomeComandoVerifica,
                         "dice che cosa manca o è strano nel progetto, senza scrivere risultati",
-                        insieme({opzioniModello(), {opzioneSevero()}}), esegui};
+                        insieme({opzioniModello(),
+                                 {{nomeOpzioneCalcola, "elenca anche le osservazioni sui risultati",
+                                   [](Opzioni& o) { o.calcola = true; }},
+                                  opzioneSevero()}}),
+                        esegui};
     riga.calcola = true;
     riga.soloRilievi = true;
     return riga;

@@ -51,7 +51,8 @@ TEST_F(Rilievi, AreWrittenByEveryCommandThatComputesAsVerificaListsThem) {
 
 TEST_F(Rilievi, AreInTheJsonOfEveryCommandThatComputes) {
     virgola();
-    const Json attesi = Json::parse(esegui("verifica", {"--json"}).uscita)["rilievi"];
+    const Json attesi = Json::parse(esegui("verifica", {"--calcola", "--json"}).uscita)["rilievi"];
+    EXPECT_GT(attesi.size(), Json::parse(esegui("verifica", {"--json"}).uscita)["rilievi"].size());
     for (const char* comando : {"calcola", "relazione"}) {
         const Json j = Json::parse(esegui(comando, {"--json"}).uscita);
         EXPECT_EQ(j["rilievi"], attesi) << comando;
@@ -101,6 +102,19 @@ TEST_F(Rilievi, TellAValueThatNoReportCouldShowAsTheReportDoes) {
     EXPECT_TRUE(dice(esito.errori, "i dati portano a un valore troppo grande")) << esito.errori;
 }
 
+TEST_F(Rilievi, OfResultsAreToldAfterARunAndListedByVerificaWhenAskedFor) {
+    auto d = test::progettoSemplice();
+    d.lunghezzaParatia = 7.5;
+    scrivi(d);
+    const std::string detto = "pericolo: fase 2: Prof. [m] = 5: riduzione di resistenza ";
+    EXPECT_FALSE(dice(esegui("verifica").uscita, detto));
+    EXPECT_TRUE(dice(esegui("verifica", {"--calcola"}).uscita, detto));
+    const auto esito = esegui("calcola", {"--silenzioso"});
+    EXPECT_EQ(esito.codice, 0);
+    EXPECT_TRUE(dice(esito.errori, detto)) << esito.errori;
+    EXPECT_EQ(esegui("calcola", {"--severo"}).codice, 1);
+}
+
 class Severo : public Rilievi {};
 
 TEST_F(Severo, EndsWith1ForADangerWithAllFilesWrittenAndTheTableShown) {
@@ -145,14 +159,12 @@ TEST_F(Severo, ChangesNothingForAProjectWithoutDanger) {
 
 TEST_F(Rilievi, ToBeLookedAtAreCountedByTheCommandsThatComputeAndListedByVerifica) {
     auto d = test::progettoSemplice();
-    d.profTirante[1] = 3;
-    d.tirantiFase[1] = 1;
-    d.tirantiFase[2] = 0.5;
+    d.profStrato[d.nStrati] = 250;
     scrivi(d);
     const auto verifica = esegui("verifica");
-    ASSERT_TRUE(dice(verifica.uscita, "da vedere: fase 2")) << verifica.uscita;
+    ASSERT_TRUE(dice(verifica.uscita, "da vedere: strato ")) << verifica.uscita;
     const auto esito = esegui("calcola");
-    EXPECT_FALSE(dice(esito.errori, "da vedere: fase 2")) << esito.errori;
+    EXPECT_FALSE(dice(esito.errori, "da vedere: strato ")) << esito.errori;
     EXPECT_TRUE(dice(esito.errori, " da vedere: korven32c verifica --calcola --nseg 10 "))
         << esito.errori;
     EXPECT_TRUE(esegui("calcola", {"--silenzioso"}).errori.empty());

@@ -22,6 +22,7 @@ struct Opzioni {
     bool json = false;
     bool silenzioso = false;
     bool severo = false;   ///< remarks of weight `pericolo` end a command with 1
+    bool calcola = false;  ///< `verifica`: the remarks on results too
     bool traccia = false;  ///< `calcola`: record of the slow stages
     int maxIterazioni = 5000;
     analysis::Diagramma tipo = analysis::Diagramma::pressioni;  ///< of `diagramma`, which needs one

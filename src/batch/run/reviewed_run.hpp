@@ -4,6 +4,7 @@
 
 #include "batch/options/choices.hpp"
 #include "batch/run/outcome.hpp"
+#include "project/project_data.hpp"
 
 namespace korven::batch {
 
@@ -11,10 +12,16 @@ namespace korven::batch {
 /// @throws base::ErroreFile if it can't be read
 void preparaProgetto(const Opzioni& opzioni, Esito& esito);
 
+/// Computes a wall in memory and adds the remarks on what it comes to, unless a run would be
+/// refused or its user has stopped it.
+/// @param dati  as typed, with the bending stiffness of the run
+/// @return those that were added
+review::Osservazioni aggiungiRisultati(const project::DatiProgetto& dati, Esito& esito);
+
 /// Opens the project and makes the folder for the results, then runs the command between the
 /// remarks on the project: what makes its numbers worthless is told before the program computes
-/// with it; after a run that was refused, what else prevents it, and how many more remarks there
-/// are. An interrupt stops the run and has the last word.
+/// with it; after a run that was refused, what else prevents it; then what is dangerous about the
+/// results, and how many more remarks there are. An interrupt stops the run and has the last word.
 /// @param corsa  gives the exit code
 /// @return the same or, with `--severo`, what follows from the remarks (`conSeverita`)
 [[nodiscard]] int calcolaConRilievi(const Opzioni& opzioni, Esito& esito,

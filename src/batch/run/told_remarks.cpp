@@ -17,11 +17,12 @@ namespace {
 using base::traduttore;
 using review::Peso;
 
-// A run tells the first reason of its refusal itself.
+// A run tells the first reason of its refusal itself, and why it found no rest.
 bool giaDetto(const std::string& testo, const Esito& esito) {
-    return std::any_of(esito.messaggi.begin(), esito.messaggi.end(), [&testo](const auto& detto) {
-        return detto.find(testo) != std::string::npos;
-    });
+    return esito.spiegazione.find(testo) != std::string::npos ||
+           std::any_of(esito.messaggi.begin(), esito.messaggi.end(), [&testo](const auto& detto) {
+               return detto.find(testo) != std::string::npos;
+           });
 }
 
 // What is copied from a line and pasted behind a prompt must name the same file.
@@ -36,9 +37,10 @@ std::string perLaShell(const std::string& parola) {
 
 }  // namespace
 
-void raccontaPericoli(const review::Osservazioni& osservazioni) {
+void raccontaPericoli(const Esito& esito, const review::Osservazioni& osservazioni) {
     for (const auto& osservazione : osservazioni)
-        if (osservazione.peso == Peso::pericolo) std::cerr << riga(osservazione) << '\n';
+        if (osservazione.peso == Peso::pericolo && !giaDetto(osservazione.testo, esito))
+            std::cerr << riga(osservazione) << '\n';
 }
 
 void raccontaImpedimenti(const Esito& esito) {

@@ -7,8 +7,9 @@
 
 namespace korven::batch {
 
-/// A line for each of weight `pericolo`.
-void raccontaPericoli(const review::Osservazioni& osservazioni);
+/// A line for each of weight `pericolo`, but for what the run has told itself.
+void raccontaPericoli(const Esito& esito, const review::Osservazioni& osservazioni);
+inline void raccontaPericoli(const Esito& esito) { raccontaPericoli(esito, esito.osservazioni); }
 
 /// After a run that was refused: a line for each that prevents one, but for the reason that the run
 /// has told itself.

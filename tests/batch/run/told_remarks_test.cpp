@@ -60,9 +60,13 @@ TEST(RaccontaDaVedere, SaysNothingWithoutAnyOrInSilence) {
     EXPECT_EQ(raccontoDaVedere(opzioni, con({Peso::daVedere})), "");
 }
 
-TEST(RaccontaPericoli, GivesEachALineAndTheOthersNone) {
+TEST(RaccontaPericoli, GivesEachALineUnlessTheRunHasToldItAndTheOthersNone) {
     const test::UscitaTrattenuta errori(std::cerr);
-    raccontaPericoli(con({Peso::impedisce, Peso::pericolo, Peso::daVedere}).osservazioni);
+    Esito esito = con({Peso::impedisce, Peso::pericolo, Peso::daVedere});
+    raccontaPericoli(esito);
+    EXPECT_EQ(errori.testo(), "pericolo: detto di questo peso\n");
+    esito.spiegazione = "fase 2: detto di questo peso.";
+    raccontaPericoli(esito);
     EXPECT_EQ(errori.testo(), "pericolo: detto di questo peso\n");
 }
 
