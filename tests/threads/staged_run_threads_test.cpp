@@ -4,26 +4,18 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <barrier>
-#include <filesystem>
-#include <thread>
+#include <functional>
+#include <memory>
 #include <vector>
 
 #include "analysis/staged_run.hpp"
-#include "base/text_lines.hpp"
-#include "project/project_file.hpp"
-#include "support/random_walls.hpp"
 #include "support/run_harness.hpp"
 #include "support/sample_projects.hpp"
 #include "support/stage_comparison.hpp"
+#include "threads/many_walls.hpp"
 
 namespace korven::analysis {
 namespace {
-
-struct Muro {
-    project::DatiProgetto dati;
-    int nSeg = 0;
-};
 
 // Not every random wall comes to rest: an end by this limit is an outcome like the others.
 class Limite : public OsservatoreCorsa {
@@ -35,30 +27,7 @@ class Limite : public OsservatoreCorsa {
     int iterazioni_ = 0;
 };
 
-std::vector<std::string> esempi() {
-    std::vector<std::string> nomi;
-    for (const auto& voce : std::filesystem::directory_iterator(KORVEN_EXAMPLES))
-        if (voce.path().extension() == ".kvd") nomi.push_back(voce.path().string());
-    std::sort(nomi.begin(), nomi.end());
-    return nomi;
-}
-
-// The delivered examples and random walls, each with a mesh of its own.
-std::vector<Muro> muri() {
-    std::vector<Muro> tutti;
-    for (const auto& nome : esempi()) {
-        auto file = base::LettoreRighe::apri(nome);
-        Muro& muro = tutti.emplace_back();
-        project::leggiDati(file, muro.dati);
-    }
-    test::MuriCasuali casuali(7);
-    for (int i = 0; i < 16; ++i) tutti.push_back({casuali.prossimo(), 0});
-    for (std::size_t i = 0; i < tutti.size(); ++i)
-        tutti[i].nSeg = 12 + static_cast<int>(i) * 5 % 23;
-    return tutti;
-}
-
-EsitoCorsa calcola(const Muro& muro, ArraysCorsa& arrays) {
+EsitoCorsa calcola(const test::MuroConMaglia& muro, ArraysCorsa& arrays) {
     Limite limite;
     return calcolaFasi(muro.dati, muro.nSeg, limite, arrays);
 }
@@ -74,25 +43,15 @@ class CorseInsieme : public ::testing::Test {
             return corsa.fasi.back().esito == esito;
         });
     }
-    // All walls in each of four threads, which begin at different ones; `intanto`
-    // goes on meanwhile.
     void confrontaInsieme(const std::function<void()>& intanto) {
-        constexpr std::size_t quanti = 4;
-        std::vector<std::vector<EsitoCorsa>> avute(quanti, std::vector<EsitoCorsa>(tutti.size()));
-        std::barrier partenza(quanti + 1);
-        std::vector<std::jthread> fili;
-        for (std::size_t f = 0; f < quanti; ++f)
-            fili.emplace_back([&, f] {
-                ArraysCorsa arrays;
-                partenza.arrive_and_wait();
-                for (std::size_t i = 0; i < tutti.size(); ++i) {
-                    const std::size_t quale = (i + f * tutti.size() / quanti) % tutti.size();
-                    avute[f][quale] = calcola(tutti[quale], arrays);
-                }
-            });
-        partenza.arrive_and_wait();
-        intanto();
-        fili.clear();  // waits for them
+        std::vector<std::vector<EsitoCorsa>> avute(test::quantiFili,
+                                                   std::vector<EsitoCorsa>(tutti.size()));
+        const auto lavoro = [&](std::size_t f) {
+            return [&, f, arrays = std::make_unique<ArraysCorsa>()](std::size_t quale) {
+                avute[f][quale] = calcola(tutti[quale], *arrays);
+            };
+        };
+        test::inQuattroFili(tutti.size(), lavoro, intanto);
         for (const auto& corse : avute)
             for (std::size_t i = 0; i < tutti.size(); ++i) {
                 SCOPED_TRACE(i);
@@ -100,7 +59,7 @@ class CorseInsieme : public ::testing::Test {
             }
     }
 
-    const std::vector<Muro> tutti = muri();
+    const std::vector<test::MuroConMaglia> tutti = test::tantiMuri();
     std::vector<EsitoCorsa> attese;
 };
 
