@@ -1,15 +1,18 @@
 #include <benchmark/benchmark.h>
+#include <malloc.h>
 
 #include <memory>
 
 #include "analysis/staged_run.hpp"
 #include "equilibrium/staged_equilibrium.hpp"
 #include "example_run.hpp"
+#include "safety/strength_reduction.hpp"
 #include "yardsticks.hpp"
 
 // The certain method beside what it is measured by: a step of Newton's method beside LAPACK's
 // solver of a banded system of the same size, and all stages of an example beside the specified
-// run, both in memory and with the soil.
+// run, both in memory and with the soil. Then the verdict alone, strength reductions, and how the
+// time grows with nodes and stages.
 
 namespace {
 
@@ -87,16 +90,84 @@ void fasiSpecificate(benchmark::State& stato) {
             stato.SkipWithError("not at rest");
 }
 
+void verdetto(benchmark::State& stato) {
+    const UltimaFase fase(muro(stato.range(1) != 0), static_cast<int>(stato.range(0)));
+    for (auto _ : stato) {
+        auto moto = equilibrium::meccanismo(fase.parete.problema());
+        benchmark::DoNotOptimize(moto);
+        if (moto) stato.SkipWithError("no equilibrium");
+    }
+}
+
+void riduzioni(benchmark::State& stato) {
+    const auto dati = muro(stato.range(1) != 0);
+    for (auto _ : stato)
+        for (int k = 1; k <= dati.nFasi; ++k) {
+            auto riduzione = safety::riduzione(dati, static_cast<int>(stato.range(0)), k);
+            benchmark::DoNotOptimize(riduzione);
+        }
+}
+
+/// The wall with two rows of anchors, dug down in so many equal steps; an anchor comes into place
+/// once the excavation is 0.5 m below it.
+project::DatiProgetto scavatoIn(int fasi) {
+    auto dati = muro(false);
+    const double fondo = dati.profFase[dati.nFasi], falda = dati.faldaFase[dati.nFasi];
+    dati.nFasi = fasi;
+    for (int k = 1; k <= fasi; ++k) {
+        dati.profFase[k] = fondo * k / fasi;
+        dati.faldaFase[k] = falda;
+        dati.sovraccFase[k] = 0;
+        dati.tirantiFase[k] = 0;
+        for (int a = 1; a <= dati.nTiranti; ++a)
+            if (dati.profTirante[a] + 0.5 <= dati.profFase[k]) ++dati.tirantiFase[k];
+    }
+    return dati;
+}
+
+// The vectors of a fine mesh are more than the heap keeps when they are freed; asking the system
+// for them anew each time would be timed with the rest.
+const int nienteResa = mallopt(M_TRIM_THRESHOLD, 1 << 28);
+
+void crescita(benchmark::State& stato) {
+    const int nSeg = static_cast<int>(stato.range(0));
+    const auto dati = scavatoIn(static_cast<int>(stato.range(1)));
+    int passi = 0;
+    for (auto _ : stato) {
+        equilibrium::EquilibrioParete parete(dati, nSeg);
+        passi = 0;
+        for (int k = 1; k <= dati.nFasi; ++k) {
+            const auto& fase = parete.calcola(k);
+            passi += fase.passi;
+            if (fase.esito != equilibrium::EsitoFase::equilibrio)
+                stato.SkipWithError("no equilibrium");
+        }
+    }
+    stato.counters["nodo_e_fase"] = benchmark::Counter(
+        (nSeg + 1.0) * dati.nFasi,
+        benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
+    stato.counters["passi"] = 1.0 * passi / dati.nFasi;
+}
+
 void taglie(benchmark::internal::Benchmark* b) {
     b->Unit(benchmark::kMicrosecond)->ArgNames({"segmenti", "incastro"});
     for (const int incastro : {0, 1})
         for (const int nSeg : {50, 100, 248}) b->Args({nSeg, incastro});
 }
 
+void nodiPerFasi(benchmark::internal::Benchmark* b) {
+    b->Unit(benchmark::kMicrosecond)->ArgNames({"segmenti", "fasi"});
+    for (const int fasi : {1, 5, 20})
+        for (const int nSeg : {50, 100, 200, 400, 800}) b->Args({nSeg, fasi});
+}
+
 BENCHMARK(passoDiNewton)->Apply(taglie);
 BENCHMARK(dpbsv)->Apply(taglie);
 BENCHMARK(fasiCerte)->Apply(taglie);
 BENCHMARK(fasiSpecificate)->Apply(taglie);
+BENCHMARK(verdetto)->Apply(taglie);
+BENCHMARK(riduzioni)->Apply(taglie);
+BENCHMARK(crescita)->Apply(nodiPerFasi);
 
 }  // namespace
 
