@@ -110,8 +110,8 @@ class Peggiore {
 
 std::optional<Meccanismo> meccanismo(const ProblemaFase& problema) {
     const auto [fermiVerso, fermiVia] = fermi(problema);
-    // Above its pivot a rotation goes the other way than below. With holds both ways above and
-    // below all pivots, as at a fixed toe, there is nothing to look for.
+    // Above its pivot a rotation goes the other way than below, so what holds one way must lie on
+    // one side of it. With two points that hold both ways no pivot is left.
     if (fermiVerso.ultimo > fermiVia.primo && fermiVia.ultimo > fermiVerso.primo)
         return std::nullopt;
     const auto [verso, via] = traslazione(problema);

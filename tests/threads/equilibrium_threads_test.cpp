@@ -55,6 +55,7 @@ void confronta(const Certo& avuto, const Certo& atteso) {
 TEST(EquilibriInsieme, HaveTheDigitsOfOneAfterTheOther) {
     const std::vector<test::MuroConMaglia> muri = test::tantiMuri();
     std::vector<Certo> attesi;
+    attesi.reserve(muri.size());
     for (const test::MuroConMaglia& muro : muri) attesi.push_back(calcola(muro));
 
     std::vector<std::vector<Certo>> avuti(test::quantiFili, std::vector<Certo>(muri.size()));
