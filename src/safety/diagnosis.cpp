@@ -51,6 +51,12 @@ std::string_view parola(Causa causa) {
 Diagnosi diagnosi(const project::DatiProgetto& dati, int nSeg,
                   const equilibrium::EquilibrioParete& parete,
                   const equilibrium::FaseEquilibrio& fase) {
+    return diagnosi(dati, nSeg, parete.problema(), fase);
+}
+
+Diagnosi diagnosi(const project::DatiProgetto& dati, int nSeg,
+                  const equilibrium::ProblemaFase& problema,
+                  const equilibrium::FaseEquilibrio& fase) {
     assert(!fase.rifiuto);
     Diagnosi d{.causa = causa(fase.esito),
                .fase = fase.fase,
@@ -59,14 +65,13 @@ Diagnosi diagnosi(const project::DatiProgetto& dati, int nSeg,
                .instabile = fase.instabile,
                .newton = fase.newton};
     if (d.moto) {
-        d.parti = partiAlLimite(parete.problema(), *d.moto);
+        d.parti = partiAlLimite(problema, *d.moto);
         const LunghezzaMinima minima = lunghezzaMinima(dati, nSeg);
         if (minima.lunghezza && *minima.lunghezza > dati.lunghezzaParatia)
             d.lunghezza = minima.lunghezza;
     }
     if (d.causa == Causa::oscilla)
-        d.spostamento =
-            std::fabs(equilibrium::estremi(fase, parete.problema().h).spostamento.valore);
+        d.spostamento = std::fabs(equilibrium::estremi(fase, problema.h).spostamento.valore);
     return d;
 }
 
