@@ -10,6 +10,7 @@ namespace korven::batch {
 [[nodiscard]] RigaComando comandoCalcola();
 [[nodiscard]] RigaComando comandoRelazione();
 [[nodiscard]] RigaComando comandoVerifica();
+[[nodiscard]] RigaComando comandoEquilibrio();
 [[nodiscard]] RigaComando comandoDiagramma();
 [[nodiscard]] RigaComando comandoSezione();
 [[nodiscard]] RigaComando comandoStratigrafia();

@@ -13,6 +13,7 @@
 #include "batch/options/common_options.hpp"
 #include "batch/options/language_in_use.hpp"
 #include "batch/run/command_ports.hpp"
+#include "batch/run/equilibrium_outcome.hpp"
 #include "batch/run/failure.hpp"
 #include "commands/start/user_folder.hpp"
 
@@ -25,8 +26,9 @@ std::string resoconto(const Opzioni& opzioni, const Esito& esito) {
     if (opzioni.json) return json(esito);
     if (opzioni.silenzioso) return {};
     if (esito.soloRilievi) return esito.guasto ? "" : elenco(esito);
-    if (!esito.compiuto()) return {};
+    if (!esito.compiuto() && !esito.equilibrio) return {};
     std::string testo = esito.calcolo ? tabella(esito, opzioni.traccia) : "";
+    if (esito.equilibrio) testo += testoEquilibrio(*esito.equilibrio);
     for (const auto& file : esito.fileScritti)
         testo += base::traduttore("File scritto") + ": " + file + '\n';
     return testo;

@@ -48,6 +48,10 @@ std::string_view parola(Causa causa) {
     return {};
 }
 
+std::string_view parola(EsitoFase esito) {
+    return esito == EsitoFase::equilibrio ? "equilibrio" : parola(causa(esito));
+}
+
 Diagnosi diagnosi(const project::DatiProgetto& dati, int nSeg,
                   const equilibrium::EquilibrioParete& parete,
                   const equilibrium::FaseEquilibrio& fase) {

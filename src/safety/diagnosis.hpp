@@ -23,6 +23,10 @@ enum class Causa {
 /// The stable word for it, in every language the same: "eseguito", "non_definito", ...
 [[nodiscard]] std::string_view parola(Causa causa);
 
+/// The stable word for what is known of a stage: "equilibrio", "meccanismo", "non_definito",
+/// "nessun_numero".
+[[nodiscard]] std::string_view parola(equilibrium::EsitoFase esito);
+
 /// Why a stage is no equilibrium, or why the specified run found none of one that is.
 struct Diagnosi {
     Causa causa = Causa::oscilla;

@@ -29,6 +29,7 @@ struct Opzioni {
     int fase = 0;                      ///< `diagramma`: the stage to draw, 0 for all
     FormatiRelazione relazione;        ///< of `relazione`, besides the mark-up
     FormatiDisegno disegno;            ///< files of a drawing
+    std::string csv;                   ///< file of a table; empty: none
     std::vector<std::string> formati;  ///< `tutto`: of each drawing; empty: PDF and DXF
 };
 

@@ -115,11 +115,7 @@ std::vector<RigaOpzione> opzioniModello(bool cartellaObbligatoria) {
 std::vector<RigaOpzione> opzioniCalcolo(bool cartellaObbligatoria) {
     return insieme({opzioniModello(cartellaObbligatoria),
                     {opzioneSevero(),
-                     {uguali("--ej"),
-                      "rigidezza EJ scritta nel progetto o ricalcolata dalla sezione",
-                      [](Opzioni& o, std::size_t quale) { o.ricalcolaEJ = quale == 1; },
-                      {},
-                      {{"mantieni", "keep"}, {"ricalcola", "recalculate"}}},
+                     opzioneEJ(),
                      {{"--max-iterazioni", "--max-iterations"},
                       "ferma una fase che non converge; 0 per nessun limite",
                       Conta{0, std::numeric_limits<int>::max(),
@@ -132,6 +128,23 @@ std::vector<RigaOpzione> opzioniCalcolo(bool cartellaObbligatoria) {
 RigaOpzione opzioneSevero() {
     return {nomeOpzioneSevero, "finisce con il codice 1 se c'è un'osservazione di peso pericolo",
             [](Opzioni& o) { o.severo = true; }};
+}
+
+RigaOpzione opzioneEJ() {
+    return {uguali("--ej"),
+            "rigidezza EJ scritta nel progetto o ricalcolata dalla sezione",
+            [](Opzioni& o, std::size_t quale) { o.ricalcolaEJ = quale == 1; },
+            {},
+            {{"mantieni", "keep"}, {"ricalcola", "recalculate"}}};
+}
+
+RigaOpzione opzioneCsv() {
+    return {uguali("--csv"), "scrive anche una tabella CSV",
+            [](Opzioni& o, const std::string& valore) {
+                o.csv = valore;
+                return percorsoAmmesso(valore);
+            },
+            file};
 }
 
 std::string nomeMetodo(double codice) {

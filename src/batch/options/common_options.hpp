@@ -42,6 +42,12 @@ inline constexpr base::Gemelli nomeOpzioneSevero{"--severo", "--strict"};
 /// Commands that make one drawing: its files.
 [[nodiscard]] std::vector<RigaOpzione> opzioniDisegno();
 
+/// Where a stiffness comes from that the project and its section tell differently.
+[[nodiscard]] RigaOpzione opzioneEJ();
+
+/// A table for other programs.
+[[nodiscard]] RigaOpzione opzioneCsv();
+
 /// The resolution of PNG files.
 [[nodiscard]] RigaOpzione opzioneRisoluzione();
 

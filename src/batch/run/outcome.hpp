@@ -8,6 +8,7 @@
 #include "results/run_outcome.hpp"
 #include "review/project_review.hpp"
 #include "safety/run_cause.hpp"
+#include "safety/told_stages.hpp"
 
 namespace korven::batch {
 
@@ -29,6 +30,8 @@ struct Esito {
     bool esaminato = false;   ///< the remarks below are those of a review
     review::Osservazioni osservazioni;
     std::optional<results::EsitoCalcolo> calcolo;
+    bool inMemoria = false;  ///< its outcome is the one below, and no result file
+    std::optional<safety::EquilibrioRaccontato> equilibrio;
     bool giaAggiornato = false;  ///< the result file was up to date already
     std::vector<analysis::ControlloCorsa::Fase> fasi;
     std::vector<std::string> fileScritti;

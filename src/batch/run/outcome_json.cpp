@@ -1,8 +1,9 @@
-#include <cmath>
 #include <nlohmann/json.hpp>
 
 #include "base/translated_texts.hpp"
 #include "base/version.hpp"
+#include "batch/run/equilibrium_outcome.hpp"
+#include "batch/run/json_numbers.hpp"
 #include "batch/run/outcome.hpp"
 #include "project/units.hpp"
 
@@ -11,13 +12,6 @@ namespace korven::batch {
 namespace {
 
 using Json = nlohmann::ordered_json;
-
-// Six decimals, without the noise of a product; a zero has no sign for the reader of a result.
-double arrotondato(double valore) { return std::round(valore * 1e6) / 1e6 + 0.0; }
-
-// t to kN, t m to kN m, in one product. The result file has seven decimals of them.
-double kN(double forza) { return std::round(forza * (project::kilonewton * 1e6)) / 1e6 + 0.0; }
-double kNm(double momento) { return kN(momento); }
 
 // N mm to kN m; a positive moment is resisted by bending of negative curvature.
 double resistente(double passata) {
@@ -115,6 +109,11 @@ Json causa(const Esito& esito) {
 
 Json testoONullo(const std::string& testo) { return testo.empty() ? Json(nullptr) : Json(testo); }
 
+// What a command that writes no result file has computed.
+Json inMemoria(const Esito& esito) {
+    return esito.equilibrio ? jsonEquilibrio(*esito.equilibrio) : Json(nullptr);
+}
+
 }  // namespace
 
 std::string json(const Esito& esito) {
@@ -125,15 +124,15 @@ std::string json(const Esito& esito) {
         j["causa"] = causa(esito);
         j["spiegazione"] = testoONullo(esito.spiegazione);
     }
-    if (esito.soloRilievi) {
-        j["calcolabile"] = esito.calcolabile();
+    if (esito.soloRilievi) j["calcolabile"] = esito.calcolabile();
+    if (esito.soloRilievi || esito.esaminato) {
         j["rilievi"] = rilievi(esito);
         j["osservazioni"] = osservazioni(esito);
-    } else {
-        if (esito.esaminato) {
-            j["rilievi"] = rilievi(esito);
-            j["osservazioni"] = osservazioni(esito);
-        }
+    }
+    if (esito.inMemoria) {
+        j[esito.comando] = inMemoria(esito);
+        j["file"] = {{"scritti", esito.fileScritti}};
+    } else if (!esito.soloRilievi) {
         j["calcolo"] = esito.calcolo ? calcolo(esito) : Json(nullptr);
         j["file"] = {{"risultati", testoONullo(esito.calcolo ? esito.calcolo->fileRisultati : "")},
                      {"relazione", testoONullo(esito.fileRelazione)},

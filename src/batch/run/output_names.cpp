@@ -4,6 +4,7 @@
 #include "base/folders/file_names.hpp"
 #include "base/translated_texts.hpp"
 #include "commands/report_files.hpp"
+#include "project/output_guard.hpp"
 #include "project/project_data.hpp"
 
 namespace korven::batch {
@@ -33,6 +34,14 @@ void controllaNomi(const std::vector<std::string>& uscite, const std::vector<std
         for (std::size_t j = 0; j < i; ++j)
             if (base::stessoFile(uscite[i], uscite[j])) throw NomiInConflitto(uscite[i], uscite[j]);
     }
+}
+
+void controllaTabella(const std::string& percorso, const std::vector<std::string>& altri) {
+    if (percorso.empty()) return;
+    project::controllaUscita(percorso, base::nomeRisultati(project::fileCorrente));
+    std::vector<std::string> tutti = fileDelProgetto();
+    tutti.insert(tutti.end(), altri.begin(), altri.end());
+    controllaNomi({percorso}, tutti);
 }
 
 }  // namespace korven::batch

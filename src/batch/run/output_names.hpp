@@ -27,4 +27,11 @@ class NomiInConflitto : public std::runtime_error {
 /// @throws NomiInConflitto with both names
 void controllaNomi(const std::vector<std::string>& uscite, const std::vector<std::string>& altri);
 
+/// The same of a table, and of a name under which the project itself would be lost.
+/// @param percorso  empty: no table is written
+/// @param altri     other files of the command
+/// @throws base::ErroreFile, for the project or its results, with both names
+/// @throws NomiInConflitto
+void controllaTabella(const std::string& percorso, const std::vector<std::string>& altri = {});
+
 }  // namespace korven::batch

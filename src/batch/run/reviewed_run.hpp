@@ -2,6 +2,7 @@
 
 #include <functional>
 
+#include "analysis/run_start.hpp"
 #include "batch/options/choices.hpp"
 #include "batch/run/outcome.hpp"
 #include "project/project_data.hpp"
@@ -26,5 +27,13 @@ review::Osservazioni aggiungiRisultati(const project::DatiProgetto& dati, Esito&
 /// @return the same or, with `--severo`, what follows from the remarks (`conSeverita`)
 [[nodiscard]] int calcolaConRilievi(const Opzioni& opzioni, Esito& esito,
                                     const std::function<int()>& corsa);
+
+/// The same for a command that follows the wall in memory and writes no result file, so that no
+/// folder is made for one: begins as a report does and refuses whatever that refuses, with the same
+/// words and codes.
+/// @param calcolo  gives the exit code; told what a run begins with
+[[nodiscard]] int calcolaInMemoria(
+    const Opzioni& opzioni, Esito& esito,
+    const std::function<int(const analysis::Avvio&, base::Dialogo&)>& calcolo);
 
 }  // namespace korven::batch

@@ -155,8 +155,9 @@ TEST(Nomi, InMessagesAreThoseOfTheLanguageInUseWhicheverWereTyped) {
     EXPECT_TRUE(test::dice(leggi({"calcola", "muro.kvd", "--ej", "forse"}).errori,
                            "value not allowed: --ej forse (keep|recalculate)\n"));
     EXPECT_TRUE(test::dice(leggi({"calcola"}).errori, "PROJECT.kvd\n"));
-    EXPECT_TRUE(test::dice(leggi({"disegna"}).errori,
-                           ": calculate, report, check, diagram, section, log, hatches, all\n"));
+    EXPECT_TRUE(test::dice(
+        leggi({"disegna"}).errori,
+        ": calculate, report, check, equilibrium, diagram, section, log, hatches, all\n"));
 }
 
 TEST(Nomi, GivenTwiceAreOneOptionGivenTwice) {

@@ -1,0 +1,41 @@
+#include "batch/run/text_table.hpp"
+
+#include <algorithm>
+#include <cassert>
+#include <utility>
+
+#include "base/code_page.hpp"
+
+namespace korven::batch {
+
+TabellaTesto::TabellaTesto(std::vector<std::string> titoli, bool ultimaAParole)
+    : righe_{std::move(titoli)}, ultimaAParole_(ultimaAParole) {}
+
+void TabellaTesto::riga(std::vector<std::string> celle) {
+    assert(celle.size() == righe_.front().size());
+    righe_.push_back(std::move(celle));
+}
+
+std::size_t TabellaTesto::larghezza(std::size_t colonna) const {
+    std::size_t massima = 0;
+    for (const auto& riga : righe_)
+        massima = std::max(massima, base::numeroCaratteri(riga[colonna]));
+    return massima;
+}
+
+std::string TabellaTesto::testo() const {
+    std::string testo;
+    const std::size_t colonne = righe_.front().size();
+    for (const auto& riga : righe_) {
+        for (std::size_t j = 0; j < colonne; ++j) {
+            if (j > 0) testo += "  ";
+            if (!(ultimaAParole_ && j + 1 == colonne))
+                testo.append(larghezza(j) - base::numeroCaratteri(riga[j]), ' ');
+            testo += riga[j];
+        }
+        testo += '\n';
+    }
+    return testo;
+}
+
+}  // namespace korven::batch

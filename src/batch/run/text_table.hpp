@@ -1,0 +1,30 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+namespace korven::batch {
+
+/// A table in plain text: columns two blanks apart, as wide as their widest cell, right-aligned but
+/// for a last one of words.
+class TabellaTesto {
+ public:
+    /// @param titoli          translated
+    /// @param ultimaAParole   the last column is of words, left-aligned
+    explicit TabellaTesto(std::vector<std::string> titoli, bool ultimaAParole = false);
+
+    /// @param celle  as many as there are columns: asserted
+    void riga(std::vector<std::string> celle);
+
+    /// Lines ended by "\n".
+    [[nodiscard]] std::string testo() const;
+
+ private:
+    [[nodiscard]] std::size_t larghezza(std::size_t colonna) const;
+
+    std::vector<std::vector<std::string>> righe_;
+    bool ultimaAParole_;
+};
+
+}  // namespace korven::batch
