@@ -11,6 +11,7 @@ namespace korven::batch {
 [[nodiscard]] RigaComando comandoRelazione();
 [[nodiscard]] RigaComando comandoVerifica();
 [[nodiscard]] RigaComando comandoEquilibrio();
+[[nodiscard]] RigaComando comandoSicurezza();
 [[nodiscard]] RigaComando comandoDiagramma();
 [[nodiscard]] RigaComando comandoSezione();
 [[nodiscard]] RigaComando comandoStratigrafia();

@@ -9,12 +9,10 @@ namespace korven::review {
 namespace {
 
 using analysis::ModoFine;
-using equilibrium::EsitoFase;
 using equilibrium::Instabile;
 using project::DatiProgetto;
 using safety::Causa;
 using safety::Diagnosi;
-using safety::MargineFase;
 
 std::vector<std::string> campoSolo(const project::Membro& membro, int riga = 1) {
     return {project::nomeStabile(project::campo(membro), riga)};
@@ -22,10 +20,10 @@ std::vector<std::string> campoSolo(const project::Membro& membro, int riga = 1) 
 
 // The fields behind data for which no equilibrium is certain. Of the soil it is the stage that
 // brings node and side together; the sentence has the depth.
-std::vector<std::string> campi(const DatiProgetto& dati, const MargineFase& fase) {
-    switch (fase.instabile.che) {
+std::vector<std::string> campi(const DatiProgetto& dati, const Diagnosi& d) {
+    switch (d.instabile.che) {
         case Instabile::tirante:
-            return campoSolo(&DatiProgetto::rigTirante, fase.instabile.tirante);
+            return campoSolo(&DatiProgetto::rigTirante, d.instabile.tirante);
         case Instabile::parete:
             return campoSolo(&DatiProgetto::rigidezzaEJ);
         case Instabile::modulo:
@@ -35,31 +33,17 @@ std::vector<std::string> campi(const DatiProgetto& dati, const MargineFase& fase
         case Instabile::no:
             break;
     }
-    return scavo(dati, fase.fase).campi;
+    return scavo(dati, d.fase).campi;
 }
 
-void caduta(const DatiProgetto& dati, const safety::Margine& margine, const MargineFase& fase,
-            ElencoOsservazioni& elenco) {
-    Diagnosi d{.fase = fase.fase, .paratia = dati.lunghezzaParatia};
-    const auto avvisa = [&](Voce voce, Causa causa) {
-        d.causa = causa;
-        elenco.conParole(voce, {{}, campi(dati, fase)}, safety::frase(d));
-    };
-    switch (*fase.esito) {
-        case EsitoFase::meccanismo:
-            d.moto = fase.moto;
-            d.parti = fase.parti;
-            if (margine.lunghezza.lunghezza.value_or(0) > dati.lunghezzaParatia)
-                d.lunghezza = margine.lunghezza.lunghezza;
-            return avvisa("meccanismo", Causa::meccanismo);
-        case EsitoFase::nonDefinito:
-            d.instabile = fase.instabile;
-            return avvisa("equilibrio-non-definito", Causa::nonDefinito);
-        case EsitoFase::nessunNumero:
-            d.newton = fase.newton;
-            return avvisa("nessun-numero", Causa::nessunNumero);
-        case EsitoFase::equilibrio:
-            break;
+Voce voce(Causa causa) {
+    switch (causa) {
+        case Causa::meccanismo:
+            return "meccanismo";
+        case Causa::nonDefinito:
+            return "equilibrio-non-definito";
+        default:
+            return "nessun-numero";
     }
 }
 
@@ -68,8 +52,9 @@ void caduta(const DatiProgetto& dati, const safety::Margine& margine, const Marg
 void controlloEquilibrio(const DatiProgetto& dati, const safety::Margine& margine,
                          const analysis::FineCorsa& fine, ElencoOsservazioni& elenco) {
     // A soil without a value is told of what is typed.
-    if (const MargineFase* fase = margine.caduta(); fase && !fase->rifiuto)
-        caduta(dati, margine, *fase, elenco);
+    if (const safety::MargineFase* fase = margine.caduta(); fase && fase->perche)
+        elenco.conParole(voce(fase->perche->causa), {{}, campi(dati, *fase->perche)},
+                         safety::frase(*fase->perche));
     if (!margine.sta()) return;
     if (fine.modo != ModoFine::singolare && fine.modo != ModoFine::oltreLimite) return;
     const auto& fase = margine.fasi.at(static_cast<std::size_t>(fine.fase - 1));

@@ -20,13 +20,12 @@ MargineFase fase(const DatiProgetto& dati, int nSeg, int k, EquilibrioParete& pa
     m.scavo = dati.profFase[k];
     m.esito = f.esito;
     m.rifiuto = f.rifiuto;
-    m.moto = f.moto;
-    if (m.moto) m.parti = equilibrium::partiAlLimite(problema, *m.moto);
-    m.instabile = f.instabile;
-    m.newton = f.newton;
     if (m.rifiuto) return m;
     m.riduzione = riduzione(dati, nSeg, k);
-    if (!m.inEquilibrio()) return m;
+    if (!m.inEquilibrio()) {
+        m.perche = diagnosi(dati, nSeg, parete, f);
+        return m;
+    }
     m.passiva = usoPassiva(problema, f, m.scavo);
     m.estremi = equilibrium::estremi(f, problema.h);
     m.confronto = statica(f, problema.h);
@@ -66,9 +65,18 @@ const MargineFase* Margine::caduta() const {
     return f == fasi.end() ? nullptr : &*f;
 }
 
+const MargineFase* Margine::decisiva() const {
+    const MargineFase* minima = caduta();
+    if (minima) return minima;
+    for (const MargineFase& f : fasi)
+        if (f.riduzione.F && (!minima || *f.riduzione.F < *minima->riduzione.F)) minima = &f;
+    return minima;
+}
+
 Margine margine(const DatiProgetto& dati, int nSeg, analysis::OsservatoreCorsa& osservatore) {
     Margine m;
     m.nSeg = nSeg;
+    m.paratia = dati.lunghezzaParatia;
     EquilibrioParete parete(dati, nSeg);
     equilibrium::Estremi estremi;
     for (int k = 1; k <= dati.nFasi; ++k)

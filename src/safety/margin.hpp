@@ -6,6 +6,7 @@
 #include "analysis/run_observer.hpp"
 #include "equilibrium/staged_equilibrium.hpp"
 #include "project/project_data.hpp"
+#include "safety/diagnosis.hpp"
 #include "safety/mesh_error.hpp"
 #include "safety/passive_use.hpp"
 #include "safety/shortest_wall.hpp"
@@ -21,10 +22,7 @@ struct MargineFase {
     /// Nothing for a stage after one without equilibrium, of which no number is known.
     std::optional<equilibrium::EsitoFase> esito;
     std::optional<analysis::RifiutoSuolo> rifiuto;  ///< the soil has no value: of `nonDefinito`
-    std::optional<equilibrium::Meccanismo> moto;    ///< of `meccanismo`
-    equilibrium::PartiAlLimite parti;               ///< of `meccanismo`
-    equilibrium::DatoInstabile instabile;           ///< of `nonDefinito`
-    equilibrium::EsitoNewton newton = equilibrium::EsitoNewton::trovato;  ///< of `nessunNumero`
+    std::optional<Diagnosi> perche;                 ///< of all others that do not stand
     /// Of a stage with or without equilibrium: below 1 it is what the wall is short of.
     Riduzione riduzione;
     UsoPassiva passiva;            ///< of a stage in equilibrium, as all below
@@ -37,6 +35,7 @@ struct MargineFase {
 /// All that is known of how safe a wall is.
 struct Margine {
     int nSeg = 0;
+    double paratia = 0;             ///< length of the wall [m]
     std::vector<MargineFase> fasi;  ///< all stages; element 0 is stage 1
     LunghezzaMinima lunghezza;
     std::optional<ErroreMaglia> maglia;  ///< nothing unless all stages stand with finer meshes too
@@ -48,6 +47,9 @@ struct Margine {
     [[nodiscard]] bool sta() const { return fasi.empty() || fasi.back().inEquilibrio(); }
     /// The first stage that is not; nothing if all are.
     [[nodiscard]] const MargineFase* caduta() const;
+    /// The stage by which the wall is judged: the first without equilibrium, else the one of the
+    /// smallest factor; nothing if all factors are beyond the range.
+    [[nodiscard]] const MargineFase* decisiva() const;
 };
 
 /// The margin of a project: the one place that puts its parts together, for whoever shows it. At

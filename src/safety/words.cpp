@@ -29,15 +29,6 @@ std::string valore(double conservato, const Unita& u) {
     return unito(numeroMostrato(conservato, 1, u), u);
 }
 
-// A depth or a length to the centimetre, without zeros at its end.
-std::string metri(double m) {
-    std::string testo = project::numeroMostrato(m, 2);
-    if (testo.find('.') == std::string::npos || testo.find('e') != std::string::npos) return testo;
-    testo.erase(testo.find_last_not_of('0') + 1);
-    if (testo.back() == '.') testo.pop_back();
-    return testo;
-}
-
 // Keeps what is said, parted by a sign, and leaves out what says nothing.
 class Elenco {
  public:
@@ -108,6 +99,14 @@ std::string rimedio(const Diagnosi& d) {
 }
 
 }  // namespace
+
+std::string metri(double m) {
+    std::string testo = project::numeroMostrato(m, 2);
+    if (testo.find('.') == std::string::npos || testo.find('e') != std::string::npos) return testo;
+    testo.erase(testo.find_last_not_of('0') + 1);
+    if (testo.back() == '.') testo.pop_back();
+    return testo;
+}
 
 std::string parole(const Meccanismo& moto, double paratia) {
     if (moto.traslazione)

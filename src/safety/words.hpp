@@ -13,6 +13,9 @@ namespace korven::safety {
 /// The command that computes the certain equilibrium.
 inline constexpr base::Gemelli comandoEquilibrio{"equilibrio", "equilibrium"};
 
+/// A depth or a length to the centimetre, without zeros at its end: "4.2".
+[[nodiscard]] std::string metri(double m);
+
 /// How the wall moves: "ruota attorno alla profondità di 4.2 m, il piede verso lo scavo".
 /// @param paratia  length of the wall [m]
 [[nodiscard]] std::string parole(const equilibrium::Meccanismo& moto, double paratia);

@@ -10,6 +10,7 @@ using analysis::ModoFine;
 using equilibrium::EsitoFase;
 using equilibrium::Instabile;
 using project::DatiProgetto;
+using safety::Causa;
 using safety::Margine;
 
 const DatiProgetto dueFasi = paratia({{.scavo = 2}, {.scavo = 4}});
@@ -21,9 +22,11 @@ Osservazioni osservate(const Margine& margine, const FineCorsa& corsa = {}) {
 }
 
 // The second stage is the one that is none.
-Margine caduto(EsitoFase esito) {
+Margine caduto(EsitoFase esito, Causa causa) {
     Margine m = margineSano(dueFasi);
     m.fasi[1].esito = esito;
+    m.fasi[1].perche =
+        safety::Diagnosi{.causa = causa, .fase = 2, .paratia = dueFasi.lunghezzaParatia};
     return m;
 }
 
@@ -35,10 +38,10 @@ TEST(ControlloEquilibrio, SaysNothingOfAWallThatStandsAndWhoseRunComesToRest) {
 
 // 2.57 t m are 25.7 kN m.
 TEST(ControlloEquilibrio, TellsAMechanismAndTheLengthThatWouldHelp) {
-    Margine m = caduto(EsitoFase::meccanismo);
-    m.fasi[1].moto = equilibrium::Meccanismo{false, 8.9, -1, 2.57};
-    m.fasi[1].parti.vallePassivo = {{4, 8.6}};
-    m.lunghezza.lunghezza = 10.42;
+    Margine m = caduto(EsitoFase::meccanismo, Causa::meccanismo);
+    m.fasi[1].perche->moto = equilibrium::Meccanismo{false, 8.9, -1, 2.57};
+    m.fasi[1].perche->parti.vallePassivo = {{4, 8.6}};
+    m.fasi[1].perche->lunghezza = 10.42;
     const Osservazioni una = osservate(m);
     EXPECT_EQ(righe(una),
               Righe{"[pericolo] meccanismo: la paratia è un meccanismo nella fase 2: ruota attorno "
@@ -48,10 +51,9 @@ TEST(ControlloEquilibrio, TellsAMechanismAndTheLengthThatWouldHelp) {
     EXPECT_EQ(una[0].campi, (std::vector<std::string>{"profFase[2]", "lunghezzaParatia"}));
 }
 
-TEST(ControlloEquilibrio, NamesNoLengthThatIsShorterThanTheWall) {
-    Margine m = caduto(EsitoFase::meccanismo);
-    m.fasi[1].moto = equilibrium::Meccanismo{true, 0, 1, 1.2};
-    m.lunghezza.lunghezza = 9;
+TEST(ControlloEquilibrio, NamesNoLengthWhereNoLongerWallStands) {
+    Margine m = caduto(EsitoFase::meccanismo, Causa::meccanismo);
+    m.fasi[1].perche->moto = equilibrium::Meccanismo{true, 0, 1, 1.2};
     EXPECT_EQ(righe(osservate(m)),
               Righe{"[pericolo] meccanismo: la paratia è un meccanismo nella fase 2: trasla verso "
                     "lo scavo; mancano 12.0 kN; controllare profondità di scavo, tiranti, livelli "
@@ -59,8 +61,8 @@ TEST(ControlloEquilibrio, NamesNoLengthThatIsShorterThanTheWall) {
 }
 
 TEST(ControlloEquilibrio, TellsDataWithoutACertainEquilibriumAndTheirField) {
-    Margine m = caduto(EsitoFase::nonDefinito);
-    m.fasi[1].instabile = {.che = Instabile::tirante, .tirante = 3, .valore = -50};
+    Margine m = caduto(EsitoFase::nonDefinito, Causa::nonDefinito);
+    m.fasi[1].perche->instabile = {.che = Instabile::tirante, .tirante = 3, .valore = -50};
     const Osservazioni una = osservate(m);
     EXPECT_EQ(righe(una),
               Righe{"[pericolo] equilibrio-non-definito: l'equilibrio non è definito nella fase 2: "
@@ -70,14 +72,14 @@ TEST(ControlloEquilibrio, TellsDataWithoutACertainEquilibriumAndTheirField) {
                                                        {Instabile::modulo, "metodoKs"},
                                                        {Instabile::limiti, "metodoSpinte"}};
     for (const auto& [che, campo] : campi) {
-        m.fasi[1].instabile = {.che = che, .valore = -1};
+        m.fasi[1].perche->instabile = {.che = che, .valore = -1};
         EXPECT_EQ(osservate(m)[0].campi, std::vector<std::string>{campo});
     }
 }
 
 TEST(ControlloEquilibrio, TellsDisplacementsThatAreNoNumber) {
-    Margine m = caduto(EsitoFase::nessunNumero);
-    m.fasi[1].newton = equilibrium::EsitoNewton::senzaMisura;
+    Margine m = caduto(EsitoFase::nessunNumero, Causa::nessunNumero);
+    m.fasi[1].perche->newton = equilibrium::EsitoNewton::senzaMisura;
     EXPECT_EQ(righe(osservate(m)),
               Righe{"[pericolo] nessun-numero: nessun numero nella fase 2: spostamenti oltre mille "
                     "volte la lunghezza della paratia: nessun equilibrio utile; controllare "
@@ -86,7 +88,8 @@ TEST(ControlloEquilibrio, TellsDisplacementsThatAreNoNumber) {
 
 // The review of what is typed tells it.
 TEST(ControlloEquilibrio, LeavesASoilWithoutAValueToTheReviewOfTheProject) {
-    Margine m = caduto(EsitoFase::nonDefinito);
+    Margine m = margineSano(dueFasi);
+    m.fasi[1].esito = EsitoFase::nonDefinito;
     m.fasi[1].rifiuto = analysis::RifiutoSuolo{};
     EXPECT_TRUE(osservate(m).empty());
 }

@@ -46,6 +46,7 @@ TEST(Margine, HoldsTheFactorOfEveryStageOfTheWallWithTwoRowsOfAnchors) {
     EXPECT_EQ(m.lunghezza.lunghezza, dati.profFase[4]);
     EXPECT_TRUE(m.maglia);
     EXPECT_TRUE(m.relazione);
+    EXPECT_EQ(m.decisiva(), &m.fasi[3]);
 }
 
 TEST(Margine, SetsTheLargestNumbersOfAllStagesBesideThoseOfTheReport) {
@@ -67,6 +68,7 @@ TEST(Margine, OfARestrainedToeHasNoShortestWall) {
     EXPECT_TRUE(m.sta());
     EXPECT_EQ(m.lunghezza.esito, EsitoLunghezza::vincolata);
     for (const MargineFase& f : m.fasi) EXPECT_TRUE(f.riduzione.oltre) << f.fase;
+    EXPECT_FALSE(m.decisiva());
 }
 
 TEST(Margine, OfAMechanismIsTheFactorItIsShortOfAndTheMovement) {
@@ -74,8 +76,10 @@ TEST(Margine, OfAMechanismIsTheFactorItIsShortOfAndTheMovement) {
     ASSERT_TRUE(m.caduta());
     EXPECT_EQ(m.caduta()->fase, 1);
     EXPECT_EQ(m.caduta()->esito, EsitoFase::meccanismo);
-    EXPECT_TRUE(m.caduta()->moto);
-    EXPECT_FALSE(m.caduta()->parti.vallePassivo.empty());
+    ASSERT_TRUE(m.caduta()->perche);
+    EXPECT_TRUE(m.caduta()->perche->moto);
+    EXPECT_FALSE(m.caduta()->perche->parti.vallePassivo.empty());
+    EXPECT_EQ(m.decisiva(), m.caduta());
     EXPECT_LT(m.caduta()->riduzione.F.value_or(1), 1);
     EXPECT_GT(m.caduta()->riduzione.F.value_or(0), 0.9);
     EXPECT_FALSE(m.caduta()->passiva.quota);
@@ -122,7 +126,7 @@ TEST(Margine, ComparesNothingOfAllStagesWhereTheCertainMethodStopsBeforeTheRepor
     const Margine m = margineDi(dati);
     ASSERT_TRUE(m.caduta());
     EXPECT_EQ(m.caduta()->esito, EsitoFase::nonDefinito);
-    EXPECT_EQ(m.caduta()->instabile.che, equilibrium::Instabile::tirante);
+    EXPECT_EQ(m.caduta()->perche.value().instabile.che, equilibrium::Instabile::tirante);
     EXPECT_TRUE(m.relazione);
     EXPECT_FALSE(m.momento.relazione);
     EXPECT_FALSE(m.maglia);

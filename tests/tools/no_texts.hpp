@@ -13,6 +13,8 @@ using Texts = std::vector<std::string>;
 // Files whose literals are all none.
 inline const std::map<std::string, std::string> silentFiles = {
     {"batch/run/outcome_json.cpp", "names of fields, the same in all languages"},
+    {"batch/run/margin_csv.cpp", "names of columns, the same in all languages"},
+    {"batch/run/margin_json.cpp", "names of fields, the same in all languages"},
     {"review/remark_table.hpp", "what the compiler says"},
     {"batch/run/equilibrium_json.cpp", "names of fields, the same in all languages"},
     {"batch/run/equilibrium_csv.cpp", "names of columns and states, the same in all languages"},
@@ -74,6 +76,7 @@ inline const std::map<std::string, Texts> noTexts = {
     {"batch/hatches.cpp", {"campiture", "hatches"}},
     {"batch/stratigraphic_log.cpp", {"stratigrafia", "log"}},
     {"batch/report.cpp", {"relazione", "report", "FILE", "NOME", "NAME"}},
+    {"batch/safety.cpp", {"sicurezza", "safety"}},
     {"batch/section.cpp", {"sezione", "section"}},
     {"batch/options/command_line.cpp",
      {"Usage", "OPTIONS", "SUBCOMMAND", "Positionals", "REQUIRED", "KORVEN 32 -", "korven32c",

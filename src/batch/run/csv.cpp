@@ -31,8 +31,10 @@ RigheCsv& RigheCsv::campo(std::string_view testo) {
 
 RigheCsv& RigheCsv::campo(int numero) { return campo(std::to_string(numero)); }
 
+RigheCsv& RigheCsv::campo(double numero) { return campo(tutteLeCifre(numero)); }
+
 RigheCsv& RigheCsv::campo(std::optional<double> numero) {
-    return campo(numero ? tutteLeCifre(*numero) : std::string());
+    return numero ? campo(*numero) : campo(std::string_view());
 }
 
 void RigheCsv::fineRiga() {

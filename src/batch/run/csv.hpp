@@ -16,7 +16,9 @@ class RigheCsv {
     // The fields of a row, in the order of the names.
     RigheCsv& campo(std::string_view testo);
     RigheCsv& campo(int numero);
-    /// All digits of the double, so that reading it gives the same; empty for none.
+    /// All digits of the double, so that reading it gives the same.
+    RigheCsv& campo(double numero);
+    /// Empty for none.
     RigheCsv& campo(std::optional<double> numero);
     void fineRiga();
 

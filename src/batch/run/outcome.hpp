@@ -7,6 +7,7 @@
 #include "analysis/watch/run_control.hpp"
 #include "results/run_outcome.hpp"
 #include "review/project_review.hpp"
+#include "safety/margin.hpp"
 #include "safety/run_cause.hpp"
 #include "safety/told_stages.hpp"
 
@@ -32,6 +33,7 @@ struct Esito {
     std::optional<results::EsitoCalcolo> calcolo;
     bool inMemoria = false;  ///< its outcome is the one below, and no result file
     std::optional<safety::EquilibrioRaccontato> equilibrio;
+    std::optional<safety::Margine> margine;
     bool giaAggiornato = false;  ///< the result file was up to date already
     std::vector<analysis::ControlloCorsa::Fase> fasi;
     std::vector<std::string> fileScritti;

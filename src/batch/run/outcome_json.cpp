@@ -4,6 +4,7 @@
 #include "base/version.hpp"
 #include "batch/run/equilibrium_outcome.hpp"
 #include "batch/run/json_numbers.hpp"
+#include "batch/run/margin_outcome.hpp"
 #include "batch/run/outcome.hpp"
 #include "project/units.hpp"
 
@@ -111,7 +112,8 @@ Json testoONullo(const std::string& testo) { return testo.empty() ? Json(nullptr
 
 // What a command that writes no result file has computed.
 Json inMemoria(const Esito& esito) {
-    return esito.equilibrio ? jsonEquilibrio(*esito.equilibrio) : Json(nullptr);
+    if (esito.equilibrio) return jsonEquilibrio(*esito.equilibrio);
+    return esito.margine ? jsonMargine(*esito.margine) : Json(nullptr);
 }
 
 }  // namespace

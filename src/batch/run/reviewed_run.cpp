@@ -17,8 +17,8 @@ namespace korven::batch {
 
 namespace {
 
-// What looks like a slip is told before the command computes with it, and what else prevents a run
-// after one that was refused.
+// What looks like a slip is told before the command computes with it; after it what else prevents
+// a run that was refused, and what is odd about its results.
 int traLeOsservazioni(const Opzioni& opzioni, Esito& esito, const std::function<int()>& corsa) {
     const Interruzioni interruzioni;
     esito.osservazioni = review::esaminaFile(opzioni.progetto, project::Progetto);

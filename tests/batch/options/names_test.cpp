@@ -46,7 +46,7 @@ auto tutte(const Opzioni& o) {
                       o.json, o.silenzioso, o.traccia, o.maxIterazioni, o.tipo, o.fase,
                       o.relazione.testo, o.relazione.documento, o.relazione.pdf,
                       o.relazione.stampante, o.disegno.file(), o.disegno.dpi,
-                      o.disegno.foglio.larghezza, o.disegno.foglio.altezza, o.formati);
+                      o.disegno.foglio.larghezza, o.disegno.foglio.altezza, o.formati, o.csv);
 }
 
 // Words of a help: names are parted by blanks, commas, bars and brackets.
@@ -157,7 +157,8 @@ TEST(Nomi, InMessagesAreThoseOfTheLanguageInUseWhicheverWereTyped) {
     EXPECT_TRUE(test::dice(leggi({"calcola"}).errori, "PROJECT.kvd\n"));
     EXPECT_TRUE(test::dice(
         leggi({"disegna"}).errori,
-        ": calculate, report, check, equilibrium, diagram, section, log, hatches, all\n"));
+        ": calculate, report, check, equilibrium, safety, diagram, section, log, hatches, "
+        "all\n"));
 }
 
 TEST(Nomi, GivenTwiceAreOneOptionGivenTwice) {

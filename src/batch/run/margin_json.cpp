@@ -1,0 +1,145 @@
+#include <cmath>
+#include <nlohmann/json.hpp>
+
+#include "batch/run/json_numbers.hpp"
+#include "batch/run/margin_outcome.hpp"
+#include "safety/words.hpp"
+
+namespace korven::batch {
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+using equilibrium::EsitoFase;
+using safety::EsitoLunghezza;
+using safety::Margine;
+using safety::MargineFase;
+
+Json quota(const std::optional<double>& valore) {
+    return valore ? Json(arrotondato(*valore)) : Json(nullptr);
+}
+
+Json meccanismo(const safety::Riduzione& riduzione, double paratia) {
+    if (!riduzione.moto) return nullptr;
+    const equilibrium::Meccanismo& moto = *riduzione.moto;
+    return {{"traslazione", moto.traslazione},
+            {"profondita_m", moto.traslazione ? Json(nullptr) : Json(arrotondato(moto.profondita))},
+            {"verso", moto.verso},
+            {"testo", safety::parole(moto, paratia)}};
+}
+
+Json confronto(const safety::Confronto& c) {
+    Json j = {{"statica", kN(c.statica.valore)}, {"z_statica_m", arrotondato(c.statica.z)},
+              {"fase_statica", c.statica.fase},  {"relazione", nullptr},
+              {"z_relazione_m", nullptr},        {"fase_relazione", nullptr},
+              {"scarto", quota(c.scarto())}};
+    if (c.relazione) {
+        j["relazione"] = kN(c.relazione->valore);
+        j["z_relazione_m"] = arrotondato(c.relazione->z);
+        j["fase_relazione"] = c.relazione->fase;
+    }
+    return j;
+}
+
+Json tiri(const MargineFase& fase) {
+    Json tutti = Json::array();
+    for (const safety::ConfrontoTiro& tiro : fase.confronto.tiri)
+        tutti.push_back(
+            {{"tirante", tiro.tirante},
+             {"statica", kN(tiro.statica)},
+             {"relazione", tiro.relazione ? Json(kN(tiro.relazione->valore)) : Json(nullptr)}});
+    return tutti;
+}
+
+Json passiva(const safety::UsoPassiva& uso) {
+    Json z = Json::array();
+    for (const equilibrium::Tratto& t : uso.alLimite) {
+        z.push_back(arrotondato(t.da));
+        z.push_back(arrotondato(t.a));
+    }
+    return z;
+}
+
+Json jsonFase(const MargineFase& fase, double paratia) {
+    Json j = {{"fase", fase.fase},
+              {"scavo_m", arrotondato(fase.scavo)},
+              {"esito", fase.esito ? Json(parolaEsito(fase)) : Json(nullptr)},
+              {"riduzione", quota(fase.riduzione.F)},
+              {"riduzione_oltre_10", fase.riduzione.oltre},
+              {"riduzione_limite_pendio", fase.riduzione.limitePendio},
+              {"meccanismo", meccanismo(fase.riduzione, paratia)},
+              {"passiva_usata", quota(fase.passiva.quota)},
+              {"z_passiva_m", passiva(fase.passiva)}};
+    const bool numeri = fase.inEquilibrio();
+    j["spostamento_massimo_m"] =
+        numeri ? Json(spostamento(std::fabs(fase.estremi.spostamento.valore))) : Json(nullptr);
+    j["momento_kNm"] = numeri ? confronto(fase.confronto.momento) : Json(nullptr);
+    j["taglio_kN"] = numeri ? confronto(fase.confronto.taglio) : Json(nullptr);
+    j["tiri_kN"] = tiri(fase);
+    return j;
+}
+
+Json erroreMaglia(const Margine& margine) {
+    if (!margine.maglia) return nullptr;
+    const safety::ErroreMaglia& e = *margine.maglia;
+    return {{"momento", quota(e.momento.quota)},
+            {"taglio", quota(e.taglio.quota)},
+            {"spostamento", quota(e.spostamento.quota)},
+            {"tiro", quota(e.tiro.quota)}};
+}
+
+Json ordineMaglia(const Margine& margine) {
+    if (!margine.maglia) return nullptr;
+    const safety::ErroreMaglia& e = *margine.maglia;
+    return {{"momento", quota(e.momento.ordine)},
+            {"taglio", quota(e.taglio.ordine)},
+            {"spostamento", quota(e.spostamento.ordine)},
+            {"tiro", quota(e.tiro.ordine)}};
+}
+
+const char* esitoLunghezza(EsitoLunghezza esito) {
+    switch (esito) {
+        case EsitoLunghezza::trovata:
+            return "trovata";
+        case EsitoLunghezza::sempre:
+            return "sempre";
+        case EsitoLunghezza::mai:
+            return "mai";
+        case EsitoLunghezza::vincolata:
+            break;
+    }
+    return "vincolata";
+}
+
+}  // namespace
+
+std::string_view parolaEsito(const MargineFase& fase) {
+    if (!fase.esito) return {};
+    switch (*fase.esito) {
+        case EsitoFase::equilibrio:
+            return "equilibrio";
+        case EsitoFase::meccanismo:
+            return "meccanismo";
+        case EsitoFase::nonDefinito:
+            return "non_definito";
+        case EsitoFase::nessunNumero:
+            break;
+    }
+    return "nessun_numero";
+}
+
+Json jsonMargine(const Margine& margine) {
+    Json fasi = Json::array();
+    for (const MargineFase& fase : margine.fasi) fasi.push_back(jsonFase(fase, margine.paratia));
+    return {{"segmenti", margine.nSeg},
+            {"fasi", fasi},
+            {"lunghezza_m", arrotondato(margine.paratia)},
+            {"lunghezza_minima_m", quota(margine.lunghezza.lunghezza)},
+            {"lunghezza_minima_esito", esitoLunghezza(margine.lunghezza.esito)},
+            {"errore_maglia", erroreMaglia(margine)},
+            {"ordine_maglia", ordineMaglia(margine)},
+            {"momento_kNm", confronto(margine.momento)},
+            {"taglio_kN", confronto(margine.taglio)}};
+}
+
+}  // namespace korven::batch

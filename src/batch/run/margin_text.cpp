@@ -1,0 +1,87 @@
+#include "base/translated_texts.hpp"
+#include "batch/run/margin_outcome.hpp"
+#include "batch/run/text_table.hpp"
+#include "project/shown_number.hpp"
+#include "project/units.hpp"
+#include "safety/margin_words.hpp"
+
+namespace korven::batch {
+
+namespace {
+
+using base::traduttore;
+using project::numeroMostrato;
+using project::Unita;
+using safety::Margine;
+using safety::MargineFase;
+namespace unita = project::unita;
+
+constexpr const char* nessuno = "-";
+
+std::string titolo(std::string_view cosa, const Unita& u) { return traduttore(etichetta(cosa, u)); }
+
+std::string perche(const MargineFase& fase, double paratia) {
+    if (fase.perche) return traduttore("nessun equilibrio");
+    return fase.inEquilibrio() ? parole(fase.riduzione, paratia) : nessuno;
+}
+
+std::string tabellaFasi(const Margine& margine) {
+    TabellaTesto tabella(
+        {traduttore("Fase"), titolo("Scavo", unita::metri), "F", traduttore("Passiva [%]"),
+         traduttore("Al limite [m]"), traduttore("Con F")},
+        true);
+    for (const MargineFase& fase : margine.fasi)
+        tabella.riga({std::to_string(fase.fase), numeroMostrato(fase.scavo, 2),
+                      testoRiduzione(fase.riduzione), safety::testoQuota(fase.passiva.quota),
+                      safety::testoTratti(fase.passiva.alLimite), perche(fase, margine.paratia)});
+    return tabella.testo();
+}
+
+// A moment or a shear of one stage as a row.
+void riga(int fase, std::string_view cosa, const Unita& u, const safety::Confronto& c,
+          TabellaTesto& tabella) {
+    tabella.riga({std::to_string(fase), titolo(cosa, u), numeroMostrato(c.statica.valore, 2, u),
+                  numeroMostrato(c.statica.z, 2),
+                  c.relazione ? numeroMostrato(c.relazione->valore, 2, u) : nessuno,
+                  c.relazione ? numeroMostrato(c.relazione->z, 2) : nessuno});
+}
+
+void riga(int fase, const safety::ConfrontoTiro& tiro, TabellaTesto& tabella) {
+    tabella.riga(
+        {std::to_string(fase),
+         traduttore("tirante") + " " + std::to_string(tiro.tirante) + " " +
+             traParentesi(unita::forza),
+         numeroMostrato(tiro.statica, 2, unita::forza), nessuno,
+         tiro.relazione ? numeroMostrato(tiro.relazione->valore, 2, unita::forza) : nessuno,
+         nessuno});
+}
+
+std::string tabellaStatica(const Margine& margine) {
+    const std::string z = "z " + traParentesi(unita::metri);
+    TabellaTesto tabella({traduttore("Fase"), traduttore("Massimi"), traduttore("Statica"), z,
+                          traduttore("Relazione"), z});
+    for (const MargineFase& fase : margine.fasi) {
+        if (!fase.inEquilibrio()) continue;
+        riga(fase.fase, "Momento", unita::momento, fase.confronto.momento, tabella);
+        riga(fase.fase, "Taglio", unita::forza, fase.confronto.taglio, tabella);
+        for (const safety::ConfrontoTiro& tiro : fase.confronto.tiri)
+            riga(fase.fase, tiro, tabella);
+    }
+    return tabella.testo();
+}
+
+}  // namespace
+
+std::string testoMargine(const Margine& margine) {
+    std::string testo = tabellaFasi(margine);
+    for (const std::string& riga :
+         {paroleDecisiva(margine), paroleLunghezza(margine), paroleMaglia(margine)})
+        if (!riga.empty()) testo += riga + '\n';
+    if (!margine.fasi.empty() && margine.fasi.front().inEquilibrio())
+        testo += tabellaStatica(margine);
+    if (margine.sta() && !margine.relazione)
+        testo += traduttore("La relazione non ha numeri: il calcolo per fasi non si ferma.") + '\n';
+    return testo + paroleMetodo(margine) + '\n';
+}
+
+}  // namespace korven::batch

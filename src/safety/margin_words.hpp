@@ -1,0 +1,45 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "safety/margin.hpp"
+
+// The numbers of the margin as every output shows them, translated.
+
+namespace korven::safety {
+
+/// "2.98", "> 10", "2.72 *" where the slope of the ground is the limit (`notaPendenza`), "-" for
+/// none. A factor below 1 is never rounded up to it.
+[[nodiscard]] std::string testoRiduzione(const Riduzione& riduzione);
+
+/// Whole per cent, "-" for none.
+[[nodiscard]] std::string testoQuota(const std::optional<double>& quota);
+
+/// "7.6-8.2, 8.6", depths in m; "-" for none.
+[[nodiscard]] std::string testoTratti(const std::vector<equilibrium::Tratto>& tratti);
+
+/// What happens at the factor: "ruota attorno alla profondità di 4.2 m, il piede verso lo scavo",
+/// that the slope of the ground is its limit, or that nothing happens up to the largest.
+/// @param paratia  length of the wall [m]
+[[nodiscard]] std::string parole(const Riduzione& riduzione, double paratia);
+
+/// "Lunghezza minima: 12.61 m; la paratia è lunga 16 m", or why there is none.
+[[nodiscard]] std::string paroleLunghezza(const Margine& margine);
+
+/// "Errore di maglia (50 segmenti contro 200): momento 2.9 %, taglio 2.1 %, ..."; empty where a
+/// stage does not stand.
+[[nodiscard]] std::string paroleMaglia(const Margine& margine);
+
+/// The stage by which the wall is judged: its factor and what happens there, or why it does not
+/// stand.
+[[nodiscard]] std::string paroleDecisiva(const Margine& margine);
+
+/// By which of the two ways the numbers came.
+[[nodiscard]] std::string paroleMetodo(const Margine& margine);
+
+/// The footnote of factors with a "*"; empty if there is none.
+[[nodiscard]] std::string notaPendenza(const Margine& margine);
+
+}  // namespace korven::safety

@@ -1,0 +1,112 @@
+#include "safety/margin_words.hpp"
+
+#include <gtest/gtest.h>
+
+namespace korven::safety {
+namespace {
+
+using equilibrium::EsitoFase;
+
+Margine dueFasi() {
+    Margine m;
+    m.nSeg = 50;
+    m.paratia = 12;
+    m.fasi.resize(2);
+    for (int k = 1; k <= 2; ++k) {
+        m.fasi[static_cast<std::size_t>(k - 1)].fase = k;
+        m.fasi[static_cast<std::size_t>(k - 1)].esito = EsitoFase::equilibrio;
+    }
+    m.fasi[0].riduzione.F = 2.5;
+    m.fasi[1].riduzione.F = 1.64;
+    m.fasi[1].riduzione.moto = equilibrium::Meccanismo{false, 6.12, 1, 0};
+    return m;
+}
+
+TEST(TestoRiduzione, HasTwoDecimalsAndNeverCallsAMechanismOne) {
+    EXPECT_EQ(testoRiduzione({.F = 2.9803}), "2.98");
+    EXPECT_EQ(testoRiduzione({.F = 1.63995}), "1.64");
+    EXPECT_EQ(testoRiduzione({.F = 1.0}), "1.00");
+    EXPECT_EQ(testoRiduzione({.F = 0.9991}), "0.99");
+    EXPECT_EQ(testoRiduzione({.F = 0.974}), "0.97");
+}
+
+TEST(TestoRiduzione, SaysWhatLiesOutsideTheRange) {
+    EXPECT_EQ(testoRiduzione({.F = {}, .oltre = true}), "> 10");
+    EXPECT_EQ(testoRiduzione({}), "-");
+    EXPECT_EQ(testoRiduzione({.F = 2.716, .limitePendio = true}), "2.72 *");
+}
+
+TEST(TestoQuota, IsWholePerCent) {
+    EXPECT_EQ(testoQuota(0.7457), "75");
+    EXPECT_EQ(testoQuota(std::nullopt), "-");
+}
+
+TEST(TestoTratti, NamesDepthsToTheCentimetre) {
+    EXPECT_EQ(testoTratti({{7.6, 8.2}, {8.6, 8.6}}), "7.6-8.2, 8.6");
+    EXPECT_EQ(testoTratti({{3.2399999999999998, 9}}), "3.24-9");
+    EXPECT_EQ(testoTratti({}), "-");
+}
+
+TEST(ParoleRiduzione, TellTheMovementOrWhyThereIsNone) {
+    EXPECT_EQ(parole(Riduzione{.F = 1.6, .moto = equilibrium::Meccanismo{true, 0, 1, 0}}, 12),
+              "trasla verso lo scavo");
+    EXPECT_EQ(parole(Riduzione{.F = {}, .oltre = true}, 12), "nessun meccanismo fino a F = 10");
+    EXPECT_EQ(parole(Riduzione{.F = 2.7, .limitePendio = true}, 12),
+              "oltre F l'angolo di attrito ridotto è minore della pendenza del terreno");
+    EXPECT_EQ(parole(Riduzione{}, 12), "-");
+}
+
+TEST(ParoleLunghezza, SayHowShortTheWallMayBe) {
+    Margine m = dueFasi();
+    m.lunghezza = {EsitoLunghezza::trovata, 9.37};
+    EXPECT_EQ(paroleLunghezza(m), "Lunghezza minima: 9.37 m; la paratia è lunga 12 m");
+    m.lunghezza = {EsitoLunghezza::sempre, 6.5};
+    EXPECT_EQ(paroleLunghezza(m),
+              "Lunghezza minima: 6.5 m; la paratia sta anche senza infissione sotto lo scavo più "
+              "profondo");
+    m.lunghezza = {EsitoLunghezza::mai, {}};
+    EXPECT_EQ(paroleLunghezza(m), "Lunghezza minima: nessuna fino a 36 m");
+    m.lunghezza = {EsitoLunghezza::vincolata, {}};
+    EXPECT_EQ(paroleLunghezza(m), "Lunghezza minima: nessuna, il piede è vincolato");
+}
+
+TEST(ParoleMaglia, TellTheSharesThatThereAre) {
+    Margine m = dueFasi();
+    EXPECT_EQ(
+        paroleMaglia(m),
+        "Errore di maglia (50 segmenti contro 200): con una maglia più fine una fase non sta");
+    m.maglia = ErroreMaglia{};
+    m.maglia->momento.quota = 0.0287;
+    m.maglia->spostamento.quota = 0.01;
+    EXPECT_EQ(paroleMaglia(m),
+              "Errore di maglia (50 segmenti contro 200): momento 2.9 %, spostamento 1.0 %");
+    m.fasi[1].esito = EsitoFase::meccanismo;
+    EXPECT_EQ(paroleMaglia(m), "");
+}
+
+TEST(ParoleDecisiva, NameTheSmallestFactorOrTheStageThatFalls) {
+    Margine m = dueFasi();
+    EXPECT_EQ(paroleDecisiva(m),
+              "F più piccolo: 1.64, fase 2: ruota attorno alla profondità di 6.12 m, il piede "
+              "verso lo scavo");
+    m.fasi[0].riduzione = m.fasi[1].riduzione = {.F = {}, .oltre = true};
+    EXPECT_EQ(paroleDecisiva(m), "F più piccolo: > 10");
+    m.fasi[1].esito = EsitoFase::meccanismo;
+    m.fasi[1].perche = Diagnosi{.causa = Causa::meccanismo,
+                                .fase = 2,
+                                .paratia = 12,
+                                .moto = equilibrium::Meccanismo{true, 0, 1, 1.2}};
+    EXPECT_EQ(paroleDecisiva(m),
+              "la paratia è un meccanismo nella fase 2: trasla verso lo scavo; mancano 12.0 kN");
+}
+
+TEST(NotaPendenza, StandsWhereAFactorHasTheAsterisk) {
+    Margine m = dueFasi();
+    EXPECT_EQ(notaPendenza(m), "");
+    m.fasi[0].riduzione.limitePendio = true;
+    EXPECT_EQ(notaPendenza(m),
+              "* oltre F l'angolo di attrito ridotto è minore della pendenza del terreno");
+}
+
+}  // namespace
+}  // namespace korven::safety
