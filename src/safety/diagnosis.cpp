@@ -55,12 +55,17 @@ std::string_view parola(EsitoFase esito) {
 Diagnosi diagnosi(const project::DatiProgetto& dati, int nSeg,
                   const equilibrium::EquilibrioParete& parete,
                   const equilibrium::FaseEquilibrio& fase) {
-    return diagnosi(dati, nSeg, parete.problema(), fase);
+    Diagnosi d = diagnosiSenzaLunghezza(dati, parete.problema(), fase);
+    if (!d.moto) return d;
+    const LunghezzaMinima minima = lunghezzaMinima(dati, nSeg);
+    if (minima.lunghezza && *minima.lunghezza > dati.lunghezzaParatia)
+        d.lunghezza = minima.lunghezza;
+    return d;
 }
 
-Diagnosi diagnosi(const project::DatiProgetto& dati, int nSeg,
-                  const equilibrium::ProblemaFase& problema,
-                  const equilibrium::FaseEquilibrio& fase) {
+Diagnosi diagnosiSenzaLunghezza(const project::DatiProgetto& dati,
+                                const equilibrium::ProblemaFase& problema,
+                                const equilibrium::FaseEquilibrio& fase) {
     assert(!fase.rifiuto);
     Diagnosi d{.causa = causa(fase.esito),
                .fase = fase.fase,
@@ -68,12 +73,7 @@ Diagnosi diagnosi(const project::DatiProgetto& dati, int nSeg,
                .moto = fase.moto,
                .instabile = fase.instabile,
                .newton = fase.newton};
-    if (d.moto) {
-        d.parti = partiAlLimite(problema, *d.moto);
-        const LunghezzaMinima minima = lunghezzaMinima(dati, nSeg);
-        if (minima.lunghezza && *minima.lunghezza > dati.lunghezzaParatia)
-            d.lunghezza = minima.lunghezza;
-    }
+    if (d.moto) d.parti = partiAlLimite(problema, *d.moto);
     if (d.causa == Causa::oscilla)
         d.spostamento = std::fabs(equilibrium::estremi(fase, problema.h).spostamento.valore);
     return d;

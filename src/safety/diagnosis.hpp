@@ -48,10 +48,10 @@ struct Diagnosi {
 [[nodiscard]] Diagnosi diagnosi(const project::DatiProgetto& dati, int nSeg,
                                 const equilibrium::EquilibrioParete& parete,
                                 const equilibrium::FaseEquilibrio& fase);
-/// The same of a stage of which `problema` is set up.
-[[nodiscard]] Diagnosi diagnosi(const project::DatiProgetto& dati, int nSeg,
-                                const equilibrium::ProblemaFase& problema,
-                                const equilibrium::FaseEquilibrio& fase);
+/// The same of a stage of which `problema` is set up, without the search for a length.
+[[nodiscard]] Diagnosi diagnosiSenzaLunghezza(const project::DatiProgetto& dati,
+                                              const equilibrium::ProblemaFase& problema,
+                                              const equilibrium::FaseEquilibrio& fase);
 
 /// Of a stage of the specified run that found no rest. Follows the wall through all its stages: a
 /// wall that stands in this one and falls in a later one is none that stands.

@@ -50,9 +50,10 @@ FaseRaccontata racconta(const DatiProgetto& dati, int nSeg,
     return r;
 }
 
-// The verdict on a mechanism asks for no displacements; nothing else is known of the stage.
-FaseRaccontata dopo(const DatiProgetto& dati, int nSeg, int k, int caduta) {
-    FaseRaccontata r{.scavo = dati.profFase[k], .dopo = caduta};
+// The verdict on a mechanism asks for no displacements; nothing else is known of the stage. The
+// length that would help is that of the whole wall, found with the stage that fell.
+FaseRaccontata dopo(const DatiProgetto& dati, int nSeg, int k, const FaseRaccontata& caduta) {
+    FaseRaccontata r{.scavo = dati.profFase[k], .dopo = caduta.fase.fase};
     r.fase.fase = k;
     r.fase.esito = EsitoFase::nonDefinito;
     equilibrium::ImpostazioneFasi fasi(dati, nSeg, analysis::suoloStrati(dati));
@@ -62,7 +63,8 @@ FaseRaccontata dopo(const DatiProgetto& dati, int nSeg, int k, int caduta) {
     r.fase.moto = meccanismo(problema);
     if (!r.fase.moto || !std::isfinite(r.fase.moto->mancante)) return r;
     r.fase.esito = EsitoFase::meccanismo;
-    r.perche = diagnosi(dati, nSeg, problema, r.fase);
+    r.perche = diagnosiSenzaLunghezza(dati, problema, r.fase);
+    r.perche->lunghezza = caduta.perche->lunghezza;
     return r;
 }
 
@@ -85,16 +87,14 @@ const FaseRaccontata* EquilibrioRaccontato::caduta() const {
 EquilibrioRaccontato raccontaFasi(const DatiProgetto& dati, int nSeg) {
     equilibrium::EquilibrioParete parete(dati, nSeg);
     EquilibrioRaccontato tutto{.nSeg = nSeg, .h = dati.lunghezzaParatia / nSeg};
-    int caduta = 0;
     for (int k = 1; k <= dati.nFasi; ++k) {
-        if (caduta > 0) {
-            tutto.fasi.push_back(dopo(dati, nSeg, k, caduta));
+        if (const FaseRaccontata* caduta = tutto.caduta()) {
+            tutto.fasi.push_back(dopo(dati, nSeg, k, *caduta));
             continue;
         }
         const FaseRaccontata& r =
             tutto.fasi.emplace_back(racconta(dati, nSeg, parete, parete.calcola(k)));
         if (r.fase.rifiuto) break;
-        if (!r.sta()) caduta = k;
     }
     return tutto;
 }
