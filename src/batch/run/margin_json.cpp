@@ -10,7 +10,6 @@ namespace korven::batch {
 namespace {
 
 using Json = nlohmann::ordered_json;
-using equilibrium::EsitoFase;
 using safety::EsitoLunghezza;
 using safety::Margine;
 using safety::MargineFase;
@@ -114,18 +113,7 @@ const char* esitoLunghezza(EsitoLunghezza esito) {
 }  // namespace
 
 std::string_view parolaEsito(const MargineFase& fase) {
-    if (!fase.esito) return {};
-    switch (*fase.esito) {
-        case EsitoFase::equilibrio:
-            return "equilibrio";
-        case EsitoFase::meccanismo:
-            return "meccanismo";
-        case EsitoFase::nonDefinito:
-            return "non_definito";
-        case EsitoFase::nessunNumero:
-            break;
-    }
-    return "nessun_numero";
+    return fase.esito ? safety::parola(*fase.esito) : std::string_view();
 }
 
 Json jsonMargine(const Margine& margine) {
