@@ -24,7 +24,7 @@ int answer(const std::string& text) {
 }
 
 int refuse(const std::string& why) {
-    std::cerr << why << '\n' << base::traduttore("Per l'aiuto") << ": outdoc --help\n";
+    std::cerr << why << '\n' << base::perAiuto("outdoc") << '\n';
     return wrongUse;
 }
 

@@ -23,6 +23,11 @@ std::string nomi(const Domanda& domanda) {
 
 }  // namespace
 
+std::string perAiuto(std::string_view programma) {
+    return traduttore("Per l'aiuto") + ": " + std::string(programma) + " " +
+           domande.front().nome.mostrato();
+}
+
 std::string_view Domanda::taciuto() const {
     return nome.mostrato() == nome.italiano ? std::string_view{} : nome.italiano;
 }

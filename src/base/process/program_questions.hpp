@@ -30,6 +30,10 @@ inline constexpr std::array<Domanda, 2> domande = {{
     {Richiesta::versione, {}, {"--versione", "--version"}, "mostra la versione"},
 }};
 
+/// What a program says of wrong usage after the reason: how its help is called, in the language in
+/// use: "Per l'aiuto: korven32c --aiuto".
+[[nodiscard]] std::string perAiuto(std::string_view programma);
+
 /// What the helps call the project that a program is given.
 inline constexpr Gemelli argomentoProgetto{"PROGETTO.kvd", "PROJECT.kvd"};
 

@@ -3,6 +3,7 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <iostream>
+#include <map>
 #include <memory>
 #include <utility>
 
@@ -58,10 +59,13 @@ class Lettura {
     bool accetta(const RigaOpzione& riga, const std::string& valore);
     [[nodiscard]] std::string spiegazione(const CLI::ParseError& errore) const;
     [[nodiscard]] std::string argomentiDiTroppo() const;
+    [[nodiscard]] std::string ammessi(const CLI::Option& opzione) const;
+    [[nodiscard]] bool diUnAltroComando(const std::string& argomento) const;
 
     Opzioni& o_;
     const std::vector<RigaComando>& comandi_;
     std::shared_ptr<Aiuto> formato_ = std::make_shared<Aiuto>();
+    std::map<const CLI::Option*, std::string> intervalli_;
     CLI::App app_;
 };
 
@@ -141,6 +145,8 @@ void Lettura::aggiungi(CLI::App& comando, const RigaOpzione& riga) {
     opzione->expected(riga.ripetibile ? CLI::detail::expected_max_vector_size : 1);
     if (riga.ripetibile) opzione->delimiter(',');
     opzione->required(riga.obbligatoria)->default_str(riga.predefinito);
+    if (const auto* conta = std::get_if<Conta>(&riga.azione))
+        intervalli_[opzione] = conta->intervallo();
 }
 
 bool Lettura::accetta(const RigaOpzione& riga, const std::string& valore) {
@@ -174,12 +180,31 @@ const CLI::Option* opzioneDetta(const CLI::App& comando, const std::string& dett
     return trovata;
 }
 
+// What an option takes: a range where it counts, else what the help shows.
+std::string Lettura::ammessi(const CLI::Option& opzione) const {
+    const auto intervallo = intervalli_.find(&opzione);
+    return intervallo == intervalli_.end() ? opzione.get_type_name() : intervallo->second;
+}
+
+bool Lettura::diUnAltroComando(const std::string& argomento) const {
+    const std::string nome = argomento.substr(0, argomento.find('='));
+    return std::any_of(comandi_.begin(), comandi_.end(), [&](const RigaComando& comando) {
+        return std::any_of(comando.opzioni.begin(), comando.opzioni.end(), [&](const auto& riga) {
+            return !riga.perPosto() && riga.nome.comprende(nome);
+        });
+    });
+}
+
 std::string Lettura::argomentiDiTroppo() const {
     const auto prima = app_.remaining(false);
     for (const auto& argomento : prima)
         if (argomento.starts_with('-')) return primaDelComando(argomento);
-    return argomentoSconosciuto(prima.empty() ? app_.get_subcommands().front()->remaining(true)
-                                              : prima);
+    if (!prima.empty()) return argomentoSconosciuto(prima);
+    const CLI::App& comando = *app_.get_subcommands().front();
+    const auto troppi = comando.remaining(true);
+    for (const auto& argomento : troppi)
+        if (diUnAltroComando(argomento)) return opzioneNonSua(comando.get_name(), argomento);
+    return argomentoSconosciuto(troppi);
 }
 
 // The library's own words are English and are not shown.
@@ -194,12 +219,11 @@ std::string Lettura::spiegazione(const CLI::ParseError& errore) const {
     if (codice == CLI::ExitCodes::RequiredError) return mancaArgomento(nome);
     if (codice == CLI::ExitCodes::ArgumentMismatch)
         return valori.size() > 1 ? dataPiuVolte(nome) : mancaValore(nome);
-    return valoreNonAmmesso(nome, valori, perPosto ? "" : opzione->get_type_name());
+    return valoreNonAmmesso(nome, valori, perPosto ? "" : ammessi(*opzione));
 }
 
 EsitoLettura rifiuta(const std::string& perche) {
-    std::cerr << "korven32c: " << perche << '\n'
-              << traduttore("Per l'aiuto") << ": korven32c --help\n";
+    std::cerr << "korven32c: " << perche << '\n' << base::perAiuto("korven32c") << '\n';
     return {std::nullopt, 2};
 }
 

@@ -31,7 +31,7 @@ int linguaAmbiente() {
 }
 
 int linguaInUso(const std::string& sigla) {
-    if (!sigla.empty()) return base::codiceLingua(sigla);
+    if (const int chiesta = base::codiceLingua(sigla); chiesta != 0) return chiesta;
     const std::string scelta = base::fileProgramma("language.cfg");
     return base::esisteFile(scelta) ? linguaScelta(scelta) : linguaAmbiente();
 }

@@ -13,8 +13,8 @@ namespace korven::batch {
 /// else that of language.cfg in the program folder, else that of the environment (the first of
 /// LC_ALL, LC_MESSAGES and LANG that is set), else Italian. The environment asks for nothing: in a
 /// program folder without texts it is passed over.
-/// @param sigla  value of the option, empty without it; one that is no tag leaves Italian, in which
-///               the reading of the options then refuses it
+/// @param sigla  value of the option, empty without it; one that is no tag counts as none: the
+///               reading of the options refuses it in the language so found
 /// @throws base::ErroreFile when texts that were asked for can't be had, or language.cfg is broken
 void scegliLingua(const std::string& sigla);
 

@@ -1,8 +1,15 @@
 #include "batch/options/option_row.hpp"
 
 #include <iterator>
+#include <limits>
 
 namespace korven::batch {
+
+std::string Conta::intervallo() const {
+    return massimo == std::numeric_limits<int>::max()
+               ? ">= " + std::to_string(minimo)
+               : std::to_string(minimo) + "-" + std::to_string(massimo);
+}
 
 std::string RigaOpzione::valoreMostrato() const {
     if (valori.empty()) return valore.mostrato();

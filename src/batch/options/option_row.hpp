@@ -20,6 +20,9 @@ using Leggi = bool (*)(Opzioni&, const std::string& valore);
 struct Conta {
     int minimo, massimo;
     int& (*dove)(Opzioni&);
+
+    /// "20-1200", or ">= 0" without an end.
+    [[nodiscard]] std::string intervallo() const;
 };
 
 /// An option of a command, or an argument by its place, as a row: what it is called, what the help

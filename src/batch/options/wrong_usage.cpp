@@ -40,6 +40,10 @@ std::string argomentoSconosciuto(const std::vector<std::string>& argomenti) {
     return traduttore("argomento sconosciuto") + ":" + uniti(argomenti);
 }
 
+std::string opzioneNonSua(const std::string& comando, const std::string& argomento) {
+    return comando + ": " + traduttore("il comando non ha questa opzione") + ": " + argomento;
+}
+
 std::string primaDelComando(const std::string& opzione) {
     return traduttore("le opzioni stanno dopo il comando") + ": " + opzione;
 }

@@ -20,6 +20,10 @@ namespace korven::batch {
                                            const std::vector<std::string>& valori,
                                            const std::string& ammessi);
 [[nodiscard]] std::string argomentoSconosciuto(const std::vector<std::string>& argomenti);
+/// An option of another command.
+/// @param comando    as shown
+/// @param argomento  as typed, with its value or without
+[[nodiscard]] std::string opzioneNonSua(const std::string& comando, const std::string& argomento);
 /// An option in front of the command, where the program has none but its help and version.
 [[nodiscard]] std::string primaDelComando(const std::string& opzione);
 

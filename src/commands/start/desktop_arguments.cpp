@@ -62,7 +62,7 @@ int rispondi(const ArgomentiDesktop& argomenti) {
     if (!argomenti.sconosciuto.empty()) {
         std::cerr << "korven32: " << base::traduttore("argomento sconosciuto") << ": "
                   << argomenti.sconosciuto << '\n'
-                  << base::traduttore("Per l'aiuto") << ": korven32 --help\n";
+                  << base::perAiuto("korven32") << '\n';
         return usoErrato;
     }
     if (argomenti.richiesta == base::Richiesta::nessuna) return -1;

@@ -49,6 +49,13 @@ TEST_F(LinguaInUso, IsThatOfTheEnvironmentWhereNothingElseNamesOne) {
     EXPECT_TRUE(dice(detto({{"LANG", "en_US.UTF-8"}, {"LC_ALL", "C"}}), ita));
 }
 
+// The refusal of a tag is told in the language that is in use without it.
+TEST_F(LinguaInUso, IsThatOfTheEnvironmentWhereTheOptionNamesNone) {
+    const auto errori = detto({{"LC_ALL", "en_GB.UTF-8"}}, {"--language", "english"});
+    EXPECT_TRUE(dice(errori, "value not allowed: --language english")) << errori;
+    EXPECT_TRUE(dice(errori, "korven32c --help\n")) << errori;
+}
+
 TEST_F(LinguaInUso, IsThatOfTheFileBeforeThatOfTheEnvironmentAndOfTheOptionBeforeBoth) {
     const std::string casa = cartella / "casa";
     const fs::path programma = fs::path(KORVEN_CONSOLE).parent_path();

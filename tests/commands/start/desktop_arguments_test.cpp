@@ -54,7 +54,7 @@ TEST(Rispondi, GoesOnWhereNothingIsAskedAndEndsWithTwoOnAWrongOption) {
     testing::internal::CaptureStderr();
     EXPECT_EQ(rispondi({Richiesta::nessuna, "--inesistente"}), 2);
     EXPECT_EQ(testing::internal::GetCapturedStderr(),
-              "korven32: argomento sconosciuto: --inesistente\nPer l'aiuto: korven32 --help\n");
+              "korven32: argomento sconosciuto: --inesistente\nPer l'aiuto: korven32 --aiuto\n");
     testing::internal::CaptureStdout();
     EXPECT_EQ(rispondi({Richiesta::versione, ""}), 0);
     EXPECT_TRUE(testing::internal::GetCapturedStdout().starts_with("KORVEN 32 "));
