@@ -36,6 +36,8 @@ NumeriFase numeriFase(const DatiRelazione& dati, int s) {
     NumeriFase numeri;
     momenti(dati, s, numeri);
     const AzioniFase& azioni = dati.azioni[static_cast<std::size_t>(s - 1)];
+    numeri.momentoPiede = dati.fasi[static_cast<std::size_t>(s - 1)].momentoNodo[dati.nNodi];
+    numeri.taglioPiede = azioni.taglioNodo[dati.nNodi];
     numeri.taglio = {azioni.estremi.vMin, azioni.estremi.zMin, s};
     perGrandezza({azioni.estremi.vMax, azioni.estremi.zMax, s}, numeri.taglio);
     for (int j = 1; j <= azioni.nTiranti; ++j) numeri.tiri.push_back(tiro(dati, s, j));

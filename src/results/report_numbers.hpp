@@ -27,6 +27,8 @@ struct NumeriFase {
     NumeroRelazione momentoMassimo;   ///< signed [t m]
     NumeroRelazione momentoMinimo;    ///< signed [t m]
     NumeroRelazione taglio;           ///< larger in size of the stage's extremes [t]
+    double momentoPiede = 0;          ///< of the last node [t m]
+    double taglioPiede = 0;           ///< of the last node [t]
     std::vector<TiroRelazione> tiri;  ///< of the anchors in place, element 0 is anchor 1
 
     /// The moment that is larger in size.

@@ -93,6 +93,22 @@ void controlloSpostamento(const DatiProgetto& dati, const safety::Margine& margi
          numeroMostrato(1 / (pericolo ? spostamentoPericoloso : spostamentoDaVedere), 0)});
 }
 
+double quotaPiedeDi(const MargineFase& fase) {
+    return fase.piede.spostamento / std::fabs(fase.estremi.spostamento.valore);
+}
+
+void controlloMotoPiede(const DatiProgetto& dati, const safety::Margine& margine,
+                        ElencoOsservazioni& elenco) {
+    const MargineFase* fase = peggiore(margine, [](const MargineFase& f) {
+        const bool detto = f.piede.spostamento > spostamentoPiede && quotaPiedeDi(f) > quotaPiede;
+        return detto ? std::optional(f.piede.spostamento) : std::nullopt;
+    });
+    if (!fase) return;
+    elenco.aggiungi("piede-verso-lo-scavo", scavo(dati, fase->fase),
+                    {numeroMostrato(fase->piede.spostamento, 1, unita::spostamentoFine),
+                     numeroMostrato(quotaPiedeDi(*fase), 0, unita::percento)});
+}
+
 }  // namespace
 
 void controlloMargine(const DatiProgetto& dati, const safety::Margine& margine,
@@ -100,6 +116,7 @@ void controlloMargine(const DatiProgetto& dati, const safety::Margine& margine,
     controlloRiduzione(dati, margine, elenco);
     controlloPassiva(dati, margine, elenco);
     controlloSpostamento(dati, margine, elenco);
+    controlloMotoPiede(dati, margine, elenco);
 }
 
 }  // namespace korven::review

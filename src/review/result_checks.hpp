@@ -17,8 +17,24 @@ namespace korven::review {
 void controlloEquilibrio(const project::DatiProgetto& dati, const safety::Margine& margine,
                          const analysis::FineCorsa& fine, ElencoOsservazioni& elenco);
 
-/// Strength reduction, passive side and displacements: the worst stage of each.
+/// Strength reduction, passive side, displacements and toe: the worst stage of each.
 void controlloMargine(const project::DatiProgetto& dati, const safety::Margine& margine,
                       ElencoOsservazioni& elenco);
+
+/// The forces of the anchors in the report, against the true ones.
+void controlloTiri(const project::DatiProgetto& dati, const safety::Margine& margine,
+                   ElencoOsservazioni& elenco);
+
+/// Levels that the nodes move, where the mesh is too coarse for its envelopes.
+void controlloMaglia(const project::DatiProgetto& dati, const safety::Margine& margine,
+                     ElencoOsservazioni& elenco);
+
+/// Moments and shears of the report, against the statics of the same wall.
+void controlloStatica(const project::DatiProgetto& dati, const safety::Margine& margine,
+                      ElencoOsservazioni& elenco);
+
+/// A fixed toe: what the report shows there, and how far it gives.
+void controlloIncastro(const project::DatiProgetto& dati, const safety::Margine& margine,
+                       ElencoOsservazioni& elenco);
 
 }  // namespace korven::review

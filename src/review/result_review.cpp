@@ -68,6 +68,10 @@ Osservazioni esaminaRisultati(const DatiProgetto& scritti, int nSeg) {
     ElencoOsservazioni elenco;
     controlloEquilibrio(dati, margine, corsa.comeFinita(), elenco);
     controlloMargine(dati, margine, elenco);
+    controlloTiri(dati, margine, elenco);
+    controlloStatica(dati, margine, elenco);
+    controlloIncastro(dati, margine, elenco);
+    controlloMaglia(dati, margine, elenco);
     return elenco.ordinate();
 }
 

@@ -27,6 +27,7 @@ MargineFase fase(const DatiProgetto& dati, int nSeg, int k, EquilibrioParete& pa
         return m;
     }
     m.passiva = usoPassiva(problema, f, m.scavo);
+    m.piede = motoPiede(problema, parete.spostamenti());
     m.estremi = equilibrium::estremi(f, problema.h);
     m.confronto = statica(f, problema.h);
     equilibrium::aggiungi(f, problema.h, diTutte);

@@ -12,6 +12,7 @@
 #include "safety/shortest_wall.hpp"
 #include "safety/statics_beside_report.hpp"
 #include "safety/strength_reduction.hpp"
+#include "safety/toe_movement.hpp"
 
 namespace korven::safety {
 
@@ -25,7 +26,8 @@ struct MargineFase {
     std::optional<Diagnosi> perche;                 ///< of all others that do not stand
     /// Of a stage with or without equilibrium: below 1 it is what the wall is short of.
     Riduzione riduzione;
-    UsoPassiva passiva;            ///< of a stage in equilibrium, as all below
+    UsoPassiva passiva;  ///< of a stage in equilibrium, as all below
+    MotoPiede piede;
     equilibrium::Estremi estremi;  ///< displacements, and the statics of the nodes
     ConfrontoFase confronto;
 

@@ -53,9 +53,15 @@ std::optional<double> Confronto::scarto() const {
 
 ConfrontoFase statica(const equilibrium::FaseEquilibrio& fase, double h) {
     const equilibrium::Estremi e = equilibrium::estremi(fase, h);
+    const auto alPiede = [&](const std::vector<double>& valori) {
+        const auto ultimo = static_cast<double>(valori.size() - 1);
+        return Confronto{{valori.back(), ultimo * h, fase.fase}, std::nullopt};
+    };
     ConfrontoFase confronto{.fase = fase.fase,
                             .momento = {e.momento(), std::nullopt},
                             .taglio = {e.taglio, std::nullopt},
+                            .momentoPiede = alPiede(fase.momento),
+                            .taglioPiede = alPiede(fase.taglio),
                             .tiri = {}};
     for (const double tiro : fase.tiri)
         confronto.tiri.push_back({static_cast<int>(confronto.tiri.size()) + 1, tiro, std::nullopt});
@@ -65,6 +71,9 @@ ConfrontoFase statica(const equilibrium::FaseEquilibrio& fase, double h) {
 void affianca(const results::NumeriFase& relazione, ConfrontoFase& confronto) {
     confronto.momento.relazione = relazione.momento();
     confronto.taglio.relazione = relazione.taglio;
+    const double z = confronto.momentoPiede.statica.z;
+    confronto.momentoPiede.relazione = {relazione.momentoPiede, z, confronto.fase};
+    confronto.taglioPiede.relazione = {relazione.taglioPiede, z, confronto.fase};
     for (std::size_t j = 0; j < confronto.tiri.size(); ++j)
         confronto.tiri[j].relazione = relazione.tiri.at(j);
 }

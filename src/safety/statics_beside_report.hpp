@@ -45,7 +45,8 @@ struct ConfrontoTiro {
 /// One stage both ways.
 struct ConfrontoFase {
     int fase = 0;
-    Confronto momento, taglio;  ///< larger in size [t m, t]
+    Confronto momento, taglio;            ///< larger in size [t m, t]
+    Confronto momentoPiede, taglioPiede;  ///< of the last node
     std::vector<ConfrontoTiro> tiri;
 };
 

@@ -128,6 +128,24 @@ TEST(ControlloMargine, SaysNothingOfDisplacementsBesideALittleExcavation) {
     EXPECT_EQ(conSpostamento(1, 0.1).size(), 1u);
 }
 
+Righe conPiede(double piede, double massimo) {
+    Margine m = margineSano(unaFase);
+    m.fasi[0].piede.spostamento = piede;
+    m.fasi[0].estremi.spostamento = {massimo, 0, 1};
+    return righe(osservate(unaFase, m));
+}
+
+TEST(ControlloMargine, TellsAToeThatGivesWay) {
+    EXPECT_EQ(
+        conPiede(0.006, 0.02),
+        Righe{"[da vedere] piede-verso-lo-scavo: fase 1: Prof. [m] = 4: il piede si sposta di "
+              "6.0 mm verso lo scavo, il 30 % dello spostamento massimo: il terreno davanti "
+              "lo trattiene poco, controllare l'infissione"});
+    EXPECT_EQ(conPiede(0.005, 0.02), Righe{});
+    EXPECT_EQ(conPiede(0.006, 0.03), Righe{});
+    EXPECT_EQ(conPiede(-0.006, -0.02), Righe{});
+}
+
 TEST(ControlloMargine, PassesOverStagesWithoutEquilibrium) {
     Margine m = margineSano(unaFase);
     m.fasi[0].esito = equilibrium::EsitoFase::meccanismo;

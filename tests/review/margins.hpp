@@ -32,6 +32,14 @@ inline safety::Margine margineSano(const project::DatiProgetto& dati) {
     return m;
 }
 
+/// A force of the next anchor of stage k [t]: in truth, and as the report's shear counts it.
+inline void conTiro(safety::Margine& m, int k, double statica, double relazione,
+                    bool nelTaglio = true) {
+    auto& tiri = m.fasi[static_cast<std::size_t>(k) - 1].confronto.tiri;
+    tiri.push_back(
+        {static_cast<int>(tiri.size()) + 1, statica, results::TiroRelazione{relazione, nelTaglio}});
+}
+
 /// Lines with code and weight in front, as "[pericolo] meccanismo: ...".
 inline std::vector<std::string> righe(const Osservazioni& osservazioni) {
     std::vector<std::string> testo;

@@ -10,7 +10,7 @@ using test::dice;
 using Console = test::BancoConsole;
 
 TEST_F(Console, WritesOneLineAStageOnTheErrorOutputWhenItIsNoTerminal) {
-    const auto esito = esegui("calcola");
+    const auto esito = console({"calcola", progetto, "--nseg", "50"});
     std::istringstream flusso(esito.errori);
     std::vector<std::string> righe;
     for (std::string riga; std::getline(flusso, riga);) righe.push_back(riga);
