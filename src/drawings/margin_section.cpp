@@ -24,7 +24,7 @@ using project::DatiProgetto;
 constexpr double altezza = 0.22;       // of all texts
 constexpr double sporgenza = 1;        // of the moved wall, at most
 constexpr double massimaSalita = 3;    // of the ground
-constexpr double larghezzaNomi = 2.3;  // of the names of the excavations
+constexpr double larghezzaNomi = 2.7;  // of the names of the excavations
 constexpr double lunghezzaTirante = 2, cadutaTirante = 0.5;
 
 std::string metri(double z) { return base::testoDecimali(z, 2) + " m"; }
@@ -43,7 +43,7 @@ class Muro {
         : dati_(dati),
           x1_(x1),
           x2_(x2),
-          xMuro_(x1 + 0.48 * (x2 - x1)),
+          xMuro_(x1 + 0.44 * (x2 - x1)),
           sale_(std::clamp((xMuro_ - x1) * std::tan(dati.inclinazioneMonte * analysis::pi / 180),
                            0.0, massimaSalita)),
           yTesta_(y2 - sale_ - 3 * altezza),
@@ -95,7 +95,7 @@ class Muro {
     }
 
     void acque() const {
-        acqua(dati_.faldaMonte, x1_, x1_ + 1.4);
+        acqua(dati_.faldaMonte, x1_, x1_ + 1);
         if (dati_.nFasi > 0) acqua(dati_.faldaFase[dati_.nFasi], xMuro_ + 0.5, xMuro_ + 1.1);
     }
 
@@ -131,8 +131,10 @@ class Muro {
             const double yNome = std::min(y(z), libera);
             plot::linea(xMuro_, y(z), x2_ - larghezzaNomi - 0.4, y(z));
             plot::plotMuovi(x2_ - larghezzaNomi, yNome, plot::pennaGiu);
-            plot::testoDa(x2_ - larghezzaNomi + 0.08, yNome - altezza / 2.6, altezza,
-                          traduttore("fase") + " " + quota.first + ": " + metri(z));
+            const std::string nome = traduttore("fase") + " " + quota.first + ": " + metri(z);
+            const double stretta = larghezzaNomi / plot::larghezzaTesto(altezza, nome);
+            plot::testoDa(x2_ - larghezzaNomi + 0.08, yNome - altezza / 2.6,
+                          altezza * std::min(1.0, stretta), nome);
             libera = yNome - 1.4 * altezza;
         }
     }

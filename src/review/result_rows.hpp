@@ -16,15 +16,15 @@ inline constexpr VoceOsservazione vociRisultati[] = {
     {"equilibrio-non-definito", Peso::pericolo, "sicurezza", ""},
     {"nessun-numero", Peso::pericolo, "sicurezza", ""},
 
-    {"riduzione-bassa", Peso::daVedere, "sicurezza",
+    {"riduzione-bassa", Peso::daVedere, "margine",
      "riduzione di resistenza %1, sotto %2; oltre, %3: controllare infissione, tiranti e carichi"},
-    {"riduzione-insufficiente", Peso::pericolo, "sicurezza",
+    {"riduzione-insufficiente", Peso::pericolo, "margine",
      "riduzione di resistenza %1, sotto %2; oltre, %3: allungare la paratia, aggiungere un tirante "
      "o ridurre scavo e carichi"},
-    {"passiva-molto-usata", Peso::daVedere, "sicurezza",
+    {"passiva-molto-usata", Peso::daVedere, "margine",
      "la spinta passiva davanti alla paratia è usata al %1 %, oltre il %2 %%3: controllare "
      "l'infissione"},
-    {"passiva-esaurita", Peso::pericolo, "sicurezza",
+    {"passiva-esaurita", Peso::pericolo, "margine",
      "la spinta passiva davanti alla paratia è usata al %1 %, oltre il %2 %%3: allungare la "
      "paratia o ridurre scavo e carichi"},
     {"spostamento-grande", Peso::daVedere, "sicurezza",

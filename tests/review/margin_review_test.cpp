@@ -48,7 +48,7 @@ TEST(ControlloMargine, NamesTheFieldsOfTheStageAndTheLength) {
     const Osservazioni uno = osservate(unaFase, m);
     ASSERT_EQ(uno.size(), 1u);
     EXPECT_EQ(uno[0].campi, (std::vector<std::string>{"profFase[1]", "lunghezzaParatia"}));
-    EXPECT_EQ(uno[0].guida, "sicurezza");
+    EXPECT_EQ(uno[0].guida, "margine");
 }
 
 // Without a movement it is the friction of the ground above that ends, or a formula.
