@@ -50,12 +50,13 @@ Voce voce(Causa causa) {
 }  // namespace
 
 void controlloEquilibrio(const DatiProgetto& dati, const safety::Margine& margine,
-                         const analysis::FineCorsa& fine, ElencoOsservazioni& elenco) {
+                         ElencoOsservazioni& elenco) {
     // A soil without a value is told of what is typed.
     if (const safety::MargineFase* fase = margine.caduta(); fase && fase->perche)
         elenco.conParole(voce(fase->perche->causa), {{}, campi(dati, *fase->perche)},
                          safety::frase(*fase->perche));
     if (!margine.sta()) return;
+    const analysis::FineCorsa& fine = margine.corsa;
     if (fine.modo != ModoFine::singolare && fine.modo != ModoFine::oltreLimite) return;
     const auto& fase = margine.fasi.at(static_cast<std::size_t>(fine.fase - 1));
     const Diagnosi d{.causa = Causa::oscilla,

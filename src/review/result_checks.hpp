@@ -13,9 +13,8 @@ namespace korven::review {
 [[nodiscard]] Soggetto scavo(const project::DatiProgetto& dati, int fase);
 
 /// Stages without equilibrium, and those that only the iteration does not find.
-/// @param fine  of the run that the report comes from
 void controlloEquilibrio(const project::DatiProgetto& dati, const safety::Margine& margine,
-                         const analysis::FineCorsa& fine, ElencoOsservazioni& elenco);
+                         ElencoOsservazioni& elenco);
 
 /// Strength reduction, passive side, displacements and toe: the worst stage of each.
 void controlloMargine(const project::DatiProgetto& dati, const safety::Margine& margine,

@@ -29,24 +29,17 @@ bool calcolabile(const DatiProgetto& dati, int nSeg) {
 // no wall comes near that finds its rest in some ten of them a stage.
 constexpr double massimoLavoro = 3e10;
 
-// Sees how the specified run ends, and ends one that takes too long.
+// Ends a run that takes too long: of that it is not known whether it would come to rest.
 class SeguiCorsa : public analysis::OsservatoreCorsa {
  public:
     explicit SeguiCorsa(int nSeg) : perIterazione_(8.0 * (nSeg + 1) * (nSeg + 1) * (nSeg + 1)) {}
 
     void iterazione(const analysis::StatoIterazione&) override { lavoro_ += perIterazione_; }
     [[nodiscard]] bool fermata() override { return lavoro_ > massimoLavoro; }
-    // Of those that are stopped here it is not known whether they would come to rest.
-    void caduta(const analysis::FaseCalcolata& fase) override {
-        fine_ = analysis::fineCorsa(fase, !fermata());
-    }
-
-    [[nodiscard]] const analysis::FineCorsa& comeFinita() const { return fine_; }
 
  private:
     double perIterazione_;
     double lavoro_ = 0;
-    analysis::FineCorsa fine_;
 };
 
 }  // namespace
@@ -64,9 +57,12 @@ Osservazioni esaminaRisultati(const DatiProgetto& scritti, int nSeg) {
         dati.rigidezzaEJ = structure::rigidezzaOfferta(dati.sezione).value_or(0);
     if (!calcolabile(dati, nSeg)) return {};
     SeguiCorsa corsa(nSeg);
-    const safety::Margine margine = safety::margine(dati, nSeg, corsa);
+    return esaminaRisultati(dati, safety::margine(dati, nSeg, corsa));
+}
+
+Osservazioni esaminaRisultati(const DatiProgetto& dati, const safety::Margine& margine) {
     ElencoOsservazioni elenco;
-    controlloEquilibrio(dati, margine, corsa.comeFinita(), elenco);
+    controlloEquilibrio(dati, margine, elenco);
     controlloMargine(dati, margine, elenco);
     controlloTiri(dati, margine, elenco);
     controlloStatica(dati, margine, elenco);

@@ -2,6 +2,7 @@
 
 #include "project/project_data.hpp"
 #include "review/remark.hpp"
+#include "safety/margin.hpp"
 
 namespace korven::review {
 
@@ -15,5 +16,10 @@ namespace korven::review {
 /// @param dati  as it is typed; a stiffness of 0 is taken from the section
 /// @param nSeg  segments of the wall; nothing is told unless a run could take them
 [[nodiscard]] Osservazioni esaminaRisultati(const project::DatiProgetto& dati, int nSeg);
+
+/// The same for whoever has computed the margin already.
+/// @param dati  of the margin, with the bending stiffness of its run
+[[nodiscard]] Osservazioni esaminaRisultati(const project::DatiProgetto& dati,
+                                            const safety::Margine& margine);
 
 }  // namespace korven::review

@@ -1,6 +1,7 @@
 #include "safety/margin.hpp"
 
 #include <algorithm>
+#include <utility>
 
 namespace korven::safety {
 
@@ -86,7 +87,11 @@ Margine margine(const DatiProgetto& dati, int nSeg, analysis::OsservatoreCorsa& 
     m.taglio.statica = estremi.taglio;
     m.lunghezza = lunghezzaMinima(dati, nSeg);
     if (m.sta()) m.maglia = erroreMaglia(dati, nSeg, estremi);
-    if (puoAvereRelazione(m)) m.relazione = numeriDellaRelazione(dati, nSeg, osservatore);
+    if (puoAvereRelazione(m)) {
+        RelazioneInMemoria relazione = relazioneInMemoria(dati, nSeg, osservatore);
+        m.relazione = std::move(relazione.numeri);
+        m.corsa = relazione.fine;
+    }
     affiancaRelazione(m);
     return m;
 }

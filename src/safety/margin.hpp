@@ -44,6 +44,8 @@ struct Margine {
     /// The largest of all stages, both ways: the report's where the specified run comes to rest.
     Confronto momento, taglio;
     std::optional<results::NumeriRelazione> relazione;
+    /// How the specified run ended in memory; of a mechanism it is not begun.
+    analysis::FineCorsa corsa;
 
     /// True if all stages are in equilibrium.
     [[nodiscard]] bool sta() const { return fasi.empty() || fasi.back().inEquilibrio(); }

@@ -23,6 +23,8 @@ class FinoAlLimite : public analysis::OsservatoreCorsa {
     void fine(const analysis::FaseCalcolata& fase) override { altro_.fine(fase); }
     void caduta(const analysis::FaseCalcolata& fase) override { altro_.caduta(fase); }
 
+    [[nodiscard]] bool oltre() const { return oltre_; }
+
  private:
     analysis::OsservatoreCorsa& altro_;
     bool oltre_ = false;
@@ -30,19 +32,24 @@ class FinoAlLimite : public analysis::OsservatoreCorsa {
 
 }  // namespace
 
-std::optional<results::NumeriRelazione> numeriDellaRelazione(
-    const project::DatiProgetto& dati, int nSeg, analysis::OsservatoreCorsa& osservatore) {
+RelazioneInMemoria relazioneInMemoria(const project::DatiProgetto& dati, int nSeg,
+                                      analysis::OsservatoreCorsa& osservatore) {
     FinoAlLimite seguito(osservatore);
     const analysis::EsitoCorsa corsa = analysis::calcolaFasi(dati, nSeg, seguito);
-    if (!corsa.finita()) return std::nullopt;
+    RelazioneInMemoria relazione;
+    if (!corsa.finita()) {
+        relazione.fine = analysis::fineCorsa(corsa.fasi.back(), seguito.oltre());
+        return relazione;
+    }
     try {
         // The section's resistances are not asked for.
-        return results::numeriRelazione(results::risultatiInMemoria(
+        relazione.numeri = results::numeriRelazione(results::risultatiInMemoria(
             dati, nSeg, corsa,
             {0, 0, corsa.mMaxTotale, corsa.mMinTotale, structure::fsAzioniSezione}));
     } catch (const base::ErroreValore&) {
-        return std::nullopt;
+        relazione.fine.modo = analysis::ModoFine::nonMostrabile;
     }
+    return relazione;
 }
 
 std::optional<double> Confronto::scarto() const {

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "analysis/run_observer.hpp"
+#include "analysis/watch/run_end.hpp"
 #include "equilibrium/extremes.hpp"
 #include "results/report_numbers.hpp"
 
@@ -16,14 +17,19 @@ namespace korven::safety {
 /// Solves of one stage after which the specified run counts as one that does not come to rest.
 inline constexpr int massimeIterazioni = 200;
 
-/// The numbers that the report of this project would show, from the specified run in memory; no
-/// file is written or read.
+/// The specified run in memory.
+struct RelazioneInMemoria {
+    /// Nothing if a stage does not come to rest, or the numbers are none.
+    std::optional<results::NumeriRelazione> numeri;
+    analysis::FineCorsa fine;  ///< how it ended; by default it was not begun
+};
+
+/// The numbers that the report of this project would show; no file is written or read.
 /// @param dati         with the bending stiffness of the run
 /// @param osservatore  follows the run, and may stop it
-/// @return nothing if a stage does not come to rest, or the numbers are none
 /// @pre no input check fails
-[[nodiscard]] std::optional<results::NumeriRelazione> numeriDellaRelazione(
-    const project::DatiProgetto& dati, int nSeg, analysis::OsservatoreCorsa& osservatore);
+[[nodiscard]] RelazioneInMemoria relazioneInMemoria(const project::DatiProgetto& dati, int nSeg,
+                                                    analysis::OsservatoreCorsa& osservatore);
 
 /// A largest number both ways.
 struct Confronto {

@@ -15,9 +15,10 @@ using safety::Margine;
 
 const DatiProgetto dueFasi = paratia({{.scavo = 2}, {.scavo = 4}});
 
-Osservazioni osservate(const Margine& margine, const FineCorsa& corsa = {}) {
+Osservazioni osservate(Margine margine, const FineCorsa& corsa = {}) {
+    margine.corsa = corsa;
     ElencoOsservazioni elenco;
-    controlloEquilibrio(dueFasi, margine, corsa, elenco);
+    controlloEquilibrio(dueFasi, margine, elenco);
     return elenco.ordinate();
 }
 

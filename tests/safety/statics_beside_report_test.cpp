@@ -22,7 +22,7 @@ DatiProgetto muro(const std::string& nome) {
 
 std::vector<ConfrontoFase> confronti(const DatiProgetto& dati, int nSeg = 50) {
     analysis::OsservatoreCorsa nessuno;
-    const auto relazione = numeriDellaRelazione(dati, nSeg, nessuno);
+    const auto relazione = relazioneInMemoria(dati, nSeg, nessuno).numeri;
     EXPECT_TRUE(relazione);
     std::vector<ConfrontoFase> tutti;
     for (const auto& fase : equilibrium::calcolaEquilibrio(dati, nSeg)) {
@@ -58,18 +58,25 @@ TEST(Affianca, ShowsThatTheReportKnowsNothingOfTheForceOfAVeryStiffProp) {
     EXPECT_NEAR(std::remainder(tiro.relazione.value().valore, 10), 0, 1e-6);
 }
 
-TEST(NumeriDellaRelazione, AreNothingForAWallThatDoesNotComeToRest) {
+TEST(RelazioneInMemoria, HasNoNumbersOfAWallThatDoesNotComeToRest) {
     analysis::OsservatoreCorsa nessuno;
-    EXPECT_FALSE(numeriDellaRelazione(muro("oscilla_1"), 50, nessuno));
-    EXPECT_FALSE(numeriDellaRelazione(muro("singolare_1"), 50, nessuno));
+    const auto oscilla = relazioneInMemoria(muro("oscilla_1"), 50, nessuno);
+    EXPECT_FALSE(oscilla.numeri);
+    EXPECT_EQ(oscilla.fine.modo, analysis::ModoFine::oltreLimite);
+    const auto singolare = relazioneInMemoria(muro("singolare_1"), 50, nessuno);
+    EXPECT_FALSE(singolare.numeri);
+    EXPECT_EQ(singolare.fine.modo, analysis::ModoFine::singolare);
+    EXPECT_GT(singolare.fine.fase, 0);
 }
 
-TEST(NumeriDellaRelazione, AreNothingWhenTheObserverStopsTheRun) {
+TEST(RelazioneInMemoria, HasNoNumbersWhenTheObserverStopsTheRun) {
     class Ferma : public analysis::OsservatoreCorsa {
      public:
         [[nodiscard]] bool fermata() override { return true; }
     } ferma;
-    EXPECT_FALSE(numeriDellaRelazione(muro("banchina"), 50, ferma));
+    const auto fermata = relazioneInMemoria(muro("banchina"), 50, ferma);
+    EXPECT_FALSE(fermata.numeri);
+    EXPECT_EQ(fermata.fine.modo, analysis::ModoFine::fermata);
 }
 
 TEST(Statica, StandsAloneWithoutAReport) {

@@ -47,7 +47,8 @@ void preparaProgetto(const Opzioni& opzioni, Esito& esito) {
 review::Osservazioni aggiungiRisultati(const project::DatiProgetto& dati, Esito& esito) {
     const auto nSeg = analysis::leggiNSeg(analysis::vincoli(dati).incastroPiede);
     if (!nSeg || esito.causa == safety::Causa::rifiutato || Interruzioni::chiesta() != 0) return {};
-    auto trovate = review::esaminaRisultati(dati, *nSeg);
+    auto trovate = esito.margine ? review::esaminaRisultati(dati, *esito.margine)
+                                 : review::esaminaRisultati(dati, *nSeg);
     auto& tutte = esito.osservazioni;
     tutte.insert(tutte.end(), trovate.begin(), trovate.end());
     perPeso(tutte);
