@@ -8,6 +8,7 @@
 #include "analysis/input_checks.hpp"
 #include "project/field_table.hpp"
 #include "safety/margin.hpp"
+#include "safety/told_stages.hpp"
 #include "support/random_walls.hpp"
 
 namespace korven::safety {
@@ -74,8 +75,13 @@ void controlla(const Confronto& confronto) {
 }
 
 void percorri(const DatiProgetto& dati, int nSeg) {
-    for (const auto& fase : equilibrium::calcolaEquilibrio(dati, nSeg))
-        if (fase.esito == EsitoFase::equilibrio) controllaNumeri(fase);
+    for (const FaseRaccontata& r : raccontaFasi(dati, nSeg).fasi) {
+        if (r.sta()) controllaNumeri(r.fase);
+        const std::string frase = r.frase();
+        ASSERT_EQ(frase.empty(), r.sta() || r.fase.rifiuto.has_value());
+        for (const char* nessuno : {"nan", " inf", "-inf"})
+            ASSERT_EQ(frase.find(nessuno), std::string::npos) << frase;
+    }
     analysis::OsservatoreCorsa nessuno;
     const Margine m = margine(dati, nSeg, nessuno);
     for (const MargineFase& fase : m.fasi) {
