@@ -58,4 +58,47 @@ inline constexpr double erroreMagliaDetto = 0.05;
 /// far as any drawing of the wall shows.
 inline constexpr double cedimentoIncastro = 0.01;
 
+/// What a number of the section may be without a word.
+struct Intervallo {
+    double minimo;
+    double massimo;
+};
+
+/// Strengths [N/mm2]. Sources: EN 1992-1-1, table 3.1, concrete C12 to C90; common bar steels from
+/// FeB 22 k to 700; EN 10248-1, sheet piles S240 GP to S430 GP, with S235 and S500 about them (none
+/// looked up).
+inline constexpr Intervallo fckUsuale{12, 90};
+inline constexpr Intervallo fykUsuale{220, 700};
+inline constexpr Intervallo fykPalancole{235, 500};
+
+/// Modulus of steel [N/mm2], and how many times larger or smaller than usual a modulus may be.
+/// Reason: no steel is off by that much; halving the modulus of concrete for cracks is a choice
+/// that is worth a word.
+inline constexpr double moduloUsualeAcciaio = 210000;
+inline constexpr double scartoModulo = 1.5;
+
+/// Lengths that can be built [cm], wide enough for the largest and the smallest walls. Reason: what
+/// lies beyond was typed in another unit. Bars of 5 to 60 mm, a cover of 10 to 200 mm, walls of 20
+/// cm to 3 m, piles of 5 cm to 4 m, sheets of 3 to 50 mm.
+inline constexpr Intervallo copriferroCostruibile{1, 20};
+inline constexpr Intervallo ferroCostruibile{0.5, 6};
+inline constexpr Intervallo staffaCostruibile{0.4, 3};
+inline constexpr Intervallo interasseFerriCostruibile{3, 100};
+inline constexpr Intervallo diaframmaCostruibile{20, 300};
+inline constexpr Intervallo paloCostruibile{5, 400};
+inline constexpr Intervallo lamieraCostruibile{0.3, 5};
+inline constexpr Intervallo ondaCostruibile{2, 100};
+
+/// Room between two bars [cm]. Source: EN 1992-1-1, 8.2, 20 mm (not looked up).
+inline constexpr double luceTraFerri = 2;
+
+/// Bars of a pile. Source: EN 1536, four longitudinal bars (not looked up).
+inline constexpr int ferriPerPalo = 4;
+/// Few piles have so many bars, but any report of ten bars or more shows such a number.
+inline constexpr double ferriDaRelazione = 100;
+
+/// Bending resistance below which a section carries nothing [kN m per metre]. Reason: a wall of 1 m
+/// of height already takes more.
+inline constexpr double resistenzaNulla = 1;
+
 }  // namespace korven::review

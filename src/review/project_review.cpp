@@ -44,7 +44,9 @@ void controlloIngressi(const DatiProgetto& dati, ElencoOsservazioni& elenco) {
     for (const auto motivo : motivi) elenco.conParole("dati-mancanti", traduttore(motivo));
     const auto nSeg = analysis::leggiNSeg(analysis::vincoli(dati).incastroPiede);
     if (!nSeg) elenco.conParole("segmenti-non-ammessi", traduttore(analysis::motivoNSeg()));
-    if (motivi.empty() && nSeg) controlloSuolo(dati, *nSeg, elenco);
+    if (!motivi.empty() || !nSeg) return;
+    controlloSuolo(dati, *nSeg, elenco);
+    controlloNodiTiranti(dati, *nSeg, elenco);
 }
 
 }  // namespace
@@ -57,7 +59,9 @@ Osservazioni esaminaProgetto(const DatiProgetto& dati) {
     controlloTerreno(dati, elenco);
     controlloAcqua(dati, elenco);
     controlloTensioni(dati, elenco);
+    controlloMetodi(dati, elenco);
     controlloTiranti(dati, elenco);
+    controlloPosa(dati, elenco);
     controlloFasi(dati, elenco);
     controlloSezione(dati, elenco);
     controlloTitoli(dati, elenco);

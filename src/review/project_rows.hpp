@@ -14,6 +14,8 @@ inline constexpr VoceOsservazione vociProgetto[] = {
      "valore troppo grande per essere mostrato"},
     {"codice-non-previsto", Peso::pericolo, "parametri", ""},
     {"valore-negativo", Peso::daVedere, "schede", "valore negativo"},
+    {"coesione-negativa", Peso::pericolo, "stratigrafia", "valore negativo"},
+    {"rigidezza-negativa", Peso::pericolo, "tiranti", "valore negativo"},
 
     {"strato-in-disordine", Peso::pericolo, "stratigrafia",
      "finisce più in alto dello strato precedente"},
@@ -27,7 +29,7 @@ inline constexpr VoceOsservazione vociProgetto[] = {
     {"peso-mancante", Peso::pericolo, "stratigrafia", "peso di volume mancante"},
     {"peso-in-kilonewton", Peso::pericolo, "stratigrafia",
      "sembra un peso di volume in kN/m³: il file lo tiene in t/m³, dieci volte più piccolo"},
-    {"peso-saturo-minore", Peso::daVedere, "stratigrafia",
+    {"peso-saturo-minore", Peso::pericolo, "stratigrafia",
      "il peso di volume saturo è minore di quello naturale"},
     {"angolo-non-ammissibile", Peso::pericolo, "stratigrafia", "l'angolo non è ammissibile"},
     {"angolo-minore-del-pendio", Peso::pericolo, "stratigrafia",
@@ -65,24 +67,42 @@ inline constexpr VoceOsservazione vociProgetto[] = {
     {"terreno-senza-rigidezza", Peso::pericolo, "ks_valori", "il terreno non ha rigidezza"},
     {"modulo-negativo", Peso::pericolo, "ks_valori",
      "il terreno spinge invece di reagire, come accade con una tensione efficace negativa"},
+    {"modulo-lineare-negativo", Peso::pericolo, "ks",
+     "oltre l'ultimo strato la legge lineare di ks prosegue e scende sotto zero: da qui in giù il "
+     "terreno spinge invece di reagire; portare l'ultimo strato fino al piede della paratia"},
+    {"bowles-senza-tensione", Peso::daVedere, "ks",
+     "ks secondo Bowles perde a valle il termine della tensione verticale: scegliere anche ks "
+     "uguale al lato monte, o le spinte ricalcolate"},
+    {"relazione-con-coulomb", Peso::pericolo, "parametri",
+     "la relazione dirà Coulomb, il comando seguente ricalcola con Coulomb e il file si riapre con "
+     "Coulomb: scegliere di nuovo il metodo prima di ogni comando"},
+    {"valore-senza-effetto", Peso::daVedere, "parametri", "non ha effetto: %1"},
 
     {"troppi-tiranti", Peso::impedisce, "fasi", "più tiranti di quanti ne tiene la tabella (20)"},
     {"tiranti-non-definiti", Peso::pericolo, "fasi",
      "più tiranti di quelli definiti: gli altri non agiscono, definirli nella tabella dei tiranti "
      "o correggere il numero"},
-    {"tiranti-negativi", Peso::daVedere, "fasi", "valore negativo"},
+    {"tiranti-negativi", Peso::pericolo, "fasi", "valore negativo"},
     {"tiranti-non-interi", Peso::daVedere, "fasi", "il numero di tiranti non è intero"},
     {"tiranti-in-meno", Peso::daVedere, "fasi", "i tiranti sono meno che nella fase precedente"},
     {"tirante-sotto-il-piede", Peso::pericolo, "tiranti", "è più profondo della paratia"},
     {"tirante-sopra-la-testa", Peso::pericolo, "tiranti", "è sopra la testa della paratia"},
     {"tirante-in-disordine", Peso::daVedere, "tiranti", "è più in alto del precedente"},
-    {"tirante-inerte", Peso::daVedere, "tiranti",
+    {"tirante-mai-in-opera", Peso::daVedere, "fasi", "nessuna fase lo mette in opera: non agisce"},
+    {"tirante-sotto-lo-scavo", Peso::daVedere, "fasi",
+     "sta sotto il fondo dello scavo della fase che lo mette in opera: controllare profondità e "
+     "fase"},
+    {"tirante-spostato", Peso::daVedere, "mesh",
+     "agisce sul nodo più vicino, a %1 m: con più segmenti il nodo si avvicina"},
+    {"tirante-sul-vincolo", Peso::daVedere, "tiranti",
+     "sta sul nodo del vincolo: la sua rigidezza non conta"},
+    {"tirante-inerte", Peso::pericolo, "tiranti",
      "senza rigidezza né pretensione il tirante non agisce"},
     {"tipo-tirante", Peso::pericolo, "tiranti",
      "tipo non previsto: il calcolo lo fa agire solo a trazione, la relazione lo dice a trazione e "
      "compressione"},
 
-    {"scavo-sopra-la-testa", Peso::daVedere, "fasi", "lo scavo è sopra la testa della paratia"},
+    {"scavo-sopra-la-testa", Peso::pericolo, "fasi", "lo scavo è sopra la testa della paratia"},
     {"scavo-che-risale", Peso::daVedere, "fasi",
      "lo scavo è meno profondo che nella fase precedente"},
     {"scavo-al-piede", Peso::pericolo, "fasi",

@@ -100,7 +100,17 @@ void controlloSuolo(const project::DatiProgetto& scritti, int nSeg, ElencoOsserv
 /// The fields whose shown value is larger than the stored one and no number any more.
 void controlloMostrati(const project::DatiProgetto& dati, ElencoOsservazioni& elenco);
 
+/// What the methods chosen do not take up of what is typed, and what becomes of the methods.
+void controlloMetodi(const project::DatiProgetto& dati, ElencoOsservazioni& elenco);
+
 void controlloTiranti(const project::DatiProgetto& dati, ElencoOsservazioni& elenco);
+
+/// The anchors and the stages that put them in place.
+void controlloPosa(const project::DatiProgetto& dati, ElencoOsservazioni& elenco);
+
+/// The nodes that the anchors get. @pre the wall has a length
+void controlloNodiTiranti(const project::DatiProgetto& dati, int nSeg, ElencoOsservazioni& elenco);
+
 void controlloFasi(const project::DatiProgetto& dati, ElencoOsservazioni& elenco);
 
 /// The heading lines, of which report and drawings make something else than is typed.
@@ -111,5 +121,11 @@ void controlloDescrizioni(const project::DatiProgetto& dati, ElencoOsservazioni&
 
 /// The stiffness and the structural section.
 void controlloSezione(const project::DatiProgetto& dati, ElencoOsservazioni& elenco);
+
+/// Strengths, moduli and lengths of the section that look typed in another unit or can't be built.
+void controlloValoriSezione(const project::Sezione& sezione, ElencoOsservazioni& elenco);
+
+/// An axial force beyond the section, and a section that carries nothing.
+void controlloResistenza(const project::DatiProgetto& dati, ElencoOsservazioni& elenco);
 
 }  // namespace korven::review

@@ -1,6 +1,8 @@
 #include "analysis/input_checks.hpp"
 #include "analysis/run_arrays.hpp"
+#include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
+#include "review/limits.hpp"
 #include "review/remark_list.hpp"
 #include "structure/offered_stiffness.hpp"
 #include "structure/section_millimetres.hpp"
@@ -130,9 +132,6 @@ void controlloTipo(const Sezione& s, ElencoOsservazioni& elenco) {
         elenco.aggiungi("sezione-incompleta");
 }
 
-// Few piles have so many bars, but any report of ten bars or more shows such a number.
-constexpr double ferriDaRelazione = 100;
-
 // The editor stores a tenth of the number that is typed, so 12 typed for twelve bars becomes 1.2.
 void controlloFerri(const DatiProgetto& dati, ElencoOsservazioni& elenco) {
     const Sezione& s = dati.sezione;
@@ -146,6 +145,13 @@ void controlloFerri(const DatiProgetto& dati, ElencoOsservazioni& elenco) {
         elenco.conValore("ferri-da-relazione", ferri, s.armNumLong);
     else if (!intero(s.armNumLong))
         elenco.conValore("ferri-non-interi", ferri, s.armNumLong);
+    else
+        elenco.aggiungi(
+            s.armNumLong < ferriPerPalo ? Voce("ferri-troppo-pochi") : "ferri-scritti-e-calcolati",
+            ferri,
+            {base::testoNumero(
+                 project::mostrato(project::campo(&Sezione::armNumLong), s.armNumLong)),
+             base::testoNumero(s.armNumLong)});
 }
 
 }  // namespace
@@ -154,7 +160,9 @@ void controlloSezione(const DatiProgetto& dati, ElencoOsservazioni& elenco) {
     controlloRigidezza(dati, elenco);
     controlloTipo(dati.sezione, elenco);
     controlloMisure(dati.sezione, elenco);
+    controlloValoriSezione(dati.sezione, elenco);
     controlloFerri(dati, elenco);
+    controlloResistenza(dati, elenco);
     controlloTaglio(dati, elenco);
 }
 

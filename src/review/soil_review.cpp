@@ -10,6 +10,7 @@
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
 #include "project/codes.hpp"
+#include "project/shown_number.hpp"
 #include "review/remark_list.hpp"
 
 namespace korven::review {
@@ -64,7 +65,7 @@ const ControlloStrato controlliStrato[] = {
                 d.phiStrato[j] + d.inclinazioneMonte >= 90;
      },
      "polo-passivo"},
-    {&DatiProgetto::coesione, [](Dati d, int j) { return d.coesione[j] < 0; }, "valore-negativo"},
+    {&DatiProgetto::coesione, [](Dati d, int j) { return d.coesione[j] < 0; }, "coesione-negativa"},
     {&DatiProgetto::ksStrato,
      [](Dati d, int j) { return d.metodoKs >= MetodoKs::costante && d.ksStrato[j] == 0; },
      "ks-mancante"},
@@ -106,15 +107,34 @@ std::string luogo(int fase, double profondita) {
            testoNumero(profondita) + " m: ";
 }
 
+std::string luogo(int fase, double profondita, int strato, project::Lato lato) {
+    return traduttore("fase") + " " + std::to_string(fase) + ", " + traduttore("profondità") + " " +
+           testoNumero(profondita) + " m, " +
+           nomeRiga(project::campo(&DatiProgetto::ksStrato), strato) + ", " +
+           traduttore(lato == project::Lato::monte ? "lato monte" : "lato valle") + ": ";
+}
+
 // A spring that pushes on instead of holding back; a run computes with it.
-bool moduloNegativo(const analysis::StatoSuolo& suolo, int fase, int nNodi, double passoNodi,
-                    ElencoOsservazioni& elenco) {
+bool moduloNegativo(const DatiProgetto& dati, const analysis::StatoSuolo& suolo, int fase,
+                    int nNodi, double passoNodi, ElencoOsservazioni& elenco) {
     for (int i = 1; i <= nNodi; ++i) {
-        const double peggiore = std::max(suolo.Ehm[i], suolo.Ehv[i]);
-        if (!(peggiore > 0)) continue;
-        elenco.aggiungi("modulo-negativo",
-                        dopo(luogo(fase, analysis::zNodo(i, passoNodi)),
-                             campoConValore(&DatiProgetto::ksStrato, -peggiore)));
+        const bool monte = suolo.Ehm[i] > 0;
+        if (!monte && !(suolo.Ehv[i] > 0)) continue;
+        const double z = analysis::zNodo(i, passoNodi);
+        const int strato = analysis::tensioneMonte(dati, z).strato;
+        const bool prolungata =
+            dati.metodoKs == MetodoKs::lineare && z > dati.profStrato[dati.nStrati];
+        const project::Campo& ks = project::campo(&DatiProgetto::ksStrato);
+        Soggetto soggetto;
+        soggetto.testo =
+            luogo(fase, z, strato, monte ? project::Lato::monte : project::Lato::valle) +
+            nomeCampo(ks) + " = " +
+            project::numeroMostrato(-(monte ? suolo.Ehm[i] : suolo.Ehv[i]), 1, ks.unita);
+        soggetto.campi = riga(prolungata ? project::Membro(&DatiProgetto::profStrato)
+                                         : project::Membro(&DatiProgetto::gammaSat),
+                              strato)
+                             .campi;
+        elenco.aggiungi(prolungata ? Voce("modulo-lineare-negativo") : "modulo-negativo", soggetto);
         return true;
     }
     return false;
@@ -152,7 +172,7 @@ void controlloSuolo(const DatiProgetto& scritti, int nSeg, ElencoOsservazioni& e
                 luogo(k, rifiuto->profondita) + traduttore(analysis::causa(rifiuto->motivo)));
             return;
         }
-        detto = detto || moduloNegativo(*suolo, k, nSeg + 1, passoNodi, elenco);
+        detto = detto || moduloNegativo(dati, *suolo, k, nSeg + 1, passoNodi, elenco);
     }
 }
 

@@ -39,7 +39,7 @@ void controlloTiranti(const DatiProgetto& dati, ElencoOsservazioni& elenco) {
         avvisaSe(prof < 0, &DatiProgetto::profTirante, "tirante-sopra-la-testa");
         avvisaSe(j > 1 && prof < dati.profTirante[j - 1], &DatiProgetto::profTirante,
                  "tirante-in-disordine");
-        avvisaSe(rig < 0, &DatiProgetto::rigTirante, "valore-negativo");
+        avvisaSe(rig < 0, &DatiProgetto::rigTirante, "rigidezza-negativa");
         avvisaSe(rig == 0 && pret == 0, &DatiProgetto::rigTirante, "tirante-inerte");
         avvisaSe(pret < 0, &DatiProgetto::pretTirante, "valore-negativo");
         if (dati.tipoTirante[j] != TipoTirante::soloTrazione &&

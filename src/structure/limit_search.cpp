@@ -8,8 +8,6 @@ namespace korven::structure {
 
 namespace {
 
-constexpr double accorciamentoLimite = -0.0035;
-constexpr double allungamentoLimite = 0.01;
 constexpr double campoCurvatura = 0.02;  // chi H at the start of the search
 constexpr int dimezzamenti = 14;         // 2^-14 is the first below the tolerance of 1 / 10000
 

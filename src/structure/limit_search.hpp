@@ -17,6 +17,9 @@ struct PuntiAllungamento {
     double monte;  ///< y near the uphill face
 };
 
+inline constexpr double accorciamentoLimite = -0.0035;  ///< strain at a face
+inline constexpr double allungamentoLimite = 0.01;      ///< strain where the steel is
+
 /// True when a strain limit is exceeded: a shortening of 0.0035 at either face, y = 0 and y = H, or
 /// an elongation of 0.01 at either of the given points. A limit exactly reached is not exceeded.
 [[nodiscard]] bool limiteSuperato(double eps0, double chi, double H,

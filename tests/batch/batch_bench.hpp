@@ -44,6 +44,13 @@ class UscitaTrattenuta {
     std::streambuf* prima_;
 };
 
+/// The sample wall with its anchor on a node of ten segments, of which no remark is made.
+inline project::DatiProgetto progettoSulNodo() {
+    auto d = progettoSemplice();
+    d.profTirante[1] = 1.2;
+    return d;
+}
+
 /// A folder with a project, and korven32c beside it.
 class BancoConsole : public ::testing::Test {
  protected:

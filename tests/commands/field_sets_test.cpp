@@ -203,8 +203,7 @@ TEST(CampiDelProgetto, AllAreNamedByARemarkButThoseNamedHereWithTheirReason) {
         {"named by its row", {"tipoTirante", "descrStrato", "titoli"}},
         {"a remark is on the section as a whole",
          {"sezione.tipoDiaframma", "sezione.tipoPali", "sezione.tipoPalancola",
-          "sezione.tipoPaliArmati", "sezione.fck", "sezione.fyk", "sezione.modEcls",
-          "sezione.modEacciaio"}},
+          "sezione.tipoPaliArmati"}},
     };
     Nomi attesi;
     for (const auto& [perche, nomi] : altri) attesi.insert(nomi.begin(), nomi.end());

@@ -15,7 +15,7 @@ namespace korven::review {
 
 using project::DatiProgetto;
 
-inline Osservazioni osservazioni(const DatiProgetto& dati, const char* nSeg = "20") {
+inline Osservazioni osservazioni(const DatiProgetto& dati, const char* nSeg = "50") {
     analysis::contenutoNSeg = nSeg;
     auto trovate = esaminaProgetto(dati);
     analysis::contenutoNSeg.reset();
@@ -23,7 +23,7 @@ inline Osservazioni osservazioni(const DatiProgetto& dati, const char* nSeg = "2
 }
 
 // The lines of a review, "! " in front of what prevents a run.
-inline std::vector<std::string> righe(const DatiProgetto& dati, const char* nSeg = "20") {
+inline std::vector<std::string> righe(const DatiProgetto& dati, const char* nSeg = "50") {
     std::vector<std::string> testo;
     for (const auto& r : osservazioni(dati, nSeg))
         testo.push_back((r.impedisce() ? "! " : "") + r.testo);

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <set>
+
 #include "project/codes.hpp"
 #include "review/remark_list.hpp"
 #include "structure/offered_stiffness.hpp"
@@ -15,6 +17,11 @@ using project::DatiProgetto;
 using project::Sezione;
 using project::VincoloPiede;
 
+// What other files and tests of their own are about.
+const std::set<std::string_view> altrove = {
+    "ferri-scritti-e-calcolati", "ferri-troppo-pochi",      "misura-non-costruibile", "ferri-fitti",
+    "pali-sovrapposti",          "sezione-senza-resistenza"};
+
 std::vector<std::string> righe(const Sezione& sezione, double rigidezzaEJ) {
     DatiProgetto d = test::progettoSemplice();
     d.sezione = sezione;
@@ -22,7 +29,8 @@ std::vector<std::string> righe(const Sezione& sezione, double rigidezzaEJ) {
     ElencoOsservazioni elenco;
     controlloSezione(d, elenco);
     std::vector<std::string> testo;
-    for (const auto& r : elenco.ordinate()) testo.push_back((r.impedisce() ? "! " : "") + r.testo);
+    for (const auto& r : elenco.ordinate())
+        if (!altrove.contains(r.codice)) testo.push_back((r.impedisce() ? "! " : "") + r.testo);
     return testo;
 }
 
@@ -115,6 +123,27 @@ TEST(ControlloSezione, TellsABarCountThatTheTenfoldOfTheEditorMadeTooSmall) {
     EXPECT_EQ(righe(s), niente);
 }
 
+TEST(ControlloSezione, TellsTheBarsAsTheyAreShownAndAsTheyAreCounted) {
+    const auto ferri = [](double numero) {
+        DatiProgetto d = test::progettoSemplice();
+        d.sezione = structure::paliArmati();
+        d.sezione.armNumLong = numero;
+        ElencoOsservazioni elenco;
+        controlloSezione(d, elenco);
+        for (const auto& r : elenco.ordinate())
+            if (r.codice.starts_with("ferri")) return std::string(r.codice) + ": " + r.testo;
+        return std::string();
+    };
+    EXPECT_EQ(ferri(12),
+              "ferri-scritti-e-calcolati: numero di ferri: scheda e relazione ne mostrano 120, il "
+              "calcolo ne conta 12");
+    EXPECT_EQ(ferri(3),
+              "ferri-troppo-pochi: numero di ferri: scheda e relazione ne mostrano 30, il calcolo "
+              "ne conta 3, troppo pochi per un palo: scrivere nella scheda dieci volte il numero "
+              "dei ferri");
+    EXPECT_TRUE(ferri(4).starts_with("ferri-scritti-e-calcolati"));
+}
+
 TEST(ControlloSezione, TellsABarCountThatLooksCopiedFromTheReport) {
     auto s = structure::paliArmati();
     s.armNumLong = 120;  // the report's number for twelve bars
@@ -193,7 +222,7 @@ TEST(ControlloSezione, TellsShearsAtTheEndsThatTheShearCheckTakesAtTheirFaceValu
         controlloSezione(d, elenco);
         Righe testo;
         for (const auto& r : elenco.ordinate())
-            testo.push_back((r.impedisce() ? "! " : "") + r.testo);
+            if (r.codice.starts_with("taglio")) testo.push_back(r.testo);
         return testo;
     };
     EXPECT_EQ(trovate(), niente);  // no stirrups, no check

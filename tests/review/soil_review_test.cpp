@@ -32,13 +32,17 @@ TEST(ControlloTerreno, NamesWhatIsOddAboutLayers) {
          {"strato 1: ks [kN/m³] = 0: modulo ks mancante"}},
         {[](DatiProgetto& d) {
              d.metodoKs = valore(MetodoKs::bowles);
-             d.ksStrato[1] = 0;
+             d.ksStrato[1] = d.ksStrato[2] = 0;
          },
          {}},
-        {[](DatiProgetto& d) { d.metodoKs = valore(MetodoKs::lancellotta); },
+        {[](DatiProgetto& d) {
+             d.metodoKs = valore(MetodoKs::lancellotta);
+             d.ksStrato[1] = d.ksStrato[2] = 0;
+         },
          {"coefficiente m = 0: il terreno non ha rigidezza"}},
         {[](DatiProgetto& d) {
              d.metodoKs = valore(MetodoKs::lancellotta);
+             d.ksStrato[1] = d.ksStrato[2] = 0;
              d.coeffM = 100;
          },
          {}},
@@ -158,6 +162,7 @@ TEST(ControlloTerreno, TellsAWallThatReachesBelowTheDeepenedLastLayer) {
     const auto d = [](double fondo) {
         return conModifica([&](DatiProgetto& p) {
             p.lunghezzaParatia = 120;
+            p.profTirante[1] = 2.4;  // on a node
             p.profStrato[2] = fondo;
         });
     };
@@ -178,13 +183,36 @@ TEST(ControlloSuolo, TellsASpringThatPushesOnOnceAndLetsTheRunGoOn) {
         p.gammaN[1] = 0.5;
         p.gammaSat[1] = 0.9;
     });
-    const auto trovate = righe(d);
+    const auto trovate = righeDi(d, {"modulo-negativo"});
     ASSERT_EQ(trovate.size(), 1u);
-    EXPECT_TRUE(trovate[0].starts_with("fase 1, profondità 0 m: ks [kN/m³] = -"));
+    EXPECT_TRUE(
+        trovate[0].starts_with("fase 1, profondità 0 m, strato 1, lato monte: ks [kN/m³] = -"))
+        << trovate[0];
     EXPECT_TRUE(
         trovate[0].ends_with("il terreno spinge invece di reagire, come accade con una "
                              "tensione efficace negativa"));
     EXPECT_TRUE(calcolabile(esaminaProgetto(d)));
+}
+
+// From 15000 kN/m3 at 4 m to 3000 at 8 m the line falls by 3000 a metre: 0 at 9 m, and at 9.12 m,
+// the next of the nodes 0.24 m apart, -360. On the retained side the layer counts 100 m deeper.
+TEST(ControlloSuolo, TellsALinearLawThatFallsBelowZeroUnderTheLastLayer) {
+    const auto d = [](double fondo) {
+        return conModifica([&](DatiProgetto& p) {
+            p.metodoKs = valore(MetodoKs::lineare);
+            p.profStrato[2] = fondo;
+            p.ksStrato[1] = 1500;
+            p.ksStrato[2] = 300;
+        });
+    };
+    EXPECT_EQ(righeDi(d(8), {"modulo-negativo", "modulo-lineare-negativo"}),
+              std::vector<std::string>{
+                  "fase 1, profondità 9.12 m, strato 2, lato valle: ks [kN/m³] = -360.0: oltre "
+                  "l'ultimo strato la legge lineare di ks prosegue e scende sotto zero: da qui in "
+                  "giù il terreno spinge invece di reagire; portare l'ultimo strato fino al piede "
+                  "della paratia"});
+    EXPECT_EQ(osservazioni(d(8))[0].campi, std::vector<std::string>{"profStrato[2]"});
+    EXPECT_EQ(righe(d(12)), std::vector<std::string>{});
 }
 
 }  // namespace

@@ -12,7 +12,10 @@ TEST(ControlloTiranti, NamesWhatIsOddAboutAnchors) {
          {"tirante 1: Prof. [m] = 12.5: è più profondo della paratia"}},
         {[](DatiProgetto& d) { d.profTirante[1] = -1; },
          {"tirante 1: Prof. [m] = -1: è sopra la testa della paratia"}},
-        {[](DatiProgetto& d) { test::aggiungiTirante(d, 1, 500); },
+        {[](DatiProgetto& d) {
+             test::aggiungiTirante(d, 1, 500);
+             d.tirantiFase[2] = 2;
+         },
          {"tirante 2: Prof. [m] = 1: è più in alto del precedente"}},
         {[](DatiProgetto& d) { d.rigTirante[1] = -500; },
          {"tirante 1: Rigidezza [kN/m] = -5000: valore negativo"}},
@@ -22,8 +25,10 @@ TEST(ControlloTiranti, NamesWhatIsOddAboutAnchors) {
          {"tirante 1: Rigidezza [kN/m] = 0: senza rigidezza né pretensione il tirante non "
           "agisce"}},
         {[](DatiProgetto& d) { d.rigTirante[1] = 0; }, {}},
-        {[](DatiProgetto& d) { d.profTirante[1] = 12; }, {}},
     });
+    EXPECT_TRUE(righeDi(conModifica([](DatiProgetto& d) { d.profTirante[1] = 12; }),
+                        {"tirante-sotto-il-piede"})
+                    .empty());
 }
 
 TEST(ControlloFasi, NamesWhatIsOddAboutTheAnchorsOfAStage) {
@@ -43,7 +48,8 @@ TEST(ControlloFasi, NamesWhatIsOddAboutTheAnchorsOfAStage) {
         {[](DatiProgetto& d) { d.tirantiFase[1] = -1; },
          {"fase 1: Numero tot. tiranti = -1: valore negativo"}},
         {[](DatiProgetto& d) { d.tirantiFase[2] = 0.5; },
-         {"fase 2: Numero tot. tiranti = 0.5: il numero di tiranti non è intero"}},
+         {"tirante 1: Prof. [m] = 1.5: nessuna fase lo mette in opera: non agisce",
+          "fase 2: Numero tot. tiranti = 0.5: il numero di tiranti non è intero"}},
         {[](DatiProgetto& d) {
              d.tirantiFase[1] = 1;
              d.tirantiFase[2] = 0;

@@ -77,37 +77,36 @@ TEST(ControlloTensioni, TellsUndrainedStrengthsThatNothingReads) {
 }
 
 TEST(ControlloTensioni, TellsCohesionAndSlopeThatBellLeavesOut) {
-    const auto bell = [](DatiProgetto& d) {
-        d.metodoSpinte = valore(MetodoSpinte::bell);
-        d.coesione[2] = 0;
+    const auto con = [](MetodoSpinte metodo, double coesione, double pendenza) {
+        return righeDi(conModifica([&](DatiProgetto& d) {
+                           d.metodoSpinte = valore(metodo);
+                           d.coesione[2] = coesione;
+                           d.inclinazioneMonte = pendenza;
+                       }),
+                       {"coesione-con-bell", "pendio-con-bell"});
     };
-    aspetta({{[&](DatiProgetto& d) { bell(d); }, {}},
-             {[&](DatiProgetto& d) {
-                  bell(d);
-                  d.coesione[2] = 0.5;
-              },
-              {"metodo delle spinte = 3, strato 2: Coes. [kN/m²] = 5: con Bell la coesione non "
-               "entra nelle spinte: usare Coulomb o Rankine"}},
-             {[&](DatiProgetto& d) {
-                  bell(d);
-                  d.inclinazioneMonte = 5;
-              },
-              {"metodo delle spinte = 3, Inclinazione del terreno a monte del diaframma [°] = 5: "
-               "con Bell la pendenza non entra nelle spinte attiva e passiva: usare Coulomb o "
-               "Rankine"}},
-             {[](DatiProgetto& d) { d.inclinazioneMonte = 5; }, {}}});
+    EXPECT_EQ(con(MetodoSpinte::bell, 0, 0), Righe{});
+    EXPECT_EQ(con(MetodoSpinte::bell, 0.5, 0),
+              Righe{"metodo delle spinte = 3, strato 2: Coes. [kN/m²] = 5: con Bell la coesione "
+                    "non entra nelle spinte: usare Coulomb o Rankine"});
+    EXPECT_EQ(con(MetodoSpinte::bell, 0, 5),
+              Righe{"metodo delle spinte = 3, Inclinazione del terreno a monte del diaframma [°] = "
+                    "5: con Bell la pendenza non entra nelle spinte attiva e passiva: usare "
+                    "Coulomb o Rankine"});
+    for (const auto altro : {MetodoSpinte::coulomb, MetodoSpinte::rankine})
+        EXPECT_EQ(con(altro, 0.5, 5), Righe{});
 }
 
 // For 30 degrees Coulomb's coefficient passes that at rest at a slope of 14.6: at 15 degrees
 // k0 = 0.5 / 1.2588 = 0.397, ka = 0.75 / (1 + root(0.5 * 0.2588 / 0.9659))^2 = 0.402.
 TEST(ControlloTensioni, TellsASlopeAtWhichTheGroundAtRestIsBelowTheActiveState) {
     const auto pendio = [](double beta, double metodo) {
-        return righe(conModifica([&](DatiProgetto& d) {
-            d.inclinazioneMonte = beta;
-            d.metodoSpinte = metodo;
-            d.coesione[2] = 0;
-            d.phiStrato[2] = 44;
-        }));
+        return righeDi(conModifica([&](DatiProgetto& d) {
+                           d.inclinazioneMonte = beta;
+                           d.metodoSpinte = metodo;
+                           d.phiStrato[2] = 44;
+                       }),
+                       {"k0-sotto-ka"});
     };
     const std::string detto =
         ": coesione a parte, il terreno a monte è in stato attivo già senza spostamenti";

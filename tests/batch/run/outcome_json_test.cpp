@@ -81,7 +81,7 @@ TEST_F(EsitoJson, TellsBrokenInputWithFileAndLine) {
 }
 
 TEST_F(EsitoJson, ListsWhatAReviewFound) {
-    auto d = progettoSemplice();
+    auto d = test::progettoSulNodo();
     d.rigidezzaEJ = 0;
     d.vincoloTesta = 0;
     scrivi(d);

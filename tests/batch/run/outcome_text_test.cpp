@@ -73,10 +73,11 @@ TEST_F(EsitoTesto, TellsASectionCheckThatFailsAndEndsWellAllTheSame) {
 }
 
 TEST_F(EsitoTesto, TellsWhatAReviewFound) {
+    scrivi(test::progettoSulNodo());
     auto esito = esegui("verifica");
     EXPECT_EQ(esito.codice, 0);
     EXPECT_EQ(esito.uscita, "Il progetto può essere calcolato.\n");
-    auto d = progettoSemplice();
+    auto d = test::progettoSulNodo();
     d.rigidezzaEJ = 0;
     d.vincoloTesta = 0;
     scrivi(d);
