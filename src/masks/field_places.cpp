@@ -1,7 +1,6 @@
 #include "masks/field_places.hpp"
 
 #include <algorithm>
-#include <charconv>
 
 #include "masks/edited_fields.hpp"
 #include "masks/edited_section.hpp"
@@ -13,19 +12,6 @@ namespace {
 
 using project::Campo;
 using project::Parte;
-
-struct Nome {
-    std::string_view campo;
-    int riga = 1;
-};
-
-Nome scomposto(std::string_view nome) {
-    const auto parentesi = nome.find('[');
-    if (parentesi == nome.npos) return {nome};
-    Nome fatto{nome.substr(0, parentesi)};
-    std::from_chars(nome.data() + parentesi + 1, nome.data() + nome.size(), fatto.riga);
-    return fatto;
-}
 
 std::optional<NumeroMaschera> mascheraDi(Parte parte) {
     switch (parte) {
@@ -69,11 +55,9 @@ bool tabella(NumeroMaschera maschera) {
 }  // namespace
 
 std::optional<PostoCampo> postoDelCampo(std::string_view nome) {
-    const auto [detto, riga] = scomposto(nome);
-    const auto campi = project::campi();
-    const auto campo =
-        std::find_if(campi.begin(), campi.end(), [&](const Campo& c) { return c.nome == detto; });
-    if (campo == campi.end()) return {};
+    const auto nominato = project::campoNominato(nome);
+    if (!nominato) return {};
+    const auto [campo, riga] = *nominato;
     const auto maschera = mascheraDi(campo->parte);
     if (!maschera) return nellaSezione(*campo);
     // The headings are a column of the project and fields of their form.

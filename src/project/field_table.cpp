@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cassert>
+#include <charconv>
 
 #include "project/codes.hpp"
 
@@ -236,6 +237,17 @@ bool colonna(const Campo& campo) {
 
 std::string nomeStabile(const Campo& campo, int riga) {
     return std::string(campo.nome) + (colonna(campo) ? "[" + std::to_string(riga) + "]" : "");
+}
+
+std::optional<CampoNominato> campoNominato(std::string_view nome) {
+    const auto fine = std::min(nome.find('['), nome.size());
+    const auto campo = std::find_if(std::begin(tabella), std::end(tabella),
+                                    [&](const Campo& c) { return c.nome == nome.substr(0, fine); });
+    if (campo == std::end(tabella)) return {};
+    CampoNominato trovato{campo, 1};
+    if (fine < nome.size())
+        std::from_chars(nome.data() + fine + 1, nome.data() + nome.size(), trovato.riga);
+    return nomeStabile(*campo, trovato.riga) == nome ? std::optional(trovato) : std::nullopt;
 }
 
 double numeroConservato(const DatiProgetto& dati, const Campo& campo, int riga) {

@@ -74,6 +74,15 @@ struct Campo {
 /// The name of a field for programs, with its row if it is one of a table: "gammaN[3]".
 [[nodiscard]] std::string nomeStabile(const Campo& campo, int riga = 1);
 
+/// A field with the row that a stable name says, 1 for one that is no table.
+struct CampoNominato {
+    const Campo* campo;
+    int riga;
+};
+
+/// The other way: the field of a stable name; nothing for a name that is none.
+[[nodiscard]] std::optional<CampoNominato> campoNominato(std::string_view nome);
+
 /// The code that a stored number of the field is; nullptr for one that is none.
 [[nodiscard]] const Codice* codice(const Campo& campo, double conservato);
 

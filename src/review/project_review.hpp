@@ -13,11 +13,14 @@ namespace korven::review {
 /// a slip even though the program computes with it. By weight, else in the order of the data.
 [[nodiscard]] Osservazioni esaminaProgetto(const project::DatiProgetto& dati);
 
-/// The same, and after it what is odd about the lines of the file that the project was read from:
-/// numbers with something after them, a method that reading does not keep, lines too many. By
-/// weight.
+/// What is odd about the lines of the file that a project was read from: numbers with something
+/// after them, a method that reading does not keep, lines too many. By weight.
 /// @param percorso  the file that `dati` was read from
 /// @throws base::ErroreFile if it is no such file any more
+[[nodiscard]] Osservazioni esaminaRighe(const std::string& percorso,
+                                        const project::DatiProgetto& dati);
+
+/// Both in one list, the project first. By weight.
 [[nodiscard]] Osservazioni esaminaFile(const std::string& percorso,
                                        const project::DatiProgetto& dati);
 

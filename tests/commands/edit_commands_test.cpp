@@ -25,6 +25,7 @@ class Edita : public ::testing::Test {
         maschere.leggiMaschere(test::maschereSemplici(cartella));
         forme.maschera = [this](masks::Maschere& tutte) { mostra(tutte); };
         forme.sezione = [this] { ++sezioni; };
+        forme.sezioneDa = [this](std::size_t campo) { campi.push_back(campo); };
         Progetto = test::progettoSemplice();
         project::fileCorrente = "/lavori/muro.kvd";
     }
@@ -34,6 +35,7 @@ class Edita : public ::testing::Test {
     // The form: notes what it was given and hands back what the test says, choices kept.
     void mostra(masks::Maschere& tutte) {
         titoli.push_back(tutte.corrente().titolo);
+        inizi.push_back(tutte.inizio());
         const auto quanti = tutte.valoriCombo().size() + tutte.valoriTesto().size();
         mostrati.clear();
         for (std::size_t i = 1; i <= quanti; ++i)
@@ -53,6 +55,8 @@ class Edita : public ::testing::Test {
     Testi mostrati;
     std::optional<Testi> confermati;
     int sezioni = 0;
+    std::vector<std::size_t> campi;  // at which the section form began
+    std::vector<std::optional<masks::PostoForma>> inizi;
 };
 
 TEST_F(Edita, RefusesEachEditorWithoutAProjectInItsOwnWords) {
@@ -82,6 +86,28 @@ TEST_F(Edita, ShowsTheMaskOfEachEditor) {
     esegui("EditRigidezza");
     EXPECT_EQ(sezioni, 1);
     EXPECT_EQ(titoli.size(), 5u);
+}
+
+TEST_F(Edita, BeginsAtAFieldThatIsAskedForAndNextTimeAtTheFirst) {
+    Programma programma(dialogo, nomi, finestra, avanzamento, maschere, forme);
+    programma.editaDa({masks::NumeroMaschera::strati, {2, 4}});
+    programma.esegui(voceMenu("EditStratigrafia"));
+    EXPECT_EQ(titoli, (Testi{"S", "S"}));
+    EXPECT_EQ(inizi[0], (masks::PostoForma{2, 4}));
+    EXPECT_FALSE(inizi[1]);
+    programma.editaDa({masks::senzaMaschera, {1, 3}});
+    programma.editaDa({masks::senzaMaschera, {1, 0}});
+    EXPECT_EQ(campi, std::vector<std::size_t>{2});
+    EXPECT_EQ(sezioni, 1);
+}
+
+TEST_F(Edita, BeginsNowhereWithoutAProject) {
+    project::fileCorrente.clear();
+    Programma programma(dialogo, nomi, finestra, avanzamento, maschere, forme);
+    programma.editaDa({masks::NumeroMaschera::strati, {2, 4}});
+    programma.editaDa({masks::senzaMaschera, {1, 3}});
+    EXPECT_TRUE(titoli.empty());
+    EXPECT_TRUE(campi.empty());
 }
 
 TEST_F(Edita, LeavesTheProjectAloneWhenTheFormIsLeftWithoutConfirming) {

@@ -29,6 +29,18 @@ TEST_F(ModelloCampiTest, ShowsWhatTheCommandFilledIn) {
     EXPECT_GE(modello.larghezzaCaselle(), 6u);
 }
 
+TEST_F(ModelloCampiTest, BeginsAtAnotherFieldWithoutACheckOfTheFirst) {
+    ModelloCampi altro(maschera, {0, 2}, {"x", "abcd", "1.25"});
+    altro.comincia(2);
+    altro.comincia(4);
+    EXPECT_EQ(altro.attivo(), 4u);
+    altro.comincia(5);  // there is none
+    EXPECT_EQ(altro.attivo(), 4u);
+    maschera.campi[0].soloLettura = true;  // a choice that can't be changed
+    altro.comincia(0);
+    EXPECT_EQ(altro.attivo(), 4u);
+}
+
 TEST_F(ModelloCampiTest, KnowsWhichFieldsTakeANumber) {
     std::vector<bool> numeriche;
     for (std::size_t i = 0; i < modello.campi(); ++i) numeriche.push_back(modello.numerica(i));

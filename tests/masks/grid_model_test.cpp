@@ -37,6 +37,19 @@ TEST_F(ModelloGrigliaTest, ShowsTheRowsItIsGivenTrimmed) {
     EXPECT_EQ(altro.corrente(), (PostoGriglia{1, 1}));
 }
 
+TEST_F(ModelloGrigliaTest, BeginsAtAnotherCellWithoutACheckOfTheFirst) {
+    ModelloGriglia altro(maschera, {"2", "x", "18", "uno", "0", "8", "19", "due", "1"});
+    altro.comincia({2, 3});
+    EXPECT_EQ(altro.corrente(), (PostoGriglia{2, 3}));
+    altro.premi(Tasto::carattere, "t", dialogo);
+    EXPECT_EQ(altro.testo({2, 3}), "t");  // as where the cursor has just arrived
+    altro.comincia({501, 9});
+    EXPECT_EQ(altro.corrente(), (PostoGriglia{500, 4}));
+    altro.comincia({0, -1});
+    EXPECT_EQ(altro.corrente(), (PostoGriglia{1, 1}));
+    EXPECT_TRUE(dialogo.messaggi.empty());
+}
+
 TEST_F(ModelloGrigliaTest, TakesATitleThatFollowsTheRowCount) {
     const ModelloGriglia altro(maschera, {"1|Altro titolo", "3", "18", "", ""});
     EXPECT_EQ(altro.titolo(), "Altro titolo");

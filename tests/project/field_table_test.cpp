@@ -144,6 +144,22 @@ TEST(Codici, AreUnequalToANumberThatIsNoneOfThemAndKeepItsOrder) {
     EXPECT_EQ(valore(TipoTirante::trazioneCompressione), 1);
 }
 
+TEST(CampoNominato, IsTheFieldAndTheRowOfItsStableName) {
+    for (const Campo& campo : campi())
+        for (const int riga : {1, 12}) {
+            const auto trovato = campoNominato(nomeStabile(campo, riga));
+            ASSERT_TRUE(trovato) << campo.nome;
+            EXPECT_EQ(trovato->campo, &campo);
+            EXPECT_EQ(trovato->riga, colonna(campo) ? riga : 1);
+        }
+}
+
+TEST(CampoNominato, IsNoneForAnotherText) {
+    for (const char* nome : {"", "phi", "phiStrato", "phiStrato[", "phiStrato[x]", "phiStrato[2",
+                             "phiStrato[2] ", "rigidezzaEJ[1]", "fck", "titoli[01]"})
+        EXPECT_FALSE(campoNominato(nome)) << nome;
+}
+
 TEST(Unita, MoveTheDecimalPointByThePlacesOfTheirFactor) {
     EXPECT_EQ(posti(unita::metri), 0);
     EXPECT_EQ(posti(unita::momento), 1);

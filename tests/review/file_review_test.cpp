@@ -37,6 +37,17 @@ TEST(EsaminaFile, TellsADecimalCommaWithItsLineItsFieldAndWhatWasRead) {
                                        "conta, il segno decimale è il punto (12000,5)"});
 }
 
+TEST(EsaminaFile, NamesTheFieldOfTheLine) {
+    const test::CartellaProvvisoria cartella;
+    const std::string file = cartella / "muro.kvd";
+    const auto campi = [&](const std::string& vecchio, const std::string& nuovo) {
+        test::metti(file, base::inCp1252(conScambio(vecchio, nuovo)));
+        return esaminaRighe(file, test::progettoSemplice()).at(0).campi;
+    };
+    EXPECT_EQ(campi("12000", "12000,5"), std::vector<std::string>{"rigidezzaEJ"});
+    EXPECT_EQ(campi("34", "34 gradi"), std::vector<std::string>{"phiStrato[2]"});
+}
+
 TEST(EsaminaFile, PutsTheLinesAfterWhatTheProjectItselfShows) {
     const auto trovate = righeFile(conScambio("1.8", "18 kN/m3"));
     ASSERT_EQ(trovate.size(), 2u);
