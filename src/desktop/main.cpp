@@ -30,6 +30,7 @@
 #include "shell/pens/printer_setup.hpp"
 #include "shell/program_printer.hpp"
 #include "shell/qt_text.hpp"
+#include "shell/remarks/live_remarks.hpp"
 #include "shell/report/destinations.hpp"
 #include "shell/run/progress_qt.hpp"
 #include "shell/section/definej.hpp"
@@ -87,6 +88,7 @@ int sessione(shell::Applicazione& applicazione, shell::DialogoQt& dialogo,
     commands::Programma programma(dialogo, nomi, finestra, avanzamento, maschere,
                                   forme(finestra, dialogo, stampante));
     finestra.collega(programma);
+    shell::collegaOsservazioni(finestra, programma.forme());
     QObject::connect(&applicazione, &QGuiApplication::commitDataRequest, &finestra,
                      &shell::Menu1::fineSessione, Qt::DirectConnection);
     finestra.show();
@@ -94,6 +96,7 @@ int sessione(shell::Applicazione& applicazione, shell::DialogoQt& dialogo,
         commands::avvia(argomento, programma.documento(),
                         {.leggiMaschere = [&] { commands::leggiDatiProgramma(maschere); },
                          .saluta = [&] { finestra.esegui(commands::voceMenu("about")); }});
+        finestra.aggiorna();
     });
     return applicazione.gira();
 }

@@ -15,6 +15,7 @@ inline constexpr int voceTempCalc = 30;
 inline constexpr int voceFinestraGuida = 31;
 inline constexpr int voceInformazioni = 32;
 inline constexpr int voceSelezling = 33;
+inline constexpr int voceOsservazioni = 34;
 
 /// The table of help contexts, entries 0 to 200: menu items and masks name an entry, the entry
 /// holds the number under which the help files keep the page. Entry n is page n, so that a page can

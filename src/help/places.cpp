@@ -22,6 +22,7 @@ constexpr Posto posti[] = {
     {"guida", voceFinestraGuida},
     {"INFORMAZIONI", voceInformazioni},
     {"selezling", voceSelezling},
+    {"osservazioni", voceOsservazioni},
     {"DefinEJ", 7},
     {"Form1", 19},
     {"apri", 3},

@@ -16,6 +16,10 @@ std::string_view parola(Peso peso) {
     return {};
 }
 
+std::string_view parolaMostrata(Peso peso) {
+    return peso == Peso::impedisce ? "impedisce il calcolo" : parola(peso);
+}
+
 int quante(const Osservazioni& osservazioni, Peso peso) {
     return static_cast<int>(std::count_if(osservazioni.begin(), osservazioni.end(),
                                           [peso](const auto& o) { return o.peso == peso; }));

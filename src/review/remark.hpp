@@ -24,6 +24,10 @@ using Osservazioni = std::vector<Osservazione>;
 /// The stable word for a weight, in every language the same: "impedisce", "pericolo", "da vedere".
 [[nodiscard]] std::string_view parola(Peso peso);
 
+/// The word for it that people read, an Italian key: "impedisce il calcolo", "pericolo", "da
+/// vedere".
+[[nodiscard]] std::string_view parolaMostrata(Peso peso);
+
 /// How many of a weight there are.
 [[nodiscard]] int quante(const Osservazioni& osservazioni, Peso peso);
 

@@ -18,6 +18,7 @@
 #include "shell/main/informazioni.hpp"
 #include "shell/masks/base1.hpp"
 #include "shell/pens/editacfg.hpp"
+#include "shell/remarks/remarks_window.hpp"
 #include "shell/report/conf_stampa.hpp"
 #include "shell/run/temp_calc.hpp"
 #include "shell/section/definej.hpp"
@@ -25,6 +26,7 @@
 #include "support/desktop_bench.hpp"
 #include "support/dialog_double.hpp"
 #include "support/form_setup.hpp"
+#include "support/sample_remarks.hpp"
 #include "support/small_help.hpp"
 
 namespace korven::shell {
@@ -87,6 +89,8 @@ TEST_P(TastiDiScelta, DifferWithinTheOtherForms) {
     EXPECT_GE(tastiDi(Editacfg(porte, dialogo, nullptr)), 2U);
     EXPECT_EQ(tastiDi(ConfStampa({"Courier New"}, {}, dialogo, nullptr)), 3U);
     EXPECT_EQ(tastiDi(TempCalc(nullptr)), 1U);
+    QWidget principale;
+    EXPECT_EQ(tastiDi(FinestraOsservazioni(principale, test::azioniOsservazioni())), 3U);
     static_cast<void>(tastiDi(Informazioni("File corrente: /MURO", nullptr)));
     static_cast<void>(tastiDi(FinestraGuida(help::leggiGuida("m.hlp", test::guidaPiccola()))));
 }

@@ -20,6 +20,7 @@
 #include "shell/main/menu1.hpp"
 #include "shell/main/selezling.hpp"
 #include "shell/pens/editacfg.hpp"
+#include "shell/remarks/remarks_window.hpp"
 #include "shell/report/conf_stampa.hpp"
 #include "shell/report/form1.hpp"
 #include "shell/run/temp_calc.hpp"
@@ -27,6 +28,7 @@
 #include "support/desktop_bench.hpp"
 #include "support/dialog_double.hpp"
 #include "support/page_record.hpp"
+#include "support/sample_remarks.hpp"
 #include "support/small_help.hpp"
 #include "support/viewer_setup.hpp"
 
@@ -133,6 +135,9 @@ TEST_F(Accessibilita, OfTheWindowsAroundTheProject) {
     controlla(lingue);
     Informazioni informazioni("File corrente: /MURO", nullptr);
     controlla(informazioni);
+    FinestraOsservazioni osservazioni(menu1, test::azioniOsservazioni());
+    osservazioni.mostra(test::osservazioniMiste(), "2 pericoli");
+    controlla(osservazioni);
     TempCalc corsa(nullptr);
     controlla(corsa);
     FinestraGuida guida(help::leggiGuida("m.hlp", test::guidaPiccola()));

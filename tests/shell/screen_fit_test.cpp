@@ -17,6 +17,7 @@
 #include <QToolButton>
 
 #include "help/pages.hpp"
+#include "review/remark_counts.hpp"
 #include "shell/dialogo_qt.hpp"
 #include "shell/forms/elided_label.hpp"
 #include "shell/forms/help_strip.hpp"
@@ -26,12 +27,14 @@
 #include "shell/main/menu1.hpp"
 #include "shell/main/selezling.hpp"
 #include "shell/pens/editacfg.hpp"
+#include "shell/remarks/remarks_window.hpp"
 #include "shell/report/conf_stampa.hpp"
 #include "shell/report/form1.hpp"
 #include "shell/run/temp_calc.hpp"
 #include "support/delivered_program.hpp"
 #include "support/desktop_bench.hpp"
 #include "support/dialog_double.hpp"
+#include "support/sample_remarks.hpp"
 #include "support/viewer_setup.hpp"
 
 namespace korven::shell {
@@ -148,6 +151,9 @@ void controllaTutte(test::ProgrammaConsegnato& programma) {
                                             ConfStampa::DialogoStampante{}, dialogo, nullptr));
     Menu1 menu1;
     controlla(menu1);
+    FinestraOsservazioni osservazioni(menu1, test::azioniOsservazioni());
+    osservazioni.mostra(test::osservazioniMiste(), review::conteggio(test::osservazioniMiste()));
+    controlla(osservazioni);
     Selezling lingue({5, 3, 2, 1, 4, 6});
     controlla(lingue);
     Informazioni informazioni("File corrente: /HOME/ANNA/LAVORI/MURO", nullptr);

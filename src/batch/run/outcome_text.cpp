@@ -74,9 +74,7 @@ std::string tabella(const Esito& esito, bool traccia) {
 }
 
 std::string riga(const review::Osservazione& osservazione) {
-    const auto peso =
-        osservazione.impedisce() ? "impedisce il calcolo" : review::parola(osservazione.peso);
-    return traduttore(peso) + ": " + osservazione.testo;
+    return traduttore(parolaMostrata(osservazione.peso)) + ": " + osservazione.testo;
 }
 
 std::string elenco(const Esito& esito) {

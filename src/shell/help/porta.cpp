@@ -23,6 +23,7 @@ namespace {
 
 constexpr const char* proprietaContesto = "contestoGuida";
 constexpr const char* proprietaCampo = "campoGuida";
+constexpr const char* proprietaPagina = "paginaGuida";
 constexpr const char* proprietaVoceMenu = "voceGuida";
 
 std::string nomeDi(const QWidget& controllo) { return controllo.objectName().toStdString(); }
@@ -70,6 +71,19 @@ void PortaGuida::apri(int contesto, const std::vector<std::string>& ancore) {
     } else {
         finestra_->mostraSommario();
     }
+    mostraFinestra();
+}
+
+void PortaGuida::apriPagina(const std::string& nome) {
+    if (!carica()) return;
+    if (const auto* pagina = help::paginaDiNome(finestra_->guida(), nome))
+        finestra_->mostra(*pagina);
+    else
+        finestra_->mostraSommario();
+    mostraFinestra();
+}
+
+void PortaGuida::mostraFinestra() {
     aggancia();
     if (finestra_->isMinimized()) finestra_->showNormal();
     finestra_->show();
@@ -104,6 +118,10 @@ bool PortaGuida::f1(QWidget& controllo) {
     std::vector<std::string> ancore;
     for (QWidget* w = &controllo; w != nullptr; w = w->parentWidget()) {
         if (help::senzaF1(nomeDi(*w))) return false;
+        if (const auto pagina = w->property(proprietaPagina).toString(); !pagina.isEmpty()) {
+            apriPagina(pagina.toStdString());
+            return true;
+        }
         if (const int voce = voceDi(*w); voce != 0) {
             apri(help::contestoGuida(voce), ancore);
             return true;
@@ -147,6 +165,7 @@ void collegaGuida(commands::FormeProgramma& forme, QWidget& principale) {
     auto* porta = new Porta(principale);
     forme.guida = [porta](int contesto) { porta->apri(contesto); };
     forme.sommario = [porta] { porta->sommario(); };
+    forme.paginaGuida = [porta](const std::string& nome) { porta->apriPagina(nome); };
 }
 
 }  // namespace korven::shell

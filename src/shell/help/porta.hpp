@@ -19,9 +19,10 @@ class FinestraGuida;
 /// file when it is first needed and keeps one window, which is usable beside a modal form.
 ///
 /// F1 in any window opens the page of the place. A window says its entry of the table of help
-/// contexts in the property "contestoGuida" (int), or has its name in help/places.hpp; a control
-/// may say its field in the property "campoGuida" (text or number, as in "@campo" of the help),
-/// else its object name is taken.
+/// contexts in the property "contestoGuida" (int), or has its name in help/places.hpp; one that
+/// shows things of several pages says the page of the current one in "paginaGuida" (text). A
+/// control may say its field in the property "campoGuida" (text or number, as in "@campo" of the
+/// help), else its object name is taken.
 class PortaGuida : public QObject {
  public:
     /// Becomes a child of the main form.
@@ -32,6 +33,8 @@ class PortaGuida : public QObject {
     /// The page of a help context number, at the first of these places that it has; the first page
     /// of the help if there is none. Says in a box when the help file can't be read.
     void apri(int contesto, const std::vector<std::string>& ancore = {});
+    /// The page of a name; the first page of the help if there is none.
+    void apriPagina(const std::string& nome);
     /// The contents.
     void sommario() { apri(0); }
 
@@ -44,6 +47,7 @@ class PortaGuida : public QObject {
  private:
     bool f1(QWidget& controllo);
     bool carica();
+    void mostraFinestra();
     void aggancia();
     void agganciaDopo();
 

@@ -13,6 +13,7 @@
 #include <QShortcut>
 #include <QStatusBar>
 #include <QTimer>
+#include <QToolButton>
 #include <array>
 
 #include "commands/document_names.hpp"
@@ -76,10 +77,12 @@ Menu1::Menu1() {
     stato_->setObjectName("stato");
     stato_->mostra(tradotto("Nessun progetto aperto"));
     statusBar()->addWidget(stato_, 1);
+    osservazioni_ = fareOsservazioni();
+    statusBar()->addPermanentWidget(osservazioni_);
     modifiche_ = new QLabel(tradotto("Modifiche non salvate"), this);
     modifiche_->setObjectName("modifiche");
     statusBar()->addPermanentWidget(modifiche_);
-    mostraModifiche();
+    modifiche_->setVisible(project::modificato);
     setAcceptDrops(true);
     // The key for the menus on all desktops, which Qt leaves to its programs.
     connect(new QShortcut(Qt::Key_F10, this), &QShortcut::activated, this, [this] {
@@ -92,6 +95,20 @@ Menu1::Menu1() {
     // has moved the form.
     move(screen()->availableGeometry().center() - rect().center());
     ripristinaMisure(*this);
+}
+
+QToolButton* Menu1::fareOsservazioni() {
+    auto* pulsante = new QToolButton(this);
+    pulsante->setObjectName("osservazioni");
+    pulsante->setAutoRaise(true);
+    pulsante->setCursor(Qt::PointingHandCursor);
+    pulsante->setToolTip(tradotto("Elenco delle osservazioni") + " (Ctrl+K)");
+    pulsante->setAccessibleDescription(pulsante->toolTip());
+    pulsante->hide();
+    connect(pulsante, &QToolButton::clicked, this, &Menu1::osservazioniChieste);
+    connect(new QShortcut(Qt::CTRL | Qt::Key_K, this), &QShortcut::activated, this,
+            &Menu1::osservazioniChieste);
+    return pulsante;
 }
 
 void Menu1::collega(commands::Programma& programma) {
@@ -125,13 +142,32 @@ void Menu1::esegui(const commands::VoceMenu& voce) {
     if (programma_ == nullptr || !programma_->puo(voce)) return;
     salutata_ = false;  // a session that was to end goes on, and the project may change again
     const bool finisce = programma_->esegui(voce);
-    mostraModifiche();
+    aggiorna();
     if (!finisce) return;
     salutata_ = true;
     close();
 }
 
-void Menu1::mostraModifiche() { modifiche_->setVisible(project::modificato); }
+void Menu1::editaDa(const masks::PostoCampo& posto) {
+    if (programma_ == nullptr) return;
+    salutata_ = false;
+    programma_->editaDa(posto);
+    aggiorna();
+}
+
+void Menu1::aggiorna() {
+    modifiche_->setVisible(project::modificato);
+    emit aggiornata();
+}
+
+void Menu1::osservazioni(const std::string& conteggio, bool gravi) {
+    QFont carattere = statusBar()->font();
+    carattere.setBold(gravi);
+    osservazioni_->setFont(carattere);
+    osservazioni_->setText(qt(conteggio));
+    osservazioni_->setAccessibleName(qt(conteggio));
+    osservazioni_->setVisible(!conteggio.empty());
+}
 
 void Menu1::titolo(const std::string& testo) { setWindowTitle(qt(testo)); }
 void Menu1::stato(const std::string& testo) { stato_->mostra(qt(testo)); }
@@ -175,7 +211,7 @@ void Menu1::dropEvent(QDropEvent* evento) {
     QTimer::singleShot(0, this, [this, file] {
         salutata_ = false;
         programma_->documento().apri(file);
-        mostraModifiche();
+        aggiorna();
     });
 }
 

@@ -7,6 +7,7 @@
 
 class QLabel;
 class QSessionManager;
+class QToolButton;
 
 namespace korven::shell {
 
@@ -38,8 +39,24 @@ class Menu1 : public QMainWindow, public commands::FinestraPrincipale {
     /// @return false to ask the desktop to stay
     [[nodiscard]] bool sessioneFinisce(bool chiedibile);
 
+    /// Opens the form of a field of the open project, at the field.
+    void editaDa(const masks::PostoCampo& posto);
+
+    /// Shows what has become of the project: after every command, and when one was opened without.
+    void aggiorna();
+
+    /// Shows how many remarks there are on the project; nothing for an empty text.
+    /// @param gravi  one of them is more than to be looked at
+    void osservazioni(const std::string& conteggio, bool gravi);
+
     void titolo(const std::string& testo) override;
     void stato(const std::string& testo) override;
+
+ signals:
+    /// The project may be another one than before.
+    void aggiornata();
+    /// Ctrl+K, or a click on their number.
+    void osservazioniChieste();
 
  protected:
     void closeEvent(QCloseEvent* evento) override;
@@ -48,12 +65,12 @@ class Menu1 : public QMainWindow, public commands::FinestraPrincipale {
     bool eventFilter(QObject* oggetto, QEvent* evento) override;
 
  private:
+    QToolButton* fareOsservazioni();
     void costruisciMenu();
-    void mostraModifiche();
-
     commands::Programma* programma_ = nullptr;
     QuadroParatia* immagine_;
     EtichettaAccorciata* stato_;
+    QToolButton* osservazioni_;
     QLabel* modifiche_;
     bool salutata_ = false;  // the question about unsaved work has been answered
 };

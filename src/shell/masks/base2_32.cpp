@@ -52,6 +52,13 @@ void Base2_32::comincia(masks::PostoGriglia posto) {
     griglia_->aggiorna();
 }
 
+// Only now the grid knows how many rows it shows: none is to be scrolled away without need.
+void Base2_32::showEvent(QShowEvent* evento) {
+    FormaMaschera::showEvent(evento);
+    griglia_->scrollToTop();
+    griglia_->aggiorna();
+}
+
 void Base2_32::keyPressEvent(QKeyEvent* evento) {
     if (evento->key() == Qt::Key_F1)
         apriGuida();

@@ -33,6 +33,7 @@ class Base2_32 : public FormaMaschera {
 
  protected:
     void keyPressEvent(QKeyEvent* evento) override;
+    void showEvent(QShowEvent* evento) override;
 
  private:
     void azione(std::size_t pulsante);

@@ -65,6 +65,20 @@ TEST_F(Porta, OpensThePageOfAContextInOneWindowAlone) {
     EXPECT_EQ(indirizzo(), QUrl("guida:/visore#campoText1"));
 }
 
+TEST_F(Porta, OpensThePageOfANameAndTheContentsForANameWithoutAPage) {
+    porta.apriPagina("strati");
+    EXPECT_EQ(indirizzo(), QUrl("guida:/strati"));
+    porta.apriPagina("nessuna");
+    EXPECT_EQ(indirizzo(), QUrl("guida:/inizio"));
+}
+
+TEST_F(Porta, OpensByF1ThePageThatAWindowNamesForWhatItShows) {
+    Forma forma("osservazioni", &principale);
+    forma.show();
+    forma.setProperty("paginaGuida", "strati");
+    EXPECT_EQ(f1(*forma.campo), "guida:/strati");
+}
+
 TEST_F(Porta, OpensTheContentsForAContextWithoutAPage) {
     porta.apri(150);
     EXPECT_EQ(indirizzo(), QUrl("guida:/inizio"));

@@ -1,0 +1,85 @@
+#include "shell/remarks/live_remarks.hpp"
+
+#include <QTimer>
+#include <utility>
+
+#include "base/translated_texts.hpp"
+#include "shell/main/menu1.hpp"
+#include "shell/qt_text.hpp"
+#include "shell/remarks/remarks_window.hpp"
+
+namespace korven::shell {
+
+namespace {
+
+// Commands that follow one another at once cost one computation.
+constexpr int riposo = 50;  // [ms]
+
+}  // namespace
+
+OsservazioniVive::OsservazioniVive(Menu1& principale, std::function<void(const std::string&)> guida)
+    : QObject(&principale),
+      principale_(principale),
+      guida_(std::move(guida)),
+      revisione_([this](int numero, auto trovate) { rispondi(numero, std::move(trovate)); }, this),
+      riposo_(new QTimer(this)) {
+    riposo_->setSingleShot(true);
+    riposo_->setInterval(riposo);
+    connect(riposo_, &QTimer::timeout, this, [this] { chiedi(); });
+    connect(&principale, &Menu1::aggiornata, this, [this] { guarda(); });
+    connect(&principale, &Menu1::osservazioniChieste, this, [this] { apriFinestra(); });
+}
+
+void OsservazioniVive::guarda() {
+    aperte_.guarda();
+    if (aperte_.domanda()) riposo_->start();
+    mostra();
+}
+
+void OsservazioniVive::chiedi() {
+    if (aperte_.domanda()) revisione_.chiedi(*aperte_.domanda());
+}
+
+void OsservazioniVive::rispondi(int numero, review::Osservazioni risultati) {
+    aperte_.rispondi(numero, std::move(risultati));
+    mostra();
+}
+
+void OsservazioniVive::mostra() {
+    const auto& tutte = aperte_.tutte();
+    const std::string conteggio = aperte_.conteggio();
+    principale_.osservazioni(conteggio,
+                             !tutte.empty() && tutte.front().peso != review::Peso::daVedere);
+    if (finestra_ != nullptr)
+        finestra_->mostra(
+            tutte, conteggio.empty() ? base::traduttore("Nessun progetto aperto") : conteggio);
+}
+
+void OsservazioniVive::apriFinestra() {
+    if (finestra_ == nullptr) {
+        finestra_ = new FinestraOsservazioni(
+            principale_,
+            {.apribile = [](const auto& o) { return commands::postoDi(o).has_value(); },
+             .apri = [this](const auto& o) { apriCampo(o); },
+             .guida = guida_});
+        mostra();
+    }
+    if (finestra_->isMinimized()) finestra_->showNormal();
+    finestra_->show();
+    finestra_->raise();
+    finestra_->activateWindow();
+}
+
+void OsservazioniVive::apriCampo(const review::Osservazione& osservazione) {
+    const auto posto = commands::postoDi(osservazione);
+    if (!posto) return;
+    principale_.editaDa(*posto);
+    // Back to the list: the next remark waits there.
+    if (finestra_ != nullptr && finestra_->isVisible()) finestra_->activateWindow();
+}
+
+void collegaOsservazioni(Menu1& principale, const commands::FormeProgramma& forme) {
+    new OsservazioniVive(principale, forme.paginaGuida);
+}
+
+}  // namespace korven::shell

@@ -1,0 +1,150 @@
+#include "shell/remarks/remarks_window.hpp"
+
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QShortcut>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <utility>
+
+#include "shell/form_sizes.hpp"
+#include "shell/qt_text.hpp"
+#include "shell/remarks/remark_delegate.hpp"
+
+namespace korven::shell {
+
+namespace {
+
+constexpr const char* proprietaPagina = "paginaGuida";
+constexpr QSize misuraComoda(640, 420);
+
+bool stessa(const review::Osservazione& una, const review::Osservazione& altra) {
+    return una.codice == altra.codice && una.campi == altra.campi;
+}
+
+}  // namespace
+
+FinestraOsservazioni::FinestraOsservazioni(QWidget& principale, Azioni azioni)
+    : QWidget(&principale, Qt::Window), principale_(principale), azioni_(std::move(azioni)) {
+    setObjectName(QStringLiteral("osservazioni"));
+    setWindowTitle(tradotto("Osservazioni sul progetto"));
+    conteggio_ = new QLabel(this);
+    conteggio_->setObjectName(QStringLiteral("conteggio"));
+    conteggio_->setTextFormat(Qt::PlainText);
+    conteggio_->setWordWrap(true);
+    lista_ = new QListWidget(this);
+    lista_->setObjectName(QStringLiteral("lista"));
+    lista_->setAccessibleName(windowTitle());
+    lista_->setItemDelegate(new DelegatoOsservazioni(lista_));
+    lista_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    lista_->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    lista_->setResizeMode(QListView::Adjust);
+    auto* colonna = new QVBoxLayout(this);
+    colonna->addWidget(conteggio_);
+    colonna->addWidget(lista_, 1);
+    colonna->addWidget(farePulsanti());
+    connect(lista_, &QListWidget::currentRowChanged, this, [this] { scelta(); });
+    connect(lista_, &QListWidget::itemDoubleClicked, this, [this] { apri(); });
+    lista_->installEventFilter(this);
+    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
+    principale_.installEventFilter(this);
+    prendiMisura(*this, misuraComoda);
+    lista_->setFocus();
+    scelta();
+}
+
+QWidget* FinestraOsservazioni::farePulsanti() {
+    auto* riga = new QWidget(this);
+    auto* disposizione = new QHBoxLayout(riga);
+    disposizione->setContentsMargins(0, 0, 0, 0);
+    apri_ = farePulsante("apri", "&Apri il campo", riga);
+    guida_ = farePulsante("guida", "&Help", riga);
+    guida_->setVisible(static_cast<bool>(azioni_.guida));
+    auto* chiudi = farePulsante("chiudi", "&Chiudi", riga);
+    disposizione->addWidget(apri_);
+    disposizione->addWidget(guida_);
+    disposizione->addStretch();
+    disposizione->addWidget(chiudi);
+    connect(apri_, &QPushButton::clicked, this, [this] { apri(); });
+    connect(guida_, &QPushButton::clicked, this, [this] { mostraGuida(); });
+    connect(chiudi, &QPushButton::clicked, this, &QWidget::close);
+    return riga;
+}
+
+QPushButton* FinestraOsservazioni::farePulsante(const char* nome, const char* testo,
+                                                QWidget* genitore) {
+    auto* fatto = new QPushButton(tradotto(testo), genitore);
+    fatto->setObjectName(QLatin1String(nome));
+    fatto->setAutoDefault(true);  // Enter presses the button that has the focus
+    return fatto;
+}
+
+void FinestraOsservazioni::mostra(const review::Osservazioni& osservazioni,
+                                  const std::string& conteggio) {
+    conteggio_->setText(qt(conteggio));
+    int riga = std::max(lista_->currentRow(), 0);
+    if (const auto* prima = corrente()) {
+        const auto ancora = std::find_if(osservazioni.begin(), osservazioni.end(),
+                                         [&](const auto& o) { return stessa(o, *prima); });
+        if (ancora != osservazioni.end()) riga = static_cast<int>(ancora - osservazioni.begin());
+    }
+    const QSignalBlocker durante(lista_);
+    lista_->clear();
+    mostrate_ = osservazioni;
+    for (const auto& osservazione : mostrate_) {
+        auto* voce = new QListWidgetItem(qt(osservazione.testo), lista_);
+        const QString peso = tradotto(parolaMostrata(osservazione.peso));
+        voce->setData(datoPeso, peso);
+        voce->setData(datoGrave, osservazione.peso != review::Peso::daVedere);
+        voce->setData(Qt::AccessibleTextRole, peso + QStringLiteral(": ") + voce->text());
+    }
+    lista_->setCurrentRow(std::min(riga, lista_->count() - 1));
+    scelta();
+}
+
+const review::Osservazione* FinestraOsservazioni::corrente() const {
+    const int riga = lista_->currentRow();
+    if (riga < 0 || riga >= static_cast<int>(mostrate_.size())) return nullptr;
+    return &mostrate_[static_cast<std::size_t>(riga)];
+}
+
+// F1 asks for the page of the current remark (porta.hpp).
+void FinestraOsservazioni::scelta() {
+    const auto* quale = corrente();
+    setProperty(proprietaPagina, quale != nullptr ? qt(quale->guida) : QString());
+    guida_->setEnabled(quale != nullptr);
+    apri_->setEnabled(quale != nullptr && principale_.isEnabled() && azioni_.apribile(*quale));
+}
+
+void FinestraOsservazioni::apri() {
+    // A copy: the form changes the project, and with it the list.
+    if (const auto* quale = corrente(); quale != nullptr && apri_->isEnabled())
+        azioni_.apri(review::Osservazione(*quale));
+}
+
+void FinestraOsservazioni::mostraGuida() {
+    if (const auto* quale = corrente()) azioni_.guida(std::string(quale->guida));
+}
+
+bool FinestraOsservazioni::eventFilter(QObject* oggetto, QEvent* evento) {
+    if (oggetto == &principale_ && evento->type() == QEvent::EnabledChange) scelta();
+    if (oggetto == lista_ && evento->type() == QEvent::KeyPress) {
+        const int tasto = static_cast<QKeyEvent*>(evento)->key();
+        if (tasto == Qt::Key_Return || tasto == Qt::Key_Enter) {
+            apri();
+            return true;
+        }
+    }
+    return QWidget::eventFilter(oggetto, evento);
+}
+
+void FinestraOsservazioni::closeEvent(QCloseEvent* evento) {
+    ricordaMisure(*this);
+    QWidget::closeEvent(evento);
+}
+
+}  // namespace korven::shell

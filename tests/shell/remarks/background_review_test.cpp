@@ -1,0 +1,64 @@
+#include "shell/remarks/background_review.hpp"
+
+#include <gtest/gtest.h>
+
+#include "review/result_review.hpp"
+#include "support/form_setup.hpp"
+#include "support/sample_projects.hpp"
+
+namespace korven::shell {
+namespace {
+
+class RevisioneInDisparteTest : public ::testing::Test {
+ protected:
+    void aspetta(std::size_t risposte) {
+        ASSERT_TRUE(QTest::qWaitFor([&] { return numeri.size() >= risposte; }, 30000));
+    }
+    static RevisioneInDisparte::Domanda domanda(int numero, double lunghezza) {
+        auto dati = test::progettoSemplice();
+        dati.lunghezzaParatia = lunghezza;
+        return {numero, dati, 20};
+    }
+
+    QApplication& app = test::applicazione();
+    std::vector<int> numeri;
+    review::Osservazioni ultime;
+    RevisioneInDisparte revisione{[this](int numero, review::Osservazioni trovate) {
+                                      numeri.push_back(numero);
+                                      ultime = std::move(trovate);
+                                  },
+                                  nullptr};
+};
+
+TEST_F(RevisioneInDisparteTest, AnswersWithTheRemarksOnTheResults) {
+    const auto questa = domanda(7, 7.5);
+    revisione.chiedi(questa);
+    EXPECT_TRUE(numeri.empty());  // nobody waits for it
+    aspetta(1);
+    EXPECT_EQ(numeri, std::vector<int>{7});
+    const auto attese = review::esaminaRisultati(questa.dati, 20);
+    ASSERT_FALSE(attese.empty());
+    ASSERT_EQ(ultime.size(), attese.size());
+    for (std::size_t i = 0; i < attese.size(); ++i) EXPECT_EQ(ultime[i].testo, attese[i].testo);
+}
+
+TEST_F(RevisioneInDisparteTest, FollowsUpTheLastOfTheQuestionsThatComeMeanwhile) {
+    revisione.chiedi(domanda(1, 7.5));
+    revisione.chiedi(domanda(2, 8));
+    revisione.chiedi(domanda(3, 12));
+    aspetta(2);
+    EXPECT_EQ(numeri, (std::vector<int>{1, 3}));
+}
+
+TEST_F(RevisioneInDisparteTest, CanGoWhileItComputes) {
+    bool detto = false;
+    {
+        RevisioneInDisparte altra([&](int, const review::Osservazioni&) { detto = true; }, nullptr);
+        altra.chiedi(domanda(1, 12));
+    }
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(detto);
+}
+
+}  // namespace
+}  // namespace korven::shell
