@@ -98,7 +98,7 @@ TEST_F(DeliveredHelp, HasAPageForEveryFormThatNoMenuItemNames) {
     for (const int language : languages) {
         const Guida guide = help(language);
         for (const char* form : {"GRAFICA", "Editacfg", "ConfStampa", "TempCalc", "guida",
-                                 "INFORMAZIONI", "selezling", "DefinEJ", "Form1"})
+                                 "osservazioni", "INFORMAZIONI", "selezling", "DefinEJ", "Form1"})
             EXPECT_FALSE(page(guide, help::voceForma(form)).html.empty()) << form;
     }
 }

@@ -98,16 +98,17 @@ Menu1::Menu1() {
 }
 
 QToolButton* Menu1::fareOsservazioni() {
+    const QKeySequence tasti(Qt::CTRL | Qt::Key_K);
     auto* pulsante = new QToolButton(this);
     pulsante->setObjectName("osservazioni");
     pulsante->setAutoRaise(true);
     pulsante->setCursor(Qt::PointingHandCursor);
-    pulsante->setToolTip(tradotto("Elenco delle osservazioni") + " (Ctrl+K)");
+    pulsante->setToolTip(tradotto("Elenco delle osservazioni") + " (" +
+                         tasti.toString(QKeySequence::NativeText) + ")");
     pulsante->setAccessibleDescription(pulsante->toolTip());
     pulsante->hide();
     connect(pulsante, &QToolButton::clicked, this, &Menu1::osservazioniChieste);
-    connect(new QShortcut(Qt::CTRL | Qt::Key_K, this), &QShortcut::activated, this,
-            &Menu1::osservazioniChieste);
+    connect(new QShortcut(tasti, this), &QShortcut::activated, this, &Menu1::osservazioniChieste);
     return pulsante;
 }
 
