@@ -45,6 +45,19 @@ TEST_F(SenzaPace, AnInterruptStopsARunAsTheStopButtonDoes) {
     }
 }
 
+TEST_F(SenzaPace, AnInterruptIsTheCauseAndNeedsNoSentenceOfTheEquilibrium) {
+    ProgrammaInCorso corsa(KORVEN_CONSOLE, {"calcola", progetto, "--nseg", "10", "--max-iterazioni",
+                                            "0", "--json", "--silenzioso"});
+    ASSERT_TRUE(corre());
+    corsa.segnale(SIGINT);
+    const auto esito = corsa.attendi();
+    EXPECT_EQ(esito.codice, 1);
+    const auto j = nlohmann::json::parse(esito.uscita);
+    EXPECT_EQ(j["causa"], "fermato");
+    EXPECT_TRUE(j["spiegazione"].is_null());
+    EXPECT_FALSE(dice(esito.errori, "oscilla soltanto")) << esito.errori;
+}
+
 TEST_F(SenzaPace, AnIgnoredInterruptStaysIgnored) {
     ProgrammaInCorso corsa(
         "/bin/sh", {"-c", "trap '' INT; exec \"$0\" \"$@\"", KORVEN_CONSOLE, "calcola", progetto,
