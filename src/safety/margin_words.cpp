@@ -12,6 +12,7 @@ namespace korven::safety {
 namespace {
 
 using base::traduttore;
+using equilibrium::EsitoFase;
 
 constexpr const char* nessuno = "-";
 constexpr const char* limitePendenza =
@@ -52,6 +53,7 @@ std::string parole(const Riduzione& riduzione, double paratia) {
 
 std::string paroleLunghezza(const Margine& margine) {
     const auto& [esito, lunghezza] = margine.lunghezza;
+    const MargineFase* caduta = margine.caduta();
     const std::string inizio = traduttore("Lunghezza minima") + ": ";
     switch (esito) {
         case EsitoLunghezza::trovata:
@@ -61,6 +63,7 @@ std::string paroleLunghezza(const Margine& margine) {
             return inizio + metri(*lunghezza) + " m; " +
                    traduttore("la paratia sta anche senza infissione sotto lo scavo più profondo");
         case EsitoLunghezza::mai:
+            if (caduta && caduta->esito != EsitoFase::meccanismo) return {};
             return inizio + traduttore("nessuna fino a") + " " +
                    metri(massimaLunghezzaRelativa * margine.paratia) + " m";
         case EsitoLunghezza::vincolata:

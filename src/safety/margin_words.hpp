@@ -25,7 +25,8 @@ namespace korven::safety {
 /// @param paratia  length of the wall [m]
 [[nodiscard]] std::string parole(const Riduzione& riduzione, double paratia);
 
-/// "Lunghezza minima: 12.61 m; la paratia è lunga 16 m", or why there is none.
+/// "Lunghezza minima: 12.61 m; la paratia è lunga 16 m", or why there is none; empty where the data
+/// are no wall of any length.
 [[nodiscard]] std::string paroleLunghezza(const Margine& margine);
 
 /// "Errore di maglia (50 segmenti contro 200): momento 2.9 %, taglio 2.1 %, ..."; empty where a

@@ -66,6 +66,8 @@ TEST(ParoleLunghezza, SayHowShortTheWallMayBe) {
               "profondo");
     m.lunghezza = {EsitoLunghezza::mai, {}};
     EXPECT_EQ(paroleLunghezza(m), "Lunghezza minima: nessuna fino a 36 m");
+    m.fasi[1].esito = EsitoFase::nonDefinito;
+    EXPECT_EQ(paroleLunghezza(m), "");
     m.lunghezza = {EsitoLunghezza::vincolata, {}};
     EXPECT_EQ(paroleLunghezza(m), "Lunghezza minima: nessuna, il piede è vincolato");
 }
