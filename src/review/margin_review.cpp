@@ -34,8 +34,7 @@ const MargineFase* peggiore(const safety::Margine& margine, Quanto quanto) {
 
 // What ends the wall at the strength reduction of a stage.
 std::string fine(const safety::Riduzione& riduzione, double paratia) {
-    if (riduzione.moto)
-        return traduttore("la paratia") + " " + safety::parole(*riduzione.moto, paratia);
+    if (riduzione.moto) return safety::parole(*riduzione.moto, paratia);
     if (riduzione.limitePendio)
         return traduttore("l'angolo di attrito ridotto è minore dell'inclinazione del terreno");
     return traduttore("i limiti del terreno non hanno più significato");

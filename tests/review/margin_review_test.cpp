@@ -32,12 +32,12 @@ TEST(ControlloMargine, TellsALowStrengthReductionWithItsMechanism) {
     EXPECT_EQ(conRiduzione(1.5), Righe{});
     EXPECT_EQ(conRiduzione(1.499),
               Righe{"[da vedere] riduzione-bassa: fase 1: Prof. [m] = 4: riduzione di resistenza "
-                    "1.499, sotto 1.50; oltre, la paratia ruota attorno alla profondità di 8.5 m, "
+                    "1.499, sotto 1.50; oltre, ruota attorno alla profondità di 8.5 m, "
                     "la testa verso lo scavo: controllare infissione, tiranti e carichi"});
     EXPECT_EQ(conRiduzione(1.25).size(), 1u);
     EXPECT_EQ(conRiduzione(1.249),
               Righe{"[pericolo] riduzione-insufficiente: fase 1: Prof. [m] = 4: riduzione di "
-                    "resistenza 1.249, sotto 1.25; oltre, la paratia ruota attorno alla profondità "
+                    "resistenza 1.249, sotto 1.25; oltre, ruota attorno alla profondità "
                     "di 8.5 m, la testa verso lo scavo: allungare la paratia, aggiungere un "
                     "tirante o ridurre scavo e carichi"});
 }

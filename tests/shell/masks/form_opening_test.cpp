@@ -54,13 +54,25 @@ class FormeDelleMaschere : public ::testing::Test {
     // Calls an editing command and does something to its form.
     template <class Forma>
     void edita(std::string_view comando, std::function<void(Forma&)> azione) {
+        conForma<Forma>([&](auto& p) { p.esegui(commands::voceMenu(comando)); }, azione);
+    }
+    // The same at a field.
+    template <class Forma>
+    void editaDa(std::string_view campo, std::function<void(Forma&)> azione) {
+        const auto posto = masks::postoDelCampo(campo);
+        ASSERT_TRUE(posto);
+        conForma<Forma>([&](auto& p) { p.editaDa(*posto); }, azione);
+    }
+    template <class Forma>
+    void conForma(const std::function<void(commands::Programma&)>& chiama,
+                  std::function<void(Forma&)> azione) {
         const test::AllaProssimaFinestra<QDialog> finestra([&](QDialog& aperta) {
             auto* forma = dynamic_cast<Forma*>(&aperta);
             ASSERT_NE(forma, nullptr) << "a form of the other kind";
             azione(*forma);
         });
-        commands::Programma(dialogo, nomi, principale, avanzamento, maschere, forme)
-            .esegui(commands::voceMenu(comando));
+        commands::Programma programma(dialogo, nomi, principale, avanzamento, maschere, forme);
+        chiama(programma);
         EXPECT_TRUE(finestra.fatto);
     }
 
@@ -89,6 +101,44 @@ TEST_F(FormeDelleMaschere, SayInTheStripWhatIsOddAboutAHeadingWhileItIsTyped) {
             << striscia.text().toStdString();
         QTest::keyClick(&prima, Qt::Key_Backspace);
         EXPECT_FALSE(striscia.text().contains("foglio:")) << striscia.text().toStdString();
+        premi(forma, "Command1_1");
+    });
+}
+
+TEST_F(FormeDelleMaschere, BeginAtTheFieldThatIsAskedFor) {
+    Progetto.titoli[1] = std::string(90, 'x');  // too long, and not to be told at once
+    editaDa<Base1>("titoli[3]", [](Base1& forma) {
+        EXPECT_EQ(forma.focusWidget()->objectName(), "Text1_2");
+        premi(forma, "Command1_1");
+    });
+    editaDa<Base1>("metodoSpinte", [](Base1& forma) {
+        EXPECT_EQ(forma.focusWidget()->objectName(), "Combo1_5");
+        premi(forma, "Command1_1");
+    });
+    editaDa<Base1>("sovraccMonte", [](Base1& forma) {
+        EXPECT_EQ(forma.focusWidget()->objectName(), "Text1_4");
+        const auto& campo = test::controllo<QLineEdit>(forma, "Text1_4");
+        EXPECT_EQ(campo.selectedText(), campo.text());
+        premi(forma, "Command1_1");
+    });
+    EXPECT_TRUE(dialogo.messaggi.empty());
+}
+
+TEST_F(FormeDelleMaschere, BeginAtTheCellThatIsAskedForWithTheRowsAboveInSight) {
+    Progetto.nStrati = 20;
+    editaDa<Base2_32>("phiStrato[3]", [](Base2_32& forma) {
+        const auto& griglia = test::controllo<QTableView>(forma, "MSFlexGrid1");
+        EXPECT_EQ(griglia.currentIndex().row(), 2);
+        EXPECT_EQ(griglia.currentIndex().column(), 3);
+        EXPECT_EQ(griglia.rowAt(0), 0);
+        QTest::keyClick(&test::controllo<QTableView>(forma, "MSFlexGrid1"), '9');
+        EXPECT_EQ(forma.modello().testo({3, 4}), "9");
+        premi(forma, "Command1_1");
+    });
+    editaDa<Base2_32>("ksStrato[20]", [](Base2_32& forma) {
+        const auto& griglia = test::controllo<QTableView>(forma, "MSFlexGrid1");
+        EXPECT_TRUE(
+            griglia.viewport()->rect().contains(griglia.visualRect(griglia.currentIndex())));
         premi(forma, "Command1_1");
     });
 }

@@ -94,6 +94,21 @@ TEST_F(FormaSezione, HasItsCaptions) {
         EXPECT_EQ(etichette("Frame4").count(QString::fromUtf8(testo)), 1) << testo;
 }
 
+TEST_F(FormaSezione, BeginsAtAFieldOfTheTypeChosenOrOfTheMaterials) {
+    const auto fuocoDa = [this](double Sezione::*campo) {
+        forma = std::make_unique<DefinEJ>(sezione, modificato, nullptr);
+        forma->comincia(masks::campoSezione(campo));
+        forma->show();
+        forma->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(forma.get()));
+        return forma->focusWidget()->objectName();
+    };
+    EXPECT_EQ(fuocoDa(&Sezione::diametroMonte), "Text3");
+    EXPECT_EQ(trova<QLineEdit>("Text3").selectedText(), trova<QLineEdit>("Text3").text());
+    EXPECT_EQ(fuocoDa(&Sezione::fck), "Text18");
+    EXPECT_EQ(fuocoDa(&Sezione::armNumLong), "Option1") << "a type that is not chosen";
+}
+
 TEST_F(FormaSezione, TakesItsCaptionsFromTheLanguage) {
     const test::TestiConsegnati tedesco(2);
     apri();
