@@ -64,6 +64,10 @@ void controlloMetodi(const DatiProgetto& dati, ElencoOsservazioni& elenco) {
         elenco.aggiungi("bowles-senza-tensione",
                         insieme(campoConValore(&DatiProgetto::modoSpinte, dati.modoSpinte),
                                 campoConValore(&DatiProgetto::modoKs, dati.modoKs)));
+    if (dati.metodoKs == MetodoKs::lineare && dati.nStrati > 0 &&
+        dati.profStrato[dati.nStrati - 1] < dati.lunghezzaParatia)
+        elenco.aggiungi("ks-ultimo-strato",
+                        rigaConValore(dati, &DatiProgetto::ksStrato, dati.nStrati));
     for (const auto& scritta : scritteInvano) controlloInvano(scritta, dati, elenco);
 }
 

@@ -70,6 +70,10 @@ inline constexpr VoceOsservazione vociProgetto[] = {
     {"modulo-lineare-negativo", Peso::pericolo, "ks",
      "oltre l'ultimo strato la legge lineare di ks prosegue e scende sotto zero: da qui in giù il "
      "terreno spinge invece di reagire; portare l'ultimo strato fino al piede della paratia"},
+    {"ks-ultimo-strato", Peso::daVedere, "ks",
+     "a monte la legge lineare arriva a questo valore solo 100 m sotto il piede dell'ultimo "
+     "strato: "
+     "aggiungere un altro strato sotto il piede della paratia"},
     {"bowles-senza-tensione", Peso::daVedere, "ks",
      "ks secondo Bowles perde a valle il termine della tensione verticale: scegliere anche ks "
      "uguale al lato monte, o le spinte ricalcolate"},

@@ -69,7 +69,7 @@ TEST_P(Esempio, LiesInTheProgramFolderToo) {
 const std::map<std::string, std::vector<std::string_view>> detto = {
     {"diaframma_due_ordini", {"tirante-spostato", "valore-senza-effetto"}},
     {"paratia_lunga_incastro", {"tirante-spostato", "su-non-usata"}},
-    {"pali_armati_staffe", {"ferri-scritti-e-calcolati"}},
+    {"pali_armati_staffe", {"ks-ultimo-strato", "ferri-scritti-e-calcolati"}},
     {"trincea_puntellata", {"valore-senza-effetto"}},
 };
 

@@ -45,6 +45,23 @@ TEST(ControlloMetodi, TellsThatBowlesLosesTheVerticalStressOfTheOtherSide) {
     EXPECT_EQ(con(ModoSpinte::comeMonte, ModoKs::ricalcolato, MetodoKs::costante), Righe{});
 }
 
+TEST(ControlloMetodi, TellsThatTheLinearLawReachesTheLastValueFarBelowOnTheRetainedSide) {
+    const auto con = [](MetodoKs metodo, double fondo) {
+        return righeDi(conModifica([&](DatiProgetto& d) {
+                           d.metodoKs = valore(metodo);
+                           d.profStrato[1] = fondo;
+                       }),
+                       {"ks-ultimo-strato"});
+    };
+    EXPECT_EQ(
+        con(MetodoKs::lineare, 11.9),
+        Righe{"strato 2: ks [kN/m³] = 30000: a monte la legge lineare arriva a questo valore "
+              "solo 100 m sotto il piede dell'ultimo strato: aggiungere un altro strato sotto "
+              "il piede della paratia"});
+    EXPECT_EQ(con(MetodoKs::lineare, 12), Righe{});
+    EXPECT_EQ(con(MetodoKs::costante, 4), Righe{});
+}
+
 // Each typed value, and the choice with which it does something.
 TEST(ControlloMetodi, TellsTypedValuesThatTheMethodDoesNotRead) {
     const std::string invano = ": non ha effetto: ";

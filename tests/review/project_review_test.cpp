@@ -95,6 +95,7 @@ TEST(EsaminaProgetto, NamesEachCodeOutOfRangeAndWhatItComesTo) {
              d.faldaMonte = d.faldaFase[1] = d.faldaFase[2] = 13;  // below the toe
              d.metodoSpinte = valore(MetodoSpinte::coulomb);
              d.metodoKs = valore(MetodoKs::lineare);
+             d.profStrato[1] = 12;
              d.tipoTirante[1] = valore(TipoTirante::trazioneCompressione);
          },
          {}},

@@ -94,6 +94,7 @@ const Scenario scenari[] = {
          d.profStrato[2] = 8;
          d.ksStrato[2] = 100;
      }},
+    {"ks-ultimo-strato", [](auto& d) { d.metodoKs = 4; }},
     {"bowles-senza-tensione",
      [](auto& d) {
          d.metodoKs = 1;

@@ -158,6 +158,23 @@ TEST(ControlloTerreno, RefusesAFrictionAngleAtThePoleOnly) {
     EXPECT_TRUE(laCorsaRiesce(oltre));
 }
 
+// Rankine's and Bell's coefficients have their pole at 90 degrees, whatever the slope.
+TEST(ControlloTerreno, TellsThePolesOfRankineAndBellAsAnglesThatNoSoilHas) {
+    for (const double metodo : {2.0, 3.0}) {
+        const auto con = [&](double phi, double pendenza) {
+            return righeDi(conModifica([&](DatiProgetto& d) {
+                               d.metodoSpinte = metodo;
+                               d.phiStrato[2] = phi;
+                               d.inclinazioneMonte = pendenza;
+                           }),
+                           {"polo-passivo", "angolo-non-ammissibile"});
+        };
+        EXPECT_EQ(con(90, 0),
+                  std::vector<std::string>{"strato 2: Phi [°] = 90: l'angolo non è ammissibile"});
+        EXPECT_TRUE(con(60, 30).empty());
+    }
+}
+
 TEST(ControlloTerreno, TellsAWallThatReachesBelowTheDeepenedLastLayer) {
     const auto d = [](double fondo) {
         return conModifica([&](DatiProgetto& p) {
@@ -212,7 +229,7 @@ TEST(ControlloSuolo, TellsALinearLawThatFallsBelowZeroUnderTheLastLayer) {
                   "giù il terreno spinge invece di reagire; portare l'ultimo strato fino al piede "
                   "della paratia"});
     EXPECT_EQ(osservazioni(d(8))[0].campi, std::vector<std::string>{"profStrato[2]"});
-    EXPECT_EQ(righe(d(12)), std::vector<std::string>{});
+    EXPECT_TRUE(righeDi(d(12), {"modulo-negativo", "modulo-lineare-negativo"}).empty());
 }
 
 }  // namespace
