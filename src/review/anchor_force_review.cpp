@@ -86,6 +86,10 @@ class ControlloTiro {
     }
     [[nodiscard]] std::string fase(const TiroFase& tiro) const { return std::to_string(tiro.fase); }
 
+    [[nodiscard]] double sgravio() const {
+        return std::max(scartoTiroForza, sgravioPuntone * dati_.pretTirante[j_]);
+    }
+
     // The stiffness up to which rounding stays within the limits.
     void impreciso() const {
         const double vero = std::fabs(s_.massimo.valore);
@@ -112,7 +116,7 @@ class ControlloTiro {
             elenco_.aggiungi(
                 "tiro-di-segno-opposto", riga(&DatiProgetto::tipoTirante, j_),
                 {fase(s_.minimo), kilonewton(s_.minimo.valore), kilonewton(relazione_)});
-        else if (lontani(relazione_, s_.massimo.valore))
+        else if (relazione_ - s_.massimo.valore > sgravio())
             elenco_.aggiungi(
                 "puntone-scaricato", rigaConValore(dati_, &DatiProgetto::pretTirante, j_),
                 {kilonewton(relazione_), kilonewton(s_.massimo.valore), fase(s_.massimo)});

@@ -18,19 +18,28 @@ namespace unita = project::unita;
 
 std::string kilonewton(double valore) { return numeroMostrato(valore, 1, unita::forza); }
 
-bool lontano(const Confronto& piede, const Confronto& massimo) {
+bool lontano(const Confronto& piede, const Confronto& massimo) {  // by the largest of the stage
     return piede.relazione &&
            std::fabs(piede.relazione->valore - piede.statica.valore) >
                std::max(scartoStatica * std::fabs(massimo.statica.valore), staticaTrascurabile);
 }
 
+// Of the toe's shear nothing is left to say where it is the largest of the report.
+bool taglioDetto(const DatiProgetto& dati, const safety::Margine& margine) {
+    const double passo = dati.lunghezzaParatia / margine.nSeg;
+    return review::lontano(margine.taglio) &&
+           margine.taglio.relazione->z > dati.lunghezzaParatia - passo / 2;
+}
+
 // The stage whose toe the report shows with the most that is not there.
-const MargineFase* piedePeggiore(const safety::Margine& margine) {
+const MargineFase* piedePeggiore(const DatiProgetto& dati, const safety::Margine& margine) {
+    const bool detto = taglioDetto(dati, margine);
     const MargineFase* scelta = nullptr;
     double massimo = 0;
     for (const MargineFase& fase : margine.fasi) {
         const safety::ConfrontoFase& c = fase.confronto;
-        if (!lontano(c.momentoPiede, c.momento) && !lontano(c.taglioPiede, c.taglio)) continue;
+        const bool taglio = !detto && lontano(c.taglioPiede, c.taglio);
+        if (!taglio && !lontano(c.momentoPiede, c.momento)) continue;
         const double scarto =
             std::fabs(c.taglioPiede.relazione->valore - c.taglioPiede.statica.valore);
         if (scelta && scarto <= massimo) continue;
@@ -46,7 +55,7 @@ void controlloIncastro(const DatiProgetto& dati, const safety::Margine& margine,
                        ElencoOsservazioni& elenco) {
     if (!analysis::vincoli(dati).incastroPiede) return;
     const Soggetto piede = campoConValore(&DatiProgetto::vincoloPiede, dati.vincoloPiede);
-    if (const MargineFase* fase = piedePeggiore(margine)) {
+    if (const MargineFase* fase = piedePeggiore(dati, margine)) {
         const Confronto& M = fase->confronto.momentoPiede;
         const Confronto& T = fase->confronto.taglioPiede;
         elenco.aggiungi("valori-al-piede-incastrato", piede,

@@ -42,6 +42,10 @@ inline constexpr double tiroTrascurabile = 0.01;
 /// factors on the resistance of anchors of common codes are 1.1 and more.
 inline constexpr double scartoTiroGrave = 0.1;
 
+/// Share of its prestress that a prop must have lost in all stages. Reason: less is lost where it
+/// is stressed.
+inline constexpr double sgravioPuntone = 0.1;
+
 /// The last digit of a displacement in the result file [m], of which the report makes the force of
 /// an anchor; and what two of them, rounded and left by an iteration that ends at 1E-8 m, may be
 /// off by.

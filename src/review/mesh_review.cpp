@@ -41,58 +41,38 @@ struct Livello {
     double piuGiu = -1;  ///< than the level [m]
 };
 
-class ControlloLivelli {
+// Of several levels the one that the nodes move most. What lies at a level or below it belongs to
+// it.
+class Spostato {
  public:
-    ControlloLivelli(const DatiProgetto& dati, const safety::Margine& margine)
-        : dati_(dati), nSeg_(margine.nSeg), errore_(errorePeggiore(*margine.maglia)) {}
+    Spostato(const DatiProgetto& dati, int nSeg)
+        : dati_(dati), nSeg_(nSeg), passo_(dati.lunghezzaParatia / nSeg) {}
 
-    // Of all rows of a column that move beyond the limit the one that moves most.
-    void controlla(const project::Membro& colonna, int righe, Voce voce,
-                   ElencoOsservazioni& elenco) const {
-        Livello peggiore;
-        for (int k = 1; k <= righe; ++k)
-            considera(rigaDi(colonna, k), valore(colonna, k), peggiore);
-        avvisa(voce, peggiore, elenco);
+    Spostato& righe(const project::Membro& colonna, int quante) {
+        for (int k = 1; k <= quante; ++k)
+            considera(rigaConValore(dati_, colonna, k),
+                      project::numeroConservato(dati_, project::campo(colonna), k));
+        return *this;
     }
-    void controllaAcqua(ElencoOsservazioni& elenco) const {
-        Livello peggiore;
-        considera(campoConValore(&DatiProgetto::faldaMonte, dati_.faldaMonte), dati_.faldaMonte,
-                  peggiore);
-        for (int k = 1; k <= dati_.nFasi; ++k)
-            considera(rigaDi(&DatiProgetto::faldaFase, k), dati_.faldaFase[k], peggiore);
-        avvisa("falda-spostata-dai-nodi", peggiore, elenco);
+    Spostato& campo(double DatiProgetto::*membro) {
+        considera(campoConValore(membro, dati_.*membro), dati_.*membro);
+        return *this;
     }
-    [[nodiscard]] bool maglia() const { return errore_.quota > erroreMagliaDetto; }
+    [[nodiscard]] const Livello& livello() const { return peggiore_; }
 
  private:
-    [[nodiscard]] Soggetto rigaDi(const project::Membro& colonna, int k) const {
-        return rigaConValore(dati_, colonna, k);
-    }
-    [[nodiscard]] double valore(const project::Membro& colonna, int k) const {
-        return project::numeroConservato(dati_, project::campo(colonna), k);
-    }
-
-    // What lies at or below the level belongs to it.
-    void considera(const Soggetto& soggetto, double livello, Livello& peggiore) const {
-        const double passo = dati_.lunghezzaParatia / nSeg_;
+    void considera(const Soggetto& soggetto, double livello) {
         if (!(livello > 0 && livello < dati_.lunghezzaParatia)) return;
         int nodo = 1;
-        while (nodo <= nSeg_ && analysis::zNodo(nodo, passo) < livello) ++nodo;
-        const double z = analysis::zNodo(nodo, passo);
-        if (z - livello > peggiore.piuGiu) peggiore = {soggetto, z, z - livello};
-    }
-
-    void avvisa(Voce voce, const Livello& livello, ElencoOsservazioni& elenco) const {
-        if (livello.piuGiu <= spostatoDaiNodi) return;
-        elenco.aggiungi(
-            voce, livello.soggetto,
-            {numeroMostrato(livello.z, 2), numeroMostrato(livello.piuGiu, 2),
-             traduttore(errore_.che), numeroMostrato(errore_.quota, 1, unita::percento)});
+        while (nodo <= nSeg_ && analysis::zNodo(nodo, passo_) < livello) ++nodo;
+        const double z = analysis::zNodo(nodo, passo_);
+        if (z - livello > peggiore_.piuGiu) peggiore_ = {soggetto, z, z - livello};
     }
 
     const DatiProgetto& dati_;
     int nSeg_;
-    ErrorePeggiore errore_;
+    double passo_;
+    Livello peggiore_;
 };
 
 }  // namespace
@@ -100,13 +80,30 @@ class ControlloLivelli {
 void controlloMaglia(const DatiProgetto& dati, const safety::Margine& margine,
                      ElencoOsservazioni& elenco) {
     if (!margine.maglia) return;
-    const ControlloLivelli livelli(dati, margine);
-    if (!livelli.maglia()) return;
-    livelli.controlla(&DatiProgetto::profFase, dati.nFasi, "scavo-spostato-dai-nodi", elenco);
-    livelli.controllaAcqua(elenco);
+    const ErrorePeggiore errore = errorePeggiore(*margine.maglia);
+    if (errore.quota <= erroreMagliaDetto) return;
+    const Spostato nessuno(dati, margine.nSeg);
     // The last layer goes on below its bottom.
-    livelli.controlla(&DatiProgetto::profStrato, dati.nStrati - 1, "strato-spostato-dai-nodi",
-                      elenco);
+    const struct {
+        Voce voce;
+        Livello livello;
+    } livelli[] = {
+        {"scavo-spostato-dai-nodi",
+         Spostato(nessuno).righe(&DatiProgetto::profFase, dati.nFasi).livello()},
+        {"strato-spostato-dai-nodi",
+         Spostato(nessuno).righe(&DatiProgetto::profStrato, dati.nStrati - 1).livello()},
+        {"falda-spostata-dai-nodi", Spostato(nessuno)
+                                        .campo(&DatiProgetto::faldaMonte)
+                                        .righe(&DatiProgetto::faldaFase, dati.nFasi)
+                                        .livello()},
+    };
+    for (const auto& [voce, livello] : livelli) {
+        if (livello.piuGiu <= spostatoDaiNodi) continue;
+        elenco.aggiungi(voce, livello.soggetto,
+                        {numeroMostrato(livello.z, 2), numeroMostrato(livello.piuGiu, 2),
+                         traduttore(errore.che), numeroMostrato(errore.quota, 1, unita::percento)});
+        return;  // one is enough, of what matters most: more segments help with all of them
+    }
 }
 
 }  // namespace korven::review

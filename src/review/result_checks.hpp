@@ -28,6 +28,9 @@ void controlloTiri(const project::DatiProgetto& dati, const safety::Margine& mar
 void controlloMaglia(const project::DatiProgetto& dati, const safety::Margine& margine,
                      ElencoOsservazioni& elenco);
 
+/// True if the report is off by more than the limits of a difference that is told.
+[[nodiscard]] bool lontano(const safety::Confronto& confronto);
+
 /// Moments and shears of the report, against the statics of the same wall.
 void controlloStatica(const project::DatiProgetto& dati, const safety::Margine& margine,
                       ElencoOsservazioni& elenco);

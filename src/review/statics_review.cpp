@@ -91,15 +91,12 @@ Motivo motivoTaglio(const DatiProgetto& dati, const safety::Margine& margine, co
         if (!campi.empty())
             return {"al tirante la relazione lo estrapola dai due nodi sotto", std::move(campi)};
     }
+    if (c.statica.z > dati.lunghezzaParatia - passo / 2 && analysis::vincoli(dati).bloccoPiede)
+        return {"la relazione non vede la reazione al piede", {nome(&DatiProgetto::vincoloPiede)}};
     if (c.statica.z == 0 && analysis::vincoli(dati).cernieraTesta)
         return {"la relazione non vede la reazione al primo nodo",
                 {nome(&DatiProgetto::vincoloTesta)}};
     return {};
-}
-
-bool lontano(const Confronto& c) {
-    return c.scarto().value_or(0) >
-           std::max(scartoStatica, staticaTrascurabile / std::fabs(c.statica.valore));
 }
 
 void avvisa(const Confronto& c, Voce minore, Voce maggiore, const Motivo& perche,
@@ -127,6 +124,11 @@ void controlloUltimoTaglio(const DatiProgetto& dati, const safety::Margine& marg
 }
 
 }  // namespace
+
+bool lontano(const Confronto& c) {
+    return c.scarto().value_or(0) >
+           std::max(scartoStatica, staticaTrascurabile / std::fabs(c.statica.valore));
+}
 
 void controlloStatica(const DatiProgetto& dati, const safety::Margine& margine,
                       ElencoOsservazioni& elenco) {

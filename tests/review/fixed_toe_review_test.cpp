@@ -45,6 +45,17 @@ TEST(ControlloIncastro, TellsWhatTheReportShowsAtAFixedToe) {
               std::vector<std::string>{"vincoloPiede"});
 }
 
+TEST(ControlloIncastro, LeavesOutAShearThatIsToldAsTheLargestOfTheReport) {
+    Margine m = conValori(-11.1, 30);
+    m.taglio = {{10, 5, 2}, results::NumeroRelazione{30, 10, 2}};
+    EXPECT_TRUE(osservate(incastrata, m).empty());
+    m.taglio.relazione = results::NumeroRelazione{30, 5, 2};
+    EXPECT_EQ(osservate(incastrata, m).size(), 1u);
+    m = conValori(-10.9, 30);
+    m.taglio = {{10, 5, 2}, results::NumeroRelazione{30, 10, 2}};
+    EXPECT_EQ(osservate(incastrata, m).size(), 1u);
+}
+
 TEST(ControlloIncastro, SaysNothingOfAnotherToeOrWithoutAReport) {
     EXPECT_TRUE(osservate(conPiede(project::VincoloPiede::cerniera), conValori(0, 30)).empty());
     Margine m = conValori(0, 30);

@@ -72,6 +72,18 @@ TEST(ControlloMaglia, TellsTheLevelOfAKindThatMovesMost) {
     EXPECT_NE(una[0].find("fase 2: Prof. [m] = 5.65: conta dal nodo a 6.00 m"), std::string::npos);
 }
 
+TEST(ControlloMaglia, TellsOneKindOnlyTheExcavationFirst) {
+    EXPECT_EQ(conErrore(conLivelli(4.1, 6.9, 3.05, 8.15), 0.1)
+                  .at(0)
+                  .rfind("[da vedere] scavo-spostato-dai-nodi", 0),
+              0u);
+    EXPECT_EQ(conErrore(conLivelli(4.1, 6.9, 3.05, 8.15), 0.1).size(), 1u);
+    EXPECT_EQ(conErrore(conLivelli(4, 6.9, 3.05, 8.15), 0.1)
+                  .at(0)
+                  .rfind("[da vedere] strato-spostato-dai-nodi", 0),
+              0u);
+}
+
 TEST(ControlloMaglia, SaysNothingWhereTheErrorIsNotKnown) {
     const DatiProgetto dati = conLivelli(4.1, 6.9, 3.05, 8.15);
     ElencoOsservazioni elenco;

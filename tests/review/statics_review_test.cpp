@@ -105,6 +105,13 @@ TEST(ControlloStatica, SaysWhatMakesTheShearDiffer) {
          "; la relazione non vede il taglio sopra un tirante che non è su un nodo: ",
          {"profTirante[1]"}},
         {muro()
+             .con(&DatiProgetto::vincoloPiede, valore(project::VincoloPiede::cerniera))
+             .tirante(3.05, 500)
+             .dati(),
+         altro(20, 10),
+         "; la relazione non vede la reazione al piede: ",
+         {"vincoloPiede"}},
+        {muro()
              .con(&DatiProgetto::vincoloTesta, valore(project::VincoloTesta::cerniera))
              .tirante(3.05, 500)
              .dati(),
