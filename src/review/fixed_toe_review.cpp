@@ -18,7 +18,7 @@ namespace unita = project::unita;
 
 std::string kilonewton(double valore) { return numeroMostrato(valore, 1, unita::forza); }
 
-bool lontano(const Confronto& piede, const Confronto& massimo) {  // by the largest of the stage
+bool lontano(const Confronto& piede, const Confronto& massimo) {  // by the largest of all stages
     return piede.relazione &&
            std::fabs(piede.relazione->valore - piede.statica.valore) >
                std::max(scartoStatica * std::fabs(massimo.statica.valore), staticaTrascurabile);
@@ -38,8 +38,8 @@ const MargineFase* piedePeggiore(const DatiProgetto& dati, const safety::Margine
     double massimo = 0;
     for (const MargineFase& fase : margine.fasi) {
         const safety::ConfrontoFase& c = fase.confronto;
-        const bool taglio = !detto && lontano(c.taglioPiede, c.taglio);
-        if (!taglio && !lontano(c.momentoPiede, c.momento)) continue;
+        const bool taglio = !detto && lontano(c.taglioPiede, margine.taglio);
+        if (!taglio && !lontano(c.momentoPiede, margine.momento)) continue;
         const double scarto =
             std::fabs(c.taglioPiede.relazione->valore - c.taglioPiede.statica.valore);
         if (scelta && scarto <= massimo) continue;

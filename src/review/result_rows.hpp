@@ -11,10 +11,10 @@ inline constexpr VoceOsservazione vociRisultati[] = {
     {"risultato-non-mostrabile", Peso::impedisce, "sicurezza", ""},
 
     // A run that ends so leaves no result file, though nothing is wrong with the wall.
-    {"iterazione-che-oscilla", Peso::impedisce, "sicurezza", ""},
-    {"meccanismo", Peso::pericolo, "sicurezza", ""},
-    {"equilibrio-non-definito", Peso::pericolo, "sicurezza", ""},
-    {"nessun-numero", Peso::pericolo, "sicurezza", ""},
+    {"iterazione-che-oscilla", Peso::impedisce, "osservazioni_risultati", ""},
+    {"meccanismo", Peso::pericolo, "osservazioni_risultati", ""},
+    {"equilibrio-non-definito", Peso::pericolo, "osservazioni_risultati", ""},
+    {"nessun-numero", Peso::pericolo, "osservazioni_risultati", ""},
 
     {"riduzione-bassa", Peso::daVedere, "margine",
      "riduzione di resistenza %1, sotto %2; oltre, %3: controllare infissione, tiranti e carichi"},
@@ -27,62 +27,62 @@ inline constexpr VoceOsservazione vociRisultati[] = {
     {"passiva-esaurita", Peso::pericolo, "margine",
      "la spinta passiva davanti alla paratia è usata al %1 %, oltre il %2 %%3: allungare la "
      "paratia o ridurre scavo e carichi"},
-    {"spostamento-grande", Peso::daVedere, "sicurezza",
+    {"spostamento-grande", Peso::daVedere, "osservazioni_risultati",
      "spostamento massimo %1 mm a %2 m di profondità, 1/%3 dello scavo, più di 1/%4: controllare "
      "che cosa sta vicino alla paratia"},
-    {"spostamento-eccessivo", Peso::pericolo, "sicurezza",
+    {"spostamento-eccessivo", Peso::pericolo, "osservazioni_risultati",
      "spostamento massimo %1 mm a %2 m di profondità, 1/%3 dello scavo, più di 1/%4: controllare "
      "rigidezza, tiranti, infissione e valori di ks"},
-    {"piede-verso-lo-scavo", Peso::daVedere, "sicurezza",
+    {"piede-verso-lo-scavo", Peso::daVedere, "osservazioni_risultati",
      "il piede si sposta di %1 mm verso lo scavo, il %2 % dello spostamento massimo: il terreno "
      "davanti lo trattiene poco, controllare l'infissione"},
 
-    {"tiro-impreciso", Peso::daVedere, "tiranti_calcolo",
+    {"tiro-impreciso", Peso::daVedere, "osservazioni_risultati",
      "la relazione dà il tiro %1 kN, quello vero è %2 kN (fase %3): lo calcola da spostamenti con "
      "sette decimali, che bastano fino a circa %4 kN/m"},
-    {"tiro-sbagliato", Peso::pericolo, "tiranti_calcolo",
+    {"tiro-sbagliato", Peso::pericolo, "osservazioni_risultati",
      "la relazione dà il tiro %1 kN, quello vero è %2 kN (fase %3): lo calcola da spostamenti con "
      "sette decimali, che bastano fino a circa %4 kN/m; usare il tiro vero o una rigidezza minore"},
-    {"tiro-diverso", Peso::daVedere, "tiranti_calcolo",
+    {"tiro-diverso", Peso::daVedere, "osservazioni_risultati",
      "la relazione dà il tiro %1 kN, il più grande delle fasi è %2 kN (fase %3): usare questo"},
-    {"tiro-di-segno-opposto", Peso::daVedere, "tiranti_calcolo",
+    {"tiro-di-segno-opposto", Peso::daVedere, "osservazioni_risultati",
      "nella fase %1 il tiro cambia segno, %2 kN, e la relazione non lo dice, dà %3 kN: verificare "
      "l'elemento nei due sensi o indicarlo solo a trazione"},
-    {"puntone-scaricato", Peso::daVedere, "tiranti_calcolo",
+    {"puntone-scaricato", Peso::daVedere, "osservazioni_risultati",
      "la relazione dà la pretensione, %1 kN, ma in nessuna fase il tiro supera %2 kN (fase %3): la "
      "paratia torna verso monte e lo scarica"},
-    {"tirante-lento-nel-taglio", Peso::daVedere, "tiranti_calcolo",
+    {"tirante-lento-nel-taglio", Peso::daVedere, "osservazioni_risultati",
      "è lento nella fase %1, ma %3 conta un tiro di %2 kN: prendere il taglio dell'equilibrio"},
 
-    {"momento-minore-della-statica", Peso::pericolo, "mesh",
+    {"momento-minore-della-statica", Peso::pericolo, "osservazioni_risultati",
      "momento massimo della relazione %1 kN m (fase %2, a %3 m), dell'equilibrio %4 kN m (fase %5, "
      "a %6 m)%7: verificare la sezione con il secondo"},
-    {"momento-maggiore-della-statica", Peso::daVedere, "mesh",
+    {"momento-maggiore-della-statica", Peso::daVedere, "osservazioni_risultati",
      "momento massimo della relazione %1 kN m (fase %2, a %3 m), dell'equilibrio %4 kN m (fase %5, "
      "a %6 m)%7: il primo non è della paratia"},
-    {"taglio-minore-della-statica", Peso::pericolo, "mesh",
+    {"taglio-minore-della-statica", Peso::pericolo, "osservazioni_risultati",
      "taglio massimo della relazione %1 kN (fase %2, a %3 m), dell'equilibrio %4 kN (fase %5, a %6 "
      "m)%7: verificare la sezione con il secondo"},
-    {"taglio-maggiore-della-statica", Peso::daVedere, "mesh",
+    {"taglio-maggiore-della-statica", Peso::daVedere, "osservazioni_risultati",
      "taglio massimo della relazione %1 kN (fase %2, a %3 m), dell'equilibrio %4 kN (fase %5, a %6 "
      "m)%7: il primo non è della paratia"},
-    {"taglio-di-altra-fase", Peso::pericolo, "taglio_verifica",
+    {"taglio-di-altra-fase", Peso::pericolo, "osservazioni_risultati",
      "la verifica a taglio conta soltanto l'ultima fase, %1 kN, ma qui il taglio arriva a %2 kN, a "
      "%3 m: verificare anche questo"},
-    {"valori-al-piede-incastrato", Peso::daVedere, "mesh",
+    {"valori-al-piede-incastrato", Peso::daVedere, "osservazioni_risultati",
      "nella fase %1 la relazione dà al piede momento %2 kN m e taglio %3 kN, l'equilibrio %4 kN m "
      "e "
      "%5 kN: usare questi"},
-    {"incastro-cedevole", Peso::daVedere, "mesh",
+    {"incastro-cedevole", Peso::daVedere, "osservazioni_risultati",
      "l'incastro gira del %1 % della rotazione massima (fase %2): con nodi così vicini le sue "
      "molle "
      "cedono, ridurre i segmenti"},
 
-    {"scavo-spostato-dai-nodi", Peso::daVedere, "mesh",
+    {"scavo-spostato-dai-nodi", Peso::daVedere, "osservazioni_risultati",
      "conta dal nodo a %1 m, %2 m più giù, e la maglia sbaglia %3 del %4 %: aumentare i segmenti"},
-    {"falda-spostata-dai-nodi", Peso::daVedere, "mesh",
+    {"falda-spostata-dai-nodi", Peso::daVedere, "osservazioni_risultati",
      "conta dal nodo a %1 m, %2 m più giù, e la maglia sbaglia %3 del %4 %: aumentare i segmenti"},
-    {"strato-spostato-dai-nodi", Peso::daVedere, "mesh",
+    {"strato-spostato-dai-nodi", Peso::daVedere, "osservazioni_risultati",
      "lo strato che segue conta dal nodo a %1 m, %2 m più giù, e la maglia sbaglia %3 del %4 %: "
      "aumentare i segmenti"},
 };

@@ -26,8 +26,8 @@ Osservazioni osservate(const DatiProgetto& dati, const Margine& margine) {
 Margine conValori(double momento, double taglio) {
     Margine m = margineSano(incastrata);
     auto& c = m.fasi[1].confronto;
-    c.momento.statica = {20, 5, 2};
-    c.taglio.statica = {10, 5, 2};
+    m.momento.statica = {20, 5, 2};
+    m.taglio.statica = {10, 5, 2};
     c.momentoPiede = {{-12, 10, 2}, results::NumeroRelazione{momento, 10, 2}};
     c.taglioPiede = {{-4, 10, 2}, results::NumeroRelazione{taglio, 10, 2}};
     return m;
