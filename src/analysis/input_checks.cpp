@@ -25,35 +25,39 @@ bool bowlesSenzaAttrito(const DatiProgetto& dati) {
 
 struct Controllo {
     bool (*fallisce)(const DatiProgetto&);
-    std::string_view messaggio;
+    MotivoRifiuto motivo;
 };
 
 constexpr Controllo controlli[] = {
     {senzaLunghezza,
-     "Non è ancora stata definita la lunghezza della paratia, i calcoli non possono pertanto "
-     "essere eseguiti."},
+     {"Non è ancora stata definita la lunghezza della paratia, i calcoli non possono pertanto "
+      "essere eseguiti.",
+      &DatiProgetto::lunghezzaParatia}},
     {senzaStrati,
-     "Non è ancora stata definita la stratigrafia del terreno, i calcoli non possono pertanto "
-     "essere eseguiti."},
+     {"Non è ancora stata definita la stratigrafia del terreno, i calcoli non possono pertanto "
+      "essere eseguiti.",
+      &DatiProgetto::nStrati}},
     {senzaFasi,
-     "Non sono ancora state definite le fasi di scavo, i calcoli non possono pertanto essere "
-     "eseguiti."},
+     {"Non sono ancora state definite le fasi di scavo, i calcoli non possono pertanto essere "
+      "eseguiti.",
+      &DatiProgetto::nFasi}},
     {bowlesSenzaAttrito,
-     "Con il metodo scelto per il calcolo di Ks non sono ammessi angoli di attrito nulli."},
+     {"Con il metodo scelto per il calcolo di Ks non sono ammessi angoli di attrito nulli.",
+      &DatiProgetto::metodoKs}},
 };
 
 }  // namespace
 
-std::vector<std::string_view> motiviRifiuto(const DatiProgetto& dati) {
-    std::vector<std::string_view> motivi;
-    for (const auto& [fallisce, messaggio] : controlli)
-        if (fallisce(dati)) motivi.push_back(messaggio);
+std::vector<MotivoRifiuto> motiviRifiuto(const DatiProgetto& dati) {
+    std::vector<MotivoRifiuto> motivi;
+    for (const auto& [fallisce, motivo] : controlli)
+        if (fallisce(dati)) motivi.push_back(motivo);
     return motivi;
 }
 
 std::string_view motivoRifiuto(const DatiProgetto& dati) {
     const auto motivi = motiviRifiuto(dati);
-    return motivi.empty() ? std::string_view{} : motivi.front();
+    return motivi.empty() ? std::string_view{} : motivi.front().messaggio;
 }
 
 std::string motivoFerri(const DatiProgetto& dati) {

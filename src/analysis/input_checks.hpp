@@ -4,14 +4,20 @@
 #include <string_view>
 #include <vector>
 
+#include "project/field_table.hpp"
 #include "project/project_data.hpp"
 
 namespace korven::analysis {
 
-/// The reasons why a run would be refused before anything is read or written, as Italian keys,
-/// in the order in which they are looked at. A missing stiffness is none of them: the section
-/// may give it.
-[[nodiscard]] std::vector<std::string_view> motiviRifiuto(const project::DatiProgetto& dati);
+/// A reason to refuse a run, and the field that is to be mended.
+struct MotivoRifiuto {
+    std::string_view messaggio;  ///< Italian key
+    project::Membro campo;
+};
+
+/// The reasons why a run would be refused before anything is read or written, in the order in
+/// which they are looked at. A missing stiffness is none of them: the section may give it.
+[[nodiscard]] std::vector<MotivoRifiuto> motiviRifiuto(const project::DatiProgetto& dati);
 
 /// The first of them, which a run tells; empty if there is none.
 [[nodiscard]] std::string_view motivoRifiuto(const project::DatiProgetto& dati);

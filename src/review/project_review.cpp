@@ -41,7 +41,9 @@ void controlloCodici(const DatiProgetto& dati, ElencoOsservazioni& elenco) {
 
 void controlloIngressi(const DatiProgetto& dati, ElencoOsservazioni& elenco) {
     const auto motivi = analysis::motiviRifiuto(dati);
-    for (const auto motivo : motivi) elenco.conParole("dati-mancanti", traduttore(motivo));
+    for (const auto& [messaggio, campo] : motivi)
+        elenco.conParole("dati-mancanti", {{}, {project::nomeStabile(project::campo(campo))}},
+                         traduttore(messaggio));
     const auto nSeg = analysis::leggiNSeg(analysis::vincoli(dati).incastroPiede);
     if (!nSeg) elenco.conParole("segmenti-non-ammessi", traduttore(analysis::motivoNSeg()));
     if (!motivi.empty() || !nSeg) return;

@@ -41,7 +41,8 @@ void controlloResistenza(const DatiProgetto& dati, ElencoOsservazioni& elenco) {
     structure::momentiResistenti(dati.sezione, dati.sforzoNormale, MRd);
     constexpr double nulla = resistenzaNulla * project::newtonKilonewton * project::millimetriMetro;
     if (!(std::max(std::abs(MRd[1]), std::abs(MRd[2])) >= nulla))
-        elenco.aggiungi("sezione-senza-resistenza");
+        elenco.aggiungi("sezione-senza-resistenza",
+                        {{}, campoConValore(&project::Sezione::fyk, dati.sezione.fyk).campi});
 }
 
 }  // namespace korven::review

@@ -120,16 +120,25 @@ void controlloMisure(const Sezione& s, ElencoOsservazioni& elenco) {
     }
 }
 
+// A line that says by itself what it is about.
+template <class Membri>
+Soggetto soloCampi(const Membri& membri) {
+    Soggetto soggetto;
+    for (const auto membro : membri)
+        soggetto.campi.push_back(project::nomeStabile(project::campo(membro)));
+    return soggetto;
+}
+
 void controlloTipo(const Sezione& s, ElencoOsservazioni& elenco) {
     const int tipi = s.tipoDiaframma + s.tipoPali + s.tipoPalancola + s.tipoPaliArmati;
-    if (tipi > 1) elenco.aggiungi("piu-tipi");
+    if (tipi > 1) elenco.aggiungi("piu-tipi", soloCampi(project::tipiSezione));
     if (structure::sezioneValida(s) || !qualcosaScritto(s)) return;
     if (structure::sezioneDefinita(s))
-        elenco.aggiungi("pali-senza-interno");
+        elenco.aggiungi("pali-senza-interno", soloCampi(structure::campiMancanti(s)));
     else if (tipi == 0)
-        elenco.aggiungi("sezione-senza-tipo");
+        elenco.aggiungi("sezione-senza-tipo", soloCampi(project::tipiSezione));
     else
-        elenco.aggiungi("sezione-incompleta");
+        elenco.aggiungi("sezione-incompleta", soloCampi(structure::campiMancanti(s)));
 }
 
 // The editor stores a tenth of the number that is typed, so 12 typed for twelve bars becomes 1.2.

@@ -107,6 +107,19 @@ std::string luogo(int fase, double profondita) {
            testoNumero(profondita) + " m: ";
 }
 
+// The field of a layer that leaves a soil quantity without a value.
+std::vector<std::string> campiIndefiniti(analysis::Indefinito motivo, int strato) {
+    if (strato == 0) return {};
+    switch (motivo) {
+        case analysis::Indefinito::tensioneNegativa:
+            return riga(&DatiProgetto::gammaSat, strato).campi;
+        case analysis::Indefinito::spessoreNullo:
+            return riga(&DatiProgetto::profStrato, strato).campi;
+        default:
+            return riga(&DatiProgetto::phiStrato, strato).campi;
+    }
+}
+
 std::string luogo(int fase, double profondita, int strato, project::Lato lato) {
     return traduttore("fase") + " " + std::to_string(fase) + ", " + traduttore("profondità") + " " +
            testoNumero(profondita) + " m, " +
@@ -167,8 +180,10 @@ void controlloSuolo(const DatiProgetto& scritti, int nSeg, ElencoOsservazioni& e
     for (int k = 1; k <= dati.nFasi; ++k) {
         dati.faldaValle = dati.faldaFase[k];
         if (const auto rifiuto = analysis::calcolaSuolo(dati, k, nSeg + 1, passoNodi, *suolo)) {
+            const int strato = analysis::tensioneMonte(dati, rifiuto->profondita).strato;
+            const Soggetto colpa{{}, campiIndefiniti(rifiuto->motivo, strato)};
             elenco.conParole(
-                "suolo-non-calcolabile",
+                "suolo-non-calcolabile", colpa,
                 luogo(k, rifiuto->profondita) + traduttore(analysis::causa(rifiuto->motivo)));
             return;
         }

@@ -49,7 +49,7 @@ void controlloAcqua(const DatiProgetto& dati, ElencoOsservazioni& elenco) {
     if (const auto zero = fasi(dati, aZero); !zero.empty())
         elenco.aggiungi("acqua-a-zero", insieme(monte, livelli(zero)), lunghezza);
     if (const auto alta = fasi(dati, piuAltaDavanti); !alta.empty())
-        elenco.aggiungi("acqua-piu-alta-davanti", insieme(monte, livelli(alta)), lunghezza);
+        elenco.aggiungi("acqua-piu-alta-davanti", insieme(livelli(alta), monte), lunghezza);
     if (const auto nelloScavo = fasi(dati, sopraLoScavo); !nelloScavo.empty())
         elenco.aggiungi("acqua-sopra-lo-scavo", livelli(nelloScavo));
 }

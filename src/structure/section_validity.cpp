@@ -49,6 +49,10 @@ constexpr CampoRichiesto campiRichiesti[] = {
     {TipoSezione::paliArmati, &Sezione::fck},
 };
 
+constexpr double Sezione::*campiFacce[] = {&Sezione::copriferroMonte, &Sezione::interasseMonte,
+                                           &Sezione::diametroMonte,   &Sezione::copriferroValle,
+                                           &Sezione::interasseValle,  &Sezione::diametroValle};
+
 bool completa(const Sezione& sezione, bool perLaRelazione) {
     const TipoSezione tipo = tipoSezione(sezione);
     if (tipo == TipoSezione::nessuno) return false;
@@ -78,5 +82,17 @@ bool staffePresenti(const Sezione& sezione) {
 bool sezioneValida(const Sezione& sezione) { return completa(sezione, false); }
 
 bool sezioneDefinita(const Sezione& sezione) { return completa(sezione, true); }
+
+std::vector<double Sezione::*> campiMancanti(const Sezione& sezione) {
+    const TipoSezione tipo = tipoSezione(sezione);
+    std::vector<double Sezione::*> mancanti;
+    for (const CampoRichiesto& riga : campiRichiesti)
+        if (riga.tipo == tipo && !(sezione.*riga.campo > 0)) mancanti.push_back(riga.campo);
+    if (tipo == TipoSezione::diaframma && !facciaCompleta(sezione, project::Lato::monte) &&
+        !facciaCompleta(sezione, project::Lato::valle))
+        for (const auto campo : campiFacce)
+            if (!(sezione.*campo > 0)) mancanti.push_back(campo);
+    return mancanti;
+}
 
 }  // namespace korven::structure

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include "project/section.hpp"
 
 namespace korven::structure {
@@ -18,6 +20,11 @@ namespace korven::structure {
 ///
 /// Stiffness, bending and shear are computed only after this test.
 [[nodiscard]] bool sezioneValida(const project::Sezione& sezione);
+
+/// The fields that `sezioneValida` asks for and that are not above 0, those of the faces of a
+/// diaphragm without a complete one included. Empty for a section without a type.
+[[nodiscard]] std::vector<double project::Sezione::*> campiMancanti(
+    const project::Sezione& sezione);
 
 /// The milder test by which the report decides whether it shows the section: as `sezioneValida`,
 /// but side-by-side piles may lack `paliDiamInt`. Such piles are shown with resistances of 0, since

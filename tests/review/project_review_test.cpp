@@ -36,6 +36,15 @@ TEST(EsaminaProgetto, TellsEveryFailedInputCheckOfARunNotTheFirstAlone) {
             "! Il valore di EJ non è ancora stato definito."}));
 }
 
+TEST(EsaminaProgetto, NamesTheFieldOfEachFailedInputCheck) {
+    DatiProgetto d = test::progettoVuoto();
+    test::primiCodici(d);
+    std::vector<std::vector<std::string>> campi;
+    for (const auto& o : osservazioni(d)) campi.push_back(o.campi);
+    EXPECT_EQ(campi, (std::vector<std::vector<std::string>>{
+                         {"lunghezzaParatia"}, {"nStrati"}, {"nFasi"}, {"rigidezzaEJ"}}));
+}
+
 TEST(EsaminaProgetto, RefusesBowlesOnALayerWithoutFriction) {
     aspetta({{[](DatiProgetto& d) {
                   d.metodoKs = valore(MetodoKs::bowles);

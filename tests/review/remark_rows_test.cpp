@@ -4,6 +4,7 @@
 
 #include "base/code_page.hpp"
 #include "project/codes.hpp"
+#include "project/field_table.hpp"
 #include "project/project_file.hpp"
 #include "review/bench.hpp"
 #include "review/remark_table.hpp"
@@ -232,6 +233,16 @@ TEST(RigheOsservazioni, AreEachBroughtByAProjectAndNotByTheSoundOne) {
     }
     for (const auto& scenario : scenariFile)
         EXPECT_TRUE(conCodice(delFile(scenario), scenario.codice)) << scenario.codice;
+}
+
+// The first that an editor shows is what the window of remarks leads to.
+TEST(RigheOsservazioni, NameFieldsOfTheProject) {
+    for (const auto& [codice, modifica] : scenari)
+        for (const auto& o : osservazioni(conModifica(modifica))) {
+            EXPECT_EQ(o.campi.empty(), o.codice == "descrizione-senza-posto") << o.codice;
+            for (const auto& campo : o.campi)
+                EXPECT_TRUE(project::campoNominato(campo)) << o.codice << ' ' << campo;
+        }
 }
 
 TEST(RigheOsservazioni, HaveAProjectEach) {

@@ -46,11 +46,12 @@ TEST(ControlloAcqua, LetsGroundWaterReachTheSurfaceBeforeAnythingIsDug) {
 }
 
 TEST(ControlloAcqua, TellsWaterHigherInFrontThanBehindWhereTheWallFeelsIt) {
-    EXPECT_EQ(con(4, 3, 5), Righe{monte + "4, fase 1: Prof. falda [m] = 3" + davanti});
+    EXPECT_EQ(con(4, 3, 5), Righe{"fase 1: Prof. falda [m] = 3, " + monte + "4" + davanti});
     EXPECT_EQ(con(5, 5, 5), Righe{});
     EXPECT_EQ(con(1000, 12, 50), Righe{});  // both below the toe
-    EXPECT_EQ(con(1000, 11.9, 50), Righe{monte + "1000, fase 1: Prof. falda [m] = 11.9" + davanti});
-    EXPECT_EQ(con(1000, 0, 50), (Righe{monte + "1000, fase 1: Prof. falda [m] = 0" + davanti,
+    EXPECT_EQ(con(1000, 11.9, 50),
+              Righe{"fase 1: Prof. falda [m] = 11.9, " + monte + "1000" + davanti});
+    EXPECT_EQ(con(1000, 0, 50), (Righe{"fase 1: Prof. falda [m] = 0, " + monte + "1000" + davanti,
                                        "fase 1: Prof. falda [m] = 0" + nelloScavo}));
 }
 

@@ -109,6 +109,28 @@ TEST(SezioneValida, FirstTrueFlagDecidesWhichFieldsAreAsked) {
     EXPECT_FALSE(sezioneValida(s));
 }
 
+TEST(CampiMancanti, AreThoseAskedForThatAreNotAboveZero) {
+    for (const Caso& caso : casi) {
+        EXPECT_TRUE(campiMancanti(caso.sezione).empty()) << caso.nome;
+        Sezione s = caso.sezione;
+        s.*caso.richiesti[1] = 0;
+        s.*caso.richiesti[3] = -1;
+        EXPECT_EQ(campiMancanti(s),
+                  (std::vector<double Sezione::*>{caso.richiesti[1], caso.richiesti[3]}))
+            << caso.nome;
+    }
+    EXPECT_TRUE(campiMancanti(Sezione{}).empty());
+}
+
+TEST(CampiMancanti, OfADiaphragmAreThoseOfItsFacesWithoutAWholeOne) {
+    auto s = diaframmaSimmetrico();
+    s.diametroMonte = 0;
+    EXPECT_TRUE(campiMancanti(s).empty());
+    s.copriferroValle = 0;
+    EXPECT_EQ(campiMancanti(s),
+              (std::vector<double Sezione::*>{&Sezione::diametroMonte, &Sezione::copriferroValle}));
+}
+
 TEST(SezioneDefinita, DiffersInTheInnerDiameterOfPilesAlone) {
     for (const Caso& caso : casi)
         for (std::size_t i = 0; i < caso.richiesti.size(); ++i) {
