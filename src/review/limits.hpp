@@ -62,6 +62,17 @@ inline constexpr double erroreMagliaDetto = 0.05;
 /// far as any drawing of the wall shows.
 inline constexpr double cedimentoIncastro = 0.01;
 
+/// Weights above this can't be t/m3 [t/m3]: they were meant as kN/m3. Reason: steel weighs 7.85,
+/// the heaviest soil half of 5.
+inline constexpr double massimoPeso = 5;
+
+/// Depth of a layer [m] that no wall reaches: the deepest diaphragm walls have 150 m.
+inline constexpr double profonditaInsolita = 200;
+
+/// A typed stiffness this many times the section's own, or less than that part of it, is a slip.
+/// Reason: cracks and creep halve it.
+inline constexpr double scartoRigidezza = 3;
+
 /// What a number of the section may be without a word.
 struct Intervallo {
     double minimo;

@@ -81,9 +81,6 @@ class ElencoOsservazioni {
 
 [[nodiscard]] bool intero(double valore);
 
-/// Weights above this can't be t/m3 [t/m3]: they were meant as kN/m3.
-inline constexpr double massimoPeso = 5;
-
 /// The layers, the ground and the water.
 void controlloTerreno(const project::DatiProgetto& dati, ElencoOsservazioni& elenco);
 

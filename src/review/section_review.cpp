@@ -29,9 +29,6 @@ double rigidezzaDallaSezione(const Sezione& s) {
     return structure::troppiFerri(s) ? 0 : structure::rigidezzaOfferta(s).value_or(0);
 }
 
-// A typed stiffness this many times the section's own, or less than that part of it, is a slip.
-constexpr double scartoRigidezza = 3;
-
 void controlloRigidezza(const DatiProgetto& dati, ElencoOsservazioni& elenco) {
     const double EJ = dati.rigidezzaEJ;
     const double sezione = rigidezzaDallaSezione(dati.sezione);

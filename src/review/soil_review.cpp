@@ -11,6 +11,7 @@
 #include "base/translated_texts.hpp"
 #include "project/codes.hpp"
 #include "project/shown_number.hpp"
+#include "review/limits.hpp"
 #include "review/remark_list.hpp"
 
 namespace korven::review {
@@ -23,8 +24,6 @@ using project::DatiProgetto;
 using project::massimoStrati;
 using project::MetodoKs;
 using project::MetodoSpinte;
-
-constexpr double profonditaInsolita = 200;  // no wall reaches there [m]
 
 struct ControlloStrato {
     base::Tabella<double, massimoStrati> DatiProgetto::*colonna;

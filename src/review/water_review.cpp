@@ -1,5 +1,3 @@
-#include <algorithm>
-
 #include "base/number_text.hpp"
 #include "review/remark_list.hpp"
 
@@ -13,7 +11,9 @@ namespace {
 using project::DatiProgetto;
 
 bool livelliMaiScritti(const DatiProgetto& d) {
-    return std::all_of(&d.faldaFase[1], &d.faldaFase[1] + d.nFasi, [](double z) { return z == 0; });
+    for (int k = 1; k <= d.nFasi; ++k)
+        if (d.faldaFase[k] != 0) return false;
+    return true;
 }
 
 // Ground water may well reach the surface before anything is dug, if later stages lower it.
