@@ -111,5 +111,6 @@ void caricaTesti(const std::string& percorsoComuni, const std::string& percorsoM
 void impostaLingua(int codice) { lingua = codice; }
 int linguaCorrente() { return lingua; }
 void impostaModoProva(Dialogo* dialogo) { modoProva = dialogo; }
+bool inModoProva() { return modoProva != nullptr; }
 
 }  // namespace korven::base

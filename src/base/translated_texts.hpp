@@ -40,6 +40,9 @@ void impostaLingua(int codice);
 ///
 /// @param dialogo  not owned; must outlive the mode
 void impostaModoProva(Dialogo* dialogo);
+/// True in that mode, in which `traduttore` may open a box: whoever calls it is in the thread of
+/// the forms.
+[[nodiscard]] bool inModoProva();
 
 /// The rule of `traduttore` on tables of one's own, already sorted.
 /// @param prova     dialog of the test mode, nullptr when it is off

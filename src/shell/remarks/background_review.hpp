@@ -11,7 +11,8 @@ namespace korven::shell {
 
 /// Computes the remarks on results beside the forms, which never wait for it: a fine mesh takes up
 /// to a second. One computation at a time; of the questions that come meanwhile the last alone is
-/// followed up.
+/// followed up. In the translators' test mode, whose boxes belong to the forms, it is no help and
+/// answers at once.
 class RevisioneInDisparte : public QObject {
  public:
     using Domanda = commands::OsservazioniAperte::Domanda;

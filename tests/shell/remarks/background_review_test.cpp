@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include "base/translated_texts.hpp"
 #include "review/result_review.hpp"
+#include "support/dialog_double.hpp"
 #include "support/form_setup.hpp"
 #include "support/sample_projects.hpp"
 
@@ -48,6 +50,14 @@ TEST_F(RevisioneInDisparteTest, FollowsUpTheLastOfTheQuestionsThatComeMeanwhile)
     revisione.chiedi(domanda(3, 12));
     aspetta(2);
     EXPECT_EQ(numeri, (std::vector<int>{1, 3}));
+}
+
+TEST_F(RevisioneInDisparteTest, AnswersAtOnceInTheTranslatorsTestMode) {
+    test::DialogoFinto dialogo;
+    base::impostaModoProva(&dialogo);
+    revisione.chiedi(domanda(4, 7.5));
+    EXPECT_EQ(numeri, std::vector<int>{4});
+    base::impostaModoProva(nullptr);
 }
 
 TEST_F(RevisioneInDisparteTest, CanGoWhileItComputes) {
