@@ -30,20 +30,20 @@ struct Controllo {
 
 constexpr Controllo controlli[] = {
     {senzaLunghezza,
-     {"Non è ancora stata definita la lunghezza della paratia, i calcoli non possono pertanto "
-      "essere eseguiti.",
-      &DatiProgetto::lunghezzaParatia}},
+     {&DatiProgetto::lunghezzaParatia,
+      "Non è ancora stata definita la lunghezza della paratia, i calcoli non possono pertanto "
+      "essere eseguiti."}},
     {senzaStrati,
-     {"Non è ancora stata definita la stratigrafia del terreno, i calcoli non possono pertanto "
-      "essere eseguiti.",
-      &DatiProgetto::nStrati}},
+     {&DatiProgetto::nStrati,
+      "Non è ancora stata definita la stratigrafia del terreno, i calcoli non possono pertanto "
+      "essere eseguiti."}},
     {senzaFasi,
-     {"Non sono ancora state definite le fasi di scavo, i calcoli non possono pertanto essere "
-      "eseguiti.",
-      &DatiProgetto::nFasi}},
+     {&DatiProgetto::nFasi,
+      "Non sono ancora state definite le fasi di scavo, i calcoli non possono pertanto essere "
+      "eseguiti."}},
     {bowlesSenzaAttrito,
-     {"Con il metodo scelto per il calcolo di Ks non sono ammessi angoli di attrito nulli.",
-      &DatiProgetto::metodoKs}},
+     {&DatiProgetto::metodoKs,
+      "Con il metodo scelto per il calcolo di Ks non sono ammessi angoli di attrito nulli."}},
 };
 
 }  // namespace

@@ -11,8 +11,8 @@ namespace korven::analysis {
 
 /// A reason to refuse a run, and the field that is to be mended.
 struct MotivoRifiuto {
-    std::string_view messaggio;  ///< Italian key
     project::Membro campo;
+    std::string_view messaggio;  ///< Italian key
 };
 
 /// The reasons why a run would be refused before anything is read or written, in the order in

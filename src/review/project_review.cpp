@@ -41,7 +41,7 @@ void controlloCodici(const DatiProgetto& dati, ElencoOsservazioni& elenco) {
 
 void controlloIngressi(const DatiProgetto& dati, ElencoOsservazioni& elenco) {
     const auto motivi = analysis::motiviRifiuto(dati);
-    for (const auto& [messaggio, campo] : motivi)
+    for (const auto& [campo, messaggio] : motivi)
         elenco.conParole("dati-mancanti", {{}, {project::nomeStabile(project::campo(campo))}},
                          traduttore(messaggio));
     const auto nSeg = analysis::leggiNSeg(analysis::vincoli(dati).incastroPiede);
