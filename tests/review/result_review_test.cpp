@@ -73,5 +73,44 @@ TEST(EsaminaRisultati, TellsWhereTheSpecifiedRunEnds) {
     EXPECT_FALSE(sta("meccanismo"));  // no wall that stands
 }
 
+// Ground that is not dug out, an element at 1 m and a force at the head.
+Osservazioni conElemento(double pretensione, double tipo, double forza) {
+    return esaminaRisultati(test::muro()
+                                .tirante(1, 5000, pretensione, tipo)
+                                .con(&DatiProgetto::forzaTesta, forza)
+                                .fase({.tiranti = 1})
+                                .dati(),
+                            50);
+}
+
+TEST(EsaminaRisultati, TellsAnElementThatTheWallPushesUphillByItsKind) {
+    constexpr double soloTrazione = 0, inDueSensi = 1;
+    EXPECT_TRUE(codice(conElemento(0, soloTrazione, -20), "tirante-lento-nel-taglio"));
+    EXPECT_FALSE(codice(conElemento(0, soloTrazione, 20), "tirante-lento-nel-taglio"));
+    EXPECT_TRUE(codice(conElemento(0, inDueSensi, -20), "tiro-di-segno-opposto"));
+    EXPECT_FALSE(codice(conElemento(0, inDueSensi, 20), "tiro-di-segno-opposto"));
+    EXPECT_TRUE(codice(conElemento(20, inDueSensi, 0), "puntone-scaricato"));
+    EXPECT_FALSE(codice(conElemento(20, soloTrazione, 0), "puntone-scaricato"));
+}
+
+// 10 t at the head are 200 kN in the report's first node.
+TEST(EsaminaRisultati, TellsTheDoubleForceAtTheHead) {
+    const auto mensola = [](double forza) {
+        return esaminaRisultati(
+            test::muro().con(&DatiProgetto::forzaTesta, forza).fase({.scavo = 1}).dati(), 50);
+    };
+    const Osservazioni doppia = mensola(10);
+    ASSERT_TRUE(codice(doppia, "taglio-maggiore-della-statica"));
+    for (const auto& o : doppia)
+        if (o.codice == "taglio-maggiore-della-statica") {
+            EXPECT_NE(o.testo.find("taglio massimo della relazione -200.0 kN (fase 1, a 0.00 m)"),
+                      std::string::npos)
+                << o.testo;
+            EXPECT_NE(o.testo.find("conta due volte la forza in testa"), std::string::npos);
+            EXPECT_EQ(o.campi, std::vector<std::string>{"forzaTesta"});
+        }
+    EXPECT_FALSE(codice(mensola(0), "taglio-maggiore-della-statica"));
+}
+
 }  // namespace
 }  // namespace korven::review
