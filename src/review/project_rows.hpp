@@ -31,6 +31,8 @@ inline constexpr VoceOsservazione vociProgetto[] = {
      "sembra un peso di volume in kN/m³: il file lo tiene in t/m³, dieci volte più piccolo"},
     {"peso-saturo-minore", Peso::pericolo, "stratigrafia",
      "il peso di volume saturo è minore di quello naturale"},
+    {"strato-senza-resistenza", Peso::pericolo, "stratigrafia",
+     "né attrito né coesione: il terreno preme come un liquido e non resiste"},
     {"angolo-non-ammissibile", Peso::pericolo, "stratigrafia", "l'angolo non è ammissibile"},
     {"angolo-minore-del-pendio", Peso::pericolo, "stratigrafia",
      "l'angolo di attrito è minore dell'inclinazione del terreno"},

@@ -52,6 +52,12 @@ const ControlloStrato controlliStrato[] = {
      },
      "peso-saturo-minore"},
     {&DatiProgetto::phiStrato,
+     [](Dati d, int j) {
+         return d.phiStrato[j] == 0 && d.coesione[j] == 0 &&
+                d.profStrato[j - 1] < d.lunghezzaParatia;
+     },
+     "strato-senza-resistenza"},
+    {&DatiProgetto::phiStrato,
      [](Dati d, int j) { return d.phiStrato[j] < 0 || d.phiStrato[j] >= 90; },
      "angolo-non-ammissibile"},
     // Whether a run can do with it depends on the method; `controlloSuolo` finds that out.

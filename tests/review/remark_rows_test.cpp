@@ -56,6 +56,7 @@ const Scenario scenari[] = {
     {"peso-mancante", [](auto& d) { d.gammaN[1] = 0; }},
     {"peso-in-kilonewton", [](auto& d) { d.gammaN[1] = 18; }},
     {"peso-saturo-minore", [](auto& d) { d.gammaSat[1] = 1; }},
+    {"strato-senza-resistenza", [](auto& d) { d.phiStrato[1] = 0; }},
     {"angolo-non-ammissibile", [](auto& d) { d.phiStrato[1] = 95; }},
     {"angolo-minore-del-pendio", [](auto& d) { d.inclinazioneMonte = 31; }},
     {"polo-passivo",

@@ -28,6 +28,19 @@ TEST(ControlloTerreno, NamesWhatIsOddAboutLayers) {
          {"strato 2: Gamma [kN/m³] = 0: peso di volume mancante"}},
         {[](DatiProgetto& d) { d.gammaSat[1] = 0; },
          {"strato 1: Gamma Sat. [kN/m³] = 0: peso di volume mancante"}},
+        {[](DatiProgetto& d) { d.phiStrato[1] = 0; },
+         {"strato 1: Phi [°] = 0: né attrito né coesione: il terreno preme come un liquido e non "
+          "resiste"}},
+        {[](DatiProgetto& d) {
+             d.phiStrato[1] = 0;
+             d.coesione[1] = 1;
+         },
+         {}},
+        {[](DatiProgetto& d) {  // below the toe
+             test::aggiungiStrato(d, {.fondo = 30, .phi = 0});
+             d.profStrato[2] = 12;
+         },
+         {}},
         {[](DatiProgetto& d) { d.ksStrato[1] = 0; },
          {"strato 1: ks [kN/m³] = 0: modulo ks mancante"}},
         {[](DatiProgetto& d) {

@@ -17,10 +17,11 @@ const std::string dueVolte =
 
 // Layers to 4 and 20 m around a wall of 12 m, water behind at 3 m, in front at 3 and 5 m.
 Righe inTotali(const Modifica& modifica) {
-    return righe(conModifica([&](DatiProgetto& d) {
-        d.modoTensioni = valore(ModoTensioni::totali);
-        modifica(d);
-    }));
+    return righeDi(conModifica([&](DatiProgetto& d) {
+                       d.modoTensioni = valore(ModoTensioni::totali);
+                       modifica(d);
+                   }),
+                   {"tensioni-totali-con-attrito"});
 }
 
 TEST(ControlloTensioni, TellsTotalStressesWithFrictionUnderWater) {
@@ -120,7 +121,8 @@ TEST(ControlloTensioni, TellsASlopeAtWhichTheGroundAtRestIsBelowTheActiveState) 
               "coefficiente a riposo (0.373) è minore di quello attivo (0.414)" +
                   detto);
     EXPECT_EQ(pendio(0, 1), Righe{});
-    EXPECT_EQ(righe(conModifica([](DatiProgetto& d) { d.phiStrato[1] = 0; })), Righe{});
+    EXPECT_EQ(righeDi(conModifica([](DatiProgetto& d) { d.phiStrato[1] = 0; }), {"k0-sotto-ka"}),
+              Righe{});
 }
 
 }  // namespace
