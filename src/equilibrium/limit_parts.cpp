@@ -12,7 +12,10 @@ void aggiungi(double z, double h, std::vector<Tratto>& tratti) {
         tratti.push_back({z, z});
 }
 
-bool terreno(const LatoNodo& lato) { return lato.minimo != 0 || lato.massimo != 0; }
+// Soil that moves towards a limit: without a modulus it stays as it is.
+bool terreno(const LatoNodo& lato) {
+    return lato.Eh != 0 && (lato.minimo != 0 || lato.massimo != 0);
+}
 
 }  // namespace
 

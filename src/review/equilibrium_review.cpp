@@ -62,7 +62,8 @@ void controlloEquilibrio(const DatiProgetto& dati, const safety::Margine& margin
     const Diagnosi d{.causa = Causa::oscilla,
                      .fase = fine.fase,
                      .paratia = dati.lunghezzaParatia,
-                     .spostamento = std::fabs(fase.estremi.spostamento.valore)};
+                     .spostamento = std::fabs(fase.estremi.spostamento.valore),
+                     .ostacolo = safety::ostacolo(fine)};
     elenco.conParole("iterazione-che-oscilla", {{}, scavo(dati, fine.fase).campi},
                      safety::frase(d));
 }

@@ -52,6 +52,11 @@ std::string_view parola(EsitoFase esito) {
     return esito == EsitoFase::equilibrio ? "equilibrio" : parola(causa(esito));
 }
 
+Ostacolo ostacolo(const analysis::FineCorsa& fine) {
+    if (fine.modo == analysis::ModoFine::singolare) return Ostacolo::singolare;
+    return fine.iterazioni < iterazioniOscillazione ? Ostacolo::limite : Ostacolo::oscillazione;
+}
+
 Diagnosi diagnosi(const project::DatiProgetto& dati, int nSeg,
                   const equilibrium::EquilibrioParete& parete,
                   const equilibrium::FaseEquilibrio& fase) {

@@ -3,6 +3,7 @@
 #include <optional>
 #include <string_view>
 
+#include "analysis/watch/run_end.hpp"
 #include "equilibrium/limit_parts.hpp"
 #include "equilibrium/staged_equilibrium.hpp"
 #include "project/project_data.hpp"
@@ -27,6 +28,20 @@ enum class Causa {
 /// "nessun_numero".
 [[nodiscard]] std::string_view parola(equilibrium::EsitoFase esito);
 
+/// What keeps the specified run from the equilibrium of a stage that has one.
+enum class Ostacolo {
+    oscillazione,  ///< states change to and fro
+    singolare,     ///< a system on the way is singular
+    limite,        ///< its limit of iterations, before they could be said to go to and fro
+};
+
+/// Iterations after which a stage that is not at rest counts as one that goes to and fro; what
+/// comes to rest does so in a tenth of them.
+inline constexpr int iterazioniOscillazione = 200;
+
+/// The one that such an end of a run tells of.
+[[nodiscard]] Ostacolo ostacolo(const analysis::FineCorsa& fine);
+
 /// Why a stage is no equilibrium, or why the specified run found none of one that is.
 struct Diagnosi {
     Causa causa = Causa::oscilla;
@@ -39,6 +54,7 @@ struct Diagnosi {
     equilibrium::DatoInstabile instabile{};                               ///< of `nonDefinito`
     equilibrium::EsitoNewton newton = equilibrium::EsitoNewton::trovato;  ///< of `nessunNumero`
     double spostamento = 0;  ///< of `oscilla`: largest displacement of the stage in size [m]
+    Ostacolo ostacolo = Ostacolo::oscillazione;  ///< of `oscilla`
 };
 
 /// Of a stage just computed.

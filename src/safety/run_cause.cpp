@@ -21,7 +21,8 @@ CausaCorsa causaCorsa(const analysis::FineCorsa& fine, const project::DatiProget
             return {Causa::nessunNumero, {}};
         case ModoFine::singolare:
         case ModoFine::oltreLimite: {
-            const Diagnosi d = diagnosi(dati, nSeg, fine.fase);
+            Diagnosi d = diagnosi(dati, nSeg, fine.fase);
+            d.ostacolo = ostacolo(fine);
             return {d.causa, frase(d)};
         }
     }

@@ -4,6 +4,7 @@
 
 #include "analysis/iteration_state.hpp"
 #include "project/project_data.hpp"
+#include "safety/diagnosis.hpp"
 
 namespace korven::safety {
 
@@ -12,7 +13,7 @@ namespace korven::safety {
 class FaseSenzaRiposo {
  public:
     /// Iterations of one stage after which the equilibrium is asked, once.
-    static constexpr int iterazioniPrima = 200;
+    static constexpr int iterazioniPrima = iterazioniOscillazione;
 
     /// Takes one iteration.
     /// @param dati  the project of the run

@@ -7,6 +7,7 @@
 #include "analysis/watch/run_end.hpp"
 #include "equilibrium/extremes.hpp"
 #include "results/report_numbers.hpp"
+#include "safety/diagnosis.hpp"
 
 // The numbers of the report beside those of the balance of the nodes. The two differ where the
 // report's rules leave the statics: the force at the top, slack anchors, a fixed toe, very stiff
@@ -15,7 +16,7 @@
 namespace korven::safety {
 
 /// Solves of one stage after which the specified run counts as one that does not come to rest.
-inline constexpr int massimeIterazioni = 200;
+inline constexpr int massimeIterazioni = iterazioniOscillazione;
 
 /// The specified run in memory.
 struct RelazioneInMemoria {

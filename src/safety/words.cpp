@@ -98,6 +98,19 @@ std::string rimedio(const Diagnosi& d) {
            unito(metri(*d.lunghezza), unita::metri);
 }
 
+// What keeps the specified run from it.
+std::string_view chiave(Ostacolo ostacolo) {
+    switch (ostacolo) {
+        case Ostacolo::oscillazione:
+            break;
+        case Ostacolo::singolare:
+            return "soltanto l'iterazione si ferma davanti a un sistema singolare";
+        case Ostacolo::limite:
+            return "l'iterazione si è fermata al suo limite prima di arrivarvi";
+    }
+    return "oscilla soltanto l'iterazione";
+}
+
 }  // namespace
 
 std::string metri(double m) {
@@ -190,7 +203,7 @@ std::string inBreve(const Diagnosi& d) {
             return nella("la paratia sta nella fase", d) + ", " +
                    traduttore("con uno spostamento massimo di") + " " +
                    valore(d.spostamento, unita::spostamentoFine) + ": " +
-                   traduttore("oscilla soltanto l'iterazione");
+                   traduttore(chiave(d.ostacolo));
         case Causa::nonDefinito:
             return nella("l'equilibrio non è definito nella fase", d) + ": " + parole(d.instabile);
         case Causa::nessunNumero:

@@ -26,9 +26,10 @@ TEST(PartiAlLimite, AreThoseOfTheSideThatEachPartMovesTo) {
     EXPECT_EQ(parti.tirantiLenti, std::vector<int>{1});
 }
 
-TEST(PartiAlLimite, LeaveOutWhatHasNoSoilOrIsRestrained) {
+TEST(PartiAlLimite, LeaveOutWhatHasNoSoilOrNoModulusOrIsRestrained) {
     auto p = test::pareteNuda(5, 1);
     p.nodi[0].monte = p.nodi[2].monte = p.nodi[4].monte = {2, -100, 1, 5};
+    p.nodi[1].monte = {2, 0, 1, 5};
     p.nodi[2].vincolato = true;
     const auto parti = partiAlLimite(p, {true, 0, 1, 0});
     EXPECT_EQ(parti.monteAttivo, (std::vector<Tratto>{{0, 0}, {4, 4}}));

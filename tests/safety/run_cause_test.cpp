@@ -35,9 +35,21 @@ TEST(CausaCorsa, AsksTheEquilibriumOfARunThatFoundNoRest) {
         const CausaCorsa cade = causaCorsa({modo, 1}, muro("meccanismo"), 50);
         EXPECT_EQ(cade.causa, Causa::meccanismo);
         EXPECT_TRUE(cade.frase.starts_with("la paratia è un meccanismo nella fase 1: "));
-        const CausaCorsa sta = causaCorsa({modo, 2}, muro("oscilla_1"), 50);
+    }
+}
+
+TEST(CausaCorsa, SaysWhatKeepsTheRunFromAStageThatStands) {
+    auto attesa = diagnosi(muro("oscilla_1"), 50, 2);
+    const std::pair<analysis::FineCorsa, Ostacolo> fini[] = {
+        {{ModoFine::oltreLimite, 2, 200}, Ostacolo::oscillazione},
+        {{ModoFine::oltreLimite, 2, 199}, Ostacolo::limite},
+        {{ModoFine::singolare, 2, 0}, Ostacolo::singolare},
+    };
+    for (const auto& [fine, ostacolo] : fini) {
+        const CausaCorsa sta = causaCorsa(fine, muro("oscilla_1"), 50);
         EXPECT_EQ(sta.causa, Causa::oscilla);
-        EXPECT_EQ(sta.frase, frase(diagnosi(muro("oscilla_1"), 50, 2)));
+        attesa.ostacolo = ostacolo;
+        EXPECT_EQ(sta.frase, frase(attesa));
     }
 }
 

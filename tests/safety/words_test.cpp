@@ -120,7 +120,7 @@ TEST(Frase, TellsOfAMechanismHowAndWhatHelps) {
 }
 
 TEST(Frase, TellsOfAWallThatStandsThatOnlyTheIterationFlips) {
-    const Diagnosi d{.causa = Causa::oscilla, .fase = 2, .paratia = 10, .spostamento = 0.0123};
+    Diagnosi d{.causa = Causa::oscilla, .fase = 2, .paratia = 10, .spostamento = 0.0123};
     EXPECT_EQ(
         inBreve(d),
         "la paratia sta nella fase 2, con uno spostamento massimo di 12.3 mm: oscilla soltanto "
@@ -128,6 +128,12 @@ TEST(Frase, TellsOfAWallThatStandsThatOnlyTheIterationFlips) {
     EXPECT_EQ(frase(d),
               "la paratia sta nella fase 2, con uno spostamento massimo di 12.3 mm: oscilla "
               "soltanto l'iterazione; il suo equilibrio si calcola con korven32c equilibrio");
+    d.ostacolo = Ostacolo::singolare;
+    EXPECT_TRUE(inBreve(d).ends_with(
+        "12.3 mm: soltanto l'iterazione si ferma davanti a un sistema singolare"));
+    d.ostacolo = Ostacolo::limite;
+    EXPECT_TRUE(inBreve(d).ends_with(
+        "12.3 mm: l'iterazione si è fermata al suo limite prima di arrivarvi"));
 }
 
 TEST(Frase, TellsWhyThereIsNoEquilibriumOrNoNumber) {

@@ -16,7 +16,8 @@ enum class ModoFine {
 /// How a run ended, and in which stage.
 struct FineCorsa {
     ModoFine modo = ModoFine::compiuta;
-    int fase = 0;  ///< 0: before the first
+    int fase = 0;        ///< 0: before the first
+    int iterazioni = 0;  ///< of that stage, where it found no rest
 };
 
 /// The end that a stage without rest brings.
@@ -28,7 +29,8 @@ struct FineCorsa {
         case EsitoFase::singolare:
             return {ModoFine::singolare, fase.fase};
         case EsitoFase::fermata:
-            return {oltreLimite ? ModoFine::oltreLimite : ModoFine::fermata, fase.fase};
+            return {oltreLimite ? ModoFine::oltreLimite : ModoFine::fermata, fase.fase,
+                    fase.iterazioni};
         case EsitoFase::rifiutata:
             return {ModoFine::rifiutata, fase.fase};
     }
