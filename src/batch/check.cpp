@@ -39,8 +39,8 @@ int esegui(const Opzioni& opzioni, const PorteComando&, Esito& esito) {
         if (auto motivo = review::provaCalcolo(project::Progetto, opzioni.maxIterazioni, &fine))
             esito.osservazioni.insert(esito.osservazioni.begin(), std::move(*motivo));
     const project::DatiProgetto dati = conRigidezza(project::Progetto);
-    annota(safety::causaCorsa(fine, dati), esito);
     if (opzioni.calcola) aggiungiRisultati(dati, esito);
+    annota(safety::causaCorsa(fine, dati), esito);
     return conSeverita(opzioni, esito, esito.calcolabile() ? fatto : nonEseguito);
 }
 

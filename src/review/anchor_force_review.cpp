@@ -131,10 +131,10 @@ class ControlloTiro {
 
 void controlloLento(int j, const Storia& s, ElencoOsservazioni& elenco) {
     if (s.lento.valore >= -scartoTiroForza) return;
-    elenco.aggiungi("tirante-lento-nel-taglio", riga(&DatiProgetto::tipoTirante, j),
-                    {std::to_string(s.lento.fase), kilonewton(s.lento.valore),
-                     traduttore(s.neiMassimi ? "il taglio massimo della relazione"
-                                             : "il diagramma del taglio")});
+    elenco.aggiungi(
+        "tirante-lento-nel-taglio", riga(&DatiProgetto::tipoTirante, j),
+        {std::to_string(s.lento.fase), kilonewton(s.lento.valore),
+         traduttore(s.neiMassimi ? "il taglio massimo del diagramma" : "il diagramma del taglio")});
 }
 
 }  // namespace

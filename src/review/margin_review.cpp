@@ -40,6 +40,15 @@ std::string fine(const safety::Riduzione& riduzione, double paratia) {
     return traduttore("i limiti del terreno non hanno più significato");
 }
 
+// What to do about it.
+std::string rimedio(const safety::Riduzione& riduzione, bool pericolo) {
+    if (riduzione.limitePendio)
+        return traduttore("controllare pendio e angoli di attrito, la paratia non c'entra");
+    return traduttore(pericolo
+                          ? "allungare la paratia, aggiungere un tirante o ridurre scavo e carichi"
+                          : "controllare infissione, tiranti e carichi");
+}
+
 void controlloRiduzione(const DatiProgetto& dati, const safety::Margine& margine,
                         ElencoOsservazioni& elenco) {
     const MargineFase* fase = peggiore(margine, [](const MargineFase& f) {
@@ -47,11 +56,11 @@ void controlloRiduzione(const DatiProgetto& dati, const safety::Margine& margine
     });
     if (!fase || *fase->riduzione.F >= riduzioneDaVedere) return;
     const bool pericolo = *fase->riduzione.F < riduzionePericolosa;
-    elenco.aggiungi(pericolo ? Voce("riduzione-insufficiente") : "riduzione-bassa",
-                    scavo(dati, fase->fase),
-                    {numeroMostrato(*fase->riduzione.F, 3),
-                     numeroMostrato(pericolo ? riduzionePericolosa : riduzioneDaVedere, 2),
-                     fine(fase->riduzione, dati.lunghezzaParatia)});
+    elenco.aggiungi(
+        pericolo ? Voce("riduzione-insufficiente") : "riduzione-bassa", scavo(dati, fase->fase),
+        {numeroMostrato(*fase->riduzione.F, 3),
+         numeroMostrato(pericolo ? riduzionePericolosa : riduzioneDaVedere, 2),
+         fine(fase->riduzione, dati.lunghezzaParatia), rimedio(fase->riduzione, pericolo)});
 }
 
 std::string dove(const std::vector<equilibrium::Tratto>& tratti) {

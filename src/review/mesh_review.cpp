@@ -92,10 +92,10 @@ void controlloMaglia(const DatiProgetto& dati, const safety::Margine& margine,
          Spostato(nessuno).righe(&DatiProgetto::profFase, dati.nFasi).livello()},
         {"strato-spostato-dai-nodi",
          Spostato(nessuno).righe(&DatiProgetto::profStrato, dati.nStrati - 1).livello()},
-        {"falda-spostata-dai-nodi", Spostato(nessuno)
-                                        .campo(&DatiProgetto::faldaMonte)
-                                        .righe(&DatiProgetto::faldaFase, dati.nFasi)
-                                        .livello()},
+        {"falda-tra-due-nodi", Spostato(nessuno)
+                                   .campo(&DatiProgetto::faldaMonte)
+                                   .righe(&DatiProgetto::faldaFase, dati.nFasi)
+                                   .livello()},
     };
     for (const auto& [voce, livello] : livelli) {
         if (livello.piuGiu <= spostatoDaiNodi) continue;

@@ -1,4 +1,3 @@
-#include "analysis/run_arrays.hpp"
 #include "base/translated_texts.hpp"
 #include "project/codes.hpp"
 #include "review/remark_list.hpp"
@@ -32,8 +31,6 @@ constexpr SenzaEffetto scritteInvano[] = {
      "lo legge solo il metodo di Lancellotta per ks"},
     {&DatiProgetto::sovraccFase, [](Dati d) { return d.modoSpinte == ModoSpinte::comeMonte; },
      "con le spinte uguali al lato monte il carico sul fondo dello scavo non agisce"},
-    {&DatiProgetto::forzaTesta, [](Dati d) { return analysis::vincoli(d).cernieraTesta; },
-     "la prende la cerniera in testa"},
     {&DatiProgetto::sforzoNormale, [](Dati d) { return !structure::sezioneValida(d.sezione); },
      "conta solo nella verifica della sezione, che non è definita"},
 };
@@ -65,7 +62,8 @@ void controlloMetodi(const DatiProgetto& dati, ElencoOsservazioni& elenco) {
                         insieme(campoConValore(&DatiProgetto::modoSpinte, dati.modoSpinte),
                                 campoConValore(&DatiProgetto::modoKs, dati.modoKs)));
     if (dati.metodoKs == MetodoKs::lineare && dati.nStrati > 0 &&
-        dati.profStrato[dati.nStrati - 1] < dati.lunghezzaParatia)
+        dati.profStrato[dati.nStrati - 1] < dati.lunghezzaParatia &&
+        dati.ksStrato[dati.nStrati] != dati.ksStrato[dati.nStrati - 1])
         elenco.aggiungi("ks-ultimo-strato",
                         rigaConValore(dati, &DatiProgetto::ksStrato, dati.nStrati));
     for (const auto& scritta : scritteInvano) controlloInvano(scritta, dati, elenco);

@@ -104,6 +104,8 @@ inline constexpr VoceOsservazione vociProgetto[] = {
      "sta sul nodo del vincolo: la sua rigidezza non conta"},
     {"tirante-inerte", Peso::pericolo, "tiranti",
      "senza rigidezza né pretensione il tirante non agisce"},
+    {"tirante-mai-teso", Peso::pericolo, "tiranti",
+     "senza rigidezza e con pretensione negativa un tirante a sola trazione non agisce mai"},
     {"tipo-tirante", Peso::pericolo, "tiranti",
      "tipo non previsto: il calcolo lo fa agire solo a trazione, la relazione lo dice a trazione e "
      "compressione"},

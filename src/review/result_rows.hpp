@@ -12,15 +12,14 @@ inline constexpr VoceOsservazione vociRisultati[] = {
 
     // A run that ends so leaves no result file, though nothing is wrong with the wall.
     {"iterazione-che-oscilla", Peso::impedisce, "osservazioni_risultati", ""},
-    {"meccanismo", Peso::pericolo, "osservazioni_risultati", ""},
+    {"meccanismo", Peso::impedisce, "osservazioni_risultati", ""},
     {"equilibrio-non-definito", Peso::pericolo, "osservazioni_risultati", ""},
     {"nessun-numero", Peso::pericolo, "osservazioni_risultati", ""},
 
     {"riduzione-bassa", Peso::daVedere, "margine",
-     "riduzione di resistenza %1, sotto %2; oltre, %3: controllare infissione, tiranti e carichi"},
+     "riduzione di resistenza %1, sotto %2; oltre, %3: %4"},
     {"riduzione-insufficiente", Peso::pericolo, "margine",
-     "riduzione di resistenza %1, sotto %2; oltre, %3: allungare la paratia, aggiungere un tirante "
-     "o ridurre scavo e carichi"},
+     "riduzione di resistenza %1, sotto %2; oltre, %3: %4"},
     {"passiva-molto-usata", Peso::daVedere, "margine",
      "la spinta passiva davanti alla paratia è usata al %1 %, oltre il %2 %%3: controllare "
      "l'infissione"},
@@ -61,10 +60,10 @@ inline constexpr VoceOsservazione vociRisultati[] = {
      "momento massimo della relazione %1 kN m (fase %2, a %3 m), dell'equilibrio %4 kN m (fase %5, "
      "a %6 m)%7: il primo non è della paratia"},
     {"taglio-minore-della-statica", Peso::pericolo, "osservazioni_risultati",
-     "taglio massimo della relazione %1 kN (fase %2, a %3 m), dell'equilibrio %4 kN (fase %5, a %6 "
+     "taglio massimo del diagramma %1 kN (fase %2, a %3 m), dell'equilibrio %4 kN (fase %5, a %6 "
      "m)%7: verificare la sezione con il secondo"},
     {"taglio-maggiore-della-statica", Peso::daVedere, "osservazioni_risultati",
-     "taglio massimo della relazione %1 kN (fase %2, a %3 m), dell'equilibrio %4 kN (fase %5, a %6 "
+     "taglio massimo del diagramma %1 kN (fase %2, a %3 m), dell'equilibrio %4 kN (fase %5, a %6 "
      "m)%7: il primo non è della paratia"},
     {"taglio-di-altra-fase", Peso::pericolo, "osservazioni_risultati",
      "la verifica a taglio conta soltanto l'ultima fase, %1 kN, ma qui il taglio arriva a %2 kN, a "
@@ -80,8 +79,9 @@ inline constexpr VoceOsservazione vociRisultati[] = {
 
     {"scavo-spostato-dai-nodi", Peso::daVedere, "osservazioni_risultati",
      "conta dal nodo a %1 m, %2 m più giù, e la maglia sbaglia %3 del %4 %: aumentare i segmenti"},
-    {"falda-spostata-dai-nodi", Peso::daVedere, "osservazioni_risultati",
-     "conta dal nodo a %1 m, %2 m più giù, e la maglia sbaglia %3 del %4 %: aumentare i segmenti"},
+    {"falda-tra-due-nodi", Peso::daVedere, "osservazioni_risultati",
+     "cade tra due nodi, %2 m sopra quello a %1 m, e la maglia sbaglia %3 del %4 %: aumentare i "
+     "segmenti"},
     {"strato-spostato-dai-nodi", Peso::daVedere, "osservazioni_risultati",
      "lo strato che segue conta dal nodo a %1 m, %2 m più giù, e la maglia sbaglia %3 del %4 %: "
      "aumentare i segmenti"},

@@ -41,7 +41,10 @@ void controlloTiranti(const DatiProgetto& dati, ElencoOsservazioni& elenco) {
                  "tirante-in-disordine");
         avvisaSe(rig < 0, &DatiProgetto::rigTirante, "rigidezza-negativa");
         avvisaSe(rig == 0 && pret == 0, &DatiProgetto::rigTirante, "tirante-inerte");
-        avvisaSe(pret < 0, &DatiProgetto::pretTirante, "valore-negativo");
+        const bool maiTeso =
+            rig == 0 && pret < 0 && !(dati.tipoTirante[j] == TipoTirante::trazioneCompressione);
+        avvisaSe(maiTeso, &DatiProgetto::pretTirante, "tirante-mai-teso");
+        avvisaSe(pret < 0 && !maiTeso, &DatiProgetto::pretTirante, "valore-negativo");
         if (dati.tipoTirante[j] != TipoTirante::soloTrazione &&
             dati.tipoTirante[j] != TipoTirante::trazioneCompressione)
             elenco.conValore("tipo-tirante", riga(&DatiProgetto::tipoTirante, j),

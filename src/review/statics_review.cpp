@@ -70,31 +70,31 @@ Motivo motivoTaglio(const DatiProgetto& dati, const safety::Margine& margine, co
     const double passo = dati.lunghezzaParatia / margine.nSeg;
     const bool alPiede = c.relazione->z > dati.lunghezzaParatia - passo / 2;
     if (alPiede && analysis::vincoli(dati).incastroPiede)
-        return {"al piede incastrato la relazione conta le molle dell'incastro",
+        return {"al piede incastrato il diagramma conta le molle dell'incastro",
                 {nome(&DatiProgetto::vincoloPiede)}};
     if (c.relazione->z == 0 && dati.forzaTesta != 0)
-        return {"al primo nodo la relazione conta due volte la forza in testa",
+        return {"al primo nodo il diagramma conta due volte la forza in testa",
                 {nome(&DatiProgetto::forzaTesta)}};
     const auto fase = [&](int k) -> const MargineFase& {
         return margine.fasi.at(static_cast<std::size_t>(k - 1));
     };
     if (auto campi = lenti(dati, fase(c.relazione->fase)); !campi.empty())
-        return {"la relazione conta tiranti lenti", std::move(campi)};
+        return {"il diagramma conta tiranti lenti", std::move(campi)};
     const bool meno = std::fabs(c.relazione->valore) < std::fabs(c.statica.valore);
     if (meno) {
         auto campi = alNodo(dati, fase(c.statica.fase), c.statica.z, passo, true);
         if (!campi.empty())
-            return {"la relazione non vede il taglio sopra un tirante che non è su un nodo",
+            return {"il diagramma non vede il taglio sopra un tirante che non è su un nodo",
                     std::move(campi)};
     } else {
         auto campi = alNodo(dati, fase(c.relazione->fase), c.relazione->z, passo, false);
         if (!campi.empty())
-            return {"al tirante la relazione lo estrapola dai due nodi sotto", std::move(campi)};
+            return {"al tirante il diagramma lo estrapola dai due nodi sotto", std::move(campi)};
     }
     if (c.statica.z > dati.lunghezzaParatia - passo / 2 && analysis::vincoli(dati).bloccoPiede)
-        return {"la relazione non vede la reazione al piede", {nome(&DatiProgetto::vincoloPiede)}};
+        return {"il diagramma non vede la reazione al piede", {nome(&DatiProgetto::vincoloPiede)}};
     if (c.statica.z == 0 && analysis::vincoli(dati).cernieraTesta)
-        return {"la relazione non vede la reazione al primo nodo",
+        return {"il diagramma non vede la reazione al primo nodo",
                 {nome(&DatiProgetto::vincoloTesta)}};
     return {};
 }

@@ -114,7 +114,7 @@ Righe conTaglio(double tipo, double vera, double nelTaglio, bool sulNodo) {
 TEST(ControlloTiri, TellsASlackAnchorThatTheShearCounts) {
     EXPECT_EQ(conTaglio(soloTrazione, 0, -2.5, true),
               Righe{"[da vedere] tirante-lento-nel-taglio: tirante 1: è lento nella fase 2, ma il "
-                    "taglio massimo della relazione conta un tiro di -25.00 kN: prendere il taglio "
+                    "taglio massimo del diagramma conta un tiro di -25.00 kN: prendere il taglio "
                     "dell'equilibrio"});
     EXPECT_EQ(conTaglio(soloTrazione, 0, -2.5, false),
               Righe{"[da vedere] tirante-lento-nel-taglio: tirante 1: è lento nella fase 2, ma il "

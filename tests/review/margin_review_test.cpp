@@ -58,7 +58,8 @@ TEST(ControlloMargine, TellsAReductionThatTheSlopeLimits) {
     EXPECT_EQ(righe(osservate(unaFase, m)),
               Righe{"[da vedere] riduzione-bassa: fase 1: Prof. [m] = 4: riduzione di resistenza "
                     "1.400, sotto 1.50; oltre, l'angolo di attrito ridotto è minore "
-                    "dell'inclinazione del terreno: controllare infissione, tiranti e carichi"});
+                    "dell'inclinazione del terreno: controllare pendio e angoli di attrito, la "
+                    "paratia non c'entra"});
     m.fasi[0].riduzione.limitePendio = false;
     EXPECT_NE(osservate(unaFase, m)[0].testo.find("oltre, i limiti del terreno non hanno più"),
               std::string::npos);

@@ -36,17 +36,17 @@ TEST(ControlloMaglia, TellsALevelThatTheNodesMoveWhereTheMeshIsTooCoarse) {
         Righe{"[da vedere] scavo-spostato-dai-nodi: fase 1: Prof. [m] = 4.1: conta dal nodo a "
               "4.40 m, 0.30 m più giù, e la maglia sbaglia il momento del 6.2 %: aumentare i "
               "segmenti"});
-    EXPECT_EQ(conErrore(conLivelli(4, 6.9, 30, 8), 0.02, 0.07),
-              Righe{"[da vedere] falda-spostata-dai-nodi: fase 1: Prof. falda [m] = 6.9: conta dal "
-                    "nodo a 7.20 m, 0.30 m più giù, e la maglia sbaglia il taglio del 7.0 %: "
-                    "aumentare i segmenti"});
+    EXPECT_EQ(
+        conErrore(conLivelli(4, 6.9, 30, 8), 0.02, 0.07),
+        Righe{"[da vedere] falda-tra-due-nodi: fase 1: Prof. falda [m] = 6.9: cade tra "
+              "due nodi, 0.30 m sopra quello a 7.20 m, e la maglia sbaglia il taglio del 7.0 %: "
+              "aumentare i segmenti"});
     EXPECT_EQ(
         conErrore(conLivelli(4, 30, 3.05, 8), 0.062)
             .at(0)
-            .rfind(
-                "[da vedere] falda-spostata-dai-nodi: Profondità falda a monte del diaframma [m] "
-                "= 3.05: conta dal nodo a 3.20 m, 0.15 m più giù",
-                0),
+            .rfind("[da vedere] falda-tra-due-nodi: Profondità falda a monte del diaframma [m] "
+                   "= 3.05: cade tra due nodi, 0.15 m sopra quello a 3.20 m",
+                   0),
         0u);
     EXPECT_EQ(conErrore(conLivelli(4, 30, 30, 8.15), 0.062),
               Righe{"[da vedere] strato-spostato-dai-nodi: strato 1: Prof. [m] = 8.15: lo strato "

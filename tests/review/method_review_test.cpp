@@ -11,7 +11,6 @@ using project::MetodoKs;
 using project::MetodoSpinte;
 using project::ModoKs;
 using project::ModoSpinte;
-using project::VincoloTesta;
 using Righe = std::vector<std::string>;
 
 TEST(ControlloMetodi, TellsThatReportAndFileForgetRankineAndBell) {
@@ -58,6 +57,12 @@ TEST(ControlloMetodi, TellsThatTheLinearLawReachesTheLastValueFarBelowOnTheRetai
         Righe{"strato 2: ks [kN/m³] = 30000: a monte la legge lineare arriva a questo valore "
               "solo 100 m sotto il piede dell'ultimo strato: aggiungere un altro strato sotto "
               "il piede della paratia"});
+    EXPECT_EQ(righeDi(conModifica([](DatiProgetto& d) {
+                          d.metodoKs = valore(MetodoKs::lineare);
+                          d.ksStrato[2] = d.ksStrato[1];
+                      }),
+                      {"ks-ultimo-strato"}),
+              Righe{});
     EXPECT_EQ(con(MetodoKs::lineare, 12), Righe{});
     EXPECT_EQ(con(MetodoKs::costante, 4), Righe{});
 }
@@ -100,17 +105,6 @@ TEST(ControlloMetodi, TellsTypedValuesThatTheMethodDoesNotRead) {
                     "con le spinte uguali al lato monte il carico sul fondo dello scavo non "
                     "agisce"});
     EXPECT_EQ(sovraccarico(ModoSpinte::ricalcolate), Righe{});
-
-    const auto forza = [&](VincoloTesta testa) {
-        return senza([&](DatiProgetto& d) {
-            d.vincoloTesta = valore(testa);
-            d.forzaTesta = 2;
-        });
-    };
-    EXPECT_EQ(forza(VincoloTesta::cerniera),
-              Righe{"Forza orizzontale esterna applicata alla sommità del diaframma [kN] = 20" +
-                    invano + "la prende la cerniera in testa"});
-    EXPECT_EQ(forza(VincoloTesta::libera), Righe{});
 
     const auto sforzo = [&](const project::Sezione& sezione) {
         return senza([&](DatiProgetto& d) {

@@ -96,7 +96,11 @@ const Scenario scenari[] = {
          d.profStrato[2] = 8;
          d.ksStrato[2] = 100;
      }},
-    {"ks-ultimo-strato", [](auto& d) { d.metodoKs = 4; }},
+    {"ks-ultimo-strato",
+     [](auto& d) {
+         d.metodoKs = 4;
+         d.ksStrato[2] = 2 * d.ksStrato[1];
+     }},
     {"bowles-senza-tensione",
      [](auto& d) {
          d.metodoKs = 1;
@@ -126,6 +130,11 @@ const Scenario scenari[] = {
          d.vincoloTesta = 2;
      }},
     {"tirante-inerte", [](auto& d) { d.rigTirante[1] = d.pretTirante[1] = 0; }},
+    {"tirante-mai-teso",
+     [](auto& d) {
+         d.rigTirante[1] = 0;
+         d.pretTirante[1] = -1;
+     }},
     {"tipo-tirante", [](auto& d) { d.tipoTirante[1] = 2; }},
 
     {"scavo-sopra-la-testa", [](auto& d) { d.profFase[1] = -1; }},

@@ -25,6 +25,18 @@ TEST(ControlloTiranti, NamesWhatIsOddAboutAnchors) {
          {"tirante 1: Rigidezza [kN/m] = 0: senza rigidezza né pretensione il tirante non "
           "agisce"}},
         {[](DatiProgetto& d) { d.rigTirante[1] = 0; }, {}},
+        {[](DatiProgetto& d) {
+             d.rigTirante[1] = 0;
+             d.pretTirante[1] = -5;
+         },
+         {"tirante 1: Pretens. [kN] = -50: senza rigidezza e con pretensione negativa un tirante a "
+          "sola trazione non agisce mai"}},
+        {[](DatiProgetto& d) {  // a strut that pushes from both sides
+             d.rigTirante[1] = 0;
+             d.pretTirante[1] = -5;
+             d.tipoTirante[1] = 1;
+         },
+         {"tirante 1: Pretens. [kN] = -50: valore negativo"}},
     });
     EXPECT_TRUE(righeDi(conModifica([](DatiProgetto& d) { d.profTirante[1] = 12; }),
                         {"tirante-sotto-il-piede"})

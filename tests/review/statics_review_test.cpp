@@ -57,11 +57,11 @@ TEST(ControlloStatica, TellsAMomentThatIsNotTheWalls) {
 
 TEST(ControlloStatica, TellsAShearThatIsNotTheWalls) {
     EXPECT_EQ(conTaglio(18.9),
-              Righe{"[pericolo] taglio-minore-della-statica: taglio massimo della relazione 189.0 "
+              Righe{"[pericolo] taglio-minore-della-statica: taglio massimo del diagramma 189.0 "
                     "kN (fase 2, a 3.00 m), dell'equilibrio 200.0 kN (fase 2, a 3.00 m): "
                     "verificare la sezione con il secondo"});
     EXPECT_EQ(conTaglio(21.1),
-              Righe{"[da vedere] taglio-maggiore-della-statica: taglio massimo della relazione "
+              Righe{"[da vedere] taglio-maggiore-della-statica: taglio massimo del diagramma "
                     "211.0 kN (fase 2, a 3.00 m), dell'equilibrio 200.0 kN (fase 2, a 3.00 m): il "
                     "primo non è della paratia"});
 }
@@ -94,33 +94,33 @@ TEST(ControlloStatica, SaysWhatMakesTheShearDiffer) {
              .tirante(1, 500)
              .dati(),
          {{20, 3, 1}, results::NumeroRelazione{40, 10, 1}},
-         "; al piede incastrato la relazione conta le molle dell'incastro: ",
+         "; al piede incastrato il diagramma conta le molle dell'incastro: ",
          {"vincoloPiede"}},
         {muro().con(&DatiProgetto::forzaTesta, 4).tirante(1, 500).dati(),
          {{20, 0, 1}, results::NumeroRelazione{40, 0, 1}},
-         "; al primo nodo la relazione conta due volte la forza in testa: ",
+         "; al primo nodo il diagramma conta due volte la forza in testa: ",
          {"forzaTesta"}},
         {muro().tirante(3.05, 500).dati(),
          altro(20, 3),
-         "; la relazione non vede il taglio sopra un tirante che non è su un nodo: ",
+         "; il diagramma non vede il taglio sopra un tirante che non è su un nodo: ",
          {"profTirante[1]"}},
         {muro()
              .con(&DatiProgetto::vincoloPiede, valore(project::VincoloPiede::cerniera))
              .tirante(3.05, 500)
              .dati(),
          altro(20, 10),
-         "; la relazione non vede la reazione al piede: ",
+         "; il diagramma non vede la reazione al piede: ",
          {"vincoloPiede"}},
         {muro()
              .con(&DatiProgetto::vincoloTesta, valore(project::VincoloTesta::cerniera))
              .tirante(3.05, 500)
              .dati(),
          altro(20, 0),
-         "; la relazione non vede la reazione al primo nodo: ",
+         "; il diagramma non vede la reazione al primo nodo: ",
          {"vincoloTesta"}},
         {muro().tirante(3, 500).dati(),
          {{20, 5, 1}, results::NumeroRelazione{25, 3, 1}},
-         "; al tirante la relazione lo estrapola dai due nodi sotto: ",
+         "; al tirante il diagramma lo estrapola dai due nodi sotto: ",
          {"profTirante[1]"}},
         {muro().tirante(3.05, 500).dati(), altro(20, 5), "(fase 1, a 5.00 m): ", {}},
     };
@@ -142,7 +142,7 @@ TEST(ControlloStatica, NamesSlackAnchors) {
     m.taglio = {{20, 5, 1}, results::NumeroRelazione{25, 3, 1}};
     const Osservazioni una = osservate(dati, m);
     ASSERT_EQ(una.size(), 1u);
-    EXPECT_NE(una[0].testo.find("; la relazione conta tiranti lenti: "), std::string::npos);
+    EXPECT_NE(una[0].testo.find("; il diagramma conta tiranti lenti: "), std::string::npos);
     EXPECT_EQ(una[0].campi, std::vector<std::string>{"tipoTirante[1]"});
 }
 

@@ -49,9 +49,9 @@ TEST(EsempiRaccontati, AreToldWhatTheirStagesComeTo) {
                     "1.438, sotto 1.50; oltre, ruota attorno alla profondità di 1.6 m, "
                     "il piede verso lo scavo: controllare infissione, tiranti e carichi"});
     EXPECT_EQ(righe(risultati(esempio("paratia_lunga_incastro"))),
-              Righe{"[da vedere] taglio-maggiore-della-statica: taglio massimo della relazione "
+              Righe{"[da vedere] taglio-maggiore-della-statica: taglio massimo del diagramma "
                     "1120.0 kN (fase 5, a 26.00 m), dell'equilibrio -385.2 kN (fase 5, a 18.72 m); "
-                    "al piede incastrato la relazione conta le molle dell'incastro: il primo non è "
+                    "al piede incastrato il diagramma conta le molle dell'incastro: il primo non è "
                     "della paratia"});
 }
 
@@ -89,12 +89,13 @@ TEST(MuriRaccontati, AreToldByHowMuch) {
                      "[pericolo] spostamento-eccessivo: fase 2: Prof. [m] = 3.5: spostamento "
                      "massimo 99.9 mm a 0.00 m di profondità, 1/35 dello scavo, più di 1/50: "
                      "controllare rigidezza, tiranti, infissione e valori di ks"}));
-    EXPECT_EQ(righe(risultati(muro("meccanismo"))),
-              Righe{"[pericolo] meccanismo: la paratia è un meccanismo nella fase 1: ruota attorno "
-                    "alla profondità di 8.93 m, la testa verso lo scavo; mancano 25.7 kN m; al "
-                    "limite: monte attivo 0.19-8.74 m, monte passivo 9.11-9.3 m, valle attivo "
-                    "9.11-9.3 m, valle passivo 5.02-8.74 m; di solito aiuta una paratia più lunga: "
-                    "circa 9.42 m"});
+    EXPECT_EQ(
+        righe(risultati(muro("meccanismo"))),
+        Righe{"[impedisce] meccanismo: la paratia è un meccanismo nella fase 1: ruota attorno "
+              "alla profondità di 8.93 m, la testa verso lo scavo; mancano 25.7 kN m; al "
+              "limite: monte attivo 0.19-8.74 m, monte passivo 9.11-9.3 m, valle attivo "
+              "9.11-9.3 m, valle passivo 5.02-8.74 m; di solito aiuta una paratia più lunga: "
+              "circa 9.42 m"});
     EXPECT_EQ(righe(risultati(muro("puntone_rigidissimo"))),
               Righe{"[pericolo] tiro-sbagliato: tirante 1: Rigidezza [kN/m] = 1000000000: la "
                     "relazione dà il tiro 0.00 kN, quello vero è 42.20 kN (fase 2): lo calcola da "

@@ -1,5 +1,6 @@
 #include "batch/run/console_run.hpp"
 
+#include <algorithm>
 #include <iostream>
 
 #include "analysis/run_flags.hpp"
@@ -34,7 +35,11 @@ analysis::FineCorsa comeFinita(const analysis::ControlloCorsa& controllo) {
 void annota(const safety::CausaCorsa& causa, Esito& esito) {
     esito.causa = causa.causa;
     esito.spiegazione = causa.frase;
-    if (!causa.frase.empty()) std::cerr << causa.frase << '\n';
+    const bool inElenco =  // which the remarks that are listed say already
+        esito.soloRilievi &&
+        std::any_of(esito.osservazioni.begin(), esito.osservazioni.end(),
+                    [&causa](const auto& o) { return o.testo == causa.frase; });
+    if (!causa.frase.empty() && !inElenco) std::cerr << causa.frase << '\n';
 }
 
 void racconta(const std::vector<std::string>& righe, Esito& esito) {
