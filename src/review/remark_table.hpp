@@ -19,10 +19,14 @@ class Voce {
  public:
     // NOLINTNEXTLINE(google-explicit-constructor): a code in quotes is how a remark is named
     consteval Voce(const char* codice) {
+        bool trovata = false;  // the sanitizers' compiler compares no pointer to a row with none
         for (const auto voci : vociOsservazioni)
             for (const auto& voce : voci)
-                if (voce.codice == codice) riga_ = &voce;
-        if (riga_ == nullptr) throw "no remark has this code";
+                if (voce.codice == codice) {
+                    riga_ = &voce;
+                    trovata = true;
+                }
+        if (!trovata) throw "no remark has this code";
     }
     constexpr const VoceOsservazione& operator*() const { return *riga_; }
     constexpr const VoceOsservazione* operator->() const { return riga_; }

@@ -1,15 +1,12 @@
 #pragma once
 
-#include <algorithm>
 #include <barrier>
-#include <filesystem>
 #include <string>
 #include <thread>
 #include <vector>
 
-#include "base/text_lines.hpp"
-#include "project/project_file.hpp"
 #include "support/random_walls.hpp"
+#include "support/wall_files.hpp"
 
 namespace korven::test {
 
@@ -18,22 +15,10 @@ struct MuroConMaglia {
     int nSeg = 0;
 };
 
-inline std::vector<std::string> esempi() {
-    std::vector<std::string> nomi;
-    for (const auto& voce : std::filesystem::directory_iterator(KORVEN_EXAMPLES))
-        if (voce.path().extension() == ".kvd") nomi.push_back(voce.path().string());
-    std::sort(nomi.begin(), nomi.end());
-    return nomi;
-}
-
-/// The delivered examples and random walls, each with a mesh of its own.
-inline std::vector<MuroConMaglia> tantiMuri() {
+/// The walls of a folder and random ones, each with a mesh of its own.
+inline std::vector<MuroConMaglia> tantiMuri(const std::string& cartella) {
     std::vector<MuroConMaglia> tutti;
-    for (const auto& nome : esempi()) {
-        auto file = base::LettoreRighe::apri(nome);
-        MuroConMaglia& muro = tutti.emplace_back();
-        project::leggiDati(file, muro.dati);
-    }
+    for (const auto& nome : muriIn(cartella)) tutti.push_back({leggiMuro(nome), 0});
     MuriCasuali casuali(7);
     for (int i = 0; i < 16; ++i) tutti.push_back({casuali.prossimo(), 0});
     for (std::size_t i = 0; i < tutti.size(); ++i)

@@ -59,7 +59,7 @@ class CorseInsieme : public ::testing::Test {
             }
     }
 
-    const std::vector<test::MuroConMaglia> tutti = test::tantiMuri();
+    const std::vector<test::MuroConMaglia> tutti = test::tantiMuri(KORVEN_EXAMPLES);
     std::vector<EsitoCorsa> attese;
 };
 
