@@ -17,15 +17,14 @@ inline constexpr VoceOsservazione vociRisultati[] = {
     {"nessun-numero", Peso::pericolo, "osservazioni_risultati", ""},
 
     {"riduzione-bassa", Peso::daVedere, "margine",
-     "riduzione di resistenza %1, sotto %2; oltre, %3: %4"},
+     "riduzione di resistenza %1, sotto %2; con una riduzione maggiore: %3; %4"},
     {"riduzione-insufficiente", Peso::pericolo, "margine",
-     "riduzione di resistenza %1, sotto %2; oltre, %3: %4"},
+     "riduzione di resistenza %1, sotto %2; con una riduzione maggiore: %3; %4"},
     {"passiva-molto-usata", Peso::daVedere, "margine",
-     "la spinta passiva davanti alla paratia è usata al %1 %, oltre il %2 %%3: controllare "
-     "l'infissione"},
+     "spinta passiva davanti alla paratia usata: %1 %, limite %2 %%3: controllare l'infissione"},
     {"passiva-esaurita", Peso::pericolo, "margine",
-     "la spinta passiva davanti alla paratia è usata al %1 %, oltre il %2 %%3: allungare la "
-     "paratia o ridurre scavo e carichi"},
+     "spinta passiva davanti alla paratia usata: %1 %, limite %2 %%3: allungare la paratia o "
+     "ridurre scavo e carichi"},
     {"spostamento-grande", Peso::daVedere, "osservazioni_risultati",
      "spostamento massimo %1 mm a %2 m di profondità, 1/%3 dello scavo, più di 1/%4: controllare "
      "che cosa sta vicino alla paratia"},

@@ -46,8 +46,9 @@ TEST(EsempiRaccontati, AreToldLittle) {
 TEST(EsempiRaccontati, AreToldWhatTheirStagesComeTo) {
     EXPECT_EQ(righe(risultati(esempio("pali_armati_staffe"))),
               Righe{"[da vedere] riduzione-bassa: fase 3: Prof. [m] = 7.8: riduzione di resistenza "
-                    "1.438, sotto 1.50; oltre, ruota attorno alla profondità di 1.6 m, "
-                    "il piede verso lo scavo: controllare infissione, tiranti e carichi"});
+                    "1.438, sotto 1.50; con una riduzione maggiore: ruota attorno alla profondità "
+                    "di 1.6 m, "
+                    "il piede verso lo scavo; controllare infissione, tiranti e carichi"});
     EXPECT_EQ(righe(risultati(esempio("paratia_lunga_incastro"))),
               Righe{"[da vedere] taglio-maggiore-della-statica: taglio massimo del diagramma "
                     "1120.0 kN (fase 5, a 26.00 m), dell'equilibrio -385.2 kN (fase 5, a 18.72 m); "
@@ -83,8 +84,8 @@ TEST(MuriRaccontati, AreEachToldWhatIsWrongWithThemOrThatTheyStand) {
 TEST(MuriRaccontati, AreToldByHowMuch) {
     EXPECT_EQ(righe(risultati(muro("banchina"))),
               (Righe{"[pericolo] riduzione-insufficiente: fase 2: Prof. [m] = 3.5: riduzione di "
-                     "resistenza 1.032, sotto 1.25; oltre, ruota attorno alla "
-                     "profondità di 8.46 m, la testa verso lo scavo: allungare la paratia, "
+                     "resistenza 1.032, sotto 1.25; con una riduzione maggiore: ruota attorno alla "
+                     "profondità di 8.46 m, la testa verso lo scavo; allungare la paratia, "
                      "aggiungere un tirante o ridurre scavo e carichi",
                      "[pericolo] spostamento-eccessivo: fase 2: Prof. [m] = 3.5: spostamento "
                      "massimo 99.9 mm a 0.00 m di profondità, 1/35 dello scavo, più di 1/50: "

@@ -5,8 +5,8 @@
 
 namespace korven::shell {
 
-/// A line that gives up its middle where there is no room for it: of a long path its beginning and
-/// its file name stay. The whole of it is the tool tip.
+/// A line that is shortened where there is no room for it. Of a path the middle goes, so that its
+/// beginning and its file name stay; of a sentence the end. The whole of it is the tool tip.
 class EtichettaAccorciata : public QLabel {
  public:
     explicit EtichettaAccorciata(QWidget* genitore) : QLabel(genitore) {
@@ -24,8 +24,9 @@ class EtichettaAccorciata : public QLabel {
     void paintEvent(QPaintEvent*) override {
         QPainter pittore(this);
         pittore.setPen(palette().color(foregroundRole()));
+        const auto dove = text().contains(QLatin1Char('/')) ? Qt::ElideMiddle : Qt::ElideRight;
         pittore.drawText(contentsRect(), Qt::AlignVCenter | Qt::AlignLeft,
-                         fontMetrics().elidedText(text(), Qt::ElideMiddle, contentsRect().width()));
+                         fontMetrics().elidedText(text(), dove, contentsRect().width()));
     }
 };
 
