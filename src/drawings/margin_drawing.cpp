@@ -100,7 +100,8 @@ void piede(const Margine& margine, const SegniMargine& segni) {
     double y = ySotto - 0.75;
     for (const std::string& testo :
          {paroleDecisiva(margine), paroleLunghezza(margine), paroleMaglia(margine),
-          notaPendenza(margine), legenda(segni), legendaMuro(margine), paroleMetodo(margine)}) {
+          notaPendenza(margine), notaOltre(margine), legenda(segni), legendaMuro(margine),
+          paroleMetodo(margine)}) {
         if (testo.empty()) continue;
         const double lunga = std::max(plot::larghezzaTesto(altezza, testo), 1e-9);
         plot::testoDa(plot::x0, y, altezza * std::min(1.0, plot::larghQuadro / lunga), testo);

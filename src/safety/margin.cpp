@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "analysis/run_arrays.hpp"
+
 namespace korven::safety {
 
 namespace {
@@ -42,6 +44,13 @@ MargineFase ignota(const DatiProgetto& dati, int k) {
     return m;
 }
 
+bool haSostegni(const DatiProgetto& dati) {
+    const analysis::Vincoli vincolo = analysis::vincoli(dati);
+    bool tiranti = false;
+    for (int k = 1; k <= dati.nFasi; ++k) tiranti = tiranti || dati.tirantiFase[k] > 0;
+    return tiranti || vincolo.cernieraTesta || vincolo.bloccoPiede;
+}
+
 // The specified run can come to rest where the certain method finds data without a certain
 // equilibrium, but not where there is none.
 bool puoAvereRelazione(const Margine& m) {
@@ -79,6 +88,7 @@ Margine margine(const DatiProgetto& dati, int nSeg, analysis::OsservatoreCorsa& 
     Margine m;
     m.nSeg = nSeg;
     m.paratia = dati.lunghezzaParatia;
+    m.sostegni = haSostegni(dati);
     EquilibrioParete parete(dati, nSeg);
     equilibrium::Estremi estremi;
     for (int k = 1; k <= dati.nFasi; ++k)

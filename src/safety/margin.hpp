@@ -38,10 +38,12 @@ struct MargineFase {
 struct Margine {
     int nSeg = 0;
     double paratia = 0;             ///< length of the wall [m]
+    bool sostegni = false;          ///< anchors of some stage or a restraint hold it
     std::vector<MargineFase> fasi;  ///< all stages; element 0 is stage 1
     LunghezzaMinima lunghezza;
     std::optional<ErroreMaglia> maglia;  ///< nothing unless all stages stand with finer meshes too
-    /// The largest of all stages, both ways: the report's where the specified run comes to rest.
+    /// The largest of the stages that stand, both ways: the report's where all stand and the
+    /// specified run comes to rest.
     Confronto momento, taglio;
     std::optional<results::NumeriRelazione> relazione;
     /// How the specified run ended in memory; of a mechanism it is not begun.
@@ -49,6 +51,8 @@ struct Margine {
 
     /// True if all stages are in equilibrium.
     [[nodiscard]] bool sta() const { return fasi.empty() || fasi.back().inEquilibrio(); }
+    /// True if some are: the largest numbers are known.
+    [[nodiscard]] bool haNumeri() const { return !fasi.empty() && fasi.front().inEquilibrio(); }
     /// The first stage that is not; nothing if all are.
     [[nodiscard]] const MargineFase* caduta() const;
     /// The stage by which the wall is judged: the first without equilibrium, else the one of the

@@ -18,6 +18,24 @@ constexpr const char* nessuno = "-";
 constexpr const char* limitePendenza =
     "oltre F l'angolo di attrito ridotto è minore della pendenza del terreno";
 
+constexpr const char* tenuta = "vincoli o tiranti tengono la paratia qualunque sia il terreno";
+
+std::string fasi(const std::vector<int>& quali) {
+    std::string testo;
+    for (const int fase : quali) testo += (testo.empty() ? "" : ", ") + std::to_string(fase);
+    return traduttore("fase") + " " + testo;
+}
+
+// What the shortest length is not, and why.
+std::string nonDaCostruire(const Margine& margine) {
+    const bool bilico = margine.lunghezza.esito == EsitoLunghezza::trovata;
+    std::string testo = traduttore("non è una lunghezza da costruire");
+    if (bilico) testo += ": F = 1";
+    if (margine.sostegni)
+        testo += (bilico ? ", " : ": ") + traduttore("tiranti e vincoli tengono senza limite");
+    return testo;
+}
+
 }  // namespace
 
 std::string testoRiduzione(const Riduzione& riduzione) {
@@ -36,36 +54,44 @@ std::string testoTratti(const std::vector<equilibrium::Tratto>& tratti) {
     std::string testo;
     for (const equilibrium::Tratto& t : tratti) {
         if (!testo.empty()) testo += ", ";
-        testo += metri(t.da);
-        if (t.a != t.da) testo += "-" + metri(t.a);
+        testo += metriAllineati(t.da);
+        if (t.a != t.da) testo += "-" + metriAllineati(t.a);
     }
     return testo.empty() ? nessuno : testo;
 }
 
 std::string parole(const Riduzione& riduzione, double paratia) {
-    if (riduzione.moto) return parole(*riduzione.moto, paratia);
+    if (riduzione.moto) return parole(*riduzione.moto, paratia, metriAllineati);
     if (riduzione.limitePendio) return traduttore(limitePendenza);
     if (riduzione.oltre)
         return traduttore("nessun meccanismo fino a F =") + " " +
-               base::testoNumero(massimaRiduzione);
+               base::testoNumero(massimaRiduzione) + ": " +
+               traduttore(riduzione.senzaTerreno ? tenuta
+                                                 : "basta un decimo della resistenza del terreno");
     return nessuno;
 }
 
-std::string paroleLunghezza(const Margine& margine) {
-    const auto& [esito, lunghezza] = margine.lunghezza;
+bool lunghezzaNota(const Margine& margine) {
     const MargineFase* caduta = margine.caduta();
+    return margine.lunghezza.esito != EsitoLunghezza::mai || !caduta ||
+           caduta->esito == EsitoFase::meccanismo;
+}
+
+std::string paroleLunghezza(const Margine& margine) {
+    if (!lunghezzaNota(margine)) return {};
+    const auto& [esito, lunghezza] = margine.lunghezza;
     const std::string inizio = traduttore("Lunghezza minima") + ": ";
     switch (esito) {
         case EsitoLunghezza::trovata:
-            return inizio + metri(*lunghezza) + " m; " + traduttore("la paratia è lunga") + " " +
-                   metri(margine.paratia) + " m";
+            return inizio + metriAllineati(*lunghezza) + " m; " + traduttore("la paratia è lunga") +
+                   " " + metriAllineati(margine.paratia) + " m; " + nonDaCostruire(margine);
         case EsitoLunghezza::sempre:
-            return inizio + metri(*lunghezza) + " m; " +
-                   traduttore("la paratia sta anche senza infissione sotto lo scavo più profondo");
+            return inizio + metriAllineati(*lunghezza) + " m; " +
+                   traduttore("la paratia sta anche senza infissione sotto lo scavo più profondo") +
+                   "; " + nonDaCostruire(margine);
         case EsitoLunghezza::mai:
-            if (caduta && caduta->esito != EsitoFase::meccanismo) return {};
             return inizio + traduttore("nessuna fino a") + " " +
-                   metri(massimaLunghezzaRelativa * margine.paratia) + " m";
+                   metriAllineati(massimaLunghezzaRelativa * margine.paratia) + " m";
         case EsitoLunghezza::vincolata:
             break;
     }
@@ -105,6 +131,30 @@ std::string paroleDecisiva(const Margine& margine) {
            std::to_string(fase->fase) + ": " + parole(fase->riduzione, margine.paratia);
 }
 
+std::string paroleRelazione(const Margine& margine) {
+    if (margine.relazione || !margine.sta()) return {};
+    const std::string fase = " " + std::to_string(margine.corsa.fase);
+    switch (margine.corsa.modo) {
+        case analysis::ModoFine::singolare:
+            return traduttore(
+                       "La relazione non ha numeri: il calcolo per fasi trova un sistema singolare "
+                       "nella fase") +
+                   fase;
+        case analysis::ModoFine::oltreLimite:
+            return traduttore(
+                       "La relazione non ha numeri: l'iterazione del calcolo per fasi non si "
+                       "assesta nella fase") +
+                   fase;
+        case analysis::ModoFine::nonMostrabile:
+            return traduttore("La relazione non ha numeri: nessuna relazione può mostrarli");
+        case analysis::ModoFine::compiuta:
+        case analysis::ModoFine::rifiutata:
+        case analysis::ModoFine::fermata:
+            break;
+    }
+    return traduttore("La relazione non ha numeri");
+}
+
 std::string paroleMetodo(const Margine& margine) {
     return traduttore("Numeri dell'equilibrio certo, non del file dei risultati; segmenti") + ": " +
            std::to_string(margine.nSeg);
@@ -114,6 +164,15 @@ std::string notaPendenza(const Margine& margine) {
     const bool serve = std::any_of(margine.fasi.begin(), margine.fasi.end(),
                                    [](const auto& fase) { return fase.riduzione.limitePendio; });
     return serve ? "* " + traduttore(limitePendenza) : std::string();
+}
+
+std::string notaOltre(const Margine& margine) {
+    std::vector<int> tenute;
+    for (const MargineFase& fase : margine.fasi)
+        if (fase.riduzione.senzaTerreno) tenute.push_back(fase.fase);
+    if (tenute.empty()) return {};
+    return testoRiduzione(Riduzione{.F = {}, .oltre = true}) + ", " + fasi(tenute) + ": " +
+           traduttore(tenuta);
 }
 
 }  // namespace korven::safety

@@ -17,16 +17,17 @@ namespace korven::safety {
 /// Whole per cent, "-" for none.
 [[nodiscard]] std::string testoQuota(const std::optional<double>& quota);
 
-/// "7.6-8.2, 8.6", depths in m; "-" for none.
+/// "7.60-8.20, 8.60", depths in m; "-" for none.
 [[nodiscard]] std::string testoTratti(const std::vector<equilibrium::Tratto>& tratti);
 
-/// What happens at the factor: "ruota attorno alla profondità di 4.2 m, il piede verso lo scavo",
-/// that the slope of the ground is its limit, or that nothing happens up to the largest.
+/// What happens at the factor: "ruota attorno alla profondità di 4.20 m, il piede verso lo scavo",
+/// that the slope of the ground is its limit, or that nothing happens up to the largest, and what
+/// holds the wall then.
 /// @param paratia  length of the wall [m]
 [[nodiscard]] std::string parole(const Riduzione& riduzione, double paratia);
 
-/// "Lunghezza minima: 12.61 m; la paratia è lunga 16 m", or why there is none; empty where the data
-/// are no wall of any length.
+/// "Lunghezza minima: 12.61 m; la paratia è lunga 16.00 m; non è una lunghezza da costruire: F =
+/// 1", or why there is none; empty where the data are no wall of any length.
 [[nodiscard]] std::string paroleLunghezza(const Margine& margine);
 
 /// "Errore di maglia (50 segmenti contro 200): momento 2.9 %, taglio 2.1 %, ..."; empty where a
@@ -37,10 +38,20 @@ namespace korven::safety {
 /// stand.
 [[nodiscard]] std::string paroleDecisiva(const Margine& margine);
 
+/// Why the report has no numbers, in a sentence; empty if it has them or the wall does not stand.
+[[nodiscard]] std::string paroleRelazione(const Margine& margine);
+
 /// By which of the two ways the numbers came.
 [[nodiscard]] std::string paroleMetodo(const Margine& margine);
 
 /// The footnote of factors with a "*"; empty if there is none.
 [[nodiscard]] std::string notaPendenza(const Margine& margine);
+
+/// The footnote of the factors beyond the range: which stages restraints or anchors hold, whatever
+/// the strength of the ground; empty if there is none.
+[[nodiscard]] std::string notaOltre(const Margine& margine);
+
+/// Whether `lunghezza` says anything: not where the data are no wall of any length.
+[[nodiscard]] bool lunghezzaNota(const Margine& margine);
 
 }  // namespace korven::safety

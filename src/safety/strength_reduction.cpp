@@ -27,19 +27,10 @@ class Ricerca {
     Ricerca(const DatiProgetto& dati, int nSeg, int k)
         : dati_(dati), interi_(analysis::suoloStrati(dati)), nSeg_(nSeg), k_(k) {}
 
-    [[nodiscard]] Prova prova(double F) const {
-        equilibrium::ImpostazioneFasi fasi(dati_, nSeg_, stratiRidotti(dati_, interi_, F));
-        const std::vector<double> fermi(fasi.problema().nodi.size());
-        Prova esito;
-        if (const auto rifiuto = fasi.prepara(k_, fermi)) {
-            esito.pendio = rifiuto->motivo == Indefinito::radiceNegativa ||
-                           rifiuto->motivo == Indefinito::discesaRipida;
-            return esito;
-        }
-        if (datoInstabile(fasi.problema()).che != equilibrium::Instabile::no) return esito;
-        esito.moto = meccanismo(fasi.problema());
-        esito.sta = !esito.moto;
-        return esito;
+    [[nodiscard]] Prova prova(double F) const { return prova(stratiRidotti(dati_, interi_, F)); }
+
+    [[nodiscard]] bool staSenzaTerreno() const {
+        return prova(stratiSenzaResistenza(dati_, interi_)).sta;
     }
 
     // The factor at which the friction of some layer reaches the pole of Coulomb's passive
@@ -55,6 +46,21 @@ class Ricerca {
     }
 
  private:
+    [[nodiscard]] Prova prova(const SuoloStrati& strati) const {
+        equilibrium::ImpostazioneFasi fasi(dati_, nSeg_, strati);
+        const std::vector<double> fermi(fasi.problema().nodi.size());
+        Prova esito;
+        if (const auto rifiuto = fasi.prepara(k_, fermi)) {
+            esito.pendio = rifiuto->motivo == Indefinito::radiceNegativa ||
+                           rifiuto->motivo == Indefinito::discesaRipida;
+            return esito;
+        }
+        if (datoInstabile(fasi.problema()).che != equilibrium::Instabile::no) return esito;
+        esito.moto = meccanismo(fasi.problema());
+        esito.sta = !esito.moto;
+        return esito;
+    }
+
     const DatiProgetto& dati_;
     SuoloStrati interi_;
     int nSeg_, k_;
@@ -81,9 +87,22 @@ SuoloStrati stratiRidotti(const DatiProgetto& dati, const SuoloStrati& interi, d
     return ridotti;
 }
 
+SuoloStrati stratiSenzaResistenza(const DatiProgetto& dati, const SuoloStrati& interi) {
+    SuoloStrati fluidi = interi;
+    for (int j = 1; j <= dati.nStrati; ++j) {
+        analysis::SuoloStrato& strato = fluidi[j];
+        strato.kam = strato.kpm = 1;
+        strato.kav = strato.kpv = -1;
+        strato.motivoM = strato.motivoV = analysis::Indefinito::no;
+        strato.coesione = {};
+    }
+    return fluidi;
+}
+
 Riduzione riduzione(const DatiProgetto& dati, int nSeg, int k) {
     const Ricerca ricerca(dati, nSeg, k);
-    if (ricerca.prova(massimaRiduzione).sta) return {.F = {}, .oltre = true};
+    if (ricerca.prova(massimaRiduzione).sta)
+        return {.F = {}, .oltre = true, .senzaTerreno = ricerca.staSenzaTerreno()};
     double sopra = massimaRiduzione;
     double sotto = 1;
     if (!ricerca.prova(sotto).sta) {

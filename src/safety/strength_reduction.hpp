@@ -18,7 +18,10 @@ struct Riduzione {
     /// The largest factor at which the stage is in equilibrium; nothing when there is none in the
     /// range, or when the equilibrium at `massimaRiduzione` shows that it is larger.
     std::optional<double> F;
-    bool oltre = false;         ///< equilibrium at `massimaRiduzione` still
+    bool oltre = false;  ///< equilibrium at `massimaRiduzione` still
+    /// Of `oltre`: it stands on ground without any strength too, so that restraints or anchors
+    /// hold it.
+    bool senzaTerreno = false;
     bool limitePendio = false;  ///< beyond F the friction angle is below the slope of the ground
     std::optional<equilibrium::Meccanismo> moto{};  ///< the movement that F cannot hold any more
 };
@@ -27,6 +30,11 @@ struct Riduzione {
 /// coefficients and moduli stay those of the whole strength.
 [[nodiscard]] analysis::SuoloStrati stratiRidotti(const project::DatiProgetto& dati,
                                                   const analysis::SuoloStrati& interi, double F);
+
+/// The layers without any strength: a heavy fluid, which presses both ways with the vertical
+/// stress. It has no slope of the ground.
+[[nodiscard]] analysis::SuoloStrati stratiSenzaResistenza(const project::DatiProgetto& dati,
+                                                          const analysis::SuoloStrati& interi);
 
 /// The strength reduction of stage k: the largest F for which the stage, with tan phi and c of all
 /// layers divided by F on both sides, has an equilibrium by the exact verdict. Found by bisection

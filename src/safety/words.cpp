@@ -121,11 +121,13 @@ std::string metri(double m) {
     return testo;
 }
 
-std::string parole(const Meccanismo& moto, double paratia) {
+std::string metriAllineati(double m) { return project::numeroMostrato(m, 2); }
+
+std::string parole(const Meccanismo& moto, double paratia, std::string (*scrivi)(double)) {
     if (moto.traslazione)
         return traduttore(moto.verso > 0 ? "trasla verso lo scavo" : "trasla verso monte");
     return traduttore("ruota attorno alla profondità di") + " " +
-           unito(metri(moto.profondita), unita::metri) + ", " + traduttore(versoDi(moto, paratia));
+           unito(scrivi(moto.profondita), unita::metri) + ", " + traduttore(versoDi(moto, paratia));
 }
 
 std::string mancante(const Meccanismo& moto) {

@@ -16,9 +16,14 @@ inline constexpr base::Gemelli comandoEquilibrio{"equilibrio", "equilibrium"};
 /// A depth or a length to the centimetre, without zeros at its end: "4.2".
 [[nodiscard]] std::string metri(double m);
 
+/// The same with both decimals, as in the columns of a table: "4.20".
+[[nodiscard]] std::string metriAllineati(double m);
+
 /// How the wall moves: "ruota attorno alla profondità di 4.2 m, il piede verso lo scavo".
 /// @param paratia  length of the wall [m]
-[[nodiscard]] std::string parole(const equilibrium::Meccanismo& moto, double paratia);
+/// @param scrivi   the depth: as above in a sentence
+[[nodiscard]] std::string parole(const equilibrium::Meccanismo& moto, double paratia,
+                                 std::string (*scrivi)(double) = metri);
 
 /// What holds too little: "mancano 35.1 kN m", of a translation "mancano 12.0 kN".
 [[nodiscard]] std::string mancante(const equilibrium::Meccanismo& moto);

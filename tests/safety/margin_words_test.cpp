@@ -41,33 +41,52 @@ TEST(TestoQuota, IsWholePerCent) {
     EXPECT_EQ(testoQuota(std::nullopt), "-");
 }
 
-TEST(TestoTratti, NamesDepthsToTheCentimetre) {
-    EXPECT_EQ(testoTratti({{7.6, 8.2}, {8.6, 8.6}}), "7.6-8.2, 8.6");
-    EXPECT_EQ(testoTratti({{3.2399999999999998, 9}}), "3.24-9");
+TEST(TestoTratti, NamesDepthsWithTwoDecimals) {
+    EXPECT_EQ(testoTratti({{7.6, 8.2}, {8.6, 8.6}}), "7.60-8.20, 8.60");
+    EXPECT_EQ(testoTratti({{3.2399999999999998, 9}}), "3.24-9.00");
     EXPECT_EQ(testoTratti({}), "-");
 }
 
 TEST(ParoleRiduzione, TellTheMovementOrWhyThereIsNone) {
     EXPECT_EQ(parole(Riduzione{.F = 1.6, .moto = equilibrium::Meccanismo{true, 0, 1, 0}}, 12),
               "trasla verso lo scavo");
-    EXPECT_EQ(parole(Riduzione{.F = {}, .oltre = true}, 12), "nessun meccanismo fino a F = 10");
+    EXPECT_EQ(parole(Riduzione{.F = 1.6, .moto = equilibrium::Meccanismo{false, 7.5, 1, 0}}, 12),
+              "ruota attorno alla profondità di 7.50 m, il piede verso lo scavo");
+    EXPECT_EQ(parole(Riduzione{.F = {}, .oltre = true}, 12),
+              "nessun meccanismo fino a F = 10: basta un decimo della resistenza del terreno");
+    EXPECT_EQ(parole(Riduzione{.F = {}, .oltre = true, .senzaTerreno = true}, 12),
+              "nessun meccanismo fino a F = 10: vincoli o tiranti tengono la paratia qualunque sia "
+              "il terreno");
     EXPECT_EQ(parole(Riduzione{.F = 2.7, .limitePendio = true}, 12),
               "oltre F l'angolo di attrito ridotto è minore della pendenza del terreno");
     EXPECT_EQ(parole(Riduzione{}, 12), "-");
 }
 
-TEST(ParoleLunghezza, SayHowShortTheWallMayBe) {
+TEST(ParoleLunghezza, SayHowShortTheWallMayBeAndThatThisIsNoLengthToBuild) {
     Margine m = dueFasi();
     m.lunghezza = {EsitoLunghezza::trovata, 9.37};
-    EXPECT_EQ(paroleLunghezza(m), "Lunghezza minima: 9.37 m; la paratia è lunga 12 m");
+    EXPECT_EQ(paroleLunghezza(m),
+              "Lunghezza minima: 9.37 m; la paratia è lunga 12.00 m; non è una lunghezza da "
+              "costruire: F = 1");
+    m.sostegni = true;
+    EXPECT_EQ(paroleLunghezza(m),
+              "Lunghezza minima: 9.37 m; la paratia è lunga 12.00 m; non è una lunghezza da "
+              "costruire: F = 1, tiranti e vincoli tengono senza limite");
     m.lunghezza = {EsitoLunghezza::sempre, 6.5};
     EXPECT_EQ(paroleLunghezza(m),
-              "Lunghezza minima: 6.5 m; la paratia sta anche senza infissione sotto lo scavo più "
-              "profondo");
+              "Lunghezza minima: 6.50 m; la paratia sta anche senza infissione sotto lo scavo più "
+              "profondo; non è una lunghezza da costruire: tiranti e vincoli tengono senza limite");
+    m.sostegni = false;
+    EXPECT_TRUE(paroleLunghezza(m).ends_with("; non è una lunghezza da costruire"));
+}
+
+TEST(ParoleLunghezza, SayWhyThereIsNone) {
+    Margine m = dueFasi();
     m.lunghezza = {EsitoLunghezza::mai, {}};
-    EXPECT_EQ(paroleLunghezza(m), "Lunghezza minima: nessuna fino a 36 m");
+    EXPECT_EQ(paroleLunghezza(m), "Lunghezza minima: nessuna fino a 36.00 m");
     m.fasi[1].esito = EsitoFase::nonDefinito;
     EXPECT_EQ(paroleLunghezza(m), "");
+    EXPECT_FALSE(lunghezzaNota(m));
     m.lunghezza = {EsitoLunghezza::vincolata, {}};
     EXPECT_EQ(paroleLunghezza(m), "Lunghezza minima: nessuna, il piede è vincolato");
 }
@@ -108,6 +127,39 @@ TEST(NotaPendenza, StandsWhereAFactorHasTheAsterisk) {
     m.fasi[0].riduzione.limitePendio = true;
     EXPECT_EQ(notaPendenza(m),
               "* oltre F l'angolo di attrito ridotto è minore della pendenza del terreno");
+}
+
+TEST(NotaOltre, NamesTheStagesThatAreHeldWhateverTheGround) {
+    Margine m = dueFasi();
+    EXPECT_EQ(notaOltre(m), "");
+    m.fasi[0].riduzione = {.F = {}, .oltre = true};
+    EXPECT_EQ(notaOltre(m), "");
+    m.fasi[1].riduzione = {.F = {}, .oltre = true, .senzaTerreno = true};
+    EXPECT_EQ(notaOltre(m),
+              "> 10, fase 2: vincoli o tiranti tengono la paratia qualunque sia il terreno");
+    m.fasi[0].riduzione = m.fasi[1].riduzione;
+    EXPECT_EQ(notaOltre(m),
+              "> 10, fase 1, 2: vincoli o tiranti tengono la paratia qualunque sia il terreno");
+}
+
+TEST(ParoleRelazione, SayWhatKeepsItFromItsNumbers) {
+    using analysis::ModoFine;
+    Margine m = dueFasi();
+    m.corsa = {ModoFine::singolare, 2, 0};
+    EXPECT_EQ(paroleRelazione(m),
+              "La relazione non ha numeri: il calcolo per fasi trova un sistema singolare nella "
+              "fase 2");
+    m.corsa = {ModoFine::oltreLimite, 1, 200};
+    EXPECT_EQ(paroleRelazione(m),
+              "La relazione non ha numeri: l'iterazione del calcolo per fasi non si assesta nella "
+              "fase 1");
+    m.corsa = {ModoFine::nonMostrabile, 0, 0};
+    EXPECT_EQ(paroleRelazione(m), "La relazione non ha numeri: nessuna relazione può mostrarli");
+    m.fasi[1].esito = EsitoFase::meccanismo;  // told already
+    EXPECT_EQ(paroleRelazione(m), "");
+    m = dueFasi();
+    m.relazione.emplace();
+    EXPECT_EQ(paroleRelazione(m), "");
 }
 
 }  // namespace

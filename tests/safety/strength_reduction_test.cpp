@@ -110,7 +110,15 @@ TEST(Riduzione, IsBeyondTenWhereARestraintHoldsTheWall) {
     dati.vincoloPiede = 2;
     const Riduzione r = riduzione(dati, 50, 1);
     EXPECT_TRUE(r.oltre);
+    EXPECT_TRUE(r.senzaTerreno);
     EXPECT_FALSE(r.F);
+}
+
+// Free, in untouched ground: the two sides balance each other at any strength that there is.
+TEST(Riduzione, BeyondTenTellsGroundThatHoldsTheWallFromSupports) {
+    const Riduzione r = riduzione(test::muro().lungo(10).strato({}).fase({}).dati(), 50, 1);
+    EXPECT_TRUE(r.oltre);
+    EXPECT_FALSE(r.senzaTerreno);
 }
 
 // A slope of 20 degrees: tan 34 / tan 20 = 1.853, and no strength beyond has a coefficient.

@@ -41,7 +41,7 @@ std::string tabellaFasi(const Margine& margine) {
 void riga(int fase, std::string_view cosa, const Unita& u, const safety::Confronto& c,
           TabellaTesto& tabella) {
     tabella.riga({std::to_string(fase), titolo(cosa, u), numeroMostrato(c.statica.valore, 2, u),
-                  numeroMostrato(c.statica.z, 2),
+                  c.statica.fase > 0 ? numeroMostrato(c.statica.z, 2) : nessuno,
                   c.relazione ? numeroMostrato(c.relazione->valore, 2, u) : nessuno,
                   c.relazione ? numeroMostrato(c.relazione->z, 2) : nessuno});
 }
@@ -77,11 +77,10 @@ std::string testoMargine(const Margine& margine) {
     for (const std::string& riga :
          {paroleDecisiva(margine), paroleLunghezza(margine), paroleMaglia(margine)})
         if (!riga.empty()) testo += riga + '\n';
-    if (!margine.fasi.empty() && margine.fasi.front().inEquilibrio())
-        testo += tabellaStatica(margine);
-    if (margine.sta() && !margine.relazione)
-        testo += traduttore("La relazione non ha numeri: il calcolo per fasi non si ferma.") + '\n';
-    return testo + paroleMetodo(margine) + '\n';
+    if (margine.haNumeri()) testo += tabellaStatica(margine);
+    for (const std::string& riga : {paroleRelazione(margine), paroleMetodo(margine)})
+        if (!riga.empty()) testo += riga + '\n';
+    return testo;
 }
 
 }  // namespace korven::batch
