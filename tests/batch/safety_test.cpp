@@ -105,7 +105,7 @@ TEST_F(Sicurezza, SaysOfAFixedToeThatNothingOvercomesItAndThatTheReportsShearIsN
     const auto testo = righe(comando({"--silenzioso"}).uscita + comando().uscita);
     ASSERT_GT(testo.size(), 2u);
     EXPECT_TRUE(dice(testo[1], "> 10")) << testo[1];
-    EXPECT_TRUE(dice(testo[1], "nessun meccanismo fino a F = 10")) << testo[1];
+    EXPECT_TRUE(dice(testo[1], "nessun meccanismo fino a F = 10: vincoli o tiranti ")) << testo[1];
 }
 
 TEST_F(Sicurezza, TellsOfAMechanismWhatItIsShortOfAndEndsWithOne) {
@@ -118,6 +118,10 @@ TEST_F(Sicurezza, TellsOfAMechanismWhatItIsShortOfAndEndsWithOne) {
     EXPECT_EQ(testo[1], "   1       5.00  0.98            -              -  nessun equilibrio");
     EXPECT_TRUE(testo[2].starts_with("la paratia è un meccanismo nella fase 1: ")) << testo[2];
     EXPECT_TRUE(testo[3].starts_with("Lunghezza minima: 9.4")) << testo[3];
+    EXPECT_TRUE(
+        testo[3].ends_with("; la paratia è lunga 9.30 m; non è una lunghezza da costruire: "
+                           "F = 1"))
+        << testo[3];
     EXPECT_TRUE(dice(esito.errori, "di solito aiuta una paratia più lunga")) << esito.errori;
     const Json j = rispostaJson();
     EXPECT_EQ(j["causa"], "meccanismo");
@@ -128,6 +132,9 @@ TEST_F(Sicurezza, TellsOfAMechanismWhatItIsShortOfAndEndsWithOne) {
     for (const char* nome : {"passiva_usata", "spostamento_massimo_m", "momento_kNm", "taglio_kN"})
         EXPECT_TRUE(fase[nome].is_null()) << nome;
     EXPECT_TRUE(j["sicurezza"]["errore_maglia"].is_null());
+    for (const char* nome : {"momento_kNm", "taglio_kN"})
+        for (const auto& [campo, valore] : j["sicurezza"][nome].items())
+            EXPECT_TRUE(valore.is_null()) << nome << ' ' << campo;
 }
 
 TEST_F(Sicurezza, HasNoNumbersOfTheStagesAfterOneWithoutEquilibrium) {
@@ -161,11 +168,48 @@ TEST_F(Sicurezza, HasNoReportToCompareWithWhereTheIterationFlips) {
     muro("oscilla_1");
     const auto esito = comando();
     EXPECT_EQ(esito.codice, 0) << esito.errori;
-    EXPECT_TRUE(dice(esito.uscita, "La relazione non ha numeri")) << esito.uscita;
+    EXPECT_TRUE(dice(esito.uscita, "l'iterazione del calcolo per fasi non si assesta nella fase 2"))
+        << esito.uscita;
     const Json s = rispostaJson()["sicurezza"];
     EXPECT_TRUE(s["momento_kNm"]["relazione"].is_null());
     EXPECT_TRUE(s["momento_kNm"]["scarto"].is_null());
     EXPECT_NE(s["momento_kNm"]["statica"], 0);
+}
+
+TEST_F(Sicurezza, TellsASingularSystemFromARunThatDoesNotComeToRest) {
+    muro("singolare_3");
+    const auto esito = comando();
+    EXPECT_EQ(esito.codice, 0) << esito.errori;
+    EXPECT_TRUE(dice(esito.uscita, "il calcolo per fasi trova un sistema singolare nella fase 7"))
+        << esito.uscita;
+}
+
+TEST_F(Sicurezza, LeavesTheFieldOfForcesEmptyWithoutAReport) {
+    muro("singolare_1");
+    const std::string csv = cartella / "s.csv";
+    const auto esito = comando({"--csv", csv, "--json"});
+    EXPECT_EQ(esito.codice, 0) << esito.errori;
+    const Json fasi = Json::parse(esito.uscita)["sicurezza"]["fasi"];
+    const auto tabella = righe(test::contenuto(csv));
+    ASSERT_EQ(tabella.size(), fasi.size() + 1);
+    bool tiranti = false;
+    for (std::size_t k = 0; k < fasi.size(); ++k) {
+        EXPECT_TRUE(tabella[k + 1].ends_with(",\r")) << tabella[k + 1];
+        for (const Json& tiro : fasi[k]["tiri_kN"]) {
+            tiranti = true;
+            EXPECT_FALSE(tiro["statica"].is_null());
+            EXPECT_TRUE(tiro["relazione"].is_null());
+        }
+    }
+    EXPECT_TRUE(tiranti);
+}
+
+TEST_F(Sicurezza, WritesTheDepthsOfItsTableWithTwoDecimals) {
+    esempio("diaframma_piede_roccia");
+    const auto testo = righe(comando().uscita);
+    ASSERT_GT(testo.size(), 3u);
+    EXPECT_TRUE(dice(testo[1], " 2.60-3.20  ruota attorno alla profondità di 10.00 m")) << testo[1];
+    EXPECT_TRUE(dice(testo[3], " 7.60-8.20, 8.60 ")) << testo[3];
 }
 
 TEST_F(Sicurezza, WritesARowAStageWithAllDigits) {

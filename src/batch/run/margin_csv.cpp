@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cmath>
 
 #include "batch/run/csv.hpp"
@@ -54,10 +55,20 @@ std::string tratti(const safety::UsoPassiva& uso) {
     });
 }
 
+// A report has the forces of all anchors in place, or there is none.
+std::string tiriRelazione(const std::vector<safety::ConfrontoTiro>& tiri) {
+    if (std::any_of(tiri.begin(), tiri.end(), [](const auto& t) { return !t.relazione; }))
+        return {};
+    return insieme(tiri, [](const safety::ConfrontoTiro& t) {
+        return tutteLeCifre(project::inKilonewton(t.relazione->valore));
+    });
+}
+
+// A curve that is 0 all along has its largest number nowhere.
 void campi(const Confronto& c, bool numeri, RigheCsv& righe) {
     using Numero = std::optional<double>;
     righe.campo(numeri ? Numero(project::inKilonewton(c.statica.valore)) : Numero());
-    righe.campo(numeri ? Numero(c.statica.z) : Numero());
+    righe.campo(numeri && c.statica.fase > 0 ? Numero(c.statica.z) : Numero());
     righe.campo(c.relazione ? Numero(project::inKilonewton(c.relazione->valore)) : Numero());
     righe.campo(c.relazione ? Numero(c.relazione->z) : Numero());
 }
@@ -77,10 +88,7 @@ void riga(const MargineFase& fase, RigheCsv& righe) {
     righe.campo(insieme(fase.confronto.tiri, [](const safety::ConfrontoTiro& t) {
         return tutteLeCifre(project::inKilonewton(t.statica));
     }));
-    righe.campo(insieme(fase.confronto.tiri, [](const safety::ConfrontoTiro& t) {
-        return t.relazione ? tutteLeCifre(project::inKilonewton(t.relazione->valore))
-                           : std::string("-");
-    }));
+    righe.campo(tiriRelazione(fase.confronto.tiri));
     righe.fineRiga();
 }
 

@@ -3,6 +3,7 @@
 
 #include "batch/run/json_numbers.hpp"
 #include "batch/run/margin_outcome.hpp"
+#include "safety/margin_words.hpp"
 #include "safety/words.hpp"
 
 namespace korven::batch {
@@ -27,10 +28,16 @@ Json meccanismo(const safety::Riduzione& riduzione, double paratia) {
             {"testo", safety::parole(moto, paratia)}};
 }
 
-Json confronto(const safety::Confronto& c) {
-    Json j = {{"statica", kN(c.statica.valore)}, {"z_statica_m", arrotondato(c.statica.z)},
-              {"fase_statica", c.statica.fase},  {"relazione", nullptr},
-              {"z_relazione_m", nullptr},        {"fase_relazione", nullptr},
+// A curve that is 0 all along has its largest number nowhere.
+// @param nota  some stage stands
+Json confronto(const safety::Confronto& c, bool nota = true) {
+    const bool dove = c.statica.fase > 0;
+    Json j = {{"statica", nota ? Json(kN(c.statica.valore)) : Json(nullptr)},
+              {"z_statica_m", dove ? Json(arrotondato(c.statica.z)) : Json(nullptr)},
+              {"fase_statica", dove ? Json(c.statica.fase) : Json(nullptr)},
+              {"relazione", nullptr},
+              {"z_relazione_m", nullptr},
+              {"fase_relazione", nullptr},
               {"scarto", quota(c.scarto())}};
     if (c.relazione) {
         j["relazione"] = kN(c.relazione->valore);
@@ -123,11 +130,13 @@ Json jsonMargine(const Margine& margine) {
             {"fasi", fasi},
             {"lunghezza_m", arrotondato(margine.paratia)},
             {"lunghezza_minima_m", quota(margine.lunghezza.lunghezza)},
-            {"lunghezza_minima_esito", esitoLunghezza(margine.lunghezza.esito)},
+            {"lunghezza_minima_esito", safety::lunghezzaNota(margine)
+                                           ? Json(esitoLunghezza(margine.lunghezza.esito))
+                                           : Json(nullptr)},
             {"errore_maglia", erroreMaglia(margine)},
             {"ordine_maglia", ordineMaglia(margine)},
-            {"momento_kNm", confronto(margine.momento)},
-            {"taglio_kN", confronto(margine.taglio)}};
+            {"momento_kNm", confronto(margine.momento, margine.haNumeri())},
+            {"taglio_kN", confronto(margine.taglio, margine.haNumeri())}};
 }
 
 }  // namespace korven::batch
