@@ -18,6 +18,7 @@ constexpr double spazioFasi = 0.9;    // left of the axis, for the numbers of th
 constexpr double spazioNumeri = 1.3;  // right of it, for the numbers of the bars
 constexpr double massimaRiga = 1.1;   // pitch of few bars
 constexpr double mezzaBarra = 0.3;    // half the height of a bar, of the pitch
+constexpr double dente = 0.12;        // of a broken edge
 constexpr double rado = 0.2, fitto = 0.09;
 
 class Quadro {
@@ -25,6 +26,7 @@ class Quadro {
     Quadro(const Barre& b, double x1, double y1, double x2, double y2)
         : b_(b),
           xFasi_(x1),
+          xFine_(x2),
           x1_(x1 + spazioFasi),
           x2_(x2 - spazioNumeri),
           y1_(y1 + 2 * altezzaNumeri),
@@ -33,7 +35,9 @@ class Quadro {
 
     void disegna() const {
         plot::plotPenna(3);
-        plot::testoDa(xFasi_, yTitolo_, altezzaTitolo, b_.titolo);
+        const double largo = std::max(plot::larghezzaTesto(altezzaTitolo, b_.titolo), 1e-9);
+        plot::testoDa(xFasi_, yTitolo_, altezzaTitolo * std::min(1.0, (xFine_ - xFasi_) / largo),
+                      b_.titolo);
         assi();
         const auto n = static_cast<double>(std::max<std::size_t>(b_.barre.size(), 1));
         const double riga = std::min(massimaRiga, (y2_ - y1_) / n);
@@ -68,6 +72,7 @@ class Quadro {
     // Interrupted where the number of a bar stands in its way. Names of neighbours look away from
     // each other.
     void segno(std::size_t quale, double riga) const {
+        constexpr double largo = 0.12;  // free beside a number
         plot::plotPenna(6);
         const double limite = b_.limiti[quale], xLimite = x(limite);
         double y = y2_;
@@ -75,11 +80,12 @@ class Quadro {
             const double altezza = altezzaNumero(riga);
             const double mezzo = y2_ - (static_cast<double>(i) + 0.5) * riga;
             const double da = xNumero(b_.barre[i], riga);
-            if (xLimite < da - 0.05 ||
-                xLimite > da + plot::larghezzaTesto(altezza, b_.barre[i].numero) + 0.05)
+            if (xLimite < da - largo ||
+                xLimite > da + largo + plot::larghezzaTesto(altezza, b_.barre[i].numero))
                 continue;
-            tratteggia(xLimite, y, xLimite, mezzo + 0.9 * altezza);
-            y = mezzo - 0.9 * altezza;
+            const double alto = std::min(riga / 2, 1.7 * altezza);
+            if (y > mezzo + alto) tratteggia(xLimite, y, xLimite, mezzo + alto);
+            y = mezzo - alto;
         }
         tratteggia(xLimite, y, xLimite, y1_);
         const double yNome = y2_ + 0.5 * altezzaNumeri;
@@ -92,7 +98,10 @@ class Quadro {
 
     static double altezzaNumero(double riga) { return std::min(altezzaNumeri, 0.75 * riga); }
     [[nodiscard]] double xNumero(const Barra& barra, double riga) const {
-        return x(barra.valore) + (barra.oltre ? mezzaBarra * riga : 0) + 0.12;
+        const double sporge = barra.fine == FineBarra::freccia      ? mezzaBarra * riga
+                              : barra.fine == FineBarra::interrotta ? dente
+                                                                    : 0;
+        return x(barra.valore) + sporge + 0.12;
     }
 
     void disegna(const Barra& barra, double y, double riga) const {
@@ -114,13 +123,17 @@ class Quadro {
 
     void contorno(const Barra& barra, double fine, double y, double mezza) const {
         plot::linea(x1_, y + mezza, fine, y + mezza);
-        if (barra.oltre) plot::plotMuovi(fine + mezza, y, plot::pennaGiu);
+        if (barra.fine == FineBarra::freccia) plot::plotMuovi(fine + mezza, y, plot::pennaGiu);
+        if (barra.fine == FineBarra::interrotta) {
+            plot::plotMuovi(fine + dente, y + mezza / 3, plot::pennaGiu);
+            plot::plotMuovi(fine - dente, y - mezza / 3, plot::pennaGiu);
+        }
         plot::plotMuovi(fine, y - mezza, plot::pennaGiu);
         plot::plotMuovi(x1_, y - mezza, plot::pennaGiu);
     }
 
     const Barre& b_;
-    double xFasi_, x1_, x2_, y1_, y2_, yTitolo_;
+    double xFasi_, xFine_, x1_, x2_, y1_, y2_, yTitolo_;
 };
 
 }  // namespace

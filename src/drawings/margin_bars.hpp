@@ -5,11 +5,18 @@
 
 namespace korven::drawings {
 
+/// The right end of a bar.
+enum class FineBarra {
+    chiusa,
+    interrotta,  ///< a broken edge: the value is known and lies beyond the axis
+    freccia,     ///< an arrow: the value has no end that is known
+};
+
 /// A horizontal bar of one stage.
 struct Barra {
     int fase = 0;
-    double valore = 0;   ///< drawn up to the end of the axis
-    bool oltre = false;  ///< ends in an arrow
+    double valore = 0;  ///< drawn up to the end of the axis
+    FineBarra fine = FineBarra::chiusa;
     std::string numero;  ///< beside its end
     int tratteggio = 0;  ///< 0 empty, 1 sparse, 2 dense
 };
@@ -24,6 +31,7 @@ struct Barre {
 };
 
 /// Draws it in the rectangle [cm], the numbers of the axis below, those of the marks above.
+/// A title that is wider is drawn smaller.
 void disegnaBarre(const Barre& barre, double x1, double y1, double x2, double y2);
 
 }  // namespace korven::drawings

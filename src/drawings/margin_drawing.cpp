@@ -2,10 +2,14 @@
 
 #include <algorithm>
 #include <string>
+#include <utility>
+#include <vector>
 
+#include "base/code_page.hpp"
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
 #include "base/value_error.hpp"
+#include "drawings/filled_lines.hpp"
 #include "drawings/margin_bars.hpp"
 #include "drawings/margin_section.hpp"
 #include "plot/plot_engine.hpp"
@@ -40,7 +44,9 @@ Barra barraF(const MargineFase& fase, const SegniMargine& segni) {
     const double F = r.oltre ? safety::massimaRiduzione : r.F.value_or(0);
     return {.fase = fase.fase,
             .valore = F,
-            .oltre = F > fineAsseF,
+            .fine = r.oltre         ? FineBarra::freccia
+                    : F > fineAsseF ? FineBarra::interrotta
+                                    : FineBarra::chiusa,
             .numero = testoRiduzione(r),
             .tratteggio = tratteggio(F, segni.riduzioneScarsa, segni.riduzioneModesta, true)};
 }
@@ -49,7 +55,6 @@ Barra barraUso(const MargineFase& fase, const SegniMargine& segni) {
     const double uso = fase.passiva.quota.value_or(0);
     return {.fase = fase.fase,
             .valore = inPercento(uso),
-            .oltre = false,
             .numero = safety::testoQuota(fase.passiva.quota),
             .tratteggio = tratteggio(uso, segni.passivaMoltoAlta, segni.passivaAlta, false)};
 }
@@ -91,21 +96,43 @@ std::string legendaMuro(const Margine& margine) {
            " " + std::to_string(fase->fase);
 }
 
-// The lines below the drawing, drawn in to the width of the sheet.
+// Sentences begin as such; the same words stand within lines elsewhere.
+std::string conMaiuscola(const std::string& testo) {
+    const auto continua = [](char c) { return (static_cast<unsigned char>(c) & 0xC0) == 0x80; };
+    std::size_t prima = 1;
+    while (prima < testo.size() && continua(testo[prima])) ++prima;
+    return base::maiuscolo(testo.substr(0, prima)) + testo.substr(prima);
+}
+
+// The lines below the drawing, broken at the width of the sheet and drawn together if they are
+// many.
 void piede(const Margine& margine, const SegniMargine& segni) {
-    constexpr double altezza = 0.25, riga = 0.42;
+    constexpr double altezza = 0.25, riga = 0.42, rientro = 0.4;
+    constexpr double ySopraRighe = ySotto - 0.75, ySottoRighe = 0.6;
+    constexpr double interlinea = 1.4;  // pitch of the tightest lines, in heights
     plot::plotPenna(4);
     plot::linea(plot::x0, ySotto - 0.3, xDestra, ySotto - 0.3);
     plot::plotPenna(6);
-    double y = ySotto - 0.75;
+    std::vector<std::pair<double, std::string>> righe;
     for (const std::string& testo :
          {paroleDecisiva(margine), paroleLunghezza(margine), paroleMaglia(margine),
           notaPendenza(margine), notaOltre(margine), legenda(segni), legendaMuro(margine),
           paroleMetodo(margine)}) {
         if (testo.empty()) continue;
-        const double lunga = std::max(plot::larghezzaTesto(altezza, testo), 1e-9);
-        plot::testoDa(plot::x0, y, altezza * std::min(1.0, plot::larghQuadro / lunga), testo);
-        y -= riga;
+        double x = plot::x0;
+        for (std::string& parte :
+             righePiene(conMaiuscola(testo), altezza, plot::larghQuadro, rientro)) {
+            righe.emplace_back(x, std::move(parte));
+            x = plot::x0 + rientro;
+        }
+    }
+    const double passo =
+        std::min(riga, (ySopraRighe - ySottoRighe) / static_cast<double>(righe.size()));
+    double y = ySopraRighe;
+    for (const auto& [x, testo] : righe) {
+        const double stretta = (xDestra - x) / std::max(plot::larghezzaTesto(altezza, testo), 1e-9);
+        plot::testoDa(x, y, std::min({altezza, altezza * stretta, passo / interlinea}), testo);
+        y -= passo;
     }
 }
 

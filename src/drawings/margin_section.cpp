@@ -95,7 +95,7 @@ class Muro {
     }
 
     void acque() const {
-        acqua(dati_.faldaMonte, x1_, x1_ + 1);
+        acqua(dati_.faldaMonte, x1_, x1_ + 0.7);  // left of the names of anchors
         if (dati_.nFasi > 0) acqua(dati_.faldaFase[dati_.nFasi], xMuro_ + 0.5, xMuro_ + 1.1);
     }
 

@@ -66,6 +66,9 @@ TEST_F(DisegnoMargine, HasANumberForEachStageAndTheMarksOfBothDiagrams) {
         EXPECT_FALSE(testiCon(testo).empty()) << testo;
     EXPECT_EQ(testiCon("\"1.5\"").size(), 2u);  // the mark, and a number of the axis
     EXPECT_EQ(plot::statoPlot.nome, "sicurezza");
+    margine.fasi[2].riduzione.senzaTerreno = true;
+    disegna();
+    EXPECT_EQ(testiCon("\"> 10, fase 3: vincoli o tiranti tengono").size(), 1u);
 }
 
 TEST_F(DisegnoMargine, HatchesBarsBeyondTheMarksAndTheWorseOnesMoreDensely) {
@@ -116,9 +119,48 @@ TEST_F(DisegnoMargine, OfAWallWithoutEquilibriumSaysSoAndDrawsNoNumbers) {
     margine.fasi[2] = {};
     margine.fasi[2].fase = 3;
     disegna();
-    EXPECT_EQ(testiCon("nessun equilibrio nella fase 2").size(), 1u);
+    EXPECT_EQ(testiCon("\"Nessun equilibrio nella fase 2").size(), 1u);
     EXPECT_EQ(testiCon("\"0.97\"").size(), 1u);
     EXPECT_EQ(testiCon("\"-\"").size(), 3u);  // F of stage 3, the passive side of 2 and 3
+}
+
+TEST_F(DisegnoMargine, BreaksLongSentencesInTheFrameInsteadOfShrinkingThem) {
+    margine.fasi[0].esito = EsitoFase::meccanismo;
+    margine.fasi[0].perche = safety::Diagnosi{
+        .causa = safety::Causa::meccanismo,
+        .fase = 1,
+        .paratia = 10,
+        .moto = equilibrium::Meccanismo{
+            .traslazione = false, .profondita = 8.93, .verso = -1, .mancante = 257000}};
+    margine.sostegni = true;
+    margine.lunghezza = {safety::EsitoLunghezza::sempre, 4.0};
+    disegna();
+    EXPECT_EQ(testiCon("\"La paratia è un meccanismo nella fase 1: ruota").size(), 1u);
+    long righe = 0;
+    for (const plot::TestoPlot& t : plot::statoPlot.archivio.testi()) {
+        if (t.y > 4.6) continue;
+        ++righe;
+        EXPECT_DOUBLE_EQ(t.altezza, 0.25) << t.testo;
+        EXPECT_LE(t.x + plot::larghezzaTesto(t.altezza, t.testo), 18.5 + 1e-9) << t.testo;
+        EXPECT_GT(t.y, 0.5) << t.testo;
+    }
+    EXPECT_GE(righe, 6);
+}
+
+TEST_F(DisegnoMargine, LeavesRoomBetweenTheWaterLevelAndTheNameOfAnAnchor) {
+    dati.faldaMonte = 1.5;  // at the height of the name
+    disegna();
+    double fine = 0;
+    plot::statoPlot.archivio.perOgniLinea([&](const plot::Segmento& s) {
+        if (test::pennaDi(s) == 6 && s.x1 == plot::x0 && s.y1 == s.y2 && s.y1 > 6)
+            fine = std::max(fine, s.x2);
+    });
+    const auto& testi = plot::statoPlot.archivio.testi();
+    const auto nome =
+        std::find_if(testi.begin(), testi.end(), [](const auto& t) { return t.testo == "T1"; });
+    ASSERT_NE(nome, testi.end());
+    EXPECT_NEAR(fine, 2.2, 1e-6);
+    EXPECT_GT(nome->x, fine + 0.15);
 }
 
 TEST_F(DisegnoMargine, RefusesAWallThatNoSheetHolds) {
