@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "analysis/result_file.hpp"
+#include "analysis/run_closing.hpp"
 #include "analysis/run_files.hpp"
 #include "analysis/run_flags.hpp"
 #include "analysis/run_start.hpp"
@@ -57,8 +58,7 @@ void aggiornaRisultati(const Avvio& avvio, const PorteCalcolo& porte) {
     CorsaSuFile seguito(file, avvio.nSeg + 1, porte.avanzamento);
     const EsitoCorsa corsa = calcolaFasi(Progetto, avvio.nSeg, seguito);
     if (!corsa.finita()) return racconta(corsa.fasi.back(), porte.dialogo);
-    file.aggiungi(
-        testoChiusura({avvio.MRd[2], avvio.MRd[1], corsa.mMaxTotale, corsa.mMinTotale, fsAzioni}));
+    file.aggiungi(testoChiusura(chiusura(avvio.MRd, corsa)));
     file.finito();
 }
 

@@ -1,5 +1,7 @@
 #include "results/report_numbers.hpp"
 
+#include <algorithm>
+#include <cassert>
 #include <cmath>
 
 #include "analysis/wall_mesh.hpp"
@@ -50,6 +52,24 @@ const NumeroRelazione& NumeriFase::momento() const {
     return momentoMassimo.valore >= -momentoMinimo.valore ? momentoMassimo : momentoMinimo;
 }
 
+const NumeroRelazione& NumeriRelazione::momentoMassimo() const {
+    assert(!fasi.empty());
+    return std::max_element(fasi.begin(), fasi.end(),
+                            [](const auto& una, const auto& altra) {
+                                return una.momentoMassimo.valore < altra.momentoMassimo.valore;
+                            })
+        ->momentoMassimo;
+}
+
+const NumeroRelazione& NumeriRelazione::momentoMinimo() const {
+    assert(!fasi.empty());
+    return std::min_element(fasi.begin(), fasi.end(),
+                            [](const auto& una, const auto& altra) {
+                                return una.momentoMinimo.valore < altra.momentoMinimo.valore;
+                            })
+        ->momentoMinimo;
+}
+
 NumeriRelazione numeriRelazione(const DatiRelazione& dati) {
     NumeriRelazione numeri;
     for (int s = 1; s <= static_cast<int>(dati.fasi.size()); ++s) {
@@ -60,6 +80,8 @@ NumeriRelazione numeriRelazione(const DatiRelazione& dati) {
     if (!dati.azioni.empty())
         for (int j = 1; j <= dati.azioni.back().nTiranti; ++j)
             numeri.tiriMassimi.push_back(dati.tiroTirante[j]);
+    numeri.flessione = verificaMomenti(dati);
+    numeri.taglioSezione = verificaAlTaglio(dati);
     return numeri;
 }
 

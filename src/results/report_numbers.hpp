@@ -1,8 +1,10 @@
 #pragma once
 
+#include <optional>
 #include <vector>
 
 #include "results/report_data.hpp"
+#include "results/structure_checks.hpp"
 
 namespace korven::results {
 
@@ -43,6 +45,14 @@ struct NumeriRelazione {
     /// The largest force of each anchor of the last stage, as the report prints it [t]; element 0
     /// is anchor 1.
     std::vector<double> tiriMassimi;
+    /// The checks of the section; nothing where the report shows none.
+    std::optional<ConfrontoMomenti> flessione;
+    std::optional<structure::ConfrontoTaglio> taglioSezione;
+
+    /// Where the largest signed moment of all stages is, and where the smallest.
+    /// @pre there are stages: asserted
+    [[nodiscard]] const NumeroRelazione& momentoMassimo() const;
+    [[nodiscard]] const NumeroRelazione& momentoMinimo() const;
 };
 
 [[nodiscard]] NumeriRelazione numeriRelazione(const DatiRelazione& dati);

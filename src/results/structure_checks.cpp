@@ -42,8 +42,8 @@ std::string_view sentenza(bool positivo, bool verificato) {
 std::vector<std::string_view> verificheFallite(const DatiRelazione& dati) {
     std::vector<std::string_view> fallite;
     if (const auto momenti = verificaMomenti(dati)) {
-        if (!momenti->verificatoPos) fallite.push_back(sentenza(true, false));
-        if (momenti->negativo && !momenti->verificatoNeg) fallite.push_back(sentenza(false, false));
+        if (momenti->fallitaPos()) fallite.push_back(sentenza(true, false));
+        if (momenti->fallitaNeg()) fallite.push_back(sentenza(false, false));
     }
     if (const auto taglio = verificaAlTaglio(dati))
         for (const auto rottura : structure::righeRotturaTaglio(*taglio))

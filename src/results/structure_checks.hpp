@@ -20,6 +20,10 @@ struct ConfrontoMomenti {
     bool negativo = false;        ///< a negative moment acts: only then its side is checked
     bool verificatoPos = false;
     bool verificatoNeg = false;  ///< of no meaning without a negative moment
+
+    /// The sides that the report says are not verified.
+    [[nodiscard]] bool fallitaPos() const { return !verificatoPos; }
+    [[nodiscard]] bool fallitaNeg() const { return negativo && !verificatoNeg; }
 };
 
 /// A positive moment stretches the excavated side, which is bending of negative curvature: hence

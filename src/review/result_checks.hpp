@@ -35,6 +35,11 @@ void controlloMaglia(const project::DatiProgetto& dati, const safety::Margine& m
 void controlloStatica(const project::DatiProgetto& dati, const safety::Margine& margine,
                       ElencoOsservazioni& elenco);
 
+/// The checks of the section that the report says have failed, one remark for each of its
+/// sentences.
+void controlloVerifiche(const project::DatiProgetto& dati, const safety::Margine& margine,
+                        ElencoOsservazioni& elenco);
+
 /// A fixed toe: what the report shows there, and how far it gives.
 void controlloIncastro(const project::DatiProgetto& dati, const safety::Margine& margine,
                        ElencoOsservazioni& elenco);

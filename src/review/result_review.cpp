@@ -64,6 +64,7 @@ Osservazioni esaminaRisultati(const DatiProgetto& dati, const safety::Margine& m
     ElencoOsservazioni elenco;
     controlloEquilibrio(dati, margine, elenco);
     controlloMargine(dati, margine, elenco);
+    controlloVerifiche(dati, margine, elenco);
     controlloTiri(dati, margine, elenco);
     controlloStatica(dati, margine, elenco);
     controlloIncastro(dati, margine, elenco);

@@ -35,6 +35,13 @@ inline constexpr VoceOsservazione vociRisultati[] = {
      "il piede si sposta di %1 mm verso lo scavo, il %2 % dello spostamento massimo: il terreno "
      "davanti lo trattiene poco, controllare l'infissione"},
 
+    {"flessione-non-verificata", Peso::pericolo, "flessione",
+     "%1 di progetto %2 kN m (fase %3, a %4 m), resistenza %5 kN m%6: %7, o ridurre il momento con "
+     "tiranti, scavo e carichi"},
+    {"taglio-non-verificato", Peso::pericolo, "taglio_verifica",
+     "taglio di progetto %1 kN (fase %2, a %3 m), %4 %5 kN%6: %7, o ridurre il taglio con tiranti, "
+     "scavo e carichi"},
+
     {"tiro-impreciso", Peso::daVedere, "osservazioni_risultati",
      "la relazione dà il tiro %1 kN, quello vero è %2 kN (fase %3): lo calcola da spostamenti con "
      "sette decimali, che bastano fino a circa %4 kN/m"},

@@ -2,9 +2,11 @@
 
 #include <cmath>
 
+#include "analysis/run_closing.hpp"
 #include "analysis/staged_run.hpp"
 #include "base/value_error.hpp"
-#include "structure/partial_factors.hpp"
+#include "structure/bending_resistance.hpp"
+#include "structure/section_validity.hpp"
 
 namespace korven::safety {
 
@@ -30,6 +32,14 @@ class FinoAlLimite : public analysis::OsservatoreCorsa {
     bool oltre_ = false;
 };
 
+// As the specified run takes them.
+structure::MomentiResistenti resistenze(const project::DatiProgetto& dati) {
+    structure::MomentiResistenti MRd;
+    if (structure::sezioneValida(dati.sezione))
+        structure::momentiResistenti(dati.sezione, dati.sforzoNormale, MRd);
+    return MRd;
+}
+
 }  // namespace
 
 RelazioneInMemoria relazioneInMemoria(const project::DatiProgetto& dati, int nSeg,
@@ -42,10 +52,8 @@ RelazioneInMemoria relazioneInMemoria(const project::DatiProgetto& dati, int nSe
         return relazione;
     }
     try {
-        // The section's resistances are not asked for.
         relazione.numeri = results::numeriRelazione(results::risultatiInMemoria(
-            dati, nSeg, corsa,
-            {0, 0, corsa.mMaxTotale, corsa.mMinTotale, structure::fsAzioniSezione}));
+            dati, nSeg, corsa, analysis::chiusura(resistenze(dati), corsa)));
     } catch (const base::ErroreValore&) {
         relazione.fine.modo = analysis::ModoFine::nonMostrabile;
     }

@@ -60,8 +60,8 @@ ConfrontoTaglio confrontaTaglio(const TaglioResistente& resistente, double armIn
 
 std::vector<std::string_view> righeRotturaTaglio(const ConfrontoTaglio& c) {
     std::vector<std::string_view> righe;
-    if (c.Vsd > c.Vrd2) righe.emplace_back("Rottura delle bielle di calcestruzzo compresse");
-    if (c.Vsd > c.Vrd3) righe.emplace_back("Rottura dell'armatura d'anima");
+    if (c.rotturaBielle()) righe.emplace_back("Rottura delle bielle di calcestruzzo compresse");
+    if (c.rotturaArmatura()) righe.emplace_back("Rottura dell'armatura d'anima");
     return righe;
 }
 

@@ -44,6 +44,10 @@ struct ConfrontoTaglio {
     double taglioMassimo;  ///< acting shear
     double fsAzioni;       ///< partial factor of the actions [-]
     double Vsd;            ///< design shear
+
+    /// The two tests are independent, and a design shear equal to the resistance passes.
+    [[nodiscard]] bool rotturaBielle() const { return Vsd > Vrd2; }
+    [[nodiscard]] bool rotturaArmatura() const { return Vsd > Vrd3; }
 };
 
 /// @param resistente   resistances of one pile [N]
@@ -54,8 +58,7 @@ struct ConfrontoTaglio {
                                               double armInterasse, double Vmax);
 
 /// The lines that a failed check puts into the report, in this order and as keys of the table of
-/// texts; none when the check passes. The two tests are independent, and a design shear equal to
-/// the resistance passes.
+/// texts; none when the check passes.
 [[nodiscard]] std::vector<std::string_view> righeRotturaTaglio(const ConfrontoTaglio& confronto);
 
 }  // namespace korven::structure

@@ -86,6 +86,12 @@ Osservazioni conStaffe() {
     });
 }
 
+Osservazioni conFerriSottili() {
+    auto dati = test::leggiMuro(std::string(KORVEN_EXAMPLES) + "/diaframma_due_ordini.kvd");
+    dati.sezione.diametroMonte = dati.sezione.diametroValle = 1;
+    return esaminaRisultati(dati, 50);
+}
+
 Osservazioni conIncastro() {
     const DatiProgetto dati = con([](DatiProgetto& d) { d.vincoloPiede = 3; });
     return cambiato(controlloIncastro, dati, [](Margine& m) {
@@ -147,6 +153,7 @@ TEST(VociRisultati, AreEachBroughtBySomeWall) {
         conStatica(&Margine::taglio, 18),
         conStatica(&Margine::taglio, 22),
         conStaffe(),
+        conFerriSottili(),
         conIncastro(),
         conFalda(),
     };

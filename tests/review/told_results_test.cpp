@@ -32,9 +32,12 @@ std::string muro(const std::string& nome) {
 }
 
 const std::map<std::string, Righe> esempi = {
-    {"diaframma_due_ordini", {}},   {"diaframma_piede_roccia", {}},
-    {"palancola_mensola", {}},      {"pali_armati_staffe", {"riduzione-bassa"}},
-    {"pali_tubolari_cerniera", {}}, {"paratia_lunga_incastro", {"taglio-maggiore-della-statica"}},
+    {"diaframma_due_ordini", {}},
+    {"diaframma_piede_roccia", {}},
+    {"palancola_mensola", {}},
+    {"pali_armati_staffe", {"taglio-non-verificato", "riduzione-bassa"}},
+    {"pali_tubolari_cerniera", {}},
+    {"paratia_lunga_incastro", {"taglio-maggiore-della-statica"}},
     {"trincea_puntellata", {}},
 };
 
@@ -44,11 +47,14 @@ TEST(EsempiRaccontati, AreToldLittle) {
 }
 
 TEST(EsempiRaccontati, AreToldWhatTheirStagesComeTo) {
-    EXPECT_EQ(righe(risultati(esempio("pali_armati_staffe"))),
-              Righe{"[da vedere] riduzione-bassa: fase 3: Prof. [m] = 7.8: riduzione di resistenza "
-                    "1.438, sotto 1.50; con una riduzione maggiore: ruota attorno alla profondità "
-                    "di 1.6 m, "
-                    "il piede verso lo scavo; controllare infissione, tiranti e carichi"});
+    EXPECT_EQ(
+        righe(risultati(esempio("pali_armati_staffe"))),
+        (Righe{"[pericolo] taglio-non-verificato: taglio di progetto 255.73 kN (fase 3, a 1.60 m), "
+               "resistenza dell'armatura d'anima 241.22 kN, usata al 106.0 %: infittire le "
+               "staffe o prenderle più grosse, o ridurre il taglio con tiranti, scavo e carichi",
+               "[da vedere] riduzione-bassa: fase 3: Prof. [m] = 7.8: riduzione di resistenza "
+               "1.438, sotto 1.50; con una riduzione maggiore: ruota attorno alla profondità di "
+               "1.6 m, il piede verso lo scavo; controllare infissione, tiranti e carichi"}));
     EXPECT_EQ(righe(risultati(esempio("paratia_lunga_incastro"))),
               Righe{"[da vedere] taglio-maggiore-della-statica: taglio massimo del diagramma "
                     "1120.0 kN (fase 5, a 26.00 m), dell'equilibrio -385.2 kN (fase 5, a 18.72 m); "
