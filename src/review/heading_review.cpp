@@ -71,12 +71,23 @@ std::string notaTitolo(std::size_t campo, const std::vector<std::string>& righe)
 
 void controlloTitoli(const project::DatiProgetto& dati, ElencoOsservazioni& elenco) {
     std::vector<std::string> righe;
+    std::vector<int> sovrapposti;
     for (int i = 1; i <= static_cast<int>(titoli); ++i) righe.push_back(dati.titoli[i]);
     for (int i = 1; i <= static_cast<int>(titoli); ++i) {
         const Soggetto titolo = review::riga(&project::DatiProgetto::titoli, i);
-        for (const auto& stranezza : stranezzeTitolo(static_cast<std::size_t>(i), righe))
-            elenco.conParole(stranezza.voce, titolo, stranezza.testo);
+        for (const auto& stranezza : stranezzeTitolo(static_cast<std::size_t>(i), righe)) {
+            if (stranezza.voce->codice == Voce("titoli-sovrapposti")->codice)
+                sovrapposti.push_back(i);
+            else
+                elenco.conParole(stranezza.voce, titolo, stranezza.testo);
+        }
     }
+    // Most projects fill all lines: told once, not of each.
+    if (!sovrapposti.empty())
+        elenco.conParole(
+            "titoli-sovrapposti", review::righe(&project::DatiProgetto::titoli, sovrapposti),
+            base::traduttore("nella stratigrafia si sovrappongono: lasciare una riga vuota tra due "
+                             "titoli"));
 }
 
 }  // namespace korven::review

@@ -108,19 +108,28 @@ Soggetto dopo(const std::string& prima, Soggetto soggetto) {
     return soggetto;
 }
 
+Soggetto righe(const project::Membro& colonna, const std::vector<int>& numeri) {
+    if (numeri.size() == 1) return riga(colonna, numeri.front());
+    const project::Campo& campo = project::campo(colonna);
+    std::vector<std::string> quali;
+    Soggetto soggetto;
+    for (const int numero : numeri) {
+        quali.push_back(std::to_string(numero));
+        soggetto.campi.push_back(project::nomeStabile(campo, numero));
+    }
+    soggetto.testo = base::traduttore(nomiRighe(campo.parte).plurale) + " " + inFila(quali);
+    return soggetto;
+}
+
 Soggetto righeConValori(const project::DatiProgetto& dati, const project::Membro& colonna,
                         const std::vector<int>& numeri) {
     if (numeri.size() == 1) return rigaConValore(dati, colonna, numeri.front());
     const project::Campo& campo = project::campo(colonna);
-    std::vector<std::string> quali, valori;
-    Soggetto soggetto;
-    for (const int numero : numeri) {
-        quali.push_back(std::to_string(numero));
+    std::vector<std::string> valori;
+    for (const int numero : numeri)
         valori.push_back(valoreMostrato(campo, project::numeroConservato(dati, campo, numero)));
-        soggetto.campi.push_back(project::nomeStabile(campo, numero));
-    }
-    soggetto.testo = base::traduttore(nomiRighe(campo.parte).plurale) + " " + inFila(quali) + ": " +
-                     nomeCampo(campo) + " = " + inFila(valori);
+    Soggetto soggetto = righe(colonna, numeri);
+    soggetto.testo += ": " + nomeCampo(campo) + " = " + inFila(valori);
     return soggetto;
 }
 

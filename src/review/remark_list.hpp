@@ -51,6 +51,10 @@ class ElencoOsservazioni {
 [[nodiscard]] Soggetto rigaConValore(const project::DatiProgetto& dati,
                                      const project::Membro& colonna, int numero);
 
+/// Several rows with one column in question: "titoli 2, 3, 4"; of one row as above.
+/// @pre there is one
+[[nodiscard]] Soggetto righe(const project::Membro& colonna, const std::vector<int>& numeri);
+
 /// Several rows with their cells of one column: "strati 1, 3: Phi [°] = 30, 28"; of one row as
 /// above. @pre there is one
 [[nodiscard]] Soggetto righeConValori(const project::DatiProgetto& dati,

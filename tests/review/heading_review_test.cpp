@@ -80,7 +80,19 @@ TEST(NotaTitolo, JoinsWhatIsOddInOneLine) {
 TEST(ControlloTitoli, NamesTheLines) {
     aspetta({{[](DatiProgetto& d) { d.titoli[3] = "#ENDDOCUMENT"; }, {"titolo 3: " + comando}},
              {[](DatiProgetto& d) { d.titoli[2] = "Lotto"; },
-              {"titolo 1: " + vicina, "titolo 2: " + vicina}}});
+              {"titoli 1, 2: nella stratigrafia si sovrappongono: lasciare una riga vuota tra due "
+               "titoli"}}});
+}
+
+TEST(ControlloTitoli, TellAllLinesThatOverlapOnce) {
+    const auto trovate = osservazioni(conModifica([](DatiProgetto& d) {
+        d.titoli[1] = "";
+        for (const int i : {2, 3, 4, 6}) d.titoli[i] = "Lotto";
+    }));
+    ASSERT_EQ(trovate.size(), 1u);
+    EXPECT_EQ(trovate[0].codice, "titoli-sovrapposti");
+    EXPECT_TRUE(trovate[0].testo.starts_with("titoli 2, 3, 4: ")) << trovate[0].testo;
+    EXPECT_EQ(trovate[0].campi, (Righe{"titoli[2]", "titoli[3]", "titoli[4]"}));
 }
 
 }  // namespace
