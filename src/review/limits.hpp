@@ -66,6 +66,15 @@ inline constexpr double cedimentoIncastro = 0.01;
 /// the heaviest soil half of 5.
 inline constexpr double massimoPeso = 5;
 
+/// Friction angle above which a layer is to be looked at [°]. Reason: gravels have 35 to 42, dense
+/// ones seldom 45; beyond, the passive coefficient grows faster than any test is accurate.
+inline constexpr double angoloInsolito = 45;
+
+/// Cohesion above which a layer is to be looked at [t/m2]. Reason: 100 kN/m2 is the undrained
+/// strength of a very stiff clay, five times the effective cohesion of soils; 10 kPa, typed in kPa
+/// into a file that keeps t/m2, are as many.
+inline constexpr double coesioneInsolita = 10;
+
 /// Depth of a layer [m] that no wall reaches: the deepest diaphragm walls have 150 m.
 inline constexpr double profonditaInsolita = 200;
 

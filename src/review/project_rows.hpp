@@ -36,6 +36,12 @@ inline constexpr VoceOsservazione vociProgetto[] = {
     {"angolo-non-ammissibile", Peso::pericolo, "stratigrafia", "l'angolo non è ammissibile"},
     {"angolo-minore-del-pendio", Peso::pericolo, "stratigrafia",
      "l'angolo di attrito è minore dell'inclinazione del terreno"},
+    {"angolo-insolito", Peso::daVedere, "stratigrafia",
+     "supera %1°: pochi terreni ci arrivano, e un angolo troppo grande toglie spinta attiva e "
+     "aggiunge resistenza davanti; controllare le prove"},
+    {"coesione-insolita", Peso::daVedere, "stratigrafia",
+     "supera %1 kN/m², troppo per quasi ogni terreno: se nel file è scritta in kPa, il file la "
+     "tiene in t/m², dieci volte più piccola; giusta solo per roccia o argilla molto consistente"},
     {"polo-passivo", Peso::pericolo, "stratigrafia",
      "con l'inclinazione del terreno arriva a 90°: il coefficiente passivo di Coulomb non ha "
      "significato"},

@@ -29,6 +29,7 @@ struct ControlloStrato {
     base::Tabella<double, massimoStrati> DatiProgetto::*colonna;
     bool (*dubbio)(const DatiProgetto&, int);
     Voce voce;
+    double limite = 0;  ///< as stored; of the voices that name it
 };
 
 using Dati = const DatiProgetto&;
@@ -60,6 +61,9 @@ const ControlloStrato controlliStrato[] = {
     {&DatiProgetto::phiStrato,
      [](Dati d, int j) { return d.phiStrato[j] < 0 || d.phiStrato[j] >= 90; },
      "angolo-non-ammissibile"},
+    {&DatiProgetto::phiStrato,
+     [](Dati d, int j) { return d.phiStrato[j] > angoloInsolito && d.phiStrato[j] < 90; },
+     "angolo-insolito", angoloInsolito},
     // Whether a run can do with it depends on the method; `controlloSuolo` finds that out.
     {&DatiProgetto::phiStrato,
      [](Dati d, int j) { return d.phiStrato[j] < std::abs(d.inclinazioneMonte); },
@@ -71,6 +75,8 @@ const ControlloStrato controlliStrato[] = {
      },
      "polo-passivo"},
     {&DatiProgetto::coesione, [](Dati d, int j) { return d.coesione[j] < 0; }, "coesione-negativa"},
+    {&DatiProgetto::coesione, [](Dati d, int j) { return d.coesione[j] > coesioneInsolita; },
+     "coesione-insolita", coesioneInsolita},
     {&DatiProgetto::ksStrato,
      [](Dati d, int j) { return d.metodoKs >= MetodoKs::costante && d.ksStrato[j] == 0; },
      "ks-mancante"},
@@ -169,7 +175,10 @@ bool ksNegativoScritto(const DatiProgetto& dati) {
 void controlloTerreno(const DatiProgetto& dati, ElencoOsservazioni& elenco) {
     for (int j = 1; j <= dati.nStrati; ++j)
         for (const auto& c : controlliStrato)
-            if (c.dubbio(dati, j)) elenco.aggiungi(c.voce, rigaConValore(dati, c.colonna, j));
+            if (c.dubbio(dati, j))
+                elenco.aggiungi(
+                    c.voce, rigaConValore(dati, c.colonna, j),
+                    {testoNumero(project::mostrato(project::campo(c.colonna), c.limite))});
     for (const auto& c : controlliScalari)
         if (c.dubbio(dati)) elenco.aggiungi(c.voce, campoConValore(c.campo, dati.*c.campo));
     controlloPiede(dati, elenco);

@@ -59,6 +59,8 @@ const Scenario scenari[] = {
     {"strato-senza-resistenza", [](auto& d) { d.phiStrato[1] = 0; }},
     {"angolo-non-ammissibile", [](auto& d) { d.phiStrato[1] = 95; }},
     {"angolo-minore-del-pendio", [](auto& d) { d.inclinazioneMonte = 31; }},
+    {"angolo-insolito", [](auto& d) { d.phiStrato[1] = 45.5; }},
+    {"coesione-insolita", [](auto& d) { d.coesione[1] = 10.1; }},
     {"polo-passivo",
      [](auto& d) {
          d.phiStrato[1] = d.phiStrato[2] = 50;

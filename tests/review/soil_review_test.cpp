@@ -165,7 +165,7 @@ TEST(ControlloTerreno, RefusesAFrictionAngleAtThePoleOnly) {
         ": Phi [°] = 60: con l'inclinazione del terreno arriva a 90°: il coefficiente passivo di "
         "Coulomb non ha significato";
     const auto trovate = righe(oltre);
-    ASSERT_EQ(trovate.size(), 3u);  // the last on the coefficient at rest
+    ASSERT_EQ(trovate.size(), 5u);  // two on the angles, the last on the coefficient at rest
     EXPECT_EQ(trovate[0], "strato 1" + avviso);
     EXPECT_EQ(trovate[1], "strato 2" + avviso);
     EXPECT_TRUE(laCorsaRiesce(oltre));
@@ -243,6 +243,27 @@ TEST(ControlloSuolo, TellsALinearLawThatFallsBelowZeroUnderTheLastLayer) {
                   "della paratia"});
     EXPECT_EQ(osservazioni(d(8))[0].campi, std::vector<std::string>{"profStrato[2]"});
     EXPECT_TRUE(righeDi(d(12), {"modulo-negativo", "modulo-lineare-negativo"}).empty());
+}
+
+TEST(ControlloTerreno, TellsAnglesAndCohesionsThatFewSoilsHave) {
+    const std::set<std::string_view> insoliti = {"angolo-insolito", "coesione-insolita"};
+    const auto dette = [&](double phi, double coesione) {
+        return righeDi(conModifica([=](DatiProgetto& d) {
+                           d.phiStrato[1] = phi;
+                           d.coesione[1] = coesione;
+                       }),
+                       insoliti);
+    };
+    using Righe = std::vector<std::string>;
+    EXPECT_EQ(dette(45, 10), Righe{});
+    EXPECT_EQ(dette(90, 0), Righe{});  // no angle at all, told as such
+    EXPECT_EQ(dette(46, 20),
+              (Righe{"strato 1: Phi [°] = 46: supera 45°: pochi terreni ci arrivano, e un angolo "
+                     "troppo grande toglie spinta attiva e aggiunge resistenza davanti; "
+                     "controllare le prove",
+                     "strato 1: Coes. [kN/m²] = 200: supera 100 kN/m², troppo per quasi ogni "
+                     "terreno: se nel file è scritta in kPa, il file la tiene in t/m², dieci volte "
+                     "più piccola; giusta solo per roccia o argilla molto consistente"}));
 }
 
 }  // namespace
