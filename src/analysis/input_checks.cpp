@@ -28,6 +28,16 @@ struct Controllo {
     MotivoRifiuto motivo;
 };
 
+// A stage that asks for more anchors than there can be.
+std::string motivoTiranti(const DatiProgetto& dati) {
+    for (int k = 1; k <= dati.nFasi; ++k)
+        if (!(dati.tirantiFase[k] < project::massimoTiranti + 1))
+            return base::traduttore("fase") + " " + std::to_string(k) + ": " +
+                   base::traduttore("più tiranti di quanti ne tiene la tabella (20)") + ": " +
+                   base::testoNumero(dati.tirantiFase[k]);
+    return {};
+}
+
 constexpr Controllo controlli[] = {
     {senzaLunghezza,
      {&DatiProgetto::lunghezzaParatia,
@@ -64,6 +74,12 @@ std::string motivoFerri(const DatiProgetto& dati) {
     if (!structure::troppiFerri(dati.sezione)) return {};
     return base::traduttore("numero di ferri oltre la capacità (100000)") + " (" +
            base::testoNumero(dati.sezione.armNumLong) + ")";
+}
+
+std::string motivoDati(const DatiProgetto& dati) {
+    if (const auto motivo = motivoRifiuto(dati); !motivo.empty()) return base::traduttore(motivo);
+    if (auto motivo = motivoTiranti(dati); !motivo.empty()) return motivo;
+    return motivoFerri(dati);
 }
 
 }  // namespace korven::analysis

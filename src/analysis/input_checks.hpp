@@ -26,6 +26,10 @@ struct MotivoRifiuto {
 /// empty if it can.
 [[nodiscard]] std::string motivoFerri(const project::DatiProgetto& dati);
 
+/// The first reason for which the data of a project refuse a run, translated; empty if none does.
+/// Neither the stiffness nor the number of segments nor the names of files are looked at.
+[[nodiscard]] std::string motivoDati(const project::DatiProgetto& dati);
+
 /// The message of a run without a bending stiffness, an Italian key.
 inline constexpr std::string_view messaggioSenzaEJ = "Il valore di EJ non è ancora stato definito.";
 

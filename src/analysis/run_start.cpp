@@ -17,21 +17,9 @@ using base::traduttore;
 using project::fileCorrente;
 using project::Progetto;
 
-// A stage that asks for more anchors than there can be.
-std::string motivoTiranti() {
-    for (int k = 1; k <= Progetto.nFasi; ++k)
-        if (!(Progetto.tirantiFase[k] < project::massimoTiranti + 1))
-            return traduttore("fase") + " " + std::to_string(k) + ": " +
-                   traduttore("più tiranti di quanti ne tiene la tabella (20)") + ": " +
-                   base::testoNumero(Progetto.tirantiFase[k]);
-    return {};
-}
-
 // The first reason in the project itself or in the names of what a run writes.
-std::string motivoDati(ModoUscita modoUscita, const UscitaCalcolo& uscita) {
-    if (const auto motivo = motivoRifiuto(Progetto); !motivo.empty()) return traduttore(motivo);
-    if (auto motivo = motivoTiranti(); !motivo.empty()) return motivo;
-    if (auto motivo = motivoFerri(Progetto); !motivo.empty()) return motivo;
+std::string motivo(ModoUscita modoUscita, const UscitaCalcolo& uscita) {
+    if (auto motivo = motivoDati(Progetto); !motivo.empty()) return motivo;
     return motivoUscite(fileCorrente, modoUscita, uscita);
 }
 
@@ -42,16 +30,19 @@ void avvisa(base::Dialogo& dialogo, std::string_view testo) {
 }
 
 void avvisa(base::Dialogo& dialogo, int fase, const RifiutoSuolo& rifiuto) {
-    avvisa(dialogo, traduttore("Calcolo interrotto") + ": " + traduttore("fase") + " " +
-                        std::to_string(fase) + ", " + traduttore("profondità") + " " +
-                        base::testoNumero(rifiuto.profondita) +
-                        " m: " + traduttore(causa(rifiuto.motivo)) + ".");
+    avvisa(dialogo, testoRifiuto(fase, rifiuto));
+}
+
+std::string testoRifiuto(int fase, const RifiutoSuolo& rifiuto) {
+    return traduttore("Calcolo interrotto") + ": " + traduttore("fase") + " " +
+           std::to_string(fase) + ", " + traduttore("profondità") + " " +
+           base::testoNumero(rifiuto.profondita) + " m: " + traduttore(causa(rifiuto.motivo)) + ".";
 }
 
 std::optional<Avvio> avviaCalcolo(ModoUscita modoUscita, const UscitaCalcolo& uscita,
                                   base::Dialogo& dialogo) {
-    if (const auto motivo = motivoDati(modoUscita, uscita); !motivo.empty()) {
-        avvisa(dialogo, motivo);
+    if (const auto perche = motivo(modoUscita, uscita); !perche.empty()) {
+        avvisa(dialogo, perche);
         return std::nullopt;
     }
     const ProgettoAlSicuro sicuro(fileCorrente);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <string>
 #include <string_view>
 
 #include "analysis/calcolo_paratia.hpp"
@@ -27,7 +28,8 @@ struct Avvio {
 /// Tells why a run ends without a result.
 void avvisa(base::Dialogo& dialogo, std::string_view testo);
 
-/// The same of a stage whose soil has no value.
+/// What is told of a stage whose soil has no value, translated.
+[[nodiscard]] std::string testoRifiuto(int fase, const RifiutoSuolo& rifiuto);
 void avvisa(base::Dialogo& dialogo, int fase, const RifiutoSuolo& rifiuto);
 
 }  // namespace korven::analysis

@@ -1,0 +1,54 @@
+#include "live/envelope.hpp"
+
+#include <algorithm>
+
+namespace korven::live {
+
+namespace {
+
+using equilibrium::FaseEquilibrio;
+
+template <class Valore>
+Fascia fascia(const Parete& parete, const Valore& valore) {
+    Fascia f;
+    for (int k = 1; k <= parete.fasiInEquilibrio(); ++k) {
+        const FaseEquilibrio& fase = *parete.fase(k);
+        if (k == 1) {
+            for (std::size_t i = 0; i < fase.y.size(); ++i) f.minimo.push_back(valore(fase, i));
+            f.massimo = f.minimo;
+        }
+        for (std::size_t i = 0; i < fase.y.size(); ++i) {
+            f.minimo[i] = std::min(f.minimo[i], valore(fase, i));
+            f.massimo[i] = std::max(f.massimo[i], valore(fase, i));
+        }
+    }
+    return f;
+}
+
+std::vector<double> maggiori(const Parete& parete) {
+    std::vector<double> tiri;
+    for (int k = 1; k <= parete.fasiInEquilibrio(); ++k) {
+        const auto& diFase = parete.fase(k)->tiri;
+        for (std::size_t t = 0; t < diFase.size(); ++t) {
+            if (t == tiri.size()) tiri.push_back(diFase[t]);
+            tiri[t] = std::max(tiri[t], diFase[t]);
+        }
+    }
+    return tiri;
+}
+
+}  // namespace
+
+double pressioneNetta(const FaseEquilibrio& fase, std::size_t i) {
+    return fase.monte[i] + fase.valle[i] + fase.acqua[i] + fase.costante;
+}
+
+Inviluppo inviluppo(const Parete& parete) {
+    return {.y = fascia(parete, [](const auto& fase, std::size_t i) { return fase.y[i]; }),
+            .momento = fascia(parete, [](const auto& f, std::size_t i) { return f.momento[i]; }),
+            .taglio = fascia(parete, [](const auto& f, std::size_t i) { return f.taglio[i]; }),
+            .pressione = fascia(parete, pressioneNetta),
+            .tiri = maggiori(parete)};
+}
+
+}  // namespace korven::live

@@ -1,0 +1,81 @@
+#include "live/wall.hpp"
+
+#include "analysis/input_checks.hpp"
+#include "analysis/run_arrays.hpp"
+#include "analysis/run_start.hpp"
+#include "analysis/segment_count.hpp"
+#include "base/translated_texts.hpp"
+#include "structure/offered_stiffness.hpp"
+
+namespace korven::live {
+
+namespace {
+
+using equilibrium::EsitoFase;
+using equilibrium::FaseEquilibrio;
+using project::DatiProgetto;
+
+void prendiRigidezza(Parete& parete) {
+    if (parete.dati.rigidezzaEJ != 0 || structure::troppiFerri(parete.dati.sezione)) return;
+    parete.dati.rigidezzaEJ = structure::rigidezzaOfferta(parete.dati.sezione).value_or(0);
+    parete.ejDellaSezione = parete.dati.rigidezzaEJ != 0;
+}
+
+std::string motivo(const DatiProgetto& dati, bool conSegmenti) {
+    if (auto perche = analysis::motivoDati(dati); !perche.empty()) return perche;
+    if (dati.rigidezzaEJ == 0) return base::traduttore(analysis::messaggioSenzaEJ);
+    if (!conSegmenti) return base::traduttore(analysis::motivoNSeg());
+    return {};
+}
+
+// What a stage that does not stand is told by.
+void spiega(const equilibrium::EquilibrioParete& equilibrio, const FaseEquilibrio& fase,
+            Parete& parete) {
+    if (fase.rifiuto)
+        parete.rifiuto = analysis::testoRifiuto(fase.fase, *fase.rifiuto);
+    else
+        parete.perche = safety::diagnosiSenzaLunghezza(parete.dati, equilibrio.problema(), fase);
+}
+
+void seguiFasi(Parete& parete) {
+    equilibrium::EquilibrioParete equilibrio(parete.dati, parete.nSeg);
+    for (int k = 1; k <= parete.dati.nFasi; ++k) {
+        const FaseEquilibrio& fase = parete.fasi.emplace_back(equilibrio.calcola(k));
+        if (fase.esito != EsitoFase::equilibrio) return spiega(equilibrio, fase, parete);
+    }
+}
+
+Parete calcola(const DatiProgetto& dati, std::optional<int> nSeg) {
+    Parete parete;
+    parete.dati = dati;
+    prendiRigidezza(parete);
+    parete.rifiuto = motivo(parete.dati, nSeg.has_value());
+    if (!parete.rifiuto.empty()) return parete;
+    parete.nSeg = *nSeg;
+    parete.h = parete.dati.lunghezzaParatia / *nSeg;
+    seguiFasi(parete);
+    parete.estremi = equilibrium::estremi(parete.fasi, parete.h);
+    return parete;
+}
+
+}  // namespace
+
+bool Parete::sta() const { return !fasi.empty() && fasi.back().esito == EsitoFase::equilibrio; }
+
+int Parete::fasiInEquilibrio() const {
+    return static_cast<int>(fasi.size()) - (fasi.empty() || sta() ? 0 : 1);
+}
+
+const FaseEquilibrio* Parete::fase(int k) const {
+    return k < 1 || k > fasiInEquilibrio() ? nullptr : &fasi[static_cast<std::size_t>(k) - 1];
+}
+
+Parete calcola(const DatiProgetto& dati) {
+    return calcola(dati, analysis::leggiNSeg(analysis::vincoli(dati).incastroPiede));
+}
+
+Parete calcola(const DatiProgetto& dati, int nSeg) {
+    return calcola(dati, std::optional<int>(nSeg));
+}
+
+}  // namespace korven::live
