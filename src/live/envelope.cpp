@@ -9,7 +9,7 @@ namespace {
 using equilibrium::FaseEquilibrio;
 
 template <class Valore>
-Fascia fascia(const Parete& parete, const Valore& valore) {
+Fascia fascia(const PareteViva& parete, const Valore& valore) {
     Fascia f;
     for (int k = 1; k <= parete.fasiInEquilibrio(); ++k) {
         const FaseEquilibrio& fase = *parete.fase(k);
@@ -25,7 +25,7 @@ Fascia fascia(const Parete& parete, const Valore& valore) {
     return f;
 }
 
-std::vector<double> maggiori(const Parete& parete) {
+std::vector<double> maggiori(const PareteViva& parete) {
     std::vector<double> tiri;
     for (int k = 1; k <= parete.fasiInEquilibrio(); ++k) {
         const auto& diFase = parete.fase(k)->tiri;
@@ -43,7 +43,7 @@ double pressioneNetta(const FaseEquilibrio& fase, std::size_t i) {
     return fase.monte[i] + fase.valle[i] + fase.acqua[i] + fase.costante;
 }
 
-Inviluppo inviluppo(const Parete& parete) {
+Inviluppo inviluppo(const PareteViva& parete) {
     return {.y = fascia(parete, [](const auto& fase, std::size_t i) { return fase.y[i]; }),
             .momento = fascia(parete, [](const auto& f, std::size_t i) { return f.momento[i]; }),
             .taglio = fascia(parete, [](const auto& f, std::size_t i) { return f.taglio[i]; }),

@@ -20,7 +20,7 @@ struct Inviluppo {
     std::vector<double> tiri;  ///< largest force of each anchor, element 0 is anchor 1
 };
 
-[[nodiscard]] Inviluppo inviluppo(const Parete& parete);
+[[nodiscard]] Inviluppo inviluppo(const PareteViva& parete);
 
 /// Net pressure on a node of a stage [t/m2], element i is node i + 1.
 [[nodiscard]] double pressioneNetta(const equilibrium::FaseEquilibrio& fase, std::size_t i);

@@ -15,7 +15,7 @@ using equilibrium::EsitoFase;
 using equilibrium::FaseEquilibrio;
 using project::DatiProgetto;
 
-void prendiRigidezza(Parete& parete) {
+void prendiRigidezza(PareteViva& parete) {
     if (parete.dati.rigidezzaEJ != 0 || structure::troppiFerri(parete.dati.sezione)) return;
     parete.dati.rigidezzaEJ = structure::rigidezzaOfferta(parete.dati.sezione).value_or(0);
     parete.ejDellaSezione = parete.dati.rigidezzaEJ != 0;
@@ -30,14 +30,14 @@ std::string motivo(const DatiProgetto& dati, bool conSegmenti) {
 
 // What a stage that does not stand is told by.
 void spiega(const equilibrium::EquilibrioParete& equilibrio, const FaseEquilibrio& fase,
-            Parete& parete) {
+            PareteViva& parete) {
     if (fase.rifiuto)
         parete.rifiuto = analysis::testoRifiuto(fase.fase, *fase.rifiuto);
     else
         parete.perche = safety::diagnosiSenzaLunghezza(parete.dati, equilibrio.problema(), fase);
 }
 
-void seguiFasi(Parete& parete) {
+void seguiFasi(PareteViva& parete) {
     equilibrium::EquilibrioParete equilibrio(parete.dati, parete.nSeg);
     for (int k = 1; k <= parete.dati.nFasi; ++k) {
         const FaseEquilibrio& fase = parete.fasi.emplace_back(equilibrio.calcola(k));
@@ -45,8 +45,8 @@ void seguiFasi(Parete& parete) {
     }
 }
 
-Parete calcola(const DatiProgetto& dati, std::optional<int> nSeg) {
-    Parete parete;
+PareteViva calcola(const DatiProgetto& dati, std::optional<int> nSeg) {
+    PareteViva parete;
     parete.dati = dati;
     prendiRigidezza(parete);
     parete.rifiuto = motivo(parete.dati, nSeg.has_value());
@@ -60,21 +60,21 @@ Parete calcola(const DatiProgetto& dati, std::optional<int> nSeg) {
 
 }  // namespace
 
-bool Parete::sta() const { return !fasi.empty() && fasi.back().esito == EsitoFase::equilibrio; }
+bool PareteViva::sta() const { return !fasi.empty() && fasi.back().esito == EsitoFase::equilibrio; }
 
-int Parete::fasiInEquilibrio() const {
+int PareteViva::fasiInEquilibrio() const {
     return static_cast<int>(fasi.size()) - (fasi.empty() || sta() ? 0 : 1);
 }
 
-const FaseEquilibrio* Parete::fase(int k) const {
+const FaseEquilibrio* PareteViva::fase(int k) const {
     return k < 1 || k > fasiInEquilibrio() ? nullptr : &fasi[static_cast<std::size_t>(k) - 1];
 }
 
-Parete calcola(const DatiProgetto& dati) {
+PareteViva calcola(const DatiProgetto& dati) {
     return calcola(dati, analysis::leggiNSeg(analysis::vincoli(dati).incastroPiede));
 }
 
-Parete calcola(const DatiProgetto& dati, int nSeg) {
+PareteViva calcola(const DatiProgetto& dati, int nSeg) {
     return calcola(dati, std::optional<int>(nSeg));
 }
 

@@ -13,7 +13,7 @@ namespace korven::live {
 
 /// A wall as it is known at one moment: the data, and all stages by the certain equilibrium as far
 /// as they stand.
-struct Parete {
+struct PareteViva {
     /// As they are, but that `rigidezzaEJ` is what the section gives where none is stored.
     project::DatiProgetto dati;
     bool ejDellaSezione = false;  ///< it is: the file has none
@@ -38,9 +38,9 @@ struct Parete {
 
 /// Follows a wall through its stages, in memory, with the number of segments of the program. At 20
 /// stages and 249 segments below 2 ms; no file is written.
-[[nodiscard]] Parete calcola(const project::DatiProgetto& dati);
+[[nodiscard]] PareteViva calcola(const project::DatiProgetto& dati);
 
 /// The same with another number of segments, from 3: asserted.
-[[nodiscard]] Parete calcola(const project::DatiProgetto& dati, int nSeg);
+[[nodiscard]] PareteViva calcola(const project::DatiProgetto& dati, int nSeg);
 
 }  // namespace korven::live

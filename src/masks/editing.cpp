@@ -65,7 +65,11 @@ bool riprendiMaschera(const Maschere& maschere, NumeroMaschera numero, project::
         const double scritta = base::leggiNumero(maschere.leggiCampo(campoFase)).value_or(0);
         fase = static_cast<int>(std::clamp(scritta, 0.0, double{project::massimoFasi}));
     }
-    return editore(numero).riprendi(dati, letti(maschere));
+    return riprendi(numero, letti(maschere), dati);
+}
+
+bool riprendi(NumeroMaschera numero, const Testi& testi, project::DatiProgetto& dati) {
+    return editore(numero).riprendi(dati, testi);
 }
 
 }  // namespace korven::masks

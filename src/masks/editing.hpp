@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "masks/values.hpp"
 #include "project/project_data.hpp"
@@ -29,5 +30,10 @@ void preparaMaschera(Maschere& maschere, NumeroMaschera numero, const project::D
 /// @throws base::ErroreIndice if a table has more rows than the project holds
 bool riprendiMaschera(const Maschere& maschere, NumeroMaschera numero, project::DatiProgetto& dati,
                       int& fase);
+
+/// The same of texts alone: those that `leggiCampo` gives, field after field, the codes of choices
+/// first. Of the headings' form the stage drawn is passed over.
+bool riprendi(NumeroMaschera numero, const std::vector<std::string>& testi,
+              project::DatiProgetto& dati);
 
 }  // namespace korven::masks

@@ -67,6 +67,8 @@ void Maschere::leggiMaschereProgramma() {
                 base::traduttore("attesi i campi che il programma chiede a questa maschera"));
 }
 
+std::string testoScelta(double tenuta) { return base::testoNumero(tenuta + 1); }
+
 void Maschere::selezionaMaschera(int numero) {
     if (numero < 1 || static_cast<std::size_t>(numero) > maschere_.size())
         throw base::ErroreIndice(numero, maschere_.size());
@@ -103,7 +105,7 @@ void Maschere::impostaCampo(int indice, std::string_view testo) {
 std::string Maschere::leggiCampo(int indice) const {
     assert(indice >= 1);
     const auto i = static_cast<std::size_t>(indice) - 1;
-    if (i < valoriCombo_.size()) return base::testoNumero(valoriCombo_[i] + 1);
+    if (i < valoriCombo_.size()) return testoScelta(valoriCombo_[i]);
     const std::size_t posto = i - valoriCombo_.size();
     return posto < valoriTesto_.size() ? valoriTesto_[posto] : std::string();
 }

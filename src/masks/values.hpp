@@ -27,6 +27,9 @@ struct PostoForma {
 inline constexpr std::string_view fileMaschere[] = {"EDITT.MAV", "EDITDIA.MAV", "EDITSTRA.MAV",
                                                     "EDITTIR.MAV", "EDITFASI.MAV"};
 
+/// The text of a choice as `Maschere::leggiCampo` gives it: its code, which is what is kept plus 1.
+[[nodiscard]] std::string testoScelta(double tenuta);
+
 /// All masks, and the values that pass between a command and the form of the current one.
 ///
 /// A command selects a mask, fills in the values, shows the form, takes the values back when the

@@ -10,7 +10,7 @@ namespace korven::live {
 namespace {
 
 TEST(InviluppoVivo, HoldsTheExtremesOfAllStages) {
-    const Parete p = calcola(test::progettoSemplice(), 40);
+    const PareteViva p = calcola(test::progettoSemplice(), 40);
     const Inviluppo e = inviluppo(p);
     ASSERT_EQ(e.momento.minimo.size(), 41U);
     double massimo = 0;
@@ -30,7 +30,7 @@ TEST(InviluppoVivo, HoldsTheExtremesOfAllStages) {
 TEST(InviluppoVivo, NetPressuresBalanceAWallWithoutAnchors) {
     auto dati = test::progettoSemplice();
     dati.nFasi = 1;
-    const Parete p = calcola(dati, 40);
+    const PareteViva p = calcola(dati, 40);
     ASSERT_TRUE(p.sta());
     double somma = 0;
     double grandezza = 0;
@@ -43,7 +43,7 @@ TEST(InviluppoVivo, NetPressuresBalanceAWallWithoutAnchors) {
 }
 
 TEST(InviluppoVivo, IsEmptyWithoutAStageThatStands) {
-    EXPECT_TRUE(inviluppo(Parete{}).y.minimo.empty());
+    EXPECT_TRUE(inviluppo(PareteViva{}).y.minimo.empty());
 }
 
 }  // namespace

@@ -10,7 +10,7 @@ namespace korven::live {
 namespace {
 
 TEST(PareteViva, FollowsAllStagesOfAWallThatStands) {
-    const Parete p = calcola(test::progettoSemplice(), 40);
+    const PareteViva p = calcola(test::progettoSemplice(), 40);
     EXPECT_TRUE(p.sta());
     EXPECT_TRUE(p.rifiuto.empty());
     ASSERT_EQ(p.fasiInEquilibrio(), 2);
@@ -27,7 +27,7 @@ TEST(PareteViva, EndsWithTheFirstStageThatFallsAndSaysWhy) {
     dati.nTiranti = 0;
     dati.tirantiFase[2] = 0;
     dati.profFase[2] = 10;
-    const Parete p = calcola(dati, 40);
+    const PareteViva p = calcola(dati, 40);
     EXPECT_FALSE(p.sta());
     EXPECT_EQ(p.fasiInEquilibrio(), 1);
     ASSERT_EQ(p.fasi.size(), 2U);
@@ -40,7 +40,7 @@ TEST(PareteViva, EndsWithTheFirstStageThatFallsAndSaysWhy) {
 TEST(PareteViva, SaysInOneSentenceWhyNothingIsComputed) {
     auto dati = test::progettoSemplice();
     dati.nFasi = 0;
-    const Parete p = calcola(dati, 40);
+    const PareteViva p = calcola(dati, 40);
     EXPECT_TRUE(p.fasi.empty());
     EXPECT_FALSE(p.sta());
     EXPECT_EQ(p.nSeg, 0);
@@ -53,7 +53,7 @@ TEST(PareteViva, TakesTheStiffnessOfTheSectionWhereNoneIsStored) {
     auto dati = test::progettoSemplice();
     dati.sezione = structure::diaframmaSimmetrico();
     dati.rigidezzaEJ = 0;
-    const Parete p = calcola(dati, 40);
+    const PareteViva p = calcola(dati, 40);
     EXPECT_TRUE(p.ejDellaSezione);
     EXPECT_EQ(p.dati.rigidezzaEJ, structure::rigidezzaOfferta(dati.sezione));
     EXPECT_TRUE(p.sta());
@@ -64,7 +64,7 @@ TEST(PareteViva, TakesTheStiffnessOfTheSectionWhereNoneIsStored) {
 TEST(PareteViva, TellsAStageWhoseSoilHasNoValueInTheWordsOfARun) {
     auto dati = test::progettoSemplice();
     dati.inclinazioneMonte = 40;  // steeper than the friction angle of both layers
-    const Parete p = calcola(dati, 40);
+    const PareteViva p = calcola(dati, 40);
     EXPECT_FALSE(p.sta());
     EXPECT_EQ(p.fasiInEquilibrio(), 0);
     EXPECT_EQ(p.rifiuto.rfind("Calcolo interrotto: fase 1, profondità ", 0), 0U) << p.rifiuto;

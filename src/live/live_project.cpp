@@ -1,0 +1,78 @@
+#include "live/live_project.hpp"
+
+#include <algorithm>
+#include <cassert>
+#include <utility>
+
+#include "analysis/run_arrays.hpp"
+#include "analysis/segment_count.hpp"
+
+namespace korven::live {
+
+using project::DatiProgetto;
+
+void ProgettoVivo::guarda(const DatiProgetto* confermato) {
+    impedimento_.clear();
+    if (confermato == nullptr) return;  // one that was opened stays so to the end of the program
+    confermato_ = *confermato;
+    mostraDati(confermato_);
+}
+
+void ProgettoVivo::digita(const masks::Maschera& maschera, const ValoriForma& valori) {
+    if (aperto_) prova(conValori(confermato_, maschera, valori));
+}
+
+void ProgettoVivo::digita(const project::Sezione& sezione) {
+    if (!aperto_) return;
+    ProgettoInCorso inCorso{confermato_, {}};
+    inCorso.dati->sezione = sezione;
+    prova(inCorso);
+}
+
+void ProgettoVivo::prova(const ProgettoInCorso& inCorso) {
+    if (impedimento_ != inCorso.impedimento) ++versione_;
+    impedimento_ = inCorso.impedimento;
+    if (inCorso.dati) mostraDati(*inCorso.dati);
+}
+
+void ProgettoVivo::mostraDati(const DatiProgetto& dati) {
+    // The number of segments is the program's, and may have changed without the project.
+    const auto nSeg = analysis::leggiNSeg(analysis::vincoli(dati).incastroPiede);
+    const bool stessi =
+        aperto_ && dati == mostrati_ && (parete_.nSeg == 0 || nSeg.value_or(0) == parete_.nSeg);
+    if (stessi) return;
+    aperto_ = true;
+    mostrati_ = dati;
+    parete_ = calcola(dati);
+    ++versione_;
+    lenti_.reset();
+    domanda_.reset();
+    if (parete_.nSeg == 0)
+        lenti_.emplace();
+    else
+        domanda_ = {++numero_, parete_.dati, parete_.nSeg};
+    mostra(voluta_);
+}
+
+const PareteViva& ProgettoVivo::parete() const {
+    assert(aperto_);
+    return parete_;
+}
+
+void ProgettoVivo::mostra(Vista vista) {
+    voluta_ = vista;
+    vista.fase = std::clamp(vista.fase, 0, std::clamp(mostrati_.nFasi, 0, project::massimoFasi));
+    if (vista == vista_) return;
+    vista_ = vista;
+    ++versione_;
+}
+
+bool ProgettoVivo::rispondi(int numero, RisultatiLenti risultati) {
+    if (!domanda_ || domanda_->numero != numero) return false;
+    domanda_.reset();
+    lenti_ = std::move(risultati);
+    ++versione_;
+    return true;
+}
+
+}  // namespace korven::live

@@ -1,0 +1,81 @@
+#include "live/working_values.hpp"
+
+#include "base/filled_text.hpp"
+#include "base/number_text.hpp"
+#include "base/translated_texts.hpp"
+#include "masks/editing.hpp"
+#include "masks/field_check.hpp"
+#include "masks/field_model.hpp"
+#include "masks/field_type.hpp"
+
+namespace korven::live {
+
+namespace {
+
+using base::riempito;
+using base::traduttore;
+using masks::CampoMaschera;
+using masks::Maschera;
+using masks::Vizio;
+
+bool vuoto(const std::string& testo) { return testo.find_first_not_of(' ') == std::string::npos; }
+
+std::string nonAmmesso(const std::string& dove) {
+    return riempito(traduttore("%1: valore non ammesso"), {dove});
+}
+
+// What is wrong with one row of a table; empty for a good one.
+std::string impedimentoRiga(const Maschera& maschera, const std::string* celle, int riga) {
+    for (std::size_t c = 1; c < maschera.campi.size(); ++c) {
+        const CampoMaschera& colonna = maschera.campi[c];
+        const std::string& testo = celle[c - 1];
+        if (vuoto(testo) && masks::tipoCampo(colonna.tipo).numero)
+            return riempito(traduttore("riga %1: dati incompleti"), {std::to_string(riga)});
+        if (masks::controllaCella(colonna, testo) != Vizio::nessuno)
+            return nonAmmesso(
+                riempito(traduttore("riga %1, %2"), {std::to_string(riga), colonna.etichetta}));
+    }
+    return {};
+}
+
+std::string impedimentoTabella(const Maschera& maschera, const ValoriForma& valori) {
+    const std::size_t colonne = maschera.campi.size() - 1;
+    const std::size_t righe = (valori.testi.size() - 1) / colonne;
+    if (static_cast<int>(righe) > masks::capienza(valori.maschera))
+        return riempito(traduttore("%1 righe, la tabella ne tiene %2"),
+                        {std::to_string(righe), std::to_string(masks::capienza(valori.maschera))});
+    for (std::size_t r = 0; r < righe; ++r) {
+        auto perche =
+            impedimentoRiga(maschera, &valori.testi[1 + r * colonne], static_cast<int>(r) + 1);
+        if (!perche.empty()) return perche;
+    }
+    return {};
+}
+
+std::string impedimentoCampi(const Maschera& maschera, const ValoriForma& valori) {
+    const masks::ModelloCampi modello(maschera, valori.combo, valori.testi);
+    for (std::size_t i = maschera.scelte.size(); i < maschera.campi.size(); ++i) {
+        const CampoMaschera& campo = maschera.campi[i];
+        if (masks::controllaCampo(campo, modello.testo(i)) != Vizio::nessuno)
+            return nonAmmesso(modello.titoloMessaggio(i));
+    }
+    return {};
+}
+
+}  // namespace
+
+ProgettoInCorso conValori(const project::DatiProgetto& dati, const Maschera& maschera,
+                          const ValoriForma& valori) {
+    const bool tabella = masks::capienza(valori.maschera) > 0;
+    auto perche =
+        tabella ? impedimentoTabella(maschera, valori) : impedimentoCampi(maschera, valori);
+    if (!perche.empty()) return {{}, std::move(perche)};
+    std::vector<std::string> testi;
+    for (const double scelta : valori.combo) testi.push_back(masks::testoScelta(scelta));
+    testi.insert(testi.end(), valori.testi.begin(), valori.testi.end());
+    ProgettoInCorso inCorso{dati, {}};
+    masks::riprendi(valori.maschera, testi, *inCorso.dati);
+    return inCorso;
+}
+
+}  // namespace korven::live

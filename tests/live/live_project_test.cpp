@@ -1,0 +1,117 @@
+#include "live/live_project.hpp"
+
+#include <gtest/gtest.h>
+
+#include "masks/editing.hpp"
+#include "structure/offered_stiffness.hpp"
+#include "support/plain_masks.hpp"
+#include "support/sample_projects.hpp"
+#include "support/sample_sections.hpp"
+
+namespace korven::live {
+namespace {
+
+class ProgettoVivoTest : public ::testing::Test {
+ protected:
+    ProgettoVivoTest() { maschere.leggiMaschere(test::maschereSemplici(cartella)); }
+
+    void digitaProfondita(const std::string& testo) {
+        masks::preparaMaschera(maschere, masks::NumeroMaschera::fasi, dati, 0);
+        auto testi = maschere.valoriTesto();
+        testi[5] = testo;  // excavation of stage 2
+        vivo.digita(maschere.corrente(), {masks::NumeroMaschera::fasi, {}, testi});
+    }
+
+    test::CartellaProvvisoria cartella;
+    masks::Maschere maschere;
+    project::DatiProgetto dati = test::progettoSemplice();
+    ProgettoVivo vivo;
+};
+
+TEST_F(ProgettoVivoTest, KnowsNothingWithoutAProject) {
+    vivo.guarda(nullptr);
+    EXPECT_FALSE(vivo.aperto());
+    EXPECT_FALSE(vivo.domanda());
+    digitaProfondita("6");
+    EXPECT_FALSE(vivo.aperto());
+}
+
+TEST_F(ProgettoVivoTest, FollowsWhatIsTypedAndGoesBackWhenTheFormIsLeft) {
+    vivo.guarda(&dati);
+    const auto prima = vivo.parete().estremi.spostamento.valore;
+    digitaProfondita("6");
+    EXPECT_EQ(vivo.dati().profFase[2], 6);
+    EXPECT_GT(vivo.parete().estremi.spostamento.valore, prima);
+    vivo.guarda(&dati);  // left without confirming
+    EXPECT_EQ(vivo.dati(), dati);
+    EXPECT_EQ(vivo.parete().estremi.spostamento.valore, prima);
+}
+
+TEST_F(ProgettoVivoTest, KeepsTheLastWallWhileWhatIsTypedIsNotValid) {
+    vivo.guarda(&dati);
+    digitaProfondita("6");
+    digitaProfondita("6x");
+    EXPECT_EQ(vivo.impedimento(), "riga 2, x: valore non ammesso");
+    EXPECT_EQ(vivo.dati().profFase[2], 6);
+    digitaProfondita("6.5");
+    EXPECT_EQ(vivo.impedimento(), "");
+    EXPECT_EQ(vivo.dati().profFase[2], 6.5);
+    digitaProfondita("");
+    vivo.guarda(&dati);
+    EXPECT_EQ(vivo.impedimento(), "");
+}
+
+TEST_F(ProgettoVivoTest, TakesTheSectionThatIsTyped) {
+    dati.rigidezzaEJ = 0;
+    vivo.guarda(&dati);
+    EXPECT_NE(vivo.parete().rifiuto, "");
+    vivo.digita(structure::diaframmaSimmetrico());
+    EXPECT_TRUE(vivo.parete().sta());
+    EXPECT_EQ(vivo.dati().rigidezzaEJ, 0);
+    EXPECT_EQ(vivo.parete().dati.rigidezzaEJ,
+              structure::rigidezzaOfferta(structure::diaframmaSimmetrico()));
+}
+
+TEST_F(ProgettoVivoTest, AsksForTheSlowResultsOnceForEachWall) {
+    vivo.guarda(&dati);
+    ASSERT_TRUE(vivo.domanda());
+    const auto prima = *vivo.domanda();
+    EXPECT_EQ(vivo.lenti(), nullptr);
+    const int versione = vivo.versione();
+    vivo.guarda(&dati);
+    EXPECT_EQ(vivo.versione(), versione);
+    EXPECT_EQ(vivo.domanda()->numero, prima.numero);
+    digitaProfondita("6");
+    EXPECT_FALSE(vivo.rispondi(prima.numero, {}));  // of the wall before
+    auto risultati = calcolaLenti(*vivo.domanda());
+    ASSERT_TRUE(risultati.margine);
+    EXPECT_TRUE(vivo.rispondi(vivo.domanda()->numero, std::move(risultati)));
+    EXPECT_FALSE(vivo.domanda());
+    ASSERT_NE(vivo.lenti(), nullptr);
+    EXPECT_TRUE(vivo.lenti()->margine->sta());
+}
+
+TEST_F(ProgettoVivoTest, HasNothingSlowToComputeWhereARunIsRefused) {
+    dati.nStrati = 0;
+    vivo.guarda(&dati);
+    EXPECT_FALSE(vivo.domanda());
+    ASSERT_NE(vivo.lenti(), nullptr);
+    EXPECT_FALSE(vivo.lenti()->margine);
+}
+
+TEST_F(ProgettoVivoTest, ShowsAStageThatThereIsAndComesBackToTheOneChosen) {
+    vivo.guarda(&dati);
+    vivo.mostra({.fase = 7, .curva = Curva::taglio});
+    EXPECT_EQ(vivo.vista().fase, 2);
+    EXPECT_EQ(vivo.vista().curva, Curva::taglio);
+    vivo.mostra({.fase = 2});
+    auto una = dati;
+    una.nFasi = 1;
+    vivo.guarda(&una);
+    EXPECT_EQ(vivo.vista().fase, 1);
+    vivo.guarda(&dati);
+    EXPECT_EQ(vivo.vista().fase, 2);
+}
+
+}  // namespace
+}  // namespace korven::live
