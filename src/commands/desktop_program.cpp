@@ -21,6 +21,11 @@ bool Programma::puo(const VoceMenu& voce) const {
     return !apreMenu(voce) && (voce.haForma == nullptr || voce.haForma(forme_));
 }
 
+bool Programma::possibile(const VoceMenu& voce) const {
+    if (voce.haForma != nullptr && !voce.haForma(forme_)) return false;
+    return voce.possibile == nullptr || voce.possibile(forme_);
+}
+
 void Programma::edita(masks::NumeroMaschera maschera, const char* rifiuto) {
     commands::edita(maschera, rifiuto, dialogo_, maschere_, forme_);
 }

@@ -30,6 +30,10 @@ class Programma {
     /// False when the item opens a menu, or the form of its command is not plugged in.
     [[nodiscard]] bool puo(const VoceMenu& voce) const;
 
+    /// False when a command that `puo` has nothing to do just now; of a menu that is filled as it
+    /// opens, when what it lists is not plugged in.
+    [[nodiscard]] bool possibile(const VoceMenu& voce) const;
+
     /// The desktop ends its session: the question about unsaved work where its user may be asked, a
     /// rescue file (fatal_error.hpp) where nobody can be. A run stops when the program is to end.
     /// @return false to ask the desktop to stay

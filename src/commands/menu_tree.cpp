@@ -8,6 +8,7 @@
 #include "commands/document_names.hpp"
 #include "commands/edit_commands.hpp"
 #include "commands/output_commands.hpp"
+#include "help/contexts.hpp"
 #include "project/project_data.hpp"
 
 namespace korven::commands {
@@ -53,6 +54,16 @@ bool spiega(Programma& programma, const VoceMenu& voce) {
     return false;
 }
 
+// A question that nobody answers is no reason to refuse the command.
+template <auto domanda>
+bool seDice(const F& forme) {
+    return !(forme.*domanda) || (forme.*domanda)();
+}
+
+bool progettoAperto(const F&) { return !project::fileCorrente.empty(); }
+
+std::vector<VoceMutevole> recenti(const F& forme) { return forme.recenti(); }
+
 template <NumeroMaschera numero, const char* rifiuto>
 bool edita(Programma& programma, const VoceMenu&) {
     programma.edita(numero, rifiuto);
@@ -75,10 +86,15 @@ void diagramma(const PorteUscita& porte) {
     produciDiagramma(quale, porte);
 }
 
+constexpr VoceMenu staccata(VoceMenu voce) {
+    voce.staccata = true;
+    return voce;
+}
+
 constexpr VoceMenu voci[] = {
     {"archivi", "&Archivi", 0},
-    {"FileApri", "&Apri", 1, 3, nullptr, apri},
-    {"FileSalva", "&Salva", 1, 4, nullptr, salva},
+    {"FileApri", "&Apri", 1, 3, nullptr, apri, "Ctrl+O"},
+    {"FileSalva", "&Salva", 1, 4, nullptr, salva, "Ctrl+S"},
     {"PrintSetup", "&Configura Stampante", 1, 27, ha<&F::impostaStampante>,
      mostra<&F::impostaStampante>},
     {"AiutoFile", "&Help", 1, 24, ha<&F::guida>, spiega},
@@ -118,10 +134,25 @@ constexpr VoceMenu voci[] = {
     {"configura", "&Configura", 1, 23, ha<&F::editacfg>, mostra<&F::editacfg>},
     {"AiutoStampa", "&Help", 1, 26, ha<&F::guida>, spiega},
 
-    {"fine", "&Uscita", 0, 0, nullptr, esci},
+    {"strumenti", "St&rumenti", 0},
+    {"annulla", "An&nulla", 1, 35, ha<&F::annulla>, mostra<&F::annulla>, "Ctrl+Z",
+     seDice<&F::annullabile>},
+    {"ripeti", "&Ripeti", 1, 35, ha<&F::ripeti>, mostra<&F::ripeti>, "Ctrl+Y",
+     seDice<&F::ripetibile>},
+    staccata({"controlli", "&Controlli", 1, help::voceOsservazioni, ha<&F::controlli>,
+              mostra<&F::controlli>, "Ctrl+K"}),
+    {"risultati", "R&isultati", 1, 36, ha<&F::risultati>, mostra<&F::risultati>, "Ctrl+R"},
+    {"sicurezza", "&Sicurezza", 1, 37, ha<&F::sicurezza>, mostra<&F::sicurezza>},
+    staccata({"nuovo", "Nu&ovo", 1, 38, ha<&F::nuovo>, mostra<&F::nuovo>}),
+    {"duplica", "&Duplica", 1, 39, ha<&F::duplica>, mostra<&F::duplica>, "", progettoAperto},
+    {"recenti", "R&ecenti", 1, 40, ha<&F::recenti>, nullptr, "", nullptr, recenti},
+    staccata({"lingua", "Lin&gua", 1, 41, ha<&F::lingua>, mostra<&F::lingua>}),
+    {"tasti", "&Tasti", 1, 42, ha<&F::tasti>, mostra<&F::tasti>},
+
+    {"fine", "&Uscita", 0, 0, nullptr, esci, "Ctrl+Q"},
 
     {"menuhelp", "&Help", 0},
-    {"sommario", "&Sommario", 1, 0, ha<&F::sommario>, mostra<&F::sommario>},
+    {"sommario", "&Sommario", 1, 0, ha<&F::sommario>, mostra<&F::sommario>, "F1"},
     {"about", "&Info", 1, 32, ha<&F::informazioni>, informa},
 };
 

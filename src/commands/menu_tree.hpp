@@ -2,11 +2,13 @@
 
 #include <span>
 #include <string_view>
+#include <vector>
 
 namespace korven::commands {
 
 class Programma;
 struct FormeProgramma;
+struct VoceMutevole;
 
 /// One item of the menu with its command: all that the program knows of either. A new command is a
 /// new row.
@@ -21,6 +23,14 @@ struct VoceMenu {
     /// Carries the command out; null for an item that opens a menu.
     /// @return true when the program is to end
     bool (*comando)(Programma& programma, const VoceMenu& voce) = nullptr;
+    /// Its keys, as the whole world writes them ("Ctrl+O"); empty: none.
+    std::string_view tasti = {};
+    /// Whether the command has anything to do just now, asked when its menu opens; null: always.
+    bool (*possibile)(const FormeProgramma& forme) = nullptr;
+    /// The items of a menu that is filled anew each time it opens; null for one whose items stand
+    /// in the tree.
+    std::vector<VoceMutevole> (*riempi)(const FormeProgramma& forme) = nullptr;
+    bool staccata = false;  ///< a line parts it from the item above
 };
 
 /// The menu from left to right and from top to bottom.

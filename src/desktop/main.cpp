@@ -66,6 +66,7 @@ commands::FormeProgramma forme(shell::Menu1& finestra, base::Dialogo& dialogo,
                               finestra.stato(base::traduttore("File scritto") + ": " + percorso);
                           });
     shell::collegaRelazione(tutte, finestra, dialogo, condivisa);
+    shell::collegaOsservazioni(tutte, finestra);
     return tutte;
 }
 
@@ -88,7 +89,6 @@ int sessione(shell::Applicazione& applicazione, shell::DialogoQt& dialogo,
     commands::Programma programma(dialogo, nomi, finestra, avanzamento, maschere,
                                   forme(finestra, dialogo, stampante));
     finestra.collega(programma);
-    shell::collegaOsservazioni(finestra, programma.forme());
     QObject::connect(&applicazione, &QGuiApplication::commitDataRequest, &finestra,
                      &shell::Menu1::fineSessione, Qt::DirectConnection);
     finestra.show();

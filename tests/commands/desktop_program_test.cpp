@@ -224,6 +224,15 @@ TEST_F(ProgrammaTest, LetsOnlyThoseCommandsBeChosenThatShowNoFormOrOneThatIsPlug
         {"guida", [](auto& f) { f.guida = [](int) {}; }, {"AiutoFile", "AiutoEdit", "AiutoStampa"}},
         {"sommario", [](auto& f) { f.sommario = [] {}; }, {"sommario"}},
         {"informazioni", [](auto& f) { f.informazioni = [](const std::string&) {}; }, {"about"}},
+        {"annulla", [](auto& f) { f.annulla = [] {}; }, {"annulla"}},
+        {"ripeti", [](auto& f) { f.ripeti = [] {}; }, {"ripeti"}},
+        {"controlli", [](auto& f) { f.controlli = [] {}; }, {"controlli"}},
+        {"risultati", [](auto& f) { f.risultati = [] {}; }, {"risultati"}},
+        {"sicurezza", [](auto& f) { f.sicurezza = [] {}; }, {"sicurezza"}},
+        {"nuovo", [](auto& f) { f.nuovo = [] {}; }, {"nuovo"}},
+        {"duplica", [](auto& f) { f.duplica = [] {}; }, {"duplica"}},
+        {"lingua", [](auto& f) { f.lingua = [] {}; }, {"lingua"}},
+        {"tasti", [](auto& f) { f.tasti = [] {}; }, {"tasti"}},
     };
     std::size_t quanti = 3;
     for (const auto& [forma, inserisci, attesi] : casi) {
@@ -237,6 +246,21 @@ TEST_F(ProgrammaTest, LetsOnlyThoseCommandsBeChosenThatShowNoFormOrOneThatIsPlug
     const auto tutte = albero();
     EXPECT_EQ(quanti, static_cast<std::size_t>(std::count_if(
                           tutte.begin(), tutte.end(), [](const auto& v) { return !apreMenu(v); })));
+}
+
+TEST_F(ProgrammaTest, AsksWhetherACommandHasAnythingToDo) {
+    FormeProgramma forme;
+    forme.annulla = forme.ripeti = [] {};
+    forme.annullabile = [] { return false; };
+    forme.duplica = [] {};
+    const auto p = programma(forme);
+    EXPECT_TRUE(p.puo(voceMenu("annulla")));
+    EXPECT_FALSE(p.possibile(voceMenu("annulla")));
+    EXPECT_TRUE(p.possibile(voceMenu("ripeti")));  // nobody answers
+    EXPECT_FALSE(p.possibile(voceMenu("recenti")));
+    EXPECT_FALSE(p.possibile(voceMenu("duplica")));
+    project::fileCorrente = ambiente.lavori / "muro.kvd";
+    EXPECT_TRUE(p.possibile(voceMenu("duplica")));
 }
 
 // With a project open, pens and patterns to draw with, and forms that say that they were shown.
@@ -268,6 +292,15 @@ class MenuIntero : public ProgrammaTest {
         forme.guida = [this](int contesto) { mostrate += "page " + std::to_string(contesto); };
         forme.sommario = dice("contents");
         forme.informazioni = riceve("about box");
+        forme.annulla = dice("undone");
+        forme.ripeti = dice("redone");
+        forme.controlli = dice("remarks");
+        forme.risultati = dice("results");
+        forme.sicurezza = dice("safety");
+        forme.nuovo = dice("new project");
+        forme.duplica = dice("duplicate");
+        forme.lingua = dice("languages");
+        forme.tasti = dice("keys");
     }
     ~MenuIntero() override { plot::statoPlot = {}; }
 
@@ -313,6 +346,15 @@ TEST_F(MenuIntero, BringsAboutWhatEachItemSays) {
         {"espotabtxt", "txt"},
         {"configura", "pens"},
         {"AiutoStampa", "page 26"},
+        {"annulla", "undone"},
+        {"ripeti", "redone"},
+        {"controlli", "remarks"},
+        {"risultati", "results"},
+        {"sicurezza", "safety"},
+        {"nuovo", "new project"},
+        {"duplica", "duplicate"},
+        {"lingua", "languages"},
+        {"tasti", "keys"},
         {"fine", "end"},
         {"sommario", "contents"},
         {"about", "about box"},

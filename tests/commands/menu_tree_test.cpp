@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
 #include <string>
 
 #include "help/contexts.hpp"
@@ -44,6 +45,17 @@ TEST(AlberoMenu, HoldsTheMenusAndTheirItemsInOrder) {
               "    espotabtxt Esporta Tabulati in Formato &TXT\n"
               "  configura &Configura\n"
               "  AiutoStampa &Help\n"
+              "strumenti St&rumenti\n"
+              "  annulla An&nulla\n"
+              "  ripeti &Ripeti\n"
+              "  controlli &Controlli\n"
+              "  risultati R&isultati\n"
+              "  sicurezza &Sicurezza\n"
+              "  nuovo Nu&ovo\n"
+              "  duplica &Duplica\n"
+              "  recenti R&ecenti\n"
+              "  lingua Lin&gua\n"
+              "  tasti &Tasti\n"
               "fine &Uscita\n"
               "menuhelp &Help\n"
               "  sommario &Sommario\n"
@@ -51,16 +63,41 @@ TEST(AlberoMenu, HoldsTheMenusAndTheirItemsInOrder) {
 }
 
 TEST(AlberoMenu, GivesEachItemItsEntryOfTheHelpContexts) {
-    const std::pair<const char*, int> voci[] = {
-        {"FileApri", 3},          {"FileSalva", 4},           {"EditStratigrafia", 5},
-        {"EditParatia", 6},       {"EditRigidezza", 7},       {"EditTiranti", 8},
-        {"EditFasi", 9},          {"EditTitoli", 10},         {"StampaGrafica", 11},
-        {"GraficaMomenti", 12},   {"GraficaSpostamenti", 13}, {"GraficaTaglio", 14},
-        {"GraficaPressioni", 15}, {"GraficaStruttura", 16},   {"GraficaStratigrafia", 17},
-        {"statab", 18},           {"StampaVideo", 19},        {"StampaTabulati", 20},
-        {"espotab", 21},          {"espotabtxt", 22},         {"configura", 23},
-        {"PrintSetup", 27},       {"AiutoFile", 24},          {"AiutoEdit", 25},
-        {"AiutoStampa", 26}};
+    const std::pair<const char*, int> voci[] = {{"FileApri", 3},
+                                                {"FileSalva", 4},
+                                                {"EditStratigrafia", 5},
+                                                {"EditParatia", 6},
+                                                {"EditRigidezza", 7},
+                                                {"EditTiranti", 8},
+                                                {"EditFasi", 9},
+                                                {"EditTitoli", 10},
+                                                {"StampaGrafica", 11},
+                                                {"GraficaMomenti", 12},
+                                                {"GraficaSpostamenti", 13},
+                                                {"GraficaTaglio", 14},
+                                                {"GraficaPressioni", 15},
+                                                {"GraficaStruttura", 16},
+                                                {"GraficaStratigrafia", 17},
+                                                {"statab", 18},
+                                                {"StampaVideo", 19},
+                                                {"StampaTabulati", 20},
+                                                {"espotab", 21},
+                                                {"espotabtxt", 22},
+                                                {"configura", 23},
+                                                {"PrintSetup", 27},
+                                                {"AiutoFile", 24},
+                                                {"AiutoEdit", 25},
+                                                {"AiutoStampa", 26},
+                                                {"annulla", 35},
+                                                {"ripeti", 35},
+                                                {"controlli", 34},
+                                                {"risultati", 36},
+                                                {"sicurezza", 37},
+                                                {"nuovo", 38},
+                                                {"duplica", 39},
+                                                {"recenti", 40},
+                                                {"lingua", 41},
+                                                {"tasti", 42}};
     int trovate = 0;
     for (const auto& v : albero())
         for (const auto& [nome, aiuto] : voci)
@@ -68,18 +105,33 @@ TEST(AlberoMenu, GivesEachItemItsEntryOfTheHelpContexts) {
                 EXPECT_EQ(v.guida, aiuto) << nome;
                 ++trovate;
             }
-    EXPECT_EQ(trovate, 25);
+    EXPECT_EQ(trovate, 35);
+}
+
+TEST(AlberoMenu, GivesNoTwoItemsTheSameKeys) {
+    std::set<std::string_view> tasti;
+    for (const auto& v : albero())
+        if (!v.tasti.empty()) {
+            EXPECT_TRUE(tasti.insert(v.tasti).second) << v.nome << ' ' << v.tasti;
+        }
+    EXPECT_EQ(tasti, (std::set<std::string_view>{"Ctrl+O", "Ctrl+S", "Ctrl+Z", "Ctrl+Y", "Ctrl+K",
+                                                 "Ctrl+R", "Ctrl+Q", "F1"}));
 }
 
 TEST(AlberoMenu, FindsEachItemByANameOfItsOwn) {
     for (const auto& v : albero()) EXPECT_EQ(&voceMenu(v.nome), &v) << v.nome;
 }
 
+// A menu that is filled as it opens lists what a form that is plugged in gives.
 TEST(AlberoMenu, GivesEachItemEitherACommandOrAMenuBelowIt) {
     const auto voci = albero();
     for (std::size_t i = 0; i < voci.size(); ++i) {
         const int dopo = i + 1 < voci.size() ? voci[i + 1].livello : 0;
-        if (apreMenu(voci[i])) {
+        if (voci[i].riempi != nullptr) {
+            EXPECT_TRUE(apreMenu(voci[i])) << voci[i].nome;
+            EXPECT_NE(voci[i].haForma, nullptr) << voci[i].nome;
+            EXPECT_LE(dopo, voci[i].livello) << voci[i].nome;
+        } else if (apreMenu(voci[i])) {
             EXPECT_EQ(dopo, voci[i].livello + 1) << voci[i].nome;
             EXPECT_EQ(voci[i].haForma, nullptr) << voci[i].nome;
         } else {

@@ -15,6 +15,7 @@
 #include <QTimer>
 #include <QToolButton>
 #include <array>
+#include <utility>
 
 #include "commands/document_names.hpp"
 #include "commands/menu_tree.hpp"
@@ -30,21 +31,12 @@ namespace {
 
 constexpr const char* proprietaGuida = "voceGuida";
 
-struct Scorciatoia {
-    std::string_view voce;
-    QKeySequence::StandardKey tasti;
-};
-constexpr Scorciatoia scorciatoie[] = {{"FileApri", QKeySequence::Open},
-                                       {"FileSalva", QKeySequence::Save},
-                                       {"fine", QKeySequence::Quit},
-                                       {"sommario", QKeySequence::HelpContents}};
-
 void battezza(QAction* azione, const commands::VoceMenu& voce) {
     azione->setObjectName(qt(voce.nome));
     azione->setProperty(proprietaGuida, voce.guida);
     azione->setMenuRole(QAction::NoRole);
-    for (const auto& [nome, tasti] : scorciatoie)
-        if (nome == voce.nome) azione->setShortcut(QKeySequence(tasti));
+    if (!voce.tasti.empty())
+        azione->setShortcut(QKeySequence(qt(voce.tasti), QKeySequence::PortableText));
 }
 
 // On a small screen the whole form is to be seen, with the frame that the desktop draws around it.
@@ -98,7 +90,7 @@ Menu1::Menu1() {
 }
 
 QToolButton* Menu1::fareOsservazioni() {
-    const QKeySequence tasti(Qt::CTRL | Qt::Key_K);
+    const QKeySequence tasti(qt(commands::voceMenu("controlli").tasti));
     auto* pulsante = new QToolButton(this);
     pulsante->setObjectName("osservazioni");
     pulsante->setAutoRaise(true);
@@ -107,8 +99,8 @@ QToolButton* Menu1::fareOsservazioni() {
                          tasti.toString(QKeySequence::NativeText) + ")");
     pulsante->setAccessibleDescription(pulsante->toolTip());
     pulsante->hide();
-    connect(pulsante, &QToolButton::clicked, this, &Menu1::osservazioniChieste);
-    connect(new QShortcut(tasti, this), &QShortcut::activated, this, &Menu1::osservazioniChieste);
+    connect(pulsante, &QToolButton::clicked, this,
+            [this] { esegui(commands::voceMenu("controlli")); });
     return pulsante;
 }
 
@@ -125,10 +117,15 @@ void Menu1::costruisciMenu() {
         const auto livello = static_cast<std::size_t>(voce.livello);
         QMenu* sopra = livello == 0 ? nullptr : aperti[livello - 1];
         const QString testo = tradotto(voce.testo);
+        if (sopra != nullptr && voce.staccata) sopra->addSeparator();
         if (commands::apreMenu(voce)) {
             QMenu* menu = sopra != nullptr ? sopra->addMenu(testo) : menuBar()->addMenu(testo);
             menu->installEventFilter(this);
             battezza(menu->menuAction(), voce);
+            menu->menuAction()->setEnabled(programma_->possibile(voce));
+            if (voce.riempi != nullptr)
+                connect(menu, &QMenu::aboutToShow, this,
+                        [this, menu, &voce] { riempi(*menu, voce.riempi(programma_->forme())); });
             aperti[livello] = menu;
             continue;
         }
@@ -136,11 +133,35 @@ void Menu1::costruisciMenu() {
         battezza(azione, voce);
         azione->setEnabled(programma_->puo(voce));
         connect(azione, &QAction::triggered, this, [this, &voce] { esegui(voce); });
+        if (voce.possibile != nullptr) chiediAllApertura(*sopra, *azione, voce);
+    }
+}
+
+// The keys of an item that can't be chosen are dead: it is so while its menu is open and no longer.
+void Menu1::chiediAllApertura(const QMenu& menu, QAction& azione, const commands::VoceMenu& voce) {
+    connect(&menu, &QMenu::aboutToShow, &azione, [this, &azione, &voce] {
+        azione.setEnabled(programma_->puo(voce) && programma_->possibile(voce));
+    });
+    connect(&menu, &QMenu::aboutToHide, &azione,
+            [this, &azione, &voce] { azione.setEnabled(programma_->puo(voce)); });
+}
+
+void Menu1::riempi(QMenu& menu, std::vector<commands::VoceMutevole> voci) {
+    menu.clear();
+    for (auto& voce : voci) {
+        if (voce.staccata) menu.addSeparator();
+        QAction* azione = menu.addAction(qt(voce.testo));
+        azione->setEnabled(static_cast<bool>(voce.scelta));
+        connect(azione, &QAction::triggered, this, [this, scelta = std::move(voce.scelta)] {
+            salutata_ = false;
+            scelta();
+            aggiorna();
+        });
     }
 }
 
 void Menu1::esegui(const commands::VoceMenu& voce) {
-    if (programma_ == nullptr || !programma_->puo(voce)) return;
+    if (programma_ == nullptr || !programma_->puo(voce) || !programma_->possibile(voce)) return;
     salutata_ = false;  // a session that was to end goes on, and the project may change again
     const bool finisce = programma_->esegui(voce);
     aggiorna();

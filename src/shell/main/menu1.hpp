@@ -5,7 +5,9 @@
 #include "commands/desktop_program.hpp"
 #include "commands/document_ports.hpp"
 
+class QAction;
 class QLabel;
+class QMenu;
 class QSessionManager;
 class QToolButton;
 
@@ -55,8 +57,6 @@ class Menu1 : public QMainWindow, public commands::FinestraPrincipale {
  signals:
     /// The project may be another one than before.
     void aggiornata();
-    /// Ctrl+K, or a click on their number.
-    void osservazioniChieste();
 
  protected:
     void closeEvent(QCloseEvent* evento) override;
@@ -67,6 +67,8 @@ class Menu1 : public QMainWindow, public commands::FinestraPrincipale {
  private:
     QToolButton* fareOsservazioni();
     void costruisciMenu();
+    void riempi(QMenu& menu, std::vector<commands::VoceMutevole> voci);
+    void chiediAllApertura(const QMenu& menu, QAction& azione, const commands::VoceMenu& voce);
     commands::Programma* programma_ = nullptr;
     QuadroParatia* immagine_;
     EtichettaAccorciata* stato_;

@@ -27,7 +27,6 @@ OsservazioniVive::OsservazioniVive(Menu1& principale, std::function<void(const s
     riposo_->setInterval(riposo);
     connect(riposo_, &QTimer::timeout, this, [this] { chiedi(); });
     connect(&principale, &Menu1::aggiornata, this, [this] { guarda(); });
-    connect(&principale, &Menu1::osservazioniChieste, this, [this] { apriFinestra(); });
 }
 
 void OsservazioniVive::guarda() {
@@ -78,8 +77,9 @@ void OsservazioniVive::apriCampo(const review::Osservazione& osservazione) {
     if (finestra_ != nullptr && finestra_->isVisible()) finestra_->activateWindow();
 }
 
-void collegaOsservazioni(Menu1& principale, const commands::FormeProgramma& forme) {
-    new OsservazioniVive(principale, forme.paginaGuida);
+void collegaOsservazioni(commands::FormeProgramma& forme, Menu1& principale) {
+    auto* vive = new OsservazioniVive(principale, forme.paginaGuida);
+    forme.controlli = [vive] { vive->apriFinestra(); };
 }
 
 }  // namespace korven::shell

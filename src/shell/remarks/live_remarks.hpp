@@ -22,12 +22,14 @@ class OsservazioniVive : public QObject {
     /// @param guida  opens the help at the page of a name; empty without a help file
     OsservazioniVive(Menu1& principale, std::function<void(const std::string&)> guida);
 
+    /// Shows the window that lists them, before all others.
+    void apriFinestra();
+
  private:
     void guarda();
     void chiedi();
     void rispondi(int numero, review::Osservazioni risultati);
     void mostra();
-    void apriFinestra();
     void apriCampo(const review::Osservazione& osservazione);
 
     Menu1& principale_;
@@ -38,7 +40,8 @@ class OsservazioniVive : public QObject {
     QPointer<FinestraOsservazioni> finestra_;
 };
 
-/// Plugs the remarks into the main form, for as long as it lives.
-void collegaOsservazioni(Menu1& principale, const commands::FormeProgramma& forme);
+/// Plugs the remarks into the main form, for as long as it lives. @pre the help is plugged in, if
+/// there is one
+void collegaOsservazioni(commands::FormeProgramma& forme, Menu1& principale);
 
 }  // namespace korven::shell

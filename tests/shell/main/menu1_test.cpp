@@ -83,10 +83,10 @@ class Menu1Test : public ::testing::Test {
     bool accettato = false;
 };
 
-// Captions of a menu and all below it, a line each, two blanks a level.
+// Captions of a menu and all below it, a line each, two blanks a level; "-" for a parting line.
 void elenca(const QList<QAction*>& azioni, int livello, QString& testo) {
     for (const auto* azione : azioni) {
-        testo += QString(2 * livello, ' ') + azione->text() + "\n";
+        testo += QString(2 * livello, ' ') + (azione->isSeparator() ? "-" : azione->text()) + "\n";
         if (azione->menu() != nullptr) elenca(azione->menu()->actions(), livello + 1, testo);
     }
 }
@@ -104,6 +104,8 @@ TEST_F(Menu1Test, HasItsMenuInItalian) {
               "  &Tabulati\n    Visualizza &Anteprima Tabulati\n    Stampa &Rapida Tabulati\n"
               "    &Esporta Tabulati in Formato DOC\n    Esporta Tabulati in Formato &TXT\n"
               "  &Configura\n  &Help\n"
+              "St&rumenti\n  An&nulla\n  &Ripeti\n  -\n  &Controlli\n  R&isultati\n"
+              "  &Sicurezza\n  -\n  Nu&ovo\n  &Duplica\n  R&ecenti\n  -\n  Lin&gua\n  &Tasti\n"
               "&Uscita\n&Help\n  &Sommario\n  &Info\n");
 }
 
@@ -123,6 +125,7 @@ TEST_F(Menu1Test, HasItsMenuInGerman) {
 void controllaTasti(const QList<QAction*>& azioni, int lingua) {
     std::set<QChar> tasti;
     for (const auto* azione : azioni) {
+        if (azione->isSeparator()) continue;
         const auto segno = azione->text().indexOf('&');
         ASSERT_GE(segno, 0) << azione->text().toStdString();
         EXPECT_TRUE(tasti.insert(azione->text().at(segno + 1).toUpper()).second)
@@ -155,6 +158,83 @@ TEST_F(Menu1Test, LetsNobodyChooseACommandWhoseFormIsMissing) {
     EXPECT_FALSE(voce("StampaVideo")->isEnabled());
     finestra.esegui(commands::voceMenu("StampaVideo"));
     EXPECT_TRUE(dialogo.messaggi.empty());
+}
+
+TEST_F(Menu1Test, ShowsTheKeysOfAnItemBesideIt) {
+    apri();
+    for (const auto& riga : commands::albero())
+        EXPECT_EQ(voce(std::string(riga.nome).c_str())->shortcut().toString().toStdString(),
+                  riga.tasti)
+            << riga.nome;
+}
+
+// While the menu is closed the keys ask for themselves, each time anew.
+TEST_F(Menu1Test, AsksWhetherAnItemHasAnythingToDoWhenItsMenuOpens) {
+    int annullati = 0;
+    bool annullabile = false;
+    forme.annulla = [&] { ++annullati; };
+    forme.annullabile = [&] { return annullabile; };
+    apri();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&finestra));
+    QTest::keyClick(&finestra, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(annullati, 0);
+    auto* menu = voce("strumenti")->menu();
+    menu->popup(QPoint(10, 10));
+    EXPECT_FALSE(voce("annulla")->isEnabled());
+    EXPECT_FALSE(voce("ripeti")->isEnabled());  // its form is missing
+    menu->close();
+    annullabile = true;
+    QTest::keyClick(&finestra, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(annullati, 1);
+    menu->popup(QPoint(10, 10));
+    EXPECT_TRUE(voce("annulla")->isEnabled());
+    EXPECT_FALSE(voce("ripeti")->isEnabled());
+    menu->close();
+}
+
+TEST_F(Menu1Test, DuplicatesNoProjectWhereNoneIsOpen) {
+    int duplicati = 0;
+    forme.duplica = [&] { ++duplicati; };
+    apri();
+    finestra.esegui(commands::voceMenu("duplica"));
+    EXPECT_EQ(duplicati, 0);
+    fileCorrente = ambiente.lavori / "muro.kvd";
+    finestra.esegui(commands::voceMenu("duplica"));
+    EXPECT_EQ(duplicati, 1);
+}
+
+TEST_F(Menu1Test, FillsAMenuThatChangesEachTimeItOpens) {
+    std::string scelto;
+    int aperture = 0;
+    forme.recenti = [&] {
+        ++aperture;
+        const std::string uno = "muro " + std::to_string(aperture);
+        return std::vector<commands::VoceMutevole>{
+            {.testo = uno, .scelta = [&scelto, uno] { scelto = uno; }},
+            {.testo = "manca", .scelta = nullptr},
+            {.testo = "Altro", .scelta = [&] { scelto = "altro"; }, .staccata = true}};
+    };
+    apri();
+    auto* menu = voce("recenti")->menu();
+    EXPECT_TRUE(voce("recenti")->isEnabled());
+    for (const char* atteso : {"muro 1", "muro 2"}) {
+        menu->popup(QPoint(10, 10));
+        ASSERT_EQ(menu->actions().size(), 4);
+        EXPECT_EQ(menu->actions()[0]->text(), atteso);
+        EXPECT_FALSE(menu->actions()[1]->isEnabled());
+        EXPECT_TRUE(menu->actions()[2]->isSeparator());
+        menu->actions()[0]->trigger();
+        menu->close();
+        EXPECT_EQ(scelto, atteso);
+    }
+    menu->actions()[3]->trigger();
+    EXPECT_EQ(scelto, "altro");
+}
+
+TEST_F(Menu1Test, OpensNoMenuOfWhatIsMissing) {
+    apri();
+    EXPECT_FALSE(voce("recenti")->isEnabled());
+    EXPECT_TRUE(voce("strumenti")->isEnabled());
 }
 
 TEST_F(Menu1Test, ShowsTheGuardOfEachEditorWithoutAProject) {

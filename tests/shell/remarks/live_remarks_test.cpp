@@ -34,8 +34,8 @@ class OsservazioniViveTest : public ::testing::Test {
             m.selezionaMaschera(1);
         };
         forme.paginaGuida = [](const std::string&) {};
+        collegaOsservazioni(forme, finestra);
         finestra.collega(programma());
-        collegaOsservazioni(finestra, forme);
         finestra.show();
     }
     commands::Programma& programma() {
