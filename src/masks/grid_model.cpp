@@ -81,11 +81,19 @@ const std::string& ModelloGriglia::testo(PostoGriglia posto) const {
 }
 
 void ModelloGriglia::scriviCella(std::string_view testo) {
-    if (!soloLettura(corrente_.colonna)) celle_.scrivi(corrente_.riga, corrente_.colonna, testo);
+    if (soloLettura(corrente_.colonna)) return;
+    std::string prima = cella();
+    mettiCella(corrente_, testo);
+    storia_.scritto(passoCella(corrente_), corrente_, std::move(prima), cella());
 }
 
 void ModelloGriglia::entra(PostoGriglia posto) {
+    storia_.chiudi();
     corrente_ = posto;
+    comeAppenaEntrato();
+}
+
+void ModelloGriglia::comeAppenaEntrato() {
     allIngresso_ = cella();
     primoCarattere_ = true;
     testoScelto_ = false;
@@ -203,6 +211,7 @@ void ModelloGriglia::apriEditore() {
     if (editoreAperto_ || soloLettura(corrente_.colonna)) return;
     editoreAperto_ = true;
     testoScelto_ = false;
+    storia_.taci();
     testoEditore_ = cella();
 }
 
@@ -229,12 +238,18 @@ void ModelloGriglia::mostraAiuto(base::Dialogo& dialogo) const {
 void ModelloGriglia::inserisciRiga(base::Dialogo& dialogo) {
     chiudiEditore(true);
     if (!validazionedati(dialogo)) return;
-    if (celle_.inserisci(corrente_.riga)) entra(corrente_);
+    const CelleGriglia prima = celle_;
+    if (!celle_.inserisci(corrente_.riga)) return;
+    entra(corrente_);
+    passoRiga("riga %1 inserita", prima);
 }
 
 void ModelloGriglia::eliminaRiga() {
     chiudiEditore(false);
-    if (celle_.elimina(corrente_.riga)) entra(corrente_);
+    const CelleGriglia prima = celle_;
+    if (!celle_.elimina(corrente_.riga)) return;
+    entra(corrente_);
+    passoRiga("riga %1 eliminata", prima);
 }
 
 bool ModelloGriglia::cambiata() const {

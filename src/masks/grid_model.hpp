@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -9,6 +10,7 @@
 #include "base/dialogo.hpp"
 #include "masks/field_check.hpp"
 #include "masks/grid_cells.hpp"
+#include "masks/history.hpp"
 #include "masks/key.hpp"
 #include "masks/mask.hpp"
 
@@ -116,10 +118,25 @@ class ModelloGriglia {
     /// with a message.
     void incolla(std::string_view testo, base::Dialogo& dialogo);
 
+    /// A panel beside the grid writes into a cell, the current one or another. A bad value is told
+    /// and the cell stays as it was; so does that of a read-only column.
+    /// @return true when the cell holds the text
+    bool scrivi(PostoGriglia posto, std::string_view testo, base::Dialogo& dialogo);
+
     /// Inserts an empty row at the current one; a bad current cell is told and nothing happens.
     void inserisciRiga(base::Dialogo& dialogo);
     /// Deletes the current row, whatever is in it; the cursor stays.
     void eliminaRiga();
+
+    /// Ctrl+Z: takes the last step back, Ctrl+Y: does it again; the cursor goes to its cell,
+    /// without a check of the one that it leaves. A step is what was typed into one cell from
+    /// entering it until it was left, a row inserted or deleted, a paste, what a panel wrote. An
+    /// open editor writes its text into the cell first, so that Ctrl+Z takes it back and Ctrl+Y
+    /// brings it again.
+    void annulla();
+    void ripeti();
+    /// What was taken back or done again, for the strip, until the next key; empty otherwise.
+    [[nodiscard]] const std::string& detto() const { return storia_.detto(); }
 
     /// The confirm button: closes the editor, checks the current cell and asks about rows with
     /// empty cells where the kind of the mask wants it. "No" to "will you look at them" closes.
@@ -138,17 +155,29 @@ class ModelloGriglia {
     [[nodiscard]] const std::string& cella() const { return testo(corrente_); }
     void scriviCella(std::string_view testo);
     void entra(PostoGriglia posto);
+    void comeAppenaEntrato();
     bool validazionedati(base::Dialogo& dialogo);
     void chiudiEditore(bool scrivi);
     [[nodiscard]] std::string righeDiTroppo() const;
     void batti(std::string_view carattere, bool sostituisce);
     void togliUltimo();
 
+    using StoriaCelle = Storia<PostoGriglia, std::string>;
+    [[nodiscard]] std::string passoCella(PostoGriglia posto) const;
+    [[nodiscard]] std::vector<StoriaCelle::Cambio> cambiDa(const CelleGriglia& prima) const;
+    void passoRiga(std::string_view chiave, const CelleGriglia& prima);
+    void passoIncolla(const CelleGriglia& prima);
+    void torna(std::optional<PostoGriglia> cursore);
+    void mettiCella(PostoGriglia posto, std::string_view testo) {
+        celle_.scrivi(posto.riga, posto.colonna, testo);
+    }
+
     const Maschera& maschera_;
     std::string titolo_;
     int capienza_;
     CelleGriglia celle_;
     CelleGriglia iniziali_;
+    StoriaCelle storia_;
     PostoGriglia corrente_;
     std::string allIngresso_;     // the current cell's text when it was entered
     bool primoCarattere_ = true;  // nothing has been typed into it yet

@@ -65,6 +65,7 @@ void ModelloGriglia::incolla(std::string_view testo, base::Dialogo& dialogo) {
         return;
     if (!leggiVirgole(righe, *this, dialogo)) return;
     chiudiEditore(true);
+    const CelleGriglia prima = celle_;
     std::optional<bool> sovrascrive;
     // A column pasted in a wrong unit has the same fault in every row: one box tells it.
     std::set<std::pair<int, Vizio>> detti;
@@ -92,6 +93,7 @@ void ModelloGriglia::incolla(std::string_view testo, base::Dialogo& dialogo) {
         }
         ++r;
     }
+    passoIncolla(prima);
     primoCarattere_ = true;
 }
 
