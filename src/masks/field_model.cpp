@@ -77,15 +77,48 @@ std::size_t ModelloCampi::voceMostrata(std::size_t campo) const {
 void ModelloCampi::scegli(std::size_t campo, std::size_t voce) {
     assert(voce < voci(campo).size());
     if (!soloLettura(campo) && voce != voceMostrata(campo))
-        combo_.at(campo) = static_cast<double>(voce);
+        cambia(campo, static_cast<double>(voce));
 }
 
 const std::string& ModelloCampi::testo(std::size_t campo) const { return testi_.at(posto(campo)); }
 
 void ModelloCampi::scrivi(std::size_t campo, std::string_view testo) {
     if (soloLettura(campo)) return;
-    testi_.at(posto(campo)) =
-        base::comeNeiFile(conDecimaliAmmessi(testo, tipoCampo(maschera_.campi[campo].tipo)));
+    cambia(campo,
+           base::comeNeiFile(conDecimaliAmmessi(testo, tipoCampo(maschera_.campi[campo].tipo))));
+}
+
+ModelloCampi::Valore ModelloCampi::valore(std::size_t campo) const {
+    if (scelta(campo)) return combo_[campo];
+    return testo(campo);
+}
+
+void ModelloCampi::metti(std::size_t campo, const Valore& valore) {
+    if (scelta(campo))
+        combo_[campo] = std::get<double>(valore);
+    else
+        testi_.at(posto(campo)) = std::get<std::string>(valore);
+}
+
+void ModelloCampi::cambia(std::size_t campo, const Valore& dopo) {
+    Valore prima = valore(campo);
+    metti(campo, dopo);
+    storia_.scritto(passoCampo(maschera_.campi[campo].etichetta), campo, std::move(prima), dopo);
+}
+
+bool ModelloCampi::annulla() {
+    return torna(
+        storia_.annulla([this](std::size_t campo, const Valore& prima) { metti(campo, prima); }));
+}
+
+bool ModelloCampi::ripeti() {
+    return torna(
+        storia_.ripeti([this](std::size_t campo, const Valore& dopo) { metti(campo, dopo); }));
+}
+
+bool ModelloCampi::torna(std::optional<std::size_t> campo) {
+    if (campo) attivo_ = *campo;
+    return campo.has_value();
 }
 
 // A read-only text is locked, yet its text can be read and copied; a read-only choice is disabled.
@@ -97,17 +130,19 @@ bool ModelloCampi::lascia(base::Dialogo& dialogo) {
     // A fault that can't be mended here would hold the user for good.
     if (scelta(attivo_) || soloLettura(attivo_)) return true;
     const CampoMaschera& campo = maschera_.campi[attivo_];
-    std::string& testo = testi_[posto(attivo_)];
+    const std::string& testo = testi_[posto(attivo_)];
     const Vizio vizio = controllaCampo(campo, testo);
     if (vizio == Vizio::nessuno) return true;
     segnala(vizio, campo, titoloMessaggio(attivo_), "\r", dialogo);
-    if (vizio == Vizio::lunghezza) testo = tagliato(testo, tipoCampo(campo.tipo).lunghezza);
+    if (vizio == Vizio::lunghezza)
+        cambia(attivo_, tagliato(testo, tipoCampo(campo.tipo).lunghezza));
     return false;
 }
 
 bool ModelloCampi::passaA(std::size_t campo, base::Dialogo& dialogo) {
     if (campo == attivo_) return true;
     if (campo >= campi() || !prendeFuoco(campo) || !lascia(dialogo)) return false;
+    storia_.chiudi();
     attivo_ = campo;
     return true;
 }

@@ -2,13 +2,16 @@
 
 #include <cstddef>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
+#include <variant>
 #include <vector>
 
 #include "base/dialogo.hpp"
 #include "masks/field_check.hpp"
+#include "masks/history.hpp"
 #include "masks/key.hpp"
 #include "masks/mask.hpp"
 
@@ -86,6 +89,15 @@ class ModelloCampi {
     /// A click on the strip shows its text in a box.
     void mostraAiuto(base::Dialogo& dialogo) const;
 
+    /// Ctrl+Z: takes the last step back, Ctrl+Y: does it again; the focus goes to its field,
+    /// without a check of the one that it leaves. A step is what was typed or chosen in one field
+    /// from entering it until it was left.
+    /// @return true when there was such a step
+    bool annulla();
+    bool ripeti();
+    /// What was taken back or done again, for the strip, until something else is done; else empty.
+    [[nodiscard]] const std::string& detto() const { return storia_.detto(); }
+
     /// The confirm button: checks the field that has the focus.
     /// @return true when the form closes and hands back `valoriCombo` and `valoriTesto`
     bool conferma(base::Dialogo& dialogo) { return lascia(dialogo); }
@@ -95,10 +107,17 @@ class ModelloCampi {
  private:
     [[nodiscard]] std::size_t posto(std::size_t campo) const { return campo - combo_.size(); }
 
+    using Valore = std::variant<double, std::string>;  // of a choice, of a text
+    [[nodiscard]] Valore valore(std::size_t campo) const;
+    void metti(std::size_t campo, const Valore& valore);
+    void cambia(std::size_t campo, const Valore& dopo);
+    bool torna(std::optional<std::size_t> campo);
+
     const Maschera& maschera_;
     std::vector<double> combo_;
     std::vector<std::string> testi_;
     std::size_t attivo_ = 0;
+    Storia<std::size_t, Valore> storia_;
     Nota nota_;
 };
 

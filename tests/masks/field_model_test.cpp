@@ -215,5 +215,58 @@ TEST(ModelloCampiLettura, TellsWhatTheNumberInUseIsReadAs) {
     EXPECT_EQ(modello.lettura(), "letto come 0: il segno decimale è il punto");
 }
 
+TEST_F(ModelloCampiTest, TakesBackFieldByFieldAndGoesThere) {
+    modello.scegli(0, 1);
+    modello.passaA(2, dialogo);
+    modello.scrivi(2, "7");
+    modello.scrivi(2, "7.5");
+    modello.passaA(3, dialogo);
+    EXPECT_TRUE(modello.annulla());
+    EXPECT_EQ(modello.testo(2), "5");
+    EXPECT_EQ(modello.attivo(), 2u);
+    EXPECT_EQ(modello.detto(), "Annullato: campo Lunghezza");
+    EXPECT_TRUE(modello.annulla());
+    EXPECT_EQ(modello.voceMostrata(0), 0u);
+    EXPECT_EQ(modello.detto(), "Annullato: campo Vincolo");
+    EXPECT_FALSE(modello.annulla());
+    EXPECT_EQ(modello.attivo(), 0u);
+    EXPECT_TRUE(modello.ripeti());
+    EXPECT_TRUE(modello.ripeti());
+    EXPECT_FALSE(modello.ripeti());
+    EXPECT_EQ(modello.valoriCombo(), (std::vector<double>{1, 2}));
+    EXPECT_EQ(modello.testo(2), "7.5");
+    modello.passaA(3, dialogo);
+    EXPECT_EQ(modello.detto(), "");
+}
+
+TEST_F(ModelloCampiTest, TakesBackATextThatItsFieldWouldNotLetGo) {
+    modello.passaA(2, dialogo);
+    modello.scrivi(2, "x");
+    EXPECT_FALSE(modello.passaA(3, dialogo));
+    EXPECT_TRUE(modello.annulla());
+    EXPECT_TRUE(modello.passaA(3, dialogo));
+    EXPECT_TRUE(modello.ripeti());
+    EXPECT_EQ(modello.attivo(), 2u);
+    EXPECT_FALSE(modello.passaA(3, dialogo));
+}
+
+TEST_F(ModelloCampiTest, BringsBackACodeWithoutAnItemOfItsOwn) {
+    ModelloCampi altro(maschera, {0, 6.5}, {});
+    altro.passaA(1, dialogo);
+    altro.scegli(1, 0);
+    altro.scegli(1, 1);
+    altro.annulla();
+    EXPECT_EQ(altro.valoriCombo()[1], 6.5);
+}
+
+TEST_F(ModelloCampiTest, TakesTheCutOfALongTextBackWithWhatWasTyped) {
+    modello.passaA(3, dialogo);
+    modello.scrivi(3, "abcdef");
+    EXPECT_FALSE(modello.passaA(4, dialogo));
+    modello.passaA(4, dialogo);
+    EXPECT_EQ(modello.testo(3), "abcd");
+    EXPECT_FALSE(modello.annulla()) << "it is again what it was";
+}
+
 }  // namespace
 }  // namespace korven::masks
