@@ -4,6 +4,7 @@
 #include <cassert>
 
 #include "base/number_text.hpp"
+#include "base/translated_texts.hpp"
 
 namespace korven::masks {
 
@@ -31,7 +32,54 @@ SezioneEditata::SezioneEditata(project::Sezione& sezione, bool& modificato)
 void SezioneEditata::scegli(project::Parte tipo) {
     assert(std::any_of(std::begin(tipiSezione), std::end(tipiSezione),
                        [=](auto flag) { return project::campo(flag).parte == tipo; }));
+    storia_.chiudi();
+    storia_.scritto(base::traduttore("tipo di sezione"), sceltaTipo, tipo_, tipo);
+    storia_.chiudi();
     tipo_ = tipo;
+}
+
+void SezioneEditata::scrivi(std::size_t campo, std::string_view testo) {
+    storia_.scritto(passoCampo(base::traduttore(campiSezione[campo].campo().cosa)), campo,
+                    testi_[campo], std::string(testo));
+    testi_[campo] = testo;
+}
+
+void SezioneEditata::scrivi(const std::string& nome, const Testi& testi) {
+    std::vector<Storia<std::size_t, Valore>::Cambio> cambi;
+    for (const auto& [campo, testo] : testi) {
+        if (testo == testi_[campo]) continue;
+        cambi.push_back({campo, testi_[campo], testo});
+        testi_[campo] = testo;
+    }
+    if (cambi.empty()) return;
+    const std::size_t primo = cambi.front().posto;
+    storia_.fatto({nome, primo, std::move(cambi)});
+}
+
+void SezioneEditata::entra(std::size_t campo) {
+    if (campo != dove_) storia_.chiudi();
+    dove_ = campo;
+}
+
+void SezioneEditata::metti(std::size_t campo, const Valore& valore) {
+    if (campo == sceltaTipo)
+        tipo_ = std::get<project::Parte>(valore);
+    else
+        testi_[campo] = std::get<std::string>(valore);
+}
+
+std::optional<std::size_t> SezioneEditata::annulla() {
+    const auto dove =
+        storia_.annulla([this](std::size_t campo, const Valore& prima) { metti(campo, prima); });
+    dove_ = dove.value_or(dove_);
+    return dove;
+}
+
+std::optional<std::size_t> SezioneEditata::ripeti() {
+    const auto dove =
+        storia_.ripeti([this](std::size_t campo, const Valore& dopo) { metti(campo, dopo); });
+    dove_ = dove.value_or(dove_);
+    return dove;
 }
 
 double SezioneEditata::scritto(std::size_t campo) const {

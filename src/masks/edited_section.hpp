@@ -3,9 +3,14 @@
 #include <array>
 #include <cstddef>
 #include <iterator>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <variant>
+#include <vector>
 
+#include "masks/history.hpp"
 #include "project/field_table.hpp"
 
 namespace korven::masks {
@@ -71,11 +76,27 @@ class SezioneEditata {
     [[nodiscard]] project::Parte tipo() const { return tipo_; }
     /// @pre a type of section: asserted
     void scegli(project::Parte tipo);
+    /// Stands for the choice of types where a field is named by its place.
+    static constexpr std::size_t sceltaTipo = numeroCampiSezione;
 
     /// Text of field `campo` of `campiSezione`, as plain number of the stored value at first.
     [[nodiscard]] const std::string& testo(std::size_t campo) const { return testi_[campo]; }
     /// Any text is taken.
-    void scrivi(std::size_t campo, std::string_view testo) { testi_[campo] = testo; }
+    void scrivi(std::size_t campo, std::string_view testo);
+    /// Several fields at once, which is one step.
+    /// @param nome  of the step, as it is shown: translated
+    using Testi = std::vector<std::pair<std::size_t, std::string>>;
+    void scrivi(const std::string& nome, const Testi& testi);
+
+    /// The cursor is in a field, or in the choice of types.
+    void entra(std::size_t campo);
+    /// Ctrl+Z: takes the last step back, Ctrl+Y: does it again. A step is what was typed into one
+    /// field from entering it until it was left, and each choice of a type.
+    /// @return the field where the cursor goes, or `sceltaTipo`; nothing when there was no step
+    std::optional<std::size_t> annulla();
+    std::optional<std::size_t> ripeti();
+    /// What was taken back or done again, for the strip, until something else is done; else empty.
+    [[nodiscard]] const std::string& detto() const { return storia_.detto(); }
 
     /// The section that the form describes: the stored number where the text is the one that was
     /// shown, else the numeric prefix of the text, 0 if there is none, in the stored unit, whatever
@@ -88,6 +109,8 @@ class SezioneEditata {
     void conferma();
 
  private:
+    using Valore = std::variant<project::Parte, std::string>;  // of the choice of types, of a field
+    void metti(std::size_t campo, const Valore& valore);
     [[nodiscard]] double scritto(std::size_t campo) const;
     [[nodiscard]] bool nominato(std::size_t campo) const;  // the text shown is the stored number
     [[nodiscard]] bool ritorna() const;                    // all that were left are named so
@@ -96,6 +119,8 @@ class SezioneEditata {
     bool& modificato_;
     project::Parte tipo_ = project::Parte::diaframma;
     std::array<std::string, numeroCampiSezione> testi_, mostrati_;
+    std::size_t dove_ = sceltaTipo;
+    Storia<std::size_t, Valore> storia_;
 };
 
 }  // namespace korven::masks

@@ -234,5 +234,53 @@ TEST(SezioneEditata, StartsFromTheDefaultsOfANewProject) {
     EXPECT_FALSE(modificato);
 }
 
+TEST(SezioneEditata, TakesFieldsAndTypesBackAndDoesThemAgain) {
+    project::Sezione sezione = piena();
+    bool modificato = false;
+    SezioneEditata editata(sezione, modificato);
+    const std::size_t fck = campoSezione(&project::Sezione::fck);
+    const std::size_t base = campoSezione(&project::Sezione::palancolaBase);
+    const std::string prima = editata.testo(base);
+    editata.entra(base);
+    editata.scrivi(base, "4");
+    editata.scrivi(base, "45");
+    editata.entra(fck);
+    editata.entra(base);
+    editata.scrivi(base, "456");
+    editata.scegli(Parte::pali);
+    editata.scegli(Parte::pali);
+    EXPECT_EQ(editata.annulla(), SezioneEditata::sceltaTipo);
+    EXPECT_EQ(editata.detto(), "Annullato: tipo di sezione");
+    EXPECT_EQ(editata.tipo(), Parte::palancola);
+    EXPECT_EQ(editata.annulla(), base);
+    EXPECT_EQ(editata.testo(base), "45");
+    EXPECT_EQ(editata.detto(), "Annullato: campo base della palancola");
+    EXPECT_EQ(editata.annulla(), base);
+    EXPECT_EQ(editata.testo(base), prima);
+    EXPECT_EQ(editata.annulla(), std::nullopt);
+    const project::Sezione comEra = sezione;
+    editata.conferma();
+    EXPECT_TRUE(sezione == comEra);
+    for (int i = 0; i < 3; ++i) EXPECT_TRUE(editata.ripeti());
+    EXPECT_EQ(editata.ripeti(), std::nullopt);
+    EXPECT_EQ(editata.tipo(), Parte::pali);
+    EXPECT_EQ(editata.testo(base), "456");
+}
+
+TEST(SezioneEditata, TakesSeveralFieldsWrittenAtOnceBackAsOneStep) {
+    project::Sezione sezione = piena();
+    bool modificato = false;
+    SezioneEditata editata(sezione, modificato);
+    const std::size_t est = campoSezione(&project::Sezione::paliDiamEst);
+    const std::size_t interno = campoSezione(&project::Sezione::paliDiamInt);
+    const std::string prima = editata.testo(est) + ' ' + editata.testo(interno);
+    editata.scrivi("tubo 273 x 10", {{est, "273"}, {interno, "253"}});
+    EXPECT_EQ(editata.annulla(), est);
+    EXPECT_EQ(editata.detto(), "Annullato: tubo 273 x 10");
+    EXPECT_EQ(editata.testo(est) + ' ' + editata.testo(interno), prima);
+    editata.ripeti();
+    EXPECT_EQ(editata.testo(interno), "253");
+}
+
 }  // namespace
 }  // namespace korven::masks
