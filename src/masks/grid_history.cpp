@@ -46,24 +46,6 @@ void ModelloGriglia::passoIncolla(const CelleGriglia& prima) {
          corrente_, std::move(cambi)});
 }
 
-bool ModelloGriglia::scrivi(PostoGriglia posto, std::string_view testo, base::Dialogo& dialogo) {
-    const CampoMaschera& campo = colonna(posto.colonna);
-    if (campo.soloLettura) return false;
-    const Vizio vizio = controllaCella(campo, std::string(testo));
-    if (vizio != Vizio::nessuno) {
-        segnala(vizio, campo, campo.etichetta, "\r\n", dialogo);
-        return false;
-    }
-    chiudiEditore(true);
-    storia_.chiudi();
-    std::string prima = this->testo(posto);
-    mettiCella(posto, testo);
-    storia_.scritto(passoCella(posto), posto, std::move(prima), this->testo(posto));
-    storia_.chiudi();
-    primoCarattere_ = true;
-    return true;
-}
-
 void ModelloGriglia::annulla() {
     chiudiEditore(true);
     torna(storia_.annulla(

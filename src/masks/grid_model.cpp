@@ -235,6 +235,20 @@ void ModelloGriglia::mostraAiuto(base::Dialogo& dialogo) const {
     dialogo.messaggio(aiuto(), etichetta(corrente_.colonna), base::Icona::informazione);
 }
 
+bool ModelloGriglia::scrivi(PostoGriglia posto, std::string_view testo, base::Dialogo& dialogo) {
+    if (!vaiA(posto, dialogo) || soloLettura(posto.colonna)) return false;
+    const CampoMaschera& campo = colonna(posto.colonna);
+    const Vizio vizio = controllaCella(campo, testo);
+    if (vizio != Vizio::nessuno) {
+        segnala(vizio, campo, campo.etichetta, "\r\n", dialogo);
+        return false;
+    }
+    chiudiEditore(false);
+    scriviCella(testo);
+    entra(posto);
+    return true;
+}
+
 void ModelloGriglia::inserisciRiga(base::Dialogo& dialogo) {
     chiudiEditore(true);
     if (!validazionedati(dialogo)) return;

@@ -118,9 +118,10 @@ class ModelloGriglia {
     /// with a message.
     void incolla(std::string_view testo, base::Dialogo& dialogo);
 
-    /// A panel beside the grid writes into a cell, the current one or another. A bad value is told
-    /// and the cell stays as it was; so does that of a read-only column.
-    /// @return true when the cell holds the text
+    /// A panel beside the grid writes into a cell, to which the cursor goes: the current one must
+    /// be good to be left. A text that its column does not take is told, and a read-only cell
+    /// stays.
+    /// @return true when the cell has the text
     bool scrivi(PostoGriglia posto, std::string_view testo, base::Dialogo& dialogo);
 
     /// Inserts an empty row at the current one; a bad current cell is told and nothing happens.
