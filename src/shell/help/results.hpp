@@ -1,22 +1,17 @@
 #pragma once
 
-#include <QStyledItemDelegate>
+#include "shell/forms/headed_item.hpp"
 
 namespace korven::shell {
 
 /// Role of an item that holds the excerpt of a page found.
 inline constexpr int datoBrano = Qt::UserRole + 1;
 
-/// Shows a page found: its title in bold letters, below it the excerpt over as many lines as it
-/// needs in the width of the list.
-class DelegatoTrovate : public QStyledItemDelegate {
+/// Shows a page found: its title, below it the excerpt.
+class DelegatoTrovate : public DelegatoIntestato {
  public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    void paint(QPainter* pittore, const QStyleOptionViewItem& opzioni,
-               const QModelIndex& indice) const override;
-    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& opzioni,
-                                 const QModelIndex& indice) const override;
+    explicit DelegatoTrovate(QObject* padre)
+        : DelegatoIntestato({.titolo = Qt::DisplayRole, .testo = datoBrano, .righe = 4}, padre) {}
 };
 
 }  // namespace korven::shell

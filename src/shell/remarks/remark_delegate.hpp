@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QStyledItemDelegate>
+#include "shell/forms/headed_item.hpp"
 
 namespace korven::shell {
 
@@ -9,16 +9,14 @@ namespace korven::shell {
 inline constexpr int datoPeso = Qt::UserRole + 1;
 inline constexpr int datoGrave = Qt::UserRole + 2;
 
-/// Shows a remark: the word of its weight in bold letters, below it the text over as many lines as
-/// it needs in the width of the list.
-class DelegatoOsservazioni : public QStyledItemDelegate {
+/// Shows a remark: the word of its weight, below it the text, a bar in the colour of the weight
+/// beside both.
+class DelegatoOsservazioni : public DelegatoIntestato {
  public:
-    using QStyledItemDelegate::QStyledItemDelegate;
+    explicit DelegatoOsservazioni(QObject* padre);
 
-    void paint(QPainter* pittore, const QStyleOptionViewItem& opzioni,
-               const QModelIndex& indice) const override;
-    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& opzioni,
-                                 const QModelIndex& indice) const override;
+ protected:
+    void orna(QPainter& pittore, const QRect& margine, const QModelIndex& indice) const override;
 };
 
 }  // namespace korven::shell
