@@ -22,7 +22,7 @@ void portaSulloSchermo(QWidget& finestra) {
     if (finestra.isMaximized() || finestra.isFullScreen()) return;
     const QRect schermo = finestra.screen()->availableGeometry();
     finestra.resize(finestra.size().boundedTo(misuraMassima(finestra)));
-    QRect intera(finestra.pos(), finestra.size() + cornice);
+    QRect intera(finestra.pos(), misuraConCornice(finestra));
     intera.moveRight(std::min(intera.right(), schermo.right()));
     intera.moveBottom(std::min(intera.bottom(), schermo.bottom()));
     intera.moveLeft(std::max(intera.left(), schermo.left()));
@@ -39,16 +39,19 @@ bool ripristinaMisure(QWidget& finestra) {
     return true;
 }
 
+QSize misuraConCornice(const QWidget& finestra) { return finestra.size() + cornice; }
+
 QSize misuraMassima(const QWidget& finestra) {
     return finestra.screen()->availableSize() - cornice;
 }
 
-void prendiMisura(QWidget& finestra, QSize comoda) {
-    if (ripristinaMisure(finestra)) return;
+bool prendiMisura(QWidget& finestra, QSize comoda) {
+    if (ripristinaMisure(finestra)) return true;
     const QSize massima = misuraMassima(finestra);
     if (comoda.height() > massima.height())
         comoda.rwidth() += finestra.style()->pixelMetric(QStyle::PM_ScrollBarExtent);
     finestra.resize(comoda.boundedTo(massima));
+    return false;
 }
 
 void ricordaMisure(const QWidget& finestra) {

@@ -19,9 +19,13 @@ bool ripristinaMisure(QWidget& finestra);
 /// draws around it.
 [[nodiscard]] QSize misuraMassima(const QWidget& finestra);
 
+/// The size of a window with that frame.
+[[nodiscard]] QSize misuraConCornice(const QWidget& finestra);
+
 /// Gives a window the place and size that are remembered of it, else this size, as far as its
 /// screen has room. One that has less height than it asks for is as much wider as a scroll bar is.
-void prendiMisura(QWidget& finestra, QSize comoda);
+/// @return false when nothing is remembered; the place is then left as it is
+bool prendiMisura(QWidget& finestra, QSize comoda);
 
 /// Remembers place and size of a window, in the settings of the user.
 void ricordaMisure(const QWidget& finestra);

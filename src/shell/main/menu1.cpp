@@ -134,6 +134,8 @@ void Menu1::costruisciMenu() {
         azione->setEnabled(programma_->puo(voce));
         connect(azione, &QAction::triggered, this, [this, &voce] { esegui(voce); });
         if (voce.possibile != nullptr) chiediAllApertura(*sopra, *azione, voce);
+        // Its windows share the keys, but that for the help, which each has a page of its own.
+        if (!voce.tasti.empty() && voce.nome != "sommario") addAction(azione);
     }
 }
 

@@ -63,10 +63,7 @@ void OsservazioniVive::apriFinestra() {
              .guida = guida_});
         mostra();
     }
-    if (finestra_->isMinimized()) finestra_->showNormal();
-    finestra_->show();
-    finestra_->raise();
-    finestra_->activateWindow();
+    finestra_->mostraDavanti();
 }
 
 void OsservazioniVive::apriCampo(const review::Osservazione& osservazione) {

@@ -6,12 +6,10 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
-#include <QShortcut>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <utility>
 
-#include "shell/form_sizes.hpp"
 #include "shell/qt_text.hpp"
 #include "shell/remarks/remark_delegate.hpp"
 
@@ -29,9 +27,9 @@ bool stessa(const review::Osservazione& una, const review::Osservazione& altra) 
 }  // namespace
 
 FinestraOsservazioni::FinestraOsservazioni(QWidget& principale, Azioni azioni)
-    : QWidget(&principale, Qt::Window), principale_(principale), azioni_(std::move(azioni)) {
-    setObjectName(QStringLiteral("osservazioni"));
-    setWindowTitle(tradotto("Osservazioni sul progetto"));
+    : FinestraCompagna(principale, QStringLiteral("osservazioni"),
+                       tradotto("Osservazioni sul progetto"), misuraComoda),
+      azioni_(std::move(azioni)) {
     conteggio_ = new QLabel(this);
     conteggio_->setObjectName(QStringLiteral("conteggio"));
     conteggio_->setTextFormat(Qt::PlainText);
@@ -50,9 +48,6 @@ FinestraOsservazioni::FinestraOsservazioni(QWidget& principale, Azioni azioni)
     connect(lista_, &QListWidget::currentRowChanged, this, [this] { scelta(); });
     connect(lista_, &QListWidget::itemDoubleClicked, this, [this] { apri(); });
     lista_->installEventFilter(this);
-    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
-    principale_.installEventFilter(this);
-    prendiMisura(*this, misuraComoda);
     lista_->setFocus();
     scelta();
 }
@@ -117,7 +112,7 @@ void FinestraOsservazioni::scelta() {
     const auto* quale = corrente();
     setProperty(proprietaPagina, quale != nullptr ? qt(quale->guida) : QString());
     guida_->setEnabled(quale != nullptr);
-    apri_->setEnabled(quale != nullptr && principale_.isEnabled() && azioni_.apribile(*quale));
+    apri_->setEnabled(quale != nullptr && principale().isEnabled() && azioni_.apribile(*quale));
 }
 
 void FinestraOsservazioni::apri() {
@@ -131,7 +126,7 @@ void FinestraOsservazioni::mostraGuida() {
 }
 
 bool FinestraOsservazioni::eventFilter(QObject* oggetto, QEvent* evento) {
-    if (oggetto == &principale_ && evento->type() == QEvent::EnabledChange) scelta();
+    if (oggetto == &principale() && evento->type() == QEvent::EnabledChange) scelta();
     if (oggetto == lista_ && evento->type() == QEvent::KeyPress) {
         const int tasto = static_cast<QKeyEvent*>(evento)->key();
         if (tasto == Qt::Key_Return || tasto == Qt::Key_Enter) {
@@ -139,12 +134,7 @@ bool FinestraOsservazioni::eventFilter(QObject* oggetto, QEvent* evento) {
             return true;
         }
     }
-    return QWidget::eventFilter(oggetto, evento);
-}
-
-void FinestraOsservazioni::closeEvent(QCloseEvent* evento) {
-    ricordaMisure(*this);
-    QWidget::closeEvent(evento);
+    return FinestraCompagna::eventFilter(oggetto, evento);
 }
 
 }  // namespace korven::shell

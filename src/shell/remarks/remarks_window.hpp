@@ -1,10 +1,10 @@
 #pragma once
 
-#include <QWidget>
 #include <functional>
 #include <string>
 
 #include "review/remark.hpp"
+#include "shell/companions/companion_window.hpp"
 
 class QLabel;
 class QListWidget;
@@ -12,11 +12,10 @@ class QPushButton;
 
 namespace korven::shell {
 
-/// The window that lists the remarks on the open project, the heaviest first. It stays beside the
-/// main form while the project is edited and follows it.
+/// The window that lists the remarks on the open project, the heaviest first, and follows it.
 ///
-/// Keys: Enter on a remark opens the form at its field, F1 the help at its page, Esc closes.
-class FinestraOsservazioni : public QWidget {
+/// Keys: Enter on a remark opens the form at its field, F1 the help at its page.
+class FinestraOsservazioni : public FinestraCompagna {
  public:
     struct Azioni {
         std::function<bool(const review::Osservazione&)> apribile;  ///< a form shows its field
@@ -33,7 +32,6 @@ class FinestraOsservazioni : public QWidget {
 
  protected:
     bool eventFilter(QObject* oggetto, QEvent* evento) override;
-    void closeEvent(QCloseEvent* evento) override;
 
  private:
     QWidget* farePulsanti();
@@ -43,7 +41,6 @@ class FinestraOsservazioni : public QWidget {
     void apri();
     void mostraGuida();
 
-    QWidget& principale_;
     const Azioni azioni_;
     review::Osservazioni mostrate_;
     QLabel* conteggio_;
