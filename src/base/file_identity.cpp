@@ -72,6 +72,18 @@ bool senzaMaiuscole(const std::string& cartella) {
     return uguali;
 }
 
+bool fileProprio(const std::string& percorso) {
+    struct stat stato {};
+    return ::lstat(percorso.c_str(), &stato) == 0 && S_ISREG(stato.st_mode) &&
+           stato.st_uid == ::geteuid();
+}
+
+std::optional<std::time_t> quandoScritto(const std::string& percorso) {
+    struct stat stato {};
+    if (::stat(percorso.c_str(), &stato) != 0) return std::nullopt;
+    return stato.st_mtime;
+}
+
 ImprontaFile::ImprontaFile(const std::string& percorso) {
     struct stat stato {};
     if (::stat(percorso.c_str(), &stato) != 0) return;

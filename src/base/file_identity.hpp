@@ -1,5 +1,6 @@
 #pragma once
 
+#include <ctime>
 #include <optional>
 #include <string>
 
@@ -14,6 +15,12 @@ namespace korven::base {
 /// system ignores it. To learn that, a file with a name of its own may be made for a moment in the
 /// folder, only when two names differ in nothing else.
 [[nodiscard]] bool stessoFile(const std::string& uno, const std::string& altro);
+
+/// True for a plain file of the user's own: no link to one, and nothing that another user has made.
+[[nodiscard]] bool fileProprio(const std::string& percorso);
+
+/// When a file was written last; nothing if there is none.
+[[nodiscard]] std::optional<std::time_t> quandoScritto(const std::string& percorso);
 
 /// What tells a file from an earlier one of the same name: written anew it is another, whatever it
 /// holds. Equal for a name that no file has.

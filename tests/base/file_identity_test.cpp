@@ -1,6 +1,8 @@
 #include "base/file_identity.hpp"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include "support/temporary_folder.hpp"
 
@@ -57,6 +59,25 @@ TEST(StessoFile, TellsTheCaseOfLettersApartAsTheFileSystemDoes) {
     EXPECT_EQ(stessoFile(cartella / "caff\u00E8.OUT", cartella / "caff\u00C8.OUT"), uguali);
     EXPECT_FALSE(senzaMaiuscole(cartella / "manca"));
     EXPECT_EQ(std::distance(fs::directory_iterator(cartella.percorso()), {}), 1);
+}
+
+TEST(FileProprio, IsAPlainFileAndNoLink) {
+    const CartellaProvvisoria cartella;
+    metti(cartella / "f", "x");
+    fs::create_symlink("f", cartella / "simbolico");
+    fs::create_directory(cartella / "sotto");
+    EXPECT_TRUE(fileProprio(cartella / "f"));
+    for (const char* nome : {"simbolico", "sotto", "manca"})
+        EXPECT_FALSE(fileProprio(cartella / nome)) << nome;
+}
+
+TEST(QuandoScritto, IsTheTimeThatTheSystemHolds) {
+    const CartellaProvvisoria cartella;
+    metti(cartella / "f", "x");
+    const timespec volta[] = {{1000000000, 0}, {1000000000, 0}};
+    ASSERT_EQ(::utimensat(AT_FDCWD, (cartella / "f").c_str(), volta, 0), 0);
+    EXPECT_EQ(quandoScritto(cartella / "f"), 1000000000);
+    EXPECT_EQ(quandoScritto(cartella / "manca"), std::nullopt);
 }
 
 }  // namespace

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "base/file_custody.hpp"
+#include "base/file_identity.hpp"
 #include "base/files.hpp"
 
 namespace korven::base {
@@ -32,14 +33,12 @@ bool nomeDiSerratura(std::string_view nome) {
     return nome.starts_with(inizioProvvisori) && nome.ends_with(fineSerrature);
 }
 
-// A file of the user's own, and no link.
 bool fileProvvisorio(const fs::path& percorso) {
-    struct stat stato {};
+    std::error_code errore;
     const std::string nome = percorso.filename().string();
-    return ::lstat(percorso.c_str(), &stato) == 0 && S_ISREG(stato.st_mode) &&
-           stato.st_uid == ::geteuid() &&
+    return fileProprio(percorso.string()) &&
            (nomeDelSistema(nome, inizioProvvisori) ||
-            (nomeDiSerratura(nome) && stato.st_size == 0));
+            (nomeDiSerratura(nome) && fs::file_size(percorso, errore) == 0));
 }
 
 bool cartellaProvvisoria(const fs::path& percorso) {
