@@ -6,6 +6,7 @@
 #include "base/number_text.hpp"
 #include "project/codes.hpp"
 #include "project/project_walk.hpp"
+#include "project/rescue_mark.hpp"
 
 namespace korven::project {
 
@@ -38,7 +39,7 @@ class Ricerca {
     std::vector<RigaInsolita> finisci() {
         while (!file_.soloRigheVuote()) {
             RigaInsolita riga = leggi({});
-            if (riga.testo.empty()) continue;
+            if (riga.testo.empty() || eSegnoRecupero(riga.testo)) continue;
             aggiungi(Motivo::oltreLultima, std::move(riga));
             break;
         }

@@ -23,7 +23,8 @@ struct RigaInsolita {
 };
 
 /// Goes through a project file as `leggiDati` does and lists the lines that hold more than their
-/// value, in their order. Of those after the last value it lists only the first that is not blank.
+/// value, in their order. Of those after the last value it lists only the first that is not blank
+/// and not the mark of a rescue file (rescue_mark.hpp).
 /// @param dati  what `leggiDati` made of the same file: its counts say how many lines there are
 /// @throws base::ErroreFile if the file is shorter than the counts say
 [[nodiscard]] std::vector<RigaInsolita> righeInsolite(base::LettoreRighe& file,

@@ -5,6 +5,7 @@
 #include "base/code_page.hpp"
 #include "base/file_error.hpp"
 #include "project/project_file.hpp"
+#include "project/rescue_mark.hpp"
 #include "support/sample_projects.hpp"
 
 namespace korven::project {
@@ -88,6 +89,12 @@ TEST(RigheInsolite, AreNoneOfTheEmptyLinesAndTheMarkOfDosAtTheEnd) {
     const std::string testo = testoProgetto(test::progettoSemplice());
     for (const char* coda : {"\r\n\r\n \r\n", "\x1A", "\r\n\x1A\r\n"})
         EXPECT_TRUE(insolite(testo + coda).empty()) << coda;
+}
+
+TEST(RigheInsolite, AreNoneOfTheMarkOfARescueFile) {
+    const std::string testo = conRighe({}) + segnoRecupero("/lavori/muro.kvd");
+    EXPECT_TRUE(insolite(testo).empty());
+    EXPECT_EQ(insolite(testo + "7\r\n").size(), 1u);
 }
 
 TEST(RigheInsolite, StopWhereAFileOfTheOldestFormStops) {
