@@ -6,6 +6,7 @@
 #include "analysis/watch/followed_run.hpp"
 #include "commands/edit_commands.hpp"
 #include "commands/fatal_error.hpp"
+#include "commands/rescue/kept_rescue.hpp"
 #include "help/contexts.hpp"
 #include "project/project_data.hpp"
 #include "safety/run_cause.hpp"
@@ -14,7 +15,11 @@ namespace korven::commands {
 
 bool Programma::esegui(const VoceMenu& voce) {
     assert(puo(voce));
-    return voce.comando(*this, voce);
+    congedata_ = false;
+    const bool finisce = voce.comando(*this, voce);
+    congedata_ = congedata_ || finisce;
+    custodisci();
+    return finisce;
 }
 
 bool Programma::puo(const VoceMenu& voce) const {
@@ -33,12 +38,17 @@ void Programma::edita(masks::NumeroMaschera maschera, const char* rifiuto) {
 void Programma::editaDa(const masks::PostoCampo& posto) {
     const bool forma = posto.maschera == masks::senzaMaschera ? forme_.sezione && forme_.sezioneDa
                                                               : bool(forme_.maschera);
-    if (forma && !project::fileCorrente.empty()) commands::editaDa(posto, maschere_, forme_);
+    if (!forma || project::fileCorrente.empty()) return;
+    congedata_ = false;
+    commands::editaDa(posto, maschere_, forme_);
+    custodisci();
 }
 
 void Programma::produci(void (*uscita)(const PorteUscita&)) {
     analysis::CorsaSeguita corsa(avanzamento_);
+    inUscita_ = true;
     uscita({dialogo_, corsa, forme_});
+    inUscita_ = false;
     std::string detto = corsa.arresto();
     if (detto.empty()) detto = safety::causaCorsa(corsa.comeFinita(), project::Progetto).frase;
     if (!detto.empty())
@@ -54,8 +64,21 @@ bool Programma::fineSessione(bool chiedibile) {
         return true;
     }
     if (!documento_.fine()) return false;
+    congedata_ = true;
+    recuperoTenuto.rinuncia();
     analysis::stopCalcolo = true;
     return true;
+}
+
+void Programma::tieniAlSicuro() {
+    if (!inUscita_ && !congedata_) custodisci();
+}
+
+void Programma::custodisci() {
+    if (congedata_)
+        recuperoTenuto.rinuncia();
+    else
+        documento_.custodisci();
 }
 
 void Programma::apriGuida(int voce) const {

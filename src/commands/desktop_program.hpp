@@ -23,7 +23,8 @@ class Programma {
           finestra_(finestra),
           documento_(dialogo, nomi, finestra) {}
 
-    /// Carries the command of an item out. @pre `puo`: asserted
+    /// Carries the command of an item out; what it has changed is then in the rescue file.
+    /// @pre `puo`: asserted
     /// @return true when the program is to end
     bool esegui(const VoceMenu& voce);
 
@@ -53,15 +54,24 @@ class Programma {
     /// solution, the status line tells where and why, until another output goes through.
     void produci(void (*uscita)(const PorteUscita&));
 
+    /// To be called now and then, also while a form is open: brings the rescue file up to what is
+    /// unsaved (rescue/kept_rescue.hpp), as every command does that has changed the project. During
+    /// an output, and once the program is to end, nothing happens.
+    void tieniAlSicuro();
+
     [[nodiscard]] Documento& documento() { return documento_; }
     [[nodiscard]] const FormeProgramma& forme() const { return forme_; }
 
  private:
+    void custodisci();
+
     base::Dialogo& dialogo_;
     analysis::Avanzamento& avanzamento_;
     masks::Maschere& maschere_;
     FormeProgramma forme_;
     FinestraPrincipale& finestra_;
+    bool inUscita_ = false;     // an output is being produced
+    bool congedata_ = false;    // the question about unsaved work has been answered for the end
     bool diceArresto_ = false;  // the status line tells of a stop
     Documento documento_;
 };

@@ -10,6 +10,7 @@
 #include "commands/document_names.hpp"
 #include "commands/last_folder.hpp"
 #include "commands/project_opening.hpp"
+#include "commands/rescue/kept_rescue.hpp"
 #include "project/output_guard.hpp"
 #include "project/project_data.hpp"
 #include "project/project_file.hpp"
@@ -78,6 +79,13 @@ void Documento::apriNome(const std::string& risposta) {
     }
     finestra_.titolo(titoloFinestra(fileCorrente));
     modificato = false;
+    custodisci();
+}
+
+// What was kept of the project that was open before has been saved by now, or is not wanted.
+void Documento::custodisci() {
+    if (const std::string detto = recuperoTenuto.guarda(disco_); !detto.empty())
+        finestra_.stato(detto);
 }
 
 void Documento::leggi(const std::string& nome, const std::string& file) {
@@ -160,6 +168,7 @@ void Documento::scrivi(const std::string& nome) {
     modificato = false;
     finestra_.titolo(titoloFinestra(nome));
     mostra("File scritto", nome);
+    custodisci();
 }
 
 void Documento::mostra(const std::string& cosa, const std::string& percorso) {

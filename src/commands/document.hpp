@@ -42,6 +42,10 @@ class Documento {
     /// Shows the line of the last file again, when something else has taken the status line.
     void mostraStato();
 
+    /// Brings the rescue file up to what is unsaved (rescue/kept_rescue.hpp). The status line tells
+    /// when that begins to fail. @pre no run is in progress
+    void custodisci();
+
  private:
     [[nodiscard]] bool domandaModifiche();
     void apriNome(const std::string& risposta);

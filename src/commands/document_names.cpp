@@ -10,21 +10,8 @@ namespace korven::commands {
 
 namespace {
 
-std::string conEstensione(std::string_view nome, std::string_view estensione = estensioneProgetti) {
-    return std::string(nome).append(".").append(estensione);
-}
-
-// Beside `percorso`, with `coda` after its name, and a number from 2 on if that name is taken.
-std::string nomeLibero(std::string_view percorso, std::string_view coda,
-                       std::string_view estensione,
-                       const std::function<bool(const std::string&)>& esiste) {
-    const std::filesystem::path origine(percorso);
-    const std::string radice =
-        (origine.parent_path() / origine.stem()).string() + std::string(coda);
-    std::string nome = conEstensione(radice, estensione);
-    for (int n = 2; esiste(nome); ++n)
-        nome = conEstensione(radice + "_" + std::to_string(n), estensione);
-    return nome;
+std::string conEstensione(std::string_view nome) {
+    return std::string(nome).append(".").append(estensioneProgetti);
 }
 
 std::string_view primaDelPunto(std::string_view testo) { return testo.substr(0, testo.find('.')); }
@@ -69,16 +56,6 @@ std::string rigaFileCorrente(std::string_view percorso) {
     std::string nome = base::maiuscolo(primaDelPunto(percorso));
     if (const auto e = nome.find('&'); e != std::string::npos) nome.insert(e, 1, '&');
     return base::traduttore("File corrente:") + " " + nome;
-}
-
-std::string nomeRecupero(std::string_view percorso,
-                         const std::function<bool(const std::string&)>& esiste) {
-    return nomeLibero(percorso, "_recuperato", estensioneProgetti, esiste);
-}
-
-std::string nomeRighe(std::string_view percorso,
-                      const std::function<bool(const std::string&)>& esiste) {
-    return nomeLibero(percorso, "_righe", "txt", esiste);
 }
 
 }  // namespace korven::commands

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <string>
 #include <string_view>
 
@@ -36,16 +35,5 @@ inline constexpr std::string_view estensioneProgetti = "kvd";
 /// whole path in upper case, cut at its first point. The first "&" is doubled, since a label takes
 /// a single one for the mark of an access key. Empty when no project is open.
 [[nodiscard]] std::string rigaFileCorrente(std::string_view percorso);
-
-/// Where the project goes that would be lost: beside `percorso`, "_recuperato" after the name up to
-/// its last point, with a number from 2 on if that name is taken.
-/// @param esiste  tells whether a name is taken
-[[nodiscard]] std::string nomeRecupero(std::string_view percorso,
-                                       const std::function<bool(const std::string&)>& esiste);
-
-/// Where the rows of a table go that would be lost: beside `percorso`, "_righe" after the name up
-/// to its last point, "txt", numbered likewise.
-[[nodiscard]] std::string nomeRighe(std::string_view percorso,
-                                    const std::function<bool(const std::string&)>& esiste);
 
 }  // namespace korven::commands

@@ -7,10 +7,10 @@
 #include "base/code_page.hpp"
 #include "base/file_error.hpp"
 #include "base/files.hpp"
-#include "base/folders/user_data.hpp"
 #include "base/table.hpp"
 #include "base/translated_texts.hpp"
-#include "commands/document_names.hpp"
+#include "commands/rescue/kept_rescue.hpp"
+#include "commands/rescue/rescue_names.hpp"
 #include "project/project_data.hpp"
 #include "project/project_file.hpp"
 
@@ -25,7 +25,7 @@ namespace fs = std::filesystem;
 std::vector<fs::path> cartelleRecupero() {
     std::error_code errore;
     const fs::path progetto = fs::path(project::fileCorrente).parent_path();
-    const fs::path dati = fs::path(base::cartellaDatiUtente()).parent_path();
+    const fs::path dati = cartellaRecuperi();
     const fs::path provvisoria = fs::temp_directory_path(errore);
     try {
         base::creaCartella(dati.string());  // a new user may have none yet
@@ -69,6 +69,7 @@ std::string spiegazione(const std::exception& errore) {
 
 std::string recuperaProgetto(const base::Disco& disco) {
     if (!project::modificato || project::fileCorrente.empty()) return {};
+    if (std::string tenuto = recuperoTenuto.chiudi(disco); !tenuto.empty()) return tenuto;
     return recupera(base::inCp1252(project::testoProgetto(project::Progetto)), nomeRecupero, disco);
 }
 

@@ -25,8 +25,9 @@ class ErroreRighe : public base::ErroreIndice {
 /// What an error that ends the program says to its user, in the language in force.
 [[nodiscard]] std::string spiegazione(const std::exception& errore);
 
-/// Writes the unsaved project, if there is one, under a rescue name beside its file, or where the
-/// user's own data go if nothing can be written there.
+/// Writes the unsaved project, if there is one, into the rescue file that is kept of it
+/// (rescue/kept_rescue.hpp); without one, under a rescue name of its own beside its file, or where
+/// the user's own data go if nothing can be written there.
 /// @return the file written; empty when nothing was unsaved or nothing could be written
 std::string recuperaProgetto(const base::Disco& disco = base::discoDiSistema());
 

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <set>
-
 namespace korven::commands {
 namespace {
 
@@ -62,14 +60,6 @@ TEST(RigaFileCorrente, NamesTheWholePathInCapitalsCutAtItsFirstPoint) {
 
 TEST(RigaFileCorrente, DoublesTheFirstAmpersandAlone) {
     EXPECT_EQ(rigaFileCorrente("/a&b/c&d.kvd"), "File corrente: /A&&B/C&D");
-}
-
-TEST(NomeRecupero, LiesBesideTheProjectAndReplacesNoFile) {
-    std::set<std::string> presenti;
-    const auto esiste = [&](const std::string& nome) { return presenti.contains(nome); };
-    EXPECT_EQ(nomeRecupero("/lavori/muro.kvd", esiste), "/lavori/muro_recuperato.kvd");
-    presenti = {"/lavori/muro_recuperato.kvd", "/lavori/muro_recuperato_2.kvd"};
-    EXPECT_EQ(nomeRecupero("/lavori/muro.kvd", esiste), "/lavori/muro_recuperato_3.kvd");
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 #include "base/folders/program_folder.hpp"
 #include "base/translated_texts.hpp"
 #include "commands/document_ports.hpp"
+#include "commands/rescue/kept_rescue.hpp"
 #include "project/output_guard.hpp"
 #include "project/project_data.hpp"
 #include "support/temporary_folder.hpp"
@@ -79,6 +80,7 @@ class AmbienteDocumento {
         project::fileCorrente.clear();
         project::modificato = false;
         project::progettiProtetti = {};
+        commands::recuperoTenuto = {};
     }
     std::filesystem::path primaCartella_ = std::filesystem::current_path();
 };
