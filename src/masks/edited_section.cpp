@@ -32,6 +32,7 @@ SezioneEditata::SezioneEditata(project::Sezione& sezione, bool& modificato)
 void SezioneEditata::scegli(project::Parte tipo) {
     assert(std::any_of(std::begin(tipiSezione), std::end(tipiSezione),
                        [=](auto flag) { return project::campo(flag).parte == tipo; }));
+    if (tipo == tipo_) return;
     storia_.chiudi();
     storia_.scritto(base::traduttore("tipo di sezione"), sceltaTipo, tipo_, tipo);
     storia_.chiudi();

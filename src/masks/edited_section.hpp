@@ -90,6 +90,7 @@ class SezioneEditata {
 
     /// The cursor is in a field, or in the choice of types.
     void entra(std::size_t campo);
+    [[nodiscard]] std::size_t dove() const { return dove_; }
     /// Ctrl+Z: takes the last step back, Ctrl+Y: does it again. A step is what was typed into one
     /// field from entering it until it was left, and each choice of a type.
     /// @return the field where the cursor goes, or `sceltaTipo`; nothing when there was no step

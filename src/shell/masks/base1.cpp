@@ -12,6 +12,7 @@
 #include <utility>
 
 #include "shell/forms/help_strip.hpp"
+#include "shell/forms/history_keys.hpp"
 #include "shell/forms/key_event.hpp"
 #include "shell/forms/leader_label.hpp"
 #include "shell/qt_text.hpp"
@@ -53,6 +54,9 @@ Base1::Base1(const masks::Maschera& maschera, std::vector<double> combo,
     colonna->addWidget(farePulsanti([this](std::size_t pulsante) { azione(pulsante); }));
     aiuto_->installEventFilter(this);
     setTabOrder(controlli_.back(), aiuto_);
+    new TastiStoria(
+        *this, [this] { mostraTornato(modello_.annulla()); },
+        [this] { mostraTornato(modello_.ripeti()); });
     disponi(misuraComoda());
     mostraAttivo();
 }
@@ -104,8 +108,10 @@ QComboBox* Base1::fareScelta(std::size_t campo, QWidget* genitore) {
         scelta->setEnabled(false);
         ingrigisci(*scelta);
     }
-    connect(scelta, &QComboBox::currentIndexChanged, this,
-            [this, campo](int voce) { modello_.scegli(campo, static_cast<std::size_t>(voce)); });
+    connect(scelta, &QComboBox::currentIndexChanged, this, [this, campo](int voce) {
+        modello_.scegli(campo, static_cast<std::size_t>(voce));
+        if (campo == modello_.attivo()) spiega();
+    });
     return scelta;
 }
 
@@ -169,14 +175,32 @@ bool Base1::entra(std::size_t campo) {
     return false;
 }
 
+// A text that is longer than its box takes, from a file, is shown whole.
+void Base1::mostraValore(std::size_t campo) {
+    auto* casella = qobject_cast<QLineEdit*>(controlli_[campo]);
+    if (casella == nullptr) {
+        auto* scelta = static_cast<QComboBox*>(controlli_[campo]);
+        return scelta->setCurrentIndex(static_cast<int>(modello_.voceMostrata(campo)));
+    }
+    const QString testo = qt(modello_.testo(campo));
+    if (casella->text() == testo) return;
+    // A box never holds more than its limit: it must have room for either text while they change.
+    casella->setMaxLength(std::max(casella->maxLength(), static_cast<int>(testo.size())));
+    casella->setText(testo);
+    if (const auto limite = static_cast<int>(modello_.lunghezzaMassima(campo)); limite > 0)
+        casella->setMaxLength(std::max(limite, static_cast<int>(testo.size())));
+}
+
+// The model has gone to another field by itself, or has had nowhere to go.
+void Base1::mostraTornato(bool tornato) {
+    if (!tornato) return spiega();
+    mostraAttivo();
+}
+
 void Base1::mostraAttivo() {
     const std::size_t campo = modello_.attivo();
     auto* casella = qobject_cast<QLineEdit*>(controlli_[campo]);
-    if (casella != nullptr && casella->text() != qt(modello_.testo(campo))) {
-        casella->setText(qt(modello_.testo(campo)));
-        if (const auto limite = modello_.lunghezzaMassima(campo); limite > 0)
-            casella->setMaxLength(static_cast<int>(limite));
-    }
+    mostraValore(campo);
     controlli_[campo]->setFocus(Qt::TabFocusReason);
     // After a box the focus comes back in another way, which would leave nothing selected.
     if (casella != nullptr) casella->selectAll();
@@ -185,7 +209,8 @@ void Base1::mostraAttivo() {
 
 void Base1::spiega() {
     area_->ensureWidgetVisible(controlli_[modello_.attivo()]);
-    aiuto_->mostra(qt(modello_.aiuto()), qt(modello_.lettura()));
+    aiuto_->mostra(qt(modello_.aiuto()),
+                   qt(modello_.detto().empty() ? modello_.lettura() : modello_.detto()));
 }
 
 bool Base1::premuto(std::size_t campo, const QKeyEvent& evento) {

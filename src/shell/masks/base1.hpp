@@ -20,7 +20,8 @@ class StrisciaAiuto;
 ///
 /// Controls by name, counted from 0 each: `Label1_n` the labels of all fields, `Combo1_n` the
 /// choices, `Text1_n` the other fields, `Command1_n` the buttons; `Labelhelp` the help strip. Left
-/// and Right change a choice, as Up and Down go from field to field.
+/// and Right change a choice, as Up and Down go from field to field. Ctrl+Z and Ctrl+Y take fields
+/// back and do them again.
 class Base1 : public FormaMaschera {
  public:
     /// The arguments are those of `ModelloCampi` and `FormaMaschera`.
@@ -50,7 +51,9 @@ class Base1 : public FormaMaschera {
     void scritto(std::size_t campo, const QString& testo);
     bool entra(std::size_t campo);
     bool premuto(std::size_t campo, const QKeyEvent& evento);
+    void mostraValore(std::size_t campo);
     void mostraAttivo();
+    void mostraTornato(bool tornato);
     void spiega();
     void azione(std::size_t pulsante);
 

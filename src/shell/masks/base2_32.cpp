@@ -7,6 +7,7 @@
 
 #include "masks/column_keys.hpp"
 #include "shell/forms/help_strip.hpp"
+#include "shell/forms/history_keys.hpp"
 #include "shell/masks/grid_view.hpp"
 #include "shell/qt_text.hpp"
 
@@ -36,6 +37,8 @@ Base2_32::Base2_32(const masks::Maschera& maschera, const std::vector<std::strin
     colonna->addWidget(aiuto_);
     colonna->addWidget(farePulsanti([this](std::size_t pulsante) { azione(pulsante); }));
     setTabOrder(griglia_, aiuto_);
+    new TastiStoria(
+        *this, [this] { griglia_->annulla(); }, [this] { griglia_->ripeti(); });
 
     const QMargins bordi = colonna->contentsMargins();
     const int larghezza =
@@ -69,7 +72,8 @@ void Base2_32::keyPressEvent(QKeyEvent* evento) {
 void Base2_32::spiega() {
     setWindowTitle(qt(modello_.titolo()));
     QStringList note;
-    for (const std::string& nota : {modello_.eccesso(), modello_.lettura()})
+    for (const std::string& nota :
+         {modello_.eccesso(), modello_.detto().empty() ? modello_.lettura() : modello_.detto()})
         if (!nota.empty()) note << qt(nota);
     aiuto_->mostra(qt(modello_.aiuto()), note.join(QLatin1Char('\n')));
 }

@@ -14,7 +14,8 @@ class StrisciaAiuto;
 /// The form `base2_32`: a table as a mask describes it. `masks::ModelloGriglia` has its rules.
 ///
 /// Controls by name: `MSFlexGrid1` the grid, `Text1` its floating editor, `Label1` the help strip,
-/// `Command1_n` the buttons. F1 opens the help of the form.
+/// `Command1_n` the buttons. F1 opens the help of the form; Ctrl+Z and Ctrl+Y take cells, rows and
+/// pastes back and do them again.
 class Base2_32 : public FormaMaschera {
  public:
     /// The arguments are those of `ModelloGriglia` and `FormaMaschera`.

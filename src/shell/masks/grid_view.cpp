@@ -165,6 +165,18 @@ void VistaGriglia::mostraEditore() {
         editore_->setText(qt(modello_.testoEditore()));
 }
 
+void VistaGriglia::annulla() {
+    modello_.annulla();
+    scrivendo_ = false;
+    aggiorna();
+}
+
+void VistaGriglia::ripeti() {
+    modello_.ripeti();
+    scrivendo_ = false;
+    aggiorna();
+}
+
 void VistaGriglia::vai(PostoGriglia posto) {
     if (posto == modello_.corrente()) return;
     scrivendo_ = false;

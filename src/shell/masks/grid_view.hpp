@@ -28,6 +28,9 @@ class VistaGriglia : public QTableView {
 
     /// Shows cells, cursor and editor as they are in the model, and takes the focus.
     void aggiorna();
+    /// Takes the last step back, does it again.
+    void annulla();
+    void ripeti();
     /// Width that shows all columns.
     [[nodiscard]] int larghezzaColonne() const;
 

@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
+#include <QScopedValueRollback>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -18,6 +19,7 @@
 #include "shell/form_sizes.hpp"
 #include "shell/forms/confirm_buttons.hpp"
 #include "shell/forms/help_strip.hpp"
+#include "shell/forms/history_keys.hpp"
 #include "shell/forms/scrolled_part.hpp"
 #include "shell/qt_text.hpp"
 #include "shell/section/definej_fields.hpp"
@@ -85,6 +87,9 @@ DefinEJ::DefinEJ(project::Sezione& sezione, bool& modificato, QWidget* padre)
         modello_.conferma();
         accept();
     }));
+    new TastiStoria(
+        *this, [this] { mostraTornato(modello_.annulla()); },
+        [this] { mostraTornato(modello_.ripeti()); });
     prendiMisura(*this, colonna->sizeHint());
     connect(this, &QDialog::finished, this, [this] { ricordaMisure(*this); });
     mostraTipo();
@@ -129,6 +134,7 @@ QWidget* DefinEJ::fareOpzioni() {
         if (!acceso) return;
         modello_.scegli(tipi[scelto].parte);
         mostraTipo();
+        if (!tornando_) entraOpzioni();
     });
     return riga;
 }
@@ -233,17 +239,44 @@ void DefinEJ::aggiornaSchizzo() {
 
 void DefinEJ::entra(std::size_t campo) {
     area_->ensureWidgetVisible(campi_[campo]);
+    nelModello(campo);
     spiega(campo);
     for (auto* schizzo : schizzi_) schizzo->evidenzia(campo);
 }
 
 void DefinEJ::spiega(std::size_t campo) {
+    const std::string& detto = modello_.detto();
     aiuto_->mostra(tradotto(campiForma[campo].aiuto),
-                   qt(base::letturaMostrata(modello_.testo(campo))));
+                   qt(detto.empty() ? base::letturaMostrata(modello_.testo(campo)) : detto));
+}
+
+void DefinEJ::nelModello(std::size_t campo) {
+    if (!tornando_) modello_.entra(campo);
+}
+
+void DefinEJ::mostraValori() {
+    for (std::size_t i = 0; i < campi_.size(); ++i)
+        if (campi_[i]->text() != qt(modello_.testo(i))) campi_[i]->setText(qt(modello_.testo(i)));
+    opzioni_[indice(modello_.tipo())]->setChecked(true);
+}
+
+// The model has gone to a field by itself, or has had nowhere to go.
+void DefinEJ::mostraTornato(std::optional<std::size_t> campo) {
+    const QScopedValueRollback<bool> durante(tornando_, true);
+    if (campo) mostraValori();
+    const std::size_t dove = campo.value_or(modello_.dove());
+    if (dove == masks::SezioneEditata::sceltaTipo) {
+        opzioni_[indice(modello_.tipo())]->setFocus();
+        return entraOpzioni();
+    }
+    campi_[dove]->setFocus();
+    if (campo) campi_[dove]->selectAll();
+    entra(dove);
 }
 
 void DefinEJ::entraOpzioni() {
-    aiuto_->mostra(tradotto(aiutoTipo));
+    nelModello(masks::SezioneEditata::sceltaTipo);
+    aiuto_->mostra(tradotto(aiutoTipo), qt(modello_.detto()));
     for (auto* schizzo : schizzi_) schizzo->evidenzia({});
 }
 

@@ -2,6 +2,7 @@
 
 #include <QDialog>
 #include <array>
+#include <optional>
 
 #include "commands/desktop_forms.hpp"
 #include "masks/edited_section.hpp"
@@ -19,7 +20,8 @@ class ParteScorrevole;
 class VistaSchizzo;
 
 /// The form of the structural section. What is typed and stored is the matter of
-/// `masks::SezioneEditata`; beside the fields of each type a sketch shows what they measure.
+/// `masks::SezioneEditata`; beside the fields of each type a sketch shows what they measure. Ctrl+Z
+/// and Ctrl+Y take fields and the type back and do them again.
 class DefinEJ : public QDialog {
     Q_OBJECT
 
@@ -47,6 +49,9 @@ class DefinEJ : public QDialog {
     void entra(std::size_t campo);
     void spiega(std::size_t campo);
     void entraOpzioni();
+    void nelModello(std::size_t campo);
+    void mostraValori();
+    void mostraTornato(std::optional<std::size_t> campo);
 
     masks::SezioneEditata modello_;
     std::array<QRadioButton*, 4> opzioni_{};
@@ -55,6 +60,7 @@ class DefinEJ : public QDialog {
     QStackedWidget* riquadri_ = nullptr;
     ParteScorrevole* area_ = nullptr;  // of the fields
     StrisciaAiuto* aiuto_ = nullptr;
+    bool tornando_ = false;  // what is shown follows the model, and the focus that moves is its own
 };
 
 /// Plugs the form of the section of the open project into its command.

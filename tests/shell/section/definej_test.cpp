@@ -400,5 +400,37 @@ TEST_F(FormaSezione, TellsWhatANumberIsReadAsWhileItIsTyped) {
     EXPECT_EQ(aiuto(), spiegazione);
 }
 
+TEST_F(FormaSezione, TakesFieldsAndTheTypeBackByKeysAndDoesThemAgain) {
+    apri();
+    const QString spessore = trova<QLineEdit>("Text7").text();
+    trova("Text7").setFocus();
+    scrivi("Text7", "800");
+    premi("Option2");
+    trova("Text11").setFocus();
+    scrivi("Text11", "273");
+    const auto tasto = [this](Qt::Key quale) {
+        QTest::keyClick(forma->focusWidget(), quale, Qt::ControlModifier);
+    };
+    tasto(Qt::Key_Z);
+    EXPECT_NE(trova<QLineEdit>("Text11").text(), "273");
+    EXPECT_TRUE(aiuto().startsWith("Annullato: campo diametro esterno dei pali\n"));
+    tasto(Qt::Key_Z);
+    EXPECT_EQ(mostrato(), 0);
+    EXPECT_TRUE(trova<QRadioButton>("Option1").isChecked());
+    EXPECT_TRUE(trova("Option1").hasFocus());
+    EXPECT_TRUE(aiuto().startsWith("Annullato: tipo di sezione\n"));
+    tasto(Qt::Key_Z);
+    EXPECT_EQ(trova<QLineEdit>("Text7").text(), spessore);
+    EXPECT_TRUE(trova("Text7").hasFocus());
+    tasto(Qt::Key_Z);
+    EXPECT_TRUE(aiuto().startsWith("Nulla da annullare\n"));
+    for (int i = 0; i < 3; ++i) tasto(Qt::Key_Y);
+    EXPECT_EQ(mostrato(), 1);
+    EXPECT_EQ(trova<QLineEdit>("Text7").text(), "800");
+    EXPECT_EQ(trova<QLineEdit>("Text11").text(), "273");
+    EXPECT_TRUE(trova("Text11").hasFocus());
+    EXPECT_TRUE(aiuto().startsWith("Ripetuto: campo diametro esterno dei pali\n"));
+}
+
 }  // namespace
 }  // namespace korven::shell
