@@ -262,6 +262,7 @@ inline const std::map<std::string, Texts> noTexts = {
      {"eseguito", "rifiutato", "meccanismo", "oscilla", "fermato", "non_definito", "nessun_numero",
       "equilibrio"}},
     {"safety/words.cpp", {"korven32c"}},
+    {"shell/forms/history_keys.cpp", {"&Undo", "&Redo"}},  // Qt's own texts
     {"safety/words.hpp", {"equilibrio", "equilibrium"}},
     {"report/footer.cpp", {"…", "–"}},
     {"report/footer.hpp", {"2,2,2,2,2,2,12,Arial"}},
