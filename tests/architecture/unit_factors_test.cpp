@@ -41,6 +41,7 @@ const std::map<std::string, Exempt> noUnits = {
     {"drawings/dimension_lines.cpp", {{"0.1"}, "a distance on the sheet"}},
     {"drawings/dimension_placing.cpp", {{"0.1"}, "a step on the sheet"}},
     {"drawings/log/layers.cpp", {{"0.1"}, "a step on the sheet"}},
+    {"drawings/log/graphic_code.cpp", {{"100", "1000"}, "digits of a code"}},
     {"drawings/hatch_drawing.cpp", {{"100", "1000"}, "digits of a code"}},
     {"drawings/hatch_samples.cpp", {{"100"}, "digits of a code"}},
     {"drawings/section_drawing.hpp", {{"100"}, "the scale of the drawing"}},
