@@ -3,18 +3,10 @@
 #include <cstddef>
 #include <functional>
 #include <string>
-#include <vector>
 
 #include "masks/values.hpp"
 
 namespace korven::commands {
-
-/// An item of a menu that is filled as it opens.
-struct VoceMutevole {
-    std::string testo;             ///< caption as it is shown; "&" marks the access key
-    std::function<void()> scelta;  ///< carries it out; empty: it is shown and can't be chosen
-    bool staccata = false;         ///< a line parts it from the item above
-};
 
 /// The forms and devices of the menu commands, plugged in by `main`: all of them, but those of the
 /// help where its file is missing. The call returns when the form is closed; preview and help stay
@@ -56,8 +48,6 @@ struct FormeProgramma {
     std::function<void()> controlli, risultati, sicurezza;
     /// Begins a project from a pattern, and one from the project that is open.
     std::function<void()> nuovo, duplica;
-    /// The projects opened or saved last.
-    std::function<std::vector<VoceMutevole>()> recenti;
     /// Asks for another language.
     std::function<void()> lingua;
     /// The window that lists the keys of the program.

@@ -27,7 +27,6 @@ bool Programma::puo(const VoceMenu& voce) const {
 }
 
 bool Programma::possibile(const VoceMenu& voce) const {
-    if (voce.haForma != nullptr && !voce.haForma(forme_)) return false;
     return voce.possibile == nullptr || voce.possibile(forme_);
 }
 

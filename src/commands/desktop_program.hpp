@@ -31,8 +31,7 @@ class Programma {
     /// False when the item opens a menu, or the form of its command is not plugged in.
     [[nodiscard]] bool puo(const VoceMenu& voce) const;
 
-    /// False when a command that `puo` has nothing to do just now; of a menu that is filled as it
-    /// opens, when what it lists is not plugged in.
+    /// False when a command that `puo` has nothing to do just now.
     [[nodiscard]] bool possibile(const VoceMenu& voce) const;
 
     /// The desktop ends its session: the question about unsaved work where its user may be asked, a

@@ -10,6 +10,7 @@
 #include "commands/document_names.hpp"
 #include "commands/last_folder.hpp"
 #include "commands/project_opening.hpp"
+#include "commands/recent_projects.hpp"
 #include "commands/rescue/kept_rescue.hpp"
 #include "project/output_guard.hpp"
 #include "project/project_data.hpp"
@@ -68,6 +69,14 @@ void Documento::apri(const std::string& nome) {
     if (domandaModifiche()) apriNome(nome);
 }
 
+void Documento::apriRecente(const std::string& percorso) {
+    if (base::esisteFile(percorso))
+        apri(percorso);
+    else
+        dialogo_.messaggio(traduttore("File non trovato") + ": " + percorso, attenzione(),
+                           base::Icona::avviso);
+}
+
 void Documento::apriNome(const std::string& risposta) {
     const std::string nome = nomeDaAprire(risposta);
     if (nessunaScelta(nome)) return;
@@ -97,6 +106,7 @@ void Documento::leggi(const std::string& nome, const std::string& file) {
     provvisorio.tieni(nome);
     suDisco_ = std::move(suDisco);
     project::progettiProtetti.letto = file;
+    ricordaRecente(file);
     mostra("File letto", file);
 }
 
@@ -164,6 +174,7 @@ void Documento::scrivi(const std::string& nome) {
     provvisorio.tieni(nome);
     suDisco_.ricorda(nome);
     ricordaCartella(nome);
+    ricordaRecente(nome);
     project::progettiProtetti.letto = nome;
     modificato = false;
     finestra_.titolo(titoloFinestra(nome));

@@ -25,6 +25,10 @@ class Documento {
     /// The same with a name that is known already: a file dropped on the main form.
     void apri(const std::string& nome);
 
+    /// The same with a name of `progettiRecenti`. One whose file is gone is told in a box: it may
+    /// come back with its disk.
+    void apriRecente(const std::string& percorso);
+
     /// Reads the project that the command line names, if there is such a file.
     /// @return false if there is none, which the status line then tells; nothing else has changed
     bool apriAllAvvio(const std::string& argomento);

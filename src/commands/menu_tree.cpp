@@ -4,10 +4,12 @@
 #include <cassert>
 #include <iterator>
 
+#include "base/translated_texts.hpp"
 #include "commands/desktop_program.hpp"
 #include "commands/document_names.hpp"
 #include "commands/edit_commands.hpp"
 #include "commands/output_commands.hpp"
+#include "commands/recent_projects.hpp"
 #include "help/contexts.hpp"
 #include "project/project_data.hpp"
 
@@ -62,7 +64,18 @@ bool seDice(const F& forme) {
 
 bool progettoAperto(const F&) { return !project::fileCorrente.empty(); }
 
-std::vector<VoceMutevole> recenti(const F& forme) { return forme.recenti(); }
+std::vector<VoceMutevole> recenti(Programma& programma) {
+    std::vector<VoceMutevole> voci;
+    for (const auto& percorso : progettiRecenti())
+        voci.push_back(
+            {.testo = voceRecente(voci.size(), percorso),
+             .scelta = [&programma, percorso] { programma.documento().apriRecente(percorso); }});
+    if (voci.empty()) return {{.testo = base::traduttore("nessun progetto recente"), .scelta = {}}};
+    voci.push_back({.testo = base::traduttore("&Dimentica l'elenco"),
+                    .scelta = [] { dimenticaRecenti(); },
+                    .staccata = true});
+    return voci;
+}
 
 template <NumeroMaschera numero, const char* rifiuto>
 bool edita(Programma& programma, const VoceMenu&) {
@@ -145,7 +158,7 @@ constexpr VoceMenu voci[] = {
     {"sicurezza", "&Sicurezza", 1, 37, ha<&F::sicurezza>, mostra<&F::sicurezza>},
     staccata({"nuovo", "Nu&ovo", 1, 38, ha<&F::nuovo>, mostra<&F::nuovo>}),
     {"duplica", "&Duplica", 1, 39, ha<&F::duplica>, mostra<&F::duplica>, "", progettoAperto},
-    {"recenti", "R&ecenti", 1, 40, ha<&F::recenti>, nullptr, "", nullptr, recenti},
+    {"recenti", "R&ecenti", 1, 40, nullptr, nullptr, "", nullptr, recenti},
     staccata({"lingua", "Lin&gua", 1, 41, ha<&F::lingua>, mostra<&F::lingua>}),
     {"tasti", "&Tasti", 1, 42, ha<&F::tasti>, mostra<&F::tasti>},
 

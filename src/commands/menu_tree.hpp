@@ -1,6 +1,8 @@
 #pragma once
 
+#include <functional>
 #include <span>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -8,7 +10,13 @@ namespace korven::commands {
 
 class Programma;
 struct FormeProgramma;
-struct VoceMutevole;
+
+/// An item of a menu that is filled as it opens.
+struct VoceMutevole {
+    std::string testo;             ///< caption as it is shown; "&" marks the access key
+    std::function<void()> scelta;  ///< carries it out; empty: it is shown and can't be chosen
+    bool staccata = false;         ///< a line parts it from the item above
+};
 
 /// One item of the menu with its command: all that the program knows of either. A new command is a
 /// new row.
@@ -29,7 +37,7 @@ struct VoceMenu {
     bool (*possibile)(const FormeProgramma& forme) = nullptr;
     /// The items of a menu that is filled anew each time it opens; null for one whose items stand
     /// in the tree.
-    std::vector<VoceMutevole> (*riempi)(const FormeProgramma& forme) = nullptr;
+    std::vector<VoceMutevole> (*riempi)(Programma& programma) = nullptr;
     bool staccata = false;  ///< a line parts it from the item above
 };
 

@@ -385,7 +385,6 @@ TEST_F(ProgrammaTest, AsksWhetherACommandHasAnythingToDo) {
     EXPECT_TRUE(p.puo(voceMenu("annulla")));
     EXPECT_FALSE(p.possibile(voceMenu("annulla")));
     EXPECT_TRUE(p.possibile(voceMenu("ripeti")));  // nobody answers
-    EXPECT_FALSE(p.possibile(voceMenu("recenti")));
     EXPECT_FALSE(p.possibile(voceMenu("duplica")));
     project::fileCorrente = ambiente.lavori / "muro.kvd";
     EXPECT_TRUE(p.possibile(voceMenu("duplica")));

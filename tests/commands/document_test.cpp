@@ -4,6 +4,7 @@
 
 #include "base/code_page.hpp"
 #include "base/file_error.hpp"
+#include "commands/recent_projects.hpp"
 #include "project/project_file.hpp"
 #include "support/dialog_double.hpp"
 #include "support/document_ports.hpp"
@@ -189,6 +190,39 @@ TEST_F(FileApri, TakesADroppedFileTheSameRoad) {
     EXPECT_EQ(fileCorrente, muro);
     documento.apri(ambiente.lavori / "altro.kvd");
     EXPECT_EQ(fileCorrente, ambiente.lavori / "altro.kvd");
+}
+
+TEST_F(FileApri, RemembersTheProjectAmongTheRecentOnes) {
+    const std::string muro = apriMuro();
+    EXPECT_EQ(progettiRecenti(), std::vector<std::string>{muro});
+    nomi.aperti = {ambiente.lavori / "nuovo"};
+    documento.fileApri();  // a project that is on no disk yet
+    EXPECT_EQ(progettiRecenti(), std::vector<std::string>{muro});
+    nomi.salvati = {ambiente.lavori / "nuovo.kvd"};
+    EXPECT_TRUE(documento.fileSalva());
+    EXPECT_EQ(progettiRecenti(), (std::vector<std::string>{ambiente.lavori / "nuovo.kvd", muro}));
+}
+
+TEST_F(FileApri, OpensARecentProjectAfterTheQuestion) {
+    const std::string muro = apriMuro();
+    fileCorrente = ambiente.lavori / "altro.kvd";
+    modificato = true;
+    dialogo.risposte = {Risposta::annulla, Risposta::no};
+    documento.apriRecente(muro);
+    EXPECT_EQ(fileCorrente, ambiente.lavori / "altro.kvd");
+    documento.apriRecente(muro);
+    EXPECT_EQ(fileCorrente, muro);
+    EXPECT_EQ(dialogo.domande.size(), 2u);
+}
+
+TEST_F(FileApri, BeginsNoProjectInPlaceOfARecentOneThatIsGone) {
+    const std::string muro = apriMuro();
+    modificato = true;
+    documento.apriRecente(ambiente.lavori / "manca.kvd");
+    EXPECT_EQ(fileCorrente, muro);
+    ASSERT_EQ(dialogo.messaggi.size(), 1u);
+    EXPECT_EQ(dialogo.messaggi[0].testo, "File non trovato: " + (ambiente.lavori / "manca.kvd"));
+    EXPECT_TRUE(dialogo.domande.empty());
 }
 
 TEST_F(FileSalva, DoesNothingWithoutAProject) {

@@ -122,14 +122,12 @@ TEST(AlberoMenu, FindsEachItemByANameOfItsOwn) {
     for (const auto& v : albero()) EXPECT_EQ(&voceMenu(v.nome), &v) << v.nome;
 }
 
-// A menu that is filled as it opens lists what a form that is plugged in gives.
 TEST(AlberoMenu, GivesEachItemEitherACommandOrAMenuBelowIt) {
     const auto voci = albero();
     for (std::size_t i = 0; i < voci.size(); ++i) {
         const int dopo = i + 1 < voci.size() ? voci[i + 1].livello : 0;
         if (voci[i].riempi != nullptr) {
             EXPECT_TRUE(apreMenu(voci[i])) << voci[i].nome;
-            EXPECT_NE(voci[i].haForma, nullptr) << voci[i].nome;
             EXPECT_LE(dopo, voci[i].livello) << voci[i].nome;
         } else if (apreMenu(voci[i])) {
             EXPECT_EQ(dopo, voci[i].livello + 1) << voci[i].nome;

@@ -194,6 +194,7 @@ inline const std::map<std::string, Texts> noTexts = {
      {"osservazioni", "GRAFICA", "Editacfg", "ConfStampa", "TempCalc", "guida", "INFORMAZIONI",
       "selezling", "DefinEJ", "Form1", "apri", "salva", "base1", "campo"}},
     {"commands/last_folder.cpp", {"path", "data"}},
+    {"commands/recent_projects.cpp", {"recenti", "…"}},
     {"commands/menu_tree.cpp",
      {"archivi",
       "FileApri",

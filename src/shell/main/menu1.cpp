@@ -122,10 +122,9 @@ void Menu1::costruisciMenu() {
             QMenu* menu = sopra != nullptr ? sopra->addMenu(testo) : menuBar()->addMenu(testo);
             menu->installEventFilter(this);
             battezza(menu->menuAction(), voce);
-            menu->menuAction()->setEnabled(programma_->possibile(voce));
             if (voce.riempi != nullptr)
                 connect(menu, &QMenu::aboutToShow, this,
-                        [this, menu, &voce] { riempi(*menu, voce.riempi(programma_->forme())); });
+                        [this, menu, &voce] { riempi(*menu, voce.riempi(*programma_)); });
             aperti[livello] = menu;
             continue;
         }

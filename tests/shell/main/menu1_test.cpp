@@ -203,38 +203,33 @@ TEST_F(Menu1Test, DuplicatesNoProjectWhereNoneIsOpen) {
     EXPECT_EQ(duplicati, 1);
 }
 
-TEST_F(Menu1Test, FillsAMenuThatChangesEachTimeItOpens) {
-    std::string scelto;
-    int aperture = 0;
-    forme.recenti = [&] {
-        ++aperture;
-        const std::string uno = "muro " + std::to_string(aperture);
-        return std::vector<commands::VoceMutevole>{
-            {.testo = uno, .scelta = [&scelto, uno] { scelto = uno; }},
-            {.testo = "manca", .scelta = nullptr},
-            {.testo = "Altro", .scelta = [&] { scelto = "altro"; }, .staccata = true}};
-    };
+TEST_F(Menu1Test, OpensARecentProjectFromTheMenuThatListsThem) {
     apri();
+    const std::string muro = scriviMuro(), altro = scriviMuro("altro.kvd");
     auto* menu = voce("recenti")->menu();
-    EXPECT_TRUE(voce("recenti")->isEnabled());
-    for (const char* atteso : {"muro 1", "muro 2"}) {
+    const auto mostrate = [&] {
         menu->popup(QPoint(10, 10));
-        ASSERT_EQ(menu->actions().size(), 4);
-        EXPECT_EQ(menu->actions()[0]->text(), atteso);
-        EXPECT_FALSE(menu->actions()[1]->isEnabled());
-        EXPECT_TRUE(menu->actions()[2]->isSeparator());
-        menu->actions()[0]->trigger();
         menu->close();
-        EXPECT_EQ(scelto, atteso);
-    }
+        QStringList testi;
+        for (const auto* azione : menu->actions())
+            testi += (azione->isEnabled() ? "" : "off ") + azione->text().section(" - ", 0, 0);
+        return testi.join(", ");
+    };
+    EXPECT_EQ(mostrate(), "off nessun progetto recente");
+    programma->documento().apri(muro);
+    programma->documento().apri(altro);
+    EXPECT_EQ(mostrate(), "&1 altro.kvd, &2 muro.kvd, , &Dimentica l'elenco");
+    modificato = true;
+    dialogo.risposte = {Risposta::annulla, Risposta::no};
+    menu->actions()[1]->trigger();
+    EXPECT_EQ(fileCorrente, altro);
+    menu->actions()[1]->trigger();
+    EXPECT_EQ(fileCorrente, muro);
+    EXPECT_FALSE(finestra.findChild<QLabel*>("modifiche")->isVisible());
+    EXPECT_EQ(mostrate(), "&1 muro.kvd, &2 altro.kvd, , &Dimentica l'elenco");
+    EXPECT_TRUE(menu->actions()[2]->isSeparator());
     menu->actions()[3]->trigger();
-    EXPECT_EQ(scelto, "altro");
-}
-
-TEST_F(Menu1Test, OpensNoMenuOfWhatIsMissing) {
-    apri();
-    EXPECT_FALSE(voce("recenti")->isEnabled());
-    EXPECT_TRUE(voce("strumenti")->isEnabled());
+    EXPECT_EQ(mostrate(), "off nessun progetto recente");
 }
 
 TEST_F(Menu1Test, ShowsTheGuardOfEachEditorWithoutAProject) {
