@@ -1,10 +1,8 @@
 #include "commands/open_remarks.hpp"
 
 #include <algorithm>
-#include <utility>
+#include <iterator>
 
-#include "analysis/run_arrays.hpp"
-#include "analysis/segment_count.hpp"
 #include "base/file_error.hpp"
 #include "base/files.hpp"
 #include "project/field_table.hpp"
@@ -31,11 +29,11 @@ bool stessoNumero(const DatiProgetto& una, const DatiProgetto& altra, std::strin
 }
 
 // What a remark says of a line of the file holds until the value is another one.
-bool ancoraCosi(const Osservazione& osservazione, const DatiProgetto& letti) {
+bool ancoraCosi(const Osservazione& osservazione, const DatiProgetto& letti,
+                const DatiProgetto& dati) {
     const auto& campi = osservazione.campi;
-    return std::all_of(campi.begin(), campi.end(), [&](const std::string& nome) {
-        return stessoNumero(letti, Progetto, nome);
-    });
+    return std::all_of(campi.begin(), campi.end(),
+                       [&](const std::string& nome) { return stessoNumero(letti, dati, nome); });
 }
 
 Osservazioni righeDelFile(const std::string& file) {
@@ -49,52 +47,37 @@ Osservazioni righeDelFile(const std::string& file) {
 
 }  // namespace
 
-void OsservazioniAperte::guarda() {
-    aperto_ = !project::fileCorrente.empty();
-    if (!aperto_) return;  // a project that was opened stays so to the end of the program
-    guardaFile();
-    deiDati_ = review::esaminaProgetto(Progetto);
-    chiedi();
+void OsservazioniAperte::guardaFile() {
+    if (project::modificato) return;
+    letti_ = Progetto;
+    delFile_ = righeDelFile(project::progettiProtetti.letto);
+}
+
+void OsservazioniAperte::guarda(const DatiProgetto& dati) {
+    aperto_ = true;
+    dati_ = dati;
+    deiDati_ = review::esaminaProgetto(dati);
     raccogli();
 }
 
-void OsservazioniAperte::guardaFile() {
-    if (!project::modificato) {
-        letti_ = Progetto;
-        delFile_ = righeDelFile(project::progettiProtetti.letto);
-        return;
-    }
-    std::erase_if(delFile_, [this](const auto& o) { return !ancoraCosi(o, letti_); });
-}
-
-void OsservazioniAperte::chiedi() {
-    const auto nSeg = analysis::leggiNSeg(analysis::vincoli(Progetto).incastroPiede);
-    if (ultima_ && nSeg == ultima_->nSeg && Progetto == ultima_->dati) return;
-    deiRisultati_.clear();
-    domanda_.reset();
-    ultima_.reset();
-    if (!nSeg || !review::calcolabile(deiDati_)) return;
-    domanda_ = ultima_ = {++numero_, Progetto, *nSeg};
-}
-
-void OsservazioniAperte::rispondi(int numero, Osservazioni risultati) {
-    if (!domanda_ || domanda_->numero != numero) return;
-    domanda_.reset();
-    deiRisultati_ = std::move(risultati);
+void OsservazioniAperte::risultati(const Osservazioni* trovate) {
+    attende_ = trovate == nullptr;
+    deiRisultati_ = attende_ ? Osservazioni() : *trovate;
     raccogli();
 }
 
 void OsservazioniAperte::raccogli() {
-    tutte_.clear();
-    for (const auto* parte : {&deiDati_, &delFile_, &deiRisultati_})
-        tutte_.insert(tutte_.end(), parte->begin(), parte->end());
+    tutte_ = deiDati_;
+    std::copy_if(delFile_.begin(), delFile_.end(), std::back_inserter(tutte_),
+                 [this](const auto& o) { return ancoraCosi(o, letti_, dati_); });
+    tutte_.insert(tutte_.end(), deiRisultati_.begin(), deiRisultati_.end());
     perPeso(tutte_);
 }
 
 std::string OsservazioniAperte::conteggio() const {
     if (!aperto_) return {};
     constexpr const char* altre = "…";
-    if (!domanda_) return review::conteggio(tutte_);
+    if (!attende_) return review::conteggio(tutte_);
     return tutte_.empty() ? altre : review::conteggio(tutte_) + ' ' + altre;
 }
 

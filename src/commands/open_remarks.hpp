@@ -13,22 +13,15 @@ namespace korven::commands {
 /// on results take a computation, which whoever holds this makes when it suits.
 class OsservazioniAperte {
  public:
-    /// What the remarks on results are computed of.
-    struct Domanda {
-        int numero = 0;  ///< by which the answer is known
-        project::DatiProgetto dati;
-        int nSeg = 0;
-    };
+    /// Looks at the file of the open project: after each command that may have changed it, and
+    /// never during a run, while `fileCorrente` names another one.
+    void guardaFile();
 
-    /// Looks at `Progetto` and its file: after each command that may have changed them, and never
-    /// during a run, while `fileCorrente` names another file. Remarks on results stay as long as
-    /// what they were computed of.
-    void guarda();
+    /// Takes the data that are shown: those of the project, or what is typed into a form of it.
+    void guarda(const project::DatiProgetto& dati);
 
-    /// What is to be computed; nothing while all is known, or where a run would be refused.
-    [[nodiscard]] const std::optional<Domanda>& domanda() const { return domanda_; }
-    /// Takes the remarks on the results of a question. Those of an earlier one are dropped.
-    void rispondi(int numero, review::Osservazioni risultati);
+    /// Takes the remarks on the results of these data; nullptr while they are computed.
+    void risultati(const review::Osservazioni* trovate);
 
     /// All that are known, by weight.
     [[nodiscard]] const review::Osservazioni& tutte() const { return tutte_; }
@@ -38,16 +31,12 @@ class OsservazioniAperte {
     [[nodiscard]] std::string conteggio() const;
 
  private:
-    void guardaFile();
-    void chiedi();
     void raccogli();
 
     bool aperto_ = false;
-    int numero_ = 0;               // of the last question
-    project::DatiProgetto letti_;  // as the file has them, while its odd lines are remarked
+    bool attende_ = false;                // remarks on results may come
+    project::DatiProgetto letti_, dati_;  // as the file has them, and as they are shown
     review::Osservazioni delFile_, deiDati_, deiRisultati_, tutte_;
-    std::optional<Domanda> domanda_;
-    std::optional<Domanda> ultima_;  // asked last, whether answered or not
 };
 
 /// Where the field of a remark is edited: of several the first that a form shows; nothing for one

@@ -23,6 +23,7 @@
 #include "shell/dialogo_qt.hpp"
 #include "shell/file_dialogs_qt.hpp"
 #include "shell/help/porta.hpp"
+#include "shell/live/live_view.hpp"
 #include "shell/main/informazioni.hpp"
 #include "shell/main/menu1.hpp"
 #include "shell/main/selezling.hpp"
@@ -51,22 +52,22 @@ void traduciQt(QCoreApplication& applicazione) {
 }
 
 // What is behind the commands, plugged in form by form.
-commands::FormeProgramma forme(shell::Menu1& finestra, base::Dialogo& dialogo,
-                               shell::StampanteProgramma& stampante) {
+commands::FormeProgramma forme(shell::Menu1& finestra, shell::VitaProgetto& vita,
+                               base::Dialogo& dialogo, shell::StampanteProgramma& stampante) {
     commands::FormeProgramma tutte;
     shell::collegaGuida(tutte, finestra);  // first: the forms plugged in later have help buttons
     tutte.informazioni = [&finestra](const std::string& fileCorrente) {
         shell::Informazioni(fileCorrente, &finestra).exec();
     };
-    shell::collegaSezione(tutte, &finestra);
-    shell::collegaMaschere(tutte, dialogo, &finestra);
+    shell::collegaSezione(tutte, &finestra, &vita);
+    shell::collegaMaschere(tutte, dialogo, &finestra, &vita);
     const auto condivisa = [&stampante]() -> QPrinter& { return stampante.stampante(); };
     shell::collegaDisegni(tutte, finestra, dialogo, condivisa,
                           [&finestra](const std::string& percorso) {
                               finestra.stato(base::traduttore("File scritto") + ": " + percorso);
                           });
     shell::collegaRelazione(tutte, finestra, dialogo, condivisa);
-    shell::collegaOsservazioni(tutte, finestra);
+    shell::collegaOsservazioni(tutte, finestra, vita);
     return tutte;
 }
 
@@ -78,6 +79,7 @@ int sessione(shell::Applicazione& applicazione, shell::DialogoQt& dialogo,
 
     QApplication::setWindowIcon(QIcon(shell::qt(base::cartellaEseguibile() + "/korven32.svg")));
     const shell::Terminazione terminazione;
+    shell::VitaProgetto vita;
     shell::Menu1 finestra;
     shell::DialogoFileQt nomi;
     shell::AvanzamentoQt avanzamento;
@@ -87,8 +89,9 @@ int sessione(shell::Applicazione& applicazione, shell::DialogoQt& dialogo,
     shell::StampanteProgramma stampante;
     masks::Maschere maschere;
     commands::Programma programma(dialogo, nomi, finestra, avanzamento, maschere,
-                                  forme(finestra, dialogo, stampante));
+                                  forme(finestra, vita, dialogo, stampante));
     finestra.collega(programma);
+    QObject::connect(&finestra, &shell::Menu1::aggiornata, &vita, &shell::VitaProgetto::guarda);
     QObject::connect(&applicazione, &QGuiApplication::commitDataRequest, &finestra,
                      &shell::Menu1::fineSessione, Qt::DirectConnection);
     finestra.show();

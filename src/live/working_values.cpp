@@ -24,12 +24,24 @@ std::string nonAmmesso(const std::string& dove) {
     return riempito(traduttore("%1: valore non ammesso"), {dove});
 }
 
+bool numerica(const CampoMaschera& colonna) { return masks::tipoCampo(colonna.tipo).numero; }
+
+// A row that is typed from left to right is complete when its last number is there. Where cells may
+// stay empty those before it read as 0; else each of them has to be there.
+bool manca(const Maschera& maschera, const std::string* celle, std::size_t c) {
+    if (!vuoto(celle[c - 1]) || !numerica(maschera.campi[c])) return false;
+    if (maschera.genere != masks::GenereMaschera::grigliaLibera) return true;
+    for (std::size_t dopo = c + 1; dopo < maschera.campi.size(); ++dopo)
+        if (numerica(maschera.campi[dopo]) && !vuoto(celle[dopo - 1])) return false;
+    return true;
+}
+
 // What is wrong with one row of a table; empty for a good one.
 std::string impedimentoRiga(const Maschera& maschera, const std::string* celle, int riga) {
     for (std::size_t c = 1; c < maschera.campi.size(); ++c) {
         const CampoMaschera& colonna = maschera.campi[c];
         const std::string& testo = celle[c - 1];
-        if (vuoto(testo) && masks::tipoCampo(colonna.tipo).numero)
+        if (manca(maschera, celle, c))
             return riempito(traduttore("riga %1: dati incompleti"), {std::to_string(riga)});
         if (masks::controllaCella(colonna, testo) != Vizio::nessuno)
             return nonAmmesso(

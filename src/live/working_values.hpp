@@ -13,8 +13,8 @@ namespace korven::live {
 /// What stands in a form that is open.
 struct ValoriForma {
     masks::NumeroMaschera maschera = masks::senzaMaschera;
-    std::vector<double> combo;       ///< as `Maschere::conferma` takes them
-    std::vector<std::string> testi;  ///< the same
+    std::vector<double> combo{};       ///< as `Maschere::conferma` takes them
+    std::vector<std::string> testi{};  ///< the same
 };
 
 /// The project with what stands in an open form.
@@ -25,7 +25,8 @@ struct ProgettoInCorso {
 };
 
 /// The project as confirming the form would make it. A value that its form would not take is in the
-/// way, and so is a row with an empty number: it is being typed.
+/// way, and so is a row whose last number is missing, or any of them where none may stay empty: it
+/// is being typed.
 /// @param dati      the project as it is without the form
 /// @param maschera  of the form
 [[nodiscard]] ProgettoInCorso conValori(const project::DatiProgetto& dati,

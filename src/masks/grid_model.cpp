@@ -266,6 +266,13 @@ void ModelloGriglia::eliminaRiga() {
     passoRiga("riga %1 eliminata", prima);
 }
 
+std::vector<std::string> ModelloGriglia::valoriDigitati() const {
+    if (!editoreAperto_) return valoriTesto();
+    CelleGriglia celle = celle_;
+    celle.scrivi(corrente_.riga, corrente_.colonna, testoEditore_);
+    return celle.impacchettate();
+}
+
 bool ModelloGriglia::cambiata() const {
     return celle_ != iniziali_ || (editoreAperto_ && testoEditore_ != cella());
 }

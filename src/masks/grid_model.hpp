@@ -150,6 +150,8 @@ class ModelloGriglia {
     [[nodiscard]] bool siPuoLasciare(base::Dialogo& dialogo) const;
     /// The number of rows that have data, then their cells.
     [[nodiscard]] std::vector<std::string> valoriTesto() const { return celle_.impacchettate(); }
+    /// The same at this moment, with the text of the open editor in its cell.
+    [[nodiscard]] std::vector<std::string> valoriDigitati() const;
 
  private:
     [[nodiscard]] const CampoMaschera& colonna(int numero) const;

@@ -17,6 +17,7 @@ namespace {
 using project::fileCorrente;
 using project::modificato;
 using project::Progetto;
+using review::Osservazioni;
 using review::Peso;
 
 class OsservazioniAperteTest : public ::testing::Test {
@@ -25,7 +26,13 @@ class OsservazioniAperteTest : public ::testing::Test {
         const std::string file = ambiente.lavori / "muro.kvd";
         test::metti(file, base::inCp1252(testo));
         apriProgetto(file, "");
-        aperte.guarda();
+        guarda();
+    }
+    // As after a command; remarks on results are being computed.
+    void guarda() {
+        aperte.guardaFile();
+        aperte.guarda(Progetto);
+        aperte.risultati(nullptr);
     }
     static std::string conVirgola() {
         std::string testo = project::testoProgetto(test::progettoSemplice());
@@ -34,14 +41,14 @@ class OsservazioniAperteTest : public ::testing::Test {
     void modifica(double project::DatiProgetto::*membro, double valore) {
         Progetto.*membro = valore;
         modificato = true;
-        aperte.guarda();
+        guarda();
     }
     [[nodiscard]] bool dice(std::string_view codice) const {
         return std::any_of(aperte.tutte().begin(), aperte.tutte().end(),
                            [codice](const auto& o) { return o.codice == codice; });
     }
-    static review::Osservazioni una(Peso peso, std::string_view codice) {
-        review::Osservazioni tutte(1);
+    static Osservazioni una(Peso peso, std::string_view codice) {
+        Osservazioni tutte(1);
         tutte[0].peso = peso;
         tutte[0].codice = codice;
         return tutte;
@@ -52,55 +59,49 @@ class OsservazioniAperteTest : public ::testing::Test {
 };
 
 TEST_F(OsservazioniAperteTest, AreNoneAndNotCountedWithoutAProject) {
-    aperte.guarda();
     EXPECT_TRUE(aperte.tutte().empty());
-    EXPECT_FALSE(aperte.domanda());
     EXPECT_EQ(aperte.conteggio(), "");
 }
 
-TEST_F(OsservazioniAperteTest, AskForThoseOnResultsOfTheProjectThatIsOpen) {
+TEST_F(OsservazioniAperteTest, WaitForThoseOnResults) {
     apri();
-    ASSERT_TRUE(aperte.domanda());
-    EXPECT_TRUE(aperte.domanda()->dati == Progetto);
-    EXPECT_EQ(aperte.domanda()->nSeg, 50);
     EXPECT_EQ(aperte.conteggio(), "…");
-    aperte.rispondi(aperte.domanda()->numero, una(Peso::daVedere, "riduzione-bassa"));
-    EXPECT_FALSE(aperte.domanda());
+    const auto trovate = una(Peso::daVedere, "riduzione-bassa");
+    aperte.risultati(&trovate);
     EXPECT_EQ(aperte.conteggio(), "1 da vedere");
-}
-
-TEST_F(OsservazioniAperteTest, KeepThoseOnResultsForAsLongAsTheProjectStays) {
-    apri();
-    aperte.rispondi(aperte.domanda()->numero, una(Peso::daVedere, "riduzione-bassa"));
-    aperte.guarda();
-    EXPECT_FALSE(aperte.domanda());
     EXPECT_TRUE(dice("riduzione-bassa"));
-    modifica(&project::DatiProgetto::lunghezzaParatia, 11);
-    EXPECT_TRUE(aperte.domanda());
+    aperte.risultati(nullptr);
+    EXPECT_EQ(aperte.conteggio(), "…");
     EXPECT_FALSE(dice("riduzione-bassa"));
 }
 
-TEST_F(OsservazioniAperteTest, DropTheAnswerToAnEarlierQuestion) {
-    apri();
-    const int prima = aperte.domanda()->numero;
-    modifica(&project::DatiProgetto::lunghezzaParatia, 11);
-    aperte.rispondi(prima, una(Peso::pericolo, "passiva-esaurita"));
-    EXPECT_FALSE(dice("passiva-esaurita"));
-    EXPECT_EQ(aperte.conteggio(), "…");
-}
-
-TEST_F(OsservazioniAperteTest, AskForNothingWhereARunWouldBeRefused) {
+TEST_F(OsservazioniAperteTest, TellWhatRefusesARun) {
     apri();
     modifica(&project::DatiProgetto::lunghezzaParatia, 0);
-    EXPECT_FALSE(aperte.domanda());
+    const Osservazioni nessuna;
+    aperte.risultati(&nessuna);
     EXPECT_EQ(aperte.tutte().front().peso, Peso::impedisce);
     EXPECT_EQ(aperte.conteggio(), review::conteggio(aperte.tutte()));
+}
+
+TEST_F(OsservazioniAperteTest, FollowWhatIsTypedIntoAForm) {
+    apri(conVirgola());
+    auto digitati = Progetto;
+    digitati.lunghezzaParatia = 13;
+    digitati.vincoloTesta = 7;
+    aperte.guarda(digitati);
+    EXPECT_TRUE(dice("codice-non-previsto"));
+    EXPECT_FALSE(dice("resto-della-riga"));
+    aperte.guarda(Progetto);  // the form was left
+    EXPECT_FALSE(dice("codice-non-previsto"));
+    EXPECT_TRUE(dice("resto-della-riga"));
 }
 
 TEST_F(OsservazioniAperteTest, AreInTheOrderOfTheirWeight) {
     apri();
     modifica(&project::DatiProgetto::vincoloTesta, 7);
-    aperte.rispondi(aperte.domanda()->numero, una(Peso::daVedere, "riduzione-bassa"));
+    const auto trovate = una(Peso::daVedere, "riduzione-bassa");
+    aperte.risultati(&trovate);
     ASSERT_EQ(aperte.tutte().size(), 2u);
     EXPECT_EQ(aperte.tutte()[0].codice, "codice-non-previsto");
     EXPECT_EQ(aperte.conteggio(), "1 pericolo, 1 da vedere");
@@ -118,14 +119,14 @@ TEST_F(OsservazioniAperteTest, TellOfALineOfTheFileUntilItsValueIsAnotherOne) {
 TEST_F(OsservazioniAperteTest, TellOfALineOfTheFileUntilItIsSaved) {
     apri(conVirgola());
     project::scriviProgetto();
-    aperte.guarda();
+    guarda();
     EXPECT_FALSE(dice("resto-della-riga"));
 }
 
 TEST_F(OsservazioniAperteTest, TakeAFileThatIsGoneForOneWithoutOddLines) {
     apri(conVirgola());
     std::filesystem::remove(fileCorrente);
-    aperte.guarda();
+    guarda();
     EXPECT_FALSE(dice("resto-della-riga"));
 }
 

@@ -60,6 +60,17 @@ TEST_F(ValoriInCorso, WaitForTheNumbersOfARowThatIsBeingTyped) {
     EXPECT_EQ(inCorso.impedimento, "riga 3: dati incompleti");
 }
 
+TEST_F(ValoriInCorso, ReadAnEmptyCellAs0WhereCellsMayStayEmptyAndTheRowGoesOn) {
+    auto valori = forma(masks::NumeroMaschera::strati);
+    valori.testi[5].clear();  // cohesion of layer 1
+    const auto inCorso = con(valori);
+    ASSERT_TRUE(inCorso.dati);
+    EXPECT_EQ(inCorso.dati->coesione[1], 0);
+    valori.testi[6].clear();
+    valori.testi[7].clear();
+    EXPECT_EQ(con(valori).impedimento, "riga 1: dati incompleti");
+}
+
 TEST_F(ValoriInCorso, TellTheColumnOfAValueThatItDoesNotTake) {
     auto valori = forma(masks::NumeroMaschera::tiranti);
     valori.testi[2] = "5oo";

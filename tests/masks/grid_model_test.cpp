@@ -50,6 +50,29 @@ TEST_F(ModelloGrigliaTest, BeginsAtAnotherCellWithoutACheckOfTheFirst) {
     EXPECT_TRUE(dialogo.messaggi.empty());
 }
 
+TEST_F(ModelloGrigliaTest, HasTheTextOfTheOpenEditorAmongWhatIsTyped) {
+    modello.apriEditore();
+    modello.scriviEditore("12");
+    EXPECT_EQ(modello.valoriDigitati()[1], "12");
+    EXPECT_EQ(modello.valoriTesto()[1], "3");
+    premi(Tasto::esc);
+    EXPECT_EQ(modello.valoriDigitati(), modello.valoriTesto());
+}
+
+TEST_F(ModelloGrigliaTest, IsWrittenIntoByAPanelIfTheColumnTakesIt) {
+    EXPECT_TRUE(modello.scrivi({2, 2}, "21", dialogo));
+    EXPECT_EQ(modello.corrente(), (PostoGriglia{2, 2}));
+    EXPECT_EQ(cella(), "21");
+    premi(Tasto::esc);
+    EXPECT_EQ(cella(), "21");  // the cursor has arrived after the text
+    EXPECT_FALSE(modello.scrivi({2, 1}, "101", dialogo));
+    EXPECT_EQ(modello.testo({2, 1}), "8");
+    EXPECT_EQ(dialogo.messaggi.size(), 1U);
+    scrivi("x");
+    EXPECT_FALSE(modello.scrivi({1, 1}, "4", dialogo));  // the current cell can't be left
+    EXPECT_EQ(modello.testo({1, 1}), "3");
+}
+
 TEST_F(ModelloGrigliaTest, TakesATitleThatFollowsTheRowCount) {
     const ModelloGriglia altro(maschera, {"1|Altro titolo", "3", "18", "", ""});
     EXPECT_EQ(altro.titolo(), "Altro titolo");

@@ -111,6 +111,7 @@ QComboBox* Base1::fareScelta(std::size_t campo, QWidget* genitore) {
     connect(scelta, &QComboBox::currentIndexChanged, this, [this, campo](int voce) {
         modello_.scegli(campo, static_cast<std::size_t>(voce));
         if (campo == modello_.attivo()) spiega();
+        emit digitata();
     });
     return scelta;
 }
@@ -158,6 +159,11 @@ void Base1::scritto(std::size_t campo, const QString& testo) {
         casella->setCursorPosition(cursore);
     }
     if (campo == modello_.attivo()) spiega();
+    emit digitata();
+}
+
+live::ValoriForma Base1::valori() const {
+    return {.combo = modello_.valoriCombo(), .testi = modello_.valoriTesto()};
 }
 
 bool Base1::entra(std::size_t campo) {

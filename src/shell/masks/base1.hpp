@@ -29,6 +29,7 @@ class Base1 : public FormaMaschera {
           std::vector<std::string> testi, base::Dialogo& dialogo, GuidaForme guida, QWidget* padre);
 
     [[nodiscard]] const masks::ModelloCampi& modello() const { return modello_; }
+    [[nodiscard]] live::ValoriForma valori() const override;
     /// Begins at a field, counted from 0, before it is shown.
     void comincia(std::size_t campo) {
         modello_.comincia(campo);

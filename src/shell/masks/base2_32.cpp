@@ -1,5 +1,6 @@
 #include "shell/masks/base2_32.hpp"
 
+#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QVBoxLayout>
@@ -31,9 +32,12 @@ Base2_32::Base2_32(const masks::Maschera& maschera, const std::vector<std::strin
         aiuti, [this] { modello_.mostraAiuto(this->dialogo()); }, this);
     aiuto_->setObjectName(QStringLiteral("Label1"));
     griglia_ = new VistaGriglia(
-        modello_, dialogo, [this] { spiega(); }, this);
+        modello_, dialogo, [this] { cambiata(); }, this);
+    digitati_ = modello_.valoriDigitati();
     auto* colonna = new QVBoxLayout(this);
-    colonna->addWidget(griglia_, 1);
+    fila_ = new QHBoxLayout;
+    fila_->addWidget(griglia_, 1);
+    colonna->addLayout(fila_, 1);
     colonna->addWidget(aiuto_);
     colonna->addWidget(farePulsanti([this](std::size_t pulsante) { azione(pulsante); }));
     setTabOrder(griglia_, aiuto_);
@@ -67,6 +71,34 @@ void Base2_32::keyPressEvent(QKeyEvent* evento) {
         apriGuida();
     else
         FormaMaschera::keyPressEvent(evento);
+}
+
+live::ValoriForma Base2_32::valori() const { return {.testi = modello_.valoriDigitati()}; }
+
+void Base2_32::affianca(QWidget* pannello) {
+    fila_->addWidget(pannello);
+    // As wide as before, and the panel beside it, as far as the screen goes.
+    const int larghezza = width() + fila_->spacing() + pannello->sizeHint().width();
+    disponi({larghezza, std::max(height(), layout()->minimumSize().height())});
+}
+
+bool Base2_32::scrivi(masks::PostoGriglia posto, std::string_view testo) {
+    const bool scritta = modello_.scrivi(posto, testo, dialogo());
+    griglia_->aggiorna();
+    return scritta;
+}
+
+// The grid says that something may have changed: what it was is told to those who follow the form.
+void Base2_32::cambiata() {
+    spiega();
+    auto digitati = modello_.valoriDigitati();
+    if (digitati != digitati_) {
+        digitati_ = std::move(digitati);
+        emit digitata();
+    }
+    if (posto_ == modello_.corrente()) return;
+    posto_ = modello_.corrente();
+    emit postoCambiato();
 }
 
 void Base2_32::spiega() {

@@ -1,10 +1,13 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "masks/grid_model.hpp"
 #include "shell/masks/form_frame.hpp"
+
+class QHBoxLayout;
 
 namespace korven::shell {
 
@@ -17,6 +20,7 @@ class StrisciaAiuto;
 /// `Command1_n` the buttons. F1 opens the help of the form; Ctrl+Z and Ctrl+Y take cells, rows and
 /// pastes back and do them again.
 class Base2_32 : public FormaMaschera {
+    Q_OBJECT
  public:
     /// The arguments are those of `ModelloGriglia` and `FormaMaschera`.
     /// @throws base::ErroreIndice for more than 500 rows
@@ -25,12 +29,25 @@ class Base2_32 : public FormaMaschera {
              int capienza = masks::CelleGriglia::righe);
 
     [[nodiscard]] const masks::ModelloGriglia& modello() const { return modello_; }
+    [[nodiscard]] live::ValoriForma valori() const override;
+
+    /// Puts a panel at the right of the grid, which becomes its owner.
+    void affianca(QWidget* pannello);
+
+    /// A panel writes a text into a cell, as if it were typed there; a fault is told, and the cell
+    /// then stays as it was.
+    /// @return true when it was written
+    bool scrivi(masks::PostoGriglia posto, std::string_view testo);
 
     /// Begins at a cell, before it is shown.
     void comincia(masks::PostoGriglia posto);
 
     /// Esc and the close box ask about rows that were changed; the cancel button does not.
     void reject() override;
+
+ signals:
+    /// The cursor is in another cell.
+    void postoCambiato();
 
  protected:
     void keyPressEvent(QKeyEvent* evento) override;
@@ -39,10 +56,14 @@ class Base2_32 : public FormaMaschera {
  private:
     void azione(std::size_t pulsante);
     void spiega();
+    void cambiata();
 
     masks::ModelloGriglia modello_;
     VistaGriglia* griglia_ = nullptr;
+    QHBoxLayout* fila_ = nullptr;  // grid and panel
     StrisciaAiuto* aiuto_ = nullptr;
+    masks::PostoGriglia posto_;          // where the cursor was last
+    std::vector<std::string> digitati_;  // what the cells held last
 };
 
 }  // namespace korven::shell

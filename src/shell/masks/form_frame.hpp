@@ -5,6 +5,7 @@
 #include <functional>
 
 #include "base/dialogo.hpp"
+#include "live/working_values.hpp"
 #include "masks/mask.hpp"
 
 namespace korven::shell {
@@ -16,11 +17,19 @@ using GuidaForme = std::function<bool(int contesto)>;
 /// What a form has that is made from a mask, be it fields or a grid: the row of buttons, the help,
 /// the place on the screen. The number of its page in the help is its property "contestoGuida".
 class FormaMaschera : public QDialog {
+    Q_OBJECT
  public:
     /// @param maschera  must outlive the form, as must `dialogo`
     /// @param nome      of the form; its size is remembered for each mask
     FormaMaschera(const masks::Maschera& maschera, base::Dialogo& dialogo, GuidaForme guida,
                   const QString& nome, QWidget* padre);
+
+    /// What stands in the form at this moment, the text of a cell that is being typed included.
+    [[nodiscard]] virtual live::ValoriForma valori() const = 0;
+
+ signals:
+    /// `valori` are others than before.
+    void digitata();
 
  protected:
     /// The buttons `Command1_0`, `Command1_1`..., as wide as the longest caption asks for. They

@@ -2,13 +2,28 @@
 
 #include "masks/editing.hpp"
 #include "review/heading_review.hpp"
+#include "shell/live/live_view.hpp"
 #include "shell/masks/base1.hpp"
 #include "shell/masks/base2_32.hpp"
 
 namespace korven::shell {
 
+namespace {
+
+void segui(const FormaMaschera& forma, const masks::Maschera& maschera,
+           masks::NumeroMaschera numero, VitaProgetto* vita) {
+    if (vita == nullptr) return;
+    QObject::connect(&forma, &FormaMaschera::digitata, vita, [&forma, &maschera, numero, vita] {
+        live::ValoriForma valori = forma.valori();
+        valori.maschera = numero;
+        vita->digita(maschera, valori);
+    });
+}
+
+}  // namespace
+
 void mostraForm(masks::Maschere& maschere, base::Dialogo& dialogo, const GuidaForme& guida,
-                QWidget* padre) {
+                QWidget* padre, VitaProgetto* vita) {
     const masks::Maschera& maschera = maschere.corrente();
     const auto numero = static_cast<masks::NumeroMaschera>(maschere.numero());
     if (maschera.genere == masks::GenereMaschera::campi) {
@@ -17,6 +32,7 @@ void mostraForm(masks::Maschere& maschere, base::Dialogo& dialogo, const GuidaFo
         if (const auto inizio = maschere.inizio())
             forma.comincia(static_cast<std::size_t>(inizio->campo - 1));
         if (numero == masks::NumeroMaschera::titoli) forma.annota(review::notaTitolo);
+        segui(forma, maschera, numero, vita);
         if (forma.exec() == QDialog::Accepted)
             maschere.conferma(forma.modello().valoriCombo(), forma.modello().valoriTesto());
         return;
@@ -24,18 +40,20 @@ void mostraForm(masks::Maschere& maschere, base::Dialogo& dialogo, const GuidaFo
     const int capienza = masks::capienza(numero);
     Base2_32 forma(maschera, maschere.valoriTesto(), dialogo, guida, padre, capienza);
     if (const auto inizio = maschere.inizio()) forma.comincia({inizio->riga, inizio->campo});
+    segui(forma, maschera, numero, vita);
     if (forma.exec() == QDialog::Accepted) maschere.conferma({}, forma.modello().valoriTesto());
 }
 
-void collegaMaschere(commands::FormeProgramma& forme, base::Dialogo& dialogo, QWidget* padre) {
+void collegaMaschere(commands::FormeProgramma& forme, base::Dialogo& dialogo, QWidget* padre,
+                     VitaProgetto* vita) {
     GuidaForme guida;
     if (forme.guida)
         guida = [apri = forme.guida](int contesto) {
             apri(contesto);
             return true;
         };
-    forme.maschera = [&dialogo, guida, padre](masks::Maschere& maschere) {
-        mostraForm(maschere, dialogo, guida, padre);
+    forme.maschera = [&dialogo, guida, padre, vita](masks::Maschere& maschere) {
+        mostraForm(maschere, dialogo, guida, padre, vita);
     };
 }
 

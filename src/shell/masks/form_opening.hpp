@@ -7,14 +7,18 @@
 
 namespace korven::shell {
 
+class VitaProgetto;
+
 /// Shows the form of the current mask, `base1` for fields and `base2_32` for a grid, with its
 /// values, until it is closed. What was confirmed goes back to `maschere`.
+/// @param vita  told what stands in the form at each change
 /// @throws base::ErroreIndice for a grid with more than 500 rows
 void mostraForm(masks::Maschere& maschere, base::Dialogo& dialogo, const GuidaForme& guida,
-                QWidget* padre);
+                QWidget* padre, VitaProgetto* vita = nullptr);
 
 /// Plugs the forms into the commands. Their help button opens what `forme.guida` is by then, so
 /// this comes after it.
-void collegaMaschere(commands::FormeProgramma& forme, base::Dialogo& dialogo, QWidget* padre);
+void collegaMaschere(commands::FormeProgramma& forme, base::Dialogo& dialogo, QWidget* padre,
+                     VitaProgetto* vita = nullptr);
 
 }  // namespace korven::shell

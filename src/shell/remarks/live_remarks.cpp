@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "base/translated_texts.hpp"
+#include "shell/live/live_view.hpp"
 #include "shell/main/menu1.hpp"
 #include "shell/qt_text.hpp"
 #include "shell/remarks/remarks_window.hpp"
@@ -12,35 +13,35 @@ namespace korven::shell {
 
 namespace {
 
-// Commands that follow one another at once cost one computation.
+// Keys that follow one another at once cost one look at all data.
 constexpr int riposo = 50;  // [ms]
 
 }  // namespace
 
-OsservazioniVive::OsservazioniVive(Menu1& principale, std::function<void(const std::string&)> guida)
+OsservazioniVive::OsservazioniVive(Menu1& principale, VitaProgetto& vita,
+                                   std::function<void(const std::string&)> guida)
     : QObject(&principale),
       principale_(principale),
+      vita_(vita),
       guida_(std::move(guida)),
-      revisione_([this](int numero, auto trovate) { rispondi(numero, std::move(trovate)); }, this),
       riposo_(new QTimer(this)) {
     riposo_->setSingleShot(true);
     riposo_->setInterval(riposo);
-    connect(riposo_, &QTimer::timeout, this, [this] { chiedi(); });
-    connect(&principale, &Menu1::aggiornata, this, [this] { guarda(); });
+    connect(riposo_, &QTimer::timeout, this, [this] { guarda(); });
+    connect(&principale, &Menu1::aggiornata, this, [this] {
+        vita_.guarda();
+        aperte_.guardaFile();
+        guarda();
+    });
+    connect(&vita, &VitaProgetto::cambiata, riposo_, [this] { riposo_->start(); });
 }
 
 void OsservazioniVive::guarda() {
-    aperte_.guarda();
-    if (aperte_.domanda()) riposo_->start();
-    mostra();
-}
-
-void OsservazioniVive::chiedi() {
-    if (aperte_.domanda()) revisione_.chiedi(*aperte_.domanda());
-}
-
-void OsservazioniVive::rispondi(int numero, review::Osservazioni risultati) {
-    aperte_.rispondi(numero, std::move(risultati));
+    const live::ProgettoVivo& vivo = vita_.vivo();
+    if (vivo.aperto()) {
+        aperte_.guarda(vivo.dati());
+        aperte_.risultati(vivo.lenti() == nullptr ? nullptr : &vivo.lenti()->osservazioni);
+    }
     mostra();
 }
 
@@ -74,8 +75,8 @@ void OsservazioniVive::apriCampo(const review::Osservazione& osservazione) {
     if (finestra_ != nullptr && finestra_->isVisible()) finestra_->activateWindow();
 }
 
-void collegaOsservazioni(commands::FormeProgramma& forme, Menu1& principale) {
-    auto* vive = new OsservazioniVive(principale, forme.paginaGuida);
+void collegaOsservazioni(commands::FormeProgramma& forme, Menu1& principale, VitaProgetto& vita) {
+    auto* vive = new OsservazioniVive(principale, vita, forme.paginaGuida);
     forme.controlli = [vive] { vive->apriFinestra(); };
 }
 

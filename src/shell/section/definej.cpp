@@ -21,6 +21,7 @@
 #include "shell/forms/help_strip.hpp"
 #include "shell/forms/history_keys.hpp"
 #include "shell/forms/scrolled_part.hpp"
+#include "shell/live/live_view.hpp"
 #include "shell/qt_text.hpp"
 #include "shell/section/definej_fields.hpp"
 #include "shell/section/section_sketch_view.hpp"
@@ -235,6 +236,7 @@ void DefinEJ::mostraTipo() {
 void DefinEJ::aggiornaSchizzo() {
     schizzi_[indice(modello_.tipo())]->mostra(
         drawings::schizzoSezione(modello_.tipo(), modello_.letta()));
+    emit digitata();
 }
 
 void DefinEJ::entra(std::size_t campo) {
@@ -295,15 +297,16 @@ bool DefinEJ::eventFilter(QObject* controllo, QEvent* evento) {
     return QDialog::eventFilter(controllo, evento);
 }
 
-void collegaSezione(commands::FormeProgramma& forme, QWidget* padre) {
-    forme.sezione = [padre] {
-        DefinEJ(project::Progetto.sezione, project::modificato, padre).exec();
-    };
-    forme.sezioneDa = [padre](std::size_t campo) {
+void collegaSezione(commands::FormeProgramma& forme, QWidget* padre, VitaProgetto* vita) {
+    forme.sezioneDa = [padre, vita](std::size_t campo) {
         DefinEJ forma(project::Progetto.sezione, project::modificato, padre);
-        forma.comincia(campo);
+        if (campo < masks::numeroCampiSezione) forma.comincia(campo);
+        if (vita != nullptr)
+            QObject::connect(&forma, &DefinEJ::digitata, vita,
+                             [&forma, vita] { vita->digita(forma.letta()); });
         forma.exec();
     };
+    forme.sezione = [apri = forme.sezioneDa] { apri(masks::numeroCampiSezione); };
 }
 
 }  // namespace korven::shell

@@ -18,6 +18,7 @@ namespace korven::shell {
 class StrisciaAiuto;
 class ParteScorrevole;
 class VistaSchizzo;
+class VitaProgetto;
 
 /// The form of the structural section. What is typed and stored is the matter of
 /// `masks::SezioneEditata`; beside the fields of each type a sketch shows what they measure. Ctrl+Z
@@ -32,6 +33,13 @@ class DefinEJ : public QDialog {
     /// Begins at a field of `masks::campiSezione`, before it is shown: at the choice of types, as
     /// without, for a field of a type that is not chosen.
     void comincia(std::size_t campo);
+
+    /// The section as it stands in the form at this moment.
+    [[nodiscard]] project::Sezione letta() const { return modello_.letta(); }
+
+ signals:
+    /// `letta` is another section than before.
+    void digitata();
 
  protected:
     bool eventFilter(QObject* controllo, QEvent* evento) override;
@@ -64,6 +72,7 @@ class DefinEJ : public QDialog {
 };
 
 /// Plugs the form of the section of the open project into its command.
-void collegaSezione(commands::FormeProgramma& forme, QWidget* padre);
+/// @param vita  told the section that stands in the form at each change
+void collegaSezione(commands::FormeProgramma& forme, QWidget* padre, VitaProgetto* vita = nullptr);
 
 }  // namespace korven::shell

@@ -9,7 +9,9 @@
 #include <QToolButton>
 
 #include "base/code_page.hpp"
+#include "masks/editing.hpp"
 #include "project/project_file.hpp"
+#include "shell/live/live_view.hpp"
 #include "shell/main/menu1.hpp"
 #include "shell/remarks/remarks_window.hpp"
 #include "support/desktop_bench.hpp"
@@ -34,7 +36,7 @@ class OsservazioniViveTest : public ::testing::Test {
             m.selezionaMaschera(1);
         };
         forme.paginaGuida = [](const std::string&) {};
-        collegaOsservazioni(forme, finestra);
+        collegaOsservazioni(forme, finestra, vita);
         finestra.collega(programma());
         finestra.show();
     }
@@ -72,6 +74,7 @@ class OsservazioniViveTest : public ::testing::Test {
     commands::FormeProgramma forme;
     std::vector<std::pair<std::string, std::optional<masks::PostoForma>>> aperte;
     std::function<void()> modifica;
+    VitaProgetto vita;
     Menu1 finestra;
     std::unique_ptr<commands::Programma> programma_;
 };
@@ -104,6 +107,20 @@ TEST_F(OsservazioniViveTest, FollowWhatIsEdited) {
     EXPECT_EQ(conteggio().text(), "1 pericolo …");
     EXPECT_TRUE(conteggio().font().bold());
     EXPECT_EQ(conteggio().accessibleName(), conteggio().text());
+}
+
+TEST_F(OsservazioniViveTest, FollowWhatIsTypedIntoAForm) {
+    apri(test::progettoSemplice());
+    ASSERT_TRUE(diventa("nessuna osservazione"));
+    modifica = [this] {
+        masks::preparaMaschera(maschere, masks::NumeroMaschera::fasi, project::Progetto, 0);
+        auto testi = maschere.valoriTesto();
+        testi[5] = "40";  // excavation of stage 2, below the wall
+        vita.digita(maschere.corrente(), {masks::NumeroMaschera::fasi, {}, testi});
+        EXPECT_TRUE(QTest::qWaitFor([&] { return conteggio().font().bold(); }, 30000));
+    };
+    finestra.esegui(commands::voceMenu("EditFasi"));
+    EXPECT_TRUE(diventa("nessuna osservazione"));  // the form was left
 }
 
 TEST_F(OsservazioniViveTest, AreListedAfterAClickOnTheirNumberAndAfterCtrlK) {

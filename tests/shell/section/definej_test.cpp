@@ -65,6 +65,19 @@ class FormaSezione : public ::testing::Test {
     std::unique_ptr<DefinEJ> forma;
 };
 
+TEST_F(FormaSezione, TellsEachChangeOfTheSectionThatStandsInIt) {
+    apri();
+    int digitate = 0;
+    QObject::connect(forma.get(), &DefinEJ::digitata, [&] { ++digitate; });
+    scrivi("Text6", "9");
+    EXPECT_GE(digitate, 1);
+    const int scritte = digitate;
+    premi("Option3");
+    EXPECT_GT(digitate, scritte);
+    EXPECT_TRUE(forma->letta().tipoPalancola);
+    EXPECT_EQ(sezione, prima);  // nothing is stored before the form is confirmed
+}
+
 TEST_F(FormaSezione, HasItsCaptions) {
     apri();
     EXPECT_EQ(forma->windowTitle(), "Calcolo di EJ e verifica strutturale");

@@ -1,4 +1,4 @@
-#include "shell/remarks/background_review.hpp"
+#include "shell/live/background_results.hpp"
 
 #include <gtest/gtest.h>
 
@@ -11,12 +11,12 @@
 namespace korven::shell {
 namespace {
 
-class RevisioneInDisparteTest : public ::testing::Test {
+class RisultatiInDisparteTest : public ::testing::Test {
  protected:
     void aspetta(std::size_t risposte) {
         ASSERT_TRUE(QTest::qWaitFor([&] { return numeri.size() >= risposte; }, 30000));
     }
-    static RevisioneInDisparte::Domanda domanda(int numero, double lunghezza) {
+    static RisultatiInDisparte::Domanda domanda(int numero, double lunghezza) {
         auto dati = test::progettoSemplice();
         dati.lunghezzaParatia = lunghezza;
         return {numero, dati, 20};
@@ -25,14 +25,14 @@ class RevisioneInDisparteTest : public ::testing::Test {
     QApplication& app = test::applicazione();
     std::vector<int> numeri;
     review::Osservazioni ultime;
-    RevisioneInDisparte revisione{[this](int numero, review::Osservazioni trovate) {
+    RisultatiInDisparte revisione{[this](int numero, live::RisultatiLenti trovati) {
                                       numeri.push_back(numero);
-                                      ultime = std::move(trovate);
+                                      ultime = std::move(trovati.osservazioni);
                                   },
                                   nullptr};
 };
 
-TEST_F(RevisioneInDisparteTest, AnswersWithTheRemarksOnTheResults) {
+TEST_F(RisultatiInDisparteTest, AnswersWithTheRemarksOnTheResults) {
     const auto questa = domanda(7, 7.5);
     revisione.chiedi(questa);
     EXPECT_TRUE(numeri.empty());  // nobody waits for it
@@ -44,7 +44,7 @@ TEST_F(RevisioneInDisparteTest, AnswersWithTheRemarksOnTheResults) {
     for (std::size_t i = 0; i < attese.size(); ++i) EXPECT_EQ(ultime[i].testo, attese[i].testo);
 }
 
-TEST_F(RevisioneInDisparteTest, FollowsUpTheLastOfTheQuestionsThatComeMeanwhile) {
+TEST_F(RisultatiInDisparteTest, FollowsUpTheLastOfTheQuestionsThatComeMeanwhile) {
     revisione.chiedi(domanda(1, 7.5));
     revisione.chiedi(domanda(2, 8));
     revisione.chiedi(domanda(3, 12));
@@ -52,7 +52,7 @@ TEST_F(RevisioneInDisparteTest, FollowsUpTheLastOfTheQuestionsThatComeMeanwhile)
     EXPECT_EQ(numeri, (std::vector<int>{1, 3}));
 }
 
-TEST_F(RevisioneInDisparteTest, AnswersAtOnceInTheTranslatorsTestMode) {
+TEST_F(RisultatiInDisparteTest, AnswersAtOnceInTheTranslatorsTestMode) {
     test::DialogoFinto dialogo;
     base::impostaModoProva(&dialogo);
     revisione.chiedi(domanda(4, 7.5));
@@ -60,10 +60,10 @@ TEST_F(RevisioneInDisparteTest, AnswersAtOnceInTheTranslatorsTestMode) {
     base::impostaModoProva(nullptr);
 }
 
-TEST_F(RevisioneInDisparteTest, CanGoWhileItComputes) {
+TEST_F(RisultatiInDisparteTest, CanGoWhileItComputes) {
     bool detto = false;
     {
-        RevisioneInDisparte altra([&](int, const review::Osservazioni&) { detto = true; }, nullptr);
+        RisultatiInDisparte altra([&](int, const live::RisultatiLenti&) { detto = true; }, nullptr);
         altra.chiedi(domanda(1, 12));
     }
     QCoreApplication::processEvents();
