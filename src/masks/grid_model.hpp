@@ -3,8 +3,10 @@
 #include <array>
 #include <cstddef>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "base/dialogo.hpp"
@@ -118,6 +120,14 @@ class ModelloGriglia {
     /// with a message.
     void incolla(std::string_view testo, base::Dialogo& dialogo);
 
+    /// Puts rows in place of all that are there, as one step: what an import does. Values are
+    /// checked as those of a paste; cells beyond the last column are dropped, rows beyond the last
+    /// one are left out with a message. What was being typed is dropped, the cursor goes to the
+    /// first cell.
+    /// @param passo  name of the step, translated
+    void sostituisci(const std::vector<std::vector<std::string>>& righe, std::string passo,
+                     base::Dialogo& dialogo);
+
     /// A panel beside the grid writes into a cell, to which the cursor goes: the current one must
     /// be good to be left. A text that its column does not take is told, and a read-only cell
     /// stays.
@@ -162,6 +172,9 @@ class ModelloGriglia {
     bool validazionedati(base::Dialogo& dialogo);
     void chiudiEditore(bool scrivi);
     [[nodiscard]] std::string righeDiTroppo() const;
+    using ViziDetti = std::set<std::pair<int, Vizio>>;  // of a column
+    void incollaCella(PostoGriglia posto, const std::string& valore, ViziDetti& detti,
+                      base::Dialogo& dialogo);
     void batti(std::string_view carattere, bool sostituisce);
     void togliUltimo();
 

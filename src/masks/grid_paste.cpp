@@ -1,5 +1,5 @@
+#include <algorithm>
 #include <optional>
-#include <set>
 #include <utility>
 #include <vector>
 
@@ -57,6 +57,17 @@ bool leggiVirgole(Righe& righe, const ModelloGriglia& griglia, base::Dialogo& di
 
 }  // namespace
 
+// A bad value leaves its cell empty. A column in a wrong unit has the same fault in every row: one
+// box tells it.
+void ModelloGriglia::incollaCella(PostoGriglia posto, const std::string& valore, ViziDetti& detti,
+                                  base::Dialogo& dialogo) {
+    const CampoMaschera& campo = colonna(posto.colonna);
+    const Vizio vizio = controllaCella(campo, valore);
+    mettiCella(posto, vizio == Vizio::nessuno ? valore : std::string());
+    if (vizio != Vizio::nessuno && detti.emplace(posto.colonna, vizio).second)
+        segnala(vizio, campo, campo.etichetta, "\r\n", dialogo);
+}
+
 void ModelloGriglia::incolla(std::string_view testo, base::Dialogo& dialogo) {
     auto righe = righeAppunti(testo);
     if (righe.empty()) return;
@@ -67,8 +78,7 @@ void ModelloGriglia::incolla(std::string_view testo, base::Dialogo& dialogo) {
     chiudiEditore(true);
     const CelleGriglia prima = celle_;
     std::optional<bool> sovrascrive;
-    // A column pasted in a wrong unit has the same fault in every row: one box tells it.
-    std::set<std::pair<int, Vizio>> detti;
+    ViziDetti detti;
     int r = corrente_.riga;
     for (const auto& riga : righe) {
         if (r > CelleGriglia::righe) {
@@ -85,16 +95,32 @@ void ModelloGriglia::incolla(std::string_view testo, base::Dialogo& dialogo) {
                         dialogo);
                 if (!*sovrascrive) continue;
             }
-            const CampoMaschera& campo = colonna(c);
-            const Vizio vizio = controllaCella(campo, *valore);
-            celle_.scrivi(r, c, vizio == Vizio::nessuno ? *valore : std::string());
-            if (vizio != Vizio::nessuno && detti.emplace(c, vizio).second)
-                segnala(vizio, campo, campo.etichetta, "\r\n", dialogo);
+            incollaCella({r, c}, *valore, detti, dialogo);
         }
         ++r;
     }
     passoIncolla(prima);
     primoCarattere_ = true;
+}
+
+void ModelloGriglia::sostituisci(const std::vector<std::vector<std::string>>& righe,
+                                 std::string passo, base::Dialogo& dialogo) {
+    chiudiEditore(false);
+    const CelleGriglia prima = celle_;
+    const auto nuove = std::min<std::size_t>(righe.size(), CelleGriglia::righe);
+    if (nuove < righe.size()) troppeRighe(dialogo);
+    ViziDetti detti;
+    for (int r = 1; r <= CelleGriglia::righe; ++r) {
+        const auto i = static_cast<std::size_t>(r - 1);
+        for (int c = 1; c <= colonne(); ++c) {
+            if (soloLettura(c)) continue;
+            const auto k = static_cast<std::size_t>(c - 1);
+            const bool cE = i < nuove && k < righe[i].size();
+            incollaCella({r, c}, cE ? righe[i][k] : std::string(), detti, dialogo);
+        }
+    }
+    entra({1, 1});
+    storia_.fatto({std::move(passo), corrente_, cambiDa(prima)});
 }
 
 }  // namespace korven::masks

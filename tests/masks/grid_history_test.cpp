@@ -275,5 +275,42 @@ TEST(StoriaGriglia, ReturnsToTheBeginningAndToTheEndOfWhateverWasDone) {
     }
 }
 
+TEST_F(StoriaGrigliaTest, PutsRowsInPlaceOfAllAsOneStep) {
+    modello.vaiA({2, 2}, dialogo);
+    scrivi("77");
+    modello.sostituisci({{"1", "20", "tre", "1"}, {"2"}, {"3", "", "", "", "oltre"}},
+                        "strati importati", dialogo);
+    EXPECT_EQ(modello.valoriTesto(),
+              (Testi{"3", "1", "20", "tre", "1", "2", "", "", "", "3", "", "", ""}));
+    EXPECT_EQ(modello.corrente(), (PostoGriglia{1, 1}));
+    EXPECT_TRUE(dialogo.messaggi.empty());
+    EXPECT_TRUE(dialogo.domande.empty());
+    modello.annulla();
+    EXPECT_EQ(modello.detto(), "Annullato: strati importati");
+    EXPECT_EQ(modello.testo({2, 2}), "77") << "typed before, a step of its own";
+    modello.annulla();
+    EXPECT_EQ(modello.valoriTesto(), iniziali);
+    modello.ripeti();
+    modello.ripeti();
+    EXPECT_EQ(modello.testo({1, 3}), "tre");
+    EXPECT_EQ(modello.testo({3, 1}), "3");
+}
+
+TEST_F(StoriaGrigliaTest, LeavesBadValuesOutOfTheRowsThatItPutsInPlace) {
+    modello.sostituisci({{"101", "20", "lungo!", "7"}, {"102", "21", "due", "0"}}, "x", dialogo);
+    EXPECT_EQ(modello.valoriTesto(), (Testi{"2", "", "20", "", "", "", "21", "due", "0"}));
+    EXPECT_EQ(dialogo.messaggi.size(), 3U);  // one a column
+    modello.annulla();
+    EXPECT_EQ(modello.valoriTesto(), iniziali);
+}
+
+TEST_F(StoriaGrigliaTest, PutsNoMoreRowsInPlaceThanItHas) {
+    modello.sostituisci(std::vector<Testi>(600, Testi{"1", "2", "", ""}), "x", dialogo);
+    EXPECT_EQ(modello.valoriTesto().front(), "500");
+    EXPECT_EQ(dialogo.messaggi.size(), 1U);
+    modello.sostituisci({}, "x", dialogo);
+    EXPECT_EQ(modello.valoriTesto(), Testi{"0"});
+}
+
 }  // namespace
 }  // namespace korven::masks
