@@ -1,0 +1,68 @@
+#include "project/differences.hpp"
+
+#include <algorithm>
+#include <type_traits>
+#include <variant>
+
+#include "base/number_text.hpp"
+#include "base/translated_texts.hpp"
+#include "project/field_table.hpp"
+
+namespace korven::project {
+
+namespace {
+
+using base::traduttore;
+
+// A value twice: as the file holds it, and as people see it.
+struct Valore {
+    std::string scritto, mostrato;
+};
+
+Valore valore(const DatiProgetto& dati, const Campo& campo, int riga) {
+    Valore letto;
+    if (riga > righe(dati, campo.parte) && colonna(campo)) return letto;
+    conValore(dati, campo, riga, [&](const auto& v) {
+        using Tipo = std::remove_cvref_t<decltype(v)>;
+        if constexpr (std::is_same_v<Tipo, std::string>) {
+            letto = {v, v};
+        } else if constexpr (std::is_same_v<Tipo, bool>) {
+            const std::string detto = traduttore(v ? "sì" : "no");
+            letto = {detto, detto};
+        } else {
+            const auto numero = static_cast<double>(v);
+            const Codice* codice = project::codice(campo, numero);
+            letto = {base::formattaNumero(numero),
+                     codice != nullptr ? traduttore(codice->voce)
+                                       : base::testoNumero(mostrato(campo, numero))};
+        }
+    });
+    return letto;
+}
+
+bool bandiera(const Campo& campo) { return std::holds_alternative<bool Sezione::*>(campo.membro); }
+
+std::string detto(const Campo& campo, int riga) {
+    // Of a flag the file's own name says how it is written there.
+    std::string cosa = traduttore(bandiera(campo) ? campo.didascalia : campo.cosa);
+    if (colonna(campo)) cosa += ' ' + std::to_string(riga);
+    const std::string unita = traParentesi(campo.unita);
+    return unita.empty() ? cosa : cosa + ' ' + unita;
+}
+
+}  // namespace
+
+std::vector<Differenza> differenze(const DatiProgetto& prima, const DatiProgetto& dopo) {
+    std::vector<Differenza> trovate;
+    for (const Campo& campo : campi()) {
+        const int n = std::max(righe(prima, campo.parte), righe(dopo, campo.parte));
+        for (int i = 1; i <= (colonna(campo) ? n : 1); ++i) {
+            const Valore uno = valore(prima, campo, i), altro = valore(dopo, campo, i);
+            if (uno.scritto != altro.scritto)
+                trovate.push_back({detto(campo, i), uno.mostrato, altro.mostrato});
+        }
+    }
+    return trovate;
+}
+
+}  // namespace korven::project
