@@ -4,6 +4,7 @@
 #include <functional>
 #include <string>
 
+#include "commands/rescue/rescue_offer.hpp"
 #include "masks/values.hpp"
 
 namespace korven::commands {
@@ -37,6 +38,8 @@ struct FormeProgramma {
     std::function<void()> sommario;
     /// The help file at the page of a name.
     std::function<void(const std::string& nome)> paginaGuida;
+    /// Offers the unsaved work that was found of a project when it was opened.
+    OffreRecupero recupero;
     /// The about box with the line of the open project, empty if none (document_names.hpp).
     std::function<void(const std::string& fileCorrente)> informazioni;
     /// Takes the last confirmed form back, and puts it back again.

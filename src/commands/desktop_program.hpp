@@ -21,7 +21,9 @@ class Programma {
           maschere_(maschere),
           forme_(std::move(forme)),
           finestra_(finestra),
-          documento_(dialogo, nomi, finestra) {}
+          documento_(dialogo, nomi, finestra) {
+        documento_.offriCon(forme_.recupero);
+    }
 
     /// Carries the command of an item out; what it has changed is then in the rescue file.
     /// @pre `puo`: asserted

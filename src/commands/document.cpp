@@ -88,10 +88,19 @@ void Documento::apriNome(const std::string& risposta) {
     }
     finestra_.titolo(titoloFinestra(fileCorrente));
     modificato = false;
-    custodisci();
+    aperto();
 }
 
 // What was kept of the project that was open before has been saved by now, or is not wanted.
+void Documento::aperto() {
+    custodisci();
+    if (!offre_) return;
+    std::string detto = offriRecuperi(offre_, dialogo_);
+    if (detto.empty()) return;
+    stato_ = std::move(detto);
+    mostraStato();
+}
+
 void Documento::custodisci() {
     if (const std::string detto = recuperoTenuto.guarda(disco_); !detto.empty())
         finestra_.stato(detto);
@@ -130,6 +139,7 @@ bool Documento::apriAllAvvio(const std::string& argomento) {
     leggi(nome, nome);
     vaiAllaCartellaDi(nome);
     finestra_.titolo(titoloFinestra(nome));
+    aperto();
     return true;
 }
 

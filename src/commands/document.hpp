@@ -1,11 +1,13 @@
 #pragma once
 
 #include <string>
+#include <utility>
 
 #include "base/dialogo.hpp"
 #include "base/disk.hpp"
 #include "commands/document_ports.hpp"
 #include "commands/file_on_disk.hpp"
+#include "commands/rescue/rescue_offer.hpp"
 
 namespace korven::commands {
 
@@ -16,6 +18,10 @@ class Documento {
     Documento(base::Dialogo& dialogo, DialogoFile& nomi, FinestraPrincipale& finestra,
               const base::Disco& disco = base::discoDiSistema())
         : dialogo_(dialogo), nomi_(nomi), finestra_(finestra), disco_(disco) {}
+
+    /// What offers the unsaved work that is found of a project once it is open, as the last step of
+    /// every opening (rescue/rescue_offer.hpp). Without it none is looked for.
+    void offriCon(OffreRecupero offre) { offre_ = std::move(offre); }
 
     /// Asks about unsaved changes, then for a name. An existing file is read; a name without a file
     /// begins a new project, and no file exists until it is saved.
@@ -57,9 +63,11 @@ class Documento {
     void comincia(const std::string& nome);
     [[nodiscard]] bool accettaNome(const std::string& nome);
     void scrivi(const std::string& nome);
+    void aperto();
     void mostra(const std::string& cosa, const std::string& percorso);
 
     std::string stato_;
+    OffreRecupero offre_;
     base::Dialogo& dialogo_;
     DialogoFile& nomi_;
     FinestraPrincipale& finestra_;
