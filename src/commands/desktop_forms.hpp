@@ -42,10 +42,6 @@ struct FormeProgramma {
     OffreRecupero recupero;
     /// The about box with the line of the open project, empty if none (document_names.hpp).
     std::function<void(const std::string& fileCorrente)> informazioni;
-    /// Takes the last confirmed form back, and puts it back again.
-    std::function<void()> annulla, ripeti;
-    /// Whether there is anything to take back, or to put back; empty: always.
-    std::function<bool()> annullabile, ripetibile;
     /// The windows beside the main form: remarks, results, safety. The call shows the window and
     /// returns at once.
     std::function<void()> controlli, risultati, sicurezza;

@@ -8,6 +8,7 @@
 #include "commands/fatal_error.hpp"
 #include "commands/rescue/kept_rescue.hpp"
 #include "help/contexts.hpp"
+#include "masks/edited_section.hpp"
 #include "project/project_data.hpp"
 #include "safety/run_cause.hpp"
 
@@ -27,11 +28,11 @@ bool Programma::puo(const VoceMenu& voce) const {
 }
 
 bool Programma::possibile(const VoceMenu& voce) const {
-    return voce.possibile == nullptr || voce.possibile(forme_);
+    return voce.possibile == nullptr || voce.possibile(*this);
 }
 
 void Programma::edita(masks::NumeroMaschera maschera, const char* rifiuto) {
-    commands::edita(maschera, rifiuto, dialogo_, maschere_, forme_);
+    nellaStoria(maschera, [&] { commands::edita(maschera, rifiuto, dialogo_, maschere_, forme_); });
 }
 
 void Programma::editaDa(const masks::PostoCampo& posto) {
@@ -39,8 +40,31 @@ void Programma::editaDa(const masks::PostoCampo& posto) {
                                                               : bool(forme_.maschera);
     if (!forma || project::fileCorrente.empty()) return;
     congedata_ = false;
-    commands::editaDa(posto, maschere_, forme_);
+    nellaStoria(posto.maschera, [&] { commands::editaDa(posto, maschere_, forme_); });
     custodisci();
+}
+
+void Programma::nellaStoria(masks::NumeroMaschera scheda, const std::function<void()>& apri) {
+    if (project::fileCorrente.empty()) return apri();
+    project::DatiProgetto prima = project::Progetto;
+    // Its form gives the section a type even if it is left without.
+    if (scheda == masks::senzaMaschera) masks::daiTipo(prima.sezione);
+    apri();
+    documento_.storia().confermata(scheda, prima, project::Progetto);
+    if (!diceStoria_ || !documento_.storia().detto().empty()) return;
+    documento_.mostraStato();
+    diceStoria_ = false;
+}
+
+void Programma::annulla() { torna(&StoriaProgetto::annulla); }
+
+void Programma::ripeti() { torna(&StoriaProgetto::ripeti); }
+
+void Programma::torna(bool (StoriaProgetto::*verso)(project::DatiProgetto&)) {
+    StoriaProgetto& storia = documento_.storia();
+    if ((storia.*verso)(project::Progetto)) project::modificato = true;
+    finestra_.stato(storia.detto());
+    diceStoria_ = true;
 }
 
 void Programma::produci(void (*uscita)(const PorteUscita&)) {
@@ -52,9 +76,10 @@ void Programma::produci(void (*uscita)(const PorteUscita&)) {
     if (detto.empty()) detto = safety::causaCorsa(corsa.comeFinita(), project::Progetto).frase;
     if (!detto.empty())
         finestra_.stato(detto);
-    else if (diceArresto_)
+    else if (diceArresto_ || diceStoria_)
         documento_.mostraStato();
     diceArresto_ = !detto.empty();
+    diceStoria_ = false;
 }
 
 bool Programma::fineSessione(bool chiedibile) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "analysis/progress.hpp"
 #include "base/dialogo.hpp"
 #include "commands/desktop_forms.hpp"
@@ -51,6 +53,11 @@ class Programma {
     /// the form is missing.
     void editaDa(const masks::PostoCampo& posto);
 
+    /// Takes the last confirmed form back, does it again (project_history.hpp). The status line
+    /// tells which, until the next form or output; the project counts as modified.
+    void annulla();
+    void ripeti();
+
     /// An output command (output_commands.hpp). Of a run that was stopped, or that found no
     /// solution, the status line tells where and why, until another output goes through.
     void produci(void (*uscita)(const PorteUscita&));
@@ -61,10 +68,13 @@ class Programma {
     void tieniAlSicuro();
 
     [[nodiscard]] Documento& documento() { return documento_; }
+    [[nodiscard]] const Documento& documento() const { return documento_; }
     [[nodiscard]] const FormeProgramma& forme() const { return forme_; }
 
  private:
     void custodisci();
+    void nellaStoria(masks::NumeroMaschera scheda, const std::function<void()>& apri);
+    void torna(bool (StoriaProgetto::*verso)(project::DatiProgetto&));
 
     base::Dialogo& dialogo_;
     analysis::Avanzamento& avanzamento_;
@@ -74,6 +84,7 @@ class Programma {
     bool inUscita_ = false;     // an output is being produced
     bool congedata_ = false;    // the question about unsaved work has been answered for the end
     bool diceArresto_ = false;  // the status line tells of a stop
+    bool diceStoria_ = false;   // the status line tells what was taken back or done again
     Documento documento_;
 };
 

@@ -112,6 +112,7 @@ void Documento::leggi(const std::string& nome, const std::string& file) {
     FileSuDisco suDisco;
     suDisco.ricorda(file);
     project::leggiProgetto();
+    storia_.svuota();
     provvisorio.tieni(nome);
     suDisco_ = std::move(suDisco);
     project::progettiProtetti.letto = file;
@@ -121,12 +122,14 @@ void Documento::leggi(const std::string& nome, const std::string& file) {
 
 void Documento::comincia(const std::string& nome) {
     project::azzeraProgetto();
+    storia_.svuota();
     fileCorrente = nome;
     suDisco_.ricorda(nome);
     project::progettiProtetti.letto.clear();
     // A new user's first project would else lie unnoticed beside the examples.
-    finestra_.stato(traduttore("Nuovo progetto, non ancora salvato") + ": " + nome + " (" +
-                    traduttore("un'altra cartella si sceglie con Salva") + ")");
+    stato_ = traduttore("Nuovo progetto, non ancora salvato") + ": " + nome + " (" +
+             traduttore("un'altra cartella si sceglie con Salva") + ")";
+    mostraStato();
 }
 
 bool Documento::apriAllAvvio(const std::string& argomento) {

@@ -7,6 +7,7 @@
 #include "base/disk.hpp"
 #include "commands/document_ports.hpp"
 #include "commands/file_on_disk.hpp"
+#include "commands/project_history.hpp"
 #include "commands/rescue/rescue_offer.hpp"
 
 namespace korven::commands {
@@ -49,6 +50,10 @@ class Documento {
     /// @return true when the program may end
     [[nodiscard]] bool fine() { return domandaModifiche(); }
 
+    /// The forms that were confirmed since the project was opened.
+    [[nodiscard]] StoriaProgetto& storia() { return storia_; }
+    [[nodiscard]] const StoriaProgetto& storia() const { return storia_; }
+
     /// Shows the line of the last file again, when something else has taken the status line.
     void mostraStato();
 
@@ -73,6 +78,7 @@ class Documento {
     FinestraPrincipale& finestra_;
     const base::Disco& disco_;
     FileSuDisco suDisco_;
+    StoriaProgetto storia_;
 };
 
 }  // namespace korven::commands

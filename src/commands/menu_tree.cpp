@@ -56,13 +56,31 @@ bool spiega(Programma& programma, const VoceMenu& voce) {
     return false;
 }
 
-// A question that nobody answers is no reason to refuse the command.
-template <auto domanda>
-bool seDice(const F& forme) {
-    return !(forme.*domanda) || (forme.*domanda)();
+bool annulla(Programma& programma, const VoceMenu&) {
+    programma.annulla();
+    return false;
 }
 
-bool progettoAperto(const F&) { return !project::fileCorrente.empty(); }
+bool ripeti(Programma& programma, const VoceMenu&) {
+    programma.ripeti();
+    return false;
+}
+
+bool annullabile(const Programma& programma) {
+    return programma.documento().storia().annullabile();
+}
+
+bool ripetibile(const Programma& programma) { return programma.documento().storia().ripetibile(); }
+
+std::string daAnnullare(const Programma& programma) {
+    return programma.documento().storia().daAnnullare();
+}
+
+std::string daRipetere(const Programma& programma) {
+    return programma.documento().storia().daRipetere();
+}
+
+bool progettoAperto(const Programma&) { return !project::fileCorrente.empty(); }
 
 std::vector<VoceMutevole> recenti(Programma& programma) {
     std::vector<VoceMutevole> voci;
@@ -148,17 +166,15 @@ constexpr VoceMenu voci[] = {
     {"AiutoStampa", "&Help", 1, 26, ha<&F::guida>, spiega},
 
     {"strumenti", "St&rumenti", 0},
-    {"annulla", "An&nulla", 1, 35, ha<&F::annulla>, mostra<&F::annulla>, "Ctrl+Z",
-     seDice<&F::annullabile>},
-    {"ripeti", "&Ripeti", 1, 35, ha<&F::ripeti>, mostra<&F::ripeti>, "Ctrl+Y",
-     seDice<&F::ripetibile>},
+    {"annulla", "An&nulla", 1, 35, nullptr, annulla, "Ctrl+Z", annullabile, daAnnullare},
+    {"ripeti", "&Ripeti", 1, 35, nullptr, ripeti, "Ctrl+Y", ripetibile, daRipetere},
     staccata({"controlli", "&Controlli", 1, help::voceOsservazioni, ha<&F::controlli>,
               mostra<&F::controlli>, "Ctrl+K"}),
     {"risultati", "R&isultati", 1, 36, ha<&F::risultati>, mostra<&F::risultati>, "Ctrl+R"},
     {"sicurezza", "&Sicurezza", 1, 37, ha<&F::sicurezza>, mostra<&F::sicurezza>},
     staccata({"nuovo", "Nu&ovo", 1, 38, ha<&F::nuovo>, mostra<&F::nuovo>}),
     {"duplica", "&Duplica", 1, 39, ha<&F::duplica>, mostra<&F::duplica>, "", progettoAperto},
-    {"recenti", "R&ecenti", 1, 40, nullptr, nullptr, "", nullptr, recenti},
+    {"recenti", "R&ecenti", 1, 40, nullptr, nullptr, "", nullptr, nullptr, recenti},
     staccata({"lingua", "Lin&gua", 1, 41, ha<&F::lingua>, mostra<&F::lingua>}),
     {"tasti", "&Tasti", 1, 42, ha<&F::tasti>, mostra<&F::tasti>},
 

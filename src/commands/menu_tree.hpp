@@ -34,7 +34,10 @@ struct VoceMenu {
     /// Its keys, as the whole world writes them ("Ctrl+O"); empty: none.
     std::string_view tasti = {};
     /// Whether the command has anything to do just now, asked when its menu opens; null: always.
-    bool (*possibile)(const FormeProgramma& forme) = nullptr;
+    bool (*possibile)(const Programma& programma) = nullptr;
+    /// What the command would act on just now, asked with `possibile`: the name of a form,
+    /// translated; null for one that needs no such word.
+    std::string (*cosa)(const Programma& programma) = nullptr;
     /// The items of a menu that is filled anew each time it opens; null for one whose items stand
     /// in the tree.
     std::vector<VoceMutevole> (*riempi)(Programma& programma) = nullptr;

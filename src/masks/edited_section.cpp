@@ -17,12 +17,14 @@ std::size_t campoSezione(double project::Sezione::*valore) {
     return static_cast<std::size_t>(trovato - std::begin(campiSezione));
 }
 
+void daiTipo(project::Sezione& sezione) {
+    if (!project::parteInVigore(sezione)) sezione.tipoDiaframma = true;
+}
+
 SezioneEditata::SezioneEditata(project::Sezione& sezione, bool& modificato)
     : sezione_(sezione), modificato_(modificato) {
-    if (const auto tipo = project::parteInVigore(sezione))
-        tipo_ = *tipo;
-    else
-        sezione.tipoDiaframma = true;
+    daiTipo(sezione);
+    tipo_ = project::parteInVigore(sezione).value_or(tipo_);
     for (std::size_t i = 0; i < numeroCampiSezione; ++i)
         testi_[i] = base::testoNumero(
             project::mostrato(campiSezione[i].campo(), sezione.*campiSezione[i].valore));

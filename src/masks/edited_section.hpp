@@ -63,6 +63,9 @@ inline constexpr std::size_t numeroCampiSezione = std::size(campiSezione);
 /// Place of a field in `campiSezione`; their number if it is none.
 [[nodiscard]] std::size_t campoSezione(double project::Sezione::*valore);
 
+/// A section without a type becomes a diaphragm.
+void daiTipo(project::Sezione& sezione);
+
 /// The section as its form edits it: one of four types, and the texts of all fields, those of the
 /// types that are not chosen as well. Lengths are typed in mm.
 class SezioneEditata {

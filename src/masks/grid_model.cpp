@@ -244,6 +244,7 @@ bool ModelloGriglia::scrivi(PostoGriglia posto, std::string_view testo, base::Di
         return false;
     }
     chiudiEditore(false);
+    storia_.chiudi();
     scriviCella(testo);
     entra(posto);
     return true;

@@ -333,7 +333,8 @@ Nomi sceglibili(const Programma& p) {
 }
 
 TEST_F(ProgrammaTest, LetsOnlyThoseCommandsBeChosenThatShowNoFormOrOneThatIsPluggedIn) {
-    EXPECT_EQ(sceglibili(programma({})), (Nomi{"FileApri", "FileSalva", "fine"}));
+    const Nomi sempre{"FileApri", "FileSalva", "annulla", "ripeti", "fine"};
+    EXPECT_EQ(sceglibili(programma({})), sempre);
     const std::tuple<const char*, std::function<void(FormeProgramma&)>, Nomi> casi[] = {
         {"maschera",
          [](auto& f) { f.maschera = [](masks::Maschere&) {}; },
@@ -352,8 +353,6 @@ TEST_F(ProgrammaTest, LetsOnlyThoseCommandsBeChosenThatShowNoFormOrOneThatIsPlug
         {"guida", [](auto& f) { f.guida = [](int) {}; }, {"AiutoFile", "AiutoEdit", "AiutoStampa"}},
         {"sommario", [](auto& f) { f.sommario = [] {}; }, {"sommario"}},
         {"informazioni", [](auto& f) { f.informazioni = [](const std::string&) {}; }, {"about"}},
-        {"annulla", [](auto& f) { f.annulla = [] {}; }, {"annulla"}},
-        {"ripeti", [](auto& f) { f.ripeti = [] {}; }, {"ripeti"}},
         {"controlli", [](auto& f) { f.controlli = [] {}; }, {"controlli"}},
         {"risultati", [](auto& f) { f.risultati = [] {}; }, {"risultati"}},
         {"sicurezza", [](auto& f) { f.sicurezza = [] {}; }, {"sicurezza"}},
@@ -362,12 +361,12 @@ TEST_F(ProgrammaTest, LetsOnlyThoseCommandsBeChosenThatShowNoFormOrOneThatIsPlug
         {"lingua", [](auto& f) { f.lingua = [] {}; }, {"lingua"}},
         {"tasti", [](auto& f) { f.tasti = [] {}; }, {"tasti"}},
     };
-    std::size_t quanti = 3;
+    std::size_t quanti = sempre.size();
     for (const auto& [forma, inserisci, attesi] : casi) {
         FormeProgramma forme;
         inserisci(forme);
         Nomi sue = sceglibili(programma(forme));
-        for (const char* sempre : {"FileApri", "FileSalva", "fine"}) std::erase(sue, sempre);
+        for (const auto& voce : sempre) std::erase(sue, voce);
         EXPECT_EQ(sue, attesi) << forma;
         quanti += sue.size();
     }
@@ -378,13 +377,11 @@ TEST_F(ProgrammaTest, LetsOnlyThoseCommandsBeChosenThatShowNoFormOrOneThatIsPlug
 
 TEST_F(ProgrammaTest, AsksWhetherACommandHasAnythingToDo) {
     FormeProgramma forme;
-    forme.annulla = forme.ripeti = [] {};
-    forme.annullabile = [] { return false; };
     forme.duplica = [] {};
     const auto p = programma(forme);
     EXPECT_TRUE(p.puo(voceMenu("annulla")));
     EXPECT_FALSE(p.possibile(voceMenu("annulla")));
-    EXPECT_TRUE(p.possibile(voceMenu("ripeti")));  // nobody answers
+    EXPECT_FALSE(p.possibile(voceMenu("ripeti")));
     EXPECT_FALSE(p.possibile(voceMenu("duplica")));
     project::fileCorrente = ambiente.lavori / "muro.kvd";
     EXPECT_TRUE(p.possibile(voceMenu("duplica")));
@@ -419,8 +416,6 @@ class MenuIntero : public ProgrammaTest {
         forme.guida = [this](int contesto) { mostrate += "page " + std::to_string(contesto); };
         forme.sommario = dice("contents");
         forme.informazioni = riceve("about box");
-        forme.annulla = dice("undone");
-        forme.ripeti = dice("redone");
         forme.controlli = dice("remarks");
         forme.risultati = dice("results");
         forme.sicurezza = dice("safety");
@@ -437,9 +432,11 @@ class MenuIntero : public ProgrammaTest {
         mostrate.clear();
         nomi.attuali.clear();
         nomi.proposte.clear();
+        finestra.ultimoStato.clear();
         if (p.esegui(voceMenu(nome))) mostrate += "end";
         if (!nomi.attuali.empty()) mostrate += "open dialog";
         if (!nomi.proposte.empty()) mostrate += "save dialog";
+        if (finestra.ultimoStato.starts_with("Nulla")) mostrate += finestra.ultimoStato;
         return mostrate;
     }
 
@@ -473,8 +470,8 @@ TEST_F(MenuIntero, BringsAboutWhatEachItemSays) {
         {"espotabtxt", "txt"},
         {"configura", "pens"},
         {"AiutoStampa", "page 26"},
-        {"annulla", "undone"},
-        {"ripeti", "redone"},
+        {"annulla", "Nulla da annullare"},
+        {"ripeti", "Nulla da ripetere"},
         {"controlli", "remarks"},
         {"risultati", "results"},
         {"sicurezza", "safety"},

@@ -81,6 +81,9 @@ Menu1::Menu1() {
         if (!menuBar()->actions().isEmpty())
             menuBar()->setActiveAction(menuBar()->actions().first());
     });
+    // What else does again, in many programs; the menu shows Ctrl+Y.
+    connect(new QShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_Z, this), &QShortcut::activated, this,
+            [this] { esegui(commands::voceMenu("ripeti")); });
     resize(misuraIniziale(screen()->availableSize()));
     setMinimumSize(480, 340);
     // In the middle of the screen by itself: the box that greets is placed before a window manager
@@ -142,6 +145,9 @@ void Menu1::costruisciMenu() {
 void Menu1::chiediAllApertura(const QMenu& menu, QAction& azione, const commands::VoceMenu& voce) {
     connect(&menu, &QMenu::aboutToShow, &azione, [this, &azione, &voce] {
         azione.setEnabled(programma_->puo(voce) && programma_->possibile(voce));
+        if (voce.cosa == nullptr) return;
+        const std::string cosa = voce.cosa(*programma_);
+        azione.setText(tradotto(voce.testo) + qt(cosa.empty() ? cosa : ": " + cosa));
     });
     connect(&menu, &QMenu::aboutToHide, &azione,
             [this, &azione, &voce] { azione.setEnabled(programma_->puo(voce)); });

@@ -201,6 +201,7 @@ void Base1::mostraValore(std::size_t campo) {
 void Base1::mostraTornato(bool tornato) {
     if (!tornato) return spiega();
     mostraAttivo();
+    emit digitata();  // of a choice not all that comes back can be seen
 }
 
 void Base1::mostraAttivo() {

@@ -169,27 +169,33 @@ TEST_F(Menu1Test, ShowsTheKeysOfAnItemBesideIt) {
 }
 
 // While the menu is closed the keys ask for themselves, each time anew.
-TEST_F(Menu1Test, AsksWhetherAnItemHasAnythingToDoWhenItsMenuOpens) {
-    int annullati = 0;
-    bool annullabile = false;
-    forme.annulla = [&] { ++annullati; };
-    forme.annullabile = [&] { return annullabile; };
+TEST_F(Menu1Test, TakesFormsBackByKeysAndSaysInItsMenuWhich) {
+    forme.maschera = [](masks::Maschere& m) { m.conferma({}, {"Altro muro"}); };
     apri();
+    fileCorrente = ambiente.lavori / "muro.kvd";
     ASSERT_TRUE(QTest::qWaitForWindowActive(&finestra));
-    QTest::keyClick(&finestra, Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(annullati, 0);
     auto* menu = voce("strumenti")->menu();
-    menu->popup(QPoint(10, 10));
-    EXPECT_FALSE(voce("annulla")->isEnabled());
-    EXPECT_FALSE(voce("ripeti")->isEnabled());  // its form is missing
-    menu->close();
-    annullabile = true;
+    const auto mostrate = [&] {
+        menu->popup(QPoint(10, 10));
+        QStringList testi;
+        for (const char* nome : {"annulla", "ripeti"})
+            testi += (voce(nome)->isEnabled() ? "" : "off ") + voce(nome)->text();
+        menu->close();
+        return testi.join(", ").toStdString();
+    };
     QTest::keyClick(&finestra, Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(annullati, 1);
-    menu->popup(QPoint(10, 10));
-    EXPECT_TRUE(voce("annulla")->isEnabled());
-    EXPECT_FALSE(voce("ripeti")->isEnabled());
-    menu->close();
+    EXPECT_EQ(mostrate(), "off An&nulla, off &Ripeti");
+    finestra.esegui(commands::voceMenu("EditTitoli"));
+    EXPECT_EQ(mostrate(), "An&nulla: Titoli, off &Ripeti");
+    QTest::keyClick(&finestra, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(project::Progetto.titoli[1], "");
+    EXPECT_EQ(test::controllo<QLabel>(finestra, "stato").text(), "Annullato: Titoli");
+    EXPECT_EQ(mostrate(), "off An&nulla, &Ripeti: Titoli");
+    QTest::keyClick(&finestra, Qt::Key_Y, Qt::ControlModifier);
+    EXPECT_EQ(project::Progetto.titoli[1], "Altro muro");
+    QTest::keyClick(&finestra, Qt::Key_Z, Qt::ControlModifier);
+    QTest::keyClick(&finestra, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(project::Progetto.titoli[1], "Altro muro");
 }
 
 TEST_F(Menu1Test, DuplicatesNoProjectWhereNoneIsOpen) {
