@@ -1,0 +1,51 @@
+#include "scene/canvas.hpp"
+
+#include <algorithm>
+
+namespace korven::scene {
+
+void Tela::disegna(Elemento elemento, int numero, Figura figura) {
+    Primitiva& una = figure_.emplace_back();
+    una.elemento = elemento;
+    una.numero = numero;
+    una.figura = std::move(figura);
+}
+
+bool Tela::libero(const Riquadro& posto) const {
+    return posto.sinistra >= tutto_.sinistra && posto.destra <= tutto_.destra &&
+           posto.alto >= tutto_.alto && posto.basso <= tutto_.basso &&
+           std::none_of(occupati_.begin(), occupati_.end(),
+                        [&](const Riquadro& uno) { return uno.tocca(posto); });
+}
+
+void Tela::colloca(const Scritta& s) {
+    Testo testo{.punto = {},
+                .corpo = s.corpo,
+                .grassetto = s.grassetto,
+                .verticale = s.verticale,
+                .testo = s.testo,
+                .tinta = s.tinta,
+                .piastra = s.piastra,
+                .larghezza = larghezza(s.testo, s.corpo, s.grassetto)};
+    for (const Posto& posto : s.posti) {
+        testo.punto = posto.punto;
+        testo.ancora = posto.ancora;
+        testo.fondo = posto.fondo;
+        const Riquadro r = testo.riquadro();
+        if (!libero(r)) continue;
+        occupa(r);
+        disegna(s.elemento, s.numero, std::move(testo));
+        return;
+    }
+}
+
+std::vector<Primitiva> Tela::concludi() {
+    std::stable_sort(scritte_.begin(), scritte_.end(),
+                     [](const Scritta& a, const Scritta& b) { return a.grado < b.grado; });
+    for (const Scritta& s : scritte_)
+        if (!s.testo.empty()) colloca(s);
+    scritte_.clear();
+    return std::move(figure_);
+}
+
+}  // namespace korven::scene

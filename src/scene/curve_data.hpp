@@ -1,0 +1,43 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "live/view.hpp"
+#include "live/wall.hpp"
+#include "project/units.hpp"
+#include "scene/palette.hpp"
+
+namespace korven::scene {
+
+/// A line along the wall, node 1 in element 0, in stored units.
+struct Serie {
+    std::vector<double> valori;
+    Ruolo linea = Ruolo::curva;
+    Ruolo fondo = Ruolo::fondoCurva;  ///< of the field to the axis
+    bool riempita = true;
+    std::string_view nome = {};  ///< Italian key; empty where the curve is the only one
+};
+
+/// What is drawn beside the wall.
+struct DatiCurva {
+    project::Unita unita;
+    std::string_view titolo;  ///< Italian key
+    /// Pressures are drawn on the side that they come from: positive ones to the left.
+    bool versoMonte = false;
+    std::vector<Serie> serie;
+    /// The two last series are the borders of an envelope.
+    bool fascia = false;
+};
+
+/// The curve of a view; without series where nothing is known of the stage, or where a number is
+/// none.
+/// @param fase  counted from 1; 0: the envelope of the stages that stand
+[[nodiscard]] DatiCurva datiCurva(const live::PareteViva& parete, int fase, live::Curva curva);
+
+/// Steps 1, 2 or 5 times a power of ten: the smallest that divides the range into `massimo` at
+/// most.
+[[nodiscard]] double passoAsse(double ampiezza, int massimo);
+
+}  // namespace korven::scene

@@ -1,0 +1,100 @@
+#include "scene/reading.hpp"
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+#include "base/translated_texts.hpp"
+#include "drawings/log/layer_description.hpp"
+#include "live/envelope.hpp"
+#include "project/shown_number.hpp"
+#include "scene/shown_values.hpp"
+#include "scene/shown_wall.hpp"
+
+namespace korven::scene {
+
+namespace {
+
+// Between which two nodes a depth lies, and where.
+struct Luogo {
+    std::size_t nodo = 0;
+    double parte = 0;
+
+    [[nodiscard]] double operator()(const std::vector<double>& v) const {
+        const double a = v[nodo], b = v[std::min(nodo + 1, v.size() - 1)];
+        return a + parte * (b - a);
+    }
+    [[nodiscard]] Letto uno(const std::vector<double>& v) const { return {(*this)(v), (*this)(v)}; }
+    [[nodiscard]] Letto due(const live::Fascia& f) const {
+        return {(*this)(f.minimo), (*this)(f.massimo)};
+    }
+};
+
+Luogo luogo(const live::PareteViva& parete, double z) {
+    const double passi = std::clamp<double>(z / parete.h, 0, parete.nSeg);
+    const auto nodo = static_cast<std::size_t>(std::min<double>(passi, parete.nSeg - 1));
+    return {nodo, passi - static_cast<double>(nodo)};
+}
+
+std::string strato(const Mostrata& m, double z) {
+    for (int i = 1; i <= m.nStrati(); ++i)
+        if (z <= m.dati().profStrato[i]) {
+            const std::string testo = drawings::leggiDescrizione(m.dati().descrStrato[i]).testo;
+            return testo.substr(0, testo.find('|'));
+        }
+    return {};
+}
+
+void aggiungi(std::string& testo, std::string_view nome, const std::optional<Letto>& letto,
+              const project::Unita& unita) {
+    if (!letto || !std::isfinite(letto->minimo) || !std::isfinite(letto->massimo)) return;
+    testo.append("  \u00B7  ").append(nome).append(" ");
+    const std::string minimo = project::numeroMostrato(letto->minimo, 1, unita);
+    const std::string massimo = project::numeroMostrato(letto->massimo, 1, unita);
+    if (minimo != massimo) testo.append(minimo).append(" \u2026 ");
+    testo.append(massimo).append(" ").append(unita.mostrata);
+}
+
+}  // namespace
+
+Lettura lettura(const live::PareteViva& parete, const live::Vista& vista, double z) {
+    const Mostrata m = mostrata(parete, vista);
+    Lettura letta;
+    letta.z = std::clamp(z, 0.0, m.lunghezza);
+    letta.strato = strato(m, letta.z);
+    letta.inviluppo = vista.fase == 0;
+    if (letta.inviluppo && parete.fasiInEquilibrio() > 0) {
+        const Luogo dove = luogo(parete, letta.z);
+        const live::Inviluppo tutte = live::inviluppo(parete);
+        letta.y = dove.due(tutte.y);
+        letta.momento = dove.due(tutte.momento);
+        letta.taglio = dove.due(tutte.taglio);
+        letta.pressione = dove.due(tutte.pressione);
+    } else if (const auto* fase = parete.fase(vista.fase)) {
+        const Luogo dove = luogo(parete, letta.z);
+        letta.y = dove.uno(fase->y);
+        letta.momento = dove.uno(fase->momento);
+        letta.taglio = dove.uno(fase->taglio);
+        letta.monte = dove.uno(fase->monte);
+        letta.valle = dove.uno(fase->valle);
+        letta.acqua = dove.uno(fase->acqua);
+    }
+    return letta;
+}
+
+std::string parole(const Lettura& letta) {
+    namespace unita = project::unita;
+    using base::traduttore;
+    std::string testo = quota(letta.z);
+    aggiungi(testo, "y", letta.y, unita::spostamentoFine);
+    aggiungi(testo, "M", letta.momento, unita::momento);
+    aggiungi(testo, "T", letta.taglio, unita::forza);
+    aggiungi(testo, traduttore("monte"), letta.monte, unita::pressione);
+    aggiungi(testo, traduttore("valle"), letta.valle, unita::pressione);
+    aggiungi(testo, traduttore("acqua"), letta.acqua, unita::pressione);
+    aggiungi(testo, traduttore("pressione netta"), letta.pressione, unita::pressione);
+    if (!letta.strato.empty()) testo += "  \u00B7  " + letta.strato;
+    return testo;
+}
+
+}  // namespace korven::scene

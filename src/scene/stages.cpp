@@ -1,0 +1,98 @@
+#include <cmath>
+#include <map>
+#include <string>
+
+#include "base/translated_texts.hpp"
+#include "scene/parts.hpp"
+#include "scene/shown_values.hpp"
+
+namespace korven::scene {
+
+namespace {
+
+constexpr double quotaUno = 3.0, quotaDue = 1.2;  // of the two dimension lines from the right [em]
+
+double alCentimetro(double z) { return std::round(project::inCentimetri(z)) / project::centimetri; }
+
+double fineLivelli(const Inquadratura& q) { return q.xSezione - (quotaUno + 0.9) * q.em; }
+
+// A dimension between two depths, its length written along it.
+void dimensione(const Mostrata& m, const Inquadratura& q, double da, double a, double dalBordo,
+                Tela& tela) {
+    const double x = q.xSezione - dalBordo * q.em;
+    const double y1 = q.y(da), y2 = std::min(q.y(a), q.yFondo);
+    if (!(a > da) || y2 - y1 < 3) return;
+    const Tinta tinta{Ruolo::quota};
+    tela.disegna(Elemento::quota, 0, Linea{{{x, y1}, {x, y2}}, tinta});
+    const double t = 0.32 * q.em;
+    for (const double y : {y1, y2})
+        tela.disegna(Elemento::quota, 0, Linea{{{x - t, y + t}, {x + t, y - t}}, tinta, 1.3});
+    const std::string testo = quota(a - da);
+    const double corpo = 0.9 * q.em;
+    if (tela.larghezza(testo, corpo) + 0.8 * q.em > y2 - y1) return;
+    std::vector<Posto> posti;
+    for (const double parte : {0.5, 0.35, 0.65}) {
+        const double y = y1 + parte * (y2 - y1);
+        posti.push_back({{x, y}, Ancora::centro, fondoValle(m, q, y)});
+    }
+    tela.scrivi({.grado = Grado::quota,
+                 .elemento = Elemento::quota,
+                 .testo = testo,
+                 .tinta = {Ruolo::testoTenue},
+                 .corpo = corpo,
+                 .verticale = true,
+                 .posti = std::move(posti)});
+}
+
+}  // namespace
+
+void disegnaFasi(const Mostrata& m, const Inquadratura& q, Tela& tela) {
+    // Stages of one depth, to the centimetre, share a line.
+    std::map<double, std::string> livelli;
+    for (int k = 1; k <= m.nFasi(); ++k) {
+        const double z = m.dati().profFase[k];
+        if (!disegnabile(z)) continue;
+        std::string& nomi = livelli[alCentimetro(z)];
+        nomi += (nomi.empty() ? "" : ", ") + std::to_string(k);
+    }
+    const double fine = fineLivelli(q);
+    for (const auto& [z, nomi] : livelli) {
+        const double y = q.y(z);
+        if (!q.visibile(y)) continue;
+        const bool mostrato = z == alCentimetro(m.scavo);
+        const int primo = std::atoi(nomi.c_str());
+        tela.disegna(Elemento::fase, primo,
+                     Linea{{{q.xValle, y}, {fine, y}}, {Ruolo::fase}, 1, Tratteggio::linee});
+        std::vector<Posto> posti;
+        for (const double su : {-0.8, 0.8, 0.0})
+            posti.push_back(
+                {{fine, y + su * q.em}, Ancora::destra, fondoValle(m, q, y + su * q.em)});
+        tela.scrivi({.grado = Grado::fase,
+                     .elemento = Elemento::fase,
+                     .numero = primo,
+                     .testo = base::traduttore("fase") + " " + nomi + "  " + quota(z),
+                     .tinta = {mostrato ? Ruolo::testo : Ruolo::fase},
+                     .corpo = 0.9 * q.em,
+                     .grassetto = mostrato,
+                     .posti = std::move(posti)});
+    }
+}
+
+void disegnaQuote(const Mostrata& m, const Inquadratura& q, Tela& tela) {
+    if (m.lunghezza == 0) return;
+    const double x = q.xSezione - (quotaUno + 0.4) * q.em;
+    const double piede = q.y(m.lunghezza);
+    for (const double y : {q.yTesta, piede})
+        tela.disegna(Elemento::quota, 0,
+                     Linea{{{q.xValle + 4, y}, {x + (quotaUno - quotaDue + 0.8) * q.em, y}},
+                           {Ruolo::quota},
+                           0.7,
+                           Tratteggio::punti});
+    if (m.fase > 0 && m.scavo > 0 && m.scavo < m.lunghezza) {
+        dimensione(m, q, 0, m.scavo, quotaUno, tela);
+        dimensione(m, q, m.scavo, m.lunghezza, quotaUno, tela);
+    }
+    dimensione(m, q, 0, m.lunghezza, quotaDue, tela);
+}
+
+}  // namespace korven::scene

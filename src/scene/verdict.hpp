@@ -1,0 +1,24 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "scene/palette.hpp"
+#include "scene/shown_wall.hpp"
+
+namespace korven::scene {
+
+/// What is said of the wall, and how heavy it is.
+struct Verdetto {
+    std::string testo;  ///< one sentence, translated
+    Ruolo ruolo = Ruolo::avviso;
+};
+
+/// Which stage is shown: "fase 2 di 4  ·  scavo 5.00 m".
+[[nodiscard]] std::string titolo(const Mostrata& m);
+
+/// What keeps values from being shown, a wall from being computed or from standing; empty for a
+/// stage in equilibrium.
+[[nodiscard]] std::vector<Verdetto> verdetti(const Mostrata& m, const std::string& impedimento);
+
+}  // namespace korven::scene

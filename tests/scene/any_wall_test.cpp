@@ -1,0 +1,151 @@
+// What must hold of the picture of any wall: no text over another, each on the ground that it says
+// it stands on, all numbers finite.
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+#include <set>
+
+#include "scene/polygon.hpp"
+#include "scene/scene.hpp"
+#include "support/random_walls.hpp"
+#include "support/sample_projects.hpp"
+#include "support/scene_parts.hpp"
+#include "support/wall_files.hpp"
+
+namespace korven::scene {
+namespace {
+
+constexpr Misura misure[] = {{480, 340}, {900, 580}, {1600, 1000}, {120, 120}};
+
+void finiti(const std::vector<Punto>& punti, const std::string& dove) {
+    for (const Punto& p : punti)
+        ASSERT_TRUE(std::isfinite(p.x) && std::isfinite(p.y) && std::fabs(p.x) < 1e7 &&
+                    std::fabs(p.y) < 1e7)
+            << dove;
+}
+
+struct Punti {
+    const std::vector<Punto>& operator()(const Testo& t) const { return uno = {t.punto}; }
+    template <class F>
+    const std::vector<Punto>& operator()(const F& f) const {
+        return f.punti;
+    }
+    mutable std::vector<Punto> uno;
+};
+
+void verifica(const Scena& s, const std::string& dove) {
+    for (const Primitiva& p : s.primitive) finiti(std::visit(Punti(), p.figura), dove);
+    const auto testi = test::figure<Testo>(s);
+    for (std::size_t i = 0; i < testi.size(); ++i) {
+        const Riquadro r = testi[i].riquadro();
+        EXPECT_GE(r.sinistra, 0) << dove << testi[i].testo;
+        EXPECT_LE(r.destra, s.larghezza) << dove << testi[i].testo;
+        EXPECT_GE(r.alto, 0) << dove << testi[i].testo;
+        EXPECT_LE(r.basso, s.altezza) << dove << testi[i].testo;
+        EXPECT_TRUE(testi[i].piastra) << testi[i].testo;  // so its ground is what it says
+        for (std::size_t j = 0; j < i; ++j)
+            EXPECT_FALSE(r.tocca(testi[j].riquadro()))
+                << dove << testi[i].testo << " | " << testi[j].testo;
+    }
+}
+
+void verificaTutto(const project::DatiProgetto& dati, const std::string& nome) {
+    const auto parete = live::calcola(dati, 30);
+    for (const Misura& misura : misure)
+        for (int fase = 0; fase <= std::min(dati.nFasi, 2); ++fase) {
+            const auto curva = static_cast<live::Curva>((fase + dati.nStrati) % 4);
+            verifica(scena(parete, {fase, curva}, misura, MisuraStimata()), nome + ": ");
+        }
+}
+
+// Each text in its colour against the ground that it is painted on, in both palettes.
+void verificaContrasto(const Scena& s) {
+    for (const Testo& t : test::figure<Testo>(s))
+        for (const Tavolozza tavolozza : {Tavolozza::chiara, Tavolozza::scura})
+            EXPECT_GE(contrasto(colore(t.tinta, tavolozza), colore(t.fondo, tavolozza)), 4.5)
+                << t.testo;
+}
+
+TEST(AnyWall, HasNoTextOverAnother) {
+    test::MuriCasuali muri(1201);
+    for (int i = 0; i < 60; ++i) verificaTutto(muri.prossimo(), std::to_string(i));
+}
+
+TEST(AnyWall, OfTheExamplesHasNoTextOverAnotherAndReadsWell) {
+    for (const auto& file : test::muriIn(KORVEN_EXAMPLES)) {
+        const auto dati = test::leggiMuro(file);
+        verificaTutto(dati, file);
+        for (const auto curva : {live::Curva::pressioni, live::Curva::momento})
+            verificaContrasto(test::scenaDi(dati, {dati.nFasi, curva}));
+    }
+}
+
+project::DatiProgetto centoStrati() {
+    auto muro = test::muro().lungo(20);
+    for (int i = 1; i <= 100; ++i)
+        muro.strato({.fondo = 0.25 * i + (i >= 50 ? 1 : 0),
+                     .descrizione = "10" + std::to_string(i % 10) + "C" +
+                                    std::to_string(1 + i % 21) + " Strato numero " +
+                                    std::to_string(i)});
+    for (int j = 1; j <= 20; ++j) muro.tirante(0.4 * j, 500, 5, j % 2);
+    for (int k = 1; k <= 20; ++k) muro.fase({.scavo = 0.5 * k, .tiranti = 1.0 * k});
+    return muro.dati();
+}
+
+TEST(AnyWall, OfAHundredLayersNamesTheThickestThatHaveRoom) {
+    const auto dati = centoStrati();
+    verificaTutto(dati, "100");
+    const Scena s = test::scenaDi(dati, {}, {900, 580});
+    std::set<int> nominati;
+    for (const Primitiva& p : s.primitive)
+        if (p.elemento == Elemento::strato && std::holds_alternative<Testo>(p.figura))
+            nominati.insert(p.numero);
+    EXPECT_GT(nominati.size(), 5U);
+    EXPECT_LT(nominati.size(), 60U);
+    EXPECT_TRUE(nominati.contains(50));  // the one of 1.25 m
+    verificaContrasto(s);
+}
+
+TEST(AnyWall, HasAPictureAtTheExtremes) {
+    using test::muro;
+    const auto nulla = test::progettoVuoto();
+    verificaTutto(nulla, "new project");
+    verificaTutto(muro().lungo(0.5).fase({.scavo = 0.1}).dati(), "0.5 m");
+    verificaTutto(muro().lungo(60).strato({.fondo = 80}).fase({.scavo = 20}).dati(), "60 m");
+    verificaTutto(muro().fase({.scavo = 0}).dati(), "no excavation");
+    verificaTutto(muro().falda(-3).fase({.scavo = 2, .falda = -1}).dati(), "open water");
+    verificaTutto(muro().fase({.scavo = 30}).dati(), "dug below the toe");
+    auto senza = muro().dati();
+    senza.nStrati = 0;
+    verificaTutto(senza, "no layers");
+}
+
+TEST(AnyWall, LeavesOutWhatIsNoNumber) {
+    for (const double v : {std::numeric_limits<double>::quiet_NaN(),
+                           std::numeric_limits<double>::infinity(), -1e300, 1e300}) {
+        auto dati = test::progettoSemplice();
+        for (double project::DatiProgetto::*campo :
+             {&project::DatiProgetto::lunghezzaParatia, &project::DatiProgetto::faldaMonte,
+              &project::DatiProgetto::inclinazioneMonte, &project::DatiProgetto::sovraccMonte,
+              &project::DatiProgetto::momentoTesta, &project::DatiProgetto::rigidezzaEJ}) {
+            auto guasto = dati;
+            guasto.*campo = v;
+            live::PareteViva parete;
+            parete.dati = guasto;
+            for (const Misura& misura : misure)
+                verifica(scena(parete, {1}, misura, MisuraStimata()), std::to_string(v));
+        }
+        dati.profStrato[1] = dati.profTirante[1] = dati.profFase[1] = dati.faldaFase[1] =
+            dati.sovraccFase[1] = dati.tirantiFase[1] = v;
+        dati.sezione.tipoDiaframma = true;
+        dati.sezione.spessoreDiaframma = v;
+        live::PareteViva parete;
+        parete.dati = dati;
+        verifica(scena(parete, {1}, {900, 580}, MisuraStimata()), std::to_string(v));
+    }
+}
+
+}  // namespace
+}  // namespace korven::scene

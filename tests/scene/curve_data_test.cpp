@@ -1,0 +1,63 @@
+#include "scene/curve_data.hpp"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+#include "support/sample_projects.hpp"
+
+namespace korven::scene {
+namespace {
+
+using live::Curva;
+
+TEST(DatiCurva, AreThoseOfTheStage) {
+    const auto parete = live::calcola(test::progettoSemplice(), 40);
+    const DatiCurva momento = datiCurva(parete, 2, Curva::momento);
+    ASSERT_EQ(momento.serie.size(), 1U);
+    EXPECT_EQ(momento.serie[0].valori, parete.fase(2)->momento);
+    EXPECT_EQ(momento.unita.mostrata, "kN m");
+    EXPECT_EQ(datiCurva(parete, 2, Curva::taglio).serie[0].valori, parete.fase(2)->taglio);
+    EXPECT_EQ(datiCurva(parete, 1, Curva::spostamento).serie[0].valori, parete.fase(1)->y);
+    EXPECT_EQ(datiCurva(parete, 1, Curva::spostamento).unita.mostrata, "mm");
+}
+
+TEST(DatiCurva, HoldThePressuresOfBothSidesOnTheSideThatTheyComeFrom) {
+    const auto parete = live::calcola(test::progettoSemplice(), 40);
+    const DatiCurva p = datiCurva(parete, 2, Curva::pressioni);
+    ASSERT_EQ(p.serie.size(), 3U);
+    EXPECT_TRUE(p.versoMonte);
+    EXPECT_EQ(p.serie[0].valori, parete.fase(2)->monte);
+    EXPECT_EQ(p.serie[1].valori, parete.fase(2)->valle);
+    EXPECT_EQ(p.serie[2].valori, parete.fase(2)->acqua);
+    // Stage 1 has the same water on both sides.
+    EXPECT_EQ(datiCurva(parete, 1, Curva::pressioni).serie.size(), 2U);
+}
+
+TEST(DatiCurva, AreABandForTheEnvelope) {
+    const auto parete = live::calcola(test::progettoSemplice(), 40);
+    const DatiCurva e = datiCurva(parete, 0, Curva::momento);
+    ASSERT_EQ(e.serie.size(), 2U);
+    EXPECT_TRUE(e.fascia);
+    for (std::size_t i = 0; i < 41; ++i) EXPECT_LE(e.serie[0].valori[i], e.serie[1].valori[i]) << i;
+}
+
+TEST(DatiCurva, AreNothingWhereNothingIsKnownOrANumberIsNone) {
+    auto parete = live::calcola(test::progettoSemplice(), 40);
+    EXPECT_TRUE(datiCurva(parete, 3, Curva::momento).serie.empty());
+    parete.fasi[0].momento[5] = std::numeric_limits<double>::quiet_NaN();
+    EXPECT_TRUE(datiCurva(parete, 1, Curva::momento).serie.empty());
+    EXPECT_TRUE(datiCurva(live::PareteViva{}, 0, Curva::momento).serie.empty());
+}
+
+TEST(PassoAsse, IsOneTwoOrFiveTimesAPowerOfTen) {
+    EXPECT_DOUBLE_EQ(passoAsse(10, 5), 2);
+    EXPECT_DOUBLE_EQ(passoAsse(10, 4), 5);
+    EXPECT_DOUBLE_EQ(passoAsse(10, 1), 10);
+    EXPECT_DOUBLE_EQ(passoAsse(700, 4), 200);
+    EXPECT_DOUBLE_EQ(passoAsse(0.03, 4), 0.01);
+    EXPECT_DOUBLE_EQ(passoAsse(6, 1), 10);
+}
+
+}  // namespace
+}  // namespace korven::scene

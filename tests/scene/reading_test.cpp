@@ -1,0 +1,71 @@
+#include "scene/reading.hpp"
+
+#include <gtest/gtest.h>
+
+#include "support/sample_projects.hpp"
+
+namespace korven::scene {
+namespace {
+
+TEST(Lettura, TakesTheValueOfANode) {
+    const auto parete = live::calcola(test::progettoSemplice(), 40);  // 0.3 m apart
+    const auto& fase = *parete.fase(2);
+    const Lettura letta = lettura(parete, {2, live::Curva::momento}, 3);
+    EXPECT_EQ(letta.z, 3);
+    EXPECT_NEAR(letta.y->massimo, fase.y[10], 1e-12);
+    EXPECT_NEAR(letta.momento->massimo, fase.momento[10], 1e-9);
+    EXPECT_NEAR(letta.taglio->minimo, fase.taglio[10], 1e-9);
+    EXPECT_NEAR(letta.monte->massimo, fase.monte[10], 1e-9);
+    EXPECT_NEAR(letta.valle->massimo, fase.valle[10], 1e-9);
+    EXPECT_NEAR(letta.acqua->massimo, fase.acqua[10], 1e-9);
+    EXPECT_EQ(letta.strato, "Sabbia, limosa \"media\"");
+}
+
+TEST(Lettura, IsLinearBetweenTwoNodes) {
+    const auto parete = live::calcola(test::progettoSemplice(), 40);
+    const auto& m = parete.fase(1)->momento;
+    // A third of the way from node 21 (6.0 m) to node 22.
+    const Lettura letta = lettura(parete, {1, live::Curva::momento}, 6.1);
+    EXPECT_NEAR(letta.momento->massimo, m[20] + (m[21] - m[20]) / 3, 1e-9);
+    EXPECT_EQ(letta.strato, "Ghiaia");
+}
+
+TEST(Lettura, StaysOnTheWall) {
+    const auto parete = live::calcola(test::progettoSemplice(), 40);
+    EXPECT_EQ(lettura(parete, {1}, -5).z, 0);
+    const Lettura piede = lettura(parete, {1}, 50);
+    EXPECT_EQ(piede.z, 12);
+    EXPECT_EQ(piede.y->massimo, parete.fase(1)->y.back());
+}
+
+TEST(Lettura, GivesTheRangeOfAllStagesForTheEnvelope) {
+    const auto parete = live::calcola(test::progettoSemplice(), 40);
+    const Lettura letta = lettura(parete, {0}, 3);
+    const double a = parete.fase(1)->y[10], b = parete.fase(2)->y[10];
+    EXPECT_NEAR(letta.y->minimo, std::min(a, b), 1e-12);
+    EXPECT_NEAR(letta.y->massimo, std::max(a, b), 1e-12);
+    EXPECT_TRUE(letta.pressione);
+    EXPECT_FALSE(letta.monte);
+}
+
+TEST(Lettura, KnowsTheLayerWhereNothingIsComputed) {
+    auto dati = test::progettoSemplice();
+    dati.rigidezzaEJ = 0;
+    const Lettura letta = lettura(live::calcola(dati, 40), {1}, 2);
+    EXPECT_FALSE(letta.y);
+    EXPECT_EQ(parole(letta), "2.00 m  ·  Sabbia, limosa \"media\"");
+}
+
+TEST(Parole, TellValueAndUnitOfEach) {
+    Lettura letta;
+    letta.z = 4.2;
+    letta.strato = "Limo";
+    letta.y = Letto{0.0123, 0.0123};
+    letta.momento = Letto{-1.5, 4.5};
+    letta.valle = Letto{-2, -2};
+    EXPECT_EQ(parole(letta),
+              "4.20 m  ·  y 12.3 mm  ·  M -15.0 … 45.0 kN m  ·  valle -20.0 kN/m²  ·  Limo");
+}
+
+}  // namespace
+}  // namespace korven::scene

@@ -1,0 +1,333 @@
+#include "scene/scene.hpp"
+
+#include <gtest/gtest.h>
+
+#include <cstdio>
+
+#include "scene/polygon.hpp"
+#include "support/sample_projects.hpp"
+#include "support/sample_sections.hpp"
+#include "support/scene_parts.hpp"
+
+// Where the picture puts what the project says. Heights and widths are compared with what follows
+// by hand from the scale that the scene gives.
+
+namespace korven::scene {
+namespace {
+
+using live::Curva;
+using test::dice;
+using test::figure;
+using test::muro;
+using test::scenaDi;
+using test::testi;
+
+Riquadro pianta(const Scena& s) { return intorno(figure<Area>(s, Elemento::muro).at(0).punti); }
+
+TEST(Scena, DrawsTheWallToScaleWithTheThicknessOfItsSection) {
+    auto dati = test::progettoSemplice();
+    dati.sezione = structure::diaframmaSimmetrico();
+    dati.sezione.spessoreDiaframma = 80;  // cm
+    const Scena s = scenaDi(dati);
+    const Riquadro muro = pianta(s);
+    EXPECT_NEAR(muro.altezza(), 12 * s.scala, 1e-9);
+    EXPECT_NEAR(muro.larghezza(), 0.8 * s.scala, 1e-9);
+    EXPECT_EQ(muro.alto, s.y(0));
+    EXPECT_EQ(muro.basso, s.y(12));
+    EXPECT_LT(muro.basso, s.altezza);
+}
+
+TEST(Scena, GivesAThinSheetPileALeastWidth) {
+    auto dati = test::progettoSemplice();
+    dati.lunghezzaParatia = 40;
+    dati.sezione = {};
+    dati.sezione.tipoPalancola = true;
+    dati.sezione.palancolaAltAla = 5;
+    dati.sezione.palancolaSpessore = 1;  // 11 cm deep in all
+    const Scena s = scenaDi(dati);
+    EXPECT_LT(0.11 * s.scala, 4);
+    EXPECT_EQ(pianta(s).larghezza(), 4);
+}
+
+TEST(Scena, DrawsAnUndefinedSectionWithAUsualThickness) {
+    const Scena s = scenaDi(test::progettoSemplice());
+    EXPECT_NEAR(pianta(s).larghezza(), 0.6 * s.scala, 1e-9);
+}
+
+TEST(Scena, StretchesLayersToTheirDepths) {
+    const Scena s = scenaDi(test::progettoSemplice(), {2});
+    const auto primo = figure<Area>(s, Elemento::strato, 1);
+    ASSERT_EQ(primo.size(), 1U);  // dug away on the other side: stage 2 goes to 5 m
+    EXPECT_EQ(intorno(primo[0].punti).alto, s.y(0));
+    EXPECT_EQ(intorno(primo[0].punti).basso, s.y(4));
+    const auto secondo = figure<Area>(s, Elemento::strato, 2);
+    ASSERT_EQ(secondo.size(), 3U);  // behind, in front, under the curve
+    EXPECT_EQ(intorno(secondo[1].punti).alto, s.y(5));
+    EXPECT_TRUE(dice(testi(s, Elemento::strato, 1), "Sabbia"));
+    EXPECT_TRUE(dice(testi(s, Elemento::strato, 2), "Ghiaia"));
+}
+
+TEST(Scena, HatchesALayerWithCodeAndColourOfItsDescription) {
+    const auto dati = muro().strato({.fondo = 20, .descrizione = "103C3 Sabbia"}).dati();
+    const Scena s = scenaDi(dati);
+    const auto campite = figure<Campitura>(s, Elemento::strato, 1);
+    ASSERT_EQ(campite.size(), 2U);
+    EXPECT_EQ(campite[0].codice, 103);
+    EXPECT_EQ(campite[0].tinta, (Tinta{Ruolo::strato, 3}));
+}
+
+TEST(Scena, LeavesGroundBelowTheLastLayerWithoutColour) {
+    const auto dati = muro().lungo(10).strato({.fondo = 8, .descrizione = "103C3 Sabbia"}).dati();
+    const auto ignoto = figure<Area>(scenaDi(dati), Elemento::strato, 0);
+    ASSERT_FALSE(ignoto.empty());
+    EXPECT_EQ(ignoto[0].tinta, (Tinta{Ruolo::fondoStrato, 0}));
+}
+
+TEST(Scena, SlopesTheGroundByItsAngle) {
+    auto dati = test::progettoSemplice();
+    for (const double gradi : {10.0, -10.0}) {
+        dati.inclinazioneMonte = gradi;
+        const Scena s = scenaDi(dati);
+        const auto suolo = figure<Linea>(s, Elemento::terreno, 0).at(0).punti;
+        EXPECT_EQ(suolo[1].y, s.y(0));
+        // tan 10 degrees
+        EXPECT_NEAR((suolo[1].y - suolo[0].y) / (suolo[1].x - suolo[0].x),
+                    gradi > 0 ? 0.17633 : -0.17633, 1e-5);
+    }
+}
+
+TEST(Scena, DrawsTheExcavationOfTheStageShown) {
+    for (const auto& [fase, scavo] : {std::pair{1, 2.0}, {2, 5.0}, {0, 5.0}}) {
+        const Scena s = scenaDi(test::progettoSemplice(), {fase});
+        const auto linee = figure<Linea>(s, Elemento::terreno);
+        EXPECT_EQ(linee.at(1).punti[0].y, s.y(scavo)) << fase;
+    }
+}
+
+TEST(Scena, NamesAllStagesAtTheirLevels) {
+    const Scena s = scenaDi(test::progettoSemplice(), {2});
+    EXPECT_EQ(figure<Linea>(s, Elemento::fase, 1).at(0).punti[0].y, s.y(2));
+    EXPECT_TRUE(dice(testi(s, Elemento::fase), "fase 1  2.00 m"));
+    EXPECT_TRUE(dice(testi(s, Elemento::fase), "fase 2  5.00 m"));
+    EXPECT_TRUE(dice(testi(s, Elemento::nota), "fase 2 di 2  ·  scavo 5.00 m"));
+}
+
+TEST(Scena, GivesStagesOfOneDepthOneLine) {
+    const auto s = scenaDi(muro().fase({.scavo = 2}).fase({.scavo = 2.001}).dati(), {1});
+    EXPECT_TRUE(dice(testi(s, Elemento::fase), "fase 1, 2  2.00 m"));
+}
+
+TEST(Scena, MeasuresLengthExcavationAndEmbedment) {
+    const auto quote = testi(scenaDi(test::progettoSemplice(), {2}), Elemento::quota);
+    EXPECT_TRUE(dice(quote, "12.00 m"));
+    EXPECT_TRUE(dice(quote, "5.00 m"));
+    EXPECT_TRUE(dice(quote, "7.00 m"));
+}
+
+TEST(Scena, DrawsAnchorsFromTheirHeadsWithTheForceOfTheStage) {
+    const auto dati = test::progettoSemplice();
+    const auto parete = live::calcola(dati, 40);
+    const Scena s = scenaDi(dati, {2});
+    const auto asse = figure<Linea>(s, Elemento::tirante, 1).at(0).punti;
+    EXPECT_EQ(asse[0].y, s.y(1.5));
+    EXPECT_GT(asse[1].y, asse[0].y);  // downwards,
+    EXPECT_LT(asse[1].x, asse[0].x);  // into the ground
+    char forza[32];
+    std::snprintf(forza, sizeof forza, "%.1f", 10 * parete.fase(2)->tiri[0]);
+    EXPECT_TRUE(dice(testi(s, Elemento::tirante, 1), std::string("T1  1.50 m  ") + forza + " kN"));
+}
+
+TEST(Scena, DashesAnchorsOfLaterStages) {
+    const Scena s = scenaDi(test::progettoSemplice(), {1});
+    EXPECT_EQ(figure<Linea>(s, Elemento::tirante, 1).at(0).tratteggio, Tratteggio::linee);
+    EXPECT_TRUE(dice(testi(s, Elemento::tirante, 1), "T1  1.50 m"));
+}
+
+TEST(Scena, DrawsStrutsOnTheExcavatedSide) {
+    auto dati = test::progettoSemplice();
+    dati.tipoTirante[1] = valore(project::TipoTirante::trazioneCompressione);
+    const Scena s = scenaDi(dati, {2});
+    const Riquadro barra = intorno(figure<Area>(s, Elemento::tirante, 1).at(0).punti);
+    EXPECT_EQ(barra.sinistra, pianta(s).destra);
+    EXPECT_NEAR((barra.alto + barra.basso) / 2, s.y(1.5), 1e-9);
+}
+
+TEST(Scena, ShowsTheLoadsWithTheirValues) {
+    auto dati = test::progettoSemplice();  // 1 t/m2 behind the wall
+    dati.momentoTesta = 2;
+    dati.forzaTesta = -1.5;
+    dati.sforzoNormale = 30;
+    dati.pressioneOrizz = 0.25;
+    dati.sovraccFase[2] = 0.5;
+    const Scena s = scenaDi(dati, {2});
+    EXPECT_TRUE(dice(testi(s, Elemento::sovraccarico), "q 10 kN/m²"));
+    EXPECT_TRUE(dice(testi(s, Elemento::sovraccarico, 2), "q 5 kN/m²"));
+    EXPECT_TRUE(dice(testi(s, Elemento::sovraccarico), "p 2.5 kN/m²"));
+    EXPECT_TRUE(dice(testi(s, Elemento::caricoTesta), "M 20.0 kN m"));
+    EXPECT_TRUE(dice(testi(s, Elemento::caricoTesta), "F -15.0 kN"));
+    EXPECT_TRUE(dice(testi(s, Elemento::caricoTesta), "N 300.0 kN"));
+}
+
+TEST(Scena, PointsLoadsTheWayTheyAct) {
+    auto dati = test::progettoSemplice();
+    const auto forza = [&](double t) {
+        dati.forzaTesta = t;
+        const auto punti = figure<Freccia>(scenaDi(dati), Elemento::caricoTesta).at(0).punti;
+        return punti.back().x - punti.front().x;
+    };
+    EXPECT_GT(forza(1), 0);  // towards the excavation
+    EXPECT_LT(forza(-1), 0);
+    dati.forzaTesta = 0;
+    const auto momento = [&](double tm) {
+        dati.momentoTesta = tm;
+        const auto punti = figure<Freccia>(scenaDi(dati), Elemento::caricoTesta).at(0).punti;
+        return punti.back().x - punti.front().x;
+    };
+    EXPECT_GT(momento(1), 0);  // clockwise: the arc goes over the head to the excavation
+    EXPECT_LT(momento(-1), 0);
+    const auto q = figure<Freccia>(scenaDi(dati), Elemento::sovraccarico).at(0).punti;
+    EXPECT_GT(q.back().y, q.front().y);  // down
+}
+
+TEST(Scena, ShowsTheWaterOfBothSides) {
+    const Scena s = scenaDi(test::progettoSemplice(), {2});
+    const auto acque = testi(s, Elemento::acqua);
+    EXPECT_TRUE(dice(acque, "3.00 m"));
+    EXPECT_TRUE(dice(acque, "5.00 m"));
+    EXPECT_EQ(figure<Linea>(s, Elemento::acqua).at(0).punti[0].y, s.y(3));
+}
+
+TEST(Scena, FloodsWhatLiesUnderOpenWater) {
+    auto dati = test::progettoSemplice();
+    dati.faldaMonte = -1;
+    dati.faldaFase[2] = 3;  // two metres above the excavation
+    const Scena s = scenaDi(dati, {2});
+    const auto specchi = figure<Area>(s, Elemento::acqua);
+    const auto alto = [&](double z) {
+        return std::any_of(specchi.begin(), specchi.end(), [&](const Area& a) {
+            return a.tinta.ruolo == Ruolo::fondoAcqua && intorno(a.punti).alto == s.y(z);
+        });
+    };
+    EXPECT_TRUE(alto(-1));
+    EXPECT_TRUE(alto(3));
+}
+
+TEST(Scena, DrawsTheRestraints) {
+    auto dati = test::progettoSemplice();
+    EXPECT_TRUE(figure<Area>(scenaDi(dati), Elemento::vincolo).empty());
+    dati.vincoloTesta = 2;
+    dati.vincoloPiede = 3;
+    const Scena s = scenaDi(dati);
+    EXPECT_EQ(figure<Area>(s, Elemento::vincolo).size(), 1U);
+    EXPECT_EQ(figure<Linea>(s, Elemento::vincolo).at(0).punti[0].y, s.y(12));
+}
+
+TEST(Scena, DrawsTheCurveAtTheDepthsOfTheNodesAndWritesItsPeaks) {
+    const auto dati = test::progettoSemplice();
+    const auto parete = live::calcola(dati, 40);
+    const Scena s = scenaDi(dati, {2, Curva::momento});
+    const auto curva = figure<Linea>(s, Elemento::curva).at(0).punti;
+    ASSERT_EQ(curva.size(), 41U);
+    for (std::size_t i = 0; i < 41; ++i)
+        EXPECT_NEAR(curva[i].y, s.y(0.3 * static_cast<double>(i)), 1e-9);
+    const auto estremi = equilibrium::estremi(*parete.fase(2), parete.h);
+    char atteso[64];
+    std::snprintf(atteso, sizeof atteso, "%.1f kN m  %.2f m", 10 * estremi.momentoMassimo.valore,
+                  estremi.momentoMassimo.z);
+    EXPECT_TRUE(dice(testi(s, Elemento::estremo), atteso));
+    EXPECT_TRUE(dice(testi(s, Elemento::asse), "Momento [kN m]"));
+    // Widths are proportional: the curve's axis is where it is 0, at the head.
+    const auto& m = parete.fase(2)->momento;
+    const double k = (curva[20].x - curva[0].x) / (m[20] - m[0]);
+    for (std::size_t i = 1; i < 41; ++i)
+        EXPECT_NEAR(curva[i].x - curva[0].x, k * (m[i] - m[0]), 1e-6);
+}
+
+TEST(Scena, FillsTheBandOfTheEnvelope) {
+    const Scena s = scenaDi(test::progettoSemplice(), {0, Curva::taglio});
+    EXPECT_EQ(figure<Area>(s, Elemento::curva).size(), 1U);
+    EXPECT_EQ(figure<Linea>(s, Elemento::curva).size(), 2U);
+    EXPECT_TRUE(dice(testi(s, Elemento::nota), "inviluppo delle fasi da 1 a 2  ·  scavo 5.00 m"));
+}
+
+TEST(Scena, CanDoWithoutTheCurve) {
+    const Scena s = scena(live::calcola(test::progettoSemplice(), 40), {2}, {300, 300},
+                          MisuraStimata(), {.curva = false, .parole = false});
+    EXPECT_TRUE(figure<Linea>(s, Elemento::curva).empty());
+    EXPECT_TRUE(testi(s, Elemento::nota).empty() ||
+                testi(s, Elemento::nota) == std::vector<std::string>{"EJ 120000 kN m²"});
+    EXPECT_GT(pianta(s).sinistra, 0.5 * 300);
+}
+
+TEST(Scena, MovesAMechanismAndSaysWhy) {
+    auto dati = test::progettoSemplice();
+    dati.profFase[2] = 9;
+    dati.tirantiFase[2] = 0;
+    const auto parete = live::calcola(dati, 40);
+    ASSERT_TRUE(parete.perche && parete.perche->moto);
+    const Scena s = scenaDi(dati, {2});
+    EXPECT_EQ(figure<Linea>(s, Elemento::muro).at(0).tratteggio, Tratteggio::linee);
+    const auto mosso = figure<Area>(s, Elemento::meccanismo).at(0);
+    EXPECT_EQ(mosso.tinta.ruolo, Ruolo::fondoMeccanismo);
+    // Rigid: the moved head is as far from the wall as the mechanism says, against the toe.
+    const Riquadro fermo = pianta(s);
+    const double testa = mosso.punti[0].x - fermo.sinistra,
+                 piede = mosso.punti[3].x - fermo.sinistra;
+    EXPECT_NEAR(testa * parete.perche->moto->spostamento(12),
+                piede * parete.perche->moto->spostamento(0), 1e-6);
+    EXPECT_TRUE(dice(testi(s, Elemento::meccanismo), "passivo"));
+    const auto note = testi(s, Elemento::nota);
+    EXPECT_TRUE(std::any_of(note.begin(), note.end(), [](const std::string& t) {
+        return t.find("la paratia è un meccanismo nella fase 2") == 0;
+    }));
+    // The stage before stands and is drawn as it is.
+    EXPECT_EQ(figure<Linea>(scenaDi(dati, {1}), Elemento::muro).at(0).tratteggio,
+              Tratteggio::nessuno);
+}
+
+TEST(Scena, SaysThatNothingIsKnownAfterAStageThatFalls) {
+    auto dati = test::progettoSemplice();
+    dati.profFase[1] = 9;
+    dati.profFase[2] = 9.5;
+    const auto note = testi(scenaDi(dati, {2}), Elemento::nota);
+    EXPECT_TRUE(std::any_of(note.begin(), note.end(), [](const std::string& t) {
+        return t.find("la fase 2 viene dopo la fase 1") == 0;
+    }));
+    EXPECT_TRUE(figure<Area>(scenaDi(dati, {2}), Elemento::meccanismo).empty());
+}
+
+TEST(Scena, SaysWhyNothingIsComputed) {
+    auto dati = test::progettoSemplice();
+    dati.rigidezzaEJ = 0;
+    const Scena s = scenaDi(dati, {1});
+    EXPECT_TRUE(dice(testi(s, Elemento::nota), "Il valore di EJ non è ancora stato definito."));
+    EXPECT_TRUE(dice(testi(s, Elemento::curva), "nessuna curva"));
+}
+
+TEST(Scena, SaysWhatIsInTheWayOfWhatIsTyped) {
+    const Scena s = scena(live::calcola(test::progettoSemplice(), 40), {2}, {900, 580},
+                          MisuraStimata(), {.impedimento = "riga 3: dati incompleti"});
+    EXPECT_TRUE(dice(testi(s, Elemento::nota),
+                     "riga 3: dati incompleti: la figura mostra i valori precedenti"));
+}
+
+TEST(Scena, NamesTheStiffnessAndWhereItComesFrom) {
+    auto dati = test::progettoSemplice();
+    EXPECT_TRUE(dice(testi(scenaDi(dati), Elemento::nota), "EJ 120000 kN m²"));
+    dati.rigidezzaEJ = 0;
+    dati.sezione = structure::diaframmaSimmetrico();
+    const auto note = testi(scenaDi(dati), Elemento::nota);
+    EXPECT_TRUE(std::any_of(note.begin(), note.end(), [](const std::string& t) {
+        return t.find("kN m² dalla sezione") != std::string::npos;
+    }));
+}
+
+TEST(Descrizione, TellsStageAndVerdictInOneText) {
+    const auto dati = test::progettoSemplice();
+    const std::string testo = descrizione(live::calcola(dati, 40), {2});
+    EXPECT_EQ(testo.find("fase 2 di 2  ·  scavo 5.00 m. la paratia sta in tutte le fasi: "), 0U);
+    EXPECT_NE(testo.find(" mm, momento "), std::string::npos);
+}
+
+}  // namespace
+}  // namespace korven::scene
