@@ -6,6 +6,7 @@
 
 #include "analysis/run_arrays.hpp"
 #include "analysis/segment_count.hpp"
+#include "structure/section_validity.hpp"
 
 namespace korven::live {
 
@@ -47,7 +48,7 @@ void ProgettoVivo::mostraDati(const DatiProgetto& dati) {
     ++versione_;
     lenti_.reset();
     domanda_.reset();
-    if (parete_.nSeg == 0)
+    if (parete_.nSeg == 0 && !structure::sezioneValida(dati.sezione))
         lenti_.emplace();
     else
         domanda_ = {++numero_, parete_.dati, parete_.nSeg};

@@ -8,15 +8,31 @@
 
 namespace korven::live {
 
-RisultatiLenti calcolaLenti(const DomandaLenta& domanda) {
+namespace {
+
+void margine(const DomandaLenta& domanda, RisultatiLenti& risultati) {
+    auto breve = safety::margineBreve(domanda.dati, domanda.nSeg);
+    if (!breve) return;
+    risultati.osservazioni = review::esaminaRisultati(breve->dati, breve->margine);
+    risultati.margine = std::move(breve->margine);
+}
+
+// What is beyond the numbers or the tables has no results.
+template <class Calcolo>
+void prova(Calcolo calcolo) {
     try {
-        auto breve = safety::margineBreve(domanda.dati, domanda.nSeg);
-        if (!breve) return {};
-        auto osservazioni = review::esaminaRisultati(breve->dati, breve->margine);
-        return {std::move(breve->margine), std::move(osservazioni)};
+        calcolo();
     } catch (const std::exception&) {
-        return {};
     }
+}
+
+}  // namespace
+
+RisultatiLenti calcolaLenti(const DomandaLenta& domanda) {
+    RisultatiLenti risultati;
+    prova([&] { risultati.dominio = structure::dominioNM(domanda.dati.sezione); });
+    if (domanda.nSeg > 0) prova([&] { margine(domanda, risultati); });
+    return risultati;
 }
 
 }  // namespace korven::live

@@ -99,6 +99,17 @@ TEST_F(ProgettoVivoTest, HasNothingSlowToComputeWhereARunIsRefused) {
     EXPECT_FALSE(vivo.lenti()->margine);
 }
 
+TEST_F(ProgettoVivoTest, AsksForTheDomainOfASectionWhoseWallIsRefused) {
+    dati.nStrati = 0;
+    dati.sezione = structure::diaframmaSimmetrico();
+    vivo.guarda(&dati);
+    ASSERT_TRUE(vivo.domanda());
+    EXPECT_EQ(vivo.domanda()->nSeg, 0);
+    vivo.rispondi(vivo.domanda()->numero, calcolaLenti(*vivo.domanda()));
+    EXPECT_FALSE(vivo.lenti()->margine);
+    EXPECT_FALSE(vivo.lenti()->dominio.empty());
+}
+
 TEST_F(ProgettoVivoTest, ShowsAStageThatThereIsAndComesBackToTheOneChosen) {
     vivo.guarda(&dati);
     vivo.mostra({.fase = 7, .curva = Curva::taglio});
