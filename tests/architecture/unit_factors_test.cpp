@@ -49,6 +49,7 @@ const std::map<std::string, Exempt> noUnits = {
     {"shell/report/form1.cpp", {{"10"}, "a share of the screen"}},
     {"shell/viewer/grafica.cpp", {{"10"}, "a share of the screen"}},
     {"structure/material_laws.cpp", {{"1000"}, "a strain in thousandths, as the law has it"}},
+    {"structure/interaction_domain.cpp", {{"0.01"}, "a share of the largest resistance"}},
     {"equilibrium/newton.cpp", {{"100"}, "a stronger push on a singular tangent"}},
     {"safety/shortest_wall.cpp", {{"100"}, "steps of a hundredth of the length"}},
 };
