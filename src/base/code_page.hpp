@@ -31,6 +31,9 @@ namespace korven::base {
 /// one letter; so does everything that is no letter of the code page.
 [[nodiscard]] std::string maiuscolo(std::string_view utf8);
 
+/// The text with its first character in upper case, as a sentence begins.
+[[nodiscard]] std::string conMaiuscola(std::string_view utf8);
+
 /// Lower case, the inverse of `maiuscolo`.
 [[nodiscard]] std::string minuscolo(std::string_view utf8);
 

@@ -152,4 +152,10 @@ std::string testoNumero(double valore) {
     return testo;
 }
 
+std::string tutteLeCifre(double valore) {
+    if (!std::isfinite(valore)) return {};
+    char testo[32];
+    return {testo, std::to_chars(testo, testo + sizeof testo, valore + 0.0).ptr};
+}
+
 }  // namespace korven::base

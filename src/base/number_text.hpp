@@ -50,4 +50,8 @@ namespace korven::base {
 /// never "-0".
 [[nodiscard]] std::string testoNumero(double valore);
 
+/// The shortest text that reads back as the same double, for tables that programs read; an exponent
+/// where that is shorter, never "-0". Empty for one that is not finite.
+[[nodiscard]] std::string tutteLeCifre(double valore);
+
 }  // namespace korven::base

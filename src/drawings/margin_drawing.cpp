@@ -96,14 +96,6 @@ std::string legendaMuro(const Margine& margine) {
            " " + std::to_string(fase->fase);
 }
 
-// Sentences begin as such; the same words stand within lines elsewhere.
-std::string conMaiuscola(const std::string& testo) {
-    const auto continua = [](char c) { return (static_cast<unsigned char>(c) & 0xC0) == 0x80; };
-    std::size_t prima = 1;
-    while (prima < testo.size() && continua(testo[prima])) ++prima;
-    return base::maiuscolo(testo.substr(0, prima)) + testo.substr(prima);
-}
-
 // The lines below the drawing, broken at the width of the sheet and drawn together if they are
 // many.
 void piede(const Margine& margine, const SegniMargine& segni) {
@@ -121,7 +113,7 @@ void piede(const Margine& margine, const SegniMargine& segni) {
         if (testo.empty()) continue;
         double x = plot::x0;
         for (std::string& parte :
-             righePiene(conMaiuscola(testo), altezza, plot::larghQuadro, rientro)) {
+             righePiene(base::conMaiuscola(testo), altezza, plot::larghQuadro, rientro)) {
             righe.emplace_back(x, std::move(parte));
             x = plot::x0 + rientro;
         }

@@ -73,6 +73,8 @@ inline constexpr Unita misura{"cm", "mm", millimetri};    ///< a length of the s
 inline constexpr Unita tensione{"N/mm²", "N/mm²"};
 inline constexpr Unita forza{"t", "kN", kilonewton};
 inline constexpr Unita momento{"t m", "kN m", kilonewton};
+inline constexpr Unita forzaAlMetro{"t/m", "kN/m", kilonewton};  ///< of wall, where it is told
+inline constexpr Unita momentoAlMetro{"t m/m", "kN m/m", kilonewton};
 inline constexpr Unita pressione{"t/m²", "kN/m²", kilonewton};
 inline constexpr Unita peso{"t/m³", "kN/m³", kilonewton};
 inline constexpr Unita pesoAcqua{"t/m³", "t/m³"};  ///< unlike the weights of the soil

@@ -20,15 +20,23 @@ ConfrontoMomenti confrontaMomenti(const analysis::ChiusuraRisultati& chiusura) {
     return c;
 }
 
+std::optional<ConfrontoMomenti> verificaMomenti(const project::Sezione& sezione,
+                                                const analysis::ChiusuraRisultati& chiusura) {
+    if (!structure::sezioneDefinita(sezione)) return std::nullopt;
+    return confrontaMomenti(chiusura);
+}
+
 std::optional<ConfrontoMomenti> verificaMomenti(const DatiRelazione& dati) {
-    if (!structure::sezioneDefinita(dati.progetto.sezione)) return std::nullopt;
-    return confrontaMomenti(dati.chiusura);
+    return verificaMomenti(dati.progetto.sezione, dati.chiusura);
+}
+
+std::optional<structure::ConfrontoTaglio> verificaAlTaglio(const project::Sezione& s, double Vmax) {
+    if (!structure::sezioneDefinita(s) || !structure::staffePresenti(s)) return std::nullopt;
+    return structure::confrontaTaglio(structure::verificaTaglio(s, 0), s.armInterasse, Vmax);
 }
 
 std::optional<structure::ConfrontoTaglio> verificaAlTaglio(const DatiRelazione& dati) {
-    const project::Sezione& s = dati.progetto.sezione;
-    if (!structure::sezioneDefinita(s) || !structure::staffePresenti(s)) return std::nullopt;
-    return structure::confrontaTaglio(structure::verificaTaglio(s, 0), s.armInterasse, dati.Vmax);
+    return verificaAlTaglio(dati.progetto.sezione, dati.Vmax);
 }
 
 std::string_view sentenza(bool positivo, bool verificato) {

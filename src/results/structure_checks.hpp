@@ -32,10 +32,15 @@ struct ConfrontoMomenti {
 [[nodiscard]] ConfrontoMomenti confrontaMomenti(const analysis::ChiusuraRisultati& chiusura);
 
 /// The bending check as the report shows it; nothing unless the section is defined.
+[[nodiscard]] std::optional<ConfrontoMomenti> verificaMomenti(
+    const project::Sezione& sezione, const analysis::ChiusuraRisultati& chiusura);
 [[nodiscard]] std::optional<ConfrontoMomenti> verificaMomenti(const DatiRelazione& dati);
 
 /// The shear check as the report shows it; nothing unless the section is defined and has stirrups.
 /// The axial force of the project does not reach it, though the bending check uses it.
+/// @param Vmax  largest shear in size [t/m]; the report's is that of the last stage
+[[nodiscard]] std::optional<structure::ConfrontoTaglio> verificaAlTaglio(
+    const project::Sezione& sezione, double Vmax);
 [[nodiscard]] std::optional<structure::ConfrontoTaglio> verificaAlTaglio(const DatiRelazione& dati);
 
 /// The sentence on a bending check, a key of the table of texts.

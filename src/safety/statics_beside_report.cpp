@@ -6,7 +6,6 @@
 #include "analysis/staged_run.hpp"
 #include "base/value_error.hpp"
 #include "structure/bending_resistance.hpp"
-#include "structure/section_validity.hpp"
 
 namespace korven::safety {
 
@@ -32,14 +31,6 @@ class FinoAlLimite : public analysis::OsservatoreCorsa {
     bool oltre_ = false;
 };
 
-// As the specified run takes them.
-structure::MomentiResistenti resistenze(const project::DatiProgetto& dati) {
-    structure::MomentiResistenti MRd;
-    if (structure::sezioneValida(dati.sezione))
-        structure::momentiResistenti(dati.sezione, dati.sforzoNormale, MRd);
-    return MRd;
-}
-
 }  // namespace
 
 RelazioneInMemoria relazioneInMemoria(const project::DatiProgetto& dati, int nSeg,
@@ -53,7 +44,8 @@ RelazioneInMemoria relazioneInMemoria(const project::DatiProgetto& dati, int nSe
     }
     try {
         relazione.numeri = results::numeriRelazione(results::risultatiInMemoria(
-            dati, nSeg, corsa, analysis::chiusura(resistenze(dati), corsa)));
+            dati, nSeg, corsa,
+            analysis::chiusura(structure::resistenze(dati.sezione, dati.sforzoNormale), corsa)));
     } catch (const base::ErroreValore&) {
         relazione.fine.modo = analysis::ModoFine::nonMostrabile;
     }

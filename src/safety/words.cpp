@@ -13,6 +13,7 @@ namespace {
 
 using base::traduttore;
 using equilibrium::DatoInstabile;
+using equilibrium::EsitoFase;
 using equilibrium::EsitoNewton;
 using equilibrium::Instabile;
 using equilibrium::Meccanismo;
@@ -195,6 +196,20 @@ std::string parole(EsitoNewton esito) {
                 "l'ordine di grandezza dei dati");
     }
     return {};
+}
+
+std::string parole(EsitoFase esito) {
+    switch (esito) {
+        case EsitoFase::equilibrio:
+            return traduttore("in equilibrio");
+        case EsitoFase::meccanismo:
+            return traduttore("meccanismo");
+        case EsitoFase::nonDefinito:
+            return traduttore("non definito");
+        case EsitoFase::nessunNumero:
+            break;
+    }
+    return traduttore("nessun numero");
 }
 
 std::string inBreve(const Diagnosi& d) {

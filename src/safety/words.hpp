@@ -37,6 +37,9 @@ inline constexpr base::Gemelli comandoEquilibrio{"equilibrio", "equilibrium"};
 /// Why there are no displacements, and what to look at. Empty where they were found.
 [[nodiscard]] std::string parole(equilibrium::EsitoNewton esito);
 
+/// What is known of a stage: "in equilibrio", "meccanismo", "non definito", "nessun numero".
+[[nodiscard]] std::string parole(equilibrium::EsitoFase esito);
+
 /// The short form: the stage, the movement and what is missing; of a wall that stands how far it
 /// moves; or what makes it no equilibrium or no number.
 [[nodiscard]] std::string inBreve(const Diagnosi& diagnosi);

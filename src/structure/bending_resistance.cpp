@@ -71,4 +71,10 @@ void momentiResistenti(const project::Sezione& s, double sforzoNormale, MomentiR
     }
 }
 
+MomentiResistenti resistenze(const project::Sezione& sezione, double sforzoNormale) {
+    MomentiResistenti MRd;
+    if (sezioneValida(sezione)) momentiResistenti(sezione, sforzoNormale, MRd);
+    return MRd;
+}
+
 }  // namespace korven::structure

@@ -40,4 +40,7 @@ struct MaterialiFlessione {
 void momentiResistenti(const project::Sezione& sezione, double sforzoNormale,
                        MomentiResistenti& MRd);
 
+/// The same as a run takes it: 0 both ways for a section that is not `sezioneValida`.
+[[nodiscard]] MomentiResistenti resistenze(const project::Sezione& sezione, double sforzoNormale);
+
 }  // namespace korven::structure

@@ -113,5 +113,12 @@ TEST(CodePage, TrimTakesBlanksOnly) {
     EXPECT_EQ(senzaSpaziEsterni(""), "");
 }
 
+TEST(ConMaiuscola, BeginsASentence) {
+    EXPECT_EQ(conMaiuscola("la paratia"), "La paratia");
+    EXPECT_EQ(conMaiuscola("\u00E8 un meccanismo"), "\u00C8 un meccanismo");
+    EXPECT_EQ(conMaiuscola("F = 1"), "F = 1");
+    EXPECT_EQ(conMaiuscola(""), "");
+}
+
 }  // namespace
 }  // namespace korven::base

@@ -299,5 +299,12 @@ TEST(LeggiNumero, RecoversEveryDoubleFromItsShortestText) {
     }
 }
 
+TEST(TutteLeCifre, ReadBackAsTheSameDouble) {
+    EXPECT_EQ(tutteLeCifre(0.1 + 0.2), "0.30000000000000004");
+    EXPECT_EQ(tutteLeCifre(3), "3");
+    EXPECT_EQ(tutteLeCifre(-0.0), "0");
+    EXPECT_EQ(tutteLeCifre(std::numeric_limits<double>::infinity()), "");
+}
+
 }  // namespace
 }  // namespace korven::base

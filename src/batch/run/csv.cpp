@@ -1,15 +1,8 @@
 #include "batch/run/csv.hpp"
 
-#include <charconv>
-#include <cmath>
+#include "base/number_text.hpp"
 
 namespace korven::batch {
-
-std::string tutteLeCifre(double numero) {
-    if (!std::isfinite(numero)) return {};
-    char testo[32];
-    return {testo, std::to_chars(testo, testo + sizeof testo, numero + 0.0).ptr};
-}
 
 RigheCsv::RigheCsv(std::span<const std::string_view> nomi) {
     for (const std::string_view nome : nomi) campo(nome);
@@ -31,7 +24,7 @@ RigheCsv& RigheCsv::campo(std::string_view testo) {
 
 RigheCsv& RigheCsv::campo(int numero) { return campo(std::to_string(numero)); }
 
-RigheCsv& RigheCsv::campo(double numero) { return campo(tutteLeCifre(numero)); }
+RigheCsv& RigheCsv::campo(double numero) { return campo(base::tutteLeCifre(numero)); }
 
 RigheCsv& RigheCsv::campo(std::optional<double> numero) {
     return numero ? campo(*numero) : campo(std::string_view());

@@ -29,7 +29,4 @@ class RigheCsv {
     bool inizio_ = true;
 };
 
-/// The shortest text that reads back as the same double; empty for one that is not finite.
-[[nodiscard]] std::string tutteLeCifre(double numero);
-
 }  // namespace korven::batch

@@ -6,13 +6,13 @@
 #include "batch/run/text_table.hpp"
 #include "equilibrium/extremes.hpp"
 #include "project/shown_number.hpp"
+#include "safety/words.hpp"
 
 namespace korven::batch {
 
 namespace {
 
 using base::traduttore;
-using equilibrium::EsitoFase;
 using project::numeroMostrato;
 using safety::EquilibrioRaccontato;
 using safety::FaseRaccontata;
@@ -22,20 +22,6 @@ constexpr const char* nessuno = "-";
 
 std::string titolo(std::string_view cosa, const project::Unita& u) {
     return traduttore(etichetta(cosa, u));
-}
-
-std::string verdetto(const FaseRaccontata& r) {
-    switch (r.fase.esito) {
-        case EsitoFase::equilibrio:
-            return traduttore("in equilibrio");
-        case EsitoFase::meccanismo:
-            return traduttore("meccanismo");
-        case EsitoFase::nonDefinito:
-            return traduttore("non definito");
-        case EsitoFase::nessunNumero:
-            break;
-    }
-    return traduttore("nessun numero");
 }
 
 std::vector<std::string> riga(const FaseRaccontata& r, double h) {
@@ -51,7 +37,7 @@ std::vector<std::string> riga(const FaseRaccontata& r, double h) {
     } else {
         celle.insert(celle.end(), 3, nessuno);
     }
-    celle.push_back(verdetto(r));
+    celle.push_back(safety::parole(r.fase.esito));
     return celle;
 }
 

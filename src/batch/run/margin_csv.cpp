@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "base/number_text.hpp"
 #include "batch/run/csv.hpp"
 #include "batch/run/margin_outcome.hpp"
 #include "project/units.hpp"
@@ -51,7 +52,7 @@ std::string insieme(const Righe& righe, Numero numero) {
 
 std::string tratti(const safety::UsoPassiva& uso) {
     return insieme(uso.alLimite, [](const equilibrium::Tratto& t) {
-        return tutteLeCifre(t.da) + ' ' + tutteLeCifre(t.a);
+        return base::tutteLeCifre(t.da) + ' ' + base::tutteLeCifre(t.a);
     });
 }
 
@@ -60,7 +61,7 @@ std::string tiriRelazione(const std::vector<safety::ConfrontoTiro>& tiri) {
     if (std::any_of(tiri.begin(), tiri.end(), [](const auto& t) { return !t.relazione; }))
         return {};
     return insieme(tiri, [](const safety::ConfrontoTiro& t) {
-        return tutteLeCifre(project::inKilonewton(t.relazione->valore));
+        return base::tutteLeCifre(project::inKilonewton(t.relazione->valore));
     });
 }
 
@@ -86,7 +87,7 @@ void riga(const MargineFase& fase, RigheCsv& righe) {
     campi(fase.confronto.momento, numeri, righe);
     campi(fase.confronto.taglio, numeri, righe);
     righe.campo(insieme(fase.confronto.tiri, [](const safety::ConfrontoTiro& t) {
-        return tutteLeCifre(project::inKilonewton(t.statica));
+        return base::tutteLeCifre(project::inKilonewton(t.statica));
     }));
     righe.campo(tiriRelazione(fase.confronto.tiri));
     righe.fineRiga();
