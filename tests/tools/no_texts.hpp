@@ -24,6 +24,7 @@ inline const std::map<std::string, std::string> silentFiles = {
     {"base/text_table.cpp", "errors of the table of texts itself"},
     {"base/table.hpp", "an index beyond a table, which the translation may meet itself"},
     {"analysis/solver/vector_lanes.hpp", "names of processors"},
+    {"tables/table_text.cpp", "words of the clipboard's tables"},
     {"plot/dxf/tables.cpp", "words of the DXF format"},
     {"outdoc/document_blocks.cpp", "words of the file"},
     {"outdoc/document_page.cpp", "words of the file"},

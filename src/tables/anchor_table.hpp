@@ -1,0 +1,17 @@
+#pragma once
+
+#include "live/wall.hpp"
+#include "safety/margin.hpp"
+#include "tables/result_table.hpp"
+
+namespace korven::tables {
+
+/// The anchors: depth, kind, prestress, the force in each stage and the largest, by the certain
+/// equilibrium; beside it the force that the report shows. A cell of a stage in which the anchor is
+/// not in place, or which does not stand, is empty.
+/// @param margine  of the same wall; nullptr while it is being computed: the report's forces are
+///                 then "..."
+[[nodiscard]] Prospetto prospettoTiranti(const live::PareteViva& parete,
+                                         const safety::Margine* margine);
+
+}  // namespace korven::tables

@@ -1,0 +1,155 @@
+#include "tables/check_table.hpp"
+
+#include <cmath>
+#include <optional>
+
+#include "analysis/run_closing.hpp"
+#include "base/number_text.hpp"
+#include "base/translated_texts.hpp"
+#include "project/shown_number.hpp"
+#include "results/structure_checks.hpp"
+#include "safety/margin_words.hpp"
+#include "structure/bending_resistance.hpp"
+#include "structure/section_validity.hpp"
+#include "tables/node_table.hpp"
+
+namespace korven::tables {
+
+namespace {
+
+using base::traduttore;
+using live::PareteViva;
+using results::ConfrontoMomenti;
+using safety::Margine;
+using structure::ConfrontoTaglio;
+namespace unita = project::unita;
+
+// Where a value is: of the report or of the equilibrium.
+struct Dove {
+    int fase = 0;
+    double z = 0;
+};
+
+struct Controlli {
+    std::optional<ConfrontoMomenti> flessione;
+    std::optional<ConfrontoTaglio> taglio;
+    Dove positivo, negativo, diTaglio;
+};
+
+Controlli daRelazione(const results::NumeriRelazione& relazione) {
+    const auto dove = [](const results::NumeroRelazione& n) { return Dove{n.fase, n.z}; };
+    if (relazione.fasi.empty()) return {};
+    return {relazione.flessione, relazione.taglioSezione, dove(relazione.momentoMassimo()),
+            dove(relazione.momentoMinimo()), dove(relazione.fasi.back().taglio)};
+}
+
+Controlli daEquilibrio(const PareteViva& parete) {
+    const auto dove = [](const equilibrium::Estremo& e) { return Dove{e.fase, e.z}; };
+    const equilibrium::Estremi& e = parete.estremi;
+    const analysis::EsitoCorsa estremi{
+        .fasi = {}, .mMaxTotale = e.momentoMassimo.valore, .mMinTotale = e.momentoMinimo.valore};
+    const project::Sezione& sezione = parete.dati.sezione;
+    const auto MRd = structure::resistenze(sezione, parete.dati.sforzoNormale);
+    return {results::verificaMomenti(sezione, analysis::chiusura(MRd, estremi)),
+            results::verificaAlTaglio(sezione, std::fabs(e.taglio.valore)), dove(e.momentoMassimo),
+            dove(e.momentoMinimo), dove(e.taglio)};
+}
+
+// A number with the digits of the report, which cuts where the other tables round.
+Cella cifre(double mostrato) {
+    if (!std::isfinite(mostrato)) return {};
+    return {.testo = base::formattaDecimali(mostrato, 2), .numero = mostrato + 0.0};
+}
+
+// Without a resistance there is no share.
+Cella uso(double progetto, double resistenza) {
+    return resistenza == 0 ? Cella{} : cella(progetto / resistenza, 1, unita::percento);
+}
+
+std::vector<Cella> riga(const project::Unita& u, const char* cosa, double progetto,
+                        double resistenza, const Dove& dove, std::string_view esito, bool fallita) {
+    const bool nota = dove.fase > 0;
+    Cella verdetto = parola(traduttore(esito));
+    if (fallita) verdetto.peso = review::Peso::pericolo;
+    return {parola(traduttore(cosa) + " " + traParentesi(u)),
+            cifre(progetto),
+            cifre(resistenza),
+            uso(progetto, resistenza),
+            nota ? cella(dove.fase) : Cella{},
+            nota ? profondita(dove.z) : Cella{},
+            verdetto};
+}
+
+void flessione(const ConfrontoMomenti& c, const Controlli& controlli, Prospetto& p) {
+    const project::Unita& u = unita::momentoAlMetro;
+    p.righe.push_back(riga(u, "Flessione, momento positivo", mostrato(u, c.mdMax),
+                           mostrato(u, c.mrPos), controlli.positivo,
+                           results::sentenza(true, c.verificatoPos), c.fallitaPos()));
+    if (c.negativo)
+        p.righe.push_back(riga(u, "Flessione, momento negativo", mostrato(u, c.mdMin),
+                               mostrato(u, c.mrNeg), controlli.negativo,
+                               results::sentenza(false, c.verificatoNeg), c.fallitaNeg()));
+}
+
+// The report has a sentence for each failure and none for what holds.
+void taglio(const ConfrontoTaglio& c, const Controlli& controlli, Prospetto& p) {
+    const auto aggiungi = [&](const char* cosa, double VRd, bool fallita, const char* rottura) {
+        p.righe.push_back(riga(unita::forzaAlMetro, cosa, c.Vsd, VRd, controlli.diTaglio,
+                               fallita ? rottura : "Condizioni di sicurezza verificate (taglio)",
+                               fallita));
+    };
+    aggiungi("Taglio, bielle di calcestruzzo", c.Vrd2, c.rotturaBielle(),
+             "Rottura delle bielle di calcestruzzo compresse");
+    aggiungi("Taglio, armatura d'anima", c.Vrd3, c.rotturaArmatura(),
+             "Rottura dell'armatura d'anima");
+}
+
+std::vector<Colonna> colonne() {
+    return {colonnaParole("Verifica", "Che cosa si verifica, per metro di paratia"),
+            colonna(unita::nessuna, "Di progetto",
+                    "Valore di progetto: il massimo di calcolo per il coefficiente delle azioni"),
+            colonna(unita::nessuna, "Resistenza", "Resistenza di progetto della sezione"),
+            colonna(unita::percento, "Sfruttamento", "Valore di progetto diviso per la resistenza"),
+            colonna(unita::nessuna, "Fase", "Fase in cui il valore è raggiunto"),
+            colonnaSimbolo(unita::metri, "z", "Profondità a cui il valore è raggiunto"),
+            colonnaParole("Esito", "Verdetto, con le parole della relazione")};
+}
+
+void note(const PareteViva& parete, const Margine& margine, Prospetto& p) {
+    if (!structure::sezioneDefinita(parete.dati.sezione)) {
+        p.note.push_back(traduttore("Nessuna verifica: la sezione non è definita."));
+        return;
+    }
+    if (!structure::staffePresenti(parete.dati.sezione))
+        p.note.push_back(
+            traduttore("Il taglio si verifica solo per pali armati con le staffe scritte."));
+    if (margine.relazione) {
+        p.note.push_back(traduttore(
+            "Numeri e regole della relazione: flessione con i momenti di tutte le fasi, taglio con "
+            "il massimo dell'ultima fase."));
+        return;
+    }
+    p.note.push_back(safety::paroleRelazione(margine));
+    p.note.push_back(traduttore(
+        "Verifiche con i numeri dell'equilibrio certo: momenti e taglio massimi di tutte le "
+        "fasi."));
+}
+
+}  // namespace
+
+Prospetto prospettoVerifiche(const PareteViva& parete, const Margine& margine) {
+    Prospetto p{.titolo = traduttore("Verifiche"), .colonne = colonne()};
+    if (!parete.sta()) {
+        p.note.push_back(perche(parete, parete.fasiInEquilibrio() + 1));
+        p.note.push_back(traduttore("Nessuna verifica di una paratia che non sta."));
+        return p;
+    }
+    const Controlli controlli =
+        margine.relazione ? daRelazione(*margine.relazione) : daEquilibrio(parete);
+    if (controlli.flessione) flessione(*controlli.flessione, controlli, p);
+    if (controlli.taglio) taglio(*controlli.taglio, controlli, p);
+    note(parete, margine, p);
+    return p;
+}
+
+}  // namespace korven::tables

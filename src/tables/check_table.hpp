@@ -1,0 +1,19 @@
+#pragma once
+
+#include "live/wall.hpp"
+#include "safety/margin.hpp"
+#include "tables/result_table.hpp"
+
+namespace korven::tables {
+
+/// The checks of the section: design value, resistance, use, where the value is, verdict. Numbers,
+/// digits and verdicts are those of the report; a note says so.
+///
+/// Where the specified run gives no report but the wall stands, the same rules are applied to the
+/// certain equilibrium, the shear being the largest of all stages; a note says why. Of a wall that
+/// does not stand, or without a section, there are no rows.
+/// @param margine  of the same wall
+[[nodiscard]] Prospetto prospettoVerifiche(const live::PareteViva& parete,
+                                           const safety::Margine& margine);
+
+}  // namespace korven::tables

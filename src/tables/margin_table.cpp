@@ -1,0 +1,169 @@
+#include "tables/margin_table.hpp"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "base/code_page.hpp"
+#include "base/filled_text.hpp"
+#include "base/translated_texts.hpp"
+#include "review/limits.hpp"
+#include "safety/margin_words.hpp"
+#include "safety/words.hpp"
+
+namespace korven::tables {
+
+namespace {
+
+using base::traduttore;
+using review::Peso;
+using safety::Margine;
+using safety::MargineFase;
+namespace unita = project::unita;
+
+std::optional<Peso> pesa(double valore, double daVedere, double pericolo, bool sotto) {
+    const auto oltre = [&](double limite) { return sotto ? valore < limite : valore > limite; };
+    if (oltre(pericolo)) return Peso::pericolo;
+    return oltre(daVedere) ? std::optional(Peso::daVedere) : std::nullopt;
+}
+
+Cella riduzione(const safety::Riduzione& r) {
+    Cella c = {.testo = testoRiduzione(r), .numero = r.F};
+    if (r.oltre) c.ordine = safety::massimaRiduzione;
+    if (r.oltre) c.barra = 1;
+    if (!r.F) return c;
+    c.barra = std::clamp(*r.F / fineBarraF, 0.0, 1.0);
+    c.peso = pesa(*r.F, review::riduzioneDaVedere, review::riduzionePericolosa, true);
+    return c;
+}
+
+Cella uso(const std::optional<double>& quota) {
+    if (!quota) return {};
+    Cella c = cella(*quota, 0, unita::percento);
+    c.barra = std::clamp(*quota, 0.0, 1.0);
+    c.peso = pesa(*quota, review::passivaDaVedere, review::passivaPericolosa, false);
+    return c;
+}
+
+std::string conF(const MargineFase& fase, double paratia) {
+    if (fase.perche) return traduttore("nessun equilibrio");
+    return fase.inEquilibrio() ? parole(fase.riduzione, paratia) : nessuno;
+}
+
+// A moment or a shear of one stage, both ways; a curve that is 0 all along has it nowhere.
+void riga(int fase, const project::Unita& u, const char* cosa, const safety::Confronto& c,
+          Cella (*valore)(double), Prospetto& p) {
+    p.righe.push_back({cella(fase), parola(traduttore(cosa) + " " + traParentesi(u)),
+                       valore(c.statica.valore),
+                       c.statica.fase > 0 ? profondita(c.statica.z) : Cella{},
+                       c.relazione ? valore(c.relazione->valore) : Cella{},
+                       c.relazione ? profondita(c.relazione->z) : Cella{}});
+}
+
+void riga(int fase, const safety::ConfrontoTiro& tiro, Prospetto& p) {
+    p.righe.push_back({cella(fase),
+                       parola(traduttore("tirante") + " " + std::to_string(tiro.tirante) + " " +
+                              traParentesi(unita::forzaAlMetro)),
+                       forza(tiro.statica), Cella{},
+                       tiro.relazione ? forza(tiro.relazione->valore) : Cella{}, Cella{}});
+}
+
+void riga(const project::Unita& u, const char* cosa, Cella (*valore)(double),
+          const safety::ErroreGrandezza& e, Prospetto& p) {
+    p.righe.push_back({parola(traduttore(cosa) + " " + traParentesi(u)), valore(e.valore),
+                       valore(e.fine), e.quota ? cella(*e.quota, 1, unita::percento) : Cella{},
+                       e.ordine ? cella(*e.ordine, 1, unita::nessuna) : Cella{}});
+}
+
+// Sentences begin with a capital; the same words stand within lines elsewhere.
+std::string frase(std::string testo) {
+    if (testo.empty()) return testo;
+    testo = base::conMaiuscola(testo);
+    return testo.back() == '.' ? testo : testo + '.';
+}
+
+}  // namespace
+
+Prospetto prospettoMargine(const Margine& margine) {
+    Prospetto p{
+        .titolo = traduttore("Margine per fase"),
+        .colonne = {
+            colonna(unita::nessuna, "Fase", "Numero della fase"),
+            colonna(unita::metri, "Scavo", "Profondità dello scavo, dalla testa della paratia"),
+            colonnaSimbolo(
+                unita::nessuna, "F",
+                "Riduzione della resistenza: divisore di tan phi e c con cui la fase è appena in "
+                "equilibrio"),
+            colonna(unita::percento, "Passiva",
+                    "Quanta della resistenza passiva davanti alla paratia è usata"),
+            colonnaParole("Al limite [m]", "Profondità in cui la passiva è al limite"),
+            colonna(unita::spostamentoFine, "Piede",
+                    "Spostamento del piede, positivo verso lo scavo"),
+            colonnaParole("Con F", "Che cosa accade con la resistenza divisa per F")}};
+    for (const MargineFase& fase : margine.fasi)
+        p.righe.push_back({cella(fase.fase), profondita(fase.scavo), riduzione(fase.riduzione),
+                           uso(fase.passiva.quota),
+                           parola(safety::testoTratti(fase.passiva.alLimite)),
+                           fase.inEquilibrio() ? spostamento(fase.piede.spostamento) : Cella{},
+                           parola(conF(fase, margine.paratia))});
+    for (std::string nota : {notaPendenza(margine), notaOltre(margine)})
+        if (!nota.empty()) p.note.push_back(std::move(nota));
+    return p;
+}
+
+Prospetto prospettoStatica(const Margine& margine) {
+    const Colonna z = colonnaSimbolo(unita::metri, "z", "Profondità del valore a sinistra");
+    Prospetto p{
+        .titolo = traduttore("Statica e relazione"),
+        .colonne = {
+            colonna(unita::nessuna, "Fase", "Numero della fase"),
+            colonnaParole("Massimi", "Grandezza, con la sua unità"),
+            colonna(unita::nessuna, "Statica", "Dall'equilibrio dei nodi della stessa paratia"), z,
+            colonna(unita::nessuna, "Relazione",
+                    "Come lo trova il calcolo per fasi e lo usa la relazione"),
+            z}};
+    for (const MargineFase& fase : margine.fasi) {
+        if (!fase.inEquilibrio()) continue;
+        riga(fase.fase, unita::momentoAlMetro, "Momento", fase.confronto.momento, momento, p);
+        riga(fase.fase, unita::forzaAlMetro, "Taglio", fase.confronto.taglio, forza, p);
+        for (const safety::ConfrontoTiro& tiro : fase.confronto.tiri) riga(fase.fase, tiro, p);
+    }
+    if (std::string senza = paroleRelazione(margine); !senza.empty()) p.note.push_back(senza);
+    return p;
+}
+
+Prospetto prospettoMaglia(const Margine& margine) {
+    const std::string n = std::to_string(margine.nSeg), fini = std::to_string(4 * margine.nSeg);
+    Prospetto p{.titolo = traduttore("Errore di maglia"),
+                .colonne = {colonnaParole("Massimi", "Grandezza, con la sua unità"),
+                            colonna(unita::nessuna, "%1 segmenti", "Con la maglia del progetto"),
+                            colonna(unita::nessuna, "%1 segmenti", "Con una maglia più fine"),
+                            colonna(unita::percento, "Errore",
+                                    "Differenza fra le due maglie, rispetto alla più fine"),
+                            colonna(unita::nessuna, "Ordine",
+                                    "Potenza del passo con cui l'errore diminuisce")}};
+    p.colonne[1].titolo = base::riempito(p.colonne[1].titolo, {n});
+    p.colonne[2].titolo = base::riempito(p.colonne[2].titolo, {fini});
+    if (!margine.maglia) {
+        if (std::string senza = paroleMaglia(margine); !senza.empty()) p.note.push_back(senza);
+        return p;
+    }
+    const safety::ErroreMaglia& e = *margine.maglia;
+    riga(unita::momentoAlMetro, "Momento", momento, e.momento, p);
+    riga(unita::forzaAlMetro, "Taglio", forza, e.taglio, p);
+    riga(unita::spostamentoFine, "Spostamento", spostamento, e.spostamento, p);
+    riga(unita::forzaAlMetro, "Tiro", forza, e.tiro, p);
+    return p;
+}
+
+std::string verdetto(const Margine& margine) { return frase(paroleDecisiva(margine)); }
+
+std::vector<std::string> frasi(const Margine& margine) {
+    std::vector<std::string> tutte;
+    for (const std::string& testo : {paroleLunghezza(margine), paroleMaglia(margine),
+                                     paroleRelazione(margine), paroleMetodo(margine)})
+        if (!testo.empty()) tutte.push_back(frase(testo));
+    return tutte;
+}
+
+}  // namespace korven::tables

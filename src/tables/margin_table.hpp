@@ -1,0 +1,35 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "safety/margin.hpp"
+#include "tables/result_table.hpp"
+
+namespace korven::tables {
+
+/// The margin by stage: excavation, strength reduction F, passive side used and where it is at its
+/// limit, movement of the toe, what happens at F. The cells of F and use have bars, F's up to
+/// `fineBarraF`, and the weight of the remark that is made on such a value. Its notes are the
+/// footnotes of the factors.
+[[nodiscard]] Prospetto prospettoMargine(const safety::Margine& margine);
+
+/// F at which its bar ends: what is beyond is safe, however far.
+inline constexpr double fineBarraF = 3;
+
+/// Largest moment, shear and anchors of each stage from the balance of the nodes, beside those of
+/// the report.
+[[nodiscard]] Prospetto prospettoStatica(const safety::Margine& margine);
+
+/// The error that the mesh leaves in the largest numbers; without rows where a stage does not
+/// stand, with this mesh or a finer one.
+[[nodiscard]] Prospetto prospettoMaglia(const safety::Margine& margine);
+
+/// The verdict on the wall in one sentence.
+[[nodiscard]] std::string verdetto(const safety::Margine& margine);
+
+/// What else is said of it, a sentence each: shortest wall, mesh error, report, by which way the
+/// numbers came.
+[[nodiscard]] std::vector<std::string> frasi(const safety::Margine& margine);
+
+}  // namespace korven::tables

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <string>
+
+#include "project/units.hpp"
+#include "tables/result_table.hpp"
+
+namespace korven::tables {
+
+/// A quantity along the wall: how it is headed, in which unit and with which digits it is shown.
+struct Grandezza {
+    const project::Unita& unita;
+    const char* titolo;
+    const char* spiegazione;
+    Cella (*cella)(double);
+};
+
+inline constexpr Grandezza grandezzaSpostamento{project::unita::spostamentoFine, "Spostamento",
+                                                "Positivo verso lo scavo", spostamento};
+inline constexpr Grandezza grandezzaMomento{
+    project::unita::momentoAlMetro, "Momento",
+    "Positivo se tende la faccia verso lo scavo; per metro di paratia", momento};
+inline constexpr Grandezza grandezzaTaglio{
+    project::unita::forzaAlMetro, "Taglio",
+    "Derivata del momento lungo la profondità; per metro di paratia", forza};
+inline constexpr Grandezza grandezzaPressione{
+    project::unita::pressione, "Pressione netta",
+    "Somma delle pressioni sulla paratia, positiva verso lo scavo", pressione};
+
+[[nodiscard]] inline Colonna colonna(const Grandezza& g) {
+    return colonna(g.unita, g.titolo, g.spiegazione);
+}
+
+/// "Fase 2"; of 0 "Inviluppo delle fasi".
+[[nodiscard]] std::string titoloFase(int fase);
+
+}  // namespace korven::tables

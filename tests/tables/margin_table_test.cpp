@@ -1,0 +1,111 @@
+#include "tables/margin_table.hpp"
+
+#include <gtest/gtest.h>
+
+#include "safety/margin_words.hpp"
+#include "safety/short_margin.hpp"
+#include "support/result_tables.hpp"
+#include "support/sample_projects.hpp"
+#include "support/wall_files.hpp"
+
+namespace korven::tables {
+namespace {
+
+using safety::Margine;
+using test::posto;
+
+Margine margine(const std::string& percorso) {
+    return safety::margineBreve(test::leggiMuro(percorso), 50)->margine;
+}
+
+Margine esempio(const std::string& nome) {
+    return margine(std::string(KORVEN_EXAMPLES) + "/" + nome + ".kvd");
+}
+
+TEST(ProspettoMargine, HasAStageInEachRowWithTheWordsOfTheMargin) {
+    const Margine m = esempio("diaframma_due_ordini");
+    const Prospetto p = prospettoMargine(m);
+    ASSERT_EQ(p.righe.size(), 4u);
+    const char* const F[] = {"2.98", "2.51", "1.96", "1.64"};  // by an independent calculation
+    for (std::size_t i = 0; i < 4; ++i) {
+        const auto& riga = p.righe[i];
+        const auto& fase = m.fasi[i];
+        EXPECT_EQ(riga[posto(p, "F")].testo, F[i]);
+        EXPECT_EQ(riga[posto(p, "F")].numero, fase.riduzione.F);
+        EXPECT_NEAR(*riga[posto(p, "F")].barra, *fase.riduzione.F / 3, 1e-12);
+        EXPECT_EQ(riga[posto(p, "Passiva")].testo, safety::testoQuota(fase.passiva.quota));
+        EXPECT_EQ(riga[posto(p, "Al limite [m]")].testo,
+                  safety::testoTratti(fase.passiva.alLimite));
+        EXPECT_EQ(riga[posto(p, "Piede")].numero, fase.piede.spostamento * 1000 + 0.0);
+        EXPECT_EQ(riga[posto(p, "Con F")].testo, parole(fase.riduzione, m.paratia));
+        EXPECT_FALSE(riga[posto(p, "F")].peso);  // above 1.5
+    }
+}
+
+TEST(ProspettoMargine, WeighsAFactorAsTheRemarksDo) {
+    const Margine m = margine(std::string(KORVEN_WALLS) + "/quasi_meccanismo.kvd");
+    const Prospetto p = prospettoMargine(m);
+    const Cella& F = p.righe[0][posto(p, "F")];
+    ASSERT_LT(F.numero.value(), 1.25);
+    EXPECT_EQ(F.peso, review::Peso::pericolo);
+}
+
+// Nobody is given a 10 that was never found.
+TEST(ProspettoMargine, OfAFactorBeyondTheRangeHasNoNumberButAFullBar) {
+    const Margine m = esempio("paratia_lunga_incastro");
+    const Prospetto p = prospettoMargine(m);
+    const Cella& F = p.righe[0][posto(p, "F")];
+    EXPECT_EQ(F.testo, "> 10");
+    EXPECT_FALSE(F.numero);
+    EXPECT_EQ(F.ordine, 10);
+    EXPECT_EQ(F.barra, 1);
+    EXPECT_FALSE(p.note.empty());
+}
+
+TEST(ProspettoMargine, OfAMechanismShowsWhatItIsShortOf) {
+    const Margine m = margine(std::string(KORVEN_WALLS) + "/meccanismo.kvd");
+    const Prospetto p = prospettoMargine(m);
+    EXPECT_EQ(p.righe[0][posto(p, "Con F")].testo, "nessun equilibrio");
+    EXPECT_EQ(p.righe[0][posto(p, "Piede")].testo, "-");
+    EXPECT_LT(p.righe[0][posto(p, "F")].numero.value(), 1);
+    EXPECT_EQ(verdetto(m).find("La paratia è un meccanismo nella fase 1"), 0u) << verdetto(m);
+    EXPECT_TRUE(prospettoStatica(m).righe.empty());
+    EXPECT_TRUE(prospettoMaglia(m).righe.empty());
+}
+
+TEST(ProspettoStatica, HasAMomentAShearAndTheAnchorsOfEachStage) {
+    const Margine m = esempio("diaframma_due_ordini");
+    const Prospetto p = prospettoStatica(m);
+    ASSERT_EQ(p.righe.size(), 13u);  // two each, and 0 + 1 + 2 + 2 anchors
+    const auto& ultima = m.fasi[3].confronto;
+    EXPECT_EQ(p.righe[9][1].testo, "Momento [kN m/m]");
+    EXPECT_EQ(p.righe[9][2].numero, ultima.momento.statica.valore * 10);
+    EXPECT_EQ(p.righe[9][4].numero, ultima.momento.relazione->valore * 10);
+    EXPECT_EQ(p.righe[10][3].numero, ultima.taglio.statica.z);
+    EXPECT_EQ(p.righe[12][1].testo, "tirante 2 [kN/m]");
+    EXPECT_EQ(p.righe[12][2].numero, ultima.tiri[1].statica * 10);
+}
+
+TEST(ProspettoMaglia, HasTheErrorsOfTheMesh) {
+    const Margine m = esempio("diaframma_due_ordini");
+    const Prospetto p = prospettoMaglia(m);
+    ASSERT_EQ(p.righe.size(), 4u);
+    EXPECT_EQ(p.colonne[1].titolo, "50 segmenti");
+    EXPECT_EQ(p.colonne[2].titolo, "200 segmenti");
+    EXPECT_EQ(p.righe[0][1].numero, m.maglia->momento.valore * 10);
+    EXPECT_EQ(p.righe[0][3].numero, *m.maglia->momento.quota * 100);
+    EXPECT_EQ(p.righe[2][2].numero, m.maglia->spostamento.fine * 1000);
+}
+
+TEST(Frasi, AreSentencesOfTheMargin) {
+    const Margine m = esempio("diaframma_due_ordini");
+    EXPECT_EQ(verdetto(m), safety::paroleDecisiva(m) + ".");
+    const auto tutte = frasi(m);
+    ASSERT_EQ(tutte.size(), 3u);
+    EXPECT_EQ(tutte[0], safety::paroleLunghezza(m) + ".");
+    EXPECT_EQ(tutte[1], safety::paroleMaglia(m) + ".");
+    EXPECT_EQ(tutte[2], safety::paroleMetodo(m) + ".");
+}
+
+}  // namespace
+}  // namespace korven::tables
