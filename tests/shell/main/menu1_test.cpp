@@ -198,6 +198,24 @@ TEST_F(Menu1Test, TakesFormsBackByKeysAndSaysInItsMenuWhich) {
     EXPECT_EQ(project::Progetto.titoli[1], "Altro muro");
 }
 
+TEST_F(Menu1Test, LeavesTheKeysOfItsHistoryToTheFormThatIsOpen) {
+    forme.maschera = [](masks::Maschere& m) { m.conferma({}, {"Altro muro"}); };
+    forme.sezione = [&] {
+        test::AllaProssimaFinestra<QDialog> utente([](QDialog& aperta) {
+            ASSERT_TRUE(QTest::qWaitForWindowActive(&aperta));
+            QTest::keyClick(&aperta, Qt::Key_Z, Qt::ControlModifier);
+            aperta.close();
+        });
+        QDialog(&finestra).exec();
+        EXPECT_TRUE(utente.fatto);
+    };
+    apri();
+    fileCorrente = ambiente.lavori / "muro.kvd";
+    finestra.esegui(commands::voceMenu("EditTitoli"));
+    finestra.esegui(commands::voceMenu("EditRigidezza"));
+    EXPECT_EQ(project::Progetto.titoli[1], "Altro muro");
+}
+
 TEST_F(Menu1Test, DuplicatesNoProjectWhereNoneIsOpen) {
     int duplicati = 0;
     forme.duplica = [&] { ++duplicati; };

@@ -69,6 +69,18 @@ TEST_F(StoriaCampi, TakeBackFieldByFieldWhateverTheTextBoxRemembers) {
     EXPECT_EQ(testo(1).text(), "abcd");
 }
 
+TEST_F(StoriaCampi, TellThoseWhoFollowTheForm) {
+    scrivi(testo(0), "9");
+    std::vector<std::string> seguiti;
+    QObject::connect(forma.get(), &FormaMaschera::digitata,
+                     [&] { seguiti.push_back(forma->valori().testi[0]); });
+    tasto(Qt::Key_Z);
+    ASSERT_FALSE(seguiti.empty());
+    EXPECT_EQ(seguiti.back(), "5");
+    tasto(Qt::Key_Y);
+    EXPECT_EQ(seguiti.back(), "9");
+}
+
 TEST_F(StoriaCampi, TakeBackABadTextInsteadOfTellingItsFault) {
     scrivi(testo(0), "x");
     tasto(Qt::Key_Z);
@@ -150,6 +162,16 @@ TEST_F(StoriaTabella, TakesTheTextOfTheFloatingEditorBack) {
     EXPECT_EQ(cella(2, 3), "due");
     ripeti();
     EXPECT_EQ(cella(2, 3), "duetre");
+}
+
+TEST_F(StoriaTabella, TellsThoseWhoFollowTheForm) {
+    scrivi("9");
+    std::vector<std::string> seguiti;
+    QObject::connect(forma.get(), &FormaMaschera::digitata,
+                     [&] { seguiti.push_back(forma->valori().testi[1]); });
+    annulla();
+    ripeti();
+    EXPECT_EQ(seguiti, (Testi{"3", "9"}));
 }
 
 TEST_F(StoriaTabella, AsksNothingWhenAllWasTakenBack) {

@@ -424,8 +424,11 @@ TEST_F(FormaSezione, TakesFieldsAndTheTypeBackByKeysAndDoesThemAgain) {
     const auto tasto = [this](Qt::Key quale) {
         QTest::keyClick(forma->focusWidget(), quale, Qt::ControlModifier);
     };
+    project::Sezione seguita;
+    QObject::connect(forma.get(), &DefinEJ::digitata, [&] { seguita = forma->letta(); });
     tasto(Qt::Key_Z);
     EXPECT_NE(trova<QLineEdit>("Text11").text(), "273");
+    EXPECT_EQ(seguita.paliDiamEst, sezione.paliDiamEst);
     EXPECT_TRUE(aiuto().startsWith("Annullato: campo diametro esterno dei pali\n"));
     tasto(Qt::Key_Z);
     EXPECT_EQ(mostrato(), 0);
