@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <functional>
+#include <optional>
 #include <string>
 
 #include "commands/rescue/rescue_offer.hpp"
@@ -45,10 +46,14 @@ struct FormeProgramma {
     /// The windows beside the main form: remarks, results, safety. The call shows the window and
     /// returns at once.
     std::function<void()> controlli, risultati, sicurezza;
-    /// Begins a project from a pattern, and one from the project that is open.
-    std::function<void()> nuovo, duplica;
-    /// Asks for another language.
-    std::function<void()> lingua;
+    /// Asks for the pattern of a new project (project_patterns.hpp).
+    /// @return its path, empty for the defaults; nothing when the form was left without
+    std::function<std::optional<std::string>()> nuovo;
+    /// Asks for another language and writes it down. @return true when the program is to start
+    /// again
+    std::function<bool()> lingua;
+    /// Told that the program, which is about to end, is to start again.
+    std::function<void()> riavvia;
     /// The window that lists the keys of the program.
     std::function<void()> tasti;
 };

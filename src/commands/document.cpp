@@ -10,6 +10,7 @@
 #include "commands/document_names.hpp"
 #include "commands/last_folder.hpp"
 #include "commands/project_opening.hpp"
+#include "commands/project_patterns.hpp"
 #include "commands/recent_projects.hpp"
 #include "commands/rescue/kept_rescue.hpp"
 #include "project/output_guard.hpp"
@@ -23,6 +24,8 @@ namespace {
 using base::traduttore;
 using project::fileCorrente;
 using project::modificato;
+
+constexpr const char* domandaSovrascrivere = "Il file indicato esiste già. Volete sovrascriverlo";
 
 std::string attenzione() { return traduttore("ATTENZIONE") + "!"; }
 
@@ -123,6 +126,10 @@ void Documento::leggi(const std::string& nome, const std::string& file) {
 void Documento::comincia(const std::string& nome) {
     project::azzeraProgetto();
     storia_.svuota();
+    mettiNome(nome);
+}
+
+void Documento::mettiNome(const std::string& nome) {
     fileCorrente = nome;
     suDisco_.ricorda(nome);
     project::progettiProtetti.letto.clear();
@@ -130,6 +137,47 @@ void Documento::comincia(const std::string& nome) {
     stato_ = traduttore("Nuovo progetto, non ancora salvato") + ": " + nome + " (" +
              traduttore("un'altra cartella si sceglie con Salva") + ")";
     mostraStato();
+}
+
+std::string Documento::nomeNuovo(const std::string& proposta) {
+    for (;;) {
+        const std::string nome = nomeDaAprire(nomi_.nuovo(proposta));
+        if (nessunaScelta(nome)) return {};
+        if (trovaProgetto(nome).empty() ||
+            consente(traduttore(domandaSovrascrivere), base::Icona::domanda))
+            return nome;
+    }
+}
+
+void Documento::nuovo(const std::function<std::optional<std::string>()>& chiediModello) {
+    if (!domandaModifiche()) return;
+    const auto modello = chiediModello();
+    if (!modello) return;
+    vaiAllUltimaCartella();
+    const std::string nome = nomeNuovo("");
+    if (nome.empty()) return;
+    try {
+        std::optional<project::DatiProgetto> copiato;
+        if (!modello->empty()) copiato = leggiModello(*modello);
+        comincia(nome);
+        if (copiato) project::Progetto = *std::move(copiato);
+    } catch (const base::ErroreFile& errore) {
+        dialogo_.messaggio(errore.what(), attenzione(), base::Icona::stop);
+        return;
+    }
+    finestra_.titolo(titoloFinestra(nome));
+    modificato = !modello->empty();
+    custodisci();
+}
+
+void Documento::duplica() {
+    if (fileCorrente.empty() || !domandaModifiche()) return;
+    const std::string nome = nomeNuovo(nomeCopia(fileCorrente, base::esisteNome));
+    if (nome.empty()) return;
+    mettiNome(nome);
+    finestra_.titolo(titoloFinestra(nome));
+    modificato = true;
+    custodisci();
 }
 
 bool Documento::apriAllAvvio(const std::string& argomento) {
@@ -166,15 +214,14 @@ bool Documento::fileSalva() {
     }
 }
 
+bool Documento::consente(const std::string& testo, base::Icona icona) {
+    return dialogo_.domanda(testo + "?", attenzione(), base::Pulsanti::siNo, icona) ==
+           base::Risposta::si;
+}
+
 bool Documento::accettaNome(const std::string& nome) {
     if (!base::esisteFile(nome)) return true;
-    const auto consente = [this](const std::string& testo, base::Icona icona) {
-        return dialogo_.domanda(testo + "?", attenzione(), base::Pulsanti::siNo, icona) ==
-               base::Risposta::si;
-    };
-    if (!consente(traduttore("Il file indicato esiste già. Volete sovrascriverlo"),
-                  base::Icona::domanda))
-        return false;
+    if (!consente(traduttore(domandaSovrascrivere), base::Icona::domanda)) return false;
     if (!suDisco_.cambiato(nome)) return true;
     return consente(traduttore("Un altro programma ha modificato questo file dopo la lettura. "
                                "Volete perdere quelle modifiche e sovrascriverlo"),

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -36,6 +38,17 @@ class Documento {
     /// come back with its disk.
     void apriRecente(const std::string& percorso);
 
+    /// Asks about unsaved changes, for a pattern and for a name, and begins a project with the
+    /// content of the pattern, or with the defaults. No file exists until it is saved; a name that
+    /// a file has is taken only after a question. What was copied counts as unsaved. A pattern that
+    /// can't be read is told in a box, and the open project stays.
+    /// @param chiediModello  the path of the pattern, empty for the defaults; nothing: no project
+    void nuovo(const std::function<std::optional<std::string>()>& chiediModello);
+
+    /// Asks about unsaved changes and for a name, and goes on with the content of the open project
+    /// under that name, as `nuovo`. Does nothing without a project.
+    void duplica();
+
     /// Reads the project that the command line names, if there is such a file.
     /// @return false if there is none, which the status line then tells; nothing else has changed
     bool apriAllAvvio(const std::string& argomento);
@@ -66,6 +79,9 @@ class Documento {
     void apriNome(const std::string& risposta);
     void leggi(const std::string& nome, const std::string& file);
     void comincia(const std::string& nome);
+    [[nodiscard]] std::string nomeNuovo(const std::string& proposta);
+    [[nodiscard]] bool consente(const std::string& testo, base::Icona icona);
+    void mettiNome(const std::string& nome);
     [[nodiscard]] bool accettaNome(const std::string& nome);
     void scrivi(const std::string& nome);
     void aperto();

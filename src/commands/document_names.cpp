@@ -47,6 +47,11 @@ std::string nomeProposto(std::string_view percorso) {
     return std::filesystem::path(percorso).filename().string();
 }
 
+std::string nomeCopia(std::string_view percorso,
+                      const std::function<bool(const std::string&)>& esiste) {
+    return nomeProposto(base::nomeLibero(percorso, "_copia", conEstensione(""), esiste));
+}
+
 std::string titoloFinestra(std::string_view percorso) {
     return "KORVEN 32 - " + base::minuscolo(primaDelPunto(nomeProposto(percorso)));
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -27,6 +28,12 @@ inline constexpr std::string_view estensioneProgetti = "kvd";
 
 /// The file name without its folder: what the save dialog proposes.
 [[nodiscard]] std::string nomeProposto(std::string_view percorso);
+
+/// The file name that a copy of a project is proposed: "muro_copia.kvd", with a number from 2 on if
+/// that name is taken in the folder of the project.
+/// @param esiste  tells whether a path is taken
+[[nodiscard]] std::string nomeCopia(std::string_view percorso,
+                                    const std::function<bool(const std::string&)>& esiste);
 
 /// "KORVEN 32 - muro": the file name in lower case, cut at its first point.
 [[nodiscard]] std::string titoloFinestra(std::string_view percorso);

@@ -15,6 +15,10 @@ class DialogoFile {
     /// @param attuale  path of the open project, empty when there is none
     /// @return the name chosen or typed; empty when the dialog was left without one
     [[nodiscard]] virtual std::string apri(const std::string& attuale) = 0;
+    /// Asks for the name of a new project.
+    /// @param proposta  file name without a folder; may be empty
+    /// @return the name chosen or typed; empty when the dialog was left without one
+    [[nodiscard]] virtual std::string nuovo(const std::string& proposta) = 0;
     /// Asks under which name to save.
     /// @param proposta  file name without a folder
     /// @return nothing when the dialog was left with cancel

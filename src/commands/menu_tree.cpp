@@ -56,6 +56,22 @@ bool spiega(Programma& programma, const VoceMenu& voce) {
     return false;
 }
 
+bool nuovo(Programma& programma, const VoceMenu&) {
+    programma.documento().nuovo(programma.forme().nuovo);
+    return false;
+}
+
+bool duplica(Programma& programma, const VoceMenu&) {
+    programma.documento().duplica();
+    return false;
+}
+
+bool lingua(Programma& programma, const VoceMenu&) {
+    if (!programma.forme().lingua() || !programma.documento().fine()) return false;
+    if (programma.forme().riavvia) programma.forme().riavvia();
+    return true;
+}
+
 bool annulla(Programma& programma, const VoceMenu&) {
     programma.annulla();
     return false;
@@ -172,10 +188,10 @@ constexpr VoceMenu voci[] = {
               mostra<&F::controlli>, "Ctrl+K"}),
     {"risultati", "R&isultati", 1, 36, ha<&F::risultati>, mostra<&F::risultati>, "Ctrl+R"},
     {"sicurezza", "&Sicurezza", 1, 37, ha<&F::sicurezza>, mostra<&F::sicurezza>},
-    staccata({"nuovo", "Nu&ovo", 1, 38, ha<&F::nuovo>, mostra<&F::nuovo>}),
-    {"duplica", "&Duplica", 1, 39, ha<&F::duplica>, mostra<&F::duplica>, "", progettoAperto},
+    staccata({"nuovo", "Nu&ovo", 1, 38, ha<&F::nuovo>, nuovo}),
+    {"duplica", "&Duplica", 1, 39, nullptr, duplica, "", progettoAperto},
     {"recenti", "R&ecenti", 1, 40, nullptr, nullptr, "", nullptr, nullptr, recenti},
-    staccata({"lingua", "Lin&gua", 1, 41, ha<&F::lingua>, mostra<&F::lingua>}),
+    staccata({"lingua", "Lin&gua", 1, 41, ha<&F::lingua>, lingua}),
     {"tasti", "&Tasti", 1, 42, ha<&F::tasti>, mostra<&F::tasti>},
 
     {"fine", "&Uscita", 0, 0, nullptr, esci, "Ctrl+Q"},

@@ -4,7 +4,9 @@
 #include <algorithm>
 #include <clocale>
 #include <csignal>
+#include <cstdio>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "base/file_error.hpp"
@@ -13,12 +15,14 @@
 #include "base/folders/user_data.hpp"
 #include "base/process/closed_pipe.hpp"
 #include "base/process/program_questions.hpp"
+#include "base/process/restart.hpp"
 #include "base/translated_texts.hpp"
 #include "commands/desktop_program.hpp"
 #include "commands/fatal_error.hpp"
 #include "commands/start/desktop_arguments.hpp"
 #include "commands/start/startup.hpp"
 #include "commands/start/user_folder.hpp"
+#include "project/project_data.hpp"
 #include "shell/application.hpp"
 #include "shell/dialogo_qt.hpp"
 #include "shell/file_dialogs_qt.hpp"
@@ -37,6 +41,7 @@
 #include "shell/section/definej.hpp"
 #include "shell/termination.hpp"
 #include "shell/toolkit_texts.hpp"
+#include "shell/tools/tool_forms.hpp"
 
 // korven32: the desktop program. Chooses what is behind the ports, and tells the one error that
 // ends a program.
@@ -68,11 +73,17 @@ commands::FormeProgramma forme(shell::Menu1& finestra, shell::VitaProgetto& vita
                           });
     shell::collegaRelazione(tutte, finestra, dialogo, condivisa);
     shell::collegaOsservazioni(tutte, finestra, vita);
+    shell::collegaStrumenti(tutte, dialogo, finestra);
     return tutte;
 }
 
-int sessione(shell::Applicazione& applicazione, shell::DialogoQt& dialogo,
-             const std::string& argomento) {
+// How the program began, and whether it is to begin once more when it has ended.
+struct Avvio {
+    std::string argomento;  // the project that the command line names; empty: none
+    bool ancora = false;
+};
+
+int sessione(shell::Applicazione& applicazione, shell::DialogoQt& dialogo, Avvio& avvio) {
     commands::scegliCartellaProgramma();
     if (!commands::iniziaLingua({.dialogo = dialogo, .scegli = shell::chiediLingua})) return 0;
     traduciQt(applicazione);
@@ -88,15 +99,16 @@ int sessione(shell::Applicazione& applicazione, shell::DialogoQt& dialogo,
     avanzamento.sopra(&finestra);
     shell::StampanteProgramma stampante;
     masks::Maschere maschere;
-    commands::Programma programma(dialogo, nomi, finestra, avanzamento, maschere,
-                                  forme(finestra, vita, dialogo, stampante));
+    auto tutte = forme(finestra, vita, dialogo, stampante);
+    tutte.riavvia = [&avvio] { avvio.ancora = true; };
+    commands::Programma programma(dialogo, nomi, finestra, avanzamento, maschere, std::move(tutte));
     finestra.collega(programma);
     QObject::connect(&finestra, &shell::Menu1::aggiornata, &vita, &shell::VitaProgetto::guarda);
     QObject::connect(&applicazione, &QGuiApplication::commitDataRequest, &finestra,
                      &shell::Menu1::fineSessione, Qt::DirectConnection);
     finestra.show();
     QTimer::singleShot(0, &finestra, [&] {
-        commands::avvia(argomento, programma.documento(),
+        commands::avvia(avvio.argomento, programma.documento(),
                         {.leggiMaschere = [&] { commands::leggiDatiProgramma(maschere); },
                          .saluta = [&] { finestra.esegui(commands::voceMenu("about")); }});
         finestra.aggiorna();
@@ -113,23 +125,17 @@ int domande(const std::vector<std::string>& argomenti) {
     return commands::rispondi(letti);
 }
 
-int programma(int argc, char** argv) {
-    base::occupaCanaliChiusi();
-    base::resistiAiTubiChiusi();
-    std::signal(SIGXFSZ, SIG_IGN);  // a file at its size limit is a failed write like others
-    if (const int codice = domande({argv + std::min(argc, 1), argv + argc}); codice >= 0)
-        return codice;
+int finestre(int argc, char** argv, Avvio& avvio) {
     shell::Applicazione applicazione(argc, argv);
     QCoreApplication::setOrganizationName("korven32");
     QCoreApplication::setApplicationName("korven32");
     QGuiApplication::setDesktopFileName("korven32");
     std::setlocale(LC_NUMERIC, "C");
     shell::segnoDecimaleQt();
-    const QStringList argomenti = QCoreApplication::arguments();
+    avvio.argomento = QCoreApplication::arguments().value(1).toStdString();
     shell::DialogoQt dialogo;
     try {
-        return sessione(applicazione, dialogo,
-                        argomenti.size() > 1 ? argomenti[1].toStdString() : std::string());
+        return sessione(applicazione, dialogo, avvio);
     } catch (const std::exception& errore) {
         const std::string recuperato = commands::recuperaProgetto();
         dialogo.puntatore(base::Puntatore::normale);
@@ -137,6 +143,28 @@ int programma(int argc, char** argv) {
                           base::traduttore("ATTENZIONE") + "!", base::Icona::stop);
         return 1;
     }
+}
+
+// With the project that was open last, if it is on a disk.
+void ricomincia(const std::vector<std::string>& argomenti, const Avvio& avvio) {
+    const bool scritto = base::esisteFile(project::fileCorrente);
+    base::ricomincia(commands::argomentiRiavvio(argomenti, avvio.argomento,
+                                                scritto ? project::fileCorrente : std::string()));
+    std::perror("korven32");
+}
+
+int programma(int argc, char** argv) {
+    base::occupaCanaliChiusi();
+    base::resistiAiTubiChiusi();
+    std::signal(SIGXFSZ, SIG_IGN);  // a file at its size limit is a failed write like others
+    const std::vector<std::string> argomenti(argv, argv + argc);
+    if (const int codice = domande({argv + std::min(argc, 1), argv + argc}); codice >= 0)
+        return codice;
+    Avvio avvio;
+    const int codice = finestre(argc, argv, avvio);
+    if (!avvio.ancora) return codice;
+    ricomincia(argomenti, avvio);
+    return 1;
 }
 
 }  // namespace

@@ -27,6 +27,8 @@ constexpr Posto posti[] = {
     {"Form1", 19},
     {"apri", 3},
     {"salva", 4},
+    {"nuovo", 38},
+    {"modelli", 38},
 };
 
 }  // namespace

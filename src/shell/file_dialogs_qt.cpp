@@ -72,6 +72,15 @@ std::string DialogoFileQt::apri(const std::string& attuale) {
     return risposta(dialogo).value_or("");
 }
 
+std::string DialogoFileQt::nuovo(const std::string& proposta) {
+    QFileDialog dialogo(finestra_);
+    prepara(dialogo, tradotto("Nome del nuovo progetto"), QFileDialog::AcceptSave);
+    dialogo.setObjectName("nuovo");
+    dialogo.setLabelText(QFileDialog::Accept, tradotto("&Conferma"));
+    dialogo.selectFile(qt(proposta));
+    return risposta(dialogo).value_or("");
+}
+
 std::optional<std::string> DialogoFileQt::salva(const std::string& proposta) {
     QFileDialog dialogo(finestra_);
     prepara(dialogo, tradotto("Salva il progetto"), QFileDialog::AcceptSave);

@@ -16,6 +16,7 @@ class DialogoFileQt : public commands::DialogoFile {
     void sopra(QWidget* finestra) { finestra_ = finestra; }
 
     [[nodiscard]] std::string apri(const std::string& attuale) override;
+    [[nodiscard]] std::string nuovo(const std::string& proposta) override;
     [[nodiscard]] std::optional<std::string> salva(const std::string& proposta) override;
 
  private:

@@ -333,7 +333,7 @@ Nomi sceglibili(const Programma& p) {
 }
 
 TEST_F(ProgrammaTest, LetsOnlyThoseCommandsBeChosenThatShowNoFormOrOneThatIsPluggedIn) {
-    const Nomi sempre{"FileApri", "FileSalva", "annulla", "ripeti", "fine"};
+    const Nomi sempre{"FileApri", "FileSalva", "annulla", "ripeti", "duplica", "fine"};
     EXPECT_EQ(sceglibili(programma({})), sempre);
     const std::tuple<const char*, std::function<void(FormeProgramma&)>, Nomi> casi[] = {
         {"maschera",
@@ -356,9 +356,8 @@ TEST_F(ProgrammaTest, LetsOnlyThoseCommandsBeChosenThatShowNoFormOrOneThatIsPlug
         {"controlli", [](auto& f) { f.controlli = [] {}; }, {"controlli"}},
         {"risultati", [](auto& f) { f.risultati = [] {}; }, {"risultati"}},
         {"sicurezza", [](auto& f) { f.sicurezza = [] {}; }, {"sicurezza"}},
-        {"nuovo", [](auto& f) { f.nuovo = [] {}; }, {"nuovo"}},
-        {"duplica", [](auto& f) { f.duplica = [] {}; }, {"duplica"}},
-        {"lingua", [](auto& f) { f.lingua = [] {}; }, {"lingua"}},
+        {"nuovo", [](auto& f) { f.nuovo = [] { return std::nullopt; }; }, {"nuovo"}},
+        {"lingua", [](auto& f) { f.lingua = [] { return false; }; }, {"lingua"}},
         {"tasti", [](auto& f) { f.tasti = [] {}; }, {"tasti"}},
     };
     std::size_t quanti = sempre.size();
@@ -377,7 +376,6 @@ TEST_F(ProgrammaTest, LetsOnlyThoseCommandsBeChosenThatShowNoFormOrOneThatIsPlug
 
 TEST_F(ProgrammaTest, AsksWhetherACommandHasAnythingToDo) {
     FormeProgramma forme;
-    forme.duplica = [] {};
     const auto p = programma(forme);
     EXPECT_TRUE(p.puo(voceMenu("annulla")));
     EXPECT_FALSE(p.possibile(voceMenu("annulla")));
@@ -385,6 +383,24 @@ TEST_F(ProgrammaTest, AsksWhetherACommandHasAnythingToDo) {
     EXPECT_FALSE(p.possibile(voceMenu("duplica")));
     project::fileCorrente = ambiente.lavori / "muro.kvd";
     EXPECT_TRUE(p.possibile(voceMenu("duplica")));
+}
+
+TEST_F(ProgrammaTest, StartsAgainInAnotherLanguageAfterTheQuestionAboutUnsavedWork) {
+    bool voluto = false;
+    int riavvii = 0;
+    FormeProgramma forme;
+    forme.lingua = [&] { return voluto; };
+    forme.riavvia = [&] { ++riavvii; };
+    auto p = programma(forme);
+    EXPECT_FALSE(p.esegui(voceMenu("lingua")));
+    voluto = true;
+    project::fileCorrente = ambiente.lavori / "muro.kvd";
+    project::modificato = true;
+    dialogo.risposte = {base::Risposta::annulla, base::Risposta::no};
+    EXPECT_FALSE(p.esegui(voceMenu("lingua")));
+    EXPECT_EQ(riavvii, 0);
+    EXPECT_TRUE(p.esegui(voceMenu("lingua")));
+    EXPECT_EQ(riavvii, 1);
 }
 
 // With a project open, pens and patterns to draw with, and forms that say that they were shown.
@@ -419,9 +435,15 @@ class MenuIntero : public ProgrammaTest {
         forme.controlli = dice("remarks");
         forme.risultati = dice("results");
         forme.sicurezza = dice("safety");
-        forme.nuovo = dice("new project");
-        forme.duplica = dice("duplicate");
-        forme.lingua = dice("languages");
+        forme.nuovo = [this] {
+            mostrate += "pattern, ";
+            return std::string();
+        };
+        forme.lingua = [this] {
+            mostrate += "languages, ";
+            return true;
+        };
+        forme.riavvia = dice("start again, ");
         forme.tasti = dice("keys");
     }
     ~MenuIntero() override { plot::statoPlot = {}; }
@@ -433,10 +455,12 @@ class MenuIntero : public ProgrammaTest {
         nomi.attuali.clear();
         nomi.proposte.clear();
         finestra.ultimoStato.clear();
+        nomi.proposteNuovo.clear();
         if (p.esegui(voceMenu(nome))) mostrate += "end";
         if (!nomi.attuali.empty()) mostrate += "open dialog";
         if (!nomi.proposte.empty()) mostrate += "save dialog";
         if (finestra.ultimoStato.starts_with("Nulla")) mostrate += finestra.ultimoStato;
+        if (!nomi.proposteNuovo.empty()) mostrate += "name dialog";
         return mostrate;
     }
 
@@ -475,9 +499,9 @@ TEST_F(MenuIntero, BringsAboutWhatEachItemSays) {
         {"controlli", "remarks"},
         {"risultati", "results"},
         {"sicurezza", "safety"},
-        {"nuovo", "new project"},
-        {"duplica", "duplicate"},
-        {"lingua", "languages"},
+        {"nuovo", "pattern, name dialog"},
+        {"duplica", "name dialog"},
+        {"lingua", "languages, start again, end"},
         {"tasti", "keys"},
         {"fine", "end"},
         {"sommario", "contents"},

@@ -22,6 +22,7 @@
 #include "shell/report/conf_stampa.hpp"
 #include "shell/run/temp_calc.hpp"
 #include "shell/section/definej.hpp"
+#include "shell/tools/pattern_choice.hpp"
 #include "support/delivered_program.hpp"
 #include "support/desktop_bench.hpp"
 #include "support/dialog_double.hpp"
@@ -91,6 +92,7 @@ TEST_P(TastiDiScelta, DifferWithinTheOtherForms) {
     EXPECT_EQ(tastiDi(TempCalc(nullptr)), 1U);
     QWidget principale;
     EXPECT_EQ(tastiDi(FinestraOsservazioni(principale, test::azioniOsservazioni())), 3U);
+    EXPECT_EQ(tastiDi(SceltaModello({})), 2U);
     static_cast<void>(tastiDi(Informazioni("File corrente: /MURO", nullptr)));
     static_cast<void>(tastiDi(FinestraGuida(help::leggiGuida("m.hlp", test::guidaPiccola()))));
 }
@@ -115,7 +117,8 @@ TEST_P(TastiDiScelta, DifferWithinTheFileDialogs) {
         QTest::keyClick(&d, Qt::Key_Escape);
     };
     for (const std::function<void()>& apri : std::initializer_list<std::function<void()>>{
-             [&] { EXPECT_EQ(nomi.apri(""), ""); }, [&] { EXPECT_FALSE(nomi.salva("muro.kvd")); },
+             [&] { EXPECT_EQ(nomi.apri(""), ""); }, [&] { EXPECT_EQ(nomi.nuovo(""), ""); },
+             [&] { EXPECT_FALSE(nomi.salva("muro.kvd")); },
              [] { EXPECT_EQ(chiediNomeTxt(nullptr, "muro.txt"), ""); }}) {
         const test::AllaProssimaFinestra<QFileDialog> aperto(guarda);
         apri();

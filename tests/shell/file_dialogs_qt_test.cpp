@@ -46,6 +46,17 @@ TEST_F(DialoghiFile, TakeTheNameOfAProjectThatDoesNotExistYet) {
     EXPECT_EQ(titolo, "Apri un progetto o scrivi il nome di uno nuovo");
 }
 
+TEST_F(DialoghiFile, AskForTheNameOfANewProjectWithAProposal) {
+    const Dialogo dialogo([&](QFileDialog& d) {
+        EXPECT_EQ(d.windowTitle(), "Nome del nuovo progetto");
+        EXPECT_EQ(d.objectName(), "nuovo");
+        EXPECT_EQ(d.findChild<QLineEdit*>()->text(), "muro_copia.kvd");
+        scrivi(d, "variante");
+    });
+    EXPECT_EQ(dialoghi.nuovo("muro_copia.kvd"), lavori / "variante.kvd");
+    EXPECT_TRUE(dialogo.fatto);
+}
+
 // A label without its list would show the "&" of the access key.
 TEST_F(DialoghiFile, LeadFromEachLabelToItsListByAnAccessKey) {
     const auto guarda = [](QFileDialog& d) {

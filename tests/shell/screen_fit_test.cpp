@@ -16,6 +16,8 @@
 #include <QTableView>
 #include <QToolButton>
 
+#include "base/language.hpp"
+#include "commands/start/example_folders.hpp"
 #include "help/pages.hpp"
 #include "review/remark_counts.hpp"
 #include "shell/dialogo_qt.hpp"
@@ -31,6 +33,7 @@
 #include "shell/report/conf_stampa.hpp"
 #include "shell/report/form1.hpp"
 #include "shell/run/temp_calc.hpp"
+#include "shell/tools/pattern_choice.hpp"
 #include "support/delivered_program.hpp"
 #include "support/desktop_bench.hpp"
 #include "support/dialog_double.hpp"
@@ -156,6 +159,11 @@ void controllaTutte(test::ProgrammaConsegnato& programma) {
     controlla(osservazioni);
     Selezling lingue({5, 3, 2, 1, 4, 6});
     controlla(lingue);
+    Selezling altre({5, 3, 2, 1, 4, 6}, base::linguaCorrente());
+    controlla(altre);
+    SceltaModello modelli(
+        commands::modelli(commands::cartellaEsempi(base::siglaLingua(base::linguaCorrente()))));
+    controlla(modelli);
     Informazioni informazioni("File corrente: /HOME/ANNA/LAVORI/MURO", nullptr);
     controlla(informazioni);
     TempCalc corsa(nullptr);

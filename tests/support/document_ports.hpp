@@ -25,6 +25,11 @@ class DialogoFileFinto : public commands::DialogoFile {
         cartelle.push_back(std::filesystem::current_path().string());
         return prossimo(aperti).value_or("");
     }
+    std::string nuovo(const std::string& proposta) override {
+        proposteNuovo.push_back(proposta);
+        cartelleNuovo.push_back(std::filesystem::current_path().string());
+        return prossimo(nuovi).value_or("");
+    }
     std::optional<std::string> salva(const std::string& proposta) override {
         proposte.push_back(proposta);
         cartelleSalva.push_back(std::filesystem::current_path().string());
@@ -32,10 +37,11 @@ class DialogoFileFinto : public commands::DialogoFile {
         return prossimo(salvati);
     }
 
-    std::deque<std::string> aperti, salvati;     ///< the answers
-    std::vector<std::string> attuali, proposte;  ///< what was shown first
-    std::vector<std::string> cartelle;           ///< where the open dialog began
-    std::vector<std::string> cartelleSalva;      ///< where the save dialog began
+    std::deque<std::string> aperti, salvati, nuovi;         ///< the answers
+    std::vector<std::string> attuali, proposte;             ///< what was shown first
+    std::vector<std::string> proposteNuovo, cartelleNuovo;  ///< of the dialog for a new name
+    std::vector<std::string> cartelle;                      ///< where the open dialog began
+    std::vector<std::string> cartelleSalva;                 ///< where the save dialog began
     std::string vaIn;  ///< folder that the save dialog leaves behind as the current one
 
  private:

@@ -39,4 +39,13 @@ std::string nomePdfRelazione(std::string_view progetto) {
     return nomeUscita(progetto, parolaRelazione.italiano, "pdf");
 }
 
+std::string nomeLibero(std::string_view percorso, std::string_view coda, std::string_view fine,
+                       const std::function<bool(const std::string&)>& esiste) {
+    const std::filesystem::path origine(percorso);
+    const std::string radice = (origine.parent_path() / origine.stem()).string().append(coda);
+    std::string nome = std::string(radice).append(fine);
+    for (int n = 2; esiste(nome); ++n) nome = (radice + "_" + std::to_string(n)).append(fine);
+    return nome;
+}
+
 }  // namespace korven::base

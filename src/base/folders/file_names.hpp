@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -30,6 +31,13 @@ namespace korven::base {
 /// and the `estensione` "pdf". The stem ends at the last point of the file's own name.
 [[nodiscard]] std::string nomeUscita(std::string_view progetto, std::string_view nome,
                                      std::string_view estensione);
+
+/// A name that nothing has, beside `percorso`: with `coda` after its name up to the last point,
+/// then `fine`, and "_" with a number from 2 on before that if the name is taken.
+/// @param esiste  tells whether a name is taken
+[[nodiscard]] std::string nomeLibero(std::string_view percorso, std::string_view coda,
+                                     std::string_view fine,
+                                     const std::function<bool(const std::string&)>& esiste);
 
 // Words by which a made file is told from the others of its project. The command line takes the one
 // that belongs to its language. The desktop, whose names are as fixed as its screens, takes the

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "base/folders/file_names.hpp"
 #include "base/folders/user_data.hpp"
 #include "project/output_guard.hpp"
 #include "project/project_data.hpp"
@@ -15,16 +16,6 @@ namespace fs = std::filesystem;
 
 constexpr std::string_view coda = "_recuperato", estensione = ".kvd";
 
-// Beside `percorso`, with `dopo` after its name, and a number from 2 on if that name is taken.
-std::string nomeLibero(std::string_view percorso, std::string_view dopo, std::string_view fine,
-                       const std::function<bool(const std::string&)>& esiste) {
-    const fs::path origine(percorso);
-    const std::string radice = (origine.parent_path() / origine.stem()).string().append(dopo);
-    std::string nome = std::string(radice).append(fine);
-    for (int n = 2; esiste(nome); ++n) nome = (radice + "_" + std::to_string(n)).append(fine);
-    return nome;
-}
-
 // A number from 2 on as it is written.
 bool numerato(std::string_view cifre) {
     return !cifre.empty() && cifre.front() != '0' && cifre != "1" &&
@@ -35,12 +26,12 @@ bool numerato(std::string_view cifre) {
 
 std::string nomeRecupero(std::string_view percorso,
                          const std::function<bool(const std::string&)>& esiste) {
-    return nomeLibero(percorso, coda, estensione, esiste);
+    return base::nomeLibero(percorso, coda, estensione, esiste);
 }
 
 std::string nomeRighe(std::string_view percorso,
                       const std::function<bool(const std::string&)>& esiste) {
-    return nomeLibero(percorso, "_righe", ".txt", esiste);
+    return base::nomeLibero(percorso, "_righe", ".txt", esiste);
 }
 
 bool eNomeRecupero(std::string_view nome, std::string_view percorso) {

@@ -57,6 +57,18 @@ ArgomentiDesktop leggiArgomenti(const std::vector<std::string>& argomenti,
     return {};
 }
 
+std::vector<std::string> argomentiRiavvio(std::vector<std::string> argomenti,
+                                          const std::string& iniziale,
+                                          const std::string& progetto) {
+    // The last one of that text: before it, it may be the value of an option.
+    const auto trovato = iniziale.empty()
+                             ? argomenti.rend()
+                             : std::find(argomenti.rbegin(), argomenti.rend(), iniziale);
+    if (trovato != argomenti.rend()) argomenti.erase(std::next(trovato).base());
+    if (!progetto.empty()) argomenti.push_back(progetto);
+    return argomenti;
+}
+
 int rispondi(const ArgomentiDesktop& argomenti) {
     constexpr int fatto = 0, usoErrato = 2, uscitaRotta = 3;
     if (!argomenti.sconosciuto.empty()) {

@@ -22,6 +22,15 @@ struct ArgomentiDesktop {
     const std::vector<std::string>& argomenti,
     const std::function<bool(const std::string&)>& esiste);
 
+/// The arguments with which a program starts again: its own, the project that is open in place of
+/// the one that it was started with.
+/// @param argomenti  as the program got them, its name the first
+/// @param iniziale   the project among them; empty if they name none
+/// @param progetto   path of the open project; empty: none
+[[nodiscard]] std::vector<std::string> argomentiRiavvio(std::vector<std::string> argomenti,
+                                                        const std::string& iniziale,
+                                                        const std::string& progetto);
+
 /// Answers a question on standard output and a wrong argument on standard error.
 /// @return the exit code with which the program ends; -1 if it goes on
 [[nodiscard]] int rispondi(const ArgomentiDesktop& argomenti);

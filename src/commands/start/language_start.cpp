@@ -18,8 +18,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::string fileLingua() { return base::fileProgramma("language.cfg"); }
-
 std::string fileModulo(std::string_view sigla, std::string_view estensione) {
     return base::fileProgramma(
         std::string("module").append(numeroModulo).append(sigla).append(".").append(estensione));
@@ -28,7 +26,7 @@ std::string fileModulo(std::string_view sigla, std::string_view estensione) {
 bool chiediLingua(const PorteLingua& porte) {
     const int codice = porte.scegli(lingueOfferte());
     if (codice == 0) return false;
-    base::scriviFile(fileLingua(), std::to_string(codice) + "\r\n", porte.disco);
+    scriviLingua(codice, porte.disco);
     return true;
 }
 
@@ -46,6 +44,12 @@ std::string trovaGuida(std::string_view sigla) {
 }
 
 }  // namespace
+
+std::string fileLingua() { return base::fileProgramma("language.cfg"); }
+
+void scriviLingua(int codice, const base::Disco& disco) {
+    base::scriviFile(fileLingua(), std::to_string(codice) + "\r\n", disco);
+}
 
 std::vector<int> lingueOfferte() {
     std::vector<int> codici;

@@ -32,6 +32,12 @@ struct PorteLingua {
 ///         from 1 to 6
 [[nodiscard]] bool iniziaLingua(const PorteLingua& porte);
 
+/// The file that holds the language chosen, `language.cfg` of the program folder.
+[[nodiscard]] std::string fileLingua();
+
+/// Writes a language code there. @throws base::ErroreFile if it can't be written
+void scriviLingua(int codice, const base::Disco& disco = base::discoDiSistema());
+
 /// Path of the help file of the language in force, or of the one that replaces it:
 /// "module06ita.hlp" in the program folder. It may not exist.
 extern std::string fileGuida;

@@ -6,6 +6,7 @@
 #include <iterator>
 
 #include "shell/main/flags.hpp"
+#include "shell/qt_text.hpp"
 
 namespace korven::shell {
 
@@ -26,9 +27,11 @@ constexpr QSize misuraBandiera{96, 64};
 
 }  // namespace
 
-Selezling::Selezling(const std::vector<int>& codici, QWidget* genitore) : QDialog(genitore) {
+Selezling::Selezling(const std::vector<int>& codici, int presente, QWidget* genitore)
+    : QDialog(genitore) {
     setObjectName("selezling");
-    setWindowTitle("Select your language...");
+    setWindowTitle(presente == 0 ? QStringLiteral("Select your language...")
+                                 : tradotto("Lingua del programma"));
     auto* fila = new QHBoxLayout(this);
     fila->setContentsMargins(24, 24, 24, 24);
     fila->setSpacing(12);
@@ -50,12 +53,22 @@ Selezling::Selezling(const std::vector<int>& codici, QWidget* genitore) : QDialo
             accept();
         });
         fila->addWidget(bottone);
+        if (codice != presente) continue;
+        bottone->setCheckable(true);
+        bottone->setChecked(true);
+        bottone->setFocus();
     }
     fila->addStretch();
 }
 
 int chiediLingua(const std::vector<int>& codici) {
     Selezling forma(codici);
+    forma.exec();
+    return forma.scelta();
+}
+
+int chiediAltraLingua(const std::vector<int>& codici, int presente, QWidget* sopra) {
+    Selezling forma(codici, presente, sopra);
     forma.exec();
     return forma.scelta();
 }

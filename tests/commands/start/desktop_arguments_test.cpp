@@ -49,6 +49,22 @@ TEST(ArgomentiDesktop, LetTheOptionsOfTheWindowSystemPass) {
     EXPECT_EQ(letti({"-reverse", "--version"}).richiesta, Richiesta::versione);
 }
 
+TEST(ArgomentiRiavvio, NameTheOpenProjectInPlaceOfTheFirstOne) {
+    using Testi = std::vector<std::string>;
+    EXPECT_EQ(argomentiRiavvio({"korven32"}, "", ""), (Testi{"korven32"}));
+    EXPECT_EQ(argomentiRiavvio({"korven32"}, "", "/a/muro.kvd"),
+              (Testi{"korven32", "/a/muro.kvd"}));
+    EXPECT_EQ(argomentiRiavvio({"korven32", "muro.kvd"}, "muro.kvd", "/b/altro.kvd"),
+              (Testi{"korven32", "/b/altro.kvd"}));
+    EXPECT_EQ(argomentiRiavvio({"korven32", "muro.kvd"}, "muro.kvd", ""), (Testi{"korven32"}));
+}
+
+TEST(ArgomentiRiavvio, KeepTheOptionsOfTheWindowSystem) {
+    using Testi = std::vector<std::string>;
+    EXPECT_EQ(argomentiRiavvio({"./korven32", "-title", "m", "m", "-reverse"}, "m", "/a/m.kvd"),
+              (Testi{"./korven32", "-title", "m", "-reverse", "/a/m.kvd"}));
+}
+
 TEST(Rispondi, GoesOnWhereNothingIsAskedAndEndsWithTwoOnAWrongOption) {
     EXPECT_EQ(rispondi({}), -1);
     testing::internal::CaptureStderr();

@@ -217,14 +217,14 @@ TEST_F(Menu1Test, LeavesTheKeysOfItsHistoryToTheFormThatIsOpen) {
 }
 
 TEST_F(Menu1Test, DuplicatesNoProjectWhereNoneIsOpen) {
-    int duplicati = 0;
-    forme.duplica = [&] { ++duplicati; };
     apri();
     finestra.esegui(commands::voceMenu("duplica"));
-    EXPECT_EQ(duplicati, 0);
+    EXPECT_TRUE(nomi.proposteNuovo.empty());
     fileCorrente = ambiente.lavori / "muro.kvd";
+    nomi.nuovi = {ambiente.lavori / "altro"};
     finestra.esegui(commands::voceMenu("duplica"));
-    EXPECT_EQ(duplicati, 1);
+    EXPECT_EQ(finestra.windowTitle(), "KORVEN 32 - altro");
+    EXPECT_TRUE(finestra.findChild<QLabel*>("modifiche")->isVisible());
 }
 
 TEST_F(Menu1Test, OpensARecentProjectFromTheMenuThatListsThem) {

@@ -44,6 +44,18 @@ TEST(SelezlingTest, ReturnsNoneWhenItIsClosed) {
     EXPECT_EQ(chiediLingua({5, 2, 1}), 0);
 }
 
+TEST(SelezlingTest, PressesTheButtonOfTheLanguageThatHolds) {
+    const test::AllaProssimaFinestra<Selezling> scelta([](Selezling& forma) {
+        EXPECT_EQ(forma.windowTitle(), "Lingua del programma");
+        for (const auto* bottone : forma.findChildren<QToolButton*>())
+            EXPECT_EQ(bottone->isChecked(), bottone->objectName() == "Picture3")
+                << bottone->objectName().toStdString();
+        QTest::mouseClick(forma.findChild<QToolButton*>("Picture1"), Qt::LeftButton);
+    });
+    EXPECT_EQ(chiediAltraLingua({5, 2, 1}, 2, nullptr), 5);
+    EXPECT_TRUE(scelta.fatto);
+}
+
 TEST(Bandiera, FillsItsSizeAtTheDensityOfTheScreen) {
     const QPixmap tedesca = bandiera(2, {96, 64}, 2);
     EXPECT_EQ(tedesca.size(), QSize(192, 128));

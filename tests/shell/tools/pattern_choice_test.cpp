@@ -1,0 +1,73 @@
+#include "shell/tools/pattern_choice.hpp"
+
+#include <gtest/gtest.h>
+
+#include <QListWidget>
+#include <QPushButton>
+
+#include "support/desktop_bench.hpp"
+#include "support/form_setup.hpp"
+
+namespace korven::shell {
+namespace {
+
+using Forma = test::AllaProssimaFinestra<SceltaModello>;
+
+class ScegliModello : public ::testing::Test {
+ protected:
+    std::optional<std::string> dopo(const std::function<void(QListWidget&, SceltaModello&)>& fai) {
+        const Forma aperta([&](SceltaModello& forma) {
+            fai(test::controllo<QListWidget>(forma, "lista"), forma);
+        });
+        return chiediModello({{"/a/uno.kvd", "uno", "Primo"}, {"/a/due.kvd", "due", "Secondo"}},
+                             nullptr);
+    }
+    QApplication& app = test::applicazione();
+    test::UtenteNuovo utente;
+};
+
+TEST_F(ScegliModello, OffersTheDefaultsAndEachPatternWithItsHeadings) {
+    EXPECT_EQ(dopo([](QListWidget& lista, SceltaModello& forma) {
+                  ASSERT_EQ(lista.count(), 3);
+                  EXPECT_EQ(lista.item(0)->text(), "Valori iniziali");
+                  EXPECT_EQ(lista.item(2)->text(), "due");
+                  EXPECT_EQ(lista.item(2)->data(Qt::AccessibleTextRole), "due: Secondo");
+                  EXPECT_EQ(lista.currentRow(), 0);
+                  EXPECT_TRUE(lista.hasFocus());
+                  forma.reject();
+              }),
+              std::nullopt);
+}
+
+TEST_F(ScegliModello, TakesTheDefaultsByEnterAlone) {
+    EXPECT_EQ(
+        dopo([](QListWidget& lista, SceltaModello&) { QTest::keyClick(&lista, Qt::Key_Return); }),
+        "");
+}
+
+TEST_F(ScegliModello, TakesThePatternChosenByKeysOrButton) {
+    EXPECT_EQ(dopo([](QListWidget& lista, SceltaModello& forma) {
+                  QTest::keyClick(&lista, Qt::Key_Down);
+                  QTest::mouseClick(&test::controllo<QPushButton>(forma, "Command1"),
+                                    Qt::LeftButton);
+              }),
+              "/a/uno.kvd");
+}
+
+TEST_F(ScegliModello, TakesThePatternThatIsClickedTwice) {
+    EXPECT_EQ(dopo([](QListWidget& lista, SceltaModello&) {
+                  const QPoint dove = lista.visualItemRect(lista.item(2)).center();
+                  QTest::mouseClick(lista.viewport(), Qt::LeftButton, {}, dove);
+                  QTest::mouseDClick(lista.viewport(), Qt::LeftButton, {}, dove);
+              }),
+              "/a/due.kvd");
+}
+
+TEST_F(ScegliModello, TakesNothingOnEsc) {
+    EXPECT_EQ(
+        dopo([](QListWidget&, SceltaModello& forma) { QTest::keyClick(&forma, Qt::Key_Escape); }),
+        std::nullopt);
+}
+
+}  // namespace
+}  // namespace korven::shell
