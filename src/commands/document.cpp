@@ -125,11 +125,11 @@ void Documento::leggi(const std::string& nome, const std::string& file) {
 
 void Documento::comincia(const std::string& nome) {
     project::azzeraProgetto();
-    storia_.svuota();
     mettiNome(nome);
 }
 
 void Documento::mettiNome(const std::string& nome) {
+    storia_.svuota();
     fileCorrente = nome;
     suDisco_.ricorda(nome);
     project::progettiProtetti.letto.clear();

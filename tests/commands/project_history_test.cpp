@@ -218,6 +218,15 @@ TEST_F(StoriaProgramma, ForgetsItsStepsWithAnotherProject) {
     }
 }
 
+TEST_F(StoriaProgramma, ForgetsItsStepsWithACopyOfTheProject) {
+    edita("EditTiranti", {"0"});
+    nomi.nuovi = {ambiente.lavori / "copia.kvd"};
+    programma.esegui(voceMenu("duplica"));
+    ASSERT_EQ(fileCorrente, ambiente.lavori / "copia.kvd");
+    EXPECT_FALSE(programma.possibile(voceMenu("annulla")));
+    EXPECT_EQ(Progetto.nTiranti, 0);
+}
+
 TEST_F(StoriaProgramma, TakesTheSectionBackButNotTheTypeThatItsFormGivesByOpening) {
     for (const auto flag : project::tipiSezione) Progetto.sezione.*flag = false;
     sezione = [] { masks::daiTipo(Progetto.sezione); };  // left without
