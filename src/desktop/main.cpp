@@ -37,6 +37,8 @@
 #include "shell/qt_text.hpp"
 #include "shell/remarks/live_remarks.hpp"
 #include "shell/report/destinations.hpp"
+#include "shell/rescue/rescue_form.hpp"
+#include "shell/rescue/rescue_watch.hpp"
 #include "shell/run/progress_qt.hpp"
 #include "shell/section/definej.hpp"
 #include "shell/termination.hpp"
@@ -71,6 +73,7 @@ commands::FormeProgramma forme(shell::Menu1& finestra, shell::VitaProgetto& vita
                           [&finestra](const std::string& percorso) {
                               finestra.stato(base::traduttore("File scritto") + ": " + percorso);
                           });
+    shell::collegaRecupero(tutte, finestra);
     shell::collegaRelazione(tutte, finestra, dialogo, condivisa);
     shell::collegaOsservazioni(tutte, finestra, vita);
     shell::collegaStrumenti(tutte, dialogo, finestra);
@@ -103,6 +106,7 @@ int sessione(shell::Applicazione& applicazione, shell::DialogoQt& dialogo, Avvio
     tutte.riavvia = [&avvio] { avvio.ancora = true; };
     commands::Programma programma(dialogo, nomi, finestra, avanzamento, maschere, std::move(tutte));
     finestra.collega(programma);
+    shell::sorvegliaLavoro(finestra, [&programma] { programma.tieniAlSicuro(); });
     QObject::connect(&finestra, &shell::Menu1::aggiornata, &vita, &shell::VitaProgetto::guarda);
     QObject::connect(&applicazione, &QGuiApplication::commitDataRequest, &finestra,
                      &shell::Menu1::fineSessione, Qt::DirectConnection);

@@ -20,6 +20,7 @@
 #include "shell/pens/editacfg.hpp"
 #include "shell/remarks/remarks_window.hpp"
 #include "shell/report/conf_stampa.hpp"
+#include "shell/rescue/rescue_form.hpp"
 #include "shell/run/temp_calc.hpp"
 #include "shell/section/definej.hpp"
 #include "shell/tools/pattern_choice.hpp"
@@ -27,6 +28,7 @@
 #include "support/desktop_bench.hpp"
 #include "support/dialog_double.hpp"
 #include "support/form_setup.hpp"
+#include "support/sample_offer.hpp"
 #include "support/sample_remarks.hpp"
 #include "support/small_help.hpp"
 
@@ -93,6 +95,12 @@ TEST_P(TastiDiScelta, DifferWithinTheOtherForms) {
     QWidget principale;
     EXPECT_EQ(tastiDi(FinestraOsservazioni(principale, test::azioniOsservazioni())), 3U);
     EXPECT_EQ(tastiDi(SceltaModello({})), 2U);
+    for (const bool salvato : {true, false}) {
+        test::OffertaDiProva prova;
+        if (!salvato) prova.salvato = std::nullopt;
+        const auto offerta = prova.offerta();
+        EXPECT_EQ(tastiDi(FormaRecupero(offerta, nullptr)), 3U);
+    }
     static_cast<void>(tastiDi(Informazioni("File corrente: /MURO", nullptr)));
     static_cast<void>(tastiDi(FinestraGuida(help::leggiGuida("m.hlp", test::guidaPiccola()))));
 }

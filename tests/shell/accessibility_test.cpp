@@ -23,11 +23,13 @@
 #include "shell/remarks/remarks_window.hpp"
 #include "shell/report/conf_stampa.hpp"
 #include "shell/report/form1.hpp"
+#include "shell/rescue/rescue_form.hpp"
 #include "shell/run/temp_calc.hpp"
 #include "support/delivered_program.hpp"
 #include "support/desktop_bench.hpp"
 #include "support/dialog_double.hpp"
 #include "support/page_record.hpp"
+#include "support/sample_offer.hpp"
 #include "support/sample_remarks.hpp"
 #include "support/small_help.hpp"
 #include "support/viewer_setup.hpp"
@@ -138,6 +140,10 @@ TEST_F(Accessibilita, OfTheWindowsAroundTheProject) {
     FinestraOsservazioni osservazioni(menu1, test::azioniOsservazioni());
     osservazioni.mostra(test::osservazioniMiste(), "2 pericoli");
     controlla(osservazioni);
+    const test::OffertaDiProva prova;
+    const auto offerta = prova.offerta();
+    FormaRecupero recupero(offerta, nullptr);
+    controlla(recupero);
     TempCalc corsa(nullptr);
     controlla(corsa);
     FinestraGuida guida(help::leggiGuida("m.hlp", test::guidaPiccola()));

@@ -32,11 +32,13 @@
 #include "shell/remarks/remarks_window.hpp"
 #include "shell/report/conf_stampa.hpp"
 #include "shell/report/form1.hpp"
+#include "shell/rescue/rescue_form.hpp"
 #include "shell/run/temp_calc.hpp"
 #include "shell/tools/pattern_choice.hpp"
 #include "support/delivered_program.hpp"
 #include "support/desktop_bench.hpp"
 #include "support/dialog_double.hpp"
+#include "support/sample_offer.hpp"
 #include "support/sample_remarks.hpp"
 #include "support/viewer_setup.hpp"
 
@@ -166,6 +168,13 @@ void controllaTutte(test::ProgrammaConsegnato& programma) {
     controlla(modelli);
     Informazioni informazioni("File corrente: /HOME/ANNA/LAVORI/MURO", nullptr);
     controlla(informazioni);
+    for (const std::size_t altri : {0, 2}) {
+        test::OffertaDiProva prova;
+        prova.altri = altri;
+        if (altri > 0) prova.salvato = std::nullopt;
+        const auto offerta = prova.offerta();
+        controlla(*std::make_unique<FormaRecupero>(offerta, nullptr));
+    }
     TempCalc corsa(nullptr);
     controlla(corsa);
     controllaGuida(base::linguaCorrente() == 1 ? "module06ita.hlp" : "module06eng.hlp");
