@@ -21,7 +21,7 @@ namespace {
 using commands::OffertaRecupero;
 using commands::SceltaRecupero;
 
-constexpr QSize misuraComoda(860, 520);
+constexpr QSize misuraComoda(960, 640);
 
 QString conValore(const char* testo, const QString& valore) {
     return qt(base::riempito(base::traduttore(testo), {valore.toStdString()}));
@@ -70,8 +70,8 @@ FormaRecupero::FormaRecupero(const OffertaRecupero& offerta, QWidget* padre)
     setWindowTitle(tradotto("Lavoro recuperato"));
     auto* colonna = new QVBoxLayout(this);
     colonna->addWidget(frase(spiegazione(offerta), "spiegazione", this));
-    colonna->addWidget(fareStati());
-    colonna->addWidget(fareDifferenze(), 1);
+    colonna->addWidget(fareStati(), 3);
+    colonna->addWidget(fareDifferenze(), 2);
     colonna->addWidget(farePulsanti());
     prendiMisura(*this, misuraComoda);
 }
@@ -83,13 +83,15 @@ QWidget* FormaRecupero::fareStati() {
     const QString salvato = offerta_.salvato ? conValore("Salvato: %1", istante(*offerta_.salvato))
                                              : tradotto("Mai salvato, ancora vuoto");
     affiancati->addWidget(
-        new StatoProgetto(QStringLiteral("statoFile"), tradotto("File del progetto"), salvato,
-                          qt(offerta_.progetto), riga),
+        new StatoProgetto({QStringLiteral("statoFile"), tradotto("File del progetto"), salvato,
+                           qt(offerta_.progetto)},
+                          offerta_.aperto, riga),
         1);
     affiancati->addWidget(
-        new StatoProgetto(QStringLiteral("statoRecuperato"), tradotto("Lavoro recuperato"),
-                          conValore("Messo in salvo: %1", istante(offerta_.scritto)),
-                          qt(offerta_.file), riga),
+        new StatoProgetto(
+            {QStringLiteral("statoRecuperato"), tradotto("Lavoro recuperato"),
+             conValore("Messo in salvo: %1", istante(offerta_.scritto)), qt(offerta_.file)},
+            offerta_.recuperato, riga),
         1);
     return riga;
 }

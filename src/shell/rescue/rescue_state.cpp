@@ -4,23 +4,25 @@
 #include <QVBoxLayout>
 
 #include "shell/forms/elided_label.hpp"
+#include "shell/rescue/state_picture.hpp"
 
 namespace korven::shell {
 
-StatoProgetto::StatoProgetto(const QString& nome, const QString& titolo, const QString& quando,
-                             const QString& file, QWidget* padre)
-    : QGroupBox(titolo, padre) {
-    setObjectName(nome);
-    auto* tempo = new QLabel(quando, this);
+StatoProgetto::StatoProgetto(const Parole& parole, const project::DatiProgetto& dati,
+                             QWidget* padre)
+    : QGroupBox(parole.titolo, padre) {
+    setObjectName(parole.nome);
+    auto* tempo = new QLabel(parole.quando, this);
     tempo->setObjectName(QStringLiteral("quando"));
     tempo->setTextFormat(Qt::PlainText);
     auto* percorso = new EtichettaAccorciata(this);
     percorso->setObjectName(QStringLiteral("file"));
     percorso->setContentsMargins(0, 0, 0, 0);
-    percorso->mostra(file);
+    percorso->mostra(parole.file);
     auto* colonna = new QVBoxLayout(this);
     colonna->addWidget(tempo);
     colonna->addWidget(percorso);
+    colonna->addWidget(new QuadroStato(dati, this), 1);
 }
 
 }  // namespace korven::shell

@@ -2,16 +2,21 @@
 
 #include <QGroupBox>
 
+#include "project/project_data.hpp"
+
 namespace korven::shell {
 
-/// One of two states of a project that lie side by side: what it is, since when, in which file.
+/// One of two states of a project that lie side by side: what it is, since when, in which file, and
+/// its wall as a picture.
 class StatoProgetto : public QGroupBox {
  public:
-    /// @param nome    object name
-    /// @param quando  a whole line
-    /// @param file    path; empty where there is none
-    StatoProgetto(const QString& nome, const QString& titolo, const QString& quando,
-                  const QString& file, QWidget* padre);
+    struct Parole {
+        QString nome;    ///< object name
+        QString titolo;  ///< what it is
+        QString quando;  ///< a whole line
+        QString file;    ///< path
+    };
+    StatoProgetto(const Parole& parole, const project::DatiProgetto& dati, QWidget* padre);
 };
 
 }  // namespace korven::shell
