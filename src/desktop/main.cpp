@@ -23,6 +23,7 @@
 #include "commands/start/startup.hpp"
 #include "commands/start/user_folder.hpp"
 #include "project/project_data.hpp"
+#include "safety/words.hpp"
 #include "shell/application.hpp"
 #include "shell/dialogo_qt.hpp"
 #include "shell/file_dialogs_qt.hpp"
@@ -87,6 +88,7 @@ struct Avvio {
 };
 
 int sessione(shell::Applicazione& applicazione, shell::DialogoQt& dialogo, Avvio& avvio) {
+    safety::luogoEquilibrio = safety::LuogoEquilibrio::finestra;
     commands::scegliCartellaProgramma();
     if (!commands::iniziaLingua({.dialogo = dialogo, .scegli = shell::chiediLingua})) return 0;
     traduciQt(applicazione);

@@ -112,6 +112,21 @@ std::string_view chiave(Ostacolo ostacolo) {
     return "oscilla soltanto l'iterazione";
 }
 
+// A caption of the menu without the mark of its access key.
+std::string voce(std::string_view chiave) {
+    std::string testo = traduttore(chiave);
+    std::erase(testo, '&');
+    return testo;
+}
+
+std::string doveEquilibrio() {
+    if (luogoEquilibrio == LuogoEquilibrio::finestra)
+        return traduttore("il suo equilibrio si vede in") + " " + voce("St&rumenti") + " > " +
+               voce("&Sicurezza");
+    return traduttore("il suo equilibrio si calcola con") + " korven32c " +
+           comandoEquilibrio.mostrato();
+}
+
 }  // namespace
 
 std::string metri(double m) {
@@ -233,6 +248,8 @@ std::string inBreve(const Diagnosi& d) {
     return {};
 }
 
+LuogoEquilibrio luogoEquilibrio = LuogoEquilibrio::comando;
+
 std::string frase(const Diagnosi& d) {
     Elenco elenco("; ");
     elenco.aggiungi(inBreve(d));
@@ -240,9 +257,7 @@ std::string frase(const Diagnosi& d) {
         elenco.aggiungi(parole(d.parti));
         elenco.aggiungi(rimedio(d));
     }
-    if (d.causa == Causa::oscilla)
-        elenco.aggiungi(traduttore("il suo equilibrio si calcola con") + " korven32c " +
-                        comandoEquilibrio.mostrato());
+    if (d.causa == Causa::oscilla) elenco.aggiungi(doveEquilibrio());
     return elenco.testo();
 }
 

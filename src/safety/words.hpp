@@ -13,6 +13,15 @@ namespace korven::safety {
 /// The command that computes the certain equilibrium.
 inline constexpr base::Gemelli comandoEquilibrio{"equilibrio", "equilibrium"};
 
+/// Where the user of a program finds the certain equilibrium, as sentences say it.
+enum class LuogoEquilibrio {
+    comando,  ///< the command above, of the command line
+    finestra  ///< the window of the desktop
+};
+
+/// That of this program: set once, at its start.
+extern LuogoEquilibrio luogoEquilibrio;
+
 /// A depth or a length to the centimetre, without zeros at its end: "4.2".
 [[nodiscard]] std::string metri(double m);
 

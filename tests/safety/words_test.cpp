@@ -128,6 +128,10 @@ TEST(Frase, TellsOfAWallThatStandsThatOnlyTheIterationFlips) {
     EXPECT_EQ(frase(d),
               "la paratia sta nella fase 2, con uno spostamento massimo di 12.3 mm: oscilla "
               "soltanto l'iterazione; il suo equilibrio si calcola con korven32c equilibrio");
+    luogoEquilibrio = LuogoEquilibrio::finestra;
+    EXPECT_TRUE(
+        frase(d).ends_with("l'iterazione; il suo equilibrio si vede in Strumenti > Sicurezza"));
+    luogoEquilibrio = LuogoEquilibrio::comando;
     d.ostacolo = Ostacolo::singolare;
     EXPECT_TRUE(inBreve(d).ends_with(
         "12.3 mm: soltanto l'iterazione si ferma davanti a un sistema singolare"));
