@@ -17,34 +17,22 @@
 #include "base/process/program_questions.hpp"
 #include "base/process/restart.hpp"
 #include "base/translated_texts.hpp"
-#include "commands/desktop_program.hpp"
 #include "commands/fatal_error.hpp"
+#include "commands/report_export.hpp"
 #include "commands/start/desktop_arguments.hpp"
-#include "commands/start/startup.hpp"
+#include "commands/start/language_start.hpp"
 #include "commands/start/user_folder.hpp"
+#include "desktop/session.hpp"
 #include "project/project_data.hpp"
 #include "safety/words.hpp"
 #include "shell/application.hpp"
 #include "shell/dialogo_qt.hpp"
 #include "shell/file_dialogs_qt.hpp"
-#include "shell/help/porta.hpp"
-#include "shell/live/live_view.hpp"
-#include "shell/main/informazioni.hpp"
-#include "shell/main/menu1.hpp"
 #include "shell/main/selezling.hpp"
-#include "shell/masks/form_opening.hpp"
-#include "shell/pens/printer_setup.hpp"
 #include "shell/program_printer.hpp"
 #include "shell/qt_text.hpp"
-#include "shell/remarks/live_remarks.hpp"
-#include "shell/report/destinations.hpp"
-#include "shell/rescue/rescue_form.hpp"
-#include "shell/rescue/rescue_watch.hpp"
-#include "shell/run/progress_qt.hpp"
-#include "shell/section/definej.hpp"
 #include "shell/termination.hpp"
 #include "shell/toolkit_texts.hpp"
-#include "shell/tools/tool_forms.hpp"
 
 // korven32: the desktop program. Chooses what is behind the ports, and tells the one error that
 // ends a program.
@@ -59,35 +47,13 @@ void traduciQt(QCoreApplication& applicazione) {
     QCoreApplication::installTranslator(testi.release());
 }
 
-// What is behind the commands, plugged in form by form.
-commands::FormeProgramma forme(shell::Menu1& finestra, shell::VitaProgetto& vita,
-                               base::Dialogo& dialogo, shell::StampanteProgramma& stampante) {
-    commands::FormeProgramma tutte;
-    shell::collegaGuida(tutte, finestra);  // first: the forms plugged in later have help buttons
-    tutte.informazioni = [&finestra](const std::string& fileCorrente) {
-        shell::Informazioni(fileCorrente, &finestra).exec();
-    };
-    shell::collegaSezione(tutte, &finestra, &vita);
-    shell::collegaMaschere(tutte, dialogo, &finestra, &vita);
-    const auto condivisa = [&stampante]() -> QPrinter& { return stampante.stampante(); };
-    shell::collegaDisegni(tutte, finestra, dialogo, condivisa,
-                          [&finestra](const std::string& percorso) {
-                              finestra.stato(base::traduttore("File scritto") + ": " + percorso);
-                          });
-    shell::collegaRecupero(tutte, finestra);
-    shell::collegaRelazione(tutte, finestra, dialogo, condivisa);
-    shell::collegaOsservazioni(tutte, finestra, vita);
-    shell::collegaStrumenti(tutte, dialogo, finestra);
-    return tutte;
-}
-
 // How the program began, and whether it is to begin once more when it has ended.
 struct Avvio {
     std::string argomento;  // the project that the command line names; empty: none
     bool ancora = false;
 };
 
-int sessione(shell::Applicazione& applicazione, shell::DialogoQt& dialogo, Avvio& avvio) {
+int inLingua(shell::Applicazione& applicazione, shell::DialogoQt& dialogo, Avvio& avvio) {
     safety::luogoEquilibrio = safety::LuogoEquilibrio::finestra;
     commands::scegliCartellaProgramma();
     if (!commands::iniziaLingua({.dialogo = dialogo, .scegli = shell::chiediLingua})) return 0;
@@ -95,30 +61,20 @@ int sessione(shell::Applicazione& applicazione, shell::DialogoQt& dialogo, Avvio
 
     QApplication::setWindowIcon(QIcon(shell::qt(base::cartellaEseguibile() + "/korven32.svg")));
     const shell::Terminazione terminazione;
-    shell::VitaProgetto vita;
-    shell::Menu1 finestra;
     shell::DialogoFileQt nomi;
-    shell::AvanzamentoQt avanzamento;
+    shell::StampanteProgramma stampante;
+    Sessione sessione({.dialogo = dialogo,
+                       .nomi = nomi,
+                       .stampante = [&]() -> QPrinter& { return stampante.stampante(); },
+                       .outdoc = commands::convertitore(),
+                       .riavvia = [&] { avvio.ancora = true; }});
+    shell::Menu1& finestra = sessione.finestra();
     dialogo.sopra(&finestra);
     nomi.sopra(&finestra);
-    avanzamento.sopra(&finestra);
-    shell::StampanteProgramma stampante;
-    masks::Maschere maschere;
-    auto tutte = forme(finestra, vita, dialogo, stampante);
-    tutte.riavvia = [&avvio] { avvio.ancora = true; };
-    commands::Programma programma(dialogo, nomi, finestra, avanzamento, maschere, std::move(tutte));
-    finestra.collega(programma);
-    shell::sorvegliaLavoro(finestra, [&programma] { programma.tieniAlSicuro(); });
-    QObject::connect(&finestra, &shell::Menu1::aggiornata, &vita, &shell::VitaProgetto::guarda);
     QObject::connect(&applicazione, &QGuiApplication::commitDataRequest, &finestra,
                      &shell::Menu1::fineSessione, Qt::DirectConnection);
     finestra.show();
-    QTimer::singleShot(0, &finestra, [&] {
-        commands::avvia(avvio.argomento, programma.documento(),
-                        {.leggiMaschere = [&] { commands::leggiDatiProgramma(maschere); },
-                         .saluta = [&] { finestra.esegui(commands::voceMenu("about")); }});
-        finestra.aggiorna();
-    });
+    QTimer::singleShot(0, &finestra, [&] { sessione.comincia(avvio.argomento); });
     return applicazione.gira();
 }
 
@@ -141,7 +97,7 @@ int finestre(int argc, char** argv, Avvio& avvio) {
     avvio.argomento = QCoreApplication::arguments().value(1).toStdString();
     shell::DialogoQt dialogo;
     try {
-        return sessione(applicazione, dialogo, avvio);
+        return inLingua(applicazione, dialogo, avvio);
     } catch (const std::exception& errore) {
         const std::string recuperato = commands::recuperaProgetto();
         dialogo.puntatore(base::Puntatore::normale);
