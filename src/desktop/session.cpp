@@ -6,6 +6,7 @@
 #include "shell/main/informazioni.hpp"
 #include "shell/masks/form_opening.hpp"
 #include "shell/pens/printer_setup.hpp"
+#include "shell/picture/live_picture.hpp"
 #include "shell/remarks/live_remarks.hpp"
 #include "shell/report/destinations.hpp"
 #include "shell/rescue/rescue_form.hpp"
@@ -25,6 +26,7 @@ commands::FormeProgramma Sessione::forme(const PorteSessione& porte) {
     };
     shell::collegaSezione(tutte, &finestra_, &vita_);
     shell::collegaMaschere(tutte, dialogo, &finestra_, &vita_);
+    shell::collegaFigura(finestra_, vita_, dialogo, porte.stampante);
     shell::collegaDisegni(tutte, finestra_, dialogo, porte.stampante,
                           [this](const std::string& percorso) {
                               finestra_.stato(base::traduttore("File scritto") + ": " + percorso);

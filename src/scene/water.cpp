@@ -60,7 +60,7 @@ void disegnaAcque(const Mostrata& m, const Inquadratura& q, Tela& tela) {
                          Area{rettangolo(q.xValle, std::max(q.y(z), 0.0), q.larghezza,
                                          std::min(q.y(m.scavo), q.yFondo)),
                               specchio});
-        livello(m, q, z, q.xValle, q.xSezione, q.xValle + 0.3 * (q.xSezione - q.xValle), tela);
+        livello(m, q, z, q.xValle, q.xSezione, q.xValle + 0.14 * (q.xSezione - q.xValle), tela);
     }
 }
 

@@ -22,6 +22,7 @@
 #include "project/project_data.hpp"
 #include "shell/form_sizes.hpp"
 #include "shell/forms/elided_label.hpp"
+#include "shell/main/picture_frame.hpp"
 #include "shell/main/wall_picture.hpp"
 #include "shell/qt_text.hpp"
 
@@ -60,10 +61,9 @@ std::string progettoTrascinato(const QMimeData& dati) {
 Menu1::Menu1() {
     setObjectName("menu1");
     setWindowTitle("KORVEN 32");
-    immagine_ = new QuadroParatia(this);
-    immagine_->setObjectName("Image1");
-    setCentralWidget(immagine_);
-    connect(immagine_, &QuadroParatia::premuta, this,
+    cornice_ = new CorniceFigura(this);
+    setCentralWidget(cornice_);
+    connect(&cornice_->quadro(), &QuadroParatia::premuta, this,
             [this] { esegui(commands::voceMenu("about")); });
     stato_ = new EtichettaAccorciata(this);
     stato_->setObjectName("stato");
@@ -183,6 +183,9 @@ void Menu1::editaDa(const masks::PostoCampo& posto) {
     programma_->editaDa(posto);
     aggiorna();
 }
+
+void Menu1::accogliFigura(QWidget* figura, QSize emblema) { cornice_->accogli(figura, emblema); }
+void Menu1::mostraFigura() { cornice_->mostra(); }
 
 void Menu1::aggiorna() {
     modifiche_->setVisible(project::modificato);

@@ -14,7 +14,7 @@ class QToolButton;
 namespace korven::shell {
 
 class EtichettaAccorciata;
-class QuadroParatia;
+class CorniceFigura;
 
 /// The main form `menu1`: the menu, the picture and the status line. It hands every command over to
 /// the program and decides nothing.
@@ -44,6 +44,11 @@ class Menu1 : public QMainWindow, public commands::FinestraPrincipale {
     /// Opens the form of a field of the open project, at the field.
     void editaDa(const masks::PostoCampo& posto);
 
+    /// Takes the picture of the open project, which it owns from now on (picture_frame.hpp).
+    void accogliFigura(QWidget* figura, QSize emblema);
+    /// Shows it: a project is open.
+    void mostraFigura();
+
     /// Shows what has become of the project: after every command, and when one was opened without.
     void aggiorna();
 
@@ -70,7 +75,7 @@ class Menu1 : public QMainWindow, public commands::FinestraPrincipale {
     void riempi(QMenu& menu, std::vector<commands::VoceMutevole> voci);
     void chiediAllApertura(const QMenu& menu, QAction& azione, const commands::VoceMenu& voce);
     commands::Programma* programma_ = nullptr;
-    QuadroParatia* immagine_;
+    CorniceFigura* cornice_;
     EtichettaAccorciata* stato_;
     QToolButton* osservazioni_;
     QLabel* modifiche_;

@@ -1,0 +1,172 @@
+#include "shell/picture/picture_panel.hpp"
+
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <QApplication>
+#include <QClipboard>
+#include <QLabel>
+#include <QMimeData>
+#include <QSlider>
+#include <QTest>
+#include <QToolButton>
+
+#include "project/project_data.hpp"
+#include "shell/picture/picture_view.hpp"
+#include "support/document_ports.hpp"
+#include "support/sample_projects.hpp"
+
+namespace korven::shell {
+namespace {
+
+class PannelloFiguraTest : public ::testing::Test {
+ protected:
+    PannelloFiguraTest() : pannello(vita, [this](const QFont&) { ++salvate; }) {
+        insegnaAccessoFigura();
+        project::Progetto = test::progettoSemplice();
+        project::fileCorrente = ambiente.lavori / "muro.kvd";
+        vita.guarda();
+        pannello.resize(900, 620);
+        pannello.show();
+        QCoreApplication::processEvents();
+    }
+    [[nodiscard]] QSlider& fasi() const { return *pannello.findChild<QSlider*>("fasiFigura"); }
+    [[nodiscard]] QToolButton& curva(int tasto) const {
+        return *pannello.findChild<QToolButton*>("curvaFigura" + QString::number(tasto));
+    }
+    [[nodiscard]] QString lettura() const {
+        return pannello.findChild<QLabel*>("letturaFigura")->text();
+    }
+    VistaFigura& vista() { return pannello.vista(); }
+    // Over the wall at a depth.
+    void mouse(double z) {
+        const scene::Scena& s = vista().scena();
+        QTest::mouseMove(&vista(), QPoint(static_cast<int>(s.lettura.sinistra) + 5,
+                                          static_cast<int>(std::lround(s.y(z)))));
+        QCoreApplication::processEvents();
+    }
+
+    test::AmbienteDocumento ambiente;
+    VitaProgetto vita;
+    int salvate = 0;
+    PannelloFigura pannello;
+};
+
+TEST_F(PannelloFiguraTest, OffersTheEnvelopeAndAllStages) {
+    EXPECT_EQ(fasi().minimum(), 0);
+    EXPECT_EQ(fasi().maximum(), 2);
+    EXPECT_EQ(fasi().value(), 0);
+    EXPECT_EQ(pannello.findChild<QLabel*>("faseFigura")->text(), "inviluppo");
+}
+
+TEST_F(PannelloFiguraTest, ChoosesTheStageWithThePageKeysAndTheSlider) {
+    QTest::keyClick(&pannello, Qt::Key_PageDown);
+    EXPECT_EQ(vita.vivo().vista().fase, 1);
+    QTest::keyClick(&pannello, Qt::Key_PageDown);
+    QTest::keyClick(&pannello, Qt::Key_PageDown);  // no further
+    EXPECT_EQ(vita.vivo().vista().fase, 2);
+    EXPECT_EQ(pannello.findChild<QLabel*>("faseFigura")->text(), "fase 2");
+    QTest::keyClick(&pannello, Qt::Key_PageUp);
+    EXPECT_EQ(vita.vivo().vista().fase, 1);
+    fasi().setValue(0);
+    EXPECT_EQ(vita.vivo().vista().fase, 0);
+}
+
+TEST_F(PannelloFiguraTest, ChoosesTheCurveWithTheKeysOneToFourAndTheButtons) {
+    EXPECT_TRUE(curva(3).isChecked());
+    const live::Curva curve[] = {live::Curva::pressioni, live::Curva::spostamento,
+                                 live::Curva::momento, live::Curva::taglio};
+    for (int i = 0; i < 4; ++i) {
+        QTest::keyClick(&pannello, static_cast<Qt::Key>(Qt::Key_1 + i));
+        EXPECT_EQ(vita.vivo().vista().curva, curve[i]);
+        EXPECT_TRUE(curva(i + 1).isChecked());
+    }
+    QTest::mouseClick(&curva(2), Qt::LeftButton);
+    EXPECT_EQ(vita.vivo().vista().curva, live::Curva::spostamento);
+}
+
+TEST_F(PannelloFiguraTest, ReadsTheWallUnderTheMouse) {
+    fasi().setValue(2);
+    mouse(3);
+    ASSERT_TRUE(vista().profondita());
+    EXPECT_NEAR(*vista().profondita(), 3, 1 / vista().scena().scala);
+    EXPECT_TRUE(lettura().contains(" kN m")) << lettura().toStdString();
+    EXPECT_TRUE(lettura().contains("Sabbia, limosa"));
+    QTest::mouseMove(&vista(), QPoint(2, 2));
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(vista().profondita());
+    EXPECT_EQ(lettura(), "Il mouse, o Su e Giù, leggono la paratia");
+}
+
+TEST_F(PannelloFiguraTest, ReadsTheWallNodeByNodeWithTheKeys) {
+    vista().setFocus();
+    const double h = vita.vivo().parete().h;
+    QTest::keyClick(&vista(), Qt::Key_Down);
+    EXPECT_EQ(vista().profondita(), 0);
+    QTest::keyClick(&vista(), Qt::Key_Down);
+    EXPECT_NEAR(*vista().profondita(), h, 1e-12);
+    QTest::keyClick(&vista(), Qt::Key_Up);
+    QTest::keyClick(&vista(), Qt::Key_Up);
+    EXPECT_EQ(vista().profondita(), 0);
+    QTest::keyClick(&vista(), Qt::Key_End);
+    EXPECT_EQ(vista().profondita(), 12);
+    QTest::keyClick(&vista(), Qt::Key_Home);
+    EXPECT_EQ(vista().profondita(), 0);
+}
+
+TEST_F(PannelloFiguraTest, TellsScreenReadersWhatIsReadAndWhatThePictureSays) {
+    vista().setFocus();
+    QTest::keyClick(&vista(), Qt::Key_End);
+    auto* accesso = QAccessible::queryAccessibleInterface(&vista());
+    ASSERT_NE(accesso, nullptr);
+    EXPECT_EQ(accesso->role(), QAccessible::Graphic);
+    EXPECT_TRUE(accesso->text(QAccessible::Value).startsWith("12.00 m"));
+    EXPECT_EQ(accesso->text(QAccessible::Name), "Figura del progetto");
+    EXPECT_TRUE(accesso->text(QAccessible::Description).contains("la paratia sta"));
+}
+
+TEST_F(PannelloFiguraTest, FollowsTheProject) {
+    const double prima = vista().scena().paratia;
+    project::Progetto.lunghezzaParatia = 14;
+    project::Progetto.nFasi = 1;
+    vita.guarda();
+    EXPECT_EQ(prima, 12);
+    EXPECT_EQ(vista().scena().paratia, 14);
+    EXPECT_EQ(fasi().maximum(), 1);
+}
+
+TEST_F(PannelloFiguraTest, PaintsAnewWhenTheDesktopTurnsDark) {
+    const QColor chiaro = vista().grab().toImage().pixelColor(5, 5);
+    QPalette scura;
+    scura.setColor(QPalette::Window, QColor(40, 40, 40));
+    scura.setColor(QPalette::WindowText, Qt::white);
+    pannello.setPalette(scura);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(chiaro, QColor(Qt::white));
+    EXPECT_LT(vista().grab().toImage().pixelColor(5, 5).lightness(), 60);
+}
+
+TEST_F(PannelloFiguraTest, CopiesThePictureAsImageAndAsSvg) {
+    QTest::keyClick(&vista(), Qt::Key_C, Qt::ControlModifier);
+    const QMimeData* dati = QApplication::clipboard()->mimeData();
+    ASSERT_NE(dati, nullptr);
+    EXPECT_TRUE(dati->hasImage());
+    EXPECT_TRUE(dati->data("image/svg+xml").contains("<svg "));
+}
+
+TEST_F(PannelloFiguraTest, SavesByItsButton) {
+    QTest::mouseClick(pannello.findChild<QToolButton*>("pulsanteSalvaFigura"), Qt::LeftButton);
+    EXPECT_EQ(salvate, 1);
+}
+
+TEST_F(PannelloFiguraTest, NamesAllThatCanBeUsed) {
+    for (const QWidget* figlio : pannello.findChildren<QWidget*>()) {
+        if (figlio->focusPolicy() == Qt::NoFocus) continue;
+        auto* accesso = QAccessible::queryAccessibleInterface(const_cast<QWidget*>(figlio));
+        EXPECT_FALSE(accesso->text(QAccessible::Name).isEmpty())
+            << figlio->objectName().toStdString();
+    }
+}
+
+}  // namespace
+}  // namespace korven::shell
