@@ -16,8 +16,8 @@
 #include "support/wall_builder.hpp"
 
 // From a key in the form of the layers to the picture: the values of the form become a project, its
-// wall is computed, laid out and painted. The largest project there can be: 100 layers under as many
-// hatches, 20 anchors, 20 stages, 249 segments, on a screen of 1600 by 1000.
+// wall is computed, laid out and painted. The largest project there can be: 100 layers under as
+// many hatches, 20 anchors, 20 stages, 249 segments, on a screen of 1600 by 1000.
 
 namespace {
 
