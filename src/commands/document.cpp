@@ -167,7 +167,10 @@ void Documento::nuovo(const std::function<std::optional<std::string>()>& chiediM
     }
     finestra_.titolo(titoloFinestra(nome));
     modificato = !modello->empty();
-    custodisci();
+    if (modificato || !trovaProgetto(nome).empty())
+        custodisci();
+    else
+        aperto();  // unsaved work of a project of that name may wait
 }
 
 void Documento::duplica() {

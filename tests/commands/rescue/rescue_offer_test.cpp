@@ -172,6 +172,16 @@ TEST_F(OffertaTest, IsMadeOfANewProjectThatWasNeverSavedUnderTheSameName) {
     EXPECT_FALSE(fs::exists(ambiente.muro));
 }
 
+TEST_F(OffertaTest, IsMadeOfANewProjectThatTheMenuBeginsEmpty) {
+    lascia("muro_recuperato.kvd", 10);
+    scelte = {prendi};
+    nomi.nuovi = {ambiente.muro};
+    documento.nuovo([] { return ""; });
+    EXPECT_EQ(offerti, Nomi{"muro_recuperato.kvd"});
+    EXPECT_EQ(Progetto.lunghezzaParatia, 10);
+    EXPECT_TRUE(modificato);
+}
+
 TEST_F(OffertaTest, IsMadeOfTheProjectThatTheCommandLineNames) {
     salvaFile();
     lascia("muro_recuperato.kvd", 10);
