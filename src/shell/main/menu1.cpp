@@ -22,6 +22,7 @@
 #include "project/project_data.hpp"
 #include "shell/form_sizes.hpp"
 #include "shell/forms/elided_label.hpp"
+#include "shell/icons/icon_set.hpp"
 #include "shell/main/picture_frame.hpp"
 #include "shell/main/wall_picture.hpp"
 #include "shell/qt_text.hpp"
@@ -38,6 +39,12 @@ void battezza(QAction* azione, const commands::VoceMenu& voce) {
     azione->setMenuRole(QAction::NoRole);
     if (!voce.tasti.empty())
         azione->setShortcut(QKeySequence(qt(voce.tasti), QKeySequence::PortableText));
+}
+
+// Not in the menu bar, which would show it in place of the caption.
+QIcon iconaDi(const commands::VoceMenu& voce) {
+    const auto nome = iconaVoce(voce.nome);
+    return nome.empty() ? QIcon() : icona(nome);
 }
 
 // On a small screen the whole form is to be seen, with the frame that the desktop draws around it.
@@ -125,6 +132,7 @@ void Menu1::costruisciMenu() {
             QMenu* menu = sopra != nullptr ? sopra->addMenu(testo) : menuBar()->addMenu(testo);
             menu->installEventFilter(this);
             battezza(menu->menuAction(), voce);
+            if (sopra != nullptr) menu->setIcon(iconaDi(voce));
             if (voce.riempi != nullptr)
                 connect(menu, &QMenu::aboutToShow, this,
                         [this, menu, &voce] { riempi(*menu, voce.riempi(*programma_)); });
@@ -134,6 +142,7 @@ void Menu1::costruisciMenu() {
         QAction* azione = sopra != nullptr ? sopra->addAction(testo) : menuBar()->addAction(testo);
         battezza(azione, voce);
         azione->setEnabled(programma_->puo(voce));
+        if (sopra != nullptr) azione->setIcon(iconaDi(voce));
         connect(azione, &QAction::triggered, this, [this, &voce] { esegui(voce); });
         if (voce.possibile != nullptr) chiediAllApertura(*sopra, *azione, voce);
         // Its windows share the keys, but that for the help, which each has a page of its own.

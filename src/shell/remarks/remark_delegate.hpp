@@ -4,13 +4,13 @@
 
 namespace korven::shell {
 
-/// Roles of an item of the list: the word of its weight, and whether it is more than to be looked
-/// at. Its text is that of the remark.
+/// Roles of an item of the list: the word of its weight, and the number of its weight
+/// (review::Peso). Its text is that of the remark.
 inline constexpr int datoPeso = Qt::UserRole + 1;
-inline constexpr int datoGrave = Qt::UserRole + 2;
+inline constexpr int datoNumeroPeso = Qt::UserRole + 2;
 
-/// Shows a remark: the word of its weight, below it the text, a bar in the colour of the weight
-/// beside both.
+/// Shows a remark: the word of its weight, below it the text, beside both the sign of the weight in
+/// its colour.
 class DelegatoOsservazioni : public DelegatoIntestato {
  public:
     explicit DelegatoOsservazioni(QObject* padre);

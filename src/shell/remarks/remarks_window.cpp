@@ -94,7 +94,7 @@ void FinestraOsservazioni::mostra(const review::Osservazioni& osservazioni,
         auto* voce = new QListWidgetItem(qt(osservazione.testo), lista_);
         const QString peso = tradotto(parolaMostrata(osservazione.peso));
         voce->setData(datoPeso, peso);
-        voce->setData(datoGrave, osservazione.peso != review::Peso::daVedere);
+        voce->setData(datoNumeroPeso, static_cast<int>(osservazione.peso));
         voce->setData(Qt::AccessibleTextRole, peso + QStringLiteral(": ") + voce->text());
     }
     lista_->setCurrentRow(std::min(riga, lista_->count() - 1));

@@ -20,7 +20,6 @@
 #include "shell/form_sizes.hpp"
 #include "shell/qt_text.hpp"
 #include "shell/viewer/export.hpp"
-#include "shell/viewer/icons.hpp"
 
 namespace korven::shell {
 

@@ -9,9 +9,9 @@
 #include "plot/plot_engine.hpp"
 #include "plot/zoom_window.hpp"
 #include "shell/failure_box.hpp"
+#include "shell/icons/icon_set.hpp"
 #include "shell/qt_text.hpp"
 #include "shell/viewer/grafica.hpp"
-#include "shell/viewer/icons.hpp"
 
 namespace korven::shell {
 
@@ -47,34 +47,34 @@ std::vector<GRAFICA::Pulsante> GRAFICA::pulsanti() {
     constexpr auto lungo = PassoSpostamento::lungo;
     using enum Pulsante::Posto;
     return {
-        {"Picture1", ingrandimento, "ingrandisci", [this] { arma(); }},
-        {"Picture8", ingrandimento, "ingrandisci", [this] { disarma(); }, sopraIlPrecedente},
-        {"Picture2", "Ritorno all'immagine a tutto schermo", "tutto", [this] { tutto(); }},
-        {"Picture3", "Invio dell'immagine alla stampante", "stampa", [this] { stampa(false); },
+        {"Picture1", ingrandimento, "zoom_in", [this] { arma(); }},
+        {"Picture8", ingrandimento, "zoom_in", [this] { disarma(); }, sopraIlPrecedente},
+        {"Picture2", "Ritorno all'immagine a tutto schermo", "whole", [this] { tutto(); }},
+        {"Picture3", "Invio dell'immagine alla stampante", "print", [this] { stampa(false); },
          nuovoGruppo},
         {"Picture5",
          "Invio alla stampante dell'immagine ridotta alle dimensioni del foglio disponibile",
-         "stampaAdattata", [this] { stampa(true); }},
+         "print_fitted", [this] { stampa(true); }},
         {"Picture4", "Esportazione dell'immagine in formato DXF", "dxf", [this] { esportaDxf(); }},
-        {"Picture17", "Salvataggio dell'immagine in formato PDF, SVG o PNG", "esporta",
+        {"Picture17", "Salvataggio dell'immagine in formato PDF, SVG o PNG", "picture_file",
          [this] { esportaImmagine(); }},
-        {"Picture9", "Spostamento a sinistra di 1/4 della finestra di zoom", "sinistra",
+        {"Picture9", "Spostamento a sinistra di 1/4 della finestra di zoom", "left",
          sposta(Direzione::sinistra, breve), nuovoGruppo, true},
-        {"Picture10", "Spostamento a destra di 1/4 della finestra di zoom", "destra",
+        {"Picture10", "Spostamento a destra di 1/4 della finestra di zoom", "right",
          sposta(Direzione::destra, breve), sotto, true},
-        {"Picture11", "Spostamento in alto di 1/4 della finestra di zoom", "alto",
+        {"Picture11", "Spostamento in alto di 1/4 della finestra di zoom", "up",
          sposta(Direzione::alto, breve), sotto, true},
-        {"Picture12", "Spostamento in basso di 1/4 della finestra di zoom", "basso",
+        {"Picture12", "Spostamento in basso di 1/4 della finestra di zoom", "down",
          sposta(Direzione::basso, breve), sotto, true},
-        {"Picture13", "Spostamento a sinistra della finestra di zoom", "moltoSinistra",
+        {"Picture13", "Spostamento a sinistra della finestra di zoom", "far_left",
          sposta(Direzione::sinistra, lungo), nuovoGruppo, true},
-        {"Picture14", "Spostamento a destra della finestra di zoom", "moltoDestra",
+        {"Picture14", "Spostamento a destra della finestra di zoom", "far_right",
          sposta(Direzione::destra, lungo), sotto, true},
-        {"Picture15", "Spostamento in alto della finestra di zoom", "moltoAlto",
+        {"Picture15", "Spostamento in alto della finestra di zoom", "far_up",
          sposta(Direzione::alto, lungo), sotto, true},
-        {"Picture16", "Spostamento in basso della finestra di zoom", "moltoBasso",
+        {"Picture16", "Spostamento in basso della finestra di zoom", "far_down",
          sposta(Direzione::basso, lungo), sotto, true},
-        {"Picture6", "Uscita dall'anteprima", "esci", [this] { close(); }, inFondo},
+        {"Picture6", "Uscita dall'anteprima", "exit", [this] { close(); }, inFondo},
     };
 }
 
@@ -84,7 +84,7 @@ QToolButton* GRAFICA::farePulsante(const Pulsante& pulsante, QWidget* padre) {
     fatto->setObjectName(QLatin1String(pulsante.nome));
     fatto->setToolTip(suggerimento);
     fatto->setAccessibleName(suggerimento);
-    fatto->setIcon(iconaGrafica(pulsante.icona));
+    fatto->setIcon(icona(pulsante.icona));
     fatto->setIconSize(QSize(latoIcona, latoIcona));
     fatto->setAutoRaise(true);
     fatto->setFocusPolicy(Qt::StrongFocus);
