@@ -50,6 +50,17 @@ TEST_F(CartellaUtente, KeepsWhatTheUserChangedAndFollowsTheProgramInItsTexts) {
     EXPECT_EQ(contenuto(nellUtente("texts06.txt")), "testi 2");
 }
 
+TEST_F(CartellaUtente, FollowsTheProgramInItsProfilesAndLeavesThoseOfTheUser) {
+    metti("profili.txt", "profili 1");
+    copiaDati(installata.percorso(), utente());
+    test::metti(nellUtente("profili_utente.txt"), "i miei");
+    metti("profili.txt", "profili 2");
+    metti("profili_utente.txt", "di altri");
+    copiaDati(installata.percorso(), utente());
+    EXPECT_EQ(contenuto(nellUtente("profili.txt")), "profili 2");
+    EXPECT_EQ(contenuto(nellUtente("profili_utente.txt")), "i miei");
+}
+
 TEST_F(CartellaUtente, KeepsItsOldFilesOnAFullDisk) {
     copiaDati(installata.percorso(), utente());
     metti("texts06.txt", "testi 2");
