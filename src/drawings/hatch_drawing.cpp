@@ -33,60 +33,67 @@ int piastrelleIntorno(double mezzaMisura, double a) {
                : 0;
 }
 
-// Fills one rectangle, pattern upon pattern.
-class Riempimento {
- public:
-    explicit Riempimento(const plot::Riquadro& riquadro)
-        : riquadro_(riquadro),
-          centro_{(riquadro.xmin + riquadro.xmax) / 2, (riquadro.ymin + riquadro.ymax) / 2} {}
+using RiceviTratto = std::function<void(const Tratto&)>;
 
-    void disegna(const Campitura& campitura, double passo) {
-        const auto tratti = leggiTratti(campitura);
-        if (tratti.empty()) return;
-        const double u = campitura.unita * std::pow(2, (passo - 1) / 4);
-        const double a = mezzoLato * u;
-        const int nx = piastrelleIntorno(riquadro_.larghezza() / 2, a);
-        const int ny = piastrelleIntorno(riquadro_.altezza() / 2, a);
-        for (int j = -ny; j <= ny; ++j)
-            for (int i = -nx; i <= nx; ++i) {
-                const Punto c{centro_.x + 2 * a * i, centro_.y + 2 * a * j};
-                for (const auto& t : tratti)
-                    traccia({{c.x + u * t.x1, c.y + u * t.y1}, {c.x + u * t.x2, c.y + u * t.y2}});
+// The strokes of one pattern in a rectangle, tile by tile.
+void perOgniTratto(const Campitura& campitura, double passo, const plot::Riquadro& riquadro,
+                   const RiceviTratto& ricevi) {
+    const auto tratti = leggiTratti(campitura);
+    if (tratti.empty()) return;
+    const Punto centro{(riquadro.xmin + riquadro.xmax) / 2, (riquadro.ymin + riquadro.ymax) / 2};
+    const double u = campitura.unita * std::pow(2, (passo - 1) / 4);
+    const double a = mezzoLato * u;
+    const int nx = piastrelleIntorno(riquadro.larghezza() / 2, a);
+    const int ny = piastrelleIntorno(riquadro.altezza() / 2, a);
+    for (int j = -ny; j <= ny; ++j)
+        for (int i = -nx; i <= nx; ++i) {
+            const Punto c{centro.x + 2 * a * i, centro.y + 2 * a * j};
+            for (const auto& t : tratti) {
+                plot::controllaInterruzione();  // most strokes of a tile may lie outside
+                const Tratto intero{{c.x + u * t.x1, c.y + u * t.y1},
+                                    {c.x + u * t.x2, c.y + u * t.y2}};
+                if (const auto tratto = plot::ritagliaTratto(intero, riquadro)) ricevi(*tratto);
             }
+        }
+}
+
+// Draws strokes with as few moves of the pen as their order allows.
+class Penna {
+ public:
+    explicit Penna(double centro) : centro_(centro) {}
+
+    void traccia(Tratto tratto) {
+        if (vicini(tratto.a, ultima_)) std::swap(tratto.da, tratto.a);
+        if (!vicini(tratto.da, ultima_)) plot::plotMuovi(tratto.da.x, tratto.da.y, plot::pennaSu);
+        if (tratto.da == tratto.a)
+            tratto.a.x += tratto.a.x < centro_ ? lunghezzaPunto : -lunghezzaPunto;
+        plot::plotMuovi(tratto.a.x, tratto.a.y, plot::pennaGiu);
+        ultima_ = tratto.a;
     }
 
  private:
-    void traccia(const Tratto& intero) {
-        plot::controllaInterruzione();  // most strokes of a tile may lie outside
-        auto tratto = plot::ritagliaTratto(intero, riquadro_);
-        if (!tratto) return;
-        if (vicini(tratto->a, ultima_)) std::swap(tratto->da, tratto->a);
-        if (!vicini(tratto->da, ultima_))
-            plot::plotMuovi(tratto->da.x, tratto->da.y, plot::pennaSu);
-        if (tratto->da == tratto->a)
-            tratto->a.x += tratto->a.x < centro_.x ? lunghezzaPunto : -lunghezzaPunto;
-        plot::plotMuovi(tratto->a.x, tratto->a.y, plot::pennaGiu);
-        ultima_ = tratto->a;
-    }
-
-    plot::Riquadro riquadro_;
-    Punto centro_;
+    double centro_;
     Punto ultima_ = nessunaPosizione;
 };
 
 }  // namespace
 
-void disegnaCampitura(double codice, double x1, double x2, double y1, double y2) {
+void perOgniTratto(double codice, const plot::Riquadro& riquadro, const RiceviTratto& ricevi) {
     const Campiture& tutte = campiture();
-    Riempimento riempimento({x1, std::min(y1, y2), x2, std::max(y1, y2)});
     bool altriGruppi = true;
     while (altriGruppi) {
         const double gruppo = std::fmod(codice, 1000);
-        riempimento.disegna(tutte[static_cast<long>(std::fmod(gruppo, 100))],
-                            std::floor(gruppo / 100));
+        perOgniTratto(tutte[static_cast<long>(std::fmod(gruppo, 100))], std::floor(gruppo / 100),
+                      riquadro, ricevi);
         altriGruppi = codice >= 1000;
         codice = std::floor(codice / 1000);
     }
+}
+
+void disegnaCampitura(double codice, double x1, double x2, double y1, double y2) {
+    Penna penna((x1 + x2) / 2);
+    perOgniTratto(codice, {x1, std::min(y1, y2), x2, std::max(y1, y2)},
+                  [&penna](const Tratto& tratto) { penna.traccia(tratto); });
 }
 
 }  // namespace korven::drawings

@@ -1,5 +1,9 @@
 #pragma once
 
+#include <functional>
+
+#include "plot/geometry.hpp"
+
 namespace korven::drawings {
 
 /// Fills a rectangle of the sheet with the patterns of a hatch code, with the pen in use.
@@ -20,5 +24,11 @@ namespace korven::drawings {
 /// @param y1,y2   lower and upper side [cm], in any order
 /// @throws base::ErroreFile when the library is missing or broken
 void disegnaCampitura(double codice, double x1, double x2, double y1, double y2);
+
+/// The strokes that `disegnaCampitura` draws, in its order and cut at the rectangle, for pictures
+/// that no pen draws; a dot has its ends in one point.
+/// @throws base::ErroreFile as above
+void perOgniTratto(double codice, const plot::Riquadro& riquadro,
+                   const std::function<void(const plot::Tratto&)>& ricevi);
 
 }  // namespace korven::drawings
