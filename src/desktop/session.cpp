@@ -5,6 +5,7 @@
 #include "shell/help/porta.hpp"
 #include "shell/main/informazioni.hpp"
 #include "shell/masks/form_opening.hpp"
+#include "shell/panels/table_panels.hpp"
 #include "shell/pens/printer_setup.hpp"
 #include "shell/picture/live_picture.hpp"
 #include "shell/remarks/live_remarks.hpp"
@@ -25,7 +26,7 @@ commands::FormeProgramma Sessione::forme(const PorteSessione& porte) {
         shell::Informazioni(fileCorrente, &finestra_).exec();
     };
     shell::collegaSezione(tutte, &finestra_, &vita_);
-    shell::collegaMaschere(tutte, dialogo, &finestra_, &vita_);
+    shell::collegaMaschere(tutte, dialogo, &finestra_, &vita_, shell::pannelliTabelle(dialogo));
     shell::collegaFigura(finestra_, vita_, dialogo, porte.stampante);
     shell::collegaDisegni(tutte, finestra_, dialogo, porte.stampante,
                           [this](const std::string& percorso) {

@@ -84,6 +84,13 @@ TEST_P(TastiDiScelta, DifferWithinEachFormThatAMaskDescribes) {
     });
 }
 
+TEST_P(TastiDiScelta, DifferBetweenTheLayersAndTheirPanelAndWithinItsDialogs) {
+    programma.conPannelloStrati(dialogo, {},
+                                [](const Base2_32& forma) { EXPECT_EQ(tastiDi(forma), 8U); });
+    test::ProgrammaConsegnato::perOgniDialogoStrati(
+        [](const QWidget& finestra) { EXPECT_GE(tastiDi(finestra), 6U); });
+}
+
 TEST_P(TastiDiScelta, DifferWithinTheOtherForms) {
     project::Sezione sezione;
     bool modificato = false;

@@ -9,7 +9,6 @@
 #include <QButtonGroup>
 #include <QMessageBox>
 #include <QRadioButton>
-#include <QTableView>
 #include <functional>
 #include <set>
 
@@ -19,6 +18,7 @@
 #include "shell/main/informazioni.hpp"
 #include "shell/main/menu1.hpp"
 #include "shell/main/selezling.hpp"
+#include "shell/masks/grid_view.hpp"
 #include "shell/pens/editacfg.hpp"
 #include "shell/remarks/remarks_window.hpp"
 #include "shell/report/conf_stampa.hpp"
@@ -71,9 +71,9 @@ QString nomeAccessibile(QWidget& controllo) {
     return vista != nullptr ? vista->text(QAccessible::Name) : QString();
 }
 
-// A table keeps the tab key for its cells and lets go by Ctrl+Tab.
+// The grid of a form keeps the tab key for its cells and lets go by Ctrl+Tab.
 void premiTab(QWidget& controllo) {
-    const bool tabella = qobject_cast<QTableView*>(&controllo) != nullptr;
+    const bool tabella = dynamic_cast<VistaGriglia*>(&controllo) != nullptr;
     QTest::keyClick(&controllo, Qt::Key_Tab, tabella ? Qt::ControlModifier : Qt::NoModifier);
 }
 
@@ -114,6 +114,11 @@ class Accessibilita : public ::testing::Test {
 TEST_F(Accessibilita, OfTheFormsThatAMaskDescribes) {
     programma.perOgniMaschera(dialogo, [](QWidget& forma) { controlla(forma); });
     EXPECT_TRUE(dialogo.messaggi.empty());
+}
+
+TEST_F(Accessibilita, OfThePanelOfTheLayersAndItsDialogs) {
+    programma.conPannelloStrati(dialogo, {}, [](QWidget& forma) { controlla(forma); });
+    test::ProgrammaConsegnato::perOgniDialogoStrati([](QWidget& finestra) { controlla(finestra); });
 }
 
 TEST_F(Accessibilita, OfTheSectionFormInEachOfItsTypes) {

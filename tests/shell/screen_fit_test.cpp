@@ -149,6 +149,8 @@ void controllaBox(DialogoQt& box) {
 void controllaTutte(test::ProgrammaConsegnato& programma) {
     test::DialogoFinto dialogo;
     programma.perOgniMaschera(dialogo, controlla);
+    programma.conPannelloStrati(dialogo, {}, controlla);
+    programma.perOgniDialogoStrati(controlla);
     programma.perOgniTipoDiSezione(controlla);
     DialoghiEditacfg porte;
     controlla(*std::make_unique<Editacfg>(porte, dialogo, nullptr));

@@ -3,9 +3,13 @@
 #include <functional>
 
 #include "base/folders/program_folder.hpp"
+#include "drawings/hatch_library.hpp"
 #include "masks/editing.hpp"
 #include "shell/masks/base1.hpp"
 #include "shell/masks/base2_32.hpp"
+#include "shell/panels/hatch_chooser.hpp"
+#include "shell/panels/layer_import.hpp"
+#include "shell/panels/layers_panel.hpp"
 #include "shell/section/definej.hpp"
 #include "support/desktop_bench.hpp"
 #include "support/sample_projects.hpp"
@@ -20,11 +24,15 @@ class ProgrammaConsegnato {
 
     explicit ProgrammaConsegnato(int lingua) : testi_(lingua) {
         base::impostaCartellaProgramma(KORVEN_PROGRAM_FOLDER);
+        drawings::dimenticaCampiture();  // they have names in the language
         maschere_.leggiMaschereProgramma();
     }
     ProgrammaConsegnato(const ProgrammaConsegnato&) = delete;
     ProgrammaConsegnato& operator=(const ProgrammaConsegnato&) = delete;
-    ~ProgrammaConsegnato() { base::impostaCartellaProgramma(""); }
+    ~ProgrammaConsegnato() {
+        base::impostaCartellaProgramma("");
+        drawings::dimenticaCampiture();
+    }
 
     /// The form of each mask in turn, with the small wall in it.
     void perOgniMaschera(base::Dialogo& dialogo, const Vista& guarda) {
@@ -42,6 +50,29 @@ class ProgrammaConsegnato {
             }
             maschere_.rilasciaForm();
         }
+    }
+
+    /// The form of the layers with the panel beside it.
+    void conPannelloStrati(base::Dialogo& dialogo, const shell::FileDiStrati& file,
+                           const std::function<void(shell::Base2_32& forma)>& guarda) {
+        masks::preparaMaschera(maschere_, masks::NumeroMaschera::strati, progettoSemplice(), 0);
+        shell::Base2_32 forma(maschere_.corrente(), maschere_.valoriTesto(), dialogo, {}, nullptr);
+        forma.affianca(new shell::PannelloStrati(forma, dialogo, file));
+        guarda(forma);
+        maschere_.rilasciaForm();
+    }
+
+    /// The dialogs of that panel: the hatch, and layers from a hole that lacks all values.
+    static void perOgniDialogoStrati(const Vista& guarda) {
+        shell::SceglieCampitura scelta("112105C3 Argilla grigia, con radici.", nullptr);
+        guarda(scelta);
+        const std::string ags =
+            "GROUP,LOCA\nHEADING,LOCA_ID,LOCA_GL\nDATA,BH1,101.35\n"
+            "GROUP,GEOL\nHEADING,LOCA_ID,GEOL_TOP,GEOL_BASE,GEOL_DESC\n"
+            "DATA,BH1,0.5,3.4,Firm brown CLAY\nDATA,BH1,3.4,10,Dense SAND\n";
+        shell::ImportaStrati importo(exchange::FileStrati(ags), {{"3", "18"}}, "scavo.ags",
+                                     nullptr);
+        guarda(importo);
     }
 
     /// The form of the section in each of its types.

@@ -88,6 +88,11 @@ bool Base2_32::scrivi(masks::PostoGriglia posto, std::string_view testo) {
     return scritta;
 }
 
+void Base2_32::sostituisci(const std::vector<std::vector<std::string>>& righe, std::string passo) {
+    modello_.sostituisci(righe, std::move(passo), dialogo());
+    griglia_->aggiorna();
+}
+
 // The grid says that something may have changed: what it was is told to those who follow the form.
 void Base2_32::cambiata() {
     spiega();

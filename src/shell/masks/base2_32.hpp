@@ -39,6 +39,9 @@ class Base2_32 : public FormaMaschera {
     /// @return true when it was written
     bool scrivi(masks::PostoGriglia posto, std::string_view testo);
 
+    /// A panel puts rows in place of all (`ModelloGriglia::sostituisci`).
+    void sostituisci(const std::vector<std::vector<std::string>>& righe, std::string passo);
+
     /// Begins at a cell, before it is shown.
     void comincia(masks::PostoGriglia posto);
 

@@ -23,7 +23,7 @@ void segui(const FormaMaschera& forma, const masks::Maschera& maschera,
 }  // namespace
 
 void mostraForm(masks::Maschere& maschere, base::Dialogo& dialogo, const GuidaForme& guida,
-                QWidget* padre, VitaProgetto* vita) {
+                QWidget* padre, VitaProgetto* vita, const PannelloTabella& pannello) {
     const masks::Maschera& maschera = maschere.corrente();
     const auto numero = static_cast<masks::NumeroMaschera>(maschere.numero());
     if (maschera.genere == masks::GenereMaschera::campi) {
@@ -39,21 +39,22 @@ void mostraForm(masks::Maschere& maschere, base::Dialogo& dialogo, const GuidaFo
     }
     const int capienza = masks::capienza(numero);
     Base2_32 forma(maschera, maschere.valoriTesto(), dialogo, guida, padre, capienza);
+    if (QWidget* accanto = pannello ? pannello(forma, numero) : nullptr) forma.affianca(accanto);
     if (const auto inizio = maschere.inizio()) forma.comincia({inizio->riga, inizio->campo});
     segui(forma, maschera, numero, vita);
     if (forma.exec() == QDialog::Accepted) maschere.conferma({}, forma.modello().valoriTesto());
 }
 
 void collegaMaschere(commands::FormeProgramma& forme, base::Dialogo& dialogo, QWidget* padre,
-                     VitaProgetto* vita) {
+                     VitaProgetto* vita, const PannelloTabella& pannello) {
     GuidaForme guida;
     if (forme.guida)
         guida = [apri = forme.guida](int contesto) {
             apri(contesto);
             return true;
         };
-    forme.maschera = [&dialogo, guida, padre, vita](masks::Maschere& maschere) {
-        mostraForm(maschere, dialogo, guida, padre, vita);
+    forme.maschera = [&dialogo, guida, padre, vita, pannello](masks::Maschere& maschere) {
+        mostraForm(maschere, dialogo, guida, padre, vita, pannello);
     };
 }
 

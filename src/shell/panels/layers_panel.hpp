@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QWidget>
+#include <optional>
+#include <string>
+
+#include "base/dialogo.hpp"
+#include "exchange/layer_rows.hpp"
+#include "shell/panels/layer_files.hpp"
+
+class QLabel;
+class QPushButton;
+
+namespace korven::shell {
+
+class Base2_32;
+
+/// The panel beside the table of layers: the hatch of the current row as a picture, the way to
+/// another one, layers from files and into one. What it changes goes into the table as if it were
+/// typed or pasted there.
+///
+/// Controls by name: `immagine`, `nome`, `campitura`, `importa`, `esporta`.
+class PannelloStrati : public QWidget {
+ public:
+    /// @param forma  the form of the layers; it and `dialogo` must outlive the panel
+    PannelloStrati(Base2_32& forma, base::Dialogo& dialogo,
+                   FileDiStrati file = fileDiStratiDesktop());
+
+ private:
+    void mostra();
+    void scegliCampitura();
+    void importa();
+    void esporta();
+    [[nodiscard]] int riga() const;
+    [[nodiscard]] exchange::RigheStrati righe() const;
+    QPushButton* farePulsante(const char* nome, const QString& testo, const QString& suggerimento);
+
+    Base2_32& forma_;
+    base::Dialogo& dialogo_;
+    FileDiStrati file_;
+    QLabel* titolo_;
+    QLabel* immagine_;
+    QLabel* nome_;
+    std::optional<std::string> mostrata_;  // the description whose hatch is shown
+};
+
+}  // namespace korven::shell

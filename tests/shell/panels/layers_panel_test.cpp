@@ -1,0 +1,273 @@
+#include "shell/panels/layers_panel.hpp"
+
+#include <gtest/gtest.h>
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QTableView>
+#include <QTableWidget>
+
+#include "base/files.hpp"
+#include "exchange/ags_text.hpp"
+#include "exchange/csv_layers.hpp"
+#include "exchange/file_text.hpp"
+#include "support/delivered_program.hpp"
+#include "support/desktop_bench.hpp"
+#include "support/dialog_double.hpp"
+#include "support/form_setup.hpp"
+
+namespace korven::shell {
+namespace {
+
+using test::controllo;
+using Testi = std::vector<std::string>;
+
+// The panel beside the layers of the small wall, and what its user does.
+class Pannello : public ::testing::Test {
+ protected:
+    void conForma(const std::function<void(Base2_32&)>& fai) {
+        const FileDiStrati file{[this](QWidget*) { return daLeggere; },
+                                [this](QWidget*) { return daScrivere; }};
+        programma.conPannelloStrati(dialogo, file, [&](Base2_32& f) {
+            forma = &f;
+            f.show();
+            ASSERT_TRUE(QTest::qWaitForWindowActive(&f));
+            fai(f);
+        });
+    }
+    void premi(const char* nome) {
+        QTest::mouseClick(&controllo<QPushButton>(*forma, nome), Qt::LeftButton);
+    }
+    // Presses a button of the panel and does something in the dialog that it opens.
+    void premi(const char* nome, const std::function<void(QDialog&)>& nelDialogo) {
+        const test::AllaProssimaFinestra<QDialog> aperto([&](QDialog& d) {
+            nelDialogo(d);
+            if (d.isVisible()) d.reject();
+        });
+        premi(nome);
+        EXPECT_TRUE(aperto.fatto) << nome;
+    }
+    static void premiIn(QDialog& d, const char* nome) {
+        QTest::mouseClick(&controllo<QPushButton>(d, nome), Qt::LeftButton);
+    }
+    void annullaNellaTabella() {
+        QTest::keyClick(&controllo<QTableView>(*forma, "MSFlexGrid1"), Qt::Key_Z,
+                        Qt::ControlModifier);
+    }
+    std::string descrizione(int riga) { return forma->modello().testo({riga, 7}); }
+    // The first pattern that a search finds.
+    static void scegli(QDialog& d, const QString& cercata) {
+        controllo<QLineEdit>(d, "cerca").setText(cercata);
+        auto& lista = controllo<QListWidget>(d, "campiture");
+        for (int i = 0; i < lista.count(); ++i)
+            if (!lista.item(i)->isHidden()) return lista.setCurrentRow(i);
+        ADD_FAILURE() << cercata.toStdString();
+    }
+
+    QApplication& app = test::applicazione();
+    test::UtenteNuovo utente;
+    test::CartellaProvvisoria cartella;
+    test::ProgrammaConsegnato programma{1};
+    test::DialogoFinto dialogo;
+    std::optional<std::string> daLeggere;
+    std::optional<FileDiStrati::Scritto> daScrivere;
+    Base2_32* forma = nullptr;
+};
+
+TEST_F(Pannello, ShowsTheHatchOfTheCurrentRow) {
+    conForma([](Base2_32& f) {
+        ASSERT_TRUE(f.scrivi({2, 7}, "105C3 Argilla"));
+        EXPECT_EQ(controllo<QLabel>(f, "nome").text(), "5 Argilla");
+        EXPECT_EQ(controllo<QLabel>(f, "titolo").text(), "Strato 2");
+        EXPECT_FALSE(controllo<QLabel>(f, "immagine").pixmap().isNull());
+        ASSERT_TRUE(f.scrivi({3, 7}, "Argilla"));
+        EXPECT_EQ(controllo<QLabel>(f, "nome").text(), "nessuna campitura");
+        EXPECT_EQ(controllo<QLabel>(f, "titolo").text(), "Strato 3");
+    });
+}
+
+TEST_F(Pannello, WritesTheCodeChosenFromPicturesAsOneStep) {
+    conForma([this](Base2_32& f) {
+        f.scrivi({1, 7}, "103 Argilla  grigia|fine.");
+        premi("campitura", [](QDialog& d) {
+            EXPECT_EQ(controllo<QListWidget>(d, "campiture").currentItem()->text(),
+                      "3 Sabbia mediamente addensata");
+            scegli(d, "torba");
+            controllo<QComboBox>(d, "colore").setCurrentIndex(2);
+            controllo<QSpinBox>(d, "grandezza_0").setValue(3);
+            premiIn(d, "conferma");
+        });
+        EXPECT_EQ(descrizione(1), "307C3 Argilla  grigia|fine.");
+        annullaNellaTabella();
+        EXPECT_EQ(descrizione(1), "103 Argilla  grigia|fine.");
+    });
+}
+
+TEST_F(Pannello, LaysASecondPatternOverTheFirst) {
+    conForma([this](Base2_32& f) {
+        f.scrivi({1, 7}, "Argilla");
+        premi("campitura", [](QDialog& d) {
+            scegli(d, "5 argilla");
+            QTest::mouseClick(&controllo(d, "livello_1"), Qt::LeftButton, {}, QPoint(5, 5));
+            EXPECT_FALSE(controllo<QAbstractButton>(d, "livello_0").isChecked());
+            scegli(d, "torba");
+            EXPECT_EQ(controllo<QLabel>(d, "nome_0").text(), "5 Argilla");
+            EXPECT_EQ(controllo<QLabel>(d, "nome_1").text(), "7 Torba");
+            controllo<QCheckBox>(d, "linea").setChecked(false);
+            EXPECT_EQ(controllo<QLabel>(d, "descrizione").text(),
+                      "Descrizione dello strato: -107105 Argilla");
+            premiIn(d, "conferma");
+        });
+        EXPECT_EQ(descrizione(1), "-107105 Argilla");
+    });
+}
+
+TEST_F(Pannello, LeavesTheRowWhenTheChoiceIsGivenUp) {
+    conForma([this](Base2_32& f) {
+        f.scrivi({1, 7}, "103 Sabbia");
+        premi("campitura", [](QDialog& d) {
+            scegli(d, "torba");
+            premiIn(d, "annulla");
+        });
+        EXPECT_EQ(descrizione(1), "103 Sabbia");
+    });
+}
+
+TEST_F(Pannello, LetsAHatchBeChosenByKeysAlone) {
+    conForma([this](Base2_32& f) {
+        f.scrivi({1, 7}, "Sabbia");
+        premi("campitura", [](QDialog& d) {
+            QTest::keyClicks(d.focusWidget(), "torba");
+            QTest::keyClick(d.focusWidget(), Qt::Key_Down);
+            EXPECT_EQ(d.focusWidget()->objectName(), "campiture");
+            EXPECT_EQ(controllo<QListWidget>(d, "campiture").currentItem()->text(), "7 Torba");
+            QTest::keyClick(d.focusWidget(), Qt::Key_Return);
+            EXPECT_EQ(d.result(), QDialog::Accepted);
+        });
+        EXPECT_EQ(descrizione(1), "107 Sabbia");
+    });
+}
+
+TEST_F(Pannello, PutsTheLayersOfATableInPlaceOfTheRowsAsOneStep) {
+    daLeggere = cartella / "strati.csv";
+    test::metti(*daLeggere, "Prof.;Phi;Descrizione\n2,5;30;103 Sabbia\n7;24;105 Argilla\n");
+    conForma([this](Base2_32& f) {
+        const Testi prima = f.modello().valoriTesto();
+        premi("importa", [](QDialog& d) {
+            EXPECT_EQ(d.windowTitle(), "Importazione degli strati - strati.csv");
+            auto& tabella = controllo<QTableWidget>(d, "strati");
+            ASSERT_EQ(tabella.rowCount(), 2);
+            EXPECT_EQ(tabella.item(0, 0)->text(), "2.5");
+            EXPECT_EQ(tabella.item(0, 1)->text(), "");
+            controllo<QCheckBox>(d, "tieniValori").setChecked(true);
+            EXPECT_EQ(tabella.item(0, 1)->text(), "18") << "what the small wall has there";
+            controllo<QCheckBox>(d, "tieniValori").setChecked(false);
+            premiIn(d, "importa");
+        });
+        EXPECT_EQ(f.modello().valoriTesto(), (Testi{"2", "2.5", "", "", "30", "", "", "103 Sabbia",
+                                                    "7", "", "", "24", "", "", "105 Argilla"}));
+        EXPECT_TRUE(dialogo.messaggi.empty());
+        annullaNellaTabella();
+        EXPECT_EQ(f.modello().valoriTesto(), prima);
+    });
+}
+
+TEST_F(Pannello, TakesTheLayersOfAHoleFromTheWallsHead) {
+    daLeggere = cartella / "scavo.ags";
+    test::metti(*daLeggere, test::gruppoLoca({{"BH1", "101.35"}, {"BH2", "99.00"}}) +
+                                test::gruppoGeol({{"BH1", "0.00", "3.40", "Firm CLAY"},
+                                                  {"BH2", "0.00", "2.00", "Fill"},
+                                                  {"BH2", "2.00", "9.00", "Dense SAND"}}));
+    conForma([this](Base2_32& f) {
+        premi("importa", [](QDialog& d) {
+            auto& tabella = controllo<QTableWidget>(d, "strati");
+            EXPECT_EQ(tabella.rowCount(), 1);
+            controllo<QComboBox>(d, "foro").setCurrentIndex(1);
+            EXPECT_EQ(tabella.rowCount(), 2);
+            controllo<QComboBox>(d, "modo").setCurrentIndex(1);
+            auto& testa = controllo<QLineEdit>(d, "testa");
+            testa.setText("novanta");
+            EXPECT_EQ(tabella.rowCount(), 0);
+            EXPECT_FALSE(controllo(d, "importa").isEnabled());
+            EXPECT_EQ(controllo<QPlainTextEdit>(d, "messaggi").toPlainText(),
+                      "Non si può importare:\ntesta della paratia: «novanta» non è un numero");
+            testa.setText("97.5");
+            EXPECT_TRUE(controllo<QCheckBox>(d, "mettiCodice").isChecked());
+            premiIn(d, "importa");
+        });
+        EXPECT_EQ(f.modello().valoriTesto(), (Testi{"2", "0.5", "", "", "", "", "", "0 Fill", "7.5",
+                                                    "", "", "", "", "", "0 Dense SAND"}));
+    });
+}
+
+TEST_F(Pannello, TakesNothingOfAFileWithAFault) {
+    daLeggere = cartella / "strati.csv";
+    test::metti(*daLeggere, "Prof.;Phi\n2,5;trenta\n");
+    conForma([this](Base2_32& f) {
+        const Testi prima = f.modello().valoriTesto();
+        premi("importa", [](QDialog& d) {
+            EXPECT_FALSE(controllo(d, "importa").isEnabled());
+            EXPECT_EQ(controllo<QPlainTextEdit>(d, "messaggi").toPlainText(),
+                      "Non si può importare:\n"
+                      "riga 2, colonna 2: «trenta» non è un numero (Phi [°])");
+        });
+        EXPECT_EQ(f.modello().valoriTesto(), prima);
+        daLeggere = cartella / "manca.csv";
+        premi("importa");
+        ASSERT_EQ(dialogo.messaggi.size(), 1U);
+        EXPECT_EQ(dialogo.messaggi[0].icona, base::Icona::avviso);
+        daLeggere = std::nullopt;
+        premi("importa");
+        EXPECT_EQ(f.modello().valoriTesto(), prima);
+    });
+}
+
+TEST_F(Pannello, WritesTheLayersSoThatTheyReadBack) {
+    daScrivere = {cartella / "fuori.csv", exchange::csvPuntoEVirgola};
+    conForma([this](Base2_32& f) {
+        f.scrivi({1, 7}, "105C3 Argilla; \"grassa\"");
+        premi("esporta");
+        const auto letti =
+            exchange::leggiCsv(exchange::testoDiFile(base::leggiFile(daScrivere->percorso)));
+        ASSERT_TRUE(letti.riuscita());
+        Testi celle{std::to_string(letti.righe.size())};
+        for (const auto& riga : letti.righe) celle.insert(celle.end(), riga.begin(), riga.end());
+        EXPECT_EQ(celle, f.modello().valoriTesto());
+        EXPECT_TRUE(dialogo.messaggi.empty());
+    });
+}
+
+TEST_F(Pannello, WritesNoLayersThatWouldNotReadBackOrOverTheProject) {
+    daScrivere = {cartella / "fuori.csv", exchange::csvVirgola};
+    conForma([this](Base2_32& f) {
+        f.scrivi({1, 1}, "");
+        premi("esporta");
+        ASSERT_EQ(dialogo.messaggi.size(), 1U);
+        EXPECT_EQ(dialogo.messaggi[0].testo,
+                  "Gli strati non si possono scrivere:\r\n"
+                  "riga 1, colonna 1: manca la profondità dello strato");
+        f.sostituisci({}, "x");
+        premi("esporta");
+        EXPECT_EQ(dialogo.messaggi[1].testo, "Non ci sono strati da scrivere.");
+        EXPECT_FALSE(base::esisteFile(daScrivere->percorso));
+        f.sostituisci({{"3"}}, "x");
+        test::metti(cartella / "muro.kvd", "dati");
+        project::fileCorrente = daScrivere->percorso = cartella / "muro.kvd";
+        premi("esporta");
+        project::fileCorrente.clear();
+        EXPECT_EQ(dialogo.messaggi.size(), 3U);
+        EXPECT_EQ(base::leggiFile(daScrivere->percorso), "dati");
+        daScrivere->percorso = cartella / "manca/fuori.csv";
+        premi("esporta");
+        EXPECT_EQ(dialogo.messaggi.size(), 4U);
+    });
+}
+
+}  // namespace
+}  // namespace korven::shell
