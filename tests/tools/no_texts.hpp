@@ -260,7 +260,8 @@ inline const std::map<std::string, Texts> noTexts = {
       "about"}},
     {"commands/start/user_folder.cpp",
      {".rtn", ".mav", ".hlp", "texts", ".txt", "profili.txt", "data"}},
-    {"desktop/main.cpp", {"korven32", "/korven32.svg", "about"}},
+    {"desktop/main.cpp", {"korven32", "/korven32.svg"}},
+    {"desktop/session.cpp", {"about"}},
     {"shell/section/definej.cpp",
      {"DefinEJ", "contestoGuida", "schizzo", "Labelhelp", "EditRigidezza"}},
     {"shell/section/definej_fields.cpp", {"Fyk", "Fck"}},  // with their unit, see below
