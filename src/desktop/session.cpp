@@ -12,6 +12,8 @@
 #include "shell/report/destinations.hpp"
 #include "shell/rescue/rescue_form.hpp"
 #include "shell/rescue/rescue_watch.hpp"
+#include "shell/results/results_window.hpp"
+#include "shell/safety/safety_window.hpp"
 #include "shell/section/definej.hpp"
 #include "shell/tools/tool_forms.hpp"
 
@@ -35,6 +37,8 @@ commands::FormeProgramma Sessione::forme(const PorteSessione& porte) {
     shell::collegaRecupero(tutte, finestra_);
     shell::collegaRelazione(tutte, finestra_, dialogo, porte.stampante, porte.outdoc);
     shell::collegaOsservazioni(tutte, finestra_, vita_);
+    shell::collegaRisultati(tutte, finestra_, vita_);
+    shell::collegaSicurezza(tutte, finestra_, vita_);
     shell::collegaStrumenti(tutte, dialogo, finestra_);
     tutte.riavvia = porte.riavvia;
     return tutte;

@@ -21,7 +21,9 @@
 #include "shell/remarks/remarks_window.hpp"
 #include "shell/report/conf_stampa.hpp"
 #include "shell/rescue/rescue_form.hpp"
+#include "shell/results/results_window.hpp"
 #include "shell/run/temp_calc.hpp"
+#include "shell/safety/safety_window.hpp"
 #include "shell/section/definej.hpp"
 #include "shell/tools/pattern_choice.hpp"
 #include "support/delivered_program.hpp"
@@ -101,6 +103,10 @@ TEST_P(TastiDiScelta, DifferWithinTheOtherForms) {
     EXPECT_EQ(tastiDi(TempCalc(nullptr)), 1U);
     QWidget principale;
     EXPECT_EQ(tastiDi(FinestraOsservazioni(principale, test::azioniOsservazioni())), 3U);
+    VitaProgetto vita;
+    const auto guida = [](const std::string&) {};
+    EXPECT_EQ(tastiDi(FinestraRisultati(principale, vita, guida)), 4U);
+    EXPECT_EQ(tastiDi(FinestraSicurezza(principale, vita, guida)), 3U);
     EXPECT_EQ(tastiDi(SceltaModello({})), 2U);
     for (const bool salvato : {true, false}) {
         test::OffertaDiProva prova;

@@ -24,7 +24,9 @@
 #include "shell/report/conf_stampa.hpp"
 #include "shell/report/form1.hpp"
 #include "shell/rescue/rescue_form.hpp"
+#include "shell/results/results_window.hpp"
 #include "shell/run/temp_calc.hpp"
+#include "shell/safety/safety_window.hpp"
 #include "support/delivered_program.hpp"
 #include "support/desktop_bench.hpp"
 #include "support/dialog_double.hpp"
@@ -145,6 +147,11 @@ TEST_F(Accessibilita, OfTheWindowsAroundTheProject) {
     FinestraOsservazioni osservazioni(menu1, test::azioniOsservazioni());
     osservazioni.mostra(test::osservazioniMiste(), "2 pericoli");
     controlla(osservazioni);
+    VitaProgetto vita;
+    FinestraRisultati risultati(menu1, vita, [](const std::string&) {});
+    controlla(risultati);
+    FinestraSicurezza sicurezza(menu1, vita, [](const std::string&) {});
+    controlla(sicurezza);
     const test::OffertaDiProva prova;
     const auto offerta = prova.offerta();
     FormaRecupero recupero(offerta, nullptr);

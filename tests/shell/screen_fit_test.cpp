@@ -33,11 +33,14 @@
 #include "shell/report/conf_stampa.hpp"
 #include "shell/report/form1.hpp"
 #include "shell/rescue/rescue_form.hpp"
+#include "shell/results/results_window.hpp"
 #include "shell/run/temp_calc.hpp"
+#include "shell/safety/safety_window.hpp"
 #include "shell/tools/pattern_choice.hpp"
 #include "support/delivered_program.hpp"
 #include "support/desktop_bench.hpp"
 #include "support/dialog_double.hpp"
+#include "support/open_project.hpp"
 #include "support/sample_offer.hpp"
 #include "support/sample_remarks.hpp"
 #include "support/viewer_setup.hpp"
@@ -146,6 +149,18 @@ void controllaBox(DialogoQt& box) {
     EXPECT_TRUE(vista.fatto);
 }
 
+// What follows the open project, with one whose sentences are long.
+void controllaSulProgetto(Menu1& menu1) {
+    const test::ProgettoAperto aperto(test::progettoSemplice());
+    VitaProgetto vita;
+    vita.guarda();
+    FinestraRisultati risultati(menu1, vita, [](const std::string&) {});
+    FinestraSicurezza sicurezza(menu1, vita, [](const std::string&) {});
+    ASSERT_TRUE(QTest::qWaitFor([&] { return vita.vivo().lenti() != nullptr; }, 30000));
+    controlla(risultati);
+    controlla(sicurezza);
+}
+
 void controllaTutte(test::ProgrammaConsegnato& programma) {
     test::DialogoFinto dialogo;
     programma.perOgniMaschera(dialogo, controlla);
@@ -161,6 +176,7 @@ void controllaTutte(test::ProgrammaConsegnato& programma) {
     FinestraOsservazioni osservazioni(menu1, test::azioniOsservazioni());
     osservazioni.mostra(test::osservazioniMiste(), review::conteggio(test::osservazioniMiste()));
     controlla(osservazioni);
+    controllaSulProgetto(menu1);
     Selezling lingue({5, 3, 2, 1, 4, 6});
     controlla(lingue);
     Selezling altre({5, 3, 2, 1, 4, 6}, base::linguaCorrente());

@@ -1,0 +1,51 @@
+#include "shell/safety/mechanism_view.hpp"
+
+#include <QPainter>
+#include <utility>
+
+#include "device/scene_painter.hpp"
+#include "scene/scene.hpp"
+#include "shell/qt_text.hpp"
+
+namespace korven::shell {
+
+namespace {
+
+scene::Rgb rgb(const QColor& c) {
+    return {static_cast<std::uint8_t>(c.red()), static_cast<std::uint8_t>(c.green()),
+            static_cast<std::uint8_t>(c.blue())};
+}
+
+}  // namespace
+
+VistaMeccanismo::VistaMeccanismo(QWidget* padre) : QWidget(padre) {
+    setObjectName(QStringLiteral("meccanismo"));
+    setAccessibleName(tradotto("Figura del meccanismo"));
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+}
+
+void VistaMeccanismo::mostra(std::optional<live::PareteViva> parete, const QString& testo) {
+    parete_ = std::move(parete);
+    testo_ = testo;
+    setAccessibleDescription(testo);
+    update();
+}
+
+void VistaMeccanismo::paintEvent(QPaintEvent*) {
+    const scene::Tavolozza tavolozza = scene::tavolozza(rgb(palette().color(QPalette::WindowText)),
+                                                        rgb(palette().color(QPalette::Window)));
+    QPainter p(this);
+    p.fillRect(rect(), device::qColore({scene::Ruolo::sfondo}, tavolozza));
+    if (!parete_) {
+        p.setPen(device::qColore({scene::Ruolo::testoTenue}, tavolozza));
+        p.drawText(rect().adjusted(16, 16, -16, -16), Qt::AlignCenter | Qt::TextWordWrap, testo_);
+        return;
+    }
+    const live::Vista vista{.fase = static_cast<int>(parete_->fasi.size())};
+    const scene::Misura misura{static_cast<double>(width()), static_cast<double>(height())};
+    const device::MisuraTestiQt testi(font());
+    device::PittoreScena(font(), tavolozza)
+        .dipingi(p, scena(*parete_, vista, misura, testi, {.curva = false, .parole = false}));
+}
+
+}  // namespace korven::shell

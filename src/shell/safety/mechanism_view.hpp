@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QWidget>
+#include <optional>
+
+#include "live/wall.hpp"
+
+namespace korven::shell {
+
+/// The wall as it falls, from the deciding stage on: a picture of the mechanism.
+class VistaMeccanismo : public QWidget {
+ public:
+    explicit VistaMeccanismo(QWidget* padre);
+
+    /// @param parete  nothing where no movement is known
+    /// @param testo   what the picture says, for those who do not see it, and where it is empty
+    void mostra(std::optional<live::PareteViva> parete, const QString& testo);
+
+    [[nodiscard]] QSize minimumSizeHint() const override { return {180, 160}; }
+    [[nodiscard]] QSize sizeHint() const override { return {360, 340}; }
+
+ protected:
+    void paintEvent(QPaintEvent* evento) override;
+
+ private:
+    std::optional<live::PareteViva> parete_;
+    QString testo_;
+};
+
+}  // namespace korven::shell

@@ -1,0 +1,148 @@
+#include "shell/safety/safety_window.hpp"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPointer>
+#include <QPushButton>
+#include <QSplitter>
+#include <QTabWidget>
+#include <QVBoxLayout>
+#include <memory>
+#include <utility>
+
+#include "live/limit_wall.hpp"
+#include "shell/qt_text.hpp"
+#include "shell/safety/mechanism_view.hpp"
+#include "shell/tables/table_view.hpp"
+#include "tables/margin_table.hpp"
+
+namespace korven::shell {
+
+namespace {
+
+using tables::Prospetto;
+using tables::Riassunto;
+
+constexpr QSize misuraComoda(1010, 540);
+constexpr const char* paginaGuida = "finestra_sicurezza";
+
+}  // namespace
+
+FinestraSicurezza::FinestraSicurezza(QWidget& principale, VitaProgetto& vita,
+                                     std::function<void(const std::string&)> guida)
+    : FinestraCompagna(principale, QStringLiteral("sicurezza"), tradotto("Sicurezza"),
+                       misuraComoda),
+      vita_(vita) {
+    const auto etichetta = [this](const char* nome) {
+        auto* fatta = new QLabel(this);
+        fatta->setObjectName(QLatin1String(nome));
+        fatta->setTextFormat(Qt::PlainText);
+        fatta->setWordWrap(true);
+        return fatta;
+    };
+    verdetto_ = etichetta("verdetto");
+    QFont grassetto = font();
+    grassetto.setBold(true);
+    verdetto_->setFont(grassetto);
+    frasi_ = etichetta("frasi");
+    auto* meta = new QSplitter(Qt::Horizontal, this);
+    meta->setChildrenCollapsible(false);
+    pagine_ = new QTabWidget(meta);
+    pagine_->setObjectName(QStringLiteral("pagine"));
+    pagine_->setAccessibleName(windowTitle());
+    margine_ = farePagina("margine", "Margine per fase");
+    statica_ = farePagina("statica", "Statica e relazione");
+    maglia_ = farePagina("maglia", "Errore di maglia");
+    meccanismo_ = new VistaMeccanismo(meta);
+    meta->addWidget(pagine_);
+    meta->addWidget(meccanismo_);
+    meta->setStretchFactor(0, 2);
+    meta->setStretchFactor(1, 1);
+    meta->setSizes({2 * misuraComoda.width(), misuraComoda.width()});
+    auto* colonna = new QVBoxLayout(this);
+    colonna->addWidget(verdetto_);
+    colonna->addWidget(meta, 1);
+    colonna->addWidget(frasi_);
+    colonna->addWidget(farePulsanti(guida));
+    margine_->setFocus();
+    connect(&vita, &VitaProgetto::cambiata, this, [this] {
+        if (isVisible()) segui();
+    });
+}
+
+VistaProspetto* FinestraSicurezza::farePagina(const char* nome, const char* titolo) {
+    auto* vista = new VistaProspetto(QLatin1String(nome), pagine_);
+    vista->setAccessibleName(tradotto(titolo));
+    pagine_->addTab(vista, tradotto(titolo));
+    return vista;
+}
+
+QWidget* FinestraSicurezza::farePulsanti(const std::function<void(const std::string&)>& guida) {
+    auto* riga = new QWidget(this);
+    auto* disposizione = new QHBoxLayout(riga);
+    disposizione->setContentsMargins(0, 0, 0, 0);
+    const auto pulsante = [&](const char* nome, const char* testo, auto azione) {
+        auto* fatto = new QPushButton(tradotto(testo), riga);
+        fatto->setObjectName(QLatin1String(nome));
+        fatto->setAutoDefault(true);
+        connect(fatto, &QPushButton::clicked, this, azione);
+        disposizione->addWidget(fatto);
+        return fatto;
+    };
+    pulsante("copia", "C&opia",
+             [this] { static_cast<VistaProspetto*>(pagine_->currentWidget())->copia(); })
+        ->setToolTip(
+            tradotto("Copia la tabella, o la parte scelta, per un foglio di calcolo (Ctrl+C)"));
+    pulsante("guida", "&Help", [guida] {
+        guida(paginaGuida);
+    })->setVisible(static_cast<bool>(guida));
+    disposizione->addStretch();
+    pulsante("chiudi", "&Chiudi", [this] { close(); });
+    return riga;
+}
+
+void FinestraSicurezza::showEvent(QShowEvent* evento) {
+    segui();
+    FinestraCompagna::showEvent(evento);
+}
+
+void FinestraSicurezza::segui() {
+    const Riassunto riassunto = tables::riassunto(vita_.vivo());
+    const bool inCorso = riassunto.stato == Riassunto::Stato::inCorso;
+    verdetto_->setText(qt(riassunto.verdetto));
+    for (VistaProspetto* vista : {margine_, statica_, maglia_}) vista->sospendi(inCorso);
+    frasi_->setEnabled(!inCorso);
+    if (!inCorso) mostra(riassunto);
+}
+
+void FinestraSicurezza::mostra(const Riassunto& riassunto) {
+    QStringList righe;
+    for (const std::string& frase : riassunto.frasi) righe << qt(frase);
+    if (riassunto.margine == nullptr) {
+        for (VistaProspetto* vista : {margine_, statica_, maglia_}) vista->mostra({});
+        meccanismo_->mostra({}, qt(riassunto.verdetto));
+        frasi_->setText(QString());
+        return;
+    }
+    const safety::Margine& margine = *riassunto.margine;
+    const Prospetto perFase = tables::prospettoMargine(margine);
+    for (const std::string& nota : perFase.note) righe << qt(nota);
+    margine_->mostra(perFase);
+    statica_->mostra(tables::prospettoStatica(margine));
+    maglia_->mostra(tables::prospettoMaglia(margine));
+    frasi_->setText(righe.join(QLatin1Char('\n')));
+    QStringList detto = {qt(riassunto.verdetto)};
+    for (const std::string& nota : perFase.note) detto << qt(nota);
+    meccanismo_->mostra(live::pareteAlLimite(vita_.vivo().parete(), margine),
+                        detto.join(QLatin1Char('\n')));
+}
+
+void collegaSicurezza(commands::FormeProgramma& forme, QWidget& principale, VitaProgetto& vita) {
+    forme.sicurezza = [finestra = std::make_shared<QPointer<FinestraSicurezza>>(), &principale,
+                       &vita, guida = forme.paginaGuida] {
+        if (*finestra == nullptr) *finestra = new FinestraSicurezza(principale, vita, guida);
+        (*finestra)->mostraDavanti();
+    };
+}
+
+}  // namespace korven::shell

@@ -1,0 +1,134 @@
+#include "shell/tables/table_view.hpp"
+
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QGuiApplication>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMimeData>
+#include <algorithm>
+#include <set>
+#include <utility>
+
+#include "shell/qt_text.hpp"
+#include "shell/tables/bar_delegate.hpp"
+#include "tables/table_text.hpp"
+
+namespace korven::shell {
+
+namespace {
+
+constexpr int margine = 14;           // beside the text of a cell [px]
+constexpr int larghezzaBarre = 70;    // of a column with bars at least [px]
+constexpr int larghezzaParole = 360;  // of a column of words at most [px]
+
+// The widest text of a column, near enough by its length.
+QString piuLungo(const ModelloProspetto& modello, int colonna) {
+    const std::string* lungo = nullptr;
+    for (const auto& riga : modello.prospetto().righe) {
+        const std::string& testo = riga[static_cast<std::size_t>(colonna)].testo;
+        if (lungo == nullptr || testo.size() > lungo->size()) lungo = &testo;
+    }
+    return lungo == nullptr ? QString() : qt(*lungo);
+}
+
+bool haBarre(const ModelloProspetto& modello, int colonna) {
+    const auto& righe = modello.prospetto().righe;
+    return std::any_of(righe.begin(), righe.end(), [=](const auto& riga) {
+        return riga[static_cast<std::size_t>(colonna)].barra.has_value();
+    });
+}
+
+}  // namespace
+
+VistaProspetto::VistaProspetto(const QString& nome, QWidget* padre)
+    : QTableView(padre), modello_(new ModelloProspetto(this)) {
+    setObjectName(nome);
+    setModel(modello_);
+    setItemDelegate(new DelegatoBarre(this));
+    setAlternatingRowColors(true);
+    setWordWrap(false);
+    setTabKeyNavigation(false);  // Tab leaves the table
+    setHorizontalScrollMode(ScrollPerPixel);
+    verticalHeader()->hide();
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setStretchLastSection(true);
+    horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
+    horizontalHeader()->setSortIndicatorClearable(true);
+    setSortingEnabled(true);
+}
+
+void VistaProspetto::mostra(tables::Prospetto prospetto) {
+    if (!prospetto.titolo.empty()) setAccessibleName(qt(prospetto.titolo));
+    const bool altra = prospetto.colonne != modello_->prospetto().colonne;
+    modello_->mostra(std::move(prospetto));
+    allarga(altra);
+}
+
+// Columns only grow while the table is the same: they would dance with every key otherwise.
+void VistaProspetto::allarga(bool altra) {
+    QFont grassetto = font();
+    grassetto.setBold(true);
+    const QFontMetrics misure(grassetto);
+    const int freccia = style()->pixelMetric(QStyle::PM_HeaderMarkSize, nullptr, this);
+    for (int c = 0; c < modello_->columnCount(); ++c) {
+        const QString testa = modello_->headerData(c, Qt::Horizontal, Qt::DisplayRole).toString();
+        const int teste = misure.horizontalAdvance(testa) + freccia;
+        const int celle =
+            std::min(misure.horizontalAdvance(piuLungo(*modello_, c)), larghezzaParole);
+        const int minima = haBarre(*modello_, c) ? larghezzaBarre : 0;
+        const int serve = std::max({teste, celle, minima}) + margine;
+        if (altra || columnWidth(c) < serve) setColumnWidth(c, serve);
+    }
+}
+
+QMimeData* VistaProspetto::copiato() const {
+    std::set<int> righe, colonne;
+    for (const QModelIndex& uno : selectionModel()->selectedIndexes()) {
+        righe.insert(uno.row());
+        colonne.insert(uno.column());
+    }
+    const bool tutto = righe.size() * colonne.size() <= 1;
+    std::vector<std::size_t> qualiRighe, qualiColonne;
+    for (int r = 0; r < modello_->rowCount(); ++r)
+        if (tutto || righe.contains(r)) qualiRighe.push_back(modello_->riga(r));
+    for (int c = 0; c < modello_->columnCount(); ++c)
+        if (tutto || colonne.contains(c)) qualiColonne.push_back(static_cast<std::size_t>(c));
+    auto* dati = new QMimeData;
+    const tables::Parte parte{qualiRighe, qualiColonne};
+    dati->setText(qt(testoTabulato(modello_->prospetto(), parte)));
+    dati->setHtml(qt(testoHtml(modello_->prospetto(), parte)));
+    return dati;
+}
+
+void VistaProspetto::copia() const {
+    if (modello_->columnCount() > 0) QGuiApplication::clipboard()->setMimeData(copiato());
+}
+
+void VistaProspetto::keyPressEvent(QKeyEvent* evento) {
+    if (evento->matches(QKeySequence::Copy)) return copia();
+    QTableView::keyPressEvent(evento);
+}
+
+void VistaProspetto::contextMenuEvent(QContextMenuEvent* evento) {
+    QMenu menu(this);
+    const auto voce = [&](const char* testo, const QKeySequence& tasto, auto azione) {
+        auto* fatta = menu.addAction(tradotto(testo), this, azione);
+        fatta->setShortcut(tasto);
+    };
+    voce("C&opia", QKeySequence::Copy, [this] { copia(); });
+    voce("Seleziona &tutto", QKeySequence::SelectAll, [this] { selectAll(); });
+    menu.addSeparator();
+    const int colonna = std::max(currentIndex().column(), 0);
+    voce("Ordina cr&escente", {}, [=, this] { sortByColumn(colonna, Qt::AscendingOrder); });
+    voce("Ordina &decrescente", {}, [=, this] { sortByColumn(colonna, Qt::DescendingOrder); });
+    voce("Ordine o&riginale", {}, [this] { sortByColumn(-1, Qt::AscendingOrder); });
+    const QPoint dove = evento->reason() == QContextMenuEvent::Keyboard
+                            ? viewport()->mapToGlobal(visualRect(currentIndex()).bottomLeft())
+                            : evento->globalPos();
+    menu.exec(dove);
+}
+
+}  // namespace korven::shell

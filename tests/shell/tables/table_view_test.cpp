@@ -1,0 +1,159 @@
+#include "shell/tables/table_view.hpp"
+
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <QClipboard>
+#include <QHeaderView>
+#include <QMimeData>
+#include <QScrollBar>
+#include <QSignalSpy>
+
+#include "live/wall.hpp"
+#include "shell/qt_text.hpp"
+#include "support/desktop_bench.hpp"
+#include "support/form_setup.hpp"
+#include "support/sample_projects.hpp"
+#include "tables/node_table.hpp"
+
+namespace korven::shell {
+namespace {
+
+using tables::Prospetto;
+
+Prospetto nodi(double scavo) {
+    project::DatiProgetto dati = test::progettoSemplice();
+    dati.profFase[2] = scavo;
+    return tables::prospettoNodi(live::calcola(dati, 50), 2);
+}
+
+class VistaProspettoTest : public ::testing::Test {
+ protected:
+    VistaProspettoTest() {
+        vista.resize(700, 200);
+        vista.show();
+        vista.mostra(nodi(5));
+    }
+    [[nodiscard]] QString testo(int riga, int colonna) const {
+        return vista.modello()
+            .data(vista.modello().index(riga, colonna), Qt::DisplayRole)
+            .toString();
+    }
+
+    QApplication& app = test::applicazione();
+    VistaProspetto vista{QStringLiteral("nodi"), nullptr};
+};
+
+TEST_F(VistaProspettoTest, KeepsSelectionScrollAndOrderWhileNumbersChange) {
+    vista.sortByColumn(2, Qt::DescendingOrder);
+    const auto indice = vista.modello().index(30, 2);
+    const std::size_t riga = vista.modello().riga(30);
+    vista.setCurrentIndex(indice);
+    vista.verticalScrollBar()->setValue(20);
+    QSignalSpy daCapo(&vista.modello(), &QAbstractItemModel::modelReset);
+    vista.mostra(nodi(5.5));
+    EXPECT_EQ(daCapo.count(), 0);
+    EXPECT_EQ(vista.modello().riga(vista.currentIndex().row()), riga);
+    EXPECT_EQ(vista.verticalScrollBar()->value(), 20);
+    EXPECT_EQ(vista.horizontalHeader()->sortIndicatorSection(), 2);
+    const auto& p = vista.modello().prospetto();
+    for (int r = 1; r < vista.modello().rowCount(); ++r)
+        EXPECT_GE(*p.righe[vista.modello().riga(r - 1)][2].numero,
+                  *p.righe[vista.modello().riga(r)][2].numero);
+}
+
+TEST_F(VistaProspettoTest, TellsNobodyOfATableThatIsTheSame) {
+    QSignalSpy cambiate(&vista.modello(), &QAbstractItemModel::dataChanged);
+    vista.mostra(nodi(5));
+    EXPECT_EQ(cambiate.count(), 0);
+    vista.mostra(nodi(5.5));
+    EXPECT_EQ(cambiate.count(), 1);
+}
+
+TEST_F(VistaProspettoTest, TakesMoreAndFewerRows) {
+    Prospetto p = nodi(5);
+    p.righe.resize(10);
+    vista.mostra(p);
+    EXPECT_EQ(vista.modello().rowCount(), 10);
+    vista.mostra(nodi(5));
+    EXPECT_EQ(vista.modello().rowCount(), 51);
+    EXPECT_EQ(testo(50, 0), "51");
+}
+
+TEST_F(VistaProspettoTest, CopiesWhatIsSelectedWithItsHeadsAndAllDigits) {
+    vista.setFocus();
+    vista.selectRow(4);
+    QTest::keyClick(&vista, Qt::Key_C, Qt::ControlModifier);
+    const QMimeData* dati = QGuiApplication::clipboard()->mimeData();
+    const QStringList righe = dati->text().split(QLatin1Char('\n'));
+    ASSERT_EQ(righe.size(), 3);  // the heads, the row, the end of the last line
+    EXPECT_TRUE(righe[0].startsWith(QStringLiteral("Nodo\tz [m]\tSpostamento [mm]")));
+    const QStringList celle = righe[1].split(QLatin1Char('\t'));
+    const auto& riga = vista.modello().prospetto().righe[4];
+    for (int c = 0; c < 9; ++c)
+        EXPECT_EQ(celle[c].toDouble(), riga[static_cast<std::size_t>(c)].numero);
+    EXPECT_TRUE(dati->html().contains(QStringLiteral("<table>")));
+}
+
+TEST_F(VistaProspettoTest, CopiesAllOfItWhereNoMoreThanACellIsSelected) {
+    vista.setCurrentIndex(vista.modello().index(3, 3));
+    const std::unique_ptr<QMimeData> dati(vista.copiato());
+    EXPECT_EQ(dati->text().count(QLatin1Char('\n')), 52);
+    vista.clearSelection();
+    QTest::keyClick(&vista, Qt::Key_A, Qt::ControlModifier);
+    const std::unique_ptr<QMimeData> tutto(vista.copiato());
+    EXPECT_EQ(tutto->text(), dati->text());
+}
+
+TEST_F(VistaProspettoTest, CopiesRowsInTheOrderInWhichTheyAreShown) {
+    vista.sortByColumn(0, Qt::DescendingOrder);
+    const std::unique_ptr<QMimeData> dati(vista.copiato());
+    EXPECT_TRUE(dati->text().section(QLatin1Char('\n'), 1, 1).startsWith(QStringLiteral("51\t")));
+}
+
+TEST_F(VistaProspettoTest, GoesBackToTheOrderOfTheTable) {
+    vista.sortByColumn(2, Qt::AscendingOrder);
+    EXPECT_NE(vista.modello().riga(0), 0u);
+    vista.sortByColumn(-1, Qt::AscendingOrder);
+    EXPECT_EQ(vista.modello().riga(0), 0u);
+}
+
+TEST_F(VistaProspettoTest, IsReadCellByCellWithTheHeadsOfRowAndColumn) {
+    auto* letta = QAccessible::queryAccessibleInterface(&vista);
+    ASSERT_TRUE(letta != nullptr && letta->tableInterface() != nullptr);
+    EXPECT_EQ(letta->text(QAccessible::Name), QStringLiteral("Nodi: Fase 2"));
+    auto* cella = letta->tableInterface()->cellAt(4, 3);
+    ASSERT_NE(cella, nullptr);
+    EXPECT_EQ(cella->text(QAccessible::Name), QStringLiteral("Momento %1 kN m/m").arg(testo(4, 3)));
+    ASSERT_EQ(cella->tableCellInterface()->columnHeaderCells().size(), 1);
+    EXPECT_EQ(cella->tableCellInterface()->columnHeaderCells()[0]->text(QAccessible::Name),
+              QStringLiteral("Momento [kN m/m]"));
+}
+
+TEST_F(VistaProspettoTest, HasColumnsThatGrowAndFitAnewInAnotherTable) {
+    const int stretta = vista.columnWidth(2);
+    Prospetto larga = nodi(5);
+    larga.righe[0][2].testo = "-12345678901234567890123456789.00";
+    vista.mostra(larga);
+    EXPECT_GT(vista.columnWidth(2), stretta);
+    const int cresciuta = vista.columnWidth(2);
+    vista.mostra(nodi(5));
+    EXPECT_EQ(vista.columnWidth(2), cresciuta);
+    vista.mostra(Prospetto{});
+    vista.mostra(nodi(5));
+    EXPECT_EQ(vista.columnWidth(2), stretta);
+}
+
+TEST_F(VistaProspettoTest, ExplainsItsColumns) {
+    EXPECT_FALSE(
+        vista.modello().headerData(2, Qt::Horizontal, Qt::ToolTipRole).toString().isEmpty());
+}
+
+TEST_F(VistaProspettoTest, ShowsInGreyWhatIsOfTheWallBefore) {
+    EXPECT_FALSE(vista.modello().data(vista.modello().index(0, 0), Qt::ForegroundRole).isValid());
+    vista.sospendi(true);
+    EXPECT_TRUE(vista.modello().data(vista.modello().index(0, 0), Qt::ForegroundRole).isValid());
+}
+
+}  // namespace
+}  // namespace korven::shell
