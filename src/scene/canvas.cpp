@@ -18,15 +18,16 @@ bool Tela::libero(const Riquadro& posto) const {
                         [&](const Riquadro& uno) { return uno.tocca(posto); });
 }
 
-void Tela::colloca(const Scritta& s) {
+bool Tela::colloca(const Scritta& s, const std::string& parole) {
+    if (parole.empty()) return false;
     Testo testo{.punto = {},
                 .corpo = s.corpo,
                 .grassetto = s.grassetto,
                 .verticale = s.verticale,
-                .testo = s.testo,
+                .testo = parole,
                 .tinta = s.tinta,
                 .piastra = s.piastra,
-                .larghezza = larghezza(s.testo, s.corpo, s.grassetto)};
+                .larghezza = larghezza(parole, s.corpo, s.grassetto)};
     for (const Posto& posto : s.posti) {
         testo.punto = posto.punto;
         testo.ancora = posto.ancora;
@@ -35,15 +36,16 @@ void Tela::colloca(const Scritta& s) {
         if (!libero(r)) continue;
         occupa(r);
         disegna(s.elemento, s.numero, std::move(testo));
-        return;
+        return true;
     }
+    return false;
 }
 
 std::vector<Primitiva> Tela::concludi() {
     std::stable_sort(scritte_.begin(), scritte_.end(),
                      [](const Scritta& a, const Scritta& b) { return a.grado < b.grado; });
     for (const Scritta& s : scritte_)
-        if (!s.testo.empty()) colloca(s);
+        if (!colloca(s, s.testo)) (void)colloca(s, s.inBreve);
     scritte_.clear();
     return std::move(figure_);
 }

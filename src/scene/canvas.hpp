@@ -25,6 +25,7 @@ struct Scritta {
     Elemento elemento = Elemento::nota;
     int numero = 0;
     std::string testo;
+    std::string inBreve = {};  ///< taken where the whole text finds no place
     Tinta tinta;
     bool piastra = true;
     double corpo = 12;
@@ -57,7 +58,7 @@ class Tela {
 
  private:
     [[nodiscard]] bool libero(const Riquadro& posto) const;
-    void colloca(const Scritta& scritta);
+    [[nodiscard]] bool colloca(const Scritta& scritta, const std::string& parole);
 
     Riquadro tutto_;
     const MisuraTesti& misura_;

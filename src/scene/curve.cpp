@@ -159,14 +159,19 @@ class Pannello {
               serie.riempita ? Tratteggio::nessuno : Tratteggio::linee);
     }
 
+    // A peak that is nothing beside the others is the noise of a hinge or of the toe.
     void estremi() {
+        double massimo = 0;
+        for (const Serie& serie : dati_.serie)
+            for (const double v : serie.valori) massimo = std::max(massimo, std::fabs(v));
+        const double trascurabile = 0.005 * massimo;
         for (const Serie& serie : dati_.serie) {
             const auto [minore, maggiore] =
                 std::minmax_element(serie.valori.begin(), serie.valori.end());
             const bool primo = &serie == &dati_.serie.front();
             const bool ultimo = &serie == &dati_.serie.back();
-            if (*maggiore > 0 && (!dati_.fascia || ultimo)) estremo(serie, maggiore);
-            if (*minore < 0 && (!dati_.fascia || primo)) estremo(serie, minore);
+            if (*maggiore > trascurabile && (!dati_.fascia || ultimo)) estremo(serie, maggiore);
+            if (*minore < -trascurabile && (!dati_.fascia || primo)) estremo(serie, minore);
         }
     }
 

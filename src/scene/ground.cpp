@@ -49,12 +49,6 @@ std::string nomeCorto(const DescrizioneStrato& descrizione) {
     return testo.substr(0, testo.find_first_of(",;.|("));
 }
 
-bool tirantiInTerra(const Mostrata& m) {
-    for (int j = 1; j <= m.nTiranti(); ++j)
-        if (m.dati().tipoTirante[j] != project::TipoTirante::trazioneCompressione) return true;
-    return false;
-}
-
 class Terreno {
  public:
     Terreno(const Mostrata& m, const Inquadratura& q, Tela& tela)
@@ -129,30 +123,45 @@ class Terreno {
             }));
     }
 
+    // Whether an anchor runs through the row of a name.
+    [[nodiscard]] bool tirantiVicini(double y) const {
+        for (int j = 1; j <= m_.nTiranti(); ++j) {
+            const double testa = q_.y(m_.dati().profTirante[j]);
+            if (m_.dati().tipoTirante[j] != project::TipoTirante::trazioneCompressione &&
+                y > testa - q_.em && y < testa + caduta * q_.xMonte + q_.em)
+                return true;
+        }
+        return false;
+    }
+
     void nome(const StratoMostrato& s, double y, double alto) {
         const double x = 0.6 * q_.em, corpo = 0.92 * q_.em;
-        const double larga = (tirantiInTerra(m_) ? larghezzaNomi : larghezzaLibera) * q_.xMonte;
-        const std::string testo =
-            accorciato(nomeCorto(s.descrizione), larga - x, corpo, false, tela_.misura());
-        if (testo.empty()) return;
         const bool fuori = y < q_.y(s.tetto) || y > q_.y(s.letto);
-        const double fine = x + tela_.larghezza(testo, corpo) + 0.3 * q_.em;
-        if (fuori)
-            tela_.disegna(
-                Elemento::strato, s.numero,
-                Linea{
-                    {{fine, y}, {larga + 0.6 * q_.em, centro(s, alto)}}, {Ruolo::testoTenue}, 0.8});
+        const auto nome = [&](double larga) {
+            return accorciato(nomeCorto(s.descrizione), larga - x, corpo, false, tela_.misura());
+        };
+        const double stretta = larghezzaNomi * q_.xMonte;
+        const bool libera = !fuori && !tirantiVicini(y);
+        const std::string breve = nome(stretta);
+        const double fine = x + tela_.larghezza(breve, corpo) + 0.3 * q_.em;
+        if (fuori && !breve.empty())
+            tela_.disegna(Elemento::strato, s.numero,
+                          Linea{{{fine, y}, {stretta + 0.6 * q_.em, centro(s, alto)}},
+                                {Ruolo::testoTenue},
+                                0.8});
         tela_.scrivi(
             {.grado = Grado::strato,
              .elemento = Elemento::strato,
              .numero = s.numero,
-             .testo = testo,
+             .testo = libera ? nome(larghezzaLibera * q_.xMonte) : breve,
+             .inBreve = breve,
              .tinta = {Ruolo::testo},
              .corpo = corpo,
              .posti = {{{x, y}, Ancora::sinistra, {Ruolo::fondoStrato, s.descrizione.colore}}}});
     }
 
-    static constexpr double larghezzaNomi = 0.34, larghezzaLibera = 0.66;  // of the uphill side
+    static constexpr double larghezzaNomi = 0.34, larghezzaLibera = 0.7;  // of the uphill side
+    static constexpr double caduta = 0.11;  // of an anchor from its head to its end, of the same
     const Mostrata& m_;
     const Inquadratura& q_;
     Tela& tela_;
