@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <initializer_list>
 #include <vector>
 
 #include "base/translated_texts.hpp"
@@ -45,14 +46,29 @@ std::string strato(const Mostrata& m, double z) {
     return {};
 }
 
-void aggiungi(std::string& testo, std::string_view nome, const std::optional<Letto>& letto,
-              const project::Unita& unita) {
-    if (!letto || !std::isfinite(letto->minimo) || !std::isfinite(letto->massimo)) return;
-    testo.append("  \u00B7  ").append(nome).append(" ");
+// "12.3", of an envelope "-1.5 … 4.5"; empty for no number.
+std::string numeri(const std::optional<Letto>& letto, const project::Unita& unita) {
+    if (!letto || !std::isfinite(letto->minimo) || !std::isfinite(letto->massimo)) return {};
     const std::string minimo = project::numeroMostrato(letto->minimo, 1, unita);
     const std::string massimo = project::numeroMostrato(letto->massimo, 1, unita);
-    if (minimo != massimo) testo.append(minimo).append(" \u2026 ");
-    testo.append(massimo).append(" ").append(unita.mostrata);
+    return minimo == massimo ? massimo : minimo + " \u2026 " + massimo;
+}
+
+// The values of one unit, which is told once.
+struct Valore {
+    std::string_view nome;
+    const std::optional<Letto>& letto;
+};
+void aggiungi(std::string& testo, std::initializer_list<Valore> valori,
+              const project::Unita& unita) {
+    bool detti = false;
+    for (const auto& [nome, letto] : valori) {
+        const std::string scritti = numeri(letto, unita);
+        if (scritti.empty()) continue;
+        testo.append("  \u00B7  ").append(nome).append(" ").append(scritti);
+        detti = true;
+    }
+    if (detti) testo.append(" ").append(unita.mostrata);
 }
 
 }  // namespace
@@ -86,13 +102,17 @@ std::string parole(const Lettura& letta) {
     namespace unita = project::unita;
     using base::traduttore;
     std::string testo = quota(letta.z);
-    aggiungi(testo, "y", letta.y, unita::spostamentoFine);
-    aggiungi(testo, "M", letta.momento, unita::momento);
-    aggiungi(testo, "T", letta.taglio, unita::forza);
-    aggiungi(testo, traduttore("monte"), letta.monte, unita::pressione);
-    aggiungi(testo, traduttore("valle"), letta.valle, unita::pressione);
-    aggiungi(testo, traduttore("acqua"), letta.acqua, unita::pressione);
-    aggiungi(testo, traduttore("pressione netta"), letta.pressione, unita::pressione);
+    aggiungi(testo, {{"y", letta.y}}, unita::spostamentoFine);
+    aggiungi(testo, {{"M", letta.momento}}, unita::momento);
+    aggiungi(testo, {{"T", letta.taglio}}, unita::forza);
+    const std::string monte = traduttore("monte"), valle = traduttore("valle");
+    const std::string acqua = traduttore("acqua"), netta = traduttore("pressione netta");
+    aggiungi(testo,
+             {{monte, letta.monte},
+              {valle, letta.valle},
+              {acqua, letta.acqua},
+              {netta, letta.pressione}},
+             unita::pressione);
     if (!letta.strato.empty()) testo += "  \u00B7  " + letta.strato;
     return testo;
 }

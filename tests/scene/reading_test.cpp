@@ -62,9 +62,12 @@ TEST(Parole, TellValueAndUnitOfEach) {
     letta.strato = "Limo";
     letta.y = Letto{0.0123, 0.0123};
     letta.momento = Letto{-1.5, 4.5};
+    letta.monte = Letto{3, 3};
     letta.valle = Letto{-2, -2};
-    EXPECT_EQ(parole(letta),
-              "4.20 m  ·  y 12.3 mm  ·  M -15.0 … 45.0 kN m  ·  valle -20.0 kN/m²  ·  Limo");
+    EXPECT_EQ(
+        parole(letta),
+        "4.20 m  ·  y 12.3 mm  ·  M -15.0 … 45.0 kN m  ·  monte 30.0  ·  valle -20.0 kN/m²  ·  "
+        "Limo");
 }
 
 }  // namespace

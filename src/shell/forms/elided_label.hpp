@@ -9,7 +9,9 @@ namespace korven::shell {
 /// beginning and its file name stay; of a sentence the end. The whole of it is the tool tip.
 class EtichettaAccorciata : public QLabel {
  public:
-    explicit EtichettaAccorciata(QWidget* genitore) : QLabel(genitore) {
+    /// @param percorsi  false: a stroke is no sign of a path, as in "kN/m"
+    explicit EtichettaAccorciata(QWidget* genitore, bool percorsi = true)
+        : QLabel(genitore), percorsi_(percorsi) {
         setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
         setTextFormat(Qt::PlainText);
         setContentsMargins(8, 0, 8, 0);
@@ -24,10 +26,14 @@ class EtichettaAccorciata : public QLabel {
     void paintEvent(QPaintEvent*) override {
         QPainter pittore(this);
         pittore.setPen(palette().color(foregroundRole()));
-        const auto dove = text().contains(QLatin1Char('/')) ? Qt::ElideMiddle : Qt::ElideRight;
+        const auto dove =
+            percorsi_ && text().contains(QLatin1Char('/')) ? Qt::ElideMiddle : Qt::ElideRight;
         pittore.drawText(contentsRect(), Qt::AlignVCenter | Qt::AlignLeft,
                          fontMetrics().elidedText(text(), dove, contentsRect().width()));
     }
+
+ private:
+    bool percorsi_;
 };
 
 }  // namespace korven::shell

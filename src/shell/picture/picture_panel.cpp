@@ -39,7 +39,7 @@ PannelloFigura::PannelloFigura(VitaProgetto& vita, std::function<void(const QFon
     : QWidget(genitore),
       vita_(vita),
       vista_(new VistaFigura(vita.vivo(), this)),
-      lettura_(new EtichettaAccorciata(this)) {
+      lettura_(new EtichettaAccorciata(this, false)) {
     setObjectName("pannelloFigura");
     copia_ = new QAction(tradotto("Copia figura"), this);
     copia_->setObjectName("copiaFigura");
