@@ -29,6 +29,7 @@ constexpr Posto posti[] = {
     {"salva", 4},
     {"nuovo", 38},
     {"modelli", 38},
+    {"tasti", 42},
 };
 
 }  // namespace

@@ -36,6 +36,7 @@
 #include "shell/results/results_window.hpp"
 #include "shell/run/temp_calc.hpp"
 #include "shell/safety/safety_window.hpp"
+#include "shell/tools/keys_window.hpp"
 #include "shell/tools/pattern_choice.hpp"
 #include "support/delivered_program.hpp"
 #include "support/desktop_bench.hpp"
@@ -184,6 +185,8 @@ void controllaTutte(test::ProgrammaConsegnato& programma) {
     SceltaModello modelli(
         commands::modelli(commands::cartellaEsempi(base::siglaLingua(base::linguaCorrente()))));
     controlla(modelli);
+    FinestraTasti tasti(menu1);
+    controlla(tasti);
     Informazioni informazioni("File corrente: /HOME/ANNA/LAVORI/MURO", nullptr);
     controlla(informazioni);
     for (const std::size_t altri : {0, 2}) {

@@ -7,6 +7,7 @@
 #include "commands/start/example_folders.hpp"
 #include "commands/start/language_change.hpp"
 #include "shell/main/selezling.hpp"
+#include "shell/tools/keys_window.hpp"
 #include "shell/tools/pattern_choice.hpp"
 
 namespace korven::shell {
@@ -17,6 +18,7 @@ void collegaStrumenti(commands::FormeProgramma& forme, base::Dialogo& dialogo,
         const auto sigla = base::siglaLingua(base::linguaCorrente());
         return chiediModello(commands::modelli(commands::cartellaEsempi(sigla)), &principale);
     };
+    forme.tasti = [&principale] { mostraTasti(principale); };
     forme.lingua = [&dialogo, &principale] {
         return commands::cambiaLingua(
             {.dialogo = dialogo, .scegli = [&principale](const auto& codici, int presente) {
