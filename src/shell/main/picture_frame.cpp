@@ -25,6 +25,7 @@ void CorniceFigura::mostra() {
     disponi();
     figura_->show();
     quadro_->raise();
+    figura_->setFocus();
 }
 
 void CorniceFigura::resizeEvent(QResizeEvent*) { disponi(); }

@@ -41,6 +41,7 @@ PannelloFigura::PannelloFigura(VitaProgetto& vita, std::function<void(const QFon
       vista_(new VistaFigura(vita.vivo(), this)),
       lettura_(new EtichettaAccorciata(this, false)) {
     setObjectName("pannelloFigura");
+    setFocusProxy(vista_);
     copia_ = new QAction(tradotto("Copia figura"), this);
     copia_->setObjectName("copiaFigura");
     connect(copia_, &QAction::triggered, vista_, &VistaFigura::copia);

@@ -106,9 +106,9 @@ void VistaFigura::paintEvent(QPaintEvent*) {
     }
     if (hasFocus()) {
         p.setRenderHint(QPainter::Antialiasing, false);
-        p.setPen(QPen(evidenza, 2));
+        p.setPen(evidenza);
         p.setBrush(Qt::NoBrush);
-        p.drawRect(rect().adjusted(1, 1, -1, -1));
+        p.drawRect(rect().adjusted(0, 0, -1, -1));
     }
 }
 
