@@ -24,7 +24,7 @@ std::string nonAmmesso(const std::string& dove) {
     return riempito(traduttore("%1: valore non ammesso"), {dove});
 }
 
-bool numerica(const CampoMaschera& colonna) { return masks::tipoCampo(colonna.tipo).numero; }
+bool numerica(const CampoMaschera& colonna) { return !masks::tipoColonna(colonna.tipo).testo; }
 
 // A row that is typed from left to right is complete when its last number is there. Where cells may
 // stay empty those before it read as 0; else each of them has to be there.

@@ -60,6 +60,16 @@ TEST_F(ValoriInCorso, WaitForTheNumbersOfARowThatIsBeingTyped) {
     EXPECT_EQ(inCorso.impedimento, "riga 3: dati incompleti");
 }
 
+TEST_F(ValoriInCorso, TakeAColumnOfDigitsForNumbersAndOneOfTextForNone) {
+    auto valori = forma(masks::NumeroMaschera::fasi);
+    masks::Maschera maschera = maschere.corrente();
+    for (auto& colonna : maschera.campi) colonna.tipo = "########";
+    valori.testi.back().clear();
+    EXPECT_EQ(conValori(dati, maschera, valori).impedimento, "riga 2: dati incompleti");
+    maschera.campi.back().tipo = "/@";
+    EXPECT_EQ(conValori(dati, maschera, valori).impedimento, "");
+}
+
 TEST_F(ValoriInCorso, ReadAnEmptyCellAs0WhereCellsMayStayEmptyAndTheRowGoesOn) {
     auto valori = forma(masks::NumeroMaschera::strati);
     valori.testi[5].clear();  // cohesion of layer 1
