@@ -28,7 +28,8 @@ commands::FormeProgramma Sessione::forme(const PorteSessione& porte) {
         shell::Informazioni(fileCorrente, &finestra_).exec();
     };
     shell::collegaSezione(tutte, &finestra_, &vita_);
-    shell::collegaMaschere(tutte, dialogo, &finestra_, &vita_, shell::pannelliTabelle(dialogo));
+    shell::collegaMaschere(tutte, dialogo, &finestra_, &vita_,
+                           shell::pannelliTabelle(dialogo, vita_));
     shell::collegaFigura(finestra_, vita_, dialogo, porte.stampante);
     shell::collegaDisegni(tutte, finestra_, dialogo, porte.stampante,
                           [this](const std::string& percorso) {

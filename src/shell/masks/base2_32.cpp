@@ -1,5 +1,6 @@
 #include "shell/masks/base2_32.hpp"
 
+#include <QAbstractButton>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -76,10 +77,14 @@ void Base2_32::keyPressEvent(QKeyEvent* evento) {
 live::ValoriForma Base2_32::valori() const { return {.testi = modello_.valoriDigitati()}; }
 
 void Base2_32::affianca(QWidget* pannello) {
+    const int altro = layout()->totalHeightForWidth(width()) - griglia_->sizeHint().height();
     fila_->addWidget(pannello);
-    // As wide as before, and the panel beside it, as far as the screen goes.
-    const int larghezza = width() + fila_->spacing() + pannello->sizeHint().width();
-    disponi({larghezza, std::max(height(), layout()->minimumSize().height())});
+    for (auto* pulsante : pannello->findChildren<QAbstractButton*>())
+        pulsante->installEventFilter(this);  // Enter presses them as it does those of the form
+    // As wide as before, and the panel beside it at its whole height, as far as the screen goes.
+    const QSize voluta = pannello->sizeHint();
+    disponi({width() + fila_->spacing() + voluta.width(),
+             std::max({height(), layout()->minimumSize().height(), voluta.height() + altro})});
 }
 
 bool Base2_32::scrivi(masks::PostoGriglia posto, std::string_view testo) {

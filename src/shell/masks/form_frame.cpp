@@ -71,7 +71,7 @@ void FormaMaschera::mostraGuida() {
 
 // Without a default button Enter would do nothing on a button that has the focus.
 bool FormaMaschera::eventFilter(QObject* oggetto, QEvent* evento) {
-    auto* pulsante = qobject_cast<QPushButton*>(oggetto);
+    auto* pulsante = qobject_cast<QAbstractButton*>(oggetto);
     if (pulsante != nullptr && evento->type() == QEvent::KeyPress) {
         const int tasto = static_cast<QKeyEvent*>(evento)->key();
         if (tasto == Qt::Key_Return || tasto == Qt::Key_Enter) {

@@ -39,9 +39,9 @@ void mostraForm(masks::Maschere& maschere, base::Dialogo& dialogo, const GuidaFo
     }
     const int capienza = masks::capienza(numero);
     Base2_32 forma(maschera, maschere.valoriTesto(), dialogo, guida, padre, capienza);
-    if (QWidget* accanto = pannello ? pannello(forma, numero) : nullptr) forma.affianca(accanto);
     if (const auto inizio = maschere.inizio()) forma.comincia({inizio->riga, inizio->campo});
-    segui(forma, maschera, numero, vita);
+    segui(forma, maschera, numero, vita);  // first: a panel shows what `vita` makes of the rows
+    if (QWidget* accanto = pannello ? pannello(forma, numero) : nullptr) forma.affianca(accanto);
     if (forma.exec() == QDialog::Accepted) maschere.conferma({}, forma.modello().valoriTesto());
 }
 

@@ -1,13 +1,20 @@
 #include "shell/panels/table_panels.hpp"
 
+#include <memory>
+
+#include "panels/anchor_calculator.hpp"
 #include "shell/masks/base2_32.hpp"
+#include "shell/panels/anchor_panel.hpp"
 #include "shell/panels/layers_panel.hpp"
 
 namespace korven::shell {
 
-PannelloTabella pannelliTabelle(base::Dialogo& dialogo) {
-    return [&dialogo](Base2_32& forma, masks::NumeroMaschera numero) -> QWidget* {
+PannelloTabella pannelliTabelle(base::Dialogo& dialogo, VitaProgetto& vita) {
+    auto ingressi = std::make_shared<panels::IngressiCalcolo>();
+    return [&dialogo, &vita, ingressi](Base2_32& forma, masks::NumeroMaschera numero) -> QWidget* {
         if (numero == masks::NumeroMaschera::strati) return new PannelloStrati(forma, dialogo);
+        if (numero == masks::NumeroMaschera::tiranti)
+            return new PannelloTiranti(forma, vita, *ingressi);
         return nullptr;
     };
 }

@@ -1,0 +1,106 @@
+#include "shell/panels/anchor_panel.hpp"
+
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include "base/filled_text.hpp"
+#include "base/translated_texts.hpp"
+#include "panels/anchor_forces.hpp"
+#include "panels/grid_rows.hpp"
+#include "shell/panels/anchor_fields.hpp"
+#include "shell/panels/force_table.hpp"
+#include "shell/qt_text.hpp"
+
+namespace korven::shell {
+
+namespace {
+
+// Columns of the table of anchors.
+constexpr int rigidezza = 2, pretensione = 3;
+
+QLabel* fareTesto(const char* nome, QWidget* genitore) {
+    auto* testo = new QLabel(genitore);
+    testo->setObjectName(QLatin1String(nome));
+    testo->setWordWrap(true);
+    return testo;
+}
+
+std::string titoloTiri(const masks::ModelloGriglia& griglia) {
+    const int riga = griglia.corrente().riga;
+    const auto tirante = panels::tiranteDellaRiga(griglia, riga);
+    if (tirante && *tirante != riga)
+        return base::riempito(
+            base::traduttore("Tiro della riga %1 in ogni fase (alla conferma sarà il tirante %2)"),
+            {std::to_string(riga), std::to_string(*tirante)});
+    return base::riempito(base::traduttore("Tiro della riga %1 in ogni fase"),
+                          {std::to_string(riga)});
+}
+
+}  // namespace
+
+PannelloTiranti::PannelloTiranti(Base2_32& forma, VitaProgetto& vita,
+                                 panels::IngressiCalcolo& ingressi)
+    : PannelloLaterale(QStringLiteral("pannelloTiranti"), tradotto("Calcolo e tiri")),
+      forma_(forma),
+      vita_(vita),
+      ingressi_(ingressi),
+      campi_(new CampiTirante(ingressi)),
+      titolo_(fareTesto("tiriTitolo", this)),
+      tiri_(new TabellaTiri(this)),
+      perche_(fareTesto("tiriPerche", this)) {
+    riempi(fareCalcolo(), fareTiri());
+    connect(campi_, &CampiTirante::scriviRigidezza, this,
+            [this](const std::string& testo) { scrivi(rigidezza, testo); });
+    connect(campi_, &CampiTirante::scriviPretensione, this,
+            [this](const std::string& testo) { scrivi(pretensione, testo); });
+    connect(campi_, &CampiTirante::digitata, this, &PannelloTiranti::aggiorna);
+    connect(&forma, &FormaMaschera::digitata, this, &PannelloTiranti::aggiorna);
+    connect(&forma, &Base2_32::postoCambiato, this, &PannelloTiranti::aggiorna);
+    connect(&vita, &VitaProgetto::cambiata, this, &PannelloTiranti::aggiorna);
+    aggiorna();
+}
+
+QWidget* PannelloTiranti::fareCalcolo() {
+    auto* calcolo = new QWidget(this);
+    auto* colonna = new QVBoxLayout(calcolo);
+    colonna->setContentsMargins(0, 0, 0, 0);
+    auto* significato = fareTesto("calcoloSignificato", calcolo);
+    significato->setText(
+        tradotto("La tabella vuole la componente orizzontale per metro di paratia: il programma "
+                 "non divide per l'interasse e non moltiplica per il coseno, questi conti sì."));
+    colonna->addWidget(significato);
+    colonna->addWidget(campi_);
+    colonna->addStretch();
+    return calcolo;
+}
+
+QWidget* PannelloTiranti::fareTiri() {
+    auto* tiri = new QWidget(this);
+    auto* colonna = new QVBoxLayout(tiri);
+    colonna->setContentsMargins(0, 0, 0, 0);
+    QFont grassetto = font();
+    grassetto.setBold(true);
+    titolo_->setFont(grassetto);
+    for (QWidget* pezzo : std::initializer_list<QWidget*>{titolo_, perche_, tiri_})
+        colonna->addWidget(pezzo);
+    return tiri;
+}
+
+void PannelloTiranti::scrivi(int colonna, const std::string& testo) {
+    static_cast<void>(forma_.scrivi({forma_.modello().corrente().riga, colonna}, testo));
+}
+
+void PannelloTiranti::aggiorna() {
+    const auto& griglia = forma_.modello();
+    const int riga = griglia.corrente().riga;
+    campi_->perRiga(riga);
+    const std::string titolo = titoloTiri(griglia);
+    titolo_->setText(qt(titolo));
+    tiri_->setAccessibleName(qt(titolo));
+    const auto tiri = panels::tiriDellaRiga(vita_.vivo(), griglia, riga);
+    tiri_->mostra(tiri, ingressi_);
+    perche_->setText(qt(tiri.perche));
+    perche_->setVisible(!tiri.perche.empty());
+}
+
+}  // namespace korven::shell
