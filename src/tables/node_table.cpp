@@ -4,6 +4,7 @@
 
 #include "analysis/node_vector.hpp"
 #include "analysis/vertical_stress.hpp"
+#include "base/code_page.hpp"
 #include "base/filled_text.hpp"
 #include "base/translated_texts.hpp"
 #include "drawings/log/layer_description.hpp"
@@ -122,10 +123,12 @@ std::string perche(const PareteViva& parete, int fase) {
     const int stanno = parete.fasiInEquilibrio();
     if (fase == 0 ? stanno > 0 : fase <= stanno) return {};
     if (!parete.rifiuto.empty()) return parete.rifiuto;
-    if (parete.perche && fase <= parete.perche->fase) return safety::frase(*parete.perche);
+    if (parete.perche && fase <= parete.perche->fase)
+        return base::conMaiuscola(safety::frase(*parete.perche));
     if (parete.perche)
-        return base::riempito(traduttore("non calcolata: nessun equilibrio nella fase %1"),
-                              {std::to_string(parete.perche->fase)});
+        return base::conMaiuscola(
+            base::riempito(traduttore("non calcolata: nessun equilibrio nella fase %1"),
+                           {std::to_string(parete.perche->fase)}));
     return traduttore("Il progetto non ha fasi.");
 }
 

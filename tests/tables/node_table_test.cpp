@@ -56,7 +56,7 @@ TEST(ProspettoNodi, SaysWhyAStageHasNoRows) {
     const Prospetto p = prospettoNodi(parete, 1);
     EXPECT_TRUE(p.righe.empty());
     ASSERT_EQ(p.note.size(), 1u);
-    EXPECT_EQ(p.note[0].find("la paratia è un meccanismo nella fase 1"), 0u) << p.note[0];
+    EXPECT_EQ(p.note[0].find("La paratia è un meccanismo nella fase 1"), 0u) << p.note[0];
 }
 
 TEST(ProspettoNodi, OfAnEmptyProjectSaysWhyNothingIsComputed) {
@@ -84,7 +84,7 @@ TEST(ProspettoInviluppo, HoldsTheSmallestAndTheLargestOfAllStages) {
 TEST(Perche, OfAStageAfterTheOneThatFallsNamesThatOne) {
     project::DatiProgetto dati = test::leggiMuro(std::string(KORVEN_WALLS) + "/meccanismo.kvd");
     test::ripetiFase(dati, 0);
-    EXPECT_EQ(perche(live::calcola(dati), 2), "non calcolata: nessun equilibrio nella fase 1");
+    EXPECT_EQ(perche(live::calcola(dati), 2), "Non calcolata: nessun equilibrio nella fase 1");
 }
 
 }  // namespace

@@ -42,7 +42,7 @@ TEST(ProspettoFasi, TellsWhichStageFallsAndThatTheLaterOnesAreNotComputed) {
     EXPECT_EQ(p.righe[0][3].testo, "-");
     EXPECT_EQ(p.righe[1][1].testo, "non calcolata");
     ASSERT_EQ(p.note.size(), 1u);
-    EXPECT_EQ(p.note[0].find("la paratia è un meccanismo nella fase 1"), 0u) << p.note[0];
+    EXPECT_EQ(p.note[0].find("La paratia è un meccanismo nella fase 1"), 0u) << p.note[0];
 }
 
 TEST(ProspettoFasi, OfACurveThatIsZeroHasNoDepth) {
