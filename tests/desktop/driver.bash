@@ -30,7 +30,7 @@ trap end EXIT
 
 # A user who has never started the program, and a program folder that was never used.
 cp -r "$1" "$work/bin"
-rm -f "$work/bin/language.cfg" "$work/bin/path"
+rm -f "$work/bin/language.cfg" "$work/bin/path" "$work/bin/recenti"
 mkdir -m 700 "$work/home"
 mkdir "$work/lavori"
 export HOME=$work/home XDG_CONFIG_HOME=$work/home/config XDG_DATA_HOME=$work/home/data

@@ -40,7 +40,7 @@ void DelegatoIntestato::paint(QPainter* pittore, const QStyleOptionViewItem& opz
     if (forma_.margineSinistro > 0)
         orna(*pittore,
              {opzioni.rect.left() + margine, spazio.top(), forma_.margineSinistro, spazio.height()},
-             indice);
+             indice, scelta);
     pittore->setPen(sfondo.palette.color(scelta ? QPalette::HighlightedText : QPalette::Text));
     const QFont alto = grassetto(opzioni.font);
     pittore->setFont(alto);

@@ -26,8 +26,9 @@ class DelegatoIntestato : public QStyledItemDelegate {
  protected:
     /// Paints into the margin at the left.
     /// @param margine  of the item, as high as heading and text
+    /// @param scelta   the item is shown as the selected one
     virtual void orna(QPainter& /*pittore*/, const QRect& /*margine*/,
-                      const QModelIndex& /*indice*/) const {}
+                      const QModelIndex& /*indice*/, bool /*scelta*/) const {}
 
  private:
     [[nodiscard]] QRect dentro(const QRect& voce) const;

@@ -38,12 +38,13 @@ DelegatoOsservazioni::DelegatoOsservazioni(QObject* padre)
           {.titolo = datoPeso, .testo = Qt::DisplayRole, .righe = 0, .margineSinistro = lato},
           padre) {}
 
-void DelegatoOsservazioni::orna(QPainter& pittore, const QRect& margine,
-                                const QModelIndex& indice) const {
+void DelegatoOsservazioni::orna(QPainter& pittore, const QRect& margine, const QModelIndex& indice,
+                                bool scelta) const {
     const Segno segno = segnoDi(static_cast<review::Peso>(indice.data(datoNumeroPeso).toInt()));
     const bool scuro = QGuiApplication::palette().color(QPalette::Base).lightness() < 128;
-    icona(segno.icona, scuro ? segno.scuro : segno.chiaro)
-        .paint(&pittore, QRect(margine.topLeft(), QSize(lato, lato)));
+    const QIcon figura = scelta ? icona(segno.icona, QPalette::HighlightedText)
+                                : icona(segno.icona, scuro ? segno.scuro : segno.chiaro);
+    figura.paint(&pittore, QRect(margine.topLeft(), QSize(lato, lato)));
 }
 
 }  // namespace korven::shell

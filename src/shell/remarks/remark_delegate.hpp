@@ -16,7 +16,8 @@ class DelegatoOsservazioni : public DelegatoIntestato {
     explicit DelegatoOsservazioni(QObject* padre);
 
  protected:
-    void orna(QPainter& pittore, const QRect& margine, const QModelIndex& indice) const override;
+    void orna(QPainter& pittore, const QRect& margine, const QModelIndex& indice,
+              bool scelta) const override;
 };
 
 }  // namespace korven::shell

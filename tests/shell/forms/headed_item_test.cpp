@@ -50,7 +50,8 @@ TEST_F(VoceIntestata, ShowsNoMoreLinesThanAskedFor) {
 TEST_F(VoceIntestata, LeavesTheMarginAtTheLeftToItsOrnament) {
     struct Ornato : DelegatoIntestato {
         using DelegatoIntestato::DelegatoIntestato;
-        void orna(QPainter& pittore, const QRect& margine, const QModelIndex&) const override {
+        void orna(QPainter& pittore, const QRect& margine, const QModelIndex&,
+                  bool) const override {
             pittore.fillRect(margine, Qt::green);
             visti.push_back(margine);
         }
