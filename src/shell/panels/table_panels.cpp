@@ -6,6 +6,7 @@
 #include "shell/masks/base2_32.hpp"
 #include "shell/panels/anchor_panel.hpp"
 #include "shell/panels/layers_panel.hpp"
+#include "shell/panels/stage_panel.hpp"
 
 namespace korven::shell {
 
@@ -15,6 +16,7 @@ PannelloTabella pannelliTabelle(base::Dialogo& dialogo, VitaProgetto& vita) {
         if (numero == masks::NumeroMaschera::strati) return new PannelloStrati(forma, dialogo);
         if (numero == masks::NumeroMaschera::tiranti)
             return new PannelloTiranti(forma, vita, *ingressi);
+        if (numero == masks::NumeroMaschera::fasi) return new PannelloFasi(forma, vita);
         return nullptr;
     };
 }

@@ -1,0 +1,72 @@
+#include "panels/stage_words.hpp"
+
+#include <cassert>
+
+#include "base/filled_text.hpp"
+#include "base/number_text.hpp"
+#include "base/translated_texts.hpp"
+#include "equilibrium/extremes.hpp"
+#include "panels/grid_rows.hpp"
+#include "project/units.hpp"
+#include "safety/words.hpp"
+
+namespace korven::panels {
+
+namespace {
+
+using base::riempito;
+using base::traduttore;
+
+std::string conUnita(double conservato, const project::Unita& unita) {
+    return base::testoDecimali(project::mostrato(unita, conservato), 1) + " " +
+           std::string(unita.mostrata);
+}
+
+std::string con(const char* chiave, const equilibrium::Estremo& e, const project::Unita& unita) {
+    return riempito(traduttore(chiave), {conUnita(e.valore, unita), safety::metri(e.z)});
+}
+
+std::string tiri(const equilibrium::FaseEquilibrio& fase) {
+    std::string testo;
+    for (std::size_t i = 0; i < fase.tiri.size(); ++i) {
+        testo += testo.empty() ? "; " + traduttore("tiri") + ": " : ", ";
+        testo += std::to_string(i + 1) + ": " + conUnita(fase.tiri[i], project::unita::forza);
+    }
+    return testo;
+}
+
+std::string cheSta(const live::PareteViva& parete, const equilibrium::FaseEquilibrio& fase) {
+    const auto e = equilibrium::estremi(fase, parete.h);
+    return riempito(traduttore("la fase %1 sta"), {std::to_string(fase.fase)}) + ": " +
+           con("spostamento massimo %1 a %2 m", e.spostamento, project::unita::spostamentoFine) +
+           ", " + con("momento %1 a %2 m", e.momento(), project::unita::momento) + ", " +
+           con("taglio %1 a %2 m", e.taglio, project::unita::forza) + tiri(fase);
+}
+
+}  // namespace
+
+std::string paroleFase(const live::PareteViva& parete, int fase) {
+    assert(fase >= 1 && fase <= parete.dati.nFasi);
+    if (const auto* calcolata = parete.fase(fase)) return cheSta(parete, *calcolata);
+    const std::string perche = parete.perche ? safety::inBreve(*parete.perche) : parete.rifiuto;
+    const int cede = parete.fasiInEquilibrio() + 1;
+    if (parete.fasi.empty() || fase == cede) return perche;
+    return riempito(traduttore("la fase %1 non è calcolata"), {std::to_string(fase)}) + ": " +
+           perche;
+}
+
+FaseDellaRiga faseDellaRiga(const live::ProgettoVivo& vivo, const masks::ModelloGriglia& griglia,
+                            int riga) {
+    if (!vivo.aperto()) return {};
+    const auto fase = rigaConDati(griglia, riga);
+    if (!fase) return {{}, traduttore("la riga è vuota")};
+    const bool mostrata = *fase <= vivo.parete().dati.nFasi;
+    if (vivo.impedimento().empty())
+        return mostrata ? FaseDellaRiga{fase, paroleFase(vivo.parete(), *fase)} : FaseDellaRiga{};
+    const std::string perche =
+        traduttore("come era prima di ciò che si scrive") + " (" + vivo.impedimento() + ")";
+    if (!mostrata) return {{}, vivo.impedimento()};
+    return {fase, perche + ": " + paroleFase(vivo.parete(), *fase)};
+}
+
+}  // namespace korven::panels

@@ -1,0 +1,91 @@
+// The panel beside the table of stages, in the form as the program opens it.
+
+#include "shell/panels/stage_panel.hpp"
+
+#include <gtest/gtest.h>
+
+#include <QLabel>
+
+#include "support/panel_bench.hpp"
+#include "support/wall_builder.hpp"
+
+namespace korven::shell {
+namespace {
+
+class PannelloDelleFasi : public test::BancoPannelli {
+ protected:
+    void SetUp() override { progetto(muro()); }
+    static project::DatiProgetto muro() {
+        return test::muro().lungo(10).fase({.scavo = 1}).fase({.scavo = 3}).dati();
+    }
+    void apri(const std::function<void()>& azione) {
+        apriMaschera(masks::NumeroMaschera::fasi, azione);
+    }
+    SchizzoFase& schizzo() { return controllo<SchizzoFase>("schizzoFase"); }
+    std::string parole() { return controllo<QLabel>("paroleFase").text().toStdString(); }
+};
+
+TEST_F(PannelloDelleFasi, ShowsTheStageOfTheRowInUse) {
+    apri([&] {
+        EXPECT_EQ(schizzo().fase(), 1);
+        EXPECT_EQ(parole(), panels::paroleFase(live::calcola(muro()), 1));
+        cursore(2, 1);
+        EXPECT_EQ(schizzo().fase(), 2);
+        EXPECT_EQ(parole(), panels::paroleFase(live::calcola(muro()), 2));
+        EXPECT_EQ(schizzo().accessibleName().toStdString(), parole());
+        cursore(3, 1);
+        EXPECT_FALSE(schizzo().fase());
+        EXPECT_EQ(parole(), "la riga è vuota");
+    });
+}
+
+TEST_F(PannelloDelleFasi, FollowsWhatIsTyped) {
+    apri([&] {
+        cursore(2, 1);
+        const QImage prima = schizzo().grab().toImage();
+        QTest::keyClicks(&griglia(), "4");
+        auto dati = muro();
+        dati.profFase[2] = 4;
+        EXPECT_EQ(parole(), panels::paroleFase(live::calcola(dati), 2));
+        EXPECT_NE(schizzo().grab().toImage(), prima);
+    });
+}
+
+TEST_F(PannelloDelleFasi, KeepsTheLastSketchAndSaysWhatIsInTheWay) {
+    apri([&] {
+        cursore(2, 4);
+        QTest::keyClick(&griglia(), Qt::Key_Backspace);
+        QTest::keyClick(&griglia(), Qt::Key_Backspace);
+        EXPECT_EQ(schizzo().fase(), 2);
+        EXPECT_TRUE(parole().starts_with(
+            "come era prima di ciò che si scrive (riga 2: dati incompleti): la fase 2 sta"))
+            << parole();
+        cursore(3, 1);
+        QTest::keyClicks(&griglia(), "5");
+        EXPECT_FALSE(schizzo().fase());
+        EXPECT_EQ(parole(), "riga 2: dati incompleti");
+    });
+}
+
+TEST_F(PannelloDelleFasi, IsDrawnOnDarkDesktopsToo) {
+    apri([&] {
+        const QColor chiaro = schizzo().grab().toImage().pixelColor(1, 1);
+        QPalette notte;
+        notte.setColor(QPalette::Window, Qt::black);
+        notte.setColor(QPalette::WindowText, Qt::white);
+        schizzo().setPalette(notte);
+        EXPECT_LT(schizzo().grab().toImage().pixelColor(1, 1).lightness(), chiaro.lightness());
+    });
+}
+
+TEST_F(PannelloDelleFasi, TakesNoKeysFromTheGrid) {
+    apri([&] {
+        EXPECT_TRUE(griglia().hasFocus());
+        EXPECT_EQ(schizzo().focusPolicy(), Qt::NoFocus);
+        QTest::mouseClick(&schizzo(), Qt::LeftButton);
+        EXPECT_TRUE(griglia().hasFocus());
+    });
+}
+
+}  // namespace
+}  // namespace korven::shell
