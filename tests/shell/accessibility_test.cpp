@@ -115,6 +115,7 @@ class Accessibilita : public ::testing::Test {
 
 TEST_F(Accessibilita, OfTheFormsThatAMaskDescribes) {
     programma.perOgniMaschera(dialogo, [](QWidget& forma) { controlla(forma); });
+    programma.conPannelliVivi(dialogo, [](QWidget& forma) { controlla(forma); });
     EXPECT_TRUE(dialogo.messaggi.empty());
 }
 

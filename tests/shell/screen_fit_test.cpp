@@ -165,6 +165,7 @@ void controllaSulProgetto(Menu1& menu1) {
 void controllaTutte(test::ProgrammaConsegnato& programma) {
     test::DialogoFinto dialogo;
     programma.perOgniMaschera(dialogo, controlla);
+    programma.conPannelliVivi(dialogo, controlla);
     programma.conPannelloStrati(dialogo, {}, controlla);
     programma.perOgniDialogoStrati(controlla);
     programma.perOgniTipoDiSezione(controlla);

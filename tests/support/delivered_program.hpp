@@ -10,6 +10,7 @@
 #include "shell/panels/hatch_chooser.hpp"
 #include "shell/panels/layer_import.hpp"
 #include "shell/panels/layers_panel.hpp"
+#include "shell/panels/table_panels.hpp"
 #include "shell/section/definej.hpp"
 #include "support/desktop_bench.hpp"
 #include "support/sample_projects.hpp"
@@ -60,6 +61,25 @@ class ProgrammaConsegnato {
         forma.affianca(new shell::PannelloStrati(forma, dialogo, file));
         guarda(forma);
         maschere_.rilasciaForm();
+    }
+
+    /// The forms of anchors and stages with the panels beside them, on the small wall.
+    void conPannelliVivi(base::Dialogo& dialogo, const Vista& guarda) {
+        shell::VitaProgetto vita;
+        project::Progetto = progettoSemplice();
+        project::fileCorrente = "muro.kvd";
+        vita.guarda();
+        const auto pannelli = shell::pannelliTabelle(dialogo, vita);
+        for (const auto numero : {masks::NumeroMaschera::tiranti, masks::NumeroMaschera::fasi}) {
+            masks::preparaMaschera(maschere_, numero, project::Progetto, 0);
+            shell::Base2_32 forma(maschere_.corrente(), maschere_.valoriTesto(), dialogo, {},
+                                  nullptr);
+            forma.affianca(pannelli(forma, numero));
+            guarda(forma);
+            maschere_.rilasciaForm();
+        }
+        project::azzeraProgetto();
+        project::fileCorrente.clear();
     }
 
     /// The dialogs of that panel: the hatch, and layers from a hole that lacks all values.
