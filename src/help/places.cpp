@@ -23,6 +23,8 @@ constexpr Posto posti[] = {
     {"INFORMAZIONI", voceInformazioni},
     {"selezling", voceSelezling},
     {"osservazioni", voceOsservazioni},
+    {"risultati", 36},
+    {"sicurezza", 37},
     {"DefinEJ", 7},
     {"Form1", 19},
     {"apri", 3},

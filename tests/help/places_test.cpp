@@ -30,5 +30,10 @@ TEST(AncoraColonna, CountsTheRowNumbersAsTheFirstField) {
     EXPECT_EQ(ancoraColonna(6), "campo8");
 }
 
+TEST(VoceForma, OfTheWindowsBesideTheMainFormIsThatOfTheirMenuItem) {
+    EXPECT_EQ(voceForma("risultati"), 36);
+    EXPECT_EQ(voceForma("sicurezza"), 37);
+}
+
 }  // namespace
 }  // namespace korven::help
