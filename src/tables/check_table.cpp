@@ -3,13 +3,12 @@
 #include <cmath>
 #include <optional>
 
-#include "analysis/run_closing.hpp"
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
+#include "live/section_checks.hpp"
 #include "project/shown_number.hpp"
 #include "results/structure_checks.hpp"
 #include "safety/margin_words.hpp"
-#include "structure/bending_resistance.hpp"
 #include "structure/section_validity.hpp"
 #include "tables/node_table.hpp"
 
@@ -18,56 +17,17 @@ namespace korven::tables {
 namespace {
 
 using base::traduttore;
+using live::ControlliSezione;
+using live::DoveVerifica;
 using live::PareteViva;
 using results::ConfrontoMomenti;
 using safety::Margine;
 using structure::ConfrontoTaglio;
 namespace unita = project::unita;
 
-// Where a value is: of the report or of the equilibrium.
-struct Dove {
-    int fase = 0;
-    double z = 0;
-};
-
-struct Controlli {
-    std::optional<ConfrontoMomenti> flessione;
-    std::optional<ConfrontoTaglio> taglio;
-    Dove positivo, negativo, diTaglio;
-};
-
-Controlli daRelazione(const results::NumeriRelazione& relazione) {
-    const auto dove = [](const results::NumeroRelazione& n) { return Dove{n.fase, n.z}; };
-    if (relazione.fasi.empty()) return {};
-    return {relazione.flessione, relazione.taglioSezione, dove(relazione.momentoMassimo()),
-            dove(relazione.momentoMinimo()), dove(relazione.fasi.back().taglio)};
-}
-
-Controlli daEquilibrio(const PareteViva& parete) {
-    const auto dove = [](const equilibrium::Estremo& e) { return Dove{e.fase, e.z}; };
-    const equilibrium::Estremi& e = parete.estremi;
-    const analysis::EsitoCorsa estremi{
-        .fasi = {}, .mMaxTotale = e.momentoMassimo.valore, .mMinTotale = e.momentoMinimo.valore};
-    const project::Sezione& sezione = parete.dati.sezione;
-    const auto MRd = structure::resistenze(sezione, parete.dati.sforzoNormale);
-    return {results::verificaMomenti(sezione, analysis::chiusura(MRd, estremi)),
-            results::verificaAlTaglio(sezione, std::fabs(e.taglio.valore)), dove(e.momentoMassimo),
-            dove(e.momentoMinimo), dove(e.taglio)};
-}
-
-// A number with the digits of the report, which cuts where the other tables round.
-Cella cifre(double mostrato) {
-    if (!std::isfinite(mostrato)) return {};
-    return {.testo = base::formattaDecimali(mostrato, 2), .numero = mostrato + 0.0};
-}
-
-// Without a resistance there is no share.
-Cella uso(double progetto, double resistenza) {
-    return resistenza == 0 ? Cella{} : cella(progetto / resistenza, 1, unita::percento);
-}
-
 std::vector<Cella> riga(const project::Unita& u, const char* cosa, double progetto,
-                        double resistenza, const Dove& dove, std::string_view esito, bool fallita) {
+                        double resistenza, const DoveVerifica& dove, std::string_view esito,
+                        bool fallita) {
     const bool nota = dove.fase > 0;
     Cella verdetto = parola(traduttore(esito));
     if (fallita) verdetto.peso = review::Peso::pericolo;
@@ -80,7 +40,7 @@ std::vector<Cella> riga(const project::Unita& u, const char* cosa, double proget
             verdetto};
 }
 
-void flessione(const ConfrontoMomenti& c, const Controlli& controlli, Prospetto& p) {
+void flessione(const ConfrontoMomenti& c, const ControlliSezione& controlli, Prospetto& p) {
     const project::Unita& u = unita::momentoAlMetro;
     p.righe.push_back(riga(u, "Flessione, momento positivo", mostrato(u, c.mdMax),
                            mostrato(u, c.mrPos), controlli.positivo,
@@ -92,7 +52,7 @@ void flessione(const ConfrontoMomenti& c, const Controlli& controlli, Prospetto&
 }
 
 // The report has a sentence for each failure and none for what holds.
-void taglio(const ConfrontoTaglio& c, const Controlli& controlli, Prospetto& p) {
+void taglio(const ConfrontoTaglio& c, const ControlliSezione& controlli, Prospetto& p) {
     const auto aggiungi = [&](const char* cosa, double VRd, bool fallita, const char* rottura) {
         p.righe.push_back(riga(unita::forzaAlMetro, cosa, c.Vsd, VRd, controlli.diTaglio,
                                fallita ? rottura : "Condizioni di sicurezza verificate (taglio)",
@@ -137,6 +97,15 @@ void note(const PareteViva& parete, const Margine& margine, Prospetto& p) {
 
 }  // namespace
 
+Cella cifre(double mostrato) {
+    if (!std::isfinite(mostrato)) return {};
+    return {.testo = base::formattaDecimali(mostrato, 2), .numero = mostrato + 0.0};
+}
+
+Cella uso(double progetto, double resistenza) {
+    return resistenza == 0 ? Cella{} : cella(progetto / resistenza, 1, unita::percento);
+}
+
 Prospetto prospettoVerifiche(const PareteViva& parete, const Margine& margine) {
     Prospetto p{.titolo = traduttore("Verifiche"), .colonne = colonne()};
     if (!parete.sta()) {
@@ -144,8 +113,7 @@ Prospetto prospettoVerifiche(const PareteViva& parete, const Margine& margine) {
         p.note.push_back(traduttore("Nessuna verifica di una paratia che non sta."));
         return p;
     }
-    const Controlli controlli =
-        margine.relazione ? daRelazione(*margine.relazione) : daEquilibrio(parete);
+    const ControlliSezione controlli = live::controlliSezione(parete, &margine);
     if (controlli.flessione) flessione(*controlli.flessione, controlli, p);
     if (controlli.taglio) taglio(*controlli.taglio, controlli, p);
     note(parete, margine, p);

@@ -16,4 +16,10 @@ namespace korven::tables {
 [[nodiscard]] Prospetto prospettoVerifiche(const live::PareteViva& parete,
                                            const safety::Margine& margine);
 
+/// A number with the digits of the report, which cuts where the other tables round.
+[[nodiscard]] Cella cifre(double mostrato);
+
+/// The share of a resistance that is used; nothing without a resistance.
+[[nodiscard]] Cella uso(double progetto, double resistenza);
+
 }  // namespace korven::tables

@@ -1,0 +1,91 @@
+#include "live/section_checks.hpp"
+
+#include <cmath>
+
+#include "analysis/run_closing.hpp"
+#include "structure/bending_resistance.hpp"
+#include "structure/offered_stiffness.hpp"
+#include "structure/partial_factors.hpp"
+#include "structure/section_validity.hpp"
+
+namespace korven::live {
+
+namespace {
+
+using results::ConfrontoMomenti;
+
+structure::MomentiResistenti resistenze(const PareteViva& parete) {
+    if (!sezioneCalcolabile(parete.dati.sezione)) return {};
+    return structure::resistenze(parete.dati.sezione, parete.dati.sforzoNormale);
+}
+
+analysis::ChiusuraRisultati chiusura(const structure::MomentiResistenti& MRd, double massimo,
+                                     double minimo) {
+    return analysis::chiusura(MRd, {.fasi = {}, .mMaxTotale = massimo, .mMinTotale = minimo});
+}
+
+const results::NumeriRelazione* relazione(const safety::Margine* margine) {
+    if (margine == nullptr || !margine->relazione || margine->relazione->fasi.empty())
+        return nullptr;
+    return &*margine->relazione;
+}
+
+ControlliSezione daRelazione(const results::NumeriRelazione& relazione) {
+    const auto dove = [](const auto& n) { return DoveVerifica{n.fase, n.z}; };
+    return {relazione.flessione,
+            relazione.taglioSezione,
+            dove(relazione.momentoMassimo()),
+            dove(relazione.momentoMinimo()),
+            dove(relazione.fasi.back().taglio),
+            true,
+            true};
+}
+
+ControlliSezione daEquilibrio(const PareteViva& parete) {
+    const auto dove = [](const auto& e) { return DoveVerifica{e.fase, e.z}; };
+    const equilibrium::Estremi& e = parete.estremi;
+    const project::Sezione& sezione = parete.dati.sezione;
+    const auto sue = chiusura(resistenze(parete), e.momentoMassimo.valore, e.momentoMinimo.valore);
+    return {results::verificaMomenti(sezione, sue),
+            results::verificaAlTaglio(sezione, std::fabs(e.taglio.valore)),
+            dove(e.momentoMassimo),
+            dove(e.momentoMinimo),
+            dove(e.taglio),
+            false,
+            parete.fasiInEquilibrio() > 0};
+}
+
+}  // namespace
+
+bool sezioneCalcolabile(const project::Sezione& sezione) {
+    return structure::sezioneValida(sezione) && !structure::troppiFerri(sezione);
+}
+
+ControlliSezione controlliSezione(const PareteViva& parete, const safety::Margine* margine) {
+    const auto* sua = relazione(margine);
+    return sua != nullptr ? daRelazione(*sua) : daEquilibrio(parete);
+}
+
+std::vector<FaseNelDominio> fasiNelDominio(const PareteViva& parete,
+                                           const safety::Margine* margine) {
+    std::vector<FaseNelDominio> fasi;
+    if (!sezioneCalcolabile(parete.dati.sezione)) return fasi;
+    const auto MRd = resistenze(parete);
+    const double Nd = structure::fsAzioniSezione * project::newton * parete.dati.sforzoNormale;
+    const auto aggiungi = [&](int k, double massimo, double minimo) {
+        fasi.push_back({k, Nd, results::confrontaMomenti(chiusura(MRd, massimo, minimo))});
+    };
+    if (const auto* sua = relazione(margine)) {
+        int k = 0;
+        for (const auto& fase : sua->fasi)
+            aggiungi(++k, fase.momentoMassimo.valore, fase.momentoMinimo.valore);
+        return fasi;
+    }
+    for (int k = 1; k <= parete.fasiInEquilibrio(); ++k) {
+        const auto estremi = equilibrium::estremi(*parete.fase(k), parete.h);
+        aggiungi(k, estremi.momentoMassimo.valore, estremi.momentoMinimo.valore);
+    }
+    return fasi;
+}
+
+}  // namespace korven::live

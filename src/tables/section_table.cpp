@@ -1,0 +1,160 @@
+#include "tables/section_table.hpp"
+
+#include "base/filled_text.hpp"
+#include "base/number_text.hpp"
+#include "base/translated_texts.hpp"
+#include "live/section_checks.hpp"
+#include "project/field_table.hpp"
+#include "structure/offered_stiffness.hpp"
+#include "structure/partial_factors.hpp"
+#include "structure/section_validity.hpp"
+#include "tables/check_table.hpp"
+
+namespace korven::tables {
+
+namespace {
+
+using base::riempito;
+using base::traduttore;
+using live::ControlliSezione;
+using live::PareteViva;
+using project::DatiProgetto;
+namespace unita = project::unita;
+
+constexpr const char* verificata = "verificata";
+constexpr const char* nonVerificata = "NON verificata";
+
+// As the editors show it.
+std::string ej(double conservata) {
+    return base::testoNumero(mostrato(unita::rigidezzaFlessionale, conservata));
+}
+
+std::string senzaSezione(const project::Sezione& sezione) {
+    if (structure::troppiFerri(sezione))
+        return traduttore("Sezione non calcolabile: troppi ferri.");
+    const auto mancanti = structure::campiMancanti(sezione);
+    if (mancanti.empty()) return traduttore("Sezione non definita.");
+    std::string elenco;
+    for (const auto campo : mancanti)
+        elenco += (elenco.empty() ? "" : ", ") + traduttore(project::campo(campo).cosa);
+    return riempito(traduttore("Sezione non definita. Mancano: %1."), {elenco});
+}
+
+// Beside what the section gives, as a run will take it.
+std::string rigaProgetto(double delProgetto, double dellaSezione) {
+    if (delProgetto == 0)
+        return traduttore("EJ del progetto: 0, il calcolo prende quella della sezione.");
+    const char* testo =
+        delProgetto == dellaSezione
+            ? "EJ del progetto: %1 kN m², uguale."
+            : "EJ del progetto: %1 kN m², diversa: il calcolo chiede quale prendere.";
+    return riempito(traduttore(testo), {ej(delProgetto)});
+}
+
+std::vector<std::string> righe(const DatiProgetto& dati) {
+    if (!live::sezioneCalcolabile(dati.sezione)) return {senzaSezione(dati.sezione)};
+    std::vector<std::string> righe;
+    if (const auto EJ = structure::rigidezzaOfferta(dati.sezione)) {
+        righe.push_back(riempito(traduttore("EJ della sezione: %1 kN m²"), {ej(*EJ)}));
+        righe.push_back(rigaProgetto(dati.rigidezzaEJ, *EJ));
+    } else {
+        righe.push_back(traduttore("EJ della sezione: nessun numero."));
+    }
+    const double Nd = structure::fsAzioniSezione * dati.sforzoNormale;
+    righe.push_back(riempito(traduttore("Sforzo normale di progetto Nd: %1 kN/m"),
+                             {cifre(mostrato(unita::forzaAlMetro, Nd)).testo}));
+    return righe;
+}
+
+// Symbols, since there is little room beside the sketch.
+std::vector<Cella> riga(const char* simbolo, const project::Unita& u, bool nota, double progetto,
+                        double resistenza, bool fallita) {
+    std::vector<Cella> celle{parola(std::string(simbolo) + " " + traParentesi(u)),
+                             nota ? cifre(progetto) : Cella{}, cifre(resistenza),
+                             nota ? uso(progetto, resistenza) : Cella{}, Cella{}};
+    if (!nota) return celle;
+    celle.back() = parola(traduttore(fallita ? nonVerificata : verificata));
+    if (fallita) celle.back().peso = review::Peso::pericolo;
+    return celle;
+}
+
+void flessione(const ControlliSezione& controlli, Prospetto& p) {
+    const auto& c = *controlli.flessione;
+    const project::Unita& u = unita::momentoAlMetro;
+    const auto aggiungi = [&](const char* simbolo, bool agisce, double Md, double MRd,
+                              bool fallita) {
+        p.righe.push_back(riga(simbolo, u, agisce, mostrato(u, Md), mostrato(u, MRd), fallita));
+    };
+    aggiungi("M+", controlli.conAzioni, c.mdMax, c.mrPos, c.fallitaPos());
+    aggiungi("M−", controlli.conAzioni && c.negativo, c.mdMin, c.mrNeg, c.fallitaNeg());
+}
+
+void taglio(const ControlliSezione& controlli, Prospetto& p) {
+    const auto& c = *controlli.taglio;
+    const auto aggiungi = [&](const char* simbolo, double VRd, bool fallita) {
+        p.righe.push_back(
+            riga(simbolo, unita::forzaAlMetro, controlli.conAzioni, c.Vsd, VRd, fallita));
+    };
+    aggiungi("V, VRd2", c.Vrd2, c.rotturaBielle());
+    aggiungi("V, VRd3", c.Vrd3, c.rotturaArmatura());
+}
+
+std::vector<Colonna> colonne() {
+    return {colonnaParole("Verifica", "Che cosa si verifica, per metro di paratia"),
+            colonna(unita::nessuna, "Di progetto",
+                    "Valore di progetto: il massimo di calcolo per il coefficiente delle azioni"),
+            colonna(unita::nessuna, "Resistenza", "Resistenza di progetto della sezione"),
+            colonna(unita::percento, "Sfruttamento", "Valore di progetto diviso per la resistenza"),
+            colonnaParole("Esito", "Verdetto, con le parole della relazione")};
+}
+
+std::string origine(const PareteViva& parete, const ControlliSezione& controlli) {
+    if (controlli.dellaRelazione) return traduttore("Azioni della relazione.");
+    if (!controlli.conAzioni)
+        return traduttore("Azioni non note: la parete non è calcolata o non sta.");
+    if (parete.sta()) return traduttore("Azioni dell'equilibrio certo.");
+    return riempito(traduttore("Azioni dell'equilibrio certo, fino alla fase %1."),
+                    {std::to_string(parete.fasiInEquilibrio())});
+}
+
+}  // namespace
+
+QuadroSezione quadroSezione(const DatiProgetto& dati, const PareteViva& parete,
+                            const safety::Margine* margine) {
+    QuadroSezione q;
+    q.righe = righe(dati);
+    q.verifiche = {.titolo = traduttore("Verifiche"), .colonne = colonne()};
+    if (!live::sezioneCalcolabile(dati.sezione)) return q;
+    const ControlliSezione controlli = live::controlliSezione(parete, margine);
+    if (controlli.flessione) flessione(controlli, q.verifiche);
+    if (controlli.taglio) taglio(controlli, q.verifiche);
+    q.verifiche.note.push_back(origine(parete, controlli));
+    return q;
+}
+
+Prospetto prospettoDominio(const PareteViva& parete, const safety::Margine* margine,
+                           const std::vector<structure::PuntoDominio>& dominio) {
+    Prospetto p{.titolo = traduttore("Dominio N–M"),
+                .colonne = {
+                    colonna(unita::nessuna, "Fase", "Fase di scavo"),
+                    colonnaSimbolo(unita::forzaAlMetro, "Nd", "Sforzo normale di progetto"),
+                    colonnaSimbolo(unita::momentoAlMetro, "Md max", "Momento di progetto maggiore"),
+                    colonnaSimbolo(unita::momentoAlMetro, "Md min", "Momento di progetto minore"),
+                    colonnaParole("Esito", "Verdetto, con le parole della relazione"),
+                }};
+    for (const auto& fase : live::fasiNelDominio(parete, margine)) {
+        Cella esito = parola(traduttore(fase.dentro() ? verificata : nonVerificata));
+        if (!fase.dentro()) esito.peso = review::Peso::pericolo;
+        p.righe.push_back({cella(fase.fase),
+                           cifre(mostrato(unita::forzaAlMetro, fase.Nd / project::newton)),
+                           cifre(mostrato(unita::momentoAlMetro, fase.momenti.mdMax)),
+                           cifre(mostrato(unita::momentoAlMetro, fase.momenti.mdMin)), esito});
+    }
+    if (dominio.empty()) return p;
+    const auto kN = [](double N) { return base::testoDecimali(N / project::newtonKilonewton, 0); };
+    p.note.push_back(riempito(traduttore("Nd va da %1 kN/m (trazione) a %2 kN/m (compressione)."),
+                              {kN(dominio.front().Nd), kN(dominio.back().Nd)}));
+    return p;
+}
+
+}  // namespace korven::tables
