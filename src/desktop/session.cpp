@@ -5,6 +5,7 @@
 #include "shell/help/porta.hpp"
 #include "shell/main/informazioni.hpp"
 #include "shell/masks/form_opening.hpp"
+#include "shell/panels/section_panel.hpp"
 #include "shell/panels/table_panels.hpp"
 #include "shell/pens/printer_setup.hpp"
 #include "shell/picture/live_picture.hpp"
@@ -27,7 +28,7 @@ commands::FormeProgramma Sessione::forme(const PorteSessione& porte) {
     tutte.informazioni = [this](const std::string& fileCorrente) {
         shell::Informazioni(fileCorrente, &finestra_).exec();
     };
-    shell::collegaSezione(tutte, &finestra_, &vita_);
+    shell::collegaSezione(tutte, &finestra_, &vita_, shell::pannelloSezione(vita_, dialogo));
     shell::collegaMaschere(tutte, dialogo, &finestra_, &vita_,
                            shell::pannelliTabelle(dialogo, vita_));
     shell::collegaFigura(finestra_, vita_, dialogo, porte.stampante);

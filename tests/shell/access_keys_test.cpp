@@ -93,6 +93,11 @@ TEST_P(TastiDiScelta, DifferBetweenTheLayersAndTheirPanelAndWithinItsDialogs) {
         [](const QWidget& finestra) { EXPECT_GE(tastiDi(finestra), 6U); });
 }
 
+TEST_P(TastiDiScelta, DifferBetweenTheSectionAndItsPanelAndWithinItsDialogs) {
+    test::ProgrammaConsegnato::conPannelloSezione(
+        dialogo, [](const QWidget& finestra) { EXPECT_GE(tastiDi(finestra), 4U); });
+}
+
 TEST_P(TastiDiScelta, DifferWithinTheOtherForms) {
     project::Sezione sezione;
     bool modificato = false;

@@ -124,6 +124,10 @@ TEST_F(Accessibilita, OfThePanelOfTheLayersAndItsDialogs) {
     test::ProgrammaConsegnato::perOgniDialogoStrati([](QWidget& finestra) { controlla(finestra); });
 }
 
+TEST_F(Accessibilita, OfThePanelOfTheSectionAndItsDialogs) {
+    test::ProgrammaConsegnato::conPannelloSezione(dialogo, [](QWidget& f) { controlla(f); });
+}
+
 TEST_F(Accessibilita, OfTheSectionFormInEachOfItsTypes) {
     test::ProgrammaConsegnato::perOgniTipoDiSezione([](QWidget& forma) { controlla(forma); });
 }

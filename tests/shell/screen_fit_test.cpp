@@ -169,6 +169,7 @@ void controllaTutte(test::ProgrammaConsegnato& programma) {
     programma.conPannelloStrati(dialogo, {}, controlla);
     programma.perOgniDialogoStrati(controlla);
     programma.perOgniTipoDiSezione(controlla);
+    programma.conPannelloSezione(dialogo, controlla);
     DialoghiEditacfg porte;
     controlla(*std::make_unique<Editacfg>(porte, dialogo, nullptr));
     controlla(*std::make_unique<ConfStampa>(QStringList{"Courier New", "Arial"},

@@ -5,15 +5,20 @@
 #include "base/folders/program_folder.hpp"
 #include "drawings/hatch_library.hpp"
 #include "masks/editing.hpp"
+#include "shell/live/live_view.hpp"
 #include "shell/masks/base1.hpp"
 #include "shell/masks/base2_32.hpp"
 #include "shell/panels/hatch_chooser.hpp"
 #include "shell/panels/layer_import.hpp"
 #include "shell/panels/layers_panel.hpp"
+#include "shell/panels/profile_chooser.hpp"
+#include "shell/panels/profile_entry.hpp"
+#include "shell/panels/section_panel.hpp"
 #include "shell/panels/table_panels.hpp"
 #include "shell/section/definej.hpp"
 #include "support/desktop_bench.hpp"
 #include "support/sample_projects.hpp"
+#include "support/sample_sections.hpp"
 
 namespace korven::test {
 
@@ -93,6 +98,34 @@ class ProgrammaConsegnato {
         shell::ImportaStrati importo(exchange::FileStrati(ags), {{"3", "18"}}, "scavo.ags",
                                      nullptr);
         guarda(importo);
+    }
+
+    /// The same with the panel beside it, a whole section in it, and the dialogs of that panel.
+    static void conPannelloSezione(base::Dialogo& dialogo, const Vista& guarda) {
+        project::Progetto = progettoSemplice();
+        project::Progetto.rigidezzaEJ = 1234;
+        project::fileCorrente = "/muro.kvd";
+        for (const auto& sezione : {structure::diaframmaSimmetrico(), structure::paliTubolari(),
+                                    structure::palancola(), structure::paliArmati()}) {
+            project::Progetto.sezione = sezione;
+            if (sezione.tipoPaliArmati)
+                project::Progetto.sezione.armDiamStaffe = project::Progetto.sezione.armPassoStaffe =
+                    1;
+            shell::VitaProgetto vita;
+            vita.guarda();
+            bool modificato = false;
+            shell::DefinEJ forma(project::Progetto.sezione, modificato, nullptr);
+            forma.affianca(shell::pannelloSezione(vita, dialogo)(forma));
+            guarda(forma);
+        }
+        shell::ScegliProfilo scelta(project::Parte::diaframma, structure::diaframmaSimmetrico(),
+                                    masks::campoSezione(&project::Sezione::diametroMonte), dialogo,
+                                    nullptr);
+        guarda(scelta);
+        shell::NuovoProfilo nuovo(project::Parte::palancola, structure::palancola(), nullptr);
+        guarda(nuovo);
+        project::Progetto = {};
+        project::fileCorrente.clear();
     }
 
     /// The form of the section in each of its types.

@@ -82,7 +82,9 @@ DefinEJ::DefinEJ(project::Sezione& sezione, bool& modificato, QWidget* padre)
     setProperty("contestoGuida", help::contestoGuida(commands::voceMenu("EditRigidezza").guida));
     auto* colonna = new QVBoxLayout(this);
     area_ = new ParteScorrevole(fareTutto(), this);
-    colonna->addWidget(area_, 1);
+    fila_ = new QHBoxLayout;
+    fila_->addWidget(area_, 1);
+    colonna->addLayout(fila_, 1);
     colonna->addWidget(fareStriscia());
     colonna->addWidget(pulsantiConferma(*this, [this] {
         modello_.conferma();
@@ -96,6 +98,22 @@ DefinEJ::DefinEJ(project::Sezione& sezione, bool& modificato, QWidget* padre)
     mostraTipo();
     opzioni_[indice(modello_.tipo())]->setFocus();
     entraOpzioni();
+}
+
+void DefinEJ::affianca(QWidget* pannello) {
+    fila_->addWidget(pannello);
+    // Where the screen is too narrow for both, the fields scroll.
+    const QMargins bordi = layout()->contentsMargins();
+    const int resta = misuraMassima(*this).width() - bordi.left() - bordi.right() -
+                      fila_->spacing() - pannello->minimumSizeHint().width();
+    area_->setMinimumWidth(std::min(area_->minimumSizeHint().width(), resta));
+    prendiMisura(*this, layout()->sizeHint());
+}
+
+void DefinEJ::prendi(const std::string& nome, const masks::SezioneEditata::Testi& testi) {
+    if (testi.empty()) return;
+    modello_.scrivi(nome, testi);
+    mostraTornato(testi.front().first);
 }
 
 void DefinEJ::comincia(std::size_t campo) {
@@ -297,9 +315,11 @@ bool DefinEJ::eventFilter(QObject* controllo, QEvent* evento) {
     return QDialog::eventFilter(controllo, evento);
 }
 
-void collegaSezione(commands::FormeProgramma& forme, QWidget* padre, VitaProgetto* vita) {
-    forme.sezioneDa = [padre, vita](std::size_t campo) {
+void collegaSezione(commands::FormeProgramma& forme, QWidget* padre, VitaProgetto* vita,
+                    const PannelloAccanto& pannello) {
+    forme.sezioneDa = [=](std::size_t campo) {
         DefinEJ forma(project::Progetto.sezione, project::modificato, padre);
+        if (pannello) forma.affianca(pannello(forma));
         if (campo < masks::numeroCampiSezione) forma.comincia(campo);
         if (vita != nullptr)
             QObject::connect(&forma, &DefinEJ::digitata, vita,

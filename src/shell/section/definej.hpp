@@ -2,6 +2,7 @@
 
 #include <QDialog>
 #include <array>
+#include <functional>
 #include <optional>
 
 #include "commands/desktop_forms.hpp"
@@ -9,6 +10,7 @@
 
 class QGridLayout;
 class QGroupBox;
+class QHBoxLayout;
 class QLineEdit;
 class QRadioButton;
 class QStackedWidget;
@@ -34,8 +36,19 @@ class DefinEJ : public QDialog {
     /// without, for a field of a type that is not chosen.
     void comincia(std::size_t campo);
 
+    /// Puts a panel beside the fields, as far as the screen has room; the tabulator comes to it
+    /// after the buttons.
+    void affianca(QWidget* pannello);
+
     /// The section as it stands in the form at this moment.
     [[nodiscard]] project::Sezione letta() const { return modello_.letta(); }
+    [[nodiscard]] project::Parte tipo() const { return modello_.tipo(); }
+    /// The field that had the cursor last; `SezioneEditata::sceltaTipo` for the choice of types.
+    [[nodiscard]] std::size_t campo() const { return modello_.dove(); }
+    /// Writes several fields of the type chosen and of the materials, which Ctrl+Z takes back at
+    /// once, and goes to the first of them.
+    /// @param nome  of the step, translated
+    void prendi(const std::string& nome, const masks::SezioneEditata::Testi& testi);
 
  signals:
     /// `letta` is another section than before.
@@ -65,14 +78,20 @@ class DefinEJ : public QDialog {
     std::array<QRadioButton*, 4> opzioni_{};
     std::array<VistaSchizzo*, 4> schizzi_{};
     std::array<QLineEdit*, masks::numeroCampiSezione> campi_{};
+    QHBoxLayout* fila_ = nullptr;  // of the fields and the panel
     QStackedWidget* riquadri_ = nullptr;
     ParteScorrevole* area_ = nullptr;  // of the fields
     StrisciaAiuto* aiuto_ = nullptr;
     bool tornando_ = false;  // what is shown follows the model, and the focus that moves is its own
 };
 
+/// Makes the panel that goes beside the section.
+using PannelloAccanto = std::function<QWidget*(DefinEJ& forma)>;
+
 /// Plugs the form of the section of the open project into its command.
 /// @param vita  told the section that stands in the form at each change
-void collegaSezione(commands::FormeProgramma& forme, QWidget* padre, VitaProgetto* vita = nullptr);
+/// @param pannello  may be empty
+void collegaSezione(commands::FormeProgramma& forme, QWidget* padre, VitaProgetto* vita = nullptr,
+                    const PannelloAccanto& pannello = {});
 
 }  // namespace korven::shell

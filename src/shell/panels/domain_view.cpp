@@ -1,0 +1,49 @@
+#include "shell/panels/domain_view.hpp"
+
+#include <QPainter>
+#include <utility>
+
+#include "scene/domain.hpp"
+#include "shell/qt_text.hpp"
+
+namespace korven::shell {
+
+namespace {
+
+scene::Rgb rgb(const QColor& colore) {
+    const auto parte = [](int c) { return static_cast<std::uint8_t>(c); };
+    return {parte(colore.red()), parte(colore.green()), parte(colore.blue())};
+}
+
+}  // namespace
+
+VistaDominio::VistaDominio(QWidget* padre) : QWidget(padre) {
+    setObjectName(QStringLiteral("dominio"));
+    setAccessibleName(tradotto("Dominio N–M"));
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+}
+
+void VistaDominio::mostra(std::vector<structure::PuntoDominio> dominio,
+                          std::vector<live::FaseNelDominio> fasi, std::string senza) {
+    dominio_ = std::move(dominio);
+    fasi_ = std::move(fasi);
+    senza_ = std::move(senza);
+    const QString detto = qt(scene::descrizioneDominio(dominio_, fasi_));
+    setAccessibleDescription(detto.isEmpty() ? qt(senza_) : detto);
+    setToolTip(detto);
+    update();
+}
+
+void VistaDominio::paintEvent(QPaintEvent*) {
+    const device::MisuraTestiQt misura(font());
+    device::PittoreScena pittore(font(),
+                                 scene::tavolozza(rgb(palette().color(QPalette::WindowText)),
+                                                  rgb(palette().color(QPalette::Window))));
+    QPainter p(this);
+    pittore.dipingi(
+        p, scene::scenaDominio(dominio_, fasi_,
+                               {static_cast<double>(width()), static_cast<double>(height())},
+                               misura, senza_));
+}
+
+}  // namespace korven::shell

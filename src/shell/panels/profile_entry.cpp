@@ -1,0 +1,81 @@
+#include "shell/panels/profile_entry.hpp"
+
+#include <QCheckBox>
+#include <QDialogButtonBox>
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include "profiles/catalogue.hpp"
+#include "shell/qt_text.hpp"
+
+namespace korven::shell {
+
+namespace {
+
+QLineEdit* fareRiga(const char* nome, const QString& didascalia, QFormLayout& righe) {
+    auto* riga = new QLineEdit(righe.parentWidget());
+    riga->setObjectName(QLatin1String(nome));
+    riga->setMinimumWidth(riga->fontMetrics().averageCharWidth() * 44);
+    righe.addRow(didascalia, riga);
+    return riga;
+}
+
+QLabel* fareEtichetta(const char* nome, QWidget* padre) {
+    auto* etichetta = new QLabel(padre);
+    etichetta->setObjectName(QLatin1String(nome));
+    etichetta->setTextFormat(Qt::PlainText);
+    etichetta->setWordWrap(true);
+    return etichetta;
+}
+
+}  // namespace
+
+NuovoProfilo::NuovoProfilo(project::Parte tipo, const project::Sezione& sezione, QWidget* padre)
+    : QDialog(padre), tipo_(tipo), sezione_(sezione) {
+    setObjectName(QStringLiteral("NuovoProfilo"));
+    setWindowTitle(tradotto("Nuovo profilo del catalogo"));
+    auto* righe = new QFormLayout(this);
+    righe->setRowWrapPolicy(QFormLayout::DontWrapRows);
+    nome_ = fareRiga("nome", tradotto("&Nome:"), *righe);
+    fonte_ = fareRiga("fonte", tradotto("&Fonte:"), *righe);
+    fonte_->setPlaceholderText(tradotto("tavola del fornitore, edizione, pagina"));
+    materiali_ = new QCheckBox(tradotto("anche i &materiali"), this);
+    materiali_->setObjectName(QStringLiteral("materiali"));
+    materiali_->setChecked(true);
+    righe->addRow(QString(), materiali_);
+    misure_ = fareEtichetta("misure", this);
+    righe->addRow(tradotto("Misure"), misure_);
+    perche_ = fareEtichetta("perche", this);
+    righe->addRow(perche_);
+    auto* pulsanti = new QDialogButtonBox(this);
+    auto* conferma = pulsanti->addButton(tradotto("&Conferma"), QDialogButtonBox::AcceptRole);
+    conferma->setObjectName(QStringLiteral("conferma"));
+    auto* annulla = pulsanti->addButton(tradotto("&Annulla"), QDialogButtonBox::RejectRole);
+    annulla->setObjectName(QStringLiteral("annulla"));
+    righe->addRow(pulsanti);
+    connect(pulsanti, &QDialogButtonBox::accepted, this, [this] { tieni(); });
+    connect(pulsanti, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    connect(materiali_, &QCheckBox::toggled, this, [this] { mostra(); });
+    mostra();
+}
+
+profiles::Profilo NuovoProfilo::profilo() const {
+    auto p = profiles::profiloDi(tipo_, sezione_, materiali_->isChecked());
+    p.nome = nome_->text().trimmed().toStdString();
+    p.fonte = fonte_->text().trimmed().toStdString();
+    return p;
+}
+
+void NuovoProfilo::mostra() { misure_->setText(qt(profiles::misureMostrate(profilo()))); }
+
+void NuovoProfilo::tieni() {
+    const std::string perche = profiles::aggiungiProfilo(profilo());
+    if (perche.empty()) return accept();
+    perche_->setText(qt(perche));
+    (nome_->text().trimmed().isEmpty() || !fonte_->text().trimmed().isEmpty() ? nome_ : fonte_)
+        ->setFocus();
+}
+
+}  // namespace korven::shell
