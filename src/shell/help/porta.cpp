@@ -42,6 +42,12 @@ void aggiungiAncora(const QWidget& controllo, std::vector<std::string>& ancore) 
         if (!nome.empty()) ancore.push_back(help::ancoraCampo(nome));
 }
 
+// The system follows the chain of the windows that belong to one another without an end to it.
+bool appartiene(const QWindow* una, const QWindow* altra) {
+    while (una != nullptr && una != altra) una = una->transientParent();
+    return una != nullptr;
+}
+
 }  // namespace
 
 PortaGuida::PortaGuida(QWidget& principale, base::Dialogo& dialogo)
@@ -96,8 +102,11 @@ void PortaGuida::mostraFinestra() {
 void PortaGuida::aggancia() {
     if (!finestra_) return;
     QWidget* modale = QApplication::activeModalWidget();
-    QWidget* sopra = modale != nullptr && modale->windowHandle() != nullptr ? modale : &principale_;
     finestra_->winId();  // makes the window of the system, which is what belongs to another
+    QWidget* sopra = &principale_;
+    if (modale != nullptr && modale->windowHandle() != nullptr &&
+        !appartiene(modale->windowHandle(), finestra_->windowHandle()))
+        sopra = modale;
     if (sopra_ != sopra) {
         sopra_ = sopra;
         finestra_->windowHandle()->setTransientParent(sopra->windowHandle());

@@ -218,6 +218,19 @@ TEST_F(Porta, StaysUsableWhenFormsAndBoxesComeAndGoWhileItIsOpen) {
     EXPECT_TRUE(aperta());
 }
 
+// As it comes over the window that is used, which may be the help. Two windows that belong to each
+// other never come to an end of it.
+TEST_F(Porta, DoesNotBelongToABoxOverItself) {
+    porta.apri(3);
+    QDialog box(porta.finestra());
+    QDialog altro(&box);
+    box.open();
+    QApplication::processEvents();
+    altro.open();
+    QApplication::processEvents();
+    EXPECT_EQ(porta.finestra()->windowHandle()->transientParent(), principale.windowHandle());
+}
+
 TEST_F(Porta, DoesNotPlugInWhereThereIsNoHelpFile) {
     commands::FormeProgramma forme;
     commands::fileGuida = cartella / "manca.hlp";
