@@ -8,6 +8,7 @@
 
 #include "base/filled_text.hpp"
 #include "base/translated_texts.hpp"
+#include "shell/icons/icon_set.hpp"
 #include "shell/qt_text.hpp"
 
 namespace korven::shell {
@@ -134,7 +135,7 @@ QLabel* CampiTirante::fareConto(const char* nome) {
 }
 
 QPushButton* CampiTirante::farePulsante(const char* nome) {
-    auto* pulsante = new QPushButton(this);
+    auto* pulsante = new QPushButton(icona("calculator"), {}, this);
     pulsante->setObjectName(QLatin1String(nome));
     pulsante->setAutoDefault(false);
     pulsante->setFocusPolicy(Qt::TabFocus);

@@ -13,6 +13,7 @@
 #include "exchange/layer_file.hpp"
 #include "project/output_guard.hpp"
 #include "project/project_data.hpp"
+#include "shell/icons/icon_set.hpp"
 #include "shell/masks/base2_32.hpp"
 #include "shell/panels/hatch_chooser.hpp"
 #include "shell/panels/hatch_picture.hpp"
@@ -43,12 +44,12 @@ PannelloStrati::PannelloStrati(Base2_32& forma, base::Dialogo& dialogo, FileDiSt
     nome_->setTextFormat(Qt::PlainText);
     nome_->setWordWrap(true);
     nome_->setFixedWidth(campione.width());
-    auto* campitura = farePulsante("campitura", tradotto("Ca&mpitura..."),
+    auto* campitura = farePulsante("campitura", "hatch", tradotto("Ca&mpitura..."),
                                    tradotto("Sceglie la campitura dello strato dalle figure"));
     auto* importa =
-        farePulsante("importa", tradotto("Im&porta..."),
+        farePulsante("importa", "import", tradotto("Im&porta..."),
                      tradotto("Strati da un foglio di calcolo (CSV) o da un'indagine (AGS 4)"));
-    auto* esporta = farePulsante("esporta", tradotto("Esporta CS&V..."),
+    auto* esporta = farePulsante("esporta", "export", tradotto("Esporta CS&V..."),
                                  tradotto("Scrive gli strati per un foglio di calcolo"));
     auto* colonna = new QVBoxLayout(this);
     colonna->setContentsMargins(0, 0, 0, 0);
@@ -66,9 +67,9 @@ PannelloStrati::PannelloStrati(Base2_32& forma, base::Dialogo& dialogo, FileDiSt
     mostra();
 }
 
-QPushButton* PannelloStrati::farePulsante(const char* nome, const QString& testo,
-                                          const QString& suggerimento) {
-    auto* fatto = new QPushButton(testo, this);
+QPushButton* PannelloStrati::farePulsante(const char* nome, const char* figura,
+                                          const QString& testo, const QString& suggerimento) {
+    auto* fatto = new QPushButton(icona(figura), testo, this);
     fatto->setObjectName(QLatin1String(nome));
     fatto->setToolTip(suggerimento);
     fatto->setAutoDefault(false);  // Enter belongs to the table

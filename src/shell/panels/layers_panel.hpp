@@ -33,7 +33,8 @@ class PannelloStrati : public QWidget {
     void esporta();
     [[nodiscard]] int riga() const;
     [[nodiscard]] exchange::RigheStrati righe() const;
-    QPushButton* farePulsante(const char* nome, const QString& testo, const QString& suggerimento);
+    QPushButton* farePulsante(const char* nome, const char* figura, const QString& testo,
+                              const QString& suggerimento);
 
     Base2_32& forma_;
     base::Dialogo& dialogo_;

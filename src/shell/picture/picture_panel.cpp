@@ -15,6 +15,7 @@
 #include <utility>
 
 #include "shell/forms/elided_label.hpp"
+#include "shell/icons/icon_set.hpp"
 #include "shell/picture/picture_view.hpp"
 #include "shell/qt_text.hpp"
 
@@ -42,10 +43,10 @@ PannelloFigura::PannelloFigura(VitaProgetto& vita, std::function<void(const QFon
       lettura_(new EtichettaAccorciata(this, false)) {
     setObjectName("pannelloFigura");
     setFocusProxy(vista_);
-    copia_ = new QAction(tradotto("Copia figura"), this);
+    copia_ = new QAction(icona("copy"), tradotto("Copia figura"), this);
     copia_->setObjectName("copiaFigura");
     connect(copia_, &QAction::triggered, vista_, &VistaFigura::copia);
-    salva_ = new QAction(tradotto("Salva figura..."), this);
+    salva_ = new QAction(icona("save_picture"), tradotto("Salva figura..."), this);
     salva_->setObjectName("salvaFigura");
     salva_->setIconText(salva_->text());  // Qt takes the dots off
     connect(salva_, &QAction::triggered, this,
@@ -103,6 +104,7 @@ QWidget* PannelloFigura::striscia() {
     auto* salva = new QToolButton(striscia);
     salva->setObjectName("pulsanteSalvaFigura");
     salva->setDefaultAction(salva_);
+    salva->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     salva->setFocusPolicy(Qt::TabFocus);
     riga->addWidget(salva);
     return striscia;

@@ -1,7 +1,6 @@
 #include "shell/remarks/remarks_window.hpp"
 
 #include <QEvent>
-#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QListWidget>
@@ -10,6 +9,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "shell/companions/button_row.hpp"
 #include "shell/qt_text.hpp"
 #include "shell/remarks/remark_delegate.hpp"
 
@@ -53,29 +53,13 @@ FinestraOsservazioni::FinestraOsservazioni(QWidget& principale, Azioni azioni)
 }
 
 QWidget* FinestraOsservazioni::farePulsanti() {
-    auto* riga = new QWidget(this);
-    auto* disposizione = new QHBoxLayout(riga);
-    disposizione->setContentsMargins(0, 0, 0, 0);
-    apri_ = farePulsante("apri", "&Apri il campo", riga);
-    guida_ = farePulsante("guida", "&Help", riga);
+    auto* riga = new FilaPulsanti(*this);
+    apri_ = riga->aggiungi("apri", "&Apri il campo", "look", [this] { apri(); });
+    guida_ = riga->aggiungi("guida", "&Help", "help", [this] { mostraGuida(); });
     guida_->setVisible(static_cast<bool>(azioni_.guida));
-    auto* chiudi = farePulsante("chiudi", "&Chiudi", riga);
-    disposizione->addWidget(apri_);
-    disposizione->addWidget(guida_);
-    disposizione->addStretch();
-    disposizione->addWidget(chiudi);
-    connect(apri_, &QPushButton::clicked, this, [this] { apri(); });
-    connect(guida_, &QPushButton::clicked, this, [this] { mostraGuida(); });
-    connect(chiudi, &QPushButton::clicked, this, &QWidget::close);
+    riga->parti();
+    riga->aggiungi("chiudi", "&Chiudi", "close", [this] { close(); });
     return riga;
-}
-
-QPushButton* FinestraOsservazioni::farePulsante(const char* nome, const char* testo,
-                                                QWidget* genitore) {
-    auto* fatto = new QPushButton(tradotto(testo), genitore);
-    fatto->setObjectName(QLatin1String(nome));
-    fatto->setAutoDefault(true);  // Enter presses the button that has the focus
-    return fatto;
 }
 
 void FinestraOsservazioni::mostra(const review::Osservazioni& osservazioni,

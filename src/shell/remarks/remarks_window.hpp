@@ -35,7 +35,6 @@ class FinestraOsservazioni : public FinestraCompagna {
 
  private:
     QWidget* farePulsanti();
-    QPushButton* farePulsante(const char* nome, const char* testo, QWidget* genitore);
     [[nodiscard]] const review::Osservazione* corrente() const;
     void scelta();
     void apri();

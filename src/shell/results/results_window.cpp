@@ -11,6 +11,7 @@
 #include <memory>
 #include <utility>
 
+#include "shell/companions/button_row.hpp"
 #include "shell/qt_text.hpp"
 #include "shell/results/curves_view.hpp"
 #include "shell/tables/table_view.hpp"
@@ -106,28 +107,17 @@ void FinestraRisultati::farePaginaCurve() {
 }
 
 QWidget* FinestraRisultati::farePulsanti(const std::function<void(const std::string&)>& guida) {
-    auto* riga = new QWidget(this);
-    auto* disposizione = new QHBoxLayout(riga);
-    disposizione->setContentsMargins(0, 0, 0, 0);
-    const auto pulsante = [&](const char* nome, const char* testo, auto azione) {
-        auto* fatto = new QPushButton(tradotto(testo), riga);
-        fatto->setObjectName(QLatin1String(nome));
-        fatto->setAutoDefault(true);
-        connect(fatto, &QPushButton::clicked, this, azione);
-        disposizione->addWidget(fatto);
-        return fatto;
-    };
-    copia_ = pulsante("copia", "C&opia", [this] {
+    auto* riga = new FilaPulsanti(*this);
+    copia_ = riga->aggiungi("copia", "C&opia", "copy", [this] {
         if (const auto* vista = dynamic_cast<VistaProspetto*>(pagine_->currentWidget()))
             vista->copia();
     });
     copia_->setToolTip(
         tradotto("Copia la tabella, o la parte scelta, per un foglio di calcolo (Ctrl+C)"));
-    pulsante("guida", "&Help", [guida] {
-        guida(paginaGuida);
-    })->setVisible(static_cast<bool>(guida));
-    disposizione->addStretch();
-    pulsante("chiudi", "&Chiudi", [this] { close(); });
+    riga->aggiungi("guida", "&Help", "help", [guida] { guida(paginaGuida); })
+        ->setVisible(static_cast<bool>(guida));
+    riga->parti();
+    riga->aggiungi("chiudi", "&Chiudi", "close", [this] { close(); });
     return riga;
 }
 

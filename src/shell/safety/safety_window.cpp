@@ -1,6 +1,5 @@
 #include "shell/safety/safety_window.hpp"
 
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QPointer>
 #include <QPushButton>
@@ -11,6 +10,7 @@
 #include <utility>
 
 #include "live/limit_wall.hpp"
+#include "shell/companions/button_row.hpp"
 #include "shell/qt_text.hpp"
 #include "shell/safety/mechanism_view.hpp"
 #include "shell/tables/table_view.hpp"
@@ -78,26 +78,15 @@ VistaProspetto* FinestraSicurezza::farePagina(const char* nome, const char* tito
 }
 
 QWidget* FinestraSicurezza::farePulsanti(const std::function<void(const std::string&)>& guida) {
-    auto* riga = new QWidget(this);
-    auto* disposizione = new QHBoxLayout(riga);
-    disposizione->setContentsMargins(0, 0, 0, 0);
-    const auto pulsante = [&](const char* nome, const char* testo, auto azione) {
-        auto* fatto = new QPushButton(tradotto(testo), riga);
-        fatto->setObjectName(QLatin1String(nome));
-        fatto->setAutoDefault(true);
-        connect(fatto, &QPushButton::clicked, this, azione);
-        disposizione->addWidget(fatto);
-        return fatto;
-    };
-    pulsante("copia", "C&opia",
-             [this] { static_cast<VistaProspetto*>(pagine_->currentWidget())->copia(); })
+    auto* riga = new FilaPulsanti(*this);
+    riga->aggiungi("copia", "C&opia", "copy",
+                   [this] { static_cast<VistaProspetto*>(pagine_->currentWidget())->copia(); })
         ->setToolTip(
             tradotto("Copia la tabella, o la parte scelta, per un foglio di calcolo (Ctrl+C)"));
-    pulsante("guida", "&Help", [guida] {
-        guida(paginaGuida);
-    })->setVisible(static_cast<bool>(guida));
-    disposizione->addStretch();
-    pulsante("chiudi", "&Chiudi", [this] { close(); });
+    riga->aggiungi("guida", "&Help", "help", [guida] { guida(paginaGuida); })
+        ->setVisible(static_cast<bool>(guida));
+    riga->parti();
+    riga->aggiungi("chiudi", "&Chiudi", "close", [this] { close(); });
     return riga;
 }
 
