@@ -147,7 +147,7 @@ inline const std::map<std::string, Texts> noTexts = {
     {"tables/section_table.cpp", {"Md max", "Md min", "M−", "V, VRd2", "V, VRd3"}},
     {"shell/panels/domain_view.cpp", {"dominio"}},
     {"shell/panels/profile_chooser.cpp",
-     {"ScegliProfilo", "profili", "cerca", "riempie", "schizzo", "guaste", "prendi", "elimina",
+     {"ScegliProfilo", "profili", "cerca", "riempie", "schizzo", "nota", "prendi", "elimina",
       "annulla"}},
     {"shell/panels/profile_entry.cpp",
      {"NuovoProfilo", "nome", "fonte", "materiali", "misure", "perche", "conferma", "annulla"}},

@@ -10,6 +10,7 @@
 #include <QPushButton>
 #include <QTableWidget>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "base/filled_text.hpp"
 #include "base/translated_texts.hpp"
@@ -61,11 +62,11 @@ ScegliProfilo::ScegliProfilo(project::Parte tipo, const project::Sezione& sezion
     schizzo_->setAccessibleName(tradotto("Sezione con il profilo scelto"));
     fila->addWidget(schizzo_, 2);
     colonna->addLayout(fila, 1);
-    guaste_ = new QLabel(this);
-    guaste_->setObjectName(QStringLiteral("guaste"));
-    guaste_->setTextFormat(Qt::PlainText);
-    guaste_->setWordWrap(true);
-    colonna->addWidget(guaste_);
+    nota_ = new QLabel(this);
+    nota_->setObjectName(QStringLiteral("nota"));
+    nota_->setTextFormat(Qt::PlainText);
+    nota_->setWordWrap(true);
+    colonna->addWidget(nota_);
     auto* pulsanti = new QDialogButtonBox(this);
     prendi_ = pulsanti->addButton(tradotto("&Prendi"), QDialogButtonBox::AcceptRole);
     prendi_->setObjectName(QStringLiteral("prendi"));
@@ -80,10 +81,11 @@ ScegliProfilo::ScegliProfilo(project::Parte tipo, const project::Sezione& sezion
     connect(elimina_, &QPushButton::clicked, this, [this] { elimina(); });
     connect(tabella_, &QTableWidget::itemSelectionChanged, this, [this] { mostra(); });
     connect(tabella_, &QTableWidget::itemActivated, this, &QDialog::accept);
+    catalogo_ = profiles::leggiCatalogo();
     riempiCampi(campo);
     connect(riempie_, &QComboBox::currentIndexChanged, this, [this] { filtra(); });
     connect(cerca_, &QLineEdit::textChanged, this, [this] { filtra(); });
-    leggi();
+    filtra();
     prendiMisura(*this, misuraComoda.expandedTo(sizeHint()));
     cerca_->setFocus();
 }
@@ -109,7 +111,6 @@ QWidget* ScegliProfilo::fareCerca() {
     return parte;
 }
 
-// Of whole sections the user may have none: then bars come first.
 void ScegliProfilo::riempiCampi(std::size_t campo) {
     riempie_->addItem(tradotto("tutti i campi"), QVariant::fromValue(tuttiICampi));
     for (const std::size_t ferro : profiles::campiFerro(tipo_)) {
@@ -117,18 +118,28 @@ void ScegliProfilo::riempiCampi(std::size_t campo) {
                           QVariant::fromValue(ferro));
         if (ferro == campo) riempie_->setCurrentIndex(riempie_->count() - 1);
     }
+    // Of whole sections the user may have none: then bars come first.
+    const auto& tutti = catalogo_.profili;
+    const bool soliFerri = std::none_of(tutti.begin(), tutti.end(), [this](const auto& p) {
+        return p.genere != profiles::Genere::ferro && profiles::adatto(p, tipo_);
+    });
+    if (soliFerri && riempie_->count() > 1 && riempie_->currentIndex() == 0)
+        riempie_->setCurrentIndex(1);
 }
 
-void ScegliProfilo::leggi() {
-    catalogo_ = profiles::leggiCatalogo();
-    guaste_->setVisible(!catalogo_.guaste.empty());
+// Lines that are no rows; else what to do about an empty list.
+void ScegliProfilo::annota() {
+    QString testo;
     if (!catalogo_.guaste.empty()) {
         const auto& prima = catalogo_.guaste.front();
-        guaste_->setText(qt(base::riempito(base::traduttore("Righe non lette: %1. %2, riga %3: %4"),
-                                           {std::to_string(catalogo_.guaste.size()), prima.file,
-                                            std::to_string(prima.riga), prima.motivo})));
+        testo = qt(base::riempito(base::traduttore("Righe non lette: %1. %2, riga %3: %4"),
+                                  {std::to_string(catalogo_.guaste.size()), prima.file,
+                                   std::to_string(prima.riga), prima.motivo}));
+    } else if (mostrati_.empty()) {
+        testo = tradotto("Nessun profilo. Quelli propri si tengono con «Aggiungi al catalogo».");
     }
-    filtra();
+    nota_->setText(testo);
+    nota_->setVisible(!testo.isEmpty());
 }
 
 std::size_t ScegliProfilo::campo() const { return riempie_->currentData().value<std::size_t>(); }
@@ -153,6 +164,7 @@ void ScegliProfilo::filtra() {
     tabella_->resizeColumnsToContents();
     tabella_->clearSelection();
     if (!mostrati_.empty()) tabella_->selectRow(0);
+    annota();
     mostra();
 }
 
@@ -192,7 +204,8 @@ void ScegliProfilo::elimina() {
         return;
     if (const auto perche = profiles::togliProfilo(*profilo); !perche.empty())
         dialogo_.messaggio(perche, titolo, base::Icona::avviso);
-    leggi();
+    catalogo_ = profiles::leggiCatalogo();
+    filtra();
 }
 
 void ScegliProfilo::done(int esito) {

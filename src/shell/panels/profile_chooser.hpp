@@ -19,7 +19,7 @@ class VistaSchizzo;
 /// Chooses a row of the catalogue for the section form: whole sections and tubes of the type, or
 /// bars for one of its diameters, found by words, with the sketch of what they make.
 ///
-/// Controls by name: `cerca`, `riempie`, `profili`, `schizzo`, `guaste`, `prendi`, `elimina` for
+/// Controls by name: `cerca`, `riempie`, `profili`, `schizzo`, `nota`, `prendi`, `elimina` for
 /// the user's own rows, `annulla`. Down leads from the search to the rows; a double click takes.
 class ScegliProfilo : public QDialog {
     Q_OBJECT
@@ -40,7 +40,7 @@ class ScegliProfilo : public QDialog {
  private:
     QWidget* fareCerca();
     void riempiCampi(std::size_t campo);
-    void leggi();
+    void annota();
     void filtra();
     void mostra();
     void elimina();
@@ -56,7 +56,7 @@ class ScegliProfilo : public QDialog {
     QComboBox* riempie_ = nullptr;
     QTableWidget* tabella_ = nullptr;
     VistaSchizzo* schizzo_ = nullptr;
-    QLabel* guaste_ = nullptr;
+    QLabel* nota_ = nullptr;
     QPushButton *prendi_ = nullptr, *elimina_ = nullptr;
 };
 

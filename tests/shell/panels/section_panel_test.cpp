@@ -210,14 +210,29 @@ TEST_F(PannelloSezioneTest, HasNothingToKeepOfAnEmptySection) {
     EXPECT_EQ(dialogo.messaggi.size(), 1U);
 }
 
+// The cursor is on the choice of types, and the catalogue has no section of this one.
+TEST_F(PannelloSezioneTest, BeginsWithTheBarsWhereThereAreNoSections) {
+    apri();
+    EXPECT_TRUE(nelDialogo<ScegliProfilo>(trova("catalogo"), [](ScegliProfilo& d) {
+        EXPECT_EQ(controllo<QComboBox>(d, "riempie").currentText(),
+                  "diametro delle armature a monte");
+        EXPECT_EQ(controllo<QTableWidget>(d, "profili").rowCount(), 11);
+        EXPECT_FALSE(controllo(d, "nota").isVisible());
+        controllo<QComboBox>(d, "riempie").setCurrentIndex(0);
+        EXPECT_EQ(controllo<QTableWidget>(d, "profili").rowCount(), 0);
+        EXPECT_TRUE(controllo<QLabel>(d, "nota").text().startsWith("Nessun profilo."));
+        EXPECT_FALSE(controllo(d, "prendi").isEnabled());
+        d.reject();
+    }));
+}
+
 TEST_F(PannelloSezioneTest, TellsTheRowsThatAreNone) {
     std::filesystem::create_directories(utente.percorso());
     test::metti(profiles::fileProfiliUtente(), "non è una riga\n");
     apri();
     EXPECT_TRUE(nelDialogo<ScegliProfilo>(trova("catalogo"), [](ScegliProfilo& d) {
-        EXPECT_TRUE(controllo<QLabel>(d, "guaste")
-                        .text()
-                        .startsWith("Righe non lette: 1. profili_utente.txt, riga 1: "));
+        EXPECT_TRUE(controllo<QLabel>(d, "nota").text().startsWith(
+            "Righe non lette: 1. profili_utente.txt, riga 1: "));
         d.reject();
     }));
 }
