@@ -2,6 +2,7 @@
 
 #include <cassert>
 
+#include "base/code_page.hpp"
 #include "base/filled_text.hpp"
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
@@ -30,7 +31,8 @@ std::string tiri(const equilibrium::FaseEquilibrio& fase) {
     std::string testo;
     for (std::size_t i = 0; i < fase.tiri.size(); ++i) {
         testo += testo.empty() ? "; " + traduttore("tiri") + ": " : ", ";
-        testo += std::to_string(i + 1) + ": " + conUnita(fase.tiri[i], project::unita::forza);
+        testo +=
+            std::to_string(i + 1) + ": " + conUnita(fase.tiri[i], project::unita::forzaAlMetro);
     }
     return testo;
 }
@@ -39,8 +41,8 @@ std::string cheSta(const live::PareteViva& parete, const equilibrium::FaseEquili
     const auto e = equilibrium::estremi(fase, parete.h);
     return riempito(traduttore("la fase %1 sta"), {std::to_string(fase.fase)}) + ": " +
            con("spostamento massimo %1 a %2 m", e.spostamento, project::unita::spostamentoFine) +
-           ", " + con("momento %1 a %2 m", e.momento(), project::unita::momento) + ", " +
-           con("taglio %1 a %2 m", e.taglio, project::unita::forza) + tiri(fase);
+           ", " + con("momento %1 a %2 m", e.momento(), project::unita::momentoAlMetro) + ", " +
+           con("taglio %1 a %2 m", e.taglio, project::unita::forzaAlMetro) + tiri(fase);
 }
 
 }  // namespace
@@ -55,8 +57,10 @@ std::string paroleFase(const live::PareteViva& parete, int fase) {
            perche;
 }
 
-FaseDellaRiga faseDellaRiga(const live::ProgettoVivo& vivo, const masks::ModelloGriglia& griglia,
-                            int riga) {
+namespace {
+
+FaseDellaRiga trovata(const live::ProgettoVivo& vivo, const masks::ModelloGriglia& griglia,
+                      int riga) {
     if (!vivo.aperto()) return {};
     const auto fase = rigaConDati(griglia, riga);
     if (!fase) return {{}, traduttore("la riga è vuota")};
@@ -67,6 +71,15 @@ FaseDellaRiga faseDellaRiga(const live::ProgettoVivo& vivo, const masks::Modello
         traduttore("come era prima di ciò che si scrive") + " (" + vivo.impedimento() + ")";
     if (!mostrata) return {{}, vivo.impedimento()};
     return {fase, perche + ": " + paroleFase(vivo.parete(), *fase)};
+}
+
+}  // namespace
+
+FaseDellaRiga faseDellaRiga(const live::ProgettoVivo& vivo, const masks::ModelloGriglia& griglia,
+                            int riga) {
+    FaseDellaRiga fase = trovata(vivo, griglia, riga);
+    fase.parole = base::conMaiuscola(fase.parole);
+    return fase;
 }
 
 }  // namespace korven::panels

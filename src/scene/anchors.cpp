@@ -96,8 +96,9 @@ class Tiranti {
         const std::string nome = "T" + std::to_string(j);
         const std::string dove = "  " + quota(m_.dati().profTirante[j]);
         const double* t = m_.tiro(j);
-        const std::string forza =
-            t != nullptr && inOpera ? "  " + conUnita(*t, project::unita::forza) : std::string();
+        const std::string forza = t != nullptr && inOpera
+                                      ? "  " + conUnita(*t, project::unita::forzaAlMetro)
+                                      : std::string();
         const Tinta tinta{inOpera ? Ruolo::tirante : Ruolo::testoTenue};
         const double stretto = 15 * q_.em;
         const std::string tutto =

@@ -26,9 +26,10 @@ const std::array<Voce, 4> voci{{
      "Pressioni"},
     {Curva::spostamento, project::unita::spostamentoFine, &FaseEquilibrio::y, &Inviluppo::y,
      "Spostamento"},
-    {Curva::momento, project::unita::momento, &FaseEquilibrio::momento, &Inviluppo::momento,
+    {Curva::momento, project::unita::momentoAlMetro, &FaseEquilibrio::momento, &Inviluppo::momento,
      "Momento"},
-    {Curva::taglio, project::unita::forza, &FaseEquilibrio::taglio, &Inviluppo::taglio, "Taglio"},
+    {Curva::taglio, project::unita::forzaAlMetro, &FaseEquilibrio::taglio, &Inviluppo::taglio,
+     "Taglio"},
 }};
 
 bool numeri(const Serie& serie) {

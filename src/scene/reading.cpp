@@ -103,8 +103,8 @@ std::string parole(const Lettura& letta) {
     using base::traduttore;
     std::string testo = quota(letta.z);
     aggiungi(testo, {{"y", letta.y}}, unita::spostamentoFine);
-    aggiungi(testo, {{"M", letta.momento}}, unita::momento);
-    aggiungi(testo, {{"T", letta.taglio}}, unita::forza);
+    aggiungi(testo, {{"M", letta.momento}}, unita::momentoAlMetro);
+    aggiungi(testo, {{"T", letta.taglio}}, unita::forzaAlMetro);
     const std::string monte = traduttore("monte"), valle = traduttore("valle");
     const std::string acqua = traduttore("acqua"), netta = traduttore("pressione netta");
     aggiungi(testo,

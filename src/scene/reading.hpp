@@ -28,7 +28,7 @@ struct Lettura {
 /// @param z  any: the nearest depth of the wall is read
 [[nodiscard]] Lettura lettura(const live::PareteViva& parete, const live::Vista& vista, double z);
 
-/// As a line: "4.20 m · y 12.3 mm · M 45.0 kN m · T -3.2 kN · monte 30.1 · ...".
+/// As a line: "4.20 m · y 12.3 mm · M 45.0 kN m/m · T -3.2 kN/m · monte 30.1 · ...".
 [[nodiscard]] std::string parole(const Lettura& lettura);
 
 }  // namespace korven::scene

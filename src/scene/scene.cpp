@@ -53,8 +53,9 @@ std::string descrizione(const live::PareteViva& parete, const live::Vista& vista
            base::traduttore("spostamento") + " " +
            conUnita(e.spostamento.valore, project::unita::spostamentoFine) + ", " +
            base::traduttore("momento") + " " +
-           conUnita(e.momento().valore, project::unita::momento) + ", " +
-           base::traduttore("taglio") + " " + conUnita(e.taglio.valore, project::unita::forza);
+           conUnita(e.momento().valore, project::unita::momentoAlMetro) + ", " +
+           base::traduttore("taglio") + " " +
+           conUnita(e.taglio.valore, project::unita::forzaAlMetro);
 }
 
 }  // namespace korven::scene

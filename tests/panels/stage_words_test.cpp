@@ -24,7 +24,7 @@ TEST(ParoleFase, TellTheLargestValuesAndTheForceOfEachAnchor) {
     EXPECT_NE(testo.find(" mm a "), std::string::npos) << testo;
     EXPECT_NE(testo.find(", momento "), std::string::npos) << testo;
     EXPECT_NE(testo.find(", taglio "), std::string::npos) << testo;
-    EXPECT_TRUE(testo.ends_with("; tiri: 1: 30.0 kN, 2: 25.0 kN")) << testo;
+    EXPECT_TRUE(testo.ends_with("; tiri: 1: 30.0 kN/m, 2: 25.0 kN/m")) << testo;
 }
 
 TEST(ParoleFase, TellTheExtremesOfTheStageAndNotOfAll) {

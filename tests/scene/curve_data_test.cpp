@@ -16,7 +16,7 @@ TEST(DatiCurva, AreThoseOfTheStage) {
     const DatiCurva momento = datiCurva(parete, 2, Curva::momento);
     ASSERT_EQ(momento.serie.size(), 1U);
     EXPECT_EQ(momento.serie[0].valori, parete.fase(2)->momento);
-    EXPECT_EQ(momento.unita.mostrata, "kN m");
+    EXPECT_EQ(momento.unita.mostrata, "kN m/m");
     EXPECT_EQ(datiCurva(parete, 2, Curva::taglio).serie[0].valori, parete.fase(2)->taglio);
     EXPECT_EQ(datiCurva(parete, 1, Curva::spostamento).serie[0].valori, parete.fase(1)->y);
     EXPECT_EQ(datiCurva(parete, 1, Curva::spostamento).unita.mostrata, "mm");

@@ -66,7 +66,7 @@ TEST(Parole, TellValueAndUnitOfEach) {
     letta.valle = Letto{-2, -2};
     EXPECT_EQ(
         parole(letta),
-        "4.20 m  ·  y 12.3 mm  ·  M -15.0 … 45.0 kN m  ·  monte 30.0  ·  valle -20.0 kN/m²  ·  "
+        "4.20 m  ·  y 12.3 mm  ·  M -15.0 … 45.0 kN m/m  ·  monte 30.0  ·  valle -20.0 kN/m²  ·  "
         "Limo");
 }
 

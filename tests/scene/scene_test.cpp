@@ -134,7 +134,8 @@ TEST(Scena, DrawsAnchorsFromTheirHeadsWithTheForceOfTheStage) {
     EXPECT_LT(asse[1].x, asse[0].x);  // into the ground
     char forza[32];
     std::snprintf(forza, sizeof forza, "%.1f", 10 * parete.fase(2)->tiri[0]);
-    EXPECT_TRUE(dice(testi(s, Elemento::tirante, 1), std::string("T1  1.50 m  ") + forza + " kN"));
+    EXPECT_TRUE(
+        dice(testi(s, Elemento::tirante, 1), std::string("T1  1.50 m  ") + forza + " kN/m"));
 }
 
 TEST(Scena, DashesAnchorsOfLaterStages) {
@@ -232,10 +233,10 @@ TEST(Scena, DrawsTheCurveAtTheDepthsOfTheNodesAndWritesItsPeaks) {
         EXPECT_NEAR(curva[i].y, s.y(0.3 * static_cast<double>(i)), 1e-9);
     const auto estremi = equilibrium::estremi(*parete.fase(2), parete.h);
     char atteso[64];
-    std::snprintf(atteso, sizeof atteso, "%.1f kN m  %.2f m", 10 * estremi.momentoMassimo.valore,
+    std::snprintf(atteso, sizeof atteso, "%.1f kN m/m  %.2f m", 10 * estremi.momentoMassimo.valore,
                   estremi.momentoMassimo.z);
     EXPECT_TRUE(dice(testi(s, Elemento::estremo), atteso));
-    EXPECT_TRUE(dice(testi(s, Elemento::asse), "Momento [kN m]"));
+    EXPECT_TRUE(dice(testi(s, Elemento::asse), "Momento [kN m/m]"));
     // Widths are proportional: the curve's axis is where it is 0, at the head.
     const auto& m = parete.fase(2)->momento;
     const double k = (curva[20].x - curva[0].x) / (m[20] - m[0]);

@@ -41,7 +41,6 @@ inline const std::map<std::string, std::string> silentFiles = {
     {"shell/form_sizes.cpp", "names of the user's settings"},
     {"shell/icons/icon_set.cpp", "a place of the drawings of icons"},
     {"shell/icons/menu_icons.cpp", "names of icons and of menu items"},
-    {"shell/remarks/remark_delegate.cpp", "names of icons"},
     {"shell/toolkit_texts.cpp", "words of Qt's own texts"},
 };
 
@@ -359,9 +358,7 @@ inline const std::map<std::string, Texts> noTexts = {
     {"shell/viewer/grafica.cpp", {"GRAFICA"}},
     {"shell/viewer/export.cpp",
      {"PDF (*.pdf)", "pdf", "SVG (*.svg)", "svg", "PNG (*.png)", "png", "AutoCAD(*.DXF)", "DXF"}},
-    {"shell/viewer/strip.cpp",
-     {"striscia", "zoom_in", "whole", "print", "print_fitted", "dxf", "picture_file", "left",
-      "right", "down", "far_left", "far_right", "far_up", "far_down", "exit"}},
+    {"shell/viewer/strip.cpp", {"striscia"}},
     {"plot/dxf/writer.cpp", {"LINE", "TEXT", "ENDSEC", "EOF"}},
     {"plot/plot_configuration.cpp", {"module06", ".cfg"}},
     {"plot/dxf/export.cpp", {"MONOTXT", "dxf.cfg", ".DXF"}},

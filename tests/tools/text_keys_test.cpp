@@ -120,10 +120,16 @@ bool namesRemark(const std::string& text) {
     return false;
 }
 
+// Drawings of icons, by the English names of their files.
+bool namesIcon(const std::string& text) {
+    return std::filesystem::is_regular_file(KORVEN_DATA_FOLDER "/icons/" + text + ".svg");
+}
+
 bool isNoText(const std::string& file, const std::string& text) {
     const auto exempt = noTexts.find(file);
     return silentFiles.contains(file) || namesControl(text) || isPartOfField(file, text) ||
-           namesRemark(text) || (exempt != noTexts.end() && listed(exempt->second, text));
+           namesRemark(text) || namesIcon(text) ||
+           (exempt != noTexts.end() && listed(exempt->second, text));
 }
 
 std::set<std::string> keys() {

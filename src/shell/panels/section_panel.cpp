@@ -5,84 +5,23 @@
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTabWidget>
-#include <QTableWidget>
 #include <QVBoxLayout>
-#include <algorithm>
 #include <utility>
 
 #include "base/translated_texts.hpp"
 #include "live/section_checks.hpp"
 #include "profiles/catalogue.hpp"
+#include "shell/icons/icon_set.hpp"
 #include "shell/live/live_view.hpp"
 #include "shell/panels/domain_view.hpp"
 #include "shell/panels/profile_chooser.hpp"
 #include "shell/panels/profile_entry.hpp"
 #include "shell/qt_text.hpp"
+#include "shell/tables/table_view.hpp"
 
 namespace korven::shell {
 
 namespace {
-
-QTableWidget* fareTabella(const char* nome, QWidget* padre) {
-    auto* tabella = new QTableWidget(padre);
-    tabella->setObjectName(QLatin1String(nome));
-    tabella->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    tabella->setTabKeyNavigation(false);  // Tab leaves the table
-    tabella->setWordWrap(false);
-    tabella->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
-    tabella->verticalHeader()->hide();
-    tabella->verticalHeader()->setDefaultSectionSize(tabella->fontMetrics().height() + 6);
-    tabella->horizontalHeader()->setHighlightSections(false);
-    return tabella;
-}
-
-QTableWidgetItem* fareCella(const tables::Cella& cella, const tables::Colonna& colonna) {
-    auto* fatta = new QTableWidgetItem(qt(cella.testo));
-    fatta->setTextAlignment((colonna.numerica ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
-    if (!cella.peso) return fatta;
-    QFont grassetto = fatta->font();
-    grassetto.setBold(true);
-    fatta->setFont(grassetto);
-    return fatta;
-}
-
-// A column is as wide as its head and its cells, in bold as a failed check is.
-void allarga(QTableWidget& tabella) {
-    QFont grassetto = tabella.font();
-    grassetto.setBold(true);
-    const QFontMetrics misure(grassetto);
-    constexpr int margine = 14;
-    for (int c = 0; c < tabella.columnCount(); ++c) {
-        int serve = misure.horizontalAdvance(tabella.horizontalHeaderItem(c)->text());
-        for (int r = 0; r < tabella.rowCount(); ++r)
-            serve = std::max(serve, misure.horizontalAdvance(tabella.item(r, c)->text()));
-        // Columns only grow: they would dance with every key otherwise.
-        tabella.setColumnWidth(c, std::max(serve + margine, tabella.columnWidth(c)));
-    }
-}
-
-void riempi(QTableWidget& tabella, const tables::Prospetto& p) {
-    const auto colonne = static_cast<int>(p.colonne.size());
-    if (tabella.columnCount() != colonne) {
-        tabella.setColumnCount(colonne);
-        for (int c = 0; c < colonne; ++c) {
-            const auto& colonna = p.colonne[static_cast<std::size_t>(c)];
-            auto* testa = new QTableWidgetItem(qt(colonna.testa()));
-            testa->setToolTip(qt(colonna.spiegazione));
-            tabella.setHorizontalHeaderItem(c, testa);
-            tabella.setColumnWidth(c, 0);
-        }
-    }
-    tabella.setAccessibleName(qt(p.titolo));
-    tabella.setRowCount(static_cast<int>(p.righe.size()));
-    for (int r = 0; r < tabella.rowCount(); ++r)
-        for (int c = 0; c < colonne; ++c)
-            tabella.setItem(
-                r, c,
-                fareCella(p.righe[static_cast<std::size_t>(r)][static_cast<std::size_t>(c)],
-                          p.colonne[static_cast<std::size_t>(c)]));
-    allarga(tabella);
-}
 
 QLabel* fareEtichetta(const char* nome, QWidget* padre) {
     auto* etichetta = new QLabel(padre);
@@ -92,9 +31,9 @@ QLabel* fareEtichetta(const char* nome, QWidget* padre) {
     return etichetta;
 }
 
-QPushButton* farePulsante(const char* nome, const QString& testo, const QString& suggerimento,
-                          QWidget* padre) {
-    auto* fatto = new QPushButton(testo, padre);
+QPushButton* farePulsante(const char* nome, const char* figura, const QString& testo,
+                          const QString& suggerimento, QWidget* padre) {
+    auto* fatto = new QPushButton(icona(figura), testo, padre);
     fatto->setObjectName(QLatin1String(nome));
     fatto->setToolTip(suggerimento);
     fatto->setAutoDefault(false);  // Enter confirms the form
@@ -107,19 +46,19 @@ PannelloSezione::PannelloSezione(DefinEJ& forma, VitaProgetto& vita, base::Dialo
     : QWidget(&forma), forma_(forma), vita_(vita), dialogo_(dialogo) {
     setObjectName(QStringLiteral("PannelloSezione"));
     valori_ = fareEtichetta("valori", this);
-    verifiche_ = fareTabella("verifiche", this);
+    verifiche_ = new VistaProspetto(QStringLiteral("verifiche"), this);
     origine_ = fareEtichetta("origine", this);
     auto* quadri = new QTabWidget(this);
     quadri->setObjectName(QStringLiteral("quadri"));
     quadri->setAccessibleName(tradotto("Dominio N–M"));
     dominio_ = new VistaDominio(quadri);
-    fasi_ = fareTabella("fasi", quadri);
+    fasi_ = new VistaProspetto(QStringLiteral("fasi"), quadri);
     quadri->addTab(dominio_, tradotto("Dominio N–M"));
     quadri->addTab(fasi_, tradotto("Fasi"));
     auto* catalogo =
-        farePulsante("catalogo", tradotto("Ca&talogo..."),
+        farePulsante("catalogo", "catalogue", tradotto("Ca&talogo..."),
                      tradotto("Ferri, tubi e profili propri che riempiono i campi"), this);
-    auto* aggiungi = farePulsante("aggiungi", tradotto("A&ggiungi al catalogo..."),
+    auto* aggiungi = farePulsante("aggiungi", "insert_row", tradotto("A&ggiungi al catalogo..."),
                                   tradotto("Tiene le misure scritte per altri progetti"), this);
     auto* colonna = new QVBoxLayout(this);
     colonna->setContentsMargins(0, 0, 0, 0);
@@ -134,7 +73,8 @@ PannelloSezione::PannelloSezione(DefinEJ& forma, VitaProgetto& vita, base::Dialo
     constexpr int righe = 4;
     verifiche_->setFixedHeight(verifiche_->horizontalHeader()->sizeHint().height() +
                                righe * verifiche_->verticalHeader()->defaultSectionSize() +
-                               verifiche_->horizontalScrollBar()->sizeHint().height() + 12);
+                               verifiche_->horizontalScrollBar()->sizeHint().height() +
+                               2 * verifiche_->frameWidth());
     connect(catalogo, &QPushButton::clicked, this, [this] { scegliProfilo(); });
     connect(aggiungi, &QPushButton::clicked, this, [this] { aggiungiProfilo(); });
     connect(&vita_, &VitaProgetto::cambiata, this, [this] { mostra(); });
@@ -151,14 +91,14 @@ void PannelloSezione::mostra() {
     QStringList righe;
     for (const auto& riga : quadro.righe) righe << qt(riga);
     valori_->setText(righe.join(QLatin1Char('\n')));
-    riempi(*verifiche_, quadro.verifiche);
     QStringList note;
     for (const auto& nota : quadro.verifiche.note) note << qt(nota);
     origine_->setText(note.join(QLatin1Char('\n')));
+    verifiche_->mostra(quadro.verifiche);
     const bool calcolabile = live::sezioneCalcolabile(vivo.dati().sezione);
     auto dominio = lenti != nullptr ? lenti->dominio : dominio_->dominio();
     if (!calcolabile) dominio.clear();
-    riempi(*fasi_, tables::prospettoDominio(vivo.parete(), margine, dominio));
+    fasi_->mostra(tables::prospettoDominio(vivo.parete(), margine, dominio));
     dominio_->mostra(std::move(dominio), live::fasiNelDominio(vivo.parete(), margine),
                      calcolabile ? "..." : base::traduttore("Sezione non definita."));
 }

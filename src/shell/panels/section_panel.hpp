@@ -7,11 +7,11 @@
 #include "tables/section_table.hpp"
 
 class QLabel;
-class QTableWidget;
 
 namespace korven::shell {
 
 class VistaDominio;
+class VistaProspetto;
 class VitaProgetto;
 
 /// The panel beside the section: stiffness, checks and N-M domain of what is typed, and the
@@ -35,7 +35,7 @@ class PannelloSezione : public QWidget {
     VitaProgetto& vita_;
     base::Dialogo& dialogo_;
     QLabel* valori_;
-    QTableWidget *verifiche_, *fasi_;
+    VistaProspetto *verifiche_, *fasi_;
     QLabel* origine_;
     VistaDominio* dominio_;
 };

@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTableView>
 #include <QTableWidget>
 #include <filesystem>
 
@@ -61,7 +62,7 @@ class PannelloSezioneTest : public ::testing::Test {
         QTest::keyClicks(&trova(nome), testo);
     }
     QString cella(int riga, int colonna) {
-        return trova<QTableWidget>("verifiche").item(riga, colonna)->text();
+        return trova<QTableView>("verifiche").model()->index(riga, colonna).data().toString();
     }
 
     test::ProgrammaConsegnato programma{1};
@@ -82,7 +83,7 @@ TEST_F(PannelloSezioneTest, FollowsEachKeyWithStiffnessAndChecks) {
     EXPECT_GT(cella(0, 2).toDouble(), MRd.toDouble());
     scrivi("Text7", "0");
     EXPECT_TRUE(trova<QLabel>("valori").text().endsWith("Mancano: spessore del diaframma."));
-    EXPECT_EQ(trova<QTableWidget>("verifiche").rowCount(), 0);
+    EXPECT_EQ(trova<QTableView>("verifiche").model()->rowCount(), 0);
     EXPECT_TRUE(trova<VistaDominio>("dominio").dominio().empty());
 }
 
@@ -92,7 +93,7 @@ TEST_F(PannelloSezioneTest, ShowsTheDomainOnceTypingRests) {
     const auto& dominio = trova<VistaDominio>("dominio");
     EXPECT_TRUE(QTest::qWaitFor([&] { return !dominio.dominio().empty(); }));
     EXPECT_FALSE(dominio.accessibleDescription().isEmpty());
-    EXPECT_EQ(trova<QTableWidget>("fasi").rowCount(), 2);
+    EXPECT_EQ(trova<QTableView>("fasi").model()->rowCount(), 2);
     Sezione scritta = project::Progetto.sezione;
     scritta.spessoreDiaframma = 90;
     EXPECT_EQ(dominio.dominio().back().Nd, structure::dominioNM(scritta).back().Nd);

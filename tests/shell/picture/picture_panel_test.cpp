@@ -90,7 +90,7 @@ TEST_F(PannelloFiguraTest, ReadsTheWallUnderTheMouse) {
     mouse(3);
     ASSERT_TRUE(vista().profondita());
     EXPECT_NEAR(*vista().profondita(), 3, 1 / vista().scena().scala);
-    EXPECT_TRUE(lettura().contains(" kN m")) << lettura().toStdString();
+    EXPECT_TRUE(lettura().contains(" kN m/m")) << lettura().toStdString();
     EXPECT_TRUE(lettura().contains("Sabbia, limosa"));
     QTest::mouseMove(&vista(), QPoint(2, 2));
     QCoreApplication::processEvents();
