@@ -2,7 +2,11 @@
 
 #include <utility>
 
+#include "shell/accessible_roles.hpp"
+
 namespace korven::shell {
+
+Applicazione::Applicazione(int& argc, char** argv) : QApplication(argc, argv) { insegnaRuoli(); }
 
 bool Applicazione::notify(QObject* destinatario, QEvent* evento) {
     try {

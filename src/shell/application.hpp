@@ -9,7 +9,8 @@ namespace korven::shell {
 /// through its handlers, so it is kept here and all loops are ended.
 class Applicazione : public QApplication {
  public:
-    using QApplication::QApplication;
+    /// Screen readers are told the roles of accessible_roles.hpp from now on.
+    Applicazione(int& argc, char** argv);
 
     bool notify(QObject* destinatario, QEvent* evento) override;
 

@@ -137,7 +137,14 @@ void SessioneAManiLibere::guarda() {
     const QWidget* modale = QApplication::activeModalWidget();
     const bool ferma = (modale == nullptr && sessione_->finestra().isEnabled()) || formaAperta();
     if (!ferma || QApplication::activePopupWidget() != nullptr) return;
-    if (const auto cosa = vitaDiversa(*sessione_); !cosa.empty()) guasto("live project: " + cosa);
+    const QWidget* forma = formaAperta();
+    std::string cosa = vitaDiversa(*sessione_, forma);
+    // Before anything is typed the project is shown, which confirming the form may change: it puts
+    // rows in order.
+    if (forma != nullptr && forma == forma_ && contenutoDi(*forma) == iniziale_ &&
+        vitaDiversa(*sessione_, nullptr).empty())
+        cosa.clear();
+    if (!cosa.empty()) guasto("live project: " + cosa);
 }
 
 void SessioneAManiLibere::cominciaRitorno() {
@@ -197,7 +204,7 @@ void SessioneAManiLibere::finisci() {
         return;
     }
     if (guasto_.empty())
-        if (const auto cosa = vitaDiversa(*sessione_); !cosa.empty())
+        if (const auto cosa = vitaDiversa(*sessione_, nullptr); !cosa.empty())
             guasto("live project at the end: " + cosa);
     QCoreApplication::quit();
 }

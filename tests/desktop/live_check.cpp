@@ -64,14 +64,14 @@ std::string differenza(const ContenutoForma& una, const ContenutoForma& altra) {
     return {};
 }
 
-std::string vitaDiversa(const desktop::Sessione& sessione) {
+std::string vitaDiversa(const desktop::Sessione& sessione, const QWidget* forma) {
     const live::ProgettoVivo& vivo = sessione.vita().vivo();
     const bool aperto = !project::fileCorrente.empty();
     if (vivo.aperto() != aperto) return aperto ? "not seen as open" : "seen as open";
     if (!aperto) return {};
     live::ProgettoVivo nuovo;
     nuovo.guarda(&project::Progetto);
-    if (const QWidget* forma = formaAperta()) {
+    if (forma != nullptr) {
         if (const auto* maschera = qobject_cast<const shell::FormaMaschera*>(forma)) {
             auto valori = maschera->valori();
             valori.maschera = static_cast<masks::NumeroMaschera>(sessione.maschere().numero());

@@ -27,9 +27,10 @@ struct ContenutoForma {
 /// Where two of them differ; empty if nowhere.
 [[nodiscard]] std::string differenza(const ContenutoForma& una, const ContenutoForma& altra);
 
-/// What of the live project is not what the open project and the open form give when they are
-/// computed afresh; empty if all is.
-[[nodiscard]] std::string vitaDiversa(const desktop::Sessione& sessione);
+/// What of the live project is not what the open project gives when it is computed afresh; empty if
+/// all is.
+/// @param forma  a form of `formaAperta`, whose values count; nullptr: the project alone
+[[nodiscard]] std::string vitaDiversa(const desktop::Sessione& sessione, const QWidget* forma);
 
 /// What is wrong with the windows that are open: one without title; empty if nothing is.
 [[nodiscard]] std::string finestreStrane();

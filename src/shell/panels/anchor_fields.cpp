@@ -75,12 +75,14 @@ void CampiTirante::fareScelte() {
     genere_ = new QComboBox(this);
     genere_->setObjectName(QStringLiteral("calcoloGenere"));
     genere_->setAccessibleName(tradotto("Che cosa si calcola"));
+    genere_->setAccessibleDescription(genere_->accessibleName());
     genere_->addItems({tradotto("Tirante"), tradotto("Puntone contro un appoggio fisso"),
                        tradotto("Puntone tra due pareti uguali: conta metà")});
     genere_->setCurrentIndex(static_cast<int>(ingressi_.genere));
     misura_ = new QComboBox(this);
     misura_->setObjectName(QStringLiteral("calcoloMisura"));
     misura_->setAccessibleName(tradotto("Come si dà l'area"));
+    misura_->setAccessibleDescription(misura_->accessibleName());
     auto ingressi = ingressi_;
     for (const auto misura : {panels::MisuraArea::area, panels::MisuraArea::diametro}) {
         ingressi.misuraArea = misura;
@@ -161,6 +163,8 @@ void CampiTirante::mostra() {
         const QString nome = qt(panels::etichetta(static_cast<VoceCalcolo>(i), ingressi_));
         if (etichette_[i] != nullptr) etichette_[i]->setText(nome);
         campi_[i]->setAccessibleName(nome);
+        if (auto* scelta = qobject_cast<QComboBox*>(campi_[i]))
+            scelta->lineEdit()->setAccessibleName(nome);
     }
     const auto k = panels::rigidezza(ingressi_), p = panels::pretensione(ingressi_);
     const auto A = panels::area(ingressi_);

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "scene/domain.hpp"
+#include "shell/accessible_roles.hpp"
 #include "shell/qt_text.hpp"
 
 namespace korven::shell {
@@ -20,6 +21,7 @@ scene::Rgb rgb(const QColor& colore) {
 VistaDominio::VistaDominio(QWidget* padre) : QWidget(padre) {
     setObjectName(QStringLiteral("dominio"));
     setAccessibleName(tradotto("Dominio N–M"));
+    presentaFigura(*this);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 

@@ -241,8 +241,8 @@ void SceglieCampitura::mostra() {
     immagine_->setPixmap(
         immagineCampitura(scelta_.campitura(), coloreScelto(), campione, devicePixelRatioF()));
     const QString testo = qt(scelta_.descrizione());
-    immagine_->setAccessibleName(tradotto("Campitura dello strato") + ": " +
-                                 livelli_[0].nome->text() + ", " + livelli_[1].nome->text());
+    immagine_->setAccessibleName(tradotto("Campitura dello strato"));
+    immagine_->setAccessibleDescription(livelli_[0].nome->text() + ", " + livelli_[1].nome->text());
     descrizione_->setText(tradotto("Descrizione dello strato") + ": " + testo);
 }
 

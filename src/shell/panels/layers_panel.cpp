@@ -100,7 +100,8 @@ void PannelloStrati::mostra() {
         nome_->clear();
         immagine_->clear();
     }
-    immagine_->setAccessibleName(tradotto("Campitura dello strato") + ": " + nome_->text());
+    immagine_->setAccessibleName(tradotto("Campitura dello strato"));
+    immagine_->setAccessibleDescription(nome_->text());
 }
 
 void PannelloStrati::scegliCampitura() {

@@ -191,7 +191,7 @@ void ScegliProfilo::mostra() {
     con.scrivi({}, testi());
     schizzo_->mostra(drawings::schizzoSezione(tipo_, con.letta()));
     schizzo_->setAccessibleDescription(profilo != nullptr ? qt(profiles::misureMostrate(*profilo))
-                                                          : QString());
+                                                          : schizzo_->accessibleName());
 }
 
 void ScegliProfilo::elimina() {

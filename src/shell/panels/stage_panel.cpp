@@ -4,6 +4,7 @@
 #include <QVBoxLayout>
 
 #include "scene/scene.hpp"
+#include "shell/accessible_roles.hpp"
 #include "shell/qt_text.hpp"
 
 namespace korven::shell {
@@ -29,6 +30,8 @@ scene::Tavolozza tavolozza(const QPalette& colori) {
 SchizzoFase::SchizzoFase(const VitaProgetto& vita, QWidget* genitore)
     : QWidget(genitore), vita_(vita), pittore_(font(), tavolozza(palette())) {
     setObjectName(QStringLiteral("schizzoFase"));
+    setAccessibleName(tradotto("Schizzo della fase"));
+    presentaFigura(*this);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
@@ -80,7 +83,7 @@ void PannelloFasi::aggiorna() {
     const auto& griglia = forma_.modello();
     const auto qui = panels::faseDellaRiga(vita_.vivo(), griglia, griglia.corrente().riga);
     schizzo_->mostra(qui.fase);
-    schizzo_->setAccessibleName(qt(qui.parole));
+    schizzo_->setAccessibleDescription(qt(qui.parole));
     parole_->setText(qt(qui.parole));
 }
 

@@ -3,6 +3,7 @@
 #include <QPainter>
 
 #include "scene/scene.hpp"
+#include "shell/accessible_roles.hpp"
 #include "shell/qt_text.hpp"
 
 namespace korven::shell {
@@ -22,7 +23,9 @@ scene::Tavolozza tavolozza(const QPalette& colori) {
 QuadroStato::QuadroStato(const project::DatiProgetto& dati, QWidget* padre)
     : QWidget(padre), parete_(live::calcola(dati)), pittore_(font(), tavolozza(palette())) {
     setObjectName(QStringLiteral("quadro"));
-    setAccessibleName(qt(scene::descrizione(parete_, {})));
+    setAccessibleName(tradotto("Figura del progetto"));
+    setAccessibleDescription(qt(scene::descrizione(parete_, {})));
+    presentaFigura(*this);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 

@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "device/scene_painter.hpp"
+#include "shell/accessible_roles.hpp"
 #include "shell/qt_text.hpp"
 
 namespace korven::shell {
@@ -42,6 +43,7 @@ VistaCurve::VistaCurve(QWidget* padre) : QWidget(padre) {
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
     setAccessibleName(tradotto("Curve"));
+    presentaFigura(*this);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
@@ -60,7 +62,9 @@ QString VistaCurve::letto() const {
 void VistaCurve::leggi(std::size_t nodo) {
     nodo_ = curve_.z.empty() ? 0 : std::min(nodo, curve_.z.size() - 1);
     const QString testo = curve_.z.empty() ? qt(curve_.perche) : letto();
-    setAccessibleDescription(qt(curve_.titolo) + QStringLiteral(". ") + testo);
+    setAccessibleDescription(qt(curve_.titolo) + QStringLiteral(". ") + testo +
+                             QStringLiteral(". ") +
+                             tradotto("I valori stanno nelle tabelle di Risultati (Ctrl+R)"));
     emit letta(testo);
     update();
 }

@@ -5,6 +5,7 @@
 
 #include "device/scene_painter.hpp"
 #include "scene/scene.hpp"
+#include "shell/accessible_roles.hpp"
 #include "shell/qt_text.hpp"
 
 namespace korven::shell {
@@ -21,6 +22,7 @@ scene::Rgb rgb(const QColor& c) {
 VistaMeccanismo::VistaMeccanismo(QWidget* padre) : QWidget(padre) {
     setObjectName(QStringLiteral("meccanismo"));
     setAccessibleName(tradotto("Figura del meccanismo"));
+    presentaFigura(*this);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "shell/accessible_roles.hpp"
 #include "shell/qt_text.hpp"
 
 namespace korven::shell {
@@ -49,6 +50,8 @@ VistaSchizzo::VistaSchizzo(std::function<void(std::size_t)> scelto, QWidget* gen
       monte_(tradotto("LATO MONTE")),
       valle_(tradotto("LATO VALLE")) {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    setAccessibleDescription(tradotto("Le misure stanno nei campi accanto"));
+    presentaFigura(*this);
 }
 
 void VistaSchizzo::mostra(drawings::Schizzo schizzo) {

@@ -6,6 +6,8 @@
 #include <utility>
 
 #include "device/screen_surface.hpp"
+#include "shell/accessible_roles.hpp"
+#include "shell/qt_text.hpp"
 
 namespace korven::shell {
 
@@ -13,6 +15,9 @@ SuperficieGrafica::SuperficieGrafica(const device::SuperficieSchermo& disegno,
                                      Trascinato trascinato, QWidget* padre)
     : QWidget(padre), disegno_(disegno), trascinato_(std::move(trascinato)) {
     setObjectName(QStringLiteral("Picture7"));
+    setAccessibleName(tradotto("Disegno"));
+    setAccessibleDescription(tradotto("I valori stanno nelle tabelle di Risultati (Ctrl+R)"));
+    presentaFigura(*this);
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
 

@@ -32,7 +32,7 @@ TEST_F(PannelloDelleFasi, ShowsTheStageOfTheRowInUse) {
         cursore(2, 1);
         EXPECT_EQ(schizzo().fase(), 2);
         EXPECT_EQ(parole(), panels::paroleFase(live::calcola(muro()), 2));
-        EXPECT_EQ(schizzo().accessibleName().toStdString(), parole());
+        EXPECT_EQ(schizzo().accessibleDescription().toStdString(), parole());
         cursore(3, 1);
         EXPECT_FALSE(schizzo().fase());
         EXPECT_EQ(parole(), "la riga è vuota");
