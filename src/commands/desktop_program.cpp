@@ -28,6 +28,7 @@ bool Programma::puo(const VoceMenu& voce) const {
 }
 
 bool Programma::possibile(const VoceMenu& voce) const {
+    if (inUscita_ && !voce.accanto) return false;
     return voce.possibile == nullptr || voce.possibile(*this);
 }
 

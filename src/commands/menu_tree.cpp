@@ -138,6 +138,11 @@ constexpr VoceMenu staccata(VoceMenu voce) {
     return voce;
 }
 
+constexpr VoceMenu accanto(VoceMenu voce) {
+    voce.accanto = true;
+    return voce;
+}
+
 constexpr VoceMenu voci[] = {
     {"archivi", "&Archivi", 0},
     {"FileApri", "&Apri", 1, 3, nullptr, apri, "Ctrl+O"},
@@ -184,15 +189,15 @@ constexpr VoceMenu voci[] = {
     {"strumenti", "St&rumenti", 0},
     {"annulla", "An&nulla", 1, 35, nullptr, annulla, "Ctrl+Z", annullabile, daAnnullare},
     {"ripeti", "&Ripeti", 1, 35, nullptr, ripeti, "Ctrl+Y", ripetibile, daRipetere},
-    staccata({"controlli", "&Controlli", 1, help::voceOsservazioni, ha<&F::controlli>,
-              mostra<&F::controlli>, "Ctrl+K"}),
-    {"risultati", "R&isultati", 1, 36, ha<&F::risultati>, mostra<&F::risultati>, "Ctrl+R"},
-    {"sicurezza", "&Sicurezza", 1, 37, ha<&F::sicurezza>, mostra<&F::sicurezza>},
+    accanto(staccata({"controlli", "&Controlli", 1, help::voceOsservazioni, ha<&F::controlli>,
+                      mostra<&F::controlli>, "Ctrl+K"})),
+    accanto({"risultati", "R&isultati", 1, 36, ha<&F::risultati>, mostra<&F::risultati>, "Ctrl+R"}),
+    accanto({"sicurezza", "&Sicurezza", 1, 37, ha<&F::sicurezza>, mostra<&F::sicurezza>}),
     staccata({"nuovo", "Nu&ovo", 1, 38, ha<&F::nuovo>, nuovo}),
     {"duplica", "&Duplica", 1, 39, nullptr, duplica, "", progettoAperto},
     {"recenti", "R&ecenti", 1, 40, nullptr, nullptr, "", nullptr, nullptr, recenti},
     staccata({"lingua", "Lin&gua", 1, 41, ha<&F::lingua>, lingua}),
-    {"tasti", "&Tasti", 1, 42, ha<&F::tasti>, mostra<&F::tasti>},
+    accanto({"tasti", "&Tasti", 1, 42, ha<&F::tasti>, mostra<&F::tasti>}),
 
     {"fine", "&Uscita", 0, 0, nullptr, esci, "Ctrl+Q"},
 

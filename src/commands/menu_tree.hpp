@@ -42,6 +42,9 @@ struct VoceMenu {
     /// in the tree.
     std::vector<VoceMutevole> (*riempi)(Programma& programma) = nullptr;
     bool staccata = false;  ///< a line parts it from the item above
+    /// It opens a window beside the main form and changes nothing: also while a drawing is shown,
+    /// which the main form waits for.
+    bool accanto = false;
 };
 
 /// The menu from left to right and from top to bottom.

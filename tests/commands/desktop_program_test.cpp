@@ -385,6 +385,24 @@ TEST_F(ProgrammaTest, AsksWhetherACommandHasAnythingToDo) {
     EXPECT_TRUE(p.possibile(voceMenu("duplica")));
 }
 
+// The windows beside the main form have its keys, and stay in use while a drawing is shown.
+TEST_F(ProgrammaTest, TakesNoOtherCommandWhileADrawingIsShown) {
+    FormeProgramma forme;
+    std::vector<std::string_view> possibili;
+    const Programma* questo = nullptr;
+    forme.grafica = [&] {
+        for (const auto& voce : albero())
+            if (!apreMenu(voce) && questo->possibile(voce)) possibili.push_back(voce.nome);
+    };
+    auto p = programma(forme);
+    questo = &p;
+    EXPECT_TRUE(p.possibile(voceMenu("FileApri")));
+    p.produci([](const PorteUscita& porte) { porte.forme.grafica(); });
+    EXPECT_EQ(possibili,
+              (std::vector<std::string_view>{"controlli", "risultati", "sicurezza", "tasti"}));
+    EXPECT_TRUE(p.possibile(voceMenu("FileApri")));
+}
+
 TEST_F(ProgrammaTest, StartsAgainInAnotherLanguageAfterTheQuestionAboutUnsavedWork) {
     bool voluto = false;
     int riavvii = 0;

@@ -6,6 +6,7 @@
 
 #include <QLabel>
 
+#include "base/code_page.hpp"
 #include "support/panel_bench.hpp"
 #include "support/wall_builder.hpp"
 
@@ -28,14 +29,14 @@ class PannelloDelleFasi : public test::BancoPannelli {
 TEST_F(PannelloDelleFasi, ShowsTheStageOfTheRowInUse) {
     apri([&] {
         EXPECT_EQ(schizzo().fase(), 1);
-        EXPECT_EQ(parole(), panels::paroleFase(live::calcola(muro()), 1));
+        EXPECT_EQ(parole(), base::conMaiuscola(panels::paroleFase(live::calcola(muro()), 1)));
         cursore(2, 1);
         EXPECT_EQ(schizzo().fase(), 2);
-        EXPECT_EQ(parole(), panels::paroleFase(live::calcola(muro()), 2));
+        EXPECT_EQ(parole(), base::conMaiuscola(panels::paroleFase(live::calcola(muro()), 2)));
         EXPECT_EQ(schizzo().accessibleDescription().toStdString(), parole());
         cursore(3, 1);
         EXPECT_FALSE(schizzo().fase());
-        EXPECT_EQ(parole(), "la riga è vuota");
+        EXPECT_EQ(parole(), "La riga è vuota");
     });
 }
 
@@ -46,7 +47,7 @@ TEST_F(PannelloDelleFasi, FollowsWhatIsTyped) {
         QTest::keyClicks(&griglia(), "4");
         auto dati = muro();
         dati.profFase[2] = 4;
-        EXPECT_EQ(parole(), panels::paroleFase(live::calcola(dati), 2));
+        EXPECT_EQ(parole(), base::conMaiuscola(panels::paroleFase(live::calcola(dati), 2)));
         EXPECT_NE(schizzo().grab().toImage(), prima);
     });
 }
@@ -58,12 +59,12 @@ TEST_F(PannelloDelleFasi, KeepsTheLastSketchAndSaysWhatIsInTheWay) {
         QTest::keyClick(&griglia(), Qt::Key_Backspace);
         EXPECT_EQ(schizzo().fase(), 2);
         EXPECT_TRUE(parole().starts_with(
-            "come era prima di ciò che si scrive (riga 2: dati incompleti): la fase 2 sta"))
+            "Come era prima di ciò che si scrive (riga 2: dati incompleti): la fase 2 sta"))
             << parole();
         cursore(3, 1);
         QTest::keyClicks(&griglia(), "5");
         EXPECT_FALSE(schizzo().fase());
-        EXPECT_EQ(parole(), "riga 2: dati incompleti");
+        EXPECT_EQ(parole(), "Riga 2: dati incompleti");
     });
 }
 
