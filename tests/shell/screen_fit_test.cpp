@@ -231,6 +231,8 @@ void PrintTo(const Schermo& schermo, std::ostream* dove) { *dove << schermo.nome
 
 // The last two show everything twice as large: the whole of the window, and its letters alone.
 constexpr Schermo schermi[] = {{"Piccolo", 1024, 600, "1", 96},
+                               {"ScalaUnQuarto", 1280, 750, "1.25", 96},
+                               {"ScalaUnMezzo", 1536, 900, "1.5", 96},
                                {"ScalaDoppia", 1920, 1080, "2", 96},
                                {"CaratteriDoppi", 1920, 1080, "1", 192}};
 

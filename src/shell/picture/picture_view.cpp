@@ -58,7 +58,7 @@ VistaFigura::VistaFigura(const live::ProgettoVivo& vivo, QWidget* genitore)
 void VistaFigura::aggiorna() {
     if (!vivo_.aperto()) return;
     invalida();
-    setAccessibleDescription(qt(scene::descrizione(vivo_.parete(), vivo_.vista())) + ". " +
+    setAccessibleDescription(qt(scene::descrizione(vivo_.parete(), vivo_.vista())) + '\n' +
                              tradotto("I valori stanno nelle tabelle di Risultati (Ctrl+R)"));
     rileggi();
 }

@@ -62,8 +62,7 @@ QString VistaCurve::letto() const {
 void VistaCurve::leggi(std::size_t nodo) {
     nodo_ = curve_.z.empty() ? 0 : std::min(nodo, curve_.z.size() - 1);
     const QString testo = curve_.z.empty() ? qt(curve_.perche) : letto();
-    setAccessibleDescription(qt(curve_.titolo) + QStringLiteral(". ") + testo +
-                             QStringLiteral(". ") +
+    setAccessibleDescription(qt(curve_.titolo) + QStringLiteral(". ") + testo + '\n' +
                              tradotto("I valori stanno nelle tabelle di Risultati (Ctrl+R)"));
     emit letta(testo);
     update();
