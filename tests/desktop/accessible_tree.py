@@ -1,5 +1,8 @@
 """The tree of a running program as a screen reader meets it.
 
+accessible_tree.py --spoken PROGRAM TITLE: prints name and description of each part of the window,
+a table row by row.
+
 accessible_tree.py PROGRAM TITLE: walks the window of that title, prints what is wrong, a line each,
 and ends with 1 if anything is.
 
@@ -182,5 +185,20 @@ def main(program, title):
     return 1 if found else 0
 
 
+def spoken(program, title):
+    root = window_of(program, title)
+    if root is None:
+        return 1
+    for node in walk(root):
+        print(f"{node.role}: {node.name}. {node.description}")
+        if node.role in TABLES:
+            columns = range(len(node.heads()))
+            for row in range(min(node.rows(), 20)):
+                print("; ".join(node.cell(row, column) for column in columns))
+    return 0
+
+
 if __name__ == "__main__":
+    if sys.argv[1] == "--spoken":
+        sys.exit(spoken(*sys.argv[2:]))
     sys.exit(main(*sys.argv[1:]))
