@@ -17,4 +17,8 @@ std::string numeroMostrato(double valore, int decimali, const Unita& unita) {
     return {testo, fine};
 }
 
+std::string numeroRelazione(double mostrato) {
+    return std::isfinite(mostrato) ? base::formattaDecimali(mostrato, 2) : "-";
+}
+
 }  // namespace korven::project

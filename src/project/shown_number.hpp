@@ -12,4 +12,9 @@ namespace korven::project {
 [[nodiscard]] std::string numeroMostrato(double valore, int decimali,
                                          const Unita& unita = unita::nessuna);
 
+/// A number that the report has, by its digits: rounded to four decimals and cut to two. Wherever a
+/// number is called the report's it is written with these.
+/// @param mostrato  in the shown unit; "-" for no number
+[[nodiscard]] std::string numeroRelazione(double mostrato);
+
 }  // namespace korven::project

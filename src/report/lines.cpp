@@ -1,13 +1,13 @@
 #include "report/lines.hpp"
 
-#include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
+#include "project/shown_number.hpp"
 
 namespace korven::report {
 
 namespace {
 
-std::string numero(double valore) { return base::formattaDecimali(valore, 2); }
+using project::numeroRelazione;
 
 void cella(std::string& riga, std::string_view testo) {
     if (!riga.empty()) riga += '\t';
@@ -50,7 +50,7 @@ void RigheRelazione::intestazione(std::span<const project::Membro> colonne) {
 
 void RigheRelazione::valori(const std::vector<double>& numeri, std::string_view chiave) {
     std::string celle;
-    for (const double valore : numeri) cella(celle, numero(valore));
+    for (const double valore : numeri) cella(celle, numeroRelazione(valore));
     if (!chiave.empty()) cella(celle, base::traduttore(chiave));
     riga(celle);
 }
@@ -72,7 +72,8 @@ void RigheRelazione::valori(const project::DatiProgetto& dati,
 void RigheRelazione::lista(const std::vector<Voce>& voci) {
     riga("#STARTLIST");
     for (const auto& voce : voci)
-        if (voce.presente) riga(base::traduttore(voce.etichetta) + '\t' + numero(voce.valore));
+        if (voce.presente)
+            riga(base::traduttore(voce.etichetta) + '\t' + numeroRelazione(voce.valore));
     riga("#ENDLIST");
 }
 

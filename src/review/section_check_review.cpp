@@ -1,7 +1,6 @@
 #include <cmath>
 
 #include "base/filled_text.hpp"
-#include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
 #include "project/shown_number.hpp"
 #include "review/result_checks.hpp"
@@ -63,11 +62,6 @@ Rinforzo rinforzoTaglio(bool bielle) {
             {&Sezione::armDiamStaffe, &Sezione::armPassoStaffe}};
 }
 
-// A number in its shown unit, with the digits of the report.
-std::string cifre(double mostrato) {
-    return std::isfinite(mostrato) ? base::formattaDecimali(mostrato, 2) : "-";
-}
-
 Soggetto campi(const Rinforzo& rinforzo) {
     Soggetto soggetto;
     for (const auto campo : rinforzo.campi)
@@ -88,19 +82,21 @@ void flessione(const DatiProgetto& dati, bool positivo, double Md, double MRd,
     elenco.aggiungi(
         "flessione-non-verificata", campi(rinforzo),
         {traduttore(positivo ? "momento positivo" : "momento negativo"),
-         cifre(mostrato(unita::momento, Md)), std::to_string(dove.fase), numeroMostrato(dove.z, 2),
-         cifre(mostrato(unita::momento, MRd)), uso(Md, MRd), traduttore(rinforzo.testo)});
+         project::numeroRelazione(mostrato(unita::momento, Md)), std::to_string(dove.fase),
+         numeroMostrato(dove.z, 2), project::numeroRelazione(mostrato(unita::momento, MRd)),
+         uso(Md, MRd), traduttore(rinforzo.testo)});
 }
 
 void taglio(const structure::ConfrontoTaglio& c, bool bielle, const results::NumeroRelazione& dove,
             ElencoOsservazioni& elenco) {
     const Rinforzo rinforzo = rinforzoTaglio(bielle);
     const double VRd = bielle ? c.Vrd2 : c.Vrd3;
-    elenco.aggiungi("taglio-non-verificato", campi(rinforzo),
-                    {cifre(c.Vsd), std::to_string(dove.fase), numeroMostrato(dove.z, 2),
-                     traduttore(bielle ? "resistenza delle bielle di calcestruzzo"
-                                       : "resistenza dell'armatura d'anima"),
-                     cifre(VRd), uso(c.Vsd, VRd), traduttore(rinforzo.testo)});
+    elenco.aggiungi(
+        "taglio-non-verificato", campi(rinforzo),
+        {project::numeroRelazione(c.Vsd), std::to_string(dove.fase), numeroMostrato(dove.z, 2),
+         traduttore(bielle ? "resistenza delle bielle di calcestruzzo"
+                           : "resistenza dell'armatura d'anima"),
+         project::numeroRelazione(VRd), uso(c.Vsd, VRd), traduttore(rinforzo.testo)});
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include "live/envelope.hpp"
 #include "project/field_table.hpp"
 #include "safety/margin_words.hpp"
+#include "tables/check_table.hpp"
 #include "tables/node_table.hpp"
 
 namespace korven::tables {
@@ -64,7 +65,11 @@ Cella tiro(const std::vector<double>& tiri, int j) {
 
 Cella relazione(const Margine* margine, int j) {
     if (margine == nullptr) return parola(inArrivo);
-    return margine->relazione ? tiro(margine->relazione->tiriMassimi, j) : Cella{};
+    if (!margine->relazione) return {};
+    const auto& tiri = margine->relazione->tiriMassimi;
+    return j > static_cast<int>(tiri.size())
+               ? Cella{}
+               : cifre(mostrato(unita::forzaAlMetro, tiri[static_cast<std::size_t>(j) - 1]));
 }
 
 }  // namespace

@@ -3,7 +3,6 @@
 #include <cmath>
 #include <optional>
 
-#include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
 #include "live/section_checks.hpp"
 #include "project/shown_number.hpp"
@@ -99,7 +98,7 @@ void note(const PareteViva& parete, const Margine& margine, Prospetto& p) {
 
 Cella cifre(double mostrato) {
     if (!std::isfinite(mostrato)) return {};
-    return {.testo = base::formattaDecimali(mostrato, 2), .numero = mostrato + 0.0};
+    return {.testo = project::numeroRelazione(mostrato), .numero = mostrato + 0.0};
 }
 
 Cella uso(double progetto, double resistenza) {

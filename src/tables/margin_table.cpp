@@ -10,6 +10,7 @@
 #include "review/limits.hpp"
 #include "safety/margin_words.hpp"
 #include "safety/words.hpp"
+#include "tables/check_table.hpp"
 
 namespace korven::tables {
 
@@ -56,16 +57,18 @@ void riga(int fase, const project::Unita& u, const char* cosa, const safety::Con
     p.righe.push_back({cella(fase), parola(traduttore(cosa) + " " + traParentesi(u)),
                        valore(c.statica.valore),
                        c.statica.fase > 0 ? profondita(c.statica.z) : Cella{},
-                       c.relazione ? valore(c.relazione->valore) : Cella{},
+                       c.relazione ? cifre(mostrato(u, c.relazione->valore)) : Cella{},
                        c.relazione ? profondita(c.relazione->z) : Cella{}});
 }
 
 void riga(int fase, const safety::ConfrontoTiro& tiro, Prospetto& p) {
-    p.righe.push_back({cella(fase),
-                       parola(traduttore("tirante") + " " + std::to_string(tiro.tirante) + " " +
-                              traParentesi(unita::forzaAlMetro)),
-                       forza(tiro.statica), Cella{},
-                       tiro.relazione ? forza(tiro.relazione->valore) : Cella{}, Cella{}});
+    p.righe.push_back(
+        {cella(fase),
+         parola(traduttore("tirante") + " " + std::to_string(tiro.tirante) + " " +
+                traParentesi(unita::forzaAlMetro)),
+         forza(tiro.statica), Cella{},
+         tiro.relazione ? cifre(mostrato(unita::forzaAlMetro, tiro.relazione->valore)) : Cella{},
+         Cella{}});
 }
 
 void riga(const project::Unita& u, const char* cosa, Cella (*valore)(double),

@@ -40,20 +40,22 @@ std::string tabellaFasi(const Margine& margine) {
 // A moment or a shear of one stage as a row.
 void riga(int fase, std::string_view cosa, const Unita& u, const safety::Confronto& c,
           TabellaTesto& tabella) {
-    tabella.riga({std::to_string(fase), titolo(cosa, u), numeroMostrato(c.statica.valore, 2, u),
-                  c.statica.fase > 0 ? numeroMostrato(c.statica.z, 2) : nessuno,
-                  c.relazione ? numeroMostrato(c.relazione->valore, 2, u) : nessuno,
-                  c.relazione ? numeroMostrato(c.relazione->z, 2) : nessuno});
+    tabella.riga(
+        {std::to_string(fase), titolo(cosa, u), numeroMostrato(c.statica.valore, 2, u),
+         c.statica.fase > 0 ? numeroMostrato(c.statica.z, 2) : nessuno,
+         c.relazione ? project::numeroRelazione(mostrato(u, c.relazione->valore)) : nessuno,
+         c.relazione ? numeroMostrato(c.relazione->z, 2) : nessuno});
 }
 
 void riga(int fase, const safety::ConfrontoTiro& tiro, TabellaTesto& tabella) {
-    tabella.riga(
-        {std::to_string(fase),
-         traduttore("tirante") + " " + std::to_string(tiro.tirante) + " " +
-             traParentesi(unita::forza),
-         numeroMostrato(tiro.statica, 2, unita::forza), nessuno,
-         tiro.relazione ? numeroMostrato(tiro.relazione->valore, 2, unita::forza) : nessuno,
-         nessuno});
+    tabella.riga({std::to_string(fase),
+                  traduttore("tirante") + " " + std::to_string(tiro.tirante) + " " +
+                      traParentesi(unita::forza),
+                  numeroMostrato(tiro.statica, 2, unita::forza), nessuno,
+                  tiro.relazione
+                      ? project::numeroRelazione(mostrato(unita::forza, tiro.relazione->valore))
+                      : nessuno,
+                  nessuno});
 }
 
 std::string tabellaStatica(const Margine& margine) {
