@@ -63,18 +63,16 @@ Cella tiro(const std::vector<double>& tiri, int j) {
                                              : forza(tiri[static_cast<std::size_t>(j) - 1]);
 }
 
-Cella relazione(const Margine* margine, int j) {
-    if (margine == nullptr) return parola(inArrivo);
-    if (!margine->relazione) return {};
+Cella relazione(const Margine* margine, bool inCorso, int j) {
+    if (inCorso) return parola(inArrivo);
+    if (margine == nullptr || !margine->relazione) return {};
     const auto& tiri = margine->relazione->tiriMassimi;
     return j > static_cast<int>(tiri.size())
                ? Cella{}
                : cifre(mostrato(unita::forzaAlMetro, tiri[static_cast<std::size_t>(j) - 1]));
 }
 
-}  // namespace
-
-Prospetto prospettoTiranti(const PareteViva& parete, const Margine* margine) {
+Prospetto prospetto(const PareteViva& parete, const Margine* margine, bool inCorso) {
     const DatiProgetto& dati = parete.dati;
     Prospetto p{.titolo = traduttore("Tiranti"), .colonne = colonne(nFasi(dati))};
     const std::vector<double> massimi = live::inviluppo(parete).tiri;
@@ -86,7 +84,7 @@ Prospetto prospettoTiranti(const PareteViva& parete, const Margine* margine) {
             riga.push_back(fase == nullptr ? Cella{} : tiro(fase->tiri, j));
         }
         riga.push_back(tiro(massimi, j));
-        riga.push_back(relazione(margine, j));
+        riga.push_back(relazione(margine, inCorso, j));
     }
     if (p.righe.empty()) p.note.push_back(traduttore("Il progetto non ha tiranti."));
     if (!parete.sta()) p.note.push_back(perche(parete, parete.fasiInEquilibrio() + 1));
@@ -94,6 +92,18 @@ Prospetto prospettoTiranti(const PareteViva& parete, const Margine* margine) {
         if (std::string senza = safety::paroleRelazione(*margine); !senza.empty())
             p.note.push_back(senza);
     return p;
+}
+
+}  // namespace
+
+Prospetto prospettoTiranti(const PareteViva& parete, const Margine* margine) {
+    return prospetto(parete, margine, margine == nullptr);
+}
+
+Prospetto prospettoTiranti(const live::ProgettoVivo& vivo) {
+    const auto* lenti = vivo.lenti();
+    const bool noto = lenti != nullptr && lenti->margine;
+    return prospetto(vivo.parete(), noto ? &*lenti->margine : nullptr, lenti == nullptr);
 }
 
 }  // namespace korven::tables

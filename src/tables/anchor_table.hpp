@@ -1,6 +1,6 @@
 #pragma once
 
-#include "live/wall.hpp"
+#include "live/live_project.hpp"
 #include "safety/margin.hpp"
 #include "tables/result_table.hpp"
 
@@ -13,5 +13,10 @@ namespace korven::tables {
 ///                 then "..."
 [[nodiscard]] Prospetto prospettoTiranti(const live::PareteViva& parete,
                                          const safety::Margine* margine);
+
+/// The same of the open project: "..." only as long as an answer is to come, nothing for a wall of
+/// which there is none.
+/// @pre a project is open: asserted
+[[nodiscard]] Prospetto prospettoTiranti(const live::ProgettoVivo& vivo);
 
 }  // namespace korven::tables

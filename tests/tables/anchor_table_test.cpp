@@ -54,6 +54,27 @@ TEST(ProspettoTiranti, SaysThatTheSpecifiedRunGivesNoForces) {
     EXPECT_EQ(p.note[0].find("La relazione non ha numeri"), 0u) << p.note[0];
 }
 
+TEST(ProspettoTiranti, WaitsForTheReportOnlyWhileThereIsOneToCome) {
+    live::ProgettoVivo vivo;
+    auto dati = test::progettoSemplice();
+    const auto relazione = [&vivo] {
+        const Prospetto p = prospettoTiranti(vivo);
+        return p.righe.at(0)[posto(p, "Relazione")].testo;
+    };
+    vivo.guarda(&dati);
+    EXPECT_EQ(relazione(), "...");
+    ASSERT_TRUE(vivo.rispondi(vivo.domanda()->numero, live::calcolaLenti(*vivo.domanda())));
+    EXPECT_TRUE(vivo.lenti()->margine->relazione);
+    EXPECT_NE(relazione(), "...");
+    EXPECT_NE(relazione(), "-");
+    dati.lunghezzaParatia = 0;
+    vivo.guarda(&dati);
+    if (vivo.domanda()) vivo.rispondi(vivo.domanda()->numero, calcolaLenti(*vivo.domanda()));
+    ASSERT_NE(vivo.lenti(), nullptr);
+    ASSERT_FALSE(vivo.lenti()->margine);
+    EXPECT_EQ(relazione(), "-");
+}
+
 TEST(ProspettoTiranti, OfAProjectWithoutAnchorsSaysSo) {
     const Prospetto p = prospettoTiranti(live::calcola(test::muroNudo()), nullptr);
     EXPECT_TRUE(p.righe.empty());

@@ -161,11 +161,7 @@ void FinestraRisultati::seguiPagina() {
     if (pagina == nodi_)
         mostra(fase == 0 ? tables::prospettoInviluppo(parete) : tables::prospettoNodi(parete, fase),
                *nodi_);
-    if (pagina == tiranti_) {
-        const bool noto = vivo.lenti() != nullptr && vivo.lenti()->margine;
-        mostra(tables::prospettoTiranti(parete, noto ? &*vivo.lenti()->margine : nullptr),
-               *tiranti_);
-    }
+    if (pagina == tiranti_) mostra(tables::prospettoTiranti(vivo), *tiranti_);
     if (pagina == verifiche_) mostraVerifiche();
     if (pagina == fasi_) mostra(tables::prospettoFasi(parete), *fasi_);
     if (pagina == curve_) mostraCurve();
