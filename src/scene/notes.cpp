@@ -16,18 +16,24 @@ namespace {
 using base::riempito;
 using base::traduttore;
 
+const std::string punto = "  \u00B7  ";
+
 }  // namespace
 
 std::string titolo(const Mostrata& m) {
     if (m.fase == 0) return traduttore("nessuna fase di scavo");
-    const std::string scavo = "  \u00B7  " + traduttore("scavo") + " " + quota(m.scavo);
-    if (m.vista.fase == 0 && m.parete.fasiInEquilibrio() > 0)
-        return riempito(traduttore("inviluppo delle fasi da 1 a %1"),
-                        {std::to_string(m.parete.fasiInEquilibrio())}) +
-               scavo;
-    return riempito(traduttore("fase %1 di %2"),
-                    {std::to_string(m.fase), std::to_string(m.nFasi())}) +
-           scavo;
+    const std::string scavo = punto + traduttore("scavo") + " " + quota(m.scavo);
+    const std::string fase =
+        riempito(traduttore("fase %1 di %2"), {std::to_string(m.fase), std::to_string(m.nFasi())}) +
+        scavo;
+    const int stanno = m.parete.fasiInEquilibrio();
+    if (m.vista.fase != 0 || stanno == 0) return fase;
+    // The ground and the water are those of the stage that falls, the numbers of those before it.
+    if (m.cade)
+        return fase + punto +
+               riempito(traduttore("curve e tiranti: inviluppo delle fasi da 1 a %1"),
+                        {std::to_string(stanno)});
+    return riempito(traduttore("inviluppo delle fasi da 1 a %1"), {std::to_string(stanno)}) + scavo;
 }
 
 std::vector<Verdetto> verdetti(const Mostrata& m, const std::string& impedimento) {

@@ -286,6 +286,16 @@ TEST(Scena, MovesAMechanismAndSaysWhy) {
               Tratteggio::nessuno);
 }
 
+TEST(Scena, NamesTheStageThatFallsAndTheStagesOfTheCurves) {
+    auto dati = test::progettoSemplice();
+    dati.profFase[2] = 9;
+    dati.tirantiFase[2] = 0;
+    EXPECT_TRUE(dice(testi(scenaDi(dati, {0}), Elemento::nota),
+                     "fase 2 di 2  ·  scavo 9.00 m  ·  curve e tiranti: inviluppo delle fasi da 1 "
+                     "a 1"));
+    EXPECT_TRUE(dice(testi(scenaDi(dati, {2}), Elemento::nota), "fase 2 di 2  ·  scavo 9.00 m"));
+}
+
 TEST(Scena, SaysThatNothingIsKnownAfterAStageThatFalls) {
     auto dati = test::progettoSemplice();
     dati.profFase[1] = 9;
