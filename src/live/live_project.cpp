@@ -68,10 +68,19 @@ void ProgettoVivo::mostra(Vista vista) {
     ++versione_;
 }
 
+// The search for a length that stands is too slow for a key: it comes with the margin.
+void ProgettoVivo::completaPerche() {
+    if (!parete_.perche || !lenti_->margine) return;
+    const auto* caduta = lenti_->margine->caduta();
+    if (caduta != nullptr && caduta->perche && caduta->fase == parete_.perche->fase)
+        parete_.perche = caduta->perche;
+}
+
 bool ProgettoVivo::rispondi(int numero, RisultatiLenti risultati) {
     if (!domanda_ || domanda_->numero != numero) return false;
     domanda_.reset();
     lenti_ = std::move(risultati);
+    completaPerche();
     ++versione_;
     return true;
 }

@@ -25,8 +25,10 @@ struct PareteViva {
     /// Element 0 is stage 1; the last is the first stage that is no equilibrium, or the last of
     /// all. Empty where nothing is computed.
     std::vector<equilibrium::FaseEquilibrio> fasi;
-    std::optional<safety::Diagnosi> perche;  ///< of the last stage, where it is no equilibrium
-    equilibrium::Estremi estremi;            ///< of the stages that stand
+    /// Of the last stage, where it is no equilibrium; without a length that would stand, which
+    /// `ProgettoVivo` adds once it is known.
+    std::optional<safety::Diagnosi> perche;
+    equilibrium::Estremi estremi;  ///< of the stages that stand
 
     /// True if all stages stand.
     [[nodiscard]] bool sta() const;

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "masks/editing.hpp"
+#include "safety/words.hpp"
 #include "structure/offered_stiffness.hpp"
 #include "support/plain_masks.hpp"
 #include "support/sample_projects.hpp"
@@ -89,6 +90,23 @@ TEST_F(ProgettoVivoTest, AsksForTheSlowResultsOnceForEachWall) {
     EXPECT_FALSE(vivo.domanda());
     ASSERT_NE(vivo.lenti(), nullptr);
     EXPECT_TRUE(vivo.lenti()->margine->sta());
+}
+
+TEST_F(ProgettoVivoTest, TellsTheLengthThatStandsOnceItIsKnown) {
+    dati.profFase[2] = 9;
+    dati.tirantiFase[2] = 0;
+    vivo.guarda(&dati);
+    ASSERT_TRUE(vivo.parete().perche);
+    EXPECT_FALSE(vivo.parete().perche->lunghezza);
+    const int versione = vivo.versione();
+    vivo.rispondi(vivo.domanda()->numero, calcolaLenti(*vivo.domanda()));
+    EXPECT_GT(vivo.versione(), versione);
+    const auto& completo = *vivo.lenti()->margine->caduta()->perche;
+    ASSERT_TRUE(completo.lunghezza);
+    EXPECT_EQ(vivo.parete().perche->lunghezza, completo.lunghezza);
+    EXPECT_EQ(safety::frase(*vivo.parete().perche), safety::frase(completo));
+    EXPECT_NE(safety::frase(completo).find("di solito aiuta una paratia più lunga: circa"),
+              std::string::npos);
 }
 
 TEST_F(ProgettoVivoTest, HasNothingSlowToComputeWhereARunIsRefused) {
