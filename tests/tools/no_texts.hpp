@@ -359,6 +359,7 @@ inline const std::map<std::string, Texts> noTexts = {
     {"shell/viewer/export.cpp",
      {"PDF (*.pdf)", "pdf", "SVG (*.svg)", "svg", "PNG (*.png)", "png", "AutoCAD(*.DXF)", "DXF"}},
     {"shell/viewer/strip.cpp", {"striscia"}},
+    {"shell/accessible_roles.cpp", {"figuraAccessibile", "QWidget"}},
     {"plot/dxf/writer.cpp", {"LINE", "TEXT", "ENDSEC", "EOF"}},
     {"plot/plot_configuration.cpp", {"module06", ".cfg"}},
     {"plot/dxf/export.cpp", {"MONOTXT", "dxf.cfg", ".DXF"}},

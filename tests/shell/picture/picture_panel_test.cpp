@@ -22,7 +22,6 @@ namespace {
 class PannelloFiguraTest : public ::testing::Test {
  protected:
     PannelloFiguraTest() : pannello(vita, [this](const QFont&) { ++salvate; }) {
-        insegnaAccessoFigura();
         project::Progetto = test::progettoSemplice();
         project::fileCorrente = ambiente.lavori / "muro.kvd";
         vita.guarda();
@@ -49,6 +48,8 @@ class PannelloFiguraTest : public ::testing::Test {
     test::AmbienteDocumento ambiente;
     VitaProgetto vita;
     int salvate = 0;
+    // Before the first widget that it is asked for.
+    const bool insegnato = (insegnaAccessoFigura(), true);
     PannelloFigura pannello;
 };
 

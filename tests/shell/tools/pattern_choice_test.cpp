@@ -33,7 +33,7 @@ TEST_F(ScegliModello, OffersTheDefaultsAndEachPatternWithItsHeadings) {
                   EXPECT_EQ(lista.item(2)->text(), "due");
                   EXPECT_EQ(lista.item(2)->data(Qt::AccessibleTextRole), "due: Secondo");
                   EXPECT_EQ(lista.currentRow(), 0);
-                  EXPECT_TRUE(lista.hasFocus());
+                  EXPECT_EQ(forma.focusWidget(), &lista);
                   forma.reject();
               }),
               std::nullopt);
