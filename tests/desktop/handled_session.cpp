@@ -112,7 +112,12 @@ void SessioneAManiLibere::prossimo() {
 
 void SessioneAManiLibere::passo() {
     if (!guasto_.empty() || fatti_ >= eventi_) return finisci();
-    if (!sessione_->finestra().isVisible()) return QCoreApplication::quit();
+    if (!sessione_->finestra().isVisible()) {
+        // The program ends with its last window.
+        if (const auto cosa = finestreSole(); !cosa.empty())
+            guasto("left behind by the main form: " + cosa);
+        return QCoreApplication::exit();
+    }
     prossimo();
     ricorda();
     if (ritorno_) return torna();
@@ -206,7 +211,7 @@ void SessioneAManiLibere::finisci() {
     if (guasto_.empty())
         if (const auto cosa = vitaDiversa(*sessione_, nullptr); !cosa.empty())
             guasto("live project at the end: " + cosa);
-    QCoreApplication::quit();
+    QCoreApplication::exit();
 }
 
 }  // namespace korven::test

@@ -1,6 +1,7 @@
 #include "desktop/live_check.hpp"
 
 #include <QApplication>
+#include <QWindow>
 
 #include "desktop/random_hands.hpp"
 #include "live/live_project.hpp"
@@ -83,6 +84,17 @@ std::string vitaDiversa(const desktop::Sessione& sessione, const QWidget* forma)
         if (!nuovo.impedimento().empty()) return {};
     }
     return pareteDiversa(vivo.parete(), nuovo.parete());
+}
+
+std::string finestreSole() {
+    std::string tutte;
+    for (const QWidget* una : QApplication::topLevelWidgets()) {
+        const auto tipo = una->windowType();
+        const bool propria = tipo == Qt::Window || tipo == Qt::Dialog;
+        if (propria && una->isVisible() && una->windowHandle()->transientParent() == nullptr)
+            tutte += (tutte.empty() ? "" : ", ") + nomeDi(*una);
+    }
+    return tutte;
 }
 
 std::string finestreStrane() {

@@ -32,6 +32,10 @@ struct ContenutoForma {
 /// @param forma  a form of `formaAperta`, whose values count; nullptr: the project alone
 [[nodiscard]] std::string vitaDiversa(const desktop::Sessione& sessione, const QWidget* forma);
 
+/// Names of the windows that are open and belong to no other, which keep the program from its end;
+/// empty if there is none.
+[[nodiscard]] std::string finestreSole();
+
 /// What is wrong with the windows that are open: one without title; empty if nothing is.
 [[nodiscard]] std::string finestreStrane();
 
