@@ -4,12 +4,16 @@
 #include <cmath>
 
 #include "base/number_text.hpp"
+#include "base/xml_text.hpp"
 #include "device/drawing_fonts.hpp"
 #include "plot/drawing_watch.hpp"
 
 namespace korven::device {
 
 namespace {
+
+using base::attributoXml;
+using base::inXml;
 
 constexpr double unita = 1000;       // to the centimetre
 constexpr int lineeTracciato = 500;  // a longer path would make programs slow
@@ -30,29 +34,6 @@ std::string colore(plot::Colore colore) {
     return testo;
 }
 
-std::string inXml(std::string_view testo) {
-    std::string scritto;
-    for (const char c : testo) {
-        if (c == '&')
-            scritto += "&amp;";
-        else if (c == '<')
-            scritto += "&lt;";
-        else if (c == '>')
-            scritto += "&gt;";
-        else if (c == '"')
-            scritto += "&quot;";
-        else if ((c >= '\0' && c < ' ') || c == '\x7F')
-            scritto += "\xEF\xBF\xBD";
-        else
-            scritto += c;
-    }
-    return scritto;
-}
-
-std::string attributo(std::string_view nome, std::string_view valore) {
-    return std::string(" ").append(nome).append("=\"").append(valore).append("\"");
-}
-
 }  // namespace
 
 ScrittoreSvg::ScrittoreSvg(const std::string& percorso, const plot::Riquadro& vista,
@@ -64,10 +45,10 @@ ScrittoreSvg::ScrittoreSvg(const std::string& percorso, const plot::Riquadro& vi
 void ScrittoreSvg::inizio() {
     const auto millimetri = [](double cm) { return cifre(10 * cm) + "mm"; };
     pezzo_ = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<svg" +
-             attributo("width", millimetri(vista_.larghezza())) +
-             attributo("height", millimetri(vista_.altezza())) +
-             attributo("viewBox", "0 0 " + cifre(vista_.larghezza() * unita) + ' ' +
-                                      cifre(vista_.altezza() * unita)) +
+             attributoXml("width", millimetri(vista_.larghezza())) +
+             attributoXml("height", millimetri(vista_.altezza())) +
+             attributoXml("viewBox", "0 0 " + cifre(vista_.larghezza() * unita) + ' ' +
+                                         cifre(vista_.altezza() * unita)) +
              " xmlns=\"http://www.w3.org/2000/svg\" version=\"1.1\">\n"
              "<title>KORVEN 32</title>\n"
              "<g stroke-linecap=\"round\" stroke-linejoin=\"round\">\n";
@@ -102,8 +83,9 @@ void ScrittoreSvg::poligono(const plot::PoligonoPlot& poligono) {
         const plot::Punto& v = poligono.vertici[static_cast<std::size_t>(i)];
         punti += (i > 0 ? " " : "") + punto(v.x, v.y);
     }
-    pezzo_ += "<polygon" + attributo("points", punti) + attributo("fill", colore(poligono.colore)) +
-              attributo("stroke", colore(poligono.colore)) + "/>\n";
+    pezzo_ += "<polygon" + attributoXml("points", punti) +
+              attributoXml("fill", colore(poligono.colore)) +
+              attributoXml("stroke", colore(poligono.colore)) + "/>\n";
     scarica(bytePezzo);
 }
 
@@ -113,9 +95,10 @@ void ScrittoreSvg::linea(const plot::Segmento& linea) {
                              linea.colore == ultima_.colore && linea.spessore == ultima_.spessore;
     if (!stessaPenna) {
         chiudiTracciato();
-        pezzo_ += "<path fill=\"none\"" + attributo("stroke", colore(linea.colore)) +
-                  attributo("stroke-width", cifre(std::max(linea.spessore, pennaMinima_) * unita)) +
-                  " d=\"";
+        pezzo_ +=
+            "<path fill=\"none\"" + attributoXml("stroke", colore(linea.colore)) +
+            attributoXml("stroke-width", cifre(std::max(linea.spessore, pennaMinima_) * unita)) +
+            " d=\"";
     }
     const bool prosegue = stessaPenna && linea.x1 == ultima_.x2 && linea.y1 == ultima_.y2;
     if (!prosegue) pezzo_ += 'M' + punto(linea.x1, linea.y1);
@@ -136,18 +119,18 @@ void ScrittoreSvg::testo(const plot::TestoPlot& testo) {
     const QFont font = fontDisegno(testo.carattere);
     const std::string x = cifre((testo.x - vista_.xmin) * unita);
     const std::string y = cifre((vista_.ymax - testo.y) * unita);
-    pezzo_ +=
-        "<text" + attributo("x", x) + attributo("y", y) +
-        attributo("font-family", inXml(testo.carattere) + ", " +
-                                     inXml(font.family().toStdString()) + ", sans-serif") +
-        attributo("font-size", cifre(corpoPerRiga(font, rigaPerAltezza * testo.altezza * unita))) +
-        attributo("fill", colore(testo.colore)) +
-        attributo("textLength", cifre(larghezza * unita)) +
-        " lengthAdjust=\"spacingAndGlyphs\" xml:space=\"preserve\"";
+    pezzo_ += "<text" + attributoXml("x", x) + attributoXml("y", y) +
+              attributoXml("font-family", inXml(testo.carattere) + ", " +
+                                              inXml(font.family().toStdString()) + ", sans-serif") +
+              attributoXml("font-size",
+                           cifre(corpoPerRiga(font, rigaPerAltezza * testo.altezza * unita))) +
+              attributoXml("fill", colore(testo.colore)) +
+              attributoXml("textLength", cifre(larghezza * unita)) +
+              " lengthAdjust=\"spacingAndGlyphs\" xml:space=\"preserve\"";
     if (testo.conteggio == plot::conteggioCentrato) pezzo_ += " text-anchor=\"middle\"";
     if (testo.angolo != 0)
         pezzo_ +=
-            attributo("transform", "rotate(" + cifre(-testo.angolo) + ' ' + x + ' ' + y + ')');
+            attributoXml("transform", "rotate(" + cifre(-testo.angolo) + ' ' + x + ' ' + y + ')');
     pezzo_ += '>' + inXml(testo.testo) + "</text>\n";
     scarica(bytePezzo);
 }
