@@ -4,43 +4,23 @@
 
 #include <algorithm>
 #include <functional>
-#include <map>
 #include <tuple>
 
 #include "analysis/calcolo_paratia.hpp"
 #include "analysis/run_flags.hpp"
 #include "base/code_page.hpp"
-#include "base/file_error.hpp"
 #include "base/folders/file_lock.hpp"
 #include "base/folders/file_names.hpp"
-#include "commands/fatal_error.hpp"
-#include "commands/rescue/kept_rescue.hpp"
-#include "drawings/hatch_library.hpp"
-#include "plot/plot_engine.hpp"
 #include "project/project_file.hpp"
-#include "support/dialog_double.hpp"
 #include "support/document_ports.hpp"
-#include "support/hatch_files.hpp"
-#include "support/plain_masks.hpp"
 #include "support/plot_setup.hpp"
-#include "support/progress_double.hpp"
+#include "support/program_bench.hpp"
 #include "support/sample_projects.hpp"
 
 namespace korven::commands {
 namespace {
 
-class ProgrammaTest : public ::testing::Test {
- protected:
-    Programma programma(FormeProgramma forme) {
-        return {dialogo, nomi, finestra, avanzamento, maschere, std::move(forme)};
-    }
-    test::AmbienteDocumento ambiente;
-    test::DialogoFinto dialogo;
-    test::DialogoFileFinto nomi;
-    test::FinestraFinta finestra;
-    test::AvanzamentoFinto avanzamento;
-    masks::Maschere maschere;
-};
+class ProgrammaTest : public test::BancoProgramma {};
 
 TEST_F(ProgrammaTest, OpensTheHelpAtTheEntryOfEachHelpCommand) {
     std::vector<int> contesti;
@@ -197,131 +177,6 @@ TEST_F(ProgrammaTest, TellsOfAnotherRunThatDoesNotLetGoOfTheResults) {
     EXPECT_EQ(avanzamento.aperture, 1);
 }
 
-// Work that a command leaves unsaved, beside the project "muro.kvd".
-class LavoroNonSalvato : public ProgrammaTest {
- protected:
-    LavoroNonSalvato() {
-        test::metti(muro, base::inCp1252(project::testoProgetto(test::progettoSemplice())));
-        forme.sezione = [this] {
-            project::Progetto.sezione.fck = ++fck;
-            project::modificato = true;
-        };
-        forme.sezioneDa = [this](std::size_t) { forme.sezione(); };
-        forme.anteprima = [](const std::string&) {};
-    }
-    [[nodiscard]] bool recuperato() const {
-        return test::contenuto(ambiente.lavori / "muro_recuperato.kvd") ==
-               byteRecupero(project::Progetto, muro);
-    }
-    [[nodiscard]] bool nessunRecupero() const {
-        return !std::filesystem::exists(ambiente.lavori / "muro_recuperato.kvd");
-    }
-
-    const std::string muro = ambiente.lavori / "muro.kvd";
-    FormeProgramma forme;
-    double fck = 25;
-};
-
-TEST_F(LavoroNonSalvato, IsInTheRescueFileAfterEachConfirmedForm) {
-    auto p = programma(forme);
-    ASSERT_TRUE(p.documento().apriAllAvvio(muro));
-    EXPECT_TRUE(nessunRecupero());
-    p.esegui(voceMenu("EditRigidezza"));
-    EXPECT_TRUE(recuperato());
-    p.editaDa({masks::senzaMaschera, {1, 3}});
-    EXPECT_EQ(project::Progetto.sezione.fck, 27);
-    EXPECT_TRUE(recuperato());
-}
-
-TEST_F(LavoroNonSalvato, LeavesNoRescueFileOnceItIsSavedOrGivenUp) {
-    auto p = programma(forme);
-    ASSERT_TRUE(p.documento().apriAllAvvio(muro));
-    p.esegui(voceMenu("EditRigidezza"));
-    nomi.salvati = {muro};
-    dialogo.risposte = {base::Risposta::si};
-    p.esegui(voceMenu("FileSalva"));
-    EXPECT_TRUE(nessunRecupero());
-
-    p.esegui(voceMenu("EditRigidezza"));
-    test::metti(ambiente.lavori / "altro.kvd", test::contenuto(muro));
-    dialogo.risposte = {base::Risposta::annulla, base::Risposta::no};
-    p.documento().apri(ambiente.lavori / "altro.kvd");
-    EXPECT_TRUE(recuperato());
-    p.documento().apri(ambiente.lavori / "altro.kvd");
-    EXPECT_TRUE(nessunRecupero());
-    EXPECT_EQ(project::fileCorrente, ambiente.lavori / "altro.kvd");
-
-    p.esegui(voceMenu("EditRigidezza"));
-    EXPECT_TRUE(std::filesystem::exists(ambiente.lavori / "altro_recuperato.kvd"));
-    dialogo.risposte = {base::Risposta::annulla, base::Risposta::no};
-    EXPECT_FALSE(p.esegui(voceMenu("fine")));
-    EXPECT_TRUE(std::filesystem::exists(ambiente.lavori / "altro_recuperato.kvd"));
-    EXPECT_TRUE(p.esegui(voceMenu("fine")));
-    EXPECT_FALSE(std::filesystem::exists(ambiente.lavori / "altro_recuperato.kvd"));
-}
-
-// Given up for a project that turns out to be none: the error ends the program, and the work that
-// was open is rescued in the file that is there.
-TEST_F(LavoroNonSalvato, IsRescuedOnceWhenAnErrorEndsTheProgram) {
-    auto p = programma(forme);
-    ASSERT_TRUE(p.documento().apriAllAvvio(muro));
-    p.esegui(voceMenu("EditRigidezza"));
-    test::metti(ambiente.lavori / "rotto.kvd", "due");
-    dialogo.risposte = {base::Risposta::no};
-    EXPECT_THROW(p.documento().apri(ambiente.lavori / "rotto.kvd"), base::ErroreFile);
-    EXPECT_EQ(recuperaProgetto(), ambiente.lavori / "muro_recuperato.kvd");
-    EXPECT_TRUE(recuperato());
-    EXPECT_FALSE(std::filesystem::exists(ambiente.lavori / "muro_recuperato_2.kvd"));
-}
-
-// The session ends while a form is open or a run goes on: what its user has answered holds also for
-// what the command under way still leaves.
-TEST_F(LavoroNonSalvato, LeavesNoRescueFileOfASessionThatEndsDuringACommand) {
-    Programma* aperto = nullptr;
-    forme.editacfg = [&] { EXPECT_TRUE(aperto->fineSessione(true)); };
-    auto p = programma(forme);
-    aperto = &p;
-    ASSERT_TRUE(p.documento().apriAllAvvio(muro));
-    p.esegui(voceMenu("EditRigidezza"));
-    EXPECT_TRUE(recuperato());
-    dialogo.risposte = {base::Risposta::no};
-    p.esegui(voceMenu("configura"));
-    EXPECT_TRUE(nessunRecupero());
-    p.tieniAlSicuro();
-    EXPECT_TRUE(nessunRecupero());
-    p.esegui(voceMenu("EditRigidezza"));  // the end was called off by another program
-    EXPECT_TRUE(recuperato());
-}
-
-TEST_F(LavoroNonSalvato, IsKeptSafeNowAndThenButNotDuringARun) {
-    Programma* aperto = nullptr;
-    bool inForma = false;
-    forme.editacfg = [&] {
-        project::Progetto.titoli[1] = "confermato prima";
-        aperto->tieniAlSicuro();
-        inForma = recuperato();
-    };
-    auto p = programma(forme);
-    aperto = &p;
-    ASSERT_TRUE(p.documento().apriAllAvvio(muro));
-    p.tieniAlSicuro();
-    EXPECT_TRUE(nessunRecupero());
-    p.esegui(voceMenu("EditRigidezza"));
-    std::filesystem::remove(ambiente.lavori / "muro_recuperato.kvd");
-    p.tieniAlSicuro();
-    EXPECT_TRUE(recuperato());
-    p.esegui(voceMenu("configura"));
-    EXPECT_TRUE(inForma);
-    std::filesystem::remove(ambiente.lavori / "muro_recuperato.kvd");
-    avanzamento.adOgniIterazione = [&](const analysis::StatoIterazione&) {
-        p.tieniAlSicuro();
-        EXPECT_TRUE(nessunRecupero());
-    };
-    p.esegui(voceMenu("StampaVideo"));
-    EXPECT_GT(avanzamento.iterazioni, 0);
-    EXPECT_TRUE(recuperato());
-}
-
 using Nomi = std::vector<std::string>;
 
 // The items that can be chosen.
@@ -419,121 +274,6 @@ TEST_F(ProgrammaTest, StartsAgainInAnotherLanguageAfterTheQuestionAboutUnsavedWo
     EXPECT_EQ(riavvii, 0);
     EXPECT_TRUE(p.esegui(voceMenu("lingua")));
     EXPECT_EQ(riavvii, 1);
-}
-
-// With a project open, pens and patterns to draw with, and forms that say that they were shown.
-class MenuIntero : public ProgrammaTest {
- protected:
-    MenuIntero() {
-        plot::scriviConfigurazione(ambiente.programma / "module06ita.cfg",
-                                   test::configurazioneDiProva());
-        test::scriviLibreria(ambiente.programma, {});
-        drawings::dimenticaCampiture();  // those of another test's folder
-        plot::statoPlot = {};
-        maschere.leggiMaschere(test::maschereSemplici(cartella));
-        project::Progetto = test::progettoSemplice();
-        project::fileCorrente = ambiente.lavori / "muro.kvd";
-
-        const auto dice = [this](const char* forma) { return [=, this] { mostrate += forma; }; };
-        const auto riceve = [this](const char* forma) {
-            return [=, this](const std::string&) { mostrate += forma; };
-        };
-        forme.maschera = [this](masks::Maschere& m) { mostrate += "mask " + m.corrente().titolo; };
-        forme.sezione = dice("section");
-        forme.grafica = [this] { mostrate += "viewer of " + plot::statoPlot.nome; };
-        forme.anteprima = riceve("preview");
-        forme.stampa = riceve("printer");
-        forme.esportaDoc = riceve("doc");
-        forme.esportaTxt = riceve("txt");
-        forme.editacfg = dice("pens");
-        forme.impostaStampante = dice("printer set-up");
-        forme.guida = [this](int contesto) { mostrate += "page " + std::to_string(contesto); };
-        forme.sommario = dice("contents");
-        forme.informazioni = riceve("about box");
-        forme.controlli = dice("remarks");
-        forme.risultati = dice("results");
-        forme.sicurezza = dice("safety");
-        forme.nuovo = [this] {
-            mostrate += "pattern, ";
-            return std::string();
-        };
-        forme.lingua = [this] {
-            mostrate += "languages, ";
-            return true;
-        };
-        forme.riavvia = dice("start again, ");
-        forme.tasti = dice("keys");
-    }
-    ~MenuIntero() override { plot::statoPlot = {}; }
-
-    // What an item brings about.
-    std::string esito(std::string_view nome) {
-        auto p = programma(forme);
-        mostrate.clear();
-        nomi.attuali.clear();
-        nomi.proposte.clear();
-        finestra.ultimoStato.clear();
-        nomi.proposteNuovo.clear();
-        if (p.esegui(voceMenu(nome))) mostrate += "end";
-        if (!nomi.attuali.empty()) mostrate += "open dialog";
-        if (!nomi.proposte.empty()) mostrate += "save dialog";
-        if (finestra.ultimoStato.starts_with("Nulla")) mostrate += finestra.ultimoStato;
-        if (!nomi.proposteNuovo.empty()) mostrate += "name dialog";
-        return mostrate;
-    }
-
-    test::CartellaProvvisoria cartella;
-    FormeProgramma forme;
-    std::string mostrate;
-};
-
-TEST_F(MenuIntero, BringsAboutWhatEachItemSays) {
-    const std::map<std::string_view, std::string> attesi = {
-        {"FileApri", "open dialog"},
-        {"FileSalva", "save dialog"},
-        {"PrintSetup", "printer set-up"},
-        {"AiutoFile", "page 24"},
-        {"EditStratigrafia", "mask S"},
-        {"EditParatia", "mask D"},
-        {"EditRigidezza", "section"},
-        {"EditTiranti", "mask A"},
-        {"EditFasi", "mask F"},
-        {"EditTitoli", "mask T"},
-        {"AiutoEdit", "page 25"},
-        {"GraficaMomenti", "viewer of momenti"},
-        {"GraficaSpostamenti", "viewer of spostamenti"},
-        {"GraficaTaglio", "viewer of taglio"},
-        {"GraficaPressioni", "viewer of pressioni"},
-        {"GraficaStruttura", "viewer of sezione"},
-        {"GraficaStratigrafia", "viewer of stratigrafia"},
-        {"StampaVideo", "preview"},
-        {"StampaTabulati", "printer"},
-        {"espotab", "doc"},
-        {"espotabtxt", "txt"},
-        {"configura", "pens"},
-        {"AiutoStampa", "page 26"},
-        {"annulla", "Nulla da annullare"},
-        {"ripeti", "Nulla da ripetere"},
-        {"controlli", "remarks"},
-        {"risultati", "results"},
-        {"sicurezza", "safety"},
-        {"nuovo", "pattern, name dialog"},
-        {"duplica", "name dialog"},
-        {"lingua", "languages, start again, end"},
-        {"tasti", "keys"},
-        {"fine", "end"},
-        {"sommario", "contents"},
-        {"about", "about box"},
-    };
-    std::size_t provate = 0;
-    for (const auto& v : albero()) {
-        if (apreMenu(v)) continue;
-        ++provate;
-        ASSERT_TRUE(attesi.contains(v.nome)) << v.nome;
-        EXPECT_EQ(esito(v.nome), attesi.at(v.nome)) << v.nome;
-    }
-    EXPECT_EQ(provate, attesi.size());
-    EXPECT_TRUE(dialogo.messaggi.empty());
 }
 
 }  // namespace

@@ -5,8 +5,7 @@
 #include <random>
 
 #include "masks/grid_model.hpp"
-#include "support/dialog_double.hpp"
-#include "support/mask_setup.hpp"
+#include "support/grid_model_bench.hpp"
 
 namespace korven::masks {
 namespace {
@@ -14,19 +13,9 @@ namespace {
 using base::Risposta;
 using Testi = std::vector<std::string>;
 
-class StoriaGrigliaTest : public ::testing::Test {
+class StoriaGrigliaTest : public test::BancoModelloGriglia {
  protected:
-    void scrivi(const std::string& testo) {
-        for (const char c : testo)
-            modello.premi(c == '.' ? Tasto::punto : Tasto::carattere, std::string(1, c), dialogo);
-    }
-    void premi(Tasto tasto) { modello.premi(tasto, "", dialogo); }
-    [[nodiscard]] std::string cella() const { return modello.testo(modello.corrente()); }
-
-    Maschera maschera = test::mascheraGriglia();
-    test::DialogoFinto dialogo{Risposta::si};
-    const Testi iniziali{"2", "3", "18", "uno", "0", "8", "19", "due", "1"};
-    ModelloGriglia modello{maschera, iniziali};
+    StoriaGrigliaTest() : BancoModelloGriglia(Risposta::si) {}
 };
 
 TEST_F(StoriaGrigliaTest, TakesBackWhatWasTypedIntoACellAsOneStep) {

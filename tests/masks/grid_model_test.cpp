@@ -3,8 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "base/table.hpp"
-#include "support/dialog_double.hpp"
-#include "support/mask_setup.hpp"
+#include "support/grid_model_bench.hpp"
 
 namespace korven::masks {
 namespace {
@@ -12,19 +11,7 @@ namespace {
 using Testi = std::vector<std::string>;
 using base::Risposta;
 
-class ModelloGrigliaTest : public ::testing::Test {
- protected:
-    void scrivi(const std::string& testo) {
-        for (const char c : testo)
-            modello.premi(c == '.' ? Tasto::punto : Tasto::carattere, std::string(1, c), dialogo);
-    }
-    void premi(Tasto tasto) { modello.premi(tasto, "", dialogo); }
-    [[nodiscard]] std::string cella() const { return modello.testo(modello.corrente()); }
-
-    Maschera maschera = test::mascheraGriglia();
-    test::DialogoFinto dialogo;
-    ModelloGriglia modello{maschera, {"2", "3", "18", "uno", "0", "8", "19", "due", "1"}};
-};
+class ModelloGrigliaTest : public test::BancoModelloGriglia {};
 
 TEST_F(ModelloGrigliaTest, ShowsTheRowsItIsGivenTrimmed) {
     const ModelloGriglia altro(maschera, {"1", " 3 ", "18"});
@@ -91,161 +78,6 @@ TEST_F(ModelloGrigliaTest, MakesAColumnAsWideAsItsLabelOrItsType) {
     EXPECT_EQ(modello.campioniLarghezza(3), (std::array<std::string, 2>{" Nome ", " 88888 "}));
     EXPECT_TRUE(modello.numerica(1));
     EXPECT_FALSE(modello.numerica(3));
-}
-
-TEST_F(ModelloGrigliaTest, ReplacesTheCellByTheFirstCharacterAndAppendsTheNext) {
-    scrivi("45");
-    EXPECT_EQ(cella(), "45");
-    premi(Tasto::backspace);
-    EXPECT_EQ(cella(), "4");
-    premi(Tasto::esc);
-    EXPECT_EQ(cella(), "3");
-    scrivi("6");
-    EXPECT_EQ(cella(), "6");
-}
-
-TEST_F(ModelloGrigliaTest, DoesNotReplaceTheCellByBackspaceOrAPoint) {
-    premi(Tasto::backspace);
-    EXPECT_EQ(cella(), "");
-    modello.vaiA({2, 2}, dialogo);
-    premi(Tasto::backspace);
-    scrivi("8");
-    EXPECT_EQ(cella(), "18");
-    modello.vaiA({1, 2}, dialogo);
-    scrivi(".5");
-    EXPECT_EQ(cella(), "18.5");
-}
-
-TEST_F(ModelloGrigliaTest, TakesDeleteForBackspaceAndAPointForACharacter) {
-    scrivi("1.5");
-    EXPECT_EQ(cella(), "1.5");
-    premi(Tasto::canc);
-    premi(Tasto::canc);
-    EXPECT_EQ(cella(), "1");
-    premi(Tasto::canc);
-    premi(Tasto::canc);
-    EXPECT_EQ(cella(), "");
-}
-
-TEST_F(ModelloGrigliaTest, RemovesWholeCharacters) {
-    modello.vaiA({1, 3}, dialogo);
-    modello.premi(Tasto::carattere, "à", dialogo);
-    modello.premi(Tasto::carattere, "è", dialogo);
-    premi(Tasto::backspace);
-    EXPECT_EQ(cella(), "à");
-}
-
-TEST_F(ModelloGrigliaTest, CopiesWithoutTouchingWhatIsTypedNext) {
-    EXPECT_EQ(modello.copia(), "3\t18\tuno\t0\r\n8\t19\tdue\t1");
-    scrivi("7");
-    EXPECT_EQ(cella(), "7");
-}
-
-TEST_F(ModelloGrigliaTest, MovesOnEnterToTheNextColumnAndRow) {
-    premi(Tasto::invio);
-    EXPECT_EQ(modello.corrente(), (PostoGriglia{1, 2}));
-    modello.vaiA({1, 4}, dialogo);
-    premi(Tasto::invio);
-    EXPECT_EQ(modello.corrente(), (PostoGriglia{2, 1}));
-    modello.vaiA({500, 4}, dialogo);
-    premi(Tasto::invio);
-    EXPECT_EQ(modello.corrente(), (PostoGriglia{500, 4}));
-}
-
-TEST_F(ModelloGrigliaTest, GoesBackTheWayThatEnterGoes) {
-    modello.vaiA({2, 2}, dialogo);
-    modello.arretra(dialogo);
-    EXPECT_EQ(modello.corrente(), (PostoGriglia{2, 1}));
-    modello.arretra(dialogo);
-    EXPECT_EQ(modello.corrente(), (PostoGriglia{1, 4}));
-    modello.vaiA({1, 1}, dialogo);
-    modello.arretra(dialogo);
-    EXPECT_EQ(modello.corrente(), (PostoGriglia{1, 1}));
-}
-
-TEST_F(ModelloGrigliaTest, WritesTheEditorWhenItMovesOn) {
-    modello.apriEditore();
-    modello.scriviEditore("6");
-    modello.avanza(dialogo);
-    EXPECT_EQ(modello.testo({1, 1}), "6");
-    EXPECT_EQ(modello.corrente(), (PostoGriglia{1, 2}));
-    modello.vaiA({500, 4}, dialogo);
-    modello.apriEditore();
-    modello.scriviEditore("7");
-    modello.avanza(dialogo);
-    EXPECT_EQ(modello.testo({500, 4}), "7");
-    EXPECT_FALSE(modello.editoreAperto());
-    EXPECT_EQ(dialogo.messaggi.size(), 1u) << "not one of the keys";
-}
-
-TEST_F(ModelloGrigliaTest, EndsAtTheLastCellOfItsData) {
-    EXPECT_EQ(modello.fine(), (PostoGriglia{2, 4}));
-    EXPECT_EQ(ModelloGriglia(maschera, {}).fine(), (PostoGriglia{1, 1}));
-}
-
-TEST_F(ModelloGrigliaTest, MovesByArrowsInsideTheGrid) {
-    premi(Tasto::su);
-    premi(Tasto::sinistra);
-    EXPECT_EQ(modello.corrente(), (PostoGriglia{1, 1}));
-    premi(Tasto::giu);
-    premi(Tasto::destra);
-    EXPECT_EQ(modello.corrente(), (PostoGriglia{2, 2}));
-}
-
-TEST_F(ModelloGrigliaTest, PutsTheCursorBackOnABadCell) {
-    scrivi("101");
-    premi(Tasto::invio);
-    EXPECT_EQ(modello.corrente(), (PostoGriglia{1, 1}));
-    EXPECT_FALSE(modello.vaiA({2, 2}, dialogo));
-    ASSERT_EQ(dialogo.messaggi.size(), 2u);
-    EXPECT_TRUE(dialogo.messaggi[0].testo.ends_with("all'intervallo:\r\n0; 100"));
-    EXPECT_EQ(dialogo.messaggi[0].titolo, "Prof. [m]");
-    EXPECT_EQ(dialogo.messaggi[0].icona, base::Icona::stop);
-    premi(Tasto::esc);
-    EXPECT_TRUE(modello.vaiA({2, 2}, dialogo));
-}
-
-TEST_F(ModelloGrigliaTest, CutsATextThatIsTooLong) {
-    modello.vaiA({1, 3}, dialogo);
-    scrivi("abcdefg");
-    EXPECT_FALSE(modello.vaiA({1, 4}, dialogo));
-    EXPECT_EQ(cella(), "abcde");
-    EXPECT_TRUE(modello.vaiA({1, 4}, dialogo));
-}
-
-TEST_F(ModelloGrigliaTest, AcceptsAnEmptyCellInEveryColumn) {
-    for (int c = 1; c <= 4; ++c) {
-        modello.vaiA({3, c}, dialogo);
-        scrivi(" ");
-    }
-    modello.vaiA({1, 1}, dialogo);
-    EXPECT_TRUE(dialogo.messaggi.empty());
-    EXPECT_EQ(modello.corrente(), (PostoGriglia{1, 1}));
-}
-
-TEST_F(ModelloGrigliaTest, EditsInAnEditorThatEnterWritesAndEscDrops) {
-    premi(Tasto::f2);
-    EXPECT_TRUE(modello.editoreAperto());
-    EXPECT_EQ(modello.testoEditore(), "3");
-    modello.scriviEditore("35");
-    premi(Tasto::esc);
-    EXPECT_FALSE(modello.editoreAperto());
-    EXPECT_EQ(cella(), "3");
-    modello.apriEditore();  // a double click
-    modello.scriviEditore("35");
-    premi(Tasto::carattere);  // belongs to the editor
-    premi(Tasto::invio);
-    EXPECT_EQ(cella(), "35");
-    EXPECT_EQ(modello.corrente(), (PostoGriglia{1, 1}));
-    premi(Tasto::esc);  // back to what the cell had on entry
-    EXPECT_EQ(cella(), "3");
-}
-
-TEST_F(ModelloGrigliaTest, WritesAnOpenEditorBeforeItLeavesTheCell) {
-    modello.apriEditore();
-    modello.scriviEditore("7");
-    EXPECT_TRUE(modello.vaiA({2, 2}, dialogo));
-    EXPECT_EQ(modello.testo({1, 1}), "7");
 }
 
 TEST_F(ModelloGrigliaTest, LeavesAReadOnlyColumnAlone) {
