@@ -5,8 +5,6 @@
 
 namespace korven::panels {
 
-namespace {
-
 using masks::ModelloGriglia;
 using masks::PostoGriglia;
 
@@ -15,11 +13,13 @@ const std::string& digitato(const ModelloGriglia& griglia, PostoGriglia posto) {
     return inCorso ? griglia.testoEditore() : griglia.testo(posto);
 }
 
-bool haDati(const ModelloGriglia& griglia, int riga) {
+bool rigaHaDati(const ModelloGriglia& griglia, int riga) {
     for (int c = 1; c <= griglia.colonne(); ++c)
         if (!base::senzaSpaziEsterni(digitato(griglia, {riga, c})).empty()) return true;
     return false;
 }
+
+namespace {
 
 // As it is read when the table is taken back.
 double profondita(const ModelloGriglia& griglia, int riga) {
@@ -29,19 +29,25 @@ double profondita(const ModelloGriglia& griglia, int riga) {
 }  // namespace
 
 std::optional<int> rigaConDati(const ModelloGriglia& griglia, int riga) {
-    if (!haDati(griglia, riga)) return {};
+    if (!rigaHaDati(griglia, riga)) return {};
     int n = 1;
-    for (int r = 1; r < riga; ++r) n += haDati(griglia, r);
+    for (int r = 1; r < riga; ++r) n += rigaHaDati(griglia, r);
     return n;
+}
+
+std::optional<int> ultimaSopra(const ModelloGriglia& griglia, int riga) {
+    for (int r = riga - 1; r >= 1; --r)
+        if (rigaHaDati(griglia, r)) return rigaConDati(griglia, r);
+    return {};
 }
 
 // Rows of equal depth stay in the order in which they were typed.
 std::optional<int> tiranteDellaRiga(const ModelloGriglia& griglia, int riga) {
-    if (!haDati(griglia, riga)) return {};
+    if (!rigaHaDati(griglia, riga)) return {};
     const double z = profondita(griglia, riga);
     int n = 1;
     for (int r = 1; r <= masks::CelleGriglia::righe; ++r) {
-        if (r == riga || !haDati(griglia, r)) continue;
+        if (r == riga || !rigaHaDati(griglia, r)) continue;
         const double altra = profondita(griglia, r);
         n += altra < z || (altra == z && r < riga);
     }

@@ -1,6 +1,8 @@
 #include "panels/stage_words.hpp"
 
+#include <algorithm>
 #include <cassert>
+#include <utility>
 
 #include "base/code_page.hpp"
 #include "base/filled_text.hpp"
@@ -59,18 +61,24 @@ std::string paroleFase(const live::PareteViva& parete, int fase) {
 
 namespace {
 
+// What is shown of another stage than that of the row: the sketch stays while a row is begun.
+FaseDellaRiga invece(const live::ProgettoVivo& vivo, std::optional<int> fase, std::string perche) {
+    fase = std::min(fase.value_or(0), vivo.parete().dati.nFasi);
+    if (*fase < 1) return {{}, std::move(perche)};
+    return {fase, std::move(perche) + "; " + paroleFase(vivo.parete(), *fase)};
+}
+
 FaseDellaRiga trovata(const live::ProgettoVivo& vivo, const masks::ModelloGriglia& griglia,
                       int riga) {
     if (!vivo.aperto()) return {};
     const auto fase = rigaConDati(griglia, riga);
-    if (!fase) return {{}, traduttore("la riga è vuota")};
+    if (!fase) return invece(vivo, ultimaSopra(griglia, riga), traduttore("la riga è vuota"));
     const bool mostrata = *fase <= vivo.parete().dati.nFasi;
     if (vivo.impedimento().empty())
         return mostrata ? FaseDellaRiga{fase, paroleFase(vivo.parete(), *fase)} : FaseDellaRiga{};
-    const std::string perche =
-        traduttore("come era prima di ciò che si scrive") + " (" + vivo.impedimento() + ")";
-    if (!mostrata) return {{}, vivo.impedimento()};
-    return {fase, perche + ": " + paroleFase(vivo.parete(), *fase)};
+    if (!mostrata) return invece(vivo, fase, vivo.impedimento());
+    return {fase, traduttore("come era prima di ciò che si scrive") + " (" + vivo.impedimento() +
+                      "): " + paroleFase(vivo.parete(), *fase)};
 }
 
 }  // namespace

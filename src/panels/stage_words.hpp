@@ -20,7 +20,8 @@ struct FaseDellaRiga {
 };
 
 /// Of a row whose table can't be confirmed as it stands the stage is shown as it was last, and the
-/// words begin with what is in the way.
+/// words begin with what is in the way. An empty row, and one that is not complete yet, keep the
+/// last complete row's above it.
 /// @param vivo  the open project, which follows the table
 [[nodiscard]] FaseDellaRiga faseDellaRiga(const live::ProgettoVivo& vivo,
                                           const masks::ModelloGriglia& griglia, int riga);

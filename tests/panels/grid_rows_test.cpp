@@ -30,6 +30,13 @@ TEST_F(RigheDellaGriglia, AreCountedWithoutThoseThatHoldNothing) {
     EXPECT_FALSE(rigaConDati(modello, 500));
 }
 
+TEST_F(RigheDellaGriglia, LieBelowTheLastOneThatHoldsSomething) {
+    EXPECT_FALSE(ultimaSopra(modello, 1));
+    EXPECT_EQ(ultimaSopra(modello, 3), 2);
+    EXPECT_EQ(ultimaSopra(modello, 4), 2);
+    EXPECT_EQ(ultimaSopra(modello, 500), 3);
+}
+
 TEST_F(RigheDellaGriglia, BecomeAnchorsByDepthAndThenAsTyped) {
     EXPECT_EQ(tiranteDellaRiga(modello, 1), 2);
     EXPECT_EQ(tiranteDellaRiga(modello, 2), 1);

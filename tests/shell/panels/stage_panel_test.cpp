@@ -34,7 +34,24 @@ TEST_F(PannelloDelleFasi, ShowsTheStageOfTheRowInUse) {
         EXPECT_EQ(schizzo().fase(), 2);
         EXPECT_EQ(parole(), base::conMaiuscola(panels::paroleFase(live::calcola(muro()), 2)));
         EXPECT_EQ(schizzo().accessibleDescription().toStdString(), parole());
-        cursore(3, 1);
+    });
+}
+
+TEST_F(PannelloDelleFasi, KeepsTheLastRowsStageOnAnEmptyRow) {
+    apri([&] {
+        for (const int riga : {3, 9}) {
+            cursore(riga, 1);
+            EXPECT_EQ(schizzo().fase(), 2);
+            EXPECT_EQ(parole(), "La riga è vuota; " + panels::paroleFase(live::calcola(muro()), 2));
+        }
+    });
+}
+
+TEST_F(PannelloDelleFasi, ShowsNothingWhereNoRowHasData) {
+    auto vuoto = muro();
+    vuoto.nFasi = 0;
+    progetto(vuoto);
+    apri([&] {
         EXPECT_FALSE(schizzo().fase());
         EXPECT_EQ(parole(), "La riga è vuota");
     });
@@ -63,8 +80,8 @@ TEST_F(PannelloDelleFasi, KeepsTheLastSketchAndSaysWhatIsInTheWay) {
             << parole();
         cursore(3, 1);
         QTest::keyClicks(&griglia(), "5");
-        EXPECT_FALSE(schizzo().fase());
-        EXPECT_EQ(parole(), "Riga 2: dati incompleti");
+        EXPECT_EQ(schizzo().fase(), 2);
+        EXPECT_TRUE(parole().starts_with("Riga 2: dati incompleti; la fase 2 ")) << parole();
     });
 }
 
