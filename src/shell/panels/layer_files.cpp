@@ -28,12 +28,20 @@ QString nomeProposto() {
     return QFileInfo(qt(base::nomeUscita(progetto, "strati", "csv"))).fileName();
 }
 
+// Both cases of each letter are matched, which name filters do not promise by themselves. The
+// patterns for it stand in the last brackets, which are not shown.
+QStringList filtriLettura() {
+    return {tradotto("Tabelle e indagini") +
+                " (*.csv, *.txt, *.ags) (*.[cC][sS][vV] *.[tT][xX][tT] *.[aA][gG][sS])",
+            tradotto("Tutti i file") + " (*) (*)"};
+}
+
 std::optional<std::string> daLeggere(QWidget* sopra) {
     QFileDialog dialogo(sopra, tradotto("Strati da importare"), cartella());
+    dialogo.setObjectName(QStringLiteral("stratiDaImportare"));
     dialogo.setFileMode(QFileDialog::ExistingFile);
-    dialogo.setNameFilters(
-        {tradotto("Tabelle e indagini") + " (*.[cC][sS][vV] *.[tT][xX][tT] *.[aA][gG][sS])",
-         tradotto("Tutti i file") + " (*)"});
+    dialogo.setOption(QFileDialog::HideNameFilterDetails);
+    dialogo.setNameFilters(filtriLettura());
     if (dialogo.exec() != QDialog::Accepted || dialogo.selectedFiles().isEmpty()) return {};
     return dialogo.selectedFiles().front().toStdString();
 }
