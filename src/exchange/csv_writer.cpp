@@ -40,7 +40,7 @@ std::string testoCsv(const RigheStrati& righe, const FormaCsv& forma) {
         testo += "\r\n";
     };
     RigaStrato nomi;
-    for (std::size_t c = 0; c < numeroColonne; ++c) nomi[c] = nomeNelFile(static_cast<Colonna>(c));
+    for (std::size_t c = 0; c < numeroColonne; ++c) nomi[c] = nomeColonna(static_cast<Colonna>(c));
     aggiungi(nomi);
     for (RigaStrato celle : righe) {
         for (std::size_t c = 0; c < descrizione; ++c)

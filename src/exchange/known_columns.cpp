@@ -5,6 +5,8 @@
 #include <span>
 
 #include "base/code_page.hpp"
+#include "base/text_table.hpp"
+#include "exchange/layer_columns.hpp"
 
 namespace korven::exchange {
 
@@ -45,6 +47,10 @@ bool tra(std::span<const std::string_view> lista, std::string_view parola) {
     return std::find(lista.begin(), lista.end(), parola) != lista.end();
 }
 
+std::string_view senzaUnita(std::string_view testo) {
+    return testo.substr(0, testo.find_first_of("[("));
+}
+
 // The words of a text run together in small letters.
 std::string parole(std::string_view testo) {
     std::string unite = base::minuscolo(testo);
@@ -54,18 +60,36 @@ std::string parole(std::string_view testo) {
     return unite;
 }
 
+// What the tables and lists of the program call a column, in whatever language a file was written.
+std::optional<Colonna> chiamata(std::string_view nome) {
+    for (std::size_t c = 0; c < numeroColonne; ++c)
+        for (int lingua = 1; lingua <= base::numeroLingue; ++lingua)
+            if (parole(senzaUnita(nomeColonna(static_cast<Colonna>(c), lingua))) == nome)
+                return static_cast<Colonna>(c);
+    return {};
+}
+
+bool chiamatoSpessore(std::string_view nome) {
+    for (int lingua = 1; lingua <= base::numeroLingue; ++lingua)
+        if (parole(nomeSpessore(lingua)) == nome) return true;
+    return false;
+}
+
 }  // namespace
 
 NomeColonna leggiNomeColonna(std::string_view cella) {
-    const std::size_t parentesi = std::min(cella.find_first_of("[("), cella.size());
-    const std::string nome = parole(cella.substr(0, parentesi));
+    const std::string_view primaUnita = senzaUnita(cella);
+    const std::string nome = parole(primaUnita);
     NomeColonna letto;
-    letto.unita = parole(cella.substr(parentesi));
-    letto.spessore = tra(spessore_, nome);
+    if (nome.empty()) return letto;
+    letto.unita = parole(cella.substr(primaUnita.size()));
+    letto.spessore = tra(spessore_, nome) || chiamatoSpessore(nome);
     const auto trovata = std::find_if(std::begin(nomiColonne), std::end(nomiColonne),
                                       [&](auto lista) { return tra(lista, nome); });
     if (trovata != std::end(nomiColonne))
         letto.colonna = static_cast<Colonna>(trovata - std::begin(nomiColonne));
+    else
+        letto.colonna = chiamata(nome);
     if (letto.spessore) letto.colonna = profondita;
     if (!letto.colonna) return letto;
     letto.delCampo = nome == nomiColonne[*letto.colonna].front();

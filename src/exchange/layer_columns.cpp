@@ -2,12 +2,23 @@
 
 #include <cassert>
 
+#include "base/text_table.hpp"
 #include "base/translated_texts.hpp"
 #include "exchange/fault_texts.hpp"
 #include "exchange/known_columns.hpp"
 #include "masks/edited_fields.hpp"
 
 namespace korven::exchange {
+
+namespace {
+
+constexpr std::string_view spessore = "Spessore";
+
+std::string inLingua(int lingua, std::string_view chiave) {
+    return base::traduci(base::tabellaTesti, lingua, chiave, nullptr, &base::testiAggiunti);
+}
+
+}  // namespace
 
 const project::Campo& campoColonna(Colonna colonna) {
     static const auto campi = masks::campiEditati(masks::NumeroMaschera::strati);
@@ -19,10 +30,11 @@ std::string nomeColonna(Colonna colonna) {
     return base::traduttore(project::etichetta(campoColonna(colonna)));
 }
 
-std::string nomeNelFile(Colonna colonna) {
-    const auto& campo = campoColonna(colonna);
-    return project::etichetta(campo.nome, campo.unita);
+std::string nomeColonna(Colonna colonna, int lingua) {
+    return inLingua(lingua, project::etichetta(campoColonna(colonna)));
 }
+
+std::string nomeSpessore(int lingua) { return inLingua(lingua, spessore); }
 
 PostiColonne postiSenzaNomi() {
     PostiColonne posti;
@@ -52,7 +64,19 @@ void mettiColonna(PostiColonne& posti, const RigaLetta& riga, std::size_t cella)
             "l'unità %1 non è quella della tabella: convertire i valori in %2",
             {'[' + letto.unita + ']', project::traParentesi(campoColonna(*letto.colonna).unita)})));
     posto = cella;
-    if (letto.colonna == descrizione && !letto.delCampo) posti.descrizioneConCodice = false;
+    if (letto.colonna == descrizione) posti.descrizioneConCodice = letto.delCampo;
+}
+
+// All columns with their units in the order of the editor, in one language: as they are written.
+bool comeScritti(const RigaLetta& riga) {
+    const auto in = [&riga](int lingua) {
+        for (std::size_t c = 0; c < numeroColonne; ++c)
+            if (riga.cella(c) != nomeColonna(static_cast<Colonna>(c), lingua)) return false;
+        return true;
+    };
+    for (int lingua = 1; lingua <= base::numeroLingue; ++lingua)
+        if (in(lingua)) return true;
+    return false;
 }
 
 }  // namespace
@@ -62,13 +86,14 @@ PostiColonne postiDaNomi(const RigaLetta& riga) {
     posti.cella.fill(PostiColonne::nessuno);
     posti.celle = riga.celle.size();
     for (std::size_t i = 0; i < riga.celle.size(); ++i) mettiColonna(posti, riga, i);
+    posti.descrizioneConCodice = posti.descrizioneConCodice || comeScritti(riga);
     const bool profondi = posti.cella[profondita] != PostiColonne::nessuno;
     const bool spessi = posti.spessore != PostiColonne::nessuno;
     if (!profondi && !spessi)
         posti.difetti.push_back(
             inRiga(riga.riga, 0,
                    frase("tra i nomi delle colonne manca la profondità (%1) o lo spessore (%2)",
-                         {nomeNelFile(profondita), base::traduttore("Spessore") + " [m]"})));
+                         {nomeColonna(profondita), base::traduttore(spessore) + " [m]"})));
     if (profondi && spessi)
         posti.avvertenze.push_back(
             base::traduttore("ci sono profondità e spessori: valgono le profondità"));

@@ -17,8 +17,11 @@ namespace korven::exchange {
 /// What a column is called for people, with its unit, in the language in force: "Phi [°]".
 [[nodiscard]] std::string nomeColonna(Colonna colonna);
 
-/// What a column is called in a file: the stable name of its field with the unit: "phiStrato [°]".
-[[nodiscard]] std::string nomeNelFile(Colonna colonna);
+/// The same in a language, 1 to 6.
+[[nodiscard]] std::string nomeColonna(Colonna colonna, int lingua);
+
+/// What thicknesses are called in a language, without a unit.
+[[nodiscard]] std::string nomeSpessore(int lingua);
 
 /// Which cell of a row holds what.
 struct PostiColonne {
@@ -27,7 +30,9 @@ struct PostiColonne {
     std::array<std::size_t, numeroColonne> cella;  ///< of each column; `nessuno`: it is missing
     std::size_t spessore = nessuno;                ///< thickness [m], instead of the depth
     std::size_t celle = 0;                         ///< of a row: cells beyond have no column
-    bool descrizioneConCodice = true;  ///< false: the descriptions may stand without their code
+    /// The names are those that this program writes; false: descriptions may stand without their
+    /// code.
+    bool descrizioneConCodice = true;
 
     std::vector<std::string> difetti;     ///< as in StratiLetti
     std::vector<std::string> avvertenze;  ///< columns that nothing is taken from
@@ -36,10 +41,8 @@ struct PostiColonne {
 /// The places without a row of names: the columns in the order of the editor.
 [[nodiscard]] PostiColonne postiSenzaNomi();
 
-/// The places that a row of names tells. A name is that of the field ("phiStrato"), or an Italian
-/// or English word for it ("Phi", "Friction angle"), whatever its case, blanks and points; a unit
-/// in brackets behind it must be the one of the editor. "Spessore" or "Thickness" stands for the
-/// depth.
+/// The places that a row of names tells (known_columns.hpp); a unit in brackets behind a name must
+/// be the one of the editor. "Spessore" or "Thickness" stands for the depth.
 [[nodiscard]] PostiColonne postiDaNomi(const RigaLetta& nomi);
 
 /// How many of the cells of a row are names of columns.

@@ -116,7 +116,7 @@ TEST(LeggiCsv, RefusesAnotherUnit) {
 
 TEST(LeggiCsv, RefusesNamesWithoutADepthAndNamesTwice) {
     EXPECT_EQ(difetto("Phi;Coes.\n30;0"),
-              "riga 1: tra i nomi delle colonne manca la profondità (profStrato [m]) o lo spessore "
+              "riga 1: tra i nomi delle colonne manca la profondità (Prof. [m]) o lo spessore "
               "(Spessore [m])");
     EXPECT_EQ(difetto("Prof.;Phi;Friction angle\n3;30;30"),
               "riga 1, colonna 3: la colonna «Friction angle» c'è già");
@@ -124,7 +124,7 @@ TEST(LeggiCsv, RefusesNamesWithoutADepthAndNamesTwice) {
 
 TEST(LeggiCsv, RefusesATextThatIsNoTableOfLayers) {
     EXPECT_EQ(difetto("Cara Anna,\nci vediamo alle 3"),
-              "riga 1: tra i nomi delle colonne manca la profondità (profStrato [m]) o lo spessore "
+              "riga 1: tra i nomi delle colonne manca la profondità (Prof. [m]) o lo spessore "
               "(Spessore [m])");
     EXPECT_EQ(difetto(""), "il file non contiene strati");
     EXPECT_EQ(difetto("\n;;;\n"), "il file non contiene strati");

@@ -27,14 +27,14 @@ RigheStrati rilette(const RigheStrati& righe, const FormaCsv& forma) {
 TEST(TestoCsv, HasAMarkNamesAndOneLineALayer) {
     EXPECT_EQ(testoCsv(due, csvPuntoEVirgola),
               "\xEF\xBB\xBF"
-              "profStrato [m];gammaN [kN/m³];gammaSat [kN/m³];phiStrato [°];coesione [kN/m²];"
-              "ksStrato [kN/m³];descrStrato\r\n"
+              "Prof. [m];Gamma [kN/m³];Gamma Sat. [kN/m³];Phi [°];Coes. [kN/m²];ks [kN/m³];"
+              "Descrizione\r\n"
               "3,5;18;19,5;30;0;5000;\"103C3 Sabbia; \"\"fine\"\", grigia\"\r\n"
               "12;19;;24;1e1;;\r\n");
     EXPECT_EQ(testoCsv({due[1]}, csvVirgola),
               "\xEF\xBB\xBF"
-              "profStrato [m],gammaN [kN/m³],gammaSat [kN/m³],phiStrato [°],coesione [kN/m²],"
-              "ksStrato [kN/m³],descrStrato\r\n"
+              "Prof. [m],Gamma [kN/m³],Gamma Sat. [kN/m³],Phi [°],Coes. [kN/m²],ks [kN/m³],"
+              "Descrizione\r\n"
               "12,19,,24,1e1,,\r\n");
 }
 

@@ -12,6 +12,7 @@
 #include <QSpinBox>
 #include <QTableView>
 #include <QTableWidget>
+#include <set>
 
 #include "base/files.hpp"
 #include "exchange/ags_text.hpp"
@@ -241,6 +242,39 @@ TEST_F(Pannello, WritesTheLayersSoThatTheyReadBack) {
         EXPECT_EQ(celle, f.modello().valoriTesto());
         EXPECT_TRUE(dialogo.messaggi.empty());
     });
+}
+
+// What an office wrote in one language is read in another one.
+TEST_F(Pannello, ReadsInEveryLanguageWhatItWroteInAnyOther) {
+    const exchange::RigheStrati scritte{{"3.5", "18", "19.5", "30", "0", "5000", "103C3 Sabbia"},
+                                        {"12", "19", "", "24", "10", "", "without a code"}};
+    std::set<std::string> nomi;
+    for (int lingua = 1; lingua <= 6; ++lingua) {
+        const test::TestiConsegnati testi(lingua);
+        for (const auto& segni : {exchange::csvPuntoEVirgola, exchange::csvVirgola}) {
+            base::impostaLingua(lingua);
+            const std::string testo = exchange::testoCsv(scritte, segni);
+            nomi.insert(testo.substr(0, testo.find('\r')));
+            for (int letta = 1; letta <= 6; ++letta) {
+                base::impostaLingua(letta);
+                const auto letti = exchange::leggiCsv(exchange::testoDiFile(testo));
+                EXPECT_EQ(letti.righe, scritte) << lingua << letta << testo;
+                EXPECT_EQ(letti.avvertenze, Testi{});
+                EXPECT_TRUE(letti.descrizioniConCodice);
+            }
+        }
+    }
+    EXPECT_GE(nomi.size(), 10U) << "names are those of the language";
+}
+
+TEST_F(Pannello, ReadsThicknessesAndWordsOfEveryLanguage) {
+    const test::TestiConsegnati testi(1);
+    for (const char* nomi : {"Dicke [m];Kohäs.;Beschreibung", "Épaisseur;Cohés. [kPa];description",
+                             "espessura;coes.;DESCRIÇÃO", "Espesor (m);Cohes;Descripción"}) {
+        const auto letti = exchange::leggiCsv(std::string(nomi) + "\n2;5;x\n");
+        EXPECT_EQ(letti.righe, (exchange::RigheStrati{{"2", "", "", "", "5", "", "x"}})) << nomi;
+        EXPECT_FALSE(letti.descrizioniConCodice);
+    }
 }
 
 TEST_F(Pannello, WritesNoLayersThatWouldNotReadBackOrOverTheProject) {
