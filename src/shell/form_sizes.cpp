@@ -17,11 +17,14 @@ namespace {
 
 constexpr QSize cornice(16, 48);
 
-// What is remembered may come from a larger screen, or from one with smaller letters.
+// What is remembered may come from a larger screen, or from one with smaller letters. One that lies
+// on the screen stays where it is to the pixel: before it is shown it has no frame yet, so that its
+// place, taken as that of the frame, would be lower by the head of the window, again at each start.
 void portaSulloSchermo(QWidget& finestra) {
     if (finestra.isMaximized() || finestra.isFullScreen()) return;
     const QRect schermo = finestra.screen()->availableGeometry();
     finestra.resize(finestra.size().boundedTo(misuraMassima(finestra)));
+    if (schermo.contains(finestra.geometry())) return;
     QRect intera(finestra.pos(), misuraConCornice(finestra));
     intera.moveRight(std::min(intera.right(), schermo.right()));
     intera.moveBottom(std::min(intera.bottom(), schermo.bottom()));

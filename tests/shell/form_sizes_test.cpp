@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QScreen>
+#include <QTest>
 #include <QWidget>
 
 #include "support/form_setup.hpp"
@@ -46,6 +47,26 @@ TEST(MisureFinestre, ThatFitComeBackAsTheyWere) {
     finestra.setObjectName("finestra");
     prendiMisura(finestra, {300, 200});
     EXPECT_EQ(finestra.geometry(), misure);
+}
+
+// A window is restored before it has a frame, and remembered with it.
+TEST(MisureFinestre, ComeBackToThePixelAtEachStart) {
+    test::applicazione();
+    const test::UtenteNuovo utente;
+    const QPoint angolo = QGuiApplication::primaryScreen()->availableGeometry().topLeft();
+    QRect prima;
+    for (int avvio = 1; avvio <= 3; ++avvio) {
+        SCOPED_TRACE(avvio);
+        QWidget finestra;
+        finestra.setObjectName("finestra");
+        if (!prendiMisura(finestra, {320, 240})) finestra.move(angolo + QPoint(60, 70));
+        finestra.show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&finestra));
+        ASSERT_NE(finestra.frameGeometry(), finestra.geometry()) << "no frame, nothing is tested";
+        if (avvio == 1) prima = finestra.geometry();
+        EXPECT_EQ(finestra.geometry(), prima);
+        ricordaMisure(finestra);
+    }
 }
 
 }  // namespace
