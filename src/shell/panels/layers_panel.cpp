@@ -32,8 +32,10 @@ QString nomeFile(const std::string& percorso) { return QFileInfo(qt(percorso)).f
 }  // namespace
 
 PannelloStrati::PannelloStrati(Base2_32& forma, base::Dialogo& dialogo, FileDiStrati file)
-    : QWidget(&forma), forma_(forma), dialogo_(dialogo), file_(std::move(file)) {
-    setObjectName(QStringLiteral("PannelloStrati"));
+    : PannelloLaterale(QStringLiteral("PannelloStrati"), tradotto("Campitura e file")),
+      forma_(forma),
+      dialogo_(dialogo),
+      file_(std::move(file)) {
     titolo_ = new QLabel(this);
     titolo_->setObjectName(QStringLiteral("titolo"));
     immagine_ = new QLabel(this);
@@ -51,7 +53,8 @@ PannelloStrati::PannelloStrati(Base2_32& forma, base::Dialogo& dialogo, FileDiSt
                      tradotto("Strati da un foglio di calcolo (CSV) o da un'indagine (AGS 4)"));
     auto* esporta = farePulsante("esporta", "export", tradotto("Esporta CS&V..."),
                                  tradotto("Scrive gli strati per un foglio di calcolo"));
-    auto* colonna = new QVBoxLayout(this);
+    auto* tutto = new QWidget(this);
+    auto* colonna = new QVBoxLayout(tutto);
     colonna->setContentsMargins(0, 0, 0, 0);
     for (QWidget* parte : {static_cast<QWidget*>(titolo_), static_cast<QWidget*>(immagine_),
                            static_cast<QWidget*>(nome_), static_cast<QWidget*>(campitura)})
@@ -59,6 +62,7 @@ PannelloStrati::PannelloStrati(Base2_32& forma, base::Dialogo& dialogo, FileDiSt
     colonna->addStretch();
     colonna->addWidget(importa);
     colonna->addWidget(esporta);
+    riempi(nullptr, tutto);
     connect(campitura, &QPushButton::clicked, this, [this] { scegliCampitura(); });
     connect(importa, &QPushButton::clicked, this, [this] { this->importa(); });
     connect(esporta, &QPushButton::clicked, this, [this] { this->esporta(); });

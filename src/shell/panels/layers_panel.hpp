@@ -1,12 +1,12 @@
 #pragma once
 
-#include <QWidget>
 #include <optional>
 #include <string>
 
 #include "base/dialogo.hpp"
 #include "exchange/layer_rows.hpp"
 #include "shell/panels/layer_files.hpp"
+#include "shell/panels/side_panel.hpp"
 
 class QLabel;
 class QPushButton;
@@ -20,7 +20,8 @@ class Base2_32;
 /// typed or pasted there.
 ///
 /// Controls by name: `immagine`, `nome`, `campitura`, `importa`, `esporta`.
-class PannelloStrati : public QWidget {
+class PannelloStrati : public PannelloLaterale {
+    Q_OBJECT
  public:
     /// @param forma  the form of the layers; it and `dialogo` must outlive the panel
     PannelloStrati(Base2_32& forma, base::Dialogo& dialogo,

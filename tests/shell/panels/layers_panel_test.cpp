@@ -93,6 +93,17 @@ TEST_F(Pannello, ShowsTheHatchOfTheCurrentRow) {
     });
 }
 
+TEST_F(Pannello, FoldsAwayAndStaysSo) {
+    conForma([](Base2_32& f) {
+        EXPECT_TRUE(controllo(f, "importa").isVisible());
+        const int largo = f.width();
+        QTest::mouseClick(&controllo<QAbstractButton>(f, "PannelloStrati_mostra"), Qt::LeftButton);
+        EXPECT_FALSE(controllo(f, "importa").isVisible());
+        EXPECT_LT(f.width(), largo);
+    });
+    conForma([](Base2_32& f) { EXPECT_FALSE(controllo(f, "immagine").isVisible()); });
+}
+
 TEST_F(Pannello, WritesTheCodeChosenFromPicturesAsOneStep) {
     conForma([this](Base2_32& f) {
         f.scrivi({1, 7}, "103 Argilla  grigia|fine.");
