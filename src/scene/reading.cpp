@@ -78,8 +78,7 @@ Lettura lettura(const live::PareteViva& parete, const live::Vista& vista, double
     Lettura letta;
     letta.z = std::clamp(z, 0.0, m.lunghezza);
     letta.strato = strato(m, letta.z);
-    letta.inviluppo = vista.fase == 0;
-    if (letta.inviluppo && parete.fasiInEquilibrio() > 0) {
+    if (vista.fase == 0 && parete.fasiInEquilibrio() > 0) {
         const Luogo dove = luogo(parete, letta.z);
         const live::Inviluppo tutte = live::inviluppo(parete);
         letta.y = dove.due(tutte.y);

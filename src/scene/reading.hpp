@@ -18,7 +18,6 @@ struct Letto {
 struct Lettura {
     double z = 0;        ///< [m]
     std::string strato;  ///< description of the layer behind the wall; empty below the last
-    bool inviluppo = false;
     /// Nothing where the stage is not in equilibrium. Of an envelope without the pressures of the
     /// sides, which are of a stage: `pressione` is the net one there.
     std::optional<Letto> y, momento, taglio, monte, valle, acqua, pressione;

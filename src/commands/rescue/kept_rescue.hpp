@@ -27,9 +27,6 @@ class RecuperoTenuto {
     /// Removes the file: its user does not want what is unsaved.
     void rinuncia();
 
-    /// Lets go of the file, which stays.
-    void lascia() { file_.reset(); }
-
     /// Brings the file that is kept up to the project as it is now, in its place: the program ends.
     /// @return its path; empty if none is kept of the open project or it can't be written
     [[nodiscard]] std::string chiudi(const base::Disco& disco);

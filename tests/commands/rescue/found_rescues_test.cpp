@@ -100,13 +100,14 @@ TEST_F(RecuperiTrovati, AreRemovedWhereTheyHoldNothingElseThanTheProject) {
 
 TEST_F(RecuperiTrovati, AreNoneThatALivingProgramKeeps) {
     project::modificato = true;
-    RecuperoTenuto altro;
-    Progetto = lunga(10);
-    EXPECT_EQ(altro.guarda(), "");
-    Progetto = lunga(11);
-    EXPECT_EQ(trovati(), Nomi{});
-    EXPECT_TRUE(fs::exists(ambiente.recuperato));
-    altro.lascia();  // as by its death
+    {
+        RecuperoTenuto altro;
+        Progetto = lunga(10);
+        EXPECT_EQ(altro.guarda(), "");
+        Progetto = lunga(11);
+        EXPECT_EQ(trovati(), Nomi{});
+        EXPECT_TRUE(fs::exists(ambiente.recuperato));
+    }
     EXPECT_EQ(trovati(), Nomi{"muro_recuperato.kvd"});
 }
 

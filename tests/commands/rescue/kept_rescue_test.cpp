@@ -76,8 +76,10 @@ TEST_F(RecuperoTenutoTest, GoesWhenAnotherProjectIsOpenedAndIsMadeForThatOne) {
 }
 
 TEST_F(RecuperoTenutoTest, StaysWhenItsProgramDies) {
-    EXPECT_EQ(tenuto.guarda(), "");
-    tenuto.lascia();
+    {
+        RecuperoTenuto suo;
+        EXPECT_EQ(suo.guarda(), "");
+    }
     EXPECT_EQ(ambiente.nomi(), Nomi{"muro_recuperato.kvd"});
 }
 
