@@ -167,10 +167,7 @@ void Documento::nuovo(const std::function<std::optional<std::string>()>& chiediM
     }
     finestra_.titolo(titoloFinestra(nome));
     modificato = !modello->empty();
-    if (modificato || !trovaProgetto(nome).empty())
-        custodisci();
-    else
-        aperto();  // unsaved work of a project of that name may wait
+    aperto();  // unsaved work of a project of that name may wait
 }
 
 void Documento::duplica() {
@@ -180,7 +177,7 @@ void Documento::duplica() {
     mettiNome(nome);
     finestra_.titolo(titoloFinestra(nome));
     modificato = true;
-    custodisci();
+    aperto();
 }
 
 bool Documento::apriAllAvvio(const std::string& argomento) {

@@ -22,7 +22,7 @@ SceltaRecupero scelta(const OffreRecupero& offre, const LavoroRecuperato& trovat
                       std::size_t altri) {
     return offre({project::fileCorrente, base::quandoScritto(project::progettiProtetti.letto),
                   project::Progetto, trovato.file.percorso(), trovato.quando, trovato.dati,
-                  trovato.differenze, altri});
+                  trovato.differenze, altri, project::modificato});
 }
 
 bool daTogliere(const LavoroRecuperato& trovato, base::Dialogo& dialogo) {

@@ -22,6 +22,7 @@ struct OffertaRecupero {
     const project::DatiProgetto& recuperato;
     const std::vector<project::Differenza>& differenze;  ///< from `aperto` to `recuperato`
     std::size_t altri = 0;  ///< how many older rescue files wait behind this one
+    bool copiato = false;   ///< the project holds what was copied into it and is saved nowhere
 };
 
 enum class SceltaRecupero {

@@ -49,6 +49,16 @@ QString oTrattino(const std::string& valore) {
     return valore.empty() ? QStringLiteral("–") : qt(valore);
 }
 
+QString salvato(const OffertaRecupero& offerta) {
+    if (offerta.salvato) return conValore("Salvato: %1", istante(*offerta.salvato));
+    return offerta.copiato ? tradotto("Mai salvato") : tradotto("Mai salvato, ancora vuoto");
+}
+
+const char* testoTieni(const OffertaRecupero& offerta) {
+    if (offerta.salvato) return "&Tieni il file";
+    return offerta.copiato ? "&Tieni il progetto copiato" : "&Tieni il progetto vuoto";
+}
+
 QString spiegazione(const OffertaRecupero& offerta) {
     QString testo = tradotto(
         "Il programma si è chiuso prima che queste modifiche fossero salvate. Con quale dei due "
@@ -80,11 +90,9 @@ QWidget* FormaRecupero::fareStati() {
     auto* riga = new QWidget(this);
     auto* affiancati = new QHBoxLayout(riga);
     affiancati->setContentsMargins(0, 0, 0, 0);
-    const QString salvato = offerta_.salvato ? conValore("Salvato: %1", istante(*offerta_.salvato))
-                                             : tradotto("Mai salvato, ancora vuoto");
     affiancati->addWidget(
-        new StatoProgetto({QStringLiteral("statoFile"), tradotto("File del progetto"), salvato,
-                           qt(offerta_.progetto)},
+        new StatoProgetto({QStringLiteral("statoFile"), tradotto("File del progetto"),
+                           salvato(offerta_), qt(offerta_.progetto)},
                           offerta_.aperto, riga),
         1);
     affiancati->addWidget(
@@ -127,8 +135,7 @@ QWidget* FormaRecupero::farePulsanti() {
     disposizione->setContentsMargins(0, 0, 0, 0);
     auto* prendi =
         farePulsante("prendi", "&Prendi il lavoro recuperato", SceltaRecupero::prendi, riga);
-    farePulsante("tieni", offerta_.salvato ? "&Tieni il file" : "&Tieni il progetto vuoto",
-                 SceltaRecupero::tieni, riga);
+    farePulsante("tieni", testoTieni(offerta_), SceltaRecupero::tieni, riga);
     disposizione->addStretch();
     auto* dopo = farePulsante("dopo", "&Decidi dopo", SceltaRecupero::dopo, riga);
     auto* primo = filePiuRecente(offerta_) ? dopo : prendi;

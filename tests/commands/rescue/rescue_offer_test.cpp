@@ -28,7 +28,8 @@ class OffertaTest : public ::testing::Test {
             altri.push_back(offerta.altri);
             salvato.push_back(offerta.salvato.has_value());
             EXPECT_EQ(offerta.progetto, project::fileCorrente);
-            EXPECT_FALSE(modificato);
+            EXPECT_EQ(offerta.copiato, modificato);
+            copiato.push_back(offerta.copiato);
             EXPECT_EQ(offerta.aperto, Progetto);
             EXPECT_EQ(offerta.differenze, project::differenze(offerta.aperto, offerta.recuperato));
             if (scelte.empty()) return dopo;
@@ -56,7 +57,7 @@ class OffertaTest : public ::testing::Test {
     std::deque<SceltaRecupero> scelte;
     Nomi offerti;
     std::vector<std::size_t> altri;
-    std::vector<bool> salvato;
+    std::vector<bool> salvato, copiato;
 };
 
 TEST_F(OffertaTest, IsMadeOnlyWhereThereIsUnsavedWork) {
@@ -180,6 +181,58 @@ TEST_F(OffertaTest, IsMadeOfANewProjectThatTheMenuBeginsEmpty) {
     EXPECT_EQ(offerti, Nomi{"muro_recuperato.kvd"});
     EXPECT_EQ(Progetto.lunghezzaParatia, 10);
     EXPECT_TRUE(modificato);
+}
+
+// The name is that of earlier work, whatever the new project begins with.
+TEST_F(OffertaTest, IsMadeOfANewProjectThatBeginsWithAPatternAndLosesNeither) {
+    lascia("muro_recuperato.kvd", 10);
+    const std::string modello = ambiente.dati / "modello.kvd";
+    test::metti(modello, ambiente.byte(lunga(17)));
+    nomi.nuovi = {ambiente.muro};
+    documento.nuovo([&] { return modello; });
+    EXPECT_EQ(offerti, Nomi{"muro_recuperato.kvd"});  // and not what is kept of the new project
+    EXPECT_EQ(copiato, std::vector{true});
+    EXPECT_EQ(Progetto, lunga(17));
+    EXPECT_TRUE(modificato);
+    EXPECT_EQ(ambiente.nomi(), (Nomi{"muro_recuperato.kvd", "muro_recuperato_2.kvd"}));
+    EXPECT_EQ(test::contenuto(ambiente.recuperato), byteRecupero(lunga(10), ambiente.muro));
+}
+
+TEST_F(OffertaTest, TakenInPlaceOfAPatternIsTheOneRescueFile) {
+    lascia("muro_recuperato.kvd", 10);
+    const std::string modello = ambiente.dati / "modello.kvd";
+    test::metti(modello, ambiente.byte(lunga(17)));
+    scelte = {prendi};
+    nomi.nuovi = {ambiente.muro};
+    documento.nuovo([&] { return modello; });
+    EXPECT_EQ(Progetto, lunga(10));
+    EXPECT_TRUE(modificato);
+    EXPECT_EQ(ambiente.nomi(), Nomi{"muro_recuperato.kvd"});
+}
+
+TEST_F(OffertaTest, IsMadeOfANewProjectOverTheNameOfAFile) {
+    salvaFile();
+    lascia("muro_recuperato.kvd", 10);
+    scelte = {prendi};
+    dialogo.risposte = {Risposta::si};  // to the question about the file
+    nomi.nuovi = {ambiente.muro};
+    documento.nuovo([] { return ""; });
+    EXPECT_EQ(offerti, Nomi{"muro_recuperato.kvd"});
+    EXPECT_EQ(salvato, std::vector{false});  // what is open is not what the file holds
+    EXPECT_EQ(Progetto.lunghezzaParatia, 10);
+    EXPECT_TRUE(modificato);
+    EXPECT_EQ(test::contenuto(ambiente.muro), ambiente.byte(test::progettoSemplice()));
+}
+
+TEST_F(OffertaTest, IsMadeOfACopyUnderTheNameOfEarlierWork) {
+    lascia("muro_recuperato.kvd", 10);
+    project::fileCorrente = ambiente.lavori / "altro.kvd";
+    nomi.nuovi = {ambiente.muro};
+    documento.duplica();
+    EXPECT_EQ(offerti, Nomi{"muro_recuperato.kvd"});
+    EXPECT_EQ(copiato, std::vector{true});
+    EXPECT_EQ(Progetto, test::progettoSemplice());
+    EXPECT_EQ(ambiente.nomi(), (Nomi{"muro_recuperato.kvd", "muro_recuperato_2.kvd"}));
 }
 
 TEST_F(OffertaTest, IsMadeOfTheProjectThatTheCommandLineNames) {

@@ -119,5 +119,15 @@ TEST_F(FormaRecuperoTest, TellsOfOlderFilesAndOfAProjectThatWasNeverSaved) {
               "&Tieni il progetto vuoto");
 }
 
+TEST_F(FormaRecuperoTest, SaysThatAProjectBegunWithAPatternIsNotEmpty) {
+    prova.salvato = std::nullopt;
+    auto offerta = prova.offerta();
+    offerta.copiato = true;
+    FormaRecupero forma(offerta, nullptr);
+    EXPECT_EQ(quando(forma, "statoFile"), "Mai salvato");
+    EXPECT_EQ(forma.findChild<QPushButton*>(QStringLiteral("tieni"))->text(),
+              "&Tieni il progetto copiato");
+}
+
 }  // namespace
 }  // namespace korven::shell
