@@ -116,6 +116,7 @@ void Documento::leggi(const std::string& nome, const std::string& file) {
     suDisco.ricorda(file);
     project::leggiProgetto();
     storia_.svuota();
+    ++aperture_;
     provvisorio.tieni(nome);
     suDisco_ = std::move(suDisco);
     project::progettiProtetti.letto = file;
@@ -125,6 +126,7 @@ void Documento::leggi(const std::string& nome, const std::string& file) {
 
 void Documento::comincia(const std::string& nome) {
     project::azzeraProgetto();
+    ++aperture_;
     mettiNome(nome);
 }
 

@@ -67,6 +67,10 @@ class Documento {
     [[nodiscard]] StoriaProgetto& storia() { return storia_; }
     [[nodiscard]] const StoriaProgetto& storia() const { return storia_; }
 
+    /// Counts the projects that were opened or begun: another number is another project, or the
+    /// same read anew. Saving and copying go on with the one that is open.
+    [[nodiscard]] int aperture() const { return aperture_; }
+
     /// Shows the line of the last file again, when something else has taken the status line.
     void mostraStato();
 
@@ -88,6 +92,7 @@ class Documento {
     void mostra(const std::string& cosa, const std::string& percorso);
 
     std::string stato_;
+    int aperture_ = 0;
     OffreRecupero offre_;
     base::Dialogo& dialogo_;
     DialogoFile& nomi_;

@@ -51,7 +51,8 @@ Sessione::Sessione(const PorteSessione& porte)
     avanzamento_.sopra(&finestra_);
     finestra_.collega(programma_);
     shell::sorvegliaLavoro(finestra_, [this] { programma_.tieniAlSicuro(); });
-    QObject::connect(&finestra_, &shell::Menu1::aggiornata, &vita_, &shell::VitaProgetto::guarda);
+    QObject::connect(&finestra_, &shell::Menu1::aggiornata, &vita_,
+                     [this] { vita_.guarda(programma_.documento().aperture()); });
 }
 
 void Sessione::comincia(const std::string& argomento) {

@@ -12,11 +12,16 @@ namespace korven::live {
 
 using project::DatiProgetto;
 
-void ProgettoVivo::guarda(const DatiProgetto* confermato) {
+void ProgettoVivo::guarda(const DatiProgetto* confermato, int apertura) {
     impedimento_.clear();
     if (confermato == nullptr) return;  // one that was opened stays so to the end of the program
     confermato_ = *confermato;
+    const bool altro = apertura != std::exchange(apertura_, apertura);
+    if (altro) voluta_.fase = Vista{}.fase;  // before the wall is shown, in its stages
     mostraDati(confermato_);
+    if (!altro) return;
+    mostra(voluta_);  // the same wall may have been opened again
+    ++versione_;
 }
 
 void ProgettoVivo::digita(const masks::Maschera& maschera, const ValoriForma& valori) {

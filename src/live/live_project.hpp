@@ -17,7 +17,9 @@ class ProgettoVivo {
     /// Looks at the project after each command, and whenever it may be another; a form that was
     /// open is closed by then.
     /// @param confermato  the open project; nullptr: none is open
-    void guarda(const project::DatiProgetto* confermato);
+    /// @param apertura    which of the projects that were opened it is: one that follows another is
+    ///                    shown in all its stages, by the same curve
+    void guarda(const project::DatiProgetto* confermato, int apertura = 0);
 
     /// Takes what stands in an open form. Values that could not be confirmed leave the wall as it
     /// was shown last.
@@ -27,6 +29,8 @@ class ProgettoVivo {
     void digita(const project::Sezione& sezione);
 
     [[nodiscard]] bool aperto() const { return aperto_; }
+    /// As `guarda` was told last of an open project.
+    [[nodiscard]] int apertura() const { return apertura_; }
     /// The wall that is shown. @pre a project is open: asserted
     [[nodiscard]] const PareteViva& parete() const;
     /// The same data, as they stand in project and form: without the stiffness of the section.
@@ -55,6 +59,7 @@ class ProgettoVivo {
     void mostraDati(const project::DatiProgetto& dati);
 
     bool aperto_ = false;
+    int apertura_ = 0;
     project::DatiProgetto confermato_, mostrati_;
     PareteViva parete_;
     std::string impedimento_;

@@ -107,6 +107,19 @@ TEST_F(ProgettoNuovo, IsNoneWhenPatternOrNameIsGivenUp) {
     EXPECT_FALSE(modificato);
 }
 
+TEST_F(ProgettoNuovo, IsCountedAsAnotherProjectAndACopyOrASaveIsNot) {
+    const int prima = documento.aperture();
+    nomi.nuovi = {ambiente.lavori / "copia", ambiente.lavori / "copia2"};
+    nuovo("");
+    EXPECT_EQ(documento.aperture(), prima + 1);
+    documento.duplica();
+    nomi.salvati = {ambiente.lavori / "salvato"};
+    EXPECT_TRUE(documento.fileSalva());
+    EXPECT_EQ(documento.aperture(), prima + 1);
+    documento.apri(muro);
+    EXPECT_EQ(documento.aperture(), prima + 2);
+}
+
 TEST_F(ProgettoNuovo, TakesTheNameOfAFileOnlyAfterAQuestion) {
     scrivi("GIA.KVD", test::progettoSemplice());
     nomi.nuovi = {ambiente.lavori / "GIA", ambiente.lavori / "GIA", ambiente.lavori / "libero"};

@@ -109,6 +109,18 @@ TEST_F(ProgettoVivoTest, TellsTheLengthThatStandsOnceItIsKnown) {
               std::string::npos);
 }
 
+TEST_F(ProgettoVivoTest, ShowsAnotherProjectInAllItsStagesAndKeepsTheCurve) {
+    vivo.guarda(&dati, 1);
+    vivo.mostra({.fase = 2, .curva = Curva::taglio});
+    vivo.guarda(&dati, 1);
+    EXPECT_EQ(vivo.vista(), (Vista{2, Curva::taglio}));
+    const int versione = vivo.versione();
+    vivo.guarda(&dati, 2);  // of the same values
+    EXPECT_EQ(vivo.vista(), (Vista{0, Curva::taglio}));
+    EXPECT_GT(vivo.versione(), versione);
+    EXPECT_EQ(vivo.apertura(), 2);
+}
+
 TEST_F(ProgettoVivoTest, HasNothingSlowToComputeWhereARunIsRefused) {
     dati.nStrati = 0;
     vivo.guarda(&dati);

@@ -29,9 +29,9 @@ VitaProgetto::VitaProgetto(QObject* padre)
     connect(riposo_, &QTimer::timeout, this, [this] { chiedi(); });
 }
 
-void VitaProgetto::guarda() {
+void VitaProgetto::guarda(int apertura) {
     const int prima = vivo_.versione();
-    vivo_.guarda(project::fileCorrente.empty() ? nullptr : &project::Progetto);
+    vivo_.guarda(project::fileCorrente.empty() ? nullptr : &project::Progetto, apertura);
     dopo(prima);
 }
 

@@ -20,7 +20,10 @@ class VitaProgetto : public QObject {
     [[nodiscard]] const live::ProgettoVivo& vivo() const { return vivo_; }
 
     /// Looks at `Progetto`: after each command, never during a run.
-    void guarda();
+    /// @param apertura  as `ProgettoVivo::guarda`
+    void guarda(int apertura);
+    /// The same of the project that it knows.
+    void guarda() { guarda(vivo_.apertura()); }
     /// What stands in an open form (`ProgettoVivo::digita`).
     void digita(const masks::Maschera& maschera, const live::ValoriForma& valori);
     void digita(const project::Sezione& sezione);

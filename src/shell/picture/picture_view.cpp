@@ -7,6 +7,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <algorithm>
+#include <utility>
 
 #include "scene/reading.hpp"
 #include "shell/picture/picture_files.hpp"
@@ -57,6 +58,7 @@ VistaFigura::VistaFigura(const live::ProgettoVivo& vivo, QWidget* genitore)
 
 void VistaFigura::aggiorna() {
     if (!vivo_.aperto()) return;
+    if (std::exchange(apertura_, vivo_.apertura()) != apertura_) z_.reset();
     invalida();
     setAccessibleDescription(qt(scene::descrizione(vivo_.parete(), vivo_.vista())) + '\n' +
                              tradotto("I valori stanno nelle tabelle di Risultati (Ctrl+R)"));

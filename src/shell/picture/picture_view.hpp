@@ -62,6 +62,7 @@ class VistaFigura : public QWidget {
     QPixmap immagine_;
     bool scenaVecchia_ = true, immagineVecchia_ = true;
     std::optional<double> z_;
+    int apertura_ = 0;      // of the project that z_ was read on
     bool daTasti_ = false;  // the mouse that leaves takes no depth away that keys have chosen
     QString lettura_;
 };

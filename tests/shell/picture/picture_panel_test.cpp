@@ -53,6 +53,19 @@ class PannelloFiguraTest : public ::testing::Test {
     PannelloFigura pannello;
 };
 
+TEST_F(PannelloFiguraTest, BeginsAnewWithAnotherProject) {
+    QTest::keyClick(&vista(), Qt::Key_Down);
+    vita.mostra({.fase = 2, .curva = live::Curva::taglio});
+    vita.guarda();
+    EXPECT_TRUE(vista().profondita());
+    EXPECT_EQ(fasi().value(), 2);
+    vita.guarda(1);
+    EXPECT_FALSE(vista().profondita());
+    EXPECT_EQ(lettura(), "Il mouse, o Su e Giù, leggono la paratia");
+    EXPECT_EQ(fasi().value(), 0);
+    EXPECT_TRUE(curva(4).isChecked());
+}
+
 TEST_F(PannelloFiguraTest, OffersTheEnvelopeAndAllStages) {
     EXPECT_EQ(fasi().minimum(), 0);
     EXPECT_EQ(fasi().maximum(), 2);
