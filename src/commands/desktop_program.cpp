@@ -70,9 +70,12 @@ void Programma::torna(bool (StoriaProgetto::*verso)(project::DatiProgetto&)) {
 
 void Programma::produci(void (*uscita)(const PorteUscita&)) {
     analysis::CorsaSeguita corsa(avanzamento_);
-    inUscita_ = true;
-    uscita({dialogo_, corsa, forme_});
-    inUscita_ = false;
+    inUscita_ = inCorsa_ = true;
+    uscita({dialogo_, corsa, forme_, [this] {
+                inCorsa_ = false;
+                custodisci();
+            }});
+    inUscita_ = inCorsa_ = false;
     std::string detto = corsa.arresto();
     if (detto.empty()) detto = safety::causaCorsa(corsa.comeFinita(), project::Progetto).frase;
     if (!detto.empty())
@@ -96,7 +99,7 @@ bool Programma::fineSessione(bool chiedibile) {
 }
 
 void Programma::tieniAlSicuro() {
-    if (!inUscita_ && !congedata_) custodisci();
+    if (!inCorsa_ && !congedata_) custodisci();
 }
 
 void Programma::custodisci() {

@@ -63,8 +63,9 @@ class Programma {
     void produci(void (*uscita)(const PorteUscita&));
 
     /// To be called now and then, also while a form is open: brings the rescue file up to what is
-    /// unsaved (rescue/kept_rescue.hpp), as every command does that has changed the project. During
-    /// an output, and once the program is to end, nothing happens.
+    /// unsaved (rescue/kept_rescue.hpp), as every command does that has changed the project, and an
+    /// output before it shows what was computed. During a run, and once the program is to end,
+    /// nothing happens.
     void tieniAlSicuro();
 
     [[nodiscard]] Documento& documento() { return documento_; }
@@ -82,6 +83,7 @@ class Programma {
     FormeProgramma forme_;
     FinestraPrincipale& finestra_;
     bool inUscita_ = false;     // an output is being produced
+    bool inCorsa_ = false;      // its run may be going on
     bool congedata_ = false;    // the question about unsaved work has been answered for the end
     bool diceArresto_ = false;  // the status line tells of a stop
     bool diceStoria_ = false;   // the status line tells what was taken back or done again

@@ -80,6 +80,7 @@ void produciRelazione(Destinazione destinazione, const PorteUscita& porte) {
     analysis::GuardiaRisultati guardia;
     if (!calcola(analysis::relazione, porte, uscita, guardia)) return;
     clessidra.rimetti();  // the run gives the pointer back at its end
+    porte.calcolato();
     (porte.forme.*destinazione)(uscita.relazione());
 }
 
@@ -92,12 +93,15 @@ void produciDiagramma(analysis::Diagramma quale, const PorteUscita& porte) {
         analysis::GuardiaRisultati guardia;
         disegnato = calcola(quale, porte, uscita, guardia);
     }
-    if (disegnato) porte.forme.grafica();  // which needs no file any more
+    if (!disegnato) return;
+    porte.calcolato();
+    porte.forme.grafica();  // which needs no file any more
 }
 
 void produciSezione(const PorteUscita& porte) {
     assert(porte.forme.grafica);
     if (senzaProgetto(porte.dialogo)) return;
+    porte.calcolato();
     drawings::disegnaSezione(project::Progetto);
     porte.forme.grafica();
 }
@@ -105,6 +109,7 @@ void produciSezione(const PorteUscita& porte) {
 // Layers far apart take minutes to be hatched, which their user may cut short.
 void produciStratigrafia(const PorteUscita& porte) {
     assert(porte.forme.grafica);
+    porte.calcolato();
     const auto& forme = porte.forme;
     const auto disegna = [&] {
         const plot::LavoroDisegno lavoro;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "analysis/diagrams.hpp"
 #include "analysis/progress.hpp"
 #include "base/dialogo.hpp"
@@ -19,6 +21,9 @@ struct PorteUscita {
     base::Dialogo& dialogo;
     analysis::Avanzamento& avanzamento;
     const FormeProgramma& forme;
+    /// Told that no run is going on, before anything is shown: the project may have taken a
+    /// stiffness from one.
+    std::function<void()> calcolato = [] {};
 };
 
 /// The form or export that a report goes to, one of four.

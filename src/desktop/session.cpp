@@ -50,7 +50,8 @@ Sessione::Sessione(const PorteSessione& porte)
     : programma_(porte.dialogo, porte.nomi, finestra_, avanzamento_, maschere_, forme(porte)) {
     avanzamento_.sopra(&finestra_);
     finestra_.collega(programma_);
-    shell::sorvegliaLavoro(finestra_, [this] { programma_.tieniAlSicuro(); });
+    shell::sorvegliaLavoro(
+        finestra_, [this] { programma_.tieniAlSicuro(); }, porte.alSicuroOgni);
     QObject::connect(&finestra_, &shell::Menu1::aggiornata, &vita_,
                      [this] { vita_.guarda(programma_.documento().aperture()); });
 }

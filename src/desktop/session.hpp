@@ -9,6 +9,7 @@
 #include "masks/values.hpp"
 #include "shell/live/live_view.hpp"
 #include "shell/main/menu1.hpp"
+#include "shell/rescue/rescue_watch.hpp"
 #include "shell/run/progress_qt.hpp"
 
 class QPrinter;
@@ -18,10 +19,11 @@ namespace korven::desktop {
 /// What is behind the session that is not a window of its own. All outlive it.
 struct PorteSessione {
     base::Dialogo& dialogo;
-    commands::DialogoFile& nomi;           ///< of projects
-    std::function<QPrinter&()> stampante;  ///< the printer of the program, when it is needed
-    std::string outdoc;                    ///< path of the converter
-    std::function<void()> riavvia;         ///< as `FormeProgramma::riavvia`
+    commands::DialogoFile& nomi;                  ///< of projects
+    std::function<QPrinter&()> stampante;         ///< the printer of the program, when it is needed
+    std::string outdoc;                           ///< path of the converter
+    std::function<void()> riavvia;                ///< as `FormeProgramma::riavvia`
+    int alSicuroOgni = shell::minutoDiSicurezza;  ///< between two looks at unsaved work [ms]
 };
 
 /// The desktop program after the choice of the language: the main form, all that its menu opens,

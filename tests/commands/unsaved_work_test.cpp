@@ -7,10 +7,14 @@
 #include "base/folders/file_names.hpp"
 #include "commands/desktop_program.hpp"
 #include "commands/fatal_error.hpp"
+#include "plot/plot_configuration.hpp"
+#include "plot/plot_engine.hpp"
 #include "project/project_file.hpp"
 #include "support/document_ports.hpp"
+#include "support/plot_setup.hpp"
 #include "support/program_bench.hpp"
 #include "support/sample_projects.hpp"
+#include "support/sample_sections.hpp"
 
 namespace korven::commands {
 namespace {
@@ -114,6 +118,13 @@ TEST_F(LavoroNonSalvato, LeavesNoRescueFileOfASessionThatEndsDuringACommand) {
 TEST_F(LavoroNonSalvato, IsKeptSafeNowAndThenButNotDuringARun) {
     Programma* aperto = nullptr;
     bool inForma = false;
+    bool primaDiMostrare = false, rifatto = false;
+    forme.anteprima = [&](const std::string&) {
+        primaDiMostrare = recuperato();
+        std::filesystem::remove(ambiente.lavori / "muro_recuperato.kvd");
+        aperto->tieniAlSicuro();
+        rifatto = recuperato();
+    };
     forme.editacfg = [&] {
         project::Progetto.titoli[1] = "confermato prima";
         aperto->tieniAlSicuro();
@@ -137,7 +148,35 @@ TEST_F(LavoroNonSalvato, IsKeptSafeNowAndThenButNotDuringARun) {
     };
     p.esegui(voceMenu("StampaVideo"));
     EXPECT_GT(avanzamento.iterazioni, 0);
+    EXPECT_TRUE(primaDiMostrare);
+    EXPECT_TRUE(rifatto);
     EXPECT_TRUE(recuperato());
+}
+
+// A drawing may stand on the screen for hours: the stiffness that its run has taken from the
+// section is safe before it is shown.
+TEST_F(LavoroNonSalvato, HoldsTheStiffnessOfARunWhileItsDrawingIsShown) {
+    plot::scriviConfigurazione(ambiente.programma / "module06ita.cfg",
+                               test::configurazioneDiProva());
+    plot::statoPlot = {};
+    bool mostrata = false;
+    forme.grafica = [&] {
+        mostrata = true;
+        EXPECT_GT(project::Progetto.rigidezzaEJ, 0);
+        EXPECT_TRUE(recuperato());
+    };
+    forme.sezione = [] {
+        project::Progetto.sezione = structure::diaframmaSimmetrico();
+        project::Progetto.rigidezzaEJ = 0;
+        project::modificato = true;
+    };
+    auto p = programma(forme);
+    ASSERT_TRUE(p.documento().apriAllAvvio(muro));
+    p.esegui(voceMenu("EditRigidezza"));
+    dialogo.risposte = {base::Risposta::si};  // to take the stiffness over
+    p.esegui(voceMenu("GraficaMomenti"));
+    EXPECT_TRUE(mostrata);
+    plot::statoPlot = {};
 }
 
 }  // namespace
