@@ -17,7 +17,7 @@ struct Posto {
 };
 
 /// Which texts find a place first.
-enum class Grado { nota, carico, estremo, acqua, tirante, quota, asse, fase, strato };
+enum class Grado { nota, asse, carico, estremo, acqua, tirante, quota, fase, strato };
 
 /// A text to be placed.
 struct Scritta {

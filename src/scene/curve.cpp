@@ -49,6 +49,7 @@ class Pannello {
             return;
         }
         ascisse();
+        if (dati_.versoScavo) verso();
         if (dati_.fascia)
             fascia(dati_.serie[0], dati_.serie[1]);
         else
@@ -59,10 +60,7 @@ class Pannello {
     }
 
  private:
-    // Drawn to the right where positive, or to the left.
-    [[nodiscard]] double mostrato(double v) const {
-        return (dati_.versoMonte ? -1 : 1) * project::mostrato(dati_.unita, v);
-    }
+    [[nodiscard]] double mostrato(double v) const { return project::mostrato(dati_.unita, v); }
     [[nodiscard]] double x(double valore) const {
         return x1_ + (x2_ - x1_) * (valore - minimo_) / (massimo_ - minimo_);
     }
@@ -132,9 +130,17 @@ class Pannello {
             const double v = i * passo, xv = x(v);
             linea({{xv, y1_}, {xv, y2_}}, Ruolo::griglia, 1);
             linea({{xv, y1_ - 0.35 * q_.em}, {xv, y1_}}, Ruolo::asse, 1);
-            numero(base::testoDecimali((dati_.versoMonte ? -1 : 1) * v, decimali),
-                   {{xv, y1_ - 1.05 * q_.em}, Ancora::centro});
+            numero(base::testoDecimali(v, decimali), {{xv, y1_ - 1.05 * q_.em}, Ancora::centro});
         }
+    }
+
+    // Which way positive values point: below the toe, where no curve is.
+    void verso() {
+        const double lunga = 1.8 * q_.em, y = y2_ + q_.em;
+        if (!q_.visibile(y)) return;
+        tela_.disegna(Elemento::asse, 0,
+                      Freccia{{{x2_ - lunga, y}, {x2_, y}}, {Ruolo::testoTenue}, 1, 0.5 * q_.em});
+        numero(traduttore("+ verso lo scavo"), {{x2_ - lunga - 0.5 * q_.em, y}, Ancora::destra});
     }
 
     void campo(const Serie& serie) {

@@ -62,7 +62,8 @@ DatiCurva datiCurva(const live::PareteViva& parete, int fase, live::Curva curva)
     const auto& voce = *std::find_if(voci.begin(), voci.end(),
                                      [&](const Voce& una) { return una.curva == curva; });
     const bool pressione = curva == Curva::pressioni;
-    DatiCurva dati{voce.unita, voce.titolo, pressione, serie(parete, fase, voce), fase == 0};
+    DatiCurva dati{voce.unita, voce.titolo, pressione || curva == Curva::spostamento,
+                   serie(parete, fase, voce), fase == 0};
     if (pressione && fase == 0) dati.titolo = "Pressione netta";
     // Water that presses nowhere needs no line.
     std::erase_if(dati.serie, [&](const Serie& una) {

@@ -24,8 +24,8 @@ struct Serie {
 struct DatiCurva {
     project::Unita unita;
     std::string_view titolo;  ///< Italian key
-    /// Pressures are drawn on the side that they come from: positive ones to the left.
-    bool versoMonte = false;
+    /// What is positive acts or goes towards the excavation.
+    bool versoScavo = false;
     std::vector<Serie> serie;
     /// The two last series are the borders of an envelope.
     bool fascia = false;

@@ -26,8 +26,13 @@ std::string titolo(const Mostrata& m) {
     const std::string fase =
         riempito(traduttore("fase %1 di %2"), {std::to_string(m.fase), std::to_string(m.nFasi())}) +
         scavo;
+    if (m.vista.fase != 0) return fase;
     const int stanno = m.parete.fasiInEquilibrio();
-    if (m.vista.fase != 0 || stanno == 0) return fase;
+    if (stanno == 0)
+        return traduttore("inviluppo") + punto +
+               riempito(traduttore("disegnata la fase %1 di %2"),
+                        {std::to_string(m.fase), std::to_string(m.nFasi())}) +
+               scavo;
     // The ground and the water are those of the stage that falls, the numbers of those before it.
     if (m.cade)
         return fase + punto +

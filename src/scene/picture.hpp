@@ -35,6 +35,7 @@ struct Linea {
     Tinta tinta;
     double spessore = 1;
     Tratteggio tratteggio = Tratteggio::nessuno;
+    bool operator==(const Linea&) const = default;
 };
 
 /// A chain of lines with a head at its last point.
@@ -43,6 +44,7 @@ struct Freccia {
     Tinta tinta;
     double spessore = 1;
     double testa = 6;  ///< length of the head
+    bool operator==(const Freccia&) const = default;
 };
 
 /// The triangle of its head; empty for an arrow without length.
@@ -52,6 +54,7 @@ struct Freccia {
 struct Area {
     std::vector<Punto> punti;
     Tinta tinta;
+    bool operator==(const Area&) const = default;
 };
 
 /// A convex polygon under a hatch of the library, whose tiles lie at the origin of the picture.
@@ -59,6 +62,7 @@ struct Campitura {
     std::vector<Punto> punti;
     double codice = 0;  ///< as `drawings::disegnaCampitura`
     Tinta tinta;
+    bool operator==(const Campitura&) const = default;
 };
 
 enum class Ancora { sinistra, centro, destra };
@@ -79,6 +83,7 @@ struct Testo {
 
     /// The room that it takes, plate included.
     [[nodiscard]] Riquadro riquadro() const;
+    bool operator==(const Testo&) const = default;
 };
 
 using Figura = std::variant<Area, Campitura, Linea, Freccia, Testo>;
@@ -107,6 +112,7 @@ struct Primitiva {
     Elemento elemento = Elemento::sfondo;
     int numero = 0;  ///< of the layer, the anchor, the stage; 0 of what is not counted
     Figura figura;
+    bool operator==(const Primitiva&) const = default;
 };
 
 /// A picture and what is needed to read it.
@@ -123,6 +129,7 @@ struct Scena {
     [[nodiscard]] double y(double z) const { return yTesta + scala * z; }
     /// The depth of a height, within the wall.
     [[nodiscard]] double z(double y) const;
+    bool operator==(const Scena&) const = default;
 };
 
 }  // namespace korven::scene

@@ -22,11 +22,13 @@ TEST(DatiCurva, AreThoseOfTheStage) {
     EXPECT_EQ(datiCurva(parete, 1, Curva::spostamento).unita.mostrata, "mm");
 }
 
-TEST(DatiCurva, HoldThePressuresOfBothSidesOnTheSideThatTheyComeFrom) {
+TEST(DatiCurva, HoldThePressuresOfBothSidesWithTheirSigns) {
     const auto parete = live::calcola(test::progettoSemplice(), 40);
     const DatiCurva p = datiCurva(parete, 2, Curva::pressioni);
     ASSERT_EQ(p.serie.size(), 3U);
-    EXPECT_TRUE(p.versoMonte);
+    EXPECT_TRUE(p.versoScavo);
+    EXPECT_TRUE(datiCurva(parete, 2, Curva::spostamento).versoScavo);
+    EXPECT_FALSE(datiCurva(parete, 2, Curva::momento).versoScavo);
     EXPECT_EQ(p.serie[0].valori, parete.fase(2)->monte);
     EXPECT_EQ(p.serie[1].valori, parete.fase(2)->valle);
     EXPECT_EQ(p.serie[2].valori, parete.fase(2)->acqua);

@@ -244,6 +244,27 @@ TEST(Scena, DrawsTheCurveAtTheDepthsOfTheNodesAndWritesItsPeaks) {
         EXPECT_NEAR(curva[i].x - curva[0].x, k * (m[i] - m[0]), 1e-6);
 }
 
+TEST(Scena, DrawsPressuresTheWayThatTheyPressAndSaysWhichIsPositive) {
+    const auto dati = test::progettoSemplice();
+    const auto parete = live::calcola(dati, 40);
+    const Scena s = scenaDi(dati, {2, Curva::pressioni});
+    const auto& fase = *parete.fase(2);
+    ASSERT_GT(fase.monte[10], 0);
+    ASSERT_LT(fase.valle[30], 0);
+    ASSERT_EQ(fase.valle[10], 0);  // above the excavation
+    const auto linee = figure<Linea>(s, Elemento::curva);
+    const double zero = linee.at(1).punti[10].x;
+    EXPECT_GT(linee[0].punti[10].x, zero);  // towards the excavation,
+    EXPECT_LT(linee[1].punti[30].x, zero);  // away from it
+    EXPECT_TRUE(dice(testi(s, Elemento::asse), "+ verso lo scavo"));
+    const auto verso = figure<Freccia>(s, Elemento::asse).at(0).punti;
+    EXPECT_GT(verso[1].x, verso[0].x);
+    EXPECT_TRUE(
+        dice(testi(scenaDi(dati, {0, Curva::pressioni}), Elemento::asse), "+ verso lo scavo"));
+    EXPECT_FALSE(
+        dice(testi(scenaDi(dati, {2, Curva::momento}), Elemento::asse), "+ verso lo scavo"));
+}
+
 TEST(Scena, FillsTheBandOfTheEnvelope) {
     const Scena s = scenaDi(test::progettoSemplice(), {0, Curva::taglio});
     EXPECT_EQ(figure<Area>(s, Elemento::curva).size(), 1U);
@@ -310,7 +331,10 @@ TEST(Scena, SaysThatNothingIsKnownAfterAStageThatFalls) {
 TEST(Scena, SaysWhyNothingIsComputed) {
     auto dati = test::progettoSemplice();
     dati.rigidezzaEJ = 0;
+    EXPECT_TRUE(dice(testi(scenaDi(dati, {0}), Elemento::nota),
+                     "inviluppo  ·  disegnata la fase 2 di 2  ·  scavo 5.00 m"));
     const Scena s = scenaDi(dati, {1});
+    EXPECT_TRUE(dice(testi(s, Elemento::nota), "fase 1 di 2  ·  scavo 2.00 m"));
     EXPECT_TRUE(dice(testi(s, Elemento::nota), "Il valore di EJ non è ancora stato definito."));
     EXPECT_TRUE(dice(testi(s, Elemento::curva), "nessuna curva"));
 }

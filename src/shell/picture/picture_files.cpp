@@ -5,6 +5,7 @@
 #include <QMimeData>
 
 #include "base/code_page.hpp"
+#include "base/file_error.hpp"
 #include "base/folders/file_names.hpp"
 #include "base/translated_texts.hpp"
 #include "commands/output_title.hpp"
@@ -25,8 +26,29 @@ namespace {
 constexpr scene::Misura misuraFile{1000, 660};
 constexpr double rapportoAppunti = 2;
 
-std::string estensione(const std::string& percorso) {
-    return base::minuscolo(percorso.substr(percorso.find_last_of("./") + 1));
+struct Tipo {
+    const char *nome, *estensione;
+    void (*scrivi)(const std::string& percorso, const device::ScenaDaScrivere& scena,
+                   const base::Disco& disco);
+};
+// The first is proposed.
+constexpr Tipo tipi[] = {{"SVG (*.svg)", "svg", device::scriviScenaSvg},
+                         {"PDF (*.pdf)", "pdf", device::scriviScenaPdf},
+                         {"PNG (*.png)", "png",
+                          [](const std::string& percorso, const device::ScenaDaScrivere& scena,
+                             const base::Disco& disco) {
+                              device::scriviScenaPng(percorso, scena,
+                                                     device::risoluzionePredefinita, disco);
+                          }}};
+
+// That of the extension, whatever its case.
+const Tipo& tipoDi(const std::string& percorso) {
+    const std::string nome = base::minuscolo(percorso);
+    for (const Tipo& tipo : tipi)
+        if (nome.ends_with(std::string(".") + tipo.estensione)) return tipo;
+    throw base::ErroreScrittura(percorso, 0,
+                                base::traduttore("la figura si salva come SVG, PDF o PNG: "
+                                                 "terminare il nome con .svg, .pdf o .png"));
 }
 
 // Gives the picture in the size of files to what writes it.
@@ -41,24 +63,21 @@ void conScena(const live::ProgettoVivo& vivo, const QFont& font, const Scrivi& s
 }  // namespace
 
 FileDaSalvare richiestaFigura() {
-    const std::string percorso = base::nomeUscita(project::fileCorrente, "figura", "svg");
-    return {base::traduttore("Salvataggio della figura del progetto"),
-            percorso.substr(percorso.rfind('/') + 1),
-            {{"SVG (*.svg)", "svg"}, {"PDF (*.pdf)", "pdf"}, {"PNG (*.png)", "png"}}};
+    const std::string percorso =
+        base::nomeUscita(project::fileCorrente, "figura", tipi[0].estensione);
+    FileDaSalvare richiesta{base::traduttore("Salvataggio della figura del progetto"),
+                            percorso.substr(percorso.rfind('/') + 1),
+                            {}};
+    for (const Tipo& tipo : tipi) richiesta.tipi.push_back({tipo.nome, tipo.estensione});
+    return richiesta;
 }
 
 void scriviFigura(const std::string& percorso, const live::ProgettoVivo& vivo, const QFont& font,
                   const base::Disco& disco) {
     project::controllaUscita(percorso, project::fileCorrente);
-    const std::string tipo = estensione(percorso);
-    conScena(vivo, font, [&](const device::ScenaDaScrivere& scena) {
-        if (tipo == "svg")
-            device::scriviScenaSvg(percorso, scena, disco);
-        else if (tipo == "png")
-            device::scriviScenaPng(percorso, scena, device::risoluzionePredefinita, disco);
-        else
-            device::scriviScenaPdf(percorso, scena, disco);
-    });
+    const Tipo& tipo = tipoDi(percorso);
+    conScena(vivo, font,
+             [&](const device::ScenaDaScrivere& scena) { tipo.scrivi(percorso, scena, disco); });
 }
 
 void salvaFigura(const live::ProgettoVivo& vivo, const QFont& font, PorteGrafica& porte,

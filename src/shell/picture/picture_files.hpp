@@ -14,8 +14,9 @@ namespace korven::shell {
 [[nodiscard]] FileDaSalvare richiestaFigura();
 
 /// Writes the picture as the kind of file that the extension of the path names, whatever its case;
-/// PDF when it names none of SVG, PNG and PDF. Its size is always the same, whatever the window's.
-/// @throws base::ErroreFile when the path is that of a project, or with the system's reason
+/// SVG, PDF or PNG. Its size is always the same, whatever the window's.
+/// @throws base::ErroreFile when the path is that of a project or of another kind of file, or with
+/// the system's reason
 void scriviFigura(const std::string& percorso, const live::ProgettoVivo& vivo, const QFont& font,
                   const base::Disco& disco);
 

@@ -58,8 +58,10 @@ VistaFigura::VistaFigura(const live::ProgettoVivo& vivo, QWidget* genitore)
 
 void VistaFigura::aggiorna() {
     if (!vivo_.aperto()) return;
-    if (std::exchange(apertura_, vivo_.apertura()) != apertura_) z_.reset();
-    invalida();
+    if (std::exchange(apertura_, vivo_.apertura()) != apertura_) leggi({});
+    // What is told beside the picture, as the margin, leaves it as it is: laying out tells, for a
+    // fraction of what painting costs.
+    if (immagineVecchia_ || disponi() != scena_) invalida();
     setAccessibleDescription(qt(scene::descrizione(vivo_.parete(), vivo_.vista())) + '\n' +
                              tradotto("I valori stanno nelle tabelle di Risultati (Ctrl+R)"));
     rileggi();
@@ -70,13 +72,15 @@ void VistaFigura::invalida() {
     update();
 }
 
+scene::Scena VistaFigura::disponi() const {
+    return scene::scena(vivo_.parete(), vivo_.vista(),
+                        {static_cast<double>(width()), static_cast<double>(height())}, misura_,
+                        {.impedimento = vivo_.impedimento()});
+}
+
 const scene::Scena& VistaFigura::scena() {
-    if (scenaVecchia_) {
-        scena_ = scene::scena(vivo_.parete(), vivo_.vista(),
-                              {static_cast<double>(width()), static_cast<double>(height())},
-                              misura_, {.impedimento = vivo_.impedimento()});
-        scenaVecchia_ = false;
-    }
+    if (scenaVecchia_) scena_ = disponi();
+    scenaVecchia_ = false;
     return scena_;
 }
 

@@ -52,6 +52,7 @@ class VistaFigura : public QWidget {
     void leggi(std::optional<double> z);
     void rileggi();
     void invalida();
+    [[nodiscard]] scene::Scena disponi() const;
     void prepara();
     [[nodiscard]] bool leggeTasto(int tasto);
 

@@ -170,7 +170,10 @@ void VistaCurve::paintEvent(QPaintEvent*) {
         p.setPen(colore(Ruolo::testo, palette()));
         p.drawText(
             QRectF(0, height() - fontMetrics().height() - 4, width(), fontMetrics().height()),
-            Qt::AlignCenter, qt(curve_.titolo) + QStringLiteral("  ·  z [m]"));
+            Qt::AlignCenter,
+            fontMetrics().elidedText(qt(curve_.titolo) + QStringLiteral("  ·  z [m]  ·  ") +
+                                         tradotto("pressioni e spostamenti: + verso lo scavo"),
+                                     Qt::ElideRight, width()));
     }
     if (!hasFocus()) return;
     p.setPen(QPen(palette().color(QPalette::Highlight), 2));

@@ -68,6 +68,17 @@ TEST_F(FileFiguraTest, WritesTheKindThatTheExtensionNames) {
     EXPECT_EQ(porte.scritti.size(), 3U);
 }
 
+TEST_F(FileFiguraTest, RefusesAnotherKindAndSaysWhichThereAre) {
+    for (const char* nome : {"a.xyz", "a.svg.gz", "png", "a.dpdf"}) {
+        dialogo.messaggi.clear();
+        salva(ambiente.lavori / nome);
+        EXPECT_FALSE(std::filesystem::exists(ambiente.lavori / nome)) << nome;
+        ASSERT_EQ(dialogo.messaggi.size(), 1U) << nome;
+        EXPECT_NE(dialogo.messaggi[0].testo.find(".svg, .pdf o .png"), std::string::npos);
+    }
+    EXPECT_TRUE(porte.scritti.empty());
+}
+
 TEST_F(FileFiguraTest, NeverTakesThePlaceOfTheProject) {
     test::metti(project::fileCorrente, "il progetto");
     salva(project::fileCorrente);

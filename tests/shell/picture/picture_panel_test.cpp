@@ -149,6 +149,24 @@ TEST_F(PannelloFiguraTest, FollowsTheProject) {
     EXPECT_EQ(fasi().maximum(), 1);
 }
 
+TEST_F(PannelloFiguraTest, KeepsAPictureThatWouldBeTheSameAgain) {
+    struct Conta : QObject {
+        bool eventFilter(QObject*, QEvent* evento) override {
+            pitture += evento->type() == QEvent::Paint ? 1 : 0;
+            return false;
+        }
+        int pitture = 0;
+    } conta;
+    vista().installEventFilter(&conta);
+    emit vita.cambiata();  // as when a margin arrives
+    QCoreApplication::processEvents();
+    EXPECT_EQ(conta.pitture, 0);
+    project::Progetto.sovraccMonte = 2;
+    vita.guarda();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(conta.pitture, 1);
+}
+
 TEST_F(PannelloFiguraTest, PaintsAnewWhenTheDesktopTurnsDark) {
     const QColor chiaro = vista().grab().toImage().pixelColor(5, 5);
     QPalette scura;
