@@ -1,5 +1,8 @@
 #include "live/working_values.hpp"
 
+#include <algorithm>
+#include <vector>
+
 #include "base/filled_text.hpp"
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
@@ -7,6 +10,7 @@
 #include "masks/field_check.hpp"
 #include "masks/field_model.hpp"
 #include "masks/field_type.hpp"
+#include "masks/needed_cells.hpp"
 
 namespace korven::live {
 
@@ -26,39 +30,56 @@ std::string nonAmmesso(const std::string& dove) {
 
 bool numerica(const CampoMaschera& colonna) { return !masks::tipoColonna(colonna.tipo).testo; }
 
-// A row that is typed from left to right is complete when its last number is there. Where cells may
-// stay empty those before it read as 0; else each of them has to be there.
-bool manca(const Maschera& maschera, const std::string* celle, std::size_t c) {
-    if (!vuoto(celle[c - 1]) || !numerica(maschera.campi[c])) return false;
-    if (maschera.genere != masks::GenereMaschera::grigliaLibera) return true;
-    for (std::size_t dopo = c + 1; dopo < maschera.campi.size(); ++dopo)
-        if (numerica(maschera.campi[dopo]) && !vuoto(celle[dopo - 1])) return false;
-    return true;
+// The columns whose numbers a row needs.
+std::vector<std::size_t> necessarie(const Maschera& maschera, masks::NumeroMaschera numero,
+                                    const project::DatiProgetto& dati) {
+    std::vector<std::size_t> quali;
+    for (std::size_t c = 1; c < maschera.campi.size(); ++c)
+        if (numerica(maschera.campi[c]) &&
+            masks::cellaNecessaria(numero, static_cast<int>(c), dati))
+            quali.push_back(c);
+    return quali;
+}
+
+// A row that is typed from left to right is complete when the last number that it needs is there,
+// or one behind it. Where cells may stay empty those before it read as 0; else each of them has to
+// be there.
+bool incompleta(const Maschera& maschera, const std::vector<std::size_t>& necessarie,
+                const std::string* celle) {
+    const auto manca = [celle](std::size_t c) { return vuoto(celle[c - 1]); };
+    if (maschera.genere != masks::GenereMaschera::grigliaLibera)
+        return std::any_of(necessarie.begin(), necessarie.end(), manca);
+    for (std::size_t c = necessarie.empty() ? 1 : necessarie.back(); c < maschera.campi.size(); ++c)
+        if (numerica(maschera.campi[c]) && !manca(c)) return false;
+    return !necessarie.empty();
 }
 
 // What is wrong with one row of a table; empty for a good one.
-std::string impedimentoRiga(const Maschera& maschera, const std::string* celle, int riga) {
+std::string impedimentoRiga(const Maschera& maschera, const std::vector<std::size_t>& necessarie,
+                            const std::string* celle, int riga) {
     for (std::size_t c = 1; c < maschera.campi.size(); ++c) {
         const CampoMaschera& colonna = maschera.campi[c];
         const std::string& testo = celle[c - 1];
-        if (manca(maschera, celle, c))
-            return riempito(traduttore("riga %1: dati incompleti"), {std::to_string(riga)});
         if (masks::controllaCella(colonna, testo) != Vizio::nessuno)
             return nonAmmesso(
                 riempito(traduttore("riga %1, %2"), {std::to_string(riga), colonna.etichetta}));
     }
+    if (incompleta(maschera, necessarie, celle))
+        return riempito(traduttore("riga %1: dati incompleti"), {std::to_string(riga)});
     return {};
 }
 
-std::string impedimentoTabella(const Maschera& maschera, const ValoriForma& valori) {
+std::string impedimentoTabella(const project::DatiProgetto& dati, const Maschera& maschera,
+                               const ValoriForma& valori) {
     const std::size_t colonne = maschera.campi.size() - 1;
     const std::size_t righe = (valori.testi.size() - 1) / colonne;
     if (static_cast<int>(righe) > masks::capienza(valori.maschera))
         return riempito(traduttore("%1 righe, la tabella ne tiene %2"),
                         {std::to_string(righe), std::to_string(masks::capienza(valori.maschera))});
+    const auto quali = necessarie(maschera, valori.maschera, dati);
     for (std::size_t r = 0; r < righe; ++r) {
-        auto perche =
-            impedimentoRiga(maschera, &valori.testi[1 + r * colonne], static_cast<int>(r) + 1);
+        auto perche = impedimentoRiga(maschera, quali, &valori.testi[1 + r * colonne],
+                                      static_cast<int>(r) + 1);
         if (!perche.empty()) return perche;
     }
     return {};
@@ -80,7 +101,7 @@ ProgettoInCorso conValori(const project::DatiProgetto& dati, const Maschera& mas
                           const ValoriForma& valori) {
     const bool tabella = masks::capienza(valori.maschera) > 0;
     auto perche =
-        tabella ? impedimentoTabella(maschera, valori) : impedimentoCampi(maschera, valori);
+        tabella ? impedimentoTabella(dati, maschera, valori) : impedimentoCampi(maschera, valori);
     if (!perche.empty()) return {{}, std::move(perche)};
     std::vector<std::string> testi;
     for (const double scelta : valori.combo) testi.push_back(masks::testoScelta(scelta));

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "masks/editing.hpp"
+#include "project/codes.hpp"
 #include "support/plain_masks.hpp"
 #include "support/sample_projects.hpp"
 
@@ -78,6 +79,16 @@ TEST_F(ValoriInCorso, ReadAnEmptyCellAs0WhereCellsMayStayEmptyAndTheRowGoesOn) {
     EXPECT_EQ(inCorso.dati->coesione[1], 0);
     valori.testi[6].clear();
     valori.testi[7].clear();
+    EXPECT_EQ(con(valori).impedimento, "riga 1: dati incompleti");
+}
+
+TEST_F(ValoriInCorso, NeedKsOfALayerOnlyWhereTheSubgradeModulusComesFromIt) {
+    auto valori = forma(masks::NumeroMaschera::strati);
+    valori.testi[6].clear();
+    valori.testi[7].clear();
+    dati.metodoKs = project::valore(project::MetodoKs::bowles);
+    EXPECT_EQ(con(valori).impedimento, "");
+    dati.metodoKs = project::valore(project::MetodoKs::costante);
     EXPECT_EQ(con(valori).impedimento, "riga 1: dati incompleti");
 }
 
