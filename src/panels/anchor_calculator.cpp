@@ -28,6 +28,9 @@ struct Regola {
     bool intero = false;
 };
 
+// No line ends between a value and its unit.
+constexpr const char* spazio = "\u00A0";
+
 constexpr double senzaLimite = std::numeric_limits<double>::infinity();
 
 Regola regola(VoceCalcolo voce) {
@@ -138,6 +141,41 @@ std::string etichetta(VoceCalcolo voce, const IngressiCalcolo& in) {
                                                              : "Precarico di un puntone F [kN]");
 }
 
+std::string spiegazione(VoceCalcolo voce, const IngressiCalcolo& in) {
+    const bool tirante = in.genere == GenereAncoraggio::tirante;
+    switch (voce) {
+        case VoceCalcolo::modulo:
+            return traduttore(
+                "Modulo elastico dell'acciaio, in N/mm²: 195000 per trefoli, 200000 "
+                "per barre, 210000 per profili e tubi.");
+        case VoceCalcolo::numero:
+            return traduttore("Quanti trefoli, barre o profili formano un tirante o un puntone.");
+        case VoceCalcolo::misura:
+            return traduttore(in.misuraArea == MisuraArea::area
+                                  ? "Area della sezione di un trefolo, di una barra o di un "
+                                    "profilo, come la dà il catalogo."
+                                  : "Diametro di una barra piena. Di un trefolo va data l'area: è "
+                                    "minore di quella del cerchio.");
+        case VoceCalcolo::lunghezza:
+            return traduttore(tirante ? "Lunghezza libera, più la parte del bulbo che si allunga "
+                                        "con essa."
+                              : conta(in)
+                                  ? "Da un appoggio all'altro: il puntone si accorcia tutto."
+                                  : "Da una parete all'altra: il mezzo resta fermo e ne "
+                                    "conta metà.");
+        case VoceCalcolo::interasse:
+            return traduttore("Distanza tra due tiranti o puntoni lungo la paratia.");
+        case VoceCalcolo::inclinazione:
+            return traduttore(
+                "Angolo tra l'asse e l'orizzontale: la rigidezza conta con il quadrato "
+                "del coseno, la pretensione con il coseno.");
+        case VoceCalcolo::forza:
+            break;
+    }
+    return traduttore(tirante ? "Forza di bloccaggio di un solo tirante, lungo il suo asse."
+                              : "Precarico di un solo puntone, lungo il suo asse.");
+}
+
 EsitoCalcolo area(const IngressiCalcolo& in) {
     Lettura leggi(in);
     const double A = areaLetta(in, leggi);
@@ -148,7 +186,7 @@ EsitoCalcolo area(const IngressiCalcolo& in) {
     if (!std::isfinite(A)) return smisurato();
     return conValore(A, (tondo ? "A = n π d² / 4 = " + n + " π × " + misura + "² / 4"
                                : "A = " + n + " × " + misura) +
-                            " = " + cifre(A) + " mm²");
+                            " = " + cifre(A) + spazio + "mm²");
 }
 
 EsitoCalcolo rigidezza(const IngressiCalcolo& in) {
@@ -168,7 +206,7 @@ EsitoCalcolo rigidezza(const IngressiCalcolo& in) {
                             cifre(uno.area) + " × " + base::testoDecimali(c * c, 4) + " / (" +
                             testoNumero(uno.lunghezza) + " × " + testoNumero(uno.interasse) +
                             " × " + testoNumero(project::newtonKilonewton) + ") = " + cifre(k) +
-                            " kN/m");
+                            spazio + "kN/m/m");
 }
 
 EsitoCalcolo pretensione(const IngressiCalcolo& in) {
@@ -181,7 +219,7 @@ EsitoCalcolo pretensione(const IngressiCalcolo& in) {
     if (!std::isfinite(p)) return smisurato();
     return conValore(p, "F cos α / s = " + testoNumero(F) + " × " +
                             base::testoDecimali(coseno(alfa), 4) + " / " + testoNumero(s) + " = " +
-                            cifre(p) + " kN");
+                            cifre(p) + spazio + "kN/m");
 }
 
 std::optional<double> forzaDiUno(const IngressiCalcolo& in, double perMetro) {

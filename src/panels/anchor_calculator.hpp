@@ -45,6 +45,9 @@ struct IngressiCalcolo {
 /// two choices.
 [[nodiscard]] std::string etichetta(VoceCalcolo voce, const IngressiCalcolo& ingressi);
 
+/// What an input is and where its value comes from, translated; it follows the choices too.
+[[nodiscard]] std::string spiegazione(VoceCalcolo voce, const IngressiCalcolo& ingressi);
+
 /// A result for the cell of a row.
 struct EsitoCalcolo {
     std::optional<double> valore;  ///< in the unit of the cell, to five digits
@@ -58,9 +61,9 @@ struct EsitoCalcolo {
 
 /// Area of one anchor [mm²].
 [[nodiscard]] EsitoCalcolo area(const IngressiCalcolo& ingressi);
-/// Stiffness per metre of wall [kN/m], horizontal.
+/// Stiffness per metre of wall [kN/m/m], horizontal.
 [[nodiscard]] EsitoCalcolo rigidezza(const IngressiCalcolo& ingressi);
-/// Prestress per metre of wall [kN], horizontal.
+/// Prestress per metre of wall [kN/m], horizontal.
 [[nodiscard]] EsitoCalcolo pretensione(const IngressiCalcolo& ingressi);
 
 /// Force along the axis of one anchor [kN] for a force per metre of wall; nothing while spacing and

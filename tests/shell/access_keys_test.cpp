@@ -88,7 +88,7 @@ TEST_P(TastiDiScelta, DifferWithinEachFormThatAMaskDescribes) {
 
 TEST_P(TastiDiScelta, DifferBetweenTheLayersAndTheirPanelAndWithinItsDialogs) {
     programma.conPannelloStrati(dialogo, {},
-                                [](const Base2_32& forma) { EXPECT_EQ(tastiDi(forma), 8U); });
+                                [](const Base2_32& forma) { EXPECT_EQ(tastiDi(forma), 9U); });
     test::ProgrammaConsegnato::perOgniDialogoStrati(
         [](const QWidget& finestra) { EXPECT_GE(tastiDi(finestra), 6U); });
 }

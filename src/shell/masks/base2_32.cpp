@@ -1,6 +1,7 @@
 #include "shell/masks/base2_32.hpp"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -30,7 +31,7 @@ Base2_32::Base2_32(const masks::Maschera& maschera, const std::vector<std::strin
     QStringList aiuti;
     for (const auto& colonna : maschera.campi) aiuti << qt(masks::aiutoMostrato(colonna.aiuto));
     aiuto_ = new StrisciaAiuto(
-        aiuti, [this] { modello_.mostraAiuto(this->dialogo()); }, this);
+        aiuti, [this] { mostraSpiegazione(); }, this);
     aiuto_->setObjectName(QStringLiteral("Label1"));
     griglia_ = new VistaGriglia(
         modello_, dialogo, [this] { cambiata(); }, this);
@@ -79,6 +80,9 @@ live::ValoriForma Base2_32::valori() const { return {.testi = modello_.valoriDig
 void Base2_32::affianca(QWidget* pannello) {
     const int altro = layout()->totalHeightForWidth(width()) - griglia_->sizeHint().height();
     fila_->addWidget(pannello);
+    pannello_ = pannello;
+    connect(qApp, &QApplication::focusChanged, this,
+            [this](const QWidget* /*prima*/, const QWidget* ora) { segui(ora); });
     for (auto* pulsante : pannello->findChildren<QAbstractButton*>())
         pulsante->installEventFilter(this);  // Enter presses them as it does those of the form
     // As wide as before, and the panel beside it at its whole height, as far as the screen goes.
@@ -98,6 +102,32 @@ void Base2_32::sostituisci(const std::vector<std::vector<std::string>>& righe, s
     griglia_->aggiorna();
 }
 
+void Base2_32::nota(const QString& testo) {
+    if (testo == nota_) return;
+    nota_ = testo;
+    spiega();
+}
+
+void Base2_32::vai(masks::PostoGriglia posto) {
+    modello_.vaiA(posto, dialogo());
+    griglia_->aggiorna();
+}
+
+// On its way to the strip, to be read or clicked, and out of the window the text stays.
+void Base2_32::segui(const QWidget* fuoco) {
+    if (fuoco == nullptr || fuoco == aiuto_ || !isAncestorOf(fuoco)) return;
+    const bool pannello = pannello_->isAncestorOf(fuoco);
+    spiegato_ = pannello ? fuoco->whatsThis() : QString();
+    nomeSpiegato_ = pannello ? fuoco->accessibleName() : QString();
+    spiega();
+}
+
+void Base2_32::mostraSpiegazione() {
+    if (spiegato_.isEmpty()) return modello_.mostraAiuto(dialogo());
+    dialogo().messaggio(spiegato_.toStdString(), nomeSpiegato_.toStdString(),
+                        base::Icona::informazione);
+}
+
 // The grid says that something may have changed: what it was is told to those who follow the form.
 void Base2_32::cambiata() {
     spiega();
@@ -113,7 +143,9 @@ void Base2_32::cambiata() {
 
 void Base2_32::spiega() {
     setWindowTitle(qt(modello_.titolo()));
+    if (!spiegato_.isEmpty()) return aiuto_->mostra(spiegato_);
     QStringList note;
+    if (!nota_.isEmpty()) note << nota_;
     for (const std::string& nota :
          {modello_.eccesso(), modello_.detto().empty() ? modello_.lettura() : modello_.detto()})
         if (!nota.empty()) note << qt(nota);

@@ -31,8 +31,16 @@ class Base2_32 : public FormaMaschera {
     [[nodiscard]] const masks::ModelloGriglia& modello() const { return modello_; }
     [[nodiscard]] live::ValoriForma valori() const override;
 
-    /// Puts a panel at the right of the grid, which becomes its owner.
+    /// Puts a panel at the right of the grid, which becomes its owner. While a control of the panel
+    /// has the focus the strip shows its `whatsThis`, if it has one.
     void affianca(QWidget* pannello);
+
+    /// What a panel has to say about the table: a note above the text of the strip, until it is
+    /// another one or empty.
+    void nota(const QString& testo);
+
+    /// A panel leads to a cell, if the current one is good to be left; the grid gets the focus.
+    void vai(masks::PostoGriglia posto);
 
     /// A panel writes a text into a cell, as if it were typed there; a fault is told, and the cell
     /// then stays as it was.
@@ -58,13 +66,19 @@ class Base2_32 : public FormaMaschera {
 
  private:
     void azione(std::size_t pulsante);
+    void segui(const QWidget* fuoco);
     void spiega();
+    void mostraSpiegazione();
     void cambiata();
 
     masks::ModelloGriglia modello_;
     VistaGriglia* griglia_ = nullptr;
     QHBoxLayout* fila_ = nullptr;  // grid and panel
     StrisciaAiuto* aiuto_ = nullptr;
+    QWidget* pannello_ = nullptr;
+    QString nota_;      // of the panel
+    QString spiegato_;  // of the control of the panel that has the focus
+    QString nomeSpiegato_;
     masks::PostoGriglia posto_;          // where the cursor was last
     std::vector<std::string> digitati_;  // what the cells held last
 };

@@ -48,7 +48,22 @@ CampiTirante::CampiTirante(panels::IngressiCalcolo& ingressi)
             [this] { emit scriviRigidezza(panels::rigidezza(ingressi_).testo()); });
     connect(scriviPretensione_, &QPushButton::clicked, this,
             [this] { emit scriviPretensione(panels::pretensione(ingressi_).testo()); });
+    ordinaTab();
     mostra();
+}
+
+// As they stand: the choice of area or diameter is beside its value.
+void CampiTirante::ordinaTab() {
+    const auto campo = [this](VoceCalcolo voce) { return campi_[static_cast<std::size_t>(voce)]; };
+    QWidget* prima = genere_;
+    for (QWidget* dopo :
+         {campo(VoceCalcolo::modulo), campo(VoceCalcolo::numero), static_cast<QWidget*>(misura_),
+          campo(VoceCalcolo::misura), campo(VoceCalcolo::lunghezza), campo(VoceCalcolo::interasse),
+          campo(VoceCalcolo::inclinazione), static_cast<QWidget*>(scriviRigidezza_),
+          campo(VoceCalcolo::forza), static_cast<QWidget*>(scriviPretensione_)}) {
+        setTabOrder(prima, dopo);
+        prima = dopo;
+    }
 }
 
 // The list of moduli says what each is of; chosen, it is a number.
@@ -76,6 +91,9 @@ void CampiTirante::fareScelte() {
     genere_->setObjectName(QStringLiteral("calcoloGenere"));
     genere_->setAccessibleName(tradotto("Che cosa si calcola"));
     genere_->setAccessibleDescription(genere_->accessibleName());
+    genere_->setWhatsThis(
+        tradotto("Che cosa sta nella riga: un tirante, un puntone contro un "
+                 "appoggio che non si muove, o un puntone tra due pareti uguali."));
     genere_->addItems({tradotto("Tirante"), tradotto("Puntone contro un appoggio fisso"),
                        tradotto("Puntone tra due pareti uguali: conta metà")});
     genere_->setCurrentIndex(static_cast<int>(ingressi_.genere));
@@ -83,6 +101,9 @@ void CampiTirante::fareScelte() {
     misura_->setObjectName(QStringLiteral("calcoloMisura"));
     misura_->setAccessibleName(tradotto("Come si dà l'area"));
     misura_->setAccessibleDescription(misura_->accessibleName());
+    misura_->setWhatsThis(
+        tradotto("Se si dà l'area di un trefolo, di una barra o di un profilo, o "
+                 "il diametro di una barra piena."));
     auto ingressi = ingressi_;
     for (const auto misura : {panels::MisuraArea::area, panels::MisuraArea::diametro}) {
         ingressi.misuraArea = misura;
@@ -163,6 +184,7 @@ void CampiTirante::mostra() {
         const QString nome = qt(panels::etichetta(static_cast<VoceCalcolo>(i), ingressi_));
         if (etichette_[i] != nullptr) etichette_[i]->setText(nome);
         campi_[i]->setAccessibleName(nome);
+        campi_[i]->setWhatsThis(qt(panels::spiegazione(static_cast<VoceCalcolo>(i), ingressi_)));
         if (auto* scelta = qobject_cast<QComboBox*>(campi_[i]))
             scelta->lineEdit()->setAccessibleName(nome);
     }

@@ -43,6 +43,7 @@ class CampiTirante : public QWidget {
     QLineEdit* fareCasella(panels::VoceCalcolo voce);
     QLabel* fareConto(const char* nome);
     QPushButton* farePulsante(const char* nome);
+    void ordinaTab();
     void cambiata();
     void mostra();
 

@@ -1,5 +1,6 @@
 #include "shell/panels/layers_panel.hpp"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QLabel>
 #include <QPushButton>
@@ -8,6 +9,7 @@
 
 #include "base/file_error.hpp"
 #include "base/files.hpp"
+#include "base/filled_text.hpp"
 #include "base/translated_texts.hpp"
 #include "drawings/log/hatch_choice.hpp"
 #include "exchange/layer_file.hpp"
@@ -53,6 +55,8 @@ PannelloStrati::PannelloStrati(Base2_32& forma, base::Dialogo& dialogo, FileDiSt
                      tradotto("Strati da un foglio di calcolo (CSV) o da un'indagine (AGS 4)"));
     auto* esporta = farePulsante("esporta", "export", tradotto("Esporta CS&V..."),
                                  tradotto("Scrive gli strati per un foglio di calcolo"));
+    vaiVuota_ = farePulsante("vaiVuota", "look", tradotto("Cella v&uota"),
+                             tradotto("Va alla prossima cella vuota che il calcolo legge"));
     auto* tutto = new QWidget(this);
     auto* colonna = new QVBoxLayout(tutto);
     colonna->setContentsMargins(0, 0, 0, 0);
@@ -60,6 +64,7 @@ PannelloStrati::PannelloStrati(Base2_32& forma, base::Dialogo& dialogo, FileDiSt
                            static_cast<QWidget*>(nome_), static_cast<QWidget*>(campitura)})
         colonna->addWidget(parte);
     colonna->addStretch();
+    colonna->addWidget(vaiVuota_);
     colonna->addWidget(importa);
     colonna->addWidget(esporta);
     riempi(nullptr, tutto);
@@ -67,7 +72,11 @@ PannelloStrati::PannelloStrati(Base2_32& forma, base::Dialogo& dialogo, FileDiSt
     connect(importa, &QPushButton::clicked, this, [this] { this->importa(); });
     connect(esporta, &QPushButton::clicked, this, [this] { this->esporta(); });
     connect(&forma_, &Base2_32::postoCambiato, this, [this] { mostra(); });
-    connect(&forma_, &FormaMaschera::digitata, this, [this] { mostra(); });
+    connect(&forma_, &FormaMaschera::digitata, this, [this] {
+        fatto_.clear();
+        mostra();
+    });
+    connect(vaiVuota_, &QPushButton::clicked, this, [this] { vaiAllaVuota(); });
     mostra();
 }
 
@@ -91,6 +100,36 @@ exchange::RigheStrati PannelloStrati::righe() const {
 }
 
 void PannelloStrati::mostra() {
+    mostraCampitura();
+    avvisa();
+}
+
+// What was done with a file, and what the table still lacks: an empty cell is read as 0 without a
+// question.
+void PannelloStrati::avvisa() {
+    const auto vuote = celleVuote();
+    vaiVuota_->setEnabled(vuote.has_value());
+    QStringList note;
+    if (!fatto_.isEmpty()) note << fatto_;
+    if (vuote) note << qt(vuote->parole);
+    forma_.nota(note.join(QLatin1Char(' ')));
+}
+
+void PannelloStrati::detto(const char* chiave, const std::string& percorso, std::size_t strati) {
+    const auto quale = QDir::toNativeSeparators(qt(percorso)).toStdString();
+    fatto_ = qt(base::riempito(base::traduttore(chiave), {quale, std::to_string(strati)}));
+    avvisa();
+}
+
+std::optional<panels::CelleVuote> PannelloStrati::celleVuote() const {
+    return panels::celleVuote(forma_.modello(), masks::NumeroMaschera::strati, project::Progetto);
+}
+
+void PannelloStrati::vaiAllaVuota() {
+    if (const auto vuote = celleVuote()) forma_.vai(vuote->prossima);
+}
+
+void PannelloStrati::mostraCampitura() {
     titolo_->setText(tradotto("Strato") + ' ' + QString::number(riga()));
     const std::string& testo = forma_.modello().testo({riga(), colonnaDescrizione});
     if (testo == mostrata_) return;  // most keys change another cell
@@ -129,6 +168,8 @@ void PannelloStrati::importa() {
         std::vector<std::vector<std::string>> nuove;
         for (const auto& riga : importo.righe()) nuove.emplace_back(riga.begin(), riga.end());
         forma_.sostituisci(nuove, base::traduttore("strati importati"));
+        detto("Strati importati da «%1»: %2.", *percorso, nuove.size());
+        vaiAllaVuota();
     } catch (const base::ErroreFile& errore) {
         dialogo_.messaggio(errore.what(), base::traduttore("ATTENZIONE") + "!",
                            base::Icona::avviso);
@@ -151,6 +192,7 @@ void PannelloStrati::esporta() {
     try {
         project::controllaUscita(scelto->percorso, project::fileCorrente);
         base::scriviFile(scelto->percorso, exchange::testoCsv(strati, scelto->forma));
+        detto("Strati scritti in «%1»: %2.", scelto->percorso, strati.size());
     } catch (const base::ErroreFile& errore) {
         dialogo_.messaggio(errore.what(), base::traduttore("ATTENZIONE") + "!",
                            base::Icona::avviso);

@@ -5,6 +5,7 @@
 
 #include "base/dialogo.hpp"
 #include "exchange/layer_rows.hpp"
+#include "panels/empty_cells.hpp"
 #include "shell/panels/layer_files.hpp"
 #include "shell/panels/side_panel.hpp"
 
@@ -16,10 +17,11 @@ namespace korven::shell {
 class Base2_32;
 
 /// The panel beside the table of layers: the hatch of the current row as a picture, the way to
-/// another one, layers from files and into one. What it changes goes into the table as if it were
-/// typed or pasted there.
+/// another one, layers from files and into one, the next cell that is still to be filled in. What
+/// it says stands in the strip of the form. What it changes goes into the table as if it were typed
+/// or pasted there.
 ///
-/// Controls by name: `immagine`, `nome`, `campitura`, `importa`, `esporta`.
+/// Controls by name: `immagine`, `nome`, `campitura`, `vaiVuota`, `importa`, `esporta`.
 class PannelloStrati : public PannelloLaterale {
     Q_OBJECT
  public:
@@ -29,6 +31,11 @@ class PannelloStrati : public PannelloLaterale {
 
  private:
     void mostra();
+    void mostraCampitura();
+    void avvisa();
+    void detto(const char* chiave, const std::string& percorso, std::size_t strati);
+    void vaiAllaVuota();
+    [[nodiscard]] std::optional<panels::CelleVuote> celleVuote() const;
     void scegliCampitura();
     void importa();
     void esporta();
@@ -43,6 +50,8 @@ class PannelloStrati : public PannelloLaterale {
     QLabel* titolo_;
     QLabel* immagine_;
     QLabel* nome_;
+    QPushButton* vaiVuota_;
+    QString fatto_;  // with a file, for the strip of the form, until something is typed
     std::optional<std::string> mostrata_;  // the description whose hatch is shown
 };
 

@@ -68,7 +68,7 @@ TEST_F(PannelloDeiTiranti, WritesTheStiffnessIntoTheRowInUseInOneStepThatCtrlZTa
     apri([&] {
         cursore(2, 4);
         riempi();
-        EXPECT_TRUE(testo("calcoloRigidezza").ends_with("= 2843.8 kN/m"));
+        EXPECT_TRUE(testo("calcoloRigidezza").ends_with("= 2843.8\u00A0kN/m/m"));
         EXPECT_EQ(controllo<QPushButton>("scriviRigidezza").text(),
                   "Scrivi la rigidezza nella riga 2");
         premi("scriviRigidezza");
@@ -216,6 +216,40 @@ TEST_F(PannelloDeiTiranti, LeavesTheKeysToTheGridAndComesAfterItsControls) {
         controllo<QPushButton>("scriviRigidezza").setFocus();
         QTest::keyClick(forma->focusWidget(), Qt::Key_Return);
         EXPECT_EQ(cella(1, 2), "2843.8");
+    });
+}
+
+TEST_F(PannelloDeiTiranti, IsGoneThroughByTheTabKeyAsItStands) {
+    apri([&] {
+        riempi();
+        controllo<QComboBox>("calcoloGenere").setFocus();
+        QStringList via;
+        for (int i = 0; i < 11; ++i) {
+            via << forma->focusWidget()->objectName();
+            QTest::keyClick(forma->focusWidget(), Qt::Key_Tab);
+        }
+        EXPECT_EQ(via.join(' ').toStdString(),
+                  "calcoloGenere calcolo0 calcolo1 calcoloMisura calcolo2 calcolo3 calcolo4 "
+                  "calcolo5 scriviRigidezza calcolo6 scriviPretensione");
+    });
+}
+
+TEST_F(PannelloDeiTiranti, HasItsInputsExplainedInTheStrip) {
+    apri([&] {
+        const std::string cella = testo("Label1");
+        casella(4).setFocus();
+        EXPECT_EQ(testo("Label1"), "Distanza tra due tiranti o puntoni lungo la paratia.");
+        auto& striscia = controllo<QLabel>("Label1");
+        striscia.setFocus();
+        QTest::keyClick(&striscia, Qt::Key_Space);
+        ASSERT_EQ(dialogo.messaggi.size(), 1U);
+        EXPECT_EQ(dialogo.messaggi[0].testo,
+                  "Distanza tra due tiranti o puntoni lungo la paratia.");
+        EXPECT_EQ(dialogo.messaggi[0].titolo, "Interasse s [m]");
+        controllo<QComboBox>("calcolo0").setFocus();
+        EXPECT_TRUE(testo("Label1").starts_with("Modulo elastico dell'acciaio"));
+        griglia().setFocus();
+        EXPECT_EQ(testo("Label1"), cella);
     });
 }
 

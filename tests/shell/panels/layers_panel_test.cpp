@@ -18,6 +18,7 @@
 #include "exchange/ags_text.hpp"
 #include "exchange/csv_layers.hpp"
 #include "exchange/file_text.hpp"
+#include "project/codes.hpp"
 #include "support/delivered_program.hpp"
 #include "support/desktop_bench.hpp"
 #include "support/dialog_double.hpp"
@@ -190,6 +191,34 @@ TEST_F(Pannello, PutsTheLayersOfATableInPlaceOfTheRowsAsOneStep) {
     });
 }
 
+TEST_F(Pannello, SaysWhatWasImportedAndLeadsToTheCellsThatAreStillEmpty) {
+    daLeggere = cartella / "strati.csv";
+    test::metti(*daLeggere, "Prof.;Gamma;Phi;Descrizione\n2,5;18;30;103 Sabbia\n7;19;24;105 A\n");
+    project::Progetto.metodoKs = project::valore(project::MetodoKs::bowles);
+    conForma([this](Base2_32& f) {
+        const auto striscia = [&f] { return controllo<QLabel>(f, "Label1").text().toStdString(); };
+        EXPECT_FALSE(controllo(f, "vaiVuota").isEnabled());
+        EXPECT_EQ(striscia().find("vuot"), std::string::npos);
+        premi("importa", [](QDialog& d) { premiIn(d, "importa"); });
+        EXPECT_TRUE(striscia().starts_with(
+            "Strati importati da «" + *daLeggere +
+            "»: 2. Celle vuote nella riga 1: Gamma Sat. [kN/m³], Coes. [kN/m²]. Altre righe con "
+            "celle vuote: 1. La conferma legge una cella vuota come 0.\n"))
+            << striscia();
+        EXPECT_EQ(f.modello().corrente(), (masks::PostoGriglia{1, 3}));
+        for (const auto& posto : {masks::PostoGriglia{1, 5}, {2, 3}, {2, 5}, {1, 3}}) {
+            premi("vaiVuota");
+            EXPECT_EQ(f.modello().corrente(), posto);
+        }
+        f.scrivi({1, 3}, "20");
+        EXPECT_TRUE(striscia().starts_with("Celle vuote nella riga 1: Coes. [kN/m²]. Altre "))
+            << striscia();
+        for (const auto& posto : {masks::PostoGriglia{1, 5}, {2, 3}, {2, 5}}) f.scrivi(posto, "1");
+        EXPECT_FALSE(controllo(f, "vaiVuota").isEnabled());
+        EXPECT_EQ(striscia(), f.modello().aiuto());
+    });
+}
+
 TEST_F(Pannello, TakesTheLayersOfAHoleFromTheWallsHead) {
     daLeggere = cartella / "scavo.ags";
     test::metti(*daLeggere, test::gruppoLoca({{"BH1", "101.35"}, {"BH2", "99.00"}}) +
@@ -252,6 +281,11 @@ TEST_F(Pannello, WritesTheLayersSoThatTheyReadBack) {
         for (const auto& riga : letti.righe) celle.insert(celle.end(), riga.begin(), riga.end());
         EXPECT_EQ(celle, f.modello().valoriTesto());
         EXPECT_TRUE(dialogo.messaggi.empty());
+        EXPECT_TRUE(controllo<QLabel>(f, "Label1")
+                        .text()
+                        .toStdString()
+                        .starts_with("Strati scritti in «" + daScrivere->percorso +
+                                     "»: " + celle[0] + "."));
     });
 }
 
