@@ -7,7 +7,8 @@
 
 namespace korven::exchange {
 
-/// A translated sentence with its values for %1 to %9.
+/// A translated sentence with its values for %1 to %9, the beginning of a value that is too long to
+/// be read.
 [[nodiscard]] std::string frase(std::string_view chiave, std::initializer_list<std::string> valori);
 
 /// "riga 5: ...", "riga 5, colonna 2: ...": what is wrong at a place of a file. A column is counted

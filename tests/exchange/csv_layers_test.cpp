@@ -104,6 +104,14 @@ TEST(LeggiCsv, TakesDepthsBeforeThicknesses) {
     EXPECT_EQ(letti.avvertenze, Frasi{"ci sono profondità e spessori: valgono le profondità"});
 }
 
+TEST(LeggiCsv, QuotesTheBeginningOfALongCell) {
+    const std::string lungo(79, 'x');
+    EXPECT_EQ(leggiCsv("Prof.;" + lungo + "àààà\n1;2\n").avvertenze,
+              Frasi{"riga 1, colonna 2: la colonna «" + lungo +
+                    "...» non è di questa tabella e non viene letta"});
+    EXPECT_LT(difetto("Prof.\n1" + std::string(5000000, 'x')).size(), 200U);
+}
+
 TEST(LeggiCsv, RefusesAnotherUnit) {
     EXPECT_EQ(
         difetto("Prof. [m];Gamma [t/m³]\n3;1,8"),
