@@ -2,6 +2,7 @@
 
 #include <QLibraryInfo>
 #include <QLocale>
+#include <span>
 #include <utility>
 
 namespace korven::shell {
@@ -9,11 +10,16 @@ namespace korven::shell {
 namespace {
 
 constexpr const char* codici[] = {"it", "de", "fr", "es", "en", "pt_BR"};
-constexpr int portoghese = 6;
+constexpr int spagnolo = 4, portoghese = 6;
+
+using Parole = std::span<const std::pair<const char*, const char*>>;
+
+// Spanish keyboards and all other texts of the program say Ctrl.
+constexpr std::pair<const char*, const char*> paroleSpagnole[] = {{"Control", "Ctrl"}};
 
 // What is said otherwise in Portugal, of the words of the dialogs that the program opens; a longer
 // one before its parts.
-constexpr std::pair<const char*, const char*> parole[] = {
+constexpr std::pair<const char*, const char*> parolePortoghesi[] = {
     {"Arquivo", "Ficheiro"},
     {"arquivo", "ficheiro"},
     {"Salvar", "Guardar"},
@@ -33,26 +39,29 @@ constexpr std::pair<const char*, const char*> parole[] = {
     {"Retrato", "Vertical"},
 };
 
-class DelPortogallo : public QTranslator {
+class TestiCorretti : public QTranslator {
  public:
+    explicit TestiCorretti(Parole parole) : parole_(parole) {}
     QString translate(const char* contesto, const char* testo, const char* distinzione,
                       int numero) const override {
         QString tradotto = QTranslator::translate(contesto, testo, distinzione, numero);
-        for (const auto& [brasiliano, europeo] : parole)
-            tradotto.replace(QString::fromUtf8(brasiliano), QString::fromUtf8(europeo));
+        for (const auto& [diQt, nostra] : parole_)
+            tradotto.replace(QString::fromUtf8(diQt), QString::fromUtf8(nostra));
         return tradotto;
     }
+
+ private:
+    Parole parole_;
 };
 
 }  // namespace
 
 std::unique_ptr<QTranslator> testiQt(int lingua) {
     if (lingua < 1 || lingua > 6) return nullptr;
-    std::unique_ptr<QTranslator> testi;
-    if (lingua == portoghese)
-        testi = std::make_unique<DelPortogallo>();
-    else
-        testi = std::make_unique<QTranslator>();
+    Parole parole;
+    if (lingua == spagnolo) parole = paroleSpagnole;
+    if (lingua == portoghese) parole = parolePortoghesi;
+    auto testi = std::make_unique<TestiCorretti>(parole);
     const bool letti = testi->load(QLatin1String("qtbase_") + QLatin1String(codici[lingua - 1]),
                                    QLibraryInfo::path(QLibraryInfo::TranslationsPath));
     if (!letti) return nullptr;

@@ -39,6 +39,14 @@ TEST(TestiQt, ArePortugueseAsInPortugal) {
     EXPECT_EQ(detto(*testi, "QFileDialog", "no text of Qt's"), "");
 }
 
+// The key tool tips and the window of keys name.
+TEST(TestiQt, CallTheControlKeyInSpanishAsAllOtherTextsDo) {
+    const auto testi = testiQt(4);
+    if (!testi) GTEST_SKIP() << "Qt's translations are not installed";
+    EXPECT_EQ(detto(*testi, "QShortcut", "Ctrl"), "Ctrl");
+    EXPECT_EQ(detto(*testi, "QShortcut", "Shift"), "Mayúsculas");
+}
+
 TEST(SegnoDecimaleQt, IsThePointOnASystemOfCommas) {
     test::applicazione();
     const QLocale prima;
