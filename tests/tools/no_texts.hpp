@@ -35,6 +35,7 @@ inline const std::map<std::string, std::string> silentFiles = {
     {"device/drawing_fonts.cpp", "names of fonts"},
     {"device/svg_writer.cpp", "words of the file"},
     {"scene/svg.cpp", "words of the file"},
+    {"base/bound_units.cpp", "units, the same in all languages"},
     {"base/xml_text.cpp", "words of the format"},
     {"batch/options/paper.cpp", "names of sheets, the same in all languages"},
     {"help/search_text.cpp", "tags, names of letters"},

@@ -5,6 +5,8 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "shell/wrapped_text.hpp"
+
 namespace korven::shell {
 
 namespace {
@@ -49,7 +51,7 @@ void DelegatoIntestato::paint(QPainter* pittore, const QStyleOptionViewItem& opz
                       QFontMetrics(alto).elidedText(titolo, Qt::ElideRight, spazio.width()));
     pittore->setFont(opzioni.font);
     pittore->drawText(spazio.adjusted(0, altezzaTitolo(opzioni.font), 0, 0), Qt::TextWordWrap,
-                      indice.data(forma_.testo).toString());
+                      inRighe(indice.data(forma_.testo).toString()));
     pittore->restore();
 }
 
@@ -59,7 +61,7 @@ QSize DelegatoIntestato::misuraTesto(const QFont& carattere, int larghezza,
     const int massima = forma_.righe > 0 ? forma_.righe * misura.height() : QWIDGETSIZE_MAX;
     const QSize testo = misura
                             .boundingRect(QRect(0, 0, larghezza, massima), Qt::TextWordWrap,
-                                          indice.data(forma_.testo).toString())
+                                          inRighe(indice.data(forma_.testo).toString()))
                             .size();
     return {testo.width(), std::min(testo.height(), massima)};
 }

@@ -6,6 +6,7 @@
 #include "scene/scene.hpp"
 #include "shell/accessible_roles.hpp"
 #include "shell/qt_text.hpp"
+#include "shell/wrapped_text.hpp"
 
 namespace korven::shell {
 
@@ -84,7 +85,7 @@ void PannelloFasi::aggiorna() {
     const auto qui = panels::faseDellaRiga(vita_.vivo(), griglia, griglia.corrente().riga);
     schizzo_->mostra(qui.fase);
     schizzo_->setAccessibleDescription(qt(qui.parole));
-    parole_->setText(qt(qui.parole));
+    parole_->setText(inRighe(qui.parole));
 }
 
 }  // namespace korven::shell

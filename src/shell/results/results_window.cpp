@@ -15,6 +15,7 @@
 #include "shell/qt_text.hpp"
 #include "shell/results/curves_view.hpp"
 #include "shell/tables/table_view.hpp"
+#include "shell/wrapped_text.hpp"
 #include "tables/anchor_table.hpp"
 #include "tables/check_table.hpp"
 #include "tables/curves.hpp"
@@ -99,7 +100,7 @@ void FinestraRisultati::farePaginaCurve() {
     curve_ = new VistaCurve(pagine_);
     pagine_->addTab(curve_, tradotto("Curve"));
     connect(curve_, &VistaCurve::letta, this, [this](const QString& testo) {
-        if (pagine_->currentWidget() == curve_) nota_->setText(testo);
+        if (pagine_->currentWidget() == curve_) nota_->setText(inRighe(testo));
     });
     connect(curve_, &VistaCurve::faseChiesta, this, [this](int passo) {
         if (vita_.vivo().aperto()) scegli(std::max(vita_.vivo().vista().fase + passo, 0));
@@ -168,7 +169,7 @@ void FinestraRisultati::seguiPagina() {
 }
 
 void FinestraRisultati::mostra(const Prospetto& prospetto, VistaProspetto& vista) {
-    nota_->setText(insieme(prospetto.note));
+    nota_->setText(inRighe(insieme(prospetto.note)));
     vista.mostra(prospetto);
 }
 

@@ -8,6 +8,7 @@
 #include "project/project_data.hpp"
 #include "shell/qt_text.hpp"
 #include "shell/termination.hpp"
+#include "shell/wrapped_text.hpp"
 
 namespace korven::shell {
 
@@ -64,7 +65,7 @@ void AvanzamentoQt::apriAttesa(std::string_view detto) {
     attesa_->setWindowTitle(tradotto("ATTENZIONE") + "!");
     attesa_->setIcon(QMessageBox::Information);
     attesa_->setTextFormat(Qt::PlainText);
-    attesa_->setText(qt(detto));
+    attesa_->setText(inRighe(detto));
     attesa_->addButton(tradotto("&Interrompi"), QMessageBox::RejectRole);
     attesa_->setWindowModality(Qt::ApplicationModal);
     QObject::connect(attesa_.get(), &QDialog::finished, [] { analysis::stopCalcolo = true; });

@@ -8,6 +8,7 @@
 #include <iterator>
 
 #include "shell/qt_text.hpp"
+#include "shell/wrapped_text.hpp"
 
 namespace korven::shell {
 
@@ -45,8 +46,8 @@ void TempCalc::mostra(QuadroAvanzamento quadro) {
 }
 
 void TempCalc::racconta(const QString& riga) {
-    if (riga == riga_->text()) return;
-    riga_->setText(riga);
+    if (inRighe(riga) == riga_->text()) return;
+    riga_->setText(inRighe(riga));
     setAccessibleDescription(riga);
     disponi();
     riga_->setVisible(!riga.isEmpty());

@@ -14,6 +14,7 @@
 #include "shell/qt_text.hpp"
 #include "shell/safety/mechanism_view.hpp"
 #include "shell/tables/table_view.hpp"
+#include "shell/wrapped_text.hpp"
 #include "tables/margin_table.hpp"
 
 namespace korven::shell {
@@ -98,7 +99,7 @@ void FinestraSicurezza::showEvent(QShowEvent* evento) {
 void FinestraSicurezza::segui() {
     const Riassunto riassunto = tables::riassunto(vita_.vivo());
     const bool inCorso = riassunto.stato == Riassunto::Stato::inCorso;
-    verdetto_->setText(qt(riassunto.verdetto));
+    verdetto_->setText(inRighe(riassunto.verdetto));
     for (VistaProspetto* vista : {margine_, statica_, maglia_}) vista->sospendi(inCorso);
     frasi_->setEnabled(!inCorso);
     if (!inCorso) mostra(riassunto);
@@ -119,7 +120,7 @@ void FinestraSicurezza::mostra(const Riassunto& riassunto) {
     margine_->mostra(perFase);
     statica_->mostra(tables::prospettoStatica(margine));
     maglia_->mostra(tables::prospettoMaglia(margine));
-    frasi_->setText(righe.join(QLatin1Char('\n')));
+    frasi_->setText(inRighe(righe.join(QLatin1Char('\n'))));
     QStringList detto = {qt(riassunto.verdetto)};
     for (const std::string& nota : perFase.note) detto << qt(nota);
     meccanismo_->mostra(live::pareteAlLimite(vita_.vivo().parete(), margine),

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace korven::base {
+
+/// The text with a blank at which no line ends between each number and the unit behind it, and
+/// within a unit ("12.5 kN m/m", "80 %"): for windows that break lines. Numbers and units are left
+/// as they are; a word that merely begins like a unit ("3 mesi") is none.
+[[nodiscard]] std::string unitaUnite(std::string_view testo);
+
+}  // namespace korven::base

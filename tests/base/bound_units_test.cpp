@@ -1,0 +1,37 @@
+#include "base/bound_units.hpp"
+
+#include <gtest/gtest.h>
+
+namespace korven::base {
+namespace {
+
+// The blank at which no line ends is written "_" here.
+std::string unite(std::string_view testo) {
+    std::string letto = unitaUnite(testo);
+    for (std::size_t i; (i = letto.find("\u00a0")) != std::string::npos;) letto.replace(i, 2, "_");
+    return letto;
+}
+
+TEST(UnitaUnite, BindsANumberToItsUnitAndThePartsOfAUnitToEachOther) {
+    EXPECT_EQ(unite("mancano 35.1 kN m/m; al limite: 0-10 m"),
+              "mancano 35.1_kN_m/m; al limite: 0-10_m");
+    EXPECT_EQ(unite("EJ 120000 kN m²"), "EJ 120000_kN_m²");
+    EXPECT_EQ(unite("usata: 80.1 %, (15.00 > 12.50 kN/m²)"),
+              "usata: 80.1_%, (15.00 > 12.50_kN/m²)");
+    EXPECT_EQ(unite("12.3 mm"), "12.3_mm");
+}
+
+TEST(UnitaUnite, LeavesWordsThatBeginLikeAUnit) {
+    EXPECT_EQ(unite("fase 3 mai, 2 tiranti, 4 m/s, 1 m³"), "fase 3 mai, 2 tiranti, 4 m/s, 1 m³");
+    EXPECT_EQ(unite("kN m"), "kN m");
+    EXPECT_EQ(unite(" m"), " m");
+    EXPECT_EQ(unite("3 "), "3 ");
+    EXPECT_EQ(unite(""), "");
+}
+
+TEST(UnitaUnite, ChangesNothingThatIsBoundAlready) {
+    EXPECT_EQ(unitaUnite(unitaUnite("4 m e 5 kN m")), unitaUnite("4 m e 5 kN m"));
+}
+
+}  // namespace
+}  // namespace korven::base
