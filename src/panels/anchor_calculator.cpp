@@ -93,7 +93,7 @@ std::string cifre(double valore) { return testoNumero(cinqueCifre(valore)); }
 
 // Sizes beyond all use leave the doubles.
 EsitoCalcolo smisurato() {
-    return {{}, traduttore("valori fuori da ogni misura: controllare le unità"), {}};
+    return {{}, traduttore("valori fuori scala: controllare le unità"), {}};
 }
 
 EsitoCalcolo conValore(double valore, std::string conto) {
@@ -123,13 +123,13 @@ std::string etichetta(VoceCalcolo voce, const IngressiCalcolo& in) {
         case VoceCalcolo::numero:
             return traduttore("Numero di trefoli, barre o profili n");
         case VoceCalcolo::misura:
-            return traduttore(in.misuraArea == MisuraArea::area ? "Area di uno [mm²]"
-                                                                : "Diametro di uno d [mm]");
+            return traduttore(in.misuraArea == MisuraArea::area ? "Area di ciascuno [mm²]"
+                                                                : "Diametro di ciascuno d [mm]");
         case VoceCalcolo::lunghezza:
-            return traduttore(in.genere == GenereAncoraggio::tirante ? "Tratto che si allunga L [m]"
+            return traduttore(in.genere == GenereAncoraggio::tirante ? "Lunghezza libera L [m]"
                               : in.genere == GenereAncoraggio::puntone
                                   ? "Lunghezza del puntone L [m]"
-                                  : "Distanza tra le pareti L [m]");
+                                  : "Distanza tra le paratie L [m]");
         case VoceCalcolo::interasse:
             return traduttore("Interasse s [m]");
         case VoceCalcolo::inclinazione:

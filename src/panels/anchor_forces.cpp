@@ -19,7 +19,7 @@ using live::PareteViva;
 std::string manca(const PareteViva& parete, int fase) {
     const bool cede = fase == parete.fasiInEquilibrio() + 1 && parete.perche.has_value();
     if (!cede) return traduttore("non calcolata");
-    return traduttore(parete.perche->causa == safety::Causa::meccanismo ? "non sta"
+    return traduttore(parete.perche->causa == safety::Causa::meccanismo ? "non in equilibrio"
                                                                         : "equilibrio non certo");
 }
 

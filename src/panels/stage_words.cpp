@@ -33,15 +33,15 @@ std::string tiri(const equilibrium::FaseEquilibrio& fase) {
     std::string testo;
     for (std::size_t i = 0; i < fase.tiri.size(); ++i) {
         testo += testo.empty() ? "; " + traduttore("tiri") + ": " : ", ";
-        testo +=
-            std::to_string(i + 1) + ": " + conUnita(fase.tiri[i], project::unita::forzaAlMetro);
+        testo += "T" + std::to_string(i + 1) + " " +
+                 conUnita(fase.tiri[i], project::unita::forzaAlMetro);
     }
     return testo;
 }
 
 std::string cheSta(const live::PareteViva& parete, const equilibrium::FaseEquilibrio& fase) {
     const auto e = equilibrium::estremi(fase, parete.h);
-    return riempito(traduttore("la fase %1 sta"), {std::to_string(fase.fase)}) + ": " +
+    return riempito(traduttore("fase %1 in equilibrio"), {std::to_string(fase.fase)}) + ": " +
            con("spostamento massimo %1 a %2 m", e.spostamento, project::unita::spostamentoFine) +
            ", " + con("momento %1 a %2 m", e.momento(), project::unita::momentoAlMetro) + ", " +
            con("taglio %1 a %2 m", e.taglio, project::unita::forzaAlMetro) + tiri(fase);
@@ -77,7 +77,7 @@ FaseDellaRiga trovata(const live::ProgettoVivo& vivo, const masks::ModelloGrigli
     if (vivo.impedimento().empty())
         return mostrata ? FaseDellaRiga{fase, paroleFase(vivo.parete(), *fase)} : FaseDellaRiga{};
     if (!mostrata) return invece(vivo, fase, vivo.impedimento());
-    return {fase, traduttore("come era prima di ciò che si scrive") + " (" + vivo.impedimento() +
+    return {fase, traduttore("com'era prima delle modifiche in corso") + " (" + vivo.impedimento() +
                       "): " + paroleFase(vivo.parete(), *fase)};
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "safety/strength_reduction.hpp"
+
 namespace korven::review {
 
 // The limits at which remarks are made, each with its source or reason; lengths in m, shares of 1.
@@ -13,10 +15,7 @@ inline constexpr double spostamentoPericoloso = 0.02;
 /// Excavations less deep than this have no share worth telling [m].
 inline constexpr double scavoTrascurabile = 1;
 
-/// Strength reduction below which a wall is to be looked at, and dangerous. Reason: partial factors
-/// on tan phi and c of common codes are 1.25 to 1.4, global factors on the passive side 1.5 to 2.
-inline constexpr double riduzioneDaVedere = 1.5;
-inline constexpr double riduzionePericolosa = 1.25;
+using safety::riduzioneDaVedere, safety::riduzionePericolosa;
 
 /// Use of the passive side in front. Reason: the inverse of the same factors.
 inline constexpr double passivaDaVedere = 0.80;

@@ -5,6 +5,7 @@
 #include "project/shown_number.hpp"
 #include "review/limits.hpp"
 #include "review/result_checks.hpp"
+#include "safety/margin_words.hpp"
 #include "safety/words.hpp"
 
 namespace korven::review {
@@ -43,7 +44,7 @@ std::string fine(const safety::Riduzione& riduzione, double paratia) {
 // What to do about it.
 std::string rimedio(const safety::Riduzione& riduzione, bool pericolo) {
     if (riduzione.limitePendio)
-        return traduttore("controllare pendio e angoli di attrito, la paratia non c'entra");
+        return traduttore("controllare pendio e angoli di attrito, non dipende dalla paratia");
     return traduttore(pericolo
                           ? "allungare la paratia, aggiungere un tirante o ridurre scavo e carichi"
                           : "controllare infissione, tiranti e carichi");
@@ -58,7 +59,7 @@ void controlloRiduzione(const DatiProgetto& dati, const safety::Margine& margine
     const bool pericolo = *fase->riduzione.F < riduzionePericolosa;
     elenco.aggiungi(
         pericolo ? Voce("riduzione-insufficiente") : "riduzione-bassa", scavo(dati, fase->fase),
-        {numeroMostrato(*fase->riduzione.F, 3),
+        {safety::testoF(*fase->riduzione.F),
          numeroMostrato(pericolo ? riduzionePericolosa : riduzioneDaVedere, 2),
          fine(fase->riduzione, dati.lunghezzaParatia), rimedio(fase->riduzione, pericolo)});
 }

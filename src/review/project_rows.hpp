@@ -32,7 +32,7 @@ inline constexpr VoceOsservazione vociProgetto[] = {
     {"peso-saturo-minore", Peso::pericolo, "stratigrafia",
      "il peso di volume saturo è minore di quello naturale"},
     {"strato-senza-resistenza", Peso::pericolo, "stratigrafia",
-     "né attrito né coesione: il terreno preme come un liquido e non resiste"},
+     "né attrito né coesione: il terreno spinge come un liquido e non resiste"},
     {"angolo-non-ammissibile", Peso::pericolo, "stratigrafia", "l'angolo non è ammissibile"},
     {"angolo-minore-del-pendio", Peso::pericolo, "stratigrafia",
      "l'angolo di attrito è minore dell'inclinazione del terreno"},
@@ -47,8 +47,8 @@ inline constexpr VoceOsservazione vociProgetto[] = {
      "significato"},
 
     {"acqua-a-zero", Peso::pericolo, "fasi",
-     "acqua fino alla testa della paratia da tutte e due le parti, come risulta quando i livelli "
-     "non sono scritti: scriverli; senza falda, più di %1 m"},
+     "acqua fino alla testa della paratia da entrambi i lati, come risulta quando i livelli non "
+     "sono scritti: scriverli; senza falda, più di %1 m"},
     {"acqua-piu-alta-davanti", Peso::pericolo, "fasi",
      "l'acqua è più alta davanti che dietro e spinge la paratia verso il terreno: se non è voluto, "
      "correggere il livello di valle; senza falda, più di %1 m"},

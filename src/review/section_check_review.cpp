@@ -39,13 +39,13 @@ Rinforzo rinforzoFlessione(const Sezione& s, bool positivo) {
                 "aumentare i ferri del lato monte o lo spessore",
                 {&Sezione::diametroMonte, &Sezione::interasseMonte, &Sezione::spessoreDiaframma}};
         case TipoSezione::pali:
-            return {"prendere tubi più grandi, più spessi o più vicini",
+            return {"adottare tubi più grandi, più spessi o più vicini",
                     {&Sezione::paliDiamEst, &Sezione::paliDiamInt, &Sezione::paliInterasse}};
         case TipoSezione::palancola:
-            return {"prendere palancole più alte, più spesse o di acciaio migliore",
+            return {"adottare palancole più alte, più spesse o di acciaio migliore",
                     {&Sezione::palancolaAltAla, &Sezione::palancolaSpessore, &Sezione::fyk}};
         case TipoSezione::paliArmati:
-            return {"aumentare i ferri, o prendere pali più grandi o più vicini",
+            return {"aumentare i ferri, o adottare pali più grandi o più vicini",
                     {&Sezione::armDiamLong, &Sezione::armNumLong, &Sezione::armDiamPalo,
                      &Sezione::armInterasse}};
         case TipoSezione::nessuno:
@@ -56,9 +56,9 @@ Rinforzo rinforzoFlessione(const Sezione& s, bool positivo) {
 
 Rinforzo rinforzoTaglio(bool bielle) {
     if (bielle)
-        return {"prendere pali più grandi o più vicini, o un calcestruzzo migliore",
+        return {"adottare pali più grandi o più vicini, o un calcestruzzo migliore",
                 {&Sezione::armDiamPalo, &Sezione::armInterasse, &Sezione::fck}};
-    return {"infittire le staffe o prenderle più grosse",
+    return {"infittire le staffe o aumentarne il diametro",
             {&Sezione::armDiamStaffe, &Sezione::armPassoStaffe}};
 }
 

@@ -54,7 +54,7 @@ inline constexpr VoceOsservazione vociSezione[] = {
     {"pali-sovrapposti", Peso::pericolo, "struttura",
      "è minore del diametro (%1 mm): i pali si sovrappongono e le loro aree contano due volte"},
     {"sforzo-oltre-la-sezione", Peso::pericolo, "flessione",
-     "di progetto %1 kN, la sezione ne porta %2: la resistenza a flessione è nulla"},
+     "di progetto %1 kN/m, la sezione ne porta %2: la resistenza a flessione è nulla"},
     {"sezione-senza-resistenza", Peso::pericolo, "flessione",
      "la sezione non ha resistenza a flessione: controllare misure, armature e materiali"},
     {"taglio-al-piede", Peso::daVedere, "sicurezza",

@@ -38,12 +38,19 @@ std::string nonDaCostruire(const Margine& margine) {
 
 }  // namespace
 
+std::string testoF(double F) {
+    constexpr double cifra = 0.01;
+    std::string testo = base::testoDecimali(F, 2);
+    for (const double soglia : {1.0, riduzionePericolosa, riduzioneDaVedere})
+        if (F < soglia && testo == base::testoDecimali(soglia, 2))
+            testo = base::testoDecimali(soglia - cifra, 2);
+    return testo;
+}
+
 std::string testoRiduzione(const Riduzione& riduzione) {
     if (riduzione.oltre) return "> " + base::testoNumero(massimaRiduzione);
     if (!riduzione.F) return nessuno;
-    std::string testo = base::testoDecimali(*riduzione.F, 2);
-    if (*riduzione.F < 1 && testo == "1.00") testo = "0.99";
-    return testo + (riduzione.limitePendio ? " *" : "");
+    return testoF(*riduzione.F) + (riduzione.limitePendio ? " *" : "");
 }
 
 std::string testoQuota(const std::optional<double>& quota) {
@@ -87,7 +94,9 @@ std::string paroleLunghezza(const Margine& margine) {
                    " " + metriAllineati(margine.paratia) + " m; " + nonDaCostruire(margine);
         case EsitoLunghezza::sempre:
             return inizio + metriAllineati(*lunghezza) + " m; " +
-                   traduttore("la paratia sta anche senza infissione sotto lo scavo più profondo") +
+                   traduttore(
+                       "la paratia è in equilibrio anche senza infissione sotto lo scavo più "
+                       "profondo") +
                    "; " + nonDaCostruire(margine);
         case EsitoLunghezza::mai:
             return inizio + traduttore("nessuna fino a") + " " +
@@ -103,7 +112,8 @@ std::string paroleMaglia(const Margine& margine) {
     std::string testo = traduttore("Errore di maglia") + " (" + std::to_string(margine.nSeg) + " " +
                         traduttore("segmenti contro") + " " + std::to_string(4 * margine.nSeg) +
                         "): ";
-    if (!margine.maglia) return testo + traduttore("con una maglia più fine una fase non sta");
+    if (!margine.maglia)
+        return testo + traduttore("con una maglia più fine una fase non è in equilibrio");
     const std::pair<const char*, const ErroreGrandezza*> grandezze[] = {
         {"momento", &margine.maglia->momento},
         {"taglio", &margine.maglia->taglio},

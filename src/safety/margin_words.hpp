@@ -10,8 +10,11 @@
 
 namespace korven::safety {
 
+/// A strength reduction as it is told everywhere: "2.98". Two decimals; one below 1 or below a
+/// limit that remarks are made at is never rounded up to it, so that text and verdict agree.
+[[nodiscard]] std::string testoF(double F);
 /// "2.98", "> 10", "2.72 *" where the slope of the ground is the limit (`notaPendenza`), "-" for
-/// none. A factor below 1 is never rounded up to it.
+/// none.
 [[nodiscard]] std::string testoRiduzione(const Riduzione& riduzione);
 
 /// Whole per cent, "-" for none.

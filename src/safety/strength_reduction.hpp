@@ -13,6 +13,11 @@ inline constexpr double minimaRiduzione = 0.1;
 inline constexpr double massimaRiduzione = 10;
 inline constexpr double passoRiduzione = 0.001;
 
+/// Strength reduction below which a wall is to be looked at, and dangerous. Reason: partial factors
+/// on tan phi and c of common codes are 1.25 to 1.4, global factors on the passive side 1.5 to 2.
+inline constexpr double riduzioneDaVedere = 1.5;
+inline constexpr double riduzionePericolosa = 1.25;
+
 /// What the search of one stage finds.
 struct Riduzione {
     /// The largest factor at which the stage is in equilibrium; nothing when there is none in the

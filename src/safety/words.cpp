@@ -147,8 +147,8 @@ std::string parole(const Meccanismo& moto, double paratia, std::string (*scrivi)
 }
 
 std::string mancante(const Meccanismo& moto) {
-    const Unita& u = moto.traslazione ? unita::forza : unita::momento;
-    if (moto.mancante == 0) return traduttore("è in bilico, senza alcuna riserva");
+    const Unita& u = moto.traslazione ? unita::forzaAlMetro : unita::momentoAlMetro;
+    if (moto.mancante == 0) return traduttore("è in equilibrio limite, senza alcuna riserva");
     const std::string quanto = numeroMostrato(moto.mancante, 1, u);
     if (quanto == "0.0") return traduttore("mancano meno di") + " " + unito("0.1", u);
     return traduttore("mancano") + " " + unito(quanto, u);
@@ -199,8 +199,7 @@ std::string parole(EsitoNewton esito) {
             break;
         case EsitoNewton::nessunNumero:
             return traduttore(
-                "i numeri superano ogni misura; controllare l'ordine di grandezza "
-                "dei dati");
+                "i numeri sono fuori scala; controllare l'ordine di grandezza dei dati");
         case EsitoNewton::senzaMisura:
             return traduttore(
                 "spostamenti oltre mille volte la lunghezza della paratia: nessun "
@@ -232,7 +231,7 @@ std::string inBreve(const Diagnosi& d) {
         case Causa::meccanismo:
             return nella("la paratia è un meccanismo nella fase", d) + ": " + movimento(d);
         case Causa::oscilla:
-            return nella("la paratia sta nella fase", d) + ", " +
+            return nella("la paratia è in equilibrio nella fase", d) + ", " +
                    traduttore("con uno spostamento massimo di") + " " +
                    valore(d.spostamento, unita::spostamentoFine) + ": " +
                    traduttore(chiave(d.ostacolo));

@@ -5,7 +5,7 @@
 #include "base/twin_names.hpp"
 #include "safety/diagnosis.hpp"
 
-// A verdict in words, translated: forces in kN, moments in kN m, displacements in mm, all per metre
+// A verdict in words, translated: forces in kN/m, moments in kN m/m, displacements in mm: per metre
 // of wall. Lower case and without a full stop, as parts of a line.
 
 namespace korven::safety {
@@ -34,7 +34,7 @@ extern LuogoEquilibrio luogoEquilibrio;
 [[nodiscard]] std::string parole(const equilibrium::Meccanismo& moto, double paratia,
                                  std::string (*scrivi)(double) = metri);
 
-/// What holds too little: "mancano 35.1 kN m", of a translation "mancano 12.0 kN".
+/// What holds too little: "mancano 35.1 kN m/m", of a translation "mancano 12.0 kN/m".
 [[nodiscard]] std::string mancante(const equilibrium::Meccanismo& moto);
 
 /// "al limite: monte attivo 0-10 m, valle passivo 8-10 m; tirante lento 2"; empty if nothing is.

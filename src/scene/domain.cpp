@@ -219,7 +219,7 @@ std::string descrizioneDominio(const std::vector<PuntoDominio>& dominio,
         if (!fase.dentro()) fuori += (fuori.empty() ? "" : ", ") + std::to_string(fase.fase);
     if (!fasi.empty())
         testo += ' ' + (fuori.empty()
-                            ? traduttore("Tutte le fasi note stanno nel dominio.")
+                            ? traduttore("Tutte le fasi note sono interne al dominio.")
                             : base::riempito(traduttore("Fuori del dominio: fase %1."), {fuori}));
     return testo;
 }

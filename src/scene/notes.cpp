@@ -1,6 +1,7 @@
 #include <cmath>
 #include <string>
 
+#include "base/bound_units.hpp"
 #include "base/filled_text.hpp"
 #include "base/translated_texts.hpp"
 #include "safety/words.hpp"
@@ -52,7 +53,7 @@ std::vector<Verdetto> verdetti(const Mostrata& m, const std::string& impedimento
         tutti.push_back({safety::frase(*parete.perche), Ruolo::meccanismo});
     if (m.dopo)
         tutti.push_back({riempito(traduttore("la fase %1 viene dopo la fase %2, che non è in "
-                                             "equilibrio: di essa non si sa nulla"),
+                                             "equilibrio: non è calcolabile"),
                                   {std::to_string(m.fase), std::to_string(parete.fasi.size())}),
                          Ruolo::meccanismo});
     return tutti;
@@ -72,8 +73,8 @@ double scriviNote(const Mostrata& m, const Misura& misura, const Opzioni& opzion
          .posti = {{{x, y + 0.9 * em}, Ancora::sinistra}}});
     y += 1.2 * riga;
     for (const Verdetto& v : verdetti(m, opzioni.impedimento))
-        for (const std::string& testo :
-             inRighe(v.testo, misura.larghezza - 2 * x, em, righe, tela.misura())) {
+        for (const std::string& testo : inRighe(base::unitaUnite(v.testo), misura.larghezza - 2 * x,
+                                                em, righe, tela.misura())) {
             tela.scrivi({.testo = testo,
                          .tinta = {v.ruolo},
                          .corpo = em,

@@ -49,7 +49,7 @@ std::string descrizione(const live::PareteViva& parete, const live::Vista& vista
     for (const Verdetto& v : tutti) testo += ". " + v.testo;
     if (!tutti.empty() || !parete.sta()) return testo;
     const auto& e = parete.estremi;
-    return testo + ". " + base::traduttore("la paratia sta in tutte le fasi") + ": " +
+    return testo + ". " + base::traduttore("la paratia è in equilibrio in tutte le fasi") + ": " +
            base::traduttore("spostamento") + " " +
            conUnita(e.spostamento.valore, project::unita::spostamentoFine) + ", " +
            base::traduttore("momento") + " " +

@@ -71,7 +71,7 @@ std::vector<Colonna> colonne() {
             colonna(unita::percento, "Sfruttamento", "Valore di progetto diviso per la resistenza"),
             colonna(unita::nessuna, "Fase", "Fase in cui il valore è raggiunto"),
             colonnaSimbolo(unita::metri, "z", "Profondità a cui il valore è raggiunto"),
-            colonnaParole("Esito", "Verdetto, con le parole della relazione")};
+            colonnaParole("Esito", "Esito, con le parole della relazione")};
 }
 
 void note(const PareteViva& parete, const Margine& margine, Prospetto& p) {
@@ -109,7 +109,7 @@ Prospetto prospettoVerifiche(const PareteViva& parete, const Margine& margine) {
     Prospetto p{.titolo = traduttore("Verifiche"), .colonne = colonne()};
     if (!parete.sta()) {
         p.note.push_back(perche(parete, parete.fasiInEquilibrio() + 1));
-        p.note.push_back(traduttore("Nessuna verifica di una paratia che non sta."));
+        p.note.push_back(traduttore("Nessuna verifica: la paratia non è in equilibrio."));
         return p;
     }
     const ControlliSezione controlli = live::controlliSezione(parete, &margine);

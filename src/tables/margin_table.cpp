@@ -95,10 +95,10 @@ Prospetto prospettoMargine(const Margine& margine) {
             colonna(unita::metri, "Scavo", "Profondità dello scavo, dalla testa della paratia"),
             colonnaSimbolo(
                 unita::nessuna, "F",
-                "Riduzione della resistenza: divisore di tan phi e c con cui la fase è appena in "
+                "Riduzione della resistenza F: divisore di tan phi e c con cui la fase è appena in "
                 "equilibrio"),
             colonna(unita::percento, "Passiva",
-                    "Quanta della resistenza passiva davanti alla paratia è usata"),
+                    "Quota mobilitata della resistenza passiva davanti alla paratia"),
             colonnaParole("Al limite [m]", "Profondità in cui la passiva è al limite"),
             colonna(unita::spostamentoFine, "Piede",
                     "Spostamento del piede, positivo verso lo scavo"),

@@ -105,13 +105,13 @@ std::vector<Colonna> colonne() {
                     "Valore di progetto: il massimo di calcolo per il coefficiente delle azioni"),
             colonna(unita::nessuna, "Resistenza", "Resistenza di progetto della sezione"),
             colonna(unita::percento, "Usata", "Valore di progetto diviso per la resistenza"),
-            colonnaParole("Esito", "Verdetto, con le parole della relazione")};
+            colonnaParole("Esito", "Esito, con le parole della relazione")};
 }
 
 std::string origine(const PareteViva& parete, const ControlliSezione& controlli) {
     if (controlli.dellaRelazione) return traduttore("Azioni della relazione.");
     if (!controlli.conAzioni)
-        return traduttore("Azioni non note: la parete non è calcolata o non sta.");
+        return traduttore("Azioni non note: la paratia non è calcolata o non è in equilibrio.");
     if (parete.sta()) return traduttore("Azioni dell'equilibrio certo.");
     return riempito(traduttore("Azioni dell'equilibrio certo, fino alla fase %1."),
                     {std::to_string(parete.fasiInEquilibrio())});
@@ -140,7 +140,7 @@ Prospetto prospettoDominio(const PareteViva& parete, const safety::Margine* marg
                     colonnaSimbolo(unita::forzaAlMetro, "Nd", "Sforzo normale di progetto"),
                     colonnaSimbolo(unita::momentoAlMetro, "Md max", "Momento di progetto maggiore"),
                     colonnaSimbolo(unita::momentoAlMetro, "Md min", "Momento di progetto minore"),
-                    colonnaParole("Esito", "Verdetto, con le parole della relazione"),
+                    colonnaParole("Esito", "Esito, con le parole della relazione"),
                 }};
     for (const auto& fase : live::fasiNelDominio(parete, margine)) {
         Cella esito = parola(traduttore(fase.dentro() ? verificata : nonVerificata));

@@ -190,8 +190,8 @@ TEST_F(Equilibrio, PrintsTheVerdictOfEachStageAndWhatIsSaidOfOneThatFalls) {
     std::getline(testo, fase);
     std::getline(testo, frase);
     EXPECT_EQ(titoli,
-              "Fase  Passi  Scavo [m]  Spostamento max. [cm]  Momento max. [kN m]  "
-              "Momento min. [kN m]  Esito");
+              "Fase  Passi  Scavo [m]  Spostamento max. [mm]  Momento max. [kN m/m]  "
+              "Momento min. [kN m/m]  Esito");
     EXPECT_TRUE(fase.starts_with("   1      0       5.00  ")) << fase;
     EXPECT_TRUE(fase.ends_with("-  meccanismo")) << fase;
     EXPECT_TRUE(frase.starts_with("la paratia è un meccanismo nella fase 1: ")) << frase;

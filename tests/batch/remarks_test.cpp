@@ -111,7 +111,7 @@ TEST_F(Rilievi, OfResultsAreToldAfterARunAndListedByVerificaWhenAskedFor) {
     auto d = test::progettoSemplice();
     d.lunghezzaParatia = 7.5;
     scrivi(d);
-    const std::string detto = "pericolo: fase 2: Prof. [m] = 5: riduzione di resistenza ";
+    const std::string detto = "pericolo: fase 2: Prof. [m] = 5: riduzione della resistenza F = ";
     EXPECT_FALSE(dice(esegui("verifica").uscita, detto));
     EXPECT_TRUE(dice(esegui("verifica", {"--calcola"}).uscita, detto));
     const auto esito = esegui("calcola", {"--silenzioso"});
@@ -128,7 +128,7 @@ TEST_F(Severo, EndsWith1ForADangerWithAllFilesWrittenAndTheTableShown) {
     ASSERT_EQ(atteso.codice, 0);
     const auto esito = esegui("relazione", {"--txt", "--severo", "--uscita", cartella / "a"});
     EXPECT_EQ(esito.codice, 1);
-    EXPECT_TRUE(dice(esito.uscita, "Spostamento max. [cm]")) << esito.uscita;
+    EXPECT_TRUE(dice(esito.uscita, "Spostamento max. [mm]")) << esito.uscita;
     EXPECT_TRUE(dice(esito.uscita, "File scritto: " + cartella / "a/muro.txt"));
     EXPECT_TRUE(
         dice(esito.errori, "1 pericolo: con --severo il comando finisce con il codice 1\n"));

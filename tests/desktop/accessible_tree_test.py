@@ -35,7 +35,7 @@ def found(*inside, role="dialog"):
 
 class Walk(unittest.TestCase):
     def test_finds_nothing_wrong_with_a_window_that_can_be_read(self):
-        picture = Node("image", "Figura", description="la paratia sta")
+        picture = Node("image", "Figura", description="la paratia è in equilibrio")
         button = Node("push button", "Chiudi")
         choice = Node("combo box", "Fase 1", labelled=True)
         self.assertEqual(found(table(), picture, button, choice), [])
@@ -68,7 +68,7 @@ class Walk(unittest.TestCase):
 
     def test_finds_a_picture_that_says_nothing_or_whose_numbers_are_nowhere(self):
         self.assertIn("without name or description", found(table(), Node("image", "Figura"))[0])
-        seen = Node("image", "Figura", description="la paratia sta")
+        seen = Node("image", "Figura", description="la paratia è in equilibrio")
         self.assertIn("numbers are nowhere", found(seen)[0])
         keyed = Node("image", "Figura", description="tabelle di Risultati (Ctrl+R)")
         self.assertEqual(found(keyed), [])

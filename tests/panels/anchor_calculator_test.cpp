@@ -75,8 +75,7 @@ TEST(CalcoloTirante, WritesFiveDigitsAndNoMore) {
 
 TEST(CalcoloTirante, TellsTheFirstInputThatIsMissing) {
     aspettaVizio(rigidezza({}), numero, "Numero di trefoli, barre o profili n: da scrivere");
-    aspettaVizio(rigidezza(con(lunghezza, "  ")), lunghezza,
-                 "Tratto che si allunga L [m]: da scrivere");
+    aspettaVizio(rigidezza(con(lunghezza, "  ")), lunghezza, "Lunghezza libera L [m]: da scrivere");
     aspettaVizio(pretensione({}), forza, "Tesatura di un tirante F [kN]: da scrivere");
 }
 
@@ -84,7 +83,7 @@ TEST(CalcoloTirante, TellsWhatIsNoNumber) {
     aspettaVizio(rigidezza(con(interasse, "2,4")), interasse,
                  "Interasse s [m]: «2,4» non è un numero; il segno decimale è il punto");
     aspettaVizio(area(con(misura, "1e999")), misura,
-                 "Area di uno [mm²]: «1e999» non è un numero; il segno decimale è il punto");
+                 "Area di ciascuno [mm²]: «1e999» non è un numero; il segno decimale è il punto");
 }
 
 TEST(CalcoloTirante, TellsWhatIsOutOfRangeAndWhatToDo) {
@@ -113,7 +112,7 @@ TEST(CalcoloTirante, TellsSizesBeyondAllUse) {
     ingressi.testo(misura) = "1e300";
     const auto esito = rigidezza(ingressi);
     EXPECT_FALSE(esito.valore);
-    EXPECT_EQ(esito.conto, "valori fuori da ogni misura: controllare le unità");
+    EXPECT_EQ(esito.conto, "valori fuori scala: controllare le unità");
     EXPECT_TRUE(area(con(misura, "1e-315")).valore) << "too small to be rounded";
 }
 

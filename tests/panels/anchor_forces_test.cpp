@@ -68,7 +68,7 @@ TEST(TiriTirante, SayFromWhichStageOnTheWallDoesNotStand) {
     ASSERT_EQ(parete.fasiInEquilibrio(), 3);
     const auto tiri = tiriDelTirante(parete, 1);
     EXPECT_TRUE(tiri.fasi[2].tiro);
-    EXPECT_EQ(tiri.fasi[3].nota, "non sta");
+    EXPECT_EQ(tiri.fasi[3].nota, "non in equilibrio");
     EXPECT_EQ(tiri.fasi[4].nota, "non calcolata");
     EXPECT_TRUE(tiri.perche.starts_with("la paratia è un meccanismo nella fase 4")) << tiri.perche;
 }

@@ -20,11 +20,11 @@ TEST(ParoleFase, TellTheLargestValuesAndTheForceOfEachAnchor) {
                                       40);
     ASSERT_TRUE(parete.sta());
     const std::string testo = paroleFase(parete, 1);
-    EXPECT_TRUE(testo.starts_with("la fase 1 sta: spostamento massimo ")) << testo;
+    EXPECT_TRUE(testo.starts_with("fase 1 in equilibrio: spostamento massimo ")) << testo;
     EXPECT_NE(testo.find(" mm a "), std::string::npos) << testo;
     EXPECT_NE(testo.find(", momento "), std::string::npos) << testo;
     EXPECT_NE(testo.find(", taglio "), std::string::npos) << testo;
-    EXPECT_TRUE(testo.ends_with("; tiri: 1: 30.0 kN/m, 2: 25.0 kN/m")) << testo;
+    EXPECT_TRUE(testo.ends_with("; tiri: T1 30.0 kN/m, T2 25.0 kN/m")) << testo;
 }
 
 TEST(ParoleFase, TellTheExtremesOfTheStageAndNotOfAll) {

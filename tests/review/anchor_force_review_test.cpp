@@ -46,10 +46,11 @@ TEST(ControlloTiri, SaysNothingOfForcesThatTheReportHasRight) {
 TEST(ControlloTiri, TellsAForceThatSevenDecimalsOfADisplacementAreTooFewFor) {
     const DatiProgetto rigido = conTirante(1e7, 0, inDueSensi);
     EXPECT_EQ(conForze(rigido, 6, 8, 8.07), Righe{});
-    EXPECT_EQ(conForze(rigido, 6, 8, 8.09),
-              Righe{"[da vedere] tiro-impreciso: tirante 1: Rigidezza [kN/m] = 100000000: la "
-                    "relazione dà il tiro 80.90 kN, quello vero è 80.00 kN (fase 2): lo calcola da "
-                    "spostamenti con sette decimali, che bastano fino a circa 8000000 kN/m"});
+    EXPECT_EQ(
+        conForze(rigido, 6, 8, 8.09),
+        Righe{"[da vedere] tiro-impreciso: tirante 1: Rigidezza [kN/m] = 100000000: la relazione "
+              "dà il tiro 80.90 kN/m, quello vero è 80.00 kN/m (fase 2): lo calcola da spostamenti "
+              "con sette decimali, che bastano fino a una rigidezza di circa 8000000 kN/m"});
     EXPECT_EQ(conForze(rigido, 20, 8, 20.09), Righe{});
     EXPECT_EQ(conForze(rigido, 20, 8, 20.5).size(), 1u);
 }
@@ -60,9 +61,9 @@ TEST(ControlloTiri, TellsAForceThatIsFarTooSmallAsADanger) {
     EXPECT_EQ(conForze(rigido, 6, 8, 10)[0].rfind("[da vedere] tiro-impreciso", 0), 0u);
     EXPECT_EQ(conForze(rigido, 6, 8.03, 0),
               Righe{"[pericolo] tiro-sbagliato: tirante 1: Rigidezza [kN/m] = 1000000000: la "
-                    "relazione dà il tiro 0.00 kN, quello vero è 80.30 kN (fase 2): lo calcola da "
-                    "spostamenti con sette decimali, che bastano fino a circa 8000000 kN/m; usare "
-                    "il tiro vero o una rigidezza minore"});
+                    "relazione dà il tiro 0.00 kN/m, quello vero è 80.30 kN/m (fase 2): lo calcola "
+                    "da spostamenti con sette decimali, che bastano fino a una rigidezza di circa "
+                    "8000000 kN/m; usare il tiro vero o una rigidezza minore"});
 }
 
 TEST(ControlloTiri, TakesNoSmallForceBySharesAlone) {
@@ -74,15 +75,15 @@ TEST(ControlloTiri, TakesNoSmallForceBySharesAlone) {
 // An anchor that is taken away and set again has another zero of its force.
 TEST(ControlloTiri, TellsAForceThatIsOfAnotherPlaceOfTheSameAnchor) {
     EXPECT_EQ(conForze(conTirante(500, 5, soloTrazione), 6, 8, 9),
-              Righe{"[da vedere] tiro-diverso: tirante 1: la relazione dà il tiro 90.00 kN, il più "
-                    "grande delle fasi è 80.00 kN (fase 2): usare questo"});
+              Righe{"[da vedere] tiro-diverso: tirante 1: la relazione dà il tiro 90.00 kN/m, il "
+                    "più grande delle fasi è 80.00 kN/m (fase 2): usare questo"});
     EXPECT_EQ(conForze(conTirante(500, 5, soloTrazione), 6, 8, 8.01), Righe{});
 }
 
 TEST(ControlloTiri, TellsAPropThatPulls) {
     EXPECT_EQ(conForze(conTirante(500, 0, inDueSensi), 12.5, -1.5, 12.5),
               Righe{"[da vedere] tiro-di-segno-opposto: tirante 1: nella fase 2 il tiro cambia "
-                    "segno, -15.00 kN, e la relazione non lo dice, dà 125.00 kN: verificare "
+                    "segno, -15.00 kN/m, e la relazione non lo dice, dà 125.00 kN/m: verificare "
                     "l'elemento nei due sensi o indicarlo solo a trazione"});
     EXPECT_EQ(conForze(conTirante(500, 0, inDueSensi), 12.5, -0.12, 12.5), Righe{});  // 1 %
     EXPECT_EQ(conForze(conTirante(500, 0, inDueSensi), 5, -0.1, 5), Righe{});
@@ -93,7 +94,7 @@ TEST(ControlloTiri, TellsAPropThatPulls) {
 TEST(ControlloTiri, TellsAPropOfWhichThePrestressIsGone) {
     EXPECT_EQ(conForze(conTirante(500, 10, inDueSensi), 6, 4, 10),
               Righe{"[da vedere] puntone-scaricato: tirante 1: Pretens. [kN] = 100: la relazione "
-                    "dà la pretensione, 100.00 kN, ma in nessuna fase il tiro supera 60.00 kN "
+                    "dà la pretensione, 100.00 kN/m, ma in nessuna fase il tiro supera 60.00 kN/m "
                     "(fase 1): la paratia torna verso monte e lo scarica"});
     EXPECT_EQ(conForze(conTirante(500, 10, soloTrazione), 6, 4, 10), Righe{});
     EXPECT_EQ(conForze(conTirante(500, 10, inDueSensi), 9.05, 4, 10), Righe{});
@@ -112,14 +113,16 @@ Righe conTaglio(double tipo, double vera, double nelTaglio, bool sulNodo) {
 }
 
 TEST(ControlloTiri, TellsASlackAnchorThatTheShearCounts) {
-    EXPECT_EQ(conTaglio(soloTrazione, 0, -2.5, true),
-              Righe{"[da vedere] tirante-lento-nel-taglio: tirante 1: è lento nella fase 2, ma il "
-                    "taglio massimo del diagramma conta un tiro di -25.00 kN: prendere il taglio "
-                    "dell'equilibrio"});
-    EXPECT_EQ(conTaglio(soloTrazione, 0, -2.5, false),
-              Righe{"[da vedere] tirante-lento-nel-taglio: tirante 1: è lento nella fase 2, ma il "
-                    "diagramma del taglio conta un tiro di -25.00 kN: prendere il taglio "
-                    "dell'equilibrio"});
+    EXPECT_EQ(
+        conTaglio(soloTrazione, 0, -2.5, true),
+        Righe{
+            "[da vedere] tirante-lento-nel-taglio: tirante 1: è lento nella fase 2, ma il taglio "
+            "massimo del diagramma conta un tiro di -25.00 kN/m: usare il taglio dell'equilibrio"});
+    EXPECT_EQ(
+        conTaglio(soloTrazione, 0, -2.5, false),
+        Righe{
+            "[da vedere] tirante-lento-nel-taglio: tirante 1: è lento nella fase 2, ma il "
+            "diagramma del taglio conta un tiro di -25.00 kN/m: usare il taglio dell'equilibrio"});
     EXPECT_EQ(conTaglio(soloTrazione, 0, -0.1, true), Righe{});
     EXPECT_EQ(conTaglio(soloTrazione, 3, 3, true), Righe{});
     EXPECT_EQ(conTaglio(inDueSensi, -0.09, -0.09, true), Righe{});

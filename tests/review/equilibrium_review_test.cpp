@@ -46,10 +46,9 @@ TEST(ControlloEquilibrio, TellsAMechanismAndTheLengthThatWouldHelp) {
     const Osservazioni una = osservate(m);
     EXPECT_EQ(
         righe(una),
-        Righe{"[impedisce] meccanismo: la paratia è un meccanismo nella fase 2: ruota attorno "
-              "alla profondità di 8.9 m, la testa verso lo scavo; mancano 25.7 kN m; al "
-              "limite: valle passivo 4-8.6 m; di solito aiuta una paratia più lunga: circa "
-              "10.42 m"});
+        Righe{"[impedisce] meccanismo: la paratia è un meccanismo nella fase 2: ruota attorno alla "
+              "profondità di 8.9 m, la testa verso lo scavo; mancano 25.7 kN m/m; al limite: valle "
+              "passivo 4-8.6 m; di solito aiuta una paratia più lunga: circa 10.42 m"});
     EXPECT_EQ(una[0].campi, (std::vector<std::string>{"profFase[2]", "lunghezzaParatia"}));
 }
 
@@ -58,8 +57,8 @@ TEST(ControlloEquilibrio, NamesNoLengthWhereNoLongerWallStands) {
     m.fasi[1].perche->moto = equilibrium::Meccanismo{true, 0, 1, 1.2};
     EXPECT_EQ(righe(osservate(m)),
               Righe{"[impedisce] meccanismo: la paratia è un meccanismo nella fase 2: trasla verso "
-                    "lo scavo; mancano 12.0 kN; controllare profondità di scavo, tiranti, livelli "
-                    "dell'acqua e carichi in testa"});
+                    "lo scavo; mancano 12.0 kN/m; controllare profondità di scavo, tiranti, "
+                    "livelli dell'acqua e carichi in testa"});
 }
 
 TEST(ControlloEquilibrio, TellsDataWithoutACertainEquilibriumAndTheirField) {
@@ -100,13 +99,14 @@ TEST(ControlloEquilibrio, TellsOfAWallThatOnlyTheIterationDoesNotFindThatItStand
     Margine m = margineSano(dueFasi);
     m.fasi[0].estremi.spostamento = {-0.0031, 0, 1};
     EXPECT_EQ(righe(osservate(m, {ModoFine::oltreLimite, 1, 200})),
-              Righe{"[impedisce] iterazione-che-oscilla: la paratia sta nella fase 1, con uno "
-                    "spostamento massimo di 3.1 mm: oscilla soltanto l'iterazione; il suo "
+              Righe{"[impedisce] iterazione-che-oscilla: la paratia è in equilibrio nella fase 1, "
+                    "con uno spostamento massimo di 3.1 mm: oscilla soltanto l'iterazione; il suo "
                     "equilibrio si calcola con korven32c equilibrio"});
-    EXPECT_EQ(righe(osservate(m, {ModoFine::singolare, 1})),
-              Righe{"[impedisce] iterazione-che-oscilla: la paratia sta nella fase 1, con uno "
-                    "spostamento massimo di 3.1 mm: soltanto l'iterazione si ferma davanti a un "
-                    "sistema singolare; il suo equilibrio si calcola con korven32c equilibrio"});
+    EXPECT_EQ(
+        righe(osservate(m, {ModoFine::singolare, 1})),
+        Righe{"[impedisce] iterazione-che-oscilla: la paratia è in equilibrio nella fase 1, con "
+              "uno spostamento massimo di 3.1 mm: soltanto l'iterazione si ferma davanti a un "
+              "sistema singolare; il suo equilibrio si calcola con korven32c equilibrio"});
     EXPECT_TRUE(osservate(m, {ModoFine::fermata, 1}).empty());
 }
 

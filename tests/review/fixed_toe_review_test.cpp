@@ -38,8 +38,8 @@ TEST(ControlloIncastro, TellsWhatTheReportShowsAtAFixedToe) {
     EXPECT_TRUE(osservate(incastrata, conValori(-11.1, -3.6)).empty());
     EXPECT_EQ(righe(osservate(incastrata, conValori(-11.1, 30))),
               Righe{"[da vedere] valori-al-piede-incastrato: vincolo al piede = 3: nella fase 2 la "
-                    "relazione dà al piede momento -111.0 kN m e taglio 300.0 kN, l'equilibrio "
-                    "-120.0 kN m e -40.0 kN: usare questi"});
+                    "relazione dà al piede momento -111.0 kN m/m e taglio 300.0 kN/m, l'equilibrio "
+                    "-120.0 kN m/m e -40.0 kN/m: usare questi"});
     EXPECT_EQ(osservate(incastrata, conValori(-10.9, -3.6)).size(), 1u);
     EXPECT_EQ(osservate(incastrata, conValori(-10.9, -3.6))[0].campi,
               std::vector<std::string>{"vincoloPiede"});
@@ -71,7 +71,7 @@ TEST(ControlloIncastro, TellsAClampThatGives) {
     EXPECT_TRUE(osservate(incastrata, m).empty());
     m.fasi[1].piede.cedimento = 0.0125;
     EXPECT_EQ(righe(osservate(incastrata, m)),
-              Righe{"[da vedere] incastro-cedevole: vincolo al piede = 3: l'incastro gira del 1.3 "
+              Righe{"[da vedere] incastro-cedevole: vincolo al piede = 3: l'incastro ruota del 1.3 "
                     "% della rotazione massima (fase 2): con nodi così vicini le sue molle cedono, "
                     "ridurre i segmenti"});
 }

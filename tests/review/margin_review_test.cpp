@@ -30,18 +30,17 @@ TEST(ControlloMargine, SaysNothingOfAWallFarFromItsLimits) {
 
 TEST(ControlloMargine, TellsALowStrengthReductionWithItsMechanism) {
     EXPECT_EQ(conRiduzione(1.5), Righe{});
-    EXPECT_EQ(conRiduzione(1.499),
-              Righe{"[da vedere] riduzione-bassa: fase 1: Prof. [m] = 4: riduzione di resistenza "
-                    "1.499, sotto 1.50; con una riduzione maggiore: ruota attorno alla profondità "
-                    "di 8.5 m, "
-                    "la testa verso lo scavo; controllare infissione, tiranti e carichi"});
+    EXPECT_EQ(
+        conRiduzione(1.499),
+        Righe{"[da vedere] riduzione-bassa: fase 1: Prof. [m] = 4: riduzione della resistenza F = "
+              "1.49, sotto 1.50; con F maggiore: ruota attorno alla profondità di 8.5 m, la testa "
+              "verso lo scavo; controllare infissione, tiranti e carichi"});
     EXPECT_EQ(conRiduzione(1.25).size(), 1u);
     EXPECT_EQ(conRiduzione(1.249),
-              Righe{"[pericolo] riduzione-insufficiente: fase 1: Prof. [m] = 4: riduzione di "
-                    "resistenza 1.249, sotto 1.25; con una riduzione maggiore: ruota attorno alla "
-                    "profondità "
-                    "di 8.5 m, la testa verso lo scavo; allungare la paratia, aggiungere un "
-                    "tirante o ridurre scavo e carichi"});
+              Righe{"[pericolo] riduzione-insufficiente: fase 1: Prof. [m] = 4: riduzione della "
+                    "resistenza F = 1.24, sotto 1.25; con F maggiore: ruota attorno alla "
+                    "profondità di 8.5 m, la testa verso lo scavo; allungare la paratia, "
+                    "aggiungere un tirante o ridurre scavo e carichi"});
 }
 
 TEST(ControlloMargine, NamesTheFieldsOfTheStageAndTheLength) {
@@ -57,16 +56,15 @@ TEST(ControlloMargine, NamesTheFieldsOfTheStageAndTheLength) {
 TEST(ControlloMargine, TellsAReductionThatTheSlopeLimits) {
     Margine m = margineSano(unaFase);
     m.fasi[0].riduzione = {.F = 1.4, .limitePendio = true};
-    EXPECT_EQ(
-        righe(osservate(unaFase, m)),
-        Righe{"[da vedere] riduzione-bassa: fase 1: Prof. [m] = 4: riduzione di resistenza "
-              "1.400, sotto 1.50; con una riduzione maggiore: l'angolo di attrito ridotto è minore "
-              "dell'inclinazione del terreno; controllare pendio e angoli di attrito, la "
-              "paratia non c'entra"});
+    EXPECT_EQ(righe(osservate(unaFase, m)),
+              Righe{"[da vedere] riduzione-bassa: fase 1: Prof. [m] = 4: riduzione della "
+                    "resistenza F = 1.40, sotto 1.50; con F maggiore: l'angolo di attrito ridotto "
+                    "è minore dell'inclinazione del terreno; controllare pendio e angoli di "
+                    "attrito, non dipende dalla paratia"});
     m.fasi[0].riduzione.limitePendio = false;
-    EXPECT_NE(osservate(unaFase, m)[0].testo.find(
-                  "con una riduzione maggiore: i limiti del terreno non hanno più"),
-              std::string::npos);
+    EXPECT_NE(
+        osservate(unaFase, m)[0].testo.find("con F maggiore: i limiti del terreno non hanno più"),
+        std::string::npos);
 }
 
 TEST(ControlloMargine, TellsTheWorstStageOnly) {
@@ -76,7 +74,8 @@ TEST(ControlloMargine, TellsTheWorstStageOnly) {
         m.fasi[static_cast<std::size_t>(k)].riduzione = {.F = F};
     const Osservazioni una = osservate(dati, m);
     ASSERT_EQ(una.size(), 1u);
-    EXPECT_EQ(una[0].testo.rfind("fase 2: Prof. [m] = 4: riduzione di resistenza 1.100,", 0), 0u);
+    EXPECT_EQ(una[0].testo.rfind("fase 2: Prof. [m] = 4: riduzione della resistenza F = 1.10,", 0),
+              0u);
 }
 
 Righe conPassiva(double quota) {
@@ -88,23 +87,23 @@ Righe conPassiva(double quota) {
 TEST(ControlloMargine, TellsHowMuchOfThePassiveSideIsUsedAndWhereItIsAtItsLimit) {
     EXPECT_EQ(conPassiva(0.80), Righe{});
     EXPECT_EQ(conPassiva(0.801),
-              Righe{"[da vedere] passiva-molto-usata: fase 1: Prof. [m] = 4: spinta passiva "
-                    "davanti alla paratia usata: 80.1 %, limite 80 %, al limite: valle "
+              Righe{"[da vedere] passiva-molto-usata: fase 1: Prof. [m] = 4: resistenza passiva "
+                    "mobilitata davanti alla paratia: 80.1 %, limite 80 %, al limite: valle "
                     "passivo 4-6.25 m: controllare l'infissione"});
     EXPECT_EQ(conPassiva(0.90).size(), 1u);
     EXPECT_EQ(conPassiva(0.901),
-              Righe{"[pericolo] passiva-esaurita: fase 1: Prof. [m] = 4: spinta passiva davanti "
-                    "alla paratia usata: 90.1 %, limite 90 %, al limite: valle passivo "
-                    "4-6.25 m: allungare la paratia o ridurre scavo e carichi"});
+              Righe{"[pericolo] passiva-esaurita: fase 1: Prof. [m] = 4: resistenza passiva "
+                    "mobilitata davanti alla paratia: 90.1 %, limite 90 %, al limite: valle "
+                    "passivo 4-6.25 m: allungare la paratia o ridurre scavo e carichi"});
 }
 
 TEST(ControlloMargine, NamesNoDepthsWhereThePassiveSideIsNowhereAtItsLimit) {
     Margine m = margineSano(unaFase);
     m.fasi[0].passiva.quota = 0.85;
-    EXPECT_EQ(righe(osservate(unaFase, m)),
-              Righe{"[da vedere] passiva-molto-usata: fase 1: Prof. [m] = 4: spinta passiva "
-                    "davanti alla paratia usata: 85.0 %, limite 80 %: controllare "
-                    "l'infissione"});
+    EXPECT_EQ(
+        righe(osservate(unaFase, m)),
+        Righe{"[da vedere] passiva-molto-usata: fase 1: Prof. [m] = 4: resistenza passiva "
+              "mobilitata davanti alla paratia: 85.0 %, limite 80 %: controllare l'infissione"});
 }
 
 Righe conSpostamento(double scavo, double y) {

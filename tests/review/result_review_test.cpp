@@ -103,7 +103,7 @@ TEST(EsaminaRisultati, TellsTheDoubleForceAtTheHead) {
     ASSERT_TRUE(codice(doppia, "taglio-maggiore-della-statica"));
     for (const auto& o : doppia)
         if (o.codice == "taglio-maggiore-della-statica") {
-            EXPECT_NE(o.testo.find("taglio massimo del diagramma -200.0 kN (fase 1, a 0.00 m)"),
+            EXPECT_NE(o.testo.find("taglio massimo del diagramma -200.0 kN/m (fase 1, a 0.00 m)"),
                       std::string::npos)
                 << o.testo;
             EXPECT_NE(o.testo.find("conta due volte la forza in testa"), std::string::npos);

@@ -58,14 +58,12 @@ TEST(ControlloVerifiche, TellsABendingMomentThatJustEqualsItsResistance) {
     const auto pari = osservate(dati, conVerifiche(dati, 45, -30));
     EXPECT_EQ(
         righe(pari),
-        (Righe{"[pericolo] flessione-non-verificata: momento positivo di progetto 450.00 kN m "
-               "(fase 1, a 3.00 m), resistenza 450.00 kN m, usata al 100.0 %: aumentare i "
-               "ferri del lato valle o lo spessore, o ridurre il momento con tiranti, scavo "
-               "e carichi",
-               "[pericolo] flessione-non-verificata: momento negativo di progetto -300.00 kN "
-               "m (fase 2, a 8.00 m), resistenza -300.00 kN m, usata al 100.0 %: aumentare i "
-               "ferri del lato monte o lo spessore, o ridurre il momento con tiranti, scavo "
-               "e carichi"}));
+        (Righe{"[pericolo] flessione-non-verificata: momento positivo di progetto 450.00 kN m/m "
+               "(fase 1, a 3.00 m), resistenza 450.00 kN m/m, usata al 100.0 %: aumentare i ferri "
+               "del lato valle o lo spessore, o ridurre il momento con tiranti, scavo e carichi",
+               "[pericolo] flessione-non-verificata: momento negativo di progetto -300.00 kN m/m "
+               "(fase 2, a 8.00 m), resistenza -300.00 kN m/m, usata al 100.0 %: aumentare i ferri "
+               "del lato monte o lo spessore, o ridurre il momento con tiranti, scavo e carichi"}));
     EXPECT_EQ(pari[0].campi, (Righe{"sezione.diametroValle", "sezione.interasseValle",
                                     "sezione.spessoreDiaframma"}));
     EXPECT_EQ(pari[1].campi, (Righe{"sezione.diametroMonte", "sezione.interasseMonte",
@@ -75,9 +73,9 @@ TEST(ControlloVerifiche, TellsABendingMomentThatJustEqualsItsResistance) {
 // Of a resistance of 0 there is no share.
 TEST(ControlloVerifiche, TellsASectionWithoutResistanceOfEachKind) {
     const std::pair<project::Sezione, std::string> sezioni[] = {
-        {structure::paliTubolari(), "prendere tubi più grandi, più spessi o più vicini"},
-        {structure::palancola(), "prendere palancole più alte, più spesse o di acciaio migliore"},
-        {structure::paliArmati(), "aumentare i ferri, o prendere pali più grandi o più vicini"}};
+        {structure::paliTubolari(), "adottare tubi più grandi, più spessi o più vicini"},
+        {structure::palancola(), "adottare palancole più alte, più spesse o di acciaio migliore"},
+        {structure::paliArmati(), "aumentare i ferri, o adottare pali più grandi o più vicini"}};
     for (const auto& [sezione, rinforzo] : sezioni) {
         const DatiProgetto dati = conSezione(sezione);
         const auto trovate = osservate(dati, conVerifiche(dati, 0, -31));
@@ -99,20 +97,20 @@ TEST(ControlloVerifiche, TellsAShearBeyondTheStrutsOrTheStirrups) {
     };
     EXPECT_EQ(righe(con(280, 280)), Righe{});
     const std::string inizio =
-        "[pericolo] taglio-non-verificato: taglio di progetto 280.00 kN (fase 2, a 5.00 m), ";
+        "[pericolo] taglio-non-verificato: taglio di progetto 280.00 kN/m (fase 2, a 5.00 m), ";
     const std::string fine = ", o ridurre il taglio con tiranti, scavo e carichi";
     const auto bielle = con(250, 280);
     EXPECT_EQ(righe(bielle),
               Righe{inizio +
-                    "resistenza delle bielle di calcestruzzo 250.00 kN, usata al 112.0 %: prendere "
-                    "pali più grandi o più vicini, o un calcestruzzo migliore" +
+                    "resistenza delle bielle di calcestruzzo 250.00 kN/m, usata al 112.0 %: "
+                    "adottare pali più grandi o più vicini, o un calcestruzzo migliore" +
                     fine});
     EXPECT_EQ(bielle[0].campi,
               (Righe{"sezione.armDiamPalo", "sezione.armInterasse", "sezione.fck"}));
     const auto staffe = con(280, 200);
     EXPECT_EQ(righe(staffe), Righe{inizio +
-                                   "resistenza dell'armatura d'anima 200.00 kN, usata al 140.0 %: "
-                                   "infittire le staffe o prenderle più grosse" +
+                                   "resistenza dell'armatura d'anima 200.00 kN/m, usata al 140.0 "
+                                   "%: infittire le staffe o aumentarne il diametro" +
                                    fine});
     EXPECT_EQ(staffe[0].campi, (Righe{"sezione.armDiamStaffe", "sezione.armPassoStaffe"}));
     EXPECT_EQ(con(250, 200).size(), 2u);

@@ -25,13 +25,11 @@ Righe righe(const Sezione& sezione, double sforzoNormale) {
 // 1692 in tension; divided by 1.4 and by ten, 875.5 t and 120.8 t.
 TEST(ControlloResistenza, TellsAnAxialForceBeyondTheSection) {
     const auto s = structure::diaframmaSimmetrico();
-    EXPECT_EQ(righe(s, 876),
-              Righe{"sforzo normale = 8760: di progetto 12264 kN, la sezione ne porta 12256: la "
-                    "resistenza a flessione è nulla"});
+    EXPECT_EQ(righe(s, 876), Righe{"sforzo normale = 8760: di progetto 12264 kN/m, la sezione ne "
+                                   "porta 12256: la resistenza a flessione è nulla"});
     EXPECT_EQ(righe(s, 875), Righe{});
-    EXPECT_EQ(righe(s, -121),
-              Righe{"sforzo normale = -1210: di progetto 1694 kN, la sezione ne porta 1692: la "
-                    "resistenza a flessione è nulla"});
+    EXPECT_EQ(righe(s, -121), Righe{"sforzo normale = -1210: di progetto 1694 kN/m, la sezione ne "
+                                    "porta 1692: la resistenza a flessione è nulla"});
     EXPECT_EQ(righe(s, -120), Righe{});
 }
 

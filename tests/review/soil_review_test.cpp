@@ -29,7 +29,7 @@ TEST(ControlloTerreno, NamesWhatIsOddAboutLayers) {
         {[](DatiProgetto& d) { d.gammaSat[1] = 0; },
          {"strato 1: Gamma Sat. [kN/m³] = 0: peso di volume mancante"}},
         {[](DatiProgetto& d) { d.phiStrato[1] = 0; },
-         {"strato 1: Phi [°] = 0: né attrito né coesione: il terreno preme come un liquido e non "
+         {"strato 1: Phi [°] = 0: né attrito né coesione: il terreno spinge come un liquido e non "
           "resiste"}},
         {[](DatiProgetto& d) {
              d.phiStrato[1] = 0;

@@ -44,25 +44,24 @@ TEST(ControlloStatica, SaysNothingOfNumbersWithinFivePercent) {
 }
 
 TEST(ControlloStatica, TellsAMomentThatIsNotTheWalls) {
-    EXPECT_EQ(
-        conMomento(18.9),
-        Righe{"[pericolo] momento-minore-della-statica: momento massimo della relazione 189.0 "
-              "kN m (fase 2, a 3.00 m), dell'equilibrio 200.0 kN m (fase 2, a 3.00 m): "
-              "verificare la sezione con il secondo"});
+    EXPECT_EQ(conMomento(18.9),
+              Righe{"[pericolo] momento-minore-della-statica: momento massimo della relazione "
+                    "189.0 kN m/m (fase 2, a 3.00 m), dell'equilibrio 200.0 kN m/m (fase 2, a 3.00 "
+                    "m): verificare la sezione con il secondo"});
     EXPECT_EQ(conMomento(-21.1),
               Righe{"[da vedere] momento-maggiore-della-statica: momento massimo della relazione "
-                    "-211.0 kN m (fase 2, a 3.00 m), dell'equilibrio 200.0 kN m (fase 2, a 3.00 "
-                    "m): il primo non è della paratia"});
+                    "-211.0 kN m/m (fase 2, a 3.00 m), dell'equilibrio 200.0 kN m/m (fase 2, a "
+                    "3.00 m): il primo non è della paratia"});
 }
 
 TEST(ControlloStatica, TellsAShearThatIsNotTheWalls) {
     EXPECT_EQ(conTaglio(18.9),
               Righe{"[pericolo] taglio-minore-della-statica: taglio massimo del diagramma 189.0 "
-                    "kN (fase 2, a 3.00 m), dell'equilibrio 200.0 kN (fase 2, a 3.00 m): "
+                    "kN/m (fase 2, a 3.00 m), dell'equilibrio 200.0 kN/m (fase 2, a 3.00 m): "
                     "verificare la sezione con il secondo"});
     EXPECT_EQ(conTaglio(21.1),
-              Righe{"[da vedere] taglio-maggiore-della-statica: taglio massimo del diagramma "
-                    "211.0 kN (fase 2, a 3.00 m), dell'equilibrio 200.0 kN (fase 2, a 3.00 m): il "
+              Righe{"[da vedere] taglio-maggiore-della-statica: taglio massimo del diagramma 211.0 "
+                    "kN/m (fase 2, a 3.00 m), dell'equilibrio 200.0 kN/m (fase 2, a 3.00 m): il "
                     "primo non è della paratia"});
 }
 
@@ -173,8 +172,8 @@ TEST(ControlloStatica, TellsAShearOfAnEarlierStageThatTheCheckLeavesOut) {
     staffe.armPassoStaffe = 20;
     EXPECT_EQ(conUltimo(staffe, -20, 1),
               Righe{"[pericolo] taglio-di-altra-fase: fase 1: Prof. [m] = 2: la verifica a taglio "
-                    "conta soltanto l'ultima fase, 100.0 kN, ma qui il taglio arriva a -200.0 kN, "
-                    "a 3.00 m: verificare anche questo"});
+                    "conta soltanto l'ultima fase, 100.0 kN/m, ma qui il taglio arriva a -200.0 "
+                    "kN/m, a 3.00 m: verificare anche questo"});
     EXPECT_EQ(conUltimo(staffe, 10.5, 1), Righe{});
     EXPECT_EQ(conUltimo(staffe, 10, 2), Righe{});
     EXPECT_EQ(conUltimo(structure::diaframmaSimmetrico(), -20, 1), Righe{});

@@ -49,17 +49,18 @@ TEST(EsempiRaccontati, AreToldLittle) {
 TEST(EsempiRaccontati, AreToldWhatTheirStagesComeTo) {
     EXPECT_EQ(
         righe(risultati(esempio("pali_armati_staffe"))),
-        (Righe{"[pericolo] taglio-non-verificato: taglio di progetto 255.73 kN (fase 3, a 1.60 m), "
-               "resistenza dell'armatura d'anima 241.22 kN, usata al 106.0 %: infittire le "
-               "staffe o prenderle più grosse, o ridurre il taglio con tiranti, scavo e carichi",
-               "[da vedere] riduzione-bassa: fase 3: Prof. [m] = 7.8: riduzione di resistenza "
-               "1.438, sotto 1.50; con una riduzione maggiore: ruota attorno alla profondità di "
-               "1.6 m, il piede verso lo scavo; controllare infissione, tiranti e carichi"}));
-    EXPECT_EQ(righe(risultati(esempio("paratia_lunga_incastro"))),
-              Righe{"[da vedere] taglio-maggiore-della-statica: taglio massimo del diagramma "
-                    "1120.0 kN (fase 5, a 26.00 m), dell'equilibrio -385.2 kN (fase 5, a 18.72 m); "
-                    "al piede incastrato il diagramma conta le molle dell'incastro: il primo non è "
-                    "della paratia"});
+        (Righe{"[pericolo] taglio-non-verificato: taglio di progetto 255.73 kN/m (fase 3, a 1.60 "
+               "m), resistenza dell'armatura d'anima 241.22 kN/m, usata al 106.0 %: infittire le "
+               "staffe o aumentarne il diametro, o ridurre il taglio con tiranti, scavo e carichi",
+               "[da vedere] riduzione-bassa: fase 3: Prof. [m] = 7.8: riduzione della resistenza F "
+               "= 1.44, sotto 1.50; con F maggiore: ruota attorno alla profondità di 1.6 m, il "
+               "piede verso lo scavo; controllare infissione, tiranti e carichi"}));
+    EXPECT_EQ(
+        righe(risultati(esempio("paratia_lunga_incastro"))),
+        Righe{
+            "[da vedere] taglio-maggiore-della-statica: taglio massimo del diagramma 1120.0 kN/m "
+            "(fase 5, a 26.00 m), dell'equilibrio -385.2 kN/m (fase 5, a 18.72 m); al piede "
+            "incastrato il diagramma conta le molle dell'incastro: il primo non è della paratia"});
 }
 
 // The water and the stresses of four of them are told before they run.
@@ -88,30 +89,31 @@ TEST(MuriRaccontati, AreEachToldWhatIsWrongWithThemOrThatTheyStand) {
 
 // Factor, movement and lengths by an independent calculation.
 TEST(MuriRaccontati, AreToldByHowMuch) {
-    EXPECT_EQ(righe(risultati(muro("banchina"))),
-              (Righe{"[pericolo] riduzione-insufficiente: fase 2: Prof. [m] = 3.5: riduzione di "
-                     "resistenza 1.032, sotto 1.25; con una riduzione maggiore: ruota attorno alla "
-                     "profondità di 8.46 m, la testa verso lo scavo; allungare la paratia, "
-                     "aggiungere un tirante o ridurre scavo e carichi",
-                     "[pericolo] spostamento-eccessivo: fase 2: Prof. [m] = 3.5: spostamento "
-                     "massimo 99.9 mm a 0.00 m di profondità, 1/35 dello scavo, più di 1/50: "
-                     "controllare rigidezza, tiranti, infissione e valori di ks"}));
+    EXPECT_EQ(
+        righe(risultati(muro("banchina"))),
+        (Righe{
+            "[pericolo] riduzione-insufficiente: fase 2: Prof. [m] = 3.5: riduzione della "
+            "resistenza F = 1.03, sotto 1.25; con F maggiore: ruota attorno alla profondità di "
+            "8.46 m, la testa "
+            "verso lo scavo; allungare la paratia, aggiungere un tirante o ridurre scavo e carichi",
+            "[pericolo] spostamento-eccessivo: fase 2: Prof. [m] = 3.5: spostamento "
+            "massimo 99.9 mm a 0.00 m di profondità, 1/35 dello scavo, più di 1/50: "
+            "controllare rigidezza, tiranti, infissione e valori di ks"}));
     EXPECT_EQ(
         righe(risultati(muro("meccanismo"))),
-        Righe{"[impedisce] meccanismo: la paratia è un meccanismo nella fase 1: ruota attorno "
-              "alla profondità di 8.93 m, la testa verso lo scavo; mancano 25.7 kN m; al "
-              "limite: monte attivo 0.19-8.74 m, monte passivo 9.11-9.3 m, valle attivo "
-              "9.11-9.3 m, valle passivo 5.02-8.74 m; di solito aiuta una paratia più lunga: "
-              "circa 9.42 m"});
+        Righe{"[impedisce] meccanismo: la paratia è un meccanismo nella fase 1: ruota attorno alla "
+              "profondità di 8.93 m, la testa verso lo scavo; mancano 25.7 kN m/m; al limite: "
+              "monte attivo 0.19-8.74 m, monte passivo 9.11-9.3 m, valle attivo 9.11-9.3 m, valle "
+              "passivo 5.02-8.74 m; di solito aiuta una paratia più lunga: circa 9.42 m"});
     EXPECT_EQ(righe(risultati(muro("puntone_rigidissimo"))),
               Righe{"[pericolo] tiro-sbagliato: tirante 1: Rigidezza [kN/m] = 1000000000: la "
-                    "relazione dà il tiro 0.00 kN, quello vero è 42.20 kN (fase 2): lo calcola da "
-                    "spostamenti con sette decimali, che bastano fino a circa 4200000 kN/m; usare "
-                    "il tiro vero o una rigidezza minore"});
+                    "relazione dà il tiro 0.00 kN/m, quello vero è 42.20 kN/m (fase 2): lo calcola "
+                    "da spostamenti con sette decimali, che bastano fino a una rigidezza di circa "
+                    "4200000 kN/m; usare il tiro vero o una rigidezza minore"});
     EXPECT_EQ(righe(risultati(muro("oscilla_3")))[0],
-              "[impedisce] iterazione-che-oscilla: la paratia sta nella fase 2, con uno "
-              "spostamento massimo di 3.1 mm: oscilla soltanto l'iterazione; il suo equilibrio si "
-              "calcola con korven32c equilibrio");
+              "[impedisce] iterazione-che-oscilla: la paratia è in equilibrio nella fase 2, con "
+              "uno spostamento massimo di 3.1 mm: oscilla soltanto l'iterazione; il suo equilibrio "
+              "si calcola con korven32c equilibrio");
 }
 
 // The quay wall with enough embedment, the prop with a stiffness that a section has, and the

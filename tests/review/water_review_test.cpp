@@ -19,8 +19,8 @@ Righe con(double monte, double prima, double seconda) {
 
 const std::string monte = "Profondità falda a monte del diaframma [m] = ";
 const std::string zero =
-    ": acqua fino alla testa della paratia da tutte e due le parti, come risulta quando i livelli "
-    "non sono scritti: scriverli; senza falda, più di 12 m";
+    ": acqua fino alla testa della paratia da entrambi i lati, come risulta quando i livelli non "
+    "sono scritti: scriverli; senza falda, più di 12 m";
 const std::string davanti =
     ": l'acqua è più alta davanti che dietro e spinge la paratia verso il terreno: se non è "
     "voluto, correggere il livello di valle; senza falda, più di 12 m";

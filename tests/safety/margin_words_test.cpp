@@ -30,6 +30,14 @@ TEST(TestoRiduzione, HasTwoDecimalsAndNeverCallsAMechanismOne) {
     EXPECT_EQ(testoRiduzione({.F = 0.974}), "0.97");
 }
 
+TEST(TestoRiduzione, NeverReachesALimitThatTheFactorDoesNot) {
+    EXPECT_EQ(testoF(1.2499), "1.24");
+    EXPECT_EQ(testoF(1.25), "1.25");
+    EXPECT_EQ(testoF(1.4951), "1.49");
+    EXPECT_EQ(testoF(1.5), "1.50");
+    EXPECT_EQ(testoF(1.4949), "1.49");
+}
+
 TEST(TestoRiduzione, SaysWhatLiesOutsideTheRange) {
     EXPECT_EQ(testoRiduzione({.F = {}, .oltre = true}), "> 10");
     EXPECT_EQ(testoRiduzione({}), "-");
@@ -74,8 +82,9 @@ TEST(ParoleLunghezza, SayHowShortTheWallMayBeAndThatThisIsNoLengthToBuild) {
               "costruire: F = 1, tiranti e vincoli tengono senza limite");
     m.lunghezza = {EsitoLunghezza::sempre, 6.5};
     EXPECT_EQ(paroleLunghezza(m),
-              "Lunghezza minima: 6.50 m; la paratia sta anche senza infissione sotto lo scavo più "
-              "profondo; non è una lunghezza da costruire: tiranti e vincoli tengono senza limite");
+              "Lunghezza minima: 6.50 m; la paratia è in equilibrio anche senza infissione sotto "
+              "lo scavo più profondo; non è una lunghezza da costruire: tiranti e vincoli tengono "
+              "senza limite");
     m.sostegni = false;
     EXPECT_TRUE(paroleLunghezza(m).ends_with("; non è una lunghezza da costruire"));
 }
@@ -93,9 +102,9 @@ TEST(ParoleLunghezza, SayWhyThereIsNone) {
 
 TEST(ParoleMaglia, TellTheSharesThatThereAre) {
     Margine m = dueFasi();
-    EXPECT_EQ(
-        paroleMaglia(m),
-        "Errore di maglia (50 segmenti contro 200): con una maglia più fine una fase non sta");
+    EXPECT_EQ(paroleMaglia(m),
+              "Errore di maglia (50 segmenti contro 200): con una maglia più fine una fase non è "
+              "in equilibrio");
     m.maglia = ErroreMaglia{};
     m.maglia->momento.quota = 0.0287;
     m.maglia->spostamento.quota = 0.01;
@@ -118,7 +127,7 @@ TEST(ParoleDecisiva, NameTheSmallestFactorOrTheStageThatFalls) {
                                 .paratia = 12,
                                 .moto = equilibrium::Meccanismo{true, 0, 1, 1.2}};
     EXPECT_EQ(paroleDecisiva(m),
-              "la paratia è un meccanismo nella fase 2: trasla verso lo scavo; mancano 12.0 kN");
+              "la paratia è un meccanismo nella fase 2: trasla verso lo scavo; mancano 12.0 kN/m");
 }
 
 TEST(NotaPendenza, StandsWhereAFactorHasTheAsterisk) {

@@ -37,11 +37,11 @@ TEST(ParoleMeccanismo, SayOfAWallThatGoesUphillAsAWholeWhichEndDoes) {
 
 // Stored in t and t m: ten times as much in kN.
 TEST(ParoleMeccanismo, SayWhatIsMissingInTheUnitOfTheReport) {
-    EXPECT_EQ(mancante({false, 4.2, 1, 3.51}), "mancano 35.1 kN m");
-    EXPECT_EQ(mancante({true, 0, 1, 1.2}), "mancano 12.0 kN");
-    EXPECT_EQ(mancante({true, 0, 1, 0.0049}), "mancano meno di 0.1 kN");
-    EXPECT_EQ(mancante({false, 1, 1, 1e12}), "mancano 1.000e+13 kN m");
-    EXPECT_EQ(mancante({false, 1, 1, 0}), "è in bilico, senza alcuna riserva");
+    EXPECT_EQ(mancante({false, 4.2, 1, 3.51}), "mancano 35.1 kN m/m");
+    EXPECT_EQ(mancante({true, 0, 1, 1.2}), "mancano 12.0 kN/m");
+    EXPECT_EQ(mancante({true, 0, 1, 0.0049}), "mancano meno di 0.1 kN/m");
+    EXPECT_EQ(mancante({false, 1, 1, 1e12}), "mancano 1.000e+13 kN m/m");
+    EXPECT_EQ(mancante({false, 1, 1, 0}), "è in equilibrio limite, senza alcuna riserva");
 }
 
 TEST(ParolePartiAlLimite, NameEachSideWithItsDepthsAndTheSlackAnchors) {
@@ -107,11 +107,11 @@ TEST(Frase, TellsOfAMechanismHowAndWhatHelps) {
     Diagnosi d = muroCheCade();
     EXPECT_EQ(inBreve(d),
               "la paratia è un meccanismo nella fase 3: ruota attorno alla profondità di 4.2 m, il "
-              "piede verso lo scavo; mancano 35.1 kN m");
+              "piede verso lo scavo; mancano 35.1 kN m/m");
     const std::string fatto =
-        "la paratia è un meccanismo nella fase 3: ruota attorno alla profondità di 4.2 m, il "
-        "piede verso lo scavo; mancano 35.1 kN m; al limite: monte attivo 0-10 m, valle passivo "
-        "8-10 m; tirante lento 2; ";
+        "la paratia è un meccanismo nella fase 3: ruota attorno alla profondità di 4.2 m, il piede "
+        "verso lo scavo; mancano 35.1 kN m/m; al limite: monte attivo 0-10 m, valle passivo 8-10 "
+        "m; tirante lento 2; ";
     EXPECT_EQ(frase(d), fatto +
                             "controllare profondità di scavo, tiranti, livelli dell'acqua e "
                             "carichi in testa");
@@ -121,13 +121,13 @@ TEST(Frase, TellsOfAMechanismHowAndWhatHelps) {
 
 TEST(Frase, TellsOfAWallThatStandsThatOnlyTheIterationFlips) {
     Diagnosi d{.causa = Causa::oscilla, .fase = 2, .paratia = 10, .spostamento = 0.0123};
+    EXPECT_EQ(inBreve(d),
+              "la paratia è in equilibrio nella fase 2, con uno spostamento massimo di 12.3 mm: "
+              "oscilla soltanto l'iterazione");
     EXPECT_EQ(
-        inBreve(d),
-        "la paratia sta nella fase 2, con uno spostamento massimo di 12.3 mm: oscilla soltanto "
-        "l'iterazione");
-    EXPECT_EQ(frase(d),
-              "la paratia sta nella fase 2, con uno spostamento massimo di 12.3 mm: oscilla "
-              "soltanto l'iterazione; il suo equilibrio si calcola con korven32c equilibrio");
+        frase(d),
+        "la paratia è in equilibrio nella fase 2, con uno spostamento massimo di 12.3 mm: oscilla "
+        "soltanto l'iterazione; il suo equilibrio si calcola con korven32c equilibrio");
     luogoEquilibrio = LuogoEquilibrio::finestra;
     EXPECT_TRUE(
         frase(d).ends_with("l'iterazione; il suo equilibrio si vede in Strumenti > Sicurezza"));

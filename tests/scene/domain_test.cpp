@@ -86,7 +86,7 @@ TEST(ScenaDominio, SaysWhyThereIsNone) {
 TEST(DescrizioneDominio, TellsTheEndsAndTheStagesOutside) {
     const Prova dentro = prova(430), fuori = prova(1);
     EXPECT_TRUE(descrizioneDominio(dentro.dominio, dentro.fasi)
-                    .ends_with("Tutte le fasi note stanno nel dominio."));
+                    .ends_with("Tutte le fasi note sono interne al dominio."));
     EXPECT_NE(descrizioneDominio(fuori.dominio, fuori.fasi).find("Fuori del dominio: fase "),
               std::string::npos);
 }

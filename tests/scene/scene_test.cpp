@@ -360,7 +360,9 @@ TEST(Scena, NamesTheStiffnessAndWhereItComesFrom) {
 TEST(Descrizione, TellsStageAndVerdictInOneText) {
     const auto dati = test::progettoSemplice();
     const std::string testo = descrizione(live::calcola(dati, 40), {2});
-    EXPECT_EQ(testo.find("fase 2 di 2  ·  scavo 5.00 m. la paratia sta in tutte le fasi: "), 0U);
+    EXPECT_EQ(
+        testo.find("fase 2 di 2  ·  scavo 5.00 m. la paratia è in equilibrio in tutte le fasi: "),
+        0U);
     EXPECT_NE(testo.find(" mm, momento "), std::string::npos);
 }
 

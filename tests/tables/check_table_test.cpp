@@ -91,7 +91,7 @@ TEST(ProspettoVerifiche, OfAWallThatFallsOrWithoutASectionHasNoRows) {
     const Muro caduto = muro(std::string(KORVEN_WALLS) + "/meccanismo.kvd");
     const Prospetto p = prospettoVerifiche(caduto.parete, caduto.margine);
     EXPECT_TRUE(p.righe.empty());
-    EXPECT_EQ(p.note.back(), "Nessuna verifica di una paratia che non sta.");
+    EXPECT_EQ(p.note.back(), "Nessuna verifica: la paratia non è in equilibrio.");
 
     const PareteViva nudo = live::calcola(test::progettoSemplice());
     const auto breve = safety::margineBreve(test::progettoSemplice(), nudo.nSeg);

@@ -91,7 +91,7 @@ TEST(QuadroSezioneTest, ShowsResistancesWithoutActionsWhereNothingStands) {
         EXPECT_NE(riga[2].testo, nessuno);
         EXPECT_EQ(riga[4].testo, nessuno);
     }
-    EXPECT_EQ(p.note.front(), "Azioni non note: la parete non è calcolata o non sta.");
+    EXPECT_EQ(p.note.front(), "Azioni non note: la paratia non è calcolata o non è in equilibrio.");
 }
 
 TEST(ProspettoDominioTest, HasARowForEachStage) {

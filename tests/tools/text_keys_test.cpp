@@ -169,7 +169,7 @@ TEST(TextKeys, AreInTheTableForEachCaptionWithTheUnitThatIsBesideIt) {
         }
     }
     EXPECT_TRUE(looked.contains("Tensione max. [kN]"));
-    EXPECT_TRUE(looked.contains("Spostamento max. [cm]"));
+    EXPECT_TRUE(looked.contains("Spostamento max. [mm]"));
     EXPECT_TRUE(looked.contains("c' [kN/m²]"));
     EXPECT_TRUE(looked.contains("falda [m]"));
     EXPECT_TRUE(looked.contains("F.S. parziale delle azioni [-]"));

@@ -31,9 +31,9 @@ std::vector<std::string> riga(const FaseRaccontata& r, double h) {
         const auto& M = r.fase.momento;
         const auto [minimo, massimo] = std::minmax_element(M.begin(), M.end());
         const equilibrium::Estremi e = equilibrium::estremi(r.fase, h);
-        celle.push_back(numeroMostrato(std::fabs(e.spostamento.valore), 4, unita::spostamento));
-        celle.push_back(numeroMostrato(*massimo, 2, unita::momento));
-        celle.push_back(numeroMostrato(*minimo, 2, unita::momento));
+        celle.push_back(numeroMostrato(std::fabs(e.spostamento.valore), 3, unita::spostamentoFine));
+        celle.push_back(numeroMostrato(*massimo, 2, unita::momentoAlMetro));
+        celle.push_back(numeroMostrato(*minimo, 2, unita::momentoAlMetro));
     } else {
         celle.insert(celle.end(), 3, nessuno);
     }
@@ -44,11 +44,11 @@ std::vector<std::string> riga(const FaseRaccontata& r, double h) {
 }  // namespace
 
 std::string testoEquilibrio(const EquilibrioRaccontato& equilibrio) {
-    TabellaTesto tabella(
-        {traduttore("Fase"), traduttore("Passi"), titolo("Scavo", unita::metri),
-         titolo("Spostamento max.", unita::spostamento), titolo("Momento max.", unita::momento),
-         titolo("Momento min.", unita::momento), traduttore("Esito")},
-        true);
+    TabellaTesto tabella({traduttore("Fase"), traduttore("Passi"), titolo("Scavo", unita::metri),
+                          titolo("Spostamento max.", unita::spostamentoFine),
+                          titolo("Momento max.", unita::momentoAlMetro),
+                          titolo("Momento min.", unita::momentoAlMetro), traduttore("Esito")},
+                         true);
     for (const FaseRaccontata& r : equilibrio.fasi) tabella.riga(riga(r, equilibrio.h));
     std::string testo = tabella.testo();
     for (const FaseRaccontata& r : equilibrio.fasi)

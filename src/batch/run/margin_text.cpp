@@ -50,11 +50,11 @@ void riga(int fase, std::string_view cosa, const Unita& u, const safety::Confron
 void riga(int fase, const safety::ConfrontoTiro& tiro, TabellaTesto& tabella) {
     tabella.riga({std::to_string(fase),
                   traduttore("tirante") + " " + std::to_string(tiro.tirante) + " " +
-                      traParentesi(unita::forza),
-                  numeroMostrato(tiro.statica, 2, unita::forza), nessuno,
-                  tiro.relazione
-                      ? project::numeroRelazione(mostrato(unita::forza, tiro.relazione->valore))
-                      : nessuno,
+                      traParentesi(unita::forzaAlMetro),
+                  numeroMostrato(tiro.statica, 2, unita::forzaAlMetro), nessuno,
+                  tiro.relazione ? project::numeroRelazione(
+                                       mostrato(unita::forzaAlMetro, tiro.relazione->valore))
+                                 : nessuno,
                   nessuno});
 }
 
@@ -64,8 +64,8 @@ std::string tabellaStatica(const Margine& margine) {
                           traduttore("Relazione"), z});
     for (const MargineFase& fase : margine.fasi) {
         if (!fase.inEquilibrio()) continue;
-        riga(fase.fase, "Momento", unita::momento, fase.confronto.momento, tabella);
-        riga(fase.fase, "Taglio", unita::forza, fase.confronto.taglio, tabella);
+        riga(fase.fase, "Momento", unita::momentoAlMetro, fase.confronto.momento, tabella);
+        riga(fase.fase, "Taglio", unita::forzaAlMetro, fase.confronto.taglio, tabella);
         for (const safety::ConfrontoTiro& tiro : fase.confronto.tiri)
             riga(fase.fase, tiro, tabella);
     }

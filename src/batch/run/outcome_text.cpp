@@ -32,9 +32,9 @@ using results::EstremiFase;
 
 constexpr Colonna colonne[] = {
     {"Scavo", unita::metri, &EstremiFase::profFase, 2},
-    {"Spostamento max.", unita::spostamento, &EstremiFase::spostamentoMax, 4},
-    {"Momento max.", unita::momento, &EstremiFase::momentoMax, 2},
-    {"Momento min.", unita::momento, &EstremiFase::momentoMin, 2},
+    {"Spostamento max.", unita::spostamentoFine, &EstremiFase::spostamentoMax, 3},
+    {"Momento max.", unita::momentoAlMetro, &EstremiFase::momentoMax, 2},
+    {"Momento min.", unita::momentoAlMetro, &EstremiFase::momentoMin, 2},
 };
 
 std::string iterazioni(const Esito& esito, int fase) {

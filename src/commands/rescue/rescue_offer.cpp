@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "base/file_identity.hpp"
+#include "base/filled_text.hpp"
 #include "base/translated_texts.hpp"
 #include "commands/rescue/found_rescues.hpp"
 #include "commands/rescue/kept_rescue.hpp"
@@ -15,7 +16,7 @@ namespace {
 using base::traduttore;
 
 std::string riga(const char* cosa, const std::string& file) {
-    return traduttore(cosa) + ": " + file;
+    return base::riempito(traduttore(cosa), {file});
 }
 
 SceltaRecupero scelta(const OffreRecupero& offre, const LavoroRecuperato& trovato,
@@ -34,7 +35,10 @@ bool daTogliere(const LavoroRecuperato& trovato, base::Dialogo& dialogo) {
 }
 
 std::string prendi(LavoroRecuperato& trovato) {
-    std::string detto = riga("Lavoro recuperato, da salvare", trovato.file.percorso());
+    std::string detto = riga(
+        "Si lavora sui dati recuperati, non ancora salvati nel progetto: salvarli con Ctrl+S. Fino "
+        "ad allora restano anche in %1",
+        trovato.file.percorso());
     project::Progetto = std::move(trovato.dati);
     project::modificato = true;
     recuperoTenuto.adotta(std::move(trovato.file));
@@ -52,11 +56,14 @@ std::string offriRecuperi(const OffreRecupero& offre, base::Dialogo& dialogo) {
             case SceltaRecupero::prendi:
                 return prendi(trovato);
             case SceltaRecupero::dopo:
-                return riga("Lavoro recuperato, ancora da decidere", trovato.file.percorso());
+                return riga(
+                    "Lavoro recuperato lasciato per dopo: viene proposto di nuovo alla prossima "
+                    "apertura. Resta in %1",
+                    trovato.file.percorso());
             case SceltaRecupero::tieni:
                 if (!daTogliere(trovato, dialogo)) break;  // offered again
                 trovato.file.togli();
-                detto = riga("Lavoro recuperato cancellato", trovato.file.percorso());
+                detto = riga("Lavoro recuperato cancellato: %1", trovato.file.percorso());
                 ++i;
         }
     }

@@ -95,7 +95,7 @@ void CampiTirante::fareScelte() {
         tradotto("Che cosa sta nella riga: un tirante, un puntone contro un "
                  "appoggio che non si muove, o un puntone tra due pareti uguali."));
     genere_->addItems({tradotto("Tirante"), tradotto("Puntone contro un appoggio fisso"),
-                       tradotto("Puntone tra due pareti uguali: conta metà")});
+                       tradotto("Puntone tra due paratie uguali: conta metà lunghezza")});
     genere_->setCurrentIndex(static_cast<int>(ingressi_.genere));
     misura_ = new QComboBox(this);
     misura_->setObjectName(QStringLiteral("calcoloMisura"));

@@ -10,6 +10,7 @@
 #include "shell/panels/anchor_fields.hpp"
 #include "shell/panels/force_table.hpp"
 #include "shell/qt_text.hpp"
+#include "shell/wrapped_text.hpp"
 
 namespace korven::shell {
 
@@ -65,9 +66,9 @@ QWidget* PannelloTiranti::fareCalcolo() {
     auto* colonna = new QVBoxLayout(calcolo);
     colonna->setContentsMargins(0, 0, 0, 0);
     auto* significato = fareTesto("calcoloSignificato", calcolo);
-    significato->setText(
-        tradotto("La tabella vuole la componente orizzontale per metro di paratia: il programma "
-                 "non divide per l'interasse e non moltiplica per il coseno, questi conti sì."));
+    significato->setText(tradotto(
+        "La tabella chiede valori per metro di paratia, in direzione orizzontale: il programma non "
+        "divide per l'interasse e non moltiplica per il coseno, lo fa questo calcolo."));
     colonna->addWidget(significato);
     colonna->addWidget(campi_);
     colonna->addStretch();
@@ -99,7 +100,7 @@ void PannelloTiranti::aggiorna() {
     tiri_->setAccessibleName(qt(titolo));
     const auto tiri = panels::tiriDellaRiga(vita_.vivo(), griglia, riga);
     tiri_->mostra(tiri, ingressi_);
-    perche_->setText(qt(tiri.perche));
+    perche_->setText(inRighe(tiri.perche));
     perche_->setVisible(!tiri.perche.empty());
 }
 

@@ -33,7 +33,7 @@ TabellaTiri::TabellaTiri(QWidget* genitore) : QTreeWidget(genitore) {
     setEditTriggers(NoEditTriggers);
     setColumnCount(numeroColonne);
     setHeaderLabels({tradotto("Fase"), tradotto("Scavo [m]"), tradotto("Tiro [kN/m]"),
-                     tradotto("Di uno [kN]"), tradotto("Nota")});
+                     tradotto("Per elemento [kN]"), tradotto("Nota")});
     headerItem()->setToolTip(
         diUno,
         tradotto("Tiro per interasse, diviso il coseno dell'inclinazione: quelli del calcolo"));

@@ -136,7 +136,7 @@ void ScegliProfilo::annota() {
                                   {std::to_string(catalogo_.guaste.size()), prima.file,
                                    std::to_string(prima.riga), prima.motivo}));
     } else if (mostrati_.empty()) {
-        testo = tradotto("Nessun profilo. Quelli propri si tengono con «Aggiungi al catalogo».");
+        testo = tradotto("Nessun profilo. I propri si registrano con «Aggiungi al catalogo».");
     }
     nota_->setText(testo);
     nota_->setVisible(!testo.isEmpty());
@@ -158,7 +158,7 @@ void ScegliProfilo::filtra() {
     for (int r = 0; r < tabella_->rowCount(); ++r) {
         const auto& p = catalogo_.profili[mostrati_[static_cast<std::size_t>(r)]];
         const QString testi[] = {qt(p.nome), qt(profiles::misureMostrate(p)), qt(p.fonte),
-                                 tradotto(p.proprio ? "proprio" : "consegnato")};
+                                 tradotto(p.proprio ? "dell'utente" : "fornito")};
         for (int c = 0; c < 4; ++c) tabella_->setItem(r, c, new QTableWidgetItem(testi[c]));
     }
     tabella_->resizeColumnsToContents();

@@ -18,6 +18,7 @@
 #include "shell/panels/profile_entry.hpp"
 #include "shell/qt_text.hpp"
 #include "shell/tables/table_view.hpp"
+#include "shell/wrapped_text.hpp"
 
 namespace korven::shell {
 
@@ -59,7 +60,7 @@ PannelloSezione::PannelloSezione(DefinEJ& forma, VitaProgetto& vita, base::Dialo
         farePulsante("catalogo", "catalogue", tradotto("Ca&talogo..."),
                      tradotto("Ferri, tubi e profili propri che riempiono i campi"), this);
     auto* aggiungi = farePulsante("aggiungi", "insert_row", tradotto("A&ggiungi al catalogo..."),
-                                  tradotto("Tiene le misure scritte per altri progetti"), this);
+                                  tradotto("Conserva le misure scritte per altri progetti"), this);
     auto* colonna = new QVBoxLayout(this);
     colonna->setContentsMargins(0, 0, 0, 0);
     colonna->addWidget(valori_);
@@ -90,10 +91,10 @@ void PannelloSezione::mostra() {
     const auto quadro = tables::quadroSezione(vivo.dati(), vivo.parete(), margine);
     QStringList righe;
     for (const auto& riga : quadro.righe) righe << qt(riga);
-    valori_->setText(righe.join(QLatin1Char('\n')));
+    valori_->setText(inRighe(righe.join(QLatin1Char('\n'))));
     QStringList note;
     for (const auto& nota : quadro.verifiche.note) note << qt(nota);
-    origine_->setText(note.join(QLatin1Char('\n')));
+    origine_->setText(inRighe(note.join(QLatin1Char('\n'))));
     verifiche_->mostra(quadro.verifiche);
     const bool calcolabile = live::sezioneCalcolabile(vivo.dati().sezione);
     auto dominio = lenti != nullptr ? lenti->dominio : dominio_->dominio();
@@ -112,7 +113,7 @@ void PannelloSezione::scegliProfilo() {
 void PannelloSezione::aggiungiProfilo() {
     if (profiles::profiloDi(forma_.tipo(), forma_.letta(), false).misure.empty()) {
         dialogo_.messaggio(
-            base::traduttore("Non ci sono misure da tenere: i campi sono vuoti o 0."),
+            base::traduttore("Non ci sono misure da conservare: i campi sono vuoti o 0."),
             base::traduttore("ATTENZIONE") + "!", base::Icona::avviso);
         return;
     }

@@ -60,10 +60,10 @@ PannelloFigura::PannelloFigura(VitaProgetto& vita, std::function<void(const QFon
     disposizione->addWidget(lettura_);
     disposizione->addWidget(striscia());
     connect(vista_, &VistaFigura::letto, this, [this](const QString& letto) {
-        lettura_->mostra(letto.isEmpty() ? tradotto("Il mouse, o Su e Giù, leggono la paratia")
-                                         : letto);
+        lettura_->mostra(
+            letto.isEmpty() ? tradotto("Lettura dei valori: mouse, oppure tasti Su e Giù") : letto);
     });
-    lettura_->mostra(tradotto("Il mouse, o Su e Giù, leggono la paratia"));
+    lettura_->mostra(tradotto("Lettura dei valori: mouse, oppure tasti Su e Giù"));
     tasti();
     connect(&vita_, &VitaProgetto::cambiata, this, &PannelloFigura::aggiorna);
     aggiorna();

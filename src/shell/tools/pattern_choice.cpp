@@ -21,7 +21,7 @@ constexpr QSize misuraComoda(520, 440);
 SceltaModello::SceltaModello(std::vector<commands::Modello> modelli, QWidget* genitore)
     : QDialog(genitore), modelli_(std::move(modelli)), lista_(new QListWidget(this)) {
     setObjectName(QStringLiteral("modelli"));
-    setWindowTitle(tradotto("Con che cosa comincia il nuovo progetto"));
+    setWindowTitle(tradotto("Punto di partenza del nuovo progetto"));
     lista_->setObjectName(QStringLiteral("lista"));
     lista_->setAccessibleName(windowTitle());
     lista_->setItemDelegate(

@@ -43,7 +43,7 @@ TEST_F(EsitoJson, HoldsWhatTheTextSays) {
         EXPECT_EQ(fase["fase"], numero);
         EXPECT_EQ(fase["iterazioni"], iterazioni);
         EXPECT_NEAR(fase["scavo_m"].get<double>(), scavo, 0.005);
-        EXPECT_NEAR(fase["spostamento_massimo_m"].get<double>() * 100, spostamento, 0.00005001);
+        EXPECT_NEAR(fase["spostamento_massimo_m"].get<double>() * 1000, spostamento, 0.0005001);
         EXPECT_NEAR(fase["momento_massimo_kNm"].get<double>(), massimo, 0.005001);
         EXPECT_NEAR(fase["momento_minimo_kNm"].get<double>(), minimo, 0.005001);
     }

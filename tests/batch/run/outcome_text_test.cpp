@@ -24,8 +24,8 @@ TEST_F(EsitoTesto, ShowsALineAStageAndTheFilesThatWereWritten) {
     const auto tutte = righe(esito.uscita);
     ASSERT_EQ(tutte.size(), 7u) << esito.uscita;
     EXPECT_EQ(tutte[0],
-              "Fase  Iterazioni  Scavo [m]  Spostamento max. [cm]  Momento max. [kN m]  "
-              "Momento min. [kN m]");
+              "Fase  Iterazioni  Scavo [m]  Spostamento max. [mm]  Momento max. [kN m/m]  "
+              "Momento min. [kN m/m]");
     EXPECT_TRUE(tutte[1].starts_with("   1  ")) << tutte[1];
     EXPECT_TRUE(dice(tutte[2], "  5.00  ")) << tutte[2];
     EXPECT_EQ(tutte[1].size(), tutte[0].size());

@@ -78,7 +78,10 @@ TEST_F(OffertaTest, TakenMakesTheUnsavedWorkTheOpenProject) {
     EXPECT_EQ(project::fileCorrente, ambiente.muro);
     EXPECT_TRUE(modificato);
     EXPECT_EQ(finestra.ultimoTitolo, "KORVEN 32 - muro");
-    EXPECT_EQ(finestra.ultimoStato, "Lavoro recuperato, da salvare: " + ambiente.recuperato);
+    EXPECT_EQ(finestra.ultimoStato,
+              "Si lavora sui dati recuperati, non ancora salvati nel progetto: salvarli con "
+              "Ctrl+S. Fino ad allora restano anche in " +
+                  ambiente.recuperato);
     EXPECT_EQ(test::contenuto(ambiente.muro), ambiente.byte(test::progettoSemplice()));
 }
 
@@ -106,7 +109,9 @@ TEST_F(OffertaTest, PutOffLeavesBothAsTheyAreAndComesBack) {
         EXPECT_EQ(Progetto, test::progettoSemplice());
         EXPECT_FALSE(modificato);
         EXPECT_EQ(finestra.ultimoStato,
-                  "Lavoro recuperato, ancora da decidere: " + ambiente.recuperato);
+                  "Lavoro recuperato lasciato per dopo: viene proposto di nuovo alla prossima "
+                  "apertura. Resta in " +
+                      ambiente.recuperato);
     }
     EXPECT_EQ(offerti.size(), 2u);
     EXPECT_EQ(ambiente.nomi(), (Nomi{"muro.kvd", "muro_recuperato.kvd"}));

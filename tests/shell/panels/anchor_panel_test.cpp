@@ -120,7 +120,7 @@ TEST_F(PannelloDeiTiranti, NamesWhatTheChoicesAskFor) {
         controllo<QComboBox>("calcoloMisura").setCurrentIndex(1);
         EXPECT_TRUE(testo("calcoloRigidezza").starts_with("k = E A cos²α / (L/2 s) ="));
         EXPECT_TRUE(testo("calcoloArea").starts_with("A = n π d² / 4 ="));
-        EXPECT_EQ(etichettaDi(casella(3)), "Distanza tra le pareti L [m]");
+        EXPECT_EQ(etichettaDi(casella(3)), "Distanza tra le paratie L [m]");
         EXPECT_EQ(etichettaDi(casella(6)), "Precarico di un puntone F [kN]");
     });
 }
@@ -192,7 +192,7 @@ TEST_F(PannelloDeiTiranti, SaysWhichStageDoesNotStand) {
     dati.profFase[3] = 10;
     progetto(dati);
     apri([&] {
-        EXPECT_EQ(tiro(3, 4), "non sta");
+        EXPECT_EQ(tiro(3, 4), "non in equilibrio");
         EXPECT_TRUE(testo("tiriPerche").starts_with("la paratia è un meccanismo nella fase 3"));
     });
 }

@@ -23,7 +23,8 @@ class PannelloDelleFasi : public test::BancoPannelli {
         apriMaschera(masks::NumeroMaschera::fasi, azione);
     }
     SchizzoFase& schizzo() { return controllo<SchizzoFase>("schizzoFase"); }
-    std::string parole() { return controllo<QLabel>("paroleFase").text().toStdString(); }
+    QString righe() { return controllo<QLabel>("paroleFase").text(); }
+    std::string parole() { return righe().replace(QChar::Nbsp, QChar::Space).toStdString(); }
 };
 
 TEST_F(PannelloDelleFasi, ShowsTheStageOfTheRowInUse) {
@@ -34,6 +35,8 @@ TEST_F(PannelloDelleFasi, ShowsTheStageOfTheRowInUse) {
         EXPECT_EQ(schizzo().fase(), 2);
         EXPECT_EQ(parole(), base::conMaiuscola(panels::paroleFase(live::calcola(muro()), 2)));
         EXPECT_EQ(schizzo().accessibleDescription().toStdString(), parole());
+        // No line ends within "kN m/m".
+        EXPECT_TRUE(righe().contains(QStringLiteral("\u00a0kN\u00a0m/m a ")));
     });
 }
 
@@ -75,13 +78,15 @@ TEST_F(PannelloDelleFasi, KeepsTheLastSketchAndSaysWhatIsInTheWay) {
         QTest::keyClick(&griglia(), Qt::Key_Backspace);
         QTest::keyClick(&griglia(), Qt::Key_Backspace);
         EXPECT_EQ(schizzo().fase(), 2);
-        EXPECT_TRUE(parole().starts_with(
-            "Come era prima di ciò che si scrive (riga 2: dati incompleti): la fase 2 sta"))
+        EXPECT_TRUE(
+            parole().starts_with("Com'era prima delle modifiche in corso (riga 2: dati "
+                                 "incompleti): fase 2 in equilibrio"))
             << parole();
         cursore(3, 1);
         QTest::keyClicks(&griglia(), "5");
         EXPECT_EQ(schizzo().fase(), 2);
-        EXPECT_TRUE(parole().starts_with("Riga 2: dati incompleti; la fase 2 ")) << parole();
+        EXPECT_TRUE(parole().starts_with("Riga 2: dati incompleti; fase 2 in equilibrio"))
+            << parole();
     });
 }
 

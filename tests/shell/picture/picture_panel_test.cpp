@@ -61,7 +61,7 @@ TEST_F(PannelloFiguraTest, BeginsAnewWithAnotherProject) {
     EXPECT_EQ(fasi().value(), 2);
     vita.guarda(1);
     EXPECT_FALSE(vista().profondita());
-    EXPECT_EQ(lettura(), "Il mouse, o Su e Giù, leggono la paratia");
+    EXPECT_EQ(lettura(), "Lettura dei valori: mouse, oppure tasti Su e Giù");
     EXPECT_EQ(fasi().value(), 0);
     EXPECT_TRUE(curva(4).isChecked());
 }
@@ -109,7 +109,7 @@ TEST_F(PannelloFiguraTest, ReadsTheWallUnderTheMouse) {
     QTest::mouseMove(&vista(), QPoint(2, 2));
     QCoreApplication::processEvents();
     EXPECT_FALSE(vista().profondita());
-    EXPECT_EQ(lettura(), "Il mouse, o Su e Giù, leggono la paratia");
+    EXPECT_EQ(lettura(), "Lettura dei valori: mouse, oppure tasti Su e Giù");
 }
 
 TEST_F(PannelloFiguraTest, ReadsTheWallNodeByNodeWithTheKeys) {
@@ -136,7 +136,7 @@ TEST_F(PannelloFiguraTest, TellsScreenReadersWhatIsReadAndWhatThePictureSays) {
     EXPECT_EQ(accesso->role(), QAccessible::Graphic);
     EXPECT_TRUE(accesso->text(QAccessible::Value).startsWith("12.00 m"));
     EXPECT_EQ(accesso->text(QAccessible::Name), "Figura del progetto");
-    EXPECT_TRUE(accesso->text(QAccessible::Description).contains("la paratia sta"));
+    EXPECT_TRUE(accesso->text(QAccessible::Description).contains("la paratia è in equilibrio"));
 }
 
 TEST_F(PannelloFiguraTest, FollowsTheProject) {

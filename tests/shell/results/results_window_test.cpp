@@ -38,7 +38,9 @@ class FinestraRisultatiTest : public ::testing::Test {
     void pagina(int quale) {
         test::controllo<QTabWidget>(mostra(), "pagine").setCurrentIndex(quale);
     }
-    QString nota() { return test::controllo<QLabel>(mostra(), "nota").text(); }
+    QString nota() {
+        return test::controllo<QLabel>(mostra(), "nota").text().replace(QChar::Nbsp, QChar::Space);
+    }
 
     QApplication& app = test::applicazione();
     test::UtenteNuovo utente;

@@ -152,7 +152,8 @@ class CorsaSenzaRiposo : public ::testing::Test {
 TEST_F(CorsaSenzaRiposo, SaysAfter200IterationsWhatBecomesOfTheWall) {
     EXPECT_EQ(riga(199), "");
     const QString detto = riga(200);
-    EXPECT_TRUE(detto.startsWith("la paratia sta nella fase 1, con uno spostamento massimo di "))
+    EXPECT_TRUE(detto.startsWith(
+        "la paratia è in equilibrio nella fase 1, con uno spostamento massimo di "))
         << detto.toStdString();
     EXPECT_TRUE(detto.endsWith("mm: oscilla soltanto l'iterazione")) << detto.toStdString();
 }

@@ -27,7 +27,9 @@ class FinestraSicurezzaTest : public ::testing::Test {
         return *principale.findChild<FinestraSicurezza*>();
     }
     VistaProspetto& margine() { return test::controllo<VistaProspetto>(mostra(), "margine"); }
-    QString testo(const char* nome) { return test::controllo<QLabel>(mostra(), nome).text(); }
+    QString testo(const char* nome) {
+        return test::controllo<QLabel>(mostra(), nome).text().replace(QChar::Nbsp, QChar::Space);
+    }
     [[nodiscard]] bool noto() {
         return QTest::qWaitFor([&] { return vita.vivo().lenti() != nullptr; }, 30000);
     }
