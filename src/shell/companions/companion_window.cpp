@@ -4,7 +4,7 @@
 #include <QScreen>
 #include <QShortcut>
 
-#include "shell/companions/place_beside.hpp"
+#include "shell/place_beside.hpp"
 #include "shell/form_sizes.hpp"
 
 namespace korven::shell {

@@ -1,4 +1,4 @@
-#include "shell/companions/place_beside.hpp"
+#include "shell/place_beside.hpp"
 
 #include <gtest/gtest.h>
 
