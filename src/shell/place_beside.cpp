@@ -1,30 +1,69 @@
 #include "shell/place_beside.hpp"
 
+#include <QScreen>
+#include <QWidget>
 #include <algorithm>
+
+#include "shell/form_sizes.hpp"
 
 namespace korven::shell {
 
 namespace {
 
-constexpr int gradino = 28;  // the height of a window's head [px]
+constexpr int gradino = 28;           // the height of a window's head [px]
+constexpr int larghezzaForma = 1000;  // of a table with its panel, at first [px]
+
+int coperti(const QRect& una, const QRect& altra) {
+    const QRect comune = una.intersected(altra);
+    return comune.width() * comune.height();
+}
+
+// Of the corners that a window can have on the screen the first that leaves the other in sight, or
+// that of the largest part in sight.
+QPoint menoSopra(const QRect& altra, QSize misura, const QRect& schermo) {
+    // One past the last pixel, which QRect::right() and bottom() are not.
+    const int ultimaX = schermo.x() + std::max(schermo.width() - misura.width(), 0);
+    const int ultimaY = schermo.y() + std::max(schermo.height() - misura.height(), 0);
+    const auto dentro = [&](int x, int y) {
+        return QPoint(std::clamp(x, schermo.x(), ultimaX), std::clamp(y, schermo.y(), ultimaY));
+    };
+    const QPoint posti[] = {dentro(altra.x() + altra.width(), altra.y()),
+                            dentro(altra.x() - misura.width(), altra.y()),
+                            dentro(altra.x(), altra.y() + altra.height()),
+                            dentro(altra.x(), altra.y() - misura.height()),
+                            {ultimaX, ultimaY},
+                            {ultimaX, schermo.y()},
+                            {schermo.x(), ultimaY},
+                            schermo.topLeft()};
+    return *std::min_element(std::begin(posti), std::end(posti), [&](QPoint a, QPoint b) {
+        return coperti({a, misura}, altra) < coperti({b, misura}, altra);
+    });
+}
 
 }  // namespace
 
 QPoint postoAccanto(const QRect& altra, QSize misura, const QRect& schermo,
                     const QList<QPoint>& presi) {
-    // One past the last pixel, which QRect::right() and bottom() are not.
-    const int ultimaX = schermo.x() + std::max(schermo.width() - misura.width(), 0);
     const int ultimaY = schermo.y() + std::max(schermo.height() - misura.height(), 0);
-    const int aDestra = altra.x() + altra.width();
-    const int aSinistra = altra.x() - misura.width();
-    QPoint posto(ultimaX, std::clamp(altra.y(), schermo.y(), ultimaY));
-    if (aDestra >= schermo.x() && aDestra <= ultimaX)
-        posto.setX(aDestra);
-    else if (aSinistra >= schermo.x() && aSinistra <= ultimaX)
-        posto.setX(aSinistra);
+    QPoint posto = menoSopra(altra, misura, schermo);
     while (presi.contains(posto) && posto.x() - gradino >= schermo.x())
         posto = {posto.x() - gradino, std::min(posto.y() + gradino, ultimaY)};
     return posto;
+}
+
+QPoint postoPrincipale(QSize misura, const QRect& schermo) {
+    const int avanza = schermo.width() - misura.width() - larghezzaForma;
+    if (avanza < 0) return schermo.topLeft();
+    return schermo.topLeft() +
+           QPoint(avanza / 2, std::max(schermo.height() - misura.height(), 0) / 2);
+}
+
+bool collocaAccanto(QWidget& finestra) {
+    const QWidget* altra = finestra.parentWidget();
+    if (altra == nullptr || !altra->window()->isVisible()) return false;
+    finestra.move(postoAccanto(altra->window()->frameGeometry(), misuraConCornice(finestra),
+                               altra->screen()->availableGeometry()));
+    return true;
 }
 
 }  // namespace korven::shell

@@ -10,15 +10,22 @@ constexpr QSize misura(300, 200);
 
 TEST(PostoAccanto, IsToTheRightWhereTheScreenHasTheRoom) {
     EXPECT_EQ(postoAccanto({100, 50, 624, 400}, misura, schermo), QPoint(724, 50));
-    EXPECT_EQ(postoAccanto({101, 50, 624, 400}, misura, schermo), QPoint(724, 50));  // over it
 }
 
 TEST(PostoAccanto, IsToTheLeftWhereOnlyThatHasTheRoom) {
     EXPECT_EQ(postoAccanto({400, 50, 624, 400}, misura, schermo), QPoint(100, 50));
 }
 
-TEST(PostoAccanto, LiesOverTheOtherAtTheEndOfAScreenWithoutRoom) {
-    EXPECT_EQ(postoAccanto({60, 20, 900, 560}, misura, schermo), QPoint(724, 20));
+TEST(PostoAccanto, IsBelowOrAboveWhereTheSidesHaveNoRoom) {
+    EXPECT_EQ(postoAccanto({120, 50, 800, 350}, misura, schermo), QPoint(120, 400));
+    EXPECT_EQ(postoAccanto({120, 200, 800, 390}, misura, schermo), QPoint(120, 0));
+}
+
+TEST(PostoAccanto, CoversAsLittleAsItCanOnAScreenWithoutRoom) {
+    // At the right end 1 x 200 of it, in the corner below 1 x 50.
+    EXPECT_EQ(postoAccanto({101, 50, 624, 400}, misura, schermo), QPoint(724, 400));
+    // 236 x 200 of it at the right end, 236 x 180 in the corner below, 240 x 180 at the left.
+    EXPECT_EQ(postoAccanto({60, 20, 900, 560}, misura, schermo), QPoint(724, 400));
 }
 
 TEST(PostoAccanto, IsOnTheScreenAsFarDownAsThatGoes) {
@@ -29,6 +36,12 @@ TEST(PostoAccanto, IsOnTheScreenAsFarDownAsThatGoes) {
 
 TEST(PostoAccanto, IsOnTheSecondScreenWithTheOther) {
     EXPECT_EQ(postoAccanto({1100, 50, 500, 400}, misura, {1024, 0, 1024, 600}), QPoint(1600, 50));
+}
+
+TEST(PostoPrincipale, LeavesRoomForAFormBesideItOrIsInTheCorner) {
+    EXPECT_EQ(postoPrincipale({900, 660}, {0, 0, 1920, 1080}), QPoint(10, 210));
+    EXPECT_EQ(postoPrincipale({900, 660}, {0, 30, 1280, 994}), QPoint(0, 30));
+    EXPECT_EQ(postoPrincipale({900, 560}, {1024, 0, 1024, 600}), QPoint(1024, 0));
 }
 
 TEST(PostoAccanto, LeavesTheHeadsInSightOfTheWindowsThatLieThere) {

@@ -4,8 +4,8 @@
 #include <QScreen>
 #include <QShortcut>
 
-#include "shell/place_beside.hpp"
 #include "shell/form_sizes.hpp"
+#include "shell/place_beside.hpp"
 
 namespace korven::shell {
 

@@ -25,6 +25,7 @@
 #include "shell/icons/icon_set.hpp"
 #include "shell/main/picture_frame.hpp"
 #include "shell/main/wall_picture.hpp"
+#include "shell/place_beside.hpp"
 #include "shell/qt_text.hpp"
 
 namespace korven::shell {
@@ -93,9 +94,8 @@ Menu1::Menu1() {
             [this] { esegui(commands::voceMenu("ripeti")); });
     resize(misuraIniziale(screen()->availableSize()));
     setMinimumSize(480, 340);
-    // In the middle of the screen by itself: the box that greets is placed before a window manager
-    // has moved the form.
-    move(screen()->availableGeometry().center() - rect().center());
+    // Before a window manager has moved the form, since the box that greets goes over it.
+    move(postoPrincipale(misuraConCornice(*this), screen()->availableGeometry()));
     ripristinaMisure(*this);
 }
 

@@ -52,7 +52,7 @@ Base2_32::Base2_32(const masks::Maschera& maschera, const std::vector<std::strin
     const int altezza = colonna->totalHeightForWidth(larghezza) - griglia_->sizeHint().height() +
                         griglia_->horizontalHeader()->sizeHint().height() +
                         righeMostrate * griglia_->verticalHeader()->defaultSectionSize();
-    disponi({larghezza, altezza});
+    disponiAccanto({larghezza, altezza});
     griglia_->aggiorna();
 }
 
@@ -87,8 +87,9 @@ void Base2_32::affianca(QWidget* pannello) {
         pulsante->installEventFilter(this);  // Enter presses them as it does those of the form
     // As wide as before, and the panel beside it at its whole height, as far as the screen goes.
     const QSize voluta = pannello->sizeHint();
-    disponi({width() + fila_->spacing() + voluta.width(),
-             std::max({height(), layout()->minimumSize().height(), voluta.height() + altro})});
+    disponiAccanto(
+        {width() + fila_->spacing() + voluta.width(),
+         std::max({height(), layout()->minimumSize().height(), voluta.height() + altro})});
 }
 
 bool Base2_32::scrivi(masks::PostoGriglia posto, std::string_view testo) {

@@ -12,6 +12,7 @@
 #include "help/contexts.hpp"
 #include "masks/field_model.hpp"
 #include "shell/form_sizes.hpp"
+#include "shell/place_beside.hpp"
 #include "shell/qt_text.hpp"
 
 namespace korven::shell {
@@ -58,6 +59,11 @@ QWidget* FormaMaschera::farePulsanti(const std::function<void(std::size_t)>& pre
 void FormaMaschera::disponi(QSize comoda) {
     prendiMisura(*this, comoda);
     if (!isMaximized()) move(screen()->availableGeometry().center() - rect().center());
+}
+
+void FormaMaschera::disponiAccanto(QSize comoda) {
+    if (!prendiMisura(*this, comoda) && !collocaAccanto(*this))
+        move(screen()->availableGeometry().center() - rect().center());
 }
 
 bool FormaMaschera::apriGuida() {

@@ -39,6 +39,8 @@ class FormaMaschera : public QDialog {
     /// Gives the form its remembered size, or this one as far as the screen has room for it, and
     /// puts it into the middle of the screen.
     void disponi(QSize comoda);
+    /// The same for a form that keeps its place too; at first it goes beside the main form.
+    void disponiAccanto(QSize comoda);
 
     /// The help page of the form.
     bool apriGuida();

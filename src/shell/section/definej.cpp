@@ -22,6 +22,7 @@
 #include "shell/forms/history_keys.hpp"
 #include "shell/forms/scrolled_part.hpp"
 #include "shell/live/live_view.hpp"
+#include "shell/place_beside.hpp"
 #include "shell/qt_text.hpp"
 #include "shell/section/definej_fields.hpp"
 #include "shell/section/section_sketch_view.hpp"
@@ -93,7 +94,7 @@ DefinEJ::DefinEJ(project::Sezione& sezione, bool& modificato, QWidget* padre)
     new TastiStoria(
         *this, [this] { mostraTornato(modello_.annulla()); },
         [this] { mostraTornato(modello_.ripeti()); });
-    prendiMisura(*this, colonna->sizeHint());
+    if (!prendiMisura(*this, colonna->sizeHint())) collocaAccanto(*this);
     connect(this, &QDialog::finished, this, [this] { ricordaMisure(*this); });
     mostraTipo();
     opzioni_[indice(modello_.tipo())]->setFocus();
@@ -107,7 +108,7 @@ void DefinEJ::affianca(QWidget* pannello) {
     const int resta = misuraMassima(*this).width() - bordi.left() - bordi.right() -
                       fila_->spacing() - pannello->minimumSizeHint().width();
     area_->setMinimumWidth(std::min(area_->minimumSizeHint().width(), resta));
-    prendiMisura(*this, layout()->sizeHint());
+    if (!prendiMisura(*this, layout()->sizeHint())) collocaAccanto(*this);
 }
 
 void DefinEJ::prendi(const std::string& nome, const masks::SezioneEditata::Testi& testi) {
