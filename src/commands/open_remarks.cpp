@@ -5,6 +5,7 @@
 
 #include "base/file_error.hpp"
 #include "base/files.hpp"
+#include "base/translated_texts.hpp"
 #include "project/field_table.hpp"
 #include "project/output_guard.hpp"
 #include "review/project_review.hpp"
@@ -45,6 +46,14 @@ Osservazioni righeDelFile(const std::string& file) {
     return {};
 }
 
+// As a new project begins, whatever its headings say.
+bool nienteScritto(const DatiProgetto& dati) {
+    DatiProgetto nuovo;
+    project::azzera(nuovo);
+    nuovo.titoli = dati.titoli;
+    return dati == nuovo;
+}
+
 }  // namespace
 
 void OsservazioniAperte::guardaFile() {
@@ -55,8 +64,9 @@ void OsservazioniAperte::guardaFile() {
 
 void OsservazioniAperte::guarda(const DatiProgetto& dati) {
     aperto_ = true;
+    vuoto_ = nienteScritto(dati);
     dati_ = dati;
-    deiDati_ = review::esaminaProgetto(dati);
+    deiDati_ = vuoto_ ? Osservazioni() : review::esaminaProgetto(dati);
     raccogli();
 }
 
@@ -68,6 +78,7 @@ void OsservazioniAperte::risultati(const Osservazioni* trovate) {
 
 void OsservazioniAperte::raccogli() {
     tutte_ = deiDati_;
+    if (vuoto_) return;
     std::copy_if(delFile_.begin(), delFile_.end(), std::back_inserter(tutte_),
                  [this](const auto& o) { return ancoraCosi(o, letti_, dati_); });
     tutte_.insert(tutte_.end(), deiRisultati_.begin(), deiRisultati_.end());
@@ -76,6 +87,7 @@ void OsservazioniAperte::raccogli() {
 
 std::string OsservazioniAperte::conteggio() const {
     if (!aperto_) return {};
+    if (vuoto_) return base::traduttore("Ancora nessun dato");
     constexpr const char* altre = "…";
     if (!attende_) return review::conteggio(tutte_);
     return tutte_.empty() ? altre : review::conteggio(tutte_) + ' ' + altre;

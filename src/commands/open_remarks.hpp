@@ -23,17 +23,19 @@ class OsservazioniAperte {
     /// Takes the remarks on the results of these data; nullptr while they are computed.
     void risultati(const review::Osservazioni* trovate);
 
-    /// All that are known, by weight.
+    /// All that are known, by weight; none while nothing has been typed into a new project, whose
+    /// missing data are no dangers yet.
     [[nodiscard]] const review::Osservazioni& tutte() const { return tutte_; }
 
-    /// How many there are: "1 pericolo, 2 da vedere", with "…" while more may come; empty without a
-    /// project.
+    /// How many there are: "1 pericolo, 2 da vedere", with "…" while more may come, and that
+    /// nothing is typed yet; empty without a project.
     [[nodiscard]] std::string conteggio() const;
 
  private:
     void raccogli();
 
     bool aperto_ = false;
+    bool vuoto_ = false;                  // nothing has been typed into it yet
     bool attende_ = false;                // remarks on results may come
     project::DatiProgetto letti_, dati_;  // as the file has them, and as they are shown
     review::Osservazioni delFile_, deiDati_, deiRisultati_, tutte_;

@@ -58,6 +58,16 @@ class OsservazioniAperteTest : public ::testing::Test {
     OsservazioniAperte aperte;
 };
 
+TEST_F(OsservazioniAperteTest, SayOfANewProjectThatNothingIsTypedYet) {
+    project::azzeraProgetto();
+    Progetto.titoli[1] = "Banchina";
+    guarda();
+    EXPECT_TRUE(aperte.tutte().empty());
+    EXPECT_EQ(aperte.conteggio(), "Ancora nessun dato");
+    modifica(&project::DatiProgetto::lunghezzaParatia, 9);
+    EXPECT_TRUE(dice("dati-mancanti"));
+}
+
 TEST_F(OsservazioniAperteTest, AreNoneAndNotCountedWithoutAProject) {
     EXPECT_TRUE(aperte.tutte().empty());
     EXPECT_EQ(aperte.conteggio(), "");
