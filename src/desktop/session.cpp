@@ -30,7 +30,7 @@ commands::FormeProgramma Sessione::forme(const PorteSessione& porte) {
     };
     shell::collegaSezione(tutte, &finestra_, &vita_, shell::pannelloSezione(vita_, dialogo));
     shell::collegaMaschere(tutte, dialogo, &finestra_, &vita_,
-                           shell::pannelliTabelle(dialogo, vita_));
+                           shell::pannelliForme(dialogo, vita_));
     shell::collegaFigura(finestra_, vita_, dialogo, porte.stampante);
     shell::collegaDisegni(tutte, finestra_, dialogo, porte.stampante,
                           [this](const std::string& percorso) {

@@ -68,21 +68,22 @@ class ProgrammaConsegnato {
         maschere_.rilasciaForm();
     }
 
-    /// The forms of anchors and stages with the panels beside them, on the small wall.
+    /// The forms of anchors, stages and wall with the panels beside them, on the small wall.
     void conPannelliVivi(base::Dialogo& dialogo, const Vista& guarda) {
         shell::VitaProgetto vita;
         project::Progetto = progettoSemplice();
         project::fileCorrente = "muro.kvd";
         vita.guarda();
-        const auto pannelli = shell::pannelliTabelle(dialogo, vita);
+        const auto pannelli = shell::pannelliForme(dialogo, vita);
         for (const auto numero : {masks::NumeroMaschera::tiranti, masks::NumeroMaschera::fasi}) {
             masks::preparaMaschera(maschere_, numero, project::Progetto, 0);
             shell::Base2_32 forma(maschere_.corrente(), maschere_.valoriTesto(), dialogo, {},
                                   nullptr);
-            forma.affianca(pannelli(forma, numero));
+            forma.affianca(pannelli.tabella(forma, numero));
             guarda(forma);
             maschere_.rilasciaForm();
         }
+        conPannelloParatia(dialogo, pannelli, guarda);
         project::azzeraProgetto();
         project::fileCorrente.clear();
     }
@@ -140,6 +141,17 @@ class ProgrammaConsegnato {
     }
 
  private:
+    void conPannelloParatia(base::Dialogo& dialogo, const shell::PannelliForme& pannelli,
+                            const Vista& guarda) {
+        constexpr auto numero = masks::NumeroMaschera::paratia;
+        masks::preparaMaschera(maschere_, numero, project::Progetto, 0);
+        shell::Base1 forma(maschere_.corrente(), maschere_.valoriCombo(), maschere_.valoriTesto(),
+                           dialogo, {}, nullptr);
+        forma.affianca(pannelli.campi(forma, numero));
+        guarda(forma);
+        maschere_.rilasciaForm();
+    }
+
     const TestiConsegnati testi_;
     masks::Maschere maschere_;
 };

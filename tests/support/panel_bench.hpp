@@ -74,7 +74,7 @@ class BancoPannelli : public ::testing::Test {
     DialogoFinto dialogo;
     masks::Maschere maschere;
     shell::VitaProgetto vita;
-    shell::PannelloTabella pannelli = shell::pannelliTabelle(dialogo, vita);
+    shell::PannelliForme pannelli = shell::pannelliForme(dialogo, vita);
     shell::Base2_32* forma = nullptr;
 
  private:

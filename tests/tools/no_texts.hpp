@@ -296,6 +296,7 @@ inline const std::map<std::string, Texts> noTexts = {
      {"pannelloTiranti", "tiriTitolo", "tiriPerche", "calcoloSignificato"}},
     {"shell/panels/force_table.cpp", {"tiriFasi", "–"}},
     {"shell/panels/stage_panel.cpp", {"schizzoFase", "paroleFase", "pannelloFasi"}},
+    {"shell/panels/wall_panel.cpp", {"paroleParatia", "pannelloParatia"}},
     {"shell/panels/side_panel.cpp", {"_chiuso", "_mostra"}},
     {"shell/dialogo_qt.cpp", {"messaggio", "annulla"}},
     {"shell/file_dialogs_qt.cpp",

@@ -1,7 +1,9 @@
 #include "shell/masks/base1.hpp"
 
+#include <QAbstractButton>
 #include <QComboBox>
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QScopedValueRollback>
@@ -49,7 +51,9 @@ Base1::Base1(const masks::Maschera& maschera, std::vector<double> combo,
         aiuti, [this] { modello_.mostraAiuto(this->dialogo()); }, this);
     aiuto_->setObjectName(QStringLiteral("Labelhelp"));
     auto* colonna = new QVBoxLayout(this);
-    colonna->addWidget(fareCampi(), 1);
+    fila_ = new QHBoxLayout;
+    fila_->addWidget(fareCampi(), 1);
+    colonna->addLayout(fila_, 1);
     colonna->addWidget(aiuto_);
     colonna->addWidget(farePulsanti([this](std::size_t pulsante) { azione(pulsante); }));
     aiuto_->installEventFilter(this);
@@ -59,6 +63,14 @@ Base1::Base1(const masks::Maschera& maschera, std::vector<double> combo,
         [this] { mostraTornato(modello_.ripeti()); });
     disponi(misuraComoda());
     mostraAttivo();
+}
+
+void Base1::affianca(QWidget* pannello) {
+    const QSize campi = misuraComoda();
+    fila_->addWidget(pannello);
+    for (auto* pulsante : pannello->findChildren<QAbstractButton*>())
+        pulsante->installEventFilter(this);  // Enter presses them as it does those of the form
+    disponi({campi.width() + fila_->spacing() + pannello->sizeHint().width(), campi.height()});
 }
 
 QWidget* Base1::fareCampi() {

@@ -8,6 +8,7 @@
 #include "shell/masks/form_frame.hpp"
 
 class QComboBox;
+class QHBoxLayout;
 class QKeyEvent;
 class QLineEdit;
 class QScrollArea;
@@ -35,6 +36,8 @@ class Base1 : public FormaMaschera {
         modello_.comincia(campo);
         mostraAttivo();
     }
+    /// Puts a panel at the right of the fields, which becomes its owner.
+    void affianca(QWidget* pannello);
     /// The strip shows the notes on texts too.
     void annota(masks::ModelloCampi::Nota nota) {
         modello_.annota(std::move(nota));
@@ -61,6 +64,7 @@ class Base1 : public FormaMaschera {
     masks::ModelloCampi modello_;
     std::vector<QWidget*> controlli_;  // the field's combo or text box
     QScrollArea* area_ = nullptr;
+    QHBoxLayout* fila_ = nullptr;  // fields and panel
     StrisciaAiuto* aiuto_ = nullptr;
     bool controllando_ = false;  // a box tells of a fault: the focus that moves is not the user's
 };

@@ -23,7 +23,7 @@ void segui(const FormaMaschera& forma, const masks::Maschera& maschera,
 }  // namespace
 
 void mostraForm(masks::Maschere& maschere, base::Dialogo& dialogo, const GuidaForme& guida,
-                QWidget* padre, VitaProgetto* vita, const PannelloTabella& pannello) {
+                QWidget* padre, VitaProgetto* vita, const PannelliForme& pannelli) {
     const masks::Maschera& maschera = maschere.corrente();
     const auto numero = static_cast<masks::NumeroMaschera>(maschere.numero());
     if (maschera.genere == masks::GenereMaschera::campi) {
@@ -33,6 +33,8 @@ void mostraForm(masks::Maschere& maschere, base::Dialogo& dialogo, const GuidaFo
             forma.comincia(static_cast<std::size_t>(inizio->campo - 1));
         if (numero == masks::NumeroMaschera::titoli) forma.annota(review::notaTitolo);
         segui(forma, maschera, numero, vita);
+        if (QWidget* accanto = pannelli.campi ? pannelli.campi(forma, numero) : nullptr)
+            forma.affianca(accanto);
         if (forma.exec() == QDialog::Accepted)
             maschere.conferma(forma.modello().valoriCombo(), forma.modello().valoriTesto());
         return;
@@ -41,20 +43,21 @@ void mostraForm(masks::Maschere& maschere, base::Dialogo& dialogo, const GuidaFo
     Base2_32 forma(maschera, maschere.valoriTesto(), dialogo, guida, padre, capienza);
     if (const auto inizio = maschere.inizio()) forma.comincia({inizio->riga, inizio->campo});
     segui(forma, maschera, numero, vita);  // first: a panel shows what `vita` makes of the rows
-    if (QWidget* accanto = pannello ? pannello(forma, numero) : nullptr) forma.affianca(accanto);
+    if (QWidget* accanto = pannelli.tabella ? pannelli.tabella(forma, numero) : nullptr)
+        forma.affianca(accanto);
     if (forma.exec() == QDialog::Accepted) maschere.conferma({}, forma.modello().valoriTesto());
 }
 
 void collegaMaschere(commands::FormeProgramma& forme, base::Dialogo& dialogo, QWidget* padre,
-                     VitaProgetto* vita, const PannelloTabella& pannello) {
+                     VitaProgetto* vita, const PannelliForme& pannelli) {
     GuidaForme guida;
     if (forme.guida)
         guida = [apri = forme.guida](int contesto) {
             apri(contesto);
             return true;
         };
-    forme.maschera = [&dialogo, guida, padre, vita, pannello](masks::Maschere& maschere) {
-        mostraForm(maschere, dialogo, guida, padre, vita, pannello);
+    forme.maschera = [&dialogo, guida, padre, vita, pannelli](masks::Maschere& maschere) {
+        mostraForm(maschere, dialogo, guida, padre, vita, pannelli);
     };
 }
 

@@ -44,7 +44,7 @@ void PannelloLaterale::apri(bool aperto) {
     parte_->setVisible(aperto);
     mostra_->setArrowType(aperto ? Qt::DownArrow : Qt::LeftArrow);
     mostra_->setToolButtonStyle(aperto ? Qt::ToolButtonTextBesideIcon : Qt::ToolButtonIconOnly);
-    mostra_->setText(titolo_);
+    mostra_->setText(aperto ? titolo_ : QString());
     const QString cosa = tradotto(aperto ? "Nascondi il pannello" : "Mostra il pannello");
     mostra_->setToolTip(cosa);
     mostra_->setAccessibleName(cosa + QStringLiteral(": ") + titolo_);

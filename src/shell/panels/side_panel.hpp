@@ -22,6 +22,8 @@ class PannelloLaterale : public QWidget {
     /// Fills the panel, which becomes the owner of both.
     /// @param scorre  may be nullptr
     void riempi(QWidget* scorre, QWidget* fisso);
+    /// Folds the panel away for this time: its form has no room for it.
+    void piega() { apri(false); }
 
  private:
     void apri(bool aperto);

@@ -6,9 +6,10 @@
 
 namespace korven::shell {
 
-/// The panels beside the tables of the program. What the calculator of anchors was asked stands in
-/// it again when its form opens the next time, as long as the program runs.
+/// The panels beside the forms of the program: tables, and the fields of the wall. What the
+/// calculator of anchors was asked stands in it again when its form opens the next time, as long as
+/// the program runs.
 /// @param dialogo, vita  must outlive them; `vita` follows each form before its panel comes
-[[nodiscard]] PannelloTabella pannelliTabelle(base::Dialogo& dialogo, VitaProgetto& vita);
+[[nodiscard]] PannelliForme pannelliForme(base::Dialogo& dialogo, VitaProgetto& vita);
 
 }  // namespace korven::shell

@@ -1,0 +1,74 @@
+// The panel beside the fields of the wall, in the form as the program opens it.
+
+#include "shell/panels/wall_panel.hpp"
+
+#include <gtest/gtest.h>
+
+#include <QLabel>
+#include <QLineEdit>
+
+#include "scene/scene.hpp"
+#include "shell/masks/base1.hpp"
+#include "shell/panels/stage_panel.hpp"
+#include "support/panel_bench.hpp"
+#include "support/wall_builder.hpp"
+
+namespace korven::shell {
+namespace {
+
+class PannelloDellaParatia : public test::BancoPannelli {
+ protected:
+    static project::DatiProgetto muro(double lungo) {
+        return test::muro().lungo(lungo).fase({.scavo = 1}).fase({.scavo = 3}).dati();
+    }
+    void apri(const std::function<void(FormaMaschera&)>& azione) {
+        masks::preparaMaschera(maschere, masks::NumeroMaschera::paratia, project::Progetto, 0);
+        const test::AllaProssimaFinestra<FormaMaschera> finestra([&](FormaMaschera& scheda) {
+            EXPECT_TRUE(QTest::qWaitForWindowActive(&scheda));
+            azione(scheda);
+            scheda.reject();
+        });
+        mostraForm(maschere, dialogo, {}, nullptr, &vita, pannelli);
+        EXPECT_TRUE(finestra.fatto);
+        maschere.rilasciaForm();
+    }
+    static std::string parole(FormaMaschera& scheda) {
+        return test::controllo<QLabel>(scheda, "paroleParatia").text().toStdString();
+    }
+};
+
+TEST_F(PannelloDellaParatia, FollowsEachKeyInTheStageOfTheMainForm) {
+    progetto(muro(10));
+    vita.mostra({.fase = 2});
+    apri([&](FormaMaschera& scheda) {
+        auto& schizzo = test::controllo<SchizzoFase>(scheda, "schizzoFase");
+        EXPECT_EQ(schizzo.fase(), 2);
+        EXPECT_EQ(parole(scheda), scene::descrizione(live::calcola(muro(10)), {.fase = 2}));
+        const QImage prima = schizzo.grab().toImage();
+        auto& lunghezza = test::controllo<QLineEdit>(scheda, "Text1_0");
+        ASSERT_EQ(lunghezza.text(), "10");
+        lunghezza.setText("12");
+        EXPECT_EQ(parole(scheda), scene::descrizione(live::calcola(muro(12)), {.fase = 2}));
+        EXPECT_EQ(schizzo.accessibleDescription().toStdString(), parole(scheda));
+        EXPECT_NE(schizzo.grab().toImage(), prima);
+        vita.mostra({.fase = 1});
+        EXPECT_EQ(schizzo.fase(), 1);
+        lunghezza.setText("doz");
+        EXPECT_TRUE(parole(scheda).starts_with("Com'era prima delle modifiche in corso"))
+            << parole(scheda);
+    });
+}
+
+TEST_F(PannelloDellaParatia, LeavesTheFieldsTheirWidth) {
+    progetto(muro(10));
+    int senza = 0;
+    apri([&](FormaMaschera& scheda) {
+        senza = test::controllo(scheda, "Text1_0").mapTo(&scheda, QPoint(0, 0)).x();
+        EXPECT_LE(senza, test::controllo(scheda, "schizzoFase").mapTo(&scheda, QPoint(0, 0)).x());
+        EXPECT_TRUE(scheda.screen()->availableGeometry().contains(scheda.geometry()));
+    });
+    EXPECT_GT(senza, 0);
+}
+
+}  // namespace
+}  // namespace korven::shell
