@@ -329,7 +329,7 @@ inline const std::map<std::string, Texts> noTexts = {
      {"yyyy-MM-dd HH:mm", "–", "recupero", "paginaGuida", "spiegazione", "statoFile",
       "statoRecuperato", "differenze", "quante", "prendi", "tieni", "dopo"}},
     {"shell/rescue/rescue_state.cpp", {"quando", "file"}},
-    {"shell/rescue/state_picture.cpp", {"quadro"}},
+    {"shell/picture/state_picture.cpp", {"quadro"}},
     {"commands/open_remarks.cpp", {"…"}},
     {"shell/main/informazioni.cpp",
      {"INFORMAZIONI", "KORVEN 32", "nome", "sottotitolo", "versione", "descrizione", "autori",

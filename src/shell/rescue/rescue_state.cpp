@@ -4,7 +4,7 @@
 #include <QVBoxLayout>
 
 #include "shell/forms/elided_label.hpp"
-#include "shell/rescue/state_picture.hpp"
+#include "shell/picture/state_picture.hpp"
 
 namespace korven::shell {
 

@@ -1,4 +1,4 @@
-#include "shell/rescue/state_picture.hpp"
+#include "shell/picture/state_picture.hpp"
 
 #include <QPainter>
 
