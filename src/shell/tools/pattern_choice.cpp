@@ -1,12 +1,16 @@
 #include "shell/tools/pattern_choice.hpp"
 
+#include <QHBoxLayout>
 #include <QListWidget>
 #include <QVBoxLayout>
 #include <utility>
 
+#include "base/file_error.hpp"
+#include "project/project_data.hpp"
 #include "shell/form_sizes.hpp"
 #include "shell/forms/confirm_buttons.hpp"
 #include "shell/forms/headed_item.hpp"
+#include "shell/picture/state_picture.hpp"
 #include "shell/qt_text.hpp"
 
 namespace korven::shell {
@@ -14,7 +18,8 @@ namespace korven::shell {
 namespace {
 
 constexpr int datoDescrizione = Qt::UserRole + 1;
-constexpr QSize misuraComoda(520, 440);
+constexpr QSize misuraComoda(940, 540);
+constexpr int larghezzaLista = 400;  // at least, so that headings take two lines
 
 }  // namespace
 
@@ -33,8 +38,15 @@ SceltaModello::SceltaModello(std::vector<commands::Modello> modelli, QWidget* ge
     for (const auto& modello : modelli_) aggiungi(qt(modello.nome), qt(modello.descrizione));
     lista_->setCurrentRow(0);
     connect(lista_, &QListWidget::itemActivated, this, &QDialog::accept);
+    lista_->setMinimumWidth(larghezzaLista);
+    auto* fila = new QHBoxLayout;
+    fila->addWidget(lista_, 1);
+    quadro_ = new QVBoxLayout;
+    fila->addLayout(quadro_, 1);
+    connect(lista_, &QListWidget::currentRowChanged, this, &SceltaModello::mostraFigura);
+    mostraFigura();
     auto* colonna = new QVBoxLayout(this);
-    colonna->addWidget(lista_, 1);
+    colonna->addLayout(fila, 1);
     colonna->addWidget(pulsantiConferma(*this, [this] { accept(); }));
     prendiMisura(*this, misuraComoda);
     connect(this, &QDialog::finished, this, [this] { ricordaMisure(*this); });
@@ -45,6 +57,23 @@ void SceltaModello::aggiungi(const QString& nome, const QString& descrizione) {
     auto* voce = new QListWidgetItem(nome, lista_);
     voce->setData(datoDescrizione, descrizione);
     voce->setData(Qt::AccessibleTextRole, nome + QStringLiteral(": ") + descrizione);
+}
+
+// A pattern that can't be read any more is told when it is taken.
+void SceltaModello::mostraFigura() {
+    project::DatiProgetto dati;
+    project::azzera(dati);
+    try {
+        if (const std::string percorso = scelto(); !percorso.empty())
+            dati = commands::leggiModello(percorso);
+    } catch (const base::ErroreFile&) {
+        project::azzera(dati);
+    }
+    if (const auto* prima = quadro_->takeAt(0)) {
+        delete prima->widget();
+        delete prima;
+    }
+    quadro_->addWidget(new QuadroStato(dati, this));
 }
 
 std::string SceltaModello::scelto() const {

@@ -8,11 +8,12 @@
 #include "commands/project_patterns.hpp"
 
 class QListWidget;
+class QVBoxLayout;
 
 namespace korven::shell {
 
 /// The form that asks with what a new project begins: the defaults, or one of some projects, each
-/// with its name and its headings.
+/// with its name and its headings, and beside them the picture of the one that is current.
 class SceltaModello : public QDialog {
     Q_OBJECT
  public:
@@ -25,7 +26,10 @@ class SceltaModello : public QDialog {
     void aggiungi(const QString& nome, const QString& descrizione);
 
     const std::vector<commands::Modello> modelli_;
+    void mostraFigura();
+
     QListWidget* lista_;
+    QVBoxLayout* quadro_;  // the picture
 };
 
 /// Shows the form. @return nothing when it was left without a choice

@@ -5,8 +5,13 @@
 #include <QListWidget>
 #include <QPushButton>
 
+#include "base/code_page.hpp"
+#include "project/project_file.hpp"
+#include "scene/scene.hpp"
 #include "support/desktop_bench.hpp"
 #include "support/form_setup.hpp"
+#include "support/sample_projects.hpp"
+#include "support/temporary_folder.hpp"
 
 namespace korven::shell {
 namespace {
@@ -61,6 +66,22 @@ TEST_F(ScegliModello, TakesThePatternThatIsClickedTwice) {
                   QTest::mouseDClick(lista.viewport(), Qt::LeftButton, {}, dove);
               }),
               "/a/due.kvd");
+}
+
+TEST_F(ScegliModello, ShowsTheWallOfTheCurrentPattern) {
+    const test::CartellaProvvisoria cartella;
+    const std::string file = cartella / "muro.kvd";
+    test::metti(file, base::inCp1252(project::testoProgetto(test::progettoSemplice())));
+    SceltaModello forma({{file, "muro", ""}, {"/manca.kvd", "manca", ""}});
+    auto& lista = test::controllo<QListWidget>(forma, "lista");
+    const auto detto = [&] { return test::controllo(forma, "quadro").accessibleDescription(); };
+    const QString vuoto = detto();
+    lista.setCurrentRow(1);
+    EXPECT_EQ(detto().toStdString(),
+              scene::descrizione(live::calcola(commands::leggiModello(file)), {}));
+    EXPECT_NE(detto(), vuoto);
+    lista.setCurrentRow(2);
+    EXPECT_EQ(detto(), vuoto);
 }
 
 TEST_F(ScegliModello, TakesNothingOnEsc) {
