@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -17,7 +18,7 @@ struct Posto {
 };
 
 /// Which texts find a place first.
-enum class Grado { nota, asse, carico, estremo, acqua, tirante, quota, fase, strato };
+enum class Grado { nota, asse, carico, estremo, tirante, fase, acqua, quota, strato };
 
 /// A text to be placed.
 struct Scritta {
@@ -25,17 +26,19 @@ struct Scritta {
     Elemento elemento = Elemento::nota;
     int numero = 0;
     std::string testo;
-    std::string inBreve = {};  ///< taken where the whole text finds no place
+    std::vector<std::string> inBreve = {};  ///< taken in turn where the whole finds no place
     Tinta tinta;
     bool piastra = true;
     double corpo = 12;
     bool grassetto = false;
     bool verticale = false;
-    std::vector<Posto> posti;  ///< the first that is free is taken
+    std::vector<Posto> posti;            ///< the first that is free is taken
+    std::optional<Linea> richiamo = {};  ///< leads from the text to what it names
 };
 
 /// A picture in the making. Texts lie over all else and never over each other: one that finds no
-/// place is left out.
+/// place is left out. Nor do they lie over lines of another part of the project, as long as one of
+/// their places is clear of them.
 class Tela {
  public:
     Tela(double larghezza, double altezza, const MisuraTesti& misura)
@@ -58,13 +61,24 @@ class Tela {
 
  private:
     [[nodiscard]] bool libero(const Riquadro& posto) const;
-    [[nodiscard]] bool colloca(const Scritta& scritta, const std::string& parole);
+    [[nodiscard]] bool attraversato(const Riquadro& posto, const Scritta& scritta) const;
+    [[nodiscard]] bool colloca(const Scritta& scritta, const std::string& parole, bool sgombro);
+    void colloca(const Scritta& scritta);
+    void segnaTratti(Elemento elemento, int numero, const std::vector<Punto>& punti);
 
     Riquadro tutto_;
     const MisuraTesti& misura_;
     std::vector<Primitiva> figure_;
     std::vector<Scritta> scritte_;
     std::vector<Riquadro> occupati_;
+    std::vector<Primitiva> collocate_;
+
+    struct Tratto {
+        Punto da, a;
+        Elemento elemento;
+        int numero;
+    };
+    std::vector<Tratto> tratti_;  // that texts keep clear of
 };
 
 }  // namespace korven::scene

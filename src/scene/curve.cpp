@@ -130,7 +130,7 @@ class Pannello {
             const double v = i * passo, xv = x(v);
             linea({{xv, y1_}, {xv, y2_}}, Ruolo::griglia, 1);
             linea({{xv, y1_ - 0.35 * q_.em}, {xv, y1_}}, Ruolo::asse, 1);
-            numero(base::testoDecimali(v, decimali), {{xv, y1_ - 1.05 * q_.em}, Ancora::centro});
+            numero(base::testoDecimali(v, decimali), {{xv, y1_ - 1.12 * q_.em}, Ancora::centro});
         }
     }
 

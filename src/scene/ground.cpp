@@ -1,11 +1,9 @@
 #include <algorithm>
 #include <cmath>
-#include <numeric>
 #include <string>
 
 #include "drawings/log/label_spreading.hpp"
 #include "drawings/log/layer_description.hpp"
-#include "project/codes.hpp"
 #include "scene/parts.hpp"
 #include "scene/polygon.hpp"
 #include "scene/text_fitting.hpp"
@@ -72,17 +70,16 @@ class Terreno {
     }
 
     void nomi() {
-        const double riga = 1.36 * q_.em;
-        const double alto = std::max(q_.suolo(0), q_.yTesta), basso = q_.yFondo;
+        const double alto = std::max(q_.suolo(0), q_.yTesta);
         std::vector<const StratoMostrato*> nominati;
         for (const StratoMostrato& s : strati_)
             if (s.numero > 0 && !nomeCorto(s.descrizione).empty() && q_.y(s.letto) > alto)
                 nominati.push_back(&s);
-        diradaA(nominati, static_cast<std::size_t>(std::max(0.0, (basso - alto) / riga)));
-        std::vector<double> centri;
-        for (const auto* s : nominati) centri.push_back(-centro(*s, alto));
-        centri = drawings::separaEtichette(std::move(centri), riga, -alto, -basso);
-        for (std::size_t i = 0; i < nominati.size(); ++i) nome(*nominati[i], -centri[i], alto);
+        constexpr double lontano = 2.5, vicino = 0.6;  // of a name from its layer [rows]
+        if (spostamento(nominati, alto) > lontano * riga())
+            nominati = diradati(nominati, alto, vicino * riga());
+        const std::vector<double> y = righe(nominati, alto);
+        for (std::size_t i = 0; i < nominati.size(); ++i) nome(*nominati[i], y[i], alto);
     }
 
  private:
@@ -115,53 +112,87 @@ class Terreno {
         return (std::max(q_.y(s.tetto), alto) + q_.y(s.letto)) / 2;
     }
 
-    // Leaves the thickest, as many as have room.
-    static void diradaA(std::vector<const StratoMostrato*>& strati, std::size_t posti) {
-        while (strati.size() > posti)
-            strati.erase(std::min_element(strati.begin(), strati.end(), [](auto* a, auto* b) {
-                return a->letto - a->tetto < b->letto - b->tetto;
-            }));
+    [[nodiscard]] double riga() const { return 1.36 * q_.em; }
+
+    // Heights of the names of layers, a row apart.
+    [[nodiscard]] std::vector<double> righe(const std::vector<const StratoMostrato*>& strati,
+                                            double alto) const {
+        std::vector<double> y;
+        for (const auto* s : strati) y.push_back(-centro(*s, alto));
+        y = drawings::separaEtichette(std::move(y), riga(), -alto, -q_.yFondo);
+        for (double& una : y) una = -una;
+        return y;
     }
 
-    // Whether an anchor runs through the row of a name.
-    [[nodiscard]] bool tirantiVicini(double y) const {
-        for (int j = 1; j <= m_.nTiranti(); ++j) {
-            const double testa = q_.y(m_.dati().profTirante[j]);
-            if (m_.dati().tipoTirante[j] != project::TipoTirante::trazioneCompressione &&
-                y > testa - q_.em && y < testa + caduta * q_.xMonte + q_.em)
-                return true;
+    // The largest distance of a name from the middle of its layer; of names that have no room at
+    // all the height of the picture.
+    [[nodiscard]] double spostamento(const std::vector<const StratoMostrato*>& strati,
+                                     double alto) const {
+        if (static_cast<double>(strati.size()) * riga() > q_.yFondo - alto) return q_.altezza;
+        const std::vector<double> y = righe(strati, alto);
+        double massimo = 0;
+        for (std::size_t i = 0; i < y.size(); ++i)
+            massimo = std::max(massimo, std::fabs(y[i] - centro(*strati[i], alto)));
+        return massimo;
+    }
+
+    // The thickest first, each that leaves all names near their layers; from the top down again.
+    [[nodiscard]] std::vector<const StratoMostrato*> diradati(
+        std::vector<const StratoMostrato*> strati, double alto, double vicino) const {
+        std::stable_sort(strati.begin(), strati.end(), [](const auto* a, const auto* b) {
+            return a->letto - a->tetto > b->letto - b->tetto;
+        });
+        std::vector<const StratoMostrato*> tenuti;
+        for (const auto* s : strati) {
+            auto prova = tenuti;
+            prova.insert(std::find_if(prova.begin(), prova.end(),
+                                      [&](const auto* altro) { return altro->tetto > s->tetto; }),
+                         s);
+            if (spostamento(prova, alto) <= vicino) tenuti = std::move(prova);
         }
-        return false;
+        return tenuti;
     }
 
     void nome(const StratoMostrato& s, double y, double alto) {
         const double x = 0.6 * q_.em, corpo = 0.92 * q_.em;
-        const bool fuori = y < q_.y(s.tetto) || y > q_.y(s.letto);
-        const auto nome = [&](double larga) {
-            return accorciato(nomeCorto(s.descrizione), larga - x, corpo, false, tela_.misura());
+        const double tetto = std::max(q_.y(s.tetto), alto);
+        const double letto = std::min(q_.y(s.letto), q_.yFondo);
+        const Tinta fondo{Ruolo::fondoStrato, s.descrizione.colore};
+        const auto nome = [&](double parte) {
+            return accorciato(nomeCorto(s.descrizione), parte * q_.xMonte - x, corpo, false,
+                              tela_.misura());
         };
-        const double stretta = larghezzaNomi * q_.xMonte;
-        const bool libera = !fuori && !tirantiVicini(y);
-        const std::string breve = nome(stretta);
-        const double fine = x + tela_.larghezza(breve, corpo) + 0.3 * q_.em;
-        if (fuori && !breve.empty())
-            tela_.disegna(Elemento::strato, s.numero,
-                          Linea{{{fine, y}, {stretta + 0.6 * q_.em, centro(s, alto)}},
-                                {Ruolo::testoTenue},
-                                0.8});
-        tela_.scrivi(
-            {.grado = Grado::strato,
-             .elemento = Elemento::strato,
-             .numero = s.numero,
-             .testo = libera ? nome(larghezzaLibera * q_.xMonte) : breve,
-             .inBreve = breve,
-             .tinta = {Ruolo::testo},
-             .corpo = corpo,
-             .posti = {{{x, y}, Ancora::sinistra, {Ruolo::fondoStrato, s.descrizione.colore}}}});
+        Scritta scritta{.grado = Grado::strato,
+                        .elemento = Elemento::strato,
+                        .numero = s.numero,
+                        .testo = {},
+                        .tinta = {Ruolo::testo},
+                        .corpo = corpo,
+                        .posti = {{{x, y}, Ancora::sinistra, fondo}}};
+        if (y < tetto || y > letto) {
+            scritta.testo = nome(larghezzaNomi);
+            const double fine = x + tela_.larghezza(scritta.testo, corpo) + 0.3 * q_.em;
+            scritta.richiamo =
+                Linea{{{fine, y}, {larghezzaNomi * q_.xMonte + 0.6 * q_.em, centro(s, alto)}},
+                      {Ruolo::testoTenue},
+                      0.8};
+        } else {
+            scritta.testo = nome(larghezzaLibera);
+            for (const double parte : {larghezzaMedia, larghezzaNomi})
+                if (std::string breve = nome(parte); breve != scritta.testo)
+                    scritta.inBreve.push_back(std::move(breve));
+            // Elsewhere in the layer.
+            for (double d = 0.7 * q_.em; d < letto - tetto; d += 0.7 * q_.em)
+                for (const double dove : {y - d, y + d})
+                    if (dove > tetto + 0.6 * q_.em && dove < letto - 0.6 * q_.em)
+                        scritta.posti.push_back({{x, dove}, Ancora::sinistra, fondo});
+            scritta.posti.push_back({{q_.xMonte - q_.em, y}, Ancora::destra, fondo});
+        }
+        tela_.scrivi(std::move(scritta));
     }
 
-    static constexpr double larghezzaNomi = 0.34, larghezzaLibera = 0.7;  // of the uphill side
-    static constexpr double caduta = 0.11;  // of an anchor from its head to its end, of the same
+    // Of the uphill side.
+    static constexpr double larghezzaNomi = 0.34, larghezzaMedia = 0.6, larghezzaLibera = 0.95;
     const Mostrata& m_;
     const Inquadratura& q_;
     Tela& tela_;

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cmath>
 #include <string>
 
@@ -59,12 +60,69 @@ std::vector<Verdetto> verdetti(const Mostrata& m, const std::string& impedimento
     return tutti;
 }
 
+std::string conclusione(const Mostrata& m) {
+    if (!m.parete.sta()) return {};
+    const auto& e = m.parete.estremi;
+    return traduttore("la paratia è in equilibrio in tutte le fasi") + ": " +
+           traduttore("spostamento") + " " +
+           conUnita(e.spostamento.valore, project::unita::spostamentoFine) + ", " +
+           traduttore("momento") + " " +
+           conUnita(e.momento().valore, project::unita::momentoAlMetro) + ", " +
+           traduttore("taglio") + " " + conUnita(e.taglio.valore, project::unita::forzaAlMetro);
+}
+
+namespace {
+
+// Rows of text from a height down; each sentence has one at least while there are any.
+class Righe {
+ public:
+    Righe(const Misura& misura, double y, int righe, Tela& tela)
+        : em_(corpo(misura)),
+          larghezza_(misura.larghezza - 2 * rientro * em_),
+          y_(y),
+          libere_(righe),
+          tela_(tela) {}
+
+    // @param poi  sentences that come after it
+    void scrivi(const Verdetto& v, int poi) {
+        if (libere_ == 0) return;
+        for (std::string& testo : inRighe(base::unitaUnite(v.testo), larghezza_, em_,
+                                          std::max(1, libere_ - poi), tela_.misura())) {
+            tela_.scrivi({.testo = std::move(testo),
+                          .tinta = {v.ruolo},
+                          .corpo = em_,
+                          .posti = {{{rientro * em_, y_ + 0.6 * em_}, Ancora::sinistra}}});
+            y_ += riga * em_;
+            --libere_;
+        }
+    }
+
+    static constexpr double rientro = 0.8, riga = 1.45;  // [font sizes]
+
+ private:
+    double em_, larghezza_, y_;
+    int libere_;
+    Tela& tela_;
+};
+
+// Whatever is said, and while it changes with each key, the picture stays where it is.
+int righeDelVerdetto(const Misura& misura) {
+    const double em = corpo(misura);
+    if (misura.altezza < 24 * em) return 1;
+    return misura.larghezza < 60 * em ? 3 : 2;
+}
+
+}  // namespace
+
 double scriviNote(const Mostrata& m, const Misura& misura, const Opzioni& opzioni, Tela& tela) {
-    const double em = corpo(misura), x = 0.8 * em;
+    const double em = corpo(misura), x = Righe::rientro * em, riga = Righe::riga * em;
     double y = 0.3 * em;
-    if (!opzioni.parole) return y;
-    const double riga = 1.45 * em;
-    const int righe = misura.altezza > 40 * em ? 3 : 2;
+    if (!opzioni.parole) {
+        if (opzioni.didascalia.empty()) return y;
+        constexpr int righe = 3;
+        Righe(misura, y, righe, tela).scrivi({opzioni.didascalia, Ruolo::testo}, 0);
+        return y + righe * riga;
+    }
     tela.scrivi(
         {.testo = accorciato(titolo(m), misura.larghezza - 2 * x, 1.08 * em, true, tela.misura()),
          .tinta = {Ruolo::testo},
@@ -72,16 +130,13 @@ double scriviNote(const Mostrata& m, const Misura& misura, const Opzioni& opzion
          .grassetto = true,
          .posti = {{{x, y + 0.9 * em}, Ancora::sinistra}}});
     y += 1.2 * riga;
-    for (const Verdetto& v : verdetti(m, opzioni.impedimento))
-        for (const std::string& testo : inRighe(base::unitaUnite(v.testo), misura.larghezza - 2 * x,
-                                                em, righe, tela.misura())) {
-            tela.scrivi({.testo = testo,
-                         .tinta = {v.ruolo},
-                         .corpo = em,
-                         .posti = {{{x, y + 0.6 * em}, Ancora::sinistra}}});
-            y += riga;
-        }
-    return y;
+    const int quante = righeDelVerdetto(misura);
+    Righe righe(misura, y, quante, tela);
+    auto tutti = verdetti(m, opzioni.impedimento);
+    if (tutti.empty()) tutti.push_back({conclusione(m), Ruolo::testoTenue});
+    for (std::size_t i = 0; i < tutti.size(); ++i)
+        righe.scrivi(tutti[i], static_cast<int>(tutti.size() - 1 - i));
+    return y + quante * riga;
 }
 
 void scriviPiede(const Mostrata& m, const Inquadratura& q, Tela& tela) {

@@ -30,7 +30,10 @@ std::vector<Punto> sotto(const std::vector<Punto>& poligono, Punto a, Punto b) {
         const Punto &p = poligono[i], &r = poligono[(i + 1) % poligono.size()];
         const double sp = lato(a, b, p), sr = lato(a, b, r);
         if (sp >= 0) resto.push_back(p);
-        if ((sp > 0 && sr < 0) || (sp < 0 && sr > 0)) resto.push_back(tra(p, r, sp / (sp - sr)));
+        if ((sp > 0 && sr < 0) || (sp < 0 && sr > 0)) {
+            resto.push_back(tra(p, r, sp / (sp - sr)));
+            if (a.y == b.y) resto.back().y = a.y;  // a level line cuts at its height, to the digit
+        }
     }
     return resto;
 }

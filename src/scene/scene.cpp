@@ -2,10 +2,8 @@
 
 #include <algorithm>
 
-#include "base/translated_texts.hpp"
 #include "scene/parts.hpp"
 #include "scene/polygon.hpp"
-#include "scene/shown_values.hpp"
 #include "scene/verdict.hpp"
 
 namespace korven::scene {
@@ -47,15 +45,8 @@ std::string descrizione(const live::PareteViva& parete, const live::Vista& vista
     std::string testo = titolo(m);
     const auto tutti = verdetti(m, {});
     for (const Verdetto& v : tutti) testo += ". " + v.testo;
-    if (!tutti.empty() || !parete.sta()) return testo;
-    const auto& e = parete.estremi;
-    return testo + ". " + base::traduttore("la paratia è in equilibrio in tutte le fasi") + ": " +
-           base::traduttore("spostamento") + " " +
-           conUnita(e.spostamento.valore, project::unita::spostamentoFine) + ", " +
-           base::traduttore("momento") + " " +
-           conUnita(e.momento().valore, project::unita::momentoAlMetro) + ", " +
-           base::traduttore("taglio") + " " +
-           conUnita(e.taglio.valore, project::unita::forzaAlMetro);
+    const std::string sta = tutti.empty() ? conclusione(m) : std::string();
+    return sta.empty() ? testo : testo + ". " + sta;
 }
 
 }  // namespace korven::scene

@@ -18,8 +18,9 @@ struct Misura {
 /// What of the picture is wanted.
 struct Opzioni {
     bool curva = true;   ///< the panel with the curve; without it the section takes all the width
-    bool parole = true;  ///< headline, verdict and what is in the way
+    bool parole = true;  ///< headline, verdict and what is in the way: of a fixed height
     std::string impedimento = {};  ///< why what is being typed is not shown, translated
+    std::string didascalia = {};   ///< stands above a picture without words, translated
 };
 
 /// The wall as a picture: the section to scale (one scale for depth and width) with ground, layers,

@@ -1,3 +1,5 @@
+#include <utility>
+
 #include "scene/parts.hpp"
 #include "scene/polygon.hpp"
 #include "scene/shown_values.hpp"
@@ -24,9 +26,11 @@ void livello(const Mostrata& m, const Inquadratura& q, double z, double da, doub
                             {xSegno + lato * (1 - giu), y + giu * q.em}},
                            tinta});
     std::vector<Posto> posti;
-    for (const double su : {-0.85, 0.85})
+    for (const auto& [via, su] :
+         {std::pair{0.0, -0.85}, {0.0, 0.85}, {3.0, -0.85}, {3.0, 0.85}, {6.0, -0.85}, {6.0, 0.85}})
         for (const bool destra : {true, false}) {
-            const Punto p{xSegno + (destra ? 1 : -1) * (1.2 * lato + 2), y + su * q.em};
+            const Punto p{xSegno + (destra ? 1 : -1) * (1.2 * lato + 2 + via * q.em),
+                          y + su * q.em};
             posti.push_back({p, destra ? Ancora::sinistra : Ancora::destra,
                              xSegno > q.xValle ? fondoValle(m, q, p.y) : fondoMonte(m, q, p)});
         }

@@ -82,6 +82,39 @@ TEST(AnyWall, OfTheExamplesHasNoTextOverAnotherAndReadsWell) {
     }
 }
 
+// Depths at the left of the curve: none gives way to a label.
+void verificaAsse(const Scena& s, const std::string& dove) {
+    std::size_t tacche = 0, numeri = 0;
+    for (const auto& linea : test::figure<Linea>(s, Elemento::asse))
+        tacche += linea.tinta.ruolo == Ruolo::griglia && linea.punti[0].y == linea.punti[1].y;
+    const double bordo = test::figure<Linea>(s, Elemento::asse).at(0).punti[0].x;
+    for (const auto& t : test::figure<Testo>(s, Elemento::asse))
+        numeri += t.ancora == Ancora::destra && t.punto.x < bordo;
+    EXPECT_EQ(numeri, tacche) << dove;
+}
+
+TEST(AnyWall, OfTheExamplesHasAllItsTexts) {
+    constexpr Misura finestre[] = {{600, 400}, {900, 580}, {1600, 1000}};
+    for (const auto& file : test::muriIn(KORVEN_EXAMPLES)) {
+        const auto dati = test::leggiMuro(file);
+        const auto parete = live::calcola(dati, 30);
+        for (int fase = 0; fase <= dati.nFasi; ++fase)
+            for (int curva = 0; curva < 4; ++curva)
+                for (const Misura& misura : finestre) {
+                    const std::string dove =
+                        file + " " + std::to_string(fase) + " " + std::to_string(misura.altezza);
+                    const Scena s = scena(parete, {fase, static_cast<live::Curva>(curva)}, misura,
+                                          MisuraStimata());
+                    verifica(s, dove);
+                    verificaAsse(s, dove);
+                    for (int j = 1; j <= dati.nTiranti; ++j)
+                        EXPECT_FALSE(test::testi(s, Elemento::tirante, j).empty()) << dove;
+                    for (int i = 1; i <= dati.nStrati && misura.altezza > 500; ++i)
+                        EXPECT_FALSE(test::testi(s, Elemento::strato, i).empty()) << dove << i;
+                }
+    }
+}
+
 project::DatiProgetto centoStrati() {
     auto muro = test::muro().lungo(20);
     for (int i = 1; i <= 100; ++i)
@@ -105,6 +138,14 @@ TEST(AnyWall, OfAHundredLayersNamesTheThickestThatHaveRoom) {
     EXPECT_GT(nominati.size(), 5U);
     EXPECT_LT(nominati.size(), 60U);
     EXPECT_TRUE(nominati.contains(50));  // the one of 1.25 m
+    // None far from its layer: a leader falls by less than a row.
+    for (const Primitiva& p : s.primitive)
+        if (const auto* linea = std::get_if<Linea>(&p.figura);
+            linea != nullptr && linea->tinta.ruolo == Ruolo::testoTenue && p.numero > 0 &&
+            p.elemento == Elemento::strato) {
+            EXPECT_LE(std::fabs(linea->punti[1].y - linea->punti[0].y), s.corpo);
+            EXPECT_TRUE(nominati.contains(p.numero));
+        }
     verificaContrasto(s);
 }
 

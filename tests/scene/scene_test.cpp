@@ -346,6 +346,44 @@ TEST(Scena, SaysWhatIsInTheWayOfWhatIsTyped) {
                      "riga 3: dati incompleti: la figura mostra i valori precedenti"));
 }
 
+TEST(Scena, StaysWhereItIsWhateverIsSaidAboveIt) {
+    auto dati = test::progettoSemplice();
+    const Scena sta = scenaDi(dati, {2});
+    EXPECT_NE(
+        testi(sta, Elemento::nota).at(1).find("la paratia è in equilibrio in tutte le fasi: "),
+        std::string::npos);
+    const auto parete = live::calcola(dati, 40);
+    const Scena impedita =
+        scena(parete, {2}, {900, 580}, MisuraStimata(), {.impedimento = "riga 3: dati incompleti"});
+    dati.rigidezzaEJ = 0;
+    const Scena rifiutata = scenaDi(dati, {2});
+    dati = test::progettoSemplice();
+    dati.profFase[2] = 9;
+    dati.tirantiFase[2] = 0;
+    for (const Scena& s : {impedita, rifiutata, scenaDi(dati, {2})}) {
+        EXPECT_EQ(s.yTesta, sta.yTesta);
+        EXPECT_EQ(s.scala, sta.scala);
+    }
+}
+
+TEST(Scena, KeepsTextsClearOfTheLinesOfOtherParts) {
+    auto dati = test::progettoSemplice();
+    dati.faldaMonte = 0;  // its depth would lie among the arrows of the surcharge
+    const Scena s = scenaDi(dati, {2});
+    for (const Testo& t : figure<Testo>(s, Elemento::acqua, 0))
+        if (t.testo == "0.00 m") {
+            EXPECT_GT(t.punto.y, s.y(0));
+        }
+    EXPECT_TRUE(dice(testi(s, Elemento::acqua), "0.00 m"));
+}
+
+TEST(Scena, WritesACaptionAboveAPictureWithoutWords) {
+    const auto parete = live::calcola(test::progettoSemplice(), 40);
+    const Scena s = scena(parete, {2}, {300, 300}, MisuraStimata(),
+                          {.curva = false, .parole = false, .didascalia = "con F = 1.50"});
+    EXPECT_TRUE(dice(testi(s, Elemento::nota), "con F = 1.50"));
+}
+
 TEST(Scena, NamesTheStiffnessAndWhereItComesFrom) {
     auto dati = test::progettoSemplice();
     EXPECT_TRUE(dice(testi(scenaDi(dati), Elemento::nota), "EJ 120000 kN m²"));
