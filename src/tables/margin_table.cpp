@@ -169,4 +169,12 @@ std::vector<std::string> frasi(const Margine& margine) {
     return tutte;
 }
 
+std::string didascaliaMeccanismo(const Margine& margine) {
+    const MargineFase* decisiva = margine.sta() ? margine.decisiva() : nullptr;
+    if (decisiva == nullptr) return {};
+    return base::riempito(traduttore("così cade, nella fase %1, con la resistenza del terreno "
+                                     "divisa per F = %2; com'è, è in equilibrio"),
+                          {std::to_string(decisiva->fase), testoRiduzione(decisiva->riduzione)});
+}
+
 }  // namespace korven::tables

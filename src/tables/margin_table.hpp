@@ -32,4 +32,8 @@ inline constexpr double fineBarraF = 3;
 /// numbers came.
 [[nodiscard]] std::vector<std::string> frasi(const safety::Margine& margine);
 
+/// What the picture of the mechanism shows of a wall that stands: under which strength it falls
+/// like that. Empty for a wall that does not stand, which falls as it is.
+[[nodiscard]] std::string didascaliaMeccanismo(const safety::Margine& margine);
+
 }  // namespace korven::tables

@@ -42,6 +42,14 @@ TEST(ProspettoMargine, HasAStageInEachRowWithTheWordsOfTheMargin) {
     }
 }
 
+TEST(DidascaliaMeccanismo, TellsUnderWhichStrengthAWallThatStandsFalls) {
+    EXPECT_EQ(
+        didascaliaMeccanismo(esempio("diaframma_due_ordini")),
+        "così cade, nella fase 4, con la resistenza del terreno divisa per F = 1.64; com'è, è "
+        "in equilibrio");
+    EXPECT_EQ(didascaliaMeccanismo(margine(std::string(KORVEN_WALLS) + "/meccanismo.kvd")), "");
+}
+
 TEST(ProspettoMargine, WeighsAFactorAsTheRemarksDo) {
     const Margine m = margine(std::string(KORVEN_WALLS) + "/quasi_meccanismo.kvd");
     const Prospetto p = prospettoMargine(m);

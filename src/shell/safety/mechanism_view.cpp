@@ -26,9 +26,11 @@ VistaMeccanismo::VistaMeccanismo(QWidget* padre) : QWidget(padre) {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
-void VistaMeccanismo::mostra(std::optional<live::PareteViva> parete, const QString& testo) {
+void VistaMeccanismo::mostra(std::optional<live::PareteViva> parete, const QString& testo,
+                             const std::string& titolo) {
     parete_ = std::move(parete);
     testo_ = testo;
+    titolo_ = titolo;
     setAccessibleDescription(testo);
     update();
 }
@@ -47,7 +49,8 @@ void VistaMeccanismo::paintEvent(QPaintEvent*) {
     const scene::Misura misura{static_cast<double>(width()), static_cast<double>(height())};
     const device::MisuraTestiQt testi(font());
     device::PittoreScena(font(), tavolozza)
-        .dipingi(p, scena(*parete_, vista, misura, testi, {.curva = false, .parole = false}));
+        .dipingi(p, scena(*parete_, vista, misura, testi,
+                          {.curva = false, .parole = false, .didascalia = titolo_}));
 }
 
 }  // namespace korven::shell

@@ -2,6 +2,7 @@
 
 #include <QWidget>
 #include <optional>
+#include <string>
 
 #include "live/wall.hpp"
 
@@ -14,7 +15,9 @@ class VistaMeccanismo : public QWidget {
 
     /// @param parete  nothing where no movement is known
     /// @param testo   what the picture says, for those who do not see it, and where it is empty
-    void mostra(std::optional<live::PareteViva> parete, const QString& testo);
+    /// @param titolo  stands above the picture
+    void mostra(std::optional<live::PareteViva> parete, const QString& testo,
+                const std::string& titolo = {});
 
     [[nodiscard]] QSize minimumSizeHint() const override { return {180, 160}; }
     [[nodiscard]] QSize sizeHint() const override { return {360, 340}; }
@@ -25,6 +28,7 @@ class VistaMeccanismo : public QWidget {
  private:
     std::optional<live::PareteViva> parete_;
     QString testo_;
+    std::string titolo_;
 };
 
 }  // namespace korven::shell

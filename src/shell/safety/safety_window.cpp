@@ -124,7 +124,7 @@ void FinestraSicurezza::mostra(const Riassunto& riassunto) {
     QStringList detto = {qt(riassunto.verdetto)};
     for (const std::string& nota : perFase.note) detto << qt(nota);
     meccanismo_->mostra(live::pareteAlLimite(vita_.vivo().parete(), margine),
-                        detto.join(QLatin1Char('\n')));
+                        detto.join(QLatin1Char('\n')), tables::didascaliaMeccanismo(margine));
 }
 
 void collegaSicurezza(commands::FormeProgramma& forme, QWidget& principale, VitaProgetto& vita) {
