@@ -38,7 +38,7 @@ constexpr std::array<Coppia, numeroRuoli> ruoli{{
     {0x5E666E, 0x99A3AD},  // asse
     {0xE1E5E9, 0x343B43},  // griglia
     {0x00695C, 0x5FD3C4},  // curva
-    {0xCDE8E4, 0x1E4A46},  // fondoCurva
+    {0xCDE8E4, 0x1B4440},  // fondoCurva
     {0x8F3F0B, 0xF2A873},  // curvaMonte
     {0xF6DFCF, 0x503626},  // fondoMonte
     {0x2C6B2F, 0x8FD694},  // curvaValle

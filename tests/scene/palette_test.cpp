@@ -44,6 +44,17 @@ TEST(Palette, KeepsTheValuesOfACurveReadableOnItsField) {
                 << static_cast<int>(linea);
 }
 
+// The curves of the results and the domain of a section write on the sheet and on their fields.
+TEST(Palette, KeepsTheTextsOfCurvesAndOfTheDomainReadable) {
+    for (const Tavolozza t : {Tavolozza::chiara, Tavolozza::scura})
+        for (const Ruolo testo :
+             {Ruolo::testo, Ruolo::testoTenue, Ruolo::meccanismo, Ruolo::evidenza, Ruolo::avviso})
+            for (const Ruolo fondo : {Ruolo::sfondo, Ruolo::fondoCurva})
+                EXPECT_GE(contrasto(colore({testo}, t), colore({fondo}, t)), 4.5)
+                    << static_cast<int>(testo) << " on " << static_cast<int>(fondo)
+                    << (t == Tavolozza::chiara ? " light" : " dark");
+}
+
 TEST(Palette, TellsTheCurvesFromTheirGround) {
     for (const Tavolozza t : {Tavolozza::chiara, Tavolozza::scura})
         for (const Ruolo r : {Ruolo::terreno, Ruolo::bordoMuro, Ruolo::acqua, Ruolo::carico,
