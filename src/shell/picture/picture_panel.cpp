@@ -4,6 +4,7 @@
 #include <QButtonGroup>
 #include <QContextMenuEvent>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QShortcut>
@@ -42,6 +43,7 @@ PannelloFigura::PannelloFigura(VitaProgetto& vita, std::function<void(const QFon
       vista_(new VistaFigura(vita.vivo(), this)),
       lettura_(new EtichettaAccorciata(this, false)) {
     setObjectName("pannelloFigura");
+    setProperty("paginaGuida", QStringLiteral("figura"));
     setFocusProxy(vista_);
     copia_ = new QAction(icona("copy"), tradotto("Copia figura"), this);
     copia_->setObjectName("copiaFigura");
@@ -149,6 +151,15 @@ void PannelloFigura::scegliCurva(live::Curva curva) {
     live::Vista vista = vita_.vivo().vista();
     vista.curva = curva;
     vita_.mostra(vista);
+}
+
+// Elsewhere in the main form F1 is the key of a menu item, which would take it first.
+bool PannelloFigura::event(QEvent* evento) {
+    if (evento->type() == QEvent::ShortcutOverride) {
+        const auto* tasto = static_cast<QKeyEvent*>(evento);
+        if (tasto->key() == Qt::Key_F1 && tasto->modifiers() == Qt::NoModifier) evento->accept();
+    }
+    return QWidget::event(evento);
 }
 
 void PannelloFigura::contextMenuEvent(QContextMenuEvent* evento) {

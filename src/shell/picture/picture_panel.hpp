@@ -20,6 +20,7 @@ class VistaFigura;
 /// which stage and curve are chosen. It follows the live project.
 ///
 /// Keys of the window it is in: PgUp and PgDown choose the stage, 1 to 4 the curve, Ctrl+C copies.
+/// On the picture F1 leads to its own page of the help.
 class PannelloFigura : public QWidget {
     Q_OBJECT
  public:
@@ -34,6 +35,7 @@ class PannelloFigura : public QWidget {
     static constexpr int larghezzaEmblema = 62, altezzaEmblema = 36;
 
  protected:
+    bool event(QEvent* evento) override;
     void contextMenuEvent(QContextMenuEvent* evento) override;
 
  private:

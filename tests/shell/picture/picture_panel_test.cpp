@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QAccessible>
+#include <QAction>
 #include <QApplication>
 #include <QClipboard>
 #include <QLabel>
@@ -52,6 +53,24 @@ class PannelloFiguraTest : public ::testing::Test {
     const bool insegnato = (insegnaAccessoFigura(), true);
     PannelloFigura pannello;
 };
+
+// The main form has the key for the contents of the help.
+TEST_F(PannelloFiguraTest, KeepsF1FromTheMenuForItsOwnPageOfTheHelp) {
+    int sommari = 0;
+    QAction sommario;
+    sommario.setShortcut(Qt::Key_F1);
+    QObject::connect(&sommario, &QAction::triggered, [&] { ++sommari; });
+    pannello.addAction(&sommario);
+    pannello.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&pannello));
+    QTest::keyClick(&vista(), Qt::Key_F1);
+    EXPECT_EQ(sommari, 0);
+    EXPECT_EQ(pannello.property("paginaGuida"), "figura");
+    QTest::keyClick(&vista(), Qt::Key_F1, Qt::ControlModifier);  // another key
+    sommario.setShortcut(Qt::Key_F2);
+    QTest::keyClick(&vista(), Qt::Key_F2);
+    EXPECT_EQ(sommari, 1);
+}
 
 TEST_F(PannelloFiguraTest, BeginsAnewWithAnotherProject) {
     QTest::keyClick(&vista(), Qt::Key_Down);
