@@ -4,8 +4,10 @@
 #include <QKeySequence>
 #include <QTreeWidget>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "commands/key_table.hpp"
+#include "shell/companions/button_row.hpp"
 #include "shell/qt_text.hpp"
 
 namespace korven::shell {
@@ -15,11 +17,17 @@ namespace {
 constexpr QSize misuraComoda(560, 520);
 constexpr const char* nome = "tasti";
 
-// As this desktop and this language write them.
+bool freccia(QChar c) { return c >= QChar(0x2190) && c <= QChar(0x21FF); }
+
+// As this desktop and this language write them, but by no arrow: Home would be taken for one of the
+// four keys that bear them.
 QString mostrati(const std::string& tasti) {
     QStringList scritti;
-    for (const QString& uno : qt(tasti).split(QStringLiteral(", ")))
-        scritti += QKeySequence(uno, QKeySequence::PortableText).toString(QKeySequence::NativeText);
+    for (const QString& uno : qt(tasti).split(QStringLiteral(", "))) {
+        const QString suo =
+            QKeySequence(uno, QKeySequence::PortableText).toString(QKeySequence::NativeText);
+        scritti += std::any_of(suo.begin(), suo.end(), freccia) ? uno : suo;
+    }
     return scritti.join(QStringLiteral(", "));
 }
 
@@ -49,6 +57,10 @@ FinestraTasti::FinestraTasti(QWidget& principale)
     elenco->setCurrentItem(elenco->topLevelItem(0));
     auto* colonna = new QVBoxLayout(this);
     colonna->addWidget(elenco);
+    auto* fila = new FilaPulsanti(*this);
+    fila->parti();
+    fila->aggiungi("chiudi", "&Chiudi", "close", [this] { close(); });
+    colonna->addWidget(fila);
     elenco->setFocus();
 }
 
