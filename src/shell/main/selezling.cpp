@@ -1,6 +1,7 @@
 #include "shell/main/selezling.hpp"
 
 #include <QHBoxLayout>
+#include <QPainter>
 #include <QToolButton>
 #include <algorithm>
 #include <iterator>
@@ -25,6 +26,22 @@ constexpr BottoneLingua bottoni[] = {
 
 constexpr QSize misuraBandiera{96, 64};
 
+// Some styles show the focus only once the tab key has been used: whoever meets the program here
+// sees at once which language the space bar takes.
+class BottoneConCornice : public QToolButton {
+ public:
+    using QToolButton::QToolButton;
+
+ protected:
+    void paintEvent(QPaintEvent* evento) override {
+        QToolButton::paintEvent(evento);
+        if (!hasFocus()) return;
+        QPainter pittore(this);
+        pittore.setPen(QPen(palette().color(QPalette::ButtonText), 2));
+        pittore.drawRect(rect().adjusted(1, 1, -1, -1));
+    }
+};
+
 }  // namespace
 
 Selezling::Selezling(const std::vector<int>& codici, int presente, QWidget* genitore)
@@ -40,7 +57,7 @@ Selezling::Selezling(const std::vector<int>& codici, int presente, QWidget* geni
         const auto* dati = std::find_if(std::begin(bottoni), std::end(bottoni),
                                         [codice](const auto& b) { return b.codice == codice; });
         if (dati == std::end(bottoni)) continue;
-        auto* bottone = new QToolButton(this);
+        auto* bottone = new BottoneConCornice(this);
         bottone->setObjectName(dati->nome);
         bottone->setText(QString::fromUtf8(dati->lingua));
         bottone->setAccessibleName(bottone->text());
