@@ -25,12 +25,15 @@ void livello(const Mostrata& m, const Inquadratura& q, double z, double da, doub
                      Linea{{{xSegno - lato * (1 - giu), y + giu * q.em},
                             {xSegno + lato * (1 - giu), y + giu * q.em}},
                            tinta});
+    const double corpo = 0.9 * q.em, largo = tela.larghezza(quota(z), corpo) + 0.5 * q.em;
     std::vector<Posto> posti;
     for (const auto& [via, su] :
          {std::pair{0.0, -0.85}, {0.0, 0.85}, {3.0, -0.85}, {3.0, 0.85}, {6.0, -0.85}, {6.0, 0.85}})
         for (const bool destra : {true, false}) {
             const Punto p{xSegno + (destra ? 1 : -1) * (1.2 * lato + 2 + via * q.em),
                           y + su * q.em};
+            // On the side of the wall whose level it is.
+            if (destra ? p.x + largo > a : p.x - largo < da) continue;
             posti.push_back({p, destra ? Ancora::sinistra : Ancora::destra,
                              xSegno > q.xValle ? fondoValle(m, q, p.y) : fondoMonte(m, q, p)});
         }
@@ -38,7 +41,7 @@ void livello(const Mostrata& m, const Inquadratura& q, double z, double da, doub
                  .elemento = Elemento::acqua,
                  .testo = quota(z),
                  .tinta = tinta,
-                 .corpo = 0.9 * q.em,
+                 .corpo = corpo,
                  .posti = std::move(posti)});
 }
 

@@ -7,8 +7,10 @@
 #include <limits>
 #include <set>
 
+#include "base/translated_texts.hpp"
 #include "scene/polygon.hpp"
 #include "scene/scene.hpp"
+#include "scene/shown_values.hpp"
 #include "support/random_walls.hpp"
 #include "support/sample_projects.hpp"
 #include "support/scene_parts.hpp"
@@ -93,25 +95,53 @@ void verificaAsse(const Scena& s, const std::string& dove) {
     EXPECT_EQ(numeri, tacche) << dove;
 }
 
-TEST(AnyWall, OfTheExamplesHasAllItsTexts) {
-    constexpr Misura finestre[] = {{600, 400}, {900, 580}, {1600, 1000}};
+// A level has its depth on its own side of the wall.
+void verificaAcque(const Scena& s, double monte, double valle, const std::string& dove) {
+    const Riquadro muro = intorno(test::figure<Area>(s, Elemento::muro).at(0).punti);
+    for (const auto& t : test::figure<Testo>(s, Elemento::acqua)) {
+        const Riquadro r = t.riquadro();
+        const bool sinistra = r.destra <= muro.sinistra, destra = r.sinistra >= muro.destra;
+        EXPECT_TRUE(sinistra || destra) << dove << t.testo;
+        if (monte == valle) continue;
+        EXPECT_EQ(t.testo, quota(sinistra ? monte : valle)) << dove;
+    }
+}
+
+class InTutteLeLingue : public ::testing::Test {
+ protected:
+    InTutteLeLingue() {
+        const std::string cartella = KORVEN_PROGRAM_FOLDER;
+        base::caricaTesti(cartella + "/texts01.txt", cartella + "/texts06.txt",
+                          cartella + "/texts32.txt");
+    }
+    ~InTutteLeLingue() override { base::impostaLingua(1); }
+};
+
+// At every size, stage, curve and in every language.
+TEST_F(InTutteLeLingue, TheExamplesHaveAllTheirTexts) {
+    constexpr Misura finestre[] = {{360, 340}, {600, 400}, {900, 580}, {1600, 1000}};
     for (const auto& file : test::muriIn(KORVEN_EXAMPLES)) {
         const auto dati = test::leggiMuro(file);
         const auto parete = live::calcola(dati, 30);
-        for (int fase = 0; fase <= dati.nFasi; ++fase)
-            for (int curva = 0; curva < 4; ++curva)
-                for (const Misura& misura : finestre) {
-                    const std::string dove =
-                        file + " " + std::to_string(fase) + " " + std::to_string(misura.altezza);
-                    const Scena s = scena(parete, {fase, static_cast<live::Curva>(curva)}, misura,
-                                          MisuraStimata());
-                    verifica(s, dove);
-                    verificaAsse(s, dove);
-                    for (int j = 1; j <= dati.nTiranti; ++j)
-                        EXPECT_FALSE(test::testi(s, Elemento::tirante, j).empty()) << dove;
-                    for (int i = 1; i <= dati.nStrati && misura.altezza > 500; ++i)
-                        EXPECT_FALSE(test::testi(s, Elemento::strato, i).empty()) << dove << i;
-                }
+        for (int caso = 0; caso < 6 * 4 * (dati.nFasi + 1); ++caso) {
+            const int lingua = caso % 6 + 1, curva = caso / 6 % 4, fase = caso / 24;
+            base::impostaLingua(lingua);
+            for (const Misura& misura : finestre) {
+                const std::string dove = file + " " + std::to_string(fase) + " " +
+                                         std::to_string(lingua) + " " +
+                                         std::to_string(misura.altezza) + " ";
+                const Scena s =
+                    scena(parete, {fase, static_cast<live::Curva>(curva)}, misura, MisuraStimata());
+                verifica(s, dove);
+                verificaAsse(s, dove);
+                verificaAcque(s, dati.faldaMonte, dati.faldaFase[fase > 0 ? fase : dati.nFasi],
+                              dove);
+                for (int j = 1; j <= dati.nTiranti; ++j)
+                    EXPECT_FALSE(test::testi(s, Elemento::tirante, j).empty()) << dove;
+                for (int i = 1; i <= dati.nStrati && misura.altezza > 500; ++i)
+                    EXPECT_FALSE(test::testi(s, Elemento::strato, i).empty()) << dove << i;
+            }
+        }
     }
 }
 
