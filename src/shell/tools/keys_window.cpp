@@ -14,7 +14,7 @@ namespace korven::shell {
 
 namespace {
 
-constexpr QSize misuraComoda(560, 520);
+constexpr QSize misuraComoda(720, 560);
 constexpr const char* nome = "tasti";
 
 bool freccia(QChar c) { return c >= QChar(0x2190) && c <= QChar(0x21FF); }
@@ -28,6 +28,7 @@ QString mostrati(const std::string& tasti) {
             QKeySequence(uno, QKeySequence::PortableText).toString(QKeySequence::NativeText);
         scritti += std::any_of(suo.begin(), suo.end(), freccia) ? uno : suo;
     }
+    scritti.removeDuplicates();  // some languages have one word for Return and Enter
     return scritti.join(QStringLiteral(", "));
 }
 

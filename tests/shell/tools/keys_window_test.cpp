@@ -64,7 +64,7 @@ TEST_F(FinestraTastiTest, ListsEachWindowWithItsKeys) {
                     << nome << ": " << riga.tasti;
 }
 
-TEST_F(FinestraTastiTest, WritesNoKeyAsAnArrowInAnyLanguage) {
+TEST_F(FinestraTastiTest, WritesNoKeyAsAnArrowNorTwiceInARowInAnyLanguage) {
     for (int lingua = 1; lingua <= 6; ++lingua) {
         const test::TestiConsegnati testi(lingua);
         const auto diQt = testiQt(lingua);
@@ -75,12 +75,15 @@ TEST_F(FinestraTastiTest, WritesNoKeyAsAnArrowInAnyLanguage) {
         QCoreApplication::removeTranslator(diQt.get());
         const auto& elenco = test::controllo<QTreeWidget>(finestra, "elenco");
         int letti = 0;
-        for (QTreeWidgetItemIterator voce(const_cast<QTreeWidget*>(&elenco)); *voce; ++voce)
+        for (QTreeWidgetItemIterator voce(const_cast<QTreeWidget*>(&elenco)); *voce; ++voce) {
+            QStringList suoi = (*voce)->text(0).split(", ");
+            EXPECT_EQ(suoi.removeDuplicates(), 0) << (*voce)->text(0).toStdString();
             for (const QChar c : (*voce)->text(0)) {
                 ++letti;
                 EXPECT_FALSE(c >= QChar(0x2190) && c <= QChar(0x21FF))
                     << (*voce)->text(0).toStdString();
             }
+        }
         EXPECT_GT(letti, 200);
     }
 }
