@@ -1,87 +1,20 @@
 #include "shell/main/menu1.hpp"
 
-#include <gtest/gtest.h>
-
-#include <QDropEvent>
-#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
-#include <QMimeData>
 #include <QScreen>
 #include <set>
 
-#include "base/code_page.hpp"
-#include "base/file_error.hpp"
-#include "project/project_file.hpp"
 #include "support/desktop_bench.hpp"
-#include "support/dialog_double.hpp"
-#include "support/document_ports.hpp"
 #include "support/form_setup.hpp"
-#include "support/plain_masks.hpp"
-#include "support/progress_double.hpp"
-#include "support/sample_projects.hpp"
+#include "support/main_form_bench.hpp"
 
 namespace korven::shell {
 namespace {
 
-using base::Risposta;
 using project::fileCorrente;
 using project::modificato;
-
-class Menu1Test : public ::testing::Test {
- protected:
-    Menu1Test() {
-        forme.informazioni = [this](const std::string& riga) { informazioni.push_back(riga); };
-        forme.guida = [this](int contesto) { aiuti.push_back(contesto); };
-        forme.sommario = [] {};
-        tutteLeMaschere.leggiMaschere(test::maschereSemplici(ambiente.lavori));
-        forme.maschera = [this](masks::Maschere& m) {
-            maschere.push_back(m.corrente().titolo);
-            m.conferma(m.valoriCombo(), m.valoriTesto());
-        };
-    }
-    void apri() {
-        programma = std::make_unique<commands::Programma>(dialogo, nomi, finestra, avanzamento,
-                                                          tutteLeMaschere, forme);
-        finestra.collega(*programma);
-        finestra.show();
-    }
-    QAction* voce(const char* nome) {
-        for (auto* azione : finestra.findChildren<QAction*>(nome)) return azione;
-        return nullptr;
-    }
-    QString stato() { return finestra.findChild<QLabel*>("stato")->text(); }
-    std::string scriviMuro(const char* nome = "muro.kvd") {
-        const std::string file = ambiente.lavori / nome;
-        test::metti(file, base::inCp1252(project::testoProgetto(test::progettoSemplice())));
-        return file;
-    }
-    void lascia(const std::string& file) {
-        QMimeData dati;
-        dati.setUrls({QUrl::fromLocalFile(QString::fromStdString(file))});
-        QDragEnterEvent entra(QPoint(5, 5), Qt::CopyAction, &dati, Qt::LeftButton, Qt::NoModifier);
-        entra.setAccepted(false);
-        QCoreApplication::sendEvent(&finestra, &entra);
-        accettato = entra.isAccepted();
-        if (!accettato) return;
-        QDropEvent cade(QPointF(5, 5), Qt::CopyAction, &dati, Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(&finestra, &cade);
-        QTest::qWait(20);
-    }
-
-    test::AmbienteDocumento ambiente;
-    test::DialogoFinto dialogo;
-    test::DialogoFileFinto nomi;
-    test::AvanzamentoFinto avanzamento;
-    commands::FormeProgramma forme;
-    std::unique_ptr<commands::Programma> programma;
-    Menu1 finestra;
-    std::vector<std::string> informazioni;
-    std::vector<int> aiuti;
-    std::vector<std::string> maschere;
-    masks::Maschere tutteLeMaschere;
-    bool accettato = false;
-};
+using Menu1Test = test::BancoMenu1;
 
 // Captions of a menu and all below it, a line each, two blanks a level; "-" for a parting line.
 void elenca(const QList<QAction*>& azioni, int livello, QString& testo) {
@@ -216,46 +149,6 @@ TEST_F(Menu1Test, LeavesTheKeysOfItsHistoryToTheFormThatIsOpen) {
     EXPECT_EQ(project::Progetto.titoli[1], "Altro muro");
 }
 
-TEST_F(Menu1Test, DuplicatesNoProjectWhereNoneIsOpen) {
-    apri();
-    finestra.esegui(commands::voceMenu("duplica"));
-    EXPECT_TRUE(nomi.proposteNuovo.empty());
-    fileCorrente = ambiente.lavori / "muro.kvd";
-    nomi.nuovi = {ambiente.lavori / "altro"};
-    finestra.esegui(commands::voceMenu("duplica"));
-    EXPECT_EQ(finestra.windowTitle(), "KORVEN 32 - altro");
-    EXPECT_TRUE(finestra.findChild<QLabel*>("modifiche")->isVisible());
-}
-
-TEST_F(Menu1Test, OpensARecentProjectFromTheMenuThatListsThem) {
-    apri();
-    const std::string muro = scriviMuro(), altro = scriviMuro("altro.kvd");
-    auto* menu = voce("recenti")->menu();
-    const auto mostrate = [&] {
-        menu->popup(QPoint(10, 10));
-        menu->close();
-        QStringList testi;
-        for (const auto* azione : menu->actions())
-            testi += (azione->isEnabled() ? "" : "off ") + azione->text().section(" - ", 0, 0);
-        return testi.join(", ");
-    };
-    EXPECT_EQ(mostrate(), "off nessun progetto recente");
-    programma->documento().apri(muro);
-    programma->documento().apri(altro);
-    EXPECT_EQ(mostrate(), "&1 altro.kvd, &2 muro.kvd, , &Dimentica l'elenco");
-    modificato = true;
-    dialogo.risposte = {Risposta::annulla, Risposta::no};
-    menu->actions()[1]->trigger();
-    EXPECT_EQ(fileCorrente, altro);
-    menu->actions()[1]->trigger();
-    EXPECT_EQ(fileCorrente, muro);
-    EXPECT_FALSE(finestra.findChild<QLabel*>("modifiche")->isVisible());
-    EXPECT_EQ(mostrate(), "&1 muro.kvd, &2 altro.kvd, , &Dimentica l'elenco");
-    EXPECT_TRUE(menu->actions()[2]->isSeparator());
-    menu->actions()[3]->trigger();
-    EXPECT_EQ(mostrate(), "off nessun progetto recente");
-}
-
 TEST_F(Menu1Test, ShowsTheGuardOfEachEditorWithoutAProject) {
     apri();
     for (const char* nome :
@@ -295,107 +188,6 @@ TEST_F(Menu1Test, ShowsTheAboutBoxAtAClickOnItsPicture) {
     fileCorrente = "/lavori/muro.kvd";
     voce("about")->trigger();
     EXPECT_EQ(informazioni, (std::vector<std::string>{"", "File corrente: /LAVORI/MURO"}));
-}
-
-TEST_F(Menu1Test, OpensADroppedProjectAfterTheQuestionAboutUnsavedWork) {
-    apri();
-    const std::string muro = scriviMuro();
-    lascia(muro);
-    EXPECT_EQ(fileCorrente, muro);
-    modificato = true;
-    dialogo.risposte = {Risposta::annulla, Risposta::no};
-    const std::string altro = scriviMuro("altro.KVD");
-    lascia(altro);
-    EXPECT_EQ(fileCorrente, muro);
-    lascia(altro);
-    EXPECT_EQ(fileCorrente, ambiente.lavori / "altro.kvd");
-    EXPECT_EQ(dialogo.domande.size(), 2u);
-}
-
-TEST_F(Menu1Test, TakesNothingElseThatIsDropped) {
-    apri();
-    test::metti(ambiente.lavori / "nota.txt", "x");
-    lascia(ambiente.lavori / "nota.txt");
-    EXPECT_FALSE(accettato);
-    lascia(ambiente.lavori / "manca.kvd");
-    EXPECT_FALSE(accettato);
-    EXPECT_TRUE(fileCorrente.empty());
-}
-
-TEST_F(Menu1Test, TakesNoDropWhileADrawingIsShown) {
-    apri();
-    const std::string muro = scriviMuro();
-    finestra.setEnabled(false);  // as the viewer does
-    lascia(muro);
-    EXPECT_FALSE(accettato);
-    finestra.setEnabled(true);
-    lascia(muro);
-    EXPECT_TRUE(accettato);
-    EXPECT_EQ(fileCorrente, muro);
-}
-
-// What the rescue at the end of the program finds: the project that was open, and unsaved.
-TEST_F(Menu1Test, KeepsTheUnsavedProjectWhenADroppedFileIsNone) {
-    apri();
-    const std::string muro = scriviMuro();
-    lascia(muro);
-    modificato = true;
-    dialogo.risposte = {Risposta::no};
-    const std::string rotto = ambiente.lavori / "rotto.kvd";
-    test::metti(rotto, "due\r\n");
-    EXPECT_THROW(programma->documento().apri(rotto), base::ErroreFile);
-    EXPECT_EQ(fileCorrente, muro);
-    EXPECT_TRUE(modificato);
-    EXPECT_EQ(project::Progetto, test::progettoSemplice());
-}
-
-TEST_F(Menu1Test, StaysOpenOnCancelFromTheExitAndFromItsCloseBox) {
-    apri();
-    fileCorrente = ambiente.lavori / "muro.kvd";
-    modificato = true;
-    dialogo.risposte = {Risposta::annulla, Risposta::annulla, Risposta::no};
-    voce("fine")->trigger();
-    EXPECT_TRUE(finestra.isVisible());
-    EXPECT_FALSE(finestra.close());
-    EXPECT_TRUE(finestra.isVisible());
-    EXPECT_TRUE(finestra.close());
-    EXPECT_FALSE(finestra.isVisible());
-    EXPECT_EQ(dialogo.domande.size(), 3u);
-}
-
-TEST_F(Menu1Test, AsksOnceWhenTheExitClosesTheForm) {
-    apri();
-    fileCorrente = ambiente.lavori / "muro.kvd";
-    modificato = true;
-    dialogo.risposte = {Risposta::no};
-    voce("fine")->trigger();
-    EXPECT_FALSE(finestra.isVisible());
-    EXPECT_EQ(dialogo.domande.size(), 1u);
-}
-
-TEST_F(Menu1Test, ClosesWithoutASecondQuestionWhenTheSessionEnds) {
-    apri();
-    fileCorrente = ambiente.lavori / "muro.kvd";
-    modificato = true;
-    dialogo.risposte = {Risposta::annulla, Risposta::no};
-    EXPECT_FALSE(finestra.sessioneFinisce(true));
-    EXPECT_TRUE(finestra.sessioneFinisce(true));
-    EXPECT_TRUE(finestra.close());
-    EXPECT_EQ(dialogo.domande.size(), 2u);
-}
-
-TEST_F(Menu1Test, AsksAgainWhenTheSessionGoesOnAndTheProjectWithIt) {
-    apri();
-    fileCorrente = ambiente.lavori / "muro.kvd";
-    modificato = true;
-    dialogo.risposte = {Risposta::no, Risposta::annulla, Risposta::no, Risposta::annulla};
-    EXPECT_TRUE(finestra.sessioneFinisce(true));
-    voce("EditFasi")->trigger();  // another program has called the end off
-    EXPECT_FALSE(finestra.close());
-    EXPECT_TRUE(finestra.sessioneFinisce(true));
-    EXPECT_TRUE(finestra.sessioneFinisce(false));  // nobody to ask: rescued, and not answered
-    EXPECT_FALSE(finestra.close());
-    EXPECT_EQ(dialogo.domande.size(), 4u);
 }
 
 TEST_F(Menu1Test, OpensItsFirstMenuAtF10AndGoesOnFromThere) {

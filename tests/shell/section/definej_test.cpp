@@ -3,67 +3,22 @@
 #include "shell/section/definej.hpp"
 
 #include <QGroupBox>
-#include <QImage>
-#include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <memory>
 
 #include "project/project_data.hpp"
 #include "shell/section/definej_fields.hpp"
 #include "shell/section/section_sketch_view.hpp"
-#include "support/desktop_bench.hpp"
 #include "support/form_setup.hpp"
+#include "support/section_form_bench.hpp"
 
 namespace korven::shell {
 namespace {
 
 using project::Sezione;
-
-constexpr const char* opzioni[] = {"Option1", "Option2", "Option3", "Option4"};
-constexpr const char* riquadri[] = {"Frame1", "Frame2", "Frame5", "Frame6"};
-
-class FormaSezione : public ::testing::Test {
- protected:
-    FormaSezione() {
-        test::applicazione();
-        double valore = 1.5;
-        for (const auto& campo : masks::campiSezione) sezione.*campo.valore = (valore += 0.25);
-        sezione.tipoDiaframma = true;
-    }
-    void apri() {
-        prima = sezione;
-        forma = std::make_unique<DefinEJ>(sezione, modificato, nullptr);
-        forma->show();
-        forma->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(forma.get()));
-    }
-    template <class C = QWidget>
-    C& trova(const char* nome) {
-        return test::controllo<C>(*forma, nome);
-    }
-    void premi(const char* nome) {
-        auto& bottone = trova(nome);
-        QTest::mouseClick(&bottone, Qt::LeftButton, {}, QPoint(10, bottone.height() / 2));
-    }
-    void scrivi(const char* nome, const char* testo) {
-        trova<QLineEdit>(nome).selectAll();
-        QTest::keyClicks(&trova(nome), testo);
-    }
-    QString aiuto() { return trova<QLabel>("Labelhelp").text(); }
-    // The place in `riquadri` of the frame that shows, -1 unless exactly one does.
-    int mostrato() {
-        int quale = -1, quanti = 0;
-        for (int i = 0; i < 4; ++i)
-            if (trova(riquadri[i]).isVisible()) quale = i, ++quanti;
-        return quanti == 1 ? quale : -1;
-    }
-
-    Sezione sezione, prima;
-    bool modificato = false;
-    std::unique_ptr<DefinEJ> forma;
-};
+using test::opzioniSezione;
+using test::riquadriSezione;
+using FormaSezione = test::BancoSezione;
 
 TEST_F(FormaSezione, TellsEachChangeOfTheSectionThatStandsInIt) {
     apri();
@@ -188,7 +143,7 @@ TEST_F(FormaSezione, ShowsTheFrameOfTheStoredTypeAndTheMaterials) {
         for (int j = 0; j < 4; ++j) sezione.*project::tipiSezione[j] = i == j;
         apri();
         EXPECT_EQ(mostrato(), i);
-        EXPECT_TRUE(trova<QRadioButton>(opzioni[i]).isChecked());
+        EXPECT_TRUE(trova<QRadioButton>(opzioniSezione[i]).isChecked());
         EXPECT_TRUE(trova("Frame4").isVisible());
     }
 }
@@ -196,9 +151,10 @@ TEST_F(FormaSezione, ShowsTheFrameOfTheStoredTypeAndTheMaterials) {
 TEST_F(FormaSezione, ShowsTheFrameOfTheOptionThatIsClicked) {
     apri();
     for (const int i : {3, 1, 2, 0}) {
-        premi(opzioni[i]);
+        premi(opzioniSezione[i]);
         EXPECT_EQ(mostrato(), i);
-        for (int j = 0; j < 4; ++j) EXPECT_EQ(trova<QRadioButton>(opzioni[j]).isChecked(), i == j);
+        for (int j = 0; j < 4; ++j)
+            EXPECT_EQ(trova<QRadioButton>(opzioniSezione[j]).isChecked(), i == j);
         EXPECT_TRUE(trova("Frame4").isVisible());
     }
     EXPECT_EQ(sezione, prima);
@@ -260,65 +216,17 @@ TEST_F(FormaSezione, KeepsNothingWhenTheUserGivesUp) {
     }
 }
 
-TEST_F(FormaSezione, ConfirmsByEnterFromAField) {
-    apri();
-    scrivi("Text7", "900");
-    QTest::keyClick(&trova("Text7"), Qt::Key_Return);
-    EXPECT_FALSE(forma->isVisible());
-    EXPECT_EQ(sezione.spessoreDiaframma, 90);
-}
-
-TEST_F(FormaSezione, HasTheAccessKeysOfItsButtons) {
-    apri();
-    EXPECT_EQ(trova<QPushButton>("Command1").shortcut(), QKeySequence("Alt+C"));
-    EXPECT_EQ(trova<QPushButton>("Command2").shortcut(), QKeySequence("Alt+A"));
-}
-
-TEST_F(FormaSezione, GoesThroughItsFieldsInTheOrderInWhichTheyAreRead) {
-    const std::vector<const char*> attesi[] = {
-        {"Text5", "Text6", "Text1", "Text2", "Text3", "Text4", "Text7"},
-        {"Text11", "Text12", "Text10"},
-        {"Text16", "Text17", "Text9", "Text13", "Text19"},
-        {"Text22", "Text20", "Text25", "Text21", "Text26", "Text24", "Text23"}};
-    for (int i = 0; i < 4; ++i) {
-        for (int j = 0; j < 4; ++j) sezione.*project::tipiSezione[j] = i == j;
-        apri();
-        QStringList giro{QLatin1String(opzioni[i])};
-        for (const char* nome : attesi[i]) giro << QLatin1String(nome);
-        giro << "Text15"
-             << "Text8"
-             << "Text18"
-             << "Text14"
-             << "Command1"
-             << "Command2";
-        for (const QString& nome : giro) {
-            EXPECT_EQ(forma->focusWidget()->objectName(), nome);
-            QTest::keyClick(forma->focusWidget(), Qt::Key_Tab);
-        }
-        EXPECT_EQ(forma->focusWidget()->objectName(), giro.front()) << "around again";
-    }
-}
-
-TEST_F(FormaSezione, GoesUpAndDownByTheArrowKeys) {
-    apri();
-    trova("Text5").setFocus();
-    QTest::keyClick(forma->focusWidget(), Qt::Key_Down);
-    EXPECT_EQ(forma->focusWidget()->objectName(), "Text6");
-    QTest::keyClick(forma->focusWidget(), Qt::Key_Up);
-    EXPECT_EQ(forma->focusWidget()->objectName(), "Text5");
-}
-
 TEST_F(FormaSezione, TellsInItsStripWhatTheFieldMeans) {
     apri();
     EXPECT_TRUE(aiuto().startsWith("Il tipo di sezione"));
     for (std::size_t i = 0; i < masks::numeroCampiSezione; ++i) {
         const auto riquadro = static_cast<std::size_t>(masks::campiSezione[i].riquadro());
-        if (riquadro < 4) premi(opzioni[riquadro]);
+        if (riquadro < 4) premi(opzioniSezione[riquadro]);
         auto& campo = trova<QLineEdit>(campiForma[i].controllo);
         campo.setFocus();
         EXPECT_EQ(aiuto().toStdString(), campiForma[i].aiuto);
         if (riquadro < 4) {
-            auto* schizzo = trova(riquadri[riquadro]).findChild<VistaSchizzo*>();
+            auto* schizzo = trova(riquadriSezione[riquadro]).findChild<VistaSchizzo*>();
             EXPECT_EQ(schizzo->evidenziato(), i);
         }
     }
@@ -328,60 +236,13 @@ TEST_F(FormaSezione, TellsInItsStripWhatTheFieldMeans) {
     EXPECT_TRUE(aiuto().contains("un decimo del numero scritto"));
 }
 
-TEST_F(FormaSezione, RedrawsTheSketchWhileANumberIsTyped) {
-    apri();
-    auto& schizzo = *trova("Frame1").findChild<VistaSchizzo*>();
-    const auto scritta = [&] {
-        for (const auto& quota : schizzo.schizzo().quote)
-            if (quota.campo == masks::campoSezione(&Sezione::spessoreDiaframma))
-                return quota.scritta;
-        return std::string();
-    };
-    scrivi("Text7", "75");
-    EXPECT_EQ(scritta(), "H = 75");
-    QTest::keyClicks(&trova("Text7"), "0");
-    EXPECT_EQ(scritta(), "H = 750");
-    EXPECT_EQ(sezione, prima) << "typing stores nothing";
-}
-
-TEST_F(FormaSezione, TakesAClickOnADimensionToItsField) {
-    apri();
-    auto& schizzo = *trova("Frame1").findChild<VistaSchizzo*>();
-    for (const auto& quota : schizzo.schizzo().quote) {
-        QTest::mouseClick(&schizzo, Qt::LeftButton, {},
-                          schizzo.postoTesto(quota).center().toPoint());
-        EXPECT_EQ(forma->focusWidget()->objectName(), campiForma[quota.campo].controllo);
-    }
-    QTest::mouseClick(&schizzo, Qt::LeftButton, {}, QPoint(2, 2));
-    EXPECT_EQ(forma->focusWidget()->objectName(),
-              campiForma[schizzo.schizzo().quote.back().campo].controllo);
-}
-
-TEST_F(FormaSezione, PaintsTheDimensionOfTheFocusInAnotherColour) {
-    apri();
-    auto& schizzo = *trova("Frame1").findChild<VistaSchizzo*>();
-    const auto colorati = [&] {
-        const QImage immagine = schizzo.grab().toImage();
-        int quanti = 0;
-        for (int y = 0; y < immagine.height(); ++y)
-            for (int x = 0; x < immagine.width(); ++x) {
-                const QColor c = immagine.pixelColor(x, y);
-                quanti += c.red() > 150 && c.green() < 110 && c.blue() < 90;
-            }
-        return quanti;
-    };
-    EXPECT_EQ(colorati(), 0) << "the focus is on the options";
-    trova("Text7").setFocus();
-    EXPECT_GT(colorati(), 50);
-}
-
 TEST_F(FormaSezione, HasANameAndAHelpPage) {
     apri();
     EXPECT_EQ(forma->property("contestoGuida").toInt(), 7);
     for (const auto& campo : campiForma)
         EXPECT_FALSE(trova(campo.controllo).accessibleName().isEmpty()) << campo.controllo;
     EXPECT_EQ(trova("Text2").accessibleName(), "Interasse ferri LATO VALLE");
-    for (const char* riquadro : riquadri)
+    for (const char* riquadro : riquadriSezione)
         EXPECT_FALSE(trova(riquadro).findChild<VistaSchizzo*>()->accessibleName().isEmpty());
 }
 
@@ -401,51 +262,6 @@ TEST_F(FormaSezione, OpensOnTheProjectFromItsCommand) {
     EXPECT_TRUE(project::modificato);
     project::Progetto = salvato;
     project::modificato = false;
-}
-
-TEST_F(FormaSezione, TellsWhatANumberIsReadAsWhileItIsTyped) {
-    apri();
-    trova("Text7").setFocus();
-    const QString spiegazione = aiuto();
-    scrivi("Text7", "80,5");
-    EXPECT_EQ(aiuto(), "letto come 80: il segno decimale è il punto\n" + spiegazione);
-    scrivi("Text7", "80.5");
-    EXPECT_EQ(aiuto(), spiegazione);
-}
-
-TEST_F(FormaSezione, TakesFieldsAndTheTypeBackByKeysAndDoesThemAgain) {
-    apri();
-    const QString spessore = trova<QLineEdit>("Text7").text();
-    trova("Text7").setFocus();
-    scrivi("Text7", "800");
-    premi("Option2");
-    trova("Text11").setFocus();
-    scrivi("Text11", "273");
-    const auto tasto = [this](Qt::Key quale) {
-        QTest::keyClick(forma->focusWidget(), quale, Qt::ControlModifier);
-    };
-    project::Sezione seguita;
-    QObject::connect(forma.get(), &DefinEJ::digitata, [&] { seguita = forma->letta(); });
-    tasto(Qt::Key_Z);
-    EXPECT_NE(trova<QLineEdit>("Text11").text(), "273");
-    EXPECT_EQ(seguita.paliDiamEst, sezione.paliDiamEst);
-    EXPECT_TRUE(aiuto().startsWith("Annullato: campo diametro esterno dei pali\n"));
-    tasto(Qt::Key_Z);
-    EXPECT_EQ(mostrato(), 0);
-    EXPECT_TRUE(trova<QRadioButton>("Option1").isChecked());
-    EXPECT_TRUE(trova("Option1").hasFocus());
-    EXPECT_TRUE(aiuto().startsWith("Annullato: tipo di sezione\n"));
-    tasto(Qt::Key_Z);
-    EXPECT_EQ(trova<QLineEdit>("Text7").text(), spessore);
-    EXPECT_TRUE(trova("Text7").hasFocus());
-    tasto(Qt::Key_Z);
-    EXPECT_TRUE(aiuto().startsWith("Nulla da annullare\n"));
-    for (int i = 0; i < 3; ++i) tasto(Qt::Key_Y);
-    EXPECT_EQ(mostrato(), 1);
-    EXPECT_EQ(trova<QLineEdit>("Text7").text(), "800");
-    EXPECT_EQ(trova<QLineEdit>("Text11").text(), "273");
-    EXPECT_TRUE(trova("Text11").hasFocus());
-    EXPECT_TRUE(aiuto().startsWith("Ripetuto: campo diametro esterno dei pali\n"));
 }
 
 }  // namespace
