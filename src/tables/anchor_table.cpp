@@ -8,6 +8,7 @@
 #include "project/field_table.hpp"
 #include "safety/margin_words.hpp"
 #include "tables/check_table.hpp"
+#include "tables/margin_table.hpp"
 #include "tables/node_table.hpp"
 
 namespace korven::tables {
@@ -21,6 +22,7 @@ using safety::Margine;
 namespace unita = project::unita;
 
 constexpr const char* inArrivo = "...";
+constexpr const char* maiInOpera = "In nessuna fase in equilibrio il tirante è in opera.";
 
 // Stages may name more anchors than are described.
 int quanti(const PareteViva& parete) {
@@ -58,17 +60,20 @@ Cella tipo(const DatiProgetto& dati, int j) {
     return codice == nullptr ? Cella{} : parola(traduttore(codice->voce), codice->valore);
 }
 
-Cella tiro(const std::vector<double>& tiri, int j) {
-    return j > static_cast<int>(tiri.size()) ? Cella{}
+// @param senzaTiro  why an anchor beyond the last one has no force
+Cella tiro(const std::vector<double>& tiri, int j, const char* senzaTiro) {
+    return j > static_cast<int>(tiri.size()) ? senza(traduttore(senzaTiro))
                                              : forza(tiri[static_cast<std::size_t>(j) - 1]);
 }
 
 Cella relazione(const Margine* margine, bool inCorso, int j) {
     if (inCorso) return parola(inArrivo);
-    if (margine == nullptr || !margine->relazione) return {};
+    if (margine == nullptr) return senza(traduttore("nessun numero"));
+    if (!margine->relazione)
+        return senza(margine->sta() ? safety::paroleRelazione(*margine) : verdetto(*margine));
     const auto& tiri = margine->relazione->tiriMassimi;
     return j > static_cast<int>(tiri.size())
-               ? Cella{}
+               ? senza(traduttore(maiInOpera))
                : cifre(mostrato(unita::forzaAlMetro, tiri[static_cast<std::size_t>(j) - 1]));
 }
 
@@ -81,9 +86,11 @@ Prospetto prospetto(const PareteViva& parete, const Margine* margine, bool inCor
             cella(j), profondita(dati.profTirante[j]), tipo(dati, j), forza(dati.pretTirante[j])});
         for (int k = 1; k <= nFasi(dati); ++k) {
             const auto* fase = parete.fase(k);
-            riga.push_back(fase == nullptr ? Cella{} : tiro(fase->tiri, j));
+            riga.push_back(fase == nullptr
+                               ? senza(perche(parete, k))
+                               : tiro(fase->tiri, j, "Il tirante non è in opera in questa fase."));
         }
-        riga.push_back(tiro(massimi, j));
+        riga.push_back(tiro(massimi, j, maiInOpera));
         riga.push_back(relazione(margine, inCorso, j));
     }
     if (p.righe.empty()) p.note.push_back(traduttore("Il progetto non ha tiranti."));

@@ -10,6 +10,7 @@
 #include "safety/margin_words.hpp"
 #include "structure/section_validity.hpp"
 #include "tables/node_table.hpp"
+#include "tables/quantities.hpp"
 
 namespace korven::tables {
 
@@ -27,15 +28,14 @@ namespace unita = project::unita;
 std::vector<Cella> riga(const project::Unita& u, const char* cosa, double progetto,
                         double resistenza, const DoveVerifica& dove, std::string_view esito,
                         bool fallita) {
-    const bool nota = dove.fase > 0;
     Cella verdetto = parola(traduttore(esito));
     if (fallita) verdetto.peso = review::Peso::pericolo;
     return {parola(traduttore(cosa) + " " + traParentesi(u)),
             cifre(progetto),
             cifre(resistenza),
             uso(progetto, resistenza),
-            nota ? cella(dove.fase) : Cella{},
-            nota ? profondita(dove.z) : Cella{},
+            dove.fase > 0 ? cella(dove.fase) : tables::dove(0, 0),
+            tables::dove(dove.fase, dove.z),
             verdetto};
 }
 
@@ -97,12 +97,13 @@ void note(const PareteViva& parete, const Margine& margine, Prospetto& p) {
 }  // namespace
 
 Cella cifre(double mostrato) {
-    if (!std::isfinite(mostrato)) return {};
+    if (!std::isfinite(mostrato)) return senza(traduttore("nessun numero"));
     return {.testo = project::numeroRelazione(mostrato), .numero = mostrato + 0.0};
 }
 
 Cella uso(double progetto, double resistenza) {
-    return resistenza == 0 ? Cella{} : cella(progetto / resistenza, 1, unita::percento);
+    return resistenza == 0 ? senza(traduttore("La resistenza è 0."))
+                           : cella(progetto / resistenza, 1, unita::percento);
 }
 
 Prospetto prospettoVerifiche(const PareteViva& parete, const Margine& margine) {

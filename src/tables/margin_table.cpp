@@ -11,6 +11,7 @@
 #include "safety/margin_words.hpp"
 #include "safety/words.hpp"
 #include "tables/check_table.hpp"
+#include "tables/quantities.hpp"
 
 namespace korven::tables {
 
@@ -39,7 +40,7 @@ Cella riduzione(const safety::Riduzione& r) {
 }
 
 Cella uso(const std::optional<double>& quota) {
-    if (!quota) return {};
+    if (!quota) return senza(traduttore("Davanti alla paratia non c'è resistenza passiva."));
     Cella c = cella(*quota, 0, unita::percento);
     c.barra = std::clamp(*quota, 0.0, 1.0);
     c.peso = pesa(*quota, review::passivaDaVedere, review::passivaPericolosa, false);
@@ -51,31 +52,34 @@ std::string conF(const MargineFase& fase, double paratia) {
     return fase.inEquilibrio() ? parole(fase.riduzione, paratia) : nessuno;
 }
 
-// A moment or a shear of one stage, both ways; a curve that is 0 all along has it nowhere.
+// A moment or a shear of one stage, both ways.
+// @param manca  why the report has none
 void riga(int fase, const project::Unita& u, const char* cosa, const safety::Confronto& c,
-          Cella (*valore)(double), Prospetto& p) {
+          Cella (*valore)(double), const Cella& manca, Prospetto& p) {
     p.righe.push_back({cella(fase), parola(traduttore(cosa) + " " + traParentesi(u)),
-                       valore(c.statica.valore),
-                       c.statica.fase > 0 ? profondita(c.statica.z) : Cella{},
-                       c.relazione ? cifre(mostrato(u, c.relazione->valore)) : Cella{},
-                       c.relazione ? profondita(c.relazione->z) : Cella{}});
+                       valore(c.statica.valore), dove(c.statica.fase, c.statica.z),
+                       c.relazione ? cifre(mostrato(u, c.relazione->valore)) : manca,
+                       c.relazione ? profondita(c.relazione->z) : manca});
 }
 
-void riga(int fase, const safety::ConfrontoTiro& tiro, Prospetto& p) {
+void riga(int fase, const safety::ConfrontoTiro& tiro, const Cella& manca, Prospetto& p) {
+    const Cella testa = senza(traduttore("La profondità del tirante è nella tabella Tiranti."));
     p.righe.push_back(
         {cella(fase),
          parola(traduttore("tirante") + " " + std::to_string(tiro.tirante) + " " +
                 traParentesi(unita::forzaAlMetro)),
-         forza(tiro.statica), Cella{},
-         tiro.relazione ? cifre(mostrato(unita::forzaAlMetro, tiro.relazione->valore)) : Cella{},
-         Cella{}});
+         forza(tiro.statica), testa,
+         tiro.relazione ? cifre(mostrato(unita::forzaAlMetro, tiro.relazione->valore)) : manca,
+         testa});
 }
 
 void riga(const project::Unita& u, const char* cosa, Cella (*valore)(double),
           const safety::ErroreGrandezza& e, Prospetto& p) {
     p.righe.push_back({parola(traduttore(cosa) + " " + traParentesi(u)), valore(e.valore),
-                       valore(e.fine), e.quota ? cella(*e.quota, 1, unita::percento) : Cella{},
-                       e.ordine ? cella(*e.ordine, 1, unita::nessuna) : Cella{}});
+                       valore(e.fine), e.quota ? cella(*e.quota, 1, unita::percento) : dove(0, 0),
+                       e.ordine
+                           ? cella(*e.ordine, 1, unita::nessuna)
+                           : senza(traduttore("Le tre maglie non si avvicinano a un valore."))});
 }
 
 // Sentences begin with a capital; the same words stand within lines elsewhere.
@@ -83,6 +87,23 @@ std::string frase(std::string testo) {
     if (testo.empty()) return testo;
     testo = base::conMaiuscola(testo);
     return testo.back() == '.' ? testo : testo + '.';
+}
+
+std::vector<Cella> rigaMargine(const MargineFase& fase, const Margine& margine) {
+    std::vector<Cella> riga = {cella(fase.fase),
+                               profondita(fase.scavo),
+                               riduzione(fase.riduzione),
+                               uso(fase.passiva.quota),
+                               parola(safety::testoTratti(fase.passiva.alLimite)),
+                               spostamento(fase.piede.spostamento),
+                               parola(conF(fase, margine.paratia))};
+    if (fase.passiva.alLimite.empty())
+        riga[4] = senza(traduttore("La resistenza passiva non è al limite a nessuna profondità."));
+    const std::string verdettoParete = verdetto(margine);
+    if (!fase.inEquilibrio()) riga[3] = riga[4] = riga[5] = senza(verdettoParete);
+    for (Cella& c : riga)
+        if (c.testo == nessuno && c.perche.empty()) c.perche = verdettoParete;
+    return riga;
 }
 
 }  // namespace
@@ -103,12 +124,7 @@ Prospetto prospettoMargine(const Margine& margine) {
             colonna(unita::spostamentoFine, "Piede",
                     "Spostamento del piede, positivo verso lo scavo"),
             colonnaParole("Con F", "Che cosa accade con la resistenza divisa per F")}};
-    for (const MargineFase& fase : margine.fasi)
-        p.righe.push_back({cella(fase.fase), profondita(fase.scavo), riduzione(fase.riduzione),
-                           uso(fase.passiva.quota),
-                           parola(safety::testoTratti(fase.passiva.alLimite)),
-                           fase.inEquilibrio() ? spostamento(fase.piede.spostamento) : Cella{},
-                           parola(conF(fase, margine.paratia))});
+    for (const MargineFase& fase : margine.fasi) p.righe.push_back(rigaMargine(fase, margine));
     for (std::string nota : {notaPendenza(margine), notaOltre(margine)})
         if (!nota.empty()) p.note.push_back(std::move(nota));
     return p;
@@ -125,13 +141,18 @@ Prospetto prospettoStatica(const Margine& margine) {
             colonna(unita::nessuna, "Relazione",
                     "Come lo trova il calcolo per fasi e lo usa la relazione"),
             z}};
+    const std::string senzaRelazione = paroleRelazione(margine);
+    const Cella manca = senza(margine.sta() ? senzaRelazione : verdetto(margine));
     for (const MargineFase& fase : margine.fasi) {
         if (!fase.inEquilibrio()) continue;
-        riga(fase.fase, unita::momentoAlMetro, "Momento", fase.confronto.momento, momento, p);
-        riga(fase.fase, unita::forzaAlMetro, "Taglio", fase.confronto.taglio, forza, p);
-        for (const safety::ConfrontoTiro& tiro : fase.confronto.tiri) riga(fase.fase, tiro, p);
+        riga(fase.fase, unita::momentoAlMetro, "Momento", fase.confronto.momento, momento, manca,
+             p);
+        riga(fase.fase, unita::forzaAlMetro, "Taglio", fase.confronto.taglio, forza, manca, p);
+        for (const safety::ConfrontoTiro& tiro : fase.confronto.tiri)
+            riga(fase.fase, tiro, manca, p);
     }
-    if (std::string senza = paroleRelazione(margine); !senza.empty()) p.note.push_back(senza);
+    if (p.righe.empty()) p.note.push_back(verdetto(margine));
+    if (!senzaRelazione.empty()) p.note.push_back(senzaRelazione);
     return p;
 }
 
@@ -148,7 +169,7 @@ Prospetto prospettoMaglia(const Margine& margine) {
     p.colonne[1].titolo = base::riempito(p.colonne[1].titolo, {n});
     p.colonne[2].titolo = base::riempito(p.colonne[2].titolo, {fini});
     if (!margine.maglia) {
-        if (std::string senza = paroleMaglia(margine); !senza.empty()) p.note.push_back(senza);
+        p.note.push_back(margine.sta() ? frase(paroleMaglia(margine)) : verdetto(margine));
         return p;
     }
     const safety::ErroreMaglia& e = *margine.maglia;

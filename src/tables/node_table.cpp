@@ -113,7 +113,8 @@ std::vector<Cella> rigaFase(const FaseEquilibrio& fase, std::size_t i, double z,
     if (conCostante) riga.push_back(pressione(fase.costante));
     riga.push_back(pressione(live::pressioneNetta(fase, i)));
     riga.push_back(stato(fase.stati[i].monte));
-    riga.push_back(z >= scavo ? stato(fase.stati[i].valle) : Cella{});
+    riga.push_back(z >= scavo ? stato(fase.stati[i].valle)
+                              : senza(traduttore("Sopra lo scavo non c'è terreno a valle.")));
     return riga;
 }
 

@@ -31,6 +31,10 @@ inline constexpr Grandezza grandezzaPressione{
     return colonna(g.unita, g.titolo, g.spiegazione);
 }
 
+/// Depth of the largest value of a curve; one that is 0 all along has it nowhere.
+/// @param fase  of the value; 0: there is none
+[[nodiscard]] Cella dove(int fase, double z);
+
 /// "Fase 2"; of 0 "Inviluppo delle fasi".
 [[nodiscard]] std::string titoloFase(int fase);
 

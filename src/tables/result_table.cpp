@@ -32,13 +32,19 @@ Colonna colonnaParole(const char* titolo, const char* spiegazione) {
 
 Cella cella(double conservato, int decimali, const project::Unita& unita) {
     const double mostrato = project::mostrato(unita, conservato);
-    if (!std::isfinite(mostrato)) return {};
+    if (!std::isfinite(mostrato)) return senza(base::traduttore("nessun numero"));
     return {.testo = project::numeroMostrato(conservato, decimali, unita),
             .numero = mostrato + 0.0};  // a zero has no sign for its reader
 }
 
 Cella cella(int numero) {
     return {.testo = std::to_string(numero), .numero = static_cast<double>(numero)};
+}
+
+Cella senza(std::string perche) {
+    Cella c;
+    c.perche = std::move(perche);
+    return c;
 }
 
 Cella parola(std::string testo, std::optional<double> ordine) {

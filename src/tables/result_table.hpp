@@ -20,6 +20,7 @@ struct Cella {
     std::optional<double> ordine{};      ///< of a word: by what it is sorted; nothing: its letters
     std::optional<review::Peso> peso{};  ///< of a remark that is made on it
     std::optional<double> barra{};       ///< 0 to 1: length of a bar behind it
+    std::string perche{};                ///< of a cell that has nothing to show: why, a sentence
 
     bool operator==(const Cella&) const = default;
 };
@@ -61,6 +62,8 @@ struct Prospetto {
 [[nodiscard]] Cella cella(double conservato, int decimali, const project::Unita& unita);
 /// A count, or the number of a row.
 [[nodiscard]] Cella cella(int numero);
+/// A cell that has nothing to show. @param perche  why, translated
+[[nodiscard]] Cella senza(std::string perche);
 /// A word, sorted by its letters or by a number.
 [[nodiscard]] Cella parola(std::string testo, std::optional<double> ordine = {});
 

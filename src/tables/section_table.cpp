@@ -23,6 +23,8 @@ namespace unita = project::unita;
 
 constexpr const char* verificata = "verificata";
 constexpr const char* nonVerificata = "NON verificata";
+constexpr const char* azioniNonNote =
+    "Azioni non note: la paratia non è calcolata o non è in equilibrio.";
 
 // As the editors show it.
 std::string ej(double conservata) {
@@ -67,33 +69,41 @@ std::vector<std::string> righe(const DatiProgetto& dati) {
 }
 
 // Symbols, since there is little room beside the sketch.
-std::vector<Cella> riga(const char* simbolo, const project::Unita& u, bool nota, double progetto,
-                        double resistenza, bool fallita) {
+// @param manca  why the design value is not known; empty where it is
+std::vector<Cella> riga(const char* simbolo, const project::Unita& u, const char* manca,
+                        double progetto, double resistenza, bool fallita) {
+    const bool nota = *manca == '\0';
+    const Cella nessuna = nota ? Cella{} : senza(traduttore(manca));
     std::vector<Cella> celle{parola(std::string(simbolo) + " " + traParentesi(u)),
-                             nota ? cifre(progetto) : Cella{}, cifre(resistenza),
-                             nota ? uso(progetto, resistenza) : Cella{}, Cella{}};
+                             nota ? cifre(progetto) : nessuna, cifre(resistenza),
+                             nota ? uso(progetto, resistenza) : nessuna, nessuna};
     if (!nota) return celle;
     celle.back() = parola(traduttore(fallita ? nonVerificata : verificata));
     if (fallita) celle.back().peso = review::Peso::pericolo;
     return celle;
 }
 
+const char* senzaAzioni(const ControlliSezione& controlli) {
+    return controlli.conAzioni ? "" : azioniNonNote;
+}
+
 void flessione(const ControlliSezione& controlli, Prospetto& p) {
     const auto& c = *controlli.flessione;
     const project::Unita& u = unita::momentoAlMetro;
-    const auto aggiungi = [&](const char* simbolo, bool agisce, double Md, double MRd,
-                              bool fallita) {
-        p.righe.push_back(riga(simbolo, u, agisce, mostrato(u, Md), mostrato(u, MRd), fallita));
-    };
-    aggiungi("M+", controlli.conAzioni, c.mdMax, c.mrPos, c.fallitaPos());
-    aggiungi("M−", controlli.conAzioni && c.negativo, c.mdMin, c.mrNeg, c.fallitaNeg());
+    const char* senzaNegativo = controlli.conAzioni && !c.negativo
+                                    ? "Nessun momento negativo agisce."
+                                    : senzaAzioni(controlli);
+    p.righe.push_back(riga("M+", u, senzaAzioni(controlli), mostrato(u, c.mdMax),
+                           mostrato(u, c.mrPos), c.fallitaPos()));
+    p.righe.push_back(
+        riga("M−", u, senzaNegativo, mostrato(u, c.mdMin), mostrato(u, c.mrNeg), c.fallitaNeg()));
 }
 
 void taglio(const ControlliSezione& controlli, Prospetto& p) {
     const auto& c = *controlli.taglio;
     const auto aggiungi = [&](const char* simbolo, double VRd, bool fallita) {
         p.righe.push_back(
-            riga(simbolo, unita::forzaAlMetro, controlli.conAzioni, c.Vsd, VRd, fallita));
+            riga(simbolo, unita::forzaAlMetro, senzaAzioni(controlli), c.Vsd, VRd, fallita));
     };
     aggiungi("V, VRd2", c.Vrd2, c.rotturaBielle());
     aggiungi("V, VRd3", c.Vrd3, c.rotturaArmatura());
@@ -110,8 +120,7 @@ std::vector<Colonna> colonne() {
 
 std::string origine(const PareteViva& parete, const ControlliSezione& controlli) {
     if (controlli.dellaRelazione) return traduttore("Azioni della relazione.");
-    if (!controlli.conAzioni)
-        return traduttore("Azioni non note: la paratia non è calcolata o non è in equilibrio.");
+    if (!controlli.conAzioni) return traduttore(azioniNonNote);
     if (parete.sta()) return traduttore("Azioni dell'equilibrio certo.");
     return riempito(traduttore("Azioni dell'equilibrio certo, fino alla fase %1."),
                     {std::to_string(parete.fasiInEquilibrio())});

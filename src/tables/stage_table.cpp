@@ -6,6 +6,7 @@
 #include "equilibrium/extremes.hpp"
 #include "safety/words.hpp"
 #include "tables/node_table.hpp"
+#include "tables/quantities.hpp"
 
 namespace korven::tables {
 
@@ -25,17 +26,17 @@ Cella verdetto(const PareteViva& parete, int k) {
     return c;
 }
 
-// The value, then the depth of its node; a curve that is 0 all along has its largest nowhere.
+// The value, then the depth of its node.
 void aggiungi(const Estremo& estremo, Cella (*valore)(double), std::vector<Cella>& riga) {
     riga.push_back(valore(estremo.valore));
-    riga.push_back(estremo.fase > 0 ? profondita(estremo.z) : Cella{});
+    riga.push_back(dove(estremo.fase, estremo.z));
 }
 
 std::vector<Cella> rigaFase(const PareteViva& parete, int k) {
     std::vector<Cella> riga = {cella(k), verdetto(parete, k), profondita(parete.dati.profFase[k])};
     const equilibrium::FaseEquilibrio* fase = parete.fase(k);
     if (fase == nullptr) {
-        riga.resize(9);
+        riga.resize(9, senza(perche(parete, k)));
         return riga;
     }
     const equilibrium::Estremi e = equilibrium::estremi(*fase, parete.h);

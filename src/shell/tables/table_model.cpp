@@ -29,6 +29,7 @@ QColor grigio() {
 QString detta(const Colonna& colonna, const Cella& cella) {
     QString testo = qt(colonna.titolo) + QLatin1Char(' ') + qt(cella.testo);
     if (!colonna.unita.empty()) testo += QLatin1Char(' ') + qt(colonna.unita);
+    if (!cella.perche.empty()) testo += QStringLiteral(": ") + qt(cella.perche);
     if (cella.peso) testo += QStringLiteral(", ") + tradotto(parolaMostrata(*cella.peso));
     return testo;
 }
@@ -38,6 +39,7 @@ QVariant datoCella(const Colonna& colonna, const Cella& cella, int ruolo) {
         case Qt::DisplayRole:
             return qt(cella.testo);
         case Qt::ToolTipRole:  // words may be cut
+            if (!cella.perche.empty()) return qt(cella.perche);
             return colonna.numerica ? QVariant() : QVariant(qt(cella.testo));
         case Qt::TextAlignmentRole:
             return QVariant::fromValue(Qt::AlignVCenter |
