@@ -32,12 +32,6 @@ using tables::Prospetto;
 constexpr QSize misuraComoda(1000, 540);
 constexpr const char* paginaGuida = "finestra_risultati";
 
-QString insieme(const std::vector<std::string>& frasi) {
-    QStringList righe;
-    for (const std::string& frase : frasi) righe << qt(frase);
-    return righe.join(QLatin1Char('\n'));
-}
-
 }  // namespace
 
 FinestraRisultati::FinestraRisultati(QWidget& principale, VitaProgetto& vita,
@@ -52,6 +46,7 @@ FinestraRisultati::FinestraRisultati(QWidget& principale, VitaProgetto& vita,
     pagine_->setAccessibleName(windowTitle());
     colonna->addWidget(pagine_, 1);
     nodi_ = farePagina("nodi", "Nodi");
+    nodi_->setWordWrap(false);  // rows of one height, of which there are hundreds
     tiranti_ = farePagina("tiranti", "Tiranti");
     verifiche_ = farePagina("verifiche", "Verifiche");
     fasi_ = farePagina("fasi", "Fasi");

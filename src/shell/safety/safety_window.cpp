@@ -24,7 +24,7 @@ namespace {
 using tables::Prospetto;
 using tables::Riassunto;
 
-constexpr QSize misuraComoda(1010, 540);
+constexpr QSize misuraComoda(1180, 560);
 constexpr const char* paginaGuida = "finestra_sicurezza";
 
 }  // namespace
@@ -59,7 +59,7 @@ FinestraSicurezza::FinestraSicurezza(QWidget& principale, VitaProgetto& vita,
     meta->addWidget(meccanismo_);
     meta->setStretchFactor(0, 2);
     meta->setStretchFactor(1, 1);
-    meta->setSizes({2 * misuraComoda.width(), misuraComoda.width()});
+    meta->setSizes({5 * misuraComoda.width(), 2 * misuraComoda.width()});
     auto* colonna = new QVBoxLayout(this);
     colonna->addWidget(verdetto_);
     colonna->addWidget(meta, 1);
@@ -106,25 +106,24 @@ void FinestraSicurezza::segui() {
 }
 
 void FinestraSicurezza::mostra(const Riassunto& riassunto) {
-    QStringList righe;
-    for (const std::string& frase : riassunto.frasi) righe << qt(frase);
     if (riassunto.margine == nullptr) {
-        for (VistaProspetto* vista : {margine_, statica_, maglia_}) vista->mostra({});
+        for (VistaProspetto* vista : {margine_, statica_, maglia_})
+            vista->mostra({.note = {riassunto.verdetto}});
         meccanismo_->mostra({}, qt(riassunto.verdetto));
         frasi_->setText(QString());
         return;
     }
     const safety::Margine& margine = *riassunto.margine;
     const Prospetto perFase = tables::prospettoMargine(margine);
-    for (const std::string& nota : perFase.note) righe << qt(nota);
+    std::vector<std::string> righe = riassunto.frasi, detto = {riassunto.verdetto};
+    for (auto* testi : {&righe, &detto})
+        testi->insert(testi->end(), perFase.note.begin(), perFase.note.end());
     margine_->mostra(perFase);
     statica_->mostra(tables::prospettoStatica(margine));
     maglia_->mostra(tables::prospettoMaglia(margine));
-    frasi_->setText(inRighe(righe.join(QLatin1Char('\n'))));
-    QStringList detto = {qt(riassunto.verdetto)};
-    for (const std::string& nota : perFase.note) detto << qt(nota);
-    meccanismo_->mostra(live::pareteAlLimite(vita_.vivo().parete(), margine),
-                        detto.join(QLatin1Char('\n')), tables::didascaliaMeccanismo(margine));
+    frasi_->setText(inRighe(insieme(righe)));
+    meccanismo_->mostra(live::pareteAlLimite(vita_.vivo().parete(), margine), insieme(detto),
+                        tables::didascaliaMeccanismo(margine));
 }
 
 void collegaSicurezza(commands::FormeProgramma& forme, QWidget& principale, VitaProgetto& vita) {

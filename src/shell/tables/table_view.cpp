@@ -7,12 +7,15 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMimeData>
+#include <QPainter>
 #include <algorithm>
+#include <numeric>
 #include <set>
 #include <utility>
 
 #include "shell/qt_text.hpp"
 #include "shell/tables/bar_delegate.hpp"
+#include "shell/wrapped_text.hpp"
 #include "tables/table_text.hpp"
 
 namespace korven::shell {
@@ -22,6 +25,7 @@ namespace {
 constexpr int margine = 14;           // beside the text of a cell [px]
 constexpr int larghezzaBarre = 70;    // of a column with bars at least [px]
 constexpr int larghezzaParole = 360;  // of a column of words at most [px]
+constexpr int paroleStrette = 150;    // of one that goes into several lines at least [px]
 
 // The widest text of a column, near enough by its length.
 QString piuLungo(const ModelloProspetto& modello, int colonna) {
@@ -42,13 +46,18 @@ bool haBarre(const ModelloProspetto& modello, int colonna) {
 
 }  // namespace
 
+QString insieme(const std::vector<std::string>& frasi) {
+    QStringList righe;
+    for (const std::string& frase : frasi) righe << qt(frase);
+    return righe.join(QLatin1Char('\n'));
+}
+
 VistaProspetto::VistaProspetto(const QString& nome, QWidget* padre)
     : QTableView(padre), modello_(new ModelloProspetto(this)) {
     setObjectName(nome);
     setModel(modello_);
     setItemDelegate(new DelegatoBarre(this));
     setAlternatingRowColors(true);
-    setWordWrap(false);
     setTabKeyNavigation(false);  // Tab leaves the table
     setHorizontalScrollMode(ScrollPerPixel);
     verticalHeader()->hide();
@@ -62,13 +71,22 @@ VistaProspetto::VistaProspetto(const QString& nome, QWidget* padre)
 
 void VistaProspetto::mostra(tables::Prospetto prospetto) {
     if (!prospetto.titolo.empty()) setAccessibleName(qt(prospetto.titolo));
+    setAccessibleDescription(prospetto.righe.empty() ? insieme(prospetto.note) : QString());
     const bool altra = prospetto.colonne != modello_->prospetto().colonne;
     modello_->mostra(std::move(prospetto));
-    allarga(altra);
+    if (misura(altra))
+        adatta();
+    else if (wordWrap())
+        resizeRowsToContents();
+    viewport()->update();
 }
 
 // Columns only grow while the table is the same: they would dance with every key otherwise.
-void VistaProspetto::allarga(bool altra) {
+bool VistaProspetto::misura(bool altra) {
+    const std::vector<int> prima = larghezze_;
+    if (altra) larghezze_.clear();
+    larghezze_.resize(static_cast<std::size_t>(modello_->columnCount()));
+    teste_.resize(larghezze_.size());
     QFont grassetto = font();
     grassetto.setBold(true);
     const QFontMetrics misure(grassetto);
@@ -80,8 +98,42 @@ void VistaProspetto::allarga(bool altra) {
             std::min(misure.horizontalAdvance(piuLungo(*modello_, c)), larghezzaParole);
         const int minima = haBarre(*modello_, c) ? larghezzaBarre : 0;
         const int serve = std::max({teste, celle, minima}) + margine;
-        if (altra || columnWidth(c) < serve) setColumnWidth(c, serve);
+        teste_[static_cast<std::size_t>(c)] = teste + margine;
+        int& larga = larghezze_[static_cast<std::size_t>(c)];
+        larga = std::max(larga, serve);
     }
+    return altra || larghezze_ != prima;
+}
+
+// What is missing in width is taken from the words, which have the height of rows instead.
+void VistaProspetto::adatta() {
+    // A scroll bar that comes or goes asks before the new columns are measured.
+    if (larghezze_.size() != modello_->prospetto().colonne.size()) return;
+    int manca = std::accumulate(larghezze_.begin(), larghezze_.end(), 0) - viewport()->width();
+    for (std::size_t c = larghezze_.size(); c-- > 0;) {
+        int larga = larghezze_[c];
+        if (wordWrap() && manca > 0 && !modello_->prospetto().colonne[c].numerica) {
+            larga = std::clamp(larga - manca, std::min(std::max(paroleStrette, teste_[c]), larga),
+                               larga);
+            manca -= larghezze_[c] - larga;
+        }
+        setColumnWidth(static_cast<int>(c), larga);
+    }
+    if (wordWrap()) resizeRowsToContents();
+}
+
+void VistaProspetto::resizeEvent(QResizeEvent* evento) {
+    QTableView::resizeEvent(evento);
+    adatta();
+}
+
+void VistaProspetto::paintEvent(QPaintEvent* evento) {
+    QTableView::paintEvent(evento);
+    if (modello_->rowCount() > 0) return;
+    QPainter(viewport())
+        .drawText(viewport()->rect().adjusted(margine, margine, -margine, -margine),
+                  Qt::AlignTop | Qt::AlignHCenter | Qt::TextWordWrap,
+                  inRighe(insieme(modello_->prospetto().note)));
 }
 
 QMimeData* VistaProspetto::copiato() const {

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QTableView>
+#include <string>
+#include <vector>
 
 #include "shell/tables/table_model.hpp"
 
@@ -8,8 +10,12 @@ class QMimeData;
 
 namespace korven::shell {
 
+/// Sentences, a line each.
+[[nodiscard]] QString insieme(const std::vector<std::string>& frasi);
+
 /// A table of results to look at: sorted by a click on a head or by its menu, copied with the heads
-/// into a spreadsheet.
+/// into a spreadsheet. Words go into several lines where the window is too narrow for them, unless
+/// `wordWrap` is taken from it. A table without rows shows its notes in their place: why.
 ///
 /// Keys: Ctrl+A selects all, Ctrl+C copies what is selected, all where it is one cell; the menu key
 /// opens the menu, which sorts by the column of the current cell.
@@ -27,13 +33,18 @@ class VistaProspetto : public QTableView {
     void copia() const;
 
  protected:
+    void paintEvent(QPaintEvent* evento) override;
+    void resizeEvent(QResizeEvent* evento) override;
     void keyPressEvent(QKeyEvent* evento) override;
     void contextMenuEvent(QContextMenuEvent* evento) override;
 
  private:
-    void allarga(bool altra);
+    [[nodiscard]] bool misura(bool altra);
+    void adatta();
 
     ModelloProspetto* modello_;
+    // That the texts of each column need in one line, and its head alone [px].
+    std::vector<int> larghezze_, teste_;
 };
 
 }  // namespace korven::shell

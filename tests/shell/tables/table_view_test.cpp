@@ -157,5 +157,44 @@ TEST_F(VistaProspettoTest, ShowsInGreyWhatIsOfTheWallBefore) {
     EXPECT_TRUE(vista.modello().data(vista.modello().index(0, 0), Qt::ForegroundRole).isValid());
 }
 
+// A table of a number and of words that are wider than its window.
+Prospetto parole() {
+    const std::string lunga =
+        "ruota attorno alla profondità di 6.12 m, il piede verso lo scavo, e ancora altre parole";
+    return {.titolo = "Margine",
+            .colonne = {{.titolo = "Fase"}, {.titolo = "Con F", .numerica = false}},
+            .righe = {{tables::cella(1), tables::parola("ferma")},
+                      {tables::cella(2), tables::parola(lunga)}}};
+}
+
+TEST_F(VistaProspettoTest, SetsWordsInSeveralLinesWhereTheWindowIsNarrow) {
+    vista.resize(280, 300);
+    vista.mostra(parole());
+    QTest::qWait(1);
+    EXPECT_EQ(vista.horizontalScrollBar()->maximum(), 0);
+    EXPECT_GT(vista.rowHeight(1), 2 * vista.rowHeight(0));
+    vista.resize(900, 300);
+    QTest::qWait(1);
+    EXPECT_EQ(vista.rowHeight(1), vista.rowHeight(0));
+}
+
+TEST_F(VistaProspettoTest, SaysWhyItHasNoRowsAndWhyACellIsEmpty) {
+    Prospetto vuoto = parole();
+    vuoto.righe.clear();
+    vista.mostra(vuoto);
+    const QImage muta = vista.grab().toImage();
+    vuoto.note = {"La paratia è un meccanismo nella fase 2."};
+    vista.mostra(vuoto);
+    EXPECT_NE(vista.grab().toImage(), muta);
+    EXPECT_EQ(vista.accessibleDescription(), qt(vuoto.note[0]));
+    Prospetto monca = parole();
+    monca.righe[0][0] = tables::senza("La resistenza è 0.");
+    vista.mostra(monca);
+    const auto indice = vista.modello().index(0, 0);
+    EXPECT_EQ(vista.modello().data(indice, Qt::ToolTipRole), "La resistenza è 0.");
+    EXPECT_EQ(vista.modello().data(indice, Qt::AccessibleTextRole), "Fase -: La resistenza è 0.");
+    EXPECT_EQ(vista.accessibleDescription(), QString());
+}
+
 }  // namespace
 }  // namespace korven::shell
