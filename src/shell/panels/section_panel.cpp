@@ -48,6 +48,7 @@ PannelloSezione::PannelloSezione(DefinEJ& forma, VitaProgetto& vita, base::Dialo
     setObjectName(QStringLiteral("PannelloSezione"));
     valori_ = fareEtichetta("valori", this);
     verifiche_ = new VistaProspetto(QStringLiteral("verifiche"), this);
+    verifiche_->setWordWrap(false);
     origine_ = fareEtichetta("origine", this);
     auto* quadri = new QTabWidget(this);
     quadri->setObjectName(QStringLiteral("quadri"));
@@ -89,14 +90,17 @@ void PannelloSezione::mostra() {
     const safety::Margine* margine =
         lenti != nullptr && lenti->margine ? &*lenti->margine : nullptr;
     const auto quadro = tables::quadroSezione(vivo.dati(), vivo.parete(), margine);
-    QStringList righe;
-    for (const auto& riga : quadro.righe) righe << qt(riga);
-    valori_->setText(inRighe(righe.join(QLatin1Char('\n'))));
-    QStringList note;
-    for (const auto& nota : quadro.verifiche.note) note << qt(nota);
-    origine_->setText(inRighe(note.join(QLatin1Char('\n'))));
-    verifiche_->mostra(quadro.verifiche);
+    valori_->setText(inRighe(insieme(quadro.righe)));
     const bool calcolabile = live::sezioneCalcolabile(vivo.dati().sezione);
+    const bool provvisorie = calcolabile && lenti == nullptr;
+    // One short line meanwhile: what stands below would jump otherwise.
+    const QString origine = inRighe(insieme(quadro.verifiche.note));
+    origine_->setText(provvisorie ? tradotto("Calcolo in corso") + QStringLiteral("...") : origine);
+    origine_->setToolTip(origine);
+    verifiche_->mostra(quadro.verifiche);
+    // Until the report's numbers come those shown are of the equilibrium, and will move.
+    verifiche_->sospendi(provvisorie);
+    fasi_->sospendi(provvisorie);
     auto dominio = lenti != nullptr ? lenti->dominio : dominio_->dominio();
     if (!calcolabile) dominio.clear();
     fasi_->mostra(tables::prospettoDominio(vivo.parete(), margine, dominio));

@@ -99,6 +99,29 @@ TEST_F(PannelloSezioneTest, ShowsTheDomainOnceTypingRests) {
     EXPECT_EQ(dominio.dominio().back().Nd, structure::dominioNM(scritta).back().Nd);
 }
 
+TEST_F(PannelloSezioneTest, GreysWhatWaitsForTheReportAndSaysSoInItsPlace) {
+    apri();
+    const auto grigie = [this] {
+        const auto* modello = trova<QTableView>("verifiche").model();
+        return modello->index(0, 1).data(Qt::ForegroundRole).isValid();
+    };
+    const auto& origine = trova<QLabel>("origine");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return vita.vivo().lenti() != nullptr; }, 30000));
+    EXPECT_FALSE(grigie());
+    EXPECT_EQ(origine.text(), "Azioni della relazione.");
+    const QRect posto = origine.geometry();
+    scrivi("Text7", "900");
+    EXPECT_TRUE(grigie());
+    EXPECT_EQ(origine.text(), "Calcolo in corso...");
+    EXPECT_EQ(origine.toolTip(), "Azioni dell'equilibrio certo.");
+    QTest::qWait(1);
+    EXPECT_EQ(origine.geometry(), posto);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return vita.vivo().lenti() != nullptr; }, 30000));
+    EXPECT_FALSE(grigie());
+    EXPECT_EQ(origine.text(), "Azioni della relazione.");
+    EXPECT_EQ(origine.geometry(), posto);
+}
+
 TEST_F(PannelloSezioneTest, ComesAfterTheButtonsOfTheForm) {
     apri();
     trova("Command2").setFocus();
