@@ -66,10 +66,10 @@ inline constexpr Unita numeroBarre{"-", "-", millimetri};
 inline constexpr Unita percento{"-", "%", 100};  ///< of a share of 1
 inline constexpr Unita gradi{"°", "°"};
 inline constexpr Unita metri{"m", "m"};
-inline constexpr Unita spostamento{"m", "cm", centimetri};
-inline constexpr Unita spostamentoFine{"m", "mm",
-                                       millimetriMetro};  ///< where it is told, not tabled
-inline constexpr Unita misura{"cm", "mm", millimetri};    ///< a length of the section
+inline constexpr Unita spostamento{"m", "cm", centimetri};  ///< of the report and the drawings
+/// Of windows, pictures, remarks and the tables that are no part of the report.
+inline constexpr Unita spostamentoFine{"m", "mm", millimetriMetro};
+inline constexpr Unita misura{"cm", "mm", millimetri};  ///< a length of the section
 inline constexpr Unita tensione{"N/mm²", "N/mm²"};
 inline constexpr Unita forza{"t", "kN", kilonewton};
 inline constexpr Unita momento{"t m", "kN m", kilonewton};

@@ -9,6 +9,7 @@
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <QScrollArea>
+#include <QStyle>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <utility>
@@ -67,6 +68,9 @@ Base1::Base1(const masks::Maschera& maschera, std::vector<double> combo,
 
 void Base1::affianca(QWidget* pannello) {
     const QSize campi = misuraComoda();
+    // The fields come first: what the panel has more than it needs at least is theirs.
+    area_->setMinimumWidth(area_->minimumWidth() +
+                           style()->pixelMetric(QStyle::PM_ScrollBarExtent));
     fila_->addWidget(pannello);
     for (auto* pulsante : pannello->findChildren<QAbstractButton*>())
         pulsante->installEventFilter(this);  // Enter presses them as it does those of the form

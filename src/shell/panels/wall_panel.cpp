@@ -1,5 +1,6 @@
 #include "shell/panels/wall_panel.hpp"
 
+#include <QStyle>
 #include <QVBoxLayout>
 #include <string>
 
@@ -41,7 +42,9 @@ PannelloParatia::PannelloParatia(const QWidget& forma, VitaProgetto& vita)
     colonna->addWidget(schizzo_, 1);
     colonna->addWidget(parole_);
     riempi(nullptr, tutto);
-    if (forma.width() + minimumSizeHint().width() > misuraMassima(forma).width()) piega();
+    const int perICampi =
+        forma.minimumSizeHint().width() + style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    if (perICampi + minimumSizeHint().width() > misuraMassima(forma).width()) piega();
     connect(&vita, &VitaProgetto::cambiata, this, &PannelloParatia::aggiorna);
     aggiorna();
 }
