@@ -3,6 +3,7 @@
 #include <limits>
 #include <string>
 
+#include "base/axis_steps.hpp"
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
 #include "scene/curve_data.hpp"
@@ -84,8 +85,8 @@ class Pannello {
     }
 
     void profondita() {
-        const double passo =
-            passoAsse(m_.lunghezza, std::max(2, static_cast<int>((y2_ - y1_) / (3.2 * q_.em))));
+        const double passo = base::passoAsse(
+            m_.lunghezza, std::max(2, static_cast<int>((y2_ - y1_) / (3.2 * q_.em))));
         for (int i = 0; i * passo <= m_.lunghezza * (1 + 1e-9); ++i) {
             const double z = i * passo, y = q_.y(z);
             linea({{x1_, y}, {x2_, y}}, Ruolo::griglia, 1);
@@ -123,14 +124,13 @@ class Pannello {
     void ascisse() {
         const double largo = tela_.larghezza("-0000", 0.85 * q_.em) + 1.2 * q_.em;
         const double passo =
-            passoAsse(massimo_ - minimo_, std::max(2, static_cast<int>((x2_ - x1_) / largo)));
-        const int decimali = std::max(0, static_cast<int>(std::ceil(-std::log10(passo) - 1e-9)));
+            base::passoAsse(massimo_ - minimo_, std::max(2, static_cast<int>((x2_ - x1_) / largo)));
         linea({{x1_, y1_}, {x2_, y1_}}, Ruolo::asse, 1);
         for (double i = std::ceil(minimo_ / passo); i * passo <= massimo_; ++i) {
             const double v = i * passo, xv = x(v);
             linea({{xv, y1_}, {xv, y2_}}, Ruolo::griglia, 1);
             linea({{xv, y1_ - 0.35 * q_.em}, {xv, y1_}}, Ruolo::asse, 1);
-            numero(base::testoDecimali(v, decimali), {{xv, y1_ - 1.12 * q_.em}, Ancora::centro});
+            numero(base::numeroAsse(v, passo), {{xv, y1_ - 1.12 * q_.em}, Ancora::centro});
         }
     }
 

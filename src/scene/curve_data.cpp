@@ -74,12 +74,4 @@ DatiCurva datiCurva(const live::PareteViva& parete, int fase, live::Curva curva)
     return dati;
 }
 
-double passoAsse(double ampiezza, int massimo) {
-    const double minimo = ampiezza / massimo;
-    const double decade = std::pow(10, std::floor(std::log10(minimo)));
-    for (const double passo : {1.0, 2.0, 5.0})
-        if (passo * decade >= minimo) return passo * decade;
-    return std::pow(10, std::ceil(std::log10(minimo)));
-}
-
 }  // namespace korven::scene

@@ -36,8 +36,4 @@ struct DatiCurva {
 /// @param fase  counted from 1; 0: the envelope of the stages that stand
 [[nodiscard]] DatiCurva datiCurva(const live::PareteViva& parete, int fase, live::Curva curva);
 
-/// Steps 1, 2 or 5 times a power of ten: the smallest that divides the range into `massimo` at
-/// most.
-[[nodiscard]] double passoAsse(double ampiezza, int massimo);
-
 }  // namespace korven::scene

@@ -4,11 +4,12 @@
 #include <cmath>
 #include <utility>
 
+#include "base/axis_steps.hpp"
 #include "base/filled_text.hpp"
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
+#include "project/units.hpp"
 #include "scene/canvas.hpp"
-#include "scene/curve_data.hpp"
 #include "scene/frame.hpp"
 #include "scene/polygon.hpp"
 
@@ -108,8 +109,7 @@ class Quadro {
     }
 
     void numero(double v, double passo, Posto posto) {
-        const int decimali = std::max(0, static_cast<int>(std::ceil(-std::log10(passo) - 1e-9)));
-        scrivi(base::testoDecimali(v, decimali), std::move(posto), Ruolo::testoTenue);
+        scrivi(base::numeroAsse(v, passo), std::move(posto), Ruolo::testoTenue);
     }
     void scrivi(std::string testo, Posto posto, Ruolo ruolo, Grado grado = Grado::asse,
                 int di = 0) {
@@ -123,14 +123,14 @@ class Quadro {
     }
 
     void assi() {
-        const double passoN = passoAsse(
+        const double passoN = base::passoAsse(
             N_.massimo - N_.minimo, std::max(2, static_cast<int>((N_.a - N_.da) / (N_.da + em_))));
         for (double i = std::ceil(N_.minimo / passoN); i * passoN <= N_.massimo; ++i) {
             const double x = N_.su(i * passoN);
             linea({{x, M_.a}, {x, M_.da}}, Ruolo::griglia, 1);
             numero(i * passoN, passoN, {{x, M_.da + 0.8 * em_}, Ancora::centro});
         }
-        const double passoM = passoAsse(
+        const double passoM = base::passoAsse(
             M_.massimo - M_.minimo, std::max(2, static_cast<int>((M_.da - M_.a) / (2.2 * em_))));
         for (double i = std::ceil(M_.minimo / passoM); i * passoM <= M_.massimo; ++i) {
             const double y = M_.su(i * passoM);

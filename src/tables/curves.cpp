@@ -4,9 +4,7 @@
 #include <cmath>
 
 #include "analysis/node_vector.hpp"
-#include "base/filled_text.hpp"
-#include "base/number_text.hpp"
-#include "base/translated_texts.hpp"
+#include "base/axis_steps.hpp"
 #include "live/envelope.hpp"
 #include "tables/node_table.hpp"
 #include "tables/quantities.hpp"
@@ -19,15 +17,7 @@ using equilibrium::FaseEquilibrio;
 using live::Fascia;
 using live::PareteViva;
 
-// 1, 2 or 5 times a power of ten, so that about four steps make the span.
-double passoTondo(double ampiezza) {
-    const double grezzo = ampiezza / 4;
-    const double potenza = std::pow(10, std::floor(std::log10(grezzo)));
-    double passo = potenza;
-    for (const double volte : {2.0, 5.0, 10.0})
-        if (passo < grezzo) passo = volte * potenza;
-    return passo;
-}
+constexpr int passiAlPiu = 4;  // of an axis
 
 // A curve that is 0 all along has an axis all the same.
 void asse(CurvaMostrata& c) {
@@ -35,7 +25,7 @@ void asse(CurvaMostrata& c) {
     for (const double v : c.minimo) minimo = std::min(minimo, mostrato(*c.unita, v));
     for (const double v : c.massimo) massimo = std::max(massimo, mostrato(*c.unita, v));
     const double ampiezza = massimo - minimo;
-    c.passo = ampiezza > 0 ? passoTondo(ampiezza) : 1;
+    c.passo = ampiezza > 0 ? base::passoAsse(ampiezza, passiAlPiu) : 1;
     c.da = std::floor(minimo / c.passo) * c.passo;
     c.a = std::ceil(massimo / c.passo) * c.passo;
     if (c.da == c.a) c.a = c.da + c.passo;
@@ -99,11 +89,6 @@ std::string lettura(const CurveMostrate& curve, std::size_t nodo) {
         segno = "; ";
     }
     return testo;
-}
-
-std::string numeroAsse(double valore, double passo) {
-    const int decimali = std::max(0, -static_cast<int>(std::floor(std::log10(passo) + 1e-9)));
-    return base::testoDecimali(valore, decimali);
 }
 
 }  // namespace korven::tables

@@ -42,7 +42,4 @@ struct CurveMostrate {
 /// All that is to be read at a node, in one line: "z 3.20 m: Pressione netta 12.30 kN/m²; ...".
 [[nodiscard]] std::string lettura(const CurveMostrate& curve, std::size_t nodo);
 
-/// The number of an axis: no more digits than its step needs.
-[[nodiscard]] std::string numeroAsse(double valore, double passo);
-
 }  // namespace korven::tables

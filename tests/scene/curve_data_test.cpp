@@ -52,14 +52,5 @@ TEST(DatiCurva, AreNothingWhereNothingIsKnownOrANumberIsNone) {
     EXPECT_TRUE(datiCurva(live::PareteViva{}, 0, Curva::momento).serie.empty());
 }
 
-TEST(PassoAsse, IsOneTwoOrFiveTimesAPowerOfTen) {
-    EXPECT_DOUBLE_EQ(passoAsse(10, 5), 2);
-    EXPECT_DOUBLE_EQ(passoAsse(10, 4), 5);
-    EXPECT_DOUBLE_EQ(passoAsse(10, 1), 10);
-    EXPECT_DOUBLE_EQ(passoAsse(700, 4), 200);
-    EXPECT_DOUBLE_EQ(passoAsse(0.03, 4), 0.01);
-    EXPECT_DOUBLE_EQ(passoAsse(6, 1), 10);
-}
-
 }  // namespace
 }  // namespace korven::scene

@@ -68,12 +68,5 @@ TEST(NodoVicino, IsTheNearestOne) {
     EXPECT_EQ(nodoVicino(c, 99), 24u);
 }
 
-TEST(NumeroAsse, HasNoMoreDigitsThanItsStepNeeds) {
-    EXPECT_EQ(numeroAsse(250, 50), "250");
-    EXPECT_EQ(numeroAsse(-0.4, 0.2), "-0.4");
-    EXPECT_EQ(numeroAsse(0.05, 0.05), "0.05");
-    EXPECT_EQ(numeroAsse(0, 1), "0");
-}
-
 }  // namespace
 }  // namespace korven::tables

@@ -8,6 +8,7 @@
 #include <cmath>
 #include <utility>
 
+#include "base/axis_steps.hpp"
 #include "device/scene_painter.hpp"
 #include "shell/accessible_roles.hpp"
 #include "shell/qt_text.hpp"
@@ -89,7 +90,7 @@ void VistaCurve::asseProfondita(QPainter& p) const {
         p.drawLine(QPointF(quadro().left(), y(z)), QPointF(quadro().right(), y(z)));
         p.setPen(colore(Ruolo::testoTenue, palette()));
         p.drawText(QRectF(0, y(z) - riga / 2, quadro().left() - 6, riga),
-                   Qt::AlignRight | Qt::AlignVCenter, qt(tables::numeroAsse(z, passo)));
+                   Qt::AlignRight | Qt::AlignVCenter, qt(base::numeroAsse(z, passo)));
     }
     if (scavo_ > 0 && scavo_ <= profondita()) {
         p.setPen(QPen(colore(Ruolo::terreno, palette()), 1.4, Qt::DashLine));
@@ -138,7 +139,7 @@ void VistaCurve::pannello(QPainter& p, const CurvaMostrata& curva, const QRectF&
          {std::pair{curva.da, Qt::AlignLeft}, std::pair{curva.a, Qt::AlignRight}}) {
         p.setPen(colore(Ruolo::testoTenue, palette()));
         p.drawText(QRectF(dove.left(), dove.bottom() + 2, dove.width(), riga), allineato,
-                   qt(tables::numeroAsse(v, curva.passo)));
+                   qt(base::numeroAsse(v, curva.passo)));
     }
     // What is read.
     const double z = y(curve_.z[nodo_]);
