@@ -28,9 +28,6 @@ struct Regola {
     bool intero = false;
 };
 
-// No line ends between a value and its unit.
-constexpr const char* spazio = "\u00A0";
-
 constexpr double senzaLimite = std::numeric_limits<double>::infinity();
 
 Regola regola(VoceCalcolo voce) {
@@ -186,7 +183,7 @@ EsitoCalcolo area(const IngressiCalcolo& in) {
     if (!std::isfinite(A)) return smisurato();
     return conValore(A, (tondo ? "A = n π d² / 4 = " + n + " π × " + misura + "² / 4"
                                : "A = " + n + " × " + misura) +
-                            " = " + cifre(A) + spazio + "mm²");
+                            " = " + cifre(A) + " mm²");
 }
 
 EsitoCalcolo rigidezza(const IngressiCalcolo& in) {
@@ -206,7 +203,7 @@ EsitoCalcolo rigidezza(const IngressiCalcolo& in) {
                             cifre(uno.area) + " × " + base::testoDecimali(c * c, 4) + " / (" +
                             testoNumero(uno.lunghezza) + " × " + testoNumero(uno.interasse) +
                             " × " + testoNumero(project::newtonKilonewton) + ") = " + cifre(k) +
-                            spazio + "kN/m/m");
+                            " kN/m/m");
 }
 
 EsitoCalcolo pretensione(const IngressiCalcolo& in) {
@@ -219,7 +216,7 @@ EsitoCalcolo pretensione(const IngressiCalcolo& in) {
     if (!std::isfinite(p)) return smisurato();
     return conValore(p, "F cos α / s = " + testoNumero(F) + " × " +
                             base::testoDecimali(coseno(alfa), 4) + " / " + testoNumero(s) + " = " +
-                            cifre(p) + spazio + "kN/m");
+                            cifre(p) + " kN/m");
 }
 
 std::optional<double> forzaDiUno(const IngressiCalcolo& in, double perMetro) {

@@ -59,6 +59,12 @@ std::string paroleFase(const live::PareteViva& parete, int fase) {
            perche;
 }
 
+std::string comEra(const live::ProgettoVivo& vivo, const std::string& parole) {
+    if (vivo.impedimento().empty()) return parole;
+    return traduttore("com'era prima delle modifiche in corso") + " (" + vivo.impedimento() +
+           "): " + parole;
+}
+
 namespace {
 
 // What is shown of another stage than that of the row: the sketch stays while a row is begun.
@@ -74,11 +80,10 @@ FaseDellaRiga trovata(const live::ProgettoVivo& vivo, const masks::ModelloGrigli
     const auto fase = rigaConDati(griglia, riga);
     if (!fase) return invece(vivo, ultimaSopra(griglia, riga), traduttore("la riga è vuota"));
     const bool mostrata = *fase <= vivo.parete().dati.nFasi;
-    if (vivo.impedimento().empty())
-        return mostrata ? FaseDellaRiga{fase, paroleFase(vivo.parete(), *fase)} : FaseDellaRiga{};
-    if (!mostrata) return invece(vivo, fase, vivo.impedimento());
-    return {fase, traduttore("com'era prima delle modifiche in corso") + " (" + vivo.impedimento() +
-                      "): " + paroleFase(vivo.parete(), *fase)};
+    if (!mostrata)
+        return vivo.impedimento().empty() ? FaseDellaRiga{}
+                                          : invece(vivo, fase, vivo.impedimento());
+    return {fase, comEra(vivo, paroleFase(vivo.parete(), *fase))};
 }
 
 }  // namespace

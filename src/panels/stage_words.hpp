@@ -13,6 +13,11 @@ namespace korven::panels {
 /// @pre `fase` is one of the project, from 1: asserted
 [[nodiscard]] std::string paroleFase(const live::PareteViva& parete, int fase);
 
+/// What is said of the wall as it was last, behind what keeps it so: nothing does, and they are the
+/// words alone.
+/// @param vivo  the open project
+[[nodiscard]] std::string comEra(const live::ProgettoVivo& vivo, const std::string& parole);
+
 /// The stage that a row of the open table of stages shows, and what is said below its sketch.
 struct FaseDellaRiga {
     std::optional<int> fase;  ///< nothing: there is no sketch

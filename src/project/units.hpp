@@ -80,6 +80,7 @@ inline constexpr Unita peso{"t/m³", "kN/m³", kilonewton};
 inline constexpr Unita pesoAcqua{"t/m³", "t/m³"};  ///< unlike the weights of the soil
 inline constexpr Unita modulo{"t/m³", "kN/m³", kilonewton};
 inline constexpr Unita rigidezza{"t/m", "kN/m", kilonewton};
+inline constexpr Unita rigidezzaAlMetro{"t/m/m", "kN/m/m", kilonewton};  ///< of wall, where told
 inline constexpr Unita rigidezzaFlessionale{"t m²", "kN m²", kilonewton};
 
 }  // namespace unita

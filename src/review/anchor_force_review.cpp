@@ -100,7 +100,7 @@ class ControlloTiro {
             grave ? Voce("tiro-sbagliato") : "tiro-impreciso",
             rigaConValore(dati_, &DatiProgetto::rigTirante, j_),
             {kilonewton(relazione_), kilonewton(s_.massimo.valore), fase(s_.massimo),
-             numeroMostrato(arrotondata(ammesso / cifraSpostamento), 0, unita::rigidezza)});
+             numeroMostrato(arrotondata(ammesso / cifraSpostamento), 0, unita::rigidezzaAlMetro)});
     }
 
     void diverso() const {

@@ -184,8 +184,8 @@ std::string parole(const DatoInstabile& dato) {
                        "e tensioni verticali");
         case Instabile::tirante:
             return traduttore("rigidezza negativa del tirante") + " " +
-                   std::to_string(dato.tirante) + " (" + valore(dato.valore, unita::rigidezza) +
-                   ")";
+                   std::to_string(dato.tirante) + " (" +
+                   valore(dato.valore, unita::rigidezzaAlMetro) + ")";
         case Instabile::parete:
             return traduttore("rigidezza EJ della paratia non positiva") + " (" +
                    valore(dato.valore, unita::rigidezzaFlessionale) + ")";

@@ -195,7 +195,7 @@ std::string didascaliaMeccanismo(const Margine& margine) {
     if (decisiva == nullptr) return {};
     return base::riempito(traduttore("così cade, nella fase %1, con la resistenza del terreno "
                                      "divisa per F = %2; com'è, è in equilibrio"),
-                          {std::to_string(decisiva->fase), testoRiduzione(decisiva->riduzione)});
+                          {std::to_string(decisiva->fase), safety::testoF(*decisiva->riduzione.F)});
 }
 
 }  // namespace korven::tables

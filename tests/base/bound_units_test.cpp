@@ -19,6 +19,7 @@ TEST(UnitaUnite, BindsANumberToItsUnitAndThePartsOfAUnitToEachOther) {
     EXPECT_EQ(unite("usata: 80.1 %, (15.00 > 12.50 kN/m²)"),
               "usata: 80.1_%, (15.00 > 12.50_kN/m²)");
     EXPECT_EQ(unite("12.3 mm"), "12.3_mm");
+    EXPECT_EQ(unite("k = 2843.8 kN/m/m, p = 80 kN/m"), "k = 2843.8_kN/m/m, p = 80_kN/m");
 }
 
 TEST(UnitaUnite, LeavesWordsThatBeginLikeAUnit) {

@@ -50,7 +50,7 @@ TEST(ControlloTiri, TellsAForceThatSevenDecimalsOfADisplacementAreTooFewFor) {
         conForze(rigido, 6, 8, 8.09),
         Righe{"[da vedere] tiro-impreciso: tirante 1: Rigidezza [kN/m] = 100000000: la relazione "
               "dà il tiro 80.90 kN/m, quello vero è 80.00 kN/m (fase 2): lo calcola da spostamenti "
-              "con sette decimali, che bastano fino a una rigidezza di circa 8000000 kN/m"});
+              "con sette decimali, che bastano fino a una rigidezza di circa 8000000 kN/m/m"});
     EXPECT_EQ(conForze(rigido, 20, 8, 20.09), Righe{});
     EXPECT_EQ(conForze(rigido, 20, 8, 20.5).size(), 1u);
 }
@@ -63,7 +63,7 @@ TEST(ControlloTiri, TellsAForceThatIsFarTooSmallAsADanger) {
               Righe{"[pericolo] tiro-sbagliato: tirante 1: Rigidezza [kN/m] = 1000000000: la "
                     "relazione dà il tiro 0.00 kN/m, quello vero è 80.30 kN/m (fase 2): lo calcola "
                     "da spostamenti con sette decimali, che bastano fino a una rigidezza di circa "
-                    "8000000 kN/m; usare il tiro vero o una rigidezza minore"});
+                    "8000000 kN/m/m; usare il tiro vero o una rigidezza minore"});
 }
 
 TEST(ControlloTiri, TakesNoSmallForceBySharesAlone) {

@@ -67,7 +67,7 @@ TEST(ControlloEquilibrio, TellsDataWithoutACertainEquilibriumAndTheirField) {
     const Osservazioni una = osservate(m);
     EXPECT_EQ(righe(una),
               Righe{"[pericolo] equilibrio-non-definito: l'equilibrio non è definito nella fase 2: "
-                    "rigidezza negativa del tirante 3 (-500.0 kN/m)"});
+                    "rigidezza negativa del tirante 3 (-500.0 kN/m/m)"});
     EXPECT_EQ(una[0].campi, std::vector<std::string>{"rigTirante[3]"});
     const std::pair<Instabile, const char*> campi[] = {{Instabile::parete, "rigidezzaEJ"},
                                                        {Instabile::modulo, "metodoKs"},

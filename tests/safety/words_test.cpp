@@ -83,7 +83,7 @@ TEST(ParoleDatoInstabile, NameTheValueWithItsPlace) {
               "8 m; " +
                   limiti);
     EXPECT_EQ(parole(DatoInstabile{.che = Instabile::tirante, .tirante = 2, .valore = -50}),
-              "rigidezza negativa del tirante 2 (-500.0 kN/m)");
+              "rigidezza negativa del tirante 2 (-500.0 kN/m/m)");
     EXPECT_EQ(parole(DatoInstabile{.che = Instabile::parete, .valore = -1000}),
               "rigidezza EJ della paratia non positiva (-10000.0 kN m²)");
 }
@@ -145,7 +145,7 @@ TEST(Frase, TellsWhyThereIsNoEquilibriumOrNoNumber) {
     d.instabile = {.che = Instabile::tirante, .tirante = 1, .valore = -1};
     EXPECT_EQ(frase(d),
               "l'equilibrio non è definito nella fase 1: rigidezza negativa del tirante 1 (-10.0 "
-              "kN/m)");
+              "kN/m/m)");
     d.causa = Causa::nessunNumero;
     d.newton = EsitoNewton::senzaMisura;
     EXPECT_EQ(frase(d),

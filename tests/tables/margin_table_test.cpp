@@ -50,6 +50,15 @@ TEST(DidascaliaMeccanismo, TellsUnderWhichStrengthAWallThatStandsFalls) {
     EXPECT_EQ(didascaliaMeccanismo(margine(std::string(KORVEN_WALLS) + "/meccanismo.kvd")), "");
 }
 
+// The picture has no room for the note that the table puts below a star.
+TEST(DidascaliaMeccanismo, HasNoStarWhereTheSlopeEndsTheReduction) {
+    Margine m = esempio("diaframma_due_ordini");
+    m.fasi[3].riduzione.limitePendio = true;
+    const std::string didascalia = didascaliaMeccanismo(m);
+    EXPECT_NE(didascalia.find("F = 1.64; com'è, è in equilibrio"), std::string::npos) << didascalia;
+    EXPECT_EQ(didascalia.find('*'), std::string::npos) << didascalia;
+}
+
 TEST(ProspettoMargine, WeighsAFactorAsTheRemarksDo) {
     const Margine m = margine(std::string(KORVEN_WALLS) + "/quasi_meccanismo.kvd");
     const Prospetto p = prospettoMargine(m);

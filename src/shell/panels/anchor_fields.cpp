@@ -10,6 +10,7 @@
 #include "base/translated_texts.hpp"
 #include "shell/icons/icon_set.hpp"
 #include "shell/qt_text.hpp"
+#include "shell/wrapped_text.hpp"
 
 namespace korven::shell {
 
@@ -191,9 +192,9 @@ void CampiTirante::mostra() {
     const auto k = panels::rigidezza(ingressi_), p = panels::pretensione(ingressi_);
     const auto A = panels::area(ingressi_);
     area_->setVisible(A.valore.has_value());  // what it lacks is told by the stiffness
-    area_->setText(qt(A.conto));
-    rigidezza_->setText(qt(k.conto));
-    pretensione_->setText(qt(p.conto));
+    area_->setText(inRighe(A.conto));
+    rigidezza_->setText(inRighe(k.conto));
+    pretensione_->setText(inRighe(p.conto));
     scriviRigidezza_->setEnabled(k.valore.has_value());
     scriviPretensione_->setEnabled(p.valore.has_value());
 }

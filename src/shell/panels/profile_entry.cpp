@@ -9,6 +9,7 @@
 
 #include "profiles/catalogue.hpp"
 #include "shell/qt_text.hpp"
+#include "shell/wrapped_text.hpp"
 
 namespace korven::shell {
 
@@ -68,12 +69,12 @@ profiles::Profilo NuovoProfilo::profilo() const {
     return p;
 }
 
-void NuovoProfilo::mostra() { misure_->setText(qt(profiles::misureMostrate(profilo()))); }
+void NuovoProfilo::mostra() { misure_->setText(inRighe(profiles::misureMostrate(profilo()))); }
 
 void NuovoProfilo::tieni() {
     const std::string perche = profiles::aggiungiProfilo(profilo());
     if (perche.empty()) return accept();
-    perche_->setText(qt(perche));
+    perche_->setText(inRighe(perche));
     (nome_->text().trimmed().isEmpty() || !fonte_->text().trimmed().isEmpty() ? nome_ : fonte_)
         ->setFocus();
 }

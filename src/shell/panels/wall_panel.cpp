@@ -5,11 +5,12 @@
 #include <string>
 
 #include "base/code_page.hpp"
-#include "base/translated_texts.hpp"
+#include "panels/stage_words.hpp"
 #include "scene/scene.hpp"
 #include "shell/form_sizes.hpp"
 #include "shell/panels/stage_panel.hpp"
 #include "shell/qt_text.hpp"
+#include "shell/wrapped_text.hpp"
 
 namespace korven::shell {
 
@@ -18,10 +19,8 @@ namespace {
 constexpr int righeParole = 4;
 
 std::string parole(const live::ProgettoVivo& vivo) {
-    const std::string detto = scene::descrizione(vivo.parete(), vivo.vista());
-    if (vivo.impedimento().empty()) return detto;
-    return base::conMaiuscola(base::traduttore("com'era prima delle modifiche in corso")) + " (" +
-           vivo.impedimento() + "): " + detto;
+    return base::conMaiuscola(
+        panels::comEra(vivo, scene::descrizione(vivo.parete(), vivo.vista())));
 }
 
 }  // namespace
@@ -53,9 +52,9 @@ void PannelloParatia::aggiorna() {
     const live::ProgettoVivo& vivo = vita_.vivo();
     if (!vivo.aperto()) return;
     schizzo_->mostra(vivo.vista().fase);
-    const QString dette = qt(parole(vivo));
-    schizzo_->setAccessibleDescription(dette);
-    parole_->setText(dette);
+    const std::string dette = parole(vivo);
+    schizzo_->setAccessibleDescription(qt(dette));
+    parole_->setText(inRighe(dette));
 }
 
 }  // namespace korven::shell

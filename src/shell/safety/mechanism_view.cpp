@@ -7,6 +7,7 @@
 #include "scene/scene.hpp"
 #include "shell/accessible_roles.hpp"
 #include "shell/qt_text.hpp"
+#include "shell/wrapped_text.hpp"
 
 namespace korven::shell {
 
@@ -42,7 +43,8 @@ void VistaMeccanismo::paintEvent(QPaintEvent*) {
     p.fillRect(rect(), device::qColore({scene::Ruolo::sfondo}, tavolozza));
     if (!parete_) {
         p.setPen(device::qColore({scene::Ruolo::testoTenue}, tavolozza));
-        p.drawText(rect().adjusted(16, 16, -16, -16), Qt::AlignCenter | Qt::TextWordWrap, testo_);
+        p.drawText(rect().adjusted(16, 16, -16, -16), Qt::AlignCenter | Qt::TextWordWrap,
+                   inRighe(testo_));
         return;
     }
     const live::Vista vista{.fase = static_cast<int>(parete_->fasi.size())};

@@ -24,10 +24,9 @@ class SceltaModello : public QDialog {
 
  private:
     void aggiungi(const QString& nome, const QString& descrizione);
-
-    const std::vector<commands::Modello> modelli_;
     void mostraFigura();
 
+    const std::vector<commands::Modello> modelli_;
     QListWidget* lista_;
     QVBoxLayout* quadro_;  // the picture
 };
