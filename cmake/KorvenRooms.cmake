@@ -71,6 +71,9 @@ function(korven_test name)
     # The optimiser's work on code that runs once was half the time of a fresh build.
     target_compile_options(${name}_test PRIVATE -O0)
     korven_precompile_test(${name}_test ${ARGN})
-    gtest_discover_tests(${name}_test DISCOVERY_TIMEOUT 60
-        PROPERTIES TIMEOUT 120 LABELS ${name} ENVIRONMENT "${KORVEN_TEST_ENVIRONMENT}")
+    set(properties TIMEOUT 120 LABELS ${name})
+    if(KORVEN_TEST_ENVIRONMENT)
+        list(APPEND properties ENVIRONMENT ${KORVEN_TEST_ENVIRONMENT})
+    endif()
+    gtest_discover_tests(${name}_test DISCOVERY_TIMEOUT 60 PROPERTIES ${properties})
 endfunction()
