@@ -142,13 +142,15 @@ std::string comeNeiFile(std::string_view utf8) { return daCp1252(inCp1252(utf8))
 std::string maiuscolo(std::string_view utf8) { return mappato(utf8, grandeDi); }
 
 std::string conMaiuscola(std::string_view utf8) {
-    if (utf8.empty()) return {};
-    const auto continua = [](char c) { return (static_cast<unsigned char>(c) & 0xC0) == 0x80; };
-    std::size_t prima = 1;
-    while (prima < utf8.size() && continua(utf8[prima])) ++prima;
+    const std::size_t prima = utf8.empty() ? 0 : lunghezzaPrimoCarattere(utf8);
     return maiuscolo(utf8.substr(0, prima)).append(utf8.substr(prima));
 }
 std::string minuscolo(std::string_view utf8) { return mappato(utf8, piccolaDi); }
+
+std::string conMinuscola(std::string_view utf8) {
+    const std::size_t prima = utf8.empty() ? 0 : lunghezzaPrimoCarattere(utf8);
+    return minuscolo(utf8.substr(0, prima)).append(utf8.substr(prima));
+}
 
 std::size_t numeroCaratteri(std::string_view utf8) {
     std::size_t n = 0;

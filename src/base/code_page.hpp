@@ -34,6 +34,9 @@ namespace korven::base {
 /// The text with its first character in upper case, as a sentence begins.
 [[nodiscard]] std::string conMaiuscola(std::string_view utf8);
 
+/// With a small first letter; the others stay as they are, as the nouns of German must.
+[[nodiscard]] std::string conMinuscola(std::string_view utf8);
+
 /// Lower case, the inverse of `maiuscolo`.
 [[nodiscard]] std::string minuscolo(std::string_view utf8);
 

@@ -118,6 +118,9 @@ TEST(ConMaiuscola, BeginsASentence) {
     EXPECT_EQ(conMaiuscola("\u00E8 un meccanismo"), "\u00C8 un meccanismo");
     EXPECT_EQ(conMaiuscola("F = 1"), "F = 1");
     EXPECT_EQ(conMaiuscola(""), "");
+    EXPECT_EQ(conMinuscola("Resultierender Druck"), "resultierender Druck");
+    EXPECT_EQ(conMinuscola("\u00C8 un Meccanismo"), "\u00E8 un Meccanismo");
+    EXPECT_EQ(conMinuscola(""), "");
 }
 
 }  // namespace

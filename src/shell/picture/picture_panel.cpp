@@ -103,12 +103,13 @@ QWidget* PannelloFigura::striscia() {
     }
     connect(curve_, &QButtonGroup::idClicked, this,
             [this](int curva) { scegliCurva(static_cast<live::Curva>(curva)); });
-    auto* salva = new QToolButton(striscia);
+    auto* salva = pulsanteSalva_ = new QToolButton(striscia);
     salva->setObjectName("pulsanteSalvaFigura");
     salva->setDefaultAction(salva_);
     salva->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     salva->setFocusPolicy(Qt::TabFocus);
     riga->addWidget(salva);
+    striscia_ = striscia;
     return striscia;
 }
 
@@ -160,6 +161,14 @@ bool PannelloFigura::event(QEvent* evento) {
         if (tasto->key() == Qt::Key_F1 && tasto->modifiers() == Qt::NoModifier) evento->accept();
     }
     return QWidget::event(evento);
+}
+
+// On a narrow form the texts of the curves come before that of saving, which has a picture too.
+void PannelloFigura::resizeEvent(QResizeEvent* evento) {
+    pulsanteSalva_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    if (striscia_->layout()->totalMinimumSize().width() > width())
+        pulsanteSalva_->setToolButtonStyle(Qt::ToolButtonIconOnly);
+    QWidget::resizeEvent(evento);
 }
 
 void PannelloFigura::contextMenuEvent(QContextMenuEvent* evento) {

@@ -36,6 +36,7 @@ class PannelloFigura : public QWidget {
 
  protected:
     bool event(QEvent* evento) override;
+    void resizeEvent(QResizeEvent* evento) override;
     void contextMenuEvent(QContextMenuEvent* evento) override;
 
  private:
@@ -48,6 +49,8 @@ class PannelloFigura : public QWidget {
     VitaProgetto& vita_;
     VistaFigura* vista_;
     EtichettaAccorciata* lettura_;
+    QWidget* striscia_ = nullptr;
+    QToolButton* pulsanteSalva_ = nullptr;
     QSlider* fasi_ = nullptr;
     QLabel* fase_ = nullptr;
     QButtonGroup* curve_ = nullptr;

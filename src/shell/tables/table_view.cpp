@@ -8,6 +8,7 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QPainter>
+#include <QScopedValueRollback>
 #include <algorithm>
 #include <numeric>
 #include <set>
@@ -67,13 +68,25 @@ VistaProspetto::VistaProspetto(const QString& nome, QWidget* padre)
     horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
     horizontalHeader()->setSortIndicatorClearable(true);
     setSortingEnabled(true);
+    connect(horizontalHeader(), &QHeaderView::sectionResized, this,
+            [this](int colonna, int, int larghezza) { tieni(colonna, larghezza); });
+}
+
+// The last one takes what is left of the window.
+void VistaProspetto::tieni(int colonna, int larghezza) {
+    if (dispone_ || larghezza == 0 || colonna + 1 == modello_->columnCount()) return;
+    tenute_[colonna] = larghezza;
+    if (wordWrap()) resizeRowsToContents();
 }
 
 void VistaProspetto::mostra(tables::Prospetto prospetto) {
     if (!prospetto.titolo.empty()) setAccessibleName(qt(prospetto.titolo));
     setAccessibleDescription(prospetto.righe.empty() ? insieme(prospetto.note) : QString());
     const bool altra = prospetto.colonne != modello_->prospetto().colonne;
-    modello_->mostra(std::move(prospetto));
+    {
+        const QScopedValueRollback<bool> durante(dispone_, true);
+        modello_->mostra(std::move(prospetto));
+    }
     if (misura(altra))
         adatta();
     else if (wordWrap())
@@ -84,7 +97,10 @@ void VistaProspetto::mostra(tables::Prospetto prospetto) {
 // Columns only grow while the table is the same: they would dance with every key otherwise.
 bool VistaProspetto::misura(bool altra) {
     const std::vector<int> prima = larghezze_;
-    if (altra) larghezze_.clear();
+    if (altra) {
+        larghezze_.clear();
+        tenute_.clear();
+    }
     larghezze_.resize(static_cast<std::size_t>(modello_->columnCount()));
     teste_.resize(larghezze_.size());
     QFont grassetto = font();
@@ -109,13 +125,18 @@ bool VistaProspetto::misura(bool altra) {
 void VistaProspetto::adatta() {
     // A scroll bar that comes or goes asks before the new columns are measured.
     if (larghezze_.size() != modello_->prospetto().colonne.size()) return;
-    int manca = std::accumulate(larghezze_.begin(), larghezze_.end(), 0) - viewport()->width();
-    for (std::size_t c = larghezze_.size(); c-- > 0;) {
-        int larga = larghezze_[c];
-        if (wordWrap() && manca > 0 && !modello_->prospetto().colonne[c].numerica) {
+    const QScopedValueRollback<bool> durante(dispone_, true);
+    std::vector<int> volute = larghezze_;
+    for (const auto& [colonna, tenuta] : tenute_)
+        volute[static_cast<std::size_t>(colonna)] = tenuta;
+    int manca = std::accumulate(volute.begin(), volute.end(), 0) - viewport()->width();
+    for (std::size_t c = volute.size(); c-- > 0;) {
+        int larga = volute[c];
+        if (wordWrap() && !tenute_.contains(static_cast<int>(c)) && manca > 0 &&
+            !modello_->prospetto().colonne[c].numerica) {
             larga = std::clamp(larga - manca, std::min(std::max(paroleStrette, teste_[c]), larga),
                                larga);
-            manca -= larghezze_[c] - larga;
+            manca -= volute[c] - larga;
         }
         setColumnWidth(static_cast<int>(c), larga);
     }
@@ -123,7 +144,10 @@ void VistaProspetto::adatta() {
 }
 
 void VistaProspetto::resizeEvent(QResizeEvent* evento) {
-    QTableView::resizeEvent(evento);
+    {
+        const QScopedValueRollback<bool> durante(dispone_, true);
+        QTableView::resizeEvent(evento);
+    }
     adatta();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QTableView>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -15,7 +16,8 @@ namespace korven::shell {
 
 /// A table of results to look at: sorted by a click on a head or by its menu, copied with the heads
 /// into a spreadsheet. Words go into several lines where the window is too narrow for them, unless
-/// `wordWrap` is taken from it. A table without rows shows its notes in their place: why.
+/// `wordWrap` is taken from it. A column whose edge was dragged keeps its width until
+/// the table has other columns. A table without rows shows its notes in their place: why.
 ///
 /// Keys: Ctrl+A selects all, Ctrl+C copies what is selected, all where it is one cell; the menu key
 /// opens the menu, which sorts by the column of the current cell.
@@ -41,10 +43,13 @@ class VistaProspetto : public QTableView {
  private:
     [[nodiscard]] bool misura(bool altra);
     void adatta();
+    void tieni(int colonna, int larghezza);
 
     ModelloProspetto* modello_;
     // That the texts of each column need in one line, and its head alone [px].
     std::vector<int> larghezze_, teste_;
+    std::map<int, int> tenute_;  // columns that the user has drawn to a width [px]
+    bool dispone_ = false;
 };
 
 }  // namespace korven::shell

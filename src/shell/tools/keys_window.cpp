@@ -14,7 +14,7 @@ namespace korven::shell {
 
 namespace {
 
-constexpr QSize misuraComoda(720, 560);
+constexpr QSize misuraComoda(860, 560);
 constexpr const char* nome = "tasti";
 
 bool freccia(QChar c) { return c >= QChar(0x2190) && c <= QChar(0x21FF); }
@@ -54,7 +54,7 @@ FinestraTasti::FinestraTasti(QWidget& principale)
             new QTreeWidgetItem(sua, {mostrati(riga.tasti), qt(riga.effetto)});
     }
     elenco->expandAll();
-    elenco->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+    elenco->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     elenco->setCurrentItem(elenco->topLevelItem(0));
     auto* colonna = new QVBoxLayout(this);
     colonna->addWidget(elenco);

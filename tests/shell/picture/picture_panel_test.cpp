@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QLabel>
+#include <QLayout>
 #include <QMimeData>
 #include <QSlider>
 #include <QTest>
@@ -53,6 +54,23 @@ class PannelloFiguraTest : public ::testing::Test {
     const bool insegnato = (insegnaAccessoFigura(), true);
     PannelloFigura pannello;
 };
+
+TEST_F(PannelloFiguraTest, ShowsThePictureOfSavingAloneWhereItsTextHasNoRoom) {
+    // The main form makes it as narrow as it is itself.
+    pannello.layout()->setSizeConstraint(QLayout::SetNoConstraint);
+    pannello.setMinimumSize(0, 0);
+    const auto& salva = *pannello.findChild<QToolButton*>("pulsanteSalvaFigura");
+    EXPECT_EQ(salva.toolButtonStyle(), Qt::ToolButtonTextBesideIcon);
+    const int larga = salva.sizeHint().width();
+    pannello.resize(salva.parentWidget()->layout()->totalMinimumSize().width() - larga / 2, 400);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(salva.toolButtonStyle(), Qt::ToolButtonIconOnly);
+    EXPECT_FALSE(salva.toolTip().isEmpty());
+    for (int tasto = 1; tasto <= 4; ++tasto)
+        EXPECT_GE(curva(tasto).width(), curva(tasto).sizeHint().width());
+    pannello.resize(900, 620);
+    EXPECT_EQ(salva.toolButtonStyle(), Qt::ToolButtonTextBesideIcon);
+}
 
 // The main form has the key for the contents of the help.
 TEST_F(PannelloFiguraTest, KeepsF1FromTheMenuForItsOwnPageOfTheHelp) {

@@ -4,6 +4,7 @@
 
 #include <QLabel>
 
+#include "live/limit_wall.hpp"
 #include "shell/qt_text.hpp"
 #include "shell/safety/mechanism_view.hpp"
 #include "shell/tables/table_view.hpp"
@@ -82,6 +83,13 @@ TEST_F(FinestraSicurezzaTest, PicturesTheMechanismAndSaysIt) {
     auto& figura = test::controllo<VistaMeccanismo>(mostra(), "meccanismo");
     EXPECT_TRUE(figura.accessibleDescription().startsWith(testo("verdetto")));
     const QImage conMoto = figura.grab().toImage();
+    // What is red is no wall that falls: its caption says under which soil it does.
+    const safety::Margine& margine = *vita.vivo().lenti()->margine;
+    const auto limite = live::pareteAlLimite(vita.vivo().parete(), margine);
+    figura.mostra(limite, testo("verdetto"), {});
+    EXPECT_NE(figura.grab().toImage(), conMoto);
+    figura.mostra(limite, testo("verdetto"), tables::didascaliaMeccanismo(margine));
+    EXPECT_EQ(figura.grab().toImage(), conMoto);
     figura.mostra({}, testo("verdetto"));
     EXPECT_NE(figura.grab().toImage(), conMoto);
 }

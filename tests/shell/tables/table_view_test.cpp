@@ -146,6 +146,25 @@ TEST_F(VistaProspettoTest, HasColumnsThatGrowAndFitAnewInAnotherTable) {
     EXPECT_EQ(vista.columnWidth(2), stretta);
 }
 
+TEST_F(VistaProspettoTest, KeepsTheWidthToWhichAColumnWasDragged) {
+    const int prima = vista.columnWidth(3);
+    auto& testa = *vista.horizontalHeader();
+    const QPoint bordo(testa.sectionViewportPosition(3) - 1, testa.height() / 2);
+    const int voluta = vista.columnWidth(2) + 37;
+    QTest::mousePress(testa.viewport(), Qt::LeftButton, {}, bordo);
+    QTest::mouseMove(testa.viewport(), bordo + QPoint(37, 0));
+    QTest::mouseRelease(testa.viewport(), Qt::LeftButton, {}, bordo + QPoint(37, 0));
+    ASSERT_EQ(vista.columnWidth(2), voluta);
+    vista.resize(500, 200);
+    vista.mostra(nodi(5.5));
+    vista.resize(1200, 200);
+    EXPECT_EQ(vista.columnWidth(2), voluta);
+    EXPECT_EQ(vista.columnWidth(3), prima);
+    vista.mostra(Prospetto{});
+    vista.mostra(nodi(5));
+    EXPECT_EQ(vista.columnWidth(2), voluta - 37);
+}
+
 TEST_F(VistaProspettoTest, ExplainsItsColumns) {
     EXPECT_FALSE(
         vista.modello().headerData(2, Qt::Horizontal, Qt::ToolTipRole).toString().isEmpty());
