@@ -81,7 +81,7 @@ void Base2_32::affianca(QWidget* pannello) {
     const int altro = layout()->totalHeightForWidth(width()) - griglia_->sizeHint().height();
     fila_->addWidget(pannello);
     pannello_ = pannello;
-    connect(qApp, &QApplication::focusChanged, this,
+    connect(qApp, &QApplication::focusChanged, &ascoltoFuoco_,
             [this](const QWidget* /*prima*/, const QWidget* ora) { segui(ora); });
     for (auto* pulsante : pannello->findChildren<QAbstractButton*>())
         pulsante->installEventFilter(this);  // Enter presses them as it does those of the form

@@ -81,6 +81,8 @@ class Base2_32 : public FormaMaschera {
     QString nomeSpiegato_;
     masks::PostoGriglia posto_;          // where the cursor was last
     std::vector<std::string> digitati_;  // what the cells held last
+    // Ends before all else: what Qt takes apart after this form moves the focus once more.
+    QObject ascoltoFuoco_;
 };
 
 }  // namespace korven::shell
