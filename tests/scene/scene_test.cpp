@@ -4,7 +4,6 @@
 
 #include <cstdio>
 
-#include "scene/polygon.hpp"
 #include "support/sample_projects.hpp"
 #include "support/sample_sections.hpp"
 #include "support/scene_parts.hpp"
@@ -19,10 +18,9 @@ using live::Curva;
 using test::dice;
 using test::figure;
 using test::muro;
+using test::pianta;
 using test::scenaDi;
 using test::testi;
-
-Riquadro pianta(const Scena& s) { return intorno(figure<Area>(s, Elemento::muro).at(0).punti); }
 
 TEST(Scena, DrawsTheWallToScaleWithTheThicknessOfItsSection) {
     auto dati = test::progettoSemplice();
@@ -279,129 +277,6 @@ TEST(Scena, CanDoWithoutTheCurve) {
     EXPECT_TRUE(testi(s, Elemento::nota).empty() ||
                 testi(s, Elemento::nota) == std::vector<std::string>{"EJ 120000 kN m²"});
     EXPECT_GT(pianta(s).sinistra, 0.5 * 300);
-}
-
-TEST(Scena, MovesAMechanismAndSaysWhy) {
-    auto dati = test::progettoSemplice();
-    dati.profFase[2] = 9;
-    dati.tirantiFase[2] = 0;
-    const auto parete = live::calcola(dati, 40);
-    ASSERT_TRUE(parete.perche && parete.perche->moto);
-    const Scena s = scenaDi(dati, {2});
-    EXPECT_EQ(figure<Linea>(s, Elemento::muro).at(0).tratteggio, Tratteggio::linee);
-    const auto mosso = figure<Area>(s, Elemento::meccanismo).at(0);
-    EXPECT_EQ(mosso.tinta.ruolo, Ruolo::fondoMeccanismo);
-    // Rigid: the moved head is as far from the wall as the mechanism says, against the toe.
-    const Riquadro fermo = pianta(s);
-    const double testa = mosso.punti[0].x - fermo.sinistra,
-                 piede = mosso.punti[3].x - fermo.sinistra;
-    EXPECT_NEAR(testa * parete.perche->moto->spostamento(12),
-                piede * parete.perche->moto->spostamento(0), 1e-6);
-    EXPECT_TRUE(dice(testi(s, Elemento::meccanismo), "passivo"));
-    const auto note = testi(s, Elemento::nota);
-    EXPECT_TRUE(std::any_of(note.begin(), note.end(), [](const std::string& t) {
-        return t.find("la paratia è un meccanismo nella fase 2") == 0;
-    }));
-    // The stage before stands and is drawn as it is.
-    EXPECT_EQ(figure<Linea>(scenaDi(dati, {1}), Elemento::muro).at(0).tratteggio,
-              Tratteggio::nessuno);
-}
-
-TEST(Scena, NamesTheStageThatFallsAndTheStagesOfTheCurves) {
-    auto dati = test::progettoSemplice();
-    dati.profFase[2] = 9;
-    dati.tirantiFase[2] = 0;
-    EXPECT_TRUE(dice(testi(scenaDi(dati, {0}), Elemento::nota),
-                     "fase 2 di 2  ·  scavo 9.00 m  ·  curve e tiranti: inviluppo delle fasi da 1 "
-                     "a 1"));
-    EXPECT_TRUE(dice(testi(scenaDi(dati, {2}), Elemento::nota), "fase 2 di 2  ·  scavo 9.00 m"));
-}
-
-TEST(Scena, SaysThatNothingIsKnownAfterAStageThatFalls) {
-    auto dati = test::progettoSemplice();
-    dati.profFase[1] = 9;
-    dati.profFase[2] = 9.5;
-    const auto note = testi(scenaDi(dati, {2}), Elemento::nota);
-    EXPECT_TRUE(std::any_of(note.begin(), note.end(), [](const std::string& t) {
-        return t.find("la fase 2 viene dopo la fase 1") == 0;
-    }));
-    EXPECT_TRUE(figure<Area>(scenaDi(dati, {2}), Elemento::meccanismo).empty());
-}
-
-TEST(Scena, SaysWhyNothingIsComputed) {
-    auto dati = test::progettoSemplice();
-    dati.rigidezzaEJ = 0;
-    EXPECT_TRUE(dice(testi(scenaDi(dati, {0}), Elemento::nota),
-                     "inviluppo  ·  disegnata la fase 2 di 2  ·  scavo 5.00 m"));
-    const Scena s = scenaDi(dati, {1});
-    EXPECT_TRUE(dice(testi(s, Elemento::nota), "fase 1 di 2  ·  scavo 2.00 m"));
-    EXPECT_TRUE(dice(testi(s, Elemento::nota), "Il valore di EJ non è ancora stato definito."));
-    EXPECT_TRUE(dice(testi(s, Elemento::curva), "nessuna curva"));
-}
-
-TEST(Scena, SaysWhatIsInTheWayOfWhatIsTyped) {
-    const Scena s = scena(live::calcola(test::progettoSemplice(), 40), {2}, {900, 580},
-                          MisuraStimata(), {.impedimento = "riga 3: dati incompleti"});
-    EXPECT_TRUE(dice(testi(s, Elemento::nota),
-                     "riga 3: dati incompleti: la figura mostra i valori precedenti"));
-}
-
-TEST(Scena, StaysWhereItIsWhateverIsSaidAboveIt) {
-    auto dati = test::progettoSemplice();
-    const Scena sta = scenaDi(dati, {2});
-    EXPECT_NE(
-        testi(sta, Elemento::nota).at(1).find("la paratia è in equilibrio in tutte le fasi: "),
-        std::string::npos);
-    const auto parete = live::calcola(dati, 40);
-    const Scena impedita =
-        scena(parete, {2}, {900, 580}, MisuraStimata(), {.impedimento = "riga 3: dati incompleti"});
-    dati.rigidezzaEJ = 0;
-    const Scena rifiutata = scenaDi(dati, {2});
-    dati = test::progettoSemplice();
-    dati.profFase[2] = 9;
-    dati.tirantiFase[2] = 0;
-    for (const Scena& s : {impedita, rifiutata, scenaDi(dati, {2})}) {
-        EXPECT_EQ(s.yTesta, sta.yTesta);
-        EXPECT_EQ(s.scala, sta.scala);
-    }
-}
-
-TEST(Scena, KeepsTextsClearOfTheLinesOfOtherParts) {
-    auto dati = test::progettoSemplice();
-    dati.faldaMonte = 0;  // its depth would lie among the arrows of the surcharge
-    const Scena s = scenaDi(dati, {2});
-    for (const Testo& t : figure<Testo>(s, Elemento::acqua, 0))
-        if (t.testo == "0.00 m") {
-            EXPECT_GT(t.punto.y, s.y(0));
-        }
-    EXPECT_TRUE(dice(testi(s, Elemento::acqua), "0.00 m"));
-}
-
-TEST(Scena, WritesACaptionAboveAPictureWithoutWords) {
-    const auto parete = live::calcola(test::progettoSemplice(), 40);
-    const Scena s = scena(parete, {2}, {300, 300}, MisuraStimata(),
-                          {.curva = false, .parole = false, .didascalia = "con F = 1.50"});
-    EXPECT_TRUE(dice(testi(s, Elemento::nota), "con F = 1.50"));
-}
-
-TEST(Scena, NamesTheStiffnessAndWhereItComesFrom) {
-    auto dati = test::progettoSemplice();
-    EXPECT_TRUE(dice(testi(scenaDi(dati), Elemento::nota), "EJ 120000 kN m²"));
-    dati.rigidezzaEJ = 0;
-    dati.sezione = structure::diaframmaSimmetrico();
-    const auto note = testi(scenaDi(dati), Elemento::nota);
-    EXPECT_TRUE(std::any_of(note.begin(), note.end(), [](const std::string& t) {
-        return t.find("kN m² dalla sezione") != std::string::npos;
-    }));
-}
-
-TEST(Descrizione, TellsStageAndVerdictInOneText) {
-    const auto dati = test::progettoSemplice();
-    const std::string testo = descrizione(live::calcola(dati, 40), {2});
-    EXPECT_EQ(
-        testo.find("fase 2 di 2  ·  scavo 5.00 m. la paratia è in equilibrio in tutte le fasi: "),
-        0U);
-    EXPECT_NE(testo.find(" mm, momento "), std::string::npos);
 }
 
 }  // namespace

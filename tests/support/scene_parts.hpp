@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "scene/polygon.hpp"
 #include "scene/scene.hpp"
 
 namespace korven::test {
@@ -25,6 +26,11 @@ std::vector<F> figure(const scene::Scena& scena) {
     for (const auto& p : scena.primitive)
         if (const F* f = std::get_if<F>(&p.figura)) trovate.push_back(*f);
     return trovate;
+}
+
+/// The box around the wall.
+inline scene::Riquadro pianta(const scene::Scena& scena) {
+    return intorno(figure<scene::Area>(scena, scene::Elemento::muro).at(0).punti);
 }
 
 /// The texts on one part of the project.
