@@ -38,6 +38,7 @@ inline const std::map<std::string, std::string> silentFiles = {
     {"base/bound_units.cpp", "units, the same in all languages"},
     {"base/xml_text.cpp", "words of the format"},
     {"batch/options/paper.cpp", "names of sheets, the same in all languages"},
+    {"document/spelled_out.cpp", "names of letters and signs"},
     {"help/search_text.cpp", "tags, names of letters"},
     {"shell/help/browser.cpp", "style and addresses of the pages"},
     {"shell/form_sizes.cpp", "names of the user's settings"},

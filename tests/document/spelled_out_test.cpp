@@ -1,0 +1,26 @@
+#include "document/spelled_out.hpp"
+
+#include <gtest/gtest.h>
+
+#include "base/code_page.hpp"
+
+namespace korven::document {
+namespace {
+
+TEST(PerEsteso, SpellsGreekLettersAndSignsThatTheCodePageLacks) {
+    EXPECT_EQ(perEsteso("φ' = 30°, γ ≤ 20 kN/m³"), "phi' = 30°, gamma <= 20 kN/m³");
+    EXPECT_EQ(perEsteso("cos²α → −1 · √2"), "cos²alfa -> -1 · sqrt2");
+}
+
+TEST(PerEsteso, LeavesWhatTheCodePageHas) {
+    const std::string testo = "Àéîõü ñ ß € – “…” 12 ½ kN m/m²";
+    EXPECT_EQ(perEsteso(testo), testo);
+    EXPECT_EQ(perEsteso(""), "");
+}
+
+TEST(PerEsteso, LeavesNothingThatTheCodePageWouldAskAfter) {
+    EXPECT_TRUE(base::rappresentabile(perEsteso("αβγδεζηθκλμνξπρστφχψω ΓΔΘΛΣΦΨΩ ≤≥≠≈−√∞→")));
+}
+
+}  // namespace
+}  // namespace korven::document
