@@ -6,6 +6,7 @@
 
 #include "analysis/run_arrays.hpp"
 #include "analysis/segment_count.hpp"
+#include "safety/margin_words.hpp"
 #include "structure/section_validity.hpp"
 
 namespace korven::live {
@@ -73,9 +74,12 @@ void ProgettoVivo::mostra(Vista vista) {
     ++versione_;
 }
 
-// The search for a length that stands is too slow for a key: it comes with the margin.
-void ProgettoVivo::completaPerche() {
-    if (!parete_.perche || !lenti_->margine) return;
+// The search for a length that stands is too slow for a key, and so is the specified run: they come
+// with the margin.
+void ProgettoVivo::completaParete() {
+    if (!lenti_->margine) return;
+    parete_.senzaRelazione = safety::paroleSenzaRelazione(*lenti_->margine);
+    if (!parete_.perche) return;
     const auto* caduta = lenti_->margine->caduta();
     if (caduta != nullptr && caduta->perche && caduta->fase == parete_.perche->fase)
         parete_.perche = caduta->perche;
@@ -85,7 +89,7 @@ bool ProgettoVivo::rispondi(int numero, RisultatiLenti risultati) {
     if (!domanda_ || domanda_->numero != numero) return false;
     domanda_.reset();
     lenti_ = std::move(risultati);
-    completaPerche();
+    completaParete();
     ++versione_;
     return true;
 }

@@ -44,8 +44,9 @@ class ProgettoVivo {
 
     /// What is to be computed for the wall that is shown; nothing where it is known already.
     [[nodiscard]] const std::optional<DomandaLenta>& domanda() const { return domanda_; }
-    /// Takes an answer; it completes why the wall does not stand. @return false for one to an
-    /// earlier question, which is dropped
+    /// Takes an answer; it completes why the wall does not stand, or why one that stands has no
+    /// report.
+    /// @return false for one to an earlier question, which is dropped
     bool rispondi(int numero, RisultatiLenti risultati);
     /// The answer for the wall that is shown; nullptr while it is being computed.
     [[nodiscard]] const RisultatiLenti* lenti() const { return lenti_ ? &*lenti_ : nullptr; }
@@ -55,7 +56,7 @@ class ProgettoVivo {
 
  private:
     void prova(const ProgettoInCorso& inCorso);
-    void completaPerche();
+    void completaParete();
     void mostraDati(const project::DatiProgetto& dati);
 
     bool aperto_ = false;

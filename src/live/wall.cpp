@@ -70,6 +70,12 @@ const FaseEquilibrio* PareteViva::fase(int k) const {
     return k < 1 || k > fasiInEquilibrio() ? nullptr : &fasi[static_cast<std::size_t>(k) - 1];
 }
 
+std::optional<equilibrium::Estremi> PareteViva::estremiDi(int k) const {
+    if (k == 0) return sta() ? std::optional(estremi) : std::nullopt;
+    const FaseEquilibrio* una = fase(k);
+    return una != nullptr ? std::optional(equilibrium::estremi(*una, h)) : std::nullopt;
+}
+
 PareteViva calcola(const DatiProgetto& dati) {
     return calcola(dati, analysis::leggiNSeg(analysis::vincoli(dati).incastroPiede));
 }

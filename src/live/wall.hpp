@@ -29,6 +29,9 @@ struct PareteViva {
     /// `ProgettoVivo` adds once it is known.
     std::optional<safety::Diagnosi> perche;
     equilibrium::Estremi estremi;  ///< of the stages that stand
+    /// Of a wall that stands: why its report has no numbers all the same, one sentence, translated;
+    /// empty until `ProgettoVivo` knows, and where it has some.
+    std::string senzaRelazione;
 
     /// True if all stages stand.
     [[nodiscard]] bool sta() const;
@@ -36,6 +39,9 @@ struct PareteViva {
     [[nodiscard]] int fasiInEquilibrio() const;
     /// A stage that stands, counted from 1; nullptr for any other number.
     [[nodiscard]] const equilibrium::FaseEquilibrio* fase(int k) const;
+    /// The extremes of a stage, or with 0 those of all; nothing of one that does not stand, and of
+    /// all where one of them does not.
+    [[nodiscard]] std::optional<equilibrium::Estremi> estremiDi(int k) const;
 };
 
 /// Follows a wall through its stages, in memory, with the number of segments of the program. At 20

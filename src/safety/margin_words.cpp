@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/filled_text.hpp"
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
 #include "safety/words.hpp"
@@ -163,6 +164,30 @@ std::string paroleRelazione(const Margine& margine) {
             break;
     }
     return traduttore("La relazione non ha numeri");
+}
+
+std::string paroleSenzaRelazione(const Margine& margine) {
+    if (margine.relazione || !margine.sta()) return {};
+    const auto nellaFase = [&](std::string_view chiave) {
+        return base::riempito(traduttore(chiave), {std::to_string(margine.corsa.fase)});
+    };
+    switch (margine.corsa.modo) {
+        case analysis::ModoFine::singolare:
+            return nellaFase(
+                "in equilibrio, ma il calcolo per fasi trova un sistema singolare nella fase %1: "
+                "niente relazione");
+        case analysis::ModoFine::oltreLimite:
+            return nellaFase(
+                "in equilibrio, ma il calcolo per fasi non si assesta nella fase %1: niente "
+                "relazione");
+        case analysis::ModoFine::nonMostrabile:
+            return traduttore("in equilibrio, ma nessuna relazione può mostrarne i numeri");
+        case analysis::ModoFine::compiuta:
+        case analysis::ModoFine::rifiutata:
+        case analysis::ModoFine::fermata:
+            break;
+    }
+    return {};
 }
 
 std::string paroleMetodo(const Margine& margine) {

@@ -44,6 +44,10 @@ namespace korven::safety {
 /// Why the report has no numbers, in a sentence; empty if it has them or the wall does not stand.
 [[nodiscard]] std::string paroleRelazione(const Margine& margine);
 
+/// The same beside a picture of the wall, which says that it stands all the same; empty too where
+/// the run was stopped.
+[[nodiscard]] std::string paroleSenzaRelazione(const Margine& margine);
+
 /// By which of the two ways the numbers came.
 [[nodiscard]] std::string paroleMetodo(const Margine& margine);
 

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <cmath>
 #include <string>
+#include <utility>
 
 #include "base/bound_units.hpp"
 #include "base/filled_text.hpp"
@@ -19,6 +20,21 @@ using base::riempito;
 using base::traduttore;
 
 const std::string punto = "  \u00B7  ";
+
+// That the stage shown stands, or all do, with the largest values of what is shown.
+std::string conclusione(const Mostrata& m) {
+    const auto e = m.parete.estremiDi(m.vista.fase == 0 ? 0 : m.fase);
+    if (!e) return {};
+    const std::string dove =
+        m.vista.fase == 0
+            ? traduttore("la paratia è in equilibrio; massimi di tutte le fasi")
+            : riempito(traduttore("la fase %1 è in equilibrio"), {std::to_string(m.fase)});
+    return dove + ": " + traduttore("spostamento") + " " +
+           conUnita(e->spostamento.valore, project::unita::spostamentoFine) + ", " +
+           traduttore("momento") + " " +
+           conUnita(e->momento().valore, project::unita::momentoAlMetro) + ", " +
+           traduttore("taglio") + " " + conUnita(e->taglio.valore, project::unita::forzaAlMetro);
+}
 
 }  // namespace
 
@@ -57,18 +73,11 @@ std::vector<Verdetto> verdetti(const Mostrata& m, const std::string& impedimento
                                              "equilibrio: non è calcolabile"),
                                   {std::to_string(m.fase), std::to_string(parete.fasi.size())}),
                          Ruolo::meccanismo});
+    if (!tutti.empty()) return tutti;
+    if (!parete.senzaRelazione.empty()) tutti.push_back({parete.senzaRelazione, Ruolo::avviso});
+    if (std::string sta = conclusione(m); !sta.empty())
+        tutti.push_back({std::move(sta), Ruolo::testoTenue});
     return tutti;
-}
-
-std::string conclusione(const Mostrata& m) {
-    if (!m.parete.sta()) return {};
-    const auto& e = m.parete.estremi;
-    return traduttore("la paratia è in equilibrio in tutte le fasi") + ": " +
-           traduttore("spostamento") + " " +
-           conUnita(e.spostamento.valore, project::unita::spostamentoFine) + ", " +
-           traduttore("momento") + " " +
-           conUnita(e.momento().valore, project::unita::momentoAlMetro) + ", " +
-           traduttore("taglio") + " " + conUnita(e.taglio.valore, project::unita::forzaAlMetro);
 }
 
 namespace {
@@ -132,8 +141,7 @@ double scriviNote(const Mostrata& m, const Misura& misura, const Opzioni& opzion
     y += 1.2 * riga;
     const int quante = righeDelVerdetto(misura);
     Righe righe(misura, y, quante, tela);
-    auto tutti = verdetti(m, opzioni.impedimento);
-    if (tutti.empty()) tutti.push_back({conclusione(m), Ruolo::testoTenue});
+    const auto tutti = verdetti(m, opzioni.impedimento);
     for (std::size_t i = 0; i < tutti.size(); ++i)
         righe.scrivi(tutti[i], static_cast<int>(tutti.size() - 1 - i));
     return y + quante * riga;

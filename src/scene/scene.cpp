@@ -43,10 +43,8 @@ Scena scena(const live::PareteViva& parete, const live::Vista& vista, const Misu
 std::string descrizione(const live::PareteViva& parete, const live::Vista& vista) {
     const Mostrata m = mostrata(parete, vista);
     std::string testo = titolo(m);
-    const auto tutti = verdetti(m, {});
-    for (const Verdetto& v : tutti) testo += ". " + v.testo;
-    const std::string sta = tutti.empty() ? conclusione(m) : std::string();
-    return sta.empty() ? testo : testo + ". " + sta;
+    for (const Verdetto& v : verdetti(m, {})) testo += ". " + v.testo;
+    return testo;
 }
 
 }  // namespace korven::scene

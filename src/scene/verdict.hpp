@@ -17,11 +17,9 @@ struct Verdetto {
 /// Which stage is shown: "fase 2 di 4  ·  scavo 5.00 m".
 [[nodiscard]] std::string titolo(const Mostrata& m);
 
-/// That all stages stand, with the largest values; empty where they do not, or nothing is known.
-[[nodiscard]] std::string conclusione(const Mostrata& m);
-
-/// What keeps values from being shown, a wall from being computed or from standing; empty for a
-/// stage in equilibrium.
+/// What keeps values from being shown, a wall from being computed or from standing; else that the
+/// stage shown stands, or all do, with its largest values or those of all, after what keeps the
+/// report from having numbers.
 [[nodiscard]] std::vector<Verdetto> verdetti(const Mostrata& m, const std::string& impedimento);
 
 }  // namespace korven::scene

@@ -8,6 +8,7 @@
 #include "support/plain_masks.hpp"
 #include "support/sample_projects.hpp"
 #include "support/sample_sections.hpp"
+#include "support/wall_files.hpp"
 
 namespace korven::live {
 namespace {
@@ -107,6 +108,21 @@ TEST_F(ProgettoVivoTest, TellsTheLengthThatStandsOnceItIsKnown) {
     EXPECT_EQ(safety::frase(*vivo.parete().perche), safety::frase(completo));
     EXPECT_NE(safety::frase(completo).find("di solito aiuta una paratia più lunga: circa"),
               std::string::npos);
+}
+
+TEST_F(ProgettoVivoTest, TellsOfAWallThatStandsThatTheRunFindsNoRestOnceItIsKnown) {
+    dati = test::leggiMuro(KORVEN_WALLS "/oscilla_1.kvd");
+    vivo.guarda(&dati);
+    ASSERT_TRUE(vivo.parete().sta());
+    EXPECT_EQ(vivo.parete().senzaRelazione, "");
+    vivo.rispondi(vivo.domanda()->numero, calcolaLenti(*vivo.domanda()));
+    EXPECT_EQ(vivo.parete().senzaRelazione,
+              "in equilibrio, ma il calcolo per fasi non si assesta nella fase 2: niente "
+              "relazione");
+    dati = test::progettoSemplice();
+    vivo.guarda(&dati);
+    vivo.rispondi(vivo.domanda()->numero, calcolaLenti(*vivo.domanda()));
+    EXPECT_EQ(vivo.parete().senzaRelazione, "");
 }
 
 TEST_F(ProgettoVivoTest, ShowsAnotherProjectInAllItsStagesAndKeepsTheCurve) {

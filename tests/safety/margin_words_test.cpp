@@ -171,5 +171,29 @@ TEST(ParoleRelazione, SayWhatKeepsItFromItsNumbers) {
     EXPECT_EQ(paroleRelazione(m), "");
 }
 
+TEST(ParoleSenzaRelazione, SayOfAWallThatStandsWhatTheRunDoesNotFind) {
+    using analysis::ModoFine;
+    Margine m = dueFasi();
+    m.corsa = {ModoFine::oltreLimite, 2, 200};
+    EXPECT_EQ(paroleSenzaRelazione(m),
+              "in equilibrio, ma il calcolo per fasi non si assesta nella fase 2: niente "
+              "relazione");
+    m.corsa = {ModoFine::singolare, 1, 0};
+    EXPECT_EQ(paroleSenzaRelazione(m),
+              "in equilibrio, ma il calcolo per fasi trova un sistema singolare nella fase 1: "
+              "niente relazione");
+    m.corsa = {ModoFine::nonMostrabile, 0, 0};
+    EXPECT_EQ(paroleSenzaRelazione(m),
+              "in equilibrio, ma nessuna relazione può mostrarne i numeri");
+    m.corsa = {ModoFine::fermata, 2, 3};
+    EXPECT_EQ(paroleSenzaRelazione(m), "");
+    m.corsa = {ModoFine::oltreLimite, 2, 200};
+    m.fasi[1].esito = EsitoFase::meccanismo;  // it does not stand
+    EXPECT_EQ(paroleSenzaRelazione(m), "");
+    m = dueFasi();
+    m.relazione.emplace();
+    EXPECT_EQ(paroleSenzaRelazione(m), "");
+}
+
 }  // namespace
 }  // namespace korven::safety

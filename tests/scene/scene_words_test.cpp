@@ -85,9 +85,8 @@ TEST(Scena, SaysWhatIsInTheWayOfWhatIsTyped) {
 TEST(Scena, StaysWhereItIsWhateverIsSaidAboveIt) {
     auto dati = test::progettoSemplice();
     const Scena sta = scenaDi(dati, {2});
-    EXPECT_NE(
-        testi(sta, Elemento::nota).at(1).find("la paratia è in equilibrio in tutte le fasi: "),
-        std::string::npos);
+    EXPECT_NE(testi(sta, Elemento::nota).at(1).find("la fase 2 è in equilibrio: "),
+              std::string::npos);
     const auto parete = live::calcola(dati, 40);
     const Scena impedita =
         scena(parete, {2}, {900, 580}, MisuraStimata(), {.impedimento = "riga 3: dati incompleti"});
@@ -134,10 +133,40 @@ TEST(Scena, NamesTheStiffnessAndWhereItComesFrom) {
 TEST(Descrizione, TellsStageAndVerdictInOneText) {
     const auto dati = test::progettoSemplice();
     const std::string testo = descrizione(live::calcola(dati, 40), {2});
-    EXPECT_EQ(
-        testo.find("fase 2 di 2  ·  scavo 5.00 m. la paratia è in equilibrio in tutte le fasi: "),
-        0U);
+    EXPECT_EQ(testo.find("fase 2 di 2  ·  scavo 5.00 m. la fase 2 è in equilibrio: "), 0U);
     EXPECT_NE(testo.find(" mm, momento "), std::string::npos);
+}
+
+TEST(Descrizione, TellsTheValuesOfTheStageShownOrTheLargestOfAll) {
+    auto parete = live::calcola(test::progettoSemplice(), 40);
+    for (auto& y : parete.fasi[0].y) y = 0;
+    parete.fasi[0].y[0] = 0.002;
+    parete.estremi.spostamento.valore = 0.005;
+    EXPECT_NE(
+        descrizione(parete, {1}).find(". la fase 1 è in equilibrio: spostamento 2.0 mm, momento "),
+        std::string::npos)
+        << descrizione(parete, {1});
+    EXPECT_NE(descrizione(parete, {0})
+                  .find(". la paratia è in equilibrio; massimi di tutte le "
+                        "fasi: spostamento 5.0 mm, momento "),
+              std::string::npos)
+        << descrizione(parete, {0});
+}
+
+TEST(Descrizione, TellsTheValuesOfAStageBeforeTheOneThatFalls) {
+    auto dati = test::progettoSemplice();
+    dati.profFase[2] = 9;
+    dati.tirantiFase[2] = 0;
+    const auto parete = live::calcola(dati, 40);
+    EXPECT_NE(descrizione(parete, {1}).find("la fase 1 è in equilibrio: "), std::string::npos);
+    EXPECT_EQ(descrizione(parete, {0}).find("massimi di tutte le fasi"), std::string::npos);
+}
+
+TEST(Descrizione, SaysThatTheReportHasNoNumbersBeforeThoseOfTheWall) {
+    auto parete = live::calcola(test::progettoSemplice(), 40);
+    parete.senzaRelazione = "niente relazione";
+    const std::string testo = descrizione(parete, {});
+    EXPECT_LT(testo.find("niente relazione. la paratia è in equilibrio; massimi"), testo.size());
 }
 
 }  // namespace
