@@ -10,8 +10,7 @@ namespace korven::shell {
 
 namespace {
 
-constexpr int gradino = 28;           // the height of a window's head [px]
-constexpr int larghezzaForma = 1000;  // of a table with its panel, at first [px]
+constexpr int gradino = 28;  // the height of a window's head [px]
 
 int coperti(const QRect& una, const QRect& altra) {
     const QRect comune = una.intersected(altra);
@@ -51,12 +50,7 @@ QPoint postoAccanto(const QRect& altra, QSize misura, const QRect& schermo,
     return posto;
 }
 
-QPoint postoPrincipale(QSize misura, const QRect& schermo) {
-    const int avanza = schermo.width() - misura.width() - larghezzaForma;
-    if (avanza < 0) return schermo.topLeft();
-    return schermo.topLeft() +
-           QPoint(avanza / 2, std::max(schermo.height() - misura.height(), 0) / 2);
-}
+QPoint postoPrincipale(const QRect& schermo) { return schermo.topLeft(); }
 
 bool collocaAccanto(QWidget& finestra) {
     const QWidget* altra = finestra.parentWidget();

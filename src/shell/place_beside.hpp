@@ -17,10 +17,9 @@ namespace korven::shell {
 [[nodiscard]] QPoint postoAccanto(const QRect& altra, QSize misura, const QRect& schermo,
                                   const QList<QPoint>& presi = {});
 
-/// Where the main form begins: with a large form beside it in the middle of the screen, and in the
-/// corner at the left and above where both have no room, which leaves the most of it to that form.
-/// @param misura  with the frame
-[[nodiscard]] QPoint postoPrincipale(QSize misura, const QRect& schermo);
+/// Where the main form begins: in the corner at the left and above, which leaves the most of the
+/// screen in one piece to the windows that open beside it.
+[[nodiscard]] QPoint postoPrincipale(const QRect& schermo);
 
 /// Puts a window that is not shown yet beside the one that it belongs to.
 /// @return false, the window left where it is, when that one is not seen

@@ -38,10 +38,10 @@ TEST(PostoAccanto, IsOnTheSecondScreenWithTheOther) {
     EXPECT_EQ(postoAccanto({1100, 50, 500, 400}, misura, {1024, 0, 1024, 600}), QPoint(1600, 50));
 }
 
-TEST(PostoPrincipale, LeavesRoomForAFormBesideItOrIsInTheCorner) {
-    EXPECT_EQ(postoPrincipale({900, 660}, {0, 0, 1920, 1080}), QPoint(10, 210));
-    EXPECT_EQ(postoPrincipale({900, 660}, {0, 30, 1280, 994}), QPoint(0, 30));
-    EXPECT_EQ(postoPrincipale({900, 560}, {1024, 0, 1024, 600}), QPoint(1024, 0));
+TEST(PostoPrincipale, IsTheCornerThatLeavesTheRestOfTheScreenToOtherWindows) {
+    EXPECT_EQ(postoPrincipale({0, 0, 1920, 1080}), QPoint(0, 0));
+    EXPECT_EQ(postoPrincipale({0, 30, 1280, 994}), QPoint(0, 30));
+    EXPECT_EQ(postoPrincipale({1024, 0, 1024, 600}), QPoint(1024, 0));
 }
 
 TEST(PostoAccanto, LeavesTheHeadsInSightOfTheWindowsThatLieThere) {

@@ -95,7 +95,7 @@ Menu1::Menu1() {
     resize(misuraIniziale(screen()->availableSize()));
     setMinimumSize(480, 340);
     // Before a window manager has moved the form, since the box that greets goes over it.
-    move(postoPrincipale(misuraConCornice(*this), screen()->availableGeometry()));
+    move(postoPrincipale(screen()->availableGeometry()));
     ripristinaMisure(*this);
 }
 
