@@ -1,5 +1,7 @@
 #include "structure/section_validity.hpp"
 
+#include <array>
+
 #include "structure/section_type.hpp"
 
 namespace korven::structure {
@@ -49,9 +51,25 @@ constexpr CampoRichiesto campiRichiesti[] = {
     {TipoSezione::paliArmati, &Sezione::fck},
 };
 
-constexpr double Sezione::*campiFacce[] = {&Sezione::copriferroMonte, &Sezione::interasseMonte,
-                                           &Sezione::diametroMonte,   &Sezione::copriferroValle,
-                                           &Sezione::interasseValle,  &Sezione::diametroValle};
+using CampiFaccia = std::array<double Sezione::*, 3>;
+
+constexpr CampiFaccia campiMonte{&Sezione::copriferroMonte, &Sezione::interasseMonte,
+                                 &Sezione::diametroMonte};
+constexpr CampiFaccia campiValle{&Sezione::copriferroValle, &Sezione::interasseValle,
+                                 &Sezione::diametroValle};
+
+std::vector<double Sezione::*> mancanti(const Sezione& sezione, const CampiFaccia& campi) {
+    std::vector<double Sezione::*> vuoti;
+    for (const auto campo : campi)
+        if (!(sezione.*campo > 0)) vuoti.push_back(campo);
+    return vuoti;
+}
+
+// One face is enough: the one that lacks least, the earth's where both lack as much.
+std::vector<double Sezione::*> mancantiFaccia(const Sezione& sezione) {
+    const auto monte = mancanti(sezione, campiMonte), valle = mancanti(sezione, campiValle);
+    return valle.size() < monte.size() ? valle : monte;
+}
 
 bool completa(const Sezione& sezione, bool perLaRelazione) {
     const TipoSezione tipo = tipoSezione(sezione);
@@ -88,10 +106,8 @@ std::vector<double Sezione::*> campiMancanti(const Sezione& sezione) {
     std::vector<double Sezione::*> mancanti;
     for (const CampoRichiesto& riga : campiRichiesti)
         if (riga.tipo == tipo && !(sezione.*riga.campo > 0)) mancanti.push_back(riga.campo);
-    if (tipo == TipoSezione::diaframma && !facciaCompleta(sezione, project::Lato::monte) &&
-        !facciaCompleta(sezione, project::Lato::valle))
-        for (const auto campo : campiFacce)
-            if (!(sezione.*campo > 0)) mancanti.push_back(campo);
+    if (tipo == TipoSezione::diaframma)
+        for (const auto campo : mancantiFaccia(sezione)) mancanti.push_back(campo);
     return mancanti;
 }
 

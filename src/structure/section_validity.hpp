@@ -21,8 +21,9 @@ namespace korven::structure {
 /// Stiffness, bending and shear are computed only after this test.
 [[nodiscard]] bool sezioneValida(const project::Sezione& sezione);
 
-/// The fields that `sezioneValida` asks for and that are not above 0, those of the faces of a
-/// diaphragm without a complete one included. Empty for a section without a type.
+/// The fields that `sezioneValida` asks for and that are not above 0; of a diaphragm without a
+/// complete face those of the face that lacks fewest, of the earth's where both lack as many. Empty
+/// for a section without a type.
 [[nodiscard]] std::vector<double project::Sezione::*> campiMancanti(
     const project::Sezione& sezione);
 

@@ -48,8 +48,8 @@ std::string rigaProgetto(double delProgetto, double dellaSezione) {
         return traduttore("EJ del progetto: 0, il calcolo prende quella della sezione.");
     const char* testo =
         delProgetto == dellaSezione
-            ? "EJ del progetto: %1 kN m², uguale."
-            : "EJ del progetto: %1 kN m², diversa: il calcolo chiede quale prendere.";
+            ? "EJ del progetto: %1 kN m²/m, uguale."
+            : "EJ del progetto: %1 kN m²/m, diversa: il calcolo chiede quale prendere.";
     return riempito(traduttore(testo), {ej(delProgetto)});
 }
 
@@ -57,7 +57,7 @@ std::vector<std::string> righe(const DatiProgetto& dati) {
     if (!live::sezioneCalcolabile(dati.sezione)) return {senzaSezione(dati.sezione)};
     std::vector<std::string> righe;
     if (const auto EJ = structure::rigidezzaOfferta(dati.sezione)) {
-        righe.push_back(riempito(traduttore("EJ della sezione: %1 kN m²"), {ej(*EJ)}));
+        righe.push_back(riempito(traduttore("EJ della sezione: %1 kN m²/m"), {ej(*EJ)}));
         righe.push_back(rigaProgetto(dati.rigidezzaEJ, *EJ));
     } else {
         righe.push_back(traduttore("EJ della sezione: nessun numero."));

@@ -122,13 +122,18 @@ TEST(CampiMancanti, AreThoseAskedForThatAreNotAboveZero) {
     EXPECT_TRUE(campiMancanti(Sezione{}).empty());
 }
 
-TEST(CampiMancanti, OfADiaphragmAreThoseOfItsFacesWithoutAWholeOne) {
+TEST(CampiMancanti, OfADiaphragmAreThoseOfTheFaceThatLacksFewest) {
+    using Campi = std::vector<double Sezione::*>;
     auto s = diaframmaSimmetrico();
     s.diametroMonte = 0;
     EXPECT_TRUE(campiMancanti(s).empty());
     s.copriferroValle = 0;
-    EXPECT_EQ(campiMancanti(s),
-              (std::vector<double Sezione::*>{&Sezione::diametroMonte, &Sezione::copriferroValle}));
+    EXPECT_EQ(campiMancanti(s), (Campi{&Sezione::diametroMonte}));
+    s.interasseMonte = 0;
+    EXPECT_EQ(campiMancanti(s), (Campi{&Sezione::copriferroValle}));
+    s.copriferroMonte = s.interasseValle = s.diametroValle = 0;
+    EXPECT_EQ(campiMancanti(s), (Campi{&Sezione::copriferroMonte, &Sezione::interasseMonte,
+                                       &Sezione::diametroMonte}));
 }
 
 TEST(SezioneDefinita, DiffersInTheInnerDiameterOfPilesAlone) {

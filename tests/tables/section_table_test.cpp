@@ -55,7 +55,7 @@ TEST(QuadroSezioneTest, TellsWhatARunDoesWithTheStiffness) {
     auto dati = muro(structure::diaframmaSimmetrico());
     const double EJ = *structure::rigidezzaOfferta(dati.sezione);
     const std::string della =
-        "EJ della sezione: " + std::to_string(static_cast<int>(10 * EJ)) + " kN m²";
+        "EJ della sezione: " + std::to_string(static_cast<int>(10 * EJ)) + " kN m²/m";
     dati.rigidezzaEJ = 0;
     EXPECT_EQ(righe(dati)[0], della);
     EXPECT_EQ(righe(dati)[1], "EJ del progetto: 0, il calcolo prende quella della sezione.");
@@ -63,7 +63,7 @@ TEST(QuadroSezioneTest, TellsWhatARunDoesWithTheStiffness) {
     EXPECT_TRUE(righe(dati)[1].ends_with("uguale."));
     dati.rigidezzaEJ = 1234.5;
     EXPECT_EQ(righe(dati)[1],
-              "EJ del progetto: 12345 kN m², diversa: il calcolo chiede quale prendere.");
+              "EJ del progetto: 12345 kN m²/m, diversa: il calcolo chiede quale prendere.");
     dati.sforzoNormale = 10;
     EXPECT_EQ(righe(dati)[2], "Sforzo normale di progetto Nd: 140.00 kN/m");
 }
