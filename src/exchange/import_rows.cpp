@@ -56,11 +56,11 @@ void tieniValori(RigheStrati& righe, const std::bitset<numeroColonne>& assenti,
 }
 
 // How many cells are still to be filled in: the table reads an empty one as 0.
-void contaVuote(RigheImporto& importo) {
+void contaVuote(bool serveKs, RigheImporto& importo) {
     int vuote = 0;
     for (const RigaStrato& riga : importo.righe)
         for (std::size_t c = gammaN; c <= ks; ++c)
-            vuote += base::senzaSpaziEsterni(riga[c]).empty() ? 1 : 0;
+            vuote += (c != ks || serveKs) && base::senzaSpaziEsterni(riga[c]).empty();
     if (vuote > 0)
         importo.avvertenze.push_back(frase(
             "celle da compilare: %1. Una cella lasciata vuota vale 0", {std::to_string(vuote)}));
@@ -88,7 +88,7 @@ RigheImporto preparaRighe(const StratiLetti& letti, const RigheStrati& presenti,
         importo.avvertenze.push_back(
             base::traduttore("alcune descrizioni cominciano senza codice di campitura: la loro "
                              "prima parola vale come codice e non viene stampata"));
-    contaVuote(importo);
+    contaVuote(scelta.serveKs, importo);
     return importo;
 }
 

@@ -14,6 +14,8 @@ struct SceltaImporto {
     /// Descriptions that begin with no graphic code get the code 0, no hatch: the first word of a
     /// description is its code and is not printed.
     bool mettiCodice = false;
+    /// False where the subgrade modulus comes from a rule: an empty ks is not missed then.
+    bool serveKs = true;
 };
 
 /// The rows as they will stand in the table, and what there is to know about them.

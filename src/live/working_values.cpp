@@ -41,22 +41,25 @@ std::vector<std::size_t> necessarie(const Maschera& maschera, masks::NumeroMasch
     return quali;
 }
 
+bool haVuote(const std::vector<std::size_t>& necessarie, const std::string* celle) {
+    return std::any_of(necessarie.begin(), necessarie.end(),
+                       [celle](std::size_t c) { return vuoto(celle[c - 1]); });
+}
+
 // A row that is typed from left to right is complete when the last number that it needs is there,
 // or one behind it. Where cells may stay empty those before it read as 0; else each of them has to
 // be there.
 bool incompleta(const Maschera& maschera, const std::vector<std::size_t>& necessarie,
                 const std::string* celle) {
     const auto manca = [celle](std::size_t c) { return vuoto(celle[c - 1]); };
-    if (maschera.genere != masks::GenereMaschera::grigliaLibera)
-        return std::any_of(necessarie.begin(), necessarie.end(), manca);
+    if (maschera.genere != masks::GenereMaschera::grigliaLibera) return haVuote(necessarie, celle);
     for (std::size_t c = necessarie.empty() ? 1 : necessarie.back(); c < maschera.campi.size(); ++c)
         if (numerica(maschera.campi[c]) && !manca(c)) return false;
     return !necessarie.empty();
 }
 
-// What is wrong with one row of a table; empty for a good one.
-std::string impedimentoRiga(const Maschera& maschera, const std::vector<std::size_t>& necessarie,
-                            const std::string* celle, int riga) {
+// Which cell of a row of a table holds what it doesn't take; empty for a good row.
+std::string celleNonAmmesse(const Maschera& maschera, const std::string* celle, int riga) {
     for (std::size_t c = 1; c < maschera.campi.size(); ++c) {
         const CampoMaschera& colonna = maschera.campi[c];
         const std::string& testo = celle[c - 1];
@@ -64,8 +67,6 @@ std::string impedimentoRiga(const Maschera& maschera, const std::vector<std::siz
             return nonAmmesso(
                 riempito(traduttore("riga %1, %2"), {std::to_string(riga), colonna.etichetta}));
     }
-    if (incompleta(maschera, necessarie, celle))
-        return riempito(traduttore("riga %1: dati incompleti"), {std::to_string(riga)});
     return {};
 }
 
@@ -77,10 +78,16 @@ std::string impedimentoTabella(const project::DatiProgetto& dati, const Maschera
         return riempito(traduttore("%1 righe, la tabella ne tiene %2"),
                         {std::to_string(righe), std::to_string(masks::capienza(valori.maschera))});
     const auto quali = necessarie(maschera, valori.maschera, dati);
+    // The first row with an empty cell is told, as the form does, though a later one stops it.
+    int primaVuota = 0;
     for (std::size_t r = 0; r < righe; ++r) {
-        auto perche = impedimentoRiga(maschera, quali, &valori.testi[1 + r * colonne],
-                                      static_cast<int>(r) + 1);
-        if (!perche.empty()) return perche;
+        const int riga = static_cast<int>(r) + 1;
+        const std::string* celle = &valori.testi[1 + r * colonne];
+        if (auto perche = celleNonAmmesse(maschera, celle, riga); !perche.empty()) return perche;
+        if (primaVuota == 0 && haVuote(quali, celle)) primaVuota = riga;
+        if (incompleta(maschera, quali, celle))
+            return riempito(traduttore("riga %1: dati incompleti"),
+                            {std::to_string(primaVuota == 0 ? riga : primaVuota)});
     }
     return {};
 }

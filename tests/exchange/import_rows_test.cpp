@@ -76,5 +76,15 @@ TEST(PreparaRighe, PutsACodeBeforeDescriptionsThatHaveNone) {
               "come codice e non viene stampata");
 }
 
+TEST(PreparaRighe, CountsAnEmptyKsOnlyWhereTheSubgradeModulusComesFromIt) {
+    auto letti = foro({riga("1", "105 Clay"), riga("2", "103 Sand")});
+    for (RigaStrato& una : letti.righe)
+        for (std::size_t c = gammaN; c <= ks; ++c) una[c].clear();
+    const std::string inizio = "celle da compilare: ";
+    EXPECT_TRUE(preparaRighe(letti, {}, {}).avvertenze.front().starts_with(inizio + "10."));
+    EXPECT_TRUE(
+        preparaRighe(letti, {}, {.serveKs = false}).avvertenze.front().starts_with(inizio + "8."));
+}
+
 }  // namespace
 }  // namespace korven::exchange

@@ -82,6 +82,16 @@ TEST_F(ValoriInCorso, ReadAnEmptyCellAs0WhereCellsMayStayEmptyAndTheRowGoesOn) {
     EXPECT_EQ(con(valori).impedimento, "riga 1: dati incompleti");
 }
 
+TEST_F(ValoriInCorso, TellTheFirstRowWithAnEmptyCellWhereALaterOneIsIncomplete) {
+    auto valori = forma(masks::NumeroMaschera::strati);
+    const std::size_t colonne = maschere.corrente().campi.size() - 1;
+    valori.testi[5].clear();  // cohesion of layer 1, which reads as 0
+    for (const std::size_t ultime : {6U, 7U}) valori.testi[ultime + colonne].clear();
+    EXPECT_EQ(con(valori).impedimento, "riga 1: dati incompleti");
+    valori.testi[5] = "1";
+    EXPECT_EQ(con(valori).impedimento, "riga 2: dati incompleti");
+}
+
 TEST_F(ValoriInCorso, NeedKsOfALayerOnlyWhereTheSubgradeModulusComesFromIt) {
     auto valori = forma(masks::NumeroMaschera::strati);
     valori.testi[6].clear();

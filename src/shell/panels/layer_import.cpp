@@ -14,6 +14,8 @@
 #include <utility>
 
 #include "exchange/layer_columns.hpp"
+#include "masks/needed_cells.hpp"
+#include "project/project_data.hpp"
 #include "shell/form_sizes.hpp"
 #include "shell/qt_text.hpp"
 
@@ -153,7 +155,9 @@ void ImportaStrati::prepara() {
     importo_ = exchange::preparaRighe(
         letti_, presenti_,
         {.tieniValori = tieniValori_->isEnabled() && tieniValori_->isChecked(),
-         .mettiCodice = mettiCodice_->isEnabled() && mettiCodice_->isChecked()});
+         .mettiCodice = mettiCodice_->isEnabled() && mettiCodice_->isChecked(),
+         .serveKs = masks::cellaNecessaria(masks::NumeroMaschera::strati,
+                                           static_cast<int>(exchange::ks) + 1, project::Progetto)});
     mostraRighe();
     mostraMessaggi();
     importa_->setEnabled(letti_.riuscita());
