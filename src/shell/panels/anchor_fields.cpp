@@ -45,10 +45,15 @@ CampiTirante::CampiTirante(panels::IngressiCalcolo& ingressi)
     fareRiga(VoceCalcolo::forza, fareCasella(VoceCalcolo::forza));
     pretensione_ = fareConto("calcoloPretensione");
     scriviPretensione_ = farePulsante("scriviPretensione");
-    connect(scriviRigidezza_, &QPushButton::clicked, this,
-            [this] { emit scriviRigidezza(panels::rigidezza(ingressi_).testo()); });
-    connect(scriviPretensione_, &QPushButton::clicked, this,
-            [this] { emit scriviPretensione(panels::pretensione(ingressi_).testo()); });
+    // What is typed next is meant for the calculation, not for the row of the table.
+    connect(scriviRigidezza_, &QPushButton::clicked, this, [this] {
+        emit scriviRigidezza(panels::rigidezza(ingressi_).testo());
+        campi_[static_cast<std::size_t>(VoceCalcolo::forza)]->setFocus();
+    });
+    connect(scriviPretensione_, &QPushButton::clicked, this, [this] {
+        emit scriviPretensione(panels::pretensione(ingressi_).testo());
+        scriviPretensione_->setFocus();
+    });
     ordinaTab();
     mostra();
 }

@@ -74,6 +74,7 @@ TEST_F(PannelloDeiTiranti, WritesTheStiffnessIntoTheRowInUseInOneStepThatCtrlZTa
         premi("scriviRigidezza");
         EXPECT_EQ(cella(2, 2), "2843.8");
         EXPECT_EQ(vita.vivo().dati().rigTirante[2], 284.38);
+        EXPECT_TRUE(casella(6).hasFocus());
         QTest::keyClick(&griglia(), Qt::Key_Z, Qt::ControlModifier);
         EXPECT_EQ(cella(2, 2), "4000");
         EXPECT_EQ(vita.vivo().dati().rigTirante[2], 400);
@@ -86,6 +87,7 @@ TEST_F(PannelloDeiTiranti, WritesThePrestress) {
         premi("scriviPretensione");
         EXPECT_EQ(cella(1, 3), "173.21");
         EXPECT_EQ(cella(1, 2), "5000");
+        EXPECT_EQ(forma->focusWidget()->objectName(), "scriviPretensione");
     });
 }
 
