@@ -26,17 +26,15 @@ using structure::ConfrontoTaglio;
 namespace unita = project::unita;
 
 std::vector<Cella> riga(const project::Unita& u, const char* cosa, double progetto,
-                        double resistenza, const DoveVerifica& dove, std::string_view esito,
+                        double resistenza, const DoveVerifica& dove, std::string_view parole,
                         bool fallita) {
-    Cella verdetto = parola(traduttore(esito));
-    if (fallita) verdetto.peso = review::Peso::pericolo;
     return {parola(traduttore(cosa) + " " + traParentesi(u)),
             cifre(progetto),
             cifre(resistenza),
             uso(progetto, resistenza),
             dove.fase > 0 ? cella(dove.fase) : tables::dove(0, 0),
             tables::dove(dove.fase, dove.z),
-            verdetto};
+            esito(traduttore(parole), fallita)};
 }
 
 void flessione(const ConfrontoMomenti& c, const ControlliSezione& controlli, Prospetto& p) {

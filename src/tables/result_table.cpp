@@ -51,6 +51,12 @@ Cella parola(std::string testo, std::optional<double> ordine) {
     return {.testo = std::move(testo), .ordine = ordine};
 }
 
+Cella esito(std::string testo, bool fallito) {
+    Cella c = parola(std::move(testo));
+    if (fallito) c.peso = review::Peso::pericolo;
+    return c;
+}
+
 Cella profondita(double z) { return cella(z, decimaliMostrati, unita::metri); }
 Cella spostamento(double y) { return cella(y, decimaliMostrati, unita::spostamentoFine); }
 Cella momento(double M) { return cella(M, decimaliMostrati, unita::momentoAlMetro); }

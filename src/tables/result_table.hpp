@@ -66,6 +66,8 @@ struct Prospetto {
 [[nodiscard]] Cella senza(std::string perche);
 /// A word, sorted by its letters or by a number.
 [[nodiscard]] Cella parola(std::string testo, std::optional<double> ordine = {});
+/// The word of a verdict, a failure with the weight of a danger.
+[[nodiscard]] Cella esito(std::string testo, bool fallito);
 
 // The digits that the tables show after the point, the same for a quantity wherever it stands.
 [[nodiscard]] Cella profondita(double z);   ///< [m], two decimals

@@ -21,8 +21,6 @@ using live::PareteViva;
 using project::DatiProgetto;
 namespace unita = project::unita;
 
-constexpr const char* verificata = "verificata";
-constexpr const char* nonVerificata = "NON verificata";
 constexpr const char* azioniNonNote =
     "Azioni non note: la paratia non è calcolata o non è in equilibrio.";
 
@@ -68,6 +66,10 @@ std::vector<std::string> righe(const DatiProgetto& dati) {
     return righe;
 }
 
+Cella verifica(bool fallita) {
+    return esito(traduttore(fallita ? "NON verificata" : "verificata"), fallita);
+}
+
 // Symbols, since there is little room beside the sketch.
 // @param manca  why the design value is not known; empty where it is
 std::vector<Cella> riga(const char* simbolo, const project::Unita& u, const char* manca,
@@ -77,9 +79,7 @@ std::vector<Cella> riga(const char* simbolo, const project::Unita& u, const char
     std::vector<Cella> celle{parola(std::string(simbolo) + " " + traParentesi(u)),
                              nota ? cifre(progetto) : nessuna, cifre(resistenza),
                              nota ? uso(progetto, resistenza) : nessuna, nessuna};
-    if (!nota) return celle;
-    celle.back() = parola(traduttore(fallita ? nonVerificata : verificata));
-    if (fallita) celle.back().peso = review::Peso::pericolo;
+    if (nota) celle.back() = verifica(fallita);
     return celle;
 }
 
@@ -152,12 +152,10 @@ Prospetto prospettoDominio(const PareteViva& parete, const safety::Margine* marg
                     colonnaParole("Esito", "Esito, con le parole della relazione"),
                 }};
     for (const auto& fase : live::fasiNelDominio(parete, margine)) {
-        Cella esito = parola(traduttore(fase.dentro() ? verificata : nonVerificata));
-        if (!fase.dentro()) esito.peso = review::Peso::pericolo;
-        p.righe.push_back({cella(fase.fase),
-                           cifre(mostrato(unita::forzaAlMetro, fase.Nd / project::newton)),
-                           cifre(mostrato(unita::momentoAlMetro, fase.momenti.mdMax)),
-                           cifre(mostrato(unita::momentoAlMetro, fase.momenti.mdMin)), esito});
+        p.righe.push_back(
+            {cella(fase.fase), cifre(mostrato(unita::forzaAlMetro, fase.Nd / project::newton)),
+             cifre(mostrato(unita::momentoAlMetro, fase.momenti.mdMax)),
+             cifre(mostrato(unita::momentoAlMetro, fase.momenti.mdMin)), verifica(!fase.dentro())});
     }
     if (dominio.empty()) return p;
     const auto kN = [](double N) { return base::testoDecimali(N / project::newtonKilonewton, 0); };

@@ -20,10 +20,8 @@ namespace unita = project::unita;
 
 Cella verdetto(const PareteViva& parete, int k) {
     if (k > static_cast<int>(parete.fasi.size())) return parola(traduttore("non calcolata"));
-    const EsitoFase esito = parete.fasi[static_cast<std::size_t>(k) - 1].esito;
-    Cella c = parola(safety::parole(esito));
-    if (esito != EsitoFase::equilibrio) c.peso = review::Peso::pericolo;
-    return c;
+    const EsitoFase e = parete.fasi[static_cast<std::size_t>(k) - 1].esito;
+    return esito(safety::parole(e), e != EsitoFase::equilibrio);
 }
 
 // The value, then the depth of its node.
