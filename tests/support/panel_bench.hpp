@@ -61,6 +61,26 @@ class BancoPannelli : public ::testing::Test {
         QTest::mouseClick(griglia().viewport(), Qt::LeftButton, {},
                           griglia().visualRect(dove).center());
     }
+    /// What a Ctrl+Z in any control of the panel comes to: types into the first cell before each.
+    /// @return the controls from which it was not taken back
+    std::string nonAnnullano(const char* pannello) {
+        std::string muti;
+        int provati = 0;
+        for (auto* pezzo : controllo<QWidget>(pannello).findChildren<QWidget*>()) {
+            if (!pezzo->isVisible() || !pezzo->isEnabled() || pezzo->focusPolicy() == Qt::NoFocus)
+                continue;
+            cursore(1, 1);
+            const std::string prima = cella(1, 1);
+            QTest::keyClicks(&griglia(), "7");
+            EXPECT_NE(cella(1, 1), prima);
+            pezzo->setFocus();
+            QTest::keyClick(pezzo, Qt::Key_Z, Qt::ControlModifier);
+            if (cella(1, 1) != prima) muti += pezzo->objectName().toStdString() + ' ';
+            ++provati;
+        }
+        EXPECT_GT(provati, 0);
+        return muti;
+    }
     /// The text of the label that a control belongs to.
     std::string etichettaDi(const QWidget& controllo) {
         for (const auto* etichetta : forma->findChildren<QLabel*>())

@@ -44,7 +44,7 @@ Base2_32::Base2_32(const masks::Maschera& maschera, const std::vector<std::strin
     colonna->addWidget(farePulsanti([this](std::size_t pulsante) { azione(pulsante); }));
     setTabOrder(griglia_, aiuto_);
     new TastiStoria(
-        *this, [this] { griglia_->annulla(); }, [this] { griglia_->ripeti(); });
+        *this, [this] { annulla(); }, [this] { ripeti(); });
 
     const QMargins bordi = colonna->contentsMargins();
     const int larghezza =
@@ -103,6 +103,10 @@ void Base2_32::sostituisci(const std::vector<std::vector<std::string>>& righe, s
     griglia_->aggiorna();
 }
 
+void Base2_32::annulla() { griglia_->annulla(); }
+
+void Base2_32::ripeti() { griglia_->ripeti(); }
+
 void Base2_32::nota(const QString& testo) {
     if (testo == nota_) return;
     nota_ = testo;
@@ -144,13 +148,14 @@ void Base2_32::cambiata() {
 
 void Base2_32::spiega() {
     setWindowTitle(qt(modello_.titolo()));
-    if (!spiegato_.isEmpty()) return aiuto_->mostra(spiegato_);
+    const bool inGriglia = spiegato_.isEmpty();
+    const bool letto = inGriglia && modello_.detto().empty();
     QStringList note;
     if (!nota_.isEmpty()) note << nota_;
     for (const std::string& nota :
-         {modello_.eccesso(), modello_.detto().empty() ? modello_.lettura() : modello_.detto()})
+         {modello_.eccesso(), letto ? modello_.lettura() : modello_.detto()})
         if (!nota.empty()) note << qt(nota);
-    aiuto_->mostra(qt(modello_.aiuto()), note.join(QLatin1Char('\n')));
+    aiuto_->mostra(inGriglia ? qt(modello_.aiuto()) : spiegato_, note.join(QLatin1Char('\n')));
 }
 
 void Base2_32::reject() {

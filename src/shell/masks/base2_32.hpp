@@ -50,6 +50,10 @@ class Base2_32 : public FormaMaschera {
     /// A panel puts rows in place of all (`ModelloGriglia::sostituisci`).
     void sostituisci(const std::vector<std::vector<std::string>>& righe, std::string passo);
 
+    /// Takes the last step of the table back, or does it again; the grid gets the focus.
+    void annulla();
+    void ripeti();
+
     /// Begins at a cell, before it is shown.
     void comincia(masks::PostoGriglia posto);
 

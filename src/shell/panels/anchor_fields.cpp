@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QSignalBlocker>
 
 #include "base/filled_text.hpp"
 #include "base/translated_texts.hpp"
@@ -28,7 +29,7 @@ void menoLargo(QComboBox& scelta) {
 }  // namespace
 
 CampiTirante::CampiTirante(panels::IngressiCalcolo& ingressi)
-    : ingressi_(ingressi), griglia_(new QGridLayout(this)) {
+    : ingressi_(ingressi), storia_(ingressi), griglia_(new QGridLayout(this)) {
     griglia_->setContentsMargins(0, 0, 0, 0);
     constexpr int fitto = 4;
     griglia_->setVerticalSpacing(fitto);
@@ -85,10 +86,8 @@ QComboBox* CampiTirante::fareModulo() {
     modulo->setAccessibleDescription(quali);
     modulo->lineEdit()->setAlignment(Qt::AlignRight);
     modulo->setEditText(qt(ingressi_.testo(VoceCalcolo::modulo)));
-    connect(modulo, &QComboBox::editTextChanged, this, [this](const QString& testo) {
-        ingressi_.testo(VoceCalcolo::modulo) = testo.toStdString();
-        cambiata();
-    });
+    connect(modulo, &QComboBox::editTextChanged, this,
+            [this](const QString& testo) { scritta(VoceCalcolo::modulo, testo); });
     return modulo;
 }
 
@@ -116,14 +115,15 @@ void CampiTirante::fareScelte() {
         misura_->addItem(qt(panels::etichetta(VoceCalcolo::misura, ingressi)));
     }
     misura_->setCurrentIndex(static_cast<int>(ingressi_.misuraArea));
-    for (auto* scelta : {genere_, misura_}) {
-        menoLargo(*scelta);
-        connect(scelta, &QComboBox::currentIndexChanged, this, [this] {
-            ingressi_.genere = static_cast<panels::GenereAncoraggio>(genere_->currentIndex());
-            ingressi_.misuraArea = static_cast<panels::MisuraArea>(misura_->currentIndex());
-            cambiata();
-        });
-    }
+    for (auto* scelta : {genere_, misura_}) menoLargo(*scelta);
+    connect(genere_, &QComboBox::currentIndexChanged, this, [this](int quale) {
+        storia_.scegli(static_cast<panels::GenereAncoraggio>(quale));
+        cambiata();
+    });
+    connect(misura_, &QComboBox::currentIndexChanged, this, [this](int quale) {
+        storia_.scegli(static_cast<panels::MisuraArea>(quale));
+        cambiata();
+    });
     griglia_->addWidget(genere_, 0, 0, 1, 2);
 }
 
@@ -147,10 +147,8 @@ QLineEdit* CampiTirante::fareCasella(VoceCalcolo voce) {
     auto* casella = new QLineEdit(qt(ingressi_.testo(voce)), this);
     casella->setObjectName(QStringLiteral("calcolo%1").arg(static_cast<int>(voce)));
     casella->setAlignment(Qt::AlignRight);
-    connect(casella, &QLineEdit::textChanged, this, [this, voce](const QString& testo) {
-        ingressi_.testo(voce) = testo.toStdString();
-        cambiata();
-    });
+    connect(casella, &QLineEdit::textChanged, this,
+            [this, voce](const QString& testo) { scritta(voce, testo); });
     return casella;
 }
 
@@ -178,6 +176,31 @@ void CampiTirante::perRiga(int riga) {
         qt(base::riempito(base::traduttore("Scrivi la rigidezza nella riga %1"), {numero})));
     scriviPretensione_->setText(
         qt(base::riempito(base::traduttore("Scrivi la pretensione nella riga %1"), {numero})));
+}
+
+// Also by what takes a text back, which stands in the inputs already.
+void CampiTirante::scritta(VoceCalcolo voce, const QString& testo) {
+    if (testo.toStdString() == ingressi_.testo(voce)) return;
+    storia_.scrivi(voce, testo.toStdString());
+    cambiata();
+}
+
+bool CampiTirante::torna(std::optional<std::size_t> posto) {
+    if (!posto) return false;
+    const QSignalBlocker scelte[] = {QSignalBlocker(genere_), QSignalBlocker(misura_)};
+    genere_->setCurrentIndex(static_cast<int>(ingressi_.genere));
+    misura_->setCurrentIndex(static_cast<int>(ingressi_.misuraArea));
+    for (std::size_t i = 0; i < panels::numeroVoci; ++i) {
+        auto* scelta = qobject_cast<QComboBox*>(campi_[i]);
+        auto* casella = scelta != nullptr ? scelta->lineEdit() : static_cast<QLineEdit*>(campi_[i]);
+        if (casella->text() != qt(ingressi_.testi[i])) casella->setText(qt(ingressi_.testi[i]));
+    }
+    QWidget* dove = *posto == panels::StoriaCalcolo::genere   ? genere_
+                    : *posto == panels::StoriaCalcolo::misura ? misura_
+                                                              : campi_[*posto];
+    dove->setFocus();
+    cambiata();
+    return true;
 }
 
 void CampiTirante::cambiata() {

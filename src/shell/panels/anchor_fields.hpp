@@ -3,8 +3,10 @@
 #include <QWidget>
 #include <array>
 #include <functional>
+#include <optional>
 
 #include "panels/anchor_calculator.hpp"
+#include "panels/calculator_history.hpp"
 
 class QComboBox;
 class QGridLayout;
@@ -30,6 +32,13 @@ class CampiTirante : public QWidget {
     /// The row that the buttons write into, as their captions say.
     void perRiga(int riga);
 
+    /// Takes the last input or choice back, or does it again, and goes there.
+    /// @return false when there was none
+    bool annulla() { return torna(storia_.annulla()); }
+    bool ripeti() { return torna(storia_.ripeti()); }
+    /// Of what was taken back the strip speaks; a result that was written ends it.
+    [[nodiscard]] panels::StoriaCalcolo& storia() { return storia_; }
+
  signals:
     void digitata();
     /// A result is to be written into the row.
@@ -44,10 +53,13 @@ class CampiTirante : public QWidget {
     QLabel* fareConto(const char* nome);
     QPushButton* farePulsante(const char* nome);
     void ordinaTab();
+    bool torna(std::optional<std::size_t> posto);
+    void scritta(panels::VoceCalcolo voce, const QString& testo);
     void cambiata();
     void mostra();
 
     panels::IngressiCalcolo& ingressi_;
+    panels::StoriaCalcolo storia_;
     QGridLayout* griglia_;
     QComboBox *genere_, *misura_;
     std::array<QLabel*, panels::numeroVoci> etichette_{};

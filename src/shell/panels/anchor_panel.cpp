@@ -7,6 +7,7 @@
 #include "base/translated_texts.hpp"
 #include "panels/anchor_forces.hpp"
 #include "panels/grid_rows.hpp"
+#include "shell/forms/history_keys.hpp"
 #include "shell/panels/anchor_fields.hpp"
 #include "shell/panels/force_table.hpp"
 #include "shell/qt_text.hpp"
@@ -55,9 +56,15 @@ PannelloTiranti::PannelloTiranti(Base2_32& forma, VitaProgetto& vita,
     connect(campi_, &CampiTirante::scriviPretensione, this,
             [this](const std::string& testo) { scrivi(pretensione, testo); });
     connect(campi_, &CampiTirante::digitata, this, &PannelloTiranti::aggiorna);
-    connect(&forma, &FormaMaschera::digitata, this, &PannelloTiranti::aggiorna);
-    connect(&forma, &Base2_32::postoCambiato, this, &PannelloTiranti::aggiorna);
+    const auto tabella = [this] {
+        campi_->storia().taci();
+        aggiorna();
+    };
+    connect(&forma, &FormaMaschera::digitata, this, tabella);
+    connect(&forma, &Base2_32::postoCambiato, this, tabella);
     connect(&vita, &VitaProgetto::cambiata, this, &PannelloTiranti::aggiorna);
+    new TastiStoria(
+        *campi_, [this] { torna(false); }, [this] { torna(true); });
     aggiorna();
 }
 
@@ -88,13 +95,25 @@ QWidget* PannelloTiranti::fareTiri() {
 }
 
 void PannelloTiranti::scrivi(int colonna, const std::string& testo) {
+    const auto prima = forma_.modello().valoriDigitati();
     static_cast<void>(forma_.scrivi({forma_.modello().corrente().riga, colonna}, testo));
+    if (forma_.modello().valoriDigitati() != prima) campi_->storia().usata();
+}
+
+// First what was typed into the calculator, then the steps of the table. The keyboard stays here:
+// what is typed next is meant for the calculation.
+void PannelloTiranti::torna(bool avanti) {
+    if (avanti ? campi_->ripeti() : campi_->annulla()) return;
+    QWidget* fuoco = forma_.focusWidget();
+    avanti ? forma_.ripeti() : forma_.annulla();
+    if (fuoco != nullptr) fuoco->setFocus();
 }
 
 void PannelloTiranti::aggiorna() {
     const auto& griglia = forma_.modello();
     const int riga = griglia.corrente().riga;
     campi_->perRiga(riga);
+    forma_.nota(qt(campi_->storia().detto()));
     const std::string titolo = titoloTiri(griglia);
     titolo_->setText(qt(titolo));
     tiri_->setAccessibleName(qt(titolo));

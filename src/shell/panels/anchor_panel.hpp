@@ -26,6 +26,7 @@ class PannelloTiranti : public PannelloLaterale {
     QWidget* fareCalcolo();
     QWidget* fareTiri();
     void scrivi(int colonna, const std::string& testo);
+    void torna(bool avanti);
     void aggiorna();
 
     Base2_32& forma_;

@@ -91,6 +91,62 @@ TEST_F(PannelloDeiTiranti, WritesThePrestress) {
     });
 }
 
+TEST_F(PannelloDeiTiranti, TakesItsInputsBackByCtrlZAndSaysWhich) {
+    apri([&] {
+        riempi();
+        QTest::keyClicks(&casella(4), "5");
+        EXPECT_EQ(casella(4).text(), "2.45");
+        casella(2).setFocus();
+        QTest::keyClick(&casella(2), Qt::Key_Z, Qt::ControlModifier);
+        EXPECT_EQ(casella(4).text(), "2.4");
+        EXPECT_TRUE(casella(4).hasFocus());
+        EXPECT_EQ(testo("Label1"),
+                  "Annullato: campo Interasse s\n"
+                  "Distanza tra due tiranti o puntoni lungo la paratia.");
+        EXPECT_TRUE(testo("calcoloRigidezza").ends_with("= 2843.8\u00A0kN/m/m"));
+        QTest::keyClick(&casella(4), Qt::Key_Y, Qt::ControlModifier);
+        EXPECT_EQ(casella(4).text(), "2.45");
+        QTest::keyClicks(&casella(6), "1");
+        EXPECT_EQ(testo("Label1").find("Annullato"), std::string::npos);
+        EXPECT_EQ(testo("Label1").find("Ripetuto"), std::string::npos);
+    });
+}
+
+TEST_F(PannelloDeiTiranti, TakesBackItsChoicesAndAModulusOfTheList) {
+    apri([&] {
+        auto& genere = controllo<QComboBox>("calcoloGenere");
+        auto& modulo = controllo<QComboBox>("calcolo0");
+        genere.setCurrentIndex(2);
+        modulo.setCurrentIndex(2);
+        QTest::keyClick(&modulo, Qt::Key_Z, Qt::ControlModifier);
+        EXPECT_EQ(modulo.currentText(), "195000");
+        QTest::keyClick(&modulo, Qt::Key_Z, Qt::ControlModifier);
+        EXPECT_EQ(genere.currentIndex(), 0);
+        EXPECT_EQ(etichettaDi(casella(3)), "Lunghezza libera L [m]");
+        EXPECT_TRUE(genere.hasFocus());
+    });
+}
+
+TEST_F(PannelloDeiTiranti, TakesBackWhatItWroteAndKeepsTheKeyboard) {
+    apri([&] {
+        riempi();
+        premi("scriviPretensione");
+        ASSERT_EQ(cella(1, 3), "173.21");
+        casella(6).setFocus();
+        QTest::keyClick(&casella(6), Qt::Key_Z, Qt::ControlModifier);
+        EXPECT_EQ(cella(1, 3), "80");
+        EXPECT_EQ(casella(6).text(), "480");
+        EXPECT_TRUE(casella(6).hasFocus());
+        EXPECT_TRUE(testo("Label1").starts_with("Annullato: cella "));
+        QTest::keyClick(&casella(6), Qt::Key_Y, Qt::ControlModifier);
+        EXPECT_EQ(cella(1, 3), "173.21");
+    });
+}
+
+TEST_F(PannelloDeiTiranti, HandsCtrlZToTheTableWhileNothingIsTypedIntoIt) {
+    apri([&] { EXPECT_EQ(nonAnnullano("pannelloTiranti"), ""); });
+}
+
 TEST_F(PannelloDeiTiranti, TellsWhatTheColumnDoesNotTake) {
     apri([&] {
         riempi();

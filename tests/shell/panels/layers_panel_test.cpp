@@ -94,6 +94,23 @@ TEST_F(Pannello, ShowsTheHatchOfTheCurrentRow) {
     });
 }
 
+TEST_F(Pannello, HandsCtrlZToTheTable) {
+    conForma([this](Base2_32& f) {
+        const std::string prima = descrizione(1);
+        int provati = 0;
+        for (auto* pezzo : controllo(f, "PannelloStrati").findChildren<QWidget*>()) {
+            if (!pezzo->isVisible() || !pezzo->isEnabled() || pezzo->focusPolicy() == Qt::NoFocus)
+                continue;
+            ASSERT_TRUE(f.scrivi({1, 7}, "105 Limo"));
+            pezzo->setFocus();
+            QTest::keyClick(pezzo, Qt::Key_Z, Qt::ControlModifier);
+            EXPECT_EQ(descrizione(1), prima) << pezzo->objectName().toStdString();
+            ++provati;
+        }
+        EXPECT_GT(provati, 2);
+    });
+}
+
 TEST_F(Pannello, FoldsAwayAndStaysSo) {
     conForma([](Base2_32& f) {
         EXPECT_TRUE(controllo(f, "importa").isVisible());

@@ -87,6 +87,22 @@ TEST_F(PannelloSezioneTest, FollowsEachKeyWithStiffnessAndChecks) {
     EXPECT_TRUE(trova<VistaDominio>("dominio").dominio().empty());
 }
 
+TEST_F(PannelloSezioneTest, HandsCtrlZToTheForm) {
+    apri();
+    const QString prima = trova<QLineEdit>("Text7").text();
+    int provati = 0;
+    for (auto* pezzo : trova("PannelloSezione").findChildren<QWidget*>()) {
+        if (!pezzo->isVisible() || !pezzo->isEnabled() || pezzo->focusPolicy() == Qt::NoFocus)
+            continue;
+        scrivi("Text7", "33");
+        pezzo->setFocus();
+        QTest::keyClick(pezzo, Qt::Key_Z, Qt::ControlModifier);
+        EXPECT_EQ(trova<QLineEdit>("Text7").text(), prima) << pezzo->objectName().toStdString();
+        ++provati;
+    }
+    EXPECT_GT(provati, 2);
+}
+
 TEST_F(PannelloSezioneTest, ShowsTheDomainOnceTypingRests) {
     apri();
     scrivi("Text7", "900");

@@ -50,6 +50,10 @@ TEST_F(PannelloDelleFasi, KeepsTheLastRowsStageOnAnEmptyRow) {
     });
 }
 
+TEST_F(PannelloDelleFasi, HandsCtrlZToTheTable) {
+    apri([&] { EXPECT_EQ(nonAnnullano("pannelloFasi"), ""); });
+}
+
 TEST_F(PannelloDelleFasi, ShowsNothingWhereNoRowHasData) {
     auto vuoto = muro();
     vuoto.nFasi = 0;
