@@ -5,7 +5,6 @@
 #include "analysis/run_closing.hpp"
 #include "structure/bending_resistance.hpp"
 #include "structure/offered_stiffness.hpp"
-#include "structure/partial_factors.hpp"
 #include "structure/section_validity.hpp"
 
 namespace korven::live {
@@ -71,7 +70,7 @@ std::vector<FaseNelDominio> fasiNelDominio(const PareteViva& parete,
     std::vector<FaseNelDominio> fasi;
     if (!sezioneCalcolabile(parete.dati.sezione)) return fasi;
     const auto MRd = resistenze(parete);
-    const double Nd = structure::fsAzioniSezione * project::newton * parete.dati.sforzoNormale;
+    const double Nd = structure::sforzoDiProgetto(parete.dati.sforzoNormale);
     const auto aggiungi = [&](int k, double massimo, double minimo) {
         fasi.push_back({k, Nd, results::confrontaMomenti(chiusura(MRd, massimo, minimo))});
     };

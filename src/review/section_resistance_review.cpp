@@ -7,7 +7,6 @@
 #include "structure/axial_resistance.hpp"
 #include "structure/bending_resistance.hpp"
 #include "structure/offered_stiffness.hpp"
-#include "structure/partial_factors.hpp"
 #include "structure/section_validity.hpp"
 
 // What the section carries: an axial force beyond it leaves no resistance to bending.
@@ -23,7 +22,7 @@ std::string kilonewton(double newton) {
 }
 
 bool sforzoOltre(const DatiProgetto& d, ElencoOsservazioni& elenco) {
-    const double Nd = structure::fsAzioniSezione * project::newton * d.sforzoNormale;
+    const double Nd = structure::sforzoDiProgetto(d.sforzoNormale);
     const auto [compressione, trazione] = structure::resistenzeAssiali(d.sezione);
     if (Nd <= compressione && -Nd <= trazione) return false;
     elenco.aggiungi("sforzo-oltre-la-sezione",

@@ -20,55 +20,81 @@ ModelloStrisce modello(double H, const AreeStrisce& aree, const MaterialiFlessio
             .As = aree.As};
 }
 
+SezioneStrisce strisce(const DiaframmaMm& d, const MaterialiFlessione& materiali, double b) {
+    const double H = d.spessore;
+    return {modello(H, areeDiaframma(d, b), materiali),
+            H,
+            {d.valle.copriferro, H - d.monte.copriferro}};
+}
+
+SezioneStrisce strisce(const PaliMm& p, const MaterialiFlessione& materiali, double b) {
+    const double H = p.diamEst;
+    return {modello(H, areePali(p, b), materiali), H, {0, H}};
+}
+
+SezioneStrisce strisce(const PalancolaMm& p, const MaterialiFlessione& materiali, double b) {
+    const double H = altezza(p);
+    return {modello(H, areePalancola(p, b), materiali), H, {0, H}};
+}
+
+SezioneStrisce strisce(const PaliArmatiMm& p, const MaterialiFlessione& materiali, double b) {
+    const double H = p.diamPalo;
+    return {modello(H, areePaliArmati(p, b), materiali), H, {p.copriferro, H - p.copriferro}};
+}
+
+MomentiResistenti resistenza(const SezioneStrisce& s, double Nd) {
+    return cercaLimite(s.modello, s.H, s.punti, Nd);
+}
+
 }  // namespace
 
 MomentiResistenti resistenzaDiaframma(const DiaframmaMm& d, const MaterialiFlessione& materiali,
                                       double Nd, double bStriscia) {
-    const double H = d.spessore;
-    return cercaLimite(modello(H, areeDiaframma(d, bStriscia), materiali), H,
-                       {d.valle.copriferro, H - d.monte.copriferro}, Nd);
+    return resistenza(strisce(d, materiali, bStriscia), Nd);
 }
 
 MomentiResistenti resistenzaPali(const PaliMm& p, const MaterialiFlessione& materiali, double Nd,
                                  double bStriscia) {
-    const double H = p.diamEst;
-    return cercaLimite(modello(H, areePali(p, bStriscia), materiali), H, {0, H}, Nd);
+    return resistenza(strisce(p, materiali, bStriscia), Nd);
 }
 
 MomentiResistenti resistenzaPalancola(const PalancolaMm& p, const MaterialiFlessione& materiali,
                                       double Nd, double bStriscia) {
-    const double H = altezza(p);
-    return cercaLimite(modello(H, areePalancola(p, bStriscia), materiali), H, {0, H}, Nd);
+    return resistenza(strisce(p, materiali, bStriscia), Nd);
 }
 
 MomentiResistenti resistenzaPaliArmati(const PaliArmatiMm& p, const MaterialiFlessione& materiali,
                                        double Nd, double bStriscia) {
-    const double H = p.diamPalo;
-    return cercaLimite(modello(H, areePaliArmati(p, bStriscia), materiali), H,
-                       {p.copriferro, H - p.copriferro}, Nd);
+    return resistenza(strisce(p, materiali, bStriscia), Nd);
 }
 
-void momentiResistenti(const project::Sezione& s, double sforzoNormale, MomentiResistenti& MRd) {
-    const double Nd = fsAzioniSezione * project::newton * sforzoNormale;
+std::optional<SezioneStrisce> sezioneStrisce(const project::Sezione& s) {
     const MaterialiFlessione materiali{.modEacciaio = s.modEacciaio, .fyk = s.fyk, .fck = s.fck};
     const TipoSezione tipo = tipoSezione(s);
     assert(tipo == TipoSezione::nessuno || sezioneValida(s));
     switch (tipo) {
         case TipoSezione::diaframma:
-            MRd = resistenzaDiaframma(diaframmaMm(s), materiali, Nd, bStrisciaMetro);
-            break;
+            return strisce(diaframmaMm(s), materiali, bStrisciaMetro);
         case TipoSezione::pali:
-            MRd = resistenzaPali(paliMm(s), materiali, Nd, bStrisciaMetro);
-            break;
+            return strisce(paliMm(s), materiali, bStrisciaMetro);
         case TipoSezione::palancola:
-            MRd = resistenzaPalancola(palancolaMm(s), materiali, Nd, bStrisciaMetro);
-            break;
+            return strisce(palancolaMm(s), materiali, bStrisciaMetro);
         case TipoSezione::paliArmati:
-            MRd = resistenzaPaliArmati(paliArmatiMm(s), materiali, Nd, bStrisciaMetro);
-            break;
+            return strisce(paliArmatiMm(s), materiali, bStrisciaMetro);
         case TipoSezione::nessuno:
             break;
     }
+    return std::nullopt;
+}
+
+double sforzoDiProgetto(double sforzoNormale) {
+    return fsAzioniSezione * project::newton * sforzoNormale;
+}
+
+void momentiResistenti(const project::Sezione& sezione, double sforzoNormale,
+                       MomentiResistenti& MRd) {
+    if (const auto s = sezioneStrisce(sezione))
+        MRd = resistenza(*s, sforzoDiProgetto(sforzoNormale));
 }
 
 MomentiResistenti resistenze(const project::Sezione& sezione, double sforzoNormale) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "project/section.hpp"
 #include "structure/limit_search.hpp"
 #include "structure/section_millimetres.hpp"
@@ -28,6 +30,21 @@ struct MaterialiFlessione {
 [[nodiscard]] MomentiResistenti resistenzaPaliArmati(const PaliArmatiMm& p,
                                                      const MaterialiFlessione& materiali, double Nd,
                                                      double bStriscia);
+
+/// One metre of wall as the bending check takes it.
+struct SezioneStrisce {
+    ModelloStrisce modello;
+    double H = 0;  ///< depth [mm]
+    PuntiAllungamento punti{};
+};
+
+/// @param sezione  as stored (cm, N/mm2); its first true flag selects the kind of wall
+/// @return nothing if no flag is true
+/// @pre a section of a type is `sezioneValida`: asserted
+[[nodiscard]] std::optional<SezioneStrisce> sezioneStrisce(const project::Sezione& sezione);
+
+/// Design axial force [N] of one as a project has it [t].
+[[nodiscard]] double sforzoDiProgetto(double sforzoNormale);
 
 /// Limit-state moment resistance of one metre of wall in both directions of bending.
 ///

@@ -25,6 +25,18 @@ inline constexpr double allungamentoLimite = 0.01;      ///< strain where the st
 [[nodiscard]] bool limiteSuperato(double eps0, double chi, double H,
                                   const PuntiAllungamento& punti);
 
+/// The state in which a section reaches its resistance in one direction of bending. Strains are
+/// eps0 + chi y.
+struct StatoLimite {
+    double eps0 = 0;  ///< strain of the downhill face, y = 0
+    double chi = 0;   ///< curvature [1/mm]
+    double M = 0;     ///< the resistance [N mm]; 0 without an equilibrium, and then it is no state
+};
+
+/// @param k  direction of bending: 1 stretches the uphill side, -1 the downhill one
+[[nodiscard]] StatoLimite statoLimite(const ModelloStrisce& modello, int k, double H,
+                                      const PuntiAllungamento& punti, double Nd);
+
 /// Resistance of a section in both directions: the moment at the curvature at which the first
 /// strain limit is exceeded.
 ///

@@ -1,5 +1,6 @@
 #include "structure/shear_check.hpp"
 
+#include <algorithm>
 #include <cassert>
 #include <cmath>
 #include <numbers>
@@ -26,27 +27,33 @@ double perMetro(double Vrd, double armInterasse) {
 
 }  // namespace
 
-TaglioResistente verificaTaglio(const project::Sezione& s, double Nsd) {
+ValoriTaglio valoriTaglio(const project::Sezione& s, double Nsd) {
     assert(sezioneValida(s) && staffePresenti(s));
-    const double fcd = s.fck / fsCalcestruzzo;
-    const double fyd = s.fyk / fsAcciaio;
-    const double d = inMillimetri(s.armDiamPalo - s.armCopriferro - s.armDiamLong / 2);
-    const double bw = inMillimetri(s.armDiamPalo);
+    ValoriTaglio v;
+    v.fcd = s.fck / fsCalcestruzzo;
+    v.fyd = s.fyk / fsAcciaio;
+    v.d = inMillimetri(s.armDiamPalo - s.armCopriferro - s.armDiamLong / 2);
+    v.bw = inMillimetri(s.armDiamPalo);
     const double fctm = 0.3 * std::pow(s.fck, 2.0 / 3.0);
-    const double fctk = 0.7 * fctm;
-    const double tauRd = 0.25 * fctk / fsCalcestruzzo;
-    const double kTaglio = 1.6 - d / project::millimetriMetro;  // not held above 1
-    const double Asl = s.armNumLong * pi * quadrato(inMillimetri(s.armDiamLong) / 2);
-    const double rhoL = Asl / (d * bw);
-    const double sigmaCp = Nsd / (pi * quadrato(inMillimetri(s.armDiamPalo) / 2) +
-                                  Asl * (s.modEacciaio / s.modEcls - 1));
-    const double Vrd1 = tauRd * kTaglio * (1.2 + 40 * rhoL + 0.15 * sigmaCp) * bw * d;
-    double nu = 0.7 - s.fck / 200;
-    if (nu < 0.5) nu = 0.5;
-    const double Vrd2 = 0.5 * nu * fcd * bw * 0.9 * d;
-    const double Asw = 2 * pi * quadrato(inMillimetri(s.armDiamStaffe) / 2);
-    const double Vrd3 = Vrd1 + fyd * d * 0.9 * Asw / inMillimetri(s.armPassoStaffe);
-    return {.Vrd2 = oZero(Vrd2), .Vrd3 = oZero(Vrd3)};
+    v.fctk = 0.7 * fctm;
+    v.tauRd = 0.25 * v.fctk / fsCalcestruzzo;
+    v.k = 1.6 - v.d / project::millimetriMetro;  // not held above 1
+    v.Asl = s.armNumLong * pi * quadrato(inMillimetri(s.armDiamLong) / 2);
+    v.rhoL = v.Asl / (v.d * v.bw);
+    v.sigmaCp = Nsd / (pi * quadrato(inMillimetri(s.armDiamPalo) / 2) +
+                       v.Asl * (s.modEacciaio / s.modEcls - 1));
+    v.Vrd1 = v.tauRd * v.k * (1.2 + 40 * v.rhoL + 0.15 * v.sigmaCp) * v.bw * v.d;
+    v.nu = std::max(0.7 - s.fck / 200, 0.5);
+    v.Asw = 2 * pi * quadrato(inMillimetri(s.armDiamStaffe) / 2);
+    v.passo = inMillimetri(s.armPassoStaffe);
+    v.Vwd = v.fyd * v.d * 0.9 * v.Asw / v.passo;
+    v.resistente = {.Vrd2 = oZero(0.5 * v.nu * v.fcd * v.bw * 0.9 * v.d),
+                    .Vrd3 = oZero(v.Vrd1 + v.Vwd)};
+    return v;
+}
+
+TaglioResistente verificaTaglio(const project::Sezione& sezione, double Nsd) {
+    return valoriTaglio(sezione, Nsd).resistente;
 }
 
 ConfrontoTaglio confrontaTaglio(const TaglioResistente& resistente, double armInterasse,

@@ -13,6 +13,26 @@ struct TaglioResistente {
     double Vrd3;  ///< of the shear reinforcement, with the concrete's share
 };
 
+/// What the resistances of one pile are made of, in the letters of `verificaTaglio`; N, mm.
+struct ValoriTaglio {
+    double fcd = 0, fyd = 0;     ///< [N/mm2]
+    double d = 0, bw = 0;        ///< [mm]
+    double fctk = 0, tauRd = 0;  ///< [N/mm2]
+    double k = 0;
+    double Asl = 0;  ///< [mm2]
+    double rhoL = 0;
+    double sigmaCp = 0;  ///< [N/mm2]
+    double Vrd1 = 0;     ///< share of the concrete [N]
+    double nu = 0;
+    double Asw = 0;    ///< [mm2]
+    double passo = 0;  ///< of the stirrups [mm]
+    double Vwd = 0;    ///< share of the stirrups, fyd d 0.9 Asw / passo [N]
+    TaglioResistente resistente{};
+};
+
+/// @param sezione, Nsd  as for `verificaTaglio`, with its preconditions
+[[nodiscard]] ValoriTaglio valoriTaglio(const project::Sezione& sezione, double Nsd);
+
 /// Shear resistance of a reinforced concrete pile by the standard method, N and mm:
 ///
 ///     d       = 10 (armDiamPalo - armCopriferro - armDiamLong / 2)    bw = 10 armDiamPalo

@@ -4,12 +4,6 @@
 
 namespace korven::structure {
 
-namespace {
-
-double mezzeria(const ModelloStrisce& m, int i) { return m.dy / 2 + m.dy * (i - 1); }
-
-}  // namespace
-
 double forzaSezione(const ModelloStrisce& m, double eps0, double chi) {
     double forza = 0;
     for (int i = 1; i <= nStrisce; ++i) {

@@ -27,6 +27,11 @@ struct ModelloStrisce {
     TabellaStrisce As;       ///< steel area of strips 1 to nStrisce [mm2]
 };
 
+/// Mid-depth of strip i, 1 to nStrisce [mm].
+[[nodiscard]] inline double mezzeria(const ModelloStrisce& modello, int i) {
+    return modello.dy / 2 + modello.dy * (i - 1);
+}
+
 /// Sum of the strip forces, sum of Ac sigma_c + As sigma_s [N], tension positive.
 [[nodiscard]] double forzaSezione(const ModelloStrisce& modello, double eps0, double chi);
 
