@@ -6,6 +6,11 @@
 
 namespace korven::safety {
 
+/// True if a margin can be computed: nothing refuses a run of this project, and the specified run
+/// can take so many segments.
+/// @param dati  with the bending stiffness of the run
+[[nodiscard]] bool haMargine(const project::DatiProgetto& dati, int nSeg);
+
 /// A margin with the data that it is of.
 struct MargineBreve {
     project::DatiProgetto dati;  ///< with the stiffness of the section where none was stored

@@ -1,0 +1,89 @@
+#include "dossier/dossier.hpp"
+
+#include "base/table.hpp"
+#include "base/value_error.hpp"
+#include "base/version.hpp"
+#include "review/project_review.hpp"
+#include "review/result_review.hpp"
+#include "safety/short_margin.hpp"
+
+namespace korven::dossier {
+
+namespace {
+
+// What is beyond the numbers or the tables has no results. All else, as what an observer throws, is
+// not for this room to hide.
+template <class Calcolo>
+void prova(Calcolo calcolo) {
+    try {
+        calcolo();
+    } catch (const base::ErroreValore&) {
+    } catch (const base::ErroreIndice&) {
+    }
+}
+
+Identita identita(const Richiesta& richiesta) {
+    Identita sua = richiesta.identita;
+    sua.programma = base::nomeEVersione.substr(0, base::nomeEVersione.rfind(' '));
+    sua.versione = base::versione;
+    sua.impronta = impronta(richiesta.scritti);
+    return sua;
+}
+
+void margine(analysis::OsservatoreCorsa& osservatore, Fascicolo& f) {
+    if (!safety::haMargine(f.parete.dati, f.parete.nSeg)) return;
+    CorsaAffiancata corsa(f.parete, osservatore);
+    f.margine = safety::margine(f.parete.dati, f.parete.nSeg, corsa);
+    f.corsa = corsa.fasi();
+    f.fine = f.margine->corsa;
+}
+
+void osservazioni(const Richiesta& richiesta, Fascicolo& f) {
+    f.osservazioni =
+        richiesta.sulProgetto ? *richiesta.sulProgetto : review::esaminaProgetto(richiesta.usati);
+    if (f.margine) {
+        const auto sue = review::esaminaRisultati(f.parete.dati, *f.margine);
+        f.osservazioni.insert(f.osservazioni.end(), sue.begin(), sue.end());
+    }
+    review::perPeso(f.osservazioni);
+}
+
+// By the equilibrium, and not by the report where there is one.
+void sezione(Fascicolo& f) {
+    f.controlli = live::controlliSezione(f.parete, nullptr);
+    f.nelDominio = live::fasiNelDominio(f.parete, nullptr);
+    f.dominio = structure::dominioNM(f.parete.dati.sezione);
+    f.flessione = valoriFlessione(f.parete.dati, f.controlli);
+    f.taglio = valoriTaglio(f.parete.dati, f.controlli);
+}
+
+class InSilenzio : public analysis::OsservatoreCorsa {};
+
+}  // namespace
+
+Fascicolo fascicolo(const Richiesta& richiesta, analysis::OsservatoreCorsa& osservatore) {
+    Fascicolo f;
+    f.identita = identita(richiesta);
+    f.scritti = richiesta.scritti;
+    f.parete.dati = richiesta.usati;
+    prova([&] {
+        f.parete = richiesta.nSeg ? live::calcola(richiesta.usati, *richiesta.nSeg)
+                                  : live::calcola(richiesta.usati);
+    });
+    prova([&] { margine(osservatore, f); });
+    osservazioni(richiesta, f);
+    f.inviluppo = live::inviluppo(f.parete);
+    f.bilanci = bilanci(f.parete.dati, f.parete.nSeg, f.parete.fasiInEquilibrio());
+    f.tiranti = storieTiranti(f.parete, f.margine ? &*f.margine : nullptr);
+    prova([&] { sezione(f); });
+    return f;
+}
+
+Fascicolo fascicolo(const project::DatiProgetto& dati) {
+    InSilenzio osservatore;
+    return fascicolo(
+        {.scritti = dati, .usati = dati, .nSeg = {}, .identita = {}, .sulProgetto = {}},
+        osservatore);
+}
+
+}  // namespace korven::dossier
