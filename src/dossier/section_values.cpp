@@ -61,7 +61,7 @@ LatoFlessione lato(const SezioneStrisce& s, double Nd, int k) {
     if (stato.M == 0) return l;
     const auto eps = [&](double y) { return stato.eps0 + stato.chi * y; };
     const bool monteTeso = k == 1;
-    l.MRd = std::fabs(stato.M);
+    l.MRd = k * stato.M;
     l.chi = std::fabs(stato.chi);
     l.epsTeso = eps(monteTeso ? s.H : 0);
     l.epsCompresso = eps(monteTeso ? 0 : s.H);

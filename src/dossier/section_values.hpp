@@ -27,7 +27,9 @@ enum class LimiteSezione {
 /// One metre of wall at its resistance in one direction of bending. The internal forces are those
 /// of the strips: compression less tension is Nd, and with Nd at its place `yNd` they make up MRd.
 struct LatoFlessione {
-    double MRd = 0;           ///< in size [N mm]; 0: no resistance, and nothing below is set
+    /// [N mm]; 0: no resistance, and nothing below is set but Md. Below 0 where the axial force
+    /// alone bends the section the other way: nothing is carried this way.
+    double MRd = 0;
     double chi = 0;           ///< curvature, in size [1/mm]
     double epsTeso = 0;       ///< strain of the face that is stretched more
     double epsCompresso = 0;  ///< of the other face
