@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "commands/key_table.hpp"
+#include "commands/menu_tree.hpp"
 
 namespace korven {
 namespace {
@@ -27,7 +28,7 @@ const std::map<std::string, Parole> finestre = {
     {"forms/history_keys.cpp", {"Schede dei dati", "Scheda della sezione", "Tabelle dei dati"}},
     {"forms/key_event.cpp", {"Schede dei dati", "Tabelle dei dati"}},
     {"help/guida.cpp", {"Finestra della guida"}},
-    {"help/porta.cpp", {"Finestre accanto alla principale"}},
+    {"help/porta.cpp", {"Finestre accanto alla principale", "Scheda della sezione"}},
     {"main/menu1.cpp", {"Finestra principale"}},
     {"masks/base2_32.cpp", {"Tabelle dei dati"}},
     {"masks/form_frame.cpp", {"Schede dei dati"}},
@@ -67,6 +68,57 @@ const std::map<std::string, Parole> scritti = {
     {"PortableText", {}},
     {"NativeText", {}},
 };
+
+// Keys that a window has of the toolkit, or by a count ("Key_1 + i"), or with others held down
+// meanwhile: the test of the window presses them.
+struct Premuti {
+    std::string finestra;
+    Parole tasti;
+    std::string prova;  // below tests/shell
+    std::string come;   // what stands in it
+};
+
+const Premuti premuti[] = {
+    {"Immagine del progetto", {"2", "3", "4"}, "picture/picture_panel_test.cpp", "Key_1 + i"},
+    {"Elenco delle osservazioni", {"Down"}, "remarks/remarks_window_test.cpp", "Key_Down)"},
+    {"Elenco delle osservazioni", {"Up"}, "remarks/remarks_window_test.cpp", "Key_Up)"},
+    {"Schede dei dati", {"Alt+Down"}, "masks/base1_moves_test.cpp", "Key_Down, Qt::AltModifier"},
+    {"Scheda della sezione",
+     {"Return", "Enter"},
+     "section/definej_moves_test.cpp",
+     "{Qt::Key_Return, Qt::Key_Enter}"},
+    {"Scheda della sezione", {"Esc"}, "section/definej_test.cpp", "Key_Escape)"},
+    {"Tabelle dei dati", {"Ctrl+Home"}, "masks/grid_view_test.cpp", "Key_Home, Qt::ControlMod"},
+    {"Tabelle dei dati", {"Ctrl+End"}, "masks/grid_view_test.cpp", "Key_End, Qt::ControlMod"},
+    {"Tabelle dei dati", {"Ctrl+Tab"}, "masks/grid_view_test.cpp", "Key_Tab, Qt::ControlMod"},
+    {"Tabelle dei dati",
+     {"Ctrl+Shift+Tab"},
+     "masks/grid_view_test.cpp",
+     "Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier"},
+    {"Scelta della campitura",
+     {"Up", "Left", "Right"},
+     "panels/layers_panel_test.cpp",
+     "{Qt::Key_Right, Qt::Key_Left, Qt::Key_Down, Qt::Key_Up}"},
+    {"Scelta della campitura",
+     {"Return", "Enter"},
+     "panels/layers_panel_test.cpp",
+     "{Qt::Key_Return, Qt::Key_Enter}"},
+    {"Scelta della campitura", {"Esc"}, "panels/layers_panel_test.cpp", "Key_Escape)"},
+    {"Catalogo dei profili",
+     {"Return", "Enter"},
+     "panels/section_panel_test.cpp",
+     "{Qt::Key_Return, Qt::Key_Enter}"},
+    {"Catalogo dei profili", {"Esc"}, "panels/section_panel_test.cpp", "Key_Escape)"},
+    {"Finestra della guida",
+     {"Ctrl++", "Ctrl+="},
+     "help/guida_test.cpp",
+     "{Qt::Key_Plus, Qt::Key_Equal}"},
+};
+
+std::string contenuto(const fs::path& file) {
+    std::ifstream letto(file);
+    return {std::istreambuf_iterator<char>(letto), {}};
+}
 
 std::set<std::string> tastiDi(const std::string& testo) {
     static const std::regex conNome(
@@ -114,9 +166,7 @@ TEST(ElencoDeiTasti, HasARowForEveryKeyThatAWindowTakes) {
     std::set<std::string> visti;
     for (const auto& voce : fs::recursive_directory_iterator(cartella)) {
         if (voce.path().extension() != ".cpp") continue;
-        std::ifstream file(voce.path());
-        const std::string testo{std::istreambuf_iterator<char>(file), {}};
-        const auto tasti = tastiDi(testo);
+        const auto tasti = tastiDi(contenuto(voce.path()));
         if (tasti.empty()) continue;
         const std::string nome = fs::relative(voce.path(), cartella).generic_string();
         const auto sue = finestre.find(nome);
@@ -135,6 +185,43 @@ TEST(ElencoDeiTasti, HasARowForEveryKeyThatAWindowTakes) {
     }
 }
 
+// What the menu's tree gives the main form, what its sources take, and what its test presses.
+std::set<std::string> presi(const std::string& finestra) {
+    const fs::path cartella = fs::path(KORVEN_SOURCE_FOLDER) / "shell";
+    std::set<std::string> tasti;
+    if (finestra == "Finestra principale")
+        for (const auto& voce : commands::albero()) tasti.insert(std::string(voce.tasti));
+    for (const auto& [nome, sue] : finestre) {
+        if (std::find(sue.begin(), sue.end(), finestra) == sue.end()) continue;
+        const std::string testo = contenuto(cartella / nome);
+        tasti.merge(tastiDi(testo));
+        if (testo.find("QContextMenuEvent") != std::string::npos)
+            tasti.insert({"Menu", "Shift+F10"});
+    }
+    for (const auto& riga : premuti)
+        if (riga.finestra == finestra) tasti.insert(riga.tasti.begin(), riga.tasti.end());
+    return tasti;
+}
+
+TEST(ElencoDeiTasti, HasNoRowWhoseKeyItsWindowDoesNotTake) {
+    for (const auto& voce : commands::tastiProgramma()) {
+        const auto tasti = presi(voce.finestra);
+        for (const auto& tasto : elenco({voce.finestra}))
+            EXPECT_TRUE(tasti.contains(tasto)) << voce.finestra << ": " << tasto;
+    }
+}
+
+TEST(ElencoDeiTasti, HasTheKeysOfTheToolkitPressedByTheTestOfTheirWindow) {
+    const fs::path prove = fs::path(KORVEN_SOURCE_FOLDER).parent_path() / "tests/shell";
+    for (const auto& riga : premuti) {
+        EXPECT_NE(contenuto(prove / riga.prova).find(riga.come), std::string::npos)
+            << riga.prova << " presses no " << riga.come;
+        const auto scritte = elenco({riga.finestra});
+        for (const auto& tasto : riga.tasti)
+            EXPECT_TRUE(scritte.contains(tasto)) << riga.finestra << " has no row for " << tasto;
+    }
+}
+
 TEST(ElencoDeiTasti, IsComparedWithWhatTheSourcesSay) {
     EXPECT_EQ(tastiDi("new QShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_Z, this)"),
               std::set<std::string>{"Ctrl+Shift+Z"});
@@ -144,6 +231,9 @@ TEST(ElencoDeiTasti, IsComparedWithWhatTheSourcesSay) {
     EXPECT_TRUE(elencato("Home", {"Ctrl+Home"}));
     EXPECT_FALSE(elencato("Ctrl+Home", {"Home"}));
     EXPECT_FALSE(elencato("F7", {"F1", "Ctrl+Z"}));
+    EXPECT_TRUE(presi("Finestra principale").contains("Ctrl+K"));
+    EXPECT_FALSE(presi("Tabelle dei dati").contains("Ctrl+F2"));
+    EXPECT_FALSE(presi("Finestre accanto alla principale").contains("Menu"));
 }
 
 }  // namespace

@@ -140,6 +140,11 @@ TEST_F(Guida, GoesDownFromTheSearchToItsResults) {
 TEST_F(Guida, MakesLettersLargerAndSmallerWithinBoundsAndRemembersThem) {
     finestra.mostra(pagina("apri"));
     const int prima = browser().fontInfo().pixelSize();
+    for (const auto piu : {Qt::Key_Plus, Qt::Key_Equal}) {
+        const int passi = browser().ingrandimento();
+        QTest::keyClick(&finestra, piu, Qt::ControlModifier);
+        EXPECT_EQ(browser().ingrandimento(), passi + 1);
+    }
     for (int i = 0; i < 40; ++i) QTest::keyClick(&finestra, Qt::Key_Plus, Qt::ControlModifier);
     EXPECT_GT(browser().fontInfo().pixelSize(), prima);
     EXPECT_EQ(browser().ingrandimento(), 16);

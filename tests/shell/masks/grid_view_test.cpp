@@ -150,6 +150,11 @@ TEST_F(VistaGrigliaTest, IsLeftByCtrlTab) {
     tasto(Qt::Key_Tab, Qt::ControlModifier);
     EXPECT_FALSE(griglia().hasFocus());
     EXPECT_EQ(forma->focusWidget()->objectName(), "Label1");
+    griglia().setFocus();
+    tasto(Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_FALSE(griglia().hasFocus());
+    griglia().setFocus();
+    tasto(Qt::Key_Tab, Qt::ControlModifier);
     tasto(Qt::Key_Tab);
     EXPECT_EQ(forma->focusWidget()->objectName(), "Command1_0");
     tasto(Qt::Key_Return);

@@ -171,14 +171,27 @@ TEST_F(Pannello, LeavesTheRowWhenTheChoiceIsGivenUp) {
 
 TEST_F(Pannello, LetsAHatchBeChosenByKeysAlone) {
     conForma([this](Base2_32& f) {
-        f.scrivi({1, 7}, "Sabbia");
+        for (const auto tasto : {Qt::Key_Return, Qt::Key_Enter}) {
+            f.scrivi({1, 7}, "Sabbia");
+            premi("campitura", [tasto](QDialog& d) {
+                QTest::keyClicks(d.focusWidget(), "torba");
+                QTest::keyClick(d.focusWidget(), Qt::Key_Down);
+                EXPECT_EQ(d.focusWidget()->objectName(), "campiture");
+                EXPECT_EQ(controllo<QListWidget>(d, "campiture").currentItem()->text(), "7 Torba");
+                QTest::keyClick(d.focusWidget(), tasto);
+                EXPECT_EQ(d.result(), QDialog::Accepted);
+            });
+            EXPECT_EQ(descrizione(1), "107 Sabbia");
+        }
         premi("campitura", [](QDialog& d) {
-            QTest::keyClicks(d.focusWidget(), "torba");
-            QTest::keyClick(d.focusWidget(), Qt::Key_Down);
-            EXPECT_EQ(d.focusWidget()->objectName(), "campiture");
-            EXPECT_EQ(controllo<QListWidget>(d, "campiture").currentItem()->text(), "7 Torba");
-            QTest::keyClick(d.focusWidget(), Qt::Key_Return);
-            EXPECT_EQ(d.result(), QDialog::Accepted);
+            auto& lista = controllo<QListWidget>(d, "campiture");
+            lista.setFocus();
+            for (const auto tasto : {Qt::Key_Right, Qt::Key_Left, Qt::Key_Down, Qt::Key_Up}) {
+                const int prima = lista.currentRow();
+                QTest::keyClick(&lista, tasto);
+                EXPECT_NE(lista.currentRow(), prima) << tasto;
+            }
+            QTest::keyClick(&lista, Qt::Key_Escape);
         });
         EXPECT_EQ(descrizione(1), "107 Sabbia");
     });

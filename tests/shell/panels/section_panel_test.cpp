@@ -184,17 +184,19 @@ TEST_F(PannelloSezioneTest, TakesBothDiametersOfATubeBackAtOnce) {
     project::Progetto.sezione = structure::paliTubolari();
     vita.guarda();
     apri();
-    EXPECT_TRUE(nelDialogo<ScegliProfilo>(trova("catalogo"), [](ScegliProfilo& d) {
-        QTest::keyClicks(&controllo(d, "cerca"), "508 12.5");
-        ASSERT_EQ(controllo<QTableWidget>(d, "profili").rowCount(), 1);
-        QTest::keyClick(&controllo(d, "cerca"), Qt::Key_Down);
-        EXPECT_EQ(d.focusWidget()->objectName(), "profili");
-        QTest::keyClick(d.focusWidget(), Qt::Key_Return);
-    }));
-    EXPECT_EQ(trova<QLineEdit>("Text11").text(), "508");
-    EXPECT_EQ(trova<QLineEdit>("Text12").text(), "483");
-    QTest::keyClick(forma->focusWidget(), Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(forma->letta(), project::Progetto.sezione);
+    for (const auto tasto : {Qt::Key_Return, Qt::Key_Enter}) {
+        EXPECT_TRUE(nelDialogo<ScegliProfilo>(trova("catalogo"), [tasto](ScegliProfilo& d) {
+            QTest::keyClicks(&controllo(d, "cerca"), "508 12.5");
+            ASSERT_EQ(controllo<QTableWidget>(d, "profili").rowCount(), 1);
+            QTest::keyClick(&controllo(d, "cerca"), Qt::Key_Down);
+            EXPECT_EQ(d.focusWidget()->objectName(), "profili");
+            QTest::keyClick(d.focusWidget(), tasto);
+        }));
+        EXPECT_EQ(trova<QLineEdit>("Text11").text(), "508");
+        EXPECT_EQ(trova<QLineEdit>("Text12").text(), "483");
+        QTest::keyClick(forma->focusWidget(), Qt::Key_Z, Qt::ControlModifier);
+        EXPECT_EQ(forma->letta(), project::Progetto.sezione);
+    }
     QTest::keyClick(forma->focusWidget(), Qt::Key_Y, Qt::ControlModifier);
     EXPECT_EQ(forma->letta().paliDiamInt, 48.3);
 }

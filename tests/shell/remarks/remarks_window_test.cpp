@@ -78,6 +78,8 @@ TEST_F(FinestraOsservazioniTest, OpensNothingForARemarkWithoutAField) {
     EXPECT_FALSE(trova<QPushButton>("apri").isEnabled());
     QTest::keyClick(&lista(), Qt::Key_Return);
     EXPECT_TRUE(aperti.empty());
+    QTest::keyClick(&lista(), Qt::Key_Up);
+    EXPECT_TRUE(trova<QPushButton>("apri").isEnabled());
 }
 
 TEST_F(FinestraOsservazioniTest, OpensNothingWhileTheMainFormIsNotInUse) {

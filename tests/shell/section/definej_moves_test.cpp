@@ -18,11 +18,13 @@ using test::opzioniSezione;
 using FormaSezione = test::BancoSezione;
 
 TEST_F(FormaSezione, ConfirmsByEnterFromAField) {
-    apri();
-    scrivi("Text7", "900");
-    QTest::keyClick(&trova("Text7"), Qt::Key_Return);
-    EXPECT_FALSE(forma->isVisible());
-    EXPECT_EQ(sezione.spessoreDiaframma, 90);
+    for (const auto tasto : {Qt::Key_Return, Qt::Key_Enter}) {
+        apri();
+        scrivi("Text7", tasto == Qt::Key_Return ? "900" : "800");
+        QTest::keyClick(&trova("Text7"), tasto);
+        EXPECT_FALSE(forma->isVisible());
+        EXPECT_EQ(sezione.spessoreDiaframma, tasto == Qt::Key_Return ? 90 : 80);
+    }
 }
 
 TEST_F(FormaSezione, HasTheAccessKeysOfItsButtons) {
