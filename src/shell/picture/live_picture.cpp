@@ -25,6 +25,10 @@ void collegaFigura(Menu1& principale, VitaProgetto& vita, base::Dialogo& dialogo
     });
     principale.accogliFigura(pannello,
                              {PannelloFigura::larghezzaEmblema, PannelloFigura::altezzaEmblema});
+    QObject::connect(pannello, &PannelloFigura::copiata, &principale, [&](const QString& che) {
+        principale.stato(base::traduttore("Figura copiata come immagine e come SVG") + " (" +
+                         che.toStdString() + ")");
+    });
     QObject::connect(&vita, &VitaProgetto::cambiata, pannello, [&principale, &vita] {
         if (vita.vivo().aperto()) principale.mostraFigura();
     });

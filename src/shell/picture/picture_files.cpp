@@ -41,14 +41,28 @@ constexpr Tipo tipi[] = {{"SVG (*.svg)", "svg", device::scriviScenaSvg},
                                                      device::risoluzionePredefinita, disco);
                           }}};
 
-// That of the extension, whatever its case.
-const Tipo& tipoDi(const std::string& percorso) {
+// That of the extension, whatever its case; null where it names none.
+const Tipo* tipoScritto(const std::string& percorso) {
     const std::string nome = base::minuscolo(percorso);
     for (const Tipo& tipo : tipi)
-        if (nome.ends_with(std::string(".") + tipo.estensione)) return tipo;
+        if (nome.ends_with(std::string(".") + tipo.estensione)) return &tipo;
+    return nullptr;
+}
+
+const Tipo& tipoDi(const std::string& percorso) {
+    if (const Tipo* tipo = tipoScritto(percorso)) return *tipo;
     throw base::ErroreScrittura(percorso, 0,
                                 base::traduttore("la figura si salva come SVG, PDF o PNG: "
                                                  "terminare il nome con .svg, .pdf o .png"));
+}
+
+// What was typed, with an ending that is taken.
+std::string daProporreAncora(const std::string& percorso) {
+    const std::size_t nome = percorso.rfind('/') + 1;
+    const std::size_t punto = percorso.rfind('.');
+    if (tipoScritto(percorso) != nullptr) return percorso;
+    const bool conFine = punto != std::string::npos && punto > nome;
+    return percorso.substr(0, conFine ? punto : std::string::npos) + '.' + tipi[0].estensione;
 }
 
 // Gives the picture in the size of files to what writes it.
@@ -82,12 +96,15 @@ void scriviFigura(const std::string& percorso, const live::ProgettoVivo& vivo, c
 
 void salvaFigura(const live::ProgettoVivo& vivo, const QFont& font, PorteGrafica& porte,
                  base::Dialogo& dialogo) {
-    conAvviso(dialogo, [&] {
-        const auto percorso = porte.fileDaSalvare(richiestaFigura());
-        if (!percorso) return;
-        scriviFigura(*percorso, vivo, font, porte.disco());
-        porte.scritto(*percorso);
-    });
+    FileDaSalvare richiesta = richiestaFigura();
+    while (const auto percorso = porte.fileDaSalvare(richiesta)) {
+        const auto scrivi = [&] {
+            scriviFigura(*percorso, vivo, font, porte.disco());
+            porte.scritto(*percorso);
+        };
+        if (conAvviso(dialogo, scrivi)) return;
+        richiesta.nome = daProporreAncora(*percorso);
+    }
 }
 
 void copiaFigura(const live::ProgettoVivo& vivo, const QFont& font) {

@@ -20,7 +20,8 @@ namespace korven::shell {
 void scriviFigura(const std::string& percorso, const live::ProgettoVivo& vivo, const QFont& font,
                   const base::Disco& disco);
 
-/// Asks for a name and writes the picture; a box tells of a failure.
+/// Asks for a name and writes the picture; a box tells of a failure, and the name is asked for
+/// again.
 void salvaFigura(const live::ProgettoVivo& vivo, const QFont& font, PorteGrafica& porte,
                  base::Dialogo& dialogo);
 

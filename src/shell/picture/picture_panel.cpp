@@ -48,6 +48,8 @@ PannelloFigura::PannelloFigura(VitaProgetto& vita, std::function<void(const QFon
     copia_ = new QAction(icona("copy"), tradotto("Copia figura"), this);
     copia_->setObjectName("copiaFigura");
     connect(copia_, &QAction::triggered, vista_, &VistaFigura::copia);
+    connect(vista_, &VistaFigura::copiata, this,
+            [this] { emit copiata(fase_->text() + ", " + curve_->checkedButton()->text()); });
     salva_ = new QAction(icona("save_picture"), tradotto("Salva figura..."), this);
     salva_->setObjectName("salvaFigura");
     salva_->setIconText(salva_->text());  // Qt takes the dots off

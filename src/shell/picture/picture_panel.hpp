@@ -34,6 +34,10 @@ class PannelloFigura : public QWidget {
     /// Room for the emblem of the main form at the lower left corner.
     static constexpr int larghezzaEmblema = 62, altezzaEmblema = 36;
 
+ signals:
+    /// The picture is in the clipboard: what of the project it shows, "fase 2, Momento".
+    void copiata(const QString& che);
+
  protected:
     bool event(QEvent* evento) override;
     void resizeEvent(QResizeEvent* evento) override;

@@ -206,7 +206,9 @@ void VistaFigura::focusOutEvent(QFocusEvent* evento) {
 }
 
 void VistaFigura::copia() {
-    if (vivo_.aperto()) copiaFigura(vivo_, font());
+    if (!vivo_.aperto()) return;
+    copiaFigura(vivo_, font());
+    emit copiata();
 }
 
 }  // namespace korven::shell

@@ -37,6 +37,8 @@ class VistaFigura : public QWidget {
 
  signals:
     void letto(const QString& lettura);
+    /// The picture is in the clipboard.
+    void copiata();
 
  protected:
     void paintEvent(QPaintEvent* evento) override;

@@ -21,7 +21,7 @@ struct TipoFile {
 /// What a save dialog is to ask. It asks before a file is replaced.
 struct FileDaSalvare {
     std::string titolo;  ///< translated
-    std::string nome;    ///< proposed, without a folder
+    std::string nome;    ///< proposed; without a folder in that of the project
     std::vector<TipoFile> tipi;
 };
 

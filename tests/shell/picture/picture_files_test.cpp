@@ -4,6 +4,8 @@
 
 #include <QGuiApplication>
 #include <filesystem>
+#include <utility>
+#include <vector>
 
 #include "base/file_error.hpp"
 #include "base/files.hpp"
@@ -18,15 +20,15 @@ namespace {
 class PorteFinte : public PorteGrafica {
  public:
     std::optional<std::string> fileDaSalvare(const FileDaSalvare& richiesta) override {
-        chiesta = richiesta;
-        return risposta;
+        chieste.push_back(richiesta);
+        return std::exchange(risposta, {});
     }
     [[nodiscard]] const base::Disco& disco() const override { return base::discoDiSistema(); }
     void scritto(const std::string& percorso) override { scritti.push_back(percorso); }
     plot::Foglio foglioStampante() override { return {}; }
     std::unique_ptr<plot::Stampante> stampante(const std::string&) override { return nullptr; }
 
-    FileDaSalvare chiesta;
+    std::vector<FileDaSalvare> chieste;
     std::optional<std::string> risposta;
     std::vector<std::string> scritti;
 };
@@ -51,8 +53,9 @@ class FileFiguraTest : public ::testing::Test {
 
 TEST_F(FileFiguraTest, ProposesTheNameOfTheProject) {
     salva({});
-    EXPECT_EQ(porte.chiesta.nome, "muro-figura.svg");
-    EXPECT_EQ(porte.chiesta.tipi.size(), 3U);
+    ASSERT_EQ(porte.chieste.size(), 1U);
+    EXPECT_EQ(porte.chieste[0].nome, "muro-figura.svg");
+    EXPECT_EQ(porte.chieste[0].tipi.size(), 3U);
     EXPECT_TRUE(porte.scritti.empty());
 }
 
@@ -77,6 +80,22 @@ TEST_F(FileFiguraTest, RefusesAnotherKindAndSaysWhichThereAre) {
         EXPECT_NE(dialogo.messaggi[0].testo.find(".svg, .pdf o .png"), std::string::npos);
     }
     EXPECT_TRUE(porte.scritti.empty());
+}
+
+TEST_F(FileFiguraTest, AsksAgainForANameThatWasRefused) {
+    const std::pair<const char*, const char*> casi[] = {
+        {"tavole/a.jpg", "tavole/a.svg"}, {"1.2/a", "1.2/a.svg"}, {"manca/a.PDF", "manca/a.PDF"}};
+    for (const auto& [scritto, riproposto] : casi) {
+        porte.chieste.clear();
+        dialogo.messaggi.clear();
+        salva(ambiente.lavori / scritto);
+        ASSERT_EQ(porte.chieste.size(), 2U) << scritto;
+        EXPECT_EQ(porte.chieste[1].nome, ambiente.lavori / riproposto);
+        EXPECT_EQ(dialogo.messaggi.size(), 1U) << scritto;
+    }
+    porte.chieste.clear();
+    salva(ambiente.lavori / "a.png");
+    EXPECT_EQ(porte.chieste.size(), 1U);
 }
 
 TEST_F(FileFiguraTest, NeverTakesThePlaceOfTheProject) {

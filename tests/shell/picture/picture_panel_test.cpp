@@ -215,8 +215,14 @@ TEST_F(PannelloFiguraTest, PaintsAnewWhenTheDesktopTurnsDark) {
     EXPECT_LT(vista().grab().toImage().pixelColor(5, 5).lightness(), 60);
 }
 
-TEST_F(PannelloFiguraTest, CopiesThePictureAsImageAndAsSvg) {
+TEST_F(PannelloFiguraTest, CopiesThePictureAsImageAndAsSvgAndTellsWhich) {
+    QStringList copiate;
+    QObject::connect(&pannello, &PannelloFigura::copiata,
+                     [&](const QString& che) { copiate << che; });
     QTest::keyClick(&vista(), Qt::Key_C, Qt::ControlModifier);
+    vita.mostra({.fase = 2, .curva = live::Curva::taglio});
+    QTest::keyClick(&fasi(), Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(copiate, QStringList({"inviluppo, Momento", "fase 2, Taglio"}));
     const QMimeData* dati = QApplication::clipboard()->mimeData();
     ASSERT_NE(dati, nullptr);
     EXPECT_TRUE(dati->hasImage());
