@@ -97,14 +97,17 @@ class Terreno {
     void confini() {
         for (std::size_t i = 0; i + 1 < strati_.size(); ++i) {
             const StratoMostrato& s = strati_[i];
-            if (!s.descrizione.lineaAlPiede) continue;
+            const bool ultimo = strati_[i + 1].numero == 0;  // nothing that it could run into
+            if (!s.descrizione.lineaAlPiede && !ultimo) continue;
             const double y = q_.y(s.letto);
             const Tinta tinta{Ruolo::strato, s.descrizione.colore};
             if (y > q_.suolo(0))
                 tela_.disegna(Elemento::strato, s.numero, Linea{{{0, y}, {q_.xMonte, y}}, tinta});
             if (s.letto > m_.scavo)
-                tela_.disegna(Elemento::strato, s.numero,
-                              Linea{{{q_.xValle, y}, {q_.xSezione, y}}, tinta});
+                tela_.disegna(
+                    Elemento::strato, s.numero,
+                    Linea{{{s.letto < m_.lunghezza ? q_.xValle : q_.xMonte, y}, {q_.xSezione, y}},
+                          tinta});
         }
     }
 
@@ -214,8 +217,9 @@ void disegnaProfili(const Mostrata& m, const Inquadratura& q, Tela& tela) {
                  Linea{{{0, q.suolo(0)}, {q.xMonte, q.yTesta}}, tinta, spessore});
     const double y = q.y(m.scavo);
     if (!q.visibile(y)) return;
-    tela.disegna(Elemento::terreno, m.fase,
-                 Linea{{{q.xValle, y}, {q.larghezza, y}}, tinta, spessore});
+    tela.disegna(
+        Elemento::terreno, m.fase,
+        Linea{{{m.lunghezza > 0 ? q.xValle : q.xMonte, y}, {q.larghezza, y}}, tinta, spessore});
 }
 
 }  // namespace korven::scene

@@ -7,6 +7,7 @@
 #include "base/filled_text.hpp"
 #include "base/translated_texts.hpp"
 #include "safety/words.hpp"
+#include "scene/first_steps.hpp"
 #include "scene/parts.hpp"
 #include "scene/shown_values.hpp"
 #include "scene/text_fitting.hpp"
@@ -39,6 +40,7 @@ std::string conclusione(const Mostrata& m) {
 }  // namespace
 
 std::string titolo(const Mostrata& m) {
+    if (nonCominciato(m.dati())) return traduttore("progetto ancora vuoto");
     if (m.fase == 0) return traduttore("nessuna fase di scavo");
     const std::string scavo = punto + traduttore("scavo") + " " + quota(m.scavo);
     const std::string fase =
@@ -65,7 +67,10 @@ std::vector<Verdetto> verdetti(const Mostrata& m, const std::string& impedimento
         tutti.push_back({impedimento + ": " + traduttore("la figura mostra i valori precedenti"),
                          Ruolo::avviso});
     const live::PareteViva& parete = m.parete;
-    if (!parete.rifiuto.empty()) tutti.push_back({parete.rifiuto, Ruolo::avviso});
+    if (!parete.rifiuto.empty() && !nonCominciato(parete.dati))
+        tutti.push_back({parete.rifiuto, Ruolo::avviso});
+    if (std::string passi = primiPassi(parete); !passi.empty())
+        tutti.push_back({std::move(passi), Ruolo::testo});
     if (parete.perche && (m.cade || m.dopo || m.vista.fase == 0))
         tutti.push_back({safety::frase(*parete.perche), Ruolo::meccanismo});
     if (m.dopo)

@@ -43,7 +43,8 @@ Scena scena(const live::PareteViva& parete, const live::Vista& vista, const Misu
 std::string descrizione(const live::PareteViva& parete, const live::Vista& vista) {
     const Mostrata m = mostrata(parete, vista);
     std::string testo = titolo(m);
-    for (const Verdetto& v : verdetti(m, {})) testo += ". " + v.testo;
+    for (const Verdetto& v : verdetti(m, {}))
+        testo += (testo.ends_with('.') ? " " : ". ") + v.testo;
     return testo;
 }
 

@@ -14,10 +14,12 @@ struct Verdetto {
     Ruolo ruolo = Ruolo::avviso;
 };
 
-/// Which stage is shown: "fase 2 di 4  ·  scavo 5.00 m".
+/// Which stage is shown: "fase 2 di 4  ·  scavo 5.00 m"; of a project that nobody has begun that it
+/// is empty.
 [[nodiscard]] std::string titolo(const Mostrata& m);
 
-/// What keeps values from being shown, a wall from being computed or from standing; else that the
+/// What keeps values from being shown, a wall from being computed (with the forms that are still to
+/// be filled in) or from standing; else that the
 /// stage shown stands, or all do, with its largest values or those of all, after what keeps the
 /// report from having numbers.
 [[nodiscard]] std::vector<Verdetto> verdetti(const Mostrata& m, const std::string& impedimento);

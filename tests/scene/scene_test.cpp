@@ -52,6 +52,25 @@ TEST(Scena, DrawsAnUndefinedSectionWithAUsualThickness) {
     EXPECT_NEAR(pianta(s).larghezza(), 0.6 * s.scala, 1e-9);
 }
 
+// The ground below it is of no layer that it could read as one with.
+TEST(Scena, EndsTheLastLayerWithALineWhateverItsCodeBelowTheWallToo) {
+    auto dati = test::progettoSemplice();
+    const int ultimo = dati.nStrati;
+    dati.descrStrato[ultimo] = "-103 Ghiaia";
+    for (const double letto : {12.6, 11.0}) {  // of a wall of 12 m
+        dati.profStrato[ultimo] = letto;
+        const Scena s = scenaDi(dati, {2});
+        const auto linee = figure<Linea>(s, Elemento::strato, ultimo);
+        ASSERT_EQ(linee.size(), 2U) << letto;
+        for (const Linea& linea : linee) EXPECT_NEAR(linea.punti[0].y, s.y(letto), 1e-9);
+        const double faccia = letto > 12 ? pianta(s).sinistra : pianta(s).destra;
+        EXPECT_EQ(linee[0].punti[1].x, pianta(s).sinistra);
+        EXPECT_EQ(linee[1].punti[0].x, faccia);
+    }
+    dati.descrStrato[1] = "-101 Sabbia";
+    EXPECT_TRUE(figure<Linea>(scenaDi(dati, {2}), Elemento::strato, 1).empty());
+}
+
 TEST(Scena, StretchesLayersToTheirDepths) {
     const Scena s = scenaDi(test::progettoSemplice(), {2});
     const auto primo = figure<Area>(s, Elemento::strato, 1);

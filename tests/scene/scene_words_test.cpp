@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "project/codes.hpp"
 #include "scene/scene.hpp"
 #include "support/sample_projects.hpp"
 #include "support/sample_sections.hpp"
@@ -73,6 +74,32 @@ TEST(Scena, SaysWhyNothingIsComputed) {
     EXPECT_TRUE(dice(testi(s, Elemento::nota), "fase 1 di 2  ·  scavo 2.00 m"));
     EXPECT_TRUE(dice(testi(s, Elemento::nota), "Il valore di EJ non è ancora stato definito."));
     EXPECT_TRUE(dice(testi(s, Elemento::curva), "nessuna curva"));
+}
+
+TEST(Scena, SaysWhereToBeginInAnEmptyProject) {
+    project::DatiProgetto dati;
+    project::azzera(dati);
+    EXPECT_EQ(descrizione(live::calcola(dati, 40), {}),
+              "progetto ancora vuoto. per cominciare, nel menu Edizione: Stratigrafia, Parametri "
+              "Diaframma, Descrizione Struttura, Fasi di Scavo");
+}
+
+TEST(Scena, SaysWhichFormsAreStillToBeFilledIn) {
+    auto dati = test::progettoSemplice();
+    dati.nFasi = 0;
+    const std::string prima =
+        "nessuna fase di scavo. Non sono ancora state definite le fasi di scavo, i calcoli non "
+        "possono pertanto essere eseguiti. ancora da compilare nel menu Edizione: ";
+    EXPECT_EQ(descrizione(live::calcola(dati, 40), {}), prima + "Fasi di Scavo");
+    dati.rigidezzaEJ = 0;
+    EXPECT_EQ(descrizione(live::calcola(dati, 40), {}),
+              prima + "Descrizione Struttura, Fasi di Scavo");
+    // A method that does not go with the layers is no form that is still empty.
+    dati = test::progettoSemplice();
+    dati.metodoKs = project::valore(project::MetodoKs::bowles);
+    dati.phiStrato[1] = 0;
+    EXPECT_EQ(descrizione(live::calcola(dati, 40), {}).find("ancora da compilare"),
+              std::string::npos);
 }
 
 TEST(Scena, SaysWhatIsInTheWayOfWhatIsTyped) {
