@@ -318,7 +318,7 @@ inline const std::map<std::string, Texts> noTexts = {
      {"calcolo0", "calcolo%1", "calcoloGenere", "calcoloMisura", "calcoloArea", "calcoloRigidezza",
       "calcoloPretensione", "scriviRigidezza", "scriviPretensione"}},
     {"shell/panels/anchor_panel.cpp",
-     {"pannelloTiranti", "tiriTitolo", "tiriPerche", "calcoloSignificato"}},
+     {"pannelloTiranti", "tiriTitolo", "tiriPerche", "calcoloSignificato", "calcoloTipologia"}},
     {"shell/panels/force_table.cpp", {"tiriFasi", "–"}},
     {"shell/panels/stage_panel.cpp", {"schizzoFase", "paroleFase", "pannelloFasi"}},
     {"shell/panels/wall_panel.cpp", {"paroleParatia", "pannelloParatia"}},

@@ -6,6 +6,7 @@
 #include "base/filled_text.hpp"
 #include "base/translated_texts.hpp"
 #include "panels/anchor_forces.hpp"
+#include "panels/anchor_kind.hpp"
 #include "panels/grid_rows.hpp"
 #include "shell/forms/history_keys.hpp"
 #include "shell/panels/anchor_fields.hpp"
@@ -46,6 +47,7 @@ PannelloTiranti::PannelloTiranti(Base2_32& forma, VitaProgetto& vita,
       forma_(forma),
       vita_(vita),
       ingressi_(ingressi),
+      discorde_(fareTesto("calcoloTipologia", this)),
       campi_(new CampiTirante(ingressi)),
       titolo_(fareTesto("tiriTitolo", this)),
       tiri_(new TabellaTiri(this)),
@@ -77,6 +79,7 @@ QWidget* PannelloTiranti::fareCalcolo() {
         "La tabella chiede valori per metro di paratia, in direzione orizzontale: il programma non "
         "divide per l'interasse e non moltiplica per il coseno, lo fa questo calcolo."));
     colonna->addWidget(significato);
+    colonna->addWidget(discorde_);
     colonna->addWidget(campi_);
     colonna->addStretch();
     return calcolo;
@@ -113,6 +116,9 @@ void PannelloTiranti::aggiorna() {
     const auto& griglia = forma_.modello();
     const int riga = griglia.corrente().riga;
     campi_->perRiga(riga);
+    const std::string discorde = panels::tipologiaDiscorde(griglia, riga, ingressi_.genere);
+    discorde_->setText(qt(discorde));
+    discorde_->setVisible(!discorde.empty());
     forma_.nota(qt(campi_->storia().detto()));
     const std::string titolo = titoloTiri(griglia);
     titolo_->setText(qt(titolo));

@@ -32,6 +32,7 @@ class PannelloTiranti : public PannelloLaterale {
     Base2_32& forma_;
     VitaProgetto& vita_;
     panels::IngressiCalcolo& ingressi_;
+    QLabel* discorde_;  // shown while the row is of another kind than what is calculated
     CampiTirante* campi_;
     QLabel* titolo_;
     TabellaTiri* tiri_;

@@ -81,6 +81,22 @@ TEST_F(PannelloDeiTiranti, WritesTheStiffnessIntoTheRowInUseInOneStepThatCtrlZTa
     });
 }
 
+TEST_F(PannelloDeiTiranti, SaysWhichTypeAStrutHasUntilItsRowHasIt) {
+    apri([&] {
+        cursore(2, 4);
+        auto& nota = controllo<QLabel>("calcoloTipologia");
+        EXPECT_FALSE(nota.isVisible());
+        controllo<QComboBox>("calcoloGenere").setCurrentIndex(1);
+        EXPECT_TRUE(nota.isVisible());
+        EXPECT_TRUE(nota.text().startsWith("Riga 2: con la tipologia 0 "))
+            << testo("calcoloTipologia");
+        QTest::keyClick(&griglia(), Qt::Key_1);
+        EXPECT_FALSE(nota.isVisible());
+        controllo<QComboBox>("calcoloGenere").setCurrentIndex(0);
+        EXPECT_FALSE(nota.isVisible());
+    });
+}
+
 TEST_F(PannelloDeiTiranti, WritesThePrestress) {
     apri([&] {
         riempi();
