@@ -45,8 +45,8 @@ struct Figura {
     std::string descrizione;  ///< what it shows, for those who don't see it: a sentence
     double larghezza = 0;     ///< [cm], up to the width of the text
     double altezza = 0;       ///< [cm]
-    /// Draws from (0, 0), lower left, to (larghezza, altezza) [cm] with the plot engine, whose
-    /// store is empty. Called each time a page with it is painted.
+    /// Draws from (0, 0), lower left, to (larghezza, altezza) [cm] with the plot engine, which is
+    /// open (`plotApri`) for that sheet and empty. Called each time a page with it is painted.
     std::function<void()> disegna;
 };
 
@@ -60,6 +60,8 @@ using Blocco = std::variant<Titolo, Paragrafo, Tavola, Figura, SaltoPagina>;
 struct Documento {
     std::string titolo;                  ///< of the file, as a reader of documents shows it
     std::string autore;                  ///< of the file
+    std::string data;                    ///< of the file, "2026-11-22"; empty: it tells none
+    std::string lingua;                  ///< of the texts: "it"
     std::array<std::string, 2> testata;  ///< left and right, on every page
     std::string piede;                   ///< left of the number, on every page
     std::vector<Blocco> blocchi;

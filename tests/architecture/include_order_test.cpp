@@ -41,6 +41,7 @@ const std::vector<std::pair<std::string, std::set<std::string>>> outside = {
     {"CLI/", {"batch"}},
     {"nlohmann/", {"batch"}},
     {"png.h", {"device"}},
+    {"qpdf/", {"device"}},
     {"minizip/", {"outdoc"}},
     {"nettle/", {"dossier"}},
     {"zlib.h", {"outdoc"}},

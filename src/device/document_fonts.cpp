@@ -1,0 +1,23 @@
+#include "device/document_fonts.hpp"
+
+namespace korven::device {
+
+namespace {
+
+markup::ReportFont voluto(const document::Carattere& carattere) {
+    return {carattere.fisso ? "Courier New" : "Arial", carattere.corpo, carattere.grassetto,
+            carattere.corsivo};
+}
+
+}  // namespace
+
+double CaratteriPagine::larghezza(std::string_view testo,
+                                  const document::Carattere& carattere) const {
+    return fatti_.carattere(voluto(carattere)).larghezza(testo, carattere.corpo);
+}
+
+const QFont& CaratteriPagine::font(const document::Carattere& carattere) const {
+    return fatti_.carattere(voluto(carattere)).font;
+}
+
+}  // namespace korven::device

@@ -1,0 +1,195 @@
+#include "document/markup_text.hpp"
+
+#include <algorithm>
+#include <cstddef>
+#include <numeric>
+#include <string_view>
+#include <vector>
+
+#include "base/code_page.hpp"
+#include "base/text_lines.hpp"
+#include "base/translated_texts.hpp"
+#include "document/line_breaking.hpp"
+#include "document/spelled_out.hpp"
+#include "markup/cells.hpp"
+#include "markup/number_profile.hpp"
+#include "markup/text_renderer.hpp"
+
+namespace korven::document {
+
+namespace {
+
+using tables::Cella;
+using tables::Prospetto;
+using Indici = std::vector<std::size_t>;
+
+constexpr std::size_t colonneTesto = 100;
+constexpr const char* spazioFermo = "\u00A0";
+
+// Every character is as wide as 1: lines are counted, not measured.
+class UnoPerCarattere : public MisuraCaratteri {
+ public:
+    [[nodiscard]] double larghezza(std::string_view testo, const Carattere&) const override {
+        return static_cast<double>(base::numeroCaratteri(testo));
+    }
+};
+
+// Tabs part cells, line feeds lines: within a cell both are blanks.
+std::string inUnaRiga(std::string_view testo) {
+    std::string riga = perEsteso(testo);
+    std::replace_if(
+        riga.begin(), riga.end(), [](char c) { return static_cast<unsigned char>(c) < ' '; }, ' ');
+    return riga;
+}
+
+class Scrittore {
+ public:
+    explicit Scrittore(Uso uso) : uso_(uso) {}
+
+    void direttiva(std::string_view parola, std::string_view argomento = {}) {
+        testo_.append(parola);
+        if (!argomento.empty()) testo_.append(" ").append(inUnaRiga(argomento));
+        testo_ += "\r\n";
+    }
+    void riga(std::string_view testo) {
+        const auto prima = testo.find_first_not_of(' ');
+        if (prima != std::string_view::npos && testo[prima] == '#') testo_ += '\'';
+        testo_.append(testo).append("\r\n");
+    }
+
+    void scrivi(const Titolo& titolo) {
+        constexpr std::string_view corpi[] = {"14", "11", "9.5"};
+        riga({});
+        direttiva("#FONTSIZE", corpi[std::clamp(titolo.livello, 1, 3) - 1]);
+        riga(base::maiuscolo(inUnaRiga(titolo.testo)));
+        direttiva("#FONTSIZE", corpo);
+    }
+
+    void scrivi(const Paragrafo& paragrafo) {
+        riga({});
+        const bool fisso = paragrafo.stile == Stile::fisso;
+        if (fisso) direttiva("#FONT", "Courier New");
+        if (fisso || paragrafo.stile == Stile::nota) direttiva("#FONTSIZE", fisso ? "7" : "8");
+        for (const auto& r : righe(paragrafo.testo, fisso)) riga(r);
+        if (fisso) direttiva("#FONT", "Arial");
+        direttiva("#FONTSIZE", corpo);
+    }
+
+    void scrivi(const Tavola& tavola) {
+        const Prospetto& p = tavola.prospetto;
+        riga({});
+        if (!p.titolo.empty()) riga(inUnaRiga(p.titolo));
+        direttiva("#FONTSIZE", "8");
+        for (const Indici& colonne : parti(p.colonne.size()))
+            for (std::size_t da = 0; da < p.righe.size(); da += righeInsieme)
+                tabella(p, colonne, da, std::min(p.righe.size(), da + righeInsieme));
+        for (const auto& nota : p.note)
+            for (const auto& r : righe(nota, false)) riga(r);
+        direttiva("#FONTSIZE", corpo);
+    }
+
+    void scrivi(const Figura& figura) {
+        riga({});
+        if (!figura.didascalia.empty()) riga(inUnaRiga(figura.didascalia));
+        const std::string dove =
+            "[" + base::traduttore("il disegno si trova nel documento PDF") + "]";
+        for (const auto& r : righe(figura.descrizione + " " + dove, false)) riga(r);
+    }
+
+    void scrivi(const SaltoPagina&) { direttiva("#NEWPAGE"); }
+
+    [[nodiscard]] std::string testo() { return std::move(testo_); }
+
+    static constexpr std::string_view corpo = "9.5";
+
+ private:
+    static constexpr std::size_t righeInsieme = markup::maximumGridRows - 1;  // below the head
+
+    [[nodiscard]] std::vector<std::string> righe(std::string_view testo, bool fisso) const {
+        const std::string scritto = perEsteso(testo);
+        const UnoPerCarattere misura;
+        const double larga = uso_ == Uso::testo && !fisso ? colonneTesto : 1e9;
+        return fisso ? inRigheFisse(scritto, larga, {}, misura)
+                     : inRighe(scritto, larga, {}, misura);
+    }
+
+    static std::vector<Indici> parti(std::size_t colonne) {
+        if (colonne == 0) return {};
+        constexpr std::size_t altre = markup::maximumGridColumns - 1;
+        std::vector<Indici> tutte;
+        for (std::size_t da = 1; da < colonne || tutte.empty(); da += altre) {
+            Indici parte{0};
+            for (std::size_t j = da; j < std::min(colonne, da + altre); ++j) parte.push_back(j);
+            tutte.push_back(std::move(parte));
+        }
+        return tutte;
+    }
+
+    void tabella(const Prospetto& p, const Indici& colonne, std::size_t da, std::size_t a) {
+        std::string stile = "=";
+        for (const std::size_t j : colonne) stile += p.colonne[j].numerica ? '>' : '<';
+        direttiva("#TABSTYLE", stile);
+        direttiva("#STARTTABLE");
+        std::string testa;
+        for (const std::size_t j : colonne) {
+            const std::string titolo = inUnaRiga(p.colonne[j].testa());
+            cella(titolo, testa, markup::numberProfile(titolo) != markup::textProfile);
+        }
+        riga(testa);
+        std::vector<char> ferme;
+        for (const std::size_t j : colonne) ferme.push_back(decimaliDiversi(p, j));
+        for (std::size_t i = da; i < a; ++i) {
+            std::string celle;
+            for (std::size_t k = 0; k < colonne.size(); ++k)
+                cella(inUnaRiga(p.righe[i][colonne[k]].testo), celle, ferme[k] != 0);
+            riga(celle);
+        }
+        direttiva("#ENDTABLE");
+    }
+
+    void cella(std::string testo, std::string& riga, bool ferma) const {
+        if (uso_ == Uso::documento && (testo.empty() || ferma)) testo += spazioFermo;
+        if (!riga.empty()) riga += '\t';
+        riga += testo;
+    }
+
+    // Numbers with different decimals would be filled up, and so say more than they do.
+    [[nodiscard]] static bool decimaliDiversi(const Prospetto& p, std::size_t j) {
+        int primo = markup::textProfile;
+        for (const auto& riga : p.righe) {
+            const int profilo = markup::numberProfile(inUnaRiga(riga[j].testo));
+            if (profilo == markup::textProfile) continue;
+            if (primo != markup::textProfile && profilo != primo) return true;
+            primo = profilo;
+        }
+        return false;
+    }
+
+    const Uso uso_;
+    std::string testo_;
+};
+
+}  // namespace
+
+std::string inMarkup(const Documento& documento, Uso uso) {
+    Scrittore scrittore(uso);
+    scrittore.direttiva("#RESET", "2,2,1.2,1.2,0.5,0.5,8,Arial");
+    std::string testata = documento.testata[0];
+    if (!testata.empty() && !documento.testata[1].empty()) testata += "  ·  ";
+    scrittore.direttiva("#HEADER", testata + documento.testata[1]);
+    scrittore.direttiva("#FOOTER", documento.piede);
+    scrittore.direttiva("#FONT", "Arial");
+    scrittore.direttiva("#FONTSIZE", Scrittore::corpo);
+    scrittore.direttiva("#LEFT");
+    for (const Blocco& blocco : documento.blocchi)
+        std::visit([&](const auto& b) { scrittore.scrivi(b); }, blocco);
+    scrittore.direttiva("#ENDDOCUMENT");
+    return scrittore.testo();
+}
+
+std::string testoSemplice(const Documento& documento) {
+    base::LettoreRighe righe(documento.titolo, base::inCp1252(inMarkup(documento, Uso::testo)));
+    return markup::renderText(righe).value_or(std::string());
+}
+
+}  // namespace korven::document

@@ -1,0 +1,237 @@
+#include "document/layout.hpp"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <map>
+#include <random>
+
+#include "support/page_boxes.hpp"
+#include "support/sample_document.hpp"
+
+namespace korven::document {
+namespace {
+
+using test::difetti;
+using test::testi;
+
+Impaginato posto(std::vector<Blocco> blocchi) {
+    Documento d;
+    d.testata = {"Muro", "KORVEN 32"};
+    d.piede = "muro.kvd";
+    d.blocchi = std::move(blocchi);
+    return impagina(d, Formato{}, CaratteriStimati());
+}
+
+Paragrafo righe(int quante) {
+    std::string testo = "1";
+    for (int i = 2; i <= quante; ++i) testo += "\n" + std::to_string(i);
+    return {testo};
+}
+
+// Lines of usual text that fill a page but for some.
+int righePerPagina() {
+    const double alta = 9.5 * 1.32;
+    return static_cast<int>(Formato{}.altezzaTesto() / alta);
+}
+
+TEST(Impagina, LaysNothingUponAnotherThingOrBeyondTheMargins) {
+    const Impaginato fatto = impagina(test::documentoCompleto(), Formato{}, CaratteriStimati());
+    EXPECT_EQ(difetti(fatto), "");
+    EXPECT_GT(fatto.pagine.size(), 3U);
+}
+
+TEST(Impagina, GivesEachPageItsHeadItsFootAndItsNumber) {
+    const Impaginato fatto = posto({righe(1), SaltoPagina{}, righe(1)});
+    ASSERT_EQ(fatto.pagine.size(), 2U);
+    for (std::size_t i = 0; i < 2; ++i) {
+        std::vector<std::string> bordo;
+        for (const auto& s : fatto.pagine[i].scritte)
+            if (s.y < Formato{}.sopra || s.y > Formato{}.altezza - Formato{}.sotto)
+                bordo.push_back(s.testo);
+        EXPECT_EQ(bordo, (std::vector<std::string>{"Muro", "KORVEN 32", "muro.kvd",
+                                                   std::to_string(i + 1) + " / 2"}));
+    }
+}
+
+TEST(Impagina, HasOnePageForADocumentWithoutBlocksAndNoneForABreakAtTheEnd) {
+    EXPECT_EQ(posto({}).pagine.size(), 1U);
+    EXPECT_EQ(posto({SaltoPagina{}, righe(1), SaltoPagina{}, SaltoPagina{}}).pagine.size(), 1U);
+}
+
+TEST(Impagina, KeepsAHeadingWithWhatFollowsIt) {
+    for (int livello = 1; livello <= 3; ++livello)
+        for (int prima = righePerPagina() - 6; prima <= righePerPagina(); ++prima) {
+            const Impaginato fatto =
+                posto({righe(prima), Titolo{livello, "Titolo"}, Paragrafo{"sotto\nancora"}});
+            const std::string ultima = testi(fatto, fatto.pagine.size() - 1);
+            EXPECT_NE(ultima.find("Titolo|sotto|ancora"), std::string::npos) << prima << ultima;
+        }
+}
+
+TEST(Impagina, LeavesNoLineOfAParagraphAlone) {
+    for (int prima = righePerPagina() - 7; prima <= righePerPagina(); ++prima) {
+        const Impaginato fatto = posto({righe(prima), Paragrafo{"a\nb\nc\nd\ne"}});
+        for (std::size_t i = 0; i < fatto.pagine.size(); ++i) {
+            const std::string pagina = "|" + testi(fatto, i) + "|";
+            EXPECT_EQ(pagina.find("|a|") == std::string::npos,
+                      pagina.find("|b|") == std::string::npos);
+            EXPECT_EQ(pagina.find("|d|") == std::string::npos,
+                      pagina.find("|e|") == std::string::npos);
+        }
+    }
+}
+
+TEST(Impagina, SetsThePointsOfAColumnBelowOneAnother) {
+    tables::Prospetto p;
+    p.colonne = {{"Nome", "", "", false}, {"Valore", "m", ""}};
+    for (const char* testo : {"1.5", "-120.25", "7", "0.125"})
+        p.righe.push_back({{.testo = "x"}, {.testo = testo, .numero = 1.0}});
+    const Impaginato fatto = posto({Tavola{p}});
+    const CaratteriStimati misura;
+    std::vector<double> punti;
+    for (const auto& s : fatto.pagine[0].scritte)
+        if (s.testo == "1.5" || s.testo == "-120.25" || s.testo == "7" || s.testo == "0.125")
+            punti.push_back(s.x +
+                            misura.larghezza(s.testo.substr(0, s.testo.find('.')), s.carattere));
+    ASSERT_EQ(punti.size(), 4U);
+    for (const double x : punti) EXPECT_NEAR(x, punti[0], 1e-9);
+}
+
+TEST(Impagina, RepeatsTheHeadOfATableThatGoesOnAndTearsNoRow) {
+    const Impaginato fatto = posto({Tavola{test::nodi(130)}});
+    ASSERT_GE(fatto.pagine.size(), 3U);
+    std::size_t righeViste = 0;
+    for (std::size_t i = 0; i < fatto.pagine.size(); ++i) {
+        const std::string pagina = testi(fatto, i);
+        const std::string titolo = i == 0 ? "Nodi della fase 2|" : "Nodi della fase 2 (segue)|";
+        EXPECT_TRUE(pagina.starts_with(titolo)) << pagina.substr(0, 60);
+        EXPECT_NE(pagina.find("[kN m/m]"), std::string::npos);
+        std::map<double, int> perRiga;
+        for (const auto& s : fatto.pagine[i].scritte) ++perRiga[s.y];
+        righeViste += static_cast<std::size_t>(
+            std::count_if(perRiga.begin(), perRiga.end(), [](auto& r) { return r.second == 7; }));
+    }
+    // The last line of the head has a text in each column too.
+    EXPECT_GE(righeViste, 130U);
+    EXPECT_EQ(difetti(fatto), "");
+}
+
+TEST(Impagina, LeavesNeitherTheFirstNorTheLastRowOfATableAlone) {
+    for (int prima = righePerPagina() - 14; prima <= righePerPagina(); ++prima) {
+        const Impaginato fatto = posto({righe(prima), Tavola{test::larga(3, 6)}});
+        for (std::size_t i = 0; i < fatto.pagine.size(); ++i) {
+            const std::string pagina = testi(fatto, i);
+            const auto c_e = [&](const char* t) { return pagina.find(t) != std::string::npos; };
+            EXPECT_EQ(c_e("Tirante 1|"), c_e("Tirante 2|")) << prima;
+            EXPECT_EQ(c_e("Tirante 5|"), c_e("Tirante 6|")) << prima;
+        }
+    }
+}
+
+TEST(Impagina, PartsARowThatIsHigherThanAPageBetweenItsLines) {
+    std::string lungo;
+    for (int i = 0; i < 2000; ++i) lungo += "parola" + std::to_string(i) + " ";
+    tables::Prospetto p;
+    p.titolo = "Lunga";
+    p.colonne = {{"Nome", "", "", false}, {"Testo", "", "", false}};
+    p.righe = {{{.testo = "uno"}, {.testo = lungo}}, {{.testo = "due"}, {.testo = "corto"}}};
+    const Impaginato fatto = posto({Tavola{p}});
+    EXPECT_EQ(difetti(fatto), "");
+    std::string tutti;
+    for (std::size_t i = 0; i < fatto.pagine.size(); ++i) tutti += testi(fatto, i) + "|";
+    for (const char* parola : {"parola0 ", "parola777 ", "parola1999|", "corto"})
+        EXPECT_NE(tutti.find(parola), std::string::npos) << parola;
+}
+
+TEST(Impagina, TellsWhyCellsHaveNothingToShow) {
+    const std::string pagina = testi(posto({Tavola{test::nodi(5)}}), 0);
+    EXPECT_NE(pagina.find("Sopra lo scavo non c'è terreno a valle."), std::string::npos);
+}
+
+TEST(Impagina, ShowsTitleAndNotesOfAnEmptyTable) {
+    tables::Prospetto p;
+    p.titolo = "Tiranti";
+    p.colonne = {{"Nome", "", "", false}};
+    p.note = {"Il progetto non ha tiranti."};
+    EXPECT_EQ(testi(posto({Tavola{p}}), 0), "Tiranti|Il progetto non ha tiranti.");
+}
+
+TEST(Impagina, MakesADrawingSmallerThatIsLargerThanThePage) {
+    for (const auto& [larga, alta] :
+         {std::pair{30.0, 10.0}, std::pair{10.0, 60.0}, std::pair{40.0, 40.0}}) {
+        const Impaginato fatto =
+            posto({Titolo{1, "Fasi"}, Titolo{2, "Fase 1"}, test::figura(larga, alta)});
+        ASSERT_EQ(fatto.pagine.size(), 1U) << "headings, drawing and caption on one page";
+        EXPECT_EQ(difetti(fatto), "");
+        EXPECT_LT(fatto.pagine[0].disegni.at(0).scala, 1);
+    }
+    const Impaginato vera = posto(
+        {Titolo{1, "Fasi"}, Titolo{2, "Fase 1"}, test::figura(larghezzaFigura, altezzaFigura)});
+    EXPECT_EQ(vera.pagine.size(), 1U);
+    EXPECT_EQ(vera.pagine.at(0).disegni.at(0).scala, 1) << "the largest at true size";
+}
+
+TEST(Impagina, KnowsWhereItsHeadingsStand) {
+    const Impaginato fatto =
+        posto({Titolo{1, "Uno"}, righe(3), SaltoPagina{}, Titolo{2, "Due"}, righe(1)});
+    ASSERT_EQ(fatto.segnalibri.size(), 2U);
+    EXPECT_EQ(fatto.segnalibri[0].testo, "Uno");
+    EXPECT_EQ(fatto.segnalibri[0].pagina, 0U);
+    EXPECT_EQ(fatto.segnalibri[1].livello, 2);
+    EXPECT_EQ(fatto.segnalibri[1].pagina, 1U);
+    EXPECT_NEAR(fatto.segnalibri[1].y, Formato{}.sopra, 1e-9);
+}
+
+TEST(Impagina, SetsAnyMixtureOfBlocksWithoutFault) {
+    std::mt19937 caso(32);
+    const auto intero = [&](int da, int a) { return std::uniform_int_distribution(da, a)(caso); };
+    for (int giro = 0; giro < 40; ++giro) {
+        std::vector<Blocco> blocchi;
+        for (int i = intero(1, 14); i > 0; --i) switch (intero(0, 6)) {
+                case 0:
+                    blocchi.push_back(
+                        Titolo{intero(1, 3), std::string(static_cast<size_t>(intero(1, 90)), 'T')});
+                    break;
+                case 1:
+                    blocchi.push_back(righe(intero(1, 70)));
+                    break;
+                case 2:
+                    blocchi.push_back(Tavola{test::nodi(intero(0, 90))});
+                    break;
+                case 3:
+                    blocchi.push_back(Tavola{test::larga(intero(2, 40), intero(1, 9))});
+                    break;
+                case 4:
+                    blocchi.push_back(test::figura(intero(1, 25), intero(1, 30)));
+                    break;
+                case 5:
+                    blocchi.push_back(SaltoPagina{});
+                    break;
+                default:
+                    blocchi.push_back(Tavola{test::parole()});
+            }
+        const Impaginato fatto = posto(blocchi);
+        EXPECT_EQ(difetti(fatto), "") << giro;
+    }
+}
+
+TEST(Impagina, FitsOtherSheetsToo) {
+    Formato letter;
+    letter.larghezza = 612;
+    letter.altezza = 792;
+    EXPECT_EQ(difetti(impagina(test::documentoCompleto(), letter, CaratteriStimati())), "");
+    std::swap(letter.larghezza, letter.altezza);
+    EXPECT_EQ(difetti(impagina(test::documentoCompleto(), letter, CaratteriStimati())), "");
+}
+
+TEST(Impagina, ShortensAHeadThatNoLineHolds) {
+    Documento d;
+    d.testata = {std::string(300, 'n'), std::string(300, 'm')};
+    d.piede = std::string(300, 'k');
+    const Impaginato fatto = impagina(d, Formato{}, CaratteriStimati());
+    EXPECT_EQ(difetti(fatto), "");
+}
+
+}  // namespace
+}  // namespace korven::document

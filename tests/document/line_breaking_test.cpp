@@ -1,0 +1,51 @@
+#include "document/line_breaking.hpp"
+
+#include <gtest/gtest.h>
+
+#include "base/code_page.hpp"
+
+namespace korven::document {
+namespace {
+
+using Righe = std::vector<std::string>;
+
+// Each character is 1 wide, whatever the font.
+class Uno : public MisuraCaratteri {
+ public:
+    [[nodiscard]] double larghezza(std::string_view testo, const Carattere&) const override {
+        return static_cast<double>(base::numeroCaratteri(testo));
+    }
+};
+const Uno uno;
+
+TEST(InRighe, BreaksAtBlanksAndAtLineFeeds) {
+    EXPECT_EQ(inRighe("uno due tre", 7, {}, uno), (Righe{"uno due", "tre"}));
+    EXPECT_EQ(inRighe("uno  due\n\ntre ", 20, {}, uno), (Righe{"uno due", "", "tre"}));
+    EXPECT_EQ(inRighe("", 20, {}, uno), (Righe{""}));
+    EXPECT_EQ(inRighe("però così", 4, {}, uno), (Righe{"però", "così"}));
+}
+
+TEST(InRighe, BreaksAWordThatNoLineHoldsBehindASignOrAnywhere) {
+    EXPECT_EQ(inRighe("il a/bcd/efghi", 6, {}, uno), (Righe{"il", "a/bcd/", "efghi"}));
+    EXPECT_EQ(inRighe("abcdefgh i", 3, {}, uno), (Righe{"abc", "def", "gh", "i"}));
+    EXPECT_EQ(inRighe("ééé", 0.5, {}, uno), (Righe{"é", "é", "é"})) << "no character is parted";
+}
+
+TEST(InRigheFisse, KeepsBlanksAndSetsInWhatGoesOn) {
+    EXPECT_EQ(inRigheFisse("  a  b\r\n\n1.5", 10, {}, uno), (Righe{"  a  b", "", "1.5"}));
+    EXPECT_EQ(inRigheFisse("0123456789abcdefgh", 10, {}, uno),
+              (Righe{"0123456789", "    abcdef", "    gh"}));
+}
+
+TEST(Accorciato, EndsWithDotsWhatDoesNotFit) {
+    EXPECT_EQ(accorciato("muro.kvd", 8, {}, uno), "muro.kvd");
+    EXPECT_EQ(accorciato("perché no", 7, {}, uno), "perché…");
+}
+
+TEST(ParolaPiuLarga, IsTheWidestOfAllLines) {
+    EXPECT_EQ(parolaPiuLarga("uno quattro\ncinque", {}, uno), 7);
+    EXPECT_EQ(parolaPiuLarga("", {}, uno), 0);
+}
+
+}  // namespace
+}  // namespace korven::document
