@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "analysis/pressure_coefficients.hpp"
 #include "project/codes.hpp"
@@ -103,10 +104,14 @@ class Tiranti {
         const double stretto = 15 * q_.em;
         const std::string tutto =
             nome + (0.66 * q_.xMonte > stretto ? dove : std::string()) + forza;
+        std::vector<std::string> inBreve;
+        for (const std::string& meno : {nome + forza, nome})
+            if (meno != tutto) inBreve.push_back(meno);
         tela_.scrivi({.grado = Grado::tirante,
                       .elemento = Elemento::tirante,
                       .numero = j,
                       .testo = tutto,
+                      .inBreve = std::move(inBreve),
                       .tinta = tinta,
                       .corpo = 0.92 * q_.em,
                       .grassetto = inOpera,

@@ -71,6 +71,7 @@ void disegnaFasi(const Mostrata& m, const Inquadratura& q, Tela& tela) {
                      .elemento = Elemento::fase,
                      .numero = primo,
                      .testo = base::traduttore("fase") + " " + nomi + "  " + quota(z),
+                     .inBreve = {nomi + "  " + quota(z)},
                      .tinta = {mostrato ? Ruolo::testo : Ruolo::fase},
                      .corpo = 0.9 * q.em,
                      .grassetto = mostrato,

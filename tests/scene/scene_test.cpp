@@ -289,6 +289,29 @@ TEST(Scena, FillsTheBandOfTheEnvelope) {
     EXPECT_TRUE(dice(testi(s, Elemento::nota), "inviluppo delle fasi da 1 a 2  ·  scavo 5.00 m"));
 }
 
+TEST(Scena, NamesTheAnchorWhereItsForceHasNoRoom) {
+    const auto parete = live::calcola(test::progettoSemplice(), 40);
+    const auto nomi = [&](Misura misura) {
+        return testi(scena(parete, {2}, misura, MisuraStimata()), Elemento::tirante, 1);
+    };
+    EXPECT_TRUE(nomi({900, 580}).at(0).starts_with("T1  1.50 m  "));
+    EXPECT_TRUE(nomi({480, 340}).at(0).starts_with("T1  "));
+    EXPECT_TRUE(nomi({480, 340}).at(0).ends_with(" kN/m"));
+    EXPECT_EQ(nomi({240, 160}).at(0), "T1");
+}
+
+// Of a strut the end lies where the whole label of a stage would begin.
+TEST(Scena, ShortensTheNameOfAStageThatWouldCoverAStrut) {
+    auto dati = test::progettoSemplice();
+    dati.tipoTirante[1] = valore(project::TipoTirante::trazioneCompressione);
+    dati.profFase[1] = dati.profTirante[1] + 0.3;
+    const Scena s = scena(live::calcola(dati, 40), {2}, {480, 340}, MisuraStimata());
+    EXPECT_TRUE(dice(testi(s, Elemento::fase, 1), "1  1.80 m"));
+    EXPECT_TRUE(dice(testi(scena(live::calcola(dati, 40), {2}, {1600, 1000}, MisuraStimata()),
+                           Elemento::fase, 1),
+                     "fase 1  1.80 m"));
+}
+
 TEST(Scena, CanDoWithoutTheCurve) {
     const Scena s = scena(live::calcola(test::progettoSemplice(), 40), {2}, {300, 300},
                           MisuraStimata(), {.curva = false, .parole = false});
