@@ -27,12 +27,13 @@ namespace {
 struct Scelta {
     live::Curva curva;
     std::string_view testo;
+    const char* icona;
 };
 // In the order of the keys 1 to 4.
-constexpr Scelta scelte[] = {{live::Curva::pressioni, "Pressioni"},
-                             {live::Curva::spostamento, "Spostamento"},
-                             {live::Curva::momento, "Momento"},
-                             {live::Curva::taglio, "Taglio"}};
+constexpr Scelta scelte[] = {{live::Curva::pressioni, "Pressioni", "pressures"},
+                             {live::Curva::spostamento, "Spostamento", "displacements"},
+                             {live::Curva::momento, "Momento", "moments"},
+                             {live::Curva::taglio, "Taglio", "shear"}};
 
 }  // namespace
 
@@ -92,11 +93,13 @@ QWidget* PannelloFigura::striscia() {
     riga->addWidget(fasi_, 1);
     riga->addWidget(fase_);
     curve_ = new QButtonGroup(this);
-    for (const auto& [curva, testo] : scelte) {
+    for (const auto& [curva, testo, figura] : scelte) {
         auto* pulsante = new QToolButton(striscia);
         const int tasto = static_cast<int>(curva) + 1;
         pulsante->setObjectName("curvaFigura" + QString::number(tasto));
         pulsante->setText(tradotto(testo));
+        pulsante->setIcon(icona(figura));
+        pulsante->setToolButtonStyle(Qt::ToolButtonTextOnly);
         pulsante->setToolTip(tradotto(testo) + " (" + QString::number(tasto) + ")");
         pulsante->setCheckable(true);
         pulsante->setFocusPolicy(Qt::TabFocus);
@@ -165,11 +168,19 @@ bool PannelloFigura::event(QEvent* evento) {
     return QWidget::event(evento);
 }
 
-// On a narrow form the texts of the curves come before that of saving, which has a picture too.
+// On a narrow form pictures stand for the texts: first that of saving, then those of the curves.
 void PannelloFigura::resizeEvent(QResizeEvent* evento) {
+    const auto stretta = [this] {
+        return striscia_->layout()->totalMinimumSize().width() > width();
+    };
+    const auto mostraCurve = [this](Qt::ToolButtonStyle come) {
+        for (QAbstractButton* pulsante : curve_->buttons())
+            static_cast<QToolButton*>(pulsante)->setToolButtonStyle(come);
+    };
     pulsanteSalva_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    if (striscia_->layout()->totalMinimumSize().width() > width())
-        pulsanteSalva_->setToolButtonStyle(Qt::ToolButtonIconOnly);
+    mostraCurve(Qt::ToolButtonTextOnly);
+    if (stretta()) pulsanteSalva_->setToolButtonStyle(Qt::ToolButtonIconOnly);
+    if (stretta()) mostraCurve(Qt::ToolButtonIconOnly);
     QWidget::resizeEvent(evento);
 }
 

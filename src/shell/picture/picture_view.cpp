@@ -59,12 +59,21 @@ VistaFigura::VistaFigura(const live::ProgettoVivo& vivo, QWidget* genitore)
 void VistaFigura::aggiorna() {
     if (!vivo_.aperto()) return;
     if (std::exchange(apertura_, vivo_.apertura()) != apertura_) leggi({});
-    // What is told beside the picture, as the margin, leaves it as it is: laying out tells, for a
-    // fraction of what painting costs.
-    if (immagineVecchia_ || disponi() != scena_) invalida();
+    ridisponi();
     setAccessibleDescription(qt(scene::descrizione(vivo_.parete(), vivo_.vista())) + '\n' +
                              tradotto("I valori stanno nelle tabelle di Risultati (Ctrl+R)"));
     rileggi();
+}
+
+// What is told beside the picture, as the margin, leaves it as it is: laying out tells, for a
+// fraction of what painting costs. One that waits for its painting is laid out there.
+void VistaFigura::ridisponi() {
+    if (immagineVecchia_) return invalida();
+    scene::Scena nuova = disponi();
+    if (nuova == scena_) return;
+    scena_ = std::move(nuova);
+    immagineVecchia_ = true;
+    update();
 }
 
 void VistaFigura::invalida() {

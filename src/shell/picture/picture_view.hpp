@@ -53,6 +53,7 @@ class VistaFigura : public QWidget {
  private:
     void leggi(std::optional<double> z);
     void rileggi();
+    void ridisponi();
     void invalida();
     [[nodiscard]] scene::Scena disponi() const;
     void prepara();

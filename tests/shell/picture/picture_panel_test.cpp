@@ -13,9 +13,11 @@
 #include <QTest>
 #include <QToolButton>
 
+#include "masks/editing.hpp"
 #include "project/project_data.hpp"
 #include "shell/picture/picture_view.hpp"
 #include "support/document_ports.hpp"
+#include "support/plain_masks.hpp"
 #include "support/sample_projects.hpp"
 
 namespace korven::shell {
@@ -66,10 +68,32 @@ TEST_F(PannelloFiguraTest, ShowsThePictureOfSavingAloneWhereItsTextHasNoRoom) {
     QCoreApplication::processEvents();
     EXPECT_EQ(salva.toolButtonStyle(), Qt::ToolButtonIconOnly);
     EXPECT_FALSE(salva.toolTip().isEmpty());
-    for (int tasto = 1; tasto <= 4; ++tasto)
+    for (int tasto = 1; tasto <= 4; ++tasto) {
+        EXPECT_EQ(curva(tasto).toolButtonStyle(), Qt::ToolButtonTextOnly);
         EXPECT_GE(curva(tasto).width(), curva(tasto).sizeHint().width());
+    }
     pannello.resize(900, 620);
     EXPECT_EQ(salva.toolButtonStyle(), Qt::ToolButtonTextBesideIcon);
+}
+
+TEST_F(PannelloFiguraTest, ShowsThePicturesOfTheCurvesWhereTheirTextsHaveNoRoomEither) {
+    pannello.layout()->setSizeConstraint(QLayout::SetNoConstraint);
+    pannello.setMinimumSize(0, 0);
+    pannello.resize(480, 340);  // the smallest main form
+    QCoreApplication::processEvents();
+    const auto& salva = *pannello.findChild<QToolButton*>("pulsanteSalvaFigura");
+    QRect prima;
+    for (int tasto = 1; tasto <= 4; ++tasto) {
+        const QToolButton& una = curva(tasto);
+        EXPECT_EQ(una.toolButtonStyle(), Qt::ToolButtonIconOnly);
+        EXPECT_FALSE(una.icon().isNull());
+        EXPECT_GE(una.width(), una.sizeHint().width());
+        EXPECT_FALSE(una.geometry().intersects(prima));
+        EXPECT_TRUE(una.toolTip().startsWith(una.text()));
+        prima = una.geometry();
+    }
+    EXPECT_FALSE(salva.geometry().intersects(prima));
+    EXPECT_LE(salva.geometry().right(), salva.parentWidget()->width());
 }
 
 // The main form has the key for the contents of the help.
@@ -186,14 +210,16 @@ TEST_F(PannelloFiguraTest, FollowsTheProject) {
     EXPECT_EQ(fasi().maximum(), 1);
 }
 
+struct Conta : QObject {
+    bool eventFilter(QObject*, QEvent* evento) override {
+        pitture += evento->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+    int pitture = 0;
+};
+
 TEST_F(PannelloFiguraTest, KeepsAPictureThatWouldBeTheSameAgain) {
-    struct Conta : QObject {
-        bool eventFilter(QObject*, QEvent* evento) override {
-            pitture += evento->type() == QEvent::Paint ? 1 : 0;
-            return false;
-        }
-        int pitture = 0;
-    } conta;
+    Conta conta;
     vista().installEventFilter(&conta);
     emit vita.cambiata();  // as when a margin arrives
     QCoreApplication::processEvents();
@@ -202,6 +228,33 @@ TEST_F(PannelloFiguraTest, KeepsAPictureThatWouldBeTheSameAgain) {
     vita.guarda();
     QCoreApplication::processEvents();
     EXPECT_EQ(conta.pitture, 1);
+}
+
+// As the form of the stages tells of each key: nothing flickers.
+TEST_F(PannelloFiguraTest, IsPaintedOnceByEachKeyInAFormAndByNoneThatChangesNothing) {
+    masks::Maschere maschere;
+    maschere.leggiMaschere(test::maschereSemplici(ambiente.lavori));
+    masks::preparaMaschera(maschere, masks::NumeroMaschera::fasi, project::Progetto, 0);
+    live::ValoriForma valori{masks::NumeroMaschera::fasi, {}, maschere.valoriTesto()};
+    Conta conta;
+    vista().installEventFilter(&conta);
+    const auto digita = [&](const char* scavo) {
+        valori.testi[5] = scavo;  // of stage 2
+        const int prima = conta.pitture;
+        vita.digita(maschere.corrente(), valori);
+        QCoreApplication::processEvents();
+        QCoreApplication::processEvents();  // what the first left
+        return conta.pitture - prima;
+    };
+    const scene::Scena prima = vista().scena();
+    EXPECT_EQ(digita("4.5"), 1);
+    EXPECT_EQ(vita.vivo().impedimento(), "");
+    EXPECT_NE(vista().scena(), prima);
+    EXPECT_EQ(digita("4.5"), 0);
+    EXPECT_EQ(digita("4.50"), 0);
+    EXPECT_EQ(digita("4"), 1);
+    EXPECT_EQ(digita("x"), 1);  // what is in the way is told
+    EXPECT_EQ(digita("x"), 0);
 }
 
 TEST_F(PannelloFiguraTest, PaintsAnewWhenTheDesktopTurnsDark) {
