@@ -76,13 +76,16 @@ void Programma::produci(void (*uscita)(const PorteUscita&)) {
                 custodisci();
             }});
     inUscita_ = inCorsa_ = false;
-    std::string detto = corsa.arresto();
-    if (detto.empty()) detto = safety::causaCorsa(corsa.comeFinita(), project::Progetto).frase;
-    if (!detto.empty())
-        finestra_.stato(detto);
+    const std::string arresto = corsa.arresto();
+    const auto causa = safety::causaCorsa(corsa.comeFinita(), project::Progetto);
+    const bool dice = !arresto.empty() || !causa.frase.empty();
+    if (!arresto.empty())
+        finestra_.stato(arresto);
+    else if (dice)
+        finestra_.statoInBreve(causa.breve, causa.frase);
     else if (diceArresto_ || diceStoria_)
         documento_.mostraStato();
-    diceArresto_ = !detto.empty();
+    diceArresto_ = dice;
     diceStoria_ = false;
 }
 

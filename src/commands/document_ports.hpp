@@ -32,6 +32,8 @@ class FinestraPrincipale {
     virtual void titolo(const std::string& testo) = 0;
     /// The status line.
     virtual void stato(const std::string& testo) = 0;
+    /// The status line in few words, which have room there; the whole is told to who asks for it.
+    virtual void statoInBreve(const std::string& breve, const std::string& intero) = 0;
 };
 
 }  // namespace korven::commands

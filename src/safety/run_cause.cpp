@@ -14,16 +14,16 @@ CausaCorsa causaCorsa(const analysis::FineCorsa& fine, const project::DatiProget
         case ModoFine::compiuta:
             break;
         case ModoFine::rifiutata:
-            return {Causa::rifiutato, {}};
+            return {Causa::rifiutato, {}, {}};
         case ModoFine::fermata:
-            return {Causa::fermato, {}};
+            return {Causa::fermato, {}, {}};
         case ModoFine::nonMostrabile:
-            return {Causa::nessunNumero, {}};
+            return {Causa::nessunNumero, {}, {}};
         case ModoFine::singolare:
         case ModoFine::oltreLimite: {
             Diagnosi d = diagnosi(dati, nSeg, fine.fase);
             d.ostacolo = ostacolo(fine);
-            return {d.causa, frase(d)};
+            return {d.causa, frase(d), inPocheParole(d)};
         }
     }
     return {};
@@ -31,7 +31,7 @@ CausaCorsa causaCorsa(const analysis::FineCorsa& fine, const project::DatiProget
 
 CausaCorsa causaCorsa(const analysis::FineCorsa& fine, const project::DatiProgetto& dati) {
     const auto nSeg = analysis::leggiNSeg(analysis::vincoli(dati).incastroPiede);
-    return nSeg ? causaCorsa(fine, dati, *nSeg) : CausaCorsa{Causa::rifiutato, {}};
+    return nSeg ? causaCorsa(fine, dati, *nSeg) : CausaCorsa{Causa::rifiutato, {}, {}};
 }
 
 }  // namespace korven::safety

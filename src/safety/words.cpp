@@ -4,6 +4,7 @@
 #include <utility>
 #include <vector>
 
+#include "base/filled_text.hpp"
 #include "base/translated_texts.hpp"
 #include "project/shown_number.hpp"
 
@@ -110,6 +111,19 @@ std::string_view chiave(Ostacolo ostacolo) {
             return "l'iterazione si è fermata al suo limite prima di arrivarvi";
     }
     return "oscilla soltanto l'iterazione";
+}
+
+// The same of a stage that stands, in few words.
+std::string_view chiaveBreve(Ostacolo ostacolo) {
+    switch (ostacolo) {
+        case Ostacolo::oscillazione:
+            break;
+        case Ostacolo::singolare:
+            return "fase %1 in equilibrio, ma l'iterazione trova un sistema singolare";
+        case Ostacolo::limite:
+            return "fase %1 in equilibrio, ma l'iterazione è al suo limite";
+    }
+    return "fase %1 in equilibrio, ma l'iterazione oscilla";
 }
 
 // A caption of the menu without the mark of its access key.
@@ -239,6 +253,25 @@ std::string inBreve(const Diagnosi& d) {
             return nella("l'equilibrio non è definito nella fase", d) + ": " + parole(d.instabile);
         case Causa::nessunNumero:
             return nella("nessun numero nella fase", d) + ": " + parole(d.newton);
+        case Causa::eseguito:
+        case Causa::rifiutato:
+        case Causa::fermato:
+            break;
+    }
+    return {};
+}
+
+std::string inPocheParole(const Diagnosi& d) {
+    switch (d.causa) {
+        case Causa::meccanismo:
+            return nella("la paratia è un meccanismo nella fase", d) +
+                   (d.moto ? ": " + mancante(*d.moto) : "");
+        case Causa::oscilla:
+            return base::riempito(traduttore(chiaveBreve(d.ostacolo)), {std::to_string(d.fase)});
+        case Causa::nonDefinito:
+            return nella("l'equilibrio non è definito nella fase", d);
+        case Causa::nessunNumero:
+            return nella("nessun numero nella fase", d);
         case Causa::eseguito:
         case Causa::rifiutato:
         case Causa::fermato:

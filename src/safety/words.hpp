@@ -53,6 +53,9 @@ extern LuogoEquilibrio luogoEquilibrio;
 /// moves; or what makes it no equilibrium or no number.
 [[nodiscard]] std::string inBreve(const Diagnosi& diagnosi);
 
+/// The stage and what is wrong with it, in words that have room in a status line.
+[[nodiscard]] std::string inPocheParole(const Diagnosi& diagnosi);
+
 /// The whole form, one line: the short one, the parts at their limits, what helps.
 [[nodiscard]] std::string frase(const Diagnosi& diagnosi);
 

@@ -146,6 +146,7 @@ TEST_F(ProgrammaTest, TellsInTheStatusLineWhatAWallWithoutASolutionDoes) {
     EXPECT_EQ(dialogo.messaggi[0].testo, analysis::messaggioSingolare);
     EXPECT_TRUE(finestra.ultimoStato.starts_with("la paratia è un meccanismo nella fase 2: "))
         << finestra.ultimoStato;
+    EXPECT_LT(finestra.ultimoStato.size(), finestra.perEsteso.size());
 
     project::Progetto.profFase[2] = 3;
     p.esegui(voceMenu("StampaVideo"));

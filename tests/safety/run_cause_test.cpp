@@ -27,6 +27,7 @@ TEST(CausaCorsa, NeedsNoEquilibriumForARunThatEndedRefusedOrAtItsUsersWish) {
         const CausaCorsa c = causaCorsa({modo, 1}, muro("meccanismo"), 50);
         EXPECT_EQ(c.causa, attesa);
         EXPECT_EQ(c.frase, "");
+        EXPECT_EQ(c.breve, "");
     }
 }
 
@@ -50,6 +51,7 @@ TEST(CausaCorsa, SaysWhatKeepsTheRunFromAStageThatStands) {
         EXPECT_EQ(sta.causa, Causa::oscilla);
         attesa.ostacolo = ostacolo;
         EXPECT_EQ(sta.frase, frase(attesa));
+        EXPECT_EQ(sta.breve, inPocheParole(attesa));
     }
 }
 

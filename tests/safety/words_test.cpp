@@ -140,6 +140,23 @@ TEST(Frase, TellsOfAWallThatStandsThatOnlyTheIterationFlips) {
         "12.3 mm: l'iterazione si è fermata al suo limite prima di arrivarvi"));
 }
 
+TEST(InPocheParole, NamesTheStageAndWhatIsWrong) {
+    EXPECT_EQ(inPocheParole(muroCheCade()),
+              "la paratia è un meccanismo nella fase 3: mancano 35.1 kN m/m");
+    Diagnosi d{.causa = Causa::oscilla, .fase = 2, .paratia = 10, .spostamento = 0.0123};
+    EXPECT_EQ(inPocheParole(d), "fase 2 in equilibrio, ma l'iterazione oscilla");
+    d.ostacolo = Ostacolo::singolare;
+    EXPECT_EQ(inPocheParole(d), "fase 2 in equilibrio, ma l'iterazione trova un sistema singolare");
+    d.ostacolo = Ostacolo::limite;
+    EXPECT_EQ(inPocheParole(d), "fase 2 in equilibrio, ma l'iterazione è al suo limite");
+    d = {.causa = Causa::nonDefinito, .fase = 1, .paratia = 10};
+    EXPECT_EQ(inPocheParole(d), "l'equilibrio non è definito nella fase 1");
+    d.causa = Causa::nessunNumero;
+    EXPECT_EQ(inPocheParole(d), "nessun numero nella fase 1");
+    d.causa = Causa::eseguito;
+    EXPECT_EQ(inPocheParole(d), "");
+}
+
 TEST(Frase, TellsWhyThereIsNoEquilibriumOrNoNumber) {
     Diagnosi d{.causa = Causa::nonDefinito, .fase = 1, .paratia = 10};
     d.instabile = {.che = Instabile::tirante, .tirante = 1, .valore = -1};

@@ -20,6 +20,7 @@
 #include "commands/start/example_folders.hpp"
 #include "help/pages.hpp"
 #include "review/remark_counts.hpp"
+#include "safety/words.hpp"
 #include "shell/dialogo_qt.hpp"
 #include "shell/forms/elided_label.hpp"
 #include "shell/forms/help_strip.hpp"
@@ -162,6 +163,31 @@ void controllaSulProgetto(Menu1& menu1) {
     controlla(sicurezza);
 }
 
+// The line at the foot of the main form has room for what a run that found no rest leaves there,
+// beside the sign of unsaved changes. Of letters twice as large the tool tip has the rest.
+void controllaStato(Menu1& menu1) {
+    menu1.findChild<QLabel*>("modifiche")->show();
+    menu1.show();
+    QCoreApplication::processEvents();
+    auto& stato = *menu1.findChild<EtichettaAccorciata*>("stato");
+    const safety::Diagnosi cade{
+        .causa = safety::Causa::meccanismo, .fase = 20, .moto = {{false, 4.2, 1, 123.45}}};
+    std::vector<safety::Diagnosi> diagnosi{cade};
+    for (const auto ostacolo :
+         {safety::Ostacolo::oscillazione, safety::Ostacolo::singolare, safety::Ostacolo::limite})
+        diagnosi.push_back({.causa = safety::Causa::oscilla, .fase = 20, .ostacolo = ostacolo});
+    for (const auto causa : {safety::Causa::nonDefinito, safety::Causa::nessunNumero})
+        diagnosi.push_back({.causa = causa, .fase = 20});
+    for (const safety::Diagnosi& d : diagnosi) {
+        menu1.statoInBreve(safety::inPocheParole(d), safety::frase(d));
+        EXPECT_EQ(stato.toolTip().toStdString(), safety::frase(d));
+        if (stato.screen()->logicalDotsPerInch() > 96) continue;
+        EXPECT_LE(stato.fontMetrics().horizontalAdvance(stato.text()), stato.contentsRect().width())
+            << stato.text().toStdString();
+    }
+    menu1.hide();
+}
+
 void controllaTutte(test::ProgrammaConsegnato& programma) {
     test::DialogoFinto dialogo;
     programma.perOgniMaschera(dialogo, controlla);
@@ -176,6 +202,7 @@ void controllaTutte(test::ProgrammaConsegnato& programma) {
                                             ConfStampa::DialogoStampante{}, dialogo, nullptr));
     Menu1 menu1;
     controlla(menu1);
+    controllaStato(menu1);
     FinestraOsservazioni osservazioni(menu1, test::azioniOsservazioni());
     osservazioni.mostra(test::osservazioniMiste(), review::conteggio(test::osservazioniMiste()));
     controlla(osservazioni);

@@ -57,7 +57,12 @@ class FinestraFinta : public commands::FinestraPrincipale {
  public:
     void titolo(const std::string& testo) override { ultimoTitolo = testo; }
     void stato(const std::string& testo) override { ultimoStato = testo; }
+    void statoInBreve(const std::string& breve, const std::string& intero) override {
+        ultimoStato = breve;
+        perEsteso = intero;
+    }
     std::string ultimoTitolo, ultimoStato;
+    std::string perEsteso;  ///< of the last status in few words
 };
 
 /// A program folder and a folder of projects of their own, and the state of a program that has just

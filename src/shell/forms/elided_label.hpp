@@ -16,10 +16,12 @@ class EtichettaAccorciata : public QLabel {
         setTextFormat(Qt::PlainText);
         setContentsMargins(8, 0, 8, 0);
     }
-    void mostra(const QString& testo) {
+    void mostra(const QString& testo) { mostra(testo, testo); }
+    /// @param intero  what the tool tip and screen readers tell instead
+    void mostra(const QString& testo, const QString& intero) {
         setText(testo);
-        setToolTip(testo);
-        setAccessibleName(testo);
+        setToolTip(intero);
+        setAccessibleName(intero);
     }
 
  protected:

@@ -212,6 +212,9 @@ void Menu1::osservazioni(const std::string& conteggio, bool gravi) {
 
 void Menu1::titolo(const std::string& testo) { setWindowTitle(qt(testo)); }
 void Menu1::stato(const std::string& testo) { stato_->mostra(qt(testo)); }
+void Menu1::statoInBreve(const std::string& breve, const std::string& intero) {
+    stato_->mostra(qt(breve), qt(intero));
+}
 
 void Menu1::closeEvent(QCloseEvent* evento) {
     if (!salutata_ && programma_ != nullptr && !programma_->esegui(commands::voceMenu("fine"))) {

@@ -58,6 +58,7 @@ class Menu1 : public QMainWindow, public commands::FinestraPrincipale {
 
     void titolo(const std::string& testo) override;
     void stato(const std::string& testo) override;
+    void statoInBreve(const std::string& breve, const std::string& intero) override;
 
  signals:
     /// The project may be another one than before.
