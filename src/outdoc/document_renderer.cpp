@@ -183,21 +183,32 @@ std::string DocumentRenderer::footerLines(std::string_view text) const {
     return paragraph(line);
 }
 
+// `name` is that of the mark-up in errors.
+static Converted write(const std::string& path, base::LettoreRighe& markup, const std::string& name,
+                       const base::Disco& disk) {
+    DocumentRenderer renderer;
+    markup::renderMarkup(markup, markup::RendererKind::print, renderer);
+    const auto bytes = renderer.bytes();
+    if (!bytes)
+        throw base::ErroreFile(name, 0,
+                               base::traduttore("la relazione non apre nessun documento (#RESET)"));
+    std::string kept = keepEarlierDocument(path, disk);
+    base::scriviFile(path, *bytes, disk);
+    return {path, std::move(kept)};
+}
+
+Converted writeDocument(const std::string& path, std::string_view markup, const base::Disco& disk) {
+    base::LettoreRighe lines(path, base::inCp1252(markup));
+    return write(path, lines, path, disk);
+}
+
 Converted convertReport(const std::string& markup, const base::Disco& disk) {
     const std::string path = base::nomeDocumento(markup);
     auto file = base::LettoreRighe::apri(markup);
     if (base::stessoFile(path, markup))
         throw base::ErroreFile(
             path, 0, base::traduttore("la scrittura prenderebbe il posto di un file letto"));
-    DocumentRenderer renderer;
-    markup::renderMarkup(file, markup::RendererKind::print, renderer);
-    const auto bytes = renderer.bytes();
-    if (!bytes)
-        throw base::ErroreFile(markup, 0,
-                               base::traduttore("la relazione non apre nessun documento (#RESET)"));
-    std::string kept = keepEarlierDocument(path, disk);
-    base::scriviFile(path, *bytes, disk);
-    return {path, std::move(kept)};
+    return write(path, file, markup, disk);
 }
 
 }  // namespace korven::outdoc

@@ -68,10 +68,17 @@ struct Converted {
     std::string kept;      ///< where the earlier one is now; empty if nothing had to be kept
 };
 
-/// Converts a mark-up file into a word-processor file beside it, replacing one of that name. What
-/// this program did not write, or somebody changed since, is kept first (earlier_document.hpp).
-/// @throws base::ErroreFile if one can't be read or the other not be written, if a table is beyond
-/// its capacity, if the mark-up opens no document, or if the file would take its place
+/// Writes mark-up (UTF-8, lines ended by CR LF) as a word-processor file, replacing one of that
+/// name. What this program did not write, or somebody changed since, is kept first
+/// (earlier_document.hpp).
+/// @throws base::ErroreFile if the file can't be written, if a table is beyond its capacity, or if
+/// the mark-up opens no document
+Converted writeDocument(const std::string& path, std::string_view markup,
+                        const base::Disco& disk = base::discoDiSistema());
+
+/// Converts a mark-up file into a word-processor file beside it, as `writeDocument`.
+/// @throws base::ErroreFile as there, if the mark-up can't be read, or if the file would take its
+/// place
 Converted convertReport(const std::string& markup,
                         const base::Disco& disk = base::discoDiSistema());
 
