@@ -114,7 +114,7 @@ class LettoreAgs {
         if (suo.riga > 0) {
             suo.avvertenze.push_back(inRiga(
                 riga.riga, 0,
-                frase("il foro c'è già alla riga %1, che vale", {std::to_string(suo.riga)})));
+                frase("il foro è già alla riga %1: vale quella", {std::to_string(suo.riga)})));
             if (quota != suo.quota)
                 suo.difetti.push_back(inRiga(riga.riga, gruppo_.colonna(quotaForo),
                                              frase("il foro ha due quote del terreno, %1 e %2",

@@ -51,9 +51,10 @@ void togliDoppi(std::vector<Tratto>& tratti, StratiLetti& letti) {
             soli.push_back(t);
             continue;
         }
-        letti.avvertenze.push_back(inRiga(t.letto->riga, 0,
-                                          frase("lo strato c'è già alla riga %1 e vale una volta",
-                                                {std::to_string(soli.back().letto->riga)})));
+        letti.avvertenze.push_back(
+            inRiga(t.letto->riga, 0,
+                   frase("lo strato è già alla riga %1: conta una volta sola",
+                         {std::to_string(soli.back().letto->riga)})));
     }
     tratti = std::move(soli);
 }

@@ -114,10 +114,11 @@ class LettoreStrati {
         if (primo) return;
         primo = riga.riga;
         if (primaVirgola_ && primoPunto_)
-            difetto(riga, cella,
-                    frase("qui il segno decimale è un altro che nella riga %1: usarne uno solo, e "
-                          "nessun segno per le migliaia",
-                          {std::to_string(virgola ? *primoPunto_ : *primaVirgola_)}));
+            difetto(
+                riga, cella,
+                frase("qui il segno decimale è diverso da quello della riga %1: usarne uno solo, e "
+                      "nessun segno per le migliaia",
+                      {std::to_string(virgola ? *primoPunto_ : *primaVirgola_)}));
     }
 
     std::string sommata(const RigaLetta& riga) {

@@ -88,7 +88,7 @@ TEST(LeggiAgs, WarnsOfAHoleWithoutItsRowInLoca) {
 TEST(LeggiAgs, TellsAHoleThatStandsTwiceInLoca) {
     const auto uguale = leggiAgs(gruppoLoca({{"BH1", "10"}, {"BH1", "10"}}) +
                                  gruppoGeol({{"BH1", "0", "1", "Sand"}}));
-    EXPECT_EQ(uguale.fori[0].avvertenze, Frasi{"riga 6: il foro c'è già alla riga 5, che vale"});
+    EXPECT_EQ(uguale.fori[0].avvertenze, Frasi{"riga 6: il foro è già alla riga 5: vale quella"});
     EXPECT_EQ(uguale.fori[0].difetti, Frasi{});
     const auto diversa = leggiAgs(gruppoLoca({{"BH1", "10"}, {"BH1", "11"}}) +
                                   gruppoGeol({{"BH1", "0", "1", "Sand"}}));

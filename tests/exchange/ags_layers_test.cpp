@@ -94,7 +94,8 @@ TEST(StratiForo, AreTakenOnceWhereTheyStandTwice) {
     doppi.tratti.push_back({14, "3.40", "10.00", "Sand"});
     const auto letti = stratiForo(doppi, {});
     EXPECT_EQ(righe(letti), righe(stratiForo(tre, {})));
-    EXPECT_EQ(letti.avvertenze, Frasi{"riga 14: lo strato c'è già alla riga 13 e vale una volta"});
+    EXPECT_EQ(letti.avvertenze,
+              Frasi{"riga 14: lo strato è già alla riga 13: conta una volta sola"});
 }
 
 TEST(StratiForo, KeepTheBoundariesOfAGap) {

@@ -165,9 +165,10 @@ TEST(LeggiCsv, RefusesCommasThatPartBothCellsAndDecimals) {
 
 // 10.000 may be ten thousand where 18,5 stands beside it.
 TEST(LeggiCsv, RefusesTwoDecimalSignsInOneFile) {
-    EXPECT_EQ(difetto("3;18,5;20;30;0;10.000"),
-              "riga 1, colonna 6: qui il segno decimale è un altro che nella riga 1: usarne uno "
-              "solo, e nessun segno per le migliaia");
+    EXPECT_EQ(
+        difetto("3;18,5;20;30;0;10.000"),
+        "riga 1, colonna 6: qui il segno decimale è diverso da quello della riga 1: usarne uno "
+        "solo, e nessun segno per le migliaia");
 }
 
 TEST(LeggiCsv, RefusesMoreLayersThanAProjectHolds) {

@@ -34,9 +34,8 @@ TabellaTiri::TabellaTiri(QWidget* genitore) : QTreeWidget(genitore) {
     setColumnCount(numeroColonne);
     setHeaderLabels({tradotto("Fase"), tradotto("Scavo [m]"), tradotto("Tiro [kN/m]"),
                      tradotto("Per elemento [kN]"), tradotto("Nota")});
-    headerItem()->setToolTip(
-        diUno,
-        tradotto("Tiro per interasse, diviso il coseno dell'inclinazione: quelli del calcolo"));
+    headerItem()->setToolTip(diUno, tradotto("Tiro per l'interasse, diviso per il coseno "
+                                             "dell'inclinazione: con i valori del calcolo"));
     header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     header()->setStretchLastSection(true);
     for (int c = fase; c < nota; ++c) headerItem()->setTextAlignment(c, Qt::AlignRight);
