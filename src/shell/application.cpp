@@ -3,10 +3,14 @@
 #include <utility>
 
 #include "shell/accessible_roles.hpp"
+#include "shell/visible_controls.hpp"
 
 namespace korven::shell {
 
-Applicazione::Applicazione(int& argc, char** argv) : QApplication(argc, argv) { insegnaRuoli(); }
+Applicazione::Applicazione(int& argc, char** argv) : QApplication(argc, argv) {
+    insegnaRuoli();
+    StileVisibile::metti();
+}
 
 bool Applicazione::notify(QObject* destinatario, QEvent* evento) {
     try {

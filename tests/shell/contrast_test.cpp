@@ -3,8 +3,11 @@
 
 #include <gtest/gtest.h>
 
+#include <QCheckBox>
 #include <QListWidget>
 #include <QPainter>
+#include <QRadioButton>
+#include <QSlider>
 #include <QStandardItemModel>
 #include <QToolButton>
 
@@ -15,6 +18,7 @@
 #include "shell/remarks/remark_delegate.hpp"
 #include "shell/tables/bar_delegate.hpp"
 #include "shell/tables/table_model.hpp"
+#include "shell/visible_controls.hpp"
 #include "support/form_setup.hpp"
 
 namespace korven::shell {
@@ -103,6 +107,33 @@ TEST_P(Risalto, OfTheWordsOfTheHelpStrip) {
     striscia.resize(300, 60);
     const QImage immagine = striscia.grab().toImage();
     EXPECT_GE(risalto(immagine, {8, 8, 284, 44}, {290, 50}), 4.5);
+}
+
+// Choices that are not made, the ticks of the stages, the button of the curve that is shown: on
+// light desktops they are those of the toolkit.
+TEST_P(Risalto, OfTheControlsOfADarkDesktop) {
+    if (!GetParam()) return;
+    StileVisibile stile;
+    QRadioButton scelta;
+    QCheckBox spunta;
+    QSlider cursore(Qt::Horizontal);
+    cursore.setRange(0, 2);
+    cursore.setTickPosition(QSlider::TicksBelow);
+    for (QWidget* controllo : std::initializer_list<QWidget*>{&scelta, &spunta, &cursore}) {
+        controllo->setStyle(&stile);
+        controllo->resize(120, 24);
+        const QImage immagine = controllo->grab().toImage();
+        const QRect dove = controllo == &cursore ? QRect(55, 19, 10, 5) : immagine.rect();
+        EXPECT_GE(risalto(immagine, dove, {119, 0}), 4.5) << controllo->metaObject()->className();
+    }
+    QToolButton curva;
+    curva.setStyle(&stile);
+    curva.setCheckable(true);
+    curva.resize(60, 24);
+    const QImage prima = curva.grab().toImage();
+    curva.setChecked(true);
+    EXPECT_GE(risalto(curva.grab().toImage(), {0, 10, 4, 4}, {30, 12}), 4.5);
+    EXPECT_LT(risalto(prima, {0, 10, 4, 4}, {30, 12}), 4.5);
 }
 
 // The first window that anybody sees: which language Enter would take.
