@@ -9,9 +9,9 @@ namespace {
 constexpr std::string_view spazioUnito = "\u00a0";
 
 // The longer ones before those that begin like them.
-constexpr std::string_view unita[] = {"kN m/m", "kN m²", "kN m", "kN/m/m", "kN/m²", "kN/m³", "kN/m",
-                                      "kN",     "N/mm²", "t/m³", "t/m²",   "mm²",   "mm",    "cm",
-                                      "m²",     "m",     "t",    "°",      "%"};
+constexpr std::string_view unita[] = {
+    "kN m/m", "kN m²/m", "kN m²", "kN m", "kN/m/m", "kN/m²", "kN/m³", "kN/m", "kN", "N/mm²",
+    "t/m³",   "t/m²",    "mm²",   "mm",   "cm",     "m²",    "m",     "t",    "°",  "%"};
 
 bool cifra(char c) { return c >= '0' && c <= '9'; }
 

@@ -16,6 +16,7 @@ TEST(UnitaUnite, BindsANumberToItsUnitAndThePartsOfAUnitToEachOther) {
     EXPECT_EQ(unite("mancano 35.1 kN m/m; al limite: 0-10 m"),
               "mancano 35.1_kN_m/m; al limite: 0-10_m");
     EXPECT_EQ(unite("EJ 120000 kN m²"), "EJ 120000_kN_m²");
+    EXPECT_EQ(unite("EJ 12340 kN m²/m, diversa"), "EJ 12340_kN_m²/m, diversa");
     EXPECT_EQ(unite("usata: 80.1 %, (15.00 > 12.50 kN/m²)"),
               "usata: 80.1_%, (15.00 > 12.50_kN/m²)");
     EXPECT_EQ(unite("12.3 mm"), "12.3_mm");

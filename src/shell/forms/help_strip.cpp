@@ -9,6 +9,7 @@
 
 #include "base/number_reading.hpp"
 #include "shell/qt_text.hpp"
+#include "shell/wrapped_text.hpp"
 
 namespace korven::shell {
 
@@ -19,7 +20,7 @@ constexpr int larghezzaMinima = 240;
 constexpr int larghezzaComoda = 480;
 
 QString conNota(const QString& nota, const QString& testo) {
-    return nota.isEmpty() ? testo : nota + QLatin1Char('\n') + testo;
+    return inRighe(nota.isEmpty() ? testo : nota + QLatin1Char('\n') + testo);
 }
 
 }  // namespace

@@ -17,6 +17,7 @@
 #include "shell/form_sizes.hpp"
 #include "shell/qt_text.hpp"
 #include "shell/section/section_sketch_view.hpp"
+#include "shell/wrapped_text.hpp"
 
 namespace korven::shell {
 
@@ -138,7 +139,7 @@ void ScegliProfilo::annota() {
     } else if (mostrati_.empty()) {
         testo = tradotto("Nessun profilo. I propri si registrano con «Aggiungi al catalogo».");
     }
-    nota_->setText(testo);
+    nota_->setText(inRighe(testo));
     nota_->setVisible(!testo.isEmpty());
 }
 

@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 
+#include "base/bound_units.hpp"
 #include "project/project_data.hpp"
 #include "shell/section/definej_fields.hpp"
 #include "shell/section/section_sketch_view.hpp"
@@ -224,7 +225,7 @@ TEST_F(FormaSezione, TellsInItsStripWhatTheFieldMeans) {
         if (riquadro < 4) premi(opzioniSezione[riquadro]);
         auto& campo = trova<QLineEdit>(campiForma[i].controllo);
         campo.setFocus();
-        EXPECT_EQ(aiuto().toStdString(), campiForma[i].aiuto);
+        EXPECT_EQ(aiuto().toStdString(), base::unitaUnite(campiForma[i].aiuto));
         if (riquadro < 4) {
             auto* schizzo = trova(riquadriSezione[riquadro]).findChild<VistaSchizzo*>();
             EXPECT_EQ(schizzo->evidenziato(), i);
