@@ -28,7 +28,6 @@ void CorsaAffiancata::fine(const analysis::FaseCalcolata& fase) {
     if (const auto* equilibrio = parete_.fase(fase.fase)) {
         f.scartoSpostamento = scarto(fase.risultati.yNodo, equilibrio->y);
         f.scartoMomento = scarto(fase.risultati.momentoNodo, equilibrio->momento);
-        f.scartoTaglio = scarto(fase.risultati.taglioNodo, equilibrio->taglio);
     }
     altro_.fine(fase);
 }

@@ -16,7 +16,6 @@ struct CorsaFase {
     /// Largest differences in size between the two along the wall; nothing where one has none.
     std::optional<double> scartoSpostamento;  ///< [m]
     std::optional<double> scartoMomento;      ///< [t m]
-    std::optional<double> scartoTaglio;       ///< [t]
 };
 
 /// Follows a specified run beside a wall that is known.
