@@ -34,6 +34,7 @@ EsitoCalcolo leggiEsito() {
     for (int k = 1; k <= memoria.nFasi; ++k)
         esito.fasi.push_back(
             estremi(k, memoria, dati.nNodi, dati.fasi[static_cast<std::size_t>(k - 1)]));
+    esito.nodi = nodiFasi(dati);
     esito.chiusura = dati.chiusura;
     for (int j = 1; j <= analysis::tirantiInOpera(memoria, memoria.nFasi); ++j)
         esito.tiranti.push_back({j, memoria.profTirante[j], dati.tiroTirante[j]});

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "analysis/result_file.hpp"
+#include "results/node_results.hpp"
 #include "results/structure_checks.hpp"
 
 namespace korven::results {
@@ -30,6 +31,7 @@ struct EsitoCalcolo {
     int nSeg = 0;
     std::string fileRisultati;
     std::vector<EstremiFase> fasi;
+    std::vector<NodiFase> nodi;  ///< of the same stages
     analysis::ChiusuraRisultati chiusura;
     std::vector<EsitoTirante> tiranti;
     std::optional<ConfrontoMomenti> momenti;           ///< nothing without a defined section

@@ -77,10 +77,10 @@ TEST_F(Equilibrio, HoldsTheNumbersOfEachStageInJsonAndOfTheRunWhereItEnds) {
         const Json& sua = corsa["calcolo"]["fasi"][k];
         std::set<std::string> nomi;
         for (const auto& [nome, valore] : fasi[k].items()) nomi.insert(nome);
-        EXPECT_EQ(nomi,
-                  (std::set<std::string>{"fase", "esito", "scavo_m", "spostamento_massimo_m",
-                                         "momento_massimo_kNm", "momento_minimo_kNm",
-                                         "taglio_massimo_kN", "tiri_kN", "passi", "spiegazione"}));
+        EXPECT_EQ(nomi, (std::set<std::string>{"fase", "esito", "scavo_m", "spostamento_massimo_m",
+                                               "momento_massimo_kNm", "momento_minimo_kNm",
+                                               "taglio_massimo_kN", "tiri_kN", "passi",
+                                               "spiegazione", "nodi"}));
         EXPECT_EQ(fasi[k]["fase"], k + 1);
         EXPECT_EQ(fasi[k]["esito"], "equilibrio");
         EXPECT_GT(fasi[k]["passi"].get<int>(), 0);

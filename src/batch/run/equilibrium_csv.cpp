@@ -14,19 +14,6 @@ constexpr std::string_view nomi[] = {"fase",      "nodo",         "z_m",        
                                      "M_kNm",     "T_kN",         "p_monte_kPa", "p_valle_kPa",
                                      "acqua_kPa", "costante_kPa", "stato_monte", "stato_valle"};
 
-// The same in every language, as the names of the columns are.
-std::string_view parola(StatoLato stato) {
-    switch (stato) {
-        case StatoLato::attivo:
-            return "attivo";
-        case StatoLato::passivo:
-            return "passivo";
-        case StatoLato::elastico:
-            break;
-    }
-    return "elastico";
-}
-
 void righe(const FaseEquilibrio& fase, double h, RigheCsv& csv) {
     for (std::size_t i = 0; i < fase.y.size(); ++i) {
         const auto kilonewton = [&csv](double valore) {
@@ -44,6 +31,18 @@ void righe(const FaseEquilibrio& fase, double h, RigheCsv& csv) {
 }
 
 }  // namespace
+
+std::string_view parola(StatoLato stato) {
+    switch (stato) {
+        case StatoLato::attivo:
+            return "attivo";
+        case StatoLato::passivo:
+            return "passivo";
+        case StatoLato::elastico:
+            break;
+    }
+    return "elastico";
+}
 
 std::string csvEquilibrio(const safety::EquilibrioRaccontato& equilibrio) {
     RigheCsv csv(nomi);

@@ -4,6 +4,7 @@
 
 #include "batch/run/equilibrium_outcome.hpp"
 #include "batch/run/json_numbers.hpp"
+#include "batch/run/nodes_json.hpp"
 #include "equilibrium/extremes.hpp"
 
 namespace korven::batch {
@@ -31,6 +32,7 @@ Json fase(const FaseRaccontata& r, double h) {
               {"momento_minimo_kNm", nullptr},
               {"taglio_massimo_kN", nullptr},
               {"tiri_kN", tiri(f)},
+              {"nodi", nullptr},
               {"passi", f.passi},
               {"spiegazione", frase.empty() ? Json(nullptr) : Json(frase)}};
     if (!r.sta()) return j;
@@ -40,6 +42,7 @@ Json fase(const FaseRaccontata& r, double h) {
     j["momento_massimo_kNm"] = kNm(*massimo);
     j["momento_minimo_kNm"] = kNm(*minimo);
     j["taglio_massimo_kN"] = kN(std::fabs(e.taglio.valore));
+    j["nodi"] = jsonNodi(f, h);
     return j;
 }
 

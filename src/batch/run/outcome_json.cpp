@@ -5,6 +5,7 @@
 #include "batch/run/equilibrium_outcome.hpp"
 #include "batch/run/json_numbers.hpp"
 #include "batch/run/margin_outcome.hpp"
+#include "batch/run/nodes_json.hpp"
 #include "batch/run/outcome.hpp"
 #include "project/units.hpp"
 
@@ -20,6 +21,13 @@ double resistente(double passata) {
     return arrotondato(-passata / kilonewtonMetro);
 }
 
+Json tiranti(const results::NodiFase& fase) {
+    Json tutti = Json::array();
+    for (const double tiro : fase.tiri)
+        tutti.push_back({{"tirante", tutti.size() + 1}, {"tiro_kN", kN(tiro)}});
+    return tutti;
+}
+
 Json fase(const results::EstremiFase& riga, const Esito& esito) {
     Json iterazioni = nullptr;
     for (const auto& corsa : esito.fasi)
@@ -32,6 +40,9 @@ Json fase(const results::EstremiFase& riga, const Esito& esito) {
               {"momento_minimo_kNm", kNm(riga.momentoMin)}};
     for (const auto& corsa : esito.fasi)
         if (corsa.fase == riga.fase && !corsa.traccia.empty()) j["traccia"] = corsa.traccia;
+    const auto& nodi = esito.calcolo->nodi.at(static_cast<std::size_t>(riga.fase) - 1);
+    j["tiranti"] = tiranti(nodi);
+    j["nodi"] = jsonNodi(nodi);
     return j;
 }
 
