@@ -312,6 +312,7 @@ inline const std::map<std::string, Texts> noTexts = {
       "about"}},
     {"commands/start/user_folder.cpp",
      {".rtn", ".mav", ".hlp", "texts", ".txt", "profili.txt", "data"}},
+    {"dossier/identity.cpp", {"0123456789abcdef", "SOURCE_DATE_EPOCH"}},
     {"desktop/main.cpp", {"korven32", "/korven32.svg"}},
     {"desktop/session.cpp", {"about"}},
     {"shell/section/definej.cpp",
