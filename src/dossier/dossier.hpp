@@ -50,10 +50,11 @@ struct Fascicolo {
 
 /// What a dossier is asked for.
 struct Richiesta {
-    project::DatiProgetto scritti;  ///< as they stand in the file
-    project::DatiProgetto usati;    ///< with what options put in their place
-    std::optional<int> nSeg;        ///< segments, from 3: asserted; nothing: those of the program
-    Identita identita;              ///< without program, version and imprint, which are set
+    /// As they stand in the file: before a run leaves its stiffness and its last water level.
+    project::DatiProgetto scritti;
+    project::DatiProgetto usati;  ///< with what options put in their place
+    std::optional<int> nSeg;      ///< segments, from 3: asserted; nothing: those of the program
+    Identita identita;            ///< without program, version and imprint, which are set
     /// On the project and its file; nothing: the project is reviewed without a file.
     std::optional<review::Osservazioni> sulProgetto;
 };

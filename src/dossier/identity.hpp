@@ -20,8 +20,9 @@ struct Identita {
     std::string comando;               ///< that makes the document again
 };
 
-/// SHA-256 of the file that saving this project would write, 64 lower-case digits. It is that of
-/// the file itself unless another program has written it: `sha256sum muro.kvd` tells.
+/// SHA-256 of the file that saving this project would write, 64 lower-case digits. `sha256sum
+/// muro.kvd` gives the same of a file that this program has written, but for one with a method of
+/// the pressures that reading does not keep.
 [[nodiscard]] std::string impronta(const project::DatiProgetto& dati);
 
 /// The first digits of an imprint, as a page has room for.

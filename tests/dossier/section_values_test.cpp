@@ -58,6 +58,29 @@ TEST(ValoriFlessioneTest, AddUpToTheAxialForceAndToTheResistance) {
         }
 }
 
+TEST(ValoriFlessioneTest, TurnWithTheFacesOfTheWall) {
+    Sezione s = structure::diaframmaSimmetrico();
+    s.diametroMonte = 1.6;
+    s.copriferroMonte = 7;
+    Sezione girata = s;
+    std::swap(girata.diametroMonte, girata.diametroValle);
+    std::swap(girata.copriferroMonte, girata.copriferroValle);
+    const ValoriFlessione v = flessione(muro(s, 15)), g = flessione(muro(girata, 15));
+    EXPECT_NE(v.positivo.MRd, v.negativo.MRd);
+    EXPECT_NEAR(v.yNd, v.H - g.yNd, 1e-9);
+    for (const auto& [uno, altro] :
+         {std::pair(v.positivo, g.negativo), std::pair(v.negativo, g.positivo)}) {
+        EXPECT_NEAR(uno.MRd, altro.MRd, 1e-6 * uno.MRd);
+        EXPECT_NEAR(uno.x, altro.x, 1e-4);
+        EXPECT_EQ(uno.limite, altro.limite);
+        EXPECT_NEAR(uno.epsCompresso, altro.epsCompresso, 1e-8);
+        EXPECT_NEAR(uno.calcestruzzo.forza, altro.calcestruzzo.forza, 2);
+        EXPECT_NEAR(uno.calcestruzzo.y, v.H - altro.calcestruzzo.y, 1e-3);
+        EXPECT_NEAR(uno.acciaioTeso.forza, altro.acciaioTeso.forza, 2);
+        EXPECT_NEAR(uno.acciaioTeso.y, v.H - altro.acciaioTeso.y, 1e-3);
+    }
+}
+
 // 600 mm of concrete with 2262 mm2 a metre at 62 mm from the stretched face; an integration of the
 // parabola-rectangle in 200,000 layers at an elongation of 0.01 at 50 mm, the cover, gives a
 // shortening of 0.0020634, x = 94.08 mm, C = T = 845.77 kN at y = 564.53 and 425.03 kN m.
