@@ -14,7 +14,7 @@ struct CausaCorsa {
     /// equilibrium says of it. Else empty: a refusal has its message, and the user who stopped a
     /// run knows why.
     std::string frase;
-    std::string breve;  ///< the same in few words
+    std::string breve = {};  ///< the same in few words
 };
 
 /// @param dati  the project of the run, with the bending stiffness that it had
