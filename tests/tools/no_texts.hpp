@@ -14,7 +14,6 @@ using Texts = std::vector<std::string>;
 inline const std::map<std::string, std::string> silentFiles = {
     {"batch/run/outcome_json.cpp", "names of fields, the same in all languages"},
     {"batch/run/nodes_json.cpp", "names of fields, the same in all languages"},
-    {"dossier/identity.cpp", "digits, a variable of the environment"},
     {"batch/run/margin_csv.cpp", "names of columns, the same in all languages"},
     {"batch/run/margin_json.cpp", "names of fields, the same in all languages"},
     {"review/remark_table.hpp", "what the compiler says"},
