@@ -229,6 +229,7 @@ inline const std::map<std::string, Texts> noTexts = {
     {"commands/last_folder.cpp", {"path", "data"}},
     {"commands/recent_projects.cpp", {"recenti", "…"}},
     {"shell/tools/pattern_choice.cpp", {"modelli", "lista"}},
+    {"shell/visible_controls.cpp", {"fusion"}},
     {"shell/tools/keys_window.cpp", {"tasti", "elenco", "chiudi"}},
     {"commands/key_table.cpp",
      {"Ctrl+Shift+Z",
