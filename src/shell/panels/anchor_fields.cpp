@@ -31,7 +31,7 @@ void menoLargo(QComboBox& scelta) {
 CampiTirante::CampiTirante(panels::IngressiCalcolo& ingressi)
     : ingressi_(ingressi), storia_(ingressi), griglia_(new QGridLayout(this)) {
     griglia_->setContentsMargins(0, 0, 0, 0);
-    constexpr int fitto = 4;
+    constexpr int fitto = 2;
     griglia_->setVerticalSpacing(fitto);
     griglia_->setColumnStretch(0, 3);
     griglia_->setColumnStretch(1, 2);

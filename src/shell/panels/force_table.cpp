@@ -1,6 +1,7 @@
 #include "shell/panels/force_table.hpp"
 
 #include <QHeaderView>
+#include <QScrollBar>
 #include <algorithm>
 
 #include "base/number_text.hpp"
@@ -12,7 +13,7 @@ namespace korven::shell {
 namespace {
 
 enum Colonna { fase, scavo, tiro, diUno, nota, numeroColonne };
-constexpr int righeMinime = 4, righeComode = 6;
+constexpr int righeMinime = 2, righeComode = 6;
 
 QStringList celle(int k, const panels::TiroInFase& qui, const panels::IngressiCalcolo& ingressi) {
     const auto forza = [](std::optional<double> kN) {
@@ -60,7 +61,9 @@ void TabellaTiri::mostra(const panels::TiriTirante& tiri, const panels::Ingressi
 }
 
 QSize TabellaTiri::sizeHint() const {
-    int larghezza = 2 * frameWidth();
+    constexpr int griglia = 6;  // that a header adds to what its sections ask for
+    int larghezza = 2 * frameWidth() + numeroColonne * griglia;
+    larghezza += verticalScrollBar()->sizeHint().width();
     for (int c = 0; c < numeroColonne; ++c)
         larghezza += std::max(sizeHintForColumn(c), header()->sectionSizeHint(c));
     const int riga = fontMetrics().height() + 4;
@@ -69,7 +72,8 @@ QSize TabellaTiri::sizeHint() const {
 }
 
 QSize TabellaTiri::minimumSizeHint() const {
-    return {0, header()->sizeHint().height() + righeMinime * (fontMetrics().height() + 4)};
+    return {sizeHint().width(),
+            header()->sizeHint().height() + righeMinime * (fontMetrics().height() + 4)};
 }
 
 }  // namespace korven::shell
