@@ -11,6 +11,7 @@
 #include "base/translated_texts.hpp"
 #include "document/line_breaking.hpp"
 #include "document/spelled_out.hpp"
+#include "document/table_strips.hpp"
 #include "markup/cells.hpp"
 #include "markup/number_profile.hpp"
 #include "markup/text_renderer.hpp"
@@ -24,6 +25,7 @@ using tables::Prospetto;
 using Indici = std::vector<std::size_t>;
 
 constexpr std::size_t colonneTesto = 100;
+constexpr double larghezzaPagina = 17 * puntiPerCentimetro;
 constexpr const char* spazioFermo = "\u00A0";
 
 // Every character is as wide as 1: lines are counted, not measured.
@@ -80,10 +82,10 @@ class Scrittore {
         riga({});
         if (!p.titolo.empty()) riga(inUnaRiga(p.titolo));
         direttiva("#FONTSIZE", "8");
-        for (const Indici& colonne : parti(p.colonne.size()))
+        for (const Indici& colonne : parti(p))
             for (std::size_t da = 0; da < p.righe.size(); da += righeInsieme)
                 tabella(p, colonne, da, std::min(p.righe.size(), da + righeInsieme));
-        for (const auto& nota : p.note)
+        for (const auto& nota : note(p))
             for (const auto& r : righe(nota, false)) riga(r);
         direttiva("#FONTSIZE", corpo);
     }
@@ -113,16 +115,43 @@ class Scrittore {
                      : inRighe(scritto, larga, {}, misura);
     }
 
-    static std::vector<Indici> parti(std::size_t colonne) {
-        if (colonne == 0) return {};
-        constexpr std::size_t altre = markup::maximumGridColumns - 1;
+    // The first column and as many others as a mark-up holds and, on a page, stand beside one
+    // another.
+    [[nodiscard]] std::vector<Indici> parti(const Prospetto& p) const {
         std::vector<Indici> tutte;
-        for (std::size_t da = 1; da < colonne || tutte.empty(); da += altre) {
-            Indici parte{0};
-            for (std::size_t j = da; j < std::min(colonne, da + altre); ++j) parte.push_back(j);
-            tutte.push_back(std::move(parte));
+        double larga = 0;
+        for (std::size_t j = 1; j < p.colonne.size(); ++j) {
+            const double questa = larghezza(p, j);
+            const bool piena =
+                !tutte.empty() && (tutte.back().size() == markup::maximumGridColumns ||
+                                   (uso_ == Uso::documento && larga + questa > larghezzaPagina));
+            if (tutte.empty() || piena) {
+                tutte.push_back({0});
+                larga = larghezza(p, 0);
+            }
+            tutte.back().push_back(j);
+            larga += questa;
         }
+        if (tutte.empty() && !p.colonne.empty()) tutte.push_back({0});
         return tutte;
+    }
+
+    // What a column needs on a page with no word broken [pt].
+    static double larghezza(const Prospetto& p, std::size_t j) {
+        constexpr double spazio = 18;
+        const CaratteriStimati misura;
+        double larga = parolaPiuLarga(testa(p.colonne[j]), {8, true}, misura);
+        for (const auto& riga : p.righe)
+            larga = std::max(larga, parolaPiuLarga(riga[j].testo, {8}, misura));
+        return larga + spazio;
+    }
+
+    // With a unit that stays together.
+    static std::string testa(const tables::Colonna& colonna) {
+        tables::Colonna ferma = colonna;
+        for (auto i = ferma.unita.find(' '); i != std::string::npos; i = ferma.unita.find(' '))
+            ferma.unita.replace(i, 1, spazioFermo);
+        return inUnaRiga(ferma.testa());
     }
 
     void tabella(const Prospetto& p, const Indici& colonne, std::size_t da, std::size_t a) {
@@ -130,12 +159,13 @@ class Scrittore {
         for (const std::size_t j : colonne) stile += p.colonne[j].numerica ? '>' : '<';
         direttiva("#TABSTYLE", stile);
         direttiva("#STARTTABLE");
-        std::string testa;
+        std::string teste;
         for (const std::size_t j : colonne) {
-            const std::string titolo = inUnaRiga(p.colonne[j].testa());
-            cella(titolo, testa, markup::numberProfile(titolo) != markup::textProfile);
+            const std::string titolo =
+                uso_ == Uso::documento ? testa(p.colonne[j]) : inUnaRiga(p.colonne[j].testa());
+            cella(titolo, teste, markup::numberProfile(titolo) != markup::textProfile);
         }
-        riga(testa);
+        riga(teste);
         std::vector<char> ferme;
         for (const std::size_t j : colonne) ferme.push_back(decimaliDiversi(p, j));
         for (std::size_t i = da; i < a; ++i) {

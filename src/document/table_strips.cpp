@@ -173,6 +173,8 @@ void accodaParte(const PartiTavola& parte, const Prospetto& prospetto, const std
     strisce.back().dopo = 8;
 }
 
+}  // namespace
+
 std::vector<std::string> note(const Prospetto& prospetto) {
     constexpr std::size_t massimo = 4;
     std::vector<std::string> perche;
@@ -188,8 +190,6 @@ std::vector<std::string> note(const Prospetto& prospetto) {
                 tutte.push_back(std::string(tables::nessuno) + "  " + motivo);
     return tutte;
 }
-
-}  // namespace
 
 void aggiungi(const Tavola& tavola, const Formato& formato, const MisuraCaratteri& misura,
               Strisce& strisce) {

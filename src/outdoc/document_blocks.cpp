@@ -2,6 +2,9 @@
 
 #include <algorithm>
 #include <cassert>
+#include <cstddef>
+#include <numeric>
+#include <string_view>
 
 #include "markup/estimated_width.hpp"
 #include "markup/report_page.hpp"
@@ -50,6 +53,41 @@ std::string cellWords(double width, bool underlined, const Paragraph& content) {
            std::string(underlined ? lineBelow : "") + "</w:tcPr>" + paragraph(content) + "</w:tc>";
 }
 
+double widestWord(std::string_view text, const ReportFont& font) {
+    double widest = 0;
+    while (true) {
+        const auto blank = text.find(' ');
+        widest = std::max(widest, markup::estimatedWidth(font, text.substr(0, blank)));
+        if (blank == std::string_view::npos) return widest;
+        text.remove_prefix(blank + 1);
+    }
+}
+
+// Of each column what its words and numbers need, so that none is broken.
+std::vector<double> leastWidths(markup::CellGrid& grid, const ReportFont& font,
+                                const ReportFont& bold) {
+    std::vector<double> least;
+    for (int column = 1; column <= grid.columns(); ++column) {
+        double widest = widestWord(grid.cell(1, column), bold);
+        for (int row = 2; row <= grid.rowCount(); ++row)
+            widest = std::max(widest, widestWord(grid.cell(row, column), font));
+        least.push_back(widest + columnGap + spare);
+    }
+    return least;
+}
+
+// To the width of the page: each column gives of what it does not need, or, if that is not enough,
+// all in proportion.
+void shrink(std::vector<double>& widths, double total, const std::vector<double>& least,
+            double textWidth) {
+    const double needed = std::accumulate(least.begin(), least.end(), 0.0);
+    const bool enough = needed <= textWidth && needed < total;
+    for (std::size_t i = 0; i < widths.size(); ++i)
+        widths[i] =
+            enough ? least[i] + (widths[i] - least[i]) * (textWidth - needed) / (total - needed)
+                   : widths[i] * textWidth / total;
+}
+
 }  // namespace
 
 std::vector<double> columnWidths(markup::CellGrid& grid, const markup::FittedTable& fitted,
@@ -64,8 +102,7 @@ std::vector<double> columnWidths(markup::CellGrid& grid, const markup::FittedTab
         widths.push_back(std::max(plain, head) + columnGap + spare);
         total += widths.back();
     }
-    if (total > textWidth)
-        for (double& width : widths) width *= textWidth / total;
+    if (total > textWidth) shrink(widths, total, leastWidths(grid, font, bold), textWidth);
     return widths;
 }
 

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "markup/estimated_width.hpp"
 #include "outdoc/document_page.hpp"
 
 namespace korven::outdoc {
@@ -43,6 +44,16 @@ TEST(ColumnWidths, ShrinkToThePageInProportion) {
     const auto widths = columnWidths(grid, table, font, 400);
     EXPECT_NEAR(widths[0] + widths[1], 400, 1e-9);
     EXPECT_NEAR(widths[1] / widths[0], (480 + 0.5 * u + 3) / (240 + 0.5 * u + 3), 1e-9);
+}
+
+TEST(ColumnWidths, BreakNoNumberForALongSentence) {
+    CellGrid grid;
+    std::string sentence;
+    for (int i = 0; i < 30; ++i) sentence += "parole ";
+    const auto table = fitted(grid, {"a\tb", "12345678\t" + sentence});
+    const auto widths = columnWidths(grid, table, font, 300);
+    EXPECT_NEAR(widths[0] + widths[1], 300, 1e-9);
+    EXPECT_GE(widths[0], markup::estimatedWidth(font, "12345678") + 0.5 * u);
 }
 
 TEST(TableWords, RepeatTheBoldHeadAlone) {
