@@ -138,7 +138,7 @@ class Scrittore {
 
     // What a column needs on a page with no word broken [pt].
     static double larghezza(const Prospetto& p, std::size_t j) {
-        constexpr double spazio = 18;
+        constexpr double spazio = 20;
         const CaratteriStimati misura;
         double larga = parolaPiuLarga(testa(p.colonne[j]), {8, true}, misura);
         for (const auto& riga : p.righe)
