@@ -187,7 +187,7 @@ std::vector<std::string> note(const Prospetto& prospetto) {
     if (perche.size() <= massimo)
         for (const auto& motivo : perche)
             if (std::find(tutte.begin(), tutte.end(), motivo) == tutte.end())
-                tutte.push_back(std::string(tables::nessuno) + "  " + motivo);
+                tutte.push_back(std::string(tables::nessuno) + " " + motivo);
     return tutte;
 }
 

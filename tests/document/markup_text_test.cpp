@@ -67,7 +67,7 @@ TEST(TestoSemplice, HoldsTablesOfAnySizeAndLosesNoCell) {
     const std::string scritto = testo({Tavola{test::nodi(1200)}, Tavola{test::larga(70, 2)}});
     EXPECT_TRUE(contiene(scritto, "\r\n1199\t"));
     EXPECT_TRUE(contiene(scritto, "269.25"));
-    EXPECT_TRUE(contiene(scritto, "\r\n-  Sopra lo scavo non c'è terreno a valle.\r\n"));
+    EXPECT_TRUE(contiene(scritto, "\r\n- Sopra lo scavo non c'è terreno a valle.\r\n"));
     EXPECT_EQ(scritto.find('?'), std::string::npos);
 }
 
