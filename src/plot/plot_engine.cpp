@@ -1,6 +1,7 @@
 #include "plot/plot_engine.hpp"
 
 #include <algorithm>
+#include <cassert>
 #include <string>
 #include <utility>
 
@@ -81,7 +82,11 @@ void mostra(SuperficieDisegno& superficie, const TestoPlot& testo) {
                       testo.testo});
 }
 
-// A stroke or text goes to the surface and, unless this is a replay, into the store.
+void mostra(SuperficieDisegno& superficie, const PoligonoPlot& poligono) {
+    superficie.poligono(poligono);
+}
+
+// A stroke, area or text goes to the surface and, unless this is a replay, into the store.
 template <class Elemento>
 void disegna(Elemento elemento) {
     if (statoPlot.superficie != nullptr) mostra(*statoPlot.superficie, elemento);
@@ -133,6 +138,18 @@ void plotPenna(int n) { statoPlot.penna = statoPlot.penne[std::min(n, numeroPenn
 void plotPennaRgb(int n, Colore colore) {
     plotPenna(n);
     statoPlot.penna.colore = colore;
+}
+
+void plotPenna(const PennaPlot& penna) { statoPlot.penna = penna; }
+
+void plotPoligono(std::span<const Punto> vertici, Colore colore) {
+    assert(vertici.size() >= 3 && vertici.size() <= PoligonoPlot::massimoVertici);
+    PoligonoPlot poligono;
+    poligono.nVertici = static_cast<int>(vertici.size());
+    std::transform(vertici.begin(), vertici.end(), poligono.vertici.begin(),
+                   [](const Punto& p) { return sulFoglio(p.x, p.y); });
+    poligono.colore = colore;
+    disegna(poligono);
 }
 
 void plotMuovi(double x, double y, int codice) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -81,6 +82,15 @@ void plotPenna(int n);
 
 /// Selects width and font of pen `n` with another colour.
 void plotPennaRgb(int n, Colore colore);
+
+/// Selects a pen that is in no table: of a drawing that looks the same whatever pens its user has.
+void plotPenna(const PennaPlot& penna);
+
+/// Fills a polygon of up to five corners, from the origin [cm]; white and black are what they say.
+/// Filled polygons lie below all lines of the drawing, in the order in which they are drawn.
+/// @pre 3 to 5 corners: asserted
+/// @throws ErroreIndice at polygon 64001 of a drawing
+void plotPoligono(std::span<const Punto> vertici, Colore colore);
 
 /// Moves the pen to (x, y), from the origin [cm].
 ///

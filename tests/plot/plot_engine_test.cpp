@@ -134,6 +134,34 @@ TEST_F(MotorePlot, PenWithAColourOfItsOwnKeepsWidthAndFontOfItsRow) {
     EXPECT_EQ(statoPlot.penna.colore, bluPieno);
 }
 
+TEST_F(MotorePlot, APenOfNoTableDrawsAsItSays) {
+    plotApri(0, 0, 10, 10);
+    plotPenna({daRgb(10, 20, 30), 0.035, "Arial"});
+    plotMuovi(1, 1, pennaSu);
+    plotMuovi(2, 1, pennaGiu);
+    ASSERT_EQ(statoPlot.archivio.lineeInMemoria().size(), 1u);
+    EXPECT_EQ(statoPlot.archivio.lineeInMemoria()[0].colore, daRgb(10, 20, 30));
+    EXPECT_EQ(statoPlot.archivio.lineeInMemoria()[0].spessore, 0.035);
+}
+
+TEST_F(MotorePlot, AFilledPolygonIsStoredFromTheOriginInItsColourAndShownBelowTheLines) {
+    test::SuperficieRegistrata superficie({1000, 1000, 50});
+    statoPlot.superficie = &superficie;
+    plotApri(0, 0, 10, 10);
+    plotMuovi(2, 3, pennaSuOrigine);
+    const Punto vertici[] = {{0, 0}, {1, 0}, {1, 1}};
+    plotPoligono(vertici, nero);
+    EXPECT_EQ(superficie.eventi.back(), "polygon of 3");
+    plotPoligono(vertici, bianco);
+    plotMuovi(0, 0, fineDisegno);
+    const auto& poligoni = statoPlot.archivio.poligoni();
+    ASSERT_EQ(poligoni.size(), 2u);
+    EXPECT_EQ(poligoni[0].vertici[2],
+              (Punto{3 + statoPlot.scostamentoX, 4 - statoPlot.scostamentoY}));
+    EXPECT_EQ(poligoni[0].colore, nero);
+    EXPECT_EQ(poligoni[1].colore, bianco);
+}
+
 TEST_F(MotorePlot, OffsetsShiftLinesAndTextsRightAndDownAndWidenTheWindow) {
     configuraMargini(1.5, 0.5);
     plotApri(0, 0, 19, 27);
