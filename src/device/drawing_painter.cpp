@@ -27,7 +27,8 @@ void PittoreDisegno::dipingi(const plot::ArchivioDisegno& archivio) {
             const plot::Punto& v = poligono.vertici[static_cast<std::size_t>(i)];
             vertici << punto(v.x, v.y);
         }
-        pittore_.setPen(qColore(poligono.colore));
+        // A hairline, so that no light shows between polygons side by side.
+        pittore_.setPen(QPen(qColore(poligono.colore), 0));
         pittore_.setBrush(qColore(poligono.colore));
         pittore_.drawPolygon(vertici);
         pittore_.setBrush(Qt::NoBrush);
