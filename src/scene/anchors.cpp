@@ -96,7 +96,7 @@ class Tiranti {
     void scrivi(int j, bool inOpera, const std::vector<Posto>& posti) {
         const std::string nome = "T" + std::to_string(j);
         const std::string dove = "  " + quota(m_.dati().profTirante[j]);
-        const double* t = m_.tiro(j);
+        const double* t = q_.stretta ? nullptr : m_.tiro(j);
         const std::string forza = t != nullptr && inOpera
                                       ? "  " + conUnita(*t, project::unita::forzaAlMetro)
                                       : std::string();

@@ -18,6 +18,7 @@ struct Inquadratura {
     double yFondo = 0;    ///< lower end of the ground
     double pendenza = 0;  ///< pixels by which the ground rises for one away from the wall
     bool curva = true;
+    bool stretta = false;  ///< as `Opzioni::stretta`
 
     [[nodiscard]] double y(double z) const { return yTesta + scala * z; }
     [[nodiscard]] double xMuro() const { return (xMonte + xValle) / 2; }

@@ -26,7 +26,8 @@ Scena scena(const live::PareteViva& parete, const live::Vista& vista, const Misu
     tela.disegna(Elemento::sfondo, 0,
                  Area{rettangolo(0, 0, misura.larghezza, misura.altezza), {Ruolo::sfondo}});
     const double cima = scriviNote(m, misura, opzioni, tela);
-    const Inquadratura q = inquadratura(m, misura, cima, opzioni.curva);
+    Inquadratura q = inquadratura(m, misura, cima, opzioni.curva);
+    q.stretta = opzioni.stretta;
     for (const Parte parte : parti) parte(m, q, tela);
     if (opzioni.curva) disegnaCurva(m, q, tela);
     scriviPiede(m, q, tela);

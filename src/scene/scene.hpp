@@ -17,8 +17,10 @@ struct Misura {
 
 /// What of the picture is wanted.
 struct Opzioni {
-    bool curva = true;   ///< the panel with the curve; without it the section takes all the width
-    bool parole = true;  ///< headline, verdict and what is in the way: of a fixed height
+    bool curva = true;  ///< the panel with the curve; without it the section takes all the width
+    /// For a narrow place: no dimensions, anchors by their numbers, of a stage its own level alone.
+    bool stretta = false;
+    bool parole = true;            ///< headline, verdict and what is in the way: of a fixed height
     std::string impedimento = {};  ///< why what is being typed is not shown, translated
     std::string didascalia = {};   ///< stands above a picture without words, translated
 };

@@ -14,7 +14,9 @@ constexpr double quotaUno = 3.0, quotaDue = 1.2;  // of the two dimension lines 
 
 double alCentimetro(double z) { return std::round(project::inCentimetri(z)) / project::centimetri; }
 
-double fineLivelli(const Inquadratura& q) { return q.xSezione - (quotaUno + 0.9) * q.em; }
+double fineLivelli(const Inquadratura& q) {
+    return q.xSezione - (q.stretta ? 0.3 : quotaUno + 0.9) * q.em;
+}
 
 // A dimension between two depths, its length written along it.
 void dimensione(const Mostrata& m, const Inquadratura& q, double da, double a, double dalBordo,
@@ -48,10 +50,11 @@ void dimensione(const Mostrata& m, const Inquadratura& q, double da, double a, d
 
 void disegnaFasi(const Mostrata& m, const Inquadratura& q, Tela& tela) {
     // Stages of one depth, to the centimetre, share a line.
+    const bool soloQuesta = q.stretta && m.vista.fase > 0;
     std::map<double, std::string> livelli;
     for (int k = 1; k <= m.nFasi(); ++k) {
         const double z = m.dati().profFase[k];
-        if (!disegnabile(z)) continue;
+        if (!disegnabile(z) || (soloQuesta && k != m.fase)) continue;
         std::string& nomi = livelli[alCentimetro(z)];
         nomi += (nomi.empty() ? "" : ", ") + std::to_string(k);
     }
@@ -67,11 +70,14 @@ void disegnaFasi(const Mostrata& m, const Inquadratura& q, Tela& tela) {
         for (const double su : {-0.8, 0.8, 0.0})
             posti.push_back(
                 {{fine, y + su * q.em}, Ancora::destra, fondoValle(m, q, y + su * q.em)});
+        const std::string nome = soloQuesta  ? std::string()
+                                 : q.stretta ? nomi + "  "
+                                             : base::traduttore("fase") + " " + nomi + "  ";
         tela.scrivi({.grado = Grado::fase,
                      .elemento = Elemento::fase,
                      .numero = primo,
-                     .testo = base::traduttore("fase") + " " + nomi + "  " + quota(z),
-                     .inBreve = {nomi + "  " + quota(z)},
+                     .testo = nome + quota(z),
+                     .inBreve = {(soloQuesta ? "" : nomi + "  ") + quota(z)},
                      .tinta = {mostrato ? Ruolo::testo : Ruolo::fase},
                      .corpo = 0.9 * q.em,
                      .grassetto = mostrato,
@@ -80,7 +86,7 @@ void disegnaFasi(const Mostrata& m, const Inquadratura& q, Tela& tela) {
 }
 
 void disegnaQuote(const Mostrata& m, const Inquadratura& q, Tela& tela) {
-    if (m.lunghezza == 0) return;
+    if (m.lunghezza == 0 || q.stretta) return;
     const double x = q.xSezione - (quotaUno + 0.4) * q.em;
     const double piede = q.y(m.lunghezza);
     for (const double y : {q.yTesta, piede})

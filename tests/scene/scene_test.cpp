@@ -312,6 +312,18 @@ TEST(Scena, ShortensTheNameOfAStageThatWouldCoverAStrut) {
                      "fase 1  1.80 m"));
 }
 
+TEST(Scena, InANarrowPlaceHasNoDimensionsAndOfAStageItsOwnLevelAlone) {
+    const auto parete = live::calcola(test::progettoSemplice(), 40);
+    const Opzioni stretta{.curva = false, .stretta = true, .parole = false};
+    const Scena fase = scena(parete, {2}, {140, 360}, MisuraStimata(), stretta);
+    EXPECT_TRUE(figure<Linea>(fase, Elemento::quota).empty());
+    EXPECT_EQ(testi(fase, Elemento::fase), std::vector<std::string>{"5.00 m"});
+    EXPECT_EQ(testi(fase, Elemento::tirante), std::vector<std::string>{"T1"});
+    const Scena tutte = scena(parete, {0}, {140, 360}, MisuraStimata(), stretta);
+    EXPECT_TRUE(dice(testi(tutte, Elemento::fase), "1  2.00 m"));
+    EXPECT_TRUE(dice(testi(tutte, Elemento::fase), "2  5.00 m"));
+}
+
 TEST(Scena, CanDoWithoutTheCurve) {
     const Scena s = scena(live::calcola(test::progettoSemplice(), 40), {2}, {300, 300},
                           MisuraStimata(), {.curva = false, .parole = false});
