@@ -34,6 +34,7 @@ struct Exempt {
 const std::map<std::string, Exempt> noUnits = {
     {"analysis/trial_run.cpp", {{"1000"}, "a bound above all factors"}},
     {"batch/run/json_numbers.hpp", {{"1e6", "1e7"}, "rounds to six and to seven decimals"}},
+    {"drawings/annex/paper.hpp", {{"10"}, "the size of a font"}},
     {"drawings/diagram_frame.cpp", {{"1000"}, "rounds to three decimals"}},
     {"drawings/diagram_scale.cpp", {{"10", "100", "10000"}, "steps of an axis"}},
     {"drawings/diaphragm_sketch.cpp", {{"100"}, "the thinnest bar that is drawn"}},

@@ -1,0 +1,258 @@
+#include "drawings/annex/depth_panels.hpp"
+
+#include <algorithm>
+#include <cmath>
+#include <iterator>
+#include <utility>
+
+#include "base/axis_steps.hpp"
+#include "base/number_text.hpp"
+#include "base/translated_texts.hpp"
+#include "drawings/annex/paper.hpp"
+#include "project/shown_number.hpp"
+#include "scene/polygon.hpp"
+#include "scene/shown_values.hpp"
+#include "scene/text_fitting.hpp"
+
+namespace korven::drawings {
+
+namespace {
+
+using base::traduttore;
+using namespace scene;
+
+constexpr double em = corpoCarta, corpo = corpoPiccolo;
+constexpr double riga = 1.25 * em;
+constexpr int righeTitolo = 3;
+constexpr double sopraNumeri = 1.1 * em;  // of the numbers of an axis, above it
+constexpr double sottoPiede = 1.9 * em;   // of the first key, below the toe
+
+}  // namespace
+
+double Pannelli::testata() { return sopraNumeri + righeTitolo * riga + 0.6 * em; }
+double Pannelli::piede() { return 4.6 * em; }
+
+double Pannelli::passo() const {
+    return base::passoAsse(
+        asse_.lunghezza,
+        std::max(2, static_cast<int>((asse_.piede() - asse_.yTesta) / (2.6 * em))));
+}
+
+void Pannelli::profondita(double x) {
+    const double passo = this->passo();
+    for (int i = 0; i * passo <= asse_.lunghezza * (1 + 1e-9); ++i)
+        tela_.scrivi({.grado = Grado::asse,
+                      .elemento = Elemento::asse,
+                      .testo = base::numeroAsse(i * passo, passo) + (i == 0 ? " m" : ""),
+                      .tinta = {Ruolo::testoTenue},
+                      .corpo = corpo,
+                      .posti = {{{x, asse_.y(i * passo)}, Ancora::destra}}});
+}
+
+// One panel in the making.
+class Pannelli::Pannello {
+ public:
+    Pannello(Pannelli& tutti, const DatiPannello& dati, double x1, double x2)
+        : tutti_(tutti), dati_(dati), asse_(tutti.asse_), tela_(tutti.tela_), x1_(x1), x2_(x2) {
+        for (const CurvaPannello& curva : dati_.curve)
+            for (const double v : curva.valori) {
+                minimo_ = std::min(minimo_, mostrato(v));
+                massimo_ = std::max(massimo_, mostrato(v));
+                grande_ = std::max(grande_, std::fabs(v));
+            }
+        if (minimo_ == massimo_) massimo_ = 1;
+        const double respiro = 0.05 * (massimo_ - minimo_);
+        if (minimo_ < 0) minimo_ -= respiro;
+        if (massimo_ > 0) massimo_ += respiro;
+        campo_.posto = {x1_ - 0.5 * em, asse_.yTesta + 1, x2_ + 0.4 * em,
+                        asse_.piede() + sottoPiede - 0.7 * em};
+    }
+
+    void disegna() {
+        griglia();
+        titolo();
+        if (dati_.curve.empty()) return nulla();
+        ascisse();
+        if (dati_.fasciaDa >= 0) fascia();
+        for (const CurvaPannello& curva : dati_.curve)
+            if (curva.fondo) campo(curva);
+        linea({{x(0), asse_.yTesta}, {x(0), asse_.piede()}}, Ruolo::asse, 1.4);
+        campo_.rette.push_back({{x(0), asse_.yTesta}, {x(0), asse_.piede()}});
+        for (const CurvaPannello& curva : dati_.curve) disegna(curva);
+        for (const CurvaPannello& curva : dati_.curve) estremi(curva);
+        chiave();
+        tutti_.campi_.push_back(std::move(campo_));
+    }
+
+ private:
+    [[nodiscard]] double mostrato(double v) const { return project::mostrato(dati_.unita, v); }
+    [[nodiscard]] double x(double mostrato) const {
+        return x1_ + (x2_ - x1_) * (mostrato - minimo_) / (massimo_ - minimo_);
+    }
+    [[nodiscard]] Punto punto(const CurvaPannello& curva, std::size_t i) const {
+        return {x(mostrato(curva.valori[i])), asse_.y(curva.h * static_cast<double>(i))};
+    }
+    [[nodiscard]] std::vector<Punto> punti(const CurvaPannello& curva) const {
+        std::vector<Punto> tutti;
+        for (std::size_t i = 0; i < curva.valori.size(); ++i) tutti.push_back(punto(curva, i));
+        return tutti;
+    }
+
+    void linea(std::vector<Punto> punti, Ruolo ruolo, double spessore,
+               Tratteggio tratteggio = Tratteggio::nessuno) {
+        tela_.disegna(Elemento::asse, 0, Linea{std::move(punti), {ruolo}, spessore, tratteggio});
+    }
+    void scrivi(std::string testo, Punto punto, Ancora ancora, Grado grado = Grado::asse,
+                double corpoTesto = corpo) {
+        tela_.scrivi({.grado = grado,
+                      .elemento = Elemento::asse,
+                      .testo = std::move(testo),
+                      .tinta = {Ruolo::testo},
+                      .corpo = corpoTesto,
+                      .posti = {{punto, ancora}}});
+    }
+
+    void griglia() {
+        const double passo = tutti_.passo();
+        for (int i = 0; i * passo <= asse_.lunghezza * (1 + 1e-9); ++i)
+            linea({{x1_, asse_.y(i * passo)}, {x2_, asse_.y(i * passo)}}, Ruolo::griglia, 1);
+        for (const double z : tutti_.linee_)
+            linea({{x1_, asse_.y(z)}, {x2_, asse_.y(z)}}, Ruolo::fase, 0.8, Tratteggio::linee);
+        linea({{x1_, asse_.yTesta}, {x2_, asse_.yTesta}}, Ruolo::asse, 0.8);
+    }
+
+    // In rows that end above the numbers, the unit in the last.
+    void titolo() {
+        auto righe =
+            inRighe(dati_.titolo, x2_ - x1_ + 0.4 * em, em, righeTitolo - 1, tela_.misura());
+        righe.push_back(traParentesi(dati_.unita));
+        double y = asse_.yTesta - sopraNumeri - 1.2 * em - riga * static_cast<double>(righe.size());
+        for (std::string& una : righe)
+            scrivi(std::move(una), {(x1_ + x2_) / 2, y += riga}, Ancora::centro, Grado::nota, em);
+    }
+
+    void nulla() {
+        const double xm = (x1_ + x2_) / 2;
+        linea({{xm, asse_.yTesta}, {xm, asse_.piede()}}, Ruolo::asse, 1.4);
+        scrivi(traduttore("nessuna curva"), {xm, (asse_.yTesta + asse_.piede()) / 2},
+               Ancora::centro);
+    }
+
+    // As many numbers as stand clear of each other.
+    [[nodiscard]] double passoNumeri() const {
+        for (int quanti = 5;; --quanti) {
+            const double passo = base::passoAsse(massimo_ - minimo_, quanti);
+            const double largo =
+                std::max(tela_.larghezza(base::numeroAsse(minimo_, passo), corpo),
+                         tela_.larghezza(base::numeroAsse(massimo_, passo), corpo)) +
+                0.6 * em;
+            if (quanti == 1 || passo * (x2_ - x1_) / (massimo_ - minimo_) >= largo) return passo;
+        }
+    }
+
+    void ascisse() {
+        const double passo = passoNumeri();
+        for (double i = std::ceil(minimo_ / passo); i * passo <= massimo_; ++i) {
+            const double xv = x(i * passo);
+            linea({{xv, asse_.yTesta}, {xv, asse_.piede()}}, Ruolo::griglia, 1);
+            linea({{xv, asse_.yTesta - 0.3 * em}, {xv, asse_.yTesta}}, Ruolo::asse, 0.8);
+            const std::string testo = base::numeroAsse(i * passo, passo);
+            // A number at the edge stays in the panel.
+            const double mezza = tela_.larghezza(testo, corpo) / 2 - 0.3 * em;
+            scrivi(testo, {std::clamp(xv, x1_ + mezza, x2_ - mezza), asse_.yTesta - sopraNumeri},
+                   Ancora::centro);
+        }
+    }
+
+    void campo(const CurvaPannello& curva) {
+        std::vector<Punto> bordo{{x(0), asse_.yTesta}};
+        for (const Punto& p : punti(curva)) bordo.push_back(p);
+        bordo.push_back({x(0), bordo.back().y});
+        tela_.disegna(Elemento::curva, 0, Area{std::move(bordo), {*curva.fondo}});
+    }
+    void fascia() {
+        auto bordo = punti(dati_.curve[static_cast<std::size_t>(dati_.fasciaDa)]);
+        const auto altro = punti(dati_.curve[static_cast<std::size_t>(dati_.fasciaA)]);
+        bordo.insert(bordo.end(), altro.rbegin(), altro.rend());
+        tela_.disegna(Elemento::curva, 0, Area{std::move(bordo), {Ruolo::fondoCurva}});
+    }
+    void disegna(const CurvaPannello& curva) {
+        auto tutti = punti(curva);
+        campo_.curve.push_back(tutti);
+        tela_.disegna(Elemento::curva, 0,
+                      Linea{std::move(tutti), {curva.linea}, curva.spessore, curva.tratteggio});
+    }
+
+    // A peak that is nothing beside the others is the noise of a hinge or of the toe.
+    void estremi(const CurvaPannello& curva) {
+        const double trascurabile = 0.005 * grande_;
+        const auto [minore, maggiore] =
+            std::minmax_element(curva.valori.begin(), curva.valori.end());
+        if (curva.massimo && *maggiore > trascurabile)
+            estremo(curva, static_cast<std::size_t>(maggiore - curva.valori.begin()));
+        if (curva.minimo && *minore < -trascurabile)
+            estremo(curva, static_cast<std::size_t>(minore - curva.valori.begin()));
+    }
+
+    void estremo(const CurvaPannello& curva, std::size_t i) {
+        const std::string valore =
+            curva.prima + project::numeroMostrato(curva.valori[i], 1, dati_.unita);
+        const std::string z = quota(curva.h * static_cast<double>(i));
+        Picco& picco = campo_.picchi.emplace_back();
+        picco.punto = punto(curva, i);
+        picco.ruolo = curva.linea;
+        if (i >= curva.fasi.size() || curva.fasi[i] == 0) {
+            picco.forme = {{valore + " · " + z}, {valore, z}};
+            return;
+        }
+        const std::string fase = traduttore("fase") + ' ' + std::to_string(curva.fasi[i]);
+        picco.forme = {
+            {valore + " · " + z + " · " + fase}, {valore + " · " + z, fase}, {valore, z, fase}};
+    }
+
+    // Below the toe: the lines by their names, and which way positive values point.
+    void chiave() {
+        double y = asse_.piede() + sottoPiede;
+        if (dati_.versoScavo) {
+            const double xm = (x1_ + x2_) / 2, mezza = 0.9 * em;
+            tela_.disegna(Elemento::asse, 0,
+                          Freccia{{{xm - mezza, y}, {xm + mezza, y}}, {Ruolo::asse}, 1, 0.5 * em});
+            scrivi(traduttore("+ verso lo scavo"), {xm, y += 1.1 * em}, Ancora::centro);
+            y += 1.25 * em;
+        }
+        for (const CurvaPannello& curva : dati_.curve) {
+            if (curva.nome.empty()) continue;
+            const double lunga = 1.7 * em;
+            linea({{x1_, y}, {x1_ + lunga, y}}, curva.linea, curva.spessore, curva.tratteggio);
+            scrivi(accorciato(curva.nome, x2_ - x1_ - lunga, corpo, false, tela_.misura()),
+                   {x1_ + lunga + 0.4 * em, y}, Ancora::sinistra);
+            y += 1.15 * em;
+        }
+    }
+
+    Pannelli& tutti_;
+    const DatiPannello& dati_;
+    const AsseProfondita& asse_;
+    Tela& tela_;
+    double x1_, x2_;
+    double minimo_ = 0, massimo_ = 0;  // shown, 0 among them
+    double grande_ = 0;                // stored
+    CampoPicchi campo_;
+};
+
+void Pannelli::disegna(const DatiPannello& dati, double x1, double x2) {
+    Pannello(*this, dati, x1, x2).disegna();
+}
+
+std::vector<Primitiva> Pannelli::concludi() {
+    std::vector<Primitiva> tutte = tela_.concludi();
+    std::vector<Riquadro> occupati;
+    for (const Primitiva& una : tutte)
+        if (const auto* testo = std::get_if<Testo>(&una.figura))
+            occupati.push_back(testo->riquadro());
+    auto picchi = etichettePicchi(campi_, std::move(occupati), tela_.misura());
+    std::move(picchi.begin(), picchi.end(), std::back_inserter(tutte));
+    return tutte;
+}
+
+}  // namespace korven::drawings

@@ -1,0 +1,183 @@
+#include "drawings/annex/wall_sheets.hpp"
+
+#include <algorithm>
+#include <array>
+#include <numeric>
+#include <vector>
+
+#include "base/translated_texts.hpp"
+#include "drawings/annex/depth_panels.hpp"
+#include "drawings/annex/paper.hpp"
+#include "drawings/annex/wall_curves.hpp"
+#include "drawings/annex/wall_view.hpp"
+#include "project/units.hpp"
+#include "scene/shown_values.hpp"
+#include "scene/shown_wall.hpp"
+#include "scene/text_fitting.hpp"
+
+namespace korven::drawings {
+
+namespace {
+
+using namespace scene;
+
+constexpr double em = corpoCarta;
+constexpr double sezioneMinima = 13 * em;  // width of the wall in section
+constexpr double quotaSezione = 0.28;      // of the whole width
+constexpr double piedeVeduta = 1.8 * em;   // below the ground of the view
+constexpr double numeri = 2.6 * em;        // for the depths
+constexpr double distanza = 0.7 * em;      // of panels
+
+void unisci(Scena& scena, std::vector<Primitiva> altre) {
+    std::move(altre.begin(), altre.end(), std::back_inserter(scena.primitive));
+}
+
+Scena vuota(const Misura& misura) {
+    Scena s;
+    s.larghezza = misura.larghezza;
+    s.altezza = misura.altezza;
+    s.corpo = em;
+    return s;
+}
+
+// Panels from x1 to x2, as wide as their weights.
+void disponi(Pannelli& pannelli, const std::vector<DatiPannello>& dati,
+             const std::vector<double>& pesi, double x1, double x2) {
+    const double tutti = std::accumulate(pesi.begin(), pesi.end(), 0.0);
+    const double libera = x2 - x1 - distanza * static_cast<double>(dati.size() - 1);
+    double x = x1;
+    for (std::size_t i = 0; i < dati.size(); ++i) {
+        const double largo = libera * pesi[i] / tutti;
+        pannelli.disegna(dati[i], x, x + largo);
+        x += largo + distanza;
+    }
+}
+
+// Anchors in place with their forces, in rows below the wall.
+class ElencoTiranti {
+ public:
+    // @param fase  0: the largest of all stages
+    ElencoTiranti(const live::PareteViva& parete, int fase, double largo,
+                  const MisuraTesti& testi) {
+        const auto m = mostrata(parete, {fase, live::Curva::momento});
+        double massimo = 0;
+        for (int j = 1; j <= m.tirantiInOpera(); ++j)
+            if (const double* t = m.tiro(j)) {
+                testi_.push_back('T' + std::to_string(j) + "  " +
+                                 conUnita(*t, project::unita::forzaAlMetro));
+                massimo = std::max(massimo, testi.larghezza(testi_.back(), corpoPiccolo, false));
+            }
+        colonne_ = massimo + 0.8 * em < largo / 2 ? 2 : 1;
+        colonna_ = largo / static_cast<double>(colonne_);
+    }
+    [[nodiscard]] double altezza() const {
+        return riga * static_cast<double>((testi_.size() + colonne_ - 1) / colonne_);
+    }
+    void scrivi(double y, Tela& tela) const {
+        for (std::size_t i = 0; i < testi_.size(); ++i)
+            tela.scrivi({.testo = testi_[i],
+                         .tinta = {Ruolo::tirante},
+                         .corpo = corpoPiccolo,
+                         .posti = {{{0.4 * em + colonna_ * static_cast<double>(i % colonne_),
+                                     y + riga * (static_cast<double>(i / colonne_) + 0.5)},
+                                    Ancora::sinistra}}});
+    }
+
+ private:
+    static constexpr double riga = 1.25 * em;
+    std::vector<std::string> testi_;
+    std::size_t colonne_ = 1;
+    double colonna_ = 0;
+};
+
+// The wall at the left, beside it the panels.
+Scena conPannelli(const live::PareteViva& parete, int fase, const std::vector<double>& scavi,
+                  const std::vector<DatiPannello>& dati, const std::vector<double>& pesi,
+                  const Misura& misura) {
+    const MisuraStimata testi;
+    Scena s = vuota(misura);
+    const double larga = std::max(sezioneMinima, quotaSezione * misura.larghezza);
+    const ElencoTiranti tiranti(parete, fase, larga, testi);
+    // The view has no line at its foot, but the room for it.
+    const double sottoMuro = std::max(0.0, tiranti.altezza() - piedeVeduta);
+    const VedutaMuro muro = vedutaMuro(parete, fase, {0, 0, larga, misura.altezza - sottoMuro},
+                                       Pannelli::testata(), testi);
+    unisci(s, muro.primitive);
+    s.yTesta = muro.asse.yTesta;
+    s.scala = muro.asse.scala;
+    s.paratia = muro.asse.lunghezza;
+    Tela tela(misura.larghezza, misura.altezza, testi);
+    tiranti.scrivi(misura.altezza - tiranti.altezza() - 0.12 * em, tela);
+    if (muro.asse.lunghezza == 0) {
+        unisci(s, tela.concludi());
+        return s;
+    }
+    Pannelli pannelli(muro.asse, scavi, tela);
+    pannelli.profondita(larga + numeri - 0.5 * em);
+    disponi(pannelli, dati, pesi, larga + numeri, misura.larghezza - 0.5 * em);
+    unisci(s, pannelli.concludi());
+    return s;
+}
+
+std::vector<double> scaviDi(const project::DatiProgetto& dati, int da, int a) {
+    std::vector<double> scavi;
+    for (int k = da; k <= a; ++k) {
+        const double z = dati.profFase[k];
+        if (z > 0 && z < dati.lunghezzaParatia &&
+            std::find(scavi.begin(), scavi.end(), z) == scavi.end())
+            scavi.push_back(z);
+    }
+    return scavi;
+}
+
+}  // namespace
+
+Scena scenaFase(const live::PareteViva& parete, int fase, double larghezza, double altezza) {
+    constexpr double largaPressioni = 9.5, larga = 8;  // weights
+    return conPannelli(parete, fase, scaviDi(parete.dati, fase, fase), pannelliFase(parete, fase),
+                       {largaPressioni, larga, larga, larga}, misuraCarta(larghezza, altezza));
+}
+
+Scena scenaInviluppi(const live::PareteViva& parete, double larghezza, double altezza) {
+    return conPannelli(parete, 0, scaviDi(parete.dati, 1, parete.dati.nFasi),
+                       pannelliInviluppo(parete), {1, 1, 1}, misuraCarta(larghezza, altezza));
+}
+
+Scena scenaConfronto(const MuroDetto& a, const MuroDetto& b, double larghezza, double altezza) {
+    constexpr double quotaMuri = 0.42;  // of the height, for the walls
+    const Misura misura = misuraCarta(larghezza, altezza);
+    const MisuraStimata testi;
+    Scena s = vuota(misura);
+    Tela tela(misura.larghezza, misura.altezza, testi);
+    const double meta = misura.larghezza / 2, basso = quotaMuri * misura.altezza;
+    AsseProfondita asse{0, 1, 0};
+    std::array<std::string, 2> nomi;
+    double x = 0;
+    for (const MuroDetto* muro : {&a, &b}) {
+        std::string& nome = nomi[muro == &a ? 0 : 1];
+        nome = (muro == &a ? "A  " : "B  ") + muro->nome;
+        tela.scrivi({.testo = accorciato(nome, meta - 2 * em, em, false, testi),
+                     .tinta = {Ruolo::testo},
+                     .corpo = em,
+                     .posti = {{{x + 0.5 * em, 0.8 * em}, Ancora::sinistra}}});
+        VedutaMuro veduta =
+            vedutaMuro(muro->parete, 0, {x, 1.6 * em, x + meta - em, basso}, 0, testi);
+        asse.lunghezza = std::max(asse.lunghezza, veduta.asse.lunghezza);
+        unisci(s, std::move(veduta.primitive));
+        x += meta + em;
+    }
+    if (asse.lunghezza > 0) {
+        asse.yTesta = basso + Pannelli::testata();
+        asse.scala = (misura.altezza - Pannelli::piede() - asse.yTesta) / asse.lunghezza;
+        Pannelli pannelli(asse, {}, tela);
+        pannelli.profondita(numeri - 0.5 * em);
+        disponi(pannelli, pannelliConfronto(a.parete, b.parete, nomi), {1, 1, 1}, numeri,
+                misura.larghezza - 0.5 * em);
+        unisci(s, pannelli.concludi());
+    } else {
+        unisci(s, tela.concludi());
+    }
+    return s;
+}
+
+}  // namespace korven::drawings
