@@ -26,7 +26,7 @@ Identita identita(const Richiesta& richiesta) {
     Identita sua = richiesta.identita;
     sua.programma = base::nomeEVersione.substr(0, base::nomeEVersione.rfind(' '));
     sua.versione = base::versione;
-    sua.impronta = impronta(richiesta.scritti);
+    prova([&] { sua.impronta = impronta(richiesta.scritti); });
     return sua;
 }
 
@@ -39,12 +39,15 @@ void margine(analysis::OsservatoreCorsa& osservatore, Fascicolo& f) {
 }
 
 void osservazioni(const Richiesta& richiesta, Fascicolo& f) {
-    f.osservazioni =
-        richiesta.sulProgetto ? *richiesta.sulProgetto : review::esaminaProgetto(richiesta.usati);
-    if (f.margine) {
+    prova([&] {
+        f.osservazioni = richiesta.sulProgetto ? *richiesta.sulProgetto
+                                               : review::esaminaProgetto(richiesta.usati);
+    });
+    prova([&] {
+        if (!f.margine) return;
         const auto sue = review::esaminaRisultati(f.parete.dati, *f.margine);
         f.osservazioni.insert(f.osservazioni.end(), sue.begin(), sue.end());
-    }
+    });
     review::perPeso(f.osservazioni);
 }
 

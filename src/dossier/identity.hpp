@@ -13,9 +13,9 @@ namespace korven::dossier {
 /// Of which file, by which program and when: what a reader needs to ask for the same again.
 struct Identita {
     std::string programma, versione;
-    std::string file;                  ///< path as it was given; empty for a project never saved
-    std::string impronta;              ///< of the project as written (`impronta`)
-    std::string data;                  ///< "2026-11-22", of the run or as it was set
+    std::string file;      ///< path as it was given; empty for a project never saved
+    std::string impronta;  ///< of the project as written; empty for one that no file can hold
+    std::string data;      ///< "2026-11-22", of the run or as it was set
     std::vector<std::string> opzioni;  ///< that override the project, as typed: "--nseg 200"
     std::string comando;               ///< that makes the document again
 };
@@ -23,6 +23,7 @@ struct Identita {
 /// SHA-256 of the file that saving this project would write, 64 lower-case digits. `sha256sum
 /// muro.kvd` gives the same of a file that this program has written, but for one with a method of
 /// the pressures that reading does not keep.
+/// @throws base::ErroreValore for a number that no file can hold
 [[nodiscard]] std::string impronta(const project::DatiProgetto& dati);
 
 /// The first digits of an imprint, as a page has room for.

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <limits>
 #include <stdexcept>
 
 #include "base/version.hpp"
@@ -129,6 +131,29 @@ TEST(FascicoloTest, OfDataThatNothingCanBeComputedOfTellsWhy) {
     const Fascicolo vuoto = fascicolo(DatiProgetto{});
     EXPECT_FALSE(vuoto.parete.rifiuto.empty());
     EXPECT_FALSE(vuoto.flessione);
+}
+
+TEST(FascicoloTest, OfNumbersBeyondAllUseIsMadeAllTheSame) {
+    using std::numeric_limits;
+    for (const double valore : {1e300, -1e300, numeric_limits<double>::infinity(),
+                                numeric_limits<double>::quiet_NaN(), 0.0})
+        for (double DatiProgetto::*campo :
+             {&DatiProgetto::lunghezzaParatia, &DatiProgetto::rigidezzaEJ,
+              &DatiProgetto::gammaAcqua, &DatiProgetto::forzaTesta, &DatiProgetto::sforzoNormale}) {
+            auto dati = muro();
+            dati.*campo = valore;
+            const Fascicolo f = fascicoloDi(dati);
+            EXPECT_EQ(f.identita.impronta.size(), std::isfinite(valore) ? 64U : 0U);
+            EXPECT_EQ(f.bilanci.size(), static_cast<std::size_t>(f.parete.fasiInEquilibrio()));
+        }
+    auto dati = muro();
+    dati.tirantiFase[2] = 30;  // more than their table holds
+    EXPECT_FALSE(fascicoloDi(dati).margine);
+    dati = muro();
+    dati.sezione.armNumLong = 1e9;
+    dati.sezione.tipoDiaframma = false;
+    dati.sezione.tipoPaliArmati = true;
+    EXPECT_FALSE(fascicoloDi(dati).flessione);
 }
 
 TEST(FascicoloTest, OfMoreSegmentsThanTheRunTakesHasTheEquilibriumAlone) {
