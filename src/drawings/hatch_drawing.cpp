@@ -4,7 +4,7 @@
 #include <cmath>
 #include <utility>
 
-#include "drawings/hatch_library.hpp"
+#include "drawings/hatch_code.hpp"
 #include "plot/line_clip.hpp"
 #include "plot/plot_engine.hpp"
 
@@ -15,7 +15,6 @@ namespace {
 using plot::Punto;
 using plot::Tratto;
 
-constexpr double mezzoLato = 100;      // of a tile [stroke units]
 constexpr double tolleranza = 0.0001;  // [cm]
 constexpr double lunghezzaPunto = 0.01;
 constexpr Punto nessunaPosizione{9999, 9999};  // no stroke gets there
@@ -41,8 +40,8 @@ void perOgniTratto(const Campitura& campitura, double passo, const plot::Riquadr
     const auto tratti = leggiTratti(campitura);
     if (tratti.empty()) return;
     const Punto centro{(riquadro.xmin + riquadro.xmax) / 2, (riquadro.ymin + riquadro.ymax) / 2};
-    const double u = campitura.unita * std::pow(2, (passo - 1) / 4);
-    const double a = mezzoLato * u;
+    const double u = unitaTratto(campitura, passo);
+    const double a = mezzoLatoPiastrella * u;
     const int nx = piastrelleIntorno(riquadro.larghezza() / 2, a);
     const int ny = piastrelleIntorno(riquadro.altezza() / 2, a);
     for (int j = -ny; j <= ny; ++j)
@@ -80,14 +79,8 @@ class Penna {
 
 void perOgniTratto(double codice, const plot::Riquadro& riquadro, const RiceviTratto& ricevi) {
     const Campiture& tutte = campiture();
-    bool altriGruppi = true;
-    while (altriGruppi) {
-        const double gruppo = std::fmod(codice, 1000);
-        perOgniTratto(tutte[static_cast<long>(std::fmod(gruppo, 100))], std::floor(gruppo / 100),
-                      riquadro, ricevi);
-        altriGruppi = codice >= 1000;
-        codice = std::floor(codice / 1000);
-    }
+    for (const auto& [numero, passo] : gruppiCampitura(codice))
+        perOgniTratto(tutte[numero], passo, riquadro, ricevi);
 }
 
 void disegnaCampitura(double codice, double x1, double x2, double y1, double y2) {

@@ -3,18 +3,18 @@
 #include <cmath>
 
 #include "base/file_error.hpp"
-#include "drawings/hatch_library.hpp"
+#include "drawings/hatch_code.hpp"
 #include "scene/polygon.hpp"
 
 namespace korven::scene {
 
 namespace {
 
-constexpr double mezzoLato = 100;  // of a tile, in stroke units
-constexpr double punto = 0.6;      // length of a dot [px]
+constexpr double punto = 0.6;  // length of a dot [px]
 
 Piastrella piastrella(const drawings::Campitura& campitura, double passo) {
-    const double u = campitura.unita * std::pow(2, (passo - 1) / 4) * pixelPerCentimetro;
+    constexpr double mezzoLato = drawings::mezzoLatoPiastrella;
+    const double u = drawings::unitaTratto(campitura, passo) * pixelPerCentimetro;
     Piastrella p{2 * mezzoLato * u, {}};
     for (const auto& t : drawings::leggiTratti(campitura)) {
         // The library's y runs upward.
@@ -30,15 +30,11 @@ Piastrella piastrella(const drawings::Campitura& campitura, double passo) {
 
 std::vector<Piastrella> piastrelle(double codice) {
     std::vector<Piastrella> tutte;
+    if (!(codice > 0)) return tutte;
     try {
-        for (bool altri = std::isfinite(codice) && codice > 0; altri;
-             codice = std::floor(codice / 1000)) {
-            altri = codice >= 1000;
-            const double gruppo = std::fmod(codice, 1000);
-            const auto& campitura =
-                drawings::campiture()[static_cast<long>(std::fmod(gruppo, 100))];
-            if (campitura.nTratti > 0)
-                tutte.push_back(piastrella(campitura, std::floor(gruppo / 100)));
+        for (const auto& [numero, passo] : drawings::gruppiCampitura(codice)) {
+            const auto& campitura = drawings::campiture()[numero];
+            if (campitura.nTratti > 0) tutte.push_back(piastrella(campitura, passo));
         }
     } catch (const base::ErroreFile&) {
         tutte.clear();

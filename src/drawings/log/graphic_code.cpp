@@ -23,13 +23,8 @@ bool cifraA(std::string_view parola, std::size_t posto) {
 }
 
 std::vector<GruppoCampitura> gruppiDi(double campitura) {
-    std::vector<GruppoCampitura> gruppi;
-    if (campitura > massimoEsatto) return gruppi;
-    for (auto resto = static_cast<long long>(campitura); resto > 0; resto /= cifreGruppo) {
-        const int gruppo = static_cast<int>(resto % cifreGruppo);
-        gruppi.push_back({gruppo % cifreCampitura, gruppo / cifreCampitura});
-    }
-    return gruppi;
+    if (!(campitura >= 1) || campitura > massimoEsatto) return {};
+    return gruppiCampitura(campitura);
 }
 
 // The "A" with what follows it up to the other letter.

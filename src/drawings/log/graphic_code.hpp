@@ -4,14 +4,9 @@
 #include <string_view>
 #include <vector>
 
-namespace korven::drawings {
+#include "drawings/hatch_code.hpp"
 
-/// One hatch of a graphic code.
-struct GruppoCampitura {
-    int campitura = 0;  ///< number of the pattern, 0 to 99; 0 draws nothing
-    int passo = 1;      ///< size step, 0 to 9 (hatch_drawing.hpp)
-    bool operator==(const GruppoCampitura&) const = default;
-};
+namespace korven::drawings {
 
 /// The graphic code at the head of a layer's description, as `leggiDescrizione` reads it, taken
 /// apart so that it can be changed and written again.

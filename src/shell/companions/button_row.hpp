@@ -2,6 +2,7 @@
 
 #include <QHBoxLayout>
 #include <QPushButton>
+#include <functional>
 #include <string_view>
 
 namespace korven::shell {
@@ -23,12 +24,16 @@ class FilaPulsanti : public QWidget {
         connect(fatto, &QPushButton::clicked, this, azione);
         return fatto;
     }
-    /// What is added from now on stands at the right.
-    void parti() { fila_->addStretch(); }
+    /// Adds the button `guida`.
+    /// @param apre  opens the help; empty without a help file: the button stays hidden
+    QPushButton* aggiungiGuida(std::function<void()> apre);
+    /// Ends the row: at the right `chiudi`, which closes the window.
+    void finisci();
 
  private:
     QPushButton* nuovo(const char* nome, const char* testo, std::string_view figura);
 
+    QWidget& finestra_;
     QHBoxLayout* fila_;
 };
 

@@ -3,20 +3,12 @@
 #include <QPainter>
 #include <utility>
 
+#include "device/scene_palette.hpp"
 #include "scene/domain.hpp"
 #include "shell/accessible_roles.hpp"
 #include "shell/qt_text.hpp"
 
 namespace korven::shell {
-
-namespace {
-
-scene::Rgb rgb(const QColor& colore) {
-    const auto parte = [](int c) { return static_cast<std::uint8_t>(c); };
-    return {parte(colore.red()), parte(colore.green()), parte(colore.blue())};
-}
-
-}  // namespace
 
 VistaDominio::VistaDominio(QWidget* padre) : QWidget(padre) {
     setObjectName(QStringLiteral("dominio"));
@@ -38,9 +30,7 @@ void VistaDominio::mostra(std::vector<structure::PuntoDominio> dominio,
 
 void VistaDominio::paintEvent(QPaintEvent*) {
     const device::MisuraTestiQt misura(font());
-    device::PittoreScena pittore(font(),
-                                 scene::tavolozza(rgb(palette().color(QPalette::WindowText)),
-                                                  rgb(palette().color(QPalette::Window))));
+    device::PittoreScena pittore(font(), device::tavolozza(palette()));
     QPainter p(this);
     pittore.dipingi(
         p, scene::scenaDominio(dominio_, fasi_,

@@ -22,8 +22,8 @@ class VistaDominio : public QWidget {
                 std::vector<live::FaseNelDominio> fasi, std::string senza);
     [[nodiscard]] const std::vector<structure::PuntoDominio>& dominio() const { return dominio_; }
 
-    [[nodiscard]] QSize sizeHint() const override { return {450, 230}; }
-    [[nodiscard]] QSize minimumSizeHint() const override { return {180, 130}; }
+    [[nodiscard]] QSize sizeHint() const override { return {480, 230}; }
+    [[nodiscard]] QSize minimumSizeHint() const override { return {180, 84}; }
 
  protected:
     void paintEvent(QPaintEvent* evento) override;

@@ -3,11 +3,11 @@
 #include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QFormLayout>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 
 #include "profiles/catalogue.hpp"
+#include "shell/forms/wrapped_label.hpp"
 #include "shell/qt_text.hpp"
 #include "shell/wrapped_text.hpp"
 
@@ -21,14 +21,6 @@ QLineEdit* fareRiga(const char* nome, const QString& didascalia, QFormLayout& ri
     riga->setMinimumWidth(riga->fontMetrics().averageCharWidth() * 44);
     righe.addRow(didascalia, riga);
     return riga;
-}
-
-QLabel* fareEtichetta(const char* nome, QWidget* padre) {
-    auto* etichetta = new QLabel(padre);
-    etichetta->setObjectName(QLatin1String(nome));
-    etichetta->setTextFormat(Qt::PlainText);
-    etichetta->setWordWrap(true);
-    return etichetta;
 }
 
 }  // namespace
@@ -46,9 +38,9 @@ NuovoProfilo::NuovoProfilo(project::Parte tipo, const project::Sezione& sezione,
     materiali_->setObjectName(QStringLiteral("materiali"));
     materiali_->setChecked(true);
     righe->addRow(QString(), materiali_);
-    misure_ = fareEtichetta("misure", this);
+    misure_ = etichettaInRighe("misure", this);
     righe->addRow(tradotto("Misure"), misure_);
-    perche_ = fareEtichetta("perche", this);
+    perche_ = etichettaInRighe("perche", this);
     righe->addRow(perche_);
     auto* pulsanti = new QDialogButtonBox(this);
     auto* conferma = pulsanti->addButton(tradotto("&Conferma"), QDialogButtonBox::AcceptRole);

@@ -1,7 +1,6 @@
 #include "shell/panels/section_panel.hpp"
 
 #include <QHeaderView>
-#include <QLabel>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTabWidget>
@@ -11,6 +10,7 @@
 #include "base/translated_texts.hpp"
 #include "live/section_checks.hpp"
 #include "profiles/catalogue.hpp"
+#include "shell/forms/wrapped_label.hpp"
 #include "shell/icons/icon_set.hpp"
 #include "shell/live/live_view.hpp"
 #include "shell/panels/domain_view.hpp"
@@ -23,14 +23,6 @@
 namespace korven::shell {
 
 namespace {
-
-QLabel* fareEtichetta(const char* nome, QWidget* padre) {
-    auto* etichetta = new QLabel(padre);
-    etichetta->setObjectName(QLatin1String(nome));
-    etichetta->setTextFormat(Qt::PlainText);
-    etichetta->setWordWrap(true);
-    return etichetta;
-}
 
 QPushButton* farePulsante(const char* nome, const char* figura, const QString& testo,
                           const QString& suggerimento, QWidget* padre) {
@@ -46,10 +38,13 @@ QPushButton* farePulsante(const char* nome, const char* figura, const QString& t
 PannelloSezione::PannelloSezione(DefinEJ& forma, VitaProgetto& vita, base::Dialogo& dialogo)
     : QWidget(&forma), forma_(forma), vita_(vita), dialogo_(dialogo) {
     setObjectName(QStringLiteral("PannelloSezione"));
-    valori_ = fareEtichetta("valori", this);
+    valori_ = etichettaInRighe("valori", this);
     verifiche_ = new VistaProspetto(QStringLiteral("verifiche"), this);
     verifiche_->setWordWrap(false);
-    origine_ = fareEtichetta("origine", this);
+    origine_ = etichettaInRighe("origine", this);
+    // However long their words are, the panel stays where it is.
+    for (QLabel* frasi : {valori_, origine_})
+        frasi->setSizePolicy(QSizePolicy::Ignored, frasi->sizePolicy().verticalPolicy());
     auto* quadri = new QTabWidget(this);
     quadri->setObjectName(QStringLiteral("quadri"));
     quadri->setAccessibleName(tradotto("Dominio N–M"));
@@ -71,9 +66,11 @@ PannelloSezione::PannelloSezione(DefinEJ& forma, VitaProgetto& vita, base::Dialo
     // One below the other: on a small screen the panel is narrow.
     colonna->addWidget(catalogo);
     colonna->addWidget(aggiungi);
-    // All rows that there can be: the picture below would jump with the stirrups otherwise.
+    // All rows that there can be, and heads of two lines: the picture below would jump with the
+    // stirrups otherwise.
     constexpr int righe = 4;
-    verifiche_->setFixedHeight(verifiche_->horizontalHeader()->sizeHint().height() +
+    constexpr int intorno = 8;  // of the heads [px]
+    verifiche_->setFixedHeight(2 * fontMetrics().lineSpacing() + intorno +
                                righe * verifiche_->verticalHeader()->defaultSectionSize() +
                                verifiche_->horizontalScrollBar()->sizeHint().height() +
                                2 * verifiche_->frameWidth());

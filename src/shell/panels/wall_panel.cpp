@@ -1,16 +1,14 @@
 #include "shell/panels/wall_panel.hpp"
 
 #include <QStyle>
-#include <QVBoxLayout>
 #include <string>
 
 #include "base/code_page.hpp"
 #include "panels/stage_words.hpp"
 #include "scene/scene.hpp"
 #include "shell/form_sizes.hpp"
-#include "shell/panels/stage_panel.hpp"
+#include "shell/panels/stage_sketch.hpp"
 #include "shell/qt_text.hpp"
-#include "shell/wrapped_text.hpp"
 
 namespace korven::shell {
 
@@ -28,19 +26,9 @@ std::string parole(const live::ProgettoVivo& vivo) {
 PannelloParatia::PannelloParatia(const QWidget& forma, VitaProgetto& vita)
     : PannelloLaterale(QStringLiteral("pannelloParatia"), tradotto("Figura del progetto")),
       vita_(vita),
-      schizzo_(new SchizzoFase(vita, this)),
-      parole_(new QLabel(this)) {
-    schizzo_->setAccessibleName(tradotto("Figura del progetto"));
-    parole_->setObjectName(QStringLiteral("paroleParatia"));
-    parole_->setWordWrap(true);
-    parole_->setAlignment(Qt::AlignTop | Qt::AlignLeft);
-    parole_->setMinimumHeight(righeParole * fontMetrics().lineSpacing());
-    auto* tutto = new QWidget(this);
-    auto* colonna = new QVBoxLayout(tutto);
-    colonna->setContentsMargins(0, 0, 0, 0);
-    colonna->addWidget(schizzo_, 1);
-    colonna->addWidget(parole_);
-    riempi(nullptr, tutto);
+      schizzo_(new SchizzoConParole(vita, tradotto("Figura del progetto"), "paroleParatia",
+                                    righeParole, this)) {
+    riempi(nullptr, schizzo_);
     const int perICampi =
         forma.minimumSizeHint().width() + style()->pixelMetric(QStyle::PM_ScrollBarExtent);
     if (perICampi + minimumSizeHint().width() > misuraMassima(forma).width()) piega();
@@ -51,10 +39,7 @@ PannelloParatia::PannelloParatia(const QWidget& forma, VitaProgetto& vita)
 void PannelloParatia::aggiorna() {
     const live::ProgettoVivo& vivo = vita_.vivo();
     if (!vivo.aperto()) return;
-    schizzo_->mostra(vivo.vista().fase);
-    const std::string dette = parole(vivo);
-    schizzo_->setAccessibleDescription(qt(dette));
-    parole_->setText(inRighe(dette));
+    schizzo_->mostra(vivo.vista().fase, parole(vivo));
 }
 
 }  // namespace korven::shell

@@ -3,11 +3,9 @@
 #include "shell/live/live_view.hpp"
 #include "shell/panels/side_panel.hpp"
 
-class QLabel;
-
 namespace korven::shell {
 
-class SchizzoFase;
+class SchizzoConParole;
 
 /// Beside the fields of the wall: its picture in the stage that the main form shows, and below it
 /// in words what it comes to; both follow what is typed. Where the screen has no room for fields
@@ -24,8 +22,7 @@ class PannelloParatia : public PannelloLaterale {
     void aggiorna();
 
     VitaProgetto& vita_;
-    SchizzoFase* schizzo_;
-    QLabel* parole_;
+    SchizzoConParole* schizzo_;
 };
 
 }  // namespace korven::shell

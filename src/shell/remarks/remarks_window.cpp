@@ -2,7 +2,6 @@
 
 #include <QEvent>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -10,6 +9,7 @@
 #include <utility>
 
 #include "shell/companions/button_row.hpp"
+#include "shell/forms/wrapped_label.hpp"
 #include "shell/qt_text.hpp"
 #include "shell/remarks/remark_delegate.hpp"
 
@@ -30,10 +30,7 @@ FinestraOsservazioni::FinestraOsservazioni(QWidget& principale, Azioni azioni)
     : FinestraCompagna(principale, QStringLiteral("osservazioni"),
                        tradotto("Osservazioni sul progetto"), misuraComoda),
       azioni_(std::move(azioni)) {
-    conteggio_ = new QLabel(this);
-    conteggio_->setObjectName(QStringLiteral("conteggio"));
-    conteggio_->setTextFormat(Qt::PlainText);
-    conteggio_->setWordWrap(true);
+    conteggio_ = etichettaInRighe("conteggio", this);
     lista_ = new QListWidget(this);
     lista_->setObjectName(QStringLiteral("lista"));
     lista_->setAccessibleName(windowTitle());
@@ -55,10 +52,9 @@ FinestraOsservazioni::FinestraOsservazioni(QWidget& principale, Azioni azioni)
 QWidget* FinestraOsservazioni::farePulsanti() {
     auto* riga = new FilaPulsanti(*this);
     apri_ = riga->aggiungi("apri", "&Apri il campo", "look", [this] { apri(); });
-    guida_ = riga->aggiungi("guida", "&Help", "help", [this] { mostraGuida(); });
-    guida_->setVisible(static_cast<bool>(azioni_.guida));
-    riga->parti();
-    riga->aggiungi("chiudi", "&Chiudi", "close", [this] { close(); });
+    guida_ =
+        riga->aggiungiGuida(azioni_.guida ? [this] { mostraGuida(); } : std::function<void()>());
+    riga->finisci();
     return riga;
 }
 

@@ -3,7 +3,6 @@
 #include <QDateTime>
 #include <QHBoxLayout>
 #include <QHeaderView>
-#include <QLabel>
 #include <QPushButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -11,6 +10,7 @@
 #include "base/filled_text.hpp"
 #include "base/translated_texts.hpp"
 #include "shell/form_sizes.hpp"
+#include "shell/forms/wrapped_label.hpp"
 #include "shell/qt_text.hpp"
 #include "shell/rescue/rescue_state.hpp"
 
@@ -34,14 +34,6 @@ QString istante(std::time_t quando) {
 
 bool filePiuRecente(const OffertaRecupero& offerta) {
     return offerta.salvato && *offerta.salvato > offerta.scritto;
-}
-
-QLabel* frase(const QString& testo, const char* nome, QWidget* padre) {
-    auto* fatta = new QLabel(testo, padre);
-    fatta->setObjectName(QLatin1String(nome));
-    fatta->setTextFormat(Qt::PlainText);
-    fatta->setWordWrap(true);
-    return fatta;
 }
 
 // A row that only one of the two states has.
@@ -79,7 +71,7 @@ FormaRecupero::FormaRecupero(const OffertaRecupero& offerta, QWidget* padre)
     setProperty("paginaGuida", QStringLiteral("recupero"));
     setWindowTitle(tradotto("Lavoro recuperato"));
     auto* colonna = new QVBoxLayout(this);
-    colonna->addWidget(frase(spiegazione(offerta), "spiegazione", this));
+    colonna->addWidget(etichettaInRighe("spiegazione", this, spiegazione(offerta)));
     colonna->addWidget(fareStati(), 3);
     colonna->addWidget(fareDifferenze(), 2);
     colonna->addWidget(farePulsanti());
@@ -124,7 +116,7 @@ QWidget* FormaRecupero::fareDifferenze() {
         for (int c = 0; c < elenco->columnCount(); ++c) voce->setToolTip(c, voce->text(c));
     }
     elenco->setCurrentItem(elenco->topLevelItem(0));
-    colonna->addWidget(frase(quante, "quante", parte));
+    colonna->addWidget(etichettaInRighe("quante", parte, quante));
     colonna->addWidget(elenco, 1);
     return parte;
 }

@@ -10,6 +10,7 @@
 
 #include "base/axis_steps.hpp"
 #include "device/scene_painter.hpp"
+#include "device/scene_palette.hpp"
 #include "shell/accessible_roles.hpp"
 #include "shell/qt_text.hpp"
 
@@ -23,12 +24,7 @@ using tables::CurvaMostrata;
 constexpr double fra = 14;  // between two panels [px]
 
 QColor colore(Ruolo ruolo, const QPalette& colori) {
-    const auto rgb = [](const QColor& c) {
-        return scene::Rgb{static_cast<std::uint8_t>(c.red()), static_cast<std::uint8_t>(c.green()),
-                          static_cast<std::uint8_t>(c.blue())};
-    };
-    return device::qColore({ruolo}, scene::tavolozza(rgb(colori.color(QPalette::WindowText)),
-                                                     rgb(colori.color(QPalette::Window))));
+    return device::qColore({ruolo}, device::tavolozza(colori));
 }
 
 double passoProfondita(double z) {

@@ -2,18 +2,17 @@
 
 #include <QComboBox>
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QPointer>
-#include <QPushButton>
-#include <QTabWidget>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <memory>
 #include <utility>
 
 #include "shell/companions/button_row.hpp"
+#include "shell/forms/wrapped_label.hpp"
 #include "shell/qt_text.hpp"
 #include "shell/results/curves_view.hpp"
+#include "shell/tables/table_pages.hpp"
 #include "shell/tables/table_view.hpp"
 #include "shell/wrapped_text.hpp"
 #include "tables/anchor_table.hpp"
@@ -41,20 +40,15 @@ FinestraRisultati::FinestraRisultati(QWidget& principale, VitaProgetto& vita,
       vita_(vita) {
     auto* colonna = new QVBoxLayout(this);
     colonna->addWidget(fareRiga());
-    pagine_ = new QTabWidget(this);
-    pagine_->setObjectName(QStringLiteral("pagine"));
-    pagine_->setAccessibleName(windowTitle());
+    pagine_ = new PagineProspetti(this);
     colonna->addWidget(pagine_, 1);
-    nodi_ = farePagina("nodi", "Nodi");
+    nodi_ = pagine_->aggiungi("nodi", "Nodi");
     nodi_->setWordWrap(false);  // rows of one height, of which there are hundreds
-    tiranti_ = farePagina("tiranti", "Tiranti");
-    verifiche_ = farePagina("verifiche", "Verifiche");
-    fasi_ = farePagina("fasi", "Fasi");
+    tiranti_ = pagine_->aggiungi("tiranti", "Tiranti");
+    verifiche_ = pagine_->aggiungi("verifiche", "Verifiche");
+    fasi_ = pagine_->aggiungi("fasi", "Fasi");
     farePaginaCurve();
-    nota_ = new QLabel(this);
-    nota_->setObjectName(QStringLiteral("nota"));
-    nota_->setTextFormat(Qt::PlainText);
-    nota_->setWordWrap(true);
+    nota_ = etichettaInRighe("nota", this);
     colonna->addWidget(nota_);
     colonna->addWidget(farePulsanti(guida));
     connect(pagine_, &QTabWidget::currentChanged, this, [this] { seguiPagina(); });
@@ -84,13 +78,6 @@ QWidget* FinestraRisultati::fareRiga() {
     return riga;
 }
 
-VistaProspetto* FinestraRisultati::farePagina(const char* nome, const char* titolo) {
-    auto* vista = new VistaProspetto(QLatin1String(nome), pagine_);
-    vista->setAccessibleName(tradotto(titolo));
-    pagine_->addTab(vista, tradotto(titolo));
-    return vista;
-}
-
 void FinestraRisultati::farePaginaCurve() {
     curve_ = new VistaCurve(pagine_);
     pagine_->addTab(curve_, tradotto("Curve"));
@@ -104,16 +91,9 @@ void FinestraRisultati::farePaginaCurve() {
 
 QWidget* FinestraRisultati::farePulsanti(const std::function<void(const std::string&)>& guida) {
     auto* riga = new FilaPulsanti(*this);
-    copia_ = riga->aggiungi("copia", "C&opia", "copy", [this] {
-        if (const auto* vista = dynamic_cast<VistaProspetto*>(pagine_->currentWidget()))
-            vista->copia();
-    });
-    copia_->setToolTip(
-        tradotto("Copia la tabella, o la parte scelta, per un foglio di calcolo (Ctrl+C)"));
-    riga->aggiungi("guida", "&Help", "help", [guida] { guida(paginaGuida); })
-        ->setVisible(static_cast<bool>(guida));
-    riga->parti();
-    riga->aggiungi("chiudi", "&Chiudi", "close", [this] { close(); });
+    pagine_->aggiungiCopia(*riga);
+    riga->aggiungiGuida(guida ? [guida] { guida(paginaGuida); } : std::function<void()>());
+    riga->finisci();
     return riga;
 }
 
@@ -147,7 +127,6 @@ void FinestraRisultati::seguiScelta() {
 void FinestraRisultati::seguiPagina() {
     const live::ProgettoVivo& vivo = vita_.vivo();
     const QWidget* pagina = pagine_->currentWidget();
-    copia_->setEnabled(pagina != curve_);
     if (!vivo.aperto()) {
         nota_->setText(tradotto("Nessun progetto aperto"));
         return;

@@ -10,11 +10,10 @@
 
 class QComboBox;
 class QLabel;
-class QPushButton;
-class QTabWidget;
 
 namespace korven::shell {
 
+class PagineProspetti;
 class VistaCurve;
 class VistaProspetto;
 
@@ -32,7 +31,6 @@ class FinestraRisultati : public FinestraCompagna {
     void showEvent(QShowEvent* evento) override;
 
  private:
-    VistaProspetto* farePagina(const char* nome, const char* titolo);
     void farePaginaCurve();
     QWidget* fareRiga();
     QWidget* farePulsanti(const std::function<void(const std::string&)>& guida);
@@ -46,11 +44,10 @@ class FinestraRisultati : public FinestraCompagna {
 
     VitaProgetto& vita_;
     QComboBox* scelta_ = nullptr;
-    QTabWidget* pagine_ = nullptr;
+    PagineProspetti* pagine_ = nullptr;
     VistaProspetto *nodi_ = nullptr, *tiranti_ = nullptr, *verifiche_ = nullptr, *fasi_ = nullptr;
     VistaCurve* curve_ = nullptr;
     QLabel* nota_ = nullptr;
-    QPushButton* copia_ = nullptr;
 };
 
 /// Plugs the window into the item of the menu.

@@ -4,21 +4,13 @@
 #include <utility>
 
 #include "device/scene_painter.hpp"
+#include "device/scene_palette.hpp"
 #include "scene/scene.hpp"
 #include "shell/accessible_roles.hpp"
 #include "shell/qt_text.hpp"
 #include "shell/wrapped_text.hpp"
 
 namespace korven::shell {
-
-namespace {
-
-scene::Rgb rgb(const QColor& c) {
-    return {static_cast<std::uint8_t>(c.red()), static_cast<std::uint8_t>(c.green()),
-            static_cast<std::uint8_t>(c.blue())};
-}
-
-}  // namespace
 
 VistaMeccanismo::VistaMeccanismo(QWidget* padre) : QWidget(padre) {
     setObjectName(QStringLiteral("meccanismo"));
@@ -37,8 +29,7 @@ void VistaMeccanismo::mostra(std::optional<live::PareteViva> parete, const QStri
 }
 
 void VistaMeccanismo::paintEvent(QPaintEvent*) {
-    const scene::Tavolozza tavolozza = scene::tavolozza(rgb(palette().color(QPalette::WindowText)),
-                                                        rgb(palette().color(QPalette::Window)));
+    const scene::Tavolozza tavolozza = device::tavolozza(palette());
     QPainter p(this);
     p.fillRect(rect(), device::qColore({scene::Ruolo::sfondo}, tavolozza));
     if (!parete_) {

@@ -1,18 +1,17 @@
 #include "shell/safety/safety_window.hpp"
 
-#include <QLabel>
 #include <QPointer>
-#include <QPushButton>
 #include <QSplitter>
-#include <QTabWidget>
 #include <QVBoxLayout>
 #include <memory>
 #include <utility>
 
 #include "live/limit_wall.hpp"
 #include "shell/companions/button_row.hpp"
+#include "shell/forms/wrapped_label.hpp"
 #include "shell/qt_text.hpp"
 #include "shell/safety/mechanism_view.hpp"
+#include "shell/tables/table_pages.hpp"
 #include "shell/tables/table_view.hpp"
 #include "shell/wrapped_text.hpp"
 #include "tables/margin_table.hpp"
@@ -34,26 +33,17 @@ FinestraSicurezza::FinestraSicurezza(QWidget& principale, VitaProgetto& vita,
     : FinestraCompagna(principale, QStringLiteral("sicurezza"), tradotto("Sicurezza"),
                        misuraComoda),
       vita_(vita) {
-    const auto etichetta = [this](const char* nome) {
-        auto* fatta = new QLabel(this);
-        fatta->setObjectName(QLatin1String(nome));
-        fatta->setTextFormat(Qt::PlainText);
-        fatta->setWordWrap(true);
-        return fatta;
-    };
-    verdetto_ = etichetta("verdetto");
+    verdetto_ = etichettaInRighe("verdetto", this);
     QFont grassetto = font();
     grassetto.setBold(true);
     verdetto_->setFont(grassetto);
-    frasi_ = etichetta("frasi");
+    frasi_ = etichettaInRighe("frasi", this);
     auto* meta = new QSplitter(Qt::Horizontal, this);
     meta->setChildrenCollapsible(false);
-    pagine_ = new QTabWidget(meta);
-    pagine_->setObjectName(QStringLiteral("pagine"));
-    pagine_->setAccessibleName(windowTitle());
-    margine_ = farePagina("margine", "Margine per fase");
-    statica_ = farePagina("statica", "Statica e relazione");
-    maglia_ = farePagina("maglia", "Errore di maglia");
+    pagine_ = new PagineProspetti(meta);
+    margine_ = pagine_->aggiungi("margine", "Margine per fase");
+    statica_ = pagine_->aggiungi("statica", "Statica e relazione");
+    maglia_ = pagine_->aggiungi("maglia", "Errore di maglia");
     meccanismo_ = new VistaMeccanismo(meta);
     meta->addWidget(pagine_);
     meta->addWidget(meccanismo_);
@@ -71,23 +61,11 @@ FinestraSicurezza::FinestraSicurezza(QWidget& principale, VitaProgetto& vita,
     });
 }
 
-VistaProspetto* FinestraSicurezza::farePagina(const char* nome, const char* titolo) {
-    auto* vista = new VistaProspetto(QLatin1String(nome), pagine_);
-    vista->setAccessibleName(tradotto(titolo));
-    pagine_->addTab(vista, tradotto(titolo));
-    return vista;
-}
-
 QWidget* FinestraSicurezza::farePulsanti(const std::function<void(const std::string&)>& guida) {
     auto* riga = new FilaPulsanti(*this);
-    riga->aggiungi("copia", "C&opia", "copy",
-                   [this] { static_cast<VistaProspetto*>(pagine_->currentWidget())->copia(); })
-        ->setToolTip(
-            tradotto("Copia la tabella, o la parte scelta, per un foglio di calcolo (Ctrl+C)"));
-    riga->aggiungi("guida", "&Help", "help", [guida] { guida(paginaGuida); })
-        ->setVisible(static_cast<bool>(guida));
-    riga->parti();
-    riga->aggiungi("chiudi", "&Chiudi", "close", [this] { close(); });
+    pagine_->aggiungiCopia(*riga);
+    riga->aggiungiGuida(guida ? [guida] { guida(paginaGuida); } : std::function<void()>());
+    riga->finisci();
     return riga;
 }
 

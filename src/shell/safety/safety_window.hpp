@@ -9,10 +9,10 @@
 #include "tables/safety_summary.hpp"
 
 class QLabel;
-class QTabWidget;
 
 namespace korven::shell {
 
+class PagineProspetti;
 class VistaMeccanismo;
 class VistaProspetto;
 
@@ -30,14 +30,13 @@ class FinestraSicurezza : public FinestraCompagna {
     void showEvent(QShowEvent* evento) override;
 
  private:
-    VistaProspetto* farePagina(const char* nome, const char* titolo);
     QWidget* farePulsanti(const std::function<void(const std::string&)>& guida);
     void segui();
     void mostra(const tables::Riassunto& riassunto);
 
     VitaProgetto& vita_;
     QLabel* verdetto_ = nullptr;
-    QTabWidget* pagine_ = nullptr;
+    PagineProspetti* pagine_ = nullptr;
     VistaProspetto *margine_ = nullptr, *statica_ = nullptr, *maglia_ = nullptr;
     VistaMeccanismo* meccanismo_ = nullptr;
     QLabel* frasi_ = nullptr;

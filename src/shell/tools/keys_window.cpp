@@ -59,8 +59,7 @@ FinestraTasti::FinestraTasti(QWidget& principale)
     auto* colonna = new QVBoxLayout(this);
     colonna->addWidget(elenco);
     auto* fila = new FilaPulsanti(*this);
-    fila->parti();
-    fila->aggiungi("chiudi", "&Chiudi", "close", [this] { close(); });
+    fila->finisci();
     colonna->addWidget(fila);
     elenco->setFocus();
 }

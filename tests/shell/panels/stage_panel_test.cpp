@@ -7,6 +7,7 @@
 #include <QLabel>
 
 #include "base/code_page.hpp"
+#include "panels/stage_words.hpp"
 #include "support/panel_bench.hpp"
 #include "support/wall_builder.hpp"
 

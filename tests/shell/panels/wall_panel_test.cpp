@@ -14,7 +14,7 @@
 #include "scene/scene.hpp"
 #include "shell/form_sizes.hpp"
 #include "shell/masks/base1.hpp"
-#include "shell/panels/stage_panel.hpp"
+#include "shell/panels/stage_sketch.hpp"
 #include "support/panel_bench.hpp"
 #include "support/wall_builder.hpp"
 
