@@ -94,8 +94,9 @@ void controllaTestate(const QTableView& griglia) {
     QFont grassetto = griglia.font();
     grassetto.setBold(true);  // as that of the current column is
     for (int c = 0; c < griglia.model()->columnCount(); ++c)
-        EXPECT_LE(QFontMetrics(grassetto).horizontalAdvance(
-                      griglia.model()->headerData(c, Qt::Horizontal).toString()),
+        EXPECT_LE(QFontMetrics(grassetto)
+                      .size(0, griglia.model()->headerData(c, Qt::Horizontal).toString())
+                      .width(),
                   griglia.columnWidth(c))
             << "column " << c;
 }

@@ -68,6 +68,7 @@ void ModelloProspetto::mostra(tables::Prospetto prospetto) {
     if (prospetto.colonne.size() != prospetto_.colonne.size()) {
         beginResetModel();
         prospetto_ = std::move(prospetto);
+        teste_.clear();
         if (colonna_ >= columnCount()) colonna_ = -1;
         ordine_ = ordinate();
         endResetModel();
@@ -82,8 +83,17 @@ void ModelloProspetto::mostra(tables::Prospetto prospetto) {
     if (dopo > prima) endInsertRows();
     if (dopo < prima) endRemoveRows();
     riordina();
-    if (teste) emit headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
+    if (teste) {
+        teste_.clear();
+        emit headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
+    }
     cambiateTutte();
+}
+
+void ModelloProspetto::mostraTeste(QStringList teste) {
+    if (teste == teste_) return;
+    teste_ = std::move(teste);
+    if (columnCount() > 0) emit headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
 }
 
 void ModelloProspetto::sospendi(bool sospeso) {
@@ -153,6 +163,8 @@ QVariant ModelloProspetto::headerData(int sezione, Qt::Orientation verso, int ru
     const Colonna& colonna = prospetto_.colonne[static_cast<std::size_t>(sezione)];
     switch (ruolo) {
         case Qt::DisplayRole:
+            if (sezione < teste_.size()) return teste_[sezione];
+            [[fallthrough]];
         case Qt::AccessibleTextRole:
             return qt(colonna.testa());
         case Qt::ToolTipRole:

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractTableModel>
+#include <QStringList>
 #include <vector>
 
 #include "tables/result_table.hpp"
@@ -20,6 +21,8 @@ class ModelloProspetto : public QAbstractTableModel {
 
     /// Shows this table in place of the one before. One with other heads is another table.
     void mostra(tables::Prospetto prospetto);
+    /// Shows the heads broken into lines; those who can't see them hear them in one.
+    void mostraTeste(QStringList teste);
     /// Shows it in grey: what it says is of the wall before.
     void sospendi(bool sospeso);
 
@@ -40,6 +43,7 @@ class ModelloProspetto : public QAbstractTableModel {
     void cambiateTutte();
 
     tables::Prospetto prospetto_;
+    QStringList teste_;                // as they are broken; none: in one line
     std::vector<std::size_t> ordine_;  // rows of the table as they are shown
     int colonna_ = -1;
     bool crescente_ = true;

@@ -45,6 +45,11 @@ bool haBarre(const ModelloProspetto& modello, int colonna) {
     });
 }
 
+QFont grassetto(QFont carattere) {
+    carattere.setBold(true);
+    return carattere;
+}
+
 }  // namespace
 
 QString insieme(const std::vector<std::string>& frasi) {
@@ -70,6 +75,9 @@ VistaProspetto::VistaProspetto(const QString& nome, QWidget* padre)
     setSortingEnabled(true);
     connect(horizontalHeader(), &QHeaderView::sectionResized, this,
             [this](int colonna, int, int larghezza) { tieni(colonna, larghezza); });
+    connect(horizontalHeader(), &QHeaderView::sortIndicatorChanged, this, [this] {
+        if (misura(false)) adatta();
+    });
 }
 
 // The last one takes what is left of the window.
@@ -94,53 +102,96 @@ void VistaProspetto::mostra(tables::Prospetto prospetto) {
     viewport()->update();
 }
 
+int VistaProspetto::freccia(int colonna) const {
+    if (colonna != horizontalHeader()->sortIndicatorSection()) return 0;
+    return style()->pixelMetric(QStyle::PM_HeaderMarkSize, nullptr, this);
+}
+
+tables::LarghezzaTesto VistaProspetto::larghezzaTesta() const {
+    // In bold letters, as some desktops write them, a head may use the room beside it.
+    return [misure = QFontMetrics(horizontalHeader()->font()),
+            grasse = QFontMetrics(grassetto(horizontalHeader()->font()))](std::string_view testo) {
+        return std::max(misure.horizontalAdvance(qt(testo)),
+                        grasse.horizontalAdvance(qt(testo)) + 2 - margine);
+    };
+}
+
 // Columns only grow while the table is the same: they would dance with every key otherwise.
 bool VistaProspetto::misura(bool altra) {
-    const std::vector<int> prima = larghezze_;
+    const std::vector<int> prima = larghezze_, primaStrette = strette_;
     if (altra) {
         larghezze_.clear();
+        strette_.clear();
         tenute_.clear();
     }
     larghezze_.resize(static_cast<std::size_t>(modello_->columnCount()));
-    teste_.resize(larghezze_.size());
-    QFont grassetto = font();
-    grassetto.setBold(true);
-    const QFontMetrics misure(grassetto);
-    const int freccia = style()->pixelMetric(QStyle::PM_HeaderMarkSize, nullptr, this);
+    strette_.resize(larghezze_.size());
+    const auto larga = larghezzaTesta();
+    const QFontMetrics misure(grassetto(font()));
     for (int c = 0; c < modello_->columnCount(); ++c) {
-        const QString testa = modello_->headerData(c, Qt::Horizontal, Qt::DisplayRole).toString();
-        const int teste = misure.horizontalAdvance(testa) + freccia;
+        const auto i = static_cast<std::size_t>(c);
+        const tables::Colonna& colonna = modello_->prospetto().colonne[i];
         const int celle =
-            std::min(misure.horizontalAdvance(piuLungo(*modello_, c)), larghezzaParole);
-        const int minima = haBarre(*modello_, c) ? larghezzaBarre : 0;
-        const int serve = std::max({teste, celle, minima}) + margine;
-        teste_[static_cast<std::size_t>(c)] = teste + margine;
-        int& larga = larghezze_[static_cast<std::size_t>(c)];
-        larga = std::max(larga, serve);
+            std::max(std::min(misure.horizontalAdvance(piuLungo(*modello_, c)), larghezzaParole),
+                     haBarre(*modello_, c) ? larghezzaBarre : 0);
+        const auto almeno = [&](int& larghezza, int testa) {
+            larghezza = std::max(larghezza, std::max(testa + freccia(c), celle) + margine);
+        };
+        almeno(larghezze_[i], larga(colonna.testa()));
+        almeno(strette_[i], tables::larghezzaMinimaTesta(colonna, larga));
     }
-    return altra || larghezze_ != prima;
+    return altra || larghezze_ != prima || strette_ != primaStrette;
 }
 
-// What is missing in width is taken from the words, which have the height of rows instead.
+// What is missing in width is taken from the heads, which are broken into lines, and then from the
+// words, which have the height of rows instead or, without `wordWrap`, their tool tip.
+std::vector<int> VistaProspetto::ripartite() const {
+    std::vector<int> volute = larghezze_;
+    for (const auto& [colonna, tenuta] : tenute_)
+        volute[static_cast<std::size_t>(colonna)] = tenuta;
+    const auto mancano = [&] {
+        return std::accumulate(volute.begin(), volute.end(), 0) - viewport()->width();
+    };
+    std::vector<int> cede(volute.size());
+    for (std::size_t c = 0; c < volute.size(); ++c)
+        if (!tenute_.contains(static_cast<int>(c))) cede[c] = larghezze_[c] - strette_[c];
+    if (const int manca = mancano(), tutto = std::accumulate(cede.begin(), cede.end(), 0);
+        manca > 0 && tutto > 0)
+        for (std::size_t c = 0; c < volute.size(); ++c)
+            volute[c] -= manca >= tutto ? cede[c] : (cede[c] * manca + tutto - 1) / tutto;
+    int manca = mancano();
+    for (std::size_t c = volute.size(); c-- > 0;) {
+        if (tenute_.contains(static_cast<int>(c)) || manca <= 0 ||
+            modello_->prospetto().colonne[c].numerica)
+            continue;
+        const int larga = volute[c];
+        const int testa = larghezzaMinimaTesta(modello_->prospetto().colonne[c], larghezzaTesta()) +
+                          freccia(static_cast<int>(c)) + margine;
+        volute[c] =
+            std::clamp(larga - manca, std::min(std::max(paroleStrette, testa), larga), larga);
+        manca -= larga - volute[c];
+    }
+    return volute;
+}
+
 void VistaProspetto::adatta() {
     // A scroll bar that comes or goes asks before the new columns are measured.
     if (larghezze_.size() != modello_->prospetto().colonne.size()) return;
     const QScopedValueRollback<bool> durante(dispone_, true);
-    std::vector<int> volute = larghezze_;
-    for (const auto& [colonna, tenuta] : tenute_)
-        volute[static_cast<std::size_t>(colonna)] = tenuta;
-    int manca = std::accumulate(volute.begin(), volute.end(), 0) - viewport()->width();
-    for (std::size_t c = volute.size(); c-- > 0;) {
-        int larga = volute[c];
-        if (wordWrap() && !tenute_.contains(static_cast<int>(c)) && manca > 0 &&
-            !modello_->prospetto().colonne[c].numerica) {
-            larga = std::clamp(larga - manca, std::min(std::max(paroleStrette, teste_[c]), larga),
-                               larga);
-            manca -= volute[c] - larga;
-        }
-        setColumnWidth(static_cast<int>(c), larga);
-    }
+    const std::vector<int> volute = ripartite();
+    for (std::size_t c = 0; c < volute.size(); ++c) setColumnWidth(static_cast<int>(c), volute[c]);
+    spezzaTeste();
     if (wordWrap()) resizeRowsToContents();
+}
+
+// As wide as they are now, the last one included, which takes what is left of the window.
+void VistaProspetto::spezzaTeste() {
+    QStringList teste;
+    for (int c = 0; c < modello_->columnCount(); ++c)
+        teste << qt(tables::testaInRighe(modello_->prospetto().colonne[static_cast<std::size_t>(c)],
+                                         columnWidth(c) - margine - freccia(c), larghezzaTesta()));
+    modello_->mostraTeste(std::move(teste));
+    updateGeometries();
 }
 
 void VistaProspetto::resizeEvent(QResizeEvent* evento) {

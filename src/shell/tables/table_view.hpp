@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "shell/tables/table_model.hpp"
+#include "tables/column_head.hpp"
 
 class QMimeData;
 
@@ -15,9 +16,10 @@ namespace korven::shell {
 [[nodiscard]] QString insieme(const std::vector<std::string>& frasi);
 
 /// A table of results to look at: sorted by a click on a head or by its menu, copied with the heads
-/// into a spreadsheet. Words go into several lines where the window is too narrow for them, unless
-/// `wordWrap` is taken from it. A column whose edge was dragged keeps its width until
-/// the table has other columns. A table without rows shows its notes in their place: why.
+/// into a spreadsheet. Heads and words go into several lines where the window is too narrow for
+/// them, the words of the cells unless `wordWrap` is taken from it. A column whose edge was dragged
+/// keeps its width until the table has other columns. A table without rows shows its notes in their
+/// place: why.
 ///
 /// Keys: Ctrl+A selects all, Ctrl+C copies what is selected, all where it is one cell; the menu key
 /// opens the menu, which sorts by the column of the current cell.
@@ -43,11 +45,16 @@ class VistaProspetto : public QTableView {
  private:
     [[nodiscard]] bool misura(bool altra);
     void adatta();
+    [[nodiscard]] std::vector<int> ripartite() const;
+    void spezzaTeste();
+    [[nodiscard]] int freccia(int colonna) const;  // room for the arrow of the order [px]
+    [[nodiscard]] tables::LarghezzaTesto larghezzaTesta() const;
     void tieni(int colonna, int larghezza);
 
     ModelloProspetto* modello_;
-    // That the texts of each column need in one line, and its head alone [px].
-    std::vector<int> larghezze_, teste_;
+    // That each column needs with its head in one line, and with its words one below the other
+    // [px].
+    std::vector<int> larghezze_, strette_;
     std::map<int, int> tenute_;  // columns that the user has drawn to a width [px]
     bool dispone_ = false;
 };

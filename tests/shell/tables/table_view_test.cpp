@@ -147,6 +147,8 @@ TEST_F(VistaProspettoTest, HasColumnsThatGrowAndFitAnewInAnotherTable) {
 }
 
 TEST_F(VistaProspettoTest, KeepsTheWidthToWhichAColumnWasDragged) {
+    constexpr QSize comoda(2400, 200);  // all heads in one line
+    vista.resize(comoda);
     const int prima = vista.columnWidth(3);
     auto& testa = *vista.horizontalHeader();
     const QPoint bordo(testa.sectionViewportPosition(3) - 1, testa.height() / 2);
@@ -157,12 +159,28 @@ TEST_F(VistaProspettoTest, KeepsTheWidthToWhichAColumnWasDragged) {
     ASSERT_EQ(vista.columnWidth(2), voluta);
     vista.resize(500, 200);
     vista.mostra(nodi(5.5));
-    vista.resize(1200, 200);
+    vista.resize(comoda);
     EXPECT_EQ(vista.columnWidth(2), voluta);
     EXPECT_EQ(vista.columnWidth(3), prima);
     vista.mostra(Prospetto{});
     vista.mostra(nodi(5));
     EXPECT_EQ(vista.columnWidth(2), voluta - 37);
+}
+
+TEST_F(VistaProspettoTest, BreaksHeadsBeforeAColumnLeavesTheWindow) {
+    const auto testa = [this](int ruolo) {
+        return vista.modello().headerData(3, Qt::Horizontal, ruolo).toString();
+    };
+    vista.resize(2400, 200);
+    EXPECT_EQ(testa(Qt::DisplayRole), QStringLiteral("Momento [kN m/m]"));
+    const int bassa = vista.horizontalHeader()->height();
+    vista.resize(960, 200);
+    EXPECT_EQ(testa(Qt::DisplayRole), QStringLiteral("Momento\n[kN m/m]"));
+    EXPECT_EQ(testa(Qt::AccessibleTextRole), QStringLiteral("Momento [kN m/m]"));
+    EXPECT_GT(vista.horizontalHeader()->height(), bassa);
+    EXPECT_EQ(vista.horizontalScrollBar()->maximum(), 0);
+    const int cifre = vista.fontMetrics().horizontalAdvance(QStringLiteral("-1234.56"));
+    for (int c = 2; c < 9; ++c) EXPECT_GE(vista.columnWidth(c), cifre) << c;
 }
 
 TEST_F(VistaProspettoTest, ExplainsItsColumns) {
