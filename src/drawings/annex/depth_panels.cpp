@@ -138,29 +138,61 @@ class Pannelli::Pannello {
                Ancora::centro);
     }
 
-    // As many numbers as stand clear of each other.
-    [[nodiscard]] double passoNumeri() const {
-        for (int quanti = 5;; --quanti) {
-            const double passo = base::passoAsse(massimo_ - minimo_, quanti);
-            const double largo =
-                std::max(tela_.larghezza(base::numeroAsse(minimo_, passo), corpo),
-                         tela_.larghezza(base::numeroAsse(massimo_, passo), corpo)) +
-                0.6 * em;
-            if (quanti == 1 || passo * (x2_ - x1_) / (massimo_ - minimo_) >= largo) return passo;
+    // 0 is farther than all.
+    [[nodiscard]] double lontano(double xNumero) const {
+        const double d = std::fabs(xNumero - x(0));
+        return d < 1 ? x2_ - x1_ : d;
+    }
+    static constexpr double aria = 0.45 * em, oltre = 0.45 * em;  // between numbers, at the edges
+
+    struct Numero {
+        double tacca = 0, x = 0;  // of the number's middle, which stays in the panel
+        double mezza = 0;
+        std::string testo;
+    };
+    [[nodiscard]] std::vector<Numero> numeri(double passo) const {
+        std::vector<Numero> tutti;
+        for (double i = std::ceil(minimo_ / passo); i * passo <= massimo_; ++i) {
+            Numero& n = tutti.emplace_back();
+            n.tacca = n.x = x(i * passo);
+            n.testo = base::numeroAsse(i * passo, passo);
+            n.mezza = tela_.larghezza(n.testo, corpo) / 2;
+            const double sporge = n.mezza - oltre;
+            if (x2_ - x1_ > 2 * sporge) n.x = std::clamp(n.x, x1_ + sporge, x2_ - sporge);
         }
+        return tutti;
+    }
+    static bool sgombri(const Numero& a, const Numero& b) {
+        return std::fabs(a.x - b.x) >= a.mezza + b.mezza + aria;
     }
 
+    // As many numbers as stand clear of each other; where that is 0 alone, those of a finer step
+    // that find room beside it, the farthest first.
     void ascisse() {
-        const double passo = passoNumeri();
-        for (double i = std::ceil(minimo_ / passo); i * passo <= massimo_; ++i) {
-            const double xv = x(i * passo);
-            linea({{xv, asse_.yTesta}, {xv, asse_.piede()}}, Ruolo::griglia, 1);
-            linea({{xv, asse_.yTesta - 0.3 * em}, {xv, asse_.yTesta}}, Ruolo::asse, 0.8);
-            const std::string testo = base::numeroAsse(i * passo, passo);
-            // A number at the edge stays in the panel.
-            const double mezza = tela_.larghezza(testo, corpo) / 2 - 0.3 * em;
-            scrivi(testo, {std::clamp(xv, x1_ + mezza, x2_ - mezza), asse_.yTesta - sopraNumeri},
-                   Ancora::centro);
+        std::vector<Numero> scelti;
+        for (int quanti = 6; quanti > 0; --quanti) {
+            auto prova = numeri(base::passoAsse(massimo_ - minimo_, quanti));
+            const bool tutti = std::adjacent_find(prova.begin(), prova.end(),
+                                                  [](const Numero& a, const Numero& b) {
+                                                      return !sgombri(a, b);
+                                                  }) == prova.end();
+            if (tutti && prova.size() < 2 && !scelti.empty()) break;
+            scelti = std::move(prova);
+            if (tutti) break;
+        }
+        std::stable_sort(scelti.begin(), scelti.end(), [&](const Numero& a, const Numero& b) {
+            return lontano(a.tacca) > lontano(b.tacca);
+        });
+        std::vector<Numero> scritti;
+        for (Numero& n : scelti)
+            if (std::all_of(scritti.begin(), scritti.end(),
+                            [&](const Numero& uno) { return sgombri(n, uno); }))
+                scritti.push_back(std::move(n));
+        scelti = std::move(scritti);
+        for (Numero& n : scelti) {
+            linea({{n.tacca, asse_.yTesta}, {n.tacca, asse_.piede()}}, Ruolo::griglia, 1);
+            linea({{n.tacca, asse_.yTesta - 0.3 * em}, {n.tacca, asse_.yTesta}}, Ruolo::asse, 0.8);
+            scrivi(std::move(n.testo), {n.x, asse_.yTesta - sopraNumeri}, Ancora::centro);
         }
     }
 

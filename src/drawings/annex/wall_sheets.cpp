@@ -26,7 +26,7 @@ constexpr double sezioneMinima = 13 * em;  // width of the wall in section
 constexpr double quotaSezione = 0.28;      // of the whole width
 constexpr double piedeVeduta = 1.8 * em;   // below the ground of the view
 constexpr double numeri = 2.6 * em;        // for the depths
-constexpr double distanza = 0.7 * em;      // of panels
+constexpr double distanza = 1.1 * em;      // of panels
 
 void unisci(Scena& scena, std::vector<Primitiva> altre) {
     std::move(altre.begin(), altre.end(), std::back_inserter(scena.primitive));

@@ -35,6 +35,14 @@ Scena sezione(const live::PareteViva& parete, int fase, bool stretta, Misura mis
                  {.curva = false, .stretta = stretta, .parole = false});
 }
 
+// What is left of the name of a layer where it has hardly any room: "Ri…".
+bool mozzicone(const Primitiva& una) {
+    constexpr std::size_t lettere = 4, puntini = 3;
+    const auto* testo = std::get_if<Testo>(&una.figura);
+    return testo != nullptr && una.elemento == Elemento::strato &&
+           testo->testo.ends_with("\u2026") && testo->testo.size() < lettere + puntini;
+}
+
 }  // namespace
 
 std::vector<Primitiva> spostate(std::vector<Primitiva> primitive, double dx, double dy) {
@@ -52,7 +60,8 @@ VedutaMuro vedutaMuro(const live::PareteViva& parete, int fase, const Riquadro& 
     if (giu > 0)
         s = sezione(parete, fase, stretta, {posto.larghezza(), posto.altezza() - giu}, testi);
     std::erase_if(s.primitive, [&](const Primitiva& una) {
-        return una.elemento == Elemento::sfondo || (una.elemento == Elemento::nota && stretta);
+        return una.elemento == Elemento::sfondo || mozzicone(una) ||
+               (una.elemento == Elemento::nota && stretta);
     });
     return {spostate(std::move(s.primitive), posto.sinistra, posto.alto + giu),
             {posto.alto + giu + s.yTesta, s.scala, s.paratia},

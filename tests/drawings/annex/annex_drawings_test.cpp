@@ -193,12 +193,12 @@ TEST_F(DisegniAllegato, TellTheStageOfAnEnvelopesPeak) {
     const auto parete = live::calcola(test::progettoSemplice(), segmenti);
     ASSERT_TRUE(parete.sta());
     const auto& estremo = parete.estremi.momento();
-    const auto testi =
-        test::testi(scenaInviluppi(parete, formatoInviluppi.larghezza, formatoInviluppi.altezza),
-                    Elemento::estremo);
+    const auto testi = scritteAiPicchi(
+        scenaInviluppi(parete, formatoInviluppi.larghezza, formatoInviluppi.altezza));
     EXPECT_TRUE(
         test::dice(testi, scritto({estremo.valore, estremo.z}, project::unita::momentoAlMetro) +
-                              " · fase " + std::to_string(estremo.fase)));
+                              " · fase " + std::to_string(estremo.fase)))
+        << testing::PrintToString(testi);
 }
 
 TEST_F(DisegniAllegato, ShowAWallThatFallsAsAMechanismWithoutCurves) {
