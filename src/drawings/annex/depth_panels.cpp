@@ -25,12 +25,22 @@ constexpr double em = corpoCarta, corpo = corpoPiccolo;
 constexpr double riga = 1.25 * em;
 constexpr int righeTitolo = 3;
 constexpr double sopraNumeri = 1.1 * em;  // of the numbers of an axis, above it
-constexpr double sottoPiede = 1.9 * em;   // of the first key, below the toe
+// Of the first key below the toe: room for a row of values, or two.
+constexpr double sottoPiede = 1.9 * em, sottoPiedeLibero = 3.1 * em;
+constexpr double rigaChiave = 1.15 * em;
+constexpr int righeChiave = 3;
 
 }  // namespace
 
+Pannelli::Pannelli(const AsseProfondita& asse, std::vector<double> linee, double basso, Tela& tela)
+    : asse_(asse),
+      linee_(std::move(linee)),
+      yChiave_(std::clamp(basso - (righeChiave - 0.4) * rigaChiave, asse.piede() + sottoPiede,
+                          asse.piede() + sottoPiedeLibero)),
+      tela_(tela) {}
+
 double Pannelli::testata() { return sopraNumeri + righeTitolo * riga + 0.6 * em; }
-double Pannelli::piede() { return 4.6 * em; }
+double Pannelli::piede() { return sottoPiede + righeChiave * rigaChiave; }
 
 double Pannelli::passo() const {
     return base::passoAsse(
@@ -65,7 +75,7 @@ class Pannelli::Pannello {
         if (minimo_ < 0) minimo_ -= respiro;
         if (massimo_ > 0) massimo_ += respiro;
         campo_.posto = {x1_ - 0.5 * em, asse_.yTesta + 1, x2_ + 0.4 * em,
-                        asse_.piede() + sottoPiede - 0.7 * em};
+                        tutti_.yChiave_ - 0.55 * em};
     }
 
     void disegna() {
@@ -244,7 +254,7 @@ class Pannelli::Pannello {
 
     // Below the toe: the lines by their names, and which way positive values point.
     void chiave() {
-        double y = asse_.piede() + sottoPiede;
+        double y = tutti_.yChiave_;
         if (dati_.versoScavo) {
             const double xm = (x1_ + x2_) / 2, mezza = 0.9 * em;
             tela_.disegna(Elemento::asse, 0,
@@ -258,7 +268,7 @@ class Pannelli::Pannello {
             linea({{x1_, y}, {x1_ + lunga, y}}, curva.linea, curva.spessore, curva.tratteggio);
             scrivi(accorciato(curva.nome, x2_ - x1_ - lunga, corpo, false, tela_.misura()),
                    {x1_ + lunga + 0.4 * em, y}, Ancora::sinistra);
-            y += 1.15 * em;
+            y += rigaChiave;
         }
     }
 

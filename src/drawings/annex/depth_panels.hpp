@@ -49,8 +49,9 @@ struct DatiPannello {
 class Pannelli {
  public:
     /// @param linee  depths with a dashed line across all panels: levels of the excavation [m]
-    Pannelli(const AsseProfondita& asse, std::vector<double> linee, scene::Tela& tela)
-        : asse_(asse), linee_(std::move(linee)), tela_(tela) {}
+    /// @param basso  lower end of the picture [px], `piede` below the toe at least
+    Pannelli(const AsseProfondita& asse, std::vector<double> linee, double basso,
+             scene::Tela& tela);
 
     /// Numbers of the depths, that end at `x`.
     void profondita(double x);
@@ -71,6 +72,7 @@ class Pannelli {
 
     AsseProfondita asse_;
     std::vector<double> linee_;
+    double yChiave_;  // of the first key
     scene::Tela& tela_;
     std::vector<CampoPicchi> campi_;  // one a panel
 };

@@ -82,6 +82,8 @@ class Etichetta {
         };
         const double meta = std::clamp(p.y - alto / 2, campo_.posto.alto, fondo);
         quota(meta);
+        quota(campo_.posto.alto);
+        quota(fondo);
         for (double dy = passoY; dy < campo_.posto.altezza(); dy += passoY) {
             quota(meta - dy);
             quota(meta + dy);

@@ -112,7 +112,7 @@ Scena conPannelli(const live::PareteViva& parete, int fase, const std::vector<do
         unisci(s, tela.concludi());
         return s;
     }
-    Pannelli pannelli(muro.asse, scavi, tela);
+    Pannelli pannelli(muro.asse, scavi, misura.altezza, tela);
     pannelli.profondita(larga + numeri - 0.5 * em);
     disponi(pannelli, dati, pesi, larga + numeri, misura.larghezza - 0.5 * em);
     unisci(s, pannelli.concludi());
@@ -169,7 +169,7 @@ Scena scenaConfronto(const MuroDetto& a, const MuroDetto& b, double larghezza, d
     if (asse.lunghezza > 0) {
         asse.yTesta = basso + Pannelli::testata();
         asse.scala = (misura.altezza - Pannelli::piede() - asse.yTesta) / asse.lunghezza;
-        Pannelli pannelli(asse, {}, tela);
+        Pannelli pannelli(asse, {}, misura.altezza, tela);
         pannelli.profondita(numeri - 0.5 * em);
         disponi(pannelli, pannelliConfronto(a.parete, b.parete, nomi), {1, 1, 1}, numeri,
                 misura.larghezza - 0.5 * em);
