@@ -121,7 +121,7 @@ Scena conPannelli(const live::PareteViva& parete, int fase, const std::vector<do
 
 std::vector<double> scaviDi(const project::DatiProgetto& dati, int da, int a) {
     std::vector<double> scavi;
-    for (int k = da; k <= a; ++k) {
+    for (int k = std::max(da, 1); k <= std::min(a, project::massimoFasi); ++k) {
         const double z = dati.profFase[k];
         if (z > 0 && z < dati.lunghezzaParatia &&
             std::find(scavi.begin(), scavi.end(), z) == scavi.end())

@@ -5,7 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
-#include <filesystem>
+#include <limits>
 #include <map>
 #include <string>
 #include <utility>
@@ -274,7 +274,7 @@ TEST_F(DisegniAllegato, AreStoredInsideTheirPlaceWithoutSpillFiles) {
 }
 
 // What is typed may be anything: nothing throws, nothing is drawn that has no number.
-TEST_F(DisegniAllegato, OfNothingAreEmpty) {
+TEST_F(DisegniAllegato, OfNothingAndOfNonsenseAreDrawnAsFarAsTheyGo) {
     const live::PareteViva nulla;
     disegnaFase(nulla, 1, formatoFase.larghezza, formatoFase.altezza);
     disegnaInviluppi(nulla, formatoInviluppi.larghezza, formatoInviluppi.altezza);
@@ -284,6 +284,16 @@ TEST_F(DisegniAllegato, OfNothingAreEmpty) {
     disegnaConfronto({nulla, ""}, {nulla, ""}, formatoConfronto.larghezza,
                      formatoConfronto.altezza);
     verificaStore(formatoConfronto, "nulla");
+    plot::statoPlot = {};
+    live::PareteViva oltre;
+    oltre.dati = test::progettoSemplice();
+    oltre.dati.nFasi = 1000;
+    oltre.dati.nTiranti = -7;
+    oltre.dati.lunghezzaParatia = std::numeric_limits<double>::quiet_NaN();
+    disegnaFase(oltre, 1000, formatoFase.larghezza, formatoFase.altezza);
+    disegnaInviluppi(oltre, formatoInviluppi.larghezza, formatoInviluppi.altezza);
+    disegnaParete(oltre, formatoParete.larghezza, formatoParete.altezza);
+    verificaStore(formatoFase, "oltre");
 }
 
 }  // namespace
