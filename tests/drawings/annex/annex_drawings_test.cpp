@@ -292,8 +292,10 @@ TEST_F(DisegniAllegato, OfNothingAndOfNonsenseAreDrawnAsFarAsTheyGo) {
     oltre.dati.lunghezzaParatia = std::numeric_limits<double>::quiet_NaN();
     disegnaFase(oltre, 1000, formatoFase.larghezza, formatoFase.altezza);
     disegnaInviluppi(oltre, formatoInviluppi.larghezza, formatoInviluppi.altezza);
-    disegnaParete(oltre, formatoParete.larghezza, formatoParete.altezza);
     verificaStore(formatoFase, "oltre");
+    plot::statoPlot = {};
+    disegnaParete(oltre, formatoParete.larghezza, formatoParete.altezza);
+    verificaStore(formatoParete, "oltre");
 }
 
 }  // namespace
