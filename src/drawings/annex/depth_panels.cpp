@@ -19,13 +19,28 @@ namespace korven::drawings {
 namespace {
 
 using base::traduttore;
-using namespace scene;
+using scene::accorciato;
+using scene::Ancora;
+using scene::Area;
+using scene::Elemento;
+using scene::Freccia;
+using scene::Grado;
+using scene::inRighe;
+using scene::Linea;
+using scene::Primitiva;
+using scene::Punto;
+using scene::quota;
+using scene::Riquadro;
+using scene::Ruolo;
+using scene::Tela;
+using scene::Testo;
+using scene::Tratteggio;
 
 constexpr double em = corpoCarta, corpo = corpoPiccolo;
 constexpr double riga = 1.25 * em;
 constexpr int righeTitolo = 3;
 constexpr double sopraNumeri = 1.1 * em;  // of the numbers of an axis, above it
-// Of the first key below the toe: room for a row of values, or two.
+// The first key below the toe: room for a row of values above it, or for two.
 constexpr double sottoPiede = 1.9 * em, sottoPiedeLibero = 3.1 * em;
 constexpr double rigaChiave = 1.15 * em;
 constexpr int righeChiave = 3;

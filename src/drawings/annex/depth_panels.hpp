@@ -2,7 +2,6 @@
 
 #include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "drawings/annex/peak_labels.hpp"
@@ -45,7 +44,7 @@ struct DatiPannello {
     bool versoScavo = false;  ///< positive values act towards the excavation: told below
 };
 
-/// Draws panels and their peaks. All texts go through the canvas, so that none lies over another.
+/// Draws panels on a canvas, and their peaks where its texts leave room.
 class Pannelli {
  public:
     /// @param linee  depths with a dashed line across all panels: levels of the excavation [m]

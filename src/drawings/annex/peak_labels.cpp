@@ -12,7 +12,18 @@ namespace korven::drawings {
 
 namespace {
 
-using namespace scene;
+using scene::Ancora;
+using scene::Area;
+using scene::Elemento;
+using scene::Figura;
+using scene::Linea;
+using scene::MisuraTesti;
+using scene::Primitiva;
+using scene::Punto;
+using scene::rettangolo;
+using scene::Riquadro;
+using scene::Ruolo;
+using scene::Testo;
 
 constexpr double em = corpoCarta, corpo = corpoPiccolo;
 constexpr double mezzoSegno = 0.2 * em;

@@ -15,7 +15,19 @@ namespace korven::drawings {
 
 namespace {
 
-using namespace scene;
+using scene::Ancora;
+using scene::Area;
+using scene::Elemento;
+using scene::Figura;
+using scene::Linea;
+using scene::Misura;
+using scene::MisuraStimata;
+using scene::Primitiva;
+using scene::Punto;
+using scene::Ruolo;
+using scene::Scena;
+using scene::Testo;
+using scene::Tratteggio;
 using structure::TipoSezione;
 
 project::Parte parte(TipoSezione tipo) {

@@ -19,7 +19,17 @@ namespace korven::drawings {
 
 namespace {
 
-using namespace scene;
+using scene::accorciato;
+using scene::Ancora;
+using scene::conUnita;
+using scene::Misura;
+using scene::MisuraStimata;
+using scene::MisuraTesti;
+using scene::mostrata;
+using scene::Primitiva;
+using scene::Ruolo;
+using scene::Scena;
+using scene::Tela;
 
 constexpr double em = corpoCarta;
 constexpr double sezioneMinima = 13 * em;  // width of the wall in section

@@ -17,7 +17,19 @@ namespace korven::drawings {
 
 namespace {
 
-using namespace scene;
+using scene::accorciato;
+using scene::Ancora;
+using scene::Area;
+using scene::Elemento;
+using scene::Grado;
+using scene::Linea;
+using scene::Misura;
+using scene::MisuraStimata;
+using scene::rettangolo;
+using scene::Ruolo;
+using scene::Scena;
+using scene::Tela;
+using scene::Tinta;
 
 constexpr double em = corpoCarta;
 constexpr double striscia = 2.2 * em;  // below the wall, for the bar

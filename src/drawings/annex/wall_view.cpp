@@ -8,7 +8,15 @@ namespace korven::drawings {
 
 namespace {
 
-using namespace scene;
+using scene::Elemento;
+using scene::Misura;
+using scene::MisuraTesti;
+using scene::Primitiva;
+using scene::Punto;
+using scene::Riquadro;
+using scene::Scena;
+using scene::scena;
+using scene::Testo;
 
 constexpr double larghezzaQuote = 24 * corpoCarta;
 
