@@ -12,6 +12,7 @@ namespace korven::batch {
 [[nodiscard]] RigaComando comandoVerifica();
 [[nodiscard]] RigaComando comandoEquilibrio();
 [[nodiscard]] RigaComando comandoSicurezza();
+[[nodiscard]] RigaComando comandoAutoverifica();
 [[nodiscard]] RigaComando comandoDiagramma();
 [[nodiscard]] RigaComando comandoSezione();
 [[nodiscard]] RigaComando comandoStratigrafia();

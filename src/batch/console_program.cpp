@@ -16,6 +16,7 @@
 #include "batch/run/equilibrium_outcome.hpp"
 #include "batch/run/failure.hpp"
 #include "batch/run/margin_outcome.hpp"
+#include "batch/run/selfcheck_outcome.hpp"
 #include "commands/start/user_folder.hpp"
 
 namespace korven::batch {
@@ -27,10 +28,11 @@ std::string resoconto(const Opzioni& opzioni, const Esito& esito) {
     if (opzioni.json) return json(esito);
     if (opzioni.silenzioso) return {};
     if (esito.soloRilievi) return esito.guasto ? "" : elenco(esito);
-    if (!esito.compiuto() && !esito.equilibrio && !esito.margine) return {};
+    if (!esito.compiuto() && !esito.equilibrio && !esito.margine && !esito.autoverifica) return {};
     std::string testo = esito.calcolo ? tabella(esito, opzioni.traccia) : "";
     if (esito.equilibrio) testo += testoEquilibrio(*esito.equilibrio);
     if (esito.margine) testo += testoMargine(*esito.margine);
+    if (esito.autoverifica) testo += testoAutoverifica(esito.autoverifica->esito);
     for (const auto& file : esito.fileScritti)
         testo += base::traduttore("File scritto") + ": " + file + '\n';
     return testo;

@@ -30,6 +30,8 @@ struct Opzioni {
     FormatiRelazione relazione;        ///< of `relazione`, besides the mark-up
     FormatiDisegno disegno;            ///< files of a drawing
     std::string csv;                   ///< file of a table; empty: none
+    std::string pdfVerifica;           ///< `autoverifica`: the PDF file; empty: none
+    std::string casi;                  ///< `autoverifica`: folder of cases; empty: the program's
     std::vector<std::string> formati;  ///< `tutto`: of each drawing; empty: PDF and DXF
 };
 

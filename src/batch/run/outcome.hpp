@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -12,6 +13,8 @@
 #include "safety/told_stages.hpp"
 
 namespace korven::batch {
+
+struct Autoverifica;
 
 /// What a command has to tell, whether as text or as JSON.
 struct Esito {
@@ -34,6 +37,7 @@ struct Esito {
     bool inMemoria = false;  ///< its outcome is the one below, and no result file
     std::optional<safety::EquilibrioRaccontato> equilibrio;
     std::optional<safety::Margine> margine;
+    std::shared_ptr<const Autoverifica> autoverifica;
     bool giaAggiornato = false;  ///< the result file was up to date already
     std::vector<analysis::ControlloCorsa::Fase> fasi;
     std::vector<std::string> fileScritti;

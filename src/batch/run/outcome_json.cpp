@@ -7,6 +7,7 @@
 #include "batch/run/margin_outcome.hpp"
 #include "batch/run/nodes_json.hpp"
 #include "batch/run/outcome.hpp"
+#include "batch/run/selfcheck_outcome.hpp"
 #include "project/units.hpp"
 
 namespace korven::batch {
@@ -123,6 +124,7 @@ Json testoONullo(const std::string& testo) { return testo.empty() ? Json(nullptr
 
 // What a command that writes no result file has computed.
 Json inMemoria(const Esito& esito) {
+    if (esito.autoverifica) return jsonAutoverifica(esito.autoverifica->esito);
     if (esito.equilibrio) return jsonEquilibrio(*esito.equilibrio);
     return esito.margine ? jsonMargine(*esito.margine) : Json(nullptr);
 }

@@ -84,6 +84,11 @@ TEST_F(SchemaRisposte, HoldForWhatIsRefusedOrCannotBeRead) {
         inOrdine({comando});
 }
 
+TEST_F(SchemaRisposte, HoldForTheVerification) {
+    const Json risposta = Json::parse(console({"autoverifica", "--json"}).uscita);
+    for (const auto& errore : schema().errori(risposta)) ADD_FAILURE() << errore;
+}
+
 // The rounding of a force in kN, and of a displacement in the result file.
 TEST_F(SchemaRisposte, HaveTheNodesOfTheRunAndOfTheEquilibriumBesideOneAnother) {
     for (const std::string& file : test::muriIn(KORVEN_EXAMPLES)) {

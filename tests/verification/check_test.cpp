@@ -1,0 +1,79 @@
+#include "verification/check.hpp"
+
+#include <gtest/gtest.h>
+
+#include "base/files.hpp"
+#include "verification/case_reader.hpp"
+#include "verification/words.hpp"
+
+namespace korven::verification {
+namespace {
+
+const std::string sbagliato = std::string(KORVEN_CASES_OF_TESTS) + "/deve_fallire.txt";
+
+Caso letto(std::string testo) { return leggiCaso("prova.txt", testo, KORVEN_EXAMPLES); }
+
+TEST(EseguiCaso, FailsWhereTheExpectedValueIsWrong) {
+    const Caso caso = leggiCaso(sbagliato, base::leggiFile(sbagliato), KORVEN_EXAMPLES);
+    const EsitoCaso esito = esegui(caso);
+    EXPECT_EQ(esito.verdetto, Verdetto::fallito);
+    // Two methods for each of the two values; the moment is right.
+    ASSERT_EQ(esito.confronti.size(), 4U);
+    EXPECT_FALSE(esito.confronti[0].buono);
+    EXPECT_FALSE(esito.confronti[1].buono);
+    EXPECT_TRUE(esito.confronti[2].buono);
+    EXPECT_NEAR(*esito.confronti[0].quota(), -0.5, 0.01);
+}
+
+TEST(EseguiCaso, PassesOnceTheValueIsRight) {
+    std::string testo = base::leggiFile(sbagliato);
+    testo.replace(testo.find("= 288"), 5, "= 144");
+    const Caso caso = letto(testo);
+    EXPECT_EQ(esegui(caso).verdetto, Verdetto::buono);
+}
+
+TEST(EseguiCaso, ListsAKnownMissAndDoesNotCountIt) {
+    Gruppo gruppo;
+    gruppo.casi.push_back(letto("noto: because\n" + base::leggiFile(sbagliato)));
+    const std::vector<Gruppo> gruppi = {gruppo};
+    const EsitoVerifica esito = esegui(gruppi);
+    EXPECT_EQ(esito.conta(Verdetto::noto), 1);
+    EXPECT_EQ(esito.conta(Verdetto::fallito), 0);
+    EXPECT_TRUE(esito.superata());
+}
+
+TEST(EseguiCaso, FailsWhereThereIsNoNumber) {
+    // The wall falls: nothing below the excavation holds it.
+    const Caso caso = letto(
+        "titolo: T\nfonte: F\n[parete]\nlunghezzaParatia = 5\nrigidezzaEJ = 5000\n"
+        "profStrato = 20\ngammaN = 18\nphiStrato = 30\nksStrato = 20000\nprofFase = 4.5\n"
+        "[attesi]\nmomento_massimo = 10 kN m/m entro 1000 %\nesito = meccanismo\n");
+    const EsitoCaso esito = esegui(caso);
+    EXPECT_EQ(esito.verdetto, Verdetto::fallito);
+    EXPECT_FALSE(esito.confronti[0].ottenuto);
+    EXPECT_EQ(ottenuto(esito.confronti[0]), "-");
+    EXPECT_FALSE(esito.confronti[1].ottenuto);
+    EXPECT_TRUE(esito.confronti[2].buono);
+}
+
+TEST(EseguiCaso, ComparesTwoRuns) {
+    const std::string inizio =
+        "titolo: T\nfonte: F\n[parete]\nlunghezzaParatia = 10\nrigidezzaEJ = 5000\n"
+        "profStrato = 100\ncoesione = 10000\nksStrato = 2000\nsovraccMonte = 5000\n"
+        "sovraccFase = 5000\nprofFase = 0\nforzaTesta = 50\n"
+        "[variante]\nforzaTesta = 100\n[attesi]\n";
+    EXPECT_EQ(esegui(letto(inizio + "spostamento z 0 = variante x 0.5 entro 0.001 %\n")).verdetto,
+              Verdetto::buono);
+    EXPECT_EQ(esegui(letto(inizio + "spostamento z 0 = variante entro 1 %\n")).verdetto,
+              Verdetto::fallito);
+}
+
+TEST(Sommario, CountsTheCases) {
+    Gruppo gruppo;
+    gruppo.casi.push_back(letto(base::leggiFile(sbagliato)));
+    const std::vector<Gruppo> gruppi = {gruppo};
+    EXPECT_EQ(sommario(esegui(gruppi)), "Casi: 1; buoni: 0; falliti: 1; differenze note: 0.");
+}
+
+}  // namespace
+}  // namespace korven::verification
