@@ -158,7 +158,7 @@ TEST(Nomi, InMessagesAreThoseOfTheLanguageInUseWhicheverWereTyped) {
     EXPECT_TRUE(test::dice(
         leggi({"disegna"}).errori,
         ": calculate, report, check, equilibrium, safety, diagram, section, log, hatches, "
-        "all\n"));
+        "all, selfcheck\n"));
 }
 
 TEST(Nomi, GivenTwiceAreOneOptionGivenTwice) {
