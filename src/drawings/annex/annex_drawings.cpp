@@ -1,11 +1,9 @@
 #include "drawings/annex/annex_drawings.hpp"
 
-#include "drawings/annex/paper.hpp"
+#include "drawings/annex/domain_figure.hpp"
 #include "drawings/annex/scene_plot.hpp"
 #include "drawings/annex/section_figure.hpp"
 #include "drawings/annex/wall_to_scale.hpp"
-#include "scene/domain.hpp"
-#include "scene/text_measure.hpp"
 
 namespace korven::drawings {
 
@@ -20,8 +18,7 @@ void disegnaInviluppi(const live::PareteViva& parete, double larghezza, double a
 void disegnaDominio(const std::vector<structure::PuntoDominio>& dominio,
                     const std::vector<live::FaseNelDominio>& fasi, double larghezza,
                     double altezza) {
-    disegnaScena(scene::scenaDominio(dominio, fasi, misuraCarta(larghezza, altezza),
-                                     scene::MisuraStimata(), {}));
+    disegnaScena(scenaDominioCarta(dominio, fasi, larghezza, altezza));
 }
 
 void disegnaParete(const live::PareteViva& parete, double larghezza, double altezza) {

@@ -31,7 +31,7 @@ void disegnaFase(const live::PareteViva& parete, int fase, double larghezza, dou
 /// Moment, shear and displacement over all stages (`scenaInviluppi`).
 void disegnaInviluppi(const live::PareteViva& parete, double larghezza, double altezza);
 
-/// The N-M domain and the stages in it (`scene::scenaDominio`); nothing for an empty domain.
+/// The N-M domain and the stages in it (`scenaDominioCarta`); nothing for an empty domain.
 void disegnaDominio(const std::vector<structure::PuntoDominio>& dominio,
                     const std::vector<live::FaseNelDominio>& fasi, double larghezza,
                     double altezza);

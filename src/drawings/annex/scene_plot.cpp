@@ -34,6 +34,8 @@ class Plotter {
             if (const auto* area = std::get_if<scene::Area>(&una.figura);
                 area != nullptr && una.elemento == scene::Elemento::muro)
                 muri_.push_back(intorno(area->punti));
+            else if (area != nullptr && una.elemento == scene::Elemento::estremo)
+                segni_.push_back(intorno(area->punti));
         }
     }
 
@@ -51,13 +53,17 @@ class Plotter {
 
     void operator()(const scene::Linea& linea) const {
         penna(linea.tinta, linea.spessore);
+        // The plotter's areas lie below all its lines: the grid leaves the marks of peaks alone.
+        std::vector<Riquadro> liberi = testi_;
+        if (linea.tinta.ruolo == scene::Ruolo::griglia)
+            liberi.insert(liberi.end(), segni_.begin(), segni_.end());
         switch (linea.tratteggio) {
             case scene::Tratteggio::nessuno:
-                return catena(linea.punti);
+                return catena(linea.punti, liberi);
             case scene::Tratteggio::linee:
-                return tratti(aTratti(linea.punti, tratto, spazio));
+                return tratti(aTratti(linea.punti, tratto, spazio), liberi);
             case scene::Tratteggio::punti:
-                return tratti(aTratti(linea.punti, puntino, spazioPuntini));
+                return tratti(aTratti(linea.punti, puntino, spazioPuntini), liberi);
         }
     }
 
@@ -113,16 +119,16 @@ class Plotter {
             plot::linea(p.x, p.y, q.x, q.y);
         }
     }
-    void catena(const std::vector<Punto>& punti) const {
-        for (std::size_t i = 0; i + 1 < punti.size(); ++i) traccia(punti[i], punti[i + 1], testi_);
+    void catena(const std::vector<Punto>& punti, const std::vector<Riquadro>& liberi) const {
+        for (std::size_t i = 0; i + 1 < punti.size(); ++i) traccia(punti[i], punti[i + 1], liberi);
     }
-    void tratti(const std::vector<TrattoScena>& tutti) const {
-        for (const auto& [da, a] : tutti) traccia(da, a, testi_);
+    void tratti(const std::vector<TrattoScena>& tutti, const std::vector<Riquadro>& liberi) const {
+        for (const auto& [da, a] : tutti) traccia(da, a, liberi);
     }
 
     double alto_;
     Riquadro tutto_;
-    std::vector<Riquadro> testi_, muri_;
+    std::vector<Riquadro> testi_, muri_, segni_;
 };
 
 }  // namespace

@@ -12,14 +12,16 @@
 #include <vector>
 
 #include "base/translated_texts.hpp"
+#include "drawings/annex/domain_figure.hpp"
 #include "drawings/annex/paper.hpp"
+#include "drawings/annex/plot_strokes.hpp"
 #include "drawings/annex/section_figure.hpp"
 #include "drawings/annex/wall_to_scale.hpp"
 #include "drawings/hatch_library.hpp"
 #include "live/section_checks.hpp"
+#include "live/slow_results.hpp"
 #include "project/shown_number.hpp"
 #include "project/units.hpp"
-#include "scene/domain.hpp"
 #include "support/drawing_by_pen.hpp"
 #include "support/random_walls.hpp"
 #include "support/sample_projects.hpp"
@@ -186,6 +188,30 @@ TEST_F(DisegniAllegato, WriteThePeaksOfEveryStageWithTheirDepthsClearOfTheCurves
                             << dati.titoli[1] << " fase " << k << ": " << t.testo;
                     }
         }
+    }
+}
+
+// At both points of each stage, none of its numbers on the border.
+TEST_F(DisegniAllegato, NumberTheStagesInTheDomainClearOfItsBorder) {
+    for (const auto& dati : esempi()) {
+        if (!live::sezioneCalcolabile(dati.sezione)) continue;
+        const auto parete = live::calcola(dati, segmenti);
+        const auto fasi = live::fasiNelDominio(parete, nullptr);
+        const auto dominio = live::calcolaLenti({1, parete.dati, 0}).dominio;
+        const Scena s =
+            scenaDominioCarta(dominio, fasi, formatoDominio.larghezza, formatoDominio.altezza);
+        verifica(s, dati.titoli[1] + " dominio ");
+        std::map<std::string, int> numeri;
+        for (const Testo& t : test::figure<Testo>(s, Elemento::estremo)) {
+            ++numeri[t.testo];
+            for (const auto& bordo : test::figure<scene::Linea>(s, Elemento::curva))
+                for (std::size_t i = 0; i + 1 < bordo.punti.size(); ++i)
+                    EXPECT_FALSE(dentro(bordo.punti[i], bordo.punti[i + 1], t.riquadro()))
+                        << dati.titoli[1] << ' ' << t.testo;
+        }
+        ASSERT_FALSE(fasi.empty());
+        for (const auto& fase : fasi)
+            EXPECT_EQ(numeri[std::to_string(fase.fase)], 2) << dati.titoli[1];
     }
 }
 
