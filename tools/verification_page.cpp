@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string_view>
 
+#include "base/filled_text.hpp"
 #include "base/translated_texts.hpp"
 #include "live/section_checks.hpp"
 #include "live/wall.hpp"
@@ -32,8 +33,8 @@ What the program computes, against values that do not come from it: closed forms
 calculations. `korven32c selfcheck` runs all of it, `--pdf FILE` makes a document of it, `--json` tells it to programs
 (`json.md`). The exit code is 0 if every case is met, known differences apart, and 1 if one is not.
 
-Each case goes through the run of the report ("report") and through the certain equilibrium ("equilibrium"), as far
-as they know the quantity; what belongs to the section alone is "section". Both sides of a case of the group "The
+Each case goes through the run of the report ("Report") and through the certain equilibrium ("Equilibrium"), as far
+as they know the quantity; what belongs to the section alone is "Section". Both sides of a case of the group "The
 program against itself" are runs; all other expected values come from elsewhere, and the scripts that made those which
 no book holds lie in `tests/oracle/verification` (`python3 tests/oracle/verification/check.py` compares them with the
 files; it needs NumPy). Formulas and authors are cited from memory, as in `theory.md`.
@@ -118,7 +119,8 @@ std::string sources(const Caso& c) {
     for (const auto& formula : c.calcolo) text += '`' + formula + "` ";
     if (!c.tolleranza.empty()) text += traduttore(c.tolleranza);
     if (!c.noto.empty())
-        text += " **" + traduttore("Differenza nota") + ":** " + traduttore(c.noto);
+        text +=
+            " **" + base::riempito(traduttore("Differenza nota: %1"), {"** " + traduttore(c.noto)});
     return text + '\n';
 }
 

@@ -1,7 +1,9 @@
 #include "verification/document.hpp"
 
+#include <algorithm>
 #include <array>
 
+#include "base/filled_text.hpp"
 #include "base/translated_texts.hpp"
 #include "base/version.hpp"
 #include "verification/table.hpp"
@@ -11,6 +13,7 @@ namespace korven::verification {
 
 namespace {
 
+using base::riempito;
 using base::traduttore;
 using document::Blocco;
 using document::Paragrafo;
@@ -29,13 +32,27 @@ void aggiungiRiga(std::string& testo, const std::string& riga) {
 std::string spiegazione(const Caso& caso) {
     std::string testo;
     for (const auto& fonte : caso.fonte)
-        aggiungiRiga(testo, traduttore("Fonte") + ": " + traduttore(fonte));
+        aggiungiRiga(testo, riempito(traduttore("Fonte: %1"), {traduttore(fonte)}));
     for (const auto& formula : caso.calcolo) aggiungiRiga(testo, formula);
     if (!caso.tolleranza.empty())
-        aggiungiRiga(testo, traduttore("Tolleranza") + ": " + traduttore(caso.tolleranza));
+        aggiungiRiga(testo, riempito(traduttore("Tolleranza: %1"), {traduttore(caso.tolleranza)}));
     if (!caso.noto.empty())
-        aggiungiRiga(testo, traduttore("Differenza nota") + ": " + traduttore(caso.noto));
+        aggiungiRiga(testo, riempito(traduttore("Differenza nota: %1"), {traduttore(caso.noto)}));
     return testo;
+}
+
+// Blanks at which no line ends: in a number with its unit, and between a place and its number.
+void unisci(std::string& testo, std::size_t da) {
+    constexpr const char* unito = "\u00a0";
+    for (std::size_t i = da; (i = testo.find(' ', i)) != std::string::npos; ++i)
+        if (i == 0 || testo[i - 1] != ',') testo.replace(i, 1, unito);
+}
+
+void unisci(tables::Prospetto& tavola) {
+    for (auto& riga : tavola.righe)
+        for (std::size_t i = 0; i < riga.size(); ++i)
+            unisci(riga[i].testo,
+                   i == 1 ? std::min(riga[i].testo.find(','), riga[i].testo.size()) : 0);
 }
 
 void aggiungiGruppo(const EsitoGruppo& esito, std::vector<Blocco>& blocchi) {
@@ -44,12 +61,13 @@ void aggiungiGruppo(const EsitoGruppo& esito, std::vector<Blocco>& blocchi) {
     if (!gruppo.descrizione.empty())
         blocchi.emplace_back(Paragrafo{traduttore(gruppo.descrizione)});
     tables::Prospetto tavola = prospetto(esito);
+    unisci(tavola);
     tavola.titolo.clear();
     tavola.note.clear();  // they stand with their cases
     blocchi.emplace_back(document::Tavola{std::move(tavola)});
     blocchi.emplace_back(Titolo{2, traduttore("I casi")});
     for (const EsitoCaso& caso : esito.casi) {
-        blocchi.emplace_back(Titolo{3, caso.caso->nome + ": " + traduttore(caso.caso->titolo)});
+        blocchi.emplace_back(Titolo{3, caso.caso->nome + " – " + traduttore(caso.caso->titolo)});
         blocchi.emplace_back(Paragrafo{spiegazione(*caso.caso), Stile::nota});
     }
 }

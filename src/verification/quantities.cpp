@@ -167,9 +167,9 @@ constexpr Grandezza tabella[] = {
 
     diFase(riga(unita::spostamentoFine, "spostamento_massimo", "Spostamento massimo"),
            estremoCorsa<&R::yNodo, perGrandezza>, estremoEquilibrio<&E::y, perGrandezza>),
-    diFase(riga(unita::momentoAlMetro, "momento_massimo", "Momento massimo"),
+    diFase(riga(unita::momentoAlMetro, "momento_massimo", "Momento più grande"),
            estremoCorsa<&R::momentoNodo, perValore>, estremoEquilibrio<&E::momento, perValore>),
-    diFase(riga(unita::momentoAlMetro, "momento_minimo", "Momento minimo"),
+    diFase(riga(unita::momentoAlMetro, "momento_minimo", "Momento più piccolo"),
            estremoCorsa<&R::momentoNodo, perOpposto>, estremoEquilibrio<&E::momento, perOpposto>),
     diFase(riga(unita::forzaAlMetro, "taglio_massimo", "Taglio massimo"),
            estremoCorsa<&R::taglioNodo, perGrandezza>, estremoEquilibrio<&E::taglio, perGrandezza>),

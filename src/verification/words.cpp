@@ -46,7 +46,17 @@ std::string parole(const Caso& caso, const Attesa& attesa) {
     return testo;
 }
 
-std::string parole(Metodo metodo) { return traduttore(codice(metodo)); }
+std::string parole(Metodo metodo) {
+    switch (metodo) {
+        case Metodo::corsa:
+            return traduttore("Relazione");
+        case Metodo::equilibrio:
+            return traduttore("Equilibrio");
+        case Metodo::sezione:
+            return traduttore("Sezione");
+    }
+    return {};
+}
 
 std::string parole(Verdetto verdetto) { return traduttore(codice(verdetto)); }
 

@@ -11,7 +11,7 @@ namespace korven::verification {
 /// "Spostamento, fase 2, z 10 m"; of a wall with one stage without it.
 [[nodiscard]] std::string parole(const Caso& caso, const Attesa& attesa);
 
-/// "relazione", "equilibrio", "sezione".
+/// "Relazione", "Equilibrio", "Sezione".
 [[nodiscard]] std::string parole(Metodo metodo);
 
 /// "buono", "fallito", "noto".
