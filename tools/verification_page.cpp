@@ -119,8 +119,7 @@ std::string sources(const Caso& c) {
     for (const auto& formula : c.calcolo) text += '`' + formula + "` ";
     if (!c.tolleranza.empty()) text += traduttore(c.tolleranza);
     if (!c.noto.empty())
-        text +=
-            " **" + base::riempito(traduttore("Differenza nota: %1"), {"** " + traduttore(c.noto)});
+        text += ' ' + base::riempito(traduttore("Differenza nota: %1"), {traduttore(c.noto)});
     return text + '\n';
 }
 

@@ -67,7 +67,7 @@ void aggiungiGruppo(const EsitoGruppo& esito, std::vector<Blocco>& blocchi) {
     blocchi.emplace_back(document::Tavola{std::move(tavola)});
     blocchi.emplace_back(Titolo{2, traduttore("I casi")});
     for (const EsitoCaso& caso : esito.casi) {
-        blocchi.emplace_back(Titolo{3, caso.caso->nome + " – " + traduttore(caso.caso->titolo)});
+        blocchi.emplace_back(Titolo{3, caso.caso->nome + " · " + traduttore(caso.caso->titolo)});
         blocchi.emplace_back(Paragrafo{spiegazione(*caso.caso), Stile::nota});
     }
 }
