@@ -24,7 +24,7 @@ constexpr const char *principale = "Finestra principale", *immagine = "Immagine 
                      *catalogo = "Catalogo dei profili", *calcolo = "Calcolo in corso",
                      *disegno = "Disegno in corso", *visore = "Visore dei disegni",
                      *penne = "Penne e colori dei disegni", *anteprima = "Anteprima dei tabulati",
-                     *guida = "Finestra della guida";
+                     *allegato = "Anteprima dell'allegato", *guida = "Finestra della guida";
 constexpr const char *chiude = "chiude la finestra", *paginaGuida = "apre la pagina della guida",
                      *storia = "annulla e ripete ciò che si è scritto",
                      *nodi = "legge la paratia più in alto, più in basso",
@@ -95,6 +95,10 @@ constexpr Riga righe[] = {
     {penne, "F2", "cambia il colore scelto"},
     {anteprima, "Ctrl+C, Ctrl+Ins", "copia le righe scelte"},
     {anteprima, "Esc", chiude},
+    {allegato, "PgUp, PgDown", "pagina precedente, pagina seguente"},
+    {allegato, "Home, End", "prima pagina, ultima pagina"},
+    {allegato, "Ctrl++, Ctrl+-", "pagine più grandi, più piccole"},
+    {allegato, "Ctrl+=", "pagine più grandi"},
     {guida, "Alt+Left, Alt+Right", "pagina precedente, pagina seguente"},
     {guida, "Alt+Home", "sommario della guida"},
     {guida, "Ctrl+F", "cerca nelle pagine"},

@@ -25,6 +25,7 @@ constexpr Posto posti[] = {
     {"osservazioni", voceOsservazioni},
     {"risultati", 36},
     {"sicurezza", 37},
+    {"allegato", 43},
     {"DefinEJ", 7},
     {"Form1", 19},
     {"apri", 3},

@@ -212,6 +212,7 @@ TEST_F(ProgrammaTest, LetsOnlyThoseCommandsBeChosenThatShowNoFormOrOneThatIsPlug
         {"controlli", [](auto& f) { f.controlli = [] {}; }, {"controlli"}},
         {"risultati", [](auto& f) { f.risultati = [] {}; }, {"risultati"}},
         {"sicurezza", [](auto& f) { f.sicurezza = [] {}; }, {"sicurezza"}},
+        {"allegato", [](auto& f) { f.allegato = [] {}; }, {"allegato"}},
         {"nuovo", [](auto& f) { f.nuovo = [] { return std::nullopt; }; }, {"nuovo"}},
         {"lingua", [](auto& f) { f.lingua = [] { return false; }; }, {"lingua"}},
         {"tasti", [](auto& f) { f.tasti = [] {}; }, {"tasti"}},
@@ -254,8 +255,8 @@ TEST_F(ProgrammaTest, TakesNoOtherCommandWhileADrawingIsShown) {
     questo = &p;
     EXPECT_TRUE(p.possibile(voceMenu("FileApri")));
     p.produci([](const PorteUscita& porte) { porte.forme.grafica(); });
-    EXPECT_EQ(possibili,
-              (std::vector<std::string_view>{"controlli", "risultati", "sicurezza", "tasti"}));
+    EXPECT_EQ(possibili, (std::vector<std::string_view>{"controlli", "risultati", "sicurezza",
+                                                        "allegato", "tasti"}));
     EXPECT_TRUE(p.possibile(voceMenu("FileApri")));
 }
 

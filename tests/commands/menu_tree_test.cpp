@@ -51,6 +51,7 @@ TEST(AlberoMenu, HoldsTheMenusAndTheirItemsInOrder) {
               "  controlli &Controlli\n"
               "  risultati R&isultati\n"
               "  sicurezza &Sicurezza\n"
+              "  allegato &Allegato\n"
               "  nuovo Nu&ovo\n"
               "  duplica &Duplica\n"
               "  recenti R&ecenti\n"
@@ -93,6 +94,7 @@ TEST(AlberoMenu, GivesEachItemItsEntryOfTheHelpContexts) {
                                                 {"controlli", 34},
                                                 {"risultati", 36},
                                                 {"sicurezza", 37},
+                                                {"allegato", 43},
                                                 {"nuovo", 38},
                                                 {"duplica", 39},
                                                 {"recenti", 40},
@@ -105,7 +107,7 @@ TEST(AlberoMenu, GivesEachItemItsEntryOfTheHelpContexts) {
                 EXPECT_EQ(v.guida, aiuto) << nome;
                 ++trovate;
             }
-    EXPECT_EQ(trovate, 35);
+    EXPECT_EQ(trovate, 36);
 }
 
 TEST(AlberoMenu, GivesNoTwoItemsTheSameKeys) {

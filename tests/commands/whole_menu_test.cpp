@@ -48,6 +48,7 @@ class MenuIntero : public test::BancoProgramma {
         forme.controlli = dice("remarks");
         forme.risultati = dice("results");
         forme.sicurezza = dice("safety");
+        forme.allegato = dice("annex");
         forme.nuovo = [this] {
             mostrate += "pattern, ";
             return std::string();
@@ -112,6 +113,7 @@ TEST_F(MenuIntero, BringsAboutWhatEachItemSays) {
         {"controlli", "remarks"},
         {"risultati", "results"},
         {"sicurezza", "safety"},
+        {"allegato", "annex"},
         {"nuovo", "pattern, name dialog"},
         {"duplica", "name dialog"},
         {"lingua", "languages, start again, end"},

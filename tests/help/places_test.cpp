@@ -33,6 +33,7 @@ TEST(AncoraColonna, CountsTheRowNumbersAsTheFirstField) {
 TEST(VoceForma, OfTheWindowsBesideTheMainFormIsThatOfTheirMenuItem) {
     EXPECT_EQ(voceForma("risultati"), 36);
     EXPECT_EQ(voceForma("sicurezza"), 37);
+    EXPECT_EQ(voceForma("allegato"), 43);
 }
 
 }  // namespace

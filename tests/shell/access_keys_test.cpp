@@ -26,6 +26,7 @@
 #include "shell/safety/safety_window.hpp"
 #include "shell/section/definej.hpp"
 #include "shell/tools/pattern_choice.hpp"
+#include "support/annex_ports.hpp"
 #include "support/delivered_program.hpp"
 #include "support/desktop_bench.hpp"
 #include "support/dialog_double.hpp"
@@ -112,6 +113,7 @@ TEST_P(TastiDiScelta, DifferWithinTheOtherForms) {
     const auto guida = [](const std::string&) {};
     EXPECT_EQ(tastiDi(FinestraRisultati(principale, vita, guida)), 4U);
     EXPECT_EQ(tastiDi(FinestraSicurezza(principale, vita, guida)), 3U);
+    EXPECT_EQ(tastiDi(FinestraAllegato(principale, vita, test::porteAllegato(dialogo), guida)), 8U);
     EXPECT_EQ(tastiDi(SceltaModello({})), 2U);
     for (const bool salvato : {true, false}) {
         test::OffertaDiProva prova;

@@ -27,6 +27,7 @@
 #include "shell/results/results_window.hpp"
 #include "shell/run/temp_calc.hpp"
 #include "shell/safety/safety_window.hpp"
+#include "support/annex_ports.hpp"
 #include "support/delivered_program.hpp"
 #include "support/desktop_bench.hpp"
 #include "support/dialog_double.hpp"
@@ -157,6 +158,8 @@ TEST_F(Accessibilita, OfTheWindowsAroundTheProject) {
     controlla(risultati);
     FinestraSicurezza sicurezza(menu1, vita, [](const std::string&) {});
     controlla(sicurezza);
+    FinestraAllegato allegato(menu1, vita, test::porteAllegato(dialogo), [](const std::string&) {});
+    controlla(allegato);
     const test::OffertaDiProva prova;
     const auto offerta = prova.offerta();
     FormaRecupero recupero(offerta, nullptr);

@@ -39,6 +39,7 @@
 #include "shell/safety/safety_window.hpp"
 #include "shell/tools/keys_window.hpp"
 #include "shell/tools/pattern_choice.hpp"
+#include "support/annex_ports.hpp"
 #include "support/delivered_program.hpp"
 #include "support/desktop_bench.hpp"
 #include "support/dialog_double.hpp"
@@ -159,9 +160,12 @@ void controllaSulProgetto(Menu1& menu1) {
     vita.guarda();
     FinestraRisultati risultati(menu1, vita, [](const std::string&) {});
     FinestraSicurezza sicurezza(menu1, vita, [](const std::string&) {});
+    test::DialogoFinto dialogo;
+    FinestraAllegato allegato(menu1, vita, test::porteAllegato(dialogo), [](const std::string&) {});
     ASSERT_TRUE(QTest::qWaitFor([&] { return vita.vivo().lenti() != nullptr; }, 30000));
     controlla(risultati);
     controlla(sicurezza);
+    controlla(allegato);
 }
 
 // The line at the foot of the main form has room for what a run that found no rest leaves there,

@@ -44,6 +44,7 @@ constexpr IconaVoce iconeVoci[] = {
     {"controlli", "remarks"},
     {"risultati", "results"},
     {"sicurezza", "safety"},
+    {"allegato", "annex"},
     {"nuovo", "new"},
     {"duplica", "duplicate"},
     {"recenti", "recent"},

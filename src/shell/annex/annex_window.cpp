@@ -1,0 +1,206 @@
+#include "shell/annex/annex_window.hpp"
+
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QShowEvent>
+#include <QSignalBlocker>
+#include <QSpinBox>
+#include <QVBoxLayout>
+#include <array>
+#include <utility>
+
+#include "base/folders/file_names.hpp"
+#include "base/pointer_guard.hpp"
+#include "base/translated_texts.hpp"
+#include "device/document_files.hpp"
+#include "document/markup_text.hpp"
+#include "outdoc/document_renderer.hpp"
+#include "project/output_guard.hpp"
+#include "project/project_data.hpp"
+#include "shell/annex/document_view.hpp"
+#include "shell/companions/button_row.hpp"
+#include "shell/failure_box.hpp"
+#include "shell/qt_text.hpp"
+#include "shell/viewer/export.hpp"
+
+namespace korven::shell {
+
+namespace {
+
+constexpr QSize misuraComoda(820, 900);
+constexpr const char* paginaGuida = "finestra_allegato";
+
+// The choices of the size: two that follow the window, then these [%].
+constexpr int vociAdattate = 2;
+constexpr std::array percentuali = {50, 75, 100, 125, 150, 200, 300};
+
+}  // namespace
+
+FinestraAllegato::FinestraAllegato(QWidget& principale, VitaProgetto& vita, PorteAllegato porte,
+                                   std::function<void(const std::string&)> guida)
+    : FinestraCompagna(principale, QStringLiteral("allegato"), tradotto("Allegato"), misuraComoda),
+      vita_(vita),
+      porte_(std::move(porte)) {
+    auto* colonna = new QVBoxLayout(this);
+    vista_ = new VistaDocumento(this);
+    colonna->addWidget(fareRiga());
+    colonna->addWidget(vista_, 1);
+    nota_ = new QLabel(this);
+    nota_->setObjectName(QStringLiteral("nota"));
+    nota_->setTextFormat(Qt::PlainText);
+    nota_->setWordWrap(true);
+    colonna->addWidget(nota_);
+    colonna->addWidget(farePulsanti(guida));
+    vista_->setFocus();
+    connect(vista_, &VistaDocumento::girata, this, [this] { seguiVista(); });
+    // A size that keys or wheel made is none of the list.
+    connect(vista_, &VistaDocumento::ingrandita, this, [this] {
+        zoom_->setCurrentIndex(-1);
+        seguiVista();
+    });
+    connect(&vita, &VitaProgetto::cambiata, this, [this] {
+        cambiato_ = true;
+        if (isVisible()) segui();
+    });
+}
+
+QWidget* FinestraAllegato::fareRiga() {
+    auto* riga = new QWidget(this);
+    auto* disposizione = new QHBoxLayout(riga);
+    disposizione->setContentsMargins(0, 0, 0, 0);
+    const auto etichetta = [&](const char* testo, QWidget* di) {
+        auto* fatta = new QLabel(tradotto(testo), riga);
+        fatta->setBuddy(di);
+        disposizione->addWidget(fatta);
+        disposizione->addWidget(di);
+    };
+    pagina_ = new QSpinBox(riga);
+    pagina_->setObjectName(QStringLiteral("pagina"));
+    pagina_->setAccessibleName(tradotto("pagina"));
+    etichetta("&Pagina", pagina_);
+    quante_ = new QLabel(riga);
+    quante_->setObjectName(QStringLiteral("quante"));
+    disposizione->addWidget(quante_);
+    disposizione->addStretch();
+    zoom_ = new QComboBox(riga);
+    zoom_->setObjectName(QStringLiteral("zoom"));
+    zoom_->addItem(tradotto("Pagina intera"));
+    zoom_->addItem(tradotto("Larghezza della pagina"));
+    for (const int percento : percentuali) zoom_->addItem(QStringLiteral("%1 %").arg(percento));
+    zoom_->setCurrentIndex(1);
+    zoom_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    etichetta("&Ingrandimento", zoom_);
+    connect(pagina_, &QSpinBox::valueChanged, vista_, &VistaDocumento::vaiA);
+    connect(zoom_, &QComboBox::activated, this, &FinestraAllegato::scegliZoom);
+    return riga;
+}
+
+QWidget* FinestraAllegato::farePulsanti(const std::function<void(const std::string&)>& guida) {
+    auto* riga = new FilaPulsanti(*this);
+    riga->aggiungi("aggiorna", "&Aggiorna", "redo", [this] { prepara(); });
+    stampa_ = riga->aggiungi("stampa", "&Stampa...", "print", [this] { stampa(); });
+    pdf_ = riga->aggiungi("pdf", "PD&F...", "picture_file", [this] { salvaPdf(); });
+    doc_ = riga->aggiungi("doc", "&DOC...", "doc", [this] { salvaDocumento(); });
+    riga->aggiungiGuida(guida ? [guida] { guida(paginaGuida); } : std::function<void()>());
+    riga->finisci();
+    return riga;
+}
+
+void FinestraAllegato::showEvent(QShowEvent* evento) {
+    FinestraCompagna::showEvent(evento);
+    if (evento->spontaneous()) return;
+    if (cambiato_) prepara();
+    segui();
+}
+
+void FinestraAllegato::prepara() {
+    if (!vita_.vivo().aperto()) return segui();
+    conAvviso(porte_.dialogo, [this] {
+        const base::GuardiaPuntatore attesa(porte_.dialogo);
+        vista_->mostra(device::impaginato(porte_.prepara()));
+        cambiato_ = false;
+    });
+    segui();
+}
+
+void FinestraAllegato::segui() {
+    const bool aperto = vita_.vivo().aperto();
+    const bool pronto = aperto && vista_->pagine() > 0;
+    for (QWidget* w : {static_cast<QWidget*>(stampa_), static_cast<QWidget*>(pdf_),
+                       static_cast<QWidget*>(doc_), static_cast<QWidget*>(pagina_)})
+        w->setEnabled(pronto);
+    if (!aperto)
+        nota_->setText(tradotto("Nessun progetto aperto"));
+    else if (cambiato_)
+        nota_->setText(
+            tradotto("Il progetto è cambiato da quando l'allegato è stato preparato: "
+                     "Aggiorna lo prepara di nuovo."));
+    else
+        nota_->clear();
+    seguiVista();
+}
+
+void FinestraAllegato::seguiVista() {
+    const QSignalBlocker muta(pagina_);
+    pagina_->setRange(vista_->pagine() > 0 ? 1 : 0, vista_->pagine());
+    pagina_->setValue(vista_->pagina());
+    quante_->setText(QStringLiteral("/ %1").arg(vista_->pagine()));
+}
+
+void FinestraAllegato::scegliZoom(int voce) {
+    if (voce == 0)
+        vista_->adattaPagina();
+    else if (voce == 1)
+        vista_->adattaLarghezza();
+    else
+        vista_->ingrandisci(percentuali[static_cast<std::size_t>(voce - vociAdattate)]);
+    seguiVista();
+}
+
+void FinestraAllegato::stampa() {
+    conAvviso(porte_.dialogo, [this] { porte_.stampa(*vista_->impaginato().documento); });
+}
+
+void FinestraAllegato::salva(const char* titolo, const TipoFile& tipo,
+                             const std::function<void(const std::string&)>& scrivi) {
+    const std::string proposto =
+        base::nomeUscita(project::fileCorrente, "allegato", tipo.estensione);
+    const FileDaSalvare richiesta{
+        base::traduttore(titolo), proposto.substr(proposto.rfind('/') + 1), {tipo}};
+    while (const auto percorso = porte_.file->fileDaSalvare(richiesta)) {
+        const bool fatto = conAvviso(porte_.dialogo, [&] {
+            project::controllaUscita(*percorso, project::fileCorrente);
+            nota_->clear();
+            scrivi(*percorso);
+            porte_.file->scritto(*percorso);
+        });
+        if (!fatto) continue;
+        QString scritto = tradotto("File scritto") + QStringLiteral(": ") + qt(*percorso);
+        if (!nota_->text().isEmpty()) scritto += QStringLiteral("\n") + nota_->text();
+        return nota_->setText(scritto);
+    }
+}
+
+void FinestraAllegato::salvaPdf() {
+    salva("Salvataggio dell'allegato in formato PDF", tipoPdf(), [this](const std::string& dove) {
+        // On the paper of files, whatever the screen shows.
+        device::scriviPdf(dove, *vista_->impaginato().documento, porte_.file->disco());
+    });
+}
+
+void FinestraAllegato::salvaDocumento() {
+    salva("Salvataggio dell'allegato in formato DOC", {"DOC (*.doc)", "doc"},
+          [this](const std::string& dove) {
+              const auto scritto = outdoc::writeDocument(
+                  dove,
+                  document::inMarkup(*vista_->impaginato().documento, document::Uso::documento),
+                  porte_.file->disco());
+              if (!scritto.kept.empty())
+                  nota_->setText(tradotto("Il documento che c'era è conservato in") +
+                                 QStringLiteral(": ") + qt(scritto.kept));
+          });
+}
+
+}  // namespace korven::shell

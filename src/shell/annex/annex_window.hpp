@@ -1,0 +1,70 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "base/dialogo.hpp"
+#include "commands/desktop_forms.hpp"
+#include "document/blocks.hpp"
+#include "shell/companions/companion_window.hpp"
+#include "shell/live/live_view.hpp"
+#include "shell/viewer/ports.hpp"
+
+class QComboBox;
+class QLabel;
+class QPushButton;
+class QSpinBox;
+
+namespace korven::shell {
+
+class VistaDocumento;
+
+/// What the window of the annex needs of the outside.
+struct PorteAllegato {
+    base::Dialogo& dialogo;
+    /// The annex of the project as it is now; called with the hourglass on the screen.
+    std::function<document::Documento()> prepara;
+    std::shared_ptr<PorteGrafica> file;  ///< the dialogs to save, and the disk
+    /// Prints on the printer that the user chooses; the pages are then those of its sheet.
+    /// @throws base::ErroreFile when it fails
+    std::function<void(const document::Documento&)> stampa;
+};
+
+/// The annex of the open project on its pages: to look at, to print, to save as PDF or for a word
+/// processor. It is made when the window is opened and when it is asked for again; that the project
+/// has changed since is told.
+class FinestraAllegato : public FinestraCompagna {
+    Q_OBJECT
+ public:
+    /// @param guida  opens the help at the page of a name; empty without a help file
+    FinestraAllegato(QWidget& principale, VitaProgetto& vita, PorteAllegato porte,
+                     std::function<void(const std::string&)> guida);
+
+ protected:
+    void showEvent(QShowEvent* evento) override;
+
+ private:
+    QWidget* fareRiga();
+    QWidget* farePulsanti(const std::function<void(const std::string&)>& guida);
+    void prepara();
+    void segui();
+    void seguiVista();
+    void scegliZoom(int voce);
+    void stampa();
+    void salva(const char* titolo, const TipoFile& tipo,
+               const std::function<void(const std::string&)>& scrivi);
+    void salvaPdf();
+    void salvaDocumento();
+
+    VitaProgetto& vita_;
+    PorteAllegato porte_;
+    VistaDocumento* vista_ = nullptr;
+    QSpinBox* pagina_ = nullptr;
+    QLabel *quante_ = nullptr, *nota_ = nullptr;
+    QComboBox* zoom_ = nullptr;
+    QPushButton *stampa_ = nullptr, *pdf_ = nullptr, *doc_ = nullptr;
+    bool cambiato_ = true;  // the project, since the pages were made
+};
+
+}  // namespace korven::shell

@@ -1,0 +1,81 @@
+#include "shell/annex/annex_wiring.hpp"
+
+#include <QPointer>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <memory>
+#include <utility>
+
+#include "base/folders/file_names.hpp"
+#include "base/translated_texts.hpp"
+#include "device/document_files.hpp"
+#include "project/output_guard.hpp"
+#include "project/project_data.hpp"
+#include "shell/annex/annex_window.hpp"
+#include "shell/viewer/dialogs.hpp"
+#include "shell/viewer/export.hpp"
+
+namespace korven::shell {
+
+namespace {
+
+// All pages again for what is printed next.
+class TutteLePagine {
+ public:
+    explicit TutteLePagine(QPrinter& stampante) : stampante_(stampante) { tutte(); }
+    TutteLePagine(const TutteLePagine&) = delete;
+    TutteLePagine& operator=(const TutteLePagine&) = delete;
+    ~TutteLePagine() { tutte(); }
+
+ private:
+    void tutte() {
+        stampante_.setPrintRange(QPrinter::AllPages);
+        stampante_.setFromTo(0, 0);
+    }
+    QPrinter& stampante_;
+};
+
+// On the printer that the system's dialog chooses; where there is none, into a PDF file of its
+// sheet.
+void stampaAllegato(const document::Documento& documento, PorteDesktop& porte, QPrinter& stampante,
+                    QWidget* sopra) {
+    const TutteLePagine dopo(stampante);
+    if (!porte.haStampante()) {
+        const std::string nome = base::nomeUscita(project::fileCorrente, "allegato", "pdf");
+        const auto percorso =
+            porte.fileDaSalvare({base::traduttore("Salvataggio dell'allegato in formato PDF"),
+                                 nome.substr(nome.rfind('/') + 1),
+                                 {tipoPdf()}});
+        if (!percorso) return;
+        project::controllaUscita(*percorso, project::fileCorrente);
+        device::scriviPdf(
+            *percorso, device::impaginato(documento, device::formatoPagina(stampante.pageLayout())),
+            porte.disco());
+        return porte.scritto(*percorso);
+    }
+    if (stampante.outputFileName().isEmpty() &&
+        QPrintDialog(&stampante, sopra).exec() != QDialog::Accepted)
+        return;
+    device::stampa(device::impaginato(documento, device::formatoPagina(stampante.pageLayout())),
+                   stampante);
+}
+
+}  // namespace
+
+void collegaAllegato(commands::FormeProgramma& forme, QWidget& principale, VitaProgetto& vita,
+                     base::Dialogo& dialogo, const std::function<QPrinter&()>& stampante,
+                     const std::function<document::Documento()>& prepara,
+                     const std::function<void(const std::string&)>& annuncia) {
+    const auto file = std::make_shared<PorteDesktop>(stampante, annuncia);
+    const PorteAllegato porte{dialogo, prepara, file,
+                              [file, stampante, &principale](const document::Documento& documento) {
+                                  stampaAllegato(documento, *file, stampante(), &principale);
+                              }};
+    forme.allegato = [finestra = std::make_shared<QPointer<FinestraAllegato>>(), &principale, &vita,
+                      porte, guida = forme.paginaGuida] {
+        if (*finestra == nullptr) *finestra = new FinestraAllegato(principale, vita, porte, guida);
+        (*finestra)->mostraDavanti();
+    };
+}
+
+}  // namespace korven::shell

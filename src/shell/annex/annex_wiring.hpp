@@ -1,0 +1,25 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "base/dialogo.hpp"
+#include "commands/desktop_forms.hpp"
+#include "document/blocks.hpp"
+#include "shell/live/live_view.hpp"
+
+class QPrinter;
+class QWidget;
+
+namespace korven::shell {
+
+/// Plugs the window of the annex into the item of the menu.
+/// @param stampante  the printer of the program, as the printer set-up left it
+/// @param prepara    the annex of the open project as it is now; nothing is written
+/// @param annuncia   told the path of each file that was written
+void collegaAllegato(commands::FormeProgramma& forme, QWidget& principale, VitaProgetto& vita,
+                     base::Dialogo& dialogo, const std::function<QPrinter&()>& stampante,
+                     const std::function<document::Documento()>& prepara,
+                     const std::function<void(const std::string&)>& annuncia);
+
+}  // namespace korven::shell

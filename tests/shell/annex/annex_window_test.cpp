@@ -1,0 +1,194 @@
+#include "shell/annex/annex_window.hpp"
+
+#include <gtest/gtest.h>
+
+#include <QComboBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QSpinBox>
+#include <filesystem>
+
+#include "base/file_error.hpp"
+#include "shell/annex/document_view.hpp"
+#include "shell/qt_text.hpp"
+#include "support/annex_ports.hpp"
+#include "support/desktop_bench.hpp"
+#include "support/dialog_double.hpp"
+#include "support/form_setup.hpp"
+#include "support/open_project.hpp"
+#include "support/sample_document.hpp"
+#include "support/sample_sections.hpp"
+#include "support/temporary_folder.hpp"
+
+namespace korven::shell {
+namespace {
+
+namespace fs = std::filesystem;
+
+class FinestraAllegatoTest : public ::testing::Test {
+ protected:
+    FinestraAllegatoTest() {
+        base::impostaCartellaProgramma(KORVEN_PROGRAM_FOLDER);
+        principale.resize(300, 200);
+        principale.show();
+        vita.guarda();
+        finestra.resize(700, 700);
+    }
+    ~FinestraAllegatoTest() override { base::impostaCartellaProgramma({}); }
+
+    document::Documento prepara() {
+        ++preparati;
+        if (guasto) throw base::ErroreFile("muro.kvd", 0, "guasto");
+        auto documento = test::documentoCompleto();
+        documento.titolo = "Allegato " + std::to_string(preparati);
+        return documento;
+    }
+    VistaDocumento& vista() { return test::controllo<VistaDocumento>(finestra, "anteprima"); }
+    QSpinBox& pagina() { return test::controllo<QSpinBox>(finestra, "pagina"); }
+    QString nota() { return test::controllo<QLabel>(finestra, "nota").text(); }
+    void premi(const char* pulsante) { test::controllo<QPushButton>(finestra, pulsante).click(); }
+
+    QApplication& app = test::applicazione();
+    test::UtenteNuovo utente;
+    test::ProgettoAperto aperto{test::progettoSemplice()};
+    test::CartellaProvvisoria cartella;
+    test::DialogoFinto dialogo;
+    std::shared_ptr<test::SalvataggioDiProva> salvataggio =
+        std::make_shared<test::SalvataggioDiProva>();
+    int preparati = 0;
+    bool guasto = false;
+    std::vector<std::string> stampati;
+    QWidget principale;
+    VitaProgetto vita;
+    std::string guida;
+    FinestraAllegato finestra{
+        principale, vita,
+        PorteAllegato{dialogo, [this] { return prepara(); }, salvataggio,
+                      [this](const document::Documento& d) { stampati.push_back(d.titolo); }},
+        [this](const std::string& nome) { guida = nome; }};
+};
+
+TEST_F(FinestraAllegatoTest, MakesTheAnnexWhenItIsOpenedAndNotAgainBeforeTheProjectChanges) {
+    finestra.mostraDavanti();
+    EXPECT_EQ(preparati, 1);
+    EXPECT_GT(vista().pagine(), 3);
+    EXPECT_EQ(pagina().maximum(), vista().pagine());
+    EXPECT_EQ(nota(), "");
+    finestra.close();
+    finestra.mostraDavanti();
+    EXPECT_EQ(preparati, 1);
+}
+
+TEST_F(FinestraAllegatoTest, SaysThatTheProjectHasChangedAndMakesItAnewOnRequest) {
+    finestra.mostraDavanti();
+    emit vita.cambiata();
+    EXPECT_TRUE(nota().startsWith(QStringLiteral("Il progetto è cambiato")))
+        << nota().toStdString();
+    EXPECT_EQ(preparati, 1) << "the pages do not run away under the eyes of their reader";
+    premi("aggiorna");
+    EXPECT_EQ(preparati, 2);
+    EXPECT_EQ(nota(), "");
+}
+
+TEST_F(FinestraAllegatoTest, TurnsItsPagesByKeysAndByNumber) {
+    finestra.mostraDavanti();
+    const int quante = vista().pagine();
+    QTest::keyClick(&vista(), Qt::Key_PageDown);
+    EXPECT_EQ(pagina().value(), 2);
+    QTest::keyClick(&vista(), Qt::Key_End);
+    EXPECT_EQ(pagina().value(), quante);
+    QTest::keyClick(&vista(), Qt::Key_PageDown);
+    EXPECT_EQ(pagina().value(), quante);
+    QTest::keyClick(&vista(), Qt::Key_PageUp);
+    EXPECT_EQ(pagina().value(), quante - 1);
+    QTest::keyClick(&vista(), Qt::Key_Home);
+    EXPECT_EQ(pagina().value(), 1);
+    pagina().setValue(3);
+    EXPECT_EQ(vista().pagina(), 3);
+}
+
+TEST_F(FinestraAllegatoTest, FitsThePagesToTheWindowAndMakesThemLargerByKeys) {
+    finestra.mostraDavanti();
+    auto& zoom = test::controllo<QComboBox>(finestra, "zoom");
+    EXPECT_EQ(vista().horizontalScrollBar()->maximum(), 0) << "as wide as the window at first";
+    const double larga = vista().percento();
+    zoom.setCurrentIndex(0);
+    emit zoom.activated(0);
+    EXPECT_LT(vista().percento(), larga);
+    pagina().setValue(2);
+    for (const Qt::Key tasto : {Qt::Key_Plus, Qt::Key_Equal}) {
+        const double prima = vista().percento();
+        QTest::keyClick(&vista(), tasto, Qt::ControlModifier);
+        EXPECT_GT(vista().percento(), prima);
+    }
+    EXPECT_EQ(vista().pagina(), 2) << "the place that is looked at stays";
+    EXPECT_EQ(zoom.currentIndex(), -1);
+    emit zoom.activated(zoom.findText(QStringLiteral("200 %")));
+    EXPECT_NEAR(vista().percento(), 200, 0.01);
+    EXPECT_GT(vista().horizontalScrollBar()->maximum(), 0);
+    for (int i = 0; i < 40; ++i) QTest::keyClick(&vista(), Qt::Key_Minus, Qt::ControlModifier);
+    EXPECT_NEAR(vista().percento(), 20, 0.01);
+}
+
+TEST_F(FinestraAllegatoTest, ReadsTheTextsOfThePageToThoseWhoDoNotSeeIt) {
+    finestra.mostraDavanti();
+    EXPECT_TRUE(vista().accessibleDescription().startsWith(
+        QStringLiteral("pagina 1 / %1").arg(vista().pagine())));
+    EXPECT_TRUE(vista().accessibleDescription().contains(QStringLiteral("Che cosa si calcola")));
+    int figura = 0;
+    for (int i = 1; i <= vista().pagine(); ++i) {
+        vista().vaiA(i);
+        if (vista().accessibleDescription().contains(
+                QStringLiteral("Il momento cresce con la profondità.")))
+            ++figura;
+    }
+    EXPECT_EQ(figura, 1) << "what the drawings show is told";
+}
+
+TEST_F(FinestraAllegatoTest, SavesPdfAndDocUnderTheNameOfTheProject) {
+    finestra.mostraDavanti();
+    salvataggio->nomi = {cartella / "a.pdf", cartella / "a.doc"};
+    premi("pdf");
+    EXPECT_TRUE(salvataggio->chiesta.nome.ends_with("-allegato.pdf")) << salvataggio->chiesta.nome;
+    EXPECT_TRUE(test::contenuto(cartella / "a.pdf").starts_with("%PDF-"));
+    EXPECT_TRUE(nota().contains(QStringLiteral("a.pdf")));
+    premi("doc");
+    EXPECT_TRUE(salvataggio->chiesta.nome.ends_with("-allegato.doc"));
+    EXPECT_TRUE(test::contenuto(cartella / "a.doc").starts_with("PK"));
+    EXPECT_EQ(salvataggio->scritti.size(), 2U);
+}
+
+TEST_F(FinestraAllegatoTest, AsksAgainForANameThatCannotBeWritten) {
+    finestra.mostraDavanti();
+    salvataggio->nomi = {cartella / "non/c'è/a.pdf", cartella / "b.pdf"};
+    premi("pdf");
+    EXPECT_EQ(dialogo.messaggi.size(), 1U);
+    EXPECT_TRUE(fs::exists(cartella / "b.pdf"));
+}
+
+TEST_F(FinestraAllegatoTest, PrintsTheDocumentThatIsShown) {
+    finestra.mostraDavanti();
+    premi("stampa");
+    EXPECT_EQ(stampati, (std::vector<std::string>{"Allegato 1"}));
+}
+
+TEST_F(FinestraAllegatoTest, KeepsThePagesOfBeforeWhereTheyCannotBeMadeAnew) {
+    finestra.mostraDavanti();
+    const int prima = vista().pagine();
+    guasto = true;
+    emit vita.cambiata();
+    premi("aggiorna");
+    EXPECT_EQ(dialogo.messaggi.size(), 1U);
+    EXPECT_EQ(vista().pagine(), prima);
+    EXPECT_TRUE(nota().startsWith(QStringLiteral("Il progetto è cambiato")));
+}
+
+TEST_F(FinestraAllegatoTest, OpensItsPageOfTheHelp) {
+    finestra.mostraDavanti();
+    premi("guida");
+    EXPECT_EQ(guida, "finestra_allegato");
+}
+
+}  // namespace
+}  // namespace korven::shell
