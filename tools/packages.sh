@@ -6,6 +6,7 @@ packages_bench="libbenchmark-dev libopenblas-dev liblapacke-dev libeigen3-dev"
 packages_fuzz="clang"
 packages_external="librecad libreoffice-draw-nogui poppler-utils imagemagick"
 packages_printing="cups printer-driver-cups-pdf poppler-utils imagemagick" # a real print queue
+packages_verification="python3-numpy"  # tests/oracle/verification
 packages_documents="libreoffice-writer-nogui poppler-utils"  # to look at what outdoc writes
 
 # install_packages NAME...: installs those that are missing, as root or through sudo. Asks dpkg first,

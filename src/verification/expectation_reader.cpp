@@ -32,14 +32,12 @@ int contato(const RigheCaso& righe, std::string_view testo, int massimo) {
     return static_cast<int>(letto);
 }
 
-double nodo(const RigheCaso& righe, std::string_view testo, const Parete& parete) {
+void controllaNodo(const RigheCaso& righe, double z, const Parete& parete) {
     constexpr double arrotondamento = 1e-6;  // of the step: depths are typed with few decimals
-    const double z = numero(righe, testo);
     const double passi = z * parete.segmenti / parete.dati.lunghezzaParatia;
     if (!(std::fabs(passi - std::round(passi)) < arrotondamento) || passi < -arrotondamento ||
         passi > parete.segmenti + arrotondamento)
-        righe.rifiuta("la profondità di un nodo, non «%1»", {std::string(testo)});
-    return z;
+        righe.rifiuta("la profondità di un nodo, non «%1»", {base::testoNumero(z)});
 }
 
 // Takes the pairs that name a place and ends at the first word that is none.
@@ -50,7 +48,7 @@ void prendiLuogo(const RigheCaso& righe, const Parete& parete, Passo& passo, Pas
         if (*passo == "fase")
             luogo.fase = contato(righe, valore, parete.dati.nFasi);
         else if (*passo == "z")
-            luogo.z = nodo(righe, valore, parete);
+            controllaNodo(righe, luogo.z.emplace(numero(righe, valore)), parete);
         else if (*passo == "tirante")
             luogo.tirante = contato(righe, valore, parete.dati.nTiranti);
         else
@@ -100,6 +98,7 @@ ConRun confronto(const RigheCaso& righe, const Caso& caso, const Luogo& suo, Pas
     if (!caso.variante) righe.rifiuta("una parete variante, con la quale si confronta");
     ConRun c{.variante = true, .luogo = suo};
     prendiLuogo(righe, *caso.variante, ++passo, fine, c.luogo);
+    if (c.luogo.z) controllaNodo(righe, *c.luogo.z, *caso.variante);
     if (passo != fine && *passo == volte && std::next(passo) != fine) {
         c.fattore = numero(righe, *std::next(passo));
         passo += 2;

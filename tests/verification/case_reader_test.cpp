@@ -123,6 +123,18 @@ TEST(LeggiCaso, RefusesExpectationsThatMeanNothing) {
               "un calcolo che conosce la grandezza, non «corsa»");
 }
 
+TEST(LeggiCaso, RefusesADepthThatIsNoNodeOfTheVariant) {
+    const std::string inizio = std::string(testa) + parete;
+    EXPECT_EQ(errore(inizio + "[variante]\nsegmenti = 30\n[attesi]\n" +
+                     "spostamento z 0.5 = variante entro 1 %\n")
+                  .second,
+              "la profondità di un nodo, non «0.5»");
+    EXPECT_EQ(errore(inizio + "[variante]\nsegmenti = 40\n[attesi]\n" +
+                     "spostamento z 0.5 = variante entro 1 %\n")
+                  .first,
+              -1);
+}
+
 TEST(LeggiCaso, RefusesFieldsThatItDoesNotKnow) {
     const std::string inizio = std::string(testa) + "[parete]\n";
     EXPECT_EQ(errore(inizio + "gama = 1\n"),

@@ -12,6 +12,7 @@ here = pathlib.Path(__file__).resolve().parent
 sys.path.insert(0, str(here))
 import beams  # noqa: E402
 import coefficients  # noqa: E402
+import examples  # noqa: E402
 import limit  # noqa: E402
 import sections  # noqa: E402
 import springs  # noqa: E402
@@ -32,7 +33,7 @@ def written(path):
 
 def main():
     checked = wrong = 0
-    for module in (beams, coefficients, limit, sections, springs):
+    for module in (beams, coefficients, examples, limit, sections, springs):
         for (case, left), value in module.values().items():
             text = written(cases[case]).get(left) if case in cases else None
             decimals = len(text.partition(".")[2]) if text else 0
