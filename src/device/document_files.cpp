@@ -1,6 +1,7 @@
 #include "device/document_files.hpp"
 
 #include <QBuffer>
+#include <QHashSeed>
 #include <QPageLayout>
 #include <QPainter>
 #include <QPdfWriter>
@@ -56,6 +57,16 @@ ProprietaPdf proprieta(const Impaginato& impaginato) {
     return p;
 }
 
+// Qt numbers the fonts of a PDF file in the order of a hash table, which is another one in each
+// process unless the seed is fixed while it writes.
+class OrdineFisso {
+ public:
+    OrdineFisso() { QHashSeed::setDeterministicGlobalSeed(); }
+    OrdineFisso(const OrdineFisso&) = delete;
+    OrdineFisso& operator=(const OrdineFisso&) = delete;
+    ~OrdineFisso() { QHashSeed::resetRandomGlobalSeed(); }
+};
+
 // The printer as it was, whatever ends the job.
 class FoglioIntero {
  public:
@@ -91,6 +102,7 @@ void scriviPdf(const std::string& percorso, const Impaginato& impaginato,
     QBuffer byte;
     byte.open(QIODevice::WriteOnly);
     {
+        const OrdineFisso ordine;
         QPdfWriter scrittore(&byte);
         scrittore.setResolution(dpiPdf);
         scrittore.setPageSize(

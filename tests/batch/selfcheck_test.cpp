@@ -65,6 +65,21 @@ TEST_F(Autoverifica, WritesADocument) {
     EXPECT_TRUE(test::contenuto(pdf).starts_with("%PDF-"));
 }
 
+// Each process has a random order of its own for what Qt numbers by a hash table.
+TEST_F(Autoverifica, WritesTheSameBytesInEachProcess) {
+    const std::string pdf = cartella / "v.pdf", dove = casi("144.0");
+    test::Ambiente ambiente;
+    ambiente.variabili.emplace_back("SOURCE_DATE_EPOCH", "1700000000");
+    std::string prima;
+    for (int i = 0; i < 6; ++i) {
+        const auto esito =
+            console({"autoverifica", "--casi", dove, "--pdf", pdf, "--silenzioso"}, ambiente);
+        EXPECT_EQ(esito.codice, 0) << esito.errori;
+        if (i == 0) prima = test::contenuto(pdf);
+        EXPECT_TRUE(test::contenuto(pdf) == prima) << i;
+    }
+}
+
 TEST_F(Autoverifica, KeepsItsCasesFromTheDocument) {
     const std::string dove = casi("144.0");
     const auto esito = console({"autoverifica", "--casi", dove, "--pdf", dove + "/mensola.txt"});
