@@ -10,6 +10,7 @@
 #include "base/translated_texts.hpp"
 #include "batch/command_table.hpp"
 #include "batch/options/common_options.hpp"
+#include "batch/run/annex_output.hpp"
 #include "batch/run/command_ports.hpp"
 #include "batch/run/console_run.hpp"
 #include "batch/run/drawing_formats.hpp"
@@ -103,7 +104,8 @@ bool diagramma(analysis::Diagramma tipo, CorsaConsole& corsa) {
     return corsa.esegui(tipo, uscita);
 }
 
-void controllaTutte(const Opzioni& opzioni, const FormatiRelazione& relazione) {
+void controllaTutte(const Opzioni& opzioni, const FormatiRelazione& relazione,
+                    const FormatiAllegato& allegato) {
     std::vector<std::string> tutte;
     for (const Tavola& tavola : tavole()) {
         const FormatiDisegno chiesti = formatiTavola(opzioni, tavola);
@@ -112,6 +114,10 @@ void controllaTutte(const Opzioni& opzioni, const FormatiRelazione& relazione) {
     }
     controllaUscite(relazione);
     tutte.push_back(relazione.pdf);
+    for (const auto& file : allegato.file()) {
+        controllaTabella(file);
+        tutte.push_back(file);
+    }
     controllaNomi(tutte, {});
 }
 
@@ -120,7 +126,9 @@ int esegui(const Opzioni& opzioni, const PorteComando& porte, Esito& esito) {
         avvisaPosto();
         const AmbienteDisegno ambiente(true);
         const FormatiRelazione relazione = formatiRelazione();
-        controllaTutte(opzioni, relazione);
+        const FormatiAllegato allegato = allegatoAccanto(opzioni.allegato);
+        controllaTutte(opzioni, relazione, allegato);
+        project::DatiProgetto usati = Progetto;  // reading results back changes the method
         CorsaConsole corsa(opzioni, porte, esito);
         if (!produciRelazione(relazione, corsa, esito)) return nonEseguito;
         esito.calcolo = results::leggiEsito();
@@ -138,6 +146,10 @@ int esegui(const Opzioni& opzioni, const PorteComando& porte, Esito& esito) {
             else
                 scriviDisegno(formatiTavola(opzioni, tavola), porte.disco, esito);
         }
+        usati.rigidezzaEJ = Progetto.rigidezzaEJ;
+        if (corsa.interrotta()) return nonEseguito;
+        scriviAllegato(fascicoloAllegato(opzioni, usati, allegato, esito), allegato, porte.disco,
+                       esito);
         esito.fasi = fasi;
         esito.giaAggiornato = giaAggiornato;
         return codice;
@@ -160,7 +172,7 @@ RigaComando comandoTutto() {
     formati.predefinito = "[pdf,dxf]";
     formati.ripetibile = true;
     RigaComando riga = {{"tutto", "all"},
-                        "scrive la relazione in ogni formato e tutti i disegni",
+                        "scrive la relazione e l'allegato in ogni formato e tutti i disegni",
                         insieme({opzioniCalcolo(true), {formati, opzioneRisoluzione()}}),
                         esegui};
     riga.calcola = true;

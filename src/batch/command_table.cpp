@@ -4,9 +4,9 @@ namespace korven::batch {
 
 const std::vector<RigaComando>& comandi() {
     static const std::vector<RigaComando> tutti = {
-        comandoCalcola(),   comandoRelazione(), comandoVerifica(),     comandoEquilibrio(),
-        comandoSicurezza(), comandoDiagramma(), comandoSezione(),      comandoStratigrafia(),
-        comandoCampiture(), comandoTutto(),     comandoAutoverifica(),
+        comandoCalcola(),      comandoRelazione(), comandoAllegato(),  comandoVerifica(),
+        comandoEquilibrio(),   comandoSicurezza(), comandoDiagramma(), comandoSezione(),
+        comandoStratigrafia(), comandoCampiture(), comandoTutto(),     comandoAutoverifica(),
     };
     return tutti;
 }

@@ -9,6 +9,7 @@ namespace korven::batch {
 // The rows of the commands, each in the file of its own.
 [[nodiscard]] RigaComando comandoCalcola();
 [[nodiscard]] RigaComando comandoRelazione();
+[[nodiscard]] RigaComando comandoAllegato();
 [[nodiscard]] RigaComando comandoVerifica();
 [[nodiscard]] RigaComando comandoEquilibrio();
 [[nodiscard]] RigaComando comandoSicurezza();

@@ -24,11 +24,6 @@ namespace {
 
 using project::Progetto;
 
-class FinoAllInterruzione : public analysis::OsservatoreCorsa {
- public:
-    [[nodiscard]] bool fermata() override { return Interruzioni::chiesta() != 0; }
-};
-
 void controllaFile(const Opzioni& opzioni) {
     controllaUscite(opzioni.disegno);
     controllaTabella(opzioni.csv, opzioni.disegno.file());

@@ -44,6 +44,7 @@ namespace korven::base {
 // Italian one in every language: a name that an office has agreed on must not change with the
 // language of the one who prints.
 inline constexpr Gemelli parolaRelazione{"relazione", "report"};
+inline constexpr Gemelli parolaAllegato{"allegato", "annex"};
 inline constexpr Gemelli parolaSezione{"sezione", "section"};
 inline constexpr Gemelli parolaStratigrafia{"stratigrafia", "log"};
 

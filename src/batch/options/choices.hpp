@@ -29,6 +29,7 @@ struct Opzioni {
     int fase = 0;                      ///< `diagramma`: the stage to draw, 0 for all
     FormatiRelazione relazione;        ///< of `relazione`, besides the mark-up
     FormatiDisegno disegno;            ///< files of a drawing
+    FormatiAllegato allegato;          ///< of `allegato`
     std::string csv;                   ///< file of a table; empty: none
     std::string pdfVerifica;           ///< `autoverifica`: the PDF file; empty: none
     std::string casi;                  ///< `autoverifica`: folder of cases; empty: the program's

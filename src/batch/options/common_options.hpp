@@ -17,6 +17,8 @@ inline constexpr base::Gemelli nomeComandoVerifica{"verifica", "check"};
 inline constexpr base::Gemelli nomeOpzioneCalcola{"--calcola", "--calculate"};
 inline constexpr base::Gemelli nomeOpzioneMetodo{"--metodo-spinte", "--pressures"};
 inline constexpr base::Gemelli nomeOpzioneNseg{"--nseg", "--segments"};
+inline constexpr base::Gemelli nomeOpzioneRighe{"--righe", "--rows"};
+inline constexpr base::Gemelli nomeOpzioneData{"--data", "--date"};
 inline constexpr base::Gemelli nomeOpzioneSevero{"--severo", "--strict"};
 
 /// The name of a method for the soil pressures, as the option takes it.

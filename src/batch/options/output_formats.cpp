@@ -9,4 +9,11 @@ std::vector<std::string> FormatiDisegno::file() const {
     return tutti;
 }
 
+std::vector<std::string> FormatiAllegato::file() const {
+    std::vector<std::string> tutti;
+    for (const std::string* nome : {&pdf, &documento, &testo})
+        if (!nome->empty()) tutti.push_back(*nome);
+    return tutti;
+}
+
 }  // namespace korven::batch

@@ -32,4 +32,15 @@ struct FormatiDisegno {
     [[nodiscard]] std::vector<std::string> file() const;
 };
 
+/// What an annex leaves; empty names are not written.
+struct FormatiAllegato {
+    std::string pdf, documento, testo;
+    int righe = 51;    ///< of a stage's table of nodes, at most
+    std::string data;  ///< "2026-11-22"; empty: that of the run
+
+    [[nodiscard]] bool nessuno() const { return file().empty(); }
+    /// All that will be written, in this order.
+    [[nodiscard]] std::vector<std::string> file() const;
+};
+
 }  // namespace korven::batch

@@ -5,6 +5,8 @@
 #include <array>
 #include <csignal>
 
+#include "analysis/run_observer.hpp"
+
 namespace korven::batch {
 
 /// Takes the signals that ask for the end of the program (Ctrl+C, termination, closed terminal) for
@@ -29,6 +31,12 @@ class Interruzioni {
  private:
     static constexpr std::array segnali{SIGINT, SIGTERM, SIGHUP};
     std::array<struct sigaction, segnali.size()> prima_{};
+};
+
+/// Looks on at a run in memory and stops it when the user wants the end of the program.
+class FinoAllInterruzione : public analysis::OsservatoreCorsa {
+ public:
+    [[nodiscard]] bool fermata() override { return Interruzioni::chiesta() != 0; }
 };
 
 }  // namespace korven::batch

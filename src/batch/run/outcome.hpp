@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "analysis/watch/run_control.hpp"
+#include "project/project_data.hpp"
 #include "results/run_outcome.hpp"
 #include "review/project_review.hpp"
 #include "safety/margin.hpp"
@@ -23,6 +24,7 @@ struct Esito {
     std::string progetto;
     int codice = 0;                     ///< exit code
     bool progettoLetto = false;         ///< the project could be read
+    project::DatiProgetto scritti;      ///< it, before the command line sets anything in it
     bool corsa = false;                 ///< the command came as far as to run the analysis
     bool guasto = false;                ///< an error cut the command short
     bool severo = false;                ///< all was done, the code is 1 for the remarks alone

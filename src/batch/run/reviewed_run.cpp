@@ -40,6 +40,7 @@ void preparaProgetto(const Opzioni& opzioni, Esito& esito) {
     commands::apriProgetto(opzioni.progetto, opzioni.uscita);
     esito.progettoLetto = true;
     esito.progetto = project::fileCorrente;
+    esito.scritti = project::Progetto;
     if (opzioni.metodoSpinte) project::Progetto.metodoSpinte = *opzioni.metodoSpinte;
     project::faseGrafico = opzioni.fase;
 }

@@ -1,0 +1,83 @@
+#include "report/annex/annex.hpp"
+
+#include <array>
+#include <cassert>
+#include <memory>
+#include <utility>
+
+#include "base/language.hpp"
+#include "base/translated_texts.hpp"
+#include "report/annex/chapters.hpp"
+
+namespace korven::report {
+
+namespace {
+
+using base::traduttore;
+using document::Documento;
+
+struct Capitolo {
+    const char* titolo;  ///< Italian key
+    void (*scrivi)(const Contesto&, Blocchi&);
+    bool nuovaPagina;
+};
+
+// In the order of the document, behind the cover, which has no number.
+constexpr Capitolo capitoli[] = {
+    {"Modello e ipotesi", capitoloModello, true},
+    {"Osservazioni", capitoloOsservazioni, false},
+    {"Dati", capitoloDati, true},
+    {"Come ripetere il documento", capitoloRipetere, true},
+};
+
+// Of a language as readers of documents know it (BCP 47).
+std::string lingua() {
+    struct Sigla {
+        std::string_view sigla, breve;
+    };
+    constexpr Sigla sigle[] = {{"ita", "it"}, {"deu", "de"}, {"fra", "fr"},
+                               {"esp", "es"}, {"eng", "en"}, {"por", "pt"}};
+    const std::string_view corrente = base::siglaLingua(base::linguaCorrente());
+    for (const auto& [sigla, breve] : sigle)
+        if (sigla == corrente) return std::string(breve);
+    return {};
+}
+
+std::string nomeFile(const std::string& percorso) {
+    return percorso.substr(percorso.find_last_of("/\\") + 1);
+}
+
+// What a page that lies alone on a desk must tell: of which project, by which program.
+void intesta(const dossier::Fascicolo& f, Documento& d) {
+    const std::string& titolo = f.scritti.titoli[1];
+    const std::string file = nomeFile(f.identita.file);
+    d.titolo = traduttore("Allegato di calcolo");
+    if (!file.empty()) d.titolo += " - " + file;
+    d.data = f.identita.data;
+    d.lingua = lingua();
+    d.testata[0] = titolo.empty() ? file : (file.empty() ? titolo : file + " - " + titolo);
+    d.testata[1] = f.identita.programma + " " + f.identita.versione;
+    d.piede = "SHA-256 " + std::string(dossier::inBreve(f.identita.impronta));
+}
+
+}  // namespace
+
+Documento allegato(dossier::Fascicolo fascicolo, const OpzioniAllegato& opzioni) {
+    assert(opzioni.righe >= 2);
+    const Contesto contesto{std::make_shared<const dossier::Fascicolo>(std::move(fascicolo)),
+                            opzioni};
+    Documento d;
+    intesta(*contesto.fascicolo, d);
+    d.blocchi.emplace_back(document::Titolo{1, traduttore("Allegato di calcolo")});
+    capitoloCopertina(contesto, d.blocchi);
+    int numero = 0;
+    for (const Capitolo& capitolo : capitoli) {
+        if (capitolo.nuovaPagina) d.blocchi.emplace_back(document::SaltoPagina{});
+        d.blocchi.emplace_back(
+            document::Titolo{1, std::to_string(++numero) + ". " + traduttore(capitolo.titolo)});
+        capitolo.scrivi(contesto, d.blocchi);
+    }
+    return d;
+}
+
+}  // namespace korven::report

@@ -1,0 +1,137 @@
+#include "report/annex/field_cells.hpp"
+
+#include <algorithm>
+#include <cmath>
+#include <iterator>
+#include <type_traits>
+
+#include "base/number_text.hpp"
+#include "base/translated_texts.hpp"
+#include "live/section_checks.hpp"
+#include "project/codes.hpp"
+
+namespace korven::report {
+
+using base::traduttore;
+using dossier::Fascicolo;
+using project::Campo;
+using project::DatiProgetto;
+using project::MetodoKs;
+using project::MetodoSpinte;
+using tables::Cella;
+
+namespace {
+
+Cella numero(double mostrato) {
+    if (!std::isfinite(mostrato)) return {};
+    return {.testo = base::testoNumero(mostrato), .numero = mostrato};
+}
+
+struct Regola {
+    project::Membro membro;
+    bool (*vale)(const Fascicolo&);
+    bool letto;
+    const char* nota;  ///< Italian key
+};
+
+using F = const Fascicolo&;
+
+bool sempre(F) { return true; }
+
+// The first that holds counts.
+constexpr Regola regole[] = {
+    {&DatiProgetto::suStrato, sempre, false, "nessun calcolo lo legge"},
+    {&DatiProgetto::opzioneRiservata, sempre, false, "nessun calcolo lo legge"},
+    {&DatiProgetto::faldaValle, sempre, false, "valore di lavoro: vale la falda di ogni fase"},
+    {&DatiProgetto::ksStrato,
+     [](F f) {
+         return f.parete.dati.metodoKs == MetodoKs::bowles ||
+                f.parete.dati.metodoKs == MetodoKs::lancellotta;
+     },
+     false, "il metodo scelto calcola ks da sé"},
+    {&DatiProgetto::coeffM, [](F f) { return f.parete.dati.metodoKs != MetodoKs::lancellotta; },
+     false, "lo legge solo il metodo di Lancellotta per ks"},
+    {&DatiProgetto::coesione,
+     [](F f) {
+         return f.parete.dati.metodoSpinte == MetodoSpinte::bell &&
+                f.parete.dati.metodoKs != MetodoKs::bowles;
+     },
+     false, "con Bell la coesione non entra nei limiti"},
+    {&DatiProgetto::inclinazioneMonte,
+     [](F f) { return f.parete.dati.metodoSpinte == MetodoSpinte::bell; }, true,
+     "con Bell entra solo nella spinta a riposo"},
+    {&DatiProgetto::sovraccFase,
+     [](F f) { return f.parete.dati.modoSpinte == project::ModoSpinte::comeMonte; }, false,
+     "con le spinte uguali al lato monte il carico sul fondo dello scavo non agisce"},
+    {&DatiProgetto::sforzoNormale,
+     [](F f) { return !live::sezioneCalcolabile(f.parete.dati.sezione); }, false,
+     "conta solo nella verifica della sezione, che non è definita"},
+    {&DatiProgetto::sforzoNormale, sempre, true, "solo nella verifica a flessione"},
+    {&DatiProgetto::rigidezzaEJ, [](F f) { return f.parete.ejDellaSezione; }, true,
+     "calcolata dalla sezione: il progetto non ne ha una"},
+    {&DatiProgetto::rigidezzaEJ,
+     [](F f) { return f.scritti.rigidezzaEJ != f.parete.dati.rigidezzaEJ; }, true,
+     "ricalcolata dalla sezione"},
+    {&DatiProgetto::metodoSpinte,
+     [](F f) { return f.scritti.metodoSpinte != f.parete.dati.metodoSpinte; }, true,
+     "scelto con un'opzione al posto di quello scritto"},
+    {&DatiProgetto::gammaAcqua, sempre, true, "in t/m³, diversamente dagli altri pesi"},
+    {&project::Sezione::armNumLong, sempre, true,
+     "il calcolo usa il numero conservato nel file, un decimo di quello mostrato"},
+    {&DatiProgetto::rigTirante, sempre, true,
+     "orizzontale e per metro di paratia: chi la scrive ha già moltiplicato per cos²α"},
+    {&DatiProgetto::pretTirante, sempre, true,
+     "orizzontale e per metro di paratia: chi la scrive ha già moltiplicato per cos α"},
+};
+
+// A section has the parameters of all types; one is in force.
+bool altroTipo(const Fascicolo& f, const Campo& campo) {
+    using enum project::Parte;
+    if (campo.parte < diaframma || campo.parte == materiali) return false;
+    return project::parteInVigore(f.parete.dati.sezione) != campo.parte;
+}
+
+bool flag(const Campo& campo) {
+    return std::holds_alternative<bool project::Sezione::*>(campo.membro);
+}
+
+}  // namespace
+
+Cella scritto(const DatiProgetto& dati, const Campo& campo, int riga) {
+    Cella fatta;
+    project::conValore(dati, campo, riga, [&](const auto& valore) {
+        using Valore = std::remove_cvref_t<decltype(valore)>;
+        if constexpr (std::is_same_v<Valore, std::string>) {
+            if (!valore.empty()) fatta = tables::parola(valore);
+        } else if constexpr (std::is_same_v<Valore, bool>) {
+            fatta = tables::parola(traduttore(valore ? "sì" : "no"));
+        } else if constexpr (std::is_same_v<Valore, int>) {
+            fatta = tables::cella(valore);
+        } else {
+            const project::Codice* codice = project::codice(campo, valore);
+            fatta = codice != nullptr ? tables::parola(traduttore(codice->voce))
+                                      : numero(project::mostrato(campo, valore));
+        }
+    });
+    return fatta;
+}
+
+Uso uso(const Fascicolo& f, const Campo& campo) {
+    if (!flag(campo) && altroTipo(f, campo))
+        return {.letto = false, .nota = traduttore("di un altro tipo di sezione")};
+    const auto* regola = std::find_if(std::begin(regole), std::end(regole), [&](const Regola& r) {
+        return r.membro == campo.membro && r.vale(f);
+    });
+    if (regola == std::end(regole)) return {};
+    return {.letto = regola->letto, .nota = traduttore(regola->nota)};
+}
+
+Cella usato(const Fascicolo& f, const Campo& campo, int riga) {
+    const Uso suo = uso(f, campo);
+    if (!suo.letto) return {};
+    if (campo.membro == project::Membro(&project::Sezione::armNumLong))
+        return numero(f.parete.dati.sezione.armNumLong);
+    return scritto(f.parete.dati, campo, riga);
+}
+
+}  // namespace korven::report

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "dossier/dossier.hpp"
+#include "project/field_table.hpp"
+#include "tables/result_table.hpp"
+
+// The fields of a project as cells: as they were typed and as the calculation takes them.
+
+namespace korven::report {
+
+/// A value of the project in the shown unit, codes and flags in words.
+/// @param riga  of a column, from 1
+[[nodiscard]] tables::Cella scritto(const project::DatiProgetto& dati, const project::Campo& campo,
+                                    int riga = 1);
+
+/// What the calculation does with a field, beside its value.
+struct Uso {
+    bool letto = true;      ///< false: nothing that is computed reads it
+    std::string nota = {};  ///< translated; empty where nothing is to be said
+};
+[[nodiscard]] Uso uso(const dossier::Fascicolo& fascicolo, const project::Campo& campo);
+
+/// The value that the calculation takes, "-" for one that nothing reads.
+[[nodiscard]] tables::Cella usato(const dossier::Fascicolo& fascicolo, const project::Campo& campo,
+                                  int riga = 1);
+
+}  // namespace korven::report

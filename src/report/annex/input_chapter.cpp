@@ -1,0 +1,150 @@
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "base/code_page.hpp"
+#include "base/filled_text.hpp"
+#include "base/translated_texts.hpp"
+#include "drawings/annex/annex_drawings.hpp"
+#include "project/field_table.hpp"
+#include "report/annex/chapters.hpp"
+#include "report/annex/columns.hpp"
+#include "report/annex/field_cells.hpp"
+#include "structure/section_validity.hpp"
+#include "tables/result_table.hpp"
+
+namespace korven::report {
+
+using base::conMaiuscola;
+using base::traduttore;
+using dossier::Fascicolo;
+using project::Campo;
+using project::Parte;
+using tables::parola;
+
+namespace {
+
+// What a field is called: its caption where that tells more than a flag's "0 or -1".
+std::string nome(const Campo& campo) {
+    const bool flag = std::holds_alternative<bool project::Sezione::*>(campo.membro);
+    return conMaiuscola(traduttore(flag ? campo.didascalia : campo.cosa));
+}
+
+tables::Prospetto prospettoValori(const char* titolo) {
+    return {.titolo = traduttore(titolo),
+            .colonne = {colonna("Dato"), colonna("Campo"), colonna("Unità"), colonna("Scritto"),
+                        colonna("Usato"), colonna("Nota")}};
+}
+
+void riga(const Fascicolo& f, const Campo& campo, tables::Prospetto& p) {
+    const Uso suo = uso(f, campo);
+    p.righe.push_back({parola(nome(campo)), parola(project::nomeStabile(campo)),
+                       parola(std::string(campo.unita.mostrata)), scritto(f.scritti, campo),
+                       usato(f, campo), parola(suo.nota)});
+}
+
+bool dellaSezione(const Campo& campo) { return campo.parte >= Parte::diaframma; }
+
+tables::Prospetto generali(const Fascicolo& f) {
+    tables::Prospetto p = prospettoValori("Paratia, terreno e opzioni");
+    for (const Campo& campo : project::campi())
+        if (!project::colonna(campo) && !dellaSezione(campo)) riga(f, campo, p);
+    return p;
+}
+
+// In force first; what other types of section left in the file is told, since the file is whole.
+tables::Prospetto dellaSezione(const Fascicolo& f, bool lette) {
+    tables::Prospetto p = prospettoValori(lette ? "Sezione della paratia"
+                                                : "Valori di altri tipi di sezione, non usati");
+    for (const Campo& campo : project::campi())
+        if (!project::colonna(campo) && dellaSezione(campo) && uso(f, campo).letto == lette)
+            riga(f, campo, p);
+    return p;
+}
+
+tables::Colonna testa(const Campo& campo) {
+    // A caption of the editor is short; what no editor shows has its name alone.
+    const std::string titolo = campo.didascalia.empty() ? conMaiuscola(traduttore(campo.cosa))
+                                                        : traduttore(campo.didascalia);
+    return {.titolo = titolo,
+            .unita = std::string(campo.unita.mostrata),
+            .spiegazione = conMaiuscola(traduttore(campo.cosa)),
+            .numerica = !std::holds_alternative<
+                base::Tabella<std::string, project::massimoStrati> project::DatiProgetto::*>(
+                campo.membro)};
+}
+
+// A row for each row of the project's table, a column for each of its fields.
+tables::Prospetto tabella(const Fascicolo& f, Parte parte, const char* titolo) {
+    tables::Prospetto p{.titolo = traduttore(titolo), .colonne = {colonnaNumero()}};
+    const int righe = project::righe(f.scritti, parte);
+    for (int i = 1; i <= righe; ++i) p.righe.push_back({tables::cella(i)});
+    bool uguali = true;
+    for (const Campo& campo : project::campi()) {
+        if (campo.parte != parte || !project::colonna(campo)) continue;
+        p.colonne.push_back(testa(campo));
+        for (int i = 1; i <= righe; ++i) {
+            p.righe[static_cast<std::size_t>(i) - 1].push_back(scritto(f.scritti, campo, i));
+            uguali = uguali && scritto(f.scritti, campo, i) == scritto(f.parete.dati, campo, i);
+        }
+        if (const Uso suo = uso(f, campo); !suo.nota.empty())
+            p.note.push_back(nome(campo) + ": " + suo.nota + ".");
+    }
+    if (righe == 0) p.note = {traduttore("La tabella è vuota.")};
+    if (righe > 0 && uguali)
+        p.note.insert(p.note.begin(),
+                      traduttore("Valori come sono scritti; il calcolo prende gli stessi."));
+    return p;
+}
+
+tables::Prospetto titoli(const Fascicolo& f) {
+    tables::Prospetto p{.titolo = traduttore("Titoli del progetto"),
+                        .colonne = {colonnaNumero(), colonna("Titolo")}};
+    for (int i = 1; i <= project::numeroTitoli; ++i)
+        p.righe.push_back({tables::cella(i), f.scritti.titoli[i].empty()
+                                                 ? tables::Cella{}
+                                                 : parola(f.scritti.titoli[i])});
+    return p;
+}
+
+void figure(const Contesto& contesto, Blocchi& blocchi) {
+    const auto f = contesto.fascicolo;
+    if (f->parete.dati.lunghezzaParatia > 0) {
+        const auto [l, h] = drawings::formatoParete;
+        blocchi.emplace_back(document::Figura{
+            traduttore("Sezione della paratia con terreno, acqua, tiranti e fasi, in scala"),
+            traduttore("La paratia in sezione verticale: strati, falda, tiranti con la loro "
+                       "profondità e livelli di scavo delle fasi."),
+            l, h, [f, l, h] { drawings::disegnaParete(f->parete, l, h); }});
+    }
+    if (structure::sezioneDefinita(f->parete.dati.sezione)) {
+        const auto [l, h] = drawings::formatoSezione;
+        blocchi.emplace_back(document::Figura{
+            traduttore("Sezione orizzontale della paratia"),
+            traduttore("La sezione della paratia in pianta con le sue misure."), l, h,
+            [f, l, h] { drawings::disegnaSezioneParete(f->parete.dati.sezione, l, h); }});
+    }
+}
+
+}  // namespace
+
+void capitoloDati(const Contesto& contesto, Blocchi& blocchi) {
+    using document::Tavola;
+    const Fascicolo& f = *contesto.fascicolo;
+    blocchi.emplace_back(document::Paragrafo{
+        traduttore(
+            "Tutti i campi del progetto, nell'ordine del suo file, con il valore scritto e "
+            "quello che il calcolo prende. Un trattino fra i valori usati: nessun calcolo lo "
+            "legge."),
+        {}});
+    figure(contesto, blocchi);
+    blocchi.emplace_back(Tavola{tabella(f, Parte::strati, "Strati")});
+    blocchi.emplace_back(Tavola{tabella(f, Parte::tiranti, "Tiranti e puntoni")});
+    blocchi.emplace_back(Tavola{tabella(f, Parte::fasi, "Fasi di scavo")});
+    blocchi.emplace_back(Tavola{generali(f)});
+    blocchi.emplace_back(Tavola{dellaSezione(f, true)});
+    blocchi.emplace_back(Tavola{dellaSezione(f, false)});
+    blocchi.emplace_back(Tavola{titoli(f)});
+}
+
+}  // namespace korven::report

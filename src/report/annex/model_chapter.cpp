@@ -1,0 +1,192 @@
+#include <string>
+#include <vector>
+
+#include "base/translated_texts.hpp"
+#include "project/codes.hpp"
+#include "report/annex/chapters.hpp"
+#include "report/annex/columns.hpp"
+#include "tables/result_table.hpp"
+
+namespace korven::report {
+
+using base::traduttore;
+using tables::parola;
+
+namespace {
+
+using project::DatiProgetto;
+
+struct Ipotesi {
+    const char* argomento;  ///< Italian keys, but for the source: author, title, year
+    const char* testo;
+    const char* fonte;
+    bool (*vale)(const DatiProgetto&) = nullptr;  ///< empty: always
+};
+
+constexpr const char* winkler = "E. Winkler, Die Lehre von der Elasticität und Festigkeit (1867)";
+constexpr const char* newton =
+    "L. Qi, J. Sun, A nonsmooth version of Newton's method (1993); S. Boyd, L. Vandenberghe, "
+    "Convex "
+    "Optimization (2004)";
+constexpr const char* riposo =
+    "J. Jaky, The coefficient of earth pressure at rest (1944); J. E. Bowles, Foundation Analysis "
+    "and Design (1996)";
+constexpr const char* eurocodice =
+    "CEN, ENV 1992-1-1, Eurocode 2: Design of concrete structures (1991)";
+constexpr const char* riduzione =
+    "O. C. Zienkiewicz, C. Humpheson, R. W. Lewis, Associated and non-associated visco-plasticity "
+    "and plasticity in soil mechanics (1975); D. V. Griffiths, P. A. Lane, Slope stability "
+    "analysis "
+    "by finite elements (1999)";
+
+template <auto codice, double DatiProgetto::*membro>
+bool ha(const DatiProgetto& dati) {
+    return dati.*membro == codice;
+}
+using enum project::MetodoSpinte;
+using enum project::MetodoKs;
+constexpr auto spinte = &DatiProgetto::metodoSpinte;
+constexpr auto ks = &DatiProgetto::metodoKs;
+
+// What is computed, with the methods of this project alone.
+constexpr Ipotesi ipotesi[] = {
+    {"Paratia",
+     "Trave elastica di rigidezza EJ costante su molle, divisa in segmenti uguali. Terreno, acqua "
+     "e "
+     "tiranti agiscono nei nodi.",
+     winkler},
+    {"Fasi",
+     "Ogni fase è un equilibrio intero, non un incremento: dalla fase precedente passano solo gli "
+     "spostamenti ai quali i tiranti sono posati.",
+     newton},
+    {"Terreno",
+     "Su ogni lato una molla fra la spinta attiva e quella passiva, che parte dalla spinta a "
+     "riposo "
+     "con spostamento nullo: k0 = (1 - sin φ) / (1 + sin β).",
+     riposo},
+    {"Spinte: Coulomb",
+     "ka e kp di Coulomb per parete verticale e liscia, con l'inclinazione β del terreno a monte e "
+     "la coesione.",
+     "C. A. Coulomb, Essai sur une application des règles de maximis et minimis (1776); H. "
+     "Müller-Breslau, Erddruck auf Stützmauern (1906)",
+     ha<coulomb, spinte>},
+    {"Spinte: Rankine",
+     "ka e kp di Rankine con l'inclinazione β del terreno a monte e la coesione; la spinta agisce "
+     "tutta in orizzontale.",
+     "W. J. M. Rankine, On the stability of loose earth (1857)", ha<rankine, spinte>},
+    {"Spinte: Bell",
+     "ka = tan²(45° - φ/2), kp = tan²(45° + φ/2); nei limiti non entrano né la coesione né "
+     "l'inclinazione del terreno.",
+     "A. L. Bell, The lateral pressure and resistance of clay (1915)", ha<bell, spinte>},
+    {"Modulo ks: Bowles", "ks = 40 (c Nc + γ Nγ + σ' Nq), con i fattori di Hansen.",
+     "J. E. Bowles, Foundation Analysis and Design (1996); J. B. Hansen, A revised and extended "
+     "formula for bearing capacity (1970)",
+     ha<bowles, ks>},
+    {"Modulo ks: Lancellotta", "ks = m √(k0 σ), con m scritto nel progetto e σ in t/m².",
+     "R. Lancellotta, Geotechnical Engineering (1995)", ha<lancellotta, ks>},
+    {"Modulo ks: costante", "Il ks scritto per ogni strato.", winkler, ha<costante, ks>},
+    {"Modulo ks: lineare",
+     "Lineare in ogni strato, dal ks dello strato sopra (0 in superficie) al proprio.", winkler,
+     ha<lineare, ks>},
+    {"Tensioni efficaci", "Le spinte vengono dalle tensioni efficaci, in tutti gli strati.",
+     "K. Terzaghi, Theoretical Soil Mechanics (1943)",
+     ha<project::ModoTensioni::efficaci, &DatiProgetto::modoTensioni>},
+    {"Tensioni totali",
+     "Le spinte vengono dalle tensioni totali, in tutti gli strati; la pressione netta dell'acqua "
+     "si "
+     "aggiunge anche così.",
+     "K. Terzaghi, Theoretical Soil Mechanics (1943)",
+     ha<project::ModoTensioni::totali, &DatiProgetto::modoTensioni>},
+    {"Acqua",
+     "In quiete su entrambi i lati: la differenza dei livelli agisce per intero fino al piede.",
+     "K. Terzaghi, Theoretical Soil Mechanics (1943)"},
+    {"Tiranti e puntoni",
+     "F = pretensione + rigidezza · (y - y alla posa), per metro di paratia e in orizzontale; uno "
+     "di "
+     "sola trazione non agisce in compressione.",
+     winkler},
+    {"Flessione della sezione",
+     "Sezioni piane, 100 strisce, calcestruzzo senza trazione, con lo sforzo normale scritto; "
+     "azioni "
+     "per 1.4, calcestruzzo diviso per 1.6, acciaio per 1.15.",
+     eurocodice},
+    {"Taglio della sezione",
+     "Solo per pali armati con staffe: metodo normale, bielle di calcestruzzo e armatura d'anima.",
+     eurocodice},
+    {"Margine",
+     "tan φ e c divisi per F finché la fase è appena in equilibrio: i coefficienti k0 e i moduli "
+     "restano quelli del progetto.",
+     riduzione},
+};
+
+// What a checker must not take for done.
+constexpr const char* esclusi[] = {
+    "Attrito fra terreno e paratia: non c'è, δ = 0 sui due lati.",
+    "Memoria del terreno: chi ha raggiunto il limite ritorna elastico, senza deformazione "
+    "permanente.",
+    "Filtrazione, sifonamento e sollevamento del fondo dello scavo.",
+    "Stabilità globale del versante e della paratia con il terreno.",
+    "Capacità portante verticale della paratia e cedimenti del terreno attorno.",
+    "Resistenza dei tiranti, dei bulbi e dei puntoni: qui c'è la loro forza.",
+    "Azioni sismiche e carichi concentrati sul terreno.",
+    "Instabilità locale delle palancole e scorrimento nei loro giunti.",
+};
+
+struct Segno {
+    const char* grandezza;
+    const char* unita;
+    const char* positivo;
+};
+
+constexpr Segno segni[] = {
+    {"Profondità z", "m", "verso il basso, dalla testa della paratia"},
+    {"Spostamento", "mm", "verso lo scavo"},
+    {"Pressioni sulla paratia", "kN/m²",
+     "verso lo scavo: quelle di monte sono positive, quelle di valle negative"},
+    {"Momento flettente", "kN m/m", "tende la faccia verso lo scavo; M = -EJ y''"},
+    {"Taglio", "kN/m", "T = dM/dz; dT/dz = -p"},
+    {"Forza dei tiranti", "kN/m", "trazione del tirante, compressione del puntone"},
+    {"Forza in testa", "kN/m", "verso lo scavo"},
+    {"Momento in testa", "kN m/m", "ruota la testa verso lo scavo"},
+    {"Sforzo normale", "kN/m", "compressione della paratia"},
+};
+
+tables::Prospetto prospettoIpotesi(const DatiProgetto& dati) {
+    tables::Prospetto p{.titolo = traduttore("Che cosa si calcola"),
+                        .colonne = {colonna("Argomento"), colonna("Ipotesi"), colonna("Fonte")}};
+    for (const Ipotesi& i : ipotesi)
+        if (i.vale == nullptr || i.vale(dati))
+            p.righe.push_back(
+                {parola(traduttore(i.argomento)), parola(traduttore(i.testo)), parola(i.fonte)});
+    return p;
+}
+
+tables::Prospetto prospettoSegni() {
+    tables::Prospetto p{
+        .titolo = traduttore("Segni e unità"),
+        .colonne = {colonna("Grandezza"), colonna("Unità"), colonna("Positivo")},
+        .note = {
+            traduttore("Tutte le forze e le rigidezze sono per metro di paratia. Una tonnellata "
+                       "forza, l'unità del file, è presa come 10 kN esatti.")}};
+    for (const Segno& s : segni)
+        p.righe.push_back(
+            {parola(traduttore(s.grandezza)), parola(s.unita), parola(traduttore(s.positivo))});
+    return p;
+}
+
+}  // namespace
+
+void capitoloModello(const Contesto& contesto, Blocchi& blocchi) {
+    using document::Paragrafo;
+    const DatiProgetto& dati = contesto.fascicolo->parete.dati;
+    blocchi.emplace_back(document::Tavola{prospettoIpotesi(dati)});
+    blocchi.emplace_back(document::Titolo{2, traduttore("Che cosa non si calcola")});
+    std::string elenco = traduttore(
+        "Nessun coefficiente di sicurezza è applicato al terreno: le sue resistenze sono quelle "
+        "scritte, e il capitolo Margine dice di quanto si potrebbero ridurre.");
+    for (const char* cosa : esclusi) elenco += "\n- " + traduttore(cosa);
+    blocchi.emplace_back(Paragrafo{elenco, {}});
+    blocchi.emplace_back(document::Tavola{prospettoSegni()});
+}
+
+}  // namespace korven::report
