@@ -33,7 +33,7 @@ Valore valore(const DatiProgetto& dati, const Campo& campo, int riga) {
             const auto numero = static_cast<double>(v);
             const Codice* codice = project::codice(campo, numero);
             letto = {base::formattaNumero(numero),
-                     codice != nullptr ? traduttore(codice->voce)
+                     codice != nullptr ? voceTradotta(campo, *codice)
                                        : base::testoNumero(mostrato(campo, numero))};
         }
     });

@@ -21,6 +21,7 @@ inline const std::map<std::string, std::string> silentFiles = {
     {"review/remark_table.hpp", "what the compiler says"},
     {"batch/run/equilibrium_json.cpp", "names of fields, the same in all languages"},
     {"batch/run/equilibrium_csv.cpp", "names of columns and states, the same in all languages"},
+    {"report/annex/sources.hpp", "authors and titles, the same in all languages"},
     {"project/units.hpp", "units, the same in all languages"},
     {"base/language.cpp", "tags, and errors from before a language is chosen"},
     {"base/language.hpp", "an error from before a language is chosen"},
@@ -463,6 +464,8 @@ inline const std::map<std::string, Texts> noTexts = {
     {"shell/forms/history_keys.cpp", {"&Undo", "&Redo"}},  // Qt's own texts
     {"safety/words.hpp", {"equilibrio", "equilibrium"}},
     {"report/footer.cpp", {"…", "–"}},
+    {"report/annex/annex.cpp", {"ita", "deu", "fra", "esp", "eng", "por", "SHA-256"}},
+    {"batch/run/annex_output.cpp", {"korven32c", "pdf", "doc", "txt"}},
     {"report/footer.hpp", {"2,2,2,2,2,2,12,Arial"}},
     {"markup/syllable_rule.cpp", {"BCDFGLMNPQRSTVZbcdfglmnpqrstvz", "AEIOUaeiou"}},
 };

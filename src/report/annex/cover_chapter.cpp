@@ -36,7 +36,7 @@ std::string voce(const Fascicolo& f, const project::Membro& membro) {
     const project::Campo& campo = project::campo(membro);
     const double valore = project::numeroConservato(f.parete.dati, campo);
     const project::Codice* codice = project::codice(campo, valore);
-    return codice != nullptr ? traduttore(codice->voce)
+    return codice != nullptr ? project::voceTradotta(campo, *codice)
                              : project::numeroMostrato(valore, 0, campo.unita);
 }
 

@@ -109,7 +109,7 @@ Cella scritto(const DatiProgetto& dati, const Campo& campo, int riga) {
             fatta = tables::cella(valore);
         } else {
             const project::Codice* codice = project::codice(campo, valore);
-            fatta = codice != nullptr ? tables::parola(traduttore(codice->voce))
+            fatta = codice != nullptr ? tables::parola(project::voceTradotta(campo, *codice))
                                       : numero(project::mostrato(campo, valore));
         }
     });

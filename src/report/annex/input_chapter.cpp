@@ -63,9 +63,12 @@ tables::Prospetto dellaSezione(const Fascicolo& f, bool lette) {
 }
 
 tables::Colonna testa(const Campo& campo) {
-    // A caption of the editor is short; what no editor shows has its name alone.
-    const std::string titolo = campo.didascalia.empty() ? conMaiuscola(traduttore(campo.cosa))
-                                                        : traduttore(campo.didascalia);
+    // A caption of the editor is short, and translated together with its unit; what no editor shows
+    // has its name alone.
+    const std::string unita = " " + project::traParentesi(campo.unita);
+    std::string titolo = campo.didascalia.empty() ? conMaiuscola(traduttore(campo.cosa))
+                                                  : traduttore(project::etichetta(campo));
+    if (titolo.ends_with(unita)) titolo.erase(titolo.size() - unita.size());
     return {.titolo = titolo,
             .unita = std::string(campo.unita.mostrata),
             .spiegazione = conMaiuscola(traduttore(campo.cosa)),

@@ -5,6 +5,7 @@
 #include "project/codes.hpp"
 #include "report/annex/chapters.hpp"
 #include "report/annex/columns.hpp"
+#include "report/annex/sources.hpp"
 #include "tables/result_table.hpp"
 
 namespace korven::report {
@@ -23,22 +24,6 @@ struct Ipotesi {
     bool (*vale)(const DatiProgetto&) = nullptr;  ///< empty: always
 };
 
-constexpr const char* winkler = "E. Winkler, Die Lehre von der Elasticität und Festigkeit (1867)";
-constexpr const char* newton =
-    "L. Qi, J. Sun, A nonsmooth version of Newton's method (1993); S. Boyd, L. Vandenberghe, "
-    "Convex "
-    "Optimization (2004)";
-constexpr const char* riposo =
-    "J. Jaky, The coefficient of earth pressure at rest (1944); J. E. Bowles, Foundation Analysis "
-    "and Design (1996)";
-constexpr const char* eurocodice =
-    "CEN, ENV 1992-1-1, Eurocode 2: Design of concrete structures (1991)";
-constexpr const char* riduzione =
-    "O. C. Zienkiewicz, C. Humpheson, R. W. Lewis, Associated and non-associated visco-plasticity "
-    "and plasticity in soil mechanics (1975); D. V. Griffiths, P. A. Lane, Slope stability "
-    "analysis "
-    "by finite elements (1999)";
-
 template <auto codice, double DatiProgetto::*membro>
 bool ha(const DatiProgetto& dati) {
     return dati.*membro == codice;
@@ -54,69 +39,63 @@ constexpr Ipotesi ipotesi[] = {
      "Trave elastica di rigidezza EJ costante su molle, divisa in segmenti uguali. Terreno, acqua "
      "e "
      "tiranti agiscono nei nodi.",
-     winkler},
+     fonti::winkler},
     {"Fasi",
      "Ogni fase è un equilibrio intero, non un incremento: dalla fase precedente passano solo gli "
      "spostamenti ai quali i tiranti sono posati.",
-     newton},
+     fonti::newton},
     {"Terreno",
      "Su ogni lato una molla fra la spinta attiva e quella passiva, che parte dalla spinta a "
      "riposo "
      "con spostamento nullo: k0 = (1 - sin φ) / (1 + sin β).",
-     riposo},
+     fonti::riposo},
     {"Spinte: Coulomb",
      "ka e kp di Coulomb per parete verticale e liscia, con l'inclinazione β del terreno a monte e "
      "la coesione.",
-     "C. A. Coulomb, Essai sur une application des règles de maximis et minimis (1776); H. "
-     "Müller-Breslau, Erddruck auf Stützmauern (1906)",
-     ha<coulomb, spinte>},
+     fonti::coulomb, ha<coulomb, spinte>},
     {"Spinte: Rankine",
      "ka e kp di Rankine con l'inclinazione β del terreno a monte e la coesione; la spinta agisce "
      "tutta in orizzontale.",
-     "W. J. M. Rankine, On the stability of loose earth (1857)", ha<rankine, spinte>},
+     fonti::rankine, ha<rankine, spinte>},
     {"Spinte: Bell",
      "ka = tan²(45° - φ/2), kp = tan²(45° + φ/2); nei limiti non entrano né la coesione né "
      "l'inclinazione del terreno.",
-     "A. L. Bell, The lateral pressure and resistance of clay (1915)", ha<bell, spinte>},
-    {"Modulo ks: Bowles", "ks = 40 (c Nc + γ Nγ + σ' Nq), con i fattori di Hansen.",
-     "J. E. Bowles, Foundation Analysis and Design (1996); J. B. Hansen, A revised and extended "
-     "formula for bearing capacity (1970)",
+     fonti::bell, ha<bell, spinte>},
+    {"Modulo ks: Bowles", "ks = 40 (c Nc + γ Nγ + σ' Nq), con i fattori di Hansen.", fonti::bowles,
      ha<bowles, ks>},
     {"Modulo ks: Lancellotta", "ks = m √(k0 σ), con m scritto nel progetto e σ in t/m².",
-     "R. Lancellotta, Geotechnical Engineering (1995)", ha<lancellotta, ks>},
-    {"Modulo ks: costante", "Il ks scritto per ogni strato.", winkler, ha<costante, ks>},
+     fonti::lancellotta, ha<lancellotta, ks>},
+    {"Modulo ks: costante", "Il ks scritto per ogni strato.", fonti::winkler, ha<costante, ks>},
     {"Modulo ks: lineare",
-     "Lineare in ogni strato, dal ks dello strato sopra (0 in superficie) al proprio.", winkler,
-     ha<lineare, ks>},
+     "Lineare in ogni strato, dal ks dello strato sopra (0 in superficie) al proprio.",
+     fonti::winkler, ha<lineare, ks>},
     {"Tensioni efficaci", "Le spinte vengono dalle tensioni efficaci, in tutti gli strati.",
-     "K. Terzaghi, Theoretical Soil Mechanics (1943)",
-     ha<project::ModoTensioni::efficaci, &DatiProgetto::modoTensioni>},
+     fonti::terzaghi, ha<project::ModoTensioni::efficaci, &DatiProgetto::modoTensioni>},
     {"Tensioni totali",
      "Le spinte vengono dalle tensioni totali, in tutti gli strati; la pressione netta dell'acqua "
      "si "
      "aggiunge anche così.",
-     "K. Terzaghi, Theoretical Soil Mechanics (1943)",
-     ha<project::ModoTensioni::totali, &DatiProgetto::modoTensioni>},
+     fonti::terzaghi, ha<project::ModoTensioni::totali, &DatiProgetto::modoTensioni>},
     {"Acqua",
      "In quiete su entrambi i lati: la differenza dei livelli agisce per intero fino al piede.",
-     "K. Terzaghi, Theoretical Soil Mechanics (1943)"},
+     fonti::terzaghi},
     {"Tiranti e puntoni",
      "F = pretensione + rigidezza · (y - y alla posa), per metro di paratia e in orizzontale; uno "
      "di "
      "sola trazione non agisce in compressione.",
-     winkler},
+     fonti::winkler},
     {"Flessione della sezione",
      "Sezioni piane, 100 strisce, calcestruzzo senza trazione, con lo sforzo normale scritto; "
      "azioni "
      "per 1.4, calcestruzzo diviso per 1.6, acciaio per 1.15.",
-     eurocodice},
+     fonti::eurocodice},
     {"Taglio della sezione",
      "Solo per pali armati con staffe: metodo normale, bielle di calcestruzzo e armatura d'anima.",
-     eurocodice},
+     fonti::eurocodice},
     {"Margine",
      "tan φ e c divisi per F finché la fase è appena in equilibrio: i coefficienti k0 e i moduli "
      "restano quelli del progetto.",
-     riduzione},
+     fonti::riduzione},
 };
 
 // What a checker must not take for done.

@@ -1,0 +1,35 @@
+#pragma once
+
+// Where the model comes from: author, title, year. Names are the same in all languages.
+
+namespace korven::report::fonti {
+
+inline constexpr const char* winkler =
+    "E. Winkler, Die Lehre von der Elasticität und Festigkeit (1867)";
+inline constexpr const char* newton =
+    "L. Qi, J. Sun, A nonsmooth version of Newton's method (1993); S. Boyd, L. Vandenberghe, "
+    "Convex "
+    "Optimization (2004)";
+inline constexpr const char* riposo =
+    "J. Jaky, The coefficient of earth pressure at rest (1944); J. E. Bowles, Foundation Analysis "
+    "and Design (1996)";
+inline constexpr const char* eurocodice =
+    "CEN, ENV 1992-1-1, Eurocode 2: Design of concrete structures (1991)";
+inline constexpr const char* riduzione =
+    "O. C. Zienkiewicz, C. Humpheson, R. W. Lewis, Associated and non-associated visco-plasticity "
+    "and plasticity in soil mechanics (1975); D. V. Griffiths, P. A. Lane, Slope stability "
+    "analysis "
+    "by finite elements (1999)";
+inline constexpr const char* coulomb =
+    "C. A. Coulomb, Essai sur une application des règles de maximis et minimis (1776); H. "
+    "Müller-Breslau, Erddruck auf Stützmauern (1906)";
+inline constexpr const char* rankine = "W. J. M. Rankine, On the stability of loose earth (1857)";
+inline constexpr const char* bell =
+    "A. L. Bell, The lateral pressure and resistance of clay (1915)";
+inline constexpr const char* bowles =
+    "J. E. Bowles, Foundation Analysis and Design (1996); J. B. Hansen, A revised and extended "
+    "formula for bearing capacity (1970)";
+inline constexpr const char* lancellotta = "R. Lancellotta, Geotechnical Engineering (1995)";
+inline constexpr const char* terzaghi = "K. Terzaghi, Theoretical Soil Mechanics (1943)";
+
+}  // namespace korven::report::fonti
