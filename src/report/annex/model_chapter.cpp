@@ -47,23 +47,25 @@ constexpr Ipotesi ipotesi[] = {
     {"Terreno",
      "Su ogni lato una molla fra la spinta attiva e quella passiva, che parte dalla spinta a "
      "riposo "
-     "con spostamento nullo: k0 = (1 - sin φ) / (1 + sin β).",
+     "con spostamento nullo: k0 = (1 - sin phi) / (1 + sin beta).",
      fonti::riposo},
     {"Spinte: Coulomb",
-     "ka e kp di Coulomb per parete verticale e liscia, con l'inclinazione β del terreno a monte e "
+     "ka e kp di Coulomb per parete verticale e liscia, con l'inclinazione beta del terreno a "
+     "monte e "
      "la coesione.",
      fonti::coulomb, ha<coulomb, spinte>},
     {"Spinte: Rankine",
-     "ka e kp di Rankine con l'inclinazione β del terreno a monte e la coesione; la spinta agisce "
+     "ka e kp di Rankine con l'inclinazione beta del terreno a monte e la coesione; la spinta "
+     "agisce "
      "tutta in orizzontale.",
      fonti::rankine, ha<rankine, spinte>},
     {"Spinte: Bell",
-     "ka = tan²(45° - φ/2), kp = tan²(45° + φ/2); nei limiti non entrano né la coesione né "
+     "ka = tan²(45° - phi/2), kp = tan²(45° + phi/2); nei limiti non entrano né la coesione né "
      "l'inclinazione del terreno.",
      fonti::bell, ha<bell, spinte>},
-    {"Modulo ks: Bowles", "ks = 40 (c Nc + γ Nγ + σ' Nq), con i fattori di Hansen.", fonti::bowles,
-     ha<bowles, ks>},
-    {"Modulo ks: Lancellotta", "ks = m √(k0 σ), con m scritto nel progetto e σ in t/m².",
+    {"Modulo ks: Bowles", "ks = 40 (c Nc + gamma Ngamma + sigma' Nq), con i fattori di Hansen.",
+     fonti::bowles, ha<bowles, ks>},
+    {"Modulo ks: Lancellotta", "ks = m (k0 sigma)^½, con m scritto nel progetto e sigma in t/m².",
      fonti::lancellotta, ha<lancellotta, ks>},
     {"Modulo ks: costante", "Il ks scritto per ogni strato.", fonti::winkler, ha<costante, ks>},
     {"Modulo ks: lineare",
@@ -93,14 +95,14 @@ constexpr Ipotesi ipotesi[] = {
      "Solo per pali armati con staffe: metodo normale, bielle di calcestruzzo e armatura d'anima.",
      fonti::eurocodice},
     {"Margine",
-     "tan φ e c divisi per F finché la fase è appena in equilibrio: i coefficienti k0 e i moduli "
+     "tan phi e c divisi per F finché la fase è appena in equilibrio: i coefficienti k0 e i moduli "
      "restano quelli del progetto.",
      fonti::riduzione},
 };
 
 // What a checker must not take for done.
 constexpr const char* esclusi[] = {
-    "Attrito fra terreno e paratia: non c'è, δ = 0 sui due lati.",
+    "Attrito fra terreno e paratia: non c'è, delta = 0 sui due lati.",
     "Memoria del terreno: chi ha raggiunto il limite ritorna elastico, senza deformazione "
     "permanente.",
     "Filtrazione, sifonamento e sollevamento del fondo dello scavo.",

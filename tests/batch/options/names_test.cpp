@@ -157,7 +157,7 @@ TEST(Nomi, InMessagesAreThoseOfTheLanguageInUseWhicheverWereTyped) {
     EXPECT_TRUE(test::dice(leggi({"calcola"}).errori, "PROJECT.kvd\n"));
     EXPECT_TRUE(test::dice(
         leggi({"disegna"}).errori,
-        ": calculate, report, check, equilibrium, safety, diagram, section, log, hatches, "
+        ": calculate, report, annex, check, equilibrium, safety, diagram, section, log, hatches, "
         "all, selfcheck\n"));
 }
 
