@@ -6,6 +6,7 @@
 
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
+#include "project/code_words.hpp"
 #include "project/field_table.hpp"
 
 namespace korven::project {

@@ -4,7 +4,6 @@
 #include <cassert>
 #include <charconv>
 
-#include "base/translated_texts.hpp"
 #include "project/codes.hpp"
 
 namespace korven::project {
@@ -207,18 +206,6 @@ const Codice* codice(const Campo& campo, double conservato) {
         std::find_if(campo.codici.begin(), campo.codici.end(),
                      [conservato](const Codice& c) { return c.valore == conservato; });
     return trovato == campo.codici.end() ? nullptr : &*trovato;
-}
-
-std::string voceTradotta(const Campo& campo, const Codice& codice) {
-    assert(&codice >= campo.codici.data() && &codice < campo.codici.data() + campo.codici.size());
-    std::string voci;
-    for (const Codice& c : campo.codici) voci.append(voci.empty() ? "" : "|").append(c.voce);
-    const std::string tradotte = base::traduttore(voci);
-    if (tradotte == voci) return base::traduttore(codice.voce);
-    std::size_t da = 0;
-    for (auto posto = &codice - campo.codici.data(); posto > 0; --posto)
-        da = tradotte.find('|', da) + 1;
-    return tradotte.substr(da, tradotte.find('|', da) - da);
 }
 
 std::string etichetta(const Campo& campo) { return etichetta(campo.didascalia, campo.unita); }

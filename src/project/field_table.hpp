@@ -86,11 +86,6 @@ struct CampoNominato {
 /// The code that a stored number of the field is; nullptr for one that is none.
 [[nodiscard]] const Codice* codice(const Campo& campo, double conservato);
 
-/// What a code of the field is called, translated. Its editor's items are one text, parted by "|",
-/// since some languages need all of them to word one.
-/// @pre `codice` is one of the field's: asserted
-[[nodiscard]] std::string voceTradotta(const Campo& campo, const Codice& codice);
-
 /// Caption and unit, as a table or a list is headed: "Gamma Sat. [kN/m³]"; Italian key.
 [[nodiscard]] std::string etichetta(const Campo& campo);
 

@@ -94,7 +94,7 @@ inline const std::map<std::string, Texts> noTexts = {
     {"batch/report.cpp", {"relazione", "report", "FILE", "NOME", "NAME"}},
     {"batch/safety.cpp", {"sicurezza", "safety"}},
     {"batch/section.cpp", {"sezione", "section"}},
-    {"batch/annex.cpp", {"FILE", "AAAA-MM-GG", "YYYY-MM-DD"}},
+    {"batch/annex.cpp", {"pdf", "FILE", "AAAA-MM-GG", "YYYY-MM-DD"}},
     {"batch/selfcheck.cpp", {"autoverifica", "selfcheck", "DIR", "FILE"}},
     {"verification/case_reader.cpp",
      {"[parete]", "[variante]", "[attesi]", "[teoria]", "figura", "curva"}},

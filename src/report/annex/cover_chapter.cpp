@@ -5,6 +5,7 @@
 
 #include "base/filled_text.hpp"
 #include "base/translated_texts.hpp"
+#include "project/code_words.hpp"
 #include "project/field_table.hpp"
 #include "project/shown_number.hpp"
 #include "report/annex/chapters.hpp"
@@ -160,7 +161,7 @@ std::string firma(const char* chi) {
     const auto riga = [](const char* cosa, std::size_t lunga) {
         return traduttore(cosa) + " " + std::string(lunga, '_');
     };
-    return "\n" + riga(chi, 28) + "   " + riga("Data", 12) + "   " + riga("Firma", 24);
+    return "\n" + riga(chi, 20) + "   " + riga("Data", 10) + "   " + riga("Firma", 18);
 }
 
 }  // namespace

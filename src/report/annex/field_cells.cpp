@@ -8,6 +8,7 @@
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
 #include "live/section_checks.hpp"
+#include "project/code_words.hpp"
 #include "project/codes.hpp"
 
 namespace korven::report {

@@ -3,6 +3,7 @@
 
 #include "base/translated_texts.hpp"
 #include "project/codes.hpp"
+#include "project/units.hpp"
 #include "report/annex/chapters.hpp"
 #include "report/annex/columns.hpp"
 #include "report/annex/sources.hpp"
@@ -15,6 +16,7 @@ using tables::parola;
 
 namespace {
 
+namespace unita = project::unita;
 using project::DatiProgetto;
 
 struct Ipotesi {
@@ -114,22 +116,22 @@ constexpr const char* esclusi[] = {
 };
 
 struct Segno {
+    project::Unita unita;
     const char* grandezza;
-    const char* unita;
     const char* positivo;
 };
 
 constexpr Segno segni[] = {
-    {"Profondità z", "m", "verso il basso, dalla testa della paratia"},
-    {"Spostamento", "mm", "verso lo scavo"},
-    {"Pressioni sulla paratia", "kN/m²",
+    {unita::metri, "Profondità z", "verso il basso, dalla testa della paratia"},
+    {unita::spostamentoFine, "Spostamento", "verso lo scavo"},
+    {unita::pressione, "Pressioni sulla paratia",
      "verso lo scavo: quelle di monte sono positive, quelle di valle negative"},
-    {"Momento flettente", "kN m/m", "tende la faccia verso lo scavo; M = -EJ y''"},
-    {"Taglio", "kN/m", "T = dM/dz; dT/dz = -p"},
-    {"Forza dei tiranti", "kN/m", "trazione del tirante, compressione del puntone"},
-    {"Forza in testa", "kN/m", "verso lo scavo"},
-    {"Momento in testa", "kN m/m", "ruota la testa verso lo scavo"},
-    {"Sforzo normale", "kN/m", "compressione della paratia"},
+    {unita::momentoAlMetro, "Momento flettente", "tende la faccia verso lo scavo; M = -EJ y''"},
+    {unita::forzaAlMetro, "Taglio", "T = dM/dz; dT/dz = -p"},
+    {unita::forzaAlMetro, "Forza dei tiranti", "trazione del tirante, compressione del puntone"},
+    {unita::forzaAlMetro, "Forza in testa", "verso lo scavo"},
+    {unita::momentoAlMetro, "Momento in testa", "ruota la testa verso lo scavo"},
+    {unita::forzaAlMetro, "Sforzo normale", "compressione della paratia"},
 };
 
 tables::Prospetto prospettoIpotesi(const DatiProgetto& dati) {
@@ -150,8 +152,8 @@ tables::Prospetto prospettoSegni() {
             traduttore("Tutte le forze e le rigidezze sono per metro di paratia. Una tonnellata "
                        "forza, l'unità del file, è presa come 10 kN esatti.")}};
     for (const Segno& s : segni)
-        p.righe.push_back(
-            {parola(traduttore(s.grandezza)), parola(s.unita), parola(traduttore(s.positivo))});
+        p.righe.push_back({parola(traduttore(s.grandezza)), parola(std::string(s.unita.mostrata)),
+                           parola(traduttore(s.positivo))});
     return p;
 }
 
