@@ -32,7 +32,7 @@ std::string nome(const Campo& campo) {
 
 tables::Prospetto prospettoValori(const char* titolo) {
     return {.titolo = traduttore(titolo),
-            .colonne = {colonna("Dato"), colonna("Campo"), colonna("Unità"), colonna("Scritto"),
+            .colonne = {colonna("Significato"), colonna("Campo"), colonna("Unità"), colonna("Scritto"),
                         colonna("Usato"), colonna("Nota")}};
 }
 

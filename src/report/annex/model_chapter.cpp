@@ -147,7 +147,7 @@ tables::Prospetto prospettoIpotesi(const DatiProgetto& dati) {
 tables::Prospetto prospettoSegni() {
     tables::Prospetto p{
         .titolo = traduttore("Segni e unità"),
-        .colonne = {colonna("Grandezza"), colonna("Unità"), colonna("Positivo")},
+        .colonne = {colonna("Grandezza fisica"), colonna("Unità"), colonna("Positivo")},
         .note = {
             traduttore("Tutte le forze e le rigidezze sono per metro di paratia. Una tonnellata "
                        "forza, l'unità del file, è presa come 10 kN esatti.")}};
