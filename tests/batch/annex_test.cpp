@@ -76,7 +76,8 @@ TEST_F(AllegatoDaFuori, TakesTheMethodsOfTheCommandLineForItsOwnRepetition) {
     const std::string txt = cartella / "a.txt";
     ASSERT_EQ(
         comando({"--txt", txt, "--nseg", "60", "--righe", "11", "--data", "2026-01-02"}).codice, 0);
-    EXPECT_TRUE(dice(test::contenuto(txt), "--nseg 60 --righe 11 --data 2026-01-02"));
+    for (const char* opzione : {"--nseg 60", "--righe 11", "--data 2026-01-02", "--lingua ita"})
+        EXPECT_TRUE(dice(test::contenuto(txt), opzione)) << opzione;
 }
 
 TEST_F(AllegatoDaFuori, RefusesADateThatIsNoneAndNamesOfOtherFiles) {

@@ -32,8 +32,8 @@ std::string nome(const Campo& campo) {
 
 tables::Prospetto prospettoValori(const char* titolo) {
     return {.titolo = traduttore(titolo),
-            .colonne = {colonna("Significato"), colonna("Campo"), colonna("Unità"), colonna("Scritto"),
-                        colonna("Usato"), colonna("Nota")}};
+            .colonne = {colonna("Significato"), colonna("Campo"), colonna("Unità"),
+                        colonna("Scritto"), colonna("Usato"), colonna("Nota")}};
 }
 
 void riga(const Fascicolo& f, const Campo& campo, tables::Prospetto& p) {

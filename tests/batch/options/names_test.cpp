@@ -27,6 +27,7 @@ std::string valoreDi(const RigaOpzione& opzione, Nome nome) {
     if (!opzione.valori.empty()) return std::string(opzione.valori.back().*nome);
     if (opzione.nome.italiano == nomeOpzioneCartella.italiano) return cartella.percorso();
     if (opzione.nome.italiano == "--formati") return "svg";
+    if (opzione.nome.italiano == nomeOpzioneData.italiano) return "2026-11-22";
     return opzione.valore.italiano == "N" ? "20" : "nome";
 }
 
@@ -46,7 +47,8 @@ auto tutte(const Opzioni& o) {
                       o.json, o.silenzioso, o.traccia, o.maxIterazioni, o.tipo, o.fase,
                       o.relazione.testo, o.relazione.documento, o.relazione.pdf,
                       o.relazione.stampante, o.disegno.file(), o.disegno.dpi,
-                      o.disegno.foglio.larghezza, o.disegno.foglio.altezza, o.formati, o.csv);
+                      o.disegno.foglio.larghezza, o.disegno.foglio.altezza, o.formati, o.csv,
+                      o.allegato.file(), o.allegato.righe, o.allegato.data);
 }
 
 // Words of a help: names are parted by blanks, commas, bars and brackets.
