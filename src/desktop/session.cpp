@@ -2,6 +2,8 @@
 
 #include "base/translated_texts.hpp"
 #include "commands/start/startup.hpp"
+#include "desktop/annex_of_project.hpp"
+#include "shell/annex/annex_wiring.hpp"
 #include "shell/help/porta.hpp"
 #include "shell/main/informazioni.hpp"
 #include "shell/masks/form_opening.hpp"
@@ -32,15 +34,17 @@ commands::FormeProgramma Sessione::forme(const PorteSessione& porte) {
     shell::collegaMaschere(tutte, dialogo, &finestra_, &vita_,
                            shell::pannelliForme(dialogo, vita_));
     shell::collegaFigura(finestra_, vita_, dialogo, porte.stampante);
-    shell::collegaDisegni(tutte, finestra_, dialogo, porte.stampante,
-                          [this](const std::string& percorso) {
-                              finestra_.stato(base::traduttore("File scritto") + ": " + percorso);
-                          });
+    const auto annuncia = [this](const std::string& percorso) {
+        finestra_.stato(base::traduttore("File scritto") + ": " + percorso);
+    };
+    shell::collegaDisegni(tutte, finestra_, dialogo, porte.stampante, annuncia);
     shell::collegaRecupero(tutte, finestra_);
     shell::collegaRelazione(tutte, finestra_, dialogo, porte.stampante, porte.outdoc);
     shell::collegaOsservazioni(tutte, finestra_, vita_);
     shell::collegaRisultati(tutte, finestra_, vita_);
     shell::collegaSicurezza(tutte, finestra_, vita_);
+    shell::collegaAllegato(tutte, finestra_, vita_, dialogo, porte.stampante, allegatoDelProgetto,
+                           annuncia);
     shell::collegaStrumenti(tutte, dialogo, finestra_);
     tutte.riavvia = porte.riavvia;
     return tutte;

@@ -388,6 +388,7 @@ inline const std::map<std::string, Texts> noTexts = {
     {"shell/panels/layers_panel.cpp",
      {"PannelloStrati", "titolo", "immagine", "nome", "campitura", "vaiVuota", "importa",
       "esporta"}},
+    {"desktop/annex_of_project.cpp", {"korven32c", "pdf"}},
     {"shell/annex/annex_wiring.cpp", {"pdf"}},
     {"shell/annex/annex_window.cpp",
      {"DOC (*.doc)", "aggiorna", "finestra_allegato", "pdf", "quante", "stampa", "zoom"}},
