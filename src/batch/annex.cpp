@@ -3,6 +3,7 @@
 #include <utility>
 #include <vector>
 
+#include "base/files.hpp"
 #include "base/folders/file_names.hpp"
 #include "base/translated_texts.hpp"
 #include "batch/command_table.hpp"
@@ -39,6 +40,7 @@ int esegui(const Opzioni& opzioni, const PorteComando& porte, Esito& esito) {
     esito.inMemoria = true;
     return calcolaInMemoria(
         opzioni, esito, [&](const analysis::Avvio&, base::Dialogo& dialogo) -> int {
+            if (!opzioni.uscita.empty()) base::creaCartella(opzioni.uscita);
             const FormatiAllegato chiesti = formati(opzioni);
             controllaFile(chiesti.file());
             const AmbienteDisegno ambiente(!chiesti.pdf.empty());

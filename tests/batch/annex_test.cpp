@@ -38,6 +38,13 @@ TEST_F(AllegatoDaFuori, GoesBesideTheProjectWithoutAName) {
     EXPECT_FALSE(fs::exists(accanto(".OUT")));
 }
 
+TEST_F(AllegatoDaFuori, GoesIntoTheFolderForResultsWhichIsMade) {
+    esempio("palancola_mensola");
+    EXPECT_EQ(comando({"--uscita", cartella / "nuova"}).codice, 0);
+    const std::string nome = fs::path(accanto("-allegato.pdf")).filename().string();
+    EXPECT_TRUE(fs::exists(cartella / ("nuova/" + nome)));
+}
+
 TEST_F(AllegatoDaFuori, CanBeMadeAgainByteByByte) {
     esempio("diaframma_due_ordini");
     const std::string pdf = cartella / "a.pdf";
