@@ -169,6 +169,7 @@ void capitoloModello(const Contesto& contesto, Blocchi& blocchi) {
         "scritte, e il capitolo Margine dice di quanto si potrebbero ridurre.");
     for (const char* cosa : esclusi) elenco += "\n- " + traduttore(cosa);
     blocchi.emplace_back(Paragrafo{elenco, {}});
+    blocchi.emplace_back(document::SaltoPagina{});  // a page is full, and the table stays whole
     blocchi.emplace_back(document::Tavola{prospettoSegni()});
 }
 

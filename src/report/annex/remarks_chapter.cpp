@@ -44,8 +44,9 @@ void capitoloOsservazioni(const Contesto& contesto, Blocchi& blocchi) {
     }
     blocchi.emplace_back(Paragrafo{
         base::riempito(
-            traduttore("Che cosa il programma osserva sul progetto e sui suoi risultati: %1 "
-                       "osservazioni, dalle più pesanti alle più leggere. Nessuna è taciuta."),
+            traduttore(
+                "Che cosa il programma osserva sul progetto e sui suoi risultati, dalle "
+                "osservazioni più pesanti alle più leggere; in tutto %1. Nessuna è taciuta."),
             {std::to_string(tutte.size())}),
         {}});
     for (const review::Peso peso :
