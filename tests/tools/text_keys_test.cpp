@@ -122,7 +122,8 @@ bool namesRemark(const std::string& text) {
 
 // Drawings of icons, by the English names of their files.
 bool namesIcon(const std::string& text) {
-    return std::filesystem::is_regular_file(KORVEN_DATA_FOLDER "/icons/" + text + ".svg");
+    std::error_code tooLong;  // for a file's name, as sentences are
+    return fs::is_regular_file(KORVEN_DATA_FOLDER "/icons/" + text + ".svg", tooLong);
 }
 
 bool isNoText(const std::string& file, const std::string& text) {

@@ -1,0 +1,87 @@
+#include "report/annex/peaks.hpp"
+
+#include <cassert>
+
+#include "base/translated_texts.hpp"
+#include "report/annex/columns.hpp"
+#include "report/annex/table_pieces.hpp"
+#include "tables/quantities.hpp"
+
+namespace korven::report {
+
+using base::traduttore;
+using equilibrium::FaseEquilibrio;
+using live::PareteViva;
+using tables::Cella;
+using tables::Prospetto;
+namespace unita = project::unita;
+
+namespace {
+
+double profondita(const PareteViva& parete, const Picco& p) {
+    return static_cast<double>(p.nodo) * parete.h;
+}
+
+void aggiungi(const PareteViva& parete, const GrandezzaFase& g, int fase, int segno, bool nullo,
+              std::vector<Cella>& riga) {
+    const Picco p = picco(parete, fase, g, segno);
+    riga.push_back(g.cella(p.valore));
+    riga.push_back(nullo ? tables::dove(0, 0) : tables::profondita(profondita(parete, p)));
+    if (fase == 0) riga.push_back(nullo ? tables::dove(0, 0) : tables::cella(p.fase));
+}
+
+}  // namespace
+
+const std::array<GrandezzaFase, 3>& grandezze() {
+    using tables::grandezzaMomento;
+    using tables::grandezzaSpostamento;
+    using tables::grandezzaTaglio;
+    static const std::array<GrandezzaFase, 3> tutte = {{
+        {&FaseEquilibrio::y, grandezzaSpostamento.titolo, grandezzaSpostamento.unita,
+         grandezzaSpostamento.cella},
+        {&FaseEquilibrio::momento, grandezzaMomento.titolo, grandezzaMomento.unita,
+         grandezzaMomento.cella},
+        {&FaseEquilibrio::taglio, grandezzaTaglio.titolo, grandezzaTaglio.unita,
+         grandezzaTaglio.cella},
+    }};
+    return tutte;
+}
+
+Picco picco(const PareteViva& parete, int fase, const GrandezzaFase& grandezza, int segno) {
+    assert(parete.fasiInEquilibrio() > 0);
+    const int prima = fase == 0 ? 1 : fase;
+    const int ultima = fase == 0 ? parete.fasiInEquilibrio() : fase;
+    Picco p{(parete.fase(prima)->*grandezza.valori)[0], 0, prima};
+    for (int k = prima; k <= ultima; ++k) {
+        const auto& valori = parete.fase(k)->*grandezza.valori;
+        for (std::size_t i = 0; i < valori.size(); ++i)
+            if (segno * valori[i] > segno * p.valore) p = {valori[i], i, k};
+    }
+    return p;
+}
+
+std::vector<std::size_t> nodiDeiPicchi(const PareteViva& parete, int fase) {
+    std::vector<std::size_t> nodi;
+    for (const GrandezzaFase& g : grandezze())
+        for (const int segno : {1, -1}) nodi.push_back(picco(parete, fase, g, segno).nodo);
+    return nodi;
+}
+
+Prospetto prospettoPicchi(const PareteViva& parete, int fase) {
+    Prospetto p{.titolo = traduttore("Valori massimi e minimi")};
+    p.colonne = {colonna("Risultato")};
+    for (const char* quale : {"Valore massimo", "Valore minimo"}) {
+        p.colonne.push_back(numeri(quale));
+        p.colonne.push_back(simboli(unita::metri, "z"));
+        if (fase == 0) p.colonne.push_back(numeri("Fase"));
+    }
+    for (const GrandezzaFase& g : grandezze()) {
+        const bool nullo =
+            picco(parete, fase, g, 1).valore == 0 && picco(parete, fase, g, -1).valore == 0;
+        auto& riga = p.righe.emplace_back(std::vector{conUnita(g.unita, g.titolo)});
+        for (const int segno : {1, -1}) aggiungi(parete, g, fase, segno, nullo, riga);
+    }
+    return p;
+}
+
+}  // namespace korven::report

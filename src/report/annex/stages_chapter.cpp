@@ -1,0 +1,130 @@
+#include <algorithm>
+#include <string>
+#include <utility>
+
+#include "base/filled_text.hpp"
+#include "base/translated_texts.hpp"
+#include "drawings/annex/annex_drawings.hpp"
+#include "report/annex/chapters.hpp"
+#include "report/annex/chosen_rows.hpp"
+#include "report/annex/peaks.hpp"
+#include "report/annex/stage_tables.hpp"
+#include "report/annex/table_pieces.hpp"
+#include "tables/node_table.hpp"
+#include "tables/quantities.hpp"
+#include "tables/stage_table.hpp"
+
+namespace korven::report {
+
+using base::riempito;
+using base::traduttore;
+using document::Stile;
+using dossier::Fascicolo;
+using tables::Prospetto;
+
+namespace {
+
+void introduzione(const Fascicolo& f, Blocchi& blocchi) {
+    paragrafo(
+        riempito(traduttore("Ogni fase è calcolata con l'equilibrio certo: la paratia, divisa "
+                            "in %1 segmenti di %2 m, è in equilibrio in ogni nodo con "
+                            "terreno, acqua, tiranti, vincoli e carichi. Un tirante agisce "
+                            "dalla fase che lo mette in opera, e ne conta gli spostamenti da "
+                            "allora; il terreno non ricorda le fasi precedenti."),
+                 {std::to_string(f.parete.nSeg),
+                  tables::cella(f.parete.h, 4, project::unita::metri).testo}),
+        blocchi);
+    paragrafo(
+        traduttore("Valori per metro di paratia, profondità dalla testa. Spostamenti, "
+                   "pressioni e forze sono positivi verso lo scavo; un momento positivo tende "
+                   "la faccia verso lo scavo."),
+        blocchi);
+    paragrafo(traduttore("Di ogni fase c'è l'equilibrio di tutto ciò che agisce sulla paratia: "
+                         "momenti attorno alla testa, positivi se una forza positiva agisce sotto "
+                         "di essa; z è la profondità della risultante. Un tirante teso tira verso "
+                         "terra: la sua forza è negativa. La somma è quanto l'arrotondamento "
+                         "lascia."),
+              blocchi);
+    tavola(tables::prospettoFasi(f.parete), blocchi);
+    if (f.parete.fasiInEquilibrio() > 0) tavola(prospettoCorse(f), blocchi);
+}
+
+// What the drawing shows, for those who do not see it.
+std::string descrizione(const Fascicolo& f, int fase) {
+    std::string testo = tables::titoloFase(fase);
+    const char* segno = ": ";
+    for (const auto& riga : prospettoPicchi(f.parete, fase).righe) {
+        testo += segno + riga[0].testo + " " + riga[3].testo + " / " + riga[1].testo;
+        segno = "; ";
+    }
+    return testo + ".";
+}
+
+document::Figura figura(const Contesto& contesto, int fase) {
+    const auto f = contesto.fascicolo;
+    const bool sta = f->parete.fase(fase) != nullptr;
+    // So high that the balance of a stage stands below it on the same page.
+    const auto [larghezza, altezza] = drawings::FormatoFigura{17, 11.5};
+    return {riempito(traduttore(sta ? "Fase %1: paratia, pressioni, spostamento, momento e taglio"
+                                    : "Fase %1: come la paratia cade"),
+                     {std::to_string(fase)}),
+            sta ? descrizione(*f, fase) : tables::perche(f->parete, fase), larghezza, altezza,
+            [f, fase, larghezza = larghezza, altezza = altezza] {
+                drawings::disegnaFase(f->parete, fase, larghezza, altezza);
+            }};
+}
+
+// The number of a layer says enough: its name stands with the data.
+void accorciaStrati(Prospetto& p) {
+    for (auto& riga : p.righe)
+        if (riga.back().ordine) riga.back() = tables::cella(static_cast<int>(*riga.back().ordine));
+    p.colonne.back().numerica = true;
+}
+
+Prospetto nodi(const Contesto& contesto, int fase) {
+    const live::PareteViva& parete = contesto.fascicolo->parete;
+    Prospetto p = tables::prospettoNodi(parete, fase);
+    accorciaStrati(p);
+    sfoltisci(p, contesto.opzioni.righe, nodiDeiPicchi(parete, fase));
+    return p;
+}
+
+void inEquilibrio(const Contesto& contesto, int fase, Blocchi& blocchi) {
+    const Fascicolo& f = *contesto.fascicolo;
+    tavola(prospettoPicchi(f.parete, fase), blocchi);
+    const auto i = static_cast<std::size_t>(fase) - 1;
+    if (i < f.bilanci.size()) tavola(prospettoBilancio(f.bilanci[i]), blocchi);
+    paragrafo(frasePassi(f, fase), blocchi, Stile::nota);
+    tavola(nodi(contesto, fase), blocchi);
+}
+
+void unaFase(const Contesto& contesto, int fase, Blocchi& blocchi) {
+    const Fascicolo& f = *contesto.fascicolo;
+    blocchi.emplace_back(document::SaltoPagina{});
+    blocchi.emplace_back(document::Titolo{2, tables::titoloFase(fase)});
+    if (f.parete.fase(fase) == nullptr)
+        paragrafo(tables::perche(f.parete, fase), blocchi, Stile::pericolo);
+    tavola(prospettoCondizioni(f.parete.dati, fase), blocchi);
+    blocchi.emplace_back(figura(contesto, fase));
+    if (f.parete.fase(fase) != nullptr) inEquilibrio(contesto, fase, blocchi);
+}
+
+}  // namespace
+
+void capitoloFasi(const Contesto& contesto, Blocchi& blocchi) {
+    const Fascicolo& f = *contesto.fascicolo;
+    const int calcolate = static_cast<int>(f.parete.fasi.size());
+    if (calcolate == 0) {
+        paragrafo(tables::perche(f.parete, 1), blocchi, Stile::pericolo);
+        return;
+    }
+    introduzione(f, blocchi);
+    for (int k = 1; k <= calcolate; ++k) unaFase(contesto, k, blocchi);
+    const int tutte = std::clamp(f.parete.dati.nFasi, 0, project::massimoFasi);
+    for (int k = calcolate + 1; k <= tutte; ++k) {
+        blocchi.emplace_back(document::Titolo{2, tables::titoloFase(k)});
+        paragrafo(tables::perche(f.parete, k), blocchi, Stile::pericolo);
+    }
+}
+
+}  // namespace korven::report

@@ -1,0 +1,145 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "support/chapter_bench.hpp"
+#include "support/restless_wall.hpp"
+#include "support/sample_projects.hpp"
+
+namespace korven::report {
+namespace {
+
+using test::contesto;
+using test::haTavola;
+using test::numero;
+using test::riga;
+using test::tavola;
+using test::testo;
+
+Blocchi fasi(const Contesto& c) { return test::blocchi(capitoloFasi, c); }
+
+project::DatiProgetto caduto() {
+    auto dati = test::progettoSemplice();
+    dati.profFase[2] = 11.9;
+    dati.tirantiFase[2] = 0;
+    test::aggiungiFase(dati, {.scavo = 11.95, .falda = 11});
+    return dati;
+}
+
+TEST(CapitoloFasi, HoldsTheNodesOfTheDossier) {
+    const Contesto c = contesto(test::progettoSemplice());
+    const auto& f = *c.fascicolo->parete.fase(2);
+    const auto p = tavola(fasi(c), "Nodi: Fase 2");
+    ASSERT_EQ(p.righe.size(), 41U);
+    for (std::size_t i = 0; i < 41; ++i) {
+        EXPECT_NEAR(numero(p, i, 1), 0.3 * static_cast<double>(i), 1e-12);
+        EXPECT_EQ(numero(p, i, 2), 1000 * f.y[i]);
+        EXPECT_EQ(numero(p, i, 3), 10 * f.momento[i]);
+        EXPECT_EQ(numero(p, i, 4), 10 * f.taglio[i]);
+        EXPECT_EQ(numero(p, i, 5), 10 * f.monte[i]);
+        EXPECT_EQ(numero(p, i, 6), 10 * f.valle[i]);
+        EXPECT_EQ(numero(p, i, 7), 10 * f.acqua[i]);
+    }
+    EXPECT_EQ(p.righe[40].back().testo, "2");  // the layer by its number alone
+}
+
+TEST(CapitoloFasi, ThinsTheNodesAndKeepsThePeaks) {
+    const Contesto c = contesto(test::progettoSemplice(), 12);
+    const auto p = tavola(fasi(c), "Nodi: Fase 2");
+    EXPECT_LE(p.righe.size(), 12U);
+    const auto e = *c.fascicolo->parete.estremiDi(2);
+    bool massimo = false;
+    for (std::size_t i = 0; i < p.righe.size(); ++i)
+        massimo = massimo || numero(p, i, 3) == 10 * e.momento().valore;
+    EXPECT_TRUE(massimo);
+    EXPECT_EQ(p.righe.front()[0].testo, "1");
+    EXPECT_EQ(p.righe.back()[0].testo, "41");
+}
+
+TEST(CapitoloFasi, HoldsTheBalanceOfEachStage) {
+    const Contesto c = contesto(test::progettoSemplice());
+    const auto p = tavola(fasi(c), "Equilibrio delle forze e dei momenti", 2);
+    const dossier::BilancioFase& b = c.fascicolo->bilanci[1];
+    const auto monte = riga(p, "Terreno a monte");
+    EXPECT_EQ(monte[1].numero, 10 * b.monte.forza);
+    EXPECT_EQ(monte[2].numero, 10 * b.monte.momento);
+    EXPECT_EQ(monte[3].numero, b.monte.momento / b.monte.forza);
+    EXPECT_EQ(riga(p, "Terreno a valle")[1].numero, 10 * b.valle.forza);
+    EXPECT_EQ(riga(p, "Acqua")[2].numero, 10 * b.acqua.momento);
+    // A tie pulls towards the retained side, from its own depth.
+    const auto tirante = riga(p, "Tirante 1");
+    EXPECT_NEAR(tirante[1].numero.value_or(0), -10 * c.fascicolo->tiranti[0].tiri[1].value_or(0),
+                1e-9);
+    EXPECT_NEAR(tirante[3].numero.value_or(0), 1.5, 1e-12);
+    const auto somma = riga(p, "Somma di tutte");
+    EXPECT_EQ(somma[1].numero, 10 * b.resto.forza);
+    EXPECT_LT(std::fabs(somma[1].numero.value_or(1)), 1e-6);
+    EXPECT_TRUE(somma[1].testo == "0" || somma[1].testo.find('e') != std::string::npos);
+}
+
+TEST(CapitoloFasi, SetsTheSpecifiedRunBesideTheEquilibrium) {
+    const Contesto c = contesto(test::progettoSemplice());
+    const auto b = fasi(c);
+    const auto p = tavola(b, "Equilibrio certo e calcolo per fasi");
+    const dossier::CorsaFase& corsa = c.fascicolo->corsa[1];
+    EXPECT_EQ(numero(p, 1, 1), c.fascicolo->parete.fase(2)->passi);
+    EXPECT_EQ(numero(p, 1, 2), corsa.iterazioni);
+    EXPECT_EQ(p.righe[1][3].testo, "assestata");
+    EXPECT_EQ(numero(p, 1, 4), 1000 * *corsa.scartoSpostamento);
+    EXPECT_EQ(numero(p, 1, 5), 10 * *corsa.scartoMomento);
+    EXPECT_NE(testo(b).find("Calcolo per fasi: iterazioni " + std::to_string(corsa.iterazioni)),
+              std::string::npos);
+}
+
+TEST(CapitoloFasi, TellsTheConditionsOfAStage) {
+    const auto p = tavola(fasi(contesto(test::progettoSemplice())), "Condizioni della fase", 2);
+    ASSERT_EQ(p.righe.size(), 1U);
+    const double attesi[] = {5, 3, 5, 10, 0, 1};  // m, m, m, kN/m2, kN/m2, anchors
+    for (std::size_t i = 0; i < 6; ++i) EXPECT_EQ(numero(p, 0, i), attesi[i]) << i;
+    EXPECT_EQ(p.righe[0][5].testo, "1");
+}
+
+TEST(CapitoloFasi, OfAWallThatFallsSaysHowAndTellsTheStagesThatStand) {
+    const Contesto c = contesto(caduto());
+    ASSERT_FALSE(c.fascicolo->parete.sta());
+    const auto b = fasi(c);
+    EXPECT_TRUE(haTavola(b, "Nodi: Fase 1"));
+    EXPECT_FALSE(haTavola(b, "Nodi: Fase 2"));
+    EXPECT_NE(testo(b).find("nessun equilibrio"), std::string::npos);
+    EXPECT_NE(testo(b).find("Fase 3\nNon calcolata"), std::string::npos);
+    EXPECT_EQ(test::tutti<document::Figura>(b).size(), 2U);  // stage 1 and the fall
+    const auto corse = tavola(b, "Equilibrio certo e calcolo per fasi");
+    EXPECT_EQ(corse.righe[0][2].testo, "-");
+    EXPECT_EQ(corse.note.back(),
+              "Il calcolo per fasi, che scrive la relazione, non è stato eseguito.");
+}
+
+TEST(CapitoloFasi, OfARunWithoutRestHasTheEquilibriumAndSaysSo) {
+    const Contesto c = [] {
+        class InSilenzio : public analysis::OsservatoreCorsa {
+        } osservatore;
+        const auto dati = test::progettoSenzaPace();
+        return Contesto{
+            std::make_shared<const dossier::Fascicolo>(dossier::fascicolo(
+                {.scritti = dati, .usati = dati, .nSeg = 10, .identita = {}, .sulProgetto = {}},
+                osservatore)),
+            {}};
+    }();
+    const auto b = fasi(c);
+    EXPECT_TRUE(haTavola(b, "Nodi: Fase 1"));
+    const auto corse = tavola(b, "Equilibrio certo e calcolo per fasi");
+    EXPECT_EQ(corse.righe[0][3].testo, "non assestata");
+    EXPECT_EQ(corse.righe[0][3].peso, review::Peso::pericolo);
+    EXPECT_NE(corse.note.back().find("non si assesta"), std::string::npos);
+    EXPECT_NE(testo(b).find("non si è assestato"), std::string::npos);
+}
+
+TEST(CapitoloFasi, OfAProjectWithoutAWallSaysWhy) {
+    const auto b = fasi(contesto(test::progettoVuoto()));
+    ASSERT_EQ(b.size(), 1U);
+    EXPECT_EQ(std::get<document::Paragrafo>(b[0]).stile, document::Stile::pericolo);
+    EXPECT_FALSE(std::get<document::Paragrafo>(b[0]).testo.empty());
+}
+
+}  // namespace
+}  // namespace korven::report
