@@ -465,6 +465,11 @@ inline const std::map<std::string, Texts> noTexts = {
     {"safety/words.cpp", {"korven32c"}},
     {"shell/forms/history_keys.cpp", {"&Undo", "&Redo"}},  // Qt's own texts
     {"safety/words.hpp", {"equilibrio", "equilibrium"}},
+    {"report/annex/bending_tables.cpp",
+     {"mm²", "fcd", "fck", "γc", "fyd", "fyk", "γs", "γF", "NRd,c", "NRd,t", "MRd"}},
+    {"report/annex/shear_tables.cpp",
+     {"mm²", "fctk", "fck", "τRd", "γc",  "Asl",  "ρl",  "VRd1", "σcp",   "fcd",  "VRd2",
+      "Asw", "fyd",  "fyk", "γs",  "Vwd", "VRd3", "VSd", "γF",   "VRd2'", "VRd3'"}},
     {"report/footer.cpp", {"…", "–"}},
     {"report/annex/annex.cpp", {"ita", "deu", "fra", "esp", "eng", "por", "SHA-256"}},
     {"batch/run/annex_output.cpp", {"korven32c", "pdf", "doc", "txt"}},

@@ -1,0 +1,77 @@
+#include <vector>
+
+#include "base/translated_texts.hpp"
+#include "report/annex/columns.hpp"
+#include "report/annex/section_tables.hpp"
+#include "report/annex/table_pieces.hpp"
+#include "tables/check_table.hpp"
+#include "tables/quantities.hpp"
+
+namespace korven::report {
+
+using base::traduttore;
+using live::DoveVerifica;
+using tables::Cella;
+using tables::Prospetto;
+namespace unita = project::unita;
+
+namespace {
+
+// One check of the section.
+struct Controllo {
+    const project::Unita& unita;
+    const char* cosa;             // Italian key
+    double progetto, resistenza;  // in the shown unit
+    DoveVerifica dove;
+    bool fallito;
+};
+
+std::vector<Cella> riga(const Controllo& c, bool conAzioni) {
+    const auto numero = [](double v) { return tables::cella(v, 2, unita::nessuna); };
+    std::vector<Cella> riga{conUnita(c.unita, c.cosa)};
+    if (!conAzioni) {
+        const Cella manca = tables::senza(
+            traduttore("Azioni non note: la paratia non è calcolata o non è in equilibrio."));
+        riga.insert(riga.end(), {manca, numero(c.resistenza), manca, manca, manca, manca});
+        return riga;
+    }
+    riga.insert(
+        riga.end(),
+        {numero(c.progetto), numero(c.resistenza), tables::uso(c.progetto, c.resistenza),
+         c.dove.fase > 0 ? tables::cella(c.dove.fase) : tables::dove(0, 0),
+         tables::dove(c.dove.fase, c.dove.z),
+         tables::esito(traduttore(c.fallito ? "NON verificata" : "verificata"), c.fallito)});
+    return riga;
+}
+
+}  // namespace
+
+Prospetto prospettoControlli(const dossier::Fascicolo& f) {
+    const live::ControlliSezione& tutti = f.controlli;
+    Prospetto p{.titolo = traduttore("Verifiche"),
+                .colonne = {colonna("Verifica"), numeri("Di progetto"), numeri("Resistenza"),
+                            numeri(unita::percento, "Sfruttamento"), numeri("Fase"),
+                            simboli(unita::metri, "z"), colonna("Esito")}};
+    const auto aggiungi = [&](const Controllo& c) { p.righe.push_back(riga(c, tutti.conAzioni)); };
+    if (tutti.flessione) {
+        const results::ConfrontoMomenti& c = *tutti.flessione;
+        const project::Unita& u = unita::momentoAlMetro;
+        aggiungi({u, "Flessione, momento positivo", mostrato(u, c.mdMax), mostrato(u, c.mrPos),
+                  tutti.positivo, c.fallitaPos()});
+        if (c.negativo || !tutti.conAzioni)
+            aggiungi({u, "Flessione, momento negativo", mostrato(u, c.mdMin), mostrato(u, c.mrNeg),
+                      tutti.negativo, c.fallitaNeg()});
+        else
+            p.note.push_back(traduttore("Nessun momento negativo agisce."));
+    }
+    if (tutti.taglio) {
+        const structure::ConfrontoTaglio& c = *tutti.taglio;
+        aggiungi({unita::forzaAlMetro, "Taglio, bielle di calcestruzzo", c.Vsd, c.Vrd2,
+                  tutti.diTaglio, c.rotturaBielle()});
+        aggiungi({unita::forzaAlMetro, "Taglio, armatura d'anima", c.Vsd, c.Vrd3, tutti.diTaglio,
+                  c.rotturaArmatura()});
+    }
+    return p;
+}
+
+}  // namespace korven::report

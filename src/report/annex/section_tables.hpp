@@ -1,0 +1,31 @@
+#pragma once
+
+#include "dossier/dossier.hpp"
+#include "tables/result_table.hpp"
+
+// The checks of the section with all that is put into them: N and mm in the section, kN and kN m
+// per metre of wall in what is compared.
+
+namespace korven::report {
+
+/// The checks in a row each: design value, resistance, use, where, verdict. Actions of the
+/// equilibrium.
+[[nodiscard]] tables::Prospetto prospettoControlli(const dossier::Fascicolo& fascicolo);
+
+/// Strengths, areas, design axial force and what the section carries of it.
+[[nodiscard]] tables::Prospetto prospettoMateriali(const dossier::ValoriFlessione& valori);
+
+/// One direction of bending: design moment, resistance, use.
+/// @param M  the largest of the stages this way, in size [t m]
+[[nodiscard]] tables::Prospetto prospettoFlessione(const dossier::ValoriFlessione& valori,
+                                                   bool positivo, double M);
+
+/// The forces in the section at its resistance in that direction, their arms and moments.
+[[nodiscard]] tables::Prospetto prospettoForzeInterne(const dossier::ValoriFlessione& valori,
+                                                      bool positivo);
+
+/// The shear check, from one pile to a metre of wall.
+[[nodiscard]] tables::Prospetto prospettoTaglio(const project::Sezione& sezione,
+                                                const dossier::ValoriTaglio& valori);
+
+}  // namespace korven::report
