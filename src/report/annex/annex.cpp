@@ -27,6 +27,11 @@ constexpr Capitolo capitoli[] = {
     {"Modello e ipotesi", capitoloModello, true},
     {"Osservazioni", capitoloOsservazioni, false},
     {"Dati", capitoloDati, true},
+    {"Fasi", capitoloFasi, true},
+    {"Tiranti", capitoloTiranti, true},
+    {"Inviluppi", capitoloInviluppi, false},
+    {"Verifiche della sezione", capitoloSezione, true},
+    {"Margine di sicurezza", capitoloMargine, true},
     {"Come ripetere il documento", capitoloRipetere, true},
 };
 
