@@ -46,6 +46,7 @@ const std::map<std::string, Exempt> noUnits = {
     {"drawings/hatch_code.cpp", {{"100", "1000"}, "digits of a code"}},
     {"drawings/hatch_samples.cpp", {{"100"}, "digits of a code"}},
     {"drawings/section_drawing.hpp", {{"100"}, "the scale of the drawing"}},
+    {"report/annex/stage_tables.cpp", {{"1e-9"}, "what rounding leaves of a balance"}},
     {"shell/annex/document_view.cpp", {{"100"}, "percent of the size on paper"}},
     {"shell/report/form1.cpp", {{"10"}, "a share of the screen"}},
     {"shell/viewer/grafica.cpp", {{"10"}, "a share of the screen"}},
