@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QMimeData>
+#include <algorithm>
+#include <string_view>
 
 #include "base/code_page.hpp"
 #include "base/file_error.hpp"
@@ -56,12 +58,23 @@ const Tipo& tipoDi(const std::string& percorso) {
                                                  "terminare il nome con .svg, .pdf o .png"));
 }
 
+// Whether what stands behind a point names a kind of file: "jpg", but not the "50" of "scavo 3.50".
+bool estensione(std::string_view fine) {
+    constexpr std::size_t lunghezzaMassima = 4;
+    const auto lettera = [](char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); };
+    return fine.empty() || (fine.size() <= lunghezzaMassima && lettera(fine.front()) &&
+                            std::all_of(fine.begin(), fine.end(), [&](char c) {
+                                return lettera(c) || (c >= '0' && c <= '9');
+                            }));
+}
+
 // What was typed, with an ending that is taken.
 std::string daProporreAncora(const std::string& percorso) {
+    if (tipoScritto(percorso) != nullptr) return percorso;
     const std::size_t nome = percorso.rfind('/') + 1;
     const std::size_t punto = percorso.rfind('.');
-    if (tipoScritto(percorso) != nullptr) return percorso;
-    const bool conFine = punto != std::string::npos && punto > nome;
+    const bool conFine = punto != std::string::npos && punto > nome &&
+                         estensione(std::string_view(percorso).substr(punto + 1));
     return percorso.substr(0, conFine ? punto : std::string::npos) + '.' + tipi[0].estensione;
 }
 

@@ -83,8 +83,13 @@ TEST_F(FileFiguraTest, RefusesAnotherKindAndSaysWhichThereAre) {
 }
 
 TEST_F(FileFiguraTest, AsksAgainForANameThatWasRefused) {
-    const std::pair<const char*, const char*> casi[] = {
-        {"tavole/a.jpg", "tavole/a.svg"}, {"1.2/a", "1.2/a.svg"}, {"manca/a.PDF", "manca/a.PDF"}};
+    const std::pair<const char*, const char*> casi[] = {{"tavole/a.jpg", "tavole/a.svg"},
+                                                        {"1.2/a", "1.2/a.svg"},
+                                                        {"manca/a.PDF", "manca/a.PDF"},
+                                                        {"muro scavo 3.50", "muro scavo 3.50.svg"},
+                                                        {"muro 3.5m", "muro 3.5m.svg"},
+                                                        {"muro ing. Rossi", "muro ing. Rossi.svg"},
+                                                        {"muro.", "muro.svg"}};
     for (const auto& [scritto, riproposto] : casi) {
         porte.chieste.clear();
         dialogo.messaggi.clear();
