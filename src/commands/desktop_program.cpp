@@ -80,7 +80,7 @@ void Programma::produci(void (*uscita)(const PorteUscita&)) {
     const auto causa = safety::causaCorsa(corsa.comeFinita(), project::Progetto);
     const bool dice = !arresto.empty() || !causa.frase.empty();
     if (!arresto.empty())
-        finestra_.stato(arresto);
+        finestra_.statoInBreve(corsa.doveFerma(), arresto);
     else if (dice)
         finestra_.statoInBreve(causa.breve, causa.frase);
     else if (diceArresto_ || diceStoria_)

@@ -117,7 +117,8 @@ TEST_F(ProgrammaTest, TellsInTheStatusLineWhereARunWasStoppedUntilAnotherGoesThr
         if (stato.fase == 2) analysis::stopCalcolo = true;
     };
     p.esegui(voceMenu("StampaVideo"));
-    EXPECT_EQ(finestra.ultimoStato,
+    EXPECT_EQ(finestra.ultimoStato, "Calcolo interrotto (fase 2, 1 iterazioni)");
+    EXPECT_EQ(finestra.perEsteso,
               "Calcolo interrotto (fase 2, 1 iterazioni): "
               "nessun nodo e nessun tirante cambia stato");
     EXPECT_TRUE(dialogo.messaggi.empty());

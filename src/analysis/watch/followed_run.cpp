@@ -4,6 +4,12 @@
 
 namespace korven::analysis {
 
+namespace {
+
+constexpr std::string_view interrotto = "Calcolo interrotto";
+
+}  // namespace
+
 void CorsaSeguita::apri() {
     ferma_ = false;
     fine_ = {};
@@ -22,7 +28,11 @@ void CorsaSeguita::caduta(const FaseCalcolata& fase) {
 }
 
 std::string CorsaSeguita::arresto() const {
-    return ferma_ ? traccia_.arrestoInBreve("Calcolo interrotto") : std::string();
+    return ferma_ ? traccia_.arrestoInBreve(interrotto) : std::string();
+}
+
+std::string CorsaSeguita::doveFerma() const {
+    return ferma_ ? traccia_.dove(interrotto) : std::string();
 }
 
 }  // namespace korven::analysis

@@ -26,6 +26,8 @@ class CorsaSeguita : public analysis::Avanzamento {
     /// One line about the stop: stage, iterations, and what still flipped; empty for a run that
     /// came to its end, was refused or was not needed.
     [[nodiscard]] std::string arresto() const;
+    /// The same without what still flipped, for a line that has no room for more.
+    [[nodiscard]] std::string doveFerma() const;
     /// How it ended, as far as its stages tell.
     [[nodiscard]] const FineCorsa& comeFinita() const { return fine_; }
 

@@ -191,7 +191,6 @@ std::vector<std::string> TracciaIterazioni::arresto(std::string_view motivo) con
     return testo;
 }
 
-// A line of the main form has no room for more.
 std::string TracciaIterazioni::arrestoInBreve(std::string_view motivo) const {
     std::string testo = dove(motivo) + ": ";
     const auto ultime = ultimeRighe();

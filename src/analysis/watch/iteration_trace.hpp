@@ -53,10 +53,11 @@ class TracciaIterazioni {
 
     /// The same in one line.
     [[nodiscard]] std::string arrestoInBreve(std::string_view motivo) const;
+    /// Of it only why, stage and iterations: "Calcolo interrotto (fase 2, 310 iterazioni)".
+    [[nodiscard]] std::string dove(std::string_view motivo) const;
 
  private:
     [[nodiscard]] std::vector<std::string> ultimeRighe() const;
-    [[nodiscard]] std::string dove(std::string_view motivo) const;
     void confronta(const analysis::StatoIterazione& stato);
 
     int fase_ = 0;
