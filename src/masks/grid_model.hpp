@@ -148,6 +148,9 @@ class ModelloGriglia {
     void ripeti();
     /// What was taken back or done again, for the strip, until the next key; empty otherwise.
     [[nodiscard]] const std::string& detto() const { return storia_.detto(); }
+    void taci() { storia_.taci(); }
+    [[nodiscard]] bool annullabile() const { return storia_.annullabile(); }
+    [[nodiscard]] bool ripetibile() const { return storia_.ripetibile(); }
 
     /// The confirm button: closes the editor, checks the current cell and asks about rows with
     /// empty cells where the kind of the mask wants it. "No" to "will you look at them" closes.

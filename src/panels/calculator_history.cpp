@@ -28,6 +28,7 @@ void StoriaCalcolo::cambia(std::size_t posto, const Valore& dopo) {
                                  : etichetta(static_cast<VoceCalcolo>(posto), ingressi_);
     Valore prima = valore(posto);
     metti(posto, dopo);
+    inTabella_ = 0;
     storia_.scritto(masks::passoCampo(nome), posto, std::move(prima), dopo);
 }
 
@@ -44,7 +45,17 @@ std::optional<std::size_t> StoriaCalcolo::annulla() {
     return storia_.annulla([this](std::size_t posto, const Valore& v) { metti(posto, v); });
 }
 
-std::optional<std::size_t> StoriaCalcolo::ripeti() {
+void StoriaCalcolo::usata() {
+    storia_.svuota();
+    inTabella_ = 0;
+}
+
+std::optional<std::size_t> StoriaCalcolo::ripeti(bool tabella) {
+    if (!tabella) inTabella_ = 0;
+    if (inTabella_ > 0) {
+        --inTabella_;
+        return {};
+    }
     if (!storia_.ripetibile()) return {};
     return storia_.ripeti([this](std::size_t posto, const Valore& v) { metti(posto, v); });
 }

@@ -25,12 +25,17 @@ class StoriaCalcolo {
     void scegli(MisuraArea misura);
 
     /// A result went into the table: the next step to be taken back is that of the table.
-    void usata() { storia_.svuota(); }
+    void usata();
 
-    /// Takes the last step back, or does it again.
-    /// @return the input or choice of that step; nothing when there was none, and nothing is said
+    /// Takes the last step back, or does it again. The steps of the table are taken back when none
+    /// is left here, and so are done again before those of here.
+    /// @param tabella  whether the table has a step to do again
+    /// @return the input or choice of that step; nothing when there was none, or when it is the
+    ///         turn of the table, and nothing is said
     std::optional<std::size_t> annulla();
-    std::optional<std::size_t> ripeti();
+    std::optional<std::size_t> ripeti(bool tabella = false);
+    /// A step of the table was taken back after all of these.
+    void annullatoInTabella() { ++inTabella_; }
 
     /// What was taken back or done again, until something else is done; else empty.
     [[nodiscard]] const std::string& detto() const { return storia_.detto(); }
@@ -44,6 +49,7 @@ class StoriaCalcolo {
 
     IngressiCalcolo& ingressi_;
     masks::Storia<std::size_t, Valore> storia_;
+    int inTabella_ = 0;  // steps of the table that were taken back after those of here
 };
 
 }  // namespace korven::panels

@@ -36,6 +36,23 @@ TEST(StoriaDelCalcolo, TakesAChoiceBackToo) {
     EXPECT_EQ(ingressi.genere, GenereAncoraggio::puntoneTraPareti);
 }
 
+TEST(StoriaDelCalcolo, LetsTheTableDoAgainFirstWhatWasTakenBackThereLast) {
+    IngressiCalcolo ingressi;
+    StoriaCalcolo storia(ingressi);
+    storia.scrivi(VoceCalcolo::numero, "7");
+    EXPECT_TRUE(storia.annulla());
+    EXPECT_FALSE(storia.annulla());
+    storia.annullatoInTabella();
+    EXPECT_FALSE(storia.ripeti(true));
+    EXPECT_EQ(ingressi.testo(VoceCalcolo::numero), "");
+    EXPECT_EQ(storia.ripeti(true), static_cast<std::size_t>(VoceCalcolo::numero));
+    EXPECT_EQ(ingressi.testo(VoceCalcolo::numero), "7");
+    // What the table forgot, or did again by itself, is in nobody's way.
+    EXPECT_TRUE(storia.annulla());
+    storia.annullatoInTabella();
+    EXPECT_TRUE(storia.ripeti(false));
+}
+
 TEST(StoriaDelCalcolo, EndsWhereAResultGoesIntoTheTable) {
     IngressiCalcolo ingressi;
     StoriaCalcolo storia(ingressi);

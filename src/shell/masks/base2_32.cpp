@@ -113,6 +113,12 @@ void Base2_32::nota(const QString& testo) {
     spiega();
 }
 
+void Base2_32::taci() {
+    if (modello_.detto().empty()) return;
+    modello_.taci();
+    spiega();
+}
+
 void Base2_32::vai(masks::PostoGriglia posto) {
     modello_.vaiA(posto, dialogo());
     griglia_->aggiorna();

@@ -53,6 +53,8 @@ class Base2_32 : public FormaMaschera {
     /// Takes the last step of the table back, or does it again; the grid gets the focus.
     void annulla();
     void ripeti();
+    /// What the strip says of such a step is over: something else was done beside the table.
+    void taci();
 
     /// Begins at a cell, before it is shown.
     void comincia(masks::PostoGriglia posto);

@@ -35,7 +35,8 @@ class CampiTirante : public QWidget {
     /// Takes the last input or choice back, or does it again, and goes there.
     /// @return false when there was none
     bool annulla() { return torna(storia_.annulla()); }
-    bool ripeti() { return torna(storia_.ripeti()); }
+    /// @param tabella  whether the table has a step to do again, which may come first
+    bool ripeti(bool tabella) { return torna(storia_.ripeti(tabella)); }
     /// Of what was taken back the strip speaks; a result that was written ends it.
     [[nodiscard]] panels::StoriaCalcolo& storia() { return storia_; }
 

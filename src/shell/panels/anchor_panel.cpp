@@ -57,7 +57,11 @@ PannelloTiranti::PannelloTiranti(Base2_32& forma, VitaProgetto& vita,
             [this](const std::string& testo) { scrivi(rigidezza, testo); });
     connect(campi_, &CampiTirante::scriviPretensione, this,
             [this](const std::string& testo) { scrivi(pretensione, testo); });
-    connect(campi_, &CampiTirante::digitata, this, &PannelloTiranti::aggiorna);
+    // One of the two histories speaks at a time.
+    connect(campi_, &CampiTirante::digitata, this, [this] {
+        forma_.taci();
+        aggiorna();
+    });
     const auto tabella = [this] {
         campi_->storia().taci();
         aggiorna();
@@ -103,13 +107,17 @@ void PannelloTiranti::scrivi(int colonna, const std::string& testo) {
     if (forma_.modello().valoriDigitati() != prima) campi_->storia().usata();
 }
 
-// First what was typed into the calculator, then the steps of the table. The keyboard stays here:
-// what is typed next is meant for the calculation.
+// First what was typed into the calculator, then the steps of the table; done again the other way
+// round. The keyboard stays here: what is typed next is meant for the calculation.
 void PannelloTiranti::torna(bool avanti) {
-    if (avanti ? campi_->ripeti() : campi_->annulla()) return;
+    const auto& griglia = forma_.modello();
+    if (avanti ? campi_->ripeti(griglia.ripetibile()) : campi_->annulla()) return;
     QWidget* fuoco = forma_.focusWidget();
+    if (!avanti && griglia.annullabile()) campi_->storia().annullatoInTabella();
     avanti ? forma_.ripeti() : forma_.annulla();
     if (fuoco != nullptr) fuoco->setFocus();
+    campi_->storia().taci();
+    aggiorna();
 }
 
 void PannelloTiranti::aggiorna() {

@@ -159,6 +159,34 @@ TEST_F(PannelloDeiTiranti, TakesBackWhatItWroteAndKeepsTheKeyboard) {
     });
 }
 
+TEST_F(PannelloDeiTiranti, DoesAgainInTheOrderInWhichItTookBackAndSaysOneOfThem) {
+    apri([&] {
+        riempi();
+        premi("scriviPretensione");
+        const std::string prima = casella(1).text().toStdString();
+        casella(1).setText(QStringLiteral("7"));
+        const auto tasto = [&](Qt::Key quale) {
+            QTest::keyClick(&casella(1), quale, Qt::ControlModifier);
+            return testo("Label1").substr(0, testo("Label1").find('\n'));
+        };
+        EXPECT_EQ(tasto(Qt::Key_Z).rfind("Annullato: campo ", 0), 0U);
+        EXPECT_EQ(casella(1).text().toStdString(), prima);
+        EXPECT_EQ(tasto(Qt::Key_Z).rfind("Annullato: cella ", 0), 0U);
+        EXPECT_EQ(cella(1, 3), "80");
+        EXPECT_EQ(testo("Label1").find("campo "), std::string::npos);
+        EXPECT_EQ(tasto(Qt::Key_Y).rfind("Ripetuto: cella ", 0), 0U);
+        EXPECT_EQ(cella(1, 3), "173.21");
+        EXPECT_EQ(casella(1).text().toStdString(), prima);
+        EXPECT_EQ(tasto(Qt::Key_Y).rfind("Ripetuto: campo ", 0), 0U);
+        EXPECT_EQ(casella(1).text(), "7");
+        EXPECT_EQ(testo("Label1").find("cella "), std::string::npos);
+        EXPECT_EQ(tasto(Qt::Key_Y), "Nulla da ripetere");
+        EXPECT_EQ(testo("Label1").find("Ripetuto"), std::string::npos);
+        casella(1).setText(QStringLiteral("8"));
+        EXPECT_EQ(testo("Label1").find("Nulla"), std::string::npos);
+    });
+}
+
 TEST_F(PannelloDeiTiranti, HandsCtrlZToTheTableWhileNothingIsTypedIntoIt) {
     apri([&] { EXPECT_EQ(nonAnnullano("pannelloTiranti"), ""); });
 }
