@@ -14,6 +14,10 @@ namespace {
 
 using drawings::DescrizioneStrato;
 
+// Where two grounds meet one lies over the other: two soft edges side by side would let the paper
+// through.
+constexpr double sormonto = 1;  // [px]
+
 // A layer as it is drawn: nothing of the one above lies below its top.
 struct StratoMostrato {
     int numero = 0;  // 0: ground of no layer, below the last
@@ -63,8 +67,9 @@ class Terreno {
                    true);
             const double scavo = std::max(y1, q_.y(m_.scavo));
             if (scavo >= y2) continue;
-            stendi(s, rettangolo(q_.xValle, scavo, q_.xSezione, y2), true);
-            if (q_.curva) stendi(s, rettangolo(q_.xSezione, scavo, q_.larghezza, y2), false);
+            stendi(s, rettangolo(q_.xValle - sormonto, scavo, q_.xSezione, y2), true);
+            if (q_.curva)
+                stendi(s, rettangolo(q_.xSezione - sormonto, scavo, q_.larghezza, y2), false);
         }
         confini();
     }

@@ -80,6 +80,9 @@ TEST(Scena, StretchesLayersToTheirDepths) {
     const auto secondo = figure<Area>(s, Elemento::strato, 2);
     ASSERT_EQ(secondo.size(), 3U);  // behind, in front, under the curve
     EXPECT_EQ(intorno(secondo[1].punti).alto, s.y(5));
+    // Without a seam between them.
+    for (std::size_t i = 1; i < secondo.size(); ++i)
+        EXPECT_LE(intorno(secondo[i].punti).sinistra, intorno(secondo[i - 1].punti).destra - 1);
     EXPECT_TRUE(dice(testi(s, Elemento::strato, 1), "Sabbia"));
     EXPECT_TRUE(dice(testi(s, Elemento::strato, 2), "Ghiaia"));
 }
