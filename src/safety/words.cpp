@@ -202,7 +202,7 @@ std::string parole(const DatoInstabile& dato) {
                    valore(dato.valore, unita::rigidezzaAlMetro) + ")";
         case Instabile::parete:
             return traduttore("rigidezza EJ della paratia non positiva") + " (" +
-                   valore(dato.valore, unita::rigidezzaFlessionale) + ")";
+                   valore(dato.valore, unita::rigidezzaFlessionale) + "/m)";
     }
     return {};
 }

@@ -85,13 +85,13 @@ TEST(ParoleDatoInstabile, NameTheValueWithItsPlace) {
     EXPECT_EQ(parole(DatoInstabile{.che = Instabile::tirante, .tirante = 2, .valore = -50}),
               "rigidezza negativa del tirante 2 (-500.0 kN/m/m)");
     EXPECT_EQ(parole(DatoInstabile{.che = Instabile::parete, .valore = -1000}),
-              "rigidezza EJ della paratia non positiva (-10000.0 kN m²)");
+              "rigidezza EJ della paratia non positiva (-10000.0 kN m²/m)");
 }
 
 TEST(ParoleDatoInstabile, NeverShowWhatIsNoNumber) {
     const double nan = std::numeric_limits<double>::quiet_NaN();
     EXPECT_EQ(parole(DatoInstabile{.che = Instabile::parete, .valore = nan}),
-              "rigidezza EJ della paratia non positiva (- kN m²)");
+              "rigidezza EJ della paratia non positiva (- kN m²/m)");
 }
 
 Diagnosi muroCheCade() {

@@ -332,7 +332,7 @@ TEST(Scena, CanDoWithoutTheCurve) {
                           MisuraStimata(), {.curva = false, .parole = false});
     EXPECT_TRUE(figure<Linea>(s, Elemento::curva).empty());
     EXPECT_TRUE(testi(s, Elemento::nota).empty() ||
-                testi(s, Elemento::nota) == std::vector<std::string>{"EJ 120000 kN m²"});
+                testi(s, Elemento::nota) == std::vector<std::string>{"EJ 120000 kN m²/m"});
     EXPECT_GT(pianta(s).sinistra, 0.5 * 300);
 }
 

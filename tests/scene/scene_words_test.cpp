@@ -148,12 +148,12 @@ TEST(Scena, WritesACaptionAboveAPictureWithoutWords) {
 
 TEST(Scena, NamesTheStiffnessAndWhereItComesFrom) {
     auto dati = test::progettoSemplice();
-    EXPECT_TRUE(dice(testi(scenaDi(dati), Elemento::nota), "EJ 120000 kN m²"));
+    EXPECT_TRUE(dice(testi(scenaDi(dati), Elemento::nota), "EJ 120000 kN m²/m"));
     dati.rigidezzaEJ = 0;
     dati.sezione = structure::diaframmaSimmetrico();
     const auto note = testi(scenaDi(dati), Elemento::nota);
     EXPECT_TRUE(std::any_of(note.begin(), note.end(), [](const std::string& t) {
-        return t.find("kN m² dalla sezione") != std::string::npos;
+        return t.find("kN m²/m dalla sezione") != std::string::npos;
     }));
 }
 
