@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/code_page.hpp"
 #include "scene/parts.hpp"
 #include "scene/polygon.hpp"
 #include "scene/verdict.hpp"
@@ -45,7 +46,7 @@ std::string descrizione(const live::PareteViva& parete, const live::Vista& vista
     const Mostrata m = mostrata(parete, vista);
     std::string testo = titolo(m);
     for (const Verdetto& v : verdetti(m, {}))
-        testo += (testo.ends_with('.') ? " " : ". ") + v.testo;
+        testo += (testo.ends_with('.') ? " " : ". ") + base::conMaiuscola(v.testo);
     return testo;
 }
 

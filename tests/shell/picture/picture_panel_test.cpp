@@ -197,7 +197,7 @@ TEST_F(PannelloFiguraTest, TellsScreenReadersWhatIsReadAndWhatThePictureSays) {
     EXPECT_EQ(accesso->role(), QAccessible::Graphic);
     EXPECT_TRUE(accesso->text(QAccessible::Value).startsWith("12.00 m"));
     EXPECT_EQ(accesso->text(QAccessible::Name), "Figura del progetto");
-    EXPECT_TRUE(accesso->text(QAccessible::Description).contains("la paratia è in equilibrio"));
+    EXPECT_TRUE(accesso->text(QAccessible::Description).contains("La paratia è in equilibrio"));
 }
 
 TEST_F(PannelloFiguraTest, FollowsTheProject) {
