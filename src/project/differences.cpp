@@ -53,16 +53,29 @@ std::string detto(const Campo& campo, int riga) {
 
 }  // namespace
 
+std::vector<CampoDiverso> campiDiversi(const DatiProgetto& prima, const DatiProgetto& dopo) {
+    std::vector<CampoDiverso> diversi;
+    for (const Campo& campo : campi()) {
+        const int unaHa = righe(prima, campo.parte), altraHa = righe(dopo, campo.parte);
+        const bool inColonna = colonna(campo);
+        for (int i = 1; i <= (inColonna ? std::max(unaHa, altraHa) : 1); ++i)
+            if (valore(prima, campo, i).scritto != valore(dopo, campo, i).scritto)
+                diversi.push_back(
+                    {&campo, i, !inColonna || i <= unaHa, !inColonna || i <= altraHa});
+    }
+    return diversi;
+}
+
+Differenza inParole(const CampoDiverso& campo, const DatiProgetto& prima,
+                    const DatiProgetto& dopo) {
+    return {detto(*campo.campo, campo.riga), valore(prima, *campo.campo, campo.riga).mostrato,
+            valore(dopo, *campo.campo, campo.riga).mostrato};
+}
+
 std::vector<Differenza> differenze(const DatiProgetto& prima, const DatiProgetto& dopo) {
     std::vector<Differenza> trovate;
-    for (const Campo& campo : campi()) {
-        const int n = std::max(righe(prima, campo.parte), righe(dopo, campo.parte));
-        for (int i = 1; i <= (colonna(campo) ? n : 1); ++i) {
-            const Valore uno = valore(prima, campo, i), altro = valore(dopo, campo, i);
-            if (uno.scritto != altro.scritto)
-                trovate.push_back({detto(campo, i), uno.mostrato, altro.mostrato});
-        }
-    }
+    for (const CampoDiverso& campo : campiDiversi(prima, dopo))
+        trovate.push_back(inParole(campo, prima, dopo));
     return trovate;
 }
 

@@ -3,9 +3,25 @@
 #include <string>
 #include <vector>
 
+#include "project/field_table.hpp"
 #include "project/project_data.hpp"
 
 namespace korven::project {
+
+/// A field, or a row of one, that differs between two states of a project.
+struct CampoDiverso {
+    const Campo* campo;
+    int riga;           ///< 1 for one that is no table
+    bool prima = true;  ///< the first has this row
+    bool dopo = true;   ///< so has the second
+
+    bool operator==(const CampoDiverso&) const = default;
+};
+
+/// All of them, in the order of the project file. Numbers are compared as the file holds them, with
+/// seven decimals, texts and headings letter by letter; rows above the counts do not count.
+[[nodiscard]] std::vector<CampoDiverso> campiDiversi(const DatiProgetto& prima,
+                                                     const DatiProgetto& dopo);
 
 /// A value in which two states of a project differ, in the words and units that people see.
 struct Differenza {
@@ -16,8 +32,11 @@ struct Differenza {
     bool operator==(const Differenza&) const = default;
 };
 
-/// All of them, in the order of the project file. Numbers are compared as the file holds them, with
-/// seven decimals, texts and headings letter by letter; rows above the counts do not count.
+/// One of them in words. @pre found between these two
+[[nodiscard]] Differenza inParole(const CampoDiverso& campo, const DatiProgetto& prima,
+                                  const DatiProgetto& dopo);
+
+/// All of `campiDiversi` in words.
 [[nodiscard]] std::vector<Differenza> differenze(const DatiProgetto& prima,
                                                  const DatiProgetto& dopo);
 
