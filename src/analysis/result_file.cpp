@@ -57,6 +57,8 @@ std::string rigaColonne() {
 
 }  // namespace
 
+bool cominciaFase(std::string_view riga) { return riga.starts_with(colonne[0].nome); }
+
 std::string testoFase(const RisultatiFase& risultati, int nNodi) {
     std::string testo = rigaColonne() + "\r\n";
     for (int i = 1; i <= nNodi; ++i) {
@@ -90,7 +92,7 @@ double LettoreRisultati::leggiTesta(project::DatiProgetto& dati) {
 }
 
 void LettoreRisultati::leggiFase(RisultatiFase& risultati) {
-    if (!file_.riga(traduttore("i nomi delle colonne di una fase")).starts_with(colonne[0].nome))
+    if (!cominciaFase(file_.riga(traduttore("i nomi delle colonne di una fase"))))
         file_.rifiuta(traduttore("attesi i nomi delle colonne di una fase"));
     const std::string atteso = traduttore("i tredici valori di un nodo");
     for (int i = 1; i <= nNodi_; ++i) {

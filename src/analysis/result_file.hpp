@@ -32,6 +32,9 @@ struct ChiusuraRisultati {
 /// most seven decimals.
 [[nodiscard]] std::string testoFase(const RisultatiFase& risultati, int nNodi);
 
+/// True for the line of column names with which the table of a stage begins.
+[[nodiscard]] bool cominciaFase(std::string_view riga);
+
 /// Text of the five closing lines.
 [[nodiscard]] std::string testoChiusura(const ChiusuraRisultati& chiusura);
 

@@ -102,8 +102,11 @@ double tiroFinale(double pretTirante, double rigTirante, double maxSpostTirante,
 }
 
 DatiRelazione leggiRisultati(const std::string& percorso, DatiProgetto& memoria) {
-    const int nNodi = segmenti(memoria) + 1;
-    return leggi({percorso, nNodi}, nNodi, memoria);
+    return leggiRisultati(percorso, segmenti(memoria), memoria);
+}
+
+DatiRelazione leggiRisultati(const std::string& percorso, int nSeg, DatiProgetto& memoria) {
+    return leggi({percorso, nSeg + 1}, nSeg + 1, memoria);
 }
 
 std::string testoRisultati(const DatiProgetto& testa, int nSeg, const analysis::EsitoCorsa& corsa,

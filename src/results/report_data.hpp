@@ -56,6 +56,10 @@ struct DatiRelazione {
 [[nodiscard]] DatiRelazione leggiRisultati(const std::string& percorso,
                                            project::DatiProgetto& memoria);
 
+/// The same of a file that a mesh of `nSeg` segments has written, whatever `nseg.txt` says.
+[[nodiscard]] DatiRelazione leggiRisultati(const std::string& percorso, int nSeg,
+                                           project::DatiProgetto& memoria);
+
 /// The text of the result file that a run leaves, UTF-8.
 /// @param testa  the project as it was before the run
 /// @pre all stages came to rest
