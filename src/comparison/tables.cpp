@@ -1,0 +1,146 @@
+#include "comparison/tables.hpp"
+
+#include <algorithm>
+#include <utility>
+
+#include "base/filled_text.hpp"
+#include "base/translated_texts.hpp"
+
+namespace korven::comparison {
+
+namespace {
+
+using base::riempito;
+using base::traduttore;
+using tables::Cella;
+using tables::Prospetto;
+namespace unita = project::unita;
+
+constexpr int decimaliQuota = 1;
+
+// A difference shows its sign both ways.
+Cella conSegno(const std::optional<double>& valore, int decimali, const project::Unita& u) {
+    if (!valore) return {};
+    Cella c = tables::cella(*valore, decimali, u);
+    if (*valore > 0 && c.testo.find_first_of("123456789") != std::string::npos)
+        c.testo.insert(0, "+");
+    return c;
+}
+
+// With the digits of the values.
+Cella differenza(const RisultatoConfrontato& r) {
+    const std::size_t punto = r.prima.testo.find('.');
+    const std::size_t cifre = punto == std::string::npos ? 0 : r.prima.testo.size() - punto - 1;
+    return conSegno(r.differenza(), static_cast<int>(cifre), unita::nessuna);
+}
+
+// Whose reason stands in a note, which tells of which wall it is.
+Cella senzaPerche(Cella cella) {
+    cella.perche.clear();
+    return cella;
+}
+
+std::vector<Cella> riga(const RisultatoConfrontato& r) {
+    const std::string parentesi = traParentesi(r.unita);
+    return {tables::parola(parentesi.empty() ? r.cosa : r.cosa + ' ' + parentesi),
+            senzaPerche(r.prima), senzaPerche(r.dopo), differenza(r),
+            conSegno(r.quota(), decimaliQuota, unita::percento)};
+}
+
+std::vector<tables::Colonna> colonneRisultati() {
+    return {tables::colonnaParole("Risultato", "Che cosa si confronta, con la sua unità"),
+            tables::colonna(unita::nessuna, "Prima", "Valore del primo"),
+            tables::colonna(unita::nessuna, "Dopo", "Valore del secondo"),
+            tables::colonna(unita::nessuna, "Differenza", "Il secondo meno il primo"),
+            tables::colonna(unita::percento, "Differenza", "La stessa, rispetto al primo")};
+}
+
+// Why one of the two has no number where the other has one, each reason once.
+void note(const RisultatoConfrontato& r, Prospetto& p) {
+    for (const Cella* c : {&r.prima, &r.dopo}) {
+        if (c->perche.empty()) continue;
+        std::string nota = traduttore(c == &r.prima ? "Prima" : "Dopo") + ": " + c->perche;
+        if (std::find(p.note.begin(), p.note.end(), nota) == p.note.end())
+            p.note.push_back(std::move(nota));
+    }
+}
+
+std::string fraseMuro(const char* quale, const Muro& muro) {
+    std::string frase = traduttore(quale) + ": " + muro.nome + ": " + verdetto(muro);
+    if (const int nSeg = muro.fascicolo.parete.nSeg; nSeg > 0)
+        frase += "; " + riempito(traduttore("segmenti: %1"), {std::to_string(nSeg)});
+    return frase;
+}
+
+Cella valore(const std::string& detto, bool ceLaRiga) {
+    if (!ceLaRiga) return tables::senza(traduttore("Non ha questa riga."));
+    return tables::parola(detto);
+}
+
+}  // namespace
+
+std::vector<std::string> frasiMuri(const Confronto& c) {
+    return {fraseMuro("Prima", c.prima), fraseMuro("Dopo", c.dopo)};
+}
+
+std::vector<std::string> frasi(const Confronto& c) {
+    std::vector<std::string> tutte = {traduttore(
+        c.prima.origine == Origine::equilibrio
+            ? "I risultati sono dell'equilibrio certo, non del calcolo per fasi della relazione."
+            : "I risultati sono quelli dei due file, cioè del calcolo per fasi della relazione.")};
+    if (c.uguali())
+        tutte.push_back(traduttore("Nessuna differenza."));
+    else if (!c.cambiaQualcosa() && !c.risultati.empty())
+        tutte.push_back(traduttore("Nessun risultato cambia."));
+    return tutte;
+}
+
+Prospetto prospettoCampi(const Confronto& c) {
+    Prospetto p{
+        .titolo = traduttore("Campi diversi"),
+        .colonne = {tables::colonnaParole("Campo", "Il campo del progetto, con la sua unità"),
+                    tables::colonnaParole("Prima", "Valore del primo"),
+                    tables::colonnaParole("Dopo", "Valore del secondo")}};
+    for (const project::CampoDiverso& campo : c.campi) {
+        const project::Differenza d =
+            inParole(campo, c.prima.fascicolo.scritti, c.dopo.fascicolo.scritti);
+        p.righe.push_back(
+            {tables::parola(d.cosa), valore(d.prima, campo.prima), valore(d.dopo, campo.dopo)});
+    }
+    if (p.righe.empty()) p.note.push_back(traduttore("Nessun campo è diverso."));
+    return p;
+}
+
+Prospetto prospettoRisultati(const Confronto& c) {
+    Prospetto p{.titolo = traduttore("Risultati"), .colonne = colonneRisultati()};
+    for (const RisultatoConfrontato& r : c.risultati) {
+        if (r.fase > 0) continue;
+        p.righe.push_back(riga(r));
+        note(r, p);
+    }
+    return p;
+}
+
+Prospetto prospettoFasi(const Confronto& c) {
+    Prospetto p{.titolo = traduttore("Risultati delle fasi"), .colonne = colonneRisultati()};
+    p.colonne.insert(p.colonne.begin(),
+                     tables::colonna(unita::nessuna, "Fase", "Numero della fase"));
+    for (const RisultatoConfrontato& r : c.risultati) {
+        if (r.fase == 0) continue;
+        auto& celle = p.righe.emplace_back(riga(r));
+        celle.insert(celle.begin(), tables::cella(r.fase));
+        note(r, p);
+    }
+    return p;
+}
+
+std::vector<std::string> righeOsservazioni(const Confronto& c) {
+    std::vector<std::string> righe;
+    for (const auto* lista : {&c.sparite, &c.nuove})
+        for (const auto& o : *lista)
+            righe.push_back(traduttore(lista == &c.sparite ? "solo prima" : "solo dopo") + ": " +
+                            traduttore(parolaMostrata(o.peso)) + ": " + o.testo);
+    return righe;
+}
+
+}  // namespace korven::comparison

@@ -1,0 +1,44 @@
+#include "comparison/document.hpp"
+
+#include <gtest/gtest.h>
+
+#include "comparison/walls.hpp"
+
+namespace korven::comparison {
+namespace {
+
+template <class Blocco>
+std::vector<Blocco> tutti(const document::Documento& d) {
+    std::vector<Blocco> trovati;
+    for (const auto& blocco : d.blocchi)
+        if (const auto* uno = std::get_if<Blocco>(&blocco)) trovati.push_back(*uno);
+    return trovati;
+}
+
+document::Documento documentoDi(const project::DatiProgetto& prima,
+                                const project::DatiProgetto& dopo) {
+    return documento(std::make_shared<const Confronto>(test::confronto(prima, dopo)), "2026-01-31");
+}
+
+TEST(DocumentoConfronto, HasTheTablesAndThePageOfBothWalls) {
+    const auto d = documentoDi(test::trave(3), test::trave(6));
+    EXPECT_EQ(tutti<document::Tavola>(d).size(), 3U);  // fields, walls, stages
+    ASSERT_EQ(tutti<document::Figura>(d).size(), 1U);
+    EXPECT_EQ(tutti<document::Figura>(d)[0].descrizione.find("%"), std::string::npos);
+    EXPECT_EQ(d.data, "2026-01-31");
+    EXPECT_EQ(d.testata[1], "prima.kvd / dopo.kvd");
+    const std::string impronta = dossier::impronta(test::trave(6));
+    EXPECT_TRUE(tutti<document::Paragrafo>(d)[1].testo.ends_with(
+        " (SHA-256 " + std::string(dossier::inBreve(impronta)) + ")"));
+}
+
+TEST(DocumentoConfronto, SaysInWordsThatNoFieldDiffers) {
+    const auto d = documentoDi(test::trave(3), test::trave(3));
+    EXPECT_EQ(tutti<document::Tavola>(d).size(), 2U);
+    const auto paragrafi = tutti<document::Paragrafo>(d);
+    EXPECT_TRUE(std::any_of(paragrafi.begin(), paragrafi.end(),
+                            [](const auto& p) { return p.testo == "Nessun campo è diverso."; }));
+}
+
+}  // namespace
+}  // namespace korven::comparison
