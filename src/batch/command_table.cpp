@@ -6,7 +6,8 @@ const std::vector<RigaComando>& comandi() {
     static const std::vector<RigaComando> tutti = {
         comandoCalcola(),      comandoRelazione(), comandoAllegato(),  comandoVerifica(),
         comandoEquilibrio(),   comandoSicurezza(), comandoDiagramma(), comandoSezione(),
-        comandoStratigrafia(), comandoCampiture(), comandoTutto(),     comandoAutoverifica(),
+        comandoStratigrafia(), comandoCampiture(), comandoTutto(),     comandoConfronta(),
+        comandoAutoverifica(),
     };
     return tutti;
 }

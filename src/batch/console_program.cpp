@@ -13,6 +13,7 @@
 #include "batch/options/common_options.hpp"
 #include "batch/options/language_in_use.hpp"
 #include "batch/run/command_ports.hpp"
+#include "batch/run/comparison_outcome.hpp"
 #include "batch/run/equilibrium_outcome.hpp"
 #include "batch/run/failure.hpp"
 #include "batch/run/margin_outcome.hpp"
@@ -28,10 +29,13 @@ std::string resoconto(const Opzioni& opzioni, const Esito& esito) {
     if (opzioni.json) return json(esito);
     if (opzioni.silenzioso) return {};
     if (esito.soloRilievi) return esito.guasto ? "" : elenco(esito);
-    if (!esito.compiuto() && !esito.equilibrio && !esito.margine && !esito.autoverifica) return {};
+    if (!esito.compiuto() && !esito.equilibrio && !esito.margine && !esito.autoverifica &&
+        !esito.confronto)
+        return {};
     std::string testo = esito.calcolo ? tabella(esito, opzioni.traccia) : "";
     if (esito.equilibrio) testo += testoEquilibrio(*esito.equilibrio);
     if (esito.margine) testo += testoMargine(*esito.margine);
+    if (esito.confronto) testo += testoConfronto(*esito.confronto);
     if (esito.autoverifica) testo += testoAutoverifica(esito.autoverifica->esito);
     for (const auto& file : esito.fileScritti)
         testo += base::traduttore("File scritto") + ": " + file + '\n';

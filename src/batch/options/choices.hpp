@@ -31,6 +31,8 @@ struct Opzioni {
     FormatiDisegno disegno;            ///< files of a drawing
     FormatiAllegato allegato;          ///< of `allegato`
     std::string csv;                   ///< file of a table; empty: none
+    std::string secondo;               ///< `confronta`: the file that the first is compared with
+    std::string pdfConfronto;          ///< `confronta`: the PDF file; empty: none
     std::string pdfVerifica;           ///< `autoverifica`: the PDF file; empty: none
     std::string casi;                  ///< `autoverifica`: folder of cases; empty: the program's
     std::vector<std::string> formati;  ///< `tutto`: of each drawing; empty: PDF and DXF

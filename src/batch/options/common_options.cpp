@@ -27,16 +27,6 @@ constexpr Metodo metodi[] = {{uguali("bell"), project::MetodoSpinte::bell},
                              {uguali("coulomb"), project::MetodoSpinte::coulomb},
                              {uguali("rankine"), project::MetodoSpinte::rankine}};
 
-RigaOpzione opzioneMetodo() {
-    RigaOpzione riga = {nomeOpzioneMetodo,
-                        "metodo delle spinte (un progetto si riapre sempre con Coulomb)",
-                        [](Opzioni& o, std::size_t quale) {
-                            o.metodoSpinte = project::valore(metodi[quale].codice);
-                        }};
-    for (const auto& metodo : metodi) riga.valori.push_back(metodo.nome);
-    return riga;
-}
-
 constexpr base::Gemelli cartella = uguali("DIR"), file = uguali("FILE"), numero = uguali("N");
 
 bool esisteCartella(const std::string& percorso) {
@@ -105,11 +95,22 @@ std::vector<RigaOpzione> opzioniProgetto() {
 }
 
 std::vector<RigaOpzione> opzioniModello(bool cartellaObbligatoria) {
-    return insieme(
-        {opzioniProgetto(),
-         {opzioneUscita(cartellaObbligatoria),
-          opzioneMetodo(),
-          {nomeOpzioneNseg, "numero di segmenti, al posto di nseg.txt", leggiNseg, numero}}});
+    return insieme({opzioniProgetto(),
+                    {opzioneUscita(cartellaObbligatoria), opzioneMetodo(), opzioneSegmenti()}});
+}
+
+RigaOpzione opzioneMetodo() {
+    RigaOpzione riga = {nomeOpzioneMetodo,
+                        "metodo delle spinte (un progetto si riapre sempre con Coulomb)",
+                        [](Opzioni& o, std::size_t quale) {
+                            o.metodoSpinte = project::valore(metodi[quale].codice);
+                        }};
+    for (const auto& metodo : metodi) riga.valori.push_back(metodo.nome);
+    return riga;
+}
+
+RigaOpzione opzioneSegmenti() {
+    return {nomeOpzioneNseg, "numero di segmenti, al posto di nseg.txt", leggiNseg, numero};
 }
 
 std::vector<RigaOpzione> opzioniCalcolo(bool cartellaObbligatoria) {

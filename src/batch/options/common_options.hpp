@@ -38,6 +38,10 @@ inline constexpr base::Gemelli nomeOpzioneSevero{"--severo", "--strict"};
 /// Commands that run the analysis.
 [[nodiscard]] std::vector<RigaOpzione> opzioniCalcolo(bool cartellaObbligatoria = false);
 
+/// The method of the pressures, and the number of segments, in the place of the project's.
+[[nodiscard]] RigaOpzione opzioneMetodo();
+[[nodiscard]] RigaOpzione opzioneSegmenti();
+
 /// Commands that look for remarks.
 [[nodiscard]] RigaOpzione opzioneSevero();
 

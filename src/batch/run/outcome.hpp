@@ -13,6 +13,10 @@
 #include "safety/run_cause.hpp"
 #include "safety/told_stages.hpp"
 
+namespace korven::comparison {
+struct Confronto;
+}
+
 namespace korven::batch {
 
 struct Autoverifica;
@@ -40,6 +44,7 @@ struct Esito {
     std::optional<safety::EquilibrioRaccontato> equilibrio;
     std::optional<safety::Margine> margine;
     std::shared_ptr<const Autoverifica> autoverifica;
+    std::shared_ptr<const comparison::Confronto> confronto;
     bool giaAggiornato = false;  ///< the result file was up to date already
     std::vector<analysis::ControlloCorsa::Fase> fasi;
     std::vector<std::string> fileScritti;

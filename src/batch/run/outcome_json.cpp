@@ -2,6 +2,7 @@
 
 #include "base/translated_texts.hpp"
 #include "base/version.hpp"
+#include "batch/run/comparison_outcome.hpp"
 #include "batch/run/equilibrium_outcome.hpp"
 #include "batch/run/json_numbers.hpp"
 #include "batch/run/margin_outcome.hpp"
@@ -124,6 +125,7 @@ Json testoONullo(const std::string& testo) { return testo.empty() ? Json(nullptr
 
 // What a command that writes no result file has computed.
 Json inMemoria(const Esito& esito) {
+    if (esito.confronto) return jsonConfronto(*esito.confronto);
     if (esito.autoverifica) return jsonAutoverifica(esito.autoverifica->esito);
     if (esito.equilibrio) return jsonEquilibrio(*esito.equilibrio);
     return esito.margine ? jsonMargine(*esito.margine) : Json(nullptr);

@@ -9,7 +9,14 @@
 namespace korven::batch {
 
 TabellaTesto::TabellaTesto(std::vector<std::string> titoli, bool ultimaAParole)
-    : righe_{std::move(titoli)}, ultimaAParole_(ultimaAParole) {}
+    : righe_{std::move(titoli)}, aParole_(righe_.front().size()) {
+    if (!aParole_.empty()) aParole_.back() = ultimaAParole;
+}
+
+TabellaTesto::TabellaTesto(std::vector<std::string> titoli, std::vector<bool> aParole)
+    : righe_{std::move(titoli)}, aParole_(std::move(aParole)) {
+    assert(aParole_.size() == righe_.front().size());
+}
 
 void TabellaTesto::riga(std::vector<std::string> celle) {
     assert(celle.size() == righe_.front().size());
@@ -28,10 +35,11 @@ std::string TabellaTesto::testo() const {
     const std::size_t colonne = righe_.front().size();
     for (const auto& riga : righe_) {
         for (std::size_t j = 0; j < colonne; ++j) {
+            const std::string aria(larghezza(j) - base::numeroCaratteri(riga[j]), ' ');
             if (j > 0) testo += "  ";
-            if (!(ultimaAParole_ && j + 1 == colonne))
-                testo.append(larghezza(j) - base::numeroCaratteri(riga[j]), ' ');
+            if (!aParole_[j]) testo += aria;
             testo += riga[j];
+            if (aParole_[j] && j + 1 < colonne) testo += aria;
         }
         testo += '\n';
     }

@@ -14,6 +14,9 @@ class TabellaTesto {
     /// @param ultimaAParole   the last column is of words, left-aligned
     explicit TabellaTesto(std::vector<std::string> titoli, bool ultimaAParole = false);
 
+    /// @param aParole  which columns are of words, left-aligned: as many as there are columns
+    TabellaTesto(std::vector<std::string> titoli, std::vector<bool> aParole);
+
     /// @param celle  as many as there are columns: asserted
     void riga(std::vector<std::string> celle);
 
@@ -24,7 +27,7 @@ class TabellaTesto {
     [[nodiscard]] std::size_t larghezza(std::size_t colonna) const;
 
     std::vector<std::vector<std::string>> righe_;
-    bool ultimaAParole_;
+    std::vector<bool> aParole_;
 };
 
 }  // namespace korven::batch

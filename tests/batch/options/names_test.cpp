@@ -160,7 +160,7 @@ TEST(Nomi, InMessagesAreThoseOfTheLanguageInUseWhicheverWereTyped) {
     EXPECT_TRUE(test::dice(
         leggi({"disegna"}).errori,
         ": calculate, report, annex, check, equilibrium, safety, diagram, section, log, hatches, "
-        "all, selfcheck\n"));
+        "all, compare, selfcheck\n"));
 }
 
 TEST(Nomi, GivenTwiceAreOneOptionGivenTwice) {

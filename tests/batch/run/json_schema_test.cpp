@@ -89,6 +89,19 @@ TEST_F(SchemaRisposte, HoldForTheVerification) {
     for (const auto& errore : schema().errori(risposta)) ADD_FAILURE() << errore;
 }
 
+TEST_F(SchemaRisposte, HoldForComparisons) {
+    const auto inRegola = [](const std::string& prima, const std::string& dopo) {
+        const Json risposta =
+            Json::parse(console({"confronta", prima, dopo, "--nseg", "12", "--json"}).uscita);
+        for (const auto& errore : schema().errori(risposta))
+            ADD_FAILURE() << prima << ' ' << dopo << ": " << errore;
+    };
+    const auto muri = test::muriIn(KORVEN_EXAMPLES);
+    for (std::size_t i = 1; i < muri.size(); ++i) inRegola(muri[i - 1], muri[i]);
+    inRegola(muri[0], std::string(KORVEN_WALLS) + "/meccanismo.kvd");
+    inRegola(muri[0], progetto + "x");
+}
+
 // The rounding of a force in kN, and of a displacement in the result file.
 TEST_F(SchemaRisposte, HaveTheNodesOfTheRunAndOfTheEquilibriumBesideOneAnother) {
     for (const std::string& file : test::muriIn(KORVEN_EXAMPLES)) {
