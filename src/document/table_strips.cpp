@@ -17,8 +17,8 @@ using tables::Cella;
 using tables::Prospetto;
 using Colonne = std::vector<ColonnaDisposta>;
 
-constexpr double passoRiga = 1.24;   // of a row's line, in sizes of the font
-constexpr double margineRiga = 1.6;  // above and below the lines of a row [pt]
+constexpr double passoRiga = 1.18;   // of a row's line, in sizes of the font
+constexpr double margineRiga = 1.1;  // above and below the lines of a row [pt]
 constexpr double filettoForte = 0.8, filettoFine = 0.4;
 constexpr Carattere carattereTitolo{9, true};
 
