@@ -27,6 +27,13 @@ void parte(const std::string& spiegazione, tables::Prospetto prospetto, Blocchi&
     for (const std::string& nota : prospetto.note) paragrafo(nota, blocchi);
 }
 
+// Where an anchor is stands in its own chapter: a dash is enough.
+tables::Prospetto statica(const Margine& margine) {
+    tables::Prospetto p = tables::prospettoStatica(margine);
+    for (auto& riga : p.righe) riga[3].perche.clear();
+    return p;
+}
+
 void verdetto(const Margine& margine, Blocchi& blocchi) {
     const auto* decisiva = margine.decisiva();
     const bool grave = !margine.sta() || (decisiva != nullptr && decisiva->riduzione.F &&
@@ -63,7 +70,7 @@ void capitoloMargine(const Contesto& contesto, Blocchi& blocchi) {
     parte(traduttore("I massimi dell'equilibrio dei nodi accanto a quelli della relazione. "
                      "Differiscono dove le regole della relazione lasciano la statica: forza in "
                      "testa, tiranti lenti, piede incastrato, puntoni molto rigidi."),
-          tables::prospettoStatica(margine), blocchi);
+          statica(margine), blocchi);
 }
 
 }  // namespace korven::report
