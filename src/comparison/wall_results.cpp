@@ -30,7 +30,9 @@ Cella senzaFase(const Fascicolo& f, int fase) {
         tables::perche(f.parete, fase > 0 ? fase : f.parete.fasiInEquilibrio() + 1));
 }
 
+// The report's run comes to its end without a verdict on equilibrium.
 Cella fasiInEquilibrio(const Fascicolo& f, int, int) {
+    if (f.controlli.dellaRelazione) return {};
     return tables::cella(f.parete.fasiInEquilibrio());
 }
 
