@@ -85,11 +85,12 @@ TEST_F(LinguaInUso, NamesTheFilesThatTheCommandNamesAndLeavesTheOthers) {
     const auto esito = esegui("all", {"--output", cartella / "o", "--formats", "dxf", "--json"},
                               {.variabili = {{"LANG", "en_US.UTF-8"}}});
     EXPECT_EQ(esito.codice, 0) << esito.errori;
-    for (const char* nome : {"muro.OUT", "muro.TAB", "muro.txt", "muro.doc", "muro-report.pdf",
-                             "muro-pressures.dxf", "muro-displacements.dxf", "muro-moments.dxf",
-                             "muro-shear.dxf", "muro-section.dxf", "muro-log.dxf"})
+    for (const char* nome :
+         {"muro.OUT", "muro.TAB", "muro.txt", "muro.doc", "muro-report.pdf", "muro-pressures.dxf",
+          "muro-displacements.dxf", "muro-moments.dxf", "muro-shear.dxf", "muro-section.dxf",
+          "muro-log.dxf", "muro-annex.pdf", "muro-annex.doc", "muro-annex.txt"})
         EXPECT_TRUE(fs::exists(cartella / ("o/" + std::string(nome)))) << nome;
-    EXPECT_EQ(std::distance(fs::directory_iterator(cartella / "o"), {}), 11);
+    EXPECT_EQ(std::distance(fs::directory_iterator(cartella / "o"), {}), 14);
     EXPECT_TRUE(dice(esito.errori, "drawing 6/6: log\n")) << esito.errori;
     // What a script reads is the same in every language.
     EXPECT_TRUE(dice(esito.uscita, "\"comando\": \"tutto\"")) << esito.uscita;
