@@ -12,7 +12,7 @@ namespace korven::batch {
 
 namespace {
 
-// A text that is longer would push the other columns apart: its row stands below the table.
+// A field's text that is longer would push the other column away: its row stands below the table.
 constexpr std::size_t massimaParola = 36;
 
 bool lunga(const std::vector<std::string>& celle) {
@@ -40,10 +40,11 @@ std::string testo(const tables::Prospetto& prospetto) {
         }
         TabellaTesto tabella(titoli, std::move(aParole));
         std::string lunghe;
+        const bool soloParole = !prospetto.colonne.back().numerica;
         for (const auto& riga : prospetto.righe) {
             std::vector<std::string> celle;
             for (const auto& cella : riga) celle.push_back(cella.testo);
-            if (lunga(celle))
+            if (soloParole && lunga(celle))
                 lunghe += righeLunghe(celle, titoli);
             else
                 tabella.riga(std::move(celle));
