@@ -47,7 +47,7 @@ TEST_F(Confronta, TellsTheFieldAndTheResultsAsTextAndAsJson) {
     const auto esito = confronta();
     EXPECT_EQ(esito.codice, 0) << esito.errori;
     EXPECT_TRUE(dice(esito.uscita, "sovraccarico")) << esito.uscita;
-    EXPECT_TRUE(dice(esito.uscita, "Momento massimo [kN m/m]")) << esito.uscita;
+    EXPECT_TRUE(dice(esito.uscita, "Momento positivo massimo [kN m/m]")) << esito.uscita;
     const auto risposta = confronta({"--json"});
     const Json j = Json::parse(risposta.uscita);
     EXPECT_EQ(j["comando"], "confronta");

@@ -33,7 +33,8 @@ TEST(ProspettiConfronto, HaveTheFieldWithBothValuesAndTheResultsWithTheirDiffere
     EXPECT_EQ(testi(campi.righe[0])[1], "30");
     EXPECT_EQ(testi(campi.righe[0])[2], "60");
     EXPECT_TRUE(testi(campi.righe[0])[0].ends_with("[kN/m²]")) << testi(campi.righe[0])[0];
-    const Frasi momento = {"Momento massimo [kN m/m]", "375.00", "750.00", "+375.00", "+100.0"};
+    const Frasi momento = {"Momento positivo massimo [kN m/m]", "375.00", "750.00", "+375.00",
+                           "+100.0"};
     const auto tutti = prospettoRisultati(c);
     EXPECT_TRUE(std::any_of(tutti.righe.begin(), tutti.righe.end(),
                             [&](const auto& riga) { return testi(riga) == momento; }));
