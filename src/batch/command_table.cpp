@@ -4,10 +4,10 @@ namespace korven::batch {
 
 const std::vector<RigaComando>& comandi() {
     static const std::vector<RigaComando> tutti = {
-        comandoCalcola(),      comandoRelazione(), comandoAllegato(),  comandoVerifica(),
-        comandoEquilibrio(),   comandoSicurezza(), comandoDiagramma(), comandoSezione(),
-        comandoStratigrafia(), comandoCampiture(), comandoTutto(),     comandoConfronta(),
-        comandoAutoverifica(),
+        comandoCalcola(),    comandoRelazione(),    comandoAllegato(),  comandoVerifica(),
+        comandoEquilibrio(), comandoSicurezza(),    comandoTabelle(),   comandoDiagramma(),
+        comandoSezione(),    comandoStratigrafia(), comandoCampiture(), comandoTutto(),
+        comandoConfronta(),  comandoAutoverifica(),
     };
     return tutti;
 }

@@ -15,6 +15,7 @@ namespace korven::batch {
 [[nodiscard]] RigaComando comandoSicurezza();
 [[nodiscard]] RigaComando comandoConfronta();
 [[nodiscard]] RigaComando comandoAutoverifica();
+[[nodiscard]] RigaComando comandoTabelle();
 [[nodiscard]] RigaComando comandoDiagramma();
 [[nodiscard]] RigaComando comandoSezione();
 [[nodiscard]] RigaComando comandoStratigrafia();

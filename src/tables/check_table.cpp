@@ -1,10 +1,10 @@
 #include "tables/check_table.hpp"
 
+#include <cassert>
 #include <cmath>
 #include <optional>
 
 #include "base/translated_texts.hpp"
-#include "live/section_checks.hpp"
 #include "project/shown_number.hpp"
 #include "results/structure_checks.hpp"
 #include "safety/margin_words.hpp"
@@ -72,14 +72,30 @@ std::vector<Colonna> colonne() {
             colonnaParole("Esito", "Esito, con le parole della relazione")};
 }
 
-void note(const PareteViva& parete, const Margine& margine, Prospetto& p) {
+// @return false where there is nothing to check
+bool noteSezione(const PareteViva& parete, Prospetto& p) {
+    if (!parete.sta()) {
+        p.note.push_back(perche(parete, parete.fasiInEquilibrio() + 1));
+        p.note.push_back(traduttore("Nessuna verifica: la paratia non è in equilibrio."));
+        return false;
+    }
     if (!structure::sezioneDefinita(parete.dati.sezione)) {
         p.note.push_back(traduttore("Nessuna verifica: la sezione non è definita."));
-        return;
+        return false;
     }
     if (!structure::staffePresenti(parete.dati.sezione))
         p.note.push_back(
             traduttore("Il taglio si verifica solo per pali armati con le staffe scritte."));
+    return true;
+}
+
+void notaEquilibrio(Prospetto& p) {
+    p.note.push_back(traduttore(
+        "Verifiche con i numeri dell'equilibrio certo: momenti e taglio massimi di tutte le "
+        "fasi."));
+}
+
+void noteRelazione(const Margine& margine, Prospetto& p) {
     if (margine.relazione) {
         p.note.push_back(traduttore(
             "Numeri e regole della relazione: flessione con i momenti di tutte le fasi, taglio con "
@@ -87,9 +103,15 @@ void note(const PareteViva& parete, const Margine& margine, Prospetto& p) {
         return;
     }
     p.note.push_back(safety::paroleRelazione(margine));
-    p.note.push_back(traduttore(
-        "Verifiche con i numeri dell'equilibrio certo: momenti e taglio massimi di tutte le "
-        "fasi."));
+    notaEquilibrio(p);
+}
+
+Prospetto senzaNote(const PareteViva& parete, const ControlliSezione& controlli) {
+    Prospetto p{.titolo = traduttore("Verifiche"), .colonne = colonne()};
+    if (!parete.sta()) return p;  // resistances alone are no check
+    if (controlli.flessione) flessione(*controlli.flessione, controlli, p);
+    if (controlli.taglio) taglio(*controlli.taglio, controlli, p);
+    return p;
 }
 
 }  // namespace
@@ -105,16 +127,17 @@ Cella uso(double progetto, double resistenza) {
 }
 
 Prospetto prospettoVerifiche(const PareteViva& parete, const Margine& margine) {
-    Prospetto p{.titolo = traduttore("Verifiche"), .colonne = colonne()};
-    if (!parete.sta()) {
-        p.note.push_back(perche(parete, parete.fasiInEquilibrio() + 1));
-        p.note.push_back(traduttore("Nessuna verifica: la paratia non è in equilibrio."));
-        return p;
-    }
-    const ControlliSezione controlli = live::controlliSezione(parete, &margine);
-    if (controlli.flessione) flessione(*controlli.flessione, controlli, p);
-    if (controlli.taglio) taglio(*controlli.taglio, controlli, p);
-    note(parete, margine, p);
+    const ControlliSezione controlli =
+        parete.sta() ? live::controlliSezione(parete, &margine) : ControlliSezione();
+    Prospetto p = senzaNote(parete, controlli);
+    if (noteSezione(parete, p)) noteRelazione(margine, p);
+    return p;
+}
+
+Prospetto prospettoVerifiche(const PareteViva& parete, const ControlliSezione& controlli) {
+    assert(!controlli.dellaRelazione);
+    Prospetto p = senzaNote(parete, controlli);
+    if (noteSezione(parete, p)) notaEquilibrio(p);
     return p;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "live/section_checks.hpp"
 #include "live/wall.hpp"
 #include "safety/margin.hpp"
 #include "tables/result_table.hpp"
@@ -15,6 +16,10 @@ namespace korven::tables {
 /// @param margine  of the same wall
 [[nodiscard]] Prospetto prospettoVerifiche(const live::PareteViva& parete,
                                            const safety::Margine& margine);
+/// The same rules applied to the certain equilibrium, whatever report there is.
+/// @param controlli  of the same wall, without a report: asserted
+[[nodiscard]] Prospetto prospettoVerifiche(const live::PareteViva& parete,
+                                           const live::ControlliSezione& controlli);
 
 /// A number with the digits of the report, which cuts where the other tables round.
 [[nodiscard]] Cella cifre(double mostrato);

@@ -7,11 +7,13 @@
 
 #include "base/code_page.hpp"
 #include "base/file_error.hpp"
-#include "outdoc/unpacked.hpp"
+#include "support/unpacked.hpp"
 #include "support/temporary_folder.hpp"
 
 namespace korven::outdoc {
 namespace {
+
+using test::unpacked;
 
 using Lines = std::vector<std::string>;
 

@@ -6,10 +6,16 @@
 #include <vector>
 
 #include "base/table.hpp"
-#include "outdoc/unpacked.hpp"
+#include "support/unpacked.hpp"
 
 namespace korven::outdoc {
 namespace {
+
+using test::contentOf;
+using test::endLength;
+using test::entryLength;
+using test::headLength;
+using test::number;
 
 struct Entry {
     std::string name, content;

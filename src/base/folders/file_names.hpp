@@ -47,6 +47,7 @@ inline constexpr Gemelli parolaRelazione{"relazione", "report"};
 inline constexpr Gemelli parolaAllegato{"allegato", "annex"};
 inline constexpr Gemelli parolaSezione{"sezione", "section"};
 inline constexpr Gemelli parolaStratigrafia{"stratigrafia", "log"};
+inline constexpr Gemelli parolaTabelle{"tabelle", "tables"};
 
 /// Path of the PDF file that the desktop proposes for a project's report, in every language:
 /// "DIR/muro-relazione.pdf".

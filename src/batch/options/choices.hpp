@@ -30,6 +30,7 @@ struct Opzioni {
     FormatiRelazione relazione;        ///< of `relazione`, besides the mark-up
     FormatiDisegno disegno;            ///< files of a drawing
     FormatiAllegato allegato;          ///< of `allegato`
+    FormatiTabelle tabelle;            ///< of `tabelle`
     std::string csv;                   ///< file of a table; empty: none
     std::string secondo;               ///< `confronta`: the file that the first is compared with
     std::string pdfConfronto;          ///< `confronta`: the PDF file; empty: none

@@ -43,4 +43,11 @@ struct FormatiAllegato {
     [[nodiscard]] std::vector<std::string> file() const;
 };
 
+/// What the tables of a computed project go to; empty names are not written.
+struct FormatiTabelle {
+    std::string xlsx;  ///< file of the workbook
+    std::string csv;   ///< folder of a file for each sheet
+    std::string data;  ///< "2026-11-22"; empty: that of the run
+};
+
 }  // namespace korven::batch

@@ -69,6 +69,7 @@ TEST_F(SchemaRisposte, HoldForEveryExampleAndForWallsOfWhichARunTellsLess) {
         inOrdine({"calcola", "--nseg", "12", "--max-iterazioni", "60", "--traccia"});
         inOrdine({"equilibrio", "--nseg", "12"});
         inOrdine({"sicurezza", "--nseg", "12"});
+        inOrdine({"tabelle", "--nseg", "12", "--xlsx", cartella / "t.xlsx"});
     }
     inOrdine({"verifica"});
 }
@@ -77,10 +78,10 @@ TEST_F(SchemaRisposte, HoldForWhatIsRefusedOrCannotBeRead) {
     auto dati = test::progettoSemplice();
     dati.nFasi = 0;
     scrivi(dati);
-    for (const char* comando : {"calcola", "equilibrio", "sicurezza", "verifica", "relazione"})
+    for (const char* comando : {"calcola", "equilibrio", "sicurezza", "tabelle", "verifica", "relazione"})
         inOrdine({comando});
     fs::remove(progetto);
-    for (const char* comando : {"calcola", "equilibrio", "sicurezza", "verifica", "relazione"})
+    for (const char* comando : {"calcola", "equilibrio", "sicurezza", "tabelle", "verifica", "relazione"})
         inOrdine({comando});
 }
 

@@ -8,7 +8,7 @@
 // Archives as the description of their format has them: the end record is 22 bytes long, an entry
 // of the directory 46 and the head of a file 30, each followed by the name.
 
-namespace korven::outdoc {
+namespace korven::test {
 
 inline constexpr std::size_t endLength = 22, entryLength = 46, headLength = 30;
 
@@ -57,4 +57,4 @@ inline std::string unpacked(const std::string& archive, const std::string& name)
     return {};
 }
 
-}  // namespace korven::outdoc
+}  // namespace korven::test

@@ -1,0 +1,91 @@
+#include <string>
+#include <vector>
+
+#include "base/files.hpp"
+#include "base/folders/file_names.hpp"
+#include "batch/command_table.hpp"
+#include "batch/options/common_options.hpp"
+#include "batch/run/command_ports.hpp"
+#include "batch/run/computed_dossier.hpp"
+#include "batch/run/output_names.hpp"
+#include "batch/run/sheet_files.hpp"
+#include "workbook/sheets.hpp"
+#include "workbook/xlsx_file.hpp"
+
+namespace korven::batch {
+
+namespace {
+
+using base::uguali;
+
+// Without a name the workbook goes beside the project.
+std::string fileXlsx(const FormatiTabelle& chiesti) {
+    return chiesti.xlsx.empty() && chiesti.csv.empty() ? nomeProprio(base::parolaTabelle, "xlsx")
+                                                       : chiesti.xlsx;
+}
+
+std::vector<std::string> fileCsv(const FormatiTabelle& chiesti) {
+    return chiesti.csv.empty() ? std::vector<std::string>() : fileFogli(chiesti.csv);
+}
+
+void controlla(const FormatiTabelle& chiesti) {
+    std::vector<std::string> uscite = fileCsv(chiesti);
+    if (const std::string xlsx = fileXlsx(chiesti); !xlsx.empty()) uscite.push_back(xlsx);
+    for (const std::string& uscita : uscite) controllaTabella(uscita);
+    controllaNomi(uscite, {});
+}
+
+void scrivi(const FormatiTabelle& chiesti, const workbook::CartellaFogli& cartella,
+            const base::Disco& disco, Esito& esito) {
+    const auto scrivi = [&](const std::string& file, const std::string& byte) {
+        base::scriviFile(file, byte, disco);
+        esito.fileScritti.push_back(file);
+    };
+    if (const std::string file = fileXlsx(chiesti); !file.empty())
+        scrivi(file, workbook::xlsx(cartella));
+    const std::vector<std::string> tabelle = fileCsv(chiesti);
+    if (!tabelle.empty()) base::creaCartella(chiesti.csv);
+    for (std::size_t i = 0; i < tabelle.size(); ++i)
+        scrivi(tabelle[i], csvFoglio(cartella.fogli[i].prospetto));
+}
+
+int esegui(const Opzioni& opzioni, const PorteComando& porte, Esito& esito) {
+    return conFascicolo(
+        opzioni, opzioni.tabelle.data, esito, [&] { controlla(opzioni.tabelle); },
+        [&](const dossier::Fascicolo& fascicolo) {
+            scrivi(opzioni.tabelle, workbook::fogli(fascicolo), porte.disco, esito);
+        });
+}
+
+template <std::string FormatiTabelle::*uscita>
+bool leggiUscita(Opzioni& o, const std::string& valore) {
+    o.tabelle.*uscita = valore;
+    return percorsoAmmesso(valore);
+}
+
+std::vector<RigaOpzione> opzioniTabelle() {
+    return {{uguali("--xlsx"), "scrive le tabelle in una cartella di lavoro XLSX",
+             leggiUscita<&FormatiTabelle::xlsx>, uguali("FILE")},
+            {uguali("--csv"), "scrive ogni tabella come file CSV in questa cartella",
+             leggiUscita<&FormatiTabelle::csv>, uguali("DIR")},
+            {nomeOpzioneData,
+             "data del documento (altrimenti SOURCE_DATE_EPOCH, poi oggi)",
+             [](Opzioni& o, const std::string& valore) {
+                 o.tabelle.data = valore;
+                 return dossier::dataValida(valore);
+             },
+             {"AAAA-MM-GG", "YYYY-MM-DD"}}};
+}
+
+}  // namespace
+
+RigaComando comandoTabelle() {
+    RigaComando riga = {
+        base::parolaTabelle,
+        "scrive i dati e i risultati come tabelle, per fogli di calcolo e altri programmi",
+        insieme({opzioniModello(), {opzioneSevero(), opzioneEJ()}, opzioniTabelle()}), esegui};
+    riga.calcola = true;
+    return riga;
+}
+
+}  // namespace korven::batch

@@ -1,0 +1,90 @@
+#include "tables/input_table.hpp"
+
+#include <type_traits>
+
+#include "base/code_page.hpp"
+#include "base/number_text.hpp"
+#include "base/translated_texts.hpp"
+#include "project/field_table.hpp"
+
+namespace korven::tables {
+
+namespace {
+
+using base::traduttore;
+using project::Campo;
+using project::DatiProgetto;
+using project::Parte;
+namespace unita = project::unita;
+
+Cella numero(double mostrato) {
+    return {.testo = base::testoNumero(mostrato), .numero = mostrato + 0.0};
+}
+
+// Counted, and not measured: no unit is behind the factor by which it is typed.
+bool contato(const Campo& campo) {
+    return campo.unita.conservata == unita::numeroBarre.conservata &&
+           campo.unita.fattore == unita::numeroBarre.fattore;
+}
+
+Cella valore(const DatiProgetto& dati, const Campo& campo, int riga, bool usato) {
+    Cella cella;
+    project::conValore(dati, campo, riga, [&](const auto& v) {
+        using Valore = std::remove_cvref_t<decltype(v)>;
+        if constexpr (std::is_same_v<Valore, std::string>)
+            cella = v.empty() ? Cella{} : parola(v);
+        else if constexpr (std::is_same_v<Valore, bool>)
+            cella = parola(traduttore(v ? "sì" : "no"), v);
+        else if constexpr (std::is_same_v<Valore, int>)
+            cella = tables::cella(v);
+        else if (const auto* codice = project::codice(campo, v))
+            cella = parola(traduttore(codice->voce), v);
+        else
+            cella = numero(usato && contato(campo) ? v : mostrato(campo, v));
+    });
+    return cella;
+}
+
+bool inUso(const DatiProgetto& dati, Parte parte) {
+    switch (parte) {
+        case Parte::diaframma:
+        case Parte::pali:
+        case Parte::palancola:
+        case Parte::paliArmati:
+            return project::parteInVigore(dati.sezione) == parte;
+        default:
+            return true;
+    }
+}
+
+std::vector<Cella> riga(const DatiProgetto& scritti, const DatiProgetto& usati, const Campo& campo,
+                        int k) {
+    return {parola(base::conMaiuscola(traduttore(campo.cosa))),
+            project::colonna(campo) ? cella(k) : senza(traduttore("Il dato non è di una tabella.")),
+            valore(scritti, campo, k, false),
+            inUso(usati, campo.parte)
+                ? valore(usati, campo, k, true)
+                : senza(traduttore("La sezione in vigore non usa questo dato.")),
+            parola(std::string(campo.unita.mostrata)),
+            parola(project::nomeStabile(campo, k))};
+}
+
+}  // namespace
+
+Prospetto prospettoDati(const DatiProgetto& scritti, const DatiProgetto& usati) {
+    Prospetto p{.titolo = traduttore("Dati di ingresso"),
+                .colonne = {colonnaParole("Dato", "Grandezza del progetto"),
+                            colonna(unita::nessuna, "Riga", "Riga della sua tabella"),
+                            colonna(unita::nessuna, "Scritto",
+                                    "Valore come si legge e si scrive nel programma"),
+                            colonna(unita::nessuna, "Usato", "Valore con cui il calcolo lavora"),
+                            colonnaParole("Unità", "Unità di misura dei due valori"),
+                            colonnaParole("Nome", "Nome del dato per altri programmi")}};
+    for (const Campo& campo : project::campi())
+        for (int k = 1; k <= (project::colonna(campo) ? project::righe(scritti, campo.parte) : 1);
+             ++k)
+            p.righe.push_back(riga(scritti, usati, campo, k));
+    return p;
+}
+
+}  // namespace korven::tables

@@ -1,0 +1,94 @@
+#include "workbook/sheets.hpp"
+
+#include <cassert>
+#include <filesystem>
+#include <iterator>
+#include <utility>
+
+#include "base/translated_texts.hpp"
+#include "tables/anchor_table.hpp"
+#include "tables/check_table.hpp"
+#include "tables/input_table.hpp"
+#include "tables/node_table.hpp"
+#include "tables/remark_table.hpp"
+#include "tables/stage_table.hpp"
+#include "workbook/anchor_sheet.hpp"
+#include "workbook/node_sheets.hpp"
+#include "workbook/project_sheet.hpp"
+
+namespace korven::workbook {
+
+namespace {
+
+using base::traduttore;
+using dossier::Fascicolo;
+using tables::Prospetto;
+
+constexpr base::Gemelli nomi[] = {{"progetto", "project"},   {"dati", "input"},
+                                  {"fasi", "stages"},        {"nodi", "nodes"},
+                                  {"inviluppo", "envelope"}, {"tiranti", "anchors"},
+                                  {"verifiche", "checks"},   {"osservazioni", "remarks"}};
+constexpr std::size_t postoNodi = 3, postoInviluppo = 4;  // among them
+
+Prospetto conTitolo(Prospetto p, const char* titolo) {
+    p.titolo = traduttore(titolo);
+    return p;
+}
+
+std::string piede(const dossier::Identita& sua) {
+    std::string testo = std::filesystem::path(sua.file).filename().string();
+    for (const std::string& parte : {sua.programma + " " + sua.versione,
+                                     std::string(dossier::inBreve(sua.impronta)), sua.data})
+        if (!parte.empty()) testo += (testo.empty() ? "" : " - ") + parte;
+    return testo;
+}
+
+Foglio diParole(Prospetto p, std::string fonte = {}) {
+    return {.nome = {},
+            .prospetto = std::move(p),
+            .fonte = std::move(fonte),
+            .colonneFisse = 1,
+            .aCapo = true};
+}
+
+Foglio diNumeri(Prospetto p, std::size_t colonneFisse = 1) {
+    return {.nome = {},
+            .prospetto = std::move(p),
+            .fonte = traduttore("Numeri dell'equilibrio certo, per metro di paratia."),
+            .colonneFisse = colonneFisse,
+            .aCapo = false};
+}
+
+std::vector<Foglio> tutti(const Fascicolo& f) {
+    std::vector<Foglio> fatti = {
+        diParole(conTitolo(tables::prospettoDati(f.scritti, f.parete.dati), "Dati"),
+                 traduttore("Dati come sono scritti e come il calcolo li usa.")),
+        diNumeri(tables::prospettoFasi(f.parete)),
+        diNumeri(prospettoNodiFasi(f), 3),
+        diNumeri(conTitolo(tables::prospettoInviluppo(f.parete), "Inviluppo"), 2),
+        diNumeri(prospettoTiranti(f)),
+        diNumeri(tables::prospettoVerifiche(f.parete, f.controlli)),
+        diParole(tables::prospettoOsservazioni(f.osservazioni))};
+    fatti.insert(fatti.begin(), diParole(prospettoProgetto(f, fatti)));
+    assert(fatti.size() == std::size(nomi));
+    for (std::size_t i = 0; i < fatti.size(); ++i) fatti[i].nome = nomi[i];
+    return fatti;
+}
+
+}  // namespace
+
+std::span<const base::Gemelli> nomiFogli() { return nomi; }
+
+CartellaFogli fogli(const Fascicolo& f) {
+    CartellaFogli cartella{.titolo = std::filesystem::path(f.identita.file).filename().string(),
+                           .piede = piede(f.identita),
+                           .data = f.identita.data,
+                           .grafici = traduttore("Grafici"),
+                           .fogli = tutti(f),
+                           .diagrammi = {}};
+    aggiungiGraficiInviluppo(f, postoInviluppo, cartella);
+    aggiungiGraficiFasi(f, postoNodi, cartella);
+    return cartella;
+}
+
+}  // namespace korven::workbook
