@@ -120,7 +120,7 @@ TEST_F(Tabelle, TellOfAPlaceThatCannotBeWritten) {
 TEST_F(Tabelle, OfAWallThatDoesNotStandSayWhyAndEndWithOne) {
     fs::copy_file(std::string(KORVEN_WALLS) + "/meccanismo.kvd", progetto,
                   fs::copy_options::overwrite_existing);
-    const auto esito = comando({"--xlsx", cartella / "t.xlsx"});
+    const auto esito = console({"tabelle", progetto, "--xlsx", cartella / "t.xlsx"});
     EXPECT_EQ(esito.codice, 1);
     EXPECT_TRUE(dice(esito.uscita, "t.xlsx")) << esito.uscita;
     const auto fogli = leggiXlsx(scritto("t.xlsx"));
