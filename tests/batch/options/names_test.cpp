@@ -160,8 +160,8 @@ TEST(Nomi, InMessagesAreThoseOfTheLanguageInUseWhicheverWereTyped) {
     EXPECT_TRUE(test::dice(leggi({"calcola"}).errori, "PROJECT.kvd\n"));
     EXPECT_TRUE(test::dice(
         leggi({"disegna"}).errori,
-        ": calculate, report, annex, check, equilibrium, safety, diagram, section, log, hatches, "
-        "all, compare, selfcheck\n"));
+        ": calculate, report, annex, check, equilibrium, safety, tables, diagram, section, log, "
+        "hatches, all, compare, selfcheck\n"));
 }
 
 TEST(Nomi, GivenTwiceAreOneOptionGivenTwice) {
