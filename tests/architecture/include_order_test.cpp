@@ -51,10 +51,11 @@ const std::vector<std::pair<std::string, std::set<std::string>>> outside = {
 // The headers of the operating system that are used beside the standard library: files, terminals
 // and signals, processes.
 const std::map<std::string, std::set<std::string>> operatingSystem = {
-    {"poll.h", {"batch"}},    {"unistd.h", {"base", "batch", "workbook"}}, {"fcntl.h", {"base"}},
-    {"sys/stat.h", {"base"}}, {"signal.h", {"batch"}},         {"spawn.h", {"base"}},
-    {"sys/wait.h", {"base"}}, {"sys/types.h", {"base"}},       {"sys/file.h", {"base"}},
-    {"sys/mman.h", {"workbook"}},
+    {"poll.h", {"batch"}},    {"unistd.h", {"base", "batch", "workbook"}},
+    {"fcntl.h", {"base"}},    {"sys/stat.h", {"base"}},
+    {"signal.h", {"batch"}},  {"spawn.h", {"base"}},
+    {"sys/wait.h", {"base"}}, {"sys/types.h", {"base"}},
+    {"sys/file.h", {"base"}}, {"sys/mman.h", {"workbook"}},
 };
 
 struct Include {

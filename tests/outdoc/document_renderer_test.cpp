@@ -7,8 +7,8 @@
 
 #include "base/code_page.hpp"
 #include "base/file_error.hpp"
-#include "support/unpacked.hpp"
 #include "support/temporary_folder.hpp"
+#include "support/unpacked.hpp"
 
 namespace korven::outdoc {
 namespace {

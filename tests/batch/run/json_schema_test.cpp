@@ -78,10 +78,12 @@ TEST_F(SchemaRisposte, HoldForWhatIsRefusedOrCannotBeRead) {
     auto dati = test::progettoSemplice();
     dati.nFasi = 0;
     scrivi(dati);
-    for (const char* comando : {"calcola", "equilibrio", "sicurezza", "tabelle", "verifica", "relazione"})
+    for (const char* comando :
+         {"calcola", "equilibrio", "sicurezza", "tabelle", "verifica", "relazione"})
         inOrdine({comando});
     fs::remove(progetto);
-    for (const char* comando : {"calcola", "equilibrio", "sicurezza", "tabelle", "verifica", "relazione"})
+    for (const char* comando :
+         {"calcola", "equilibrio", "sicurezza", "tabelle", "verifica", "relazione"})
         inOrdine({comando});
 }
 
