@@ -1,5 +1,6 @@
 #include "masks/history.hpp"
 
+#include "base/colon.hpp"
 #include "base/filled_text.hpp"
 #include "base/translated_texts.hpp"
 
@@ -7,12 +8,12 @@ namespace korven::masks {
 
 std::string annullato(const std::string& nome) {
     return nome.empty() ? base::traduttore("Nulla da annullare")
-                        : base::traduttore("Annullato") + ": " + nome;
+                        : base::conDuePunti(base::traduttore("Annullato"), nome);
 }
 
 std::string ripetuto(const std::string& nome) {
     return nome.empty() ? base::traduttore("Nulla da ripetere")
-                        : base::traduttore("Ripetuto") + ": " + nome;
+                        : base::conDuePunti(base::traduttore("Ripetuto"), nome);
 }
 
 std::string senzaUnita(const std::string& didascalia) {

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "base/code_page.hpp"
+#include "base/colon.hpp"
 #include "base/filled_text.hpp"
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
@@ -70,7 +71,7 @@ class Lettura {
 
  private:
     double manca(VoceCalcolo voce, const std::string& perche) {
-        if (!vizio_) vizio_ = {{}, etichetta(voce, ingressi_) + ": " + perche, voce};
+        if (!vizio_) vizio_ = {{}, base::conDuePunti(etichetta(voce, ingressi_), perche), voce};
         return 1;
     }
 

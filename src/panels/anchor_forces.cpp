@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "base/colon.hpp"
 #include "base/translated_texts.hpp"
 #include "panels/grid_rows.hpp"
 #include "project/units.hpp"
@@ -62,9 +63,9 @@ TiriTirante tiriDellaRiga(const live::ProgettoVivo& vivo, const masks::ModelloGr
                           int riga) {
     if (!vivo.aperto()) return {};
     if (!vivo.impedimento().empty())
-        return {
-            {},
-            traduttore("i tiri tornano quando la tabella è completa") + ": " + vivo.impedimento()};
+        return {{},
+                base::conDuePunti(traduttore("i tiri tornano quando la tabella è completa"),
+                                  vivo.impedimento())};
     const auto tirante = tiranteDellaRiga(griglia, riga);
     if (!tirante) return {{}, traduttore("la riga è vuota")};
     return tiriDelTirante(vivo.parete(), *tirante);

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "base/code_page.hpp"
+#include "base/colon.hpp"
 #include "base/filled_text.hpp"
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
@@ -32,7 +33,7 @@ std::string con(const char* chiave, const equilibrium::Estremo& e, const project
 std::string tiri(const equilibrium::FaseEquilibrio& fase) {
     std::string testo;
     for (std::size_t i = 0; i < fase.tiri.size(); ++i) {
-        testo += testo.empty() ? "; " + traduttore("tiri") + ": " : ", ";
+        testo += testo.empty() ? "; " + base::conDuePunti(traduttore("tiri"), {}) : ", ";
         testo += "T" + std::to_string(i + 1) + " " +
                  conUnita(fase.tiri[i], project::unita::forzaAlMetro);
     }
@@ -41,10 +42,11 @@ std::string tiri(const equilibrium::FaseEquilibrio& fase) {
 
 std::string cheSta(const live::PareteViva& parete, const equilibrium::FaseEquilibrio& fase) {
     const auto e = equilibrium::estremi(fase, parete.h);
-    return riempito(traduttore("fase %1 in equilibrio"), {std::to_string(fase.fase)}) + ": " +
-           con("spostamento massimo %1 a %2 m", e.spostamento, project::unita::spostamentoFine) +
-           ", " + con("momento %1 a %2 m", e.momento(), project::unita::momentoAlMetro) + ", " +
-           con("taglio %1 a %2 m", e.taglio, project::unita::forzaAlMetro) + tiri(fase);
+    return base::conDuePunti(
+        riempito(traduttore("fase %1 in equilibrio"), {std::to_string(fase.fase)}),
+        con("spostamento massimo %1 a %2 m", e.spostamento, project::unita::spostamentoFine) +
+            ", " + con("momento %1 a %2 m", e.momento(), project::unita::momentoAlMetro) + ", " +
+            con("taglio %1 a %2 m", e.taglio, project::unita::forzaAlMetro) + tiri(fase));
 }
 
 }  // namespace
@@ -55,8 +57,8 @@ std::string paroleFase(const live::PareteViva& parete, int fase) {
     const std::string perche = parete.perche ? safety::inBreve(*parete.perche) : parete.rifiuto;
     const int cede = parete.fasiInEquilibrio() + 1;
     if (parete.fasi.empty() || fase == cede) return perche;
-    return riempito(traduttore("la fase %1 non è calcolata"), {std::to_string(fase)}) + ": " +
-           perche;
+    return base::conDuePunti(
+        riempito(traduttore("la fase %1 non è calcolata"), {std::to_string(fase)}), perche);
 }
 
 std::string comEra(const live::ProgettoVivo& vivo, const std::string& parole) {

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "base/bound_units.hpp"
+#include "base/colon.hpp"
 #include "base/filled_text.hpp"
 #include "base/translated_texts.hpp"
 #include "safety/words.hpp"
@@ -30,11 +31,13 @@ std::string conclusione(const Mostrata& m) {
         m.vista.fase == 0
             ? traduttore("la paratia è in equilibrio; massimi di tutte le fasi")
             : riempito(traduttore("la fase %1 è in equilibrio"), {std::to_string(m.fase)});
-    return dove + ": " + traduttore("spostamento") + " " +
-           conUnita(e->spostamento.valore, project::unita::spostamentoFine) + ", " +
-           traduttore("momento") + " " +
-           conUnita(e->momento().valore, project::unita::momentoAlMetro) + ", " +
-           traduttore("taglio") + " " + conUnita(e->taglio.valore, project::unita::forzaAlMetro);
+    return base::conDuePunti(
+        dove, traduttore("spostamento") + " " +
+                  conUnita(e->spostamento.valore, project::unita::spostamentoFine) + ", " +
+                  traduttore("momento") + " " +
+                  conUnita(e->momento().valore, project::unita::momentoAlMetro) + ", " +
+                  traduttore("taglio") + " " +
+                  conUnita(e->taglio.valore, project::unita::forzaAlMetro));
 }
 
 }  // namespace
@@ -64,8 +67,9 @@ std::string titolo(const Mostrata& m) {
 std::vector<Verdetto> verdetti(const Mostrata& m, const std::string& impedimento) {
     std::vector<Verdetto> tutti;
     if (!impedimento.empty())
-        tutti.push_back({impedimento + ": " + traduttore("la figura mostra i valori precedenti"),
-                         Ruolo::avviso});
+        tutti.push_back(
+            {base::conDuePunti(impedimento, traduttore("la figura mostra i valori precedenti")),
+             Ruolo::avviso});
     const live::PareteViva& parete = m.parete;
     if (!parete.rifiuto.empty() && !nonCominciato(parete.dati))
         tutti.push_back({parete.rifiuto, Ruolo::avviso});

@@ -5,6 +5,7 @@
 #include "analysis/node_vector.hpp"
 #include "analysis/vertical_stress.hpp"
 #include "base/code_page.hpp"
+#include "base/colon.hpp"
 #include "base/filled_text.hpp"
 #include "base/translated_texts.hpp"
 #include "drawings/log/layer_description.hpp"
@@ -135,7 +136,7 @@ std::string perche(const PareteViva& parete, int fase) {
 
 Prospetto prospettoNodi(const PareteViva& parete, int fase) {
     const bool conCostante = parete.dati.pressioneOrizz != 0;
-    Prospetto p{.titolo = traduttore("Nodi") + ": " + titoloFase(fase),
+    Prospetto p{.titolo = base::conDuePunti(traduttore("Nodi"), titoloFase(fase)),
                 .colonne = colonneFase(conCostante)};
     const FaseEquilibrio* f = parete.fase(fase);
     if (f == nullptr) {
@@ -153,7 +154,7 @@ Prospetto prospettoNodi(const PareteViva& parete, int fase) {
 }
 
 Prospetto prospettoInviluppo(const PareteViva& parete) {
-    Prospetto p{.titolo = traduttore("Nodi") + ": " + titoloFase(0),
+    Prospetto p{.titolo = base::conDuePunti(traduttore("Nodi"), titoloFase(0)),
                 .colonne = {colonnaNodo(), colonnaZ()}};
     for (const Grandezza* g :
          {&grandezzaSpostamento, &grandezzaMomento, &grandezzaTaglio, &grandezzaPressione}) {

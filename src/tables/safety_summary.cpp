@@ -1,5 +1,6 @@
 #include "tables/safety_summary.hpp"
 
+#include "base/colon.hpp"
 #include "base/translated_texts.hpp"
 #include "tables/margin_table.hpp"
 
@@ -8,7 +9,7 @@ namespace korven::tables {
 namespace {
 
 Riassunto nulla(const std::string& perche) {
-    return {.verdetto = base::traduttore("Niente da calcolare") + ": " + perche};
+    return {.verdetto = base::conDuePunti(base::traduttore("Niente da calcolare"), perche)};
 }
 
 }  // namespace

@@ -117,6 +117,12 @@ class InTutteLeLingue : public ::testing::Test {
     ~InTutteLeLingue() override { base::impostaLingua(1); }
 };
 
+TEST_F(InTutteLeLingue, ColonsStandApartInFrench) {
+    base::impostaLingua(3);
+    const std::string testo = descrizione(live::calcola(test::progettoSemplice(), 40), {});
+    EXPECT_NE(testo.find("toutes les phases\u00A0: déplacement "), std::string::npos) << testo;
+}
+
 // At every size, stage, curve and in every language.
 TEST_F(InTutteLeLingue, TheExamplesHaveAllTheirTexts) {
     constexpr Misura finestre[] = {{360, 340}, {600, 400}, {900, 580}, {1600, 1000}};

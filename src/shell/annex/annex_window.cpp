@@ -11,6 +11,7 @@
 #include <array>
 #include <utility>
 
+#include "base/colon.hpp"
 #include "base/folders/file_names.hpp"
 #include "base/pointer_guard.hpp"
 #include "base/translated_texts.hpp"
@@ -177,7 +178,7 @@ void FinestraAllegato::salva(const char* titolo, const TipoFile& tipo,
             porte_.file->scritto(*percorso);
         });
         if (!fatto) continue;
-        QString scritto = tradotto("File scritto") + QStringLiteral(": ") + qt(*percorso);
+        QString scritto = qt(base::conDuePunti(base::traduttore("File scritto"), *percorso));
         if (!nota_->text().isEmpty()) scritto += QStringLiteral("\n") + nota_->text();
         return nota_->setText(scritto);
     }
@@ -198,8 +199,8 @@ void FinestraAllegato::salvaDocumento() {
                   document::inMarkup(*vista_->impaginato().documento, document::Uso::documento),
                   porte_.file->disco());
               if (!scritto.kept.empty())
-                  nota_->setText(tradotto("Il documento che c'era è conservato in") +
-                                 QStringLiteral(": ") + qt(scritto.kept));
+                  nota_->setText(qt(base::conDuePunti(
+                      base::traduttore("Il documento che c'era è conservato in"), scritto.kept)));
           });
 }
 

@@ -17,6 +17,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/colon.hpp"
+#include "base/translated_texts.hpp"
 #include "shell/form_sizes.hpp"
 #include "shell/forms/scrolled_part.hpp"
 #include "shell/panels/hatch_picture.hpp"
@@ -152,12 +154,14 @@ QWidget* SceglieCampitura::fareLivello(SceltaCampitura::Livello quale, const QSt
     l.nome->setWordWrap(true);
     l.grandezza = new QSpinBox(parte);
     l.grandezza->setObjectName("grandezza_" + numero);
-    l.grandezza->setAccessibleName(QString(nome).remove('&') + ": " + tradotto("Grandezza"));
+    l.grandezza->setAccessibleName(qt(
+        base::conDuePunti(QString(nome).remove('&').toStdString(), base::traduttore("Grandezza"))));
     l.grandezza->setRange(0, drawings::massimoPasso);
     l.grandezza->setValue(scelta_.gruppo(quale).passo);
     l.grandezza->setToolTip(tradotto("1: la misura normale; ogni quattro passi il doppio"));
     auto* riga = new QHBoxLayout;
-    riga->addWidget(new QLabel(tradotto("Grandezza") + ':', parte));
+    riga->addWidget(
+        new QLabel(qt(base::conDuePunti(base::traduttore("Grandezza"), {})).trimmed(), parte));
     riga->addWidget(l.grandezza);
     riga->addStretch();
     colonna->addWidget(l.scelto);
@@ -240,10 +244,10 @@ void SceglieCampitura::mostra() {
     linea_->setEnabled(scelta_.puoTogliereLinea());
     immagine_->setPixmap(
         immagineCampitura(scelta_.campitura(), coloreScelto(), campione, devicePixelRatioF()));
-    const QString testo = qt(scelta_.descrizione());
     immagine_->setAccessibleName(tradotto("Campitura dello strato"));
     immagine_->setAccessibleDescription(livelli_[0].nome->text() + ", " + livelli_[1].nome->text());
-    descrizione_->setText(tradotto("Descrizione dello strato") + ": " + testo);
+    descrizione_->setText(
+        qt(base::conDuePunti(base::traduttore("Descrizione dello strato"), scelta_.descrizione())));
 }
 
 // To the picture that is chosen, or the first one that the search has left.

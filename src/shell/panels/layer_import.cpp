@@ -13,6 +13,8 @@
 #include <QVBoxLayout>
 #include <utility>
 
+#include "base/colon.hpp"
+#include "base/translated_texts.hpp"
 #include "exchange/layer_columns.hpp"
 #include "masks/needed_cells.hpp"
 #include "project/project_data.hpp"
@@ -182,8 +184,9 @@ void ImportaStrati::mostraMessaggi() {
     for (const auto& nota : letti_.avvertenze) righe << qt(nota);
     for (const auto& nota : importo_.avvertenze) righe << qt(nota);
     if (letti_.riuscita())
-        righe.prepend(tradotto("Strati che sostituiscono quelli della tabella") + ": " +
-                      QString::number(importo_.righe.size()));
+        righe.prepend(
+            qt(base::conDuePunti(base::traduttore("Strati che sostituiscono quelli della tabella"),
+                                 std::to_string(importo_.righe.size()))));
     messaggi_->setPlainText(righe.join(QLatin1Char('\n')));
 }
 

@@ -4,6 +4,7 @@
 #include <string>
 #include <utility>
 
+#include "base/colon.hpp"
 #include "base/translated_texts.hpp"
 #include "shell/main/menu1.hpp"
 #include "shell/picture/picture_files.hpp"
@@ -18,7 +19,7 @@ void collegaFigura(Menu1& principale, VitaProgetto& vita, base::Dialogo& dialogo
     insegnaAccessoFigura();
     auto porte = std::make_shared<PorteDesktop>(
         std::move(stampante), [&principale](const std::string& percorso) {
-            principale.stato(base::traduttore("File scritto") + ": " + percorso);
+            principale.stato(base::conDuePunti(base::traduttore("File scritto"), percorso));
         });
     auto* pannello = new PannelloFigura(vita, [&vita, &dialogo, porte](const QFont& font) {
         salvaFigura(vita.vivo(), font, *porte, dialogo);
