@@ -47,7 +47,7 @@ TEST_F(LineaDiComando, WrongUsageEndsWithTwoAndAClearMessage) {
         std::vector<std::string> argomenti;
         const char* detto;
     } casi[] = {
-        {{}, "manca il comando: calcola, relazione, verifica"},
+        {{}, "manca il comando: calcola, relazione, allegato, verifica"},
         {{"calcola"}, "manca un argomento: PROGETTO.kvd\n"},
         {{"calcola", ""}, "valore non ammesso: PROGETTO.kvd"},
         {{"calcola", progetto, "--uscita", ""}, "valore non ammesso: --uscita"},
@@ -63,7 +63,7 @@ TEST_F(LineaDiComando, WrongUsageEndsWithTwoAndAClearMessage) {
         {{"calcola", progetto, "--lingua", "ita", "--lingua", "eng"},
          "un'opzione è data più volte: --lingua\n"},
         {{"calcola", progetto, "--lingua"}, "manca il valore di un'opzione: --lingua\n"},
-        {{"disegna", progetto}, "comando sconosciuto (disegna): calcola, relazione, verifica"},
+        {{"disegna", progetto}, "comando sconosciuto (disegna): calcola, relazione, allegato, verifica"},
         {{"calcola", progetto, "altro.kvd"}, "argomento sconosciuto: altro.kvd\n"},
         {{"--silenzioso", "calcola", progetto},
          "korven32c: le opzioni stanno dopo il comando: --silenzioso\n"},
