@@ -69,7 +69,6 @@ VistaProspetto::VistaProspetto(const QString& nome, QWidget* padre)
     verticalHeader()->hide();
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
     horizontalHeader()->setHighlightSections(false);
-    horizontalHeader()->setStretchLastSection(true);
     horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
     horizontalHeader()->setSortIndicatorClearable(true);
     setSortingEnabled(true);
@@ -80,9 +79,10 @@ VistaProspetto::VistaProspetto(const QString& nome, QWidget* padre)
     });
 }
 
-// The last one takes what is left of the window.
+// A last one of words takes what is left of the window.
 void VistaProspetto::tieni(int colonna, int larghezza) {
-    if (dispone_ || larghezza == 0 || colonna + 1 == modello_->columnCount()) return;
+    if (dispone_ || larghezza == 0) return;
+    if (horizontalHeader()->stretchLastSection() && colonna + 1 == modello_->columnCount()) return;
     tenute_[colonna] = larghezza;
     if (wordWrap()) resizeRowsToContents();
 }
@@ -94,6 +94,9 @@ void VistaProspetto::mostra(tables::Prospetto prospetto) {
     {
         const QScopedValueRollback<bool> durante(dispone_, true);
         modello_->mostra(std::move(prospetto));
+        // Numbers far from those beside them can't be read along their row.
+        const auto& colonne = modello_->prospetto().colonne;
+        horizontalHeader()->setStretchLastSection(!colonne.empty() && !colonne.back().numerica);
     }
     if (misura(altra))
         adatta();
@@ -184,7 +187,7 @@ void VistaProspetto::adatta() {
     if (wordWrap()) resizeRowsToContents();
 }
 
-// As wide as they are now, the last one included, which takes what is left of the window.
+// As wide as they are now, the last one included, which may take what is left of the window.
 void VistaProspetto::spezzaTeste() {
     QStringList teste;
     for (int c = 0; c < modello_->columnCount(); ++c)

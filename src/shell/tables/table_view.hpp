@@ -18,8 +18,9 @@ namespace korven::shell {
 /// A table of results to look at: sorted by a click on a head or by its menu, copied with the heads
 /// into a spreadsheet. Heads and words go into several lines where the window is too narrow for
 /// them, the words of the cells unless `wordWrap` is taken from it. A column whose edge was dragged
-/// keeps its width until the table has other columns. A table without rows shows its notes in their
-/// place: why.
+/// keeps its width until the table has other columns. A last column of words takes what is left of
+/// the window, one of numbers stays beside the others. A table without rows shows its notes in
+/// their place: why.
 ///
 /// Keys: Ctrl+A selects all, Ctrl+C copies what is selected, all where it is one cell; the menu key
 /// opens the menu, which sorts by the column of the current cell.

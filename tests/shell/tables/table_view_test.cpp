@@ -215,6 +215,19 @@ TEST_F(VistaProspettoTest, SetsWordsInSeveralLinesWhereTheWindowIsNarrow) {
     EXPECT_EQ(vista.rowHeight(1), vista.rowHeight(0));
 }
 
+TEST_F(VistaProspettoTest, GivesWhatIsLeftToALastColumnOfWordsAndToNoNumbers) {
+    vista.resize(2400, 300);
+    vista.mostra(parole());
+    EXPECT_EQ(vista.columnWidth(0) + vista.columnWidth(1), vista.viewport()->width());
+    Prospetto numeri = parole();
+    std::swap(numeri.colonne[0], numeri.colonne[1]);
+    for (auto& riga : numeri.righe) std::swap(riga[0], riga[1]);
+    vista.mostra(numeri);
+    EXPECT_LT(vista.columnWidth(1), 100);
+    vista.mostra(parole());
+    EXPECT_EQ(vista.columnWidth(0) + vista.columnWidth(1), vista.viewport()->width());
+}
+
 TEST_F(VistaProspettoTest, SaysWhyItHasNoRowsAndWhyACellIsEmpty) {
     Prospetto vuoto = parole();
     vuoto.righe.clear();
