@@ -1,10 +1,13 @@
+#include <filesystem>
 #include <iostream>
 #include <memory>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "analysis/segment_count.hpp"
 #include "base/filled_text.hpp"
+#include "base/folders/file_names.hpp"
 #include "base/translated_texts.hpp"
 #include "base/value_error.hpp"
 #include "batch/command_table.hpp"
@@ -17,6 +20,7 @@
 #include "batch/run/interruption.hpp"
 #include "batch/run/output_names.hpp"
 #include "commands/project_opening.hpp"
+#include "commands/report_files.hpp"
 #include "comparison/comparison.hpp"
 #include "comparison/document.hpp"
 #include "dossier/identity.hpp"
@@ -79,11 +83,23 @@ int codice(const Confronto& confronto, Esito& esito) {
     return nonEseguito;
 }
 
+// Nothing says which project a result file comes from but its name.
+std::vector<std::string> daConservare(const Opzioni& opzioni) {
+    std::vector<std::string> file;
+    for (const std::string& letto : {opzioni.progetto, opzioni.secondo}) {
+        const std::string relazione = base::nomeRelazione(letto);
+        file.insert(file.end(),
+                    {letto, std::filesystem::path(letto).replace_extension(".kvd").string(),
+                     relazione, commands::nomeTesto(relazione), base::nomeDocumento(relazione)});
+    }
+    return file;
+}
+
 void scriviPdf(const std::shared_ptr<const Confronto>& confronto, const Opzioni& opzioni,
                const PorteComando& porte, Esito& esito) {
     if (opzioni.pdfConfronto.empty()) return;
     controllaTabella(opzioni.pdfConfronto);
-    controllaNomi({opzioni.pdfConfronto}, {opzioni.progetto, opzioni.secondo});
+    controllaNomi({opzioni.pdfConfronto}, daConservare(opzioni));
     const AmbienteDisegno ambiente(true);
     const auto documento =
         comparison::documento(confronto, dossier::data(dossier::fontiDiSistema({})));

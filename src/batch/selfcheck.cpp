@@ -1,5 +1,7 @@
+#include <filesystem>
 #include <memory>
 #include <string>
+#include <system_error>
 #include <vector>
 
 #include "batch/command_table.hpp"
@@ -19,11 +21,15 @@ namespace korven::batch {
 
 namespace {
 
-// The document must not take the place of a case.
+// The document must not take the place of a case, or of a project that cases begin with.
 void controllaNome(const std::string& pdf, const std::vector<verification::Gruppo>& gruppi) {
     std::vector<std::string> file;
     for (const auto& gruppo : gruppi)
         for (const auto& caso : gruppo.casi) file.push_back(caso.file);
+    std::error_code nessuna;
+    for (const auto& base :
+         std::filesystem::directory_iterator(verification::cartellaBasi(), nessuna))
+        file.push_back(base.path().string());
     controllaNomi({pdf}, file);
 }
 

@@ -106,6 +106,16 @@ TEST_F(Confronta, TakesTwoResultFiles) {
     EXPECT_TRUE(dice(misto.errori, "è un file di risultati")) << misto.errori;
 }
 
+TEST_F(Confronta, KeepsTheProjectsOfTwoResultFilesFromItsPages) {
+    ASSERT_EQ(esegui("calcola").codice, 0);
+    const std::string risultati = cartella / "muro.OUT";
+    for (const std::string& file : {progetto, risultati}) {
+        const std::string prima = test::contenuto(file);
+        EXPECT_EQ(console({"confronta", risultati, risultati, "--pdf", file}).codice, 2) << file;
+        EXPECT_TRUE(test::contenuto(file) == prima) << file;
+    }
+}
+
 TEST_F(Confronta, WritesThePagesOfBothWallsAndKeepsTheProjectsFromThem) {
     auto dati = progettoSemplice();
     dati.sovraccMonte = 3;

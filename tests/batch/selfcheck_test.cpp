@@ -87,6 +87,16 @@ TEST_F(Autoverifica, KeepsItsCasesFromTheDocument) {
     EXPECT_TRUE(test::contenuto(dove + "/mensola.txt").starts_with("titolo:"));
 }
 
+TEST_F(Autoverifica, KeepsTheProjectsThatCasesBeginWithFromTheDocument) {
+    const auto programmi = std::filesystem::path(KORVEN_CONSOLE).parent_path();
+    const std::string base = (programmi / "data" / "ita" / "palancola_mensola.kvd").string();
+    const std::string prima = test::contenuto(base);
+    ASSERT_FALSE(prima.empty());
+    EXPECT_EQ(console({"autoverifica", "--casi", casi("144.0"), "--pdf", base}).codice, 2);
+    EXPECT_TRUE(test::contenuto(base) == prima);
+    test::metti(base, prima);
+}
+
 TEST_F(Autoverifica, TellsTheLineOfABrokenCase) {
     const auto esito = console({"autoverifica", "--casi", casi("tanto")});
     EXPECT_EQ(esito.codice, 3);

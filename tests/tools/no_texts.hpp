@@ -132,6 +132,7 @@ inline const std::map<std::string, Texts> noTexts = {
       "taglio_resistente_bielle",
       "taglio_resistente_armatura"}},
     {"verification/wall_fields.cpp", {".kvd", "base"}},
+    {"batch/compare.cpp", {".kvd"}},
     {"batch/options/command_line.cpp",
      {"Usage", "OPTIONS", "SUBCOMMAND", "Positionals", "REQUIRED", "KORVEN 32 -", "korven32c",
       "korven32c:"}},
