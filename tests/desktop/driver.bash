@@ -5,8 +5,10 @@
 # and $work/lavori for projects; the functions below. What is left open ends with the script, which may
 # define clean_up for what else it started.
 
+# Without -noreset a screen begins anew when its last client leaves it, and throws out who is just coming:
+# one that only asks whether the window manager is there could so keep it from ever coming.
 if [ -z "${KORVEN_SCREEN-}" ]; then
-    exec xvfb-run -a -s '-screen 0 1280x1024x24' env KORVEN_SCREEN=1 "$0" "$@"
+    exec xvfb-run -a -s '-screen 0 1280x1024x24 -noreset' env KORVEN_SCREEN=1 "$0" "$@"
 fi
 
 work=$(mktemp -d /tmp/korven_desktop_XXXXXX)
@@ -17,8 +19,8 @@ end() {
     local status=$?
     if [ $status -ne 0 ]; then
         command -v import >/dev/null && import -window root "$work.png" && echo "The screen is in $work.png" >&2
-        echo "--- what the program said" >&2
-        cat "$work/said" >&2 || true
+        echo "--- what the window manager and the program said" >&2
+        cat "$work/openbox" "$work/said" >&2 || true
     fi
     [ -z "$program" ] || kill "$program" 2>/dev/null || true
     [ -z "$manager" ] || kill "$manager" 2>/dev/null || true
