@@ -8,6 +8,7 @@
 #include "report/annex/chapters.hpp"
 #include "report/annex/chosen_rows.hpp"
 #include "report/annex/peaks.hpp"
+#include "report/annex/run_tables.hpp"
 #include "report/annex/stage_tables.hpp"
 #include "report/annex/table_pieces.hpp"
 #include "tables/node_table.hpp"
