@@ -2,42 +2,17 @@
 
 #include <utility>
 
-#include "base/translated_texts.hpp"
-
 namespace korven::shell {
 
 RisultatiInDisparte::RisultatiInDisparte(
     std::function<void(int numero, live::RisultatiLenti)> risponde, QObject* padre)
-    : QObject(padre), risponde_(std::move(risponde)) {}
-
-RisultatiInDisparte::~RisultatiInDisparte() {
-    if (lavoro_.joinable()) lavoro_.join();
-}
-
-void RisultatiInDisparte::chiedi(const Domanda& domanda) {
-    if (base::inModoProva())
-        risponde_(domanda.numero, live::calcolaLenti(domanda));
-    else if (lavoro_.joinable())
-        prossima_ = domanda;
-    else
-        comincia(domanda);
-}
-
-void RisultatiInDisparte::comincia(const Domanda& domanda) {
-    lavoro_ = std::thread([this, domanda] {
-        QMetaObject::invokeMethod(
-            this,
-            [this, numero = domanda.numero, trovati = live::calcolaLenti(domanda)] {
-                finita(numero, trovati);
-            },
-            Qt::QueuedConnection);
-    });
-}
-
-void RisultatiInDisparte::finita(int numero, const live::RisultatiLenti& trovati) {
-    lavoro_.join();
-    risponde_(numero, trovati);
-    if (const auto domanda = std::exchange(prossima_, {})) comincia(*domanda);
-}
+    : LavoroInDisparte(
+          [](const Domanda& domanda, const std::atomic<bool>&) {
+              return live::calcolaLenti(domanda);
+          },
+          [risponde = std::move(risponde)](const Domanda& domanda, live::RisultatiLenti trovati) {
+              risponde(domanda.numero, std::move(trovati));
+          },
+          padre) {}
 
 }  // namespace korven::shell
