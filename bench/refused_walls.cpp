@@ -1,5 +1,5 @@
 // Counts how many of the walls that the specified run refuses as singular, or does not bring to
-// rest, stand by the certain equilibrium. Always the same walls.
+// rest, stand by the equilibrium solution. Always the same walls.
 //
 //     refused_walls [walls, 1500]
 
@@ -20,7 +20,7 @@ using equilibrium::EsitoFase;
 constexpr int nSeg = 50;
 constexpr int maxIterazioni = 200;
 
-// What the certain equilibrium says of the stage that ended a run.
+// What the equilibrium solution says of the stage that ended a run.
 struct Conto {
     const char* come;
     int muri = 0, meccanismi = 0, nonDefiniti = 0, senzaNumero = 0;

@@ -33,7 +33,7 @@ What the program computes, against values that do not come from it: closed forms
 calculations. `korven32c selfcheck` runs all of it, `--pdf FILE` makes a document of it, `--json` tells it to programs
 (`json.md`). The exit code is 0 if every case is met, known differences apart, and 1 if one is not.
 
-Each case goes through the run of the report ("Report") and through the certain equilibrium ("Equilibrium"), as far
+Each case goes through the run of the report ("Report") and through the equilibrium solution ("Equilibrium"), as far
 as they know the quantity; what belongs to the section alone is "Section". Both sides of a case of the group "The
 program against itself" are runs; all other expected values come from elsewhere, and the scripts that made those which
 no book holds lie in `tests/oracle/verification` (`python3 tests/oracle/verification/check.py` compares them with the
@@ -77,7 +77,7 @@ spostamento z 10 = -117.944 mm entro 0.02 %
   column of a table takes its rows from the first on (`profFase = 2 4`), or one row (`profFase[2] = 4`); codes go by
   name (`metodoSpinte = rankine`). `base = NAME` begins with an example of the program; without it a wall has the first
   code of every choice, a constant ks and no water (all levels at 100 m). `segmenti` is the mesh, 200 if it is not
-  given; more than 249 are for the certain equilibrium alone.
+  given; more than 249 are for the equilibrium solution alone.
 - `[variante]` changes the wall for a second one, to compare with.
 - `[attesi]` has a line for each expected value: a quantity with its place (`fase`, the last if there is none; `z`, the
   depth of a node; `tirante`), the value with its unit, `entro` and the tolerance in % or in that unit. The other side

@@ -58,7 +58,7 @@ int esegui(const Opzioni& opzioni, const PorteComando& porte, Esito& esito) {
 RigaComando comandoEquilibrio() {
     RigaComando riga = {
         safety::comandoEquilibrio,
-        "calcola le fasi con l'equilibrio certo, in memoria e senza scrivere risultati",
+        "calcola la soluzione di equilibrio di ogni fase, in memoria e senza scrivere risultati",
         insieme({opzioniModello(), {opzioneSevero(), opzioneEJ(), opzioneCsv()}}), esegui};
     riga.calcola = true;
     return riga;

@@ -86,7 +86,8 @@ std::vector<std::string> frasiMuri(const Confronto& c) {
 std::vector<std::string> frasi(const Confronto& c) {
     std::vector<std::string> tutte = {traduttore(
         c.prima.origine == Origine::equilibrio
-            ? "I risultati sono dell'equilibrio certo, non del calcolo per fasi della relazione."
+            ? "I risultati sono della soluzione di equilibrio, non del calcolo per fasi della "
+              "relazione."
             : "I risultati sono quelli dei due file, cioè del calcolo per fasi della relazione.")};
     if (c.uguali())
         tutte.push_back(traduttore("Nessuna differenza."));

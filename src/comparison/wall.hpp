@@ -10,7 +10,7 @@ namespace korven::comparison {
 
 /// Where the numbers of a wall come from.
 enum class Origine {
-    equilibrio,     ///< the certain equilibrium of a project
+    equilibrio,     ///< the equilibrium solution of a project
     fileRisultati,  ///< a file that the run of the report has left
 };
 

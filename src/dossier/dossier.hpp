@@ -23,7 +23,7 @@ namespace korven::dossier {
 /// All that is told of a computed project: whoever writes a number of it takes it from here. Units
 /// are those of the parts: t, m, t m per metre of wall; N and mm in the section.
 ///
-/// All numbers are those of the certain equilibrium, but for `corsa`, `fine`, `margine->relazione`
+/// All numbers are those of the equilibrium solution, but for `corsa`, `fine`, `margine->relazione`
 /// and what is named after the report.
 struct Fascicolo {
     Identita identita;

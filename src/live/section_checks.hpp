@@ -20,7 +20,7 @@ struct ControlliSezione {
     std::optional<results::ConfrontoMomenti> flessione;  ///< nothing without a section
     std::optional<structure::ConfrontoTaglio> taglio;    ///< nothing without stirrups
     DoveVerifica positivo, negativo, diTaglio;
-    /// Numbers of the report; else the certain equilibrium's, the shear being the largest of all
+    /// Numbers of the report; else the equilibrium solution's, the shear being the largest of all
     /// stages that stand.
     bool dellaRelazione = false;
     /// Some stage stands. Where none does the actions are 0 and mean nothing; the resistances do.

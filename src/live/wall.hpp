@@ -11,7 +11,7 @@
 
 namespace korven::live {
 
-/// A wall as it is known at one moment: the data, and all stages by the certain equilibrium as far
+/// A wall as it is known at one moment: the data, and all stages by the equilibrium solution as far
 /// as they stand.
 struct PareteViva {
     /// As they are, but that `rigidezzaEJ` is what the section gives where none is stored.

@@ -18,7 +18,7 @@ struct TiroInFase {
     std::string nota;
 };
 
-/// The force of an anchor in each stage of a wall, by the certain equilibrium.
+/// The force of an anchor in each stage of a wall, by the equilibrium solution.
 struct TiriTirante {
     std::vector<TiroInFase> fasi;  ///< element 0 is stage 1
     /// Why the stages from one on have no force: one sentence, translated; empty where all stand.

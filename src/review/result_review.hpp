@@ -6,7 +6,7 @@
 
 namespace korven::review {
 
-/// Computes a wall in memory, by the certain equilibrium and as a report would show it, and tells
+/// Computes a wall in memory, by the equilibrium solution and as a report would show it, and tells
 /// what is odd or dangerous about what it comes to. By weight, else in the order of the checks.
 /// Nothing is told of a project that a run would refuse, of which `esaminaProgetto` tells why.
 ///

@@ -16,7 +16,7 @@
 
 namespace korven::safety {
 
-/// The margin of one stage. What the certain equilibrium does not give stays empty.
+/// The margin of one stage. What the equilibrium solution does not give stays empty.
 struct MargineFase {
     int fase = 0;
     double scavo = 0;  ///< depth of the excavation [m]

@@ -191,8 +191,9 @@ std::string paroleSenzaRelazione(const Margine& margine) {
 }
 
 std::string paroleMetodo(const Margine& margine) {
-    return traduttore("Numeri dell'equilibrio certo, non del file dei risultati; segmenti") + ": " +
-           std::to_string(margine.nSeg);
+    return traduttore(
+               "Numeri della soluzione di equilibrio, non del file dei risultati; segmenti") +
+           ": " + std::to_string(margine.nSeg);
 }
 
 std::string notaPendenza(const Margine& margine) {

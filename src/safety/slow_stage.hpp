@@ -8,7 +8,7 @@
 
 namespace korven::safety {
 
-/// Follows a run and says of a stage that finds no rest what the certain equilibrium knows of it:
+/// Follows a run and says of a stage that finds no rest what the equilibrium solution knows of it:
 /// that the wall is a mechanism, or that it stands and only the iteration flips.
 class FaseSenzaRiposo {
  public:

@@ -8,7 +8,7 @@
 
 namespace korven::safety {
 
-/// One stage as the certain equilibrium leaves it, with its verdict.
+/// One stage as the equilibrium solution leaves it, with its verdict.
 struct FaseRaccontata {
     double scavo = 0;  ///< depth of the excavation [m]
     /// Of a stage that is no equilibrium nothing but its number and its verdict is set.
@@ -24,7 +24,7 @@ struct FaseRaccontata {
     [[nodiscard]] std::string frase() const;
 };
 
-/// All stages of a wall by the certain equilibrium.
+/// All stages of a wall by the equilibrium solution.
 struct EquilibrioRaccontato {
     int nSeg = 0;
     double h = 0;  ///< distance of the nodes [m]

@@ -10,10 +10,10 @@
 
 namespace korven::safety {
 
-/// The command that computes the certain equilibrium.
+/// The command that computes the equilibrium solution.
 inline constexpr base::Gemelli comandoEquilibrio{"equilibrio", "equilibrium"};
 
-/// Where the user of a program finds the certain equilibrium, as sentences say it.
+/// Where the user of a program finds the equilibrium solution, as sentences say it.
 enum class LuogoEquilibrio {
     comando,  ///< the command above, of the command line
     finestra  ///< the window of the desktop

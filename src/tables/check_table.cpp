@@ -90,9 +90,9 @@ bool noteSezione(const PareteViva& parete, Prospetto& p) {
 }
 
 void notaEquilibrio(Prospetto& p) {
-    p.note.push_back(traduttore(
-        "Verifiche con i numeri dell'equilibrio certo: momenti e taglio massimi di tutte le "
-        "fasi."));
+    p.note.push_back(
+        traduttore("Verifiche con i numeri della soluzione di equilibrio: momenti e taglio massimi "
+                   "di tutte le fasi."));
 }
 
 void noteRelazione(const Margine& margine, Prospetto& p) {

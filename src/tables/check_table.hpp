@@ -11,12 +11,12 @@ namespace korven::tables {
 /// digits and verdicts are those of the report; a note says so.
 ///
 /// Where the specified run gives no report but the wall stands, the same rules are applied to the
-/// certain equilibrium, the shear being the largest of all stages; a note says why. Of a wall that
+/// equilibrium solution, the shear being the largest of all stages; a note says why. Of a wall that
 /// does not stand, or without a section, there are no rows.
 /// @param margine  of the same wall
 [[nodiscard]] Prospetto prospettoVerifiche(const live::PareteViva& parete,
                                            const safety::Margine& margine);
-/// The same rules applied to the certain equilibrium, whatever report there is.
+/// The same rules applied to the equilibrium solution, whatever report there is.
 /// @param controlli  of the same wall, without a report: asserted
 [[nodiscard]] Prospetto prospettoVerifiche(const live::PareteViva& parete,
                                            const live::ControlliSezione& controlli);

@@ -121,8 +121,8 @@ std::vector<Colonna> colonne() {
 std::string origine(const PareteViva& parete, const ControlliSezione& controlli) {
     if (controlli.dellaRelazione) return traduttore("Azioni della relazione.");
     if (!controlli.conAzioni) return traduttore(azioniNonNote);
-    if (parete.sta()) return traduttore("Azioni dell'equilibrio certo.");
-    return riempito(traduttore("Azioni dell'equilibrio certo, fino alla fase %1."),
+    if (parete.sta()) return traduttore("Azioni della soluzione di equilibrio.");
+    return riempito(traduttore("Azioni della soluzione di equilibrio, fino alla fase %1."),
                     {std::to_string(parete.fasiInEquilibrio())});
 }
 

@@ -52,7 +52,7 @@ Prospetto prospettoFasi(const PareteViva& parete) {
         .titolo = traduttore("Fasi"),
         .colonne = {
             colonna(unita::nessuna, "Fase", "Numero della fase"),
-            colonnaParole("Esito", "Esito dell'equilibrio certo"),
+            colonnaParole("Esito", "Esito della soluzione di equilibrio"),
             colonna(unita::metri, "Scavo", "Profondità dello scavo, dalla testa della paratia"),
             colonna(unita::spostamentoFine, "Spostamento",
                     "Il maggiore in valore assoluto, positivo verso lo scavo"),

@@ -24,7 +24,7 @@ struct Luogo {
 /// Who computes a number.
 enum class Metodo {
     corsa,       ///< the specified run, as the report has it
-    equilibrio,  ///< the certain equilibrium
+    equilibrio,  ///< the equilibrium solution
     sezione,     ///< the section alone
 };
 

@@ -30,7 +30,7 @@ class PareteCalcolata {
     /// Force of an anchor in a stage of the specified run, by the anchor's law from the
     /// displacements of the run [t].
     [[nodiscard]] std::optional<double> tiroCorsa(int fase, int tirante);
-    /// A stage of the certain equilibrium, whatever is known of it; nullptr beyond the last.
+    /// A stage of the equilibrium solution, whatever is known of it; nullptr beyond the last.
     [[nodiscard]] const equilibrium::FaseEquilibrio* faseEquilibrio(int fase);
     /// The same, if it stands.
     [[nodiscard]] const equilibrium::FaseEquilibrio* inEquilibrio(int fase);

@@ -46,7 +46,7 @@ tables::Prospetto prospetto(const EsitoGruppo& gruppo) {
         colonnaParole("Caso", "Il nome del file che descrive il caso"),
         colonnaParole("Quantità", "Che cosa si confronta e dove"),
         colonnaParole("Calcolo",
-                      "Chi ha calcolato il valore: la relazione, l'equilibrio certo o "
+                      "Chi ha calcolato il valore: la relazione, la soluzione di equilibrio o "
                       "la sola sezione"),
         colonnaParole("Atteso", "Il valore della fonte"),
         colonnaParole("Ottenuto", "Il valore del programma"),

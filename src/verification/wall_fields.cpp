@@ -92,7 +92,7 @@ void prendiBase(const RigheCaso& righe, std::string_view nome, const std::string
 }
 
 void prendiSegmenti(const RigheCaso& righe, std::string_view testo, Parete& parete) {
-    constexpr int moltissimi = 10000;  // of the certain equilibrium, which knows no bound
+    constexpr int moltissimi = 10000;  // of the equilibrium solution, which knows no bound
     const double letto = numero(righe, testo);
     if (letto != std::floor(letto) || letto < analysis::minimoSegmenti || letto > moltissimi)
         righe.rifiuta("un numero intero di segmenti, da 3 in su");

@@ -53,9 +53,10 @@ void modello(const Fascicolo& f, Voci& voci) {
     if (const auto* metodo = project::codice(campo, f.parete.dati.metodoSpinte))
         voci.aggiungi("Metodo per le spinte", traduttore(metodo->voce));
     if (f.parete.nSeg > 0) voci.aggiungi(traduttore("Segmenti"), tables::cella(f.parete.nSeg));
-    voci.aggiungi("Origine dei numeri",
-                  traduttore("Tutti i numeri delle fasi sono dell'equilibrio certo e valgono per "
-                             "metro di paratia; della relazione è solo la colonna che lo dice."));
+    voci.aggiungi(
+        "Origine dei numeri",
+        traduttore("Tutti i numeri delle fasi sono della soluzione di equilibrio e valgono per "
+                   "metro di paratia; della relazione è solo la colonna che lo dice."));
 }
 
 std::string verdetto(const Fascicolo& f) {

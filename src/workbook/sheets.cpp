@@ -54,7 +54,7 @@ Foglio diParole(Prospetto p, std::string fonte = {}) {
 Foglio diNumeri(Prospetto p, std::size_t colonneFisse = 1) {
     return {.nome = {},
             .prospetto = std::move(p),
-            .fonte = traduttore("Numeri dell'equilibrio certo, per metro di paratia."),
+            .fonte = traduttore("Numeri della soluzione di equilibrio, per metro di paratia."),
             .colonneFisse = colonneFisse,
             .aCapo = false};
 }

@@ -35,7 +35,7 @@ TEST_F(Confronta, SaysOfEqualProjectsThatNothingDiffers) {
     const auto esito = confronta();
     EXPECT_EQ(esito.codice, 0) << esito.errori;
     EXPECT_TRUE(dice(esito.uscita, "Nessuna differenza.\n")) << esito.uscita;
-    EXPECT_TRUE(dice(esito.uscita, "dell'equilibrio certo")) << esito.uscita;
+    EXPECT_TRUE(dice(esito.uscita, "della soluzione di equilibrio")) << esito.uscita;
     EXPECT_FALSE(dice(esito.uscita, "Campi diversi")) << esito.uscita;
     EXPECT_EQ(nomi(), "dopo.kvd muro.kvd ");
 }

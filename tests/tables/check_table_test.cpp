@@ -84,7 +84,7 @@ TEST(ProspettoVerifiche, TakesTheEquilibriumWhereThereIsNoReportAndSaysSo) {
     EXPECT_EQ(taglio[4].numero, e.taglio.fase);
     ASSERT_EQ(p.note.size(), 2u);
     EXPECT_EQ(p.note[0].find("La relazione non ha numeri"), 0u) << p.note[0];
-    EXPECT_EQ(p.note[1].find("Verifiche con i numeri dell'equilibrio certo"), 0u);
+    EXPECT_EQ(p.note[1].find("Verifiche con i numeri della soluzione di equilibrio"), 0u);
 }
 
 TEST(ProspettoVerifiche, OfAWallThatFallsOrWithoutASectionHasNoRows) {

@@ -1,4 +1,4 @@
-// The certain equilibrium and the strength reduction in several threads at once.
+// The equilibrium solution and the strength reduction in several threads at once.
 
 #include <gtest/gtest.h>
 

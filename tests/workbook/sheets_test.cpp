@@ -59,7 +59,7 @@ TEST(Fogli, SayWhoseNumbersTheyAre) {
     const CartellaFogli cartella = fogli(dossier::fascicolo(progettoSemplice()));
     for (const char* nome : {"fasi", "nodi", "inviluppo", "tiranti", "verifiche"})
         EXPECT_EQ(foglio(cartella, nome).fonte,
-                  "Numeri dell'equilibrio certo, per metro di paratia.");
+                  "Numeri della soluzione di equilibrio, per metro di paratia.");
 }
 
 // t to kN and m to mm, in full.
@@ -152,7 +152,7 @@ TEST(Fogli, CheckTheSectionWithTheEquilibriumThoughThereIsAReport) {
     ASSERT_GE(p.righe.size(), 2u);
     EXPECT_EQ(p.righe[0][1].numero, f.controlli.flessione->mdMax * 10);
     EXPECT_EQ(p.righe[1][1].numero, f.controlli.flessione->mdMin * 10);
-    EXPECT_TRUE(p.note.back().starts_with("Verifiche con i numeri dell'equilibrio certo"));
+    EXPECT_TRUE(p.note.back().starts_with("Verifiche con i numeri della soluzione di equilibrio"));
 }
 
 TEST(Fogli, SayWhyAWallThatDoesNotStandHasNoNumbers) {

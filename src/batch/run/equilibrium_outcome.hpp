@@ -7,7 +7,7 @@
 #include "analysis/iteration_state.hpp"
 #include "safety/told_stages.hpp"
 
-// The certain equilibrium of a wall as `equilibrio` tells it.
+// The equilibrium solution of a wall as `equilibrio` tells it.
 
 namespace korven::batch {
 

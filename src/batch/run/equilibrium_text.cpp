@@ -54,7 +54,8 @@ std::string testoEquilibrio(const EquilibrioRaccontato& equilibrio) {
     for (const FaseRaccontata& r : equilibrio.fasi)
         if (const std::string frase = r.frase(); !frase.empty()) testo += frase + '\n';
     return testo +
-           traduttore("Equilibrio certo, calcolato in memoria: nessun file dei risultati.") + '\n';
+           traduttore("Soluzione di equilibrio, calcolata in memoria: nessun file dei risultati.") +
+           '\n';
 }
 
 }  // namespace korven::batch

@@ -13,7 +13,7 @@ namespace korven::batch {
 /// Of the specified run, rounded to the digits of its result file.
 [[nodiscard]] nlohmann::ordered_json jsonNodi(const results::NodiFase& fase);
 
-/// Of the certain equilibrium, with the states of the soil; displacements with all their digits.
+/// Of the equilibrium solution, with the states of the soil; displacements with all their digits.
 /// @param h  distance of the nodes [m]
 [[nodiscard]] nlohmann::ordered_json jsonNodi(const equilibrium::FaseEquilibrio& fase, double h);
 

@@ -36,7 +36,7 @@ struct Esito {
     bool calcola = false;               ///< the command follows a wall through its stages
     /// What became of that; nothing if the command did not come so far.
     std::optional<safety::Causa> causa;
-    std::string spiegazione;  ///< what the certain equilibrium says of a run that found no rest
+    std::string spiegazione;  ///< what the equilibrium solution says of a run that found no rest
     bool esaminato = false;   ///< the remarks below are those of a review
     review::Osservazioni osservazioni;
     std::optional<results::EsitoCalcolo> calcolo;

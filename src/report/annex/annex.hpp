@@ -13,7 +13,7 @@ struct OpzioniAllegato {
 };
 
 /// The annex: what a designer signs and a checker follows, from the cover to the way to make it
-/// again, in the language in force. All its stage numbers are those of the certain equilibrium;
+/// again, in the language in force. All its stage numbers are those of the equilibrium solution;
 /// what is the specified run's is called so. A wall that does not stand, or that has no section, no
 /// anchors or no results, gives a document that says why.
 ///

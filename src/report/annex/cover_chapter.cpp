@@ -177,8 +177,10 @@ void capitoloCopertina(const Contesto& contesto, Blocchi& blocchi) {
     blocchi.emplace_back(document::Tavola{verdetti(f)});
     blocchi.emplace_back(Paragrafo{
         traduttore(
-            "I numeri delle fasi sono quelli dell'equilibrio certo. I numeri del calcolo per "
-            "fasi, da cui viene la relazione di calcolo, stanno accanto e sono detti tali; "
+            "I numeri delle fasi sono quelli della soluzione di equilibrio: in ogni nodo le forze "
+            "si bilanciano, a meno dell'arrotondamento. La relazione di calcolo viene dal calcolo "
+            "per fasi, che cerca lo stesso equilibrio provando gli stati del terreno e dei tiranti "
+            "finché nessuno cambia più. I suoi numeri stanno accanto e sono detti della relazione; "
             "dove i due differiscono, il documento lo dice."),
         Stile::nota});
     for (const char* chi : {"Progettista", "Verificatore"})

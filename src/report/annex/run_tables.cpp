@@ -37,7 +37,7 @@ std::string sullaCorsa(const Fascicolo& f) {
 }  // namespace
 
 Prospetto prospettoCorse(const Fascicolo& f) {
-    Prospetto p{.titolo = traduttore("Equilibrio certo e calcolo per fasi"),
+    Prospetto p{.titolo = traduttore("Soluzione di equilibrio e calcolo per fasi"),
                 .colonne = {numeri("Fase"), numeri("Passi"), numeri("Iterazioni"), colonna("Esito"),
                             numeri(unita::spostamentoFine, "Scarto dello spostamento"),
                             numeri(unita::momentoAlMetro, "Scarto del momento")}};
@@ -53,10 +53,10 @@ Prospetto prospettoCorse(const Fascicolo& f) {
         riga[4] = scarto(c->scartoSpostamento, tables::spostamento);
         riga[5] = scarto(c->scartoMomento, tables::momento);
     }
-    p.note.push_back(
-        traduttore("Passi: del metodo di Newton, con cui l'equilibrio certo è trovato. Iterazioni: "
-                   "del calcolo per fasi, che scrive la relazione. Scarti: le maggiori differenze "
-                   "fra i due lungo la paratia, in valore assoluto."));
+    p.note.push_back(traduttore(
+        "Passi: del metodo di Newton, con cui si trova la soluzione di equilibrio. Iterazioni: "
+        "del calcolo per fasi, che scrive la relazione. Scarti: le maggiori differenze "
+        "fra i due lungo la paratia, in valore assoluto."));
     if (std::string frase = sullaCorsa(f); !frase.empty()) p.note.push_back(std::move(frase));
     return p;
 }

@@ -40,16 +40,17 @@ void azioni(const Fascicolo& f, Blocchi& blocchi) {
         return;
     }
     if (!f.parete.sta())
-        paragrafo(riempito(traduttore("Azioni dell'equilibrio certo, fino alla fase %1."),
+        paragrafo(riempito(traduttore("Azioni della soluzione di equilibrio, fino alla fase %1."),
                            {std::to_string(f.parete.fasiInEquilibrio())}),
                   blocchi, Stile::pericolo);
     const auto due = [](double v) { return base::testoDecimali(v, 2); };
     paragrafo(
-        riempito(traduttore("Azioni dell'equilibrio certo: i momenti e il taglio maggiori fra "
-                            "tutte le fasi in equilibrio. Coefficienti parziali: azioni %1, "
-                            "calcestruzzo %2, acciaio %3."),
-                 {due(structure::fsAzioniSezione), due(structure::fsCalcestruzzo),
-                  due(structure::fsAcciaio)}),
+        riempito(
+            traduttore("Azioni della soluzione di equilibrio: i momenti e il taglio maggiori fra "
+                       "tutte le fasi in equilibrio. Coefficienti parziali: azioni %1, "
+                       "calcestruzzo %2, acciaio %3."),
+            {due(structure::fsAzioniSezione), due(structure::fsCalcestruzzo),
+             due(structure::fsAcciaio)}),
         blocchi);
 }
 

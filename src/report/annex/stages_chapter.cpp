@@ -27,13 +27,14 @@ namespace {
 
 void introduzione(const Fascicolo& f, Blocchi& blocchi) {
     paragrafo(
-        riempito(traduttore("Ogni fase è calcolata con l'equilibrio certo: la paratia, divisa "
-                            "in %1 segmenti di %2 m, è in equilibrio in ogni nodo con "
-                            "terreno, acqua, tiranti, vincoli e carichi. Un tirante agisce "
-                            "dalla fase che lo mette in opera, e ne conta gli spostamenti da "
-                            "allora; il terreno non ricorda le fasi precedenti."),
-                 {std::to_string(f.parete.nSeg),
-                  tables::cella(f.parete.h, 4, project::unita::metri).testo}),
+        riempito(
+            traduttore("Di ogni fase c'è la soluzione di equilibrio: la paratia, divisa in %1 "
+                       "segmenti di %2 m, è in equilibrio in ogni nodo con terreno, acqua, "
+                       "tiranti, vincoli e carichi. Un tirante agisce dalla fase che lo mette in "
+                       "opera e conta gli spostamenti da allora; il terreno non ricorda le fasi "
+                       "precedenti."),
+            {std::to_string(f.parete.nSeg),
+             tables::cella(f.parete.h, 4, project::unita::metri).testo}),
         blocchi);
     paragrafo(
         traduttore("Valori per metro di paratia, profondità dalla testa. Spostamenti, "

@@ -80,7 +80,7 @@ TEST(CapitoloFasi, HoldsTheBalanceOfEachStage) {
 TEST(CapitoloFasi, SetsTheSpecifiedRunBesideTheEquilibrium) {
     const Contesto c = contesto(test::progettoSemplice());
     const auto b = fasi(c);
-    const auto p = tavola(b, "Equilibrio certo e calcolo per fasi");
+    const auto p = tavola(b, "Soluzione di equilibrio e calcolo per fasi");
     const dossier::CorsaFase& corsa = c.fascicolo->corsa[1];
     EXPECT_EQ(numero(p, 1, 1), c.fascicolo->parete.fase(2)->passi);
     EXPECT_EQ(numero(p, 1, 2), corsa.iterazioni);
@@ -108,7 +108,7 @@ TEST(CapitoloFasi, OfAWallThatFallsSaysHowAndTellsTheStagesThatStand) {
     EXPECT_NE(testo(b).find("nessun equilibrio"), std::string::npos);
     EXPECT_NE(testo(b).find("Fase 3\nNon calcolata"), std::string::npos);
     EXPECT_EQ(test::tutti<document::Figura>(b).size(), 2U);  // stage 1 and the fall
-    const auto corse = tavola(b, "Equilibrio certo e calcolo per fasi");
+    const auto corse = tavola(b, "Soluzione di equilibrio e calcolo per fasi");
     EXPECT_EQ(corse.righe[0][2].testo, "-");
     EXPECT_EQ(corse.note.back(),
               "Il calcolo per fasi, che scrive la relazione, non è stato eseguito.");
@@ -127,7 +127,7 @@ TEST(CapitoloFasi, OfARunWithoutRestHasTheEquilibriumAndSaysSo) {
     }();
     const auto b = fasi(c);
     EXPECT_TRUE(haTavola(b, "Nodi: Fase 1"));
-    const auto corse = tavola(b, "Equilibrio certo e calcolo per fasi");
+    const auto corse = tavola(b, "Soluzione di equilibrio e calcolo per fasi");
     EXPECT_EQ(corse.righe[0][3].testo, "non assestata");
     EXPECT_EQ(corse.righe[0][3].peso, review::Peso::pericolo);
     EXPECT_NE(corse.note.back().find("non si assesta"), std::string::npos);

@@ -129,7 +129,7 @@ TEST_F(PannelloSezioneTest, GreysWhatWaitsForTheReportAndSaysSoInItsPlace) {
     scrivi("Text7", "900");
     EXPECT_TRUE(grigie());
     EXPECT_EQ(origine.text(), "Calcolo in corso...");
-    EXPECT_EQ(origine.toolTip(), "Azioni dell'equilibrio certo.");
+    EXPECT_EQ(origine.toolTip(), "Azioni della soluzione di equilibrio.");
     QTest::qWait(1);
     EXPECT_EQ(origine.geometry(), posto);
     ASSERT_TRUE(QTest::qWaitFor([&] { return vita.vivo().lenti() != nullptr; }, 30000));
