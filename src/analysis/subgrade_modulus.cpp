@@ -10,10 +10,6 @@ namespace korven::analysis {
 
 namespace {
 
-// Taken off the saturated weight below water: a fixed 1 t/m3, which the method keeps even where the
-// project gives water another weight.
-constexpr double alleggerimentoBowles = 1;
-
 ModuloNodo lancellotta(double coeffM, double sigmaRiposo) {
     if (sigmaRiposo < 0) return {0, Indefinito::tensioneNegativa};
     return {-coeffM * std::sqrt(sigmaRiposo)};
@@ -35,12 +31,12 @@ FattoriPortanza fattoriPortanza(double phi) {
     assert(phi != 0);
     const double radice = std::tan(pi / 4 + phi / 2);
     const double Nq = radice * radice * std::exp(pi * std::tan(phi));
-    return {Nq, (Nq - 1) / std::tan(phi), 1.5 * (Nq - 1) * std::tan(phi)};
+    return {Nq, (Nq - 1) / std::tan(phi), fattoreNgamma * (Nq - 1) * std::tan(phi)};
 }
 
 double moduloBowles(double c, double G, double sigmaEfficace, const FattoriPortanza& portanza) {
     const auto& [Nq, Nc, Ngamma] = portanza;
-    return -40 * (c * Nc + G * Ngamma + sigmaEfficace * Nq);
+    return -fattoreBowles * (c * Nc + G * Ngamma + sigmaEfficace * Nq);
 }
 
 ModuloNodo moduloReazione(const project::DatiProgetto& dati, const NodoKs& nodo) {

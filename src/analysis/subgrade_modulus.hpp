@@ -33,6 +33,12 @@ struct NodoKs {
     double fondo = 0;            ///< bottom of the layer for the linear method [m]
 };
 
+inline constexpr double fattoreBowles = 40;   ///< of the sum of three terms [1/m]
+inline constexpr double fattoreNgamma = 1.5;  ///< of Ngamma
+/// Taken off the saturated weight below water: a fixed 1 t/m3, which the method keeps even where
+/// the project gives water another weight.
+inline constexpr double alleggerimentoBowles = 1;
+
 ///     Nq = tan^2(pi/4 + phi/2) exp(pi tan phi),  Nc = (Nq - 1) / tan phi,
 ///     Ngamma = 1.5 (Nq - 1) tan phi
 ///

@@ -4,7 +4,9 @@
 #include <cmath>
 #include <iterator>
 #include <type_traits>
+#include <utility>
 
+#include "base/filled_text.hpp"
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
 #include "live/section_checks.hpp"
@@ -39,10 +41,15 @@ using F = const Fascicolo&;
 
 bool sempre(F) { return true; }
 
+bool diPalancola(F f) {
+    return project::parteInVigore(f.parete.dati.sezione) == project::Parte::palancola;
+}
+
 // The first that holds counts.
 constexpr Regola regole[] = {
-    {&DatiProgetto::suStrato, sempre, false, "nessun calcolo lo legge"},
-    {&DatiProgetto::opzioneRiservata, sempre, false, "nessun calcolo lo legge"},
+    {&DatiProgetto::suStrato, sempre, false,
+     "il terreno resiste con phi e c; Su sta solo nella stratigrafia"},
+    {&DatiProgetto::opzioneRiservata, sempre, false, "il file lo conserva soltanto"},
     {&DatiProgetto::faldaValle, sempre, false, "valore di lavoro: vale la falda di ogni fase"},
     {&DatiProgetto::ksStrato,
      [](F f) {
@@ -58,6 +65,8 @@ constexpr Regola regole[] = {
                 f.parete.dati.metodoKs != MetodoKs::bowles;
      },
      false, "con Bell la coesione non entra nei limiti"},
+    {&DatiProgetto::coesione, [](F f) { return f.parete.dati.metodoSpinte == MetodoSpinte::bell; },
+     true, "con Bell entra solo in ks, non nei limiti"},
     {&DatiProgetto::inclinazioneMonte,
      [](F f) { return f.parete.dati.metodoSpinte == MetodoSpinte::bell; }, true,
      "con Bell entra solo nella spinta a riposo"},
@@ -77,6 +86,8 @@ constexpr Regola regole[] = {
      [](F f) { return f.scritti.metodoSpinte != f.parete.dati.metodoSpinte; }, true,
      "scelto con un'opzione al posto di quello scritto"},
     {&DatiProgetto::gammaAcqua, sempre, true, "in t/m³, diversamente dagli altri pesi"},
+    {&project::Sezione::modEcls, diPalancola, false, "la palancola non ha calcestruzzo"},
+    {&project::Sezione::fck, diPalancola, false, "la palancola non ha calcestruzzo"},
     {&project::Sezione::armNumLong, sempre, true,
      "il calcolo usa il numero conservato nel file, un decimo di quello mostrato"},
     {&DatiProgetto::rigTirante, sempre, true,
@@ -124,7 +135,9 @@ Uso uso(const Fascicolo& f, const Campo& campo) {
         return r.membro == campo.membro && r.vale(f);
     });
     if (regola == std::end(regole)) return {};
-    return {.letto = regola->letto, .nota = traduttore(regola->nota)};
+    std::string nota = traduttore(regola->nota);
+    if (!regola->letto) nota = base::riempito(traduttore("non letto (%1)"), {nota});
+    return {.letto = regola->letto, .nota = std::move(nota)};
 }
 
 Cella usato(const Fascicolo& f, const Campo& campo, int riga) {

@@ -82,7 +82,7 @@ tables::Prospetto tabella(const Fascicolo& f, Parte parte, const char* titolo) {
     tables::Prospetto p{.titolo = traduttore(titolo), .colonne = {colonnaNumero()}};
     const int righe = project::righe(f.scritti, parte);
     for (int i = 1; i <= righe; ++i) p.righe.push_back({tables::cella(i)});
-    bool uguali = true;
+    bool uguali = true, letti = true;
     for (const Campo& campo : project::campi()) {
         if (campo.parte != parte || !project::colonna(campo)) continue;
         p.colonne.push_back(testa(campo));
@@ -90,13 +90,16 @@ tables::Prospetto tabella(const Fascicolo& f, Parte parte, const char* titolo) {
             p.righe[static_cast<std::size_t>(i) - 1].push_back(scritto(f.scritti, campo, i));
             uguali = uguali && scritto(f.scritti, campo, i) == scritto(f.parete.dati, campo, i);
         }
-        if (const Uso suo = uso(f, campo); !suo.nota.empty())
-            p.note.push_back(nome(campo) + ": " + suo.nota + ".");
+        const Uso suo = uso(f, campo);
+        letti = letti && suo.letto;
+        if (!suo.nota.empty()) p.note.push_back(nome(campo) + ": " + suo.nota + ".");
     }
     if (righe == 0) p.note = {traduttore("La tabella è vuota.")};
     if (righe > 0 && uguali)
         p.note.insert(p.note.begin(),
-                      traduttore("Valori come sono scritti; il calcolo prende gli stessi."));
+                      traduttore(letti ? "Valori come sono scritti; il calcolo prende gli stessi."
+                                       : "Valori come sono scritti; il calcolo prende gli stessi "
+                                         "dei campi che legge."));
     return p;
 }
 

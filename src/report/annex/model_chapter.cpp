@@ -1,12 +1,19 @@
 #include <string>
 #include <vector>
 
+#include "analysis/subgrade_modulus.hpp"
+#include "base/filled_text.hpp"
+#include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
 #include "project/codes.hpp"
 #include "project/units.hpp"
 #include "report/annex/chapters.hpp"
 #include "report/annex/columns.hpp"
+#include "report/annex/model_tables.hpp"
 #include "report/annex/sources.hpp"
+#include "report/annex/table_pieces.hpp"
+#include "structure/partial_factors.hpp"
+#include "structure/strip_model.hpp"
 #include "tables/result_table.hpp"
 
 namespace korven::report {
@@ -24,6 +31,7 @@ struct Ipotesi {
     const char* testo;
     const char* fonte;
     bool (*vale)(const DatiProgetto&) = nullptr;  ///< empty: always
+    std::vector<double> valori = {};              ///< of %1 to %9, as the calculation has them
 };
 
 template <auto codice, double DatiProgetto::*membro>
@@ -36,7 +44,7 @@ constexpr auto spinte = &DatiProgetto::metodoSpinte;
 constexpr auto ks = &DatiProgetto::metodoKs;
 
 // What is computed, with the methods of this project alone.
-constexpr Ipotesi ipotesi[] = {
+const Ipotesi ipotesi[] = {
     {"Paratia",
      "Trave elastica di rigidezza EJ costante su molle, divisa in segmenti uguali. Terreno, acqua "
      "e "
@@ -65,8 +73,11 @@ constexpr Ipotesi ipotesi[] = {
      "ka = tan²(45° - phi/2), kp = tan²(45° + phi/2); nei limiti non entrano né la coesione né "
      "l'inclinazione del terreno.",
      fonti::bell, ha<bell, spinte>},
-    {"Modulo ks: Bowles", "ks = 40 (c Nc + gamma Ngamma + sigma' Nq), con i fattori di Hansen.",
-     fonti::bowles, ha<bowles, ks>},
+    {"Modulo ks: Bowles",
+     "ks = %1 (c Nc + gamma Ngamma + sigma' Nq), con i fattori di Hansen.",
+     fonti::bowles,
+     ha<bowles, ks>,
+     {analysis::fattoreBowles}},
     {"Modulo ks: Lancellotta", "ks = m (k0 sigma)^½, con m scritto nel progetto e sigma in t/m².",
      fonti::lancellotta, ha<lancellotta, ks>},
     {"Modulo ks: costante", "Il ks scritto per ogni strato.", fonti::winkler, ha<costante, ks>},
@@ -89,10 +100,12 @@ constexpr Ipotesi ipotesi[] = {
      "sola trazione non agisce in compressione.",
      fonti::winkler},
     {"Flessione della sezione",
-     "Sezioni piane, 100 strisce, calcestruzzo senza trazione, con lo sforzo normale scritto; "
-     "azioni "
-     "per 1.4, calcestruzzo diviso per 1.6, acciaio per 1.15.",
-     fonti::eurocodice},
+     "Sezioni piane, %1 strisce, calcestruzzo senza trazione, con lo sforzo normale scritto; "
+     "azioni per %2, calcestruzzo diviso per %3, acciaio per %4.",
+     fonti::eurocodice,
+     nullptr,
+     {structure::nStrisce, structure::fsAzioniSezione, structure::fsCalcestruzzo,
+      structure::fsAcciaio}},
     {"Taglio della sezione",
      "Solo per pali armati con staffe: metodo normale, bielle di calcestruzzo e armatura d'anima.",
      fonti::eurocodice},
@@ -100,19 +113,6 @@ constexpr Ipotesi ipotesi[] = {
      "tan phi e c divisi per F finché la fase è appena in equilibrio: i coefficienti k0 e i moduli "
      "restano quelli del progetto.",
      fonti::riduzione},
-};
-
-// What a checker must not take for done.
-constexpr const char* esclusi[] = {
-    "Attrito fra terreno e paratia: non c'è, delta = 0 sui due lati.",
-    "Memoria del terreno: chi ha raggiunto il limite ritorna elastico, senza deformazione "
-    "permanente.",
-    "Filtrazione, sifonamento e sollevamento del fondo dello scavo.",
-    "Stabilità globale del versante e della paratia con il terreno.",
-    "Capacità portante verticale della paratia e cedimenti del terreno attorno.",
-    "Resistenza dei tiranti, dei bulbi e dei puntoni: qui c'è la loro forza.",
-    "Azioni sismiche e carichi concentrati sul terreno.",
-    "Instabilità locale delle palancole e scorrimento nei loro giunti.",
 };
 
 struct Segno {
@@ -137,10 +137,13 @@ constexpr Segno segni[] = {
 tables::Prospetto prospettoIpotesi(const DatiProgetto& dati) {
     tables::Prospetto p{.titolo = traduttore("Che cosa si calcola"),
                         .colonne = {colonna("Argomento"), colonna("Ipotesi"), colonna("Fonte")}};
-    for (const Ipotesi& i : ipotesi)
-        if (i.vale == nullptr || i.vale(dati))
-            p.righe.push_back(
-                {parola(traduttore(i.argomento)), parola(traduttore(i.testo)), parola(i.fonte)});
+    for (const Ipotesi& i : ipotesi) {
+        if (i.vale != nullptr && !i.vale(dati)) continue;
+        std::vector<std::string> valori;
+        for (const double valore : i.valori) valori.push_back(base::testoNumero(valore));
+        p.righe.push_back({parola(traduttore(i.argomento)),
+                           parola(base::riempito(traduttore(i.testo), valori)), parola(i.fonte)});
+    }
     return p;
 }
 
@@ -160,17 +163,11 @@ tables::Prospetto prospettoSegni() {
 }  // namespace
 
 void capitoloModello(const Contesto& contesto, Blocchi& blocchi) {
-    using document::Paragrafo;
     const DatiProgetto& dati = contesto.fascicolo->parete.dati;
-    blocchi.emplace_back(document::Tavola{prospettoIpotesi(dati)});
-    blocchi.emplace_back(document::Titolo{2, traduttore("Che cosa non si calcola")});
-    std::string elenco = traduttore(
-        "Nessun coefficiente di sicurezza è applicato al terreno: le sue resistenze sono quelle "
-        "scritte, e il capitolo Margine dice di quanto si potrebbero ridurre.");
-    for (const char* cosa : esclusi) elenco += "\n- " + traduttore(cosa);
-    blocchi.emplace_back(Paragrafo{elenco, {}});
-    blocchi.emplace_back(document::SaltoPagina{});  // a page is full, and the table stays whole
-    blocchi.emplace_back(document::Tavola{prospettoSegni()});
+    tavola(prospettoIpotesi(dati), blocchi);
+    tavola(prospettoMolla(dati), blocchi);
+    tavola(prospettoEsclusi(), blocchi);
+    tavola(prospettoSegni(), blocchi);
 }
 
 }  // namespace korven::report

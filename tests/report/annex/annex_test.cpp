@@ -139,6 +139,36 @@ TEST(Modello, TellsOfTheMethodsOfThisProjectAlone) {
     EXPECT_TRUE(riga(blocchi, "Spinte: Rankine").empty());
 }
 
+TEST(Modello, SaysOfEachThingThatIsNotComputedWhatFollowsAndWhereItsRulesStand) {
+    for (const auto& tavola : tavole(capitolo(capitoloModello, fascicoloDi(muro())))) {
+        if (tavola.titolo != "Che cosa non si calcola") continue;
+        EXPECT_GE(tavola.righe.size(), 9U);
+        for (const auto& r : tavola.righe)
+            for (const auto& cella : r) EXPECT_GE(cella.testo.size(), 20U) << r[0].testo;
+        return;
+    }
+    FAIL() << "no such table";
+}
+
+TEST(Modello, LeavesCohesionOutOfTheLimitsOfBell) {
+    DatiProgetto dati = muro();
+    EXPECT_EQ(riga(capitolo(capitoloModello, fascicoloDi(dati)), "Limite attivo")[1],
+              "pa = ka σ − 2 c tan(45° − φ/2) ≥ 0");
+    dati.metodoSpinte = project::valore(project::MetodoSpinte::bell);
+    EXPECT_EQ(riga(capitolo(capitoloModello, fascicoloDi(dati)), "Limite attivo")[1], "pa = ka σ");
+}
+
+TEST(Dati, SayWhyAFieldIsNotRead) {
+    DatiProgetto dati = muro();
+    dati.sezione = structure::palancola();
+    dati.coeffM = 3;
+    const auto blocchi = capitolo(capitoloDati, fascicoloDi(dati));
+    EXPECT_EQ(riga(blocchi, "coeffM")[4], "-");
+    EXPECT_EQ(riga(blocchi, "coeffM")[5],
+              "non letto (lo legge solo il metodo di Lancellotta per ks)");
+    EXPECT_EQ(riga(blocchi, "sezione.fck")[5], "non letto (la palancola non ha calcestruzzo)");
+}
+
 TEST(Osservazioni, AreAllThereEachOnce) {
     const Fascicolo f = fascicoloDi(muro());
     std::size_t righe = 0;
