@@ -34,14 +34,17 @@ constexpr double passoX = 0.35 * em, passoY = 0.3 * em;
 // What makes a place worse, in pixels of distance.
 constexpr double peggioForma = 0.7 * em, peggioRetta = 0.8 * em, peggioRichiamo = 3 * em;
 constexpr double peggioCurva = 60 * em;
+constexpr double arrotondamento = 1e-6;  // sums of these in another order differ by less
 
 double distanza(const Punto& p, const Riquadro& r) {
     return std::hypot(p.x - std::clamp(p.x, r.sinistra, r.destra),
                       p.y - std::clamp(p.y, r.alto, r.basso));
 }
 
-bool attraversa(const TrattoScena& tratto, const Riquadro& r) {
-    return dentro(tratto.first, tratto.second, r).has_value();
+bool attraversa(const Punto& da, const Punto& a, const Riquadro& r) {
+    if (std::max(da.x, a.x) < r.sinistra || std::min(da.x, a.x) > r.destra) return false;
+    if (std::max(da.y, a.y) < r.alto || std::min(da.y, a.y) > r.basso) return false;
+    return dentro(da, a, r).has_value();
 }
 
 // How many of the lines of a curve, from the top down, meet a rectangle.
@@ -50,7 +53,7 @@ bool tocca(const std::vector<Punto>& curva, const Riquadro& r) {
                               [](const Punto& uno, double y) { return uno.y < y; });
     if (p != curva.begin()) --p;
     for (; p != curva.end() && p + 1 != curva.end() && p->y <= r.basso; ++p)
-        if (dentro(*p, *(p + 1), r)) return true;
+        if (attraversa(*p, *(p + 1), r)) return true;
     return false;
 }
 
@@ -87,6 +90,7 @@ class Etichetta {
         const double fondo = campo_.posto.basso - alto;
         const auto quota = [&](double y) {
             if (y < campo_.posto.alto || y > fondo) return;
+            if (std::max(y - p.y, p.y - (y + alto)) >= minimo_) return;  // the whole row is too far
             for (const double x : ascisse)
                 if (x >= campo_.posto.sinistra && x + largo <= campo_.posto.destra)
                     prova(forma, {x, y, x + largo, y + alto});
@@ -102,14 +106,19 @@ class Etichetta {
     }
 
     void prova(std::size_t forma, const Riquadro& r) {
-        double peggio = distanza(picco_.punto, r) + peggioForma * static_cast<double>(forma);
-        if (peggio >= minimo_) return;
+        const double lontananza = distanza(picco_.punto, r);
+        const bool richiamo = lontananza > vicino;
+        double peggio = lontananza + peggioForma * static_cast<double>(forma);
+        // Most places are given up here: what the lines add only makes them worse.
+        if (peggio + (richiamo ? peggioRichiamo : 0) >= minimo_ + arrotondamento || !libero(r))
+            return;
         for (const auto& retta : campo_.rette)
-            if (attraversa(retta, r)) peggio += peggioRetta;
-        if (peggio >= minimo_ || !libero(r)) return;
-        for (const auto& curva : campo_.curve)
+            if (attraversa(retta.first, retta.second, r)) peggio += peggioRetta;
+        for (const auto& curva : campo_.curve) {
+            if (peggio >= minimo_) return;
             if (tocca(curva, r)) peggio += peggioCurva;
-        if (peggio < minimo_ && lontano(r)) peggio += peggioDelRichiamo(r);
+        }
+        if (peggio < minimo_ && richiamo) peggio += peggioDelRichiamo(r);
         if (peggio >= minimo_) return;
         minimo_ = peggio;
         scegli(forma, r);
@@ -118,9 +127,6 @@ class Etichetta {
     [[nodiscard]] bool libero(const Riquadro& r) const {
         return std::none_of(occupati_.begin(), occupati_.end(),
                             [&](const Riquadro& uno) { return uno.tocca(r); });
-    }
-    [[nodiscard]] bool lontano(const Riquadro& r) const {
-        return distanza(picco_.punto, r) > vicino;
     }
     // A stroke to its peak leaves other texts alone, and curves if it can.
     [[nodiscard]] double peggioDelRichiamo(const Riquadro& r) const {
