@@ -114,26 +114,9 @@ void riduzioni(benchmark::State& stato) {
         }
 }
 
-/// The wall with two rows of anchors, dug down in so many equal steps; an anchor comes into place
-/// once the excavation is 0.5 m below it.
-project::DatiProgetto scavatoIn(int fasi) {
-    auto dati = muro(false);
-    const double fondo = dati.profFase[dati.nFasi], falda = dati.faldaFase[dati.nFasi];
-    dati.nFasi = fasi;
-    for (int k = 1; k <= fasi; ++k) {
-        dati.profFase[k] = fondo * k / fasi;
-        dati.faldaFase[k] = falda;
-        dati.sovraccFase[k] = 0;
-        dati.tirantiFase[k] = 0;
-        for (int a = 1; a <= dati.nTiranti; ++a)
-            if (dati.profTirante[a] + 0.5 <= dati.profFase[k]) ++dati.tirantiFase[k];
-    }
-    return dati;
-}
-
 void crescita(benchmark::State& stato) {
     const int nSeg = static_cast<int>(stato.range(0));
-    const auto dati = scavatoIn(static_cast<int>(stato.range(1)));
+    const auto dati = bench::scavatoIn(static_cast<int>(stato.range(1)));
     int passi = 0;
     for (auto _ : stato) {
         equilibrium::EquilibrioParete parete(dati, nSeg);

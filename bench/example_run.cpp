@@ -15,6 +15,21 @@ project::DatiProgetto esempio(const std::string& nome) {
     return dati;
 }
 
+project::DatiProgetto scavatoIn(int fasi) {
+    auto dati = esempio("diaframma_due_ordini");
+    const double fondo = dati.profFase[dati.nFasi], falda = dati.faldaFase[dati.nFasi];
+    dati.nFasi = fasi;
+    for (int k = 1; k <= fasi; ++k) {
+        dati.profFase[k] = fondo * k / fasi;
+        dati.faldaFase[k] = falda;
+        dati.sovraccFase[k] = 0;
+        dati.tirantiFase[k] = 0;
+        for (int a = 1; a <= dati.nTiranti; ++a)
+            if (dati.profTirante[a] + 0.5 <= dati.profFase[k]) ++dati.tirantiFase[k];
+    }
+    return dati;
+}
+
 std::unique_ptr<analysis::ArraysCorsa> corsaConvergente(project::DatiProgetto dati, int nSeg) {
     auto corsa = std::make_unique<analysis::ArraysCorsa>();
     analysis::preparaCorsa(dati, nSeg, *corsa);
