@@ -18,11 +18,13 @@ namespace korven::drawings {
 struct FormatoFigura {
     double larghezza, altezza;
 };
-inline constexpr FormatoFigura formatoFase{17, 12.5};
+/// So high that the balance of a stage stands below it on the same page.
+inline constexpr FormatoFigura formatoFase{17, 11.5};
 inline constexpr FormatoFigura formatoInviluppi{17, 12.5};
 inline constexpr FormatoFigura formatoParete{17, 12};
 inline constexpr FormatoFigura formatoSezione{11, 9};
-inline constexpr FormatoFigura formatoDominio{15, 10};
+/// So high that the directions of bending or the stages share its page.
+inline constexpr FormatoFigura formatoDominio{15, 8.5};
 inline constexpr FormatoFigura formatoConfronto{17, 21};
 
 /// One stage, counted from 1 (`scenaFase`).

@@ -49,6 +49,7 @@ bool attraversa(const Punto& da, const Punto& a, const Riquadro& r) {
 
 // How many of the lines of a curve, from the top down, meet a rectangle.
 bool tocca(const std::vector<Punto>& curva, const Riquadro& r) {
+    if (curva.empty() || curva.front().y > r.basso || curva.back().y < r.alto) return false;
     auto p = std::lower_bound(curva.begin(), curva.end(), r.alto,
                               [](const Punto& uno, double y) { return uno.y < y; });
     if (p != curva.begin()) --p;
@@ -136,7 +137,7 @@ class Etichetta {
         const Riquadro proprio{p.x - mezzoSegno, p.y - mezzoSegno, p.x + mezzoSegno,
                                p.y + mezzoSegno};
         for (const Riquadro& uno : occupati_)
-            if (!uno.tocca(proprio) && dentro(p, q, uno)) peggio += peggioCurva;
+            if (attraversa(p, q, uno) && !uno.tocca(proprio)) peggio += peggioCurva;
         return peggio;
     }
 

@@ -125,8 +125,7 @@ void dominio(const Contesto& contesto, Blocchi& blocchi) {
     if (f->dominio.empty()) return;
     auto p = tables::prospettoDominio(f->parete, nullptr, f->dominio);
     titolo(2, "Dominio N–M", blocchi);
-    // So high that the directions of bending or the stages share its page.
-    const auto [larghezza, altezza] = drawings::FormatoFigura{15, 8.5};
+    const auto [larghezza, altezza] = drawings::formatoDominio;
     const std::string cosa = traduttore("Dominio N–M della sezione e punti delle fasi");
     blocchi.emplace_back(document::Figura{
         cosa, cosa + ".", larghezza, altezza, [f, larghezza = larghezza, altezza = altezza] {

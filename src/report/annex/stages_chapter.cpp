@@ -65,8 +65,7 @@ std::string descrizione(const Fascicolo& f, int fase) {
 document::Figura figura(const Contesto& contesto, int fase) {
     const auto f = contesto.fascicolo;
     const bool sta = f->parete.fase(fase) != nullptr;
-    // So high that the balance of a stage stands below it on the same page.
-    const auto [larghezza, altezza] = drawings::FormatoFigura{17, 11.5};
+    const auto [larghezza, altezza] = drawings::formatoFase;
     return {riempito(traduttore(sta ? "Fase %1: paratia, pressioni, spostamento, momento e taglio"
                                     : "Fase %1: come la paratia cade"),
                      {std::to_string(fase)}),
