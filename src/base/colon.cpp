@@ -5,6 +5,10 @@
 
 namespace korven::base {
 
+std::string duePunti() { return conDuePunti({}, {}); }
+
+std::string puntoEVirgola() { return riempito(traduttore("%1; %2"), {"", ""}); }
+
 std::string conDuePunti(const std::string& cosa, const std::string& detto) {
     return riempito(traduttore("%1: %2"), {cosa, detto});
 }

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "analysis/segment_count.hpp"
+#include "base/colon.hpp"
 #include "base/filled_text.hpp"
 #include "base/folders/file_names.hpp"
 #include "base/translated_texts.hpp"
@@ -79,7 +80,8 @@ Confronto confrontoDiProgetti(const Opzioni& opzioni, Esito& esito) {
 int codice(const Confronto& confronto, Esito& esito) {
     if (confronto.stanno()) return fatto;
     for (const Muro* muro : {&confronto.prima, &confronto.dopo})
-        if (!muro->fascicolo.parete.sta()) racconta({muro->nome + ": " + verdetto(*muro)}, esito);
+        if (!muro->fascicolo.parete.sta())
+            racconta({muro->nome + base::duePunti() + verdetto(*muro)}, esito);
     return nonEseguito;
 }
 

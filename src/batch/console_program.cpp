@@ -5,6 +5,7 @@
 #include <iostream>
 
 #include "analysis/result_guard.hpp"
+#include "base/colon.hpp"
 #include "base/folders/program_folder.hpp"
 #include "base/process/closed_pipe.hpp"
 #include "base/translated_texts.hpp"
@@ -38,7 +39,7 @@ std::string resoconto(const Opzioni& opzioni, const Esito& esito) {
     if (esito.confronto) testo += testoConfronto(*esito.confronto);
     if (esito.autoverifica) testo += testoAutoverifica(esito.autoverifica->esito);
     for (const auto& file : esito.fileScritti)
-        testo += base::traduttore("File scritto") + ": " + file + '\n';
+        testo += base::traduttore("File scritto") + base::duePunti() + file + '\n';
     return testo;
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/colon.hpp"
 #include "base/filled_text.hpp"
 #include "base/translated_texts.hpp"
 
@@ -59,16 +60,19 @@ std::vector<tables::Colonna> colonneRisultati() {
 void note(const RisultatoConfrontato& r, Prospetto& p) {
     for (const Cella* c : {&r.prima, &r.dopo}) {
         if (c->perche.empty()) continue;
-        std::string nota = traduttore(c == &r.prima ? "Prima" : "Dopo") + ": " + c->perche;
+        std::string nota =
+            traduttore(c == &r.prima ? "Prima" : "Dopo") + base::duePunti() + c->perche;
         if (std::find(p.note.begin(), p.note.end(), nota) == p.note.end())
             p.note.push_back(std::move(nota));
     }
 }
 
 std::string fraseMuro(const char* quale, const Muro& muro) {
-    std::string frase = traduttore(quale) + ": " + muro.nome + ": " + verdetto(muro);
+    std::string frase =
+        traduttore(quale) + base::duePunti() + muro.nome + base::duePunti() + verdetto(muro);
     if (const int nSeg = muro.fascicolo.parete.nSeg; nSeg > 0)
-        frase += "; " + riempito(traduttore("segmenti: %1"), {std::to_string(nSeg)});
+        frase +=
+            base::puntoEVirgola() + riempito(traduttore("segmenti: %1"), {std::to_string(nSeg)});
     return frase;
 }
 
@@ -139,8 +143,9 @@ std::vector<std::string> righeOsservazioni(const Confronto& c) {
     std::vector<std::string> righe;
     for (const auto* lista : {&c.sparite, &c.nuove})
         for (const auto& o : *lista)
-            righe.push_back(traduttore(lista == &c.sparite ? "solo prima" : "solo dopo") + ": " +
-                            traduttore(parolaMostrata(o.peso)) + ": " + o.testo);
+            righe.push_back(traduttore(lista == &c.sparite ? "solo prima" : "solo dopo") +
+                            base::duePunti() + traduttore(parolaMostrata(o.peso)) +
+                            base::duePunti() + o.testo);
     return righe;
 }
 

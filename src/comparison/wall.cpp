@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "base/colon.hpp"
 #include "base/filled_text.hpp"
 #include "base/translated_texts.hpp"
 #include "results/node_results.hpp"
@@ -72,12 +73,14 @@ std::string verdetto(const Muro& muro) {
     if (muro.origine == Origine::fileRisultati)
         return base::riempito(traduttore("calcolo per fasi concluso, fasi: %1"),
                               {std::to_string(parete.fasi.size())});
-    if (!parete.rifiuto.empty()) return traduttore("non calcolata") + ": " + parete.rifiuto;
+    if (!parete.rifiuto.empty())
+        return traduttore("non calcolata") + base::duePunti() + parete.rifiuto;
     if (parete.sta())
         return base::riempito(traduttore("in equilibrio in tutte le fasi, che sono %1"),
                               {std::to_string(parete.fasi.size())});
-    return parete.perche ? frase(*parete.perche)
-                         : traduttore("non calcolata") + ": " + traduttore("nessun numero");
+    return parete.perche
+               ? frase(*parete.perche)
+               : traduttore("non calcolata") + base::duePunti() + traduttore("nessun numero");
 }
 
 }  // namespace korven::comparison

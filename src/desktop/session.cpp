@@ -1,5 +1,6 @@
 #include "desktop/session.hpp"
 
+#include "base/colon.hpp"
 #include "base/translated_texts.hpp"
 #include "commands/start/startup.hpp"
 #include "desktop/annex_of_project.hpp"
@@ -35,7 +36,7 @@ commands::FormeProgramma Sessione::forme(const PorteSessione& porte) {
                            shell::pannelliForme(dialogo, vita_));
     shell::collegaFigura(finestra_, vita_, dialogo, porte.stampante);
     const auto annuncia = [this](const std::string& percorso) {
-        finestra_.stato(base::traduttore("File scritto") + ": " + percorso);
+        finestra_.stato(base::traduttore("File scritto") + base::duePunti() + percorso);
     };
     shell::collegaDisegni(tutte, finestra_, dialogo, porte.stampante, annuncia);
     shell::collegaRecupero(tutte, finestra_);

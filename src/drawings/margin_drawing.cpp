@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "base/code_page.hpp"
+#include "base/colon.hpp"
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
 #include "base/value_error.hpp"
@@ -84,7 +85,8 @@ std::string legenda(const SegniMargine& segni) {
                safety::testoQuota(uso) + " %";
     };
     return traduttore("Tratteggio rado") + limiti(segni.riduzioneModesta, segni.passivaAlta) +
-           "; " + traduttore("fitto") + limiti(segni.riduzioneScarsa, segni.passivaMoltoAlta);
+           base::puntoEVirgola() + traduttore("fitto") +
+           limiti(segni.riduzioneScarsa, segni.passivaMoltoAlta);
 }
 
 std::string legendaMuro(const Margine& margine) {

@@ -7,6 +7,7 @@
 
 #include "analysis/pressure_coefficients.hpp"
 #include "analysis/run_arrays.hpp"
+#include "base/colon.hpp"
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
 #include "drawings/dashed_line.hpp"
@@ -131,7 +132,8 @@ class Muro {
             const double yNome = std::min(y(z), libera);
             plot::linea(xMuro_, y(z), x2_ - larghezzaNomi - 0.4, y(z));
             plot::plotMuovi(x2_ - larghezzaNomi, yNome, plot::pennaGiu);
-            const std::string nome = traduttore("fase") + " " + quota.first + ": " + metri(z);
+            const std::string nome =
+                traduttore("fase") + " " + quota.first + base::duePunti() + metri(z);
             const double stretta = larghezzaNomi / plot::larghezzaTesto(altezza, nome);
             plot::testoDa(x2_ - larghezzaNomi + 0.08, yNome - altezza / 2.6,
                           altezza * std::min(1.0, stretta), nome);

@@ -33,7 +33,8 @@ std::string con(const char* chiave, const equilibrium::Estremo& e, const project
 std::string tiri(const equilibrium::FaseEquilibrio& fase) {
     std::string testo;
     for (std::size_t i = 0; i < fase.tiri.size(); ++i) {
-        testo += testo.empty() ? "; " + base::conDuePunti(traduttore("tiri"), {}) : ", ";
+        testo += testo.empty() ? base::puntoEVirgola() + base::conDuePunti(traduttore("tiri"), {})
+                               : ", ";
         testo += "T" + std::to_string(i + 1) + " " +
                  conUnita(fase.tiri[i], project::unita::forzaAlMetro);
     }
@@ -63,8 +64,8 @@ std::string paroleFase(const live::PareteViva& parete, int fase) {
 
 std::string comEra(const live::ProgettoVivo& vivo, const std::string& parole) {
     if (vivo.impedimento().empty()) return parole;
-    return traduttore("com'era prima delle modifiche in corso") + " (" + vivo.impedimento() +
-           "): " + parole;
+    return traduttore("com'era prima delle modifiche in corso") + " (" + vivo.impedimento() + ")" +
+           base::duePunti() + parole;
 }
 
 namespace {
@@ -73,7 +74,7 @@ namespace {
 FaseDellaRiga invece(const live::ProgettoVivo& vivo, std::optional<int> fase, std::string perche) {
     fase = std::min(fase.value_or(0), vivo.parete().dati.nFasi);
     if (*fase < 1) return {{}, std::move(perche)};
-    return {fase, std::move(perche) + "; " + paroleFase(vivo.parete(), *fase)};
+    return {fase, std::move(perche) + base::puntoEVirgola() + paroleFase(vivo.parete(), *fase)};
 }
 
 FaseDellaRiga trovata(const live::ProgettoVivo& vivo, const masks::ModelloGriglia& griglia,

@@ -1,5 +1,6 @@
 #include <utility>
 
+#include "base/colon.hpp"
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
 #include "project/odd_lines.hpp"
@@ -29,7 +30,8 @@ std::vector<std::string> campiDetti(const std::string& detto, const DatiProgetto
 
 void racconta(const RigaInsolita& insolita, const DatiProgetto& dati, ElencoOsservazioni& elenco) {
     const std::string dove = traduttore("riga") + " " + std::to_string(insolita.riga);
-    const std::string letto = dove + ": " + insolita.campo + " = " + testoNumero(insolita.letto);
+    const std::string letto =
+        dove + base::duePunti() + insolita.campo + " = " + testoNumero(insolita.letto);
     switch (insolita.motivo) {
         case RigaInsolita::Motivo::resto:
             elenco.conParole("resto-della-riga", Soggetto{letto, campiDetti(insolita.campo, dati)},

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/code_page.hpp"
+#include "base/colon.hpp"
 #include "base/translated_texts.hpp"
 #include "drawings/log/depth_scale.hpp"
 #include "drawings/log/table.hpp"
@@ -65,7 +66,7 @@ std::vector<Stranezza> stranezzeTitolo(std::size_t riga, const std::vector<std::
 std::string notaTitolo(std::size_t campo, const std::vector<std::string>& righe) {
     std::string nota;
     for (const auto& stranezza : stranezzeTitolo(campo + 1, righe))
-        nota += (nota.empty() ? "" : "; ") + stranezza.testo;
+        nota += (nota.empty() ? std::string() : base::puntoEVirgola()) + stranezza.testo;
     return nota;
 }
 

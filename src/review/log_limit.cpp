@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "base/colon.hpp"
 #include "base/translated_texts.hpp"
 #include "review/remark_list.hpp"
 
@@ -18,7 +19,8 @@ std::string rifiutoStratigrafia(const project::DatiProgetto& dati) {
         if (std::abs(profondita) > std::abs(dati.profStrato[lontano])) lontano = i;
     }
     if (basso - alto <= massimaAltezzaStratigrafia) return {};
-    return rigaConValore(dati, &project::DatiProgetto::profStrato, lontano).testo + ": " +
+    return rigaConValore(dati, &project::DatiProgetto::profStrato, lontano).testo +
+           base::duePunti() +
            base::traduttore(
                "la colonna stratigrafica non è disegnata oltre i 500 m di altezza: "
                "correggere la profondità");

@@ -6,6 +6,7 @@
 #include <limits>
 #include <utility>
 
+#include "base/colon.hpp"
 #include "base/filled_text.hpp"
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
@@ -51,7 +52,7 @@ NomiRighe nomiRighe(project::Parte parte) {
 }
 
 std::string inRiga(const Soggetto& soggetto, const std::string& testo) {
-    return soggetto.testo.empty() ? testo : soggetto.testo + ": " + testo;
+    return soggetto.testo.empty() ? testo : soggetto.testo + base::duePunti() + testo;
 }
 
 }  // namespace
@@ -94,7 +95,8 @@ Soggetto rigaConValore(const project::DatiProgetto& dati, const project::Membro&
                        int numero) {
     const project::Campo& campo = project::campo(colonna);
     Soggetto soggetto = riga(colonna, numero);
-    soggetto.testo += ": " + campoEValore(campo, project::numeroConservato(dati, campo, numero));
+    soggetto.testo +=
+        base::duePunti() + campoEValore(campo, project::numeroConservato(dati, campo, numero));
     return soggetto;
 }
 
@@ -129,7 +131,7 @@ Soggetto righeConValori(const project::DatiProgetto& dati, const project::Membro
     for (const int numero : numeri)
         valori.push_back(valoreMostrato(campo, project::numeroConservato(dati, campo, numero)));
     Soggetto soggetto = righe(colonna, numeri);
-    soggetto.testo += ": " + nomeCampo(campo) + " = " + inFila(valori);
+    soggetto.testo += base::duePunti() + nomeCampo(campo) + " = " + inFila(valori);
     return soggetto;
 }
 

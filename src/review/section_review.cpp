@@ -1,5 +1,6 @@
 #include "analysis/input_checks.hpp"
 #include "analysis/run_arrays.hpp"
+#include "base/colon.hpp"
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
 #include "review/limits.hpp"
@@ -59,7 +60,7 @@ void controlloFaccia(const Faccia& faccia, const Sezione& s, ElencoOsservazioni&
     const struct {
         double copriferro, interasse, diametro;
     } f{s.*faccia.copriferro, s.*faccia.interasse, s.*faccia.diametro};
-    const std::string dove = traduttore(faccia.nome) + ": ";
+    const std::string dove = traduttore(faccia.nome) + base::duePunti();
     const Soggetto copriferro = dopo(dove, campoConValore(faccia.copriferro, f.copriferro));
     if ((f.interasse > 0) != (f.diametro > 0)) {
         elenco.aggiungi("faccia-non-armata",

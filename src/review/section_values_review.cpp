@@ -1,6 +1,7 @@
 #include <cmath>
 #include <numbers>
 
+#include "base/colon.hpp"
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
 #include "project/shown_number.hpp"
@@ -83,7 +84,7 @@ constexpr MisuraCostruibile misure[] = {
 };
 
 std::string luogo(std::string_view dove) {
-    return dove.empty() ? std::string() : base::traduttore(dove) + ": ";
+    return dove.empty() ? std::string() : base::traduttore(dove) + base::duePunti();
 }
 
 void controlloMisureCostruibili(const Sezione& s, TipoSezione tipo, ElencoOsservazioni& elenco) {

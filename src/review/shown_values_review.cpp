@@ -1,5 +1,6 @@
 #include <cmath>
 
+#include "base/colon.hpp"
 #include "base/translated_texts.hpp"
 #include "review/remark_list.hpp"
 
@@ -62,8 +63,8 @@ void esaminaTabella(const DatiProgetto& dati, project::Parte parte, ElencoOsserv
     for (int j = 1; j <= project::righe(dati, parte); ++j)
         for (const Campo& c : project::campi())
             if (c.parte == parte && project::colonna(c) && scritto(c))
-                esamina(project::mostrato(dati, c, j), dopo(nomeRiga(c, j) + ": ", nominato(c, j)),
-                        elenco);
+                esamina(project::mostrato(dati, c, j),
+                        dopo(nomeRiga(c, j) + base::duePunti(), nominato(c, j)), elenco);
 }
 
 void esaminaParatia(const DatiProgetto& dati, ElencoOsservazioni& elenco) {
@@ -83,7 +84,8 @@ void controlloMostrati(const DatiProgetto& dati, ElencoOsservazioni& elenco) {
     for (const auto& [membro, dove] : campiMostrati) {
         const Campo& c = project::campo(membro);
         if (c.parte != inVigore) continue;
-        const std::string faccia = dove.empty() ? std::string() : traduttore(dove) + ": ";
+        const std::string faccia =
+            dove.empty() ? std::string() : traduttore(dove) + base::duePunti();
         esamina(project::mostrato(dati, c), dopo(faccia, nominato(c)), elenco);
     }
 }

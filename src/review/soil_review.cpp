@@ -7,6 +7,7 @@
 #include "analysis/node_vector.hpp"
 #include "analysis/run_arrays.hpp"
 #include "analysis/vertical_stress.hpp"
+#include "base/colon.hpp"
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
 #include "project/codes.hpp"
@@ -135,7 +136,8 @@ std::string luogo(int fase, double profondita, int strato, project::Lato lato) {
     return traduttore("fase") + " " + std::to_string(fase) + ", " + traduttore("profondità") + " " +
            testoNumero(profondita) + " m, " +
            nomeRiga(project::campo(&DatiProgetto::ksStrato), strato) + ", " +
-           traduttore(lato == project::Lato::monte ? "lato monte" : "lato valle") + ": ";
+           traduttore(lato == project::Lato::monte ? "lato monte" : "lato valle") +
+           base::duePunti();
 }
 
 // A spring that pushes on instead of holding back; a run computes with it.

@@ -4,6 +4,7 @@
 #include "analysis/node_vector.hpp"
 #include "analysis/run_arrays.hpp"
 #include "analysis/wall_mesh.hpp"
+#include "base/colon.hpp"
 #include "base/translated_texts.hpp"
 #include "project/codes.hpp"
 #include "project/shown_number.hpp"
@@ -102,11 +103,13 @@ Motivo motivoTaglio(const DatiProgetto& dati, const safety::Margine& margine, co
 void avvisa(const Confronto& c, Voce minore, Voce maggiore, const Motivo& perche,
             ElencoOsservazioni& elenco) {
     const bool meno = std::fabs(c.relazione->valore) < std::fabs(c.statica.valore);
-    elenco.aggiungi(meno ? minore : maggiore, {{}, perche.campi},
-                    {forza(c.relazione->valore), std::to_string(c.relazione->fase),
-                     numeroMostrato(c.relazione->z, 2), forza(c.statica.valore),
-                     std::to_string(c.statica.fase), numeroMostrato(c.statica.z, 2),
-                     perche.testo.empty() ? "" : "; " + base::traduttore(perche.testo)});
+    elenco.aggiungi(
+        meno ? minore : maggiore, {{}, perche.campi},
+        {forza(c.relazione->valore), std::to_string(c.relazione->fase),
+         numeroMostrato(c.relazione->z, 2), forza(c.statica.valore), std::to_string(c.statica.fase),
+         numeroMostrato(c.statica.z, 2),
+         perche.testo.empty() ? std::string()
+                              : base::puntoEVirgola() + base::traduttore(perche.testo)});
 }
 
 // The report prints, and checks, the shear of the last stage alone.

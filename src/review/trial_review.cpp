@@ -5,6 +5,7 @@
 #include "analysis/segment_count.hpp"
 #include "analysis/trial_run.hpp"
 #include "analysis/watch/run_control.hpp"
+#include "base/colon.hpp"
 #include "base/translated_texts.hpp"
 #include "base/value_error.hpp"
 #include "review/project_review.hpp"
@@ -26,7 +27,9 @@ class SenzaVista : public analysis::Avanzamento {
 std::string inUnaRiga(const std::vector<std::string>& righe) {
     std::string testo;
     for (const auto& riga : righe) {
-        if (!testo.empty()) testo += testo.back() == ':' || testo.back() == '.' ? " " : "; ";
+        if (!testo.empty())
+            testo += testo.back() == ':' || testo.back() == '.' ? std::string(" ")
+                                                                : base::puntoEVirgola();
         testo += riga;
     }
     return testo;
@@ -55,7 +58,7 @@ std::optional<Osservazione> provaCalcolo(const project::DatiProgetto& dati, int 
     if (controllo.oltreLimite()) return una("fase-senza-riposo", inUnaRiga(controllo.motivo()));
     if (prova.faseSingolare > 0)
         return una("fase-singolare", traduttore("fase") + " " +
-                                         std::to_string(prova.faseSingolare) + ": " +
+                                         std::to_string(prova.faseSingolare) + base::duePunti() +
                                          traduttore(analysis::messaggioSingolare));
     if (!prova.mostrabile) return una("risultato-non-mostrabile", base::ErroreValore().what());
     return {};

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/colon.hpp"
 #include "base/filled_text.hpp"
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
@@ -33,7 +34,8 @@ std::string nonDaCostruire(const Margine& margine) {
     std::string testo = traduttore("non è una lunghezza da costruire");
     if (bilico) testo += ": F = 1";
     if (margine.sostegni)
-        testo += (bilico ? ", " : ": ") + traduttore("tiranti e vincoli tengono senza limite");
+        testo += (bilico ? std::string(", ") : base::duePunti()) +
+                 traduttore("tiranti e vincoli tengono senza limite");
     return testo;
 }
 
@@ -73,7 +75,7 @@ std::string parole(const Riduzione& riduzione, double paratia) {
     if (riduzione.limitePendio) return traduttore(limitePendenza);
     if (riduzione.oltre)
         return traduttore("nessun meccanismo fino a F =") + " " +
-               base::testoNumero(massimaRiduzione) + ": " +
+               base::testoNumero(massimaRiduzione) + base::duePunti() +
                traduttore(riduzione.senzaTerreno ? tenuta
                                                  : "basta un decimo della resistenza del terreno");
     return nessuno;
@@ -88,7 +90,7 @@ bool lunghezzaNota(const Margine& margine) {
 std::string paroleLunghezza(const Margine& margine) {
     if (!lunghezzaNota(margine)) return {};
     const auto& [esito, lunghezza] = margine.lunghezza;
-    const std::string inizio = traduttore("Lunghezza minima") + ": ";
+    const std::string inizio = traduttore("Lunghezza minima") + base::duePunti();
     switch (esito) {
         case EsitoLunghezza::trovata:
             return inizio + metriAllineati(*lunghezza) + " m; " + traduttore("la paratia è lunga") +
@@ -98,7 +100,7 @@ std::string paroleLunghezza(const Margine& margine) {
                    traduttore(
                        "la paratia è in equilibrio anche senza infissione sotto lo scavo più "
                        "profondo") +
-                   "; " + nonDaCostruire(margine);
+                   base::puntoEVirgola() + nonDaCostruire(margine);
         case EsitoLunghezza::mai:
             return inizio + traduttore("nessuna fino a") + " " +
                    metriAllineati(massimaLunghezzaRelativa * margine.paratia) + " m";
@@ -112,7 +114,7 @@ std::string paroleMaglia(const Margine& margine) {
     if (!margine.sta()) return {};
     std::string testo = traduttore("Errore di maglia") + " (" + std::to_string(margine.nSeg) + " " +
                         traduttore("segmenti contro") + " " + std::to_string(4 * margine.nSeg) +
-                        "): ";
+                        ")" + base::duePunti();
     if (!margine.maglia)
         return testo + traduttore("con una maglia più fine una fase non è in equilibrio");
     const std::pair<const char*, const ErroreGrandezza*> grandezze[] = {
@@ -136,10 +138,10 @@ std::string paroleDecisiva(const Margine& margine) {
                               : traduttore("nessun equilibrio nella fase") + " " +
                                     std::to_string(caduta->fase);
     const MargineFase* fase = margine.decisiva();
-    const std::string inizio = traduttore("F più piccolo") + ": ";
+    const std::string inizio = traduttore("F più piccolo") + base::duePunti();
     if (!fase) return inizio + "> " + base::testoNumero(massimaRiduzione);
     return inizio + testoRiduzione(fase->riduzione) + ", " + traduttore("fase") + " " +
-           std::to_string(fase->fase) + ": " + parole(fase->riduzione, margine.paratia);
+           std::to_string(fase->fase) + base::duePunti() + parole(fase->riduzione, margine.paratia);
 }
 
 std::string paroleRelazione(const Margine& margine) {
@@ -193,7 +195,7 @@ std::string paroleSenzaRelazione(const Margine& margine) {
 std::string paroleMetodo(const Margine& margine) {
     return traduttore(
                "Numeri della soluzione di equilibrio, non del file dei risultati; segmenti") +
-           ": " + std::to_string(margine.nSeg);
+           base::duePunti() + std::to_string(margine.nSeg);
 }
 
 std::string notaPendenza(const Margine& margine) {
@@ -207,8 +209,8 @@ std::string notaOltre(const Margine& margine) {
     for (const MargineFase& fase : margine.fasi)
         if (fase.riduzione.senzaTerreno) tenute.push_back(fase.fase);
     if (tenute.empty()) return {};
-    return testoRiduzione(Riduzione{.F = {}, .oltre = true}) + ", " + fasi(tenute) + ": " +
-           traduttore(tenuta);
+    return testoRiduzione(Riduzione{.F = {}, .oltre = true}) + ", " + fasi(tenute) +
+           base::duePunti() + traduttore(tenuta);
 }
 
 }  // namespace korven::safety

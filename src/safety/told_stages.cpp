@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "analysis/layer_soil.hpp"
+#include "base/colon.hpp"
 #include "base/translated_texts.hpp"
 #include "equilibrium/stage_setup.hpp"
 #include "equilibrium/verdict.hpp"
@@ -74,7 +75,7 @@ std::string FaseRaccontata::frase() const {
     if (perche) return safety::frase(*perche);
     if (dopo == 0) return {};
     using base::traduttore;
-    return traduttore("fase") + " " + std::to_string(fase.fase) + ": " +
+    return traduttore("fase") + " " + std::to_string(fase.fase) + base::duePunti() +
            traduttore("non ha spostamenti da cui partire: nessun equilibrio nella fase") + " " +
            std::to_string(dopo);
 }

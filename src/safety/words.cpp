@@ -4,6 +4,7 @@
 #include <utility>
 #include <vector>
 
+#include "base/colon.hpp"
 #include "base/filled_text.hpp"
 #include "base/translated_texts.hpp"
 #include "project/shown_number.hpp"
@@ -34,7 +35,7 @@ std::string valore(double conservato, const Unita& u) {
 // Keeps what is said, parted by a sign, and leaves out what says nothing.
 class Elenco {
  public:
-    explicit Elenco(std::string_view segno) : segno_(segno) {}
+    explicit Elenco(std::string segno) : segno_(std::move(segno)) {}
     void aggiungi(const std::string& detto) {
         if (detto.empty()) return;
         if (!testo_.empty()) testo_ += segno_;
@@ -43,8 +44,7 @@ class Elenco {
     [[nodiscard]] const std::string& testo() const { return testo_; }
 
  private:
-    std::string_view segno_;
-    std::string testo_;
+    std::string segno_, testo_;
 };
 
 // What moves and where to, told of the part that moves towards the excavation if the wall has one.
@@ -89,7 +89,8 @@ std::string nella(std::string_view che, const Diagnosi& d) {
 }
 
 std::string movimento(const Diagnosi& d) {
-    return d.moto ? parole(*d.moto, d.paratia) + "; " + mancante(*d.moto) : std::string();
+    return d.moto ? parole(*d.moto, d.paratia) + base::puntoEVirgola() + mancante(*d.moto)
+                  : std::string();
 }
 
 std::string rimedio(const Diagnosi& d) {
@@ -174,8 +175,9 @@ std::string parole(const PartiAlLimite& parti) {
     lati.aggiungi(tratti("monte passivo", parti.montePassivo));
     lati.aggiungi(tratti("valle attivo", parti.valleAttivo));
     lati.aggiungi(tratti("valle passivo", parti.vallePassivo));
-    Elenco tutte("; ");
-    if (!lati.testo().empty()) tutte.aggiungi(traduttore("al limite") + ": " + lati.testo());
+    Elenco tutte(base::puntoEVirgola());
+    if (!lati.testo().empty())
+        tutte.aggiungi(traduttore("al limite") + base::duePunti() + lati.testo());
     tutte.aggiungi(lenti(parti.tirantiLenti));
     return tutte.testo();
 }
@@ -186,13 +188,14 @@ std::string parole(const DatoInstabile& dato) {
             break;
         case Instabile::modulo:  // stored with the sign of the pressures that it takes away
             return traduttore("modulo di reazione ks negativo") + " (" +
-                   valore(-dato.valore, unita::modulo) + "), " + nodo(dato) + "; " +
+                   valore(-dato.valore, unita::modulo) + "), " + nodo(dato) +
+                   base::puntoEVirgola() +
                    traduttore(
                        "controllare i valori di ks: una legge lineare può scendere sotto "
                        "lo zero");
         case Instabile::limiti:
             return traduttore("limite attivo oltre quello passivo") + " " + limiti(dato) + ", " +
-                   nodo(dato) + "; " +
+                   nodo(dato) + base::puntoEVirgola() +
                    traduttore(
                        "controllare angolo di attrito, coesione, inclinazione del terreno "
                        "e tensioni verticali");
@@ -243,16 +246,18 @@ std::string parole(EsitoFase esito) {
 std::string inBreve(const Diagnosi& d) {
     switch (d.causa) {
         case Causa::meccanismo:
-            return nella("la paratia è un meccanismo nella fase", d) + ": " + movimento(d);
+            return nella("la paratia è un meccanismo nella fase", d) + base::duePunti() +
+                   movimento(d);
         case Causa::oscilla:
             return nella("la paratia è in equilibrio nella fase", d) + ", " +
                    traduttore("con uno spostamento massimo di") + " " +
-                   valore(d.spostamento, unita::spostamentoFine) + ": " +
+                   valore(d.spostamento, unita::spostamentoFine) + base::duePunti() +
                    traduttore(chiave(d.ostacolo));
         case Causa::nonDefinito:
-            return nella("l'equilibrio non è definito nella fase", d) + ": " + parole(d.instabile);
+            return nella("l'equilibrio non è definito nella fase", d) + base::duePunti() +
+                   parole(d.instabile);
         case Causa::nessunNumero:
-            return nella("nessun numero nella fase", d) + ": " + parole(d.newton);
+            return nella("nessun numero nella fase", d) + base::duePunti() + parole(d.newton);
         case Causa::eseguito:
         case Causa::rifiutato:
         case Causa::fermato:
@@ -265,7 +270,7 @@ std::string inPocheParole(const Diagnosi& d) {
     switch (d.causa) {
         case Causa::meccanismo:
             return nella("la paratia è un meccanismo nella fase", d) +
-                   (d.moto ? ": " + mancante(*d.moto) : "");
+                   (d.moto ? base::duePunti() + mancante(*d.moto) : "");
         case Causa::oscilla:
             return base::riempito(traduttore(chiaveBreve(d.ostacolo)), {std::to_string(d.fase)});
         case Causa::nonDefinito:
@@ -283,7 +288,7 @@ std::string inPocheParole(const Diagnosi& d) {
 LuogoEquilibrio luogoEquilibrio = LuogoEquilibrio::comando;
 
 std::string frase(const Diagnosi& d) {
-    Elenco elenco("; ");
+    Elenco elenco(base::puntoEVirgola());
     elenco.aggiungi(inBreve(d));
     if (d.causa == Causa::meccanismo) {
         elenco.aggiungi(parole(d.parti));

@@ -5,6 +5,7 @@
 
 #include "analysis/node_vector.hpp"
 #include "base/axis_steps.hpp"
+#include "base/colon.hpp"
 #include "live/envelope.hpp"
 #include "tables/node_table.hpp"
 #include "tables/quantities.hpp"
@@ -82,11 +83,11 @@ std::string valore(const CurvaMostrata& curva, std::size_t nodo) {
 }
 
 std::string lettura(const CurveMostrate& curve, std::size_t nodo) {
-    std::string testo = "z " + profondita(curve.z.at(nodo)).testo + " m: ";
-    const char* segno = "";
+    std::string testo = base::conDuePunti("z " + profondita(curve.z.at(nodo)).testo + " m", {});
+    std::string segno;
     for (const CurvaMostrata& c : curve.curve) {
         testo += segno + c.testa.titolo + " " + valore(c, nodo) + " " + c.testa.unita;
-        segno = "; ";
+        segno = base::puntoEVirgola();
     }
     return testo;
 }

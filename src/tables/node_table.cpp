@@ -39,7 +39,7 @@ std::string nome(StatoLato stato) {
 std::string nomeStrato(const DatiProgetto& dati, int j) {
     std::string testo = drawings::leggiDescrizione(dati.descrStrato[j]).testo;
     std::replace(testo.begin(), testo.end(), '|', ' ');
-    return std::to_string(j) + (testo.empty() ? "" : ": " + testo);
+    return std::to_string(j) + (testo.empty() ? "" : base::duePunti() + testo);
 }
 
 // Cells of a layer are the same for all of its nodes.

@@ -1,5 +1,6 @@
 #include "verification/table.hpp"
 
+#include "base/colon.hpp"
 #include "base/translated_texts.hpp"
 #include "verification/words.hpp"
 
@@ -59,7 +60,7 @@ tables::Prospetto prospetto(const EsitoGruppo& gruppo) {
     for (const EsitoCaso& caso : gruppo.casi) {
         for (const Confronto& c : caso.confronti) p.righe.push_back(riga(caso, c));
         if (caso.verdetto == Verdetto::noto)
-            p.note.push_back(caso.caso->nome + ": " + traduttore(caso.caso->noto));
+            p.note.push_back(caso.caso->nome + base::duePunti() + traduttore(caso.caso->noto));
     }
     return p;
 }

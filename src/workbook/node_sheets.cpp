@@ -3,6 +3,7 @@
 #include <iterator>
 #include <utility>
 
+#include "base/colon.hpp"
 #include "base/translated_texts.hpp"
 #include "tables/node_table.hpp"
 #include "tables/quantities.hpp"
@@ -79,8 +80,9 @@ void aggiungiGraficiInviluppo(const Fascicolo& fascicolo, std::size_t posto,
     for (const tables::Grandezza* g : {&tables::grandezzaSpostamento, &tables::grandezzaMomento,
                                        &tables::grandezzaTaglio, &tables::grandezzaPressione}) {
         const tables::Colonna colonna = tables::colonna(*g);
-        Grafico grafico = vuoto(fascicolo, tables::titoloFase(0) + ": " + colonna.titolo, colonna,
-                                p.colonne[zInviluppo]);
+        Grafico grafico =
+            vuoto(fascicolo, tables::titoloFase(0) + base::duePunti() + colonna.titolo, colonna,
+                  p.colonne[zInviluppo]);
         for (int lato = 0; lato < 2; ++lato, ++c)
             grafico.serie.push_back({.nome = p.colonne[c].titolo,
                                      .foglio = posto,

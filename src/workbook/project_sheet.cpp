@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "base/colon.hpp"
 #include "base/translated_texts.hpp"
 #include "project/field_table.hpp"
 #include "safety/margin_words.hpp"
@@ -78,7 +79,7 @@ Prospetto prospettoProgetto(const Fascicolo& fascicolo, const std::vector<Foglio
     if (fascicolo.margine) voci.aggiungi("Relazione", paroleRelazione(*fascicolo.margine));
     for (const Foglio& foglio : altri)
         for (const std::string& nota : foglio.prospetto.note)
-            voci.aggiungi(traduttore("Nota") + ": " + foglio.prospetto.titolo,
+            voci.aggiungi(traduttore("Nota") + base::duePunti() + foglio.prospetto.titolo,
                           tables::parola(nota));
     return p;
 }

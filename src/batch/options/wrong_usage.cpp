@@ -2,6 +2,7 @@
 
 #include <string_view>
 
+#include "base/colon.hpp"
 #include "base/translated_texts.hpp"
 
 namespace korven::batch {
@@ -19,20 +20,20 @@ std::string uniti(const std::vector<std::string>& parole, const char* prima = " 
 }  // namespace
 
 std::string mancaArgomento(const std::string& nome) {
-    return traduttore("manca un argomento") + ": " + nome;
+    return traduttore("manca un argomento") + base::duePunti() + nome;
 }
 
 std::string mancaValore(const std::string& nome) {
-    return traduttore("manca il valore di un'opzione") + ": " + nome;
+    return traduttore("manca il valore di un'opzione") + base::duePunti() + nome;
 }
 
 std::string dataPiuVolte(const std::string& nome) {
-    return traduttore("un'opzione è data più volte") + ": " + nome;
+    return traduttore("un'opzione è data più volte") + base::duePunti() + nome;
 }
 
 std::string valoreNonAmmesso(const std::string& nome, const std::vector<std::string>& valori,
                              const std::string& ammessi) {
-    return traduttore("valore non ammesso") + ": " + nome + uniti(valori) +
+    return traduttore("valore non ammesso") + base::duePunti() + nome + uniti(valori) +
            (ammessi.empty() ? "" : " (" + ammessi + ")");
 }
 
@@ -41,11 +42,12 @@ std::string argomentoSconosciuto(const std::vector<std::string>& argomenti) {
 }
 
 std::string opzioneNonSua(const std::string& comando, const std::string& argomento) {
-    return comando + ": " + traduttore("il comando non ha questa opzione") + ": " + argomento;
+    return comando + ": " + traduttore("il comando non ha questa opzione") + base::duePunti() +
+           argomento;
 }
 
 std::string primaDelComando(const std::string& opzione) {
-    return traduttore("le opzioni stanno dopo il comando") + ": " + opzione;
+    return traduttore("le opzioni stanno dopo il comando") + base::duePunti() + opzione;
 }
 
 std::string valoreVuoto(int argc, const char* const* argv) {

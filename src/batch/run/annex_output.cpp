@@ -8,6 +8,7 @@
 
 #include "analysis/run_arrays.hpp"
 #include "analysis/segment_count.hpp"
+#include "base/colon.hpp"
 #include "base/folders/file_names.hpp"
 #include "base/language.hpp"
 #include "base/translated_texts.hpp"
@@ -97,7 +98,7 @@ void scriviAllegato(dossier::Fascicolo fascicolo, const FormatiAllegato& formati
                {.pdf = formati.pdf, .documento = formati.documento, .testo = formati.testo}, disco);
     esito.fileScritti.insert(esito.fileScritti.end(), scritto.file.begin(), scritto.file.end());
     if (!scritto.conservato.empty())
-        std::cerr << base::traduttore("Il documento che c'era è conservato in") << ": "
+        std::cerr << base::traduttore("Il documento che c'era è conservato in") << base::duePunti()
                   << scritto.conservato << '\n';
 }
 

@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "base/code_page.hpp"
+#include "base/colon.hpp"
 #include "base/translated_texts.hpp"
 #include "batch/run/comparison_outcome.hpp"
 #include "batch/run/text_table.hpp"
@@ -25,7 +26,7 @@ std::string righeLunghe(const std::vector<std::string>& celle,
                         const std::vector<std::string>& titoli) {
     std::string testo = celle.front() + '\n';
     for (std::size_t i = 1; i < celle.size(); ++i)
-        testo.append("  ").append(titoli[i]).append(": ").append(celle[i]).append("\n");
+        testo.append("  ").append(titoli[i]).append(base::duePunti()).append(celle[i]).append("\n");
     return testo;
 }
 

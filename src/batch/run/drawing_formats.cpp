@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "base/colon.hpp"
 #include "base/file_error.hpp"
 #include "base/file_identity.hpp"
 #include "base/folders/file_names.hpp"
@@ -34,9 +35,9 @@ void controllaUscite(const FormatiDisegno& formati) {
         project::controllaUscita(file[i], risultati);
         for (std::size_t j = 0; j < i; ++j)
             if (base::stessoFile(file[i], file[j]))
-                throw base::ErroreFile(
-                    file[i], 0,
-                    base::traduttore("due disegni avrebbero lo stesso nome") + ": " + file[j]);
+                throw base::ErroreFile(file[i], 0,
+                                       base::traduttore("due disegni avrebbero lo stesso nome") +
+                                           base::duePunti() + file[j]);
     }
     controllaNomi(file, fileDelProgetto());
 }

@@ -5,6 +5,7 @@
 #include <exception>
 #include <iostream>
 
+#include "base/colon.hpp"
 #include "base/file_identity.hpp"
 #include "base/files.hpp"
 #include "base/folders/file_names.hpp"
@@ -38,7 +39,7 @@ void raccontaGuasto(analysis::GuardiaRisultati& guardia, Esito& esito) {
         togliRisultati(guardia, esito);
         fallisci(
             nonEseguito,
-            esito.progetto + ": " + errore.what() + "; " +
+            esito.progetto + ": " + errore.what() + base::puntoEVirgola() +
                 base::traduttore("il comando verifica nomina i campi con valori troppo grandi"),
             esito);
     } catch (const NomiInConflitto& errore) {
@@ -67,8 +68,8 @@ void avvisaRelazioniRimaste(Esito& esito) {
             }))
             continue;
         const std::string avviso =
-            base::traduttore("File di un calcolo precedente, non aggiornato da questo") + ": " +
-            file;
+            base::traduttore("File di un calcolo precedente, non aggiornato da questo") +
+            base::duePunti() + file;
         std::cerr << avviso << '\n';
         esito.messaggi.push_back(avviso);
     }

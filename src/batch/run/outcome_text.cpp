@@ -1,4 +1,5 @@
 #include "base/code_page.hpp"
+#include "base/colon.hpp"
 #include "base/translated_texts.hpp"
 #include "batch/run/outcome.hpp"
 #include "project/shown_number.hpp"
@@ -74,7 +75,7 @@ std::string tabella(const Esito& esito, bool traccia) {
 }
 
 std::string riga(const review::Osservazione& osservazione) {
-    return traduttore(parolaMostrata(osservazione.peso)) + ": " + osservazione.testo;
+    return traduttore(parolaMostrata(osservazione.peso)) + base::duePunti() + osservazione.testo;
 }
 
 std::string elenco(const Esito& esito) {

@@ -1,5 +1,6 @@
 #include "batch/run/output_names.hpp"
 
+#include "base/colon.hpp"
 #include "base/file_identity.hpp"
 #include "base/folders/file_names.hpp"
 #include "base/translated_texts.hpp"
@@ -14,7 +15,7 @@ NomiInConflitto::NomiInConflitto(const std::string& uscita, const std::string& a
           uscita + ": " +
           base::traduttore("la scrittura prenderebbe il posto di un altro file del comando o del "
                            "progetto") +
-          ": " + altro) {}
+          base::duePunti() + altro) {}
 
 std::vector<std::string> fileDelProgetto() {
     if (project::fileCorrente.empty()) return {};

@@ -4,6 +4,7 @@
 #include <iostream>
 #include <string>
 
+#include "base/colon.hpp"
 #include "base/file_error.hpp"
 #include "base/folders/file_names.hpp"
 #include "base/process/processi.hpp"
@@ -70,7 +71,7 @@ void avvisaPosto() {
     if (!commands::relazioneAltrove(project::fileCorrente)) return;
     const std::string risultati = base::nomeRisultati(project::fileCorrente);
     std::cerr << base::traduttore("Il nome della relazione termina al primo punto del percorso")
-              << ": " << base::nomeRelazione(risultati) << '\n';
+              << base::duePunti() << base::nomeRelazione(risultati) << '\n';
 }
 
 void controllaUscite(const FormatiRelazione& formati) {

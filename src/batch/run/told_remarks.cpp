@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iostream>
 
+#include "base/colon.hpp"
 #include "base/filled_text.hpp"
 #include "base/translated_texts.hpp"
 #include "batch/options/common_options.hpp"
@@ -62,8 +63,8 @@ void raccontaDaVedere(const Opzioni& opzioni, const Esito& esito) {
     const int numero = quante(esito.osservazioni, Peso::daVedere);
     if (numero == 0 || opzioni.silenzioso) return;
     const auto chiave = numero == 1 ? "%1 osservazione da vedere" : "%1 osservazioni da vedere";
-    std::cerr << base::riempito(traduttore(chiave), std::vector{std::to_string(numero)}) << ": "
-              << comandoElenco(opzioni) << '\n';
+    std::cerr << base::riempito(traduttore(chiave), std::vector{std::to_string(numero)})
+              << base::duePunti() << comandoElenco(opzioni) << '\n';
 }
 
 int conSeverita(const Opzioni& opzioni, Esito& esito, int codice) {

@@ -1,5 +1,6 @@
 #include <string>
 
+#include "base/colon.hpp"
 #include "base/filled_text.hpp"
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
@@ -71,7 +72,7 @@ Prospetto elenco(const Fascicolo& f) {
     p.note.push_back(
         traduttore("Alla posa: alla fine della fase che mette in opera il tirante. Massima: fra le "
                    "fasi in equilibrio."));
-    p.note.push_back(traduttore("Relazione") + ": " +
+    p.note.push_back(traduttore("Relazione") + base::duePunti() +
                      traduttore("Forza che la relazione stampa: pretensione, più rigidezza per "
                                 "quanto il suo nodo è andato oltre la posizione alla messa in "
                                 "opera") +

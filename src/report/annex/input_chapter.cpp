@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "base/code_page.hpp"
+#include "base/colon.hpp"
 #include "base/filled_text.hpp"
 #include "base/translated_texts.hpp"
 #include "drawings/annex/annex_drawings.hpp"
@@ -92,7 +93,7 @@ tables::Prospetto tabella(const Fascicolo& f, Parte parte, const char* titolo) {
         }
         const Uso suo = uso(f, campo);
         letti = letti && suo.letto;
-        if (!suo.nota.empty()) p.note.push_back(nome(campo) + ": " + suo.nota + ".");
+        if (!suo.nota.empty()) p.note.push_back(nome(campo) + base::duePunti() + suo.nota + ".");
     }
     if (righe == 0) p.note = {traduttore("La tabella è vuota.")};
     if (righe > 0 && uguali)

@@ -2,6 +2,7 @@
 #include <string>
 #include <utility>
 
+#include "base/colon.hpp"
 #include "base/filled_text.hpp"
 #include "base/translated_texts.hpp"
 #include "drawings/annex/annex_drawings.hpp"
@@ -54,10 +55,10 @@ void introduzione(const Fascicolo& f, Blocchi& blocchi) {
 // What the drawing shows, for those who do not see it.
 std::string descrizione(const Fascicolo& f, int fase) {
     std::string testo = tables::titoloFase(fase);
-    const char* segno = ": ";
+    std::string segno = base::duePunti();
     for (const auto& riga : prospettoPicchi(f.parete, fase).righe) {
         testo += segno + riga[0].testo + " " + riga[3].testo + " / " + riga[1].testo;
-        segno = "; ";
+        segno = base::puntoEVirgola();
     }
     return testo + ".";
 }

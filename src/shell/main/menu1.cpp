@@ -17,6 +17,7 @@
 #include <array>
 #include <utility>
 
+#include "base/colon.hpp"
 #include "commands/document_names.hpp"
 #include "commands/menu_tree.hpp"
 #include "project/project_data.hpp"
@@ -156,7 +157,7 @@ void Menu1::chiediAllApertura(const QMenu& menu, QAction& azione, const commands
         azione.setEnabled(programma_->puo(voce) && programma_->possibile(voce));
         if (voce.cosa == nullptr) return;
         const std::string cosa = voce.cosa(*programma_);
-        azione.setText(tradotto(voce.testo) + qt(cosa.empty() ? cosa : ": " + cosa));
+        azione.setText(tradotto(voce.testo) + qt(cosa.empty() ? cosa : base::duePunti() + cosa));
     });
     connect(&menu, &QMenu::aboutToHide, &azione,
             [this, &azione, &voce] { azione.setEnabled(programma_->puo(voce)); });

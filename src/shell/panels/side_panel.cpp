@@ -3,6 +3,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include "base/colon.hpp"
 #include "shell/form_sizes.hpp"
 #include "shell/forms/scrolled_part.hpp"
 #include "shell/qt_text.hpp"
@@ -47,7 +48,7 @@ void PannelloLaterale::apri(bool aperto) {
     mostra_->setText(aperto ? titolo_ : QString());
     const QString cosa = tradotto(aperto ? "Nascondi il pannello" : "Mostra il pannello");
     mostra_->setToolTip(cosa);
-    mostra_->setAccessibleName(cosa + QStringLiteral(": ") + titolo_);
+    mostra_->setAccessibleName(cosa + qt(base::duePunti()) + titolo_);
 }
 
 // The table keeps its width: the form gives up or takes that of the panel, as far as the screen

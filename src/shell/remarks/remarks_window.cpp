@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/colon.hpp"
 #include "shell/companions/button_row.hpp"
 #include "shell/forms/wrapped_label.hpp"
 #include "shell/qt_text.hpp"
@@ -75,7 +76,7 @@ void FinestraOsservazioni::mostra(const review::Osservazioni& osservazioni,
         const QString peso = tradotto(parolaMostrata(osservazione.peso));
         voce->setData(datoPeso, peso);
         voce->setData(datoNumeroPeso, static_cast<int>(osservazione.peso));
-        voce->setData(Qt::AccessibleTextRole, peso + QStringLiteral(": ") + voce->text());
+        voce->setData(Qt::AccessibleTextRole, peso + qt(base::duePunti()) + voce->text());
     }
     lista_->setCurrentRow(std::min(riga, lista_->count() - 1));
     scelta();

@@ -6,6 +6,7 @@
 #include <numeric>
 #include <utility>
 
+#include "base/colon.hpp"
 #include "shell/qt_text.hpp"
 #include "tables/table_order.hpp"
 
@@ -29,7 +30,7 @@ QColor grigio() {
 QString detta(const Colonna& colonna, const Cella& cella) {
     QString testo = qt(colonna.titolo) + QLatin1Char(' ') + qt(cella.testo);
     if (!colonna.unita.empty()) testo += QLatin1Char(' ') + qt(colonna.unita);
-    if (!cella.perche.empty()) testo += QStringLiteral(": ") + qt(cella.perche);
+    if (!cella.perche.empty()) testo += qt(base::duePunti() + cella.perche);
     if (cella.peso) testo += QStringLiteral(", ") + tradotto(parolaMostrata(*cella.peso));
     return testo;
 }

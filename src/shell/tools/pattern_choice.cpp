@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 #include <utility>
 
+#include "base/colon.hpp"
 #include "base/file_error.hpp"
 #include "project/project_data.hpp"
 #include "shell/form_sizes.hpp"
@@ -56,7 +57,7 @@ SceltaModello::SceltaModello(std::vector<commands::Modello> modelli, QWidget* ge
 void SceltaModello::aggiungi(const QString& nome, const QString& descrizione) {
     auto* voce = new QListWidgetItem(nome, lista_);
     voce->setData(datoDescrizione, descrizione);
-    voce->setData(Qt::AccessibleTextRole, nome + QStringLiteral(": ") + descrizione);
+    voce->setData(Qt::AccessibleTextRole, nome + qt(base::duePunti()) + descrizione);
 }
 
 // A pattern that can't be read any more is told when it is taken.
