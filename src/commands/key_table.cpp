@@ -104,7 +104,7 @@ constexpr Riga righe[] = {
     {guida, "Ctrl+F", "cerca nelle pagine"},
     {guida, "Down", "dalla ricerca all'elenco"},
     {guida, "Ctrl++, Ctrl+-, Ctrl+0", "caratteri più grandi, più piccoli, come all'inizio"},
-    {guida, "Ctrl+=", "caratteri più grandi"},
+    {guida, "Ctrl+=", "testo più grande"},
     {guida, "Esc", chiude},
 };
 

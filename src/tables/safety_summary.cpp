@@ -1,5 +1,6 @@
 #include "tables/safety_summary.hpp"
 
+#include "base/code_page.hpp"
 #include "base/colon.hpp"
 #include "base/translated_texts.hpp"
 #include "tables/margin_table.hpp"
@@ -15,7 +16,8 @@ Riassunto nulla(const std::string& perche) {
 }  // namespace
 
 Riassunto riassunto(const live::ProgettoVivo& vivo) {
-    if (!vivo.aperto()) return nulla(base::traduttore("nessun progetto aperto"));
+    if (!vivo.aperto())
+        return nulla(base::conMinuscola(base::traduttore("Nessun progetto aperto")));
     if (vivo.lenti() == nullptr)
         return {.stato = Riassunto::Stato::inCorso,
                 .verdetto = base::traduttore("Calcolo in corso") + "..."};

@@ -11,6 +11,7 @@
 #include <set>
 #include <string_view>
 
+#include "base/case_form.hpp"
 #include "base/code_page.hpp"
 #include "base/files.hpp"
 #include "base/text_table.hpp"
@@ -156,6 +157,30 @@ TEST(TextKeys, AreInTheTableForEveryLiteralThatMayBeShown) {
         }
     }
     EXPECT_GT(looked, 200) << "the sources were not found";
+}
+
+// A text that is asked in another case than its record has is brought to the case that was asked,
+// nouns and all: "Elastizitätsmodul des stahls". Capitals all through are wanted where they stand.
+TEST(TextKeys, KeepTheCapitalsOfNounsWhereSeveralWordsAreAskedFor) {
+    const std::string source = KORVEN_DATA_FOLDER "/texts.txt";
+    std::map<std::string, tools::TextRecord> records;
+    for (const auto& record : tools::readTextSource(source, base::leggiFile(source)))
+        records[base::chiaveTesto(record.text[0])] = record;
+    int looked = 0;
+    for (const auto& [file, texts] : spokenLiterals()) {
+        for (const auto& text : texts) {
+            const auto at = records.find(base::chiaveTesto(text));
+            if (isNoText(file, text) || at == records.end() || text == at->second.text[0] ||
+                text.find(' ') == std::string::npos || base::maiuscolo(text) == text)
+                continue;
+            ++looked;
+            for (const auto& translation : at->second.text)
+                EXPECT_EQ(base::conMaiuscola(base::conFormaDi(text, translation)),
+                          base::conMaiuscola(translation))
+                    << "src/" << file << " asks for \"" << text << "\" in another case";
+        }
+    }
+    EXPECT_GT(looked, 0);
 }
 
 TEST(TextKeys, AreInTheTableForEachCaptionWithTheUnitThatIsBesideIt) {

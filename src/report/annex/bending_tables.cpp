@@ -78,7 +78,7 @@ Prospetto prospettoMateriali(const ValoriFlessione& v) {
               2,
               tensione},
              p);
-    aggiungi({"Modulo elastico dell'acciaio", "Es", "", {}, v.modEacciaio, 0, tensione}, p);
+    aggiungi({"modulo elastico dell'acciaio", "Es", "", {}, v.modEacciaio, 0, tensione}, p);
     if (v.Ac > 0) aggiungi({"Area del calcestruzzo in un metro", "Ac", "", {}, v.Ac, 0, area}, p);
     aggiungi({"Area dell'acciaio in un metro", "As", "", {}, v.As, 0, area}, p);
     aggiungi(

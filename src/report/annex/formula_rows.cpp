@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "base/code_page.hpp"
 #include "base/filled_text.hpp"
 #include "base/translated_texts.hpp"
 #include "project/shown_number.hpp"
@@ -33,7 +34,7 @@ void aggiungi(const RigaFormula& r, Prospetto& p) {
         valori.push_back(t.valore);
     }
     const std::string uguale = r.formula.empty() ? "" : " = ";
-    p.righe.push_back({tables::parola(traduttore(r.cosa)),
+    p.righe.push_back({tables::parola(base::conMaiuscola(traduttore(r.cosa))),
                        tables::parola(r.simbolo + uguale + riempito(r.formula, simboli)),
                        tables::parola(riempito(r.formula, valori)),
                        tables::cella(r.valore, r.decimali, project::unita::nessuna),

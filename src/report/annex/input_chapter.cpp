@@ -142,7 +142,7 @@ void capitoloDati(const Contesto& contesto, Blocchi& blocchi) {
         traduttore(
             "Tutti i campi del progetto, nell'ordine del suo file, con il valore scritto e "
             "quello che il calcolo prende. Un trattino fra i valori usati: nessun calcolo lo "
-            "legge."),
+            "legge. Sotto Campo c'è il nome del dato nel programma, uguale in ogni lingua."),
         {}});
     figure(contesto, blocchi);
     blocchi.emplace_back(Tavola{tabella(f, Parte::strati, "Strati")});

@@ -2,6 +2,7 @@
 #include <vector>
 
 #include "analysis/subgrade_modulus.hpp"
+#include "base/code_page.hpp"
 #include "base/filled_text.hpp"
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
@@ -129,8 +130,8 @@ constexpr Segno segni[] = {
     {unita::momentoAlMetro, "Momento flettente", "tende la faccia verso lo scavo; M = -EJ y''"},
     {unita::forzaAlMetro, "Taglio", "T = dM/dz; dT/dz = -p"},
     {unita::forzaAlMetro, "Forza dei tiranti", "trazione del tirante, compressione del puntone"},
-    {unita::forzaAlMetro, "Forza in testa", "verso lo scavo"},
-    {unita::momentoAlMetro, "Momento in testa", "ruota la testa verso lo scavo"},
+    {unita::forzaAlMetro, "forza in testa", "verso lo scavo"},
+    {unita::momentoAlMetro, "momento in testa", "ruota la testa verso lo scavo"},
     {unita::forzaAlMetro, "Sforzo normale", "compressione della paratia"},
 };
 
@@ -155,8 +156,8 @@ tables::Prospetto prospettoSegni() {
             traduttore("Tutte le forze e le rigidezze sono per metro di paratia. Una tonnellata "
                        "forza, l'unità del file, è presa come 10 kN esatti.")}};
     for (const Segno& s : segni)
-        p.righe.push_back({parola(traduttore(s.grandezza)), parola(std::string(s.unita.mostrata)),
-                           parola(traduttore(s.positivo))});
+        p.righe.push_back({parola(base::conMaiuscola(traduttore(s.grandezza))),
+                           parola(std::string(s.unita.mostrata)), parola(traduttore(s.positivo))});
     return p;
 }
 

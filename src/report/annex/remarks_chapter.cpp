@@ -46,7 +46,8 @@ void capitoloOsservazioni(const Contesto& contesto, Blocchi& blocchi) {
         base::riempito(
             traduttore(
                 "Che cosa il programma osserva sul progetto e sui suoi risultati, dalle "
-                "osservazioni più pesanti alle più leggere; in tutto %1. Nessuna è taciuta."),
+                "osservazioni più pesanti alle più leggere; in tutto %1. Nessuna è taciuta. "
+                "Il codice è il nome dell'osservazione nel programma, uguale in ogni lingua."),
             {std::to_string(tutte.size())}),
         {}});
     for (const review::Peso peso :

@@ -17,6 +17,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/code_page.hpp"
 #include "base/colon.hpp"
 #include "base/translated_texts.hpp"
 #include "shell/form_sizes.hpp"
@@ -246,8 +247,8 @@ void SceglieCampitura::mostra() {
         immagineCampitura(scelta_.campitura(), coloreScelto(), campione, devicePixelRatioF()));
     immagine_->setAccessibleName(tradotto("Campitura dello strato"));
     immagine_->setAccessibleDescription(livelli_[0].nome->text() + ", " + livelli_[1].nome->text());
-    descrizione_->setText(
-        qt(base::conDuePunti(base::traduttore("Descrizione dello strato"), scelta_.descrizione())));
+    descrizione_->setText(qt(base::conDuePunti(
+        base::conMaiuscola(base::traduttore("descrizione dello strato")), scelta_.descrizione())));
 }
 
 // To the picture that is chosen, or the first one that the search has left.
