@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <string>
+
 #include "batch/options/reading_bench.hpp"
 #include "batch/run/drawing_formats.hpp"
 #include "device/document_files.hpp"
@@ -15,33 +18,56 @@ namespace {
 
 class InSilenzio : public analysis::OsservatoreCorsa {};
 
-document::Impaginato pagine(const std::string& file) {
+constexpr std::array lingue = {"ita", "deu", "fra", "esp", "eng", "por"};
+
+document::Impaginato pagine(const std::string& file, int nSeg,
+                            const report::OpzioniAllegato& opzioni = {}) {
     const auto dati = test::leggiMuro(file);
     dossier::Identita identita;
     identita.file = file;
     identita.data = "2026-11-22";
-    identita.comando = "korven32c allegato " + file + " --nseg 20 --data 2026-11-22";
+    identita.comando =
+        "korven32c allegato " + file + " --nseg " + std::to_string(nSeg) + " --data 2026-11-22";
     InSilenzio osservatore;
-    return device::impaginato(report::allegato(dossier::fascicolo(
-        {.scritti = dati, .usati = dati, .nSeg = 20, .identita = identita, .sulProgetto = {}},
-        osservatore)));
+    return device::impaginato(report::allegato(
+        dossier::fascicolo(
+            {.scritti = dati, .usati = dati, .nSeg = nSeg, .identita = identita, .sulProgetto = {}},
+            osservatore),
+        opzioni));
 }
 
 TEST(PagineAllegato, HaveNothingUponAnotherThingOrBeyondTheMarginInAnyLanguage) {
     const AmbienteDisegno ambiente(true);
-    for (const char* sigla : {"ita", "deu", "fra", "esp", "eng", "por"}) {
+    for (const char* sigla : lingue) {
         const test::InLingua lingua(sigla);
         for (const std::string& file : test::muriIn(KORVEN_EXAMPLES)) {
-            const document::Impaginato muro = pagine(file);
+            const document::Impaginato muro = pagine(file, 50);
             EXPECT_GE(muro.pagine.size(), 5U);
             EXPECT_EQ(test::difetti(muro), "") << sigla << ' ' << file;
         }
     }
 }
 
+// The finest mesh that every wall has, and a row for each of its nodes: tables over several pages.
+TEST(PagineAllegato, OfTheFinestMeshAreAsCleanWithARowForEveryNode) {
+    const AmbienteDisegno ambiente(true);
+    constexpr int nSeg = 248;
+    std::size_t quale = 0;
+    for (const std::string& file : test::muriIn(KORVEN_EXAMPLES)) {
+        const char* sigla = lingue[quale++ % lingue.size()];
+        const test::InLingua lingua(sigla);
+        const auto pochi = pagine(file, nSeg), tutti = pagine(file, nSeg, {.righe = nSeg + 1});
+        EXPECT_EQ(test::difetti(pochi), "") << sigla << ' ' << file;
+        EXPECT_EQ(test::difetti(tutti), "") << sigla << ' ' << file;
+        // A page has room for some 60 rows.
+        EXPECT_GE(tutti.pagine.size(), pochi.pagine.size() + 3) << file;
+    }
+    EXPECT_GE(quale, lingue.size());
+}
+
 TEST(PagineAllegato, HoldTheHeadingsOfAllChaptersAsBookmarks) {
     const AmbienteDisegno ambiente(true);
-    const auto muro = pagine(test::muriIn(KORVEN_EXAMPLES).front());
+    const auto muro = pagine(test::muriIn(KORVEN_EXAMPLES).front(), 20);
     int capitoli = 0;
     for (const auto& segnalibro : muro.segnalibri) capitoli += segnalibro.livello == 1 ? 1 : 0;
     EXPECT_GE(capitoli, 5);
