@@ -1,5 +1,6 @@
 #include "shell/annex/annex_wiring.hpp"
 
+#include <QApplication>
 #include <QPointer>
 #include <QPrintDialog>
 #include <QPrinter>
@@ -69,7 +70,10 @@ void collegaAllegato(commands::FormeProgramma& forme, QWidget& principale, VitaP
     const auto file = std::make_shared<PorteDesktop>(stampante, annuncia);
     const PorteAllegato porte{dialogo, prepara, file,
                               [file, stampante, &principale](const document::Documento& documento) {
-                                  stampaAllegato(documento, *file, stampante(), &principale);
+                                  // Above the annex: after it the keyboard goes back there.
+                                  QWidget* sopra = QApplication::activeWindow();
+                                  stampaAllegato(documento, *file, stampante(),
+                                                 sopra != nullptr ? sopra : &principale);
                               }};
     forme.allegato = [finestra = std::make_shared<QPointer<FinestraAllegato>>(), &principale, &vita,
                       porte, guida = forme.paginaGuida] {
