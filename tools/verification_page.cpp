@@ -1,16 +1,11 @@
 #include "tools/verification_page.hpp"
 
-#include <algorithm>
 #include <string_view>
 
 #include "base/filled_text.hpp"
 #include "base/translated_texts.hpp"
-#include "live/section_checks.hpp"
-#include "live/wall.hpp"
-#include "scene/domain.hpp"
-#include "scene/scene.hpp"
 #include "scene/svg.hpp"
-#include "structure/interaction_domain.hpp"
+#include "verification/figure.hpp"
 #include "verification/quantities.hpp"
 #include "verification/table.hpp"
 #include "verification/words.hpp"
@@ -37,7 +32,8 @@ Each case goes through the run of the report ("Report") and through the equilibr
 as they know the quantity; what belongs to the section alone is "Section". Both sides of a case of the group "The
 program against itself" are runs; all other expected values come from elsewhere, and the scripts that made those which
 no book holds lie in `tests/oracle/verification` (`python3 tests/oracle/verification/check.py` compares them with the
-files; it needs NumPy). Formulas and authors are cited from memory, as in `theory.md`.
+files; it needs NumPy). Formulas and authors are cited from memory, as in `theory.md`; exercise 8.4 of G. N. Smith,
+Elements of Soil Mechanics, is no case, since its data and its answer are not known here to the digit.
 
 This page is made from the files in `data/verifica` by `tools/make_verification`; a test holds the two together.
 
@@ -123,17 +119,11 @@ std::string sources(const Caso& c) {
     return text + '\n';
 }
 
-const Caso* figureCase(const Gruppo& group) {
-    const auto found = std::find_if(group.casi.begin(), group.casi.end(),
-                                    [&](const Caso& c) { return c.nome == group.figura; });
-    return found == group.casi.end() ? nullptr : &*found;
-}
-
 std::string section(const EsitoGruppo& outcome) {
     const Gruppo& group = *outcome.gruppo;
     std::string text = "\n## " + traduttore(group.titolo) + "\n\n" + traduttore(group.descrizione) +
                        "\n\n" + group.teoria;
-    if (const Caso* c = figureCase(group))
+    if (const Caso* c = verification::casoInFigura(group))
         text += "\n![" + traduttore(c->titolo) + "](verification/" + group.nome + ".svg)\n\n`" +
                 c->nome + "`: " + traduttore(c->titolo) + ".\n";
     text += '\n' + table(outcome) + '\n';
@@ -141,31 +131,11 @@ std::string section(const EsitoGruppo& outcome) {
     return text;
 }
 
-live::Curva curve(std::string_view name) {
-    if (name == "pressioni") return live::Curva::pressioni;
-    if (name == "spostamento") return live::Curva::spostamento;
-    return name == "taglio" ? live::Curva::taglio : live::Curva::momento;
-}
-
 std::string figure(const Gruppo& group, const Caso& c) {
     constexpr std::string_view font = "sans-serif";
-    const scene::MisuraStimata measure;
-    const scene::Misura size{760, 460};
-    scene::Scena picture;
-    if (group.curva.empty()) {  // of a section
-        const auto domain = structure::dominioNM(c.parete.dati.sezione);
-        picture = scene::scenaDominio(domain, {}, size, measure, {});
-    } else {
-        auto data = c.parete.dati;
-        for (int i = 1; i <= data.nStrati; ++i) data.descrStrato[i].clear();  // no hatches
-        const auto wall = live::calcola(data, c.parete.segmenti);
-        scene::Opzioni options;
-        options.parole = false;
-        picture = scene::scena(wall, {wall.fasiInEquilibrio(), curve(group.curva)}, size, measure,
-                               options);
-    }
     const std::string title = traduttore(c.titolo);
-    return scene::svg(picture, scene::Tavolozza::chiara, font, title, title);
+    return scene::svg(verification::figura(group, c, {760, 460}).scena, scene::Tavolozza::chiara,
+                      font, title, title);
 }
 
 }  // namespace
@@ -180,7 +150,8 @@ std::string verificationPage(const EsitoVerifica& outcome) {
 std::map<std::string, std::string> verificationFigures(const std::vector<Gruppo>& groups) {
     std::map<std::string, std::string> figures;
     for (const Gruppo& group : groups)
-        if (const Caso* c = figureCase(group)) figures[group.nome + ".svg"] = figure(group, *c);
+        if (const Caso* c = verification::casoInFigura(group))
+            figures[group.nome + ".svg"] = figure(group, *c);
     return figures;
 }
 

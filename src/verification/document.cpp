@@ -2,10 +2,15 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "base/filled_text.hpp"
 #include "base/translated_texts.hpp"
 #include "base/version.hpp"
+#include "document/page.hpp"
+#include "drawings/annex/paper.hpp"
+#include "drawings/annex/scene_plot.hpp"
+#include "verification/figure.hpp"
 #include "verification/table.hpp"
 #include "verification/words.hpp"
 
@@ -55,11 +60,23 @@ void unisci(tables::Prospetto& tavola) {
                    i == 1 ? std::min(riga[i].testo.find(','), riga[i].testo.size()) : 0);
 }
 
+// At the width of the text; the drawing keeps its picture.
+void aggiungiFigura(const Gruppo& gruppo, std::vector<Blocco>& blocchi) {
+    constexpr double larghezza = document::larghezzaFigura, altezza = 10;  // [cm]
+    const Caso* caso = casoInFigura(gruppo);
+    if (caso == nullptr) return;
+    FiguraGruppo f = figura(gruppo, *caso, drawings::misuraCarta(larghezza, altezza));
+    blocchi.emplace_back(document::Figura{
+        caso->nome + " · " + traduttore(caso->titolo), std::move(f.descrizione), larghezza, altezza,
+        [scena = std::move(f.scena)] { drawings::disegnaScena(scena); }});
+}
+
 void aggiungiGruppo(const EsitoGruppo& esito, std::vector<Blocco>& blocchi) {
     const Gruppo& gruppo = *esito.gruppo;
     blocchi.emplace_back(Titolo{1, traduttore(gruppo.titolo)});
     if (!gruppo.descrizione.empty())
         blocchi.emplace_back(Paragrafo{traduttore(gruppo.descrizione)});
+    aggiungiFigura(gruppo, blocchi);
     tables::Prospetto tavola = prospetto(esito);
     unisci(tavola);
     tavola.titolo.clear();

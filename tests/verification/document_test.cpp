@@ -45,6 +45,18 @@ TEST(DocumentoVerifica, TellsOfEachCaseWhereItsValuesComeFrom) {
     EXPECT_EQ(blocchi<Tavola>(d)[0]->prospetto.righe.size(), 4U);
 }
 
+TEST(DocumentoVerifica, HasTheFigureOfAGroupAboveItsTable) {
+    Gruppo g{.nome = "g", .titolo = "Mensole", .figura = "deve_fallire", .curva = "momento"};
+    g.casi.push_back(leggiCaso(sbagliato, base::leggiFile(sbagliato), KORVEN_EXAMPLES));
+    const std::vector<Gruppo> gruppi{g};
+    const Documento d = documento(esegui(gruppi), "2026-11-22");
+    const auto figure = blocchi<Figura>(d);
+    ASSERT_EQ(figure.size(), 1U);
+    EXPECT_EQ(figure[0]->didascalia, "deve_fallire · Mensola con una forza in testa");
+    EXPECT_FALSE(figure[0]->descrizione.empty());
+    EXPECT_TRUE(blocchi<Figura>(conNoto("")).empty());  // of a group that names none
+}
+
 TEST(DocumentoVerifica, ShowsInTheColourOfDangerThatACaseIsNotMet) {
     const auto stile = [](const Documento& d) { return blocchi<Paragrafo>(d)[1]->stile; };
     EXPECT_EQ(stile(conNoto("")), Stile::pericolo);
