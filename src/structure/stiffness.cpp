@@ -26,7 +26,7 @@ double areaFaccia(const FacciaMm& faccia) {
     return armata(faccia) ? pi * quadrato(faccia.diametro) / 4 / faccia.interasse : 0;
 }
 
-double rigidezzaDiaframma(const DiaframmaMm& d, double Ec, double Es) {
+EJDiaframma rigidezzaDiaframma(const DiaframmaMm& d, double Ec, double Es) {
     const double H = d.spessore;
     const double n = Es / Ec;
     const double Av = areaFaccia(d.valle);
@@ -37,43 +37,53 @@ double rigidezzaDiaframma(const DiaframmaMm& d, double Ec, double Es) {
                      (H + (n - 1) * (Am + Av));
     const double Jv = Av * quadrato(H - x - d.valle.copriferro - d.valle.diametro / 2);
     const double Jm = Am * quadrato(x - d.monte.copriferro - d.monte.diametro / 2);
-    return Ec * metro * (cubo(H) / 12 + (n - 1) * (Jv + Jm));
+    return {d, n, Am, Av, x, Jm, Jv, Ec * metro * (cubo(H) / 12 + (n - 1) * (Jv + Jm))};
 }
 
-double rigidezzaPali(const PaliMm& p, double Ec, double Es) {
+EJPali rigidezzaPali(const PaliMm& p, double Ec, double Es) {
     const double Re = p.diamEst / 2;
     const double Ri = p.diamInt / 2;
-    return metro * (pi / 4) * (Ec * quarta(Ri) + Es * (quarta(Re) - quarta(Ri))) / p.interasse;
+    return {p, metro * (pi / 4) * (Ec * quarta(Ri) + Es * (quarta(Re) - quarta(Ri))) / p.interasse};
 }
 
-double rigidezzaPalancola(const PalancolaMm& p, double Es) {
+EJPalancola rigidezzaPalancola(const PalancolaMm& p, double Es) {
     const double tw = spessoreOrizzontaleAla(p);
     const double Be = p.base + tw;
     const double He = altezza(p);
     const double Bi = Be - 2 * tw;
     const double Hi = He - 2 * p.spessore;
-    return metro * Es * (Be * cubo(He) / 12 - Bi * cubo(Hi) / 12) / passoOnda(p);
+    return {Be,           He,
+            Bi,           Hi,
+            passoOnda(p), metro * Es * (Be * cubo(He) / 12 - Bi * cubo(Hi) / 12) / passoOnda(p)};
 }
 
-double rigidezzaPaliArmati(const PaliArmatiMm& p, double Ec, double Es) {
+EJPaliArmati rigidezzaPaliArmati(const PaliArmatiMm& p, double Ec, double Es) {
     const double db = p.diamLong;
     double Sc = (pi * Ec / 4) * quarta(p.diamPalo / 2);
     double Ss = 0;
+    double tutti = 0;
     const double Ab = pi * quadrato(db / 2);
     const double delta = 2 * pi / p.numLong;
     const int ferri = numeroFerri(p);
     for (int i = 0; i < ferri; ++i) {
         const double a = std::sin(delta * i) * raggioFerri(p);
         const double Jb = quadrato(a) * Ab + (pi / 4) * quarta(db / 2);
+        tutti += Jb;
         Ss = Ss + Jb * Es;
         Sc = Sc - Jb * Ec;
     }
-    return metro * (Ss + Sc) / p.interasse;
+    return {p, ferri, raggioFerri(p), tutti, metro * (Ss + Sc) / p.interasse};
+}
+
+double rigidezza(std::monostate) { return 0; }
+template <class Passi>
+double rigidezza(const Passi& passi) {
+    return passi.EJ;
 }
 
 }  // namespace
 
-double calcolaEJ(const project::Sezione& s) {
+PassiEJ passiEJ(const project::Sezione& s) {
     const TipoSezione tipo = tipoSezione(s);
     assert(tipo == TipoSezione::nessuno || sezioneValida(s));
     switch (tipo) {
@@ -88,7 +98,11 @@ double calcolaEJ(const project::Sezione& s) {
         case TipoSezione::nessuno:
             break;
     }
-    return 0;
+    return {};
+}
+
+double calcolaEJ(const project::Sezione& s) {
+    return std::visit([](const auto& passi) { return rigidezza(passi); }, passiEJ(s));
 }
 
 }  // namespace korven::structure

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <variant>
+
 #include "project/section.hpp"
+#include "structure/section_millimetres.hpp"
 
 namespace korven::structure {
 
@@ -36,5 +39,36 @@ namespace korven::structure {
 ///      finite only if the numbers overflow (lengths beyond 1e70), or if steel softer than concrete
 ///      makes the homogenised section vanish
 [[nodiscard]] double calcolaEJ(const project::Sezione& sezione);
+
+// The same step by step, in the symbols above; EJ in N mm2 per metre of wall.
+
+struct EJDiaframma {
+    DiaframmaMm misure{};
+    double n = 0;
+    double Am = 0, Av = 0;  ///< [mm2/mm]
+    double x = 0;           ///< [mm]
+    double Jm = 0, Jv = 0;  ///< of the steel alone about x [mm4/mm]
+    double EJ = 0;
+};
+struct EJPali {
+    PaliMm misure{};
+    double EJ = 0;
+};
+struct EJPalancola {
+    double Be = 0, He = 0, Bi = 0, Hi = 0;  ///< [mm]
+    double passo = 0;                       ///< length of a wave [mm]
+    double EJ = 0;
+};
+struct EJPaliArmati {
+    PaliArmatiMm misure{};
+    int ferri = 0;      ///< that are there
+    double raggio = 0;  ///< of the ring of their axes [mm]
+    double Jb = 0;      ///< of all bars about the axis of bending [mm4]
+    double EJ = 0;
+};
+using PassiEJ = std::variant<std::monostate, EJDiaframma, EJPali, EJPalancola, EJPaliArmati>;
+
+/// @return nothing without a section; the preconditions are those of `calcolaEJ`
+[[nodiscard]] PassiEJ passiEJ(const project::Sezione& sezione);
 
 }  // namespace korven::structure
