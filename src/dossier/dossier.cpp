@@ -79,6 +79,8 @@ Fascicolo fascicolo(const Richiesta& richiesta, analysis::OsservatoreCorsa& osse
     f.bilanci = bilanci(f.parete.dati, f.parete.nSeg, f.parete.fasiInEquilibrio());
     f.tiranti = storieTiranti(f.parete, f.margine ? &*f.margine : nullptr);
     prova([&] { sezione(f); });
+    prova([&] { f.terreno = valoriTerreno(f.parete); });
+    prova([&] { f.rigidezza = valoriRigidezza(f.parete.dati); });
     return f;
 }
 

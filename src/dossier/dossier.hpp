@@ -9,6 +9,7 @@
 #include "dossier/balance.hpp"
 #include "dossier/identity.hpp"
 #include "dossier/section_values.hpp"
+#include "dossier/soil_values.hpp"
 #include "dossier/specified_run.hpp"
 #include "live/envelope.hpp"
 #include "live/section_checks.hpp"
@@ -43,6 +44,8 @@ struct Fascicolo {
     std::vector<structure::PuntoDominio> dominio;  ///< empty without a section
     std::optional<ValoriFlessione> flessione;      ///< nothing without a section
     std::optional<ValoriTaglio> taglio;            ///< nothing without stirrups
+    ValoriTerreno terreno;
+    ValoriRigidezza rigidezza;
 
     /// True if the specified run came to rest in all stages and its report has numbers.
     [[nodiscard]] bool conRelazione() const { return margine && margine->relazione; }

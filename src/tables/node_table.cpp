@@ -23,18 +23,6 @@ using live::PareteViva;
 using project::DatiProgetto;
 namespace unita = project::unita;
 
-std::string nome(StatoLato stato) {
-    switch (stato) {
-        case StatoLato::attivo:
-            return traduttore("attivo");
-        case StatoLato::passivo:
-            return traduttore("passivo");
-        case StatoLato::elastico:
-            break;
-    }
-    return traduttore("elastico");
-}
-
 // "2: Ghiaia". The description of a layer may ask for line ends, which a cell has none of.
 std::string nomeStrato(const DatiProgetto& dati, int j) {
     std::string testo = drawings::leggiDescrizione(dati.descrStrato[j]).testo;
@@ -102,7 +90,7 @@ std::vector<Colonna> colonneFase(bool conCostante) {
     return colonne;
 }
 
-Cella stato(StatoLato lato) { return parola(nome(lato)); }
+Cella stato(StatoLato lato) { return parola(nomeStato(lato)); }
 
 std::vector<Cella> rigaFase(const FaseEquilibrio& fase, std::size_t i, double z, double scavo,
                             bool conCostante) {
@@ -120,6 +108,18 @@ std::vector<Cella> rigaFase(const FaseEquilibrio& fase, std::size_t i, double z,
 }
 
 }  // namespace
+
+std::string nomeStato(StatoLato stato) {
+    switch (stato) {
+        case StatoLato::attivo:
+            return traduttore("attivo");
+        case StatoLato::passivo:
+            return traduttore("passivo");
+        case StatoLato::elastico:
+            break;
+    }
+    return traduttore("elastico");
+}
 
 std::string perche(const PareteViva& parete, int fase) {
     const int stanno = parete.fasiInEquilibrio();

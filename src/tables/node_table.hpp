@@ -1,5 +1,6 @@
 #pragma once
 
+#include "analysis/iteration_state.hpp"
 #include "live/envelope.hpp"
 #include "live/wall.hpp"
 #include "tables/result_table.hpp"
@@ -14,6 +15,9 @@ namespace korven::tables {
 
 /// The nodes of the envelope of all stages that stand: smallest and largest values.
 [[nodiscard]] Prospetto prospettoInviluppo(const live::PareteViva& parete);
+
+/// A state in a word.
+[[nodiscard]] std::string nomeStato(analysis::StatoLato stato);
 
 /// Why a stage, or with 0 the envelope, has no numbers, in one sentence; empty where it has.
 [[nodiscard]] std::string perche(const live::PareteViva& parete, int fase);

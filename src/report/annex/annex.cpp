@@ -27,11 +27,13 @@ constexpr Capitolo capitoli[] = {
     {"Modello e ipotesi", capitoloModello, true},
     {"Osservazioni", capitoloOsservazioni, false},
     {"Dati", capitoloDati, true},
+    {"Terreno e rigidezze", capitoloTerreno, true},
     {"Fasi", capitoloFasi, true},
     {"Tiranti", capitoloTiranti, true},
     {"Inviluppi", capitoloInviluppi, false},
     {"Verifiche della sezione", capitoloSezione, true},
     {"Margine di sicurezza", capitoloMargine, true},
+    {"Terreno nodo per nodo", capitoloNodiTerreno, true},
     {"Come ripetere il documento", capitoloRipetere, true},
 };
 

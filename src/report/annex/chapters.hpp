@@ -26,11 +26,15 @@ void capitoloCopertina(const Contesto& contesto, Blocchi& blocchi);
 void capitoloModello(const Contesto& contesto, Blocchi& blocchi);
 void capitoloOsservazioni(const Contesto& contesto, Blocchi& blocchi);
 void capitoloDati(const Contesto& contesto, Blocchi& blocchi);
+/// Coefficients, moduli, stiffness.
+void capitoloTerreno(const Contesto& contesto, Blocchi& blocchi);
 void capitoloFasi(const Contesto& contesto, Blocchi& blocchi);
 void capitoloTiranti(const Contesto& contesto, Blocchi& blocchi);
 void capitoloInviluppi(const Contesto& contesto, Blocchi& blocchi);
 void capitoloSezione(const Contesto& contesto, Blocchi& blocchi);
 void capitoloMargine(const Contesto& contesto, Blocchi& blocchi);
+/// The springs of every stage, node by node.
+void capitoloNodiTerreno(const Contesto& contesto, Blocchi& blocchi);
 void capitoloRipetere(const Contesto& contesto, Blocchi& blocchi);
 
 }  // namespace korven::report

@@ -11,6 +11,11 @@ namespace korven::report {
     return {.titolo = base::traduttore(titolo), .unita = {}, .spiegazione = {}, .numerica = false};
 }
 
+/// A column of the numbers of layers.
+[[nodiscard]] inline tables::Colonna colonnaStrato() {
+    return {.titolo = base::traduttore("Strato"), .unita = {}, .spiegazione = {}, .numerica = true};
+}
+
 /// A column of the numbers of rows.
 [[nodiscard]] inline tables::Colonna colonnaNumero() {
     return {.titolo = "N.", .unita = {}, .spiegazione = {}, .numerica = true};

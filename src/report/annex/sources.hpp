@@ -32,6 +32,11 @@ inline constexpr const char* bowles =
 inline constexpr const char* lancellotta = "R. Lancellotta, Geotechnical Engineering (1995)";
 inline constexpr const char* terzaghi = "K. Terzaghi, Theoretical Soil Mechanics (1943)";
 
+inline constexpr const char* rigidezza =
+    "R. Park, T. Paulay, Reinforced Concrete Structures (1975); CEN, EN 1992-1-1, Eurocode 2: "
+    "Design "
+    "of concrete structures (2004), 5.4";
+
 // Where the rules stand for what is not computed.
 inline constexpr const char* coefficientiParziali =
     "CEN, EN 1997-1, Eurocode 7: Geotechnical design (2004), 2.4.7.3";

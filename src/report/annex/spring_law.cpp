@@ -84,7 +84,10 @@ Prospetto prospettoMolla(const DatiProgetto& dati) {
             {"γ", "γw"}),
         traduttore("La pressione segue sempre la stessa retta, da p0 con spostamento nullo. In un "
                    "nodo vincolato la molla del terreno non agisce: p è quella con y = 0. Sopra lo "
-                   "scavo a valle non c'è terreno.")};
+                   "scavo a valle non c'è terreno."),
+        base::riempito(traduttore("I coefficienti e i moduli di ogni strato sono nel capitolo %1, "
+                                  "i valori di ogni nodo nel capitolo %2."),
+                       {traduttore("Terreno e rigidezze"), traduttore("Terreno nodo per nodo")})};
     return p;
 }
 

@@ -77,11 +77,11 @@ std::vector<Blocco> capitolo(void (*scrivi)(const Contesto&, Blocchi&), Fascicol
 TEST(Allegato, BeginsWithTheCoverAndEndsWithTheWayToRepeatIt) {
     const Documento d = allegato(fascicoloDi(muro()));
     const auto capitoli = titoli(d);
-    EXPECT_EQ(capitoli,
-              (std::vector<std::string>{
-                  "Allegato di calcolo", "1. Modello e ipotesi", "2. Osservazioni", "3. Dati",
-                  "4. Fasi", "5. Tiranti", "6. Inviluppi", "7. Verifiche della sezione",
-                  "8. Margine di sicurezza", "9. Come ripetere il documento"}));
+    EXPECT_EQ(capitoli, (std::vector<std::string>{
+                            "Allegato di calcolo", "1. Modello e ipotesi", "2. Osservazioni",
+                            "3. Dati", "4. Terreno e rigidezze", "5. Fasi", "6. Tiranti",
+                            "7. Inviluppi", "8. Verifiche della sezione", "9. Margine di sicurezza",
+                            "10. Terreno nodo per nodo", "11. Come ripetere il documento"}));
 }
 
 TEST(Allegato, TellsOnEveryPageWhichProjectItIsOf) {

@@ -18,8 +18,8 @@ using project::DatiProgetto;
 // Every table has a cell for each column, every block says something.
 void verifica(const DatiProgetto& dati, const std::string& di) {
     const Contesto c = test::contesto(dati, 2);
-    for (const auto capitolo :
-         {capitoloFasi, capitoloTiranti, capitoloInviluppi, capitoloSezione, capitoloMargine}) {
+    for (const auto capitolo : {capitoloTerreno, capitoloNodiTerreno, capitoloFasi, capitoloTiranti,
+                                capitoloInviluppi, capitoloSezione, capitoloMargine}) {
         const Blocchi b = test::blocchi(capitolo, c);
         EXPECT_FALSE(b.empty()) << di;
         for (const auto& t : test::tutti<document::Tavola>(b)) {
