@@ -4,6 +4,7 @@
 #include <QClipboard>
 #include <QMimeData>
 #include <algorithm>
+#include <iterator>
 #include <string_view>
 
 #include "base/code_page.hpp"
@@ -58,14 +59,14 @@ const Tipo& tipoDi(const std::string& percorso) {
                                                  "terminare il nome con .svg, .pdf o .png"));
 }
 
-// Whether what stands behind a point names a kind of file: "jpg", but not the "50" of "scavo 3.50".
-bool estensione(std::string_view fine) {
-    constexpr std::size_t lunghezzaMassima = 4;
-    const auto lettera = [](char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); };
-    return fine.empty() || (fine.size() <= lunghezzaMassima && lettera(fine.front()) &&
-                            std::all_of(fine.begin(), fine.end(), [&](char c) {
-                                return lettera(c) || (c >= '0' && c <= '9');
-                            }));
+// Whether what stands behind a point names another kind of picture, whatever its case: "jpg", but
+// not the "def" of "muro.def".
+bool altraFigura(std::string_view fine) {
+    constexpr std::string_view figure[] = {"",    "bmp", "dwg",  "dxf",  "emf",
+                                           "eps", "gif", "jpeg", "jpg",  "svgz",
+                                           "tif", "ps",  "tiff", "webp", "wmf"};
+    return std::find(std::begin(figure), std::end(figure), base::minuscolo(fine)) !=
+           std::end(figure);
 }
 
 // What was typed, with an ending that is taken.
@@ -74,7 +75,7 @@ std::string daProporreAncora(const std::string& percorso) {
     const std::size_t nome = percorso.rfind('/') + 1;
     const std::size_t punto = percorso.rfind('.');
     const bool conFine = punto != std::string::npos && punto > nome &&
-                         estensione(std::string_view(percorso).substr(punto + 1));
+                         altraFigura(std::string_view(percorso).substr(punto + 1));
     return percorso.substr(0, conFine ? punto : std::string::npos) + '.' + tipi[0].estensione;
 }
 

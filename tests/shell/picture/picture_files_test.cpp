@@ -89,6 +89,8 @@ TEST_F(FileFiguraTest, AsksAgainForANameThatWasRefused) {
                                                         {"muro scavo 3.50", "muro scavo 3.50.svg"},
                                                         {"muro 3.5m", "muro 3.5m.svg"},
                                                         {"muro ing. Rossi", "muro ing. Rossi.svg"},
+                                                        {"muro.def", "muro.def.svg"},
+                                                        {"scavo.WMF", "scavo.svg"},
                                                         {"muro.", "muro.svg"}};
     for (const auto& [scritto, riproposto] : casi) {
         porte.chieste.clear();
