@@ -1,5 +1,6 @@
 #include "workbook/project_sheet.hpp"
 
+#include <algorithm>
 #include <utility>
 
 #include "base/colon.hpp"
@@ -60,6 +61,17 @@ void modello(const Fascicolo& f, Voci& voci) {
                    "metro di paratia; della relazione è solo la colonna che lo dice."));
 }
 
+// Each once, in the order of the rows.
+std::vector<std::string> percheVuote(const Prospetto& p) {
+    std::vector<std::string> motivi;
+    for (const auto& riga : p.righe)
+        for (const Cella& cella : riga)
+            if (!cella.perche.empty() &&
+                std::find(motivi.begin(), motivi.end(), cella.perche) == motivi.end())
+                motivi.push_back(cella.perche);
+    return motivi;
+}
+
 std::string verdetto(const Fascicolo& f) {
     if (f.margine) return tables::verdetto(*f.margine);
     return tables::perche(f.parete, f.parete.fasiInEquilibrio() + 1);
@@ -81,6 +93,10 @@ Prospetto prospettoProgetto(const Fascicolo& fascicolo, const std::vector<Foglio
         for (const std::string& nota : foglio.prospetto.note)
             voci.aggiungi(traduttore("Nota") + base::duePunti() + foglio.prospetto.titolo,
                           tables::parola(nota));
+    for (const Foglio& foglio : altri)
+        for (const std::string& motivo : percheVuote(foglio.prospetto))
+            voci.aggiungi(traduttore("Celle vuote") + base::duePunti() + foglio.prospetto.titolo,
+                          tables::parola(motivo));
     return p;
 }
 

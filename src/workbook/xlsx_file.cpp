@@ -30,6 +30,9 @@ constexpr double margineColonna = 3;
 constexpr double altezzaLinea = 15;  // of a text, in points
 constexpr int lineeTesta = 2;        // a title, and its unit below
 constexpr double massimoLinee = 20;
+// The box of a remark on a cell [px], and how many letters a line of it has.
+constexpr std::uint16_t larghezzaNota = 240, altezzaRigaNota = 18;
+constexpr std::size_t lettereNota = 32;
 constexpr std::uint8_t fogliA4 = 9;  // the format's number of the paper
 
 // A file without a name: the library writes under one, and nothing must stay of a file that was
@@ -155,6 +158,7 @@ class Libro {
         for (std::size_t r = 0; r < p.righe.size(); ++r) {
             for (std::size_t c = 0; c < p.colonne.size(); ++c)
                 cella(foglio, rigaFoglio(r), static_cast<lxw_col_t>(c), p.righe[r][c], dati.aCapo);
+            spiegaVuote(foglio, p, r);
             if (const int n = linee(p, r, larghezze); dati.aCapo && n > 1)
                 worksheet_set_row(foglio, rigaFoglio(r), n * altezzaLinea, nullptr);
         }
@@ -191,6 +195,21 @@ class Libro {
             worksheet_write_number(foglio, r, c, *cella.numero, stili_.di(cella, aCapo));
         else
             testo(foglio, r, c, cella.testo, stili_.di(cella, aCapo));
+    }
+
+    // Why there is nothing, as a remark on the cell: of those one below the other that have one
+    // reason on the first.
+    static void spiegaVuote(lxw_worksheet* foglio, const Prospetto& p, std::size_t r) {
+        for (std::size_t c = 0; c < p.colonne.size(); ++c) {
+            const std::string& perche = p.righe[r][c].perche;
+            if (perche.empty() || (r > 0 && p.righe[r - 1][c].perche == perche)) continue;
+            lxw_comment_options riquadro{};
+            riquadro.width = larghezzaNota;
+            riquadro.height =
+                altezzaRigaNota * static_cast<std::uint16_t>(2 + perche.size() / lettereNota);
+            worksheet_write_comment_opt(foglio, rigaFoglio(r), static_cast<lxw_col_t>(c),
+                                        perche.c_str(), &riquadro);
+        }
     }
 
     static void testo(lxw_worksheet* foglio, lxw_row_t r, lxw_col_t c, const std::string& testo,

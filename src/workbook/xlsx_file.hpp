@@ -12,8 +12,9 @@ inline constexpr std::size_t massimoTestoCella = 32767;
 /// The bytes of the workbook in the format of spreadsheets (Office Open XML). A sheet has its title
 /// with its source in the first row, the heads in the second, both of which stay in place, then the
 /// table and below it its notes. Numbers are numbers with 16 digits, shown with as many decimals as
-/// the tables show; nothing is a formula, and a cell that has nothing to show is empty. The charts
-/// are on the last sheet. Equal workbooks give equal bytes, whenever they are written.
+/// the tables show; nothing is a formula. A cell that has nothing to show is empty, and a remark on
+/// it says why, where that is known, or on the first of several below one another. The charts are
+/// on the last sheet. Equal workbooks give equal bytes, whenever they are written.
 /// @throws base::ErroreScrittura if the system has no room for the file in the making
 [[nodiscard]] std::string xlsx(const CartellaFogli& cartella);
 

@@ -172,6 +172,15 @@ TEST(Fogli, SayWhyAWallThatDoesNotStandHasNoNumbers) {
                             [](const auto& r) { return r[0].testo == "Nota: Nodi"; }));
 }
 
+TEST(Fogli, SayOnceWhyCellsAreEmpty) {
+    const CartellaFogli cartella = fogli(dossier::fascicolo(test::progettoSemplice()));
+    std::vector<std::string> motivi;
+    for (const auto& riga : foglio(cartella, "progetto").prospetto.righe)
+        if (riga[0].testo == "Celle vuote: Tiranti") motivi.push_back(riga[1].testo);
+    ASSERT_EQ(motivi.size(), 1u);
+    EXPECT_EQ(motivi[0], "Il tirante non è in opera in questa fase.");
+}
+
 TEST(Fogli, AreMadeOfAProjectOfWhichNothingIsKnown) {
     const CartellaFogli cartella = fogli(dossier::fascicolo(test::progettoVuoto()));
     for (const Foglio& f : cartella.fogli)

@@ -99,6 +99,20 @@ TEST(Xlsx, GivesEqualBytesForEqualWorkbooksWhateverTheClock) {
               std::string::npos);
 }
 
+TEST(Xlsx, SaysWhyACellIsEmptyInARemarkOnIt) {
+    const std::string byte = xlsx(cartella(dueColonne()));
+    EXPECT_EQ(leggiXlsx(byte)[0].a(3, 0).testo, "");
+    const std::string note = unpacked(byte, "xl/comments1.xml");
+    EXPECT_EQ(brani(note, "<comment ref=\"", "\""), std::vector<std::string>{"A4"});
+    EXPECT_NE(note.find("perché"), std::string::npos) << note;
+    EXPECT_EQ(xlsx(cartella(dueColonne())), byte);
+    auto p = dueColonne();
+    p.righe.insert(p.righe.end(), {p.righe[1], p.righe[0], p.righe[1]});
+    EXPECT_EQ(brani(unpacked(xlsx(cartella(p)), "xl/comments1.xml"), "<comment ref=\"", "\""),
+              (std::vector<std::string>{"A4", "A7"}))
+        << "one for two cells below one another";
+}
+
 TEST(Xlsx, CutsATextThatNoCellHoldsAtACharacter) {
     auto p = dueColonne();
     std::string lungo;
