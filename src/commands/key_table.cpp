@@ -24,7 +24,8 @@ constexpr const char *principale = "Finestra principale", *immagine = "Immagine 
                      *catalogo = "Catalogo dei profili", *calcolo = "Calcolo in corso",
                      *disegno = "Disegno in corso", *visore = "Visore dei disegni",
                      *penne = "Penne e colori dei disegni", *anteprima = "Anteprima dei tabulati",
-                     *allegato = "Anteprima dell'allegato", *guida = "Finestra della guida";
+                     *allegato = "Pagine dell'allegato e del confronto",
+                     *guida = "Finestra della guida";
 constexpr const char *chiude = "chiude la finestra", *paginaGuida = "apre la pagina della guida",
                      *storia = "annulla e ripete ciò che si è scritto",
                      *nodi = "legge la paratia più in alto, più in basso",

@@ -194,6 +194,7 @@ constexpr VoceMenu voci[] = {
     accanto({"risultati", "R&isultati", 1, 36, ha<&F::risultati>, mostra<&F::risultati>, "Ctrl+R"}),
     accanto({"sicurezza", "&Sicurezza", 1, 37, ha<&F::sicurezza>, mostra<&F::sicurezza>}),
     accanto({"allegato", "&Allegato", 1, 43, ha<&F::allegato>, mostra<&F::allegato>}),
+    accanto({"confronto", "Con&fronta con", 1, 44, ha<&F::confronto>, mostra<&F::confronto>}),
     staccata({"nuovo", "Nu&ovo", 1, 38, ha<&F::nuovo>, nuovo}),
     {"duplica", "&Duplica", 1, 39, nullptr, duplica, "", progettoAperto},
     {"recenti", "R&ecenti", 1, 40, nullptr, nullptr, "", nullptr, nullptr, recenti},

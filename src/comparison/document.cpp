@@ -52,7 +52,6 @@ std::string conImpronta(const std::string& frase, const Muro& muro) {
 void aggiungiCurve(const std::shared_ptr<const Confronto>& confronto, Documento& d) {
     const auto [uno, altro] = nomi(*confronto);
     const auto formato = drawings::formatoConfronto;
-    d.blocchi.emplace_back(document::SaltoPagina{});
     d.blocchi.emplace_back(Titolo{2, traduttore("Le due pareti")});
     d.blocchi.emplace_back(document::Figura{
         .didascalia = traduttore("Le due pareti e gli inviluppi di momenti, tagli e spostamenti"),
@@ -94,6 +93,14 @@ Documento documento(const std::shared_ptr<const Confronto>& confronto, const std
         d.blocchi.emplace_back(Titolo{2, traduttore("Osservazioni che cambiano")});
         for (const std::string& riga : righe) d.blocchi.emplace_back(Paragrafo{riga});
     }
+    d.blocchi.emplace_back(document::SaltoPagina{});
+    aggiungiCurve(confronto, d);
+    return d;
+}
+
+Documento documentoCurve(const std::shared_ptr<const Confronto>& confronto) {
+    Documento d;
+    d.titolo = traduttore("Le due pareti");
     aggiungiCurve(confronto, d);
     return d;
 }

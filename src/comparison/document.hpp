@@ -14,4 +14,7 @@ namespace korven::comparison {
 [[nodiscard]] document::Documento documento(const std::shared_ptr<const Confronto>& confronto,
                                             const std::string& data);
 
+/// Its last page alone, both walls and their curves, to look at.
+[[nodiscard]] document::Documento documentoCurve(const std::shared_ptr<const Confronto>& confronto);
+
 }  // namespace korven::comparison

@@ -6,6 +6,7 @@
 #include "base/colon.hpp"
 #include "base/filled_text.hpp"
 #include "base/translated_texts.hpp"
+#include "tables/remark_table.hpp"
 
 namespace korven::comparison {
 
@@ -136,6 +137,22 @@ Prospetto prospettoFasi(const Confronto& c) {
         celle.insert(celle.begin(), tables::cella(r.fase));
         note(r, p);
     }
+    return p;
+}
+
+Prospetto prospettoOsservazioni(const Confronto& c) {
+    Prospetto p = tables::prospettoOsservazioni({});
+    p.colonne.insert(p.colonne.begin(),
+                     tables::colonnaParole("In quale", "Quale dei due progetti ha l'osservazione"));
+    p.note.clear();
+    for (const auto* lista : {&c.sparite, &c.nuove})
+        for (auto& celle : tables::prospettoOsservazioni(*lista).righe) {
+            celle.insert(
+                celle.begin(),
+                tables::parola(traduttore(lista == &c.sparite ? "solo prima" : "solo dopo")));
+            p.righe.push_back(std::move(celle));
+        }
+    if (p.righe.empty()) p.note.push_back(traduttore("Nessuna osservazione cambia."));
     return p;
 }
 

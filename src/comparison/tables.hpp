@@ -25,7 +25,10 @@ namespace korven::comparison {
 /// The same by stage; without rows where no stage of either is known.
 [[nodiscard]] tables::Prospetto prospettoFasi(const Confronto& confronto);
 
-/// The remarks that one of them has, a line each: "solo prima: pericolo: ...".
+/// The remarks that one of them has, as rows; a note says that there is none.
+[[nodiscard]] tables::Prospetto prospettoOsservazioni(const Confronto& confronto);
+
+/// The same, a line each: "solo prima: pericolo: ...".
 [[nodiscard]] std::vector<std::string> righeOsservazioni(const Confronto& confronto);
 
 }  // namespace korven::comparison

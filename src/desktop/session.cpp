@@ -5,6 +5,7 @@
 #include "commands/start/startup.hpp"
 #include "desktop/annex_of_project.hpp"
 #include "shell/annex/annex_wiring.hpp"
+#include "shell/comparison/comparison_wiring.hpp"
 #include "shell/help/porta.hpp"
 #include "shell/main/informazioni.hpp"
 #include "shell/masks/form_opening.hpp"
@@ -46,6 +47,7 @@ commands::FormeProgramma Sessione::forme(const PorteSessione& porte) {
     shell::collegaSicurezza(tutte, finestra_, vita_);
     shell::collegaAllegato(tutte, finestra_, vita_, dialogo, porte.stampante, allegatoDelProgetto,
                            annuncia);
+    shell::collegaConfronto(tutte, finestra_, vita_, dialogo, porte.stampante, annuncia);
     shell::collegaStrumenti(tutte, dialogo, finestra_);
     tutte.riavvia = porte.riavvia;
     return tutte;

@@ -26,6 +26,7 @@ constexpr Posto posti[] = {
     {"risultati", 36},
     {"sicurezza", 37},
     {"allegato", 43},
+    {"confronto", 44},
     {"DefinEJ", 7},
     {"Form1", 19},
     {"apri", 3},

@@ -89,6 +89,16 @@ std::optional<std::string> DialogoFileQt::salva(const std::string& proposta) {
     return risposta(dialogo);
 }
 
+std::string chiediProgetto(QWidget* sopra) {
+    QFileDialog dialogo(sopra);
+    prepara(dialogo, tradotto("Progetto con cui confrontare"), QFileDialog::AcceptOpen);
+    dialogo.setObjectName("altroProgetto");
+    dialogo.setFileMode(QFileDialog::ExistingFile);
+    dialogo.setLabelText(QFileDialog::Accept, tradotto("&Apri"));
+    if (dialogo.exec() != QDialog::Accepted || dialogo.selectedFiles().isEmpty()) return {};
+    return QFileInfo(dialogo.selectedFiles().first()).absoluteFilePath().toStdString();
+}
+
 // "NotePad|*.txt", as the name and the pattern of a filter.
 std::string chiediNomeTxt(QWidget* sopra, const std::string& proposto) {
     QFileDialog dialogo(sopra);

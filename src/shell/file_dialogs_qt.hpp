@@ -23,6 +23,11 @@ class DialogoFileQt : public commands::DialogoFile {
     QPointer<QWidget> finestra_;
 };
 
+/// The dialog for a project that is only read: it takes no name that no file has, and the current
+/// folder stays.
+/// @return its absolute path; empty when it was given up
+[[nodiscard]] std::string chiediProgetto(QWidget* sopra);
+
 /// The dialog for another name of the text export. Takes any name and asks nothing about it.
 /// @param proposto  path that it begins with
 /// @return the path chosen; empty when it was given up

@@ -214,6 +214,7 @@ TEST_F(ProgrammaTest, LetsOnlyThoseCommandsBeChosenThatShowNoFormOrOneThatIsPlug
         {"risultati", [](auto& f) { f.risultati = [] {}; }, {"risultati"}},
         {"sicurezza", [](auto& f) { f.sicurezza = [] {}; }, {"sicurezza"}},
         {"allegato", [](auto& f) { f.allegato = [] {}; }, {"allegato"}},
+        {"confronto", [](auto& f) { f.confronto = [] {}; }, {"confronto"}},
         {"nuovo", [](auto& f) { f.nuovo = [] { return std::nullopt; }; }, {"nuovo"}},
         {"lingua", [](auto& f) { f.lingua = [] { return false; }; }, {"lingua"}},
         {"tasti", [](auto& f) { f.tasti = [] {}; }, {"tasti"}},
@@ -257,7 +258,7 @@ TEST_F(ProgrammaTest, TakesNoOtherCommandWhileADrawingIsShown) {
     EXPECT_TRUE(p.possibile(voceMenu("FileApri")));
     p.produci([](const PorteUscita& porte) { porte.forme.grafica(); });
     EXPECT_EQ(possibili, (std::vector<std::string_view>{"controlli", "risultati", "sicurezza",
-                                                        "allegato", "tasti"}));
+                                                        "allegato", "confronto", "tasti"}));
     EXPECT_TRUE(p.possibile(voceMenu("FileApri")));
 }
 

@@ -52,6 +52,7 @@ TEST(AlberoMenu, HoldsTheMenusAndTheirItemsInOrder) {
               "  risultati R&isultati\n"
               "  sicurezza &Sicurezza\n"
               "  allegato &Allegato\n"
+              "  confronto Con&fronta con\n"
               "  nuovo Nu&ovo\n"
               "  duplica &Duplica\n"
               "  recenti R&ecenti\n"
@@ -95,6 +96,7 @@ TEST(AlberoMenu, GivesEachItemItsEntryOfTheHelpContexts) {
                                                 {"risultati", 36},
                                                 {"sicurezza", 37},
                                                 {"allegato", 43},
+                                                {"confronto", 44},
                                                 {"nuovo", 38},
                                                 {"duplica", 39},
                                                 {"recenti", 40},
@@ -107,7 +109,7 @@ TEST(AlberoMenu, GivesEachItemItsEntryOfTheHelpContexts) {
                 EXPECT_EQ(v.guida, aiuto) << nome;
                 ++trovate;
             }
-    EXPECT_EQ(trovate, 36);
+    EXPECT_EQ(trovate, 37);
 }
 
 TEST(AlberoMenu, GivesNoTwoItemsTheSameKeys) {

@@ -49,6 +49,7 @@ class MenuIntero : public test::BancoProgramma {
         forme.risultati = dice("results");
         forme.sicurezza = dice("safety");
         forme.allegato = dice("annex");
+        forme.confronto = dice("comparison");
         forme.nuovo = [this] {
             mostrate += "pattern, ";
             return std::string();
@@ -114,6 +115,7 @@ TEST_F(MenuIntero, BringsAboutWhatEachItemSays) {
         {"risultati", "results"},
         {"sicurezza", "safety"},
         {"allegato", "annex"},
+        {"confronto", "comparison"},
         {"nuovo", "pattern, name dialog"},
         {"duplica", "name dialog"},
         {"lingua", "languages, start again, end"},

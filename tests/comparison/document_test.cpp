@@ -32,6 +32,15 @@ TEST(DocumentoConfronto, HasTheTablesAndThePageOfBothWalls) {
         " (SHA-256 " + std::string(dossier::inBreve(impronta)) + ")"));
 }
 
+TEST(DocumentoConfronto, HasItsCurvesForTheScreenToo) {
+    const auto c =
+        std::make_shared<const Confronto>(test::confronto(test::trave(3), test::trave(6)));
+    const auto figure = tutti<document::Figura>(documentoCurve(c));
+    ASSERT_EQ(figure.size(), 1U);
+    EXPECT_EQ(figure[0].descrizione,
+              tutti<document::Figura>(documento(c, "2026-01-31"))[0].descrizione);
+}
+
 TEST(DocumentoConfronto, SaysInWordsThatNoFieldDiffers) {
     const auto d = documentoDi(test::trave(3), test::trave(3));
     EXPECT_EQ(tutti<document::Tavola>(d).size(), 2U);

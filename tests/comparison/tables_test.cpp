@@ -66,6 +66,19 @@ TEST(ProspettiConfronto, SayOnceWhyAWallThatFallsHasNoNumbers) {
     }));
 }
 
+TEST(ProspettiConfronto, HaveARowForEachRemarkThatOneOfThemHas) {
+    const Confronto c = test::confronto(progettoSemplice(), test::cade());
+    const auto p = prospettoOsservazioni(c);
+    ASSERT_EQ(p.righe.size(), c.sparite.size() + c.nuove.size());
+    ASSERT_FALSE(c.nuove.empty());
+    for (const auto& riga : p.righe) EXPECT_EQ(riga.size(), p.colonne.size());
+    EXPECT_EQ(p.righe.back()[0].testo, "solo dopo");
+    EXPECT_EQ(p.righe.back().back().testo, c.nuove.back().codice);
+    EXPECT_TRUE(p.note.empty());
+    const Confronto uguale = test::confronto(progettoSemplice(), progettoSemplice());
+    EXPECT_EQ(prospettoOsservazioni(uguale).note, (Frasi{"Nessuna osservazione cambia."}));
+}
+
 TEST(ProspettiConfronto, SayWhereARowIsOnlyInOne) {
     auto dopo = progettoSemplice();
     korven::test::aggiungiTirante(dopo, 3, 400, 2);

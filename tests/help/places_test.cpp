@@ -34,6 +34,7 @@ TEST(VoceForma, OfTheWindowsBesideTheMainFormIsThatOfTheirMenuItem) {
     EXPECT_EQ(voceForma("risultati"), 36);
     EXPECT_EQ(voceForma("sicurezza"), 37);
     EXPECT_EQ(voceForma("allegato"), 43);
+    EXPECT_EQ(voceForma("confronto"), 44);
 }
 
 }  // namespace

@@ -27,6 +27,7 @@
 #include "shell/section/definej.hpp"
 #include "shell/tools/pattern_choice.hpp"
 #include "support/annex_ports.hpp"
+#include "support/comparison_ports.hpp"
 #include "support/delivered_program.hpp"
 #include "support/desktop_bench.hpp"
 #include "support/dialog_double.hpp"
@@ -114,6 +115,8 @@ TEST_P(TastiDiScelta, DifferWithinTheOtherForms) {
     EXPECT_EQ(tastiDi(FinestraRisultati(principale, vita, guida)), 4U);
     EXPECT_EQ(tastiDi(FinestraSicurezza(principale, vita, guida)), 3U);
     EXPECT_EQ(tastiDi(FinestraAllegato(principale, vita, test::porteAllegato(dialogo), guida)), 8U);
+    EXPECT_EQ(tastiDi(FinestraConfronto(principale, vita, test::porteConfronto(dialogo), guida)),
+              6U);
     EXPECT_EQ(tastiDi(SceltaModello({})), 2U);
     for (const bool salvato : {true, false}) {
         test::OffertaDiProva prova;
@@ -147,7 +150,8 @@ TEST_P(TastiDiScelta, DifferWithinTheFileDialogs) {
     for (const std::function<void()>& apri : std::initializer_list<std::function<void()>>{
              [&] { EXPECT_EQ(nomi.apri(""), ""); }, [&] { EXPECT_EQ(nomi.nuovo(""), ""); },
              [&] { EXPECT_FALSE(nomi.salva("muro.kvd")); },
-             [] { EXPECT_EQ(chiediNomeTxt(nullptr, "muro.txt"), ""); }}) {
+             [] { EXPECT_EQ(chiediNomeTxt(nullptr, "muro.txt"), ""); },
+             [] { EXPECT_EQ(chiediProgetto(nullptr), ""); }}) {
         const test::AllaProssimaFinestra<QFileDialog> aperto(guarda);
         apri();
         EXPECT_TRUE(aperto.fatto);

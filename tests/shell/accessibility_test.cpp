@@ -28,6 +28,7 @@
 #include "shell/run/temp_calc.hpp"
 #include "shell/safety/safety_window.hpp"
 #include "support/annex_ports.hpp"
+#include "support/comparison_ports.hpp"
 #include "support/delivered_program.hpp"
 #include "support/desktop_bench.hpp"
 #include "support/dialog_double.hpp"
@@ -160,6 +161,9 @@ TEST_F(Accessibilita, OfTheWindowsAroundTheProject) {
     controlla(sicurezza);
     FinestraAllegato allegato(menu1, vita, test::porteAllegato(dialogo), [](const std::string&) {});
     controlla(allegato);
+    FinestraConfronto confronto(menu1, vita, test::porteConfronto(dialogo),
+                                [](const std::string&) {});
+    controlla(confronto);
     const test::OffertaDiProva prova;
     const auto offerta = prova.offerta();
     FormaRecupero recupero(offerta, nullptr);

@@ -40,6 +40,7 @@
 #include "shell/tools/keys_window.hpp"
 #include "shell/tools/pattern_choice.hpp"
 #include "support/annex_ports.hpp"
+#include "support/comparison_ports.hpp"
 #include "support/delivered_program.hpp"
 #include "support/desktop_bench.hpp"
 #include "support/dialog_double.hpp"
@@ -166,6 +167,9 @@ void controllaSulProgetto(Menu1& menu1) {
     controlla(risultati);
     controlla(sicurezza);
     controlla(allegato);
+    FinestraConfronto confronto(menu1, vita, test::porteConfronto(dialogo),
+                                [](const std::string&) {});
+    controlla(confronto);
 }
 
 // The line at the foot of the main form has room for what a run that found no rest leaves there,

@@ -45,6 +45,7 @@ constexpr IconaVoce iconeVoci[] = {
     {"risultati", "results"},
     {"sicurezza", "safety"},
     {"allegato", "annex"},
+    {"confronto", "compare"},
     {"nuovo", "new"},
     {"duplica", "duplicate"},
     {"recenti", "recent"},
