@@ -5,6 +5,7 @@
 #include "base/colon.hpp"
 #include "base/filled_text.hpp"
 #include "base/translated_texts.hpp"
+#include "equilibrium/statics.hpp"
 #include "results/node_results.hpp"
 #include "results/report_data.hpp"
 #include "safety/words.hpp"
@@ -22,7 +23,10 @@ FaseEquilibrio fase(int k, results::NodiFase nodi) {
     f.fase = k;
     f.y = std::move(nodi.y);
     f.momento = std::move(nodi.momento);
-    f.taglio = std::move(nodi.taglio);
+    f.taglioSopra = std::move(nodi.taglioSopra);
+    f.taglioSotto = std::move(nodi.taglio);
+    for (std::size_t i = 0; i < f.taglioSotto.size(); ++i)
+        f.taglio.push_back(equilibrium::maggiore(f.taglioSopra[i], f.taglioSotto[i]));
     f.monte = std::move(nodi.monte);
     f.valle = std::move(nodi.valle);
     f.acqua = std::move(nodi.acqua);

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "analysis/wall_mesh.hpp"
+#include "live/envelope.hpp"
 
 namespace korven::dossier {
 
@@ -17,11 +18,13 @@ using equilibrium::ProblemaFase;
 void pressioni(const ProblemaFase& problema, const FaseEquilibrio& fase, BilancioFase& b) {
     for (int i = 0; i < problema.nParete; ++i) {
         const auto j = static_cast<std::size_t>(i);
-        const double peso = problema.nodi[j].peso, z = problema.profondita(i);
-        b.monte.aggiungi(peso * fase.monte[j], z);
-        b.valle.aggiungi(peso * fase.valle[j], z);
-        b.acqua.aggiungi(peso * fase.acqua[j], z);
-        b.costante.aggiungi(peso * fase.costante, z);
+        const bool estremo = i == 0 || i + 1 == problema.nParete;
+        const double lungo = estremo ? problema.h / 2 : problema.h, z = problema.profondita(i);
+        b.monte.aggiungi(lungo * fase.monte[j], z);
+        b.valle.aggiungi(lungo * fase.valle[j], z);
+        b.acqua.aggiungi(lungo * fase.acqua[j], z);
+        b.costante.aggiungi(lungo * fase.costante, z);
+        b.oltrePiede.aggiungi((problema.nodi[j].peso - lungo) * live::pressioneNetta(fase, j), z);
     }
 }
 
@@ -36,18 +39,24 @@ void tiranti(const ProblemaFase& problema, const std::vector<double>& y, Bilanci
     }
 }
 
+// The force of a restraint; the node that a fixed toe adds turns the wall about its toe.
 void vincoli(const ProblemaFase& problema, const std::vector<double>& y, BilancioFase& b) {
+    const int piede = problema.nParete - 1;
     for (int i = 0; i < problema.n(); ++i) {
         const auto j = static_cast<std::size_t>(i);
         const NodoFase& nodo = problema.nodi[j];
-        if (nodo.vincolato)
-            b.vincoli.aggiungi(analysis::kVincolo * nodo.peso * y[j], problema.profondita(i));
+        if (!nodo.vincolato) continue;
+        const double F = analysis::kVincolo * nodo.peso * y[j];
+        const double z = problema.profondita(std::min(i, piede));
+        (i == 0 ? b.cerniera : b.piede).aggiungi(F, z);
+        b.incastro.momento += F * (problema.profondita(i) - z);
     }
 }
 
 template <class Fai>
 void perParte(const BilancioFase& b, const Fai& fai) {
-    for (const Risultante* r : {&b.testa, &b.monte, &b.valle, &b.acqua, &b.costante, &b.vincoli})
+    for (const Risultante* r : {&b.testa, &b.monte, &b.valle, &b.acqua, &b.costante, &b.oltrePiede,
+                                &b.cerniera, &b.piede, &b.incastro})
         fai(*r);
     for (const Risultante& r : b.tiranti) fai(r);
 }
@@ -68,6 +77,7 @@ BilancioFase bilancio(const ProblemaFase& problema, const std::vector<double>& y
     assert(fase.esito == equilibrium::EsitoFase::equilibrio);
     BilancioFase b;
     b.fase = fase.fase;
+    b.passo = problema.h;
     // A positive moment at the head turns the wall as a force away from the excavation would.
     b.testa = {.forza = problema.H, .momento = -problema.M};
     pressioni(problema, fase, b);

@@ -33,8 +33,8 @@ EquilibrioParete::EquilibrioParete(const DatiProgetto& dati, int nSeg)
       y_(problema().nodi.size()),
       newton_(problema().n()) {
     const auto n = static_cast<std::size_t>(nSeg) + 1;
-    for (auto* v :
-         {&fase_.y, &fase_.momento, &fase_.taglio, &fase_.monte, &fase_.valle, &fase_.acqua})
+    for (auto* v : {&fase_.y, &fase_.momento, &fase_.taglio, &fase_.taglioSopra, &fase_.taglioSotto,
+                    &fase_.monte, &fase_.valle, &fase_.acqua})
         v->resize(n);
     fase_.costante = dati.pressioneOrizz;
     fase_.stati.resize(n);

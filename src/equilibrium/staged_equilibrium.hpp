@@ -32,9 +32,12 @@ struct FaseEquilibrio {
     EsitoNewton newton = EsitoNewton::trovato;      ///< of `nessunNumero`
     int passi = 0;                                  ///< steps of Newton's method
 
-    std::vector<double> y;                   ///< displacement [m]
-    std::vector<double> momento;             ///< from the balance of the nodes
-    std::vector<double> taglio;              ///< the same; see `statica`
+    std::vector<double> y;        ///< displacement [m]
+    std::vector<double> momento;  ///< from the balance of the nodes
+    std::vector<double> taglio;   ///< the same; of two values the larger in size
+    /// Shear just above and just below the node: an anchor on it is between the two. The ends of
+    /// the wall have one side each, and both values are its.
+    std::vector<double> taglioSopra, taglioSotto;
     std::vector<double> monte, valle;        ///< pressure of each side
     std::vector<double> acqua;               ///< net water pressure
     double costante = 0;                     ///< constant pressure

@@ -22,6 +22,10 @@ double forzaNelNodo(const ProblemaFase& problema, const std::vector<double>& y, 
 
 }  // namespace
 
+double maggiore(double sopra, double sotto) {
+    return std::fabs(sotto) > std::fabs(sopra) ? sotto : sopra;
+}
+
 void statica(const ProblemaFase& problema, const std::vector<double>& y, FaseEquilibrio& fase) {
     double M = -problema.M;
     double T = 0;  // just above the node
@@ -31,8 +35,9 @@ void statica(const ProblemaFase& problema, const std::vector<double>& y, FaseEqu
         const double mezzo = pressione * problema.h / 2;
         if (i > 0) T -= mezzo;
         const double sotto = T - forzaNelNodo(problema, y, i);
-        fase.taglio[j] =
-            i == 0 || (i + 1 < problema.nParete && std::fabs(sotto) > std::fabs(T)) ? sotto : T;
+        fase.taglioSopra[j] = i == 0 ? sotto : T;
+        fase.taglioSotto[j] = i + 1 < problema.nParete ? sotto : T;
+        fase.taglio[j] = maggiore(fase.taglioSopra[j], fase.taglioSotto[j]);
         fase.momento[j] = M;
         T = sotto - mezzo;  // constant between two nodes
         M += T * problema.h;

@@ -25,6 +25,15 @@ Fascia fascia(const PareteViva& parete, const Valore& valore) {
     return f;
 }
 
+Fascia unite(const Fascia& a, const Fascia& b) {
+    Fascia f = a;
+    for (std::size_t i = 0; i < f.minimo.size(); ++i) {
+        f.minimo[i] = std::min(f.minimo[i], b.minimo[i]);
+        f.massimo[i] = std::max(f.massimo[i], b.massimo[i]);
+    }
+    return f;
+}
+
 std::vector<double> maggiori(const PareteViva& parete) {
     std::vector<double> tiri;
     for (int k = 1; k <= parete.fasiInEquilibrio(); ++k) {
@@ -44,11 +53,18 @@ double pressioneNetta(const FaseEquilibrio& fase, std::size_t i) {
 }
 
 Inviluppo inviluppo(const PareteViva& parete) {
-    return {.y = fascia(parete, [](const auto& fase, std::size_t i) { return fase.y[i]; }),
-            .momento = fascia(parete, [](const auto& f, std::size_t i) { return f.momento[i]; }),
-            .taglio = fascia(parete, [](const auto& f, std::size_t i) { return f.taglio[i]; }),
-            .pressione = fascia(parete, pressioneNetta),
-            .tiri = maggiori(parete)};
+    const auto di = [&parete](std::vector<double> FaseEquilibrio::*quale) {
+        return fascia(parete, [quale](const auto& f, std::size_t i) { return (f.*quale)[i]; });
+    };
+    Inviluppo e{.y = di(&FaseEquilibrio::y),
+                .momento = di(&FaseEquilibrio::momento),
+                .taglio = {},
+                .taglioSopra = di(&FaseEquilibrio::taglioSopra),
+                .taglioSotto = di(&FaseEquilibrio::taglioSotto),
+                .pressione = fascia(parete, pressioneNetta),
+                .tiri = maggiori(parete)};
+    e.taglio = unite(e.taglioSopra, e.taglioSotto);
+    return e;
 }
 
 }  // namespace korven::live

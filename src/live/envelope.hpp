@@ -14,7 +14,9 @@ struct Fascia {
 /// The envelopes over all stages that stand; empty where none does. Units and signs are those of
 /// `equilibrium::FaseEquilibrio`.
 struct Inviluppo {
-    Fascia y, momento, taglio;
+    Fascia y, momento;
+    Fascia taglio;                    ///< of both sides of each node
+    Fascia taglioSopra, taglioSotto;  ///< of the values just above and just below the nodes
     /// Net pressure on the wall: soil of both sides, water and the constant pressure.
     Fascia pressione;
     std::vector<double> tiri;  ///< largest force of each anchor, element 0 is anchor 1

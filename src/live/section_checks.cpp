@@ -41,7 +41,7 @@ ControlliSezione daRelazione(const results::NumeriRelazione& relazione) {
 }
 
 ControlliSezione daEquilibrio(const PareteViva& parete) {
-    const auto dove = [](const auto& e) { return DoveVerifica{e.fase, e.z}; };
+    const auto dove = [](const auto& e) { return DoveVerifica{e.fase, e.z, e.lato}; };
     const equilibrium::Estremi& e = parete.estremi;
     const project::Sezione& sezione = parete.dati.sezione;
     const auto sue = chiusura(resistenze(parete), e.momentoMassimo.valore, e.momentoMinimo.valore);

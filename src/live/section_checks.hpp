@@ -13,6 +13,7 @@ namespace korven::live {
 struct DoveVerifica {
     int fase = 0;  ///< 0: there is none
     double z = 0;  ///< [m]
+    equilibrium::Lato lato = equilibrium::Lato::unico;
 };
 
 /// The checks of the section of a wall, by the rules of the report.

@@ -23,9 +23,8 @@ void pressioni(const DatiRelazione& dati, const analysis::RisultatiFase& fase, i
 }
 
 // Beside the wall an anchor has no effect.
-double tiro(const DatiRelazione& dati, const analysis::RisultatiFase& fase, int j,
+double tiro(const DatiRelazione& dati, const analysis::RisultatiFase& fase, int j, int nodo,
             double yTirante) {
-    const int nodo = analysis::nodoTirante(dati.progetto.profTirante[j], dati.passo);
     if (nodo < 1 || nodo > dati.nNodi) return 0;
     const double F = tiroNelTaglio(dati.progetto, j, fase.yNodo[nodo], yTirante);
     const bool compressione =
@@ -49,8 +48,14 @@ NodiFase nodiFase(const DatiRelazione& dati, int s) {
         nodi.acqua.push_back(analysis::pressioneAcquaNetta(nodi.z.back(), d.faldaMonte,
                                                            d.faldaFase[s], d.gammaAcqua));
     }
-    for (int j = 1; j <= azioni.nTiranti; ++j)
-        nodi.tiri.push_back(tiro(dati, fase, j, azioni.yTirante[j]));
+    nodi.taglioSopra = nodi.taglio;
+    for (int j = 1; j <= azioni.nTiranti; ++j) {
+        const int nodo = analysis::nodoTirante(d.profTirante[j], dati.passo);
+        nodi.tiri.push_back(tiro(dati, fase, j, nodo, azioni.yTirante[j]));
+        // The top has one side.
+        if (nodo > 1 && nodo <= dati.nNodi)
+            nodi.taglioSopra[static_cast<std::size_t>(nodo) - 1] -= nodi.tiri.back();
+    }
     return nodi;
 }
 

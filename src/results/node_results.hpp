@@ -10,7 +10,8 @@ namespace korven::results {
 /// signs are those of the report: m, t m, t, t/m2, positive towards the excavation.
 struct NodiFase {
     std::vector<double> z, y, momento;
-    std::vector<double> taglio;        ///< as the diagram draws it: at an anchor that just below it
+    std::vector<double> taglio;       ///< as the diagram draws it: at an anchor that just below it
+    std::vector<double> taglioSopra;  ///< at an anchor that just above it, less its force in `tiri`
     std::vector<double> monte, valle;  ///< soil pressures at work, by the method that the run used
     std::vector<double> acqua;         ///< net water pressure
     double costante = 0;               ///< constant pressure

@@ -66,7 +66,7 @@ class Pannello {
         return x1_ + (x2_ - x1_) * (valore - minimo_) / (massimo_ - minimo_);
     }
     [[nodiscard]] Punto punto(const Serie& serie, std::size_t i) const {
-        return {x(mostrato(serie.valori[i])), q_.y(m_.parete.h * static_cast<double>(i))};
+        return {x(mostrato(serie.valori[i])), q_.y(serie.z[i])};
     }
 
     void linea(std::vector<Punto> punti, Ruolo ruolo, double spessore,
@@ -189,7 +189,7 @@ class Pannello {
         tela_.disegna(Elemento::estremo, 0,
                       Area{rettangolo(p.x - r, p.y - r, p.x + r, p.y + r), {serie.linea}});
         std::string testo = serie.nome.empty() ? std::string() : traduttore(serie.nome) + " ";
-        testo += conUnita(*dove, dati_.unita) + "  " + quota(m_.parete.h * static_cast<double>(i));
+        testo += conUnita(*dove, dati_.unita) + "  " + quota(serie.z[i]);
         const bool destra = p.x >= x(0);
         std::vector<Posto> posti;
         for (const double dy : {0.0, 1.3, -1.3, 2.6, -2.6, 3.9, -3.9}) {

@@ -11,9 +11,12 @@
 
 namespace korven::scene {
 
-/// A line along the wall, node 1 in element 0, in stored units.
+/// A line along the wall from the top down, in stored units.
 struct Serie {
     std::vector<double> valori;
+    /// Depth of each value [m]: that of its node. Shear has two at a node where some stage has an
+    /// anchor, first the one above it.
+    std::vector<double> z;
     Ruolo linea = Ruolo::curva;
     Ruolo fondo = Ruolo::fondoCurva;  ///< of the field to the axis
     bool riempita = true;

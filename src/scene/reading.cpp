@@ -22,13 +22,38 @@ struct Luogo {
     std::size_t nodo = 0;
     double parte = 0;
 
-    [[nodiscard]] double operator()(const std::vector<double>& v) const {
-        const double a = v[nodo], b = v[std::min(nodo + 1, v.size() - 1)];
+    [[nodiscard]] double operator()(const std::vector<double>& v) const { return (*this)(v, v); }
+    /// Of a line with two values at a node: down to the next one it goes from that below the node.
+    [[nodiscard]] double operator()(const std::vector<double>& sopra,
+                                    const std::vector<double>& sotto) const {
+        const double a = sotto[nodo], b = sopra[std::min(nodo + 1, sopra.size() - 1)];
         return a + parte * (b - a);
     }
     [[nodiscard]] Letto uno(const std::vector<double>& v) const { return {(*this)(v), (*this)(v)}; }
+    [[nodiscard]] Letto uno(const std::vector<double>& sopra,
+                            const std::vector<double>& sotto) const {
+        if (const auto i = nodoEsatto()) {
+            const auto [minimo, massimo] = std::minmax(sopra[*i], sotto[*i]);
+            return {minimo, massimo};
+        }
+        return {(*this)(sopra, sotto), (*this)(sopra, sotto)};
+    }
     [[nodiscard]] Letto due(const live::Fascia& f) const {
         return {(*this)(f.minimo), (*this)(f.massimo)};
+    }
+    [[nodiscard]] Letto taglio(const live::Inviluppo& e) const {
+        if (nodoEsatto()) return due(e.taglio);
+        return {(*this)(e.taglioSopra.minimo, e.taglioSotto.minimo),
+                (*this)(e.taglioSopra.massimo, e.taglioSotto.massimo)};
+    }
+
+ private:
+    // Depths and distances of nodes are no round numbers of the processor.
+    [[nodiscard]] std::optional<std::size_t> nodoEsatto() const {
+        constexpr double arrotondamento = 1e-9;
+        if (parte < arrotondamento) return nodo;
+        if (parte > 1 - arrotondamento) return nodo + 1;
+        return std::nullopt;
     }
 };
 
@@ -84,13 +109,13 @@ Lettura lettura(const live::PareteViva& parete, const live::Vista& vista, double
         const live::Inviluppo tutte = live::inviluppo(parete);
         letta.y = dove.due(tutte.y);
         letta.momento = dove.due(tutte.momento);
-        letta.taglio = dove.due(tutte.taglio);
+        letta.taglio = dove.taglio(tutte);
         letta.pressione = dove.due(tutte.pressione);
     } else if (const auto* fase = parete.fase(vista.fase)) {
         const Luogo dove = luogo(parete, letta.z);
         letta.y = dove.uno(fase->y);
         letta.momento = dove.uno(fase->momento);
-        letta.taglio = dove.uno(fase->taglio);
+        letta.taglio = dove.uno(fase->taglioSopra, fase->taglioSotto);
         letta.monte = dove.uno(fase->monte);
         letta.valle = dove.uno(fase->valle);
         letta.acqua = dove.uno(fase->acqua);

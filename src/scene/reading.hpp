@@ -8,7 +8,8 @@
 
 namespace korven::scene {
 
-/// A value at a depth, or the smallest and the largest of all stages.
+/// A value at a depth; or the smallest and the largest of all stages, or of the two shears at an
+/// anchor.
 struct Letto {
     double minimo = 0, massimo = 0;
     bool operator==(const Letto&) const = default;

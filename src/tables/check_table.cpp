@@ -33,7 +33,7 @@ std::vector<Cella> riga(const project::Unita& u, const char* cosa, double proget
             cifre(resistenza),
             uso(progetto, resistenza),
             dove.fase > 0 ? cella(dove.fase) : tables::dove(0, 0),
-            tables::dove(dove.fase, dove.z),
+            tables::dove(dove.fase, dove.z, dove.lato),
             esito(traduttore(parole), fallita)};
 }
 

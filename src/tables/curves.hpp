@@ -13,8 +13,10 @@ namespace korven::tables {
 /// One curve along the wall.
 struct CurvaMostrata {
     Colonna testa;  ///< its quantity, with the unit that is shown
-    std::vector<double> minimo{},
-        massimo{};  ///< as stored, at each node; of a stage the same twice
+    /// As stored, at each node; of a stage the same twice. Of shear those just above the node.
+    std::vector<double> minimo{}, massimo{};
+    /// Of shear those just below the node, which differ at an anchor; of others the same as above.
+    std::vector<double> minimoSotto{}, massimoSotto{};
     const project::Unita* unita = nullptr;
     Cella (*cella)(double) = nullptr;  ///< a value with the digits of the tables
     /// Ends of the axis in the shown unit, on round numbers, 0 between them or at one of them.
@@ -36,8 +38,12 @@ struct CurveMostrate {
 /// The node nearest to a depth; 0 where there is none.
 [[nodiscard]] std::size_t nodoVicino(const CurveMostrate& curve, double z);
 
-/// The value of a curve at a node, in its unit: "-12.34", of an envelope "-12.34 / 5.60".
+/// The value of a curve at a node, in its unit: "-12.34", of an envelope "-12.34 / 5.60"; of shear
+/// at an anchor the value above it and that below it.
 [[nodiscard]] std::string valore(const CurvaMostrata& curva, std::size_t nodo);
+
+/// True if shear has one value above this node of a stage, and another below it.
+[[nodiscard]] bool conSalto(const CurvaMostrata& curva, std::size_t nodo);
 
 /// All that is to be read at a node, in one line: "z 3.20 m: Pressione netta 12.30 kN/m²; ...".
 [[nodiscard]] std::string lettura(const CurveMostrate& curve, std::size_t nodo);

@@ -57,7 +57,7 @@ std::string conF(const MargineFase& fase, double paratia) {
 void riga(int fase, const project::Unita& u, const char* cosa, const safety::Confronto& c,
           Cella (*valore)(double), const Cella& manca, Prospetto& p) {
     p.righe.push_back({cella(fase), parola(traduttore(cosa) + " " + traParentesi(u)),
-                       valore(c.statica.valore), dove(c.statica.fase, c.statica.z),
+                       valore(c.statica.valore), dove(c.statica.fase, c.statica.z, c.statica.lato),
                        c.relazione ? cifre(mostrato(u, c.relazione->valore)) : manca,
                        c.relazione ? profondita(c.relazione->z) : manca});
 }

@@ -63,21 +63,36 @@ Colonna colonnaEstremo(const Grandezza& g, const char* quale) {
     return c;
 }
 
-std::vector<Colonna> colonneFase(bool conCostante) {
-    std::vector<Colonna> colonne = {
-        colonnaNodo(),
-        colonnaZ(),
-        colonna(grandezzaSpostamento),
-        colonna(grandezzaMomento),
-        colonna(grandezzaTaglio),
-        colonna(unita::pressione, "Monte",
-                "Pressione del terreno a monte, positiva verso lo scavo"),
-        colonna(unita::pressione, "Valle",
-                "Pressione del terreno a valle: negativa, perché spinge verso monte"),
-        colonna(unita::pressione, "Acqua",
-                "Pressione dell'acqua a monte meno quella a valle, positiva verso lo scavo"),
-    };
-    if (conCostante)
+// What the tables of all stages of a wall have in common.
+struct Forma {
+    bool conCostante = false;  ///< a constant pressure
+    bool conTiranti = false;   ///< some stage has anchors: shear has two sides
+};
+Forma forma(const PareteViva& parete) {
+    Forma f{.conCostante = parete.dati.pressioneOrizz != 0};
+    for (int k = 1; k <= parete.fasiInEquilibrio(); ++k)
+        f.conTiranti |= !parete.fase(k)->tiri.empty();
+    return f;
+}
+
+std::vector<Colonna> colonneFase(const Forma& forma) {
+    std::vector<Colonna> colonne = {colonnaNodo(), colonnaZ(), colonna(grandezzaSpostamento),
+                                    colonna(grandezzaMomento)};
+    if (forma.conTiranti) {
+        colonne.push_back(colonna(grandezzaTaglioSopra));
+        colonne.push_back(colonna(grandezzaTaglioSotto));
+    } else {
+        colonne.push_back(colonna(grandezzaTaglio));
+    }
+    colonne.push_back(colonna(unita::pressione, "Monte",
+                              "Pressione del terreno a monte, positiva verso lo scavo"));
+    colonne.push_back(colonna(unita::pressione, "Valle",
+                              "Pressione del terreno a valle: negativa, perché spinge verso "
+                              "monte"));
+    colonne.push_back(colonna(unita::pressione, "Acqua",
+                              "Pressione dell'acqua a monte meno quella a valle, positiva verso lo "
+                              "scavo"));
+    if (forma.conCostante)
         colonne.push_back(colonna(unita::pressione, "Costante",
                                   "Pressione orizzontale costante, positiva verso lo scavo"));
     colonne.push_back(colonna(grandezzaPressione));
@@ -93,13 +108,15 @@ std::vector<Colonna> colonneFase(bool conCostante) {
 Cella stato(StatoLato lato) { return parola(nomeStato(lato)); }
 
 std::vector<Cella> rigaFase(const FaseEquilibrio& fase, std::size_t i, double z, double scavo,
-                            bool conCostante) {
-    std::vector<Cella> riga = {cella(static_cast<int>(i) + 1), profondita(z),
-                               spostamento(fase.y[i]),         momento(fase.momento[i]),
-                               forza(fase.taglio[i]),          pressione(fase.monte[i]),
-                               pressione(fase.valle[i]),       pressione(fase.acqua[i])};
-    riga.reserve(13);
-    if (conCostante) riga.push_back(pressione(fase.costante));
+                            const Forma& forma) {
+    std::vector<Cella> riga;
+    riga.reserve(14);
+    riga = {cella(static_cast<int>(i) + 1), profondita(z), spostamento(fase.y[i]),
+            momento(fase.momento[i]), forza(fase.taglioSopra[i])};
+    if (forma.conTiranti) riga.push_back(forza(fase.taglioSotto[i]));
+    for (const auto* lato : {&fase.monte, &fase.valle, &fase.acqua})
+        riga.push_back(pressione((*lato)[i]));
+    if (forma.conCostante) riga.push_back(pressione(fase.costante));
     riga.push_back(pressione(live::pressioneNetta(fase, i)));
     riga.push_back(stato(fase.stati[i].monte));
     riga.push_back(z >= scavo ? stato(fase.stati[i].valle)
@@ -135,9 +152,9 @@ std::string perche(const PareteViva& parete, int fase) {
 }
 
 Prospetto prospettoNodi(const PareteViva& parete, int fase) {
-    const bool conCostante = parete.dati.pressioneOrizz != 0;
+    const Forma sua = forma(parete);
     Prospetto p{.titolo = base::conDuePunti(traduttore("Nodi"), titoloFase(fase)),
-                .colonne = colonneFase(conCostante)};
+                .colonne = colonneFase(sua)};
     const FaseEquilibrio* f = parete.fase(fase);
     if (f == nullptr) {
         p.note.push_back(perche(parete, fase));
@@ -147,7 +164,7 @@ Prospetto prospettoNodi(const PareteViva& parete, int fase) {
     p.righe.reserve(f->y.size());
     for (std::size_t i = 0; i < f->y.size(); ++i) {
         const double z = analysis::zNodo(static_cast<int>(i) + 1, parete.h);
-        p.righe.push_back(rigaFase(*f, i, z, parete.dati.profFase[fase], conCostante));
+        p.righe.push_back(rigaFase(*f, i, z, parete.dati.profFase[fase], sua));
         p.righe.back().push_back(strati.a(z));
     }
     return p;

@@ -5,8 +5,17 @@
 
 namespace korven::tables {
 
-Cella dove(int fase, double z) {
-    return fase > 0 ? profondita(z)
+Cella profondita(double z, equilibrium::Lato lato) {
+    using equilibrium::Lato;
+    Cella cella = profondita(z);
+    if (lato != Lato::unico)
+        cella.testo = base::riempito(
+            base::traduttore(lato == Lato::sopra ? "%1 sopra" : "%1 sotto"), {cella.testo});
+    return cella;
+}
+
+Cella dove(int fase, double z, equilibrium::Lato lato) {
+    return fase > 0 ? profondita(z, lato)
                     : senza(base::traduttore("Il valore è 0 lungo tutta la paratia."));
 }
 

@@ -27,7 +27,7 @@ Cella verdetto(const PareteViva& parete, int k) {
 // The value, then the depth of its node.
 void aggiungi(const Estremo& estremo, Cella (*valore)(double), std::vector<Cella>& riga) {
     riga.push_back(valore(estremo.valore));
-    riga.push_back(dove(estremo.fase, estremo.z));
+    riga.push_back(dove(estremo.fase, estremo.z, estremo.lato));
 }
 
 std::vector<Cella> rigaFase(const PareteViva& parete, int k) {

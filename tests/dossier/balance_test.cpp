@@ -49,8 +49,11 @@ TEST(Bilancio, HasTheReactionsOfTwoHingesByStatics) {
     EXPECT_EQ(b.testa.momento, -11);
     EXPECT_NEAR(b.costante.forza, 30, 1e-12);
     EXPECT_NEAR(b.costante.momento, 150, 1e-12);
-    EXPECT_NEAR(b.vincoli.forza, -37, 1e-6);
-    EXPECT_NEAR(b.vincoli.momento, -139, 1e-6);  // 150 - 11, by the toe alone
+    EXPECT_NEAR(b.cerniera.forza + b.piede.forza, -37, 1e-6);
+    EXPECT_NEAR(b.cerniera.momento, 0, 1e-12);
+    EXPECT_NEAR(b.piede.momento, -139, 1e-6);  // 150 - 11, by the toe alone
+    EXPECT_EQ(b.incastro.momento, 0);
+    EXPECT_EQ(b.oltrePiede.forza, 0);
     chiude(b, 1e-8, "cerniere");
 }
 

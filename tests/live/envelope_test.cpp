@@ -2,9 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 
+#include "analysis/wall_mesh.hpp"
 #include "support/sample_projects.hpp"
+#include "support/wall_files.hpp"
 
 namespace korven::live {
 namespace {
@@ -40,6 +43,48 @@ TEST(InviluppoVivo, NetPressuresBalanceAWallWithoutAnchors) {
         grandezza += area * std::fabs(p.fasi[0].monte[i]);
     }
     EXPECT_NEAR(somma / grandezza, 0, 1e-12);
+}
+
+// Below an anchor the wall carries its force too; an envelope holds what acts on either side.
+TEST(InviluppoVivo, StepsByTheForceOfEachAnchorAndCountsBothSides) {
+    int gradini = 0;
+    for (const char* cartella : {KORVEN_EXAMPLES, KORVEN_WALLS})
+        for (const std::string& file : test::muriIn(cartella)) {
+            SCOPED_TRACE(file);
+            const PareteViva p = calcola(test::leggiMuro(file));
+            const Inviluppo e = inviluppo(p);
+            for (int k = 1; k <= p.fasiInEquilibrio(); ++k) {
+                const auto& f = *p.fase(k);
+                std::vector<double> salti(f.y.size());
+                for (std::size_t t = 0; t < f.tiri.size(); ++t) {
+                    const int nodo =
+                        analysis::nodoTirante(p.dati.profTirante[static_cast<int>(t) + 1], p.h);
+                    // The ends have one side each.
+                    if (nodo < 2 || nodo > p.nSeg) continue;
+                    salti[static_cast<std::size_t>(nodo) - 1] += f.tiri[t];
+                    ++gradini;
+                }
+                for (std::size_t i = 0; i < salti.size(); ++i) {
+                    const double sopra = f.taglioSopra[i], sotto = f.taglioSotto[i];
+                    EXPECT_NEAR(sotto - sopra, salti[i], 1e-9 * std::max(1.0, salti[i])) << i;
+                    EXPECT_LE(e.taglio.minimo[i], std::min(sopra, sotto));
+                    EXPECT_GE(e.taglio.massimo[i], std::max(sopra, sotto));
+                    EXPECT_LE(std::fabs(sopra), std::fabs(p.estremi.taglio.valore));
+                    EXPECT_LE(std::fabs(sotto), std::fabs(p.estremi.taglio.valore));
+                }
+            }
+            for (std::size_t i = 0; i < e.taglio.minimo.size(); ++i) {
+                double minimo = 1e30, massimo = -1e30;
+                for (int k = 1; k <= p.fasiInEquilibrio(); ++k)
+                    for (const double T : {p.fase(k)->taglioSopra[i], p.fase(k)->taglioSotto[i]}) {
+                        minimo = std::min(minimo, T);
+                        massimo = std::max(massimo, T);
+                    }
+                EXPECT_EQ(e.taglio.minimo[i], minimo);
+                EXPECT_EQ(e.taglio.massimo[i], massimo);
+            }
+        }
+    EXPECT_GT(gradini, 20);
 }
 
 TEST(InviluppoVivo, IsEmptyWithoutAStageThatStands) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <limits>
 
 #include "support/sample_projects.hpp"
@@ -17,9 +18,33 @@ TEST(DatiCurva, AreThoseOfTheStage) {
     ASSERT_EQ(momento.serie.size(), 1U);
     EXPECT_EQ(momento.serie[0].valori, parete.fase(2)->momento);
     EXPECT_EQ(momento.unita.mostrata, "kN m/m");
-    EXPECT_EQ(datiCurva(parete, 2, Curva::taglio).serie[0].valori, parete.fase(2)->taglio);
     EXPECT_EQ(datiCurva(parete, 1, Curva::spostamento).serie[0].valori, parete.fase(1)->y);
     EXPECT_EQ(datiCurva(parete, 1, Curva::spostamento).unita.mostrata, "mm");
+}
+
+// The anchor of the second stage is at 1.5 m, on node 6: every shear of the wall has two points
+// there.
+TEST(DatiCurva, StepAtTheAnchorInEveryStageAndInTheEnvelope) {
+    const auto parete = live::calcola(test::progettoSemplice(), 40);
+    const auto& due = *parete.fase(2);
+    for (int k = 0; k <= 2; ++k)
+        for (const Serie& s : datiCurva(parete, k, Curva::taglio).serie) {
+            ASSERT_EQ(s.valori.size(), 42U);
+            ASSERT_EQ(s.z.size(), 42U);
+            EXPECT_NEAR(s.z[5], 1.5, 1e-12);
+            EXPECT_EQ(s.z[6], s.z[5]);
+            EXPECT_NEAR(s.z[7], 1.8, 1e-12);
+        }
+    const Serie fase = datiCurva(parete, 2, Curva::taglio).serie[0];
+    EXPECT_EQ(fase.valori[4], due.taglio[4]);
+    EXPECT_EQ(fase.valori[5], due.taglioSopra[5]);
+    EXPECT_EQ(fase.valori[6], due.taglioSotto[5]);
+    EXPECT_NEAR(fase.valori[6] - fase.valori[5], due.tiri[0], 1e-9);
+    EXPECT_EQ(fase.valori[41], due.taglio[40]);
+    const Serie massimi = datiCurva(parete, 0, Curva::taglio).serie[1];
+    EXPECT_EQ(massimi.valori[5], std::max(parete.fase(1)->taglio[5], due.taglioSopra[5]));
+    EXPECT_EQ(massimi.valori[6], std::max(parete.fase(1)->taglio[5], due.taglioSotto[5]));
+    EXPECT_EQ(datiCurva(parete, 2, Curva::momento).serie[0].z.size(), 41U);
 }
 
 TEST(DatiCurva, HoldThePressuresOfBothSidesWithTheirSigns) {

@@ -30,6 +30,20 @@ TEST(Lettura, IsLinearBetweenTwoNodes) {
     EXPECT_EQ(letta.strato, "Ghiaia");
 }
 
+// The anchor is on node 6, at 1.5 m; a line goes to the value above it and on from that below it.
+TEST(Lettura, HasBothShearsAtAnAnchor) {
+    const auto parete = live::calcola(test::progettoSemplice(), 40);
+    const auto& fase = *parete.fase(2);
+    const double sopra = fase.taglioSopra[5], sotto = fase.taglioSotto[5];
+    ASSERT_LT(sopra, sotto);
+    const live::Vista vista{2, live::Curva::taglio};
+    EXPECT_EQ(lettura(parete, vista, 1.5).taglio, (Letto{sopra, sotto}));
+    EXPECT_EQ(lettura(parete, {0, live::Curva::taglio}, 1.5).taglio->massimo, sotto);
+    const double prima = fase.taglio[4], dopo = fase.taglio[6];
+    EXPECT_NEAR(lettura(parete, vista, 1.4).taglio->massimo, prima + 2 * (sopra - prima) / 3, 1e-9);
+    EXPECT_NEAR(lettura(parete, vista, 1.6).taglio->minimo, sotto + (dopo - sotto) / 3, 1e-9);
+}
+
 TEST(Lettura, StaysOnTheWall) {
     const auto parete = live::calcola(test::progettoSemplice(), 40);
     EXPECT_EQ(lettura(parete, {1}, -5).z, 0);

@@ -22,8 +22,15 @@ TEST(Curve, ReadTheNumbersOfTheTableOfNodes) {
         EXPECT_EQ(valore(c.curve[0], i), p.righe[i][test::posto(p, "Pressione netta")].testo);
         EXPECT_EQ(valore(c.curve[1], i), p.righe[i][2].testo);
         EXPECT_EQ(valore(c.curve[2], i), p.righe[i][3].testo);
-        EXPECT_EQ(valore(c.curve[3], i), p.righe[i][4].testo);
+        if (i != 3) {
+            EXPECT_EQ(valore(c.curve[3], i), p.righe[i][4].testo);
+        }
     }
+    // Node 4 has the anchor: above and below it.
+    EXPECT_EQ(valore(c.curve[3], 3), p.righe[3][4].testo + " / " + p.righe[3][5].testo);
+    EXPECT_TRUE(conSalto(c.curve[3], 3));
+    EXPECT_FALSE(conSalto(c.curve[3], 4));
+    EXPECT_TRUE(lettura(c, 3).ends_with(" kN/m (sopra / sotto il tirante)")) << lettura(c, 3);
     EXPECT_EQ(lettura(c, 4), "z 2.00 m: Pressione netta " + valore(c.curve[0], 4) +
                                  " kN/m²; Spostamento " + valore(c.curve[1], 4) + " mm; Momento " +
                                  valore(c.curve[2], 4) + " kN m/m; Taglio " +

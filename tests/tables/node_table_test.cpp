@@ -24,9 +24,25 @@ TEST(ProspettoNodi, HasARowForEachNodeWithTheNumbersOfTheEquilibrium) {
         EXPECT_EQ(riga[1].numero, static_cast<double>(i) * 0.5);
         EXPECT_EQ(riga[2].numero, fase.y[i] * 1000 + 0.0);
         EXPECT_EQ(riga[3].numero, fase.momento[i] * 10 + 0.0);
-        EXPECT_EQ(riga[4].numero, fase.taglio[i] * 10 + 0.0);
-        EXPECT_NEAR(*riga[5].numero + *riga[6].numero + *riga[7].numero, *riga[8].numero, 1e-9);
+        EXPECT_EQ(riga[4].numero, fase.taglioSopra[i] * 10 + 0.0);
+        EXPECT_EQ(riga[5].numero, fase.taglioSotto[i] * 10 + 0.0);
+        EXPECT_NEAR(*riga[6].numero + *riga[7].numero + *riga[8].numero, *riga[9].numero, 1e-9);
     }
+    // The anchor, at 1.5 m.
+    EXPECT_NEAR(*p.righe[3][5].numero - *p.righe[3][4].numero, 10 * fase.tiri[0], 1e-9);
+    EXPECT_EQ(p.colonne[4].titolo, "Taglio sopra");
+    EXPECT_EQ(p.colonne[5].titolo, "Taglio sotto");
+}
+
+TEST(ProspettoNodi, HasOneShearWhereNoStageHasAnchors) {
+    project::DatiProgetto dati = test::progettoSemplice();
+    dati.nFasi = 1;
+    const PareteViva parete = live::calcola(dati, 24);
+    const Prospetto p = prospettoNodi(parete, 1);
+    ASSERT_EQ(posto(p, "Taglio"), 4U);
+    EXPECT_EQ(p.colonne[5].titolo, "Monte");
+    for (std::size_t i = 0; i < 25; ++i)
+        EXPECT_EQ(p.righe[i][4].numero, parete.fase(1)->taglio[i] * 10 + 0.0);
 }
 
 TEST(ProspettoNodi, TellsLayersAndStatesInWords) {
@@ -47,7 +63,7 @@ TEST(ProspettoNodi, ShowsTheConstantPressureWhereThereIsOne) {
     const std::size_t c = posto(p, "Costante");
     EXPECT_EQ(p.righe[3][c].testo, "5.00");
     const auto& riga = p.righe[3];
-    EXPECT_NEAR(*riga[5].numero + *riga[6].numero + *riga[7].numero + 5, *riga[9].numero, 1e-9);
+    EXPECT_NEAR(*riga[6].numero + *riga[7].numero + *riga[8].numero + 5, *riga[10].numero, 1e-9);
 }
 
 TEST(ProspettoNodi, SaysWhyAStageHasNoRows) {
@@ -76,7 +92,8 @@ TEST(ProspettoInviluppo, HoldsTheSmallestAndTheLargestOfAllStages) {
     for (std::size_t i = 0; i < 25; ++i) {
         EXPECT_EQ(p.righe[i][2].numero, std::min(una.y[i], altra.y[i]) * 1000 + 0.0);
         EXPECT_EQ(p.righe[i][5].numero, std::max(una.momento[i], altra.momento[i]) * 10 + 0.0);
-        EXPECT_EQ(p.righe[i][6].numero, std::min(una.taglio[i], altra.taglio[i]) * 10 + 0.0);
+        EXPECT_EQ(p.righe[i][6].numero,
+                  std::min({una.taglio[i], altra.taglioSopra[i], altra.taglioSotto[i]}) * 10 + 0.0);
     }
     EXPECT_EQ(p.colonne[4].testa(), "Momento min. [kN m/m]");
 }

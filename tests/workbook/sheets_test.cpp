@@ -46,11 +46,11 @@ TEST(Fogli, HaveASheetForEachPartAndAChartForEachResult) {
                                               "Tiranti", "Verifiche", "Osservazioni"}));
     std::vector<std::string> assi;
     for (const Grafico& g : cartella.diagrammi) assi.push_back(g.asse);
-    EXPECT_EQ(assi, (std::vector<std::string>{"Spostamento [mm]", "Momento [kN m/m]",
-                                              "Taglio [kN/m]", "Pressione netta [kN/m²]",
-                                              "Spostamento [mm]", "Momento [kN m/m]",
-                                              "Taglio [kN/m]", "Monte [kN/m²]", "Valle [kN/m²]",
-                                              "Acqua [kN/m²]", "Pressione netta [kN/m²]"}));
+    EXPECT_EQ(assi, (std::vector<std::string>{
+                        "Spostamento [mm]", "Momento [kN m/m]", "Taglio [kN/m]",
+                        "Pressione netta [kN/m²]", "Spostamento [mm]", "Momento [kN m/m]",
+                        "Taglio sopra [kN/m]", "Taglio sotto [kN/m]", "Monte [kN/m²]",
+                        "Valle [kN/m²]", "Acqua [kN/m²]", "Pressione netta [kN/m²]"}));
     EXPECT_EQ(cartella.diagrammi[0].profondita, "z [m]");
     EXPECT_EQ(cartella.diagrammi[0].fondo, 12);
 }
@@ -77,7 +77,8 @@ TEST(Fogli, HaveTheNodesOfAllStagesOfTheDossier) {
                                  analysis::zNodo(static_cast<int>(i) + 1, f.parete.h),
                                  fase.y[i] * 1000,
                                  fase.momento[i] * 10,
-                                 fase.taglio[i] * 10,
+                                 fase.taglioSopra[i] * 10,
+                                 fase.taglioSotto[i] * 10,
                                  fase.monte[i] * 10,
                                  fase.valle[i] * 10,
                                  fase.acqua[i] * 10,

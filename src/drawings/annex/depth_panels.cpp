@@ -115,7 +115,7 @@ class Pannelli::Pannello {
         return x1_ + (x2_ - x1_) * (mostrato - minimo_) / (massimo_ - minimo_);
     }
     [[nodiscard]] Punto punto(const CurvaPannello& curva, std::size_t i) const {
-        return {x(mostrato(curva.valori[i])), asse_.y(curva.h * static_cast<double>(i))};
+        return {x(mostrato(curva.valori[i])), asse_.y(curva.z[i])};
     }
     [[nodiscard]] std::vector<Punto> punti(const CurvaPannello& curva) const {
         std::vector<Punto> tutti;
@@ -254,7 +254,7 @@ class Pannelli::Pannello {
     void estremo(const CurvaPannello& curva, std::size_t i) {
         const std::string valore =
             curva.prima + project::numeroMostrato(curva.valori[i], 1, dati_.unita);
-        const std::string z = quota(curva.h * static_cast<double>(i));
+        const std::string z = quota(curva.z[i]);
         Picco& picco = campo_.picchi.emplace_back();
         picco.punto = punto(curva, i);
         picco.ruolo = curva.linea;

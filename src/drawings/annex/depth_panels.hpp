@@ -21,17 +21,17 @@ struct AsseProfondita {
     [[nodiscard]] double piede() const { return y(lunghezza); }
 };
 
-/// A line along the wall, node 1 in element 0, in stored units.
+/// A line along the wall from the top down, in stored units.
 struct CurvaPannello {
     std::vector<double> valori;
-    double h = 0;  ///< distance of the nodes [m]
+    std::vector<double> z;  ///< depth of each value [m]; a step has two values at one depth
     scene::Ruolo linea = scene::Ruolo::curva;
     std::optional<scene::Ruolo> fondo = {};  ///< of the field to the axis
     double spessore = 2;                     ///< [px]
     scene::Tratteggio tratteggio = scene::Tratteggio::nessuno;
     bool massimo = true, minimo = true;  ///< these peaks have their value
     std::string prima = {};              ///< stands before the value: "A "
-    std::vector<int> fasi = {};          ///< of each node, told behind the value; empty: none is
+    std::vector<int> fasi = {};          ///< of each value, told behind the value; empty: none is
     std::string nome = {};               ///< translated, for the key below the panel
 };
 

@@ -28,10 +28,10 @@ DatiPannello pannello(const scene::DatiCurva& dati) {
     return p;
 }
 
-CurvaPannello curva(std::vector<double> valori, double h) {
+CurvaPannello curva(const scene::Serie& serie) {
     CurvaPannello c;
-    c.valori = std::move(valori);
-    c.h = h;
+    c.valori = serie.valori;
+    c.z = serie.z;
     return c;
 }
 
@@ -39,15 +39,15 @@ CurvaPannello curva(std::vector<double> valori, double h) {
 struct Bordi {
     CurvaPannello minimo, massimo;
 };
-std::vector<Bordi> bordi(const PareteViva& parete, const scene::DatiCurva& dati) {
+std::vector<Bordi> bordi(const scene::DatiCurva& dati) {
     if (dati.serie.size() != 2) return {};
-    Bordi b{curva(dati.serie[0].valori, parete.h), curva(dati.serie[1].valori, parete.h)};
+    Bordi b{curva(dati.serie[0]), curva(dati.serie[1])};
     b.minimo.massimo = false;
     b.massimo.minimo = false;
     return {std::move(b)};
 }
 
-// Which stage has the value of an envelope at each node.
+// Which stage has each value of an envelope: the points of both are those of one wall.
 std::vector<int> fasiDi(const PareteViva& parete, Curva quale, const std::vector<double>& bordo) {
     std::vector<int> fasi(bordo.size(), 0);
     for (int k = parete.fasiInEquilibrio(); k >= 1; --k) {
@@ -69,7 +69,7 @@ std::vector<DatiPannello> pannelliFase(const PareteViva& parete, int fase) {
         DatiPannello& p = tutti.emplace_back(pannello(dati));
         p.versoScavo = quale == Curva::spostamento;
         for (const scene::Serie& serie : dati.serie) {
-            CurvaPannello& c = p.curve.emplace_back(curva(serie.valori, parete.h));
+            CurvaPannello& c = p.curve.emplace_back(curva(serie));
             c.linea = serie.linea;
             if (serie.riempita) c.fondo = serie.fondo;
             if (!serie.riempita) c.tratteggio = Tratteggio::linee;
@@ -86,10 +86,10 @@ std::vector<DatiPannello> pannelliInviluppo(const PareteViva& parete) {
         const auto dati = scene::datiCurva(parete, 0, quale);
         DatiPannello& p = tutti.emplace_back(pannello(dati));
         p.versoScavo = quale == Curva::spostamento;
-        for (Bordi& b : bordi(parete, dati)) {
+        for (Bordi& b : bordi(dati)) {
             for (int k = 1; k <= parete.fasiInEquilibrio(); ++k)
                 for (const scene::Serie& serie : scene::datiCurva(parete, k, quale).serie) {
-                    CurvaPannello& c = p.curve.emplace_back(curva(serie.valori, parete.h));
+                    CurvaPannello& c = p.curve.emplace_back(curva(serie));
                     c.linea = Ruolo::quota;
                     c.spessore = spessoreSottile;
                     c.massimo = c.minimo = false;
@@ -113,7 +113,7 @@ std::vector<DatiPannello> pannelliConfronto(const PareteViva& a, const PareteViv
         p.versoScavo = quale == Curva::spostamento;
         for (const PareteViva* parete : {&a, &b}) {
             const bool prima = parete == &a;
-            for (Bordi& uno : bordi(*parete, scene::datiCurva(*parete, 0, quale)))
+            for (Bordi& uno : bordi(scene::datiCurva(*parete, 0, quale)))
                 for (CurvaPannello* c : {&uno.minimo, &uno.massimo}) {
                     c->prima = prima ? "A " : "B ";
                     if (!prima) c->tratteggio = Tratteggio::linee;

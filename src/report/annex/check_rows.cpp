@@ -39,7 +39,7 @@ std::vector<Cella> riga(const Controllo& c, bool conAzioni) {
         riga.end(),
         {numero(c.progetto), numero(c.resistenza), tables::uso(c.progetto, c.resistenza),
          c.dove.fase > 0 ? tables::cella(c.dove.fase) : tables::dove(0, 0),
-         tables::dove(c.dove.fase, c.dove.z),
+         tables::dove(c.dove.fase, c.dove.z, c.dove.lato),
          tables::esito(traduttore(c.fallito ? "NON verificata" : "verificata"), c.fallito)});
     return riga;
 }

@@ -1,6 +1,7 @@
 #include "report/annex/peaks.hpp"
 
 #include <cassert>
+#include <optional>
 
 #include "base/translated_texts.hpp"
 #include "report/annex/columns.hpp"
@@ -26,7 +27,7 @@ void aggiungi(const PareteViva& parete, const GrandezzaFase& g, int fase, int se
               std::vector<Cella>& riga) {
     const Picco p = picco(parete, fase, g, segno);
     riga.push_back(g.cella(p.valore));
-    riga.push_back(nullo ? tables::dove(0, 0) : tables::profondita(profondita(parete, p)));
+    riga.push_back(nullo ? tables::dove(0, 0) : tables::profondita(profondita(parete, p), p.lato));
     if (fase == 0) riga.push_back(nullo ? tables::dove(0, 0) : tables::cella(p.fase));
 }
 
@@ -36,14 +37,13 @@ const std::array<GrandezzaFase, 3>& grandezze() {
     using tables::grandezzaMomento;
     using tables::grandezzaSpostamento;
     using tables::grandezzaTaglio;
-    static const std::array<GrandezzaFase, 3> tutte = {{
-        {&FaseEquilibrio::y, grandezzaSpostamento.titolo, grandezzaSpostamento.unita,
-         grandezzaSpostamento.cella},
-        {&FaseEquilibrio::momento, grandezzaMomento.titolo, grandezzaMomento.unita,
-         grandezzaMomento.cella},
-        {&FaseEquilibrio::taglio, grandezzaTaglio.titolo, grandezzaTaglio.unita,
-         grandezzaTaglio.cella},
-    }};
+    const auto di = [](const tables::Grandezza& g, auto sopra, auto sotto) {
+        return GrandezzaFase{sopra, sotto, g.titolo, g.unita, g.cella};
+    };
+    static const std::array<GrandezzaFase, 3> tutte = {
+        di(grandezzaSpostamento, &FaseEquilibrio::y, &FaseEquilibrio::y),
+        di(grandezzaMomento, &FaseEquilibrio::momento, &FaseEquilibrio::momento),
+        di(grandezzaTaglio, &FaseEquilibrio::taglioSopra, &FaseEquilibrio::taglioSotto)};
     return tutte;
 }
 
@@ -51,13 +51,17 @@ Picco picco(const PareteViva& parete, int fase, const GrandezzaFase& grandezza, 
     assert(parete.fasiInEquilibrio() > 0);
     const int prima = fase == 0 ? 1 : fase;
     const int ultima = fase == 0 ? parete.fasiInEquilibrio() : fase;
-    Picco p{(parete.fase(prima)->*grandezza.valori)[0], 0, prima};
+    const bool dueLati = grandezza.sopra != grandezza.sotto;
+    std::optional<Picco> trovato;
     for (int k = prima; k <= ultima; ++k) {
-        const auto& valori = parete.fase(k)->*grandezza.valori;
-        for (std::size_t i = 0; i < valori.size(); ++i)
-            if (segno * valori[i] > segno * p.valore) p = {valori[i], i, k};
+        const FaseEquilibrio& f = *parete.fase(k);
+        for (std::size_t i = 0; i < f.y.size(); ++i)
+            for (const double v : {(f.*grandezza.sopra)[i], (f.*grandezza.sotto)[i]})
+                if (!trovato || segno * v > segno * trovato->valore)
+                    trovato = {v, i, k,
+                               dueLati ? equilibrium::lato(f, i, v) : equilibrium::Lato::unico};
     }
-    return p;
+    return *trovato;
 }
 
 std::vector<std::size_t> nodiDeiPicchi(const PareteViva& parete, int fase) {

@@ -15,11 +15,13 @@ struct Picco {
     double valore = 0;
     std::size_t nodo = 0;  ///< counted from 0
     int fase = 0;
+    equilibrium::Lato lato = equilibrium::Lato::unico;
 };
 
 /// What a stage has at each node and how it is told.
 struct GrandezzaFase {
-    std::vector<double> equilibrium::FaseEquilibrio::*valori;
+    /// Just above and just below the node: shear has two values at an anchor.
+    std::vector<double> equilibrium::FaseEquilibrio::*sopra, equilibrium::FaseEquilibrio::*sotto;
     const char* titolo;  ///< Italian key
     const project::Unita& unita;
     tables::Cella (*cella)(double);
@@ -28,7 +30,7 @@ struct GrandezzaFase {
 /// Displacement, moment, shear.
 [[nodiscard]] const std::array<GrandezzaFase, 3>& grandezze();
 
-/// Of equal values that of the first stage, and in it of the uppermost node.
+/// Of both sides of the nodes; of equal values that of the first stage, and in it the uppermost.
 /// @param fase   one that stands, counted from 1; 0: all that stand
 /// @param segno  1: the largest, -1: the smallest
 /// @pre some stage stands: asserted

@@ -35,9 +35,11 @@ void campo(const DatiProgetto& dati, const project::Membro& membro, int fase, Pr
                                  : tables::cella(valore, 2, c.unita));
 }
 
+// What rounding leaves beside the largest part.
+constexpr double arrotondamento = 1e-9;
+
 // Where a resultant acts; none where it is but what rounding leaves of the forces.
 Cella puntoDi(const Risultante& parte, const Risultante& massima) {
-    constexpr double arrotondamento = 1e-9;
     if (std::fabs(parte.forza) <= arrotondamento * massima.forza) return {};
     return tables::profondita(parte.momento / parte.forza);
 }
@@ -45,6 +47,38 @@ Cella puntoDi(const Risultante& parte, const Risultante& massima) {
 void riga(std::string nome, const Risultante& parte, const Cella& punto, Prospetto& p) {
     p.righe.push_back({tables::parola(std::move(nome)), tables::forza(parte.forza),
                        tables::momento(parte.momento), punto});
+}
+
+// A sum that is rounding alone is told as 0, with what it is small beside.
+std::vector<Cella> rigaSomma(const Risultante& resto, const Risultante& massima) {
+    if (std::fabs(resto.forza) <= arrotondamento * massima.forza &&
+        std::fabs(resto.momento) <= arrotondamento * massima.momento) {
+        Cella forza = tables::forza(0), momento = tables::momento(0);
+        forza.numero = mostrato(unita::forzaAlMetro, resto.forza);
+        momento.numero = mostrato(unita::momentoAlMetro, resto.momento);
+        return {tables::parola(traduttore("Somma di tutte (< 1e-9 della maggiore)")),
+                forza,
+                momento,
+                {}};
+    }
+    return {tables::parola(traduttore("Somma di tutte")),
+            ordineDiGrandezza(mostrato(unita::forzaAlMetro, resto.forza)),
+            ordineDiGrandezza(mostrato(unita::momentoAlMetro, resto.momento)),
+            {}};
+}
+
+// Why the reaction of a fixed toe is more than the shear of the last node.
+std::string notaPiede(const BilancioFase& b) {
+    const double mezzo = b.passo / 2;
+    return riempito(
+        traduttore("Mezzo segmento oltre il piede: con l'incastro la maglia continua sotto la "
+                   "paratia, e l'ultimo nodo porta un segmento intero. La sua pressione netta, %1 "
+                   "kN/m², per mezzo segmento, %2 m, va tutta al vincolo: momenti e tagli della "
+                   "paratia non ne hanno. Senza, la reazione al piede è %3 kN/m, il taglio "
+                   "dell'ultimo nodo."),
+        {tables::pressione(b.oltrePiede.forza / mezzo).testo,
+         tables::cella(mezzo, 4, unita::metri).testo,
+         tables::forza(b.piede.forza + b.oltrePiede.forza).testo});
 }
 
 }  // namespace
@@ -75,13 +109,29 @@ Prospetto prospettoBilancio(const BilancioFase& b) {
     if (b.costante.forza != 0) aggiungi(traduttore("Pressione costante"), b.costante);
     for (std::size_t j = 0; j < b.tiranti.size(); ++j)
         aggiungi(riempito(traduttore("Tirante %1"), {std::to_string(j + 1)}), b.tiranti[j]);
-    if (b.vincoli.forza != 0 || b.vincoli.momento != 0)
-        riga(traduttore("Vincoli"), b.vincoli, {}, p);
-    p.righe.push_back({tables::parola(traduttore("Somma di tutte")),
-                       ordineDiGrandezza(mostrato(unita::forzaAlMetro, b.resto.forza)),
-                       ordineDiGrandezza(mostrato(unita::momentoAlMetro, b.resto.momento)),
-                       {}});
+    if (b.oltrePiede.forza != 0)
+        aggiungi(traduttore("Mezzo segmento oltre il piede"), b.oltrePiede);
+    if (b.cerniera.forza != 0) aggiungi(traduttore("Reazione della cerniera in testa"), b.cerniera);
+    if (b.piede.forza != 0) aggiungi(traduttore("Reazione del vincolo al piede"), b.piede);
+    if (b.incastro.momento != 0) riga(traduttore("Momento d'incastro al piede"), b.incastro, {}, p);
+    p.righe.push_back(rigaSomma(b.resto, massima));
+    if (b.oltrePiede.forza != 0) p.note.push_back(notaPiede(b));
     return p;
+}
+
+std::string fraseSomme(const Fascicolo& f) {
+    std::string frase = riempito(
+        traduttore("Terreno, acqua e pressione costante si riottengono dalla tabella dei nodi per "
+                   "trapezi: pressione per passo, %1 m, metà nel primo e nell'ultimo nodo; i "
+                   "momenti, con la pressione per z. Servono tutti i nodi (--righe %2) e le "
+                   "pressioni sono stampate al centesimo."),
+        {tables::cella(f.parete.h, 4, unita::metri).testo, std::to_string(f.parete.nSeg + 1)});
+    if (!f.tiranti.empty())
+        frase += " " + traduttore(
+                           "Nel nodo di un tirante il taglio ha due valori, subito sopra e subito "
+                           "sotto: la differenza è la forza del tirante. Massimi, minimi e "
+                           "inviluppi contano tutti e due.");
+    return frase;
 }
 
 }  // namespace korven::report

@@ -48,6 +48,7 @@ void introduzione(const Fascicolo& f, Blocchi& blocchi) {
                          "terra: la sua forza è negativa. La somma è quanto l'arrotondamento "
                          "lascia."),
               blocchi);
+    paragrafo(fraseSomme(f), blocchi);
     tavola(tables::prospettoFasi(f.parete), blocchi);
     if (f.parete.fasiInEquilibrio() > 0) tavola(prospettoCorse(f), blocchi);
 }

@@ -110,8 +110,9 @@ void VistaCurve::pannello(QPainter& p, const CurvaMostrata& curva, const QRectF&
 
     QPolygonF andata, ritorno;
     for (std::size_t i = 0; i < curve_.z.size(); ++i) {
-        andata << QPointF(x(curva.massimo[i]), y(curve_.z[i]));
-        ritorno << QPointF(x(curva.minimo[i]), y(curve_.z[i]));
+        const double z = y(curve_.z[i]);
+        andata << QPointF(x(curva.massimo[i]), z) << QPointF(x(curva.massimoSotto[i]), z);
+        ritorno << QPointF(x(curva.minimo[i]), z) << QPointF(x(curva.minimoSotto[i]), z);
     }
     const bool fascia = curve_.fase == 0;
     QPolygonF area = andata;
@@ -142,8 +143,11 @@ void VistaCurve::pannello(QPainter& p, const CurvaMostrata& curva, const QRectF&
     p.setPen(QPen(colore(Ruolo::evidenza, palette()), 1));
     p.drawLine(QPointF(dove.left(), z), QPointF(dove.right(), z));
     p.setBrush(colore(Ruolo::evidenza, palette()));
-    p.drawEllipse(QPointF(x(curva.massimo[nodo_]), z), 3, 3);
-    if (fascia) p.drawEllipse(QPointF(x(curva.minimo[nodo_]), z), 3, 3);
+    for (const double v : {curva.massimo[nodo_], curva.massimoSotto[nodo_]})
+        p.drawEllipse(QPointF(x(v), z), 3, 3);
+    if (fascia)
+        for (const double v : {curva.minimo[nodo_], curva.minimoSotto[nodo_]})
+            p.drawEllipse(QPointF(x(v), z), 3, 3);
     p.setBrush(Qt::NoBrush);
     scrivi({dove.left(), riga + 4, dove.width(), riga}, Ruolo::evidenza, qt(valore(curva, nodo_)));
 }

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "report/annex/stage_tables.hpp"
 #include "support/chapter_bench.hpp"
 #include "support/restless_wall.hpp"
 #include "support/sample_projects.hpp"
@@ -35,10 +36,11 @@ TEST(CapitoloFasi, HoldsTheNodesOfTheDossier) {
         EXPECT_NEAR(numero(p, i, 1), 0.3 * static_cast<double>(i), 1e-12);
         EXPECT_EQ(numero(p, i, 2), 1000 * f.y[i]);
         EXPECT_EQ(numero(p, i, 3), 10 * f.momento[i]);
-        EXPECT_EQ(numero(p, i, 4), 10 * f.taglio[i]);
-        EXPECT_EQ(numero(p, i, 5), 10 * f.monte[i]);
-        EXPECT_EQ(numero(p, i, 6), 10 * f.valle[i]);
-        EXPECT_EQ(numero(p, i, 7), 10 * f.acqua[i]);
+        EXPECT_EQ(numero(p, i, 4), 10 * f.taglioSopra[i]);
+        EXPECT_EQ(numero(p, i, 5), 10 * f.taglioSotto[i]);
+        EXPECT_EQ(numero(p, i, 6), 10 * f.monte[i]);
+        EXPECT_EQ(numero(p, i, 7), 10 * f.valle[i]);
+        EXPECT_EQ(numero(p, i, 8), 10 * f.acqua[i]);
     }
     EXPECT_EQ(p.righe[40].back().testo, "2");  // the layer by its number alone
 }
@@ -71,10 +73,48 @@ TEST(CapitoloFasi, HoldsTheBalanceOfEachStage) {
     EXPECT_NEAR(tirante[1].numero.value_or(0), -10 * c.fascicolo->tiranti[0].tiri[1].value_or(0),
                 1e-9);
     EXPECT_NEAR(tirante[3].numero.value_or(0), 1.5, 1e-12);
-    const auto somma = riga(p, "Somma di tutte");
+    const auto somma = riga(p, "Somma di tutte (< 1e-9 della maggiore)");
     EXPECT_EQ(somma[1].numero, 10 * b.resto.forza);
     EXPECT_LT(std::fabs(somma[1].numero.value_or(1)), 1e-6);
-    EXPECT_TRUE(somma[1].testo == "0" || somma[1].testo.find('e') != std::string::npos);
+    EXPECT_EQ(somma[1].testo, "0.00");
+    EXPECT_EQ(somma[2].testo, "0.00");
+    EXPECT_TRUE(p.note.empty());
+}
+
+// A remainder that is more than rounding is told in its size, whatever the rest.
+TEST(ProspettoBilancio, HidesNoRemainder) {
+    dossier::BilancioFase b;
+    b.monte = {10, 30};
+    b.valle = {-10, -30};
+    b.resto = {2e-8, 0};
+    const auto p = prospettoBilancio(b);
+    EXPECT_EQ(p.righe.back()[0].testo, "Somma di tutte");
+    EXPECT_EQ(p.righe.back()[1].testo, "2.0e-07");
+    b.resto = {9e-9, 1e-9};
+    EXPECT_EQ(prospettoBilancio(b).righe.back()[1].testo, "0.00");
+}
+
+// What a checker gets from the printed pressures, and why the restraint bears more.
+TEST(ProspettoBilancio, TellsForceAndMomentOfAFixedToeAndTheHalfSegmentBelowIt) {
+    auto dati = test::progettoSemplice();
+    dati.vincoloPiede = 3;
+    const Contesto c = contesto(dati);
+    const auto& f = *c.fascicolo->parete.fase(2);
+    const dossier::BilancioFase& b = c.fascicolo->bilanci[1];
+    const auto p = prospettoBilancio(b);
+    const auto reazione = riga(p, "Reazione del vincolo al piede");
+    EXPECT_NEAR(*reazione[3].numero, 12, 1e-9);
+    const auto incastro = riga(p, "Momento d'incastro al piede");
+    EXPECT_EQ(incastro[1].numero, 0);
+    EXPECT_NEAR(*incastro[2].numero, -10 * f.momento.back(), 1e-6);
+    const double netta = live::pressioneNetta(f, 40);  // nodes every 0.3 m
+    EXPECT_NEAR(*riga(p, "Mezzo segmento oltre il piede")[1].numero, 10 * netta * 0.15, 1e-9);
+    EXPECT_NEAR(*reazione[1].numero + 10 * netta * 0.15, 10 * f.taglio.back(), 1e-6);
+    ASSERT_EQ(p.note.size(), 1U);
+    for (const std::string& numero :
+         {tables::pressione(netta).testo + " kN/m²", std::string("0.1500 m"),
+          tables::forza(f.taglio.back()).testo + " kN/m, il taglio dell'ultimo nodo"})
+        EXPECT_NE(p.note[0].find(numero), std::string::npos) << numero << '\n' << p.note[0];
 }
 
 TEST(CapitoloFasi, SetsTheSpecifiedRunBesideTheEquilibrium) {
