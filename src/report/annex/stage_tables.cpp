@@ -16,6 +16,7 @@ namespace korven::report {
 using base::riempito;
 using base::traduttore;
 using dossier::BilancioFase;
+using dossier::Fascicolo;
 using dossier::Risultante;
 using project::DatiProgetto;
 using tables::Cella;
@@ -67,17 +68,20 @@ std::vector<Cella> rigaSomma(const Risultante& resto, const Risultante& massima)
             {}};
 }
 
-// Why the reaction of a fixed toe is more than the shear of the last node.
-std::string notaPiede(const BilancioFase& b) {
+// Why the reaction of a fixed toe is more than the shear of the last node, with the numbers of a
+// stage.
+std::string frasePiede(const BilancioFase& b) {
     const double mezzo = b.passo / 2;
     return riempito(
-        traduttore("Mezzo segmento oltre il piede: con l'incastro la maglia continua sotto la "
-                   "paratia, e l'ultimo nodo porta un segmento intero. La sua pressione netta, %1 "
-                   "kN/m², per mezzo segmento, %2 m, va tutta al vincolo: momenti e tagli della "
-                   "paratia non ne hanno. Senza, la reazione al piede è %3 kN/m, il taglio "
-                   "dell'ultimo nodo."),
-        {tables::pressione(b.oltrePiede.forza / mezzo).testo,
-         tables::cella(mezzo, 4, unita::metri).testo,
+        traduttore("Con l'incastro la maglia continua sotto la paratia, e l'ultimo nodo porta un "
+                   "segmento intero: mezzo più di quanto dicono i trapezi. È la riga «Mezzo "
+                   "segmento oltre il piede», nella fase %1 la pressione netta dell'ultimo nodo, "
+                   "%2 kN/m², per %3 m. Va tutta al vincolo: momenti e tagli della paratia non ne "
+                   "hanno, e senza di essa la reazione al piede, %4 kN/m, è il taglio dell'ultimo "
+                   "nodo, %5 kN/m. Il momento d'incastro è quello dell'ultimo nodo, di segno "
+                   "opposto."),
+        {std::to_string(b.fase), tables::pressione(b.oltrePiede.forza / mezzo).testo,
+         tables::cella(mezzo, 4, unita::metri).testo, tables::forza(b.piede.forza).testo,
          tables::forza(b.piede.forza + b.oltrePiede.forza).testo});
 }
 
@@ -115,7 +119,6 @@ Prospetto prospettoBilancio(const BilancioFase& b) {
     if (b.piede.forza != 0) aggiungi(traduttore("Reazione del vincolo al piede"), b.piede);
     if (b.incastro.momento != 0) riga(traduttore("Momento d'incastro al piede"), b.incastro, {}, p);
     p.righe.push_back(rigaSomma(b.resto, massima));
-    if (b.oltrePiede.forza != 0) p.note.push_back(notaPiede(b));
     return p;
 }
 

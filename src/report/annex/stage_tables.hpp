@@ -13,8 +13,8 @@ namespace korven::report {
 /// Forces and moments about the head: each part, where its resultant acts, the sum of all.
 [[nodiscard]] tables::Prospetto prospettoBilancio(const dossier::BilancioFase& bilancio);
 
-/// How a reader gets from the table of nodes to the balance, and what shear is at an anchor: a
-/// paragraph.
+/// How a reader gets from the tables of nodes to the balances, what shear is at an anchor and what
+/// a fixed toe bears beyond the pressures: a paragraph.
 [[nodiscard]] std::string fraseSomme(const dossier::Fascicolo& fascicolo);
 
 }  // namespace korven::report

@@ -64,15 +64,26 @@ std::string descrizione(const Fascicolo& f, int fase) {
     return testo + ".";
 }
 
+// A balance with many lines stands on the same page below a lower drawing.
+double altezzaFigura(const Fascicolo& f, int fase) {
+    constexpr double riga = 0.47, minima = 8.5;  // [cm]
+    constexpr std::size_t righe = 11;            // below a drawing of full height
+    const auto i = static_cast<std::size_t>(fase) - 1;
+    if (i >= f.bilanci.size()) return drawings::formatoFase.altezza;
+    const std::size_t sue = prospettoBilancio(f.bilanci[i]).righe.size();
+    const std::size_t oltre = sue > righe ? sue - righe : 0;
+    return std::max(minima, drawings::formatoFase.altezza - riga * static_cast<double>(oltre));
+}
+
 document::Figura figura(const Contesto& contesto, int fase) {
     const auto f = contesto.fascicolo;
     const bool sta = f->parete.fase(fase) != nullptr;
-    const auto [larghezza, altezza] = drawings::formatoFase;
+    const double larghezza = drawings::formatoFase.larghezza, altezza = altezzaFigura(*f, fase);
     return {riempito(traduttore(sta ? "Fase %1: paratia, pressioni, spostamento, momento e taglio"
                                     : "Fase %1: come la paratia cade"),
                      {std::to_string(fase)}),
             sta ? descrizione(*f, fase) : tables::perche(f->parete, fase), larghezza, altezza,
-            [f, fase, larghezza = larghezza, altezza = altezza] {
+            [f, fase, larghezza, altezza] {
                 drawings::disegnaFase(f->parete, fase, larghezza, altezza);
             }};
 }
