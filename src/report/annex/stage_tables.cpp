@@ -134,6 +134,8 @@ std::string fraseSomme(const Fascicolo& f) {
                            "Nel nodo di un tirante il taglio ha due valori, subito sopra e subito "
                            "sotto: la differenza è la forza del tirante. Massimi, minimi e "
                            "inviluppi contano tutti e due.");
+    if (!f.bilanci.empty() && f.bilanci.back().incastro.momento != 0)
+        frase += " " + frasePiede(f.bilanci.back());
     return frase;
 }
 
