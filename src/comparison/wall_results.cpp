@@ -16,7 +16,6 @@ using base::traduttore;
 using dossier::Fascicolo;
 using equilibrium::Estremi;
 using equilibrium::Estremo;
-using safety::Margine;
 using safety::MargineFase;
 using tables::Cella;
 namespace unita = project::unita;

@@ -20,7 +20,6 @@ namespace korven::document {
 
 namespace {
 
-using tables::Cella;
 using tables::Prospetto;
 using Indici = std::vector<std::size_t>;
 

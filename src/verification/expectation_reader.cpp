@@ -145,7 +145,7 @@ Attesa leggiAttesa(const RigheCaso& righe, std::string_view riga, const Caso& ca
         righe.rifiuta("il nome di una grandezza, non «%1»", {std::string(lati->first)});
 
     if (attesa.grandezza->diFase) attesa.luogo.fase = 0;
-    Passo passo = sinistra.begin() + 1;
+    auto passo = sinistra.begin() + 1;
     prendiLuogo(righe, caso.parete, passo, sinistra.end(), attesa.luogo);
     if (passo != sinistra.end())
         righe.rifiuta("fase, z o tirante, non «%1»", {std::string(*passo)});

@@ -13,9 +13,11 @@ using tables::Cella;
 namespace unita = project::unita;
 
 std::vector<Cella> celle(const StoriaTirante* storia) {
-    if (storia == nullptr || storia->posa == 0)
-        return std::vector<Cella>(
-            3, tables::senza(traduttore("In nessuna fase in equilibrio il tirante è in opera.")));
+    if (storia == nullptr || storia->posa == 0) {
+        const Cella mai =
+            tables::senza(traduttore("In nessuna fase in equilibrio il tirante è in opera."));
+        return {mai, mai, mai};
+    }
     return {tables::cella(storia->faseMassimo), tables::cella(storia->posa),
             tables::forza(storia->allaPosa)};
 }

@@ -84,7 +84,7 @@ bool vuota(const Cella& cella) {
 
 // A head has its unit in the line below where both are too wide.
 double larghezza(const Prospetto& p, std::size_t c) {
-    double caratteri = static_cast<double>(base::numeroCaratteri(p.colonne[c].titolo));
+    auto caratteri = static_cast<double>(base::numeroCaratteri(p.colonne[c].titolo));
     caratteri = std::max(caratteri, static_cast<double>(p.colonne[c].unita.size()));
     for (const auto& riga : p.righe)
         caratteri = std::max(caratteri, static_cast<double>(base::numeroCaratteri(riga[c].testo)));

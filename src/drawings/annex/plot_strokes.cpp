@@ -55,6 +55,7 @@ std::vector<TrattoScena> fuori(const Punto& da, const Punto& a,
         parti = std::move(resto);
     }
     std::vector<TrattoScena> tratti;
+    tratti.reserve(parti.size());
     for (const auto& [inizio, fine] : parti)
         tratti.emplace_back(inizio == 0 ? da : tra(da, a, inizio),
                             fine == 1 ? a : tra(da, a, fine));
@@ -95,6 +96,7 @@ std::vector<std::vector<Punto>> inFasce(const std::vector<Punto>& poligono) {
     if (poligono.size() < 3) return {};
     if (poligono.size() == 3) return {poligono};
     std::vector<double> quote;
+    quote.reserve(poligono.size());
     for (const Punto& p : poligono) quote.push_back(p.y);
     std::sort(quote.begin(), quote.end());
     quote.erase(std::unique(quote.begin(), quote.end()), quote.end());

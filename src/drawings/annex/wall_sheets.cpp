@@ -81,16 +81,19 @@ class ElencoTiranti {
         colonna_ = largo / static_cast<double>(colonne_);
     }
     [[nodiscard]] double altezza() const {
-        return riga * static_cast<double>((testi_.size() + colonne_ - 1) / colonne_);
+        const std::size_t righe = (testi_.size() + colonne_ - 1) / colonne_;
+        return riga * static_cast<double>(righe);
     }
     void scrivi(double y, Tela& tela) const {
-        for (std::size_t i = 0; i < testi_.size(); ++i)
+        for (std::size_t i = 0; i < testi_.size(); ++i) {
+            const std::size_t sopra = i / colonne_;
             tela.scrivi({.testo = testi_[i],
                          .tinta = {Ruolo::tirante},
                          .corpo = corpoPiccolo,
                          .posti = {{{0.4 * em + colonna_ * static_cast<double>(i % colonne_),
-                                     y + riga * (static_cast<double>(i / colonne_) + 0.5)},
+                                     y + riga * (static_cast<double>(sopra) + 0.5)},
                                     Ancora::sinistra}}});
+        }
     }
 
  private:

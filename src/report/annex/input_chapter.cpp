@@ -122,14 +122,14 @@ void figure(const Contesto& contesto, Blocchi& blocchi) {
             traduttore("Sezione della paratia con terreno, acqua, tiranti e fasi, in scala"),
             traduttore("La paratia in sezione verticale: strati, falda, tiranti con la loro "
                        "profondità e livelli di scavo delle fasi."),
-            l, h, [f, l, h] { drawings::disegnaParete(f->parete, l, h); }});
+            l, h, [f, l = l, h = h] { drawings::disegnaParete(f->parete, l, h); }});
     }
     if (structure::sezioneDefinita(f->parete.dati.sezione)) {
         const auto [l, h] = drawings::formatoSezione;
         blocchi.emplace_back(document::Figura{
             traduttore("Sezione orizzontale della paratia"),
             traduttore("La sezione della paratia in pianta con le sue misure."), l, h,
-            [f, l, h] { drawings::disegnaSezioneParete(f->parete.dati.sezione, l, h); }});
+            [f, l = l, h = h] { drawings::disegnaSezioneParete(f->parete.dati.sezione, l, h); }});
     }
 }
 
