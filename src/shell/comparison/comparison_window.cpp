@@ -73,7 +73,10 @@ FinestraConfronto::FinestraConfronto(QWidget& principale, VitaProgetto& vita, Po
     riposo_->setSingleShot(true);
     riposo_->setInterval(riposo);
     connect(riposo_, &QTimer::timeout, this, [this] { guardaOra(); });
-    connect(pagine_, &QTabWidget::currentChanged, this, [this] { seguiPagina(); });
+    connect(pagine_, &QTabWidget::currentChanged, this, [this] {
+        if (pagine_->currentWidget() == curve_) curve_->vaiA(1);  // from its upper end
+        seguiPagina();
+    });
     connect(&vita, &VitaProgetto::cambiata, this, [this] { guarda(); });
     svuota({});
     campi_->setFocus();

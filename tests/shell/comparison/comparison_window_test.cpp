@@ -5,6 +5,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTabWidget>
 #include <filesystem>
 
@@ -150,6 +151,8 @@ TEST_F(FinestraConfrontoTest, ShowsBothWallsAndTellsThemToThoseWhoDoNotSee) {
     test::controllo<QTabWidget>(finestra, "pagine").setCurrentIndex(4);
     auto& curve = test::controllo<VistaDocumento>(finestra, "anteprima");
     EXPECT_EQ(curve.pagine(), 1);
+    EXPECT_GT(curve.verticalScrollBar()->maximum(), 0);
+    EXPECT_EQ(curve.verticalScrollBar()->value(), 0) << "seen from its upper end";
     EXPECT_TRUE(curve.accessibleDescription().contains(QStringLiteral("Le pareti A, muro.kvd")))
         << curve.accessibleDescription().toStdString();
     EXPECT_EQ(testo("nota"), "");
