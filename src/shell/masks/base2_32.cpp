@@ -103,9 +103,15 @@ void Base2_32::sostituisci(const std::vector<std::vector<std::string>>& righe, s
     griglia_->aggiorna();
 }
 
-void Base2_32::annulla() { griglia_->annulla(); }
+void Base2_32::annulla() {
+    griglia_->annulla();
+    emit tornata();
+}
 
-void Base2_32::ripeti() { griglia_->ripeti(); }
+void Base2_32::ripeti() {
+    griglia_->ripeti();
+    emit tornata();
+}
 
 void Base2_32::nota(const QString& testo) {
     if (testo == nota_) return;

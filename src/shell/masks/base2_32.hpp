@@ -65,6 +65,8 @@ class Base2_32 : public FormaMaschera {
  signals:
     /// The cursor is in another cell.
     void postoCambiato();
+    /// A step of the table was taken back or done again, or there was none to take.
+    void tornata();
 
  protected:
     void keyPressEvent(QKeyEvent* evento) override;

@@ -68,6 +68,7 @@ PannelloTiranti::PannelloTiranti(Base2_32& forma, VitaProgetto& vita,
     };
     connect(&forma, &FormaMaschera::digitata, this, tabella);
     connect(&forma, &Base2_32::postoCambiato, this, tabella);
+    connect(&forma, &Base2_32::tornata, this, tabella);
     connect(&vita, &VitaProgetto::cambiata, this, &PannelloTiranti::aggiorna);
     new TastiStoria(
         *campi_, [this] { torna(false); }, [this] { torna(true); });
@@ -79,9 +80,12 @@ QWidget* PannelloTiranti::fareCalcolo() {
     auto* colonna = new QVBoxLayout(calcolo);
     colonna->setContentsMargins(0, 0, 0, 0);
     auto* significato = fareTesto("calcoloSignificato", calcolo);
-    significato->setText(tradotto(
+    // One line or two: on a small screen what is calculated needs the room.
+    significato->setText(tradotto("Valori per metro di paratia e in orizzontale, per la tabella."));
+    significato->setToolTip(inRighe(base::traduttore(
         "La tabella chiede valori per metro di paratia, in direzione orizzontale: il programma non "
-        "divide per l'interasse e non moltiplica per il coseno, lo fa questo calcolo."));
+        "divide per l'interasse e non moltiplica per il coseno, lo fa questo calcolo.")));
+    significato->setAccessibleDescription(significato->toolTip());
     colonna->addWidget(significato);
     colonna->addWidget(discorde_);
     colonna->addWidget(campi_);

@@ -187,6 +187,16 @@ TEST_F(PannelloDeiTiranti, DoesAgainInTheOrderInWhichItTookBackAndSaysOneOfThem)
     });
 }
 
+TEST_F(PannelloDeiTiranti, SaysNothingMoreOfItsInputsOnceTheTableIsAskedToTakeBack) {
+    apri([&] {
+        riempi();
+        QTest::keyClick(&casella(2), Qt::Key_Z, Qt::ControlModifier);
+        ASSERT_TRUE(testo("Label1").starts_with("Annullato: campo "));
+        QTest::keyClick(&griglia(), Qt::Key_Z, Qt::ControlModifier);  // no step of its own
+        EXPECT_EQ(testo("Label1").find("campo "), std::string::npos) << testo("Label1");
+    });
+}
+
 TEST_F(PannelloDeiTiranti, HandsCtrlZToTheTableWhileNothingIsTypedIntoIt) {
     apri([&] { EXPECT_EQ(nonAnnullano("pannelloTiranti"), ""); });
 }
