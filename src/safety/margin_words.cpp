@@ -32,7 +32,7 @@ std::string fasi(const std::vector<int>& quali) {
 std::string nonDaCostruire(const Margine& margine) {
     const bool bilico = margine.lunghezza.esito == EsitoLunghezza::trovata;
     std::string testo = traduttore("non è una lunghezza da costruire");
-    if (bilico) testo += ": F = 1";
+    if (bilico) testo += base::duePunti() + "F = 1";
     if (margine.sostegni)
         testo += (bilico ? std::string(", ") : base::duePunti()) +
                  traduttore("tiranti e vincoli tengono senza limite");
@@ -93,10 +93,11 @@ std::string paroleLunghezza(const Margine& margine) {
     const std::string inizio = traduttore("Lunghezza minima") + base::duePunti();
     switch (esito) {
         case EsitoLunghezza::trovata:
-            return inizio + metriAllineati(*lunghezza) + " m; " + traduttore("la paratia è lunga") +
-                   " " + metriAllineati(margine.paratia) + " m; " + nonDaCostruire(margine);
+            return inizio + metriAllineati(*lunghezza) + " m" + base::puntoEVirgola() +
+                   traduttore("la paratia è lunga") + " " + metriAllineati(margine.paratia) + " m" +
+                   base::puntoEVirgola() + nonDaCostruire(margine);
         case EsitoLunghezza::sempre:
-            return inizio + metriAllineati(*lunghezza) + " m; " +
+            return inizio + metriAllineati(*lunghezza) + " m" + base::puntoEVirgola() +
                    traduttore(
                        "la paratia è in equilibrio anche senza infissione sotto lo scavo più "
                        "profondo") +
