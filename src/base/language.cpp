@@ -9,7 +9,17 @@ namespace korven::base {
 
 namespace {
 
-constexpr std::string_view sigle[] = {"ita", "deu", "fra", "esp", "eng", "por"};
+struct Sigle {
+    std::string_view sigla, iso;
+};
+constexpr Sigle lingue[] = {{"ita", "it"}, {"deu", "de"}, {"fra", "fr"},
+                            {"esp", "es"}, {"eng", "en"}, {"por", "pt"}};
+
+// Of a code, or of none of them.
+Sigle sigle(int codice) {
+    const bool valido = codice >= 1 && codice <= static_cast<int>(std::size(lingue));
+    return valido ? lingue[codice - 1] : Sigle{};
+}
 
 // In this order: a step takes up the tag that an earlier one has left, never the other way round.
 struct Sostituto {
@@ -20,16 +30,15 @@ constexpr Sostituto sostituti[] = {
 
 }  // namespace
 
-std::string_view siglaLingua(int codice) {
-    const bool valido = codice >= 1 && codice <= static_cast<int>(std::size(sigle));
-    return valido ? sigle[codice - 1] : std::string_view();
-}
+std::string_view siglaLingua(int codice) { return sigle(codice).sigla; }
+
+std::string_view siglaIso(int codice) { return sigle(codice).iso; }
 
 int codiceLingua(std::string_view sigla) {
     int codice = 0;
-    for (const auto candidata : sigle) {
+    for (const auto& lingua : lingue) {
         ++codice;
-        if (candidata == sigla) return codice;
+        if (lingua.sigla == sigla) return codice;
     }
     return 0;
 }

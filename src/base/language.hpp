@@ -10,6 +10,10 @@ namespace korven::base {
 /// "esp", 5 "eng", 6 "por". Empty for every other code.
 [[nodiscard]] std::string_view siglaLingua(int codice);
 
+/// The same as documents name their language (ISO 639-1): "it", "de", "fr", "es", "en", "pt". Empty
+/// for every other code.
+[[nodiscard]] std::string_view siglaIso(int codice);
+
 /// What a file with the chosen language must hold. Who reads it has no language yet, so it is told
 /// in Italian and in English.
 inline constexpr std::string_view attesoCodiceLingua =

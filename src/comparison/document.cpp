@@ -1,10 +1,10 @@
 #include "comparison/document.hpp"
 
-#include <array>
 #include <filesystem>
 #include <utility>
 
 #include "base/filled_text.hpp"
+#include "base/language.hpp"
 #include "base/translated_texts.hpp"
 #include "base/version.hpp"
 #include "comparison/tables.hpp"
@@ -19,9 +19,6 @@ using document::Documento;
 using document::Paragrafo;
 using document::Stile;
 using document::Titolo;
-
-// Of the languages 1 to 6, as files name them.
-constexpr std::array sigle = {"it", "de", "fr", "es", "en", "pt"};
 
 std::string nomeDelFile(const std::string& percorso) {
     return std::filesystem::path(percorso).filename().string();
@@ -76,7 +73,7 @@ Documento documento(const std::shared_ptr<const Confronto>& confronto, const std
     d.titolo = traduttore("Confronto");
     d.autore = std::string(base::nomeEVersione);
     d.data = data;
-    d.lingua = sigle.at(static_cast<std::size_t>(base::linguaCorrente()) - 1);
+    d.lingua = base::siglaIso(base::linguaCorrente());
     const auto [uno, altro] = nomi(c);
     d.testata = {d.titolo, uno + " / " + altro};
     d.piede = d.autore + ", " + data;

@@ -1,10 +1,10 @@
 #include "verification/document.hpp"
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
 #include "base/filled_text.hpp"
+#include "base/language.hpp"
 #include "base/translated_texts.hpp"
 #include "base/version.hpp"
 #include "document/page.hpp"
@@ -24,9 +24,6 @@ using document::Blocco;
 using document::Paragrafo;
 using document::Stile;
 using document::Titolo;
-
-// Of the languages 1 to 6, as files name them.
-constexpr std::array sigle = {"it", "de", "fr", "es", "en", "pt"};
 
 void aggiungiRiga(std::string& testo, const std::string& riga) {
     if (!testo.empty()) testo += '\n';
@@ -97,7 +94,7 @@ document::Documento documento(const EsitoVerifica& esito, const std::string& dat
     d.titolo = traduttore("Verifica del programma");
     d.autore = chi;
     d.data = data;
-    d.lingua = sigle.at(static_cast<std::size_t>(base::linguaCorrente()) - 1);
+    d.lingua = base::siglaIso(base::linguaCorrente());
     d.testata = {chi, d.titolo};
     d.piede = data;
     d.blocchi.emplace_back(Titolo{1, d.titolo});

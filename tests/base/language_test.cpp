@@ -16,6 +16,11 @@ TEST(SiglaLingua, CodesOneToSixHaveTheirTagsAndNoOtherHasOne) {
     EXPECT_EQ(codiceLingua(""), 0);
 }
 
+TEST(SiglaIso, CodesOneToSixHaveTheTagsThatDocumentsKnow) {
+    const char* attese[] = {"", "it", "de", "fr", "es", "en", "pt", ""};
+    for (int codice = 0; codice <= 7; ++codice) EXPECT_EQ(siglaIso(codice), attese[codice]);
+}
+
 std::string scelta(std::string_view sigla, const std::set<std::string, std::less<>>& esistenti) {
     return siglaDisponibile(sigla, [&](std::string_view s) { return esistenti.contains(s); });
 }

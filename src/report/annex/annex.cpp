@@ -1,6 +1,5 @@
 #include "report/annex/annex.hpp"
 
-#include <array>
 #include <cassert>
 #include <memory>
 #include <utility>
@@ -37,19 +36,6 @@ constexpr Capitolo capitoli[] = {
     {"Come ripetere il documento", capitoloRipetere, true},
 };
 
-// Of a language as readers of documents know it (BCP 47).
-std::string lingua() {
-    struct Sigla {
-        std::string_view sigla, breve;
-    };
-    constexpr Sigla sigle[] = {{"ita", "it"}, {"deu", "de"}, {"fra", "fr"},
-                               {"esp", "es"}, {"eng", "en"}, {"por", "pt"}};
-    const std::string_view corrente = base::siglaLingua(base::linguaCorrente());
-    for (const auto& [sigla, breve] : sigle)
-        if (sigla == corrente) return std::string(breve);
-    return {};
-}
-
 std::string nomeFile(const std::string& percorso) {
     return percorso.substr(percorso.find_last_of("/\\") + 1);
 }
@@ -61,7 +47,7 @@ void intesta(const dossier::Fascicolo& f, Documento& d) {
     d.titolo = traduttore("Allegato di calcolo");
     if (!file.empty()) d.titolo += " - " + file;
     d.data = f.identita.data;
-    d.lingua = lingua();
+    d.lingua = base::siglaIso(base::linguaCorrente());
     d.testata[0] = titolo.empty() ? file : (file.empty() ? titolo : file + " - " + titolo);
     d.testata[1] = f.identita.programma + " " + f.identita.versione;
     d.piede = "SHA-256 " + std::string(dossier::inBreve(f.identita.impronta));
