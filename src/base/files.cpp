@@ -25,6 +25,12 @@ namespace {
         traduttore("impossibile leggere il file") + " (" + motivoSistema(codice) + ")");
 }
 
+[[noreturn]] void nonCreata(const std::string& cartella, int codice) {
+    throw ErroreFile(
+        cartella, 0,
+        traduttore("impossibile creare la cartella") + " (" + motivoSistema(codice) + ")");
+}
+
 class Descrittore {
  public:
     Descrittore(const Disco& disco, const std::string& percorso, int modo, mode_t permessi = 0)
@@ -98,7 +104,10 @@ ScrittoreFile::ScrittoreFile(const std::string& percorso, const Disco& disco)
     const auto meta = destinazione(percorso);
     if (!meta) nonScritto(percorso, ELOOP);
     meta_ = *meta;
-    if (struct stat stato{}; ::stat(meta_.c_str(), &stato) == 0) rifiutaSpeciale(percorso, stato);
+    if (struct stat stato{}; ::stat(meta_.c_str(), &stato) == 0) {
+        if (S_ISDIR(stato.st_mode)) nonScritto(percorso, EISDIR);
+        rifiutaSpeciale(percorso, stato);
+    }
     // Taking over the name would get past a file's own write protection.
     if (::access(meta_.c_str(), F_OK) == 0 && ::access(meta_.c_str(), W_OK) != 0)
         nonScritto(percorso, errno);
@@ -137,6 +146,10 @@ void ScrittoreFile::concludi() {
     if (!scritto) fallito();
     ::close(std::exchange(file_, -1));
     versaCartella(disco_, cartellaDi(meta_));
+}
+
+void controllaScrivibile(const std::string& percorso, const Disco& disco) {
+    const ScrittoreFile prova(percorso, disco);
 }
 
 void scriviFile(const std::string& percorso, std::string_view contenuto, const Disco& disco) {
@@ -196,11 +209,22 @@ void cancellaFile(const std::string& percorso) {
     ::unlink(percorso.c_str());  // an empty folder of that name stays
 }
 
+void controllaCartella(const std::string& cartella) {
+    std::error_code errore;
+    if (std::filesystem::is_directory(cartella, errore)) return;
+    auto esistente = std::filesystem::absolute(cartella, errore);
+    while (!std::filesystem::exists(esistente, errore) && esistente.has_relative_path())
+        esistente = esistente.parent_path();
+    if (!std::filesystem::is_directory(esistente, errore)) nonCreata(cartella, ENOTDIR);
+    if (!accettaFile(esistente.string())) nonCreata(cartella, errno);
+}
+
 void creaCartella(const std::string& cartella) {
     std::error_code errore;
     std::filesystem::create_directories(cartella, errore);
-    if (!std::filesystem::is_directory(cartella, errore))
-        throw ErroreFile(cartella, 0, traduttore("impossibile creare la cartella"));
+    std::error_code altro;
+    if (std::filesystem::is_directory(cartella, altro)) return;
+    nonCreata(cartella, errore ? errore.value() : ENOTDIR);
 }
 
 }  // namespace korven::base

@@ -23,9 +23,18 @@ inline constexpr std::size_t massimoByte = std::size_t{1} << 30;
 /// file of the same folder, to the disk, and then take the name. An earlier file of that name
 /// survives any failure. Its permissions are kept; a link is followed, even to a missing target.
 /// @throws ErroreFile with the system's reason (full disk, no permission, no such folder, links in
-///         a loop), or if the name is that of a pipe, a device or a socket
+///         a loop, a folder of that name), or if the name is that of a pipe, a device or a socket
 void scriviFile(const std::string& percorso, std::string_view contenuto,
                 const Disco& disco = discoDiSistema());
+
+/// Refuses a name under which `scriviFile` could write nothing now: whoever is going to work for
+/// long for a file asks before. Nothing stays of the trial.
+/// @throws ErroreFile as `scriviFile`
+void controllaScrivibile(const std::string& percorso, const Disco& disco = discoDiSistema());
+
+/// The same of a folder for `creaCartella`.
+/// @throws ErroreFile with the system's reason, if it neither exists nor can be made
+void controllaCartella(const std::string& cartella);
 
 /// A file in the making, for contents too long for memory: what `scriviFile` does, part by part.
 /// Without `concludi` nothing is left of it, and an earlier file of that name stays.
@@ -79,7 +88,7 @@ void accodaFile(const std::string& percorso, std::string_view contenuto,
 void cancellaFile(const std::string& percorso);
 
 /// Makes a folder, with those above it, unless it exists.
-/// @throws ErroreFile if it can't be made
+/// @throws ErroreFile with the system's reason, if it can't be made
 void creaCartella(const std::string& cartella);
 
 }  // namespace korven::base

@@ -6,6 +6,9 @@
 #include <utility>
 #include <vector>
 
+#include "analysis/run_arrays.hpp"
+#include "analysis/segment_count.hpp"
+#include "base/files.hpp"
 #include "base/folders/file_names.hpp"
 #include "base/translated_texts.hpp"
 #include "batch/command_table.hpp"
@@ -15,6 +18,7 @@
 #include "batch/run/console_run.hpp"
 #include "batch/run/drawing_formats.hpp"
 #include "batch/run/failure.hpp"
+#include "batch/run/interruption.hpp"
 #include "batch/run/output_names.hpp"
 #include "batch/run/report_formats.hpp"
 #include "batch/run/reviewed_run.hpp"
@@ -105,7 +109,7 @@ bool diagramma(analysis::Diagramma tipo, CorsaConsole& corsa) {
 }
 
 void controllaTutte(const Opzioni& opzioni, const FormatiRelazione& relazione,
-                    const FormatiAllegato& allegato) {
+                    const FormatiAllegato& allegato, const base::Disco& disco) {
     std::vector<std::string> tutte;
     for (const Tavola& tavola : tavole()) {
         const FormatiDisegno chiesti = formatiTavola(opzioni, tavola);
@@ -119,6 +123,46 @@ void controllaTutte(const Opzioni& opzioni, const FormatiRelazione& relazione,
         tutte.push_back(file);
     }
     controllaNomi(tutte, {});
+    for (const auto& file : tutte) base::controllaScrivibile(file, disco);
+}
+
+// What the command makes, for the parts of its work.
+struct Consegna {
+    const Opzioni& opzioni;
+    const PorteComando& porte;
+    Esito& esito;
+    FormatiAllegato formatiAllegato;
+};
+
+CodiceUscita disegnaTutte(const Consegna& consegna, CorsaConsole& corsa) {
+    std::size_t quale = 0;
+    CodiceUscita codice = fatto;
+    for (const Tavola& tavola : tavole()) {
+        if (corsa.interrotta()) return nonEseguito;
+        annuncia(consegna.opzioni, ++quale, tavola);
+        if (tavola.diagramma && !diagramma(*tavola.diagramma, corsa)) return nonEseguito;
+        if (!tavola.diagramma && !tavola.disegna(consegna.esito))
+            codice = nonEseguito;  // the other drawings are made all the same
+        else
+            scriviDisegno(formatiTavola(consegna.opzioni, tavola), consegna.porte.disco,
+                          consegna.esito);
+    }
+    return corsa.interrotta() ? nonEseguito : codice;
+}
+
+// The annex stands on the certain equilibrium: it is written where the staged run finds no rest
+// too, and says so. What is refused has none, nor what its user has stopped.
+void allegato(const Consegna& consegna, project::DatiProgetto usati, CorsaConsole& corsa) {
+    const Esito& esito = consegna.esito;
+    usati.rigidezzaEJ = Progetto.rigidezzaEJ;
+    const auto nSeg = analysis::leggiNSeg(analysis::vincoli(usati).incastroPiede);
+    if (!nSeg || esito.causa == safety::Causa::rifiutato || Interruzioni::chiesta() != 0) return;
+    dossier::Fascicolo fascicolo =
+        fascicoloCalcolato(consegna.opzioni, usati, *nSeg,
+                           comandoAllegato(consegna.opzioni, consegna.formatiAllegato), esito);
+    if (!corsa.interrotta())
+        scriviAllegato(std::move(fascicolo), consegna.formatiAllegato, consegna.porte.disco,
+                       consegna.esito);
 }
 
 int esegui(const Opzioni& opzioni, const PorteComando& porte, Esito& esito) {
@@ -126,33 +170,23 @@ int esegui(const Opzioni& opzioni, const PorteComando& porte, Esito& esito) {
         avvisaPosto();
         const AmbienteDisegno ambiente(true);
         const FormatiRelazione relazione = formatiRelazione();
-        const FormatiAllegato allegato = allegatoAccanto(opzioni.allegato);
-        controllaTutte(opzioni, relazione, allegato);
-        project::DatiProgetto usati = Progetto;  // reading results back changes the method
+        const Consegna consegna{opzioni, porte, esito, allegatoAccanto(opzioni.allegato)};
+        controllaTutte(opzioni, relazione, consegna.formatiAllegato, porte.disco);
+        const project::DatiProgetto usati = Progetto;  // reading results back changes the method
         CorsaConsole corsa(opzioni, porte, esito);
-        if (!produciRelazione(relazione, corsa, esito)) return nonEseguito;
+        if (!produciRelazione(relazione, corsa, esito)) {
+            allegato(consegna, usati, corsa);
+            return nonEseguito;
+        }
         esito.calcolo = results::leggiEsito();
         // Only the first run tells whether anything was computed: the others find its results.
         const auto fasi = esito.fasi;
         const bool giaAggiornato = esito.giaAggiornato;
-        std::size_t quale = 0;
-        CodiceUscita codice = fatto;
-        for (const Tavola& tavola : tavole()) {
-            if (corsa.interrotta()) return nonEseguito;
-            annuncia(opzioni, ++quale, tavola);
-            if (tavola.diagramma && !diagramma(*tavola.diagramma, corsa)) return nonEseguito;
-            if (!tavola.diagramma && !tavola.disegna(esito))
-                codice = nonEseguito;  // the other drawings are made all the same
-            else
-                scriviDisegno(formatiTavola(opzioni, tavola), porte.disco, esito);
-        }
-        usati.rigidezzaEJ = Progetto.rigidezzaEJ;
-        if (corsa.interrotta()) return nonEseguito;
-        scriviAllegato(fascicoloAllegato(opzioni, usati, allegato, esito), allegato, porte.disco,
-                       esito);
+        const CodiceUscita codice = disegnaTutte(consegna, corsa);
+        allegato(consegna, usati, corsa);
         esito.fasi = fasi;
         esito.giaAggiornato = giaAggiornato;
-        return codice;
+        return Interruzioni::chiesta() != 0 ? nonEseguito : codice;
     });
 }
 
@@ -173,7 +207,8 @@ RigaComando comandoTutto() {
     formati.ripetibile = true;
     RigaComando riga = {{"tutto", "all"},
                         "scrive la relazione e l'allegato in ogni formato e tutti i disegni",
-                        insieme({opzioniCalcolo(true), {formati, opzioneRisoluzione()}}),
+                        insieme({opzioniCalcolo(true),
+                                 {formati, opzioneRisoluzione(), opzioneRighe(), opzioneData()}}),
                         esegui};
     riga.calcola = true;
     return riga;

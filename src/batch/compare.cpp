@@ -1,12 +1,14 @@
 #include <filesystem>
 #include <iostream>
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "analysis/segment_count.hpp"
 #include "base/colon.hpp"
+#include "base/files.hpp"
 #include "base/filled_text.hpp"
 #include "base/folders/file_names.hpp"
 #include "base/translated_texts.hpp"
@@ -14,6 +16,7 @@
 #include "batch/command_table.hpp"
 #include "batch/options/common_options.hpp"
 #include "batch/run/command_ports.hpp"
+#include "batch/run/computed_dossier.hpp"
 #include "batch/run/console_run.hpp"
 #include "batch/run/document_formats.hpp"
 #include "batch/run/drawing_formats.hpp"
@@ -50,7 +53,8 @@ void raccontaPericoli(const std::string& file, const review::Osservazioni& osser
         if (o.peso != review::Peso::daVedere) std::cerr << file << ": " << riga(o) << '\n';
 }
 
-Muro muroDelProgetto(const std::string& percorso, const Opzioni& opzioni, Esito& esito) {
+// Reads a project and makes sure that the pages don't take its place.
+dossier::Richiesta letto(const std::string& percorso, const Opzioni& opzioni, Esito& esito) {
     esito.progetto = percorso;  // of which an error tells
     commands::apriProgetto(percorso, {});
     controllaTabella(opzioni.pdfConfronto);
@@ -63,17 +67,23 @@ Muro muroDelProgetto(const std::string& percorso, const Opzioni& opzioni, Esito&
     richiesta.sulProgetto = review::esaminaFile(percorso, richiesta.usati);
     raccontaPericoli(percorso, *richiesta.sulProgetto);
     if (!review::mostrabile(richiesta.usati)) throw base::ErroreValore();
+    return richiesta;
+}
+
+Muro calcolato(const dossier::Richiesta& richiesta, Esito& esito) {
+    esito.progetto = richiesta.identita.file;
     FinoAllInterruzione osservatore;
-    return comparison::muroCalcolato(percorso, richiesta, osservatore);
+    return comparison::muroCalcolato(richiesta.identita.file, richiesta, osservatore);
 }
 
 Confronto confrontoDiProgetti(const Opzioni& opzioni, Esito& esito) {
-    Muro prima = muroDelProgetto(opzioni.progetto, opzioni, esito);
+    const dossier::Richiesta prima = letto(opzioni.progetto, opzioni, esito);
     const std::string primo = project::fileCorrente;
-    Muro dopo = muroDelProgetto(opzioni.secondo, opzioni, esito);
+    const dossier::Richiesta dopo = letto(opzioni.secondo, opzioni, esito);
     project::progettiProtetti.corrente = primo;
+    Muro uno = calcolato(prima, esito), altro = calcolato(dopo, esito);
     esito.progetto = opzioni.progetto;
-    return comparison::confronta(std::move(prima), std::move(dopo));
+    return comparison::confronta(std::move(uno), std::move(altro));
 }
 
 // What prevents a comparison of all results is told as a run tells it.
@@ -100,41 +110,59 @@ std::vector<std::string> daConservare(const Opzioni& opzioni) {
 void scriviPdf(const std::shared_ptr<const Confronto>& confronto, const Opzioni& opzioni,
                const PorteComando& porte, Esito& esito) {
     if (opzioni.pdfConfronto.empty()) return;
-    controllaTabella(opzioni.pdfConfronto);
-    controllaNomi({opzioni.pdfConfronto}, daConservare(opzioni));
     const AmbienteDisegno ambiente(true);
     const auto documento =
         comparison::documento(confronto, dossier::data(dossier::fontiDiSistema({})));
-    esito.fileScritti = scrivi(documento, {opzioni.pdfConfronto, {}, {}}, porte.disco).file;
+    scrivi(documento, {opzioni.pdfConfronto, {}, {}}, esito.fileScritti, porte.disco);
+}
+
+// Whether the files are two of result files; what can't be compared so is wrong usage.
+struct Specie {
+    std::optional<results::TestaRisultati> prima, dopo;
+
+    [[nodiscard]] std::string motivo(const Opzioni& opzioni) const {
+        if (prima.has_value() != dopo.has_value())
+            return base::riempito(
+                traduttore("%1 è un file di risultati, %2 un progetto: si confrontano due "
+                           "progetti, o due file di risultati"),
+                {prima ? opzioni.progetto : opzioni.secondo,
+                 prima ? opzioni.secondo : opzioni.progetto});
+        const auto alPosto = dossier::opzioni(alPostoDelProgetto(opzioni));
+        if (!prima || alPosto.empty()) return {};
+        return base::riempito(
+            traduttore("%1 vale per progetti: i numeri di un file di risultati ci sono già"),
+            {alPosto.front()});
+    }
+};
+
+Confronto confronto(const Specie& specie, const Opzioni& opzioni, Esito& esito) {
+    if (!specie.prima) return confrontoDiProgetti(opzioni, esito);
+    return comparison::confronta(comparison::muroDaRisultati(opzioni.progetto, *specie.prima),
+                                 comparison::muroDaRisultati(opzioni.secondo, *specie.dopo));
 }
 
 int esegui(const Opzioni& opzioni, const PorteComando& porte, Esito& esito) {
     esito.inMemoria = true;
     analysis::contenutoNSeg = opzioni.nseg;
     const Interruzioni interruzioni;
-    const auto testaPrima = results::leggiTestaRisultati(opzioni.progetto),
-               testaDopo = results::leggiTestaRisultati(opzioni.secondo);
-    if (testaPrima.has_value() != testaDopo.has_value()) {
-        fallisci(usoErrato,
-                 base::riempito(traduttore("%1 è un file di risultati, %2 un progetto: si "
-                                           "confrontano due progetti, o due file di risultati"),
-                                {testaPrima ? opzioni.progetto : opzioni.secondo,
-                                 testaPrima ? opzioni.secondo : opzioni.progetto}),
-                 esito);
+    const Specie specie{results::leggiTestaRisultati(opzioni.progetto),
+                        results::leggiTestaRisultati(opzioni.secondo)};
+    if (const std::string motivo = specie.motivo(opzioni); !motivo.empty()) {
+        fallisci(usoErrato, motivo, esito);
         return usoErrato;
     }
-    auto confronto = std::make_shared<const Confronto>(
-        testaPrima
-            ? comparison::confronta(comparison::muroDaRisultati(opzioni.progetto, *testaPrima),
-                                    comparison::muroDaRisultati(opzioni.secondo, *testaDopo))
-            : confrontoDiProgetti(opzioni, esito));
+    if (!opzioni.pdfConfronto.empty()) {
+        if (specie.prima) controllaNomi({opzioni.pdfConfronto}, daConservare(opzioni));
+        base::controllaScrivibile(opzioni.pdfConfronto, porte.disco);
+    }
+    const auto fatto = std::make_shared<const Confronto>(confronto(specie, opzioni, esito));
     if (Interruzioni::chiesta() != 0) {
         racconta({traduttore("Calcolo interrotto dall'utente.")}, esito);
         return nonEseguito;
     }
-    esito.confronto = confronto;
-    const int suo = codice(*confronto, esito);
-    scriviPdf(confronto, opzioni, porte, esito);
+    esito.confronto = fatto;
+    const int suo = codice(*fatto, esito);
+    scriviPdf(fatto, opzioni, porte, esito);
     return suo;
 }
 

@@ -4,12 +4,16 @@
 #include <system_error>
 #include <vector>
 
+#include "base/files.hpp"
+#include "base/translated_texts.hpp"
 #include "batch/command_table.hpp"
 #include "batch/options/common_options.hpp"
 #include "batch/run/command_ports.hpp"
+#include "batch/run/console_run.hpp"
 #include "batch/run/document_formats.hpp"
 #include "batch/run/drawing_formats.hpp"
 #include "batch/run/failure.hpp"
+#include "batch/run/interruption.hpp"
 #include "batch/run/outcome.hpp"
 #include "batch/run/output_names.hpp"
 #include "batch/run/selfcheck_outcome.hpp"
@@ -38,14 +42,23 @@ int esegui(const Opzioni& opzioni, const PorteComando& porte, Esito& esito) {
     const std::string cartella = opzioni.casi.empty() ? verification::cartellaCasi() : opzioni.casi;
     auto verifica = std::make_shared<Autoverifica>();
     verifica->gruppi = verification::leggiCasi(cartella, verification::cartellaBasi());
-    if (!opzioni.pdfVerifica.empty()) controllaNome(opzioni.pdfVerifica, verifica->gruppi);
-    verifica->esito = verification::esegui(verifica->gruppi);
+    if (!opzioni.pdfVerifica.empty()) {
+        controllaNome(opzioni.pdfVerifica, verifica->gruppi);
+        base::controllaScrivibile(opzioni.pdfVerifica, porte.disco);
+    }
+    const Interruzioni interruzioni;
+    verifica->esito =
+        verification::esegui(verifica->gruppi, [] { return Interruzioni::chiesta() != 0; });
+    if (Interruzioni::chiesta() != 0) {
+        racconta({base::traduttore("Calcolo interrotto dall'utente.")}, esito);
+        return nonEseguito;
+    }
     esito.autoverifica = verifica;
     if (!opzioni.pdfVerifica.empty()) {
         const AmbienteDisegno ambiente(true);
         const auto documento =
             verification::documento(verifica->esito, dossier::data(dossier::fontiDiSistema({})));
-        esito.fileScritti = scrivi(documento, {opzioni.pdfVerifica, {}, {}}, porte.disco).file;
+        scrivi(documento, {opzioni.pdfVerifica, {}, {}}, esito.fileScritti, porte.disco);
     }
     return verifica->esito.superata() ? fatto : nonEseguito;
 }

@@ -28,11 +28,21 @@ std::vector<std::string> fileCsv(const FormatiTabelle& chiesti) {
     return chiesti.csv.empty() ? std::vector<std::string>() : fileFogli(chiesti.csv);
 }
 
-void controlla(const FormatiTabelle& chiesti) {
-    std::vector<std::string> uscite = fileCsv(chiesti);
-    if (const std::string xlsx = fileXlsx(chiesti); !xlsx.empty()) uscite.push_back(xlsx);
-    for (const std::string& uscita : uscite) controllaTabella(uscita);
+void controlla(const FormatiTabelle& chiesti, const base::Disco& disco) {
+    const std::vector<std::string> tabelle = fileCsv(chiesti);
+    std::vector<std::string> uscite = tabelle, cartella;
+    if (!chiesti.csv.empty()) cartella = {chiesti.csv};
+    if (const std::string xlsx = fileXlsx(chiesti); !xlsx.empty()) {
+        controllaTabella(xlsx, cartella);
+        base::controllaScrivibile(xlsx, disco);
+        uscite.push_back(xlsx);
+    }
+    for (const std::string& tabella : tabelle) controllaTabella(tabella);
     controllaNomi(uscite, {});
+    if (cartella.empty()) return;
+    base::controllaCartella(chiesti.csv);
+    if (!base::esisteNome(chiesti.csv)) return;  // a new folder takes all files
+    for (const std::string& tabella : tabelle) base::controllaScrivibile(tabella, disco);
 }
 
 void scrivi(const FormatiTabelle& chiesti, const workbook::CartellaFogli& cartella,
@@ -42,7 +52,7 @@ void scrivi(const FormatiTabelle& chiesti, const workbook::CartellaFogli& cartel
         esito.fileScritti.push_back(file);
     };
     if (const std::string file = fileXlsx(chiesti); !file.empty())
-        scrivi(file, workbook::xlsx(cartella));
+        scrivi(file, workbook::xlsx(cartella, file));
     const std::vector<std::string> tabelle = fileCsv(chiesti);
     if (!tabelle.empty()) base::creaCartella(chiesti.csv);
     for (std::size_t i = 0; i < tabelle.size(); ++i)
@@ -51,7 +61,7 @@ void scrivi(const FormatiTabelle& chiesti, const workbook::CartellaFogli& cartel
 
 int esegui(const Opzioni& opzioni, const PorteComando& porte, Esito& esito) {
     return conFascicolo(
-        opzioni, opzioni.tabelle.data, esito, [&] { controlla(opzioni.tabelle); },
+        opzioni, esito, [&] { controlla(opzioni.tabelle, porte.disco); }, {},
         [&](const dossier::Fascicolo& fascicolo) {
             scrivi(opzioni.tabelle, workbook::fogli(fascicolo), porte.disco, esito);
         });
@@ -68,13 +78,7 @@ std::vector<RigaOpzione> opzioniTabelle() {
              leggiUscita<&FormatiTabelle::xlsx>, uguali("FILE")},
             {uguali("--csv"), "scrive ogni tabella come file CSV in questa cartella",
              leggiUscita<&FormatiTabelle::csv>, uguali("DIR")},
-            {nomeOpzioneData,
-             "data del documento (altrimenti SOURCE_DATE_EPOCH, poi oggi)",
-             [](Opzioni& o, const std::string& valore) {
-                 o.tabelle.data = valore;
-                 return dossier::dataValida(valore);
-             },
-             {"AAAA-MM-GG", "YYYY-MM-DD"}}};
+            opzioneData()};
 }
 
 }  // namespace

@@ -55,11 +55,16 @@ std::string scriviTesto(const std::string& relazione, const base::Disco& disco) 
 
 std::vector<std::string> relazioniRimaste(const std::string& progetto) {
     const std::string relazione = base::nomeRelazione(base::nomeRisultati(progetto));
+    std::vector<std::string> possibili = {
+        relazione, nomeTesto(relazione), base::nomeDocumento(relazione),
+        base::nomePdfRelazione(progetto),
+        base::nomeUscita(progetto, base::parolaRelazione.inglese, "pdf")};
+    for (const std::string_view parola :
+         {base::parolaAllegato.italiano, base::parolaAllegato.inglese})
+        for (const char* estensione : {"pdf", "doc", "txt"})
+            possibili.push_back(base::nomeUscita(progetto, parola, estensione));
     std::vector<std::string> rimaste;
-    for (const auto& percorso :
-         {relazione, nomeTesto(relazione), base::nomeDocumento(relazione),
-          base::nomePdfRelazione(progetto),
-          base::nomeUscita(progetto, base::parolaRelazione.inglese, "pdf")}) {
+    for (const auto& percorso : possibili) {
         std::error_code errore;
         if (fs::is_regular_file(percorso, errore) && !project::prendeIlPostoDelProgetto(percorso))
             rimaste.push_back(percorso);

@@ -42,8 +42,9 @@ class UscitaRelazione : public analysis::UscitaCalcolo {
 std::string scriviTesto(const std::string& relazione,
                         const base::Disco& disco = base::discoDiSistema());
 
-/// The report, its text, its word-processor and PDF file that lie where a run of this project
-/// writes them, if they are plain files: a failed run must not seem to have made them.
+/// The report, its text, its word-processor and PDF file and the annex in all its forms that lie
+/// where a run of this project writes them, if they are plain files: a failed run must not seem to
+/// have made them.
 [[nodiscard]] std::vector<std::string> relazioniRimaste(const std::string& progetto);
 
 /// True if the first point of the path, which ends the name of the report, is not that of the

@@ -18,6 +18,7 @@ struct Identita {
     std::string data;      ///< "2026-11-22", of the run or as it was set
     std::vector<std::string> opzioni;  ///< that override the project, as typed: "--nseg 200"
     std::string comando;               ///< that makes the document again
+    bool nonSalvato = false;           ///< no file, or an older one, lies on the disk
 };
 
 /// SHA-256 of the file that saving this project would write, 64 lower-case digits. `sha256sum

@@ -14,6 +14,10 @@ constexpr std::string_view bianchi = " \t\r";
 
 }  // namespace
 
+std::string atteso(const std::string& cosa) {
+    return base::riempito(base::traduttore("atteso: %1"), {cosa});
+}
+
 std::string_view senzaBianchi(std::string_view testo) {
     const auto inizio = testo.find_first_not_of(bianchi);
     if (inizio == std::string_view::npos) return {};
@@ -49,7 +53,8 @@ std::optional<std::string_view> RigheCaso::prossima() {
 }
 
 void RigheCaso::rifiuta(std::string_view cosa, std::initializer_list<std::string> valori) const {
-    throw base::ErroreFile(percorso_, numero_, base::riempito(base::traduttore(cosa), valori));
+    throw base::ErroreFile(percorso_, numero_,
+                           atteso(base::riempito(base::traduttore(cosa), valori)));
 }
 
 }  // namespace korven::verification

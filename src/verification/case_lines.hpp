@@ -21,7 +21,7 @@ class RigheCaso {
     [[nodiscard]] std::string_view resto() const { return resto_; }
     [[nodiscard]] int numero() const { return numero_; }
 
-    /// @param cosa    Italian key of what is wrong, %1 for the first of the values
+    /// @param cosa    Italian key of what is expected in this line, %1 for the first of the values
     /// @throws base::ErroreFile always
     [[noreturn]] void rifiuta(std::string_view cosa,
                               std::initializer_list<std::string> valori = {}) const;
@@ -31,6 +31,10 @@ class RigheCaso {
     std::string_view resto_;
     int numero_ = 0;
 };
+
+/// What an error says of something that should be there: "expected: a title".
+/// @param cosa  translated
+[[nodiscard]] std::string atteso(const std::string& cosa);
 
 /// Without the blanks at its ends.
 [[nodiscard]] std::string_view senzaBianchi(std::string_view testo);

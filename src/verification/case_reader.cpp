@@ -51,6 +51,10 @@ void prendiTesta(const RigheCaso& righe, std::string_view riga, Caso& caso) {
     throw base::ErroreFile(percorso, 0, base::traduttore(cosa));
 }
 
+[[noreturn]] void aspetta(const std::string& percorso, std::string_view cosa) {
+    throw base::ErroreFile(percorso, 0, atteso(base::traduttore(cosa)));
+}
+
 bool chiede(const Caso& caso, Grandezza::Valore Grandezza::*metodo) {
     return std::any_of(caso.attese.begin(), caso.attese.end(),
                        [metodo](const Attesa& a) { return a.grandezza->*metodo != nullptr; });
@@ -99,9 +103,9 @@ Caso leggiCaso(const std::string& percorso, std::string_view contenuto, const st
                         capo == capoVariante ? *caso.variante : caso.parete);
         }
     }
-    if (caso.titolo.empty()) manca(percorso, "un titolo");
-    if (caso.fonte.empty()) manca(percorso, "una fonte: da dove vengono i valori attesi");
-    if (caso.attese.empty()) manca(percorso, "una grandezza attesa");
+    if (caso.titolo.empty()) aspetta(percorso, "un titolo");
+    if (caso.fonte.empty()) aspetta(percorso, "una fonte: da dove vengono i valori attesi");
+    if (caso.attese.empty()) aspetta(percorso, "una grandezza attesa");
     completa(percorso, caso, caso.parete);
     if (caso.variante) completa(percorso, caso, *caso.variante);
     return caso;
@@ -130,7 +134,7 @@ Gruppo leggiGruppo(const std::string& percorso, std::string_view contenuto) {
             righe.rifiuta("ordine, titolo, descrizione, figura o curva, non «%1»",
                           {std::string(nome)});
     }
-    if (gruppo.titolo.empty()) manca(percorso, "un titolo");
+    if (gruppo.titolo.empty()) aspetta(percorso, "un titolo");
     return gruppo;
 }
 

@@ -88,12 +88,15 @@ EsitoCaso esegui(const Caso& caso) {
     return esito;
 }
 
-EsitoVerifica esegui(const std::vector<Gruppo>& gruppi) {
+EsitoVerifica esegui(const std::vector<Gruppo>& gruppi, const std::function<bool()>& fermata) {
     EsitoVerifica esito;
     for (const Gruppo& gruppo : gruppi) {
         EsitoGruppo& suo = esito.gruppi.emplace_back();
         suo.gruppo = &gruppo;
-        for (const Caso& caso : gruppo.casi) suo.casi.push_back(esegui(caso));
+        for (const Caso& caso : gruppo.casi) {
+            if (fermata && fermata()) return esito;
+            suo.casi.push_back(esegui(caso));
+        }
     }
     return esito;
 }

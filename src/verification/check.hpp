@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -49,7 +50,10 @@ struct EsitoVerifica {
 /// Computes a case. @param caso  must outlive what is given back
 [[nodiscard]] EsitoCaso esegui(const Caso& caso);
 
-/// All groups. @param gruppi  must outlive what is given back
-[[nodiscard]] EsitoVerifica esegui(const std::vector<Gruppo>& gruppi);
+/// All groups.
+/// @param gruppi   must outlive what is given back
+/// @param fermata  asked before each case: true leaves out this one and what follows; empty: never
+[[nodiscard]] EsitoVerifica esegui(const std::vector<Gruppo>& gruppi,
+                                   const std::function<bool()>& fermata = {});
 
 }  // namespace korven::verification

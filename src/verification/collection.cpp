@@ -8,6 +8,7 @@
 #include "base/files.hpp"
 #include "base/folders/program_folder.hpp"
 #include "base/translated_texts.hpp"
+#include "verification/case_lines.hpp"
 #include "verification/case_reader.hpp"
 
 namespace korven::verification {
@@ -55,12 +56,14 @@ std::string cartellaBasi() {
 std::vector<Gruppo> leggiCasi(const std::string& cartella, const std::string& basi) {
     std::error_code errore;
     if (!fs::is_directory(cartella, errore))
-        throw base::ErroreFile(cartella, 0, base::traduttore("una cartella di casi di verifica"));
+        throw base::ErroreFile(cartella, 0,
+                               atteso(base::traduttore("una cartella di casi di verifica")));
     std::vector<Gruppo> gruppi = {leggi(cartella, basi)};
     for (const auto& interna : contenuto(cartella, true)) gruppi.push_back(leggi(interna, basi));
     std::erase_if(gruppi, [](const Gruppo& g) { return g.casi.empty(); });
     if (gruppi.empty())
-        throw base::ErroreFile(cartella, 0, base::traduttore("una cartella di casi di verifica"));
+        throw base::ErroreFile(cartella, 0,
+                               atteso(base::traduttore("una cartella di casi di verifica")));
     std::stable_sort(gruppi.begin(), gruppi.end(), [](const Gruppo& a, const Gruppo& b) {
         return std::tie(a.ordine, a.nome) < std::tie(b.ordine, b.nome);
     });

@@ -39,8 +39,10 @@ constexpr std::uint8_t fogliA4 = 9;  // the format's number of the paper
 // never finished.
 class FileInMemoria {
  public:
-    FileInMemoria() : file_(memfd_create("korven-xlsx", MFD_CLOEXEC)) {
-        if (file_ < 0) base::nonScritto("xlsx", errno);
+    /// @param percorso  of the file that it becomes, for errors to name
+    explicit FileInMemoria(const std::string& percorso)
+        : percorso_(percorso), file_(memfd_create("korven-xlsx", MFD_CLOEXEC)) {
+        if (file_ < 0) base::nonScritto(percorso_, errno);
     }
     FileInMemoria(const FileInMemoria&) = delete;
     FileInMemoria& operator=(const FileInMemoria&) = delete;
@@ -50,11 +52,12 @@ class FileInMemoria {
     [[nodiscard]] std::string byte() const {
         std::string testo(static_cast<std::size_t>(lseek(file_, 0, SEEK_END)), '\0');
         if (pread(file_, testo.data(), testo.size(), 0) != static_cast<ssize_t>(testo.size()))
-            base::nonScritto("xlsx", EIO);
+            base::nonScritto(percorso_, EIO);
         return testo;
     }
 
  private:
+    std::string percorso_;
     int file_;
 };
 
@@ -224,10 +227,10 @@ class Libro {
 
 }  // namespace
 
-std::string xlsx(const CartellaFogli& cartella) {
-    const FileInMemoria file;
+std::string xlsx(const CartellaFogli& cartella, const std::string& percorso) {
+    const FileInMemoria file(percorso);
     if (Libro(cartella, file.nome()).scrivi() != LXW_NO_ERROR)
-        base::nonScritto("xlsx", errno != 0 ? errno : EIO);
+        base::nonScritto(percorso, errno != 0 ? errno : EIO);
     return file.byte();
 }
 

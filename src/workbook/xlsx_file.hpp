@@ -15,7 +15,8 @@ inline constexpr std::size_t massimoTestoCella = 32767;
 /// the tables show; nothing is a formula. A cell that has nothing to show is empty, and a remark on
 /// it says why, where that is known, or on the first of several below one another. The charts are
 /// on the last sheet. Equal workbooks give equal bytes, whenever they are written.
+/// @param percorso  of the file that it becomes, for errors to name
 /// @throws base::ErroreScrittura if the system has no room for the file in the making
-[[nodiscard]] std::string xlsx(const CartellaFogli& cartella);
+[[nodiscard]] std::string xlsx(const CartellaFogli& cartella, const std::string& percorso = "XLSX");
 
 }  // namespace korven::workbook

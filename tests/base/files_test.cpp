@@ -322,5 +322,52 @@ TEST(CreaCartella, TellsAFolderThatCannotBeMade) {
     }
 }
 
+TEST(CreaCartella, SaysWhyItCannot) {
+    const CartellaProvvisoria cartella;
+    metti(cartella / "occupato", "file");
+    try {
+        creaCartella(cartella / "occupato");
+        ADD_FAILURE();
+    } catch (const ErroreFile& errore) {
+        EXPECT_TRUE(errore.atteso().ends_with("(una parte del percorso non è una cartella)"))
+            << errore.atteso();
+    }
+}
+
+TEST(ControllaCartella, RefusesWhatCreaCartellaCouldNotMakeAndMakesNothing) {
+    const CartellaProvvisoria cartella;
+    metti(cartella / "occupato", "file");
+    EXPECT_THROW(controllaCartella(cartella / "occupato"), ErroreFile);
+    EXPECT_THROW(controllaCartella(cartella / "occupato/sotto"), ErroreFile);
+    EXPECT_NO_THROW(controllaCartella(cartella.percorso()));
+    EXPECT_NO_THROW(controllaCartella(cartella / "nuova/e/profonda/"));
+    EXPECT_FALSE(std::filesystem::exists(cartella / "nuova"));
+}
+
+TEST(ControllaScrivibile, RefusesWhatScriviFileWouldAndLeavesAllAsItWas) {
+    const CartellaProvvisoria cartella;
+    metti(cartella / "c'è", "uno");
+    for (const std::string& nome : {cartella.percorso(), cartella / "manca/a"}) {
+        EXPECT_THROW(controllaScrivibile(nome), ErroreFile);
+        EXPECT_THROW(scriviFile(nome, "x"), ErroreFile);
+    }
+    EXPECT_NO_THROW(controllaScrivibile(cartella / "c'è"));
+    EXPECT_NO_THROW(controllaScrivibile(cartella / "nuovo"));
+    EXPECT_EQ(contenuto(cartella / "c'è"), "uno");
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(cartella.percorso()), {}), 1);
+}
+
+TEST(ScriviFile, SaysOfAFolderThatItIsOneByWhicheverName) {
+    const CartellaProvvisoria cartella;
+    for (const std::string& nome : {cartella.percorso(), cartella / ".", cartella / ""}) {
+        try {
+            scriviFile(nome, "x");
+            ADD_FAILURE() << nome;
+        } catch (const ErroreFile& errore) {
+            EXPECT_TRUE(errore.atteso().ends_with("(è una cartella)")) << errore.atteso();
+        }
+    }
+}
+
 }  // namespace
 }  // namespace korven::base

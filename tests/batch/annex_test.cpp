@@ -4,6 +4,7 @@
 #include <nlohmann/json.hpp>
 
 #include "batch/batch_bench.hpp"
+#include "support/failing_disk.hpp"
 #include "support/sample_projects.hpp"
 
 namespace korven::batch {
@@ -95,6 +96,87 @@ TEST_F(AllegatoDaFuori, RefusesADateThatIsNoneAndNamesOfOtherFiles) {
     EXPECT_EQ(comando({"--pdf", progetto}).codice, 3);
     EXPECT_EQ(comando({"--pdf", cartella / "a", "--txt", cartella / "a"}).codice, 2);
     EXPECT_TRUE(prima == test::contenuto(progetto));
+}
+
+TEST_F(AllegatoDaFuori, FindsAPlaceThatCannotBeWrittenBeforeItComputes) {
+    esempio("palancola_mensola");
+    const std::string prima = nomi(), buono = cartella / "a.pdf";
+    for (const std::string& doc : {cartella / "manca/a.doc", cartella.percorso()}) {
+        const auto esito = comando({"--pdf", buono, "--doc", doc, "--json"});
+        EXPECT_EQ(esito.codice, 3) << esito.errori;
+        const Json j = Json::parse(esito.uscita);
+        EXPECT_TRUE(j["allegato"].is_null());
+        EXPECT_TRUE(j["file"]["scritti"].empty());
+    }
+    EXPECT_EQ(nomi(), prima);
+}
+
+TEST_F(AllegatoDaFuori, NamesWhatItHasWrittenBeforeTheDiskWasFull) {
+    const std::string pdf = cartella / "a.pdf", txt = cartella / "a.txt";
+    const std::vector<std::string> opzioni = {"--pdf",  pdf,          "--txt", txt,
+                                              "--data", "2026-11-22", "--json"};
+    ASSERT_EQ(esegui("allegato", opzioni).codice, 0);
+    const auto byte = fs::file_size(pdf);
+    fs::remove(pdf);
+    fs::remove(txt);
+    const auto esito = esegui("allegato", test::DiscoPieno(byte + 100), opzioni);
+    EXPECT_EQ(esito.codice, 3);
+    EXPECT_EQ(Json::parse(esito.uscita)["file"]["scritti"], Json({pdf}));
+    EXPECT_TRUE(fs::exists(pdf) && !fs::exists(txt));
+}
+
+class AllegatoDiTutto : public AllegatoDaFuori {
+ protected:
+    [[nodiscard]] test::EsitoProgramma tutto(std::vector<std::string> altri = {}) const {
+        altri.insert(altri.begin(), {"tutto", progetto, "--uscita", cartella / "o", "--formati",
+                                     "dxf", "--max-iterazioni", "200"});
+        return console(altri);
+    }
+    [[nodiscard]] std::string scritto(const std::string& fine) const {
+        return cartella / ("o/muro-allegato." + fine);
+    }
+};
+
+TEST_F(AllegatoDiTutto, IsWrittenWhereTheStagedRunFindsNoRestToo) {
+    for (const char* nome : {"oscilla_1", "singolare_1", "meccanismo"}) {
+        SCOPED_TRACE(nome);
+        fs::remove_all(cartella / "o");
+        prendi(std::string(KORVEN_WALLS) + "/" + nome + ".kvd");
+        const auto esito = tutto({"--json"});
+        EXPECT_EQ(esito.codice, 1);
+        const Json j = Json::parse(esito.uscita);
+        EXPECT_EQ(j["file"]["scritti"], Json({scritto("pdf"), scritto("doc"), scritto("txt")}));
+        EXPECT_TRUE(test::contenuto(scritto("pdf")).starts_with("%PDF-"));
+        EXPECT_TRUE(
+            dice(test::contenuto(scritto("txt")),
+                 std::string("Equilibrio di tutte le fasi\t") +
+                     (std::string(nome) == "meccanismo" ? "non verificato" : "verificato")));
+    }
+}
+
+TEST_F(AllegatoDiTutto, IsThatOfTheCommandThatItPrints) {
+    prendi(std::string(KORVEN_WALLS) + "/oscilla_1.kvd");
+    ASSERT_EQ(tutto({"--data", "2026-11-22", "--righe", "11"}).codice, 1);
+    const std::string pdf = test::contenuto(scritto("pdf")), txt = test::contenuto(scritto("txt"));
+    EXPECT_TRUE(dice(txt, "--righe 11"));
+    ASSERT_EQ(comando({"--pdf", scritto("pdf"), "--doc", scritto("doc"), "--txt", scritto("txt"),
+                       "--data", "2026-11-22", "--righe", "11"})
+                  .codice,
+              0);
+    EXPECT_TRUE(pdf == test::contenuto(scritto("pdf")));
+    EXPECT_TRUE(txt == test::contenuto(scritto("txt")));
+}
+
+TEST_F(AllegatoDiTutto, OfAnEarlierRunIsNamedWhenThisOneIsRefused) {
+    ASSERT_EQ(tutto().codice, 0);
+    auto dati = test::progettoSemplice();
+    dati.rigidezzaEJ = 0;
+    scrivi(dati);
+    const auto esito = tutto();
+    EXPECT_EQ(esito.codice, 1);
+    for (const char* fine : {"pdf", "doc", "txt"})
+        EXPECT_TRUE(dice(esito.errori, "non aggiornato da questo: " + scritto(fine)))
+            << esito.errori;
 }
 
 }  // namespace

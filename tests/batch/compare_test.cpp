@@ -106,6 +106,27 @@ TEST_F(Confronta, TakesTwoResultFiles) {
     EXPECT_TRUE(dice(misto.errori, "è un file di risultati")) << misto.errori;
 }
 
+TEST_F(Confronta, RefusesOptionsThatResultFilesCannotFollow) {
+    ASSERT_EQ(esegui("calcola").codice, 0);
+    const std::string risultati = cartella / "muro.OUT";
+    const std::vector<std::string> opzioni[] = {
+        {"--nseg", "20"}, {"--metodo-spinte", "bell"}, {"--ej", "ricalcola"}};
+    for (const auto& opzione : opzioni) {
+        const auto esito = console({"confronta", risultati, risultati, opzione[0], opzione[1]});
+        EXPECT_EQ(esito.codice, 2) << opzione[0];
+        EXPECT_TRUE(dice(esito.errori, opzione[0] + ' ' + opzione[1] + " vale per progetti"))
+            << esito.errori;
+    }
+}
+
+TEST_F(Confronta, FindsAPlaceForItsPagesThatCannotBeWrittenBeforeItComputes) {
+    scriviDopo(progettoSemplice());
+    const auto esito = confronta({"--pdf", cartella.percorso(), "--json"});
+    EXPECT_EQ(esito.codice, 3);
+    EXPECT_TRUE(Json::parse(esito.uscita)["confronta"].is_null());
+    EXPECT_TRUE(dice(esito.errori, "(è una cartella)")) << esito.errori;
+}
+
 TEST_F(Confronta, KeepsTheProjectsOfTwoResultFilesFromItsPages) {
     ASSERT_EQ(esegui("calcola").codice, 0);
     const std::string risultati = cartella / "muro.OUT";

@@ -105,5 +105,33 @@ TEST_F(Autoverifica, TellsTheLineOfABrokenCase) {
     EXPECT_EQ(console({"autoverifica", "--casi", cartella / "nessuna"}).codice, 3);
 }
 
+TEST_F(Autoverifica, FindsAPlaceForItsDocumentThatCannotBeWrittenBeforeItComputes) {
+    const auto esito = console(
+        {"autoverifica", "--casi", casi("144.0"), "--pdf", cartella / "manca/v.pdf", "--json"});
+    EXPECT_EQ(esito.codice, 3);
+    EXPECT_TRUE(Json::parse(esito.uscita)["autoverifica"].is_null());
+}
+
+TEST_F(Autoverifica, SaysThatAFolderOfCasesWasExpected) {
+    const auto esito = console({"autoverifica", "--casi", cartella / "manca"});
+    EXPECT_EQ(esito.codice, 3);
+    EXPECT_TRUE(test::dice(esito.errori, "manca: atteso: una cartella di casi di verifica"))
+        << esito.errori;
+}
+
+TEST_F(Autoverifica, IsStoppedByAnInterruptAndWritesNoDocument) {
+    const std::string dove = casi("144.0"), pdf = cartella / "v.pdf";
+    const std::string testo = test::contenuto(dove + "/mensola.txt");
+    for (int i = 0; i < 2000; ++i) test::metti(dove + "/c" + std::to_string(i) + ".txt", testo);
+    test::ProgrammaInCorso corsa(KORVEN_CONSOLE, {"autoverifica", "--casi", dove, "--pdf", pdf});
+    ASSERT_TRUE(corsa.aspettaSegnale(SIGINT));
+    corsa.segnale(SIGINT);
+    const auto esito = corsa.attendi();
+    EXPECT_EQ(esito.codice, 1);
+    EXPECT_EQ(esito.errori, "Calcolo interrotto dall'utente.\n");
+    EXPECT_TRUE(esito.uscita.empty()) << esito.uscita;
+    EXPECT_FALSE(std::filesystem::exists(pdf));
+}
+
 }  // namespace
 }  // namespace korven::batch

@@ -1,5 +1,7 @@
 // The command `tabelle` from outside.
 
+#include <nlohmann/json.hpp>
+
 #include "base/code_page.hpp"
 #include "base/files.hpp"
 #include "batch/batch_bench.hpp"
@@ -12,6 +14,7 @@ namespace korven::batch {
 namespace {
 
 namespace fs = std::filesystem;
+using Json = nlohmann::json;
 using test::dice;
 using test::leggiXlsx;
 
@@ -104,6 +107,7 @@ TEST_F(Tabelle, RefuseToReplaceTheProjectItsResultsOrOneAnother) {
     rifiuta({"--xlsx", cartella / "muro.OUT"}, 3);
     rifiuta({"--xlsx", cartella / "muro.TAB"}, 2);
     rifiuta({"--xlsx", cartella / "muro-nodi.csv", "--csv", cartella.percorso()}, 2);
+    rifiuta({"--xlsx", cartella / "a.xlsx", "--csv", cartella / "a.xlsx"}, 2);
     fs::create_hard_link(progetto, cartella / "muro-fasi.csv");
     rifiuta({"--csv", cartella.percorso()}, 3);
     EXPECT_EQ(base::leggiFile(progetto), prima);
@@ -115,6 +119,23 @@ TEST_F(Tabelle, TellOfAPlaceThatCannotBeWritten) {
     EXPECT_EQ(comando({"--csv", progetto}).codice, 3);
     EXPECT_EQ(comando({"--xlsx", ""}).codice, 2);
     EXPECT_EQ(nomi(), "muro.kvd ");
+}
+
+TEST_F(Tabelle, FindAPlaceThatCannotBeWrittenBeforeTheyCompute) {
+    const std::string xlsx = cartella / "t.xlsx";
+    fs::create_directories(cartella / "d/muro-nodi.csv");
+    const auto rifiuta = [&](std::vector<std::string> opzioni, std::string_view perche) {
+        opzioni.emplace_back("--json");
+        const auto esito = comando(opzioni);
+        EXPECT_EQ(esito.codice, 3) << opzioni[1];
+        EXPECT_TRUE(dice(esito.errori, perche)) << esito.errori;
+        EXPECT_TRUE(Json::parse(esito.uscita)["tabelle"].is_null()) << esito.uscita;
+        EXPECT_EQ(nomi(), "muro.kvd ");
+    };
+    rifiuta({"--xlsx", xlsx, "--csv", progetto},
+            "impossibile creare la cartella (una parte del percorso non è una cartella)");
+    rifiuta({"--xlsx", xlsx, "--csv", cartella / "d"}, "muro-nodi.csv: impossibile scrivere");
+    rifiuta({"--xlsx", cartella.percorso()}, "(è una cartella)");
 }
 
 TEST_F(Tabelle, OfAWallThatDoesNotStandSayWhyAndEndWithOne) {

@@ -121,6 +121,12 @@ TEST(RelazioniRimaste, AreThoseThatANewReportWouldReplace) {
         test::metti(pdf.back(), "x");
         EXPECT_EQ(relazioniRimaste(cartella / "pdf.kvd"), pdf);
     }
+    std::vector<std::string> allegati;
+    for (const char* nome : {"a-allegato.pdf", "a-allegato.doc", "a-annex.txt"}) {
+        allegati.push_back(cartella / nome);
+        test::metti(allegati.back(), "x");
+        EXPECT_EQ(relazioniRimaste(cartella / "a.kvd"), allegati);
+    }
 }
 
 TEST(RelazioneAltrove, IsOneWhosePathIsCutBeforeTheExtension) {

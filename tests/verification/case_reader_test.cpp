@@ -19,12 +19,14 @@ Caso conAttesi(const std::string& attesi) {
     return letto(std::string(testa) + parete + "[attesi]\n" + attesi + '\n');
 }
 
-// Line of the error and what was expected there; line -1 without an error.
+// Line of the error and what was expected there, behind that word; line -1 without an error.
 std::pair<long, std::string> errore(const std::string& testo) {
+    constexpr std::string_view capo = "atteso: ";
     try {
         std::ignore = letto(testo);
     } catch (const base::ErroreFile& e) {
-        return {e.riga(), e.atteso()};
+        const std::string perche = e.atteso();
+        return {e.riga(), perche.starts_with(capo) ? perche.substr(capo.size()) : perche};
     }
     return {-1, ""};
 }
@@ -133,6 +135,19 @@ TEST(LeggiCaso, RefusesADepthThatIsNoNodeOfTheVariant) {
                      "spostamento z 0.5 = variante entro 1 %\n")
                   .first,
               -1);
+}
+
+TEST(LeggiCaso, SaysInItsErrorsThatSomethingWasExpectedThere) {
+    const auto frase = [](const std::string& testo) -> std::string {
+        try {
+            std::ignore = letto(testo);
+        } catch (const base::ErroreFile& e) {
+            return e.what();
+        }
+        return {};
+    };
+    EXPECT_EQ(frase("titolo\n"), "/x/prova.txt, riga 1: atteso: un nome, «:» e un valore");
+    EXPECT_EQ(frase("fonte: F\n"), "/x/prova.txt: atteso: un titolo");
 }
 
 TEST(LeggiCaso, RefusesFieldsThatItDoesNotKnow) {

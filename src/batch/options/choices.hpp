@@ -31,6 +31,7 @@ struct Opzioni {
     FormatiDisegno disegno;            ///< files of a drawing
     FormatiAllegato allegato;          ///< of `allegato`
     FormatiTabelle tabelle;            ///< of `tabelle`
+    std::string data;                  ///< of a document, "2026-11-22"; empty: that of the run
     std::string csv;                   ///< file of a table; empty: none
     std::string secondo;               ///< `confronta`: the file that the first is compared with
     std::string pdfConfronto;          ///< `confronta`: the PDF file; empty: none

@@ -1,7 +1,5 @@
 #include "batch/options/common_options.hpp"
 
-#include <algorithm>
-#include <cassert>
 #include <filesystem>
 #include <iterator>
 #include <limits>
@@ -10,22 +8,14 @@
 #include "base/number_text.hpp"
 #include "base/process/program_questions.hpp"
 #include "device/drawing_files.hpp"
-#include "project/codes.hpp"
+#include "dossier/identity.hpp"
+#include "project/method_names.hpp"
 
 namespace korven::batch {
 
 namespace {
 
 using base::uguali;
-
-struct Metodo {
-    base::Gemelli nome;
-    project::MetodoSpinte codice;
-};
-
-constexpr Metodo metodi[] = {{uguali("bell"), project::MetodoSpinte::bell},
-                             {uguali("coulomb"), project::MetodoSpinte::coulomb},
-                             {uguali("rankine"), project::MetodoSpinte::rankine}};
 
 constexpr base::Gemelli cartella = uguali("DIR"), file = uguali("FILE"), numero = uguali("N");
 
@@ -103,9 +93,9 @@ RigaOpzione opzioneMetodo() {
     RigaOpzione riga = {nomeOpzioneMetodo,
                         "metodo delle spinte (un progetto si riapre sempre con Coulomb)",
                         [](Opzioni& o, std::size_t quale) {
-                            o.metodoSpinte = project::valore(metodi[quale].codice);
+                            o.metodoSpinte = project::valore(project::nomiMetodi[quale].codice);
                         }};
-    for (const auto& metodo : metodi) riga.valori.push_back(metodo.nome);
+    for (const auto& metodo : project::nomiMetodi) riga.valori.push_back(uguali(metodo.nome));
     return riga;
 }
 
@@ -132,11 +122,11 @@ RigaOpzione opzioneSevero() {
 }
 
 RigaOpzione opzioneEJ() {
-    return {uguali("--ej"),
+    return {base::nomeOpzioneEJ,
             "rigidezza EJ scritta nel progetto o ricalcolata dalla sezione",
             [](Opzioni& o, std::size_t quale) { o.ricalcolaEJ = quale == 1; },
             {},
-            {{"mantieni", "keep"}, {"ricalcola", "recalculate"}}};
+            {base::rigidezzaMantenuta, base::rigidezzaRicalcolata}};
 }
 
 RigaOpzione opzioneCsv() {
@@ -146,14 +136,6 @@ RigaOpzione opzioneCsv() {
                 return percorsoAmmesso(valore);
             },
             file};
-}
-
-std::string nomeMetodo(double codice) {
-    const auto* metodo =
-        std::find_if(std::begin(metodi), std::end(metodi),
-                     [codice](const Metodo& m) { return project::valore(m.codice) == codice; });
-    assert(metodo != std::end(metodi));
-    return metodo->nome.mostrato();
 }
 
 std::vector<RigaOpzione> opzioniDisegno() {
@@ -168,6 +150,26 @@ std::vector<RigaOpzione> opzioniDisegno() {
          file},
         opzioneRisoluzione(),
     };
+}
+
+RigaOpzione opzioneRighe() {
+    return {nomeOpzioneRighe,
+            "righe della tabella dei nodi di ogni fase, oltre agli estremi e ai picchi",
+            Conta{2, std::numeric_limits<int>::max(),
+                  [](Opzioni& o) -> int& { return o.allegato.righe; }},
+            numero,
+            {},
+            std::to_string(FormatiAllegato().righe)};
+}
+
+RigaOpzione opzioneData() {
+    return {nomeOpzioneData,
+            "data del documento (altrimenti SOURCE_DATE_EPOCH, poi oggi)",
+            [](Opzioni& o, const std::string& valore) {
+                o.data = valore;
+                return dossier::dataValida(valore);
+            },
+            {"AAAA-MM-GG", "YYYY-MM-DD"}};
 }
 
 RigaOpzione opzioneRisoluzione() {

@@ -2,28 +2,22 @@
 
 #include <vector>
 
+#include "base/option_names.hpp"
 #include "batch/options/option_row.hpp"
 
 // The options that several commands take, in groups. The order is that of the help.
 
 namespace korven::batch {
 
-/// Names of the two options that are looked up before the others can be read.
-inline constexpr base::Gemelli nomeOpzioneCartella{"--cartella", "--folder"};
-inline constexpr base::Gemelli nomeOpzioneLingua{"--lingua", "--language"};
-
-/// Names that messages say too: the command that lists remarks, with its options.
-inline constexpr base::Gemelli nomeComandoVerifica{"verifica", "check"};
-inline constexpr base::Gemelli nomeOpzioneCalcola{"--calcola", "--calculate"};
-inline constexpr base::Gemelli nomeOpzioneMetodo{"--metodo-spinte", "--pressures"};
-inline constexpr base::Gemelli nomeOpzioneNseg{"--nseg", "--segments"};
-inline constexpr base::Gemelli nomeOpzioneRighe{"--righe", "--rows"};
-inline constexpr base::Gemelli nomeOpzioneData{"--data", "--date"};
-inline constexpr base::Gemelli nomeOpzioneSevero{"--severo", "--strict"};
-
-/// The name of a method for the soil pressures, as the option takes it.
-/// @pre the code is one of theirs: asserted
-[[nodiscard]] std::string nomeMetodo(double codice);
+using base::nomeComandoVerifica;
+using base::nomeOpzioneCalcola;
+using base::nomeOpzioneCartella;
+using base::nomeOpzioneData;
+using base::nomeOpzioneLingua;
+using base::nomeOpzioneMetodo;
+using base::nomeOpzioneNseg;
+using base::nomeOpzioneRighe;
+using base::nomeOpzioneSevero;
 
 /// Every command.
 [[nodiscard]] std::vector<RigaOpzione> opzioniComuni();
@@ -53,6 +47,12 @@ inline constexpr base::Gemelli nomeOpzioneSevero{"--severo", "--strict"};
 
 /// A table for other programs.
 [[nodiscard]] RigaOpzione opzioneCsv();
+
+/// Commands that write an annex: the rows of its tables of nodes.
+[[nodiscard]] RigaOpzione opzioneRighe();
+
+/// Commands that write a document with a date.
+[[nodiscard]] RigaOpzione opzioneData();
 
 /// The resolution of PNG files.
 [[nodiscard]] RigaOpzione opzioneRisoluzione();

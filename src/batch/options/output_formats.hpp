@@ -35,8 +35,7 @@ struct FormatiDisegno {
 /// What an annex leaves; empty names are not written.
 struct FormatiAllegato {
     std::string pdf, documento, testo;
-    int righe = 51;    ///< of a stage's table of nodes, at most
-    std::string data;  ///< "2026-11-22"; empty: that of the run
+    int righe = 51;  ///< of a stage's table of nodes; its ends and peaks are always there
 
     [[nodiscard]] bool nessuno() const { return file().empty(); }
     /// All that will be written, in this order.
@@ -47,7 +46,6 @@ struct FormatiAllegato {
 struct FormatiTabelle {
     std::string xlsx;  ///< file of the workbook
     std::string csv;   ///< folder of a file for each sheet
-    std::string data;  ///< "2026-11-22"; empty: that of the run
 };
 
 }  // namespace korven::batch

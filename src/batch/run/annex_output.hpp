@@ -1,9 +1,8 @@
 #pragma once
 
-#include <string>
-
 #include "base/disk.hpp"
 #include "batch/options/choices.hpp"
+#include "batch/run/computed_dossier.hpp"
 #include "batch/run/outcome.hpp"
 #include "dossier/dossier.hpp"
 
@@ -14,20 +13,11 @@ namespace korven::batch {
 
 /// The command that makes an annex again, byte by byte, as a shell takes it.
 /// @param formati  with the names of the files
-/// @param data     of the document
-[[nodiscard]] std::string comandoAllegato(const Opzioni& opzioni, const FormatiAllegato& formati,
-                                          int nSeg, const std::string& data);
+[[nodiscard]] ComandoDocumento comandoAllegato(const Opzioni& opzioni,
+                                               const FormatiAllegato& formati);
 
-/// Computes all that the annex tells.
-/// @param usati    what the run is made with
-/// @param formati  with the names of the files
-/// @param esito    of a project that was read and reviewed
-[[nodiscard]] dossier::Fascicolo fascicoloAllegato(const Opzioni& opzioni,
-                                                   const project::DatiProgetto& usati,
-                                                   const FormatiAllegato& formati,
-                                                   const Esito& esito);
-
-/// Writes the annex and names its files in the outcome.
+/// Writes the annex and names its files in the outcome, those too that were written before one
+/// failed.
 /// @pre an AmbienteDisegno lives, a painting one for a PDF file: asserted
 /// @throws base::ErroreFile with the system's reason
 void scriviAllegato(dossier::Fascicolo fascicolo, const FormatiAllegato& formati,

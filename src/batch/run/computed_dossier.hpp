@@ -2,26 +2,37 @@
 
 #include <functional>
 #include <string>
-#include <vector>
 
 #include "batch/options/choices.hpp"
 #include "batch/run/outcome.hpp"
+#include "dossier/annex_command.hpp"
 #include "dossier/dossier.hpp"
 
 namespace korven::batch {
 
-/// The options of the command line that override something of the project, as they are typed in the
-/// language in use: "--pressures rankine".
-[[nodiscard]] std::vector<std::string> opzioniSulProgetto(const Opzioni& opzioni);
+/// What the command line puts in the place of the project's own.
+[[nodiscard]] dossier::AlPostoDelProgetto alPostoDelProgetto(const Opzioni& opzioni);
+
+/// The command that makes a document again, of the segments of the run and of the date that it has.
+using ComandoDocumento = std::function<std::string(int nSeg, const std::string& data)>;
+
+/// Computes all that is told of a project that was read and reviewed. An interrupt stops what can
+/// be stopped of it: ask `Interruzioni` afterwards.
+/// @param usati    what the run is made with
+/// @param comando  empty: the document does not tell how it is made
+[[nodiscard]] dossier::Fascicolo fascicoloCalcolato(const Opzioni& opzioni,
+                                                    const project::DatiProgetto& usati, int nSeg,
+                                                    const ComandoDocumento& comando,
+                                                    const Esito& esito);
 
 /// For a command that writes down all that is told of a computed project: computes that between the
 /// remarks, as `calcolaInMemoria` does, and hands it over to be written. A wall that does not stand
 /// is written too; then the reason is told and the exit code is 1.
-/// @param data       of the document, as it was asked for; empty: it was not
 /// @param controlla  refuses outputs, before anything is computed
 /// @return the exit code
-[[nodiscard]] int conFascicolo(const Opzioni& opzioni, const std::string& data, Esito& esito,
+[[nodiscard]] int conFascicolo(const Opzioni& opzioni, Esito& esito,
                                const std::function<void()>& controlla,
-                               const std::function<void(const dossier::Fascicolo&)>& scrivi);
+                               const ComandoDocumento& comando,
+                               const std::function<void(dossier::Fascicolo)>& scrivi);
 
 }  // namespace korven::batch

@@ -10,26 +10,26 @@
 
 namespace korven::batch {
 
-DocumentoScritto scrivi(const document::Documento& documento, const FormatiDocumento& formati,
-                        const base::Disco& disco) {
+std::string scrivi(const document::Documento& documento, const FormatiDocumento& formati,
+                   std::vector<std::string>& scritti, const base::Disco& disco) {
     assert(!formati.dipinti() || device::SessioneGrafica::aperta());
-    DocumentoScritto scritto;
+    std::string conservato;
     if (!formati.pdf.empty()) {
         device::scriviPdf(formati.pdf, documento, disco);
-        scritto.file.push_back(formati.pdf);
+        scritti.push_back(formati.pdf);
     }
     if (!formati.documento.empty()) {
-        scritto.conservato =
+        conservato =
             outdoc::writeDocument(formati.documento,
                                   document::inMarkup(documento, document::Uso::documento), disco)
                 .kept;
-        scritto.file.push_back(formati.documento);
+        scritti.push_back(formati.documento);
     }
     if (!formati.testo.empty()) {
         base::scriviFile(formati.testo, document::testoSemplice(documento), disco);
-        scritto.file.push_back(formati.testo);
+        scritti.push_back(formati.testo);
     }
-    return scritto;
+    return conservato;
 }
 
 }  // namespace korven::batch

@@ -16,17 +16,13 @@ struct FormatiDocumento {
     [[nodiscard]] bool dipinti() const { return !pdf.empty(); }
 };
 
-/// What became of a document.
-struct DocumentoScritto {
-    std::vector<std::string> file;
-    std::string conservato;  ///< where an earlier word-processor file is now that was not made here
-};
-
 /// Writes a document as PDF, as word-processor file and as plain text.
+/// @param scritti  gets the name of each file once it is there, also when a later one fails
+/// @return where an earlier word-processor file is now that was not made here; empty: nowhere
 /// @pre an `AmbienteDisegno` lives, a painting one for a PDF file: asserted
-/// @throws base::ErroreFile with the system's reason; files before the one that failed are there
-[[nodiscard]] DocumentoScritto scrivi(const document::Documento& documento,
-                                      const FormatiDocumento& formati,
-                                      const base::Disco& disco = base::discoDiSistema());
+/// @throws base::ErroreFile with the system's reason
+std::string scrivi(const document::Documento& documento, const FormatiDocumento& formati,
+                   std::vector<std::string>& scritti,
+                   const base::Disco& disco = base::discoDiSistema());
 
 }  // namespace korven::batch

@@ -2,6 +2,7 @@
 
 #include "base/colon.hpp"
 #include "base/file_identity.hpp"
+#include "base/files.hpp"
 #include "base/folders/file_names.hpp"
 #include "base/translated_texts.hpp"
 #include "commands/report_files.hpp"
@@ -43,6 +44,12 @@ void controllaTabella(const std::string& percorso, const std::vector<std::string
     std::vector<std::string> tutti = fileDelProgetto();
     tutti.insert(tutti.end(), altri.begin(), altri.end());
     controllaNomi({percorso}, tutti);
+}
+
+void controllaFile(const std::vector<std::string>& uscite, const base::Disco& disco) {
+    for (const auto& uscita : uscite) controllaTabella(uscita);
+    controllaNomi(uscite, {});
+    for (const auto& uscita : uscite) base::controllaScrivibile(uscita, disco);
 }
 
 }  // namespace korven::batch

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "base/disk.hpp"
 #include "base/twin_names.hpp"
 
 namespace korven::batch {
@@ -33,5 +34,11 @@ void controllaNomi(const std::vector<std::string>& uscite, const std::vector<std
 /// @throws base::ErroreFile, for the project or its results, with both names
 /// @throws NomiInConflitto
 void controllaTabella(const std::string& percorso, const std::vector<std::string>& altri = {});
+
+/// The same of all files that a command makes of a computed project, before it computes: also those
+/// are refused that can't be written now.
+/// @throws base::ErroreFile, for the project, its results or what the system refuses
+/// @throws NomiInConflitto
+void controllaFile(const std::vector<std::string>& uscite, const base::Disco& disco);
 
 }  // namespace korven::batch

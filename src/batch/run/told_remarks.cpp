@@ -5,10 +5,12 @@
 
 #include "base/colon.hpp"
 #include "base/filled_text.hpp"
+#include "base/shell_word.hpp"
 #include "base/translated_texts.hpp"
 #include "batch/options/common_options.hpp"
 #include "batch/run/console_run.hpp"
 #include "batch/run/failure.hpp"
+#include "dossier/annex_command.hpp"
 #include "review/remark_counts.hpp"
 
 namespace korven::batch {
@@ -26,16 +28,6 @@ bool giaDetto(const std::string& testo, const Esito& esito) {
            });
 }
 
-// What is copied from a line and pasted behind a prompt must name the same file.
-std::string perLaShell(const std::string& parola) {
-    constexpr std::string_view innocui =
-        "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789_./+-=:,@%";
-    if (!parola.empty() && parola.find_first_not_of(innocui) == std::string::npos) return parola;
-    std::string protetta = "'";
-    for (const char c : parola) protetta += c == '\'' ? "'\\''" : std::string(1, c);
-    return protetta + "'";
-}
-
 }  // namespace
 
 void raccontaPericoli(const Esito& esito, const review::Osservazioni& osservazioni) {
@@ -51,12 +43,13 @@ void raccontaImpedimenti(const Esito& esito) {
 }
 
 std::string comandoElenco(const Opzioni& opzioni) {
+    // What is copied from the line and pasted behind a prompt must name the same project.
     std::string testo =
         "korven32c " + nomeComandoVerifica.mostrato() + ' ' + nomeOpzioneCalcola.mostrato();
-    if (opzioni.metodoSpinte)
-        testo += ' ' + nomeOpzioneMetodo.mostrato() + ' ' + nomeMetodo(*opzioni.metodoSpinte);
-    if (opzioni.nseg) testo += ' ' + nomeOpzioneNseg.mostrato() + ' ' + perLaShell(*opzioni.nseg);
-    return testo + ' ' + perLaShell(opzioni.progetto);
+    for (const auto& opzione : dossier::opzioni(
+             {.metodoSpinte = opzioni.metodoSpinte, .ricalcolaEJ = false, .nSeg = opzioni.nseg}))
+        testo += ' ' + opzione;
+    return testo + ' ' + base::perLaShell(opzioni.progetto);
 }
 
 void raccontaDaVedere(const Opzioni& opzioni, const Esito& esito) {

@@ -48,8 +48,7 @@ auto tutte(const Opzioni& o) {
                       o.relazione.testo, o.relazione.documento, o.relazione.pdf,
                       o.relazione.stampante, o.disegno.file(), o.disegno.dpi,
                       o.disegno.foglio.larghezza, o.disegno.foglio.altezza, o.formati, o.csv,
-                      o.allegato.file(), o.allegato.righe, o.allegato.data, o.tabelle.xlsx,
-                      o.tabelle.csv, o.tabelle.data);
+                      o.allegato.file(), o.allegato.righe, o.data, o.tabelle.xlsx, o.tabelle.csv);
 }
 
 // Words of a help: names are parted by blanks, commas, bars and brackets.
