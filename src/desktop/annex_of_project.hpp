@@ -1,11 +1,12 @@
 #pragma once
 
-#include "document/blocks.hpp"
+#include "shell/annex/annex_work.hpp"
 
 namespace korven::desktop {
 
-/// The annex of the open project as it is now, saved or not, with today's date. Its command makes
-/// the same of the file when that has been saved.
-[[nodiscard]] document::Documento allegatoDelProgetto();
+/// The annex of the open project as it is now, saved or not, with today's date: of the numbers that
+/// a file keeps. Its command makes the same of the file, byte by byte; where the file on the disk
+/// is not this project the annex says so.
+[[nodiscard]] shell::CalcoloAllegato allegatoDelProgetto();
 
 }  // namespace korven::desktop

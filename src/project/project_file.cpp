@@ -134,4 +134,20 @@ bool progettoDiverso() {
     return progettoDiverso(file, Progetto);
 }
 
+DatiProgetto leggiDaFile(const std::string& percorso) {
+    auto file = base::LettoreRighe::apri(percorso);
+    DatiProgetto dati;
+    azzera(dati);
+    leggiDati(file, dati);
+    return dati;
+}
+
+DatiProgetto comeRiletto(const DatiProgetto& dati) {
+    base::LettoreRighe file({}, base::inCp1252(testoProgetto(dati)));
+    DatiProgetto letti;
+    azzera(letti);
+    leggiDati(file, letti);
+    return letti;
+}
+
 }  // namespace korven::project

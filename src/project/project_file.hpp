@@ -42,4 +42,13 @@ void scriviProgetto(const base::Disco& disco = base::discoDiSistema());
 /// Compares the file named by `fileCorrente` with `Progetto`.
 [[nodiscard]] bool progettoDiverso();
 
+/// A project as a new program finds it in a file: nothing of an earlier one is left in it.
+/// @throws base::ErroreFile as `leggiDati`, or if the file can't be read
+[[nodiscard]] DatiProgetto leggiDaFile(const std::string& percorso);
+
+/// A project as it comes back from a file that it is saved in: numbers with seven decimals, texts
+/// in Windows-1252, the method of the pressures that reading keeps.
+/// @throws base::ErroreValore for a number that no file can hold
+[[nodiscard]] DatiProgetto comeRiletto(const DatiProgetto& dati);
+
 }  // namespace korven::project

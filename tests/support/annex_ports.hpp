@@ -28,10 +28,17 @@ class SalvataggioDiProva : public shell::PorteGrafica {
     std::vector<std::string> nomi, scritti;
 };
 
+/// The annex that is there at once: nothing is computed for it.
+inline shell::CalcoloAllegato giaFatto(const document::Documento& documento) {
+    return [documento](const std::atomic<bool>&) -> shell::ComposizioneAllegato {
+        return [documento] { return documento; };
+    };
+}
+
 /// What a window of the annex needs, with a document that is always the same; nothing is printed.
 inline shell::PorteAllegato porteAllegato(base::Dialogo& dialogo) {
-    return {dialogo, [] { return documentoCompleto(); }, std::make_shared<SalvataggioDiProva>(),
-            [](const document::Documento&) {}};
+    return {dialogo, [] { return giaFatto(documentoCompleto()); },
+            std::make_shared<SalvataggioDiProva>(), [](const document::Documento&) {}};
 }
 
 }  // namespace korven::test

@@ -54,13 +54,19 @@ std::string opzioni(const Fascicolo& f) {
     return testo;
 }
 
+std::string file(const dossier::Identita& identita) {
+    if (identita.file.empty()) return traduttore("mai salvato");
+    if (!identita.nonSalvato) return identita.file;
+    return riempito(traduttore("%1, con modifiche non salvate"), {identita.file});
+}
+
 tables::Prospetto identita(const Fascicolo& f) {
     tables::Prospetto p = coppie("Documento", "Voce", "Valore");
     const auto riga = [&](const char* cosa, std::string valore) {
         p.righe.push_back({parola(traduttore(cosa)), parola(std::move(valore))});
     };
     riga("Programma e versione", f.identita.programma + " " + f.identita.versione);
-    riga("File di progetto", f.identita.file.empty() ? traduttore("mai salvato") : f.identita.file);
+    riga("File di progetto", file(f.identita));
     riga("SHA-256 del progetto", f.identita.impronta);
     riga("Data", f.identita.data);
     riga("Segmenti della paratia", segmenti(f));

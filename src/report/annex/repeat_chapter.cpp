@@ -80,7 +80,12 @@ void capitoloRipetere(const Contesto& contesto, Blocchi& blocchi) {
     if (!f.identita.comando.empty()) {
         blocchi.emplace_back(Titolo{2, traduttore("Il comando")});
         blocchi.emplace_back(Paragrafo{
-            traduttore("Lo stesso programma scrive di nuovo questo documento, byte per byte, con:"),
+            f.identita.nonSalvato
+                ? traduttore("Il file sul disco non è (ancora) questo progetto. Salvato il "
+                             "progetto con questo nome, o scritto in un file il testo "
+                             "dell'ultimo paragrafo, il comando scrive lo stesso allegato:")
+                : traduttore("Lo stesso programma scrive di nuovo questo documento, byte per "
+                             "byte, con:"),
             {}});
         blocchi.emplace_back(Paragrafo{aCapo(f.identita.comando), Stile::fisso});
     }

@@ -3,12 +3,14 @@
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QShowEvent>
 #include <QSignalBlocker>
 #include <QSpinBox>
 #include <QVBoxLayout>
 #include <array>
+#include <exception>
 #include <utility>
 
 #include "base/colon.hpp"
@@ -37,6 +39,17 @@ constexpr const char* paginaGuida = "finestra_allegato";
 constexpr int vociAdattate = 2;
 constexpr std::array percentuali = {50, 75, 100, 125, 150, 200, 300};
 
+// What a work in another thread throws is told in that of the forms.
+ComposizioneAllegato conGuasto(const CalcoloAllegato& calcola, const std::atomic<bool>& fermata) {
+    try {
+        return calcola(fermata);
+    } catch (...) {
+        return [guasto = std::current_exception()]() -> document::Documento {
+            std::rethrow_exception(guasto);
+        };
+    }
+}
+
 }  // namespace
 
 FinestraAllegato::FinestraAllegato(QWidget& principale, VitaProgetto& vita, PorteAllegato porte,
@@ -53,7 +66,10 @@ FinestraAllegato::FinestraAllegato(QWidget& principale, VitaProgetto& vita, Port
     nota_->setTextFormat(Qt::PlainText);
     nota_->setWordWrap(true);
     colonna->addWidget(nota_);
+    colonna->addWidget(fareAttesa());
     colonna->addWidget(farePulsanti(guida));
+    lavoro_ = new LavoroInDisparte<CalcoloAllegato, ComposizioneAllegato>(
+        conGuasto, [this](const auto&, const auto& componi) { preparata(componi); }, this);
     vista_->setFocus();
     connect(vista_, &VistaDocumento::girata, this, [this] { seguiVista(); });
     // A size that keys or wheel made is none of the list.
@@ -98,9 +114,29 @@ QWidget* FinestraAllegato::fareRiga() {
     return riga;
 }
 
+QWidget* FinestraAllegato::fareAttesa() {
+    attesa_ = new QWidget(this);
+    attesa_->setObjectName(QStringLiteral("attesa"));
+    auto* disposizione = new QHBoxLayout(attesa_);
+    disposizione->setContentsMargins(0, 0, 0, 0);
+    disposizione->addWidget(new QLabel(tradotto("L'allegato è in preparazione..."), attesa_));
+    auto* barra = new QProgressBar(attesa_);
+    barra->setObjectName(QStringLiteral("avanzamento"));
+    barra->setAccessibleName(tradotto("Preparazione dell'allegato"));
+    barra->setRange(0, 0);  // how long it takes nobody knows
+    disposizione->addWidget(barra, 1);
+    auto* ferma = new QPushButton(tradotto("&Ferma"), attesa_);
+    ferma->setObjectName(QStringLiteral("ferma"));
+    ferma->setAutoDefault(false);
+    connect(ferma, &QPushButton::clicked, this, [this] { this->ferma(); });
+    disposizione->addWidget(ferma);
+    attesa_->hide();
+    return attesa_;
+}
+
 QWidget* FinestraAllegato::farePulsanti(const std::function<void(const std::string&)>& guida) {
     auto* riga = new FilaPulsanti(*this);
-    riga->aggiungi("aggiorna", "&Aggiorna", "redo", [this] { prepara(); });
+    aggiorna_ = riga->aggiungi("aggiorna", "&Aggiorna", "redo", [this] { prepara(); });
     stampa_ = riga->aggiungi("stampa", "&Stampa...", "print", [this] { stampa(); });
     pdf_ = riga->aggiungi("pdf", "PD&F...", "picture_file", [this] { salvaPdf(); });
     doc_ = riga->aggiungi("doc", "&DOC...", "doc", [this] { salvaDocumento(); });
@@ -117,24 +153,48 @@ void FinestraAllegato::showEvent(QShowEvent* evento) {
 }
 
 void FinestraAllegato::prepara() {
-    if (!vita_.vivo().aperto()) return segui();
+    if (!vita_.vivo().aperto() || inCorso_) return segui();
+    fermato_ = false;
     conAvviso(porte_.dialogo, [this] {
-        const base::GuardiaPuntatore attesa(porte_.dialogo);
-        vista_->mostra(device::impaginato(porte_.prepara()));
-        cambiato_ = false;
+        CalcoloAllegato calcola = porte_.prepara();
+        cambiato_ = false;  // what changes from now on is in none of its numbers
+        inCorso_ = true;
+        lavoro_->chiedi(std::move(calcola));
     });
+    segui();
+}
+
+void FinestraAllegato::preparata(const ComposizioneAllegato& componi) {
+    inCorso_ = false;
+    const bool mostrata = conAvviso(porte_.dialogo, [&] {
+        const base::GuardiaPuntatore attesa(porte_.dialogo);
+        vista_->mostra(device::impaginato(componi()));
+    });
+    if (!mostrata) cambiato_ = true;
+    segui();
+}
+
+void FinestraAllegato::ferma() {
+    lavoro_->ferma();
+    inCorso_ = false;
+    fermato_ = cambiato_ = true;
+    aggiorna_->setFocus();
     segui();
 }
 
 void FinestraAllegato::segui() {
     const bool aperto = vita_.vivo().aperto();
     const bool pronto = aperto && vista_->pagine() > 0;
+    aggiorna_->setEnabled(aperto && !inCorso_);
+    attesa_->setVisible(inCorso_);
     for (QWidget* w : {static_cast<QWidget*>(stampa_), static_cast<QWidget*>(pdf_),
                        static_cast<QWidget*>(doc_), static_cast<QWidget*>(pagina_)})
         w->setEnabled(pronto);
     if (!aperto)
         nota_->setText(tradotto("Nessun progetto aperto"));
-    else if (cambiato_)
+    else if (fermato_)
+        nota_->setText(tradotto("La preparazione è stata fermata: Aggiorna la ricomincia."));
+    else if (cambiato_ && !inCorso_)
         nota_->setText(
             tradotto("Il progetto è cambiato da quando l'allegato è stato preparato: "
                      "Aggiorna lo prepara di nuovo."));

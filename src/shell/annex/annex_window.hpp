@@ -7,7 +7,9 @@
 #include "base/dialogo.hpp"
 #include "commands/desktop_forms.hpp"
 #include "document/blocks.hpp"
+#include "shell/annex/annex_work.hpp"
 #include "shell/companions/companion_window.hpp"
+#include "shell/live/background_work.hpp"
 #include "shell/live/live_view.hpp"
 #include "shell/viewer/ports.hpp"
 
@@ -23,8 +25,7 @@ class VistaDocumento;
 /// What the window of the annex needs of the outside.
 struct PorteAllegato {
     base::Dialogo& dialogo;
-    /// The annex of the project as it is now; called with the hourglass on the screen.
-    std::function<document::Documento()> prepara;
+    InizioAllegato prepara;
     std::shared_ptr<PorteGrafica> file;  ///< the dialogs to save, and the disk
     /// Prints on the printer that the user chooses; the pages are then those of its sheet.
     /// @throws base::ErroreFile when it fails
@@ -32,8 +33,9 @@ struct PorteAllegato {
 };
 
 /// The annex of the open project on its pages: to look at, to print, to save as PDF or for a word
-/// processor. It is made when the window is opened and when it is asked for again; that the project
-/// has changed since is told.
+/// processor. It is made when the window is opened and when it is asked for again, beside the forms
+/// until its numbers are there; meanwhile it can be stopped, and the pages of before stay. That the
+/// project has changed since is told.
 class FinestraAllegato : public FinestraCompagna {
     Q_OBJECT
  public:
@@ -46,8 +48,11 @@ class FinestraAllegato : public FinestraCompagna {
 
  private:
     QWidget* fareRiga();
+    QWidget* fareAttesa();
     QWidget* farePulsanti(const std::function<void(const std::string&)>& guida);
     void prepara();
+    void preparata(const ComposizioneAllegato& componi);
+    void ferma();
     void segui();
     void seguiVista();
     void scegliZoom(int voce);
@@ -63,8 +68,12 @@ class FinestraAllegato : public FinestraCompagna {
     QSpinBox* pagina_ = nullptr;
     QLabel *quante_ = nullptr, *nota_ = nullptr;
     QComboBox* zoom_ = nullptr;
-    QPushButton *stampa_ = nullptr, *pdf_ = nullptr, *doc_ = nullptr;
+    QPushButton *aggiorna_ = nullptr, *stampa_ = nullptr, *pdf_ = nullptr, *doc_ = nullptr;
+    QWidget* attesa_ = nullptr;  // shown while the numbers are being computed
+    LavoroInDisparte<CalcoloAllegato, ComposizioneAllegato>* lavoro_ = nullptr;
+    bool inCorso_ = false;
     bool cambiato_ = true;  // the project, since the pages were made
+    bool fermato_ = false;  // the last making of pages, by its user
 };
 
 }  // namespace korven::shell

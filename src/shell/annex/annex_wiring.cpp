@@ -65,7 +65,7 @@ void stampaAllegato(const document::Documento& documento, PorteDesktop& porte, Q
 
 void collegaAllegato(commands::FormeProgramma& forme, QWidget& principale, VitaProgetto& vita,
                      base::Dialogo& dialogo, const std::function<QPrinter&()>& stampante,
-                     const std::function<document::Documento()>& prepara,
+                     const InizioAllegato& prepara,
                      const std::function<void(const std::string&)>& annuncia) {
     const auto file = std::make_shared<PorteDesktop>(stampante, annuncia);
     const PorteAllegato porte{dialogo, prepara, file,

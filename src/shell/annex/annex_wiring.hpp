@@ -5,7 +5,7 @@
 
 #include "base/dialogo.hpp"
 #include "commands/desktop_forms.hpp"
-#include "document/blocks.hpp"
+#include "shell/annex/annex_work.hpp"
 #include "shell/live/live_view.hpp"
 
 class QPrinter;
@@ -19,7 +19,7 @@ namespace korven::shell {
 /// @param annuncia   told the path of each file that was written
 void collegaAllegato(commands::FormeProgramma& forme, QWidget& principale, VitaProgetto& vita,
                      base::Dialogo& dialogo, const std::function<QPrinter&()>& stampante,
-                     const std::function<document::Documento()>& prepara,
+                     const InizioAllegato& prepara,
                      const std::function<void(const std::string&)>& annuncia);
 
 }  // namespace korven::shell

@@ -7,7 +7,9 @@
 #include <QPushButton>
 #include <QScrollBar>
 #include <QSpinBox>
+#include <atomic>
 #include <filesystem>
+#include <thread>
 
 #include "base/file_error.hpp"
 #include "shell/annex/document_view.hpp"
@@ -37,13 +39,25 @@ class FinestraAllegatoTest : public ::testing::Test {
     }
     ~FinestraAllegatoTest() override { base::impostaCartellaProgramma({}); }
 
-    document::Documento prepara() {
+    CalcoloAllegato prepara() {
         ++preparati;
-        if (guasto) throw base::ErroreFile("muro.kvd", 0, "guasto");
         auto documento = test::documentoCompleto();
         documento.titolo = "Allegato " + std::to_string(preparati);
-        return documento;
+        return [this, documento](const std::atomic<bool>& fermata) -> ComposizioneAllegato {
+            while (trattenuto && !fermata) std::this_thread::yield();
+            if (guasto) throw base::ErroreFile("muro.kvd", 0, "guasto");
+            return [documento] { return documento; };
+        };
     }
+    // Opens the window, or asks it for something, and waits for the pages.
+    void apri() {
+        finestra.mostraDavanti();
+        aspetta();
+    }
+    void aspetta() {
+        ASSERT_TRUE(QTest::qWaitFor([this] { return !inPreparazione(); }, 30000));
+    }
+    bool inPreparazione() { return test::controllo<QWidget>(finestra, "attesa").isVisible(); }
     VistaDocumento& vista() { return test::controllo<VistaDocumento>(finestra, "anteprima"); }
     QSpinBox& pagina() { return test::controllo<QSpinBox>(finestra, "pagina"); }
     QString nota() { return test::controllo<QLabel>(finestra, "nota").text(); }
@@ -57,7 +71,8 @@ class FinestraAllegatoTest : public ::testing::Test {
     std::shared_ptr<test::SalvataggioDiProva> salvataggio =
         std::make_shared<test::SalvataggioDiProva>();
     int preparati = 0;
-    bool guasto = false;
+    std::atomic<bool> guasto = false;
+    std::atomic<bool> trattenuto = false;  // the computation, until it is let go or stopped
     std::vector<std::string> stampati;
     QWidget principale;
     VitaProgetto vita;
@@ -70,29 +85,30 @@ class FinestraAllegatoTest : public ::testing::Test {
 };
 
 TEST_F(FinestraAllegatoTest, MakesTheAnnexWhenItIsOpenedAndNotAgainBeforeTheProjectChanges) {
-    finestra.mostraDavanti();
+    apri();
     EXPECT_EQ(preparati, 1);
     EXPECT_GT(vista().pagine(), 3);
     EXPECT_EQ(pagina().maximum(), vista().pagine());
     EXPECT_EQ(nota(), "");
     finestra.close();
-    finestra.mostraDavanti();
+    apri();
     EXPECT_EQ(preparati, 1);
 }
 
 TEST_F(FinestraAllegatoTest, SaysThatTheProjectHasChangedAndMakesItAnewOnRequest) {
-    finestra.mostraDavanti();
+    apri();
     emit vita.cambiata();
     EXPECT_TRUE(nota().startsWith(QStringLiteral("Il progetto è cambiato")))
         << nota().toStdString();
     EXPECT_EQ(preparati, 1) << "the pages do not run away under the eyes of their reader";
     premi("aggiorna");
+    aspetta();
     EXPECT_EQ(preparati, 2);
     EXPECT_EQ(nota(), "");
 }
 
 TEST_F(FinestraAllegatoTest, TurnsItsPagesByKeysAndByNumber) {
-    finestra.mostraDavanti();
+    apri();
     const int quante = vista().pagine();
     QTest::keyClick(&vista(), Qt::Key_PageDown);
     EXPECT_EQ(pagina().value(), 2);
@@ -109,7 +125,7 @@ TEST_F(FinestraAllegatoTest, TurnsItsPagesByKeysAndByNumber) {
 }
 
 TEST_F(FinestraAllegatoTest, FitsThePagesToTheWindowAndMakesThemLargerByKeys) {
-    finestra.mostraDavanti();
+    apri();
     auto& zoom = test::controllo<QComboBox>(finestra, "zoom");
     EXPECT_EQ(vista().horizontalScrollBar()->maximum(), 0) << "as wide as the window at first";
     const double larga = vista().percento();
@@ -132,7 +148,7 @@ TEST_F(FinestraAllegatoTest, FitsThePagesToTheWindowAndMakesThemLargerByKeys) {
 }
 
 TEST_F(FinestraAllegatoTest, ReadsTheTextsOfThePageToThoseWhoDoNotSeeIt) {
-    finestra.mostraDavanti();
+    apri();
     EXPECT_TRUE(vista().accessibleDescription().startsWith(
         QStringLiteral("pagina 1 / %1").arg(vista().pagine())));
     EXPECT_TRUE(vista().accessibleDescription().contains(QStringLiteral("Che cosa si calcola")));
@@ -147,7 +163,7 @@ TEST_F(FinestraAllegatoTest, ReadsTheTextsOfThePageToThoseWhoDoNotSeeIt) {
 }
 
 TEST_F(FinestraAllegatoTest, SavesPdfAndDocUnderTheNameOfTheProject) {
-    finestra.mostraDavanti();
+    apri();
     salvataggio->nomi = {cartella / "a.pdf", cartella / "a.doc"};
     premi("pdf");
     EXPECT_TRUE(salvataggio->chiesta.nome.ends_with("-allegato.pdf")) << salvataggio->chiesta.nome;
@@ -160,7 +176,7 @@ TEST_F(FinestraAllegatoTest, SavesPdfAndDocUnderTheNameOfTheProject) {
 }
 
 TEST_F(FinestraAllegatoTest, AsksAgainForANameThatCannotBeWritten) {
-    finestra.mostraDavanti();
+    apri();
     salvataggio->nomi = {cartella / "non/c'è/a.pdf", cartella / "b.pdf"};
     premi("pdf");
     EXPECT_EQ(dialogo.messaggi.size(), 1U);
@@ -168,24 +184,61 @@ TEST_F(FinestraAllegatoTest, AsksAgainForANameThatCannotBeWritten) {
 }
 
 TEST_F(FinestraAllegatoTest, PrintsTheDocumentThatIsShown) {
-    finestra.mostraDavanti();
+    apri();
     premi("stampa");
     EXPECT_EQ(stampati, (std::vector<std::string>{"Allegato 1"}));
 }
 
 TEST_F(FinestraAllegatoTest, KeepsThePagesOfBeforeWhereTheyCannotBeMadeAnew) {
-    finestra.mostraDavanti();
+    apri();
     const int prima = vista().pagine();
     guasto = true;
     emit vita.cambiata();
     premi("aggiorna");
+    aspetta();
     EXPECT_EQ(dialogo.messaggi.size(), 1U);
     EXPECT_EQ(vista().pagine(), prima);
     EXPECT_TRUE(nota().startsWith(QStringLiteral("Il progetto è cambiato")));
 }
 
-TEST_F(FinestraAllegatoTest, OpensItsPageOfTheHelp) {
+TEST_F(FinestraAllegatoTest, ComputesBesideTheFormsAndShowsThePagesOfBeforeMeanwhile) {
+    apri();
+    trattenuto = true;
+    emit vita.cambiata();
+    premi("aggiorna");
+    EXPECT_TRUE(inPreparazione());
+    EXPECT_EQ(nota(), "");
+    EXPECT_FALSE(test::controllo<QPushButton>(finestra, "aggiorna").isEnabled());
+    premi("stampa");
+    EXPECT_EQ(stampati, (std::vector<std::string>{"Allegato 1"}));
+    emit vita.cambiata();
+    trattenuto = false;
+    aspetta();
+    EXPECT_TRUE(nota().startsWith(QStringLiteral("Il progetto è cambiato")))
+        << "since the work was begun";
+    premi("stampa");
+    EXPECT_EQ(stampati.back(), "Allegato 2");
+}
+
+TEST_F(FinestraAllegatoTest, CanBeStoppedAndBegunAnew) {
+    trattenuto = true;
     finestra.mostraDavanti();
+    EXPECT_TRUE(inPreparazione());
+    premi("ferma");
+    EXPECT_FALSE(inPreparazione());
+    EXPECT_TRUE(nota().startsWith(QStringLiteral("La preparazione è stata fermata")));
+    EXPECT_EQ(vista().pagine(), 0);
+    trattenuto = false;
+    premi("aggiorna");
+    aspetta();
+    EXPECT_EQ(nota(), "");
+    EXPECT_GT(vista().pagine(), 3);
+    premi("stampa");
+    EXPECT_EQ(stampati, (std::vector<std::string>{"Allegato 2"}));
+}
+
+TEST_F(FinestraAllegatoTest, OpensItsPageOfTheHelp) {
+    apri();
     premi("guida");
     EXPECT_EQ(guida, "finestra_allegato");
 }
