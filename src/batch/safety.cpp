@@ -6,6 +6,7 @@
 #include "batch/command_table.hpp"
 #include "batch/options/common_options.hpp"
 #include "batch/run/command_ports.hpp"
+#include "batch/run/computed_dossier.hpp"
 #include "batch/run/console_run.hpp"
 #include "batch/run/drawing_formats.hpp"
 #include "batch/run/failure.hpp"
@@ -16,7 +17,6 @@
 #include "drawings/margin_drawing.hpp"
 #include "project/project_data.hpp"
 #include "review/limits.hpp"
-#include "safety/words.hpp"
 
 namespace korven::batch {
 
@@ -57,15 +57,7 @@ int esegui(const Opzioni& opzioni, const PorteComando& porte, Esito& esito) {
                 annota({safety::Causa::fermato, {}}, esito);
                 return nonEseguito;
             }
-            const safety::MargineFase* caduta = margine.caduta();
-            if (caduta && caduta->rifiuto) {
-                analysis::avvisa(dialogo, caduta->fase, *caduta->rifiuto);
-                annota({safety::Causa::rifiutato, {}}, esito);
-                return nonEseguito;
-            }
-            annota(caduta ? safety::CausaCorsa{caduta->perche->causa, frase(*caduta->perche)}
-                          : safety::CausaCorsa{},
-                   esito);
+            if (!raccontaVerdetto(&margine, dialogo, esito)) return nonEseguito;
             esito.margine = std::move(margine);
             const int codice = scriviUscite(opzioni, porte, esito);
             return esito.margine->sta() ? codice : nonEseguito;

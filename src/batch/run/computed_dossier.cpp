@@ -13,24 +13,6 @@
 
 namespace korven::batch {
 
-namespace {
-
-// Why the wall does not stand, if it does not.
-int conclusione(bool sta, base::Dialogo& dialogo, Esito& esito) {
-    const safety::MargineFase* caduta = esito.margine ? esito.margine->caduta() : nullptr;
-    if (caduta != nullptr && caduta->rifiuto) {
-        analysis::avvisa(dialogo, caduta->fase, *caduta->rifiuto);
-        annota({safety::Causa::rifiutato, {}}, esito);
-        return nonEseguito;
-    }
-    annota(caduta != nullptr ? safety::CausaCorsa{caduta->perche->causa, frase(*caduta->perche)}
-                             : safety::CausaCorsa{},
-           esito);
-    return sta ? fatto : nonEseguito;
-}
-
-}  // namespace
-
 dossier::AlPostoDelProgetto alPostoDelProgetto(const Opzioni& opzioni) {
     return {.metodoSpinte = opzioni.metodoSpinte,
             .ricalcolaEJ = opzioni.ricalcolaEJ,
@@ -54,6 +36,19 @@ dossier::Fascicolo fascicoloCalcolato(const Opzioni& opzioni, const project::Dat
                               osservatore);
 }
 
+bool raccontaVerdetto(const safety::Margine* margine, base::Dialogo& dialogo, Esito& esito) {
+    const safety::MargineFase* caduta = margine != nullptr ? margine->caduta() : nullptr;
+    if (caduta != nullptr && caduta->rifiuto) {
+        analysis::avvisa(dialogo, caduta->fase, *caduta->rifiuto);
+        annota({safety::Causa::rifiutato, {}}, esito);
+        return false;
+    }
+    annota(caduta != nullptr ? safety::CausaCorsa{caduta->perche->causa, frase(*caduta->perche)}
+                             : safety::CausaCorsa{},
+           esito);
+    return true;
+}
+
 int conFascicolo(const Opzioni& opzioni, Esito& esito, const std::function<void()>& controlla,
                  const ComandoDocumento& comando,
                  const std::function<void(dossier::Fascicolo)>& scrivi) {
@@ -71,7 +66,9 @@ int conFascicolo(const Opzioni& opzioni, Esito& esito, const std::function<void(
             esito.margine = fascicolo.margine;
             const bool sta = fascicolo.parete.sta();
             scrivi(std::move(fascicolo));
-            return conclusione(sta, dialogo, esito);
+            const bool noto =
+                raccontaVerdetto(esito.margine ? &*esito.margine : nullptr, dialogo, esito);
+            return noto && sta ? fatto : nonEseguito;
         });
 }
 

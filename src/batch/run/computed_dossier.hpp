@@ -3,6 +3,7 @@
 #include <functional>
 #include <string>
 
+#include "base/dialogo.hpp"
 #include "batch/options/choices.hpp"
 #include "batch/run/outcome.hpp"
 #include "dossier/annex_command.hpp"
@@ -24,6 +25,11 @@ using ComandoDocumento = std::function<std::string(int nSeg, const std::string& 
                                                     const project::DatiProgetto& usati, int nSeg,
                                                     const ComandoDocumento& comando,
                                                     const Esito& esito);
+
+/// Tells why the wall does not stand, if it does not, and notes what became of the run.
+/// @param margine  nullptr: nothing is known of its stages
+/// @return false where the soil of a stage refuses a calculation
+bool raccontaVerdetto(const safety::Margine* margine, base::Dialogo& dialogo, Esito& esito);
 
 /// For a command that writes down all that is told of a computed project: computes that between the
 /// remarks, as `calcolaInMemoria` does, and hands it over to be written. A wall that does not stand
