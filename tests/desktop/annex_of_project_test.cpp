@@ -46,7 +46,8 @@ class AllegatoDelProgetto : public ::testing::Test {
     // Its plain text in one line, whatever lines it is broken into.
     [[nodiscard]] static std::string testo(const document::Documento& documento) {
         const std::string righe = base::daCp1252(document::testoSemplice(documento));
-        return std::regex_replace(righe, std::regex(R"([ \s\\]+)"), " ");
+        const std::string intere = std::regex_replace(righe, std::regex(R"(\\\r?\n)"), " ");
+        return std::regex_replace(intere, std::regex(R"(\s+)"), " ");
     }
     [[nodiscard]] static std::string comando(const document::Documento& documento) {
         const std::string tutto = testo(documento);
