@@ -150,7 +150,7 @@ CodiceUscita disegnaTutte(const Consegna& consegna, CorsaConsole& corsa) {
     return corsa.interrotta() ? nonEseguito : codice;
 }
 
-// The annex stands on the certain equilibrium: it is written where the staged run finds no rest
+// The annex stands on the equilibrium solution: it is written where the staged run finds no rest
 // too, and says so. What is refused has none, nor what its user has stopped.
 void allegato(const Consegna& consegna, project::DatiProgetto usati, CorsaConsole& corsa) {
     const Esito& esito = consegna.esito;
