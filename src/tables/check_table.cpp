@@ -25,35 +25,43 @@ using safety::Margine;
 using structure::ConfrontoTaglio;
 namespace unita = project::unita;
 
+// @param numero  a number with the digits of the report, or rounded where it is not the report's
 std::vector<Cella> riga(const project::Unita& u, const char* cosa, double progetto,
-                        double resistenza, const DoveVerifica& dove, std::string_view parole,
-                        bool fallita) {
+                        double resistenza, Cella (*numero)(double), const DoveVerifica& dove,
+                        std::string_view parole, bool fallita) {
     return {parola(traduttore(cosa) + " " + traParentesi(u)),
-            cifre(progetto),
-            cifre(resistenza),
+            numero(progetto),
+            numero(resistenza),
             uso(progetto, resistenza),
             dove.fase > 0 ? cella(dove.fase) : tables::dove(0, 0),
             tables::dove(dove.fase, dove.z, dove.lato),
             esito(traduttore(parole), fallita)};
 }
 
+Cella arrotondato(double mostrato) { return cella(mostrato, 2, unita::nessuna); }
+
+// The digits of the numbers that the checks are made of.
+Cella (*numeroDi(const ControlliSezione& controlli))(double) {
+    return controlli.dellaRelazione ? cifre : arrotondato;
+}
+
 void flessione(const ConfrontoMomenti& c, const ControlliSezione& controlli, Prospetto& p) {
     const project::Unita& u = unita::momentoAlMetro;
     p.righe.push_back(riga(u, "Flessione, momento positivo", mostrato(u, c.mdMax),
-                           mostrato(u, c.mrPos), controlli.positivo,
+                           mostrato(u, c.mrPos), numeroDi(controlli), controlli.positivo,
                            results::sentenza(true, c.verificatoPos), c.fallitaPos()));
     if (c.negativo)
         p.righe.push_back(riga(u, "Flessione, momento negativo", mostrato(u, c.mdMin),
-                               mostrato(u, c.mrNeg), controlli.negativo,
+                               mostrato(u, c.mrNeg), numeroDi(controlli), controlli.negativo,
                                results::sentenza(false, c.verificatoNeg), c.fallitaNeg()));
 }
 
 // The report has a sentence for each failure and none for what holds.
 void taglio(const ConfrontoTaglio& c, const ControlliSezione& controlli, Prospetto& p) {
     const auto aggiungi = [&](const char* cosa, double VRd, bool fallita, const char* rottura) {
-        p.righe.push_back(riga(unita::forzaAlMetro, cosa, c.Vsd, VRd, controlli.diTaglio,
-                               fallita ? rottura : "Condizioni di sicurezza verificate (taglio)",
-                               fallita));
+        p.righe.push_back(
+            riga(unita::forzaAlMetro, cosa, c.Vsd, VRd, numeroDi(controlli), controlli.diTaglio,
+                 fallita ? rottura : "Condizioni di sicurezza verificate (taglio)", fallita));
     };
     aggiungi("Taglio, bielle di calcestruzzo", c.Vrd2, c.rotturaBielle(),
              "Rottura delle bielle di calcestruzzo compresse");

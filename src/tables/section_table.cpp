@@ -151,12 +151,16 @@ Prospetto prospettoDominio(const PareteViva& parete, const safety::Margine* marg
                     colonnaSimbolo(unita::momentoAlMetro, "Md min", "Momento di progetto minore"),
                     colonnaParole("Esito", "Esito, con le parole della relazione"),
                 }};
-    for (const auto& fase : live::fasiNelDominio(parete, margine)) {
-        p.righe.push_back(
-            {cella(fase.fase), cifre(mostrato(unita::forzaAlMetro, fase.Nd / project::newton)),
-             cifre(mostrato(unita::momentoAlMetro, fase.momenti.mdMax)),
-             cifre(mostrato(unita::momentoAlMetro, fase.momenti.mdMin)), verifica(!fase.dentro())});
-    }
+    // The report cuts its numbers; those of the equilibrium are rounded wherever they stand.
+    const bool dellaRelazione = margine != nullptr && margine->relazione;
+    const auto numero = [&](const project::Unita& u, double conservato) {
+        return dellaRelazione ? cifre(mostrato(u, conservato)) : cella(conservato, 2, u);
+    };
+    for (const auto& fase : live::fasiNelDominio(parete, margine))
+        p.righe.push_back({cella(fase.fase), numero(unita::forzaAlMetro, fase.Nd / project::newton),
+                           numero(unita::momentoAlMetro, fase.momenti.mdMax),
+                           numero(unita::momentoAlMetro, fase.momenti.mdMin),
+                           verifica(!fase.dentro())});
     if (dominio.empty()) return p;
     const auto kN = [](double N) { return base::testoDecimali(N / project::newtonKilonewton, 0); };
     p.note.push_back(riempito(traduttore("Nd va da %1 kN/m (trazione) a %2 kN/m (compressione)."),

@@ -6,6 +6,7 @@
 #include "project/shown_number.hpp"
 #include "report/annex/columns.hpp"
 #include "report/annex/formula_rows.hpp"
+#include "report/annex/section_rows.hpp"
 #include "report/annex/section_tables.hpp"
 #include "report/annex/table_pieces.hpp"
 
@@ -21,14 +22,6 @@ namespace unita = project::unita;
 
 namespace {
 
-const std::string tensione(unita::tensione.mostrata);
-const std::string area = "mm²";
-const std::string forza(unita::forzaAlMetro.mostrata);
-const std::string momento(unita::momentoAlMetro.mostrata);
-
-double kN(double N) { return N / project::newtonKilonewton; }
-double kNm(double Nmm) { return kN(Nmm) / project::millimetriMetro; }
-
 const LatoFlessione& lato(const ValoriFlessione& v, bool positivo) {
     return positivo ? v.positivo : v.negativo;
 }
@@ -42,9 +35,10 @@ class ForzeInterne {
     void aggiungi(const char* cosa, const Interna& interna, int segno) {
         if (interna.forza == 0) return;
         const double braccio = verso_ * (interna.y - yNd_);
-        p_.righe.push_back({tables::parola(traduttore(cosa)), numero(kN(segno * interna.forza), 2),
-                            numero(interna.y, 1), numero(braccio, 1),
-                            numero(kNm(segno * interna.forza * braccio), 2)});
+        p_.righe.push_back({tables::parola(traduttore(cosa)),
+                            numero(inKilonewton(segno * interna.forza), 2), numero(interna.y, 2),
+                            numero(braccio, 2),
+                            numero(inKilonewtonMetri(segno * interna.forza * braccio), 2)});
     }
 
     static Cella numero(double valore, int decimali) {
@@ -57,74 +51,44 @@ class ForzeInterne {
     Prospetto& p_;
 };
 
+void materiali(const ValoriFlessione& v, Prospetto& p) {
+    if (v.fcd > 0) aggiungiResistenzaCls(v.fck, v.fsCalcestruzzo, v.fcd, p);
+    aggiungiResistenzaAcciaio(v.fyk, v.fsAcciaio, v.fyd, p);
+    aggiungi({"modulo elastico dell'acciaio", "Es", "", {}, v.modEacciaio, 0, unitaTensione}, p);
+    if (v.Ac > 0)
+        aggiungi({"Area del calcestruzzo in un metro", "Ac", "", {}, v.Ac, 0, unitaArea}, p);
+    aggiungi({"Area dell'acciaio in un metro", "As", "", {}, v.As, 0, unitaArea}, p);
+}
+
+void sforzoNormale(const ValoriFlessione& v, Prospetto& p) {
+    aggiungiAzione({"Sforzo normale di progetto", "Nd", "N", v.fsAzioni,
+                    project::inKilonewton(v.sforzoNormale), inKilonewton(v.Nd), unitaForza},
+                   p);
+    const auto resistenza = [&](const char* cosa, const char* simbolo, double N) {
+        aggiungi({cosa, simbolo, "", {}, inKilonewton(N), 2, unitaForza}, p);
+    };
+    resistenza("Resistenza alla compressione semplice", "NRd,c", v.assiali.compressione);
+    resistenza("Resistenza alla trazione semplice", "NRd,t", v.assiali.trazione);
+}
+
 }  // namespace
 
 Prospetto prospettoMateriali(const ValoriFlessione& v) {
     Prospetto p = prospettoFormule("Materiali e sforzo normale");
-    if (v.fcd > 0)
-        aggiungi({"Resistenza di progetto del calcestruzzo",
-                  "fcd",
-                  "%1 / %2",
-                  {termine("fck", v.fck, 2), termine("γc", v.fsCalcestruzzo, 2)},
-                  v.fcd,
-                  2,
-                  tensione},
-                 p);
-    aggiungi({"Resistenza di progetto dell'acciaio",
-              "fyd",
-              "%1 / %2",
-              {termine("fyk", v.fyk, 2), termine("γs", v.fsAcciaio, 2)},
-              v.fyd,
-              2,
-              tensione},
-             p);
-    aggiungi({"modulo elastico dell'acciaio", "Es", "", {}, v.modEacciaio, 0, tensione}, p);
-    if (v.Ac > 0) aggiungi({"Area del calcestruzzo in un metro", "Ac", "", {}, v.Ac, 0, area}, p);
-    aggiungi({"Area dell'acciaio in un metro", "As", "", {}, v.As, 0, area}, p);
-    aggiungi(
-        {"Sforzo normale di progetto",
-         "Nd",
-         "%1 · %2",
-         {termine("γF", v.fsAzioni, 2), termine("N", project::inKilonewton(v.sforzoNormale), 2)},
-         kN(v.Nd),
-         2,
-         forza},
-        p);
-    aggiungi({"Resistenza alla compressione semplice",
-              "NRd,c",
-              "",
-              {},
-              kN(v.assiali.compressione),
-              2,
-              forza},
-             p);
-    aggiungi(
-        {"Resistenza alla trazione semplice", "NRd,t", "", {}, kN(v.assiali.trazione), 2, forza},
-        p);
+    materiali(v, p);
+    sforzoNormale(v, p);
     return p;
 }
 
 Prospetto prospettoFlessione(const ValoriFlessione& v, bool positivo, double M) {
     const LatoFlessione& l = lato(v, positivo);
+    const double Md = inKilonewtonMetri(l.Md), MRd = inKilonewtonMetri(l.MRd);
     Prospetto p = prospettoFormule("Confronto");
-    aggiungi({"Momento di progetto",
-              "Md",
-              "%1 · %2",
-              {termine("γF", v.fsAzioni, 2), termine("M", project::inKilonewton(M), 2)},
-              kNm(l.Md),
-              2,
-              momento},
-             p);
-    aggiungi({"Momento resistente", "MRd", "", {}, kNm(l.MRd), 2, momento}, p);
-    if (l.uso)
-        aggiungi({"Sfruttamento",
-                  "η",
-                  "%1 / %2",
-                  {termine("Md", kNm(l.Md), 2), termine("MRd", kNm(l.MRd), 2)},
-                  mostrato(unita::percento, *l.uso),
-                  1,
-                  "%"},
-                 p);
+    aggiungiAzione(
+        {"Momento di progetto", "Md", "M", v.fsAzioni, project::inKilonewton(M), Md, unitaMomento},
+        p);
+    aggiungi({"Momento resistente", "MRd", "", {}, MRd, 2, unitaMomento}, p);
+    if (l.uso) aggiungiSfruttamento({"Sfruttamento", "Md", "MRd", Md, MRd, *l.uso}, p);
     return p;
 }
 
@@ -141,8 +105,9 @@ Prospetto prospettoForzeInterne(const ValoriFlessione& v, bool positivo) {
     forze.aggiungi("Acciaio compresso", l.acciaioCompresso, 1);
     forze.aggiungi("Acciaio teso", l.acciaioTeso, -1);
     p.righe.push_back({tables::parola(traduttore("Nd e momento resistente")),
-                       ForzeInterne::numero(kN(v.Nd), 2), ForzeInterne::numero(v.yNd, 1),
-                       ForzeInterne::numero(0, 1), ForzeInterne::numero(kNm(l.MRd), 2)});
+                       ForzeInterne::numero(inKilonewton(v.Nd), 2), ForzeInterne::numero(v.yNd, 2),
+                       ForzeInterne::numero(0, 2),
+                       ForzeInterne::numero(inKilonewtonMetri(l.MRd), 2)});
     p.note.push_back(base::riempito(
         traduttore("y dalla faccia verso lo scavo, su un'altezza di %1 mm; compressione positiva; "
                    "bracci dal punto in cui agisce lo sforzo normale. Le forze delle altre righe "

@@ -8,6 +8,7 @@
 #include "project/shown_number.hpp"
 #include "report/annex/chapters.hpp"
 #include "report/annex/section_tables.hpp"
+#include "report/annex/shear_rules.hpp"
 #include "report/annex/table_pieces.hpp"
 #include "structure/limit_search.hpp"
 #include "structure/partial_factors.hpp"
@@ -138,11 +139,12 @@ void dominio(const Contesto& contesto, Blocchi& blocchi) {
 
 void taglio(const Fascicolo& f, Blocchi& blocchi) {
     titolo(2, "Taglio", blocchi);
-    if (!f.taglio)
-        paragrafo(traduttore("Il taglio si verifica solo per pali armati con le staffe scritte."),
-                  blocchi);
-    else
-        tavola(prospettoTaglio(f.parete.dati.sezione, *f.taglio), blocchi);
+    if (!f.taglio) {
+        paragrafo(percheSenzaTaglio(f) + " " + taglioDaVerificare(f), blocchi, Stile::rilievo);
+        return;
+    }
+    tavola(prospettoTaglio(f.parete.dati.sezione, *f.taglio), blocchi);
+    tavola(prospettoScostamentiTaglio(f.parete.dati, *f.taglio), blocchi);
 }
 
 void relazione(const Fascicolo& f, Blocchi& blocchi) {
