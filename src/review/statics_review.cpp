@@ -1,15 +1,12 @@
 #include <algorithm>
 #include <cmath>
 
-#include "analysis/node_vector.hpp"
-#include "analysis/run_arrays.hpp"
-#include "analysis/wall_mesh.hpp"
 #include "base/colon.hpp"
 #include "base/translated_texts.hpp"
-#include "project/codes.hpp"
 #include "project/shown_number.hpp"
 #include "review/limits.hpp"
 #include "review/result_checks.hpp"
+#include "review/statics_reasons.hpp"
 #include "structure/section_validity.hpp"
 
 namespace korven::review {
@@ -23,82 +20,6 @@ using safety::MargineFase;
 namespace unita = project::unita;
 
 std::string forza(double valore) { return numeroMostrato(valore, 1, unita::forza); }
-
-// Where the report's rules leave the statics, in words and with the fields; nothing known is empty.
-struct Motivo {
-    std::string_view testo;
-    std::vector<std::string> campi;
-};
-
-std::string nome(const project::Membro& membro, int riga = 1) {
-    return project::nomeStabile(project::campo(membro), riga);
-}
-
-// Anchors of a stage that are slack, but count in the report's shear.
-std::vector<std::string> lenti(const DatiProgetto& dati, const MargineFase& fase) {
-    std::vector<std::string> campi;
-    for (const safety::ConfrontoTiro& tiro : fase.confronto.tiri)
-        if (tiro.statica == 0 && tiro.relazione && tiro.relazione->valore < 0 &&
-            !(dati.tipoTirante[tiro.tirante] == project::TipoTirante::trazioneCompressione))
-            campi.push_back(nome(&DatiProgetto::tipoTirante, tiro.tirante));
-    return campi;
-}
-
-// Anchors of a stage at the node of a depth.
-// @param traNodi  only those that are not exactly there, of which the report has no value above
-std::vector<std::string> alNodo(const DatiProgetto& dati, const MargineFase& fase, double z,
-                                double passo, bool traNodi) {
-    std::vector<std::string> campi;
-    for (const safety::ConfrontoTiro& tiro : fase.confronto.tiri) {
-        const int nodo = analysis::nodoTirante(dati.profTirante[tiro.tirante], passo);
-        const bool qui = std::fabs(analysis::zNodo(nodo, passo) - z) < passo / 2;
-        if (qui && !(traNodi && tiro.relazione && tiro.relazione->nelTaglio))
-            campi.push_back(nome(&DatiProgetto::profTirante, tiro.tirante));
-    }
-    return campi;
-}
-
-Motivo motivoMomento(const DatiProgetto& dati, const safety::Margine& margine, const Confronto& c) {
-    const double passo = dati.lunghezzaParatia / margine.nSeg;
-    const double sotto = std::max(c.relazione->z, c.statica.z);
-    if (!analysis::vincoli(dati).incastroPiede || sotto <= dati.lunghezzaParatia - passo / 2)
-        return {};
-    return {"al piede incastrato la relazione lo estrapola dai due nodi sopra",
-            {nome(&DatiProgetto::vincoloPiede)}};
-}
-
-Motivo motivoTaglio(const DatiProgetto& dati, const safety::Margine& margine, const Confronto& c) {
-    const double passo = dati.lunghezzaParatia / margine.nSeg;
-    const bool alPiede = c.relazione->z > dati.lunghezzaParatia - passo / 2;
-    if (alPiede && analysis::vincoli(dati).incastroPiede)
-        return {"al piede incastrato il diagramma conta le molle dell'incastro",
-                {nome(&DatiProgetto::vincoloPiede)}};
-    if (c.relazione->z == 0 && dati.forzaTesta != 0)
-        return {"al primo nodo il diagramma conta due volte la forza in testa",
-                {nome(&DatiProgetto::forzaTesta)}};
-    const auto fase = [&](int k) -> const MargineFase& {
-        return margine.fasi.at(static_cast<std::size_t>(k - 1));
-    };
-    if (auto campi = lenti(dati, fase(c.relazione->fase)); !campi.empty())
-        return {"il diagramma conta tiranti lenti", std::move(campi)};
-    const bool meno = std::fabs(c.relazione->valore) < std::fabs(c.statica.valore);
-    if (meno) {
-        auto campi = alNodo(dati, fase(c.statica.fase), c.statica.z, passo, true);
-        if (!campi.empty())
-            return {"il diagramma non vede il taglio sopra un tirante che non è su un nodo",
-                    std::move(campi)};
-    } else {
-        auto campi = alNodo(dati, fase(c.relazione->fase), c.relazione->z, passo, false);
-        if (!campi.empty())
-            return {"al tirante il diagramma lo estrapola dai due nodi sotto", std::move(campi)};
-    }
-    if (c.statica.z > dati.lunghezzaParatia - passo / 2 && analysis::vincoli(dati).bloccoPiede)
-        return {"il diagramma non vede la reazione al piede", {nome(&DatiProgetto::vincoloPiede)}};
-    if (c.statica.z == 0 && analysis::vincoli(dati).cernieraTesta)
-        return {"il diagramma non vede la reazione al primo nodo",
-                {nome(&DatiProgetto::vincoloTesta)}};
-    return {};
-}
 
 void avvisa(const Confronto& c, Voce minore, Voce maggiore, const Motivo& perche,
             ElencoOsservazioni& elenco) {
