@@ -35,6 +35,8 @@ void margine(analysis::OsservatoreCorsa& osservatore, Fascicolo& f) {
     CorsaAffiancata corsa(f.parete, osservatore);
     f.margine = safety::margine(f.parete.dati, f.parete.nSeg, corsa);
     f.corsa = corsa.fasi();
+    spiega(f.parete, *f.margine, f.corsa);
+    f.doppi = numeriDoppi(f.parete, *f.margine);
     f.fine = f.margine->corsa;
 }
 
@@ -54,6 +56,7 @@ void osservazioni(const Richiesta& richiesta, Fascicolo& f) {
 // By the equilibrium, and not by the report where there is one.
 void sezione(Fascicolo& f) {
     f.controlli = live::controlliSezione(f.parete, nullptr);
+    f.verifiche = verificheDoppie(f.parete, f.controlli, f.margine ? &*f.margine : nullptr);
     f.nelDominio = live::fasiNelDominio(f.parete, nullptr);
     f.dominio = structure::dominioNM(f.parete.dati.sezione);
     f.flessione = valoriFlessione(f.parete.dati, f.controlli);
@@ -77,6 +80,8 @@ Fascicolo fascicolo(const Richiesta& richiesta, analysis::OsservatoreCorsa& osse
     osservazioni(richiesta, f);
     f.inviluppo = live::inviluppo(f.parete);
     f.bilanci = bilanci(f.parete.dati, f.parete.nSeg, f.parete.fasiInEquilibrio());
+    if (f.parete.perche && f.parete.perche->moto)
+        f.limite = bilancioLimite(f.parete.dati, f.parete.nSeg, f.parete.perche->fase);
     f.tiranti = storieTiranti(f.parete, f.margine ? &*f.margine : nullptr);
     prova([&] { sezione(f); });
     prova([&] { f.terreno = valoriTerreno(f.parete); });

@@ -8,9 +8,11 @@
 #include "dossier/anchor_story.hpp"
 #include "dossier/balance.hpp"
 #include "dossier/identity.hpp"
+#include "dossier/limit_balance.hpp"
 #include "dossier/section_values.hpp"
 #include "dossier/soil_values.hpp"
 #include "dossier/specified_run.hpp"
+#include "dossier/twin_numbers.hpp"
 #include "live/envelope.hpp"
 #include "live/section_checks.hpp"
 #include "live/wall.hpp"
@@ -34,12 +36,16 @@ struct Fascicolo {
     review::Osservazioni osservazioni;       ///< on project and results, the heaviest first
     live::Inviluppo inviluppo;               ///< of the stages that stand
     std::vector<BilancioFase> bilanci;       ///< of the stages that stand
+    std::optional<BilancioLimite> limite;    ///< of the stage that is a mechanism, if one is
     std::vector<StoriaTirante> tiranti;      ///< all rows of their table; element 0 is anchor 1
     /// Of the stages that the specified run began, in memory; empty where it was not begun, since
     /// it is refused or a stage is a mechanism.
     std::vector<CorsaFase> corsa;
-    analysis::FineCorsa fine;  ///< how it ended, if it was begun
+    analysis::FineCorsa fine;         ///< how it ended, if it was begun
+    std::vector<NumeroDoppio> doppi;  ///< largest numbers of each stage, where there is a report
     live::ControlliSezione controlli;
+    /// The checks of both, the report's where there is one; none where no stage stands.
+    std::vector<VerificaDoppia> verifiche;
     std::vector<live::FaseNelDominio> nelDominio;
     std::vector<structure::PuntoDominio> dominio;  ///< empty without a section
     std::optional<ValoriFlessione> flessione;      ///< nothing without a section

@@ -1,6 +1,7 @@
 #include <cmath>
 
 #include "equilibrium/staged_equilibrium.hpp"
+#include "review/equilibrium_remarks.hpp"
 #include "review/result_checks.hpp"
 #include "safety/words.hpp"
 
@@ -55,17 +56,20 @@ void controlloEquilibrio(const DatiProgetto& dati, const safety::Margine& margin
     if (const safety::MargineFase* fase = margine.caduta(); fase && fase->perche)
         elenco.conParole(voce(fase->perche->causa), {{}, campi(dati, *fase->perche)},
                          safety::frase(*fase->perche));
-    if (!margine.sta()) return;
+    if (const auto d = oscillazione(dati, margine))
+        elenco.conParole(codiceOscilla, {{}, scavo(dati, d->fase).campi}, safety::frase(*d));
+}
+
+std::optional<Diagnosi> oscillazione(const DatiProgetto& dati, const safety::Margine& margine) {
+    if (!margine.sta()) return std::nullopt;
     const analysis::FineCorsa& fine = margine.corsa;
-    if (fine.modo != ModoFine::singolare && fine.modo != ModoFine::oltreLimite) return;
+    if (fine.modo != ModoFine::singolare && fine.modo != ModoFine::oltreLimite) return std::nullopt;
     const auto& fase = margine.fasi.at(static_cast<std::size_t>(fine.fase - 1));
-    const Diagnosi d{.causa = Causa::oscilla,
-                     .fase = fine.fase,
-                     .paratia = dati.lunghezzaParatia,
-                     .spostamento = std::fabs(fase.estremi.spostamento.valore),
-                     .ostacolo = safety::ostacolo(fine)};
-    elenco.conParole("iterazione-che-oscilla", {{}, scavo(dati, fine.fase).campi},
-                     safety::frase(d));
+    return Diagnosi{.causa = Causa::oscilla,
+                    .fase = fine.fase,
+                    .paratia = dati.lunghezzaParatia,
+                    .spostamento = std::fabs(fase.estremi.spostamento.valore),
+                    .ostacolo = safety::ostacolo(fine)};
 }
 
 }  // namespace korven::review

@@ -1,5 +1,6 @@
 #include "safety/mesh_error.hpp"
 
+#include <algorithm>
 #include <cmath>
 
 namespace korven::safety {
@@ -15,12 +16,20 @@ std::optional<Estremi> involuppo(const project::DatiProgetto& dati, int nSeg) {
     return equilibrium::estremi(fasi, dati.lunghezzaParatia / nSeg);
 }
 
+Andamento andamento(double a, double b, double c) {
+    constexpr double arrotondamento = 1e-9;  // of the value
+    if (std::max(std::fabs(a - b), std::fabs(b - c)) <= arrotondamento * c)
+        return Andamento::uguali;
+    const double rapporto = (a - b) / (b - c);  // 2 to the order
+    if (!std::isfinite(rapporto) || std::fabs(rapporto) <= 1) return Andamento::lontane;
+    return rapporto > 0 ? Andamento::avvicinano : Andamento::alternano;
+}
+
 ErroreGrandezza errore(double semplice, double doppia, double quadrupla) {
     const double a = std::fabs(semplice), b = std::fabs(doppia), c = std::fabs(quadrupla);
-    ErroreGrandezza e{.valore = a, .fine = c};
+    ErroreGrandezza e{.valore = a, .doppia = b, .fine = c, .andamento = andamento(a, b, c)};
     if (c > 0) e.quota = std::fabs(a - c) / c;
-    const double rapporto = (a - b) / (b - c);  // 2 to the order
-    if (std::isfinite(rapporto) && rapporto > 1) e.ordine = std::log2(rapporto);
+    if (e.andamento == Andamento::avvicinano) e.ordine = std::log2((a - b) / (b - c));
     return e;
 }
 

@@ -75,11 +75,10 @@ void riga(int fase, const safety::ConfrontoTiro& tiro, const Cella& manca, Prosp
 
 void riga(const project::Unita& u, const char* cosa, Cella (*valore)(double),
           const safety::ErroreGrandezza& e, Prospetto& p) {
-    p.righe.push_back({parola(traduttore(cosa) + " " + traParentesi(u)), valore(e.valore),
-                       valore(e.fine), e.quota ? cella(*e.quota, 1, unita::percento) : dove(0, 0),
-                       e.ordine
-                           ? cella(*e.ordine, 1, unita::nessuna)
-                           : senza(traduttore("Le tre maglie non si avvicinano a un valore."))});
+    p.righe.push_back(
+        {parola(traduttore(cosa) + " " + traParentesi(u)), valore(e.valore), valore(e.fine),
+         e.quota ? cella(*e.quota, 1, unita::percento) : dove(0, 0),
+         e.ordine ? cella(*e.ordine, 1, unita::nessuna) : senza(percheSenzaOrdine(e.andamento))});
 }
 
 // Sentences begin with a capital; the same words stand within lines elsewhere.
@@ -178,6 +177,24 @@ Prospetto prospettoMaglia(const Margine& margine) {
     riga(unita::spostamentoFine, "Spostamento", spostamento, e.spostamento, p);
     riga(unita::forzaAlMetro, "Tiro", forza, e.tiro, p);
     return p;
+}
+
+std::string percheSenzaOrdine(safety::Andamento andamento) {
+    switch (andamento) {
+        case safety::Andamento::avvicinano:
+            break;
+        case safety::Andamento::uguali:
+            return traduttore("Le tre maglie danno lo stesso valore.");
+        case safety::Andamento::alternano:
+            return traduttore(
+                "Le tre maglie si avvicinano a un valore dalle due parti: l'errore "
+                "non ha un ordine.");
+        case safety::Andamento::lontane:
+            return traduttore(
+                "Fra la seconda maglia e la terza il valore cambia quanto fra le "
+                "prime due o di più: a che valore tende non si vede ancora.");
+    }
+    return {};
 }
 
 std::string verdetto(const Margine& margine) { return frase(paroleDecisiva(margine)); }

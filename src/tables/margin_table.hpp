@@ -25,6 +25,9 @@ inline constexpr double fineBarraF = 3;
 /// stand, with this mesh or a finer one.
 [[nodiscard]] Prospetto prospettoMaglia(const safety::Margine& margine);
 
+/// Why the error of the mesh has no order, a sentence; empty where it has one.
+[[nodiscard]] std::string percheSenzaOrdine(safety::Andamento andamento);
+
 /// The verdict on the wall in one sentence.
 [[nodiscard]] std::string verdetto(const safety::Margine& margine);
 

@@ -38,9 +38,28 @@ TEST(CorsaAffiancataTest, TellsIterationsAndDifferencesOfEachStage) {
     for (int i = 1; i <= 41; ++i)
         scarto = std::max(scarto, std::fabs(esito.fasi[1].risultati.yNodo[i] -
                                             parete.fase(2)->y[static_cast<std::size_t>(i) - 1]));
-    EXPECT_EQ(f.scartoSpostamento, scarto);
-    EXPECT_LT(*f.scartoSpostamento, 1e-5);
-    EXPECT_LT(*f.scartoMomento, 0.01 * std::fabs(parete.estremi.momento().valore));
+    EXPECT_EQ(f.scartoSpostamento->valore, scarto);
+    EXPECT_LT(f.scartoSpostamento->valore, 1e-5);
+    EXPECT_LT(f.scartoMomento->valore, 0.01 * std::fabs(parete.estremi.momento().valore));
+}
+
+// The report's shear below an anchor is extrapolated from the two nodes under it, and above it that
+// less the anchor's force: the largest difference is told where it is, with both values.
+TEST(CorsaAffiancataTest, TellsTheDifferenceInShearOnBothSidesOfAnAnchor) {
+    const auto parete = live::calcola(test::progettoSemplice(), 40);
+    Conta altro;
+    CorsaAffiancata corsa(parete, altro);
+    const auto esito = analysis::calcolaFasi(parete.dati, 40, corsa);
+    const Scarto& s = *corsa.fasi()[1].scartoTaglio;
+    const auto& taglio = esito.fasi[1].risultati.taglioNodo;
+    const double sotto = 2 * taglio[7] - taglio[8];  // the anchor at 1.5 m is on node 6
+    const double vero = parete.fase(2)->taglio[5];   // the larger, which is below the anchor
+    ASSERT_GT(vero, 0);
+    EXPECT_GE(s.valore, std::fabs(sotto - vero) - 1e-12);
+    EXPECT_EQ(s.valore, std::fabs(s.corsa - s.equilibrio));
+    EXPECT_GT(s.valore, 0);
+    EXPECT_LT(s.valore, 0.1 * std::fabs(parete.estremi.taglio.valore));
+    EXPECT_FALSE(corsa.fasi()[0].scartoTaglio->valore > s.valore);
 }
 
 TEST(CorsaAffiancataTest, TellsOfAStageWithoutRestItsIterationsAlone) {

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include "support/sample_projects.hpp"
 
 namespace korven::safety {
@@ -26,7 +28,45 @@ TEST(ErroreMaglia, IsThatOfFiniteDifferencesForABeam) {
     const double fine = 1 + 0.8 / 1600;
     EXPECT_NEAR(errore->spostamento.quota.value_or(0), (1 + 0.8 / 100) / fine - 1, 1e-6);
     EXPECT_NEAR(errore->spostamento.ordine.value_or(0), 2, 1e-3);
+    EXPECT_EQ(errore->spostamento.andamento, Andamento::avvicinano);
+    EXPECT_NEAR(errore->spostamento.doppia / errore->spostamento.fine, (1 + 0.8 / 400) / fine,
+                1e-6);
     EXPECT_FALSE(errore->tiro.quota);
+}
+
+// The moment at mid span is the same at every even mesh: what rounding leaves is no order.
+TEST(ErroreMaglia, CallsMeshesEqualThatDifferByRoundingAlone) {
+    auto dati = test::muroNudo();
+    dati.vincoloTesta = dati.vincoloPiede = 2;
+    dati.pressioneOrizz = 1;
+    const auto errore =
+        erroreMaglia(dati, 10, equilibrium::estremi(calcolaEquilibrio(dati, 10), 1));
+    ASSERT_TRUE(errore);
+    EXPECT_EQ(errore->momento.andamento, Andamento::uguali);
+    EXPECT_FALSE(errore->momento.ordine);
+}
+
+// An order is there if and only if the second step is smaller and goes the same way.
+TEST(ErroreMaglia, HasAnOrderOnlyWhereTheMeshesCloseInFromOneSide) {
+    auto dati = test::progettoSemplice();
+    int lontane = 0, altre = 0;
+    for (double scavo = 3; scavo < 6; scavo += 0.13) {
+        dati.profFase[2] = scavo;
+        const auto e = erroreMaglia(
+            dati, 40,
+            equilibrium::estremi(calcolaEquilibrio(dati, 40), dati.lunghezzaParatia / 40));
+        ASSERT_TRUE(e);
+        for (const auto* g : {&e->momento, &e->taglio, &e->spostamento, &e->tiro}) {
+            if (g->andamento == Andamento::uguali) continue;
+            const double primo = g->valore - g->doppia, secondo = g->doppia - g->fine;
+            const bool minore = std::fabs(secondo) < std::fabs(primo);
+            EXPECT_EQ(g->andamento == Andamento::lontane, !minore);
+            EXPECT_EQ(g->ordine.has_value(), minore && primo * secondo > 0);
+            (g->andamento == Andamento::lontane ? lontane : altre) += 1;
+        }
+    }
+    EXPECT_GT(lontane, 0);
+    EXPECT_GT(altre, 0);
 }
 
 TEST(ErroreMaglia, IsNoneWhereAFinerMeshDoesNotStand) {

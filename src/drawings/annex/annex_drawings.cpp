@@ -11,6 +11,11 @@ void disegnaFase(const live::PareteViva& parete, int fase, double larghezza, dou
     disegnaScena(scenaFase(parete, fase, larghezza, altezza));
 }
 
+void disegnaMeccanismo(const live::PareteViva& parete, int fase, const PressioniLimite& pressioni,
+                       double larghezza, double altezza) {
+    disegnaScena(scenaMeccanismo(parete, fase, pressioni, larghezza, altezza));
+}
+
 void disegnaInviluppi(const live::PareteViva& parete, double larghezza, double altezza) {
     disegnaScena(scenaInviluppi(parete, larghezza, altezza));
 }

@@ -30,6 +30,10 @@ inline constexpr FormatoFigura formatoConfronto{17, 21};
 /// One stage, counted from 1 (`scenaFase`).
 void disegnaFase(const live::PareteViva& parete, int fase, double larghezza, double altezza);
 
+/// A stage that is a mechanism (`scenaMeccanismo`).
+void disegnaMeccanismo(const live::PareteViva& parete, int fase, const PressioniLimite& pressioni,
+                       double larghezza, double altezza);
+
 /// Moment, shear and displacement over all stages (`scenaInviluppi`).
 void disegnaInviluppi(const live::PareteViva& parete, double larghezza, double altezza);
 

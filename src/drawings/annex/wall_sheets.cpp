@@ -151,6 +151,31 @@ Scena scenaFase(const live::PareteViva& parete, int fase, double larghezza, doub
                        {largaPressioni, larga, larga, larga}, misuraCarta(larghezza, altezza));
 }
 
+Scena scenaMeccanismo(const live::PareteViva& parete, int fase, const PressioniLimite& pressioni,
+                      double larghezza, double altezza) {
+    constexpr double larga = 0.6;  // of the place of four panels: one scale is enough
+    DatiPannello p{.titolo = base::traduttore("Pressioni al limite"),
+                   .unita = project::unita::pressione,
+                   .curve = {}};
+    const auto curva = [&](const std::vector<double>& valori, Ruolo linea, const char* nome) {
+        CurvaPannello c;
+        c.valori = valori;
+        for (std::size_t i = 0; i < valori.size(); ++i)
+            c.z.push_back(static_cast<double>(i) * parete.h);
+        c.linea = linea;
+        c.nome = base::traduttore(nome);
+        p.curve.push_back(std::move(c));
+    };
+    curva(pressioni.monte, Ruolo::curva, "Monte");
+    curva(pressioni.valle, Ruolo::curvaValle, "Valle");
+    p.curve.back().tratteggio = scene::Tratteggio::linee;
+    if (std::any_of(pressioni.acqua.begin(), pressioni.acqua.end(),
+                    [](double v) { return v != 0; }))
+        curva(pressioni.acqua, Ruolo::acqua, "Acqua");
+    return conPannelli(parete, fase, scaviDi(parete.dati, fase, fase), {std::move(p)}, {1},
+                       misuraCarta(larga * larghezza, altezza));
+}
+
 Scena scenaInviluppi(const live::PareteViva& parete, double larghezza, double altezza) {
     return conPannelli(parete, 0, scaviDi(parete.dati, 1, parete.dati.nFasi),
                        pannelliInviluppo(parete), {1, 1, 1}, misuraCarta(larghezza, altezza));

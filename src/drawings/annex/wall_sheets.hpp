@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "live/wall.hpp"
 #include "scene/picture.hpp"
@@ -15,6 +16,17 @@ namespace korven::drawings {
 /// @param fase  counted from 1
 [[nodiscard]] scene::Scena scenaFase(const live::PareteViva& parete, int fase, double larghezza,
                                      double altezza);
+
+/// Limit pressures of a wall that moves as a mechanism, node 1 in element 0 [t/m2].
+struct PressioniLimite {
+    std::vector<double> monte, valle, acqua;
+};
+
+/// A stage that is a mechanism: the wall as it falls, beside it what both sides can give at most.
+/// @param fase  counted from 1
+[[nodiscard]] scene::Scena scenaMeccanismo(const live::PareteViva& parete, int fase,
+                                           const PressioniLimite& pressioni, double larghezza,
+                                           double altezza);
 
 /// Moments, shears and displacements of all stages that stand as thin lines, their envelopes as
 /// bold ones, with value, depth and stage of the peaks, beside the wall with all its stages.

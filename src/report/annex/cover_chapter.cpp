@@ -1,5 +1,3 @@
-#include <algorithm>
-#include <optional>
 #include <string>
 #include <utility>
 
@@ -10,9 +8,7 @@
 #include "project/shown_number.hpp"
 #include "report/annex/chapters.hpp"
 #include "report/annex/columns.hpp"
-#include "review/remark.hpp"
-#include "safety/margin_words.hpp"
-#include "tables/margin_table.hpp"
+#include "report/annex/verdict_table.hpp"
 #include "tables/quantities.hpp"
 #include "tables/result_table.hpp"
 
@@ -20,7 +16,6 @@ namespace korven::report {
 
 using base::riempito;
 using base::traduttore;
-using tables::Cella;
 using tables::parola;
 
 namespace {
@@ -76,92 +71,6 @@ tables::Prospetto identita(const Fascicolo& f) {
     return p;
 }
 
-// The use of a resistance that is largest, with the words of the check.
-struct Sfruttamento {
-    const char* cosa;
-    double quota;
-    live::DoveVerifica dove;
-};
-
-std::string parole(const Sfruttamento& s) {
-    return riempito(traduttore("sfruttamento %1 % (%2, fase %3, z = %4 m)"),
-                    {tables::cella(s.quota, 1, unita::percento).testo, traduttore(s.cosa),
-                     std::to_string(s.dove.fase), tables::profondita(s.dove.z).testo});
-}
-
-std::vector<Cella> riga(const char* cosa, Cella verdetto, std::string dettaglio) {
-    return {parola(traduttore(cosa)), std::move(verdetto), parola(std::move(dettaglio))};
-}
-
-Cella verificato(bool fallito) {
-    return tables::esito(traduttore(fallito ? "non verificato" : "verificato"), fallito);
-}
-
-Cella nessunaVerifica() { return parola(traduttore("nessuna verifica")); }
-
-std::vector<Cella> equilibrio(const Fascicolo& f) {
-    std::string dettaglio = f.margine ? tables::verdetto(*f.margine) : f.parete.rifiuto;
-    return riga("Equilibrio di tutte le fasi", verificato(!f.parete.sta()), std::move(dettaglio));
-}
-
-std::string senzaAzioni() { return traduttore("La paratia non è in equilibrio."); }
-
-std::vector<Cella> flessione(const Fascicolo& f) {
-    constexpr const char* cosa = "Flessione";
-    if (!f.flessione || !f.controlli.flessione)
-        return riga(cosa, nessunaVerifica(), traduttore("La sezione non è definita."));
-    if (!f.controlli.conAzioni || !f.parete.sta())
-        return riga(cosa, nessunaVerifica(), senzaAzioni());
-    const bool fallita = f.controlli.flessione->fallitaPos() || f.controlli.flessione->fallitaNeg();
-    std::optional<Sfruttamento> peggiore;
-    for (const Sfruttamento& s :
-         {Sfruttamento{"momento positivo", f.flessione->positivo.uso.value_or(-1),
-                       f.controlli.positivo},
-          Sfruttamento{"momento negativo", f.flessione->negativo.uso.value_or(-1),
-                       f.controlli.negativo}})
-        if (s.quota >= 0 && (!peggiore || s.quota > peggiore->quota)) peggiore = s;
-    return riga(cosa, verificato(fallita),
-                peggiore ? parole(*peggiore) : traduttore("La resistenza è 0."));
-}
-
-std::vector<Cella> taglio(const Fascicolo& f) {
-    constexpr const char* cosa = "Taglio";
-    if (!f.taglio || !f.controlli.taglio)
-        return riga(
-            cosa, nessunaVerifica(),
-            traduttore("Il taglio si verifica solo per pali armati con le staffe scritte."));
-    if (!f.controlli.conAzioni || !f.parete.sta())
-        return riga(cosa, nessunaVerifica(), senzaAzioni());
-    const double bielle = f.taglio->usoBielle.value_or(-1),
-                 armatura = f.taglio->usoArmatura.value_or(-1);
-    const Sfruttamento peggiore =
-        bielle > armatura ? Sfruttamento{"bielle di calcestruzzo", bielle, f.controlli.diTaglio}
-                          : Sfruttamento{"armatura d'anima", armatura, f.controlli.diTaglio};
-    return riga(
-        cosa,
-        verificato(f.controlli.taglio->rotturaBielle() || f.controlli.taglio->rotturaArmatura()),
-        peggiore.quota < 0 ? traduttore("La resistenza è 0.") : parole(peggiore));
-}
-
-std::vector<Cella> osservazioni(const Fascicolo& f) {
-    const int gravi = review::quante(f.osservazioni, review::Peso::pericolo) +
-                      review::quante(f.osservazioni, review::Peso::impedisce);
-    return riga(
-        "Osservazioni di peso pericolo",
-        tables::esito(gravi == 0 ? traduttore("nessuna") : std::to_string(gravi), gravi > 0),
-        riempito(traduttore("%1 in tutto, nel capitolo Osservazioni"),
-                 {std::to_string(f.osservazioni.size())}));
-}
-
-tables::Prospetto verdetti(const Fascicolo& f) {
-    tables::Prospetto p{.titolo = traduttore("Verdetti"),
-                        .colonne = {colonna("Verifica"), colonna("Esito"), colonna("Dettaglio")}};
-    p.righe = {equilibrio(f), flessione(f), taglio(f), osservazioni(f)};
-    if (f.margine && !safety::paroleRelazione(*f.margine).empty())
-        p.note.push_back(safety::paroleRelazione(*f.margine));
-    return p;
-}
-
 // Lines to be filled in by hand.
 std::string firma(const char* chi) {
     const auto riga = [](const char* cosa, std::size_t lunga) {
@@ -180,7 +89,7 @@ void capitoloCopertina(const Contesto& contesto, Blocchi& blocchi) {
         if (!f.scritti.titoli[i].empty())
             blocchi.emplace_back(Paragrafo{f.scritti.titoli[i], Stile::rilievo});
     blocchi.emplace_back(document::Tavola{identita(f)});
-    blocchi.emplace_back(document::Tavola{verdetti(f)});
+    blocchi.emplace_back(document::Tavola{prospettoVerdetti(f)});
     blocchi.emplace_back(Paragrafo{
         traduttore(
             "I numeri delle fasi sono quelli della soluzione di equilibrio: in ogni nodo le forze "

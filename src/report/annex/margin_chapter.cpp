@@ -1,12 +1,14 @@
 #include <string>
 #include <utility>
 
+#include "base/colon.hpp"
 #include "base/filled_text.hpp"
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
 #include "report/annex/chapters.hpp"
+#include "report/annex/columns.hpp"
 #include "report/annex/table_pieces.hpp"
-#include "safety/strength_reduction.hpp"
+#include "report/annex/twin_words.hpp"
 #include "tables/margin_table.hpp"
 #include "tables/node_table.hpp"
 
@@ -27,10 +29,49 @@ void parte(const std::string& spiegazione, tables::Prospetto prospetto, Blocchi&
     for (const std::string& nota : prospetto.note) paragrafo(nota, blocchi);
 }
 
-// Where an anchor is stands in its own chapter: a dash is enough.
-tables::Prospetto statica(const Margine& margine) {
-    tables::Prospetto p = tables::prospettoStatica(margine);
+// The statics alone where there is no report. Where an anchor is stands in its own chapter: a dash
+// is enough.
+tables::Prospetto statica(const dossier::Fascicolo& f) {
+    if (!f.doppi.empty()) return prospettoDoppi(f);
+    tables::Prospetto p = tables::prospettoStatica(*f.margine);
+    p.titolo = traduttore("Equilibrio e relazione");
     for (auto& riga : p.righe) riga[3].perche.clear();
+    return p;
+}
+
+// The three meshes, so that error and order can be followed; notes by name say which has none.
+tables::Prospetto maglia(const Margine& margine) {
+    tables::Prospetto p = tables::prospettoMaglia(margine);
+    if (!margine.maglia) return p;
+    const safety::ErroreMaglia& e = *margine.maglia;
+    using tables::Cella;
+    const auto testa = [&](int volte) {
+        auto c = numeri("%1 segmenti");
+        c.titolo = riempito(c.titolo, {std::to_string(volte * margine.nSeg)});
+        return c;
+    };
+    p.colonne = {colonna("Massimi"),
+                 testa(1),
+                 testa(2),
+                 testa(4),
+                 numeri(project::unita::percento, "Errore"),
+                 numeri("Ordine")};
+    p.righe.clear();
+    const auto riga = [&](const project::Unita& u, const char* cosa, Cella (*cella)(double),
+                          const safety::ErroreGrandezza& g) {
+        if (g.fine == 0 && g.valore == 0) return;
+        p.righe.push_back(
+            {conUnita(u, cosa), cella(g.valore), cella(g.doppia), cella(g.fine),
+             g.quota ? tables::cella(*g.quota, 1, project::unita::percento) : Cella{},
+             g.ordine ? tables::cella(*g.ordine, 1, project::unita::nessuna) : Cella{}});
+        if (!g.ordine)
+            p.note.push_back(
+                base::conDuePunti(traduttore(cosa), tables::percheSenzaOrdine(g.andamento)));
+    };
+    riga(project::unita::momentoAlMetro, "Momento", tables::momento, e.momento);
+    riga(project::unita::forzaAlMetro, "Taglio", tables::forza, e.taglio);
+    riga(project::unita::spostamentoFine, "Spostamento", tables::spostamento, e.spostamento);
+    riga(project::unita::forzaAlMetro, "Tiro", tables::forza, e.tiro);
     return p;
 }
 
@@ -40,6 +81,26 @@ void verdetto(const Margine& margine, Blocchi& blocchi) {
                                           *decisiva->riduzione.F < safety::riduzionePericolosa);
     paragrafo(tables::verdetto(margine), blocchi, grave ? Stile::pericolo : Stile::rilievo);
     for (const std::string& frase : tables::frasi(margine)) paragrafo(frase, blocchi);
+}
+
+void margineDiFase(const Margine& margine, Blocchi& blocchi) {
+    parte(traduttore("F divide la tangente dell'angolo di attrito e la coesione di tutti "
+                     "gli strati, dai due lati: è il più grande con cui la fase ha ancora "
+                     "un equilibrio (Griffiths, Lane, Slope stability analysis by finite "
+                     "elements, 1999). Nei calcoli del resto del documento il terreno ha "
+                     "tutta la sua resistenza. F non riduce tiranti e vincoli: il calcolo "
+                     "li prende con resistenza senza limite. Passiva: la pressione del "
+                     "terreno davanti alla paratia sotto lo scavo, in parte della sua "
+                     "resistenza passiva."),
+          tables::prospettoMargine(margine), blocchi);
+    paragrafo(
+        riempito(traduttore("Sotto %1 il programma dice F un pericolo: è %3 dell'insieme M2 "
+                            "(EN 1997-1:2004, tabella A.4; NTC 2018, tabella 6.2.II). Sotto %2 lo "
+                            "dice da vedere: è un consiglio di questo programma, di nessuna norma. "
+                            "Quale sicurezza è richiesta lo decide la norma del progetto."),
+                 {base::testoDecimali(safety::riduzionePericolosa, 2),
+                  base::testoDecimali(safety::riduzioneDaVedere, 2), "γφ' = γc'"}),
+        blocchi, Stile::nota);
 }
 
 }  // namespace
@@ -54,23 +115,16 @@ void capitoloMargine(const Contesto& contesto, Blocchi& blocchi) {
     }
     const Margine& margine = *f.margine;
     verdetto(margine, blocchi);
-    parte(riempito(traduttore("F divide la tangente dell'angolo di attrito e la coesione di tutti "
-                              "gli strati, dai due lati: è il più grande con cui la fase ha ancora "
-                              "un equilibrio (Griffiths, Lane, Slope stability analysis by finite "
-                              "elements, 1999). Sotto %1 è da vedere, sotto %2 è un pericolo. Nei "
-                              "calcoli del resto del documento il terreno ha tutta la sua "
-                              "resistenza. Passiva: la pressione del terreno davanti alla paratia "
-                              "sotto lo scavo, in parte della sua resistenza passiva."),
-                   {base::testoDecimali(safety::riduzioneDaVedere, 2),
-                    base::testoDecimali(safety::riduzionePericolosa, 2)}),
-          tables::prospettoMargine(margine), blocchi);
-    parte(traduttore("I massimi di tutte le fasi con i segmenti del progetto e con quattro volte "
-                     "tanti: quanto la divisione in segmenti ne sposta i valori."),
-          tables::prospettoMaglia(margine), blocchi);
-    parte(traduttore("I massimi dell'equilibrio dei nodi accanto a quelli della relazione. "
-                     "Differiscono dove le regole della relazione lasciano la statica: forza in "
-                     "testa, tiranti lenti, piede incastrato, puntoni molto rigidi."),
-          statica(margine), blocchi);
+    margineDiFase(margine, blocchi);
+    parte(traduttore("I massimi di tutte le fasi con i segmenti del progetto, con il doppio e con "
+                     "quattro volte tanti: a, b, c. Errore: |a - c| / c. Ordine: log2((a - b) / "
+                     "(b - c)), la potenza del passo con cui l'errore diminuisce; 2 è quello delle "
+                     "differenze finite. Scavo, falda, strati e tiranti contano dal nodo più "
+                     "vicino, che ogni maglia ha altrove: l'ordine vero può esserne coperto."),
+          maglia(margine), blocchi);
+    parte(traduttore("I massimi dell'equilibrio dei nodi accanto a quelli della relazione, fase "
+                     "per fase; la relazione tronca i numeri alla seconda cifra."),
+          statica(f), blocchi);
 }
 
 }  // namespace korven::report

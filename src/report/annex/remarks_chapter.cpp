@@ -2,11 +2,14 @@
 #include <utility>
 
 #include "base/code_page.hpp"
+#include "base/colon.hpp"
 #include "base/filled_text.hpp"
 #include "base/translated_texts.hpp"
 #include "report/annex/chapters.hpp"
 #include "report/annex/columns.hpp"
+#include "review/equilibrium_remarks.hpp"
 #include "review/remark.hpp"
+#include "safety/words.hpp"
 #include "tables/result_table.hpp"
 
 namespace korven::report {
@@ -15,18 +18,33 @@ using base::traduttore;
 
 namespace {
 
+// What is stopped is the run of the report: the stages of this document are not of it.
+std::string titolo(review::Peso peso) {
+    return base::conMaiuscola(traduttore(peso == review::Peso::impedisce
+                                             ? "impedisce il calcolo per fasi"
+                                             : std::string(review::parolaMostrata(peso))));
+}
+
+// Elsewhere a remark names the command that computes what stands here.
+std::string testo(const dossier::Fascicolo& f, const review::Osservazione& o) {
+    if (o.codice != review::codiceOscilla || !f.margine) return o.testo;
+    const auto diagnosi = review::oscillazione(f.parete.dati, *f.margine);
+    if (!diagnosi) return o.testo;
+    return safety::inBreve(*diagnosi) + base::puntoEVirgola() +
+           traduttore("la relazione non ha numeri, il suo equilibrio è nel capitolo Fasi");
+}
+
 // One table a weight: what stops a run is not to be looked for among hints.
-document::Tavola tavola(const review::Osservazioni& tutte, review::Peso peso) {
+document::Tavola tavola(const dossier::Fascicolo& f, review::Peso peso) {
     using tables::parola;
-    tables::Prospetto p{
-        .titolo = base::conMaiuscola(traduttore(std::string(review::parolaMostrata(peso)))),
-        .colonne = {colonnaNumero(), colonna("Osservazione"), colonna("Codice")}};
+    tables::Prospetto p{.titolo = titolo(peso),
+                        .colonne = {colonnaNumero(), colonna("Osservazione"), colonna("Codice")}};
     int numero = 0;
-    for (const review::Osservazione& o : tutte) {
+    for (const review::Osservazione& o : f.osservazioni) {
         ++numero;
         if (o.peso == peso)
             p.righe.push_back(
-                {tables::cella(numero), parola(o.testo), parola(std::string(o.codice))});
+                {tables::cella(numero), parola(testo(f, o)), parola(std::string(o.codice))});
     }
     return {std::move(p)};
 }
@@ -52,7 +70,8 @@ void capitoloOsservazioni(const Contesto& contesto, Blocchi& blocchi) {
         {}});
     for (const review::Peso peso :
          {review::Peso::impedisce, review::Peso::pericolo, review::Peso::daVedere})
-        if (review::quante(tutte, peso) > 0) blocchi.emplace_back(tavola(tutte, peso));
+        if (review::quante(tutte, peso) > 0)
+            blocchi.emplace_back(tavola(*contesto.fascicolo, peso));
 }
 
 }  // namespace korven::report

@@ -1,5 +1,9 @@
 #include "report/annex/run_tables.hpp"
 
+#include <utility>
+#include <vector>
+
+#include "base/colon.hpp"
 #include "base/filled_text.hpp"
 #include "base/translated_texts.hpp"
 #include "report/annex/columns.hpp"
@@ -12,6 +16,7 @@ using base::riempito;
 using base::traduttore;
 using dossier::CorsaFase;
 using dossier::Fascicolo;
+using dossier::Scarto;
 using tables::Cella;
 using tables::Prospetto;
 namespace unita = project::unita;
@@ -23,8 +28,47 @@ const CorsaFase* corsa(const Fascicolo& f, int fase) {
     return i < f.corsa.size() ? &f.corsa[i] : nullptr;
 }
 
-Cella scarto(const std::optional<double>& valore, Cella (*cella)(double)) {
-    return valore ? cella(*valore) : Cella{};
+Cella scarto(const std::optional<Scarto>& s, Cella (*cella)(double)) {
+    return s ? cella(s->valore) : Cella{};
+}
+
+// The stages that differ for one reason, by depth.
+struct Causa {
+    std::string perche;
+    std::vector<std::pair<std::string, std::string>> dove;  // depth, stages
+};
+
+// The element of a list that a word begins, added where there is none.
+template <class T, class Parola>
+T& trova(std::vector<T>& tutti, Parola T::*parola, const std::string& cercata) {
+    for (T& uno : tutti)
+        if (uno.*parola == cercata) return uno;
+    T& nuovo = tutti.emplace_back();
+    nuovo.*parola = cercata;
+    return nuovo;
+}
+
+// "Scarto del taglio (fase 2, 3 a 1.60 m): at the anchor ...", a reason once for all its stages.
+void motivi(const Fascicolo& f, const char* cosa, std::optional<Scarto> CorsaFase::*quale,
+            Prospetto& p) {
+    using Dove = std::pair<std::string, std::string>;
+    std::vector<Causa> cause;
+    for (const CorsaFase& c : f.corsa) {
+        const std::optional<Scarto>& s = c.*quale;
+        if (!s || s->perche.empty()) continue;
+        std::string& fasi = trova(trova(cause, &Causa::perche, s->perche).dove, &Dove::first,
+                                  tables::profondita(s->z).testo)
+                                .second;
+        fasi += (fasi.empty() ? "" : ", ") + std::to_string(c.fase);
+    }
+    for (const Causa& causa : cause) {
+        std::string dove;
+        for (const auto& [z, fasi] : causa.dove)
+            dove += (dove.empty() ? std::string() : base::puntoEVirgola()) +
+                    riempito(traduttore("fase %1 a %2 m"), {fasi, z});
+        p.note.push_back(
+            inFrase(base::conDuePunti(traduttore(cosa) + " (" + dove + ")", causa.perche)));
+    }
 }
 
 // Why there is no run, or why it has no report; empty where both are.
@@ -40,7 +84,8 @@ Prospetto prospettoCorse(const Fascicolo& f) {
     Prospetto p{.titolo = traduttore("Soluzione di equilibrio e calcolo per fasi"),
                 .colonne = {numeri("Fase"), numeri("Passi"), numeri("Iterazioni"), colonna("Esito"),
                             numeri(unita::spostamentoFine, "Scarto dello spostamento"),
-                            numeri(unita::momentoAlMetro, "Scarto del momento")}};
+                            numeri(unita::momentoAlMetro, "Scarto del momento"),
+                            numeri(unita::forzaAlMetro, "Scarto del taglio")}};
     for (int k = 1; k <= f.parete.fasiInEquilibrio(); ++k) {
         auto& riga = p.righe.emplace_back(
             std::vector{tables::cella(k), tables::cella(f.parete.fase(k)->passi)});
@@ -52,11 +97,14 @@ Prospetto prospettoCorse(const Fascicolo& f) {
                                 !c->convergente);
         riga[4] = scarto(c->scartoSpostamento, tables::spostamento);
         riga[5] = scarto(c->scartoMomento, tables::momento);
+        riga[6] = scarto(c->scartoTaglio, tables::forza);
     }
     p.note.push_back(traduttore(
         "Passi: del metodo di Newton, con cui si trova la soluzione di equilibrio. Iterazioni: "
         "del calcolo per fasi, che scrive la relazione. Scarti: le maggiori differenze "
         "fra i due lungo la paratia, in valore assoluto."));
+    motivi(f, "Scarto del momento", &CorsaFase::scartoMomento, p);
+    motivi(f, "Scarto del taglio", &CorsaFase::scartoTaglio, p);
     if (std::string frase = sullaCorsa(f); !frase.empty()) p.note.push_back(std::move(frase));
     return p;
 }
@@ -68,15 +116,17 @@ std::string frasePassi(const Fascicolo& f, int fase) {
         return riempito(traduttore("Equilibrio trovato in %1 passi. Il calcolo per fasi non ha "
                                    "numeri di questa fase."),
                         {passi});
-    if (!c->convergente || !c->scartoSpostamento || !c->scartoMomento)
+    if (!c->convergente || !c->scartoSpostamento || !c->scartoMomento || !c->scartoTaglio)
         return riempito(traduttore("Equilibrio trovato in %1 passi. Il calcolo per fasi non si è "
                                    "assestato: iterazioni %2."),
                         {passi, std::to_string(c->iterazioni)});
     return riempito(
         traduttore("Equilibrio trovato in %1 passi. Calcolo per fasi: iterazioni %2; ne differisce "
-                   "al più di %3 mm e di %4 kN m/m."),
-        {passi, std::to_string(c->iterazioni), tables::spostamento(*c->scartoSpostamento).testo,
-         tables::momento(*c->scartoMomento).testo});
+                   "al più di %3 mm, di %4 kN m/m nel momento e di %5 kN/m nel taglio."),
+        {passi, std::to_string(c->iterazioni),
+         tables::spostamento(c->scartoSpostamento->valore).testo,
+         tables::momento(c->scartoMomento->valore).testo,
+         tables::forza(c->scartoTaglio->valore).testo});
 }
 
 }  // namespace korven::report

@@ -10,6 +10,7 @@
 #include "report/annex/section_tables.hpp"
 #include "report/annex/shear_rules.hpp"
 #include "report/annex/table_pieces.hpp"
+#include "report/annex/twin_words.hpp"
 #include "structure/limit_search.hpp"
 #include "structure/partial_factors.hpp"
 #include "structure/strip_model.hpp"
@@ -53,6 +54,9 @@ void azioni(const Fascicolo& f, Blocchi& blocchi) {
             {due(structure::fsAzioniSezione), due(structure::fsCalcestruzzo),
              due(structure::fsAcciaio)}),
         blocchi);
+    paragrafo(traduttore("Nelle formule i valori messi hanno una cifra in più del risultato, che è "
+                         "arrotondato una volta sola."),
+              blocchi, Stile::nota);
 }
 
 // The strains at which a direction of bending reaches its resistance.
@@ -169,6 +173,11 @@ void capitoloSezione(const Contesto& contesto, Blocchi& blocchi) {
     }
     azioni(f, blocchi);
     tavola(prospettoControlli(f), blocchi);
+    if (auto p = prospettoVerificheDoppie(f); !p.righe.empty())
+        tavola(std::move(p), blocchi);
+    else if (f.conRelazione())
+        paragrafo(traduttore("La relazione fa le stesse verifiche con gli stessi numeri."), blocchi,
+                  Stile::nota);
     flessione(f, blocchi);
     dominio(contesto, blocchi);
     taglio(f, blocchi);

@@ -62,7 +62,7 @@ Prospetto prospettoScostamentiTaglio(const project::DatiProgetto& dati, const Va
          riempito(traduttore("il diametro: %1"), {mm(w.bw)}), aSfavore);
     riga("d", traduttore("fino al baricentro delle barre tese"),
          riempito(traduttore("fino alla barra più lontana: %1"), {mm(w.d)}), aSfavore);
-    riga("σcp", traduttore("0.15 σcp sommato a τRd k (1.2 + 40 ρl)"),
+    riga("σcp", "τRd k (1.2 + 40 ρl) + 0.15 σcp",
          riempito(traduttore("0, lo sforzo normale di %1 kN/m non entra"),
                   {project::numeroMostrato(project::inKilonewton(dati.sforzoNormale), 2)}),
          effettoNormale(dati.sforzoNormale));
@@ -75,6 +75,7 @@ Prospetto prospettoScostamentiTaglio(const project::DatiProgetto& dati, const Va
 
 std::string percheSenzaTaglio(const Fascicolo& f) {
     assert(!f.taglio);
+    if (!f.flessione) return traduttore("La sezione non è definita.");
     switch (structure::tipoSezione(f.parete.dati.sezione)) {
         case TipoSezione::diaframma:
             return traduttore("Il programma non ha una verifica a taglio per i diaframmi.");

@@ -150,7 +150,7 @@ void alMetroDiParatia(const ValoriTaglio& v, Prospetto& p) {
         aggiungi({cosa,
                   std::string(simbolo) + "'",
                   "%1 / %2",
-                  {termine(simbolo, inKilonewton(VRd), 3), termine("i", i, 4)},
+                  {termine(simbolo, inKilonewton(VRd), 4), termine("i", i, 4)},
                   valore,
                   2,
                   unitaForza},

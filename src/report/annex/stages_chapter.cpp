@@ -8,10 +8,12 @@
 #include "drawings/annex/annex_drawings.hpp"
 #include "report/annex/chapters.hpp"
 #include "report/annex/chosen_rows.hpp"
+#include "report/annex/mechanism_tables.hpp"
 #include "report/annex/peaks.hpp"
 #include "report/annex/run_tables.hpp"
 #include "report/annex/stage_tables.hpp"
 #include "report/annex/table_pieces.hpp"
+#include "report/annex/twin_words.hpp"
 #include "tables/node_table.hpp"
 #include "tables/quantities.hpp"
 #include "tables/stage_table.hpp"
@@ -77,14 +79,30 @@ double altezzaFigura(const Fascicolo& f, int fase) {
 
 document::Figura figura(const Contesto& contesto, int fase) {
     const auto f = contesto.fascicolo;
-    const bool sta = f->parete.fase(fase) != nullptr;
     const double larghezza = drawings::formatoFase.larghezza, altezza = altezzaFigura(*f, fase);
-    return {riempito(traduttore(sta ? "Fase %1: paratia, pressioni, spostamento, momento e taglio"
-                                    : "Fase %1: come la paratia cade"),
+    return {riempito(traduttore("Fase %1: paratia, pressioni, spostamento, momento e taglio"),
                      {std::to_string(fase)}),
-            sta ? descrizione(*f, fase) : tables::perche(f->parete, fase), larghezza, altezza,
-            [f, fase, larghezza, altezza] {
+            descrizione(*f, fase), larghezza, altezza, [f, fase, larghezza, altezza] {
                 drawings::disegnaFase(f->parete, fase, larghezza, altezza);
+            }};
+}
+
+// A stage that does not stand: how it falls, with the limit pressures of a mechanism.
+document::Figura figuraCaduta(const Contesto& contesto, int fase) {
+    const auto f = contesto.fascicolo;
+    const auto [larghezza, altezza] = drawings::formatoFase;
+    return {riempito(traduttore("Fase %1: come la paratia cade"), {std::to_string(fase)}),
+            tables::perche(f->parete, fase), larghezza, altezza,
+            [f, fase, larghezza = larghezza, altezza = altezza] {
+                if (!f->limite || f->limite->fase != fase)
+                    return drawings::disegnaFase(f->parete, fase, larghezza, altezza);
+                drawings::PressioniLimite p;
+                for (const dossier::NodoAlLimite& n : f->limite->nodi) {
+                    p.monte.push_back(n.monte);
+                    p.valle.push_back(n.valle);
+                    p.acqua.push_back(n.acqua);
+                }
+                drawings::disegnaMeccanismo(f->parete, fase, p, larghezza, altezza);
             }};
 }
 
@@ -109,7 +127,18 @@ void inEquilibrio(const Contesto& contesto, int fase, Blocchi& blocchi) {
     const auto i = static_cast<std::size_t>(fase) - 1;
     if (i < f.bilanci.size()) tavola(prospettoBilancio(f.bilanci[i]), blocchi);
     paragrafo(frasePassi(f, fase), blocchi, Stile::nota);
+    paragrafo(fraseDoppi(f, fase), blocchi, Stile::nota);
     tavola(nodi(contesto, fase), blocchi);
+}
+
+void alLimite(const Contesto& contesto, int fase, Blocchi& blocchi) {
+    const auto& limite = contesto.fascicolo->limite;
+    if (!limite || limite->fase != fase) return;
+    paragrafo(fraseMeccanismo(*limite), blocchi);
+    tavola(prospettoLimite(*limite), blocchi);
+    Prospetto pressioni = prospettoPressioniLimite(*limite);
+    sfoltisci(pressioni, contesto.opzioni.righe, {});
+    tavola(std::move(pressioni), blocchi);
 }
 
 void unaFase(const Contesto& contesto, int fase, Blocchi& blocchi) {
@@ -119,8 +148,13 @@ void unaFase(const Contesto& contesto, int fase, Blocchi& blocchi) {
     if (f.parete.fase(fase) == nullptr)
         paragrafo(tables::perche(f.parete, fase), blocchi, Stile::pericolo);
     tavola(prospettoCondizioni(f.parete.dati, fase), blocchi);
-    blocchi.emplace_back(figura(contesto, fase));
-    if (f.parete.fase(fase) != nullptr) inEquilibrio(contesto, fase, blocchi);
+    if (f.parete.fase(fase) != nullptr) {
+        blocchi.emplace_back(figura(contesto, fase));
+        inEquilibrio(contesto, fase, blocchi);
+    } else {
+        blocchi.emplace_back(figuraCaduta(contesto, fase));
+        alLimite(contesto, fase, blocchi);
+    }
 }
 
 }  // namespace

@@ -125,6 +125,29 @@ TEST_F(DisegniAllegato, OfAnyWallHaveNoTextOverAnother) {
         verificaParete(live::calcola(test::leggiMuro(file), segmenti), file);
 }
 
+// Beside a wall that falls stand the limits of both sides, on its own depths.
+TEST_F(DisegniAllegato, OfAMechanismHaveTheLimitPressuresInAllLanguages) {
+    auto dati = test::progettoSemplice();
+    dati.profFase[2] = 11.9;
+    dati.tirantiFase[2] = 0;
+    const auto parete = live::calcola(dati, segmenti);
+    ASSERT_EQ(parete.fasiInEquilibrio(), 1);
+    PressioniLimite p;
+    for (int i = 0; i <= segmenti; ++i) {
+        p.monte.push_back(0.3 * i);
+        p.valle.push_back(i < segmenti / 2 ? 0 : -3.0 * i);
+        p.acqua.push_back(0);
+    }
+    for (int lingua = 1; lingua <= 6; ++lingua) {
+        base::impostaLingua(lingua);
+        const Scena s = scenaMeccanismo(parete, 2, p, formatoFase.larghezza, formatoFase.altezza);
+        verifica(s, std::to_string(lingua));
+        std::string testi;
+        for (const Testo& t : test::figure<Testo>(s)) testi += t.testo + "\n";
+        EXPECT_NE(testi.find("-900"), std::string::npos) << testi;  // kN/m2 at the toe
+    }
+}
+
 struct Picco {
     double valore, z;
 };

@@ -20,16 +20,46 @@ TEST(CapitoloMargine, HoldsTheMarginOfTheDossier) {
     const safety::Margine& m = *c.fascicolo->margine;
     EXPECT_EQ(tavole[0].prospetto.righe, tables::prospettoMargine(m).righe);
     EXPECT_EQ(test::numero(tavole[0].prospetto, 1, 2), *m.fasi[1].riduzione.F);
-    EXPECT_EQ(tavole[1].prospetto.righe, tables::prospettoMaglia(m).righe);
-    const auto statica = tables::prospettoStatica(m).righe;
-    ASSERT_EQ(tavole[2].prospetto.righe.size(), statica.size());
-    for (std::size_t i = 0; i < statica.size(); ++i)
-        for (std::size_t j = 0; j < statica[i].size(); ++j) {
-            EXPECT_EQ(tavole[2].prospetto.righe[i][j].testo, statica[i][j].testo);
-            EXPECT_EQ(tavole[2].prospetto.righe[i][j].numero, statica[i][j].numero);
-        }
+    const safety::ErroreGrandezza& M = m.maglia->momento;
+    EXPECT_EQ(test::numero(tavole[1].prospetto, 0, 1), 10 * M.valore);
+    EXPECT_EQ(test::numero(tavole[1].prospetto, 0, 2), 10 * M.doppia);
+    EXPECT_EQ(test::numero(tavole[1].prospetto, 0, 3), 10 * M.fine);
+    EXPECT_NEAR(test::numero(tavole[1].prospetto, 0, 4), 100 * *M.quota, 1e-9);
+    const tables::Prospetto& doppi = tavole[2].prospetto;
+    std::size_t riga = 0;
+    for (const dossier::NumeroDoppio& d : c.fascicolo->doppi) {
+        if (d.equilibrio == 0 && d.relazione == 0) continue;
+        EXPECT_EQ(test::numero(doppi, riga, 2), 10 * d.equilibrio);
+        EXPECT_EQ(test::numero(doppi, riga, 4), 10 * d.relazione);
+        EXPECT_EQ(doppi.righe[riga][7].numero.has_value(), d.diverso());
+        ++riga;
+    }
+    EXPECT_EQ(doppi.righe.size(), riga);
     EXPECT_NE(testo(b).find(tables::verdetto(m)), std::string::npos);
     for (const auto& frase : tables::frasi(m)) EXPECT_NE(testo(b).find(frase), std::string::npos);
+}
+
+// Whose the limits are: the smaller one a code's, the other this program's own.
+TEST(CapitoloMargine, SaysWhoseTheLimitsOfTheFactorAre) {
+    const std::string detto = testo(margine(contesto(test::progettoSemplice())));
+    EXPECT_NE(detto.find("Sotto 1.25 il programma dice F un pericolo: è γφ' = γc' dell'insieme M2"),
+              std::string::npos);
+    EXPECT_NE(detto.find("Sotto 1.50 lo dice da vedere: è un consiglio di questo programma"),
+              std::string::npos);
+}
+
+// A row whose three meshes give no order is named with the reason.
+TEST(CapitoloMargine, NamesTheRowWithoutAnOrder) {
+    const Contesto c = contesto(test::progettoSemplice());
+    const auto p = test::tutti<document::Tavola>(margine(c))[1].prospetto;
+    std::size_t senza = 0;
+    for (const auto& riga : p.righe)
+        if (!riga[5].numero) {
+            const std::string nome = riga[0].testo.substr(0, riga[0].testo.find(' '));
+            EXPECT_EQ(p.note.at(senza).substr(0, nome.size() + 1), nome + ":");
+            ++senza;
+        }
+    EXPECT_EQ(p.note.size(), senza);
 }
 
 // The heading has the title of its table.

@@ -1,6 +1,9 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <cstdlib>
+#include <string>
+#include <utility>
 
 #include "support/chapter_bench.hpp"
 #include "support/sample_projects.hpp"
@@ -81,7 +84,7 @@ TEST(CapitoloSezione, PutsTheValuesIntoTheFormulas) {
     EXPECT_EQ(fcd[2].testo, "25.00 / 1.60");
     EXPECT_EQ(fcd[3].numero, 15.625);
     const auto Nd = riga(p, "Sforzo normale di progetto");
-    EXPECT_EQ(Nd[2].testo, "1.40 · 120.00");
+    EXPECT_EQ(Nd[2].testo, "1.40 · 120.000");
     EXPECT_NEAR(Nd[3].numero.value_or(0), 168, 1e-9);
     EXPECT_EQ(Nd[4].testo, "kN/m");
 }
@@ -105,6 +108,134 @@ TEST(CapitoloSezione, FollowsTheShearFromAPileToAMetre) {
     EXPECT_NEAR(riga(p, "Sfruttamento dell'armatura")[3].numero.value_or(0), 100 * *v.usoArmatura,
                 1e-9);
     EXPECT_EQ(tavola(sezione(c), "Verifiche").righe.size(), 4U);
+}
+
+// Reads a formula as it is printed: "0.5 · (1.2 - 0.3) / 2^(2/3)", with π and ² too.
+class Matita {
+ public:
+    static double conta(std::string testo) {
+        for (const auto& [segno, ascii] :
+             {std::pair("·", "*"), {"π", "3.14159265358979"}, {"²", "^2"}, {" ", ""}})
+            for (std::size_t i; (i = testo.find(segno)) != std::string::npos;)
+                testo.replace(i, std::string(segno).size(), ascii);
+        Matita m(testo);
+        const double valore = m.somma();
+        EXPECT_EQ(*m.qui_, '\0') << testo;
+        return valore;
+    }
+
+ private:
+    explicit Matita(const std::string& testo) : qui_(testo.c_str()) {}
+    bool segue(char c) { return *qui_ == c ? (++qui_, true) : false; }
+    double somma() {
+        double v = prodotto();
+        for (;;)
+            if (segue('+'))
+                v += prodotto();
+            else if (segue('-'))
+                v -= prodotto();
+            else
+                return v;
+    }
+    double prodotto() {
+        double v = potenza();
+        for (;;)
+            if (segue('*'))
+                v *= potenza();
+            else if (segue('/'))
+                v /= potenza();
+            else
+                return v;
+    }
+    double potenza() {
+        const double v = fattore();
+        return segue('^') ? std::pow(v, potenza()) : v;
+    }
+    double fattore() {
+        if (segue('-')) return -fattore();
+        if (segue('(')) {
+            const double v = somma();
+            EXPECT_TRUE(segue(')'));
+            return v;
+        }
+        char* fine = nullptr;
+        const double v = std::strtod(qui_, &fine);
+        EXPECT_NE(qui_, fine);
+        qui_ = fine;
+        return v;
+    }
+    const char* qui_;
+};
+
+// With the printed digits alone: what comes out is what is printed, half a digit apart at most.
+TEST(CapitoloSezione, HasFormulasThatAPencilComesToTheEndOf) {
+    auto grande = conStaffe();
+    grande.armDiamPalo = 147;
+    grande.armInterasse = 173;
+    grande.armCopriferro = 7.3;
+    grande.fck = 37;
+    int formule = 0;
+    for (const auto& sezione_ : {conStaffe(), grande})
+        for (const auto& t :
+             test::tutti<document::Tavola>(sezione(contesto(muro(sezione_, 12.345))))) {
+            const tables::Prospetto& p = t.prospetto;
+            if (p.colonne.size() != 5 || p.colonne[2].titolo != "Con i valori") continue;
+            for (const auto& riga : p.righe) {
+                if (riga[2].testo.empty()) continue;
+                const double volte = riga[4].testo == "%" ? 100 : 1;
+                const auto punto = riga[3].testo.find('.');
+                const int decimali = static_cast<int>(riga[3].testo.size() - punto) - 1;
+                EXPECT_NEAR(volte * Matita::conta(riga[2].testo), std::stod(riga[3].testo),
+                            0.51 * std::pow(10, -decimali))
+                    << riga[1].testo << "   " << riga[2].testo;
+                ++formule;
+            }
+        }
+    EXPECT_GE(formule, 40);
+}
+
+TEST(CapitoloSezione, SaysWhereTheShearCheckLeavesItsCode) {
+    const Contesto c = contesto(muro(conStaffe(), -20));
+    const auto p = tavola(sezione(c), "Dove la verifica si scosta da ENV 1992-1-1");
+    ASSERT_EQ(p.righe.size(), 6U);
+    const auto k = riga(p, "k");  // 0.872, below 1
+    EXPECT_EQ(k[2].testo, "0.8720");
+    EXPECT_EQ(k[3].testo, "resistenza minore: a favore di sicurezza");
+    EXPECT_EQ(riga(p, "ρl")[3].testo, "resistenza maggiore: a sfavore di sicurezza");
+    EXPECT_EQ(riga(p, "bw")[2].testo, "il diametro: 800.0 mm");
+    EXPECT_EQ(riga(p, "σcp")[3].testo, "resistenza maggiore: a sfavore di sicurezza");  // tension
+}
+
+TEST(CapitoloSezione, WithoutAShearCheckSaysWhyAndWhatIsLeftToCheck) {
+    const Contesto c = contesto(muro(structure::diaframmaSimmetrico()));
+    const std::string detto = testo(sezione(c));
+    EXPECT_NE(detto.find("Il programma non ha una verifica a taglio per i diaframmi. Da verificare "
+                         "a parte: taglio di progetto 1.40 · "),
+              std::string::npos);
+}
+
+// A pencil finds the same product everywhere: rounded, not cut as in the report.
+TEST(CapitoloSezione, RoundsOneProductOnce) {
+    const auto b = sezione(contesto(muro(structure::diaframmaSimmetrico())));
+    const auto verifica = tavola(b, "Verifiche").righe[0][1].testo;
+    EXPECT_EQ(riga(tavola(b, "Confronto"), "Momento di progetto")[3].testo, verifica);
+    bool trovato = false;
+    for (const auto& riga : tavola(b, "Le fasi nel dominio").righe)
+        trovato = trovato || riga[2].testo == verifica;
+    EXPECT_TRUE(trovato);
+}
+
+TEST(CapitoloSezione, SetsTheReportsChecksBesideWhereTheyAreOthers) {
+    const Contesto c = contesto(muro(conStaffe()));
+    std::size_t diverse = 0;
+    for (const auto& v : c.fascicolo->verifiche) diverse += v.perche.empty() ? 0 : 1;
+    const auto b = sezione(c);
+    constexpr const char* titolo = "Le stesse verifiche, dove la relazione ha altri numeri";
+    EXPECT_EQ(haTavola(b, titolo), diverse > 0);
+    ASSERT_GT(diverse, 0U);
+    const auto p = tavola(b, titolo);
+    ASSERT_EQ(p.righe.size(), 2 * diverse);
+    EXPECT_NE(p.righe[1][6].testo, "");
 }
 
 TEST(CapitoloSezione, DrawsTheDomainAndNamesTheStagesInIt) {

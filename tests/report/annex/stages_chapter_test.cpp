@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "project/codes.hpp"
 #include "report/annex/stage_tables.hpp"
 #include "support/chapter_bench.hpp"
 #include "support/restless_wall.hpp"
@@ -129,8 +130,9 @@ TEST(CapitoloFasi, SetsTheSpecifiedRunBesideTheEquilibrium) {
     EXPECT_EQ(numero(p, 1, 1), c.fascicolo->parete.fase(2)->passi);
     EXPECT_EQ(numero(p, 1, 2), corsa.iterazioni);
     EXPECT_EQ(p.righe[1][3].testo, "assestata");
-    EXPECT_EQ(numero(p, 1, 4), 1000 * *corsa.scartoSpostamento);
-    EXPECT_EQ(numero(p, 1, 5), 10 * *corsa.scartoMomento);
+    EXPECT_EQ(numero(p, 1, 4), 1000 * corsa.scartoSpostamento->valore);
+    EXPECT_EQ(numero(p, 1, 5), 10 * corsa.scartoMomento->valore);
+    EXPECT_EQ(numero(p, 1, 6), 10 * corsa.scartoTaglio->valore);
     EXPECT_NE(testo(b).find("Calcolo per fasi: iterazioni " + std::to_string(corsa.iterazioni)),
               std::string::npos);
 }
@@ -156,6 +158,51 @@ TEST(CapitoloFasi, OfAWallThatFallsSaysHowAndTellsTheStagesThatStand) {
     EXPECT_EQ(corse.righe[0][2].testo, "-");
     EXPECT_EQ(corse.note.back(),
               "Il calcolo per fasi, che scrive la relazione, non è stato eseguito.");
+}
+
+// The rows of the balance sum up to what the verdict says is missing.
+TEST(CapitoloFasi, OfAMechanismHasTheBalanceAtTheLimit) {
+    auto dati = test::progettoSemplice();
+    dati.vincoloTesta = valore(project::VincoloTesta::cerniera);  // which only a turn goes about
+    dati.profFase[2] = 11.9;
+    dati.tirantiFase[2] = 0;
+    const Contesto c = contesto(dati);
+    ASSERT_TRUE(c.fascicolo->limite);
+    const auto& moto = *c.fascicolo->parete.perche->moto;
+    ASSERT_FALSE(moto.traslazione);
+    const auto b = fasi(c);
+    const auto p = tavola(b, "Equilibrio al limite");
+    double momento = 0;
+    for (std::size_t i = 0; i + 1 < p.righe.size(); ++i) {
+        EXPECT_NEAR(moto.verso * numero(p, i, 2) * numero(p, i, 4), numero(p, i, 5), 1e-9);
+        EXPECT_EQ(p.righe[i][6].testo, numero(p, i, 5) > 0 ? "spinge" : "resiste");
+        momento += numero(p, i, 5);
+    }
+    EXPECT_NEAR(momento, 10 * moto.mancante, 1e-6);
+    EXPECT_NEAR(numero(p, p.righe.size() - 1, 5), 10 * moto.mancante, 1e-6);
+    const auto nodi = tavola(b, "Pressioni al limite");
+    ASSERT_EQ(nodi.righe.size(), 41U);
+    EXPECT_EQ(numero(nodi, 20, 3), 10 * c.fascicolo->limite->nodi[20].monte);
+    // From the table alone: stretch times pressures.
+    for (std::size_t i = 0; i < 41; ++i) {
+        if (std::fabs(numero(nodi, i, 1) - moto.profondita) < 0.1) continue;
+        EXPECT_NEAR(
+            numero(nodi, i, 2) * (numero(nodi, i, 3) + numero(nodi, i, 5) + numero(nodi, i, 7)),
+            numero(nodi, i, 8), 1e-9);
+    }
+}
+
+TEST(CapitoloFasi, SaysWhatTheReportHasOtherwise) {
+    auto dati = test::progettoSemplice();
+    dati.vincoloPiede = valore(project::VincoloPiede::incastro);
+    const Contesto c = contesto(dati);
+    ASSERT_TRUE(c.fascicolo->conRelazione());
+    const auto b = fasi(c);
+    EXPECT_NE(testo(b).find("La relazione ha qui altri numeri. "), std::string::npos);
+    bool detto = false;
+    for (const auto& nota : tavola(b, "Soluzione di equilibrio e calcolo per fasi").note)
+        detto = detto || nota.find("al piede incastrato") != std::string::npos;
+    EXPECT_TRUE(detto);
 }
 
 TEST(CapitoloFasi, OfARunWithoutRestHasTheEquilibriumAndSaysSo) {

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "dossier/balance.hpp"
+
+namespace korven::dossier {
+
+/// Which limit the soil of a side has come to.
+enum class LimiteTerreno { nessuno, attivo, passivo };
+
+/// A node of a wall that moves as a mechanism. Pressures are positive towards the excavation.
+struct NodoAlLimite {
+    double z = 0;       ///< depth [m]
+    double tratto = 0;  ///< length of wall that it stands for [m]
+    double monte = 0, valle = 0, acqua = 0, costante = 0;  ///< [t/m2]
+    LimiteTerreno statoMonte = LimiteTerreno::nessuno, statoValle = LimiteTerreno::nessuno;
+    /// All of them on its length [t]; 0 at the point that stays and under a restraint, whose force
+    /// nobody knows and which has no arm.
+    double forza = 0;
+};
+
+/// What acts on such a wall, by kind and by side of the point that stays.
+enum class AzioneLimite { testa, monte, valle, acqua, costante, tirante };
+
+struct ParteAlLimite {
+    AzioneLimite cosa = AzioneLimite::testa;
+    int tirante = 0;    ///< of `tirante`: counted from 1
+    bool sotto = true;  ///< below the point that stays
+    double forza = 0;   ///< [t], positive towards the excavation
+    /// About the point that stays, positive the way the wall turns, so that it pushes; below 0 it
+    /// resists [t m]. Of a translation the force, with the same sign [t].
+    double spinta = 0;
+};
+
+/// A stage without equilibrium at the limit: why the movement is not held.
+struct BilancioLimite {
+    int fase = 0;
+    equilibrium::Meccanismo moto{};
+    std::vector<NodoAlLimite> nodi;
+    std::vector<ParteAlLimite> parti;  ///< those that are not 0
+    double mancante = 0;  ///< sum of `spinta` of all: what would have to be added against it
+};
+
+/// @param problema  of the stage
+/// @param moto      the movement that nothing holds
+[[nodiscard]] BilancioLimite bilancioLimite(const equilibrium::ProblemaFase& problema,
+                                            const equilibrium::Meccanismo& moto, int fase);
+
+/// Follows a wall to its stage `fase`; nothing if that is no mechanism.
+/// @param dati  with the bending stiffness of the run
+[[nodiscard]] std::optional<BilancioLimite> bilancioLimite(const project::DatiProgetto& dati,
+                                                           int nSeg, int fase);
+
+}  // namespace korven::dossier

@@ -1,0 +1,138 @@
+#include "report/annex/mechanism_tables.hpp"
+
+#include <cmath>
+
+#include "base/code_page.hpp"
+#include "base/filled_text.hpp"
+#include "base/translated_texts.hpp"
+#include "report/annex/columns.hpp"
+#include "report/annex/table_pieces.hpp"
+#include "tables/quantities.hpp"
+
+namespace korven::report {
+
+using base::riempito;
+using base::traduttore;
+using dossier::AzioneLimite;
+using dossier::BilancioLimite;
+using dossier::LimiteTerreno;
+using dossier::NodoAlLimite;
+using dossier::ParteAlLimite;
+using tables::Cella;
+using tables::Prospetto;
+namespace unita = project::unita;
+
+namespace {
+
+std::string nome(const ParteAlLimite& parte) {
+    switch (parte.cosa) {
+        case AzioneLimite::testa:
+            return traduttore("Carichi in testa");
+        case AzioneLimite::monte:
+            return traduttore("Terreno a monte");
+        case AzioneLimite::valle:
+            return traduttore("Terreno a valle");
+        case AzioneLimite::acqua:
+            return traduttore("Acqua");
+        case AzioneLimite::costante:
+            return traduttore("Pressione costante");
+        case AzioneLimite::tirante:
+            break;
+    }
+    return riempito(traduttore("Tirante %1"), {std::to_string(parte.tirante)});
+}
+
+// Where its resultant acts, as far from the point that stays as its moment says.
+double braccio(const ParteAlLimite& parte, int verso) { return verso * parte.spinta / parte.forza; }
+
+const char* effetto(const ParteAlLimite& parte) { return parte.spinta > 0 ? "spinge" : "resiste"; }
+
+Cella stato(LimiteTerreno stato) {
+    switch (stato) {
+        case LimiteTerreno::attivo:
+            return tables::parola(traduttore("attivo"));
+        case LimiteTerreno::passivo:
+            return tables::parola(traduttore("passivo"));
+        case LimiteTerreno::nessuno:
+            break;
+    }
+    return {};
+}
+
+}  // namespace
+
+std::string fraseMeccanismo(const BilancioLimite& b) {
+    if (b.moto.traslazione)
+        return traduttore(
+            "La paratia trasla: il terreno è al limite ovunque, dal lato verso cui si muove "
+            "passivo, dall'altro attivo. Spinge ciò che ha il verso del moto; la somma è quanto "
+            "manca.");
+    return riempito(
+        traduttore(
+            "La paratia ruota attorno al perno, il nodo a %1 m: sopra e "
+            "sotto di esso il terreno è al limite, dal lato verso cui si muove passivo, "
+            "dall'altro attivo. Il momento di una forza è forza per braccio, positivo se "
+            "gira come la paratia cade: allora spinge, altrimenti resiste. La somma è quanto "
+            "manca. Fra tutti i moti rigidi questo è quello a cui manca di più, rispetto al "
+            "suo spostamento maggiore."),
+        {tables::profondita(b.moto.profondita).testo});
+}
+
+Prospetto prospettoLimite(const BilancioLimite& b) {
+    const bool ruota = !b.moto.traslazione;
+    Prospetto p{.titolo = traduttore("Equilibrio al limite"),
+                .colonne = {colonna("Che cosa agisce"), colonna("Dove"),
+                            numeri(unita::forzaAlMetro, "Forza")}};
+    if (ruota) {
+        p.colonne.push_back(simboli(unita::metri, "z"));
+        p.colonne.push_back(numeri(unita::metri, "Braccio"));
+        p.colonne.push_back(numeri(unita::momentoAlMetro, "Momento"));
+    }
+    p.colonne.push_back(colonna("Effetto"));
+    for (const ParteAlLimite& parte : b.parti) {
+        auto& riga = p.righe.emplace_back(std::vector{
+            tables::parola(nome(parte)),
+            tables::parola(ruota ? traduttore(parte.sotto ? "sotto il perno" : "sopra il perno")
+                                 : ""),
+            tables::forza(parte.forza)});
+        if (ruota) {
+            const double arm = parte.forza == 0 ? 0 : braccio(parte, b.moto.verso);
+            riga.push_back(parte.forza == 0 ? Cella{}
+                                            : tables::profondita(b.moto.profondita + arm));
+            riga.push_back(parte.forza == 0 ? Cella{} : tables::cella(arm, 3, unita::metri));
+            riga.push_back(tables::momento(parte.spinta));
+        }
+        riga.push_back(tables::parola(traduttore(effetto(parte))));
+    }
+    auto& somma = p.righe.emplace_back(
+        std::vector{tables::parola(base::conMaiuscola(traduttore("mancano"))), tables::parola("")});
+    if (ruota) somma.resize(5, {.testo = ""});
+    somma.push_back(ruota ? tables::momento(b.mancante) : tables::forza(b.moto.verso * b.mancante));
+    somma.push_back(tables::parola(""));
+    return p;
+}
+
+Prospetto prospettoPressioniLimite(const BilancioLimite& b) {
+    Prospetto p{
+        .titolo = traduttore("Pressioni al limite"),
+        .colonne = {numeri("Nodo"), simboli(unita::metri, "z"), numeri(unita::metri, "Tratto"),
+                    numeri(unita::pressione, "Monte"), colonna("Stato a monte"),
+                    numeri(unita::pressione, "Valle"), colonna("Stato a valle"),
+                    numeri(unita::pressione, "Acqua"), numeri(unita::forzaAlMetro, "Forza")}};
+    int numero = 0;
+    for (const NodoAlLimite& n : b.nodi)
+        p.righe.push_back({tables::cella(++numero), tables::profondita(n.z),
+                           tables::cella(n.tratto, 4, unita::metri), tables::pressione(n.monte),
+                           stato(n.statoMonte), tables::pressione(n.valle), stato(n.statoValle),
+                           tables::pressione(n.acqua), tables::forza(n.forza)});
+    p.note.push_back(
+        traduttore("Tratto: la lunghezza di paratia di cui il nodo porta le pressioni. Forza: "
+                   "tratto per la somma delle pressioni; nel perno e in un vincolo non c'è."));
+    if (!b.nodi.empty() && b.nodi.front().costante != 0)
+        p.note.push_back(riempito(traduttore("La forza conta anche la pressione costante di %1 "
+                                             "kN/m²."),
+                                  {tables::pressione(b.nodi.front().costante).testo}));
+    return p;
+}
+
+}  // namespace korven::report

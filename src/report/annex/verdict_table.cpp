@@ -1,0 +1,177 @@
+#include "report/annex/verdict_table.hpp"
+
+#include <algorithm>
+#include <initializer_list>
+#include <optional>
+#include <string>
+#include <utility>
+
+#include "base/colon.hpp"
+#include "base/filled_text.hpp"
+#include "base/translated_texts.hpp"
+#include "project/codes.hpp"
+#include "report/annex/columns.hpp"
+#include "report/annex/shear_rules.hpp"
+#include "report/annex/table_pieces.hpp"
+#include "review/limits.hpp"
+#include "safety/margin_words.hpp"
+#include "tables/margin_table.hpp"
+#include "tables/quantities.hpp"
+
+namespace korven::report {
+
+using base::riempito;
+using base::traduttore;
+using dossier::Fascicolo;
+using dossier::LatoVerifica;
+using dossier::VerificaDoppia;
+using tables::Cella;
+using tables::parola;
+namespace unita = project::unita;
+
+namespace {
+
+std::vector<Cella> riga(const char* cosa, Cella verdetto, std::string dettaglio) {
+    return {parola(traduttore(cosa)), std::move(verdetto), parola(std::move(dettaglio))};
+}
+
+Cella verificato(bool fallito) {
+    return tables::esito(traduttore(fallito ? "non verificato" : "verificato"), fallito);
+}
+
+Cella nessunaVerifica() { return parola(traduttore("nessuna verifica")); }
+
+// As it stands within a line.
+const char* nomeBreve(dossier::Verifica verifica) {
+    switch (verifica) {
+        case dossier::Verifica::momentoPositivo:
+            return "momento positivo";
+        case dossier::Verifica::momentoNegativo:
+            return "momento negativo";
+        case dossier::Verifica::bielle:
+            return "bielle di calcestruzzo";
+        case dossier::Verifica::armatura:
+            break;
+    }
+    return "armatura d'anima";
+}
+
+// Why no strength reduction of the range ends any stage.
+std::string percheOltre(const Fascicolo& f) {
+    const auto& fasi = f.margine->fasi;
+    if (std::none_of(fasi.begin(), fasi.end(),
+                     [](const auto& fase) { return fase.riduzione.senzaTerreno; }))
+        return traduttore("basta un decimo della resistenza del terreno");
+    const double piede = f.parete.dati.vincoloPiede;
+    const char* chi = "tiranti e vincoli tengono la paratia qualunque sia il terreno";
+    if (piede == project::VincoloPiede::incastro)
+        chi = "il piede incastrato tiene la paratia qualunque sia il terreno";
+    else if (piede == project::VincoloPiede::cerniera)
+        chi = "il piede fermo e i sostegni sopra tengono la paratia qualunque sia il terreno";
+    return traduttore(chi) + base::puntoEVirgola() +
+           traduttore(
+               "il calcolo prende tiranti e vincoli con resistenza senza limite, da verificare a "
+               "parte");
+}
+
+// The verdict on the stages, with what a reader must know beside it.
+std::string margineInBreve(const Fascicolo& f) {
+    const safety::Margine& m = *f.margine;
+    std::string testo = tables::verdetto(m);
+    if (m.sta() && m.decisiva() == nullptr) testo += " " + inFrase(percheOltre(f));
+    if (!m.maglia) return testo;
+    double errore = 0;
+    for (const auto* e :
+         {&m.maglia->momento, &m.maglia->taglio, &m.maglia->spostamento, &m.maglia->tiro})
+        errore = std::max(errore, e->quota.value_or(0));
+    if (errore > review::erroreMagliaDetto)
+        testo += " " + riempito(traduttore("Errore di maglia fino al %1 %: aumentare i segmenti."),
+                                {tables::cella(errore, 1, unita::percento).testo});
+    return testo;
+}
+
+// The use of a resistance that is largest by the numbers of one of the two calculations.
+std::string sfruttamento(const Fascicolo& f, std::initializer_list<dossier::Verifica> quali,
+                         std::optional<LatoVerifica> VerificaDoppia::*numeri) {
+    const VerificaDoppia* peggiore = nullptr;
+    for (const VerificaDoppia& v : f.verifiche) {
+        if (std::find(quali.begin(), quali.end(), v.cosa) == quali.end()) continue;
+        if (!(v.*numeri) || !(v.*numeri)->uso()) continue;
+        if (peggiore == nullptr || *(v.*numeri)->uso() > *(peggiore->*numeri)->uso()) peggiore = &v;
+    }
+    if (peggiore == nullptr) return {};
+    const LatoVerifica& lato = *(peggiore->*numeri);
+    return riempito(traduttore("sfruttamento %1 % (%2, fase %3, z = %4 m)"),
+                    {tables::cella(*lato.uso(), 1, unita::percento).testo,
+                     traduttore(nomeBreve(peggiore->cosa)), std::to_string(lato.dove.fase),
+                     tables::profondita(lato.dove.z).testo});
+}
+
+// The wall is judged by the worse of the two; both are told where they are not the same.
+std::vector<Cella> verifica(const char* cosa, const Fascicolo& f,
+                            std::initializer_list<dossier::Verifica> quali) {
+    const bool fallita = std::any_of(f.verifiche.begin(), f.verifiche.end(), [&](const auto& v) {
+        return std::find(quali.begin(), quali.end(), v.cosa) != quali.end() && v.fallita();
+    });
+    const std::string equilibrio = sfruttamento(f, quali, &VerificaDoppia::equilibrio),
+                      relazione = sfruttamento(f, quali, &VerificaDoppia::relazione);
+    std::string dettaglio = equilibrio;
+    if (!relazione.empty() && relazione != equilibrio)
+        dettaglio = riempito(traduttore("equilibrio: %1; relazione: %2; vale il maggiore"),
+                             {equilibrio.empty() ? tables::nessuno : equilibrio, relazione});
+    return riga(cosa, verificato(fallita),
+                dettaglio.empty() ? traduttore("La resistenza è 0.") : dettaglio);
+}
+
+std::vector<Cella> equilibrio(const Fascicolo& f) {
+    return riga("Equilibrio di tutte le fasi", verificato(!f.parete.sta()),
+                f.margine ? margineInBreve(f) : f.parete.rifiuto);
+}
+
+std::vector<Cella> senzaAzioni(const char* cosa) {
+    return riga(cosa, nessunaVerifica(), traduttore("La paratia non è in equilibrio."));
+}
+
+std::vector<Cella> flessione(const Fascicolo& f) {
+    constexpr const char* cosa = "Flessione";
+    if (!f.flessione || !f.controlli.flessione)
+        return riga(cosa, nessunaVerifica(), traduttore("La sezione non è definita."));
+    if (!f.controlli.conAzioni || !f.parete.sta()) return senzaAzioni(cosa);
+    return verifica(cosa, f,
+                    {dossier::Verifica::momentoPositivo, dossier::Verifica::momentoNegativo});
+}
+
+std::vector<Cella> taglio(const Fascicolo& f) {
+    constexpr const char* cosa = "Taglio";
+    if (!f.taglio || !f.controlli.taglio)
+        return riga(cosa, nessunaVerifica(), percheSenzaTaglio(f) + " " + taglioDaVerificare(f));
+    if (!f.controlli.conAzioni || !f.parete.sta()) return senzaAzioni(cosa);
+    return verifica(cosa, f, {dossier::Verifica::bielle, dossier::Verifica::armatura});
+}
+
+// The remarks of a weight; each is counted under its own, as in their chapter.
+std::vector<Cella> osservazioni(const Fascicolo& f, const char* cosa, review::Peso peso) {
+    const int quante = review::quante(f.osservazioni, peso);
+    return riga(
+        cosa,
+        tables::esito(quante == 0 ? traduttore("nessuna") : std::to_string(quante), quante > 0),
+        riempito(traduttore("%1 in tutto, nel capitolo Osservazioni"),
+                 {std::to_string(f.osservazioni.size())}));
+}
+
+}  // namespace
+
+tables::Prospetto prospettoVerdetti(const Fascicolo& f) {
+    tables::Prospetto p{.titolo = traduttore("Verdetti"),
+                        .colonne = {colonna("Verifica"), colonna("Esito"), colonna("Dettaglio")}};
+    p.righe = {equilibrio(f), flessione(f), taglio(f),
+               osservazioni(f, "Osservazioni di peso pericolo", review::Peso::pericolo)};
+    if (!review::calcolabile(f.osservazioni))
+        p.righe.push_back(osservazioni(f, "Osservazioni che impediscono il calcolo per fasi",
+                                       review::Peso::impedisce));
+    if (f.margine && !safety::paroleRelazione(*f.margine).empty())
+        p.note.push_back(safety::paroleRelazione(*f.margine));
+    return p;
+}
+
+}  // namespace korven::report

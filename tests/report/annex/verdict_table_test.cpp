@@ -1,0 +1,79 @@
+#include "report/annex/verdict_table.hpp"
+
+#include <gtest/gtest.h>
+
+#include "project/codes.hpp"
+#include "support/chapter_bench.hpp"
+#include "support/restless_wall.hpp"
+#include "support/sample_projects.hpp"
+#include "support/sample_sections.hpp"
+
+namespace korven::report {
+namespace {
+
+using test::contesto;
+using test::riga;
+
+tables::Prospetto verdetti(const project::DatiProgetto& dati) {
+    return prospettoVerdetti(*contesto(dati).fascicolo);
+}
+
+dossier::Fascicolo conVerifica(dossier::LatoVerifica equilibrio, dossier::LatoVerifica relazione) {
+    auto dati = test::progettoSemplice();
+    dati.sezione = structure::diaframmaSimmetrico();
+    dossier::Fascicolo f = *contesto(dati).fascicolo;
+    f.verifiche = {{.cosa = dossier::Verifica::momentoPositivo,
+                    .equilibrio = equilibrio,
+                    .relazione = relazione,
+                    .perche = "regole"}};
+    return f;
+}
+
+TEST(ProspettoVerdetti, TellsBothUsesAndIsOfTheWorse) {
+    const auto p =
+        prospettoVerdetti(conVerifica({98, 100, {2, 5}, false}, {101, 100, {2, 5}, true}));
+    const auto flessione = riga(p, "Flessione");
+    EXPECT_EQ(flessione[1].testo, "non verificato");
+    EXPECT_EQ(flessione[2].testo,
+              "equilibrio: sfruttamento 98.0 % (momento positivo, fase 2, z = 5.00 m); relazione: "
+              "sfruttamento 101.0 % (momento positivo, fase 2, z = 5.00 m); vale il maggiore");
+}
+
+TEST(ProspettoVerdetti, TellsOneUseWhereBothAreTheSame) {
+    const auto p =
+        prospettoVerdetti(conVerifica({98, 100, {2, 5}, false}, {98.001, 100, {2, 5}, false}));
+    EXPECT_EQ(riga(p, "Flessione")[1].testo, "verificato");
+    EXPECT_EQ(riga(p, "Flessione")[2].testo,
+              "sfruttamento 98.0 % (momento positivo, fase 2, z = 5.00 m)");
+}
+
+TEST(ProspettoVerdetti, SaysWhatHoldsAWallWhoseFactorIsBeyondTheRange) {
+    auto dati = test::progettoSemplice();
+    dati.vincoloPiede = valore(project::VincoloPiede::incastro);
+    const std::string detto = riga(verdetti(dati), "Equilibrio di tutte le fasi")[2].testo;
+    EXPECT_NE(detto.find("F più piccolo: > 10. Il piede incastrato tiene la paratia"),
+              std::string::npos)
+        << detto;
+    EXPECT_NE(detto.find("resistenza senza limite"), std::string::npos);
+}
+
+// Each remark is counted under the weight that it has in its chapter.
+TEST(ProspettoVerdetti, CountsARemarkThatPreventsTheRunByItself) {
+    const auto f = *contesto(test::progettoSenzaPace()).fascicolo;
+    const auto p = prospettoVerdetti(f);
+    for (const auto& [nome, peso] :
+         {std::pair("Osservazioni di peso pericolo", review::Peso::pericolo),
+          std::pair("Osservazioni che impediscono il calcolo per fasi", review::Peso::impedisce)}) {
+        const int quante = review::quante(f.osservazioni, peso);
+        if (peso == review::Peso::impedisce && quante == 0) continue;
+        EXPECT_EQ(riga(p, nome)[1].testo, quante == 0 ? "nessuna" : std::to_string(quante));
+    }
+    auto caduto = test::progettoSemplice();
+    caduto.profFase[2] = 11.9;
+    caduto.tirantiFase[2] = 0;
+    EXPECT_EQ(riga(verdetti(caduto), "Osservazioni che impediscono il calcolo per fasi")[1].testo,
+              "1");
+}
+
+}  // namespace
+}  // namespace korven::report
