@@ -186,6 +186,16 @@ std::vector<std::string> scritteAiPicchi(const Scena& s) {
     return scritte;
 }
 
+// The shears above and below each node, one behind the other.
+std::vector<double> dueLati(const equilibrium::FaseEquilibrio& fase) {
+    std::vector<double> tutti;
+    for (std::size_t i = 0; i < fase.y.size(); ++i) {
+        tutti.push_back(fase.taglioSopra[i]);
+        tutti.push_back(fase.taglioSotto[i]);
+    }
+    return tutti;
+}
+
 TEST_F(DisegniAllegato, WriteThePeaksOfEveryStageWithTheirDepthsClearOfTheCurves) {
     for (const auto& dati : esempi()) {
         const auto parete = live::calcola(dati, segmenti);
@@ -193,15 +203,21 @@ TEST_F(DisegniAllegato, WriteThePeaksOfEveryStageWithTheirDepthsClearOfTheCurves
             const auto& fase = *parete.fase(k);
             const Scena s = scenaFase(parete, k, formatoFase.larghezza, formatoFase.altezza);
             const auto scritte = scritteAiPicchi(s);
+            const std::vector<double> taglio = dueLati(fase);
             using Voce = std::pair<const std::vector<double>*, project::Unita>;
             namespace unita = project::unita;
             for (const auto& [valori, una] :
                  {Voce{&fase.y, unita::spostamentoFine}, Voce{&fase.momento, unita::momentoAlMetro},
-                  Voce{&fase.taglio, unita::forzaAlMetro}, Voce{&fase.monte, unita::pressione},
-                  Voce{&fase.valle, unita::pressione}})
+                  Voce{&fase.monte, unita::pressione}, Voce{&fase.valle, unita::pressione}})
                 for (const Picco& picco : picchi(*valori, parete.h))
                     EXPECT_TRUE(test::dice(scritte, scritto(picco, una)))
                         << dati.titoli[1] << " fase " << k << ": " << scritto(picco, una);
+            for (Picco picco : picchi(taglio, 1)) {
+                picco.z = parete.h * std::floor(picco.z / 2);
+                EXPECT_TRUE(test::dice(scritte, scritto(picco, unita::forzaAlMetro)))
+                    << dati.titoli[1] << " fase " << k << ": "
+                    << scritto(picco, unita::forzaAlMetro);
+            }
             for (const auto& curva : test::figure<scene::Linea>(s, Elemento::curva))
                 for (const Testo& t : test::figure<Testo>(s, Elemento::estremo))
                     for (const scene::Punto& p : curva.punti) {
