@@ -50,10 +50,14 @@ ProprietaPdf proprieta(const Impaginato& impaginato) {
     const document::Documento& d = *impaginato.documento;
     ProprietaPdf p{d.titolo, d.autore, std::string(base::nomeEVersione),
                    d.data,   d.lingua, impaginato.formato.altezza,
-                   {}};
+                   {},       {},       d.allegati};
     std::copy_if(impaginato.segnalibri.begin(), impaginato.segnalibri.end(),
                  std::back_inserter(p.segnalibri),
                  [](const document::Segnalibro& s) { return s.livello <= 2; });
+    for (std::size_t i = 0; i < impaginato.pagine.size(); ++i)
+        for (const document::Rimando& r : impaginato.pagine[i].rimandi)
+            p.collegamenti.push_back(
+                {i, r.x, r.y, r.larghezza, r.altezza, impaginato.segnalibri.at(r.segnalibro)});
     return p;
 }
 

@@ -43,15 +43,18 @@ void PittorePagine::disegna(const document::Disegno& disegno) {
     const document::Figura& figura = *disegno.figura;
     const plot::DisegnoAParte plotter;
     plot::statoPlot.metrica = &metrica;
-    plot::plotApri(0, 0, figura.larghezza, figura.altezza);
-    figura.disegna();
+    plot::plotApri(0, 0, figura.larghezza, disegno.altezza);
+    if (disegno.altezza < figura.altezza)
+        figura.disegnaBassa(disegno.altezza);
+    else
+        figura.disegna();
     plot::plotMuovi(0, 0, plot::fineDisegno);
 
     // The plotter shifts all drawings by the margins of its configuration.
     const double dx = plot::statoPlot.scostamentoX, dy = plot::statoPlot.scostamentoY;
     pittore_.save();
     pittore_.translate(disegno.x, disegno.y);
-    PittoreDisegno(pittore_, {dx, -dy, figura.larghezza + dx, figura.altezza - dy},
+    PittoreDisegno(pittore_, {dx, -dy, figura.larghezza + dx, disegno.altezza - dy},
                    puntiPerCentimetro * disegno.scala, pennaMinima)
         .dipingi(plot::statoPlot.archivio);
     pittore_.restore();

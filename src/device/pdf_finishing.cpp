@@ -5,6 +5,9 @@
 #include <memory>
 #include <qpdf/Buffer.hh>
 #include <qpdf/QPDF.hh>
+#include <qpdf/QPDFEFStreamObjectHelper.hh>
+#include <qpdf/QPDFEmbeddedFileDocumentHelper.hh>
+#include <qpdf/QPDFFileSpecObjectHelper.hh>
 #include <qpdf/QPDFObjectHandle.hh>
 #include <qpdf/QPDFWriter.hh>
 
@@ -14,6 +17,18 @@ namespace {
 
 using Oggetto = QPDFObjectHandle;
 using document::Segnalibro;
+
+// Where a heading is, for a reader of documents.
+Oggetto destinazione(QPDF& pdf, const Segnalibro& s, double altezza) {
+    constexpr double aria = 6;  // above the heading, so that it does not touch the window
+    Oggetto posto = Oggetto::newArray();
+    posto.appendItem(pdf.getAllPages().at(s.pagina));
+    posto.appendItem(Oggetto::newName("/XYZ"));
+    posto.appendItem(Oggetto::newNull());
+    posto.appendItem(Oggetto::newReal(altezza - s.y + aria, 2));
+    posto.appendItem(Oggetto::newNull());
+    return posto;
+}
 
 // The tree of bookmarks, by the level of each. One that skips a level hangs on the last above it.
 class Indice {
@@ -40,7 +55,7 @@ class Indice {
             const int suo = tutti[i].livello;
             voce.replaceKey("/Title", Oggetto::newUnicodeString(tutti[i].testo));
             voce.replaceKey("/Parent", padre);
-            voce.replaceKey("/Dest", dove(tutti[i]));
+            voce.replaceKey("/Dest", destinazione(pdf_, tutti[i], proprieta_.altezza));
             if (prima.isInitialized()) {
                 voce.replaceKey("/Prev", prima);
                 prima.replaceKey("/Next", voce);
@@ -54,17 +69,6 @@ class Indice {
             prima = voce;
         }
         return quanti;
-    }
-
-    [[nodiscard]] Oggetto dove(const Segnalibro& s) {
-        constexpr double aria = 6;  // above the heading, so that it does not touch the window
-        Oggetto posto = Oggetto::newArray();
-        posto.appendItem(pdf_.getAllPages().at(s.pagina));
-        posto.appendItem(Oggetto::newName("/XYZ"));
-        posto.appendItem(Oggetto::newNull());
-        posto.appendItem(Oggetto::newReal(proprieta_.altezza - s.y + aria, 2));
-        posto.appendItem(Oggetto::newNull());
-        return posto;
     }
 
     QPDF& pdf_;
@@ -88,6 +92,34 @@ Oggetto informazioni(const ProprietaPdf& p) {
     return info;
 }
 
+// Links without a frame.
+void collega(QPDF& pdf, const ProprietaPdf& p) {
+    for (const Collegamento& c : p.collegamenti) {
+        Oggetto nota = Oggetto::newDictionary();
+        nota.replaceKey("/Type", Oggetto::newName("/Annot"));
+        nota.replaceKey("/Subtype", Oggetto::newName("/Link"));
+        nota.replaceKey("/Rect", Oggetto::newFromRectangle({c.x, p.altezza - c.y - c.altezza,
+                                                            c.x + c.larghezza, p.altezza - c.y}));
+        nota.replaceKey("/Border", Oggetto::parse("[0 0 0]"));
+        nota.replaceKey("/Contents", Oggetto::newUnicodeString(c.meta.testo));
+        nota.replaceKey("/Dest", destinazione(pdf, c.meta, p.altezza));
+        Oggetto pagina = pdf.getAllPages().at(c.pagina);
+        if (!pagina.getKey("/Annots").isArray()) pagina.replaceKey("/Annots", Oggetto::newArray());
+        pagina.getKey("/Annots").appendItem(pdf.makeIndirectObject(nota));
+    }
+}
+
+void allega(QPDF& pdf, const ProprietaPdf& p) {
+    QPDFEmbeddedFileDocumentHelper tutti(pdf);
+    for (const document::FileAllegato& file : p.allegati) {
+        auto byte = QPDFEFStreamObjectHelper::createEFStream(pdf, file.byte);
+        byte.setSubtype("application/octet-stream");
+        auto voce = QPDFFileSpecObjectHelper::createFileSpec(pdf, file.nome, byte);
+        voce.setDescription(file.descrizione);
+        tutti.replaceEmbeddedFile(file.nome, voce);
+    }
+}
+
 }  // namespace
 
 std::string rifinito(const std::string& byte, const ProprietaPdf& proprieta) {
@@ -107,6 +139,8 @@ std::string rifinito(const std::string& byte, const ProprietaPdf& proprieta) {
         radice.replaceKey("/Outlines", Indice(pdf, proprieta).radice());
         radice.replaceKey("/PageMode", Oggetto::newName("/UseOutlines"));
     }
+    collega(pdf, proprieta);
+    allega(pdf, proprieta);
     QPDFWriter scrittore(pdf);
     scrittore.setOutputMemory();
     scrittore.setDeterministicID(true);

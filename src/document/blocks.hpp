@@ -48,12 +48,29 @@ struct Figura {
     /// Draws from (0, 0), lower left, to (larghezza, altezza) [cm] with the plot engine, which is
     /// open (`plotApri`) for that sheet and empty. Called each time a page with it is painted.
     std::function<void()> disegna;
+    /// Of a drawing that can be lower: how low [cm]; 0: it has one height. It is made so much lower
+    /// that it stays on the page of what stands above it.
+    double altezzaMinima = 0;
+    std::function<void(double altezza)> disegnaBassa = {};  ///< draws it so high [cm]
 };
 
 /// What follows begins on a new page.
 struct SaltoPagina {};
 
-using Blocco = std::variant<Titolo, Paragrafo, Tavola, Figura, SaltoPagina>;
+/// The headings of levels 1 and 2 that follow it, with their pages: each leads there in a PDF. On
+/// paper alone, since other files have no pages.
+struct Indice {
+    std::string titolo;
+};
+
+using Blocco = std::variant<Titolo, Paragrafo, Tavola, Figura, SaltoPagina, Indice>;
+
+/// A file that a PDF carries within it, as it is on a disk.
+struct FileAllegato {
+    std::string nome;         ///< under which it is taken out
+    std::string descrizione;  ///< what it is, a few words
+    std::string byte;
+};
 
 /// What stands at the left and at the right of the head of each page. The foot has the number of
 /// the page, "3 / 14", at its right.
@@ -64,6 +81,7 @@ struct Documento {
     std::string lingua;                  ///< of the texts: "it"
     std::array<std::string, 2> testata;  ///< left and right, on every page
     std::string piede;                   ///< left of the number, on every page
+    std::vector<FileAllegato> allegati;  ///< of the PDF
     std::vector<Blocco> blocchi;
 };
 

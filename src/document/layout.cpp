@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "document/contents_strips.hpp"
 #include "document/line_breaking.hpp"
 #include "document/table_strips.hpp"
 #include "document/text_strips.hpp"
@@ -18,18 +19,19 @@ constexpr double distanzaScritta = 4;                          // from that line
 Strisce strisce(const Documento& documento, const Formato& formato, const MisuraCaratteri& misura) {
     Strisce tutte;
     bool salto = false;
-    for (const Blocco& blocco : documento.blocchi) {
-        if (std::holds_alternative<SaltoPagina>(blocco)) {
-            salto = true;
-            continue;
-        }
+    for (std::size_t i = 0; i < documento.blocchi.size(); ++i) {
         const std::size_t prima = tutte.size();
         std::visit(
             [&](const auto& b) {
-                if constexpr (!std::is_same_v<std::decay_t<decltype(b)>, SaltoPagina>)
+                using B = std::decay_t<decltype(b)>;
+                if constexpr (std::is_same_v<B, SaltoPagina>)
+                    salto = true;
+                else if constexpr (std::is_same_v<B, Indice>)
+                    aggiungi(b, documento, i, formato, misura, tutte);
+                else
                     aggiungi(b, formato, misura, tutte);
             },
-            blocco);
+            documento.blocchi[i]);
         if (tutte.size() == prima) continue;
         tutte[prima].nuovaPagina = std::exchange(salto, false);
     }
@@ -79,6 +81,7 @@ Impaginato impagina(Documento documento, const Formato& formato, const MisuraCar
     impaginato.pagine =
         riempi(strisce(*impaginato.documento, formato, misura), formato, impaginato.segnalibri);
     if (impaginato.pagine.empty()) impaginato.pagine.emplace_back();
+    numeraIndice(impaginato, misura);
     incornicia(impaginato, misura);
     return impaginato;
 }

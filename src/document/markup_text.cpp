@@ -98,6 +98,7 @@ class Scrittore {
     }
 
     void scrivi(const SaltoPagina&) { direttiva("#NEWPAGE"); }
+    void scrivi(const Indice&) {}  // no page has a number here
 
     [[nodiscard]] std::string testo() { return std::move(testo_); }
 

@@ -49,6 +49,11 @@ void Pagina::aggiungi(const Pagina& altra, double dx, double dy) {
         s.y += dy;
         scritte.push_back(std::move(s));
     }
+    for (Rimando r : altra.rimandi) {
+        r.x += dx;
+        r.y += dy;
+        rimandi.push_back(r);
+    }
 }
 
 double CaratteriStimati::larghezza(std::string_view testo, const Carattere& carattere) const {

@@ -78,6 +78,13 @@ struct Disegno {
     double x = 0, y = 0;
     double scala = 1;
     const Figura* figura = nullptr;  ///< of the document that was laid out
+    double altezza = 0;              ///< of the drawing before it is scaled [cm]
+};
+
+/// A part of a page that leads to a heading.
+struct Rimando {
+    double x = 0, y = 0, larghezza = 0, altezza = 0;
+    std::size_t segnalibro = 0;  ///< which of the document's headings, from 0
 };
 
 struct Pagina {
@@ -85,6 +92,7 @@ struct Pagina {
     std::vector<Filetto> filetti;
     std::vector<Disegno> disegni;
     std::vector<Scritta> scritte;
+    std::vector<Rimando> rimandi;
 
     /// Adds what stands on another one, moved.
     void aggiungi(const Pagina& altra, double dx, double dy);

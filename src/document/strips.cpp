@@ -13,10 +13,13 @@ class Riempitore {
 
     // Strips that stay together.
     void gruppo(const Striscia* da, const Striscia* a) {
-        if (da->nuovaPagina || pagine_.empty() ||
-            (!inCima() && (da->posto > resto() || spazio(*da) + altezza(da, a) > resto())))
+        if (da->nuovaPagina || pagine_.empty()) nuovaPagina();
+        const double manca = spazio(*da) + altezza(da, a) - resto();
+        if (!inCima() && (da->posto > resto() || manca > 0)) {
+            if (da->posto <= resto() && manca <= cedevole(da, a)) return metti(da, a, manca);
             nuovaPagina();
-        for (; da != a; ++da) metti(*da);
+        }
+        metti(da, a, 0);
     }
     [[nodiscard]] std::vector<Pagina> pagine() { return std::move(pagine_); }
 
@@ -36,6 +39,29 @@ class Riempitore {
         if (!pagine_.empty() && inCima()) return;
         pagine_.emplace_back();
         y_ = dopo_ = 0;
+    }
+
+    static double cedevole(const Striscia* da, const Striscia* a) {
+        double tutto = 0;
+        for (; da != a; ++da) tutto += da->cede;
+        return tutto;
+    }
+
+    // @param manca  by how much the drawings among them are lower
+    void metti(const Striscia* da, const Striscia* a, double manca) {
+        for (; da != a; ++da) {
+            if (!(manca > 0 && da->cede > 0)) {
+                metti(*da);
+                continue;
+            }
+            Striscia bassa = *da;
+            const double via = std::min(manca, da->cede);
+            bassa.altezza -= via;
+            for (Disegno& disegno : bassa.contenuto.disegni)
+                disegno.altezza -= via / (disegno.scala * puntiPerCentimetro);
+            manca -= via;
+            metti(bassa);
+        }
     }
 
     void metti(const Striscia& s) {

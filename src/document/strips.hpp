@@ -17,6 +17,7 @@ struct Striscia {
     bool legata = false;         ///< stays on the page of the next one
     bool nuovaPagina = false;    ///< begins one
     double posto = 0;            ///< begins a page where less than this is left
+    double cede = 0;             ///< by how much its drawing may be lower
     Pagina contenuto{};
     /// Stands above it where it begins a page: the head of its table.
     std::shared_ptr<const Striscia> testa{};

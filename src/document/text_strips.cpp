@@ -119,7 +119,10 @@ void aggiungi(const Figura& figura, const Formato& formato, const MisuraCaratter
     const double scala = std::min({1.0, formato.larghezzaTesto() / larga, posto / alta});
     Striscia disegno{.altezza = alta * scala, .prima = 8, .dopo = 8, .legata = !sotto.empty()};
     disegno.contenuto.disegni.push_back(
-        {(formato.larghezzaTesto() - larga * scala) / 2, 0, scala, &figura});
+        {(formato.larghezzaTesto() - larga * scala) / 2, 0, scala, &figura, figura.altezza});
+    if (figura.disegnaBassa)
+        disegno.cede =
+            std::max(0.0, figura.altezza - figura.altezzaMinima) * puntiPerCentimetro * scala;
     for (auto& riga : sotto) riga.legata = &riga != &sotto.back();
     strisce.push_back(std::move(disegno));
     accoda(std::move(sotto), strisce);

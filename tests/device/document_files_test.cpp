@@ -5,7 +5,9 @@
 #include <QImage>
 #include <QPainter>
 #include <QPrinter>
+#include <qpdf/Buffer.hh>
 #include <qpdf/QPDF.hh>
+#include <qpdf/QPDFEmbeddedFileDocumentHelper.hh>
 #include <qpdf/QPDFObjectHandle.hh>
 #include <qpdf/QPDFOutlineDocumentHelper.hh>
 
@@ -79,6 +81,42 @@ TEST_F(PagineDocumento, HaveTheirHeadingsOfTwoLevelsAsBookmarks) {
               "Modello e ipotesi: Che cosa si calcola Nodi Tiranti Osservazioni\n"
               "Fasi:\nCome rifarlo:\n");
     EXPECT_EQ(file->getRoot().getKey("/Outlines").getKey("/Count").getIntValue(), 7);
+}
+
+TEST_F(PagineDocumento, LeadFromTheContentsToEachHeading) {
+    document::Documento documento;
+    documento.blocchi = {document::Indice{"Indice"}, document::SaltoPagina{},
+                         document::Titolo{1, "Dati"}, document::SaltoPagina{},
+                         document::Titolo{1, "Fasi"}};
+    scriviPdf(pdf, documento);
+    const auto file = letto();
+    auto pagine = file->getAllPages();
+    auto note = pagine.at(0).getKey("/Annots");
+    ASSERT_EQ(note.getArrayNItems(), 2);
+    for (int i = 0; i < 2; ++i) {
+        auto nota = note.getArrayItem(i);
+        EXPECT_EQ(nota.getKey("/Subtype").getName(), "/Link");
+        EXPECT_EQ(nota.getKey("/Dest").getArrayItem(0).getObjGen(),
+                  pagine.at(static_cast<std::size_t>(i) + 1).getObjGen());
+        const auto r = nota.getKey("/Rect").getArrayAsRectangle();
+        EXPECT_LT(r.lly, r.ury);
+    }
+}
+
+TEST_F(PagineDocumento, CarryAFileByteByByte) {
+    document::Documento documento;
+    const std::string byte("1\r\n\x80\0 ", 6);
+    documento.allegati = {{"muro là.kvd", "Il progetto", byte}};
+    scriviPdf(pdf, documento);
+    const auto file = letto();
+    const auto allegati = QPDFEmbeddedFileDocumentHelper(*file).getEmbeddedFiles();
+    ASSERT_EQ(allegati.size(), 1U);
+    const auto& voce = allegati.begin()->second;
+    EXPECT_EQ(voce->getFilename(), "muro là.kvd");
+    EXPECT_EQ(voce->getDescription(), "Il progetto");
+    const auto dentro = voce->getEmbeddedFileStream().getStreamData();
+    EXPECT_EQ(std::string(reinterpret_cast<const char*>(dentro->getBuffer()), dentro->getSize()),
+              byte);
 }
 
 TEST_F(PagineDocumento, HangABookmarkThatSkipsALevelOnTheOneAboveIt) {

@@ -41,6 +41,27 @@ TEST(Impagina, LaysNothingUponAnotherThingOrBeyondTheMargins) {
     EXPECT_GT(fatto.pagine.size(), 3U);
 }
 
+// A drawing 10 cm high, 6 at least, below lines that leave it 8 or 4.
+TEST(Impagina, MakesADrawingLowerThatStaysOnThePageOfWhatStandsAboveIt) {
+    Figura figura{"Inviluppi", "", 17, 10, [] {}, 6, [](double) {}};
+    const double rigaPt = 9.5 * 1.32, didascalia = 22;
+    const auto sopra = [&](double restoCm) {
+        return righe(static_cast<int>(
+            (Formato{}.altezzaTesto() - didascalia - restoCm * puntiPerCentimetro) / rigaPt));
+    };
+    const Impaginato basso = posto({sopra(8), figura});
+    ASSERT_EQ(basso.pagine.size(), 1U);
+    EXPECT_LT(basso.pagine[0].disegni.at(0).altezza, 8.5);
+    EXPECT_GE(basso.pagine[0].disegni.at(0).altezza, 6);
+    EXPECT_EQ(test::difetti(basso), "");
+    const Impaginato intero = posto({sopra(4), figura});
+    ASSERT_EQ(intero.pagine.size(), 2U);
+    EXPECT_EQ(intero.pagine[1].disegni.at(0).altezza, 10);
+    figura.altezzaMinima = 0;
+    figura.disegnaBassa = nullptr;
+    EXPECT_EQ(posto({sopra(8), figura}).pagine.size(), 2U);
+}
+
 TEST(Impagina, GivesEachPageItsHeadItsFootAndItsNumber) {
     const Impaginato fatto = posto({righe(1), SaltoPagina{}, righe(1)});
     ASSERT_EQ(fatto.pagine.size(), 2U);

@@ -19,7 +19,7 @@ inline Cornice cornice(const document::Scritta& s) {
 }
 inline Cornice cornice(const document::Disegno& d) {
     const double scala = d.scala * document::puntiPerCentimetro;
-    return {d.x, d.y, d.x + scala * d.figura->larghezza, d.y + scala * d.figura->altezza,
+    return {d.x, d.y, d.x + scala * d.figura->larghezza, d.y + scala * d.altezza,
             d.figura->didascalia};
 }
 
