@@ -12,10 +12,17 @@ namespace {
 
 constexpr double quotaUno = 3.0, quotaDue = 1.2;  // of the two dimension lines from the right [em]
 
+constexpr double sopraCarico = 3.9;  // a row above the arrows of a load and what it is called [em]
+
 double alCentimetro(double z) { return std::round(project::inCentimetri(z)) / project::centimetri; }
 
 double fineLivelli(const Inquadratura& q) {
     return q.xSezione - (q.stretta ? 0.3 : quotaUno + 0.9) * q.em;
+}
+
+bool caricoDavanti(const Mostrata& m) {
+    const double t = m.fase > 0 ? m.dati().sovraccFase[m.fase] : 0;
+    return disegnabile(t) && t != 0;
 }
 
 // A dimension between two depths, its length written along it.
@@ -67,9 +74,13 @@ void disegnaFasi(const Mostrata& m, const Inquadratura& q, Tela& tela) {
         tela.disegna(Elemento::fase, primo,
                      Linea{{{q.xValle, y}, {fine, y}}, {Ruolo::fase}, 1, Tratteggio::linee});
         std::vector<Posto> posti;
-        for (const double su : {-0.8, 0.8, 0.0})
+        const auto posto = [&](double su) {
             posti.push_back(
                 {{fine, y + su * q.em}, Ancora::destra, fondoValle(m, q, y + su * q.em)});
+        };
+        for (const double su : {-0.8, 0.8}) posto(su);
+        if (q.stretta && mostrato && caricoDavanti(m)) posto(-sopraCarico);
+        posto(0);
         const std::string nome = soloQuesta  ? std::string()
                                  : q.stretta ? nomi + "  "
                                              : base::traduttore("fase") + " " + nomi + "  ";

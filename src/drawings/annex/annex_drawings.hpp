@@ -21,8 +21,9 @@ struct FormatoFigura {
 /// So high that the balance of a stage stands below it on the same page.
 inline constexpr FormatoFigura formatoFase{17, 11.5};
 inline constexpr FormatoFigura formatoInviluppi{17, 12.5};
-inline constexpr FormatoFigura formatoParete{17, 12};
-inline constexpr FormatoFigura formatoSezione{11, 9};
+/// So high that the section of the wall stands below it on the same page.
+inline constexpr FormatoFigura formatoParete{17, 12.4};
+inline constexpr FormatoFigura formatoSezione{10, 7.8};
 /// So high that the directions of bending or the stages share its page.
 inline constexpr FormatoFigura formatoDominio{15, 8.5};
 inline constexpr FormatoFigura formatoConfronto{17, 21};

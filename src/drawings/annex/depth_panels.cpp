@@ -8,10 +8,10 @@
 #include "base/axis_steps.hpp"
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
+#include "drawings/annex/curve_peaks.hpp"
+#include "drawings/annex/panel_scale.hpp"
 #include "drawings/annex/paper.hpp"
-#include "project/shown_number.hpp"
 #include "scene/polygon.hpp"
-#include "scene/shown_values.hpp"
 #include "scene/text_fitting.hpp"
 
 namespace korven::drawings {
@@ -29,7 +29,6 @@ using scene::inRighe;
 using scene::Linea;
 using scene::Primitiva;
 using scene::Punto;
-using scene::quota;
 using scene::Riquadro;
 using scene::Ruolo;
 using scene::Tela;
@@ -44,6 +43,7 @@ constexpr double sopraNumeri = 1.1 * em;  // of the numbers of an axis, above it
 constexpr double sottoPiede = 1.9 * em, sottoPiedeLibero = 3.1 * em;
 constexpr double rigaChiave = 1.15 * em;
 constexpr int righeChiave = 3;
+constexpr double quotaRumore = 0.005;  // of a peak beside the largest value
 
 }  // namespace
 
@@ -78,18 +78,10 @@ void Pannelli::profondita(double x) {
 class Pannelli::Pannello {
  public:
     Pannello(Pannelli& tutti, const DatiPannello& dati, double x1, double x2)
-        : tutti_(tutti), dati_(dati), asse_(tutti.asse_), tela_(tutti.tela_), x1_(x1), x2_(x2) {
+        : tutti_(tutti), dati_(dati), asse_(tutti.asse_), tela_(tutti.tela_), scala_(dati, x1, x2) {
         for (const CurvaPannello& curva : dati_.curve)
-            for (const double v : curva.valori) {
-                minimo_ = std::min(minimo_, mostrato(v));
-                massimo_ = std::max(massimo_, mostrato(v));
-                grande_ = std::max(grande_, std::fabs(v));
-            }
-        if (minimo_ == massimo_) massimo_ = 1;
-        const double respiro = 0.05 * (massimo_ - minimo_);
-        if (minimo_ < 0) minimo_ -= respiro;
-        if (massimo_ > 0) massimo_ += respiro;
-        campo_.posto = {x1_ - 0.5 * em, asse_.yTesta + 1, x2_ + 0.4 * em,
+            for (const double v : curva.valori) grande_ = std::max(grande_, std::fabs(v));
+        campo_.posto = {scala_.x1 - 0.5 * em, asse_.yTesta + 1, scala_.x2 + 0.4 * em,
                         tutti_.yChiave_ - 0.55 * em};
     }
 
@@ -104,22 +96,20 @@ class Pannelli::Pannello {
         linea({{x(0), asse_.yTesta}, {x(0), asse_.piede()}}, Ruolo::asse, 1.4);
         campo_.rette.push_back({{x(0), asse_.yTesta}, {x(0), asse_.piede()}});
         for (const CurvaPannello& curva : dati_.curve) disegna(curva);
-        for (const CurvaPannello& curva : dati_.curve) estremi(curva);
+        for (const CurvaPannello& curva : dati_.curve)
+            for (Picco& picco : picchi(curva, dati_.unita, punti(curva), quotaRumore * grande_))
+                campo_.picchi.push_back(std::move(picco));
         chiave();
         tutti_.campi_.push_back(std::move(campo_));
     }
 
  private:
-    [[nodiscard]] double mostrato(double v) const { return project::mostrato(dati_.unita, v); }
-    [[nodiscard]] double x(double mostrato) const {
-        return x1_ + (x2_ - x1_) * (mostrato - minimo_) / (massimo_ - minimo_);
-    }
-    [[nodiscard]] Punto punto(const CurvaPannello& curva, std::size_t i) const {
-        return {x(mostrato(curva.valori[i])), asse_.y(curva.z[i])};
-    }
+    [[nodiscard]] double x(double mostrato) const { return scala_.x(mostrato); }
     [[nodiscard]] std::vector<Punto> punti(const CurvaPannello& curva) const {
         std::vector<Punto> tutti;
-        for (std::size_t i = 0; i < curva.valori.size(); ++i) tutti.push_back(punto(curva, i));
+        for (std::size_t i = 0; i < curva.valori.size(); ++i)
+            tutti.push_back(
+                {x(project::mostrato(dati_.unita, curva.valori[i])), asse_.y(curva.z[i])});
         return tutti;
     }
 
@@ -140,81 +130,34 @@ class Pannelli::Pannello {
     void griglia() {
         const double passo = tutti_.passo();
         for (int i = 0; i * passo <= asse_.lunghezza * (1 + 1e-9); ++i)
-            linea({{x1_, asse_.y(i * passo)}, {x2_, asse_.y(i * passo)}}, Ruolo::griglia, 1);
+            linea({{scala_.x1, asse_.y(i * passo)}, {scala_.x2, asse_.y(i * passo)}},
+                  Ruolo::griglia, 1);
         for (const double z : tutti_.linee_)
-            linea({{x1_, asse_.y(z)}, {x2_, asse_.y(z)}}, Ruolo::fase, 0.8, Tratteggio::linee);
-        linea({{x1_, asse_.yTesta}, {x2_, asse_.yTesta}}, Ruolo::asse, 0.8);
+            linea({{scala_.x1, asse_.y(z)}, {scala_.x2, asse_.y(z)}}, Ruolo::fase, 0.8,
+                  Tratteggio::linee);
+        linea({{scala_.x1, asse_.yTesta}, {scala_.x2, asse_.yTesta}}, Ruolo::asse, 0.8);
     }
 
     // In rows that end above the numbers, the unit in the last.
     void titolo() {
-        auto righe =
-            inRighe(dati_.titolo, x2_ - x1_ + 0.4 * em, em, righeTitolo - 1, tela_.misura());
+        auto righe = inRighe(dati_.titolo, scala_.x2 - scala_.x1 + 0.4 * em, em, righeTitolo - 1,
+                             tela_.misura());
         righe.push_back(traParentesi(dati_.unita));
         double y = asse_.yTesta - sopraNumeri - 1.2 * em - riga * static_cast<double>(righe.size());
         for (std::string& una : righe)
-            scrivi(std::move(una), {(x1_ + x2_) / 2, y += riga}, Ancora::centro, Grado::nota, em);
+            scrivi(std::move(una), {(scala_.x1 + scala_.x2) / 2, y += riga}, Ancora::centro,
+                   Grado::nota, em);
     }
 
     void nulla() {
-        const double xm = (x1_ + x2_) / 2;
+        const double xm = (scala_.x1 + scala_.x2) / 2;
         linea({{xm, asse_.yTesta}, {xm, asse_.piede()}}, Ruolo::asse, 1.4);
         scrivi(traduttore("nessuna curva"), {xm, (asse_.yTesta + asse_.piede()) / 2},
                Ancora::centro);
     }
 
-    // 0 is farther than all.
-    [[nodiscard]] double lontano(double xNumero) const {
-        const double d = std::fabs(xNumero - x(0));
-        return d < 1 ? x2_ - x1_ : d;
-    }
-    static constexpr double aria = 0.45 * em, oltre = 0.45 * em;  // between numbers, at the edges
-
-    struct Numero {
-        double tacca = 0, x = 0;  // of the number's middle, which stays in the panel
-        double mezza = 0;
-        std::string testo;
-    };
-    [[nodiscard]] std::vector<Numero> numeri(double passo) const {
-        std::vector<Numero> tutti;
-        for (double i = std::ceil(minimo_ / passo); i * passo <= massimo_; ++i) {
-            Numero& n = tutti.emplace_back();
-            n.tacca = n.x = x(i * passo);
-            n.testo = base::numeroAsse(i * passo, passo);
-            n.mezza = tela_.larghezza(n.testo, corpo) / 2;
-            const double sporge = n.mezza - oltre;
-            if (x2_ - x1_ > 2 * sporge) n.x = std::clamp(n.x, x1_ + sporge, x2_ - sporge);
-        }
-        return tutti;
-    }
-    static bool sgombri(const Numero& a, const Numero& b) {
-        return std::fabs(a.x - b.x) >= a.mezza + b.mezza + aria;
-    }
-
-    // As many numbers as stand clear of each other; where that is 0 alone, those of a finer step
-    // that find room beside it, the farthest first.
     void ascisse() {
-        std::vector<Numero> scelti;
-        for (int quanti = 6; quanti > 0; --quanti) {
-            auto prova = numeri(base::passoAsse(massimo_ - minimo_, quanti));
-            const bool tutti = std::adjacent_find(prova.begin(), prova.end(),
-                                                  [](const Numero& a, const Numero& b) {
-                                                      return !sgombri(a, b);
-                                                  }) == prova.end();
-            if (tutti && prova.size() < 2 && !scelti.empty()) break;
-            scelti = std::move(prova);
-            if (tutti) break;
-        }
-        std::stable_sort(scelti.begin(), scelti.end(), [&](const Numero& a, const Numero& b) {
-            return lontano(a.tacca) > lontano(b.tacca);
-        });
-        std::vector<Numero> scritti;
-        for (Numero& n : scelti)
-            if (std::all_of(scritti.begin(), scritti.end(),
-                            [&](const Numero& uno) { return sgombri(n, uno); }))
-                scritti.push_back(std::move(n));
-        scelti = std::move(scritti);
-        for (Numero& n : scelti) {
+        for (NumeroAscissa& n : numeriAscisse(scala_, tela_.misura())) {
             linea({{n.tacca, asse_.yTesta}, {n.tacca, asse_.piede()}}, Ruolo::griglia, 1);
             linea({{n.tacca, asse_.yTesta - 0.3 * em}, {n.tacca, asse_.yTesta}}, Ruolo::asse, 0.8);
             scrivi(std::move(n.testo), {n.x, asse_.yTesta - sopraNumeri}, Ancora::centro);
@@ -240,38 +183,11 @@ class Pannelli::Pannello {
                       Linea{std::move(tutti), {curva.linea}, curva.spessore, curva.tratteggio});
     }
 
-    // A peak that is nothing beside the others is the noise of a hinge or of the toe.
-    void estremi(const CurvaPannello& curva) {
-        const double trascurabile = 0.005 * grande_;
-        const auto [minore, maggiore] =
-            std::minmax_element(curva.valori.begin(), curva.valori.end());
-        if (curva.massimo && *maggiore > trascurabile)
-            estremo(curva, static_cast<std::size_t>(maggiore - curva.valori.begin()));
-        if (curva.minimo && *minore < -trascurabile)
-            estremo(curva, static_cast<std::size_t>(minore - curva.valori.begin()));
-    }
-
-    void estremo(const CurvaPannello& curva, std::size_t i) {
-        const std::string valore =
-            curva.prima + project::numeroMostrato(curva.valori[i], 1, dati_.unita);
-        const std::string z = quota(curva.z[i]);
-        Picco& picco = campo_.picchi.emplace_back();
-        picco.punto = punto(curva, i);
-        picco.ruolo = curva.linea;
-        if (i >= curva.fasi.size() || curva.fasi[i] == 0) {
-            picco.forme = {{valore + " · " + z}, {valore, z}};
-            return;
-        }
-        const std::string fase = traduttore("fase") + ' ' + std::to_string(curva.fasi[i]);
-        picco.forme = {
-            {valore + " · " + z + " · " + fase}, {valore + " · " + z, fase}, {valore, z, fase}};
-    }
-
     // Below the toe: the lines by their names, and which way positive values point.
     void chiave() {
         double y = tutti_.yChiave_;
         if (dati_.versoScavo) {
-            const double xm = (x1_ + x2_) / 2, mezza = 0.9 * em;
+            const double xm = (scala_.x1 + scala_.x2) / 2, mezza = 0.9 * em;
             tela_.disegna(Elemento::asse, 0,
                           Freccia{{{xm - mezza, y}, {xm + mezza, y}}, {Ruolo::asse}, 1, 0.5 * em});
             scrivi(traduttore("+ verso lo scavo"), {xm, y += 1.1 * em}, Ancora::centro);
@@ -280,9 +196,11 @@ class Pannelli::Pannello {
         for (const CurvaPannello& curva : dati_.curve) {
             if (curva.nome.empty()) continue;
             const double lunga = 1.7 * em;
-            linea({{x1_, y}, {x1_ + lunga, y}}, curva.linea, curva.spessore, curva.tratteggio);
-            scrivi(accorciato(curva.nome, x2_ - x1_ - lunga, corpo, false, tela_.misura()),
-                   {x1_ + lunga + 0.4 * em, y}, Ancora::sinistra);
+            linea({{scala_.x1, y}, {scala_.x1 + lunga, y}}, curva.linea, curva.spessore,
+                  curva.tratteggio);
+            scrivi(
+                accorciato(curva.nome, scala_.x2 - scala_.x1 - lunga, corpo, false, tela_.misura()),
+                {scala_.x1 + lunga + 0.4 * em, y}, Ancora::sinistra);
             y += rigaChiave;
         }
     }
@@ -291,9 +209,8 @@ class Pannelli::Pannello {
     const DatiPannello& dati_;
     const AsseProfondita& asse_;
     Tela& tela_;
-    double x1_, x2_;
-    double minimo_ = 0, massimo_ = 0;  // shown, 0 among them
-    double grande_ = 0;                // stored
+    ScalaPannello scala_;
+    double grande_ = 0;  // largest of all values, stored
     CampoPicchi campo_;
 };
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "scene/picture.hpp"
 #include "scene/scene.hpp"
 
 // A drawing of a document is laid out like a picture of the desktop, in pixels that are of a fixed
@@ -21,6 +22,15 @@ inline constexpr double altezzaMaiuscole = 0.715;
 /// @param larghezza, altezza  [cm]
 [[nodiscard]] inline scene::Misura misuraCarta(double larghezza, double altezza) {
     return {larghezza * pixelCarta, altezza * pixelCarta};
+}
+
+/// A drawing of that size, still empty.
+[[nodiscard]] inline scene::Scena scenaCarta(const scene::Misura& misura) {
+    scene::Scena s;
+    s.larghezza = misura.larghezza;
+    s.altezza = misura.altezza;
+    s.corpo = corpoCarta;
+    return s;
 }
 
 }  // namespace korven::drawings

@@ -20,7 +20,6 @@ using scene::Area;
 using scene::Elemento;
 using scene::Figura;
 using scene::Linea;
-using scene::Misura;
 using scene::MisuraStimata;
 using scene::Primitiva;
 using scene::Punto;
@@ -148,10 +147,7 @@ class Disegno {
 }  // namespace
 
 Scena scenaSezione(const project::Sezione& sezione, double larghezza, double altezza) {
-    const Misura misura = misuraCarta(larghezza, altezza);
-    Scena s;
-    s.larghezza = misura.larghezza;
-    s.altezza = misura.altezza;
+    Scena s = scenaCarta(misuraCarta(larghezza, altezza));
     const TipoSezione tipo = structure::tipoSezione(sezione);
     if (tipo != TipoSezione::nessuno) Disegno(s).disegna(schizzoSezione(parte(tipo), sezione));
     return s;

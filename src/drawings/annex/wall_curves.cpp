@@ -72,8 +72,11 @@ std::vector<DatiPannello> pannelliFase(const PareteViva& parete, int fase) {
             CurvaPannello& c = p.curve.emplace_back(curva(serie));
             c.linea = serie.linea;
             if (serie.riempita) c.fondo = serie.fondo;
-            if (!serie.riempita) c.tratteggio = Tratteggio::linee;
-            if (serie.linea == Ruolo::curvaValle) c.spessore = spessoreValle;
+            if (serie.linea == Ruolo::acqua) c.tratteggio = Tratteggio::punti;
+            if (serie.linea == Ruolo::curvaValle) {
+                c.tratteggio = Tratteggio::linee;
+                c.spessore = spessoreValle;
+            }
             if (!serie.nome.empty()) c.nome = traduttore(serie.nome);
         }
     }

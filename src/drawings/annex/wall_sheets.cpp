@@ -42,14 +42,6 @@ void unisci(Scena& scena, std::vector<Primitiva> altre) {
     std::move(altre.begin(), altre.end(), std::back_inserter(scena.primitive));
 }
 
-Scena vuota(const Misura& misura) {
-    Scena s;
-    s.larghezza = misura.larghezza;
-    s.altezza = misura.altezza;
-    s.corpo = em;
-    return s;
-}
-
 // Panels from x1 to x2, as wide as their weights.
 void disponi(Pannelli& pannelli, const std::vector<DatiPannello>& dati,
              const std::vector<double>& pesi, double x1, double x2) {
@@ -108,13 +100,13 @@ Scena conPannelli(const live::PareteViva& parete, int fase, const std::vector<do
                   const std::vector<DatiPannello>& dati, const std::vector<double>& pesi,
                   const Misura& misura) {
     const MisuraStimata testi;
-    Scena s = vuota(misura);
+    Scena s = scenaCarta(misura);
     const double larga = std::max(sezioneMinima, quotaSezione * misura.larghezza);
     const ElencoTiranti tiranti(parete, fase, larga, testi);
     // The view has no line at its foot, but the room for it.
     const double sottoMuro = std::max(0.0, tiranti.altezza() - piedeVeduta);
     const VedutaMuro muro = vedutaMuro(parete, fase, {0, 0, larga, misura.altezza - sottoMuro},
-                                       Pannelli::testata(), testi);
+                                       Pannelli::testata(), Pannelli::piede() - sottoMuro, testi);
     unisci(s, muro.primitive);
     s.yTesta = muro.asse.yTesta;
     s.scala = muro.asse.scala;
@@ -185,7 +177,7 @@ Scena scenaConfronto(const MuroDetto& a, const MuroDetto& b, double larghezza, d
     constexpr double quotaMuri = 0.42;  // of the height, for the walls
     const Misura misura = misuraCarta(larghezza, altezza);
     const MisuraStimata testi;
-    Scena s = vuota(misura);
+    Scena s = scenaCarta(misura);
     Tela tela(misura.larghezza, misura.altezza, testi);
     const double meta = misura.larghezza / 2, basso = quotaMuri * misura.altezza;
     AsseProfondita asse{0, 1, 0};
@@ -199,7 +191,7 @@ Scena scenaConfronto(const MuroDetto& a, const MuroDetto& b, double larghezza, d
                      .corpo = em,
                      .posti = {{{x + 0.5 * em, 0.8 * em}, Ancora::sinistra}}});
         VedutaMuro veduta =
-            vedutaMuro(muro->parete, 0, {x, 1.6 * em, x + meta - em, basso}, 0, testi);
+            vedutaMuro(muro->parete, 0, {x, 1.6 * em, x + meta - em, basso}, 0, 0, testi);
         asse.lunghezza = std::max(asse.lunghezza, veduta.asse.lunghezza);
         unisci(s, std::move(veduta.primitive));
         x += meta + em;

@@ -68,11 +68,9 @@ bool haTiranti(const project::DatiProgetto& dati) {
 Scena scenaParete(const live::PareteViva& parete, double larghezza, double altezza) {
     const Misura misura = misuraCarta(larghezza, altezza);
     const MisuraStimata testi;
-    Scena s;
-    s.larghezza = misura.larghezza;
-    s.altezza = misura.altezza;
+    Scena s = scenaCarta(misura);
     VedutaMuro muro =
-        vedutaMuro(parete, 0, {0, 0, misura.larghezza, misura.altezza - striscia}, 0, testi);
+        vedutaMuro(parete, 0, {0, 0, misura.larghezza, misura.altezza - striscia}, 0, 0, testi);
     s.primitive = std::move(muro.primitive);
     s.yTesta = muro.asse.yTesta;
     s.scala = muro.asse.scala;

@@ -59,14 +59,16 @@ std::vector<Primitiva> spostate(std::vector<Primitiva> primitive, double dx, dou
 }
 
 VedutaMuro vedutaMuro(const live::PareteViva& parete, int fase, const Riquadro& posto,
-                      double testata, const MisuraTesti& testi) {
+                      double testata, double piede, const MisuraTesti& testi) {
     // Wide enough for its dimensions and the line at the foot.
     const bool stretta = posto.larghezza() < larghezzaQuote;
     Scena s = sezione(parete, fase, stretta, {posto.larghezza(), posto.altezza()}, testi);
-    // With loads, water or a slope above its head it has room enough already.
+    // With loads, water or a slope above its head it has room enough already, and with ground below
+    // its toe there.
     const double giu = std::max(0.0, testata - s.yTesta);
-    if (giu > 0)
-        s = sezione(parete, fase, stretta, {posto.larghezza(), posto.altezza() - giu}, testi);
+    const double su = std::max(0.0, piede - (posto.altezza() - s.yTesta - s.scala * s.paratia));
+    if (giu + su > 0)
+        s = sezione(parete, fase, stretta, {posto.larghezza(), posto.altezza() - giu - su}, testi);
     std::erase_if(s.primitive, [&](const Primitiva& una) {
         return una.elemento == Elemento::sfondo || mozzicone(una) ||
                (una.elemento == Elemento::nota && stretta);

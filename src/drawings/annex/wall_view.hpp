@@ -19,8 +19,9 @@ struct VedutaMuro {
 /// line at its foot where that is narrow.
 /// @param fase     counted from 1; 0: all stages
 /// @param testata  room above depth 0, at least [px]
+/// @param piede    room below the toe, at least [px]
 [[nodiscard]] VedutaMuro vedutaMuro(const live::PareteViva& parete, int fase,
-                                    const scene::Riquadro& posto, double testata,
+                                    const scene::Riquadro& posto, double testata, double piede,
                                     const scene::MisuraTesti& testi);
 
 /// Moves what a picture is made of.

@@ -7,6 +7,7 @@
 #include <cmath>
 #include <limits>
 #include <map>
+#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -16,6 +17,7 @@
 #include "drawings/annex/paper.hpp"
 #include "drawings/annex/plot_strokes.hpp"
 #include "drawings/annex/section_figure.hpp"
+#include "drawings/annex/wall_curves.hpp"
 #include "drawings/annex/wall_to_scale.hpp"
 #include "drawings/hatch_library.hpp"
 #include "live/section_checks.hpp"
@@ -146,6 +148,32 @@ TEST_F(DisegniAllegato, OfAMechanismHaveTheLimitPressuresInAllLanguages) {
         for (const Testo& t : test::figure<Testo>(s)) testi += t.testo + "\n";
         EXPECT_NE(testi.find("-900"), std::string::npos) << testi;  // kN/m2 at the toe
     }
+}
+
+// In particular of a wall whose ground ends above its toe.
+TEST_F(DisegniAllegato, NameEachLineOfThePressuresAndGiveItAStrokeOfItsOwn) {
+    std::size_t piu = 0;
+    auto muri = esempi();
+    for (const auto& file : test::muriIn(KORVEN_WALLS)) muri.push_back(test::leggiMuro(file));
+    for (const auto& dati : muri) {
+        const auto parete = live::calcola(dati, segmenti);
+        for (int k = 1; k <= parete.fasiInEquilibrio(); ++k) {
+            std::vector<std::string> testi;
+            for (const Testo& t : test::figure<Testo>(
+                     scenaFase(parete, k, formatoFase.larghezza, formatoFase.altezza)))
+                testi.push_back(t.testo);
+            const auto curve = pannelliFase(parete, k).at(0).curve;
+            std::set<scene::Tratteggio> tratti;
+            for (const CurvaPannello& c : curve) {
+                EXPECT_EQ(std::count(testi.begin(), testi.end(), c.nome), 1)
+                    << dati.titoli[1] << k << c.nome;
+                tratti.insert(c.tratteggio);
+            }
+            EXPECT_EQ(tratti.size(), curve.size());
+            piu = std::max(piu, curve.size());
+        }
+    }
+    EXPECT_EQ(piu, 3U) << "some wall has water";
 }
 
 struct Picco {
