@@ -1,5 +1,7 @@
 #include "dossier/anchor_story.hpp"
 
+#include "analysis/wall_mesh.hpp"
+
 namespace korven::dossier {
 
 namespace {
@@ -22,6 +24,17 @@ void segui(const live::PareteViva& parete, StoriaTirante& storia) {
     }
 }
 
+// Where it acts, and from where it counts.
+void posa(const live::PareteViva& parete, StoriaTirante& storia) {
+    if (parete.nSeg == 0) return;
+    const int nodo = analysis::nodoTirante(storia.profondita, parete.h);
+    if (nodo < 1 || nodo > parete.nSeg + 1) return;
+    storia.profonditaNodo = (nodo - 1) * parete.h;
+    if (storia.posa == 0) return;
+    const auto* prima = parete.fase(storia.posa - 1);
+    storia.spostamentoPosa = prima == nullptr ? 0 : prima->y[static_cast<std::size_t>(nodo) - 1];
+}
+
 }  // namespace
 
 std::vector<StoriaTirante> storieTiranti(const live::PareteViva& parete,
@@ -32,6 +45,7 @@ std::vector<StoriaTirante> storieTiranti(const live::PareteViva& parete,
         storia.tirante = t;
         storia.profondita = parete.dati.profTirante[t];
         segui(parete, storia);
+        posa(parete, storia);
         if (margine == nullptr || !margine->relazione) continue;
         const auto& massimi = margine->relazione->tiriMassimi;
         const auto j = static_cast<std::size_t>(t) - 1;

@@ -82,6 +82,7 @@ inline constexpr Unita modulo{"t/m³", "kN/m³", kilonewton};
 inline constexpr Unita rigidezza{"t/m", "kN/m", kilonewton};
 inline constexpr Unita rigidezzaAlMetro{"t/m/m", "kN/m/m", kilonewton};  ///< of wall, where told
 inline constexpr Unita rigidezzaFlessionale{"t m²", "kN m²", kilonewton};
+inline constexpr Unita rigidezzaFlessionaleAlMetro{"t m²/m", "kN m²/m", kilonewton};
 
 }  // namespace unita
 

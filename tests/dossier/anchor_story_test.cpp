@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include "safety/short_margin.hpp"
 #include "support/sample_projects.hpp"
 
@@ -38,6 +40,36 @@ TEST(StorieTiranti, FollowEachAnchorFromTheStageThatPutsItInPlace) {
     EXPECT_EQ(storie[2].posa, 0);
     EXPECT_EQ(storie[2].faseMassimo, 0);
     EXPECT_EQ(storie[2].tiri.size(), 3U);
+}
+
+// Both forces are above 0, so that no anchor is slack.
+TEST(StorieTiranti, TellFromWhereEachForceIsCounted) {
+    const auto parete = live::calcola(muro(), 40);
+    const auto storie = storieTiranti(parete, nullptr);
+    for (const std::size_t j : {0U, 1U}) {
+        const StoriaTirante& s = storie[j];
+        ASSERT_TRUE(s.profonditaNodo && s.spostamentoPosa);
+        EXPECT_NEAR(*s.profonditaNodo, s.profondita, parete.h / 2);
+        const auto nodo = static_cast<std::size_t>(std::lround(*s.profonditaNodo / parete.h));
+        EXPECT_EQ(*s.spostamentoPosa, parete.fase(s.posa - 1)->y[nodo]);
+        for (int k = s.posa; k <= 3; ++k)
+            EXPECT_NEAR(*s.tiri[static_cast<std::size_t>(k) - 1],
+                        parete.dati.pretTirante[s.tirante] +
+                            parete.dati.rigTirante[s.tirante] *
+                                (parete.fase(k)->y[nodo] - *s.spostamentoPosa),
+                        1e-9);
+    }
+    EXPECT_FALSE(storie[2].spostamentoPosa);
+    EXPECT_NEAR(*storie[2].profonditaNodo, 6, 1e-9);
+}
+
+TEST(StorieTiranti, HaveNoNodeBesideTheWallAndCountTheFirstStageFromNothing) {
+    auto dati = muro();
+    dati.profTirante[3] = 50;
+    dati.tirantiFase[1] = 1;
+    const auto storie = storieTiranti(live::calcola(dati, 40), nullptr);
+    EXPECT_EQ(storie[0].spostamentoPosa, 0);
+    EXPECT_FALSE(storie[2].profonditaNodo);
 }
 
 TEST(StorieTiranti, HaveTheReportsLargestForceBesideThem) {

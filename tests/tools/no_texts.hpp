@@ -484,6 +484,7 @@ inline const std::map<std::string, Texts> noTexts = {
     {"report/annex/section_rows.cpp", {"fcd", "fck", "γc", "fyd", "fyk", "γs", "γF"}},
     {"report/annex/shear_rules.cpp", {"γc", "ρl", "σcp", "τRd k (1.2 + 40 ρl) + 0.15 σcp"}},
     {"report/annex/margin_chapter.cpp", {"γφ' = γc'"}},
+    {"report/annex/project_copy.cpp", {"progetto.kvd"}},
     {"report/annex/spring_law.cpp",
      {"σv = q + Σ γ Δz", "u = γw (z − max(zw, 0)) ≥ 0", "σv = qf + Σ γ Δz",
       "u = γw (z − max(zw, e)) ≥ 0", "σ = σv − u", "σ = σv", "pa = ka σ − 2 c tan(45° − φ/2) ≥ 0",

@@ -1,9 +1,9 @@
 #include <string>
 
 #include "base/colon.hpp"
-#include "base/filled_text.hpp"
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
+#include "project/codes.hpp"
 #include "project/field_table.hpp"
 #include "report/annex/chapters.hpp"
 #include "report/annex/columns.hpp"
@@ -15,7 +15,6 @@
 
 namespace korven::report {
 
-using base::riempito;
 using base::traduttore;
 using dossier::Fascicolo;
 using dossier::StoriaTirante;
@@ -27,6 +26,25 @@ namespace unita = project::unita;
 namespace {
 
 constexpr const char* maiInOpera = "In nessuna fase in equilibrio il tirante è in opera.";
+
+bool puntone(const DatiProgetto& dati, int j) {
+    return dati.tipoTirante[j] == project::TipoTirante::trazioneCompressione;
+}
+
+// How many ties and how many struts the table has.
+struct Conto {
+    int tiranti = 0, puntoni = 0;
+};
+Conto conto(const Fascicolo& f) {
+    Conto c;
+    for (const StoriaTirante& t : f.tiranti)
+        ++(puntone(f.parete.dati, t.tirante) ? c.puntoni : c.tiranti);
+    return c;
+}
+
+const char* titolo(const Conto& c, const char* tiranti, const char* puntoni, const char* tutti) {
+    return c.puntoni == 0 ? tiranti : c.tiranti == 0 ? puntoni : tutti;
+}
 
 Cella tipo(const DatiProgetto& dati, int j) {
     const auto* codice =
@@ -49,23 +67,48 @@ Cella senzaRelazione(const Fascicolo& f) {
 }
 
 Prospetto elenco(const Fascicolo& f) {
-    Prospetto p{.titolo = traduttore("Tiranti"),
-                .colonne = {numeri("Tirante"), simboli(unita::metri, "z"), colonna("Tipo"),
+    Prospetto p{.titolo = traduttore(titolo(conto(f), "Tiranti", "Puntoni", "Tiranti e puntoni")),
+                .colonne = {colonna("Elemento"), simboli(unita::metri, "z"),
+                            numeri(unita::metri, "Nodo a z"), colonna("Tipo"),
                             numeri(unita::rigidezzaAlMetro, "Rigidezza"),
                             numeri(unita::forzaAlMetro, "Pretensione"), numeri("Posa nella fase"),
-                            numeri(unita::forzaAlMetro, "Alla posa"),
-                            numeri(unita::forzaAlMetro, "Massima"), numeri("Fase"),
-                            numeri(unita::forzaAlMetro, "Relazione")}};
+                            numeri(unita::spostamentoFine, "y alla posa")}};
     const DatiProgetto& dati = f.parete.dati;
     for (const StoriaTirante& t : f.tiranti) {
         auto& riga = p.righe.emplace_back(std::vector<Cella>{
-            tables::cella(t.tirante), tables::profondita(t.profondita), tipo(dati, t.tirante),
-            rigidezza(dati.rigTirante[t.tirante]), tables::forza(dati.pretTirante[t.tirante])});
+            tables::parola(nomeTirante(dati, t.tirante)), tables::profondita(t.profondita),
+            t.profonditaNodo ? tables::profondita(*t.profonditaNodo)
+                             : tables::senza(traduttore("Non agisce su nessun nodo.")),
+            tipo(dati, t.tirante), rigidezza(dati.rigTirante[t.tirante]),
+            tables::forza(dati.pretTirante[t.tirante])});
         if (t.posa == 0)
-            riga.resize(9, tables::senza(traduttore(maiInOpera)));
+            riga.resize(p.colonne.size(), tables::senza(traduttore(maiInOpera)));
         else
-            riga.insert(riga.end(), {tables::cella(t.posa), tables::forza(t.allaPosa),
-                                     tables::forza(t.massimo), tables::cella(t.faseMassimo)});
+            riga.insert(riga.end(),
+                        {tables::cella(t.posa),
+                         t.spostamentoPosa ? tables::spostamento(*t.spostamentoPosa) : Cella{}});
+    }
+    p.note.push_back(
+        traduttore("z: profondità scritta. Nodo a z: il nodo più vicino, su cui la forza agisce. y "
+                   "alla posa: spostamento del nodo alla fine della fase precedente, da cui la "
+                   "forza conta; 0 per la prima fase. Rigidezza e pretensione sono orizzontali e "
+                   "per metro di paratia, come scritte."));
+    return p;
+}
+
+Prospetto forze(const Fascicolo& f) {
+    Prospetto p{.titolo = traduttore("Forze maggiori"),
+                .colonne = {colonna("Elemento"), numeri(unita::forzaAlMetro, "Alla posa"),
+                            numeri(unita::forzaAlMetro, "Massima"), numeri("Fase"),
+                            numeri(unita::forzaAlMetro, "Relazione")}};
+    for (const StoriaTirante& t : f.tiranti) {
+        auto& riga = p.righe.emplace_back(
+            std::vector<Cella>{tables::parola(nomeTirante(f.parete.dati, t.tirante))});
+        if (t.posa == 0)
+            riga.resize(4, tables::senza(traduttore(maiInOpera)));
+        else
+            riga.insert(riga.end(), {tables::forza(t.allaPosa), tables::forza(t.massimo),
+                                     tables::cella(t.faseMassimo)});
         riga.push_back(t.relazione ? tables::cifre(mostrato(unita::forzaAlMetro, *t.relazione))
                                    : senzaRelazione(f));
     }
@@ -81,12 +124,13 @@ Prospetto elenco(const Fascicolo& f) {
 }
 
 Prospetto perFase(const Fascicolo& f) {
-    Prospetto p{.titolo = traduttore("Forza dei tiranti in ogni fase"),
+    Prospetto p{.titolo = traduttore(titolo(conto(f), "Forza dei tiranti in ogni fase",
+                                            "Forza dei puntoni in ogni fase",
+                                            "Forza di tiranti e puntoni in ogni fase")),
                 .colonne = {numeri("Fase")}};
-    for (const StoriaTirante& t : f.tiranti) {
-        p.colonne.push_back(numeri(unita::forzaAlMetro, "Tirante %1"));
-        p.colonne.back().titolo = riempito(p.colonne.back().titolo, {std::to_string(t.tirante)});
-    }
+    for (const StoriaTirante& t : f.tiranti)
+        p.colonne.push_back({.titolo = nomeTirante(f.parete.dati, t.tirante),
+                             .unita = std::string(unita::forzaAlMetro.mostrata)});
     for (int k = 1; k <= f.parete.fasiInEquilibrio(); ++k) {
         auto& riga = p.righe.emplace_back(std::vector{tables::cella(k)});
         for (const StoriaTirante& t : f.tiranti) {
@@ -109,12 +153,24 @@ void capitoloTiranti(const Contesto& contesto, Blocchi& blocchi) {
         paragrafo(traduttore("Il progetto non ha tiranti."), blocchi);
         return;
     }
-    paragrafo(
-        traduttore("Forze per metro di paratia, trazione positiva. Nel modello un tirante è "
-                   "una molla orizzontale: la forza nell'asse di un tirante con interasse i e "
-                   "inclinazione a sull'orizzontale è T i / cos a."),
-        blocchi);
+    const Conto quanti = conto(f);
+    paragrafo(traduttore("Forze orizzontali per metro di paratia. Una forza positiva trattiene la "
+                         "paratia: tende un tirante, comprime un puntone."),
+              blocchi);
+    paragrafo(traduttore("Nel modello ognuno è una molla sul suo nodo: T = P + k (y - y0), con P "
+                         "pretensione, k rigidezza, y spostamento del nodo nella fase e y0 quello "
+                         "alla posa; chi lavora solo a trazione non scende sotto 0."),
+              blocchi);
+    if (quanti.tiranti > 0)
+        paragrafo(traduttore("La forza nell'asse di un tirante con interasse i e inclinazione a "
+                             "sull'orizzontale è T i / cos a."),
+                  blocchi);
+    if (quanti.puntoni > 0)
+        paragrafo(traduttore("Un puntone è orizzontale: a interasse i porta N = T i, di "
+                             "compressione se positivo."),
+                  blocchi);
     tavola(elenco(f), blocchi);
+    tavola(forze(f), blocchi);
     if (f.parete.fasiInEquilibrio() > 0)
         tavola(perFase(f), blocchi);
     else

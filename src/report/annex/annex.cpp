@@ -7,6 +7,7 @@
 #include "base/language.hpp"
 #include "base/translated_texts.hpp"
 #include "report/annex/chapters.hpp"
+#include "report/annex/project_copy.hpp"
 
 namespace korven::report {
 
@@ -26,19 +27,15 @@ constexpr Capitolo capitoli[] = {
     {"Modello e ipotesi", capitoloModello, true},
     {"Osservazioni", capitoloOsservazioni, false},
     {"Dati", capitoloDati, true},
-    {"Terreno e rigidezze", capitoloTerreno, true},
-    {"Fasi", capitoloFasi, true},
-    {"Tiranti", capitoloTiranti, true},
+    {"Terreno e rigidezze", capitoloTerreno, false},
+    {"Fasi", capitoloFasi, false},
+    {"Tiranti e puntoni", capitoloTiranti, false},
     {"Inviluppi", capitoloInviluppi, false},
-    {"Verifiche della sezione", capitoloSezione, true},
-    {"Margine di sicurezza", capitoloMargine, true},
-    {"Terreno nodo per nodo", capitoloNodiTerreno, true},
-    {"Come ripetere il documento", capitoloRipetere, true},
+    {"Verifiche della sezione", capitoloSezione, false},
+    {"Margine di sicurezza", capitoloMargine, false},
+    {"Terreno nodo per nodo", capitoloNodiTerreno, false},
+    {"Come ripetere il documento", capitoloRipetere, false},
 };
-
-std::string nomeFile(const std::string& percorso) {
-    return percorso.substr(percorso.find_last_of("/\\") + 1);
-}
 
 // What a page that lies alone on a desk must tell: of which project, by which program.
 void intesta(const dossier::Fascicolo& f, Documento& d) {
@@ -51,6 +48,7 @@ void intesta(const dossier::Fascicolo& f, Documento& d) {
     d.testata[0] = titolo.empty() ? file : (file.empty() ? titolo : file + " - " + titolo);
     d.testata[1] = f.identita.programma + " " + f.identita.versione;
     d.piede = "SHA-256 " + std::string(dossier::inBreve(f.identita.impronta));
+    if (auto copia = copiaProgetto(f)) d.allegati.push_back(std::move(*copia));
 }
 
 }  // namespace
@@ -63,6 +61,7 @@ Documento allegato(dossier::Fascicolo fascicolo, const OpzioniAllegato& opzioni)
     intesta(*contesto.fascicolo, d);
     d.blocchi.emplace_back(document::Titolo{1, traduttore("Allegato di calcolo")});
     capitoloCopertina(contesto, d.blocchi);
+    d.blocchi.emplace_back(document::Indice{traduttore("Indice")});
     int numero = 0;
     for (const Capitolo& capitolo : capitoli) {
         if (capitolo.nuovaPagina) d.blocchi.emplace_back(document::SaltoPagina{});

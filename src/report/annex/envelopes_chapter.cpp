@@ -20,12 +20,19 @@ using dossier::Fascicolo;
 namespace {
 
 document::Figura figura(const Contesto& contesto) {
+    constexpr double altezzaMinima = 8.5;  // of curves that can still be read
     const auto f = contesto.fascicolo;
     const auto [larghezza, altezza] = drawings::formatoInviluppi;
     return {traduttore("Inviluppi di momento, taglio e spostamento, con le curve delle fasi"),
             traduttore("Inviluppi di momento, taglio e spostamento, con le curve delle fasi") + ".",
-            larghezza, altezza, [f, larghezza = larghezza, altezza = altezza] {
+            larghezza,
+            altezza,
+            [f, larghezza = larghezza, altezza = altezza] {
                 drawings::disegnaInviluppi(f->parete, larghezza, altezza);
+            },
+            altezzaMinima,
+            [f, larghezza = larghezza](double bassa) {
+                drawings::disegnaInviluppi(f->parete, larghezza, bassa);
             }};
 }
 

@@ -1,6 +1,7 @@
 #include "report/annex/field_cells.hpp"
 
 #include <algorithm>
+#include <charconv>
 #include <cmath>
 #include <iterator>
 #include <type_traits>
@@ -12,6 +13,7 @@
 #include "live/section_checks.hpp"
 #include "project/code_words.hpp"
 #include "project/codes.hpp"
+#include "report/annex/layer_text.hpp"
 
 namespace korven::report {
 
@@ -22,12 +24,25 @@ using project::DatiProgetto;
 using project::MetodoKs;
 using project::MetodoSpinte;
 using tables::Cella;
+namespace unita = project::unita;
 
 namespace {
 
+// All digits of a number that a program wrote are of use in the file alone, which stands whole at
+// the end of the document.
+double inBreve(double valore) {
+    constexpr int dopoLaPrima = 6;
+    char testo[32];
+    const char* fine = std::to_chars(testo, testo + sizeof testo, valore,
+                                     std::chars_format::scientific, dopoLaPrima)
+                           .ptr;
+    std::from_chars(testo, fine, valore);
+    return valore;
+}
+
 Cella numero(double mostrato) {
     if (!std::isfinite(mostrato)) return {};
-    return {.testo = base::testoNumero(mostrato), .numero = mostrato};
+    return {.testo = base::testoNumero(inBreve(mostrato)), .numero = mostrato};
 }
 
 struct Regola {
@@ -77,6 +92,12 @@ constexpr Regola regole[] = {
      [](F f) { return !live::sezioneCalcolabile(f.parete.dati.sezione); }, false,
      "conta solo nella verifica della sezione, che non è definita"},
     {&DatiProgetto::sforzoNormale, sempre, true, "solo nella verifica a flessione"},
+    {&DatiProgetto::sovraccMonte, sempre, true, "sul terreno dietro la paratia, a monte"},
+    {&DatiProgetto::sovraccFase, sempre, true,
+     "sul fondo dello scavo davanti alla paratia, a valle"},
+    {&DatiProgetto::faldaMonte,
+     [](F f) { return f.parete.dati.faldaMonte >= f.parete.dati.lunghezzaParatia; }, true,
+     "sotto il piede: a monte non c'è acqua sulla paratia"},
     {&DatiProgetto::rigidezzaEJ, [](F f) { return f.parete.ejDellaSezione; }, true,
      "calcolata dalla sezione: il progetto non ne ha una"},
     {&DatiProgetto::rigidezzaEJ,
@@ -107,14 +128,33 @@ bool flag(const Campo& campo) {
     return std::holds_alternative<bool project::Sezione::*>(campo.membro);
 }
 
+// What acts on a metre of wall, as all that is computed. The editors leave that out.
+constexpr std::pair<project::Membro, const project::Unita*> alMetro[] = {
+    {&DatiProgetto::rigidezzaEJ, &unita::rigidezzaFlessionaleAlMetro},
+    {&DatiProgetto::momentoTesta, &unita::momentoAlMetro},
+    {&DatiProgetto::forzaTesta, &unita::forzaAlMetro},
+    {&DatiProgetto::sforzoNormale, &unita::forzaAlMetro},
+    {&DatiProgetto::rigTirante, &unita::rigidezzaAlMetro},
+    {&DatiProgetto::pretTirante, &unita::forzaAlMetro},
+};
+
 }  // namespace
+
+std::string unitaDetta(const Campo& campo) {
+    for (const auto& [membro, unita] : alMetro)
+        if (membro == campo.membro) return std::string(unita->mostrata);
+    return std::string(campo.unita.mostrata);
+}
 
 Cella scritto(const DatiProgetto& dati, const Campo& campo, int riga) {
     Cella fatta;
     project::conValore(dati, campo, riga, [&](const auto& valore) {
         using Valore = std::remove_cvref_t<decltype(valore)>;
         if constexpr (std::is_same_v<Valore, std::string>) {
-            if (!valore.empty()) fatta = tables::parola(valore);
+            if (!valore.empty())
+                fatta = tables::parola(campo.membro == project::Membro(&DatiProgetto::descrStrato)
+                                           ? testoStrato(valore)
+                                           : valore);
         } else if constexpr (std::is_same_v<Valore, bool>) {
             fatta = tables::parola(traduttore(valore ? "sì" : "no"));
         } else if constexpr (std::is_same_v<Valore, int>) {
@@ -145,6 +185,10 @@ Cella usato(const Fascicolo& f, const Campo& campo, int riga) {
     if (!suo.letto) return {};
     if (campo.membro == project::Membro(&project::Sezione::armNumLong))
         return numero(f.parete.dati.sezione.armNumLong);
+    if (campo.membro == project::Membro(&DatiProgetto::gammaAcqua))
+        return tables::parola(
+            base::testoNumero(inBreve(mostrato(unita::peso, f.parete.dati.gammaAcqua))) + " " +
+            std::string(unita::peso.mostrata));
     return scritto(f.parete.dati, campo, riga);
 }
 

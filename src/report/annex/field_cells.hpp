@@ -11,10 +11,14 @@
 
 namespace korven::report {
 
-/// A value of the project in the shown unit, codes and flags in words.
+/// A value of the project in the shown unit with seven digits, codes and flags in words, a layer's
+/// description without its graphic code. The bars of a pile are as typed.
 /// @param riga  of a column, from 1
 [[nodiscard]] tables::Cella scritto(const project::DatiProgetto& dati, const project::Campo& campo,
                                     int riga = 1);
+
+/// The unit that a value is shown in, with "/m" for what acts on a metre of wall.
+[[nodiscard]] std::string unitaDetta(const project::Campo& campo);
 
 /// What the calculation does with a field, beside its value.
 struct Uso {

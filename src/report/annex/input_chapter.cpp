@@ -11,6 +11,7 @@
 #include "report/annex/chapters.hpp"
 #include "report/annex/columns.hpp"
 #include "report/annex/field_cells.hpp"
+#include "report/annex/table_pieces.hpp"
 #include "structure/section_validity.hpp"
 #include "tables/result_table.hpp"
 
@@ -40,8 +41,8 @@ tables::Prospetto prospettoValori(const char* titolo) {
 void riga(const Fascicolo& f, const Campo& campo, tables::Prospetto& p) {
     const Uso suo = uso(f, campo);
     p.righe.push_back({parola(nome(campo)), parola(project::nomeStabile(campo)),
-                       parola(std::string(campo.unita.mostrata)), scritto(f.scritti, campo),
-                       usato(f, campo), parola(suo.nota)});
+                       parola(unitaDetta(campo)), scritto(f.scritti, campo), usato(f, campo),
+                       parola(suo.nota)});
 }
 
 bool dellaSezione(const Campo& campo) { return campo.parte >= Parte::diaframma; }
@@ -71,7 +72,7 @@ tables::Colonna testa(const Campo& campo) {
                                                   : traduttore(project::etichetta(campo));
     if (titolo.ends_with(unita)) titolo.erase(titolo.size() - unita.size());
     return {.titolo = titolo,
-            .unita = std::string(campo.unita.mostrata),
+            .unita = unitaDetta(campo),
             .spiegazione = conMaiuscola(traduttore(campo.cosa)),
             .numerica = !std::holds_alternative<
                 base::Tabella<std::string, project::massimoStrati> project::DatiProgetto::*>(
@@ -144,6 +145,9 @@ void capitoloDati(const Contesto& contesto, Blocchi& blocchi) {
             "quello che il calcolo prende. Un trattino fra i valori usati: nessun calcolo lo "
             "legge. Sotto Campo c'è il nome del dato nel programma, uguale in ogni lingua."),
         {}});
+    paragrafo(traduttore("I numeri hanno qui al più sette cifre; interi stanno nel file di "
+                         "progetto, nell'ultimo capitolo."),
+              blocchi, document::Stile::nota);
     figure(contesto, blocchi);
     blocchi.emplace_back(Tavola{tabella(f, Parte::strati, "Strati")});
     blocchi.emplace_back(Tavola{tabella(f, Parte::tiranti, "Tiranti e puntoni")});

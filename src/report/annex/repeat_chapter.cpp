@@ -1,73 +1,47 @@
-#include <algorithm>
 #include <string>
-#include <vector>
 
+#include "base/code_page.hpp"
+#include "base/filled_text.hpp"
 #include "base/translated_texts.hpp"
-#include "project/project_file.hpp"
 #include "report/annex/chapters.hpp"
+#include "report/annex/command_lines.hpp"
+#include "report/annex/file_lines.hpp"
+#include "report/annex/project_copy.hpp"
+#include "report/annex/table_pieces.hpp"
 
 namespace korven::report {
 
+using base::riempito;
 using base::traduttore;
 
 namespace {
 
-constexpr std::size_t larghezzaPosto = 18, postiRiga = 6;  // characters of the typewriter's line
+constexpr std::size_t larghezzaComando = 96;  // characters of the typewriter's line
 
-std::vector<std::string> righe(const std::string& testo) {
-    std::vector<std::string> tutte;
-    for (std::size_t da = 0; da < testo.size();) {
-        const std::size_t fine = std::min(testo.find('\n', da), testo.size());
-        const std::size_t senza = fine > da && testo[fine - 1] == '\r' ? fine - 1 : fine;
-        tutte.push_back(testo.substr(da, senza - da));
-        da = fine + 1;
-    }
-    return tutte;
-}
-
-std::size_t caratteri(const std::string& testo) {
-    return static_cast<std::size_t>(std::count_if(testo.begin(), testo.end(), [](char c) {
-        return (static_cast<unsigned char>(c) & 0xC0) != 0x80;
-    }));
-}
-
-// The lines of the file side by side, each behind its number: one value a line would take pages.
-std::string affiancate(const std::vector<std::string>& tutte) {
-    std::string testo, riga;
-    std::size_t posti = 0;
-    const auto chiudi = [&] {
-        riga.erase(riga.find_last_not_of(' ') + 1);
-        testo += riga + '\n';
-        riga.clear();
-        posti = 0;
-    };
-    for (std::size_t i = 0; i < tutte.size(); ++i) {
-        std::string valore = std::to_string(i + 1) + ": " + tutte[i];
-        const std::size_t largo = caratteri(valore);
-        const std::size_t presi = largo / larghezzaPosto + 1;
-        if (posti > 0 && posti + presi > postiRiga) chiudi();
-        if (presi * larghezzaPosto > largo) valore.append(presi * larghezzaPosto - largo, ' ');
-        riga += valore;
-        posti += presi;
-        if (posti >= postiRiga) chiudi();
-    }
-    if (!riga.empty()) chiudi();
-    if (!testo.empty()) testo.pop_back();
-    return testo;
-}
-
-// A long command goes on in further lines, as a shell reads it.
-std::string aCapo(const std::string& comando) {
-    constexpr std::size_t larghezza = 96;
-    std::string testo;
-    std::size_t inizio = 0;
-    while (comando.size() - inizio > larghezza) {
-        const std::size_t taglio = comando.rfind(" --", inizio + larghezza);
-        if (taglio == std::string::npos || taglio <= inizio) break;
-        testo += comando.substr(inizio, taglio - inizio) + " \\\n   ";
-        inizio = taglio;
-    }
-    return testo + comando.substr(inizio);
+void progetto(const dossier::Fascicolo& f, Blocchi& blocchi) {
+    blocchi.emplace_back(document::Titolo{2, traduttore("Il file di progetto")});
+    const auto copia = copiaProgetto(f);
+    if (!copia)
+        return paragrafo(traduttore("Il progetto ha un numero che nessun file può contenere."),
+                         blocchi, document::Stile::pericolo);
+    const std::string testo = base::daCp1252(copia->byte);
+    paragrafo(riempito(traduttore("Il PDF di questo documento porta con sé il file, byte per byte, "
+                                  "come allegato %1."),
+                       {copia->nome}),
+              blocchi);
+    paragrafo(
+        traduttore(
+            "Il file ha un valore per riga; qui ogni valore segue il numero della sua riga. "
+            "Sono valori conservati: forze in t, lunghezze in m, misure della sezione in cm."),
+        blocchi);
+    paragrafo(riempito(traduttore(
+                           "Per riscriverlo dalla carta: %1 righe, %2 byte in tutto, caratteri di "
+                           "Windows-1252; ogni riga, anche l'ultima, finisce con CR LF. I valori "
+                           "si leggono da sinistra a destra; una riga rientrata continua quella "
+                           "sopra. Un valore che comincia o finisce con uno spazio sta fra « e »."),
+                       {std::to_string(numeroRighe(testo)), std::to_string(copia->byte.size())}),
+              blocchi, document::Stile::nota);
+    paragrafo(righeNumerate(testo), blocchi, document::Stile::fisso);
 }
 
 }  // namespace
@@ -87,7 +61,7 @@ void capitoloRipetere(const Contesto& contesto, Blocchi& blocchi) {
                 : traduttore("Lo stesso programma scrive di nuovo questo documento, byte per "
                              "byte, con:"),
             {}});
-        blocchi.emplace_back(Paragrafo{aCapo(f.identita.comando), Stile::fisso});
+        blocchi.emplace_back(Paragrafo{aCapo(f.identita.comando, larghezzaComando), Stile::fisso});
     }
     blocchi.emplace_back(Titolo{2, traduttore("L'impronta")});
     blocchi.emplace_back(Paragrafo{
@@ -95,14 +69,7 @@ void capitoloRipetere(const Contesto& contesto, Blocchi& blocchi) {
                    "questo programma ha la stessa impronta; se è diversa, il progetto è un altro."),
         {}});
     blocchi.emplace_back(Paragrafo{f.identita.impronta, Stile::fisso});
-    blocchi.emplace_back(Titolo{2, traduttore("Il file di progetto")});
-    blocchi.emplace_back(Paragrafo{
-        traduttore(
-            "Il file ha un valore per riga; qui ogni valore segue il numero della sua riga. "
-            "Sono valori conservati: forze in t, lunghezze in m, misure della sezione in cm."),
-        {}});
-    blocchi.emplace_back(
-        Paragrafo{affiancate(righe(project::testoProgetto(f.scritti))), Stile::fisso});
+    progetto(f, blocchi);
 }
 
 }  // namespace korven::report

@@ -66,15 +66,18 @@ std::string descrizione(const Fascicolo& f, int fase) {
     return testo + ".";
 }
 
+constexpr double altezzaMinima = 8.5;  // of curves that can still be read [cm]
+
 // A balance with many lines stands on the same page below a lower drawing.
 double altezzaFigura(const Fascicolo& f, int fase) {
-    constexpr double riga = 0.47, minima = 8.5;  // [cm]
-    constexpr std::size_t righe = 11;            // below a drawing of full height
+    constexpr double riga = 0.47;      // [cm]
+    constexpr std::size_t righe = 11;  // below a drawing of full height
     const auto i = static_cast<std::size_t>(fase) - 1;
     if (i >= f.bilanci.size()) return drawings::formatoFase.altezza;
     const std::size_t sue = prospettoBilancio(f.bilanci[i]).righe.size();
     const std::size_t oltre = sue > righe ? sue - righe : 0;
-    return std::max(minima, drawings::formatoFase.altezza - riga * static_cast<double>(oltre));
+    return std::max(altezzaMinima,
+                    drawings::formatoFase.altezza - riga * static_cast<double>(oltre));
 }
 
 document::Figura figura(const Contesto& contesto, int fase) {
@@ -82,8 +85,15 @@ document::Figura figura(const Contesto& contesto, int fase) {
     const double larghezza = drawings::formatoFase.larghezza, altezza = altezzaFigura(*f, fase);
     return {riempito(traduttore("Fase %1: paratia, pressioni, spostamento, momento e taglio"),
                      {std::to_string(fase)}),
-            descrizione(*f, fase), larghezza, altezza, [f, fase, larghezza, altezza] {
+            descrizione(*f, fase),
+            larghezza,
+            altezza,
+            [f, fase, larghezza, altezza] {
                 drawings::disegnaFase(f->parete, fase, larghezza, altezza);
+            },
+            altezzaMinima,
+            [f, fase, larghezza](double bassa) {
+                drawings::disegnaFase(f->parete, fase, larghezza, bassa);
             }};
 }
 
@@ -143,7 +153,8 @@ void alLimite(const Contesto& contesto, int fase, Blocchi& blocchi) {
 
 void unaFase(const Contesto& contesto, int fase, Blocchi& blocchi) {
     const Fascicolo& f = *contesto.fascicolo;
-    blocchi.emplace_back(document::SaltoPagina{});
+    // The first stands below what is said of all.
+    if (fase > 1) blocchi.emplace_back(document::SaltoPagina{});
     blocchi.emplace_back(document::Titolo{2, tables::titoloFase(fase)});
     if (f.parete.fase(fase) == nullptr)
         paragrafo(tables::perche(f.parete, fase), blocchi, Stile::pericolo);

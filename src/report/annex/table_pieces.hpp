@@ -3,6 +3,7 @@
 #include <string>
 
 #include "document/blocks.hpp"
+#include "project/project_data.hpp"
 #include "project/units.hpp"
 #include "report/annex/chapters.hpp"
 #include "tables/result_table.hpp"
@@ -23,6 +24,10 @@ namespace korven::report {
 /// A number of which only its size matters: "2.1e-12".
 /// @param mostrato  in the shown unit
 [[nodiscard]] tables::Cella ordineDiGrandezza(double mostrato);
+
+/// "Tirante 2", of one that takes compression "Puntone 2".
+/// @param j  row of the table of anchors, from 1
+[[nodiscard]] std::string nomeTirante(const project::DatiProgetto& dati, int j);
 
 /// Adds one block.
 void paragrafo(std::string testo, Blocchi& blocchi,

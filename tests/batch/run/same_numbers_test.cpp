@@ -143,10 +143,11 @@ TEST_F(StessiNumeri, AreThoseOfTheAnchorsInEachStageAndAtTheirLargest) {
         leggi(file);
         if (f.tiranti.empty()) continue;
         const auto documento = report::allegato(f);
-        const auto perFase = tavole(documento, {"Fase", "Tirante 1"});
-        const auto elenco = tavole(documento, {"Tirante", "z", "Tipo"});
-        ASSERT_EQ(perFase.size(), 1U);
+        const auto elenco = tavole(documento, {"Elemento", "Alla posa", "Massima"});
         ASSERT_EQ(elenco.size(), 1U);
+        // "Tirante 1" or "Puntone 1".
+        const auto perFase = tavole(documento, {"Fase", elenco[0].righe.at(0).at(0).testo});
+        ASSERT_EQ(perFase.size(), 1U);
         for (std::size_t t = 0; t < f.tiranti.size(); ++t) {
             double massimo = 0;
             for (std::size_t k = 0; k < fasi.size(); ++k) {

@@ -3,11 +3,14 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <limits>
 #include <string>
 #include <vector>
 
+#include "base/code_page.hpp"
 #include "project/codes.hpp"
 #include "project/field_table.hpp"
+#include "project/project_file.hpp"
 #include "report/annex/chapters.hpp"
 #include "support/sample_projects.hpp"
 #include "support/sample_sections.hpp"
@@ -79,7 +82,7 @@ TEST(Allegato, BeginsWithTheCoverAndEndsWithTheWayToRepeatIt) {
     const auto capitoli = titoli(d);
     EXPECT_EQ(capitoli, (std::vector<std::string>{
                             "Allegato di calcolo", "1. Modello e ipotesi", "2. Osservazioni",
-                            "3. Dati", "4. Terreno e rigidezze", "5. Fasi", "6. Tiranti",
+                            "3. Dati", "4. Terreno e rigidezze", "5. Fasi", "6. Tiranti e puntoni",
                             "7. Inviluppi", "8. Verifiche della sezione", "9. Margine di sicurezza",
                             "10. Terreno nodo per nodo", "11. Come ripetere il documento"}));
 }
@@ -103,6 +106,17 @@ TEST(Allegato, IsMadeOfAWallThatFallsHasNoSectionOrNoStage) {
     senzaFasi.nFasi = 0;
     for (const DatiProgetto& dati : {cade, nuda, senzaFasi, DatiProgetto()})
         EXPECT_GE(titoli(allegato(fascicoloDi(dati))).size(), 5U);
+}
+
+TEST(Allegato, CarriesTheProjectWhoseImprintItShows) {
+    const Fascicolo f = fascicoloDi(muro());
+    const Documento d = allegato(f);
+    ASSERT_EQ(d.allegati.size(), 1U);
+    EXPECT_EQ(d.allegati[0].nome, "muro.kvd");
+    EXPECT_EQ(d.allegati[0].byte, base::inCp1252(project::testoProgetto(f.scritti)));
+    DatiProgetto rotto = muro();
+    rotto.forzaTesta = std::numeric_limits<double>::infinity();
+    EXPECT_TRUE(allegato(fascicoloDi(rotto)).allegati.empty());
 }
 
 TEST(Copertina, HasAVerdictForEachOfFourThings) {
@@ -219,6 +233,29 @@ TEST(Dati, ShowTheBarsThatCalculate) {
     const auto blocchi = capitolo(capitoloDati, fascicoloDi(dati));
     EXPECT_EQ(riga(blocchi, "sezione.armNumLong")[3], "120");
     EXPECT_EQ(riga(blocchi, "sezione.armNumLong")[4], "12");
+}
+
+TEST(Dati, TellOfAMetreOfWallWhatActsOnOne) {
+    const auto blocchi = capitolo(capitoloDati, fascicoloDi(muro()));
+    EXPECT_EQ(riga(blocchi, "rigidezzaEJ")[2], "kN m²/m");
+    EXPECT_EQ(riga(blocchi, "momentoTesta")[2], "kN m/m");
+    EXPECT_EQ(riga(blocchi, "forzaTesta")[2], "kN/m");
+    EXPECT_EQ(riga(blocchi, "sforzoNormale")[2], "kN/m");
+    std::string unita;
+    for (const auto& tavola : tavole(blocchi))
+        if (tavola.titolo == "Tiranti e puntoni")
+            for (const auto& colonna : tavola.colonne) unita += colonna.unita + ";";
+    EXPECT_EQ(unita, ";m;kN/m/m;kN/m;;");
+}
+
+TEST(Dati, ShowSevenDigitsAndTheWeightOfWaterLikeTheOthers) {
+    DatiProgetto dati = muro();
+    dati.rigidezzaEJ = 1.30846153846154;
+    dati.gammaAcqua = 1.02;
+    const auto blocchi = capitolo(capitoloDati, fascicoloDi(dati));
+    EXPECT_EQ(riga(blocchi, "rigidezzaEJ")[3], "13.08462");
+    EXPECT_EQ(riga(blocchi, "gammaAcqua")[3], "1.02");
+    EXPECT_EQ(riga(blocchi, "gammaAcqua")[4], "10.2 kN/m³");
 }
 
 TEST(Ripetere, HasTheCommandTheImprintAndEachLineOfTheFile) {
