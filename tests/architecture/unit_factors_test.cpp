@@ -52,6 +52,8 @@ const std::map<std::string, Exempt> noUnits = {
     {"shell/viewer/grafica.cpp", {{"10"}, "a share of the screen"}},
     {"structure/material_laws.cpp", {{"1000"}, "a strain in thousandths, as the law has it"}},
     {"structure/interaction_domain.cpp", {{"0.01"}, "a share of the largest resistance"}},
+    {"dossier/twin_numbers.cpp", {{"1e-3"}, "a share of a number, below which digits explain it"}},
+    {"safety/mesh_error.cpp", {{"1e-9"}, "what rounding leaves between two meshes"}},
     {"equilibrium/newton.cpp", {{"100"}, "a stronger push on a singular tangent"}},
     {"safety/shortest_wall.cpp", {{"100"}, "steps of a hundredth of the length"}},
 };

@@ -183,9 +183,9 @@ Prospetto prospettoVerificheDoppie(const Fascicolo& f) {
             celle_.push_back(tables::parola(perche));
         };
         riga(
-            "equilibrio", *v.equilibrio,
+            "Equilibrio", *v.equilibrio,
             [](double x) { return tables::cella(x, 2, unita::nessuna); }, "");
-        riga("relazione", *v.relazione, tables::cifre, v.perche);
+        riga("Relazione", *v.relazione, tables::cifre, v.perche);
     }
     return p;
 }
