@@ -39,22 +39,6 @@ Scarto scarto(const VettoreNodi& corsa, const std::vector<double>& equilibrio, d
     return massimo.trovato();
 }
 
-// Shear just above and just below a node: between two nodes it is the step of the moment, and the
-// pressure of a node acts on half a step either way.
-struct TaglioAccanto {
-    double sopra = 0, sotto = 0;
-};
-TaglioAccanto taglioAccanto(const FaseEquilibrio& fase, double h, std::size_t i) {
-    const double mezzo = (fase.monte[i] + fase.valle[i] + fase.acqua[i] + fase.costante) * h / 2;
-    const auto& M = fase.momento;
-    TaglioAccanto t{fase.taglio[i], fase.taglio[i]};
-    if (i > 0) t.sopra = (M[i] - M[i - 1]) / h - mezzo;
-    if (i + 1 < M.size()) t.sotto = (M[i + 1] - M[i]) / h + mezzo;
-    if (i == 0) t.sopra = t.sotto;
-    if (i + 1 == M.size()) t.sotto = t.sopra;
-    return t;
-}
-
 // @param taglio  of the run, with the value below the anchors at their nodes
 Scarto scartoTaglio(const project::DatiProgetto& dati, int tiranti,
                     const base::Tabella<double, project::massimoTiranti>& yTirante, double h,
@@ -63,13 +47,12 @@ Scarto scartoTaglio(const project::DatiProgetto& dati, int tiranti,
     for (std::size_t i = 0; i < fase.taglio.size(); ++i) {
         const int nodo = static_cast<int>(i) + 1;
         const double z = analysis::zNodo(nodo, h);
-        const TaglioAccanto vero = taglioAccanto(fase, h, i);
-        massimo.prova(vero.sotto, taglio[nodo], z);
+        massimo.prova(fase.taglioSotto[i], taglio[nodo], z);
         double tiri = 0;
         for (int j = 1; j <= tiranti; ++j)
             if (results::gradinoNelTaglio(dati, j, nodo, h))
                 tiri += results::tiroNelTaglio(dati, j, y[nodo], yTirante[j]);
-        if (tiri != 0) massimo.prova(vero.sopra, taglio[nodo] - tiri, z);
+        if (tiri != 0) massimo.prova(fase.taglioSopra[i], taglio[nodo] - tiri, z);
     }
     return massimo.trovato();
 }
