@@ -125,7 +125,7 @@ QWidget* FinestraAllegato::fareAttesa() {
     barra->setAccessibleName(tradotto("Preparazione dell'allegato"));
     barra->setRange(0, 0);  // how long it takes nobody knows
     disposizione->addWidget(barra, 1);
-    auto* ferma = new QPushButton(tradotto("&Ferma"), attesa_);
+    auto* ferma = new QPushButton(tradotto("Fer&ma"), attesa_);
     ferma->setObjectName(QStringLiteral("ferma"));
     ferma->setAutoDefault(false);
     connect(ferma, &QPushButton::clicked, this, [this] { this->ferma(); });
