@@ -8,6 +8,7 @@
 #include "report/annex/chosen_rows.hpp"
 #include "report/annex/peaks.hpp"
 #include "report/annex/table_pieces.hpp"
+#include "report/annex/twin_words.hpp"
 #include "tables/node_table.hpp"
 
 namespace korven::report {
@@ -63,6 +64,7 @@ void capitoloInviluppi(const Contesto& contesto, Blocchi& blocchi) {
                          "equilibrio."),
               blocchi);
     tavola(prospettoPicchi(f.parete, 0), blocchi);
+    paragrafo(fraseDoppi(f, 0), blocchi, Stile::nota);
     blocchi.emplace_back(figura(contesto));
     tavola(nodi(contesto), blocchi);
 }

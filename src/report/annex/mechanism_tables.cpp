@@ -24,7 +24,7 @@ namespace unita = project::unita;
 
 namespace {
 
-std::string nome(const ParteAlLimite& parte) {
+std::string nome(const project::DatiProgetto& dati, const ParteAlLimite& parte) {
     switch (parte.cosa) {
         case AzioneLimite::testa:
             return traduttore("Carichi in testa");
@@ -39,7 +39,7 @@ std::string nome(const ParteAlLimite& parte) {
         case AzioneLimite::tirante:
             break;
     }
-    return riempito(traduttore("Tirante %1"), {std::to_string(parte.tirante)});
+    return nomeTirante(dati, parte.tirante);
 }
 
 // Where its resultant acts, as far from the point that stays as its moment says.
@@ -78,7 +78,7 @@ std::string fraseMeccanismo(const BilancioLimite& b) {
         {tables::profondita(b.moto.profondita).testo});
 }
 
-Prospetto prospettoLimite(const BilancioLimite& b) {
+Prospetto prospettoLimite(const project::DatiProgetto& dati, const BilancioLimite& b) {
     const bool ruota = !b.moto.traslazione;
     Prospetto p{.titolo = traduttore("Equilibrio al limite"),
                 .colonne = {colonna("Che cosa agisce"), colonna("Dove"),
@@ -91,7 +91,7 @@ Prospetto prospettoLimite(const BilancioLimite& b) {
     p.colonne.push_back(colonna("Effetto"));
     for (const ParteAlLimite& parte : b.parti) {
         auto& riga = p.righe.emplace_back(std::vector{
-            tables::parola(nome(parte)),
+            tables::parola(nome(dati, parte)),
             tables::parola(ruota ? traduttore(parte.sotto ? "sotto il perno" : "sopra il perno")
                                  : ""),
             tables::forza(parte.forza)});

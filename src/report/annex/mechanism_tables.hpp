@@ -13,7 +13,8 @@ namespace korven::report {
 [[nodiscard]] std::string fraseMeccanismo(const dossier::BilancioLimite& limite);
 
 /// What pushes and what resists, about the point that stays; the sum is what is missing.
-[[nodiscard]] tables::Prospetto prospettoLimite(const dossier::BilancioLimite& limite);
+[[nodiscard]] tables::Prospetto prospettoLimite(const project::DatiProgetto& dati,
+                                                const dossier::BilancioLimite& limite);
 
 /// The limit pressures of both sides at the nodes.
 [[nodiscard]] tables::Prospetto prospettoPressioniLimite(const dossier::BilancioLimite& limite);

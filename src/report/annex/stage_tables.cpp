@@ -98,7 +98,7 @@ Prospetto prospettoCondizioni(const DatiProgetto& dati, int fase) {
     return p;
 }
 
-Prospetto prospettoBilancio(const BilancioFase& b) {
+Prospetto prospettoBilancio(const DatiProgetto& dati, const BilancioFase& b) {
     Prospetto p{.titolo = traduttore("Equilibrio delle forze e dei momenti"),
                 .colonne = {colonna("Che cosa agisce"), numeri(unita::forzaAlMetro, "Forza"),
                             numeri(unita::momentoAlMetro, "Momento"), simboli(unita::metri, "z")}};
@@ -112,7 +112,7 @@ Prospetto prospettoBilancio(const BilancioFase& b) {
     aggiungi(traduttore("Acqua"), b.acqua);
     if (b.costante.forza != 0) aggiungi(traduttore("Pressione costante"), b.costante);
     for (std::size_t j = 0; j < b.tiranti.size(); ++j)
-        aggiungi(riempito(traduttore("Tirante %1"), {std::to_string(j + 1)}), b.tiranti[j]);
+        aggiungi(nomeTirante(dati, static_cast<int>(j) + 1), b.tiranti[j]);
     if (b.oltrePiede.forza != 0)
         aggiungi(traduttore("Mezzo segmento oltre il piede"), b.oltrePiede);
     if (b.cerniera.forza != 0) aggiungi(traduttore("Reazione della cerniera in testa"), b.cerniera);

@@ -11,7 +11,9 @@ namespace korven::report {
 [[nodiscard]] tables::Prospetto prospettoCondizioni(const project::DatiProgetto& dati, int fase);
 
 /// Forces and moments about the head: each part, where its resultant acts, the sum of all.
-[[nodiscard]] tables::Prospetto prospettoBilancio(const dossier::BilancioFase& bilancio);
+/// @param dati  of the wall: they say what is an anchor and what a strut
+[[nodiscard]] tables::Prospetto prospettoBilancio(const project::DatiProgetto& dati,
+                                                  const dossier::BilancioFase& bilancio);
 
 /// How a reader gets from the tables of nodes to the balances, what shear is at an anchor and what
 /// a fixed toe bears beyond the pressures: a paragraph.

@@ -74,7 +74,7 @@ double altezzaFigura(const Fascicolo& f, int fase) {
     constexpr std::size_t righe = 11;  // below a drawing of full height
     const auto i = static_cast<std::size_t>(fase) - 1;
     if (i >= f.bilanci.size()) return drawings::formatoFase.altezza;
-    const std::size_t sue = prospettoBilancio(f.bilanci[i]).righe.size();
+    const std::size_t sue = prospettoBilancio(f.parete.dati, f.bilanci[i]).righe.size();
     const std::size_t oltre = sue > righe ? sue - righe : 0;
     return std::max(altezzaMinima,
                     drawings::formatoFase.altezza - riga * static_cast<double>(oltre));
@@ -135,7 +135,7 @@ void inEquilibrio(const Contesto& contesto, int fase, Blocchi& blocchi) {
     const Fascicolo& f = *contesto.fascicolo;
     tavola(prospettoPicchi(f.parete, fase), blocchi);
     const auto i = static_cast<std::size_t>(fase) - 1;
-    if (i < f.bilanci.size()) tavola(prospettoBilancio(f.bilanci[i]), blocchi);
+    if (i < f.bilanci.size()) tavola(prospettoBilancio(f.parete.dati, f.bilanci[i]), blocchi);
     paragrafo(frasePassi(f, fase), blocchi, Stile::nota);
     paragrafo(fraseDoppi(f, fase), blocchi, Stile::nota);
     tavola(nodi(contesto, fase), blocchi);
@@ -145,7 +145,7 @@ void alLimite(const Contesto& contesto, int fase, Blocchi& blocchi) {
     const auto& limite = contesto.fascicolo->limite;
     if (!limite || limite->fase != fase) return;
     paragrafo(fraseMeccanismo(*limite), blocchi);
-    tavola(prospettoLimite(*limite), blocchi);
+    tavola(prospettoLimite(contesto.fascicolo->parete.dati, *limite), blocchi);
     Prospetto pressioni = prospettoPressioniLimite(*limite);
     sfoltisci(pressioni, contesto.opzioni.righe, {});
     tavola(std::move(pressioni), blocchi);

@@ -35,7 +35,7 @@ const project::Unita& unitaDi(Doppio cosa) {
                                                                            : unita::forzaAlMetro;
 }
 
-std::string nome(const NumeroDoppio& d) {
+std::string nome(const project::DatiProgetto& dati, const NumeroDoppio& d) {
     switch (d.cosa) {
         case Doppio::momentoMassimo:
             return base::conMaiuscola(traduttore("momento massimo"));
@@ -46,7 +46,7 @@ std::string nome(const NumeroDoppio& d) {
         case Doppio::tiro:
             break;
     }
-    return riempito(traduttore("Tirante %1"), {std::to_string(d.tirante)});
+    return nomeTirante(dati, d.tirante);
 }
 
 // Gives each reason a number, the same for the same words.
@@ -72,11 +72,11 @@ Cella profondita(const NumeroDoppio& d, double z) {
 }
 
 // "Taglio 182.66 kN/m a 1.60 m invece di 181.97 a 1.60 m: at the anchor ..."
-std::string parole(const NumeroDoppio& d) {
+std::string parole(const project::DatiProgetto& dati, const NumeroDoppio& d) {
     const project::Unita& u = unitaDi(d.cosa);
     return riempito(
         traduttore("%1 %2 %3 a %4 m, non %5 a %6 m: %7"),
-        {nome(d), project::numeroRelazione(mostrato(u, d.relazione)), std::string(u.mostrata),
+        {nome(dati, d), project::numeroRelazione(mostrato(u, d.relazione)), std::string(u.mostrata),
          tables::profondita(d.zRelazione).testo, project::numeroMostrato(d.equilibrio, 2, u),
          tables::profondita(d.zEquilibrio).testo, d.perche});
 }
@@ -134,7 +134,7 @@ Prospetto prospettoDoppi(const Fascicolo& f) {
         if (d.equilibrio == 0 && d.relazione == 0) continue;
         const project::Unita& u = unitaDi(d.cosa);
         p.righe.push_back(
-            {tables::cella(d.fase), tables::parola(nome(d) + " " + traParentesi(u)),
+            {tables::cella(d.fase), tables::parola(nome(f.parete.dati, d) + " " + traParentesi(u)),
              tables::cella(d.equilibrio, 2, u), profondita(d, d.zEquilibrio),
              tables::cifre(mostrato(u, d.relazione)), profondita(d, d.zRelazione),
              d.diverso() ? tables::cella(d.relazione - d.equilibrio, 2, u) : Cella{.testo = ""},
@@ -149,7 +149,8 @@ std::string fraseDoppi(const Fascicolo& f, int fase) {
     for (const NumeroDoppio& d : diFase(f, fase))
         if (d.diverso() ||
             std::fabs(project::inKilonewton(d.relazione - d.equilibrio)) >= dossier::ultimaCifra)
-            testo += (testo.empty() ? std::string() : base::puntoEVirgola()) + parole(d);
+            testo +=
+                (testo.empty() ? std::string() : base::puntoEVirgola()) + parole(f.parete.dati, d);
     if (testo.empty()) return testo;
     return inFrase(riempito(traduttore("La relazione ha qui altri numeri. %1"), {testo}));
 }

@@ -88,11 +88,12 @@ TEST(ProspettoBilancio, HidesNoRemainder) {
     b.monte = {10, 30};
     b.valle = {-10, -30};
     b.resto = {2e-8, 0};
-    const auto p = prospettoBilancio(b);
+    const project::DatiProgetto dati;
+    const auto p = prospettoBilancio(dati, b);
     EXPECT_EQ(p.righe.back()[0].testo, "Somma di tutte");
     EXPECT_EQ(p.righe.back()[1].testo, "2.0e-07");
     b.resto = {9e-9, 1e-9};
-    EXPECT_EQ(prospettoBilancio(b).righe.back()[1].testo, "0.00");
+    EXPECT_EQ(prospettoBilancio(dati, b).righe.back()[1].testo, "0.00");
 }
 
 // What a checker gets from the printed pressures, and why the restraint bears more.
@@ -102,7 +103,7 @@ TEST(ProspettoBilancio, TellsForceAndMomentOfAFixedToeAndTheHalfSegmentBelowIt) 
     const Contesto c = contesto(dati);
     const auto& f = *c.fascicolo->parete.fase(2);
     const dossier::BilancioFase& b = c.fascicolo->bilanci[1];
-    const auto p = prospettoBilancio(b);
+    const auto p = prospettoBilancio(dati, b);
     const auto reazione = riga(p, "Reazione del vincolo al piede");
     EXPECT_NEAR(*reazione[3].numero, 12, 1e-9);
     const auto incastro = riga(p, "Momento d'incastro al piede");
