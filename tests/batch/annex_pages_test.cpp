@@ -8,6 +8,8 @@
 #include "batch/options/reading_bench.hpp"
 #include "batch/run/drawing_formats.hpp"
 #include "device/document_files.hpp"
+#include "device/document_fonts.hpp"
+#include "document/table_columns.hpp"
 #include "dossier/dossier.hpp"
 #include "report/annex/annex.hpp"
 #include "support/page_boxes.hpp"
@@ -36,6 +38,18 @@ document::Impaginato pagine(const std::string& file, int nSeg,
         opzioni));
 }
 
+// The titles of the tables that are too wide for the page in the fonts that it is painted with.
+std::string partite(const document::Impaginato& muro) {
+    const device::CaratteriPagine misura;
+    std::string trovate;
+    for (const auto& blocco : muro.documento->blocchi)
+        if (const auto* t = std::get_if<document::Tavola>(&blocco))
+            if (document::disponi(t->prospetto, muro.formato.larghezzaTesto(), misura)
+                    .parti.size() > 1)
+                trovate += t->prospetto.titolo + "\n";
+    return trovate;
+}
+
 TEST(PagineAllegato, HaveNothingUponAnotherThingOrBeyondTheMarginInAnyLanguage) {
     const AmbienteDisegno ambiente(true);
     for (const char* sigla : lingue) {
@@ -44,6 +58,7 @@ TEST(PagineAllegato, HaveNothingUponAnotherThingOrBeyondTheMarginInAnyLanguage) 
             const document::Impaginato muro = pagine(file, 50);
             EXPECT_GE(muro.pagine.size(), 5U);
             EXPECT_EQ(test::difetti(muro), "") << sigla << ' ' << file;
+            EXPECT_EQ(partite(muro), "") << sigla << ' ' << file;
         }
     }
 }
