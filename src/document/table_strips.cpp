@@ -156,12 +156,15 @@ class PartiTavola {
     const double larga_;
 };
 
-void accodaParte(const PartiTavola& parte, const Prospetto& prospetto, const std::string& titolo,
+// @param primo  whether the columns are the first of the table; all else goes on with it
+void accodaParte(const PartiTavola& parte, const Prospetto& prospetto, bool primo,
                  const Formato& formato, Strisce& strisce) {
     const std::size_t righe = prospetto.righe.size();
-    strisce.push_back(parte.testa(titolo));
-    const auto seguito = std::make_shared<const Striscia>(
-        parte.testa(titolo.empty() ? titolo : titolo + " (" + base::traduttore("segue") + ")"));
+    const std::string& titolo = prospetto.titolo;
+    const std::string segue =
+        titolo.empty() ? titolo : titolo + " (" + base::traduttore("segue") + ")";
+    strisce.push_back(parte.testa(primo ? titolo : segue));
+    const auto seguito = std::make_shared<const Striscia>(parte.testa(segue));
     const double massima =
         formato.altezzaTesto() - std::max(seguito->altezza, strisce.back().altezza) - 1;
     for (std::size_t i = 0; i < righe; ++i)
@@ -201,14 +204,10 @@ void aggiungi(const Tavola& tavola, const Formato& formato, const MisuraCaratter
         }
     } else {
         const TavolaDisposta disposta = disponi(prospetto, formato.larghezzaTesto(), misura);
-        bool seguito = false;
-        for (const Colonne& colonne : disposta.parti) {
-            std::string titolo = prospetto.titolo;
-            if (seguito && !titolo.empty()) titolo += " (" + base::traduttore("segue") + ")";
-            accodaParte({prospetto, colonne, disposta.corpo, formato, misura}, prospetto, titolo,
-                        formato, strisce);
-            seguito = true;
-        }
+        bool primo = true;
+        for (const Colonne& colonne : disposta.parti)
+            accodaParte({prospetto, colonne, disposta.corpo, formato, misura}, prospetto,
+                        std::exchange(primo, false), formato, strisce);
     }
     for (const auto& nota : note(prospetto))
         aggiungi(Paragrafo{nota, Stile::nota}, formato, misura, strisce);

@@ -138,6 +138,20 @@ TEST(Impagina, RepeatsTheHeadOfATableThatGoesOnAndTearsNoRow) {
     EXPECT_EQ(difetti(fatto), "");
 }
 
+TEST(Impagina, SaysOnceThatATablePartedByColumnsGoesOn) {
+    const Impaginato fatto = posto({Tavola{test::larga(40, 130)}});
+    std::size_t seguiti = 0;
+    for (std::size_t i = 0; i < fatto.pagine.size(); ++i)
+        for (const auto& s : fatto.pagine[i].scritte)
+            if (s.testo.starts_with("Tiri dei tiranti") &&
+                s.testo.find("(segue)") != s.testo.npos) {
+                EXPECT_EQ(s.testo, "Tiri dei tiranti in ogni fase (segue)");
+                ++seguiti;
+            }
+    // Three parts at least, each on three pages.
+    EXPECT_GE(seguiti, 8U);
+}
+
 TEST(Impagina, LeavesNeitherTheFirstNorTheLastRowOfATableAlone) {
     for (int prima = righePerPagina() - 14; prima <= righePerPagina(); ++prima) {
         const Impaginato fatto = posto({righe(prima), Tavola{test::larga(3, 6)}});
