@@ -105,13 +105,14 @@ tables::Prospetto tabella(const Fascicolo& f, Parte parte, const char* titolo) {
     return p;
 }
 
+// Those that are written, each with its number.
 tables::Prospetto titoli(const Fascicolo& f) {
     tables::Prospetto p{.titolo = traduttore("Titoli del progetto"),
                         .colonne = {colonnaNumero(), colonna("Titolo")}};
     for (int i = 1; i <= project::numeroTitoli; ++i)
-        p.righe.push_back({tables::cella(i), f.scritti.titoli[i].empty()
-                                                 ? tables::Cella{}
-                                                 : parola(f.scritti.titoli[i])});
+        if (!f.scritti.titoli[i].empty())
+            p.righe.push_back({tables::cella(i), parola(f.scritti.titoli[i])});
+    if (p.righe.empty()) p.note = {traduttore("La tabella è vuota.")};
     return p;
 }
 

@@ -269,5 +269,25 @@ TEST(Ripetere, HasTheCommandTheImprintAndEachLineOfTheFile) {
     EXPECT_NE(tutto.find(": Muro di prova"), std::string::npos);
 }
 
+TEST(CapitoloDati, ListsTheTitlesThatAreWrittenWithTheirNumbers) {
+    const auto titoliDi = [](const DatiProgetto& dati) {
+        for (const auto& p : tavole(allegato(fascicoloDi(dati)).blocchi))
+            if (p.titolo == "Titoli del progetto") return p;
+        return tables::Prospetto{};
+    };
+    auto dati = muro();
+    dati.titoli[2].clear();
+    dati.titoli[4] = "Tratto B";
+    const auto p = titoliDi(dati);
+    ASSERT_EQ(p.righe.size(), 2U);
+    EXPECT_EQ(p.righe[0][0].testo, "1");
+    EXPECT_EQ(p.righe[0][1].testo, "Muro di prova");
+    EXPECT_EQ(p.righe[1][0].testo, "4");
+    EXPECT_EQ(p.righe[1][1].testo, "Tratto B");
+    for (int i = 1; i <= project::numeroTitoli; ++i) dati.titoli[i].clear();
+    EXPECT_TRUE(titoliDi(dati).righe.empty());
+    EXPECT_EQ(titoliDi(dati).note, std::vector<std::string>{"La tabella è vuota."});
+}
+
 }  // namespace
 }  // namespace korven::report
