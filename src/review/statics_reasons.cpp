@@ -55,7 +55,7 @@ Motivo motivoMomento(const DatiProgetto& dati, const safety::Margine& margine, c
     const double sotto = std::max(c.relazione->z, c.statica.z);
     if (!analysis::vincoli(dati).incastroPiede || sotto <= dati.lunghezzaParatia - passo / 2)
         return {};
-    return {"al piede incastrato la relazione lo estrapola dai due nodi sopra",
+    return {"al piede incastrato la relazione estrapola il momento dai due nodi sopra",
             {nome(&DatiProgetto::vincoloPiede)}};
 }
 
@@ -83,7 +83,8 @@ Motivo motivoTaglio(const DatiProgetto& dati, const safety::Margine& margine, co
     } else {
         auto campi = alNodo(dati, fase(c.relazione->fase), c.relazione->z, passo, false);
         if (!campi.empty())
-            return {"al tirante il diagramma lo estrapola dai due nodi sotto", std::move(campi)};
+            return {"al tirante il diagramma estrapola il taglio dai due nodi sotto",
+                    std::move(campi)};
     }
     if (c.statica.z > dati.lunghezzaParatia - passo / 2 && analysis::vincoli(dati).bloccoPiede)
         return {"il diagramma non vede la reazione al piede", {nome(&DatiProgetto::vincoloPiede)}};

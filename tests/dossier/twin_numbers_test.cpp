@@ -57,9 +57,9 @@ TEST(NumeriDoppiTest, NameTheFixedToeOfTheReport) {
     ASSERT_TRUE(f.conRelazione());
     bool detto = false;
     for (const NumeroDoppio& d : f.doppi)
-        detto = detto ||
-                d.perche == "al piede incastrato il diagramma conta le molle dell'incastro" ||
-                d.perche == "al piede incastrato la relazione lo estrapola dai due nodi sopra";
+        detto =
+            detto || d.perche == "al piede incastrato il diagramma conta le molle dell'incastro" ||
+            d.perche == "al piede incastrato la relazione estrapola il momento dai due nodi sopra";
     EXPECT_TRUE(detto);
     for (const CorsaFase& c : f.corsa)
         EXPECT_EQ(c.scartoMomento->perche.empty(), 10 * c.scartoMomento->valore < 0.01);

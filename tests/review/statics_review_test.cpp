@@ -119,7 +119,7 @@ TEST(ControlloStatica, SaysWhatMakesTheShearDiffer) {
          {"vincoloTesta"}},
         {muro().tirante(3, 500).dati(),
          {{20, 5, 1}, results::NumeroRelazione{25, 3, 1}},
-         "; al tirante il diagramma lo estrapola dai due nodi sotto: ",
+         "; al tirante il diagramma estrapola il taglio dai due nodi sotto: ",
          {"profTirante[1]"}},
         {muro().tirante(3.05, 500).dati(), altro(20, 5), "(fase 1, a 5.00 m): ", {}},
     };
@@ -152,7 +152,7 @@ TEST(ControlloStatica, SaysThatAMomentAtAFixedToeIsExtrapolated) {
     EXPECT_EQ(osservate(dati, m)[0].testo.find("estrapola"), std::string::npos);
     dati.vincoloPiede = valore(project::VincoloPiede::incastro);
     EXPECT_NE(osservate(dati, m)[0].testo.find(
-                  "; al piede incastrato la relazione lo estrapola dai due nodi sopra: "),
+                  "; al piede incastrato la relazione estrapola il momento dai due nodi sopra: "),
               std::string::npos);
 }
 

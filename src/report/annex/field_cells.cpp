@@ -112,9 +112,9 @@ constexpr Regola regole[] = {
     {&project::Sezione::armNumLong, sempre, true,
      "il calcolo usa il numero conservato nel file, un decimo di quello mostrato"},
     {&DatiProgetto::rigTirante, sempre, true,
-     "orizzontale e per metro di paratia: chi la scrive ha già moltiplicato per cos² alfa"},
+     "orizzontale e per metro di paratia; chi la scrive ha già moltiplicato per cos² alfa"},
     {&DatiProgetto::pretTirante, sempre, true,
-     "orizzontale e per metro di paratia: chi la scrive ha già moltiplicato per cos alfa"},
+     "orizzontale e per metro di paratia; chi la scrive ha già moltiplicato per cos alfa"},
 };
 
 // A section has the parameters of all types; one is in force.

@@ -68,16 +68,16 @@ std::string stato(const LatoFlessione& l) {
             "Lo sforzo normale da solo piega la sezione nel verso opposto: in questo "
             "verso non resiste a nulla.");
     const auto mille = [](double eps) { return base::testoDecimali(eps, 3, perMille); };
-    const std::string testo = riempito(
-        traduttore("Alla resistenza: curvatura %1 1/m, deformazione %2 per mille alla faccia più "
-                   "tesa e %3 all'altra, zona accorciata %4 mm."),
-        {base::testoDecimali(l.chi, 5, perMille), mille(l.epsTeso), mille(l.epsCompresso),
-         project::numeroMostrato(l.x, 1)});
+    const std::string testo =
+        riempito(traduttore("Alla resistenza: curvatura %1 1/m, deformazione %2 ‰ alla faccia più "
+                            "tesa e %3 all'altra, zona accorciata %4 mm."),
+                 {base::testoDecimali(l.chi, 5, perMille), mille(l.epsTeso), mille(l.epsCompresso),
+                  project::numeroMostrato(l.x, 1)});
     return testo + " " +
            riempito(
                traduttore(l.limite == LimiteSezione::accorciamento
-                              ? "La decide l'accorciamento di una faccia, %1 per mille."
-                              : "La decide l'allungamento dell'acciaio, %1 per mille."),
+                              ? "La decide l'accorciamento di una faccia, %1 ‰."
+                              : "La decide l'allungamento dell'acciaio, %1 ‰."),
                {mille(l.limite == LimiteSezione::accorciamento ? -structure::accorciamentoLimite
                                                                : structure::allungamentoLimite)});
 }

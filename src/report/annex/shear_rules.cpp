@@ -43,7 +43,7 @@ const char* effettoNormale(double N) {
 
 Prospetto prospettoScostamentiTaglio(const project::DatiProgetto& dati, const ValoriTaglio& v) {
     Prospetto p{.titolo = traduttore("Dove la verifica si scosta da ENV 1992-1-1"),
-                .colonne = {colonna("Grandezza"), colonna("Nella norma"),
+                .colonne = {colonna("Grandezza fisica"), colonna("Nella norma"),
                             colonna("In questa verifica"), colonna("Che cosa ne viene")}};
     const auto riga = [&](const char* simbolo, std::string norma, std::string qui,
                           const char* effetto) {
