@@ -1,6 +1,5 @@
 #include <string>
 
-#include "base/colon.hpp"
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
 #include "project/codes.hpp"
@@ -115,11 +114,9 @@ Prospetto forze(const Fascicolo& f) {
     p.note.push_back(
         traduttore("Alla posa: alla fine della fase che mette in opera il tirante. Massima: fra le "
                    "fasi in equilibrio."));
-    p.note.push_back(traduttore("Relazione") + base::duePunti() +
-                     traduttore("Forza che la relazione stampa: pretensione, più rigidezza per "
-                                "quanto il suo nodo è andato oltre la posizione alla messa in "
-                                "opera") +
-                     ".");
+    p.note.push_back(
+        traduttore("Relazione: forza che la relazione stampa, cioè pretensione più rigidezza per "
+                   "quanto il nodo è andato oltre la posizione alla messa in opera."));
     return p;
 }
 

@@ -1,6 +1,7 @@
 #include <string>
 #include <utility>
 
+#include "base/code_page.hpp"
 #include "base/colon.hpp"
 #include "base/filled_text.hpp"
 #include "base/number_text.hpp"
@@ -65,8 +66,8 @@ tables::Prospetto maglia(const Margine& margine) {
              g.quota ? tables::cella(*g.quota, 1, project::unita::percento) : Cella{},
              g.ordine ? tables::cella(*g.ordine, 1, project::unita::nessuna) : Cella{}});
         if (!g.ordine)
-            p.note.push_back(
-                base::conDuePunti(traduttore(cosa), tables::percheSenzaOrdine(g.andamento)));
+            p.note.push_back(base::conDuePunti(
+                traduttore(cosa), base::conMinuscola(tables::percheSenzaOrdine(g.andamento))));
     };
     riga(project::unita::momentoAlMetro, "Momento", tables::momento, e.momento);
     riga(project::unita::forzaAlMetro, "Taglio", tables::forza, e.taglio);

@@ -1,5 +1,6 @@
 #include "report/annex/run_tables.hpp"
 
+#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -35,7 +36,7 @@ Cella scarto(const std::optional<Scarto>& s, Cella (*cella)(double)) {
 // The stages that differ for one reason, by depth.
 struct Causa {
     std::string perche;
-    std::vector<std::pair<std::string, std::string>> dove;  // depth, stages
+    std::vector<std::pair<std::string, std::vector<int>>> dove;  // depth, stages
 };
 
 // The element of a list that a word begins, added where there is none.
@@ -48,27 +49,43 @@ T& trova(std::vector<T>& tutti, Parola T::*parola, const std::string& cercata) {
     return nuovo;
 }
 
-// "Scarto del taglio (fase 2, 3 a 1.60 m): at the anchor ...", a reason once for all its stages.
+std::string elenco(const std::vector<int>& fasi) {
+    std::string testo;
+    for (const int fase : fasi) testo += (testo.empty() ? "" : ", ") + std::to_string(fase);
+    return testo;
+}
+
+// "Scarto del taglio (fasi 2, 3 a 1.60 m): at the anchor ...", a reason once for all its stages.
 void motivi(const Fascicolo& f, const char* cosa, std::optional<Scarto> CorsaFase::*quale,
             Prospetto& p) {
-    using Dove = std::pair<std::string, std::string>;
+    using Dove = std::pair<std::string, std::vector<int>>;
     std::vector<Causa> cause;
     for (const CorsaFase& c : f.corsa) {
         const std::optional<Scarto>& s = c.*quale;
         if (!s || s->perche.empty()) continue;
-        std::string& fasi = trova(trova(cause, &Causa::perche, s->perche).dove, &Dove::first,
-                                  tables::profondita(s->z).testo)
-                                .second;
-        fasi += (fasi.empty() ? "" : ", ") + std::to_string(c.fase);
+        trova(trova(cause, &Causa::perche, s->perche).dove, &Dove::first,
+              tables::profondita(s->z).testo)
+            .second.push_back(c.fase);
     }
     for (const Causa& causa : cause) {
         std::string dove;
         for (const auto& [z, fasi] : causa.dove)
             dove += (dove.empty() ? std::string() : base::puntoEVirgola()) +
-                    riempito(traduttore("fase %1 a %2 m"), {fasi, z});
+                    riempito(traduttore(fasi.size() == 1 ? "fase %1 a %2 m" : "fasi %1 a %2 m"),
+                             {elenco(fasi), z});
         p.note.push_back(
             inFrase(base::conDuePunti(traduttore(cosa) + " (" + dove + ")", causa.perche)));
     }
+}
+
+// Why a stage differs, where its own sentence on the report has not said it.
+std::string motivo(const Fascicolo& f, const CorsaFase& c, const char* cosa,
+                   const std::optional<Scarto>& s) {
+    if (!s || s->perche.empty()) return {};
+    const bool detto = std::any_of(f.doppi.begin(), f.doppi.end(), [&](const auto& d) {
+        return d.fase == c.fase && d.cosa != dossier::Doppio::tiro && d.perche == s->perche;
+    });
+    return detto ? std::string() : " " + inFrase(base::conDuePunti(traduttore(cosa), s->perche));
 }
 
 // Why there is no run, or why it has no report; empty where both are.
@@ -121,12 +138,15 @@ std::string frasePassi(const Fascicolo& f, int fase) {
                                    "assestato: iterazioni %2."),
                         {passi, std::to_string(c->iterazioni)});
     return riempito(
-        traduttore("Equilibrio trovato in %1 passi. Calcolo per fasi: iterazioni %2; ne differisce "
+               traduttore(
+                   "Equilibrio trovato in %1 passi. Calcolo per fasi: iterazioni %2; ne differisce "
                    "al più di %3 mm, di %4 kN m/m nel momento e di %5 kN/m nel taglio."),
-        {passi, std::to_string(c->iterazioni),
-         tables::spostamento(c->scartoSpostamento->valore).testo,
-         tables::momento(c->scartoMomento->valore).testo,
-         tables::forza(c->scartoTaglio->valore).testo});
+               {passi, std::to_string(c->iterazioni),
+                tables::spostamento(c->scartoSpostamento->valore).testo,
+                tables::momento(c->scartoMomento->valore).testo,
+                tables::forza(c->scartoTaglio->valore).testo}) +
+           motivo(f, *c, "Scarto del momento", c->scartoMomento) +
+           motivo(f, *c, "Scarto del taglio", c->scartoTaglio);
 }
 
 }  // namespace korven::report

@@ -1,6 +1,7 @@
 #pragma once
 
-// Where the model comes from: author, title, year. Names are the same in all languages.
+// Where the model comes from: author, title, year, clause (an annex by its letter). The same in all
+// languages, so there are no words of one of them but titles.
 
 namespace korven::report::fonti {
 
@@ -11,7 +12,7 @@ inline constexpr const char* newton =
     "Convex "
     "Optimization (2004)";
 inline constexpr const char* riposo =
-    "J. Jaky, The coefficient of earth pressure at rest (1944); with the slope: Á. Kézdi (1972), "
+    "J. Jaky, The coefficient of earth pressure at rest (1944); sin beta: Á. Kézdi (1972), "
     "in J. E. Bowles, Foundation Analysis and Design (1996)";
 inline constexpr const char* eurocodice =
     "CEN, ENV 1992-1-1, Eurocode 2: Design of concrete structures (1991)";
@@ -40,19 +41,19 @@ inline constexpr const char* rigidezza =
 // Where the rules stand for what is not computed.
 inline constexpr const char* coefficientiParziali =
     "CEN, EN 1997-1, Eurocode 7: Geotechnical design (2004), 2.4.7.3";
-inline constexpr const char* attrito = "CEN, EN 1997-1 (2004), 9.5.1, 9.5.3, annex C";
+inline constexpr const char* attrito = "CEN, EN 1997-1 (2004), 9.5.1, 9.5.3, C.1";
 inline constexpr const char* memoria =
     "CEN, EN 1997-1 (2004), 9.5.4, 9.5.5; G. W. Clough, J. M. Duncan, Earth pressures (1991)";
 inline constexpr const char* filtrazione =
-    "CEN, EN 1997-1 (2004), 9.6, section 10; K. Terzaghi, Theoretical Soil Mechanics (1943)";
-inline constexpr const char* stabilitaGlobale = "CEN, EN 1997-1 (2004), 9.7.2, section 11";
+    "CEN, EN 1997-1 (2004), 9.6, § 10; K. Terzaghi, Theoretical Soil Mechanics (1943)";
+inline constexpr const char* stabilitaGlobale = "CEN, EN 1997-1 (2004), 9.7.2, § 11";
 inline constexpr const char* verticale =
     "CEN, EN 1997-1 (2004), 9.7.5, 9.8.2; R. B. Peck, Deep excavations and tunneling in soft "
     "ground (1969)";
-inline constexpr const char* ancoraggi = "CEN, EN 1997-1 (2004), section 8, 9.7.6, 9.7.7";
+inline constexpr const char* ancoraggi = "CEN, EN 1997-1 (2004), § 8, 9.7.6, 9.7.7";
 inline constexpr const char* azioni =
-    "CEN, EN 1998-5, Eurocode 8: Foundations, retaining structures (2004), section 7; J. "
+    "CEN, EN 1998-5, Eurocode 8: Foundations, retaining structures (2004), § 7; J. "
     "Boussinesq, Application des potentiels (1885)";
-inline constexpr const char* palancole = "CEN, EN 1993-5, Eurocode 3: Piling (2007), section 5";
+inline constexpr const char* palancole = "CEN, EN 1993-5, Eurocode 3: Piling (2007), § 5";
 
 }  // namespace korven::report::fonti

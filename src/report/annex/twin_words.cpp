@@ -60,7 +60,7 @@ class Motivi {
     }
     void note(Prospetto& p) const {
         for (std::size_t i = 0; i < tutti_.size(); ++i)
-            p.note.push_back(std::to_string(i + 1) + ": " + inFrase(tutti_[i]));
+            p.note.push_back(inFrase(base::conDuePunti(std::to_string(i + 1), tutti_[i])));
     }
 
  private:

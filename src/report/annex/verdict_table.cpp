@@ -35,8 +35,16 @@ std::vector<Cella> riga(const char* cosa, Cella verdetto, std::string dettaglio)
     return {parola(traduttore(cosa)), std::move(verdetto), parola(std::move(dettaglio))};
 }
 
-Cella verificato(bool fallito) {
-    return tables::esito(traduttore(fallito ? "non verificato" : "verificato"), fallito);
+// The words of a verdict agree with the gender of what is judged.
+struct Genere {
+    const char* riuscito;
+    const char* fallito;
+};
+constexpr Genere maschile = {"verificato", "non verificato"};
+constexpr Genere femminile = {"verificata", "NON verificata"};
+
+Cella verdetto(const Genere& genere, bool fallito) {
+    return tables::esito(traduttore(fallito ? genere.fallito : genere.riuscito), fallito);
 }
 
 Cella nessunaVerifica() { return parola(traduttore("nessuna verifica")); }
@@ -108,7 +116,7 @@ std::string sfruttamento(const Fascicolo& f, std::initializer_list<dossier::Veri
 }
 
 // The wall is judged by the worse of the two; both are told where they are not the same.
-std::vector<Cella> verifica(const char* cosa, const Fascicolo& f,
+std::vector<Cella> verifica(const char* cosa, const Genere& genere, const Fascicolo& f,
                             std::initializer_list<dossier::Verifica> quali) {
     const bool fallita = std::any_of(f.verifiche.begin(), f.verifiche.end(), [&](const auto& v) {
         return std::find(quali.begin(), quali.end(), v.cosa) != quali.end() && v.fallita();
@@ -119,12 +127,12 @@ std::vector<Cella> verifica(const char* cosa, const Fascicolo& f,
     if (!relazione.empty() && relazione != equilibrio)
         dettaglio = riempito(traduttore("equilibrio: %1; relazione: %2; vale il maggiore"),
                              {equilibrio.empty() ? tables::nessuno : equilibrio, relazione});
-    return riga(cosa, verificato(fallita),
+    return riga(cosa, verdetto(genere, fallita),
                 dettaglio.empty() ? traduttore("La resistenza è 0.") : dettaglio);
 }
 
 std::vector<Cella> equilibrio(const Fascicolo& f) {
-    return riga("Equilibrio di tutte le fasi", verificato(!f.parete.sta()),
+    return riga("Equilibrio di tutte le fasi", verdetto(maschile, !f.parete.sta()),
                 f.margine ? margineInBreve(f) : f.parete.rifiuto);
 }
 
@@ -137,7 +145,7 @@ std::vector<Cella> flessione(const Fascicolo& f) {
     if (!f.flessione || !f.controlli.flessione)
         return riga(cosa, nessunaVerifica(), traduttore("La sezione non è definita."));
     if (!f.controlli.conAzioni || !f.parete.sta()) return senzaAzioni(cosa);
-    return verifica(cosa, f,
+    return verifica(cosa, femminile, f,
                     {dossier::Verifica::momentoPositivo, dossier::Verifica::momentoNegativo});
 }
 
@@ -146,7 +154,7 @@ std::vector<Cella> taglio(const Fascicolo& f) {
     if (!f.taglio || !f.controlli.taglio)
         return riga(cosa, nessunaVerifica(), percheSenzaTaglio(f) + " " + taglioDaVerificare(f));
     if (!f.controlli.conAzioni || !f.parete.sta()) return senzaAzioni(cosa);
-    return verifica(cosa, f, {dossier::Verifica::bielle, dossier::Verifica::armatura});
+    return verifica(cosa, maschile, f, {dossier::Verifica::bielle, dossier::Verifica::armatura});
 }
 
 // The remarks of a weight; each is counted under its own, as in their chapter.

@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
+#include <memory>
 
 #include "project/codes.hpp"
 #include "report/annex/stage_tables.hpp"
@@ -136,6 +138,36 @@ TEST(CapitoloFasi, SetsTheSpecifiedRunBesideTheEquilibrium) {
     EXPECT_EQ(numero(p, 1, 6), 10 * corsa.scartoTaglio->valore);
     EXPECT_NE(testo(b).find("Calcolo per fasi: iterazioni " + std::to_string(corsa.iterazioni)),
               std::string::npos);
+}
+
+// One reason at one depth in two stages, another in one; none of them told by the report's twins.
+TEST(CapitoloFasi, TellsWhyTheRunDiffersAtItsTableAndAtEachStage) {
+    Contesto c = contesto(test::progettoSemplice());
+    dossier::Fascicolo f = *c.fascicolo;
+    f.doppi.clear();
+    for (dossier::CorsaFase& corsa : f.corsa) {
+        corsa.scartoMomento = {};
+        corsa.scartoTaglio->z = 1.5;
+        corsa.scartoTaglio->perche = "molle";
+    }
+    f.corsa[0].scartoMomento = dossier::Scarto{.valore = 1, .z = 3, .perche = "regole"};
+    f.corsa[1].scartoMomento = dossier::Scarto{.valore = 0};
+    const auto mostra = [&] {
+        c.fascicolo = std::make_shared<const dossier::Fascicolo>(f);
+        return fasi(c);
+    };
+    const auto note = tavola(mostra(), "Soluzione di equilibrio e calcolo per fasi").note;
+    const auto haNota = [&](const char* nota) {
+        return std::find(note.begin(), note.end(), nota) != note.end();
+    };
+    EXPECT_TRUE(haNota("Scarto del momento (fase 1 a 3.00 m): regole."));
+    EXPECT_TRUE(haNota("Scarto del taglio (fasi 1, 2 a 1.50 m): molle."));
+    EXPECT_NE(testo(mostra()).find("nel taglio. Scarto del momento: regole. Scarto del taglio: "
+                                   "molle."),
+              std::string::npos);
+    EXPECT_NE(testo(mostra()).find("nel taglio. Scarto del taglio: molle."), std::string::npos);
+    f.doppi = {{.cosa = dossier::Doppio::taglio, .fase = 2, .perche = "molle"}};
+    EXPECT_EQ(testo(mostra()).find("nel taglio. Scarto del taglio: molle."), std::string::npos);
 }
 
 TEST(CapitoloFasi, TellsTheConditionsOfAStage) {

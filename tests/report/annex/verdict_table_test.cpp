@@ -33,7 +33,7 @@ TEST(ProspettoVerdetti, TellsBothUsesAndIsOfTheWorse) {
     const auto p =
         prospettoVerdetti(conVerifica({98, 100, {2, 5}, false}, {101, 100, {2, 5}, true}));
     const auto flessione = riga(p, "Flessione");
-    EXPECT_EQ(flessione[1].testo, "non verificato");
+    EXPECT_EQ(flessione[1].testo, "NON verificata");
     EXPECT_EQ(flessione[2].testo,
               "equilibrio: sfruttamento 98.0 % (momento positivo, fase 2, z = 5.00 m); relazione: "
               "sfruttamento 101.0 % (momento positivo, fase 2, z = 5.00 m); vale il maggiore");
@@ -42,7 +42,8 @@ TEST(ProspettoVerdetti, TellsBothUsesAndIsOfTheWorse) {
 TEST(ProspettoVerdetti, TellsOneUseWhereBothAreTheSame) {
     const auto p =
         prospettoVerdetti(conVerifica({98, 100, {2, 5}, false}, {98.001, 100, {2, 5}, false}));
-    EXPECT_EQ(riga(p, "Flessione")[1].testo, "verificato");
+    EXPECT_EQ(riga(p, "Flessione")[1].testo, "verificata");
+    EXPECT_EQ(riga(p, "Equilibrio di tutte le fasi")[1].testo, "verificato");
     EXPECT_EQ(riga(p, "Flessione")[2].testo,
               "sfruttamento 98.0 % (momento positivo, fase 2, z = 5.00 m)");
 }
