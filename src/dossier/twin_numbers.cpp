@@ -68,20 +68,21 @@ class Doppi {
         const equilibrium::Estremi e = *parete_.estremiDi(k);
         momento(doppio(Doppio::momentoMassimo, e.momentoMassimo, r.momentoMassimo, k));
         momento(doppio(Doppio::momentoMinimo, e.momentoMinimo, r.momentoMinimo, k));
-        taglio(doppio(Doppio::taglio, e.taglio, r.taglio, k));
+        taglio(doppio(Doppio::taglio, e.taglio, r.taglio, k), e.taglio.lato);
         for (const safety::ConfrontoTiro& t : margine_.fasi.at(i).confronto.tiri) tiro(k, t);
     }
 
-    [[nodiscard]] static Confronto confronto(const NumeroDoppio& d) {
-        return {{d.equilibrio, d.zEquilibrio, d.fase},
+    [[nodiscard]] static Confronto confronto(const NumeroDoppio& d,
+                                             equilibrium::Lato lato = equilibrium::Lato::unico) {
+        return {{d.equilibrio, d.zEquilibrio, d.fase, lato},
                 NumeroRelazione{d.relazione, d.zRelazione, d.fase}};
     }
     void momento(NumeroDoppio d) {
         d.perche = percheMomento(parete_, margine_, confronto(d));
         tutti_.push_back(std::move(d));
     }
-    void taglio(NumeroDoppio d) {
-        d.perche = percheTaglio(parete_, margine_, confronto(d));
+    void taglio(NumeroDoppio d, equilibrium::Lato lato) {
+        d.perche = percheTaglio(parete_, margine_, confronto(d, lato));
         tutti_.push_back(std::move(d));
     }
     void tiro(int k, const safety::ConfrontoTiro& t) {

@@ -75,13 +75,17 @@ Motivo motivoTaglio(const DatiProgetto& dati, const safety::Margine& margine, co
     if (auto campi = lenti(dati, fase(c.relazione->fase)); !campi.empty())
         return {"il diagramma conta tiranti lenti", std::move(campi)};
     const bool meno = std::fabs(c.relazione->valore) < std::fabs(c.statica.valore);
-    if (meno) {
-        auto campi = alNodo(dati, fase(c.statica.fase), c.statica.z, passo, true);
+    const auto [z, k] = meno ? std::pair{c.statica.z, c.statica.fase}
+                             : std::pair{c.relazione->z, c.relazione->fase};
+    // The value below an anchor the diagram always has, wherever the anchor is.
+    if (meno && c.statica.lato != equilibrium::Lato::sotto) {
+        auto campi = alNodo(dati, fase(k), z, passo, true);
         if (!campi.empty())
             return {"il diagramma non vede il taglio sopra un tirante che non è su un nodo",
                     std::move(campi)};
-    } else {
-        auto campi = alNodo(dati, fase(c.relazione->fase), c.relazione->z, passo, false);
+    }
+    if (!meno || c.statica.lato != equilibrium::Lato::unico) {
+        auto campi = alNodo(dati, fase(k), z, passo, false);
         if (!campi.empty())
             return {"al tirante il diagramma estrapola il taglio dai due nodi sotto",
                     std::move(campi)};

@@ -134,6 +134,28 @@ TEST(ControlloStatica, SaysWhatMakesTheShearDiffer) {
     }
 }
 
+// The diagram has a value below each anchor, also below one between the nodes, and makes it itself.
+TEST(ControlloStatica, GivesALesserShearTheReasonOfItsSideOfTheAnchor) {
+    using equilibrium::Lato;
+    const DatiProgetto traNodi =
+        test::muro().fase({.scavo = 2, .tiranti = 1}).tirante(3.05, 500).dati();
+    const DatiProgetto suUnNodo =
+        test::muro().fase({.scavo = 2, .tiranti = 1}).tirante(3, 500).dati();
+    const auto detto = [](const DatiProgetto& dati, bool nelTaglio, Lato lato) {
+        Margine m = margineSano(dati);
+        conTiro(m, 1, 6, 6, nelTaglio);
+        m.taglio = {{20, 3, 1, lato}, results::NumeroRelazione{15, 5, 1}};
+        return osservate(dati, m).at(0).testo;
+    };
+    const auto contiene = [](const std::string& testo, const char* motivo) {
+        return testo.find(motivo) != std::string::npos;
+    };
+    EXPECT_TRUE(contiene(detto(traNodi, false, Lato::sopra), "; il diagramma non vede il taglio"));
+    EXPECT_TRUE(contiene(detto(traNodi, false, Lato::sotto), "; al tirante il diagramma"));
+    EXPECT_TRUE(contiene(detto(suUnNodo, true, Lato::sopra), "; al tirante il diagramma"));
+    EXPECT_TRUE(contiene(detto(suUnNodo, true, Lato::sotto), "; al tirante il diagramma"));
+}
+
 TEST(ControlloStatica, NamesSlackAnchors) {
     const DatiProgetto dati = test::muro().fase({.scavo = 2, .tiranti = 1}).tirante(3, 500).dati();
     Margine m = margineSano(dati);
