@@ -16,6 +16,13 @@ constexpr Carattere carattereBordo{7.5};
 constexpr double distanzaFiletto = 0.45 * puntiPerCentimetro;  // from the text
 constexpr double distanzaScritta = 4;                          // from that line
 
+// A note below a table tells of it: alone it heads no page.
+bool notaDiTavola(const Documento& documento, std::size_t i) {
+    if (i == 0 || !std::holds_alternative<Tavola>(documento.blocchi[i - 1])) return false;
+    const auto* paragrafo = std::get_if<Paragrafo>(&documento.blocchi[i]);
+    return paragrafo != nullptr && paragrafo->stile == Stile::nota;
+}
+
 Strisce strisce(const Documento& documento, const Formato& formato, const MisuraCaratteri& misura) {
     Strisce tutte;
     bool salto = false;
@@ -34,6 +41,7 @@ Strisce strisce(const Documento& documento, const Formato& formato, const Misura
             documento.blocchi[i]);
         if (tutte.size() == prima) continue;
         tutte[prima].nuovaPagina = std::exchange(salto, false);
+        if (prima > 0 && notaDiTavola(documento, i)) tutte[prima - 1].legata = true;
     }
     return tutte;
 }

@@ -1,6 +1,7 @@
 #include "document/strips.hpp"
 
 #include <algorithm>
+#include <utility>
 
 namespace korven::document {
 
@@ -13,21 +14,54 @@ class Riempitore {
 
     // Strips that stay together.
     void gruppo(const Striscia* da, const Striscia* a) {
+        if (da->nuovaPagina || da->segnalibro) inAttesa();
         if (da->nuovaPagina || pagine_.empty()) nuovaPagina();
-        const double manca = spazio(*da) + altezza(da, a) - resto();
-        if (!inCima() && (da->posto > resto() || manca > 0)) {
-            if (da->posto <= resto() && manca <= cedevole(da, a)) return metti(da, a, manca);
-            nuovaPagina();
+        if (attende(da, a)) {
+            attesi_.emplace_back(da, a);
+            return;
         }
-        metti(da, a, 0);
+        if (!ciSta(da, a)) {
+            nuovaPagina();
+            inAttesa();
+            if (!ciSta(da, a)) nuovaPagina();
+        }
+        metti(da, a, manca(da, a));
     }
-    [[nodiscard]] std::vector<Pagina> pagine() { return std::move(pagine_); }
+    [[nodiscard]] std::vector<Pagina> pagine() {
+        inAttesa();
+        return std::move(pagine_);
+    }
 
  private:
     [[nodiscard]] bool inCima() const { return y_ == 0; }
     [[nodiscard]] double resto() const { return formato_.altezzaTesto() - y_; }
     [[nodiscard]] double spazio(const Striscia& s) const {
         return inCima() ? 0 : std::max(s.prima, dopo_);
+    }
+    // A table shows its head again at a page's head, and below drawings that stand there.
+    [[nodiscard]] bool conTesta(const Striscia& s) const {
+        return s.testa && (inCima() || sottoAttesi_);
+    }
+    [[nodiscard]] double manca(const Striscia* da, const Striscia* a) const {
+        const double testa = conTesta(*da) ? spazio(*da->testa) + da->testa->altezza : 0;
+        return spazio(*da) + testa + altezza(da, a) - resto();
+    }
+    [[nodiscard]] bool ciSta(const Striscia* da, const Striscia* a) const {
+        return inCima() || (da->posto <= resto() && manca(da, a) <= cedevole(da, a));
+    }
+    // Drawings keep their order. Little room is not worth parting one from what it belongs to.
+    [[nodiscard]] bool attende(const Striscia* da, const Striscia* a) const {
+        constexpr double daRiempire = 0.12;
+        return da->puoAttendere &&
+               (!attesi_.empty() ||
+                (!ciSta(da, a) && resto() > daRiempire * formato_.altezzaTesto()));
+    }
+    void inAttesa() {
+        for (const auto& [da, a] : std::exchange(attesi_, {})) {
+            if (!ciSta(da, a)) nuovaPagina();
+            metti(da, a, manca(da, a));
+            sottoAttesi_ = true;
+        }
     }
     static double altezza(const Striscia* da, const Striscia* a) {
         double alta = da->altezza;
@@ -39,6 +73,7 @@ class Riempitore {
         if (!pagine_.empty() && inCima()) return;
         pagine_.emplace_back();
         y_ = dopo_ = 0;
+        sottoAttesi_ = false;
     }
 
     static double cedevole(const Striscia* da, const Striscia* a) {
@@ -67,7 +102,8 @@ class Riempitore {
     void metti(const Striscia& s) {
         constexpr double gioco = 0.01;
         if (!inCima() && spazio(s) + s.altezza > resto() + gioco) nuovaPagina();
-        if (inCima() && s.testa) scrivi(*s.testa);
+        if (conTesta(s)) scrivi(*s.testa);
+        sottoAttesi_ = false;
         scrivi(s);
     }
 
@@ -88,6 +124,8 @@ class Riempitore {
     std::vector<Segnalibro>& segnalibri_;
     std::vector<Pagina> pagine_;
     double y_ = 0, dopo_ = 0;
+    std::vector<std::pair<const Striscia*, const Striscia*>> attesi_;  // drawings for the next page
+    bool sottoAttesi_ = false;  // nothing stands below such drawings yet
 };
 
 }  // namespace

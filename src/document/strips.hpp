@@ -18,6 +18,7 @@ struct Striscia {
     bool nuovaPagina = false;    ///< begins one
     double posto = 0;            ///< begins a page where less than this is left
     double cede = 0;             ///< by how much its drawing may be lower
+    bool puoAttendere = false;   ///< what follows may fill the page that has no room for it
     Pagina contenuto{};
     /// Stands above it where it begins a page: the head of its table.
     std::shared_ptr<const Striscia> testa{};
@@ -26,8 +27,9 @@ struct Striscia {
 
 using Strisce = std::vector<Striscia>;
 
-/// The pages of strips, without head and foot. What must stay together and is higher than a page is
-/// parted all the same.
+/// The pages of strips, without head and foot. A drawing that has no room goes to the head of the
+/// next page, and what follows it fills this one, up to the next heading. What must stay together
+/// and is higher than a page is parted all the same.
 /// @param segnalibri  gets those of the strips
 [[nodiscard]] std::vector<Pagina> riempi(const Strisce& strisce, const Formato& formato,
                                          std::vector<Segnalibro>& segnalibri);

@@ -209,8 +209,10 @@ void aggiungi(const Tavola& tavola, const Formato& formato, const MisuraCaratter
             accodaParte({prospetto, colonne, disposta.corpo, formato, misura}, prospetto,
                         std::exchange(primo, false), formato, strisce);
     }
-    for (const auto& nota : note(prospetto))
-        aggiungi(Paragrafo{nota, Stile::nota}, formato, misura, strisce);
+    const auto sotto = note(prospetto);
+    // The first one tells of the rows above it: alone it heads no page.
+    if (!sotto.empty() && !strisce.empty()) strisce.back().legata = true;
+    for (const auto& nota : sotto) aggiungi(Paragrafo{nota, Stile::nota}, formato, misura, strisce);
 }
 
 }  // namespace korven::document

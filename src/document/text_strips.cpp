@@ -118,6 +118,7 @@ void aggiungi(const Figura& figura, const Formato& formato, const MisuraCaratter
     const double posto = formato.altezzaTesto() - didascalia - titoliSopra;
     const double scala = std::min({1.0, formato.larghezzaTesto() / larga, posto / alta});
     Striscia disegno{.altezza = alta * scala, .prima = 8, .dopo = 8, .legata = !sotto.empty()};
+    disegno.puoAttendere = true;
     disegno.contenuto.disegni.push_back(
         {(formato.larghezzaTesto() - larga * scala) / 2, 0, scala, &figura, figura.altezza});
     if (figura.disegnaBassa)

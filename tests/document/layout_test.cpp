@@ -62,6 +62,43 @@ TEST(Impagina, MakesADrawingLowerThatStaysOnThePageOfWhatStandsAboveIt) {
     EXPECT_EQ(posto({sopra(8), figura}).pagine.size(), 2U);
 }
 
+// A third of a page is left, the drawing needs more.
+TEST(Impagina, FillsThePageThatHasNoRoomForADrawingWithTheTableBehindIt) {
+    const Figura figura{"Inviluppi", "", 17, 12, [] {}};
+    const Impaginato fatto =
+        posto({righe(2 * righePerPagina() / 3), figura, Tavola{test::nodi(60)}});
+    ASSERT_GE(fatto.pagine.size(), 2U);
+    EXPECT_TRUE(fatto.pagine[0].disegni.empty());
+    EXPECT_NE(testi(fatto, 0).find("Nodi della fase 2|"), std::string::npos);
+    ASSERT_EQ(fatto.pagine[1].disegni.size(), 1U);
+    const std::string sotto = testi(fatto, 1);
+    EXPECT_TRUE(sotto.starts_with("Inviluppi|Nodi della fase 2 (segue)|")) << sotto.substr(0, 60);
+    EXPECT_EQ(difetti(fatto), "");
+}
+
+TEST(Impagina, LeavesNoDrawingBehindTheHeadingThatFollowsItNorOutOfOrder) {
+    const Figura prima{"Paratia", "", 17, 12, [] {}}, seconda{"Sezione", "", 17, 3, [] {}};
+    const auto sopra = righe(2 * righePerPagina() / 3);
+    const Impaginato fatto =
+        posto({sopra, prima, seconda, Paragrafo{"Sotto"}, Titolo{2, "Dopo"}, righe(2)});
+    ASSERT_EQ(fatto.pagine.size(), 2U);
+    EXPECT_TRUE(testi(fatto, 0).ends_with("|Sotto"));
+    EXPECT_EQ(testi(fatto, 1), "Paratia|Sezione|Dopo|1|2");
+    EXPECT_EQ(posto({sopra, prima}).pagine.at(1).disegni.size(), 1U) << "the last of all";
+}
+
+TEST(Impagina, LetsNoNoteOfATableHeadAPage) {
+    for (int prima = righePerPagina() - 16; prima <= righePerPagina(); ++prima) {
+        auto tavola = test::larga(3, 6);
+        const Impaginato sola =
+            posto({righe(prima), Tavola{tavola}, Paragrafo{"Vale per tutte.", Stile::nota}});
+        tavola.note = {"Vale per tutte."};
+        for (const Impaginato& fatto : {sola, posto({righe(prima), Tavola{tavola}})})
+            for (std::size_t i = 0; i < fatto.pagine.size(); ++i)
+                EXPECT_FALSE(testi(fatto, i).starts_with("Vale")) << prima;
+    }
+}
+
 TEST(Impagina, GivesEachPageItsHeadItsFootAndItsNumber) {
     const Impaginato fatto = posto({righe(1), SaltoPagina{}, righe(1)});
     ASSERT_EQ(fatto.pagine.size(), 2U);

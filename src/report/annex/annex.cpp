@@ -26,7 +26,7 @@ struct Capitolo {
 constexpr Capitolo capitoli[] = {
     {"Modello e ipotesi", capitoloModello, true},
     {"Osservazioni", capitoloOsservazioni, false},
-    {"Dati", capitoloDati, true},
+    {"Dati", capitoloDati, false},
     {"Terreno e rigidezze", capitoloTerreno, false},
     {"Fasi", capitoloFasi, false},
     {"Tiranti e puntoni", capitoloTiranti, false},
