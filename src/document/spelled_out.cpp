@@ -22,20 +22,59 @@ constexpr std::array voci = std::to_array<Voce>({
     {"Ψ", "Psi"},   {"Ω", "Omega"},  {"≤", "<="},     {"≥", ">="},     {"≠", "<>"},
     {"≈", "~"},     {"−", "-"},      {"√", "sqrt"},   {"∞", "inf"},    {"→", "->"},
     {"←", "<-"},    {"′", "'"},      {"″", "\""},     {"∙", "·"},      {"⋅", "·"},
-    {"₀", "0"},     {"₁", "1"},      {"₂", "2"},      {"₃", "3"},      {"⁴", "^4"},
-    {"⁻", "^-"},    {"\u2009", " "}, {"\u202f", " "}, {"\u2011", "-"},
+    {"₀", "0"},     {"₁", "1"},      {"₂", "2"},      {"₃", "3"},      {"₄", "4"},
+    {"₅", "5"},     {"\u2009", " "}, {"\u202f", " "}, {"\u2011", "-"}, {"₆", "6"},
+    {"₇", "7"},     {"₈", "8"},      {"₉", "9"},
 });
+
+// Three of them have a place in the code page.
+constexpr std::array apici = std::to_array<Voce>({
+    {"⁰", "0"},
+    {"¹", "1"},
+    {"²", "2"},
+    {"³", "3"},
+    {"⁴", "4"},
+    {"⁵", "5"},
+    {"⁶", "6"},
+    {"⁷", "7"},
+    {"⁸", "8"},
+    {"⁹", "9"},
+    {"⁺", "+"},
+    {"⁻", "-"},
+});
+
+template <std::size_t quante>
+const Voce* voce(const std::array<Voce, quante>& tutte, std::string_view lettera) {
+    const auto* trovata =
+        std::find_if(tutte.begin(), tutte.end(), [&](const Voce& v) { return v.first == lettera; });
+    return trovata != tutte.end() ? trovata : nullptr;
+}
+
+std::string_view primaLettera(std::string_view utf8) {
+    return utf8.substr(0, utf8.empty() ? 0 : base::lunghezzaPrimoCarattere(utf8));
+}
+
+// Takes the exponent at the head of the text, which may be none: "⁻³" becomes "^-3", and "²" stays.
+std::string esponente(std::string_view& utf8) {
+    std::string comeSta, cifre;
+    while (const Voce* apice = voce(apici, primaLettera(utf8))) {
+        comeSta += apice->first;
+        cifre += apice->second;
+        utf8.remove_prefix(apice->first.size());
+    }
+    return base::rappresentabile(comeSta) ? comeSta : '^' + cifre;
+}
 
 }  // namespace
 
 std::string perEsteso(std::string_view utf8) {
     std::string scritto;
     while (!utf8.empty()) {
-        const std::string_view lettera = utf8.substr(0, base::lunghezzaPrimoCarattere(utf8));
+        scritto += esponente(utf8);
+        const std::string_view lettera = primaLettera(utf8);
         utf8.remove_prefix(lettera.size());
-        const auto* voce = std::find_if(voci.begin(), voci.end(),
-                                        [&](const Voce& v) { return v.first == lettera; });
-        scritto += voce != voci.end() ? voce->second : lettera;
+        const Voce* parola = voce(voci, lettera);
+        scritto += parola != nullptr ? parola->second : lettera;
     }
     return scritto;
 }

@@ -3,12 +3,15 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <sstream>
 #include <string>
 
+#include "base/code_page.hpp"
 #include "batch/options/reading_bench.hpp"
 #include "batch/run/drawing_formats.hpp"
 #include "device/document_files.hpp"
 #include "device/document_fonts.hpp"
+#include "document/markup_text.hpp"
 #include "document/table_columns.hpp"
 #include "dossier/dossier.hpp"
 #include "report/annex/annex.hpp"
@@ -50,7 +53,15 @@ std::string partite(const document::Impaginato& muro) {
     return trovate;
 }
 
-TEST(PagineAllegato, HaveNothingUponAnotherThingOrBeyondTheMarginInAnyLanguage) {
+// The lines of a mark-up that would show '?' for a letter that Windows-1252 lacks.
+std::string senzaLettera(const std::string& markup) {
+    std::string trovate, riga;
+    for (std::istringstream righe(markup); std::getline(righe, riga);)
+        if (!base::rappresentabile(riga)) trovate += riga + '\n';
+    return trovate;
+}
+
+TEST(PagineAllegato, HaveNothingUponAnotherThingBeyondTheMarginOrWithoutALetterInAnyLanguage) {
     const AmbienteDisegno ambiente(true);
     for (const char* sigla : lingue) {
         const test::InLingua lingua(sigla);
@@ -59,6 +70,9 @@ TEST(PagineAllegato, HaveNothingUponAnotherThingOrBeyondTheMarginInAnyLanguage) 
             EXPECT_GE(muro.pagine.size(), 5U);
             EXPECT_EQ(test::difetti(muro), "") << sigla << ' ' << file;
             EXPECT_EQ(partite(muro), "") << sigla << ' ' << file;
+            for (const auto uso : {document::Uso::testo, document::Uso::documento})
+                EXPECT_EQ(senzaLettera(document::inMarkup(*muro.documento, uso)), "")
+                    << sigla << ' ' << file;
         }
     }
 }

@@ -12,6 +12,12 @@ TEST(PerEsteso, SpellsGreekLettersAndSignsThatTheCodePageLacks) {
     EXPECT_EQ(perEsteso("cos²α → −1 · √2"), "cos²alfa -> -1 · sqrt2");
 }
 
+TEST(PerEsteso, WritesExponentsThatTheCodePageLacksBehindOneSign) {
+    EXPECT_EQ(perEsteso("(Jm + Jv)) / 10⁶"), "(Jm + Jv)) / 10^6");
+    EXPECT_EQ(perEsteso("(%2/2)⁴ · 10⁻³ m"), "(%2/2)^4 · 10^-3 m");
+    EXPECT_EQ(perEsteso("H³/12 + 10¹² + 10²⁰"), "H³/12 + 10¹² + 10^20");
+}
+
 TEST(PerEsteso, LeavesWhatTheCodePageHas) {
     const std::string testo = "Àéîõü ñ ß € – “…” 12 ½ kN m/m²";
     EXPECT_EQ(perEsteso(testo), testo);
@@ -19,7 +25,9 @@ TEST(PerEsteso, LeavesWhatTheCodePageHas) {
 }
 
 TEST(PerEsteso, LeavesNothingThatTheCodePageWouldAskAfter) {
-    EXPECT_TRUE(base::rappresentabile(perEsteso("αβγδεζηθκλμνξπρστφχψω ΓΔΘΛΣΦΨΩ ≤≥≠≈−√∞→")));
+    EXPECT_TRUE(
+        base::rappresentabile(perEsteso("αβγδεζηθκλμνξπρστφχψω ΓΔΘΛΣΦΨΩ ≤≥≠≈−√∞→ a⁰¹²³⁴⁵⁶⁷⁸⁹⁺⁻ "
+                                        "b₀₁₂₃₄₅₆₇₈₉")));
 }
 
 }  // namespace
