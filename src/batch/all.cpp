@@ -134,6 +134,15 @@ struct Consegna {
     FormatiAllegato formatiAllegato;
 };
 
+// Drawings of an earlier run beside an annex of this one look as if they were of the same wall.
+void avvisaDisegniRimasti(const Consegna& consegna) {
+    std::vector<std::string> rimasti;
+    for (const Tavola& tavola : tavole())
+        for (const auto& file : formatiTavola(consegna.opzioni, tavola).file())
+            if (base::esisteFile(file)) rimasti.push_back(file);
+    avvisaRimasti(rimasti, consegna.esito);
+}
+
 CodiceUscita disegnaTutte(const Consegna& consegna, CorsaConsole& corsa) {
     std::size_t quale = 0;
     CodiceUscita codice = fatto;
@@ -176,6 +185,7 @@ int esegui(const Opzioni& opzioni, const PorteComando& porte, Esito& esito) {
         CorsaConsole corsa(opzioni, porte, esito);
         if (!produciRelazione(relazione, corsa, esito)) {
             allegato(consegna, usati, corsa);
+            avvisaDisegniRimasti(consegna);
             return nonEseguito;
         }
         esito.calcolo = results::leggiEsito();
@@ -183,6 +193,7 @@ int esegui(const Opzioni& opzioni, const PorteComando& porte, Esito& esito) {
         const auto fasi = esito.fasi;
         const bool giaAggiornato = esito.giaAggiornato;
         const CodiceUscita codice = disegnaTutte(consegna, corsa);
+        if (codice != fatto) avvisaDisegniRimasti(consegna);
         allegato(consegna, usati, corsa);
         esito.fasi = fasi;
         esito.giaAggiornato = giaAggiornato;

@@ -179,5 +179,21 @@ TEST_F(AllegatoDiTutto, OfAnEarlierRunIsNamedWhenThisOneIsRefused) {
             << esito.errori;
 }
 
+TEST_F(AllegatoDiTutto, DoesNotStandBesideDrawingsOfAnEarlierRunThatNobodyNames) {
+    ASSERT_EQ(tutto().codice, 0);
+    prendi(std::string(KORVEN_WALLS) + "/oscilla_1.kvd");
+    const auto esito = tutto();
+    EXPECT_EQ(esito.codice, 1);
+    const std::string inizio = scritto("pdf").substr(0, scritto("pdf").rfind("allegato"));
+    for (const char* nome :
+         {"pressioni", "spostamenti", "momenti", "taglio", "sezione", "stratigrafia"})
+        for (const char* fine : {".pdf", ".dxf"})
+            EXPECT_EQ(dice(esito.errori, "non aggiornato da questo: " + inizio + nome + fine),
+                      fs::exists(inizio + nome + fine))
+                << esito.errori;
+    EXPECT_TRUE(dice(esito.errori, inizio + "momenti.dxf\n")) << esito.errori;
+    EXPECT_FALSE(dice(esito.errori, "non aggiornato da questo: " + scritto("pdf")));
+}
+
 }  // namespace
 }  // namespace korven::batch

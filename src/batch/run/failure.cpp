@@ -60,8 +60,8 @@ void fallisci(int codice, const std::string& perche, Esito& esito) {
     esito.guasto = true;
 }
 
-void avvisaRelazioniRimaste(Esito& esito) {
-    for (const auto& file : commands::relazioniRimaste(project::fileCorrente)) {
+void avvisaRimasti(const std::vector<std::string>& rimasti, Esito& esito) {
+    for (const auto& file : rimasti) {
         const auto& scritti = esito.fileScritti;
         if (std::any_of(scritti.begin(), scritti.end(), [&file](const std::string& scritto) {
                 return base::stessoFile(scritto, file);
@@ -73,6 +73,10 @@ void avvisaRelazioniRimaste(Esito& esito) {
         std::cerr << avviso << '\n';
         esito.messaggi.push_back(avviso);
     }
+}
+
+void avvisaRelazioniRimaste(Esito& esito) {
+    avvisaRimasti(commands::relazioniRimaste(project::fileCorrente), esito);
 }
 
 }  // namespace korven::batch

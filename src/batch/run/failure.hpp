@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "analysis/result_guard.hpp"
 #include "batch/run/outcome.hpp"
@@ -24,6 +25,11 @@ void raccontaGuasto(analysis::GuardiaRisultati& guardia, Esito& esito);
 
 /// Tells on standard error why a command failed and writes it into the outcome.
 void fallisci(int codice, const std::string& perche, Esito& esito);
+
+/// Tells on standard error of files of an earlier run that a failed one has not updated, but for
+/// those that this run has written, under whatever name.
+/// @param rimasti  files that exist
+void avvisaRimasti(const std::vector<std::string>& rimasti, Esito& esito);
 
 /// Tells of the report and the text of an earlier run, which lie where those of this failed one
 /// would be and may be taken for them. Whether they belong to the project as it now is nobody
