@@ -1,8 +1,12 @@
 #include "results/result_head.hpp"
 
+#include <utility>
+
 #include "analysis/node_vector.hpp"
 #include "analysis/result_file.hpp"
+#include "base/code_page.hpp"
 #include "base/file_error.hpp"
+#include "base/files.hpp"
 #include "base/text_lines.hpp"
 #include "base/translated_texts.hpp"
 #include "project/project_file.hpp"
@@ -15,10 +19,24 @@ namespace {
 constexpr long righeChiusura = 5, righeNomi = 1;
 constexpr long minimiNodi = 4;
 
+bool siChiamaRisultati(const std::string& percorso) {
+    return base::minuscolo(percorso).ends_with(".out");
+}
+
+bool haFasi(const std::string& percorso, const std::string& contenuto) {
+    base::LettoreRighe file(percorso, contenuto);
+    while (!file.fine())
+        if (analysis::cominciaFase(file.riga({}))) return true;
+    return false;
+}
+
 }  // namespace
 
 std::optional<TestaRisultati> leggiTestaRisultati(const std::string& percorso) {
-    auto file = base::LettoreRighe::apri(percorso, base::traduttore(analysis::rimedioRisultati));
+    std::string contenuto = base::leggiFile(percorso);
+    const bool risultati = siChiamaRisultati(percorso) || haFasi(percorso, contenuto);
+    base::LettoreRighe file(percorso, std::move(contenuto),
+                            risultati ? base::traduttore(analysis::rimedioRisultati) : "");
     TestaRisultati testa;
     project::azzera(testa.dati);
     testa.metodoUsato = project::leggiDati(file, testa.dati);

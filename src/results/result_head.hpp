@@ -17,7 +17,8 @@ struct TestaRisultati {
 /// Reads the head of a result file, whatever mesh has written it.
 /// @return nothing for a project: a file that ends with its head
 /// @throws base::ErroreFile if the file is missing, its head is broken, or its lines are not those
-///         of whole stages
+///         of whole stages. It advises to delete the file and to compute again only if it is one of
+///         results, by its name or by a stage in it: nobody should delete a broken project
 [[nodiscard]] std::optional<TestaRisultati> leggiTestaRisultati(const std::string& percorso);
 
 }  // namespace korven::results

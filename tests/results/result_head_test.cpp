@@ -55,5 +55,36 @@ TEST(TestaRisultati, RefusesStagesThatAreNotWhole) {
     EXPECT_THROW((void)leggiTestaRisultati(file.percorso() + "x"), base::ErroreFile);
 }
 
+std::string errore(const std::string& percorso) {
+    try {
+        (void)leggiTestaRisultati(percorso);
+    } catch (const base::ErroreFile& e) {
+        return e.what();
+    }
+    return {};
+}
+
+TEST(TestaRisultati, AdviseToDeleteAFileOnlyIfItHoldsResults) {
+    const test::CartellaProvvisoria cartella;
+    const auto intero = base::inCp1252(project::testoProgetto(test::progettoSemplice()));
+    const std::string monco = intero.substr(0, intero.size() / 2);
+    const std::string consiglio = "cancellarlo e ripetere il calcolo";
+    for (const char* nome : {"muro.kvd", "muro.pdf", "muro"}) {
+        test::metti(cartella / nome, monco);
+        const std::string detto = errore(cartella / nome);
+        EXPECT_NE(detto.find(nome), std::string::npos) << detto;
+        EXPECT_EQ(detto.find(consiglio), std::string::npos) << detto;
+    }
+    for (const char* nome : {"muro.OUT", "muro.out"}) {
+        test::metti(cartella / nome, monco);
+        EXPECT_NE(errore(cartella / nome).find(consiglio), std::string::npos) << nome;
+    }
+    const test::RisultatiAMano file(10);
+    file.scrivi(test::progettoSemplice(), {test::faseFerma(11), test::faseFerma(10)});
+    const std::string altrove = cartella / "risultati.txt";
+    test::metti(altrove, test::contenuto(file.percorso()));
+    EXPECT_NE(errore(altrove).find(consiglio), std::string::npos);
+}
+
 }  // namespace
 }  // namespace korven::results

@@ -19,6 +19,7 @@ inline const std::map<std::string, std::string> silentFiles = {
     {"batch/run/comparison_json.cpp", "names of fields, the same in all languages"},
     {"batch/run/selfcheck_json.cpp", "names of fields, the same in all languages"},
     {"verification/outcome_names.cpp", "words of the files of cases"},
+    {"results/result_head.cpp", {".out"}},
     {"review/remark_table.hpp", "what the compiler says"},
     {"batch/run/equilibrium_json.cpp", "names of fields, the same in all languages"},
     {"batch/run/equilibrium_csv.cpp", "names of columns and states, the same in all languages"},
