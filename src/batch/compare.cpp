@@ -64,6 +64,7 @@ dossier::Richiesta letto(const std::string& percorso, const Opzioni& opzioni, Es
                                  .identita = {},
                                  .sulProgetto = {}};
     richiesta.identita.file = percorso;
+    richiesta.identita.opzioni = dossier::opzioni(alPostoDelProgetto(opzioni));
     richiesta.sulProgetto = review::esaminaFile(percorso, richiesta.usati);
     raccontaPericoli(percorso, *richiesta.sulProgetto);
     if (!review::mostrabile(richiesta.usati)) throw base::ErroreValore();

@@ -77,6 +77,21 @@ std::string fraseMuro(const char* quale, const Muro& muro) {
     return frase;
 }
 
+std::string opzioniUsate(const Confronto& c) {
+    std::string tutte;
+    for (const std::string& opzione : c.prima.fascicolo.identita.opzioni)
+        tutte += (tutte.empty() ? "" : ", ") + opzione;
+    return tutte;
+}
+
+// A reader who takes one shown number from the other may come to another last digit.
+void notaDifferenze(Prospetto& p) {
+    if (!p.righe.empty())
+        p.note.push_back(traduttore(
+            "Le differenze sono dei valori non arrotondati: l'ultima cifra può non essere "
+            "quella che danno i valori mostrati."));
+}
+
 Cella valore(const std::string& detto, bool ceLaRiga) {
     if (!ceLaRiga) return tables::senza(traduttore("Non ha questa riga."));
     return tables::parola(detto);
@@ -94,6 +109,10 @@ std::vector<std::string> frasi(const Confronto& c) {
             ? "I risultati sono della soluzione di equilibrio, non del calcolo per fasi della "
               "relazione."
             : "I risultati sono quelli dei due file, cioè del calcolo per fasi della relazione.")};
+    if (const std::string opzioni = opzioniUsate(c); !opzioni.empty())
+        tutte.push_back(
+            riempito(traduttore("Opzioni, per ambedue al posto di ciò che i progetti dicono: %1."),
+                     {opzioni}));
     if (c.uguali())
         tutte.push_back(traduttore("Nessuna differenza."));
     else if (!c.cambiaQualcosa() && !c.risultati.empty())
@@ -124,6 +143,7 @@ Prospetto prospettoRisultati(const Confronto& c) {
         p.righe.push_back(riga(r));
         note(r, p);
     }
+    notaDifferenze(p);
     return p;
 }
 
@@ -137,6 +157,7 @@ Prospetto prospettoFasi(const Confronto& c) {
         celle.insert(celle.begin(), tables::cella(r.fase));
         note(r, p);
     }
+    notaDifferenze(p);
     return p;
 }
 

@@ -119,6 +119,22 @@ TEST_F(Confronta, RefusesOptionsThatResultFilesCannotFollow) {
     }
 }
 
+TEST_F(Confronta, ListsTheOptionsThatOverrideBothProjects) {
+    scriviDopo(progettoSemplice());
+    const std::vector<std::string> altri = {"--metodo-spinte", "rankine", "--ej", "ricalcola"};
+    const std::string frase =
+        "Opzioni, per ambedue al posto di ciò che i progetti dicono: --metodo-spinte rankine, --ej "
+        "ricalcola, --nseg 10.\n";
+    const auto esito = confronta(altri);
+    EXPECT_TRUE(dice(esito.uscita, frase)) << esito.uscita;
+    auto inJson = altri;
+    inJson.emplace_back("--json");
+    EXPECT_EQ(Json::parse(confronta(inJson).uscita)["confronta"]["opzioni"],
+              (Json{"--metodo-spinte rankine", "--ej ricalcola", "--nseg 10"}));
+    const auto senza = console({"confronta", progetto, dopo});
+    EXPECT_FALSE(dice(senza.uscita, "Opzioni, per ambedue")) << senza.uscita;
+}
+
 TEST_F(Confronta, FindsAPlaceForItsPagesThatCannotBeWrittenBeforeItComputes) {
     scriviDopo(progettoSemplice());
     const auto esito = confronta({"--pdf", cartella.percorso(), "--json"});
@@ -162,6 +178,17 @@ TEST_F(Confronta, TellsWhichFileCannotBeRead) {
     EXPECT_EQ(console({"confronta", progetto}).codice, 2);
     scriviDopo(progettoSemplice());
     EXPECT_EQ(confronta({"--csv", cartella / "x.csv"}).codice, 2);
+    // A project that was cut, and a file that is none: what a result file is told helps neither.
+    const std::string intero = test::contenuto(progetto);
+    for (const std::string& rotto :
+         {intero.substr(0, intero.size() / 2), std::string("%PDF-1.7\n%abc\n")}) {
+        test::metti(dopo, rotto);
+        const auto esito = confronta();
+        EXPECT_EQ(esito.codice, 3);
+        EXPECT_TRUE(dice(esito.errori, "dopo.kvd")) << esito.errori;
+        EXPECT_FALSE(dice(esito.errori, "cancellarlo")) << esito.errori;
+        EXPECT_FALSE(dice(esito.errori, "il file dei risultati")) << esito.errori;
+    }
 }
 
 }  // namespace

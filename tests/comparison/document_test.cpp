@@ -41,6 +41,32 @@ TEST(DocumentoConfronto, HasItsCurvesForTheScreenToo) {
               tutti<document::Figura>(documento(c, "2026-01-31"))[0].descrizione);
 }
 
+TEST(DocumentoConfronto, TellsTheOptionsOfBothAndWhereTheDifferencesComeFrom) {
+    Muro prima = test::muro(test::trave(3)), dopo = test::muro(test::trave(6));
+    for (Muro* muro : {&prima, &dopo})
+        muro->fascicolo.identita.opzioni = {"--metodo-spinte bell", "--nseg 20"};
+    const auto d =
+        documento(std::make_shared<const Confronto>(confronta(std::move(prima), std::move(dopo))),
+                  "2026-01-31");
+    const auto paragrafi = tutti<document::Paragrafo>(d);
+    EXPECT_TRUE(std::any_of(paragrafi.begin(), paragrafi.end(), [](const auto& p) {
+        return p.testo ==
+               "Opzioni, per ambedue al posto di ciò che i progetti dicono: --metodo-spinte bell, "
+               "--nseg 20.";
+    }));
+    const auto tavole = tutti<document::Tavola>(d);
+    ASSERT_EQ(tavole.size(), 3U);
+    for (const std::size_t quale : {1, 2}) {
+        const auto& note = tavole[quale].prospetto.note;
+        EXPECT_EQ(std::count_if(note.begin(), note.end(),
+                                [](const std::string& nota) {
+                                    return nota.starts_with(
+                                        "Le differenze sono dei valori non arrotondati");
+                                }),
+                  1);
+    }
+}
+
 TEST(DocumentoConfronto, SaysInWordsThatNoFieldDiffers) {
     const auto d = documentoDi(test::trave(3), test::trave(3));
     EXPECT_EQ(tutti<document::Tavola>(d).size(), 2U);

@@ -97,6 +97,7 @@ Json jsonConfronto(const Confronto& c) {
     const bool calcolati = c.prima.origine == comparison::Origine::equilibrio;
     return {{"origine", calcolati ? "equilibrio" : "file_risultati"},
             {"uguali", c.uguali()},
+            {"opzioni", c.prima.fascicolo.identita.opzioni},
             {"prima", muro(c.prima)},
             {"dopo", muro(c.dopo)},
             {"campi", campi(c)},
