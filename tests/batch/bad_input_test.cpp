@@ -325,5 +325,42 @@ TEST_F(IngressoRotto, AFolderThatCannotBeMadeIsTold) {
     EXPECT_EQ(file(), prima);
 }
 
+TEST_F(IngressoRotto, ANameThatWouldTakeThePlaceOfAnotherFileHasTheExitCodeOfItsKind) {
+    const std::string uno = cartella / "uno.x", doc = cartella / "muro.doc",
+                      risultati = cartella / "muro.OUT", prima = contenuto(progetto);
+    const struct {
+        std::vector<std::string> argomenti;
+        int codice;
+    } casi[] = {
+        // Two files of the command, or one of the report's.
+        {{"allegato", progetto, "--pdf", uno, "--txt", uno}, 2},
+        {{"tabelle", progetto, "--xlsx", uno, "--csv", uno}, 2},
+        {{"sicurezza", progetto, "--csv", uno, "--pdf", uno}, 2},
+        {{"allegato", progetto, "--doc", doc}, 2},
+        {{"tabelle", progetto, "--xlsx", cartella / "muro.txt"}, 2},
+        {{"equilibrio", progetto, "--csv", doc}, 2},
+        {{"sezione", progetto, "--pdf", doc}, 2},
+        {{"confronta", progetto, progetto, "--pdf", doc}, 2},
+        // Two forms of one drawing, or of one report.
+        {{"sezione", progetto, "--pdf", uno, "--svg", uno}, 3},
+        {{"relazione", progetto, "--pdf", doc}, 3},
+        // The project or its results.
+        {{"allegato", progetto, "--pdf", progetto}, 3},
+        {{"tabelle", progetto, "--xlsx", risultati}, 3},
+        {{"equilibrio", progetto, "--csv", progetto}, 3},
+        {{"sicurezza", progetto, "--pdf", risultati}, 3},
+        {{"sezione", progetto, "--pdf", progetto}, 3},
+        {{"relazione", progetto, "--pdf", risultati}, 3},
+        {{"confronta", progetto, progetto, "--pdf", progetto}, 3},
+        {{"confronta", progetto, progetto, "--pdf", risultati}, 3},
+    };
+    for (const auto& [argomenti, codice] : casi) {
+        const auto esito = console(argomenti);
+        EXPECT_EQ(esito.codice, codice) << argomenti[0] << ' ' << esito.errori;
+        EXPECT_EQ(nomi(), "muro.kvd ") << argomenti[0];
+    }
+    EXPECT_TRUE(contenuto(progetto) == prima);
+}
+
 }  // namespace
 }  // namespace korven::batch
