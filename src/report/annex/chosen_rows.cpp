@@ -1,5 +1,6 @@
 #include "report/annex/chosen_rows.hpp"
 
+#include <algorithm>
 #include <cassert>
 #include <set>
 #include <utility>
@@ -9,36 +10,46 @@
 
 namespace korven::report {
 
-RigheScelte righeScelte(std::size_t quante, int massime, const std::vector<std::size_t>& picchi) {
+namespace {
+
+// So many of the rows, the first and the last among them, as evenly as whole numbers go.
+std::set<std::size_t> distribuite(std::size_t quante, std::size_t massime) {
+    std::set<std::size_t> righe;
+    const std::size_t tratti = massime - 1;
+    for (std::size_t i = 0; i <= tratti; ++i)
+        righe.insert((i * (quante - 1) + tratti / 2) / tratti);
+    return righe;
+}
+
+}  // namespace
+
+std::vector<std::size_t> righeScelte(std::size_t quante, int massime,
+                                     const std::vector<std::size_t>& picchi) {
     assert(massime >= 2);
-    RigheScelte scelte;
-    if (quante == 0) return scelte;
+    if (quante == 0) return {};
     std::set<std::size_t> sempre{0, quante - 1};
     for (const std::size_t i : picchi)
         if (i < quante) sempre.insert(i);
-    std::set<std::size_t> tutte;
-    for (std::size_t passo = 1;; ++passo) {
-        tutte = sempre;
-        for (std::size_t i = 0; i < quante; i += passo) tutte.insert(i);
-        scelte.passo = static_cast<int>(passo);
-        if (tutte.size() <= static_cast<std::size_t>(massime) || passo >= quante) break;
+    const auto posti = static_cast<std::size_t>(massime);
+    for (std::size_t n = std::min(posti, quante); n > 2; --n) {
+        std::set<std::size_t> tutte = distribuite(quante, n);
+        tutte.insert(sempre.begin(), sempre.end());
+        if (tutte.size() <= posti) return {tutte.begin(), tutte.end()};
     }
-    scelte.quali.assign(tutte.begin(), tutte.end());
-    return scelte;
+    return {sempre.begin(), sempre.end()};
 }
 
 void sfoltisci(tables::Prospetto& prospetto, int massime, const std::vector<std::size_t>& picchi) {
     const std::size_t quante = prospetto.righe.size();
-    const RigheScelte scelte = righeScelte(quante, massime, picchi);
-    if (scelte.quali.size() == quante) return;
+    const std::vector<std::size_t> scelte = righeScelte(quante, massime, picchi);
+    if (scelte.size() == quante) return;
     std::vector<std::vector<tables::Cella>> righe;
-    for (const std::size_t i : scelte.quali) righe.push_back(std::move(prospetto.righe[i]));
+    for (const std::size_t i : scelte) righe.push_back(std::move(prospetto.righe[i]));
     prospetto.righe = std::move(righe);
     prospetto.note.push_back(base::riempito(
-        base::traduttore("Un nodo ogni %1, con il primo, l'ultimo e quelli dei valori massimi e "
-                         "minimi: %2 di %3."),
-        {std::to_string(scelte.passo), std::to_string(prospetto.righe.size()),
-         std::to_string(quante)}));
+        base::traduttore("%1 nodi di %2, distribuiti il più regolarmente possibile, con il primo, "
+                         "l'ultimo e quelli dei valori massimi e minimi."),
+        {std::to_string(prospetto.righe.size()), std::to_string(quante)}));
 }
 
 }  // namespace korven::report

@@ -90,7 +90,7 @@ void unaFase(const Contesto& contesto, const dossier::TerrenoFase& terreno, Bloc
         paragrafo(tables::perche(f.parete, terreno.fase), blocchi, document::Stile::pericolo);
     const auto picchi =
         fase != nullptr ? nodiDeiPicchi(f.parete, terreno.fase) : std::vector<std::size_t>{};
-    const auto quali = righeScelte(f.terreno.monte.size(), contesto.opzioni.righe, picchi).quali;
+    const auto quali = righeScelte(f.terreno.monte.size(), contesto.opzioni.righe, picchi);
     tavolaLato({"Terreno a monte", f.terreno.monte, 0, fase, &FaseEquilibrio::monte,
                 &analysis::StatiNodo::monte},
                f.parete.h, quali, blocchi);
