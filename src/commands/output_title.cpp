@@ -3,13 +3,11 @@
 #include <filesystem>
 
 #include "project/output_guard.hpp"
-#include "project/project_data.hpp"
 
 namespace korven::commands {
 
 std::string titoloUscite() {
-    const std::string& inCorso = project::progettiProtetti.corrente;
-    const std::filesystem::path progetto = inCorso.empty() ? project::fileCorrente : inCorso;
+    const std::filesystem::path progetto = project::progettoAperto();
     return "KORVEN 32 - " + progetto.filename().string();
 }
 

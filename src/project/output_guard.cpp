@@ -6,10 +6,15 @@
 #include "base/file_error.hpp"
 #include "base/file_identity.hpp"
 #include "base/translated_texts.hpp"
+#include "project/project_data.hpp"
 
 namespace korven::project {
 
 ProgettiProtetti progettiProtetti;
+
+const std::string& progettoAperto() {
+    return progettiProtetti.corrente.empty() ? fileCorrente : progettiProtetti.corrente;
+}
 
 namespace {
 

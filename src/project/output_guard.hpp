@@ -16,6 +16,10 @@ struct ProgettiProtetti {
 };
 extern ProgettiProtetti progettiProtetti;
 
+/// The file of the open project, also while a run makes results and `fileCorrente` names them.
+/// Empty: none is open.
+[[nodiscard]] const std::string& progettoAperto();
+
 /// The project whose place a file written under this name would take: the same name, a link to it,
 /// or another name that leads there (`base::stessoFile`). Empty if there is none.
 [[nodiscard]] std::string progettoColpito(const std::string& percorso);

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "base/file_error.hpp"
+#include "project/project_data.hpp"
 #include "support/temporary_folder.hpp"
 
 namespace korven::project {
@@ -38,6 +39,17 @@ TEST(ControllaUscita, RefusesTheProjectAndTheFileThatTheOutputIsMadeFrom) {
     }
     EXPECT_NO_THROW(controllaUscita(cartella / "altro.TAB", cartella / "muro.OUT"));
     progettiProtetti = {};
+}
+
+TEST(ProgettoAperto, IsTheProjectAlsoWhileARunNamesItsResults) {
+    fileCorrente = "muro.kvd";
+    EXPECT_EQ(progettoAperto(), "muro.kvd");
+    progettiProtetti.corrente = "muro.kvd";
+    fileCorrente = "muro.OUT";
+    EXPECT_EQ(progettoAperto(), "muro.kvd");
+    progettiProtetti = {};
+    fileCorrente.clear();
+    EXPECT_EQ(progettoAperto(), "");
 }
 
 }  // namespace

@@ -21,7 +21,6 @@
 #include "document/markup_text.hpp"
 #include "outdoc/document_renderer.hpp"
 #include "project/output_guard.hpp"
-#include "project/project_data.hpp"
 #include "shell/annex/document_view.hpp"
 #include "shell/companions/button_row.hpp"
 #include "shell/failure_box.hpp"
@@ -79,6 +78,7 @@ FinestraAllegato::FinestraAllegato(QWidget& principale, VitaProgetto& vita, Port
     });
     connect(&vita, &VitaProgetto::cambiata, this, [this] {
         cambiato_ = true;
+        lasciaAltri();
         if (isVisible()) segui();
     });
 }
@@ -148,6 +148,7 @@ QWidget* FinestraAllegato::farePulsanti(const std::function<void(const std::stri
 void FinestraAllegato::showEvent(QShowEvent* evento) {
     FinestraCompagna::showEvent(evento);
     if (evento->spontaneous()) return;
+    lasciaAltri();
     if (cambiato_) prepara();
     segui();
 }
@@ -157,6 +158,7 @@ void FinestraAllegato::prepara() {
     fermato_ = false;
     conAvviso(porte_.dialogo, [this] {
         CalcoloAllegato calcola = porte_.prepara();
+        inPreparazione_ = project::progettoAperto();
         cambiato_ = false;  // what changes from now on is in none of its numbers
         inCorso_ = true;
         lavoro_->chiedi(std::move(calcola));
@@ -169,6 +171,7 @@ void FinestraAllegato::preparata(const ComposizioneAllegato& componi) {
     const bool mostrata = conAvviso(porte_.dialogo, [&] {
         const base::GuardiaPuntatore attesa(porte_.dialogo);
         vista_->mostra(device::impaginato(componi()));
+        diPagine_ = inPreparazione_;
     });
     if (!mostrata) cambiato_ = true;
     segui();
@@ -182,7 +185,22 @@ void FinestraAllegato::ferma() {
     segui();
 }
 
+bool FinestraAllegato::lasciaAltri() {
+    const std::string& aperto = project::progettoAperto();
+    if (inCorso_ && inPreparazione_ != aperto) {
+        lavoro_->ferma();
+        inCorso_ = false;
+        cambiato_ = true;
+    }
+    if (inPreparazione_ != aperto) fermato_ = false;
+    if (vista_->pagine() == 0 || diPagine_ == aperto) return false;
+    vista_->mostra({});
+    cambiato_ = true;
+    return true;
+}
+
 void FinestraAllegato::segui() {
+    lasciaAltri();
     const bool aperto = vita_.vivo().aperto();
     const bool pronto = aperto && vista_->pagine() > 0;
     aggiorna_->setEnabled(aperto && !inCorso_);
@@ -194,6 +212,9 @@ void FinestraAllegato::segui() {
         nota_->setText(tradotto("Nessun progetto aperto"));
     else if (fermato_)
         nota_->setText(tradotto("La preparazione è stata fermata: Aggiorna la ricomincia."));
+    else if (!pronto && !inCorso_)
+        nota_->setText(
+            tradotto("L'allegato di questo progetto non è ancora preparato: Aggiorna lo prepara."));
     else if (cambiato_ && !inCorso_)
         nota_->setText(
             tradotto("Il progetto è cambiato da quando l'allegato è stato preparato: "
@@ -221,18 +242,19 @@ void FinestraAllegato::scegliZoom(int voce) {
 }
 
 void FinestraAllegato::stampa() {
+    if (lasciaAltri()) return segui();
     conAvviso(porte_.dialogo, [this] { porte_.stampa(*vista_->impaginato().documento); });
 }
 
 void FinestraAllegato::salva(const char* titolo, const TipoFile& tipo,
                              const std::function<void(const std::string&)>& scrivi) {
-    const std::string proposto =
-        base::nomeUscita(project::fileCorrente, "allegato", tipo.estensione);
+    if (lasciaAltri()) return segui();
+    const std::string proposto = base::nomeUscita(diPagine_, "allegato", tipo.estensione);
     const FileDaSalvare richiesta{
         base::traduttore(titolo), proposto.substr(proposto.rfind('/') + 1), {tipo}};
     while (const auto percorso = porte_.file->fileDaSalvare(richiesta)) {
         const bool fatto = conAvviso(porte_.dialogo, [&] {
-            project::controllaUscita(*percorso, project::fileCorrente);
+            project::controllaUscita(*percorso, diPagine_);
             nota_->clear();
             scrivi(*percorso);
             porte_.file->scritto(*percorso);

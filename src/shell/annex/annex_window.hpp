@@ -35,7 +35,8 @@ struct PorteAllegato {
 /// The annex of the open project on its pages: to look at, to print, to save as PDF or for a word
 /// processor. It is made when the window is opened and when it is asked for again, beside the forms
 /// until its numbers are there; meanwhile it can be stopped, and the pages of before stay. That the
-/// project has changed since is told.
+/// project has changed since is told. Where another project is open, or the same under another
+/// name, its pages go: no annex may be taken for that of another wall.
 class FinestraAllegato : public FinestraCompagna {
     Q_OBJECT
  public:
@@ -53,6 +54,9 @@ class FinestraAllegato : public FinestraCompagna {
     void prepara();
     void preparata(const ComposizioneAllegato& componi);
     void ferma();
+    /// Lets go of pages and work that are not of the open project.
+    /// @return whether pages went
+    bool lasciaAltri();
     void segui();
     void seguiVista();
     void scegliZoom(int voce);
@@ -71,6 +75,7 @@ class FinestraAllegato : public FinestraCompagna {
     QPushButton *aggiorna_ = nullptr, *stampa_ = nullptr, *pdf_ = nullptr, *doc_ = nullptr;
     QWidget* attesa_ = nullptr;  // shown while the numbers are being computed
     LavoroInDisparte<CalcoloAllegato, ComposizioneAllegato>* lavoro_ = nullptr;
+    std::string diPagine_, inPreparazione_;  // the project files of the pages, and of the work
     bool inCorso_ = false;
     bool cambiato_ = true;  // the project, since the pages were made
     bool fermato_ = false;  // the last making of pages, by its user

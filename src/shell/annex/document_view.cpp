@@ -51,7 +51,7 @@ VistaDocumento::VistaDocumento(QWidget* padre) : QAbstractScrollArea(padre) {
 void VistaDocumento::mostra(document::Impaginato impaginato) {
     const int prima = pagina();
     impaginato_ = std::move(impaginato);
-    annunciata_ = 0;
+    annunciata_ = -1;  // also that there is none any more is announced
     adatta();
     vaiA(std::clamp(prima, std::min(1, pagine()), std::max(1, pagine())));
     annuncia();

@@ -67,8 +67,8 @@ class VistaDocumento : public QAbstractScrollArea {
     document::Impaginato impaginato_;
     device::CaratteriPagine caratteri_;
     Modo modo_ = Modo::larghezza;
-    double scala_ = 1;  // pixels of the screen in a point
-    int annunciata_ = 0;
+    double scala_ = 1;                // pixels of the screen in a point
+    int annunciata_ = 0;              // the page told last
     std::map<int, QPixmap> dipinte_;  // of the pages in sight, at this scale
 };
 

@@ -38,12 +38,6 @@ constexpr const char* paginaGuida = "finestra_confronto";
 constexpr int riposo = 150;  // [ms]
 constexpr int lettereProgetto = 24;
 
-// While it runs, its own name is that of its results.
-const std::string& fileAperto() {
-    const std::string& inCorsa = project::progettiProtetti.corrente;
-    return inCorsa.empty() ? project::fileCorrente : inCorsa;
-}
-
 QString inCorso() { return tradotto("Calcolo in corso") + QStringLiteral("..."); }
 
 }  // namespace
@@ -170,7 +164,7 @@ void FinestraConfronto::guardaOra() {
     riposo_->stop();
     const live::ProgettoVivo& vivo = vita_.vivo();
     const int nSeg = vivo.aperto() ? vivo.parete().nSeg : 0;
-    vivo_.guarda(vivo.aperto() ? &vivo.dati() : nullptr, fileAperto(),
+    vivo_.guarda(vivo.aperto() ? &vivo.dati() : nullptr, project::progettoAperto(),
                  nSeg > 0 ? std::optional(nSeg) : std::nullopt);
     const auto& domanda = vivo_.domanda();
     if (!domanda || domanda->numero != chiesta_) ferma();

@@ -12,6 +12,7 @@
 #include <thread>
 
 #include "base/file_error.hpp"
+#include "project/output_guard.hpp"
 #include "shell/annex/document_view.hpp"
 #include "shell/qt_text.hpp"
 #include "support/annex_ports.hpp"
@@ -105,6 +106,64 @@ TEST_F(FinestraAllegatoTest, SaysThatTheProjectHasChangedAndMakesItAnewOnRequest
     aspetta();
     EXPECT_EQ(preparati, 2);
     EXPECT_EQ(nota(), "");
+}
+
+TEST_F(FinestraAllegatoTest, HandsOutNoPagesOfAProjectThatIsNoLongerTheOpenOne) {
+    apri();
+    project::fileCorrente = "altro.kvd";
+    emit vita.cambiata();
+    EXPECT_EQ(vista().pagine(), 0);
+    EXPECT_EQ(vista().accessibleDescription(), QString());
+    EXPECT_EQ(pagina().value(), 0);
+    EXPECT_EQ(nota(), "L'allegato di questo progetto non è ancora preparato: Aggiorna lo prepara.");
+    for (const char* pulsante : {"pdf", "doc", "stampa"})
+        EXPECT_FALSE(test::controllo<QPushButton>(finestra, pulsante).isEnabled()) << pulsante;
+    premi("aggiorna");
+    aspetta();
+    EXPECT_GT(vista().pagine(), 3);
+    EXPECT_EQ(nota(), "");
+    premi("stampa");
+    EXPECT_EQ(stampati, (std::vector<std::string>{"Allegato 2"}));
+    premi("pdf");
+    EXPECT_EQ(salvataggio->chiesta.nome, "altro-allegato.pdf");
+}
+
+TEST_F(FinestraAllegatoTest, LooksAgainWhichProjectIsOpenBeforeItsPagesLeaveTheWindow) {
+    for (const char* pulsante : {"pdf", "doc", "stampa"}) {
+        project::fileCorrente = "muro.kvd";
+        apri();
+        premi("aggiorna");
+        aspetta();
+        salvataggio->chiesta = {};
+        project::fileCorrente = "altro.kvd";  // by a command that changes nothing else
+        premi(pulsante);
+        EXPECT_EQ(salvataggio->chiesta.nome, "") << pulsante;
+        EXPECT_EQ(vista().pagine(), 0) << pulsante;
+    }
+    EXPECT_TRUE(stampati.empty());
+}
+
+TEST_F(FinestraAllegatoTest, GivesUpTheWorkForAProjectThatIsNoLongerTheOpenOne) {
+    trattenuto = true;
+    finestra.mostraDavanti();
+    project::fileCorrente = "altro.kvd";
+    emit vita.cambiata();
+    EXPECT_FALSE(inPreparazione());
+    EXPECT_EQ(vista().pagine(), 0);
+    trattenuto = false;
+    premi("aggiorna");
+    aspetta();
+    premi("stampa");
+    EXPECT_EQ(stampati, (std::vector<std::string>{"Allegato 2"}));
+}
+
+TEST_F(FinestraAllegatoTest, KeepsItsPagesWhileARunLendsItsNameToTheResults) {
+    apri();
+    project::progettiProtetti.corrente = project::fileCorrente;
+    project::fileCorrente = "muro.OUT";
+    emit vita.cambiata();
+    EXPECT_GT(vista().pagine(), 3);
+    project::progettiProtetti.corrente.clear();
 }
 
 TEST_F(FinestraAllegatoTest, TurnsItsPagesByKeysAndByNumber) {
