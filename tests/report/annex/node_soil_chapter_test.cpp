@@ -23,9 +23,9 @@ double letto(const std::vector<tables::Cella>& riga, Colonna quale) {
 
 // As a reader does it, with the digits on the page.
 void rifai(const std::vector<tables::Cella>& riga, const std::string& di) {
-    const auto [minimo, massimo] = std::minmax(letto(riga, pa), letto(riga, pp));
-    const double atteso =
-        std::clamp(letto(riga, p0) - letto(riga, ks) * letto(riga, y) / 1000, minimo, massimo);
+    const double attiva = letto(riga, pa), passiva = letto(riga, pp);
+    const double atteso = std::clamp(letto(riga, p0) - letto(riga, ks) * letto(riga, y) / 1000,
+                                     std::min(attiva, passiva), std::max(attiva, passiva));
     EXPECT_NEAR(letto(riga, p), atteso, 0.02 + 1e-4 * std::fabs(letto(riga, y))) << di;
     if (riga.at(sigmaV).numero) {
         EXPECT_NEAR(letto(riga, sigmaV) - letto(riga, u), letto(riga, sigma), 0.011) << di;
