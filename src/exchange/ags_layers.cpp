@@ -5,11 +5,11 @@
 #include <utility>
 
 #include "base/code_page.hpp"
+#include "base/decimal_commas.hpp"
 #include "base/translated_texts.hpp"
 #include "exchange/ags_ranges.hpp"
 #include "exchange/fault_texts.hpp"
 #include "exchange/layer_checks.hpp"
-#include "masks/decimal_commas.hpp"
 
 namespace korven::exchange {
 
@@ -18,7 +18,7 @@ namespace {
 // The head of the wall below the ground level of the hole, nothing with a fault.
 std::optional<double> profonditaTesta(const Foro& foro, const TestaAlForo& testa,
                                       StratiLetti& letti) {
-    const auto dato = soloNumero(masks::conIlPunto(testa.testo).value_or(std::string(testa.testo)));
+    const auto dato = soloNumero(base::conIlPunto(testa.testo).value_or(std::string(testa.testo)));
     if (!dato) {
         letti.difetti.push_back(
             frase("testa della paratia: «%1» non è un numero", {std::string(testa.testo)}));

@@ -5,13 +5,13 @@
 #include <utility>
 
 #include "base/code_page.hpp"
+#include "base/decimal_commas.hpp"
 #include "base/translated_texts.hpp"
 #include "exchange/csv_separator.hpp"
 #include "exchange/delimited_reader.hpp"
 #include "exchange/fault_texts.hpp"
 #include "exchange/layer_checks.hpp"
 #include "exchange/layer_columns.hpp"
-#include "masks/decimal_commas.hpp"
 
 namespace korven::exchange {
 
@@ -102,7 +102,7 @@ class LettoreStrati {
         std::string scritto(riga.cella(cella));
         const bool virgola = scritto.find(',') != std::string::npos;
         if (virgola || scritto.find('.') != std::string::npos) segno(riga, cella, virgola);
-        if (virgola && separatore_ != ',') scritto = masks::conIlPunto(scritto).value_or(scritto);
+        if (virgola && separatore_ != ',') scritto = base::conIlPunto(scritto).value_or(scritto);
         if (const auto cosa = difettoCella(colonna, scritto); !cosa.empty())
             difetto(riga, cella, cosa);
         return scritto;

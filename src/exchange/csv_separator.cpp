@@ -6,10 +6,10 @@
 #include <utility>
 
 #include "base/code_page.hpp"
+#include "base/decimal_commas.hpp"
 #include "base/number_text.hpp"
 #include "exchange/delimited_reader.hpp"
 #include "exchange/layer_columns.hpp"
-#include "masks/decimal_commas.hpp"
 
 namespace korven::exchange {
 
@@ -39,7 +39,7 @@ std::ptrdiff_t quanteVolte(std::string_view testo, char separatore) {
 }  // namespace
 
 bool sembraNumero(std::string_view testo) {
-    return base::soloUnNumero(testo) || masks::conIlPunto(testo).has_value();
+    return base::soloUnNumero(testo) || base::conIlPunto(testo).has_value();
 }
 
 TestoParti trovaSeparatore(std::string_view testo) {

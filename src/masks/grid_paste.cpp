@@ -3,9 +3,9 @@
 #include <utility>
 #include <vector>
 
+#include "base/decimal_commas.hpp"
 #include "base/translated_texts.hpp"
 #include "masks/clipboard_text.hpp"
-#include "masks/decimal_commas.hpp"
 #include "masks/grid_model.hpp"
 
 namespace korven::masks {
@@ -33,7 +33,7 @@ std::vector<std::string*> conVirgola(Righe& righe, const ModelloGriglia& griglia
         int c = griglia.corrente().colonna;
         for (auto valore = riga.begin(); valore != riga.end() && c <= griglia.colonne();
              ++valore, ++c)
-            if (griglia.numerica(c) && !griglia.soloLettura(c) && conIlPunto(*valore))
+            if (griglia.numerica(c) && !griglia.soloLettura(c) && base::conIlPunto(*valore))
                 trovati.push_back(&*valore);
     }
     return trovati;
@@ -51,7 +51,7 @@ bool leggiVirgole(Righe& righe, const ModelloGriglia& griglia, base::Dialogo& di
     const auto risposta = dialogo.domanda(domanda, base::traduttore("ATTENZIONE") + "!",
                                           base::Pulsanti::siNoAnnulla, base::Icona::domanda);
     if (risposta == base::Risposta::si)
-        for (auto* valore : trovati) *valore = *conIlPunto(*valore);
+        for (auto* valore : trovati) *valore = *base::conIlPunto(*valore);
     return risposta != base::Risposta::annulla;
 }
 

@@ -1,8 +1,8 @@
-#include "masks/decimal_commas.hpp"
+#include "base/decimal_commas.hpp"
 
 #include <gtest/gtest.h>
 
-namespace korven::masks {
+namespace korven::base {
 namespace {
 
 TEST(ConIlPunto, GivesTheNumberOfADecimalComma) {
@@ -18,4 +18,4 @@ TEST(ConIlPunto, LeavesAllElseAlone) {
 }
 
 }  // namespace
-}  // namespace korven::masks
+}  // namespace korven::base
