@@ -11,6 +11,7 @@ inline constexpr int massimoStrati = 100;
 inline constexpr int massimoTiranti = 20;
 inline constexpr int massimoFasi = 20;
 inline constexpr int numeroTitoli = 6;
+inline constexpr int caratteriTitolo = 80;  ///< that the editor takes for a heading
 
 /// The whole data set of one retaining-wall project. Forces in tonnes-force, lengths of the
 /// geometry in metres, lengths of the section in centimetres; the user sees kN and mm, ten times
