@@ -19,13 +19,14 @@ namespace fs = std::filesystem;
 
 // The program's own files, which a newer version brings anew: by the end of their names, texts by
 // the beginning too, for the user may keep texts of his own here, the profiles of the catalogue
-// among them.
+// and partial factors among them.
 bool delProgramma(const fs::path& file) {
     const std::string nome = base::minuscolo(file.filename().string());
     const std::string tipo = base::minuscolo(file.extension().string());
     constexpr std::string_view tipi[] = {".rtn", ".mav", ".hlp"};
     return std::find(std::begin(tipi), std::end(tipi), tipo) != std::end(tipi) ||
-           (nome.starts_with("texts") && tipo == ".txt") || nome == "profili.txt";
+           (nome.starts_with("texts") && tipo == ".txt") || nome == "profili.txt" ||
+           nome == "combinazioni.txt";
 }
 
 bool programma(const fs::directory_entry& voce) {

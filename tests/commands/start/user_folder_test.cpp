@@ -61,6 +61,17 @@ TEST_F(CartellaUtente, FollowsTheProgramInItsProfilesAndLeavesThoseOfTheUser) {
     EXPECT_EQ(contenuto(nellUtente("profili_utente.txt")), "i miei");
 }
 
+TEST_F(CartellaUtente, FollowsTheProgramInItsPartialFactorsAndLeavesThoseOfTheUser) {
+    metti("combinazioni.txt", "coefficienti 1");
+    copiaDati(installata.percorso(), utente());
+    test::metti(nellUtente("combinazioni_utente.txt"), "i miei");
+    metti("combinazioni.txt", "coefficienti 2");
+    metti("combinazioni_utente.txt", "di altri");
+    copiaDati(installata.percorso(), utente());
+    EXPECT_EQ(contenuto(nellUtente("combinazioni.txt")), "coefficienti 2");
+    EXPECT_EQ(contenuto(nellUtente("combinazioni_utente.txt")), "i miei");
+}
+
 TEST_F(CartellaUtente, KeepsItsOldFilesOnAFullDisk) {
     copiaDati(installata.percorso(), utente());
     metti("texts06.txt", "testi 2");
