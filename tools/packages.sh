@@ -1,6 +1,6 @@
 # The Debian packages of the project, in one place for ./run and ./test. To be sourced by bash.
 
-packages_build="g++ cmake ninja-build libcli11-dev nlohmann-json3-dev qt6-base-dev qt6-svg-dev libpng-dev libqpdf-dev libminizip-dev zlib1g-dev nettle-dev libxlsxwriter-dev fonts-liberation qt6-translations-l10n qt6-wayland"
+packages_build="g++ cmake ninja-build libcli11-dev nlohmann-json3-dev qt6-base-dev qt6-svg-dev libpng-dev libqpdf-dev libminizip-dev zlib1g-dev nettle-dev libxlsxwriter-dev libboost-math-dev librandom123-dev fonts-liberation qt6-translations-l10n qt6-wayland"
 packages_test="libgtest-dev clang-format clang-tidy clang xvfb xauth xdotool openbox at-spi2-core dbus-daemon python3-pyatspi"
 packages_bench="libbenchmark-dev libopenblas-dev liblapacke-dev libeigen3-dev"
 packages_fuzz="clang"

@@ -42,6 +42,8 @@ const std::vector<std::pair<std::string, std::set<std::string>>> outside = {
     {"nlohmann/", {"batch"}},
     {"png.h", {"device"}},
     {"qpdf/", {"device"}},
+    {"boost/math/", {"studies"}},
+    {"Random123/", {"studies"}},
     {"minizip/", {"outdoc"}},
     {"nettle/", {"dossier"}},
     {"xlsxwriter", {"workbook"}},
