@@ -33,7 +33,7 @@ struct Exempt {
 
 const std::map<std::string, Exempt> noUnits = {
     {"analysis/trial_run.cpp", {{"1000"}, "a bound above all factors"}},
-    {"batch/run/json_numbers.hpp", {{"1e6", "1e7"}, "rounds to six and to seven decimals"}},
+    {"project/program_numbers.hpp", {{"1e6", "1e7"}, "rounds to six and to seven decimals"}},
     {"drawings/annex/paper.hpp", {{"10"}, "the size of a font"}},
     {"drawings/diagram_frame.cpp", {{"1000"}, "rounds to three decimals"}},
     {"drawings/diagram_scale.cpp", {{"10", "100", "10000"}, "steps of an axis"}},
@@ -53,6 +53,7 @@ const std::map<std::string, Exempt> noUnits = {
     {"structure/material_laws.cpp", {{"1000"}, "a strain in thousandths, as the law has it"}},
     {"structure/interaction_domain.cpp", {{"0.01"}, "a share of the largest resistance"}},
     {"dossier/twin_numbers.cpp", {{"1e-3"}, "a share of a number, below which digits explain it"}},
+    {"studies/both_ways.cpp", {{"1e-6"}, "a share of the largest displacement"}},
     {"safety/mesh_error.cpp", {{"1e-9"}, "what rounding leaves between two meshes"}},
     {"equilibrium/newton.cpp", {{"100"}, "a stronger push on a singular tangent"}},
     {"safety/shortest_wall.cpp", {{"100"}, "steps of a hundredth of the length"}},
