@@ -31,6 +31,17 @@ class FinoAlLimite : public analysis::OsservatoreCorsa {
     bool oltre_ = false;
 };
 
+std::vector<std::vector<double>> spostamenti(const analysis::EsitoCorsa& corsa, int nSeg) {
+    std::vector<std::vector<double>> tutti;
+    tutti.reserve(corsa.fasi.size());
+    for (const analysis::FaseCalcolata& fase : corsa.fasi) {
+        auto& y = tutti.emplace_back();
+        y.reserve(static_cast<std::size_t>(nSeg) + 1);
+        for (int i = 1; i <= nSeg + 1; ++i) y.push_back(fase.risultati.yNodo[i]);
+    }
+    return tutti;
+}
+
 }  // namespace
 
 RelazioneInMemoria relazioneInMemoria(const project::DatiProgetto& dati, int nSeg,
@@ -46,6 +57,7 @@ RelazioneInMemoria relazioneInMemoria(const project::DatiProgetto& dati, int nSe
         relazione.numeri = results::numeriRelazione(results::risultatiInMemoria(
             dati, nSeg, corsa,
             analysis::chiusura(structure::resistenze(dati.sezione, dati.sforzoNormale), corsa)));
+        relazione.spostamenti = spostamenti(corsa, nSeg);
     } catch (const base::ErroreValore&) {
         relazione.fine.modo = analysis::ModoFine::nonMostrabile;
     }

@@ -23,6 +23,9 @@ struct RelazioneInMemoria {
     /// Nothing if a stage does not come to rest, or the numbers are none.
     std::optional<results::NumeriRelazione> numeri;
     analysis::FineCorsa fine;  ///< how it ended; by default it was not begun
+    /// Of all stages of a run that has numbers, the displacements of the wall's nodes [m]; element
+    /// 0 is stage 1, and in it node 1.
+    std::vector<std::vector<double>> spostamenti;
 };
 
 /// The numbers that the report of this project would show; no file is written or read.

@@ -19,14 +19,6 @@ using equilibrium::EsitoFase;
 using equilibrium::FaseEquilibrio;
 using project::DatiProgetto;
 
-bool mostrabile(const FaseEquilibrio& fase) {
-    const auto numero = [](double x) { return std::isfinite(project::inKilonewton(x)); };
-    for (const auto* v :
-         {&fase.momento, &fase.taglio, &fase.monte, &fase.valle, &fase.acqua, &fase.tiri})
-        if (!std::all_of(v->begin(), v->end(), numero)) return false;
-    return numero(fase.costante);
-}
-
 // Nothing of what is set in a stage without equilibrium means anything.
 FaseEquilibrio senzaNumeri(const FaseEquilibrio& f) {
     FaseEquilibrio fase;
@@ -70,6 +62,14 @@ FaseRaccontata dopo(const DatiProgetto& dati, int nSeg, int k, const FaseRaccont
 }
 
 }  // namespace
+
+bool mostrabile(const FaseEquilibrio& fase) {
+    const auto numero = [](double x) { return std::isfinite(project::inKilonewton(x)); };
+    for (const auto* v :
+         {&fase.momento, &fase.taglio, &fase.monte, &fase.valle, &fase.acqua, &fase.tiri})
+        if (!std::all_of(v->begin(), v->end(), numero)) return false;
+    return numero(fase.costante);
+}
 
 std::string FaseRaccontata::frase() const {
     if (perche) return safety::frase(*perche);

@@ -8,6 +8,10 @@
 
 namespace korven::safety {
 
+/// True if the numbers of a stage in equilibrium have values in the units of the report: one that
+/// has not is `nessunNumero`.
+[[nodiscard]] bool mostrabile(const equilibrium::FaseEquilibrio& fase);
+
 /// One stage as the equilibrium solution leaves it, with its verdict.
 struct FaseRaccontata {
     double scavo = 0;  ///< depth of the excavation [m]

@@ -1,0 +1,177 @@
+#include "studies/columns.hpp"
+
+#include <algorithm>
+#include <cmath>
+
+#include "project/program_numbers.hpp"
+
+namespace korven::studies {
+
+namespace {
+
+using equilibrium::Estremo;
+using project::kN;
+using R = RisultatoVariante;
+
+constexpr int tutti = -1;  // a column for each anchor
+
+struct Riga {
+    const char* nome;
+    double (*valore)(const R&, int);
+    const std::vector<std::string_view>& (*parole)() = nullptr;
+    bool riduzione = false, lunghezza = false;
+    int tirante = 0;
+};
+
+// Of a curve that is 0 all along the largest value is nowhere.
+double dove(const R& r, const Estremo& e) {
+    return r.sta() && e.fase > 0 ? project::arrotondato(e.z) : vuoto;
+}
+double fase(const R& r, const Estremo& e) { return r.sta() && e.fase > 0 ? e.fase : vuoto; }
+double intero(int numero) { return numero > 0 ? numero : vuoto; }
+
+// The design value over the resistance, as the tables of checks have it.
+double uso(const R& r, double progetto, double resistenza) {
+    return r.sta() && resistenza != 0 ? project::arrotondato(progetto / resistenza) : vuoto;
+}
+double usoTaglio(const R& r, double structure::ConfrontoTaglio::*resistenza) {
+    return r.taglio ? uso(r, r.taglio->Vsd, (*r.taglio).*resistenza) : vuoto;
+}
+
+double esito(const R& r) {
+    return r.lunghezzaMinima ? static_cast<double>(r.lunghezzaMinima->esito) : vuoto;
+}
+
+const std::vector<std::string_view>& paroleLunghezza() {
+    static const std::vector<std::string_view> parole = {"trovata", "sempre", "mai", "vincolata"};
+    return parole;
+}
+
+const Riga tabella[] = {
+    {"causa", [](const R& r, int) { return static_cast<double>(r.causa); }, paroleCausa},
+    {"motivo",
+     [](const R& r, int) {
+         return r.motivo == Motivo::nessuno ? vuoto : static_cast<double>(r.motivo);
+     },
+     paroleMotivo},
+    {"fase_caduta", [](const R& r, int) { return intero(r.faseCaduta); }},
+
+    {"spostamento_massimo_m",
+     [](const R& r, int) { return r.sta() ? std::fabs(r.estremi.spostamento.valore) : vuoto; }},
+    {"z_spostamento_m", [](const R& r, int) { return dove(r, r.estremi.spostamento); }},
+    {"fase_spostamento", [](const R& r, int) { return fase(r, r.estremi.spostamento); }},
+    {"momento_massimo_kNm",
+     [](const R& r, int) { return r.sta() ? kN(r.estremi.momentoMassimo.valore) : vuoto; }},
+    {"z_momento_massimo_m", [](const R& r, int) { return dove(r, r.estremi.momentoMassimo); }},
+    {"fase_momento_massimo", [](const R& r, int) { return fase(r, r.estremi.momentoMassimo); }},
+    {"momento_minimo_kNm",
+     [](const R& r, int) { return r.sta() ? kN(r.estremi.momentoMinimo.valore) : vuoto; }},
+    {"z_momento_minimo_m", [](const R& r, int) { return dove(r, r.estremi.momentoMinimo); }},
+    {"fase_momento_minimo", [](const R& r, int) { return fase(r, r.estremi.momentoMinimo); }},
+    {"taglio_massimo_kN",
+     [](const R& r, int) { return r.sta() ? kN(std::fabs(r.estremi.taglio.valore)) : vuoto; }},
+    {"z_taglio_m", [](const R& r, int) { return dove(r, r.estremi.taglio); }},
+    {"fase_taglio", [](const R& r, int) { return fase(r, r.estremi.taglio); }},
+
+    {"tiro_%_kN",
+     [](const R& r, int tirante) {
+         const auto j = static_cast<std::size_t>(tirante) - 1;
+         return r.sta() && j < r.tiri.size() ? kN(r.tiri[j]) : vuoto;
+     },
+     nullptr, false, false, tutti},
+
+    {"momento_resistente_positivo_kNm",
+     [](const R& r, int) { return r.flessione ? kN(r.flessione->mrPos) : vuoto; }},
+    {"momento_resistente_negativo_kNm",
+     [](const R& r, int) { return r.flessione ? kN(r.flessione->mrNeg) : vuoto; }},
+    {"uso_momento_positivo",
+     [](const R& r, int) {
+         return r.flessione ? uso(r, r.flessione->mdMax, r.flessione->mrPos) : vuoto;
+     }},
+    {"uso_momento_negativo",
+     [](const R& r, int) {
+         return r.flessione && r.flessione->negativo
+                    ? uso(r, r.flessione->mdMin, r.flessione->mrNeg)
+                    : vuoto;
+     }},
+    {"Vrd2_kN",
+     [](const R& r, int) { return r.taglio ? project::arrotondato(r.taglio->Vrd2) : vuoto; }},
+    {"Vrd3_kN",
+     [](const R& r, int) { return r.taglio ? project::arrotondato(r.taglio->Vrd3) : vuoto; }},
+    {"uso_bielle", [](const R& r, int) { return usoTaglio(r, &structure::ConfrontoTaglio::Vrd2); }},
+    {"uso_armatura_taglio",
+     [](const R& r, int) { return usoTaglio(r, &structure::ConfrontoTaglio::Vrd3); }},
+
+    {"passiva_usata",
+     [](const R& r, int) {
+         return r.sta() && r.passiva ? project::arrotondato(*r.passiva) : vuoto;
+     }},
+    {"fase_passiva", [](const R& r, int) { return r.sta() ? intero(r.fasePassiva) : vuoto; }},
+
+    {"riduzione",
+     [](const R& r, int) {
+         return r.riduzione && r.riduzione->F ? project::arrotondato(*r.riduzione->F) : vuoto;
+     },
+     nullptr, true},
+    {"riduzione_oltre_10",
+     [](const R& r, int) { return r.riduzione ? static_cast<double>(r.riduzione->oltre) : vuoto; },
+     nullptr, true},
+    {"fase_riduzione",
+     [](const R& r, int) { return r.riduzione ? intero(r.riduzione->fase) : vuoto; }, nullptr,
+     true},
+    {"lunghezza_minima_m",
+     [](const R& r, int) {
+         return r.lunghezzaMinima && r.lunghezzaMinima->lunghezza
+                    ? project::arrotondato(*r.lunghezzaMinima->lunghezza)
+                    : vuoto;
+     },
+     nullptr, false, true},
+    {"lunghezza_minima_esito", [](const R& r, int) { return esito(r); }, paroleLunghezza, false,
+     true},
+};
+
+Colonna colonna(const Riga& riga, int tirante) {
+    std::string nome = riga.nome;
+    if (tirante > 0) nome.replace(nome.find('%'), 1, std::to_string(tirante));
+    return {nome,           riga.parole != nullptr ? &riga.parole() : nullptr,
+            riga.valore,    tirante,
+            riga.riduzione, riga.lunghezza};
+}
+
+}  // namespace
+
+std::vector<Colonna> colonne(int tiranti, bool sicurezza) {
+    std::vector<Colonna> tutte;
+    for (const Riga& riga : tabella) {
+        if (!sicurezza && (riga.riduzione || riga.lunghezza)) continue;
+        if (riga.tirante == 0) tutte.push_back(colonna(riga, 0));
+        for (int j = 1; riga.tirante == tutti && j <= tiranti; ++j)
+            tutte.push_back(colonna(riga, j));
+    }
+    return tutte;
+}
+
+Scelta scegliColonne(const std::vector<std::string>& nomi, int tiranti, bool sicurezza) {
+    if (nomi.empty()) return {colonne(tiranti, sicurezza), {}};
+    Scelta scelta;
+    std::vector<Colonna> tutte = colonne(tiranti, true);
+    for (const std::string& nome : nomi)
+        if (std::none_of(tutte.begin(), tutte.end(), [&](const auto& c) { return c.nome == nome; }))
+            return {{}, nome};
+    for (Colonna& colonna : tutte)
+        if (colonna.nome == colonnaCausa ||
+            (sicurezza && (colonna.riduzione || colonna.lunghezza)) ||
+            std::find(nomi.begin(), nomi.end(), colonna.nome) != nomi.end())
+            scelta.colonne.push_back(std::move(colonna));
+    return scelta;
+}
+
+int tirantiPossibili(const project::DatiProgetto& dati,
+                     std::span<const project::CampoNominato> campi) {
+    for (const auto& [campo, riga] : campi)
+        if (campo->membro == project::Membro(&project::DatiProgetto::nTiranti))
+            return project::massimoTiranti;
+    return dati.nTiranti;
+}
+
+}  // namespace korven::studies

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <limits>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "project/field_table.hpp"
+#include "studies/result.hpp"
+
+// The one table of what a study tells of each variant. A name holds the unit and is that of the
+// same number in the JSON of `equilibrio` and `sicurezza`, where they have it.
+
+namespace korven::studies {
+
+/// The value of a column of a variant that has none.
+inline constexpr double vuoto = std::numeric_limits<double>::quiet_NaN();
+
+/// What a study tells of each variant: a number, or one of a few words.
+struct Colonna {
+    std::string nome;                                       ///< "momento_massimo_kNm"
+    const std::vector<std::string_view>* parole = nullptr;  ///< by number; nullptr: a number
+    /// The value in the unit of the name, rounded as it is printed; `vuoto` for none.
+    double (*valore)(const RisultatoVariante& variante, int tirante) = nullptr;
+    int tirante = 0;         ///< counted from 1, of a column that each anchor has
+    bool riduzione = false;  ///< needs the strength reductions
+    bool lunghezza = false;  ///< needs the search for the shortest wall
+};
+
+/// The columns of a study, in their order.
+/// @param tiranti    anchors that a variant may have
+/// @param sicurezza  with those that need strength reductions or the shortest wall
+[[nodiscard]] std::vector<Colonna> colonne(int tiranti, bool sicurezza);
+
+/// The column that is in every study, the first: what became of the variant, a word of
+/// `safety::Causa`.
+inline constexpr std::string_view colonnaCausa = "causa";
+
+/// Some columns of all that there are, in the order of the table; `colonnaCausa` is always one.
+/// @param nomi  empty: those without the ones that need more work
+/// @return the columns, or the first name that is none
+struct Scelta {
+    std::vector<Colonna> colonne;
+    std::string sconosciuto;
+};
+[[nodiscard]] Scelta scegliColonne(const std::vector<std::string>& nomi, int tiranti,
+                                   bool sicurezza);
+
+/// Anchors that a variant may have: those of the project, or all that fit where their number or
+/// that of a stage varies.
+[[nodiscard]] int tirantiPossibili(const project::DatiProgetto& dati,
+                                   std::span<const project::CampoNominato> campi);
+
+}  // namespace korven::studies
