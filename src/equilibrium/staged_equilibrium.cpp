@@ -29,9 +29,11 @@ bool numeri(const FaseEquilibrio& fase) {
 }  // namespace
 
 EquilibrioParete::EquilibrioParete(const DatiProgetto& dati, int nSeg)
-    : impostazione_(dati, nSeg, analysis::suoloStrati(dati)),
-      y_(problema().nodi.size()),
-      newton_(problema().n()) {
+    : EquilibrioParete(dati, nSeg, analysis::suoloStrati(dati)) {}
+
+EquilibrioParete::EquilibrioParete(const DatiProgetto& dati, int nSeg,
+                                   const analysis::SuoloStrati& strati)
+    : impostazione_(dati, nSeg, strati), y_(problema().nodi.size()), newton_(problema().n()) {
     const auto n = static_cast<std::size_t>(nSeg) + 1;
     for (auto* v : {&fase_.y, &fase_.momento, &fase_.taglio, &fase_.taglioSopra, &fase_.taglioSotto,
                     &fase_.monte, &fase_.valle, &fase_.acqua})

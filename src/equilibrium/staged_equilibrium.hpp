@@ -53,6 +53,9 @@ class EquilibrioParete {
     /// @param nSeg  segments of the wall, not fewer than 3: asserted. More than the specified run
     ///              can take are welcome
     EquilibrioParete(const project::DatiProgetto& dati, int nSeg);
+    /// @param strati  the layers of the project with other strengths
+    EquilibrioParete(const project::DatiProgetto& dati, int nSeg,
+                     const analysis::SuoloStrati& strati);
 
     /// Computes stage k, once stage k - 1 is computed; after the first nothing is allocated.
     /// @return valid until the next stage is computed

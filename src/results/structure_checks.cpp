@@ -30,9 +30,11 @@ std::optional<ConfrontoMomenti> verificaMomenti(const DatiRelazione& dati) {
     return verificaMomenti(dati.progetto.sezione, dati.chiusura);
 }
 
-std::optional<structure::ConfrontoTaglio> verificaAlTaglio(const project::Sezione& s, double Vmax) {
+std::optional<structure::ConfrontoTaglio> verificaAlTaglio(const project::Sezione& s, double Vmax,
+                                                           double fsAzioni) {
     if (!structure::sezioneDefinita(s) || !structure::staffePresenti(s)) return std::nullopt;
-    return structure::confrontaTaglio(structure::verificaTaglio(s, 0), s.armInterasse, Vmax);
+    return structure::confrontaTaglio(structure::verificaTaglio(s, 0), s.armInterasse, Vmax,
+                                      fsAzioni);
 }
 
 std::optional<structure::ConfrontoTaglio> verificaAlTaglio(const DatiRelazione& dati) {

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "results/report_data.hpp"
+#include "structure/partial_factors.hpp"
 #include "structure/shear_check.hpp"
 
 // The verdicts of the structural section, for the report and for everybody else who tells them.
@@ -38,9 +39,10 @@ struct ConfrontoMomenti {
 
 /// The shear check as the report shows it; nothing unless the section is defined and has stirrups.
 /// The axial force of the project does not reach it, though the bending check uses it.
-/// @param Vmax  largest shear in size [t/m]; the report's is that of the last stage
+/// @param Vmax      largest shear in size [t/m]; the report's is that of the last stage
+/// @param fsAzioni  partial factor of the actions; the report's is the fixed one
 [[nodiscard]] std::optional<structure::ConfrontoTaglio> verificaAlTaglio(
-    const project::Sezione& sezione, double Vmax);
+    const project::Sezione& sezione, double Vmax, double fsAzioni = structure::fsAzioniSezione);
 [[nodiscard]] std::optional<structure::ConfrontoTaglio> verificaAlTaglio(const DatiRelazione& dati);
 
 /// The sentence on a bending check, a key of the table of texts.

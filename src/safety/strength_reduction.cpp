@@ -68,22 +68,24 @@ class Ricerca {
 
 }  // namespace
 
+void riduci(const DatiProgetto& dati, double perAttrito, double perCoesione,
+            analysis::SuoloStrato& strato) {
+    const double beta = dati.inclinazioneMonte * analysis::pi / 180;
+    const double phi = std::atan(std::tan(strato.phi) / perAttrito);
+    const auto monte = analysis::coefficientiSpinta(dati.metodoSpinte, phi, beta);
+    const auto valle = analysis::coefficientiSpinta(dati.metodoSpinte, phi, 0);
+    strato.kam = monte.ka;
+    strato.kpm = monte.kp;
+    strato.motivoM = monte.motivo;
+    strato.kav = -valle.ka;
+    strato.kpv = -valle.kp;
+    strato.motivoV = valle.motivo;
+    strato.coesione = analysis::coesioneLimiti(strato.c / perCoesione, phi);
+}
+
 SuoloStrati stratiRidotti(const DatiProgetto& dati, const SuoloStrati& interi, double F) {
     SuoloStrati ridotti = interi;
-    const double beta = dati.inclinazioneMonte * analysis::pi / 180;
-    for (int j = 1; j <= dati.nStrati; ++j) {
-        analysis::SuoloStrato& strato = ridotti[j];
-        const double phi = std::atan(std::tan(strato.phi) / F);
-        const auto monte = analysis::coefficientiSpinta(dati.metodoSpinte, phi, beta);
-        const auto valle = analysis::coefficientiSpinta(dati.metodoSpinte, phi, 0);
-        strato.kam = monte.ka;
-        strato.kpm = monte.kp;
-        strato.motivoM = monte.motivo;
-        strato.kav = -valle.ka;
-        strato.kpv = -valle.kp;
-        strato.motivoV = valle.motivo;
-        strato.coesione = analysis::coesioneLimiti(strato.c / F, phi);
-    }
+    for (int j = 1; j <= dati.nStrati; ++j) riduci(dati, F, F, ridotti[j]);
     return ridotti;
 }
 

@@ -31,8 +31,13 @@ struct Riduzione {
     std::optional<equilibrium::Meccanismo> moto{};  ///< the movement that F cannot hold any more
 };
 
-/// The layers with tan phi and c divided by F, as far as active and passive limits go: at-rest
-/// coefficients and moduli stay those of the whole strength.
+/// Divides tan phi and c of a layer, as far as active and passive limits go: at-rest coefficients
+/// and moduli stay those of the whole strength.
+/// @param strato  of `analysis::suoloStrati(dati)`
+void riduci(const project::DatiProgetto& dati, double perAttrito, double perCoesione,
+            analysis::SuoloStrato& strato);
+
+/// The layers with tan phi and c divided by F, as `riduci` does it.
 [[nodiscard]] analysis::SuoloStrati stratiRidotti(const project::DatiProgetto& dati,
                                                   const analysis::SuoloStrati& interi, double F);
 

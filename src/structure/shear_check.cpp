@@ -57,12 +57,12 @@ TaglioResistente verificaTaglio(const project::Sezione& sezione, double Nsd) {
 }
 
 ConfrontoTaglio confrontaTaglio(const TaglioResistente& resistente, double armInterasse,
-                                double Vmax) {
+                                double Vmax, double fsAzioni) {
     return {.Vrd2 = perMetro(resistente.Vrd2, armInterasse),
             .Vrd3 = perMetro(resistente.Vrd3, armInterasse),
             .taglioMassimo = project::inKilonewton(Vmax),
-            .fsAzioni = fsAzioniSezione,
-            .Vsd = fsAzioniSezione * project::kilonewton * Vmax};
+            .fsAzioni = fsAzioni,
+            .Vsd = fsAzioni * project::kilonewton * Vmax};
 }
 
 std::vector<std::string_view> righeRotturaTaglio(const ConfrontoTaglio& c) {

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "project/section.hpp"
+#include "structure/partial_factors.hpp"
 
 namespace korven::structure {
 
@@ -74,8 +75,10 @@ struct ConfrontoTaglio {
 /// @param armInterasse pile spacing as stored [cm]
 /// @param Vmax         largest absolute shear of the last stage [t/m]. Earlier stages do not count,
 ///                     even where their shear is larger
+/// @param fsAzioni     partial factor of the actions; the report's is the fixed one
 [[nodiscard]] ConfrontoTaglio confrontaTaglio(const TaglioResistente& resistente,
-                                              double armInterasse, double Vmax);
+                                              double armInterasse, double Vmax,
+                                              double fsAzioni = fsAzioniSezione);
 
 /// The lines that a failed check puts into the report, in this order and as keys of the table of
 /// texts; none when the check passes.
