@@ -1,0 +1,105 @@
+#include "studies/plan/plan_file.hpp"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace korven::studies {
+namespace {
+
+using enum MotivoPiano;
+
+project::DatiProgetto dueStrati() {
+    project::DatiProgetto dati;
+    dati.nStrati = 2;
+    return dati;
+}
+
+PianoLetto leggi(std::string_view testo) { return leggiPiano(dueStrati(), testo); }
+
+std::vector<std::vector<double>> righe(const Piano& piano) {
+    std::vector<std::vector<double>> tutte;
+    for (std::uint64_t i = 0; i < piano.numero(); ++i) {
+        std::vector<double> v(piano.campi().size());
+        EXPECT_EQ(piano.valori(i, v), 0);
+        tutte.push_back(v);
+    }
+    return tutte;
+}
+
+using Righe = std::vector<std::vector<double>>;
+
+TEST(Piano, HasAColumnForEachFieldAndARowForEachVariant) {
+    const auto letto = leggi("lunghezzaParatia;phiStrato[2]\n8;31.5\n12.5;28\n");
+    ASSERT_TRUE(letto.piano);
+    EXPECT_TRUE(letto.difetti.empty());
+    EXPECT_EQ(letto.piano->campi()[1].riga, 2);
+    EXPECT_EQ(righe(*letto.piano), (Righe{{8, 31.5}, {12.5, 28}}));
+}
+
+TEST(Piano, MayHaveCommasQuotesAMarkAndUnitsInItsHead) {
+    const auto letto = leggi(
+        "\xEF\xBB\xBF\r\n\"lunghezzaParatia [m]\", \"phiStrato[2] [°]\"\r\n\r\n"
+        "\"8\" , 31.5\r\n 9,\"32\"");
+    ASSERT_TRUE(letto.piano);
+    EXPECT_EQ(righe(*letto.piano), (Righe{{8, 31.5}, {9, 32}}));
+}
+
+// Numbers that a division by ten would round stay as typed.
+TEST(Piano, KeepsNumbersAsTyped) {
+    const auto letto = leggi("coesione[1]\n0.3\n2.9\n");
+    ASSERT_TRUE(letto.piano);
+    EXPECT_EQ(righe(*letto.piano), (Righe{{0.3}, {2.9}}));
+}
+
+TEST(Piano, TakesCodesByNumberAndByName) {
+    const auto letto = leggi("vincoloPiede,metodoSpinte\n3,coulomb\ncerniera,1\n");
+    ASSERT_TRUE(letto.piano);
+    EXPECT_EQ(righe(*letto.piano), (Righe{{3, 1}, {2, 1}}));
+}
+
+struct Luogo {
+    MotivoPiano motivo;
+    long riga;
+    std::size_t colonna;
+};
+
+void haDifetti(std::string_view testo, const std::vector<Luogo>& attesi) {
+    const auto letto = leggi(testo);
+    EXPECT_FALSE(letto.piano) << testo;
+    ASSERT_EQ(letto.difetti.size(), attesi.size()) << testo;
+    for (std::size_t i = 0; i < attesi.size(); ++i) {
+        EXPECT_EQ(letto.difetti[i].motivo, attesi[i].motivo) << testo << i;
+        EXPECT_EQ(letto.difetti[i].riga, attesi[i].riga) << testo << i;
+        EXPECT_EQ(letto.difetti[i].colonna, attesi[i].colonna) << testo << i;
+    }
+}
+
+TEST(Piano, TellsEachFaultWithLineAndColumn) {
+    haDifetti("lunghezza;phiStrato[3];descrStrato[1]\n8;30;x\n",
+              {{campo, 1, 1}, {campo, 1, 2}, {testo, 1, 3}});
+    haDifetti("phiStrato[1];phiStrato[2];phiStrato[1]\n1;2;3\n", {{campoRipetuto, 1, 3}});
+    haDifetti("\nlunghezzaParatia;phiStrato[2]\n8;trenta\n\n101;28\n;30\n",
+              {{campo, 3, 2}, {campo, 5, 1}, {campo, 6, 1}});
+    haDifetti("lunghezzaParatia;phiStrato[2]\n8\n9;30;1\n10;30\n", {{celle, 2, 0}, {celle, 3, 0}});
+    haDifetti("", {{vuoto, 0, 0}});
+    haDifetti("lunghezzaParatia\n", {{vuoto, 0, 0}});
+    haDifetti("lunghezzaParatia\n\"8\n", {{csv, 0, 0}});
+    haDifetti("metodoSpinte\n2\n", {{campo, 2, 1}});
+}
+
+TEST(Piano, PointsAtDecimalCommas) {
+    const auto letto = leggi("lunghezzaParatia;phiStrato[2]\n8,5;30\n");
+    ASSERT_EQ(letto.difetti.size(), 1U);
+    ASSERT_TRUE(letto.difetti[0].rifiuto);
+    EXPECT_EQ(letto.difetti[0].rifiuto->motivo, project::MotivoRifiuto::virgola);
+}
+
+TEST(Piano, TellsTheFirstTwentyFaultsOfManyRows) {
+    std::string testo = "lunghezzaParatia\n";
+    for (int i = 0; i < 1000; ++i) testo += "no\n";
+    EXPECT_EQ(leggi(testo).difetti.size(), 20U);
+}
+
+}  // namespace
+}  // namespace korven::studies
