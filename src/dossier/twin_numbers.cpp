@@ -113,35 +113,15 @@ class Doppi {
     std::vector<NumeroDoppio> tutti_;
 };
 
-LatoVerifica momento(const ControlliSezione& c, bool positivo) {
-    const results::ConfrontoMomenti& m = *c.flessione;
-    if (positivo)
-        return {project::inKilonewton(m.mdMax), project::inKilonewton(m.mrPos), c.positivo,
-                m.fallitaPos()};
-    return {project::inKilonewton(m.mdMin), project::inKilonewton(m.mrNeg), c.negativo,
-            m.fallitaNeg()};
+const live::DoveVerifica& dove(const ControlliSezione& c, Verifica cosa) {
+    if (cosa == Verifica::momentoPositivo) return c.positivo;
+    return cosa == Verifica::momentoNegativo ? c.negativo : c.diTaglio;
 }
 
 std::optional<LatoVerifica> lato(const ControlliSezione& c, Verifica cosa) {
-    switch (cosa) {
-        case Verifica::momentoPositivo:
-            if (c.flessione) return momento(c, true);
-            break;
-        case Verifica::momentoNegativo:
-            if (c.flessione && c.flessione->negativo) return momento(c, false);
-            break;
-        case Verifica::bielle:
-            if (c.taglio)
-                return LatoVerifica{c.taglio->Vsd, c.taglio->Vrd2, c.diTaglio,
-                                    c.taglio->rotturaBielle()};
-            break;
-        case Verifica::armatura:
-            if (c.taglio)
-                return LatoVerifica{c.taglio->Vsd, c.taglio->Vrd3, c.diTaglio,
-                                    c.taglio->rotturaArmatura()};
-            break;
-    }
-    return std::nullopt;
+    const auto uso = results::uso({c.flessione, c.taglio}, cosa);
+    if (!uso) return std::nullopt;
+    return LatoVerifica{*uso, dove(c, cosa)};
 }
 
 // Of the largest numbers, which the checks take.
@@ -195,8 +175,7 @@ std::vector<VerificaDoppia> verificheDoppie(const PareteViva& parete,
     std::vector<VerificaDoppia> tutte;
     if (!controlli.conAzioni) return tutte;
     const ControlliSezione altri = live::controlliSezione(parete, margine);
-    for (const Verifica cosa : {Verifica::momentoPositivo, Verifica::momentoNegativo,
-                                Verifica::bielle, Verifica::armatura}) {
+    for (const Verifica cosa : results::tutteLeVerifiche) {
         VerificaDoppia v{.cosa = cosa, .equilibrio = lato(controlli, cosa), .relazione = {}};
         if (altri.dellaRelazione) v.relazione = lato(altri, cosa);
         if (v.equilibrio && v.relazione) v.perche = perche(parete, *margine, cosa);

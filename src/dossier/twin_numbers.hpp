@@ -6,6 +6,7 @@
 
 #include "live/section_checks.hpp"
 #include "live/wall.hpp"
+#include "results/section_uses.hpp"
 #include "safety/margin.hpp"
 
 // Numbers that both calculations have, the equilibrium and the specified run of which the report is
@@ -47,18 +48,11 @@ struct NumeroDoppio {
 [[nodiscard]] std::vector<NumeroDoppio> numeriDoppi(const live::PareteViva& parete,
                                                     const safety::Margine& margine);
 
-enum class Verifica { momentoPositivo, momentoNegativo, bielle, armatura };
+using results::Verifica;
 
-/// A check by the numbers of one of the two. Units: kN m and kN per metre of wall.
-struct LatoVerifica {
-    double progetto = 0, resistenza = 0;
+/// A check by the numbers of one of the two.
+struct LatoVerifica : results::Uso {
     live::DoveVerifica dove{};
-    bool fallita = false;
-
-    /// Of 1; nothing without a resistance.
-    [[nodiscard]] std::optional<double> uso() const {
-        return resistenza == 0 ? std::nullopt : std::optional(progetto / resistenza);
-    }
 };
 
 struct VerificaDoppia {

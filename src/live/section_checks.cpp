@@ -1,22 +1,16 @@
 #include "live/section_checks.hpp"
 
-#include <cmath>
+#include <utility>
 
 #include "analysis/run_closing.hpp"
+#include "results/section_uses.hpp"
 #include "structure/bending_resistance.hpp"
-#include "structure/offered_stiffness.hpp"
-#include "structure/section_validity.hpp"
 
 namespace korven::live {
 
 namespace {
 
 using results::ConfrontoMomenti;
-
-structure::MomentiResistenti resistenze(const PareteViva& parete) {
-    if (!sezioneCalcolabile(parete.dati.sezione)) return {};
-    return structure::resistenze(parete.dati.sezione, parete.dati.sforzoNormale);
-}
 
 analysis::ChiusuraRisultati chiusura(const structure::MomentiResistenti& MRd, double massimo,
                                      double minimo) {
@@ -43,22 +37,14 @@ ControlliSezione daRelazione(const results::NumeriRelazione& relazione) {
 ControlliSezione daEquilibrio(const PareteViva& parete) {
     const auto dove = [](const auto& e) { return DoveVerifica{e.fase, e.z, e.lato}; };
     const equilibrium::Estremi& e = parete.estremi;
-    const project::Sezione& sezione = parete.dati.sezione;
-    const auto sue = chiusura(resistenze(parete), e.momentoMassimo.valore, e.momentoMinimo.valore);
-    return {results::verificaMomenti(sezione, sue),
-            results::verificaAlTaglio(sezione, std::fabs(e.taglio.valore)),
-            dove(e.momentoMassimo),
-            dove(e.momentoMinimo),
-            dove(e.taglio),
-            false,
+    auto sui = results::controlli(parete.dati.sezione, results::momentiResistenti(parete.dati),
+                                  e.momentoMassimo.valore, e.momentoMinimo.valore, e.taglio.valore);
+    return {std::move(sui.flessione),     std::move(sui.taglio), dove(e.momentoMassimo),
+            dove(e.momentoMinimo),        dove(e.taglio),        false,
             parete.fasiInEquilibrio() > 0};
 }
 
 }  // namespace
-
-bool sezioneCalcolabile(const project::Sezione& sezione) {
-    return structure::sezioneValida(sezione) && !structure::troppiFerri(sezione);
-}
 
 ControlliSezione controlliSezione(const PareteViva& parete, const safety::Margine* margine) {
     const auto* sua = relazione(margine);
@@ -69,7 +55,7 @@ std::vector<FaseNelDominio> fasiNelDominio(const PareteViva& parete,
                                            const safety::Margine* margine) {
     std::vector<FaseNelDominio> fasi;
     if (!sezioneCalcolabile(parete.dati.sezione)) return fasi;
-    const auto MRd = resistenze(parete);
+    const auto MRd = results::momentiResistenti(parete.dati);
     const double Nd = structure::sforzoDiProgetto(parete.dati.sforzoNormale);
     const auto aggiungi = [&](int k, double massimo, double minimo) {
         fasi.push_back({k, Nd, results::confrontaMomenti(chiusura(MRd, massimo, minimo))});

@@ -6,6 +6,7 @@
 #include "live/wall.hpp"
 #include "results/structure_checks.hpp"
 #include "safety/margin.hpp"
+#include "structure/offered_stiffness.hpp"
 
 namespace korven::live {
 
@@ -45,7 +46,6 @@ struct FaseNelDominio {
 [[nodiscard]] std::vector<FaseNelDominio> fasiNelDominio(const PareteViva& parete,
                                                          const safety::Margine* margine);
 
-/// True for a section that stiffness and resistances can be computed of.
-[[nodiscard]] bool sezioneCalcolabile(const project::Sezione& sezione);
+using structure::sezioneCalcolabile;
 
 }  // namespace korven::live

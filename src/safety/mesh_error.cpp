@@ -9,6 +9,8 @@ namespace {
 
 using equilibrium::Estremi;
 
+constexpr double arrotondamento = 1e-9;  // of a value
+
 std::optional<Estremi> involuppo(const project::DatiProgetto& dati, int nSeg) {
     const auto fasi = equilibrium::calcolaEquilibrio(dati, nSeg);
     if (fasi.empty() || fasi.back().esito != equilibrium::EsitoFase::equilibrio)
@@ -17,7 +19,6 @@ std::optional<Estremi> involuppo(const project::DatiProgetto& dati, int nSeg) {
 }
 
 Andamento andamento(double a, double b, double c) {
-    constexpr double arrotondamento = 1e-9;  // of the value
     if (std::max(std::fabs(a - b), std::fabs(b - c)) <= arrotondamento * c)
         return Andamento::uguali;
     const double rapporto = (a - b) / (b - c);  // 2 to the order
@@ -33,6 +34,28 @@ ErroreGrandezza errore(double semplice, double doppia, double quadrupla) {
     return e;
 }
 
+// Of the equilibrium, which has no report: the shear is the largest of all stages.
+std::vector<UsoMaglia> usi(const project::DatiProgetto& dati,
+                           const std::array<const Estremi*, 3>& maglie) {
+    const auto MRd = results::momentiResistenti(dati);
+    std::array<results::Controlli, 3> controlli;
+    for (std::size_t i = 0; i < maglie.size(); ++i)
+        controlli[i] =
+            results::controlli(dati.sezione, MRd, maglie[i]->momentoMassimo.valore,
+                               maglie[i]->momentoMinimo.valore, maglie[i]->taglio.valore);
+    std::vector<UsoMaglia> tutti;
+    for (const results::Verifica cosa : results::tutteLeVerifiche) {
+        UsoMaglia u{.cosa = cosa};
+        bool usata = false;
+        for (std::size_t i = 0; i < maglie.size(); ++i) {
+            u.maglie[i] = results::uso(controlli[i], cosa);
+            usata = usata || (u.maglie[i] && u.maglie[i]->uso().value_or(0) > arrotondamento);
+        }
+        if (usata) tutti.push_back(u);
+    }
+    return tutti;
+}
+
 }  // namespace
 
 std::optional<ErroreMaglia> erroreMaglia(const project::DatiProgetto& dati, int nSeg,
@@ -44,9 +67,12 @@ std::optional<ErroreMaglia> erroreMaglia(const project::DatiProgetto& dati, int 
         return errore(valore(estremi), valore(*doppia), valore(*quadrupla));
     };
     return ErroreMaglia{di([](const Estremi& e) { return e.momento().valore; }),
+                        di([](const Estremi& e) { return e.momentoMassimo.valore; }),
+                        di([](const Estremi& e) { return e.momentoMinimo.valore; }),
                         di([](const Estremi& e) { return e.taglio.valore; }),
                         di([](const Estremi& e) { return e.spostamento.valore; }),
-                        di([](const Estremi& e) { return e.tiro.valore; })};
+                        di([](const Estremi& e) { return e.tiro.valore; }),
+                        usi(dati, {&estremi, &*doppia, &*quadrupla})};
 }
 
 }  // namespace korven::safety

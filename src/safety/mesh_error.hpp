@@ -1,9 +1,12 @@
 #pragma once
 
+#include <array>
 #include <optional>
+#include <vector>
 
 #include "equilibrium/extremes.hpp"
 #include "project/project_data.hpp"
+#include "results/section_uses.hpp"
 
 namespace korven::safety {
 
@@ -27,16 +30,28 @@ struct ErroreGrandezza {
     std::optional<double> ordine{};
 };
 
+/// A check of the section with the largest numbers of each mesh, all stages together.
+struct UsoMaglia {
+    results::Verifica cosa = results::Verifica::momentoPositivo;
+    /// With the project's mesh, twice and four times as many segments; nothing where no such
+    /// moment acts.
+    std::array<std::optional<results::Uso>, 3> maglie{};
+};
+
 /// The error that the mesh leaves in the envelopes of all stages.
 struct ErroreMaglia {
-    ErroreGrandezza momento;      ///< [t m]
-    ErroreGrandezza taglio;       ///< [t]
-    ErroreGrandezza spostamento;  ///< [m]
-    ErroreGrandezza tiro;         ///< [t]
+    ErroreGrandezza momento;          ///< the larger in size of the next two [t m]
+    ErroreGrandezza momentoPositivo;  ///< largest [t m]
+    ErroreGrandezza momentoNegativo;  ///< smallest, in size [t m]
+    ErroreGrandezza taglio;           ///< [t]
+    ErroreGrandezza spostamento;      ///< [m]
+    ErroreGrandezza tiro;             ///< [t]
+    /// The checks that some mesh has a use of; none without a section.
+    std::vector<UsoMaglia> usi{};
 };
 
 /// Follows the wall at `nSeg`, twice and four times as many segments.
-/// @param estremi  of all stages at `nSeg`
+/// @param estremi  of all stages at `nSeg`, of which the uses with this mesh are too
 /// @return nothing if a stage of a finer mesh has no equilibrium
 [[nodiscard]] std::optional<ErroreMaglia> erroreMaglia(const project::DatiProgetto& dati, int nSeg,
                                                        const equilibrium::Estremi& estremi);

@@ -15,6 +15,10 @@ bool troppiFerri(const project::Sezione& sezione) {
            std::floor(sezione.armNumLong) > massimoFerri;
 }
 
+bool sezioneCalcolabile(const project::Sezione& sezione) {
+    return sezioneValida(sezione) && !troppiFerri(sezione);
+}
+
 std::optional<double> rigidezzaOfferta(const project::Sezione& sezione) {
     if (!sezioneValida(sezione)) return std::nullopt;
     const double EJ = std::trunc(calcolaEJ(sezione) / project::newtonMillimetri2);

@@ -5,10 +5,12 @@
 #include <utility>
 
 #include "base/code_page.hpp"
+#include "base/colon.hpp"
 #include "base/filled_text.hpp"
 #include "base/translated_texts.hpp"
 #include "review/limits.hpp"
 #include "safety/margin_words.hpp"
+#include "safety/mesh_words.hpp"
 #include "safety/words.hpp"
 #include "tables/check_table.hpp"
 #include "tables/quantities.hpp"
@@ -76,9 +78,23 @@ void riga(int fase, const safety::ConfrontoTiro& tiro, const Cella& manca, Prosp
 void riga(const project::Unita& u, const char* cosa, Cella (*valore)(double),
           const safety::ErroreGrandezza& e, Prospetto& p) {
     p.righe.push_back(
-        {parola(traduttore(cosa) + " " + traParentesi(u)), valore(e.valore), valore(e.fine),
-         e.quota ? cella(*e.quota, 1, unita::percento) : dove(0, 0),
+        {parola(base::conMaiuscola(traduttore(cosa)) + " " + traParentesi(u)), valore(e.valore),
+         valore(e.fine), e.quota ? cella(*e.quota, 1, unita::percento) : dove(0, 0),
          e.ordine ? cella(*e.ordine, 1, unita::nessuna) : senza(percheSenzaOrdine(e.andamento))});
+}
+
+// A share has no order of its own: that of its moment or shear stands above.
+void riga(const safety::UsoMaglia& u, Prospetto& p) {
+    const auto valore = [](const std::optional<results::Uso>& uso) {
+        return uso ? tables::uso(uso->progetto, uso->resistenza)
+                   : senza(traduttore("Nessun momento negativo agisce."));
+    };
+    const Cella altrove =
+        senza(traduttore("L'errore e il suo ordine sono quelli del momento o del taglio."));
+    p.righe.push_back(
+        {parola(traduttore("Sfruttamento") + base::duePunti() + traduttore(safety::nome(u.cosa)) +
+                " " + traParentesi(unita::percento)),
+         valore(u.maglie.front()), valore(u.maglie.back()), altrove, altrove});
 }
 
 // Sentences begin with a capital; the same words stand within lines elsewhere.
@@ -172,10 +188,14 @@ Prospetto prospettoMaglia(const Margine& margine) {
         return p;
     }
     const safety::ErroreMaglia& e = *margine.maglia;
-    riga(unita::momentoAlMetro, "Momento", momento, e.momento, p);
+    riga(unita::momentoAlMetro, "momento positivo", momento, e.momentoPositivo, p);
+    riga(unita::momentoAlMetro, "momento negativo", momento, e.momentoNegativo, p);
     riga(unita::forzaAlMetro, "Taglio", forza, e.taglio, p);
     riga(unita::spostamentoFine, "Spostamento", spostamento, e.spostamento, p);
     riga(unita::forzaAlMetro, "Tiro", forza, e.tiro, p);
+    for (const safety::UsoMaglia& u : e.usi) riga(u, p);
+    for (const safety::AvvisoMaglia& avviso : safety::avvisiMaglia(margine))
+        p.note.push_back(avviso.testo);
     return p;
 }
 

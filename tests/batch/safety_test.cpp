@@ -70,6 +70,14 @@ TEST_F(Sicurezza, HasTheFactorOfEachStageAndWritesNoResults) {
         EXPECT_GT(s["errore_maglia"][nome], 0) << nome;
         EXPECT_LT(s["errore_maglia"][nome], 0.1) << nome;
     }
+    EXPECT_EQ(s["errore_maglia"]["momento"], s["errore_maglia"]["momento_positivo"]);
+    ASSERT_EQ(s["usi_maglia"].size(), 2u);
+    EXPECT_EQ(s["usi_maglia"][0]["verifica"], "momento_positivo");
+    EXPECT_EQ(s["usi_maglia"][1]["verifica"], "momento_negativo");
+    for (const Json& verifica : s["usi_maglia"])
+        for (int maglia = 0; maglia < 3; ++maglia)
+            EXPECT_EQ(verifica["uso"][maglia].get<double>() < 1,
+                      verifica["verificata"][maglia].get<bool>());
     EXPECT_EQ(nomi(), "muro.kvd ");
 }
 

@@ -82,11 +82,11 @@ TEST(VerificheDoppieTest, HoldTheChecksOfBothAndTheOneThatGoverns) {
 
 TEST(VerificheDoppieTest, GovernByAFailureOfEither) {
     VerificaDoppia v;
-    v.equilibrio = LatoVerifica{90, 100, {}, false};
-    v.relazione = LatoVerifica{101, 100, {}, true};
+    v.equilibrio = LatoVerifica{{90, 100, false}, {}};
+    v.relazione = LatoVerifica{{101, 100, true}, {}};
     EXPECT_TRUE(v.fallita());
     EXPECT_EQ(&v.decisiva(), &*v.relazione);
-    v.equilibrio = LatoVerifica{102, 100, {}, true};
+    v.equilibrio = LatoVerifica{{102, 100, true}, {}};
     EXPECT_EQ(&v.decisiva(), &*v.equilibrio);
     v.relazione.reset();
     EXPECT_EQ(&v.decisiva(), &*v.equilibrio);

@@ -2,9 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 
+#include "structure/bending_resistance.hpp"
+#include "structure/partial_factors.hpp"
 #include "support/sample_projects.hpp"
+#include "support/sample_sections.hpp"
 
 namespace korven::safety {
 namespace {
@@ -67,6 +71,44 @@ TEST(ErroreMaglia, HasAnOrderOnlyWhereTheMeshesCloseInFromOneSide) {
     }
     EXPECT_GT(lontane, 0);
     EXPECT_GT(altre, 0);
+}
+
+// The same moment at every mesh, 125 kN m: so are its uses, times the factor of the actions and
+// over the resistance. No moment of the other sign acts, and a diaphragm has no shear check.
+TEST(ErroreMaglia, HasTheUsesOfTheSectionWithEachMesh) {
+    auto dati = test::muroNudo();
+    dati.vincoloTesta = dati.vincoloPiede = 2;
+    dati.pressioneOrizz = 1;
+    dati.sezione = structure::diaframmaSimmetrico();
+    const auto errore =
+        erroreMaglia(dati, 10, equilibrium::estremi(calcolaEquilibrio(dati, 10), 1));
+    ASSERT_TRUE(errore);
+    ASSERT_EQ(errore->usi.size(), 1U);
+    EXPECT_EQ(errore->usi[0].cosa, results::Verifica::momentoPositivo);
+    const double MRd = -structure::resistenze(dati.sezione, 0)[1] / 1e6;  // kN m
+    for (const auto& uso : errore->usi[0].maglie) {
+        ASSERT_TRUE(uso);
+        EXPECT_NEAR(uso->progetto, structure::fsAzioniSezione * 125, 1e-6);
+        EXPECT_NEAR(*uso->uso(), structure::fsAzioniSezione * 125 / MRd, 1e-9);
+    }
+    EXPECT_NEAR(errore->momentoPositivo.valore, 12.5, 1e-9);
+    EXPECT_EQ(errore->momentoNegativo.valore, 0);
+}
+
+TEST(ErroreMaglia, TellsBothSignsOfTheMoment) {
+    const DatiProgetto dati = test::progettoSemplice();
+    const auto estremi =
+        equilibrium::estremi(calcolaEquilibrio(dati, 40), dati.lunghezzaParatia / 40);
+    const auto fini =
+        equilibrium::estremi(calcolaEquilibrio(dati, 160), dati.lunghezzaParatia / 160);
+    const auto e = erroreMaglia(dati, 40, estremi);
+    ASSERT_TRUE(e);
+    EXPECT_EQ(e->momentoPositivo.valore, estremi.momentoMassimo.valore);
+    EXPECT_EQ(e->momentoPositivo.fine, fini.momentoMassimo.valore);
+    EXPECT_EQ(e->momentoNegativo.valore, -estremi.momentoMinimo.valore);
+    EXPECT_EQ(e->momentoNegativo.fine, -fini.momentoMinimo.valore);
+    EXPECT_EQ(e->momento.fine, std::max(e->momentoPositivo.fine, e->momentoNegativo.fine));
+    EXPECT_TRUE(e->usi.empty());  // it has no section
 }
 
 TEST(ErroreMaglia, IsNoneWhereAFinerMeshDoesNotStand) {

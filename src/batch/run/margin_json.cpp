@@ -4,6 +4,7 @@
 #include "batch/run/json_numbers.hpp"
 #include "batch/run/margin_outcome.hpp"
 #include "safety/margin_words.hpp"
+#include "safety/mesh_words.hpp"
 #include "safety/words.hpp"
 
 namespace korven::batch {
@@ -89,6 +90,8 @@ Json erroreMaglia(const Margine& margine) {
     if (!margine.maglia) return nullptr;
     const safety::ErroreMaglia& e = *margine.maglia;
     return {{"momento", quota(e.momento.quota)},
+            {"momento_positivo", quota(e.momentoPositivo.quota)},
+            {"momento_negativo", quota(e.momentoNegativo.quota)},
             {"taglio", quota(e.taglio.quota)},
             {"spostamento", quota(e.spostamento.quota)},
             {"tiro", quota(e.tiro.quota)}};
@@ -98,9 +101,46 @@ Json ordineMaglia(const Margine& margine) {
     if (!margine.maglia) return nullptr;
     const safety::ErroreMaglia& e = *margine.maglia;
     return {{"momento", quota(e.momento.ordine)},
+            {"momento_positivo", quota(e.momentoPositivo.ordine)},
+            {"momento_negativo", quota(e.momentoNegativo.ordine)},
             {"taglio", quota(e.taglio.ordine)},
             {"spostamento", quota(e.spostamento.ordine)},
             {"tiro", quota(e.tiro.ordine)}};
+}
+
+const char* parola(results::Verifica verifica) {
+    switch (verifica) {
+        case results::Verifica::momentoPositivo:
+            return "momento_positivo";
+        case results::Verifica::momentoNegativo:
+            return "momento_negativo";
+        case results::Verifica::bielle:
+            return "bielle";
+        case results::Verifica::armatura:
+            break;
+    }
+    return "armatura";
+}
+
+Json usiMaglia(const Margine& margine) {
+    if (!margine.maglia) return nullptr;
+    Json tutti = Json::array();
+    for (const safety::UsoMaglia& u : margine.maglia->usi) {
+        Json usi = Json::array(), verificata = Json::array();
+        for (const std::optional<results::Uso>& uso : u.maglie) {
+            usi.push_back(uso ? quota(uso->uso()) : Json(nullptr));
+            verificata.push_back(uso ? Json(!uso->fallita) : Json(nullptr));
+        }
+        tutti.push_back({{"verifica", parola(u.cosa)}, {"uso", usi}, {"verificata", verificata}});
+    }
+    return tutti;
+}
+
+Json avvisi(const Margine& margine) {
+    Json tutti = Json::array();
+    for (const safety::AvvisoMaglia& a : safety::avvisiMaglia(margine))
+        tutti.push_back({{"verdetto", a.verdetto}, {"testo", a.testo}});
+    return tutti;
 }
 
 const char* esitoLunghezza(EsitoLunghezza esito) {
@@ -135,6 +175,8 @@ Json jsonMargine(const Margine& margine) {
                                            : Json(nullptr)},
             {"errore_maglia", erroreMaglia(margine)},
             {"ordine_maglia", ordineMaglia(margine)},
+            {"usi_maglia", usiMaglia(margine)},
+            {"avvisi_maglia", avvisi(margine)},
             {"momento_kNm", confronto(margine.momento, margine.haNumeri())},
             {"taglio_kN", confronto(margine.taglio, margine.haNumeri())}};
 }

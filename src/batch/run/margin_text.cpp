@@ -4,6 +4,7 @@
 #include "project/shown_number.hpp"
 #include "project/units.hpp"
 #include "safety/margin_words.hpp"
+#include "safety/mesh_words.hpp"
 
 namespace korven::batch {
 
@@ -79,6 +80,8 @@ std::string testoMargine(const Margine& margine) {
     for (const std::string& riga :
          {paroleDecisiva(margine), paroleLunghezza(margine), paroleMaglia(margine)})
         if (!riga.empty()) testo += riga + '\n';
+    if (const std::string usi = paroleUsiMaglia(margine); !usi.empty()) testo += usi + '\n';
+    for (const safety::AvvisoMaglia& avviso : avvisiMaglia(margine)) testo += avviso.testo + '\n';
     if (margine.haNumeri()) testo += tabellaStatica(margine);
     for (const std::string& riga : {paroleRelazione(margine), paroleMetodo(margine)})
         if (!riga.empty()) testo += riga + '\n';

@@ -8,6 +8,7 @@
 #include "project/shown_number.hpp"
 #include "report/annex/chapters.hpp"
 #include "report/annex/columns.hpp"
+#include "report/annex/mesh_tables.hpp"
 #include "report/annex/verdict_table.hpp"
 #include "tables/quantities.hpp"
 #include "tables/result_table.hpp"
@@ -90,6 +91,7 @@ void capitoloCopertina(const Contesto& contesto, Blocchi& blocchi) {
             blocchi.emplace_back(Paragrafo{f.scritti.titoli[i], Stile::rilievo});
     blocchi.emplace_back(document::Tavola{identita(f)});
     blocchi.emplace_back(document::Tavola{prospettoVerdetti(f)});
+    if (f.margine) avvisaMaglia(*f.margine, blocchi);
     blocchi.emplace_back(Paragrafo{
         traduttore(
             "I numeri delle fasi sono quelli della soluzione di equilibrio: in ogni nodo le forze "

@@ -1,13 +1,11 @@
 #include <string>
 #include <utility>
 
-#include "base/code_page.hpp"
-#include "base/colon.hpp"
 #include "base/filled_text.hpp"
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
 #include "report/annex/chapters.hpp"
-#include "report/annex/columns.hpp"
+#include "report/annex/mesh_tables.hpp"
 #include "report/annex/table_pieces.hpp"
 #include "report/annex/twin_words.hpp"
 #include "tables/margin_table.hpp"
@@ -40,42 +38,6 @@ tables::Prospetto statica(const dossier::Fascicolo& f) {
     return p;
 }
 
-// The three meshes, so that error and order can be followed; notes by name say which has none.
-tables::Prospetto maglia(const Margine& margine) {
-    tables::Prospetto p = tables::prospettoMaglia(margine);
-    if (!margine.maglia) return p;
-    const safety::ErroreMaglia& e = *margine.maglia;
-    using tables::Cella;
-    const auto testa = [&](int volte) {
-        auto c = numeri("%1 segmenti");
-        c.titolo = riempito(c.titolo, {std::to_string(volte * margine.nSeg)});
-        return c;
-    };
-    p.colonne = {colonna("Massimi"),
-                 testa(1),
-                 testa(2),
-                 testa(4),
-                 numeri(project::unita::percento, "Errore"),
-                 numeri("Ordine")};
-    p.righe.clear();
-    const auto riga = [&](const project::Unita& u, const char* cosa, Cella (*cella)(double),
-                          const safety::ErroreGrandezza& g) {
-        if (g.fine == 0 && g.valore == 0) return;
-        p.righe.push_back(
-            {conUnita(u, cosa), cella(g.valore), cella(g.doppia), cella(g.fine),
-             g.quota ? tables::cella(*g.quota, 1, project::unita::percento) : Cella{},
-             g.ordine ? tables::cella(*g.ordine, 1, project::unita::nessuna) : Cella{}});
-        if (!g.ordine)
-            p.note.push_back(base::conDuePunti(
-                traduttore(cosa), base::conMinuscola(tables::percheSenzaOrdine(g.andamento))));
-    };
-    riga(project::unita::momentoAlMetro, "Momento", tables::momento, e.momento);
-    riga(project::unita::forzaAlMetro, "Taglio", tables::forza, e.taglio);
-    riga(project::unita::spostamentoFine, "Spostamento", tables::spostamento, e.spostamento);
-    riga(project::unita::forzaAlMetro, "Tiro", tables::forza, e.tiro);
-    return p;
-}
-
 void verdetto(const Margine& margine, Blocchi& blocchi) {
     const auto* decisiva = margine.decisiva();
     const bool grave = !margine.sta() || (decisiva != nullptr && decisiva->riduzione.F &&
@@ -92,7 +54,8 @@ void margineDiFase(const Margine& margine, Blocchi& blocchi) {
                      "tutta la sua resistenza. F non riduce tiranti e vincoli: il calcolo "
                      "li prende con resistenza senza limite. Passiva: la pressione del "
                      "terreno davanti alla paratia sotto lo scavo, in parte della sua "
-                     "resistenza passiva."),
+                     "resistenza passiva. Al limite: le profondità in cui la usa tutta. Piede: il "
+                     "suo spostamento, positivo verso lo scavo."),
           tables::prospettoMargine(margine), blocchi);
     paragrafo(
         riempito(traduttore("Sotto %1 il programma dice F un pericolo: è %3 dell'insieme M2 "
@@ -122,7 +85,9 @@ void capitoloMargine(const Contesto& contesto, Blocchi& blocchi) {
                      "(b - c)), la potenza del passo con cui l'errore diminuisce; 2 è quello delle "
                      "differenze finite. Scavo, falda, strati e tiranti contano dal nodo più "
                      "vicino, che ogni maglia ha altrove: l'ordine vero può esserne coperto."),
-          maglia(margine), blocchi);
+          prospettoErroreMaglia(margine), blocchi);
+    if (auto usi = prospettoUsiMaglia(margine); !usi.righe.empty()) tavola(std::move(usi), blocchi);
+    avvisaMaglia(margine, blocchi);
     parte(traduttore("I massimi dell'equilibrio dei nodi accanto a quelli della relazione, fase "
                      "per fase; la relazione tronca i numeri alla seconda cifra."),
           statica(f), blocchi);

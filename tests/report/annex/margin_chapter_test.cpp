@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 
+#include "safety/mesh_words.hpp"
 #include "support/chapter_bench.hpp"
 #include "support/sample_projects.hpp"
+#include "support/sample_sections.hpp"
 #include "tables/margin_table.hpp"
 
 namespace korven::report {
@@ -20,7 +22,7 @@ TEST(CapitoloMargine, HoldsTheMarginOfTheDossier) {
     const safety::Margine& m = *c.fascicolo->margine;
     EXPECT_EQ(tavole[0].prospetto.righe, tables::prospettoMargine(m).righe);
     EXPECT_EQ(test::numero(tavole[0].prospetto, 1, 2), *m.fasi[1].riduzione.F);
-    const safety::ErroreGrandezza& M = m.maglia->momento;
+    const safety::ErroreGrandezza& M = m.maglia->momentoPositivo;
     EXPECT_EQ(test::numero(tavole[1].prospetto, 0, 1), 10 * M.valore);
     EXPECT_EQ(test::numero(tavole[1].prospetto, 0, 2), 10 * M.doppia);
     EXPECT_EQ(test::numero(tavole[1].prospetto, 0, 3), 10 * M.fine);
@@ -55,11 +57,31 @@ TEST(CapitoloMargine, NamesTheRowWithoutAnOrder) {
     std::size_t senza = 0;
     for (const auto& riga : p.righe)
         if (!riga[5].numero) {
-            const std::string nome = riga[0].testo.substr(0, riga[0].testo.find(' '));
+            const std::string nome = riga[0].testo.substr(0, riga[0].testo.find(" ["));
             EXPECT_EQ(p.note.at(senza).substr(0, nome.size() + 1), nome + ":");
             ++senza;
         }
     EXPECT_EQ(p.note.size(), senza);
+}
+
+// Each use with the three meshes, and the paragraph that warns of what grows.
+TEST(CapitoloMargine, TellsTheUsesOfTheSectionWithFinerMeshes) {
+    auto dati = test::progettoSemplice();
+    dati.sezione = structure::diaframmaSimmetrico();
+    dossier::Fascicolo f = *contesto(dati).fascicolo;
+    f.margine->maglia->usi[0].maglie[2]->progetto *= 1.2;
+    const Contesto c{std::make_shared<const dossier::Fascicolo>(f), {}};
+    const auto b = margine(c);
+    const auto p = test::tavola(b, "Sfruttamenti con maglie più fini");
+    ASSERT_EQ(p.righe.size(), f.margine->maglia->usi.size());
+    for (std::size_t i = 0; i < p.righe.size(); ++i)
+        for (std::size_t maglia = 0; maglia < 3; ++maglia)
+            EXPECT_NEAR(test::numero(p, i, 1 + maglia),
+                        100 * *f.margine->maglia->usi[i].maglie[maglia]->uso(), 1e-9);
+    const auto avvisi = safety::avvisiMaglia(*f.margine);
+    ASSERT_EQ(avvisi.size(), 1U);
+    for (const auto& capitolo : {capitoloMargine, capitoloCopertina})
+        EXPECT_NE(testo(test::blocchi(capitolo, c)).find(avvisi[0].testo), std::string::npos);
 }
 
 // The heading has the title of its table.

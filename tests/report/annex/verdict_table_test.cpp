@@ -31,7 +31,7 @@ dossier::Fascicolo conVerifica(dossier::LatoVerifica equilibrio, dossier::LatoVe
 
 TEST(ProspettoVerdetti, TellsBothUsesAndIsOfTheWorse) {
     const auto p =
-        prospettoVerdetti(conVerifica({98, 100, {2, 5}, false}, {101, 100, {2, 5}, true}));
+        prospettoVerdetti(conVerifica({{98, 100, false}, {2, 5}}, {{101, 100, true}, {2, 5}}));
     const auto flessione = riga(p, "Flessione");
     EXPECT_EQ(flessione[1].testo, "NON verificata");
     EXPECT_EQ(flessione[2].testo,
@@ -41,7 +41,7 @@ TEST(ProspettoVerdetti, TellsBothUsesAndIsOfTheWorse) {
 
 TEST(ProspettoVerdetti, TellsOneUseWhereBothAreTheSame) {
     const auto p =
-        prospettoVerdetti(conVerifica({98, 100, {2, 5}, false}, {98.001, 100, {2, 5}, false}));
+        prospettoVerdetti(conVerifica({{98, 100, false}, {2, 5}}, {{98.001, 100, false}, {2, 5}}));
     EXPECT_EQ(riga(p, "Flessione")[1].testo, "verificata");
     EXPECT_EQ(riga(p, "Equilibrio di tutte le fasi")[1].testo, "verificato");
     EXPECT_EQ(riga(p, "Flessione")[2].testo,
