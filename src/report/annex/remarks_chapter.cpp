@@ -68,6 +68,13 @@ void capitoloOsservazioni(const Contesto& contesto, Blocchi& blocchi) {
                 "Il codice è il nome dell'osservazione nel programma, uguale in ogni lingua."),
             {std::to_string(tutte.size())}),
         {}});
+    if (contesto.fascicolo->conRelazione())
+        blocchi.emplace_back(Paragrafo{
+            traduttore("Le azioni e gli sfruttamenti delle osservazioni sulle verifiche della "
+                       "sezione sono numeri della relazione. F, resistenza passiva, errore di "
+                       "maglia e movimenti sono della soluzione di equilibrio; dove "
+                       "un'osservazione mette i due a confronto, li nomina."),
+            document::Stile::nota});
     for (const review::Peso peso :
          {review::Peso::impedisce, review::Peso::pericolo, review::Peso::daVedere})
         if (review::quante(tutte, peso) > 0)
