@@ -113,12 +113,14 @@ void flessione(const Fascicolo& f, Blocchi& blocchi) {
                 cls ? "Stato limite ultimo di un metro di paratia, diviso in %1 strisce: sezioni "
                       "piane; calcestruzzo senza trazione, con parabola e rettangolo fino a 0.85 "
                       "fcd; acciaio elastico e poi plastico. La resistenza è il momento a cui una "
-                      "faccia si accorcia di 0.0035 o l'acciaio si allunga di 0.010 (CEN, ENV "
+                      "faccia si accorcia di %2 o l'acciaio si allunga di %3 (CEN, ENV "
                       "1992-1-1, 1991, 4.3.1)."
                     : "Stato limite ultimo di un metro di paratia, diviso in %1 strisce: sezioni "
                       "piane; acciaio elastico e poi plastico. La resistenza è il momento a cui "
-                      "una faccia si accorcia di 0.0035 o si allunga di 0.010."),
-            {std::to_string(structure::nStrisce)}),
+                      "una faccia si accorcia di %2 o si allunga di %3."),
+            {std::to_string(structure::nStrisce),
+             base::testoDecimali(-structure::accorciamentoLimite, 4),
+             base::testoDecimali(structure::allungamentoLimite, 3)}),
         blocchi);
     tavola(prospettoMateriali(*f.flessione), blocchi);
     verso(f, true, blocchi);

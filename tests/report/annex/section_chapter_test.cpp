@@ -37,6 +37,15 @@ project::Sezione conStaffe() {
 
 Blocchi sezione(const Contesto& c) { return test::blocchi(capitoloSezione, c); }
 
+TEST(CapitoloSezione, NamesTheStrainsThatEndTheResistance) {
+    const auto detto = [](const project::Sezione& s) { return testo(sezione(contesto(muro(s)))); };
+    EXPECT_NE(detto(structure::diaframmaSimmetrico())
+                  .find("si accorcia di 0.0035 o l'acciaio si allunga di 0.010 (CEN"),
+              std::string::npos);
+    EXPECT_NE(detto(structure::palancola()).find("si accorcia di 0.0035 o si allunga di 0.010."),
+              std::string::npos);
+}
+
 TEST(CapitoloSezione, HoldsTheChecksOfTheDossier) {
     const Contesto c = contesto(muro(structure::diaframmaSimmetrico()));
     const auto p = tavola(sezione(c), "Verifiche");
