@@ -52,9 +52,14 @@ EJPalancola rigidezzaPalancola(const PalancolaMm& p, double Es) {
     const double He = altezza(p);
     const double Bi = Be - 2 * tw;
     const double Hi = He - 2 * p.spessore;
-    return {Be,           He,
-            Bi,           Hi,
-            passoOnda(p), metro * Es * (Be * cubo(He) / 12 - Bi * cubo(Hi) / 12) / passoOnda(p)};
+    return {p,
+            tw,
+            Be,
+            He,
+            Bi,
+            Hi,
+            passoOnda(p),
+            metro * Es * (Be * cubo(He) / 12 - Bi * cubo(Hi) / 12) / passoOnda(p)};
 }
 
 EJPaliArmati rigidezzaPaliArmati(const PaliArmatiMm& p, double Ec, double Es) {

@@ -55,6 +55,8 @@ struct EJPali {
     double EJ = 0;
 };
 struct EJPalancola {
+    PalancolaMm misure{};
+    double sAla = 0;                        ///< thickness of an inclined web along the wall [mm]
     double Be = 0, He = 0, Bi = 0, Hi = 0;  ///< [mm]
     double passo = 0;                       ///< length of a wave [mm]
     double EJ = 0;

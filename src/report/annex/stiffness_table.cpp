@@ -76,13 +76,23 @@ class Righe {
         p_.note.push_back(
             traduttore("Due rettangoli, l'esterno meno l'interno, su un'onda del "
                        "profilo: i giunti non scorrono."));
-        riga("Base esterna", "Be", "", {}, d.Be, 2, mm);
-        riga("Altezza esterna", "He", "", {}, d.He, 2, mm);
-        riga("Base interna", "Bi", "", {}, d.Bi, 2, mm);
-        riga("Altezza interna", "Hi", "", {}, d.Hi, 2, mm);
+        p_.note.push_back(
+            traduttore("b, s: larghezza e spessore del piatto; la, ha, sa: larghezza, altezza e "
+                       "spessore dell'ala; c: spessore di un'ala inclinata, misurato lungo la "
+                       "paratia."));
+        const Termine b = termine("b", d.misure.base, 1), s = termine("s", d.misure.spessore, 1);
+        const Termine la = termine("la", d.misure.largAla, 1);
+        const Termine ha = termine("ha", d.misure.altAla, 1), c = termine("c", d.sAla, 3);
+        const Termine Be = termine("Be", d.Be, 3), He = termine("He", d.He, 2);
+        riga("Spessore dell'ala lungo la paratia", "c", "%1 / cos(arctan(%2 / %3))",
+             {termine("sa", d.misure.spessAla, 2), la, ha}, d.sAla, 2, mm);
+        riga("Base esterna", "Be", "%1 + %2", {b, c}, d.Be, 2, mm);
+        riga("Altezza esterna", "He", "2 · %1 + %2", {ha, s}, d.He, 2, mm);
+        riga("Base interna", "Bi", "%1 - 2 · %2", {Be, c}, d.Bi, 2, mm);
+        riga("Altezza interna", "Hi", "%1 - 2 · %2", {He, s}, d.Hi, 2, mm);
+        riga("Lunghezza di un'onda", "i", "4 · %1 + 2 · %2", {la, b}, d.passo, 1, mm);
         EJ("%1 · (%2 · %3³ − %4 · %5³) / 12 / %6 / 10⁶",
-           {Es(), termine("Be", d.Be, 2), termine("He", d.He, 2), termine("Bi", d.Bi, 2),
-            termine("Hi", d.Hi, 2), termine("i", d.passo, 1)},
+           {Es(), Be, He, termine("Bi", d.Bi, 3), termine("Hi", d.Hi, 2), termine("i", d.passo, 1)},
            d.EJ);
     }
 

@@ -109,6 +109,28 @@ TEST(CapitoloTerreno, EndsTheStiffnessWithWhatTheCalculationTakes) {
     }
 }
 
+// By hand: 12 mm of web across a slope of 100 in 190 are 12 sqrt(1 + (100/190)^2) = 13.5606 mm
+// along the wall; 200 + 13.56, 2 190 + 20, 213.56 - 2 13.56, 400 - 2 20, 4 100 + 2 200.
+TEST(CapitoloTerreno, FollowsASheetPileStepByStep) {
+    DatiProgetto dati = test::progettoSemplice();
+    dati.sezione = structure::palancola();
+    const auto p = prospettoRigidezza(*contesto(dati).fascicolo);
+    const std::pair<const char*, double> attesi[] = {{"c = sa / cos(arctan(la / ha))", 13.5606},
+                                                     {"Be = b + c", 213.5606},
+                                                     {"He = 2 · ha + s", 400},
+                                                     {"Bi = Be - 2 · c", 186.4394},
+                                                     {"Hi = He - 2 · s", 360},
+                                                     {"i = 4 · la + 2 · b", 800}};
+    std::size_t riga = 0;
+    for (const auto& [formula, valore] : attesi) {
+        EXPECT_EQ(p.righe.at(riga)[1].testo, formula);
+        EXPECT_NEAR(numero(p, riga, 3), valore, 1e-4) << formula;
+        ++riga;
+    }
+    EXPECT_EQ(p.righe[0][2].testo, "12.00 / cos(arctan(100.0 / 190.0))");
+    EXPECT_EQ(p.righe[2][2].testo, "2 · 190.0 + 20.0");
+}
+
 TEST(CapitoloTerreno, SaysWhoseAStiffnessWithoutASectionIs) {
     const auto testo = test::testo(terreno(test::progettoSemplice()));
     EXPECT_NE(testo.find("EJ = 120000 kN m²"), std::string::npos) << testo;
