@@ -1,5 +1,6 @@
 #include "dossier/specified_run.hpp"
 
+#include <algorithm>
 #include <cmath>
 
 #include "analysis/anchors_in_place.hpp"
@@ -20,7 +21,13 @@ class Massimo {
  public:
     void prova(double equilibrio, double corsa, double z) {
         const double valore = std::fabs(corsa - equilibrio);
-        if (valore > massimo_.valore) massimo_ = {valore, equilibrio, corsa, z, {}};
+        // Both sides of an anchor are one node.
+        const double altrove =
+            z == massimo_.z ? massimo_.altrove : std::max(massimo_.altrove, massimo_.valore);
+        if (valore > massimo_.valore)
+            massimo_ = {valore, equilibrio, corsa, z, altrove, {}};
+        else if (z != massimo_.z)
+            massimo_.altrove = std::max(massimo_.altrove, valore);
     }
     [[nodiscard]] const Scarto& trovato() const { return massimo_; }
 

@@ -15,7 +15,12 @@ struct Scarto {
     double valore = 0;  ///< in size
     double equilibrio = 0, corsa = 0;
     double z = 0;          ///< depth of the node [m]
+    double altrove = 0;    ///< largest difference of all other nodes
     std::string perche{};  ///< translated, in words; empty for the same number, as it is printed
+
+    /// True if the two differ at this node alone: elsewhere by no twentieth of it.
+    [[nodiscard]] bool unNodo() const { return altrove < quotaAltrove * valore; }
+    static constexpr double quotaAltrove = 0.05;
 };
 
 /// What the specified run made of one stage, beside the equilibrium.

@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "analysis/staged_run.hpp"
+#include "project/codes.hpp"
 #include "support/restless_wall.hpp"
 #include "support/sample_projects.hpp"
 
@@ -60,6 +61,27 @@ TEST(CorsaAffiancataTest, TellsTheDifferenceInShearOnBothSidesOfAnAnchor) {
     EXPECT_GT(s.valore, 0);
     EXPECT_LT(s.valore, 0.1 * std::fabs(parete.estremi.taglio.valore));
     EXPECT_FALSE(corsa.fasi()[0].scartoTaglio->valore > s.valore);
+}
+
+// With a fixed toe the run has another moment at the last node, and the same everywhere else.
+TEST(CorsaAffiancataTest, TellsADifferenceOfOneNodeFromOneOfTheCurves) {
+    auto dati = test::progettoSemplice();
+    dati.vincoloPiede = valore(project::VincoloPiede::incastro);
+    const auto parete = live::calcola(dati, 40);
+    Conta altro;
+    CorsaAffiancata corsa(parete, altro);
+    const auto esito = analysis::calcolaFasi(parete.dati, 40, corsa);
+    const Scarto& s = *corsa.fasi()[1].scartoMomento;
+    EXPECT_EQ(s.z, parete.dati.lunghezzaParatia);
+    double altrove = 0;
+    for (int i = 1; i <= 40; ++i)
+        altrove =
+            std::max(altrove, std::fabs(esito.fasi[1].risultati.momentoNodo[i] -
+                                        parete.fase(2)->momento[static_cast<std::size_t>(i) - 1]));
+    EXPECT_EQ(s.altrove, altrove);
+    EXPECT_TRUE(s.unNodo());
+    EXPECT_FALSE((Scarto{.valore = 1, .altrove = 0.05}.unNodo()));
+    EXPECT_TRUE((Scarto{.valore = 1, .altrove = 0.049}.unNodo()));
 }
 
 TEST(CorsaAffiancataTest, TellsOfAStageWithoutRestItsIterationsAlone) {

@@ -36,6 +36,8 @@ Cella scarto(const std::optional<Scarto>& s, Cella (*cella)(double)) {
 // The stages that differ for one reason, by depth.
 struct Causa {
     std::string perche;
+    double altrove = 0;  // largest difference of their other nodes
+    bool unNodo = true;  // all are of one node
     std::vector<std::pair<std::string, std::vector<int>>> dove;  // depth, stages
 };
 
@@ -56,16 +58,17 @@ std::string elenco(const std::vector<int>& fasi) {
 }
 
 // "Scarto del taglio (fasi 2, 3 a 1.60 m): at the anchor ...", a reason once for all its stages.
-void motivi(const Fascicolo& f, const char* cosa, std::optional<Scarto> CorsaFase::*quale,
-            Prospetto& p) {
+void motivi(const Fascicolo& f, const project::Unita& u, const char* cosa,
+            std::optional<Scarto> CorsaFase::*quale, Prospetto& p) {
     using Dove = std::pair<std::string, std::vector<int>>;
     std::vector<Causa> cause;
     for (const CorsaFase& c : f.corsa) {
         const std::optional<Scarto>& s = c.*quale;
         if (!s || s->perche.empty()) continue;
-        trova(trova(cause, &Causa::perche, s->perche).dove, &Dove::first,
-              tables::profondita(s->z).testo)
-            .second.push_back(c.fase);
+        Causa& causa = trova(cause, &Causa::perche, s->perche);
+        causa.altrove = std::max(causa.altrove, s->altrove);
+        causa.unNodo = causa.unNodo && s->unNodo();
+        trova(causa.dove, &Dove::first, tables::profondita(s->z).testo).second.push_back(c.fase);
     }
     for (const Causa& causa : cause) {
         std::string dove;
@@ -75,6 +78,10 @@ void motivi(const Fascicolo& f, const char* cosa, std::optional<Scarto> CorsaFas
                              {elenco(fasi), z});
         p.note.push_back(
             inFrase(base::conDuePunti(traduttore(cosa) + " (" + dove + ")", causa.perche)));
+        if (causa.unNodo)
+            p.note.back() +=
+                " " + riempito(traduttore("Soltanto lì: negli altri nodi è al più di %1 %2."),
+                               {tables::cella(causa.altrove, 2, u).testo, std::string(u.mostrata)});
     }
 }
 
@@ -86,6 +93,13 @@ std::string motivo(const Fascicolo& f, const CorsaFase& c, const char* cosa,
         return d.fase == c.fase && d.cosa != dossier::Doppio::tiro && d.perche == s->perche;
     });
     return detto ? std::string() : " " + inFrase(base::conDuePunti(traduttore(cosa), s->perche));
+}
+
+// That a largest difference is no difference of the curves but of one node.
+std::string delNodo(const project::Unita& u, const char* frase, const std::optional<Scarto>& s) {
+    if (!s || s->perche.empty() || !s->unNodo()) return {};
+    return " " + riempito(traduttore(frase),
+                          {tables::profondita(s->z).testo, tables::cella(s->altrove, 2, u).testo});
 }
 
 // Why there is no run, or why it has no report; empty where both are.
@@ -120,8 +134,8 @@ Prospetto prospettoCorse(const Fascicolo& f) {
         "Passi: del metodo di Newton, con cui si trova la soluzione di equilibrio. Iterazioni: "
         "del calcolo per fasi, che scrive la relazione. Scarti: le maggiori differenze "
         "fra i due lungo la paratia, in valore assoluto."));
-    motivi(f, "Scarto del momento", &CorsaFase::scartoMomento, p);
-    motivi(f, "Scarto del taglio", &CorsaFase::scartoTaglio, p);
+    motivi(f, unita::momentoAlMetro, "Scarto del momento", &CorsaFase::scartoMomento, p);
+    motivi(f, unita::forzaAlMetro, "Scarto del taglio", &CorsaFase::scartoTaglio, p);
     if (std::string frase = sullaCorsa(f); !frase.empty()) p.note.push_back(std::move(frase));
     return p;
 }
@@ -145,6 +159,13 @@ std::string frasePassi(const Fascicolo& f, int fase) {
                 tables::spostamento(c->scartoSpostamento->valore).testo,
                 tables::momento(c->scartoMomento->valore).testo,
                 tables::forza(c->scartoTaglio->valore).testo}) +
+           delNodo(
+               unita::momentoAlMetro,
+               "Lo scarto del momento è del solo nodo a %1 m: negli altri è al più di %2 kN m/m.",
+               c->scartoMomento) +
+           delNodo(unita::forzaAlMetro,
+                   "Lo scarto del taglio è del solo nodo a %1 m: negli altri è al più di %2 kN/m.",
+                   c->scartoTaglio) +
            motivo(f, *c, "Scarto del momento", c->scartoMomento) +
            motivo(f, *c, "Scarto del taglio", c->scartoTaglio);
 }

@@ -148,9 +148,11 @@ TEST(CapitoloFasi, TellsWhyTheRunDiffersAtItsTableAndAtEachStage) {
     for (dossier::CorsaFase& corsa : f.corsa) {
         corsa.scartoMomento = {};
         corsa.scartoTaglio->z = 1.5;
+        corsa.scartoTaglio->altrove = corsa.scartoTaglio->valore;
         corsa.scartoTaglio->perche = "molle";
     }
-    f.corsa[0].scartoMomento = dossier::Scarto{.valore = 1, .z = 3, .perche = "regole"};
+    f.corsa[0].scartoMomento =
+        dossier::Scarto{.valore = 1, .z = 3, .altrove = 0.04, .perche = "regole"};
     f.corsa[1].scartoMomento = dossier::Scarto{.valore = 0};
     const auto mostra = [&] {
         c.fascicolo = std::make_shared<const dossier::Fascicolo>(f);
@@ -160,10 +162,13 @@ TEST(CapitoloFasi, TellsWhyTheRunDiffersAtItsTableAndAtEachStage) {
     const auto haNota = [&](const char* nota) {
         return std::find(note.begin(), note.end(), nota) != note.end();
     };
-    EXPECT_TRUE(haNota("Scarto del momento (fase 1 a 3.00 m): regole."));
+    EXPECT_TRUE(
+        haNota("Scarto del momento (fase 1 a 3.00 m): regole. Soltanto lì: negli altri "
+               "nodi è al più di 0.40 kN m/m."));
     EXPECT_TRUE(haNota("Scarto del taglio (fasi 1, 2 a 1.50 m): molle."));
-    EXPECT_NE(testo(mostra()).find("nel taglio. Scarto del momento: regole. Scarto del taglio: "
-                                   "molle."),
+    EXPECT_NE(testo(mostra()).find("nel taglio. Lo scarto del momento è del solo nodo a 3.00 m: "
+                                   "negli altri è al più di 0.40 kN m/m. Scarto del momento: "
+                                   "regole. Scarto del taglio: molle."),
               std::string::npos);
     EXPECT_NE(testo(mostra()).find("nel taglio. Scarto del taglio: molle."), std::string::npos);
     f.doppi = {{.cosa = dossier::Doppio::taglio, .fase = 2, .perche = "molle"}};
