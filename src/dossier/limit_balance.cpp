@@ -110,7 +110,17 @@ BilancioLimite bilancioLimite(const ProblemaFase& problema, const Meccanismo& mo
     }
     tiranti(problema, parti);
     b.parti = std::move(parti.tutte());
-    for (const ParteAlLimite& p : b.parti) b.mancante += p.spinta;
+    double somma = 0;
+    for (const ParteAlLimite& p : b.parti) {
+        b.mancante += p.spinta;
+        somma += p.forza;
+    }
+    if (moto.traslazione) return b;
+    const double piede = problema.profondita(problema.n() - 1);
+    b.zRisultante = moto.profondita <= piede / 2 ? piede : 0;
+    const double spostamento = moto.spostamento(b.zRisultante);
+    if (spostamento != 0) b.forzaRisultante = b.mancante / spostamento;
+    b.perno = b.forzaRisultante - somma;
     return b;
 }
 

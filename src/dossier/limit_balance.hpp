@@ -41,6 +41,13 @@ struct BilancioLimite {
     std::vector<NodoAlLimite> nodi;
     std::vector<ParteAlLimite> parti;  ///< those that are not 0
     double mancante = 0;  ///< sum of `spinta` of all: what would have to be added against it
+    /// Of a rotation: the sum of all forces as one force, at the end of the wall that moves most.
+    /// Its opposite, added there, leaves the wall at its limit [t, m].
+    double forzaRisultante = 0, zRisultante = 0;
+    /// Of a rotation: what the point that stays carries then, towards the excavation. It is the
+    /// rest of the sum, and between the limits of its node, since no other rotation misses more
+    /// of such a force.
+    double perno = 0;
 };
 
 /// @param problema  of the stage

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cmath>
+
 #include "dossier/dossier.hpp"
 #include "support/sample_projects.hpp"
 #include "support/stage_problems.hpp"
@@ -38,6 +41,10 @@ TEST(BilancioLimiteTest, HasWhatPushesAndWhatResistsAboutAHinge) {
     EXPECT_NEAR(resiste->forza, -2 * 9.5, 1e-12);
     EXPECT_NEAR(resiste->spinta, -2 * 50, 1e-12);
     EXPECT_NEAR(b.mancante, 100, 1e-12);
+    // 10 t at the toe make the moment up; the hinge carries what is left of 19 t.
+    EXPECT_EQ(b.zRisultante, 10);
+    EXPECT_NEAR(b.forzaRisultante, 10, 1e-12);
+    EXPECT_NEAR(b.perno, 10 - 19, 1e-12);
     ASSERT_EQ(b.nodi.size(), 11U);
     EXPECT_EQ(b.nodi[0].forza, 0);
     EXPECT_EQ(b.nodi[4].monte, 4);
@@ -73,6 +80,32 @@ TEST(BilancioLimiteTest, SumsTheForcesOfATranslation) {
     EXPECT_NEAR(parte(b, AzioneLimite::costante)->spinta, 3, 1e-12);
     EXPECT_NEAR(parte(b, AzioneLimite::testa)->spinta, -1, 1e-12);
     EXPECT_NEAR(b.mancante, 2, 1e-12);
+}
+
+// The force that is missing least and the reaction of the point that stays are an equilibrium at
+// the limit: the reaction is one that the soil of its node can give.
+TEST(BilancioLimiteTest, AsksOfTheNodeThatStaysNoMoreThanItsSoilGives) {
+    int visti = 0;
+    for (double scavo = 7; scavo < 11.9; scavo += 0.13) {
+        auto dati = test::progettoSemplice();
+        dati.tirantiFase[2] = 0;
+        dati.profFase[2] = scavo;
+        const int nSeg = 60;
+        const auto b = bilancioLimite(dati, nSeg, 2);
+        if (!b || b->moto.traslazione) continue;
+        equilibrium::EquilibrioParete parete(dati, nSeg);
+        for (int k = 1; k <= 2; ++k) (void)parete.calcola(k);
+        const equilibrium::ProblemaFase& problema = parete.problema();
+        const auto i = static_cast<std::size_t>(std::lround(b->moto.profondita / problema.h));
+        const equilibrium::NodoFase& nodo = problema.nodi[i];
+        const double carico = nodo.acqua + problema.costante;
+        const double uno = nodo.peso * (carico + nodo.monte.limite(1) + nodo.valle.limite(1));
+        const double altro = nodo.peso * (carico + nodo.monte.limite(-1) + nodo.valle.limite(-1));
+        EXPECT_GE(b->perno, std::min(uno, altro) - 1e-9) << scavo;
+        EXPECT_LE(b->perno, std::max(uno, altro) + 1e-9) << scavo;
+        ++visti;
+    }
+    EXPECT_GT(visti, 5);
 }
 
 // What the verdict says is missing is what the parts sum up to.

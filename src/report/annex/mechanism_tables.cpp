@@ -59,6 +59,29 @@ Cella stato(LimiteTerreno stato) {
     return {};
 }
 
+std::vector<Cella> rigaTraslazione(const project::DatiProgetto& dati, const ParteAlLimite& parte) {
+    return {tables::parola(nome(dati, parte)), tables::parola(""), tables::forza(parte.forza),
+            tables::parola(traduttore(effetto(parte)))};
+}
+
+std::vector<Cella> rigaRotazione(const project::DatiProgetto& dati, const BilancioLimite& b,
+                                 const ParteAlLimite& parte) {
+    std::vector<Cella> riga{
+        tables::parola(nome(dati, parte)),
+        tables::parola(traduttore(parte.sotto ? "sotto il perno" : "sopra il perno")),
+        tables::forza(parte.forza)};
+    if (parte.forza == 0) {
+        riga.resize(5);
+    } else {
+        const double arm = braccio(parte, b.moto.verso);
+        riga.push_back(tables::profondita(b.moto.profondita + arm));
+        riga.push_back(tables::cella(arm, 3, unita::metri));
+    }
+    riga.push_back(tables::momento(parte.spinta));
+    riga.push_back(tables::parola(traduttore(effetto(parte))));
+    return riga;
+}
+
 }  // namespace
 
 std::string fraseMeccanismo(const BilancioLimite& b) {
@@ -89,26 +112,27 @@ Prospetto prospettoLimite(const project::DatiProgetto& dati, const BilancioLimit
         p.colonne.push_back(numeri(unita::momentoAlMetro, "Momento"));
     }
     p.colonne.push_back(colonna("Effetto"));
-    for (const ParteAlLimite& parte : b.parti) {
-        auto& riga = p.righe.emplace_back(std::vector{
-            tables::parola(nome(dati, parte)),
-            tables::parola(ruota ? traduttore(parte.sotto ? "sotto il perno" : "sopra il perno")
-                                 : ""),
-            tables::forza(parte.forza)});
-        if (ruota) {
-            const double arm = parte.forza == 0 ? 0 : braccio(parte, b.moto.verso);
-            riga.push_back(parte.forza == 0 ? Cella{}
-                                            : tables::profondita(b.moto.profondita + arm));
-            riga.push_back(parte.forza == 0 ? Cella{} : tables::cella(arm, 3, unita::metri));
-            riga.push_back(tables::momento(parte.spinta));
-        }
-        riga.push_back(tables::parola(traduttore(effetto(parte))));
+    for (const ParteAlLimite& parte : b.parti)
+        p.righe.push_back(ruota ? rigaRotazione(dati, b, parte) : rigaTraslazione(dati, parte));
+    const std::string mancano = base::conMaiuscola(traduttore("mancano"));
+    const Cella vuota = tables::parola("");
+    if (!ruota) {
+        p.righe.push_back(
+            {tables::parola(mancano), vuota, tables::forza(b.moto.verso * b.mancante), vuota});
+        return p;
     }
-    auto& somma = p.righe.emplace_back(
-        std::vector{tables::parola(base::conMaiuscola(traduttore("mancano"))), tables::parola("")});
-    if (ruota) somma.resize(5, {.testo = ""});
-    somma.push_back(ruota ? tables::momento(b.mancante) : tables::forza(b.moto.verso * b.mancante));
-    somma.push_back(tables::parola(""));
+    p.righe.push_back({tables::parola(traduttore("Reazione del perno")), vuota,
+                       tables::forza(b.perno), tables::profondita(b.moto.profondita),
+                       tables::cella(0.0, 3, unita::metri), tables::momento(0), vuota});
+    p.righe.push_back({tables::parola(mancano), vuota, tables::forza(b.forzaRisultante),
+                       tables::profondita(b.zRisultante),
+                       tables::cella(b.zRisultante - b.moto.profondita, 3, unita::metri),
+                       tables::momento(b.mancante), vuota});
+    p.note.push_back(
+        traduttore("L'ultima riga è la somma delle altre, forze e momenti: una forza sola "
+                   "all'estremo che si sposta di più. Con una forza opposta in quel punto la "
+                   "paratia sarebbe appena in equilibrio, e il perno porterebbe la reazione "
+                   "scritta; in esso il terreno non è al limite."));
     return p;
 }
 

@@ -210,14 +210,19 @@ TEST(CapitoloFasi, OfAMechanismHasTheBalanceAtTheLimit) {
     ASSERT_FALSE(moto.traslazione);
     const auto b = fasi(c);
     const auto p = tavola(b, "Equilibrio al limite");
-    double momento = 0;
-    for (std::size_t i = 0; i + 1 < p.righe.size(); ++i) {
+    const std::size_t perno = p.righe.size() - 2, somma = p.righe.size() - 1;
+    EXPECT_EQ(p.righe[perno][0].testo, "Reazione del perno");
+    double momento = 0, forza = numero(p, perno, 2);
+    for (std::size_t i = 0; i < perno; ++i) {
+        forza += numero(p, i, 2);
         EXPECT_NEAR(moto.verso * numero(p, i, 2) * numero(p, i, 4), numero(p, i, 5), 1e-9);
         EXPECT_EQ(p.righe[i][6].testo, numero(p, i, 5) > 0 ? "spinge" : "resiste");
         momento += numero(p, i, 5);
     }
     EXPECT_NEAR(momento, 10 * moto.mancante, 1e-6);
-    EXPECT_NEAR(numero(p, p.righe.size() - 1, 5), 10 * moto.mancante, 1e-6);
+    EXPECT_NEAR(numero(p, somma, 5), 10 * moto.mancante, 1e-6);
+    EXPECT_NEAR(numero(p, somma, 2), forza, 1e-9);
+    EXPECT_NEAR(moto.verso * numero(p, somma, 2) * numero(p, somma, 4), numero(p, somma, 5), 1e-6);
     const auto nodi = tavola(b, "Pressioni al limite");
     ASSERT_EQ(nodi.righe.size(), 41U);
     EXPECT_EQ(numero(nodi, 20, 3), 10 * c.fascicolo->limite->nodi[20].monte);
