@@ -32,11 +32,12 @@ using scene::Scena;
 using scene::Tela;
 
 constexpr double em = corpoCarta;
-constexpr double sezioneMinima = 13 * em;  // width of the wall in section
-constexpr double quotaSezione = 0.28;      // of the whole width
-constexpr double piedeVeduta = 1.8 * em;   // below the ground of the view
-constexpr double numeri = 2.6 * em;        // for the depths
-constexpr double distanza = 1.1 * em;      // of panels
+constexpr double sezioneMinima = 13 * em;   // width of the wall in section
+constexpr double sezioneConNomi = 23 * em;  // with the names of the layers and their states whole
+constexpr double quotaSezione = 0.28;       // of the whole width
+constexpr double piedeVeduta = 1.8 * em;    // below the ground of the view
+constexpr double numeri = 2.6 * em;         // for the depths
+constexpr double distanza = 1.1 * em;       // of panels
 
 void unisci(Scena& scena, std::vector<Primitiva> altre) {
     std::move(altre.begin(), altre.end(), std::back_inserter(scena.primitive));
@@ -96,12 +97,13 @@ class ElencoTiranti {
 };
 
 // The wall at the left, beside it the panels.
+// @param minima  width of the wall at least
 Scena conPannelli(const live::PareteViva& parete, int fase, const std::vector<double>& scavi,
                   const std::vector<DatiPannello>& dati, const std::vector<double>& pesi,
-                  const Misura& misura) {
+                  const Misura& misura, double minima = sezioneMinima) {
     const MisuraStimata testi;
     Scena s = scenaCarta(misura);
-    const double larga = std::max(sezioneMinima, quotaSezione * misura.larghezza);
+    const double larga = std::max(minima, quotaSezione * misura.larghezza);
     const ElencoTiranti tiranti(parete, fase, larga, testi);
     // The view has no line at its foot, but the room for it.
     const double sottoMuro = std::max(0.0, tiranti.altezza() - piedeVeduta);
@@ -145,7 +147,7 @@ Scena scenaFase(const live::PareteViva& parete, int fase, double larghezza, doub
 
 Scena scenaMeccanismo(const live::PareteViva& parete, int fase, const PressioniLimite& pressioni,
                       double larghezza, double altezza) {
-    constexpr double larga = 0.6;  // of the place of four panels: one scale is enough
+    constexpr double larga = 0.8;  // of the place of four panels: one scale is enough
     DatiPannello p{.titolo = base::traduttore("Pressioni al limite"),
                    .unita = project::unita::pressione,
                    .curve = {}};
@@ -165,7 +167,7 @@ Scena scenaMeccanismo(const live::PareteViva& parete, int fase, const PressioniL
                     [](double v) { return v != 0; }))
         curva(pressioni.acqua, Ruolo::acqua, "Acqua");
     return conPannelli(parete, fase, scaviDi(parete.dati, fase, fase), {std::move(p)}, {1},
-                       misuraCarta(larga * larghezza, altezza));
+                       misuraCarta(larga * larghezza, altezza), sezioneConNomi);
 }
 
 Scena scenaInviluppi(const live::PareteViva& parete, double larghezza, double altezza) {
