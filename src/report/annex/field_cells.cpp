@@ -110,7 +110,8 @@ constexpr Regola regole[] = {
     {&project::Sezione::modEcls, diPalancola, false, "la palancola non ha calcestruzzo"},
     {&project::Sezione::fck, diPalancola, false, "la palancola non ha calcestruzzo"},
     {&project::Sezione::armNumLong, sempre, true,
-     "il calcolo usa il numero conservato nel file, un decimo di quello mostrato"},
+     "le barre del palo sono quelle usate; la scheda e la relazione ne mostrano dieci volte "
+     "tante"},
     {&DatiProgetto::rigTirante, sempre, true,
      "orizzontale e per metro di paratia; chi la scrive ha già moltiplicato per cos² alfa"},
     {&DatiProgetto::pretTirante, sempre, true,

@@ -158,6 +158,9 @@ void relazione(const Fascicolo& f, Blocchi& blocchi) {
     titolo(2, "Le verifiche della relazione", blocchi);
     auto p = tables::prospettoVerifiche(f.parete, *f.margine);
     p.titolo.clear();
+    p.note.push_back(
+        traduttore("Come nella relazione, questi numeri sono troncati alla seconda cifra; nel "
+                   "resto del documento sono arrotondati."));
     tavola(std::move(p), blocchi);
 }
 
