@@ -119,7 +119,8 @@ std::string paroleMaglia(const Margine& margine) {
     if (!margine.maglia)
         return testo + traduttore("con una maglia più fine una fase non è in equilibrio");
     const std::pair<const char*, const ErroreGrandezza*> grandezze[] = {
-        {"momento", &margine.maglia->momento},
+        {"momento positivo", &margine.maglia->momentoPositivo},
+        {"momento negativo", &margine.maglia->momentoNegativo},
         {"taglio", &margine.maglia->taglio},
         {"spostamento", &margine.maglia->spostamento},
         {"tiro", &margine.maglia->tiro},

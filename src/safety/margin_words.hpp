@@ -33,8 +33,8 @@ namespace korven::safety {
 /// 1", or why there is none; empty where the data are no wall of any length.
 [[nodiscard]] std::string paroleLunghezza(const Margine& margine);
 
-/// "Errore di maglia (50 segmenti contro 200): momento 2.9 %, taglio 2.1 %, ..."; empty where a
-/// stage does not stand.
+/// "Errore di maglia (50 segmenti contro 200): momento positivo 2.9 %, momento negativo 1.2 %,
+/// taglio 2.1 %, ..."; empty where a stage does not stand.
 [[nodiscard]] std::string paroleMaglia(const Margine& margine);
 
 /// The stage by which the wall is judged: its factor and what happens there, or why it does not

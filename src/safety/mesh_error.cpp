@@ -58,6 +58,16 @@ std::vector<UsoMaglia> usi(const project::DatiProgetto& dati,
 
 }  // namespace
 
+double ErroreMaglia::massimo() const {
+    double peggiore = 0;
+    for (const ErroreGrandezza* e : {&momento, &taglio, &spostamento, &tiro})
+        peggiore = std::max(peggiore, e->quota.value_or(0));
+    for (const ErroreGrandezza* e : {&momentoPositivo, &momentoNegativo})
+        if (momento.fine > 0)
+            peggiore = std::max(peggiore, std::fabs(e->valore - e->fine) / momento.fine);
+    return peggiore;
+}
+
 std::optional<ErroreMaglia> erroreMaglia(const project::DatiProgetto& dati, int nSeg,
                                          const Estremi& estremi) {
     const auto doppia = involuppo(dati, 2 * nSeg);

@@ -48,6 +48,10 @@ struct ErroreMaglia {
     ErroreGrandezza tiro;             ///< [t]
     /// The checks that some mesh has a use of; none without a section.
     std::vector<UsoMaglia> usi{};
+
+    /// The largest error of all; that of a moment is a share of the larger of the two, so that a
+    /// small one does not count for more than it is.
+    [[nodiscard]] double massimo() const;
 };
 
 /// Follows the wall at `nSeg`, twice and four times as many segments.

@@ -106,10 +106,11 @@ TEST(ParoleMaglia, TellTheSharesThatThereAre) {
               "Errore di maglia (50 segmenti contro 200): con una maglia più fine una fase non è "
               "in equilibrio");
     m.maglia = ErroreMaglia{};
-    m.maglia->momento.quota = 0.0287;
+    m.maglia->momentoPositivo.quota = 0.0287;
     m.maglia->spostamento.quota = 0.01;
-    EXPECT_EQ(paroleMaglia(m),
-              "Errore di maglia (50 segmenti contro 200): momento 2.9 %, spostamento 1.0 %");
+    EXPECT_EQ(
+        paroleMaglia(m),
+        "Errore di maglia (50 segmenti contro 200): momento positivo 2.9 %, spostamento 1.0 %");
     m.fasi[1].esito = EsitoFase::meccanismo;
     EXPECT_EQ(paroleMaglia(m), "");
 }

@@ -111,6 +111,18 @@ TEST(ErroreMaglia, TellsBothSignsOfTheMoment) {
     EXPECT_TRUE(e->usi.empty());  // it has no section
 }
 
+// A negative moment that is 8 % off, but a tenth of the other, is 0.8 % of it.
+TEST(ErroreMaglia, WeighsASmallMomentByTheLargerOne) {
+    ErroreMaglia e;
+    e.momento = e.momentoPositivo = {.valore = 101, .fine = 100, .quota = 0.01};
+    e.momentoNegativo = {.valore = 9.2, .fine = 10, .quota = 0.08};
+    EXPECT_NEAR(e.massimo(), 0.01, 1e-12);
+    e.momentoNegativo = {.valore = 82.8, .fine = 90, .quota = 0.08};
+    EXPECT_NEAR(e.massimo(), 0.072, 1e-12);
+    e.tiro.quota = 0.1;
+    EXPECT_EQ(e.massimo(), 0.1);
+}
+
 TEST(ErroreMaglia, IsNoneWhereAFinerMeshDoesNotStand) {
     auto dati = test::progettoSemplice();
     dati.profFase[2] = 11.5;

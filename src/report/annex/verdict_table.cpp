@@ -88,10 +88,7 @@ std::string margineInBreve(const Fascicolo& f) {
     std::string testo = tables::verdetto(m);
     if (m.sta() && m.decisiva() == nullptr) testo += " " + inFrase(percheOltre(f));
     if (!m.maglia) return testo;
-    double errore = 0;
-    for (const auto* e :
-         {&m.maglia->momento, &m.maglia->taglio, &m.maglia->spostamento, &m.maglia->tiro})
-        errore = std::max(errore, e->quota.value_or(0));
+    const double errore = m.maglia->massimo();
     if (errore > review::erroreMagliaDetto)
         testo += " " + riempito(traduttore("Errore di maglia fino al %1 %: aumentare i segmenti."),
                                 {tables::cella(errore, 1, unita::percento).testo});
