@@ -79,7 +79,8 @@ void riga(const project::Unita& u, const char* cosa, Cella (*valore)(double),
           const safety::ErroreGrandezza& e, Prospetto& p) {
     p.righe.push_back(
         {parola(base::conMaiuscola(traduttore(cosa)) + " " + traParentesi(u)), valore(e.valore),
-         valore(e.fine), e.quota ? cella(*e.quota, 1, unita::percento) : dove(0, 0),
+         valore(e.doppia), valore(e.fine),
+         e.quota ? cella(*e.quota, 1, unita::percento) : dove(0, 0),
          e.ordine ? cella(*e.ordine, 1, unita::nessuna) : senza(percheSenzaOrdine(e.andamento))});
 }
 
@@ -94,7 +95,7 @@ void riga(const safety::UsoMaglia& u, Prospetto& p) {
     p.righe.push_back(
         {parola(traduttore("Sfruttamento") + base::duePunti() + traduttore(safety::nome(u.cosa)) +
                 " " + traParentesi(unita::percento)),
-         valore(u.maglie.front()), valore(u.maglie.back()), altrove, altrove});
+         valore(u.maglie[0]), valore(u.maglie[1]), valore(u.maglie[2]), altrove, altrove});
 }
 
 // Sentences begin with a capital; the same words stand within lines elsewhere.
@@ -172,17 +173,20 @@ Prospetto prospettoStatica(const Margine& margine) {
 }
 
 Prospetto prospettoMaglia(const Margine& margine) {
-    const std::string n = std::to_string(margine.nSeg), fini = std::to_string(4 * margine.nSeg);
     Prospetto p{.titolo = traduttore("Errore di maglia"),
                 .colonne = {colonnaParole("Massimi", "Grandezza, con la sua unità"),
                             colonna(unita::nessuna, "%1 segmenti", "Con la maglia del progetto"),
+                            colonna(unita::nessuna, "%1 segmenti", "Con una maglia più fine"),
                             colonna(unita::nessuna, "%1 segmenti", "Con una maglia più fine"),
                             colonna(unita::percento, "Errore",
                                     "Differenza fra le due maglie, rispetto alla più fine"),
                             colonna(unita::nessuna, "Ordine",
                                     "Potenza del passo con cui l'errore diminuisce")}};
-    p.colonne[1].titolo = base::riempito(p.colonne[1].titolo, {n});
-    p.colonne[2].titolo = base::riempito(p.colonne[2].titolo, {fini});
+    std::size_t colonna_ = 0;
+    for (const int volte : {1, 2, 4}) {
+        std::string& titolo = p.colonne[++colonna_].titolo;
+        titolo = base::riempito(titolo, {std::to_string(volte * margine.nSeg)});
+    }
     if (!margine.maglia) {
         p.note.push_back(margine.sta() ? frase(paroleMaglia(margine)) : verdetto(margine));
         return p;

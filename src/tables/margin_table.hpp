@@ -21,7 +21,8 @@ inline constexpr double fineBarraF = 3;
 /// the report.
 [[nodiscard]] Prospetto prospettoStatica(const safety::Margine& margine);
 
-/// The error that the mesh leaves in the largest numbers; without rows where a stage does not
+/// The largest numbers and the uses of the section with three meshes, and the error that the first
+/// leaves; its notes are the warnings of `avvisiMaglia`. Without rows where a stage does not
 /// stand, with this mesh or a finer one.
 [[nodiscard]] Prospetto prospettoMaglia(const safety::Margine& margine);
 

@@ -9,6 +9,7 @@
 #include "tables/anchor_table.hpp"
 #include "tables/check_table.hpp"
 #include "tables/input_table.hpp"
+#include "tables/margin_table.hpp"
 #include "tables/node_table.hpp"
 #include "tables/remark_table.hpp"
 #include "tables/stage_table.hpp"
@@ -24,10 +25,10 @@ using base::traduttore;
 using dossier::Fascicolo;
 using tables::Prospetto;
 
-constexpr base::Gemelli nomi[] = {{"progetto", "project"},   {"dati", "input"},
-                                  {"fasi", "stages"},        {"nodi", "nodes"},
-                                  {"inviluppo", "envelope"}, {"tiranti", "anchors"},
-                                  {"verifiche", "checks"},   {"osservazioni", "remarks"}};
+constexpr base::Gemelli nomi[] = {
+    {"progetto", "project"}, {"dati", "input"},         {"fasi", "stages"},
+    {"nodi", "nodes"},       {"inviluppo", "envelope"}, {"tiranti", "anchors"},
+    {"verifiche", "checks"}, {"maglia", "mesh"},        {"osservazioni", "remarks"}};
 constexpr std::size_t postoNodi = 3, postoInviluppo = 4;  // among them
 
 Prospetto conTitolo(Prospetto p, const char* titolo) {
@@ -59,6 +60,15 @@ Foglio diNumeri(Prospetto p, std::size_t colonneFisse = 1) {
             .aCapo = false};
 }
 
+Prospetto maglia(const Fascicolo& f) {
+    if (f.margine) return tables::prospettoMaglia(*f.margine);
+    safety::Margine senza;
+    senza.nSeg = f.parete.nSeg;
+    Prospetto p = tables::prospettoMaglia(senza);
+    p.note = {traduttore("Di questo progetto non c'è un margine.")};
+    return p;
+}
+
 std::vector<Foglio> tutti(const Fascicolo& f) {
     std::vector<Foglio> fatti = {
         diParole(conTitolo(tables::prospettoDati(f.scritti, f.parete.dati), "Dati"),
@@ -68,6 +78,7 @@ std::vector<Foglio> tutti(const Fascicolo& f) {
         diNumeri(conTitolo(tables::prospettoInviluppo(f.parete), "Inviluppo"), 2),
         diNumeri(prospettoTiranti(f)),
         diNumeri(tables::prospettoVerifiche(f.parete, f.controlli)),
+        diNumeri(maglia(f)),
         diParole(tables::prospettoOsservazioni(f.osservazioni))};
     fatti.insert(fatti.begin(), diParole(prospettoProgetto(f, fatti)));
     assert(fatti.size() == std::size(nomi));

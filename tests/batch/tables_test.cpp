@@ -28,8 +28,9 @@ class Tabelle : public test::BancoConsole {
         return base::leggiFile(cartella / nome);
     }
     const std::vector<std::string> tabelle = {
-        "muro-progetto.csv",  "muro-dati.csv",    "muro-fasi.csv",      "muro-nodi.csv",
-        "muro-inviluppo.csv", "muro-tiranti.csv", "muro-verifiche.csv", "muro-osservazioni.csv"};
+        "muro-progetto.csv",  "muro-dati.csv",      "muro-fasi.csv",
+        "muro-nodi.csv",      "muro-inviluppo.csv", "muro-tiranti.csv",
+        "muro-verifiche.csv", "muro-maglia.csv",    "muro-osservazioni.csv"};
 };
 
 TEST_F(Tabelle, WriteTheWorkbookBesideTheProjectWithoutANameForIt) {
@@ -37,7 +38,7 @@ TEST_F(Tabelle, WriteTheWorkbookBesideTheProjectWithoutANameForIt) {
     EXPECT_EQ(esito.codice, 0) << esito.errori;
     EXPECT_TRUE(dice(esito.uscita, "File scritto: ")) << esito.uscita;
     EXPECT_EQ(nomi(), "muro-tabelle.xlsx muro.kvd ");
-    EXPECT_EQ(leggiXlsx(scritto("muro-tabelle.xlsx")).size(), 9u);
+    EXPECT_EQ(leggiXlsx(scritto("muro-tabelle.xlsx")).size(), 10u);
 }
 
 TEST_F(Tabelle, HoldTheSameTablesInTheFolderAsInTheWorkbook) {
@@ -56,7 +57,7 @@ TEST_F(Tabelle, HoldTheSameTablesInTheFolderAsInTheWorkbook) {
         EXPECT_EQ(fogli[i].a(1, 0).testo, p.colonne[0].testa());
     }
     EXPECT_TRUE(fs::exists(cartella / ("a/b/" + tabelle[0])));
-    EXPECT_TRUE(fs::exists(cartella / ("a/b/" + tabelle[7])));
+    EXPECT_TRUE(fs::exists(cartella / ("a/b/" + tabelle[8])));
 }
 
 TEST_F(Tabelle, GiveTheSameBytesForTheSameDateInEitherOfItsTwoWays) {
@@ -88,7 +89,7 @@ TEST_F(Tabelle, HaveTheirNamesAndWordsInTheLanguageInUse) {
                   0);
         EXPECT_TRUE(fs::exists(cartella / (std::string(sigla) + "/muro-nodes.csv")));
         const auto fogli = leggiXlsx(scritto("t.xlsx"));
-        ASSERT_EQ(fogli.size(), 9u);
+        ASSERT_EQ(fogli.size(), 10u);
         for (const auto& foglio : fogli) {
             EXPECT_LE(base::numeroCaratteri(foglio.nome), 31u) << foglio.nome;
             EXPECT_EQ(foglio.nome.find_first_of("\\/?*[]:'"), std::string::npos) << foglio.nome;
@@ -145,7 +146,7 @@ TEST_F(Tabelle, OfAWallThatDoesNotStandSayWhyAndEndWithOne) {
     EXPECT_EQ(esito.codice, 1);
     EXPECT_TRUE(dice(esito.uscita, "t.xlsx")) << esito.uscita;
     const auto fogli = leggiXlsx(scritto("t.xlsx"));
-    ASSERT_EQ(fogli.size(), 8u) << "no charts";
+    ASSERT_EQ(fogli.size(), 9u) << "no charts";
     EXPECT_TRUE(dice(fogli[3].a(3, 0).testo, "meccanismo")) << fogli[3].a(3, 0).testo;
 }
 

@@ -6,7 +6,7 @@ import pathlib
 import sys
 
 SHEETS = {"progetto": "Progetto", "dati": "Dati", "fasi": "Fasi", "nodi": "Nodi",
-          "inviluppo": "Inviluppo", "tiranti": "Tiranti", "verifiche": "Verifiche",
+          "inviluppo": "Inviluppo", "tiranti": "Tiranti", "verifiche": "Verifiche", "maglia": "Errore di maglia",
           "osservazioni": "Osservazioni"}
 
 

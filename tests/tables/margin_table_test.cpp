@@ -108,13 +108,14 @@ TEST(ProspettoMaglia, HasTheErrorsOfTheMesh) {
     const Prospetto p = prospettoMaglia(m);
     ASSERT_EQ(p.righe.size(), 5u + m.maglia->usi.size());
     EXPECT_EQ(p.colonne[1].titolo, "50 segmenti");
-    EXPECT_EQ(p.colonne[2].titolo, "200 segmenti");
+    EXPECT_EQ(p.colonne[2].titolo, "100 segmenti");
+    EXPECT_EQ(p.colonne[3].titolo, "200 segmenti");
     EXPECT_EQ(p.righe[0][1].numero, m.maglia->momentoPositivo.valore * 10);
-    EXPECT_EQ(p.righe[0][3].numero, *m.maglia->momentoPositivo.quota * 100);
-    EXPECT_EQ(p.righe[3][2].numero, m.maglia->spostamento.fine * 1000);
+    EXPECT_EQ(p.righe[0][4].numero, *m.maglia->momentoPositivo.quota * 100);
+    EXPECT_EQ(p.righe[3][3].numero, m.maglia->spostamento.fine * 1000);
     ASSERT_EQ(m.maglia->usi.size(), 2u);  // a diaphragm: bending both ways
     EXPECT_EQ(p.righe[5][0].testo, "Sfruttamento: flessione con momento positivo [%]");
-    EXPECT_NEAR(*p.righe[5][2].numero, *m.maglia->usi[0].maglie[2]->uso() * 100, 1e-9);
+    EXPECT_NEAR(*p.righe[5][3].numero, *m.maglia->usi[0].maglie[2]->uso() * 100, 1e-9);
 }
 
 TEST(Frasi, AreSentencesOfTheMargin) {

@@ -535,7 +535,7 @@ inline const std::map<std::string, Texts> noTexts = {
     {"batch/tables.cpp", {"xlsx", "FILE", "DIR"}},
     {"batch/run/sheet_files.cpp", {"csv"}},
     {"workbook/charts.cpp", {"General"}},
-    {"workbook/sheets.cpp", {"project", "input", "nodes", "anchors", "checks"}},
+    {"workbook/sheets.cpp", {"project", "input", "nodes", "anchors", "checks", "maglia", "mesh"}},
     {"workbook/xlsx_file.cpp", {"/proc/self/fd/", "korven-xlsx"}},
     {"workbook/xlsx_file.hpp", {"XLSX"}},
     {"report/footer.hpp", {"2,2,2,2,2,2,12,Arial"}},

@@ -42,8 +42,9 @@ TEST(Fogli, HaveASheetForEachPartAndAChartForEachResult) {
     const CartellaFogli cartella = fogli(dossier::fascicolo(progettoSemplice()));
     std::vector<std::string> nomi;
     for (const Foglio& f : cartella.fogli) nomi.push_back(f.prospetto.titolo);
-    EXPECT_EQ(nomi, (std::vector<std::string>{"Progetto", "Dati", "Fasi", "Nodi", "Inviluppo",
-                                              "Tiranti", "Verifiche", "Osservazioni"}));
+    EXPECT_EQ(nomi,
+              (std::vector<std::string>{"Progetto", "Dati", "Fasi", "Nodi", "Inviluppo", "Tiranti",
+                                        "Verifiche", "Errore di maglia", "Osservazioni"}));
     std::vector<std::string> assi;
     for (const Grafico& g : cartella.diagrammi) assi.push_back(g.asse);
     EXPECT_EQ(assi, (std::vector<std::string>{
@@ -57,7 +58,7 @@ TEST(Fogli, HaveASheetForEachPartAndAChartForEachResult) {
 
 TEST(Fogli, SayWhoseNumbersTheyAre) {
     const CartellaFogli cartella = fogli(dossier::fascicolo(progettoSemplice()));
-    for (const char* nome : {"fasi", "nodi", "inviluppo", "tiranti", "verifiche"})
+    for (const char* nome : {"fasi", "nodi", "inviluppo", "tiranti", "verifiche", "maglia"})
         EXPECT_EQ(foglio(cartella, nome).fonte,
                   "Numeri della soluzione di equilibrio, per metro di paratia.");
 }
@@ -156,12 +157,28 @@ TEST(Fogli, CheckTheSectionWithTheEquilibriumThoughThereIsAReport) {
     EXPECT_TRUE(p.note.back().starts_with("Verifiche con i numeri della soluzione di equilibrio"));
 }
 
+TEST(Fogli, HaveTheNumbersAndTheUsesOfThreeMeshes) {
+    const Fascicolo f = esempio("paratia_lunga_incastro");
+    const CartellaFogli cartella = fogli(f);
+    const Prospetto& p = foglio(cartella, "maglia").prospetto;
+    const safety::ErroreMaglia& e = *f.margine->maglia;
+    ASSERT_EQ(p.righe.size(), 5u + e.usi.size());
+    EXPECT_EQ(p.colonne[2].titolo, "100 segmenti");
+    EXPECT_EQ(p.righe[1][1].numero, e.momentoNegativo.valore * 10);
+    EXPECT_EQ(p.righe[1][2].numero, e.momentoNegativo.doppia * 10);
+    EXPECT_EQ(p.righe[1][3].numero, e.momentoNegativo.fine * 10);
+    for (std::size_t i = 0; i < 3; ++i)
+        EXPECT_NEAR(*p.righe[6][1 + i].numero, *e.usi[1].maglie[i]->uso() * 100, 1e-9);
+    ASSERT_EQ(p.note.size(), 1u);  // at the fixed toe a finer mesh uses more
+    EXPECT_TRUE(p.note[0].starts_with("Una maglia più fine dà uno sfruttamento maggiore"));
+}
+
 TEST(Fogli, SayWhyAWallThatDoesNotStandHasNoNumbers) {
     const Fascicolo f =
         dossier::fascicolo(leggiMuro(std::string(KORVEN_WALLS) + "/meccanismo.kvd"));
     const CartellaFogli cartella = fogli(f);
     EXPECT_TRUE(cartella.diagrammi.empty());
-    for (const char* nome : {"nodi", "inviluppo", "verifiche"}) {
+    for (const char* nome : {"nodi", "inviluppo", "verifiche", "maglia"}) {
         const Prospetto& p = foglio(cartella, nome).prospetto;
         EXPECT_TRUE(p.righe.empty()) << nome;
         ASSERT_FALSE(p.note.empty()) << nome;
