@@ -6,6 +6,7 @@
 #include "base/filled_text.hpp"
 #include "base/translated_texts.hpp"
 #include "comparison/wall_results.hpp"
+#include "project/anchor_names.hpp"
 
 namespace korven::comparison {
 
@@ -26,7 +27,7 @@ class Raccolta {
     void aggiungi(const VoceRisultato& voce, int fase, int tirante) {
         RisultatoConfrontato r{
             .codice = voce.codice,
-            .cosa = base::riempito(traduttore(voce.cosa), {std::to_string(tirante)}),
+            .cosa = base::riempito(traduttore(nome(voce, tirante)), {std::to_string(tirante)}),
             .unita = voce.unita,
             .fase = fase,
             .tirante = tirante,
@@ -39,6 +40,18 @@ class Raccolta {
     std::vector<RisultatoConfrontato> trovati;
 
  private:
+    [[nodiscard]] const char* nome(const VoceRisultato& voce, int tirante) const {
+        if (!voce.delTirante) return voce.cosa;
+        int puntoni = 0, tutti = 0;
+        for (const Fascicolo* f : {&prima_, &dopo_}) {
+            if (tirante > static_cast<int>(f->tiranti.size())) continue;
+            ++tutti;
+            if (project::puntone(f->parete.dati, tirante)) ++puntoni;
+        }
+        if (puntoni == 0) return voce.cosa;
+        return puntoni == tutti ? voce.delPuntone : voce.diAmbedue;
+    }
+
     const Fascicolo &prima_, &dopo_;
 };
 

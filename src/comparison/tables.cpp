@@ -6,6 +6,7 @@
 #include "base/colon.hpp"
 #include "base/filled_text.hpp"
 #include "base/translated_texts.hpp"
+#include "comparison/field_words.hpp"
 #include "tables/remark_table.hpp"
 
 namespace korven::comparison {
@@ -126,9 +127,8 @@ Prospetto prospettoCampi(const Confronto& c) {
         .colonne = {tables::colonnaParole("Campo", "Il campo del progetto, con la sua unità"),
                     tables::colonnaParole("Prima", "Valore del primo"),
                     tables::colonnaParole("Dopo", "Valore del secondo")}};
-    for (const project::CampoDiverso& campo : c.campi) {
-        const project::Differenza d =
-            inParole(campo, c.prima.fascicolo.scritti, c.dopo.fascicolo.scritti);
+    for (const project::CampoDiverso& campo : perRighe(c.campi)) {
+        const project::Differenza d = paroleCampo(c, campo);
         p.righe.push_back(
             {tables::parola(d.cosa), valore(d.prima, campo.prima), valore(d.dopo, campo.dopo)});
     }

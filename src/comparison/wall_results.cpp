@@ -38,7 +38,7 @@ Cella fasiInEquilibrio(const Fascicolo& f, int, int) {
 Cella rigidezza(const Fascicolo& f, int, int) {
     const double EJ = f.parete.dati.rigidezzaEJ;
     return EJ == 0 ? senza("Manca la rigidezza EJ.")
-                   : tables::cella(EJ, 0, unita::rigidezzaFlessionale);
+                   : tables::cella(EJ, 0, unita::rigidezzaFlessionaleAlMetro);
 }
 
 template <Estremo Estremi::*quale, Cella (*cella)(double)>
@@ -126,7 +126,7 @@ Cella taglio(const Fascicolo& f, int, int) {
 
 constexpr VoceRisultato voci[] = {
     {"fasi_in_equilibrio", "Fasi in equilibrio", fasiInEquilibrio, unita::nessuna, true},
-    {"rigidezza", "Rigidezza EJ usata", rigidezza, unita::rigidezzaFlessionale, true},
+    {"rigidezza", "Rigidezza EJ usata", rigidezza, unita::rigidezzaFlessionaleAlMetro, true},
     {"spostamento_massimo", "Spostamento massimo",
      estremo<&Estremi::spostamento, tables::spostamento>, unita::spostamentoFine},
     {"momento_massimo", "Momento positivo massimo",
@@ -135,7 +135,8 @@ constexpr VoceRisultato voci[] = {
      estremo<&Estremi::momentoMinimo, tables::momento>, unita::momentoAlMetro},
     {"taglio_massimo", "Taglio massimo", estremo<&Estremi::taglio, tables::forza>,
      unita::forzaAlMetro},
-    {"tiro", "Tiro del tirante %1", tiro, unita::forzaAlMetro, false, true},
+    {"tiro", "Tiro del tirante %1", tiro, unita::forzaAlMetro, false, true, "Forza del puntone %1",
+     "Forza del tirante o puntone %1"},
     {"riduzione", "Riduzione della resistenza F", riduzione, unita::nessuna},
     {"passiva_usata", "Passiva mobilitata", passiva, unita::percento},
     {"lunghezza_minima", "Lunghezza minima", lunghezza, unita::metri, true},

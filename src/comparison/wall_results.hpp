@@ -17,8 +17,10 @@ struct VoceRisultato {
     /// The result of a stage, or with 0 that of the wall; "-" where there is none.
     tables::Cella (*cella)(const dossier::Fascicolo& f, int fase, int tirante);
     const project::Unita& unita;
-    bool soloParete = false;  ///< stages have none of their own
-    bool delTirante = false;  ///< one for each anchor
+    bool soloParete = false;           ///< stages have none of their own
+    bool delTirante = false;           ///< one for each anchor
+    const char* delPuntone = nullptr;  ///< what it is of a strut; Italian key, %1 as above
+    const char* diAmbedue = nullptr;   ///< and where one wall has an anchor, the other a strut
 };
 
 /// All of them, in the order in which they are told.

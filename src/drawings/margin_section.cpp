@@ -13,6 +13,7 @@
 #include "drawings/dashed_line.hpp"
 #include "plot/plot_engine.hpp"
 #include "plot/sheet.hpp"
+#include "project/anchor_names.hpp"
 #include "project/units.hpp"
 
 namespace korven::drawings {
@@ -111,7 +112,8 @@ class Muro {
             plot::linea(xFine + 0.05, yFine + 0.12, xFine - 0.05, yFine - 0.12);
             if (yFine > libera) continue;
             plot::plotPenna(6);
-            plot::testoFinoA(xFine - 0.12, yFine - altezza / 3, altezza, "T" + std::to_string(j));
+            plot::testoFinoA(xFine - 0.12, yFine - altezza / 3, altezza,
+                             project::siglaTirante(dati_, j));
             libera = yFine - 1.3 * altezza;
         }
     }

@@ -11,6 +11,7 @@
 #include "base/translated_texts.hpp"
 #include "equilibrium/extremes.hpp"
 #include "panels/grid_rows.hpp"
+#include "project/anchor_names.hpp"
 #include "project/units.hpp"
 #include "safety/words.hpp"
 
@@ -30,12 +31,12 @@ std::string con(const char* chiave, const equilibrium::Estremo& e, const project
     return riempito(traduttore(chiave), {conUnita(e.valore, unita), safety::metri(e.z)});
 }
 
-std::string tiri(const equilibrium::FaseEquilibrio& fase) {
+std::string tiri(const project::DatiProgetto& dati, const equilibrium::FaseEquilibrio& fase) {
     std::string testo;
     for (std::size_t i = 0; i < fase.tiri.size(); ++i) {
         testo += testo.empty() ? base::puntoEVirgola() + base::conDuePunti(traduttore("tiri"), {})
                                : ", ";
-        testo += "T" + std::to_string(i + 1) + " " +
+        testo += project::siglaTirante(dati, static_cast<int>(i) + 1) + " " +
                  conUnita(fase.tiri[i], project::unita::forzaAlMetro);
     }
     return testo;
@@ -47,7 +48,8 @@ std::string cheSta(const live::PareteViva& parete, const equilibrium::FaseEquili
         riempito(traduttore("fase %1 in equilibrio"), {std::to_string(fase.fase)}),
         con("spostamento massimo %1 a %2 m", e.spostamento, project::unita::spostamentoFine) +
             ", " + con("momento %1 a %2 m", e.momento(), project::unita::momentoAlMetro) + ", " +
-            con("taglio %1 a %2 m", e.taglio, project::unita::forzaAlMetro) + tiri(fase));
+            con("taglio %1 a %2 m", e.taglio, project::unita::forzaAlMetro) +
+            tiri(parete.dati, fase));
 }
 
 }  // namespace

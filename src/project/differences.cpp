@@ -1,13 +1,17 @@
 #include "project/differences.hpp"
 
 #include <algorithm>
+#include <string_view>
 #include <type_traits>
+#include <utility>
 #include <variant>
 
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
+#include "project/anchor_names.hpp"
 #include "project/code_words.hpp"
 #include "project/field_table.hpp"
+#include "project/units_per_metre.hpp"
 
 namespace korven::project {
 
@@ -43,12 +47,27 @@ Valore valore(const DatiProgetto& dati, const Campo& campo, int riga) {
 
 bool bandiera(const Campo& campo) { return std::holds_alternative<bool Sezione::*>(campo.membro); }
 
-std::string detto(const Campo& campo, int riga) {
+// Of a strut in place of an anchor.
+constexpr std::pair<Membro, std::string_view> deiPuntoni[] = {
+    {&DatiProgetto::profTirante, "profondità del puntone"},
+    {&DatiProgetto::rigTirante, "rigidezza del puntone"},
+    {&DatiProgetto::pretTirante, "pretensione del puntone"},
+};
+
+bool puntoneDove(const DatiProgetto& dati, bool ceLaRiga, int riga) {
+    return !ceLaRiga || puntone(dati, riga);
+}
+
+std::string_view cosa(const CampoDiverso& diverso, const DatiProgetto& prima,
+                      const DatiProgetto& dopo) {
+    const Campo& campo = *diverso.campo;
     // Of a flag the file's own name says how it is written there.
-    std::string cosa = traduttore(bandiera(campo) ? campo.didascalia : campo.cosa);
-    if (colonna(campo)) cosa += ' ' + std::to_string(riga);
-    const std::string unita = traParentesi(campo.unita);
-    return unita.empty() ? cosa : cosa + ' ' + unita;
+    if (bandiera(campo)) return campo.didascalia;
+    for (const auto& [membro, nome] : deiPuntoni)
+        if (membro == campo.membro && puntoneDove(prima, diverso.prima, diverso.riga) &&
+            puntoneDove(dopo, diverso.dopo, diverso.riga))
+            return nome;
+    return campo.cosa;
 }
 
 }  // namespace
@@ -66,10 +85,16 @@ std::vector<CampoDiverso> campiDiversi(const DatiProgetto& prima, const DatiProg
     return diversi;
 }
 
-Differenza inParole(const CampoDiverso& campo, const DatiProgetto& prima,
-                    const DatiProgetto& dopo) {
-    return {detto(*campo.campo, campo.riga), valore(prima, *campo.campo, campo.riga).mostrato,
-            valore(dopo, *campo.campo, campo.riga).mostrato};
+Differenza inParole(const CampoDiverso& diverso, const DatiProgetto& prima,
+                    const DatiProgetto& dopo, const std::string& nome) {
+    const Campo& campo = *diverso.campo;
+    std::string detto = traduttore(cosa(diverso, prima, dopo));
+    if (colonna(campo)) detto += ' ' + std::to_string(diverso.riga);
+    if (!nome.empty()) detto += " (" + nome + ')';
+    if (const std::string unita = traParentesi(unitaAlMetro(campo)); !unita.empty())
+        detto += ' ' + unita;
+    return {std::move(detto), valore(prima, campo, diverso.riga).mostrato,
+            valore(dopo, campo, diverso.riga).mostrato};
 }
 
 std::vector<Differenza> differenze(const DatiProgetto& prima, const DatiProgetto& dopo) {

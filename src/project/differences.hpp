@@ -25,16 +25,19 @@ struct CampoDiverso {
 
 /// A value in which two states of a project differ, in the words and units that people see.
 struct Differenza {
-    std::string cosa;  ///< "pretensione del tirante 2 [kN]", translated
+    std::string cosa;  ///< "pretensione del tirante 2 [kN/m]", translated
     std::string prima,
         dopo;  ///< a number, the name of a code, a text; empty where there is no such row
 
     bool operator==(const Differenza&) const = default;
 };
 
-/// One of them in words. @pre found between these two
-[[nodiscard]] Differenza inParole(const CampoDiverso& campo, const DatiProgetto& prima,
-                                  const DatiProgetto& dopo);
+/// One of them in words. What acts on a metre of wall has its unit (`unitaAlMetro`); what both
+/// states, or the one that has it, know as a strut is called so.
+/// @param nome  what people call the row beside its number: "sabbia limosa"; empty: nothing
+/// @pre found between these two
+[[nodiscard]] Differenza inParole(const CampoDiverso& diverso, const DatiProgetto& prima,
+                                  const DatiProgetto& dopo, const std::string& nome = {});
 
 /// All of `campiDiversi` in words.
 [[nodiscard]] std::vector<Differenza> differenze(const DatiProgetto& prima,

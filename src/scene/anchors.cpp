@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "analysis/pressure_coefficients.hpp"
-#include "project/codes.hpp"
+#include "project/anchor_names.hpp"
 #include "scene/parts.hpp"
 #include "scene/polygon.hpp"
 #include "scene/shown_values.hpp"
@@ -25,7 +25,7 @@ class Tiranti {
         const double z = m_.dati().profTirante[j];
         if (!disegnabile(z) || !q_.visibile(q_.y(z))) return;
         const bool inOpera = j <= m_.tirantiInOpera();
-        if (m_.dati().tipoTirante[j] == project::TipoTirante::trazioneCompressione)
+        if (project::puntone(m_.dati(), j))
             puntone(j, q_.y(z), inOpera);
         else
             tirante(j, q_.y(z), inOpera);
@@ -94,7 +94,7 @@ class Tiranti {
 
     // Number, depth and force; as much of it as there is room for.
     void scrivi(int j, bool inOpera, const std::vector<Posto>& posti) {
-        const std::string nome = "T" + std::to_string(j);
+        const std::string nome = project::siglaTirante(m_.dati(), j);
         const std::string dove = "  " + quota(m_.dati().profTirante[j]);
         const double* t = q_.stretta ? nullptr : m_.tiro(j);
         const std::string forza = t != nullptr && inOpera

@@ -18,14 +18,14 @@ class Testa {
     void forza(double t) {
         const double y = q_.yTesta - 0.45 * q_.em, da = q_.xValle + 3, a = da + 2.6 * q_.em;
         freccia(t > 0 ? std::vector<Punto>{{da, y}, {a, y}} : std::vector<Punto>{{a, y}, {da, y}});
-        scrivi("F " + conUnita(t, project::unita::forza),
+        scrivi("F " + conUnita(t, project::unita::forzaAlMetro),
                {{{a + 0.4 * q_.em, y}, Ancora::sinistra}, {{da, y - q_.em}, Ancora::sinistra}});
     }
 
     void assiale(double t) {
         const double x = q_.xMuro(), da = q_.yTesta - 3.6 * q_.em, a = q_.yTesta - 2;
         freccia(t > 0 ? std::vector<Punto>{{x, da}, {x, a}} : std::vector<Punto>{{x, a}, {x, da}});
-        scrivi("N " + conUnita(t, project::unita::forza),
+        scrivi("N " + conUnita(t, project::unita::forzaAlMetro),
                {{{x + 0.4 * q_.em, da - 0.3 * q_.em}, Ancora::sinistra},
                 {{x - 0.4 * q_.em, da - 0.3 * q_.em}, Ancora::destra}});
     }
@@ -41,7 +41,7 @@ class Testa {
         }
         freccia(std::move(arco));
         const double x = q_.xMuro() + r + 0.5 * q_.em, y = yc - 0.6 * q_.em;
-        scrivi("M " + conUnita(tm, project::unita::momento),
+        scrivi("M " + conUnita(tm, project::unita::momentoAlMetro),
                {{{x, y}, Ancora::sinistra}, {{q_.xMuro() - r - 0.5 * q_.em, y}, Ancora::destra}});
     }
 

@@ -160,8 +160,7 @@ void scriviPiede(const Mostrata& m, const Inquadratura& q, Tela& tela) {
     const double corpo = 0.9 * q.em;
     const double ej = m.dati().rigidezzaEJ;
     if (!std::isfinite(ej) || ej == 0) return;
-    // Of one metre of wall, as the panel of the section says it.
-    std::string testo = "EJ " + breve(ej, project::unita::rigidezzaFlessionale, 0) + "/m";
+    std::string testo = "EJ " + breve(ej, project::unita::rigidezzaFlessionaleAlMetro, 0);
     if (m.parete.ejDellaSezione) testo += " " + traduttore("dalla sezione");
     tela.scrivi({.testo = accorciato(testo, q.larghezza - 1.6 * q.em, corpo, false, tela.misura()),
                  .tinta = {Ruolo::testoTenue},

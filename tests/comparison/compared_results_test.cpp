@@ -28,6 +28,21 @@ TEST(RisultatiConfrontati, HaveBothMomentsOfABeamAndTheirDifference) {
     EXPECT_NEAR(*test::risultato(indietro, "momento_massimo").quota(), -0.5, 1e-9);
 }
 
+TEST(RisultatiConfrontati, NameAStrutForWhatItIsInBothWalls) {
+    auto prima = progettoSemplice();
+    auto dopo = prima;
+    dopo.tipoTirante[1] = 1;
+    const auto nome = [](const auto& a, const auto& b) {
+        return test::risultato(test::confronto(a, b), "tiro", 0, 1).cosa;
+    };
+    EXPECT_EQ(nome(prima, prima), "Tiro del tirante 1");
+    EXPECT_EQ(nome(prima, dopo), "Forza del tirante o puntone 1");
+    EXPECT_EQ(nome(dopo, dopo), "Forza del puntone 1");
+    prima.nTiranti = 0;
+    prima.tirantiFase[2] = 0;
+    EXPECT_EQ(nome(prima, dopo), "Forza del puntone 1");
+}
+
 TEST(RisultatiConfrontati, AreNoShareOfAZero) {
     const Confronto c = test::confronto(test::trave(0), test::trave(3));
     const auto& M = test::risultato(c, "momento_massimo");

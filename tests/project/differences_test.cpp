@@ -27,7 +27,7 @@ TEST(Differenze, AreToldInTheShownUnitAndWithTheNamesOfCodes) {
     EXPECT_EQ(trovate[0].dopo, "Bell");
     EXPECT_EQ(trovate[1].cosa, "lunghezza della paratia [m]");
     EXPECT_EQ(trovate[1].dopo, "12.5");
-    EXPECT_EQ(trovate[2].cosa, "pretensione del tirante 1 [kN]");
+    EXPECT_EQ(trovate[2].cosa, "pretensione del tirante 1 [kN/m]");
     EXPECT_EQ(trovate[2].dopo, "57");
     EXPECT_EQ(trovate[3].cosa, "titolo 2");
     EXPECT_EQ(trovate[3].dopo, "Lotto 2");
@@ -56,10 +56,26 @@ TEST(Differenze, HoldTheRowsThatOnlyOneOfThemHas) {
     const Elenco trovate = differenze(prima, dopo);
     EXPECT_EQ(trovate, (Elenco{{"numero dei tiranti", "0", "1"},
                                {"profondità del tirante 1 [m]", "", "1.5"},
-                               {"rigidezza del tirante 1 [kN/m]", "", "2000"},
-                               {"pretensione del tirante 1 [kN]", "", "0"},
+                               {"rigidezza del tirante 1 [kN/m/m]", "", "2000"},
+                               {"pretensione del tirante 1 [kN/m]", "", "0"},
                                {"tipo del tirante 1", "", "Solo traz."}}));
     EXPECT_EQ(differenze(dopo, prima)[1], (Differenza{"profondità del tirante 1 [m]", "1.5", ""}));
+}
+
+TEST(Differenze, CallAStrutWhatItIsInEveryStateThatHasIt) {
+    DatiProgetto prima;
+    prima.nTiranti = 1;
+    prima.profTirante[1] = 1.5;
+    DatiProgetto dopo = prima;
+    dopo.profTirante[1] = 2;
+    dopo.tipoTirante[1] = 1;
+    // A type that changes makes neither of it.
+    EXPECT_EQ(differenze(prima, dopo)[0].cosa, "profondità del tirante 1 [m]");
+    prima.tipoTirante[1] = 1;
+    EXPECT_EQ(differenze(prima, dopo)[0].cosa, "profondità del puntone 1 [m]");
+    prima.nTiranti = 0;
+    prima.tipoTirante[1] = 0;  // beyond the count
+    EXPECT_EQ(differenze(prima, dopo)[1].cosa, "profondità del puntone 1 [m]");
 }
 
 TEST(Differenze, CountOnlyAsFarAsTheFileHoldsANumber) {

@@ -171,6 +171,9 @@ TEST(Scena, DrawsStrutsOnTheExcavatedSide) {
     const Riquadro barra = intorno(figure<Area>(s, Elemento::tirante, 1).at(0).punti);
     EXPECT_EQ(barra.sinistra, pianta(s).destra);
     EXPECT_NEAR((barra.alto + barra.basso) / 2, s.y(1.5), 1e-9);
+    const auto nomi = testi(s, Elemento::tirante, 1);
+    ASSERT_EQ(nomi.size(), 1U);
+    EXPECT_TRUE(nomi[0].starts_with("P1  ")) << nomi[0];
 }
 
 TEST(Scena, ShowsTheLoadsWithTheirValues) {
@@ -184,9 +187,9 @@ TEST(Scena, ShowsTheLoadsWithTheirValues) {
     EXPECT_TRUE(dice(testi(s, Elemento::sovraccarico), "q 10 kN/m²"));
     EXPECT_TRUE(dice(testi(s, Elemento::sovraccarico, 2), "q 5 kN/m²"));
     EXPECT_TRUE(dice(testi(s, Elemento::sovraccarico), "p 2.5 kN/m²"));
-    EXPECT_TRUE(dice(testi(s, Elemento::caricoTesta), "M 20.0 kN m"));
-    EXPECT_TRUE(dice(testi(s, Elemento::caricoTesta), "F -15.0 kN"));
-    EXPECT_TRUE(dice(testi(s, Elemento::caricoTesta), "N 300.0 kN"));
+    EXPECT_TRUE(dice(testi(s, Elemento::caricoTesta), "M 20.0 kN m/m"));
+    EXPECT_TRUE(dice(testi(s, Elemento::caricoTesta), "F -15.0 kN/m"));
+    EXPECT_TRUE(dice(testi(s, Elemento::caricoTesta), "N 300.0 kN/m"));
 }
 
 TEST(Scena, PointsLoadsTheWayTheyAct) {

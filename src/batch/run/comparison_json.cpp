@@ -3,7 +3,9 @@
 
 #include "batch/run/comparison_outcome.hpp"
 #include "batch/run/json_numbers.hpp"
+#include "comparison/field_words.hpp"
 #include "project/field_table.hpp"
+#include "project/units_per_metre.hpp"
 
 namespace korven::batch {
 
@@ -40,8 +42,8 @@ Json campi(const Confronto& c) {
     const auto &prima = c.prima.fascicolo.scritti, &dopo = c.dopo.fascicolo.scritti;
     for (const project::CampoDiverso& d : c.campi)
         tutti.push_back({{"campo", nomeStabile(*d.campo, d.riga)},
-                         {"cosa", inParole(d, prima, dopo).cosa},
-                         {"unita", d.campo->unita.mostrata},
+                         {"cosa", paroleCampo(c, d).cosa},
+                         {"unita", unitaAlMetro(*d.campo).mostrata},
                          {"prima", valore(prima, *d.campo, d.riga, d.prima)},
                          {"dopo", valore(dopo, *d.campo, d.riga, d.dopo)}});
     return tutti;

@@ -10,6 +10,7 @@
 #include "drawings/annex/paper.hpp"
 #include "drawings/annex/wall_curves.hpp"
 #include "drawings/annex/wall_view.hpp"
+#include "project/anchor_names.hpp"
 #include "project/units.hpp"
 #include "scene/shown_values.hpp"
 #include "scene/shown_wall.hpp"
@@ -66,7 +67,7 @@ class ElencoTiranti {
         double massimo = 0;
         for (int j = 1; j <= m.tirantiInOpera(); ++j)
             if (const double* t = m.tiro(j)) {
-                testi_.push_back('T' + std::to_string(j) + "  " +
+                testi_.push_back(project::nomeTirante(parete.dati, j) + "  " +
                                  conUnita(*t, project::unita::forzaAlMetro));
                 massimo = std::max(massimo, testi.larghezza(testi_.back(), corpoPiccolo, false));
             }

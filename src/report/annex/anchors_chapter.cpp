@@ -2,7 +2,7 @@
 
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
-#include "project/codes.hpp"
+#include "project/anchor_names.hpp"
 #include "project/field_table.hpp"
 #include "report/annex/chapters.hpp"
 #include "report/annex/columns.hpp"
@@ -25,10 +25,6 @@ namespace unita = project::unita;
 namespace {
 
 constexpr const char* maiInOpera = "In nessuna fase in equilibrio il tirante è in opera.";
-
-bool puntone(const DatiProgetto& dati, int j) {
-    return dati.tipoTirante[j] == project::TipoTirante::trazioneCompressione;
-}
 
 // How many ties and how many struts the table has.
 struct Conto {

@@ -10,10 +10,11 @@
 #include "base/filled_text.hpp"
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
+#include "drawings/log/layer_text.hpp"
 #include "live/section_checks.hpp"
 #include "project/code_words.hpp"
 #include "project/codes.hpp"
-#include "report/annex/layer_text.hpp"
+#include "project/units_per_metre.hpp"
 
 namespace korven::report {
 
@@ -129,23 +130,9 @@ bool flag(const Campo& campo) {
     return std::holds_alternative<bool project::Sezione::*>(campo.membro);
 }
 
-// What acts on a metre of wall, as all that is computed. The editors leave that out.
-constexpr std::pair<project::Membro, const project::Unita*> alMetro[] = {
-    {&DatiProgetto::rigidezzaEJ, &unita::rigidezzaFlessionaleAlMetro},
-    {&DatiProgetto::momentoTesta, &unita::momentoAlMetro},
-    {&DatiProgetto::forzaTesta, &unita::forzaAlMetro},
-    {&DatiProgetto::sforzoNormale, &unita::forzaAlMetro},
-    {&DatiProgetto::rigTirante, &unita::rigidezzaAlMetro},
-    {&DatiProgetto::pretTirante, &unita::forzaAlMetro},
-};
-
 }  // namespace
 
-std::string unitaDetta(const Campo& campo) {
-    for (const auto& [membro, unita] : alMetro)
-        if (membro == campo.membro) return std::string(unita->mostrata);
-    return std::string(campo.unita.mostrata);
-}
+std::string unitaDetta(const Campo& campo) { return std::string(unitaAlMetro(campo).mostrata); }
 
 Cella scritto(const DatiProgetto& dati, const Campo& campo, int riga) {
     Cella fatta;
@@ -154,7 +141,7 @@ Cella scritto(const DatiProgetto& dati, const Campo& campo, int riga) {
         if constexpr (std::is_same_v<Valore, std::string>) {
             if (!valore.empty())
                 fatta = tables::parola(campo.membro == project::Membro(&DatiProgetto::descrStrato)
-                                           ? testoStrato(valore)
+                                           ? drawings::testoStrato(valore)
                                            : valore);
         } else if constexpr (std::is_same_v<Valore, bool>) {
             fatta = tables::parola(traduttore(valore ? "sì" : "no"));

@@ -5,6 +5,7 @@
 #include "base/code_page.hpp"
 #include "base/filled_text.hpp"
 #include "base/translated_texts.hpp"
+#include "project/anchor_names.hpp"
 #include "report/annex/columns.hpp"
 #include "report/annex/table_pieces.hpp"
 #include "tables/quantities.hpp"

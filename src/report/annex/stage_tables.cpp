@@ -7,6 +7,7 @@
 #include "base/filled_text.hpp"
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
+#include "project/anchor_names.hpp"
 #include "project/field_table.hpp"
 #include "report/annex/columns.hpp"
 #include "report/annex/table_pieces.hpp"

@@ -5,9 +5,7 @@
 #include <utility>
 
 #include "base/code_page.hpp"
-#include "base/filled_text.hpp"
 #include "base/translated_texts.hpp"
-#include "project/codes.hpp"
 
 namespace korven::report {
 
@@ -38,11 +36,6 @@ Cella ordineDiGrandezza(double mostrato) {
             std::to_chars(testo, testo + sizeof testo, mostrato, std::chars_format::scientific, 1)
                 .ptr;
     return {.testo = std::string(testo, fine), .numero = mostrato + 0.0};
-}
-
-std::string nomeTirante(const project::DatiProgetto& dati, int j) {
-    const bool puntone = dati.tipoTirante[j] == project::TipoTirante::trazioneCompressione;
-    return base::riempito(traduttore(puntone ? "Puntone %1" : "Tirante %1"), {std::to_string(j)});
 }
 
 void paragrafo(std::string testo, Blocchi& blocchi, document::Stile stile) {

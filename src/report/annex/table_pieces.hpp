@@ -25,10 +25,6 @@ namespace korven::report {
 /// @param mostrato  in the shown unit
 [[nodiscard]] tables::Cella ordineDiGrandezza(double mostrato);
 
-/// "Tirante 2", of one that takes compression "Puntone 2".
-/// @param j  row of the table of anchors, from 1
-[[nodiscard]] std::string nomeTirante(const project::DatiProgetto& dati, int j);
-
 /// Adds one block.
 void paragrafo(std::string testo, Blocchi& blocchi,
                document::Stile stile = document::Stile::normale);

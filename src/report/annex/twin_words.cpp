@@ -8,6 +8,7 @@
 #include "base/colon.hpp"
 #include "base/filled_text.hpp"
 #include "base/translated_texts.hpp"
+#include "project/anchor_names.hpp"
 #include "project/shown_number.hpp"
 #include "report/annex/columns.hpp"
 #include "report/annex/table_pieces.hpp"

@@ -1,4 +1,4 @@
-#include "report/annex/layer_text.hpp"
+#include "drawings/log/layer_text.hpp"
 
 #include <algorithm>
 
@@ -9,7 +9,7 @@
 #include "drawings/log/hatch_choice.hpp"
 #include "drawings/log/layer_description.hpp"
 
-namespace korven::report {
+namespace korven::drawings {
 
 namespace {
 
@@ -24,7 +24,7 @@ std::string nomeCampitura(int numero) {
 // The lowest first; empty for a code that draws nothing.
 std::string campiture(std::string_view descrStrato) {
     std::string nomi;
-    for (const auto& gruppo : drawings::leggiCodice(descrStrato).gruppi)
+    for (const auto& gruppo : leggiCodice(descrStrato).gruppi)
         if (gruppo.campitura != 0)
             nomi += (nomi.empty() ? "" : ", ") + nomeCampitura(gruppo.campitura);
     return nomi;
@@ -33,9 +33,8 @@ std::string campiture(std::string_view descrStrato) {
 }  // namespace
 
 std::string testoStrato(std::string_view descrStrato) {
-    const bool conCodice = drawings::haCodice(descrStrato);
-    std::string testo =
-        conCodice ? drawings::leggiDescrizione(descrStrato).testo : std::string(descrStrato);
+    const bool conCodice = haCodice(descrStrato);
+    std::string testo = conCodice ? leggiDescrizione(descrStrato).testo : std::string(descrStrato);
     std::replace(testo.begin(), testo.end(), '|', '\n');
     if (const std::string nomi = campiture(descrStrato); conCodice && !nomi.empty())
         testo += (testo.empty() ? "[" : "\n[") +
@@ -43,4 +42,4 @@ std::string testoStrato(std::string_view descrStrato) {
     return testo;
 }
 
-}  // namespace korven::report
+}  // namespace korven::drawings

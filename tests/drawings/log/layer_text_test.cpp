@@ -1,8 +1,8 @@
-#include "report/annex/layer_text.hpp"
+#include "drawings/log/layer_text.hpp"
 
 #include <gtest/gtest.h>
 
-namespace korven::report {
+namespace korven::drawings {
 namespace {
 
 // Without a program folder a pattern is its number.
@@ -23,4 +23,4 @@ TEST(TestoStrato, NamesNoPatternWhereNoneIsDrawn) {
 }
 
 }  // namespace
-}  // namespace korven::report
+}  // namespace korven::drawings

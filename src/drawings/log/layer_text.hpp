@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-namespace korven::report {
+namespace korven::drawings {
 
 /// The description of a layer as the log sets it, its lines below each other, with the names of its
 /// patterns in place of their code: "Limo argilloso.\nTorba.\n[campitura: 5 Argilla]". A first word
@@ -11,4 +11,4 @@ namespace korven::report {
 /// its number.
 [[nodiscard]] std::string testoStrato(std::string_view descrStrato);
 
-}  // namespace korven::report
+}  // namespace korven::drawings

@@ -1,0 +1,27 @@
+#include "project/anchor_names.hpp"
+
+#include "base/filled_text.hpp"
+#include "base/translated_texts.hpp"
+#include "project/codes.hpp"
+
+namespace korven::project {
+
+using base::riempito;
+using base::traduttore;
+
+bool puntone(const DatiProgetto& dati, int j) {
+    return dati.tipoTirante[j] == TipoTirante::trazioneCompressione;
+}
+
+std::string nomeTirante(const DatiProgetto& dati, int j) {
+    return riempito(traduttore(puntone(dati, j) ? "Puntone %1" : "Tirante %1"),
+                    {std::to_string(j)});
+}
+
+std::string siglaTirante(const DatiProgetto& dati, int j) {
+    // An anchor goes by the symbol of its force in every language.
+    return puntone(dati, j) ? riempito(traduttore("P%1"), {std::to_string(j)})
+                            : 'T' + std::to_string(j);
+}
+
+}  // namespace korven::project

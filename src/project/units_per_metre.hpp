@@ -1,0 +1,12 @@
+#pragma once
+
+#include "project/field_table.hpp"
+
+namespace korven::project {
+
+/// The unit of a field where it is told that it counts a metre of wall: "kN/m" of a force that the
+/// editors, the report and its drawings show in "kN". Both have the same factor. The field's own
+/// unit for all that acts on no metre of wall.
+[[nodiscard]] const Unita& unitaAlMetro(const Campo& campo);
+
+}  // namespace korven::project
