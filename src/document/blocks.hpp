@@ -17,6 +17,8 @@ namespace korven::document {
 struct Titolo {
     int livello = 1;  ///< 1 to 3
     std::string testo;
+    /// Begins a page where less than this is left [cm].
+    double posto = 0;
 };
 
 enum class Stile {

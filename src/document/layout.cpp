@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "document/contents_strips.hpp"
+#include "document/kept_together.hpp"
 #include "document/line_breaking.hpp"
 #include "document/table_strips.hpp"
 #include "document/text_strips.hpp"
@@ -16,18 +17,13 @@ constexpr Carattere carattereBordo{7.5};
 constexpr double distanzaFiletto = 0.45 * puntiPerCentimetro;  // from the text
 constexpr double distanzaScritta = 4;                          // from that line
 
-// A note below a table tells of it: alone it heads no page.
-bool notaDiTavola(const Documento& documento, std::size_t i) {
-    if (i == 0 || !std::holds_alternative<Tavola>(documento.blocchi[i - 1])) return false;
-    const auto* paragrafo = std::get_if<Paragrafo>(&documento.blocchi[i]);
-    return paragrafo != nullptr && paragrafo->stile == Stile::nota;
-}
-
 Strisce strisce(const Documento& documento, const Formato& formato, const MisuraCaratteri& misura) {
     Strisce tutte;
+    std::vector<std::size_t> inizi;
     bool salto = false;
     for (std::size_t i = 0; i < documento.blocchi.size(); ++i) {
         const std::size_t prima = tutte.size();
+        inizi.push_back(prima);
         std::visit(
             [&](const auto& b) {
                 using B = std::decay_t<decltype(b)>;
@@ -39,10 +35,10 @@ Strisce strisce(const Documento& documento, const Formato& formato, const Misura
                     aggiungi(b, formato, misura, tutte);
             },
             documento.blocchi[i]);
-        if (tutte.size() == prima) continue;
-        tutte[prima].nuovaPagina = std::exchange(salto, false);
-        if (prima > 0 && notaDiTavola(documento, i)) tutte[prima - 1].legata = true;
+        if (tutte.size() != prima) tutte[prima].nuovaPagina = std::exchange(salto, false);
     }
+    inizi.push_back(tutte.size());
+    lega(documento, inizi, tutte);
     return tutte;
 }
 

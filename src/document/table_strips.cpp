@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "base/translated_texts.hpp"
+#include "document/kept_together.hpp"
 #include "document/line_breaking.hpp"
 #include "document/table_columns.hpp"
 #include "document/text_strips.hpp"
@@ -156,6 +157,15 @@ class PartiTavola {
     const double larga_;
 };
 
+// A table that a glance takes in is not parted.
+bool corta(const Striscia* da, const Striscia* a, std::size_t righe, const Formato& formato) {
+    constexpr std::size_t poche = 8;
+    constexpr double quota = 0.27, quotaPoche = 0.4;  // of the text of a page
+    double alta = 0;
+    for (; da != a; ++da) alta += da->altezza;
+    return alta <= (righe <= poche ? quotaPoche : quota) * formato.altezzaTesto();
+}
+
 // @param primo  whether the columns are the first of the table; all else goes on with it
 void accodaParte(const PartiTavola& parte, const Prospetto& prospetto, bool primo,
                  const Formato& formato, Strisce& strisce) {
@@ -163,6 +173,7 @@ void accodaParte(const PartiTavola& parte, const Prospetto& prospetto, bool prim
     const std::string& titolo = prospetto.titolo;
     const std::string segue =
         titolo.empty() ? titolo : titolo + " (" + base::traduttore("segue") + ")";
+    const std::size_t prima = strisce.size();
     strisce.push_back(parte.testa(primo ? titolo : segue));
     const auto seguito = std::make_shared<const Striscia>(parte.testa(segue));
     const double massima =
@@ -173,6 +184,8 @@ void accodaParte(const PartiTavola& parte, const Prospetto& prospetto, bool prim
             striscia.legata = righe > 1 && (i == 0 || i + 2 == righe);
             strisce.push_back(std::move(striscia));
         }
+    if (corta(strisce.data() + prima, strisce.data() + strisce.size(), righe, formato))
+        for (std::size_t i = prima; i + 1 < strisce.size(); ++i) strisce[i].legata = true;
     strisce.back().dopo = 8;
 }
 
@@ -210,9 +223,12 @@ void aggiungi(const Tavola& tavola, const Formato& formato, const MisuraCaratter
                         std::exchange(primo, false), formato, strisce);
     }
     const auto sotto = note(prospetto);
-    // The first one tells of the rows above it: alone it heads no page.
-    if (!sotto.empty() && !strisce.empty()) strisce.back().legata = true;
+    // They tell of the rows above them: alone they head no page, unless they are long.
+    const std::size_t prima = strisce.size();
     for (const auto& nota : sotto) aggiungi(Paragrafo{nota, Stile::nota}, formato, misura, strisce);
+    if (prima == 0) return;
+    for (std::size_t i = prima; i < std::min(strisce.size(), prima + righeNota); ++i)
+        strisce[i - 1].legata = true;
 }
 
 }  // namespace korven::document

@@ -80,8 +80,9 @@ void aggiungi(const Titolo& titolo, const Formato& formato, const MisuraCaratter
         righe(inRighe(titolo.testo, formato.larghezzaTesto(), v.carattere, misura), v, misura);
     for (auto& striscia : nuove) striscia.legata = true;
     nuove.front().segnalibro = Segnalibro{livello, titolo.testo, 0, 0};
+    nuove.front().posto = titolo.posto * puntiPerCentimetro;
     if (livello == 1) {
-        nuove.front().posto = postoCapitolo * formato.altezzaTesto();
+        nuove.front().posto = std::max(nuove.front().posto, postoCapitolo * formato.altezzaTesto());
         Striscia& ultima = nuove.back();
         ultima.altezza += 2;
         ultima.contenuto.filetti.push_back(

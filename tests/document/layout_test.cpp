@@ -201,6 +201,51 @@ TEST(Impagina, LeavesNeitherTheFirstNorTheLastRowOfATableAlone) {
     }
 }
 
+TEST(Impagina, TearsNoTableOfFewRows) {
+    for (int prima = righePerPagina() - 20; prima <= righePerPagina(); ++prima) {
+        const Impaginato fatto = posto({righe(prima), Tavola{test::larga(3, 8)}});
+        for (std::size_t i = 0; i < fatto.pagine.size(); ++i) {
+            const std::string pagina = testi(fatto, i);
+            EXPECT_EQ(pagina.find("Tirante 1|") == std::string::npos,
+                      pagina.find("Tirante 8|") == std::string::npos)
+                << prima;
+        }
+    }
+}
+
+TEST(Impagina, KeepsAShortTextWithTheTableThatItIntroduces) {
+    for (int prima = righePerPagina() - 20; prima <= righePerPagina(); ++prima) {
+        const Impaginato fatto = posto({righe(prima), Titolo{2, "Tiranti"}, Paragrafo{"Forze"},
+                                        Paragrafo{"orizzontali"}, Tavola{test::nodi(60)}});
+        for (std::size_t i = 0; i < fatto.pagine.size(); ++i) {
+            const std::string pagina = testi(fatto, i);
+            if (pagina.find("Tiranti|") == std::string::npos) continue;
+            EXPECT_NE(pagina.find("Tiranti|Forze|orizzontali|Nodi della fase 2|"),
+                      std::string::npos)
+                << prima;
+        }
+    }
+}
+
+// Of a long one the last two lines are enough.
+TEST(Impagina, LeavesALongTextWhereItIs) {
+    const Impaginato fatto = posto({righe(righePerPagina() - 4), Tavola{test::nodi(60)}});
+    const std::string seconda = testi(fatto, 1);
+    const std::string ultime = std::to_string(righePerPagina() - 5) + "|" +
+                               std::to_string(righePerPagina() - 4) + "|Nodi della fase 2|";
+    EXPECT_TRUE(seconda.starts_with(ultime)) << seconda.substr(0, 60);
+}
+
+TEST(Impagina, BeginsAPageForAHeadingThatWantsMoreRoomThanIsLeft) {
+    const auto pagine = [](double posto_) {
+        return posto({righe(righePerPagina() / 2), Titolo{2, "Fase 2", posto_}, righe(1)})
+            .pagine.size();
+    };
+    EXPECT_EQ(pagine(0), 1U);
+    EXPECT_EQ(pagine(11), 1U);  // of the 12.6 cm that are left
+    EXPECT_EQ(pagine(14), 2U);
+}
+
 TEST(Impagina, PartsARowThatIsHigherThanAPageBetweenItsLines) {
     std::string lungo;
     for (int i = 0; i < 2000; ++i) lungo += "parola" + std::to_string(i) + " ";

@@ -153,9 +153,9 @@ void alLimite(const Contesto& contesto, int fase, Blocchi& blocchi) {
 
 void unaFase(const Contesto& contesto, int fase, Blocchi& blocchi) {
     const Fascicolo& f = *contesto.fascicolo;
-    // The first stands below what is said of all.
-    if (fase > 1) blocchi.emplace_back(document::SaltoPagina{});
-    blocchi.emplace_back(document::Titolo{2, tables::titoloFase(fase)});
+    // With its drawing, made lower if need be, and the peaks below that.
+    constexpr double postoFase = altezzaMinima + 5.8;  // [cm]
+    blocchi.emplace_back(document::Titolo{2, tables::titoloFase(fase), postoFase});
     if (f.parete.fase(fase) == nullptr)
         paragrafo(tables::perche(f.parete, fase), blocchi, Stile::pericolo);
     tavola(prospettoCondizioni(f.parete.dati, fase), blocchi);
