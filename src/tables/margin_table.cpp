@@ -149,11 +149,11 @@ Prospetto prospettoMargine(const Margine& margine) {
 Prospetto prospettoStatica(const Margine& margine) {
     const Colonna z = colonnaSimbolo(unita::metri, "z", "Profondità del valore a sinistra");
     Prospetto p{
-        .titolo = traduttore("Statica e relazione"),
+        .titolo = traduttore("Equilibrio e relazione"),
         .colonne = {
             colonna(unita::nessuna, "Fase", "Numero della fase"),
             colonnaParole("Massimi", "Grandezza, con la sua unità"),
-            colonna(unita::nessuna, "Statica", "Dall'equilibrio dei nodi della stessa paratia"), z,
+            colonna(unita::nessuna, "Equilibrio", "Dall'equilibrio dei nodi della stessa paratia"), z,
             colonna(unita::nessuna, "Relazione",
                     "Come lo trova il calcolo per fasi e lo usa la relazione"),
             z}};

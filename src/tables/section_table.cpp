@@ -114,7 +114,7 @@ std::vector<Colonna> colonne() {
             colonna(unita::nessuna, "Di progetto",
                     "Valore di progetto: il massimo di calcolo per il coefficiente delle azioni"),
             colonna(unita::nessuna, "Resistenza", "Resistenza di progetto della sezione"),
-            colonna(unita::percento, "Usata", "Valore di progetto diviso per la resistenza"),
+            colonna(unita::percento, "Sfruttamento", "Valore di progetto diviso per la resistenza"),
             colonnaParole("Esito", "Esito, con le parole della relazione")};
 }
 

@@ -61,7 +61,7 @@ void riga(int fase, const safety::ConfrontoTiro& tiro, TabellaTesto& tabella) {
 
 std::string tabellaStatica(const Margine& margine) {
     const std::string z = "z " + traParentesi(unita::metri);
-    TabellaTesto tabella({traduttore("Fase"), traduttore("Massimi"), traduttore("Statica"), z,
+    TabellaTesto tabella({traduttore("Fase"), traduttore("Massimi"), traduttore("Equilibrio"), z,
                           traduttore("Relazione"), z});
     for (const MargineFase& fase : margine.fasi) {
         if (!fase.inEquilibrio()) continue;

@@ -42,7 +42,7 @@ FinestraSicurezza::FinestraSicurezza(QWidget& principale, VitaProgetto& vita,
     meta->setChildrenCollapsible(false);
     pagine_ = new PagineProspetti(meta);
     margine_ = pagine_->aggiungi("margine", "Margine per fase");
-    statica_ = pagine_->aggiungi("statica", "Statica e relazione");
+    statica_ = pagine_->aggiungi("statica", "Equilibrio e relazione");
     maglia_ = pagine_->aggiungi("maglia", "Errore di maglia");
     meccanismo_ = new VistaMeccanismo(meta);
     meta->addWidget(pagine_);
