@@ -46,11 +46,15 @@ std::string scritta(int anno, unsigned mese, unsigned giorno) {
     return cifre(static_cast<unsigned>(anno), 4) + '-' + cifre(mese, 2) + '-' + cifre(giorno, 2);
 }
 
-// Beyond the year 9999 a date has no four digits.
+std::optional<long long> secondiDi(std::string_view epoca) {
+    const auto secondi = intero<long long>(epoca);
+    if (!secondi || *secondi < 0 || *secondi >= fineEpoca) return std::nullopt;
+    return secondi;
+}
+
 std::optional<std::string> daEpoca(std::string_view testo) {
-    constexpr long long fine = 253402300800;
-    const auto secondi = intero<long long>(testo);
-    if (!secondi || *secondi < 0 || *secondi >= fine) return std::nullopt;
+    const auto secondi = secondiDi(testo);
+    if (!secondi) return std::nullopt;
     const std::chrono::sys_days giorno{
         std::chrono::floor<std::chrono::days>(std::chrono::seconds(*secondi))};
     const std::chrono::year_month_day d{giorno};
@@ -90,6 +94,8 @@ bool dataValida(std::string_view data) {
         .ok();
 }
 
+bool epocaValida(std::string_view epoca) { return secondiDi(epoca).has_value(); }
+
 std::string data(const FontiData& fonti) {
     assert(fonti.voluta.empty() || dataValida(fonti.voluta));
     if (!fonti.voluta.empty()) return fonti.voluta;
@@ -100,7 +106,8 @@ std::string data(const FontiData& fonti) {
 
 FontiData fontiDiSistema(std::string voluta) {
     FontiData fonti{.voluta = std::move(voluta), .epoca = std::nullopt, .oggi = oggi};
-    if (const char* epoca = std::getenv("SOURCE_DATE_EPOCH")) fonti.epoca = epoca;
+    const char* epoca = std::getenv("SOURCE_DATE_EPOCH");
+    if (epoca != nullptr && *epoca != '\0') fonti.epoca = epoca;
     return fonti;
 }
 

@@ -40,11 +40,18 @@ struct FontiData {
 /// True for a day of the calendar from 1900 on, "2026-11-22".
 [[nodiscard]] bool dataValida(std::string_view data);
 
-/// The date of a document. An `epoca` that is no such number is passed over.
+/// True for whole seconds from 0 up to the one before `fineEpoca`.
+[[nodiscard]] bool epocaValida(std::string_view epoca);
+/// The first second of the year 10000: from there on a date has no four digits for its year.
+inline constexpr long long fineEpoca = 253402300800;
+
+/// The date of a document. An `epoca` that is no such number is passed over: where somebody can be
+/// told, `epocaValida` is asked first.
 /// @pre `voluta` is empty or valid, which whoever read it has told the user: asserted
 [[nodiscard]] std::string data(const FontiData& fonti);
 
-/// The sources of this process: its environment and its clock, in local time.
+/// The sources of this process: its environment, where an empty variable is none, and its clock, in
+/// local time.
 [[nodiscard]] FontiData fontiDiSistema(std::string voluta);
 
 }  // namespace korven::dossier

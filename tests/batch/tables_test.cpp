@@ -70,6 +70,17 @@ TEST_F(Tabelle, GiveTheSameBytesForTheSameDateInEitherOfItsTwoWays) {
     EXPECT_EQ(comando({"--data", "1970-02-30"}).codice, 2);
 }
 
+// Today's date in its place would go unnoticed.
+TEST_F(Tabelle, RefuseAnEpochThatIsNoNumberUnlessTheDateIsGiven) {
+    const test::Ambiente epoca = {.variabili = {{"SOURCE_DATE_EPOCH", "abc"}}};
+    const auto uscita = comando({"--xlsx", cartella / "a.xlsx"}, epoca);
+    EXPECT_EQ(uscita.codice, 2);
+    EXPECT_TRUE(dice(uscita.errori, "SOURCE_DATE_EPOCH vale abc: ")) << uscita.errori;
+    EXPECT_TRUE(dice(uscita.errori, "--data.\n")) << uscita.errori;
+    EXPECT_FALSE(fs::exists(cartella / "a.xlsx"));
+    EXPECT_EQ(comando({"--xlsx", cartella / "a.xlsx", "--data", "1970-01-02"}, epoca).codice, 0);
+}
+
 TEST_F(Tabelle, TellWhichOptionsOverrideTheProject) {
     ASSERT_EQ(comando({"--csv", cartella / "d", "--metodo-spinte", "rankine"}).codice, 0);
     const std::string testo = scritto("d/muro-progetto.csv");

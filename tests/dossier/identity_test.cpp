@@ -53,8 +53,12 @@ TEST(DataCorsa, IsTheOneAskedForElseThatOfTheEpochElseTheClocks) {
 
 TEST(DataCorsa, PassesOverAnEpochThatIsNoNumberOfSeconds) {
     for (const char* epoca :
-         {"", "ieri", "12x", "-1", "1.5", "253402300800", "99999999999999999999"})
+         {"", "ieri", "12x", "-1", "1.5", "253402300800", "99999999999999999999"}) {
+        EXPECT_FALSE(epocaValida(epoca)) << epoca;
         EXPECT_EQ(data(fonti("", epoca)), "2026-11-22") << epoca;
+    }
+    for (const char* epoca : {"0", "1700000000", "253402300799"})
+        EXPECT_TRUE(epocaValida(epoca)) << epoca;
 }
 
 TEST(DataCorsa, TakesDaysOfTheCalendarAlone) {
@@ -70,6 +74,9 @@ TEST(FontiDiSistemaTest, ReadTheEnvironmentAndAClockThatTellsADay) {
     EXPECT_EQ(data(fontiDiSistema("")), "1970-01-02");
     ASSERT_EQ(unsetenv("SOURCE_DATE_EPOCH"), 0);
     EXPECT_FALSE(fontiDiSistema("").epoca);
+    ASSERT_EQ(setenv("SOURCE_DATE_EPOCH", "", 1), 0);
+    EXPECT_FALSE(fontiDiSistema("").epoca);
+    ASSERT_EQ(unsetenv("SOURCE_DATE_EPOCH"), 0);
     EXPECT_TRUE(dataValida(data(fontiDiSistema(""))));
 }
 

@@ -10,6 +10,7 @@
 #include "base/process/program_questions.hpp"
 #include "base/translated_texts.hpp"
 #include "base/version.hpp"
+#include "batch/options/document_date.hpp"
 #include "batch/options/wrong_usage.hpp"
 
 // The rows of options and commands in the hands of the library that reads the command line. No
@@ -239,6 +240,7 @@ EsitoLettura Lettura::leggi(int argc, const char* const* argv) {
     }
     if (o_.comando->disegna && o_.disegno.nessuna())
         return rifiuta(mancaArgomento("--dxf, --pdf, --svg, --png"));
+    if (const auto perche = dataIgnota(o_); !perche.empty()) return rifiuta(perche);
     return {o_, 0};
 }
 
