@@ -135,12 +135,12 @@ struct Consegna {
 };
 
 // Drawings of an earlier run beside an annex of this one look as if they were of the same wall.
-void avvisaDisegniRimasti(const Consegna& consegna) {
+std::vector<std::string> disegniRimasti(const Opzioni& opzioni) {
     std::vector<std::string> rimasti;
     for (const Tavola& tavola : tavole())
-        for (const auto& file : formatiTavola(consegna.opzioni, tavola).file())
+        for (const auto& file : formatiTavola(opzioni, tavola).file())
             if (base::esisteFile(file)) rimasti.push_back(file);
-    avvisaRimasti(rimasti, consegna.esito);
+    return rimasti;
 }
 
 CodiceUscita disegnaTutte(const Consegna& consegna, CorsaConsole& corsa) {
@@ -185,7 +185,6 @@ int esegui(const Opzioni& opzioni, const PorteComando& porte, Esito& esito) {
         CorsaConsole corsa(opzioni, porte, esito);
         if (!produciRelazione(relazione, corsa, esito)) {
             allegato(consegna, usati, corsa);
-            avvisaDisegniRimasti(consegna);
             return nonEseguito;
         }
         esito.calcolo = results::leggiEsito();
@@ -193,7 +192,6 @@ int esegui(const Opzioni& opzioni, const PorteComando& porte, Esito& esito) {
         const auto fasi = esito.fasi;
         const bool giaAggiornato = esito.giaAggiornato;
         const CodiceUscita codice = disegnaTutte(consegna, corsa);
-        if (codice != fatto) avvisaDisegniRimasti(consegna);
         allegato(consegna, usati, corsa);
         esito.fasi = fasi;
         esito.giaAggiornato = giaAggiornato;
@@ -222,6 +220,7 @@ RigaComando comandoTutto() {
                                  {formati, opzioneRisoluzione(), opzioneRighe(), opzioneData()}}),
                         esegui};
     riga.calcola = true;
+    riga.rimasti = disegniRimasti;
     return riga;
 }
 

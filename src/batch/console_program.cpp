@@ -70,7 +70,10 @@ void lavora(const Opzioni& opzioni, const std::exception_ptr& senzaLingua,
     } catch (const std::exception&) {
         raccontaGuasto(porte.guardia, esito);
     }
-    if (esito.corsa && !esito.compiuto()) avvisaRelazioniRimaste(esito);
+    if (!esito.corsa || esito.compiuto()) return;
+    avvisaRelazioniRimaste(esito);
+    if (opzioni.comando->rimasti != nullptr)
+        avvisaRimasti(opzioni.comando->rimasti(opzioni), esito);
 }
 
 }  // namespace

@@ -132,6 +132,9 @@ class AllegatoDiTutto : public AllegatoDaFuori {
                                      "dxf", "--max-iterazioni", "200"});
         return console(altri);
     }
+    [[nodiscard]] test::EsitoProgramma tutto(const base::Disco& disco) const {
+        return console({"tutto", progetto, "--uscita", cartella / "o", "--formati", "dxf"}, disco);
+    }
     [[nodiscard]] std::string scritto(const std::string& fine) const {
         return cartella / ("o/muro-allegato." + fine);
     }
@@ -193,6 +196,20 @@ TEST_F(AllegatoDiTutto, DoesNotStandBesideDrawingsOfAnEarlierRunThatNobodyNames)
                 << esito.errori;
     EXPECT_TRUE(dice(esito.errori, inizio + "momenti.dxf\n")) << esito.errori;
     EXPECT_FALSE(dice(esito.errori, "non aggiornato da questo: " + scritto("pdf")));
+}
+
+// Whatever ends it: here the disk is full.
+TEST_F(AllegatoDiTutto, NamesTheOldDrawingsOfARunThatAnErrorEnds) {
+    ASSERT_EQ(tutto().codice, 0);
+    const std::string inizio = scritto("pdf").substr(0, scritto("pdf").rfind("allegato"));
+    const std::string avviso = "non aggiornato da questo: ";
+    auto dati = test::progettoSemplice();
+    dati.lunghezzaParatia += 1;
+    scrivi(dati);
+    const auto pieno = tutto(test::DiscoPieno(100));
+    EXPECT_EQ(pieno.codice, 3);
+    for (const char* nome : {"pressioni", "momenti", "stratigrafia"})
+        EXPECT_TRUE(dice(pieno.errori, avviso + inizio + nome + ".dxf\n")) << pieno.errori;
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 namespace korven::batch {
 
 struct Esito;
+struct Opzioni;
 struct PorteComando;
 
 /// A command of korven32c as a row: what it is called, what the help says of it, the options it
@@ -25,6 +26,9 @@ struct RigaComando {
     bool calcola = false;      ///< follows a wall through its stages
     bool disegna = false;      ///< must be given one file of a drawing at least
     bool soloRilievi = false;  ///< its outcome is a list of remarks
+    /// Files that lie where the command writes its own, beside those of every report: one that
+    /// fails, however it ends, names those that it has not written anew. nullptr: it has none.
+    std::vector<std::string> (*rimasti)(const Opzioni& opzioni) = nullptr;
 };
 
 }  // namespace korven::batch
