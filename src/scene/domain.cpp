@@ -12,6 +12,7 @@
 #include "scene/canvas.hpp"
 #include "scene/frame.hpp"
 #include "scene/polygon.hpp"
+#include "scene/stage_groups.hpp"
 
 namespace korven::scene {
 
@@ -21,6 +22,8 @@ using base::traduttore;
 using live::FaseNelDominio;
 using structure::PuntoDominio;
 namespace unita = project::unita;
+
+constexpr double vicini = 0.9;  // marks that one number serves, in sizes of the font
 
 double kN(double newton) { return newton / project::newtonKilonewton; }
 double kNm(double newtonMm) {
@@ -78,7 +81,9 @@ class Quadro {
         campo();
         assi();
         contorno();
-        for (const auto& fase : fasi_) segna(fase);
+        std::vector<SegniFase> segni;
+        for (const auto& fase : fasi_) segni.push_back(segna(fase));
+        for (const GruppoFasi& gruppo : gruppiFasi(std::move(segni), vicini * em_)) nome(gruppo);
         return tela_.concludi();
     }
 
@@ -145,7 +150,8 @@ class Quadro {
                Ruolo::testo, Grado::nota);
     }
 
-    void segna(const FaseNelDominio& fase) {
+    // Its stroke and the marks at both ends.
+    SegniFase segna(const FaseNelDominio& fase) {
         const Ruolo ruolo = fase.dentro() ? Ruolo::testo : Ruolo::meccanismo;
         const double N = kN(fase.Nd);
         const Punto su = punto(N, mostrato(unita::momentoAlMetro, fase.momenti.mdMax));
@@ -155,17 +161,21 @@ class Quadro {
         for (const Punto& p : {su, giu})
             tela_.disegna(Elemento::fase, fase.fase,
                           Area{rettangolo(p.x - r, p.y - r, p.x + r, p.y + r), {ruolo}});
+        return {fase.fase, {su, giu}, {ruolo}};
+    }
+
+    void nome(const GruppoFasi& gruppo) {
         std::vector<Posto> posti;
         for (const double dx : {0.6, 1.6, 2.6, 3.6})
-            for (const Punto& p : {su, giu}) {
+            for (const Punto& p : gruppo.punti) {
                 posti.push_back({{p.x + dx * em_, p.y}, Ancora::sinistra, {Ruolo::fondoCurva}});
                 posti.push_back({{p.x - dx * em_, p.y}, Ancora::destra, {Ruolo::fondoCurva}});
             }
         tela_.scrivi({.grado = Grado::fase,
                       .elemento = Elemento::fase,
-                      .numero = fase.fase,
-                      .testo = std::to_string(fase.fase),
-                      .tinta = {ruolo},
+                      .numero = gruppo.fasi.front(),
+                      .testo = nomeFasi(gruppo.fasi),
+                      .tinta = gruppo.tinta,
                       .corpo = 0.9 * em_,
                       .grassetto = true,
                       .posti = std::move(posti)});

@@ -1,5 +1,7 @@
 #include <algorithm>
 #include <cmath>
+#include <utility>
+#include <vector>
 
 #include "scene/parts.hpp"
 #include "scene/shown_values.hpp"
@@ -12,8 +14,9 @@ constexpr double altezza = 1.7, passo = 1.5;  // of the arrows, in font sizes
 
 // A row of arrows that stand on the ground from x1 to x2, which rises by `pendenza`; a load below 0
 // pulls.
+// @param altrove  where its name may stand besides
 void carico(const Inquadratura& q, double t, double x1, double x2, double y1, double y2, int fase,
-            Tela& tela) {
+            const std::vector<Posto>& altrove, Tela& tela) {
     const Tinta tinta{Ruolo::carico};
     const double h = altezza * q.em;
     const int n = std::clamp(static_cast<int>((x2 - x1) / (passo * q.em)), 2, 60);
@@ -30,15 +33,17 @@ void carico(const Inquadratura& q, double t, double x1, double x2, double y1, do
     // Clear of a line that rises along the text.
     const double salita =
         std::fabs(y2 - y1) / std::max(x2 - x1, 1.0) * tela.larghezza(testo, q.em) / 2;
+    std::vector<Posto> posti = {{{xm, ym - 0.85 * q.em - salita}, Ancora::centro},
+                                {{x1, y1 - h - 0.85 * q.em}, Ancora::sinistra},
+                                {{xm, ym + h / 2}, Ancora::centro}};
+    posti.insert(posti.end(), altrove.begin(), altrove.end());
     tela.scrivi({.grado = Grado::carico,
                  .elemento = Elemento::sovraccarico,
                  .numero = fase,
                  .testo = testo,
                  .tinta = tinta,
                  .corpo = q.em,
-                 .posti = {{{xm, ym - 0.85 * q.em - salita}, Ancora::centro},
-                           {{x1, y1 - h - 0.85 * q.em}, Ancora::sinistra},
-                           {{xm, ym + h / 2}, Ancora::centro}}});
+                 .posti = std::move(posti)});
 }
 
 // The constant pressure: arrows on the uphill face of the wall.
@@ -73,14 +78,20 @@ void disegnaSovraccarichi(const Mostrata& m, const Inquadratura& q, Tela& tela) 
     if (const double t = d.sovraccMonte; disegnabile(t) && t != 0) {
         const bool testa = d.momentoTesta != 0 || d.sforzoNormale != 0;
         const double x1 = 0.16 * q.xMonte, x2 = q.xMonte - (testa ? 2.6 : 0.7) * q.em;
-        carico(q, t, x1, x2, q.suolo(x1), q.suolo(x2), 0, tela);
+        carico(q, t, x1, x2, q.suolo(x1), q.suolo(x2), 0, {}, tela);
     }
     if (const double t = d.pressioneOrizz; disegnabile(t) && t != 0 && m.lunghezza > 0)
         spinta(m, q, t, tela);
     if (m.fase == 0) return;
     if (const double t = d.sovraccFase[m.fase]; disegnabile(t) && t != 0) {
         const double y = q.y(m.scavo), x1 = q.xValle + 0.8 * q.em;
-        if (q.visibile(y)) carico(q, t, x1, x1 + 0.45 * (q.xSezione - x1), y, y, m.fase, tela);
+        // In the ground below, clear of the level's own name, where another level is just above.
+        std::vector<Posto> sotto;
+        for (const double giu : {2.1, 3.3})
+            sotto.push_back(
+                {{x1, y + giu * q.em}, Ancora::sinistra, fondoValle(m, q, y + giu * q.em)});
+        if (q.visibile(y))
+            carico(q, t, x1, x1 + 0.45 * (q.xSezione - x1), y, y, m.fase, sotto, tela);
     }
 }
 

@@ -1,6 +1,7 @@
 #include "drawings/annex/domain_figure.hpp"
 
 #include <algorithm>
+#include <cmath>
 #include <iterator>
 #include <string>
 #include <utility>
@@ -8,6 +9,7 @@
 #include "drawings/annex/paper.hpp"
 #include "drawings/annex/peak_labels.hpp"
 #include "scene/domain.hpp"
+#include "scene/stage_groups.hpp"
 #include "scene/text_measure.hpp"
 
 namespace korven::drawings {
@@ -27,8 +29,24 @@ bool daRifare(const Primitiva& una) {
     return una.elemento == Elemento::fase && !std::holds_alternative<Linea>(una.figura);
 }
 
+// The mark in the middle of a heap has the numbers of all its stages.
+void nomina(const scene::GruppoFasi& gruppo, std::vector<Picco>& segni) {
+    const Punto& meta = gruppo.punti.front();
+    const auto quanto = [&](const Picco& p) {
+        return std::hypot(p.punto.x - meta.x, p.punto.y - meta.y);
+    };
+    Picco* vicino = nullptr;
+    for (Picco& p : segni)
+        if (p.forme.empty() && p.ruolo == gruppo.tinta.ruolo &&
+            (vicino == nullptr || quanto(p) < quanto(*vicino)))
+            vicino = &p;
+    if (vicino != nullptr) vicino->forme = {{scene::nomeFasi(gruppo.fasi)}};
+}
+
 CampoPicchi campo(const Scena& s) {
+    constexpr double vicini = 1.1 * corpoPiccolo;  // numbers of these would lie on one another
     CampoPicchi campo;
+    std::vector<scene::SegniFase> segni;
     campo.posto = {0, 0, s.larghezza, s.altezza};
     for (const Primitiva& una : s.primitive) {
         const auto* linea = std::get_if<Linea>(&una.figura);
@@ -44,12 +62,12 @@ CampoPicchi campo(const Scena& s) {
         if (una.elemento != Elemento::fase) continue;
         campo.rette.emplace_back(punti.front(), punti.back());
         for (const Punto& punto : {punti.front(), punti.back()}) {
-            Picco& picco = campo.picchi.emplace_back();
-            picco.punto = punto;
-            picco.ruolo = linea->tinta.ruolo;
-            picco.forme = {{std::to_string(una.numero)}};
+            segni.push_back({una.numero, {punto}, linea->tinta});
+            campo.picchi.push_back({punto, linea->tinta.ruolo, {}});
         }
     }
+    for (const scene::GruppoFasi& gruppo : scene::gruppiFasi(std::move(segni), vicini))
+        nomina(gruppo, campo.picchi);
     return campo;
 }
 
