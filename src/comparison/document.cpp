@@ -46,23 +46,21 @@ std::string conImpronta(const std::string& frase, const Muro& muro) {
     return impronta.empty() ? frase : frase + " (SHA-256 " + std::string(impronta) + ")";
 }
 
-void aggiungiCurve(const std::shared_ptr<const Confronto>& confronto, Documento& d) {
+document::Figura curve(const std::shared_ptr<const Confronto>& confronto,
+                       const drawings::FormatoFigura& formato) {
     const auto [uno, altro] = nomi(*confronto);
-    const auto formato = drawings::formatoConfronto;
-    d.blocchi.emplace_back(Titolo{2, traduttore("Le due pareti")});
-    d.blocchi.emplace_back(document::Figura{
-        .didascalia = traduttore("Le due pareti e gli inviluppi di momenti, tagli e spostamenti"),
-        .descrizione = base::riempito(
-            traduttore("Le pareti A, %1, e B, %2, l'una accanto all'altra; sotto, gli inviluppi "
-                       "delle fasi in equilibrio, di A a tratto continuo, di B tratteggiati"),
-            {uno, altro}),
-        .larghezza = formato.larghezza,
-        .altezza = formato.altezza,
-        .disegna = [confronto, uno = uno, altro = altro, formato] {
-            drawings::disegnaConfronto({confronto->prima.fascicolo.parete, uno},
-                                       {confronto->dopo.fascicolo.parete, altro}, formato.larghezza,
-                                       formato.altezza);
-        }});
+    return {.didascalia = {},
+            .descrizione = base::riempito(
+                traduttore("Le pareti A, %1, e B, %2, l'una accanto all'altra, e gli inviluppi "
+                           "delle fasi in equilibrio, di A a tratto continuo, di B tratteggiati"),
+                {uno, altro}),
+            .larghezza = formato.larghezza,
+            .altezza = formato.altezza,
+            .disegna = [confronto, uno = uno, altro = altro, formato] {
+                drawings::disegnaConfronto({confronto->prima.fascicolo.parete, uno},
+                                           {confronto->dopo.fascicolo.parete, altro},
+                                           formato.larghezza, formato.altezza);
+            }};
 }
 
 }  // namespace
@@ -91,15 +89,30 @@ Documento documento(const std::shared_ptr<const Confronto>& confronto, const std
         for (const std::string& riga : righe) d.blocchi.emplace_back(Paragrafo{riga});
     }
     d.blocchi.emplace_back(document::SaltoPagina{});
-    aggiungiCurve(confronto, d);
+    d.blocchi.emplace_back(Titolo{2, traduttore("Le due pareti")});
+    auto figura = curve(confronto, drawings::formatoConfronto);
+    figura.didascalia = traduttore("Le due pareti e gli inviluppi di momenti, tagli e spostamenti");
+    d.blocchi.emplace_back(std::move(figura));
     return d;
 }
 
 Documento documentoCurve(const std::shared_ptr<const Confronto>& confronto) {
     Documento d;
     d.titolo = traduttore("Le due pareti");
-    aggiungiCurve(confronto, d);
+    d.blocchi.emplace_back(curve(confronto, drawings::formatoConfrontoLargo));
     return d;
+}
+
+document::Formato formatoCurve() {
+    constexpr double margine = 0.3 * document::puntiPerCentimetro;
+    const auto [larga, alta] = drawings::formatoConfrontoLargo;
+    return {.larghezza = larga * document::puntiPerCentimetro + 2 * margine,
+            .altezza = alta * document::puntiPerCentimetro + 2 * margine,
+            .sinistra = margine,
+            .destra = margine,
+            .sopra = margine,
+            .sotto = margine,
+            .cornice = false};
 }
 
 }  // namespace korven::comparison

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "comparison/comparison.hpp"
-#include "document/blocks.hpp"
+#include "document/page.hpp"
 
 namespace korven::comparison {
 
@@ -14,7 +14,8 @@ namespace korven::comparison {
 [[nodiscard]] document::Documento documento(const std::shared_ptr<const Confronto>& confronto,
                                             const std::string& data);
 
-/// Its last page alone, both walls and their curves, to look at.
+/// Both walls and their curves alone, wide, to look at: a page of `formatoCurve`.
 [[nodiscard]] document::Documento documentoCurve(const std::shared_ptr<const Confronto>& confronto);
+[[nodiscard]] document::Formato formatoCurve();
 
 }  // namespace korven::comparison

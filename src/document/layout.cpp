@@ -86,7 +86,7 @@ Impaginato impagina(Documento documento, const Formato& formato, const MisuraCar
         riempi(strisce(*impaginato.documento, formato, misura), formato, impaginato.segnalibri);
     if (impaginato.pagine.empty()) impaginato.pagine.emplace_back();
     numeraIndice(impaginato, misura);
-    incornicia(impaginato, misura);
+    if (formato.cornice) incornicia(impaginato, misura);
     return impaginato;
 }
 

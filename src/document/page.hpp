@@ -20,6 +20,7 @@ struct Formato {
     double altezza = 29.7 * puntiPerCentimetro;
     double sinistra = 2.0 * puntiPerCentimetro, destra = sinistra;  ///< margins beside the text
     double sopra = 2.3 * puntiPerCentimetro, sotto = 2.2 * puntiPerCentimetro;
+    bool cornice = true;  ///< with head and foot
 
     [[nodiscard]] double larghezzaTesto() const { return larghezza - sinistra - destra; }
     [[nodiscard]] double altezzaTesto() const { return altezza - sopra - sotto; }

@@ -115,7 +115,7 @@ void aggiungi(const Figura& figura, const Formato& formato, const MisuraCaratter
     const double alta = figura.altezza * puntiPerCentimetro;
     if (!(larga > 0 && alta > 0)) return accoda(std::move(sotto), strisce);
     // The headings of a chapter and of its first part may stand above it.
-    constexpr double titoliSopra = 68;
+    const double titoliSopra = strisce.empty() ? 0 : 68;
     const double posto = formato.altezzaTesto() - didascalia - titoliSopra;
     const double scala = std::min({1.0, formato.larghezzaTesto() / larga, posto / alta});
     Striscia disegno{.altezza = alta * scala, .prima = 8, .dopo = 8, .legata = !sotto.empty()};

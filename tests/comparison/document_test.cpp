@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "comparison/walls.hpp"
+#include "document/layout.hpp"
 
 namespace korven::comparison {
 namespace {
@@ -39,6 +40,12 @@ TEST(DocumentoConfronto, HasItsCurvesForTheScreenToo) {
     ASSERT_EQ(figure.size(), 1U);
     EXPECT_EQ(figure[0].descrizione,
               tutti<document::Figura>(documento(c, "2026-01-31"))[0].descrizione);
+    const auto fatto =
+        document::impagina(documentoCurve(c), formatoCurve(), document::CaratteriStimati());
+    ASSERT_EQ(fatto.pagine.size(), 1U);
+    ASSERT_EQ(fatto.pagine[0].disegni.size(), 1U);
+    EXPECT_EQ(fatto.pagine[0].disegni[0].scala, 1) << "nothing else takes its room";
+    EXPECT_TRUE(fatto.pagine[0].scritte.empty() && fatto.pagine[0].filetti.empty());
 }
 
 TEST(DocumentoConfronto, TellsTheOptionsOfBothAndWhereTheDifferencesComeFrom) {

@@ -27,6 +27,8 @@ inline constexpr FormatoFigura formatoSezione{10, 7.8};
 /// So high that the directions of bending or the stages share its page.
 inline constexpr FormatoFigura formatoDominio{15, 8.5};
 inline constexpr FormatoFigura formatoConfronto{17, 21};
+/// For a screen, which is wide.
+inline constexpr FormatoFigura formatoConfrontoLargo{27, 11};
 
 /// One stage, counted from 1 (`scenaFase`).
 void disegnaFase(const live::PareteViva& parete, int fase, double larghezza, double altezza);

@@ -177,34 +177,39 @@ Scena scenaInviluppi(const live::PareteViva& parete, double larghezza, double al
 }
 
 Scena scenaConfronto(const MuroDetto& a, const MuroDetto& b, double larghezza, double altezza) {
-    constexpr double quotaMuri = 0.42;  // of the height, for the walls
+    // Above the panels, or in a wide picture at their left.
+    constexpr double quotaMuri = 0.42, quotaMuro = 0.17;  // of the height, of the width
     const Misura misura = misuraCarta(larghezza, altezza);
+    const bool accanto = larghezza > altezza;
     const MisuraStimata testi;
     Scena s = scenaCarta(misura);
     Tela tela(misura.larghezza, misura.altezza, testi);
-    const double meta = misura.larghezza / 2, basso = quotaMuri * misura.altezza;
+    const double larga =
+        accanto ? std::max(sezioneMinima, quotaMuro * misura.larghezza) : misura.larghezza / 2 - em;
+    const double basso = accanto ? misura.altezza : quotaMuri * misura.altezza;
     AsseProfondita asse{0, 1, 0};
     std::array<std::string, 2> nomi;
     double x = 0;
     for (const MuroDetto* muro : {&a, &b}) {
         std::string& nome = nomi[muro == &a ? 0 : 1];
         nome = (muro == &a ? "A  " : "B  ") + muro->nome;
-        tela.scrivi({.testo = accorciato(nome, meta - 2 * em, em, false, testi),
+        tela.scrivi({.testo = accorciato(nome, larga - em, em, false, testi),
                      .tinta = {Ruolo::testo},
                      .corpo = em,
                      .posti = {{{x + 0.5 * em, 0.8 * em}, Ancora::sinistra}}});
         VedutaMuro veduta =
-            vedutaMuro(muro->parete, 0, {x, 1.6 * em, x + meta - em, basso}, 0, 0, testi);
+            vedutaMuro(muro->parete, 0, {x, 1.6 * em, x + larga, basso}, 0, 0, testi);
         asse.lunghezza = std::max(asse.lunghezza, veduta.asse.lunghezza);
         unisci(s, std::move(veduta.primitive));
-        x += meta + em;
+        x += larga + 2 * em;
     }
     if (asse.lunghezza > 0) {
-        asse.yTesta = basso + Pannelli::testata();
+        const double sinistra = (accanto ? x : 0) + numeri;
+        asse.yTesta = (accanto ? 0 : basso) + Pannelli::testata();
         asse.scala = (misura.altezza - Pannelli::piede() - asse.yTesta) / asse.lunghezza;
         Pannelli pannelli(asse, {}, misura.altezza, tela);
-        pannelli.profondita(numeri - 0.5 * em);
-        disponi(pannelli, pannelliConfronto(a.parete, b.parete, nomi), {1, 1, 1}, numeri,
+        pannelli.profondita(sinistra - 0.5 * em);
+        disponi(pannelli, pannelliConfronto(a.parete, b.parete, nomi), {1, 1, 1}, sinistra,
                 misura.larghezza - 0.5 * em);
         unisci(s, pannelli.concludi());
     } else {

@@ -14,7 +14,6 @@
 #include <utility>
 
 #include "base/colon.hpp"
-#include "base/folders/file_names.hpp"
 #include "base/pointer_guard.hpp"
 #include "base/translated_texts.hpp"
 #include "device/document_files.hpp"
@@ -26,6 +25,7 @@
 #include "shell/failure_box.hpp"
 #include "shell/qt_text.hpp"
 #include "shell/viewer/export.hpp"
+#include "shell/viewer/output_saving.hpp"
 
 namespace korven::shell {
 
@@ -249,21 +249,16 @@ void FinestraAllegato::stampa() {
 void FinestraAllegato::salva(const char* titolo, const TipoFile& tipo,
                              const std::function<void(const std::string&)>& scrivi) {
     if (lasciaAltri()) return segui();
-    const std::string proposto = base::nomeUscita(diPagine_, "allegato", tipo.estensione);
-    const FileDaSalvare richiesta{
-        base::traduttore(titolo), proposto.substr(proposto.rfind('/') + 1), {tipo}};
-    while (const auto percorso = porte_.file->fileDaSalvare(richiesta)) {
-        const bool fatto = conAvviso(porte_.dialogo, [&] {
-            project::controllaUscita(*percorso, diPagine_);
-            nota_->clear();
-            scrivi(*percorso);
-            porte_.file->scritto(*percorso);
-        });
-        if (!fatto) continue;
-        QString scritto = qt(base::conDuePunti(base::traduttore("File scritto"), *percorso));
-        if (!nota_->text().isEmpty()) scritto += QStringLiteral("\n") + nota_->text();
-        return nota_->setText(scritto);
-    }
+    const auto scritto = salvaUscita(richiestaUscita(titolo, diPagine_, "allegato", {tipo}),
+                                     *porte_.file, porte_.dialogo, [&](const std::string& dove) {
+                                         project::controllaUscita(dove, diPagine_);
+                                         nota_->clear();
+                                         scrivi(dove);
+                                     });
+    if (!scritto) return;
+    QString detto = qt(base::conDuePunti(base::traduttore("File scritto"), *scritto));
+    if (!nota_->text().isEmpty()) detto += QStringLiteral("\n") + nota_->text();
+    nota_->setText(detto);
 }
 
 void FinestraAllegato::salvaPdf() {

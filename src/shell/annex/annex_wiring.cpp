@@ -7,14 +7,13 @@
 #include <memory>
 #include <utility>
 
-#include "base/folders/file_names.hpp"
-#include "base/translated_texts.hpp"
 #include "device/document_files.hpp"
 #include "project/output_guard.hpp"
 #include "project/project_data.hpp"
 #include "shell/annex/annex_window.hpp"
 #include "shell/viewer/dialogs.hpp"
 #include "shell/viewer/export.hpp"
+#include "shell/viewer/output_saving.hpp"
 
 namespace korven::shell {
 
@@ -42,11 +41,9 @@ void stampaAllegato(const document::Documento& documento, PorteDesktop& porte, Q
                     QWidget* sopra) {
     const TutteLePagine dopo(stampante);
     if (!porte.haStampante()) {
-        const std::string nome = base::nomeUscita(project::fileCorrente, "allegato", "pdf");
         const auto percorso =
-            porte.fileDaSalvare({base::traduttore("Salvataggio dell'allegato in formato PDF"),
-                                 nome.substr(nome.rfind('/') + 1),
-                                 {tipoPdf()}});
+            porte.fileDaSalvare(richiestaUscita("Salvataggio dell'allegato in formato PDF",
+                                                project::fileCorrente, "allegato", {tipoPdf()}));
         if (!percorso) return;
         project::controllaUscita(*percorso, project::fileCorrente);
         device::scriviPdf(

@@ -10,7 +10,6 @@
 #include <utility>
 
 #include "base/colon.hpp"
-#include "base/folders/file_names.hpp"
 #include "base/translated_texts.hpp"
 #include "comparison/document.hpp"
 #include "comparison/tables.hpp"
@@ -20,12 +19,12 @@
 #include "project/project_data.hpp"
 #include "shell/annex/document_view.hpp"
 #include "shell/companions/button_row.hpp"
-#include "shell/failure_box.hpp"
 #include "shell/forms/wrapped_label.hpp"
 #include "shell/qt_text.hpp"
 #include "shell/tables/table_pages.hpp"
 #include "shell/tables/table_view.hpp"
 #include "shell/viewer/export.hpp"
+#include "shell/viewer/output_saving.hpp"
 #include "shell/wrapped_text.hpp"
 
 namespace korven::shell {
@@ -213,7 +212,8 @@ void FinestraConfronto::riempi() {
     risultati_->mostra(comparison::prospettoRisultati(*mostrato_));
     fasi_->mostra(comparison::prospettoFasi(*mostrato_));
     osservazioni_->mostra(comparison::prospettoOsservazioni(*mostrato_));
-    curve_->mostra(device::impaginato(comparison::documentoCurve(mostrato_)));
+    curve_->mostra(
+        device::impaginato(comparison::documentoCurve(mostrato_), comparison::formatoCurve()));
 }
 
 void FinestraConfronto::svuota(const QString& perche) {
@@ -236,24 +236,17 @@ void FinestraConfronto::seguiPagina() {
 
 void FinestraConfronto::salvaPdf() {
     const auto confronto = vivo_.confronto();
-    const std::string proposto = base::nomeUscita(project::fileCorrente, "confronto", "pdf");
-    const FileDaSalvare richiesta{base::traduttore("Salvataggio del confronto in formato PDF"),
-                                  proposto.substr(proposto.rfind('/') + 1),
-                                  {tipoPdf()}};
-    while (const auto percorso = porte_.file->fileDaSalvare(richiesta)) {
-        const bool fatto = conAvviso(porte_.dialogo, [&] {
-            project::controllaUscita(*percorso, project::fileCorrente);
-            project::controllaCoppia(*percorso, confronto->prima.fascicolo.identita.file);
+    const auto scritto = salvaUscita(
+        richiestaUscita("Salvataggio del confronto in formato PDF", project::fileCorrente,
+                        "confronto", {tipoPdf()}),
+        *porte_.file, porte_.dialogo, [&](const std::string& dove) {
+            project::controllaUscita(dove, project::fileCorrente);
+            project::controllaCoppia(dove, confronto->prima.fascicolo.identita.file);
             device::scriviPdf(
-                *percorso,
-                comparison::documento(confronto, dossier::data(dossier::fontiDiSistema({}))),
+                dove, comparison::documento(confronto, dossier::data(dossier::fontiDiSistema({}))),
                 porte_.file->disco());
-            porte_.file->scritto(*percorso);
         });
-        if (fatto)
-            return nota_->setText(
-                qt(base::conDuePunti(base::traduttore("File scritto"), *percorso)));
-    }
+    if (scritto) nota_->setText(qt(base::conDuePunti(base::traduttore("File scritto"), *scritto)));
 }
 
 }  // namespace korven::shell

@@ -6,10 +6,11 @@
 #include <algorithm>
 #include <iterator>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include "base/code_page.hpp"
 #include "base/file_error.hpp"
-#include "base/folders/file_names.hpp"
 #include "base/translated_texts.hpp"
 #include "commands/output_title.hpp"
 #include "device/drawing_files.hpp"
@@ -18,8 +19,8 @@
 #include "project/output_guard.hpp"
 #include "project/project_data.hpp"
 #include "scene/scene.hpp"
-#include "shell/failure_box.hpp"
 #include "shell/qt_text.hpp"
+#include "shell/viewer/output_saving.hpp"
 
 namespace korven::shell {
 
@@ -91,13 +92,10 @@ void conScena(const live::ProgettoVivo& vivo, const QFont& font, const Scrivi& s
 }  // namespace
 
 FileDaSalvare richiestaFigura() {
-    const std::string percorso =
-        base::nomeUscita(project::fileCorrente, "figura", tipi[0].estensione);
-    FileDaSalvare richiesta{base::traduttore("Salvataggio della figura del progetto"),
-                            percorso.substr(percorso.rfind('/') + 1),
-                            {}};
-    for (const Tipo& tipo : tipi) richiesta.tipi.push_back({tipo.nome, tipo.estensione});
-    return richiesta;
+    std::vector<TipoFile> tutti;
+    for (const Tipo& tipo : tipi) tutti.push_back({tipo.nome, tipo.estensione});
+    return richiestaUscita("Salvataggio della figura del progetto", project::fileCorrente, "figura",
+                           std::move(tutti));
 }
 
 void scriviFigura(const std::string& percorso, const live::ProgettoVivo& vivo, const QFont& font,
@@ -110,15 +108,10 @@ void scriviFigura(const std::string& percorso, const live::ProgettoVivo& vivo, c
 
 void salvaFigura(const live::ProgettoVivo& vivo, const QFont& font, PorteGrafica& porte,
                  base::Dialogo& dialogo) {
-    FileDaSalvare richiesta = richiestaFigura();
-    while (const auto percorso = porte.fileDaSalvare(richiesta)) {
-        const auto scrivi = [&] {
-            scriviFigura(*percorso, vivo, font, porte.disco());
-            porte.scritto(*percorso);
-        };
-        if (conAvviso(dialogo, scrivi)) return;
-        richiesta.nome = daProporreAncora(*percorso);
-    }
+    salvaUscita(
+        richiestaFigura(), porte, dialogo,
+        [&](const std::string& dove) { scriviFigura(dove, vivo, font, porte.disco()); },
+        daProporreAncora);
 }
 
 void copiaFigura(const live::ProgettoVivo& vivo, const QFont& font) {

@@ -356,18 +356,19 @@ TEST_F(DisegniAllegato, CompareTwoWallsOnOneAxis) {
     auto dati = test::progettoSemplice();
     dati.lunghezzaParatia = 15;
     const auto b = live::calcola(dati, segmenti);
-    const Scena s = scenaConfronto({a, "prima.kvd"}, {b, "dopo.kvd"}, formatoConfronto.larghezza,
-                                   formatoConfronto.altezza);
-    verifica(s, "confronto ");
-    const auto testi = scritteAiPicchi(s);
-    for (const auto* parete : {&a, &b}) {
-        const auto& e = parete->estremi.momento();
-        EXPECT_TRUE(
-            test::dice(testi, (parete == &a ? "A " : "B ") +
-                                  scritto({e.valore, e.z}, project::unita::momentoAlMetro)));
+    for (const FormatoFigura& f : {formatoConfronto, formatoConfrontoLargo}) {
+        const Scena s = scenaConfronto({a, "prima.kvd"}, {b, "dopo.kvd"}, f.larghezza, f.altezza);
+        verifica(s, "confronto ");
+        const auto testi = scritteAiPicchi(s);
+        for (const auto* parete : {&a, &b}) {
+            const auto& e = parete->estremi.momento();
+            EXPECT_TRUE(
+                test::dice(testi, (parete == &a ? "A " : "B ") +
+                                      scritto({e.valore, e.z}, project::unita::momentoAlMetro)));
+        }
+        EXPECT_TRUE(test::dice(test::testi(s, Elemento::nota), "A  prima.kvd"));
+        EXPECT_TRUE(test::dice(test::testi(s, Elemento::nota), "B  dopo.kvd"));
     }
-    EXPECT_TRUE(test::dice(test::testi(s, Elemento::nota), "A  prima.kvd"));
-    EXPECT_TRUE(test::dice(test::testi(s, Elemento::nota), "B  dopo.kvd"));
 }
 
 // The bar of the scale is as long on paper as it says, in all its numbers.

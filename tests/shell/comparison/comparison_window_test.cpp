@@ -151,7 +151,8 @@ TEST_F(FinestraConfrontoTest, ShowsBothWallsAndTellsThemToThoseWhoDoNotSee) {
     test::controllo<QTabWidget>(finestra, "pagine").setCurrentIndex(4);
     auto& curve = test::controllo<VistaDocumento>(finestra, "anteprima");
     EXPECT_EQ(curve.pagine(), 1);
-    EXPECT_GT(curve.verticalScrollBar()->maximum(), 0);
+    EXPECT_EQ(curve.horizontalScrollBar()->maximum(), 0) << "as wide as the window";
+    EXPECT_GT(curve.impaginato().formato.larghezza, 2 * curve.impaginato().formato.altezza);
     EXPECT_EQ(curve.verticalScrollBar()->value(), 0) << "seen from its upper end";
     EXPECT_TRUE(curve.accessibleDescription().contains(QStringLiteral("Le pareti A, muro.kvd")))
         << curve.accessibleDescription().toStdString();
