@@ -148,15 +148,15 @@ Prospetto prospettoMargine(const Margine& margine) {
 
 Prospetto prospettoStatica(const Margine& margine) {
     const Colonna z = colonnaSimbolo(unita::metri, "z", "Profondità del valore a sinistra");
-    Prospetto p{
-        .titolo = traduttore("Equilibrio e relazione"),
-        .colonne = {
-            colonna(unita::nessuna, "Fase", "Numero della fase"),
-            colonnaParole("Massimi", "Grandezza, con la sua unità"),
-            colonna(unita::nessuna, "Equilibrio", "Dall'equilibrio dei nodi della stessa paratia"), z,
-            colonna(unita::nessuna, "Relazione",
-                    "Come lo trova il calcolo per fasi e lo usa la relazione"),
-            z}};
+    Prospetto p{.titolo = traduttore("Equilibrio e relazione"),
+                .colonne = {colonna(unita::nessuna, "Fase", "Numero della fase"),
+                            colonnaParole("Massimi", "Grandezza, con la sua unità"),
+                            colonna(unita::nessuna, "Equilibrio",
+                                    "Dall'equilibrio dei nodi della stessa paratia"),
+                            z,
+                            colonna(unita::nessuna, "Relazione",
+                                    "Come lo trova il calcolo per fasi e lo usa la relazione"),
+                            z}};
     const std::string senzaRelazione = paroleRelazione(margine);
     const Cella manca = senza(margine.sta() ? senzaRelazione : verdetto(margine));
     for (const MargineFase& fase : margine.fasi) {
