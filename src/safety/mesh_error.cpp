@@ -63,8 +63,8 @@ double ErroreMaglia::massimo() const {
     for (const ErroreGrandezza* e : {&momento, &taglio, &spostamento, &tiro})
         peggiore = std::max(peggiore, e->quota.value_or(0));
     for (const ErroreGrandezza* e : {&momentoPositivo, &momentoNegativo})
-        if (momento.fine > 0)
-            peggiore = std::max(peggiore, std::fabs(e->valore - e->fine) / momento.fine);
+        if (e->fine >= momentoMinore * momento.fine)
+            peggiore = std::max(peggiore, e->quota.value_or(0));
     return peggiore;
 }
 

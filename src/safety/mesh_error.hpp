@@ -49,9 +49,11 @@ struct ErroreMaglia {
     /// The checks that some mesh has a use of; none without a section.
     std::vector<UsoMaglia> usi{};
 
-    /// The largest error of all; that of a moment is a share of the larger of the two, so that a
-    /// small one does not count for more than it is.
+    /// The largest error of all, but for a moment that is small beside the one of the other sign.
     [[nodiscard]] double massimo() const;
+    /// Share of the larger moment below which one is small. Reason: a section that bears the one
+    /// has room for any error of the other.
+    static constexpr double momentoMinore = 0.2;
 };
 
 /// Follows the wall at `nSeg`, twice and four times as many segments.
