@@ -9,6 +9,7 @@ namespace korven::base {
 inline constexpr Gemelli nomeOpzioneCartella{"--cartella", "--folder"};
 inline constexpr Gemelli nomeOpzioneLingua{"--lingua", "--language"};
 inline constexpr Gemelli nomeComandoVerifica{"verifica", "check"};
+inline constexpr Gemelli nomeComandoCampi{"campi", "fields"};
 inline constexpr Gemelli nomeOpzioneCalcola{"--calcola", "--calculate"};
 inline constexpr Gemelli nomeOpzioneMetodo{"--metodo-spinte", "--pressures"};
 inline constexpr Gemelli nomeOpzioneNseg{"--nseg", "--segments"};

@@ -7,7 +7,7 @@ const std::vector<RigaComando>& comandi() {
         comandoCalcola(),    comandoRelazione(),    comandoAllegato(),  comandoVerifica(),
         comandoEquilibrio(), comandoSicurezza(),    comandoTabelle(),   comandoDiagramma(),
         comandoSezione(),    comandoStratigrafia(), comandoCampiture(), comandoTutto(),
-        comandoConfronta(),  comandoAutoverifica(),
+        comandoConfronta(),  comandoCampi(),        comandoImposta(),   comandoAutoverifica(),
     };
     return tutti;
 }

@@ -21,6 +21,8 @@ namespace korven::batch {
 [[nodiscard]] RigaComando comandoStratigrafia();
 [[nodiscard]] RigaComando comandoCampiture();
 [[nodiscard]] RigaComando comandoTutto();
+[[nodiscard]] RigaComando comandoCampi();
+[[nodiscard]] RigaComando comandoImposta();
 
 /// All commands of korven32c, in the order of the help.
 [[nodiscard]] const std::vector<RigaComando>& comandi();

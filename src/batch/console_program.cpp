@@ -17,6 +17,7 @@
 #include "batch/run/comparison_outcome.hpp"
 #include "batch/run/equilibrium_outcome.hpp"
 #include "batch/run/failure.hpp"
+#include "batch/run/field_text.hpp"
 #include "batch/run/margin_outcome.hpp"
 #include "batch/run/selfcheck_outcome.hpp"
 #include "commands/start/user_folder.hpp"
@@ -37,6 +38,8 @@ std::string resoconto(const Opzioni& opzioni, const Esito& esito) {
     if (esito.equilibrio) testo += testoEquilibrio(*esito.equilibrio);
     if (esito.margine) testo += testoMargine(*esito.margine);
     if (esito.confronto) testo += testoConfronto(*esito.confronto);
+    if (esito.elencaCampi) testo += testoCampi(esito.scritti);
+    if (esito.impostato) testo += testoDiversi(esito.scritti, *esito.impostato);
     if (esito.autoverifica) testo += testoAutoverifica(esito.autoverifica->esito);
     for (const auto& file : esito.fileScritti)
         testo += base::traduttore("File scritto") + base::duePunti() + file + '\n';

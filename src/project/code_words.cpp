@@ -18,4 +18,11 @@ std::string voceTradotta(const Campo& campo, const Codice& codice) {
     return tradotte.substr(da, tradotte.find('|', da) - da);
 }
 
+std::string descrizioneTradotta(const Campo& campo, int riga) {
+    const bool bandiera = std::holds_alternative<bool Sezione::*>(campo.membro);
+    std::string cosa = base::traduttore(bandiera ? campo.didascalia : campo.cosa);
+    if (colonna(campo)) cosa += ' ' + std::to_string(riga);
+    return cosa;
+}
+
 }  // namespace korven::project

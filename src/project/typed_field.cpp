@@ -126,6 +126,11 @@ std::variant<ValoreCampo, Rifiuto> valoreScritto(const CampoNominato& nominato,
     return ValoreCampo(conservatoNelFile(campo, *numero));
 }
 
+std::optional<Limiti> limitiScritti(const Campo& campo) {
+    if (!campo.codici.empty()) return {};
+    return delTipo<bool>(campo) ? Limiti{0, 1} : campo.limiti;
+}
+
 double comeNelFile(double conservato) {
     return base::leggiNumero(base::formattaNumero(conservato)).value_or(0);
 }
@@ -150,6 +155,12 @@ ValoreCampo valoreConservato(const DatiProgetto& dati, const CampoNominato& camp
             trovato = static_cast<double>(valore);
     });
     return trovato;
+}
+
+std::string testoDaScrivere(const DatiProgetto& dati, const CampoNominato& campo) {
+    const ValoreCampo valore = valoreConservato(dati, campo);
+    if (const auto* parole = std::get_if<std::string>(&valore)) return *parole;
+    return base::testoNumero(mostrato(*campo.campo, std::get<double>(valore)));
 }
 
 void metti(DatiProgetto& dati, const CampoNominato& campo, const ValoreCampo& valore) {

@@ -61,6 +61,10 @@ using ValoreCampo = std::variant<double, std::string>;
 /// @param mostrato  in the shown unit
 [[nodiscard]] std::optional<MotivoRifiuto> motivoRifiuto(const Campo& campo, double mostrato);
 
+/// The least and the greatest number that may be typed: of a flag 0 and 1; nothing for a code, a
+/// text and a field that takes any number.
+[[nodiscard]] std::optional<Limiti> limitiScritti(const Campo& campo);
+
 /// A stored number as it comes back from a file: with seven decimals.
 /// @param conservato  finite
 [[nodiscard]] double comeNelFile(double conservato);
@@ -74,6 +78,19 @@ using ValoreCampo = std::variant<double, std::string>;
 
 /// What a field holds now.
 [[nodiscard]] ValoreCampo valoreConservato(const DatiProgetto& dati, const CampoNominato& campo);
+
+/// The text that `valoreScritto` takes for what a field holds: the number in the shown unit with at
+/// most 15 digits, a code and a flag by its number, a text itself.
+[[nodiscard]] std::string testoDaScrivere(const DatiProgetto& dati, const CampoNominato& campo);
+
+/// Hands every field of a project to `visita`, as a CampoNominato: in the order of the table, a
+/// column row by row.
+template <class Visita>
+void perOgniValore(const DatiProgetto& dati, Visita visita) {
+    for (const Campo& campo : campi())
+        for (int riga = 1; riga <= (colonna(campo) ? righe(dati, campo.parte) : 1); ++riga)
+            visita(CampoNominato{&campo, riga});
+}
 
 /// Gives a field a stored value. With a count the rows that come, or go, are emptied: a new row is
 /// one of zeros and an empty text, as the editors insert it.

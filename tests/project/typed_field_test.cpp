@@ -4,7 +4,6 @@
 
 #include <limits>
 
-#include "base/number_text.hpp"
 #include "project/codes.hpp"
 #include "project/project_file.hpp"
 #include "support/sample_projects.hpp"
@@ -29,13 +28,6 @@ double numero(std::string_view nome, std::string_view testo) {
 
 std::string testo(std::string_view nome, std::string_view scritto) {
     return std::get<std::string>(std::get<ValoreCampo>(valoreScritto(nominato(nome), scritto)));
-}
-
-// The text that stands for what a field holds.
-std::string mostratoDi(const DatiProgetto& dati, const CampoNominato& campo) {
-    const ValoreCampo valore = valoreConservato(dati, campo);
-    if (const auto* parole = std::get_if<std::string>(&valore)) return *parole;
-    return base::testoNumero(mostrato(*campo.campo, std::get<double>(valore)));
 }
 
 TEST(CampoScritto, IsAFieldOfTheProjectByItsStableName) {
@@ -174,6 +166,15 @@ TEST(NumeroDiUnCampo, IsLostInAFileForAMethodAfterCoulomb) {
     EXPECT_TRUE(tornaDalFile(campo(&DatiProgetto::metodoKs), valore(MetodoKs::lineare)));
 }
 
+TEST(TestoDaScrivere, IsInTheShownUnitWithoutTheNoiseOfAProduct) {
+    DatiProgetto d = test::progettoSemplice();
+    d.coesione[1] = 0.007;
+    EXPECT_EQ(testoDaScrivere(d, nominato("coesione[1]")), "0.07");
+    EXPECT_EQ(testoDaScrivere(d, nominato("nFasi")), "2");
+    EXPECT_EQ(testoDaScrivere(d, nominato("sezione.tipoDiaframma")), "1");
+    EXPECT_EQ(testoDaScrivere(d, nominato("descrStrato[2]")), "2 Ghiaia");
+}
+
 TEST(Metti, MakesNewRowsEmptyWhateverTheTableHeldThere) {
     DatiProgetto d = test::progettoSemplice();
     d.gammaN[3] = 1.9;
@@ -217,14 +218,17 @@ TEST(Metti, TakesBackWhatIsShownOfAnyField) {
     DatiProgetto d = comeRiletto(test::progettoSemplice());
     test::primiCodici(d);
     const DatiProgetto prima = d;
-    for (const Campo& campo : campi())
-        for (int i = 1; i <= righe(d, campo.parte); ++i) {
-            const CampoNominato uno{&campo, i};
-            const auto letto = valoreScritto(uno, mostratoDi(d, uno));
-            ASSERT_TRUE(std::holds_alternative<ValoreCampo>(letto)) << nomeStabile(campo, i);
-            metti(d, uno, std::get<ValoreCampo>(letto));
-            EXPECT_EQ(d, prima) << nomeStabile(campo, i);
-        }
+    int visti = 0;
+    perOgniValore(prima, [&](const CampoNominato& uno) {
+        const std::string nome = nomeStabile(*uno.campo, uno.riga);
+        const auto letto = valoreScritto(uno, testoDaScrivere(d, uno));
+        ASSERT_TRUE(std::holds_alternative<ValoreCampo>(letto)) << nome;
+        metti(d, uno, std::get<ValoreCampo>(letto));
+        EXPECT_EQ(d, prima) << nome;
+        ++visti;
+    });
+    // The lines of the file, of which each is a field.
+    EXPECT_EQ(visti, 1 + 8 * 2 + 19 + 1 + 4 + 1 + 4 * 2 + 6 + 16 + 6 + 8 + 1);
 }
 
 }  // namespace

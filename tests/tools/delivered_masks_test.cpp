@@ -16,6 +16,7 @@
 #include "masks/editing.hpp"
 #include "masks/field_check.hpp"
 #include "masks/field_model.hpp"
+#include "masks/field_type.hpp"
 #include "masks/grid_model.hpp"
 #include "masks/values.hpp"
 #include "support/wall_builder.hpp"
@@ -66,6 +67,15 @@ class DeliveredMasks : public ::testing::Test {
         }
     }
 };
+
+TEST_F(DeliveredMasks, TakeHeadingsAsLongAsWhoeverSetsThemWithoutAForm) {
+    auto all = masks(1);
+    all.selezionaMaschera(static_cast<int>(NumeroMaschera::titoli));
+    for (int i = 0; i < project::numeroTitoli; ++i)
+        EXPECT_EQ(
+            masks::tipoCampo(all.corrente().campi.at(static_cast<std::size_t>(i)).tipo).lunghezza,
+            std::size_t{project::caratteriTitolo});
+}
 
 TEST_F(DeliveredMasks, HaveARecordInTheTableForEachOfTheirTexts) {
     const std::string path = KORVEN_DATA_FOLDER "/texts.txt";

@@ -26,13 +26,15 @@ struct Opzioni {
     bool traccia = false;  ///< `calcola`: record of the slow stages
     int maxIterazioni = 5000;
     analysis::Diagramma tipo = analysis::Diagramma::pressioni;  ///< of `diagramma`, which needs one
-    int fase = 0;                      ///< `diagramma`: the stage to draw, 0 for all
-    FormatiRelazione relazione;        ///< of `relazione`, besides the mark-up
-    FormatiDisegno disegno;            ///< files of a drawing
-    FormatiAllegato allegato;          ///< of `allegato`
-    FormatiTabelle tabelle;            ///< of `tabelle`
-    std::string data;                  ///< of a document, "2026-11-22"; empty: that of the run
-    std::string csv;                   ///< file of a table; empty: none
+    int fase = 0;                           ///< `diagramma`: the stage to draw, 0 for all
+    FormatiRelazione relazione;             ///< of `relazione`, besides the mark-up
+    FormatiDisegno disegno;                 ///< files of a drawing
+    FormatiAllegato allegato;               ///< of `allegato`
+    FormatiTabelle tabelle;                 ///< of `tabelle`
+    std::string data;                       ///< of a document, "2026-11-22"; empty: that of the run
+    std::string csv;                        ///< file of a table; empty: none
+    std::vector<std::string> assegnazioni;  ///< `imposta`: "campo=valore"
+    std::string progettoNuovo;              ///< `imposta`: the file to write
     std::string secondo;               ///< `confronta`: the file that the first is compared with
     std::string pdfConfronto;          ///< `confronta`: the PDF file; empty: none
     std::string pdfVerifica;           ///< `autoverifica`: the PDF file; empty: none

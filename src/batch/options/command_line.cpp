@@ -144,7 +144,8 @@ void Lettura::aggiungi(CLI::App& comando, const RigaOpzione& riga) {
         [this, &riga](const std::string& v) -> std::string { return accetta(riga, v) ? "" : "?"; });
     opzione->type_name(riga.valoreMostrato())->type_size(1);
     opzione->expected(riga.ripetibile ? CLI::detail::expected_max_vector_size : 1);
-    if (riga.ripetibile) opzione->delimiter(',');
+    // What stands by its place may hold commas of its own.
+    if (riga.ripetibile && !riga.perPosto()) opzione->delimiter(',');
     opzione->required(riga.obbligatoria)->default_str(riga.predefinito);
     if (const auto* conta = std::get_if<Conta>(&riga.azione))
         intervalli_[opzione] = conta->intervallo();

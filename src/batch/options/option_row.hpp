@@ -36,7 +36,7 @@ struct RigaOpzione {
     std::string predefinito = {};            ///< value without the option, for the help
     std::string coda = {};  ///< after the explanation in the help, in every language
     bool obbligatoria = false;
-    bool ripetibile = false;  ///< takes several values, parted by commas too
+    bool ripetibile = false;  ///< takes several values; an option parted by commas too
 
     [[nodiscard]] bool perPosto() const { return !nome.italiano.starts_with('-'); }
     /// What the help shows for its value, in the language in use: "DIR", "momenti|taglio".

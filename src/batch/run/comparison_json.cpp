@@ -1,7 +1,7 @@
 #include <nlohmann/json.hpp>
-#include <type_traits>
 
 #include "batch/run/comparison_outcome.hpp"
+#include "batch/run/field_json.hpp"
 #include "batch/run/json_numbers.hpp"
 #include "comparison/field_words.hpp"
 #include "project/field_table.hpp"
@@ -14,27 +14,11 @@ namespace {
 using Json = nlohmann::ordered_json;
 using comparison::Confronto;
 using comparison::Muro;
-using project::Campo;
 
 Json testoONullo(std::string_view testo) { return testo.empty() ? Json(nullptr) : Json(testo); }
 
 Json numero(const std::optional<double>& valore) {
     return valore ? Json(arrotondato(*valore)) : Json(nullptr);
-}
-
-// In the shown unit; of a code its name.
-Json valore(const project::DatiProgetto& dati, const Campo& campo, int riga, bool ceLaRiga) {
-    Json j;
-    if (!ceLaRiga) return j;
-    conValore(dati, campo, riga, [&](const auto& v) {
-        if constexpr (std::is_same_v<std::remove_cvref_t<decltype(v)>, double>) {
-            const project::Codice* codice = project::codice(campo, v);
-            j = codice != nullptr ? Json(codice->nome) : Json(arrotondato(mostrato(campo, v)));
-        } else {
-            j = v;
-        }
-    });
-    return j;
 }
 
 Json campi(const Confronto& c) {
@@ -44,8 +28,8 @@ Json campi(const Confronto& c) {
         tutti.push_back({{"campo", nomeStabile(*d.campo, d.riga)},
                          {"cosa", paroleCampo(c, d).cosa},
                          {"unita", unitaAlMetro(*d.campo).mostrata},
-                         {"prima", valore(prima, *d.campo, d.riga, d.prima)},
-                         {"dopo", valore(dopo, *d.campo, d.riga, d.dopo)}});
+                         {"prima", jsonValore(prima, *d.campo, d.riga, d.prima)},
+                         {"dopo", jsonValore(dopo, *d.campo, d.riga, d.dopo)}});
     return tutti;
 }
 

@@ -45,7 +45,9 @@ struct Esito {
     std::optional<safety::Margine> margine;
     std::shared_ptr<const Autoverifica> autoverifica;
     std::shared_ptr<const comparison::Confronto> confronto;
-    bool giaAggiornato = false;  ///< the result file was up to date already
+    bool elencaCampi = false;                        ///< the fields of `scritti`
+    std::optional<project::DatiProgetto> impostato;  ///< what `scritti` has become in another file
+    bool giaAggiornato = false;                      ///< the result file was up to date already
     std::vector<analysis::ControlloCorsa::Fase> fasi;
     std::vector<std::string> fileScritti;
     std::string fileRelazione, fileTesto, fileDocumento, filePdf;

@@ -4,6 +4,7 @@
 #include "base/version.hpp"
 #include "batch/run/comparison_outcome.hpp"
 #include "batch/run/equilibrium_outcome.hpp"
+#include "batch/run/field_json.hpp"
 #include "batch/run/json_numbers.hpp"
 #include "batch/run/margin_outcome.hpp"
 #include "batch/run/nodes_json.hpp"
@@ -123,9 +124,15 @@ Json causa(const Esito& esito) {
 
 Json testoONullo(const std::string& testo) { return testo.empty() ? Json(nullptr) : Json(testo); }
 
+Json jsonImpostato(const Esito& esito) {
+    return {{"campi", jsonDiversi(esito.scritti, *esito.impostato)}};
+}
+
 // What a command that writes no result file has computed.
 Json inMemoria(const Esito& esito) {
     if (esito.confronto) return jsonConfronto(*esito.confronto);
+    if (esito.elencaCampi) return jsonCampi(esito.scritti);
+    if (esito.impostato) return jsonImpostato(esito);
     if (esito.autoverifica) return jsonAutoverifica(esito.autoverifica->esito);
     if (esito.equilibrio) return jsonEquilibrio(*esito.equilibrio);
     return esito.margine ? jsonMargine(*esito.margine) : Json(nullptr);

@@ -95,6 +95,10 @@ TEST_F(LineaDiComando, WrongUsageEndsWithTwoAndAClearMessage) {
          "valore non ammesso: --max-iterazioni molte (>= 0)\n"},
         {{"calcola", progetto, "--cartella", cartella / "altrove"}, "valore non ammesso"},
         {{"calcola", progetto, "--uscita"}, "manca il valore di un'opzione: --uscita\n"},
+        {{"imposta", progetto, "--uscita", "n.kvd"}, "manca un argomento: campo=valore\n"},
+        {{"imposta", progetto, "nFasi=1"}, "manca un argomento: --uscita\n"},
+        {{"imposta", progetto, "altro.kvd", "--uscita", "n.kvd"},
+         "valore non ammesso: campo=valore altro.kvd\n"},
     };
     for (const auto& caso : casi) {
         const auto esito = leggi(caso.argomenti);
@@ -133,6 +137,17 @@ TEST_F(LineaDiComando, FormatiArePartedByCommasByBlanksAndOneAfterTheOther) {
         EXPECT_EQ(lettura.esito.opzioni->formati, entrambi);
     }
     EXPECT_EQ(leggi({"tutto", progetto, "--uscita", "o", "--formati", "svg,doc"}).esito.codice, 2);
+}
+
+TEST_F(LineaDiComando, AssignmentsKeepTheirCommas) {
+    const std::vector<std::string> scritte = {"titoli[1]=Muro, lato nord", "gammaN[1]=18,5",
+                                              "forzaTesta=-3"};
+    std::vector<std::string> argomenti = {"imposta", progetto, "--uscita", "n.kvd"};
+    argomenti.insert(argomenti.end(), scritte.begin(), scritte.end());
+    const auto lettura = leggi(argomenti);
+    ASSERT_TRUE(lettura.esito.opzioni) << lettura.errori;
+    EXPECT_EQ(lettura.esito.opzioni->assegnazioni, scritte);
+    EXPECT_EQ(lettura.esito.opzioni->progetto, progetto);
 }
 
 TEST_F(LineaDiComando, WrongUsageIsToldInTheLanguageAskedFor) {

@@ -28,6 +28,7 @@ std::string valoreDi(const RigaOpzione& opzione, Nome nome) {
     if (opzione.nome.italiano == nomeOpzioneCartella.italiano) return cartella.percorso();
     if (opzione.nome.italiano == "--formati") return "svg";
     if (opzione.nome.italiano == nomeOpzioneData.italiano) return "2026-11-22";
+    if (opzione.valore.italiano == "campo=valore") return "nFasi=1";
     return opzione.valore.italiano == "N" ? "20" : "nome";
 }
 
@@ -48,7 +49,8 @@ auto tutte(const Opzioni& o) {
                       o.relazione.testo, o.relazione.documento, o.relazione.pdf,
                       o.relazione.stampante, o.disegno.file(), o.disegno.dpi,
                       o.disegno.foglio.larghezza, o.disegno.foglio.altezza, o.formati, o.csv,
-                      o.allegato.file(), o.allegato.righe, o.data, o.tabelle.xlsx, o.tabelle.csv);
+                      o.allegato.file(), o.allegato.righe, o.data, o.tabelle.xlsx, o.tabelle.csv,
+                      o.assegnazioni, o.progettoNuovo);
 }
 
 // Words of a help: names are parted by blanks, commas, bars and brackets.
@@ -160,7 +162,7 @@ TEST(Nomi, InMessagesAreThoseOfTheLanguageInUseWhicheverWereTyped) {
     EXPECT_TRUE(test::dice(
         leggi({"disegna"}).errori,
         ": calculate, report, annex, check, equilibrium, safety, tables, diagram, section, log, "
-        "hatches, all, compare, selfcheck\n"));
+        "hatches, all, compare, fields, set, selfcheck\n"));
 }
 
 TEST(Nomi, GivenTwiceAreOneOptionGivenTwice) {

@@ -105,6 +105,21 @@ TEST_F(SchemaRisposte, HoldForComparisons) {
     inRegola(muri[0], progetto + "x");
 }
 
+TEST_F(SchemaRisposte, HoldForFieldsAndTheirAssignments) {
+    for (const std::string& file : test::muriIn(KORVEN_EXAMPLES)) {
+        SCOPED_TRACE(file);
+        prendi(file);
+        inOrdine({"campi"});
+        inOrdine({"imposta", "--uscita", cartella / "nuovo.kvd", "sovraccMonte=12.5",
+                  "vincoloPiede=incastro", "sezione.tipoDiaframma=1", "sezione.tipoPali=0",
+                  "sezione.tipoPalancola=0", "sezione.tipoPaliArmati=0"});
+    }
+    inOrdine({"imposta", "--uscita", cartella / "nuovo.kvd", "sovraccMonte=12,5"});
+    fs::remove(progetto);
+    inOrdine({"campi"});
+    inOrdine({"imposta", "--uscita", cartella / "nuovo.kvd", "sovraccMonte=12.5"});
+}
+
 // The rounding of a force in kN, and of a displacement in the result file.
 TEST_F(SchemaRisposte, HaveTheNodesOfTheRunAndOfTheEquilibriumBesideOneAnother) {
     for (const std::string& file : test::muriIn(KORVEN_EXAMPLES)) {
