@@ -19,10 +19,10 @@ using Normale = boost::math::normal_distribution<double, Regole>;
 using Triangolare = boost::math::triangular_distribution<double, Regole>;
 
 constexpr NomeLegge nomi[] = {
-    {TipoLegge::normale, "normale", "normal", 2, "normale(m,s)"},
-    {TipoLegge::lognormale, "lognormale", "lognormal", 2, "lognormale(m,s)"},
-    {TipoLegge::uniforme, "uniforme", "uniform", 2, "uniforme(a,b)"},
-    {TipoLegge::triangolare, "triangolare", "triangular", 3, "triangolare(a,c,b)"},
+    {TipoLegge::normale, {"normale", "normal"}, 2, "(m,s)"},
+    {TipoLegge::lognormale, {"lognormale", "lognormal"}, 2, "(m,s)"},
+    {TipoLegge::uniforme, {"uniforme", "uniform"}, 2, "(a,b)"},
+    {TipoLegge::triangolare, {"triangolare", "triangular"}, 3, "(a,c,b)"},
 };
 
 // Standard deviation of the logarithm.
@@ -38,6 +38,8 @@ double tra(double a, double b, double p) { return std::clamp(a + p * (b - a), a,
 Triangolare triangolare(const std::array<double, 3>& p) { return {p[0], p[1], p[2]}; }
 
 }  // namespace
+
+std::string NomeLegge::forma() const { return nome.mostrato().append(argomenti); }
 
 std::span<const NomeLegge> nomiLeggi() { return nomi; }
 

@@ -3,7 +3,10 @@
 #include <array>
 #include <optional>
 #include <span>
+#include <string>
 #include <string_view>
+
+#include "base/twin_names.hpp"
 
 namespace korven::studies {
 
@@ -24,9 +27,12 @@ struct Legge {
 /// What a law is called and how many parameters it has.
 struct NomeLegge {
     TipoLegge tipo;
-    std::string_view nome, inglese;  ///< as typed, in either language
+    base::Gemelli nome;
     std::size_t parametri;
-    std::string_view forma;  ///< "normale(m,s)"
+    std::string_view argomenti;  ///< "(m,s)"
+
+    /// How it is typed: "normale(m,s)", in the language in force.
+    [[nodiscard]] std::string forma() const;
 };
 
 [[nodiscard]] std::span<const NomeLegge> nomiLeggi();

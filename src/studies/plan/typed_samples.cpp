@@ -17,7 +17,7 @@ using project::DatiProgetto;
 
 const NomeLegge* leggeDiNome(std::string_view nome) {
     for (const NomeLegge& legge : nomiLeggi())
-        if (legge.nome == nome || legge.inglese == nome) return &legge;
+        if (legge.nome.comprende(nome)) return &legge;
     return nullptr;
 }
 
@@ -25,7 +25,7 @@ const NomeLegge* leggeDiNome(std::string_view nome) {
 std::string forme() {
     std::string tutte;
     for (const NomeLegge& legge : nomiLeggi())
-        tutte.append(tutte.empty() ? "" : ", ").append(legge.forma);
+        tutte.append(tutte.empty() ? "" : ", ").append(legge.forma());
     return tutte;
 }
 
@@ -66,7 +66,7 @@ Legge legge(LetturaOpzione& lettura, std::string_view testo) {
     if (parametri.size() != riga->parametri) {
         lettura.segna({.motivo = MotivoPiano::parametri,
                        .testo = std::string(interno),
-                       .atteso = std::string(riga->forma)},
+                       .atteso = riga->forma()},
                       interno);
         return letta;
     }

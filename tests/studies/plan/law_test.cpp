@@ -110,8 +110,8 @@ TEST(NomiLeggi, HaveARowForEachLawWithItsParametersInItsForm) {
     for (const auto& legge : leggi) {
         const auto riga = std::ranges::find(nomiLeggi(), legge.tipo, &NomeLegge::tipo);
         ASSERT_NE(riga, nomiLeggi().end());
-        EXPECT_TRUE(riga->forma.starts_with(std::string(riga->nome) + '('));
-        EXPECT_EQ(std::ranges::count(riga->forma, ',') + 1,
+        EXPECT_EQ(riga->forma(), std::string(riga->nome.italiano) + std::string(riga->argomenti));
+        EXPECT_EQ(std::ranges::count(riga->argomenti, ',') + 1,
                   static_cast<std::ptrdiff_t>(riga->parametri));
     }
 }
