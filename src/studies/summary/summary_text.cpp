@@ -1,0 +1,167 @@
+#include "studies/summary/summary_text.hpp"
+
+#include <algorithm>
+#include <cassert>
+#include <charconv>
+#include <cmath>
+#include <iterator>
+
+#include "base/code_page.hpp"
+#include "base/colon.hpp"
+#include "base/filled_text.hpp"
+#include "base/number_text.hpp"
+#include "base/translated_texts.hpp"
+#include "project/units.hpp"
+
+namespace korven::studies {
+
+namespace {
+
+using base::riempito;
+using base::traduttore;
+using Righe = std::vector<std::string>;
+using Tabella = std::vector<Righe>;
+
+std::string numero(std::uint64_t n) { return std::to_string(n); }
+
+// Rows as lines: the first column flush left, the others flush right.
+void allinea(const Tabella& tabella, Righe& testo) {
+    std::vector<std::size_t> larghe(tabella.front().size());
+    for (const auto& riga : tabella)
+        for (std::size_t j = 0; j < riga.size(); ++j)
+            larghe[j] = std::max(larghe[j], base::numeroCaratteri(riga[j]));
+    for (const auto& riga : tabella) {
+        std::string linea = "  ";
+        for (std::size_t j = 0; j < riga.size(); ++j) {
+            const std::string vuoto(larghe[j] - base::numeroCaratteri(riga[j]), ' ');
+            linea += j == 0 ? riga[j] + vuoto : "  " + vuoto + riga[j];
+        }
+        testo.push_back(linea);
+    }
+}
+
+void cedimenti(const Riassunto& r, const NomiRiassunto& nomi, Righe& testo) {
+    const std::string volte = numero(r.fallite()), prove = numero(r.numero());
+    if (!nomi.campioni) {
+        testo.push_back(riempito(traduttore("Falliscono %1 varianti su %2."), {volte, prove}));
+        return;
+    }
+    const std::string p = cinqueCifre(r.probabilita());
+    if (!nomi.indipendenti) {
+        testo.push_back(riempito(
+            traduttore("Falliscono %1 campioni su %2: probabilità %3; un ipercubo non dà un "
+                       "intervallo."),
+            {volte, prove, p}));
+        return;
+    }
+    const auto i = r.intervallo();
+    testo.push_back(riempito(
+        traduttore(
+            "Falliscono %1 campioni su %2: probabilità %3, con il 95 % di confidenza tra %4 e "
+            "%5."),
+        {volte, prove, p, cinqueCifre(i.da), cinqueCifre(i.a)}));
+}
+
+void cadute(const Riassunto& r, const NomiRiassunto& nomi, Righe& testo) {
+    for (const auto& [dove, quante] : r.cadute()) {
+        const auto& [motivo, fase] = dove;
+        const std::string perche(nomi.motivi.at(static_cast<std::size_t>(motivo)));
+        testo.push_back(
+            "  " + base::conDuePunti(
+                       fase == 0 ? perche
+                                 : riempito(traduttore("%1, fase %2"),
+                                            {perche, numero(static_cast<std::uint64_t>(fase))}),
+                       numero(quante)));
+    }
+}
+
+void governo(const Riassunto& r, const FormaRiga& forma, const NomiRiassunto& nomi, Righe& testo) {
+    const auto& volte = r.governano();
+    if (std::ranges::all_of(volte, [](std::uint64_t n) { return n == 0; })) return;
+    testo.push_back(traduttore("L'uso maggiore di chi sta è di:"));
+    for (std::size_t k = 0; k < volte.size(); ++k)
+        if (volte[k] > 0)
+            testo.push_back("  " + base::conDuePunti(nomi.valori[forma.usi[k]], numero(volte[k])));
+}
+
+std::string quota(double p) {
+    return base::testoNumero(mostrato(project::unita::percento, p)) + " %";
+}
+
+Tabella distribuzioni(const std::vector<Statistica>& tutte, const NomiRiassunto& nomi) {
+    Tabella tabella{{"", traduttore("varianti"), traduttore("media"), "s", "min"}};
+    for (const double p : quoteQuantili) tabella[0].push_back(quota(p));
+    tabella[0].emplace_back("max");
+    for (const auto& s : tutte) {
+        const auto& m = s.momenti;
+        if (m.numero() == 0) continue;
+        Righe riga{nomi.valori[s.posto], numero(m.numero()), cinqueCifre(m.media()),
+                   cinqueCifre(m.scartoTipo()), cinqueCifre(m.minimo())};
+        for (std::size_t k = 0; k < quoteQuantili.size(); ++k)
+            riga.push_back(s.quantili ? cinqueCifre((*s.quantili)[k]) : "-");
+        riga.push_back(cinqueCifre(m.massimo()));
+        tabella.push_back(std::move(riga));
+    }
+    return tabella;
+}
+
+std::string dueCifre(const std::optional<double>& rango) {
+    char testo[16];
+    if (!rango) return "-";
+    const auto fine =
+        std::to_chars(std::begin(testo), std::end(testo), *rango, std::chars_format::fixed, 2);
+    return {testo, fine.ptr};
+}
+
+Tabella correlazioni(const std::vector<Statistica>& tutte, const FormaRiga& forma,
+                     const NomiRiassunto& nomi) {
+    Tabella tabella{{""}};
+    for (std::size_t j = 0; j < forma.campi; ++j) tabella[0].push_back(nomi.valori[j]);
+    for (const auto& s : tutte) {
+        const bool una = std::ranges::any_of(s.ranghi, [](const auto& r) { return r.has_value(); });
+        if (s.posto < forma.campi || !una) continue;
+        Righe riga{nomi.valori[s.posto]};
+        std::ranges::transform(s.ranghi, std::back_inserter(riga), dueCifre);
+        tabella.push_back(std::move(riga));
+    }
+    return tabella;
+}
+
+}  // namespace
+
+std::string cinqueCifre(double valore) {
+    constexpr int cifre = 5;
+    constexpr double interi = 1e5, troppi = 1e15;  // between them all digits before the point
+    if (!std::isfinite(valore)) return "-";
+    char testo[32];
+    const double v = valore == 0 ? 0 : valore;  // no -0
+    const bool grande = std::fabs(v) >= interi && std::fabs(v) < troppi;
+    const auto fine = std::to_chars(std::begin(testo), std::end(testo), v,
+                                    grande ? std::chars_format::fixed : std::chars_format::general,
+                                    grande ? 0 : cifre);
+    return {testo, fine.ptr};
+}
+
+std::vector<std::string> righeRiassunto(const Riassunto& riassunto, const FormaRiga& forma,
+                                        const NomiRiassunto& nomi) {
+    assert(nomi.valori.size() == forma.valori);
+    Righe testo;
+    if (riassunto.numero() == 0) return testo;
+    cedimenti(riassunto, nomi, testo);
+    cadute(riassunto, nomi, testo);
+    governo(riassunto, forma, nomi, testo);
+    if (!nomi.campioni) return testo;
+
+    const auto tutte = riassunto.statistiche();
+    const Tabella valori = distribuzioni(tutte, nomi), ranghi = correlazioni(tutte, forma, nomi);
+    testo.push_back(riempito(traduttore("Valori; quantili e correlazioni da %1 varianti:"),
+                             {numero(riassunto.tenute())}));
+    allinea(valori, testo);
+    if (ranghi.size() > 1) {
+        testo.push_back(traduttore("Correlazione tra i ranghi (Spearman):"));
+        allinea(ranghi, testo);
+    }
+    return testo;
+}
+
+}  // namespace korven::studies

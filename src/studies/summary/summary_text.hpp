@@ -1,0 +1,31 @@
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "studies/summary/summary.hpp"
+
+namespace korven::studies {
+
+/// What the places of a row and the numbers of a summary are called.
+struct NomiRiassunto {
+    std::vector<std::string> valori;       ///< of a row
+    std::vector<std::string_view> motivi;  ///< by `EsitoRiga::motivo`
+    bool campioni = false;      ///< the variants are samples: how often they fail is a probability
+    bool indipendenti = false;  ///< and have no part in each other: it has an interval
+};
+
+/// What a study comes to, a line a fact, translated: what fails and how probable that is, where
+/// walls fall, what governs those that stand; of samples also how the values of fields and results
+/// are spread, and how they go together.
+/// @pre the names are those of the summary's row: asserted
+[[nodiscard]] std::vector<std::string> righeRiassunto(const Riassunto& riassunto,
+                                                      const FormaRiga& forma,
+                                                      const NomiRiassunto& nomi);
+
+/// A number with five digits, as a summary tells it; "-" for none.
+[[nodiscard]] std::string cinqueCifre(double valore);
+
+}  // namespace korven::studies

@@ -1,0 +1,76 @@
+#include "studies/summary/summary_text.hpp"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cmath>
+
+namespace korven::studies {
+namespace {
+
+const FormaRiga forma{.campi = 1, .valori = 3, .risultati = {1}, .usi = {1, 2}};
+const NomiRiassunto nomi{.valori = {"phiStrato[1]", "uso_a", "uso_b"},
+                         .motivi = {"", "rotazione"},
+                         .campioni = true,
+                         .indipendenti = true};
+
+Riassunto tre() {
+    const double nessuno = std::nan("");
+    Riassunto r(forma, 1);
+    r.prendi(0, std::array{30.0, 0.5, 0.4}, {});
+    r.prendi(1, std::array{32.0, 0.25, 0.4}, {});
+    r.prendi(2, std::array{34.0, 0.125, 0.1}, {});
+    r.prendi(3, std::array{20.0, nessuno, nessuno},
+             {.sta = false, .fallita = true, .motivo = 1, .fase = 2});
+    return r;
+}
+
+// One of four: (0.25 + 0.4802 -+ 1.96 sqrt(0.046875 + 0.060023)) / 1.9604 is 0.0456 and 0.6994.
+TEST(TestoRiassunto, TellsOfSamplesHowTheyFailAndHowTheyAreSpread) {
+    const std::vector<std::string> attese = {
+        "Falliscono 1 campioni su 4: probabilità 0.25, con il 95 % di confidenza tra 0.045587 e "
+        "0.69936.",
+        "  rotazione, fase 2: 1",
+        "L'uso maggiore di chi sta è di:",
+        "  uso_a: 2",
+        "  uso_b: 1",
+        "Valori; quantili e correlazioni da 4 varianti:",
+        "                varianti    media        s    min     5 %  50 %   95 %  max",
+        "  phiStrato[1]         4       29   6.2183     20    21.5    31   33.7   34",
+        "  uso_a                3  0.29167  0.19094  0.125  0.1375  0.25  0.475  0.5",
+        "Correlazione tra i ranghi (Spearman):",
+        "         phiStrato[1]",
+        "  uso_a         -1.00",
+    };
+    const auto righe = righeRiassunto(tre(), forma, nomi);
+    ASSERT_EQ(righe.size(), attese.size());
+    for (std::size_t i = 0; i < attese.size(); ++i) EXPECT_EQ(righe[i], attese[i]);
+}
+
+TEST(TestoRiassunto, HasNoIntervalForAHypercubeAndNoProbabilityForAGrid) {
+    auto altri = nomi;
+    altri.indipendenti = false;
+    EXPECT_EQ(righeRiassunto(tre(), forma, altri).front(),
+              "Falliscono 1 campioni su 4: probabilità 0.25; un ipercubo non dà un intervallo.");
+    altri.campioni = false;
+    const auto righe = righeRiassunto(tre(), forma, altri);
+    EXPECT_EQ(righe.front(), "Falliscono 1 varianti su 4.");
+    EXPECT_EQ(righe.back(), "  uso_b: 1");
+}
+
+TEST(TestoRiassunto, IsEmptyWithoutVariants) {
+    EXPECT_TRUE(righeRiassunto(Riassunto(forma, 1), forma, nomi).empty());
+}
+
+TEST(CinqueCifre, AreEnoughToRead) {
+    EXPECT_EQ(cinqueCifre(0.0123456), "0.012346");
+    EXPECT_EQ(cinqueCifre(123456.7), "123457");
+    EXPECT_EQ(cinqueCifre(-2e6), "-2000000");
+    EXPECT_EQ(cinqueCifre(1e20), "1e+20");
+    EXPECT_EQ(cinqueCifre(345.678), "345.68");
+    EXPECT_EQ(cinqueCifre(-0.0), "0");
+    EXPECT_EQ(cinqueCifre(std::nan("")), "-");
+}
+
+}  // namespace
+}  // namespace korven::studies
