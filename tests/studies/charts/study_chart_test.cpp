@@ -1,0 +1,99 @@
+#include "studies/charts/study_chart.hpp"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include "studies/plan/random_words.hpp"
+
+namespace korven::studies {
+namespace {
+
+using scene::Elemento;
+
+FormaRiga forma(std::size_t campi) {
+    return {.campi = campi, .valori = campi + 1, .risultati = {campi}, .usi = {}};
+}
+
+GraficoStudio grafico(std::size_t campi, bool campioni) {
+    GraficoStudio g{campi, {}, campioni};
+    for (std::size_t j = 0; j < campi; ++j)
+        g.titoli.push_back(std::string(1, 'a' + static_cast<char>(j)));
+    g.titoli.emplace_back("r");
+    return g;
+}
+
+std::size_t quante(const scene::Scena& scena, Elemento elemento, std::size_t figura) {
+    return static_cast<std::size_t>(std::ranges::count_if(scena.primitive, [&](const auto& p) {
+        return p.elemento == elemento && p.figura.index() == figura;
+    }));
+}
+
+bool scritto(const scene::Scena& scena, const std::string& testo) {
+    return std::ranges::any_of(scena.primitive, [&](const auto& p) {
+        const auto* t = std::get_if<scene::Testo>(&p.figura);
+        return t != nullptr && t->testo == testo;
+    });
+}
+
+constexpr std::size_t area = 0, linea = 2;  // of scene::Figura
+
+scene::Scena di(const Riassunto& r, std::size_t campi, bool campioni) {
+    return scenaGrafico(r, forma(campi), grafico(campi, campioni), 17, 12);
+}
+
+TEST(GraficoStudio, OfOneFieldIsACurve) {
+    Riassunto r(forma(1), 1);
+    for (const auto i : {0U, 1U, 2U, 3U}) {
+        const double x = 8 + i, y = i == 2 ? std::nan("") : 1.0 / x;
+        r.prendi(i, std::array{x, y}, {});
+    }
+    const auto scena = di(r, 1, false);
+    EXPECT_EQ(quante(scena, Elemento::curva, linea), 2U);  // before the gap and behind it
+    EXPECT_EQ(quante(scena, Elemento::estremo, linea), 1U);
+    EXPECT_TRUE(scritto(scena, "senza valore"));
+    EXPECT_TRUE(scritto(scena, "a"));
+    EXPECT_TRUE(scritto(scena, "r"));
+}
+
+// Three values of one field, twenty of the other: three curves, whichever comes first.
+TEST(GraficoStudio, OfTwoFieldsIsAFamily) {
+    Riassunto prima(forma(2), 1), dopo(forma(2), 1);
+    for (std::uint64_t i = 0; i < 60; ++i) {
+        const auto poco = static_cast<double>(i / 20), molto = static_cast<double>(i % 20);
+        prima.prendi(i, std::array{poco, molto, poco + molto}, {});
+        dopo.prendi(i, std::array{molto, poco, poco + molto}, {});
+    }
+    const auto a = di(prima, 2, false), b = di(dopo, 2, false);
+    EXPECT_EQ(quante(a, Elemento::curva, linea), 6U);  // each with its stroke in the key
+    EXPECT_TRUE(scritto(a, "a = 2"));
+    EXPECT_TRUE(scritto(b, "b = 2"));
+}
+
+// b decides, a does not matter: the bars have b first, the points lie over b.
+TEST(GraficoStudio, OfSamplesHasHistogramBarsAndPoints) {
+    Riassunto r(forma(2), 1);
+    for (std::uint64_t i = 0; i < 300; ++i) {
+        const auto parole = paroleCasuali(5, Scopo::valori, {i, 0, 0, 0});
+        const double a = traZeroEUno(parole[0]), b = traZeroEUno(parole[1]);
+        r.prendi(i, std::array{a, b, b * b}, {});
+    }
+    const auto g = grafico(2, true);
+    const auto scena = di(r, 2, true);
+    EXPECT_TRUE(scritto(scena, "50 %"));
+    EXPECT_TRUE(scritto(scena, "1.00"));
+    EXPECT_GT(quante(scena, Elemento::curva, area), 300U);  // points, two bars, classes
+    EXPECT_GT(formatoGrafico(r, forma(2), g).altezza, 12);
+    const auto nome = [&](const char* quale) {
+        for (const auto& p : scena.primitive)
+            if (const auto* t = std::get_if<scene::Testo>(&p.figura))
+                if (t->testo == quale && t->punto.x < 50) return t->punto.y;
+        return 0.0;
+    };
+    EXPECT_LT(nome("b"), nome("a"));
+}
+
+}  // namespace
+}  // namespace korven::studies
