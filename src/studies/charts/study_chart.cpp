@@ -14,6 +14,7 @@
 #include "drawings/annex/paper.hpp"
 #include "drawings/annex/scene_plot.hpp"
 #include "drawings/charts/charts.hpp"
+#include "plot/plot_engine.hpp"
 #include "project/units.hpp"
 #include "scene/canvas.hpp"
 #include "scene/text_measure.hpp"
@@ -26,7 +27,8 @@ using drawings::CurvaGrafico;
 using drawings::GraficoCurve;
 using scene::Riquadro;
 
-constexpr std::size_t massimeCurve = 12;  // that the eye tells apart
+constexpr std::size_t massimeCurve = 12;              // that the eye tells apart
+constexpr double bordo = 0.5 * drawings::corpoCarta;  // texts at the edge of the sheet need it
 
 std::size_t quantiValori(const std::vector<double>& v) {
     return std::set<double>(v.begin(), v.end()).size();
@@ -96,7 +98,7 @@ class Foglio {
             if (parametro) nome = titolo(*parametro) + " = " + base::testoNumero(valore);
             dati.curve.push_back(curva(std::move(nome), std::move(punti)));
         }
-        disegnaCurve(tela_, {0, 0, scena_.larghezza, scena_.altezza}, dati);
+        disegnaCurve(tela_, {bordo, 0, scena_.larghezza - bordo, scena_.altezza}, dati);
     }
 
     [[nodiscard]] Statistica statistica() const {
@@ -107,14 +109,14 @@ class Foglio {
     void trePezzi() {
         const Statistica s = statistica();
         const double meta = scena_.altezza / 2, mezza = scena_.larghezza / 2;
-        istogramma(s, {0, 0, scena_.larghezza, meta - drawings::corpoCarta});
+        istogramma(s, {bordo, 0, scena_.larghezza - bordo, meta - drawings::corpoCarta});
         std::vector<std::size_t> ordine(forma_.campi);
         std::iota(ordine.begin(), ordine.end(), std::size_t{0});
         std::ranges::stable_sort(ordine, std::greater{}, [&s](std::size_t j) {
             return std::fabs(s.ranghi[j].value_or(0));
         });
-        barre(s, ordine, {0, meta, mezza - drawings::corpoCarta, scena_.altezza});
-        nuvola(ordine.front(), {mezza, meta, scena_.larghezza, scena_.altezza});
+        barre(s, ordine, {bordo, meta, mezza - drawings::corpoCarta, scena_.altezza});
+        nuvola(ordine.front(), {mezza, meta, scena_.larghezza - bordo, scena_.altezza});
     }
 
     void istogramma(const Statistica& s, const Riquadro& posto) {
@@ -163,7 +165,9 @@ scene::Scena scenaGrafico(const Riassunto& riassunto, const FormaRiga& forma,
 
 void disegnaGrafico(const Riassunto& riassunto, const FormaRiga& forma,
                     const GraficoStudio& grafico, double larghezza, double altezza) {
+    plot::plotApri(0, 0, larghezza, altezza);
     drawings::disegnaScena(scenaGrafico(riassunto, forma, grafico, larghezza, altezza));
+    plot::plotMuovi(0, 0, plot::fineDisegno);
 }
 
 }  // namespace korven::studies

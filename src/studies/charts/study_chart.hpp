@@ -34,7 +34,7 @@ struct FormatoGrafico {
                                         const GraficoStudio& grafico, double larghezza,
                                         double altezza);
 
-/// The same, drawn into the open drawing from (0, 0) on.
+/// Makes it the drawing of the plot engine, of that size.
 void disegnaGrafico(const Riassunto& riassunto, const FormaRiga& forma,
                     const GraficoStudio& grafico, double larghezza, double altezza);
 
