@@ -94,6 +94,7 @@ inline const std::map<std::string, Texts> noTexts = {
     {"studies/plan/typed_grid.cpp", {"lunghezzaParatia=8:12:0.5"}},
     {"studies/plan/typed_samples.cpp",
      {"phiStrato[1]=normale(32,2)", "phiStrato[1],coesione[1]=-0.5"}},
+    {"studies/summary/failure_rule.cpp", {"spostamento_massimo_m>0.03"}},
     {"studies/summary/summary_text.cpp", {"min", "max"}},
     {"batch/run/console.cpp", {"iter.=", "Ymax=", "Mmax="}},
     {"batch/main.cpp", {"korven32c:"}},
