@@ -39,7 +39,7 @@ const Rooms rooms = readRooms();
 const std::vector<std::pair<std::string, std::set<std::string>>> outside = {
     {"Q", {"device", "shell", "desktop"}},
     {"CLI/", {"batch"}},
-    {"nlohmann/", {"batch"}},
+    {"nlohmann/", {"answers", "batch"}},
     {"png.h", {"device"}},
     {"qpdf/", {"device"}},
     {"boost/math/", {"studies"}},

@@ -13,9 +13,10 @@ using Texts = std::vector<std::string>;
 // Files whose literals are all none.
 inline const std::map<std::string, std::string> silentFiles = {
     {"batch/run/outcome_json.cpp", "names of fields, the same in all languages"},
-    {"batch/run/nodes_json.cpp", "names of fields, the same in all languages"},
+    {"answers/nodes_json.cpp", "names of fields, the same in all languages"},
+    {"answers/remark_json.cpp", "names of fields, the same in all languages"},
     {"batch/run/margin_csv.cpp", "names of columns, the same in all languages"},
-    {"batch/run/margin_json.cpp", "names of fields, the same in all languages"},
+    {"answers/margin_json.cpp", "names of fields, the same in all languages"},
     {"batch/run/comparison_json.cpp", "names of fields, the same in all languages"},
     {"batch/run/field_json.cpp", "names of fields, the same in all languages"},
     {"batch/run/selfcheck_json.cpp", "names of fields, the same in all languages"},
@@ -25,7 +26,7 @@ inline const std::map<std::string, std::string> silentFiles = {
     {"studies/result.cpp", "stable words, the same in all languages"},
     {"results/result_head.cpp", {".out"}},
     {"review/remark_table.hpp", "what the compiler says"},
-    {"batch/run/equilibrium_json.cpp", "names of fields, the same in all languages"},
+    {"answers/equilibrium_json.cpp", "names of fields, the same in all languages"},
     {"batch/run/equilibrium_csv.cpp", "names of columns and states, the same in all languages"},
     {"report/annex/sources.hpp", "authors and titles, the same in all languages"},
     {"project/units.hpp", "units, the same in all languages"},

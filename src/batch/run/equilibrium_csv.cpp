@@ -1,4 +1,5 @@
 #include "analysis/node_vector.hpp"
+#include "answers/nodes_json.hpp"
 #include "batch/run/csv.hpp"
 #include "batch/run/equilibrium_outcome.hpp"
 #include "project/units.hpp"
@@ -7,7 +8,7 @@ namespace korven::batch {
 
 namespace {
 
-using analysis::StatoLato;
+using answers::parola;
 using equilibrium::FaseEquilibrio;
 
 constexpr std::string_view nomi[] = {"fase",      "nodo",         "z_m",         "y_m",
@@ -31,18 +32,6 @@ void righe(const FaseEquilibrio& fase, double h, RigheCsv& csv) {
 }
 
 }  // namespace
-
-std::string_view parola(StatoLato stato) {
-    switch (stato) {
-        case StatoLato::attivo:
-            return "attivo";
-        case StatoLato::passivo:
-            return "passivo";
-        case StatoLato::elastico:
-            break;
-    }
-    return "elastico";
-}
 
 std::string csvEquilibrio(const safety::EquilibrioRaccontato& equilibrio) {
     RigheCsv csv(nomi);

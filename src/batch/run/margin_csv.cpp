@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "answers/margin_json.hpp"
 #include "base/number_text.hpp"
 #include "batch/run/csv.hpp"
 #include "batch/run/margin_outcome.hpp"
@@ -77,7 +78,7 @@ void campi(const Confronto& c, bool numeri, RigheCsv& righe) {
 void riga(const MargineFase& fase, RigheCsv& righe) {
     const safety::Riduzione& r = fase.riduzione;
     const bool ruota = r.moto && !r.moto->traslazione;
-    righe.campo(fase.fase).campo(parolaEsito(fase)).campo(fase.scavo).campo(r.F);
+    righe.campo(fase.fase).campo(answers::parolaEsito(fase)).campo(fase.scavo).campo(r.F);
     righe.campo(siNo(r.oltre)).campo(siNo(r.limitePendio));
     righe.campo(ruota ? std::optional(r.moto->profondita) : std::nullopt);
     righe.campo(r.moto ? std::to_string(r.moto->verso) : std::string());

@@ -1,13 +1,14 @@
 #include <nlohmann/json.hpp>
 
+#include "answers/equilibrium_json.hpp"
+#include "answers/margin_json.hpp"
+#include "answers/nodes_json.hpp"
+#include "answers/remark_json.hpp"
 #include "base/translated_texts.hpp"
 #include "base/version.hpp"
 #include "batch/run/comparison_outcome.hpp"
-#include "batch/run/equilibrium_outcome.hpp"
 #include "batch/run/field_json.hpp"
 #include "batch/run/json_numbers.hpp"
-#include "batch/run/margin_outcome.hpp"
-#include "batch/run/nodes_json.hpp"
 #include "batch/run/outcome.hpp"
 #include "batch/run/selfcheck_outcome.hpp"
 #include "project/units.hpp"
@@ -45,7 +46,7 @@ Json fase(const results::EstremiFase& riga, const Esito& esito) {
         if (corsa.fase == riga.fase && !corsa.traccia.empty()) j["traccia"] = corsa.traccia;
     const auto& nodi = esito.calcolo->nodi.at(static_cast<std::size_t>(riga.fase) - 1);
     j["tiranti"] = tiranti(nodi);
-    j["nodi"] = jsonNodi(nodi);
+    j["nodi"] = answers::jsonNodi(nodi);
     return j;
 }
 
@@ -108,16 +109,6 @@ Json rilievi(const Esito& esito) {
     return tutti;
 }
 
-Json osservazioni(const Esito& esito) {
-    Json tutte = Json::array();
-    for (const auto& o : esito.osservazioni)
-        tutte.push_back({{"codice", o.codice},
-                         {"peso", review::parola(o.peso)},
-                         {"testo", o.testo},
-                         {"campi", o.campi}});
-    return tutte;
-}
-
 Json causa(const Esito& esito) {
     return esito.causa ? Json(safety::parola(*esito.causa)) : Json(nullptr);
 }
@@ -134,8 +125,8 @@ Json inMemoria(const Esito& esito) {
     if (esito.elencaCampi) return jsonCampi(esito.scritti);
     if (esito.impostato) return jsonImpostato(esito);
     if (esito.autoverifica) return jsonAutoverifica(esito.autoverifica->esito);
-    if (esito.equilibrio) return jsonEquilibrio(*esito.equilibrio);
-    return esito.margine ? jsonMargine(*esito.margine) : Json(nullptr);
+    if (esito.equilibrio) return answers::jsonEquilibrio(*esito.equilibrio);
+    return esito.margine ? answers::jsonMargine(*esito.margine) : Json(nullptr);
 }
 
 }  // namespace
@@ -151,7 +142,7 @@ std::string json(const Esito& esito) {
     if (esito.soloRilievi) j["calcolabile"] = esito.calcolabile();
     if (esito.soloRilievi || esito.esaminato) {
         j["rilievi"] = rilievi(esito);
-        j["osservazioni"] = osservazioni(esito);
+        j["osservazioni"] = answers::jsonOsservazioni(esito.osservazioni);
     }
     if (esito.inMemoria) {
         j[esito.comando] = inMemoria(esito);

@@ -5,6 +5,8 @@
 #include <cmath>
 #include <nlohmann/json.hpp>
 
+#include "answers/equilibrium_json.hpp"
+#include "answers/margin_json.hpp"
 #include "base/number_text.hpp"
 #include "batch/run/equilibrium_outcome.hpp"
 #include "batch/run/margin_outcome.hpp"
@@ -76,9 +78,9 @@ TEST(Prospetti, TellTheNumbersOfTheCommandsOnEveryExampleAndWall) {
         const live::PareteViva parete = live::calcola(test::leggiMuro(muro));
         const auto breve = safety::margineBreve(parete.dati, parete.nSeg);
         ASSERT_TRUE(breve);
-        const Json margine = jsonMargine(breve->margine);
+        const Json margine = answers::jsonMargine(breve->margine);
         const Json equilibrio =
-            jsonEquilibrio(safety::raccontaFasi(parete.dati, parete.nSeg))["fasi"];
+            answers::jsonEquilibrio(safety::raccontaFasi(parete.dati, parete.nSeg))["fasi"];
         const Prospetto fasi = tables::prospettoMargine(breve->margine);
         const Prospetto statica = tables::prospettoStatica(breve->margine),
                         viste = tables::prospettoFasi(parete);

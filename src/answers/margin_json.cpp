@@ -1,17 +1,21 @@
+#include "answers/margin_json.hpp"
+
 #include <cmath>
 #include <nlohmann/json.hpp>
 
-#include "batch/run/json_numbers.hpp"
-#include "batch/run/margin_outcome.hpp"
+#include "project/program_numbers.hpp"
 #include "safety/margin_words.hpp"
 #include "safety/mesh_words.hpp"
 #include "safety/words.hpp"
 
-namespace korven::batch {
+namespace korven::answers {
 
 namespace {
 
 using Json = nlohmann::ordered_json;
+using project::arrotondato;
+using project::kN;
+using project::spostamento;
 using safety::EsitoLunghezza;
 using safety::Margine;
 using safety::MargineFase;
@@ -181,4 +185,4 @@ Json jsonMargine(const Margine& margine) {
             {"taglio_kN", confronto(margine.taglio, margine.haNumeri())}};
 }
 
-}  // namespace korven::batch
+}  // namespace korven::answers

@@ -1,18 +1,22 @@
+#include "answers/equilibrium_json.hpp"
+
 #include <algorithm>
 #include <cmath>
 #include <nlohmann/json.hpp>
 
-#include "batch/run/equilibrium_outcome.hpp"
-#include "batch/run/json_numbers.hpp"
-#include "batch/run/nodes_json.hpp"
+#include "answers/nodes_json.hpp"
 #include "equilibrium/extremes.hpp"
+#include "project/program_numbers.hpp"
+#include "safety/words.hpp"
 
-namespace korven::batch {
+namespace korven::answers {
 
 namespace {
 
 using Json = nlohmann::ordered_json;
 using equilibrium::FaseEquilibrio;
+using project::kN;
+using project::kNm;
 using safety::FaseRaccontata;
 
 Json tiri(const FaseEquilibrio& fase) {
@@ -54,4 +58,4 @@ Json jsonEquilibrio(const safety::EquilibrioRaccontato& equilibrio) {
     return {{"segmenti", equilibrio.nSeg}, {"fasi", fasi}};
 }
 
-}  // namespace korven::batch
+}  // namespace korven::answers

@@ -1,17 +1,18 @@
-#include "batch/run/nodes_json.hpp"
+#include "answers/nodes_json.hpp"
 
 #include <nlohmann/json.hpp>
 #include <string_view>
 
 #include "analysis/node_vector.hpp"
-#include "batch/run/equilibrium_outcome.hpp"
-#include "batch/run/json_numbers.hpp"
+#include "project/program_numbers.hpp"
 
-namespace korven::batch {
+namespace korven::answers {
 
 namespace {
 
 using Json = nlohmann::ordered_json;
+using project::kN;
+using project::spostamento;
 
 template <class Valori, class Numero>
 Json colonna(const Valori& valori, const Numero& numero) {
@@ -25,6 +26,18 @@ Json inKilonewton(const std::vector<double>& valori) { return colonna(valori, kN
 double tale(double valore) { return valore + 0.0; }
 
 }  // namespace
+
+std::string_view parola(analysis::StatoLato stato) {
+    switch (stato) {
+        case analysis::StatoLato::attivo:
+            return "attivo";
+        case analysis::StatoLato::passivo:
+            return "passivo";
+        case analysis::StatoLato::elastico:
+            break;
+    }
+    return "elastico";
+}
 
 Json jsonNodi(const results::NodiFase& fase) {
     return {{"z_m", colonna(fase.z, tale)},
@@ -59,4 +72,4 @@ Json jsonNodi(const equilibrium::FaseEquilibrio& fase, double h) {
             {"stato_valle", stato(&analysis::StatiNodo::valle)}};
 }
 
-}  // namespace korven::batch
+}  // namespace korven::answers
