@@ -15,8 +15,14 @@ target_include_directories(korven_rules INTERFACE ${PROJECT_SOURCE_DIR}/src)
 # What hardens the release: a stack, a copy or an index run over ends the program where it happens,
 # and nothing that is called through a table can be bent once the program has started. Tests and the
 # programs of the build go without: _FORTIFY_SOURCE asks for an optimised build.
+# A module for Python is a shared library: what goes into it has to lie anywhere, not only in a program.
+set(korven_position -fPIE)
+if(KORVEN_PYTHON)
+    set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+    set(korven_position -fPIC)
+endif()
 set(korven_hardened_code
-    "$<$<CONFIG:Release>:-fPIE;-fstack-protector-strong;-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2;-D_GLIBCXX_ASSERTIONS>")
+    "$<$<CONFIG:Release>:${korven_position};-fstack-protector-strong;-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2;-D_GLIBCXX_ASSERTIONS>")
 set(korven_hardened_link "$<$<CONFIG:Release>:-pie;LINKER:-z,relro,-z,now>")
 
 # korven_room(<room> <known>...) declares the room src/<room> and the rooms whose headers it includes,
@@ -24,11 +30,15 @@ set(korven_hardened_link "$<$<CONFIG:Release>:-pie;LINKER:-z,relro,-z,now>")
 #
 # A room at the top is the static library korven_<room>, made from all sources of its folder but
 # main.cpp; a room inside another (analysis/solver) goes into the library of the outer one. A file
-# belongs to a room by lying there, so that no list can forget it.
+# belongs to a room by lying there, so that no list can forget it. Rooms in the list korven_unbuilt are
+# declared and no more.
 function(korven_room room)
     string(REGEX REPLACE "/.*" "" outer ${room})
     string(REPLACE ";" " " known "${ARGN}")
     set_property(GLOBAL APPEND PROPERTY korven_rooms "${room}: ${known}")
+    if(room IN_LIST korven_unbuilt)
+        return()
+    endif()
     file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${room}/*.cpp)
     list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
     set(scope PUBLIC)

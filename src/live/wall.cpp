@@ -1,11 +1,12 @@
 #include "live/wall.hpp"
 
-#include "analysis/input_checks.hpp"
+#include <utility>
+
 #include "analysis/run_arrays.hpp"
 #include "analysis/run_start.hpp"
 #include "analysis/segment_count.hpp"
 #include "base/translated_texts.hpp"
-#include "structure/offered_stiffness.hpp"
+#include "safety/prepared_wall.hpp"
 
 namespace korven::live {
 
@@ -14,19 +15,6 @@ namespace {
 using equilibrium::EsitoFase;
 using equilibrium::FaseEquilibrio;
 using project::DatiProgetto;
-
-void prendiRigidezza(PareteViva& parete) {
-    if (parete.dati.rigidezzaEJ != 0 || structure::troppiFerri(parete.dati.sezione)) return;
-    parete.dati.rigidezzaEJ = structure::rigidezzaOfferta(parete.dati.sezione).value_or(0);
-    parete.ejDellaSezione = parete.dati.rigidezzaEJ != 0;
-}
-
-std::string motivo(const DatiProgetto& dati, bool conSegmenti) {
-    if (auto perche = analysis::motivoDati(dati); !perche.empty()) return perche;
-    if (dati.rigidezzaEJ == 0) return base::traduttore(analysis::messaggioSenzaEJ);
-    if (!conSegmenti) return base::traduttore(analysis::motivoNSeg());
-    return {};
-}
 
 // What a stage that does not stand is told by.
 void spiega(const equilibrium::EquilibrioParete& equilibrio, const FaseEquilibrio& fase,
@@ -46,10 +34,12 @@ void seguiFasi(PareteViva& parete) {
 }
 
 PareteViva calcola(const DatiProgetto& dati, std::optional<int> nSeg) {
+    safety::ParetePronta pronta = safety::preparaParete(dati);
     PareteViva parete;
-    parete.dati = dati;
-    prendiRigidezza(parete);
-    parete.rifiuto = motivo(parete.dati, nSeg.has_value());
+    parete.dati = std::move(pronta.dati);
+    parete.ejDellaSezione = pronta.ejDellaSezione;
+    parete.rifiuto = std::move(pronta.rifiuto);
+    if (parete.rifiuto.empty() && !nSeg) parete.rifiuto = base::traduttore(analysis::motivoNSeg());
     if (!parete.rifiuto.empty()) return parete;
     parete.nSeg = *nSeg;
     parete.h = parete.dati.lunghezzaParatia / *nSeg;

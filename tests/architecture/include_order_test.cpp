@@ -39,7 +39,8 @@ const Rooms rooms = readRooms();
 const std::vector<std::pair<std::string, std::set<std::string>>> outside = {
     {"Q", {"device", "shell", "desktop"}},
     {"CLI/", {"batch"}},
-    {"nlohmann/", {"answers", "batch"}},
+    {"nlohmann/", {"answers", "batch", "python"}},
+    {"pybind11/", {"python"}},
     {"png.h", {"device"}},
     {"qpdf/", {"device"}},
     {"boost/math/", {"studies"}},

@@ -1,7 +1,7 @@
 #include <nlohmann/json.hpp>
 
+#include "answers/field_json.hpp"
 #include "batch/run/comparison_outcome.hpp"
-#include "batch/run/field_json.hpp"
 #include "batch/run/json_numbers.hpp"
 #include "comparison/field_words.hpp"
 #include "project/field_table.hpp"
@@ -28,8 +28,8 @@ Json campi(const Confronto& c) {
         tutti.push_back({{"campo", nomeStabile(*d.campo, d.riga)},
                          {"cosa", paroleCampo(c, d).cosa},
                          {"unita", unitaAlMetro(*d.campo).mostrata},
-                         {"prima", jsonValore(prima, *d.campo, d.riga, d.prima)},
-                         {"dopo", jsonValore(dopo, *d.campo, d.riga, d.dopo)}});
+                         {"prima", answers::jsonValore(prima, *d.campo, d.riga, d.prima)},
+                         {"dopo", answers::jsonValore(dopo, *d.campo, d.riga, d.dopo)}});
     return tutti;
 }
 

@@ -1,13 +1,13 @@
 #include <nlohmann/json.hpp>
 
 #include "answers/equilibrium_json.hpp"
+#include "answers/field_json.hpp"
 #include "answers/margin_json.hpp"
 #include "answers/nodes_json.hpp"
 #include "answers/remark_json.hpp"
 #include "base/translated_texts.hpp"
 #include "base/version.hpp"
 #include "batch/run/comparison_outcome.hpp"
-#include "batch/run/field_json.hpp"
 #include "batch/run/json_numbers.hpp"
 #include "batch/run/outcome.hpp"
 #include "batch/run/selfcheck_outcome.hpp"
@@ -116,13 +116,13 @@ Json causa(const Esito& esito) {
 Json testoONullo(const std::string& testo) { return testo.empty() ? Json(nullptr) : Json(testo); }
 
 Json jsonImpostato(const Esito& esito) {
-    return {{"campi", jsonDiversi(esito.scritti, *esito.impostato)}};
+    return {{"campi", answers::jsonDiversi(esito.scritti, *esito.impostato)}};
 }
 
 // What a command that writes no result file has computed.
 Json inMemoria(const Esito& esito) {
     if (esito.confronto) return jsonConfronto(*esito.confronto);
-    if (esito.elencaCampi) return jsonCampi(esito.scritti);
+    if (esito.elencaCampi) return answers::jsonCampi(esito.scritti);
     if (esito.impostato) return jsonImpostato(esito);
     if (esito.autoverifica) return jsonAutoverifica(esito.autoverifica->esito);
     if (esito.equilibrio) return answers::jsonEquilibrio(*esito.equilibrio);

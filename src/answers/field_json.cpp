@@ -1,20 +1,21 @@
-#include "batch/run/field_json.hpp"
+#include "answers/field_json.hpp"
 
 #include <nlohmann/json.hpp>
 #include <type_traits>
 
 #include "base/number_text.hpp"
-#include "batch/run/json_numbers.hpp"
 #include "project/code_words.hpp"
 #include "project/field_table.hpp"
+#include "project/program_numbers.hpp"
 #include "project/typed_field.hpp"
 #include "project/units_per_metre.hpp"
 
-namespace korven::batch {
+namespace korven::answers {
 
 namespace {
 
 using Json = nlohmann::ordered_json;
+using project::arrotondato;
 using project::Campo;
 
 Json codici(const Campo& campo) {
@@ -79,4 +80,4 @@ Json jsonDiversi(const project::DatiProgetto& prima, const project::DatiProgetto
     return tutti;
 }
 
-}  // namespace korven::batch
+}  // namespace korven::answers

@@ -6,7 +6,7 @@
 
 // Fields of a project in the JSON: named as programs name them, in the units that people see.
 
-namespace korven::batch {
+namespace korven::answers {
 
 /// The fields of a project with what may be typed into them: docs/json.md, `campi`.
 [[nodiscard]] nlohmann::ordered_json jsonCampi(const project::DatiProgetto& dati);
@@ -21,4 +21,4 @@ namespace korven::batch {
 [[nodiscard]] nlohmann::ordered_json jsonDiversi(const project::DatiProgetto& prima,
                                                  const project::DatiProgetto& dopo);
 
-}  // namespace korven::batch
+}  // namespace korven::answers
