@@ -7,7 +7,8 @@ const std::vector<RigaComando>& comandi() {
         comandoCalcola(),    comandoRelazione(),    comandoAllegato(),  comandoVerifica(),
         comandoEquilibrio(), comandoSicurezza(),    comandoTabelle(),   comandoDiagramma(),
         comandoSezione(),    comandoStratigrafia(), comandoCampiture(), comandoTutto(),
-        comandoConfronta(),  comandoCampi(),        comandoImposta(),   comandoAutoverifica(),
+        comandoConfronta(),  comandoCampi(),        comandoImposta(),   comandoLunghezza(),
+        comandoBloccaggio(), comandoAutoverifica(),
     };
     return tutti;
 }

@@ -23,6 +23,8 @@ namespace korven::batch {
 [[nodiscard]] RigaComando comandoTutto();
 [[nodiscard]] RigaComando comandoCampi();
 [[nodiscard]] RigaComando comandoImposta();
+[[nodiscard]] RigaComando comandoLunghezza();
+[[nodiscard]] RigaComando comandoBloccaggio();
 
 /// All commands of korven32c, in the order of the help.
 [[nodiscard]] const std::vector<RigaComando>& comandi();

@@ -19,6 +19,7 @@
 #include "batch/run/failure.hpp"
 #include "batch/run/field_text.hpp"
 #include "batch/run/margin_outcome.hpp"
+#include "batch/run/question_outcome.hpp"
 #include "batch/run/selfcheck_outcome.hpp"
 #include "commands/start/user_folder.hpp"
 
@@ -32,12 +33,14 @@ std::string resoconto(const Opzioni& opzioni, const Esito& esito) {
     if (opzioni.silenzioso) return {};
     if (esito.soloRilievi) return esito.guasto ? "" : elenco(esito);
     if (!esito.compiuto() && !esito.equilibrio && !esito.margine && !esito.autoverifica &&
-        !esito.confronto)
+        !esito.confronto && !esito.lunghezza && !esito.bloccaggio)
         return {};
     std::string testo = esito.calcolo ? tabella(esito, opzioni.traccia) : "";
     if (esito.equilibrio) testo += testoEquilibrio(*esito.equilibrio);
     if (esito.margine) testo += testoMargine(*esito.margine);
     if (esito.confronto) testo += testoConfronto(*esito.confronto);
+    if (esito.lunghezza) testo += testoLunghezza(*esito.lunghezza);
+    if (esito.bloccaggio) testo += testoBloccaggio(*esito.bloccaggio);
     if (esito.elencaCampi) testo += testoCampi(esito.scritti);
     if (esito.impostato) testo += testoDiversi(esito.scritti, *esito.impostato);
     if (esito.autoverifica) testo += testoAutoverifica(esito.autoverifica->esito);

@@ -20,6 +20,8 @@ struct Confronto;
 namespace korven::batch {
 
 struct Autoverifica;
+struct RispostaBloccaggio;
+struct RispostaLunghezza;
 
 /// What a command has to tell, whether as text or as JSON.
 struct Esito {
@@ -45,6 +47,8 @@ struct Esito {
     std::optional<safety::Margine> margine;
     std::shared_ptr<const Autoverifica> autoverifica;
     std::shared_ptr<const comparison::Confronto> confronto;
+    std::shared_ptr<const RispostaLunghezza> lunghezza;
+    std::shared_ptr<const RispostaBloccaggio> bloccaggio;
     bool elencaCampi = false;                        ///< the fields of `scritti`
     std::optional<project::DatiProgetto> impostato;  ///< what `scritti` has become in another file
     bool giaAggiornato = false;                      ///< the result file was up to date already

@@ -10,6 +10,7 @@
 #include "batch/run/comparison_outcome.hpp"
 #include "batch/run/json_numbers.hpp"
 #include "batch/run/outcome.hpp"
+#include "batch/run/question_outcome.hpp"
 #include "batch/run/selfcheck_outcome.hpp"
 #include "project/units.hpp"
 
@@ -122,6 +123,8 @@ Json jsonImpostato(const Esito& esito) {
 // What a command that writes no result file has computed.
 Json inMemoria(const Esito& esito) {
     if (esito.confronto) return jsonConfronto(*esito.confronto);
+    if (esito.lunghezza) return jsonLunghezza(*esito.lunghezza);
+    if (esito.bloccaggio) return jsonBloccaggio(*esito.bloccaggio);
     if (esito.elencaCampi) return answers::jsonCampi(esito.scritti);
     if (esito.impostato) return jsonImpostato(esito);
     if (esito.autoverifica) return jsonAutoverifica(esito.autoverifica->esito);

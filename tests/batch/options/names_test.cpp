@@ -29,6 +29,8 @@ std::string valoreDi(const RigaOpzione& opzione, Nome nome) {
     if (opzione.nome.italiano == "--formati") return "svg";
     if (opzione.nome.italiano == nomeOpzioneData.italiano) return "2026-11-22";
     if (opzione.valore.italiano == "campo=valore") return "nFasi=1";
+    for (const char* positivo : {"F", "M", "KN"})
+        if (opzione.valore.italiano == positivo) return "1.5";
     return opzione.valore.italiano == "N" ? "20" : "nome";
 }
 
@@ -44,13 +46,13 @@ std::vector<std::string> interoComando(const RigaComando& riga, Nome nome) {
 }
 
 auto tutte(const Opzioni& o) {
-    return std::tuple(o.comando, o.progetto, o.uscita, o.ricalcolaEJ, o.metodoSpinte, o.nseg,
-                      o.json, o.silenzioso, o.traccia, o.maxIterazioni, o.tipo, o.fase,
-                      o.relazione.testo, o.relazione.documento, o.relazione.pdf,
-                      o.relazione.stampante, o.disegno.file(), o.disegno.dpi,
-                      o.disegno.foglio.larghezza, o.disegno.foglio.altezza, o.formati, o.csv,
-                      o.allegato.file(), o.allegato.righe, o.data, o.tabelle.xlsx, o.tabelle.csv,
-                      o.assegnazioni, o.progettoNuovo);
+    return std::tuple(
+        o.comando, o.progetto, o.uscita, o.ricalcolaEJ, o.metodoSpinte, o.nseg, o.json,
+        o.silenzioso, o.traccia, o.maxIterazioni, o.tipo, o.fase, o.relazione.testo,
+        o.relazione.documento, o.relazione.pdf, o.relazione.stampante, o.disegno.file(),
+        o.disegno.dpi, o.disegno.foglio.larghezza, o.disegno.foglio.altezza, o.formati, o.csv,
+        o.allegato.file(), o.allegato.righe, o.data, o.tabelle.xlsx, o.tabelle.csv, o.assegnazioni,
+        o.progettoNuovo, o.lunghezza.riduzione, o.lunghezza.finoA, o.bloccaggio.forza);
 }
 
 // Words of a help: names are parted by blanks, commas, bars and brackets.
@@ -162,7 +164,7 @@ TEST(Nomi, InMessagesAreThoseOfTheLanguageInUseWhicheverWereTyped) {
     EXPECT_TRUE(test::dice(
         leggi({"disegna"}).errori,
         ": calculate, report, annex, check, equilibrium, safety, tables, diagram, section, log, "
-        "hatches, all, compare, fields, set, selfcheck\n"));
+        "hatches, all, compare, fields, set, length, lockoff, selfcheck\n"));
 }
 
 TEST(Nomi, GivenTwiceAreOneOptionGivenTwice) {

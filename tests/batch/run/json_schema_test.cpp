@@ -120,6 +120,18 @@ TEST_F(SchemaRisposte, HoldForFieldsAndTheirAssignments) {
     inOrdine({"imposta", "--uscita", cartella / "nuovo.kvd", "sovraccMonte=12.5"});
 }
 
+TEST_F(SchemaRisposte, HoldForTheQuestionsOfDesigners) {
+    for (const std::string& file : test::muriIn(KORVEN_EXAMPLES)) {
+        SCOPED_TRACE(file);
+        prendi(file);
+        inOrdine({"lunghezza", "--nseg", "12", "--passo", "2", "--sicurezza-min", "1.2",
+                  "--spostamento-max", "0.05"});
+        inOrdine({"lunghezza", "--nseg", "12", "--passo", "2", "--resistenza"});
+        for (const char* forza : {"0.01", "100", "90000"})
+            inOrdine({"bloccaggio", "--nseg", "12", "--tirante", "1", "--forza", forza});
+    }
+}
+
 // The rounding of a force in kN, and of a displacement in the result file.
 TEST_F(SchemaRisposte, HaveTheNodesOfTheRunAndOfTheEquilibriumBesideOneAnother) {
     for (const std::string& file : test::muriIn(KORVEN_EXAMPLES)) {
