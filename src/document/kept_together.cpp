@@ -43,8 +43,9 @@ class Legatore {
         const Paragrafo* p = paragrafo(i);
         return p != nullptr && p->stile == Stile::nota;
     }
-    // A note tells of what stands above it.
+    // A note below a table or a drawing tells of that one.
     [[nodiscard]] bool introduce(std::size_t i) const {
+        while (nota(i) && i > 0) --i;
         const Paragrafo* p = paragrafo(i);
         return p != nullptr && p->stile != Stile::nota && p->stile != Stile::fisso;
     }

@@ -76,11 +76,9 @@ std::vector<Cella> riga(const char* simbolo, const project::Unita& u, const char
                         double progetto, double resistenza, bool fallita) {
     const bool nota = *manca == '\0';
     const Cella nessuna = nota ? Cella{} : senza(traduttore(manca));
-    std::vector<Cella> celle{parola(std::string(simbolo) + " " + traParentesi(u)),
-                             nota ? cifre(progetto) : nessuna, cifre(resistenza),
-                             nota ? uso(progetto, resistenza) : nessuna, nessuna};
-    if (nota) celle.back() = verifica(fallita);
-    return celle;
+    return {parola(std::string(simbolo) + " " + traParentesi(u)),
+            nota ? verifica(fallita) : nessuna, nota ? uso(progetto, resistenza) : nessuna,
+            nota ? cifre(progetto) : nessuna, cifre(resistenza)};
 }
 
 const char* senzaAzioni(const ControlliSezione& controlli) {
@@ -110,12 +108,13 @@ void taglio(const ControlliSezione& controlli, Prospetto& p) {
 }
 
 std::vector<Colonna> colonne() {
+    // The verdict first: a narrow panel does not show all columns at once.
     return {colonnaParole("Verifica", "Che cosa si verifica, per metro di paratia"),
+            colonnaParole("Esito", "Esito, con le parole della relazione"),
+            colonna(unita::percento, "Sfruttamento", "Valore di progetto diviso per la resistenza"),
             colonna(unita::nessuna, "Di progetto",
                     "Valore di progetto: il massimo di calcolo per il coefficiente delle azioni"),
-            colonna(unita::nessuna, "Resistenza", "Resistenza di progetto della sezione"),
-            colonna(unita::percento, "Sfruttamento", "Valore di progetto diviso per la resistenza"),
-            colonnaParole("Esito", "Esito, con le parole della relazione")};
+            colonna(unita::nessuna, "Resistenza", "Resistenza di progetto della sezione")};
 }
 
 std::string origine(const PareteViva& parete, const ControlliSezione& controlli) {

@@ -215,8 +215,9 @@ TEST(Impagina, TearsNoTableOfFewRows) {
 
 TEST(Impagina, KeepsAShortTextWithTheTableThatItIntroduces) {
     for (int prima = righePerPagina() - 20; prima <= righePerPagina(); ++prima) {
-        const Impaginato fatto = posto({righe(prima), Titolo{2, "Tiranti"}, Paragrafo{"Forze"},
-                                        Paragrafo{"orizzontali"}, Tavola{test::nodi(60)}});
+        const Impaginato fatto =
+            posto({righe(prima), Titolo{2, "Tiranti"}, Paragrafo{"Forze"},
+                   Paragrafo{"orizzontali", Stile::nota}, Tavola{test::nodi(60)}});
         for (std::size_t i = 0; i < fatto.pagine.size(); ++i) {
             const std::string pagina = testi(fatto, i);
             if (pagina.find("Tiranti|") == std::string::npos) continue;
