@@ -4,11 +4,11 @@ namespace korven::batch {
 
 const std::vector<RigaComando>& comandi() {
     static const std::vector<RigaComando> tutti = {
-        comandoCalcola(),    comandoRelazione(),    comandoAllegato(),  comandoVerifica(),
-        comandoEquilibrio(), comandoSicurezza(),    comandoTabelle(),   comandoDiagramma(),
-        comandoSezione(),    comandoStratigrafia(), comandoCampiture(), comandoTutto(),
-        comandoConfronta(),  comandoCampi(),        comandoImposta(),   comandoLunghezza(),
-        comandoBloccaggio(), comandoAutoverifica(),
+        comandoCalcola(),    comandoRelazione(),  comandoAllegato(),     comandoVerifica(),
+        comandoEquilibrio(), comandoSicurezza(),  comandoCombinazioni(), comandoTabelle(),
+        comandoDiagramma(),  comandoSezione(),    comandoStratigrafia(), comandoCampiture(),
+        comandoTutto(),      comandoConfronta(),  comandoCampi(),        comandoImposta(),
+        comandoLunghezza(),  comandoBloccaggio(), comandoAutoverifica(),
     };
     return tutti;
 }

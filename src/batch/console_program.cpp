@@ -13,6 +13,7 @@
 #include "batch/options/command_line.hpp"
 #include "batch/options/common_options.hpp"
 #include "batch/options/language_in_use.hpp"
+#include "batch/run/combinations_outcome.hpp"
 #include "batch/run/command_ports.hpp"
 #include "batch/run/comparison_outcome.hpp"
 #include "batch/run/equilibrium_outcome.hpp"
@@ -33,11 +34,12 @@ std::string resoconto(const Opzioni& opzioni, const Esito& esito) {
     if (opzioni.silenzioso) return {};
     if (esito.soloRilievi) return esito.guasto ? "" : elenco(esito);
     if (!esito.compiuto() && !esito.equilibrio && !esito.margine && !esito.autoverifica &&
-        !esito.confronto && !esito.lunghezza && !esito.bloccaggio)
+        !esito.confronto && !esito.combinazioni && !esito.lunghezza && !esito.bloccaggio)
         return {};
     std::string testo = esito.calcolo ? tabella(esito, opzioni.traccia) : "";
     if (esito.equilibrio) testo += testoEquilibrio(*esito.equilibrio);
     if (esito.margine) testo += testoMargine(*esito.margine);
+    if (esito.combinazioni) testo += testoCombinazioni(*esito.combinazioni, project::Progetto);
     if (esito.confronto) testo += testoConfronto(*esito.confronto);
     if (esito.lunghezza) testo += testoLunghezza(*esito.lunghezza);
     if (esito.bloccaggio) testo += testoBloccaggio(*esito.bloccaggio);

@@ -7,6 +7,7 @@
 #include "analysis/diagrams.hpp"
 #include "batch/options/output_formats.hpp"
 #include "batch/options/question_choices.hpp"
+#include "factors/load_factors.hpp"
 
 namespace korven::batch {
 
@@ -27,13 +28,15 @@ struct Opzioni {
     bool traccia = false;  ///< `calcola`: record of the slow stages
     int maxIterazioni = 5000;
     analysis::Diagramma tipo = analysis::Diagramma::pressioni;  ///< of `diagramma`, which needs one
-    int fase = 0;                ///< `diagramma`: the stage to draw, 0 for all
-    FormatiRelazione relazione;  ///< of `relazione`, besides the mark-up
-    FormatiDisegno disegno;      ///< files of a drawing
-    FormatiAllegato allegato;    ///< of `allegato`
-    FormatiTabelle tabelle;      ///< of `tabelle`
-    std::string data;            ///< of a document, "2026-11-22"; empty: that of the run
-    std::string csv;             ///< file of a table; empty: none
+    int fase = 0;                   ///< `diagramma`: the stage to draw, 0 for all
+    FormatiRelazione relazione;     ///< of `relazione`, besides the mark-up
+    FormatiDisegno disegno;         ///< files of a drawing
+    FormatiAllegato allegato;       ///< of `allegato`
+    FormatiTabelle tabelle;         ///< of `tabelle`
+    std::string norma;              ///< whose partial factors are applied; empty: none
+    factors::NaturaCarichi natura;  ///< what it takes the loads for
+    std::string data;               ///< of a document, "2026-11-22"; empty: that of the run
+    std::string csv;                ///< file of a table; empty: none
     DomandaLunghezza lunghezza;
     DomandaBloccaggio bloccaggio;
     std::vector<std::string> assegnazioni;  ///< `imposta`: "campo=valore"

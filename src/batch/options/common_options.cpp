@@ -44,6 +44,18 @@ RigaOpzione opzioneUscita(bool obbligatoria) {
     return riga;
 }
 
+constexpr base::Gemelli permanente{"permanente", "permanent"}, variabile{"variabile", "variable"};
+
+// Which of the two a load is.
+RigaOpzione opzioneNatura(const base::Gemelli& nome, std::string spiegazione, Scegli scegli) {
+    return {nome, std::move(spiegazione), scegli, {}, {permanente, variabile}};
+}
+
+template <factors::Natura factors::NaturaCarichi::*carico>
+void scegliNatura(Opzioni& o, std::size_t quale) {
+    o.natura.*carico = quale == 0 ? factors::Natura::permanente : factors::Natura::variabile;
+}
+
 template <std::string FormatiDisegno::*file>
 bool leggiFile(Opzioni& o, const std::string& valore) {
     o.disegno.*file = valore;
@@ -150,6 +162,29 @@ std::vector<RigaOpzione> opzioniDisegno() {
          file},
         opzioneRisoluzione(),
     };
+}
+
+std::vector<RigaOpzione> opzioniNorma(bool obbligatoria) {
+    RigaOpzione norma = {{"--norma", "--code"},
+                         "norma di combinazioni.txt o di combinazioni_utente.txt",
+                         [](Opzioni& o, const std::string& valore) {
+                             o.norma = valore;
+                             return !valore.empty();
+                         },
+                         {"NORMA", "CODE"}};
+    norma.obbligatoria = obbligatoria;
+    using factors::NaturaCarichi;
+    return {
+        norma,
+        opzioneNatura({"--sovraccarico", "--surcharge"},
+                      "che cos'è il sovraccarico a monte; senza l'opzione variabile",
+                      scegliNatura<&NaturaCarichi::monte>),
+        opzioneNatura({"--sovraccarico-scavo", "--excavation-surcharge"},
+                      "che cos'è il sovraccarico sul fondo dello scavo; senza l'opzione variabile",
+                      scegliNatura<&NaturaCarichi::scavo>),
+        opzioneNatura({"--carichi-testa", "--head-loads"},
+                      "che cosa sono forza e momento in testa; senza l'opzione variabili",
+                      scegliNatura<&NaturaCarichi::testa>)};
 }
 
 RigaOpzione opzioneRighe() {

@@ -48,6 +48,10 @@ using base::nomeOpzioneSevero;
 /// A table for other programs.
 [[nodiscard]] RigaOpzione opzioneCsv();
 
+/// The code whose partial factors are applied, and what its loads are.
+/// @param obbligatoria  the code has to be named
+[[nodiscard]] std::vector<RigaOpzione> opzioniNorma(bool obbligatoria);
+
 /// Commands that write an annex: the rows of its tables of nodes.
 [[nodiscard]] RigaOpzione opzioneRighe();
 

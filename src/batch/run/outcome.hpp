@@ -17,6 +17,10 @@ namespace korven::comparison {
 struct Confronto;
 }
 
+namespace korven::factors {
+struct Combinazioni;
+}
+
 namespace korven::batch {
 
 struct Autoverifica;
@@ -49,6 +53,7 @@ struct Esito {
     std::shared_ptr<const comparison::Confronto> confronto;
     std::shared_ptr<const RispostaLunghezza> lunghezza;
     std::shared_ptr<const RispostaBloccaggio> bloccaggio;
+    std::shared_ptr<const factors::Combinazioni> combinazioni;
     bool elencaCampi = false;                        ///< the fields of `scritti`
     std::optional<project::DatiProgetto> impostato;  ///< what `scritti` has become in another file
     bool giaAggiornato = false;                      ///< the result file was up to date already

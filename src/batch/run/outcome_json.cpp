@@ -7,6 +7,7 @@
 #include "answers/remark_json.hpp"
 #include "base/translated_texts.hpp"
 #include "base/version.hpp"
+#include "batch/run/combinations_outcome.hpp"
 #include "batch/run/comparison_outcome.hpp"
 #include "batch/run/json_numbers.hpp"
 #include "batch/run/outcome.hpp"
@@ -123,6 +124,7 @@ Json jsonImpostato(const Esito& esito) {
 // What a command that writes no result file has computed.
 Json inMemoria(const Esito& esito) {
     if (esito.confronto) return jsonConfronto(*esito.confronto);
+    if (esito.combinazioni) return jsonCombinazioni(*esito.combinazioni);
     if (esito.lunghezza) return jsonLunghezza(*esito.lunghezza);
     if (esito.bloccaggio) return jsonBloccaggio(*esito.bloccaggio);
     if (esito.elencaCampi) return answers::jsonCampi(esito.scritti);

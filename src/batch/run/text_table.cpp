@@ -46,4 +46,21 @@ std::string TabellaTesto::testo() const {
     return testo;
 }
 
+std::string testoTabella(const tables::Prospetto& prospetto) {
+    if (prospetto.righe.empty()) return {};
+    std::vector<std::string> titoli;
+    std::vector<bool> aParole;
+    for (const auto& colonna : prospetto.colonne) {
+        titoli.push_back(colonna.testa());
+        aParole.push_back(!colonna.numerica);
+    }
+    TabellaTesto tabella(std::move(titoli), std::move(aParole));
+    for (const auto& riga : prospetto.righe) {
+        std::vector<std::string> celle;
+        for (const auto& cella : riga) celle.push_back(cella.testo);
+        tabella.riga(std::move(celle));
+    }
+    return tabella.testo();
+}
+
 }  // namespace korven::batch

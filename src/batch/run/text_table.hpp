@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "tables/result_table.hpp"
+
 namespace korven::batch {
 
 /// A table in plain text: columns two blanks apart, as wide as their widest cell, right-aligned but
@@ -29,5 +31,8 @@ class TabellaTesto {
     std::vector<std::vector<std::string>> righe_;
     std::vector<bool> aParole_;
 };
+
+/// Rows and heads of a table of results, without its title and its notes; empty without rows.
+[[nodiscard]] std::string testoTabella(const tables::Prospetto& prospetto);
 
 }  // namespace korven::batch

@@ -46,13 +46,14 @@ std::vector<std::string> interoComando(const RigaComando& riga, Nome nome) {
 }
 
 auto tutte(const Opzioni& o) {
-    return std::tuple(
-        o.comando, o.progetto, o.uscita, o.ricalcolaEJ, o.metodoSpinte, o.nseg, o.json,
-        o.silenzioso, o.traccia, o.maxIterazioni, o.tipo, o.fase, o.relazione.testo,
-        o.relazione.documento, o.relazione.pdf, o.relazione.stampante, o.disegno.file(),
-        o.disegno.dpi, o.disegno.foglio.larghezza, o.disegno.foglio.altezza, o.formati, o.csv,
-        o.allegato.file(), o.allegato.righe, o.data, o.tabelle.xlsx, o.tabelle.csv, o.assegnazioni,
-        o.progettoNuovo, o.lunghezza.riduzione, o.lunghezza.finoA, o.bloccaggio.forza);
+    return std::tuple(o.comando, o.progetto, o.uscita, o.ricalcolaEJ, o.metodoSpinte, o.nseg,
+                      o.json, o.silenzioso, o.traccia, o.maxIterazioni, o.tipo, o.fase,
+                      o.relazione.testo, o.relazione.documento, o.relazione.pdf,
+                      o.relazione.stampante, o.disegno.file(), o.disegno.dpi,
+                      o.disegno.foglio.larghezza, o.disegno.foglio.altezza, o.formati, o.csv,
+                      o.allegato.file(), o.allegato.righe, o.data, o.tabelle.xlsx, o.tabelle.csv,
+                      o.assegnazioni, o.progettoNuovo, o.lunghezza.riduzione, o.lunghezza.finoA,
+                      o.bloccaggio.forza, o.norma, o.natura.monte, o.natura.scavo, o.natura.testa);
 }
 
 // Words of a help: names are parted by blanks, commas, bars and brackets.
@@ -163,8 +164,8 @@ TEST(Nomi, InMessagesAreThoseOfTheLanguageInUseWhicheverWereTyped) {
     EXPECT_TRUE(test::dice(leggi({"calcola"}).errori, "PROJECT.kvd\n"));
     EXPECT_TRUE(test::dice(
         leggi({"disegna"}).errori,
-        ": calculate, report, annex, check, equilibrium, safety, tables, diagram, section, log, "
-        "hatches, all, compare, fields, set, length, lockoff, selfcheck\n"));
+        ": calculate, report, annex, check, equilibrium, safety, combinations, tables, diagram, "
+        "section, log, hatches, all, compare, fields, set, length, lockoff, selfcheck\n"));
 }
 
 TEST(Nomi, GivenTwiceAreOneOptionGivenTwice) {

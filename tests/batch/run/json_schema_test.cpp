@@ -69,6 +69,8 @@ TEST_F(SchemaRisposte, HoldForEveryExampleAndForWallsOfWhichARunTellsLess) {
         inOrdine({"calcola", "--nseg", "12", "--max-iterazioni", "60", "--traccia"});
         inOrdine({"equilibrio", "--nseg", "12"});
         inOrdine({"sicurezza", "--nseg", "12"});
+        for (const char* norma : {"en1997-da1", "en1997-da2", "ntc2018"})
+            inOrdine({"combinazioni", "--nseg", "12", "--norma", norma});
         inOrdine({"tabelle", "--nseg", "12", "--xlsx", cartella / "t.xlsx"});
     }
     inOrdine({"verifica"});
@@ -81,7 +83,10 @@ TEST_F(SchemaRisposte, HoldForWhatIsRefusedOrCannotBeRead) {
     for (const char* comando :
          {"calcola", "equilibrio", "sicurezza", "tabelle", "verifica", "relazione"})
         inOrdine({comando});
+    inOrdine({"combinazioni", "--norma", "ntc2018"});
+    inOrdine({"combinazioni", "--norma", "nessuna"});
     fs::remove(progetto);
+    inOrdine({"combinazioni", "--norma", "ntc2018"});
     for (const char* comando :
          {"calcola", "equilibrio", "sicurezza", "tabelle", "verifica", "relazione"})
         inOrdine({comando});

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "factors/combinations.hpp"
+
+// What a wall under combinations comes to, in words, translated, for every output that tells it.
+
+namespace korven::factors {
+
+/// The stable word for what is checked, in every language the same: "momento_positivo", "terra".
+[[nodiscard]] std::string_view parola(Oggetto oggetto);
+/// "Flessione, momento positivo".
+[[nodiscard]] std::string parole(Oggetto oggetto);
+
+/// The stable word: "permanente", "variabile".
+[[nodiscard]] std::string_view parola(Natura natura);
+
+/// What the loads were taken for, in a sentence.
+[[nodiscard]] std::string parole(const NaturaCarichi& natura);
+
+/// "verificata", "NON verificata", "nessun equilibrio".
+[[nodiscard]] std::string esito(const EsitoCombinazione& combinazione);
+
+/// Why it does not stand, in one line with its name; empty for one that does.
+[[nodiscard]] std::string caduta(const EsitoCombinazione& combinazione);
+
+/// What whoever uses the numbers has to know of them, a sentence each.
+/// @param dati  the project
+[[nodiscard]] std::vector<std::string> note(const Combinazioni& combinazioni,
+                                            const project::DatiProgetto& dati);
+
+}  // namespace korven::factors
