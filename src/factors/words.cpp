@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "analysis/run_start.hpp"
+#include "base/code_page.hpp"
 #include "base/colon.hpp"
 #include "base/filled_text.hpp"
 #include "base/translated_texts.hpp"
@@ -25,7 +26,7 @@ constexpr ParoleOggetto oggetti[] = {
     {"momento_negativo", "Flessione, momento negativo"},
     {"bielle", "Taglio, bielle di calcestruzzo"},
     {"armatura", "Taglio, armatura d'anima"},
-    {"terra", "Resistenza del terreno a valle"},
+    {"terra", "resistenza del terreno a valle"},
 };
 
 const ParoleOggetto& di(Oggetto oggetto) { return oggetti[static_cast<std::size_t>(oggetto)]; }
@@ -47,7 +48,7 @@ void noteSezione(const project::DatiProgetto& dati, std::vector<std::string>& no
 }  // namespace
 
 std::string_view parola(Oggetto oggetto) { return di(oggetto).parola; }
-std::string parole(Oggetto oggetto) { return traduttore(di(oggetto).testo); }
+std::string parole(Oggetto oggetto) { return base::conMaiuscola(traduttore(di(oggetto).testo)); }
 
 std::string_view parola(Natura natura) {
     return natura == Natura::permanente ? "permanente" : "variabile";

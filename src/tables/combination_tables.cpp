@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
+#include "base/code_page.hpp"
 #include "base/translated_texts.hpp"
 #include "factors/words.hpp"
 #include "tables/quantities.hpp"
@@ -24,13 +26,17 @@ Colonna parole(const char* titolo) {
     return {.titolo = traduttore(titolo), .unita = {}, .spiegazione = {}, .numerica = false};
 }
 
-Colonna numeri(const char* titolo, const Unita& u = unita::nessuna) {
-    return {.titolo = traduttore(titolo), .unita = std::string(u.mostrata)};
+Colonna numeri(const Unita& u, const char* titolo) {
+    return {.titolo = base::conMaiuscola(traduttore(titolo)), .unita = std::string(u.mostrata)};
 }
 
-Colonna simboli(const char* simbolo, const Unita& u = unita::nessuna) {
-    return {.titolo = simbolo, .unita = std::string(u.mostrata)};
+Colonna numeri(const char* titolo) { return numeri(unita::nessuna, titolo); }
+
+Colonna simboli(const Unita& u, std::string simbolo) {
+    return {.titolo = std::move(simbolo), .unita = std::string(u.mostrata)};
 }
+
+Colonna simboli(const char* simbolo) { return simboli(unita::nessuna, simbolo); }
 
 // With the digits that a code has.
 Cella fattore(double valore) { return cella(valore, 2, unita::nessuna); }
@@ -107,7 +113,7 @@ Prospetto prospettoFattori(const Combinazioni& tutte) {
         .titolo = traduttore("Coefficienti applicati"),
         .colonne = {parole("Combinazione"), simboli("tan φ"), simboli("c'"), simboli("cu"),
                     simboli("γ"), numeri("q monte"), numeri("q scavo"), simboli("H"), simboli("M"),
-                    numeri("Effetti"), numeri("Terra"), numeri("Scavo in più", unita::metri)}};
+                    numeri("Effetti"), numeri("Terra"), numeri(unita::metri, "Scavo in più")}};
     for (const EsitoCombinazione& e : tutte.esiti) {
         const factors::Fattori& f = e.combinazione.fattori;
         p.righe.push_back({parola(e.combinazione.nome), fattore(f.attrito), fattore(f.coesione),
@@ -122,10 +128,10 @@ Prospetto prospettoFattori(const Combinazioni& tutte) {
 Prospetto prospettoEffetti(const Combinazioni& tutte) {
     Prospetto p{
         .titolo = traduttore("Combinazioni e inviluppo"),
-        .colonne = {parole("Combinazione"), numeri("Spostamento massimo", unita::spostamentoFine),
-                    numeri("Momento massimo", unita::momentoAlMetro),
-                    numeri("Momento minimo", unita::momentoAlMetro),
-                    numeri("Taglio massimo", unita::forzaAlMetro), parole("Esito")}};
+        .colonne = {parole("Combinazione"), numeri(unita::spostamentoFine, "Spostamento massimo"),
+                    numeri(unita::momentoAlMetro, "momento massimo"),
+                    numeri(unita::momentoAlMetro, "momento minimo"),
+                    numeri(unita::forzaAlMetro, "Taglio massimo"), parole("Esito")}};
     for (const EsitoCombinazione& e : tutte.esiti) p.righe.push_back(riga(e));
     const factors::Inviluppo& i = tutte.inviluppo;
     p.righe.push_back({parola(traduttore("Inviluppo")), grandezza(i.spostamento, spostamento),
@@ -137,8 +143,8 @@ Prospetto prospettoEffetti(const Combinazioni& tutte) {
 Prospetto prospettoVerifiche(const Combinazioni& tutte) {
     Prospetto p{.titolo = traduttore("Verifiche"),
                 .colonne = {parole("Combinazione"), parole("Verifica"), numeri("Di progetto"),
-                            numeri("Resistenza"), numeri("Sfruttamento", unita::percento),
-                            numeri("Fase"), simboli("z", unita::metri), parole("Esito")}};
+                            numeri("Resistenza"), numeri(unita::percento, "Sfruttamento"),
+                            numeri("Fase"), simboli(unita::metri, "z"), parole("Esito")}};
     for (const EsitoCombinazione& e : tutte.esiti)
         for (const Verifica& v : e.verifiche) p.righe.push_back(riga(e.combinazione.nome, v));
     return p;
@@ -147,8 +153,8 @@ Prospetto prospettoVerifiche(const Combinazioni& tutte) {
 Prospetto prospettoTiri(const Combinazioni& tutte) {
     Prospetto p{.titolo = traduttore("Tiranti e puntoni"), .colonne = {parole("Tirante")}};
     for (const EsitoCombinazione& e : tutte.esiti)
-        p.colonne.push_back(simboli(e.combinazione.nome.c_str(), unita::forzaAlMetro));
-    p.colonne.push_back(numeri("Inviluppo", unita::forzaAlMetro));
+        p.colonne.push_back(simboli(unita::forzaAlMetro, e.combinazione.nome));
+    p.colonne.push_back(numeri(unita::forzaAlMetro, "Inviluppo"));
     const auto& tiri = tutte.inviluppo.tiri;
     for (std::size_t a = 0; a < tiri.size(); ++a) {
         if (tiri[a].combinazione < 0) continue;

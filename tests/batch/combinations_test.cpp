@@ -130,11 +130,11 @@ TEST_F(CombinazioniConsole, SaysWhichCombinationDoesNotStandAndWhy) {
     const auto esito = comando("en1997-da1");
     EXPECT_EQ(esito.codice, 1);
     EXPECT_TRUE(dice(esito.uscita, "nessun equilibrio"));
-    EXPECT_TRUE(dice(esito.uscita, "DA1-2: fase 1"));
+    EXPECT_TRUE(dice(esito.uscita, "DA1-2: la paratia è un meccanismo nella fase 1"));
     EXPECT_TRUE(dice(esito.uscita, "L'inviluppo è delle sole combinazioni in equilibrio."));
     const auto muto = comando("en1997-da1", {"--silenzioso"});
     EXPECT_TRUE(muto.uscita.empty());
-    EXPECT_TRUE(dice(muto.errori, "DA1-2: fase 1"));
+    EXPECT_TRUE(dice(muto.errori, "DA1-2: la paratia è un meccanismo nella fase 1"));
 }
 
 TEST_F(CombinazioniConsole, RefusesACodeThatIsNotThereAndFilesWithFaults) {

@@ -238,7 +238,7 @@ inline const std::map<std::string, Texts> noTexts = {
     {"profiles/catalogue.hpp", {"profili.txt", "profili_utente.txt"}},
     {"factors/catalogue.hpp", {"combinazioni.txt", "combinazioni_utente.txt"}},
     {"factors/factor_rows.cpp", {"norma", "combinazione"}},
-    {"tables/combination_tables.cpp", {"tan φ", "c'", "cu", "γ", "H", "M"}},
+    {"tables/combination_tables.cpp", {"tan φ"}},
     {"factors/words.cpp", {"momento_positivo", "momento_negativo", "bielle", "armatura", "terra"}},
     {"factors/factor_set.cpp",
      {"attrito", "coesione", "non-drenata", "peso", "permanente", "variabile", "testa-permanente",
