@@ -8,7 +8,7 @@ const std::vector<RigaComando>& comandi() {
         comandoEquilibrio(), comandoSicurezza(),  comandoCombinazioni(), comandoTabelle(),
         comandoDiagramma(),  comandoSezione(),    comandoStratigrafia(), comandoCampiture(),
         comandoTutto(),      comandoConfronta(),  comandoCampi(),        comandoImposta(),
-        comandoLunghezza(),  comandoBloccaggio(), comandoAutoverifica(),
+        comandoLunghezza(),  comandoBloccaggio(), comandoSerie(),        comandoAutoverifica(),
     };
     return tutti;
 }

@@ -13,6 +13,7 @@ namespace korven::batch {
 [[nodiscard]] RigaComando comandoVerifica();
 [[nodiscard]] RigaComando comandoEquilibrio();
 [[nodiscard]] RigaComando comandoSicurezza();
+[[nodiscard]] RigaComando comandoSerie();
 [[nodiscard]] RigaComando comandoCombinazioni();
 [[nodiscard]] RigaComando comandoConfronta();
 [[nodiscard]] RigaComando comandoAutoverifica();

@@ -30,6 +30,7 @@ namespace {
 
 // What a command has to tell on standard output.
 std::string resoconto(const Opzioni& opzioni, const Esito& esito) {
+    if (esito.righeVersate && (opzioni.json || opzioni.serie.uscita.empty())) return {};
     if (opzioni.json) return json(esito);
     if (opzioni.silenzioso) return {};
     if (esito.soloRilievi) return esito.guasto ? "" : elenco(esito);

@@ -130,12 +130,25 @@ const Riga tabella[] = {
      true},
 };
 
+bool comincia(const Riga& riga, std::string_view inizio) {
+    return std::string_view(riga.nome).starts_with(inizio);
+}
+
+// The names say it.
+Specie specie(const Riga& riga) {
+    if (riga.parole != nullptr) return Specie::parola;
+    if (comincia(riga, "z_") || comincia(riga, "fase_") || comincia(riga, "riduzione_oltre"))
+        return Specie::dove;
+    return comincia(riga, "uso_") || comincia(riga, "passiva_") ? Specie::uso : Specie::numero;
+}
+
 Colonna colonna(const Riga& riga, int tirante) {
     std::string nome = riga.nome;
     if (tirante > 0) nome.replace(nome.find('%'), 1, std::to_string(tirante));
-    return {nome,           riga.parole != nullptr ? &riga.parole() : nullptr,
-            riga.valore,    tirante,
-            riga.riduzione, riga.lunghezza};
+    return {nome,          riga.parole != nullptr ? &riga.parole() : nullptr,
+            riga.valore,   specie(riga),
+            tirante,       riga.riduzione,
+            riga.lunghezza};
 }
 
 }  // namespace

@@ -17,12 +17,21 @@ namespace korven::studies {
 /// The value of a column of a variant that has none.
 inline constexpr double vuoto = std::numeric_limits<double>::quiet_NaN();
 
+/// What the values of a column are.
+enum class Specie {
+    numero,  ///< of which means and quantiles tell something
+    uso,     ///< the same, a share of 1 of what can be borne
+    dove,    ///< a depth, a stage or a yes: where a number is, or of which kind
+    parola,
+};
+
 /// What a study tells of each variant: a number, or one of a few words.
 struct Colonna {
     std::string nome;                                       ///< "momento_massimo_kNm"
     const std::vector<std::string_view>* parole = nullptr;  ///< by number; nullptr: a number
     /// The value in the unit of the name, rounded as it is printed; `vuoto` for none.
     double (*valore)(const RisultatoVariante& variante, int tirante) = nullptr;
+    Specie specie = Specie::numero;
     int tirante = 0;         ///< counted from 1, of a column that each anchor has
     bool riduzione = false;  ///< needs the strength reductions
     bool lunghezza = false;  ///< needs the search for the shortest wall
@@ -36,6 +45,9 @@ struct Colonna {
 /// The column that is in every study, the first: what became of the variant, a word of
 /// `safety::Causa`.
 inline constexpr std::string_view colonnaCausa = "causa";
+
+/// That of the stage that does not stand.
+inline constexpr std::string_view colonnaCaduta = "fase_caduta";
 
 /// Some columns of all that there are, in the order of the table; `colonnaCausa` is always one.
 /// @param nomi  empty: those without the ones that need more work

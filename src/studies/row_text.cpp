@@ -47,6 +47,7 @@ RigheStudio::RigheStudio(std::span<const project::CampoNominato> campi,
         inizio_.append("{\"").append(numero).append("\":");
     const auto aggiungi = [&](const std::string& nome, const std::string& testa) {
         nomi_.push_back(nome);
+        teste_.push_back(testa);
         chiavi_.push_back(csv ? "," : ",\"" + nome + "\":");
         if (csv) testata_ += ',' + testa;
     };

@@ -33,6 +33,9 @@ class RigheStudio {
     /// The names of the values: of a field its code name.
     [[nodiscard]] const std::vector<std::string>& nomi() const { return nomi_; }
 
+    /// The same with their units, as a table or a drawing is headed.
+    [[nodiscard]] const std::vector<std::string>& teste() const { return teste_; }
+
     /// What stands before the rows: the line of names, fields with their units; nothing in JSON.
     [[nodiscard]] const std::string& testata() const { return testata_; }
 
@@ -56,7 +59,7 @@ class RigheStudio {
 
     std::vector<Colonna> colonne_;
     Formato formato_;
-    std::vector<std::string> nomi_;
+    std::vector<std::string> nomi_, teste_;
     std::vector<std::string> chiavi_;  ///< what stands before each value
     std::string inizio_, testata_;
 };

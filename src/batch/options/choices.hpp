@@ -7,6 +7,7 @@
 #include "analysis/diagrams.hpp"
 #include "batch/options/output_formats.hpp"
 #include "batch/options/question_choices.hpp"
+#include "batch/options/series_choices.hpp"
 #include "factors/load_factors.hpp"
 
 namespace korven::batch {
@@ -45,6 +46,7 @@ struct Opzioni {
     std::string pdfConfronto;          ///< `confronta`: the PDF file; empty: none
     std::string pdfVerifica;           ///< `autoverifica`: the PDF file; empty: none
     std::string casi;                  ///< `autoverifica`: folder of cases; empty: the program's
+    OpzioniSerie serie;                ///< of `serie`
     std::vector<std::string> formati;  ///< `tutto`: of each drawing; empty: PDF and DXF
 };
 

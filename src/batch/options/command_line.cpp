@@ -145,7 +145,10 @@ void Lettura::aggiungi(CLI::App& comando, const RigaOpzione& riga) {
     opzione->type_name(riga.valoreMostrato())->type_size(1);
     opzione->expected(riga.ripetibile ? CLI::detail::expected_max_vector_size : 1);
     // What stands by its place may hold commas of its own.
-    if (riga.ripetibile && !riga.perPosto()) opzione->delimiter(',');
+    if (riga.conVirgole)
+        opzione->allow_extra_args(false);
+    else if (riga.ripetibile && !riga.perPosto())
+        opzione->delimiter(',');
     opzione->required(riga.obbligatoria)->default_str(riga.predefinito);
     if (const auto* conta = std::get_if<Conta>(&riga.azione))
         intervalli_[opzione] = conta->intervallo();

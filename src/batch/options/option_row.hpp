@@ -37,6 +37,8 @@ struct RigaOpzione {
     std::string coda = {};  ///< after the explanation in the help, in every language
     bool obbligatoria = false;
     bool ripetibile = false;  ///< takes several values; an option parted by commas too
+    bool conVirgole = false;  ///< of a repeatable option: a comma is part of a value, and each
+                              ///< value has the option's name before it
 
     [[nodiscard]] bool perPosto() const { return !nome.italiano.starts_with('-'); }
     /// What the help shows for its value, in the language in use: "DIR", "momenti|taglio".

@@ -41,6 +41,10 @@ std::string argomentoSconosciuto(const std::vector<std::string>& argomenti) {
     return traduttore("argomento sconosciuto") + ":" + uniti(argomenti);
 }
 
+std::string insiemeNonAmmesse(const std::string& nomi) {
+    return traduttore("opzioni che non vanno insieme") + base::duePunti() + nomi;
+}
+
 std::string opzioneNonSua(const std::string& comando, const std::string& argomento) {
     return comando + ": " + traduttore("il comando non ha questa opzione") + base::duePunti() +
            argomento;

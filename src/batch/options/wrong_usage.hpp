@@ -20,6 +20,8 @@ namespace korven::batch {
                                            const std::vector<std::string>& valori,
                                            const std::string& ammessi);
 [[nodiscard]] std::string argomentoSconosciuto(const std::vector<std::string>& argomenti);
+/// Options that exclude one another, or of which one is enough.
+[[nodiscard]] std::string insiemeNonAmmesse(const std::string& nomi);
 /// An option of another command.
 /// @param comando    as shown
 /// @param argomento  as typed, with its value or without

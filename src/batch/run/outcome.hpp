@@ -56,7 +56,8 @@ struct Esito {
     std::shared_ptr<const factors::Combinazioni> combinazioni;
     bool elencaCampi = false;                        ///< the fields of `scritti`
     std::optional<project::DatiProgetto> impostato;  ///< what `scritti` has become in another file
-    bool giaAggiornato = false;                      ///< the result file was up to date already
+    bool righeVersate = false;   ///< it told its outcome row by row, where it was asked to
+    bool giaAggiornato = false;  ///< the result file was up to date already
     std::vector<analysis::ControlloCorsa::Fase> fasi;
     std::vector<std::string> fileScritti;
     std::string fileRelazione, fileTesto, fileDocumento, filePdf;

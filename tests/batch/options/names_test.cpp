@@ -31,6 +31,7 @@ std::string valoreDi(const RigaOpzione& opzione, Nome nome) {
     if (opzione.valore.italiano == "campo=valore") return "nFasi=1";
     for (const char* positivo : {"F", "M", "KN"})
         if (opzione.valore.italiano == positivo) return "1.5";
+    if (opzione.nome.italiano == "--parte") return "2/3";
     return opzione.valore.italiano == "N" ? "20" : "nome";
 }
 
@@ -46,14 +47,17 @@ std::vector<std::string> interoComando(const RigaComando& riga, Nome nome) {
 }
 
 auto tutte(const Opzioni& o) {
-    return std::tuple(o.comando, o.progetto, o.uscita, o.ricalcolaEJ, o.metodoSpinte, o.nseg,
-                      o.json, o.silenzioso, o.traccia, o.maxIterazioni, o.tipo, o.fase,
-                      o.relazione.testo, o.relazione.documento, o.relazione.pdf,
-                      o.relazione.stampante, o.disegno.file(), o.disegno.dpi,
-                      o.disegno.foglio.larghezza, o.disegno.foglio.altezza, o.formati, o.csv,
-                      o.allegato.file(), o.allegato.righe, o.data, o.tabelle.xlsx, o.tabelle.csv,
-                      o.assegnazioni, o.progettoNuovo, o.lunghezza.riduzione, o.lunghezza.finoA,
-                      o.bloccaggio.forza, o.norma, o.natura.monte, o.natura.scavo, o.natura.testa);
+    return std::tuple(
+        o.comando, o.progetto, o.uscita, o.ricalcolaEJ, o.metodoSpinte, o.nseg, o.json,
+        o.silenzioso, o.traccia, o.maxIterazioni, o.tipo, o.fase, o.relazione.testo,
+        o.relazione.documento, o.relazione.pdf, o.relazione.stampante, o.disegno.file(),
+        o.disegno.dpi, o.disegno.foglio.larghezza, o.disegno.foglio.altezza, o.formati, o.csv,
+        o.allegato.file(), o.allegato.righe, o.data, o.tabelle.xlsx, o.tabelle.csv, o.assegnazioni,
+        o.progettoNuovo, o.lunghezza.riduzione, o.lunghezza.finoA, o.bloccaggio.forza, o.norma,
+        o.natura.monte, o.natura.scavo, o.natura.testa, o.serie.piano, o.serie.griglie,
+        o.serie.leggi, o.serie.rho, o.serie.campioni, o.serie.seme, o.serie.ipercubo,
+        o.serie.uscita, o.serie.riprendi, o.serie.parte, o.serie.parti, o.serie.fili,
+        o.serie.colonne, o.serie.grafico, o.serie.sicurezza, o.serie.iterazione, o.serie.controllo);
 }
 
 // Words of a help: names are parted by blanks, commas, bars and brackets.
@@ -165,7 +169,7 @@ TEST(Nomi, InMessagesAreThoseOfTheLanguageInUseWhicheverWereTyped) {
     EXPECT_TRUE(test::dice(
         leggi({"disegna"}).errori,
         ": calculate, report, annex, check, equilibrium, safety, combinations, tables, diagram, "
-        "section, log, hatches, all, compare, fields, set, length, lockoff, selfcheck\n"));
+        "section, log, hatches, all, compare, fields, set, length, lockoff, series, selfcheck\n"));
 }
 
 TEST(Nomi, GivenTwiceAreOneOptionGivenTwice) {

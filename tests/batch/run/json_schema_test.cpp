@@ -92,6 +92,16 @@ TEST_F(SchemaRisposte, HoldForWhatIsRefusedOrCannotBeRead) {
         inOrdine({comando});
 }
 
+// Once it has rows a study answers with them alone.
+TEST_F(SchemaRisposte, HoldForAStudyThatIsRefused) {
+    inOrdine({"serie"});
+    inOrdine({"serie", "--griglia", "phiStrato[1]=8:27"});
+    inOrdine({"serie", "--piano", cartella / "manca.csv"});
+    inOrdine({"serie", "--griglia", "phiStrato[1]=8:27:1", "--nseg", "2"});
+    fs::remove(progetto);
+    inOrdine({"serie", "--griglia", "phiStrato[1]=8:27:1"});
+}
+
 TEST_F(SchemaRisposte, HoldForTheVerification) {
     const Json risposta = Json::parse(console({"autoverifica", "--json"}).uscita);
     for (const auto& errore : schema().errori(risposta)) ADD_FAILURE() << errore;

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "studies/runner.hpp"
+#include "studies/summary/summary.hpp"
+#include "studies/summary/summary_text.hpp"
+
+namespace korven::batch {
+
+/// What is asked of the sum of a study, beside its rows.
+struct DomandaConto {
+    std::uint64_t seme = 1;     ///< of the choice of the rows that are kept
+    bool campioni = false;      ///< the variants are random
+    bool indipendenti = false;  ///< and have no part in each other
+};
+
+/// What the rows of a study come to, for its end. Takes them as they are printed, so that those of
+/// an interrupted study that are read again give the same.
+class ContoSerie {
+ public:
+    ContoSerie(const studies::RigheStudio& righe, DomandaConto domanda);
+
+    /// @param i  the variant, from 0, in ascending order
+    void riga(std::uint64_t i, std::span<const double> valori);
+    void limitati(std::uint64_t quanti) { limitati_ += quanti; }
+    void controllate(const std::vector<studies::Controllata>& altre);
+
+    /// True if a variant has other numbers both ways.
+    [[nodiscard]] bool diverse() const { return diverse_ > 0; }
+    /// What is told at the end, a line a fact, translated.
+    [[nodiscard]] std::vector<std::string> righe() const;
+    /// What is told of the variants that were computed both ways, with the first of those that
+    /// differ; empty if there were none.
+    [[nodiscard]] std::vector<std::string> righeControllo() const;
+
+    [[nodiscard]] const studies::Riassunto& riassunto() const { return riassunto_; }
+    [[nodiscard]] const studies::FormaRiga& forma() const { return forma_; }
+
+ private:
+    [[nodiscard]] studies::EsitoRiga esito(std::span<const double> valori) const;
+
+    DomandaConto domanda_;
+    std::vector<std::string> nomi_;
+    std::size_t causa_;   ///< places in a row
+    std::size_t caduta_;  ///< that of no column where there is none
+    studies::FormaRiga forma_;
+    studies::Riassunto riassunto_;
+    std::uint64_t limitati_ = 0;
+    std::uint64_t controllate_ = 0, senzaRiposo_ = 0, incerte_ = 0, diverse_ = 0;
+    std::vector<studies::Controllata> prime_;  ///< of those that differ
+};
+
+}  // namespace korven::batch

@@ -1,0 +1,53 @@
+#include "batch/run/series_plan.hpp"
+
+#include <utility>
+
+#include "base/files.hpp"
+#include "batch/run/failure.hpp"
+#include "project/project_data.hpp"
+#include "studies/plan/fault_words.hpp"
+#include "studies/plan/plan_file.hpp"
+#include "studies/plan/typed_grid.hpp"
+#include "studies/plan/typed_samples.hpp"
+
+namespace korven::batch {
+
+namespace {
+
+using project::Progetto;
+using studies::DifettoPiano;
+
+template <class T>
+VariantiScelte scelte(studies::Letto<T> letto) {
+    if (const auto* difetto = std::get_if<DifettoPiano>(&letto))
+        return {nullptr, usoErrato, studies::parole(*difetto)};
+    return {std::make_unique<T>(std::get<T>(std::move(letto))), fatto, {}};
+}
+
+// All that is wrong with the file, a line a fault.
+VariantiScelte delPiano(const std::string& file) {
+    auto letto = studies::leggiPiano(Progetto, base::leggiFile(file));
+    if (letto.piano) return {std::make_unique<studies::Piano>(*std::move(letto.piano)), fatto, {}};
+    std::string perche = file;
+    for (const DifettoPiano& difetto : letto.difetti) perche += "\n  " + studies::parole(difetto);
+    return {nullptr, ingressoRotto, perche};
+}
+
+}  // namespace
+
+VariantiScelte variantiScelte(const OpzioniSerie& serie) {
+    if (!serie.piano.empty()) return delPiano(serie.piano);
+    if (!serie.griglie.empty()) return scelte(studies::leggiGriglia(Progetto, serie.griglie));
+    VariantiScelte casuali = scelte(studies::leggiCampioni(
+        Progetto,
+        {.leggi = serie.leggi,
+         .rho = serie.rho,
+         .numero = serie.campioni,
+         .seme = serie.seme,
+         .disegno = serie.ipercubo ? studies::Disegno::ipercubo : studies::Disegno::casuale}));
+    casuali.campioni = true;
+    casuali.indipendenti = !serie.ipercubo;
+    return casuali;
+}
+
+}  // namespace korven::batch

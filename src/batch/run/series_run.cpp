@@ -1,0 +1,229 @@
+#include "batch/run/series_run.hpp"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <cassert>
+#include <iostream>
+#include <optional>
+#include <thread>
+
+#include "base/file_error.hpp"
+#include "base/filled_text.hpp"
+#include "base/partial_file.hpp"
+#include "base/translated_texts.hpp"
+#include "batch/run/console_run.hpp"
+#include "batch/run/drawing_formats.hpp"
+#include "batch/run/failure.hpp"
+#include "batch/run/interruption.hpp"
+#include "batch/run/output_names.hpp"
+#include "batch/run/series_outcome.hpp"
+#include "batch/run/series_progress.hpp"
+#include "project/project_data.hpp"
+#include "studies/charts/study_chart.hpp"
+#include "studies/resume.hpp"
+
+namespace korven::batch {
+
+namespace {
+
+using base::riempito;
+using base::traduttore;
+using project::Progetto;
+
+studies::Scelta colonne(const Opzioni& opzioni, const studies::Varianti& varianti) {
+    return studies::scegliColonne(opzioni.serie.colonne,
+                                  studies::tirantiPossibili(Progetto, varianti.campi()),
+                                  opzioni.serie.sicurezza);
+}
+
+studies::Domanda domanda(const Opzioni& opzioni, int nSeg,
+                         const std::vector<studies::Colonna>& colonne) {
+    studies::Domanda d{.nSeg = nSeg, .ricalcolaEJ = opzioni.ricalcolaEJ};
+    if (opzioni.serie.iterazione) d.soluzione = studies::Soluzione::iterazione;
+    for (const studies::Colonna& c : colonne) {
+        d.riduzione = d.riduzione || c.riduzione;
+        d.lunghezza = d.lunghezza || c.lunghezza;
+    }
+    return d;
+}
+
+int fili(const OpzioniSerie& serie) {
+    if (serie.fili > 0) return serie.fili;
+    return std::max(1, static_cast<int>(std::thread::hardware_concurrency()));
+}
+
+// Takes the rows to their file or to standard output.
+class UscitaSerie : public studies::UscitaStudio, public studies::LettoreRigheStudio {
+ public:
+    UscitaSerie(const studies::RigheStudio& righe, const DomandaConto& domanda,
+                base::FileParziale* file)
+        : quanti_(righe.quanti()), file_(file), conto_(righe, domanda) {}
+
+    void comincia(std::string_view testata, AvanzamentoSerie& avanzamento) {
+        avanzamento_ = &avanzamento;
+        scrivi(testata);
+    }
+    void riga(std::uint64_t i, std::span<const double> valori) override { conto_.riga(i, valori); }
+    void prendi(const studies::Righe& righe) override {
+        scrivi(righe.byte);
+        std::uint64_t i = righe.primo;
+        for (std::size_t da = 0; da < righe.valori.size(); da += quanti_)
+            conto_.riga(i++, std::span(righe.valori).subspan(da, quanti_));
+        conto_.limitati(righe.limitati);
+        conto_.controllate(righe.controllate);
+    }
+    // A reader that has gone ends the study, and is told of at the end of the program.
+    bool prosegui(std::uint64_t fatte) override {
+        avanzamento_->aggiorna(fatte);
+        return Interruzioni::chiesta() == 0 && std::cout.good();
+    }
+
+    [[nodiscard]] ContoSerie& conto() { return conto_; }
+
+ private:
+    void scrivi(std::string_view byte) {
+        if (file_ != nullptr)
+            file_->scrivi(byte);
+        else
+            std::cout.write(byte.data(), static_cast<std::streamsize>(byte.size())).flush();
+    }
+
+    const std::size_t quanti_;
+    base::FileParziale* file_;
+    ContoSerie conto_;
+    AvanzamentoSerie* avanzamento_ = nullptr;
+};
+
+// The rows that are there already; none, and an empty file, for a study that begins.
+studies::Ripresa riprese(const Opzioni& opzioni, const studies::Studio& studio,
+                         studies::Tratto tratto, base::FileParziale& file, UscitaSerie& uscita) {
+    studies::Ripresa ripresa;
+    if (opzioni.serie.riprendi) {
+        const auto trovata = studies::riprendi(file, studio, tratto, uscita);
+        if (!trovata)
+            throw base::ErroreFile(
+                file.nome(), 0,
+                traduttore("contiene righe di un altro studio: senza --riprendi questo comincia da "
+                           "capo e le cancella"));
+        ripresa = *trovata;
+        std::vector<double> valori(studio.varianti.campi().size());
+        for (std::uint64_t i = tratto.da; i < tratto.da + ripresa.righe; ++i)
+            uscita.conto().limitati(static_cast<std::uint64_t>(studio.varianti.valori(i, valori)));
+    }
+    file.tieni(ripresa.byte);
+    return ripresa;
+}
+
+void raccontaInterruzione(const base::FileParziale* file, std::uint64_t fatte, std::uint64_t quante,
+                          Esito& esito) {
+    esito.causa = safety::Causa::fermato;
+    const std::string righe = std::to_string(fatte), tutte = std::to_string(quante);
+    racconta(
+        {file == nullptr
+             ? riempito(traduttore("Studio interrotto: %1 varianti di %2."), {righe, tutte})
+             : riempito(traduttore("Studio interrotto: %1 varianti di %2 in %3; con --riprendi "
+                                   "continua da lì."),
+                        {righe, tutte, file->nome()})},
+        esito);
+}
+
+void raccontaFine(const Opzioni& opzioni, const ContoSerie& conto) {
+    if (!opzioni.silenzioso)
+        for (const auto& riga : conto.righe()) std::cerr << riga << '\n';
+    if (!opzioni.silenzioso || conto.diverse())
+        for (const auto& riga : conto.righeControllo()) std::cerr << riga << '\n';
+}
+
+void controllaUscita(const Opzioni& opzioni, const base::Disco& disco) {
+    const OpzioniSerie& serie = opzioni.serie;
+    if (!opzioni.disegno.nessuna()) controllaUscite(opzioni.disegno);
+    if (serie.uscita.empty()) return;
+    const std::vector<std::string> file{serie.uscita, base::nomeParziale(serie.uscita)};
+    controllaFile(file, disco);
+    controllaNomi(file, opzioni.disegno.file());
+    if (!serie.piano.empty()) controllaNomi(file, {serie.piano});
+}
+
+// Of one result, once all rows are there.
+int disegnaRisultato(const Opzioni& opzioni, const base::Disco& disco,
+                     const studies::RigheStudio& righe, const ContoSerie& conto, Esito& esito) {
+    if (opzioni.serie.grafico.empty()) return fatto;
+    const auto& nomi = righe.nomi();
+    const auto quale = std::find(nomi.begin(), nomi.end(), opzioni.serie.grafico);
+    const studies::GraficoStudio grafico{
+        .risultato = static_cast<std::size_t>(quale - nomi.begin()),
+        .titoli = righe.teste(),
+        .campioni = opzioni.serie.campioni > 0};
+    return disegna(opzioni.disegno, disco, esito, [&] {
+        const auto foglio = studies::formatoGrafico(conto.riassunto(), conto.forma(), grafico);
+        studies::disegnaGrafico(conto.riassunto(), conto.forma(), grafico, foglio.larghezza,
+                                foglio.altezza);
+        return true;
+    });
+}
+
+int corri(const Opzioni& opzioni, const PorteComando& porte, const studies::Studio& studio,
+          const DomandaConto& domanda, studies::Tratto tratto, base::FileParziale* file,
+          Esito& esito) {
+    UscitaSerie uscita(studio.righe, domanda, file);
+    studies::Ripresa ripresa;
+    if (file != nullptr) ripresa = riprese(opzioni, studio, tratto, *file, uscita);
+    AvanzamentoSerie avanzamento(std::cerr, !opzioni.silenzioso, ::isatty(STDERR_FILENO) == 1,
+                                 tratto.numero(), ripresa.righe);
+    uscita.comincia(ripresa.byte == 0 ? studies::testata(studio, tratto) : std::string_view(),
+                    avanzamento);
+    const auto fatte =
+        studies::esegui(studio, {tratto.da + ripresa.righe, tratto.a}, fili(opzioni.serie), uscita);
+    avanzamento.chiudi();
+    raccontaFine(opzioni, uscita.conto());
+    if (ripresa.righe + fatte < tratto.numero()) {
+        raccontaInterruzione(file, ripresa.righe + fatte, tratto.numero(), esito);
+        return nonEseguito;
+    }
+    if (file != nullptr) {
+        file->concludi();
+        esito.fileScritti.push_back(opzioni.serie.uscita);
+    }
+    esito.causa = safety::Causa::eseguito;
+    const int disegno = disegnaRisultato(opzioni, porte.disco, studio.righe, uscita.conto(), esito);
+    return uscita.conto().diverse() ? nonEseguito : disegno;
+}
+
+}  // namespace
+
+std::string colonnaSconosciuta(const Opzioni& opzioni, const studies::Varianti& varianti) {
+    return colonne(opzioni, varianti).sconosciuto;
+}
+
+bool disegnabile(const Opzioni& opzioni, const studies::Varianti& varianti) {
+    if (opzioni.serie.grafico.empty()) return true;
+    const auto tutte = colonne(opzioni, varianti).colonne;
+    return std::any_of(tutte.begin(), tutte.end(), [&](const studies::Colonna& c) {
+        return c.nome == opzioni.serie.grafico &&
+               (c.specie == studies::Specie::numero || c.specie == studies::Specie::uso);
+    });
+}
+
+int eseguiSerie(const Opzioni& opzioni, const PorteComando& porte, const VariantiScelte& scelte,
+                int nSeg, Esito& esito) {
+    assert(scelte.varianti);
+    const studies::Varianti& varianti = *scelte.varianti;
+    const OpzioniSerie& serie = opzioni.serie;
+    controllaUscita(opzioni, porte.disco);
+    auto sue = colonne(opzioni, varianti).colonne;
+    const studies::Domanda chiesto = domanda(opzioni, nSeg, sue);
+    const studies::RigheStudio righe(varianti.campi(), std::move(sue),
+                                     opzioni.json ? studies::Formato::json : studies::Formato::csv);
+    const studies::Studio studio{varianti, Progetto, chiesto, righe,
+                                 static_cast<std::uint64_t>(serie.controllo)};
+    const auto tratto = studies::parte(varianti.numero(), serie.parte, serie.parti);
+    std::optional<base::FileParziale> file;
+    if (!serie.uscita.empty()) file.emplace(serie.uscita, porte.disco);
+    esito.righeVersate = true;
+    const DomandaConto domanda{
+        .seme = serie.seme, .campioni = scelte.campioni, .indipendenti = scelte.indipendenti};
+    return corri(opzioni, porte, studio, domanda, tratto, file ? &*file : nullptr, esito);
+}
+
+}  // namespace korven::batch

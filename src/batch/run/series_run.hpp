@@ -1,0 +1,28 @@
+#pragma once
+
+#include "batch/options/choices.hpp"
+#include "batch/run/command_ports.hpp"
+#include "batch/run/outcome.hpp"
+#include "batch/run/series_plan.hpp"
+
+namespace korven::batch {
+
+/// Computes the variants of a study of `Progetto` and writes their rows, with the progress and what
+/// they come to on standard error.
+/// @param scelte  with variants: asserted
+/// @param nSeg    segments of the wall
+/// @return the exit code
+/// @throws base::ErroreFile for a file that can't be written, or that is of another study
+/// @throws NomiInConflitto
+[[nodiscard]] int eseguiSerie(const Opzioni& opzioni, const PorteComando& porte,
+                              const VariantiScelte& scelte, int nSeg, Esito& esito);
+
+/// Columns that the command line asks for and that there are not: the first; empty if there is
+/// none.
+[[nodiscard]] std::string colonnaSconosciuta(const Opzioni& opzioni,
+                                             const studies::Varianti& varianti);
+
+/// False for a result to be drawn that is none of the study's numbers.
+[[nodiscard]] bool disegnabile(const Opzioni& opzioni, const studies::Varianti& varianti);
+
+}  // namespace korven::batch

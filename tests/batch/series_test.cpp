@@ -1,0 +1,317 @@
+// The command `serie` from outside.
+
+#include <signal.h>
+
+#include <algorithm>
+#include <charconv>
+#include <chrono>
+#include <cmath>
+#include <nlohmann/json.hpp>
+#include <random>
+#include <sstream>
+#include <thread>
+
+#include "batch/batch_bench.hpp"
+
+namespace korven::batch {
+namespace {
+
+namespace fs = std::filesystem;
+using Json = nlohmann::json;
+using test::contenuto;
+using test::dice;
+
+std::vector<std::string> linee(const std::string& testo) {
+    std::vector<std::string> tutte;
+    std::istringstream flusso(testo);
+    for (std::string riga; std::getline(flusso, riga);) {
+        if (!riga.empty() && riga.back() == '\r') riga.pop_back();
+        tutte.push_back(riga);
+    }
+    return tutte;
+}
+
+class Serie : public test::BancoConsole {
+ protected:
+    void SetUp() override { prendi("diaframma_due_ordini"); }
+
+    void prendi(const std::string& nome) {
+        fs::copy_file(std::string(KORVEN_EXAMPLES) + "/" + nome + ".kvd", progetto,
+                      fs::copy_options::overwrite_existing);
+    }
+    [[nodiscard]] test::EsitoProgramma serie(std::vector<std::string> altri) const {
+        altri.insert(altri.begin(), {"serie", progetto});
+        return console(altri);
+    }
+    // A study of 60 variants, some of which fall.
+    [[nodiscard]] static std::vector<std::string> studio(std::vector<std::string> altri = {}) {
+        altri.insert(altri.begin(),
+                     {"--griglia", "phiStrato[1]=8:27:1", "--griglia", "sovraccMonte=0:20:10"});
+        return altri;
+    }
+
+    const std::string file = cartella / "studio.csv";
+    const std::string parziale = file + ".parziale";
+};
+
+TEST_F(Serie, WritesARowForEachVariantInTheirOrder) {
+    const auto esito = serie(studio());
+    EXPECT_EQ(esito.codice, 0) << esito.errori;
+    const auto righe = linee(esito.uscita);
+    ASSERT_EQ(righe.size(), 61u);
+    EXPECT_TRUE(righe[0].starts_with("variante,phiStrato[1] [°],sovraccMonte [kN/m²],causa,"))
+        << righe[0];
+    EXPECT_TRUE(righe[1].starts_with("1,8,0,")) << righe[1];
+    EXPECT_TRUE(righe[3].starts_with("3,8,20,"));
+    EXPECT_TRUE(righe[60].starts_with("60,27,20,eseguito,,,"));
+    EXPECT_TRUE(dice(esito.errori, "60 varianti")) << esito.errori;
+    EXPECT_EQ(nomi(), "muro.kvd ");
+}
+
+TEST_F(Serie, GivesTheSameBytesWithAnyNumberOfThreadsAndInParts) {
+    const std::string uno = serie(studio({"-j", "1"})).uscita;
+    EXPECT_EQ(serie(studio({"-j", "4", "--silenzioso"})).uscita, uno);
+    std::string insieme;
+    for (const char* parte : {"1/3", "2/3", "3/3"})
+        insieme += serie(studio({"--parte", parte})).uscita;
+    EXPECT_EQ(insieme, uno);
+}
+
+TEST_F(Serie, WritesObjectsALineForPrograms) {
+    const auto esito = serie(studio({"--json", "--silenzioso"}));
+    EXPECT_EQ(esito.errori, "");
+    const auto righe = linee(esito.uscita);
+    ASSERT_EQ(righe.size(), 60u);
+    const Json ultima = Json::parse(righe.back());
+    EXPECT_EQ(ultima["variante"], 60);
+    EXPECT_EQ(ultima["phiStrato[1]"], 27);
+    EXPECT_EQ(ultima["causa"], "eseguito");
+    EXPECT_TRUE(ultima["motivo"].is_null());
+    EXPECT_GT(ultima["spostamento_massimo_m"].get<double>(), 0);
+}
+
+// The numbers of one variant beside those of the command `equilibrio` on a file with its values.
+TEST_F(Serie, HasTheNumbersOfEquilibrioForEveryVariant) {
+    const project::DatiProgetto base = project::leggiDaFile(progetto);
+    std::mt19937 caso(14);
+    std::uniform_real_distribution<double> phi(20, 40), forza(0, 300), lunghezza(12, 20);
+    std::string piano = "phiStrato[1];pretTirante[1];lunghezzaParatia\n";
+    std::vector<project::DatiProgetto> muri;
+    for (int i = 0; i < 200; ++i) {
+        const double p = phi(caso), f = forza(caso), l = lunghezza(caso);
+        std::ostringstream riga;
+        riga.precision(17);
+        riga << p << ';' << f << ';' << l << '\n';
+        piano += riga.str();
+        muri.push_back(base);
+        muri.back().phiStrato[1] = p;
+        muri.back().pretTirante[1] = f / 10;
+        muri.back().lunghezzaParatia = l;
+    }
+    test::metti(cartella / "piano.csv", piano);
+    const auto righe =
+        linee(serie({"--piano", cartella / "piano.csv", "--json", "--silenzioso"}).uscita);
+    ASSERT_EQ(righe.size(), muri.size());
+    int stanno = 0;
+    for (std::size_t i = 0; i < muri.size(); ++i) {
+        SCOPED_TRACE(i);
+        const Json r = Json::parse(righe[i]);
+        const std::string muro = cartella / "variante.kvd";
+        test::metti(muro, base::inCp1252(project::testoProgetto(muri[i])));
+        const Json j = Json::parse(
+            console({"equilibrio", muro, "--json", "--silenzioso"}, base::discoDiSistema()).uscita);
+        ASSERT_EQ(r["causa"], j["causa"]);
+        if (r["causa"] != "eseguito") continue;
+        ++stanno;
+        double spostamento = 0, massimo = 0, minimo = 0, taglio = 0;
+        std::vector<double> tiri(2);
+        for (const Json& fase : j["equilibrio"]["fasi"]) {
+            spostamento = std::max(spostamento, fase["spostamento_massimo_m"].get<double>());
+            massimo = std::max(massimo, fase["momento_massimo_kNm"].get<double>());
+            minimo = std::min(minimo, fase["momento_minimo_kNm"].get<double>());
+            taglio = std::max(taglio, fase["taglio_massimo_kN"].get<double>());
+            for (std::size_t t = 0; t < fase["tiri_kN"].size(); ++t)
+                tiri[t] = std::max(tiri[t], fase["tiri_kN"][t].get<double>());
+        }
+        EXPECT_EQ(r["spostamento_massimo_m"], spostamento);
+        EXPECT_EQ(r["momento_massimo_kNm"], massimo);
+        EXPECT_EQ(r["momento_minimo_kNm"], minimo);
+        EXPECT_EQ(r["taglio_massimo_kN"], taglio);
+        EXPECT_EQ(r["tiro_1_kN"], tiri[0]);
+        EXPECT_EQ(r["tiro_2_kN"], tiri[1]);
+    }
+    EXPECT_GT(stanno, 100);
+}
+
+TEST_F(Serie, BearsItsNameOnlyOnceItIsDone) {
+    const std::string tutto = serie(studio()).uscita;
+    const auto esito = serie(studio({"--uscita", file}));
+    EXPECT_EQ(esito.codice, 0);
+    EXPECT_TRUE(dice(esito.uscita, "File scritto: " + file)) << esito.uscita;
+    EXPECT_EQ(contenuto(file), tutto);
+    EXPECT_FALSE(fs::exists(parziale));
+}
+
+TEST_F(Serie, GoesOnWithTheBytesOfAStudyThatWasNeverInterrupted) {
+    const auto intero = serie(studio());
+    // Cut in the middle of a row.
+    test::metti(parziale, intero.uscita.substr(0, intero.uscita.size() / 2));
+    const auto esito = serie(studio({"--uscita", file, "--riprendi"}));
+    EXPECT_EQ(esito.codice, 0) << esito.errori;
+    EXPECT_EQ(contenuto(file), intero.uscita);
+    EXPECT_EQ(esito.errori, intero.errori);  // what it comes to is the same too
+    // Without a file it begins.
+    fs::remove(file);
+    EXPECT_EQ(serie(studio({"--uscita", file, "--riprendi"})).codice, 0);
+    EXPECT_EQ(contenuto(file), intero.uscita);
+}
+
+TEST_F(Serie, LeavesTheFileOfAnotherStudyAloneUnlessItBeginsAnew) {
+    const std::string altro =
+        serie({"--griglia", "phiStrato[1]=8:27:1", "--griglia", "sovraccMonte=1:21:10"}).uscita;
+    test::metti(parziale, altro);
+    const auto esito = serie(studio({"--uscita", file, "--riprendi"}));
+    EXPECT_EQ(esito.codice, 3);
+    EXPECT_TRUE(dice(esito.errori, "altro studio")) << esito.errori;
+    EXPECT_EQ(contenuto(parziale), altro);
+    EXPECT_EQ(serie(studio({"--uscita", file})).codice, 0);
+    EXPECT_FALSE(fs::exists(parziale));
+    EXPECT_EQ(contenuto(file), serie(studio()).uscita);
+}
+
+TEST_F(Serie, EndsWithinASecondOfAnInterruptAndKeepsWhatIsDone) {
+    const std::vector<std::string> argomenti = {"serie",     progetto,
+                                                "--griglia", "phiStrato[1]=20:40:0.001",
+                                                "--griglia", "sovraccMonte=0:99:1",
+                                                "--uscita",  file};
+    test::ProgrammaInCorso programma(KORVEN_CONSOLE, argomenti);
+    ASSERT_TRUE(programma.aspettaSegnale(SIGINT));
+    for (int i = 0; i < 200 && !(fs::exists(parziale) && fs::file_size(parziale) > 20000); ++i)
+        std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    const auto prima = std::chrono::steady_clock::now();
+    programma.segnale(SIGINT);
+    const auto esito = programma.attendi();
+    EXPECT_LT(std::chrono::steady_clock::now() - prima, std::chrono::seconds(5));  // a busy machine
+    EXPECT_EQ(esito.codice, 1);
+    EXPECT_TRUE(dice(esito.errori, "Studio interrotto: ")) << esito.errori;
+    EXPECT_TRUE(dice(esito.errori, parziale));
+    const auto righe = linee(contenuto(parziale));
+    EXPECT_GT(righe.size(), 10u);
+    EXPECT_TRUE(righe.back().starts_with(std::to_string(righe.size() - 1) + ",")) << righe.back();
+    EXPECT_FALSE(fs::exists(file));
+}
+
+TEST_F(Serie, ComputesSomeVariantsBothWays) {
+    const auto esito = serie(studio({"--controllo", "20"}));
+    EXPECT_EQ(esito.codice, 0) << esito.errori;
+    EXPECT_TRUE(dice(esito.errori, "3 varianti calcolate in ambedue i modi: 0 diverse"))
+        << esito.errori;
+}
+
+TEST_F(Serie, ChoosesColumnsAndComputesTheMarginWhereItIsAskedFor) {
+    const auto righe = linee(
+        serie({"--griglia", "phiStrato[1]=30:32:2", "--colonne", "riduzione,tiro_2_kN"}).uscita);
+    ASSERT_EQ(righe.size(), 3u);
+    EXPECT_EQ(righe[0], "variante,phiStrato[1] [°],causa,tiro_2_kN,riduzione");
+    EXPECT_TRUE(righe[2].starts_with("2,32,eseguito,"));
+    const std::string F = righe[2].substr(righe[2].rfind(',') + 1);
+    EXPECT_GT(std::stod(F), 1);
+    const auto sicure = linee(serie({"--griglia", "phiStrato[1]=32:32:1", "--sicurezza"}).uscita);
+    EXPECT_TRUE(dice(sicure[0], ",riduzione,")) << sicure[0];
+    EXPECT_TRUE(dice(sicure[0], "lunghezza_minima_esito"));
+}
+
+TEST_F(Serie, TakesTheSpecifiedRunInThePlaceOfTheEquilibrium) {
+    const std::vector<std::string> griglia = {"--griglia", "phiStrato[1]=30:30:1", "--colonne",
+                                              "spostamento_massimo_m,momento_massimo_kNm"};
+    auto iterazione = griglia;
+    iterazione.insert(iterazione.end(), {"--soluzione", "iterazione"});
+    const auto spostamento = [&](const std::vector<std::string>& argomenti) {
+        const auto righe = linee(serie(argomenti).uscita);
+        std::istringstream campi(righe.at(1));
+        std::string campo;
+        for (int i = 0; i < 4; ++i) std::getline(campi, campo, ',');
+        return std::stod(campo);
+    };
+    EXPECT_NEAR(spostamento(iterazione), spostamento(griglia), 1e-7);
+}
+
+TEST_F(Serie, TellsHowProbableFailureIsAndDrawsAResult) {
+    const std::string disegno = cartella / "grafico.svg";
+    const auto esito = serie({"--campioni", "500", "--legge", "phiStrato[1]=normale(32,2)",
+                              "--legge", "sovraccMonte=uniforme(0,40)", "--grafico",
+                              "momento_massimo_kNm", "--svg", disegno, "--uscita", file});
+    EXPECT_EQ(esito.codice, 0) << esito.errori;
+    EXPECT_TRUE(dice(esito.errori, "con il 95 % di confidenza tra 0 e 0.00762")) << esito.errori;
+    EXPECT_TRUE(dice(contenuto(disegno), "<svg"));
+    const auto altro = serie({"--griglia", "phiStrato[1]=20:30:1", "--grafico",
+                              "spostamento_massimo_m", "--svg", disegno});
+    EXPECT_EQ(altro.codice, 0) << altro.errori;
+    EXPECT_TRUE(dice(contenuto(disegno), "<svg"));
+    for (const char* nome : {"causa", "nessuna", "z_taglio_m"})
+        EXPECT_EQ(serie({"--griglia", "phiStrato[1]=20:30:1", "--grafico", nome, "--svg", disegno})
+                      .codice,
+                  2)
+            << nome;
+    EXPECT_EQ(serie({"--griglia", "phiStrato[1]=20:30:1", "--svg", disegno}).codice, 2);
+}
+
+TEST_F(Serie, RefusesWrongUsage) {
+    const std::vector<std::vector<std::string>> casi = {
+        {},
+        {"--griglia", "phiStrato[1]=8:27:1", "--piano", "p.csv"},
+        {"--campioni", "10"},
+        {"--legge", "phiStrato[1]=normale(32,2)"},
+        {"--griglia", "phiStrato[1]=8:27:1", "--ipercubo"},
+        {"--griglia", "phiStrato[1]=8:27:1", "--riprendi"},
+        {"--griglia", "phiStrato[1]=8:27:1", "--parte", "3/2"},
+        {"--griglia", "phiStrato[1]=8:27:1", "--parte", "0/2"},
+        {"--griglia", "phiStrato[1]=8:27:1", "--colonne", "tiro_9_kN"},
+        {"--griglia", "phiStrato[1]=8:27:1", "-j", "0"},
+        {"--griglia", "phiStrato[9]=8:27:1"},
+        {"--griglia", "phiStrato[1]=8:27"},
+    };
+    for (const auto& caso : casi) {
+        const auto esito = serie(caso);
+        EXPECT_EQ(esito.codice, 2) << (caso.empty() ? "" : caso.back()) << esito.errori;
+        EXPECT_EQ(esito.uscita, "");
+    }
+}
+
+TEST_F(Serie, TellsLineAndColumnOfAFaultOfAPlanAndWritesNothing) {
+    test::metti(cartella / "piano.csv",
+                "phiStrato[1],lunghezzaParatia\n30,12\n31,\"12,5\"\n99,12\n");
+    const auto esito = serie({"--piano", cartella / "piano.csv", "--uscita", file});
+    EXPECT_EQ(esito.codice, 3);
+    EXPECT_TRUE(dice(esito.errori, "3")) << esito.errori;  // the line of the comma
+    EXPECT_TRUE(dice(esito.errori, "4")) << esito.errori;  // and that of 99 degrees
+    EXPECT_FALSE(fs::exists(file) || fs::exists(parziale));
+    EXPECT_EQ(serie({"--piano", cartella / "non_c_e.csv"}).codice, 3);
+}
+
+TEST_F(Serie, NeverTakesThePlaceOfTheProjectOrItsResults) {
+    const std::string prima = contenuto(progetto);
+    EXPECT_EQ(serie(studio({"--uscita", progetto})).codice, 3);
+    EXPECT_EQ(serie(studio({"--uscita", cartella / "muro.OUT"})).codice, 3);
+    EXPECT_EQ(contenuto(progetto), prima);
+    test::metti(cartella / "piano.csv", "phiStrato[1]\n30\n");
+    EXPECT_EQ(serie({"--piano", cartella / "piano.csv", "--uscita", cartella / "piano.csv"}).codice,
+              2);
+    EXPECT_EQ(contenuto(cartella / "piano.csv"), "phiStrato[1]\n30\n");
+}
+
+TEST_F(Serie, TellsOfAReaderThatHasGone) {
+    const auto esito = console({"serie", progetto, "--griglia", "phiStrato[1]=20:40:0.001"},
+                               {.uscitaNonLetta = true});
+    EXPECT_EQ(esito.codice, 3);
+}
+
+TEST_F(Serie, SaysWhatIsDangerousInTheProjectFirst) {
+    std::string testo = contenuto(progetto);
+    const auto esito = serie({"--griglia", "phiStrato[1]=30:30:1", "--nseg", "2"});
+    EXPECT_EQ(esito.codice, 1);
+    EXPECT_TRUE(dice(esito.errori, "--nseg")) << esito.errori;
+}
+
+}  // namespace
+}  // namespace korven::batch
