@@ -2,11 +2,12 @@
 
 packages_build="g++ cmake ninja-build libcli11-dev nlohmann-json3-dev qt6-base-dev qt6-svg-dev libpng-dev libqpdf-dev libminizip-dev zlib1g-dev nettle-dev libxlsxwriter-dev libboost-math-dev librandom123-dev fonts-liberation qt6-translations-l10n qt6-wayland"
 packages_python="python3-dev pybind11-dev python3-numpy python3-pandas"  # the module for Python
-packages_test="libgtest-dev clang-format clang-tidy clang xvfb xauth xdotool openbox at-spi2-core dbus-daemon python3-pyatspi $packages_python python3-pytest"
+packages_test="libgtest-dev clang-format clang-tidy clang xvfb xauth xdotool openbox at-spi2-core dbus-daemon python3-pyatspi $packages_python python3-pytest python3-matplotlib"
 packages_bench="libbenchmark-dev libopenblas-dev liblapacke-dev libeigen3-dev"
 packages_fuzz="clang"
 packages_external="librecad libreoffice-draw-nogui libreoffice-calc-nogui poppler-utils imagemagick"
 packages_printing="cups printer-driver-cups-pdf poppler-utils imagemagick" # a real print queue
+packages_cluster="slurm-wlm munge python3-distributed"  # tests/external/slurm and dask
 packages_verification="python3-numpy"  # tests/oracle/verification
 packages_documents="libreoffice-writer-nogui poppler-utils"  # to look at what outdoc writes
 

@@ -16,6 +16,7 @@
 #include "python/language.hpp"
 #include "python/project_binding.hpp"
 #include "python/python_values.hpp"
+#include "python/series_binding.hpp"
 
 // The part of the module korven32 that computes. People use the package around it, which has the
 // names, the types and the words of what it offers.
@@ -77,5 +78,6 @@ PYBIND11_MODULE(_motore, modulo) {
     legaErrori(modulo);
     legaDati(modulo);
     legaCalcoli(modulo);
+    legaSerie(modulo);
     legaProgramma(modulo);
 }

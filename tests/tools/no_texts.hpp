@@ -19,6 +19,8 @@ inline const std::map<std::string, std::string> silentFiles = {
     {"python/project_binding.cpp", "names for programs"},
     {"batch/run/combinations_csv.cpp", "names of columns, the same in all languages"},
     {"batch/run/combinations_json.cpp", "names of fields, the same in all languages"},
+    {"python/series.cpp", "the name of an argument"},
+    {"python/series_binding.cpp", "names for programs"},
     {"answers/remark_json.cpp", "names of fields, the same in all languages"},
     {"batch/run/margin_csv.cpp", "names of columns, the same in all languages"},
     {"answers/margin_json.cpp", "names of fields, the same in all languages"},

@@ -18,9 +18,10 @@ from ._motore import Errore, ErroreCalcolo, ErroreCampo, ErroreFile, versione as
 from .calcoli import Osservazione, equilibrio, osservazioni, sicurezza
 from .progetto import Campo, Progetto
 from .risultati import Risultati
+from .varianti import serie
 
 __all__ = [
     "Campo", "Errore", "ErroreCalcolo", "ErroreCampo", "ErroreFile",
     "Osservazione", "Progetto", "Risultati",
-    "cartella", "equilibrio", "lingua", "osservazioni", "sicurezza",
+    "cartella", "equilibrio", "lingua", "osservazioni", "serie", "sicurezza",
 ]

@@ -1,0 +1,101 @@
+#include "python/series.hpp"
+
+#include <algorithm>
+#include <thread>
+#include <utility>
+
+#include "base/colon.hpp"
+#include "base/filled_text.hpp"
+#include "base/translated_texts.hpp"
+#include "base/value_error.hpp"
+#include "python/errors.hpp"
+#include "review/project_review.hpp"
+#include "studies/plan/fault_words.hpp"
+#include "studies/plan/plan_file.hpp"
+#include "studies/runner.hpp"
+
+namespace korven::python {
+
+namespace {
+
+using project::DatiProgetto;
+using studies::Colonna;
+
+studies::Piano leggi(const DatiProgetto& dati, std::string_view testo) {
+    studies::PianoLetto letto = studies::leggiPiano(dati, testo);
+    if (letto.piano) return *std::move(letto.piano);
+    std::string perche;
+    for (const studies::DifettoPiano& difetto : letto.difetti)
+        perche.append(perche.empty() ? "" : "\n").append(studies::parole(difetto));
+    throw ErroreCampo(perche);
+}
+
+std::vector<Colonna> colonne(const RichiestaSerie& richiesta, const DatiProgetto& dati,
+                             const studies::Varianti& varianti) {
+    const int tiranti = studies::tirantiPossibili(dati, varianti.campi());
+    auto scelta = studies::scegliColonne(richiesta.colonne, tiranti, richiesta.sicurezza);
+    if (scelta.sconosciuto.empty()) return std::move(scelta.colonne);
+    std::string nomi;
+    for (const Colonna& colonna : studies::colonne(tiranti, true))
+        nomi.append(nomi.empty() ? "" : ", ").append(colonna.nome);
+    throw ErroreCampo(
+        base::conDuePunti("colonne = " + scelta.sconosciuto,
+                          base::riempito(base::traduttore("valori ammessi: %1"), {nomi})));
+}
+
+studies::Domanda domanda(const RichiestaSerie& richiesta, int nSeg,
+                         const std::vector<Colonna>& colonne) {
+    const auto una = [&colonne](bool Colonna::*che) {
+        return std::any_of(colonne.begin(), colonne.end(), [che](const auto& c) { return c.*che; });
+    };
+    return {.nSeg = nSeg,
+            .ricalcolaEJ = richiesta.ricalcolaEJ,
+            .soluzione = richiesta.iterazione ? studies::Soluzione::iterazione
+                                              : studies::Soluzione::equilibrio,
+            .riduzione = una(&Colonna::riduzione),
+            .lunghezza = una(&Colonna::lunghezza)};
+}
+
+class Raccolta : public studies::UscitaStudio {
+ public:
+    Raccolta(TabellaSerie& tabella, const std::function<bool()>& fermata)
+        : tabella_(tabella), fermata_(fermata) {}
+
+    void prendi(const studies::Righe& righe) override {
+        tabella_.valori.insert(tabella_.valori.end(), righe.valori.begin(), righe.valori.end());
+        tabella_.righe += righe.numero;
+    }
+    bool prosegui(std::uint64_t) override { return !fermata_(); }
+
+ private:
+    TabellaSerie& tabella_;
+    const std::function<bool()>& fermata_;
+};
+
+int fili(int chiesti) {
+    return chiesti > 0 ? chiesti
+                       : std::max(1, static_cast<int>(std::thread::hardware_concurrency()));
+}
+
+}  // namespace
+
+TabellaSerie serie(const DatiProgetto& scritti, std::string_view testo,
+                   const RichiestaSerie& richiesta, const std::function<bool()>& fermata) {
+    const Chiesta c = chiesta(scritti, richiesta.modo);
+    if (!review::mostrabile(c.dati)) throw base::ErroreValore();
+    const studies::Piano piano = leggi(c.dati, testo);
+    const std::vector<Colonna> scelte = colonne(richiesta, c.dati, piano);
+    const studies::RigheStudio righe(piano.campi(), scelte, studies::Formato::csv);
+    TabellaSerie tabella{.nomi = righe.nomi()};
+    tabella.parole.resize(righe.campi());
+    for (const Colonna& colonna : scelte)
+        tabella.parole.push_back(colonna.parole != nullptr ? *colonna.parole
+                                                           : std::vector<std::string_view>());
+    tabella.valori.reserve(piano.numero() * righe.quanti());
+    Raccolta raccolta(tabella, fermata);
+    const studies::Studio studio{piano, c.dati, domanda(richiesta, c.nSeg, scelte), righe};
+    studies::esegui(studio, {0, piano.numero()}, fili(richiesta.fili), raccolta);
+    return tabella;
+}
+
+}  // namespace korven::python

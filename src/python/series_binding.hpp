@@ -1,0 +1,10 @@
+#pragma once
+
+#include <pybind11/pybind11.h>
+
+namespace korven::python {
+
+/// The function `serie`: a plan as a text in, names, words and a table of numbers out.
+void legaSerie(pybind11::module_& modulo);
+
+}  // namespace korven::python
