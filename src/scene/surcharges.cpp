@@ -14,9 +14,9 @@ constexpr double altezza = 1.7, passo = 1.5;  // of the arrows, in font sizes
 
 // A row of arrows that stand on the ground from x1 to x2, which rises by `pendenza`; a load below 0
 // pulls.
-// @param altrove  where its name may stand besides
+// @param prima  where its name had better stand
 void carico(const Inquadratura& q, double t, double x1, double x2, double y1, double y2, int fase,
-            const std::vector<Posto>& altrove, Tela& tela) {
+            std::vector<Posto> prima, Tela& tela) {
     const Tinta tinta{Ruolo::carico};
     const double h = altezza * q.em;
     const int n = std::clamp(static_cast<int>((x2 - x1) / (passo * q.em)), 2, 60);
@@ -33,10 +33,10 @@ void carico(const Inquadratura& q, double t, double x1, double x2, double y1, do
     // Clear of a line that rises along the text.
     const double salita =
         std::fabs(y2 - y1) / std::max(x2 - x1, 1.0) * tela.larghezza(testo, q.em) / 2;
-    std::vector<Posto> posti = {{{xm, ym - 0.85 * q.em - salita}, Ancora::centro},
-                                {{x1, y1 - h - 0.85 * q.em}, Ancora::sinistra},
-                                {{xm, ym + h / 2}, Ancora::centro}};
-    posti.insert(posti.end(), altrove.begin(), altrove.end());
+    std::vector<Posto> posti = std::move(prima);
+    posti.push_back({{xm, ym - 0.85 * q.em - salita}, Ancora::centro});
+    posti.push_back({{x1, y1 - h - 0.85 * q.em}, Ancora::sinistra});
+    posti.push_back({{xm, ym + h / 2}, Ancora::centro});
     tela.scrivi({.grado = Grado::carico,
                  .elemento = Elemento::sovraccarico,
                  .numero = fase,
@@ -44,6 +44,18 @@ void carico(const Inquadratura& q, double t, double x1, double x2, double y1, do
                  .tinta = tinta,
                  .corpo = q.em,
                  .posti = std::move(posti)});
+}
+
+// Whether the level of another stage has its name where that of a load on the excavation would be:
+// the ground below has room for it then.
+bool livelloSopra(const Mostrata& m, const Inquadratura& q, double y) {
+    constexpr double nomi = 2.5;                      // above the arrows, in font sizes
+    if (q.stretta && m.vista.fase > 0) return false;  // no other level is drawn
+    for (int k = 1; k <= m.nFasi(); ++k) {
+        const double su = y - q.y(m.dati().profFase[k]);
+        if (su > 1 && su < (altezza + nomi) * q.em) return true;
+    }
+    return false;
 }
 
 // The constant pressure: arrows on the uphill face of the wall.
@@ -85,13 +97,13 @@ void disegnaSovraccarichi(const Mostrata& m, const Inquadratura& q, Tela& tela) 
     if (m.fase == 0) return;
     if (const double t = d.sovraccFase[m.fase]; disegnabile(t) && t != 0) {
         const double y = q.y(m.scavo), x1 = q.xValle + 0.8 * q.em;
-        // In the ground below, clear of the level's own name, where another level is just above.
         std::vector<Posto> sotto;
-        for (const double giu : {2.1, 3.3})
-            sotto.push_back(
-                {{x1, y + giu * q.em}, Ancora::sinistra, fondoValle(m, q, y + giu * q.em)});
+        if (livelloSopra(m, q, y))
+            for (const double giu : {2.1, 3.3})
+                sotto.push_back(
+                    {{x1, y + giu * q.em}, Ancora::sinistra, fondoValle(m, q, y + giu * q.em)});
         if (q.visibile(y))
-            carico(q, t, x1, x1 + 0.45 * (q.xSezione - x1), y, y, m.fase, sotto, tela);
+            carico(q, t, x1, x1 + 0.45 * (q.xSezione - x1), y, y, m.fase, std::move(sotto), tela);
     }
 }
 

@@ -67,8 +67,11 @@ class ElencoTiranti {
         double massimo = 0;
         for (int j = 1; j <= m.tirantiInOpera(); ++j)
             if (const double* t = m.tiro(j)) {
-                testi_.push_back(project::nomeTirante(parete.dati, j) + "  " +
-                                 conUnita(*t, project::unita::forzaAlMetro));
+                // The name of a strut says what its letter in the picture is.
+                testi_.push_back((project::puntone(parete.dati, j)
+                                      ? project::nomeTirante(parete.dati, j)
+                                      : project::siglaTirante(parete.dati, j)) +
+                                 "  " + conUnita(*t, project::unita::forzaAlMetro));
                 massimo = std::max(massimo, testi.larghezza(testi_.back(), corpoPiccolo, false));
             }
         colonne_ = massimo + 0.8 * em < largo / 2 ? 2 : 1;
