@@ -42,7 +42,8 @@ TEST(ParoleDifettoPiano, TellThePlaceInAnOption) {
 TEST(ParoleDifettoPiano, TellLineAndColumnOfAFile) {
     const auto letto = leggiPiano(dati(), "phiStrato[1],lunghezzaParatia\n30,12\n31,tanto\n");
     ASSERT_EQ(letto.difetti.size(), 1u);
-    EXPECT_EQ(parole(letto.difetti[0]), "riga 3, colonna 2: \"tanto\": non è un numero");
+    EXPECT_EQ(parole(letto.difetti[0]),
+              "riga 3, colonna 2: lunghezzaParatia [m] = tanto: non è un numero");
 }
 
 TEST(ParoleDifettoPiano, AreThoseOfARefusedFieldOrValue) {
