@@ -114,7 +114,7 @@ inline const std::map<std::string, Texts> noTexts = {
      {"FILE", "CAMPO=DA:A:PASSO", "FIELD=FROM:TO:STEP", "CAMPO=LEGGE(...)", "FIELD=LAW(...)",
       "CAMPO,CAMPO=R", "FIELD,FIELD=R", "NOMI", "NAMES", "NOME", "NAME", "equilibrium",
       "iterazione", "iteration"}},
-    {"batch/series.cpp", {"serie", "series", "--dxf, --pdf, --svg, --png"}},
+    {"batch/series.cpp", {"serie", "series"}},
     {"batch/all.cpp", {"pdf", "dxf", "svg", "png", "pdf,dxf,svg,png", "[pdf,dxf]", "tutto", "all"}},
     {"batch/combinations.cpp", {"combinazioni", "combinations"}},
     {"batch/calculate.cpp", {"calcola", "calculate"}},

@@ -114,7 +114,7 @@ std::vector<std::string> ContoSerie::righeControllo() const {
     std::vector<std::string> testo;
     testo.push_back(riempito(
         traduttore("%1 varianti calcolate in ambedue i modi: %2 diverse, %3 in cui il calcolo per "
-                   "fasi non trova riposo, %4 senza un equilibrio certo."),
+                   "fasi non trova riposo, %4 senza soluzione di equilibrio."),
         {std::to_string(controllate_), std::to_string(diverse_), std::to_string(senzaRiposo_),
          std::to_string(incerte_)}));
     for (const studies::Controllata& c : prime_) testo.push_back(parole(c));

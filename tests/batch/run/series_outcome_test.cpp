@@ -79,7 +79,7 @@ TEST(ContoSerie, ListsTheFirstOfTheVariantsThatDifferBothWays) {
     ASSERT_EQ(righe.size(), 3u);
     EXPECT_EQ(righe[0],
               "4 varianti calcolate in ambedue i modi: 2 diverse, 1 in cui il calcolo per fasi non "
-              "trova riposo, 0 senza un equilibrio certo.");
+              "trova riposo, 0 senza soluzione di equilibrio.");
     EXPECT_EQ(righe[1],
               "variante 300, fase 2: gli spostamenti differiscono di 0.250000 mm, ammessi 0.000200 "
               "mm");
