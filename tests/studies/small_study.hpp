@@ -7,8 +7,13 @@
 #include "studies/runner.hpp"
 #include "support/wall_files.hpp"
 
+#ifndef KORVEN_EXAMPLES
+#define KORVEN_EXAMPLES "data/examples"  // the build names the folder; a header alone has none
+#endif
+
 namespace korven::test {
 
+/// A delivered example by its name.
 inline project::DatiProgetto esempioStudio(const std::string& nome) {
     return project::leggiDaFile(std::string(KORVEN_EXAMPLES) + "/" + nome + ".kvd");
 }
