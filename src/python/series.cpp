@@ -1,6 +1,8 @@
 #include "python/series.hpp"
 
 #include <algorithm>
+#include <iterator>
+#include <span>
 #include <thread>
 #include <utility>
 
@@ -13,6 +15,7 @@
 #include "studies/plan/fault_words.hpp"
 #include "studies/plan/plan_file.hpp"
 #include "studies/runner.hpp"
+#include "studies/summary/row_conditions.hpp"
 
 namespace korven::python {
 
@@ -33,7 +36,9 @@ studies::Piano leggi(const DatiProgetto& dati, std::string_view testo) {
 std::vector<Colonna> colonne(const RichiestaSerie& richiesta, const DatiProgetto& dati,
                              const studies::Varianti& varianti) {
     const int tiranti = studies::tirantiPossibili(dati, varianti.campi());
-    auto scelta = studies::scegliColonne(richiesta.colonne, tiranti, richiesta.sicurezza);
+    std::vector<std::string> fallisce;
+    std::ranges::transform(richiesta.fallisce, std::back_inserter(fallisce), studies::risultatoDi);
+    auto scelta = studies::scegliColonne(richiesta.colonne, tiranti, richiesta.sicurezza, fallisce);
     if (scelta.sconosciuto.empty()) return std::move(scelta.colonne);
     std::string nomi;
     for (const Colonna& colonna : studies::colonne(tiranti, true))
@@ -54,6 +59,29 @@ studies::Domanda domanda(const RichiestaSerie& richiesta, int nSeg,
                                               : studies::Soluzione::equilibrio,
             .riduzione = una(&Colonna::riduzione),
             .lunghezza = una(&Colonna::lunghezza)};
+}
+
+std::vector<studies::Condizione> condizioni(const RichiestaSerie& richiesta,
+                                            const studies::RigheStudio& righe) {
+    auto lette = studies::leggiCondizioni(richiesta.fallisce, righe);
+    if (!lette.difetto) return std::move(lette.condizioni);
+    const auto& [testo, difetto] = *lette.difetto;
+    throw ErroreCampo(base::conDuePunti("fallisce = " + testo, studies::parole(difetto)));
+}
+
+// The cause is a column of every study.
+void segnaFallite(const std::vector<studies::Condizione>& condizioni, TabellaSerie& tabella) {
+    if (condizioni.empty()) return;
+    const auto causa = static_cast<std::size_t>(
+        std::ranges::find(tabella.nomi, studies::colonnaCausa) - tabella.nomi.begin());
+    const std::size_t quanti = tabella.nomi.size();
+    for (std::size_t da = 0; da < tabella.valori.size(); da += quanti) {
+        const auto riga = std::span(tabella.valori).subspan(da, quanti);
+        const bool sta = static_cast<safety::Causa>(riga[causa]) == safety::Causa::eseguito;
+        const bool una =
+            std::ranges::any_of(condizioni, [riga](const auto& c) { return c.vale(riga); });
+        tabella.fallite.push_back(!sta || una);
+    }
 }
 
 class Raccolta : public studies::UscitaStudio {
@@ -86,6 +114,7 @@ TabellaSerie serie(const DatiProgetto& scritti, std::string_view testo,
     const studies::Piano piano = leggi(c.dati, testo);
     const std::vector<Colonna> scelte = colonne(richiesta, c.dati, piano);
     const studies::RigheStudio righe(piano.campi(), scelte, studies::Formato::csv);
+    const auto fallisce = condizioni(richiesta, righe);
     TabellaSerie tabella{.nomi = righe.nomi()};
     tabella.parole.resize(righe.campi());
     for (const Colonna& colonna : scelte)
@@ -95,6 +124,7 @@ TabellaSerie serie(const DatiProgetto& scritti, std::string_view testo,
     Raccolta raccolta(tabella, fermata);
     const studies::Studio studio{piano, c.dati, domanda(richiesta, c.nSeg, scelte), righe};
     studies::esegui(studio, {0, piano.numero()}, fili(richiesta.fili), raccolta);
+    segnaFallite(fallisce, tabella);
     return tabella;
 }
 

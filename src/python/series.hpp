@@ -17,8 +17,9 @@ struct RichiestaSerie {
     bool ricalcolaEJ = false;
     bool iterazione = false;  ///< the specified run, not the equilibrium solution
     bool sicurezza = false;
-    std::vector<std::string> colonne{};  ///< empty: those of the command
-    int fili = 0;                        ///< threads; 0: all processors
+    std::vector<std::string> colonne{};   ///< empty: those of the command
+    std::vector<std::string> fallisce{};  ///< what makes a variant fail that stands
+    int fili = 0;                         ///< threads; 0: all processors
 };
 
 /// A study as a table: first the fields, then what it tells of each variant.
@@ -28,6 +29,9 @@ struct TabellaSerie {
     std::vector<std::vector<std::string_view>> parole{};
     std::uint64_t righe = 0;
     std::vector<double> valori{};  ///< row by row, NaN for none
+    /// Of each row, where it was asked what makes it fail: whether it does not stand, or meets one
+    /// of the conditions.
+    std::vector<char> fallite{};
 };
 
 /// Computes the variants of a plan.
@@ -35,7 +39,7 @@ struct TabellaSerie {
 /// @param fermata  asked about ten times a second from the thread that calls this: true ends the
 ///                 study
 /// @throws ErroreCampo with all that is wrong with the plan, by line and column, for a column that
-///         there is not and for an argument out of its range
+///         there is not, for a condition that is none and for an argument out of its range
 [[nodiscard]] TabellaSerie serie(const project::DatiProgetto& dati, std::string_view piano,
                                  const RichiestaSerie& richiesta,
                                  const std::function<bool()>& fermata);

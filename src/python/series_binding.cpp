@@ -34,12 +34,14 @@ void legaSerie(py::module_& modulo) {
     py::class_<RichiestaSerie>(modulo, "RichiestaSerie")
         .def(py::init([](std::optional<int> nSeg, std::optional<std::string> metodo,
                          bool ricalcolaEJ, bool iterazione, bool sicurezza,
-                         std::vector<std::string> colonne, int fili) {
+                         std::vector<std::string> colonne, std::vector<std::string> fallisce,
+                         int fili) {
             return RichiestaSerie{.modo = {.nSeg = nSeg, .metodo = std::move(metodo)},
                                   .ricalcolaEJ = ricalcolaEJ,
                                   .iterazione = iterazione,
                                   .sicurezza = sicurezza,
                                   .colonne = std::move(colonne),
+                                  .fallisce = std::move(fallisce),
                                   .fili = fili};
         }));
     modulo.def("serie", [](project::DatiProgetto dati, const std::string& piano,
@@ -49,9 +51,12 @@ void legaSerie(py::module_& modulo) {
             [&] { return serie(dati, piano, richiesta, [&] { return interruzione.chiesta(); }); });
         interruzione.solleva();
         const auto colonne = static_cast<py::ssize_t>(tabella.nomi.size());
+        const py::array_t<char> fallite(static_cast<py::ssize_t>(tabella.fallite.size()),
+                                        tabella.fallite.data());
         return py::make_tuple(
             std::move(tabella.nomi), std::move(tabella.parole),
-            inTabella(std::move(tabella.valori), static_cast<py::ssize_t>(tabella.righe), colonne));
+            inTabella(std::move(tabella.valori), static_cast<py::ssize_t>(tabella.righe), colonne),
+            fallite);
     });
 }
 

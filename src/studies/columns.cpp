@@ -164,18 +164,21 @@ std::vector<Colonna> colonne(int tiranti, bool sicurezza) {
     return tutte;
 }
 
-Scelta scegliColonne(const std::vector<std::string>& nomi, int tiranti, bool sicurezza) {
-    if (nomi.empty()) return {colonne(tiranti, sicurezza), {}};
+Scelta scegliColonne(const std::vector<std::string>& nomi, int tiranti, bool sicurezza,
+                     std::span<const std::string> oltre) {
     Scelta scelta;
     std::vector<Colonna> tutte = colonne(tiranti, true);
+    const auto tra = [](std::span<const std::string> quali, const Colonna& colonna) {
+        return std::ranges::find(quali, colonna.nome) != quali.end();
+    };
     for (const std::string& nome : nomi)
-        if (std::none_of(tutte.begin(), tutte.end(), [&](const auto& c) { return c.nome == nome; }))
-            return {{}, nome};
-    for (Colonna& colonna : tutte)
-        if (colonna.nome == colonnaCausa ||
-            (sicurezza && (colonna.riduzione || colonna.lunghezza)) ||
-            std::find(nomi.begin(), nomi.end(), colonna.nome) != nomi.end())
+        if (std::ranges::find(tutte, nome, &Colonna::nome) == tutte.end()) return {{}, nome};
+    for (Colonna& colonna : tutte) {
+        const bool margine = colonna.riduzione || colonna.lunghezza;
+        const bool chiesta = margine ? sicurezza : nomi.empty() || colonna.nome == colonnaCausa;
+        if (chiesta || tra(nomi, colonna) || tra(oltre, colonna))
             scelta.colonne.push_back(std::move(colonna));
+    }
     return scelta;
 }
 

@@ -50,14 +50,15 @@ inline constexpr std::string_view colonnaCausa = "causa";
 inline constexpr std::string_view colonnaCaduta = "fase_caduta";
 
 /// Some columns of all that there are, in the order of the table; `colonnaCausa` is always one.
-/// @param nomi  empty: those without the ones that need more work
-/// @return the columns, or the first name that is none
+/// @param nomi   empty: those without the ones that need more work
+/// @param oltre  names of others that are there in any case; what is no column is passed over
+/// @return the columns, or the first of `nomi` that is none
 struct Scelta {
     std::vector<Colonna> colonne;
     std::string sconosciuto;
 };
 [[nodiscard]] Scelta scegliColonne(const std::vector<std::string>& nomi, int tiranti,
-                                   bool sicurezza);
+                                   bool sicurezza, std::span<const std::string> oltre = {});
 
 /// Anchors that a variant may have: those of the project, or all that fit where their number or
 /// that of a stage varies.

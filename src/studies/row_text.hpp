@@ -36,6 +36,9 @@ class RigheStudio {
     /// The same with their units, as a table or a drawing is headed.
     [[nodiscard]] const std::vector<std::string>& teste() const { return teste_; }
 
+    /// The words of a value of the row, by number; nullptr: it is a number.
+    [[nodiscard]] const std::vector<std::string_view>* parole(std::size_t j) const;
+
     /// What stands before the rows: the line of names, fields with their units; nothing in JSON.
     [[nodiscard]] const std::string& testata() const { return testata_; }
 
@@ -53,7 +56,6 @@ class RigheStudio {
                                                      std::span<double> valori) const;
 
  private:
-    [[nodiscard]] const std::vector<std::string_view>* parole(std::size_t j) const;
     void cella(std::size_t j, double valore, std::string& testo) const;
     [[nodiscard]] bool leggiCella(std::size_t j, std::string_view testo, double& valore) const;
 

@@ -63,6 +63,19 @@ def test_some_variants_stand_some_fall_and_some_are_refused(muro):
     assert cause >= {"eseguito", "meccanismo", "rifiutato"}
 
 
+def test_what_makes_a_variant_fail_is_a_column_of_its_own(muro):
+    piano = caso(60)
+    righe = korven32.serie(muro, piano, colonne=["momento_massimo_kNm"],
+                           fallisce=["spostamento_massimo_m>0.02", "riduzione < 1.1"])
+    cade = righe["causa"] != "eseguito"
+    spostata = righe["spostamento_massimo_m"] > 0.02
+    assert list(righe["fallita"]) == list(cade | spostata | (righe["riduzione"] < 1.1))
+    assert (spostata & ~cade).any() and not righe["fallita"].all()
+    assert "fallita" not in korven32.serie(muro, piano)
+    with pytest.raises(korven32.ErroreCampo, match="causa: è una parola, non un numero"):
+        korven32.serie(muro, piano, fallisce=["causa>1"])
+
+
 def test_a_row_is_the_equilibrium_of_its_project(muro):
     piano = caso(40, seme=2)
     righe = korven32.serie(muro, piano)

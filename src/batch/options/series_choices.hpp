@@ -22,6 +22,7 @@ struct OpzioniSerie {
     std::uint64_t parte = 1, parti = 1;  ///< block `parte` of `parti`
     int fili = 0;                        ///< threads; 0: all processors
     std::vector<std::string> colonne;    ///< empty: all
+    std::vector<std::string> fallisce;   ///< "spostamento_massimo_m>0.03"
     bool sicurezza = false;
     bool iterazione = false;  ///< the specified run, not the equilibrium solution
     std::string grafico;      ///< name of the result that is drawn; empty: no drawing

@@ -91,6 +91,8 @@ std::vector<RigaOpzione> calcolo() {
     colonne.ripetibile = true;
     return {
         colonne,
+        ripetuta(opzioneFallisce, "che cosa fa fallire anche una variante in equilibrio",
+                 aggiungi<&OpzioniSerie::fallisce>, {"RISULTATO>VALORE", "RESULT>VALUE"}),
         {opzioneGrafico,
          "disegna un risultato sui campi che variano, o la sua distribuzione",
          leggiFile<&OpzioniSerie::grafico>,

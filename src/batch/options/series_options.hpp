@@ -14,6 +14,7 @@ inline constexpr base::Gemelli opzioneLegge{"--legge", "--law"};
 inline constexpr base::Gemelli opzioneRho = base::uguali("--rho");
 inline constexpr base::Gemelli opzioneIpercubo{"--ipercubo", "--hypercube"};
 inline constexpr base::Gemelli opzioneColonne{"--colonne", "--columns"};
+inline constexpr base::Gemelli opzioneFallisce{"--fallisce", "--fails"};
 inline constexpr base::Gemelli opzioneGrafico{"--grafico", "--chart"};
 inline constexpr base::Gemelli opzioneUscitaSerie{"--uscita", "--output"};
 

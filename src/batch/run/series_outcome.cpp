@@ -1,12 +1,15 @@
 #include "batch/run/series_outcome.hpp"
 
 #include <algorithm>
+#include <cassert>
 #include <cmath>
+#include <utility>
 
 #include "base/filled_text.hpp"
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
 #include "project/units.hpp"
+#include "studies/summary/row_conditions.hpp"
 
 namespace korven::batch {
 
@@ -41,9 +44,15 @@ std::size_t posto(const std::vector<std::string>& nomi, std::string_view nome) {
     return static_cast<std::size_t>(std::find(nomi.begin(), nomi.end(), nome) - nomi.begin());
 }
 
-studies::FormaRiga formaDi(const studies::RigheStudio& righe) {
-    studies::FormaRiga f{
-        .campi = righe.campi(), .valori = righe.quanti(), .risultati = {}, .usi = {}};
+studies::FormaRiga formaDi(const studies::RigheStudio& righe,
+                           const std::vector<std::string>& condizioni) {
+    auto lette = studies::leggiCondizioni(condizioni, righe);
+    assert(!lette.difetto);
+    studies::FormaRiga f{.campi = righe.campi(),
+                         .valori = righe.quanti(),
+                         .risultati = {},
+                         .usi = {},
+                         .condizioni = std::move(lette.condizioni)};
     std::size_t j = f.campi;
     for (const studies::Colonna& colonna : righe.colonne()) {
         const auto specie = colonna.specie;
@@ -58,18 +67,17 @@ studies::FormaRiga formaDi(const studies::RigheStudio& righe) {
 }  // namespace
 
 ContoSerie::ContoSerie(const studies::RigheStudio& righe, DomandaConto domanda)
-    : domanda_(domanda),
+    : domanda_(std::move(domanda)),
       nomi_(righe.nomi()),
       causa_(posto(nomi_, studies::colonnaCausa)),
       caduta_(posto(nomi_, studies::colonnaCaduta)),
-      forma_(formaDi(righe)),
-      riassunto_(forma_, domanda.seme) {}
+      forma_(formaDi(righe, domanda_.condizioni)),
+      riassunto_(forma_, domanda_.seme) {}
 
 studies::EsitoRiga ContoSerie::esito(std::span<const double> valori) const {
     studies::EsitoRiga e;
     e.motivo = static_cast<int>(valori[causa_]);
     e.sta = e.motivo == static_cast<int>(safety::Causa::eseguito);
-    e.fallita = !e.sta;
     if (caduta_ < valori.size() && !std::isnan(valori[caduta_]))
         e.fase = static_cast<int>(valori[caduta_]);
     return e;
@@ -103,6 +111,7 @@ std::vector<std::string> ContoSerie::righe() const {
     const auto sue = studies::righeRiassunto(riassunto_, forma_,
                                              {.valori = nomi_,
                                               .motivi = studies::paroleCausa(),
+                                              .condizioni = domanda_.condizioni,
                                               .campioni = domanda_.campioni,
                                               .indipendenti = domanda_.indipendenti});
     testo.insert(testo.end(), sue.begin(), sue.end());

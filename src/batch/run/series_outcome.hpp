@@ -16,12 +16,15 @@ struct DomandaConto {
     std::uint64_t seme = 1;     ///< of the choice of the rows that are kept
     bool campioni = false;      ///< the variants are random
     bool indipendenti = false;  ///< and have no part in each other
+    /// What makes a variant fail that stands, as typed.
+    std::vector<std::string> condizioni{};
 };
 
 /// What the rows of a study come to, for its end. Takes them as they are printed, so that those of
 /// an interrupted study that are read again give the same.
 class ContoSerie {
  public:
+    /// @pre the conditions can be read: asserted
     ContoSerie(const studies::RigheStudio& righe, DomandaConto domanda);
 
     /// @param i  the variant, from 0, in ascending order

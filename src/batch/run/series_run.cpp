@@ -5,13 +5,16 @@
 #include <algorithm>
 #include <cassert>
 #include <iostream>
+#include <iterator>
 #include <optional>
 #include <thread>
 
+#include "base/colon.hpp"
 #include "base/file_error.hpp"
 #include "base/filled_text.hpp"
 #include "base/partial_file.hpp"
 #include "base/translated_texts.hpp"
+#include "batch/options/series_options.hpp"
 #include "batch/run/console_run.hpp"
 #include "batch/run/drawing_formats.hpp"
 #include "batch/run/failure.hpp"
@@ -22,6 +25,7 @@
 #include "project/project_data.hpp"
 #include "studies/charts/study_chart.hpp"
 #include "studies/resume.hpp"
+#include "studies/summary/row_conditions.hpp"
 
 namespace korven::batch {
 
@@ -32,9 +36,17 @@ using base::traduttore;
 using project::Progetto;
 
 studies::Scelta colonne(const Opzioni& opzioni, const studies::Varianti& varianti) {
+    std::vector<std::string> fallisce;
+    std::ranges::transform(opzioni.serie.fallisce, std::back_inserter(fallisce),
+                           studies::risultatoDi);
     return studies::scegliColonne(opzioni.serie.colonne,
                                   studies::tirantiPossibili(Progetto, varianti.campi()),
-                                  opzioni.serie.sicurezza);
+                                  opzioni.serie.sicurezza, fallisce);
+}
+
+studies::RigheStudio righeDi(const Opzioni& opzioni, const studies::Varianti& varianti) {
+    return {varianti.campi(), colonne(opzioni, varianti).colonne,
+            opzioni.json ? studies::Formato::json : studies::Formato::csv};
 }
 
 studies::Domanda domanda(const Opzioni& opzioni, int nSeg,
@@ -196,6 +208,13 @@ std::string colonnaSconosciuta(const Opzioni& opzioni, const studies::Varianti& 
     return colonne(opzioni, varianti).sconosciuto;
 }
 
+std::string condizioneSbagliata(const Opzioni& opzioni, const studies::Varianti& varianti) {
+    const auto lette = studies::leggiCondizioni(opzioni.serie.fallisce, righeDi(opzioni, varianti));
+    if (!lette.difetto) return {};
+    const auto& [testo, difetto] = *lette.difetto;
+    return base::conDuePunti(opzioneFallisce.mostrato() + ' ' + testo, studies::parole(difetto));
+}
+
 bool disegnabile(const Opzioni& opzioni, const studies::Varianti& varianti) {
     if (opzioni.serie.grafico.empty()) return true;
     const auto tutte = colonne(opzioni, varianti).colonne;
@@ -211,18 +230,18 @@ int eseguiSerie(const Opzioni& opzioni, const PorteComando& porte, const Variant
     const studies::Varianti& varianti = *scelte.varianti;
     const OpzioniSerie& serie = opzioni.serie;
     controllaUscita(opzioni, porte.disco);
-    auto sue = colonne(opzioni, varianti).colonne;
-    const studies::Domanda chiesto = domanda(opzioni, nSeg, sue);
-    const studies::RigheStudio righe(varianti.campi(), std::move(sue),
-                                     opzioni.json ? studies::Formato::json : studies::Formato::csv);
+    const studies::RigheStudio righe = righeDi(opzioni, varianti);
+    const studies::Domanda chiesto = domanda(opzioni, nSeg, righe.colonne());
     const studies::Studio studio{varianti, Progetto, chiesto, righe,
                                  static_cast<std::uint64_t>(serie.controllo)};
     const auto tratto = studies::parte(varianti.numero(), serie.parte, serie.parti);
     std::optional<base::FileParziale> file;
     if (!serie.uscita.empty()) file.emplace(serie.uscita, porte.disco);
     esito.righeVersate = true;
-    const DomandaConto domanda{
-        .seme = serie.seme, .campioni = scelte.campioni, .indipendenti = scelte.indipendenti};
+    const DomandaConto domanda{.seme = serie.seme,
+                               .campioni = scelte.campioni,
+                               .indipendenti = scelte.indipendenti,
+                               .condizioni = serie.fallisce};
     return corri(opzioni, porte, studio, domanda, tratto, file ? &*file : nullptr, esito);
 }
 

@@ -22,6 +22,10 @@ namespace korven::batch {
 [[nodiscard]] std::string colonnaSconosciuta(const Opzioni& opzioni,
                                              const studies::Varianti& varianti);
 
+/// Why what makes a variant fail can't be read, translated; empty if it can.
+[[nodiscard]] std::string condizioneSbagliata(const Opzioni& opzioni,
+                                              const studies::Varianti& varianti);
+
 /// False for a result to be drawn that is none of the study's numbers.
 [[nodiscard]] bool disegnabile(const Opzioni& opzioni, const studies::Varianti& varianti);
 

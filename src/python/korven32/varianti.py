@@ -30,6 +30,7 @@ def _colonna(valori: "np.ndarray[Any, Any]", parole: List[str]) -> Any:
 def serie(progetto: Progetto, tabella: pd.DataFrame, *, nseg: Optional[int] = None,
           metodo: Optional[str] = None, ricalcola_ej: bool = False, soluzione: str = "equilibrio",
           sicurezza: bool = False, colonne: Optional[Sequence[str]] = None,
+          fallisce: Optional[Sequence[str]] = None,
           fili: Optional[int] = None) -> pd.DataFrame:
     """Computes variants of a project: `korven32c serie --piano`.
 
@@ -46,6 +47,9 @@ def serie(progetto: Progetto, tabella: pd.DataFrame, *, nseg: Optional[int] = No
     :param sicurezza: with strength reductions and the shortest wall, which take longer
     :param colonne: names of results, as `korven32c serie --colonne`; without it all that
         `sicurezza` allows
+    :param fallisce: what makes a variant fail that stands, as `korven32c serie --fallisce`:
+        ["spostamento_massimo_m>0.03"]; the table has a last column "fallita" then: True for a
+        variant that does not stand or meets one of them
     :param fili: threads; without it one a processor
     :return: a row a variant, with the index of `tabella`: first the fields, with the values that
         the file of the variant would keep, then the results, named as in the file of `serie`
@@ -53,12 +57,15 @@ def serie(progetto: Progetto, tabella: pd.DataFrame, *, nseg: Optional[int] = No
         the rows, gives the same
     :raises ErroreCampo: for a field that is none, a value that its editor would not take, with the
         line that the row would have in a file (the first row is line 2) and the column; for a
-        result that there is not, an argument out of its range
+        result that there is not, a text that is no condition, an argument out of its range
     """
     if soluzione not in _SOLUZIONI:
         raise ValueError(f"soluzione = {soluzione}: {', '.join(_SOLUZIONI)}")
     richiesta = _motore.RichiestaSerie(nseg, metodo, ricalcola_ej, _SOLUZIONI[soluzione],
-                                       sicurezza, list(colonne or []), fili or 0)
-    nomi, parole, valori = _motore.serie(progetto._dati, _piano(tabella), richiesta)
-    return pd.DataFrame({nome: _colonna(valori[:, j], parole[j]) for j, nome in enumerate(nomi)},
-                        index=tabella.index)
+                                       sicurezza, list(colonne or []), list(fallisce or []),
+                                       fili or 0)
+    nomi, parole, valori, fallite = _motore.serie(progetto._dati, _piano(tabella), richiesta)
+    righe = {nome: _colonna(valori[:, j], parole[j]) for j, nome in enumerate(nomi)}
+    if fallisce:
+        righe["fallita"] = fallite.astype(bool)
+    return pd.DataFrame(righe, index=tabella.index)

@@ -25,6 +25,8 @@ constexpr Segno segni[] = {{"<=", Confronto::minoreUguale},
                            {"<", Confronto::minore},
                            {">", Confronto::maggiore}};
 
+constexpr std::string_view iniziali = "<>";
+
 DifettoCondizione difettoLimite(const DifettoPiano& difetto, std::size_t carattere) {
     const bool virgola = difetto.motivo == MotivoPiano::virgola;
     return {virgola ? Motivo::virgola : Motivo::nonNumero, difetto.testo, difetto.atteso,
@@ -48,16 +50,20 @@ bool Condizione::vale(std::span<const double> riga) const {
     return x >= limite;
 }
 
+std::string risultatoDi(std::string_view testo) {
+    const auto dove = testo.find_first_of(iniziali);
+    if (dove == std::string_view::npos) return {};
+    return std::string(base::senzaSpaziEsterni(testo.substr(0, dove)));
+}
+
 std::variant<Condizione, DifettoCondizione> leggiCondizione(std::string_view testo,
                                                             std::span<const std::string> nomi) {
-    const auto dove = std::min(testo.find_first_of("<>"), testo.size());
-    const std::string nome(base::senzaSpaziEsterni(testo.substr(0, dove)));
-    if (dove == testo.size() || nome.empty())
-        return DifettoCondizione{Motivo::forma, std::string(testo)};
+    const std::string nome = risultatoDi(testo);
+    if (nome.empty()) return DifettoCondizione{Motivo::forma, std::string(testo)};
     const auto trovato = std::ranges::find(nomi, nome);
     if (trovato == nomi.end()) return DifettoCondizione{Motivo::sconosciuto, nome};
 
-    const std::string_view dopo = testo.substr(dove);
+    const std::string_view dopo = testo.substr(testo.find_first_of(iniziali));
     const auto* segno =
         std::ranges::find_if(segni, [dopo](const Segno& s) { return dopo.starts_with(s.testo); });
     const std::string_view limite = dopo.substr(segno->testo.size());
@@ -81,6 +87,8 @@ std::string parole(const DifettoCondizione& difetto) {
                 return frase("nessun risultato si chiama così", {});
             case Motivo::virgola:
                 return frase("il segno decimale è il punto: %1", difetto.atteso);
+            case Motivo::parola:
+                return frase("è una parola, non un numero", {});
             case Motivo::nonNumero:
                 break;
         }

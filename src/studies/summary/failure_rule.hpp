@@ -30,6 +30,7 @@ struct DifettoCondizione {
         sconosciuto,  ///< no result is called so
         nonNumero,    ///< the limit is no number
         virgola,      ///< it has a decimal comma
+        parola,       ///< the result is a word
     } motivo;
     std::string testo;          ///< the piece that is wrong
     std::string atteso = {};    ///< the number with a point, of a comma
@@ -40,6 +41,9 @@ struct DifettoCondizione {
 /// @param nomi  of the values of a row, in their order
 [[nodiscard]] std::variant<Condizione, DifettoCondizione> leggiCondizione(
     std::string_view testo, std::span<const std::string> nomi);
+
+/// The name of the result that a condition speaks of; empty for a text without a sign.
+[[nodiscard]] std::string risultatoDi(std::string_view testo);
 
 /// Why a text is no condition, in one translated line.
 [[nodiscard]] std::string parole(const DifettoCondizione& difetto);

@@ -52,17 +52,31 @@ class RanghiCampi {
 Riassunto::Riassunto(FormaRiga forma, std::uint64_t seme, std::size_t capienza)
     : forma_(std::move(forma)),
       posti_(postiTenuti(forma_)),
+      oltre_(forma_.condizioni.size()),
       governano_(forma_.usi.size()),
       momenti_(posti_.size()),
       scelte_(seme, posti_.size(), capienza),
       riga_(posti_.size()) {}
 
+bool Riassunto::fallisce(std::span<const double> riga, const EsitoRiga& esito) {
+    if (!esito.sta) {
+        ++cadute_[{esito.motivo, esito.fase}];
+        return true;
+    }
+    bool una = false;
+    for (std::size_t k = 0; k < oltre_.size(); ++k) {
+        if (!forma_.condizioni[k].vale(riga)) continue;
+        ++oltre_[k];
+        una = true;
+    }
+    return una;
+}
+
 void Riassunto::prendi(std::uint64_t i, std::span<const double> riga, const EsitoRiga& esito) {
     assert(riga.size() == forma_.valori);
     ++numero_;
     stanno_ += esito.sta ? 1 : 0;
-    fallite_ += esito.fallita ? 1 : 0;
-    if (!esito.sta) ++cadute_[{esito.motivo, esito.fase}];
+    fallite_ += fallisce(riga, esito) ? 1 : 0;
 
     std::size_t maggiore = forma_.usi.size();
     for (std::size_t k = 0; k < forma_.usi.size(); ++k) {

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "studies/summary/chosen_rows.hpp"
+#include "studies/summary/failure_rule.hpp"
 #include "studies/summary/interval.hpp"
 #include "studies/summary/moments.hpp"
 
@@ -21,14 +22,15 @@ struct FormaRiga {
     std::size_t valori = 0;              ///< of the whole row
     std::vector<std::size_t> risultati;  ///< places of those that are described
     std::vector<std::size_t> usi;        ///< places of shares of a resistance
+    /// Each of them makes a variant fail that stands.
+    std::vector<Condizione> condizioni{};
 };
 
 /// What became of a variant.
 struct EsitoRiga {
-    bool sta = true;       ///< all its stages are in equilibrium
-    bool fallita = false;  ///< it does not stand, or fails by another condition
-    int motivo = 0;        ///< why it does not stand: a number of the caller's
-    int fase = 0;          ///< in which stage, 0: none
+    bool sta = true;  ///< all its stages are in equilibrium
+    int motivo = 0;   ///< why it does not stand: a number of the caller's
+    int fase = 0;     ///< in which stage, 0: none
 };
 
 /// The shares of 1 below which quantiles are told.
@@ -58,11 +60,14 @@ class Riassunto {
 
     [[nodiscard]] std::uint64_t numero() const { return numero_; }
     [[nodiscard]] std::uint64_t stanno() const { return stanno_; }
+    /// How many do not stand, or meet one of the conditions.
     [[nodiscard]] std::uint64_t fallite() const { return fallite_; }
     /// How many do not stand for each reason and stage.
     [[nodiscard]] const std::map<std::pair<int, int>, std::uint64_t>& cadute() const {
         return cadute_;
     }
+    /// How many stand and meet each of the conditions.
+    [[nodiscard]] const std::vector<std::uint64_t>& oltre() const { return oltre_; }
     /// Of how many each share is the largest, in the order of `FormaRiga::usi`; of equal ones the
     /// first.
     [[nodiscard]] const std::vector<std::uint64_t>& governano() const { return governano_; }
@@ -78,12 +83,13 @@ class Riassunto {
 
  private:
     [[nodiscard]] std::size_t tenuto(std::size_t posto) const;
+    [[nodiscard]] bool fallisce(std::span<const double> riga, const EsitoRiga& esito);
 
     FormaRiga forma_;
     std::vector<std::size_t> posti_;  ///< of a row, that are kept
     std::uint64_t numero_ = 0, stanno_ = 0, fallite_ = 0;
     std::map<std::pair<int, int>, std::uint64_t> cadute_;
-    std::vector<std::uint64_t> governano_;
+    std::vector<std::uint64_t> oltre_, governano_;
     std::vector<Momenti> momenti_;
     RigheScelte scelte_;
     std::vector<double> riga_;  ///< the values of one that are kept

@@ -75,6 +75,13 @@ void cadute(const Riassunto& r, const NomiRiassunto& nomi, Righe& testo) {
     }
 }
 
+void superamenti(const Riassunto& r, const NomiRiassunto& nomi, Righe& testo) {
+    for (std::size_t k = 0; k < nomi.condizioni.size(); ++k)
+        testo.push_back("  " + base::conDuePunti(riempito(traduttore("in equilibrio con %1"),
+                                                          {nomi.condizioni[k]}),
+                                                 numero(r.oltre()[k])));
+}
+
 void governo(const Riassunto& r, const FormaRiga& forma, const NomiRiassunto& nomi, Righe& testo) {
     const auto& volte = r.governano();
     if (std::ranges::all_of(volte, [](std::uint64_t n) { return n == 0; })) return;
@@ -145,10 +152,12 @@ std::string cinqueCifre(double valore) {
 std::vector<std::string> righeRiassunto(const Riassunto& riassunto, const FormaRiga& forma,
                                         const NomiRiassunto& nomi) {
     assert(nomi.valori.size() == forma.valori);
+    assert(nomi.condizioni.size() == forma.condizioni.size());
     Righe testo;
     if (riassunto.numero() == 0) return testo;
     cedimenti(riassunto, nomi, testo);
     cadute(riassunto, nomi, testo);
+    superamenti(riassunto, nomi, testo);
     governo(riassunto, forma, nomi, testo);
     if (!nomi.campioni) return testo;
 

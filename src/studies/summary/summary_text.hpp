@@ -11,8 +11,9 @@ namespace korven::studies {
 
 /// What the places of a row and the numbers of a summary are called.
 struct NomiRiassunto {
-    std::vector<std::string> valori;       ///< of a row
-    std::vector<std::string_view> motivi;  ///< by `EsitoRiga::motivo`
+    std::vector<std::string> valori;        ///< of a row
+    std::vector<std::string_view> motivi;   ///< by `EsitoRiga::motivo`
+    std::vector<std::string> condizioni{};  ///< of `FormaRiga::condizioni`, as typed
     bool campioni = false;      ///< the variants are samples: how often they fail is a probability
     bool indipendenti = false;  ///< and have no part in each other: it has an interval
 };

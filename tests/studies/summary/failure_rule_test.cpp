@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cmath>
+#include <string>
 
 namespace korven::studies {
 namespace {
@@ -51,6 +52,12 @@ TEST(Condizione, SaysWhatIsWrongAndAtWhichCharacter) {
         EXPECT_EQ(difetto.motivo, caso.motivo) << caso.testo;
         EXPECT_EQ(difetto.carattere, caso.carattere) << caso.testo;
     }
+}
+
+TEST(Condizione, HasTheNameOfItsResult) {
+    EXPECT_EQ(risultatoDi(" passiva_usata >= 1 "), "passiva_usata");
+    EXPECT_EQ(risultatoDi("passiva_usata"), "");
+    EXPECT_EQ(risultatoDi(">1"), "");
 }
 
 TEST(Condizione, IsToldWrongInWords) {

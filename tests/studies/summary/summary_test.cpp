@@ -13,7 +13,11 @@ constexpr double nessuno = std::numeric_limits<double>::quiet_NaN();
 
 // Two fields, a word that is described by nobody, two results, of which the second is a use, and
 // another use.
-const FormaRiga forma{.campi = 2, .valori = 6, .risultati = {3, 4}, .usi = {4, 5}};
+const FormaRiga forma{.campi = 2,
+                      .valori = 6,
+                      .risultati = {3, 4},
+                      .usi = {4, 5},
+                      .condizioni = {{3, Confronto::maggiore, 50}, {4, Confronto::minore, 0.15}}};
 
 struct Riga {
     double a, b, x, u, v;
@@ -32,20 +36,21 @@ const std::vector<Riga> cinque = {
     {10, 1, 3, 0.2, 0.1},
     {20, 1, 1, 0.5, 0.9},
     {30, 2, 8, 0.7, 0.7},
-    {40, 1, 5, 0.1, nessuno, {.sta = true, .fallita = true}},
+    {40, 1, 5, 0.1, nessuno},
     {50, 1, 90, nessuno, nessuno},
-    {99, 7, nessuno, nessuno, nessuno, {.sta = false, .fallita = true, .motivo = 4, .fase = 2}},
+    {99, 7, nessuno, nessuno, nessuno, {.sta = false, .motivo = 4, .fase = 2}},
 };
 
 TEST(Riassunto, CountsWhatStandsWhatFailsAndWhatGoverns) {
     const auto r = di(cinque);
     EXPECT_EQ(r.numero(), 6U);
     EXPECT_EQ(r.stanno(), 5U);
-    EXPECT_EQ(r.fallite(), 2U);
-    EXPECT_NEAR(r.probabilita(), 1.0 / 3, 1e-15);
-    // k = 2, n = 6: (1/3 + .320121 -+ 1.959964 sqrt(.037037 + .026676...)) / 1.640243
-    EXPECT_NEAR(r.intervallo().da, 0.0968, 0.0001);
-    EXPECT_NEAR(r.intervallo().a, 0.7000, 0.0001);
+    EXPECT_EQ(r.fallite(), 3U);  // 90 is too much, 0.1 too little
+    EXPECT_NEAR(r.probabilita(), 0.5, 1e-15);
+    // k = 3, n = 6: symmetric, 0.5 -+ 1.959964 sqrt(.041667 + .026677) / 1.640243
+    EXPECT_NEAR(r.intervallo().da, 0.1876, 0.0001);
+    EXPECT_NEAR(r.intervallo().a, 0.8124, 0.0001);
+    EXPECT_EQ(r.oltre(), (std::vector<std::uint64_t>{1, 1}));
     ASSERT_EQ(r.cadute().size(), 1U);
     EXPECT_EQ(r.cadute().at({4, 2}), 1U);
     EXPECT_EQ(r.governano(), (std::vector<std::uint64_t>{3, 1}));  // of 0.7 and 0.7 the first

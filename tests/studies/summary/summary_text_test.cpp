@@ -14,14 +14,13 @@ const NomiRiassunto nomi{.valori = {"phiStrato[1]", "uso_a", "uso_b"},
                          .campioni = true,
                          .indipendenti = true};
 
-Riassunto tre() {
+Riassunto tre(const FormaRiga& sua = forma) {
     const double nessuno = std::nan("");
-    Riassunto r(forma, 1);
+    Riassunto r(sua, 1);
     r.prendi(0, std::array{30.0, 0.5, 0.4}, {});
     r.prendi(1, std::array{32.0, 0.25, 0.4}, {});
     r.prendi(2, std::array{34.0, 0.125, 0.1}, {});
-    r.prendi(3, std::array{20.0, nessuno, nessuno},
-             {.sta = false, .fallita = true, .motivo = 1, .fase = 2});
+    r.prendi(3, std::array{20.0, nessuno, nessuno}, {.sta = false, .motivo = 1, .fase = 2});
     return r;
 }
 
@@ -56,6 +55,22 @@ TEST(TestoRiassunto, HasNoIntervalForAHypercubeAndNoProbabilityForAGrid) {
     const auto righe = righeRiassunto(tre(), forma, altri);
     EXPECT_EQ(righe.front(), "Falliscono 1 varianti su 4.");
     EXPECT_EQ(righe.back(), "  uso_b: 1");
+}
+
+// The variants of 0.25 and 0.125 stand, and fail all the same; that of 0.125 by both conditions.
+TEST(TestoRiassunto, TellsHowManyFailThatStand) {
+    auto sua = forma;
+    sua.condizioni = {{1, Confronto::minore, 0.3}, {2, Confronto::minoreUguale, 0.1}};
+    auto altri = nomi;
+    altri.condizioni = {"uso_a<0.3", "uso_b<=0.1"};
+    altri.indipendenti = false;
+    const auto righe = righeRiassunto(tre(sua), sua, altri);
+    ASSERT_GT(righe.size(), 4U);
+    EXPECT_EQ(righe[0],
+              "Falliscono 3 campioni su 4: probabilità 0.75; un ipercubo non dà un intervallo.");
+    EXPECT_EQ(righe[1], "  rotazione, fase 2: 1");
+    EXPECT_EQ(righe[2], "  in equilibrio con uso_a<0.3: 2");
+    EXPECT_EQ(righe[3], "  in equilibrio con uso_b<=0.1: 1");
 }
 
 TEST(TestoRiassunto, IsEmptyWithoutVariants) {
