@@ -67,7 +67,8 @@ void aggiungi(const Indice& indice, const Documento& documento, std::size_t post
     const double alta = interlinea(carattere(1));
     const std::size_t righe = (tutte.size() + colonne - 1) / colonne;
     for (std::size_t r = 0; r < righe; ++r) {
-        Striscia striscia{.altezza = alta};
+        // A list of contents is looked at as a whole.
+        Striscia striscia{.altezza = alta, .legata = r + 1 < righe};
         for (std::size_t c = 0; c < colonne && c * righe + r < tutte.size(); ++c)
             scrivi(tutte[c * righe + r], static_cast<double>(c) * (larga + distacco), larga, alta,
                    misura, striscia.contenuto);

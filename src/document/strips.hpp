@@ -17,6 +17,8 @@ struct Striscia {
     bool legata = false;         ///< stays on the page of the next one
     bool nuovaPagina = false;    ///< begins one
     double posto = 0;            ///< begins a page where less than this is left
+    double costo = 0;            ///< what it costs to part it from the strip above it: half of an
+                                 ///< empty page is worth 25
     double cede = 0;             ///< by how much its drawing may be lower
     bool puoAttendere = false;   ///< what follows may fill the page that has no room for it
     Pagina contenuto{};
@@ -27,9 +29,7 @@ struct Striscia {
 
 using Strisce = std::vector<Striscia>;
 
-/// The pages of strips, without head and foot. A drawing that has no room goes to the head of the
-/// next page, and what follows it fills this one, up to the next heading. What must stay together
-/// and is higher than a page is parted all the same.
+/// The pages of strips, without head and foot, parted as `scegliPagine` says.
 /// @param segnalibri  gets those of the strips
 [[nodiscard]] std::vector<Pagina> riempi(const Strisce& strisce, const Formato& formato,
                                          std::vector<Segnalibro>& segnalibri);

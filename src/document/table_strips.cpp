@@ -22,6 +22,9 @@ constexpr double passoRiga = 1.18;   // of a row's line, in sizes of the font
 constexpr double margineRiga = 1.1;  // above and below the lines of a row [pt]
 constexpr double filettoForte = 0.8, filettoFine = 0.4;
 constexpr Carattere carattereTitolo{9, true};
+constexpr std::size_t righeInsieme = 3;  // no fewer stand on a page of a table
+// Of a page that begins with a table, with a row of it, or within a row.
+constexpr double costoTavola = 8, costoRiga = 20, costoInRiga = 60;
 
 class PartiTavola {
  public:
@@ -36,7 +39,7 @@ class PartiTavola {
 
     /// Title, if there is one, and head as one strip.
     [[nodiscard]] Striscia testa(const std::string& titolo) const {
-        Striscia striscia{.prima = 9, .legata = true};
+        Striscia striscia{.prima = 9, .legata = true, .costo = costoTavola};
         double y = 0;
         for (const auto& riga : titolo.empty() ? std::vector<std::string>()
                                                : inRighe(titolo, formato_.larghezzaTesto(),
@@ -179,9 +182,10 @@ void accodaParte(const PartiTavola& parte, const Prospetto& prospetto, bool prim
     const double massima =
         formato.altezzaTesto() - std::max(seguito->altezza, strisce.back().altezza) - 1;
     for (std::size_t i = 0; i < righe; ++i)
-        for (auto& striscia : parte.riga(i, massima)) {
+        for (double costo = costoRiga; auto& striscia : parte.riga(i, massima)) {
             striscia.testa = seguito;
-            striscia.legata = righe > 1 && (i == 0 || i + 2 == righe);
+            striscia.legata = i + 1 < righe && (i + 1 < righeInsieme || i + righeInsieme >= righe);
+            striscia.costo = std::exchange(costo, costoInRiga);
             strisce.push_back(std::move(striscia));
         }
     if (corta(strisce.data() + prima, strisce.data() + strisce.size(), righe, formato))

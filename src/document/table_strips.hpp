@@ -12,8 +12,8 @@ namespace korven::document {
 [[nodiscard]] std::vector<std::string> note(const tables::Prospetto& prospetto);
 
 /// A table as strips: title, head, rows, notes. The head stands again on each page that the table
-/// goes on to; neither the first row nor the last stands alone on a page, and one of few rows is
-/// whole. A row higher than a page is parted between its lines.
+/// goes on to; no fewer than three rows stand on a page of it, and one of few rows is whole. A row
+/// higher than a page is parted between its lines.
 void aggiungi(const Tavola& tavola, const Formato& formato, const MisuraCaratteri& misura,
               Strisce& strisce);
 

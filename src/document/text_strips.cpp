@@ -17,14 +17,16 @@ constexpr double altezzaRiga = 1.32, discesa = 1.02;
 struct Veste {
     Carattere carattere;
     Tinta tinta;
-    double prima, dopo;  // [pt]
+    double prima, dopo;             // [pt]
+    double costo = 8, dentro = 16;  // of a page that begins with it, or within it
 };
 
 constexpr std::array<Veste, 3> titoli = {{
-    {{16, true}, Tinta::titolo, 22, 6},
-    {{12, true}, Tinta::titolo, 15, 4},
-    {{10, true}, Tinta::titolo, 10, 3},
+    {{16, true}, Tinta::titolo, 22, 6, 0},
+    {{12, true}, Tinta::titolo, 15, 4, 2},
+    {{10, true}, Tinta::titolo, 10, 3, 5},
 }};
+constexpr double costoFigura = 8;
 
 Veste veste(Stile stile) {
     switch (stile) {
@@ -37,7 +39,7 @@ Veste veste(Stile stile) {
         case Stile::pericolo:
             return {{9.5, true}, Tinta::pericolo, 5, 5};
         case Stile::fisso:
-            return {{7, false, false, true}, Tinta::testo, 5, 5};
+            return {{7, false, false, true}, Tinta::testo, 5, 5, 8, 6};
     }
     return {{9.5}, Tinta::testo, 5, 5};
 }
@@ -46,12 +48,13 @@ Strisce righe(const std::vector<std::string>& testi, const Veste& v,
               const MisuraCaratteri& misura) {
     Strisce fatte;
     for (const auto& testo : testi) {
-        Striscia riga{.altezza = interlinea(v.carattere)};
+        Striscia riga{.altezza = interlinea(v.carattere), .costo = v.dentro};
         if (!testo.empty())
             riga.contenuto.scritte.push_back(scritta(testo, 0, 0, v.carattere, misura, v.tinta));
         fatte.push_back(std::move(riga));
     }
     fatte.front().prima = v.prima;
+    fatte.front().costo = v.costo;
     fatte.back().dopo = v.dopo;
     return fatte;
 }
@@ -73,7 +76,7 @@ Scritta scritta(std::string testo, double x, double y, const Carattere& caratter
 void aggiungi(const Titolo& titolo, const Formato& formato, const MisuraCaratteri& misura,
               Strisce& strisce) {
     // A chapter that begins where hardly a paragraph fits looks lost.
-    constexpr double postoCapitolo = 0.2;
+    constexpr double postoCapitolo = 0.28;
     const int livello = std::clamp(titolo.livello, 1, static_cast<int>(titoli.size()));
     const Veste& v = titoli[static_cast<std::size_t>(livello) - 1];
     Strisce nuove =
@@ -119,6 +122,7 @@ void aggiungi(const Figura& figura, const Formato& formato, const MisuraCaratter
     const double posto = formato.altezzaTesto() - didascalia - titoliSopra;
     const double scala = std::min({1.0, formato.larghezzaTesto() / larga, posto / alta});
     Striscia disegno{.altezza = alta * scala, .prima = 8, .dopo = 8, .legata = !sotto.empty()};
+    disegno.costo = costoFigura;
     disegno.puoAttendere = true;
     disegno.contenuto.disegni.push_back(
         {(formato.larghezzaTesto() - larga * scala) / 2, 0, scala, &figura, figura.altezza});

@@ -16,6 +16,7 @@
 #include "dossier/dossier.hpp"
 #include "report/annex/annex.hpp"
 #include "support/page_boxes.hpp"
+#include "support/page_faults.hpp"
 #include "support/wall_files.hpp"
 
 namespace korven::batch {
@@ -53,6 +54,12 @@ std::string partite(const document::Impaginato& muro) {
     return trovate;
 }
 
+// What stands on its pages badly parted.
+std::string malParti(const document::Impaginato& muro) {
+    constexpr std::size_t poche = 12;
+    return test::titoliSoli(muro) + test::tavoleTorte(muro) + test::pagineVuote(muro, poche);
+}
+
 // The lines of a mark-up that would show '?' for a letter that Windows-1252 lacks.
 std::string senzaLettera(const std::string& markup) {
     std::string trovate, riga;
@@ -65,10 +72,13 @@ TEST(PagineAllegato, HaveNothingUponAnotherThingBeyondTheMarginOrWithoutALetterI
     const AmbienteDisegno ambiente(true);
     for (const char* sigla : lingue) {
         const test::InLingua lingua(sigla);
-        for (const std::string& file : test::muriIn(KORVEN_EXAMPLES)) {
+        auto muri = test::muriIn(KORVEN_EXAMPLES);
+        muri.push_back(KORVEN_WALLS "/meccanismo.kvd");  // one that falls
+        for (const std::string& file : muri) {
             const document::Impaginato muro = pagine(file, 50);
             EXPECT_GE(muro.pagine.size(), 5U);
             EXPECT_EQ(test::difetti(muro), "") << sigla << ' ' << file;
+            EXPECT_EQ(malParti(muro), "") << sigla << ' ' << file;
             EXPECT_EQ(partite(muro), "") << sigla << ' ' << file;
             for (const auto uso : {document::Uso::testo, document::Uso::documento})
                 EXPECT_EQ(senzaLettera(document::inMarkup(*muro.documento, uso)), "")
@@ -88,6 +98,7 @@ TEST(PagineAllegato, OfTheFinestMeshAreAsCleanWithARowForEveryNode) {
         const auto pochi = pagine(file, nSeg), tutti = pagine(file, nSeg, {.righe = nSeg + 1});
         EXPECT_EQ(test::difetti(pochi), "") << sigla << ' ' << file;
         EXPECT_EQ(test::difetti(tutti), "") << sigla << ' ' << file;
+        EXPECT_EQ(malParti(pochi) + malParti(tutti), "") << sigla << ' ' << file;
         // A page has room for some 60 rows.
         EXPECT_GE(tutti.pagine.size(), pochi.pagine.size() + 3) << file;
     }

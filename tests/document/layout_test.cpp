@@ -7,6 +7,7 @@
 #include <random>
 
 #include "support/page_boxes.hpp"
+#include "support/page_faults.hpp"
 #include "support/sample_document.hpp"
 
 namespace korven::document {
@@ -63,28 +64,61 @@ TEST(Impagina, MakesADrawingLowerThatStaysOnThePageOfWhatStandsAboveIt) {
 }
 
 // A third of a page is left, the drawing needs more.
-TEST(Impagina, FillsThePageThatHasNoRoomForADrawingWithTheTableBehindIt) {
+TEST(Impagina, FillsThePageThatHasNoRoomForADrawingWithTheTextBehindIt) {
     const Figura figura{"Inviluppi", "", 17, 12, [] {}};
     const Impaginato fatto =
-        posto({righe(2 * righePerPagina() / 3), figura, Tavola{test::nodi(60)}});
+        posto({righe(2 * righePerPagina() / 3), figura, righe(righePerPagina() / 4),
+               Paragrafo{"I nodi:"}, Tavola{test::nodi(60)}});
     ASSERT_GE(fatto.pagine.size(), 2U);
     EXPECT_TRUE(fatto.pagine[0].disegni.empty());
-    EXPECT_NE(testi(fatto, 0).find("Nodi della fase 2|"), std::string::npos);
+    EXPECT_TRUE(testi(fatto, 0).ends_with('|' + std::to_string(righePerPagina() / 4)));
     ASSERT_EQ(fatto.pagine[1].disegni.size(), 1U);
-    const std::string sotto = testi(fatto, 1);
-    EXPECT_TRUE(sotto.starts_with("Inviluppi|Nodi della fase 2 (segue)|")) << sotto.substr(0, 60);
+    EXPECT_TRUE(testi(fatto, 1).starts_with("Inviluppi|I nodi:|Nodi della fase 2|"));
     EXPECT_EQ(difetti(fatto), "");
+}
+
+TEST(Impagina, PartsNoTableByADrawing) {
+    const Figura figura{"Inviluppi", "", 17, 12, [] {}};
+    for (int sopra = righePerPagina() / 3; sopra < righePerPagina(); ++sopra) {
+        const Impaginato fatto = posto({righe(sopra), figura, Tavola{test::nodi(60)}});
+        EXPECT_EQ(test::tavoleTorte(fatto), "") << sopra;
+        EXPECT_EQ(difetti(fatto), "");
+    }
 }
 
 TEST(Impagina, LeavesNoDrawingBehindTheHeadingThatFollowsItNorOutOfOrder) {
     const Figura prima{"Paratia", "", 17, 12, [] {}}, seconda{"Sezione", "", 17, 3, [] {}};
     const auto sopra = righe(2 * righePerPagina() / 3);
-    const Impaginato fatto =
-        posto({sopra, prima, seconda, Paragrafo{"Sotto"}, Titolo{2, "Dopo"}, righe(2)});
+    const Impaginato fatto = posto({sopra, prima, seconda, righe(12), Titolo{2, "Dopo"}, righe(2)});
     ASSERT_EQ(fatto.pagine.size(), 2U);
-    EXPECT_TRUE(testi(fatto, 0).ends_with("|Sotto"));
+    EXPECT_TRUE(testi(fatto, 0).ends_with("|11|12"));
     EXPECT_EQ(testi(fatto, 1), "Paratia|Sezione|Dopo|1|2");
     EXPECT_EQ(posto({sopra, prima}).pagine.at(1).disegni.size(), 1U) << "the last of all";
+}
+
+// Two drawings that can be 3 cm lower each give a table its room.
+TEST(Impagina, MakesDrawingsLowerForWhatStandsBelowThem) {
+    const Figura figura{"Curve", "", 17, 10, [] {}, 7, [](double) {}};
+    auto sotto = test::larga(3, 5);
+    sotto.note = {"Vale per tutte."};
+    const Impaginato fatto = posto({figura, figura, Tavola{sotto}, righe(righePerPagina())});
+    ASSERT_EQ(fatto.pagine.size(), 2U);
+    EXPECT_TRUE(testi(fatto, 0).ends_with("|Vale per tutte."));
+    double basse = 0;
+    for (const Disegno& d : fatto.pagine[0].disegni) {
+        EXPECT_GE(d.altezza, 7);
+        basse += 10 - d.altezza;
+    }
+    EXPECT_GT(basse, 0);
+    EXPECT_EQ(difetti(fatto), "");
+}
+
+// As many lines as fit would leave two for the last page.
+TEST(Impagina, LeavesNoLastPageWithHardlyAnythingOnIt) {
+    const Impaginato fatto = posto({righe(righePerPagina() - 12), Titolo{2, "Il comando"}, righe(4),
+                                    Titolo{2, "Il file"}, righe(8)});
+    ASSERT_EQ(fatto.pagine.size(), 2U);
+    EXPECT_EQ(testi(fatto, 1), "Il comando|1|2|3|4|Il file|1|2|3|4|5|6|7|8");
 }
 
 TEST(Impagina, LetsNoNoteOfATableHeadAPage) {
@@ -310,6 +344,7 @@ TEST(Impagina, SetsAnyMixtureOfBlocksWithoutFault) {
                 case 0:
                     blocchi.push_back(
                         Titolo{intero(1, 3), std::string(static_cast<size_t>(intero(1, 90)), 'T')});
+                    blocchi.push_back(righe(intero(1, 9)));
                     break;
                 case 1:
                     blocchi.push_back(righe(intero(1, 70)));
@@ -331,6 +366,8 @@ TEST(Impagina, SetsAnyMixtureOfBlocksWithoutFault) {
             }
         const Impaginato fatto = posto(blocchi);
         EXPECT_EQ(difetti(fatto), "") << giro;
+        EXPECT_EQ(test::titoliSoli(fatto), "") << giro;
+        EXPECT_EQ(test::tavoleTorte(fatto), "") << giro;
     }
 }
 
