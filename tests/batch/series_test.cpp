@@ -2,16 +2,12 @@
 
 #include <signal.h>
 
-#include <algorithm>
-#include <charconv>
 #include <chrono>
-#include <cmath>
 #include <nlohmann/json.hpp>
-#include <random>
 #include <sstream>
 #include <thread>
 
-#include "batch/batch_bench.hpp"
+#include "batch/series_bench.hpp"
 
 namespace korven::batch {
 namespace {
@@ -20,39 +16,8 @@ namespace fs = std::filesystem;
 using Json = nlohmann::json;
 using test::contenuto;
 using test::dice;
-
-std::vector<std::string> linee(const std::string& testo) {
-    std::vector<std::string> tutte;
-    std::istringstream flusso(testo);
-    for (std::string riga; std::getline(flusso, riga);) {
-        if (!riga.empty() && riga.back() == '\r') riga.pop_back();
-        tutte.push_back(riga);
-    }
-    return tutte;
-}
-
-class Serie : public test::BancoConsole {
- protected:
-    void SetUp() override { prendi("diaframma_due_ordini"); }
-
-    void prendi(const std::string& nome) {
-        fs::copy_file(std::string(KORVEN_EXAMPLES) + "/" + nome + ".kvd", progetto,
-                      fs::copy_options::overwrite_existing);
-    }
-    [[nodiscard]] test::EsitoProgramma serie(std::vector<std::string> altri) const {
-        altri.insert(altri.begin(), {"serie", progetto});
-        return console(altri);
-    }
-    // A study of 60 variants, some of which fall.
-    [[nodiscard]] static std::vector<std::string> studio(std::vector<std::string> altri = {}) {
-        altri.insert(altri.begin(), {"--griglia", "lunghezzaParatia=9:18.5:0.5", "--griglia",
-                                     "sovraccMonte=0:40:20"});
-        return altri;
-    }
-
-    const std::string file = cartella / "studio.csv";
-    const std::string parziale = file + ".parziale";
-};
+using test::linee;
+using test::Serie;
 
 TEST_F(Serie, WritesARowForEachVariantInTheirOrder) {
     const auto esito = serie(studio());
@@ -88,59 +53,6 @@ TEST_F(Serie, WritesObjectsALineForPrograms) {
     EXPECT_EQ(ultima["causa"], "eseguito");
     EXPECT_TRUE(ultima["motivo"].is_null());
     EXPECT_GT(ultima["spostamento_massimo_m"].get<double>(), 0);
-}
-
-// The numbers of one variant beside those of the command `equilibrio` on a file with its values.
-TEST_F(Serie, HasTheNumbersOfEquilibrioForEveryVariant) {
-    const project::DatiProgetto base = project::leggiDaFile(progetto);
-    std::mt19937 caso(14);
-    std::uniform_real_distribution<double> phi(20, 40), forza(0, 300), lunghezza(12, 20);
-    std::string piano = "phiStrato[1];pretTirante[1];lunghezzaParatia\n";
-    std::vector<project::DatiProgetto> muri;
-    for (int i = 0; i < 200; ++i) {
-        const double p = phi(caso), f = forza(caso), l = lunghezza(caso);
-        std::ostringstream riga;
-        riga.precision(17);
-        riga << p << ';' << f << ';' << l << '\n';
-        piano += riga.str();
-        muri.push_back(base);
-        muri.back().phiStrato[1] = p;
-        muri.back().pretTirante[1] = f / 10;
-        muri.back().lunghezzaParatia = l;
-    }
-    test::metti(cartella / "piano.csv", piano);
-    const auto righe =
-        linee(serie({"--piano", cartella / "piano.csv", "--json", "--silenzioso"}).uscita);
-    ASSERT_EQ(righe.size(), muri.size());
-    int stanno = 0;
-    for (std::size_t i = 0; i < muri.size(); ++i) {
-        SCOPED_TRACE(i);
-        const Json r = Json::parse(righe[i]);
-        const std::string muro = cartella / "variante.kvd";
-        test::metti(muro, base::inCp1252(project::testoProgetto(muri[i])));
-        const Json j = Json::parse(
-            console({"equilibrio", muro, "--json", "--silenzioso"}, base::discoDiSistema()).uscita);
-        ASSERT_EQ(r["causa"], j["causa"]);
-        if (r["causa"] != "eseguito") continue;
-        ++stanno;
-        double spostamento = 0, massimo = 0, minimo = 0, taglio = 0;
-        std::vector<double> tiri(2);
-        for (const Json& fase : j["equilibrio"]["fasi"]) {
-            spostamento = std::max(spostamento, fase["spostamento_massimo_m"].get<double>());
-            massimo = std::max(massimo, fase["momento_massimo_kNm"].get<double>());
-            minimo = std::min(minimo, fase["momento_minimo_kNm"].get<double>());
-            taglio = std::max(taglio, fase["taglio_massimo_kN"].get<double>());
-            for (std::size_t t = 0; t < fase["tiri_kN"].size(); ++t)
-                tiri[t] = std::max(tiri[t], fase["tiri_kN"][t].get<double>());
-        }
-        EXPECT_EQ(r["spostamento_massimo_m"], spostamento);
-        EXPECT_EQ(r["momento_massimo_kNm"], massimo);
-        EXPECT_EQ(r["momento_minimo_kNm"], minimo);
-        EXPECT_EQ(r["taglio_massimo_kN"], taglio);
-        EXPECT_EQ(r["tiro_1_kN"], tiri[0]);
-        EXPECT_EQ(r["tiro_2_kN"], tiri[1]);
-    }
-    EXPECT_GT(stanno, 100);
 }
 
 TEST_F(Serie, BearsItsNameOnlyOnceItIsDone) {
@@ -255,73 +167,6 @@ TEST_F(Serie, TellsHowProbableFailureIsAndDrawsAResult) {
                   2)
             << nome;
     EXPECT_EQ(serie({"--griglia", "phiStrato[1]=20:30:1", "--svg", disegno}).codice, 2);
-}
-
-// One of the numbers that rows have is too large in some variants that stand: as many fail as the
-// rows say.
-TEST_F(Serie, CountsAVariantAsFailedByWhatItIsToldTo) {
-    const auto esito = serie(studio(
-        {"--fallisce", "spostamento_massimo_m>0.4", "--fallisce", "uso_momento_positivo >= 0.3"}));
-    EXPECT_EQ(esito.codice, 0) << esito.errori;
-    const auto righe = linee(serie(studio({"--json", "--silenzioso"})).uscita);
-    int cadute = 0, spostate = 0, usate = 0, fallite = 0;
-    for (const auto& riga : righe) {
-        const Json j = Json::parse(riga);
-        if (j["causa"] != "eseguito") {
-            ++cadute;
-            continue;
-        }
-        const bool spostata = j["spostamento_massimo_m"] > 0.4;
-        const bool usata = j["uso_momento_positivo"] >= 0.3;
-        spostate += spostata;
-        usate += usata;
-        fallite += spostata || usata;
-    }
-    EXPECT_GT(cadute, 0);
-    EXPECT_GT(spostate, 0);
-    EXPECT_LT(cadute + fallite, 60);
-    EXPECT_TRUE(
-        dice(esito.errori, "Falliscono " + std::to_string(cadute + fallite) + " varianti su 60."))
-        << esito.errori;
-    EXPECT_TRUE(dice(esito.errori,
-                     "  in equilibrio con spostamento_massimo_m>0.4: " + std::to_string(spostate)))
-        << esito.errori;
-    EXPECT_TRUE(dice(esito.errori,
-                     "  in equilibrio con uso_momento_positivo >= 0.3: " + std::to_string(usate)));
-}
-
-TEST_F(Serie, ComputesWhatMakesAVariantFail) {
-    const auto esito = serie({"--griglia", "phiStrato[1]=30:32:2", "--colonne", "tiro_2_kN",
-                              "--fallisce", "riduzione<5"});
-    EXPECT_EQ(linee(esito.uscita).at(0), "variante,phiStrato[1] [°],causa,tiro_2_kN,riduzione");
-    EXPECT_TRUE(dice(esito.errori, "Falliscono 2 varianti su 2.")) << esito.errori;
-}
-
-TEST_F(Serie, GoesOnWithWhatMakesAVariantFail) {
-    const std::vector<std::string> suo =
-        studio({"--fallisce", "spostamento_massimo_m>0.4", "--uscita", file});
-    const auto intero = serie(suo);
-    const std::string tutto = contenuto(file);
-    test::metti(parziale, tutto.substr(0, tutto.size() / 2));
-    fs::remove(file);
-    auto ripreso = suo;
-    ripreso.emplace_back("--riprendi");
-    EXPECT_EQ(serie(ripreso).errori, intero.errori);
-    EXPECT_EQ(contenuto(file), tutto);
-}
-
-TEST_F(Serie, SaysWhyItCanNotTellWhatFails) {
-    const std::pair<const char*, const char*> casi[] = {
-        {"uso>1", "--fallisce uso>1: carattere 1: uso: nessun risultato si chiama così"},
-        {"causa>1", "causa: è una parola, non un numero"},
-        {"passiva_usata>0,5", "carattere 15: 0,5: il segno decimale è il punto: 0.5"},
-        {"passiva_usata", "atteso come in spostamento_massimo_m>0.03"}};
-    for (const auto& [testo, perche] : casi) {
-        const auto esito = serie(studio({"--fallisce", testo}));
-        EXPECT_EQ(esito.codice, 2) << testo;
-        EXPECT_EQ(esito.uscita, "");
-        EXPECT_TRUE(dice(esito.errori, perche)) << esito.errori;
-    }
 }
 
 TEST_F(Serie, RefusesWrongUsage) {
