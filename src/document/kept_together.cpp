@@ -1,12 +1,15 @@
 #include "document/kept_together.hpp"
 
 #include <algorithm>
+#include <utility>
 
 namespace korven::document {
 
 namespace {
 
 constexpr std::size_t righeSopra = 8;
+// Of a page that begins with the first part of a chapter, whose opening words stay behind.
+constexpr double costoPrimaParte = 20;
 
 class Legatore {
  public:
@@ -59,10 +62,17 @@ class Legatore {
 
 void lega(const Documento& documento, const std::vector<std::size_t>& inizi, Strisce& strisce) {
     Legatore legatore(documento, inizi, strisce);
+    bool solePremesse = false;
     for (std::size_t i = 0; i < documento.blocchi.size(); ++i) {
         if (inizi[i] == inizi[i + 1]) continue;
+        const auto* titolo = std::get_if<Titolo>(&documento.blocchi[i]);
+        if (titolo != nullptr && titolo->livello > 1 && std::exchange(solePremesse, false))
+            strisce[inizi[i]].costo = costoPrimaParte;
+        else if (titolo != nullptr)
+            solePremesse = titolo->livello == 1;
         const auto* p = std::get_if<Paragrafo>(&documento.blocchi[i]);
         const bool tavola = std::holds_alternative<Tavola>(documento.blocchi[i]);
+        if (titolo == nullptr && p == nullptr) solePremesse = false;
         if (tavola || (p != nullptr && p->stile == Stile::fisso)) legatore.sopra(i);
         if (tavola) legatore.sotto(i);
     }

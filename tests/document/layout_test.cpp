@@ -113,6 +113,15 @@ TEST(Impagina, MakesDrawingsLowerForWhatStandsBelowThem) {
     EXPECT_EQ(difetti(fatto), "");
 }
 
+// Room for the chapter's first words, not for the table of its first part.
+TEST(Impagina, LeavesNoChapterAtAFootWithoutItsFirstPart) {
+    const Impaginato fatto =
+        posto({righe(righePerPagina() * 62 / 100), Titolo{1, "Terreno"}, Paragrafo{"Di ogni nodo."},
+               Titolo{2, "Fase 1"}, Tavola{test::larga(3, 14)}});
+    ASSERT_EQ(fatto.pagine.size(), 2U);
+    EXPECT_TRUE(testi(fatto, 1).starts_with("Terreno|Di ogni nodo.|Fase 1|"));
+}
+
 // As many lines as fit would leave two for the last page.
 TEST(Impagina, LeavesNoLastPageWithHardlyAnythingOnIt) {
     const Impaginato fatto = posto({righe(righePerPagina() - 12), Titolo{2, "Il comando"}, righe(4),
