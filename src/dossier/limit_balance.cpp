@@ -58,7 +58,7 @@ class Parti {
     // A moment at the head turns the wall as a force away from the excavation below it would.
     void momentoInTesta(double M) {
         if (M == 0 || moto_.traslazione) return;
-        trova(AzioneLimite::testa, false, 0).spinta -= moto_.verso * M;
+        trova(AzioneLimite::momentoTesta, false, 0).spinta -= moto_.verso * M;
     }
     [[nodiscard]] std::vector<ParteAlLimite>& tutte() { return parti_; }
 
@@ -95,7 +95,7 @@ void tiranti(const ProblemaFase& problema, Parti& parti) {
 BilancioLimite bilancioLimite(const ProblemaFase& problema, const Meccanismo& moto, int fase) {
     BilancioLimite b{.fase = fase, .moto = moto, .nodi = {}, .parti = {}};
     Parti parti(b.moto);
-    parti.aggiungi(AzioneLimite::testa, problema.H, 0);
+    parti.aggiungi(AzioneLimite::forzaTesta, problema.H, 0);
     parti.momentoInTesta(problema.M);
     for (int i = 0; i < problema.n(); ++i) {
         const NodoFase& nodo = problema.nodi[static_cast<std::size_t>(i)];

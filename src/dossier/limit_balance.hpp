@@ -22,10 +22,10 @@ struct NodoAlLimite {
 };
 
 /// What acts on such a wall, by kind and by side of the point that stays.
-enum class AzioneLimite { testa, monte, valle, acqua, costante, tirante };
+enum class AzioneLimite { forzaTesta, momentoTesta, monte, valle, acqua, costante, tirante };
 
 struct ParteAlLimite {
-    AzioneLimite cosa = AzioneLimite::testa;
+    AzioneLimite cosa = AzioneLimite::forzaTesta;
     int tirante = 0;    ///< of `tirante`: counted from 1
     bool sotto = true;  ///< below the point that stays
     double forza = 0;   ///< [t], positive towards the excavation

@@ -68,7 +68,7 @@ TEST(BilancioLimiteTest, ChangesTheLimitsAboveThePointThatStays) {
     // Half a metre at 5 m, and one metre at each of 4, 3, 2, 1 m: 12.5 m2 a side.
     EXPECT_NEAR(parte(b, AzioneLimite::monte, false)->spinta, -9 * 12.5, 1e-12);
     EXPECT_NEAR(parte(b, AzioneLimite::monte, true)->spinta, 4 * 12.5, 1e-12);
-    EXPECT_NEAR(parte(b, AzioneLimite::testa, false)->spinta, -7, 1e-12);
+    EXPECT_NEAR(parte(b, AzioneLimite::momentoTesta, false)->spinta, -7, 1e-12);
     EXPECT_NEAR(b.mancante, -9 * 12.5 + 4 * 12.5 - 7, 1e-12);
 }
 
@@ -78,7 +78,7 @@ TEST(BilancioLimiteTest, SumsTheForcesOfATranslation) {
     p.H = -1;
     const BilancioLimite b = bilancioLimite(p, Meccanismo{true, 0, 1, 2}, 1);
     EXPECT_NEAR(parte(b, AzioneLimite::costante)->spinta, 3, 1e-12);
-    EXPECT_NEAR(parte(b, AzioneLimite::testa)->spinta, -1, 1e-12);
+    EXPECT_NEAR(parte(b, AzioneLimite::forzaTesta)->spinta, -1, 1e-12);
     EXPECT_NEAR(b.mancante, 2, 1e-12);
 }
 

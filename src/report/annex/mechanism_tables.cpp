@@ -27,8 +27,10 @@ namespace {
 
 std::string nome(const project::DatiProgetto& dati, const ParteAlLimite& parte) {
     switch (parte.cosa) {
-        case AzioneLimite::testa:
-            return traduttore("Carichi in testa");
+        case AzioneLimite::forzaTesta:
+            return base::conMaiuscola(traduttore("forza in testa"));
+        case AzioneLimite::momentoTesta:
+            return base::conMaiuscola(traduttore("momento in testa"));
         case AzioneLimite::monte:
             return traduttore("Terreno a monte");
         case AzioneLimite::valle:
@@ -43,8 +45,9 @@ std::string nome(const project::DatiProgetto& dati, const ParteAlLimite& parte) 
     return nomeTirante(dati, parte.tirante);
 }
 
-// Where its resultant acts, as far from the point that stays as its moment says.
-double braccio(const ParteAlLimite& parte, int verso) { return verso * parte.spinta / parte.forza; }
+// Of a resultant: as far from the point that stays as its moment says, positive where the wall
+// moves towards the excavation, so that force times arm is the moment with its sign.
+Cella braccio(double metri) { return tables::cella(metri, 4, unita::metri); }
 
 const char* effetto(const ParteAlLimite& parte) { return parte.spinta > 0 ? "spinge" : "resiste"; }
 
@@ -74,9 +77,9 @@ std::vector<Cella> rigaRotazione(const project::DatiProgetto& dati, const Bilanc
     if (parte.forza == 0) {
         riga.resize(5);
     } else {
-        const double arm = braccio(parte, b.moto.verso);
-        riga.push_back(tables::profondita(b.moto.profondita + arm));
-        riga.push_back(tables::cella(arm, 3, unita::metri));
+        const double b1 = parte.spinta / parte.forza;
+        riga.push_back(tables::profondita(b.moto.profondita + b.moto.verso * b1));
+        riga.push_back(braccio(b1));
     }
     riga.push_back(tables::momento(parte.spinta));
     riga.push_back(tables::parola(traduttore(effetto(parte))));
@@ -93,12 +96,12 @@ std::string fraseMeccanismo(const BilancioLimite& b) {
             "manca.");
     return riempito(
         traduttore(
-            "La paratia ruota attorno al perno, il nodo a %1 m: sopra e "
-            "sotto di esso il terreno è al limite, dal lato verso cui si muove passivo, "
-            "dall'altro attivo. Il momento di una forza è forza per braccio, positivo se "
-            "gira come la paratia cade: allora spinge, altrimenti resiste. La somma è quanto "
-            "manca. Fra tutti i moti rigidi questo è quello a cui manca di più, rispetto al "
-            "suo spostamento maggiore."),
+            "La paratia ruota attorno al perno, il nodo a %1 m: sopra e sotto di esso il terreno "
+            "è al limite, passivo dal lato verso cui la paratia si muove, attivo dall'altro. Il "
+            "braccio di una forza è la sua distanza dal perno, positiva dove la paratia si muove "
+            "verso lo scavo. Il momento è forza per braccio, ciascuno con il suo segno: se è "
+            "positivo la forza spinge la paratia nel suo moto, se è negativo le resiste. La somma "
+            "dei momenti è quanto manca all'equilibrio."),
         {tables::profondita(b.moto.profondita).testo});
 }
 
@@ -123,17 +126,25 @@ Prospetto prospettoLimite(const project::DatiProgetto& dati, const BilancioLimit
         return p;
     }
     p.righe.push_back({tables::parola(traduttore("Reazione del perno")), vuota,
-                       tables::forza(b.perno), tables::profondita(b.moto.profondita),
-                       tables::cella(0.0, 3, unita::metri), tables::momento(0), vuota});
+                       tables::forza(b.perno), tables::profondita(b.moto.profondita), braccio(0),
+                       tables::momento(0), vuota});
     p.righe.push_back({tables::parola(mancano), vuota, tables::forza(b.forzaRisultante),
                        tables::profondita(b.zRisultante),
-                       tables::cella(b.zRisultante - b.moto.profondita, 3, unita::metri),
-                       tables::momento(b.mancante), vuota});
+                       braccio(b.moto.spostamento(b.zRisultante)), tables::momento(b.mancante),
+                       vuota});
+    for (const ParteAlLimite& parte : b.parti)
+        if (parte.cosa == AzioneLimite::momentoTesta)
+            p.note.push_back(
+                traduttore("Il momento in testa spinge se gira la testa nel verso del "
+                           "moto, e non ha né forza né braccio."));
     p.note.push_back(
         traduttore("L'ultima riga è la somma delle altre, forze e momenti: una forza sola "
                    "all'estremo che si sposta di più. Con una forza opposta in quel punto la "
                    "paratia sarebbe appena in equilibrio, e il perno porterebbe la reazione "
                    "scritta; in esso il terreno non è al limite."));
+    p.note.push_back(
+        traduttore("Il programma prova le rotazioni attorno a ogni nodo e le due traslazioni, in "
+                   "ogni verso. Mostra il moto per cui è più grande la forza dell'ultima riga."));
     return p;
 }
 

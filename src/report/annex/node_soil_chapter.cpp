@@ -107,13 +107,19 @@ void capitoloNodiTerreno(const Contesto& contesto, Blocchi& blocchi) {
         paragrafo(tables::perche(f.parete, 1), blocchi, document::Stile::pericolo);
         return;
     }
-    paragrafo(base::riempito(
-                  traduttore("Le molle di ogni fase, nodo per nodo, alle profondità della tabella "
-                             "dei suoi nodi. I simboli sono quelli del capitolo %1. Si rifà ogni "
-                             "riga così: p = p0 - ks y, con y in metri; se esce dai limiti pa e "
-                             "pp, p è il limite."),
-                  {traduttore("Modello e ipotesi")}),
-              blocchi);
+    std::string frase = base::riempito(
+        traduttore("Le molle di ogni fase, nodo per nodo, alle profondità della tabella dei suoi "
+                   "nodi. I simboli sono quelli del capitolo %1."),
+        {traduttore("Modello e ipotesi")});
+    if (f.parete.fasiInEquilibrio() > 0)
+        frase += " " + traduttore(
+                           "Si rifà ogni riga così: p = p0 - ks y, con y in metri; se esce "
+                           "dai limiti pa e pp, p è il limite.");
+    if (!f.parete.sta())
+        frase += " " + traduttore(
+                           "Una fase senza equilibrio non ha spostamenti: di essa ci sono i "
+                           "limiti pa e pp e il modulo, non la pressione p.");
+    paragrafo(frase, blocchi);
     for (const auto& terreno : f.terreno.fasi) unaFase(contesto, terreno, blocchi);
 }
 

@@ -6,6 +6,7 @@
 #include "base/code_page.hpp"
 #include "base/filled_text.hpp"
 #include "base/number_text.hpp"
+#include "base/option_names.hpp"
 #include "base/translated_texts.hpp"
 #include "project/anchor_names.hpp"
 #include "project/field_table.hpp"
@@ -123,13 +124,31 @@ Prospetto prospettoBilancio(const DatiProgetto& dati, const BilancioFase& b) {
     return p;
 }
 
-std::string fraseSomme(const Fascicolo& f) {
+std::string fraseBilanci(const Fascicolo& f) {
+    std::string frase = traduttore(
+        "Di ogni fase c'è l'equilibrio di tutto ciò che agisce sulla paratia: momenti attorno alla "
+        "testa, positivi se una forza positiva agisce sotto di essa; z è la profondità della "
+        "risultante. Un tirante teso tira verso terra: la sua forza è negativa. La somma è quanto "
+        "l'arrotondamento lascia.");
+    if (f.parete.dati.momentoTesta != 0)
+        frase += " " + traduttore(
+                           "Un momento in testa positivo gira la testa verso lo scavo, cioè nel "
+                           "verso contrario: nell'equilibrio sta con il segno opposto a quello "
+                           "dei dati.");
+    return frase;
+}
+
+std::string fraseSomme(const Fascicolo& f, int righe) {
     std::string frase = riempito(
         traduttore("Terreno, acqua e pressione costante si riottengono dalla tabella dei nodi per "
                    "trapezi: pressione per passo, %1 m, metà nel primo e nell'ultimo nodo; i "
-                   "momenti, con la pressione per z. Servono tutti i nodi (--righe %2) e le "
-                   "pressioni sono stampate al centesimo."),
-        {tables::cella(f.parete.h, 4, unita::metri).testo, std::to_string(f.parete.nSeg + 1)});
+                   "momenti, con la pressione per z. Le pressioni sono stampate al centesimo."),
+        {tables::cella(f.parete.h, 4, unita::metri).testo});
+    if (const int nodi = f.parete.nSeg + 1; nodi > righe)
+        frase += " " + riempito(traduttore("Servono tutti i nodi, e qui le tabelle ne hanno una "
+                                           "parte: con %1 il comando dell'ultimo capitolo li "
+                                           "scrive tutti."),
+                                {base::nomeOpzioneRighe.mostrato() + " " + std::to_string(nodi)});
     if (!f.tiranti.empty())
         frase += " " + traduttore(
                            "Nel nodo di un tirante il taglio ha due valori, subito sopra e subito "

@@ -17,6 +17,10 @@ namespace korven::report {
 
 /// How a reader gets from the tables of nodes to the balances, what shear is at an anchor and what
 /// a fixed toe bears beyond the pressures: a paragraph.
-[[nodiscard]] std::string fraseSomme(const dossier::Fascicolo& fascicolo);
+/// @param righe  rows of a table of nodes, at most
+[[nodiscard]] std::string fraseSomme(const dossier::Fascicolo& fascicolo, int righe);
+
+/// What the balances are, and how the head moment of the project enters them: a paragraph.
+[[nodiscard]] std::string fraseBilanci(const dossier::Fascicolo& fascicolo);
 
 }  // namespace korven::report

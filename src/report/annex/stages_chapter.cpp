@@ -28,7 +28,8 @@ using tables::Prospetto;
 
 namespace {
 
-void introduzione(const Fascicolo& f, Blocchi& blocchi) {
+// How the numbers of the stages that stand are to be read.
+void introduzione(const Fascicolo& f, int righe, Blocchi& blocchi) {
     paragrafo(
         riempito(
             traduttore("Di ogni fase c'è la soluzione di equilibrio: la paratia, divisa in %1 "
@@ -44,15 +45,8 @@ void introduzione(const Fascicolo& f, Blocchi& blocchi) {
                    "pressioni e forze sono positivi verso lo scavo; un momento positivo tende "
                    "la faccia verso lo scavo."),
         blocchi);
-    paragrafo(traduttore("Di ogni fase c'è l'equilibrio di tutto ciò che agisce sulla paratia: "
-                         "momenti attorno alla testa, positivi se una forza positiva agisce sotto "
-                         "di essa; z è la profondità della risultante. Un tirante teso tira verso "
-                         "terra: la sua forza è negativa. La somma è quanto l'arrotondamento "
-                         "lascia."),
-              blocchi);
-    paragrafo(fraseSomme(f), blocchi);
-    tavola(tables::prospettoFasi(f.parete), blocchi);
-    if (f.parete.fasiInEquilibrio() > 0) tavola(prospettoCorse(f), blocchi);
+    paragrafo(fraseBilanci(f), blocchi);
+    paragrafo(fraseSomme(f, righe), blocchi);
 }
 
 // What the drawing shows, for those who do not see it.
@@ -101,11 +95,18 @@ document::Figura figura(const Contesto& contesto, int fase) {
 document::Figura figuraCaduta(const Contesto& contesto, int fase) {
     const auto f = contesto.fascicolo;
     const auto [larghezza, altezza] = drawings::formatoFase;
-    return {riempito(traduttore("Fase %1: come la paratia cade"), {std::to_string(fase)}),
-            tables::perche(f->parete, fase), larghezza, altezza,
-            [f, fase, larghezza = larghezza, altezza = altezza] {
-                if (!f->limite || f->limite->fase != fase)
-                    return drawings::disegnaFase(f->parete, fase, larghezza, altezza);
+    const bool cade = f->limite && f->limite->fase == fase;
+    const char* didascalia =
+        cade ? "Fase %1: in rosso, ingrandito, come la paratia cade; accanto le pressioni al limite"
+             : "Fase %1: la paratia senza equilibrio";
+    const std::string descrizione =
+        cade ? traduttore(
+                   "La paratia con il terreno al limite, attivo o passivo, e il suo moto; "
+                   "accanto le pressioni al limite dei due lati lungo la profondità.")
+             : tables::perche(f->parete, fase);
+    return {riempito(traduttore(didascalia), {std::to_string(fase)}), descrizione, larghezza,
+            altezza, [f, fase, cade, larghezza = larghezza, altezza = altezza] {
+                if (!cade) return drawings::disegnaFase(f->parete, fase, larghezza, altezza);
                 drawings::PressioniLimite p;
                 for (const dossier::NodoAlLimite& n : f->limite->nodi) {
                     p.monte.push_back(n.monte);
@@ -177,7 +178,17 @@ void capitoloFasi(const Contesto& contesto, Blocchi& blocchi) {
         paragrafo(tables::perche(f.parete, 1), blocchi, Stile::pericolo);
         return;
     }
-    introduzione(f, blocchi);
+    const bool qualcunaSta = f.parete.fasiInEquilibrio() > 0;
+    if (qualcunaSta)
+        introduzione(f, contesto.opzioni.righe, blocchi);
+    else
+        paragrafo(traduttore("Nessuna fase è in equilibrio: spostamenti, momenti e tagli non ci "
+                             "sono. Della prima c'è come la paratia cade, se è un meccanismo. "
+                             "Valori per metro di paratia, profondità dalla testa; pressioni e "
+                             "forze sono positive verso lo scavo."),
+                  blocchi);
+    tavola(tables::prospettoFasi(f.parete), blocchi);
+    if (qualcunaSta) tavola(prospettoCorse(f), blocchi);
     for (int k = 1; k <= calcolate; ++k) unaFase(contesto, k, blocchi);
     const int tutte = std::clamp(f.parete.dati.nFasi, 0, project::massimoFasi);
     for (int k = calcolate + 1; k <= tutte; ++k) {

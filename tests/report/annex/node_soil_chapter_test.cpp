@@ -80,6 +80,7 @@ TEST(NodiTerreno, HaveTheLimitsOfAStageThatFalls) {
     cade.tirantiFase[1] = cade.tirantiFase[2] = 0;
     cade.lunghezzaParatia = cade.profFase[cade.nFasi] + 0.5;
     const auto b = test::blocchi(capitoloNodiTerreno, contesto(cade));
+    EXPECT_NE(test::testo(b).find("non la pressione p"), std::string::npos);
     const auto tavole = test::tutti<document::Tavola>(b);
     ASSERT_FALSE(tavole.empty());
     EXPECT_EQ(tavole.back().prospetto.colonne.size(), 8U);  // neither y nor p nor a state

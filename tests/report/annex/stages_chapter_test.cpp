@@ -114,7 +114,7 @@ TEST(ProspettoBilancio, TellsForceAndMomentOfAFixedToeAndTheHalfSegmentBelowIt) 
     const double netta = live::pressioneNetta(f, 40);  // nodes every 0.3 m
     EXPECT_NEAR(*riga(p, "Mezzo segmento oltre il piede")[1].numero, 10 * netta * 0.15, 1e-9);
     EXPECT_NEAR(*reazione[1].numero + 10 * netta * 0.15, 10 * f.taglio.back(), 1e-6);
-    const std::string frase = fraseSomme(*c.fascicolo);
+    const std::string frase = fraseSomme(*c.fascicolo, 51);
     for (const std::string& numero :
          {"nella fase 2 la pressione netta dell'ultimo nodo, " + tables::pressione(netta).testo +
               " kN/m², per 0.1500 m",
@@ -122,7 +122,7 @@ TEST(ProspettoBilancio, TellsForceAndMomentOfAFixedToeAndTheHalfSegmentBelowIt) 
               tables::forza(f.taglio.back()).testo + " kN/m"})
         EXPECT_NE(frase.find(numero), std::string::npos) << numero << '\n' << frase;
     const auto libero = contesto(test::progettoSemplice());
-    EXPECT_EQ(fraseSomme(*libero.fascicolo).find("incastro"), std::string::npos);
+    EXPECT_EQ(fraseSomme(*libero.fascicolo, 51).find("incastro"), std::string::npos);
 }
 
 TEST(CapitoloFasi, SetsTheSpecifiedRunBesideTheEquilibrium) {
@@ -215,14 +215,14 @@ TEST(CapitoloFasi, OfAMechanismHasTheBalanceAtTheLimit) {
     double momento = 0, forza = numero(p, perno, 2);
     for (std::size_t i = 0; i < perno; ++i) {
         forza += numero(p, i, 2);
-        EXPECT_NEAR(moto.verso * numero(p, i, 2) * numero(p, i, 4), numero(p, i, 5), 1e-9);
+        EXPECT_NEAR(numero(p, i, 2) * numero(p, i, 4), numero(p, i, 5), 1e-9);
         EXPECT_EQ(p.righe[i][6].testo, numero(p, i, 5) > 0 ? "spinge" : "resiste");
         momento += numero(p, i, 5);
     }
     EXPECT_NEAR(momento, 10 * moto.mancante, 1e-6);
     EXPECT_NEAR(numero(p, somma, 5), 10 * moto.mancante, 1e-6);
     EXPECT_NEAR(numero(p, somma, 2), forza, 1e-9);
-    EXPECT_NEAR(moto.verso * numero(p, somma, 2) * numero(p, somma, 4), numero(p, somma, 5), 1e-6);
+    EXPECT_NEAR(numero(p, somma, 2) * numero(p, somma, 4), numero(p, somma, 5), 1e-6);
     const auto nodi = tavola(b, "Pressioni al limite");
     ASSERT_EQ(nodi.righe.size(), 41U);
     EXPECT_EQ(numero(nodi, 20, 3), 10 * c.fascicolo->limite->nodi[20].monte);
@@ -233,6 +233,64 @@ TEST(CapitoloFasi, OfAMechanismHasTheBalanceAtTheLimit) {
             numero(nodi, i, 2) * (numero(nodi, i, 3) + numero(nodi, i, 5) + numero(nodi, i, 7)),
             numero(nodi, i, 8), 1e-9);
     }
+}
+
+// A reader multiplies with the printed signs: the head moves towards the excavation here, so that
+// the arms above the pivot are positive. A head moment stands alone: it has no arm.
+TEST(CapitoloFasi, OfAMechanismHasMomentsThatFollowFromForcesAndArms) {
+    auto dati = test::progettoSemplice();
+    dati.tirantiFase[1] = dati.tirantiFase[2] = 0;
+    dati.nTiranti = 0;
+    dati.lunghezzaParatia = dati.profFase[2] + 3;
+    dati.forzaTesta = 0.5;
+    dati.momentoTesta = 2;
+    const Contesto c = contesto(dati);
+    ASSERT_TRUE(c.fascicolo->limite);
+    ASSERT_EQ(c.fascicolo->limite->moto.verso, -1);
+    const auto p = tavola(fasi(c), "Equilibrio al limite");
+    const auto forza = riga(p, "Forza in testa"), momento = riga(p, "Momento in testa");
+    EXPECT_EQ(forza[3].numero, 0);
+    EXPECT_NEAR(*forza[4].numero, c.fascicolo->limite->moto.profondita, 1e-9);
+    EXPECT_FALSE(momento[4].numero);
+    EXPECT_NEAR(*momento[5].numero, 20, 1e-9);
+    EXPECT_EQ(momento[6].testo, "spinge");
+    for (const auto& r : p.righe) {
+        if (!r[4].numero) continue;
+        EXPECT_NEAR(*r[2].numero * *r[4].numero, *r[5].numero, 1e-6) << r[0].testo;
+    }
+    EXPECT_NE(p.note.front().find("momento in testa"), std::string::npos);
+}
+
+// The head moment of the input turns the other way than the moments of the balance.
+TEST(CapitoloFasi, SaysThatTheHeadMomentHasAnotherSignInTheBalance) {
+    auto dati = test::progettoSemplice();
+    constexpr const char* frase = "segno opposto a quello dei dati";
+    EXPECT_EQ(testo(fasi(contesto(dati))).find(frase), std::string::npos);
+    dati.momentoTesta = 1;
+    const Contesto c = contesto(dati);
+    const auto b = fasi(c);
+    EXPECT_NE(testo(b).find(frase), std::string::npos);
+    const auto p = tavola(b, "Equilibrio delle forze e dei momenti");
+    EXPECT_NEAR(*riga(p, "Carichi in testa")[2].numero, -10, 1e-9);
+}
+
+TEST(CapitoloFasi, TellsOfNoTableOfNodesWhereNoStageStands) {
+    auto dati = test::progettoSemplice();
+    dati.profFase[1] = dati.profFase[2] = 11.9;
+    dati.tirantiFase[2] = 0;
+    const Contesto c = contesto(dati);
+    ASSERT_EQ(c.fascicolo->parete.fasiInEquilibrio(), 0);
+    const std::string detto = testo(fasi(c));
+    EXPECT_NE(detto.find("Nessuna fase è in equilibrio"), std::string::npos);
+    EXPECT_EQ(detto.find("tabella dei nodi"), std::string::npos);
+}
+
+TEST(CapitoloFasi, SaysHowAllNodesArePrintedWhereSomeAreNot) {
+    const auto detto = [](int righe) {
+        return fraseSomme(*contesto(test::progettoSemplice()).fascicolo, righe);
+    };
+    EXPECT_NE(detto(40).find("con --righe 41 il comando"), std::string::npos);
+    EXPECT_EQ(detto(41).find("--righe"), std::string::npos);
 }
 
 TEST(CapitoloFasi, SaysWhatTheReportHasOtherwise) {
