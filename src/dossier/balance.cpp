@@ -4,7 +4,6 @@
 #include <cassert>
 #include <cmath>
 
-#include "analysis/wall_mesh.hpp"
 #include "live/envelope.hpp"
 
 namespace korven::dossier {
@@ -46,7 +45,7 @@ void vincoli(const ProblemaFase& problema, const std::vector<double>& y, Bilanci
         const auto j = static_cast<std::size_t>(i);
         const NodoFase& nodo = problema.nodi[j];
         if (!nodo.vincolato) continue;
-        const double F = analysis::kVincolo * nodo.peso * y[j];
+        const double F = -problema.molla(nodo) * y[j];
         const double z = problema.profondita(std::min(i, piede));
         (i == 0 ? b.cerniera : b.piede).aggiungi(F, z);
         b.incastro.momento += F * (problema.profondita(i) - z);

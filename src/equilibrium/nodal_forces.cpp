@@ -5,7 +5,6 @@
 #include <cstring>
 
 #include "analysis/solver/vector_lanes.hpp"
-#include "analysis/wall_mesh.hpp"
 #include "project/project_data.hpp"
 
 namespace korven::equilibrium {
@@ -73,7 +72,7 @@ void ForzeNodi::imposta(const ProblemaFase& problema) {
         peso_[i] = i < nParete ? nodo.peso : 0;  // nothing loads the node that a fixed toe adds
         costante_[i] = nodo.acqua + problema.costante;
         // The spring of a restraint takes the place of the soil's; the constant part stays.
-        vincolo_[i] = nodo.vincolato ? -analysis::kVincolo * nodo.peso : 0;
+        vincolo_[i] = problema.molla(nodo);
         equilibrium::imposta(nodo.monte, nodo.vincolato, monte_, i);
         equilibrium::imposta(nodo.valle, nodo.vincolato, valle_, i);
         ++i;

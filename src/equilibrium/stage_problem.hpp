@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "analysis/iteration_state.hpp"
+#include "analysis/wall_mesh.hpp"
 
 namespace korven::equilibrium {
 
@@ -81,14 +82,20 @@ struct ProblemaFase {
     double h = 0;         ///< distance of the nodes
     double EJ = 0;        ///< bending stiffness [t m2]
     double costante = 0;  ///< constant pressure on all nodes [t/m2]
-    double H = 0;         ///< force at the top [t]
-    double M = 0;         ///< moment at the top [t m]
-    int nParete = 0;      ///< nodes of the wall; with a fixed toe `nodi` has one more
+    /// Spring of a restraint, over the tributary length: that of the run, or a stiffer one [t/m3].
+    double kVincolo = -analysis::kVincolo;
+    double H = 0;     ///< force at the top [t]
+    double M = 0;     ///< moment at the top [t m]
+    int nParete = 0;  ///< nodes of the wall; with a fixed toe `nodi` has one more
     std::vector<NodoFase> nodi;
     std::vector<TiranteFase> tiranti;
 
     [[nodiscard]] int n() const { return static_cast<int>(nodi.size()); }
     [[nodiscard]] double profondita(int i) const { return i * h; }
+    /// The spring of a node's restraint; 0 without one [t/m].
+    [[nodiscard]] double molla(const NodoFase& nodo) const {
+        return nodo.vincolato ? kVincolo * nodo.peso : 0;
+    }
 };
 
 /// What makes the data of a stage no stable wall.

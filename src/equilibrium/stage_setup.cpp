@@ -1,5 +1,6 @@
 #include "equilibrium/stage_setup.hpp"
 
+#include <algorithm>
 #include <cassert>
 #include <cmath>
 
@@ -16,8 +17,22 @@ using analysis::Indefinito;
 using analysis::RifiutoSuolo;
 using project::DatiProgetto;
 
+namespace {
+
+// A restraint that is so much stiffer than a segment of the wall moves as little beside its
+// neighbours; stiffer ones would leave fewer digits to the displacements.
+constexpr double rigiditaVincolo = 1e8;
+
+double kVincolo(RigiditaVincoli rigidita, double EJ, double h) {
+    const double corsa = -analysis::kVincolo;
+    if (rigidita == RigiditaVincoli::comeLaCorsa) return corsa;
+    return std::max(corsa, rigiditaVincolo * EJ / (h * h * h * h));
+}
+
+}  // namespace
+
 ImpostazioneFasi::ImpostazioneFasi(const DatiProgetto& dati, int nSeg,
-                                   const analysis::SuoloStrati& strati)
+                                   const analysis::SuoloStrati& strati, RigiditaVincoli rigidita)
     : dati_(dati), strati_(strati), riferimenti_(project::massimoTiranti + 1) {
     assert(nSeg >= analysis::minimoSegmenti);
     const analysis::Vincoli vincoli = analysis::vincoli(dati);
@@ -25,6 +40,7 @@ ImpostazioneFasi::ImpostazioneFasi(const DatiProgetto& dati, int nSeg,
     ProblemaFase& p = problema_;
     p.h = dati.lunghezzaParatia / nSeg;
     p.EJ = dati.rigidezzaEJ;
+    p.kVincolo = kVincolo(rigidita, p.EJ, p.h);
     p.costante = dati.pressioneOrizz;
     p.H = dati.forzaTesta;
     p.M = dati.momentoTesta;

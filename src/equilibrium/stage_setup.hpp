@@ -10,6 +10,15 @@
 
 namespace korven::equilibrium {
 
+/// How much a restraint gives way.
+enum class RigiditaVincoli {
+    comeLaCorsa,  ///< by the spring of the specified run
+    /// By nothing that shows. That spring turns a fixed toe by as little as its length lets it: its
+    /// hold on the rotation falls with the cube of the step, and a fine mesh would be one of a wall
+    /// whose toe turns. So meshes can be compared with these alone.
+    rigidi,
+};
+
 /// Puts the stages of a wall one after the other into a ProblemaFase, with the soil, the mesh, the
 /// anchors and the restraints of the specified run.
 class ImpostazioneFasi {
@@ -17,9 +26,11 @@ class ImpostazioneFasi {
     /// @param dati    the project
     /// @param nSeg    segments of the wall, not fewer than 3: asserted. More than the specified run
     ///                can take are welcome
-    /// @param strati  the layers of the project, or the same with other strengths
+    /// @param strati   the layers of the project, or the same with other strengths
+    /// @param rigidita of head and toe where they are restrained
     ImpostazioneFasi(const project::DatiProgetto& dati, int nSeg,
-                     const analysis::SuoloStrati& strati);
+                     const analysis::SuoloStrati& strati,
+                     RigiditaVincoli rigidita = RigiditaVincoli::comeLaCorsa);
 
     /// Sets stage k up. An anchor that is new in it refers to the displacements y of the stage
     /// before. After the first stage nothing is allocated.

@@ -28,12 +28,14 @@ bool numeri(const FaseEquilibrio& fase) {
 
 }  // namespace
 
-EquilibrioParete::EquilibrioParete(const DatiProgetto& dati, int nSeg)
-    : EquilibrioParete(dati, nSeg, analysis::suoloStrati(dati)) {}
+EquilibrioParete::EquilibrioParete(const DatiProgetto& dati, int nSeg, RigiditaVincoli rigidita)
+    : EquilibrioParete(dati, nSeg, analysis::suoloStrati(dati), rigidita) {}
 
 EquilibrioParete::EquilibrioParete(const DatiProgetto& dati, int nSeg,
-                                   const analysis::SuoloStrati& strati)
-    : impostazione_(dati, nSeg, strati), y_(problema().nodi.size()), newton_(problema().n()) {
+                                   const analysis::SuoloStrati& strati, RigiditaVincoli rigidita)
+    : impostazione_(dati, nSeg, strati, rigidita),
+      y_(problema().nodi.size()),
+      newton_(problema().n()) {
     const auto n = static_cast<std::size_t>(nSeg) + 1;
     for (auto* v : {&fase_.y, &fase_.momento, &fase_.taglio, &fase_.taglioSopra, &fase_.taglioSotto,
                     &fase_.monte, &fase_.valle, &fase_.acqua})
@@ -100,8 +102,9 @@ const FaseEquilibrio& EquilibrioParete::senzaNumero() {
     return fase_;
 }
 
-std::vector<FaseEquilibrio> calcolaEquilibrio(const DatiProgetto& dati, int nSeg) {
-    EquilibrioParete parete(dati, nSeg);
+std::vector<FaseEquilibrio> calcolaEquilibrio(const DatiProgetto& dati, int nSeg,
+                                              RigiditaVincoli rigidita) {
+    EquilibrioParete parete(dati, nSeg, rigidita);
     std::vector<FaseEquilibrio> fasi;
     fasi.reserve(static_cast<std::size_t>(std::clamp(dati.nFasi, 0, project::massimoFasi)));
     for (int k = 1; k <= dati.nFasi; ++k)

@@ -52,10 +52,12 @@ class EquilibrioParete {
     /// @param dati  the project; its `rigidezzaEJ` is taken as given
     /// @param nSeg  segments of the wall, not fewer than 3: asserted. More than the specified run
     ///              can take are welcome
-    EquilibrioParete(const project::DatiProgetto& dati, int nSeg);
+    EquilibrioParete(const project::DatiProgetto& dati, int nSeg,
+                     RigiditaVincoli rigidita = RigiditaVincoli::comeLaCorsa);
     /// @param strati  the layers of the project with other strengths
     EquilibrioParete(const project::DatiProgetto& dati, int nSeg,
-                     const analysis::SuoloStrati& strati);
+                     const analysis::SuoloStrati& strati,
+                     RigiditaVincoli rigidita = RigiditaVincoli::comeLaCorsa);
 
     /// Computes stage k, once stage k - 1 is computed; after the first nothing is allocated.
     /// @return valid until the next stage is computed
@@ -79,7 +81,8 @@ class EquilibrioParete {
 };
 
 /// All stages, up to the first that is no equilibrium.
-[[nodiscard]] std::vector<FaseEquilibrio> calcolaEquilibrio(const project::DatiProgetto& dati,
-                                                            int nSeg);
+[[nodiscard]] std::vector<FaseEquilibrio> calcolaEquilibrio(
+    const project::DatiProgetto& dati, int nSeg,
+    RigiditaVincoli rigidita = RigiditaVincoli::comeLaCorsa);
 
 }  // namespace korven::equilibrium

@@ -2,8 +2,6 @@
 
 #include <cmath>
 
-#include "analysis/wall_mesh.hpp"
-
 namespace korven::equilibrium {
 
 namespace {
@@ -16,7 +14,7 @@ double forzaNelNodo(const ProblemaFase& problema, const std::vector<double>& y, 
     for (const TiranteFase& t : problema.tiranti)
         // Under the spring of a restraint an anchor keeps its constant part alone.
         if (t.nodo == i) forza -= t.volte * t.tiro(nodo.vincolato ? 0 : y[j]);
-    if (nodo.vincolato) forza += analysis::kVincolo * nodo.peso * y[j];
+    if (nodo.vincolato) forza -= problema.molla(nodo) * y[j];
     return forza;
 }
 

@@ -12,7 +12,8 @@ using equilibrium::Estremi;
 constexpr double arrotondamento = 1e-9;  // of a value
 
 std::optional<Estremi> involuppo(const project::DatiProgetto& dati, int nSeg) {
-    const auto fasi = equilibrium::calcolaEquilibrio(dati, nSeg);
+    const auto fasi =
+        equilibrium::calcolaEquilibrio(dati, nSeg, equilibrium::RigiditaVincoli::rigidi);
     if (fasi.empty() || fasi.back().esito != equilibrium::EsitoFase::equilibrio)
         return std::nullopt;
     return equilibrium::estremi(fasi, dati.lunghezzaParatia / nSeg);
