@@ -9,6 +9,7 @@
 #include "shell/help/porta.hpp"
 #include "shell/main/informazioni.hpp"
 #include "shell/masks/form_opening.hpp"
+#include "shell/norms/norms_wiring.hpp"
 #include "shell/panels/section_panel.hpp"
 #include "shell/panels/table_panels.hpp"
 #include "shell/pens/printer_setup.hpp"
@@ -48,6 +49,7 @@ commands::FormeProgramma Sessione::forme(const PorteSessione& porte) {
     shell::collegaAllegato(tutte, finestra_, vita_, dialogo, porte.stampante, allegatoDelProgetto,
                            annuncia);
     shell::collegaConfronto(tutte, finestra_, vita_, dialogo, porte.stampante, annuncia);
+    shell::collegaNorme(tutte, finestra_, vita_, dialogo, porte.stampante, annuncia);
     shell::collegaStrumenti(tutte, dialogo, finestra_);
     tutte.riavvia = porte.riavvia;
     return tutte;

@@ -27,6 +27,7 @@ constexpr Posto posti[] = {
     {"sicurezza", 37},
     {"allegato", 43},
     {"confronto", 44},
+    {"norme", 45},
     {"DefinEJ", 7},
     {"Form1", 19},
     {"apri", 3},

@@ -215,6 +215,7 @@ TEST_F(ProgrammaTest, LetsOnlyThoseCommandsBeChosenThatShowNoFormOrOneThatIsPlug
         {"sicurezza", [](auto& f) { f.sicurezza = [] {}; }, {"sicurezza"}},
         {"allegato", [](auto& f) { f.allegato = [] {}; }, {"allegato"}},
         {"confronto", [](auto& f) { f.confronto = [] {}; }, {"confronto"}},
+        {"norme", [](auto& f) { f.norme = [] {}; }, {"norme"}},
         {"nuovo", [](auto& f) { f.nuovo = [] { return std::nullopt; }; }, {"nuovo"}},
         {"lingua", [](auto& f) { f.lingua = [] { return false; }; }, {"lingua"}},
         {"tasti", [](auto& f) { f.tasti = [] {}; }, {"tasti"}},
@@ -258,7 +259,7 @@ TEST_F(ProgrammaTest, TakesNoOtherCommandWhileADrawingIsShown) {
     EXPECT_TRUE(p.possibile(voceMenu("FileApri")));
     p.produci([](const PorteUscita& porte) { porte.forme.grafica(); });
     EXPECT_EQ(possibili, (std::vector<std::string_view>{"controlli", "risultati", "sicurezza",
-                                                        "allegato", "confronto", "tasti"}));
+                                                        "allegato", "confronto", "norme", "tasti"}));
     EXPECT_TRUE(p.possibile(voceMenu("FileApri")));
 }
 

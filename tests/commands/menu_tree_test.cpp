@@ -53,6 +53,7 @@ TEST(AlberoMenu, HoldsTheMenusAndTheirItemsInOrder) {
               "  sicurezza &Sicurezza\n"
               "  allegato &Allegato\n"
               "  confronto Con&fronta con\n"
+              "  norme Nor&me\n"
               "  nuovo Nu&ovo\n"
               "  duplica &Duplica\n"
               "  recenti R&ecenti\n"
@@ -97,6 +98,7 @@ TEST(AlberoMenu, GivesEachItemItsEntryOfTheHelpContexts) {
                                                 {"sicurezza", 37},
                                                 {"allegato", 43},
                                                 {"confronto", 44},
+                                                {"norme", 45},
                                                 {"nuovo", 38},
                                                 {"duplica", 39},
                                                 {"recenti", 40},
@@ -109,7 +111,7 @@ TEST(AlberoMenu, GivesEachItemItsEntryOfTheHelpContexts) {
                 EXPECT_EQ(v.guida, aiuto) << nome;
                 ++trovate;
             }
-    EXPECT_EQ(trovate, 37);
+    EXPECT_EQ(trovate, 38);
 }
 
 TEST(AlberoMenu, GivesNoTwoItemsTheSameKeys) {

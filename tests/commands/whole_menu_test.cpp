@@ -50,6 +50,7 @@ class MenuIntero : public test::BancoProgramma {
         forme.sicurezza = dice("safety");
         forme.allegato = dice("annex");
         forme.confronto = dice("comparison");
+        forme.norme = dice("codes");
         forme.nuovo = [this] {
             mostrate += "pattern, ";
             return std::string();
@@ -116,6 +117,7 @@ TEST_F(MenuIntero, BringsAboutWhatEachItemSays) {
         {"sicurezza", "safety"},
         {"allegato", "annex"},
         {"confronto", "comparison"},
+        {"norme", "codes"},
         {"nuovo", "pattern, name dialog"},
         {"duplica", "name dialog"},
         {"lingua", "languages, start again, end"},

@@ -35,6 +35,7 @@ TEST(VoceForma, OfTheWindowsBesideTheMainFormIsThatOfTheirMenuItem) {
     EXPECT_EQ(voceForma("sicurezza"), 37);
     EXPECT_EQ(voceForma("allegato"), 43);
     EXPECT_EQ(voceForma("confronto"), 44);
+    EXPECT_EQ(voceForma("norme"), 45);
 }
 
 }  // namespace

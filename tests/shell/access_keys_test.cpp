@@ -27,6 +27,7 @@
 #include "shell/section/definej.hpp"
 #include "shell/tools/pattern_choice.hpp"
 #include "support/annex_ports.hpp"
+#include "support/code_ports.hpp"
 #include "support/comparison_ports.hpp"
 #include "support/delivered_program.hpp"
 #include "support/desktop_bench.hpp"
@@ -117,6 +118,7 @@ TEST_P(TastiDiScelta, DifferWithinTheOtherForms) {
     EXPECT_EQ(tastiDi(FinestraAllegato(principale, vita, test::porteAllegato(dialogo), guida)), 9U);
     EXPECT_EQ(tastiDi(FinestraConfronto(principale, vita, test::porteConfronto(dialogo), guida)),
               6U);
+    EXPECT_EQ(tastiDi(FinestraNorme(principale, vita, test::porteNorme(dialogo), guida)), 9U);
     EXPECT_EQ(tastiDi(SceltaModello({})), 2U);
     for (const bool salvato : {true, false}) {
         test::OffertaDiProva prova;

@@ -28,6 +28,7 @@
 #include "shell/run/temp_calc.hpp"
 #include "shell/safety/safety_window.hpp"
 #include "support/annex_ports.hpp"
+#include "support/code_ports.hpp"
 #include "support/comparison_ports.hpp"
 #include "support/delivered_program.hpp"
 #include "support/desktop_bench.hpp"
@@ -164,6 +165,8 @@ TEST_F(Accessibilita, OfTheWindowsAroundTheProject) {
     FinestraConfronto confronto(menu1, vita, test::porteConfronto(dialogo),
                                 [](const std::string&) {});
     controlla(confronto);
+    FinestraNorme norme(menu1, vita, test::porteNorme(dialogo), [](const std::string&) {});
+    controlla(norme);
     const test::OffertaDiProva prova;
     const auto offerta = prova.offerta();
     FormaRecupero recupero(offerta, nullptr);

@@ -40,6 +40,7 @@
 #include "shell/tools/keys_window.hpp"
 #include "shell/tools/pattern_choice.hpp"
 #include "support/annex_ports.hpp"
+#include "support/code_ports.hpp"
 #include "support/comparison_ports.hpp"
 #include "support/delivered_program.hpp"
 #include "support/desktop_bench.hpp"
@@ -170,6 +171,11 @@ void controllaSulProgetto(Menu1& menu1) {
     FinestraConfronto confronto(menu1, vita, test::porteConfronto(dialogo),
                                 [](const std::string&) {});
     controlla(confronto);
+    FinestraNorme norme(menu1, vita, test::porteNorme(dialogo), [](const std::string&) {});
+    norme.show();
+    const auto* pdf = norme.findChild<QPushButton*>("pdf");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return pdf->isEnabled(); }, 30000));
+    controlla(norme);
 }
 
 // The line at the foot of the main form has room for what a run that found no rest leaves there,

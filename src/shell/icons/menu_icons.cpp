@@ -46,6 +46,7 @@ constexpr IconaVoce iconeVoci[] = {
     {"sicurezza", "safety"},
     {"allegato", "annex"},
     {"confronto", "compare"},
+    {"norme", "codes"},
     {"nuovo", "new"},
     {"duplica", "duplicate"},
     {"recenti", "recent"},

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "base/dialogo.hpp"
+#include "commands/desktop_forms.hpp"
+#include "shell/live/live_view.hpp"
+
+class QPrinter;
+class QWidget;
+
+namespace korven::shell {
+
+/// Plugs the window of the codes into the item of the menu.
+/// @param stampante  the printer of the program, as the printer set-up left it
+/// @param annuncia   told the path of each file that was written
+void collegaNorme(commands::FormeProgramma& forme, QWidget& principale, VitaProgetto& vita,
+                  base::Dialogo& dialogo, const std::function<QPrinter&()>& stampante,
+                  const std::function<void(const std::string&)>& annuncia);
+
+}  // namespace korven::shell
