@@ -258,8 +258,9 @@ TEST_F(ProgrammaTest, TakesNoOtherCommandWhileADrawingIsShown) {
     questo = &p;
     EXPECT_TRUE(p.possibile(voceMenu("FileApri")));
     p.produci([](const PorteUscita& porte) { porte.forme.grafica(); });
-    EXPECT_EQ(possibili, (std::vector<std::string_view>{"controlli", "risultati", "sicurezza",
-                                                        "allegato", "confronto", "norme", "tasti"}));
+    EXPECT_EQ(possibili,
+              (std::vector<std::string_view>{"controlli", "risultati", "sicurezza", "allegato",
+                                             "confronto", "norme", "tasti"}));
     EXPECT_TRUE(p.possibile(voceMenu("FileApri")));
 }
 
