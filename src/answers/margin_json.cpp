@@ -93,7 +93,7 @@ Json jsonFase(const MargineFase& fase, double paratia) {
 Json erroreMaglia(const Margine& margine) {
     if (!margine.maglia) return nullptr;
     const safety::ErroreMaglia& e = *margine.maglia;
-    return {{"momento", quota(e.momento.quota)},
+    return {{"momento", quota(e.momento().quota)},
             {"momento_positivo", quota(e.momentoPositivo.quota)},
             {"momento_negativo", quota(e.momentoNegativo.quota)},
             {"taglio", quota(e.taglio.quota)},
@@ -104,7 +104,7 @@ Json erroreMaglia(const Margine& margine) {
 Json ordineMaglia(const Margine& margine) {
     if (!margine.maglia) return nullptr;
     const safety::ErroreMaglia& e = *margine.maglia;
-    return {{"momento", quota(e.momento.ordine)},
+    return {{"momento", quota(e.momento().ordine)},
             {"momento_positivo", quota(e.momentoPositivo.ordine)},
             {"momento_negativo", quota(e.momentoNegativo.ordine)},
             {"taglio", quota(e.taglio.ordine)},
@@ -135,7 +135,10 @@ Json usiMaglia(const Margine& margine) {
             usi.push_back(uso ? quota(uso->uso()) : Json(nullptr));
             verificata.push_back(uso ? Json(!uso->fallita) : Json(nullptr));
         }
-        tutti.push_back({{"verifica", parola(u.cosa)}, {"uso", usi}, {"verificata", verificata}});
+        tutti.push_back({{"verifica", parola(u.cosa)},
+                         {"uso", usi},
+                         {"verificata", verificata},
+                         {"limite", quota(u.limite())}});
     }
     return tutti;
 }

@@ -15,23 +15,19 @@ using project::DatiProgetto;
 using project::numeroMostrato;
 namespace unita = project::unita;
 
-// The envelope that the mesh gets most wrong.
-struct ErrorePeggiore {
-    std::string_view che;
-    double quota = 0;
-};
-
-ErrorePeggiore errorePeggiore(const safety::ErroreMaglia& maglia) {
-    const std::pair<std::string_view, const safety::ErroreGrandezza&> tutti[] = {
-        {"il momento", maglia.momento},
-        {"il taglio", maglia.taglio},
-        {"lo spostamento", maglia.spostamento},
-        {"il tiro", maglia.tiro},
-    };
-    ErrorePeggiore peggiore;
-    for (const auto& [che, errore] : tutti)
-        if (errore.quota.value_or(0) > peggiore.quota) peggiore = {che, *errore.quota};
-    return peggiore;
+std::string_view che(safety::Massimo massimo) {
+    switch (massimo) {
+        case safety::Massimo::momentoPositivo:
+        case safety::Massimo::momentoNegativo:
+            return "il momento";
+        case safety::Massimo::taglio:
+            return "il taglio";
+        case safety::Massimo::spostamento:
+            return "lo spostamento";
+        case safety::Massimo::tiro:
+            break;
+    }
+    return "il tiro";
 }
 
 // A level and the node from which on it counts.
@@ -80,7 +76,7 @@ class Spostato {
 void controlloMaglia(const DatiProgetto& dati, const safety::Margine& margine,
                      ElencoOsservazioni& elenco) {
     if (!margine.maglia) return;
-    const ErrorePeggiore errore = errorePeggiore(*margine.maglia);
+    const safety::ErrorePeggiore errore = margine.maglia->peggiore();
     if (errore.quota <= erroreMagliaDetto) return;
     const Spostato nessuno(dati, margine.nSeg);
     // The last layer goes on below its bottom.
@@ -99,9 +95,10 @@ void controlloMaglia(const DatiProgetto& dati, const safety::Margine& margine,
     };
     for (const auto& [voce, livello] : livelli) {
         if (livello.piuGiu <= spostatoDaiNodi) continue;
-        elenco.aggiungi(voce, livello.soggetto,
-                        {numeroMostrato(livello.z, 2), numeroMostrato(livello.piuGiu, 2),
-                         traduttore(errore.che), numeroMostrato(errore.quota, 1, unita::percento)});
+        elenco.aggiungi(
+            voce, livello.soggetto,
+            {numeroMostrato(livello.z, 2), numeroMostrato(livello.piuGiu, 2),
+             traduttore(che(errore.di)), numeroMostrato(errore.quota, 1, unita::percento)});
         return;  // one is enough, of what matters most: more segments help with all of them
     }
 }

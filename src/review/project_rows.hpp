@@ -69,6 +69,11 @@ inline constexpr VoceOsservazione vociProgetto[] = {
     {"k0-sotto-ka", Peso::daVedere, "spinte",
      "il coefficiente a riposo (%1) è minore di quello attivo (%2): coesione a parte, il terreno a "
      "monte è in stato attivo già senza spostamenti"},
+    {"riposo-del-pendio", Peso::daVedere, "spinte",
+     "con il terreno che sale il coefficiente a riposo è %1 (Kézdi), per EN 1997-1, 9.5.2, sarebbe "
+     "%2: dove il terreno a monte è elastico pressioni, momenti e forze sono minori, dalla parte "
+     "non sicura; confrontare con inclinazione nulla e il peso del terreno sopra la testa come "
+     "sovraccarico a monte"},
 
     {"ks-mancante", Peso::pericolo, "ks_valori", "modulo ks mancante"},
     {"ks-negativo", Peso::pericolo, "ks_valori", "valore negativo"},

@@ -4,6 +4,7 @@
 #include "analysis/layer_soil.hpp"
 #include "project/codes.hpp"
 #include "project/shown_number.hpp"
+#include "review/at_rest_rule.hpp"
 #include "review/remark_list.hpp"
 
 // What the kind of stresses and the method of the pressures leave out or count twice.
@@ -83,6 +84,23 @@ void controlloRiposo(const DatiProgetto& d, ElencoOsservazioni& elenco) {
                     {project::numeroMostrato(primo.k0m, 3), project::numeroMostrato(primo.kam, 3)});
 }
 
+// Where it is active the soil is not asked for its pressure at rest, but no one knows before a run.
+void controlloPendio(const DatiProgetto& d, ElencoOsservazioni& elenco) {
+    if (!(d.inclinazioneMonte > 0)) return;
+    const auto suolo = analysis::suoloStrati(d);
+    const double gradi = analysis::pi / 180;
+    for (int j = 1; j <= d.nStrati; ++j) {
+        if (!raggiunto(d, j) || d.phiStrato[j] < d.inclinazioneMonte) continue;
+        const double norma = riposoDelPendio(d.phiStrato[j] * gradi, d.inclinazioneMonte * gradi);
+        elenco.aggiungi(
+            "riposo-del-pendio",
+            insieme(campoConValore(&DatiProgetto::inclinazioneMonte, d.inclinazioneMonte),
+                    rigaConValore(d, &DatiProgetto::phiStrato, j)),
+            {project::numeroMostrato(suolo[j].k0m, 3), project::numeroMostrato(norma, 3)});
+        return;  // of the uppermost layer: the others differ by the same factor
+    }
+}
+
 }  // namespace
 
 void controlloTensioni(const DatiProgetto& dati, ElencoOsservazioni& elenco) {
@@ -92,6 +110,7 @@ void controlloTensioni(const DatiProgetto& dati, ElencoOsservazioni& elenco) {
                         righeConValori(dati, &DatiProgetto::suStrato, conResistenza));
     controlloBell(dati, elenco);
     controlloRiposo(dati, elenco);
+    controlloPendio(dati, elenco);
 }
 
 }  // namespace korven::review

@@ -113,9 +113,9 @@ std::string paroleLunghezza(const Margine& margine) {
 
 std::string paroleMaglia(const Margine& margine) {
     if (!margine.sta()) return {};
-    std::string testo = traduttore("Errore di maglia") + " (" + std::to_string(margine.nSeg) + " " +
-                        traduttore("segmenti contro") + " " + std::to_string(4 * margine.nSeg) +
-                        ")" + base::duePunti();
+    const std::string testo = traduttore("Errore di maglia") + " (" + std::to_string(margine.nSeg) +
+                              " " + traduttore("segmenti contro") + " " +
+                              std::to_string(4 * margine.nSeg) + ")" + base::duePunti();
     if (!margine.maglia)
         return testo + traduttore("con una maglia più fine una fase non è in equilibrio");
     const std::pair<const char*, const ErroreGrandezza*> grandezze[] = {
@@ -125,13 +125,12 @@ std::string paroleMaglia(const Margine& margine) {
         {"spostamento", &margine.maglia->spostamento},
         {"tiro", &margine.maglia->tiro},
     };
-    const char* segno = "";
-    for (const auto& [nome, errore] : grandezze) {
-        if (!errore->quota) continue;
-        testo += segno + traduttore(nome) + " " + base::testoDecimali(*errore->quota, 1, 2) + " %";
-        segno = ", ";
-    }
-    return testo;
+    std::string errori;
+    for (const auto& [nome, errore] : grandezze)
+        if (errore->quota)
+            errori += (errori.empty() ? "" : ", ") + traduttore(nome) + " " +
+                      base::testoDecimali(*errore->quota, 1, 2) + " %";
+    return errori.empty() ? errori : testo + errori;
 }
 
 std::string paroleDecisiva(const Margine& margine) {

@@ -14,15 +14,10 @@ namespace {
 
 using base::riempito;
 using base::traduttore;
-using results::Uso;
 
 constexpr std::array<int, 3> finezza = {1, 2, 4};  // segments over those of the project
 
-double quota(const std::optional<Uso>& uso) { return uso ? uso->uso().value_or(0) : 0; }
-
-std::string percento(const std::optional<Uso>& uso) {
-    return base::testoDecimali(quota(uso), 1, 2);
-}
+std::string percento(double quota) { return base::testoDecimali(quota, 1, 2); }
 
 std::string segmenti(const Margine& margine, std::size_t maglia) {
     return std::to_string(margine.nSeg * finezza[maglia]);
@@ -32,27 +27,25 @@ std::string segmenti(const Margine& margine, std::size_t maglia) {
 std::size_t peggiore(const UsoMaglia& u) {
     std::size_t i = 0;
     for (const std::size_t j : {1U, 2U})
-        if (quota(u.maglie[j]) > quota(u.maglie[i])) i = j;
+        if (u.quota(j) > u.quota(i)) i = j;
     return i;
 }
 
-// A finer mesh on which the verdict is another one; 0: none.
+// A finer mesh on which the verdict is another one.
 std::size_t altroVerdetto(const UsoMaglia& u) {
     const auto fallita = [&](std::size_t i) { return u.maglie[i] && u.maglie[i]->fallita; };
-    for (const std::size_t j : {2U, 1U})
-        if (fallita(j) != fallita(0)) return j;
-    return 0;
+    return fallita(2) != fallita(0) ? 2 : 1;
 }
 
 bool cresce(const UsoMaglia& u) {
-    const double suo = quota(u.maglie[0]), fine = quota(u.maglie[peggiore(u)]);
+    const double suo = u.quota(0), fine = u.quota(peggiore(u));
     return fine - suo > std::max(crescitaUsoDetta * suo, crescitaUsoMinima);
 }
 
 std::string passaggio(const Margine& margine, const UsoMaglia& u, std::size_t maglia) {
     return riempito(traduttore("%1 dal %2 % con %3 segmenti al %4 % con %5"),
-                    {traduttore(nome(u.cosa)), percento(u.maglie[0]), segmenti(margine, 0),
-                     percento(u.maglie[maglia]), segmenti(margine, maglia)});
+                    {traduttore(nome(u.cosa)), percento(u.quota(0)), segmenti(margine, 0),
+                     percento(u.quota(maglia)), segmenti(margine, maglia)});
 }
 
 // @param frase  with a place for what changes
@@ -86,13 +79,19 @@ std::string paroleUsiMaglia(const Margine& margine) {
     std::string usi;
     for (const UsoMaglia& u : margine.maglia->usi)
         aggiungi(riempito(traduttore("%1 %2, %3 e %4 %"),
-                          {traduttore(nome(u.cosa)), percento(u.maglie[0]), percento(u.maglie[1]),
-                           percento(u.maglie[2])}),
+                          {traduttore(nome(u.cosa)), percento(u.quota(0)), percento(u.quota(1)),
+                           percento(u.quota(2))}),
                  usi);
     return base::conDuePunti(
         riempito(traduttore("Sfruttamenti con %1, %2 e %3 segmenti"),
                  {segmenti(margine, 0), segmenti(margine, 1), segmenti(margine, 2)}),
         usi);
+}
+
+std::string paroleTendenza(const UsoMaglia& uso) {
+    const std::optional<double> limite = uso.limite();
+    if (!limite) return {};
+    return riempito(traduttore("con maglie sempre più fini verso il %1 %"), {percento(*limite)});
 }
 
 std::vector<AvvisoMaglia> avvisiMaglia(const Margine& margine) {
@@ -101,17 +100,25 @@ std::vector<AvvisoMaglia> avvisiMaglia(const Margine& margine) {
         return {{true, traduttore("Con una maglia più fine una fase non è in equilibrio: il "
                                   "verdetto dipende dal numero dei segmenti. Aumentarli, finché "
                                   "non cambia più.")}};
-    std::string cambiano, crescono;
-    for (const UsoMaglia& u : margine.maglia->usi)
-        if (const std::size_t maglia = altroVerdetto(u))
-            aggiungi(passaggio(margine, u, maglia), cambiano);
+    std::string cambiano, vanno, crescono;
+    for (const UsoMaglia& u : margine.maglia->usi) {
+        const EsitoMaglie esito = u.esito();
+        if (esito == EsitoMaglie::cambia)
+            aggiungi(passaggio(margine, u, altroVerdetto(u)), cambiano);
+        else if (esito == EsitoMaglie::nonAssestata)
+            aggiungi(passaggio(margine, u, 2) + ", " + paroleTendenza(u), vanno);
         else if (cresce(u))
             aggiungi(passaggio(margine, u, peggiore(u)), crescono);
+    }
     std::vector<AvvisoMaglia> avvisi;
     avviso(true,
            "Una maglia più fine cambia il verdetto: sfruttamento, %1. Aumentare i segmenti, finché "
            "non cambia più.",
            cambiano, avvisi);
+    avviso(true,
+           "Il verdetto non è assestato: sfruttamento, %1. Con queste maglie la sezione è "
+           "verificata, con il valore a cui vanno no: verificarla con quello.",
+           vanno, avvisi);
     avviso(false,
            "Una maglia più fine dà uno sfruttamento maggiore: %1. Tenere conto della differenza, o "
            "aumentare i segmenti.",

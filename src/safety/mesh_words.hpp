@@ -23,14 +23,17 @@ inline constexpr double crescitaUsoMinima = 0.01;
 /// empty where there are none.
 [[nodiscard]] std::string paroleUsiMaglia(const Margine& margine);
 
+/// "con maglie sempre più fini verso il 101.9 %"; empty where no such value is in sight.
+[[nodiscard]] std::string paroleTendenza(const UsoMaglia& uso);
+
 struct AvvisoMaglia {
-    bool verdetto = false;  ///< a finer mesh has another verdict
+    bool verdetto = false;  ///< a finer mesh has another verdict, or goes to one
     std::string testo;      ///< sentences
 };
 
 /// What must be known before one relies on the verdicts of this mesh: that a finer one has no
-/// equilibrium, that a check fails with one mesh and holds with another, or that its use grows.
-/// None of a wall that does not stand.
+/// equilibrium, that a check fails with one mesh and holds with another, that what its use goes to
+/// is beyond the resistance, or that the use grows. None of a wall that does not stand.
 [[nodiscard]] std::vector<AvvisoMaglia> avvisiMaglia(const Margine& margine);
 
 }  // namespace korven::safety

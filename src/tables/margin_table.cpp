@@ -7,6 +7,7 @@
 #include "base/code_page.hpp"
 #include "base/colon.hpp"
 #include "base/filled_text.hpp"
+#include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
 #include "review/limits.hpp"
 #include "safety/margin_words.hpp"
@@ -80,7 +81,7 @@ void riga(const project::Unita& u, const char* cosa, Cella (*valore)(double),
     p.righe.push_back(
         {parola(base::conMaiuscola(traduttore(cosa)) + " " + traParentesi(u)), valore(e.valore),
          valore(e.doppia), valore(e.fine),
-         e.quota ? cella(*e.quota, 1, unita::percento) : dove(0, 0),
+         e.quota ? cella(*e.quota, 1, unita::percento) : senza(percheSenzaErrore()),
          e.ordine ? cella(*e.ordine, 1, unita::nessuna) : senza(percheSenzaOrdine(e.andamento))});
 }
 
@@ -203,12 +204,23 @@ Prospetto prospettoMaglia(const Margine& margine) {
     return p;
 }
 
+std::string percheSenzaErrore() {
+    return base::riempito(traduttore("I valori non arrivano a %1 nell'unità della riga: un errore "
+                                     "relativo non direbbe nulla."),
+                          {base::testoDecimali(safety::minimoConErrore, 2)});
+}
+
 std::string percheSenzaOrdine(safety::Andamento andamento) {
     switch (andamento) {
         case safety::Andamento::avvicinano:
             break;
         case safety::Andamento::uguali:
             return traduttore("Le tre maglie danno lo stesso valore.");
+        case safety::Andamento::vicine:
+            return base::riempito(
+                traduttore("Le due maglie più fini differiscono di meno di %1 nell'unità della "
+                           "riga: le cifre scritte non reggono un ordine."),
+                {base::testoDecimali(safety::minimaConOrdine, 2)});
         case safety::Andamento::alternano:
             return traduttore(
                 "Le tre maglie si avvicinano a un valore dalle due parti: l'errore "

@@ -26,6 +26,9 @@ inline constexpr double fineBarraF = 3;
 /// stand, with this mesh or a finer one.
 [[nodiscard]] Prospetto prospettoMaglia(const safety::Margine& margine);
 
+/// Why there is no error of the mesh, a sentence.
+[[nodiscard]] std::string percheSenzaErrore();
+
 /// Why the error of the mesh has no order, a sentence; empty where it has one.
 [[nodiscard]] std::string percheSenzaOrdine(safety::Andamento andamento);
 

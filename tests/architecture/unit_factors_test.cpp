@@ -55,6 +55,7 @@ const std::map<std::string, Exempt> noUnits = {
     {"dossier/twin_numbers.cpp", {{"1e-3"}, "a share of a number, below which digits explain it"}},
     {"studies/both_ways.cpp", {{"1e-6"}, "a share of the largest displacement"}},
     {"safety/mesh_error.cpp", {{"1e-9"}, "what rounding leaves between two meshes"}},
+    {"equilibrium/stage_setup.cpp", {{"1e8"}, "how much stiffer than a segment a restraint is"}},
     {"equilibrium/newton.cpp", {{"100"}, "a stronger push on a singular tangent"}},
     {"safety/shortest_wall.cpp", {{"100"}, "steps of a hundredth of the length"}},
 };

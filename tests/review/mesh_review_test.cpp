@@ -22,7 +22,7 @@ DatiProgetto conLivelli(double scavo, double faldaValle, double faldaMonte, doub
 Righe conErrore(const DatiProgetto& dati, double momento, double taglio = 0) {
     Margine m = margineSano(dati);
     m.maglia = safety::ErroreMaglia{};
-    m.maglia->momento.quota = momento;
+    m.maglia->momentoPositivo.quota = momento;
     m.maglia->taglio.quota = taglio;
     ElencoOsservazioni elenco;
     controlloMaglia(dati, m, elenco);

@@ -80,6 +80,7 @@ const Scenario scenari[] = {
          d.inclinazioneMonte = 5;
      }},
     {"k0-sotto-ka", [](auto& d) { d.inclinazioneMonte = 20; }},
+    {"riposo-del-pendio", [](auto& d) { d.inclinazioneMonte = 5; }},
 
     {"ks-mancante", [](auto& d) { d.ksStrato[1] = 0; }},
     {"ks-negativo", [](auto& d) { d.ksStrato[1] = -1; }},

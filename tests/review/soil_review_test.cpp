@@ -165,7 +165,7 @@ TEST(ControlloTerreno, RefusesAFrictionAngleAtThePoleOnly) {
         ": Phi [°] = 60: con l'inclinazione del terreno arriva a 90°: il coefficiente passivo di "
         "Coulomb non ha significato";
     const auto trovate = righe(oltre);
-    ASSERT_EQ(trovate.size(), 5u);  // two on the angles, the last on the coefficient at rest
+    ASSERT_EQ(trovate.size(), 6u);  // two on the angles, the last two on the coefficient at rest
     EXPECT_EQ(trovate[0], "strato 1" + avviso);
     EXPECT_EQ(trovate[1], "strato 2" + avviso);
     EXPECT_TRUE(laCorsaRiesce(oltre));

@@ -125,5 +125,22 @@ TEST(ControlloTensioni, TellsASlopeAtWhichTheGroundAtRestIsBelowTheActiveState) 
               Righe{});
 }
 
+// phi = 30 degrees, 10 degrees of slope: 0.5 / 1.1736 and 0.5 * 1.1736.
+TEST(ControlloTensioni, TellsTheCoefficientAtRestOfARisingGround) {
+    const auto pendio = [](double beta) {
+        return righeDi(conModifica([&](DatiProgetto& d) { d.inclinazioneMonte = beta; }),
+                       {"riposo-del-pendio"});
+    };
+    EXPECT_EQ(pendio(10),
+              Righe{"Inclinazione del terreno a monte del diaframma [°] = 10, strato 1: Phi [°] = "
+                    "30: con il terreno che sale il coefficiente a riposo è 0.426 (Kézdi), per EN "
+                    "1997-1, 9.5.2, sarebbe 0.587: dove il terreno a monte è elastico pressioni, "
+                    "momenti e forze sono minori, dalla parte non sicura; confrontare con "
+                    "inclinazione nulla e il peso del terreno sopra la testa come sovraccarico a "
+                    "monte"});
+    EXPECT_EQ(pendio(0), Righe{});
+    EXPECT_EQ(pendio(-10), Righe{});  // it rises where the ground falls
+}
+
 }  // namespace
 }  // namespace korven::review

@@ -37,8 +37,8 @@ const std::map<std::string, Righe> esempi = {
     {"palancola_mensola", {}},
     {"pali_armati_staffe", {"taglio-non-verificato", "riduzione-bassa"}},
     {"pali_tubolari_cerniera", {}},
-    {"paratia_lunga_incastro", {"taglio-maggiore-della-statica"}},
-    {"trincea_puntellata", {}},
+    {"paratia_lunga_incastro", {"taglio-maggiore-della-statica", "scavo-spostato-dai-nodi"}},
+    {"trincea_puntellata", {"scavo-spostato-dai-nodi"}},
 };
 
 TEST(EsempiRaccontati, AreToldLittle) {
@@ -57,10 +57,13 @@ TEST(EsempiRaccontati, AreToldWhatTheirStagesComeTo) {
                "piede verso lo scavo; controllare infissione, tiranti e carichi"}));
     EXPECT_EQ(
         righe(risultati(esempio("paratia_lunga_incastro"))),
-        Righe{
+        (Righe{
             "[da vedere] taglio-maggiore-della-statica: taglio massimo del diagramma 1120.0 kN/m "
             "(fase 5, a 26.00 m), dell'equilibrio -385.2 kN/m (fase 5, a 18.72 m); al piede "
-            "incastrato il diagramma conta le molle dell'incastro: il primo non è della paratia"});
+            "incastrato il diagramma conta le molle dell'incastro: il primo non è della paratia",
+            "[da vedere] scavo-spostato-dai-nodi: fase 4: Prof. [m] = 11.5: conta dal nodo a 11.96 "
+            "m, 0.46 m più in basso, e la maglia falsa il momento del 8.1 %: aumentare i "
+            "segmenti"}));
 }
 
 // The water and the stresses of four of them are told before they run.

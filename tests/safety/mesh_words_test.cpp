@@ -40,14 +40,29 @@ TEST(ParoleUsiMaglia, TellTheUsesOfThreeMeshes) {
 
 TEST(AvvisiMaglia, TellAUseThatGrowsByMoreThanATwentiethOfItself) {
     const auto avvisi = avvisiMaglia(
-        con({usi(Verifica::momentoPositivo, 90.2, 95.1, 98.9),
+        con({usi(Verifica::momentoPositivo, 80.2, 85.1, 87.9),
              usi(Verifica::momentoNegativo, 60, 62, 62.9), usi(Verifica::armatura, 50, 49, 40)}));
     ASSERT_EQ(avvisi.size(), 1U);
     EXPECT_FALSE(avvisi[0].verdetto);
     EXPECT_EQ(avvisi[0].testo,
               "Una maglia più fine dà uno sfruttamento maggiore: flessione con momento positivo "
-              "dal 90.2 % con 50 segmenti al 98.9 % con 200. Tenere conto della differenza, o "
+              "dal 80.2 % con 50 segmenti al 87.9 % con 200. Tenere conto della differenza, o "
               "aumentare i segmenti.");
+}
+
+// It holds with all three meshes, and would fail with finer ones.
+TEST(AvvisiMaglia, TellAVerdictThatIsNotSettled) {
+    const auto avvisi = avvisiMaglia(con({usi(Verifica::momentoNegativo, 90.2, 94.5, 98.2),
+                                          usi(Verifica::momentoPositivo, 80, 85, 87.5)}));
+    ASSERT_EQ(avvisi.size(), 2U);
+    EXPECT_TRUE(avvisi[0].verdetto);
+    EXPECT_EQ(
+        avvisi[0].testo,
+        "Il verdetto non è assestato: sfruttamento, flessione con momento negativo dal 90.2 % "
+        "con 50 segmenti al 98.2 % con 200, con maglie sempre più fini verso il 101.9 %. Con "
+        "queste maglie la sezione è verificata, con il valore a cui vanno no: verificarla "
+        "con quello.");
+    EXPECT_FALSE(avvisi[1].verdetto);
 }
 
 TEST(AvvisiMaglia, AreSilentOnASmallUse) {

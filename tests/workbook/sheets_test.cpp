@@ -169,8 +169,8 @@ TEST(Fogli, HaveTheNumbersAndTheUsesOfThreeMeshes) {
     EXPECT_EQ(p.righe[1][3].numero, e.momentoNegativo.fine * 10);
     for (std::size_t i = 0; i < 3; ++i)
         EXPECT_NEAR(*p.righe[6][1 + i].numero, *e.usi[1].maglie[i]->uso() * 100, 1e-9);
-    ASSERT_EQ(p.note.size(), 1u);  // at the fixed toe a finer mesh uses more
-    EXPECT_TRUE(p.note[0].starts_with("Una maglia più fine dà uno sfruttamento maggiore"));
+    ASSERT_EQ(p.note.size(), 1u);  // at the fixed toe finer meshes use more and more
+    EXPECT_TRUE(p.note[0].starts_with("Il verdetto non è assestato"));
 }
 
 TEST(Fogli, SayWhyAWallThatDoesNotStandHasNoNumbers) {

@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <cmath>
 #include <string>
 #include <utility>
 #include <vector>
@@ -12,6 +11,7 @@
 #include "report/annex/formula_rows.hpp"
 #include "report/annex/soil_tables.hpp"
 #include "report/annex/table_pieces.hpp"
+#include "review/at_rest_rule.hpp"
 
 namespace korven::report {
 
@@ -84,8 +84,7 @@ class Formule {
     // The rule of the standard beside, in which a rising ground raises the pressure at rest.
     [[nodiscard]] double perConfronto(int j, double beta) const {
         const double rad = analysis::pi / 180;
-        return analysis::coefficienteRiposo(dati_.phiStrato[j] * rad, 0) *
-               (1 + std::sin(beta * rad));
+        return review::riposoDelPendio(dati_.phiStrato[j] * rad, beta * rad);
     }
 
     void spinte(const std::string& chi, const Termine& phi, const Termine& beta, const Lato& l) {

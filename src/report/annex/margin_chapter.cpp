@@ -83,10 +83,16 @@ void capitoloMargine(const Contesto& contesto, Blocchi& blocchi) {
     parte(traduttore("I massimi di tutte le fasi con i segmenti del progetto, con il doppio e con "
                      "quattro volte tanti: a, b, c. Errore: |a - c| / c. Ordine: log2((a - b) / "
                      "(b - c)), la potenza del passo con cui l'errore diminuisce; 2 è quello delle "
-                     "differenze finite. Scavo, falda, strati e tiranti contano dal nodo più "
-                     "vicino, che ogni maglia ha altrove: l'ordine vero può esserne coperto."),
+                     "differenze finite, 1 quello di un piede incastrato. Scavo, falda, strati e "
+                     "tiranti contano dal nodo più vicino, che ogni maglia ha altrove: l'ordine "
+                     "vero può esserne coperto. Nelle due maglie più fini i vincoli sono rigidi; "
+                     "le molle che ne fanno le veci nel calcolo cedono con un passo piccolo."),
           prospettoErroreMaglia(margine), blocchi);
-    if (auto usi = prospettoUsiMaglia(margine); !usi.righe.empty()) tavola(std::move(usi), blocchi);
+    if (margine.maglia) paragrafo(soglieErroreMaglia(), blocchi, Stile::nota);
+    if (auto usi = prospettoUsiMaglia(margine); !usi.righe.empty()) {
+        tavola(std::move(usi), blocchi);
+        paragrafo(soglieUsiMaglia(), blocchi, Stile::nota);
+    }
     avvisaMaglia(margine, blocchi);
     parte(traduttore("I massimi dell'equilibrio dei nodi accanto a quelli della relazione, fase "
                      "per fase; la relazione tronca i numeri alla seconda cifra."),

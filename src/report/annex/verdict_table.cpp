@@ -15,6 +15,7 @@
 #include "report/annex/table_pieces.hpp"
 #include "review/limits.hpp"
 #include "safety/margin_words.hpp"
+#include "safety/mesh_words.hpp"
 #include "tables/margin_table.hpp"
 #include "tables/quantities.hpp"
 
@@ -39,9 +40,10 @@ std::vector<Cella> riga(const char* cosa, Cella verdetto, std::string dettaglio)
 struct Genere {
     const char* riuscito;
     const char* fallito;
+    const char* nonAssestato;
 };
-constexpr Genere maschile = {"verificato", "non verificato"};
-constexpr Genere femminile = {"verificata", "NON verificata"};
+constexpr Genere maschile = {"verificato", "non verificato", "non assestato"};
+constexpr Genere femminile = {"verificata", "NON verificata", "non assestata"};
 
 Cella verdetto(const Genere& genere, bool fallito) {
     return tables::esito(traduttore(fallito ? genere.fallito : genere.riuscito), fallito);
@@ -88,44 +90,69 @@ std::string margineInBreve(const Fascicolo& f) {
     std::string testo = tables::verdetto(m);
     if (m.sta() && m.decisiva() == nullptr) testo += " " + inFrase(percheOltre(f));
     if (!m.maglia) return testo;
-    const double errore = m.maglia->massimo();
+    const double errore = m.maglia->peggiore().quota;
     if (errore > review::erroreMagliaDetto)
         testo += " " + riempito(traduttore("Errore di maglia fino al %1 %: aumentare i segmenti."),
                                 {tables::cella(errore, 1, unita::percento).testo});
     return testo;
 }
 
-// The use of a resistance that is largest by the numbers of one of the two calculations.
-std::string sfruttamento(const Fascicolo& f, std::initializer_list<dossier::Verifica> quali,
-                         std::optional<LatoVerifica> VerificaDoppia::*numeri) {
+double uso(const std::optional<LatoVerifica>& lato) { return lato ? lato->uso().value_or(0) : 0; }
+
+// The check that uses most of a resistance by the numbers of either calculation.
+const VerificaDoppia* piuSfruttata(const Fascicolo& f,
+                                   std::initializer_list<dossier::Verifica> quali) {
+    const auto massimo = [](const VerificaDoppia& v) {
+        return std::max(uso(v.equilibrio), uso(v.relazione));
+    };
     const VerificaDoppia* peggiore = nullptr;
     for (const VerificaDoppia& v : f.verifiche) {
         if (std::find(quali.begin(), quali.end(), v.cosa) == quali.end()) continue;
-        if (!(v.*numeri) || !(v.*numeri)->uso()) continue;
-        if (peggiore == nullptr || *(v.*numeri)->uso() > *(peggiore->*numeri)->uso()) peggiore = &v;
+        if (peggiore == nullptr || massimo(v) > massimo(*peggiore)) peggiore = &v;
     }
-    if (peggiore == nullptr) return {};
-    const LatoVerifica& lato = *(peggiore->*numeri);
-    return riempito(traduttore("sfruttamento %1 % (%2, fase %3, z = %4 m)"),
-                    {tables::cella(*lato.uso(), 1, unita::percento).testo,
-                     traduttore(nomeBreve(peggiore->cosa)), std::to_string(lato.dove.fase),
-                     tables::profondita(lato.dove.z).testo});
+    return peggiore;
 }
 
-// The wall is judged by the worse of the two; both are told where they are not the same.
+std::string sfruttamento(const VerificaDoppia& v, const std::optional<LatoVerifica>& lato) {
+    if (!lato || !lato->uso()) return {};
+    return riempito(
+        traduttore("sfruttamento %1 % (%2, fase %3, z = %4 m)"),
+        {tables::cella(*lato->uso(), 1, unita::percento).testo, traduttore(nomeBreve(v.cosa)),
+         std::to_string(lato->dove.fase), tables::profondita(lato->dove.z).testo});
+}
+
+// Of one check both uses; the wall is judged by the worse of the two.
+std::string sfruttamenti(const VerificaDoppia* v) {
+    if (v == nullptr) return {};
+    const std::string equilibrio = sfruttamento(*v, v->equilibrio),
+                      relazione = sfruttamento(*v, v->relazione);
+    if (relazione.empty() || relazione == equilibrio) return equilibrio;
+    return riempito(traduttore("equilibrio: %1; relazione: %2; vale il maggiore"),
+                    {equilibrio.empty() ? tables::nessuno : equilibrio, relazione});
+}
+
+// Of a check that holds with all meshes, and goes to where it fails: to what; else nothing.
+std::string nonAssestata(const Fascicolo& f, std::initializer_list<dossier::Verifica> quali) {
+    if (!f.margine || !f.margine->maglia) return {};
+    for (const safety::UsoMaglia& u : f.margine->maglia->usi)
+        if (u.esito() == safety::EsitoMaglie::nonAssestata &&
+            std::find(quali.begin(), quali.end(), u.cosa) != quali.end())
+            return traduttore(nomeBreve(u.cosa)) + " " + safety::paroleTendenza(u);
+    return {};
+}
+
 std::vector<Cella> verifica(const char* cosa, const Genere& genere, const Fascicolo& f,
                             std::initializer_list<dossier::Verifica> quali) {
     const bool fallita = std::any_of(f.verifiche.begin(), f.verifiche.end(), [&](const auto& v) {
         return std::find(quali.begin(), quali.end(), v.cosa) != quali.end() && v.fallita();
     });
-    const std::string equilibrio = sfruttamento(f, quali, &VerificaDoppia::equilibrio),
-                      relazione = sfruttamento(f, quali, &VerificaDoppia::relazione);
-    std::string dettaglio = equilibrio;
-    if (!relazione.empty() && relazione != equilibrio)
-        dettaglio = riempito(traduttore("equilibrio: %1; relazione: %2; vale il maggiore"),
-                             {equilibrio.empty() ? tables::nessuno : equilibrio, relazione});
-    return riga(cosa, verdetto(genere, fallita),
-                dettaglio.empty() ? traduttore("La resistenza è 0.") : dettaglio);
+    const std::string tendenza = nonAssestata(f, quali);
+    std::string dettaglio = sfruttamenti(piuSfruttata(f, quali));
+    if (dettaglio.empty()) dettaglio = traduttore("La resistenza è 0.");
+    if (fallita || tendenza.empty())
+        return riga(cosa, verdetto(genere, fallita), std::move(dettaglio));
+    return riga(cosa, tables::esito(traduttore(genere.nonAssestato), true),
+                dettaglio + base::puntoEVirgola() + tendenza);
 }
 
 std::vector<Cella> equilibrio(const Fascicolo& f) {
