@@ -2,6 +2,7 @@
 #include <cmath>
 #include <string>
 
+#include "base/translated_texts.hpp"
 #include "drawings/log/label_spreading.hpp"
 #include "drawings/log/layer_description.hpp"
 #include "scene/parts.hpp"
@@ -166,10 +167,6 @@ class Terreno {
         const double tetto = std::max(q_.y(s.tetto), alto);
         const double letto = std::min(q_.y(s.letto), q_.yFondo);
         const Tinta fondo{Ruolo::fondoStrato, s.descrizione.colore};
-        const auto nome = [&](double parte) {
-            return accorciato(nomeCorto(s.descrizione), parte * q_.xMonte - x, corpo, false,
-                              tela_.misura());
-        };
         Scritta scritta{.grado = Grado::strato,
                         .elemento = Elemento::strato,
                         .numero = s.numero,
@@ -177,18 +174,17 @@ class Terreno {
                         .tinta = {Ruolo::testo},
                         .corpo = corpo,
                         .posti = {{{x, y}, Ancora::sinistra, fondo}}};
-        if (y < tetto || y > letto) {
-            scritta.testo = nome(larghezzaNomi);
+        const bool fuori = y < tetto || y > letto;
+        const auto nomi = formeNome(s, fuori, x, corpo);
+        scritta.testo = nomi.front();
+        scritta.inBreve.assign(nomi.begin() + 1, nomi.end());
+        if (fuori) {
             const double fine = x + tela_.larghezza(scritta.testo, corpo) + 0.3 * q_.em;
             scritta.richiamo =
                 Linea{{{fine, y}, {larghezzaNomi * q_.xMonte + 0.6 * q_.em, centro(s, alto)}},
                       {Ruolo::testoTenue},
                       0.8};
         } else {
-            scritta.testo = nome(larghezzaLibera);
-            for (const double parte : {larghezzaMedia, larghezzaNomi})
-                if (std::string breve = nome(parte); breve != scritta.testo)
-                    scritta.inBreve.push_back(std::move(breve));
             // Elsewhere in the layer.
             for (double d = 0.7 * q_.em; d < letto - tetto; d += 0.7 * q_.em)
                 for (const double dove : {y - d, y + d})
@@ -197,6 +193,27 @@ class Terreno {
             scritta.posti.push_back({{q_.xMonte - q_.em, y}, Ancora::destra, fondo});
         }
         tela_.scrivi(std::move(scritta));
+    }
+
+    // The name of a layer, as long as there is room for. In a narrow place little would be left of
+    // it: its number there.
+    [[nodiscard]] std::vector<std::string> formeNome(const StratoMostrato& s, bool fuori, double x,
+                                                     double corpo) const {
+        const std::string intero = nomeCorto(s.descrizione);
+        const auto entro = [&](double parte) {
+            return accorciato(intero, parte * q_.xMonte - x, corpo, false, tela_.misura());
+        };
+        if (q_.stretta) {
+            const std::string numero = base::traduttore("strato") + " " + std::to_string(s.numero);
+            if (fuori || entro(larghezzaLibera) != intero) return {numero};
+            return {intero, numero};
+        }
+        if (fuori) return {entro(larghezzaNomi)};
+        std::vector<std::string> forme{entro(larghezzaLibera)};
+        for (const double parte : {larghezzaMedia, larghezzaNomi})
+            if (std::string breve = entro(parte); breve != forme.front())
+                forme.push_back(std::move(breve));
+        return forme;
     }
 
     // Of the uphill side.

@@ -1,4 +1,6 @@
 #include <cmath>
+#include <utility>
+#include <vector>
 
 #include "analysis/pressure_coefficients.hpp"
 #include "scene/parts.hpp"
@@ -12,7 +14,7 @@ bool agisce(double valore) { return disegnabile(valore) && valore != 0; }
 
 class Testa {
  public:
-    Testa(const Inquadratura& q, Tela& tela) : q_(q), tela_(tela) {}
+    Testa(const Mostrata& m, const Inquadratura& q, Tela& tela) : m_(m), q_(q), tela_(tela) {}
 
     // Towards the excavation it draws the head, the other way it pushes it.
     void forza(double t) {
@@ -41,8 +43,14 @@ class Testa {
         }
         freccia(std::move(arco));
         const double x = q_.xMuro() + r + 0.5 * q_.em, y = yc - 0.6 * q_.em;
-        scrivi("M " + conUnita(tm, project::unita::momentoAlMetro),
-               {{{x, y}, Ancora::sinistra}, {{q_.xMuro() - r - 0.5 * q_.em, y}, Ancora::destra}});
+        std::vector<Posto> posti{{{x, y}, Ancora::sinistra}};
+        // Below the head, where the other two loads leave no room beside them.
+        for (const double giu : {0.8, 2.2})
+            posti.push_back({{q_.xSezione - 0.15 * q_.em, q_.yTesta + giu * q_.em},
+                             Ancora::destra,
+                             fondoValle(m_, q_, q_.yTesta + giu * q_.em)});
+        posti.push_back({{q_.xMuro() - r - 0.5 * q_.em, y}, Ancora::destra});
+        scrivi("M " + conUnita(tm, project::unita::momentoAlMetro), std::move(posti));
     }
 
  private:
@@ -55,10 +63,11 @@ class Testa {
                       .elemento = Elemento::caricoTesta,
                       .testo = std::move(testo),
                       .tinta = {Ruolo::carico},
-                      .corpo = q_.em,
+                      .corpo = q_.stretta ? 0.85 * q_.em : q_.em,
                       .posti = std::move(posti)});
     }
 
+    const Mostrata& m_;
     const Inquadratura& q_;
     Tela& tela_;
 };
@@ -68,7 +77,7 @@ class Testa {
 void disegnaCarichiTesta(const Mostrata& m, const Inquadratura& q, Tela& tela) {
     if (m.lunghezza == 0) return;
     const auto& d = m.dati();
-    Testa testa(q, tela);
+    Testa testa(m, q, tela);
     if (agisce(d.momentoTesta)) testa.momento(d.momentoTesta);
     if (agisce(d.sforzoNormale)) testa.assiale(d.sforzoNormale);
     if (agisce(d.forzaTesta)) testa.forza(d.forzaTesta);

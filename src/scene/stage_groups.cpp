@@ -63,7 +63,7 @@ std::vector<GruppoFasi> gruppiFasi(std::vector<SegniFase> segni, double vicini) 
 }
 
 std::string nomeFasi(const std::vector<int>& fasi) {
-    if (fasi.size() == 1) return std::to_string(fasi.front());
+    if (fasi.size() == 1) return base::traduttore("fase") + " " + std::to_string(fasi.front());
     std::string testo;
     for (std::size_t da = 0; da < fasi.size();) {
         std::size_t a = da;

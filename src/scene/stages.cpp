@@ -1,10 +1,13 @@
+#include <algorithm>
 #include <cmath>
 #include <map>
 #include <string>
+#include <vector>
 
 #include "base/translated_texts.hpp"
 #include "scene/parts.hpp"
 #include "scene/shown_values.hpp"
+#include "scene/stage_groups.hpp"
 
 namespace korven::scene {
 
@@ -23,6 +26,25 @@ double fineLivelli(const Inquadratura& q) {
 bool caricoDavanti(const Mostrata& m) {
     const double t = m.fase > 0 ? m.dati().sovraccFase[m.fase] : 0;
     return disegnabile(t) && t != 0;
+}
+
+std::string numeri(const std::vector<int>& fasi) {
+    std::string testo;
+    for (const int k : fasi) testo += (testo.empty() ? "" : ", ") + std::to_string(k);
+    return testo;
+}
+
+std::string intero(const std::vector<int>& fasi, double z) {
+    return nomeFasi(fasi) + "  " + quota(z);
+}
+
+// In a narrow place all levels say that they are stages, or none does.
+bool perIntero(const std::map<double, std::vector<int>>& livelli, const Inquadratura& q,
+               double corpo, const Tela& tela) {
+    const double posto = fineLivelli(q) - q.xValle - 0.6 * q.em;
+    return !q.stretta || std::all_of(livelli.begin(), livelli.end(), [&](const auto& livello) {
+        return tela.larghezza(intero(livello.second, livello.first), corpo, true) <= posto;
+    });
 }
 
 // A dimension between two depths, its length written along it.
@@ -58,20 +80,18 @@ void dimensione(const Mostrata& m, const Inquadratura& q, double da, double a, d
 void disegnaFasi(const Mostrata& m, const Inquadratura& q, Tela& tela) {
     // Stages of one depth, to the centimetre, share a line.
     const bool soloQuesta = q.stretta && m.vista.fase > 0;
-    std::map<double, std::string> livelli;
+    std::map<double, std::vector<int>> livelli;
     for (int k = 1; k <= m.nFasi(); ++k) {
         const double z = m.dati().profFase[k];
-        if (!disegnabile(z) || (soloQuesta && k != m.fase)) continue;
-        std::string& nomi = livelli[alCentimetro(z)];
-        nomi += (nomi.empty() ? "" : ", ") + std::to_string(k);
+        if (disegnabile(z) && !(soloQuesta && k != m.fase)) livelli[alCentimetro(z)].push_back(k);
     }
-    const double fine = fineLivelli(q);
-    for (const auto& [z, nomi] : livelli) {
+    const double fine = fineLivelli(q), corpo = 0.9 * q.em;
+    const bool interi = perIntero(livelli, q, corpo, tela);
+    for (const auto& [z, fasi] : livelli) {
         const double y = q.y(z);
         if (!q.visibile(y)) continue;
         const bool mostrato = z == alCentimetro(m.scavo);
-        const int primo = std::atoi(nomi.c_str());
-        tela.disegna(Elemento::fase, primo,
+        tela.disegna(Elemento::fase, fasi.front(),
                      Linea{{{q.xValle, y}, {fine, y}}, {Ruolo::fase}, 1, Tratteggio::linee});
         std::vector<Posto> posti;
         const auto posto = [&](double su) {
@@ -81,16 +101,14 @@ void disegnaFasi(const Mostrata& m, const Inquadratura& q, Tela& tela) {
         for (const double su : {-0.8, 0.8}) posto(su);
         if (q.stretta && mostrato && caricoDavanti(m)) posto(-sopraCarico);
         posto(0);
-        const std::string nome = soloQuesta  ? std::string()
-                                 : q.stretta ? nomi + "  "
-                                             : base::traduttore("fase") + " " + nomi + "  ";
+        const std::string breve = soloQuesta ? quota(z) : numeri(fasi) + "  " + quota(z);
         tela.scrivi({.grado = Grado::fase,
                      .elemento = Elemento::fase,
-                     .numero = primo,
-                     .testo = nome + quota(z),
-                     .inBreve = {(soloQuesta ? "" : nomi + "  ") + quota(z)},
+                     .numero = fasi.front(),
+                     .testo = interi && !soloQuesta ? intero(fasi, z) : breve,
+                     .inBreve = {breve},
                      .tinta = {mostrato ? Ruolo::testo : Ruolo::fase},
-                     .corpo = 0.9 * q.em,
+                     .corpo = corpo,
                      .grassetto = mostrato,
                      .posti = std::move(posti)});
     }

@@ -134,7 +134,7 @@ TEST(Scena, NamesAllStagesAtTheirLevels) {
 
 TEST(Scena, GivesStagesOfOneDepthOneLine) {
     const auto s = scenaDi(muro().fase({.scavo = 2}).fase({.scavo = 2.001}).dati(), {1});
-    EXPECT_TRUE(dice(testi(s, Elemento::fase), "fase 1, 2  2.00 m"));
+    EXPECT_TRUE(dice(testi(s, Elemento::fase), "fasi 1, 2  2.00 m"));
 }
 
 TEST(Scena, MeasuresLengthExcavationAndEmbedment) {
@@ -328,6 +328,24 @@ TEST(Scena, InANarrowPlaceHasNoDimensionsAndOfAStageItsOwnLevelAlone) {
     const Scena tutte = scena(parete, {0}, {140, 360}, MisuraStimata(), stretta);
     EXPECT_TRUE(dice(testi(tutte, Elemento::fase), "1  2.00 m"));
     EXPECT_TRUE(dice(testi(tutte, Elemento::fase), "2  5.00 m"));
+}
+
+// All three loads of the head, and layers whose names have no room.
+TEST(Scena, InANarrowPlaceNamesLayersWholeOrByTheirNumberAndKeepsTheLoadsOfTheHead) {
+    auto dati = test::progettoSemplice();
+    dati.descrStrato[1] = "Sabbia limosa da fine a media ben addensata";
+    dati.momentoTesta = -1;
+    dati.sforzoNormale = 8;
+    dati.forzaTesta = 1.5;
+    const auto parete = live::calcola(dati, 40);
+    const Opzioni stretta{.curva = false, .stretta = true, .parole = false};
+    const Scena s = scena(parete, {2}, {260, 360}, MisuraStimata(), stretta);
+    EXPECT_EQ(testi(s, Elemento::strato).at(0), "strato 1");
+    EXPECT_EQ(testi(s, Elemento::caricoTesta).size(), 3U);
+    EXPECT_TRUE(dice(testi(s, Elemento::caricoTesta), "M -10.0 kN m/m"));
+    const Scena larga = scena(parete, {0}, {300, 360}, MisuraStimata(), stretta);
+    EXPECT_TRUE(dice(testi(larga, Elemento::fase), "fase 1  2.00 m")) << "all levels or none";
+    EXPECT_TRUE(dice(testi(larga, Elemento::fase), "fase 2  5.00 m"));
 }
 
 TEST(Scena, CanDoWithoutTheCurve) {

@@ -17,10 +17,10 @@ TEST(GruppiFasi, HaveTheStagesWhoseMarksLieTogether) {
                     {2, {{0, 20}}, tinta},
                     {3, {{0, 28}}, tinta},
                     {4, {{0, 22}}, tinta}}),
-              (std::vector<std::string>{"fasi 2–4", "1"}));
+              (std::vector<std::string>{"fasi 2–4", "fase 1"}));
     // A row of marks, each near the next, is no heap.
     EXPECT_EQ(nomi({{1, {{0, 0}}, tinta}, {2, {{0, 8}}, tinta}, {3, {{0, 16}}, tinta}}),
-              (std::vector<std::string>{"fasi 1, 2", "3"}));
+              (std::vector<std::string>{"fasi 1, 2", "fase 3"}));
 }
 
 TEST(GruppiFasi, PartWhatHasAnotherColourOrLiesApartAtItsOtherEnd) {
@@ -38,11 +38,11 @@ TEST(GruppiFasi, LieInTheMiddleOfTheirMarks) {
 
 // Both ends of a stage may lie in one heap.
 TEST(GruppiFasi, NameAStageOnce) {
-    EXPECT_EQ(nomi({{1, {{0, 0}}, {}}, {1, {{0, 2}}, {}}}), std::vector<std::string>{"1"});
+    EXPECT_EQ(nomi({{1, {{0, 0}}, {}}, {1, {{0, 2}}, {}}}), std::vector<std::string>{"fase 1"});
 }
 
 TEST(NomeFasi, JoinsRuns) {
-    EXPECT_EQ(nomeFasi({7}), "7");
+    EXPECT_EQ(nomeFasi({7}), "fase 7");
     EXPECT_EQ(nomeFasi({1, 2}), "fasi 1, 2");
     EXPECT_EQ(nomeFasi({1, 3, 4, 5, 9, 10}), "fasi 1, 3–5, 9, 10");
 }

@@ -33,12 +33,13 @@ using scene::Scena;
 using scene::Tela;
 
 constexpr double em = corpoCarta;
-constexpr double sezioneMinima = 13 * em;   // width of the wall in section
-constexpr double sezioneConNomi = 23 * em;  // with the names of the layers and their states whole
-constexpr double quotaSezione = 0.28;       // of the whole width
-constexpr double piedeVeduta = 1.8 * em;    // below the ground of the view
-constexpr double numeri = 2.6 * em;         // for the depths
-constexpr double distanza = 1.1 * em;       // of panels
+constexpr double sezioneMinima = 13 * em;      // width of the wall in section
+constexpr double sezioneConMomento = 16 * em;  // with the moment at the head beside the other loads
+constexpr double sezioneConNomi = 21.5 * em;   // with the names of layers and stages whole
+constexpr double quotaSezione = 0.28;          // of the whole width
+constexpr double piedeVeduta = 1.8 * em;       // below the ground of the view
+constexpr double numeri = 2.6 * em;            // for the depths
+constexpr double distanza = 1.1 * em;          // of panels
 
 void unisci(Scena& scena, std::vector<Primitiva> altre) {
     std::move(altre.begin(), altre.end(), std::back_inserter(scena.primitive));
@@ -57,7 +58,7 @@ void disponi(Pannelli& pannelli, const std::vector<DatiPannello>& dati,
     }
 }
 
-// Anchors in place with their forces, in rows below the wall.
+// Anchors in place with their forces, in rows below the wall, and what those are that are not.
 class ElencoTiranti {
  public:
     // @param fase  0: the largest of all stages
@@ -76,26 +77,33 @@ class ElencoTiranti {
             }
         colonne_ = massimo + 0.8 * em < largo / 2 ? 2 : 1;
         colonna_ = largo / static_cast<double>(colonne_);
+        if (fase > 0 && m.tirantiInOpera() < m.nTiranti())
+            futuri_ = base::traduttore("in grigio: non ancora in opera");
     }
     [[nodiscard]] double altezza() const {
-        const std::size_t righe = (testi_.size() + colonne_ - 1) / colonne_;
-        return riga * static_cast<double>(righe);
+        return riga * static_cast<double>(righe() + (futuri_.empty() ? 0 : 1));
     }
     void scrivi(double y, Tela& tela) const {
-        for (std::size_t i = 0; i < testi_.size(); ++i) {
-            const std::size_t sopra = i / colonne_;
-            tela.scrivi({.testo = testi_[i],
-                         .tinta = {Ruolo::tirante},
+        const auto testo = [&](const std::string& parole, Ruolo ruolo, double x,
+                               std::size_t sopra) {
+            tela.scrivi({.testo = parole,
+                         .tinta = {ruolo},
                          .corpo = corpoPiccolo,
-                         .posti = {{{0.4 * em + colonna_ * static_cast<double>(i % colonne_),
-                                     y + riga * (static_cast<double>(sopra) + 0.5)},
+                         .posti = {{{0.4 * em + x, y + riga * (static_cast<double>(sopra) + 0.5)},
                                     Ancora::sinistra}}});
-        }
+        };
+        for (std::size_t i = 0; i < testi_.size(); ++i)
+            testo(testi_[i], Ruolo::tirante, colonna_ * static_cast<double>(i % colonne_),
+                  i / colonne_);
+        if (!futuri_.empty()) testo(futuri_, Ruolo::testoTenue, 0, righe());
     }
 
  private:
+    [[nodiscard]] std::size_t righe() const { return (testi_.size() + colonne_ - 1) / colonne_; }
+
     static constexpr double riga = 1.25 * em;
     std::vector<std::string> testi_;
+    std::string futuri_;
     std::size_t colonne_ = 1;
     double colonna_ = 0;
 };
@@ -146,7 +154,8 @@ std::vector<double> scaviDi(const project::DatiProgetto& dati, int da, int a) {
 Scena scenaFase(const live::PareteViva& parete, int fase, double larghezza, double altezza) {
     constexpr double largaPressioni = 9.5, larga = 8;  // weights
     return conPannelli(parete, fase, scaviDi(parete.dati, fase, fase), pannelliFase(parete, fase),
-                       {largaPressioni, larga, larga, larga}, misuraCarta(larghezza, altezza));
+                       {largaPressioni, larga, larga, larga}, misuraCarta(larghezza, altezza),
+                       parete.dati.momentoTesta != 0 ? sezioneConMomento : sezioneMinima);
 }
 
 Scena scenaMeccanismo(const live::PareteViva& parete, int fase, const PressioniLimite& pressioni,
@@ -176,7 +185,8 @@ Scena scenaMeccanismo(const live::PareteViva& parete, int fase, const PressioniL
 
 Scena scenaInviluppi(const live::PareteViva& parete, double larghezza, double altezza) {
     return conPannelli(parete, 0, scaviDi(parete.dati, 1, parete.dati.nFasi),
-                       pannelliInviluppo(parete), {1, 1, 1}, misuraCarta(larghezza, altezza));
+                       pannelliInviluppo(parete), {1, 1, 1}, misuraCarta(larghezza, altezza),
+                       sezioneConNomi);
 }
 
 Scena scenaConfronto(const MuroDetto& a, const MuroDetto& b, double larghezza, double altezza) {
