@@ -1,60 +1,42 @@
 // What must hold of every drawing of a document, of any wall and in all languages: texts inside it,
-// none over another, large enough to be read on paper; the peaks of the curves with their values.
+// none over another, large enough to be read on paper.
 
 #include "drawings/annex/annex_drawings.hpp"
 
 #include <algorithm>
-#include <cmath>
 #include <limits>
-#include <map>
-#include <set>
-#include <sstream>
 #include <string>
-#include <utility>
 #include <vector>
 
-#include "base/translated_texts.hpp"
-#include "drawings/annex/domain_figure.hpp"
-#include "drawings/annex/paper.hpp"
-#include "drawings/annex/plot_strokes.hpp"
 #include "drawings/annex/section_figure.hpp"
-#include "drawings/annex/wall_curves.hpp"
 #include "drawings/annex/wall_to_scale.hpp"
-#include "drawings/hatch_library.hpp"
 #include "live/section_checks.hpp"
-#include "live/slow_results.hpp"
-#include "project/shown_number.hpp"
-#include "project/units.hpp"
-#include "support/drawing_by_pen.hpp"
+#include "support/annex_drawings.hpp"
 #include "support/random_walls.hpp"
 #include "support/sample_projects.hpp"
-#include "support/scene_parts.hpp"
-#include "support/wall_files.hpp"
 
 namespace korven::drawings {
 namespace {
 
 using scene::Elemento;
-using scene::Riquadro;
 using scene::Scena;
 using scene::Testo;
 
-constexpr int segmenti = 30;
-
-// Texts of a drawing against each other and its frame.
-void verifica(const Scena& s, const std::string& dove) {
-    const auto testi = test::figure<Testo>(s);
-    for (std::size_t i = 0; i < testi.size(); ++i) {
-        const Riquadro r = testi[i].riquadro();
-        EXPECT_TRUE(r.sinistra >= 0 && r.destra <= s.larghezza && r.alto >= 0 &&
-                    r.basso <= s.altezza)
-            << dove << testi[i].testo;
-        EXPECT_GE(testi[i].corpo * altezzaMaiuscole / pixelCarta, 0.2) << dove << testi[i].testo;
-        for (std::size_t j = 0; j < i; ++j)
-            EXPECT_FALSE(r.tocca(testi[j].riquadro()))
-                << dove << testi[i].testo << " | " << testi[j].testo;
+class DisegniAllegato : public ProvaDisegniAllegato {
+ protected:
+    void verificaParete(const live::PareteViva& parete, const std::string& dove) {
+        for (int k = 1; k <= parete.dati.nFasi; ++k)
+            verifica(scenaFase(parete, k, formatoFase.larghezza, formatoFase.altezza),
+                     dove + " fase " + std::to_string(k) + " ");
+        verifica(scenaInviluppi(parete, formatoInviluppi.larghezza, formatoInviluppi.altezza),
+                 dove + " inviluppi ");
+        verifica(scenaParete(parete, formatoParete.larghezza, formatoParete.altezza),
+                 dove + " parete ");
+        verifica(
+            scenaSezione(parete.dati.sezione, formatoSezione.larghezza, formatoSezione.altezza),
+            dove + " sezione ");
     }
-}
+};
 
 // The stored drawing stays in its place and needs no spill file.
 void verificaStore(const FormatoFigura& f, const std::string& dove) {
@@ -71,41 +53,6 @@ void verificaStore(const FormatoFigura& f, const std::string& dove) {
         << dove;
     for (const plot::TestoPlot& t : archivio.testi()) EXPECT_TRUE(inside(t.x, t.y)) << dove;
 }
-
-class DisegniAllegato : public test::ProvaPlot {
- protected:
-    DisegniAllegato() {
-        const std::string cartella = KORVEN_PROGRAM_FOLDER;
-        base::caricaTesti(cartella + "/texts01.txt", cartella + "/texts06.txt",
-                          cartella + "/texts32.txt");
-        base::impostaCartellaProgramma(cartella);  // with its hatches
-        dimenticaCampiture();
-    }
-    ~DisegniAllegato() override {
-        base::impostaLingua(1);
-        dimenticaCampiture();
-    }
-
-    void verificaParete(const live::PareteViva& parete, const std::string& dove) {
-        for (int k = 1; k <= parete.dati.nFasi; ++k)
-            verifica(scenaFase(parete, k, formatoFase.larghezza, formatoFase.altezza),
-                     dove + " fase " + std::to_string(k) + " ");
-        verifica(scenaInviluppi(parete, formatoInviluppi.larghezza, formatoInviluppi.altezza),
-                 dove + " inviluppi ");
-        verifica(scenaParete(parete, formatoParete.larghezza, formatoParete.altezza),
-                 dove + " parete ");
-        verifica(
-            scenaSezione(parete.dati.sezione, formatoSezione.larghezza, formatoSezione.altezza),
-            dove + " sezione ");
-    }
-
-    static std::vector<project::DatiProgetto> esempi() {
-        std::vector<project::DatiProgetto> tutti;
-        for (const auto& file : test::muriIn(KORVEN_EXAMPLES))
-            tutti.push_back(test::leggiMuro(file));
-        return tutti;
-    }
-};
 
 TEST_F(DisegniAllegato, OfTheExamplesHaveNoTextOverAnotherInAnyLanguage) {
     for (const auto& dati : esempi()) {
@@ -126,249 +73,6 @@ TEST_F(DisegniAllegato, OfAnyWallHaveNoTextOverAnother) {
     }
     for (const auto& file : test::muriIn(KORVEN_WALLS))
         verificaParete(live::calcola(test::leggiMuro(file), segmenti), file);
-}
-
-// Beside a wall that falls stand the limits of both sides, on its own depths.
-TEST_F(DisegniAllegato, OfAMechanismHaveTheLimitPressuresInAllLanguages) {
-    auto dati = test::progettoSemplice();
-    dati.profFase[2] = 11.9;
-    dati.tirantiFase[2] = 0;
-    const auto parete = live::calcola(dati, segmenti);
-    ASSERT_EQ(parete.fasiInEquilibrio(), 1);
-    PressioniLimite p;
-    for (int i = 0; i <= segmenti; ++i) {
-        p.monte.push_back(0.3 * i);
-        p.valle.push_back(i < segmenti / 2 ? 0 : -3.0 * i);
-        p.acqua.push_back(0);
-    }
-    for (int lingua = 1; lingua <= 6; ++lingua) {
-        base::impostaLingua(lingua);
-        const Scena s = scenaMeccanismo(parete, 2, p, formatoFase.larghezza, formatoFase.altezza);
-        verifica(s, std::to_string(lingua));
-        std::string testi;
-        for (const Testo& t : test::figure<Testo>(s)) testi += t.testo + "\n";
-        EXPECT_NE(testi.find("-900"), std::string::npos) << testi;  // kN/m2 at the toe
-    }
-}
-
-// In particular of a wall whose ground ends above its toe.
-TEST_F(DisegniAllegato, NameEachLineOfThePressuresAndGiveItAStrokeOfItsOwn) {
-    std::size_t piu = 0;
-    auto muri = esempi();
-    for (const auto& file : test::muriIn(KORVEN_WALLS)) muri.push_back(test::leggiMuro(file));
-    for (const auto& dati : muri) {
-        const auto parete = live::calcola(dati, segmenti);
-        for (int k = 1; k <= parete.fasiInEquilibrio(); ++k) {
-            std::vector<std::string> testi;
-            for (const Testo& t : test::figure<Testo>(
-                     scenaFase(parete, k, formatoFase.larghezza, formatoFase.altezza)))
-                testi.push_back(t.testo);
-            const auto curve = pannelliFase(parete, k).at(0).curve;
-            std::set<scene::Tratteggio> tratti;
-            for (const CurvaPannello& c : curve) {
-                EXPECT_EQ(std::count(testi.begin(), testi.end(), c.nome), 1)
-                    << dati.titoli[1] << k << c.nome;
-                tratti.insert(c.tratteggio);
-            }
-            EXPECT_EQ(tratti.size(), curve.size());
-            piu = std::max(piu, curve.size());
-        }
-    }
-    EXPECT_EQ(piu, 3U) << "some wall has water";
-}
-
-struct Picco {
-    double valore, z;
-};
-
-// Largest and smallest value of a curve and their depths, if they are more than noise.
-std::vector<Picco> picchi(const std::vector<double>& valori, double h) {
-    std::vector<Picco> tutti;
-    double grande = 0;
-    for (const double v : valori) grande = std::max(grande, std::fabs(v));
-    for (const double verso : {1.0, -1.0}) {
-        std::size_t dove = 0;
-        for (std::size_t i = 1; i < valori.size(); ++i)
-            if (verso * valori[i] > verso * valori[dove]) dove = i;
-        if (verso * valori[dove] > 0.005 * grande)
-            tutti.push_back({valori[dove], h * static_cast<double>(dove)});
-    }
-    return tutti;
-}
-
-std::string scritto(const Picco& picco, const project::Unita& unita) {
-    return project::numeroMostrato(picco.valore, 1, unita) + " · " +
-           project::numeroMostrato(picco.z, 2) + " m";
-}
-
-// What is written at each peak, its rows as one.
-std::vector<std::string> scritteAiPicchi(const Scena& s) {
-    std::map<int, std::string> tutte;
-    for (const auto& p : s.primitive) {
-        const auto* t = std::get_if<Testo>(&p.figura);
-        if (t == nullptr || p.elemento != Elemento::estremo) continue;
-        std::string& una = tutte[p.numero];
-        una += (una.empty() ? "" : " · ") + t->testo;
-    }
-    std::vector<std::string> scritte;
-    for (const auto& [numero, una] : tutte) scritte.push_back(una);
-    return scritte;
-}
-
-// The shears above and below each node, one behind the other.
-std::vector<double> dueLati(const equilibrium::FaseEquilibrio& fase) {
-    std::vector<double> tutti;
-    for (std::size_t i = 0; i < fase.y.size(); ++i) {
-        tutti.push_back(fase.taglioSopra[i]);
-        tutti.push_back(fase.taglioSotto[i]);
-    }
-    return tutti;
-}
-
-TEST_F(DisegniAllegato, WriteThePeaksOfEveryStageWithTheirDepthsClearOfTheCurves) {
-    for (const auto& dati : esempi()) {
-        const auto parete = live::calcola(dati, segmenti);
-        for (int k = 1; k <= parete.fasiInEquilibrio(); ++k) {
-            const auto& fase = *parete.fase(k);
-            const Scena s = scenaFase(parete, k, formatoFase.larghezza, formatoFase.altezza);
-            const auto scritte = scritteAiPicchi(s);
-            const std::vector<double> taglio = dueLati(fase);
-            using Voce = std::pair<const std::vector<double>*, project::Unita>;
-            namespace unita = project::unita;
-            for (const auto& [valori, una] :
-                 {Voce{&fase.y, unita::spostamentoFine}, Voce{&fase.momento, unita::momentoAlMetro},
-                  Voce{&fase.monte, unita::pressione}, Voce{&fase.valle, unita::pressione}})
-                for (const Picco& picco : picchi(*valori, parete.h))
-                    EXPECT_TRUE(test::dice(scritte, scritto(picco, una)))
-                        << dati.titoli[1] << " fase " << k << ": " << scritto(picco, una);
-            for (Picco picco : picchi(taglio, 1)) {
-                picco.z = parete.h * std::floor(picco.z / 2);
-                EXPECT_TRUE(test::dice(scritte, scritto(picco, unita::forzaAlMetro)))
-                    << dati.titoli[1] << " fase " << k << ": "
-                    << scritto(picco, unita::forzaAlMetro);
-            }
-            for (const auto& curva : test::figure<scene::Linea>(s, Elemento::curva))
-                for (const Testo& t : test::figure<Testo>(s, Elemento::estremo))
-                    for (const scene::Punto& p : curva.punti) {
-                        const Riquadro r = t.riquadro();
-                        EXPECT_FALSE(p.x > r.sinistra && p.x < r.destra && p.y > r.alto &&
-                                     p.y < r.basso)
-                            << dati.titoli[1] << " fase " << k << ": " << t.testo;
-                    }
-        }
-    }
-}
-
-// How often a stage is named: "3", "fasi 1, 3–5".
-std::map<int, int> quanteVolte(const std::vector<Testo>& testi) {
-    std::map<int, int> volte;
-    for (const Testo& t : testi) {
-        std::istringstream parole(t.testo.substr(t.testo.find_first_of("0123456789")));
-        for (std::string pezzo; std::getline(parole, pezzo, ',');) {
-            const std::size_t tratto = pezzo.find("–");
-            const int da = std::stoi(pezzo);
-            const int a = tratto == std::string::npos
-                              ? da
-                              : std::stoi(pezzo.substr(tratto + std::string_view("–").size()));
-            for (int k = da; k <= a; ++k) ++volte[k];
-        }
-    }
-    return volte;
-}
-
-// At both points of each stage, none of its numbers on the border.
-TEST_F(DisegniAllegato, NumberTheStagesInTheDomainClearOfItsBorder) {
-    for (const auto& dati : esempi()) {
-        if (!live::sezioneCalcolabile(dati.sezione)) continue;
-        const auto parete = live::calcola(dati, segmenti);
-        const auto fasi = live::fasiNelDominio(parete, nullptr);
-        const auto dominio = live::calcolaLenti({1, parete.dati, 0}).dominio;
-        const Scena s =
-            scenaDominioCarta(dominio, fasi, formatoDominio.larghezza, formatoDominio.altezza);
-        verifica(s, dati.titoli[1] + " dominio ");
-        const auto testi = test::figure<Testo>(s, Elemento::estremo);
-        auto numeri = quanteVolte(testi);
-        for (const Testo& t : testi) {
-            for (const auto& bordo : test::figure<scene::Linea>(s, Elemento::curva))
-                for (std::size_t i = 0; i + 1 < bordo.punti.size(); ++i)
-                    EXPECT_FALSE(dentro(bordo.punti[i], bordo.punti[i + 1], t.riquadro()))
-                        << dati.titoli[1] << ' ' << t.testo;
-        }
-        ASSERT_FALSE(fasi.empty());
-        for (const auto& fase : fasi)
-            EXPECT_TRUE(numeri[fase.fase] == 2 || (fase.fase == 1 && numeri[1] == 1))
-                << dati.titoli[1] << ' ' << fase.fase;
-    }
-}
-
-// The moments of twenty stages, the later ones the largest and close together.
-TEST_F(DisegniAllegato, NameHeapsOfStagesInTheDomainOnce) {
-    for (const auto& dati : esempi()) {
-        if (!live::sezioneCalcolabile(dati.sezione)) continue;
-        const auto parete = live::calcola(dati, segmenti);
-        auto fasi = live::fasiNelDominio(parete, nullptr);
-        ASSERT_FALSE(fasi.empty());
-        const live::FaseNelDominio ultima = fasi.back();
-        fasi.clear();
-        for (int k = 1; k <= 20; ++k) {
-            auto& una = fasi.emplace_back(ultima);
-            una.fase = k;
-            const double quota = 1 - std::pow(0.7, k);
-            una.momenti.mdMax *= quota;
-            una.momenti.mdMin *= quota;
-        }
-        const Scena s = scenaDominioCarta(live::calcolaLenti({1, parete.dati, 0}).dominio, fasi,
-                                          formatoDominio.larghezza, formatoDominio.altezza);
-        verifica(s, dati.titoli[1] + " dominio ");
-        const auto testi = test::figure<Testo>(s, Elemento::estremo);
-        EXPECT_LT(testi.size(), 30U) << dati.titoli[1];
-        auto numeri = quanteVolte(testi);
-        for (int k = 1; k <= 20; ++k) EXPECT_GE(numeri[k], 1) << dati.titoli[1] << ' ' << k;
-    }
-}
-
-TEST_F(DisegniAllegato, TellTheStageOfAnEnvelopesPeak) {
-    const auto parete = live::calcola(test::progettoSemplice(), segmenti);
-    ASSERT_TRUE(parete.sta());
-    const auto& estremo = parete.estremi.momento();
-    const auto testi = scritteAiPicchi(
-        scenaInviluppi(parete, formatoInviluppi.larghezza, formatoInviluppi.altezza));
-    EXPECT_TRUE(
-        test::dice(testi, scritto({estremo.valore, estremo.z}, project::unita::momentoAlMetro) +
-                              " · fase " + std::to_string(estremo.fase)))
-        << testing::PrintToString(testi);
-}
-
-TEST_F(DisegniAllegato, ShowAWallThatFallsAsAMechanismWithoutCurves) {
-    const auto parete =
-        live::calcola(test::leggiMuro(std::string(KORVEN_WALLS) + "/meccanismo.kvd"), segmenti);
-    ASSERT_FALSE(parete.sta());
-    const Scena s = scenaFase(parete, static_cast<int>(parete.fasi.size()), formatoFase.larghezza,
-                              formatoFase.altezza);
-    EXPECT_FALSE(test::figure<scene::Linea>(s, Elemento::meccanismo).empty());
-    EXPECT_TRUE(test::figure<scene::Linea>(s, Elemento::curva).empty());
-    const auto testi = test::testi(s, Elemento::asse);
-    EXPECT_EQ(std::count(testi.begin(), testi.end(), "nessuna curva"), 4);
-}
-
-TEST_F(DisegniAllegato, CompareTwoWallsOnOneAxis) {
-    const auto a = live::calcola(test::progettoSemplice(), segmenti);
-    auto dati = test::progettoSemplice();
-    dati.lunghezzaParatia = 15;
-    const auto b = live::calcola(dati, segmenti);
-    for (const FormatoFigura& f : {formatoConfronto, formatoConfrontoLargo}) {
-        const Scena s = scenaConfronto({a, "prima.kvd"}, {b, "dopo.kvd"}, f.larghezza, f.altezza);
-        verifica(s, "confronto ");
-        const auto testi = scritteAiPicchi(s);
-        for (const auto* parete : {&a, &b}) {
-            const auto& e = parete->estremi.momento();
-            EXPECT_TRUE(
-                test::dice(testi, (parete == &a ? "A " : "B ") +
-                                      scritto({e.valore, e.z}, project::unita::momentoAlMetro)));
-        }
-        EXPECT_TRUE(test::dice(test::testi(s, Elemento::nota), "A  prima.kvd"));
-        EXPECT_TRUE(test::dice(test::testi(s, Elemento::nota), "B  dopo.kvd"));
-    }
 }
 
 // The bar of the scale is as long on paper as it says, in all its numbers.
