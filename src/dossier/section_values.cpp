@@ -72,6 +72,25 @@ LatoFlessione lato(const SezioneStrisce& s, double Nd, int k) {
     return l;
 }
 
+// Less than this share more or less is what the search of the resistance leaves open.
+constexpr double differenzaMinima = 1e-3;
+
+// k as for `statoLimite`.
+void conAltriSforzi(const SezioneStrisce& s, double sforzoNormale, int k, LatoFlessione& l) {
+    if (sforzoNormale == 0 || !(l.MRd > 0)) return;
+    bool minore = false;
+    for (const double volte : {1.0, 0.0}) {
+        ConAltroSforzo altro;
+        altro.volte = volte;
+        altro.Nd = volte * project::newton * sforzoNormale;
+        altro.MRd = k * structure::statoLimite(s.modello, k, s.H, s.punti, altro.Nd).M;
+        altro.uso = uso(l.Md, altro.MRd);
+        minore = minore || altro.MRd < l.MRd * (1 - differenzaMinima);
+        l.altri.push_back(altro);
+    }
+    if (!minore) l.altri.clear();
+}
+
 void confronta(const live::ControlliSezione& controlli, ValoriFlessione& v) {
     if (!controlli.flessione) return;
     const results::ConfrontoMomenti& c = *controlli.flessione;
@@ -93,6 +112,13 @@ void aree(const structure::ModelloStrisce& m, ValoriFlessione& v) {
 }
 
 }  // namespace
+
+std::optional<double> LatoFlessione::usoMaggiore() const {
+    std::optional<double> maggiore = uso;
+    for (const ConAltroSforzo& altro : altri)
+        if (altro.uso && (!maggiore || *altro.uso > *maggiore)) maggiore = altro.uso;
+    return maggiore;
+}
 
 std::optional<ValoriFlessione> valoriFlessione(const project::DatiProgetto& dati,
                                                const live::ControlliSezione& controlli) {
@@ -118,6 +144,8 @@ std::optional<ValoriFlessione> valoriFlessione(const project::DatiProgetto& dati
     v.positivo = lato(*s, v.Nd, -1);
     v.negativo = lato(*s, v.Nd, 1);
     confronta(controlli, v);
+    conAltriSforzi(*s, v.sforzoNormale, -1, v.positivo);
+    conAltriSforzi(*s, v.sforzoNormale, 1, v.negativo);
     return v;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <vector>
 
 #include "live/section_checks.hpp"
 #include "structure/axial_resistance.hpp"
@@ -24,6 +25,14 @@ enum class LimiteSezione {
     allungamento,   ///< 0.01 of elongation at the steel
 };
 
+/// A direction of bending under an axial force without the factor of actions.
+struct ConAltroSforzo {
+    double volte = 0;  ///< what the axial force of the project is multiplied by
+    double Nd = 0;     ///< [N]
+    double MRd = 0;    ///< as in `LatoFlessione` [N mm]
+    std::optional<double> uso;
+};
+
 /// One metre of wall at its resistance in one direction of bending. The internal forces are those
 /// of the strips: compression less tension is Nd, and with Nd at its place `yNd` they make up MRd.
 struct LatoFlessione {
@@ -41,6 +50,12 @@ struct LatoFlessione {
     /// Md over MRd; nothing without a resistance or where no such moment acts.
     std::optional<double> uso;
     bool verificato = false;
+    /// With the axial force as the project has it, and with none. Empty where neither leaves less
+    /// than `MRd`: elsewhere the force helps, and its factor of actions is not on the safe side.
+    std::vector<ConAltroSforzo> altri;
+
+    /// The largest share of the resistance, under the design axial force or another.
+    [[nodiscard]] std::optional<double> usoMaggiore() const;
 };
 
 struct ValoriFlessione {

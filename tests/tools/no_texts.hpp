@@ -528,7 +528,10 @@ inline const std::map<std::string, Texts> noTexts = {
     {"safety/words.cpp", {"korven32c"}},
     {"shell/forms/history_keys.cpp", {"&Undo", "&Redo"}},  // Qt's own texts
     {"safety/words.hpp", {"equilibrio", "equilibrium"}},
-    {"report/annex/bending_tables.cpp", {"NRd,c", "NRd,t", "MRd"}},
+    {"report/annex/bending_tables.cpp",
+     {"NRd,c", "NRd,t", "MRd", "Nd, MRd", "fcd", "σs = Es ε,  -fyd ≤ σs ≤ fyd",
+      "σc = 0.85 fcd · 1000 ε · (1 + 250 ε),  -0.002 ≤ ε < 0;   σc = -0.85 fcd,  ε < -0.002;   σc "
+      "= 0,  ε ≥ 0;"}},
     {"report/annex/section_rows.hpp", {"mm²"}},
     {"report/annex/section_rows.cpp", {"fcd", "fck", "γc", "fyd", "fyk", "γs", "γF"}},
     {"report/annex/shear_rules.cpp", {"γc", "ρl", "σcp", "τRd k (1.2 + 40 ρl) + 0.15 σcp"}},
@@ -561,7 +564,7 @@ inline const std::map<std::string, Texts> noTexts = {
       "%1 · (%2³/12 + (%3 − 1) · (%4 + %5)) / 10⁶",
       "(π/4) · (%1 · (%2/2)⁴ + %3 · ((%4/2)⁴ − (%2/2)⁴)) / %5 / 10⁶",
       "%1 · (%2 · %3³ − %4 · %5³) / 12 / %6 / 10⁶", "%1 / cos(arctan(%2 / %3))", "%1/2 − %2 − %3/2",
-      "Σ (a² π d²/4 + π d⁴/64)", "(%1 · π · %2⁴/64 + (%3 − %1) · %4) / %5 / 10⁶"}},
+      "Σ (a² π dl²/4 + π dl⁴/64)", "(%1 · π · %2⁴/64 + (%3 − %1) · %4) / %5 / 10⁶"}},
     {"report/annex/shear_tables.cpp",
      {"fctk", "fck", "τRd", "γc", "Asl", "ρl", "VRd1", "σcp", "fcd", "VRd2", "Asw", "fyd", "Vwd",
       "VRd3", "VSd", "VRd2'", "VRd3'"}},

@@ -1,9 +1,13 @@
 #include <vector>
 
+#include "base/filled_text.hpp"
+#include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
+#include "project/shown_number.hpp"
 #include "report/annex/columns.hpp"
 #include "report/annex/section_tables.hpp"
 #include "report/annex/table_pieces.hpp"
+#include "structure/partial_factors.hpp"
 #include "tables/check_table.hpp"
 #include "tables/quantities.hpp"
 
@@ -35,13 +39,25 @@ std::vector<Cella> riga(const Controllo& c, bool conAzioni) {
         riga.insert(riga.end(), {manca, numero(c.resistenza), manca, manca, manca, manca});
         return riga;
     }
-    riga.insert(
-        riga.end(),
-        {numero(c.progetto), numero(c.resistenza), tables::uso(c.progetto, c.resistenza),
-         c.dove.fase > 0 ? tables::cella(c.dove.fase) : tables::dove(0, 0),
-         tables::dove(c.dove.fase, c.dove.z, c.dove.lato),
-         tables::esito(traduttore(c.fallito ? "NON verificata" : "verificata"), c.fallito)});
+    const Cella progetto = numero(c.progetto);
+    const bool nullo = c.dove.fase == 0 || stampataNulla(progetto);
+    riga.insert(riga.end(), {progetto, numero(c.resistenza), tables::uso(c.progetto, c.resistenza),
+                             nullo ? senzaPosto() : tables::cella(c.dove.fase),
+                             nullo ? senzaPosto() : tables::profondita(c.dove.z, c.dove.lato),
+                             tables::esito(traduttore(c.fallito ? "NON verificata" : "verificata"),
+                                           c.fallito)});
     return riga;
+}
+
+// A use that grows where the axial force is not multiplied: "50.4 %" is not all there is to say.
+void notaSforzo(const dossier::LatoFlessione& lato, const char* momento, Prospetto& p) {
+    const auto massimo = lato.usoMaggiore();
+    if (!lato.uso || !massimo || !(*massimo > *lato.uso)) return;
+    p.note.push_back(base::riempito(
+        traduttore("Flessione, %1: lo sforzo normale, moltiplicato per %2, aumenta la resistenza; "
+                   "non moltiplicato, o senza, lo sfruttamento arriva al %3 %."),
+        {traduttore(momento), base::testoDecimali(structure::fsAzioniSezione, 2),
+         project::numeroMostrato(*massimo, 1, unita::percento)}));
 }
 
 }  // namespace
@@ -63,6 +79,8 @@ Prospetto prospettoControlli(const dossier::Fascicolo& f) {
                       tutti.negativo, c.fallitaNeg()});
         else
             p.note.push_back(traduttore("Nessun momento negativo agisce."));
+        notaSforzo(f.flessione->positivo, "momento positivo", p);
+        notaSforzo(f.flessione->negativo, "momento negativo", p);
     }
     if (tutti.taglio) {
         const structure::ConfrontoTaglio& c = *tutti.taglio;

@@ -23,12 +23,14 @@ double profondita(const PareteViva& parete, const Picco& p) {
     return static_cast<double>(p.nodo) * parete.h;
 }
 
-void aggiungi(const PareteViva& parete, const GrandezzaFase& g, int fase, int segno, bool nullo,
+void aggiungi(const PareteViva& parete, const GrandezzaFase& g, int fase, int segno,
               std::vector<Cella>& riga) {
     const Picco p = picco(parete, fase, g, segno);
-    riga.push_back(g.cella(p.valore));
-    riga.push_back(nullo ? tables::dove(0, 0) : tables::profondita(profondita(parete, p), p.lato));
-    if (fase == 0) riga.push_back(nullo ? tables::dove(0, 0) : tables::cella(p.fase));
+    const Cella valore = g.cella(p.valore);
+    const bool nullo = stampataNulla(valore);
+    riga.push_back(valore);
+    riga.push_back(nullo ? senzaPosto() : tables::profondita(profondita(parete, p), p.lato));
+    if (fase == 0) riga.push_back(nullo ? senzaPosto() : tables::cella(p.fase));
 }
 
 }  // namespace
@@ -80,10 +82,8 @@ Prospetto prospettoPicchi(const PareteViva& parete, int fase) {
         if (fase == 0) p.colonne.push_back(numeri("Fase"));
     }
     for (const GrandezzaFase& g : grandezze()) {
-        const bool nullo =
-            picco(parete, fase, g, 1).valore == 0 && picco(parete, fase, g, -1).valore == 0;
         auto& riga = p.righe.emplace_back(std::vector{conUnita(g.unita, g.titolo)});
-        for (const int segno : {1, -1}) aggiungi(parete, g, fase, segno, nullo, riga);
+        for (const int segno : {1, -1}) aggiungi(parete, g, fase, segno, riga);
     }
     return p;
 }

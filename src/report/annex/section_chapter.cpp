@@ -13,6 +13,7 @@
 #include "report/annex/twin_words.hpp"
 #include "structure/limit_search.hpp"
 #include "structure/partial_factors.hpp"
+#include "structure/section_type.hpp"
 #include "structure/strip_model.hpp"
 #include "tables/check_table.hpp"
 #include "tables/section_table.hpp"
@@ -25,6 +26,7 @@ using document::Stile;
 using dossier::Fascicolo;
 using dossier::LatoFlessione;
 using dossier::LimiteSezione;
+using tables::Prospetto;
 
 namespace {
 
@@ -47,12 +49,19 @@ void azioni(const Fascicolo& f, Blocchi& blocchi) {
                   blocchi, Stile::pericolo);
     const auto due = [](double v) { return base::testoDecimali(v, 2); };
     paragrafo(
-        riempito(
-            traduttore("Azioni della soluzione di equilibrio: i momenti e il taglio maggiori fra "
-                       "tutte le fasi in equilibrio. Coefficienti parziali: azioni %1, "
-                       "calcestruzzo %2, acciaio %3."),
-            {due(structure::fsAzioniSezione), due(structure::fsCalcestruzzo),
-             due(structure::fsAcciaio)}),
+        traduttore("Azioni della soluzione di equilibrio: i momenti e il taglio maggiori fra "
+                   "tutte le fasi in equilibrio.") +
+            " " +
+            riempito(f.flessione->fcd > 0
+                         ? traduttore("Coefficienti parziali, costanti di questo programma: azioni "
+                                      "%1, acciaio %2, calcestruzzo %3. CEN, ENV 1992-1-1 (1991), "
+                                      "2.3.3, ha per l'acciaio lo stesso, per il calcestruzzo "
+                                      "1.50, per le azioni 1.35 e 1.50.")
+                         : traduttore("Coefficienti parziali, costanti di questo programma: azioni "
+                                      "%1, acciaio %2, quello delle armature in CEN, ENV 1992-1-1 "
+                                      "(1991), 2.3.3."),
+                     {due(structure::fsAzioniSezione), due(structure::fsAcciaio),
+                      due(structure::fsCalcestruzzo)}),
         blocchi);
     paragrafo(traduttore("Nelle formule i valori messi hanno una cifra in più del risultato, che è "
                          "arrotondato una volta sola."),
@@ -82,18 +91,36 @@ std::string stato(const LatoFlessione& l) {
                                                                : structure::allungamentoLimite)});
 }
 
+// A check that holds only as long as the factored axial force is there.
+void conAltroSforzo(const LatoFlessione& l, bool positivo, const Fascicolo& f, Blocchi& blocchi) {
+    auto p = prospettoAltriSforzi(*f.flessione, positivo);
+    if (p.righe.empty()) return;
+    tavola(std::move(p), blocchi);
+    const auto massimo = l.usoMaggiore();
+    if (l.verificato && massimo && *massimo >= 1)
+        paragrafo(traduttore("Senza lo sforzo normale così moltiplicato la sezione non è "
+                             "verificata."),
+                  blocchi, Stile::pericolo);
+}
+
 void verso(const Fascicolo& f, bool positivo, Blocchi& blocchi) {
     const auto& l = positivo ? f.flessione->positivo : f.flessione->negativo;
     titolo(3,
            positivo ? "Momento positivo, che tende la faccia verso lo scavo"
                     : "Momento negativo, che tende la faccia verso terra",
            blocchi);
-    const bool agisce = l.Md > 0;
-    if (f.controlli.conAzioni && agisce) {
+    // A moment that is printed as 0 is what rounding leaves of none.
+    Prospetto confronto;
+    if (f.controlli.conAzioni && l.Md > 0) {
         const auto& c = *f.controlli.flessione;
-        tavola(prospettoFlessione(*f.flessione, positivo, positivo ? c.mMax : -c.mMin), blocchi);
+        confronto = prospettoFlessione(*f.flessione, positivo, positivo ? c.mMax : -c.mMin);
+    }
+    const bool agisce = !confronto.righe.empty() && !stampataNulla(confronto.righe.front()[3]);
+    if (agisce) {
+        tavola(std::move(confronto), blocchi);
         paragrafo(inFrase(traduttore(l.verificato ? "verificata" : "NON verificata")), blocchi,
                   l.verificato ? Stile::rilievo : Stile::pericolo);
+        conAltroSforzo(l, positivo, f, blocchi);
     } else if (f.controlli.conAzioni) {
         paragrafo(traduttore(positivo ? "Nessun momento positivo agisce."
                                       : "Nessun momento negativo agisce."),
@@ -102,6 +129,36 @@ void verso(const Fascicolo& f, bool positivo, Blocchi& blocchi) {
     paragrafo(stato(l), blocchi);
     if (auto p = prospettoForzeInterne(*f.flessione, positivo); !p.righe.empty())
         tavola(std::move(p), blocchi);
+}
+
+// What the model makes of this kind of section, and what its code would have otherwise.
+std::string delTipo(const project::Sezione& sezione) {
+    switch (structure::tipoSezione(sezione)) {
+        case structure::TipoSezione::diaframma:
+        case structure::TipoSezione::paliArmati:
+            return traduttore(
+                "Il calcestruzzo è al netto delle barre. L'allungamento dell'acciaio "
+                "è letto alla profondità del copriferro, cioè al bordo esterno delle "
+                "barre e non al loro asse, anche dove barre non ci sono. Leggi dei "
+                "materiali e limiti di CEN, ENV 1992-1-1 (1991), 4.2.1.3.3, "
+                "4.2.2.3.2 e 4.3.1.");
+        case structure::TipoSezione::pali:
+            return traduttore(
+                "Il calcestruzzo riempie il tubo e lavora con esso; l'allungamento "
+                "dell'acciaio è letto alla faccia. Leggi dei materiali e limiti sono "
+                "quelli del cemento armato in CEN, ENV 1992-1-1 (1991), 4.2.1.3.3, "
+                "4.2.2.3.2 e 4.3.1: la norma delle colonne miste, EN 1994-1-1, qui "
+                "non è applicata.");
+        case structure::TipoSezione::palancola:
+            return traduttore(
+                "Coefficiente dell'acciaio e limiti di deformazione sono quelli del "
+                "cemento armato in CEN, ENV 1992-1-1 (1991), 4.3.1. La norma delle "
+                "palancole, EN 1993-5, verifica in un altro modo, con la classe "
+                "della sezione, e qui non è applicata.");
+        case structure::TipoSezione::nessuno:
+            break;
+    }
+    return {};
 }
 
 void flessione(const Fascicolo& f, Blocchi& blocchi) {
@@ -113,8 +170,7 @@ void flessione(const Fascicolo& f, Blocchi& blocchi) {
                 cls ? "Stato limite ultimo di un metro di paratia, diviso in %1 strisce: sezioni "
                       "piane; calcestruzzo senza trazione, con parabola e rettangolo fino a 0.85 "
                       "fcd; acciaio elastico e poi plastico. La resistenza è il momento a cui una "
-                      "faccia si accorcia di %2 o l'acciaio si allunga di %3 (CEN, ENV "
-                      "1992-1-1, 1991, 4.3.1)."
+                      "faccia si accorcia di %2 o l'acciaio si allunga di %3."
                     : "Stato limite ultimo di un metro di paratia, diviso in %1 strisce: sezioni "
                       "piane; acciaio elastico e poi plastico. La resistenza è il momento a cui "
                       "una faccia si accorcia di %2 o si allunga di %3."),
@@ -122,7 +178,9 @@ void flessione(const Fascicolo& f, Blocchi& blocchi) {
              base::testoDecimali(-structure::accorciamentoLimite, 4),
              base::testoDecimali(structure::allungamentoLimite, 3)}),
         blocchi);
-    tavola(prospettoMateriali(*f.flessione), blocchi);
+    const project::Sezione& sezione = f.parete.dati.sezione;
+    paragrafo(delTipo(sezione), blocchi);
+    tavola(prospettoMateriali(sezione, *f.flessione), blocchi);
     verso(f, true, blocchi);
     verso(f, false, blocchi);
 }

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "dossier/section_values.hpp"
 #include "project/units.hpp"
 #include "tables/result_table.hpp"
 
@@ -27,6 +28,14 @@ inline const std::string unitaMomento(project::unita::momentoAlMetro.mostrata);
 void aggiungiResistenzaCls(double fck, double fs, double fcd, tables::Prospetto& prospetto);
 /// fyd = fyk / γs [N/mm2].
 void aggiungiResistenzaAcciaio(double fyk, double fs, double fyd, tables::Prospetto& prospetto);
+
+/// Concrete and steel of one metre of wall, from the measures of the section where its circles and
+/// rectangles lie whole within the strips; else the sums of these alone.
+void aggiungiAree(const project::Sezione& sezione, const dossier::ValoriFlessione& valori,
+                  tables::Prospetto& prospetto);
+
+/// What the symbols of the section's measures are; empty without a type.
+[[nodiscard]] std::string legendaMisure(const project::Sezione& sezione);
 
 /// A force or a moment of the stages times the factor of actions, both in the shown unit.
 struct AzioneDiProgetto {

@@ -13,12 +13,18 @@ namespace korven::report {
 [[nodiscard]] tables::Prospetto prospettoControlli(const dossier::Fascicolo& fascicolo);
 
 /// Strengths, areas, design axial force and what the section carries of it.
-[[nodiscard]] tables::Prospetto prospettoMateriali(const dossier::ValoriFlessione& valori);
+[[nodiscard]] tables::Prospetto prospettoMateriali(const project::Sezione& sezione,
+                                                   const dossier::ValoriFlessione& valori);
 
 /// One direction of bending: design moment, resistance, use.
 /// @param M  the largest of the stages this way, in size [t m]
 [[nodiscard]] tables::Prospetto prospettoFlessione(const dossier::ValoriFlessione& valori,
                                                    bool positivo, double M);
+
+/// A direction of bending under the design axial force, under that of the project and without any;
+/// no rows where no other than the design force is told.
+[[nodiscard]] tables::Prospetto prospettoAltriSforzi(const dossier::ValoriFlessione& valori,
+                                                     bool positivo);
 
 /// The forces in the section at its resistance in that direction, their arms and moments.
 [[nodiscard]] tables::Prospetto prospettoForzeInterne(const dossier::ValoriFlessione& valori,

@@ -6,6 +6,7 @@
 #include "base/translated_texts.hpp"
 #include "project/units.hpp"
 #include "report/annex/formula_rows.hpp"
+#include "report/annex/section_rows.hpp"
 #include "report/annex/soil_tables.hpp"
 #include "report/annex/sources.hpp"
 
@@ -22,7 +23,7 @@ const std::string mm = "mm";
 const std::string mm2 = "mm²/mm";
 const std::string mm3 = "mm³";
 const std::string mm4 = "mm⁴";
-const std::string kNm2(project::unita::rigidezzaFlessionale.mostrata);
+const std::string kNm2(project::unita::rigidezzaFlessionaleAlMetro.mostrata);
 
 // N mm2 per metre in kN m2.
 double inKilonewtonMetri(double EJ) {
@@ -76,10 +77,6 @@ class Righe {
         p_.note.push_back(
             traduttore("Due rettangoli, l'esterno meno l'interno, su un'onda del "
                        "profilo: i giunti non scorrono."));
-        p_.note.push_back(
-            traduttore("b, s: larghezza e spessore del piatto; la, ha, sa: larghezza, altezza e "
-                       "spessore dell'ala; c: spessore di un'ala inclinata, misurato lungo la "
-                       "paratia."));
         const Termine b = termine("b", d.misure.base, 1), s = termine("s", d.misure.spessore, 1);
         const Termine la = termine("la", d.misure.largAla, 1);
         const Termine ha = termine("ha", d.misure.altAla, 1), c = termine("c", d.sAla, 3);
@@ -100,12 +97,12 @@ class Righe {
         p_.note.push_back(traduttore(
             "Palo di calcestruzzo intero, non fessurato, con ogni ferro al posto del suo "
             "calcestruzzo; a è la distanza del ferro dall'asse di flessione."));
-        riga("Ferri", "N", "", {}, d.ferri, 0, "");
+        riga("Ferri", "n", "", {}, d.ferri, 0, "");
         riga("Raggio dei ferri", "R", "%1/2 − %2 − %3/2",
              {termine("D", d.misure.diamPalo, 1), termine("c", d.misure.copriferro, 1),
-              termine("d", d.misure.diamLong, 1)},
+              termine("dl", d.misure.diamLong, 1)},
              d.raggio, 2, mm);
-        riga("Inerzia dei ferri", "Jb", "Σ (a² π d²/4 + π d⁴/64)", {}, d.Jb, 0, mm4);
+        riga("Inerzia dei ferri", "Jb", "Σ (a² π dl²/4 + π dl⁴/64)", {}, d.Jb, 0, mm4);
         EJ("(%1 · π · %2⁴/64 + (%3 − %1) · %4) / %5 / 10⁶",
            {Ec(), termine("D", d.misure.diamPalo, 1), Es(), termine("Jb", d.Jb, 0),
             termine("i", d.misure.interasse, 1)},
@@ -150,12 +147,17 @@ Prospetto prospettoRigidezza(const Fascicolo& f) {
     Prospetto p = prospettoFormule("Rigidezza EJ dalla sezione");
     const auto& [passi, offerta] = f.rigidezza;
     if (!offerta) return p;
-    std::visit(Righe(f.parete.dati.sezione, p), passi);
+    const Sezione& sezione = f.parete.dati.sezione;
+    std::visit(Righe(sezione, p), passi);
+    p.note.push_back(legendaMisure(sezione));
+    p.note.push_back(traduttore(sezione.tipoPalancola
+                                    ? "Es: modulo elastico dell'acciaio."
+                                    : "Es, Ec: moduli elastici dell'acciaio e del calcestruzzo."));
     aggiungi({"Troncata a tonnellate forza intere, come il calcolo la prende",
               "EJ",
               "",
               {},
-              mostrato(project::unita::rigidezzaFlessionale, *offerta),
+              mostrato(project::unita::rigidezzaFlessionaleAlMetro, *offerta),
               0,
               kNm2},
              p);

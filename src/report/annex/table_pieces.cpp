@@ -38,6 +38,14 @@ Cella ordineDiGrandezza(double mostrato) {
     return {.testo = std::string(testo, fine), .numero = mostrato + 0.0};
 }
 
+bool stampataNulla(const Cella& cella) {
+    return cella.numero && cella.testo.find_first_not_of("-0.") == std::string::npos;
+}
+
+Cella senzaPosto() {
+    return tables::senza(traduttore("Il valore stampato è 0: dove sta non dice nulla."));
+}
+
 void paragrafo(std::string testo, Blocchi& blocchi, document::Stile stile) {
     if (!testo.empty()) blocchi.emplace_back(document::Paragrafo{std::move(testo), stile});
 }

@@ -25,6 +25,12 @@ namespace korven::report {
 /// @param mostrato  in the shown unit
 [[nodiscard]] tables::Cella ordineDiGrandezza(double mostrato);
 
+/// True for a number that is printed as 0: where it stands says nothing.
+[[nodiscard]] bool stampataNulla(const tables::Cella& cella);
+
+/// The place of such a number: none, and why.
+[[nodiscard]] tables::Cella senzaPosto();
+
 /// Adds one block.
 void paragrafo(std::string testo, Blocchi& blocchi,
                document::Stile stile = document::Stile::normale);

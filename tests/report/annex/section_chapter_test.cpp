@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <cstdlib>
+#include <set>
 #include <string>
 #include <utility>
 
@@ -39,11 +40,18 @@ Blocchi sezione(const Contesto& c) { return test::blocchi(capitoloSezione, c); }
 
 TEST(CapitoloSezione, NamesTheStrainsThatEndTheResistance) {
     const auto detto = [](const project::Sezione& s) { return testo(sezione(contesto(muro(s)))); };
-    EXPECT_NE(detto(structure::diaframmaSimmetrico())
-                  .find("si accorcia di 0.0035 o l'acciaio si allunga di 0.010 (CEN"),
-              std::string::npos);
-    EXPECT_NE(detto(structure::palancola()).find("si accorcia di 0.0035 o si allunga di 0.010."),
-              std::string::npos);
+    const auto trova = [](const std::string& testo, const char* frase) {
+        return testo.find(frase) != std::string::npos;
+    };
+    const std::string diaframma = detto(structure::diaframmaSimmetrico());
+    EXPECT_TRUE(trova(diaframma, "si accorcia di 0.0035 o l'acciaio si allunga di 0.010."));
+    EXPECT_TRUE(trova(diaframma, "al bordo esterno delle barre e non al loro asse"));
+    EXPECT_TRUE(trova(diaframma, "calcestruzzo 1.60"));
+    const std::string palancola = detto(structure::palancola());
+    EXPECT_TRUE(trova(palancola, "si accorcia di 0.0035 o si allunga di 0.010."));
+    EXPECT_TRUE(trova(palancola, "EN 1993-5"));
+    EXPECT_FALSE(trova(palancola, "calcestruzzo"));
+    EXPECT_TRUE(trova(detto(structure::paliTubolari()), "riempie il tubo"));
 }
 
 TEST(CapitoloSezione, HoldsTheChecksOfTheDossier) {
@@ -70,17 +78,17 @@ TEST(CapitoloSezione, HasForcesThatAddUpToTheResistance) {
             ASSERT_GE(p.righe.size(), 3U);
             double forza = 0, momento = 0;
             for (std::size_t i = 0; i + 1 < p.righe.size(); ++i) {
-                forza += numero(p, i, 1);
-                momento += numero(p, i, 4);
-                EXPECT_NEAR(numero(p, i, 1) * numero(p, i, 3) / 1000, numero(p, i, 4), 1e-9);
+                forza += numero(p, i, 2);
+                momento += numero(p, i, 5);
+                EXPECT_NEAR(numero(p, i, 2) * numero(p, i, 4) / 1000, numero(p, i, 5), 1e-9);
             }
             const auto& lato =
                 verso == 1 ? c.fascicolo->flessione->positivo : c.fascicolo->flessione->negativo;
             const std::size_t ultima = p.righe.size() - 1;
-            EXPECT_NEAR(forza, numero(p, ultima, 1), 0.01);
-            EXPECT_EQ(numero(p, ultima, 1), c.fascicolo->flessione->Nd / kN);
-            EXPECT_NEAR(momento, numero(p, ultima, 4), 0.01);
-            EXPECT_EQ(numero(p, ultima, 4), lato.MRd / kN / 1000);
+            EXPECT_NEAR(forza, numero(p, ultima, 2), 0.01);
+            EXPECT_EQ(numero(p, ultima, 2), c.fascicolo->flessione->Nd / kN);
+            EXPECT_NEAR(momento, numero(p, ultima, 5), 0.01);
+            EXPECT_EQ(numero(p, ultima, 5), lato.MRd / kN / 1000);
         }
     }
 }
@@ -184,7 +192,10 @@ TEST(CapitoloSezione, HasFormulasThatAPencilComesToTheEndOf) {
     grande.armCopriferro = 7.3;
     grande.fck = 37;
     int formule = 0;
-    for (const auto& sezione_ : {conStaffe(), grande})
+    std::set<std::string> simboli;
+    for (const auto& sezione_ :
+         {conStaffe(), grande, structure::diaframmaSimmetrico(), structure::diaframmaArmatoAValle(),
+          structure::paliTubolari(), structure::palancola()})
         for (const auto& t :
              test::tutti<document::Tavola>(sezione(contesto(muro(sezione_, 12.345))))) {
             const tables::Prospetto& p = t.prospetto;
@@ -193,14 +204,76 @@ TEST(CapitoloSezione, HasFormulasThatAPencilComesToTheEndOf) {
                 if (riga[2].testo.empty()) continue;
                 const double volte = riga[4].testo == "%" ? 100 : 1;
                 const auto punto = riga[3].testo.find('.');
-                const int decimali = static_cast<int>(riga[3].testo.size() - punto) - 1;
+                const int decimali = punto == std::string::npos
+                                         ? 0
+                                         : static_cast<int>(riga[3].testo.size() - punto) - 1;
                 EXPECT_NEAR(volte * Matita::conta(riga[2].testo), std::stod(riga[3].testo),
                             0.51 * std::pow(10, -decimali))
                     << riga[1].testo << "   " << riga[2].testo;
+                simboli.insert(riga[1].testo.substr(0, riga[1].testo.find(' ')));
                 ++formule;
             }
         }
-    EXPECT_GE(formule, 40);
+    EXPECT_GE(formule, 80);
+    for (const char* simbolo : {"As", "Ac", "NRd,c", "NRd,t", "Nd", "MRd", "VRd3"})
+        EXPECT_TRUE(simboli.contains(simbolo)) << simbolo;
+}
+
+// What the strips have, from the measures alone: two layers, a tube, a wave, a ring of bars.
+TEST(CapitoloSezione, TellsTheAreasOfEverySection) {
+    for (const auto& s :
+         {structure::diaframmaSimmetrico(), structure::diaframmaArmatoAValle(),
+          structure::paliTubolari(), structure::palancola(), structure::paliArmati()}) {
+        const Contesto c = contesto(muro(s));
+        const auto p = tavola(sezione(c), "Materiali e sforzo normale");
+        const auto As = riga(p, "Area dell'acciaio in un metro");
+        EXPECT_FALSE(As[2].testo.empty());
+        EXPECT_EQ(As[3].numero, c.fascicolo->flessione->As);
+        if (c.fascicolo->flessione->fcd > 0) {
+            EXPECT_FALSE(riga(p, "Area del calcestruzzo in un metro")[2].testo.empty());
+        }
+        ASSERT_GE(p.note.size(), 2U);
+        EXPECT_NE(p.note.back().find("σs = Es ε"), std::string::npos);
+    }
+}
+
+// Compression helps a lightly loaded section: with less of it the use grows, and is told.
+TEST(CapitoloSezione, TellsTheUseWithoutAnAxialForceThatHelps) {
+    constexpr const char* titolo = "Con un altro sforzo normale";
+    EXPECT_FALSE(haTavola(sezione(contesto(muro(structure::diaframmaSimmetrico()))), titolo));
+    EXPECT_FALSE(haTavola(sezione(contesto(muro(structure::diaframmaSimmetrico(), -12))), titolo));
+    const Contesto c = contesto(muro(structure::diaframmaSimmetrico(), 12));
+    const auto b = sezione(c);
+    const auto p = tavola(b, titolo);
+    ASSERT_EQ(p.righe.size(), 3U);
+    EXPECT_EQ(p.righe[0][0].testo, "1.40");
+    EXPECT_NEAR(numero(p, 0, 1), 168, 1e-9);
+    EXPECT_NEAR(numero(p, 1, 1), 120, 1e-9);
+    EXPECT_EQ(numero(p, 2, 1), 0);
+    const auto senza = contesto(muro(structure::diaframmaSimmetrico(), 0)).fascicolo;
+    EXPECT_NEAR(numero(p, 2, 2), senza->flessione->positivo.MRd / kN / 1000, 1e-9);
+    EXPECT_NEAR(numero(p, 2, 3), 100 * *senza->flessione->positivo.uso, 1e-9);
+    EXPECT_GT(numero(p, 2, 3), numero(p, 0, 3));
+    EXPECT_NE(tavola(b, "Verifiche").note.front().find("arriva al " + p.righe[2][3].testo + " %"),
+              std::string::npos);
+    EXPECT_EQ(testo(b).find("non è verificata."), std::string::npos);
+}
+
+// A check that holds with the factored compression alone says so.
+TEST(CapitoloSezione, WarnsWhereTheCheckHoldsByTheAxialForceAlone) {
+    auto debole = structure::diaframmaSimmetrico();
+    const double N = 30;
+    bool trovata = false;
+    for (double d = 2.4; d > 0.2 && !trovata; d -= 0.05) {
+        debole.diametroMonte = debole.diametroValle = d;
+        const Contesto c = contesto(muro(debole, N));
+        const auto& l = c.fascicolo->flessione->positivo;
+        if (!l.verificato || !(l.usoMaggiore().value_or(0) >= 1)) continue;
+        trovata = true;
+        EXPECT_NE(testo(sezione(c)).find("così moltiplicato la sezione non è verificata."),
+                  std::string::npos);
+    }
+    EXPECT_TRUE(trovata);
 }
 
 TEST(CapitoloSezione, SaysWhereTheShearCheckLeavesItsCode) {
