@@ -7,6 +7,7 @@
 #include "analysis/result_guard.hpp"
 #include "base/colon.hpp"
 #include "base/folders/program_folder.hpp"
+#include "base/folders/user_data.hpp"
 #include "base/process/closed_pipe.hpp"
 #include "base/translated_texts.hpp"
 #include "batch/command_table.hpp"
@@ -22,7 +23,6 @@
 #include "batch/run/margin_outcome.hpp"
 #include "batch/run/question_outcome.hpp"
 #include "batch/run/selfcheck_outcome.hpp"
-#include "commands/start/user_folder.hpp"
 
 namespace korven::batch {
 
@@ -95,7 +95,7 @@ int programma(int argc, const char* const* argv, const base::Disco& disco) {
     // Wrong usage goes before a language that can't be had, which JSON must be able to tell.
     std::exception_ptr senzaLingua;
     try {
-        commands::scegliCartellaProgramma(disco);
+        base::seguiCartellaUtente();
         scegliLingua(valoreAnticipato(argc, argv, nomeOpzioneLingua));
     } catch (const std::exception&) {
         senzaLingua = std::current_exception();

@@ -5,6 +5,7 @@
 #include "base/file_error.hpp"
 #include "base/files.hpp"
 #include "base/folders/program_folder.hpp"
+#include "base/folders/user_data.hpp"
 
 namespace korven::commands {
 
@@ -22,8 +23,7 @@ void vaiA(const fs::path& cartella) {
 }  // namespace
 
 void vaiAllUltimaCartella() {
-    if (!base::esisteFile(fileCartella()))
-        scriviUltimaCartella((fs::path(base::cartellaProgramma()) / "data").string());
+    if (!base::esisteFile(fileCartella())) scriviUltimaCartella(base::cartellaProgetti());
     try {
         const std::string contenuto = base::leggiFile(fileCartella());
         vaiA(contenuto.substr(0, contenuto.find_first_of("\r\n")));

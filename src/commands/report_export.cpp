@@ -91,7 +91,7 @@ std::string programmaEsistente(const std::string& riga) {
 
 }  // namespace
 
-std::string convertitore() { return base::cartellaEseguibile() + "/outdoc"; }
+std::string convertitore() { return base::cartellaAltriProgrammi() + "/outdoc"; }
 
 std::optional<std::string> nomeTxtScelto(std::string_view risposta) {
     if (ultimi(risposta, coda).find('.') != std::string_view::npos)

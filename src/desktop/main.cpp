@@ -59,7 +59,7 @@ int inLingua(shell::Applicazione& applicazione, shell::DialogoQt& dialogo, Avvio
     if (!commands::iniziaLingua({.dialogo = dialogo, .scegli = shell::chiediLingua})) return 0;
     traduciQt(applicazione);
 
-    QApplication::setWindowIcon(QIcon(shell::qt(base::cartellaEseguibile() + "/korven32.svg")));
+    QApplication::setWindowIcon(QIcon(shell::qt(base::fileProgramma("korven32.svg"))));
     const shell::Terminazione terminazione;
     shell::DialogoFileQt nomi;
     shell::StampanteProgramma stampante;
@@ -91,7 +91,7 @@ int finestre(int argc, char** argv, Avvio& avvio) {
     shell::Applicazione applicazione(argc, argv);
     QCoreApplication::setOrganizationName("korven32");
     QCoreApplication::setApplicationName("korven32");
-    QGuiApplication::setDesktopFileName("korven32");
+    QGuiApplication::setDesktopFileName("local.korven32.korven32");
     std::setlocale(LC_NUMERIC, "C");
     shell::segnoDecimaleQt();
     avvio.argomento = QCoreApplication::arguments().value(1).toStdString();

@@ -47,10 +47,10 @@ Gruppo leggi(const fs::path& cartella, const std::string& basi) {
 
 }  // namespace
 
-std::string cartellaCasi() { return (fs::path(base::cartellaProgramma()) / "verifica").string(); }
+std::string cartellaCasi() { return (fs::path(base::cartellaDati()) / "verifica").string(); }
 
 std::string cartellaBasi() {
-    return (fs::path(base::cartellaProgramma()) / "data" / "ita").string();
+    return (fs::path(base::cartellaDati()) / "data" / "ita").string();
 }
 
 std::vector<Gruppo> leggiCasi(const std::string& cartella, const std::string& basi) {

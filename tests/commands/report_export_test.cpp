@@ -276,7 +276,7 @@ TEST_F(EsportaRelazione, LetsABrokenMarkupEndTheProgram) {
 }
 
 TEST_F(EsportaRelazione, RunsTheConverterOnTheMarkupAndShowsItsFile) {
-    const std::string convertitore = base::cartellaEseguibile() + "/outdoc";
+    const std::string convertitore = base::cartellaAltriProgrammi() + "/outdoc";
     programmiScelti(visore("vedi doc") + "\r\n");
     programmi.alPosto = [this] { test::metti(doc, "doc"); };
     inDoc();
@@ -291,7 +291,7 @@ TEST_F(EsportaRelazione, RunsNoConverterOfTheProgramFolder) {
     (void)visore("outdoc");
     inDoc();
     EXPECT_EQ(programmi.chiamate,
-              Righe{"esegui " + base::cartellaEseguibile() + "/outdoc [" + relazione + "]"});
+              Righe{"esegui " + base::cartellaAltriProgrammi() + "/outdoc [" + relazione + "]"});
 }
 
 // A converter that ends well and leaves the earlier file has made nothing.

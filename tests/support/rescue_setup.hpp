@@ -1,9 +1,7 @@
 #pragma once
 
 #include <algorithm>
-#include <cstdlib>
 #include <filesystem>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -11,6 +9,7 @@
 #include "commands/rescue/kept_rescue.hpp"
 #include "project/project_file.hpp"
 #include "support/document_ports.hpp"
+#include "support/environment_variable.hpp"
 #include "support/sample_projects.hpp"
 
 namespace korven::test {
@@ -20,19 +19,10 @@ namespace korven::test {
 class AmbienteRecupero : public AmbienteDocumento {
  public:
     AmbienteRecupero() {
-        if (const char* prima = std::getenv("XDG_DATA_HOME")) primaDati_ = prima;
-        ::setenv("XDG_DATA_HOME", (dati / "share").c_str(), 1);
         project::Progetto = progettoSemplice();
         project::fileCorrente = muro;
         project::modificato = true;
     }
-    ~AmbienteRecupero() {
-        if (primaDati_)
-            ::setenv("XDG_DATA_HOME", primaDati_->c_str(), 1);
-        else
-            ::unsetenv("XDG_DATA_HOME");
-    }
-
     /// The names in a folder, but those of locks, sorted.
     [[nodiscard]] static std::vector<std::string> nomiIn(const std::string& cartella) {
         std::vector<std::string> nomi;
@@ -55,7 +45,7 @@ class AmbienteRecupero : public AmbienteDocumento {
     const std::string recuperato = lavori / "muro_recuperato.kvd";
 
  private:
-    std::optional<std::string> primaDati_;
+    VariabileAmbiente cartellaDati_{"XDG_DATA_HOME", dati / "share"};
 };
 
 }  // namespace korven::test

@@ -10,22 +10,30 @@ namespace korven::base {
 
 namespace fs = std::filesystem;
 
+std::string cartellaCasa() {
+    const char* casa = std::getenv("HOME");
+    return casa != nullptr ? casa : "/tmp";
+}
+
 std::string cartellaDatiUtente() {
     const char* dati = std::getenv("XDG_DATA_HOME");
     if (dati != nullptr && fs::path(dati).is_absolute())
         return (fs::path(dati) / "korven32").string();
-    const char* casa = std::getenv("HOME");
-    return (fs::path(casa != nullptr ? casa : "/tmp") / ".local" / "share" / "korven32").string();
+    return (fs::path(cartellaCasa()) / ".local" / "share" / "korven32").string();
 }
 
 bool serveCartellaUtente() {
-    return !cartellaProgrammaNominata() && !accettaFile(cartellaProgramma());
+    return !cartellaProgrammaNominata() && (programmaInstallato() || !accettaFile(cartellaDati()));
 }
 
 void seguiCartellaUtente() {
-    std::error_code errore;
-    if (serveCartellaUtente() && fs::is_directory(cartellaDatiUtente(), errore))
-        impostaCartellaProgramma(cartellaDatiUtente());
+    if (serveCartellaUtente()) impostaCartellaUtente(cartellaDatiUtente());
+}
+
+std::string cartellaProgetti() {
+    const fs::path programma = cartellaProgramma();
+    const bool apparte = programma != cartellaDati();
+    return (apparte ? fs::path(cartellaCasa()) / "korven32" : programma / "data").string();
 }
 
 }  // namespace korven::base

@@ -42,7 +42,7 @@ bool maiUsata() {
 }
 
 std::string cartellaEsempi(std::string_view sigla) {
-    return (fs::path(base::cartellaProgramma()) / "data" / sigla).string();
+    return (fs::path(base::cartellaDati()) / "data" / sigla).string();
 }
 
 void preparaEsempi(const base::Disco& disco) {

@@ -11,7 +11,7 @@ namespace korven::commands {
 /// folder of projects has been noted there.
 [[nodiscard]] bool maiUsata();
 
-/// The folder of the example projects of a language, below the program folder.
+/// The folder of the delivered example projects of a language.
 [[nodiscard]] std::string cartellaEsempi(std::string_view sigla);
 
 /// Makes the folders of the examples and moves the example files that lie in the program folder

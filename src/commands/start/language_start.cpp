@@ -9,6 +9,7 @@
 #include "base/translated_texts.hpp"
 #include "commands/last_folder.hpp"
 #include "commands/start/example_folders.hpp"
+#include "commands/start/user_folder.hpp"
 
 namespace korven::commands {
 
@@ -64,14 +65,15 @@ bool iniziaLingua(const PorteLingua& porte) {
     if ((prova || !base::esisteFile(fileLingua())) && !chiediLingua(porte)) return false;
     const int codice = codiceValido();
     const std::string sigla(base::siglaLingua(codice));
-    if (primaVolta) preparaEsempi(porte.disco);
+    std::string progetti;
+    if (primaVolta) progetti = preparaCartellaProgetti(sigla, porte.disco);
     base::caricaTesti(base::fileProgramma("texts01.txt"),
                       base::fileProgramma(std::string("texts").append(numeroModulo) + ".txt"),
                       base::fileProgramma("texts32.txt"));
     base::impostaLingua(codice);
     base::impostaModoProva(prova ? &porte.dialogo : nullptr);
     fileGuida = trovaGuida(sigla);
-    if (primaVolta) scriviUltimaCartella(cartellaEsempi(sigla), porte.disco);
+    if (primaVolta) scriviUltimaCartella(progetti, porte.disco);
     return true;
 }
 

@@ -17,10 +17,28 @@ TEST(CartellaProgramma, IsTheFolderOfTheExecutableUnlessNamed) {
     EXPECT_NE(cartellaProgramma(), "/una/cartella");
 }
 
-TEST(CartellaEseguibile, StaysWhereverTheProgramFolderIs) {
+TEST(CartellaAltriProgrammi, StaysWhereverTheProgramFolderIs) {
     impostaCartellaProgramma("/una/cartella");
-    EXPECT_TRUE(std::filesystem::exists(cartellaEseguibile() + "/base_test"));
+    EXPECT_TRUE(std::filesystem::exists(cartellaAltriProgrammi() + "/base_test"));
+    EXPECT_EQ(cartellaDati(), "/una/cartella");
     impostaCartellaProgramma({});
+    EXPECT_TRUE(std::filesystem::exists(cartellaDati() + "/base_test"));
+}
+
+TEST(CartellaUtente, TakesWhatTheProgramIsToldAndGoesBeforeTheDeliveredFiles) {
+    const test::CartellaProvvisoria utente;
+    impostaCartellaUtente(utente.percorso());
+    EXPECT_EQ(cartellaProgramma(), utente.percorso());
+    EXPECT_EQ(fileProgramma("nseg.txt"), utente / "nseg.txt");
+    // This program's file stands for one that is delivered.
+    EXPECT_EQ(fileProgramma("base_test"), cartellaDati() + "/base_test");
+    test::metti(utente / "base_test", "");
+    EXPECT_EQ(fileProgramma("base_test"), utente / "base_test");
+    impostaCartellaProgramma("/una/cartella");
+    EXPECT_EQ(cartellaProgramma(), "/una/cartella");
+    impostaCartellaProgramma({});
+    impostaCartellaUtente({});
+    EXPECT_EQ(cartellaProgramma(), cartellaDati());
 }
 
 TEST(FileProgramma, IsFoundWhateverTheCaseOfItsName) {
