@@ -4,10 +4,12 @@ set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME korven32)
 set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
 set(CPACK_PACKAGE_CONTACT "KORVEN 32 maintainers <korven32@packages.local.invalid>")
-set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "design of embedded retaining walls")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_COMPONENTS_ALL desktop cli data python)
+set(CPACK_INSTALL_CMAKE_PROJECTS
+    "${CMAKE_BINARY_DIR};${PROJECT_NAME};ALL;/"
+    "${PROJECT_SOURCE_DIR}/build/python;${PROJECT_NAME};ALL;/")
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_ENABLE_COMPONENT_DEPENDS OFF)
@@ -28,21 +30,27 @@ function(korven_package component package section architecture depends summary d
     set(CPACK_DEBIAN_${upper}_DESCRIPTION "${summary}\n${description}" PARENT_SCOPE)
 endfunction()
 
-set(whole " KORVEN 32 follows diaphragm walls, pile walls and sheet piles through the\n stages of an excavation, as a beam between two sides of elastic and plastic\n soil, and checks the section in bending and shear.\n .\n")
+set(whole "KORVEN 32 follows diaphragm walls, pile walls and sheet piles through the
+stages of an excavation, as a beam between two sides of elastic and plastic
+soil, and checks the section in bending and shear.
+
+")
 korven_package(desktop korven32 science any
     "korven32-cli (= ${PROJECT_VERSION}), korven32-data (= ${PROJECT_VERSION}), qt6-translations-l10n"
     "design of embedded retaining walls"
-    "${whole} This package has the desktop program.")
+    "${whole}This package has the desktop program.")
 korven_package(cli korven32-cli science any
     "korven32-data (= ${PROJECT_VERSION}), fonts-liberation"
     "design of embedded retaining walls - command line"
-    "${whole} This package has the program for the command line, which computes, draws and\n writes all documents.")
+    "${whole}This package has the program for the command line, which computes, draws
+and writes all documents.")
 korven_package(data korven32-data science all "fonts-liberation"
     "design of embedded retaining walls - data"
-    "${whole} This package has what the programs share: texts, help, hatches, examples,\n verification and documents.")
+    "${whole}This package has what the programs share: texts, help, hatches, examples,
+verification and documents.")
 korven_package(python python3-korven32 python any
     "korven32-data (= ${PROJECT_VERSION}), python3 (>= 3.11), python3 (<< 3.12), python3-numpy, python3-pandas"
     "design of embedded retaining walls - Python module"
-    "${whole} This package has the module for Python.")
+    "${whole}This package has the module for Python.")
 
 include(CPack)
