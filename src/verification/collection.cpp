@@ -49,9 +49,7 @@ Gruppo leggi(const fs::path& cartella, const std::string& basi) {
 
 std::string cartellaCasi() { return (fs::path(base::cartellaDati()) / "verifica").string(); }
 
-std::string cartellaBasi() {
-    return (fs::path(base::cartellaDati()) / "data" / "ita").string();
-}
+std::string cartellaBasi() { return (fs::path(base::cartellaDati()) / "data" / "ita").string(); }
 
 std::vector<Gruppo> leggiCasi(const std::string& cartella, const std::string& basi) {
     std::error_code errore;
