@@ -65,9 +65,10 @@ TEST_P(Esempio, LiesInTheProgramFolderToo) {
 }
 
 // What each example is told. Typed moduli that the method does not read are there for who tries
-// another one, the undrained strengths of the soft clay to be drawn.
+// another one, the undrained strengths of the soft clay to be drawn, and one has rising ground.
 const std::map<std::string, std::vector<std::string_view>> detto = {
     {"diaframma_due_ordini", {"tirante-spostato", "valore-senza-effetto"}},
+    {"diaframma_piede_roccia", {"riposo-del-pendio"}},
     {"paratia_lunga_incastro", {"tirante-spostato", "su-non-usata"}},
     {"pali_armati_staffe", {"ks-ultimo-strato", "ferri-scritti-e-calcolati"}},
     {"trincea_puntellata", {"valore-senza-effetto"}},
