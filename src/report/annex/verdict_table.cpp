@@ -15,7 +15,6 @@
 #include "report/annex/table_pieces.hpp"
 #include "review/limits.hpp"
 #include "safety/margin_words.hpp"
-#include "safety/mesh_words.hpp"
 #include "tables/margin_table.hpp"
 #include "tables/quantities.hpp"
 
@@ -131,14 +130,14 @@ std::string sfruttamenti(const VerificaDoppia* v) {
                     {equilibrio.empty() ? tables::nessuno : equilibrio, relazione});
 }
 
-// Of a check that holds with all meshes, and goes to where it fails: to what; else nothing.
-std::string nonAssestata(const Fascicolo& f, std::initializer_list<dossier::Verifica> quali) {
-    if (!f.margine || !f.margine->maglia) return {};
-    for (const safety::UsoMaglia& u : f.margine->maglia->usi)
-        if (u.esito() == safety::EsitoMaglie::nonAssestata &&
-            std::find(quali.begin(), quali.end(), u.cosa) != quali.end())
-            return traduttore(nomeBreve(u.cosa)) + " " + safety::paroleTendenza(u);
-    return {};
+// A check that holds with all meshes and goes to where it fails; a paragraph below says to what.
+bool nonAssestata(const Fascicolo& f, std::initializer_list<dossier::Verifica> quali) {
+    if (!f.margine || !f.margine->maglia) return false;
+    const auto& usi = f.margine->maglia->usi;
+    return std::any_of(usi.begin(), usi.end(), [&](const safety::UsoMaglia& u) {
+        return u.esito() == safety::EsitoMaglie::nonAssestata &&
+               std::find(quali.begin(), quali.end(), u.cosa) != quali.end();
+    });
 }
 
 std::vector<Cella> verifica(const char* cosa, const Genere& genere, const Fascicolo& f,
@@ -146,13 +145,13 @@ std::vector<Cella> verifica(const char* cosa, const Genere& genere, const Fascic
     const bool fallita = std::any_of(f.verifiche.begin(), f.verifiche.end(), [&](const auto& v) {
         return std::find(quali.begin(), quali.end(), v.cosa) != quali.end() && v.fallita();
     });
-    const std::string tendenza = nonAssestata(f, quali);
     std::string dettaglio = sfruttamenti(piuSfruttata(f, quali));
     if (dettaglio.empty()) dettaglio = traduttore("La resistenza è 0.");
-    if (fallita || tendenza.empty())
-        return riga(cosa, verdetto(genere, fallita), std::move(dettaglio));
-    return riga(cosa, tables::esito(traduttore(genere.nonAssestato), true),
-                dettaglio + base::puntoEVirgola() + tendenza);
+    const bool assestata = fallita || !nonAssestata(f, quali);
+    return riga(cosa,
+                assestata ? verdetto(genere, fallita)
+                          : tables::esito(traduttore(genere.nonAssestato), true),
+                std::move(dettaglio));
 }
 
 std::vector<Cella> equilibrio(const Fascicolo& f) {

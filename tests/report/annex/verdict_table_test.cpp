@@ -48,6 +48,33 @@ TEST(ProspettoVerdetti, TellsOneUseWhereBothAreTheSame) {
               "sfruttamento 98.0 % (momento positivo, fase 2, z = 5.00 m)");
 }
 
+// The equilibrium uses most in one check, the report in the other: the two uses told are of one.
+TEST(ProspettoVerdetti, TellsBothUsesOfOneCheck) {
+    dossier::Fascicolo f = conVerifica({{87.9, 100, false}, {2, 5}}, {{87.8, 100, false}, {2, 5}});
+    f.verifiche.push_back({.cosa = dossier::Verifica::momentoNegativo,
+                           .equilibrio = dossier::LatoVerifica{{-90.2, -100, false}, {3, 7}},
+                           .relazione = dossier::LatoVerifica{{-87.4, -100, false}, {3, 7}},
+                           .perche = "regole"});
+    EXPECT_EQ(riga(prospettoVerdetti(f), "Flessione")[2].testo,
+              "equilibrio: sfruttamento 90.2 % (momento negativo, fase 3, z = 7.00 m); relazione: "
+              "sfruttamento 87.4 % (momento negativo, fase 3, z = 7.00 m); vale il maggiore");
+}
+
+// It holds with the meshes that are tried, and would not with finer ones: no verdict for a cover.
+TEST(ProspettoVerdetti, CallsACheckNotSettledThatGoesBeyondTheResistance) {
+    dossier::Fascicolo f = conVerifica({{90.2, 100, false}, {2, 5}}, {{90.2, 100, false}, {2, 5}});
+    const auto uso = [](double u) { return results::Uso{u, 100, false}; };
+    f.margine->maglia->usi = {
+        {dossier::Verifica::momentoPositivo, {uso(90.2), uso(94.5), uso(98.2)}}};
+    EXPECT_EQ(riga(prospettoVerdetti(f), "Flessione")[1].testo, "non assestata");
+    f.verifiche[0].relazione = dossier::LatoVerifica{{101, 100, true}, {2, 5}};
+    EXPECT_EQ(riga(prospettoVerdetti(f), "Flessione")[1].testo, "NON verificata");
+    f.verifiche[0].relazione.reset();
+    f.margine->maglia->usi = {
+        {dossier::Verifica::momentoPositivo, {uso(90.2), uso(91), uso(91.5)}}};
+    EXPECT_EQ(riga(prospettoVerdetti(f), "Flessione")[1].testo, "verificata");
+}
+
 TEST(ProspettoVerdetti, SaysWhatHoldsAWallWhoseFactorIsBeyondTheRange) {
     auto dati = test::progettoSemplice();
     dati.vincoloPiede = valore(project::VincoloPiede::incastro);
