@@ -10,6 +10,8 @@ namespace {
 constexpr std::size_t righeSopra = 8;
 // Of a page that begins with the first part of a chapter, whose opening words stay behind.
 constexpr double costoPrimaParte = 20;
+// Of a page that begins with the verdict on the table above it.
+constexpr double costoGiudizio = 25;
 
 class Legatore {
  public:
@@ -73,6 +75,10 @@ void lega(const Documento& documento, const std::vector<std::size_t>& inizi, Str
         const auto* p = std::get_if<Paragrafo>(&documento.blocchi[i]);
         const bool tavola = std::holds_alternative<Tavola>(documento.blocchi[i]);
         if (titolo == nullptr && p == nullptr) solePremesse = false;
+        const bool giudizio =
+            p != nullptr && (p->stile == Stile::rilievo || p->stile == Stile::pericolo);
+        if (giudizio && i > 0 && std::holds_alternative<Tavola>(documento.blocchi[i - 1]))
+            strisce[inizi[i]].costo = costoGiudizio;
         if (tavola || (p != nullptr && p->stile == Stile::fisso)) legatore.sopra(i);
         if (tavola) legatore.sotto(i);
     }

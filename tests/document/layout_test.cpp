@@ -122,6 +122,19 @@ TEST(Impagina, LeavesNoChapterAtAFootWithoutItsFirstPart) {
     EXPECT_TRUE(testi(fatto, 1).starts_with("Terreno|Di ogni nodo.|Fase 1|"));
 }
 
+// With it the second page would be as full as the first.
+TEST(Impagina, KeepsAVerdictWithItsTable) {
+    std::string giudizio = "Verificata.";
+    for (int i = 1; i < 12; ++i) giudizio += "\nperché";
+    for (const Stile stile : {Stile::rilievo, Stile::pericolo, Stile::normale}) {
+        const Impaginato fatto =
+            posto({righe(23), Tavola{test::larga(3, 6)}, Paragrafo{giudizio, stile},
+                   test::figura(17, 9.5), SaltoPagina{}, righe(3)});
+        EXPECT_EQ(testi(fatto, 0).find("Verificata.") != std::string::npos,
+                  stile != Stile::normale);
+    }
+}
+
 // As many lines as fit would leave two for the last page.
 TEST(Impagina, LeavesNoLastPageWithHardlyAnythingOnIt) {
     const Impaginato fatto = posto({righe(righePerPagina() - 12), Titolo{2, "Il comando"}, righe(4),

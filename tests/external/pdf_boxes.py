@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""pdf_boxes.py FILE.pdf...: fails if a word of a page lies upon another one or beyond the sheet.
+"""pdf_boxes.py FILE.pdf...: fails if a word of a page lies upon another one or beyond the sheet, or if a page
+but the last has hardly a line.
 
 Asks pdftotext (poppler-utils) for the boxes of all words. A box is as high as the font asks for, with room
 for accents and tails that most words leave empty: two words touch when the boxes of their letters do.
@@ -12,6 +13,7 @@ WORD = re.compile(r'<word xMin="([\d.-]+)" yMin="([\d.-]+)" xMax="([\d.-]+)" yMa
 PAGE = re.compile(r'<page width="([\d.]+)" height="([\d.]+)">(.*?)</page>', re.S)
 EMPTY_ABOVE, EMPTY_BELOW = 0.22, 0.2  # of the height of a box, above capitals and below the base line
 SLACK = 0.3  # [points]
+FEWEST_LINES = 12  # of a page, with its head and its foot; labels of a drawing count
 
 
 def boxes(page):
@@ -30,6 +32,9 @@ def faults(file):
         yield "no pages"
     for number, (width, height, page) in enumerate(pages, 1):
         words = sorted(boxes(page), key=lambda w: w[1])
+        lines = len({round(w[3]) for w in words})
+        if number < len(pages) and lines < FEWEST_LINES:
+            yield f"page {number}: {lines} lines"
         for i, a in enumerate(words):
             if a[0] < 0 or a[1] < 0 or a[2] > float(width) or a[3] > float(height):
                 yield f"page {number}: {a[4]!r} leaves the sheet"
