@@ -112,8 +112,8 @@ inline const std::map<std::string, Texts> noTexts = {
     {"batch/run/told_remarks.cpp", {"korven32c"}},
     {"batch/options/series_options.cpp",
      {"FILE", "CAMPO=DA:A:PASSO", "FIELD=FROM:TO:STEP", "CAMPO=LEGGE(...)", "FIELD=LAW(...)",
-      "CAMPO,CAMPO=R", "FIELD,FIELD=R", "NOMI", "NAMES", "NOME", "NAME", "equilibrium",
-      "iterazione", "iteration"}},
+      "CAMPO,CAMPO=R", "FIELD,FIELD=R", "RISULTATO>VALORE", "RESULT>VALUE", "NOMI", "NAMES", "NOME",
+      "NAME", "equilibrium", "iterazione", "iteration"}},
     {"batch/series.cpp", {"serie", "series"}},
     {"batch/all.cpp", {"pdf", "dxf", "svg", "png", "pdf,dxf,svg,png", "[pdf,dxf]", "tutto", "all"}},
     {"batch/combinations.cpp", {"combinazioni", "combinations"}},
@@ -529,7 +529,7 @@ inline const std::map<std::string, Texts> noTexts = {
     {"shell/forms/history_keys.cpp", {"&Undo", "&Redo"}},  // Qt's own texts
     {"safety/words.hpp", {"equilibrio", "equilibrium"}},
     {"report/annex/bending_tables.cpp",
-     {"NRd,c", "NRd,t", "MRd", "Nd, MRd", "fcd", "σs = Es ε,  -fyd ≤ σs ≤ fyd",
+     {"NRd,c", "NRd,t", "MRd", "Nd, MRd", "fcd", "fyd", "σs = Es ε,  -fyd ≤ σs ≤ fyd",
       "σc = 0.85 fcd · 1000 ε · (1 + 250 ε),  -0.002 ≤ ε < 0;   σc = -0.85 fcd,  ε < -0.002;   σc "
       "= 0,  ε ≥ 0;"}},
     {"report/annex/section_rows.hpp", {"mm²"}},
