@@ -53,11 +53,10 @@ Cella tiro(const Fascicolo& f, int fase, int tirante) {
         return senza("Il progetto non ha questo tirante.");
     const auto& storia = f.tiranti[static_cast<std::size_t>(tirante) - 1];
     if (fase == 0)
-        return storia.faseMassimo > 0
-                   ? tables::forza(storia.massimo)
-                   : senza("In nessuna fase in equilibrio il tirante è in opera.");
+        return storia.faseMassimo > 0 ? tables::forza(storia.massimo)
+                                      : senza("Non è in opera in nessuna fase in equilibrio.");
     const auto& suo = storia.tiri[static_cast<std::size_t>(fase) - 1];
-    return suo ? tables::forza(*suo) : senza("Il tirante non è in opera in questa fase.");
+    return suo ? tables::forza(*suo) : senza("Non è in opera in questa fase.");
 }
 
 const MargineFase* margineFase(const Fascicolo& f, int fase) {

@@ -22,7 +22,7 @@ using safety::Margine;
 namespace unita = project::unita;
 
 constexpr const char* inArrivo = "...";
-constexpr const char* maiInOpera = "In nessuna fase in equilibrio il tirante è in opera.";
+constexpr const char* maiInOpera = "Non è in opera in nessuna fase in equilibrio.";
 
 // Stages may name more anchors than are described.
 int quanti(const PareteViva& parete) {
@@ -86,9 +86,8 @@ Prospetto prospetto(const PareteViva& parete, const Margine* margine, bool inCor
             cella(j), profondita(dati.profTirante[j]), tipo(dati, j), forza(dati.pretTirante[j])});
         for (int k = 1; k <= nFasi(dati); ++k) {
             const auto* fase = parete.fase(k);
-            riga.push_back(fase == nullptr
-                               ? senza(perche(parete, k))
-                               : tiro(fase->tiri, j, "Il tirante non è in opera in questa fase."));
+            riga.push_back(fase == nullptr ? senza(perche(parete, k))
+                                           : tiro(fase->tiri, j, "Non è in opera in questa fase."));
         }
         riga.push_back(tiro(massimi, j, maiInOpera));
         riga.push_back(relazione(margine, inCorso, j));

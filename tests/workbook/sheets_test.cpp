@@ -196,7 +196,7 @@ TEST(Fogli, SayOnceWhyCellsAreEmpty) {
     for (const auto& riga : foglio(cartella, "progetto").prospetto.righe)
         if (riga[0].testo == "Celle vuote: Tiranti") motivi.push_back(riga[1].testo);
     ASSERT_EQ(motivi.size(), 1u);
-    EXPECT_EQ(motivi[0], "Il tirante non è in opera in questa fase.");
+    EXPECT_EQ(motivi[0], "Non è in opera in questa fase.");
 }
 
 TEST(Fogli, AreMadeOfAProjectOfWhichNothingIsKnown) {

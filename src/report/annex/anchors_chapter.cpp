@@ -24,7 +24,7 @@ namespace unita = project::unita;
 
 namespace {
 
-constexpr const char* maiInOpera = "In nessuna fase in equilibrio il tirante è in opera.";
+constexpr const char* maiInOpera = "Non è in opera in nessuna fase in equilibrio.";
 
 // How many ties and how many struts the table has.
 struct Conto {
@@ -108,7 +108,7 @@ Prospetto forze(const Fascicolo& f) {
                                    : senzaRelazione(f));
     }
     p.note.push_back(
-        traduttore("Alla posa: alla fine della fase che mette in opera il tirante. Massima: fra le "
+        traduttore("Alla posa: alla fine della fase che lo mette in opera. Massima: fra le "
                    "fasi in equilibrio."));
     p.note.push_back(
         traduttore("Relazione: forza che la relazione stampa, cioè pretensione più rigidezza per "
@@ -128,9 +128,8 @@ Prospetto perFase(const Fascicolo& f) {
         auto& riga = p.righe.emplace_back(std::vector{tables::cella(k)});
         for (const StoriaTirante& t : f.tiranti) {
             const auto& tiro = t.tiri.at(static_cast<std::size_t>(k) - 1);
-            riga.push_back(
-                tiro ? tables::forza(*tiro)
-                     : tables::senza(traduttore("Il tirante non è in opera in questa fase.")));
+            riga.push_back(tiro ? tables::forza(*tiro)
+                                : tables::senza(traduttore("Non è in opera in questa fase.")));
         }
     }
     if (!f.parete.sta())

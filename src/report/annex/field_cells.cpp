@@ -7,11 +7,13 @@
 #include <type_traits>
 #include <utility>
 
+#include "base/code_page.hpp"
 #include "base/filled_text.hpp"
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
 #include "drawings/log/layer_text.hpp"
 #include "live/section_checks.hpp"
+#include "project/anchor_names.hpp"
 #include "project/code_words.hpp"
 #include "project/codes.hpp"
 #include "project/units_per_metre.hpp"
@@ -59,6 +61,14 @@ bool sempre(F) { return true; }
 
 bool diPalancola(F f) {
     return project::parteInVigore(f.parete.dati.sezione) == project::Parte::palancola;
+}
+
+bool soloPuntoni(F f) {
+    const DatiProgetto& dati = f.parete.dati;
+    const int n = std::clamp(dati.nTiranti, 0, project::massimoTiranti);
+    for (int j = 1; j <= n; ++j)
+        if (!project::puntone(dati, j)) return false;
+    return n > 0;
 }
 
 // The first that holds counts.
@@ -113,6 +123,8 @@ constexpr Regola regole[] = {
     {&project::Sezione::armNumLong, sempre, true,
      "le barre del palo sono quelle usate; la scheda e la relazione ne mostrano dieci volte "
      "tante"},
+    {&DatiProgetto::rigTirante, soloPuntoni, true, "orizzontale e per metro di paratia"},
+    {&DatiProgetto::pretTirante, soloPuntoni, true, "orizzontale e per metro di paratia"},
     {&DatiProgetto::rigTirante, sempre, true,
      "orizzontale e per metro di paratia; chi la scrive ha già moltiplicato per cos² alfa"},
     {&DatiProgetto::pretTirante, sempre, true,
@@ -130,7 +142,25 @@ bool flag(const Campo& campo) {
     return std::holds_alternative<bool project::Sezione::*>(campo.membro);
 }
 
+struct NomeProprio {
+    project::Membro membro;
+    const char* nome;  // Italian key
+};
+
+constexpr NomeProprio nomiPropri[] = {
+    {&DatiProgetto::nTiranti, "Numero di tiranti e puntoni"},
+    {&DatiProgetto::tirantiFase, "Tiranti e puntoni in opera"},
+    {&DatiProgetto::rigTirante, "Rigidezza"},
+    {&DatiProgetto::pretTirante, "Pretensione"},
+};
+
 }  // namespace
+
+std::string nomeDetto(const Campo& campo) {
+    for (const auto& [membro, nome] : nomiPropri)
+        if (campo.membro == membro) return traduttore(nome);
+    return base::conMaiuscola(traduttore(flag(campo) ? campo.didascalia : campo.cosa));
+}
 
 std::string unitaDetta(const Campo& campo) { return std::string(unitaAlMetro(campo).mostrata); }
 

@@ -17,6 +17,10 @@ namespace korven::report {
 [[nodiscard]] tables::Cella scritto(const project::DatiProgetto& dati, const project::Campo& campo,
                                     int riga = 1);
 
+/// What a field is called in a document that has struts too, which people do not call anchors; a
+/// flag by its caption, which tells more than "0 or -1".
+[[nodiscard]] std::string nomeDetto(const project::Campo& campo);
+
 /// The unit that a value is shown in, with "/m" for what acts on a metre of wall.
 [[nodiscard]] std::string unitaDetta(const project::Campo& campo);
 

@@ -26,12 +26,6 @@ using tables::parola;
 
 namespace {
 
-// What a field is called: its caption where that tells more than a flag's "0 or -1".
-std::string nome(const Campo& campo) {
-    const bool flag = std::holds_alternative<bool project::Sezione::*>(campo.membro);
-    return conMaiuscola(traduttore(flag ? campo.didascalia : campo.cosa));
-}
-
 tables::Prospetto prospettoValori(const char* titolo) {
     return {.titolo = traduttore(titolo),
             .colonne = {colonna("Significato"), colonna("Campo"), colonna("Unità"),
@@ -40,7 +34,7 @@ tables::Prospetto prospettoValori(const char* titolo) {
 
 void riga(const Fascicolo& f, const Campo& campo, tables::Prospetto& p) {
     const Uso suo = uso(f, campo);
-    p.righe.push_back({parola(nome(campo)), parola(project::nomeStabile(campo)),
+    p.righe.push_back({parola(nomeDetto(campo)), parola(project::nomeStabile(campo)),
                        parola(unitaDetta(campo)), scritto(f.scritti, campo), usato(f, campo),
                        parola(suo.nota)});
 }
@@ -64,12 +58,17 @@ tables::Prospetto dellaSezione(const Fascicolo& f, bool lette) {
     return p;
 }
 
+bool tirantiInOpera(const Campo& campo) {
+    return campo.membro == project::Membro(&project::DatiProgetto::tirantiFase);
+}
+
 tables::Colonna testa(const Campo& campo) {
     // A caption of the editor is short, and translated together with its unit; what no editor shows
     // has its name alone.
     const std::string unita = " " + project::traParentesi(campo.unita);
-    std::string titolo = campo.didascalia.empty() ? conMaiuscola(traduttore(campo.cosa))
-                                                  : traduttore(project::etichetta(campo));
+    std::string titolo = tirantiInOpera(campo)      ? nomeDetto(campo)
+                         : campo.didascalia.empty() ? conMaiuscola(traduttore(campo.cosa))
+                                                    : traduttore(project::etichetta(campo));
     if (titolo.ends_with(unita)) titolo.erase(titolo.size() - unita.size());
     return {.titolo = titolo,
             .unita = unitaDetta(campo),
@@ -94,7 +93,8 @@ tables::Prospetto tabella(const Fascicolo& f, Parte parte, const char* titolo) {
         }
         const Uso suo = uso(f, campo);
         letti = letti && suo.letto;
-        if (!suo.nota.empty()) p.note.push_back(nome(campo) + base::duePunti() + suo.nota + ".");
+        if (!suo.nota.empty())
+            p.note.push_back(nomeDetto(campo) + base::duePunti() + suo.nota + ".");
     }
     if (righe == 0) p.note = {traduttore("La tabella è vuota.")};
     if (righe > 0 && uguali)

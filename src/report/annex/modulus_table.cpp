@@ -60,6 +60,7 @@ void lineare(const Fascicolo& f, Prospetto& p) {
         }
     }
     p.note.push_back("ks = ks(t) + (ks(b) − ks(t)) · (z − t) / (b − t)");
+    p.note.push_back(traduttore("t, b: profondità della testa e del fondo dello strato."));
     if (const int n = strati(f); n > 0 && dati.modoKs != project::ModoKs::comeMonte)
         p.note.push_back(riempito(
             traduttore("A monte l'ultimo strato conta fino a %1 m sotto il suo fondo, e ks vi "
@@ -101,6 +102,11 @@ void bowles(const Fascicolo& f, Prospetto& p) {
                    "peso scritto per l'acqua; la tensione è quella efficace del lato, anche quando "
                    "le pressioni usano quella totale."),
         {"γ", base::testoNumero(mostrato(unita::modulo, analysis::alleggerimentoBowles))}));
+    p.note.push_back(riempito(
+        traduttore("Il termine della larghezza, 0.5 %1 B %2 nella portanza di una fondazione larga "
+                   "B, è qui %1 %2, come con B = 2 m; %3 è in 1/m: la portanza divisa per 25 mm di "
+                   "cedimento. A e B in kN/m³, C in 1/m, %4 e u in kN/m²."),
+        {"γ", "Nγ", quaranta, "σv"}));
     if (dati.modoSpinte == project::ModoSpinte::comeMonte &&
         dati.modoKs != project::ModoKs::comeMonte)
         p.note.push_back(
@@ -110,7 +116,7 @@ void bowles(const Fascicolo& f, Prospetto& p) {
 
 void lancellotta(const Fascicolo& f, Prospetto& p) {
     const DatiProgetto& dati = f.parete.dati;
-    p.colonne = {colonnaStrato(), simboli(unita::nessuna, "m")};
+    p.colonne = {colonnaStrato(), {.titolo = "m", .unita = "t^½/m²"}};
     for (int j = 1; j <= strati(f); ++j)
         p.righe.push_back(
             {tables::cella(j), {.testo = base::testoNumero(dati.coeffM), .numero = dati.coeffM}});

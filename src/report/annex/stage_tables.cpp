@@ -11,6 +11,7 @@
 #include "project/anchor_names.hpp"
 #include "project/field_table.hpp"
 #include "report/annex/columns.hpp"
+#include "report/annex/field_cells.hpp"
 #include "report/annex/table_pieces.hpp"
 
 namespace korven::report {
@@ -31,8 +32,7 @@ namespace {
 void campo(const DatiProgetto& dati, const project::Membro& membro, int fase, Prospetto& p) {
     const project::Campo& c = project::campo(membro);
     const double valore = project::numeroConservato(dati, c, fase);
-    p.colonne.push_back(
-        {.titolo = base::conMaiuscola(traduttore(c.cosa)), .unita = std::string(c.unita.mostrata)});
+    p.colonne.push_back({.titolo = nomeDetto(c), .unita = std::string(c.unita.mostrata)});
     p.righe.back().push_back(c.unita.mostrata.empty()
                                  ? Cella{.testo = base::testoNumero(valore), .numero = valore}
                                  : tables::cella(valore, 2, c.unita));
@@ -128,8 +128,8 @@ std::string fraseBilanci(const Fascicolo& f) {
     std::string frase = traduttore(
         "Di ogni fase c'è l'equilibrio di tutto ciò che agisce sulla paratia: momenti attorno alla "
         "testa, positivi se una forza positiva agisce sotto di essa; z è la profondità della "
-        "risultante. Un tirante teso tira verso terra: la sua forza è negativa. La somma è quanto "
-        "l'arrotondamento lascia.");
+        "risultante. Un tirante teso e un puntone compresso tengono la paratia verso terra: la "
+        "loro forza è negativa. La somma è quanto l'arrotondamento lascia.");
     if (f.parete.dati.momentoTesta != 0)
         frase += " " + traduttore(
                            "Un momento in testa positivo gira la testa verso lo scavo, cioè nel "
@@ -151,8 +151,8 @@ std::string fraseSomme(const Fascicolo& f, int righe) {
                                 {base::nomeOpzioneRighe.mostrato() + " " + std::to_string(nodi)});
     if (!f.tiranti.empty())
         frase += " " + traduttore(
-                           "Nel nodo di un tirante il taglio ha due valori, subito sopra e subito "
-                           "sotto: la differenza è la forza del tirante. Massimi, minimi e "
+                           "Nel nodo di un tirante o di un puntone il taglio ha due valori, subito "
+                           "sopra e subito sotto: la differenza è la sua forza. Massimi, minimi e "
                            "inviluppi contano tutti e due.");
     if (!f.bilanci.empty() && f.bilanci.back().incastro.momento != 0)
         frase += " " + frasePiede(f.bilanci.back());

@@ -34,9 +34,9 @@ void introduzione(const Fascicolo& f, int righe, Blocchi& blocchi) {
         riempito(
             traduttore("Di ogni fase c'è la soluzione di equilibrio: la paratia, divisa in %1 "
                        "segmenti di %2 m, è in equilibrio in ogni nodo con terreno, acqua, "
-                       "tiranti, vincoli e carichi. Un tirante agisce dalla fase che lo mette in "
-                       "opera e conta gli spostamenti da allora; il terreno non ricorda le fasi "
-                       "precedenti."),
+                       "tiranti, puntoni, vincoli e carichi. Un tirante o un puntone agisce dalla "
+                       "fase che lo mette in opera e conta gli spostamenti da allora; il terreno "
+                       "non ricorda le fasi precedenti."),
             {std::to_string(f.parete.nSeg),
              tables::cella(f.parete.h, 4, project::unita::metri).testo}),
         blocchi);

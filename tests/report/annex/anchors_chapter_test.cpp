@@ -71,7 +71,7 @@ TEST(CapitoloTiranti, TellsAnAnchorThatNoStagePutsInPlace) {
     for (const auto& cella : {elenco.righe[1][6], elenco.righe[1][7], forze.righe[1][1],
                               forze.righe[1][2], forze.righe[1][3], forze.righe[1][4]}) {
         EXPECT_EQ(cella.testo, "-");
-        EXPECT_EQ(cella.perche, "In nessuna fase in equilibrio il tirante è in opera.");
+        EXPECT_EQ(cella.perche, "Non è in opera in nessuna fase in equilibrio.");
     }
 }
 
