@@ -16,6 +16,13 @@ inline constexpr Gemelli nomeOpzioneNseg{"--nseg", "--segments"};
 inline constexpr Gemelli nomeOpzioneRighe{"--righe", "--rows"};
 inline constexpr Gemelli nomeOpzioneData{"--data", "--date"};
 inline constexpr Gemelli nomeOpzioneSevero{"--severo", "--strict"};
+inline constexpr Gemelli nomeOpzioneNorma{"--norma", "--code"};
+inline constexpr Gemelli nomeOpzioneSovraccarico{"--sovraccarico", "--surcharge"};
+inline constexpr Gemelli nomeOpzioneSovraccaricoScavo{"--sovraccarico-scavo",
+                                                      "--excavation-surcharge"};
+inline constexpr Gemelli nomeOpzioneCarichiTesta{"--carichi-testa", "--head-loads"};
+inline constexpr Gemelli naturaPermanente{"permanente", "permanent"};
+inline constexpr Gemelli naturaVariabile{"variabile", "variable"};
 inline constexpr Gemelli nomeOpzioneEJ = uguali("--ej");
 inline constexpr Gemelli rigidezzaMantenuta{"mantieni", "keep"};
 inline constexpr Gemelli rigidezzaRicalcolata{"ricalcola", "recalculate"};

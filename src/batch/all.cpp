@@ -166,9 +166,9 @@ void allegato(const Consegna& consegna, project::DatiProgetto usati, CorsaConsol
     usati.rigidezzaEJ = Progetto.rigidezzaEJ;
     const auto nSeg = analysis::leggiNSeg(analysis::vincoli(usati).incastroPiede);
     if (!nSeg || esito.causa == safety::Causa::rifiutato || Interruzioni::chiesta() != 0) return;
-    dossier::Fascicolo fascicolo =
-        fascicoloCalcolato(consegna.opzioni, usati, *nSeg,
-                           comandoAllegato(consegna.opzioni, consegna.formatiAllegato), esito);
+    dossier::Fascicolo fascicolo = fascicoloCalcolato(
+        consegna.opzioni, usati, *nSeg,
+        {.comando = comandoAllegato(consegna.opzioni, consegna.formatiAllegato)}, esito);
     if (!corsa.interrotta())
         scriviAllegato(std::move(fascicolo), consegna.formatiAllegato, consegna.porte.disco,
                        consegna.esito);

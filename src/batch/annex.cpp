@@ -1,15 +1,20 @@
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "base/files.hpp"
 #include "base/folders/file_names.hpp"
+#include "base/option_names.hpp"
 #include "batch/command_table.hpp"
 #include "batch/options/common_options.hpp"
+#include "batch/options/wrong_usage.hpp"
 #include "batch/run/annex_output.hpp"
 #include "batch/run/command_ports.hpp"
 #include "batch/run/drawing_formats.hpp"
+#include "batch/run/failure.hpp"
 #include "batch/run/output_names.hpp"
+#include "batch/run/requested_code.hpp"
 
 namespace korven::batch {
 
@@ -22,7 +27,23 @@ FormatiAllegato formati(const Opzioni& opzioni) {
     return chiesti;
 }
 
+// What the loads are only matters to a code.
+bool caricoSenzaNorma(const Opzioni& opzioni) {
+    return opzioni.norma.empty() && opzioni.natura != factors::NaturaCarichi();
+}
+
 int esegui(const Opzioni& opzioni, const PorteComando& porte, Esito& esito) {
+    if (caricoSenzaNorma(opzioni)) {
+        esito.inMemoria = true;
+        fallisci(usoErrato, mancaArgomento(base::nomeOpzioneNorma.mostrato()), esito);
+        return esito.codice;
+    }
+    std::optional<factors::NormaChiesta> norma;
+    if (!opzioni.norma.empty()) {
+        esito.inMemoria = true;
+        norma = normaChiesta(opzioni, esito);
+        if (!norma) return esito.codice;
+    }
     FormatiAllegato chiesti;
     return conFascicolo(
         opzioni, esito,
@@ -31,9 +52,11 @@ int esegui(const Opzioni& opzioni, const PorteComando& porte, Esito& esito) {
             chiesti = formati(opzioni);
             controllaFile(chiesti.file(), porte.disco);
         },
-        [&](int nSeg, const std::string& data) {
-            return comandoAllegato(opzioni, chiesti)(nSeg, data);
-        },
+        {.comando =
+             [&](int nSeg, const std::string& data) {
+                 return comandoAllegato(opzioni, chiesti, norma)(nSeg, data);
+             },
+         .norma = norma},
         [&](dossier::Fascicolo fascicolo) {
             const AmbienteDisegno ambiente(!chiesti.pdf.empty());
             scriviAllegato(std::move(fascicolo), chiesti, porte.disco, esito);
@@ -61,10 +84,13 @@ std::vector<RigaOpzione> opzioniAllegato() {
 }  // namespace
 
 RigaComando comandoAllegato() {
-    RigaComando riga = {
-        base::parolaAllegato,
-        "scrive l'allegato di calcolo: ipotesi, dati, fasi, verifiche e margine",
-        insieme({opzioniModello(), {opzioneSevero(), opzioneEJ()}, opzioniAllegato()}), esegui};
+    RigaComando riga = {base::parolaAllegato,
+                        "scrive l'allegato di calcolo: ipotesi, dati, fasi, verifiche e margine",
+                        insieme({opzioniModello(),
+                                 {opzioneSevero(), opzioneEJ()},
+                                 opzioniNorma(false),
+                                 opzioniAllegato()}),
+                        esegui};
     riga.calcola = true;
     return riga;
 }

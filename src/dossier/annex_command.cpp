@@ -18,6 +18,19 @@ std::string opzione(const std::string& nome, std::string_view valore) {
     return nome + " " + base::perLaShell(valore);
 }
 
+// With what the loads are, all of it: nobody who reads it has to know what they are without a word.
+std::vector<std::string> opzioniNorma(const factors::NormaChiesta& chiesta) {
+    const auto natura = [](const base::Gemelli& nome, factors::Natura quale) {
+        const bool permanente = quale == factors::Natura::permanente;
+        return opzione(nome.mostrato(),
+                       (permanente ? base::naturaPermanente : base::naturaVariabile).mostrato());
+    };
+    return {opzione(base::nomeOpzioneNorma.mostrato(), chiesta.norma.nome),
+            natura(base::nomeOpzioneSovraccarico, chiesta.natura.monte),
+            natura(base::nomeOpzioneSovraccaricoScavo, chiesta.natura.scavo),
+            natura(base::nomeOpzioneCarichiTesta, chiesta.natura.testa)};
+}
+
 }  // namespace
 
 std::vector<std::string> opzioni(const AlPostoDelProgetto& alPosto) {
@@ -48,6 +61,8 @@ std::string comando(const ComandoAllegato& allegato) {
     aggiungi("--doc", allegato.documento);
     aggiungi("--txt", allegato.testo);
     for (const auto& una : opzioni(allegato.alPosto)) testo += " " + una;
+    if (allegato.norma)
+        for (const auto& una : opzioniNorma(*allegato.norma)) testo += " " + una;
     if (allegato.righe)
         aggiungi(base::nomeOpzioneRighe.mostrato(), std::to_string(*allegato.righe));
     aggiungi(base::nomeOpzioneData.mostrato(), allegato.data);

@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "factors/requested_code.hpp"
+
 namespace korven::dossier {
 
 /// What the command line puts in the place of a project's own.
@@ -24,11 +26,12 @@ struct AlPostoDelProgetto {
 
 /// What makes an annex: a command of korven32c.
 struct ComandoAllegato {
-    std::string progetto;                     ///< path
-    std::string pdf{}, documento{}, testo{};  ///< paths of its files; empty: not written
-    AlPostoDelProgetto alPosto{};             ///< with the segments of the run
-    std::optional<int> righe{};               ///< of a stage's table of nodes; nothing: as usual
-    std::string data;                         ///< of the document
+    std::string progetto;                          ///< path
+    std::string pdf{}, documento{}, testo{};       ///< paths of its files; empty: not written
+    AlPostoDelProgetto alPosto{};                  ///< with the segments of the run
+    std::optional<factors::NormaChiesta> norma{};  ///< that the document has a chapter on
+    std::optional<int> righe{};  ///< of a stage's table of nodes; nothing: as usual
+    std::string data;            ///< of the document
 };
 
 /// It makes the same document again, byte by byte, in the language in use; words are quoted as a

@@ -63,6 +63,12 @@ void sezione(Fascicolo& f) {
     f.taglio = valoriTaglio(f.parete.dati, f.controlli);
 }
 
+// Like the margin: of data that no run refuses.
+void combinazioni(const factors::NormaChiesta& chiesta, Fascicolo& f) {
+    if (!safety::haMargine(f.parete.dati, f.parete.nSeg)) return;
+    f.norma = factors::combinazioni(f.parete.dati, f.parete.nSeg, chiesta.norma, chiesta.natura);
+}
+
 class InSilenzio : public analysis::OsservatoreCorsa {};
 
 }  // namespace
@@ -86,6 +92,7 @@ Fascicolo fascicolo(const Richiesta& richiesta, analysis::OsservatoreCorsa& osse
     prova([&] { sezione(f); });
     prova([&] { f.terreno = valoriTerreno(f.parete); });
     prova([&] { f.rigidezza = valoriRigidezza(f.parete.dati); });
+    if (richiesta.norma) prova([&] { combinazioni(*richiesta.norma, f); });
     return f;
 }
 

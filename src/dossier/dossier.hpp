@@ -13,6 +13,8 @@
 #include "dossier/soil_values.hpp"
 #include "dossier/specified_run.hpp"
 #include "dossier/twin_numbers.hpp"
+#include "factors/combinations.hpp"
+#include "factors/requested_code.hpp"
 #include "live/envelope.hpp"
 #include "live/section_checks.hpp"
 #include "live/wall.hpp"
@@ -52,6 +54,9 @@ struct Fascicolo {
     std::optional<ValoriTaglio> taglio;            ///< nothing without stirrups
     ValoriTerreno terreno;
     ValoriRigidezza rigidezza;
+    /// The wall under the combinations of a code; nothing where none was asked for, or a run would
+    /// be refused.
+    std::optional<factors::Combinazioni> norma;
 
     /// True if the specified run came to rest in all stages and its report has numbers.
     [[nodiscard]] bool conRelazione() const { return margine && margine->relazione; }
@@ -66,6 +71,7 @@ struct Richiesta {
     Identita identita;            ///< without program, version and imprint, which are set
     /// On the project and its file; nothing: the project is reviewed without a file.
     std::optional<review::Osservazioni> sulProgetto;
+    std::optional<factors::NormaChiesta> norma{};  ///< a code to be followed beside
 };
 
 /// Computes all of it, in memory and in any thread; no file is written or read, but for `nseg.txt`

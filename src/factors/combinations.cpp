@@ -52,6 +52,11 @@ bool Combinazioni::verificate() const {
     return std::all_of(esiti.begin(), esiti.end(), [](const auto& e) { return e.verificata(); });
 }
 
+bool Combinazioni::conVerifiche() const {
+    return std::any_of(esiti.begin(), esiti.end(),
+                       [](const EsitoCombinazione& e) { return !e.verifiche.empty(); });
+}
+
 std::optional<std::pair<std::size_t, Verifica>> Combinazioni::peggiore(Oggetto oggetto) const {
     std::optional<std::pair<std::size_t, Verifica>> peggiore;
     for (std::size_t i = 0; i < esiti.size(); ++i)

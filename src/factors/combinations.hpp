@@ -36,6 +36,8 @@ struct Combinazioni {
     [[nodiscard]] bool sta() const;
     /// All stand and all their checks are met.
     [[nodiscard]] bool verificate() const;
+    /// Some combination has a check to be met.
+    [[nodiscard]] bool conVerifiche() const;
     /// The first that does not stand; nullptr if all do.
     [[nodiscard]] const EsitoCombinazione* caduta() const;
     /// The check of that kind that is nearest to its resistance, or fails, and which combination it

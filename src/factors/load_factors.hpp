@@ -16,6 +16,8 @@ struct NaturaCarichi {
     Natura monte = Natura::variabile;  ///< `sovraccMonte`
     Natura scavo = Natura::variabile;  ///< `sovraccFase`
     Natura testa = Natura::variabile;  ///< `forzaTesta` and `momentoTesta`
+
+    bool operator==(const NaturaCarichi&) const = default;
 };
 
 /// By what each load of the project is multiplied before the wall is computed.

@@ -74,6 +74,27 @@ std::string caduta(const EsitoCombinazione& combinazione) {
     return combinazione.combinazione.nome + base::duePunti() + perche;
 }
 
+std::string verdetto(const Combinazioni& combinazioni) {
+    if (combinazioni.sta() && !combinazioni.conVerifiche())
+        return traduttore("Tutte le combinazioni sono in equilibrio; non ci sono verifiche.");
+    if (combinazioni.verificate())
+        return traduttore("Tutte le combinazioni sono in equilibrio e verificate.");
+    std::string cadute, fallite;
+    for (const EsitoCombinazione& e : combinazioni.esiti) {
+        if (e.verificata()) continue;
+        std::string& nomi = e.sta() ? fallite : cadute;
+        nomi += (nomi.empty() ? "" : ", ") + e.combinazione.nome;
+    }
+    std::string testo;
+    if (!cadute.empty())
+        testo = base::riempito(traduttore("Combinazioni senza equilibrio: %1."), {cadute});
+    if (!fallite.empty())
+        testo += (testo.empty() ? "" : " ") +
+                 base::riempito(traduttore("Combinazioni con verifiche NON soddisfatte: %1."),
+                                {fallite});
+    return testo;
+}
+
 std::vector<std::string> note(const Combinazioni& combinazioni, const project::DatiProgetto& dati) {
     std::vector<std::string> note;
     if (!combinazioni.sta())

@@ -27,6 +27,10 @@ namespace korven::factors {
 /// Why it does not stand, in one line with its name; empty for one that does.
 [[nodiscard]] std::string caduta(const EsitoCombinazione& combinazione);
 
+/// What becomes of all of them: "Tutte le combinazioni sono in equilibrio e verificate.", or the
+/// names of those that are not.
+[[nodiscard]] std::string verdetto(const Combinazioni& combinazioni);
+
 /// What whoever uses the numbers has to know of them, a sentence each.
 /// @param dati  the project
 [[nodiscard]] std::vector<std::string> note(const Combinazioni& combinazioni,

@@ -57,6 +57,35 @@ TEST_F(AllegatoDaFuori, CanBeMadeAgainByteByByte) {
     EXPECT_TRUE(primo == test::contenuto(pdf));
 }
 
+TEST_F(AllegatoDaFuori, HasAChapterOnTheCodeThatIsAskedFor) {
+    esempio("diaframma_due_ordini");
+    const std::string testo = cartella / "a.txt";
+    const std::vector<std::string> opzioni = {"--txt",          testo,       "--data",
+                                              "2026-11-22",     "--norma",   "en1997-da1",
+                                              "--sovraccarico", "permanente"};
+    const auto esito = comando(opzioni);
+    EXPECT_EQ(esito.codice, 0) << esito.errori;
+    const std::string scritto = test::contenuto(testo);
+    EXPECT_TRUE(dice(scritto, "10. COMBINAZIONI DI EN 1997-1:2004, DA1")) << esito.errori;
+    // The way to make it again says what the loads are, all of them.
+    EXPECT_TRUE(dice(scritto, "--norma en1997-da1"));
+    EXPECT_TRUE(dice(scritto, "--sovraccarico permanente"));
+    EXPECT_TRUE(dice(scritto, "--sovraccarico-scavo variabile"));
+    EXPECT_TRUE(dice(scritto, "--carichi-testa variabile"));
+}
+
+TEST_F(AllegatoDaFuori, RefusesACodeThatThereIsNotAndLoadsWithoutACode) {
+    esempio("diaframma_due_ordini");
+    const auto ignota = comando({"--norma", "boh"});
+    EXPECT_EQ(ignota.codice, 2);
+    EXPECT_TRUE(dice(ignota.errori, "«boh»")) << ignota.errori;
+    EXPECT_TRUE(dice(ignota.errori, "ntc2018"));
+    const auto senza = comando({"--sovraccarico", "permanente"});
+    EXPECT_EQ(senza.codice, 2);
+    EXPECT_TRUE(dice(senza.errori, "--norma")) << senza.errori;
+    EXPECT_FALSE(fs::exists(accanto("-allegato.pdf")));
+}
+
 TEST_F(AllegatoDaFuori, IsWrittenAsTextAndForWordProcessorsToo) {
     esempio("pali_armati_staffe");
     const std::string txt = cartella / "a.txt", doc = cartella / "a.doc";

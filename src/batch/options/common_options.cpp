@@ -44,11 +44,10 @@ RigaOpzione opzioneUscita(bool obbligatoria) {
     return riga;
 }
 
-constexpr base::Gemelli permanente{"permanente", "permanent"}, variabile{"variabile", "variable"};
-
 // Which of the two a load is.
 RigaOpzione opzioneNatura(const base::Gemelli& nome, std::string spiegazione, Scegli scegli) {
-    return {nome, std::move(spiegazione), scegli, {}, {permanente, variabile}};
+    return {
+        nome, std::move(spiegazione), scegli, {}, {base::naturaPermanente, base::naturaVariabile}};
 }
 
 template <factors::Natura factors::NaturaCarichi::*carico>
@@ -165,7 +164,7 @@ std::vector<RigaOpzione> opzioniDisegno() {
 }
 
 std::vector<RigaOpzione> opzioniNorma(bool obbligatoria) {
-    RigaOpzione norma = {{"--norma", "--code"},
+    RigaOpzione norma = {base::nomeOpzioneNorma,
                          "norma di combinazioni.txt o di combinazioni_utente.txt",
                          [](Opzioni& o, const std::string& valore) {
                              o.norma = valore;
@@ -176,13 +175,13 @@ std::vector<RigaOpzione> opzioniNorma(bool obbligatoria) {
     using factors::NaturaCarichi;
     return {
         norma,
-        opzioneNatura({"--sovraccarico", "--surcharge"},
+        opzioneNatura(base::nomeOpzioneSovraccarico,
                       "che cos'è il sovraccarico a monte; senza l'opzione variabile",
                       scegliNatura<&NaturaCarichi::monte>),
-        opzioneNatura({"--sovraccarico-scavo", "--excavation-surcharge"},
+        opzioneNatura(base::nomeOpzioneSovraccaricoScavo,
                       "che cos'è il sovraccarico sul fondo dello scavo; senza l'opzione variabile",
                       scegliNatura<&NaturaCarichi::scavo>),
-        opzioneNatura({"--carichi-testa", "--head-loads"},
+        opzioneNatura(base::nomeOpzioneCarichiTesta,
                       "che cosa sono forza e momento in testa; senza l'opzione variabili",
                       scegliNatura<&NaturaCarichi::testa>)};
 }

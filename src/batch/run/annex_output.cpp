@@ -20,13 +20,15 @@ FormatiAllegato allegatoAccanto(FormatiAllegato chiesti) {
     return chiesti;
 }
 
-ComandoDocumento comandoAllegato(const Opzioni& opzioni, const FormatiAllegato& formati) {
-    return [&opzioni, formati](int nSeg, const std::string& data) {
+ComandoDocumento comandoAllegato(const Opzioni& opzioni, const FormatiAllegato& formati,
+                                 const std::optional<factors::NormaChiesta>& norma) {
+    return [&opzioni, formati, norma](int nSeg, const std::string& data) {
         dossier::ComandoAllegato comando{.progetto = opzioni.progetto,
                                          .pdf = formati.pdf,
                                          .documento = formati.documento,
                                          .testo = formati.testo,
                                          .alPosto = alPostoDelProgetto(opzioni),
+                                         .norma = norma,
                                          .data = data};
         comando.alPosto.nSeg = std::to_string(nSeg);
         if (formati.righe != FormatiAllegato().righe) comando.righe = formati.righe;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "base/disk.hpp"
 #include "batch/options/choices.hpp"
 #include "batch/run/computed_dossier.hpp"
@@ -13,8 +15,10 @@ namespace korven::batch {
 
 /// The command that makes an annex again, byte by byte, as a shell takes it.
 /// @param formati  with the names of the files
-[[nodiscard]] ComandoDocumento comandoAllegato(const Opzioni& opzioni,
-                                               const FormatiAllegato& formati);
+/// @param norma    that it has a chapter on; nothing: none
+[[nodiscard]] ComandoDocumento comandoAllegato(
+    const Opzioni& opzioni, const FormatiAllegato& formati,
+    const std::optional<factors::NormaChiesta>& norma = {});
 
 /// Writes the annex and names its files in the outcome, those too that were written before one
 /// failed.

@@ -20,19 +20,19 @@ dossier::AlPostoDelProgetto alPostoDelProgetto(const Opzioni& opzioni) {
 }
 
 dossier::Fascicolo fascicoloCalcolato(const Opzioni& opzioni, const project::DatiProgetto& usati,
-                                      int nSeg, const ComandoDocumento& comando,
-                                      const Esito& esito) {
+                                      int nSeg, const Accanto& accanto, const Esito& esito) {
     dossier::Identita identita;
     identita.file = opzioni.progetto;
     identita.data = dossier::data(dossier::fontiDiSistema(opzioni.data));
     identita.opzioni = dossier::opzioniDette(alPostoDelProgetto(opzioni), nSeg);
-    if (comando) identita.comando = comando(nSeg, identita.data);
+    if (accanto.comando) identita.comando = accanto.comando(nSeg, identita.data);
     FinoAllInterruzione osservatore;
     return dossier::fascicolo({.scritti = esito.scritti,
                                .usati = usati,
                                .nSeg = nSeg,
                                .identita = std::move(identita),
-                               .sulProgetto = esito.osservazioni},
+                               .sulProgetto = esito.osservazioni,
+                               .norma = accanto.norma},
                               osservatore);
 }
 
@@ -50,14 +50,13 @@ bool raccontaVerdetto(const safety::Margine* margine, base::Dialogo& dialogo, Es
 }
 
 int conFascicolo(const Opzioni& opzioni, Esito& esito, const std::function<void()>& controlla,
-                 const ComandoDocumento& comando,
-                 const std::function<void(dossier::Fascicolo)>& scrivi) {
+                 const Accanto& accanto, const std::function<void(dossier::Fascicolo)>& scrivi) {
     esito.inMemoria = true;
     return calcolaInMemoria(
         opzioni, esito, [&](const analysis::Avvio& avvio, base::Dialogo& dialogo) -> int {
             controlla();
             dossier::Fascicolo fascicolo =
-                fascicoloCalcolato(opzioni, project::Progetto, avvio.nSeg, comando, esito);
+                fascicoloCalcolato(opzioni, project::Progetto, avvio.nSeg, accanto, esito);
             if (Interruzioni::chiesta() != 0) {
                 racconta({base::traduttore("Calcolo interrotto dall'utente.")}, esito);
                 annota({safety::Causa::fermato, {}}, esito);

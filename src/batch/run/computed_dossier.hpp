@@ -17,14 +17,18 @@ namespace korven::batch {
 /// The command that makes a document again, of the segments of the run and of the date that it has.
 using ComandoDocumento = std::function<std::string(int nSeg, const std::string& data)>;
 
+/// What a document tells beside the project.
+struct Accanto {
+    ComandoDocumento comando{};                    ///< empty: not how it is made
+    std::optional<factors::NormaChiesta> norma{};  ///< nothing: no code
+};
+
 /// Computes all that is told of a project that was read and reviewed. An interrupt stops what can
 /// be stopped of it: ask `Interruzioni` afterwards.
 /// @param usati    what the run is made with
-/// @param comando  empty: the document does not tell how it is made
 [[nodiscard]] dossier::Fascicolo fascicoloCalcolato(const Opzioni& opzioni,
                                                     const project::DatiProgetto& usati, int nSeg,
-                                                    const ComandoDocumento& comando,
-                                                    const Esito& esito);
+                                                    const Accanto& accanto, const Esito& esito);
 
 /// Tells why the wall does not stand, if it does not, and notes what became of the run.
 /// @param margine  nullptr: nothing is known of its stages
@@ -37,8 +41,7 @@ bool raccontaVerdetto(const safety::Margine* margine, base::Dialogo& dialogo, Es
 /// @param controlla  refuses outputs, before anything is computed
 /// @return the exit code
 [[nodiscard]] int conFascicolo(const Opzioni& opzioni, Esito& esito,
-                               const std::function<void()>& controlla,
-                               const ComandoDocumento& comando,
+                               const std::function<void()>& controlla, const Accanto& accanto,
                                const std::function<void(dossier::Fascicolo)>& scrivi);
 
 }  // namespace korven::batch

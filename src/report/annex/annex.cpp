@@ -17,7 +17,7 @@ using base::traduttore;
 using document::Documento;
 
 struct Capitolo {
-    const char* titolo;  ///< Italian key
+    const char* titolo;  ///< Italian key; nullptr: that of the code, where the dossier has one
     void (*scrivi)(const Contesto&, Blocchi&);
     bool nuovaPagina;
 };
@@ -33,6 +33,7 @@ constexpr Capitolo capitoli[] = {
     {"Inviluppi", capitoloInviluppi, false},
     {"Verifiche della sezione", capitoloSezione, false},
     {"Margine di sicurezza", capitoloMargine, false},
+    {nullptr, capitoloNorma, false},
     {"Terreno nodo per nodo", capitoloNodiTerreno, false},
     {"Come ripetere il documento", capitoloRipetere, false},
 };
@@ -64,9 +65,11 @@ Documento allegato(dossier::Fascicolo fascicolo, const OpzioniAllegato& opzioni)
     d.blocchi.emplace_back(document::Indice{traduttore("Indice")});
     int numero = 0;
     for (const Capitolo& capitolo : capitoli) {
+        if (capitolo.titolo == nullptr && !contesto.fascicolo->norma) continue;
+        const std::string titolo = capitolo.titolo == nullptr ? titoloNorma(*contesto.fascicolo)
+                                                              : traduttore(capitolo.titolo);
         if (capitolo.nuovaPagina) d.blocchi.emplace_back(document::SaltoPagina{});
-        d.blocchi.emplace_back(
-            document::Titolo{1, std::to_string(++numero) + ". " + traduttore(capitolo.titolo)});
+        d.blocchi.emplace_back(document::Titolo{1, std::to_string(++numero) + ". " + titolo});
         capitolo.scrivi(contesto, d.blocchi);
     }
     return d;

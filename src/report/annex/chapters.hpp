@@ -33,6 +33,10 @@ void capitoloTiranti(const Contesto& contesto, Blocchi& blocchi);
 void capitoloInviluppi(const Contesto& contesto, Blocchi& blocchi);
 void capitoloSezione(const Contesto& contesto, Blocchi& blocchi);
 void capitoloMargine(const Contesto& contesto, Blocchi& blocchi);
+/// The wall under the combinations of a code, and what the chapter is called.
+/// @pre the dossier has them: asserted
+void capitoloNorma(const Contesto& contesto, Blocchi& blocchi);
+[[nodiscard]] std::string titoloNorma(const dossier::Fascicolo& fascicolo);
 /// The springs of every stage, node by node.
 void capitoloNodiTerreno(const Contesto& contesto, Blocchi& blocchi);
 void capitoloRipetere(const Contesto& contesto, Blocchi& blocchi);

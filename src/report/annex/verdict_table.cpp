@@ -9,6 +9,7 @@
 #include "base/colon.hpp"
 #include "base/filled_text.hpp"
 #include "base/translated_texts.hpp"
+#include "factors/words.hpp"
 #include "project/codes.hpp"
 #include "report/annex/columns.hpp"
 #include "report/annex/shear_rules.hpp"
@@ -180,6 +181,17 @@ std::vector<Cella> taglio(const Fascicolo& f) {
     return verifica(cosa, maschile, f, {dossier::Verifica::bielle, dossier::Verifica::armatura});
 }
 
+// Which combinations are not met; the numbers stand in their chapter.
+std::vector<Cella> norma(const factors::Combinazioni& tutte) {
+    Cella esito =
+        tutte.sta() && !tutte.conVerifiche()
+            ? nessunaVerifica()
+            : tables::esito(traduttore(tutte.verificate() ? "verificate" : "NON verificate"),
+                            !tutte.verificate());
+    return {parola(riempito(traduttore("Combinazioni di %1"), {tutte.norma.titolo})),
+            std::move(esito), parola(factors::verdetto(tutte))};
+}
+
 // The remarks of a weight; each is counted under its own, as in their chapter.
 std::vector<Cella> osservazioni(const Fascicolo& f, const char* cosa, review::Peso peso) {
     const int quante = review::quante(f.osservazioni, peso);
@@ -197,6 +209,7 @@ tables::Prospetto prospettoVerdetti(const Fascicolo& f) {
                         .colonne = {colonna("Verifica"), colonna("Esito"), colonna("Dettaglio")}};
     p.righe = {equilibrio(f), flessione(f), taglio(f),
                osservazioni(f, "Osservazioni di peso pericolo", review::Peso::pericolo)};
+    if (f.norma) p.righe.insert(p.righe.begin() + 3, norma(*f.norma));
     if (!review::calcolabile(f.osservazioni))
         p.righe.push_back(osservazioni(f, "Osservazioni che impediscono il calcolo per fasi",
                                        review::Peso::impedisce));

@@ -12,8 +12,10 @@ Parole philox(std::uint64_t chiave0, std::uint64_t chiave1, const Parole& contat
     return paroleCasuali(chiave0, static_cast<Scopo>(chiave1), contatore);
 }
 
-// Known answers of Philox4x64-10, from the file kat_vectors that its authors publish with Salmon et
-// al. (2011): counters and keys of noughts, of ones, and of the digits of pi.
+// Known answers of Philox4x64-10: counters and keys of noughts, of ones, and of the digits of pi.
+// The three rows "philox4x64 10" of the file kat_vectors of the generator's authors (Salmon et al.,
+// Parallel random numbers: as easy as 1, 2, 3, 2011), as Debian's librandom123-doc 1.14.0 has it;
+// numpy.random.Philox, which others wrote, gives the same words.
 TEST(ParoleCasuali, AreThoseOfPhilox) {
     EXPECT_EQ(philox(0, 0, {0, 0, 0, 0}), (Parole{0x16554d9eca36314c, 0xdb20fe9d672d0fdc,
                                                   0xd7e772cee186176b, 0x7e68b68aec7ba23b}));

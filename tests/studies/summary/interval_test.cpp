@@ -5,19 +5,24 @@
 namespace korven::studies {
 namespace {
 
-// Newcombe (1998), Two-sided confidence intervals for the single proportion: comparison of seven
-// methods, Statistics in Medicine 17, 857-872, table I, score method without continuity correction.
-TEST(IntervalloWilson, IsThatOfPublishedTables) {
+// Its ends are the two p for which k is just z deviations away, (p - k/n)^2 = z^2 p (1 - p) / n:
+// the roots of (1 + z^2/n) p^2 - (2 k/n + z^2/n) p + (k/n)^2 = 0 with z = 1.95996398454005423552,
+// solved with fifty digits by the module decimal of Python. The four cases are those that Newcombe,
+// Two-sided confidence intervals for the single proportion: comparison of seven methods (1998),
+// compares the methods by.
+TEST(IntervalloWilson, EndsWhereWhatIsCountedIsJustPossible) {
     struct Caso {
         std::uint64_t volte, prove;
         double da, a;
     };
     for (const auto& [volte, prove, da, a] :
-         {Caso{81, 263, 0.2553, 0.3662}, Caso{15, 148, 0.0624, 0.1605}, Caso{0, 20, 0.0000, 0.1611},
-          Caso{1, 29, 0.0061, 0.1718}}) {
+         {Caso{81, 263, 0.255288519878274225, 0.366209576982800070},
+          Caso{15, 148, 0.062386399530736279, 0.160487241723308038},
+          Caso{0, 20, 0, 0.161125158052819387},
+          Caso{1, 29, 0.006113214292762660, 0.171755218793202881}}) {
         const auto trovato = intervalloWilson(volte, prove);
-        EXPECT_NEAR(trovato.da, da, 0.00005) << volte;
-        EXPECT_NEAR(trovato.a, a, 0.00005) << volte;
+        EXPECT_NEAR(trovato.da, da, 1e-14) << volte;
+        EXPECT_NEAR(trovato.a, a, 1e-14) << volte;
     }
 }
 
