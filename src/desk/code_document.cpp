@@ -44,22 +44,6 @@ std::optional<Peggiore> peggiore(const Combinazioni& tutte) {
     return trovata;
 }
 
-bool senzaVerifiche(const Combinazioni& tutte) {
-    return std::ranges::all_of(tutte.esiti, [](const auto& e) { return e.verifiche.empty(); });
-}
-
-std::string verdetto(const Combinazioni& tutte) {
-    if (!tutte.sta()) return traduttore("Non tutte le combinazioni sono in equilibrio.");
-    if (senzaVerifiche(tutte))
-        return traduttore("Tutte le combinazioni sono in equilibrio; non c'è nessuna verifica.");
-    if (!tutte.verificate())
-        return traduttore(
-            "Tutte le combinazioni sono in equilibrio, ma non tutte le verifiche sono "
-            "soddisfatte.");
-    return traduttore(
-        "Tutte le combinazioni sono in equilibrio e tutte le verifiche sono soddisfatte.");
-}
-
 std::string fraseUso(const Peggiore& p) {
     constexpr int decimali = 1;
     return riempito(traduttore("Lo sfruttamento maggiore è %1 %: %2, combinazione %3."),
@@ -91,7 +75,7 @@ std::string titolo(const Combinazioni& tutte) {
 }  // namespace
 
 std::vector<std::string> frasi(const Combinazioni& tutte) {
-    std::vector<std::string> dette = {verdetto(tutte)};
+    std::vector<std::string> dette = {factors::verdetto(tutte)};
     if (const auto p = peggiore(tutte)) dette.push_back(fraseUso(*p));
     for (const factors::EsitoCombinazione& e : tutte.esiti)
         if (std::string perche = factors::caduta(e); !perche.empty())

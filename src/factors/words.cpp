@@ -76,9 +76,10 @@ std::string caduta(const EsitoCombinazione& combinazione) {
 
 std::string verdetto(const Combinazioni& combinazioni) {
     if (combinazioni.sta() && !combinazioni.conVerifiche())
-        return traduttore("Tutte le combinazioni sono in equilibrio; non ci sono verifiche.");
+        return traduttore("Tutte le combinazioni sono in equilibrio; non c'è nessuna verifica.");
     if (combinazioni.verificate())
-        return traduttore("Tutte le combinazioni sono in equilibrio e verificate.");
+        return traduttore(
+            "Tutte le combinazioni sono in equilibrio e tutte le verifiche sono soddisfatte.");
     std::string cadute, fallite;
     for (const EsitoCombinazione& e : combinazioni.esiti) {
         if (e.verificata()) continue;

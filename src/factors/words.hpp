@@ -27,7 +27,7 @@ namespace korven::factors {
 /// Why it does not stand, in one line with its name; empty for one that does.
 [[nodiscard]] std::string caduta(const EsitoCombinazione& combinazione);
 
-/// What becomes of all of them: "Tutte le combinazioni sono in equilibrio e verificate.", or the
+/// What becomes of all of them: "All stand and all checks are met.", or the
 /// names of those that are not.
 [[nodiscard]] std::string verdetto(const Combinazioni& combinazioni);
 

@@ -66,7 +66,7 @@ TEST_F(AllegatoDaFuori, HasAChapterOnTheCodeThatIsAskedFor) {
     const auto esito = comando(opzioni);
     EXPECT_EQ(esito.codice, 0) << esito.errori;
     const std::string scritto = test::contenuto(testo);
-    EXPECT_TRUE(dice(scritto, "10. COMBINAZIONI DI EN 1997-1:2004, DA1")) << esito.errori;
+    EXPECT_TRUE(dice(scritto, "10. COMBINAZIONI DELLA NORMA EN 1997-1:2004, DA1")) << esito.errori;
     // The way to make it again says what the loads are, all of them.
     EXPECT_TRUE(dice(scritto, "--norma en1997-da1"));
     EXPECT_TRUE(dice(scritto, "--sovraccarico permanente"));

@@ -42,7 +42,8 @@ void fonti(const Combinazioni& tutte, Blocchi& blocchi) {
 }  // namespace
 
 std::string titoloNorma(const dossier::Fascicolo& fascicolo) {
-    return base::riempito(traduttore("Combinazioni di %1"), {fascicolo.norma->norma.titolo});
+    return base::riempito(traduttore("Combinazioni della norma %1"),
+                          {fascicolo.norma->norma.titolo});
 }
 
 void capitoloNorma(const Contesto& contesto, Blocchi& blocchi) {

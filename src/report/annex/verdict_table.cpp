@@ -188,7 +188,7 @@ std::vector<Cella> norma(const factors::Combinazioni& tutte) {
             ? nessunaVerifica()
             : tables::esito(traduttore(tutte.verificate() ? "verificate" : "NON verificate"),
                             !tutte.verificate());
-    return {parola(riempito(traduttore("Combinazioni di %1"), {tutte.norma.titolo})),
+    return {parola(riempito(traduttore("Combinazioni della norma %1"), {tutte.norma.titolo})),
             std::move(esito), parola(factors::verdetto(tutte))};
 }
 

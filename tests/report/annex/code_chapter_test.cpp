@@ -76,7 +76,7 @@ TEST(CapitoloNorma, TellsWhatTheCombinationsGive) {
 
 TEST(CapitoloNorma, IsThereWhereACodeWasAskedFor) {
     const auto con = capitoli(*contesto(dueOrdini, 1.05).fascicolo);
-    EXPECT_EQ(std::ranges::count(con, "10. Combinazioni di Prova 1"), 1);
+    EXPECT_EQ(std::ranges::count(con, "10. Combinazioni della norma Prova 1"), 1);
     EXPECT_EQ(con.back(), "12. Come ripetere il documento");
     const auto senza = capitoli(*test::contesto(test::leggiMuro(dueOrdini)).fascicolo);
     EXPECT_EQ(con.size(), senza.size() + 1);
@@ -88,7 +88,7 @@ TEST(CapitoloNorma, NamesACombinationThatDoesNotStandHereAndOnTheCover) {
     EXPECT_NE(testo.find("Combinazioni senza equilibrio: C2."), std::string::npos) << testo;
     EXPECT_NE(testo.find("C2: "), std::string::npos);
     const auto verdetti = test::tavola(test::blocchi(capitoloCopertina, c), "Verdetti");
-    const auto riga = std::ranges::find(verdetti.righe, "Combinazioni di Prova 1",
+    const auto riga = std::ranges::find(verdetti.righe, "Combinazioni della norma Prova 1",
                                         [](const auto& r) { return r[0].testo; });
     ASSERT_NE(riga, verdetti.righe.end());
     EXPECT_EQ((*riga)[1].testo, "NON verificate");
