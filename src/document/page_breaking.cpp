@@ -65,9 +65,10 @@ class Scelta {
     std::vector<PaginaScelta> pagine() {
         if (passi_.empty()) return {};
         raggiunti_[{0, 0}] = {};
-        // A page never leads back: states in order of what is set, then of what waits.
-        for (auto i = raggiunti_.begin(); i != raggiunti_.end(); ++i)
-            if (i->first != fine()) daQui(i->first, i->second.costo);
+        // A page never leads back: states in order of what is set, then of what waits; those that
+        // are reached meanwhile come behind.
+        for (const auto& [stato, via] : raggiunti_)
+            if (stato != fine()) daQui(stato, via.costo);
         std::vector<PaginaScelta> scelte;
         for (Stato s = fine(); s != Stato{0, 0}; s = raggiunti_.at(s).da)
             scelte.push_back(raggiunti_.at(s).pagina);

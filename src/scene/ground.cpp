@@ -127,6 +127,7 @@ class Terreno {
     [[nodiscard]] std::vector<double> righe(const std::vector<const StratoMostrato*>& strati,
                                             double alto) const {
         std::vector<double> y;
+        y.reserve(strati.size());
         for (const auto* s : strati) y.push_back(-centro(*s, alto));
         y = drawings::separaEtichette(std::move(y), riga(), -alto, -q_.yFondo);
         for (double& una : y) una = -una;
