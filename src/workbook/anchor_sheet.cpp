@@ -15,7 +15,7 @@ namespace unita = project::unita;
 std::vector<Cella> celle(const StoriaTirante* storia) {
     if (storia == nullptr || storia->posa == 0) {
         const Cella mai =
-            tables::senza(traduttore("In nessuna fase in equilibrio il tirante è in opera."));
+            tables::senza(traduttore("Non è in opera in nessuna fase in equilibrio."));
         return {mai, mai, mai};
     }
     return {tables::cella(storia->faseMassimo), tables::cella(storia->posa),
