@@ -5,7 +5,7 @@
 #include <initializer_list>
 #include <vector>
 
-#include "base/code_page.hpp"
+#include "base/name_in_sentence.hpp"
 #include "base/translated_texts.hpp"
 #include "drawings/log/layer_description.hpp"
 #include "live/envelope.hpp"
@@ -132,7 +132,7 @@ std::string parole(const Lettura& letta) {
     aggiungi(testo, {{"T", letta.taglio}}, unita::forzaAlMetro);
     const std::string monte = traduttore("monte"), valle = traduttore("valle");
     const std::string acqua = traduttore("acqua"),
-                      netta = base::conMinuscola(traduttore("Pressione netta"));
+                      netta = base::nellaFrase(traduttore("Pressione netta"));
     aggiungi(testo,
              {{monte, letta.monte},
               {valle, letta.valle},

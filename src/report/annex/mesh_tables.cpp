@@ -8,6 +8,7 @@
 #include "base/code_page.hpp"
 #include "base/colon.hpp"
 #include "base/filled_text.hpp"
+#include "base/name_in_sentence.hpp"
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
 #include "report/annex/columns.hpp"
@@ -54,7 +55,7 @@ class SenzaOrdine {
  public:
     void aggiungi(const std::string& nome, safety::Andamento perche) {
         std::string& nomi = righe_[perche];
-        nomi += nomi.empty() ? nome : ", " + base::conMinuscola(nome);
+        nomi += nomi.empty() ? nome : ", " + base::nellaFrase(nome);
     }
     [[nodiscard]] std::vector<std::string> note() const {
         std::vector<std::string> note;
