@@ -88,11 +88,16 @@ std::string margin(const std::string& element, const std::string& content) {
     return declaration + "<w:" + element + nameSpaces + ">" + content + "</w:" + element + ">\n";
 }
 
-std::string document(const DocumentParts& parts) {
-    return declaration + "<w:document" + nameSpaces + "><w:body>\n" + parts.content +
-           "<w:sectPr><w:headerReference w:type=\"default\" r:id=\"rId2\"/>"
-           "<w:footerReference w:type=\"default\" r:id=\"rId3\"/>" +
-           parts.page.words() + "</w:sectPr></w:body></w:document>\n";
+void addDocument(const DocumentParts& parts, ZipWriter& file) {
+    const std::string begin = declaration + "<w:document" + nameSpaces + "><w:body>\n";
+    const std::string end =
+        "<w:sectPr><w:headerReference w:type=\"default\" r:id=\"rId2\"/>"
+        "<w:footerReference w:type=\"default\" r:id=\"rId3\"/>" +
+        parts.page.words() + "</w:sectPr></w:body></w:document>\n";
+    std::vector<std::string_view> pieces = {begin};
+    pieces.insert(pieces.end(), parts.content.begin(), parts.content.end());
+    pieces.push_back(end);
+    file.add("word/document.xml", pieces, Packing::deflated);
 }
 
 }  // namespace
@@ -104,7 +109,7 @@ std::string documentBytes(const DocumentParts& parts) {
     };
     add("[Content_Types].xml", contentTypes());
     add("_rels/.rels", packageRelations());
-    add("word/document.xml", document(parts));
+    addDocument(parts, file);
     add("word/_rels/document.xml.rels", documentRelations());
     add("word/styles.xml", styles());
     add("word/header1.xml", margin("hdr", parts.header));

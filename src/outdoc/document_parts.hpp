@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "outdoc/document_page.hpp"
 
@@ -14,10 +15,11 @@ inline constexpr std::string_view headingStyle = "Heading1";
 /// What a document is made of, the parts in the file's XML.
 struct DocumentParts {
     DocumentPage page;
-    std::string title;    ///< plain text; shown by the word processor
-    std::string header;   ///< paragraphs
-    std::string footer;   ///< paragraphs
-    std::string content;  ///< paragraphs and tables
+    std::string title;   ///< plain text; shown by the word processor
+    std::string header;  ///< paragraphs
+    std::string footer;  ///< paragraphs
+    /// Paragraphs and tables, in pieces: a long document is many megabytes, and not copied.
+    std::vector<std::string_view> content;
 };
 
 /// The bytes of the word-processor file: an Office Open XML document (ECMA-376), which word

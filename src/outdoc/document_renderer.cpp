@@ -67,7 +67,7 @@ void DocumentRenderer::table(ScanState& state) {
     headerIfDue(state);
     if (belowTable_ || breakDue_) emptyParagraph();
     const auto widths = columnWidths(grid_, fitted, body_, parts_.page.textWidth());
-    parts_.content +=
+    content_ +=
         tableWords(grid_, widths, state.alignment, state.columnStyle, body_, rowsTogether());
     together_ -= grid_.rowCount() * rowHeight(body_);
     belowTable_ = true;
@@ -115,11 +115,13 @@ std::optional<std::string> DocumentRenderer::bytes() const {
     DocumentParts parts = parts_;
     if (parts.header.empty()) parts.header = paragraph(inHeaderFont(Alignment::centre));
     if (parts.footer.empty()) parts.footer = footerLines({});
-    if (belowTable_ || parts.content.empty()) {  // nothing may end with a table, or be empty
+    std::string closing;
+    if (belowTable_ || content_.empty()) {  // nothing may end with a table, or be empty
         Paragraph last;
         last.font.size = 1;
-        parts.content += paragraph(last);
+        closing = paragraph(last);
     }
+    parts.content = {content_, closing};
     return documentBytes(parts);
 }
 
@@ -141,7 +143,7 @@ void DocumentRenderer::add(Paragraph content) {
     together_ -= lineHeight(content.font);
     content.keepWithNext = content.keepWithNext || together_ > 0;
     breakDue_ = belowTable_ = false;
-    parts_.content += paragraph(content);
+    content_ += paragraph(content);
 }
 
 void DocumentRenderer::emptyParagraph() {

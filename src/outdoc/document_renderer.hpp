@@ -49,7 +49,8 @@ class DocumentRenderer : public markup::MarkupReceiver {
     [[nodiscard]] Paragraph inHeaderFont(markup::Alignment alignment) const;
     [[nodiscard]] std::string footerLines(std::string_view text) const;
 
-    DocumentParts parts_;
+    DocumentParts parts_;  ///< without the content
+    std::string content_;
     markup::ReportFont body_;
     markup::CellGrid grid_;
     double together_ = 0;  ///< height of what must still begin on the page reached [points]

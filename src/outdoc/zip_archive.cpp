@@ -111,16 +111,24 @@ ZipWriter::~ZipWriter() {
 }
 
 void ZipWriter::add(const std::string& name, std::string_view content, Packing packing) {
+    add(name, std::span(&content, 1), packing);
+}
+
+void ZipWriter::add(const std::string& name, std::span<const std::string_view> pieces,
+                    Packing packing) {
     constexpr std::size_t most = std::numeric_limits<std::int32_t>::max();
-    if (content.size() > most)
+    std::size_t length = 0;
+    for (const std::string_view piece : pieces) length += piece.size();
+    if (length > most)
         throw base::ErroreIndice(name + ": " + base::traduttore("il file è troppo grande"));
     const int method = packing == Packing::deflated ? Z_DEFLATED : 0;
     zip_fileinfo about{};
     about.dosDate = firstDay;
     demand(zipOpenNewFileInZip(state_->archive, name.c_str(), &about, nullptr, 0, nullptr, 0,
                                nullptr, method, Z_BEST_COMPRESSION));
-    demand(zipWriteInFileInZip(state_->archive, content.data(),
-                               static_cast<unsigned>(content.size())));
+    for (const std::string_view piece : pieces)
+        demand(zipWriteInFileInZip(state_->archive, piece.data(),
+                                   static_cast<unsigned>(piece.size())));
     demand(zipCloseFileInZip(state_->archive));
 }
 

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -25,6 +26,8 @@ class ZipWriter {
     /// @param name  with "/" between folders, ASCII
     /// @throws base::ErroreIndice for contents beyond the 32-bit lengths of the format
     void add(const std::string& name, std::string_view content, Packing packing);
+    /// The same of a content in pieces, which need not be put together for it.
+    void add(const std::string& name, std::span<const std::string_view> pieces, Packing packing);
 
     /// What the archive begins with so far: its files, each after its head.
     [[nodiscard]] std::string_view files() const;

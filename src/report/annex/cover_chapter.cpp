@@ -21,7 +21,6 @@ using tables::parola;
 
 namespace {
 
-namespace unita = project::unita;
 using dossier::Fascicolo;
 
 tables::Prospetto coppie(const char* titolo, const char* cosa, const char* valore) {

@@ -124,8 +124,8 @@ std::string sfruttamento(const VerificaDoppia& v, const std::optional<LatoVerifi
 // Of one check both uses; the wall is judged by the worse of the two.
 std::string sfruttamenti(const VerificaDoppia* v) {
     if (v == nullptr) return {};
-    const std::string equilibrio = sfruttamento(*v, v->equilibrio),
-                      relazione = sfruttamento(*v, v->relazione);
+    std::string equilibrio = sfruttamento(*v, v->equilibrio);
+    const std::string relazione = sfruttamento(*v, v->relazione);
     if (relazione.empty() || relazione == equilibrio) return equilibrio;
     return riempito(traduttore("equilibrio: %1; relazione: %2; vale il maggiore"),
                     {equilibrio.empty() ? tables::nessuno : equilibrio, relazione});
