@@ -2,11 +2,14 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
+#include <optional>
 #include <sstream>
 #include <string>
 
 #include "base/code_page.hpp"
+#include "base/files.hpp"
 #include "batch/options/reading_bench.hpp"
 #include "batch/run/drawing_formats.hpp"
 #include "device/document_files.hpp"
@@ -14,6 +17,8 @@
 #include "document/markup_text.hpp"
 #include "document/table_columns.hpp"
 #include "dossier/dossier.hpp"
+#include "factors/factor_rows.hpp"
+#include "factors/requested_code.hpp"
 #include "report/annex/annex.hpp"
 #include "support/page_boxes.hpp"
 #include "support/page_faults.hpp"
@@ -27,7 +32,8 @@ class InSilenzio : public analysis::OsservatoreCorsa {};
 constexpr std::array lingue = {"ita", "deu", "fra", "esp", "eng", "por"};
 
 document::Impaginato pagine(const std::string& file, int nSeg,
-                            const report::OpzioniAllegato& opzioni = {}) {
+                            const report::OpzioniAllegato& opzioni = {},
+                            const std::optional<factors::NormaChiesta>& norma = {}) {
     const auto dati = test::leggiMuro(file);
     dossier::Identita identita;
     identita.file = file;
@@ -35,11 +41,14 @@ document::Impaginato pagine(const std::string& file, int nSeg,
     identita.comando =
         "korven32c allegato " + file + " --nseg " + std::to_string(nSeg) + " --data 2026-11-22";
     InSilenzio osservatore;
-    return device::impaginato(report::allegato(
-        dossier::fascicolo(
-            {.scritti = dati, .usati = dati, .nSeg = nSeg, .identita = identita, .sulProgetto = {}},
-            osservatore),
-        opzioni));
+    return device::impaginato(report::allegato(dossier::fascicolo({.scritti = dati,
+                                                                   .usati = dati,
+                                                                   .nSeg = nSeg,
+                                                                   .identita = identita,
+                                                                   .sulProgetto = {},
+                                                                   .norma = norma},
+                                                                  osservatore),
+                                               opzioni));
 }
 
 // The titles of the tables that are too wide for the page in the fonts that it is painted with.
@@ -103,6 +112,24 @@ TEST(PagineAllegato, OfTheFinestMeshAreAsCleanWithARowForEveryNode) {
         EXPECT_GE(tutti.pagine.size(), pochi.pagine.size() + 3) << file;
     }
     EXPECT_GE(quale, lingue.size());
+}
+
+// With every code that is delivered, each for another wall and in another language.
+TEST(PagineAllegato, OfACodeAreAsClean) {
+    const AmbienteDisegno ambiente(true);
+    factors::Catalogo catalogo;
+    factors::leggiCombinazioni(base::leggiFile(KORVEN_DATA "/combinazioni.txt"), "combinazioni.txt",
+                               catalogo);
+    ASSERT_GE(catalogo.norme.size(), 2U);
+    const auto muri = test::muriIn(KORVEN_EXAMPLES);
+    for (std::size_t i = 0; i < std::max(catalogo.norme.size(), lingue.size()); ++i) {
+        const char* sigla = lingue[i % lingue.size()];
+        const test::InLingua lingua(sigla);
+        const auto& norma = catalogo.norme[i % catalogo.norme.size()];
+        const auto muro = pagine(muri[i % muri.size()], 50, {}, factors::NormaChiesta{norma, {}});
+        EXPECT_EQ(test::difetti(muro) + malParti(muro) + partite(muro), "")
+            << sigla << ' ' << norma.nome;
+    }
 }
 
 TEST(PagineAllegato, HoldTheHeadingsOfAllChaptersAsBookmarks) {
