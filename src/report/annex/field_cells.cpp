@@ -194,7 +194,7 @@ Uso uso(const Fascicolo& f, const Campo& campo) {
     });
     if (regola == std::end(regole)) return {};
     std::string nota = traduttore(regola->nota);
-    if (!regola->letto) nota = base::riempito(traduttore("non letto (%1)"), {nota});
+    if (!regola->letto) nota = base::riempito(traduttore("fuori dal calcolo (%1)"), {nota});
     return {.letto = regola->letto, .nota = std::move(nota)};
 }
 

@@ -58,19 +58,9 @@ tables::Prospetto dellaSezione(const Fascicolo& f, bool lette) {
     return p;
 }
 
-bool tirantiInOpera(const Campo& campo) {
-    return campo.membro == project::Membro(&project::DatiProgetto::tirantiFase);
-}
-
+// Whole names: the captions of the editors are cut short for their columns.
 tables::Colonna testa(const Campo& campo) {
-    // A caption of the editor is short, and translated together with its unit; what no editor shows
-    // has its name alone.
-    const std::string unita = " " + project::traParentesi(campo.unita);
-    std::string titolo = tirantiInOpera(campo)      ? nomeDetto(campo)
-                         : campo.didascalia.empty() ? conMaiuscola(traduttore(campo.cosa))
-                                                    : traduttore(project::etichetta(campo));
-    if (titolo.ends_with(unita)) titolo.erase(titolo.size() - unita.size());
-    return {.titolo = titolo,
+    return {.titolo = nomeDetto(campo),
             .unita = unitaDetta(campo),
             .spiegazione = conMaiuscola(traduttore(campo.cosa)),
             .numerica = !std::holds_alternative<

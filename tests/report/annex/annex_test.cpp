@@ -179,8 +179,9 @@ TEST(Dati, SayWhyAFieldIsNotRead) {
     const auto blocchi = capitolo(capitoloDati, fascicoloDi(dati));
     EXPECT_EQ(riga(blocchi, "coeffM")[4], "-");
     EXPECT_EQ(riga(blocchi, "coeffM")[5],
-              "non letto (lo legge solo il metodo di Lancellotta per ks)");
-    EXPECT_EQ(riga(blocchi, "sezione.fck")[5], "non letto (la palancola non ha calcestruzzo)");
+              "fuori dal calcolo (lo legge solo il metodo di Lancellotta per ks)");
+    EXPECT_EQ(riga(blocchi, "sezione.fck")[5],
+              "fuori dal calcolo (la palancola non ha calcestruzzo)");
 }
 
 TEST(Osservazioni, AreAllThereEachOnce) {
