@@ -79,5 +79,23 @@ TEST(CelleDeiCampi, SayOfNoFieldThatItIsNotReadWhichChangesAResult) {
     EXPECT_GT(nomi.size(), 20U);  // with those of the other types of section
 }
 
+// A strut is horizontal: nothing of it is multiplied with the cosine of an inclination.
+TEST(UsoDelCampo, SpeaksOfAnInclinationOnlyWhereAnAnchorMayHaveOne) {
+    dossier::Fascicolo f;
+    f.scritti = f.parete.dati = test::progettoSemplice();
+    ASSERT_EQ(f.parete.dati.nTiranti, 1);
+    const auto nota = [&] { return uso(f, project::campo(&DatiProgetto::rigTirante)).nota; };
+    EXPECT_NE(nota().find("cos² alfa"), std::string::npos);
+    f.parete.dati.tipoTirante[1] = project::valore(project::TipoTirante::trazioneCompressione);
+    EXPECT_EQ(nota(), "orizzontale e per metro di paratia");
+}
+
+TEST(NomeDelCampo, IsWholeAndFitsStrutsToo) {
+    const auto nome = [](project::Membro membro) { return nomeDetto(project::campo(membro)); };
+    EXPECT_EQ(nome(&DatiProgetto::nTiranti), "Numero di tiranti e puntoni");
+    EXPECT_EQ(nome(&DatiProgetto::tirantiFase), "Tiranti e puntoni in opera");
+    EXPECT_EQ(nome(&DatiProgetto::profFase), "Profondità della fase");
+}
+
 }  // namespace
 }  // namespace korven::report

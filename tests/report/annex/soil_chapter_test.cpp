@@ -137,5 +137,17 @@ TEST(CapitoloTerreno, SaysWhoseAStiffnessWithoutASectionIs) {
     EXPECT_NE(testo.find("il progetto non ha una sezione"), std::string::npos);
 }
 
+TEST(CapitoloTerreno, SaysWhatTheSymbolsOfAModulusAre) {
+    auto dati = test::progettoSemplice();
+    dati.metodoKs = project::valore(project::MetodoKs::lineare);
+    EXPECT_TRUE(dice(tavola(terreno(dati), "Moduli delle molle"), "t, b: profondità della testa"));
+    dati.metodoKs = project::valore(project::MetodoKs::bowles);
+    const auto bowles = tavola(terreno(dati), "Moduli delle molle");
+    EXPECT_TRUE(dice(bowles, "0.5 γ B Nγ nella portanza"));
+    EXPECT_TRUE(dice(bowles, "40 è in 1/m"));
+    dati.metodoKs = project::valore(project::MetodoKs::lancellotta);
+    EXPECT_EQ(tavola(terreno(dati), "Moduli delle molle").colonne[1].unita, "t^½/m²");
+}
+
 }  // namespace
 }  // namespace korven::report
