@@ -109,7 +109,7 @@ void sforzoNormale(const ValoriFlessione& v, Prospetto& p) {
 
 // Stress over strain, tension positive, as the strips have it.
 std::string leggi(const ValoriFlessione& v) {
-    const std::string acciaio = "σs = Es ε,  -fyd ≤ σs ≤ fyd";
+    std::string acciaio = "σs = Es ε,  -fyd ≤ σs ≤ fyd";
     if (!(v.fcd > 0)) return acciaio;
     return "σc = 0.85 fcd · 1000 ε · (1 + 250 ε),  -0.002 ≤ ε < 0;   σc = -0.85 fcd,  ε < -0.002;  "
            " "

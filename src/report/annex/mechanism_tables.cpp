@@ -68,7 +68,7 @@ std::vector<Cella> rigaTraslazione(const project::DatiProgetto& dati, const Part
             tables::parola(traduttore(effetto(parte)))};
 }
 
-std::vector<Cella> rigaRotazione(const project::DatiProgetto& dati, const BilancioLimite& b,
+std::vector<Cella> rigaRotazione(const project::DatiProgetto& dati, const BilancioLimite& limite,
                                  const ParteAlLimite& parte) {
     std::vector<Cella> riga{
         tables::parola(nome(dati, parte)),
@@ -78,7 +78,7 @@ std::vector<Cella> rigaRotazione(const project::DatiProgetto& dati, const Bilanc
         riga.resize(5);
     } else {
         const double b1 = parte.spinta / parte.forza;
-        riga.push_back(tables::profondita(b.moto.profondita + b.moto.verso * b1));
+        riga.push_back(tables::profondita(limite.moto.profondita + limite.moto.verso * b1));
         riga.push_back(braccio(b1));
     }
     riga.push_back(tables::momento(parte.spinta));
@@ -88,8 +88,8 @@ std::vector<Cella> rigaRotazione(const project::DatiProgetto& dati, const Bilanc
 
 }  // namespace
 
-std::string fraseMeccanismo(const BilancioLimite& b) {
-    if (b.moto.traslazione)
+std::string fraseMeccanismo(const BilancioLimite& limite) {
+    if (limite.moto.traslazione)
         return traduttore(
             "La paratia trasla: il terreno è al limite ovunque, dal lato verso cui si muove "
             "passivo, dall'altro attivo. Spinge ciò che ha il verso del moto; la somma è quanto "
@@ -102,11 +102,11 @@ std::string fraseMeccanismo(const BilancioLimite& b) {
             "verso lo scavo. Il momento è forza per braccio, ciascuno con il suo segno: se è "
             "positivo la forza spinge la paratia nel suo moto, se è negativo le resiste. La somma "
             "dei momenti è quanto manca all'equilibrio."),
-        {tables::profondita(b.moto.profondita).testo});
+        {tables::profondita(limite.moto.profondita).testo});
 }
 
-Prospetto prospettoLimite(const project::DatiProgetto& dati, const BilancioLimite& b) {
-    const bool ruota = !b.moto.traslazione;
+Prospetto prospettoLimite(const project::DatiProgetto& dati, const BilancioLimite& limite) {
+    const bool ruota = !limite.moto.traslazione;
     Prospetto p{.titolo = traduttore("Equilibrio al limite"),
                 .colonne = {colonna("Che cosa agisce"), colonna("Dove"),
                             numeri(unita::forzaAlMetro, "Forza")}};
@@ -116,23 +116,24 @@ Prospetto prospettoLimite(const project::DatiProgetto& dati, const BilancioLimit
         p.colonne.push_back(numeri(unita::momentoAlMetro, "Momento"));
     }
     p.colonne.push_back(colonna("Effetto"));
-    for (const ParteAlLimite& parte : b.parti)
-        p.righe.push_back(ruota ? rigaRotazione(dati, b, parte) : rigaTraslazione(dati, parte));
+    for (const ParteAlLimite& parte : limite.parti)
+        p.righe.push_back(ruota ? rigaRotazione(dati, limite, parte)
+                                : rigaTraslazione(dati, parte));
     const std::string mancano = base::conMaiuscola(traduttore("mancano"));
     const Cella vuota = tables::parola("");
     if (!ruota) {
-        p.righe.push_back(
-            {tables::parola(mancano), vuota, tables::forza(b.moto.verso * b.mancante), vuota});
+        p.righe.push_back({tables::parola(mancano), vuota,
+                           tables::forza(limite.moto.verso * limite.mancante), vuota});
         return p;
     }
     p.righe.push_back({tables::parola(traduttore("Reazione del perno")), vuota,
-                       tables::forza(b.perno), tables::profondita(b.moto.profondita), braccio(0),
-                       tables::momento(0), vuota});
-    p.righe.push_back({tables::parola(mancano), vuota, tables::forza(b.forzaRisultante),
-                       tables::profondita(b.zRisultante),
-                       braccio(b.moto.spostamento(b.zRisultante)), tables::momento(b.mancante),
-                       vuota});
-    for (const ParteAlLimite& parte : b.parti)
+                       tables::forza(limite.perno), tables::profondita(limite.moto.profondita),
+                       braccio(0), tables::momento(0), vuota});
+    p.righe.push_back({tables::parola(mancano), vuota, tables::forza(limite.forzaRisultante),
+                       tables::profondita(limite.zRisultante),
+                       braccio(limite.moto.spostamento(limite.zRisultante)),
+                       tables::momento(limite.mancante), vuota});
+    for (const ParteAlLimite& parte : limite.parti)
         if (parte.cosa == AzioneLimite::momentoTesta)
             p.note.push_back(
                 traduttore("Il momento in testa spinge se gira la testa nel verso del "
@@ -148,7 +149,7 @@ Prospetto prospettoLimite(const project::DatiProgetto& dati, const BilancioLimit
     return p;
 }
 
-Prospetto prospettoPressioniLimite(const BilancioLimite& b) {
+Prospetto prospettoPressioniLimite(const BilancioLimite& limite) {
     Prospetto p{
         .titolo = traduttore("Pressioni al limite"),
         .colonne = {numeri("Nodo"), simboli(unita::metri, "z"), numeri(unita::metri, "Tratto"),
@@ -156,7 +157,7 @@ Prospetto prospettoPressioniLimite(const BilancioLimite& b) {
                     numeri(unita::pressione, "Valle"), colonna("Stato a valle"),
                     numeri(unita::pressione, "Acqua"), numeri(unita::forzaAlMetro, "Forza")}};
     int numero = 0;
-    for (const NodoAlLimite& n : b.nodi)
+    for (const NodoAlLimite& n : limite.nodi)
         p.righe.push_back({tables::cella(++numero), tables::profondita(n.z),
                            tables::cella(n.tratto, 4, unita::metri), tables::pressione(n.monte),
                            stato(n.statoMonte), tables::pressione(n.valle), stato(n.statoValle),
@@ -164,10 +165,10 @@ Prospetto prospettoPressioniLimite(const BilancioLimite& b) {
     p.note.push_back(
         traduttore("Tratto: la lunghezza di paratia di cui il nodo porta le pressioni. Forza: "
                    "tratto per la somma delle pressioni; nel perno e in un vincolo non c'è."));
-    if (!b.nodi.empty() && b.nodi.front().costante != 0)
+    if (!limite.nodi.empty() && limite.nodi.front().costante != 0)
         p.note.push_back(riempito(traduttore("La forza conta anche la pressione costante di %1 "
                                              "kN/m²."),
-                                  {tables::pressione(b.nodi.front().costante).testo}));
+                                  {tables::pressione(limite.nodi.front().costante).testo}));
     return p;
 }
 
