@@ -113,7 +113,7 @@ std::vector<AvvisoMaglia> avvisiMaglia(const Margine& margine) {
     std::vector<AvvisoMaglia> avvisi;
     avviso(true,
            "Una maglia più fine cambia il verdetto: sfruttamento, %1. Aumentare i segmenti, finché "
-           "non cambia più.",
+           "non cambia più; fino ad allora vale lo sfruttamento maggiore.",
            cambiano, avvisi);
     avviso(true,
            "Il verdetto non è assestato: sfruttamento, %1. Con queste maglie la sezione è "
