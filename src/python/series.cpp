@@ -107,23 +107,23 @@ int fili(int chiesti) {
 
 }  // namespace
 
-TabellaSerie serie(const DatiProgetto& scritti, std::string_view testo,
+TabellaSerie serie(const DatiProgetto& dati, std::string_view piano,
                    const RichiestaSerie& richiesta, const std::function<bool()>& fermata) {
-    const Chiesta c = chiesta(scritti, richiesta.modo);
+    const Chiesta c = chiesta(dati, richiesta.modo);
     if (!review::mostrabile(c.dati)) throw base::ErroreValore();
-    const studies::Piano piano = leggi(c.dati, testo);
-    const std::vector<Colonna> scelte = colonne(richiesta, c.dati, piano);
-    const studies::RigheStudio righe(piano.campi(), scelte, studies::Formato::csv);
+    const studies::Piano varianti = leggi(c.dati, piano);
+    const std::vector<Colonna> scelte = colonne(richiesta, c.dati, varianti);
+    const studies::RigheStudio righe(varianti.campi(), scelte, studies::Formato::csv);
     const auto fallisce = condizioni(richiesta, righe);
     TabellaSerie tabella{.nomi = righe.nomi()};
     tabella.parole.resize(righe.campi());
     for (const Colonna& colonna : scelte)
         tabella.parole.push_back(colonna.parole != nullptr ? *colonna.parole
                                                            : std::vector<std::string_view>());
-    tabella.valori.reserve(piano.numero() * righe.quanti());
+    tabella.valori.reserve(varianti.numero() * righe.quanti());
     Raccolta raccolta(tabella, fermata);
-    const studies::Studio studio{piano, c.dati, domanda(richiesta, c.nSeg, scelte), righe};
-    studies::esegui(studio, {0, piano.numero()}, fili(richiesta.fili), raccolta);
+    const studies::Studio studio{varianti, c.dati, domanda(richiesta, c.nSeg, scelte), righe};
+    studies::esegui(studio, {0, varianti.numero()}, fili(richiesta.fili), raccolta);
     segnaFallite(fallisce, tabella);
     return tabella;
 }

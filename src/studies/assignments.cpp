@@ -18,7 +18,6 @@ namespace korven::studies {
 namespace {
 
 using base::traduttore;
-using project::Campo;
 using project::CampoNominato;
 using project::MotivoRifiuto;
 using project::Rifiuto;
