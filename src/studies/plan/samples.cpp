@@ -21,7 +21,7 @@ bool portaNeiLimiti(const project::Campo& campo, double& valore) {
 
 }  // namespace
 
-Campioni::Campioni(std::vector<CampoCasuale> campi, std::uint64_t numero, std::uint64_t seme,
+Campioni::Campioni(const std::vector<CampoCasuale>& campi, std::uint64_t numero, std::uint64_t seme,
                    Disegno disegno, Correlazione correlazione)
     : numero_(numero), seme_(seme), disegno_(disegno), correlazione_(std::move(correlazione)) {
     assert(disegno == Disegno::casuale || correlazione_.nessuna());

@@ -34,7 +34,7 @@ class Campioni final : public Varianti {
  public:
     /// @param numero        at most 2^53
     /// @param correlazione  of the fields in their order; @pre none for a hypercube: asserted
-    Campioni(std::vector<CampoCasuale> campi, std::uint64_t numero, std::uint64_t seme,
+    Campioni(const std::vector<CampoCasuale>& campi, std::uint64_t numero, std::uint64_t seme,
              Disegno disegno = Disegno::casuale, Correlazione correlazione = {});
 
     [[nodiscard]] std::span<const project::CampoNominato> campi() const override { return nomi_; }

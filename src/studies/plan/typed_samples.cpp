@@ -95,7 +95,7 @@ Letto<Correlazione> correlazione(const std::vector<CampoCasuale>& campi,
         if (!i || !j)
             return DifettoPiano{.motivo = MotivoPiano::senzaLegge,
                                 .testo = nome(i ? seconda : prima)};
-        const auto [meno, piu] = std::minmax(*i, *j);
+        const std::size_t meno = std::min(*i, *j), piu = std::max(*i, *j);
         const bool ripetuta = std::ranges::any_of(
             coppie, [&](const Coppia& c) { return c.prima == meno && c.seconda == piu; });
         if (ripetuta)
@@ -161,7 +161,7 @@ Letto<Campioni> leggiCampioni(const DatiProgetto& dati, const CampioniScritti& s
     if (const auto* difetto = std::get_if<DifettoPiano>(&rho)) return *difetto;
     auto copula = correlazione(campi, std::get<std::vector<RhoScritto>>(rho));
     if (auto* difetto = std::get_if<DifettoPiano>(&copula)) return std::move(*difetto);
-    return Campioni(std::move(campi), scritti.numero, scritti.seme, scritti.disegno,
+    return Campioni(campi, scritti.numero, scritti.seme, scritti.disegno,
                     std::get<Correlazione>(std::move(copula)));
 }
 

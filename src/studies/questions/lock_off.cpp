@@ -6,6 +6,7 @@
 #include <cmath>
 #include <cstdint>
 #include <iterator>
+#include <utility>
 
 #include "analysis/anchors_in_place.hpp"
 #include "equilibrium/staged_equilibrium.hpp"
@@ -31,8 +32,8 @@ struct Punto {
 
 class Ricerca {
  public:
-    Ricerca(const DatiProgetto& dati, int nSeg, int tirante)
-        : dati_(dati), nSeg_(nSeg), tirante_(tirante) {}
+    Ricerca(DatiProgetto dati, int nSeg, int tirante)
+        : dati_(std::move(dati)), nSeg_(nSeg), tirante_(tirante) {}
 
     [[nodiscard]] int primaFase() const {
         for (int k = 1; k <= dati_.nFasi; ++k)

@@ -20,10 +20,10 @@ namespace korven::studies {
 
 /// The same with the numbers and what is asked: "spostamento 35.0 mm nella fase 3, ammessi 30.0
 /// mm"; of a wall that does not stand also why.
-[[nodiscard]] std::string parole(const LunghezzaProvata& provata, const Criteri& criteri);
+[[nodiscard]] std::string parole(const LunghezzaProvata& provata, const Criteri& chiesti);
 
 /// The answer in a sentence; of none why the longest wall tried is none.
-[[nodiscard]] std::string risposta(const RicercaLunghezza& ricerca, const Criteri& criteri,
+[[nodiscard]] std::string risposta(const RicercaLunghezza& ricerca, const Criteri& chiesti,
                                    const Scala& scala);
 
 /// The stable word for it: "trovato", "mai_in_opera", "prima_cade", "mai_in_piedi", "sotto",
