@@ -11,6 +11,7 @@
 #include "report/annex/shear_rules.hpp"
 #include "report/annex/table_pieces.hpp"
 #include "report/annex/twin_words.hpp"
+#include "safety/mesh_words.hpp"
 #include "structure/limit_search.hpp"
 #include "structure/partial_factors.hpp"
 #include "structure/section_type.hpp"
@@ -222,6 +223,13 @@ void relazione(const Fascicolo& f, Blocchi& blocchi) {
     tavola(std::move(p), blocchi);
 }
 
+// The checks below are of this mesh alone: one that finer meshes judge otherwise says so here.
+void verdettiDellaMaglia(const Fascicolo& f, Blocchi& blocchi) {
+    if (!f.margine) return;
+    for (const safety::AvvisoMaglia& avviso : safety::avvisiMaglia(*f.margine))
+        if (avviso.verdetto) paragrafo(avviso.testo, blocchi, Stile::pericolo);
+}
+
 }  // namespace
 
 void capitoloSezione(const Contesto& contesto, Blocchi& blocchi) {
@@ -236,6 +244,7 @@ void capitoloSezione(const Contesto& contesto, Blocchi& blocchi) {
     }
     azioni(f, blocchi);
     tavola(prospettoControlli(f), blocchi);
+    verdettiDellaMaglia(f, blocchi);
     if (auto p = prospettoVerificheDoppie(f); !p.righe.empty())
         tavola(std::move(p), blocchi);
     else if (f.conRelazione())

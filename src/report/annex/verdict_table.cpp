@@ -131,12 +131,15 @@ std::string sfruttamenti(const VerificaDoppia* v) {
                     {equilibrio.empty() ? tables::nessuno : equilibrio, relazione});
 }
 
-// A check that holds with all meshes and goes to where it fails; a paragraph below says to what.
+// A check that holds with this mesh and fails with a finer one, or goes to where it fails; a
+// paragraph below says to what.
 bool nonAssestata(const Fascicolo& f, std::initializer_list<dossier::Verifica> quali) {
     if (!f.margine || !f.margine->maglia) return false;
     const auto& usi = f.margine->maglia->usi;
     return std::any_of(usi.begin(), usi.end(), [&](const safety::UsoMaglia& u) {
-        return u.esito() == safety::EsitoMaglie::nonAssestata &&
+        const safety::EsitoMaglie esito = u.esito();
+        return (esito == safety::EsitoMaglie::nonAssestata ||
+                esito == safety::EsitoMaglie::cambia) &&
                std::find(quali.begin(), quali.end(), u.cosa) != quali.end();
     });
 }

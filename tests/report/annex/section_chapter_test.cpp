@@ -2,10 +2,12 @@
 
 #include <cmath>
 #include <cstdlib>
+#include <memory>
 #include <set>
 #include <string>
 #include <utility>
 
+#include "safety/mesh_words.hpp"
 #include "support/chapter_bench.hpp"
 #include "support/sample_projects.hpp"
 #include "support/sample_sections.hpp"
@@ -257,6 +259,23 @@ TEST(CapitoloSezione, TellsTheUseWithoutAnAxialForceThatHelps) {
     EXPECT_NE(tavola(b, "Verifiche").note.front().find("arriva al " + p.righe[2][3].testo + " %"),
               std::string::npos);
     EXPECT_EQ(testo(b).find("non è verificata."), std::string::npos);
+}
+
+// Who opens this chapter alone must not take for verified what finer meshes judge otherwise.
+TEST(CapitoloSezione, SaysAboveTheChecksThatFinerMeshesJudgeOtherwise) {
+    Contesto c = contesto(muro(structure::diaframmaSimmetrico()));
+    auto fascicolo = std::make_shared<dossier::Fascicolo>(*c.fascicolo);
+    c.fascicolo = fascicolo;
+    const auto uso = [](double u) { return results::Uso{u, 100, u > 100}; };
+    fascicolo->margine->maglia->usi = {
+        {dossier::Verifica::momentoPositivo, {uso(98.0), uso(98.9), uso(101)}}};
+    const std::string avviso = safety::avvisiMaglia(*fascicolo->margine).front().testo;
+    const std::string detto = testo(sezione(c));
+    const auto posto = detto.find(avviso);
+    ASSERT_NE(posto, std::string::npos) << detto;
+    EXPECT_LT(posto, detto.find("Momento positivo, che tende"));
+    fascicolo->margine->maglia->usi.clear();
+    EXPECT_EQ(testo(sezione(c)).find(avviso), std::string::npos);
 }
 
 // A check that holds with the factored compression alone says so.

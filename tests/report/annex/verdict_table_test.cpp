@@ -73,6 +73,9 @@ TEST(ProspettoVerdetti, CallsACheckNotSettledThatGoesBeyondTheResistance) {
     f.margine->maglia->usi = {
         {dossier::Verifica::momentoPositivo, {uso(90.2), uso(91), uso(91.5)}}};
     EXPECT_EQ(riga(prospettoVerdetti(f), "Flessione")[1].testo, "verificata");
+    f.margine->maglia->usi = {
+        {dossier::Verifica::momentoPositivo, {uso(98.0), uso(98.9), results::Uso{101, 100, true}}}};
+    EXPECT_EQ(riga(prospettoVerdetti(f), "Flessione")[1].testo, "non assestata");
 }
 
 TEST(ProspettoVerdetti, SaysWhatHoldsAWallWhoseFactorIsBeyondTheRange) {
