@@ -43,9 +43,9 @@ struct FormeProgramma {
     OffreRecupero recupero;
     /// The about box with the line of the open project, empty if none (document_names.hpp).
     std::function<void(const std::string& fileCorrente)> informazioni;
-    /// The windows beside the main form: remarks, results, safety, annex, comparison, codes. The
-    /// call shows the window and returns at once.
-    std::function<void()> controlli, risultati, sicurezza, allegato, confronto, norme;
+    /// The windows beside the main form: remarks, results, safety, annex, comparison, codes,
+    /// studies. The call shows the window and returns at once.
+    std::function<void()> controlli, risultati, sicurezza, allegato, confronto, norme, studio;
     /// Asks for the pattern of a new project (project_patterns.hpp).
     /// @return its path, empty for the defaults; nothing when the form was left without
     std::function<std::optional<std::string>()> nuovo;

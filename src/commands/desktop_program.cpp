@@ -1,6 +1,7 @@
 #include "commands/desktop_program.hpp"
 
 #include <cassert>
+#include <utility>
 
 #include "analysis/run_flags.hpp"
 #include "analysis/watch/followed_run.hpp"
@@ -43,6 +44,16 @@ void Programma::editaDa(const masks::PostoCampo& posto) {
     congedata_ = false;
     nellaStoria(posto.maschera, [&] { commands::editaDa(posto, maschere_, forme_); });
     custodisci();
+}
+
+bool Programma::prendi(const project::DatiProgetto& dati, const std::string& nome) {
+    if (inUscita_ || project::fileCorrente.empty()) return false;
+    congedata_ = false;
+    const project::DatiProgetto prima = std::exchange(project::Progetto, dati);
+    project::modificato = project::modificato || !(prima == dati);
+    documento_.storia().fatto(nome, prima, dati);
+    custodisci();
+    return true;
 }
 
 void Programma::nellaStoria(masks::NumeroMaschera scheda, const std::function<void()>& apri) {

@@ -53,6 +53,13 @@ class Programma {
     /// the form is missing.
     void editaDa(const masks::PostoCampo& posto);
 
+    /// Makes other data those of the open project, as a step of its history.
+    /// @param dati  read from a project, or by the rules of one
+    /// @param nome  by which the step is told, translated
+    /// @return false without an open project, and while an output is shown, which is of the data
+    ///         before; nothing has changed then
+    bool prendi(const project::DatiProgetto& dati, const std::string& nome);
+
     /// Takes the last confirmed form back, does it again (project_history.hpp). The status line
     /// tells which, until the next form or output; the project counts as modified.
     void annulla();

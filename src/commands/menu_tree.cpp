@@ -196,6 +196,7 @@ constexpr VoceMenu voci[] = {
     accanto({"allegato", "&Allegato", 1, 43, ha<&F::allegato>, mostra<&F::allegato>}),
     accanto({"confronto", "Con&fronta con", 1, 44, ha<&F::confronto>, mostra<&F::confronto>}),
     accanto({"norme", "Nor&me", 1, 45, ha<&F::norme>, mostra<&F::norme>}),
+    accanto({"studio", "St&udio", 1, 46, ha<&F::studio>, mostra<&F::studio>}),
     staccata({"nuovo", "Nu&ovo", 1, 38, ha<&F::nuovo>, nuovo}),
     {"duplica", "&Duplica", 1, 39, nullptr, duplica, "", progettoAperto},
     {"recenti", "R&ecenti", 1, 40, nullptr, nullptr, "", nullptr, nullptr, recenti},

@@ -59,8 +59,13 @@ std::vector<StoriaProgetto::Passi::Cambio> StoriaProgetto::cambi(const DatiProge
 
 void StoriaProgetto::confermata(masks::NumeroMaschera scheda, const DatiProgetto& prima,
                                 const DatiProgetto& dopo) {
+    fatto(nomeScheda(scheda), prima, dopo);
+}
+
+void StoriaProgetto::fatto(const std::string& nome, const DatiProgetto& prima,
+                           const DatiProgetto& dopo) {
     if (auto trovati = cambi(prima, dopo); !trovati.empty())
-        storia_.fatto({nomeScheda(scheda), {}, std::move(trovati)});
+        storia_.fatto({nome, {}, std::move(trovati)});
 }
 
 bool StoriaProgetto::annulla(DatiProgetto& dati) {

@@ -20,6 +20,11 @@ class StoriaProgetto {
     void confermata(masks::NumeroMaschera scheda, const project::DatiProgetto& prima,
                     const project::DatiProgetto& dopo);
 
+    /// The same of what was changed without a form.
+    /// @param nome  by which the step is told, translated
+    void fatto(const std::string& nome, const project::DatiProgetto& prima,
+               const project::DatiProgetto& dopo);
+
     /// Takes the last step back, or does the last one that was taken back again.
     /// @return false when there is none
     bool annulla(project::DatiProgetto& dati);

@@ -21,6 +21,7 @@
 #include "shell/results/results_window.hpp"
 #include "shell/safety/safety_window.hpp"
 #include "shell/section/definej.hpp"
+#include "shell/study/study_wiring.hpp"
 #include "shell/tools/tool_forms.hpp"
 
 namespace korven::desktop {
@@ -50,6 +51,7 @@ commands::FormeProgramma Sessione::forme(const PorteSessione& porte) {
                            annuncia);
     shell::collegaConfronto(tutte, finestra_, vita_, dialogo, porte.stampante, annuncia);
     shell::collegaNorme(tutte, finestra_, vita_, dialogo, porte.stampante, annuncia);
+    shell::collegaStudio(tutte, finestra_, vita_, dialogo, porte.stampante, annuncia);
     shell::collegaStrumenti(tutte, dialogo, finestra_);
     tutte.riavvia = porte.riavvia;
     return tutte;

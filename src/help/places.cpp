@@ -28,6 +28,7 @@ constexpr Posto posti[] = {
     {"allegato", 43},
     {"confronto", 44},
     {"norme", 45},
+    {"studio", 46},
     {"DefinEJ", 7},
     {"Form1", 19},
     {"apri", 3},

@@ -216,6 +216,7 @@ TEST_F(ProgrammaTest, LetsOnlyThoseCommandsBeChosenThatShowNoFormOrOneThatIsPlug
         {"allegato", [](auto& f) { f.allegato = [] {}; }, {"allegato"}},
         {"confronto", [](auto& f) { f.confronto = [] {}; }, {"confronto"}},
         {"norme", [](auto& f) { f.norme = [] {}; }, {"norme"}},
+        {"studio", [](auto& f) { f.studio = [] {}; }, {"studio"}},
         {"nuovo", [](auto& f) { f.nuovo = [] { return std::nullopt; }; }, {"nuovo"}},
         {"lingua", [](auto& f) { f.lingua = [] { return false; }; }, {"lingua"}},
         {"tasti", [](auto& f) { f.tasti = [] {}; }, {"tasti"}},
@@ -260,7 +261,7 @@ TEST_F(ProgrammaTest, TakesNoOtherCommandWhileADrawingIsShown) {
     p.produci([](const PorteUscita& porte) { porte.forme.grafica(); });
     EXPECT_EQ(possibili,
               (std::vector<std::string_view>{"controlli", "risultati", "sicurezza", "allegato",
-                                             "confronto", "norme", "tasti"}));
+                                             "confronto", "norme", "studio", "tasti"}));
     EXPECT_TRUE(p.possibile(voceMenu("FileApri")));
 }
 

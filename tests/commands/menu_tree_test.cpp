@@ -54,6 +54,7 @@ TEST(AlberoMenu, HoldsTheMenusAndTheirItemsInOrder) {
               "  allegato &Allegato\n"
               "  confronto Con&fronta con\n"
               "  norme Nor&me\n"
+              "  studio St&udio\n"
               "  nuovo Nu&ovo\n"
               "  duplica &Duplica\n"
               "  recenti R&ecenti\n"
@@ -99,6 +100,7 @@ TEST(AlberoMenu, GivesEachItemItsEntryOfTheHelpContexts) {
                                                 {"allegato", 43},
                                                 {"confronto", 44},
                                                 {"norme", 45},
+                                                {"studio", 46},
                                                 {"nuovo", 38},
                                                 {"duplica", 39},
                                                 {"recenti", 40},
@@ -111,7 +113,7 @@ TEST(AlberoMenu, GivesEachItemItsEntryOfTheHelpContexts) {
                 EXPECT_EQ(v.guida, aiuto) << nome;
                 ++trovate;
             }
-    EXPECT_EQ(trovate, 38);
+    EXPECT_EQ(trovate, 39);
 }
 
 TEST(AlberoMenu, GivesNoTwoItemsTheSameKeys) {

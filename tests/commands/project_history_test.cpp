@@ -159,6 +159,28 @@ TEST_F(StoriaProgramma, TakesConfirmedFormsBackAndNamesThem) {
     EXPECT_EQ(finestra.ultimoStato, "Nulla da ripetere");
 }
 
+TEST_F(StoriaProgramma, TakesOtherDataAsAStepWithANameOfItsOwn) {
+    const DatiProgetto prima = Progetto;
+    DatiProgetto altri = prima;
+    altri.lunghezzaParatia += 2;
+    altri.sovraccMonte += 1;
+    EXPECT_TRUE(programma.prendi(altri, "Studio"));
+    EXPECT_TRUE(Progetto == altri);
+    EXPECT_TRUE(modificato);
+    annulla();
+    EXPECT_EQ(finestra.ultimoStato, "Annullato: Studio");
+    EXPECT_TRUE(Progetto == prima);
+    ripeti();
+    EXPECT_TRUE(Progetto == altri);
+}
+
+TEST_F(StoriaProgramma, TakesNoOtherDataWithoutAProject) {
+    fileCorrente.clear();
+    const DatiProgetto prima = Progetto;
+    EXPECT_FALSE(programma.prendi({}, "Studio"));
+    EXPECT_TRUE(Progetto == prima);
+}
+
 TEST_F(StoriaProgramma, MakesNoStepOfAFormThatChangedNothing) {
     edita("EditTiranti", {"1", "1.5", "5000", "50", "0"});
     EXPECT_TRUE(modificato) << "a confirmed table counts as modified all the same";

@@ -51,6 +51,7 @@ class MenuIntero : public test::BancoProgramma {
         forme.allegato = dice("annex");
         forme.confronto = dice("comparison");
         forme.norme = dice("codes");
+        forme.studio = dice("studies");
         forme.nuovo = [this] {
             mostrate += "pattern, ";
             return std::string();
@@ -118,6 +119,7 @@ TEST_F(MenuIntero, BringsAboutWhatEachItemSays) {
         {"allegato", "annex"},
         {"confronto", "comparison"},
         {"norme", "codes"},
+        {"studio", "studies"},
         {"nuovo", "pattern, name dialog"},
         {"duplica", "name dialog"},
         {"lingua", "languages, start again, end"},

@@ -36,6 +36,7 @@ TEST(VoceForma, OfTheWindowsBesideTheMainFormIsThatOfTheirMenuItem) {
     EXPECT_EQ(voceForma("allegato"), 43);
     EXPECT_EQ(voceForma("confronto"), 44);
     EXPECT_EQ(voceForma("norme"), 45);
+    EXPECT_EQ(voceForma("studio"), 46);
 }
 
 }  // namespace

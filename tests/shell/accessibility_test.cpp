@@ -37,6 +37,7 @@
 #include "support/sample_offer.hpp"
 #include "support/sample_remarks.hpp"
 #include "support/small_help.hpp"
+#include "support/study_ports.hpp"
 #include "support/viewer_setup.hpp"
 
 namespace korven::shell {
@@ -167,6 +168,8 @@ TEST_F(Accessibilita, OfTheWindowsAroundTheProject) {
     controlla(confronto);
     FinestraNorme norme(menu1, vita, test::porteNorme(dialogo), [](const std::string&) {});
     controlla(norme);
+    FinestraStudio studio(menu1, vita, test::porteStudio(dialogo), [](const std::string&) {});
+    controlla(studio);
     const test::OffertaDiProva prova;
     const auto offerta = prova.offerta();
     FormaRecupero recupero(offerta, nullptr);

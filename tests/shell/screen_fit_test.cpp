@@ -48,6 +48,7 @@
 #include "support/open_project.hpp"
 #include "support/sample_offer.hpp"
 #include "support/sample_remarks.hpp"
+#include "support/study_ports.hpp"
 #include "support/viewer_setup.hpp"
 
 namespace korven::shell {
@@ -176,6 +177,8 @@ void controllaSulProgetto(Menu1& menu1) {
     const auto* pdf = norme.findChild<QPushButton*>("pdf");
     ASSERT_TRUE(QTest::qWaitFor([&] { return pdf->isEnabled(); }, 30000));
     controlla(norme);
+    FinestraStudio studio(menu1, vita, test::porteStudio(dialogo), [](const std::string&) {});
+    controlla(studio);
 }
 
 // The line at the foot of the main form has room for what a run that found no rest leaves there,

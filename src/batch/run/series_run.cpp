@@ -20,12 +20,12 @@
 #include "batch/run/failure.hpp"
 #include "batch/run/interruption.hpp"
 #include "batch/run/output_names.hpp"
-#include "batch/run/series_outcome.hpp"
 #include "batch/run/series_progress.hpp"
 #include "project/project_data.hpp"
 #include "studies/charts/study_chart.hpp"
 #include "studies/resume.hpp"
 #include "studies/summary/row_conditions.hpp"
+#include "studies/summary/study_count.hpp"
 
 namespace korven::batch {
 
@@ -68,7 +68,7 @@ int fili(const OpzioniSerie& serie) {
 // Takes the rows to their file or to standard output.
 class UscitaSerie : public studies::UscitaStudio, public studies::LettoreRigheStudio {
  public:
-    UscitaSerie(const studies::RigheStudio& righe, const DomandaConto& domanda,
+    UscitaSerie(const studies::RigheStudio& righe, const studies::DomandaConto& domanda,
                 base::FileParziale* file)
         : quanti_(righe.quanti()), file_(file), conto_(righe, domanda) {}
 
@@ -91,7 +91,7 @@ class UscitaSerie : public studies::UscitaStudio, public studies::LettoreRigheSt
         return Interruzioni::chiesta() == 0 && std::cout.good();
     }
 
-    [[nodiscard]] ContoSerie& conto() { return conto_; }
+    [[nodiscard]] studies::ContoStudio& conto() { return conto_; }
 
  private:
     void scrivi(std::string_view byte) {
@@ -103,7 +103,7 @@ class UscitaSerie : public studies::UscitaStudio, public studies::LettoreRigheSt
 
     const std::size_t quanti_;
     base::FileParziale* file_;
-    ContoSerie conto_;
+    studies::ContoStudio conto_;
     AvanzamentoSerie* avanzamento_ = nullptr;
 };
 
@@ -140,7 +140,7 @@ void raccontaInterruzione(const base::FileParziale* file, std::uint64_t fatte, s
         esito);
 }
 
-void raccontaFine(const Opzioni& opzioni, const ContoSerie& conto) {
+void raccontaFine(const Opzioni& opzioni, const studies::ContoStudio& conto) {
     if (!opzioni.silenzioso)
         for (const auto& riga : conto.righe()) std::cerr << riga << '\n';
     if (!opzioni.silenzioso || conto.diverse())
@@ -159,7 +159,8 @@ void controllaUscita(const Opzioni& opzioni, const base::Disco& disco) {
 
 // Of one result, once all rows are there.
 int disegnaRisultato(const Opzioni& opzioni, const base::Disco& disco,
-                     const studies::RigheStudio& righe, const ContoSerie& conto, Esito& esito) {
+                     const studies::RigheStudio& righe, const studies::ContoStudio& conto,
+                     Esito& esito) {
     if (opzioni.serie.grafico.empty()) return fatto;
     const auto& nomi = righe.nomi();
     const auto quale = std::find(nomi.begin(), nomi.end(), opzioni.serie.grafico);
@@ -176,7 +177,7 @@ int disegnaRisultato(const Opzioni& opzioni, const base::Disco& disco,
 }
 
 int corri(const Opzioni& opzioni, const PorteComando& porte, const studies::Studio& studio,
-          const DomandaConto& domanda, studies::Tratto tratto, base::FileParziale* file,
+          const studies::DomandaConto& domanda, studies::Tratto tratto, base::FileParziale* file,
           Esito& esito) {
     UscitaSerie uscita(studio.righe, domanda, file);
     studies::Ripresa ripresa;
@@ -238,10 +239,10 @@ int eseguiSerie(const Opzioni& opzioni, const PorteComando& porte, const Variant
     std::optional<base::FileParziale> file;
     if (!serie.uscita.empty()) file.emplace(serie.uscita, porte.disco);
     esito.righeVersate = true;
-    const DomandaConto domanda{.seme = serie.seme,
-                               .campioni = scelte.campioni,
-                               .indipendenti = scelte.indipendenti,
-                               .condizioni = serie.fallisce};
+    const studies::DomandaConto domanda{.seme = serie.seme,
+                                        .campioni = scelte.campioni,
+                                        .indipendenti = scelte.indipendenti,
+                                        .condizioni = serie.fallisce};
     return corri(opzioni, porte, studio, domanda, tratto, file ? &*file : nullptr, esito);
 }
 

@@ -47,6 +47,7 @@ constexpr IconaVoce iconeVoci[] = {
     {"allegato", "annex"},
     {"confronto", "compare"},
     {"norme", "codes"},
+    {"studio", "study"},
     {"nuovo", "new"},
     {"duplica", "duplicate"},
     {"recenti", "recent"},

@@ -194,6 +194,14 @@ void Menu1::editaDa(const masks::PostoCampo& posto) {
     aggiorna();
 }
 
+bool Menu1::prendi(const project::DatiProgetto& dati, const std::string& nome) {
+    if (programma_ == nullptr) return false;
+    salutata_ = false;
+    const bool presi = programma_->prendi(dati, nome);
+    aggiorna();
+    return presi;
+}
+
 void Menu1::accogliFigura(QWidget* figura, QSize emblema) { cornice_->accogli(figura, emblema); }
 void Menu1::mostraFigura() { cornice_->mostra(); }
 

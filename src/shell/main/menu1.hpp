@@ -44,6 +44,9 @@ class Menu1 : public QMainWindow, public commands::FinestraPrincipale {
     /// Opens the form of a field of the open project, at the field.
     void editaDa(const masks::PostoCampo& posto);
 
+    /// Makes other data those of the open project (`commands::Programma::prendi`).
+    bool prendi(const project::DatiProgetto& dati, const std::string& nome);
+
     /// Takes the picture of the open project, which it owns from now on (picture_frame.hpp).
     void accogliFigura(QWidget* figura, QSize emblema);
     /// Shows it: a project is open.

@@ -35,7 +35,7 @@ enum class MotivoPiano {
     rhoConIpercubo,  ///< a hypercube, which has no correlations
     csv,             ///< quotes of a file; `testo` says it, translated, with the line
     celle,           ///< a row of a file with more or fewer cells than columns
-    vuoto,           ///< a file without rows of values
+    senzaRighe,      ///< a file without rows of values
 };
 
 /// What is wrong with a text, and where.

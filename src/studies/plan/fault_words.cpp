@@ -43,7 +43,7 @@ constexpr Riga tabella[] = {
     {MotivoPiano::nonDefinita, "nessuna variabile può avere insieme queste correlazioni"},
     {MotivoPiano::rhoConIpercubo, "un ipercubo non ha correlazioni"},
     {MotivoPiano::celle, "la riga non ha tante celle quante sono le colonne"},
-    {MotivoPiano::vuoto, "il file non ha righe di valori"},
+    {MotivoPiano::senzaRighe, "il file non ha righe di valori"},
 };
 
 std::string perche(const DifettoPiano& d) {

@@ -30,7 +30,8 @@ class Lettura {
         }
         if (!righe_.difetto().empty())
             difetti_.push_back({.motivo = MotivoPiano::csv, .testo = righe_.difetto()});
-        if (difetti_.empty() && valori_.empty()) difetti_.push_back({.motivo = MotivoPiano::vuoto});
+        if (difetti_.empty() && valori_.empty())
+            difetti_.push_back({.motivo = MotivoPiano::senzaRighe});
         if (!difetti_.empty()) return {std::nullopt, std::move(difetti_)};
         return {Piano(std::move(campi_), std::move(valori_)), {}};
     }

@@ -54,7 +54,7 @@ TEST(ParoleDifettoPiano, AreThoseOfARefusedFieldOrValue) {
 
 // No reason is without words, but those that have them already.
 TEST(ParoleDifettoPiano, AreThereForEveryReason) {
-    for (int m = 0; m <= static_cast<int>(MotivoPiano::vuoto); ++m) {
+    for (int m = 0; m <= static_cast<int>(MotivoPiano::senzaRighe); ++m) {
         const auto motivo = static_cast<MotivoPiano>(m);
         if (motivo == MotivoPiano::campo || motivo == MotivoPiano::csv) continue;
         EXPECT_NE(parole({.motivo = motivo}), "") << m;

@@ -82,8 +82,8 @@ TEST(Piano, TellsEachFaultWithLineAndColumn) {
     haDifetti("\nlunghezzaParatia;phiStrato[2]\n8;trenta\n\n101;28\n;30\n",
               {{campo, 3, 2}, {campo, 5, 1}, {campo, 6, 1}});
     haDifetti("lunghezzaParatia;phiStrato[2]\n8\n9;30;1\n10;30\n", {{celle, 2, 0}, {celle, 3, 0}});
-    haDifetti("", {{vuoto, 0, 0}});
-    haDifetti("lunghezzaParatia\n", {{vuoto, 0, 0}});
+    haDifetti("", {{senzaRighe, 0, 0}});
+    haDifetti("lunghezzaParatia\n", {{senzaRighe, 0, 0}});
     haDifetti("lunghezzaParatia\n\"8\n", {{csv, 0, 0}});
     haDifetti("metodoSpinte\n2\n", {{campo, 2, 1}});
 }

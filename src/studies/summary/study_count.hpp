@@ -9,7 +9,7 @@
 #include "studies/summary/summary.hpp"
 #include "studies/summary/summary_text.hpp"
 
-namespace korven::batch {
+namespace korven::studies {
 
 /// What is asked of the sum of a study, beside its rows.
 struct DomandaConto {
@@ -22,15 +22,15 @@ struct DomandaConto {
 
 /// What the rows of a study come to, for its end. Takes them as they are printed, so that those of
 /// an interrupted study that are read again give the same.
-class ContoSerie {
+class ContoStudio {
  public:
     /// @pre the conditions can be read: asserted
-    ContoSerie(const studies::RigheStudio& righe, DomandaConto domanda);
+    ContoStudio(const RigheStudio& righe, DomandaConto domanda);
 
     /// @param i  the variant, from 0, in ascending order
     void riga(std::uint64_t i, std::span<const double> valori);
     void limitati(std::uint64_t quanti) { limitati_ += quanti; }
-    void controllate(const std::vector<studies::Controllata>& altre);
+    void controllate(const std::vector<Controllata>& altre);
 
     /// True if a variant has other numbers both ways.
     [[nodiscard]] bool diverse() const { return diverse_ > 0; }
@@ -40,21 +40,21 @@ class ContoSerie {
     /// differ; empty if there were none.
     [[nodiscard]] std::vector<std::string> righeControllo() const;
 
-    [[nodiscard]] const studies::Riassunto& riassunto() const { return riassunto_; }
-    [[nodiscard]] const studies::FormaRiga& forma() const { return forma_; }
+    [[nodiscard]] const Riassunto& riassunto() const { return riassunto_; }
+    [[nodiscard]] const FormaRiga& forma() const { return forma_; }
 
  private:
-    [[nodiscard]] studies::EsitoRiga esito(std::span<const double> valori) const;
+    [[nodiscard]] EsitoRiga esito(std::span<const double> valori) const;
 
     DomandaConto domanda_;
     std::vector<std::string> nomi_;
     std::size_t causa_;   ///< places in a row
     std::size_t caduta_;  ///< that of no column where there is none
-    studies::FormaRiga forma_;
-    studies::Riassunto riassunto_;
+    FormaRiga forma_;
+    Riassunto riassunto_;
     std::uint64_t limitati_ = 0;
     std::uint64_t controllate_ = 0, senzaRiposo_ = 0, incerte_ = 0, diverse_ = 0;
-    std::vector<studies::Controllata> prime_;  ///< of those that differ
+    std::vector<Controllata> prime_;  ///< of those that differ
 };
 
-}  // namespace korven::batch
+}  // namespace korven::studies

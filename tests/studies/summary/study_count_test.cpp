@@ -1,55 +1,53 @@
-#include "batch/run/series_outcome.hpp"
+#include "studies/summary/study_count.hpp"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <sstream>
 
-namespace korven::batch {
+namespace korven::studies {
 namespace {
 
-using studies::Accordo;
-using Righe = std::vector<std::string>;
+using Testi = std::vector<std::string>;
 
 // One field, then verdict, stage, moment and use.
-const studies::RigheStudio& forma() {
+const RigheStudio& forma() {
     static const std::vector campi{project::campoNominato("lunghezzaParatia").value()};
-    static const studies::RigheStudio sua(
+    static const RigheStudio sua(
         campi,
-        studies::scegliColonne({"fase_caduta", "momento_massimo_kNm", "uso_momento_positivo"}, 0,
-                               false)
+        scegliColonne({"fase_caduta", "momento_massimo_kNm", "uso_momento_positivo"}, 0, false)
             .colonne,
-        studies::Formato::csv);
+        Formato::csv);
     return sua;
 }
 
 std::vector<double> riga(safety::Causa causa, double momento = 100) {
     const bool sta = causa == safety::Causa::eseguito;
-    return {12, static_cast<double>(causa), sta ? studies::vuoto : 2,
-            sta ? momento : studies::vuoto, sta ? 0.5 : studies::vuoto};
+    return {12, static_cast<double>(causa), sta ? vuoto : 2, sta ? momento : vuoto,
+            sta ? 0.5 : vuoto};
 }
 
-TEST(ContoSerie, CountsVerdictsAndValuesThatWereSetToALimit) {
-    ContoSerie conto(forma(), {});
+TEST(ContoStudio, CountsVerdictsAndValuesThatWereSetToALimit) {
+    ContoStudio conto(forma(), {});
     for (std::uint64_t i = 0; i < 3; ++i) conto.riga(i, riga(safety::Causa::eseguito));
     conto.riga(3, riga(safety::Causa::meccanismo));
     EXPECT_EQ(conto.righe(),
-              (Righe{"4 varianti, 3 in equilibrio in tutte le fasi.", "Falliscono 1 varianti su 4.",
+              (Testi{"4 varianti, 3 in equilibrio in tutte le fasi.", "Falliscono 1 varianti su 4.",
                      "  meccanismo, fase 2: 1",
                      "L'uso maggiore di chi sta è di:", "  uso_momento_positivo: 3"}));
     conto.limitati(2);
     EXPECT_EQ(conto.righe()[1],
               "2 valori erano oltre i limiti del loro campo e sono stati posti al limite.");
     EXPECT_FALSE(conto.diverse());
-    EXPECT_EQ(conto.righeControllo(), Righe{});
+    EXPECT_EQ(conto.righeControllo(), Testi{});
 }
 
-TEST(ContoSerie, TellsTheProbabilityOfFailureOfIndependentSamples) {
-    ContoSerie conto(forma(), {.seme = 7, .campioni = true, .indipendenti = true});
+TEST(ContoStudio, TellsTheProbabilityOfFailureOfIndependentSamples) {
+    ContoStudio conto(forma(), {.seme = 7, .campioni = true, .indipendenti = true});
     for (std::uint64_t i = 0; i < 9; ++i)
         conto.riga(i, riga(safety::Causa::eseguito, static_cast<double>(i)));
     conto.riga(9, riga(safety::Causa::meccanismo));
-    const Righe righe = conto.righe();
+    const Testi righe = conto.righe();
     // Wilson's interval of 1 in 10.
     EXPECT_EQ(righe[1],
               "Falliscono 1 campioni su 10: probabilità 0.1, con il 95 % di confidenza tra "
@@ -68,14 +66,14 @@ TEST(ContoSerie, TellsTheProbabilityOfFailureOfIndependentSamples) {
     EXPECT_EQ(conto.forma().usi, (std::vector<std::size_t>{4}));
 }
 
-TEST(ContoSerie, ListsTheFirstOfTheVariantsThatDifferBothWays) {
-    ContoSerie conto(forma(), {});
+TEST(ContoStudio, ListsTheFirstOfTheVariantsThatDifferBothWays) {
+    ContoStudio conto(forma(), {});
     conto.controllate({{99, {Accordo::uguali, 1, 1e-9, 1e-7}}, {199, {Accordo::senzaRiposo}}});
     EXPECT_FALSE(conto.diverse());
     conto.controllate(
         {{299, {Accordo::spostamenti, 2, 0.00025, 0.0000002}}, {399, {Accordo::verdetto, 3}}});
     EXPECT_TRUE(conto.diverse());
-    const Righe righe = conto.righeControllo();
+    const Testi righe = conto.righeControllo();
     ASSERT_EQ(righe.size(), 3u);
     EXPECT_EQ(righe[0],
               "4 varianti calcolate in ambedue i modi: 2 diverse, 1 in cui il calcolo per fasi non "
@@ -90,4 +88,4 @@ TEST(ContoSerie, ListsTheFirstOfTheVariantsThatDifferBothWays) {
 }
 
 }  // namespace
-}  // namespace korven::batch
+}  // namespace korven::studies

@@ -1,4 +1,4 @@
-#include "batch/run/series_outcome.hpp"
+#include "studies/summary/study_count.hpp"
 
 #include <algorithm>
 #include <cassert>
@@ -11,13 +11,12 @@
 #include "project/units.hpp"
 #include "studies/summary/row_conditions.hpp"
 
-namespace korven::batch {
+namespace korven::studies {
 
 namespace {
 
 using base::riempito;
 using base::traduttore;
-using studies::Accordo;
 
 constexpr std::size_t massimeElencate = 20;
 
@@ -26,7 +25,7 @@ std::string millimetri(double metri) {
     return base::testoDecimali(mostrato(project::unita::spostamentoFine, metri), decimali);
 }
 
-std::string parole(const studies::Controllata& c) {
+std::string parole(const Controllata& c) {
     const std::string variante = std::to_string(c.variante + 1),
                       fase = std::to_string(c.esito.fase);
     if (c.esito.accordo == Accordo::verdetto)
@@ -44,21 +43,19 @@ std::size_t posto(const std::vector<std::string>& nomi, std::string_view nome) {
     return static_cast<std::size_t>(std::find(nomi.begin(), nomi.end(), nome) - nomi.begin());
 }
 
-studies::FormaRiga formaDi(const studies::RigheStudio& righe,
-                           const std::vector<std::string>& condizioni) {
-    auto lette = studies::leggiCondizioni(condizioni, righe);
+FormaRiga formaDi(const RigheStudio& righe, const std::vector<std::string>& condizioni) {
+    auto lette = leggiCondizioni(condizioni, righe);
     assert(!lette.difetto);
-    studies::FormaRiga f{.campi = righe.campi(),
-                         .valori = righe.quanti(),
-                         .risultati = {},
-                         .usi = {},
-                         .condizioni = std::move(lette.condizioni)};
+    FormaRiga f{.campi = righe.campi(),
+                .valori = righe.quanti(),
+                .risultati = {},
+                .usi = {},
+                .condizioni = std::move(lette.condizioni)};
     std::size_t j = f.campi;
-    for (const studies::Colonna& colonna : righe.colonne()) {
+    for (const Colonna& colonna : righe.colonne()) {
         const auto specie = colonna.specie;
-        if (specie == studies::Specie::numero || specie == studies::Specie::uso)
-            f.risultati.push_back(j);
-        if (specie == studies::Specie::uso) f.usi.push_back(j);
+        if (specie == Specie::numero || specie == Specie::uso) f.risultati.push_back(j);
+        if (specie == Specie::uso) f.usi.push_back(j);
         ++j;
     }
     return f;
@@ -66,16 +63,16 @@ studies::FormaRiga formaDi(const studies::RigheStudio& righe,
 
 }  // namespace
 
-ContoSerie::ContoSerie(const studies::RigheStudio& righe, DomandaConto domanda)
+ContoStudio::ContoStudio(const RigheStudio& righe, DomandaConto domanda)
     : domanda_(std::move(domanda)),
       nomi_(righe.nomi()),
-      causa_(posto(nomi_, studies::colonnaCausa)),
-      caduta_(posto(nomi_, studies::colonnaCaduta)),
+      causa_(posto(nomi_, colonnaCausa)),
+      caduta_(posto(nomi_, colonnaCaduta)),
       forma_(formaDi(righe, domanda_.condizioni)),
       riassunto_(forma_, domanda_.seme) {}
 
-studies::EsitoRiga ContoSerie::esito(std::span<const double> valori) const {
-    studies::EsitoRiga e;
+EsitoRiga ContoStudio::esito(std::span<const double> valori) const {
+    EsitoRiga e;
     e.motivo = static_cast<int>(valori[causa_]);
     e.sta = e.motivo == static_cast<int>(safety::Causa::eseguito);
     if (caduta_ < valori.size() && !std::isnan(valori[caduta_]))
@@ -83,12 +80,12 @@ studies::EsitoRiga ContoSerie::esito(std::span<const double> valori) const {
     return e;
 }
 
-void ContoSerie::riga(std::uint64_t i, std::span<const double> valori) {
+void ContoStudio::riga(std::uint64_t i, std::span<const double> valori) {
     riassunto_.prendi(i, valori, esito(valori));
 }
 
-void ContoSerie::controllate(const std::vector<studies::Controllata>& altre) {
-    for (const studies::Controllata& c : altre) {
+void ContoStudio::controllate(const std::vector<Controllata>& altre) {
+    for (const Controllata& c : altre) {
         ++controllate_;
         senzaRiposo_ += c.esito.accordo == Accordo::senzaRiposo ? 1 : 0;
         incerte_ += c.esito.accordo == Accordo::incerto ? 1 : 0;
@@ -98,7 +95,7 @@ void ContoSerie::controllate(const std::vector<studies::Controllata>& altre) {
     }
 }
 
-std::vector<std::string> ContoSerie::righe() const {
+std::vector<std::string> ContoStudio::righe() const {
     std::vector<std::string> testo;
     testo.push_back(
         riempito(traduttore("%1 varianti, %2 in equilibrio in tutte le fasi."),
@@ -108,17 +105,17 @@ std::vector<std::string> ContoSerie::righe() const {
             riempito(traduttore("%1 valori erano oltre i limiti del loro campo e sono stati posti "
                                 "al limite."),
                      {std::to_string(limitati_)}));
-    const auto sue = studies::righeRiassunto(riassunto_, forma_,
-                                             {.valori = nomi_,
-                                              .motivi = studies::paroleCausa(),
-                                              .condizioni = domanda_.condizioni,
-                                              .campioni = domanda_.campioni,
-                                              .indipendenti = domanda_.indipendenti});
+    const auto sue = righeRiassunto(riassunto_, forma_,
+                                    {.valori = nomi_,
+                                     .motivi = paroleCausa(),
+                                     .condizioni = domanda_.condizioni,
+                                     .campioni = domanda_.campioni,
+                                     .indipendenti = domanda_.indipendenti});
     testo.insert(testo.end(), sue.begin(), sue.end());
     return testo;
 }
 
-std::vector<std::string> ContoSerie::righeControllo() const {
+std::vector<std::string> ContoStudio::righeControllo() const {
     if (controllate_ == 0) return {};
     std::vector<std::string> testo;
     testo.push_back(riempito(
@@ -126,11 +123,11 @@ std::vector<std::string> ContoSerie::righeControllo() const {
                    "fasi non trova riposo, %4 senza soluzione di equilibrio."),
         {std::to_string(controllate_), std::to_string(diverse_), std::to_string(senzaRiposo_),
          std::to_string(incerte_)}));
-    for (const studies::Controllata& c : prime_) testo.push_back(parole(c));
+    for (const Controllata& c : prime_) testo.push_back(parole(c));
     if (diverse_ > prime_.size())
         testo.push_back(
             riempito(traduttore("... e altre %1."), {std::to_string(diverse_ - prime_.size())}));
     return testo;
 }
 
-}  // namespace korven::batch
+}  // namespace korven::studies

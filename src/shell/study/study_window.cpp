@@ -1,0 +1,281 @@
+#include "shell/study/study_window.hpp"
+
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QShowEvent>
+#include <QSignalBlocker>
+#include <QSplitter>
+#include <QTimer>
+#include <QVBoxLayout>
+#include <utility>
+
+#include "analysis/segment_count.hpp"
+#include "base/colon.hpp"
+#include "base/files.hpp"
+#include "base/filled_text.hpp"
+#include "base/translated_texts.hpp"
+#include "device/document_files.hpp"
+#include "dossier/identity.hpp"
+#include "project/output_guard.hpp"
+#include "project/project_data.hpp"
+#include "shell/annex/document_view.hpp"
+#include "shell/companions/button_row.hpp"
+#include "shell/forms/scrolled_part.hpp"
+#include "shell/forms/wrapped_label.hpp"
+#include "shell/qt_text.hpp"
+#include "shell/study/study_form.hpp"
+#include "shell/tables/table_pages.hpp"
+#include "shell/tables/table_view.hpp"
+#include "shell/viewer/export.hpp"
+#include "shell/viewer/output_saving.hpp"
+#include "shell/wrapped_text.hpp"
+#include "workbook/xlsx_file.hpp"
+
+namespace korven::shell {
+
+namespace {
+
+constexpr QSize misuraComoda(1180, 560);
+constexpr const char* paginaGuida = "finestra_studio";
+constexpr int ritmo = 100;                  // of the progress [ms]
+constexpr std::size_t righeTabella = 2000;  // that a table shows
+constexpr int lettereRisultato = 20;
+
+}  // namespace
+
+FinestraStudio::FinestraStudio(QWidget& principale, VitaProgetto& vita, PorteStudio porte,
+                               std::function<void(const std::string&)> guida)
+    : FinestraCompagna(principale, QStringLiteral("studio"), tradotto("Studio"), misuraComoda),
+      vita_(vita),
+      porte_(std::move(porte)),
+      ritmo_(new QTimer(this)),
+      lavoro_(new StudiInDisparte(
+          calcoloStudi(),
+          [this](const DomandaStudio& domanda, const RispostaStudio& risposta) {
+              accogli(domanda, risposta);
+          },
+          this)) {
+    auto* meta = new QSplitter(Qt::Horizontal, this);
+    meta->setChildrenCollapsible(false);
+    forma_ = new FormaStudio(this);
+    meta->addWidget(new ParteScorrevole(forma_, meta));
+    meta->addWidget(fareRisultati());
+    meta->setStretchFactor(1, 1);
+    auto* colonna = new QVBoxLayout(this);
+    colonna->addWidget(meta, 1);
+    nota_ = etichettaInRighe("nota", this);
+    colonna->addWidget(nota_);
+    colonna->addWidget(fareAttesa());
+    colonna->addWidget(farePulsanti(guida));
+    ritmo_->setInterval(ritmo);
+    connect(ritmo_, &QTimer::timeout, this, [this] { avanza(); });
+    connect(&vita, &VitaProgetto::cambiata, this, [this] {
+        if (isVisible()) segui();
+    });
+    riempi();
+}
+
+QWidget* FinestraStudio::fareRisultati() {
+    auto* parte = new QWidget(this);
+    auto* colonna = new QVBoxLayout(parte);
+    colonna->setContentsMargins(0, 0, 0, 0);
+    auto* riga = new QWidget(parte);
+    auto* disposizione = new QHBoxLayout(riga);
+    disposizione->setContentsMargins(0, 0, 0, 0);
+    risultato_ = new QComboBox(riga);
+    risultato_->setObjectName(QStringLiteral("risultato"));
+    risultato_->setAccessibleName(tradotto("Risultato che è disegnato"));
+    risultato_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    risultato_->setMinimumContentsLength(lettereRisultato);
+    auto* etichetta = new QLabel(tradotto("&Risultato"), riga);
+    etichetta->setBuddy(risultato_);
+    disposizione->addWidget(etichetta);
+    disposizione->addWidget(risultato_, 1);
+    colonna->addWidget(riga);
+    pagine_ = new PagineProspetti(parte);
+    grafico_ = new VistaDocumento(pagine_);
+    grafico_->setAccessibleName(tradotto("Grafico"));
+    pagine_->addTab(grafico_, tradotto("Grafico"));
+    varianti_ = pagine_->aggiungi("varianti", "Varianti");
+    riassunto_ = pagine_->aggiungi("riassunto", "Riassunto");
+    colonna->addWidget(pagine_, 1);
+    connect(risultato_, &QComboBox::activated, this, [this] { disegna(); });
+    connect(varianti_, &QTableView::activated, this, &FinestraStudio::prendi);
+    return parte;
+}
+
+QWidget* FinestraStudio::fareAttesa() {
+    attesa_ = new QWidget(this);
+    attesa_->setObjectName(QStringLiteral("attesa"));
+    auto* disposizione = new QHBoxLayout(attesa_);
+    disposizione->setContentsMargins(0, 0, 0, 0);
+    barra_ = new QProgressBar(attesa_);
+    barra_->setObjectName(QStringLiteral("avanzamento"));
+    barra_->setAccessibleName(tradotto("Varianti calcolate"));
+    disposizione->addWidget(barra_, 1);
+    auto* ferma = new QPushButton(tradotto("Fer&ma"), attesa_);
+    ferma->setObjectName(QStringLiteral("ferma"));
+    ferma->setAutoDefault(false);
+    connect(ferma, &QPushButton::clicked, this, [this] { basta(); });
+    disposizione->addWidget(ferma);
+    attesa_->hide();
+    return attesa_;
+}
+
+QWidget* FinestraStudio::farePulsanti(const std::function<void(const std::string&)>& guida) {
+    auto* riga = new FilaPulsanti(*this);
+    calcola_ = riga->aggiungi("calcola", "Ca&lcola", "redo", [this] { calcola(); });
+    prendi_ = riga->aggiungi("prendi", "&Prendi variante", "import",
+                             [this] { prendi(varianti_->currentIndex()); });
+    pagine_->aggiungiCopia(*riga);
+    csv_ = riga->aggiungi("csv", "CS&V...", "txt", [this] {
+        salva("Salvataggio dello studio in formato CSV", {"CSV (*.csv)", "csv"},
+              [this](const std::string& dove) {
+                  base::scriviFile(dove, desk::csv(*fatto_), porte_.file->disco());
+              });
+    });
+    pdf_ = riga->aggiungi("pdf", "PD&F...", "picture_file", [this] {
+        salva("Salvataggio dello studio in formato PDF", tipoPdf(),
+              [this](const std::string& dove) {
+                  device::scriviPdf(dove, desk::documento(fatto_, risultato(), progetto()),
+                                    porte_.file->disco());
+              });
+    });
+    xlsx_ = riga->aggiungi("xlsx", "&XLSX...", "tables", [this] {
+        salva("Salvataggio dello studio in formato XLSX", {"XLSX (*.xlsx)", "xlsx"},
+              [this](const std::string& dove) {
+                  base::scriviFile(dove, workbook::xlsx(desk::cartella(*fatto_, progetto()), dove),
+                                   porte_.file->disco());
+              });
+    });
+    riga->aggiungiGuida(guida ? [guida] { guida(paginaGuida); } : std::function<void()>());
+    riga->finisci();
+    return riga;
+}
+
+void FinestraStudio::showEvent(QShowEvent* evento) {
+    segui();
+    FinestraCompagna::showEvent(evento);
+}
+
+void FinestraStudio::calcola() {
+    if (inCorso_.studio != nullptr || !vita_.vivo().aperto()) return;
+    const auto nSeg = analysis::leggiNSeg(false);
+    if (!nSeg) return nota_->setText(tradotto(analysis::motivoNSeg().data()));
+    const auto letto = desk::leggi(vita_.vivo().dati(), *nSeg, forma_->scritto());
+    if (letto.studio == nullptr) return nota_->setText(inRighe(letto.perche));
+    inCorso_ = {letto.studio, std::make_shared<std::atomic<bool>>(false),
+                std::make_shared<std::atomic<std::uint64_t>>(0)};
+    nota_->clear();
+    ritmo_->start();
+    lavoro_->chiedi(inCorso_);
+    avanza();
+    segui();
+}
+
+void FinestraStudio::basta() {
+    if (inCorso_.basta) *inCorso_.basta = true;
+}
+
+void FinestraStudio::accogli(const DomandaStudio&, const RispostaStudio& risposta) {
+    inCorso_ = {};
+    ritmo_->stop();
+    if (risposta.fatto == nullptr)
+        nota_->setText(inRighe(risposta.guasto));
+    else
+        fatto_ = risposta.fatto;
+    riempi();
+    segui();
+}
+
+void FinestraStudio::avanza() {
+    if (inCorso_.studio == nullptr) return;
+    const std::uint64_t fatte = *inCorso_.fatte, quante = inCorso_.studio->varianti->numero();
+    barra_->setRange(0, static_cast<int>(quante));  // never more than a window holds
+    barra_->setValue(static_cast<int>(fatte));
+    barra_->setFormat(qt(base::riempito(base::traduttore("%1 di %2 varianti"),
+                                        {std::to_string(fatte), std::to_string(quante)})));
+}
+
+void FinestraStudio::segui() {
+    const bool aperto = vita_.vivo().aperto();
+    if (aperto) forma_->offri(vita_.vivo().dati());
+    forma_->setEnabled(aperto);
+    calcola_->setEnabled(aperto && inCorso_.studio == nullptr);
+    attesa_->setVisible(inCorso_.studio != nullptr);
+    for (QPushButton* pulsante : {prendi_, csv_, pdf_, xlsx_})
+        pulsante->setEnabled(aperto && fatto_ != nullptr && fatto_->numero() > 0);
+    if (!aperto) nota_->setText(tradotto("Nessun progetto aperto"));
+}
+
+void FinestraStudio::riempi() {
+    const QSignalBlocker muta(risultato_);
+    const QVariant scelto = risultato_->currentData();
+    risultato_->clear();
+    if (fatto_ == nullptr) {
+        const std::string perche =
+            base::traduttore("Scegliere a sinistra che cosa varia, poi Calcola.");
+        for (VistaProspetto* vista : {varianti_, riassunto_}) vista->mostra({.note = {perche}});
+        return;
+    }
+    for (const auto& uno :
+         desk::risultatiOfferti(fatto_->studio->dati, fatto_->studio->scritto.sicurezza))
+        risultato_->addItem(qt(uno.voce), qt(uno.nome));
+    risultato_->setCurrentIndex(std::max(0, risultato_->findData(scelto)));
+    auto varianti = desk::prospetto(*fatto_, righeTabella);
+    nota_->setText(inRighe(insieme(varianti.note)));
+    varianti_->mostra(std::move(varianti));
+    riassunto_->mostra({.note = desk::frasi(*fatto_)});
+    disegna();
+}
+
+void FinestraStudio::disegna() {
+    if (fatto_ == nullptr) return;
+    grafico_->mostra(device::impaginato(desk::documentoGrafico(fatto_, risultato()),
+                                        desk::formatoGrafico(*fatto_, risultato())));
+    grafico_->adattaPagina();
+}
+
+std::string FinestraStudio::risultato() const {
+    return risultato_->currentData().toString().toStdString();
+}
+
+void FinestraStudio::prendi(const QModelIndex& dove) {
+    if (fatto_ == nullptr || !vita_.vivo().aperto()) return;
+    if (!dove.isValid())
+        return nota_->setText(tradotto("Scegliere prima una variante nella tabella."));
+    const auto i = static_cast<std::uint64_t>(varianti_->modello().riga(dove.row()));
+    const auto presa = desk::prendi(*fatto_, i, vita_.vivo().dati());
+    if (!presa.perche.empty()) return nota_->setText(inRighe(presa.perche));
+    std::string campi;
+    for (const std::string& una : desk::assegnazioni(*fatto_, i)) campi += una + "\n";
+    const auto risposta = porte_.dialogo.domandaInformata(
+        base::riempito(base::traduttore("Prendere la variante %1 nel progetto?"),
+                       {std::to_string(i + 1)}),
+        base::traduttore("Studio"), base::Pulsanti::siNo, base::Icona::domanda, campi);
+    if (risposta != base::Risposta::si) return;
+    nota_->setText(tradotto(porte_.prendi(presa.dati)
+                                ? "La variante è nel progetto: Annulla la toglie."
+                                : "Il progetto non si può cambiare mentre si guarda un disegno."));
+}
+
+desk::ProgettoDetto FinestraStudio::progetto() const {
+    return {project::progettoAperto(), fatto_->studio->dati,
+            dossier::data(dossier::fontiDiSistema({}))};
+}
+
+void FinestraStudio::salva(const char* titolo, const TipoFile& tipo,
+                           const std::function<void(const std::string&)>& scrivi) {
+    const auto scritto =
+        salvaUscita(richiestaUscita(titolo, project::fileCorrente, "studio", {tipo}), *porte_.file,
+                    porte_.dialogo, [&](const std::string& dove) {
+                        project::controllaUscita(dove, project::fileCorrente);
+                        scrivi(dove);
+                    });
+    if (scritto) nota_->setText(qt(base::conDuePunti(base::traduttore("File scritto"), *scritto)));
+}
+
+}  // namespace korven::shell

@@ -1,0 +1,117 @@
+#include "desk/study_result.hpp"
+
+#include <gtest/gtest.h>
+
+#include "live/wall.hpp"
+#include "project/program_numbers.hpp"
+#include "studies/assignments.hpp"
+#include "support/wall_files.hpp"
+
+namespace korven::desk {
+namespace {
+
+project::DatiProgetto muro() {
+    return korven::test::leggiMuro(KORVEN_EXAMPLES "/diaframma_due_ordini.kvd");
+}
+
+StudioScritto lunghezze() {
+    StudioScritto s;
+    s.variazioni = {{"lunghezzaParatia", 0, {"16", "20", "1"}}};
+    return s;
+}
+
+std::shared_ptr<const StudioFatto> fatto(const StudioScritto& s) {
+    const auto letto = leggi(muro(), 50, s);
+    EXPECT_NE(letto.studio, nullptr) << letto.perche;
+    return esegui(letto.studio, 2, [](std::uint64_t) { return true; });
+}
+
+// Each row is what the wall of these data comes to by itself.
+TEST(RisultatoStudio, OfEachVariantIsThatOfItsWall) {
+    const auto f = fatto(lunghezze());
+    ASSERT_EQ(f->numero(), 5U);
+    EXPECT_TRUE(f->intero());
+    const auto& nomi = f->studio->righe->nomi();
+    const auto posto =
+        static_cast<std::size_t>(std::ranges::find(nomi, "momento_massimo_kNm") - nomi.begin());
+    for (std::uint64_t i = 0; i < 5; ++i) {
+        auto dati = muro();
+        dati.lunghezzaParatia = 16 + static_cast<double>(i);
+        const auto parete = live::calcola(dati, 50);
+        ASSERT_TRUE(parete.sta());
+        EXPECT_EQ(f->riga(i)[0], dati.lunghezzaParatia);
+        EXPECT_NEAR(f->riga(i)[posto], project::kN(parete.estremi.momentoMassimo.valore), 1e-6);
+    }
+}
+
+TEST(RisultatoStudio, KeepsWhatIsDoneWhereItIsStopped) {
+    auto s = lunghezze();
+    s.variazioni[0].numeri[2] = "0.001";
+    const auto letto = leggi(muro(), 50, s);
+    const auto f = esegui(letto.studio, 1, [](std::uint64_t fatte) { return fatte < 100; });
+    EXPECT_GE(f->numero(), 100U);
+    EXPECT_LT(f->numero(), 4001U);
+    EXPECT_FALSE(f->intero());
+    EXPECT_TRUE(frasi(*f)[0].starts_with("Lo studio è stato fermato"));
+    EXPECT_EQ(frasi(*f)[1], std::to_string(f->numero()) + " varianti, " +
+                                std::to_string(f->conto.riassunto().stanno()) +
+                                " in equilibrio in tutte le fasi.");
+}
+
+TEST(RisultatoStudio, IsATableWithARowForEachVariant) {
+    auto s = lunghezze();
+    s.fallisce = {"spostamento_massimo_m>0"};
+    const auto f = fatto(s);
+    const auto p = prospetto(*f, 3);
+    ASSERT_EQ(p.righe.size(), 3U);
+    EXPECT_EQ(p.note, std::vector<std::string>{"Le prime 3 varianti di 5; il CSV le ha tutte."});
+    EXPECT_EQ(p.colonne[0].titolo, "Variante");
+    EXPECT_EQ(p.colonne[2].titolo, "lunghezzaParatia [m]");
+    EXPECT_EQ(p.righe[2][0].testo, "3");
+    EXPECT_EQ(p.righe[2][1].testo, "fallisce") << "it moves";
+    EXPECT_EQ(p.righe[2][2].numero, 18);
+    EXPECT_TRUE(prospetto(*f, 5).note.empty());
+    EXPECT_EQ(prospetto(*fatto(lunghezze()), 5).righe[0][1].testo, "in equilibrio");
+}
+
+TEST(RisultatoStudio, IsDrawnForAResultThatItHas) {
+    const auto f = fatto(lunghezze());
+    EXPECT_EQ(documentoGrafico(f, "momento_massimo_kNm").blocchi.size(), 1U);
+    EXPECT_TRUE(documentoGrafico(f, "riduzione").blocchi.empty());
+    EXPECT_GT(formatoGrafico(*f, "momento_massimo_kNm").larghezza, 400);
+    const auto d = documento(f, "momento_massimo_kNm", {"/lavori/muro.kvd", muro(), "2026-01-31"});
+    std::size_t figure = 0, tavole = 0;
+    for (const auto& blocco : d.blocchi) {
+        figure += std::holds_alternative<document::Figura>(blocco);
+        tavole += std::holds_alternative<document::Tavola>(blocco);
+    }
+    EXPECT_EQ(figure, 1U);
+    EXPECT_EQ(tavole, 1U);
+    const auto libro = cartella(*f, {"/lavori/muro.kvd", muro(), "2026-01-31"});
+    ASSERT_EQ(libro.fogli.size(), 1U);
+    EXPECT_EQ(libro.fogli[0].prospetto.righe.size(), 5U);
+    EXPECT_EQ(libro.fogli[0].prospetto.note[0], "Varia: lunghezzaParatia=16:20:1.");
+}
+
+TEST(VariantePresa, IsTheProjectWithItsFields) {
+    const auto f = fatto(lunghezze());
+    EXPECT_EQ(assegnazioni(*f, 3), std::vector<std::string>{"lunghezzaParatia=19"});
+    const auto presa = prendi(*f, 3, muro());
+    EXPECT_EQ(presa.perche, "");
+    auto attesa = muro();
+    attesa.lunghezzaParatia = 19;
+    EXPECT_TRUE(presa.dati == attesa);
+    const auto altra = prendi(*f, 0, presa.dati);
+    EXPECT_EQ(altra.perche, "") << "another variant of the same project";
+    EXPECT_EQ(altra.dati.lunghezzaParatia, 16);
+}
+
+TEST(VariantePresa, IsNoneOfAProjectThatHasChangedSince) {
+    const auto f = fatto(lunghezze());
+    auto dati = muro();
+    dati.sovraccMonte += 1;
+    EXPECT_TRUE(prendi(*f, 3, dati).perche.starts_with("Il progetto è cambiato"));
+}
+
+}  // namespace
+}  // namespace korven::desk
