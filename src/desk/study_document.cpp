@@ -10,6 +10,7 @@
 #include "base/version.hpp"
 #include "desk/study_result.hpp"
 #include "dossier/identity.hpp"
+#include "drawings/annex/scene_plot.hpp"
 #include "studies/charts/study_chart.hpp"
 #include "studies/summary/summary_text.hpp"
 
@@ -62,8 +63,8 @@ std::optional<document::Figura> figura(const std::shared_ptr<const StudioFatto>&
         .larghezza = larghezza,
         .altezza = altezza,
         .disegna = [fatto, suo = *suo, larghezza = larghezza, altezza = altezza] {
-            studies::disegnaGrafico(fatto->conto.riassunto(), fatto->conto.forma(), suo, larghezza,
-                                    altezza);
+            drawings::disegnaScena(studies::scenaGrafico(
+                fatto->conto.riassunto(), fatto->conto.forma(), suo, larghezza, altezza));
         }};
 }
 

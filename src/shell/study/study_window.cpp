@@ -131,6 +131,8 @@ QWidget* FinestraStudio::farePulsanti(const std::function<void(const std::string
     prendi_ = riga->aggiungi("prendi", "&Prendi variante", "import",
                              [this] { prendi(varianti_->currentIndex()); });
     pagine_->aggiungiCopia(*riga);
+    pagine_->setCurrentWidget(varianti_);  // and back, so that the button knows the chart
+    pagine_->setCurrentWidget(grafico_);
     csv_ = riga->aggiungi("csv", "CS&V...", "txt", [this] {
         salva("Salvataggio dello studio in formato CSV", {"CSV (*.csv)", "csv"},
               [this](const std::string& dove) {
@@ -164,7 +166,7 @@ void FinestraStudio::showEvent(QShowEvent* evento) {
 void FinestraStudio::calcola() {
     if (inCorso_.studio != nullptr || !vita_.vivo().aperto()) return;
     const auto nSeg = analysis::leggiNSeg(false);
-    if (!nSeg) return nota_->setText(tradotto(analysis::motivoNSeg().data()));
+    if (!nSeg) return nota_->setText(qt(base::traduttore(analysis::motivoNSeg())));
     const auto letto = desk::leggi(vita_.vivo().dati(), *nSeg, forma_->scritto());
     if (letto.studio == nullptr) return nota_->setText(inRighe(letto.perche));
     inCorso_ = {letto.studio, std::make_shared<std::atomic<bool>>(false),
@@ -219,6 +221,7 @@ void FinestraStudio::riempi() {
         const std::string perche =
             base::traduttore("Scegliere a sinistra che cosa varia, poi Calcola.");
         for (VistaProspetto* vista : {varianti_, riassunto_}) vista->mostra({.note = {perche}});
+        nota_->setText(inRighe(perche));
         return;
     }
     for (const auto& uno :

@@ -155,6 +155,7 @@ TEST_F(FinestraStudioTest, SavesItsVariantsButNotOverTheProject) {
     EXPECT_TRUE(test::contenuto(cartella / "s.csv").starts_with("variante,lunghezzaParatia [m],"));
     salvataggio->nomi = {cartella / "s.pdf"};
     c<QPushButton>("pdf").click();
+    EXPECT_EQ(dialogo.messaggi.size(), 1U);
     EXPECT_TRUE(test::contenuto(cartella / "s.pdf").starts_with("%PDF-"));
     salvataggio->nomi = {cartella / "s.xlsx"};
     c<QPushButton>("xlsx").click();
