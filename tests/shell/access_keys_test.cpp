@@ -120,7 +120,7 @@ TEST_P(TastiDiScelta, DifferWithinTheOtherForms) {
     EXPECT_EQ(tastiDi(FinestraConfronto(principale, vita, test::porteConfronto(dialogo), guida)),
               6U);
     EXPECT_EQ(tastiDi(FinestraNorme(principale, vita, test::porteNorme(dialogo), guida)), 9U);
-    EXPECT_EQ(tastiDi(FinestraStudio(principale, vita, test::porteStudio(dialogo), guida)), 15U);
+    EXPECT_EQ(tastiDi(FinestraStudio(principale, vita, test::porteStudio(dialogo), guida)), 13U);
     EXPECT_EQ(tastiDi(SceltaModello({})), 2U);
     for (const bool salvato : {true, false}) {
         test::OffertaDiProva prova;

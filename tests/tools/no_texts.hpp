@@ -453,7 +453,7 @@ inline const std::map<std::string, Texts> noTexts = {
       "limite", "sicurezza"}},
     {"shell/study/study_window.cpp",
      {"studio", "finestra_studio", "nota", "risultato", "varianti", "riassunto", "attesa",
-      "avanzamento", "ferma", "calcola", "prendi", "csv", "CSV (*.csv)", "pdf", "xlsx",
+      "avanzamento", "ferma", "calcola", "prendi", "esporta", "csv", "CSV (*.csv)", "xlsx",
       "XLSX (*.xlsx)"}},
     {"desk/study_choice.cpp",
      {"spostamento_massimo_m", "momento_massimo_kNm", "momento_minimo_kNm", "taglio_massimo_kN",

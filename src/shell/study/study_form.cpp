@@ -20,7 +20,7 @@ namespace korven::shell {
 namespace {
 
 constexpr int quanteVariazioni = 4, quantiCriteri = 2;
-constexpr int lettereCampo = 24, lettereNumero = 6;
+constexpr int lettereCampo = 20, lettereModo = 15, lettereNumero = 6;
 
 QString conNumero(const char* testo, int numero) {
     return qt(base::riempito(base::traduttore(testo), {std::to_string(numero)}));
@@ -63,11 +63,12 @@ FormaStudio::FormaStudio(QWidget* padre) : QWidget(padre) {
     fareCampioni(*colonna);
     colonna->addWidget(new QLabel(tradotto("Fallisce anche la variante con"), this));
     for (int i = 1; i <= quantiCriteri; ++i) fareCriterio(*colonna, i);
-    sicurezza_ = new QCheckBox(tradotto("anche &F e lunghezza minima"), this);
+    sicurezza_ = new QCheckBox(tradotto("anche F e lun&ghezza minima"), this);
     sicurezza_->setObjectName(QStringLiteral("sicurezza"));
     sicurezza_->setToolTip(tradotto("Ogni variante richiede circa cento volte il tempo"));
     colonna->addWidget(sicurezza_);
     colonna->addStretch();
+    setFocusProxy(modo_);
     connect(modo_, &QComboBox::currentIndexChanged, this, [this] { segui(); });
     connect(sicurezza_, &QCheckBox::toggled, this, [this] { segui(); });
     segui();
@@ -78,6 +79,8 @@ void FormaStudio::fareModo(QVBoxLayout& colonna) {
     modo_ = new QComboBox(pezzo);
     modo_->setObjectName(QStringLiteral("modo"));
     modo_->setAccessibleName(tradotto("In che modo variano i campi"));
+    modo_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    modo_->setMinimumContentsLength(lettereModo);
     modo_->addItem(tradotto("da un valore a un altro"));
     modo_->addItem(tradotto("a caso, per una legge"));
     auto* etichetta = new QLabel(tradotto("&Variano"), pezzo);
@@ -159,6 +162,8 @@ void FormaStudio::fareCriterio(QVBoxLayout& colonna, int quale) {
     colonna.addWidget(sotto);
     criteri_.push_back(c);
 }
+
+QWidget* FormaStudio::ultimo() const { return sicurezza_; }
 
 bool FormaStudio::campioni() const { return modo_->currentIndex() == 1; }
 

@@ -25,6 +25,8 @@ class FormaStudio : public QWidget {
     void offri(const project::DatiProgetto& dati);
     /// As it is typed.
     [[nodiscard]] desk::StudioScritto scritto() const;
+    /// The last of its controls.
+    [[nodiscard]] QWidget* ultimo() const;
 
  private:
     struct Variazione {

@@ -1,6 +1,7 @@
 #include "shell/study/study_window.hpp"
 
 #include <QComboBox>
+#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QProgressBar>
@@ -62,7 +63,7 @@ FinestraStudio::FinestraStudio(QWidget& principale, VitaProgetto& vita, PorteStu
     meta->setChildrenCollapsible(false);
     forma_ = new FormaStudio(this);
     meta->addWidget(new ParteScorrevole(forma_, meta));
-    meta->addWidget(fareRisultati());
+    meta->addWidget(fareRisultati(meta));
     meta->setStretchFactor(1, 1);
     auto* colonna = new QVBoxLayout(this);
     colonna->addWidget(meta, 1);
@@ -76,10 +77,13 @@ FinestraStudio::FinestraStudio(QWidget& principale, VitaProgetto& vita, PorteStu
         if (isVisible()) segui();
     });
     riempi();
+    forma_->setFocus();
+    QWidget::setTabOrder(forma_->ultimo(), risultato_);
+    QWidget::setTabOrder(risultato_, pagine_);
 }
 
-QWidget* FinestraStudio::fareRisultati() {
-    auto* parte = new QWidget(this);
+QWidget* FinestraStudio::fareRisultati(QWidget* meta) {
+    auto* parte = new QWidget(meta);
     auto* colonna = new QVBoxLayout(parte);
     colonna->setContentsMargins(0, 0, 0, 0);
     auto* riga = new QWidget(parte);
@@ -128,31 +132,12 @@ QWidget* FinestraStudio::fareAttesa() {
 QWidget* FinestraStudio::farePulsanti(const std::function<void(const std::string&)>& guida) {
     auto* riga = new FilaPulsanti(*this);
     calcola_ = riga->aggiungi("calcola", "Ca&lcola", "redo", [this] { calcola(); });
-    prendi_ = riga->aggiungi("prendi", "&Prendi variante", "import",
+    prendi_ = riga->aggiungi("prendi", "&Prendila", "import",
                              [this] { prendi(varianti_->currentIndex()); });
     pagine_->aggiungiCopia(*riga);
     pagine_->setCurrentWidget(varianti_);  // and back, so that the button knows the chart
     pagine_->setCurrentWidget(grafico_);
-    csv_ = riga->aggiungi("csv", "CS&V...", "txt", [this] {
-        salva("Salvataggio dello studio in formato CSV", {"CSV (*.csv)", "csv"},
-              [this](const std::string& dove) {
-                  base::scriviFile(dove, desk::csv(*fatto_), porte_.file->disco());
-              });
-    });
-    pdf_ = riga->aggiungi("pdf", "PD&F...", "picture_file", [this] {
-        salva("Salvataggio dello studio in formato PDF", tipoPdf(),
-              [this](const std::string& dove) {
-                  device::scriviPdf(dove, desk::documento(fatto_, risultato(), progetto()),
-                                    porte_.file->disco());
-              });
-    });
-    xlsx_ = riga->aggiungi("xlsx", "&XLSX...", "tables", [this] {
-        salva("Salvataggio dello studio in formato XLSX", {"XLSX (*.xlsx)", "xlsx"},
-              [this](const std::string& dove) {
-                  base::scriviFile(dove, workbook::xlsx(desk::cartella(*fatto_, progetto()), dove),
-                                   porte_.file->disco());
-              });
-    });
+    esporta_ = riga->aggiungi("esporta", "E&sporta...", "export", [this] { esporta(); });
     riga->aggiungiGuida(guida ? [guida] { guida(paginaGuida); } : std::function<void()>());
     riga->finisci();
     return riga;
@@ -205,10 +190,9 @@ void FinestraStudio::avanza() {
 void FinestraStudio::segui() {
     const bool aperto = vita_.vivo().aperto();
     if (aperto) forma_->offri(vita_.vivo().dati());
-    forma_->setEnabled(aperto);
     calcola_->setEnabled(aperto && inCorso_.studio == nullptr);
     attesa_->setVisible(inCorso_.studio != nullptr);
-    for (QPushButton* pulsante : {prendi_, csv_, pdf_, xlsx_})
+    for (QPushButton* pulsante : {prendi_, esporta_})
         pulsante->setEnabled(aperto && fatto_ != nullptr && fatto_->numero() > 0);
     if (!aperto) nota_->setText(tradotto("Nessun progetto aperto"));
 }
@@ -270,14 +254,23 @@ desk::ProgettoDetto FinestraStudio::progetto() const {
             dossier::data(dossier::fontiDiSistema({}))};
 }
 
-void FinestraStudio::salva(const char* titolo, const TipoFile& tipo,
-                           const std::function<void(const std::string&)>& scrivi) {
-    const auto scritto =
-        salvaUscita(richiestaUscita(titolo, project::fileCorrente, "studio", {tipo}), *porte_.file,
-                    porte_.dialogo, [&](const std::string& dove) {
-                        project::controllaUscita(dove, project::fileCorrente);
-                        scrivi(dove);
-                    });
+void FinestraStudio::scrivi(const std::string& dove) {
+    project::controllaUscita(dove, project::fileCorrente);
+    const base::Disco& disco = porte_.file->disco();
+    const std::string tipo = QFileInfo(qt(dove)).suffix().toLower().toStdString();
+    if (tipo == "csv")
+        base::scriviFile(dove, desk::csv(*fatto_), disco);
+    else if (tipo == "xlsx")
+        base::scriviFile(dove, workbook::xlsx(desk::cartella(*fatto_, progetto()), dove), disco);
+    else
+        device::scriviPdf(dove, desk::documento(fatto_, risultato(), progetto()), disco);
+}
+
+void FinestraStudio::esporta() {
+    const auto scritto = salvaUscita(
+        richiestaUscita("Salvataggio dello studio", project::fileCorrente, "studio",
+                        {tipoPdf(), {"CSV (*.csv)", "csv"}, {"XLSX (*.xlsx)", "xlsx"}}),
+        *porte_.file, porte_.dialogo, [this](const std::string& dove) { scrivi(dove); });
     if (scritto) nota_->setText(qt(base::conDuePunti(base::traduttore("File scritto"), *scritto)));
 }
 

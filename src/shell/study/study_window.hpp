@@ -48,7 +48,7 @@ class FinestraStudio : public FinestraCompagna {
     void showEvent(QShowEvent* evento) override;
 
  private:
-    QWidget* fareRisultati();
+    QWidget* fareRisultati(QWidget* meta);
     QWidget* fareAttesa();
     QWidget* farePulsanti(const std::function<void(const std::string&)>& guida);
     void calcola();
@@ -61,8 +61,8 @@ class FinestraStudio : public FinestraCompagna {
     void prendi(const QModelIndex& dove);
     [[nodiscard]] std::string risultato() const;
     [[nodiscard]] desk::ProgettoDetto progetto() const;
-    void salva(const char* titolo, const TipoFile& tipo,
-               const std::function<void(const std::string&)>& scrivi);
+    void scrivi(const std::string& dove);
+    void esporta();
 
     VitaProgetto& vita_;
     PorteStudio porte_;
@@ -77,8 +77,7 @@ class FinestraStudio : public FinestraCompagna {
     QWidget* attesa_ = nullptr;  // shown while a study is being computed
     QProgressBar* barra_ = nullptr;
     QLabel* nota_ = nullptr;
-    QPushButton *calcola_ = nullptr, *prendi_ = nullptr, *csv_ = nullptr, *pdf_ = nullptr,
-                *xlsx_ = nullptr;
+    QPushButton *calcola_ = nullptr, *prendi_ = nullptr, *esporta_ = nullptr;
     StudiInDisparte* lavoro_;
 };
 

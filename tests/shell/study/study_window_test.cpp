@@ -81,7 +81,7 @@ class FinestraStudioTest : public ::testing::Test {
 };
 
 TEST_F(FinestraStudioTest, SaysWhatIsMissingBeforeAnythingVaries) {
-    EXPECT_FALSE(c<QPushButton>("csv").isEnabled());
+    EXPECT_FALSE(c<QPushButton>("esporta").isEnabled());
     c<QPushButton>("calcola").click();
     EXPECT_EQ(nota(), "Scegliere almeno un campo che varia.");
     varia("x", "1");
@@ -98,7 +98,7 @@ TEST_F(FinestraStudioTest, ComputesAGridWithTableChartAndSummary) {
     EXPECT_EQ(c<VistaDocumento>("anteprima").pagine(), 1);
     auto& risultato = c<QComboBox>("risultato");
     EXPECT_EQ(risultato.currentText(), "Spostamento massimo [m]");
-    EXPECT_TRUE(c<QPushButton>("pdf").isEnabled());
+    EXPECT_TRUE(c<QPushButton>("esporta").isEnabled());
 }
 
 TEST_F(FinestraStudioTest, ComputesSamplesByALaw) {
@@ -148,17 +148,17 @@ TEST_F(FinestraStudioTest, SavesItsVariantsButNotOverTheProject) {
     calcola();
     test::metti(project::fileCorrente, "muro");
     salvataggio->nomi = {project::fileCorrente, cartella / "s.csv"};
-    c<QPushButton>("csv").click();
+    c<QPushButton>("esporta").click();
     EXPECT_EQ(dialogo.messaggi.size(), 1U);
     EXPECT_EQ(test::contenuto(project::fileCorrente), "muro");
-    EXPECT_EQ(salvataggio->chiesta.nome, "muro-studio.csv");
+    EXPECT_EQ(salvataggio->chiesta.nome, "muro-studio.pdf");
     EXPECT_TRUE(test::contenuto(cartella / "s.csv").starts_with("variante,lunghezzaParatia [m],"));
     salvataggio->nomi = {cartella / "s.pdf"};
-    c<QPushButton>("pdf").click();
-    EXPECT_EQ(dialogo.messaggi.size(), 1U);
+    c<QPushButton>("esporta").click();
+    ASSERT_EQ(dialogo.messaggi.size(), 1U) << dialogo.messaggi.back().testo;
     EXPECT_TRUE(test::contenuto(cartella / "s.pdf").starts_with("%PDF-"));
     salvataggio->nomi = {cartella / "s.xlsx"};
-    c<QPushButton>("xlsx").click();
+    c<QPushButton>("esporta").click();
     EXPECT_TRUE(test::contenuto(cartella / "s.xlsx").starts_with("PK"));
 }
 
