@@ -38,7 +38,8 @@ TEST_F(Menu1Test, HasItsMenuInItalian) {
               "    &Esporta Tabulati in Formato DOC\n    Esporta Tabulati in Formato &TXT\n"
               "  &Configura\n  &Help\n"
               "St&rumenti\n  An&nulla\n  &Ripeti\n  -\n  &Controlli\n  R&isultati\n"
-              "  &Sicurezza\n  &Allegato\n  Con&fronta con\n  Nor&me\n  St&udio\n  -\n  Nu&ovo\n  &Duplica\n  "
+              "  &Sicurezza\n  &Allegato\n  Con&fronta con\n  Nor&me\n  St&udio\n  -\n  Nu&ovo\n  "
+              "&Duplica\n  "
               "R&ecenti\n  -\n  Lin&gua\n  "
               "&Tasti\n"
               "&Uscita\n&Help\n  &Sommario\n  &Info\n");
