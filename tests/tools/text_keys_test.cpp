@@ -1,6 +1,6 @@
 // Every text that the sources may show must be in the table of texts. What reaches the translation
 // goes through tables, constants and functions, so this test does not follow it: it takes each
-// literal with a word in it for a text and knows by name those that are none (no_texts.hpp).
+// literal with a word in it for a text and knows by name those that are none (no_texts.txt).
 
 #include <gtest/gtest.h>
 
@@ -26,7 +26,7 @@ namespace {
 
 namespace fs = std::filesystem;
 using test::noTexts;
-using test::silentFiles;
+using test::readNoTexts;
 using test::Texts;
 
 bool letter(char c) {
@@ -128,10 +128,11 @@ bool namesIcon(const std::string& text) {
 }
 
 bool isNoText(const std::string& file, const std::string& text) {
-    const auto exempt = noTexts.find(file);
-    return silentFiles.contains(file) || namesControl(text) || isPartOfField(file, text) ||
+    const auto& [silent, some] = noTexts();
+    const auto exempt = some.find(file);
+    return silent.contains(file) || namesControl(text) || isPartOfField(file, text) ||
            namesRemark(text) || namesIcon(text) ||
-           (exempt != noTexts.end() && listed(exempt->second, text));
+           (exempt != some.end() && listed(exempt->second, text));
 }
 
 std::set<std::string> keys() {
@@ -153,7 +154,7 @@ TEST(TextKeys, AreInTheTableForEveryLiteralThatMayBeShown) {
             EXPECT_TRUE(known.contains(base::chiaveTesto(text)))
                 << "src/" << file << " has \"" << text
                 << "\", which has no record in data/texts.txt; if it is never shown, name it in "
-                   "this test";
+                   "tests/tools/no_texts.txt";
         }
     }
     EXPECT_GT(looked, 200) << "the sources were not found";
@@ -260,11 +261,20 @@ TEST(TextKeys, AreInTheTableForEveryLiteralThatIsTranslatedHoweverShort) {
     EXPECT_TRUE(looked.contains("&No")) << "the sources were not found";
 }
 
+TEST(TextKeys, AreExemptAsTheListOfThemIsWritten) {
+    const auto read = readNoTexts("# head\n\na/b.cpp: names\n\nc.cpp\n    one: two\n    # three\n");
+    EXPECT_EQ(read.silent, (std::map<std::string, std::string>{{"a/b.cpp", "names"}}));
+    EXPECT_EQ(read.some, (std::map<std::string, Texts>{{"c.cpp", {"one: two", "# three"}}}));
+    EXPECT_THROW(readNoTexts("a.cpp: names\n    one\n"), std::runtime_error);
+    EXPECT_THROW(readNoTexts("    one\n"), std::runtime_error);
+    EXPECT_THROW(readNoTexts("a.cpp\na.cpp: names\n"), std::runtime_error);
+}
+
 TEST(TextKeys, ExemptNothingThatIsNotThere) {
     const auto spoken = spokenLiterals();
-    for (const auto& [file, reason] : silentFiles)
+    for (const auto& [file, reason] : noTexts().silent)
         EXPECT_TRUE(spoken.contains(file)) << file << ": " << reason;
-    for (const auto& [file, texts] : noTexts) {
+    for (const auto& [file, texts] : noTexts().some) {
         ASSERT_TRUE(spoken.contains(file)) << file;
         for (const auto& text : texts)
             EXPECT_TRUE(listed(spoken.at(file), text)) << file << ": " << text;
