@@ -26,11 +26,17 @@ QString conNumero(const char* testo, int numero) {
     return qt(base::riempito(base::traduttore(testo), {std::to_string(numero)}));
 }
 
+// What a choice is for. Its name is, for whoever listens, what is chosen: so it is described too.
+void dillo(QComboBox& scelta, const QString& chiSenteLegge) {
+    scelta.setAccessibleName(chiSenteLegge);
+    scelta.setAccessibleDescription(chiSenteLegge);
+}
+
 // A list of long lines that asks for less room than they need.
 QComboBox* scelta(const QString& nome, const QString& chiSenteLegge, QWidget* padre) {
     auto* fatta = new QComboBox(padre);
     fatta->setObjectName(nome);
-    fatta->setAccessibleName(chiSenteLegge);
+    dillo(*fatta, chiSenteLegge);
     fatta->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     fatta->setMinimumContentsLength(lettereCampo);
     return fatta;
@@ -98,7 +104,7 @@ void FormaStudio::fareVariazione(QVBoxLayout& colonna, int quale) {
                  .legge = new QComboBox(sopra),
                  .numeri = {}};
     v.legge->setObjectName(QStringLiteral("legge") + n);
-    v.legge->setAccessibleName(conNumero("Legge del campo %1", quale));
+    dillo(*v.legge, conNumero("Legge del campo %1", quale));
     for (const studies::NomeLegge& legge : studies::nomiLeggi())
         v.legge->addItem(qt(legge.nome.mostrato()));
     auto* disposizione = riga(sopra);
@@ -152,7 +158,7 @@ void FormaStudio::fareCriterio(QVBoxLayout& colonna, int quale) {
                .segno = new QComboBox(sotto),
                .limite = numero(QStringLiteral("limite") + n, sotto)};
     c.segno->setObjectName(QStringLiteral("segno") + n);
-    c.segno->setAccessibleName(conNumero("Confronto del criterio %1", quale));
+    dillo(*c.segno, conNumero("Confronto del criterio %1", quale));
     for (const char* segno : {">", ">=", "<", "<="}) c.segno->addItem(QLatin1String(segno));
     c.limite->setAccessibleName(conNumero("Limite del criterio %1", quale));
     auto* disposizione = riga(sotto);
