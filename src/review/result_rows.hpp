@@ -85,14 +85,14 @@ inline constexpr VoceOsservazione vociRisultati[] = {
      "molle cedono, ridurre i segmenti"},
 
     {"scavo-spostato-dai-nodi", Peso::daVedere, "osservazioni_risultati",
-     "conta dal nodo a %1 m, %2 m più in basso, e la maglia falsa %3 del %4 %: aumentare i "
-     "segmenti"},
+     "conta dal nodo a %1 m, %2 m più in basso; con questa maglia, per tutte le cause insieme, %3 "
+     "è falsato del %4 %: aumentare i segmenti"},
     {"falda-tra-due-nodi", Peso::daVedere, "osservazioni_risultati",
-     "cade tra due nodi, %2 m sopra quello a %1 m, e la maglia falsa %3 del %4 %: aumentare i "
-     "segmenti"},
+     "cade tra due nodi, %2 m sopra quello a %1 m; con questa maglia, per tutte le cause insieme, "
+     "%3 è falsato del %4 %: aumentare i segmenti"},
     {"strato-spostato-dai-nodi", Peso::daVedere, "osservazioni_risultati",
-     "lo strato che segue conta dal nodo a %1 m, %2 m più in basso, e la maglia falsa %3 del %4 %: "
-     "aumentare i segmenti"},
+     "lo strato che segue conta dal nodo a %1 m, %2 m più in basso; con questa maglia, per tutte "
+     "le cause insieme, %3 è falsato del %4 %: aumentare i segmenti"},
 };
 
 }  // namespace korven::review

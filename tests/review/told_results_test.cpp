@@ -62,7 +62,8 @@ TEST(EsempiRaccontati, AreToldWhatTheirStagesComeTo) {
             "(fase 5, a 26.00 m), dell'equilibrio -385.2 kN/m (fase 5, a 18.72 m); al piede "
             "incastrato il diagramma conta le molle dell'incastro: il primo non è della paratia",
             "[da vedere] scavo-spostato-dai-nodi: fase 4: Prof. [m] = 11.5: conta dal nodo a 11.96 "
-            "m, 0.46 m più in basso, e la maglia falsa il momento del 8.1 %: aumentare i "
+            "m, 0.46 m più in basso; con questa maglia, per tutte le cause "
+            "insieme, il momento è falsato del 8.1 %: aumentare i "
             "segmenti"}));
 }
 

@@ -49,18 +49,18 @@ std::vector<Cella> riga(const Controllo& c, bool conAzioni) {
     return riga;
 }
 
-// A use that grows where the axial force is not multiplied: "50.4 %" is not all there is to say.
-void notaSforzo(const dossier::LatoFlessione& lato, const char* momento, Prospetto& p) {
+}  // namespace
+
+// "50.4 %" is not all there is to say.
+std::string sforzoFavorevole(const dossier::LatoFlessione& lato, const char* momento) {
     const auto massimo = lato.usoMaggiore();
-    if (!lato.uso || !massimo || !(*massimo > *lato.uso)) return;
-    p.note.push_back(base::riempito(
+    if (!lato.uso || !massimo || !(*massimo > *lato.uso)) return {};
+    return base::riempito(
         traduttore("Flessione, %1: lo sforzo normale, moltiplicato per %2, aumenta la resistenza; "
                    "non moltiplicato, o senza, lo sfruttamento arriva al %3 %."),
         {traduttore(momento), base::testoDecimali(structure::fsAzioniSezione, 2),
-         project::numeroMostrato(*massimo, 1, unita::percento)}));
+         project::numeroMostrato(*massimo, 1, unita::percento)});
 }
-
-}  // namespace
 
 Prospetto prospettoControlli(const dossier::Fascicolo& f) {
     const live::ControlliSezione& tutti = f.controlli;
@@ -79,8 +79,10 @@ Prospetto prospettoControlli(const dossier::Fascicolo& f) {
                       tutti.negativo, c.fallitaNeg()});
         else
             p.note.push_back(traduttore("Nessun momento negativo agisce."));
-        notaSforzo(f.flessione->positivo, "momento positivo", p);
-        notaSforzo(f.flessione->negativo, "momento negativo", p);
+        for (const auto& [lato, momento] : {std::pair(&f.flessione->positivo, "momento positivo"),
+                                            std::pair(&f.flessione->negativo, "momento negativo")})
+            if (std::string nota = sforzoFavorevole(*lato, momento); !nota.empty())
+                p.note.push_back(std::move(nota));
     }
     if (tutti.taglio) {
         const structure::ConfrontoTaglio& c = *tutti.taglio;

@@ -12,6 +12,11 @@ namespace korven::report {
 /// equilibrium.
 [[nodiscard]] tables::Prospetto prospettoControlli(const dossier::Fascicolo& fascicolo);
 
+/// What a check of bending must not keep to itself: that its use grows where the axial force that
+/// helps it is not multiplied. Empty if it does not.
+/// @param momento  the key of a text: "momento positivo"
+[[nodiscard]] std::string sforzoFavorevole(const dossier::LatoFlessione& lato, const char* momento);
+
 /// Strengths, areas, design axial force and what the section carries of it.
 [[nodiscard]] tables::Prospetto prospettoMateriali(const project::Sezione& sezione,
                                                    const dossier::ValoriFlessione& valori);

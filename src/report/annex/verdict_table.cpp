@@ -12,6 +12,7 @@
 #include "factors/words.hpp"
 #include "project/codes.hpp"
 #include "report/annex/columns.hpp"
+#include "report/annex/section_tables.hpp"
 #include "report/annex/shear_rules.hpp"
 #include "report/annex/table_pieces.hpp"
 #include "review/limits.hpp"
@@ -172,8 +173,13 @@ std::vector<Cella> flessione(const Fascicolo& f) {
     if (!f.flessione || !f.controlli.flessione)
         return riga(cosa, nessunaVerifica(), traduttore("La sezione non è definita."));
     if (!f.controlli.conAzioni || !f.parete.sta()) return senzaAzioni(cosa);
-    return verifica(cosa, femminile, f,
-                    {dossier::Verifica::momentoPositivo, dossier::Verifica::momentoNegativo});
+    std::vector<Cella> celle =
+        verifica(cosa, femminile, f,
+                 {dossier::Verifica::momentoPositivo, dossier::Verifica::momentoNegativo});
+    for (const std::string& nota : {sforzoFavorevole(f.flessione->positivo, "momento positivo"),
+                                    sforzoFavorevole(f.flessione->negativo, "momento negativo")})
+        if (!nota.empty()) celle.back().testo += ". " + nota;
+    return celle;
 }
 
 std::vector<Cella> taglio(const Fascicolo& f) {

@@ -88,6 +88,19 @@ TEST(ProspettoVerdetti, SaysWhatHoldsAWallWhoseFactorIsBeyondTheRange) {
     EXPECT_NE(detto.find("resistenza senza limite"), std::string::npos);
 }
 
+// A check that leans on the factored axial force says on the cover what is left of it without.
+TEST(ProspettoVerdetti, TellsTheUseWithoutAnAxialForceThatHelps) {
+    auto dati = test::progettoSemplice();
+    dati.sezione = structure::diaframmaSimmetrico();
+    dati.sforzoNormale = 12;
+    const auto detto = [&] { return riga(verdetti(dati), "Flessione")[2].testo; };
+    EXPECT_NE(detto().find("non moltiplicato, o senza, lo sfruttamento arriva al"),
+              std::string::npos)
+        << detto();
+    dati.sforzoNormale = 0;
+    EXPECT_EQ(detto().find("non moltiplicato"), std::string::npos);
+}
+
 // Each remark is counted under the weight that it has in its chapter.
 TEST(ProspettoVerdetti, CountsARemarkThatPreventsTheRunByItself) {
     const auto f = *contesto(test::progettoSenzaPace()).fascicolo;
