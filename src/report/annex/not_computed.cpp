@@ -18,7 +18,8 @@ struct Escluso {
 
 constexpr Escluso esclusi[] = {
     {"Coefficienti parziali sulle resistenze del terreno.",
-     "Le resistenze sono quelle scritte; il capitolo Margine dice di quanto si potrebbero ridurre.",
+     "Le resistenze sono quelle scritte, fuorché nelle combinazioni di una norma, dove il "
+     "documento le ha; il capitolo Margine dice di quanto si potrebbero ridurre.",
      fonti::coefficientiParziali},
     {"Attrito fra terreno e paratia: non c'è, delta = 0 sui due lati.",
      "ka è maggiore e kp minore che con l'attrito: per le spinte dalla parte sicura.",

@@ -84,7 +84,10 @@ void Riassunto::prendi(std::uint64_t i, std::span<const double> riga, const Esit
         if (std::isnan(uso)) continue;
         if (maggiore == forma_.usi.size() || uso > riga[forma_.usi[maggiore]]) maggiore = k;
     }
-    if (maggiore < forma_.usi.size()) ++governano_[maggiore];
+    if (maggiore < forma_.usi.size()) {
+        ++governano_[maggiore];
+        superano_ += riga[forma_.usi[maggiore]] > 1 ? 1 : 0;
+    }
 
     for (std::size_t k = 0; k < posti_.size(); ++k) {
         riga_[k] = riga[posti_[k]];

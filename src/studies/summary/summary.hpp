@@ -71,6 +71,8 @@ class Riassunto {
     /// Of how many each share is the largest, in the order of `FormaRiga::usi`; of equal ones the
     /// first.
     [[nodiscard]] const std::vector<std::uint64_t>& governano() const { return governano_; }
+    /// How many have a share beyond 1: they stand, but not with this resistance.
+    [[nodiscard]] std::uint64_t superano() const { return superano_; }
     /// Share of the variants that fail, if they are independent samples.
     [[nodiscard]] double probabilita() const;
     [[nodiscard]] Intervallo intervallo() const { return intervalloWilson(fallite_, numero_); }
@@ -87,7 +89,7 @@ class Riassunto {
 
     FormaRiga forma_;
     std::vector<std::size_t> posti_;  ///< of a row, that are kept
-    std::uint64_t numero_ = 0, stanno_ = 0, fallite_ = 0;
+    std::uint64_t numero_ = 0, stanno_ = 0, fallite_ = 0, superano_ = 0;
     std::map<std::pair<int, int>, std::uint64_t> cadute_;
     std::vector<std::uint64_t> oltre_, governano_;
     std::vector<Momenti> momenti_;

@@ -89,6 +89,11 @@ void governo(const Riassunto& r, const FormaRiga& forma, const NomiRiassunto& no
     for (std::size_t k = 0; k < volte.size(); ++k)
         if (volte[k] > 0)
             testo.push_back("  " + base::conDuePunti(nomi.valori[forma.usi[k]], numero(volte[k])));
+    if (r.superano() > 0)
+        testo.push_back(
+            riempito(traduttore("In equilibrio, ma con un uso maggiore di 1: %1 varianti; "
+                                "falliscono solo se un criterio lo dice."),
+                     {numero(r.superano())}));
 }
 
 std::string quota(double p) {

@@ -56,6 +56,14 @@ TEST(Riassunto, CountsWhatStandsWhatFailsAndWhatGoverns) {
     EXPECT_EQ(r.governano(), (std::vector<std::uint64_t>{3, 1}));  // of 0.7 and 0.7 the first
 }
 
+TEST(Riassunto, CountsWhatStandsBeyondAResistance) {
+    auto oltre = cinque;
+    oltre[1].v = 1.01;
+    oltre[2].u = 1;  // used up, and no more
+    EXPECT_EQ(di(cinque).superano(), 0U);
+    EXPECT_EQ(di(oltre).superano(), 1U);
+}
+
 // The first result is there five times: 3 1 8 5 90, ranks 2 1 4 3 5 beside fields that grow (0.8,
 // by hand as in ranks_test). The second field has ranks 2.5 2.5 5 2.5 2.5 there: deviations -.5 -.5
 // 2

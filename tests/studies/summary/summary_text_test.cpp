@@ -57,6 +57,15 @@ TEST(TestoRiassunto, HasNoIntervalForAHypercubeAndNoProbabilityForAGrid) {
     EXPECT_EQ(righe.back(), "  uso_b: 1");
 }
 
+TEST(TestoRiassunto, TellsWhatStandsBeyondAResistance) {
+    Riassunto r(forma, 1);
+    r.prendi(0, std::array{30.0, 1.15, 0.4}, {});
+    r.prendi(1, std::array{32.0, 0.25, 0.4}, {});
+    EXPECT_EQ(righeRiassunto(r, forma, nomi)[4],
+              "In equilibrio, ma con un uso maggiore di 1: 1 varianti; falliscono solo se un "
+              "criterio lo dice.");
+}
+
 // The variants of 0.25 and 0.125 stand, and fail all the same; that of 0.125 by both conditions.
 TEST(TestoRiassunto, TellsHowManyFailThatStand) {
     auto sua = forma;
