@@ -49,6 +49,11 @@ bool EsitoCombinazione::verificata() const {
                                 [](const Verifica& v) { return v.verificata; });
 }
 
+std::optional<bool> EsitoCombinazione::giudizio() const {
+    if (sta() && verifiche.empty()) return std::nullopt;
+    return verificata();
+}
+
 EsitoCombinazione calcola(const DatiProgetto& dati, int nSeg, const Combinazione& combinazione,
                           const NaturaCarichi& natura) {
     const Fattori& fattori = combinazione.fattori;

@@ -43,6 +43,8 @@ struct EsitoCombinazione {
     [[nodiscard]] bool sta() const { return !fasi.empty() && fasi.back().sta(); }
     /// All stages stand and all checks are met.
     [[nodiscard]] bool verificata() const;
+    /// The same; nothing where it stands and there is no check to meet.
+    [[nodiscard]] std::optional<bool> giudizio() const;
     [[nodiscard]] double effetti() const { return combinazione.fattori.effetti; }
 };
 

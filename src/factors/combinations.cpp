@@ -52,6 +52,11 @@ bool Combinazioni::verificate() const {
     return std::all_of(esiti.begin(), esiti.end(), [](const auto& e) { return e.verificata(); });
 }
 
+std::optional<bool> Combinazioni::giudizio() const {
+    if (sta() && !conVerifiche()) return std::nullopt;
+    return verificate();
+}
+
 bool Combinazioni::conVerifiche() const {
     return std::any_of(esiti.begin(), esiti.end(),
                        [](const EsitoCombinazione& e) { return !e.verifiche.empty(); });

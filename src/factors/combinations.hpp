@@ -36,6 +36,8 @@ struct Combinazioni {
     [[nodiscard]] bool sta() const;
     /// All stand and all their checks are met.
     [[nodiscard]] bool verificate() const;
+    /// The same; nothing where all stand and none has a check to meet.
+    [[nodiscard]] std::optional<bool> giudizio() const;
     /// Some combination has a check to be met.
     [[nodiscard]] bool conVerifiche() const;
     /// The first that does not stand; nullptr if all do.

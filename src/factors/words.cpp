@@ -63,7 +63,9 @@ std::string parole(const NaturaCarichi& natura) {
 
 std::string esito(const EsitoCombinazione& combinazione) {
     if (!combinazione.sta()) return traduttore("nessun equilibrio");
-    return traduttore(combinazione.verificata() ? "verificata" : "NON verificata");
+    const std::optional<bool> giudizio = combinazione.giudizio();
+    if (!giudizio) return traduttore("in equilibrio");
+    return traduttore(*giudizio ? "verificata" : "NON verificata");
 }
 
 std::string caduta(const EsitoCombinazione& combinazione) {

@@ -21,7 +21,7 @@ namespace korven::factors {
 /// What the loads were taken for, in a sentence.
 [[nodiscard]] std::string parole(const NaturaCarichi& natura);
 
-/// "verificata", "NON verificata", "nessun equilibrio".
+/// "verificata", "NON verificata", "nessun equilibrio"; "in equilibrio" where nothing is checked.
 [[nodiscard]] std::string esito(const EsitoCombinazione& combinazione);
 
 /// Why it does not stand, in one line with its name; empty for one that does.

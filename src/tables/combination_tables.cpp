@@ -57,6 +57,11 @@ Cella verdetto(bool soddisfatta) {
     return esito(traduttore(soddisfatta ? "verificata" : "NON verificata"), !soddisfatta);
 }
 
+// Of a combination or the envelope: without a check there is but the equilibrium.
+Cella verdetto(const std::optional<bool>& giudizio) {
+    return giudizio ? verdetto(*giudizio) : parola(traduttore("in equilibrio"));
+}
+
 std::vector<Cella> riga(const EsitoCombinazione& e) {
     const double gamma = e.effetti();
     const equilibrium::Estremi& m = e.estremi;
@@ -67,7 +72,7 @@ std::vector<Cella> riga(const EsitoCombinazione& e) {
             momento(m.momentoMassimo.valore * gamma),
             momento(m.momentoMinimo.valore * gamma),
             forza(std::fabs(m.taglio.valore) * gamma),
-            verdetto(e.verificata())};
+            verdetto(e.giudizio())};
 }
 
 Cella valore(const Massimo& m, Cella (*mostra)(double)) {
@@ -136,7 +141,7 @@ Prospetto prospettoEffetti(const Combinazioni& tutte) {
     const factors::Inviluppo& i = tutte.inviluppo;
     p.righe.push_back({parola(traduttore("Inviluppo")), grandezza(i.spostamento, spostamento),
                        valore(i.momentoMassimo, momento), valore(i.momentoMinimo, momento),
-                       grandezza(i.taglio, forza), verdetto(tutte.verificate())});
+                       grandezza(i.taglio, forza), verdetto(tutte.giudizio())});
     return p;
 }
 

@@ -62,8 +62,11 @@ TEST(ProspettiCombinazioni, ShowEffectsWithTheirFactorAndTheEnvelope) {
     EXPECT_EQ(p.righe[1][4].testo, "45.00");
     EXPECT_EQ(p.righe[2][3].testo, "-180.00");
     EXPECT_EQ(p.righe[2][4].testo, "45.00");
-    EXPECT_EQ(p.righe[0][5].testo, "verificata");
-    EXPECT_TRUE(prospettoVerifiche(c).righe.empty());  // no section
+    // Without a section there is no check that could be met.
+    EXPECT_EQ(p.righe[0][5].testo, "in equilibrio");
+    EXPECT_EQ(p.righe[2][5].testo, "in equilibrio");
+    EXPECT_FALSE(c.giudizio());
+    EXPECT_TRUE(prospettoVerifiche(c).righe.empty());
     EXPECT_TRUE(prospettoTiri(c).righe.empty());
 }
 

@@ -59,13 +59,18 @@ Numero uso(const EsitoCombinazione& e, Oggetto oggetto) {
     return v == e.verifiche.end() ? std::nullopt : v->uso();
 }
 
+// Empty where nothing is checked.
+std::string_view giudizio(const std::optional<bool>& detto) {
+    return detto ? siNo(*detto) : std::string_view();
+}
+
 void riga(const Combinazioni& tutte, const EsitoCombinazione& e, RigheCsv& righe) {
     const double gamma = e.effetti();
     const auto seSta = [&](double t) {
         return e.sta() ? Numero(project::inKilonewton(t) * gamma) : Numero();
     };
     righe.campo(tutte.norma.nome).campo(e.combinazione.nome);
-    righe.campo(siNo(e.sta())).campo(siNo(e.verificata()));
+    righe.campo(siNo(e.sta())).campo(giudizio(e.giudizio()));
     righe.campo(e.sta() ? Numero(e.estremi.spostamento.valore) : Numero());
     righe.campo(seSta(e.estremi.momentoMassimo.valore));
     righe.campo(seSta(e.estremi.momentoMinimo.valore));
@@ -88,7 +93,7 @@ void rigaInviluppo(const Combinazioni& tutte, RigheCsv& righe) {
         return t ? Numero(project::inKilonewton(*t)) : Numero();
     };
     righe.campo(tutte.norma.nome).campo(inviluppo);
-    righe.campo(siNo(tutte.sta())).campo(siNo(tutte.verificate()));
+    righe.campo(siNo(tutte.sta())).campo(giudizio(tutte.giudizio()));
     righe.campo(numero(i.spostamento));
     righe.campo(kN(i.momentoMassimo)).campo(kN(i.momentoMinimo)).campo(kN(i.taglio));
     for (const Oggetto oggetto : oggetti) {

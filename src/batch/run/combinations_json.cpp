@@ -1,5 +1,6 @@
 #include <cmath>
 #include <nlohmann/json.hpp>
+#include <optional>
 
 #include "batch/run/combinations_outcome.hpp"
 #include "batch/run/json_numbers.hpp"
@@ -16,6 +17,9 @@ using factors::EsitoCombinazione;
 using factors::Massimo;
 using factors::Oggetto;
 using factors::Verifica;
+
+// null where nothing is checked.
+Json giudizio(const std::optional<bool>& detto) { return detto ? Json(*detto) : Json(nullptr); }
 
 Json coefficienti(const factors::Combinazione& c) {
     Json tutti = Json::array();
@@ -107,7 +111,7 @@ Json jsonUna(const EsitoCombinazione& e) {
             {"carichi", carichi(e.carichi)},
             {"fasi", fasi(e)},
             {"sta", sta},
-            {"verificata", e.verificata()},
+            {"verificata", giudizio(e.giudizio())},
             {"spiegazione", perche.empty() ? Json(nullptr) : Json(perche)},
             {"spostamento_m", seSta(estremo(spostamento(m.spostamento.valore), m.spostamento.fase,
                                             m.spostamento.z))},
@@ -165,7 +169,7 @@ Json jsonCombinazioni(const Combinazioni& tutte) {
             {"sovraccarico", factors::parola(tutte.natura.monte)},
             {"sovraccarico_scavo", factors::parola(tutte.natura.scavo)},
             {"carichi_testa", factors::parola(tutte.natura.testa)},
-            {"verificate", tutte.verificate()},
+            {"verificate", giudizio(tutte.giudizio())},
             {"combinazioni", una},
             {"inviluppo", jsonInviluppo(tutte)}};
 }
