@@ -9,6 +9,10 @@
 
 // What the tests of the command `serie` share.
 
+#ifndef KORVEN_EXAMPLES
+#define KORVEN_EXAMPLES "data/examples"  // the build names the folder; a header alone has none
+#endif
+
 namespace korven::test {
 
 namespace fs = std::filesystem;

@@ -14,6 +14,10 @@
 #include "support/scene_parts.hpp"
 #include "support/wall_files.hpp"
 
+#ifndef KORVEN_EXAMPLES
+#define KORVEN_EXAMPLES "data/examples"  // the build names the folder; a header alone has none
+#endif
+
 namespace korven::drawings {
 
 /// Segments of the walls that are drawn.
