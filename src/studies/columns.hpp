@@ -46,6 +46,9 @@ struct Colonna {
 /// `safety::Causa`.
 inline constexpr std::string_view colonnaCausa = "causa";
 
+/// That of what is in the way of a variant that has no numbers.
+inline constexpr std::string_view colonnaMotivo = "motivo";
+
 /// That of the stage that does not stand.
 inline constexpr std::string_view colonnaCaduta = "fase_caduta";
 

@@ -74,7 +74,11 @@ ContoStudio::ContoStudio(const RigheStudio& righe, DomandaConto domanda)
 EsitoRiga ContoStudio::esito(std::span<const double> valori) const {
     EsitoRiga e;
     e.motivo = static_cast<int>(valori[causa_]);
-    e.sta = e.motivo == static_cast<int>(safety::Causa::eseguito);
+    const auto causa = static_cast<safety::Causa>(e.motivo);
+    if (causa == safety::Causa::rifiutato)
+        e.sorte = Sorte::rifiutata;
+    else if (causa != safety::Causa::eseguito)
+        e.sorte = Sorte::cade;
     if (caduta_ < valori.size() && !std::isnan(valori[caduta_]))
         e.fase = static_cast<int>(valori[caduta_]);
     return e;

@@ -55,11 +55,12 @@ Riassunto::Riassunto(FormaRiga forma, std::uint64_t seme, std::size_t capienza)
       oltre_(forma_.condizioni.size()),
       governano_(forma_.usi.size()),
       momenti_(posti_.size()),
-      scelte_(seme, posti_.size(), capienza),
-      riga_(posti_.size()) {}
+      scelte_(seme, posti_.size() + 1, capienza),
+      riga_(posti_.size() + 1) {}
 
 bool Riassunto::fallisce(std::span<const double> riga, const EsitoRiga& esito) {
-    if (!esito.sta) {
+    if (esito.sorte == Sorte::rifiutata) return false;
+    if (esito.sorte == Sorte::cade) {
         ++cadute_[{esito.motivo, esito.fase}];
         return true;
     }
@@ -75,7 +76,8 @@ bool Riassunto::fallisce(std::span<const double> riga, const EsitoRiga& esito) {
 void Riassunto::prendi(std::uint64_t i, std::span<const double> riga, const EsitoRiga& esito) {
     assert(riga.size() == forma_.valori);
     ++numero_;
-    stanno_ += esito.sta ? 1 : 0;
+    stanno_ += esito.sorte == Sorte::sta ? 1 : 0;
+    rifiutate_ += esito.sorte == Sorte::rifiutata ? 1 : 0;
     fallite_ += fallisce(riga, esito) ? 1 : 0;
 
     std::size_t maggiore = forma_.usi.size();
@@ -93,15 +95,23 @@ void Riassunto::prendi(std::uint64_t i, std::span<const double> riga, const Esit
         riga_[k] = riga[posti_[k]];
         if (!std::isnan(riga_[k])) momenti_[k].prendi(riga_[k]);
     }
+    riga_.back() = static_cast<double>(esito.sorte);
     scelte_.prendi(i, riga_);
 }
 
 double Riassunto::probabilita() const {
-    return numero_ == 0 ? 0 : static_cast<double>(fallite_) / static_cast<double>(numero_);
+    return calcolate() == 0 ? 0 : static_cast<double>(fallite_) / static_cast<double>(calcolate());
 }
 
 std::vector<double> Riassunto::tenuti(std::size_t posto) const {
     return scelte_.colonna(tenuto(posto));
+}
+
+std::vector<Sorte> Riassunto::sorti() const {
+    std::vector<Sorte> sorti;
+    for (const double numero : scelte_.colonna(posti_.size()))
+        sorti.push_back(static_cast<Sorte>(static_cast<int>(numero)));
+    return sorti;
 }
 
 std::size_t Riassunto::tenuto(std::size_t posto) const {

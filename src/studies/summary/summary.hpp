@@ -27,10 +27,16 @@ struct FormaRiga {
 };
 
 /// What became of a variant.
+enum class Sorte {
+    sta,        ///< all its stages are in equilibrium
+    cade,       ///< one of them is not
+    rifiutata,  ///< its data are no wall that could be computed: it neither stands nor falls
+};
+
 struct EsitoRiga {
-    bool sta = true;  ///< all its stages are in equilibrium
-    int motivo = 0;   ///< why it does not stand: a number of the caller's
-    int fase = 0;     ///< in which stage, 0: none
+    Sorte sorte = Sorte::sta;
+    int motivo = 0;  ///< why it does not stand: a number of the caller's
+    int fase = 0;    ///< in which stage, 0: none
 };
 
 /// The shares of 1 below which quantiles are told.
@@ -60,9 +66,13 @@ class Riassunto {
 
     [[nodiscard]] std::uint64_t numero() const { return numero_; }
     [[nodiscard]] std::uint64_t stanno() const { return stanno_; }
-    /// How many do not stand, or meet one of the conditions.
+    /// How many are no wall: their data were refused. They count nowhere below.
+    [[nodiscard]] std::uint64_t rifiutate() const { return rifiutate_; }
+    /// How many are walls, which stand or fall.
+    [[nodiscard]] std::uint64_t calcolate() const { return numero_ - rifiutate_; }
+    /// How many of the walls do not stand, or meet one of the conditions.
     [[nodiscard]] std::uint64_t fallite() const { return fallite_; }
-    /// How many do not stand for each reason and stage.
+    /// How many walls do not stand for each reason and stage.
     [[nodiscard]] const std::map<std::pair<int, int>, std::uint64_t>& cadute() const {
         return cadute_;
     }
@@ -73,15 +83,17 @@ class Riassunto {
     [[nodiscard]] const std::vector<std::uint64_t>& governano() const { return governano_; }
     /// How many have a share beyond 1: they stand, but not with this resistance.
     [[nodiscard]] std::uint64_t superano() const { return superano_; }
-    /// Share of the variants that fail, if they are independent samples.
+    /// Share of the walls that fail, if they are independent samples; 0 without a wall.
     [[nodiscard]] double probabilita() const;
-    [[nodiscard]] Intervallo intervallo() const { return intervalloWilson(fallite_, numero_); }
+    [[nodiscard]] Intervallo intervallo() const { return intervalloWilson(fallite_, calcolate()); }
 
     [[nodiscard]] std::size_t tenute() const { return scelte_.numero(); }
     /// Of the fields, then of the results that are described. Takes a second for many rows.
     [[nodiscard]] std::vector<Statistica> statistiche() const;
     /// The kept values of a place of the row, in the order of the variants; no number for none.
     [[nodiscard]] std::vector<double> tenuti(std::size_t posto) const;
+    /// What became of each of the kept rows, in the same order.
+    [[nodiscard]] std::vector<Sorte> sorti() const;
 
  private:
     [[nodiscard]] std::size_t tenuto(std::size_t posto) const;
@@ -89,12 +101,12 @@ class Riassunto {
 
     FormaRiga forma_;
     std::vector<std::size_t> posti_;  ///< of a row, that are kept
-    std::uint64_t numero_ = 0, stanno_ = 0, fallite_ = 0, superano_ = 0;
+    std::uint64_t numero_ = 0, stanno_ = 0, rifiutate_ = 0, fallite_ = 0, superano_ = 0;
     std::map<std::pair<int, int>, std::uint64_t> cadute_;
     std::vector<std::uint64_t> oltre_, governano_;
     std::vector<Momenti> momenti_;
     RigheScelte scelte_;
-    std::vector<double> riga_;  ///< the values of one that are kept
+    std::vector<double> riga_;  ///< of one what is kept: its values, last what became of it
 };
 
 }  // namespace korven::studies

@@ -12,6 +12,7 @@
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
 #include "project/units.hpp"
+#include "studies/columns.hpp"
 
 namespace korven::studies {
 
@@ -41,7 +42,13 @@ void allinea(const Tabella& tabella, Righe& testo) {
 }
 
 void cedimenti(const Riassunto& r, const NomiRiassunto& nomi, Righe& testo) {
-    const std::string volte = numero(r.fallite()), prove = numero(r.numero());
+    const std::string volte = numero(r.fallite()), prove = numero(r.calcolate());
+    if (r.rifiutate() > 0)
+        testo.push_back(
+            riempito(traduttore("%1 varianti hanno dati che nessun calcolo accetta (colonna %2): "
+                                "non sono pareti, e non contano tra quelle che falliscono."),
+                     {numero(r.rifiutate()), std::string(colonnaMotivo)}));
+    if (r.calcolate() == 0) return;
     if (!nomi.campioni) {
         testo.push_back(riempito(traduttore("Falliscono %1 varianti su %2."), {volte, prove}));
         return;
@@ -85,7 +92,7 @@ void superamenti(const Riassunto& r, const NomiRiassunto& nomi, Righe& testo) {
 void governo(const Riassunto& r, const FormaRiga& forma, const NomiRiassunto& nomi, Righe& testo) {
     const auto& volte = r.governano();
     if (std::ranges::all_of(volte, [](std::uint64_t n) { return n == 0; })) return;
-    testo.push_back(traduttore("L'uso maggiore di chi sta è di:"));
+    testo.push_back(traduttore("Varianti in equilibrio, per l'uso che in ciascuna è il maggiore:"));
     for (std::size_t k = 0; k < volte.size(); ++k)
         if (volte[k] > 0)
             testo.push_back("  " + base::conDuePunti(nomi.valori[forma.usi[k]], numero(volte[k])));

@@ -34,7 +34,8 @@ TEST(ContoStudio, CountsVerdictsAndValuesThatWereSetToALimit) {
     EXPECT_EQ(conto.righe(),
               (Testi{"4 varianti, 3 in equilibrio in tutte le fasi.", "Falliscono 1 varianti su 4.",
                      "  meccanismo, fase 2: 1",
-                     "L'uso maggiore di chi sta è di:", "  uso_momento_positivo: 3"}));
+                     "Varianti in equilibrio, per l'uso che in ciascuna è il maggiore:",
+                     "  uso_momento_positivo: 3"}));
     conto.limitati(2);
     EXPECT_EQ(conto.righe()[1],
               "2 valori erano oltre i limiti del loro campo e sono stati posti al limite.");

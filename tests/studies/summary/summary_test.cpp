@@ -38,7 +38,7 @@ const std::vector<Riga> cinque = {
     {30, 2, 8, 0.7, 0.7},
     {40, 1, 5, 0.1, nessuno},
     {50, 1, 90, nessuno, nessuno},
-    {99, 7, nessuno, nessuno, nessuno, {.sta = false, .motivo = 4, .fase = 2}},
+    {99, 7, nessuno, nessuno, nessuno, {.sorte = Sorte::cade, .motivo = 4, .fase = 2}},
 };
 
 TEST(Riassunto, CountsWhatStandsWhatFailsAndWhatGoverns) {
@@ -54,6 +54,21 @@ TEST(Riassunto, CountsWhatStandsWhatFailsAndWhatGoverns) {
     ASSERT_EQ(r.cadute().size(), 1U);
     EXPECT_EQ(r.cadute().at({4, 2}), 1U);
     EXPECT_EQ(r.governano(), (std::vector<std::uint64_t>{3, 1}));  // of 0.7 and 0.7 the first
+}
+
+TEST(Riassunto, CountsNoWallWhereDataAreRefused) {
+    auto altre = cinque;
+    altre.push_back({-1, 7, nessuno, nessuno, nessuno, {.sorte = Sorte::rifiutata, .motivo = 1}});
+    const auto r = di(altre);
+    EXPECT_EQ(r.numero(), 7U);
+    EXPECT_EQ(r.rifiutate(), 1U);
+    EXPECT_EQ(r.calcolate(), 6U);
+    EXPECT_EQ(r.fallite(), 3U);
+    EXPECT_NEAR(r.probabilita(), 0.5, 1e-15);
+    EXPECT_EQ(r.intervallo().da, di(cinque).intervallo().da);
+    EXPECT_EQ(r.cadute().size(), 1U);
+    EXPECT_EQ(r.sorti(), (std::vector{Sorte::sta, Sorte::sta, Sorte::sta, Sorte::sta, Sorte::sta,
+                                      Sorte::cade, Sorte::rifiutata}));
 }
 
 TEST(Riassunto, CountsWhatStandsBeyondAResistance) {

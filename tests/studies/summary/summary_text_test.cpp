@@ -20,7 +20,7 @@ Riassunto tre(const FormaRiga& sua = forma) {
     r.prendi(0, std::array{30.0, 0.5, 0.4}, {});
     r.prendi(1, std::array{32.0, 0.25, 0.4}, {});
     r.prendi(2, std::array{34.0, 0.125, 0.1}, {});
-    r.prendi(3, std::array{20.0, nessuno, nessuno}, {.sta = false, .motivo = 1, .fase = 2});
+    r.prendi(3, std::array{20.0, nessuno, nessuno}, {.sorte = Sorte::cade, .motivo = 1, .fase = 2});
     return r;
 }
 
@@ -30,7 +30,7 @@ TEST(TestoRiassunto, TellsOfSamplesHowTheyFailAndHowTheyAreSpread) {
         "Falliscono 1 campioni su 4: probabilità 0.25, con il 95 % di confidenza tra 0.045587 e "
         "0.69936.",
         "  rotazione, fase 2: 1",
-        "L'uso maggiore di chi sta è di:",
+        "Varianti in equilibrio, per l'uso che in ciascuna è il maggiore:",
         "  uso_a: 2",
         "  uso_b: 1",
         "Valori; quantili e correlazioni da 4 varianti:",
@@ -64,6 +64,27 @@ TEST(TestoRiassunto, TellsWhatStandsBeyondAResistance) {
     EXPECT_EQ(righeRiassunto(r, forma, nomi)[4],
               "In equilibrio, ma con un uso maggiore di 1: 1 varianti; falliscono solo se un "
               "criterio lo dice.");
+}
+
+// As in the first test, beside two that are no walls.
+TEST(TestoRiassunto, LeavesRefusedVariantsOutOfTheProbability) {
+    Riassunto r = tre();
+    const double nessuno = std::nan("");
+    for (std::uint64_t i = 4; i < 6; ++i)
+        r.prendi(i, std::array{90.0, nessuno, nessuno}, {.sorte = Sorte::rifiutata, .motivo = 1});
+    const auto righe = righeRiassunto(r, forma, nomi);
+    EXPECT_EQ(righe[0],
+              "2 varianti hanno dati che nessun calcolo accetta (colonna motivo): non sono pareti, "
+              "e non contano tra quelle che falliscono.");
+    EXPECT_EQ(righe[1],
+              "Falliscono 1 campioni su 4: probabilità 0.25, con il 95 % di confidenza tra "
+              "0.045587 e 0.69936.");
+    EXPECT_EQ(righe[2], "  rotazione, fase 2: 1");
+    EXPECT_EQ(righe[3], "Varianti in equilibrio, per l'uso che in ciascuna è il maggiore:");
+
+    Riassunto nessuna(forma, 1);
+    nessuna.prendi(0, std::array{90.0, nessuno, nessuno}, {.sorte = Sorte::rifiutata});
+    EXPECT_TRUE(righeRiassunto(nessuna, forma, nomi)[1].starts_with("Valori"));  // no probability
 }
 
 // The variants of 0.25 and 0.125 stand, and fail all the same; that of 0.125 by both conditions.
