@@ -93,7 +93,8 @@ class Inline {
 /// Goes through the blocks of a page.
 class Blocks {
  public:
-    Blocks(HelpBody& body, const Lines& lines) : body_(body), lines_(lines) {}
+    Blocks(HelpBody& body, const Lines& lines, const std::vector<HelpField>& fields)
+        : body_(body), lines_(lines), fields_(fields) {}
 
     void all() {
         while (at_ < lines_.size() && body_.fault.empty()) {
@@ -114,10 +115,12 @@ class Blocks {
                 emit("<table class=\"avviso\" width=\"100%\" cellpadding=\"6\"><tr><td>" +
                      shown(paragraph(2)) + "</td></tr></table>");
             else if (line.starts_with("@"))
-                refuse("atteso \"@campo NOME ETICHETTA\"");
+                refuse("atteso \"@campo NOME\"");
             else
                 emit("<p>" + shown(paragraph(0)) + "</p>");
         }
+        if (body_.fault.empty() && body_.anchors.size() < fields_.size())
+            refuse("atteso il campo " + fields_[body_.anchors.size()].name);
     }
 
  private:
@@ -151,17 +154,16 @@ class Blocks {
         return text;
     }
 
+    // The label comes from the structure: the one under which the form shows the field.
     void field() {
-        const auto line = lines_[at_].substr(7);
-        const auto blank = line.find(' ');
-        if (blank == std::string_view::npos || blank == 0)
-            return refuse("atteso \"@campo NOME ETICHETTA\"");
-        const std::string anchor = "campo" + std::string(line.substr(0, blank));
-        for (const auto& known : body_.anchors)
-            if (known == anchor) return refuse("atteso un campo non ancora descritto");
+        const std::size_t next = body_.anchors.size();
+        const auto name = lines_[at_].substr(7);
+        if (next == fields_.size()) return refuse("attesi solo i campi di struttura");
+        if (name != fields_[next].name) return refuse("atteso il campo " + fields_[next].name);
+        const std::string anchor = "campo" + fields_[next].name;
         body_.anchors.push_back(anchor);
         ++at_;
-        emit("<h3><a name=\"" + anchor + "\"></a>" + shown(line.substr(blank + 1)) + "</h3>");
+        emit("<h3><a name=\"" + anchor + "\"></a>" + shown(fields_[next].label) + "</h3>");
     }
 
     // Blanks in a row part two formulas of a line.
@@ -218,14 +220,15 @@ class Blocks {
 
     HelpBody& body_;
     const Lines& lines_;
+    const std::vector<HelpField>& fields_;
     std::size_t at_ = 0;
 };
 
 }  // namespace
 
-HelpBody helpBody(const Lines& lines) {
+HelpBody helpBody(const Lines& lines, const std::vector<HelpField>& fields) {
     HelpBody body;
-    Blocks(body, lines).all();
+    Blocks(body, lines, fields).all();
     return body;
 }
 

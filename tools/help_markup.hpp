@@ -4,6 +4,8 @@
 #include <string_view>
 #include <vector>
 
+#include "tools/help_structure.hpp"
+
 namespace korven::tools {
 
 /// What the mark-up of a page became, and what has to be checked about it.
@@ -17,6 +19,9 @@ struct HelpBody {
 
 /// Turns the lines of a page into HTML, in the tags that the viewer shows; data/guida/ita.txt tells
 /// the mark-up at its head. Numeric entities replace characters that Windows-1252 lacks.
-[[nodiscard]] HelpBody helpBody(const std::vector<std::string_view>& lines);
+///
+/// @param fields  those that the page tells of, in this order, with their labels
+[[nodiscard]] HelpBody helpBody(const std::vector<std::string_view>& lines,
+                                const std::vector<HelpField>& fields);
 
 }  // namespace korven::tools

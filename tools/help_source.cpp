@@ -9,34 +9,37 @@ namespace korven::tools {
 
 namespace {
 
-constexpr int lastEntry = 200;
-
+// Goes through the text of a language beside the structure, which says what comes next.
 class Reader {
  public:
-    Reader(const std::string& path, std::string_view content) : lines_(path, content) {}
+    Reader(const std::string& path, std::string_view content, const HelpStructure& structure)
+        : lines_(path, content), structure_(structure) {}
 
     std::vector<HelpPage> all() {
         while (const auto line = lines_.next()) {
             if (line->starts_with("#")) continue;
             if (line->starts_with("@capitolo ")) {
                 closePage();
-                chapter_ = plain(line->substr(10));
+                openChapter(line->substr(10));
             } else if (line->starts_with("@pagina ")) {
                 closePage();
                 openPage(line->substr(8));
-            } else if (!pages_.empty() && open_) {
+            } else if (open_) {
                 body_.push_back(*line);
             } else if (!line->empty()) {
                 lines_.refuse("attesa una riga \"@capitolo\" o \"@pagina\"");
             }
         }
         closePage();
-        if (pages_.empty()) lines_.refuse("attesa una pagina");
+        if (pages_.size() < structure_.size()) lines_.refuse("attesa la pagina " + frame().name);
         checkLinks();
         return std::move(pages_);
     }
 
  private:
+    /// The page that the structure has next.
+    [[nodiscard]] const HelpFrame& frame() const { return structure_[pages_.size()]; }
+
     // Titles are no HTML and must do with the characters of the file.
     std::string plain(std::string_view text) {
         if (text.empty() || base::senzaSpaziEsterni(text) != text)
@@ -52,23 +55,20 @@ class Reader {
         return plain(line->substr(label.size()));
     }
 
-    void openPage(std::string_view head) {
+    void openChapter(std::string_view name) {
+        chapter_ = name;
+        chapterTitle_ = labelled("titolo: ");
+    }
+
+    void openPage(std::string_view name) {
+        if (pages_.size() == structure_.size()) lines_.refuse("attese solo le pagine di struttura");
+        if (chapter_ != frame().chapter) lines_.refuse("atteso il capitolo " + frame().chapter);
+        if (name != frame().name) lines_.refuse("attesa la pagina " + frame().name);
         HelpPage page;
-        const auto parts = words(head);
-        if (chapter_.empty()) lines_.refuse("atteso un capitolo prima delle pagine");
-        if (parts.empty() || parts.size() > 2) lines_.refuse("attesi un nome e una voce");
-        page.chapter = chapter_;
-        page.name = parts[0];
+        page.chapter = chapterTitle_;
+        page.name = name;
+        page.entry = frame().entry;
         page.line = lines_.number();
-        if (parts.size() == 2) {
-            const auto entry = wholeNumber(parts[1]);
-            if (!entry || *entry < 1 || *entry > lastEntry)
-                lines_.refuse("attesa una voce da 1 a 200");
-            page.entry = *entry;
-        }
-        for (const auto& known : pages_)
-            if (known.name == page.name || (page.entry != 0 && known.entry == page.entry))
-                lines_.refuse("attesi un nome e una voce non ancora usati");
         page.title = labelled("titolo: ");
         page.words = labelled("parole: ");
         bodyStart_ = lines_.number() + 1;
@@ -80,7 +80,7 @@ class Reader {
         if (!open_) return;
         open_ = false;
         HelpPage& page = pages_.back();
-        page.body = helpBody(body_);
+        page.body = helpBody(body_, structure_[pages_.size() - 1].fields);
         if (!page.body.fault.empty())
             lines_.refuse(bodyStart_ + static_cast<long>(page.body.faultLine), page.body.fault);
         if (page.body.html.empty()) lines_.refuse(page.line, "attesa una pagina non vuota");
@@ -108,7 +108,8 @@ class Reader {
 
     SourceLines lines_;
     std::vector<HelpPage> pages_;
-    std::string chapter_;
+    const HelpStructure& structure_;
+    std::string chapter_, chapterTitle_;
     std::vector<std::string_view> body_;
     long bodyStart_ = 0;
     bool open_ = false;
@@ -116,8 +117,9 @@ class Reader {
 
 }  // namespace
 
-std::vector<HelpPage> readHelpSource(const std::string& path, std::string_view content) {
-    return Reader(path, content).all();
+std::vector<HelpPage> readHelpSource(const std::string& path, std::string_view content,
+                                     const HelpStructure& structure) {
+    return Reader(path, content, structure).all();
 }
 
 std::string helpFileBytes(const std::vector<HelpPage>& pages) {

@@ -7,15 +7,22 @@
 namespace korven::tools {
 namespace {
 
-std::string html(const std::string& body) {
+const HelpStructure onePage = {{"c", "p", 3, {}}};
+const HelpStructure oneField = {{"c", "p", 3, {{"3", "Prof. [m]", 0}}}};
+const HelpStructure threePages = {{"c", "p", 3, {}}, {"c", "q", 0, {}}, {"d", "r", 0, {}}};
+const std::string head = "@capitolo c\ntitolo: C\n";
+
+std::string html(const std::string& body, const HelpStructure& structure = onePage) {
     const auto pages = readHelpSource(
-        "g.txt", "# head\n@capitolo C\n@pagina p 3\ntitolo: T\nparole: w\n\n" + body + "\n");
+        "g.txt", "# head\n" + head + "@pagina p\ntitolo: T\nparole: w\n\n" + body + "\n",
+        structure);
     return pages.front().body.html;
 }
 
-std::pair<long, std::string> fault(const std::string& source) {
+std::pair<long, std::string> fault(const std::string& source,
+                                   const HelpStructure& structure = onePage) {
     try {
-        static_cast<void>(readHelpSource("g.txt", source));
+        static_cast<void>(readHelpSource("g.txt", source, structure));
     } catch (const base::ErroreFile& error) {
         return {error.riga(), error.atteso()};
     }
@@ -23,8 +30,9 @@ std::pair<long, std::string> fault(const std::string& source) {
     return {};
 }
 
-long faultLine(const std::string& body) {
-    return fault("@capitolo C\n@pagina p\ntitolo: T\nparole: w\n" + body).first;
+// The body begins in line 6.
+long faultLine(const std::string& body, const HelpStructure& structure = onePage) {
+    return fault(head + "@pagina p\ntitolo: T\nparole: w\n" + body, structure).first;
 }
 
 TEST(HelpSource, MakesParagraphsOverSeveralLines) {
@@ -42,8 +50,8 @@ TEST(HelpSource, KeepsBlanksBetweenTwoFormulasOfALine) {
     EXPECT_EQ(html("= a,   b"), "<p class=\"formula\">a,&#160;&#160; b</p>\n");
 }
 
-TEST(HelpSource, GivesAFieldItsPlace) {
-    EXPECT_EQ(html("@campo 3 Prof. [m]\n\nText"),
+TEST(HelpSource, GivesAFieldItsPlaceAndItsLabel) {
+    EXPECT_EQ(html("@campo 3\n\nText", oneField),
               "<h3><a name=\"campo3\"></a>Prof. [m]</h3>\n<p>Text</p>\n");
 }
 
@@ -65,37 +73,57 @@ TEST(HelpSource, WritesWhatWindows1252LacksAsNumbers) {
 
 TEST(HelpSource, SaysInWhichLineItIsBroken) {
     EXPECT_EQ(fault("@pagina p\n").first, 1);
-    EXPECT_EQ(fault("@capitolo C\nx\n").first, 2);
-    EXPECT_EQ(fault("@capitolo C\n@pagina p 201\n").first, 2);
-    EXPECT_EQ(fault("@capitolo C\n@pagina p\nT\n").first, 3);
-    EXPECT_EQ(fault("@capitolo C\n@pagina p\ntitolo: φ\n").first, 3);
-    EXPECT_EQ(faultLine(""), 2);  // a page without body
-    EXPECT_EQ(faultLine("\nfine\n\n**open\n"), 8);
-    EXPECT_EQ(faultLine("k_{0\n"), 5);
-    EXPECT_EQ(faultLine("[[p]]\n"), 5);
-    EXPECT_EQ(faultLine("@campo\n"), 5);
-    EXPECT_EQ(faultLine("@campo 1 A\n\n@campo 1 B\n"), 7);
-    EXPECT_EQ(faultLine("@capo\n"), 5);
-    EXPECT_EQ(faultLine("| a | b |\n| c |\n"), 6);
+    EXPECT_EQ(fault("@capitolo c\nx\n").first, 2);
+    EXPECT_EQ(fault(head + "x\n").first, 3);
+    EXPECT_EQ(fault(head + "@pagina p\nT\n").first, 4);
+    EXPECT_EQ(fault(head + "@pagina p\ntitolo: φ\n").first, 4);
+    EXPECT_EQ(faultLine(""), 3);  // a page without body
+    EXPECT_EQ(faultLine("\nfine\n\n**open\n"), 9);
+    EXPECT_EQ(faultLine("k_{0\n"), 6);
+    EXPECT_EQ(faultLine("[[p]]\n"), 6);
+    EXPECT_EQ(faultLine("@capo\n"), 6);
+    EXPECT_EQ(faultLine("| a | b |\n| c |\n"), 7);
+}
+
+TEST(HelpSource, RefusesAFieldThatTheStructureHasNot) {
+    EXPECT_EQ(faultLine("@campo 3\n"), 6);
+    EXPECT_EQ(faultLine("@campo\n", oneField), 6);
+    EXPECT_EQ(faultLine("@campo 2\n", oneField), 6);
+    EXPECT_EQ(faultLine("@campo 3\n\n@campo 3\n", oneField), 8);
+    EXPECT_EQ(fault(head + "@pagina p\ntitolo: T\nparole: w\nx\n", oneField).second,
+              "atteso il campo 3");
+}
+
+TEST(HelpSource, RefusesAPageOutOfTheOrderOfTheStructure) {
+    const auto page = [](const std::string& name) {
+        return "@pagina " + name + "\ntitolo: T\nparole: w\nx\n";
+    };
+    using Fault = std::pair<long, std::string>;
+    EXPECT_EQ(fault(head + page("q"), threePages), (Fault{3, "attesa la pagina p"}));
+    EXPECT_EQ(fault(head + page("p"), threePages), (Fault{6, "attesa la pagina q"}));
+    EXPECT_EQ(fault(head + page("p") + page("q") + page("r"), threePages),
+              (Fault{11, "atteso il capitolo d"}));
+    EXPECT_EQ(fault("@capitolo d\ntitolo: D\n" + page("p"), threePages),
+              (Fault{3, "atteso il capitolo c"}));
+    EXPECT_EQ(fault(head + page("p") + page("q")),
+              (Fault{7, "attese solo le pagine di struttura"}));
 }
 
 TEST(HelpSource, RefusesLinksThatLeadNowhere) {
-    EXPECT_EQ(faultLine("[[q|x]]\n"), 2);
-    EXPECT_EQ(faultLine("[[p#campo1|x]]\n"), 2);
-    EXPECT_EQ(html("[[p#campo1|x]]\n\n@campo 1 A").substr(0, 27), "<p><a href=\"p#campo1\">x</a>");
-}
-
-TEST(HelpSource, RefusesANameOrAnEntryUsedTwice) {
-    const std::string page = "@pagina p 3\ntitolo: T\nparole: w\nx\n";
-    EXPECT_EQ(fault("@capitolo C\n" + page + "@pagina q 3\n").first, 6);
-    EXPECT_EQ(fault("@capitolo C\n" + page + "@pagina p 4\n").first, 6);
+    EXPECT_EQ(faultLine("[[q|x]]\n"), 3);
+    EXPECT_EQ(faultLine("[[p#campo1|x]]\n"), 3);
+    EXPECT_EQ(html("[[p#campo3|x]]\n\n@campo 3", oneField).substr(0, 27),
+              "<p><a href=\"p#campo3\">x</a>");
 }
 
 TEST(HelpSource, BecomesTheFileOfTheProgram) {
-    const auto pages = readHelpSource("g.txt",
-                                      "@capitolo C\n@pagina p 3\ntitolo: T\nparole: w\nè φ\n"
-                                      "@pagina q\ntitolo: U\nparole: w\ny\n"
-                                      "@capitolo D\n@pagina r\ntitolo: V\nparole: w\nz\n");
+    const auto pages =
+        readHelpSource("g.txt",
+                       head +
+                           "@pagina p\ntitolo: T\nparole: w\nè φ\n"
+                           "@pagina q\ntitolo: U\nparole: w\ny\n"
+                           "@capitolo d\ntitolo: D\n@pagina r\ntitolo: V\nparole: w\nz\n",
+                       threePages);
     EXPECT_EQ(helpFileBytes(pages),
               "KORVEN 32 HLP 1\r\n@capitolo C\r\n@pagina 3 p\r\nT\r\nw\r\n<p>\xE8 &#966;</p>\r\n"
               "@pagina 0 q\r\nU\r\nw\r\n<p>y</p>\r\n"
