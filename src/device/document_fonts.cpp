@@ -13,11 +13,11 @@ markup::ReportFont voluto(const document::Carattere& carattere) {
 
 double CaratteriPagine::larghezza(std::string_view testo,
                                   const document::Carattere& carattere) const {
-    return fatti_.carattere(voluto(carattere)).larghezza(testo, carattere.corpo);
+    return this->carattere(carattere).larghezza(testo, carattere.corpo);
 }
 
-const QFont& CaratteriPagine::font(const document::Carattere& carattere) const {
-    return fatti_.carattere(voluto(carattere)).font;
+CarattereRelazione& CaratteriPagine::carattere(const document::Carattere& carattere) const {
+    return fatti_.carattere(voluto(carattere));
 }
 
 }  // namespace korven::device

@@ -12,8 +12,8 @@ class CaratteriPagine : public document::MisuraCaratteri {
  public:
     [[nodiscard]] double larghezza(std::string_view testo,
                                    const document::Carattere& carattere) const override;
-    /// At a size for measuring [pixels].
-    [[nodiscard]] const QFont& font(const document::Carattere& carattere) const;
+    /// The typeface that texts of the page are painted in.
+    [[nodiscard]] CarattereRelazione& carattere(const document::Carattere& carattere) const;
 
  private:
     mutable CaratteriRelazione fatti_;  // each typeface is made when it is first asked for

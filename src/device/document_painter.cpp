@@ -16,6 +16,11 @@ using document::puntiPerCentimetro;
 
 constexpr double pennaMinima = 0.008 * puntiPerCentimetro;  // what every printer still shows
 
+void scrivi(const document::Scritta& scritta, CarattereRelazione& carattere, PennaTesti& penna) {
+    penna.scrivi({QPointF(scritta.x, scritta.y), carattere.font, scritta.carattere.corpo, 0, false,
+                  document::colore(scritta.tinta), scritta.testo, 1, &carattere.glifi});
+}
+
 QColor qColore(document::Tinta tinta) { return device::qColore(document::colore(tinta)); }
 
 }  // namespace
@@ -29,13 +34,8 @@ void PittorePagine::dipingi(const document::Pagina& pagina) {
         pittore_.drawLine(QPointF(f.x1, f.y1), QPointF(f.x2, f.y2));
     }
     for (const auto& disegno : pagina.disegni) disegna(disegno);
-    for (const auto& scritta : pagina.scritte) scrivi(scritta);
-}
-
-void PittorePagine::scrivi(const document::Scritta& scritta) {
-    dipingiTesto(pittore_, {QPointF(scritta.x, scritta.y), caratteri_.font(scritta.carattere),
-                            scritta.carattere.corpo, 0, false, document::colore(scritta.tinta),
-                            scritta.testo});
+    PennaTesti penna(pittore_);
+    for (const auto& s : pagina.scritte) scrivi(s, caratteri_.carattere(s.carattere), penna);
 }
 
 void PittorePagine::disegna(const document::Disegno& disegno) {

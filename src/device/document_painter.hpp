@@ -19,7 +19,6 @@ class PittorePagine {
     void dipingi(const document::Pagina& pagina);
 
  private:
-    void scrivi(const document::Scritta& scritta);
     void disegna(const document::Disegno& disegno);
 
     QPainter& pittore_;

@@ -2,6 +2,7 @@
 
 #include <QPen>
 #include <algorithm>
+#include <optional>
 
 #include "device/drawing_fonts.hpp"
 #include "device/text_painting.hpp"
@@ -21,21 +22,31 @@ void PittoreDisegno::limita(double ymin, double ymax) {
 }
 
 void PittoreDisegno::dipingi(const plot::ArchivioDisegno& archivio) {
-    for (const plot::PoligonoPlot& poligono : archivio.poligoni()) {
+    riempi(archivio.poligoni());
+    archivio.perOgniLinea([this](const plot::Segmento& linea) { traccia(linea); });
+    tracciaSpezzata();
+    PennaTesti penna(pittore_);
+    for (const plot::TestoPlot& testo : archivio.testi()) scrivi(testo, penna);
+}
+
+void PittoreDisegno::riempi(const std::vector<plot::PoligonoPlot>& poligoni) {
+    std::optional<plot::Colore> inUso;  // a file tells every colour anew that is set
+    for (const plot::PoligonoPlot& poligono : poligoni) {
         QPolygonF vertici;
+        vertici.reserve(poligono.nVertici);
         for (int i = 0; i < poligono.nVertici; ++i) {
             const plot::Punto& v = poligono.vertici[static_cast<std::size_t>(i)];
             vertici << punto(v.x, v.y);
         }
-        // A hairline, so that no light shows between polygons side by side.
-        pittore_.setPen(QPen(qColore(poligono.colore), 0));
-        pittore_.setBrush(qColore(poligono.colore));
+        if (inUso != poligono.colore) {
+            // A hairline, so that no light shows between polygons side by side.
+            pittore_.setPen(QPen(qColore(poligono.colore), 0));
+            pittore_.setBrush(qColore(poligono.colore));
+            inUso = poligono.colore;
+        }
         pittore_.drawPolygon(vertici);
-        pittore_.setBrush(Qt::NoBrush);
     }
-    archivio.perOgniLinea([this](const plot::Segmento& linea) { traccia(linea); });
-    tracciaSpezzata();
-    for (const plot::TestoPlot& testo : archivio.testi()) scrivi(testo);
+    pittore_.setBrush(Qt::NoBrush);
 }
 
 QPointF PittoreDisegno::punto(double x, double y) const {
@@ -68,13 +79,13 @@ void PittoreDisegno::tracciaSpezzata() {
     spezzata_.clear();
 }
 
-void PittoreDisegno::scrivi(const plot::TestoPlot& testo) {
+void PittoreDisegno::scrivi(const plot::TestoPlot& testo, PennaTesti& penna) {
     if (testo.testo.empty()) return;
     const QFont font = fontDisegno(testo.carattere);
-    dipingiTesto(pittore_, {punto(testo.x, testo.y), font,
-                            corpoPerRiga(font, rigaPerAltezza * testo.altezza * pixelPerCm_),
-                            testo.angolo, testo.conteggio == plot::conteggioCentrato, testo.colore,
-                            testo.testo, stiramento(testo.carattere, testo.testo)});
+    penna.scrivi({punto(testo.x, testo.y), font,
+                  corpoPerRiga(font, rigaPerAltezza * testo.altezza * pixelPerCm_), testo.angolo,
+                  testo.conteggio == plot::conteggioCentrato, testo.colore, testo.testo,
+                  stiramento(testo.carattere, testo.testo)});
 }
 
 }  // namespace korven::device

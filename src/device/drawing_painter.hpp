@@ -3,7 +3,9 @@
 #include <QPainter>
 #include <QPolygonF>
 #include <limits>
+#include <vector>
 
+#include "device/text_painting.hpp"
 #include "plot/drawing_store.hpp"
 #include "plot/geometry.hpp"
 
@@ -28,10 +30,11 @@ class PittoreDisegno {
     void dipingi(const plot::ArchivioDisegno& archivio);
 
  private:
+    void riempi(const std::vector<plot::PoligonoPlot>& poligoni);
     [[nodiscard]] QPointF punto(double x, double y) const;
     void traccia(const plot::Segmento& linea);
     void tracciaSpezzata();
-    void scrivi(const plot::TestoPlot& testo);
+    void scrivi(const plot::TestoPlot& testo, PennaTesti& penna);
 
     QPainter& pittore_;
     plot::Riquadro vista_;

@@ -24,6 +24,7 @@ QFont fontRelazione(const markup::ReportFont& voluto) {
 
 CarattereRelazione::CarattereRelazione(const markup::ReportFont& voluto)
     : font(fontRelazione(voluto)),
+      glifi(font),
       larghezze_([misure = QFontMetricsF(font)](std::string_view testo) {
           return misure.horizontalAdvance(qt(testo));
       }) {

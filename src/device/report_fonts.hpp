@@ -7,6 +7,7 @@
 #include <string_view>
 #include <tuple>
 
+#include "device/font_glyphs.hpp"
 #include "markup/character_widths.hpp"
 #include "markup/report_printer.hpp"
 
@@ -22,6 +23,7 @@ struct CarattereRelazione {
     [[nodiscard]] double larghezza(std::string_view testo, double corpo);
 
     QFont font;             ///< at a size for measuring [pixels]
+    GlifiFont glifi;        ///< of that font
     double ascendente = 0;  ///< from the top of a line to its base line
     double altezza = 0;     ///< from the top of a line to its foot
     double interlinea = 0;  ///< from line to line

@@ -3,9 +3,10 @@
 #include <QColor>
 #include <QFont>
 #include <QPainter>
-#include <QString>
+#include <QTransform>
 #include <string_view>
 
+#include "device/font_glyphs.hpp"
 #include "plot/colour.hpp"
 
 namespace korven::device {
@@ -22,11 +23,32 @@ struct TestoDaDipingere {
     bool centrato;  ///< about the point, else the text starts there
     plot::Colore colore;
     std::string_view testo;
-    double stiramento = 1;  ///< width over that in its font (drawing_fonts.hpp)
+    double stiramento = 1;       ///< width over that in its font (drawing_fonts.hpp)
+    GlifiFont* glifi = nullptr;  ///< of that font, for texts from their point on
 };
 
-/// Writes a text on its base line, on a transparent ground. The font is scaled to `corpo`, which
-/// need not be a whole number.
+/// Writes texts on their base lines, on a transparent ground. A font is scaled to `corpo`, which
+/// need not be a whole number; texts of one size in a row share the scale, which a file has to tell
+/// at every change. Nothing else may paint while it lives; then the painter's scale is as before.
+class PennaTesti {
+ public:
+    explicit PennaTesti(QPainter& pittore);
+    PennaTesti(const PennaTesti&) = delete;
+    PennaTesti& operator=(const PennaTesti&) = delete;
+    ~PennaTesti();
+
+    void scrivi(const TestoDaDipingere& testo);
+
+ private:
+    /// Takes a text's scale for a font at that size. @return its point in it
+    [[nodiscard]] QPointF scala(const TestoDaDipingere& testo, double corpo);
+
+    QPainter& pittore_;
+    const QTransform foglio_;  // of the painter as it was
+    QTransform locale_;        // of the last text, upon it
+};
+
+/// Writes one text.
 void dipingiTesto(QPainter& pittore, const TestoDaDipingere& testo);
 
 }  // namespace korven::device

@@ -125,7 +125,7 @@ void ZipWriter::add(const std::string& name, std::span<const std::string_view> p
     zip_fileinfo about{};
     about.dosDate = firstDay;
     demand(zipOpenNewFileInZip(state_->archive, name.c_str(), &about, nullptr, 0, nullptr, 0,
-                               nullptr, method, Z_BEST_COMPRESSION));
+                               nullptr, method, Z_DEFAULT_COMPRESSION));
     for (const std::string_view piece : pieces)
         demand(zipWriteInFileInZip(state_->archive, piece.data(),
                                    static_cast<unsigned>(piece.size())));
