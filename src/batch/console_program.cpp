@@ -28,11 +28,17 @@ namespace korven::batch {
 
 namespace {
 
+// However silent it is, what a question was asked for.
+std::string soloRisposta(const Esito& esito) {
+    if (esito.lunghezza) return risposta(*esito.lunghezza);
+    return esito.bloccaggio ? risposta(*esito.bloccaggio) : std::string();
+}
+
 // What a command has to tell on standard output.
 std::string resoconto(const Opzioni& opzioni, const Esito& esito) {
     if (esito.righeVersate && (opzioni.json || opzioni.serie.uscita.empty())) return {};
     if (opzioni.json) return json(esito);
-    if (opzioni.silenzioso) return {};
+    if (opzioni.silenzioso) return soloRisposta(esito);
     if (esito.soloRilievi) return esito.guasto ? "" : elenco(esito);
     if (!esito.compiuto() && !esito.equilibrio && !esito.margine && !esito.autoverifica &&
         !esito.confronto && !esito.combinazioni && !esito.lunghezza && !esito.bloccaggio)

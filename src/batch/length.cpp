@@ -4,6 +4,7 @@
 #include <string>
 
 #include "analysis/run_arrays.hpp"
+#include "base/colon.hpp"
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
 #include "batch/command_table.hpp"
@@ -24,6 +25,8 @@ namespace {
 
 using base::traduttore;
 using project::Progetto;
+
+constexpr base::Gemelli opzioneSpostamento{"--spostamento-max", "--max-displacement"};
 
 studies::Scala scala(const DomandaLunghezza& chiesta) {
     const project::Limiti& limiti =
@@ -47,6 +50,14 @@ std::string_view motivo(const DomandaLunghezza& chiesta) {
 
 int esegui(const Opzioni& opzioni, const PorteComando&, Esito& esito) {
     esito.inMemoria = true;
+    const double spostamento = opzioni.lunghezza.spostamento.value_or(0);
+    if (const auto male = studies::spostamentoSbagliato(spostamento); !male.empty()) {
+        fallisci(usoErrato,
+                 base::conDuePunti(
+                     opzioneSpostamento.mostrato() + ' ' + base::testoNumero(spostamento), male),
+                 esito);
+        return usoErrato;
+    }
     return calcolaInMemoria(
         opzioni, esito, [&](const analysis::Avvio& avvio, base::Dialogo&) -> int {
             const DomandaLunghezza& chiesta = opzioni.lunghezza;
@@ -92,10 +103,8 @@ std::vector<RigaOpzione> opzioniDomanda() {
              "la riduzione della resistenza F è almeno questa in ogni fase",
              leggiPositivo<&DomandaLunghezza::riduzione>,
              numero},
-            {{"--spostamento-max", "--max-displacement"},
-             "lo spostamento è al più questo, in metri",
-             leggiPositivo<&DomandaLunghezza::spostamento>,
-             metri},
+            {opzioneSpostamento, "lo spostamento è al più questo, in metri",
+             leggiPositivo<&DomandaLunghezza::spostamento>, metri},
             {{"--resistenza", "--strength"},
              "la sezione è verificata a flessione e taglio",
              [](Opzioni& o) { o.lunghezza.resistenza = true; }},

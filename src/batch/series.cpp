@@ -67,14 +67,10 @@ int calcolaVarianti(const Opzioni& opzioni, const PorteComando& porte, Esito& es
     }
     const VariantiScelte scelte = variantiScelte(opzioni.serie);
     if (!scelte.varianti) return rifiuta(scelte.codice, scelte.perche, esito);
-    if (const auto nome = colonnaSconosciuta(opzioni, *scelte.varianti); !nome.empty())
-        return rifiuta(usoErrato, valoreNonAmmesso(opzioneColonne.mostrato(), {nome}, {}), esito);
+    if (const auto perche = colonnaSbagliata(opzioni, *scelte.varianti); !perche.empty())
+        return rifiuta(usoErrato, perche, esito);
     if (const auto perche = condizioneSbagliata(opzioni, *scelte.varianti); !perche.empty())
         return rifiuta(usoErrato, perche, esito);
-    if (!disegnabile(opzioni, *scelte.varianti))
-        return rifiuta(usoErrato,
-                       valoreNonAmmesso(opzioneGrafico.mostrato(), {opzioni.serie.grafico}, {}),
-                       esito);
     return eseguiSerie(opzioni, porte, scelte, *nSeg, esito);
 }
 

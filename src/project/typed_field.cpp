@@ -3,10 +3,12 @@
 #include <algorithm>
 #include <cassert>
 #include <cmath>
+#include <vector>
 
 #include "base/code_page.hpp"
 #include "base/decimal_commas.hpp"
 #include "base/number_text.hpp"
+#include "base/similar_name.hpp"
 #include "project/codes.hpp"
 
 namespace korven::project {
@@ -90,7 +92,11 @@ std::optional<std::string> nomeSimile(std::string_view nome) {
     for (const Campo& campo : campi())
         if (stessoNome(senzaParte(campo.nome), senzaParte(nome.substr(0, fine))))
             return std::string(campo.nome) + std::string(nome.substr(fine));
-    return {};
+    std::vector<std::string> nomi;
+    for (const Campo& campo : campi()) nomi.emplace_back(campo.nome);
+    auto vicino = base::nomeVicino(nome.substr(0, fine), nomi);
+    if (vicino) vicino->append(nome.substr(fine));
+    return vicino;
 }
 
 std::optional<MotivoRifiuto> motivoRifiuto(const Campo& campo, double mostrato) {

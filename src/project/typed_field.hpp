@@ -46,8 +46,9 @@ using ValoreCampo = std::variant<double, std::string>;
 [[nodiscard]] std::variant<CampoNominato, Rifiuto> campoScritto(const DatiProgetto& dati,
                                                                 std::string_view nome);
 
-/// The name of a field that was meant by one that is none: the same letters in other capitals, or
-/// a field of the section without "sezione."; nothing if there is none.
+/// The name of a field that was meant by one that is none: the same letters in other capitals, a
+/// field of the section without "sezione.", or the one that is near (`base::nomeVicino`); nothing
+/// if there is none.
 [[nodiscard]] std::optional<std::string> nomeSimile(std::string_view nome);
 
 /// The stored value of a typed one.

@@ -40,12 +40,8 @@ std::vector<Colonna> colonne(const RichiestaSerie& richiesta, const DatiProgetto
     std::ranges::transform(richiesta.fallisce, std::back_inserter(fallisce), studies::risultatoDi);
     auto scelta = studies::scegliColonne(richiesta.colonne, tiranti, richiesta.sicurezza, fallisce);
     if (scelta.sconosciuto.empty()) return std::move(scelta.colonne);
-    std::string nomi;
-    for (const Colonna& colonna : studies::colonne(tiranti, true))
-        nomi.append(nomi.empty() ? "" : ", ").append(colonna.nome);
-    throw ErroreCampo(
-        base::conDuePunti("colonne = " + scelta.sconosciuto,
-                          base::riempito(base::traduttore("valori ammessi: %1"), {nomi})));
+    throw ErroreCampo(base::conDuePunti("colonne = " + scelta.sconosciuto,
+                                        studies::nessunaColonna(scelta.sconosciuto, tiranti)));
 }
 
 studies::Domanda domanda(const RichiestaSerie& richiesta, int nSeg,

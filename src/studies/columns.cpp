@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <cmath>
 
+#include "base/filled_text.hpp"
+#include "base/similar_name.hpp"
+#include "base/translated_texts.hpp"
 #include "project/program_numbers.hpp"
 
 namespace korven::studies {
@@ -180,6 +183,21 @@ Scelta scegliColonne(const std::vector<std::string>& nomi, int tiranti, bool sic
             scelta.colonne.push_back(std::move(colonna));
     }
     return scelta;
+}
+
+std::string nessunaColonna(std::string_view nome, int tiranti) {
+    std::vector<std::string> nomi;
+    for (const Colonna& colonna : colonne(tiranti, true)) nomi.push_back(colonna.nome);
+    if (const auto vicino = base::nomeVicino(nome, nomi))
+        return base::riempito(base::traduttore("nessun risultato si chiama così; forse %1?"),
+                              {*vicino});
+    std::string tutti;
+    for (const std::string& uno : nomi) tutti.append(tutti.empty() ? "" : ", ").append(uno);
+    return base::riempito(base::traduttore("nessun risultato si chiama così: ci sono %1"), {tutti});
+}
+
+bool disegnabile(const Colonna& colonna) {
+    return colonna.specie == Specie::numero || colonna.specie == Specie::uso;
 }
 
 int tirantiPossibili(const project::DatiProgetto& dati,

@@ -63,6 +63,13 @@ struct Scelta {
 [[nodiscard]] Scelta scegliColonne(const std::vector<std::string>& nomi, int tiranti,
                                    bool sicurezza, std::span<const std::string> oltre = {});
 
+/// What is said of a name that is no column of any study, translated: the one that was meant, or
+/// all that there are.
+[[nodiscard]] std::string nessunaColonna(std::string_view nome, int tiranti);
+
+/// True for a column that can be drawn: its numbers are more than a place or a word.
+[[nodiscard]] bool disegnabile(const Colonna& colonna);
+
 /// Anchors that a variant may have: those of the project, or all that fit where their number or
 /// that of a stage varies.
 [[nodiscard]] int tirantiPossibili(const project::DatiProgetto& dati,

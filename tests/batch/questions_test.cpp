@@ -30,6 +30,27 @@ TEST_F(Domande, OfTheLengthAreAnsweredWithATableOfThoseTried) {
     EXPECT_EQ(nomi(), "muro.kvd ");
 }
 
+TEST_F(Domande, OfTheLengthSayWhatWasAskedWithItsUnits) {
+    const auto esito = lunghezza({"--spostamento-max", "0.05", "--sicurezza-min", "1.2"});
+    EXPECT_TRUE(dice(esito.uscita,
+                     " Criteri: equilibrio in ogni fase, riduzione F almeno 1.2, spostamento al "
+                     "più 50 mm.\n"))
+        << esito.uscita << esito.errori;
+    const auto breve = lunghezza({"--sicurezza-min", "1.2", "--silenzioso"});
+    EXPECT_TRUE(breve.uscita.starts_with("La paratia più corta che soddisfa i criteri è lunga "))
+        << breve.uscita;
+    EXPECT_EQ(std::count(breve.uscita.begin(), breve.uscita.end(), '\n'), 1);
+}
+
+TEST_F(Domande, OfTheLengthRefuseMillimetres) {
+    const auto esito = lunghezza({"--spostamento-max", "30"});
+    EXPECT_EQ(esito.codice, 2);
+    EXPECT_TRUE(dice(esito.errori,
+                     "--spostamento-max 30: il limite è in metri, e minore di 1: 0.03 per 30 mm"))
+        << esito.errori;
+    EXPECT_EQ(esito.uscita, "");
+}
+
 TEST_F(Domande, OfTheLengthHoldForTheWallThatIsSet) {
     const Json j = Json::parse(
         lunghezza({"--sicurezza-min", "1.3", "--spostamento-max", "0.03", "--json"}).uscita);
@@ -67,6 +88,7 @@ TEST_F(Domande, OfTheLengthEndWith1WhereThereIsNone) {
     const auto corta = lunghezza({"--fino-a", "5", "--passo", "1"});
     EXPECT_EQ(corta.codice, 1);
     EXPECT_TRUE(dice(corta.errori, "Nessuna lunghezza da provare")) << corta.errori;
+    EXPECT_EQ(corta.uscita, "");
 }
 
 TEST_F(Domande, OfTheLengthAreRefusedWhereTheyMakeNoSense) {

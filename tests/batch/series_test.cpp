@@ -161,12 +161,71 @@ TEST_F(Serie, TellsHowProbableFailureIsAndDrawsAResult) {
                               "spostamento_massimo_m", "--svg", disegno});
     EXPECT_EQ(altro.codice, 0) << altro.errori;
     EXPECT_TRUE(dice(contenuto(disegno), "<svg"));
-    for (const char* nome : {"causa", "nessuna", "z_taglio_m"})
-        EXPECT_EQ(serie({"--griglia", "phiStrato[1]=20:30:1", "--grafico", nome, "--svg", disegno})
-                      .codice,
-                  2)
-            << nome;
     EXPECT_EQ(serie({"--griglia", "phiStrato[1]=20:30:1", "--svg", disegno}).codice, 2);
+}
+
+TEST_F(Serie, DrawsAResultThatIsNoColumnOtherwise) {
+    const std::string disegno = cartella / "grafico.svg";
+    const auto esito = serie({"--griglia", "phiStrato[1]=30:32:2", "--colonne", "tiro_2_kN",
+                              "--grafico", "riduzione", "--svg", disegno});
+    EXPECT_EQ(esito.codice, 0) << esito.errori;
+    EXPECT_EQ(linee(esito.uscita).at(0), "variante,phiStrato[1] [°],causa,tiro_2_kN,riduzione");
+    EXPECT_TRUE(dice(contenuto(disegno), "<svg"));
+}
+
+TEST_F(Serie, SaysWhyAResultIsNone) {
+    const std::pair<std::vector<std::string>, const char*> casi[] = {
+        {{"--grafico", "causa"}, "--grafico causa: si disegnano i numeri"},
+        {{"--grafico", "z_taglio_m"}, "--grafico z_taglio_m: si disegnano i numeri"},
+        {{"--grafico", "nope"}, "--grafico nope: nessun risultato si chiama così: ci sono causa, "},
+        {{"--colonne", "momento_massimo_kN"},
+         "--colonne momento_massimo_kN: nessun risultato si chiama così; forse "
+         "momento_massimo_kNm?"},
+        {{"--colonne", "tiro_9_kN"}, "ci sono causa, "},
+    };
+    for (const auto& [opzioni, detto] : casi) {
+        std::vector<std::string> argomenti{"--griglia", "phiStrato[1]=20:30:1"};
+        argomenti.insert(argomenti.end(), opzioni.begin(), opzioni.end());
+        if (opzioni[0] == "--grafico")
+            argomenti.insert(argomenti.end(), {"--svg", cartella / "grafico.svg"});
+        const auto esito = serie(argomenti);
+        EXPECT_EQ(esito.codice, 2) << opzioni[1];
+        EXPECT_TRUE(dice(esito.errori, detto)) << esito.errori;
+        EXPECT_EQ(esito.uscita, "");
+    }
+}
+
+TEST_F(Serie, AsksBeforeMoreVariantsThanAnybodyMeans) {
+    const std::vector<std::string> griglia{"--griglia", "lunghezzaParatia=8:12:0.0000001",
+                                           "--uscita", file};
+    const auto esito = serie(griglia);
+    EXPECT_EQ(esito.codice, 2);
+    EXPECT_TRUE(dice(esito.errori, "40000001 varianti: le righe prenderanno circa "))
+        << esito.errori;
+    EXPECT_TRUE(dice(esito.errori, " GB, il calcolo circa ")) << esito.errori;
+    EXPECT_FALSE(fs::exists(parziale));
+    auto parte = griglia;  // a part that is small enough is none of its business
+    parte.insert(parte.end(), {"--parte", "1/4000001", "--silenzioso"});
+    EXPECT_EQ(serie(parte).codice, 0);
+}
+
+TEST_F(Serie, SaysWhichFieldsChangeNothing) {
+    const auto esito = serie(
+        {"--griglia", "opzioneRiservata=0:3:1", "--griglia", "sezione.spessoreDiaframma=60:80:10"});
+    EXPECT_EQ(esito.codice, 0);
+    EXPECT_TRUE(dice(esito.errori,
+                     "opzioneRiservata: da 0 a 3 nessun risultato cambia, in questo progetto "
+                     "com'è."))
+        << esito.errori;
+    const bool scritta = dice(esito.errori, "La rigidezza EJ resta quella scritta");
+    EXPECT_EQ(scritta, project::leggiDaFile(progetto).rigidezzaEJ != 0) << esito.errori;
+    EXPECT_FALSE(dice(serie(studio()).errori, "nessun risultato cambia"));
+}
+
+TEST_F(Serie, EndsWith3ForAValueThatItsFieldDoesNotTake) {
+    EXPECT_EQ(serie({"--griglia", "phiStrato[1]=50:70:10"}).codice, 3);
+    EXPECT_EQ(serie({"--griglia", "nStrati=1:3:0.5"}).codice, 3);
+    EXPECT_EQ(serie({"--griglia", "phiStrato[1]=50:abc:10"}).codice, 2);
 }
 
 TEST_F(Serie, RefusesWrongUsage) {
@@ -179,7 +238,6 @@ TEST_F(Serie, RefusesWrongUsage) {
         {"--griglia", "phiStrato[1]=8:27:1", "--riprendi"},
         {"--griglia", "phiStrato[1]=8:27:1", "--parte", "3/2"},
         {"--griglia", "phiStrato[1]=8:27:1", "--parte", "0/2"},
-        {"--griglia", "phiStrato[1]=8:27:1", "--colonne", "tiro_9_kN"},
         {"--griglia", "phiStrato[1]=8:27:1", "-j", "0"},
         {"--griglia", "phiStrato[9]=8:27:1"},
         {"--griglia", "phiStrato[1]=8:27"},

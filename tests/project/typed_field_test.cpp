@@ -59,6 +59,8 @@ TEST(CampoScritto, HasASimilarNameForOtherCapitalsAndForAForgottenSection) {
     EXPECT_EQ(nomeSimile("phistrato[2]"), "phiStrato[2]");
     EXPECT_EQ(nomeSimile("spessoreDiaframma"), "sezione.spessoreDiaframma");
     EXPECT_EQ(nomeSimile("SEZIONE.FCK"), "sezione.fck");
+    EXPECT_EQ(nomeSimile("lungezzaParatia"), "lunghezzaParatia");
+    EXPECT_EQ(nomeSimile("phiStrat[2]"), "phiStrato[2]");
     EXPECT_FALSE(nomeSimile("larghezza"));
     EXPECT_FALSE(nomeSimile(""));
 }

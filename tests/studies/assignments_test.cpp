@@ -48,8 +48,9 @@ TEST(Assegnazioni, MayFillARowThatAnotherOneAdds) {
 
 TEST(Assegnazioni, SayOfEachWhatIsWrongAndWhatMayBeWritten) {
     const std::pair<const char*, const char*> casi[] = {
-        {"lunghezza=9",
-         "lunghezza: nessun campo si chiama così; i nomi sono quelli di «korven32c campi»"},
+        {"lunghezza=9", "lunghezza: nessun campo si chiama così; forse lunghezzaParatia?"},
+        {"altezza=9",
+         "altezza: nessun campo si chiama così; i nomi sono quelli di «korven32c campi»"},
         {"phistrato[2]=31", "phistrato[2]: nessun campo si chiama così; forse phiStrato[2]?"},
         {"phiStrato=31", "phiStrato: manca il numero della riga: phiStrato[1]"},
         {"phiStrato[3]=31",

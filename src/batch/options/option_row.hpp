@@ -34,7 +34,7 @@ struct RigaOpzione {
     base::Gemelli valore = {};               ///< word for its value in the help: "DIR"
     std::vector<base::Gemelli> valori = {};  ///< all the values that it may have, of `Scegli`
     std::string predefinito = {};            ///< value without the option, for the help
-    std::string coda = {};  ///< after the explanation in the help, in every language
+    std::string coda = {};  ///< after the explanation in the help: names, no words of a language
     bool obbligatoria = false;
     bool ripetibile = false;  ///< takes several values; an option parted by commas too
     bool conVirgole = false;  ///< of a repeatable option: a comma is part of a value, and each

@@ -19,6 +19,7 @@ struct OpzioniSerie {
 
     std::string uscita;  ///< file of the rows; empty: standard output
     bool riprendi = false;
+    bool senzaLimite = false;            ///< however many variants there are
     std::uint64_t parte = 1, parti = 1;  ///< block `parte` of `parti`
     int fili = 0;                        ///< threads; 0: all processors
     std::vector<std::string> colonne;    ///< empty: all

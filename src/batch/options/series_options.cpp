@@ -4,6 +4,10 @@
 #include <limits>
 #include <optional>
 #include <string_view>
+#include <utility>
+
+#include "studies/columns.hpp"
+#include "studies/plan/law.hpp"
 
 namespace korven::batch {
 
@@ -51,6 +55,29 @@ bool leggiParte(Opzioni& o, const std::string& valore) {
     return true;
 }
 
+// The rest of a line of the help: what may stand there.
+std::string traGli(const std::vector<std::string>& nomi) {
+    constexpr std::size_t larga = 90;
+    std::string testo, riga;
+    for (const std::string& nome : nomi) {
+        if (riga.size() + nome.size() > larga) testo += std::exchange(riga, {}) + '\n';
+        riga += (riga.empty() ? "" : " ") + nome + (&nome == &nomi.back() ? "" : ",");
+    }
+    return ":\n" + testo + riga;
+}
+
+std::string leggi() {
+    std::vector<std::string> forme;
+    for (const studies::NomeLegge& legge : studies::nomiLeggi()) forme.push_back(legge.forma());
+    return traGli(forme);
+}
+
+std::string risultati() {
+    std::vector<std::string> nomi;
+    for (const studies::Colonna& colonna : studies::colonne(2, true)) nomi.push_back(colonna.nome);
+    return traGli(nomi);
+}
+
 // Given again and again, once a value, whose commas are its own.
 RigaOpzione ripetuta(base::Gemelli nome, const char* spiegazione, Leggi azione,
                      base::Gemelli valore) {
@@ -61,6 +88,10 @@ RigaOpzione ripetuta(base::Gemelli nome, const char* spiegazione, Leggi azione,
 }
 
 std::vector<RigaOpzione> varianti() {
+    RigaOpzione legge =
+        ripetuta(opzioneLegge, "legge di un campo nei campioni", aggiungi<&OpzioniSerie::leggi>,
+                 {"CAMPO=LEGGE(...)", "FIELD=LAW(...)"});
+    legge.coda = leggi();
     return {
         {opzionePiano, "varianti di un file CSV: una colonna per campo, una riga per variante",
          leggiFile<&OpzioniSerie::piano>, file},
@@ -74,8 +105,7 @@ std::vector<RigaOpzione> varianti() {
          numero,
          {},
          "1"},
-        ripetuta(opzioneLegge, "legge di un campo nei campioni", aggiungi<&OpzioniSerie::leggi>,
-                 {"CAMPO=LEGGE(...)", "FIELD=LAW(...)"}),
+        legge,
         ripetuta(opzioneRho, "correlazione di due campi nei campioni", aggiungi<&OpzioniSerie::rho>,
                  {"CAMPO,CAMPO=R", "FIELD,FIELD=R"}),
         {opzioneIpercubo, "campioni stratificati (ipercubo latino)",
@@ -89,6 +119,7 @@ std::vector<RigaOpzione> calcolo() {
                            aggiungi<&OpzioniSerie::colonne>,
                            {"NOMI", "NAMES"}};
     colonne.ripetibile = true;
+    colonne.coda = risultati();
     return {
         colonne,
         ripetuta(opzioneFallisce, "che cosa fa fallire anche una variante in equilibrio",
@@ -121,7 +152,9 @@ std::vector<RigaOpzione> righe() {
         {{"--riprendi", "--resume"},
          "continua uno studio interrotto",
          [](Opzioni& o) { o.serie.riprendi = true; }},
-        {{"--parte", "--part"}, "calcola solo la parte I di N", leggiParte, uguali("I/N")},
+        {opzioneSenzaLimite, "calcola anche più di 10 milioni di varianti",
+         [](Opzioni& o) { o.serie.senzaLimite = true; }},
+        {opzioneParte, "calcola solo la parte I di N", leggiParte, uguali("I/N")},
         {uguali("-j"), "fili di calcolo (altrimenti tutti i processori)",
          Conta{1, massimiFili, [](Opzioni& o) -> int& { return o.serie.fili; }}, numero},
     };

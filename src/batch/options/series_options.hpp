@@ -16,6 +16,8 @@ inline constexpr base::Gemelli opzioneIpercubo{"--ipercubo", "--hypercube"};
 inline constexpr base::Gemelli opzioneColonne{"--colonne", "--columns"};
 inline constexpr base::Gemelli opzioneFallisce{"--fallisce", "--fails"};
 inline constexpr base::Gemelli opzioneGrafico{"--grafico", "--chart"};
+inline constexpr base::Gemelli opzioneSenzaLimite{"--senza-limite", "--no-limit"};
+inline constexpr base::Gemelli opzioneParte{"--parte", "--part"};
 inline constexpr base::Gemelli opzioneUscitaSerie{"--uscita", "--output"};
 
 /// Where the variants of a study come from, what is computed of each and where the rows go.

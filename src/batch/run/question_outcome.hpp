@@ -22,6 +22,10 @@ struct RispostaBloccaggio {
     studies::Bloccaggio bloccaggio;
 };
 
+/// The answer in a line; nothing without one.
+[[nodiscard]] std::string risposta(const RispostaLunghezza& risposta);
+[[nodiscard]] std::string risposta(const RispostaBloccaggio& risposta);
+
 /// The table of the lengths tried, then the answer if there is one: that there is none is told with
 /// what a command does not do.
 [[nodiscard]] std::string testoLunghezza(const RispostaLunghezza& risposta);

@@ -1,6 +1,8 @@
+#include <algorithm>
 #include <string>
 #include <vector>
 
+#include "base/filled_text.hpp"
 #include "base/translated_texts.hpp"
 #include "batch/run/question_outcome.hpp"
 #include "batch/run/text_table.hpp"
@@ -53,19 +55,47 @@ std::vector<std::string> celle(const LunghezzaProvata& p, const Criteri& criteri
     return tutte;
 }
 
+// Of those that fall before the first that stands all but the last, which is a row: how many.
+std::size_t tropCorte(const std::vector<LunghezzaProvata>& provate) {
+    const auto prima = std::ranges::find_if(
+        provate, [](const LunghezzaProvata& p) { return p.spostamento.has_value(); });
+    const auto cadono = static_cast<std::size_t>(prima - provate.begin());
+    return cadono > 2 ? cadono - 1 : 0;  // a line for one is no shorter than its row
+}
+
 }  // namespace
 
+std::string risposta(const RispostaLunghezza& r) {
+    if (r.ricerca.trovata() == nullptr) return {};
+    return studies::risposta(r.ricerca, r.criteri, r.scala) + '\n';
+}
+
+std::string risposta(const RispostaBloccaggio& r) {
+    if (r.bloccaggio.esito != studies::EsitoBloccaggio::trovato) return {};
+    return studies::risposta(r.bloccaggio, r.tirante, r.forza) + '\n';
+}
+
 std::string testoLunghezza(const RispostaLunghezza& r) {
+    const auto& provate = r.ricerca.provate;
+    if (provate.empty()) return {};
+    const std::size_t corte = tropCorte(provate);
+    std::string testo;
+    if (corte > 0)
+        testo = base::riempito(
+                    traduttore("%1 lunghezze da %2 m a %3 m: nessun equilibrio in qualche fase."),
+                    {std::to_string(corte), safety::metri(provate.front().lunghezza),
+                     safety::metri(provate[corte - 1].lunghezza)}) +
+                "\n\n";
     TabellaTesto tabella(titoli(r.criteri), true);
-    for (const LunghezzaProvata& provata : r.ricerca.provate)
-        tabella.riga(celle(provata, r.criteri));
-    if (r.ricerca.trovata() == nullptr) return tabella.testo();
-    return tabella.testo() + '\n' + studies::risposta(r.ricerca, r.criteri, r.scala) + '\n';
+    for (std::size_t i = corte; i < provate.size(); ++i) tabella.riga(celle(provate[i], r.criteri));
+    testo += tabella.testo();
+    const std::string detta = risposta(r);
+    return detta.empty() ? testo : testo + '\n' + detta;
 }
 
 std::string testoBloccaggio(const RispostaBloccaggio& r) {
-    if (r.bloccaggio.esito != studies::EsitoBloccaggio::trovato) return {};
-    std::string testo = studies::risposta(r.bloccaggio, r.tirante, r.forza) + '\n';
+    std::string testo = risposta(r);
+    if (testo.empty()) return {};
     TabellaTesto tabella(
         {traduttore("Fase"), traduttore("Forza") + ' ' + traParentesi(unita::forzaAlMetro)});
     int fase = r.bloccaggio.fase;

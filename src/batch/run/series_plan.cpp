@@ -17,10 +17,17 @@ namespace {
 using project::Progetto;
 using studies::DifettoPiano;
 
+// A value that its field does not take is the same fault as in a plan; all else is typed wrong.
+int codice(const DifettoPiano& difetto) {
+    const bool valore =
+        difetto.rifiuto && difetto.rifiuto->motivo >= project::MotivoRifiuto::nonNumero;
+    return valore ? ingressoRotto : usoErrato;
+}
+
 template <class T>
 VariantiScelte scelte(studies::Letto<T> letto) {
     if (const auto* difetto = std::get_if<DifettoPiano>(&letto))
-        return {nullptr, usoErrato, studies::parole(*difetto)};
+        return {nullptr, codice(*difetto), studies::parole(*difetto)};
     return {std::make_unique<T>(std::get<T>(std::move(letto))), fatto, {}};
 }
 

@@ -12,6 +12,8 @@
 #include "base/colon.hpp"
 #include "base/file_error.hpp"
 #include "base/filled_text.hpp"
+#include "base/number_text.hpp"
+#include "base/option_names.hpp"
 #include "base/partial_file.hpp"
 #include "base/translated_texts.hpp"
 #include "batch/options/series_options.hpp"
@@ -21,8 +23,11 @@
 #include "batch/run/interruption.hpp"
 #include "batch/run/output_names.hpp"
 #include "batch/run/series_progress.hpp"
+#include "batch/run/series_size.hpp"
 #include "project/project_data.hpp"
+#include "project/shown_number.hpp"
 #include "studies/charts/study_chart.hpp"
+#include "studies/inert_fields.hpp"
 #include "studies/resume.hpp"
 #include "studies/summary/row_conditions.hpp"
 #include "studies/summary/study_count.hpp"
@@ -36,12 +41,11 @@ using base::traduttore;
 using project::Progetto;
 
 studies::Scelta colonne(const Opzioni& opzioni, const studies::Varianti& varianti) {
-    std::vector<std::string> fallisce;
-    std::ranges::transform(opzioni.serie.fallisce, std::back_inserter(fallisce),
-                           studies::risultatoDi);
+    std::vector<std::string> oltre{opzioni.serie.grafico};
+    std::ranges::transform(opzioni.serie.fallisce, std::back_inserter(oltre), studies::risultatoDi);
     return studies::scegliColonne(opzioni.serie.colonne,
                                   studies::tirantiPossibili(Progetto, varianti.campi()),
-                                  opzioni.serie.sicurezza, fallisce);
+                                  opzioni.serie.sicurezza, oltre);
 }
 
 studies::RigheStudio righeDi(const Opzioni& opzioni, const studies::Varianti& varianti) {
@@ -127,6 +131,26 @@ studies::Ripresa riprese(const Opzioni& opzioni, const studies::Studio& studio,
     return ripresa;
 }
 
+// What varies without a meaning is easily taken for a result.
+void avvisaCampi(const studies::Studio& studio, Esito& esito) {
+    const auto campi = studio.varianti.campi();
+    std::vector<std::string> avvisi;
+    for (const auto& [quale, da, a] :
+         studies::campiSenzaEffetto(studio.varianti, studio.dati, studio.domanda))
+        avvisi.push_back(riempito(
+            traduttore("%1: da %2 a %3 nessun risultato cambia, in questo progetto com'è."),
+            {project::nomeStabile(*campi[quale].campo, campi[quale].riga), base::testoNumero(da),
+             base::testoNumero(a)}));
+    if (studies::rigidezzaScrittaResta(studio.varianti, studio.dati, studio.domanda))
+        avvisi.push_back(riempito(
+            traduttore("La rigidezza EJ resta quella scritta, %1 kN m², anche dove la "
+                       "sezione ne darebbe un'altra: con %2 ogni variante ha la sua."),
+            {project::numeroMostrato(studio.dati.rigidezzaEJ, 0,
+                                     project::unita::rigidezzaFlessionale),
+             base::nomeOpzioneEJ.mostrato() + ' ' + base::rigidezzaRicalcolata.mostrato()}));
+    racconta(avvisi, esito);
+}
+
 void raccontaInterruzione(const base::FileParziale* file, std::uint64_t fatte, std::uint64_t quante,
                           Esito& esito) {
     esito.causa = safety::Causa::fermato;
@@ -205,8 +229,25 @@ int corri(const Opzioni& opzioni, const PorteComando& porte, const studies::Stud
 
 }  // namespace
 
-std::string colonnaSconosciuta(const Opzioni& opzioni, const studies::Varianti& varianti) {
-    return colonne(opzioni, varianti).sconosciuto;
+std::string colonnaSbagliata(const Opzioni& opzioni, const studies::Varianti& varianti) {
+    const int tiranti = studies::tirantiPossibili(Progetto, varianti.campi());
+    const auto male = [](const base::Gemelli& opzione, const std::string& nome,
+                         const std::string& perche) {
+        return base::conDuePunti(opzione.mostrato() + ' ' + nome, perche);
+    };
+    const studies::Scelta scelta = colonne(opzioni, varianti);
+    if (!scelta.sconosciuto.empty())
+        return male(opzioneColonne, scelta.sconosciuto,
+                    studies::nessunaColonna(scelta.sconosciuto, tiranti));
+    const std::string& grafico = opzioni.serie.grafico;
+    if (grafico.empty()) return {};
+    const auto sua = std::ranges::find(scelta.colonne, grafico, &studies::Colonna::nome);
+    if (sua == scelta.colonne.end())
+        return male(opzioneGrafico, grafico, studies::nessunaColonna(grafico, tiranti));
+    if (disegnabile(*sua)) return {};
+    return male(opzioneGrafico, grafico,
+                traduttore("si disegnano i numeri, non le parole né le profondità e le fasi in cui "
+                           "stanno"));
 }
 
 std::string condizioneSbagliata(const Opzioni& opzioni, const studies::Varianti& varianti) {
@@ -214,15 +255,6 @@ std::string condizioneSbagliata(const Opzioni& opzioni, const studies::Varianti&
     if (!lette.difetto) return {};
     const auto& [testo, difetto] = *lette.difetto;
     return base::conDuePunti(opzioneFallisce.mostrato() + ' ' + testo, studies::parole(difetto));
-}
-
-bool disegnabile(const Opzioni& opzioni, const studies::Varianti& varianti) {
-    if (opzioni.serie.grafico.empty()) return true;
-    const auto tutte = colonne(opzioni, varianti).colonne;
-    return std::any_of(tutte.begin(), tutte.end(), [&](const studies::Colonna& c) {
-        return c.nome == opzioni.serie.grafico &&
-               (c.specie == studies::Specie::numero || c.specie == studies::Specie::uso);
-    });
 }
 
 int eseguiSerie(const Opzioni& opzioni, const PorteComando& porte, const VariantiScelte& scelte,
@@ -236,6 +268,12 @@ int eseguiSerie(const Opzioni& opzioni, const PorteComando& porte, const Variant
     const studies::Studio studio{varianti, Progetto, chiesto, righe,
                                  static_cast<std::uint64_t>(serie.controllo)};
     const auto tratto = studies::parte(varianti.numero(), serie.parte, serie.parti);
+    if (!serie.senzaLimite)
+        if (const auto perche = troppeVarianti(studio, tratto, fili(serie)); !perche.empty()) {
+            fallisci(usoErrato, perche, esito);
+            return usoErrato;
+        }
+    avvisaCampi(studio, esito);
     std::optional<base::FileParziale> file;
     if (!serie.uscita.empty()) file.emplace(serie.uscita, porte.disco);
     esito.righeVersate = true;

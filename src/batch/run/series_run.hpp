@@ -17,16 +17,13 @@ namespace korven::batch {
 [[nodiscard]] int eseguiSerie(const Opzioni& opzioni, const PorteComando& porte,
                               const VariantiScelte& scelte, int nSeg, Esito& esito);
 
-/// Columns that the command line asks for and that there are not: the first; empty if there is
-/// none.
-[[nodiscard]] std::string colonnaSconosciuta(const Opzioni& opzioni,
-                                             const studies::Varianti& varianti);
+/// Why a column, or the result to be drawn, is none of the study's, translated: of the first; empty
+/// if all are.
+[[nodiscard]] std::string colonnaSbagliata(const Opzioni& opzioni,
+                                           const studies::Varianti& varianti);
 
 /// Why what makes a variant fail can't be read, translated; empty if it can.
 [[nodiscard]] std::string condizioneSbagliata(const Opzioni& opzioni,
                                               const studies::Varianti& varianti);
-
-/// False for a result to be drawn that is none of the study's numbers.
-[[nodiscard]] bool disegnabile(const Opzioni& opzioni, const studies::Varianti& varianti);
 
 }  // namespace korven::batch

@@ -89,6 +89,14 @@ std::string mancato(Criterio criterio, const LunghezzaProvata& provata, const Cr
     return dellUso(criterio, provata.taglio);
 }
 
+std::string trovata(const RicercaLunghezza& ricerca, const Scala& scala) {
+    return frase(
+        "La paratia più corta che soddisfa i criteri è lunga %1 m (passo %2 m); li "
+        "soddisfano tutte le lunghezze provate da questa fino a %3 m.",
+        {safety::metri(ricerca.trovata()->lunghezza), base::testoNumero(scala.passo),
+         safety::metri(ricerca.provate.back().lunghezza)});
+}
+
 std::string nonTrovata(const RicercaLunghezza& ricerca, const Criteri& chiesti) {
     if (ricerca.provate.empty())
         return traduttore("Nessuna lunghezza da provare: lo scavo più profondo va oltre l'ultima.");
@@ -117,14 +125,31 @@ std::string parole(const LunghezzaProvata& provata, const Criteri& chiesti) {
     return testo;
 }
 
-std::string risposta(const RicercaLunghezza& ricerca, const Criteri& chiesti, const Scala& scala) {
-    const LunghezzaProvata* trovata = ricerca.trovata();
-    if (trovata == nullptr) return nonTrovata(ricerca, chiesti);
+std::string parole(const Criteri& chiesti) {
+    std::string testo = traduttore("equilibrio in ogni fase");
+    const auto anche = [&testo](const std::string& criterio) { testo += ", " + criterio; };
+    if (chiesti.riduzione)
+        anche(frase("riduzione F almeno %1", {base::testoNumero(*chiesti.riduzione)}));
+    if (chiesti.spostamento)
+        anche(frase(
+            "spostamento al più %1 mm",
+            {base::testoNumero(project::mostrato(unita::spostamentoFine, *chiesti.spostamento))}));
+    if (chiesti.resistenza) anche(traduttore("flessione e taglio della sezione verificati"));
+    return testo;
+}
+
+std::string spostamentoSbagliato(double metri) {
+    constexpr double troppi = 1;
+    if (metri < troppi) return {};
     return frase(
-        "La paratia più corta che soddisfa i criteri è lunga %1 m (passo %2 m); li "
-        "soddisfano tutte le lunghezze provate da questa fino a %3 m.",
-        {safety::metri(trovata->lunghezza), base::testoNumero(scala.passo),
-         safety::metri(ricerca.provate.back().lunghezza)});
+        "il limite è in metri, e minore di 1: %1 per %2 mm",
+        {base::testoNumero(metri / unita::spostamentoFine.fattore), base::testoNumero(metri)});
+}
+
+std::string risposta(const RicercaLunghezza& ricerca, const Criteri& chiesti, const Scala& scala) {
+    const std::string detto =
+        ricerca.trovata() == nullptr ? nonTrovata(ricerca, chiesti) : trovata(ricerca, scala);
+    return detto + ' ' + frase("Criteri: %1.", {parole(chiesti)});
 }
 
 std::string_view parola(EsitoBloccaggio esito) {

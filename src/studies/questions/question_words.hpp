@@ -22,7 +22,16 @@ namespace korven::studies {
 /// mm"; of a wall that does not stand also why.
 [[nodiscard]] std::string parole(const LunghezzaProvata& provata, const Criteri& chiesti);
 
-/// The answer in a sentence; of none why the longest wall tried is none.
+/// What is asked of a length, with units: "equilibrio in ogni fase, spostamento al più 30 mm".
+[[nodiscard]] std::string parole(const Criteri& chiesti);
+
+/// Why a displacement can't be a criterion, translated: one of a metre and more is one that was
+/// meant in millimetres; empty for one that can.
+/// @param metri  as it is asked for
+[[nodiscard]] std::string spostamentoSbagliato(double metri);
+
+/// The answer in a sentence, and the criteria in another; of none why the longest wall tried is
+/// none.
 [[nodiscard]] std::string risposta(const RicercaLunghezza& ricerca, const Criteri& chiesti,
                                    const Scala& scala);
 

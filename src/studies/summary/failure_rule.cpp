@@ -5,6 +5,7 @@
 #include "base/code_page.hpp"
 #include "base/colon.hpp"
 #include "base/filled_text.hpp"
+#include "base/similar_name.hpp"
 #include "base/translated_texts.hpp"
 #include "studies/plan/study_fields.hpp"
 
@@ -61,7 +62,9 @@ std::variant<Condizione, DifettoCondizione> leggiCondizione(std::string_view tes
     const std::string nome = risultatoDi(testo);
     if (nome.empty()) return DifettoCondizione{Motivo::forma, std::string(testo)};
     const auto trovato = std::ranges::find(nomi, nome);
-    if (trovato == nomi.end()) return DifettoCondizione{Motivo::sconosciuto, nome};
+    if (trovato == nomi.end())
+        return DifettoCondizione{Motivo::sconosciuto, nome,
+                                 base::nomeVicino(nome, nomi).value_or(std::string())};
 
     const std::string_view dopo = testo.substr(testo.find_first_of(iniziali));
     const auto* segno =
@@ -84,7 +87,9 @@ std::string parole(const DifettoCondizione& difetto) {
             case Motivo::forma:
                 return frase("atteso come in %1", "spostamento_massimo_m>0.03");
             case Motivo::sconosciuto:
-                return frase("nessun risultato si chiama così", {});
+                return difetto.atteso.empty()
+                           ? frase("nessun risultato si chiama così", {})
+                           : frase("nessun risultato si chiama così; forse %1?", difetto.atteso);
             case Motivo::virgola:
                 return frase("il segno decimale è il punto: %1", difetto.atteso);
             case Motivo::parola:

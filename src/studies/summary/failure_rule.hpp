@@ -33,7 +33,7 @@ struct DifettoCondizione {
         parola,       ///< the result is a word
     } motivo;
     std::string testo;          ///< the piece that is wrong
-    std::string atteso = {};    ///< the number with a point, of a comma
+    std::string atteso = {};    ///< the number with a point, of a comma; the name that was meant
     std::size_t carattere = 1;  ///< of the text, counted from 1
 };
 

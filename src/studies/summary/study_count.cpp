@@ -53,9 +53,8 @@ FormaRiga formaDi(const RigheStudio& righe, const std::vector<std::string>& cond
                 .condizioni = std::move(lette.condizioni)};
     std::size_t j = f.campi;
     for (const Colonna& colonna : righe.colonne()) {
-        const auto specie = colonna.specie;
-        if (specie == Specie::numero || specie == Specie::uso) f.risultati.push_back(j);
-        if (specie == Specie::uso) f.usi.push_back(j);
+        if (disegnabile(colonna)) f.risultati.push_back(j);
+        if (colonna.specie == Specie::uso) f.usi.push_back(j);
         ++j;
     }
     return f;

@@ -56,8 +56,9 @@ auto tutte(const Opzioni& o) {
         o.progettoNuovo, o.lunghezza.riduzione, o.lunghezza.finoA, o.bloccaggio.forza, o.norma,
         o.natura.monte, o.natura.scavo, o.natura.testa, o.serie.piano, o.serie.griglie,
         o.serie.leggi, o.serie.rho, o.serie.campioni, o.serie.seme, o.serie.ipercubo,
-        o.serie.uscita, o.serie.riprendi, o.serie.parte, o.serie.parti, o.serie.fili,
-        o.serie.colonne, o.serie.grafico, o.serie.sicurezza, o.serie.iterazione, o.serie.controllo);
+        o.serie.uscita, o.serie.riprendi, o.serie.senzaLimite, o.serie.parte, o.serie.parti,
+        o.serie.fili, o.serie.colonne, o.serie.grafico, o.serie.sicurezza, o.serie.iterazione,
+        o.serie.controllo);
 }
 
 // Words of a help: names are parted by blanks, commas, bars and brackets.

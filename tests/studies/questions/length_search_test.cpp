@@ -104,7 +104,9 @@ TEST(CercaLunghezza, WithoutAnAnswerTellsWhatTheLongestLacks) {
     EXPECT_EQ(risposta(ricerca, criteri, scala),
               std::string("Nessuna lunghezza fino a 12 m soddisfa i criteri. Con 12 m: "
                           "spostamento ") +
-                  mm + " mm nella fase 2, ammessi 0.0 mm.");
+                  mm +
+                  " mm nella fase 2, ammessi 0.0 mm. Criteri: equilibrio in ogni fase, spostamento "
+                  "al più 0.001 mm.");
 }
 
 // The section that the largest moment just uses up: half of it is not enough.

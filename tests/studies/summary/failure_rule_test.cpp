@@ -66,6 +66,11 @@ TEST(Condizione, IsToldWrongInWords) {
               "carattere 15: 0,5: il segno decimale è il punto: 0.5");
     EXPECT_EQ(parole(std::get<DifettoCondizione>(leggiCondizione("uso>1", nomi))),
               "carattere 1: uso: nessun risultato si chiama così");
+    EXPECT_EQ(parole(std::get<DifettoCondizione>(leggiCondizione("momento_kN>1", nomi))),
+              "carattere 1: momento_kN: nessun risultato si chiama così");
+    EXPECT_EQ(parole(std::get<DifettoCondizione>(leggiCondizione("spostamento_massimo>1", nomi))),
+              "carattere 1: spostamento_massimo: nessun risultato si chiama così; forse "
+              "spostamento_massimo_m?");
 }
 
 }  // namespace
