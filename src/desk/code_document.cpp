@@ -1,15 +1,10 @@
 #include "desk/code_document.hpp"
 
-#include <algorithm>
-#include <filesystem>
 #include <optional>
 #include <utility>
 
 #include "base/filled_text.hpp"
-#include "base/language.hpp"
 #include "base/translated_texts.hpp"
-#include "base/version.hpp"
-#include "dossier/identity.hpp"
 #include "factors/words.hpp"
 #include "project/shown_number.hpp"
 #include "project/units.hpp"
@@ -59,15 +54,6 @@ std::vector<Prospetto> prospetti(const Combinazioni& tutte) {
     return fatti;
 }
 
-std::string nomeDelFile(const ProgettoDetto& progetto) {
-    return std::filesystem::path(progetto.file).filename().string();
-}
-
-std::string conImpronta(const ProgettoDetto& progetto) {
-    return nomeDelFile(progetto) + " (SHA-256 " +
-           std::string(dossier::inBreve(dossier::impronta(progetto.dati))) + ")";
-}
-
 std::string titolo(const Combinazioni& tutte) {
     return riempito(traduttore("Combinazioni della norma %1"), {tutte.norma.titolo});
 }
@@ -103,15 +89,7 @@ Prospetto prospettoFonti(const factors::Norma& norma) {
 }
 
 Documento documento(const Combinazioni& tutte, const ProgettoDetto& progetto) {
-    Documento d;
-    d.titolo = titolo(tutte);
-    d.autore = std::string(base::nomeEVersione);
-    d.data = progetto.data;
-    d.lingua = base::siglaIso(base::linguaCorrente());
-    d.testata = {d.titolo, nomeDelFile(progetto)};
-    d.piede = d.autore + ", " + progetto.data;
-    d.blocchi.emplace_back(Titolo{1, d.titolo});
-    d.blocchi.emplace_back(Paragrafo{conImpronta(progetto)});
+    Documento d = documentoDi(progetto, titolo(tutte));
     Stile stile = Stile::rilievo;  // the verdict alone
     for (std::string& frase : frasi(tutte))
         d.blocchi.emplace_back(Paragrafo{std::move(frase), std::exchange(stile, Stile::normale)});
@@ -128,17 +106,14 @@ Documento documento(const Combinazioni& tutte, const ProgettoDetto& progetto) {
 }
 
 workbook::CartellaFogli cartella(const Combinazioni& tutte, const ProgettoDetto& progetto) {
-    workbook::CartellaFogli cartella;
-    cartella.titolo = titolo(tutte);
-    cartella.piede = conImpronta(progetto) + " - " + std::string(base::nomeEVersione);
-    cartella.data = progetto.data;
+    workbook::CartellaFogli cartella = cartellaDi(progetto, titolo(tutte));
     auto tavole = prospetti(tutte);
     tavole.front().note = frasi(tutte);
     for (std::string& nota : factors::note(tutte, progetto.dati))
         tavole.front().note.push_back(std::move(nota));
     tavole.push_back(prospettoFonti(tutte.norma));
     for (Prospetto& p : tavole)
-        cartella.fogli.push_back({.nome = {}, .prospetto = std::move(p), .fonte = titolo(tutte)});
+        cartella.fogli.push_back({.nome = {}, .prospetto = std::move(p), .fonte = cartella.titolo});
     return cartella;
 }
 

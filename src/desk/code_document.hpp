@@ -3,10 +3,9 @@
 #include <string>
 #include <vector>
 
-#include "document/blocks.hpp"
+#include "desk/project_document.hpp"
 #include "factors/combinations.hpp"
 #include "tables/result_table.hpp"
-#include "workbook/sheet.hpp"
 
 // A wall under the combinations of a code, for a window, a document and a workbook.
 
@@ -18,13 +17,6 @@ namespace korven::desk {
 
 /// The factors of all its combinations with their sources, a row a factor of a combination.
 [[nodiscard]] tables::Prospetto prospettoFonti(const factors::Norma& norma);
-
-/// Whose numbers a document tells.
-struct ProgettoDetto {
-    std::string file;            ///< path; may be empty
-    project::DatiProgetto dati;  ///< as they stand in the project, without the stiffness of the run
-    std::string data;            ///< "2026-11-22", of the document
-};
 
 /// The document: verdict, all tables that have rows, notes, the factors with their sources.
 [[nodiscard]] document::Documento documento(const factors::Combinazioni& combinazioni,

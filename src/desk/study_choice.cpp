@@ -3,14 +3,16 @@
 #include <algorithm>
 #include <utility>
 
-#include "base/code_page.hpp"
+#include "base/colon.hpp"
 #include "base/filled_text.hpp"
+#include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
 #include "project/typed_field.hpp"
 #include "studies/plan/fault_words.hpp"
 #include "studies/plan/study_fields.hpp"
 #include "studies/plan/typed_grid.hpp"
 #include "studies/plan/typed_samples.hpp"
+#include "studies/shown_columns.hpp"
 #include "studies/summary/row_conditions.hpp"
 
 namespace korven::desk {
@@ -51,32 +53,29 @@ std::pair<Varianti, std::string> varianti(const DatiProgetto& dati, const Studio
                .disegno = s.ipercubo ? studies::Disegno::ipercubo : studies::Disegno::casuale}));
 }
 
-// The names of the results that tell something by themselves, in the order of the columns.
-struct Parole {
-    const char* nome;
-    const char* cosa;  // Italian key
-    const char* unita;
-};
-constexpr Parole parole[] = {
-    {"spostamento_massimo_m", "Spostamento massimo", "m"},
-    {"momento_massimo_kNm", "momento massimo", "kN m/m"},
-    {"momento_minimo_kNm", "momento minimo", "kN m/m"},
-    {"taglio_massimo_kN", "Taglio massimo", "kN/m"},
-    {"momento_resistente_positivo_kNm", "Momento resistente, positivo", "kN m/m"},
-    {"momento_resistente_negativo_kNm", "Momento resistente, negativo", "kN m/m"},
-    {"uso_momento_positivo", "Uso, momento positivo", ""},
-    {"uso_momento_negativo", "Uso, momento negativo", ""},
-    {"Vrd2_kN", "Vrd2", "kN/m"},
-    {"Vrd3_kN", "Vrd3", "kN/m"},
-    {"uso_bielle", "Uso, bielle", ""},
-    {"uso_armatura_taglio", "Uso, armatura a taglio", ""},
-    {"passiva_usata", "Passiva usata", ""},
-    {"riduzione", "Riduzione della resistenza F", ""},
-    {"lunghezza_minima_m", "Lunghezza minima", "m"},
-};
+// A number of the shown unit as the condition has it; what is none stays, to be told of.
+std::string limite(const CriterioScritto& c) {
+    const double fattore = studies::valoreMostrato(c.risultato).unita.fattore;
+    const auto numero = base::leggiNumero(c.limite);
+    if (!numero || !base::soloUnNumero(c.limite)) return c.limite;
+    return base::testoNumero(*numero / fattore);
+}
 
-std::string conUnita(const std::string& cosa, const std::string& unita) {
-    return unita.empty() ? cosa : cosa + " [" + unita + "]";
+std::vector<std::string> condizioni(const StudioScritto& scritto) {
+    std::vector<std::string> tutte;
+    for (const CriterioScritto& c : scritto.fallisce)
+        tutte.push_back(c.risultato + c.segno + limite(c));
+    return tutte;
+}
+
+// Why the first criterion that is none is none.
+std::string difetto(const StudioScritto& scritto, const std::vector<std::string>& condizioni,
+                    const studies::RigheStudio& righe) {
+    const auto lette = studies::leggiCondizioni(condizioni, righe);
+    if (!lette.difetto) return {};
+    const auto quale = std::ranges::find(condizioni, lette.difetto->first) - condizioni.begin();
+    return base::conDuePunti(detto(scritto.fallisce[static_cast<std::size_t>(quale)]),
+                             studies::parole(lette.difetto->second));
 }
 
 }  // namespace
@@ -99,14 +98,15 @@ StudioLetto leggi(const DatiProgetto& dati, int nSeg, const StudioScritto& scrit
         studies::colonne(studies::tirantiPossibili(dati, varianti->campi()), scritto.sicurezza);
     pronto.righe = std::make_shared<const studies::RigheStudio>(varianti->campi(), colonne,
                                                                 studies::Formato::csv);
-    if (const auto lette = studies::leggiCondizioni(scritto.fallisce, *pronto.righe); lette.difetto)
-        return {nullptr, lette.difetto->first + ": " + studies::parole(lette.difetto->second)};
+    const auto scritte = condizioni(scritto);
+    if (auto sbagliata = difetto(scritto, scritte, *pronto.righe); !sbagliata.empty())
+        return {nullptr, std::move(sbagliata)};
     pronto.varianti = std::move(varianti);
     pronto.domanda = {.nSeg = nSeg, .riduzione = scritto.sicurezza, .lunghezza = scritto.sicurezza};
     pronto.conto = {.seme = scritto.seme,
                     .campioni = scritto.campioni,
                     .indipendenti = scritto.campioni && !scritto.ipercubo,
-                    .condizioni = scritto.fallisce};
+                    .condizioni = scritte};
     return {std::make_shared<const StudioPronto>(std::move(pronto)), {}};
 }
 
@@ -138,31 +138,24 @@ std::vector<CampoOfferto> campiOfferti(const DatiProgetto& dati, bool campioni) 
         const auto letto = studies::campoDiStudio(dati, nome);
         if (!std::holds_alternative<project::CampoNominato>(letto)) return;
         if (campioni && !studies::continuo(*c.campo)) return;
-        const std::string unita = project::traParentesi(c.campo->unita);
-        offerti.push_back({nome,
-                           base::conMaiuscola(traduttore(c.campo->cosa)) + " (" + nome + ")" +
-                               (unita.empty() ? "" : " " + unita),
-                           project::testoDaScrivere(dati, c)});
+        offerti.push_back(
+            {nome, studies::valoreMostrato(c).testa(), project::testoDaScrivere(dati, c)});
     });
     return offerti;
 }
 
-std::string titoloRisultato(const std::string& nome) {
-    for (const Parole& p : parole)
-        if (nome == p.nome) return conUnita(base::conMaiuscola(traduttore(p.cosa)), p.unita);
-    constexpr std::string_view tiro = "tiro_", kN = "_kN";
-    if (nome.starts_with(tiro) && nome.ends_with(kN))
-        return conUnita(riempito(traduttore("Tiro del tirante %1"),
-                                 {nome.substr(tiro.size(), nome.size() - tiro.size() - kN.size())}),
-                        "kN/m");
-    return nome;
+std::string detto(const CriterioScritto& criterio) {
+    const auto mostrato = studies::valoreMostrato(criterio.risultato);
+    std::string testo = mostrato.titolo + " " + criterio.segno + " " + criterio.limite;
+    if (!mostrato.unita.mostrata.empty()) testo.append(" ").append(mostrato.unita.mostrata);
+    return testo;
 }
 
 std::vector<RisultatoOfferto> risultatiOfferti(const DatiProgetto& dati, bool sicurezza) {
     std::vector<RisultatoOfferto> offerti;
     for (const studies::Colonna& c : studies::colonne(dati.nTiranti, sicurezza))
         if (c.specie == studies::Specie::numero || c.specie == studies::Specie::uso)
-            offerti.push_back({c.nome, titoloRisultato(c.nome)});
+            offerti.push_back({c.nome, studies::valoreMostrato(c.nome).testa()});
     return offerti;
 }
 

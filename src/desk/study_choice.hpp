@@ -22,6 +22,15 @@ struct VariazioneScritta {
     bool operator==(const VariazioneScritta&) const = default;
 };
 
+/// What makes a variant fail that stands, as it is typed.
+struct CriterioScritto {
+    std::string risultato;  ///< stable name
+    std::string segno;      ///< ">", ">=", "<", "<="
+    std::string limite;     ///< in the unit that the result is shown in
+
+    bool operator==(const CriterioScritto&) const = default;
+};
+
 /// A study as it is typed.
 struct StudioScritto {
     bool campioni = false;  ///< samples; else a grid
@@ -29,8 +38,8 @@ struct StudioScritto {
     std::uint64_t numero = 1000;  ///< of samples
     std::uint64_t seme = 1;
     bool ipercubo = false;
-    std::vector<std::string> fallisce;  ///< conditions: "spostamento_massimo_m>0.03"
-    bool sicurezza = false;             ///< strength reductions and shortest wall too
+    std::vector<CriterioScritto> fallisce;
+    bool sicurezza = false;  ///< strength reductions and shortest wall too
 
     bool operator==(const StudioScritto&) const = default;
 };
@@ -68,7 +77,7 @@ struct StudioLetto {
 /// The fields that a study may vary: each once, in the order of the project file.
 struct CampoOfferto {
     std::string nome;  ///< stable
-    std::string voce;  ///< "peso di volume (gammaN[1]) [kN/m³]", translated
+    std::string voce;  ///< "Peso di volume (gammaN[1]) [kN/m³]", translated
     std::string ora;   ///< its value in the project
 };
 [[nodiscard]] std::vector<CampoOfferto> campiOfferti(const project::DatiProgetto& dati,
@@ -77,12 +86,12 @@ struct CampoOfferto {
 /// The results of a study that are numbers.
 struct RisultatoOfferto {
     std::string nome;  ///< stable: "spostamento_massimo_m"
-    std::string voce;  ///< "spostamento massimo [m]", translated
+    std::string voce;  ///< "Spostamento massimo [mm]", translated
 };
 [[nodiscard]] std::vector<RisultatoOfferto> risultatiOfferti(const project::DatiProgetto& dati,
                                                              bool sicurezza);
 
-/// What a result is called, with its unit, translated; the name itself for one without words.
-[[nodiscard]] std::string titoloRisultato(const std::string& nome);
+/// "Spostamento massimo > 30 mm", translated.
+[[nodiscard]] std::string detto(const CriterioScritto& criterio);
 
 }  // namespace korven::desk

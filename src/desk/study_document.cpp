@@ -1,18 +1,15 @@
 #include <algorithm>
-#include <cmath>
-#include <filesystem>
+#include <iterator>
 #include <optional>
 #include <utility>
 
 #include "base/filled_text.hpp"
-#include "base/language.hpp"
 #include "base/translated_texts.hpp"
-#include "base/version.hpp"
 #include "desk/study_result.hpp"
-#include "dossier/identity.hpp"
+#include "desk/study_tables.hpp"
 #include "drawings/annex/scene_plot.hpp"
 #include "studies/charts/study_chart.hpp"
-#include "studies/summary/summary_text.hpp"
+#include "studies/shown_columns.hpp"
 
 namespace korven::desk {
 
@@ -23,16 +20,12 @@ using base::traduttore;
 using document::Documento;
 using document::Paragrafo;
 using document::Titolo;
-using tables::Cella;
 using tables::Prospetto;
 
 constexpr std::size_t righeDocumento = 200, righeCartella = 20'000;
 
-std::vector<std::string> titoli(const studies::RigheStudio& righe) {
-    std::vector<std::string> tutti(righe.teste());
-    for (std::size_t j = righe.campi(); j < tutti.size(); ++j)
-        tutti[j] = titoloRisultato(righe.nomi()[j]);
-    return tutti;
+std::string titoloRisultato(const std::string& nome) {
+    return studies::valoreMostrato(nome).testa();
 }
 
 // Of a result that the rows have.
@@ -46,7 +39,7 @@ std::optional<studies::GraficoStudio> grafico(const StudioFatto& fatto,
         fatto.numero() == 0)
         return {};
     return studies::GraficoStudio{.risultato = posto,
-                                  .titoli = titoli(*fatto.studio->righe),
+                                  .valori = studies::valoriMostrati(*fatto.studio->righe),
                                   .campioni = fatto.studio->scritto.campioni};
 }
 
@@ -68,30 +61,23 @@ std::optional<document::Figura> figura(const std::shared_ptr<const StudioFatto>&
         }};
 }
 
-Cella numero(double valore) {
-    if (!std::isfinite(valore)) return {};
-    return {.testo = studies::cinqueCifre(valore), .numero = valore};
-}
-
-Cella esito(const StudioFatto& fatto, std::span<const double> riga) {
-    const auto& righe = *fatto.studio->righe;
-    const auto causa = static_cast<std::size_t>(riga[righe.campi()]);
-    if (causa != static_cast<std::size_t>(safety::Causa::eseguito))
-        return tables::esito(std::string(studies::paroleCausa().at(causa)), true);
-    const bool fallita = std::ranges::any_of(fatto.conto.forma().condizioni,
-                                             [&](const auto& c) { return c.vale(riga); });
-    return tables::esito(traduttore(fallita ? "fallisce" : "in equilibrio"), fallita);
-}
-
-std::string impronta(const ProgettoDetto& progetto, const StudioFatto& fatto) {
-    return std::filesystem::path(progetto.file).filename().string() + " (SHA-256 " +
-           std::string(dossier::inBreve(dossier::impronta(fatto.studio->dati))) + ")";
-}
-
 std::string elenco(const std::vector<std::string>& parti) {
     std::string testo;
     for (const std::string& parte : parti) testo += (testo.empty() ? "" : ", ") + parte;
     return testo;
+}
+
+std::string elenco(const std::vector<CriterioScritto>& criteri) {
+    std::vector<std::string> parti;
+    std::ranges::transform(criteri, std::back_inserter(parti), detto);
+    return elenco(parti);
+}
+
+// Under a heading of its own, where it has rows.
+void aggiungi(Documento& d, Prospetto prospetto) {
+    if (prospetto.righe.empty()) return;
+    d.blocchi.emplace_back(Titolo{2, std::exchange(prospetto.titolo, {})});
+    d.blocchi.emplace_back(document::Tavola{std::move(prospetto)});
 }
 
 std::vector<std::string> domande(const StudioFatto& fatto) {
@@ -107,30 +93,6 @@ std::vector<std::string> domande(const StudioFatto& fatto) {
 }
 
 }  // namespace
-
-Prospetto prospetto(const StudioFatto& fatto, std::size_t massimo) {
-    const auto& righe = *fatto.studio->righe;
-    const auto& forma = fatto.conto.forma();
-    const auto teste = titoli(righe);
-    Prospetto p{.titolo = traduttore("Varianti"),
-                .colonne = {{.titolo = traduttore("Variante")},
-                            {.titolo = traduttore("Esito"), .numerica = false}}};
-    std::vector<std::size_t> posti;
-    for (std::size_t j = 0; j < righe.campi(); ++j) posti.push_back(j);
-    posti.insert(posti.end(), forma.risultati.begin(), forma.risultati.end());
-    for (const std::size_t j : posti) p.colonne.push_back({.titolo = teste[j]});
-    const auto quante = std::min<std::uint64_t>(massimo, fatto.numero());
-    for (std::uint64_t i = 0; i < quante; ++i) {
-        const auto riga = fatto.riga(i);
-        std::vector<Cella> celle = {tables::cella(static_cast<int>(i) + 1), esito(fatto, riga)};
-        for (const std::size_t j : posti) celle.push_back(numero(riga[j]));
-        p.righe.push_back(std::move(celle));
-    }
-    if (quante < fatto.numero())
-        p.note.push_back(riempito(traduttore("Le prime %1 varianti di %2; il CSV le ha tutte."),
-                                  {std::to_string(quante), std::to_string(fatto.numero())}));
-    return p;
-}
 
 Documento documentoGrafico(const std::shared_ptr<const StudioFatto>& fatto,
                            const std::string& risultato) {
@@ -157,37 +119,30 @@ document::Formato formatoGrafico(const StudioFatto& fatto, const std::string& ri
 
 Documento documento(const std::shared_ptr<const StudioFatto>& fatto, const std::string& risultato,
                     const ProgettoDetto& progetto) {
-    Documento d;
-    d.titolo = traduttore("Studio di varianti");
-    d.autore = std::string(base::nomeEVersione);
-    d.data = progetto.data;
-    d.lingua = base::siglaIso(base::linguaCorrente());
-    d.testata = {d.titolo, std::filesystem::path(progetto.file).filename().string()};
-    d.piede = d.autore + ", " + progetto.data;
-    d.blocchi.emplace_back(Titolo{1, d.titolo});
-    d.blocchi.emplace_back(Paragrafo{impronta(progetto, *fatto)});
+    Documento d = documentoDi(progetto, traduttore("Studio di varianti"));
     for (std::string& frase : domande(*fatto)) d.blocchi.emplace_back(Paragrafo{std::move(frase)});
     for (std::string& frase : frasi(*fatto)) d.blocchi.emplace_back(Paragrafo{std::move(frase)});
     if (auto f = figura(fatto, risultato)) {
         d.blocchi.emplace_back(Titolo{2, titoloRisultato(risultato)});
         d.blocchi.emplace_back(*std::move(f));
     }
-    Prospetto varianti = prospetto(*fatto, righeDocumento);
-    d.blocchi.emplace_back(Titolo{2, std::exchange(varianti.titolo, {})});
-    d.blocchi.emplace_back(document::Tavola{std::move(varianti)});
+    auto [distribuzioni, correlazioni] = prospettiCampioni(*fatto);
+    aggiungi(d, std::move(distribuzioni));
+    aggiungi(d, std::move(correlazioni));
+    aggiungi(d, prospettoVarianti(*fatto, righeDocumento));
     return d;
 }
 
 workbook::CartellaFogli cartella(const StudioFatto& fatto, const ProgettoDetto& progetto) {
-    workbook::CartellaFogli cartella;
-    cartella.titolo = traduttore("Studio di varianti");
-    cartella.piede = impronta(progetto, fatto) + " - " + std::string(base::nomeEVersione);
-    cartella.data = progetto.data;
-    Prospetto varianti = prospetto(fatto, righeCartella);
+    workbook::CartellaFogli cartella = cartellaDi(progetto, traduttore("Studio di varianti"));
+    Prospetto varianti = prospettoVarianti(fatto, righeCartella);
     for (auto dette : {domande(fatto), frasi(fatto)})
         varianti.note.insert(varianti.note.end(), dette.begin(), dette.end());
-    cartella.fogli.push_back(
-        {.nome = {}, .prospetto = std::move(varianti), .fonte = cartella.titolo});
+    auto [distribuzioni, correlazioni] = prospettiCampioni(fatto);
+    for (Prospetto* p : {&varianti, &distribuzioni, &correlazioni})
+        if (!p->righe.empty())
+            cartella.fogli.push_back(
+                {.nome = {}, .prospetto = std::move(*p), .fonte = cartella.titolo});
     return cartella;
 }
 

@@ -1,12 +1,13 @@
 #include "desk/study_result.hpp"
 
 #include <algorithm>
-#include <cmath>
+#include <iterator>
+#include <utility>
 
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
 #include "studies/assignments.hpp"
-#include "studies/summary/summary_text.hpp"
+#include "studies/shown_columns.hpp"
 
 namespace korven::desk {
 
@@ -54,7 +55,11 @@ std::shared_ptr<const StudioFatto> esegui(const std::shared_ptr<const StudioPron
 }
 
 std::vector<std::string> frasi(const StudioFatto& fatto) {
-    auto dette = fatto.conto.righe();
+    std::vector<std::string> valori, criteri;
+    for (const auto& uno : studies::valoriMostrati(*fatto.studio->righe))
+        valori.push_back(uno.titolo);
+    std::ranges::transform(fatto.studio->scritto.fallisce, std::back_inserter(criteri), detto);
+    auto dette = fatto.conto.fatti(std::move(valori), studies::causeMostrate(), std::move(criteri));
     if (!fatto.intero())
         dette.insert(dette.begin(),
                      traduttore("Lo studio è stato fermato: i numeri sono delle varianti "

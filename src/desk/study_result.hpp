@@ -6,12 +6,10 @@
 #include <string>
 #include <vector>
 
-#include "desk/code_document.hpp"
+#include "desk/project_document.hpp"
 #include "desk/study_choice.hpp"
 #include "document/blocks.hpp"
 #include "document/page.hpp"
-#include "tables/result_table.hpp"
-#include "workbook/sheet.hpp"
 
 namespace korven::desk {
 
@@ -40,10 +38,6 @@ struct StudioFatto {
 
 /// What the study comes to, a line a fact.
 [[nodiscard]] std::vector<std::string> frasi(const StudioFatto& fatto);
-
-/// A row a variant: its number, what became of it, its fields, the results that are numbers. Beyond
-/// `massimo` rows a note says so.
-[[nodiscard]] tables::Prospetto prospetto(const StudioFatto& fatto, std::size_t massimo);
 
 /// The bytes that `korven32c serie` writes of these variants.
 [[nodiscard]] std::string csv(const StudioFatto& fatto);

@@ -39,7 +39,7 @@ std::string testa(const project::CampoNominato& c) {
 
 RigheStudio::RigheStudio(std::span<const project::CampoNominato> campi,
                          std::vector<Colonna> colonne, Formato formato)
-    : colonne_(std::move(colonne)), formato_(formato) {
+    : campi_(campi.begin(), campi.end()), colonne_(std::move(colonne)), formato_(formato) {
     const bool csv = formato == Formato::csv;
     if (csv)
         testata_ = numero;
@@ -47,7 +47,6 @@ RigheStudio::RigheStudio(std::span<const project::CampoNominato> campi,
         inizio_.append("{\"").append(numero).append("\":");
     const auto aggiungi = [&](const std::string& nome, const std::string& testa) {
         nomi_.push_back(nome);
-        teste_.push_back(testa);
         chiavi_.push_back(csv ? "," : ",\"" + nome + "\":");
         if (csv) testata_ += ',' + testa;
     };

@@ -29,12 +29,10 @@ class RigheStudio {
     /// Values of a row.
     [[nodiscard]] std::size_t quanti() const { return chiavi_.size(); }
     [[nodiscard]] const std::vector<Colonna>& colonne() const { return colonne_; }
-    [[nodiscard]] std::size_t campi() const { return chiavi_.size() - colonne_.size(); }
+    [[nodiscard]] std::size_t campi() const { return campi_.size(); }
+    [[nodiscard]] const std::vector<project::CampoNominato>& nominati() const { return campi_; }
     /// The names of the values: of a field its code name.
     [[nodiscard]] const std::vector<std::string>& nomi() const { return nomi_; }
-
-    /// The same with their units, as a table or a drawing is headed.
-    [[nodiscard]] const std::vector<std::string>& teste() const { return teste_; }
 
     /// The words of a value of the row, by number; nullptr: it is a number.
     [[nodiscard]] const std::vector<std::string_view>* parole(std::size_t j) const;
@@ -59,9 +57,10 @@ class RigheStudio {
     void cella(std::size_t j, double valore, std::string& testo) const;
     [[nodiscard]] bool leggiCella(std::size_t j, std::string_view testo, double& valore) const;
 
+    std::vector<project::CampoNominato> campi_;
     std::vector<Colonna> colonne_;
     Formato formato_;
-    std::vector<std::string> nomi_, teste_;
+    std::vector<std::string> nomi_;
     std::vector<std::string> chiavi_;  ///< what stands before each value
     std::string inizio_, testata_;
 };

@@ -65,8 +65,23 @@ TEST(SceltaStudio, SaysWhatIsWrongWithWhatIsTyped) {
               "400001 varianti sono troppe per questa finestra, che ne tiene 100000: "
               "korven32c serie le scrive in un file.");
     s = griglia();
-    s.fallisce = {"spostamento_massimo_m>poco"};
-    EXPECT_NE(perche(s).find("poco"), std::string::npos) << perche(s);
+    s.fallisce = {{"taglio_massimo_kN", ">", "1"}, {"spostamento_massimo_m", ">", "poco"}};
+    EXPECT_TRUE(perche(s).starts_with("Spostamento massimo > poco mm: ")) << perche(s);
+}
+
+// Displacements are shown in millimetres and uses in percent, the rows have metres and shares.
+TEST(SceltaStudio, TakesCriteriaInTheUnitsThatAreShown) {
+    auto s = griglia();
+    s.fallisce = {{"spostamento_massimo_m", ">", "30"},
+                  {"uso_momento_positivo", ">=", "95.5"},
+                  {"tiro_1_kN", "<", "80"}};
+    const auto letto = leggi(muro(), 50, s);
+    ASSERT_NE(letto.studio, nullptr) << letto.perche;
+    EXPECT_EQ(letto.studio->conto.condizioni,
+              (std::vector<std::string>{"spostamento_massimo_m>0.03", "uso_momento_positivo>=0.955",
+                                        "tiro_1_kN<80"}));
+    EXPECT_EQ(detto(s.fallisce[0]), "Spostamento massimo > 30 mm");
+    EXPECT_EQ(detto(s.fallisce[1]), "Uso, momento positivo >= 95.5 %");
 }
 
 TEST(SceltaStudio, OffersFieldsThatCanVaryWithTheirValues) {
@@ -102,8 +117,6 @@ TEST(SceltaStudio, OffersTheResultsThatTheStudyHas) {
             EXPECT_EQ(std::ranges::count(letto.studio->righe->nomi(), r.nome), 1) << r.nome;
         }
     }
-    EXPECT_EQ(titoloRisultato("tiro_2_kN"), "Tiro del tirante 2 [kN/m]");
-    EXPECT_EQ(titoloRisultato("spostamento_massimo_m"), "Spostamento massimo [m]");
 }
 
 TEST(SceltaStudio, NamesTheNumbersOfALaw) {

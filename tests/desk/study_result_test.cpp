@@ -5,26 +5,14 @@
 #include "live/wall.hpp"
 #include "project/program_numbers.hpp"
 #include "studies/assignments.hpp"
-#include "support/wall_files.hpp"
+#include "support/study_desk.hpp"
 
 namespace korven::desk {
 namespace {
 
-project::DatiProgetto muro() {
-    return korven::test::leggiMuro(KORVEN_EXAMPLES "/diaframma_due_ordini.kvd");
-}
-
-StudioScritto lunghezze() {
-    StudioScritto s;
-    s.variazioni = {{"lunghezzaParatia", 0, {"16", "20", "1"}}};
-    return s;
-}
-
-std::shared_ptr<const StudioFatto> fatto(const StudioScritto& s) {
-    const auto letto = leggi(muro(), 50, s);
-    EXPECT_NE(letto.studio, nullptr) << letto.perche;
-    return esegui(letto.studio, 2, [](std::uint64_t) { return true; });
-}
+using test::fatto;
+using test::lunghezze;
+using test::muro;
 
 // Each row is what the wall of these data comes to by itself.
 TEST(RisultatoStudio, OfEachVariantIsThatOfItsWall) {
@@ -58,22 +46,6 @@ TEST(RisultatoStudio, KeepsWhatIsDoneWhereItIsStopped) {
                                 " in equilibrio in tutte le fasi.");
 }
 
-TEST(RisultatoStudio, IsATableWithARowForEachVariant) {
-    auto s = lunghezze();
-    s.fallisce = {"spostamento_massimo_m>0"};
-    const auto f = fatto(s);
-    const auto p = prospetto(*f, 3);
-    ASSERT_EQ(p.righe.size(), 3U);
-    EXPECT_EQ(p.note, std::vector<std::string>{"Le prime 3 varianti di 5; il CSV le ha tutte."});
-    EXPECT_EQ(p.colonne[0].titolo, "Variante");
-    EXPECT_EQ(p.colonne[2].titolo, "lunghezzaParatia [m]");
-    EXPECT_EQ(p.righe[2][0].testo, "3");
-    EXPECT_EQ(p.righe[2][1].testo, "fallisce") << "it moves";
-    EXPECT_EQ(p.righe[2][2].numero, 18);
-    EXPECT_TRUE(prospetto(*f, 5).note.empty());
-    EXPECT_EQ(prospetto(*fatto(lunghezze()), 5).righe[0][1].testo, "in equilibrio");
-}
-
 TEST(RisultatoStudio, IsDrawnForAResultThatItHas) {
     const auto f = fatto(lunghezze());
     EXPECT_EQ(documentoGrafico(f, "momento_massimo_kNm").blocchi.size(), 1U);
@@ -91,6 +63,37 @@ TEST(RisultatoStudio, IsDrawnForAResultThatItHas) {
     ASSERT_EQ(libro.fogli.size(), 1U);
     EXPECT_EQ(libro.fogli[0].prospetto.righe.size(), 5U);
     EXPECT_EQ(libro.fogli[0].prospetto.note[0], "Varia: lunghezzaParatia=16:20:1.");
+}
+
+TEST(RisultatoStudio, OfSamplesHasTablesOfTheirSpread) {
+    StudioScritto s;
+    s.campioni = true;
+    s.numero = 20;
+    s.variazioni = {{"phiStrato[1]", 0, {"32", "2", ""}}};
+    const auto f = fatto(s);
+    const ProgettoDetto progetto{"/lavori/muro.kvd", muro(), "2026-01-31"};
+    const auto d = documento(f, "momento_massimo_kNm", progetto);
+    EXPECT_EQ(std::ranges::count_if(d.blocchi,
+                                    [](const auto& blocco) {
+                                        return std::holds_alternative<document::Tavola>(blocco);
+                                    }),
+              3);
+    for (const auto& blocco : d.blocchi) {
+        const auto* paragrafo = std::get_if<document::Paragrafo>(&blocco);
+        EXPECT_FALSE(paragrafo != nullptr && paragrafo->testo.starts_with("Valori;"))
+            << "no table as lines";
+    }
+    EXPECT_EQ(cartella(*f, progetto).fogli.size(), 3U);
+}
+
+// Verdicts and results have words, not the names of the columns of a file.
+TEST(RisultatoStudio, IsToldInWords) {
+    auto s = lunghezze();
+    s.variazioni[0].numeri = {"8", "16", "8"};
+    s.fallisce = {{"spostamento_massimo_m", ">", "0"}};
+    const auto dette = frasi(*fatto(s));
+    EXPECT_EQ(std::ranges::count(dette, "  in equilibrio con Spostamento massimo > 0 mm: 1"), 1);
+    for (const std::string& una : dette) EXPECT_EQ(una.find('_'), std::string::npos) << una;
 }
 
 TEST(VariantePresa, IsTheProjectWithItsFields) {

@@ -190,7 +190,7 @@ int disegnaRisultato(const Opzioni& opzioni, const base::Disco& disco,
     const auto quale = std::find(nomi.begin(), nomi.end(), opzioni.serie.grafico);
     const studies::GraficoStudio grafico{
         .risultato = static_cast<std::size_t>(quale - nomi.begin()),
-        .titoli = righe.teste(),
+        .valori = studies::valoriMostrati(righe),
         .campioni = opzioni.serie.campioni > 0};
     return disegna(opzioni.disegno, disco, esito, [&] {
         const auto foglio = studies::formatoGrafico(conto.riassunto(), conto.forma(), grafico);

@@ -236,8 +236,9 @@ desk::StudioScritto FormaStudio::scritto() const {
     s.ipercubo = s.campioni && ipercubo_->isChecked();
     for (const Criterio& c : criteri_)
         if (const QString nome = c.risultato->currentData().toString(); !nome.isEmpty())
-            s.fallisce.push_back(
-                (nome + c.segno->currentText() + c.limite->text().trimmed()).toStdString());
+            s.fallisce.push_back({.risultato = nome.toStdString(),
+                                  .segno = c.segno->currentText().toStdString(),
+                                  .limite = c.limite->text().trimmed().toStdString()});
     s.sicurezza = sicurezza_->isChecked();
     return s;
 }

@@ -105,6 +105,9 @@ QWidget* FinestraStudio::fareRisultati(QWidget* meta) {
     pagine_->addTab(grafico_, tradotto("Grafico"));
     varianti_ = pagine_->aggiungi("varianti", "Varianti");
     riassunto_ = pagine_->aggiungi("riassunto", "Riassunto");
+    distribuzioni_ = pagine_->aggiungi("distribuzioni", "Distribuzioni");
+    correlazioni_ = pagine_->aggiungi("correlazioni", "Correlazioni");
+    seguiCampioni({});
     colonna->addWidget(pagine_, 1);
     connect(risultato_, &QComboBox::activated, this, [this] { disegna(); });
     connect(varianti_, &QTableView::activated, this, &FinestraStudio::prendi);
@@ -212,11 +215,21 @@ void FinestraStudio::riempi() {
          desk::risultatiOfferti(fatto_->studio->dati, fatto_->studio->scritto.sicurezza))
         risultato_->addItem(qt(uno.voce), qt(uno.nome));
     risultato_->setCurrentIndex(std::max(0, risultato_->findData(scelto)));
-    auto varianti = desk::prospetto(*fatto_, righeTabella);
+    auto varianti = desk::prospettoVarianti(*fatto_, righeTabella);
     nota_->setText(inRighe(insieme(varianti.note)));
     varianti_->mostra(std::move(varianti));
     riassunto_->mostra({.note = desk::frasi(*fatto_)});
+    seguiCampioni(desk::prospettiCampioni(*fatto_));
     disegna();
+}
+
+// Their pages are there for samples alone.
+void FinestraStudio::seguiCampioni(desk::ProspettiCampioni prospetti) {
+    for (auto [vista, prospetto] : {std::pair(distribuzioni_, &prospetti.distribuzioni),
+                                    std::pair(correlazioni_, &prospetti.correlazioni)}) {
+        pagine_->setTabVisible(pagine_->indexOf(vista), !prospetto->righe.empty());
+        vista->mostra(std::move(*prospetto));
+    }
 }
 
 void FinestraStudio::disegna() {

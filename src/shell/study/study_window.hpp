@@ -5,6 +5,7 @@
 #include <string>
 
 #include "base/dialogo.hpp"
+#include "desk/study_tables.hpp"
 #include "shell/companions/companion_window.hpp"
 #include "shell/live/live_view.hpp"
 #include "shell/study/background_study.hpp"
@@ -57,6 +58,7 @@ class FinestraStudio : public FinestraCompagna {
     void segui();
     void avanza();
     void riempi();
+    void seguiCampioni(desk::ProspettiCampioni prospetti);
     void disegna();
     void prendi(const QModelIndex& dove);
     [[nodiscard]] std::string risultato() const;
@@ -73,7 +75,8 @@ class FinestraStudio : public FinestraCompagna {
     QComboBox* risultato_ = nullptr;
     PagineProspetti* pagine_ = nullptr;
     VistaDocumento* grafico_ = nullptr;
-    VistaProspetto *varianti_ = nullptr, *riassunto_ = nullptr;
+    VistaProspetto *varianti_ = nullptr, *riassunto_ = nullptr, *distribuzioni_ = nullptr,
+                   *correlazioni_ = nullptr;
     QWidget* attesa_ = nullptr;  // shown while a study is being computed
     QProgressBar* barra_ = nullptr;
     QLabel* nota_ = nullptr;

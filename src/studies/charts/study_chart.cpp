@@ -15,9 +15,9 @@
 #include "drawings/annex/scene_plot.hpp"
 #include "drawings/charts/charts.hpp"
 #include "plot/plot_engine.hpp"
-#include "project/units.hpp"
 #include "scene/canvas.hpp"
 #include "scene/text_measure.hpp"
+#include "studies/summary/summary_tables.hpp"
 
 namespace korven::studies {
 
@@ -67,7 +67,7 @@ class Foglio {
           scena_(drawings::scenaCarta(drawings::misuraCarta(larghezza, altezza))),
           tela_(scena_.larghezza, scena_.altezza, testi_) {
         assert(std::ranges::count(forma.risultati, grafico.risultato) > 0);
-        assert(grafico.titoli.size() == forma.valori);
+        assert(grafico.valori.size() == forma.valori);
     }
 
     scene::Scena disegna() {
@@ -82,13 +82,19 @@ class Foglio {
     }
 
  private:
-    [[nodiscard]] const std::string& titolo(std::size_t posto) const {
-        return grafico_.titoli[posto];
+    [[nodiscard]] std::string titolo(std::size_t posto) const {
+        return grafico_.valori[posto].testa();
+    }
+    // The kept values of a place as they are shown.
+    [[nodiscard]] std::vector<double> valori(std::size_t posto) const {
+        auto tutti = r_.tenuti(posto);
+        for (double& v : tutti) v = grafico_.valori[posto].mostrato(v);
+        return tutti;
     }
 
     void curve(std::size_t ascissa, std::optional<std::size_t> parametro) {
-        const auto x = r_.tenuti(ascissa), y = r_.tenuti(grafico_.risultato);
-        const auto p = parametro ? r_.tenuti(*parametro) : std::vector<double>(x.size());
+        const auto x = valori(ascissa), y = valori(grafico_.risultato);
+        const auto p = parametro ? valori(*parametro) : std::vector<double>(x.size());
         std::map<double, std::vector<std::pair<double, double>>> gruppi;
         for (std::size_t i = 0; i < x.size(); ++i) gruppi[p[i]].emplace_back(x[i], y[i]);
         GraficoCurve dati{
@@ -121,11 +127,10 @@ class Foglio {
 
     void istogramma(const Statistica& s, const Riquadro& posto) {
         drawings::Istogramma dati{
-            titolo(s.posto), base::traduttore("varianti"), r_.tenuti(s.posto), {}};
+            titolo(s.posto), base::traduttore("varianti"), valori(s.posto), {}};
         for (std::size_t k = 0; s.quantili && k < quoteQuantili.size(); ++k)
-            dati.segni.push_back(
-                {(*s.quantili)[k],
-                 base::testoNumero(mostrato(project::unita::percento, quoteQuantili[k])) + " %"});
+            dati.segni.push_back({grafico_.valori[s.posto].mostrato((*s.quantili)[k]),
+                                  nomeQuantile(quoteQuantili[k])});
         disegnaIstogramma(tela_, posto, dati);
     }
 
@@ -136,7 +141,7 @@ class Foglio {
     }
 
     void nuvola(std::size_t campo, const Riquadro& posto) {
-        const auto x = r_.tenuti(campo), y = r_.tenuti(grafico_.risultato);
+        const auto x = valori(campo), y = valori(grafico_.risultato);
         drawings::Nuvola dati{titolo(campo), titolo(grafico_.risultato), {}};
         for (std::size_t i = 0; i < x.size(); ++i) dati.punti.push_back({x[i], y[i]});
         disegnaNuvola(tela_, posto, dati);

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <string>
 #include <vector>
 
 #include "scene/picture.hpp"
+#include "studies/shown_columns.hpp"
 #include "studies/summary/summary.hpp"
 
 // What a study shows of one of its results, drawn with the plot engine.
@@ -12,9 +12,9 @@ namespace korven::studies {
 
 /// What the chart of a result needs beside the rows that a summary keeps.
 struct GraficoStudio {
-    std::size_t risultato = 0;        ///< place in a row, one of `FormaRiga::risultati`: asserted
-    std::vector<std::string> titoli;  ///< of all places of a row, with their units
-    bool campioni = false;            ///< the variants are random
+    std::size_t risultato = 0;  ///< place in a row, one of `FormaRiga::risultati`: asserted
+    std::vector<ValoreMostrato> valori{};  ///< of all places of a row
+    bool campioni = false;                 ///< the variants are random
 };
 
 /// A size at which the chart can be read [cm].

@@ -60,6 +60,12 @@ FormaRiga formaDi(const RigheStudio& righe, const std::vector<std::string>& cond
     return f;
 }
 
+std::vector<std::string> uniti(std::vector<std::string> prima,
+                               const std::vector<std::string>& dopo) {
+    prima.insert(prima.end(), dopo.begin(), dopo.end());
+    return prima;
+}
+
 }  // namespace
 
 ContoStudio::ContoStudio(const RigheStudio& righe, DomandaConto domanda)
@@ -98,7 +104,7 @@ void ContoStudio::controllate(const std::vector<Controllata>& altre) {
     }
 }
 
-std::vector<std::string> ContoStudio::righe() const {
+std::vector<std::string> ContoStudio::conteggi() const {
     std::vector<std::string> testo;
     testo.push_back(
         riempito(traduttore("%1 varianti, %2 in equilibrio in tutte le fasi."),
@@ -108,14 +114,29 @@ std::vector<std::string> ContoStudio::righe() const {
             riempito(traduttore("%1 valori erano oltre i limiti del loro campo e sono stati posti "
                                 "al limite."),
                      {std::to_string(limitati_)}));
-    const auto sue = righeRiassunto(riassunto_, forma_,
-                                    {.valori = nomi_,
-                                     .motivi = paroleCausa(),
-                                     .condizioni = domanda_.condizioni,
-                                     .campioni = domanda_.campioni,
-                                     .indipendenti = domanda_.indipendenti});
-    testo.insert(testo.end(), sue.begin(), sue.end());
     return testo;
+}
+
+NomiRiassunto ContoStudio::nomi() const {
+    return {.valori = nomi_,
+            .motivi = {paroleCausa().begin(), paroleCausa().end()},
+            .condizioni = domanda_.condizioni,
+            .campioni = domanda_.campioni,
+            .indipendenti = domanda_.indipendenti};
+}
+
+std::vector<std::string> ContoStudio::righe() const {
+    return uniti(conteggi(), righeRiassunto(riassunto_, forma_, nomi()));
+}
+
+std::vector<std::string> ContoStudio::fatti(std::vector<std::string> valori,
+                                            std::vector<std::string> cause,
+                                            std::vector<std::string> condizioni) const {
+    NomiRiassunto loro = nomi();
+    loro.valori = std::move(valori);
+    loro.motivi = std::move(cause);
+    loro.condizioni = std::move(condizioni);
+    return uniti(conteggi(), fattiRiassunto(riassunto_, forma_, loro));
 }
 
 std::vector<std::string> ContoStudio::righeControllo() const {

@@ -34,8 +34,16 @@ class ContoStudio {
 
     /// True if a variant has other numbers both ways.
     [[nodiscard]] bool diverse() const { return diverse_ > 0; }
-    /// What is told at the end, a line a fact, translated.
+    /// What is told at the end, a line a fact, translated, with the stable names of fields, results
+    /// and verdicts; of samples with tables for a font of one width.
     [[nodiscard]] std::vector<std::string> righe() const;
+    /// The facts alone, with names of the caller's.
+    /// @param valori      of a row
+    /// @param cause       by `safety::Causa`
+    /// @param condizioni  of those that were asked for
+    [[nodiscard]] std::vector<std::string> fatti(std::vector<std::string> valori,
+                                                 std::vector<std::string> cause,
+                                                 std::vector<std::string> condizioni) const;
     /// What is told of the variants that were computed both ways, with the first of those that
     /// differ; empty if there were none.
     [[nodiscard]] std::vector<std::string> righeControllo() const;
@@ -45,6 +53,8 @@ class ContoStudio {
 
  private:
     [[nodiscard]] EsitoRiga esito(std::span<const double> valori) const;
+    [[nodiscard]] std::vector<std::string> conteggi() const;
+    [[nodiscard]] NomiRiassunto nomi() const;
 
     DomandaConto domanda_;
     std::vector<std::string> nomi_;

@@ -11,8 +11,8 @@
 #include "base/filled_text.hpp"
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
-#include "project/units.hpp"
 #include "studies/columns.hpp"
+#include "studies/summary/summary_tables.hpp"
 
 namespace korven::studies {
 
@@ -103,44 +103,22 @@ void governo(const Riassunto& r, const FormaRiga& forma, const NomiRiassunto& no
                      {numero(r.superano())}));
 }
 
-std::string quota(double p) {
-    return base::testoNumero(mostrato(project::unita::percento, p)) + " %";
+std::string dueCifre(const std::optional<double>& valore) {
+    constexpr int decimali = 2;
+    return valore ? base::testoDecimali(*valore, decimali) : "-";
+}
+std::string cinqueCifreONessuno(const std::optional<double>& valore) {
+    return valore ? cinqueCifre(*valore) : "-";
 }
 
-Tabella distribuzioni(const std::vector<Statistica>& tutte, const NomiRiassunto& nomi) {
-    Tabella tabella{{"", traduttore("varianti"), traduttore("media"), "s", "min"}};
-    for (const double p : quoteQuantili) tabella[0].push_back(quota(p));
-    tabella[0].emplace_back("max");
-    for (const auto& s : tutte) {
-        const auto& m = s.momenti;
-        if (m.numero() == 0) continue;
-        Righe riga{nomi.valori[s.posto], numero(m.numero()), cinqueCifre(m.media()),
-                   cinqueCifre(m.scartoTipo()), cinqueCifre(m.minimo())};
-        for (std::size_t k = 0; k < quoteQuantili.size(); ++k)
-            riga.push_back(s.quantili ? cinqueCifre((*s.quantili)[k]) : "-");
-        riga.push_back(cinqueCifre(m.massimo()));
-        tabella.push_back(std::move(riga));
-    }
-    return tabella;
-}
-
-std::string dueCifre(const std::optional<double>& rango) {
-    char testo[16];
-    if (!rango) return "-";
-    const auto fine =
-        std::to_chars(std::begin(testo), std::end(testo), *rango, std::chars_format::fixed, 2);
-    return {testo, fine.ptr};
-}
-
-Tabella correlazioni(const std::vector<Statistica>& tutte, const FormaRiga& forma,
-                     const NomiRiassunto& nomi) {
+// With the names of its rows, as texts.
+Tabella inTesti(const TavolaRiassunto& tavola, const NomiRiassunto& nomi,
+                std::string (*testo)(const std::optional<double>&)) {
     Tabella tabella{{""}};
-    for (std::size_t j = 0; j < forma.campi; ++j) tabella[0].push_back(nomi.valori[j]);
-    for (const auto& s : tutte) {
-        const bool una = std::ranges::any_of(s.ranghi, [](const auto& r) { return r.has_value(); });
-        if (s.posto < forma.campi || !una) continue;
-        Righe riga{nomi.valori[s.posto]};
-        std::ranges::transform(s.ranghi, std::back_inserter(riga), dueCifre);
+    tabella[0].insert(tabella[0].end(), tavola.testa.begin(), tavola.testa.end());
+    for (const auto& [posto, valori] : tavola.righe) {
+        Righe riga{nomi.valori[posto]};
+        std::ranges::transform(valori, std::back_inserter(riga), testo);
         tabella.push_back(std::move(riga));
     }
     return tabella;
@@ -161,7 +139,7 @@ std::string cinqueCifre(double valore) {
     return {testo, fine.ptr};
 }
 
-std::vector<std::string> righeRiassunto(const Riassunto& riassunto, const FormaRiga& forma,
+std::vector<std::string> fattiRiassunto(const Riassunto& riassunto, const FormaRiga& forma,
                                         const NomiRiassunto& nomi) {
     assert(nomi.valori.size() == forma.valori);
     assert(nomi.condizioni.size() == forma.condizioni.size());
@@ -171,16 +149,20 @@ std::vector<std::string> righeRiassunto(const Riassunto& riassunto, const FormaR
     cadute(riassunto, nomi, testo);
     superamenti(riassunto, nomi, testo);
     governo(riassunto, forma, nomi, testo);
-    if (!nomi.campioni) return testo;
+    return testo;
+}
 
-    const auto tutte = riassunto.statistiche();
-    const Tabella valori = distribuzioni(tutte, nomi), ranghi = correlazioni(tutte, forma, nomi);
+std::vector<std::string> righeRiassunto(const Riassunto& riassunto, const FormaRiga& forma,
+                                        const NomiRiassunto& nomi) {
+    Righe testo = fattiRiassunto(riassunto, forma, nomi);
+    if (!nomi.campioni || riassunto.numero() == 0) return testo;
+    const auto tavole = tavoleRiassunto(riassunto, std::span(nomi.valori).first(forma.campi));
     testo.push_back(riempito(traduttore("Valori; quantili e correlazioni da %1 varianti:"),
                              {numero(riassunto.tenute())}));
-    allinea(valori, testo);
-    if (ranghi.size() > 1) {
+    allinea(inTesti(tavole.distribuzioni, nomi, cinqueCifreONessuno), testo);
+    if (!tavole.correlazioni.righe.empty()) {
         testo.push_back(traduttore("Correlazione tra i ranghi (Spearman):"));
-        allinea(ranghi, testo);
+        allinea(inTesti(tavole.correlazioni, nomi, dueCifre), testo);
     }
     return testo;
 }

@@ -2,7 +2,6 @@
 
 #include <span>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "studies/summary/summary.hpp"
@@ -12,16 +11,20 @@ namespace korven::studies {
 /// What the places of a row and the numbers of a summary are called.
 struct NomiRiassunto {
     std::vector<std::string> valori;        ///< of a row
-    std::vector<std::string_view> motivi;   ///< by `EsitoRiga::motivo`
+    std::vector<std::string> motivi;        ///< by `EsitoRiga::motivo`
     std::vector<std::string> condizioni{};  ///< of `FormaRiga::condizioni`, as typed
     bool campioni = false;      ///< the variants are samples: how often they fail is a probability
     bool indipendenti = false;  ///< and have no part in each other: it has an interval
 };
 
 /// What a study comes to, a line a fact, translated: what fails and how probable that is, where
-/// walls fall, what governs those that stand; of samples also how the values of fields and results
-/// are spread, and how they go together.
+/// walls fall, what governs those that stand.
 /// @pre the names are those of the summary's row: asserted
+[[nodiscard]] std::vector<std::string> fattiRiassunto(const Riassunto& riassunto,
+                                                      const FormaRiga& forma,
+                                                      const NomiRiassunto& nomi);
+/// The same, and of samples also how the values of fields and results are spread, and how they go
+/// together, as tables for a font of one width.
 [[nodiscard]] std::vector<std::string> righeRiassunto(const Riassunto& riassunto,
                                                       const FormaRiga& forma,
                                                       const NomiRiassunto& nomi);

@@ -96,8 +96,10 @@ TEST_F(FinestraStudioTest, ComputesAGridWithTableChartAndSummary) {
     EXPECT_EQ(righe(), 5U);
     EXPECT_FALSE(c<VistaProspetto>("riassunto").modello().prospetto().note.empty());
     EXPECT_EQ(c<VistaDocumento>("anteprima").pagine(), 1);
+    auto& pagine = c<QTabWidget>("pagine");
+    EXPECT_FALSE(pagine.isTabVisible(pagine.indexOf(&c<VistaProspetto>("distribuzioni"))));
     auto& risultato = c<QComboBox>("risultato");
-    EXPECT_EQ(risultato.currentText(), "Spostamento massimo [m]");
+    EXPECT_EQ(risultato.currentText(), "Spostamento massimo [mm]");
     EXPECT_TRUE(c<QPushButton>("esporta").isEnabled());
 }
 
@@ -109,6 +111,12 @@ TEST_F(FinestraStudioTest, ComputesSamplesByALaw) {
     EXPECT_FALSE(c<QLineEdit>("numero1_3").isVisible());
     calcola();
     EXPECT_EQ(righe(), 1000U);
+    auto& pagine = c<QTabWidget>("pagine");
+    for (const char* nome : {"distribuzioni", "correlazioni"}) {
+        auto& tabella = c<VistaProspetto>(nome);
+        EXPECT_TRUE(pagine.isTabVisible(pagine.indexOf(&tabella))) << nome;
+        EXPECT_GT(tabella.modello().rowCount(), 0) << nome;
+    }
 }
 
 TEST_F(FinestraStudioTest, StopsAndKeepsWhatIsDone) {

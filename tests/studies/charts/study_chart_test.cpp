@@ -20,8 +20,8 @@ FormaRiga forma(std::size_t campi) {
 GraficoStudio grafico(std::size_t campi, bool campioni) {
     GraficoStudio g{campi, {}, campioni};
     for (std::size_t j = 0; j < campi; ++j)
-        g.titoli.push_back(std::string(1, 'a' + static_cast<char>(j)));
-    g.titoli.emplace_back("r");
+        g.valori.push_back({std::string(1, 'a' + static_cast<char>(j))});
+    g.valori.push_back({"r"});
     return g;
 }
 

@@ -46,6 +46,11 @@ TEST(TestoRiassunto, TellsOfSamplesHowTheyFailAndHowTheyAreSpread) {
     for (std::size_t i = 0; i < attese.size(); ++i) EXPECT_EQ(righe[i], attese[i]);
 }
 
+TEST(TestoRiassunto, OfFactsAloneHasNoTables) {
+    const auto fatti = fattiRiassunto(tre(), forma, nomi);
+    EXPECT_EQ(fatti.back(), "  uso_b: 1");
+}
+
 TEST(TestoRiassunto, HasNoIntervalForAHypercubeAndNoProbabilityForAGrid) {
     auto altri = nomi;
     altri.indipendenti = false;
