@@ -13,7 +13,8 @@ inline std::string guidaPiccola() {
            "@capitolo Primo\r\n"
            "@pagina 0 inizio\r\nInizio\r\nindice\r\n"
            "<p>Vai a <a href=\"strati#campo4\">Gamma</a></p>\r\n"
-           "@pagina 3 apri\r\nApri\r\naprire\r\n<p>Un progetto.</p>\r\n"
+           "@pagina 3 apri\r\nApri\r\naprire\r\n<p>Un progetto: <a "
+           "href=\"documento:docs/theory\">teoria</a></p>\r\n"
            "@capitolo Secondo\r\n"
            "@pagina 5 strati\r\nStrati\r\nterreno\r\n" +
            lunga + "<h3><a name=\"campo4\"></a>Gamma</h3>\r\n<p>Densit\xE0.</p>\r\n" + lunga +

@@ -116,6 +116,11 @@ TEST(HelpSource, RefusesLinksThatLeadNowhere) {
               "<p><a href=\"p#campo3\">x</a>");
 }
 
+TEST(HelpSource, LetsALinkLeadToADocument) {
+    EXPECT_EQ(html("[[documento:docs/theory|x]]"),
+              "<p><a href=\"documento:docs/theory\">x</a></p>\n");
+}
+
 TEST(HelpSource, BecomesTheFileOfTheProgram) {
     const auto pages =
         readHelpSource("g.txt",

@@ -46,13 +46,14 @@ fs::path prefisso(const fs::path& eseguibili) {
 }
 
 struct Installazione {
-    fs::path dati, programmi;
+    fs::path dati, programmi, documenti;
 };
 
 std::optional<Installazione> installazione() {
     const fs::path radice = prefisso(cartellaEseguibile());
     if (radice.empty()) return {};
-    Installazione trovata{radice / "share" / "korven32", radice / "lib" / "korven32"};
+    Installazione trovata{radice / "share" / "korven32", radice / "lib" / "korven32",
+                          radice / "share" / "doc" / "korven32-data" / "html"};
     std::error_code errore;
     if (!fs::is_directory(trovata.dati, errore)) return {};
     return trovata;
@@ -124,6 +125,20 @@ std::string fileProgramma(std::string_view nome) {
     for (const std::string& cartella : {prima ? dati : programma, prima ? programma : dati})
         if (const auto file = cerca(cartella, nome)) return *file;
     return (fs::path(programma) / nome).string();
+}
+
+std::string fileDocumento(std::string_view nome) {
+    const std::string intero(nome);
+    std::error_code errore;
+    if (const auto installata = installazione()) {
+        const auto pagina =
+            installata->documenti / ((nome == "README" ? "index" : intero) + ".html");
+        return fs::exists(pagina, errore) ? pagina.string() : std::string();
+    }
+    const fs::path primo = fs::canonical(fs::path(cartellaDati()) / "documenti.md", errore);
+    if (errore) return {};
+    const auto sorgente = primo.parent_path() / (intero + ".md");
+    return fs::exists(sorgente, errore) ? sorgente.string() : std::string();
 }
 
 }  // namespace korven::base

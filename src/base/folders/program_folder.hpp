@@ -43,4 +43,9 @@ void impostaCartellaUtente(std::string cartella);
 /// When there is none, or the folder can't be listed, the path where it would be written.
 [[nodiscard]] std::string fileProgramma(std::string_view nome);
 
+/// Path of a document of the program, for reading: "README", "docs/theory". Of an installed program
+/// the page that a browser reads; of one that was built in place the source, to which documenti.md
+/// beside the program leads. Empty when there is none.
+[[nodiscard]] std::string fileDocumento(std::string_view nome);
+
 }  // namespace korven::base

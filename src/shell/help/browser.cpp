@@ -58,6 +58,12 @@ const help::PaginaGuida* VistaGuida::paginaDi(const QUrl& indirizzo) const {
     return help::paginaDiNome(guida_, indirizzo.path().mid(1).toStdString());
 }
 
+void VistaGuida::doSetSource(const QUrl& indirizzo, QTextDocument::ResourceType tipo) {
+    if (indirizzo.scheme() != QLatin1String("documento"))
+        return QTextBrowser::doSetSource(indirizzo, tipo);
+    if (documento) documento(indirizzo.path().toStdString());
+}
+
 QVariant VistaGuida::loadResource(int, const QUrl& indirizzo) {
     const auto* pagina = paginaDi(indirizzo);
     if (pagina == nullptr) return {};

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QTextBrowser>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -28,7 +29,11 @@ class VistaGuida : public QTextBrowser {
     void ingrandisci(int passi);
     [[nodiscard]] int ingrandimento() const { return ingrandimento_; }
 
+    /// Told of a link to a document of the program ("README", "docs/theory"); the page stays.
+    std::function<void(const std::string& nome)> documento;
+
  protected:
+    void doSetSource(const QUrl& indirizzo, QTextDocument::ResourceType tipo) override;
     QVariant loadResource(int tipo, const QUrl& indirizzo) override;
     void wheelEvent(QWheelEvent* evento) override;
 

@@ -14,8 +14,10 @@
 #include <functional>
 
 #include "help/search.hpp"
+#include "shell/dialogo_qt.hpp"
 #include "shell/form_sizes.hpp"
 #include "shell/help/browser.hpp"
+#include "shell/help/documents.hpp"
 #include "shell/help/results.hpp"
 #include "shell/qt_text.hpp"
 
@@ -47,6 +49,11 @@ FinestraGuida::FinestraGuida(help::Guida guida) : guida_(std::move(guida)) {
     pagina_ = new VistaGuida(guida_, this);
     pagina_->setObjectName(QStringLiteral("pagina"));
     pagina_->setAccessibleName(tradotto("Guida"));
+    pagina_->documento = [this](const std::string& nome) {
+        DialogoQt dialogo;
+        dialogo.sopra(this);
+        apriDocumento(nome, dialogo);
+    };
     auto* divisa = new QSplitter(this);
     divisa->setChildrenCollapsible(false);
     divisa->addWidget(fareColonna());

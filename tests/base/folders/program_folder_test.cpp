@@ -64,5 +64,19 @@ TEST(FileProgramma, IsWhereItWouldBeWhenTheFolderCannotBeListed) {
     impostaCartellaProgramma({});
 }
 
+TEST(FileDocumento, LiesWhereTheLinkBesideTheProgramLeads) {
+    const test::CartellaProvvisoria sorgenti, programma;
+    test::metti(sorgenti / "README.md", "");
+    std::filesystem::create_directory(sorgenti / "docs");
+    test::metti(sorgenti / "docs/theory.md", "");
+    impostaCartellaProgramma(programma.percorso());
+    EXPECT_EQ(fileDocumento("README"), "");
+    std::filesystem::create_symlink(sorgenti / "README.md", programma / "documenti.md");
+    EXPECT_EQ(fileDocumento("README"), sorgenti / "README.md");
+    EXPECT_EQ(fileDocumento("docs/theory"), sorgenti / "docs/theory.md");
+    EXPECT_EQ(fileDocumento("docs/manca"), "");
+    impostaCartellaProgramma({});
+}
+
 }  // namespace
 }  // namespace korven::base
