@@ -52,9 +52,9 @@ class EsempiScritti : public test::BancoConsole {
  protected:
     void SetUp() override {
         const std::string muro = std::string(KORVEN_EXAMPLES) + "/diaframma_due_ordini.kvd";
-        for (const char* nome : {"muro.kvd", "wall.kvd"})
+        for (const char* nome : {"muro.kvd", "wall.kvd", "wand.kvd", "mur.kvd"})
             fs::copy_file(muro, fs::path(cartella / nome), fs::copy_options::overwrite_existing);
-        for (const char* nome : {"piano.csv", "plan.csv"})
+        for (const char* nome : {"piano.csv", "plan.csv", "plano.csv"})
             test::metti(cartella / nome, "phiStrato[1],lunghezzaParatia\n30,18\n31,19\n");
         prima_ = fs::current_path();
         fs::current_path(fs::path(progetto).parent_path());
@@ -91,10 +91,11 @@ TEST_F(EsempiScritti, OfTheDocumentAnswer) {
 }
 
 TEST_F(EsempiScritti, OfTheHelpAnswer) {
-    rispondono(contenuto(KORVEN_DATA "/guida/ita.txt"), "`korven32c ([^`\n]*\\.kvd[^`\n]*)`",
-               italiani);
-    rispondono(contenuto(KORVEN_DATA "/guida/eng.txt"), "`korven32c ([^`\n]*\\.kvd[^`\n]*)`",
-               inglesi);
+    for (const std::string lingua : {"ita", "deu", "fra", "esp", "eng", "por"}) {
+        SCOPED_TRACE(lingua);
+        rispondono(contenuto(KORVEN_DATA "/guida/" + lingua + ".txt"),
+                   "`korven32c ([^`\n]*\\.kvd[^`\n]*)`", lingua == "ita" ? italiani : inglesi);
+    }
 }
 
 }  // namespace

@@ -245,7 +245,7 @@ void controllaTutte(test::ProgrammaConsegnato& programma) {
     }
     TempCalc corsa(nullptr);
     controlla(corsa);
-    controllaGuida(base::linguaCorrente() == 1 ? "module06ita.hlp" : "module06eng.hlp");
+    controllaGuida("module06" + std::string(base::siglaLingua(base::linguaCorrente())) + ".hlp");
     const test::CartellaProvvisoria cartella;
     test::metti(cartella / "muro.TAB", "#RESET\r\ntesto\r\n#ENDDOCUMENT\r\n");
     Form1 anteprima;
