@@ -23,6 +23,7 @@
 #include "batch/run/margin_outcome.hpp"
 #include "batch/run/question_outcome.hpp"
 #include "batch/run/selfcheck_outcome.hpp"
+#include "factors/words.hpp"
 
 namespace korven::batch {
 
@@ -46,6 +47,7 @@ std::string resoconto(const Opzioni& opzioni, const Esito& esito) {
     std::string testo = esito.calcolo ? tabella(esito, opzioni.traccia) : "";
     if (esito.equilibrio) testo += testoEquilibrio(*esito.equilibrio);
     if (esito.margine) testo += testoMargine(*esito.margine);
+    if (esito.sullaNorma) testo += factors::esiti(*esito.sullaNorma) + '\n';
     if (esito.combinazioni) testo += testoCombinazioni(*esito.combinazioni, project::Progetto);
     if (esito.confronto) testo += testoConfronto(*esito.confronto);
     if (esito.lunghezza) testo += testoLunghezza(*esito.lunghezza);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "analysis/run_arrays.hpp"
 #include "equilibrium/staged_equilibrium.hpp"
 
 namespace korven::factors {
@@ -68,8 +69,12 @@ EsitoCombinazione calcola(const DatiProgetto& dati, int nSeg, const Combinazione
         if (!fase(k, fattorizzata.dati, parete, esito)) return esito;
     esito.verifiche = verificheSezione(dati, fattori, esito.estremi);
     const FaseCombinazione* terra = fattori.terra > 0 ? piuUsata(esito.fasi) : nullptr;
-    if (terra != nullptr)
-        esito.verifiche.push_back(verificaTerra(fattori, *terra->passiva.quota, terra->fase));
+    if (terra == nullptr) return esito;
+    const Verifica verifica = verificaTerra(fattori, *terra->passiva.quota, terra->fase);
+    if (analysis::vincoli(dati).bloccoPiede)
+        esito.terraSoloDetta = verifica;
+    else
+        esito.verifiche.push_back(verifica);
     return esito;
 }
 

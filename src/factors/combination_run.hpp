@@ -39,6 +39,9 @@ struct EsitoCombinazione {
     equilibrium::Estremi estremi;        ///< of all stages, if all stand
     std::vector<TiroMassimo> tiri;       ///< likewise, element 0 is anchor 1
     std::vector<Verifica> verifiche;     ///< likewise
+    /// The earth resistance of a wall whose toe is restrained, where the combination asks for it:
+    /// told, and no check. It is not the ground in front that keeps such a wall from rotating.
+    std::optional<Verifica> terraSoloDetta{};
 
     [[nodiscard]] bool sta() const { return !fasi.empty() && fasi.back().sta(); }
     /// All stages stand and all checks are met.

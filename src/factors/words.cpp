@@ -7,6 +7,7 @@
 #include "base/colon.hpp"
 #include "base/filled_text.hpp"
 #include "base/translated_texts.hpp"
+#include "project/shown_number.hpp"
 #include "safety/words.hpp"
 #include "structure/section_validity.hpp"
 
@@ -30,6 +31,27 @@ constexpr ParoleOggetto oggetti[] = {
 };
 
 const ParoleOggetto& di(Oggetto oggetto) { return oggetti[static_cast<std::size_t>(oggetto)]; }
+
+// Without any there is no envelope to speak of.
+void noteInviluppo(const Combinazioni& tutte, std::vector<std::string>& note) {
+    const bool una = std::any_of(tutte.esiti.begin(), tutte.esiti.end(),
+                                 [](const EsitoCombinazione& e) { return e.sta(); });
+    if (una && !tutte.sta())
+        note.push_back(traduttore("L'inviluppo è delle sole combinazioni in equilibrio."));
+}
+
+void noteTerra(const Combinazioni& tutte, std::vector<std::string>& note) {
+    const auto percento = [](double quota) {
+        return project::numeroMostrato(quota, 1, project::unita::percento);
+    };
+    for (const EsitoCombinazione& e : tutte.esiti)
+        if (const auto& terra = e.terraSoloDetta)
+            note.push_back(base::riempito(
+                traduttore("%1: della resistenza del terreno a valle si usa il %2 % (ammesso %3 "
+                           "%). Non è una verifica: il piede è vincolato, e non è quel terreno a "
+                           "impedire la rotazione."),
+                {e.combinazione.nome, percento(terra->progetto), percento(terra->resistenza)}));
+}
 
 void noteSezione(const project::DatiProgetto& dati, std::vector<std::string>& note) {
     if (!structure::sezioneDefinita(dati.sezione)) {
@@ -76,6 +98,16 @@ std::string caduta(const EsitoCombinazione& combinazione) {
     return combinazione.combinazione.nome + base::duePunti() + perche;
 }
 
+std::string esiti(const Combinazioni& combinazioni) {
+    std::string tutti;
+    for (const EsitoCombinazione& e : combinazioni.esiti)
+        tutti.append(tutti.empty() ? "" : base::puntoEVirgola())
+            .append(e.combinazione.nome)
+            .append(" ")
+            .append(esito(e));
+    return base::conDuePunti(combinazioni.norma.titolo, tutti);
+}
+
 std::string verdetto(const Combinazioni& combinazioni) {
     if (combinazioni.sta() && !combinazioni.conVerifiche())
         return traduttore("Tutte le combinazioni sono in equilibrio; non c'è nessuna verifica.");
@@ -100,8 +132,8 @@ std::string verdetto(const Combinazioni& combinazioni) {
 
 std::vector<std::string> note(const Combinazioni& combinazioni, const project::DatiProgetto& dati) {
     std::vector<std::string> note;
-    if (!combinazioni.sta())
-        note.push_back(traduttore("L'inviluppo è delle sole combinazioni in equilibrio."));
+    noteInviluppo(combinazioni, note);
+    noteTerra(combinazioni, note);
     noteSezione(dati, note);
     note.push_back(traduttore(
         "Soluzione di equilibrio di ogni combinazione, in memoria: i coefficienti del "

@@ -31,6 +31,9 @@ namespace korven::factors {
 /// names of those that are not.
 [[nodiscard]] std::string verdetto(const Combinazioni& combinazioni);
 
+/// Each with what becomes of it, in a line: "EN ..., DA1: DA1-1 NON verificata; DA1-2 verificata".
+[[nodiscard]] std::string esiti(const Combinazioni& combinazioni);
+
 /// What whoever uses the numbers has to know of them, a sentence each.
 /// @param dati  the project
 [[nodiscard]] std::vector<std::string> note(const Combinazioni& combinazioni,

@@ -72,6 +72,12 @@ TEST_F(AllegatoDaFuori, HasAChapterOnTheCodeThatIsAskedFor) {
     EXPECT_TRUE(dice(scritto, "--sovraccarico permanente"));
     EXPECT_TRUE(dice(scritto, "--sovraccarico-scavo variabile"));
     EXPECT_TRUE(dice(scritto, "--carichi-testa variabile"));
+    // What becomes of each combination is told at once.
+    EXPECT_TRUE(dice(esito.uscita, "DA1-1 NON verificata; DA1-2 ")) << esito.uscita;
+    const auto json =
+        nlohmann::json::parse(comando({"--txt", testo, "--norma", "en1997-da1", "--json"}).uscita);
+    EXPECT_EQ(json["combinazioni"]["combinazioni"][0]["verificata"], false);
+    EXPECT_TRUE(json["allegato"]["fasi"].is_array());
 }
 
 TEST_F(AllegatoDaFuori, RefusesACodeThatThereIsNotAndLoadsWithoutACode) {

@@ -131,7 +131,13 @@ TEST_F(CombinazioniConsole, SaysWhichCombinationDoesNotStandAndWhy) {
     EXPECT_EQ(esito.codice, 1);
     EXPECT_TRUE(dice(esito.uscita, "nessun equilibrio"));
     EXPECT_TRUE(dice(esito.uscita, "DA1-2: la paratia è un meccanismo nella fase 1"));
-    EXPECT_TRUE(dice(esito.uscita, "L'inviluppo è delle sole combinazioni in equilibrio."));
+    EXPECT_FALSE(dice(esito.uscita, "L'inviluppo è delle sole"));  // both fall: there is none
+    dati.profFase[1] = sta * 0.85;
+    scrivi(dati);
+    const auto una = comando("en1997-da1");
+    EXPECT_FALSE(dice(una.uscita, "DA1-1: la paratia è un meccanismo")) << una.uscita;
+    EXPECT_TRUE(dice(una.uscita, "DA1-2: la paratia è un meccanismo nella fase 1"));
+    EXPECT_TRUE(dice(una.uscita, "L'inviluppo è delle sole combinazioni in equilibrio."));
     const auto muto = comando("en1997-da1", {"--silenzioso"});
     EXPECT_TRUE(muto.uscita.empty());
     EXPECT_TRUE(dice(muto.errori, "DA1-2: la paratia è un meccanismo nella fase 1"));
@@ -152,6 +158,15 @@ TEST_F(CombinazioniConsole, RefusesACodeThatIsNotThereAndFilesWithFaults) {
     EXPECT_TRUE(dice(guasta.errori,
                      "combinazioni_utente.txt, riga 2: un coefficiente sta sotto la riga della sua "
                      "combinazione"));
+}
+
+TEST_F(CombinazioniConsole, TellsTheEarthResistanceOfARestrainedToeAndDoesNotJudgeIt) {
+    esempio("diaframma_piede_roccia");
+    const auto esito = comando("en1997-da2");
+    EXPECT_EQ(esito.codice, 0) << esito.uscita;
+    EXPECT_TRUE(dice(esito.uscita, "DA2: della resistenza del terreno a valle si usa il "));
+    EXPECT_TRUE(dice(esito.uscita, " % (ammesso 71.4 %). Non è una verifica"));
+    EXPECT_FALSE(dice(esito.uscita, "NON verificata")) << esito.uscita;
 }
 
 TEST_F(CombinazioniConsole, RefusesWhatAReportRefuses) {

@@ -146,6 +146,26 @@ TEST(EsitoCombinazioneTest, ChecksTheEarthResistanceWhereItIsAskedFor) {
     EXPECT_DOUBLE_EQ(v.progetto, quota * 1.35);
 }
 
+// The wall of the example hangs on the hinge of its toe in rock: what its ground gives decides
+// nothing. With a free toe the very share would be a check that is not met.
+TEST(EsitoCombinazioneTest, DoesNotJudgeTheGroundInFrontOfARestrainedToe) {
+    auto dati = test::leggiMuro(KORVEN_EXAMPLES "/diaframma_piede_roccia.kvd");
+    const Fattori fattori{.effetti = 1.35, .terra = 5};
+    const auto e = esito(dati, fattori);
+    ASSERT_TRUE(e.sta());
+    EXPECT_FALSE(std::any_of(e.verifiche.begin(), e.verifiche.end(),
+                             [](const auto& v) { return v.oggetto == Oggetto::terra; }));
+    ASSERT_TRUE(e.terraSoloDetta);
+    double quota = 0;
+    for (const auto& f : e.fasi) quota = std::max(quota, f.passiva.quota.value_or(0));
+    EXPECT_DOUBLE_EQ(e.terraSoloDetta->progetto, quota * 1.35);
+    EXPECT_DOUBLE_EQ(e.terraSoloDetta->resistenza, 1 / 5.0);
+    EXPECT_FALSE(e.terraSoloDetta->verificata);
+    EXPECT_TRUE(e.verificata());
+    EXPECT_FALSE(
+        esito(test::leggiMuro(KORVEN_EXAMPLES "/palancola_mensola.kvd"), fattori).terraSoloDetta);
+}
+
 TEST(EsitoCombinazioneTest, FailsWithASectionThatIsTooWeak) {
     auto dati = test::leggiMuro(KORVEN_EXAMPLES "/diaframma_due_ordini.kvd");
     EXPECT_TRUE(esito(dati, {}).verificata());

@@ -1,5 +1,6 @@
 #include "batch/run/computed_dossier.hpp"
 
+#include <memory>
 #include <utility>
 
 #include "base/translated_texts.hpp"
@@ -63,6 +64,8 @@ int conFascicolo(const Opzioni& opzioni, Esito& esito, const std::function<void(
                 return nonEseguito;
             }
             esito.margine = fascicolo.margine;
+            if (fascicolo.norma)
+                esito.sullaNorma = std::make_shared<const factors::Combinazioni>(*fascicolo.norma);
             const bool sta = fascicolo.parete.sta();
             scrivi(std::move(fascicolo));
             const bool noto =

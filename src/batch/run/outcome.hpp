@@ -54,6 +54,8 @@ struct Esito {
     std::shared_ptr<const RispostaLunghezza> lunghezza;
     std::shared_ptr<const RispostaBloccaggio> bloccaggio;
     std::shared_ptr<const factors::Combinazioni> combinazioni;
+    /// Of a code that a document has a chapter on.
+    std::shared_ptr<const factors::Combinazioni> sullaNorma;
     bool elencaCampi = false;                        ///< the fields of `scritti`
     std::optional<project::DatiProgetto> impostato;  ///< what `scritti` has become in another file
     bool righeVersate = false;   ///< it told its outcome row by row, where it was asked to

@@ -151,6 +151,7 @@ std::string json(const Esito& esito) {
     }
     if (esito.inMemoria) {
         j[esito.comando] = inMemoria(esito);
+        if (esito.sullaNorma) j["combinazioni"] = jsonCombinazioni(*esito.sullaNorma);
         j["file"] = {{"scritti", esito.fileScritti}};
     } else if (!esito.soloRilievi) {
         j["calcolo"] = esito.calcolo ? calcolo(esito) : Json(nullptr);
