@@ -1,7 +1,9 @@
 # The headers that many sources share, parsed once for all of them: reading them is most of what a fresh
-# build does. Off unless asked for, since it hides an include that a source forgot: some build has to do
-# without. A compiler cache can't use precompiled headers either.
-option(KORVEN_PRECOMPILED "Precompile the headers that many sources share" OFF)
+# build does. OFF unless asked for, since it hides an include that a source forgot: some build has to do
+# without. TESTS does it for the test programs alone, ON for the rooms too. A compiler cache can't use
+# precompiled headers either.
+set(KORVEN_PRECOMPILED OFF CACHE STRING "Precompile the headers that many sources share: OFF, TESTS, ON")
+set_property(CACHE KORVEN_PRECOMPILED PROPERTY STRINGS OFF TESTS ON)
 
 set(korven_standard_headers
     <algorithm> <array> <cassert> <charconv> <cmath> <cstdint> <filesystem> <fstream> <functional>
@@ -32,7 +34,7 @@ endfunction()
 
 # korven_precompile_room(<room>): the library of a room at the top uses precompiled headers.
 function(korven_precompile_room room)
-    if(NOT KORVEN_PRECOMPILED)
+    if(NOT KORVEN_PRECOMPILED OR KORVEN_PRECOMPILED STREQUAL "TESTS")
         return()
     endif()
     if(room STREQUAL "desktop")
