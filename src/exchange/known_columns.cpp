@@ -20,8 +20,9 @@ constexpr std::string_view profondita_[] = {
 constexpr std::string_view gammaN_[] = {"gamman",        "gamma",      "pesonaturale",
                                         "pesodivolume",  "unitweight", "naturalunitweight",
                                         "bulkunitweight"};
+// "gammar": in German books the sign of the saturated unit weight is γr.
 constexpr std::string_view gammaSat_[] = {"gammasat", "pesosaturo", "saturatedunitweight",
-                                          "saturatedweight"};
+                                          "saturatedweight", "gammar"};
 constexpr std::string_view phi_[] = {"phistrato",     "phi", "angolodiattrito", "attrito",
                                      "frictionangle", "fi",  "angolodattrito"};
 constexpr std::string_view coesione_[] = {"coesione", "coes", "cohesion", "cohes", "c"};

@@ -24,7 +24,13 @@ constexpr Coppia pieghe[] = {
     {"õ", "o"},       {"ö", "o"},  {"ù", "u"},     {"ú", "u"},    {"û", "u"},     {"ü", "u"},
     {"²", "2"},       {"³", "3"},  {"α", "alpha"}, {"β", "beta"}, {"γ", "gamma"}, {"δ", "delta"},
     {"ε", "epsilon"}, {"ν", "ny"}, {"π", "pi"},    {"ρ", "rho"},  {"σ", "sigma"}, {"τ", "tau"},
-    {"φ", "phi"},     {"’", "'"},
+    {"φ", "phi"},
+};
+
+// Signs beside which a word begins: left as they are, they would count as letters of it.
+constexpr Coppia segni[] = {
+    {"\u00a0", " "}, {"\u202f", " "}, {"«", "\""}, {"»", "\""}, {"„", "\""}, {"“", "\""},
+    {"”", "\""},     {"’", "'"},      {"–", "-"},  {"—", "-"},  {"−", "-"},  {"…", "..."},
 };
 
 // Tags within a line of text; every other one parts the text before it from that after it.
@@ -107,6 +113,7 @@ TestoPiegato piega(std::string_view testo) {
         const auto lunghezza = base::lunghezzaPrimoCarattere(testo.substr(i));
         const std::string minuscola = base::minuscolo(testo.substr(i, lunghezza));
         const Coppia* piega = cerca(pieghe, minuscola);
+        if (piega == nullptr) piega = cerca(segni, minuscola);
         const std::string_view nuovo = piega != nullptr ? piega->a : std::string_view(minuscola);
         piegato.testo += nuovo;
         piegato.origine.insert(piegato.origine.end(), nuovo.size(), i);

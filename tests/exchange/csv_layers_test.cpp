@@ -72,6 +72,12 @@ TEST(LeggiCsv, KnowsColumnsByItalianAndEnglishWords) {
               (RigheStrati{sabbia}));
 }
 
+TEST(LeggiCsv, KnowsTheGermanSignOfTheSaturatedUnitWeight) {
+    EXPECT_EQ(lette("prof;gamma;Gamma r [kN/m³];phi;coes;ks;descrizione\n"
+                    "3.5;18;19.5;30;0;5000;103C3 Sabbia"),
+              (RigheStrati{sabbia}));
+}
+
 TEST(LeggiCsv, SaysWhichColumnsTheFileLacksOrWhichItDoesNotRead) {
     const auto letti = leggiCsv("profStrato;suStrato;descrStrato\n3;5;105 Argilla");
     ASSERT_TRUE(letti.riuscita());

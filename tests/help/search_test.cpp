@@ -44,6 +44,16 @@ TEST(CercaNellaGuida, FindsWordsByTheirBeginningOnly) {
     EXPECT_EQ(nomi("cala"), Nomi{});
 }
 
+TEST(CercaNellaGuida, FindsAWordAfterAQuotationMarkOrADash) {
+    const Guida una{{"Uno"},
+                    {pagina("x", "X", "x", "<p>«\u00a0mot\u00a0» „Wort“ –tiret l’une</p>")}};
+    for (const char* parola : {"mot", "wort", "tiret", "une", "«\u00a0mot"})
+        EXPECT_EQ(cercaNellaGuida(una, parola).size(), 1U) << parola;
+    EXPECT_TRUE(cercaNellaGuida(una, "ort").empty());
+    EXPECT_EQ(postiTrovati("«\u00a0mot", {"mot"}),
+              (std::vector<std::pair<std::size_t, std::size_t>>{{4, 7}}));
+}
+
 TEST(CercaNellaGuida, PutsTitlesFirstThenFurtherWordsThenBodies) {
     EXPECT_EQ(nomi("spinta"), (Nomi{"c", "b", "a"}));
 }

@@ -33,6 +33,11 @@ TEST(Piega, MakesSmallLettersWithoutAccents) {
 
 TEST(Piega, NamesGreekLetters) { EXPECT_EQ(piega("φ > σ").testo, "phi > sigma"); }
 
+TEST(Piega, TurnsSignsIntoThoseOfTheKeyboard) {
+    EXPECT_EQ(piega("«\u00a0mot\u202f» „Wort“ l’une – a−b …").testo,
+              "\" mot \" \"wort\" l'une - a-b ...");
+}
+
 TEST(Piega, TellsWhereEachByteComesFrom) {
     const auto piegato = piega("àφx");  // two bytes, two bytes, one
     EXPECT_EQ(piegato.testo, "aphix");
