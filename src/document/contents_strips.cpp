@@ -12,7 +12,7 @@ namespace korven::document {
 
 namespace {
 
-constexpr double corpo = 8.5;
+constexpr double corpo = 8;
 constexpr double rientro = 10;                         // of a heading of level 2
 constexpr double postoNumero = 26;                     // at the right end of a row
 constexpr double distacco = 0.8 * puntiPerCentimetro;  // of the two columns

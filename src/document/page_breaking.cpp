@@ -12,13 +12,13 @@ namespace {
 // What a page costs, on the scale of `Striscia::costo`: an empty half is worth 25.
 constexpr double costoVuoto = 100;  // of an empty page; a part of one costs its square
 constexpr double costoPagina = 3;
-constexpr double costoAttesa = 4;                    // a drawing on the page behind its place
-constexpr double costoTagliata = 45;                 // a table, by a drawing in its midst
-constexpr double costoLegame = 200;                  // strips that should have stayed together
-constexpr double costoBassa = 14;                    // drawings as low as they can be
-constexpr double pocaPagina = 0.25, costoPoca = 60;  // a page that holds less than this share
-constexpr double pocaUltima = 0.30, costoUltima = 45;
-constexpr double gioco = 0.01;  // [pt]
+constexpr double costoAttesa = 4;                      // a drawing on the page behind its place
+constexpr double costoTagliata = 45;                   // a table, by a drawing in its midst
+constexpr double costoLegame = 200;                    // strips that should have stayed together
+constexpr double costoBassa = 14;                      // drawings as low as they can be
+constexpr double pocaPagina = 0.25, costoPoca = 60;    // a page that holds less than this share
+constexpr double pocaUltima = 0.30, costoUltima = 45;  // also before what begins a page
+constexpr double gioco = 0.01;                         // [pt]
 
 double somma(const Strisce& strisce, const Gruppo& g) {
     double alta = strisce[g.da].altezza;
@@ -122,24 +122,27 @@ class Scelta {
         return a;
     }
 
-    [[nodiscard]] double costoFine(const Aperta& p, bool ultima) const {
+    [[nodiscard]] double costoFine(const Aperta& p, bool chiusa) const {
         const double manca = std::max(0.0, p.colonna.alta() - altezza_);
         const double piena = std::min(1.0, p.colonna.alta() / altezza_);
         double costo = costoPagina + p.costo;
         if (p.cede > 0) costo += costoBassa * std::min(1.0, manca / p.cede * manca / p.cede);
-        if (ultima) return costo + costoUltima * std::max(0.0, 1 - piena / pocaUltima);
+        if (chiusa) return costo + costoUltima * std::max(0.0, 1 - piena / pocaUltima);
         const double vuota = 1 - piena;
         return costo + costoVuoto * vuota * vuota +
                costoPoca * std::max(0.0, 1 - piena / pocaPagina);
     }
 
     void finisci(const Stato& da, double costo, const Aperta& p, const Stato& a) {
-        // Before what begins a page anyway nothing is torn.
+        // Before what begins a page anyway nothing is torn, and the page ends as the last one does:
+        // the room below it is there wherever what stands above it is parted.
+        const bool chiusa =
+            a == fine() || (a.attende == a.prossimo && prima(a.prossimo).nuovaPagina);
         if (a.prossimo < passi_.size() && !prima(a.prossimo).nuovaPagina) {
             costo += passi_[a.prossimo].costo;
             if (a.attende < a.prossimo && prima(a.prossimo).testa) costo += costoTagliata;
         }
-        costo += costoFine(p, a == fine());
+        costo += costoFine(p, chiusa);
         const auto [posto, nuovo] = raggiunti_.try_emplace(a);
         if (!nuovo && posto->second.costo <= costo) return;
         posto->second = {costo, da, p.pagina};

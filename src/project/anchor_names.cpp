@@ -19,9 +19,7 @@ std::string nomeTirante(const DatiProgetto& dati, int j) {
 }
 
 std::string siglaTirante(const DatiProgetto& dati, int j) {
-    // An anchor goes by the symbol of its force in every language.
-    return puntone(dati, j) ? riempito(traduttore("P%1"), {std::to_string(j)})
-                            : 'T' + std::to_string(j);
+    return riempito(traduttore(puntone(dati, j) ? "P%1" : "T%1"), {std::to_string(j)});
 }
 
 }  // namespace korven::project

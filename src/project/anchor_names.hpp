@@ -13,7 +13,7 @@ namespace korven::project {
 /// "Tirante 2", of a strut "Puntone 2", translated.
 [[nodiscard]] std::string nomeTirante(const DatiProgetto& dati, int j);
 
-/// The same where there is hardly any room: "T2", of a strut the first letter of its name.
+/// The same where there is hardly any room: "T2", the first letter of the name in each language.
 [[nodiscard]] std::string siglaTirante(const DatiProgetto& dati, int j);
 
 }  // namespace korven::project

@@ -81,13 +81,14 @@ Motivo motivoTaglio(const DatiProgetto& dati, const safety::Margine& margine, co
     if (meno && c.statica.lato != equilibrium::Lato::sotto) {
         auto campi = alNodo(dati, fase(k), z, passo, true);
         if (!campi.empty())
-            return {"il diagramma non vede il taglio sopra un tirante che non è su un nodo",
-                    std::move(campi)};
+            return {
+                "il diagramma non vede il taglio sopra un tirante o puntone che non è su un nodo",
+                std::move(campi)};
     }
     if (!meno || c.statica.lato != equilibrium::Lato::unico) {
         auto campi = alNodo(dati, fase(k), z, passo, false);
         if (!campi.empty())
-            return {"al tirante il diagramma estrapola il taglio dai due nodi sotto",
+            return {"al tirante o puntone il diagramma estrapola il taglio dai due nodi sotto",
                     std::move(campi)};
     }
     if (c.statica.z > dati.lunghezzaParatia - passo / 2 && analysis::vincoli(dati).bloccoPiede)

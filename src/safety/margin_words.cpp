@@ -5,6 +5,7 @@
 
 #include "base/colon.hpp"
 #include "base/filled_text.hpp"
+#include "base/name_in_sentence.hpp"
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
 #include "safety/words.hpp"
@@ -123,12 +124,12 @@ std::string paroleMaglia(const Margine& margine) {
         {"momento negativo", &margine.maglia->momentoNegativo},
         {"taglio", &margine.maglia->taglio},
         {"spostamento", &margine.maglia->spostamento},
-        {"tiro", &margine.maglia->tiro},
+        {"Tiranti e puntoni", &margine.maglia->tiro},
     };
     std::string errori;
     for (const auto& [nome, errore] : grandezze)
         if (errore->quota)
-            errori += (errori.empty() ? "" : ", ") + traduttore(nome) + " " +
+            errori += (errori.empty() ? "" : ", ") + base::nellaFrase(traduttore(nome)) + " " +
                       base::testoDecimali(*errore->quota, 1, 2) + " %";
     return errori.empty() ? errori : testo + errori;
 }

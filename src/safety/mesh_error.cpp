@@ -30,7 +30,10 @@ Andamento andamento(double a, double b, double c, const project::Unita& u) {
         return Andamento::uguali;
     if (mostrato(u, std::fabs(b - c)) < minimaConOrdine) return Andamento::vicine;
     const double rapporto = (a - b) / (b - c);  // 2 to the order
-    if (std::fabs(rapporto) <= 1) return Andamento::lontane;
+    if (std::fabs(rapporto) <= 1) {
+        const auto [minimo, massimo] = std::minmax({a, b, c});
+        return massimo - minimo < quotaSenzaOrdine * c ? Andamento::strette : Andamento::lontane;
+    }
     return rapporto > 0 ? Andamento::avvicinano : Andamento::alternano;
 }
 

@@ -17,6 +17,9 @@ inline constexpr double minimoConErrore = 1;
 /// Nor an order out of smaller differences, in kN m, kN and mm: two decimals hold a tenth of them,
 /// and the order to 0.2.
 inline constexpr double minimaConOrdine = 0.1;
+/// Meshes that differ by less than this share of the value, and show no order, need none. Reason:
+/// the number is known far better than the ground it was computed with.
+inline constexpr double quotaSenzaOrdine = 0.01;
 
 /// What three meshes say of the value that ever finer ones would give.
 enum class Andamento {
@@ -24,7 +27,9 @@ enum class Andamento {
     vicine,      ///< the finer two differ by less than `minimaConOrdine`: no power is told
     avvicinano,  ///< from one side: the error falls with a power of the step
     alternano,   ///< closer and closer, but from both sides: no power is known
-    lontane,     ///< the step between the finer two is no smaller: no value is in sight
+    strette,     ///< the step between the finer two is no smaller, but all three are within
+                 ///< `quotaSenzaOrdine` of each other
+    lontane,     ///< it is no smaller, and they are further apart: no value is in sight
 };
 
 /// How far a number of the envelopes is from that of a mesh four times as fine.

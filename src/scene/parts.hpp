@@ -20,6 +20,9 @@ void disegnaAcque(const Mostrata& m, const Inquadratura& q, Tela& tela);
 void disegnaSovraccarichi(const Mostrata& m, const Inquadratura& q, Tela& tela);
 /// Levels of all stages with their numbers.
 void disegnaFasi(const Mostrata& m, const Inquadratura& q, Tela& tela);
+/// Where the name of the shown stage's level begins: a load on the excavation ends before it. The
+/// end of the section where the name stands elsewhere.
+[[nodiscard]] double inizioLivello(const Mostrata& m, const Inquadratura& q, const Tela& tela);
 /// Anchors and struts with number, depth and force.
 void disegnaTiranti(const Mostrata& m, const Inquadratura& q, Tela& tela);
 /// The wall with its restraints; one that is a mechanism moved, with what is at its limit.

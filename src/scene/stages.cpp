@@ -34,17 +34,41 @@ std::string numeri(const std::vector<int>& fasi) {
     return testo;
 }
 
-std::string intero(const std::vector<int>& fasi, double z) {
-    return nomeFasi(fasi) + "  " + quota(z);
-}
+constexpr double corpoLivelli = 0.9;  // of the font size
 
-// In a narrow place all levels say that they are stages, or none does.
-bool perIntero(const std::map<double, std::vector<int>>& livelli, const Inquadratura& q,
-               double corpo, const Tela& tela) {
-    const double posto = fineLivelli(q) - q.xValle - 0.6 * q.em;
-    return !q.stretta || std::all_of(livelli.begin(), livelli.end(), [&](const auto& livello) {
-        return tela.larghezza(intero(livello.second, livello.first), corpo, true) <= posto;
-    });
+// In a narrow picture of a stage its own level is the only one.
+bool soloQuesta(const Mostrata& m, const Inquadratura& q) { return q.stretta && m.vista.fase > 0; }
+
+// The stages that excavate down to one depth, to the centimetre: they share a line.
+struct Livello {
+    double z = 0;
+    std::vector<int> fasi;
+    bool mostrato = false;  // that of the stage of the picture
+    std::string testo, breve;
+};
+
+// In a narrow place that is too narrow for one of the names the first alone says what they are.
+std::vector<Livello> livelli(const Mostrata& m, const Inquadratura& q, const Tela& tela) {
+    std::map<double, std::vector<int>> fasi;
+    for (int k = 1; k <= m.nFasi(); ++k) {
+        const double z = m.dati().profFase[k];
+        if (disegnabile(z) && !(soloQuesta(m, q) && k != m.fase))
+            fasi[alCentimetro(z)].push_back(k);
+    }
+    std::vector<Livello> tutti;
+    bool interi = true;
+    for (auto& [z, sue] : fasi) {
+        Livello l{z, std::move(sue), z == alCentimetro(m.scavo), {}, {}};
+        l.breve = soloQuesta(m, q) ? quota(z) : numeri(l.fasi) + "  " + quota(z);
+        l.testo = soloQuesta(m, q) ? l.breve : nomeFasi(l.fasi) + "  " + quota(z);
+        const double posto = fineLivelli(q) - q.xValle - 0.6 * q.em;
+        interi =
+            interi && (!q.stretta || tela.larghezza(l.testo, corpoLivelli * q.em, true) <= posto);
+        tutti.push_back(std::move(l));
+    }
+    if (!interi)
+        for (std::size_t i = 1; i < tutti.size(); ++i) tutti[i].testo = tutti[i].breve;
+    return tutti;
 }
 
 // A dimension between two depths, its length written along it.
@@ -78,20 +102,12 @@ void dimensione(const Mostrata& m, const Inquadratura& q, double da, double a, d
 }  // namespace
 
 void disegnaFasi(const Mostrata& m, const Inquadratura& q, Tela& tela) {
-    // Stages of one depth, to the centimetre, share a line.
-    const bool soloQuesta = q.stretta && m.vista.fase > 0;
-    std::map<double, std::vector<int>> livelli;
-    for (int k = 1; k <= m.nFasi(); ++k) {
-        const double z = m.dati().profFase[k];
-        if (disegnabile(z) && !(soloQuesta && k != m.fase)) livelli[alCentimetro(z)].push_back(k);
-    }
-    const double fine = fineLivelli(q), corpo = 0.9 * q.em;
-    const bool interi = perIntero(livelli, q, corpo, tela);
-    for (const auto& [z, fasi] : livelli) {
-        const double y = q.y(z);
+    const double fine = fineLivelli(q);
+    for (Livello& livello : livelli(m, q, tela)) {
+        const double y = q.y(livello.z);
         if (!q.visibile(y)) continue;
-        const bool mostrato = z == alCentimetro(m.scavo);
-        tela.disegna(Elemento::fase, fasi.front(),
+        const int prima = livello.fasi.front();
+        tela.disegna(Elemento::fase, prima,
                      Linea{{{q.xValle, y}, {fine, y}}, {Ruolo::fase}, 1, Tratteggio::linee});
         std::vector<Posto> posti;
         const auto posto = [&](double su) {
@@ -99,19 +115,25 @@ void disegnaFasi(const Mostrata& m, const Inquadratura& q, Tela& tela) {
                 {{fine, y + su * q.em}, Ancora::destra, fondoValle(m, q, y + su * q.em)});
         };
         for (const double su : {-0.8, 0.8}) posto(su);
-        if (q.stretta && mostrato && caricoDavanti(m)) posto(-sopraCarico);
+        if (q.stretta && livello.mostrato && caricoDavanti(m)) posto(-sopraCarico);
         posto(0);
-        const std::string breve = soloQuesta ? quota(z) : numeri(fasi) + "  " + quota(z);
         tela.scrivi({.grado = Grado::fase,
                      .elemento = Elemento::fase,
-                     .numero = fasi.front(),
-                     .testo = interi && !soloQuesta ? intero(fasi, z) : breve,
-                     .inBreve = {breve},
-                     .tinta = {mostrato ? Ruolo::testo : Ruolo::fase},
-                     .corpo = corpo,
-                     .grassetto = mostrato,
+                     .numero = prima,
+                     .testo = std::move(livello.testo),
+                     .inBreve = {std::move(livello.breve)},
+                     .tinta = {livello.mostrato ? Ruolo::testo : Ruolo::fase},
+                     .corpo = corpoLivelli * q.em,
+                     .grassetto = livello.mostrato,
                      .posti = std::move(posti)});
     }
+}
+
+double inizioLivello(const Mostrata& m, const Inquadratura& q, const Tela& tela) {
+    if (soloQuesta(m, q)) return q.xSezione;
+    for (const Livello& l : livelli(m, q, tela))
+        if (l.mostrato) return fineLivelli(q) - tela.larghezza(l.testo, corpoLivelli * q.em, true);
+    return q.xSezione;
 }
 
 void disegnaQuote(const Mostrata& m, const Inquadratura& q, Tela& tela) {

@@ -11,6 +11,7 @@ namespace korven::scene {
 namespace {
 
 constexpr double altezza = 1.7, passo = 1.5;  // of the arrows, in font sizes
+constexpr double minimo = 2;                  // width of a load on the excavation, too
 
 // A row of arrows that stand on the ground from x1 to x2, which rises by `pendenza`; a load below 0
 // pulls.
@@ -102,8 +103,10 @@ void disegnaSovraccarichi(const Mostrata& m, const Inquadratura& q, Tela& tela) 
             for (const double giu : {2.1, 3.3})
                 sotto.push_back(
                     {{x1, y + giu * q.em}, Ancora::sinistra, fondoValle(m, q, y + giu * q.em)});
-        if (q.visibile(y))
-            carico(q, t, x1, x1 + 0.45 * (q.xSezione - x1), y, y, m.fase, std::move(sotto), tela);
+        const double x2 = std::max(
+            x1 + minimo * q.em,
+            std::min(x1 + 0.45 * (q.xSezione - x1), inizioLivello(m, q, tela) - 0.6 * q.em));
+        if (q.visibile(y)) carico(q, t, x1, x2, y, y, m.fase, std::move(sotto), tela);
     }
 }
 

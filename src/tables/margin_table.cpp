@@ -197,7 +197,7 @@ Prospetto prospettoMaglia(const Margine& margine) {
     riga(unita::momentoAlMetro, "momento negativo", momento, e.momentoNegativo, p);
     riga(unita::forzaAlMetro, "Taglio", forza, e.taglio, p);
     riga(unita::spostamentoFine, "Spostamento", spostamento, e.spostamento, p);
-    riga(unita::forzaAlMetro, "Tiro", forza, e.tiro, p);
+    riga(unita::forzaAlMetro, "Tiranti e puntoni", forza, e.tiro, p);
     for (const safety::UsoMaglia& u : e.usi) riga(u, p);
     for (const safety::AvvisoMaglia& avviso : safety::avvisiMaglia(margine))
         p.note.push_back(avviso.testo);
@@ -225,6 +225,10 @@ std::string percheSenzaOrdine(safety::Andamento andamento) {
             return traduttore(
                 "Le tre maglie si avvicinano a un valore dalle due parti: l'errore "
                 "non ha un ordine.");
+        case safety::Andamento::strette:
+            return base::riempito(
+                traduttore("Le tre maglie differiscono di meno del %1 %: un ordine non serve."),
+                {base::testoDecimali(safety::quotaSenzaOrdine, 0, 2)});
         case safety::Andamento::lontane:
             return traduttore(
                 "Fra la seconda maglia e la terza il valore cambia quanto fra le "

@@ -108,7 +108,7 @@ TEST_F(AllegatoDaFuori, OfAWallThatFallsSaysSoAndEndsWith1) {
     const std::string txt = cartella / "a.txt";
     const auto esito = comando({"--txt", txt, "--json"});
     EXPECT_EQ(esito.codice, 1);
-    EXPECT_TRUE(dice(test::contenuto(txt), "Equilibrio di tutte le fasi\tnon verificato"));
+    EXPECT_TRUE(dice(test::contenuto(txt), "Equilibrio di tutte le fasi\tNON verificato"));
     const Json j = Json::parse(esito.uscita);
     EXPECT_EQ(j["causa"], "meccanismo");
     EXPECT_EQ(j["file"]["scritti"].size(), 1U);
@@ -188,7 +188,7 @@ TEST_F(AllegatoDiTutto, IsWrittenWhereTheStagedRunFindsNoRestToo) {
         EXPECT_TRUE(
             dice(test::contenuto(scritto("txt")),
                  std::string("Equilibrio di tutte le fasi\t") +
-                     (std::string(nome) == "meccanismo" ? "non verificato" : "verificato")));
+                     (std::string(nome) == "meccanismo" ? "NON verificato" : "verificato")));
     }
 }
 

@@ -129,10 +129,19 @@ TEST(Impagina, KeepsAVerdictWithItsTable) {
     for (const Stile stile : {Stile::rilievo, Stile::pericolo, Stile::normale}) {
         const Impaginato fatto =
             posto({righe(23), Tavola{test::larga(3, 6)}, Paragrafo{giudizio, stile},
-                   test::figura(17, 9.5), SaltoPagina{}, righe(3)});
+                   test::figura(17, 9.5), test::figura(17, 22)});
         EXPECT_EQ(testi(fatto, 0).find("Verificata.") != std::string::npos,
                   stile != Stile::normale);
     }
+}
+
+// The page before a new chapter is as empty as it comes out: nothing moves there to fill it.
+TEST(Impagina, FillsThePagesBeforeOneThatBeginsAnyway) {
+    std::string testo = "Avviso.";
+    for (int i = 1; i < 12; ++i) testo += "\nperché";
+    const Impaginato fatto = posto({righe(23), Tavola{test::larga(3, 6)}, Paragrafo{testo},
+                                    test::figura(17, 9.5), SaltoPagina{}, righe(3)});
+    EXPECT_NE(testi(fatto, 0).find("Avviso."), std::string::npos);
 }
 
 // As many lines as fit would leave two for the last page.

@@ -101,7 +101,7 @@ TEST(ControlloStatica, SaysWhatMakesTheShearDiffer) {
          {"forzaTesta"}},
         {muro().tirante(3.05, 500).dati(),
          altro(20, 3),
-         "; il diagramma non vede il taglio sopra un tirante che non è su un nodo: ",
+         "; il diagramma non vede il taglio sopra un tirante o puntone che non è su un nodo: ",
          {"profTirante[1]"}},
         {muro()
              .con(&DatiProgetto::vincoloPiede, valore(project::VincoloPiede::cerniera))
@@ -119,7 +119,7 @@ TEST(ControlloStatica, SaysWhatMakesTheShearDiffer) {
          {"vincoloTesta"}},
         {muro().tirante(3, 500).dati(),
          {{20, 5, 1}, results::NumeroRelazione{25, 3, 1}},
-         "; al tirante il diagramma estrapola il taglio dai due nodi sotto: ",
+         "; al tirante o puntone il diagramma estrapola il taglio dai due nodi sotto: ",
          {"profTirante[1]"}},
         {muro().tirante(3.05, 500).dati(), altro(20, 5), "(fase 1, a 5.00 m): ", {}},
     };
@@ -151,9 +151,12 @@ TEST(ControlloStatica, GivesALesserShearTheReasonOfItsSideOfTheAnchor) {
         return testo.find(motivo) != std::string::npos;
     };
     EXPECT_TRUE(contiene(detto(traNodi, false, Lato::sopra), "; il diagramma non vede il taglio"));
-    EXPECT_TRUE(contiene(detto(traNodi, false, Lato::sotto), "; al tirante il diagramma"));
-    EXPECT_TRUE(contiene(detto(suUnNodo, true, Lato::sopra), "; al tirante il diagramma"));
-    EXPECT_TRUE(contiene(detto(suUnNodo, true, Lato::sotto), "; al tirante il diagramma"));
+    EXPECT_TRUE(
+        contiene(detto(traNodi, false, Lato::sotto), "; al tirante o puntone il diagramma"));
+    EXPECT_TRUE(
+        contiene(detto(suUnNodo, true, Lato::sopra), "; al tirante o puntone il diagramma"));
+    EXPECT_TRUE(
+        contiene(detto(suUnNodo, true, Lato::sotto), "; al tirante o puntone il diagramma"));
 }
 
 TEST(ControlloStatica, NamesSlackAnchors) {

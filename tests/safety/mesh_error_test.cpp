@@ -71,7 +71,10 @@ TEST(ErroreMaglia, HasAnOrderOnlyWhereTheMeshesCloseInFromOneSide) {
                 continue;
             }
             const bool minore = std::fabs(secondo) < std::fabs(primo);
-            EXPECT_EQ(g->andamento == Andamento::lontane, !minore);
+            const auto [piccolo, grande] = std::minmax({g->valore, g->doppia, g->fine});
+            const bool strette = grande - piccolo < 0.01 * g->fine;
+            EXPECT_EQ(g->andamento == Andamento::lontane, !minore && !strette);
+            EXPECT_EQ(g->andamento == Andamento::strette, !minore && strette);
             EXPECT_EQ(g->ordine.has_value(), minore && primo * secondo > 0);
             (g->andamento == Andamento::lontane ? lontane : altre) += 1;
         }

@@ -344,8 +344,27 @@ TEST(Scena, InANarrowPlaceNamesLayersWholeOrByTheirNumberAndKeepsTheLoadsOfTheHe
     EXPECT_EQ(testi(s, Elemento::caricoTesta).size(), 3U);
     EXPECT_TRUE(dice(testi(s, Elemento::caricoTesta), "M -10.0 kN m/m"));
     const Scena larga = scena(parete, {0}, {300, 360}, MisuraStimata(), stretta);
-    EXPECT_TRUE(dice(testi(larga, Elemento::fase), "fase 1  2.00 m")) << "all levels or none";
+    EXPECT_TRUE(dice(testi(larga, Elemento::fase), "fase 1  2.00 m"));
     EXPECT_TRUE(dice(testi(larga, Elemento::fase), "fase 2  5.00 m"));
+}
+
+// A load on the excavation leaves its level the room for its name; where there is none, the first
+// level alone says what the numbers are.
+TEST(Scena, NamesALevelThatSeveralStagesShareBesideItsLoad) {
+    auto dati = test::progettoSemplice();
+    dati.nFasi = 3;
+    dati.profFase[3] = dati.profFase[2];
+    dati.tirantiFase[3] = dati.tirantiFase[2];
+    dati.sovraccFase[2] = dati.sovraccFase[3] = 2;
+    const auto parete = live::calcola(dati, 40);
+    const Scena tutte =
+        scena(parete, {0}, {400, 360}, MisuraStimata(), {.curva = false, .parole = false});
+    EXPECT_TRUE(dice(testi(tutte, Elemento::fase), "fasi 2, 3  5.00 m"));
+    const Scena stretta = scena(parete, {0}, {170, 360}, MisuraStimata(),
+                                {.curva = false, .stretta = true, .parole = false});
+    EXPECT_TRUE(dice(testi(stretta, Elemento::fase), "fase 1  2.00 m"));
+    EXPECT_TRUE(dice(testi(stretta, Elemento::fase), "2, 3  5.00 m"))
+        << testing::PrintToString(testi(stretta, Elemento::fase));
 }
 
 TEST(Scena, CanDoWithoutTheCurve) {

@@ -190,7 +190,12 @@ class Pannelli::Pannello {
             const double xm = (scala_.x1 + scala_.x2) / 2, mezza = 0.9 * em;
             tela_.disegna(Elemento::asse, 0,
                           Freccia{{{xm - mezza, y}, {xm + mezza, y}}, {Ruolo::asse}, 1, 0.5 * em});
-            scrivi(traduttore("+ verso lo scavo"), {xm, y += 1.1 * em}, Ancora::centro);
+            // In rows of its own where the panel is narrow: a panel with it has no other key.
+            y += 1.1 * em - rigaChiave;
+            for (std::string& una :
+                 inRighe(traduttore("+ verso lo scavo"), scala_.x2 - scala_.x1 + 0.6 * em, corpo,
+                         righeChiave - 1, tela_.misura()))
+                scrivi(std::move(una), {xm, y += rigaChiave}, Ancora::centro);
             y += 1.25 * em;
         }
         for (const CurvaPannello& curva : dati_.curve) {

@@ -18,7 +18,7 @@ namespace korven::report {
 
 /// A column of the numbers of rows.
 [[nodiscard]] inline tables::Colonna colonnaNumero() {
-    return {.titolo = "N.", .unita = {}, .spiegazione = {}, .numerica = true};
+    return {.titolo = base::traduttore("N."), .unita = {}, .spiegazione = {}, .numerica = true};
 }
 
 }  // namespace korven::report

@@ -76,7 +76,7 @@ std::string firma(const char* chi) {
     const auto riga = [](const char* cosa, std::size_t lunga) {
         return traduttore(cosa) + " " + std::string(lunga, '_');
     };
-    return "\n" + riga(chi, 20) + "   " + riga("Data", 10) + "   " + riga("Firma", 18);
+    return riga(chi, 20) + "   " + riga("Data", 10) + "   " + riga("Firma", 18);
 }
 
 }  // namespace
@@ -99,8 +99,9 @@ void capitoloCopertina(const Contesto& contesto, Blocchi& blocchi) {
             "finché nessuno cambia più. I suoi numeri stanno accanto e sono detti della relazione; "
             "dove i due differiscono, il documento lo dice."),
         Stile::nota});
-    for (const char* chi : {"Progettista", "Verificatore"})
-        blocchi.emplace_back(Paragrafo{firma(chi), {}});
+    // One below the other, with room to write above each.
+    blocchi.emplace_back(
+        Paragrafo{"\n" + firma("Progettista") + "\n\n" + firma("Verificatore"), {}});
 }
 
 }  // namespace korven::report

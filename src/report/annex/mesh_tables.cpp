@@ -99,7 +99,7 @@ tables::Prospetto prospettoErroreMaglia(const Margine& margine) {
     riga(unita::momentoAlMetro, "momento negativo", tables::momento, e.momentoNegativo);
     riga(unita::forzaAlMetro, "Taglio", tables::forza, e.taglio);
     riga(unita::spostamentoFine, "Spostamento", tables::spostamento, e.spostamento);
-    riga(unita::forzaAlMetro, "Tiro", tables::forza, e.tiro);
+    riga(unita::forzaAlMetro, "Tiranti e puntoni", tables::forza, e.tiro);
     p.note = senzaOrdine.note();
     return p;
 }

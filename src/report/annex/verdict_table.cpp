@@ -43,7 +43,7 @@ struct Genere {
     const char* fallito;
     const char* nonAssestato;
 };
-constexpr Genere maschile = {"verificato", "non verificato", "non assestato"};
+constexpr Genere maschile = {"verificato", "NON verificato", "non assestato"};
 constexpr Genere femminile = {"verificata", "NON verificata", "non assestata"};
 
 Cella verdetto(const Genere& genere, bool fallito) {

@@ -170,6 +170,19 @@ TEST_F(FogliParete, TellTheStageOfAnEnvelopesPeak) {
         << testing::PrintToString(testi);
 }
 
+// In every language, however long its words are.
+TEST_F(FogliParete, TellWhichWayPositiveDisplacementsPoint) {
+    const auto parete = live::calcola(test::progettoSemplice(), segmenti);
+    for (int lingua = 1; lingua <= 6; ++lingua) {
+        base::impostaLingua(lingua);
+        std::string testi;
+        for (const Testo& t : test::figure<Testo>(
+                 scenaInviluppi(parete, formatoInviluppi.larghezza, formatoInviluppi.altezza)))
+            testi += t.testo + " ";
+        EXPECT_NE(testi.find(base::traduttore("+ verso lo scavo")), std::string::npos) << testi;
+    }
+}
+
 // The reader has nothing else that says what turns the head, or why some anchors are grey.
 TEST_F(FogliParete, ValueAllLoadsOfTheHeadAndExplainAnchorsThatAreNotInPlace) {
     std::size_t conMomento = 0, conFuturi = 0;

@@ -140,7 +140,7 @@ TEST(Copertina, SaysOfAWallThatFallsThatItIsNotVerified) {
     cade.tirantiFase[1] = cade.tirantiFase[2] = 0;
     cade.lunghezzaParatia = cade.profFase[cade.nFasi] + 0.1;
     const auto blocchi = capitolo(capitoloCopertina, fascicoloDi(cade));
-    EXPECT_EQ(riga(blocchi, "Equilibrio di tutte le fasi")[1], "non verificato");
+    EXPECT_EQ(riga(blocchi, "Equilibrio di tutte le fasi")[1], "NON verificato");
     EXPECT_EQ(riga(blocchi, "Flessione")[1], "nessuna verifica");
 }
 
