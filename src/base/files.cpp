@@ -114,12 +114,17 @@ ScrittoreFile::ScrittoreFile(const std::string& percorso, const Disco& disco)
     // A name of its own: after the longest name that a folder takes there is no room for more.
     const std::string modello = cartellaDi(meta_) + "/.korven-XXXXXX";
     // In custody, so that nobody takes it for what a killed program left (folders/leftovers.hpp).
-    do {
-        if (file_ >= 0) ::close(file_);
+    // Whoever sweeps may be quicker once, not always: a disk on which no file ever bears its own
+    // name tells it otherwise by the numbers of its files, and would be asked for ever.
+    constexpr int tentativi = 20;
+    for (int i = 0; i < tentativi; ++i) {
         provvisorio_ = modello;
         file_ = disco_.creaProvvisorio(provvisorio_);
         if (file_ < 0) nonScritto(percorso, errno);
-    } while (prendiInCustodia(file_) == Custodia::altrui || !portaIlNome(file_, provvisorio_));
+        if (prendiInCustodia(file_) != Custodia::altrui && portaIlNome(file_, provvisorio_)) return;
+        abbandona();
+    }
+    nonScritto(percorso, EIO);
 }
 
 ScrittoreFile::~ScrittoreFile() { abbandona(); }

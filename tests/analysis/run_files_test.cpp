@@ -35,6 +35,40 @@ TEST(FileInCorso, LeavesNoHalfFileOnAFullDisk) {
     }
 }
 
+// The result file that is there belongs to another wall: it goes with the first call, and no half
+// of the new one may take its place.
+TEST(FileInCorso, LeavesNoHalfFileWhicheverCallOfTheDiskFails) {
+    const test::DiscoContato intatto;
+    std::string nuovo;
+    {
+        Banco banco(progettoSemplice());
+        CalcoloParatia(relazione,
+                       {banco.dialogo, banco.avanzamento, banco.uscita, nullptr, intatto});
+        nuovo = test::contenuto(banco.risultati());
+    }
+    ASSERT_GT(intatto.chiamate.size(), 9u);
+    for (std::size_t quale = 1; quale <= intatto.chiamate.size(); ++quale) {
+        Banco banco(progettoSemplice());
+        const test::DiscoContato disco(quale);
+        std::string motivo;
+        try {
+            CalcoloParatia(relazione,
+                           {banco.dialogo, banco.avanzamento, banco.uscita, nullptr, disco});
+        } catch (const base::ErroreFile& errore) {
+            motivo = errore.atteso();
+        }
+        const std::string& chiamata = intatto.chiamate[quale - 1];
+        if (chiamata.ends_with("cartella")) {
+            EXPECT_EQ(motivo, "");
+            EXPECT_EQ(test::contenuto(banco.risultati()), nuovo);
+        } else {
+            EXPECT_NE(motivo.find("errore del disco"), std::string::npos) << quale << chiamata;
+            EXPECT_FALSE(banco.haRisultati()) << quale << chiamata;
+            EXPECT_EQ(banco.uscita.relazioni, 0) << quale << chiamata;
+        }
+    }
+}
+
 TEST(FileInCorso, TakesTheProgressDisplayAlongWhenTheRunDoesNotFinish) {
     Banco banco(progettoSemplice());
     fileCorrente = banco.risultati();

@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "base/file_error.hpp"
 #include "support/failing_disk.hpp"
@@ -140,6 +141,48 @@ TEST(ScriviFile, LeavesNothingOfANewFileWhicheverCallFails) {
                   nonScritto(cartella / "f", motivo));
         EXPECT_EQ(voci(cartella), 0u) << motivo;
     }
+}
+
+TEST(ScriviFile, BringsTheBytesToTheDiskBeforeTheName) {
+    const CartellaProvvisoria cartella;
+    const test::DiscoContato disco;
+    scriviFile(cartella / "f", "dopo", disco);
+    const std::vector<std::string> ordine = {"crea",     "scrivi",        "versa",
+                                             "rinomina", "apri cartella", "versa cartella"};
+    EXPECT_EQ(disco.chiamate, ordine);
+}
+
+TEST(ScriviFileNuovo, BringsTheBytesAndThenTheNameToTheDisk) {
+    const CartellaProvvisoria cartella;
+    const test::DiscoContato disco;
+    scriviFileNuovo(cartella / "f", "dopo", disco);
+    const std::vector<std::string> ordine = {"apri",   "scrivi",        "versa",
+                                             "chiudi", "apri cartella", "versa cartella"};
+    EXPECT_EQ(disco.chiamate, ordine);
+}
+
+// A disk on which the file that was made never is the one that bears its name.
+class DiscoSmemorato : public test::DiscoGuasto {
+ public:
+    int creaProvvisorio(std::string& modello) const override {
+        const int file = DiscoGuasto::creaProvvisorio(modello);
+        std::filesystem::remove(modello);
+        metti(modello, "");
+        ++creati;
+        return file;
+    }
+    mutable int creati = 0;
+};
+
+TEST(ScriviFile, GivesUpOnADiskThatForgetsItsFilesAndLeavesNone) {
+    const CartellaProvvisoria cartella;
+    metti(cartella / "f", "prima");
+    const DiscoSmemorato disco;
+    EXPECT_EQ(detto([&] { scriviFile(cartella / "f", "dopo", disco); }),
+              nonScritto(cartella / "f", "errore del disco"));
+    EXPECT_EQ(disco.creati, 20);
+    EXPECT_EQ(contenuto(cartella / "f"), "prima");
+    EXPECT_EQ(voci(cartella), 1u);
 }
 
 TEST(ScriviFileNuovo, WritesUnderAFreeNameAlone) {

@@ -37,6 +37,32 @@ TEST_F(Parziale, BearsItsOwnNameUntilItIsDone) {
     EXPECT_FALSE(fs::exists(parziale));
 }
 
+TEST_F(Parziale, ComesToTheDiskBeforeItTakesTheName) {
+    const test::DiscoContato disco;
+    FileParziale file(nome, disco);
+    file.scrivi("a\r\n");
+    file.concludi();
+    const std::vector<std::string> ordine = {"apri", "scrivi", "versa", "rinomina", "chiudi"};
+    EXPECT_EQ(disco.chiamate, ordine);
+}
+
+TEST_F(Parziale, LeavesTheOldFileWholeWhicheverCallFails) {
+    for (std::size_t quale = 1; quale <= 4; ++quale) {
+        test::metti(nome, "vecchio");
+        const test::DiscoContato disco(quale);
+        EXPECT_THROW(
+            {
+                FileParziale file(nome, disco);
+                file.scrivi("a\r\n");
+                file.concludi();
+            },
+            ErroreScrittura)
+            << quale;
+        EXPECT_EQ(contenuto(nome), "vecchio") << quale;
+        fs::remove(parziale);
+    }
+}
+
 TEST_F(Parziale, StaysWhereAStudyEndsEarlyAndNoCleaningTakesIt) {
     FileParziale(nome).scrivi("a\r\n");
     togliProvvisori(cartella.percorso());

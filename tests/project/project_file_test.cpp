@@ -354,5 +354,33 @@ TEST(FileDiProgetto, StaysAsItWasOnAFullDisk) {
     fileCorrente.clear();
 }
 
+// Once the file has taken its name it is saved: a folder that can't be flushed is no failure.
+TEST(FileDiProgetto, IsTheOldOneOrTheNewOneWhicheverCallOfTheDiskFails) {
+    const test::CartellaProvvisoria cartella;
+    fileCorrente = cartella / "muro.kvd";
+    const test::DiscoContato intatto;
+    scriviProgetto(intatto);
+    const std::string nuovo = test::contenuto(fileCorrente);
+    ASSERT_EQ(intatto.chiamate.size(), 6u);
+    for (std::size_t quale = 1; quale <= intatto.chiamate.size(); ++quale) {
+        test::metti(fileCorrente, "prima");
+        const test::DiscoContato disco(quale);
+        std::string motivo;
+        try {
+            scriviProgetto(disco);
+        } catch (const base::ErroreScrittura& errore) {
+            motivo = errore.atteso();
+        }
+        const bool salvato = quale > 4;
+        const std::string& chiamata = intatto.chiamate[quale - 1];
+        EXPECT_EQ(motivo, salvato ? "" : "impossibile scrivere il file (errore del disco)")
+            << chiamata;
+        EXPECT_EQ(test::contenuto(fileCorrente), salvato ? nuovo : "prima") << chiamata;
+        EXPECT_EQ(std::distance(std::filesystem::directory_iterator(cartella.percorso()), {}), 1)
+            << chiamata;
+    }
+    fileCorrente.clear();
+}
+
 }  // namespace
 }  // namespace korven::project

@@ -1,11 +1,14 @@
 #pragma once
 
+#include <fcntl.h>
+
 #include <cerrno>
 #include <cstddef>
 #include <cstdlib>
 #include <limits>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "base/disk.hpp"
 
@@ -57,6 +60,56 @@ class DiscoGuasto : public base::Disco {
 class DiscoPieno : public DiscoGuasto {
  public:
     explicit DiscoPieno(std::size_t byte) { spazio = byte; }
+};
+
+/// A disk that counts what is asked of it and fails one call, whichever it is. Without that call,
+/// what it has been asked is the order in which a file is brought to the disk.
+class DiscoContato : public base::Disco {
+ public:
+    /// @param quale  the call that fails, from 1; 0 for none
+    explicit DiscoContato(std::size_t quale = 0) : quale_(quale) {}
+
+    int apri(const std::string& percorso, int modo, mode_t permessi) const override {
+        const bool cartella = (modo & O_DIRECTORY) != 0;
+        if (fallisce(cartella ? "apri cartella" : "apri")) return -1;
+        const int file = base::discoDiSistema().apri(percorso, modo, permessi);
+        if (cartella) cartella_ = file;
+        return file;
+    }
+    int creaProvvisorio(std::string& modello) const override {
+        return fallisce("crea") ? -1 : base::discoDiSistema().creaProvvisorio(modello);
+    }
+    ssize_t scrivi(int file, std::string_view byte) const override {
+        return fallisce("scrivi") ? -1 : base::discoDiSistema().scrivi(file, byte);
+    }
+    bool accorcia(int file, off_t lunghezza) const override {
+        return !fallisce("accorcia") && base::discoDiSistema().accorcia(file, lunghezza);
+    }
+    bool versa(int file) const override {
+        return !fallisce(file == cartella_ ? "versa cartella" : "versa") &&
+               base::discoDiSistema().versa(file);
+    }
+    // One that fails has closed the file all the same.
+    bool chiudi(int file) const override {
+        const bool chiuso = base::discoDiSistema().chiudi(file);
+        return !fallisce("chiudi") && chiuso;
+    }
+    bool rinomina(const std::string& da, const std::string& a) const override {
+        return !fallisce("rinomina") && base::discoDiSistema().rinomina(da, a);
+    }
+
+    mutable std::vector<std::string> chiamate;
+
+ private:
+    [[nodiscard]] bool fallisce(const char* chiamata) const {
+        chiamate.emplace_back(chiamata);
+        if (chiamate.size() != quale_) return false;
+        errno = EIO;
+        return true;
+    }
+
+    std::size_t quale_;
+    mutable int cartella_ = -1;
 };
 
 /// What it says of a full disk, in Italian.
