@@ -15,9 +15,9 @@ namespace korven::batch {
 ///
 /// The first signal only asks: the run stops at its next iteration and removes its result file; a
 /// report or text being written is finished, so that no half file stays, and the program then ends
-/// as stopped. A second one of the same kind ends the program at once, as it would without this
-/// class: a way out when the disk or the terminal hangs. A signal that was ignored when the program
-/// began (nohup) stays ignored.
+/// as stopped. Another one, a fifth of a second later or more, ends the program at once, as it
+/// would without this class: a way out when the disk or the terminal hangs. A signal that was
+/// ignored when the program began (nohup) stays ignored.
 class Interruzioni {
  public:
     Interruzioni();
