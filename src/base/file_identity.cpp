@@ -9,6 +9,8 @@
 #include <system_error>
 
 #include "base/code_page.hpp"
+#include "base/file_error.hpp"
+#include "base/translated_texts.hpp"
 
 namespace korven::base {
 
@@ -90,6 +92,11 @@ ImprontaFile::ImprontaFile(const std::string& percorso) {
     numero_ = static_cast<long long>(stato.st_ino);
     secondi_ = stato.st_ctim.tv_sec;
     nanosecondi_ = stato.st_ctim.tv_nsec;
+}
+
+void rifiutaSpeciale(const std::string& percorso, const struct stat& stato) {
+    if (!S_ISREG(stato.st_mode) && !S_ISDIR(stato.st_mode))
+        throw ErroreFile(percorso, 0, traduttore("non è un file normale"));
 }
 
 }  // namespace korven::base

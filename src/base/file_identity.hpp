@@ -4,6 +4,8 @@
 #include <optional>
 #include <string>
 
+struct stat;
+
 namespace korven::base {
 
 /// The file that a name leads to: a link leads to its target, which need not exist.
@@ -18,6 +20,11 @@ namespace korven::base {
 
 /// True for a plain file of the user's own: no link to one, and nothing that another user has made.
 [[nodiscard]] bool fileProprio(const std::string& percorso);
+
+/// Refuses the name of a device, a pipe or a socket: reading it could wait for ever or never end,
+/// and a rename would replace it.
+/// @throws ErroreFile
+void rifiutaSpeciale(const std::string& percorso, const struct stat& stato);
 
 /// When a file was written last; nothing if there is none.
 [[nodiscard]] std::optional<std::time_t> quandoScritto(const std::string& percorso);

@@ -12,18 +12,13 @@
 #include "base/file_custody.hpp"
 #include "base/file_error.hpp"
 #include "base/file_identity.hpp"
+#include "base/open_file.hpp"
 #include "base/system_reason.hpp"
 #include "base/translated_texts.hpp"
 
 namespace korven::base {
 
 namespace {
-
-[[noreturn]] void nonLetto(const std::string& percorso, int codice) {
-    throw ErroreFile(
-        percorso, 0,
-        traduttore("impossibile leggere il file") + " (" + motivoSistema(codice) + ")");
-}
 
 [[noreturn]] void nonCreata(const std::string& cartella, int codice) {
     throw ErroreFile(
@@ -47,13 +42,6 @@ class Descrittore {
     const Disco& disco_;
     int numero_;
 };
-
-// The name of a device, a pipe or a socket: reading it could wait for ever or never end, and a
-// rename would replace it.
-void rifiutaSpeciale(const std::string& percorso, const struct stat& stato) {
-    if (!S_ISREG(stato.st_mode) && !S_ISDIR(stato.st_mode))
-        throw ErroreFile(percorso, 0, traduttore("non è un file normale"));
-}
 
 void rifiutaEnorme(const std::string& percorso, std::size_t byte) {
     if (byte > massimoByte) throw ErroreFile(percorso, 0, traduttore("il file è troppo grande"));
@@ -81,20 +69,14 @@ void versaCartella(const Disco& disco, const std::string& cartella) {
 }  // namespace
 
 std::string leggiFile(const std::string& percorso) {
-    // Without waiting: a pipe without a writer would hold the program.
-    const Descrittore file(discoDiSistema(), percorso, O_RDONLY | O_NONBLOCK);
-    struct stat stato {};
-    if (*file < 0 || ::fstat(*file, &stato) != 0) nonLetto(percorso, errno);
-    rifiutaSpeciale(percorso, stato);
-    rifiutaEnorme(percorso, static_cast<std::size_t>(stato.st_size));
+    constexpr std::size_t blocco = 65536;
+    const FileAperto file(percorso);
+    rifiutaEnorme(percorso, file.lunghezza());
     std::string contenuto;
-    char blocco[65536];
     for (;;) {
-        const ssize_t letti = ::read(*file, blocco, sizeof blocco);
-        if (letti < 0 && errno == EINTR) continue;  // a signal cut it short
-        if (letti < 0) nonLetto(percorso, errno);
-        if (letti == 0) return contenuto;
-        contenuto.append(blocco, static_cast<std::size_t>(letti));
+        const std::string altri = file.leggi(contenuto.size(), blocco);
+        if (altri.empty()) return contenuto;
+        contenuto += altri;
         rifiutaEnorme(percorso, contenuto.size());  // it may grow, or not know its size
     }
 }

@@ -33,6 +33,7 @@ struct Exempt {
 
 const std::map<std::string, Exempt> noUnits = {
     {"analysis/trial_run.cpp", {{"1000"}, "a bound above all factors"}},
+    {"batch/run/interruption.cpp", {{"1000"}, "milliseconds of a clock"}},
     {"batch/run/series_size.cpp", {{"1e9"}, "bytes of a gigabyte"}},
     {"project/program_numbers.hpp", {{"1e6", "1e7"}, "rounds to six and to seven decimals"}},
     {"drawings/annex/paper.hpp", {{"10"}, "the size of a font"}},

@@ -2,11 +2,10 @@
 
 #include <utility>
 
-#include "base/files.hpp"
 #include "batch/run/failure.hpp"
 #include "project/project_data.hpp"
 #include "studies/plan/fault_words.hpp"
-#include "studies/plan/plan_file.hpp"
+#include "studies/plan/long_plan.hpp"
 #include "studies/plan/typed_grid.hpp"
 #include "studies/plan/typed_samples.hpp"
 
@@ -33,8 +32,8 @@ VariantiScelte scelte(studies::Letto<T> letto) {
 
 // All that is wrong with the file, a line a fault.
 VariantiScelte delPiano(const std::string& file) {
-    auto letto = studies::leggiPiano(Progetto, base::leggiFile(file));
-    if (letto.piano) return {std::make_unique<studies::Piano>(*std::move(letto.piano)), fatto, {}};
+    auto letto = studies::PianoLungo::leggi(Progetto, file);
+    if (letto.piano) return {std::move(letto.piano), fatto, {}};
     std::string perche = file;
     for (const DifettoPiano& difetto : letto.difetti) perche += "\n  " + studies::parole(difetto);
     return {nullptr, ingressoRotto, perche};

@@ -97,6 +97,8 @@ void ContoStudio::controllate(const std::vector<Controllata>& altre) {
     for (const Controllata& c : altre) {
         ++controllate_;
         senzaRiposo_ += c.esito.accordo == Accordo::senzaRiposo ? 1 : 0;
+        if (c.esito.accordo == Accordo::senzaRiposo && primeSenzaRiposo_.size() < massimeElencate)
+            primeSenzaRiposo_.push_back(c.variante);
         incerte_ += c.esito.accordo == Accordo::incerto ? 1 : 0;
         if (!c.esito.diversi()) continue;
         ++diverse_;
@@ -147,6 +149,13 @@ std::vector<std::string> ContoStudio::righeControllo() const {
                    "fasi non trova riposo, %4 senza soluzione di equilibrio."),
         {std::to_string(controllate_), std::to_string(diverse_), std::to_string(senzaRiposo_),
          std::to_string(incerte_)}));
+    std::string senzaRiposo;
+    for (const std::uint64_t i : primeSenzaRiposo_)
+        senzaRiposo.append(senzaRiposo.empty() ? "" : ", ").append(std::to_string(i + 1));
+    if (senzaRiposo_ > primeSenzaRiposo_.size()) senzaRiposo += ", ...";
+    if (!senzaRiposo.empty())
+        testo.push_back(riempito(
+            traduttore("Il calcolo per fasi non trova riposo nelle varianti %1."), {senzaRiposo}));
     for (const Controllata& c : prime_) testo.push_back(parole(c));
     if (diverse_ > prime_.size())
         testo.push_back(

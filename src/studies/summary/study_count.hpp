@@ -64,7 +64,8 @@ class ContoStudio {
     Riassunto riassunto_;
     std::uint64_t limitati_ = 0;
     std::uint64_t controllate_ = 0, senzaRiposo_ = 0, incerte_ = 0, diverse_ = 0;
-    std::vector<Controllata> prime_;  ///< of those that differ
+    std::vector<Controllata> prime_;               ///< of those that differ
+    std::vector<std::uint64_t> primeSenzaRiposo_;  ///< the first variants without rest
 };
 
 }  // namespace korven::studies
