@@ -44,6 +44,7 @@ constexpr GivenUp words[] = {
     {1, "Abminderung der Festigkeit", "Festigkeitsabminderung"},
     {1, "Gamma r\\b", "Gamma sat."},
     {1, "Werkstoff", "Baustoff"},
+    {1, "\\bwaagrecht", "waagerecht"},
     {1, "nach einem Gesetz\\b", "Verteilung"},
     {1, "korven32c serie\\b", "korven32c series"},
     {2, "note de calcul", "rapport"},
@@ -55,6 +56,7 @@ constexpr GivenUp words[] = {
     {2, "\\b[Aa]ncrages?\\b", "tirant"},
     {2, "signe décimal", "séparateur décimal"},
     {2, "défaill", "échouer"},
+    {2, "insécurité", "du côté défavorable"},
     {2, "germe des", "graine"},
     {2, "korven32c serie\\b", "korven32c series"},
     {2, "taux d'utilisation", "taux de travail"},
@@ -67,6 +69,7 @@ constexpr GivenUp words[] = {
     {3, "[Ee]quilibrio cierto", "solución de equilibrio"},
     {3, "signo decimal", "separador decimal"},
     {3, "esfuerzo axil", "esfuerzo normal"},
+    {3, "inseguridad", "del lado inseguro"},
     {3, "\\bcercos\\b", "estribos"},
     {3, "no drenad", "sin drenaje"},
     {3, "korven32c serie\\b", "korven32c series"},
@@ -95,6 +98,7 @@ constexpr GivenUp words[] = {
     {5, "esforço axial", "esforço normal"},
     {5, "desvio padrão", "desvio-padrão"},
     {5, "ficheiro gravado", "guardado"},
+    {5, "insegur", "contra a segurança"},
 };
 
 struct Passage {
