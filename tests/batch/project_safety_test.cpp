@@ -194,5 +194,23 @@ TEST_F(RelazioneRimasta, IsNotMixedUpWithOneThatLandsElsewhere) {
     EXPECT_FALSE(dice(console({"calcola", cartella / "v1.2/muro.kvd"}).errori, "primo punto"));
 }
 
+// A folder of outputs, in which no project is ever opened.
+TEST_F(ProgettoAlSicuro, LiesElsewhereThanWhatAKilledProgramLeftBesideAnOutput) {
+    const std::string altrove = cartella / "uscite";
+    fs::create_directory(altrove);
+    const std::vector<std::vector<std::string>> comandi = {
+        {"imposta", progetto, "sovraccMonte=5", "--uscita", altrove + "/nuovo.kvd"},
+        {"campi", progetto, "--csv", altrove + "/campi.csv"},
+        {"serie", progetto, "--griglia", "sovraccMonte=0:5:5", "--uscita", altrove + "/studio.csv"},
+        {"sezione", progetto, "--dxf", altrove + "/sezione.dxf"}};
+    for (const auto& comando : comandi) {
+        metti(altrove + "/.korven-a1B2c3", "metà");
+        const auto esito = console(comando);
+        EXPECT_EQ(esito.codice, 0) << esito.errori;
+        EXPECT_FALSE(fs::exists(altrove + "/.korven-a1B2c3")) << comando.front();
+        EXPECT_TRUE(fs::exists(comando.back()));
+    }
+}
+
 }  // namespace
 }  // namespace korven::batch

@@ -1,9 +1,13 @@
 #include "batch/run/output_names.hpp"
 
+#include <filesystem>
+#include <set>
+
 #include "base/colon.hpp"
 #include "base/file_identity.hpp"
 #include "base/files.hpp"
 #include "base/folders/file_names.hpp"
+#include "base/folders/leftovers.hpp"
 #include "base/translated_texts.hpp"
 #include "commands/report_files.hpp"
 #include "project/output_guard.hpp"
@@ -36,6 +40,10 @@ void controllaNomi(const std::vector<std::string>& uscite, const std::vector<std
         for (std::size_t j = 0; j < i; ++j)
             if (base::stessoFile(uscite[i], uscite[j])) throw NomiInConflitto(uscite[i], uscite[j]);
     }
+    std::set<std::string> cartelle;
+    for (const auto& uscita : uscite)
+        cartelle.insert(std::filesystem::path(uscita).parent_path().string());
+    for (const auto& cartella : cartelle) base::togliProvvisori(cartella);
 }
 
 void controllaTabella(const std::string& percorso, const std::vector<std::string>& altri) {

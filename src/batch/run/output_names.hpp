@@ -24,7 +24,8 @@ class NomiInConflitto : public std::runtime_error {
 [[nodiscard]] std::string nomeProprio(const base::Gemelli& nome, const std::string& estensione);
 
 /// Refuses outputs of a command that would replace one another, or one of `altri`: by what the
-/// names will become (`base::stessoFile`), whether the files exist yet or not.
+/// names will become (`base::stessoFile`), whether the files exist yet or not. What killed programs
+/// left in their folders, where perhaps no project is ever opened, is swept away then.
 /// @throws NomiInConflitto with both names
 void controllaNomi(const std::vector<std::string>& uscite, const std::vector<std::string>& altri);
 
