@@ -2,13 +2,17 @@
 
 #include <QGuiApplication>
 #include <clocale>
+#include <cstdio>
 
 namespace korven::device {
 
 namespace {
 
-// What Qt has to tell here is about desktops that do not exist.
-void taci(QtMsgType, const QMessageLogContext&, const QString&) {}
+// What Qt has to tell here is about desktops that do not exist, but for its last words: after them
+// it ends the program.
+void taci(QtMsgType tipo, const QMessageLogContext&, const QString& testo) {
+    if (tipo == QtFatalMsg) std::fputs((testo.toStdString() + '\n').c_str(), stderr);
+}
 
 }  // namespace
 
