@@ -9,6 +9,7 @@ packages_fuzz="clang"
 packages_external="librecad libreoffice-draw-nogui libreoffice-calc-nogui poppler-utils imagemagick"
 packages_printing="cups printer-driver-cups-pdf poppler-utils imagemagick" # a real print queue
 packages_bare="mmdebstrap xvfb xauth xdotool openbox"  # tests/external/bare_root
+packages_campaigns="strace xvfb xauth xdotool openbox"  # tests/campaigns
 packages_cluster="slurm-wlm munge python3-distributed"  # tests/external/slurm and dask
 packages_verification="python3-numpy"  # tests/oracle/verification
 packages_documents="libreoffice-writer-nogui poppler-utils"  # to look at what outdoc writes
