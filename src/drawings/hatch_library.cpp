@@ -50,6 +50,19 @@ Campiture leggi() {
     auto conteggi = apri("set1.rtn");
     auto unita = apri("set2.rtn");
     auto nomi = apri("set3" + std::string(base::siglaLingua(base::linguaCorrente())) + ".rtn");
+    return leggiCampiture(conteggi, unita, nomi);
+}
+
+std::int16_t numero16(const char* byte) {
+    const auto basso = static_cast<unsigned char>(byte[0]);
+    const auto alto = static_cast<unsigned char>(byte[1]);
+    return static_cast<std::int16_t>(static_cast<std::uint16_t>(basso | alto << 8));
+}
+
+}  // namespace
+
+Campiture leggiCampiture(base::LettoreRighe& conteggi, base::LettoreRighe& unita,
+                         base::LettoreRighe& nomi) {
     Campiture tutte;
     int tratti = 0;
     for (int i = 1; i <= numeroCampiture; ++i) {
@@ -63,14 +76,6 @@ Campiture leggi() {
     return tutte;
 }
 
-std::int16_t numero16(const char* byte) {
-    const auto basso = static_cast<unsigned char>(byte[0]);
-    const auto alto = static_cast<unsigned char>(byte[1]);
-    return static_cast<std::int16_t>(static_cast<std::uint16_t>(basso | alto << 8));
-}
-
-}  // namespace
-
 const Campiture& campiture() {
     if (!lette) lette = leggi();
     return *lette;
@@ -80,14 +85,18 @@ void dimenticaCampiture() { lette.reset(); }
 
 std::vector<TrattoCampitura> leggiTratti(const Campitura& campitura) {
     const std::string percorso = base::fileProgramma("set4.rtn");
-    const std::string tutto = base::leggiFile(percorso);
+    return trattiDi(campitura, base::leggiFile(percorso), percorso);
+}
+
+std::vector<TrattoCampitura> trattiDi(const Campitura& campitura, std::string_view byte,
+                                      const std::string& percorso) {
     const auto inizio = static_cast<std::size_t>((campitura.primoTratto - 1) * byteTratto);
     const auto quanti = static_cast<std::size_t>(campitura.nTratti * byteTratto);
-    if (tutto.size() < inizio + quanti)
+    if (byte.size() < inizio + quanti)
         throw base::ErroreFile(
             percorso, 0,
             traduttore("il file termina prima dei tratti della campitura") + ": " + campitura.nome);
-    const std::string_view byte = std::string_view(tutto).substr(inizio, quanti);
+    byte = byte.substr(inizio, quanti);
     std::vector<TrattoCampitura> tratti;
     for (std::size_t i = 0; i < byte.size(); i += byteTratto) {
         const char* t = byte.data() + i;

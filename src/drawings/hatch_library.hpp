@@ -2,9 +2,11 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "base/table.hpp"
+#include "base/text_lines.hpp"
 
 // The library of hatches, four files of the program folder:
 //
@@ -40,11 +42,22 @@ using Campiture = base::Tabella<Campitura, numeroCampiture>;
 /// pattern with strokes has no unit above 0; the next call then reads again
 [[nodiscard]] const Campiture& campiture();
 
+/// The patterns out of set1.rtn, set2.rtn and the names, in this order.
+/// @throws base::ErroreFile as `campiture`
+[[nodiscard]] Campiture leggiCampiture(base::LettoreRighe& conteggi, base::LettoreRighe& unita,
+                                       base::LettoreRighe& nomi);
+
 /// Makes the next call of `campiture` read anew.
 void dimenticaCampiture();
 
 /// The strokes of a pattern, read from set4.rtn by every call.
 /// @throws base::ErroreFile when the file is missing or ends before the last of them
 [[nodiscard]] std::vector<TrattoCampitura> leggiTratti(const Campitura& campitura);
+
+/// The same out of the bytes of set4.rtn.
+/// @param percorso  the name of the file, for the error
+[[nodiscard]] std::vector<TrattoCampitura> trattiDi(const Campitura& campitura,
+                                                    std::string_view byte,
+                                                    const std::string& percorso);
 
 }  // namespace korven::drawings

@@ -8,7 +8,6 @@
 #include "base/code_page.hpp"
 #include "base/files.hpp"
 #include "base/number_text.hpp"
-#include "base/text_lines.hpp"
 #include "base/translated_texts.hpp"
 #include "plot/plot_engine.hpp"
 
@@ -55,9 +54,13 @@ int indice(std::span<const std::string> caratteri, std::string_view nome) {
 }  // namespace
 
 ImpostazioniStampa leggiImpostazioni(const std::string& percorso) {
-    ImpostazioniStampa lette;
-    if (!base::esisteFile(percorso)) return lette;
+    if (!base::esisteFile(percorso)) return {};
     auto file = base::LettoreRighe::apri(percorso);
+    return leggiImpostazioni(file);
+}
+
+ImpostazioniStampa leggiImpostazioni(base::LettoreRighe& file) {
+    ImpostazioniStampa lette;
     for (const auto& campo : interi)
         lette.*campo.valore = aSediciBit(file.numero(base::traduttore(campo.etichetta)));
     for (const auto& campo : testi)

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "base/disk.hpp"
+#include "base/text_lines.hpp"
 
 // The page layout for text printing, kept in the file printer.cfg of the program folder.
 
@@ -28,6 +29,9 @@ struct ImpostazioniStampa {
 /// file the values are those above.
 /// @throws ErroreFile when the file is cut short or a number is none
 [[nodiscard]] ImpostazioniStampa leggiImpostazioni(const std::string& percorso);
+
+/// The same out of a file that is there.
+[[nodiscard]] ImpostazioniStampa leggiImpostazioni(base::LettoreRighe& file);
 
 /// The bytes of the file, always nine lines.
 [[nodiscard]] std::string testoImpostazioni(const ImpostazioniStampa& impostazioni);

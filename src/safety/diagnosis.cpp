@@ -28,26 +28,6 @@ Causa causa(EsitoFase esito) {
 
 }  // namespace
 
-std::string_view parola(Causa causa) {
-    switch (causa) {
-        case Causa::eseguito:
-            return "eseguito";
-        case Causa::rifiutato:
-            return "rifiutato";
-        case Causa::meccanismo:
-            return "meccanismo";
-        case Causa::oscilla:
-            return "oscilla";
-        case Causa::fermato:
-            return "fermato";
-        case Causa::nonDefinito:
-            return "non_definito";
-        case Causa::nessunNumero:
-            return "nessun_numero";
-    }
-    return {};
-}
-
 std::string_view parola(EsitoFase esito) {
     return esito == EsitoFase::equilibrio ? "equilibrio" : parola(causa(esito));
 }

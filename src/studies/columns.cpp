@@ -191,9 +191,9 @@ std::string nessunaColonna(std::string_view nome, int tiranti) {
     if (const auto vicino = base::nomeVicino(nome, nomi))
         return base::riempito(base::traduttore("nessun risultato si chiama così; forse %1?"),
                               {*vicino});
-    std::string tutti;
-    for (const std::string& uno : nomi) tutti.append(tutti.empty() ? "" : ", ").append(uno);
-    return base::riempito(base::traduttore("nessun risultato si chiama così: ci sono %1"), {tutti});
+    std::string elenco;
+    for (const std::string& uno : nomi) elenco.append(elenco.empty() ? "" : ", ").append(uno);
+    return base::riempito(base::traduttore("nessun risultato si chiama così: ci sono %1"), {elenco});
 }
 
 bool disegnabile(const Colonna& colonna) {
