@@ -40,6 +40,11 @@ class Cercato {
         trovato_ = &nome;
     }
     explicit Cercato(std::size_t limite) : limite_(limite) {}
+    /// False for lengths that alone put two names too far apart: what is no name at all, a line of
+    /// a file of another kind, costs nothing then.
+    [[nodiscard]] bool possibile(std::size_t una, std::size_t altra) const {
+        return std::max(una, altra) - std::min(una, altra) <= limite_;
+    }
     [[nodiscard]] std::optional<std::string> esito() const {
         return trovato_ != nullptr && unico_ ? std::optional(*trovato_) : std::nullopt;
     }
@@ -60,7 +65,7 @@ std::optional<std::string> nomeVicino(std::string_view nome, std::span<const std
     for (const std::string& uno : nomi) {
         const std::string suo = minuscolo(uno);
         if (suo.starts_with(piccolo)) inizio.prova(uno, 0);
-        vicino.prova(uno, distanza(piccolo, suo));
+        if (vicino.possibile(piccolo.size(), suo.size())) vicino.prova(uno, distanza(piccolo, suo));
     }
     const auto trovato = vicino.esito();
     return trovato ? trovato : inizio.esito();

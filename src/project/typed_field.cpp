@@ -30,7 +30,8 @@ bool delTipo(const Campo& campo) {
 bool bandiera(double numero) { return numero == 0 || numero == 1 || numero == -1; }
 
 bool stessoNome(std::string_view uno, std::string_view altro) {
-    return base::minuscolo(uno) == base::minuscolo(altro);
+    // Small letters take as many bytes as capital ones.
+    return uno.size() == altro.size() && base::minuscolo(uno) == base::minuscolo(altro);
 }
 
 const Codice* codiceScritto(const Campo& campo, std::string_view testo) {

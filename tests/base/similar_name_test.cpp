@@ -26,5 +26,12 @@ TEST(NomeVicino, IsNoneWhereNobodyCouldTell) {
     EXPECT_FALSE(nomeVicino("spostamento", {}));
 }
 
+// A file of another kind is one name without end; to compare it letter by letter would take
+// minutes.
+TEST(NomeVicino, IsNotSoughtForWhatIsMuchLongerThanAllNames) {
+    const std::vector<std::string> molti(1000, std::string(1000, 'a'));
+    EXPECT_FALSE(nomeVicino(std::string(1000000, 'a'), molti));
+}
+
 }  // namespace
 }  // namespace korven::base

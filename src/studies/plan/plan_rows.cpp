@@ -41,7 +41,7 @@ void RighePiano::leggi(std::string_view testo, long primaRiga, std::vector<doubl
         // Values of columns that are none mean nothing.
         finita_ = difetti_.size() >= massimoDifetti || (campi_.empty() && !difetti_.empty());
     }
-    if (righe.difetto().empty()) return;
+    if (righe.difetto().empty() || difetti_.size() >= massimoDifetti) return;
     difetti_.push_back({.motivo = MotivoPiano::csv, .testo = righe.difetto()});
     finita_ = true;
 }
@@ -54,7 +54,8 @@ void RighePiano::segna(DifettoPiano difetto, long riga, std::size_t colonna) {
 
 void RighePiano::nomi(const exchange::RigaLetta& testata) {
     testata_ = true;
-    for (std::size_t j = 0; j < testata.celle.size(); ++j) {
+    // A file of another kind has faults without end.
+    for (std::size_t j = 0; j < testata.celle.size() && difetti_.size() < massimoDifetti; ++j) {
         const auto letto = campoDiStudio(dati_, senzaUnita(testata.cella(j)));
         if (const auto* difetto = std::get_if<DifettoPiano>(&letto)) {
             segna(*difetto, testata.riga, j + 1);
@@ -77,7 +78,7 @@ void RighePiano::variante(const exchange::RigaLetta& riga, std::vector<double>& 
               riga.riga, 0);
         return;
     }
-    for (std::size_t j = 0; j < campi_.size(); ++j) {
+    for (std::size_t j = 0; j < campi_.size() && difetti_.size() < massimoDifetti; ++j) {
         const auto letto = valoreDiStudio(campi_[j], riga.cella(j));
         if (const auto* difetto = std::get_if<DifettoPiano>(&letto))
             segna(*difetto, riga.riga, j + 1);

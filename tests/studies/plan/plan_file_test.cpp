@@ -101,5 +101,22 @@ TEST(Piano, TellsTheFirstTwentyFaultsOfManyRows) {
     EXPECT_EQ(leggi(testo).difetti.size(), 20U);
 }
 
+TEST(Piano, TellsTheFirstTwentyFaultsOfManyColumns) {
+    std::string ignoti = "no";
+    for (int i = 0; i < 1000; ++i) ignoti += ",no";
+    EXPECT_EQ(leggi(ignoti + "\n1\n").difetti.size(), 20U);
+    EXPECT_EQ(leggi(ignoti + "\n\"never ended").difetti.size(), 20U);
+}
+
+TEST(Piano, TellsTheFirstTwentyFaultsOfOneRow) {
+    std::string campi = "lunghezzaParatia", valori = "no";
+    for (const std::string colonna :
+         {"profStrato", "gammaN", "gammaSat", "phiStrato", "coesione", "suStrato", "ksStrato"})
+        campi += "," + colonna + "[1]," + colonna + "[2]";
+    campi += ",rigidezzaEJ,sovraccMonte,momentoTesta,forzaTesta,faldaMonte,faldaValle,gammaAcqua";
+    for (int i = 0; i < 21; ++i) valori += ",no";
+    EXPECT_EQ(leggi(campi + "\n" + valori + "\n").difetti.size(), 20U);
+}
+
 }  // namespace
 }  // namespace korven::studies
