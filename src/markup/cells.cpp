@@ -23,7 +23,9 @@ void CellGrid::fill(const ScanState& state) {
 
 std::string& CellGrid::cell(int row, int column) {
     if (row < 1 || row > maximumGridRows) throw base::ErroreIndice(row, maximumGridRows);
-    return rows_[static_cast<std::size_t>(row)][column];
+    const auto index = static_cast<std::size_t>(row);
+    if (rows_.size() <= index) rows_.resize(index + 1);
+    return rows_[index][column];
 }
 
 }  // namespace korven::markup

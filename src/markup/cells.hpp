@@ -1,5 +1,6 @@
 #pragma once
 
+#include <deque>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -21,8 +22,6 @@ inline constexpr int maximumGridColumns = 30;
 /// an earlier table left there.
 class CellGrid {
  public:
-    CellGrid() : rows_(maximumGridRows + 1) {}
-
     /// Takes the collected rows over. The number of columns is the number of cells of the last row.
     /// @throws ErroreIndice for a row beyond 510 or a cell beyond column 30
     void fill(const ScanState& state);
@@ -34,7 +33,9 @@ class CellGrid {
     [[nodiscard]] std::string& cell(int row, int column);
 
  private:
-    std::vector<base::Tabella<std::string, maximumGridColumns>> rows_;
+    // As many as were asked for, not 510: a document of one line is laid out in no time. References
+    // to cells stay when rows are added.
+    std::deque<base::Tabella<std::string, maximumGridColumns>> rows_;
     int rowCount_ = 0;
     int columns_ = 0;
 };
