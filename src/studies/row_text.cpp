@@ -91,7 +91,8 @@ bool RigheStudio::leggiCella(std::size_t j, std::string_view testo, double& valo
     const bool csv = formato_ == Formato::csv;
     if (testo == (csv ? "" : "null")) return true;
     const auto* sue = parole(j);
-    if (sue == nullptr) return leggiNumero(testo, valore);
+    // "inf" and "nan" are numbers to the library; a study writes neither.
+    if (sue == nullptr) return leggiNumero(testo, valore) && std::isfinite(valore);
     if (!csv) {
         if (testo.size() < 2 || testo.front() != '"' || testo.back() != '"') return false;
         testo = testo.substr(1, testo.size() - 2);

@@ -61,7 +61,8 @@ TEST(RigheStudio, AreRefusedWhereSomethingIsMissingOrWrong) {
     for (const char* riga :
          {"", "1", "0,12.5,31,eseguito,,1", "1,12.5,31,eseguito,", "1,12.5,31,eseguito,,1,2",
           "1,12.5,31,sospeso,,1", "1,12,5,31,eseguito,,1", "1,12.5,x,eseguito,,1",
-          "x,12.5,31,eseguito,,1", "variante,lunghezzaParatia [m],phiStrato[1] [°],causa,motivo,x"})
+          "x,12.5,31,eseguito,,1", "1,12.5,31,eseguito,,inf", "1,nan,31,eseguito,,1",
+          "variante,lunghezzaParatia [m],phiStrato[1] [°],causa,motivo,x"})
         EXPECT_FALSE(csv.leggi(riga, letti)) << riga;
     EXPECT_TRUE(csv.leggi("1,12.5,31,eseguito,,1", letti));
     for (const char* riga :
