@@ -10,21 +10,31 @@
 // Every file of the corpus goes through its fuzz target once more: what the fuzzer has found stays
 // found, also without a fuzzer.
 
-extern "C" {
-int fuzzProjectReader(const std::uint8_t* byte, std::size_t quanti);
-int fuzzResultReader(const std::uint8_t* byte, std::size_t quanti);
-int fuzzMarkupReader(const std::uint8_t* byte, std::size_t quanti);
-int fuzzTextTable(const std::uint8_t* byte, std::size_t quanti);
-}
+// The build writes the list of the targets, a KORVEN_FUZZ_TARGET(name) a line.
+#define KORVEN_FUZZ_TARGET(name) extern "C" int fuzz_##name(const std::uint8_t*, std::size_t);
+#include "fuzz_targets.inc"
+#undef KORVEN_FUZZ_TARGET
 
 namespace korven {
 namespace {
 
 namespace fs = std::filesystem;
 
-using Bersaglio = int (*)(const std::uint8_t*, std::size_t);
+struct Bersaglio {
+    const char* nome;
+    int (*prova)(const std::uint8_t*, std::size_t);
+};
 
-void ripeti(const char* nome, Bersaglio bersaglio) {
+const std::vector<Bersaglio> bersagli = {
+#define KORVEN_FUZZ_TARGET(name) {#name, fuzz_##name},
+#include "fuzz_targets.inc"
+#undef KORVEN_FUZZ_TARGET
+};
+
+class CorpusFuzz : public testing::TestWithParam<Bersaglio> {};
+
+TEST_P(CorpusFuzz, IsSurvivedByItsTarget) {
+    const auto& [nome, prova] = GetParam();
     std::vector<fs::path> file;
     for (const auto& voce : fs::directory_iterator(fs::path(KORVEN_FUZZ_CORPUS) / nome))
         file.push_back(voce.path());
@@ -32,16 +42,14 @@ void ripeti(const char* nome, Bersaglio bersaglio) {
     ASSERT_GE(file.size(), 5u) << "a corpus that nobody laid down proves nothing";
     for (const auto& uno : file) {
         const std::string byte = test::contenuto(uno.string());
-        EXPECT_NO_THROW(bersaglio(reinterpret_cast<const std::uint8_t*>(byte.data()), byte.size()))
+        EXPECT_NO_THROW(prova(reinterpret_cast<const std::uint8_t*>(byte.data()), byte.size()))
             << uno;
     }
-    EXPECT_NO_THROW(bersaglio(nullptr, 0)) << "an empty file";
+    EXPECT_NO_THROW(prova(nullptr, 0)) << "an empty file";
 }
 
-TEST(CorpusFuzz, ProjectReaderSurvivesAllItsFiles) { ripeti("project_reader", fuzzProjectReader); }
-TEST(CorpusFuzz, ResultReaderSurvivesAllItsFiles) { ripeti("result_reader", fuzzResultReader); }
-TEST(CorpusFuzz, MarkupReaderSurvivesAllItsFiles) { ripeti("markup_reader", fuzzMarkupReader); }
-TEST(CorpusFuzz, TextTableSurvivesAllItsFiles) { ripeti("text_table", fuzzTextTable); }
+INSTANTIATE_TEST_SUITE_P(Targets, CorpusFuzz, testing::ValuesIn(bersagli),
+                         [](const auto& uno) { return std::string(uno.param.nome); });
 
 }  // namespace
 }  // namespace korven
