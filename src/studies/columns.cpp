@@ -193,7 +193,8 @@ std::string nessunaColonna(std::string_view nome, int tiranti) {
                               {*vicino});
     std::string elenco;
     for (const std::string& uno : nomi) elenco.append(elenco.empty() ? "" : ", ").append(uno);
-    return base::riempito(base::traduttore("nessun risultato si chiama così: ci sono %1"), {elenco});
+    return base::riempito(base::traduttore("nessun risultato si chiama così: ci sono %1"),
+                          {elenco});
 }
 
 bool disegnabile(const Colonna& colonna) {
