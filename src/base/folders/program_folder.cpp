@@ -96,12 +96,12 @@ std::optional<std::string> cerca(const fs::path& cartella, std::string_view nome
 }  // namespace
 
 std::string cartellaProgramma() {
-    if (const std::string nominata = cartellaNominata(); !nominata.empty()) return nominata;
+    if (std::string nominata = cartellaNominata(); !nominata.empty()) return nominata;
     return cartelle().utente.empty() ? cartellaDati() : cartelle().utente;
 }
 
 std::string cartellaDati() {
-    if (const std::string nominata = cartellaNominata(); !nominata.empty()) return nominata;
+    if (std::string nominata = cartellaNominata(); !nominata.empty()) return nominata;
     const auto installata = installazione();
     return (installata ? installata->dati : cartellaEseguibile()).string();
 }
