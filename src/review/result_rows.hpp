@@ -39,6 +39,10 @@ inline constexpr VoceOsservazione vociRisultati[] = {
     {"flessione-non-verificata", Peso::pericolo, "flessione",
      "%1 di progetto %2 kN m/m (fase %3, a %4 m), resistenza %5 kN m/m%6: %7, o ridurre il momento "
      "con tiranti, scavo e carichi"},
+    {"flessione-con-sforzo-favorevole", Peso::pericolo, "flessione",
+     "%1 di progetto %2 kN m/m (fase %3, a %4 m), verificato soltanto con lo sforzo normale "
+     "moltiplicato per %5; non moltiplicato, o senza, la resistenza è %6 kN m/m%7: contare solo "
+     "lo sforzo che c'è sempre, e %8, o ridurre il momento con tiranti, scavo e carichi"},
     {"taglio-non-verificato", Peso::pericolo, "taglio_verifica",
      "taglio di progetto %1 kN/m (fase %2, a %3 m), %4 %5 kN/m%6: %7, o ridurre il taglio con "
      "tiranti, scavo e carichi"},

@@ -1,9 +1,13 @@
 #include <cmath>
+#include <optional>
 
 #include "base/filled_text.hpp"
+#include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
 #include "project/shown_number.hpp"
+#include "results/section_uses.hpp"
 #include "review/result_checks.hpp"
+#include "structure/partial_factors.hpp"
 #include "structure/section_type.hpp"
 #include "structure/shear_check.hpp"
 
@@ -87,6 +91,44 @@ void flessione(const DatiProgetto& dati, bool positivo, double Md, double MRd,
          uso(Md, MRd), traduttore(rinforzo.testo)});
 }
 
+// The smaller resistance to one moment of those under the axial force as it acts and under none.
+// The check multiplies a force that helps the section, too.
+struct SenzaFavore {
+    std::optional<double> positiva, negativa;  // that the moment is beyond [t m]
+};
+SenzaFavore senzaFavore(const DatiProgetto& dati, const results::ConfrontoMomenti& c) {
+    SenzaFavore trovate;
+    if (dati.sforzoNormale == 0) return trovate;
+    const auto minore = [](std::optional<double>& trovata, double resistenza) {
+        if (!trovata || std::fabs(resistenza) < std::fabs(*trovata)) trovata = resistenza;
+    };
+    DatiProgetto altri = dati;
+    for (const double sforzo : {dati.sforzoNormale / structure::fsAzioniSezione, 0.0}) {
+        altri.sforzoNormale = sforzo;
+        const auto altro =
+            results::controlli(dati.sezione, results::momentiResistenti(altri), c.mMax, c.mMin, 0);
+        if (!altro.flessione) continue;
+        if (altro.flessione->fallitaPos()) minore(trovate.positiva, altro.flessione->mrPos);
+        if (altro.flessione->fallitaNeg()) minore(trovate.negativa, altro.flessione->mrNeg);
+    }
+    return trovate;
+}
+
+void favorevole(const DatiProgetto& dati, bool positivo, double Md, double MRd,
+                const results::NumeroRelazione& dove, ElencoOsservazioni& elenco) {
+    const Rinforzo rinforzo = rinforzoFlessione(dati.sezione, positivo);
+    Soggetto soggetto = campi(rinforzo);
+    soggetto.campi.insert(soggetto.campi.begin(),
+                          project::nomeStabile(project::campo(&DatiProgetto::sforzoNormale)));
+    elenco.aggiungi(
+        "flessione-con-sforzo-favorevole", soggetto,
+        {traduttore(positivo ? "momento positivo" : "momento negativo"),
+         project::numeroRelazione(mostrato(unita::momento, Md)), std::to_string(dove.fase),
+         numeroMostrato(dove.z, 2), base::testoDecimali(structure::fsAzioniSezione, 2),
+         project::numeroRelazione(mostrato(unita::momento, MRd)), uso(Md, MRd),
+         traduttore(rinforzo.testo)});
+}
+
 void taglio(const structure::ConfrontoTaglio& c, bool bielle, const results::NumeroRelazione& dove,
             ElencoOsservazioni& elenco) {
     const Rinforzo rinforzo = rinforzoTaglio(bielle);
@@ -110,6 +152,11 @@ void controlloVerifiche(const DatiProgetto& dati, const safety::Margine& margine
             flessione(dati, true, c->mdMax, c->mrPos, relazione.momentoMassimo(), elenco);
         if (c->fallitaNeg())
             flessione(dati, false, c->mdMin, c->mrNeg, relazione.momentoMinimo(), elenco);
+        const SenzaFavore altre = senzaFavore(dati, *c);
+        if (altre.positiva && !c->fallitaPos())
+            favorevole(dati, true, c->mdMax, *altre.positiva, relazione.momentoMassimo(), elenco);
+        if (altre.negativa && !c->fallitaNeg())
+            favorevole(dati, false, c->mdMin, *altre.negativa, relazione.momentoMinimo(), elenco);
     }
     // The shear check looks at the last stage alone.
     if (const auto& c = relazione.taglioSezione) {

@@ -26,7 +26,7 @@ constexpr const char* tenuta = "vincoli o tiranti tengono la paratia qualunque s
 std::string fasi(const std::vector<int>& quali) {
     std::string testo;
     for (const int fase : quali) testo += (testo.empty() ? "" : ", ") + std::to_string(fase);
-    return traduttore("fase") + " " + testo;
+    return traduttore(quali.size() == 1 ? "fase" : "fasi") + " " + testo;
 }
 
 // What the shortest length is not, and why.

@@ -1,11 +1,14 @@
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <functional>
 #include <set>
 
+#include "results/section_uses.hpp"
 #include "review/margins.hpp"
 #include "review/project_review.hpp"
 #include "review/result_review.hpp"
+#include "structure/partial_factors.hpp"
 #include "support/sample_sections.hpp"
 #include "support/wall_files.hpp"
 
@@ -92,6 +95,22 @@ Osservazioni conFerriSottili() {
     return esaminaRisultati(dati, 50);
 }
 
+Osservazioni conSforzoFavorevole() {
+    const DatiProgetto dati = con([](DatiProgetto& d) {
+        d.sezione = structure::diaframmaSimmetrico();
+        d.sforzoNormale = 20;
+    });
+    const auto MRd = results::momentiResistenti(dati);
+    return cambiato(controlloVerifiche, dati, [&](Margine& m) {
+        m.relazione = results::NumeriRelazione{};
+        m.relazione->fasi.resize(2);
+        const double quasi = 0.99 * std::abs(MRd[1]) / project::newtonMillimetri;
+        m.relazione->flessione =
+            results::controlli(dati.sezione, MRd, quasi / structure::fsAzioniSezione, 0, 0)
+                .flessione;
+    });
+}
+
 Osservazioni conIncastro() {
     const DatiProgetto dati = con([](DatiProgetto& d) { d.vincoloPiede = 3; });
     return cambiato(controlloIncastro, dati, [](Margine& m) {
@@ -154,6 +173,7 @@ TEST(VociRisultati, AreEachBroughtBySomeWall) {
         conStatica(&Margine::taglio, 22),
         conStaffe(),
         conFerriSottili(),
+        conSforzoFavorevole(),
         conIncastro(),
         conFalda(),
     };

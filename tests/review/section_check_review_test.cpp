@@ -6,10 +6,13 @@
 
 #include "base/number_text.hpp"
 #include "project/field_table.hpp"
+#include "project/shown_number.hpp"
 #include "results/report_data.hpp"
+#include "results/section_uses.hpp"
 #include "results/structure_checks.hpp"
 #include "review/margins.hpp"
 #include "review/result_review.hpp"
+#include "structure/partial_factors.hpp"
 #include "support/run_harness.hpp"
 #include "support/sample_sections.hpp"
 #include "support/wall_files.hpp"
@@ -114,6 +117,43 @@ TEST(ControlloVerifiche, TellsAShearBeyondTheStrutsOrTheStirrups) {
                                    fine});
     EXPECT_EQ(staffe[0].campi, (Righe{"sezione.armDiamStaffe", "sezione.armPassoStaffe"}));
     EXPECT_EQ(con(250, 200).size(), 2u);
+}
+
+// Under 200 kN/m the resistance of a diaphragm grows with the axial force: by the force as it is to
+// that under Nd = 200 kN, which the check takes as 280 kN.
+TEST(ControlloVerifiche, TellsABendingMomentThatTheMultipliedAxialForceAloneBears) {
+    DatiProgetto dati = conSezione(structure::diaframmaSimmetrico());
+    const auto resistenza = [&](double sforzo) {
+        DatiProgetto d = dati;
+        d.sforzoNormale = sforzo;
+        return std::abs(results::momentiResistenti(d)[1]) / project::newtonMillimetri;  // t m
+    };
+    const double senza = resistenza(0), conFattore = resistenza(20);
+    ASSERT_GT(conFattore, 1.05 * senza);
+    const auto con = [&](double sforzo, double Md) {
+        dati.sforzoNormale = sforzo;
+        Margine m = conVerifiche(dati, 0, 0);
+        const auto MRd = results::momentiResistenti(dati);
+        m.relazione->flessione =
+            results::controlli(dati.sezione, MRd, Md / structure::fsAzioniSezione, 0, 0).flessione;
+        return osservate(dati, m);
+    };
+    EXPECT_EQ(righe(con(20, 0.99 * senza)), Righe{});
+    const auto detta = con(20, (senza + conFattore) / 2);
+    ASSERT_EQ(detta.size(), 1U);
+    EXPECT_EQ(detta[0].codice, "flessione-con-sforzo-favorevole");
+    EXPECT_NE(detta[0].testo.find(
+                  "la resistenza è " +
+                  project::numeroRelazione(mostrato(project::unita::momento, senza)) + " kN m/m"),
+              std::string::npos)
+        << detta[0].testo;
+    EXPECT_EQ(detta[0].campi.front(), "sforzoNormale");
+    const auto fallita = con(20, 1.01 * conFattore);
+    ASSERT_EQ(fallita.size(), 1U);
+    EXPECT_EQ(fallita[0].codice, "flessione-non-verificata");
+    const auto niente = con(0, (senza + conFattore) / 2);
+    ASSERT_EQ(niente.size(), 1U);
+    EXPECT_EQ(niente[0].codice, "flessione-non-verificata");
 }
 
 TEST(ControlloVerifiche, SayNothingWithoutAReportOrASection) {

@@ -149,7 +149,7 @@ TEST(NotaOltre, NamesTheStagesThatAreHeldWhateverTheGround) {
               "> 10, fase 2: vincoli o tiranti tengono la paratia qualunque sia il terreno");
     m.fasi[0].riduzione = m.fasi[1].riduzione;
     EXPECT_EQ(notaOltre(m),
-              "> 10, fase 1, 2: vincoli o tiranti tengono la paratia qualunque sia il terreno");
+              "> 10, fasi 1, 2: vincoli o tiranti tengono la paratia qualunque sia il terreno");
 }
 
 TEST(ParoleRelazione, SayWhatKeepsItFromItsNumbers) {

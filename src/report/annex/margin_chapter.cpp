@@ -80,13 +80,17 @@ void capitoloMargine(const Contesto& contesto, Blocchi& blocchi) {
     const Margine& margine = *f.margine;
     verdetto(margine, blocchi);
     margineDiFase(margine, blocchi);
-    parte(traduttore("I massimi di tutte le fasi con i segmenti del progetto, con il doppio e con "
-                     "quattro volte tanti: a, b, c. Errore: |a - c| / c. Ordine: log2((a - b) / "
-                     "(b - c)), la potenza del passo con cui l'errore diminuisce; 2 è quello delle "
-                     "differenze finite, 1 quello di un piede incastrato. Scavo, falda, strati e "
-                     "tiranti contano dal nodo più vicino, che ogni maglia ha altrove: l'ordine "
-                     "vero può esserne coperto. Nelle due maglie più fini i vincoli sono rigidi; "
-                     "le molle che ne fanno le veci nel calcolo cedono con un passo piccolo."),
+    // Formulas stay on a line.
+    parte(riempito(
+              traduttore("I massimi di tutte le fasi con i segmenti del progetto, con il doppio e "
+                         "con quattro volte tanti: a, b, c. Errore: %1. Ordine: %2, la potenza del "
+                         "passo con cui l'errore diminuisce; 2 è quello delle differenze finite, 1 "
+                         "quello di un piede incastrato. Scavo, falda, strati e tiranti contano "
+                         "dal nodo più vicino, che ogni maglia ha altrove: l'ordine vero può "
+                         "esserne coperto. Nelle due maglie più fini i vincoli sono rigidi; le "
+                         "molle che ne fanno le veci nel calcolo cedono con un passo piccolo."),
+              {"|a\u00a0-\u00a0c|\u00a0/\u00a0c",
+               "log2((a\u00a0-\u00a0b)\u00a0/\u00a0(b\u00a0-\u00a0c))"}),
           prospettoErroreMaglia(margine), blocchi);
     if (margine.maglia) paragrafo(soglieErroreMaglia(), blocchi, Stile::nota);
     if (auto usi = prospettoUsiMaglia(margine); !usi.righe.empty()) {
