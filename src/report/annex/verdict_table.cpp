@@ -178,7 +178,8 @@ std::vector<Cella> flessione(const Fascicolo& f) {
                  {dossier::Verifica::momentoPositivo, dossier::Verifica::momentoNegativo});
     for (const std::string& nota : {sforzoFavorevole(f.flessione->positivo, "momento positivo"),
                                     sforzoFavorevole(f.flessione->negativo, "momento negativo")})
-        if (!nota.empty()) celle.back().testo += ". " + nota;
+        if (!nota.empty())
+            celle.back().testo += (celle.back().testo.ends_with('.') ? " " : ". ") + nota;
     return celle;
 }
 

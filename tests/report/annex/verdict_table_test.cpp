@@ -97,6 +97,7 @@ TEST(ProspettoVerdetti, TellsTheUseWithoutAnAxialForceThatHelps) {
     EXPECT_NE(detto().find("non moltiplicato, o senza, lo sfruttamento arriva al"),
               std::string::npos)
         << detto();
+    EXPECT_EQ(detto().find(".."), std::string::npos) << detto();
     dati.sforzoNormale = 0;
     EXPECT_EQ(detto().find("non moltiplicato"), std::string::npos);
 }
