@@ -50,8 +50,8 @@ class PianoLungo final : public Varianti {
         bool testata;          // the names of the fields come first
     };
 
-    PianoLungo(const project::DatiProgetto& dati, const std::string& file)
-        : dati_(dati), file_(file), righe_(dati_) {}
+    PianoLungo(project::DatiProgetto dati, const std::string& file)
+        : dati_(std::move(dati)), file_(file), righe_(dati_) {}
     void percorri(std::size_t pezzo);
     [[nodiscard]] Valori valoriDi(std::size_t pezzo) const;
     [[nodiscard]] Valori rileggi(const Pezzo& pezzo) const;
