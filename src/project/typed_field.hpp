@@ -54,7 +54,7 @@ using ValoreCampo = std::variant<double, std::string>;
 /// The stored value of a typed one.
 /// @param testo  a number in the shown unit, blanks around it; a code by its number or by the name
 ///               of its enumerator in any capitals ("rankine"); a flag as 0, 1 or -1; a text
-[[nodiscard]] std::variant<ValoreCampo, Rifiuto> valoreScritto(const CampoNominato& campo,
+[[nodiscard]] std::variant<ValoreCampo, Rifiuto> valoreScritto(const CampoNominato& nominato,
                                                                std::string_view testo);
 
 /// Why a number can't be the field's; nothing if it can. `nonNumero` for one that is not finite and
