@@ -7,6 +7,7 @@
 #include "base/filled_text.hpp"
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
+#include "project/field_kind.hpp"
 #include "project/typed_field.hpp"
 #include "studies/plan/fault_words.hpp"
 #include "studies/plan/study_fields.hpp"
@@ -137,9 +138,10 @@ std::vector<CampoOfferto> campiOfferti(const DatiProgetto& dati, bool campioni) 
         const std::string nome = project::nomeStabile(*c.campo, c.riga);
         const auto letto = studies::campoDiStudio(dati, nome);
         if (!std::holds_alternative<project::CampoNominato>(letto)) return;
-        if (campioni && !studies::continuo(*c.campo)) return;
-        offerti.push_back(
-            {nome, studies::valoreMostrato(c).testa(), project::testoDaScrivere(dati, c)});
+        if (campioni && !project::continuo(*c.campo)) return;
+        auto mostrato = studies::valoreMostrato(c);
+        mostrato.titolo += " (" + nome + ")";
+        offerti.push_back({nome, mostrato.testa(), project::testoDaScrivere(dati, c)});
     });
     return offerti;
 }

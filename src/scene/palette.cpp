@@ -49,6 +49,10 @@ constexpr std::array<Coppia, numeroRuoli> ruoli{{
     {0xD64500, 0xFF7A3D},  // limitePassivo
     {0x854D00, 0xF5BE62},  // avviso
     {0xC2185B, 0xFF7FB0},  // evidenza
+    {0x1A1F24, 0xECEFF2},  // primaSerie
+    {0x0A5FA5, 0x79BDF2},  // secondaSerie
+    {0xB04A00, 0xF3A96A},  // terzaSerie
+    {0x00705A, 0x5FD3C4},  // quartaSerie
 }};
 
 // The pens that the stratigraphic log draws hatch colours 1 to 21 with, as they are delivered, and

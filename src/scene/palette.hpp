@@ -35,8 +35,12 @@ enum class Ruolo {
     limitePassivo,    ///< soil at its passive limit
     avviso,           ///< what keeps a wall from being computed
     evidenza,         ///< the depth that is read
+    primaSerie,       ///< curves of a family, told apart
+    secondaSerie,
+    terzaSerie,
+    quartaSerie,
 };
-inline constexpr int numeroRuoli = static_cast<int>(Ruolo::evidenza) + 1;
+inline constexpr int numeroRuoli = static_cast<int>(Ruolo::quartaSerie) + 1;
 
 /// Hatch colours of a layer's graphic code, 1 to 21; 0 is ground of no layer.
 inline constexpr int numeroColoriStrato = 22;

@@ -5,7 +5,10 @@
 
 #include "base/code_page.hpp"
 #include "base/filled_text.hpp"
+#include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
+#include "project/code_words.hpp"
+#include "project/field_kind.hpp"
 
 namespace korven::studies {
 
@@ -52,22 +55,35 @@ constexpr const char* cause[] = {
 
 std::string ValoreMostrato::testa() const { return project::etichetta(titolo, unita); }
 
+std::string ValoreMostrato::detto(double valore) const {
+    const auto codice = std::ranges::find(codici, valore, &CodiceMostrato::valore);
+    if (codice != codici.end()) return codice->nome;
+    std::string testo = base::testoNumero(mostrato(valore));
+    if (!unita.mostrata.empty()) testo.append(" ").append(unita.mostrata);
+    return testo;
+}
+
 ValoreMostrato valoreMostrato(const project::CampoNominato& c) {
-    const std::string_view unita = c.campo->unita.mostrata;
-    return {base::conMaiuscola(traduttore(c.campo->cosa)) + " (" +
-                project::nomeStabile(*c.campo, c.riga) + ")",
-            {unita, unita}};
+    const project::Campo& campo = *c.campo;
+    ValoreMostrato valore{.titolo = base::conMaiuscola(project::descrizioneTradotta(campo, c.riga)),
+                          .unita = {campo.unita.mostrata, campo.unita.mostrata},
+                          .intero = !continuo(campo)};
+    for (const project::Codice& codice : campo.codici)
+        valore.codici.push_back(
+            {project::mostrato(campo, codice.valore), project::voceTradotta(campo, codice)});
+    return valore;
 }
 
 ValoreMostrato valoreMostrato(const std::string& colonna) {
     const auto trovate = std::ranges::find(parole, colonna, &Parole::nome);
     if (trovate != std::end(parole))
-        return {base::conMaiuscola(traduttore(trovate->cosa)), trovate->unita};
+        return {.titolo = base::conMaiuscola(traduttore(trovate->cosa)), .unita = trovate->unita};
     constexpr std::string_view tiro = "tiro_", kN = "_kN";
     if (!colonna.starts_with(tiro) || !colonna.ends_with(kN)) return {.titolo = colonna};
-    return {base::riempito(traduttore("Tiro del tirante %1"),
-                           {colonna.substr(tiro.size(), colonna.size() - tiro.size() - kN.size())}),
-            forza};
+    return {.titolo = base::riempito(
+                traduttore("Tiro del tirante %1"),
+                {colonna.substr(tiro.size(), colonna.size() - tiro.size() - kN.size())}),
+            .unita = forza};
 }
 
 std::vector<ValoreMostrato> valoriMostrati(const RigheStudio& righe) {

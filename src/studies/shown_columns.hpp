@@ -12,18 +12,28 @@
 
 namespace korven::studies {
 
+/// A code with the words that its editor has for it.
+struct CodiceMostrato {
+    double valore;
+    std::string nome;  ///< translated
+};
+
 /// How a value of a row is shown.
 struct ValoreMostrato {
     std::string titolo;                              ///< "Spostamento massimo", translated
     project::Unita unita = project::unita::nessuna;  ///< from the value of the row to the shown one
+    bool intero = false;                             ///< between two whole numbers there is nothing
+    std::vector<CodiceMostrato> codici{};            ///< of a field that is one
 
     /// "Spostamento massimo [mm]".
     [[nodiscard]] std::string testa() const;
     /// The number that is shown for one of the row.
     [[nodiscard]] double mostrato(double valore) const { return project::mostrato(unita, valore); }
+    /// "20 kN/m²", or the words of a code.
+    [[nodiscard]] std::string detto(double valore) const;
 };
 
-/// A field by what it is and its stable name, which tells its row: its values are shown already.
+/// A field by what it is, with its row: its values are shown already.
 [[nodiscard]] ValoreMostrato valoreMostrato(const project::CampoNominato& campo);
 /// A result by its stable name; the name itself for one without words.
 [[nodiscard]] ValoreMostrato valoreMostrato(const std::string& colonna);

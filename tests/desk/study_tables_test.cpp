@@ -25,7 +25,7 @@ TEST(ProspettoVarianti, HasARowForEachVariantInShownUnits) {
     ASSERT_EQ(p.righe.size(), 3U);
     EXPECT_EQ(p.note, std::vector<std::string>{"Le prime 3 varianti di 5; il CSV le ha tutte."});
     EXPECT_EQ(p.colonne[0].titolo, "Variante");
-    EXPECT_TRUE(p.colonne[2].testa().ends_with("(lunghezzaParatia) [m]"));
+    EXPECT_TRUE(p.colonne[2].testa().ends_with(" [m]"));
     EXPECT_EQ(p.colonne[3].testa(), "Spostamento massimo [mm]");
     EXPECT_EQ(p.righe[2][0].testo, "3");
     EXPECT_EQ(p.righe[2][1].testo, "fallisce") << "it moves";
@@ -61,7 +61,7 @@ TEST(ProspettiCampioni, HaveTheNumbersOfTheSummary) {
     EXPECT_EQ(distribuzioni.note,
               std::vector<std::string>{"Quantili e correlazioni da 40 varianti."});
     ASSERT_EQ(correlazioni.colonne.size(), 3U);
-    EXPECT_TRUE(correlazioni.colonne[2].titolo.ends_with("(sovraccMonte)"));
+    EXPECT_EQ(correlazioni.colonne[2].titolo, "Sovraccarico a monte");
     EXPECT_EQ(correlazioni.righe[0][0].testo, "Spostamento massimo");
     EXPECT_NEAR(*correlazioni.righe[0][2].numero, *tutte[2].ranghi[1], 0.005);
 }

@@ -59,7 +59,8 @@ TEST(Palette, TellsTheCurvesFromTheirGround) {
     for (const Tavolozza t : {Tavolozza::chiara, Tavolozza::scura})
         for (const Ruolo r : {Ruolo::terreno, Ruolo::bordoMuro, Ruolo::acqua, Ruolo::carico,
                               Ruolo::tirante, Ruolo::curva, Ruolo::curvaMonte, Ruolo::curvaValle,
-                              Ruolo::meccanismo, Ruolo::asse, Ruolo::evidenza})
+                              Ruolo::meccanismo, Ruolo::asse, Ruolo::evidenza, Ruolo::primaSerie,
+                              Ruolo::secondaSerie, Ruolo::terzaSerie, Ruolo::quartaSerie})
             EXPECT_GE(contrasto(colore({r}, t), colore({Ruolo::sfondo}, t)), 3)
                 << static_cast<int>(r);
 }

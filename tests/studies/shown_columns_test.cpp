@@ -19,8 +19,18 @@ TEST(ValoreMostrato, HasTheUnitsOfWindows) {
 
 TEST(ValoreMostrato, OfAFieldNamesItsRow) {
     const auto campo = valoreMostrato(project::campoNominato("phiStrato[2]").value());
-    EXPECT_TRUE(campo.testa().ends_with(" (phiStrato[2]) [°]")) << campo.testa();
+    EXPECT_TRUE(campo.testa().ends_with(" 2 [°]")) << campo.testa();
     EXPECT_DOUBLE_EQ(campo.mostrato(31.5), 31.5) << "as typed";
+    EXPECT_EQ(campo.detto(31.5), "31.5 °");
+    EXPECT_FALSE(campo.intero);
+}
+
+TEST(ValoreMostrato, OfACodeHasItsWords) {
+    const auto piede = valoreMostrato(project::campoNominato("vincoloPiede").value());
+    EXPECT_TRUE(piede.intero);
+    ASSERT_EQ(piede.codici.size(), 3U);
+    EXPECT_EQ(piede.detto(piede.codici[1].valore), piede.codici[1].nome);
+    EXPECT_EQ(piede.codici[1].nome.find_first_of("0123456789"), std::string::npos);
 }
 
 // A result that tells something by itself has words of its own.
@@ -36,7 +46,7 @@ TEST(ValoreMostrato, OfARowHasFieldsAndColumns) {
     const RigheStudio righe(campi, colonne(0, false), Formato::csv);
     const auto valori = valoriMostrati(righe);
     ASSERT_EQ(valori.size(), righe.quanti());
-    EXPECT_TRUE(valori[0].testa().ends_with("(lunghezzaParatia) [m]"));
+    EXPECT_TRUE(valori[0].testa().ends_with(" [m]"));
 }
 
 TEST(CausaMostrata, HasWordsForEveryVerdict) {

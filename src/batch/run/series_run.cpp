@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cassert>
+#include <filesystem>
 #include <iostream>
 #include <iterator>
 #include <optional>
@@ -24,6 +25,7 @@
 #include "batch/run/output_names.hpp"
 #include "batch/run/series_progress.hpp"
 #include "batch/run/series_size.hpp"
+#include "dossier/identity.hpp"
 #include "project/project_data.hpp"
 #include "project/shown_number.hpp"
 #include "studies/charts/study_chart.hpp"
@@ -191,7 +193,9 @@ int disegnaRisultato(const Opzioni& opzioni, const base::Disco& disco,
     const studies::GraficoStudio grafico{
         .risultato = static_cast<std::size_t>(quale - nomi.begin()),
         .valori = studies::valoriMostrati(righe),
-        .campioni = opzioni.serie.campioni > 0};
+        .campioni = opzioni.serie.campioni > 0,
+        .progetto = std::filesystem::path(opzioni.progetto).filename().string(),
+        .data = dossier::data(dossier::fontiDiSistema(opzioni.data))};
     return disegna(opzioni.disegno, disco, esito, [&] {
         const auto foglio = studies::formatoGrafico(conto.riassunto(), conto.forma(), grafico);
         studies::disegnaGrafico(conto.riassunto(), conto.forma(), grafico, foglio.larghezza,

@@ -45,6 +45,10 @@ constexpr std::array<Colore, scene::numeroRuoli> inchiostri{{
     grigio(90),            // limitePassivo
     pericolo,              // avviso
     plot::nero,            // evidenza
+    plot::nero,            // primaSerie
+    daRgb(0, 90, 170),     // secondaSerie
+    daRgb(190, 75, 0),     // terzaSerie
+    daRgb(0, 115, 80),     // quartaSerie
 }};
 
 constexpr double capello = 0.01;      // [cm]

@@ -24,13 +24,18 @@ void linea(scene::Tela& tela, scene::Punto da, scene::Punto a, Ruolo ruolo, doub
     tela.disegna(Elemento::asse, 0, Linea{{da, a}, {ruolo}, spessore});
 }
 
-// Numbers of an axis between two places, as many as stand clear of each other.
-template <class Disegna>
-void numeri(const Estensione& e, double lungo, double ciascuno, Disegna disegna) {
-    const double passo =
-        base::passoAsse(e.massimo - e.minimo, std::max(1, static_cast<int>(lungo / ciascuno)));
+// Numbers of an axis between two places, as many as stand clear of each other; a few at least.
+std::vector<NomeAsse> numeri(const Estensione& e, const TestiAsse& testi, double lungo,
+                             double ciascuno) {
+    if (!testi.nomi.empty()) return testi.nomi;
+    constexpr int pochi = 4;
+    double passo =
+        base::passoAsse(e.massimo - e.minimo, std::max(pochi, static_cast<int>(lungo / ciascuno)));
+    if (testi.interi) passo = std::max(passo, 1.0);
+    std::vector<NomeAsse> tutti;
     for (double i = std::ceil(e.minimo / passo); i * passo <= e.massimo; ++i)
-        disegna(i * passo, base::numeroAsse(i * passo, passo));
+        tutti.push_back({i * passo, base::numeroAsse(i * passo, passo)});
+    return tutti;
 }
 
 }  // namespace
@@ -49,15 +54,18 @@ Estensione Estensione::conAria() const {
     return {minimo - aria, massimo + aria, false};
 }
 
-Assi::Assi(const scene::Riquadro& posto, const Estensione& x, const Estensione& y,
-           std::string titoloX, std::string titoloY)
+Assi::Assi(const scene::Riquadro& posto, const Estensione& x, const Estensione& y, TestiAsse testiX,
+           TestiAsse testiY, double fascia)
     : campo_{posto.sinistra + postoNumeri, posto.alto + rigaTesto, posto.destra,
-             posto.basso - 2 * rigaTesto},
+             posto.basso - 2 * rigaTesto - fascia},
       sinistra_(posto.sinistra),
       x_(x),
       y_(y),
-      titoloX_(std::move(titoloX)),
-      titoloY_(std::move(titoloY)) {}
+      testiX_(std::move(testiX)),
+      testiY_(std::move(testiY)),
+      fascia_(fascia) {}
+
+double Assi::yTitoloX() const { return campo_.basso + fascia_ + 2.1 * corpoCarta; }
 
 double Assi::x(double v) const {
     return campo_.sinistra + campo_.larghezza() * (v - x_.minimo) / (x_.massimo - x_.minimo);
@@ -68,19 +76,20 @@ double Assi::y(double v) const {
 }
 
 void Assi::verticali(scene::Tela& tela) const {
-    numeri(x_, campo_.larghezza(), 6 * corpoPiccolo, [&](double v, std::string testo) {
-        linea(tela, {x(v), campo_.alto}, {x(v), campo_.basso}, Ruolo::griglia, 1);
-        scriviNota(tela, std::move(testo), {x(v), campo_.basso + 0.8 * corpoCarta}, Ancora::centro,
+    const double basso = campo_.basso + fascia_;
+    for (auto& [v, testo] : numeri(x_, testiX_, campo_.larghezza(), 6 * corpoPiccolo)) {
+        linea(tela, {x(v), campo_.alto}, {x(v), basso}, Ruolo::griglia, 1);
+        scriviNota(tela, std::move(testo), {x(v), basso + 0.8 * corpoCarta}, Ancora::centro,
                    Ruolo::testoTenue);
-    });
+    }
 }
 
 void Assi::orizzontali(scene::Tela& tela) const {
-    numeri(y_, campo_.altezza(), 2.5 * corpoPiccolo, [&](double v, std::string testo) {
+    for (auto& [v, testo] : numeri(y_, testiY_, campo_.altezza(), 2.5 * corpoPiccolo)) {
         linea(tela, {campo_.sinistra, y(v)}, {campo_.destra, y(v)}, Ruolo::griglia, 1);
         scriviNota(tela, std::move(testo), {campo_.sinistra - 0.4 * corpoCarta, y(v)},
                    Ancora::destra, Ruolo::testoTenue);
-    });
+    }
 }
 
 void Assi::disegna(scene::Tela& tela) const {
@@ -91,8 +100,8 @@ void Assi::disegna(scene::Tela& tela) const {
                  Linea{{{c.sinistra, c.alto}, {c.sinistra, c.basso}, {c.destra, c.basso}},
                        {Ruolo::asse},
                        1.2});
-    scriviNota(tela, titoloX_, {c.destra, c.basso + 2.1 * corpoCarta}, Ancora::destra);
-    scriviNota(tela, titoloY_, {sinistra_, c.alto - 0.8 * corpoCarta}, Ancora::sinistra);
+    scriviNota(tela, testiX_.titolo, {c.destra, yTitoloX()}, Ancora::destra);
+    scriviNota(tela, testiY_.titolo, {sinistra_, c.alto - 0.8 * corpoCarta}, Ancora::sinistra);
 }
 
 void scriviNota(scene::Tela& tela, std::string testo, scene::Punto punto, Ancora ancora,

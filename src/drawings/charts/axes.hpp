@@ -1,10 +1,24 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "scene/canvas.hpp"
 
 namespace korven::drawings {
+
+/// A value of an axis with a name: of a field that has a few values alone.
+struct NomeAsse {
+    double valore;
+    std::string nome;
+};
+
+/// What is written at an axis.
+struct TestiAsse {
+    std::string titolo;            ///< translated, or a code name, with its unit
+    bool interi = false;           ///< between whole numbers there is nothing
+    std::vector<NomeAsse> nomi{};  ///< in the place of numbers; none: numbers
+};
 
 /// What the numbers of an axis go from and to.
 struct Estensione {
@@ -20,15 +34,18 @@ struct Estensione {
 /// A field of numbers with an axis below and one at its left.
 class Assi {
  public:
-    /// @param posto     of the field with the numbers and titles of its axes [px]
-    /// @param titoloX, titoloY  translated, or code names, with their units
-    Assi(const scene::Riquadro& posto, const Estensione& x, const Estensione& y,
-         std::string titoloX, std::string titoloY);
+    /// @param posto   of the field with the numbers and titles of its axes [px]
+    /// @param fascia  height of a strip below the field, through which its grid goes on [px]
+    Assi(const scene::Riquadro& posto, const Estensione& x, const Estensione& y, TestiAsse testiX,
+         TestiAsse testiY, double fascia = 0);
 
     [[nodiscard]] const scene::Riquadro& campo() const { return campo_; }
     [[nodiscard]] double x(double v) const;
     [[nodiscard]] double y(double v) const;
     [[nodiscard]] scene::Punto punto(double vx, double vy) const { return {x(vx), y(vy)}; }
+
+    /// The height of the title below.
+    [[nodiscard]] double yTitoloX() const;
 
     /// Grid, numbers, titles, border.
     void disegna(scene::Tela& tela) const;
@@ -40,7 +57,8 @@ class Assi {
     scene::Riquadro campo_;
     double sinistra_;  // of the place
     Estensione x_, y_;
-    std::string titoloX_, titoloY_;
+    TestiAsse testiX_, testiY_;
+    double fascia_;
 };
 
 /// A text of a chart at a place of its own, or none where another text is already.

@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "drawings/charts/axes.hpp"
+#include "drawings/charts/missing_marks.hpp"
 #include "scene/canvas.hpp"
 
 // Charts of numbers, each in a place of a picture [px]. Texts are translated, or code names, with
@@ -11,19 +13,28 @@
 
 namespace korven::drawings {
 
-/// One number over another.
+/// A number over another, or why there is none.
+struct PuntoGrafico {
+    double x, y;
+    Mancanza perche = Mancanza::senzaNumero;  ///< of a y that is no number
+};
+
 struct CurvaGrafico {
-    std::string nome;          ///< written at its end where there are several
-    std::vector<double> x, y;  ///< as many of both; ascending; without a y the curve has a gap
+    std::string nome;                 ///< written at its end where there are several
+    std::vector<PuntoGrafico> punti;  ///< ascending; without a y the curve has a gap
 };
 
 struct GraficoCurve {
-    std::string titoloX, titoloY;
+    TestiAsse x;
+    std::string titoloY;
+    std::string titoloCurve;  ///< what the names of the curves are; empty for one
     std::vector<CurvaGrafico> curve;
-    std::string mancanti;  ///< what is said of the x without a y, which are marked on the axis
+    ParoleMancanze mancanze{};
 };
 
-/// Marks an x without a y in a chart of one curve alone: those of many would lie over each other.
+/// Draws curves with a mark at each of their points where these are few; over an axis of whole
+/// numbers the marks alone. What has no y is marked below the field, a row a curve, or one
+/// for all curves that lack the same.
 void disegnaCurve(scene::Tela& tela, const scene::Riquadro& posto, const GraficoCurve& dati);
 
 /// A value of the axis that is told: "5 %".
@@ -54,11 +65,13 @@ struct Classi {
 void disegnaIstogramma(scene::Tela& tela, const scene::Riquadro& posto, const Istogramma& dati);
 
 struct Nuvola {
-    std::string titoloX, titoloY;
-    std::vector<scene::Punto> punti;
+    TestiAsse x;
+    std::string titoloY;
+    std::vector<PuntoGrafico> punti;
+    ParoleMancanze mancanze{};
 };
 
-/// Draws 2000 of the points at most, evenly out of their order.
+/// Draws 2000 of the points at most, evenly out of their order, and what has no y below the field.
 void disegnaNuvola(scene::Tela& tela, const scene::Riquadro& posto, const Nuvola& dati);
 
 /// A share from -1 to 1.
@@ -72,7 +85,9 @@ struct GraficoBarre {
     std::vector<BarraGrafico> barre;  ///< drawn from the top down
 };
 
-/// Bars to both sides of 0, as many as have room, with their values.
+/// Bars to both sides of 0, as many as have room, with their values, over a scale from -1 to 1.
 void disegnaGraficoBarre(scene::Tela& tela, const scene::Riquadro& posto, const GraficoBarre& dati);
+/// The height that all of so many bars need [px].
+[[nodiscard]] double altezzaBarre(std::size_t barre);
 
 }  // namespace korven::drawings

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <utility>
 
 #include "base/axis_steps.hpp"
 #include "drawings/annex/paper.hpp"
@@ -27,10 +28,26 @@ int quanteClassi(const std::vector<double>& ordinati) {
 void barra(scene::Tela& tela, const Assi& assi, double da, double a, double alta) {
     const double x1 = assi.x(da), x2 = assi.x(a), basso = assi.y(0), alto = assi.y(alta);
     tela.disegna(
-        Elemento::curva, 0,
+        Elemento::estremo, 0,
         scene::Area{{{x1, basso}, {x1, alto}, {x2, alto}, {x2, basso}}, {Ruolo::fondoCurva}});
     tela.disegna(Elemento::curva, 0,
                  Linea{{{x1, basso}, {x1, alto}, {x2, alto}, {x2, basso}}, {Ruolo::curva}, 1});
+}
+
+// Above the field, or in it beside the mark where another one is near.
+void nomina(scene::Tela& tela, const Assi& assi, const std::string& nome, double x) {
+    const double alto = assi.campo().alto, accanto = 0.3 * corpoCarta;
+    std::vector<scene::Posto> posti{{{x, alto - 0.8 * corpoCarta}, scene::Ancora::centro}};
+    for (const double giu : {0.9, 2.0, 3.1}) {
+        posti.push_back({{x + accanto, alto + giu * corpoCarta}, scene::Ancora::sinistra});
+        posti.push_back({{x - accanto, alto + giu * corpoCarta}, scene::Ancora::destra});
+    }
+    tela.scrivi({.grado = scene::Grado::nota,
+                 .elemento = Elemento::estremo,
+                 .testo = nome,
+                 .tinta = {Ruolo::testo},
+                 .corpo = corpoPiccolo,
+                 .posti = std::move(posti)});
 }
 
 }  // namespace
@@ -64,7 +81,8 @@ void disegnaIstogramma(scene::Tela& tela, const scene::Riquadro& posto, const Is
     for (const double v : {0.0, 1.08 * piu}) y.comprendi(v);  // the names of the marks above
     auto campo = posto;
     campo.destra -= corpoCarta;
-    const Assi assi(campo, x, y, dati.titoloX, dati.titoloY);
+    const Assi assi(campo, x, y, {.titolo = dati.titoloX},
+                    {.titolo = dati.titoloY, .interi = true});
     assi.disegna(tela);
     for (std::size_t k = 0; k < c.numeri.size(); ++k) {
         const double da = c.inizio + c.passo * static_cast<double>(k);
@@ -77,8 +95,7 @@ void disegnaIstogramma(scene::Tela& tela, const scene::Riquadro& posto, const Is
                            {Ruolo::testo},
                            1,
                            scene::Tratteggio::linee});
-        scriviNota(tela, segno.nome, {dove, assi.campo().alto - 0.8 * corpoCarta},
-                   scene::Ancora::centro);
+        nomina(tela, assi, segno.nome, dove);
     }
 }
 

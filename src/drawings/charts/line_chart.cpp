@@ -1,72 +1,48 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <optional>
 #include <utility>
 
 #include "drawings/annex/paper.hpp"
 #include "drawings/charts/axes.hpp"
 #include "drawings/charts/charts.hpp"
+#include "drawings/charts/series_style.hpp"
 
 namespace korven::drawings {
 
 namespace {
 
 using scene::Elemento;
-using scene::Linea;
 using scene::Punto;
-using scene::Ruolo;
-using scene::Tratteggio;
 
-// Curves that lie together are told apart without colours too.
-constexpr Tratteggio tratteggi[] = {Tratteggio::nessuno, Tratteggio::linee, Tratteggio::punti};
-constexpr Ruolo ruoli[] = {Ruolo::curva, Ruolo::acqua, Ruolo::carico, Ruolo::testo};
-
-Linea linea(std::size_t numero, std::vector<Punto> punti) {
-    constexpr double spessore = 1.6;
-    return {std::move(punti),
-            {ruoli[numero % std::size(ruoli)]},
-            spessore,
-            tratteggi[numero / std::size(ruoli) % std::size(tratteggi)]};
+std::vector<SenzaNumero> mancanti(const CurvaGrafico& curva) {
+    std::vector<SenzaNumero> tutti;
+    for (const auto& p : curva.punti)
+        if (!std::isfinite(p.y)) tutti.push_back({p.x, p.perche});
+    return tutti;
 }
 
-// A dot marks a value that stands alone between gaps.
-void tratto(scene::Tela& tela, std::size_t numero, std::vector<Punto> punti) {
-    constexpr double mezzo = 1.5;
-    if (punti.empty()) return;
-    if (punti.size() == 1) {
-        const Punto p = punti.front();
-        punti = {{p.x - mezzo, p.y}, {p.x + mezzo, p.y}};
+void curva(scene::Tela& tela, const Assi& assi, const CurvaGrafico& dati, std::size_t numero,
+           bool linee) {
+    constexpr std::size_t pochi = 40;
+    const bool segni = !linee || dati.punti.size() <= pochi;
+    std::vector<Punto> tratto;
+    const auto chiudi = [&] {
+        if (linee && tratto.size() > 1)
+            tela.disegna(Elemento::curva, 0, lineaSerie(numero, tratto));
+        // A value alone between gaps has no line to be seen by.
+        if (segni || tratto.size() == 1)
+            for (const Punto& p : tratto) segnaSerie(tela, numero, p);
+        tratto.clear();
+    };
+    for (const auto& p : dati.punti) {
+        if (std::isfinite(p.y))
+            tratto.push_back(assi.punto(p.x, p.y));
+        else
+            chiudi();
     }
-    tela.disegna(Elemento::curva, 0, linea(numero, std::move(punti)));
-}
-
-void curva(scene::Tela& tela, const Assi& assi, const CurvaGrafico& dati, std::size_t numero) {
-    std::vector<Punto> punti;
-    for (std::size_t i = 0; i < dati.x.size(); ++i) {
-        if (std::isfinite(dati.y[i])) {
-            punti.push_back(assi.punto(dati.x[i], dati.y[i]));
-            continue;
-        }
-        tratto(tela, numero, std::exchange(punti, {}));
-    }
-    tratto(tela, numero, std::move(punti));
-}
-
-// Short strokes on the axis, and once what they mean.
-void segnaMancanti(scene::Tela& tela, const Assi& assi, const CurvaGrafico& dati,
-                   const std::string& parole) {
-    const double basso = assi.campo().basso;
-    bool uno = false;
-    for (std::size_t i = 0; i < dati.x.size(); ++i) {
-        if (std::isfinite(dati.y[i])) continue;
-        const double x = assi.x(dati.x[i]);
-        tela.disegna(Elemento::estremo, 0,
-                     Linea{{{x, basso}, {x, basso - 0.6 * corpoCarta}}, {Ruolo::meccanismo}, 2});
-        uno = true;
-    }
-    if (uno)
-        scriviNota(tela, parole, {assi.campo().sinistra, basso + 2.1 * corpoCarta},
-                   scene::Ancora::sinistra, Ruolo::meccanismo);
+    chiudi();
 }
 
 // Names stand in a column at the right, each as high as its curve ends, or below the one above it.
@@ -75,15 +51,15 @@ struct Nome {
     std::size_t numero;
 };
 
-void nomi(scene::Tela& tela, const Assi& assi, const std::vector<CurvaGrafico>& curve) {
+std::vector<Nome> postiNomi(const Assi& assi, const std::vector<CurvaGrafico>& curve) {
     constexpr double riga = 1.3 * corpoPiccolo;
     std::vector<Nome> tutti;
-    for (std::size_t k = 0; k < curve.size(); ++k)
-        for (std::size_t i = curve[k].y.size(); i-- > 0;)
-            if (std::isfinite(curve[k].y[i])) {
-                tutti.push_back({assi.y(curve[k].y[i]), k});
-                break;
-            }
+    for (std::size_t k = 0; k < curve.size(); ++k) {
+        const auto& punti = curve[k].punti;
+        const auto ultimo = std::find_if(punti.rbegin(), punti.rend(),
+                                         [](const auto& p) { return std::isfinite(p.y); });
+        if (ultimo != punti.rend()) tutti.push_back({assi.y(ultimo->y), k});
+    }
     std::ranges::stable_sort(tutti, {}, &Nome::y);
     double libero = assi.campo().alto;
     for (auto& nome : tutti) {
@@ -95,12 +71,16 @@ void nomi(scene::Tela& tela, const Assi& assi, const std::vector<CurvaGrafico>& 
         nome->y = std::min(nome->y, fondo);
         fondo = nome->y - riga;
     }
-    const double x = assi.campo().destra;
-    for (const auto& [y, numero] : tutti) {
-        tela.disegna(Elemento::curva, 0,
-                     linea(numero, {{x + 0.3 * corpoCarta, y}, {x + 1.8 * corpoCarta, y}}));
-        scriviNota(tela, curve[numero].nome, {x + 2.1 * corpoCarta, y}, scene::Ancora::sinistra);
-    }
+    return tutti;
+}
+
+void scriviNome(scene::Tela& tela, const Assi& assi, const CurvaGrafico& curva, const Nome& nome,
+                bool linee) {
+    const double x = assi.campo().destra, da = x + 0.3 * corpoCarta, a = x + 1.8 * corpoCarta;
+    if (linee)
+        tela.disegna(Elemento::curva, 0, lineaSerie(nome.numero, {{da, nome.y}, {a, nome.y}}));
+    segnaSerie(tela, nome.numero, {(da + a) / 2, nome.y});
+    scriviNota(tela, curva.nome, {a + 0.3 * corpoCarta, nome.y}, scene::Ancora::sinistra);
 }
 
 // What the names need at the right.
@@ -112,23 +92,66 @@ double largoNomi(const scene::Tela& tela, const std::vector<CurvaGrafico>& curve
     return largo + 2.5 * corpoCarta;
 }
 
+// The rows below the field: one for each curve that has any, or one for all where they have the
+// same.
+struct RigaMancanti {
+    std::vector<SenzaNumero> mancanti;
+    std::optional<std::size_t> curva;  // that it is named after
+};
+
+std::vector<RigaMancanti> righeMancanti(const std::vector<CurvaGrafico>& curve) {
+    std::vector<RigaMancanti> righe;
+    for (std::size_t k = 0; k < curve.size(); ++k) righe.push_back({mancanti(curve[k]), k});
+    const bool uguali = std::ranges::all_of(
+        righe, [&](const auto& riga) { return riga.mancanti == righe.front().mancanti; });
+    if (uguali && !righe.empty()) {
+        righe.resize(1);
+        righe.front().curva.reset();
+    }
+    std::erase_if(righe, [](const auto& riga) { return riga.mancanti.empty(); });
+    return righe;
+}
+
+void segnaTutte(scene::Tela& tela, const Assi& assi, const GraficoCurve& dati,
+                const std::vector<RigaMancanti>& righe) {
+    std::vector<SenzaNumero> tutti;
+    for (std::size_t i = 0; i < righe.size(); ++i) {
+        const auto& [suoi, curva] = righe[i];
+        segnaMancanze(tela, assi, i, suoi);
+        if (curva)
+            scriviNome(tela, assi, dati.curve[*curva], {yMancanze(assi, i), *curva},
+                       !dati.x.interi);
+        tutti.insert(tutti.end(), suoi.begin(), suoi.end());
+    }
+    spiegaMancanze(tela, assi, tutti, dati.mancanze);
+}
+
 }  // namespace
 
 void disegnaCurve(scene::Tela& tela, const scene::Riquadro& posto, const GraficoCurve& dati) {
     Estensione x, y;
-    for (const auto& curva : dati.curve) {
-        for (const double v : curva.x) x.comprendi(v);
-        for (const double v : curva.y) y.comprendi(v);
-    }
+    for (const auto& curva : dati.curve)
+        for (const auto& p : curva.punti) {
+            x.comprendi(p.x);
+            y.comprendi(p.y);
+        }
     auto campo = posto;
     campo.destra -= std::max(largoNomi(tela, dati.curve), corpoCarta);
-    const Assi assi(campo, x.conAria(), y.conAria(), dati.titoloX, dati.titoloY);
+    if (!dati.titoloCurve.empty()) {
+        scriviNota(tela, dati.titoloCurve, {posto.destra, posto.alto + 0.7 * corpoCarta},
+                   scene::Ancora::destra);
+        campo.alto += 1.5 * corpoCarta;
+    }
+    const auto righe = righeMancanti(dati.curve);
+    const Assi assi(campo, x.conAria(), y.conAria(), dati.x, {.titolo = dati.titoloY},
+                    altezzaMancanze(righe.size()));
     assi.disegna(tela);
-    for (std::size_t k = 0; k < dati.curve.size(); ++k) curva(tela, assi, dati.curve[k], k);
-    if (dati.curve.size() == 1)
-        segnaMancanti(tela, assi, dati.curve.front(), dati.mancanti);
-    else
-        nomi(tela, assi, dati.curve);
+    const bool linee = !dati.x.interi;
+    for (std::size_t k = 0; k < dati.curve.size(); ++k) curva(tela, assi, dati.curve[k], k, linee);
+    if (dati.curve.size() > 1)
+        for (const Nome& nome : postiNomi(assi, dati.curve))
+            scriviNome(tela, assi, dati.curve[nome.numero], nome, linee);
+    segnaTutte(tela, assi, dati, righe);
 }
 
 }  // namespace korven::drawings

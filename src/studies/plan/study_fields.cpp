@@ -2,28 +2,16 @@
 
 #include <set>
 #include <string>
-#include <type_traits>
 #include <utility>
 
 #include "base/code_page.hpp"
 #include "base/decimal_commas.hpp"
 #include "base/number_text.hpp"
+#include "project/field_kind.hpp"
 
 namespace korven::studies {
 
 namespace {
-
-// True for a field whose values are of that type.
-template <class T>
-bool tiene(const project::Campo& campo) {
-    return std::visit(
-        [](auto membro) {
-            using Valore =
-                decltype(project::cella(std::declval<project::DatiProgetto&>(), membro, 1));
-            return std::is_same_v<std::remove_cvref_t<Valore>, T>;
-        },
-        campo.membro);
-}
 
 DifettoPiano rifiutato(project::Rifiuto rifiuto) {
     return {.motivo = MotivoPiano::campo, .rifiuto = std::move(rifiuto)};
@@ -31,15 +19,13 @@ DifettoPiano rifiutato(project::Rifiuto rifiuto) {
 
 }  // namespace
 
-bool continuo(const project::Campo& campo) { return tiene<double>(campo) && campo.codici.empty(); }
-
 Letto<project::CampoNominato> campoDiStudio(const project::DatiProgetto& dati,
                                             std::string_view nome) {
     auto scritto = project::campoScritto(dati, nome);
     if (auto* rifiuto = std::get_if<project::Rifiuto>(&scritto))
         return rifiutato(std::move(*rifiuto));
     const auto campo = std::get<project::CampoNominato>(scritto);
-    if (tiene<std::string>(*campo.campo))
+    if (project::tiene<std::string>(*campo.campo))
         return DifettoPiano{.motivo = MotivoPiano::testo, .testo = std::string(nome)};
     return campo;
 }

@@ -31,9 +31,6 @@ namespace korven::studies {
 [[nodiscard]] std::optional<DifettoPiano> difettoValore(const project::CampoNominato& campo,
                                                         double mostrato);
 
-/// True for a field between whose values there are others: no code, no flag, no number of rows.
-[[nodiscard]] bool continuo(const project::Campo& campo);
-
 /// The first name of a field that stands among some more than once; nothing if none does.
 [[nodiscard]] std::optional<std::string> campoRipetuto(
     std::span<const project::CampoNominato> campi);

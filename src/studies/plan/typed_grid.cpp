@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "project/field_kind.hpp"
 #include "studies/plan/option_reading.hpp"
 #include "studies/plan/study_fields.hpp"
 

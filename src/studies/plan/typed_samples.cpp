@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "base/code_page.hpp"
+#include "project/field_kind.hpp"
 #include "studies/plan/option_reading.hpp"
 #include "studies/plan/study_fields.hpp"
 
