@@ -4,8 +4,11 @@
 #include <iterator>
 #include <utility>
 
+#include "base/colon.hpp"
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
+#include "live/wall.hpp"
+#include "safety/words.hpp"
 #include "studies/assignments.hpp"
 #include "studies/shown_columns.hpp"
 
@@ -39,6 +42,32 @@ std::string soloNomi(const std::vector<std::string>& assegnate) {
     std::string testo;
     for (const std::string& una : assegnate) testo += (testo.empty() ? "" : "\n") + una;
     return testo;
+}
+
+// The project of the study with these fields.
+bool stessoMuro(const StudioFatto& fatto, const std::vector<std::string>& campi,
+                const project::DatiProgetto& dati) {
+    const auto dello = studies::assegna(fatto.studio->dati, campi);
+    return dello.difetti.empty() && dello.dati == dati;
+}
+
+// The wall is computed once more: a row has no sentences.
+std::string avviso(const StudioFatto& fatto, std::uint64_t i, const project::DatiProgetto& dati) {
+    const auto parete = live::calcola(dati, fatto.studio->domanda.nSeg);
+    if (!parete.rifiuto.empty())
+        return base::conDuePunti(traduttore("Nessun calcolo accetta i dati di questa variante"),
+                                 parete.rifiuto);
+    if (parete.perche)
+        return base::conDuePunti(traduttore("Questa variante non è in equilibrio"),
+                                 safety::inBreve(*parete.perche));
+    std::string criteri;
+    const auto& condizioni = fatto.conto.forma().condizioni;
+    for (std::size_t k = 0; k < condizioni.size(); ++k)
+        if (condizioni[k].vale(fatto.riga(i)))
+            criteri.append(criteri.empty() ? "" : ", ")
+                .append(detto(fatto.studio->scritto.fallisce[k]));
+    return criteri.empty() ? criteri
+                           : base::conDuePunti(traduttore("Questa variante fallisce"), criteri);
 }
 
 }  // namespace
@@ -85,12 +114,24 @@ std::vector<std::string> assegnazioni(const StudioFatto& fatto, std::uint64_t i)
 VariantePresa prendi(const StudioFatto& fatto, std::uint64_t i, const project::DatiProgetto& dati) {
     const auto scritte = assegnazioni(fatto, i);
     auto presa = studies::assegna(dati, scritte);
-    if (!presa.difetti.empty()) return {dati, soloNomi(presa.difetti)};
-    const auto dello = studies::assegna(fatto.studio->dati, scritte);
-    if (!dello.difetti.empty() || !(dello.dati == presa.dati))
-        return {dati, traduttore("Il progetto è cambiato da quando lo studio è stato calcolato: "
-                                 "calcolarlo di nuovo.")};
-    return {std::move(presa.dati), {}};
+    if (!presa.difetti.empty()) return {dati, soloNomi(presa.difetti), {}};
+    if (!stessoMuro(fatto, scritte, presa.dati))
+        return {dati,
+                traduttore("Il progetto è cambiato da quando lo studio è stato calcolato: "
+                           "calcolarlo di nuovo."),
+                {}};
+    std::string detto = avviso(fatto, i, presa.dati);
+    return {std::move(presa.dati), {}, std::move(detto)};
+}
+
+bool attuale(const StudioFatto& fatto, const StudioScritto& scritto,
+             const project::DatiProgetto& dati) {
+    if (!(fatto.studio->scritto == scritto)) return false;
+    if (fatto.studio->dati == dati) return true;
+    if (fatto.numero() == 0) return false;
+    const auto scritte = assegnazioni(fatto, 0);
+    const auto presa = studies::assegna(dati, scritte);
+    return presa.difetti.empty() && stessoMuro(fatto, scritte, presa.dati);
 }
 
 }  // namespace korven::desk

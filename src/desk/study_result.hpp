@@ -65,9 +65,17 @@ struct StudioFatto {
 struct VariantePresa {
     project::DatiProgetto dati;
     std::string perche;  ///< lines; empty where it can be
+    /// That it is no wall to be built, and why: it falls, its data are refused, or it meets one of
+    /// the criteria; lines, empty otherwise.
+    std::string avviso;
 };
 /// @param dati  the project as it is now: but for the fields that vary that of the study
 [[nodiscard]] VariantePresa prendi(const StudioFatto& fatto, std::uint64_t i,
                                    const project::DatiProgetto& dati);
+
+/// True while a study is what would be computed now: of what is typed, and of the project but for
+/// the fields that vary, which taking a variant changes.
+[[nodiscard]] bool attuale(const StudioFatto& fatto, const StudioScritto& scritto,
+                           const project::DatiProgetto& dati);
 
 }  // namespace korven::desk

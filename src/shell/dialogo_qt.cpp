@@ -76,13 +76,16 @@ class PuntatorePerUnBox {
 
 }  // namespace
 
-// The main form is disabled while the viewer is open: a box above it would bring it to the front,
-// in front of the window that the user is working in.
+// The main form is disabled while the viewer is open, and a window beside it may be worked in: a
+// box above it would bring it to the front, in front of the window that the user is working in.
 QWidget* DialogoQt::genitore() const {
     QWidget* modale = QApplication::activeModalWidget();
     if (modale != nullptr) return modale;
     if (finestra_ == nullptr || !finestra_->isVisible()) return nullptr;
-    if (finestra_->isEnabled()) return finestra_;
+    QWidget* attiva = QApplication::activeWindow();
+    const bool compagna =
+        attiva != nullptr && attiva->isEnabled() && attiva->parentWidget() == finestra_;
+    if (finestra_->isEnabled()) return compagna ? attiva : finestra_.data();
     for (QWidget* altra : QApplication::topLevelWidgets())
         if (altra->windowType() == Qt::Window && altra->isVisible() && altra->isEnabled() &&
             altra->parentWidget() == nullptr)

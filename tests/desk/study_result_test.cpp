@@ -109,6 +109,34 @@ TEST(VariantePresa, IsTheProjectWithItsFields) {
     EXPECT_EQ(altra.dati.lunghezzaParatia, 16);
 }
 
+TEST(VariantePresa, SaysWhyItIsNoWallToBeBuilt) {
+    auto s = lunghezze();
+    s.variazioni[0].numeri = {"0", "16", "8"};
+    s.fallisce = {{"spostamento_massimo_m", ">", "1"}, {"taglio_massimo_kN", ">", "1e9"}};
+    const auto f = fatto(s);
+    const auto avviso = [&](std::uint64_t i) { return prendi(*f, i, muro()).avviso; };
+    EXPECT_TRUE(avviso(0).starts_with("Nessun calcolo accetta i dati di questa variante: "))
+        << avviso(0);
+    EXPECT_TRUE(
+        avviso(1).starts_with("Questa variante non è in equilibrio: la paratia è un "
+                              "meccanismo nella fase 2"))
+        << avviso(1);
+    EXPECT_EQ(avviso(2), "Questa variante fallisce: Spostamento massimo > 1 mm");
+    EXPECT_EQ(prendi(*fatto(lunghezze()), 0, muro()).avviso, "");
+}
+
+TEST(StudioAttuale, IsOneOfWhatIsTypedAndOfTheProject) {
+    const auto f = fatto(lunghezze());
+    EXPECT_TRUE(attuale(*f, lunghezze(), muro()));
+    EXPECT_TRUE(attuale(*f, lunghezze(), prendi(*f, 3, muro()).dati)) << "a variant was taken";
+    auto altro = lunghezze();
+    altro.variazioni[0].numeri[2] = "0.5";
+    EXPECT_FALSE(attuale(*f, altro, muro()));
+    auto dati = muro();
+    dati.sovraccMonte += 1;
+    EXPECT_FALSE(attuale(*f, lunghezze(), dati));
+}
+
 TEST(VariantePresa, IsNoneOfAProjectThatHasChangedSince) {
     const auto f = fatto(lunghezze());
     auto dati = muro();

@@ -111,6 +111,24 @@ TEST(BoxQt, AppearsAboveTheViewerThatDisablesTheMainForm) {
     EXPECT_EQ(sopra, &principale);
 }
 
+TEST(BoxQt, AppearsAboveTheWindowBesideTheMainFormThatIsInUse) {
+    QWidget principale;
+    QWidget compagna(&principale, Qt::Window);
+    DialogoQt dialogo;
+    dialogo.sopra(&principale);
+    principale.show();
+    compagna.show();
+    compagna.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&compagna));
+    QWidget* sopra = nullptr;
+    const Box box([&](QMessageBox& b) {
+        sopra = b.parentWidget();
+        b.reject();
+    });
+    dialogo.messaggio("a", "b", Icona::avviso);
+    EXPECT_EQ(sopra, &compagna);
+}
+
 TEST(BoxQt, HasItsButtonsInTheLanguageInForce) {
     const test::TestiConsegnati tedesco(2);
     DialogoQt dialogo;

@@ -9,6 +9,7 @@
 #include <QSpinBox>
 #include <QVBoxLayout>
 #include <limits>
+#include <utility>
 
 #include "base/filled_text.hpp"
 #include "base/translated_texts.hpp"
@@ -75,9 +76,31 @@ FormaStudio::FormaStudio(QWidget* padre) : QWidget(padre) {
     colonna->addWidget(sicurezza_);
     colonna->addStretch();
     setFocusProxy(modo_);
-    connect(modo_, &QComboBox::currentIndexChanged, this, [this] { segui(); });
+    connect(modo_, &QComboBox::currentIndexChanged, this, [this] {
+        scambiaNumeri();
+        segui();
+    });
     connect(sicurezza_, &QCheckBox::toggled, this, [this] { segui(); });
     segui();
+    ascolta();
+}
+
+void FormaStudio::ascolta() {
+    for (QComboBox* scelta : findChildren<QComboBox*>())
+        connect(scelta, &QComboBox::currentIndexChanged, this, &FormaStudio::cambiata);
+    for (QLineEdit* riga : findChildren<QLineEdit*>())
+        connect(riga, &QLineEdit::textChanged, this, &FormaStudio::cambiata);
+    for (QCheckBox* casella : findChildren<QCheckBox*>())
+        connect(casella, &QCheckBox::toggled, this, &FormaStudio::cambiata);
+}
+
+// From, to and step are no parameters of a law.
+void FormaStudio::scambiaNumeri() {
+    for (Variazione& v : variazioni_)
+        for (std::size_t i = 0; i < v.numeri.size(); ++i) {
+            const QString prima = v.numeri[i]->text();
+            v.numeri[i]->setText(std::exchange(v.altri[i], prima));
+        }
 }
 
 void FormaStudio::fareModo(QVBoxLayout& colonna) {
@@ -102,7 +125,8 @@ void FormaStudio::fareVariazione(QVBoxLayout& colonna, int quale) {
     auto* sopra = new QWidget(this);
     Variazione v{.campo = scelta(QStringLiteral("campo") + n, conNumero("Campo %1", quale), this),
                  .legge = new QComboBox(sopra),
-                 .numeri = {}};
+                 .numeri = {},
+                 .altri = {}};
     v.legge->setObjectName(QStringLiteral("legge") + n);
     dillo(*v.legge, conNumero("Legge del campo %1", quale));
     for (const studies::NomeLegge& legge : studies::nomiLeggi())

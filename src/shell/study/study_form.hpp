@@ -28,10 +28,16 @@ class FormaStudio : public QWidget {
     /// The last of its controls.
     [[nodiscard]] QWidget* ultimo() const;
 
+ signals:
+    /// Something else may be typed or chosen.
+    void cambiata();
+
  private:
+    using Numeri = std::array<QString, 3>;
     struct Variazione {
         QComboBox *campo, *legge;
         std::array<QLineEdit*, 3> numeri;
+        Numeri altri{};  ///< what was typed for the other way to vary
     };
     struct Criterio {
         QComboBox *risultato, *segno;
@@ -45,6 +51,8 @@ class FormaStudio : public QWidget {
     [[nodiscard]] bool campioni() const;
     void segui();
     void segui(const Variazione& variazione);
+    void scambiaNumeri();
+    void ascolta();
 
     project::DatiProgetto dati_;
     QComboBox* modo_ = nullptr;

@@ -45,6 +45,10 @@ constexpr int ritmo = 100;                  // of the progress [ms]
 constexpr std::size_t righeTabella = 2000;  // that a table shows
 constexpr int lettereRisultato = 20;
 
+std::string primaDelCalcolo() {
+    return base::traduttore("Scegliere a sinistra che cosa varia, poi Calcola.");
+}
+
 }  // namespace
 
 FinestraStudio::FinestraStudio(QWidget& principale, VitaProgetto& vita, PorteStudio porte,
@@ -76,6 +80,7 @@ FinestraStudio::FinestraStudio(QWidget& principale, VitaProgetto& vita, PorteStu
     connect(&vita, &VitaProgetto::cambiata, this, [this] {
         if (isVisible()) segui();
     });
+    connect(forma_, &FormaStudio::cambiata, this, [this] { seguiScritto(); });
     riempi();
     forma_->setFocus();
     QWidget::setTabOrder(forma_->ultimo(), risultato_);
@@ -173,12 +178,10 @@ void FinestraStudio::basta() {
 void FinestraStudio::accogli(const DomandaStudio&, const RispostaStudio& risposta) {
     inCorso_ = {};
     ritmo_->stop();
-    if (risposta.fatto == nullptr)
-        nota_->setText(inRighe(risposta.guasto));
-    else
-        fatto_ = risposta.fatto;
+    if (risposta.fatto != nullptr) fatto_ = risposta.fatto;
     riempi();
     segui();
+    if (risposta.fatto == nullptr) nota_->setText(inRighe(risposta.guasto));
 }
 
 void FinestraStudio::avanza() {
@@ -197,7 +200,20 @@ void FinestraStudio::segui() {
     attesa_->setVisible(inCorso_.studio != nullptr);
     for (QPushButton* pulsante : {prendi_, esporta_})
         pulsante->setEnabled(aperto && fatto_ != nullptr && fatto_->numero() > 0);
+    seguiScritto();
     if (!aperto) nota_->setText(tradotto("Nessun progetto aperto"));
+}
+
+// Results that are not of what is typed now are grey, and said to be.
+void FinestraStudio::seguiScritto() {
+    if (inCorso_.studio != nullptr) return;
+    if (fatto_ == nullptr) return nota_->setText(inRighe(primaDelCalcolo()));
+    const bool vecchi = !desk::attuale(*fatto_, forma_->scritto(), vita_.vivo().dati());
+    for (VistaProspetto* vista : {varianti_, riassunto_, distribuzioni_, correlazioni_})
+        vista->sospendi(vecchi);
+    nota_->setText(
+        vecchi ? tradotto("Questi risultati sono di prima di una modifica: Calcola li rinnova.")
+               : inRighe(insieme(varianti_->modello().prospetto().note)));
 }
 
 void FinestraStudio::riempi() {
@@ -205,19 +221,15 @@ void FinestraStudio::riempi() {
     const QVariant scelto = risultato_->currentData();
     risultato_->clear();
     if (fatto_ == nullptr) {
-        const std::string perche =
-            base::traduttore("Scegliere a sinistra che cosa varia, poi Calcola.");
-        for (VistaProspetto* vista : {varianti_, riassunto_}) vista->mostra({.note = {perche}});
-        nota_->setText(inRighe(perche));
-        return;
+        for (VistaProspetto* vista : {varianti_, riassunto_})
+            vista->mostra({.note = {primaDelCalcolo()}});
+        return seguiScritto();
     }
     for (const auto& uno :
          desk::risultatiOfferti(fatto_->studio->dati, fatto_->studio->scritto.sicurezza))
         risultato_->addItem(qt(uno.voce), qt(uno.nome));
     risultato_->setCurrentIndex(std::max(0, risultato_->findData(scelto)));
-    auto varianti = desk::prospettoVarianti(*fatto_, righeTabella);
-    nota_->setText(inRighe(insieme(varianti.note)));
-    varianti_->mostra(std::move(varianti));
+    varianti_->mostra(desk::prospettoVarianti(*fatto_, righeTabella));
     riassunto_->mostra({.note = desk::frasi(*fatto_)});
     seguiCampioni(desk::prospettiCampioni(*fatto_));
     disegna();
@@ -250,12 +262,14 @@ void FinestraStudio::prendi(const QModelIndex& dove) {
     const auto i = static_cast<std::uint64_t>(varianti_->modello().riga(dove.row()));
     const auto presa = desk::prendi(*fatto_, i, vita_.vivo().dati());
     if (!presa.perche.empty()) return nota_->setText(inRighe(presa.perche));
-    std::string campi;
-    for (const std::string& una : desk::assegnazioni(*fatto_, i)) campi += una + "\n";
+    std::string detto;
+    for (const std::string& una : desk::assegnazioni(*fatto_, i)) detto += una + "\n";
+    if (!presa.avviso.empty()) detto += "\n" + presa.avviso;
     const auto risposta = porte_.dialogo.domandaInformata(
         base::riempito(base::traduttore("Prendere la variante %1 nel progetto?"),
                        {std::to_string(i + 1)}),
-        base::traduttore("Studio"), base::Pulsanti::siNo, base::Icona::domanda, campi);
+        base::traduttore("Studio"), base::Pulsanti::siNo,
+        presa.avviso.empty() ? base::Icona::domanda : base::Icona::avviso, detto);
     if (risposta != base::Risposta::si) return;
     nota_->setText(tradotto(porte_.prendi(presa.dati)
                                 ? "La variante è nel progetto: Annulla la toglie."

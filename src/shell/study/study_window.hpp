@@ -56,6 +56,7 @@ class FinestraStudio : public FinestraCompagna {
     void basta();
     void accogli(const DomandaStudio& domanda, const RispostaStudio& risposta);
     void segui();
+    void seguiScritto();
     void avanza();
     void riempi();
     void seguiCampioni(desk::ProspettiCampioni prospetti);

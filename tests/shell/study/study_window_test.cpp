@@ -170,6 +170,56 @@ TEST_F(FinestraStudioTest, SavesItsVariantsButNotOverTheProject) {
     EXPECT_TRUE(test::contenuto(cartella / "s.xlsx").starts_with("PK"));
 }
 
+TEST_F(FinestraStudioTest, SaysThatResultsAreOlderThanWhatIsTyped) {
+    varia("12", "0.5");
+    calcola();
+    EXPECT_EQ(nota(), "");
+    const QString vecchi =
+        QStringLiteral("Questi risultati sono di prima di una modifica: Calcola li rinnova.");
+    c<QLineEdit>("numero1_2").setText(QStringLiteral("13"));
+    EXPECT_EQ(nota(), vecchi);
+    c<QLineEdit>("numero1_2").setText(QStringLiteral("12"));
+    EXPECT_EQ(nota(), "");
+    project::Progetto.sovraccMonte += 1;
+    vita.guarda();
+    EXPECT_EQ(nota(), vecchi);
+    calcola();
+    EXPECT_EQ(nota(), "");
+}
+
+TEST_F(FinestraStudioTest, TakesAnErrorBackWithWhatWasWrong) {
+    varia("x", "1");
+    c<QPushButton>("calcola").click();
+    EXPECT_TRUE(nota().contains(QStringLiteral("x")));
+    c<QLineEdit>("numero1_2").setText(QStringLiteral("12"));
+    EXPECT_EQ(nota(), "Scegliere a sinistra che cosa varia, poi Calcola.");
+}
+
+TEST_F(FinestraStudioTest, KeepsTheNumbersOfARangeFromThoseOfALaw) {
+    varia("12", "0.5");
+    c<QComboBox>("modo").setCurrentIndex(1);
+    EXPECT_EQ(c<QLineEdit>("numero1_1").text(), "");
+    c<QLineEdit>("numero1_1").setText(QStringLiteral("11"));
+    c<QComboBox>("modo").setCurrentIndex(0);
+    EXPECT_EQ(c<QLineEdit>("numero1_1").text(), "10");
+    c<QComboBox>("modo").setCurrentIndex(1);
+    EXPECT_EQ(c<QLineEdit>("numero1_1").text(), "11");
+}
+
+TEST_F(FinestraStudioTest, WarnsOfAVariantThatFalls) {
+    c<QComboBox>("modo").setCurrentIndex(0);
+    varia("12", "0.5");
+    c<QLineEdit>("numero1_1").setText(QStringLiteral("0"));
+    c<QLineEdit>("numero1_3").setText(QStringLiteral("12"));
+    calcola();
+    auto& tabella = c<VistaProspetto>("varianti");
+    tabella.setCurrentIndex(tabella.model()->index(0, 0));
+    dialogo.risposte = {base::Risposta::no};
+    c<QPushButton>("prendi").click();
+    EXPECT_TRUE(prese.empty());
+    EXPECT_TRUE(dialogo.informazioni.back().find("Nessun calcolo accetta") != std::string::npos);
+}
+
 TEST_F(FinestraStudioTest, KeepsWhatIsChosenWhileTheProjectIsTyped) {
     varia("12", "0.5");
     project::Progetto.sovraccMonte += 1;
