@@ -4,18 +4,11 @@
 #include <numeric>
 #include <vector>
 
+#include "base/code_page.hpp"
+
 namespace korven::base {
 
 namespace {
-
-// Names of fields and results are ASCII.
-char minuscola(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
-
-std::string minuscolo(std::string_view testo) {
-    std::string piccolo(testo);
-    std::ranges::transform(piccolo, piccolo.begin(), minuscola);
-    return piccolo;
-}
 
 std::size_t distanza(std::string_view a, std::string_view b) {
     std::vector<std::size_t> sopra(b.size() + 1), riga(b.size() + 1);
