@@ -5,6 +5,8 @@
 #include <cmath>
 #include <utility>
 
+#include "project/units_per_metre.hpp"
+
 namespace korven::studies {
 
 namespace {
@@ -31,7 +33,7 @@ bool leggiNumero(std::string_view testo, T& valore) {
 // "phiStrato[1] [°]"
 std::string testa(const project::CampoNominato& c) {
     std::string testo = project::nomeStabile(*c.campo, c.riga);
-    const std::string unita = project::traParentesi(c.campo->unita);
+    const std::string unita = project::traParentesi(project::unitaAlMetro(*c.campo));
     return unita.empty() ? testo : testo + ' ' + unita;
 }
 

@@ -9,6 +9,7 @@
 #include "base/translated_texts.hpp"
 #include "project/code_words.hpp"
 #include "project/field_kind.hpp"
+#include "project/units_per_metre.hpp"
 
 namespace korven::studies {
 
@@ -65,8 +66,9 @@ std::string ValoreMostrato::detto(double valore) const {
 
 ValoreMostrato valoreMostrato(const project::CampoNominato& c) {
     const project::Campo& campo = *c.campo;
+    const std::string_view unita = project::unitaAlMetro(campo).mostrata;
     ValoreMostrato valore{.titolo = base::conMaiuscola(project::descrizioneTradotta(campo, c.riga)),
-                          .unita = {campo.unita.mostrata, campo.unita.mostrata},
+                          .unita = {unita, unita},
                           .intero = !continuo(campo)};
     for (const project::Codice& codice : campo.codici)
         valore.codici.push_back(

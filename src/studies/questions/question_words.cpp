@@ -22,11 +22,11 @@ namespace unita = project::unita;
 struct NomeCriterio {
     Criterio criterio;
     std::string_view parola;
-    const char* voce;  ///< a key of the texts
+    const char* voce;  ///< what is told of a length that misses it: a key of the texts
 };
 
 constexpr NomeCriterio criteri[] = {
-    {Criterio::equilibrio, "equilibrio", "equilibrio"},
+    {Criterio::equilibrio, "equilibrio", "nessun equilibrio"},
     {Criterio::riduzione, "riduzione", "riduzione F"},
     {Criterio::spostamento, "spostamento", "spostamento"},
     {Criterio::flessione, "flessione", "flessione"},

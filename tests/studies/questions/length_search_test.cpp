@@ -88,7 +88,7 @@ TEST(CercaLunghezza, SaysOfEachLengthWhatItLacks) {
     ASSERT_TRUE(corta.riduzione);  // below 1: what it is short of
     EXPECT_LT(corta.riduzione->valore, 1);
     EXPECT_EQ(corta.riduzione->fase, 2);
-    EXPECT_EQ(inBreve(corta), "equilibrio, riduzione F");
+    EXPECT_EQ(inBreve(corta), "nessun equilibrio, riduzione F");
     EXPECT_EQ(inBreve(*ricerca.trovata()), "soddisfa i criteri");
 }
 
