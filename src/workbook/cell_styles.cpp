@@ -1,6 +1,7 @@
 #include "workbook/cell_styles.hpp"
 
 #include <algorithm>
+#include <string_view>
 
 namespace korven::workbook {
 
@@ -10,16 +11,29 @@ constexpr lxw_color_t grigio = 0xD9D9D9, rosso = 0xC00000;
 constexpr double corpoTitolo = 12;
 constexpr const char* parole = "@";  // the key of words, in the place of the pattern of digits
 
+// What stands beside a number, "below" for instance, as a number format has it.
+std::string letterale(std::string_view testo) {
+    return testo.empty() ? std::string() : '"' + std::string(testo) + '"';
+}
+
 }  // namespace
 
 std::string schemaCifre(const tables::Cella& cella) {
     if (!cella.numero) return {};
-    const auto punto = cella.testo.find('.');
-    const auto esponente = cella.testo.find('e');
-    if (punto == std::string::npos) return esponente == std::string::npos ? "0" : "";
-    const auto fine = std::min(esponente, cella.testo.size());
-    return "0." + std::string(fine - punto - 1, '0') +
-           (esponente == std::string::npos ? "" : "E+00");
+    constexpr std::string_view cifre = "-0123456789", segni = "-+0123456789";
+    const std::string_view testo = cella.testo;
+    const auto inizio = std::min(testo.find_first_of(cifre), testo.size());
+    auto fine = std::min(testo.find_first_not_of("-0123456789.", inizio), testo.size());
+    const auto punto = testo.substr(0, fine).find('.', inizio);
+    const bool conPunto = punto != std::string_view::npos;
+    std::string schema = conPunto ? "0." + std::string(fine - punto - 1, '0') : "0";
+    if (fine + 1 < testo.size() && testo[fine] == 'e' &&
+        segni.find(testo[fine + 1]) != std::string_view::npos) {
+        if (!conPunto) return {};
+        schema += "E+00";
+        fine = std::min(testo.find_first_not_of(segni, fine + 1), testo.size());
+    }
+    return letterale(testo.substr(0, inizio)) + schema + letterale(testo.substr(fine));
 }
 
 StiliCelle::StiliCelle(lxw_workbook* libro)

@@ -28,8 +28,8 @@ class StiliCelle {
     std::map<std::tuple<std::string, bool, bool>, lxw_format*> celle_;  // digits, danger, lines
 };
 
-/// Pattern of the digits of a number as its text has them: "0.00", "0", "0.000E+00"; empty for what
-/// is shown in all its digits, and for a word.
+/// Pattern of a number as its text has it: "0.00", "0", "0.000E+00", with the words beside it:
+/// "0.00\" below\""; empty for what is shown in all its digits, and for a word.
 [[nodiscard]] std::string schemaCifre(const tables::Cella& cella);
 
 }  // namespace korven::workbook

@@ -166,6 +166,10 @@ TEST(SchemaCifre, HasTheDecimalsThatTheTablesShow) {
     EXPECT_EQ(schemaCifre(tables::cella(7)), "0");
     EXPECT_EQ(schemaCifre(tables::momento(1e12)), "0.000E+00");
     EXPECT_EQ(schemaCifre(tables::parola("attivo")), "");
+    // Words beside a number are no digits of it, whatever letters they have.
+    EXPECT_EQ(schemaCifre({.testo = "6.12 below", .numero = 6.12}), "0.00\" below\"");
+    EXPECT_EQ(schemaCifre({.testo = "-3 unterhalb", .numero = -3}), "0\" unterhalb\"");
+    EXPECT_EQ(schemaCifre({.testo = "> 10", .numero = 10}), "\"> \"0");
 }
 
 }  // namespace

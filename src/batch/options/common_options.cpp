@@ -188,7 +188,7 @@ std::vector<RigaOpzione> opzioniNorma(bool obbligatoria) {
 
 RigaOpzione opzioneRighe() {
     return {nomeOpzioneRighe,
-            "righe della tabella dei nodi di ogni fase, oltre agli estremi e ai picchi",
+            "righe al più della tabella dei nodi di ogni fase, estremi e picchi compresi",
             Conta{2, std::numeric_limits<int>::max(),
                   [](Opzioni& o) -> int& { return o.allegato.righe; }},
             numero,
