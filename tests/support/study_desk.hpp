@@ -9,6 +9,10 @@
 
 // A study of a wall as the desktop makes it.
 
+#ifndef KORVEN_EXAMPLES
+#define KORVEN_EXAMPLES "data/examples"  // the build names the folder; a header alone has none
+#endif
+
 namespace korven::desk::test {
 
 inline project::DatiProgetto muro() {
