@@ -62,31 +62,19 @@ std::string descrizione(const Fascicolo& f, int fase) {
 
 constexpr double altezzaMinima = 8.5;  // of curves that can still be read [cm]
 
-// A balance with many lines stands on the same page below a lower drawing.
-double altezzaFigura(const Fascicolo& f, int fase) {
-    constexpr double riga = 0.47;      // [cm]
-    constexpr std::size_t righe = 11;  // below a drawing of full height
-    const auto i = static_cast<std::size_t>(fase) - 1;
-    if (i >= f.bilanci.size()) return drawings::formatoFase.altezza;
-    const std::size_t sue = prospettoBilancio(f.parete.dati, f.bilanci[i]).righe.size();
-    const std::size_t oltre = sue > righe ? sue - righe : 0;
-    return std::max(altezzaMinima,
-                    drawings::formatoFase.altezza - riga * static_cast<double>(oltre));
-}
-
 document::Figura figura(const Contesto& contesto, int fase) {
     const auto f = contesto.fascicolo;
-    const double larghezza = drawings::formatoFase.larghezza, altezza = altezzaFigura(*f, fase);
+    const auto [larghezza, altezza] = drawings::formatoFase;
     return {riempito(traduttore("Fase %1: paratia, pressioni, spostamento, momento e taglio"),
                      {std::to_string(fase)}),
             descrizione(*f, fase),
             larghezza,
             altezza,
-            [f, fase, larghezza, altezza] {
+            [f, fase, larghezza = larghezza, altezza = altezza] {
                 drawings::disegnaFase(f->parete, fase, larghezza, altezza);
             },
             altezzaMinima,
-            [f, fase, larghezza](double bassa) {
+            [f, fase, larghezza = larghezza](double bassa) {
                 drawings::disegnaFase(f->parete, fase, larghezza, bassa);
             }};
 }
@@ -137,9 +125,11 @@ void inEquilibrio(const Contesto& contesto, int fase, Blocchi& blocchi) {
     tavola(prospettoPicchi(f.parete, fase), blocchi);
     const auto i = static_cast<std::size_t>(fase) - 1;
     if (i < f.bilanci.size()) tavola(prospettoBilancio(f.parete.dati, f.bilanci[i]), blocchi);
+    tavola(nodi(contesto, fase), blocchi);
+    // They tell of all numbers of the stage. The page of its nodes has room for them, while that of
+    // the balance is full where there are many anchors.
     paragrafo(frasePassi(f, fase), blocchi, Stile::nota);
     paragrafo(fraseDoppi(f, fase), blocchi, Stile::nota);
-    tavola(nodi(contesto, fase), blocchi);
 }
 
 void alLimite(const Contesto& contesto, int fase, Blocchi& blocchi) {
