@@ -32,14 +32,19 @@ std::string_view unitaIn(std::string_view testo) {
     return trovata == std::end(unita) ? std::string_view() : *trovata;
 }
 
+// The unit behind a blank that follows a number; empty: the blank binds nothing.
+std::string_view unitaDietro(std::string_view testo, std::size_t bianco) {
+    const bool dopoNumero = testo[bianco] == ' ' && bianco > 0 && cifra(testo[bianco - 1]);
+    return dopoNumero ? unitaIn(testo.substr(bianco + 1)) : std::string_view();
+}
+
 }  // namespace
 
 std::string unitaUnite(std::string_view testo) {
     std::string unito;
     unito.reserve(testo.size() + testo.size() / 8);
     for (std::size_t i = 0; i < testo.size(); ++i) {
-        const bool dopoNumero = testo[i] == ' ' && i > 0 && cifra(testo[i - 1]);
-        const std::string_view u = dopoNumero ? unitaIn(testo.substr(i + 1)) : std::string_view();
+        const std::string_view u = unitaDietro(testo, i);
         if (u.empty()) {
             unito += testo[i];
             continue;
@@ -49,6 +54,20 @@ std::string unitaUnite(std::string_view testo) {
         i += u.size();
     }
     return unito;
+}
+
+std::vector<std::string_view> paroleUnite(std::string_view riga) {
+    std::vector<std::string_view> parole;
+    std::size_t inizio = 0;
+    for (std::size_t i = 0; i < riga.size(); ++i) {
+        const std::string_view u = unitaDietro(riga, i);
+        i += u.size();
+        if (!u.empty() || riga[i] != ' ') continue;
+        parole.push_back(riga.substr(inizio, i - inizio));
+        inizio = i + 1;
+    }
+    parole.push_back(riga.substr(inizio));
+    return parole;
 }
 
 }  // namespace korven::base

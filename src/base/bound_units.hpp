@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace korven::base {
 
@@ -9,5 +10,9 @@ namespace korven::base {
 /// within a unit ("12.5 kN m/m", "80 %"): for windows that break lines. Numbers and units are left
 /// as they are; a word that merely begins like a unit ("3 mesi") is none.
 [[nodiscard]] std::string unitaUnite(std::string_view testo);
+
+/// The parts of a line between its blanks, but for those that `unitaUnite` binds: for a document,
+/// which sets its lines itself. Empty ones beside blanks that follow one another.
+[[nodiscard]] std::vector<std::string_view> paroleUnite(std::string_view riga);
 
 }  // namespace korven::base

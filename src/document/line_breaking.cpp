@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/bound_units.hpp"
 #include "base/code_page.hpp"
 
 namespace korven::document {
@@ -52,6 +53,10 @@ class Compositore {
         }
         if (!riga_.empty()) finisci();
         if (larga <= larghezza_ + gioco) return metti(testo, larga);
+        if (testo.find(' ') != std::string_view::npos) {  // a unit leaves its number after all
+            for (const std::string_view parte : partita(testo, ' ')) parola(parte);
+            return;
+        }
         const std::size_t primi = cheStanno(testo, larghezza_, carattere_, misura_);
         metti(testo.substr(0, primi), misura_.larghezza(testo.substr(0, primi), carattere_));
         if (primi < testo.size()) {
@@ -87,7 +92,7 @@ std::vector<std::string> inRighe(std::string_view testo, double larghezza,
                                  const Carattere& carattere, const MisuraCaratteri& misura) {
     Compositore compositore(larghezza, carattere, misura);
     for (const std::string_view capoverso : partita(testo, '\n')) {
-        for (const std::string_view parola : partita(capoverso, ' '))
+        for (const std::string_view parola : base::paroleUnite(capoverso))
             if (!parola.empty()) compositore.parola(parola);
         compositore.finisci();
     }
@@ -138,7 +143,7 @@ double parolaPiuLarga(std::string_view testo, const Carattere& carattere,
                       const MisuraCaratteri& misura) {
     double larga = 0;
     for (const std::string_view capoverso : partita(testo, '\n'))
-        for (const std::string_view parola : partita(capoverso, ' '))
+        for (const std::string_view parola : base::paroleUnite(capoverso))
             larga = std::max(larga, misura.larghezza(parola, carattere));
     return larga;
 }

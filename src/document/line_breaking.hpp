@@ -8,8 +8,9 @@
 
 namespace korven::document {
 
-/// The text in lines no wider than `larghezza`, broken at blanks and at line feeds; a word wider
-/// than a line is broken behind a sign or, where it has none, anywhere. At least one line.
+/// The text in lines no wider than `larghezza`, broken at line feeds and at blanks, but not
+/// between a number and its unit; a word wider than a line is broken behind a sign or, where it has
+/// none, anywhere. At least one line.
 [[nodiscard]] std::vector<std::string> inRighe(std::string_view testo, double larghezza,
                                                const Carattere& carattere,
                                                const MisuraCaratteri& misura);
@@ -24,7 +25,8 @@ namespace korven::document {
 [[nodiscard]] std::string accorciato(std::string_view testo, double larghezza,
                                      const Carattere& carattere, const MisuraCaratteri& misura);
 
-/// Width of the widest word: what can't be made narrower without breaking one.
+/// Width of the widest word, or number with its unit: what can't be made narrower without breaking
+/// one.
 [[nodiscard]] double parolaPiuLarga(std::string_view testo, const Carattere& carattere,
                                     const MisuraCaratteri& misura);
 

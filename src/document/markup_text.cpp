@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/bound_units.hpp"
 #include "base/code_page.hpp"
 #include "base/text_lines.hpp"
 #include "base/translated_texts.hpp"
@@ -108,7 +109,9 @@ class Scrittore {
     static constexpr std::size_t righeInsieme = markup::maximumGridRows - 1;  // below the head
 
     [[nodiscard]] std::vector<std::string> righe(std::string_view testo, bool fisso) const {
-        const std::string scritto = perEsteso(testo);
+        std::string scritto = perEsteso(testo);
+        // A word processor breaks the lines itself.
+        if (uso_ == Uso::documento && !fisso) scritto = base::unitaUnite(scritto);
         const UnoPerCarattere misura;
         const double larga = uso_ == Uso::testo && !fisso ? colonneTesto : 1e9;
         return fisso ? inRigheFisse(scritto, larga, {}, misura)

@@ -35,5 +35,14 @@ TEST(UnitaUnite, ChangesNothingThatIsBoundAlready) {
     EXPECT_EQ(unitaUnite(unitaUnite("4 m e 5 kN m")), unitaUnite("4 m e 5 kN m"));
 }
 
+TEST(ParoleUnite, PartsALineAtTheBlanksThatBindNothing) {
+    using Parole = std::vector<std::string_view>;
+    EXPECT_EQ(paroleUnite("di 0.74 kN m/m, 20 % e 3 mesi"),
+              (Parole{"di", "0.74 kN m/m,", "20 %", "e", "3", "mesi"}));
+    EXPECT_EQ(paroleUnite("a  b "), (Parole{"a", "", "b", ""}));
+    EXPECT_EQ(paroleUnite("4 m"), Parole{"4 m"});
+    EXPECT_EQ(paroleUnite(""), Parole{""});
+}
+
 }  // namespace
 }  // namespace korven::base

@@ -31,6 +31,14 @@ TEST(InRighe, BreaksAWordThatNoLineHoldsBehindASignOrAnywhere) {
     EXPECT_EQ(inRighe("ééé", 0.5, {}, uno), (Righe{"é", "é", "é"})) << "no character is parted";
 }
 
+TEST(InRighe, LeavesANumberBesideItsUnitWhereALineHoldsBoth) {
+    EXPECT_EQ(inRighe("al più 0.74 kN m/m, qui", 12, {}, uno),
+              (Righe{"al più", "0.74 kN m/m,", "qui"}));
+    EXPECT_EQ(inRighe("meno di 20 % di", 10, {}, uno), (Righe{"meno di", "20 % di"}));
+    EXPECT_EQ(inRighe("fino a 3 mesi", 8, {}, uno), (Righe{"fino a 3", "mesi"})) << "no unit";
+    EXPECT_EQ(inRighe("0.74 kN m/m", 8, {}, uno), (Righe{"0.74 kN", "m/m"}));
+}
+
 TEST(InRigheFisse, KeepsBlanksAndSetsInWhatGoesOn) {
     EXPECT_EQ(inRigheFisse("  a  b\r\n\n1.5", 10, {}, uno), (Righe{"  a  b", "", "1.5"}));
     EXPECT_EQ(inRigheFisse("0123456789abcdefgh", 10, {}, uno),
@@ -45,6 +53,7 @@ TEST(Accorciato, EndsWithDotsWhatDoesNotFit) {
 TEST(ParolaPiuLarga, IsTheWidestOfAllLines) {
     EXPECT_EQ(parolaPiuLarga("uno quattro\ncinque", {}, uno), 7);
     EXPECT_EQ(parolaPiuLarga("", {}, uno), 0);
+    EXPECT_EQ(parolaPiuLarga("e 1.5 kN m/m qui", {}, uno), 10);
 }
 
 }  // namespace

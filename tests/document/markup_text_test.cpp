@@ -85,5 +85,14 @@ TEST(InMarkup, KeepsNumbersOfDifferentDigitsFromBeingFilledUpByAWordProcessor) {
                                                           "\t2.25\r\n#ENDTABLE\r\n"));
 }
 
+TEST(InMarkup, BindsUnitsToTheirNumbersWhereAWordProcessorBreaksTheLines) {
+    Documento d;
+    d.blocchi = {Paragrafo{"al più 5 kN m."}, Paragrafo{"z = 5 kN m", Stile::fisso}};
+    const std::string scritto = inMarkup(d, Uso::documento);
+    EXPECT_TRUE(contiene(scritto, "al più 5\u00A0kN\u00A0m.\r\n"));
+    EXPECT_TRUE(contiene(scritto, "z = 5 kN m\r\n")) << "a file stays as it is";
+    EXPECT_TRUE(contiene(inMarkup(d, Uso::testo), "al più 5 kN m.\r\n"));
+}
+
 }  // namespace
 }  // namespace korven::document
