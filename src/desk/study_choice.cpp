@@ -147,10 +147,7 @@ std::vector<CampoOfferto> campiOfferti(const DatiProgetto& dati, bool campioni) 
 }
 
 std::string detto(const CriterioScritto& criterio) {
-    const auto mostrato = studies::valoreMostrato(criterio.risultato);
-    std::string testo = mostrato.titolo + " " + criterio.segno + " " + criterio.limite;
-    if (!mostrato.unita.mostrata.empty()) testo.append(" ").append(mostrato.unita.mostrata);
-    return testo;
+    return studies::valoreMostrato(criterio.risultato).confronto(criterio.segno, criterio.limite);
 }
 
 std::vector<RisultatoOfferto> risultatiOfferti(const DatiProgetto& dati, bool sicurezza) {

@@ -9,6 +9,7 @@
 #include "desk/study_tables.hpp"
 #include "drawings/annex/scene_plot.hpp"
 #include "studies/charts/study_chart.hpp"
+#include "studies/plan/law.hpp"
 #include "studies/shown_columns.hpp"
 
 namespace korven::desk {
@@ -23,6 +24,7 @@ using document::Titolo;
 using tables::Prospetto;
 
 constexpr std::size_t righeDocumento = 200, righeCartella = 20'000;
+constexpr double altezzaMinima = 14;  // of a chart of samples that stays below its words [cm]
 
 std::string titoloRisultato(const std::string& nome) {
     return studies::valoreMostrato(nome).testa();
@@ -49,16 +51,18 @@ std::optional<document::Figura> figura(const std::shared_ptr<const StudioFatto>&
     if (!suo) return {};
     const auto [larghezza, altezza] =
         studies::formatoGrafico(fatto->conto.riassunto(), fatto->conto.forma(), *suo);
-    return document::Figura{
-        .didascalia = {},
-        .descrizione =
-            riempito(traduttore("Grafico dello studio: %1"), {titoloRisultato(risultato)}),
-        .larghezza = larghezza,
-        .altezza = altezza,
-        .disegna = [fatto, suo = *suo, larghezza = larghezza, altezza = altezza] {
-            drawings::disegnaScena(studies::scenaGrafico(
-                fatto->conto.riassunto(), fatto->conto.forma(), suo, larghezza, altezza));
-        }};
+    const auto disegna = [fatto, suo = *suo, larghezza = larghezza](double alta) {
+        drawings::disegnaScena(studies::scenaGrafico(fatto->conto.riassunto(), fatto->conto.forma(),
+                                                     suo, larghezza, alta));
+    };
+    return document::Figura{.didascalia = {},
+                            .descrizione = riempito(traduttore("Grafico dello studio: %1"),
+                                                    {titoloRisultato(risultato)}),
+                            .larghezza = larghezza,
+                            .altezza = altezza,
+                            .disegna = [disegna, altezza = altezza] { disegna(altezza); },
+                            .altezzaMinima = std::min(altezza, altezzaMinima),
+                            .disegnaBassa = disegna};
 }
 
 std::string elenco(const std::vector<std::string>& parti) {
@@ -80,16 +84,53 @@ void aggiungi(Documento& d, Prospetto prospetto) {
     d.blocchi.emplace_back(document::Tavola{std::move(prospetto)});
 }
 
+// "Lunghezza della paratia [m], da 8 a 12, passo 0.5"
+std::string detta(const project::CampoNominato& campo, const VariazioneScritta& v, bool campioni) {
+    std::string testo = studies::valoreMostrato(campo).testa();
+    if (campioni) {
+        const auto& legge = studies::nomiLeggi()[static_cast<std::size_t>(v.legge)];
+        testo.append(", ").append(legge.nome.mostrato());
+    }
+    const auto nomi = nomiNumeri(campioni, v.legge);
+    for (std::size_t j = 0; j < nomi.size(); ++j)
+        if (!nomi[j].empty())
+            testo.append(j == 1 && !campioni ? " " : ", ").append(nomi[j] + ' ' + v.numeri[j]);
+    return testo;
+}
+
+std::vector<std::string> cheVaria(const StudioFatto& fatto) {
+    std::vector<std::string> dette;
+    std::size_t j = 0;
+    for (const VariazioneScritta& v : fatto.studio->scritto.variazioni)
+        if (!v.campo.empty())
+            dette.push_back(riempito(
+                traduttore("Varia: %1."),
+                {detta(fatto.studio->righe->nominati()[j++], v, fatto.studio->scritto.campioni)}));
+    return dette;
+}
+
 std::vector<std::string> domande(const StudioFatto& fatto) {
     const StudioScritto& s = fatto.studio->scritto;
-    std::vector<std::string> dette = {
-        riempito(traduttore("Varia: %1."), {elenco(fatto.studio->varia)})};
+    std::vector<std::string> dette = cheVaria(fatto);
     if (s.campioni)
         dette.push_back(riempito(traduttore("Campioni: %1, seme %2."),
                                  {std::to_string(s.numero), std::to_string(s.seme)}));
     if (!s.fallisce.empty())
         dette.push_back(riempito(traduttore("Fallisce anche con: %1."), {elenco(s.fallisce)}));
     return dette;
+}
+
+// The parts of a fact stay below it, further in.
+void aggiungi(Documento& d, const std::vector<std::string>& fatti) {
+    constexpr std::string_view parte = "  ", rientro = "\u00a0\u00a0\u00a0\u00a0";
+    for (const std::string& fatto : fatti)
+        if (fatto.starts_with(parte) && !d.blocchi.empty())
+            std::get<Paragrafo>(d.blocchi.back())
+                .testo.append("\n")
+                .append(rientro)
+                .append(fatto.substr(parte.size()));
+        else
+            d.blocchi.emplace_back(Paragrafo{fatto});
 }
 
 }  // namespace
@@ -120,8 +161,8 @@ document::Formato formatoGrafico(const StudioFatto& fatto, const std::string& ri
 Documento documento(const std::shared_ptr<const StudioFatto>& fatto, const std::string& risultato,
                     const ProgettoDetto& progetto) {
     Documento d = documentoDi(progetto, traduttore("Studio di varianti"));
-    for (std::string& frase : domande(*fatto)) d.blocchi.emplace_back(Paragrafo{std::move(frase)});
-    for (std::string& frase : frasi(*fatto)) d.blocchi.emplace_back(Paragrafo{std::move(frase)});
+    aggiungi(d, domande(*fatto));
+    aggiungi(d, frasi(*fatto));
     if (auto f = figura(fatto, risultato)) {
         d.blocchi.emplace_back(Titolo{2, titoloRisultato(risultato)});
         d.blocchi.emplace_back(*std::move(f));

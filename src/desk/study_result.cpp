@@ -8,6 +8,7 @@
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
 #include "live/wall.hpp"
+#include "project/deepest_excavation.hpp"
 #include "safety/words.hpp"
 #include "studies/assignments.hpp"
 #include "studies/shown_columns.hpp"
@@ -60,6 +61,10 @@ std::string avviso(const StudioFatto& fatto, std::uint64_t i, const project::Dat
     if (parete.perche)
         return base::conDuePunti(traduttore("Questa variante non è in equilibrio"),
                                  safety::inBreve(*parete.perche));
+    if (project::piedeScavato(dati))
+        return traduttore(
+            "In questa variante lo scavo raggiunge o supera il piede della paratia: "
+            "non è una parete da costruire.");
     std::string criteri;
     const auto& condizioni = fatto.conto.forma().condizioni;
     for (std::size_t k = 0; k < condizioni.size(); ++k)
@@ -76,7 +81,7 @@ std::shared_ptr<const StudioFatto> esegui(const std::shared_ptr<const StudioPron
                                           int fili,
                                           const std::function<bool(std::uint64_t)>& prosegui) {
     auto fatto = std::make_shared<StudioFatto>(
-        StudioFatto{studio, {}, studies::ContoStudio(*studio->righe, studio->conto)});
+        StudioFatto{studio, {}, studies::ContoStudio(studio->dati, *studio->righe, studio->conto)});
     Tenute uscita(*fatto, prosegui);
     const studies::Studio corsa{*studio->varianti, studio->dati, studio->domanda, *studio->righe};
     studies::esegui(corsa, {0, studio->varianti->numero()}, fili, uscita);
@@ -84,11 +89,7 @@ std::shared_ptr<const StudioFatto> esegui(const std::shared_ptr<const StudioPron
 }
 
 std::vector<std::string> frasi(const StudioFatto& fatto) {
-    std::vector<std::string> valori, criteri;
-    for (const auto& uno : studies::valoriMostrati(*fatto.studio->righe))
-        valori.push_back(uno.titolo);
-    std::ranges::transform(fatto.studio->scritto.fallisce, std::back_inserter(criteri), detto);
-    auto dette = fatto.conto.fatti(std::move(valori), studies::causeMostrate(), std::move(criteri));
+    auto dette = fatto.conto.fatti();
     if (!fatto.intero())
         dette.insert(dette.begin(),
                      traduttore("Lo studio è stato fermato: i numeri sono delle varianti "
@@ -109,6 +110,17 @@ std::vector<std::string> assegnazioni(const StudioFatto& fatto, std::uint64_t i)
     for (std::size_t j = 0; j < fatto.studio->righe->campi(); ++j)
         tutte.push_back(fatto.studio->righe->nomi()[j] + "=" + base::tutteLeCifre(riga[j]));
     return tutte;
+}
+
+std::vector<std::string> valoriDetti(const StudioFatto& fatto, std::uint64_t i) {
+    std::vector<std::string> detti;
+    const auto riga = fatto.riga(i);
+    std::size_t j = 0;
+    for (const project::CampoNominato& campo : fatto.studio->righe->nominati()) {
+        const auto valore = studies::valoreMostrato(campo);
+        detti.push_back(base::conDuePunti(valore.titolo, valore.detto(riga[j++])));
+    }
+    return detti;
 }
 
 VariantePresa prendi(const StudioFatto& fatto, std::uint64_t i, const project::DatiProgetto& dati) {

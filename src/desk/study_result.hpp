@@ -61,12 +61,15 @@ struct StudioFatto {
 /// @param i  from 0
 [[nodiscard]] std::vector<std::string> assegnazioni(const StudioFatto& fatto, std::uint64_t i);
 
+/// The same in words: "Lunghezza della paratia: 9.5 m", translated.
+[[nodiscard]] std::vector<std::string> valoriDetti(const StudioFatto& fatto, std::uint64_t i);
+
 /// A variant taken into a project, or why it can't be.
 struct VariantePresa {
     project::DatiProgetto dati;
     std::string perche;  ///< lines; empty where it can be
-    /// That it is no wall to be built, and why: it falls, its data are refused, or it meets one of
-    /// the criteria; lines, empty otherwise.
+    /// That it is no wall to be built, and why: it falls, its data are refused, an excavation
+    /// reaches its toe, or it meets one of the criteria; lines, empty otherwise.
     std::string avviso;
 };
 /// @param dati  the project as it is now: but for the fields that vary that of the study

@@ -9,6 +9,7 @@
 #include "base/filled_text.hpp"
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
+#include "studies/dug_toe.hpp"
 #include "studies/shown_columns.hpp"
 #include "studies/summary/summary_tables.hpp"
 #include "studies/summary/summary_text.hpp"
@@ -40,9 +41,12 @@ std::string caduta(const StudioFatto& fatto, std::span<const double> riga, safet
                : detta;
 }
 
-Cella esito(const StudioFatto& fatto, std::span<const double> riga) {
+Cella esito(const StudioFatto& fatto, std::span<const double> riga,
+            studies::PiedeScavato& piedeScavato) {
     const auto causa = static_cast<safety::Causa>(riga[fatto.studio->righe->campi()]);
     if (causa != safety::Causa::eseguito) return tables::esito(caduta(fatto, riga, causa), true);
+    if (piedeScavato(riga))
+        return tables::esito(traduttore("in equilibrio con il piede scavato"), true);
     const bool fallita = std::ranges::any_of(fatto.conto.forma().condizioni,
                                              [&](const auto& c) { return c.vale(riga); });
     return tables::esito(traduttore(fallita ? "fallisce" : "in equilibrio"), fallita);
@@ -55,31 +59,28 @@ tables::Colonna colonna(const ValoreMostrato& valore) {
 // The name of a value at the left, the numbers of its row beside it.
 Prospetto prospetto(const TavolaRiassunto& tavola, std::string titolo) {
     Prospetto p{.titolo = std::move(titolo),
-                .colonne = {{.titolo = traduttore("Grandezza"), .numerica = false}}};
+                .colonne = {{.titolo = traduttore("Grandezza fisica"), .numerica = false}}};
     for (const std::string& testa : tavola.testa)
         p.colonne.push_back({.titolo = base::conMaiuscola(testa)});
     return p;
 }
 
-Prospetto distribuzioni(const TavolaRiassunto& tavola, const std::vector<ValoreMostrato>& valori,
-                        std::string nota) {
+Prospetto distribuzioni(const TavolaRiassunto& tavola, std::string nota) {
     Prospetto p = prospetto(tavola, traduttore("Distribuzioni"));
     p.note = {std::move(nota)};
-    for (const auto& [posto, numeri] : tavola.righe) {
-        const ValoreMostrato& valore = valori[posto];
-        std::vector<Cella> celle = {tables::parola(valore.testa()), numero(*numeri.front())};
-        for (std::size_t j = 1; j < numeri.size(); ++j)
-            celle.push_back(numeri[j] ? numero(valore.mostrato(*numeri[j])) : Cella{});
+    for (const auto& [nome, numeri] : tavola.righe) {
+        std::vector<Cella> celle = {tables::parola(nome)};
+        for (const auto& uno : numeri) celle.push_back(uno ? numero(*uno) : Cella{});
         p.righe.push_back(std::move(celle));
     }
     return p;
 }
 
-Prospetto correlazioni(const TavolaRiassunto& tavola, const std::vector<ValoreMostrato>& valori) {
+Prospetto correlazioni(const TavolaRiassunto& tavola) {
     constexpr int decimali = 2;
     Prospetto p = prospetto(tavola, traduttore("Correlazione tra i ranghi (Spearman)"));
-    for (const auto& [posto, ranghi] : tavola.righe) {
-        std::vector<Cella> celle = {tables::parola(valori[posto].titolo)};
+    for (const auto& [nome, ranghi] : tavola.righe) {
+        std::vector<Cella> celle = {tables::parola(nome)};
         for (const auto& rango : ranghi)
             celle.push_back(rango ? tables::cella(*rango, decimali, project::unita::nessuna)
                                   : Cella{});
@@ -101,10 +102,12 @@ Prospetto prospettoVarianti(const StudioFatto& fatto, std::size_t massimo) {
     for (std::size_t j = 0; j < righe.campi(); ++j) posti.push_back(j);
     posti.insert(posti.end(), forma.risultati.begin(), forma.risultati.end());
     for (const std::size_t j : posti) p.colonne.push_back(colonna(valori[j]));
+    studies::PiedeScavato piedeScavato(fatto.studio->dati, righe.nominati());
     const auto quante = std::min<std::uint64_t>(massimo, fatto.numero());
     for (std::uint64_t i = 0; i < quante; ++i) {
         const auto riga = fatto.riga(i);
-        std::vector<Cella> celle = {tables::cella(static_cast<int>(i) + 1), esito(fatto, riga)};
+        std::vector<Cella> celle = {tables::cella(static_cast<int>(i) + 1),
+                                    esito(fatto, riga, piedeScavato)};
         for (const std::size_t j : posti) celle.push_back(numero(valori[j].mostrato(riga[j])));
         p.righe.push_back(std::move(celle));
     }
@@ -116,15 +119,12 @@ Prospetto prospettoVarianti(const StudioFatto& fatto, std::size_t massimo) {
 
 ProspettiCampioni prospettiCampioni(const StudioFatto& fatto) {
     if (!fatto.studio->scritto.campioni || fatto.numero() == 0) return {};
-    const auto valori = studies::valoriMostrati(*fatto.studio->righe);
-    const auto& forma = fatto.conto.forma();
-    std::vector<std::string> campi;
-    for (std::size_t j = 0; j < forma.campi; ++j) campi.push_back(valori[j].titolo);
-    const auto tavole = studies::tavoleRiassunto(fatto.conto.riassunto(), campi);
-    return {distribuzioni(tavole.distribuzioni, valori,
+    const auto tavole = studies::tavoleRiassunto(fatto.conto.riassunto(), fatto.conto.forma(),
+                                                 studies::valoriMostrati(*fatto.studio->righe));
+    return {distribuzioni(tavole.distribuzioni,
                           riempito(traduttore("Quantili e correlazioni da %1 varianti."),
                                    {std::to_string(fatto.conto.riassunto().tenute())})),
-            correlazioni(tavole.correlazioni, valori)};
+            correlazioni(tavole.correlazioni)};
 }
 
 }  // namespace korven::desk

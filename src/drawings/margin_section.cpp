@@ -14,6 +14,7 @@
 #include "plot/plot_engine.hpp"
 #include "plot/sheet.hpp"
 #include "project/anchor_names.hpp"
+#include "project/deepest_excavation.hpp"
 #include "project/units.hpp"
 
 namespace korven::drawings {
@@ -34,9 +35,7 @@ std::string metri(double z) { return base::testoDecimali(z, 2) + " m"; }
 double alCentimetro(double z) { return std::round(project::inCentimetri(z)) / project::centimetri; }
 
 double fondo(const DatiProgetto& dati) {
-    double z = dati.lunghezzaParatia;
-    for (int k = 1; k <= dati.nFasi; ++k) z = std::max(z, dati.profFase[k]);
-    return z;
+    return std::max(dati.lunghezzaParatia, project::scavoMassimo(dati));
 }
 
 class Muro {

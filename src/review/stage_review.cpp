@@ -1,5 +1,6 @@
 #include "base/translated_texts.hpp"
 #include "project/codes.hpp"
+#include "project/deepest_excavation.hpp"
 #include "review/remark_list.hpp"
 
 namespace korven::review {
@@ -61,7 +62,7 @@ void controlloFasi(const DatiProgetto& dati, ElencoOsservazioni& elenco) {
         };
         avvisaSe(scavo < 0, "scavo-sopra-la-testa");
         avvisaSe(k > 1 && scavo < dati.profFase[k - 1], "scavo-che-risale");
-        avvisaSe(dati.lunghezzaParatia > 0 && scavo >= dati.lunghezzaParatia, "scavo-al-piede");
+        avvisaSe(project::alPiede(dati, scavo), "scavo-al-piede");
         if (dati.sovraccFase[k] < 0)
             elenco.aggiungi("valore-negativo", rigaConValore(dati, &DatiProgetto::sovraccFase, k));
     }

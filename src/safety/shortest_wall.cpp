@@ -7,6 +7,7 @@
 #include "analysis/run_arrays.hpp"
 #include "equilibrium/stage_setup.hpp"
 #include "equilibrium/verdict.hpp"
+#include "project/deepest_excavation.hpp"
 
 namespace korven::safety {
 
@@ -62,12 +63,6 @@ class Ricerca {
     int nSeg_;
 };
 
-double scavoMassimo(const DatiProgetto& dati) {
-    double scavo = 0;
-    for (int k = 1; k <= dati.nFasi; ++k) scavo = std::max(scavo, dati.profFase[k]);
-    return scavo;
-}
-
 }  // namespace
 
 LunghezzaMinima lunghezzaMinima(const DatiProgetto& dati, int nSeg) {
@@ -76,7 +71,7 @@ LunghezzaMinima lunghezzaMinima(const DatiProgetto& dati, int nSeg) {
     const auto passi = [](double metri) {
         return std::max(1L, std::lround(std::ceil(metri / passoLunghezza - 1e-9)));
     };
-    const long minimo = passi(scavoMassimo(dati));
+    const long minimo = passi(project::scavoMassimo(dati));
     const long suo = std::max(minimo, passi(dati.lunghezzaParatia));
     const long massimo = std::max(suo, passi(massimaLunghezzaRelativa * dati.lunghezzaParatia));
     const long salto = std::max(1L, suo / 100);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 #include "base/code_page.hpp"
 #include "base/filled_text.hpp"
@@ -52,6 +53,11 @@ constexpr const char* cause[] = {
     "calcolo fermato", "non definito",   "nessun numero",
 };
 
+std::string conUnita(std::string testo, const Unita& unita) {
+    if (!unita.mostrata.empty()) testo.append(" ").append(unita.mostrata);
+    return testo;
+}
+
 }  // namespace
 
 std::string ValoreMostrato::testa() const { return project::etichetta(titolo, unita); }
@@ -59,9 +65,13 @@ std::string ValoreMostrato::testa() const { return project::etichetta(titolo, un
 std::string ValoreMostrato::detto(double valore) const {
     const auto codice = std::ranges::find(codici, valore, &CodiceMostrato::valore);
     if (codice != codici.end()) return codice->nome;
-    std::string testo = base::testoNumero(mostrato(valore));
-    if (!unita.mostrata.empty()) testo.append(" ").append(unita.mostrata);
-    return testo;
+    return conUnita(base::testoNumero(mostrato(valore)), unita);
+}
+
+std::string ValoreMostrato::confronto(std::string_view segno, std::string_view limite) const {
+    std::string testo = titolo;
+    testo.append(" ").append(segno).append(" ").append(limite);
+    return conUnita(std::move(testo), unita);
 }
 
 ValoreMostrato valoreMostrato(const project::CampoNominato& c) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "project/units.hpp"
@@ -31,6 +32,9 @@ struct ValoreMostrato {
     [[nodiscard]] double mostrato(double valore) const { return project::mostrato(unita, valore); }
     /// "20 kN/m²", or the words of a code.
     [[nodiscard]] std::string detto(double valore) const;
+    /// "Spostamento massimo > 30 mm".
+    /// @param limite  a text, in the shown unit
+    [[nodiscard]] std::string confronto(std::string_view segno, std::string_view limite) const;
 };
 
 /// A field by what it is, with its row: its values are shown already.

@@ -29,7 +29,7 @@ TEST_F(Serie, WritesARowForEachVariantInTheirOrder) {
     EXPECT_TRUE(righe[1].starts_with("1,9,0,meccanismo,rotazione,")) << righe[1];
     EXPECT_TRUE(righe[3].starts_with("3,9,40,meccanismo,"));
     EXPECT_TRUE(righe[60].starts_with("60,18.5,40,eseguito,,,"));
-    EXPECT_TRUE(dice(esito.errori, "60 varianti")) << esito.errori;
+    EXPECT_TRUE(dice(esito.errori, "Varianti: 60; ")) << esito.errori;
     EXPECT_EQ(nomi(), "muro.kvd ");
 }
 

@@ -41,9 +41,9 @@ TEST(RisultatoStudio, KeepsWhatIsDoneWhereItIsStopped) {
     EXPECT_LT(f->numero(), 4001U);
     EXPECT_FALSE(f->intero());
     EXPECT_TRUE(frasi(*f)[0].starts_with("Lo studio è stato fermato"));
-    EXPECT_EQ(frasi(*f)[1], std::to_string(f->numero()) + " varianti, " +
-                                std::to_string(f->conto.riassunto().stanno()) +
-                                " in equilibrio in tutte le fasi.");
+    EXPECT_EQ(frasi(*f)[1], "Varianti: " + std::to_string(f->numero()) +
+                                "; in equilibrio in tutte le fasi: " +
+                                std::to_string(f->conto.riassunto().stanno()) + ".");
 }
 
 TEST(RisultatoStudio, IsDrawnForAResultThatItHas) {
@@ -62,7 +62,8 @@ TEST(RisultatoStudio, IsDrawnForAResultThatItHas) {
     const auto libro = cartella(*f, {"/lavori/muro.kvd", muro(), "2026-01-31"});
     ASSERT_EQ(libro.fogli.size(), 1U);
     EXPECT_EQ(libro.fogli[0].prospetto.righe.size(), 5U);
-    EXPECT_EQ(libro.fogli[0].prospetto.note[0], "Varia: lunghezzaParatia=16:20:1.");
+    EXPECT_EQ(libro.fogli[0].prospetto.note[0],
+              "Varia: Lunghezza della paratia [m], da 16 a 20, passo 1.");
 }
 
 TEST(RisultatoStudio, OfSamplesHasTablesOfTheirSpread) {
@@ -123,6 +124,45 @@ TEST(VariantePresa, SaysWhyItIsNoWallToBeBuilt) {
         << avviso(1);
     EXPECT_EQ(avviso(2), "Questa variante fallisce: Spostamento massimo > 1 mm");
     EXPECT_EQ(prendi(*fatto(lunghezze()), 0, muro()).avviso, "");
+}
+
+// The wall is dug 10 m deep; with two anchors it stands a little shorter too.
+TEST(VariantePresa, SaysThatItsToeIsDugFree) {
+    auto s = lunghezze();
+    s.variazioni[0].numeri = {"9.6", "9.6", "1"};
+    const auto f = fatto(s);
+    ASSERT_EQ(f->conto.riassunto().stanno(), 1U);
+    EXPECT_EQ(f->conto.riassunto().piediScavati(), 1U);
+    EXPECT_EQ(prendi(*f, 0, muro()).avviso,
+              "In questa variante lo scavo raggiunge o supera il piede della paratia: non è una "
+              "parete da costruire.");
+}
+
+TEST(VariantePresa, IsToldInWordsAndUnits) {
+    const auto f = fatto(lunghezze());
+    EXPECT_EQ(valoriDetti(*f, 3), std::vector<std::string>{"Lunghezza della paratia: 19 m"});
+}
+
+// The parts of a fact belong to its paragraph; samples tell their law.
+TEST(RisultatoStudio, OnPaperKeepsTheFactsTogether) {
+    StudioScritto s;
+    s.campioni = true;
+    s.numero = 20;
+    s.variazioni = {{}, {"phiStrato[1]", 0, {"32", "2", ""}}};
+    const auto f = fatto(s);
+    const auto d = documento(f, "momento_massimo_kNm", {"/lavori/muro.kvd", muro(), "2026-01-31"});
+    std::vector<std::string> testi;
+    for (const auto& blocco : d.blocchi)
+        if (const auto* p = std::get_if<document::Paragrafo>(&blocco)) testi.push_back(p->testo);
+    EXPECT_EQ(
+        std::ranges::count_if(
+            testi,
+            [](const auto& t) { return t.ends_with("[°], normale, media 32, scarto tipo 2."); }),
+        1);
+    const auto governo = std::ranges::find_if(
+        testi, [](const auto& t) { return t.starts_with("Varianti in equilibrio, per l'uso"); });
+    ASSERT_NE(governo, testi.end());
+    EXPECT_NE(governo->find(":\n\u00a0"), std::string::npos) << *governo;
 }
 
 TEST(StudioAttuale, IsOneOfWhatIsTypedAndOfTheProject) {

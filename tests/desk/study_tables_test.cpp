@@ -46,6 +46,15 @@ TEST(ProspettoVarianti, SaysWhatBecameOfAVariantWithoutNumbers) {
     EXPECT_EQ(p.righe[0][1].peso, review::Peso::pericolo);
 }
 
+TEST(ProspettoVarianti, MarksAWallThatIsDugFree) {
+    auto s = test::lunghezze();
+    s.variazioni[0].numeri = {"9.6", "16", "6.4"};
+    const auto p = prospettoVarianti(*test::fatto(s), 2);
+    EXPECT_EQ(p.righe[0][1].testo, "in equilibrio con il piede scavato");
+    EXPECT_EQ(p.righe[0][1].peso, review::Peso::pericolo);
+    EXPECT_EQ(p.righe[1][1].testo, "in equilibrio");
+}
+
 // What the summary of the command line tells, in shown units.
 TEST(ProspettiCampioni, HaveTheNumbersOfTheSummary) {
     const auto f = test::fatto(campioni());

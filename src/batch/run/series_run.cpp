@@ -76,7 +76,7 @@ class UscitaSerie : public studies::UscitaStudio, public studies::LettoreRigheSt
  public:
     UscitaSerie(const studies::RigheStudio& righe, const studies::DomandaConto& domanda,
                 base::FileParziale* file)
-        : quanti_(righe.quanti()), file_(file), conto_(righe, domanda) {}
+        : quanti_(righe.quanti()), file_(file), conto_(Progetto, righe, domanda) {}
 
     void comincia(std::string_view testata, AvanzamentoSerie& avanzamento) {
         avanzamento_ = &avanzamento;

@@ -263,7 +263,7 @@ void FinestraStudio::prendi(const QModelIndex& dove) {
     const auto presa = desk::prendi(*fatto_, i, vita_.vivo().dati());
     if (!presa.perche.empty()) return nota_->setText(inRighe(presa.perche));
     std::string detto;
-    for (const std::string& una : desk::assegnazioni(*fatto_, i)) detto += una + "\n";
+    for (const std::string& una : desk::valoriDetti(*fatto_, i)) detto += una + "\n";
     if (!presa.avviso.empty()) detto += "\n" + presa.avviso;
     const auto risposta = porte_.dialogo.domandaInformata(
         base::riempito(base::traduttore("Prendere la variante %1 nel progetto?"),

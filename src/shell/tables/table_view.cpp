@@ -208,10 +208,12 @@ void VistaProspetto::resizeEvent(QResizeEvent* evento) {
 void VistaProspetto::paintEvent(QPaintEvent* evento) {
     QTableView::paintEvent(evento);
     if (modello_->rowCount() > 0) return;
+    const auto& note = modello_->prospetto().note;
     QPainter(viewport())
-        .drawText(viewport()->rect().adjusted(margine, margine, -margine, -margine),
-                  Qt::AlignTop | Qt::AlignHCenter | Qt::TextWordWrap,
-                  inRighe(insieme(modello_->prospetto().note)));
+        .drawText(
+            viewport()->rect().adjusted(margine, margine, -margine, -margine),
+            Qt::AlignTop | (note.size() > 1 ? Qt::AlignLeft : Qt::AlignHCenter) | Qt::TextWordWrap,
+            inRighe(insieme(note)));
 }
 
 QMimeData* VistaProspetto::copiato() const {

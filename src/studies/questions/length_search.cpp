@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "analysis/run_arrays.hpp"
+#include "project/deepest_excavation.hpp"
 #include "project/typed_field.hpp"
 
 namespace korven::studies {
@@ -14,12 +15,6 @@ namespace {
 // What a product of a step and a whole number has of noise.
 constexpr double tolleranzaPassi = 1e-9;
 
-double scavoMassimo(const project::DatiProgetto& dati) {
-    double scavo = 0;
-    for (int k = 1; k <= dati.nFasi; ++k) scavo = std::max(scavo, dati.profFase[k]);
-    return scavo;
-}
-
 }  // namespace
 
 RicercaLunghezza cercaLunghezza(const project::DatiProgetto& dati, int nSeg, const Criteri& criteri,
@@ -27,7 +22,7 @@ RicercaLunghezza cercaLunghezza(const project::DatiProgetto& dati, int nSeg, con
     assert(scala.passo > 0 && !analysis::vincoli(dati).bloccoPiede);
     RicercaLunghezza ricerca;
     const auto primo =
-        std::lround(std::floor(scavoMassimo(dati) / scala.passo + tolleranzaPassi)) + 1;
+        std::lround(std::floor(project::scavoMassimo(dati) / scala.passo + tolleranzaPassi)) + 1;
     const auto ultimo = std::lround(std::floor(scala.finoA / scala.passo + tolleranzaPassi));
     const auto tratto =
         static_cast<std::size_t>(std::ceil(trattoSicuro / scala.passo - tolleranzaPassi));

@@ -36,6 +36,10 @@ DifettoCondizione difettoLimite(const DifettoPiano& difetto, std::size_t caratte
 
 }  // namespace
 
+std::string_view segno(Confronto confronto) {
+    return std::ranges::find(segni, confronto, &Segno::confronto)->testo;
+}
+
 bool Condizione::vale(std::span<const double> riga) const {
     const double x = riga[posto];
     switch (confronto) {

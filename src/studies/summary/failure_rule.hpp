@@ -13,6 +13,9 @@ namespace korven::studies {
 /// How a result is compared with a number.
 enum class Confronto { minore, minoreUguale, maggiore, maggioreUguale };
 
+/// ">=".
+[[nodiscard]] std::string_view segno(Confronto confronto);
+
 /// What makes a wall that stands fail all the same: "spostamento_massimo_m>0.03".
 struct Condizione {
     std::size_t posto;  ///< of the result in a row

@@ -2,6 +2,8 @@
 
 #include <variant>
 
+#include "base/number_text.hpp"
+
 namespace korven::studies {
 
 CondizioniLette leggiCondizioni(std::span<const std::string> testi, const RigheStudio& righe) {
@@ -18,6 +20,12 @@ CondizioniLette leggiCondizioni(std::span<const std::string> testi, const RigheS
         lette.condizioni.push_back(condizione);
     }
     return lette;
+}
+
+std::string detta(const Condizione& condizione, std::span<const ValoreMostrato> valori) {
+    const ValoreMostrato& valore = valori[condizione.posto];
+    return valore.confronto(segno(condizione.confronto),
+                            base::testoNumero(valore.mostrato(condizione.limite)));
 }
 
 }  // namespace korven::studies

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "studies/row_text.hpp"
+#include "studies/shown_columns.hpp"
 #include "studies/summary/failure_rule.hpp"
 
 namespace korven::studies {
@@ -21,5 +22,10 @@ struct CondizioniLette {
 /// Reads conditions on fields and results that are numbers.
 [[nodiscard]] CondizioniLette leggiCondizioni(std::span<const std::string> testi,
                                               const RigheStudio& righe);
+
+/// A condition in words, "Spostamento massimo > 30 mm", translated.
+/// @param valori  of a row
+[[nodiscard]] std::string detta(const Condizione& condizione,
+                                std::span<const ValoreMostrato> valori);
 
 }  // namespace korven::studies

@@ -68,15 +68,17 @@ std::vector<std::string> uniti(std::vector<std::string> prima,
 
 }  // namespace
 
-ContoStudio::ContoStudio(const RigheStudio& righe, DomandaConto domanda)
+ContoStudio::ContoStudio(const project::DatiProgetto& dati, const RigheStudio& righe,
+                         DomandaConto domanda)
     : domanda_(std::move(domanda)),
-      nomi_(righe.nomi()),
-      causa_(posto(nomi_, colonnaCausa)),
-      caduta_(posto(nomi_, colonnaCaduta)),
+      righe_(righe),
+      piedeScavato_(dati, righe.nominati()),
+      causa_(posto(righe.nomi(), colonnaCausa)),
+      caduta_(posto(righe.nomi(), colonnaCaduta)),
       forma_(formaDi(righe, domanda_.condizioni)),
       riassunto_(forma_, domanda_.seme) {}
 
-EsitoRiga ContoStudio::esito(std::span<const double> valori) const {
+EsitoRiga ContoStudio::esito(std::span<const double> valori) {
     EsitoRiga e;
     e.motivo = static_cast<int>(valori[causa_]);
     const auto causa = static_cast<safety::Causa>(e.motivo);
@@ -84,6 +86,8 @@ EsitoRiga ContoStudio::esito(std::span<const double> valori) const {
         e.sorte = Sorte::rifiutata;
     else if (causa != safety::Causa::eseguito)
         e.sorte = Sorte::cade;
+    else
+        e.piedeScavato = piedeScavato_(valori);
     if (caduta_ < valori.size() && !std::isnan(valori[caduta_]))
         e.fase = static_cast<int>(valori[caduta_]);
     return e;
@@ -109,20 +113,19 @@ void ContoStudio::controllate(const std::vector<Controllata>& altre) {
 std::vector<std::string> ContoStudio::conteggi() const {
     std::vector<std::string> testo;
     testo.push_back(
-        riempito(traduttore("%1 varianti, %2 in equilibrio in tutte le fasi."),
+        riempito(traduttore("Varianti: %1; in equilibrio in tutte le fasi: %2."),
                  {std::to_string(riassunto_.numero()), std::to_string(riassunto_.stanno())}));
     if (limitati_ > 0)
         testo.push_back(
-            riempito(traduttore("%1 valori erano oltre i limiti del loro campo e sono stati posti "
-                                "al limite."),
+            riempito(traduttore("Valori oltre i limiti del loro campo, che sono stati posti al "
+                                "limite: %1."),
                      {std::to_string(limitati_)}));
     return testo;
 }
 
 NomiRiassunto ContoStudio::nomi() const {
-    return {.valori = nomi_,
-            .motivi = {paroleCausa().begin(), paroleCausa().end()},
-            .condizioni = domanda_.condizioni,
+    return {.valori = valoriMostrati(righe_),
+            .motivi = causeMostrate(),
             .campioni = domanda_.campioni,
             .indipendenti = domanda_.indipendenti};
 }
@@ -131,14 +134,8 @@ std::vector<std::string> ContoStudio::righe() const {
     return uniti(conteggi(), righeRiassunto(riassunto_, forma_, nomi()));
 }
 
-std::vector<std::string> ContoStudio::fatti(std::vector<std::string> valori,
-                                            std::vector<std::string> cause,
-                                            std::vector<std::string> condizioni) const {
-    NomiRiassunto loro = nomi();
-    loro.valori = std::move(valori);
-    loro.motivi = std::move(cause);
-    loro.condizioni = std::move(condizioni);
-    return uniti(conteggi(), fattiRiassunto(riassunto_, forma_, loro));
+std::vector<std::string> ContoStudio::fatti() const {
+    return uniti(conteggi(), fattiRiassunto(riassunto_, forma_, nomi()));
 }
 
 std::vector<std::string> ContoStudio::righeControllo() const {

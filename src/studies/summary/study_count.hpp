@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "studies/dug_toe.hpp"
 #include "studies/runner.hpp"
 #include "studies/summary/summary.hpp"
 #include "studies/summary/summary_text.hpp"
@@ -24,8 +25,9 @@ struct DomandaConto {
 /// an interrupted study that are read again give the same.
 class ContoStudio {
  public:
+    /// @param dati  the project of the study
     /// @pre the conditions can be read: asserted
-    ContoStudio(const RigheStudio& righe, DomandaConto domanda);
+    ContoStudio(const project::DatiProgetto& dati, const RigheStudio& righe, DomandaConto domanda);
 
     /// @param i  the variant, from 0, in ascending order
     void riga(std::uint64_t i, std::span<const double> valori);
@@ -34,16 +36,11 @@ class ContoStudio {
 
     /// True if a variant has other numbers both ways.
     [[nodiscard]] bool diverse() const { return diverse_ > 0; }
-    /// What is told at the end, a line a fact, translated, with the stable names of fields, results
-    /// and verdicts; of samples with tables for a font of one width.
+    /// What is told at the end, a line a fact, in words and shown units, translated; of samples
+    /// with tables for a font of one width.
     [[nodiscard]] std::vector<std::string> righe() const;
-    /// The facts alone, with names of the caller's.
-    /// @param valori      of a row
-    /// @param cause       by `safety::Causa`
-    /// @param condizioni  of those that were asked for
-    [[nodiscard]] std::vector<std::string> fatti(std::vector<std::string> valori,
-                                                 std::vector<std::string> cause,
-                                                 std::vector<std::string> condizioni) const;
+    /// The facts alone.
+    [[nodiscard]] std::vector<std::string> fatti() const;
     /// What is told of the variants that were computed both ways, with the first of those that
     /// differ; empty if there were none.
     [[nodiscard]] std::vector<std::string> righeControllo() const;
@@ -52,12 +49,13 @@ class ContoStudio {
     [[nodiscard]] const FormaRiga& forma() const { return forma_; }
 
  private:
-    [[nodiscard]] EsitoRiga esito(std::span<const double> valori) const;
+    [[nodiscard]] EsitoRiga esito(std::span<const double> valori);
     [[nodiscard]] std::vector<std::string> conteggi() const;
     [[nodiscard]] NomiRiassunto nomi() const;
 
     DomandaConto domanda_;
-    std::vector<std::string> nomi_;
+    RigheStudio righe_;
+    PiedeScavato piedeScavato_;
     std::size_t causa_;   ///< places in a row
     std::size_t caduta_;  ///< that of no column where there is none
     FormaRiga forma_;

@@ -78,6 +78,7 @@ void Riassunto::prendi(std::uint64_t i, std::span<const double> riga, const Esit
     ++numero_;
     stanno_ += esito.sorte == Sorte::sta ? 1 : 0;
     rifiutate_ += esito.sorte == Sorte::rifiutata ? 1 : 0;
+    piediScavati_ += esito.sorte == Sorte::sta && esito.piedeScavato ? 1 : 0;
     fallite_ += fallisce(riga, esito) ? 1 : 0;
 
     std::size_t maggiore = forma_.usi.size();

@@ -35,8 +35,9 @@ enum class Sorte {
 
 struct EsitoRiga {
     Sorte sorte = Sorte::sta;
-    int motivo = 0;  ///< why it does not stand: a number of the caller's
-    int fase = 0;    ///< in which stage, 0: none
+    int motivo = 0;             ///< why it does not stand: a number of the caller's
+    int fase = 0;               ///< in which stage, 0: none
+    bool piedeScavato = false;  ///< it stands with an excavation that reaches or passes its toe
 };
 
 /// The shares of 1 below which quantiles are told.
@@ -83,6 +84,8 @@ class Riassunto {
     [[nodiscard]] const std::vector<std::uint64_t>& governano() const { return governano_; }
     /// How many have a share beyond 1: they stand, but not with this resistance.
     [[nodiscard]] std::uint64_t superano() const { return superano_; }
+    /// How many stand with an excavation that reaches or passes their toe.
+    [[nodiscard]] std::uint64_t piediScavati() const { return piediScavati_; }
     /// Share of the walls that fail, if they are independent samples; 0 without a wall.
     [[nodiscard]] double probabilita() const;
     [[nodiscard]] Intervallo intervallo() const { return intervalloWilson(fallite_, calcolate()); }
@@ -101,7 +104,8 @@ class Riassunto {
 
     FormaRiga forma_;
     std::vector<std::size_t> posti_;  ///< of a row, that are kept
-    std::uint64_t numero_ = 0, stanno_ = 0, rifiutate_ = 0, fallite_ = 0, superano_ = 0;
+    std::uint64_t numero_ = 0, stanno_ = 0, rifiutate_ = 0, fallite_ = 0, superano_ = 0,
+                  piediScavati_ = 0;
     std::map<std::pair<int, int>, std::uint64_t> cadute_;
     std::vector<std::uint64_t> oltre_, governano_;
     std::vector<Momenti> momenti_;

@@ -11,7 +11,7 @@
 #include "base/filled_text.hpp"
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
-#include "studies/columns.hpp"
+#include "studies/summary/row_conditions.hpp"
 #include "studies/summary/summary_tables.hpp"
 
 namespace korven::studies {
@@ -41,31 +41,33 @@ void allinea(const Tabella& tabella, Righe& testo) {
     }
 }
 
-void cedimenti(const Riassunto& r, const NomiRiassunto& nomi, Righe& testo) {
-    const std::string volte = numero(r.fallite()), prove = numero(r.calcolate());
+void rifiutate(const Riassunto& r, Righe& testo) {
     if (r.rifiutate() > 0)
         testo.push_back(
-            riempito(traduttore("%1 varianti hanno dati che nessun calcolo accetta (colonna %2): "
-                                "non sono pareti, e non contano tra quelle che falliscono."),
-                     {numero(r.rifiutate()), std::string(colonnaMotivo)}));
+            riempito(traduttore("Varianti con dati che nessun calcolo accetta: %1. Non sono "
+                                "pareti, e non contano tra quelle che falliscono."),
+                     {numero(r.rifiutate())}));
+}
+
+void cedimenti(const Riassunto& r, const NomiRiassunto& nomi, Righe& testo) {
+    const std::string volte = numero(r.fallite()), prove = numero(r.calcolate());
     if (r.calcolate() == 0) return;
     if (!nomi.campioni) {
-        testo.push_back(riempito(traduttore("Falliscono %1 varianti su %2."), {volte, prove}));
+        testo.push_back(riempito(traduttore("Varianti che falliscono: %1 su %2."), {volte, prove}));
         return;
     }
     const std::string p = cinqueCifre(r.probabilita());
     if (!nomi.indipendenti) {
         testo.push_back(riempito(
-            traduttore("Falliscono %1 campioni su %2: probabilità %3; un ipercubo non dà un "
+            traduttore("Campioni che falliscono: %1 su %2, probabilità %3; un ipercubo non dà un "
                        "intervallo."),
             {volte, prove, p}));
         return;
     }
     const auto i = r.intervallo();
     testo.push_back(riempito(
-        traduttore(
-            "Falliscono %1 campioni su %2: probabilità %3, con il 95 % di confidenza tra %4 e "
-            "%5."),
+        traduttore("Campioni che falliscono: %1 su %2, probabilità %3, con il 95 % di confidenza "
+                   "tra %4 e %5."),
         {volte, prove, p, cinqueCifre(i.da), cinqueCifre(i.a)}));
 }
 
@@ -82,11 +84,13 @@ void cadute(const Riassunto& r, const NomiRiassunto& nomi, Righe& testo) {
     }
 }
 
-void superamenti(const Riassunto& r, const NomiRiassunto& nomi, Righe& testo) {
-    for (std::size_t k = 0; k < nomi.condizioni.size(); ++k)
-        testo.push_back("  " + base::conDuePunti(riempito(traduttore("in equilibrio con %1"),
-                                                          {nomi.condizioni[k]}),
-                                                 numero(r.oltre()[k])));
+void superamenti(const Riassunto& r, const FormaRiga& forma, const NomiRiassunto& nomi,
+                 Righe& testo) {
+    for (std::size_t k = 0; k < forma.condizioni.size(); ++k)
+        testo.push_back("  " +
+                        base::conDuePunti(riempito(traduttore("in equilibrio con %1"),
+                                                   {detta(forma.condizioni[k], nomi.valori)}),
+                                          numero(r.oltre()[k])));
 }
 
 void governo(const Riassunto& r, const FormaRiga& forma, const NomiRiassunto& nomi, Righe& testo) {
@@ -95,12 +99,22 @@ void governo(const Riassunto& r, const FormaRiga& forma, const NomiRiassunto& no
     testo.push_back(traduttore("Varianti in equilibrio, per l'uso che in ciascuna è il maggiore:"));
     for (std::size_t k = 0; k < volte.size(); ++k)
         if (volte[k] > 0)
-            testo.push_back("  " + base::conDuePunti(nomi.valori[forma.usi[k]], numero(volte[k])));
+            testo.push_back("  " +
+                            base::conDuePunti(nomi.valori[forma.usi[k]].titolo, numero(volte[k])));
+}
+
+// What stands, and is no wall to be built.
+void riserve(const Riassunto& r, Righe& testo) {
     if (r.superano() > 0)
         testo.push_back(
-            riempito(traduttore("In equilibrio, ma con un uso maggiore di 1: %1 varianti; "
-                                "falliscono solo se un criterio lo dice."),
+            riempito(traduttore("Varianti in equilibrio, ma con un uso maggiore di 100 %: %1. "
+                                "Falliscono solo se un criterio lo dice."),
                      {numero(r.superano())}));
+    if (r.piediScavati() > 0)
+        testo.push_back(
+            riempito(traduttore("Varianti in equilibrio, ma con lo scavo che raggiunge o supera il "
+                                "piede: %1. Non sono pareti da costruire."),
+                     {numero(r.piediScavati())}));
 }
 
 std::string dueCifre(const std::optional<double>& valore) {
@@ -112,12 +126,11 @@ std::string cinqueCifreONessuno(const std::optional<double>& valore) {
 }
 
 // With the names of its rows, as texts.
-Tabella inTesti(const TavolaRiassunto& tavola, const NomiRiassunto& nomi,
-                std::string (*testo)(const std::optional<double>&)) {
+Tabella inTesti(const TavolaRiassunto& tavola, std::string (*testo)(const std::optional<double>&)) {
     Tabella tabella{{""}};
     tabella[0].insert(tabella[0].end(), tavola.testa.begin(), tavola.testa.end());
-    for (const auto& [posto, valori] : tavola.righe) {
-        Righe riga{nomi.valori[posto]};
+    for (const auto& [nome, valori] : tavola.righe) {
+        Righe riga{nome};
         std::ranges::transform(valori, std::back_inserter(riga), testo);
         tabella.push_back(std::move(riga));
     }
@@ -142,13 +155,14 @@ std::string cinqueCifre(double valore) {
 std::vector<std::string> fattiRiassunto(const Riassunto& riassunto, const FormaRiga& forma,
                                         const NomiRiassunto& nomi) {
     assert(nomi.valori.size() == forma.valori);
-    assert(nomi.condizioni.size() == forma.condizioni.size());
     Righe testo;
     if (riassunto.numero() == 0) return testo;
+    rifiutate(riassunto, testo);
     cedimenti(riassunto, nomi, testo);
     cadute(riassunto, nomi, testo);
-    superamenti(riassunto, nomi, testo);
+    superamenti(riassunto, forma, nomi, testo);
     governo(riassunto, forma, nomi, testo);
+    riserve(riassunto, testo);
     return testo;
 }
 
@@ -156,13 +170,13 @@ std::vector<std::string> righeRiassunto(const Riassunto& riassunto, const FormaR
                                         const NomiRiassunto& nomi) {
     Righe testo = fattiRiassunto(riassunto, forma, nomi);
     if (!nomi.campioni || riassunto.numero() == 0) return testo;
-    const auto tavole = tavoleRiassunto(riassunto, std::span(nomi.valori).first(forma.campi));
+    const auto tavole = tavoleRiassunto(riassunto, forma, nomi.valori);
     testo.push_back(riempito(traduttore("Valori; quantili e correlazioni da %1 varianti:"),
                              {numero(riassunto.tenute())}));
-    allinea(inTesti(tavole.distribuzioni, nomi, cinqueCifreONessuno), testo);
+    allinea(inTesti(tavole.distribuzioni, cinqueCifreONessuno), testo);
     if (!tavole.correlazioni.righe.empty()) {
         testo.push_back(traduttore("Correlazione tra i ranghi (Spearman):"));
-        allinea(inTesti(tavole.correlazioni, nomi, dueCifre), testo);
+        allinea(inTesti(tavole.correlazioni, dueCifre), testo);
     }
     return testo;
 }

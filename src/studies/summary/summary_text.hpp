@@ -4,21 +4,22 @@
 #include <string>
 #include <vector>
 
+#include "studies/shown_columns.hpp"
 #include "studies/summary/summary.hpp"
 
 namespace korven::studies {
 
-/// What the places of a row and the numbers of a summary are called.
+/// How the values of a row and the numbers of a summary are told, translated.
 struct NomiRiassunto {
-    std::vector<std::string> valori;        ///< of a row
-    std::vector<std::string> motivi;        ///< by `EsitoRiga::motivo`
-    std::vector<std::string> condizioni{};  ///< of `FormaRiga::condizioni`, as typed
+    std::vector<ValoreMostrato> valori;  ///< of a row
+    std::vector<std::string> motivi;     ///< by `EsitoRiga::motivo`
     bool campioni = false;      ///< the variants are samples: how often they fail is a probability
     bool indipendenti = false;  ///< and have no part in each other: it has an interval
 };
 
 /// What a study comes to, a line a fact, translated: what fails and how probable that is, where
-/// walls fall, what governs those that stand.
+/// walls fall, what governs those that stand. Lines that begin with two blanks are the parts of the
+/// one above them.
 /// @pre the names are those of the summary's row: asserted
 [[nodiscard]] std::vector<std::string> fattiRiassunto(const Riassunto& riassunto,
                                                       const FormaRiga& forma,

@@ -21,46 +21,73 @@ const RigheStudio& forma() {
     return sua;
 }
 
-std::vector<double> riga(safety::Causa causa, double momento = 100) {
+// Dug 8 m deep.
+project::DatiProgetto muro() {
+    project::DatiProgetto dati;
+    dati.nFasi = 1;
+    dati.profFase[1] = 8;
+    return dati;
+}
+
+std::vector<double> riga(safety::Causa causa, double momento = 100, double lunghezza = 12) {
     const bool sta = causa == safety::Causa::eseguito;
-    return {12, static_cast<double>(causa), sta ? vuoto : 2, sta ? momento : vuoto,
+    return {lunghezza, static_cast<double>(causa), sta ? vuoto : 2, sta ? momento : vuoto,
             sta ? 0.5 : vuoto};
 }
 
 TEST(ContoStudio, CountsVerdictsAndValuesThatWereSetToALimit) {
-    ContoStudio conto(forma(), {});
+    ContoStudio conto(muro(), forma(), {});
     for (std::uint64_t i = 0; i < 3; ++i) conto.riga(i, riga(safety::Causa::eseguito));
     conto.riga(3, riga(safety::Causa::meccanismo));
     EXPECT_EQ(conto.righe(),
-              (Testi{"4 varianti, 3 in equilibrio in tutte le fasi.", "Falliscono 1 varianti su 4.",
-                     "  meccanismo, fase 2: 1",
+              (Testi{"Varianti: 4; in equilibrio in tutte le fasi: 3.",
+                     "Varianti che falliscono: 1 su 4.", "  meccanismo, fase 2: 1",
                      "Varianti in equilibrio, per l'uso che in ciascuna è il maggiore:",
-                     "  uso_momento_positivo: 3"}));
+                     "  Uso, momento positivo: 3"}));
     conto.limitati(2);
     EXPECT_EQ(conto.righe()[1],
-              "2 valori erano oltre i limiti del loro campo e sono stati posti al limite.");
+              "Valori oltre i limiti del loro campo, che sono stati posti al limite: 2.");
     EXPECT_FALSE(conto.diverse());
     EXPECT_EQ(conto.righeControllo(), Testi{});
 }
 
+TEST(ContoStudio, TellsOfWallsThatStandWithoutTheirToe) {
+    ContoStudio conto(muro(), forma(), {});
+    conto.riga(0, riga(safety::Causa::eseguito, 100, 7.5));
+    conto.riga(1, riga(safety::Causa::eseguito, 100, 8));
+    conto.riga(2, riga(safety::Causa::eseguito, 100, 8.5));
+    conto.riga(3, riga(safety::Causa::meccanismo, 100, 7));
+    EXPECT_EQ(conto.riassunto().stanno(), 3U);
+    EXPECT_EQ(
+        conto.righe().back(),
+        "Varianti in equilibrio, ma con lo scavo che raggiunge o supera il piede: 2. Non sono "
+        "pareti da costruire.");
+}
+
+TEST(ContoStudio, TellsWhatMakesAVariantFailInShownUnits) {
+    ContoStudio conto(muro(), forma(), {.condizioni = {"uso_momento_positivo >=0.5"}});
+    conto.riga(0, riga(safety::Causa::eseguito));
+    EXPECT_EQ(conto.fatti()[2], "  in equilibrio con Uso, momento positivo >= 50 %: 1");
+}
+
 TEST(ContoStudio, TellsTheProbabilityOfFailureOfIndependentSamples) {
-    ContoStudio conto(forma(), {.seme = 7, .campioni = true, .indipendenti = true});
+    ContoStudio conto(muro(), forma(), {.seme = 7, .campioni = true, .indipendenti = true});
     for (std::uint64_t i = 0; i < 9; ++i)
         conto.riga(i, riga(safety::Causa::eseguito, static_cast<double>(i)));
     conto.riga(9, riga(safety::Causa::meccanismo));
     const Testi righe = conto.righe();
     // Wilson's interval of 1 in 10.
     EXPECT_EQ(righe[1],
-              "Falliscono 1 campioni su 10: probabilità 0.1, con il 95 % di confidenza tra "
+              "Campioni che falliscono: 1 su 10, probabilità 0.1, con il 95 % di confidenza tra "
               "0.017876 e 0.40415.");
     // The mean of 0 to 8, of nine that have a moment.
     const auto media = std::find_if(righe.begin(), righe.end(), [](const std::string& r) {
-        return r.starts_with("  momento_massimo_kNm");
+        return r.starts_with("  Momento massimo [kN m/m]");
     });
     ASSERT_NE(media, righe.end());
-    std::istringstream cifre(*media);
-    std::string nome, numero, valore;
-    cifre >> nome >> numero >> valore;
+    std::istringstream cifre(media->substr(media->find(']') + 1));
+    std::string numero, valore;
+    cifre >> numero >> valore;
     EXPECT_EQ(numero, "9");
     EXPECT_EQ(valore, "4");
     EXPECT_EQ(conto.forma().risultati, (std::vector<std::size_t>{3, 4}));
@@ -68,7 +95,7 @@ TEST(ContoStudio, TellsTheProbabilityOfFailureOfIndependentSamples) {
 }
 
 TEST(ContoStudio, ListsTheFirstOfTheVariantsThatDifferBothWays) {
-    ContoStudio conto(forma(), {});
+    ContoStudio conto(muro(), forma(), {});
     conto.controllate({{99, {Accordo::uguali, 1, 1e-9, 1e-7}}, {199, {Accordo::senzaRiposo}}});
     EXPECT_FALSE(conto.diverse());
     conto.controllate(

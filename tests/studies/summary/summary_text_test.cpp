@@ -9,7 +9,7 @@ namespace korven::studies {
 namespace {
 
 const FormaRiga forma{.campi = 1, .valori = 3, .risultati = {1}, .usi = {1, 2}};
-const NomiRiassunto nomi{.valori = {"phiStrato[1]", "uso_a", "uso_b"},
+const NomiRiassunto nomi{.valori = {{.titolo = "Angolo"}, {.titolo = "Primo"}, {.titolo = "Altro"}},
                          .motivi = {"", "rotazione"},
                          .campioni = true,
                          .indipendenti = true};
@@ -27,19 +27,20 @@ Riassunto tre(const FormaRiga& sua = forma) {
 // One of four: (0.25 + 0.4802 -+ 1.96 sqrt(0.046875 + 0.060023)) / 1.9604 is 0.0456 and 0.6994.
 TEST(TestoRiassunto, TellsOfSamplesHowTheyFailAndHowTheyAreSpread) {
     const std::vector<std::string> attese = {
-        "Falliscono 1 campioni su 4: probabilità 0.25, con il 95 % di confidenza tra 0.045587 e "
+        "Campioni che falliscono: 1 su 4, probabilità 0.25, con il 95 % di confidenza tra 0.045587 "
+        "e "
         "0.69936.",
         "  rotazione, fase 2: 1",
         "Varianti in equilibrio, per l'uso che in ciascuna è il maggiore:",
-        "  uso_a: 2",
-        "  uso_b: 1",
+        "  Primo: 2",
+        "  Altro: 1",
         "Valori; quantili e correlazioni da 4 varianti:",
-        "                varianti    media        s    min     5 %  50 %   95 %  max",
-        "  phiStrato[1]         4       29   6.2183     20    21.5    31   33.7   34",
-        "  uso_a                3  0.29167  0.19094  0.125  0.1375  0.25  0.475  0.5",
+        "          varianti    media        s    min     5 %  50 %   95 %  max",
+        "  Angolo         4       29   6.2183     20    21.5    31   33.7   34",
+        "  Primo          3  0.29167  0.19094  0.125  0.1375  0.25  0.475  0.5",
         "Correlazione tra i ranghi (Spearman):",
-        "         phiStrato[1]",
-        "  uso_a         -1.00",
+        "         Angolo",
+        "  Primo   -1.00",
     };
     const auto righe = righeRiassunto(tre(), forma, nomi);
     ASSERT_EQ(righe.size(), attese.size());
@@ -48,18 +49,19 @@ TEST(TestoRiassunto, TellsOfSamplesHowTheyFailAndHowTheyAreSpread) {
 
 TEST(TestoRiassunto, OfFactsAloneHasNoTables) {
     const auto fatti = fattiRiassunto(tre(), forma, nomi);
-    EXPECT_EQ(fatti.back(), "  uso_b: 1");
+    EXPECT_EQ(fatti.back(), "  Altro: 1");
 }
 
 TEST(TestoRiassunto, HasNoIntervalForAHypercubeAndNoProbabilityForAGrid) {
     auto altri = nomi;
     altri.indipendenti = false;
-    EXPECT_EQ(righeRiassunto(tre(), forma, altri).front(),
-              "Falliscono 1 campioni su 4: probabilità 0.25; un ipercubo non dà un intervallo.");
+    EXPECT_EQ(
+        righeRiassunto(tre(), forma, altri).front(),
+        "Campioni che falliscono: 1 su 4, probabilità 0.25; un ipercubo non dà un intervallo.");
     altri.campioni = false;
     const auto righe = righeRiassunto(tre(), forma, altri);
-    EXPECT_EQ(righe.front(), "Falliscono 1 varianti su 4.");
-    EXPECT_EQ(righe.back(), "  uso_b: 1");
+    EXPECT_EQ(righe.front(), "Varianti che falliscono: 1 su 4.");
+    EXPECT_EQ(righe.back(), "  Altro: 1");
 }
 
 TEST(TestoRiassunto, TellsWhatStandsBeyondAResistance) {
@@ -67,7 +69,7 @@ TEST(TestoRiassunto, TellsWhatStandsBeyondAResistance) {
     r.prendi(0, std::array{30.0, 1.15, 0.4}, {});
     r.prendi(1, std::array{32.0, 0.25, 0.4}, {});
     EXPECT_EQ(righeRiassunto(r, forma, nomi)[4],
-              "In equilibrio, ma con un uso maggiore di 1: 1 varianti; falliscono solo se un "
+              "Varianti in equilibrio, ma con un uso maggiore di 100 %: 1. Falliscono solo se un "
               "criterio lo dice.");
 }
 
@@ -79,10 +81,10 @@ TEST(TestoRiassunto, LeavesRefusedVariantsOutOfTheProbability) {
         r.prendi(i, std::array{90.0, nessuno, nessuno}, {.sorte = Sorte::rifiutata, .motivo = 1});
     const auto righe = righeRiassunto(r, forma, nomi);
     EXPECT_EQ(righe[0],
-              "2 varianti hanno dati che nessun calcolo accetta (colonna motivo): non sono pareti, "
-              "e non contano tra quelle che falliscono.");
+              "Varianti con dati che nessun calcolo accetta: 2. Non sono pareti, e non contano tra "
+              "quelle che falliscono.");
     EXPECT_EQ(righe[1],
-              "Falliscono 1 campioni su 4: probabilità 0.25, con il 95 % di confidenza tra "
+              "Campioni che falliscono: 1 su 4, probabilità 0.25, con il 95 % di confidenza tra "
               "0.045587 e 0.69936.");
     EXPECT_EQ(righe[2], "  rotazione, fase 2: 1");
     EXPECT_EQ(righe[3], "Varianti in equilibrio, per l'uso che in ciascuna è il maggiore:");
@@ -97,15 +99,15 @@ TEST(TestoRiassunto, TellsHowManyFailThatStand) {
     auto sua = forma;
     sua.condizioni = {{1, Confronto::minore, 0.3}, {2, Confronto::minoreUguale, 0.1}};
     auto altri = nomi;
-    altri.condizioni = {"uso_a<0.3", "uso_b<=0.1"};
     altri.indipendenti = false;
     const auto righe = righeRiassunto(tre(sua), sua, altri);
     ASSERT_GT(righe.size(), 4U);
-    EXPECT_EQ(righe[0],
-              "Falliscono 3 campioni su 4: probabilità 0.75; un ipercubo non dà un intervallo.");
+    EXPECT_EQ(
+        righe[0],
+        "Campioni che falliscono: 3 su 4, probabilità 0.75; un ipercubo non dà un intervallo.");
     EXPECT_EQ(righe[1], "  rotazione, fase 2: 1");
-    EXPECT_EQ(righe[2], "  in equilibrio con uso_a<0.3: 2");
-    EXPECT_EQ(righe[3], "  in equilibrio con uso_b<=0.1: 1");
+    EXPECT_EQ(righe[2], "  in equilibrio con Primo < 0.3: 2");
+    EXPECT_EQ(righe[3], "  in equilibrio con Altro <= 0.1: 1");
 }
 
 TEST(TestoRiassunto, IsEmptyWithoutVariants) {
