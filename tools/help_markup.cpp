@@ -18,6 +18,25 @@ std::string entity(std::string_view character) {
     return "&#" + std::to_string(code) + ";";
 }
 
+// One character as it stands in HTML.
+std::string escaped(std::string_view character) {
+    if (character == "<") return "&lt;";
+    if (character == ">") return "&gt;";
+    if (character == "&") return "&amp;";
+    return base::rappresentabile(character) ? std::string(character) : entity(character);
+}
+
+// A text in which no character marks anything.
+std::string plainText(std::string_view text) {
+    std::string html;
+    while (!text.empty()) {
+        const auto length = base::lunghezzaPrimoCarattere(text);
+        html += escaped(text.substr(0, length));
+        text.remove_prefix(length);
+    }
+    return html;
+}
+
 /// Turns the mark-up within a line into tags.
 class Inline {
  public:
@@ -47,14 +66,7 @@ class Inline {
             if (rest.starts_with(mark.open)) return marked(html, mark);
         const auto length = base::lunghezzaPrimoCarattere(rest);
         const auto character = rest.substr(0, length);
-        if (character == "<")
-            html += "&lt;";
-        else if (character == ">")
-            html += "&gt;";
-        else if (character == "&")
-            html += "&amp;";
-        else
-            html += base::rappresentabile(character) ? std::string(character) : entity(character);
+        html += escaped(character);
         at_ += length;
         return true;
     }
@@ -93,8 +105,8 @@ class Inline {
 /// Goes through the blocks of a page.
 class Blocks {
  public:
-    Blocks(HelpBody& body, const Lines& lines, const std::vector<HelpField>& fields)
-        : body_(body), lines_(lines), fields_(fields) {}
+    Blocks(HelpBody& body, const Lines& lines, const HelpFrame& frame)
+        : body_(body), lines_(lines), fields_(frame.fields), groups_(frame.groups) {}
 
     void all() {
         while (at_ < lines_.size() && body_.fault.empty()) {
@@ -103,6 +115,8 @@ class Blocks {
                 ++at_;
             else if (line.starts_with("@campo "))
                 field();
+            else if (line.starts_with("@gruppo "))
+                group();
             else if (line.starts_with("== "))
                 emit("<h2>" + shown(lines_[at_++].substr(3)) + "</h2>");
             else if (line.starts_with("= "))
@@ -115,12 +129,14 @@ class Blocks {
                 emit("<table class=\"avviso\" width=\"100%\" cellpadding=\"6\"><tr><td>" +
                      shown(paragraph(2)) + "</td></tr></table>");
             else if (line.starts_with("@"))
-                refuse("atteso \"@campo NOME\"");
+                refuse("atteso \"@campo NOME\" o \"@gruppo NOME\"");
             else
                 emit("<p>" + shown(paragraph(0)) + "</p>");
         }
         if (body_.fault.empty() && body_.anchors.size() < fields_.size())
             refuse("atteso il campo " + fields_[body_.anchors.size()].name);
+        if (body_.fault.empty() && nextGroup_ < groups_.size())
+            refuse("atteso il gruppo " + groups_[nextGroup_].name);
     }
 
  private:
@@ -166,6 +182,47 @@ class Blocks {
         emit("<h3><a name=\"" + anchor + "\"></a>" + shown(fields_[next].label) + "</h3>");
     }
 
+    // A table of the messages that the page explains, each by the row with its name, then a list of
+    // those that need no word more. Their texts are those of the program, so that none can differ.
+    void group() {
+        const auto name = lines_[at_].substr(8);
+        if (nextGroup_ == groups_.size()) return refuse("attesi solo i gruppi di struttura");
+        const HelpMessageGroup& group = groups_[nextGroup_];
+        if (name != group.name) return refuse("atteso il gruppo " + group.name);
+        ++nextGroup_;
+        ++at_;
+        std::vector<const HelpMessage*> explained;
+        std::string alone;
+        for (const auto& message : group.messages)
+            if (message.name.empty())
+                alone += "<li>" + plainText(message.text) + "</li>";
+            else
+                explained.push_back(&message);
+        if (!explained.empty()) explanations(explained);
+        if (!alone.empty() && body_.fault.empty()) emit("<ul>" + alone + "</ul>");
+    }
+
+    // "| head | head |", then "| NAME | what to do |" for each of the messages.
+    void explanations(const std::vector<const HelpMessage*>& messages) {
+        std::string rows;
+        for (std::size_t row = 0; row <= messages.size(); ++row, ++at_) {
+            const std::string expected = row == 0 ? "la testa di una tabella di messaggi"
+                                                  : "il messaggio " + messages[row - 1]->name;
+            if (at_ == lines_.size() || !lines_[at_].starts_with("|"))
+                return refuse("atteso: " + expected);
+            const auto cells = cellsOf(lines_[at_]);
+            if (cells.size() != 2 || (row > 0 && cells[0] != messages[row - 1]->name))
+                return refuse("atteso: " + expected);
+            const std::string first =
+                row == 0 ? shown(cells[0]) : plainText(messages[row - 1]->text);
+            rows += tableRow({first, shown(cells[1])}, row == 0);
+            if (!body_.fault.empty()) return;
+        }
+        if (at_ < lines_.size() && lines_[at_].starts_with("|"))
+            return refuse("attesi solo i messaggi del gruppo");
+        emitTable(rows);
+    }
+
     // Blanks in a row part two formulas of a line.
     void formula() {
         std::string text;
@@ -193,12 +250,21 @@ class Blocks {
             if (head) columns = cells.size();
             if (cells.size() != columns || columns < 2)
                 return refuse("attese celle quante in testa");
-            rows += "<tr>";
-            for (const auto cell : cells)
-                rows += (head ? "<th align=\"left\">" : "<td>") + shown(cell) +
-                        (head ? "</th>" : "</td>");
-            rows += "</tr>";
+            std::vector<std::string> texts;
+            for (const auto cell : cells) texts.push_back(shown(cell));
+            rows += tableRow(texts, head);
         }
+        emitTable(rows);
+    }
+
+    static std::string tableRow(const std::vector<std::string>& cells, bool head) {
+        std::string row = "<tr>";
+        for (const auto& cell : cells)
+            row += (head ? "<th align=\"left\">" : "<td>") + cell + (head ? "</th>" : "</td>");
+        return row + "</tr>";
+    }
+
+    void emitTable(const std::string& rows) {
         emit("<table class=\"tabella\" border=\"1\" cellspacing=\"0\" cellpadding=\"4\">" + rows +
              "</table>");
     }
@@ -221,14 +287,15 @@ class Blocks {
     HelpBody& body_;
     const Lines& lines_;
     const std::vector<HelpField>& fields_;
-    std::size_t at_ = 0;
+    const std::vector<HelpMessageGroup>& groups_;
+    std::size_t at_ = 0, nextGroup_ = 0;
 };
 
 }  // namespace
 
-HelpBody helpBody(const Lines& lines, const std::vector<HelpField>& fields) {
+HelpBody helpBody(const Lines& lines, const HelpFrame& frame) {
     HelpBody body;
-    Blocks(body, lines, fields).all();
+    Blocks(body, lines, frame).all();
     return body;
 }
 

@@ -20,8 +20,8 @@ struct HelpBody {
 /// Turns the lines of a page into HTML, in the tags that the viewer shows; data/guida/ita.txt tells
 /// the mark-up at its head. Numeric entities replace characters that Windows-1252 lacks.
 ///
-/// @param fields  those that the page tells of, in this order, with their labels
-[[nodiscard]] HelpBody helpBody(const std::vector<std::string_view>& lines,
-                                const std::vector<HelpField>& fields);
+/// @param frame  of the page: the fields that it tells of and the groups of messages that it
+/// lists, both in this order, with labels and messages in the language of the lines
+[[nodiscard]] HelpBody helpBody(const std::vector<std::string_view>& lines, const HelpFrame& frame);
 
 }  // namespace korven::tools

@@ -80,7 +80,7 @@ class Reader {
         if (!open_) return;
         open_ = false;
         HelpPage& page = pages_.back();
-        page.body = helpBody(body_, structure_[pages_.size() - 1].fields);
+        page.body = helpBody(body_, structure_[pages_.size() - 1]);
         if (!page.body.fault.empty())
             lines_.refuse(bodyStart_ + static_cast<long>(page.body.faultLine), page.body.fault);
         if (page.body.html.empty()) lines_.refuse(page.line, "attesa una pagina non vuota");

@@ -28,8 +28,11 @@ class Reader {
                 page(line->substr(8));
             else if (line->starts_with("@campo "))
                 field(line->substr(7));
+            else if (line->starts_with("@gruppo "))
+                group(line->substr(8));
             else
-                lines_.refuse("attesa una riga \"@capitolo\", \"@pagina\" o \"@campo\"");
+                lines_.refuse(
+                    "attesa una riga \"@capitolo\", \"@pagina\", \"@campo\" o \"@gruppo\"");
         }
         if (pages_.empty()) lines_.refuse("attesa una pagina");
         return std::move(pages_);
@@ -70,6 +73,15 @@ class Reader {
         for (const auto& known : fields)
             if (known.name == made.name) lines_.refuse("atteso un campo non ancora usato");
         fields.push_back(std::move(made));
+    }
+
+    void group(std::string_view name) {
+        if (words(name).size() != 1) lines_.refuse("atteso il nome di un gruppo di messaggi");
+        if (pages_.empty()) lines_.refuse("attesa una pagina prima dei gruppi");
+        for (const auto& page : pages_)
+            for (const auto& known : page.groups)
+                if (known.name == name) lines_.refuse("atteso un gruppo non ancora usato");
+        pages_.back().groups.push_back({std::string(name), {}, lines_.number()});
     }
 
     SourceLines lines_;

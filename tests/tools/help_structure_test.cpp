@@ -52,6 +52,19 @@ TEST(HelpStructure, HoldsThePagesOfItsChaptersWithTheirEntriesAndFields) {
     EXPECT_TRUE(pages[1].fields.empty());
 }
 
+TEST(HelpStructure, HoldsTheGroupsOfMessagesOfItsPages) {
+    const auto pages = readHelpStructure(
+        "s.txt", "@capitolo c\n@pagina p\n@pagina q\n@gruppo first\n@gruppo second\n");
+    ASSERT_EQ(pages.size(), 2u);
+    EXPECT_TRUE(pages[0].groups.empty());
+    ASSERT_EQ(pages[1].groups.size(), 2u);
+    EXPECT_EQ(pages[1].groups[0].name, "first");
+    EXPECT_EQ(pages[1].groups[1].name, "second");
+    EXPECT_EQ(faultLine("@capitolo c\n@gruppo g\n"), 2);
+    EXPECT_EQ(faultLine("@capitolo c\n@pagina p\n@gruppo a b\n"), 3);
+    EXPECT_EQ(faultLine("@capitolo c\n@pagina p\n@gruppo g\n@pagina q\n@gruppo g\n"), 5);
+}
+
 TEST(HelpStructure, SaysInWhichLineItIsBroken) {
     EXPECT_EQ(faultLine("# nothing\n"), 1);
     EXPECT_EQ(faultLine("@pagina p\n"), 1);
