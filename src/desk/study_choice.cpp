@@ -79,6 +79,11 @@ std::string difetto(const StudioScritto& scritto, const std::vector<std::string>
                              studies::parole(lette.difetto->second));
 }
 
+// A number that no editor shows is kept by the file, and no run reads it.
+bool soloConservato(const project::Campo& campo) {
+    return campo.didascalia.empty() && !project::tiene<int>(campo);
+}
+
 }  // namespace
 
 StudioLetto leggi(const DatiProgetto& dati, int nSeg, const StudioScritto& scritto) {
@@ -139,9 +144,13 @@ std::vector<CampoOfferto> campiOfferti(const DatiProgetto& dati, bool campioni) 
         const auto letto = studies::campoDiStudio(dati, nome);
         if (!std::holds_alternative<project::CampoNominato>(letto)) return;
         if (campioni && !project::continuo(*c.campo)) return;
+        if (soloConservato(*c.campo)) return;
         auto mostrato = studies::valoreMostrato(c);
         mostrato.titolo += " (" + nome + ")";
-        offerti.push_back({nome, mostrato.testa(), project::testoDaScrivere(dati, c)});
+        std::string ora = mostrato.codici.empty()
+                              ? project::testoDaScrivere(dati, c)
+                              : mostrato.detto(project::mostrato(dati, *c.campo, c.riga));
+        offerti.push_back({nome, mostrato.testa(), std::move(ora)});
     });
     return offerti;
 }

@@ -78,7 +78,7 @@ struct StudioLetto {
 struct CampoOfferto {
     std::string nome;  ///< stable
     std::string voce;  ///< "Peso di volume (gammaN[1]) [kN/m³]", translated
-    std::string ora;   ///< its value in the project
+    std::string ora;   ///< its value in the project; of a code its words
 };
 [[nodiscard]] std::vector<CampoOfferto> campiOfferti(const project::DatiProgetto& dati,
                                                      bool campioni);

@@ -19,7 +19,7 @@ namespace korven::factors {
 
 /// A line that says nothing that can be used, or what is missing below it.
 struct RigaGuasta {
-    std::string file;    ///< name of its file
+    std::string file;    ///< its file, for what is told: a name or a path
     long riga = 0;       ///< from 1; 0: of the whole file
     std::string motivo;  ///< translated
 

@@ -1,13 +1,16 @@
 #include "factors/words.hpp"
 
 #include <algorithm>
+#include <cmath>
 
 #include "analysis/run_start.hpp"
 #include "base/code_page.hpp"
 #include "base/colon.hpp"
 #include "base/filled_text.hpp"
+#include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
 #include "project/shown_number.hpp"
+#include "safety/large_displacement.hpp"
 #include "safety/words.hpp"
 #include "structure/section_validity.hpp"
 
@@ -53,7 +56,46 @@ void noteTerra(const Combinazioni& tutte, std::vector<std::string>& note) {
                 {e.combinazione.nome, percento(terra->progetto), percento(terra->resistenza)}));
 }
 
-void noteSezione(const project::DatiProgetto& dati, std::vector<std::string>& note) {
+// A wall that is held by little more than its soil can give moves far: an equilibrium that no check
+// of forces finds fault with.
+void noteSpostamenti(const Combinazioni& tutte, std::vector<std::string>& note) {
+    using project::numeroMostrato;
+    for (const EsitoCombinazione& e : tutte.esiti) {
+        const equilibrium::Estremo& y = e.estremi.spostamento;
+        if (!e.sta() || y.fase < 1) continue;
+        const double scavo = e.fasi[static_cast<std::size_t>(y.fase) - 1].scavo;
+        const double quota = std::fabs(y.valore) / scavo;
+        if (scavo < safety::scavoTrascurabile || quota <= safety::spostamentoPericoloso) continue;
+        note.push_back(base::riempito(
+            traduttore("%1: la parete si sposta di %2 mm nella fase %3, 1/%4 dello scavo, più di "
+                       "1/%5. È in equilibrio, ma vicina al cedimento: le verifiche non limitano "
+                       "gli spostamenti."),
+            {e.combinazione.nome,
+             numeroMostrato(std::fabs(y.valore), 1, project::unita::spostamentoFine),
+             std::to_string(y.fase), numeroMostrato(1 / quota, 0),
+             numeroMostrato(1 / safety::spostamentoPericoloso, 0)}));
+    }
+}
+
+// Which of the two axial forces has the smaller resistance, where they are two.
+void noteSforzoNormale(const Combinazioni& tutte, std::vector<std::string>& note) {
+    note.push_back(
+        traduttore("Lo sforzo normale entra per il suo coefficiente e com'è: vale la "
+                   "resistenza a flessione minore."));
+    for (const EsitoCombinazione& e : tutte.esiti)
+        for (const Verifica& v : e.verifiche) {
+            const bool momento =
+                v.oggetto == Oggetto::momentoPositivo || v.oggetto == Oggetto::momentoNegativo;
+            if (momento && e.combinazione.fattori.testaPermanente != 1)
+                note.push_back(base::riempito(
+                    traduttore("%1, %2: vale la resistenza con lo sforzo normale per %3."),
+                    {e.combinazione.nome, traduttore(di(v.oggetto).testo),
+                     base::testoNumero(v.perAssiale)}));
+        }
+}
+
+void noteSezione(const Combinazioni& tutte, const project::DatiProgetto& dati,
+                 std::vector<std::string>& note) {
     if (!structure::sezioneDefinita(dati.sezione)) {
         note.push_back(traduttore("Nessuna verifica: la sezione non è definita."));
         return;
@@ -61,10 +103,7 @@ void noteSezione(const project::DatiProgetto& dati, std::vector<std::string>& no
     if (!structure::staffePresenti(dati.sezione))
         note.push_back(
             traduttore("Il taglio si verifica solo per pali armati con le staffe scritte."));
-    if (dati.sforzoNormale != 0)
-        note.push_back(
-            traduttore("Lo sforzo normale entra per il suo coefficiente e com'è: vale la "
-                       "resistenza a flessione minore."));
+    if (dati.sforzoNormale != 0) noteSforzoNormale(tutte, note);
 }
 
 }  // namespace
@@ -134,7 +173,8 @@ std::vector<std::string> note(const Combinazioni& combinazioni, const project::D
     std::vector<std::string> note;
     noteInviluppo(combinazioni, note);
     noteTerra(combinazioni, note);
-    noteSezione(dati, note);
+    noteSpostamenti(combinazioni, note);
+    noteSezione(combinazioni, dati, note);
     note.push_back(traduttore(
         "Soluzione di equilibrio di ogni combinazione, in memoria: i coefficienti del "
         "terreno agiscono sulle pressioni limite, non su quella a riposo né sui moduli."));

@@ -1,21 +1,14 @@
 #pragma once
 
+#include "safety/large_displacement.hpp"
 #include "safety/strength_reduction.hpp"
 
 namespace korven::review {
 
 // The limits at which remarks are made, each with its source or reason; lengths in m, shares of 1.
 
-/// Largest displacement over the depth of the excavation: to be looked at, and dangerous. Source:
-/// usual allowances for walls beside streets and buildings, from 1/200 with buildings to 1/50 in
-/// the open field (Clough & O'Rourke, Construction induced movements of insitu walls, 1990, not
-/// looked up).
-inline constexpr double spostamentoDaVedere = 0.01;
-inline constexpr double spostamentoPericoloso = 0.02;
-/// Excavations less deep than this have no share worth telling [m].
-inline constexpr double scavoTrascurabile = 1;
-
 using safety::riduzioneDaVedere, safety::riduzionePericolosa;
+using safety::spostamentoDaVedere, safety::spostamentoPericoloso, safety::scavoTrascurabile;
 
 /// Use of the passive side in front. Reason: the inverse of the same factors.
 inline constexpr double passivaDaVedere = 0.80;

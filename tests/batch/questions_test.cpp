@@ -1,5 +1,6 @@
 // The commands `lunghezza` and `bloccaggio` from outside.
 
+#include <algorithm>
 #include <nlohmann/json.hpp>
 
 #include "batch/batch_bench.hpp"
@@ -85,6 +86,9 @@ TEST_F(Domande, OfTheLengthEndWith1WhereThereIsNone) {
                      "Nessuna lunghezza fino a 24 m soddisfa i criteri. Con 24 m: "
                      "spostamento "))
         << esito.errori;
+    const auto fini = lunghezza({"--spostamento-max", "0.000001"});
+    EXPECT_LT(std::ranges::count(fini.uscita, '\n'), 25) << fini.uscita;
+    EXPECT_TRUE(dice(fini.uscita, "non soddisfano i criteri; --json le ha tutte.")) << fini.uscita;
     const auto corta = lunghezza({"--fino-a", "5", "--passo", "1"});
     EXPECT_EQ(corta.codice, 1);
     EXPECT_TRUE(dice(corta.errori, "Nessuna lunghezza da provare")) << corta.errori;

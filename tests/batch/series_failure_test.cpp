@@ -70,7 +70,8 @@ TEST_F(Serie, GoesOnWithWhatMakesAVariantFail) {
 
 TEST_F(Serie, SaysWhyItCanNotTellWhatFails) {
     const std::pair<const char*, const char*> casi[] = {
-        {"uso>1", "--fallisce uso>1: carattere 1: uso: nessun risultato si chiama così"},
+        {"uso>1",
+         "--fallisce uso>1: uso: nessun risultato si chiama così: ci sono causa, motivo, "},
         {"causa>1", "causa: è una parola, non un numero"},
         {"passiva_usata>0,5", "carattere 15: 0,5: il segno decimale è il punto: 0.5"},
         {"passiva_usata", "atteso come in spostamento_massimo_m>0.03"}};

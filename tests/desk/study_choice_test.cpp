@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "project/typed_field.hpp"
 #include "support/wall_files.hpp"
 
 namespace korven::desk {
@@ -97,9 +98,14 @@ TEST(SceltaStudio, OffersFieldsThatCanVaryWithTheirValues) {
     EXPECT_NE(trova(tutti, "vincoloPiede"), tutti.end());
     EXPECT_EQ(trova(continui, "vincoloPiede"), continui.end()) << "a code has no law";
     EXPECT_EQ(trova(tutti, "titoli[1]"), tutti.end());
+    for (const char* soloConservato : {"suStrato[1]", "faldaValle", "opzioneRiservata"})
+        EXPECT_EQ(trova(tutti, soloConservato), tutti.end()) << soloConservato;
+    EXPECT_NE(trova(tutti, "nFasi"), tutti.end());
+    EXPECT_EQ(trova(tutti, "vincoloPiede")->ora, "libero");
     for (const CampoOfferto& c : tutti) {
         StudioScritto s;
-        s.variazioni = {{c.nome, 0, {c.ora, c.ora, "1"}}};
+        const auto ora = project::testoDaScrivere(dati, project::campoNominato(c.nome).value());
+        s.variazioni = {{c.nome, 0, {ora, ora, "1"}}};
         EXPECT_NE(leggi(dati, 50, s).studio, nullptr) << c.nome << leggi(dati, 50, s).perche;
     }
 }

@@ -103,7 +103,7 @@ TEST_F(CombinazioniTest, RefuseTheNameOfADeliveredCodeInTheUsersFile) {
     mie("# mie\n" + copia("ntc2018", "ntc2018"));
     const Catalogo catalogo = leggiCombinazioni();
     ASSERT_EQ(catalogo.guaste.size(), 1U);
-    EXPECT_EQ(catalogo.guaste[0].file, "combinazioni_utente.txt");
+    EXPECT_EQ(catalogo.guaste[0].file, fileCombinazioniUtente());
     EXPECT_EQ(catalogo.guaste[0].riga, 2);
 }
 
@@ -112,7 +112,7 @@ TEST_F(CombinazioniTest, TellAFileThatIsMissingOrCantBeRead) {
     base::impostaCartellaProgramma(vuota.percorso());
     Catalogo catalogo = leggiCombinazioni();
     ASSERT_EQ(catalogo.guaste.size(), 1U);
-    EXPECT_EQ(catalogo.guaste[0].file, "combinazioni.txt");
+    EXPECT_TRUE(catalogo.guaste[0].file.ends_with("/combinazioni.txt"));
     EXPECT_EQ(catalogo.guaste[0].riga, 0);
     EXPECT_FALSE(catalogo.guaste[0].motivo.empty());
 }

@@ -63,6 +63,41 @@ std::size_t tropCorte(const std::vector<LunghezzaProvata>& provate) {
     return cadono > 2 ? cadono - 1 : 0;  // a line for one is no shorter than its row
 }
 
+struct Tratto {
+    std::size_t da, a;  // without `a`
+};
+
+// What a line is enough for: between the ends of a long run of lengths that miss the criteria.
+std::vector<Tratto> tralasciate(const std::vector<LunghezzaProvata>& provate, std::size_t da) {
+    constexpr std::size_t capi = 8;
+    std::vector<Tratto> tratti;
+    while (da < provate.size()) {
+        std::size_t fine = da;
+        while (fine < provate.size() && !provate[fine].basta()) ++fine;
+        if (fine - da > 2 * capi + 1) tratti.push_back({da + capi, fine - capi});
+        for (da = fine; da < provate.size() && provate[da].basta();) ++da;
+    }
+    return tratti;
+}
+
+std::string tabellaLunghezze(const RispostaLunghezza& r, std::size_t da) {
+    const auto& provate = r.ricerca.provate;
+    const std::vector<Tratto> tratti = tralasciate(provate, da);
+    TabellaTesto tabella(titoli(r.criteri), true);
+    for (std::size_t i = da; i < provate.size(); ++i)
+        if (std::ranges::none_of(tratti, [i](const Tratto& t) { return t.da <= i && i < t.a; }))
+            tabella.riga(celle(provate[i], r.criteri));
+    std::string testo = tabella.testo();
+    for (const Tratto& t : tratti)
+        testo += base::riempito(
+                     traduttore("Anche le %1 lunghezze da %2 m a %3 m non soddisfano i criteri; "
+                                "--json le ha tutte."),
+                     {std::to_string(t.a - t.da), safety::metri(provate[t.da].lunghezza),
+                      safety::metri(provate[t.a - 1].lunghezza)}) +
+                 '\n';
+    return testo;
+}
+
 }  // namespace
 
 std::string risposta(const RispostaLunghezza& r) {
@@ -86,9 +121,7 @@ std::string testoLunghezza(const RispostaLunghezza& r) {
                     {std::to_string(corte), safety::metri(provate.front().lunghezza),
                      safety::metri(provate[corte - 1].lunghezza)}) +
                 "\n\n";
-    TabellaTesto tabella(titoli(r.criteri), true);
-    for (std::size_t i = corte; i < provate.size(); ++i) tabella.riga(celle(provate[i], r.criteri));
-    testo += tabella.testo();
+    testo += tabellaLunghezze(r, corte);
     const std::string detta = risposta(r);
     return detta.empty() ? testo : testo + '\n' + detta;
 }

@@ -258,7 +258,16 @@ std::string condizioneSbagliata(const Opzioni& opzioni, const studies::Varianti&
     const auto lette = studies::leggiCondizioni(opzioni.serie.fallisce, righeDi(opzioni, varianti));
     if (!lette.difetto) return {};
     const auto& [testo, difetto] = *lette.difetto;
-    return base::conDuePunti(opzioneFallisce.mostrato() + ' ' + testo, studies::parole(difetto));
+    // The name may be near to that of a column that was not asked for.
+    const bool ignoto =
+        difetto.motivo == studies::DifettoCondizione::Motivo::sconosciuto && difetto.atteso.empty();
+    return base::conDuePunti(
+        opzioneFallisce.mostrato() + ' ' + testo,
+        ignoto ? base::conDuePunti(
+                     difetto.testo,
+                     studies::nessunaColonna(difetto.testo,
+                                             studies::tirantiPossibili(Progetto, varianti.campi())))
+               : studies::parole(difetto));
 }
 
 int eseguiSerie(const Opzioni& opzioni, const PorteComando& porte, const VariantiScelte& scelte,

@@ -22,6 +22,15 @@ QColor colore(const QVariant& peso) {
 
 }  // namespace
 
+// A mark at the left end of a cell would touch the first letter.
+void DelegatoBarre::initStyleOption(QStyleOptionViewItem* opzioni,
+                                    const QModelIndex& indice) const {
+    QStyledItemDelegate::initStyleOption(opzioni, indice);
+    const bool soloSegno =
+        indice.data(datoPesoCella).isValid() && !indice.data(datoBarra).isValid();
+    if (soloSegno) opzioni->text.prepend(QChar::Nbsp);
+}
+
 void DelegatoBarre::paint(QPainter* pittore, const QStyleOptionViewItem& opzioni,
                           const QModelIndex& indice) const {
     QStyledItemDelegate::paint(pittore, opzioni, indice);

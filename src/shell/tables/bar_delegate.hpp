@@ -12,6 +12,9 @@ class DelegatoBarre : public QStyledItemDelegate {
 
     void paint(QPainter* pittore, const QStyleOptionViewItem& opzioni,
                const QModelIndex& indice) const override;
+
+ protected:
+    void initStyleOption(QStyleOptionViewItem* opzioni, const QModelIndex& indice) const override;
 };
 
 }  // namespace korven::shell
