@@ -1,9 +1,14 @@
 # The headers that many sources share, parsed once for all of them: reading them is most of what a fresh
 # build does. OFF unless asked for, since it hides an include that a source forgot: some build has to do
-# without. TESTS does it for the test programs alone, ON for the rooms too. A compiler cache can't use
-# precompiled headers either.
+# without. TESTS does it for the test programs alone, ON for the rooms too.
 set(KORVEN_PRECOMPILED OFF CACHE STRING "Precompile the headers that many sources share: OFF, TESTS, ON")
 set_property(CACHE KORVEN_PRECOMPILED PROPERTY STRINGS OFF TESTS ON)
+
+# Without the option a compiler cache could not see which precompiled header an object was made with, and
+# would keep none of them.
+if(KORVEN_PRECOMPILED)
+    add_compile_options($<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
+endif()
 
 set(korven_standard_headers
     <algorithm> <array> <cassert> <charconv> <cmath> <cstdint> <filesystem> <fstream> <functional>

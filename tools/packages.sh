@@ -2,7 +2,7 @@
 
 packages_build="g++ cmake ninja-build libcli11-dev nlohmann-json3-dev qt6-base-dev qt6-svg-dev libpng-dev libqpdf-dev libminizip-dev zlib1g-dev nettle-dev libxlsxwriter-dev libboost-math-dev librandom123-dev fonts-liberation qt6-translations-l10n qt6-wayland"
 packages_python="python3-dev pybind11-dev python3-numpy python3-pandas"  # the module for Python
-packages_test="libgtest-dev mandoc desktop-file-utils appstream libxml2-utils file clang-format clang-tidy clang xvfb xauth xdotool openbox at-spi2-core dbus-daemon python3-pyatspi $packages_python python3-pytest python3-matplotlib"
+packages_test="ccache libgtest-dev mandoc desktop-file-utils appstream libxml2-utils file clang-format clang-tidy clang xvfb xauth xdotool openbox at-spi2-core dbus-daemon python3-pyatspi $packages_python python3-pytest python3-matplotlib"
 packages_bench="libbenchmark-dev libopenblas-dev liblapacke-dev libeigen3-dev"
 packages_package="pandoc lintian dpkg-dev file"  # ./package and its checks
 packages_fuzz="clang"
