@@ -72,7 +72,7 @@ std::string testoTratti(const std::vector<equilibrium::Tratto>& tratti) {
 }
 
 std::string parole(const Riduzione& riduzione, double paratia) {
-    if (riduzione.moto) return parole(*riduzione.moto, paratia, metriAllineati);
+    if (riduzione.moto) return parole(*riduzione.moto, paratia);
     if (riduzione.limitePendio) return traduttore(limitePendenza);
     if (riduzione.oltre)
         return traduttore("nessun meccanismo fino a F =") + " " +

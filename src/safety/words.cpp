@@ -60,7 +60,8 @@ std::string tratti(std::string_view parte, const std::vector<Tratto>& dove) {
     if (dove.empty()) return {};
     Elenco elenco(", ");
     for (const Tratto& t : dove)
-        elenco.aggiungi(t.da == t.a ? metri(t.da) : metri(t.da) + "-" + metri(t.a));
+        elenco.aggiungi(t.da == t.a ? metriAllineati(t.da)
+                                    : metriAllineati(t.da) + "-" + metriAllineati(t.a));
     return traduttore(parte) + " " + unito(elenco.testo(), unita::metri);
 }
 
@@ -74,7 +75,7 @@ std::string lenti(const std::vector<int>& tiranti) {
 
 std::string nodo(const DatoInstabile& dato) {
     return traduttore(dato.monte ? "lato monte" : "lato valle") + ", " + traduttore("profondità") +
-           " " + unito(metri(dato.profondita), unita::metri);
+           " " + unito(metriAllineati(dato.profondita), unita::metri);
 }
 
 // Coefficients and limits of the excavated side are stored negative.
@@ -98,7 +99,7 @@ std::string rimedio(const Diagnosi& d) {
         return traduttore(
             "controllare profondità di scavo, tiranti, livelli dell'acqua e carichi in testa");
     return traduttore("di solito aiuta una paratia più lunga: circa") + " " +
-           unito(metri(*d.lunghezza), unita::metri);
+           unito(metriAllineati(*d.lunghezza), unita::metri);
 }
 
 // What keeps the specified run from it.
@@ -154,11 +155,12 @@ std::string metri(double m) {
 
 std::string metriAllineati(double m) { return project::numeroMostrato(m, 2); }
 
-std::string parole(const Meccanismo& moto, double paratia, std::string (*scrivi)(double)) {
+std::string parole(const Meccanismo& moto, double paratia) {
     if (moto.traslazione)
         return traduttore(moto.verso > 0 ? "trasla verso lo scavo" : "trasla verso monte");
     return traduttore("ruota attorno alla profondità di") + " " +
-           unito(scrivi(moto.profondita), unita::metri) + ", " + traduttore(versoDi(moto, paratia));
+           unito(metriAllineati(moto.profondita), unita::metri) + ", " +
+           traduttore(versoDi(moto, paratia));
 }
 
 std::string mancante(const Meccanismo& moto) {

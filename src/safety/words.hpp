@@ -28,16 +28,15 @@ extern LuogoEquilibrio luogoEquilibrio;
 /// The same with both decimals, as in the columns of a table: "4.20".
 [[nodiscard]] std::string metriAllineati(double m);
 
-/// How the wall moves: "ruota attorno alla profondità di 4.2 m, il piede verso lo scavo".
+/// How the wall moves: "ruota attorno alla profondità di 4.20 m, il piede verso lo scavo".
 /// @param paratia  length of the wall [m]
-/// @param scrivi   the depth: as above in a sentence
-[[nodiscard]] std::string parole(const equilibrium::Meccanismo& moto, double paratia,
-                                 std::string (*scrivi)(double) = metri);
+[[nodiscard]] std::string parole(const equilibrium::Meccanismo& moto, double paratia);
 
 /// What holds too little: "mancano 35.1 kN m/m", of a translation "mancano 12.0 kN/m".
 [[nodiscard]] std::string mancante(const equilibrium::Meccanismo& moto);
 
-/// "al limite: monte attivo 0-10 m, valle passivo 8-10 m; tirante lento 2"; empty if nothing is.
+/// "al limite: monte attivo 0.00-10.00 m, valle passivo 8.00-10.00 m; tirante lento 2"; empty if
+/// nothing is.
 [[nodiscard]] std::string parole(const equilibrium::PartiAlLimite& parti);
 
 /// The value for which no equilibrium is certain, and what to look at. Empty for none.

@@ -46,9 +46,10 @@ TEST(ControlloEquilibrio, TellsAMechanismAndTheLengthThatWouldHelp) {
     const Osservazioni una = osservate(m);
     EXPECT_EQ(
         righe(una),
-        Righe{"[impedisce] meccanismo: la paratia è un meccanismo nella fase 2: ruota attorno alla "
-              "profondità di 8.9 m, la testa verso lo scavo; mancano 25.7 kN m/m; al limite: valle "
-              "passivo 4-8.6 m; di solito aiuta una paratia più lunga: circa 10.42 m"});
+        Righe{
+            "[impedisce] meccanismo: la paratia è un meccanismo nella fase 2: ruota attorno alla "
+            "profondità di 8.90 m, la testa verso lo scavo; mancano 25.7 kN m/m; al limite: valle "
+            "passivo 4.00-8.60 m; di solito aiuta una paratia più lunga: circa 10.42 m"});
     EXPECT_EQ(una[0].campi, (std::vector<std::string>{"profFase[2]", "lunghezzaParatia"}));
 }
 

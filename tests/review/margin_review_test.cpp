@@ -33,13 +33,13 @@ TEST(ControlloMargine, TellsALowStrengthReductionWithItsMechanism) {
     EXPECT_EQ(
         conRiduzione(1.499),
         Righe{"[da vedere] riduzione-bassa: fase 1: Prof. [m] = 4: riduzione della resistenza F = "
-              "1.49, sotto 1.50; con F maggiore: ruota attorno alla profondità di 8.5 m, la testa "
+              "1.49, sotto 1.50; con F maggiore: ruota attorno alla profondità di 8.50 m, la testa "
               "verso lo scavo; controllare infissione, tiranti e carichi"});
     EXPECT_EQ(conRiduzione(1.25).size(), 1u);
     EXPECT_EQ(conRiduzione(1.249),
               Righe{"[pericolo] riduzione-insufficiente: fase 1: Prof. [m] = 4: riduzione della "
                     "resistenza F = 1.24, sotto 1.25; con F maggiore: ruota attorno alla "
-                    "profondità di 8.5 m, la testa verso lo scavo; allungare la paratia, "
+                    "profondità di 8.50 m, la testa verso lo scavo; allungare la paratia, "
                     "aggiungere un tirante o ridurre scavo e carichi"});
 }
 
@@ -89,12 +89,12 @@ TEST(ControlloMargine, TellsHowMuchOfThePassiveSideIsUsedAndWhereItIsAtItsLimit)
     EXPECT_EQ(conPassiva(0.801),
               Righe{"[da vedere] passiva-molto-usata: fase 1: Prof. [m] = 4: resistenza passiva "
                     "mobilitata davanti alla paratia: 80.1 %, limite 80 %, al limite: valle "
-                    "passivo 4-6.25 m: controllare l'infissione"});
+                    "passivo 4.00-6.25 m: controllare l'infissione"});
     EXPECT_EQ(conPassiva(0.90).size(), 1u);
     EXPECT_EQ(conPassiva(0.901),
               Righe{"[pericolo] passiva-esaurita: fase 1: Prof. [m] = 4: resistenza passiva "
                     "mobilitata davanti alla paratia: 90.1 %, limite 90 %, al limite: valle "
-                    "passivo 4-6.25 m: allungare la paratia o ridurre scavo e carichi"});
+                    "passivo 4.00-6.25 m: allungare la paratia o ridurre scavo e carichi"});
 }
 
 TEST(ControlloMargine, NamesNoDepthsWhereThePassiveSideIsNowhereAtItsLimit) {

@@ -53,7 +53,7 @@ TEST(EsempiRaccontati, AreToldWhatTheirStagesComeTo) {
                "m), resistenza dell'armatura d'anima 241.22 kN/m, usata al 106.0 %: infittire le "
                "staffe o aumentarne il diametro, o ridurre il taglio con tiranti, scavo e carichi",
                "[da vedere] riduzione-bassa: fase 3: Prof. [m] = 7.8: riduzione della resistenza F "
-               "= 1.44, sotto 1.50; con F maggiore: ruota attorno alla profondità di 1.6 m, il "
+               "= 1.44, sotto 1.50; con F maggiore: ruota attorno alla profondità di 1.60 m, il "
                "piede verso lo scavo; controllare infissione, tiranti e carichi"}));
     EXPECT_EQ(
         righe(risultati(esempio("paratia_lunga_incastro"))),
@@ -105,10 +105,11 @@ TEST(MuriRaccontati, AreToldByHowMuch) {
             "controllare rigidezza, tiranti, infissione e valori di ks"}));
     EXPECT_EQ(
         righe(risultati(muro("meccanismo"))),
-        Righe{"[impedisce] meccanismo: la paratia è un meccanismo nella fase 1: ruota attorno alla "
-              "profondità di 8.93 m, la testa verso lo scavo; mancano 25.7 kN m/m; al limite: "
-              "monte attivo 0.19-8.74 m, monte passivo 9.11-9.3 m, valle attivo 9.11-9.3 m, valle "
-              "passivo 5.02-8.74 m; di solito aiuta una paratia più lunga: circa 9.42 m"});
+        Righe{
+            "[impedisce] meccanismo: la paratia è un meccanismo nella fase 1: ruota attorno alla "
+            "profondità di 8.93 m, la testa verso lo scavo; mancano 25.7 kN m/m; al limite: "
+            "monte attivo 0.19-8.74 m, monte passivo 9.11-9.30 m, valle attivo 9.11-9.30 m, valle "
+            "passivo 5.02-8.74 m; di solito aiuta una paratia più lunga: circa 9.42 m"});
     EXPECT_EQ(righe(risultati(muro("puntone_rigidissimo"))),
               Righe{"[pericolo] tiro-sbagliato: tirante 1: Rigidezza [kN/m] = 1000000000: la "
                     "relazione dà il tiro 0.00 kN/m, quello vero è 42.20 kN/m (fase 2): lo calcola "

@@ -16,21 +16,21 @@ using equilibrium::PartiAlLimite;
 
 TEST(ParoleMeccanismo, SayAboutWhichDepthTheWallTurnsAndWhichPartGoesTowardsTheExcavation) {
     EXPECT_EQ(parole(Meccanismo{false, 4.2, 1, 3.51}, 10),
-              "ruota attorno alla profondità di 4.2 m, il piede verso lo scavo");
+              "ruota attorno alla profondità di 4.20 m, il piede verso lo scavo");
     EXPECT_EQ(parole(Meccanismo{false, 4.2, -1, 3.51}, 10),
-              "ruota attorno alla profondità di 4.2 m, la testa verso lo scavo");
+              "ruota attorno alla profondità di 4.20 m, la testa verso lo scavo");
     EXPECT_EQ(parole(Meccanismo{false, 0, 1, 1}, 10),
-              "ruota attorno alla profondità di 0 m, il piede verso lo scavo");
+              "ruota attorno alla profondità di 0.00 m, il piede verso lo scavo");
     EXPECT_EQ(parole(Meccanismo{false, 10, -1, 1}, 10),
-              "ruota attorno alla profondità di 10 m, la testa verso lo scavo");
+              "ruota attorno alla profondità di 10.00 m, la testa verso lo scavo");
 }
 
 // Nothing lies above the head or below the toe that could go towards the excavation.
 TEST(ParoleMeccanismo, SayOfAWallThatGoesUphillAsAWholeWhichEndDoes) {
     EXPECT_EQ(parole(Meccanismo{false, 0, -1, 1}, 10),
-              "ruota attorno alla profondità di 0 m, il piede verso monte");
+              "ruota attorno alla profondità di 0.00 m, il piede verso monte");
     EXPECT_EQ(parole(Meccanismo{false, 50 * 0.2, 1, 1}, 10),
-              "ruota attorno alla profondità di 10 m, la testa verso monte");
+              "ruota attorno alla profondità di 10.00 m, la testa verso monte");
     EXPECT_EQ(parole(Meccanismo{true, 0, 1, 1}, 10), "trasla verso lo scavo");
     EXPECT_EQ(parole(Meccanismo{true, 0, -1, 1}, 10), "trasla verso monte");
 }
@@ -53,9 +53,10 @@ TEST(ParolePartiAlLimite, NameEachSideWithItsDepthsAndTheSlackAnchors) {
     parti.vallePassivo = {{8, 9.25}, {10, 10}};
     parti.tirantiLenti = {1, 2};
     EXPECT_EQ(parole(parti),
-              "al limite: monte attivo 0-10 m, valle passivo 8-9.25, 10 m; tiranti lenti 1, 2");
+              "al limite: monte attivo 0.00-10.00 m, valle passivo 8.00-9.25, 10.00 m; tiranti "
+              "lenti 1, 2");
     parti = {{}, {{0, 4.2}}, {{3, 4}}, {}, {}};
-    EXPECT_EQ(parole(parti), "al limite: monte passivo 0-4.2 m, valle attivo 3-4 m");
+    EXPECT_EQ(parole(parti), "al limite: monte passivo 0.00-4.20 m, valle attivo 3.00-4.00 m");
 }
 
 TEST(ParoleDatoInstabile, NameTheValueWithItsPlace) {
@@ -65,14 +66,14 @@ TEST(ParoleDatoInstabile, NameTheValueWithItsPlace) {
                                    .monte = false,
                                    .valore = 123.4,
                                    .profondita = 6}),
-              "modulo di reazione ks negativo (-1234.0 kN/m³), lato valle, profondità 6 m; "
+              "modulo di reazione ks negativo (-1234.0 kN/m³), lato valle, profondità 6.00 m; "
               "controllare i valori di ks: una legge lineare può scendere sotto lo zero");
     const std::string limiti =
         "controllare angolo di attrito, coesione, inclinazione del terreno e tensioni verticali";
     EXPECT_EQ(parole(DatoInstabile{
                   .che = Instabile::limiti, .valore = 1.5, .passivo = 1.25, .profondita = 0.2}),
               "limite attivo oltre quello passivo (15.00 > 12.50 kN/m²), lato monte, profondità "
-              "0.2 m; " +
+              "0.20 m; " +
                   limiti);
     EXPECT_EQ(parole(DatoInstabile{.che = Instabile::limiti,
                                    .monte = false,
@@ -80,7 +81,7 @@ TEST(ParoleDatoInstabile, NameTheValueWithItsPlace) {
                                    .passivo = -1.25,
                                    .profondita = 8}),
               "limite attivo oltre quello passivo (15.00 > 12.50 kN/m²), lato valle, profondità "
-              "8 m; " +
+              "8.00 m; " +
                   limiti);
     EXPECT_EQ(parole(DatoInstabile{.che = Instabile::tirante, .tirante = 2, .valore = -50}),
               "rigidezza negativa del tirante 2 (-500.0 kN/m/m)");
@@ -105,12 +106,15 @@ Diagnosi muroCheCade() {
 
 TEST(Frase, TellsOfAMechanismHowAndWhatHelps) {
     Diagnosi d = muroCheCade();
-    EXPECT_EQ(inBreve(d),
-              "la paratia è un meccanismo nella fase 3: ruota attorno alla profondità di 4.2 m, il "
-              "piede verso lo scavo; mancano 35.1 kN m/m");
+    EXPECT_EQ(
+        inBreve(d),
+        "la paratia è un meccanismo nella fase 3: ruota attorno alla profondità di 4.20 m, il "
+        "piede verso lo scavo; mancano 35.1 kN m/m");
     const std::string fatto =
-        "la paratia è un meccanismo nella fase 3: ruota attorno alla profondità di 4.2 m, il piede "
-        "verso lo scavo; mancano 35.1 kN m/m; al limite: monte attivo 0-10 m, valle passivo 8-10 "
+        "la paratia è un meccanismo nella fase 3: ruota attorno alla profondità di 4.20 m, il "
+        "piede "
+        "verso lo scavo; mancano 35.1 kN m/m; al limite: monte attivo 0.00-10.00 m, valle passivo "
+        "8.00-10.00 "
         "m; tirante lento 2; ";
     EXPECT_EQ(frase(d), fatto +
                             "controllare profondità di scavo, tiranti, livelli dell'acqua e "

@@ -48,22 +48,21 @@ Area barre(const structure::DiaframmaMm& d) {
         a.termini.push_back(termine("i" + lato, f.interasse, 2));
         a.valore += metro * cerchio(f.diametro) / f.interasse;
     };
-    faccia(d.monte, "m");
-    faccia(d.valle, "v");
+    faccia(d.monte, "1");
+    faccia(d.valle, "2");
     if (!somma.empty()) a.formula = "1000 · π / 4 · (" + somma + ")";
     return a;
 }
 
 Area anello(const structure::PaliMm& p) {
-    return {
-        "1000 · π · (%1² - %2²) / 4 / %3",
-        {termine("De", p.diamEst, 1), termine("Di", p.diamInt, 1), termine("i", p.interasse, 1)},
-        metro * (cerchio(p.diamEst) - cerchio(p.diamInt)) / p.interasse};
+    return {"1000 · π · (%1² - %2²) / 4 / %3",
+            {termine("D", p.diamEst, 1), termine("d", p.diamInt, 1), termine("i", p.interasse, 1)},
+            metro * (cerchio(p.diamEst) - cerchio(p.diamInt)) / p.interasse};
 }
 
 Area riempimento(const structure::PaliMm& p) {
     return {"1000 · π · %1² / 4 / %2",
-            {termine("Di", p.diamInt, 1), termine("i", p.interasse, 1)},
+            {termine("d", p.diamInt, 1), termine("i", p.interasse, 1)},
             metro * cerchio(p.diamInt) / p.interasse};
 }
 
@@ -71,7 +70,7 @@ Area riempimento(const structure::PaliMm& p) {
 Area onda(const structure::PalancolaMm& p) {
     const double c = spessoreOrizzontaleAla(p), H = altezza(p), passo = passoOnda(p);
     return {"1000 · 2 · ((%1 - %2) · %3 + %2 · %4) / %5",
-            {termine("b", p.base, 1), termine("c", c, 5), termine("s", p.spessore, 2),
+            {termine("b", p.base, 1), termine("c", c, 5), termine("t", p.spessore, 2),
              termine("He", H, 2), termine("i", passo, 1)},
             metro * 2 * ((p.base - c) * p.spessore + c * H) / passo};
 }
@@ -133,21 +132,21 @@ std::string legendaMisure(const Sezione& s) {
     switch (structure::tipoSezione(s)) {
         case TipoSezione::diaframma:
             return traduttore(
-                "H: spessore; cm, dm, im: copriferro, diametro e interasse delle "
-                "barre a monte; cv, dv, iv: delle barre a valle.");
+                "H: spessore; c1, d1, i1: copriferro, diametro e interasse delle "
+                "barre a monte; c2, d2, i2: delle barre a valle.");
         case TipoSezione::pali:
             return traduttore(
-                "De, Di: diametro esterno e interno del tubo; i: interasse dei "
+                "D, d: diametro esterno e interno del tubo; i: interasse dei "
                 "pali.");
         case TipoSezione::palancola:
             return traduttore(
-                "b, s: larghezza e spessore del piatto; la, ha, sa: larghezza, "
+                "b, t: larghezza e spessore del piatto; a, h, s: larghezza, "
                 "altezza e spessore dell'ala; c: spessore di un'ala inclinata, "
                 "misurato lungo la paratia; He: altezza; i: lunghezza di un'onda.");
         case TipoSezione::paliArmati:
             return traduttore(
-                "D: diametro del palo; c: copriferro; n, dl: numero e diametro delle "
-                "barre, come il calcolo le prende; i: interasse dei pali.");
+                "D: diametro del palo; c: copriferro; n, dl: numero e diametro (nella "
+                "figura d) delle barre, come il calcolo le prende; i: interasse dei pali.");
         case TipoSezione::nessuno:
             break;
     }

@@ -119,7 +119,7 @@ void staffe(const Sezione& s, const ValoriTaglio& v, Prospetto& p) {
     aggiungi({"Area di una staffa, due bracci",
               "Asw",
               "2 · π · (%1 / 2)²",
-              {termine("dw", inMillimetri(s.armDiamStaffe), 1)},
+              {termine("ds", inMillimetri(s.armDiamStaffe), 1)},
               w.Asw,
               1,
               unitaArea},
@@ -129,7 +129,7 @@ void staffe(const Sezione& s, const ValoriTaglio& v, Prospetto& p) {
               "Vwd",
               "%1 · %2 · 0.9 · %3 / %4 / 1000",
               {termine("fyd", w.fyd, 4), termine("d", w.d, 2), termine("Asw", w.Asw, 4),
-               termine("s", w.passo, 1)},
+               termine("p", w.passo, 1)},
               inKilonewton(w.Vwd),
               2,
               "kN"},
@@ -179,11 +179,11 @@ Prospetto prospettoTaglio(const Sezione& sezione, const ValoriTaglio& valori) {
     bielle(valori, p);
     staffe(sezione, valori, p);
     alMetroDiParatia(valori, p);
-    p.note.push_back(
-        traduttore("D: diametro del palo; c: copriferro; dl, dw: diametro delle barre e delle "
-                   "staffe; s: passo delle staffe; i: interasse dei pali; n: barre come il calcolo "
-                   "le prende, un decimo di quelle scritte. La verifica non prende lo sforzo "
-                   "normale. Regole di CEN, ENV 1992-1-1 (1991), 4.3.2."));
+    p.note.push_back(traduttore(
+        "D: diametro del palo; c: copriferro; dl (nella figura d), ds: diametro delle barre e "
+        "delle staffe; p: passo delle staffe; i: interasse dei pali; n: barre come il calcolo "
+        "le prende, un decimo di quelle scritte. La verifica non prende lo sforzo "
+        "normale. Regole di CEN, ENV 1992-1-1 (1991), 4.3.2."));
     return p;
 }
 

@@ -45,13 +45,13 @@ class Righe {
         const Termine n = termine("n", d.n, 3), H = termine("H", d.misure.spessore, 1);
         const Termine Am = termine("Am", d.Am, 4), Av = termine("Av", d.Av, 4);
         const Termine x = termine("x", d.x, 2);
-        const Termine am = termine("cm", d.misure.monte.copriferro, 1);
-        const Termine fm = termine("dm", d.misure.monte.diametro, 1);
-        const Termine av = termine("cv", d.misure.valle.copriferro, 1);
-        const Termine fv = termine("dv", d.misure.valle.diametro, 1);
+        const Termine am = termine("c1", d.misure.monte.copriferro, 1);
+        const Termine fm = termine("d1", d.misure.monte.diametro, 1);
+        const Termine av = termine("c2", d.misure.valle.copriferro, 1);
+        const Termine fv = termine("d2", d.misure.valle.diametro, 1);
         riga("Rapporto dei moduli", "n", "%1 / %2", {Es(), Ec()}, d.n, 3, "");
-        area("Armatura a monte", "Am", d.misure.monte, "m", d.Am);
-        area("Armatura a valle", "Av", d.misure.valle, "v", d.Av);
+        area("Armatura a monte", "Am", d.misure.monte, "1", d.Am);
+        area("Armatura a valle", "Av", d.misure.valle, "2", d.Av);
         riga("Baricentro", "x",
              "(%1²/2 + (%2 − 1) · (%3 · (%1 − %4 − %5/2) + %6 · %7)) / (%1 + (%2 − 1) · (%6 + %3))",
              {H, n, Av, av, fv, Am, am}, d.x, 2, mm);
@@ -68,7 +68,7 @@ class Righe {
             traduttore("Tubo d'acciaio e calcestruzzo che lo riempie, intero e non "
                        "fessurato, insieme."));
         EJ("(π/4) · (%1 · (%2/2)⁴ + %3 · ((%4/2)⁴ − (%2/2)⁴)) / %5 / 10⁶",
-           {Ec(), termine("Di", d.misure.diamInt, 1), Es(), termine("De", d.misure.diamEst, 1),
+           {Ec(), termine("d", d.misure.diamInt, 1), Es(), termine("D", d.misure.diamEst, 1),
             termine("i", d.misure.interasse, 1)},
            d.EJ);
     }
@@ -77,17 +77,17 @@ class Righe {
         p_.note.push_back(
             traduttore("Due rettangoli, l'esterno meno l'interno, su un'onda del "
                        "profilo: i giunti non scorrono."));
-        const Termine b = termine("b", d.misure.base, 1), s = termine("s", d.misure.spessore, 1);
-        const Termine la = termine("la", d.misure.largAla, 1);
-        const Termine ha = termine("ha", d.misure.altAla, 1), c = termine("c", d.sAla, 3);
+        const Termine b = termine("b", d.misure.base, 1), t = termine("t", d.misure.spessore, 1);
+        const Termine a = termine("a", d.misure.largAla, 1);
+        const Termine h = termine("h", d.misure.altAla, 1), c = termine("c", d.sAla, 3);
         const Termine Be = termine("Be", d.Be, 3), He = termine("He", d.He, 2);
         riga("Spessore dell'ala lungo la paratia", "c", "%1 / cos(arctan(%2 / %3))",
-             {termine("sa", d.misure.spessAla, 2), la, ha}, d.sAla, 2, mm);
+             {termine("s", d.misure.spessAla, 2), a, h}, d.sAla, 2, mm);
         riga("Base esterna", "Be", "%1 + %2", {b, c}, d.Be, 2, mm);
-        riga("Altezza esterna", "He", "2 · %1 + %2", {ha, s}, d.He, 2, mm);
+        riga("Altezza esterna", "He", "2 · %1 + %2", {h, t}, d.He, 2, mm);
         riga("Base interna", "Bi", "%1 - 2 · %2", {Be, c}, d.Bi, 2, mm);
-        riga("Altezza interna", "Hi", "%1 - 2 · %2", {He, s}, d.Hi, 2, mm);
-        riga("Lunghezza di un'onda", "i", "4 · %1 + 2 · %2", {la, b}, d.passo, 1, mm);
+        riga("Altezza interna", "Hi", "%1 - 2 · %2", {He, t}, d.Hi, 2, mm);
+        riga("Lunghezza di un'onda", "i", "4 · %1 + 2 · %2", {a, b}, d.passo, 1, mm);
         EJ("%1 · (%2 · %3³ − %4 · %5³) / 12 / %6 / 10⁶",
            {Es(), Be, He, termine("Bi", d.Bi, 3), termine("Hi", d.Hi, 2), termine("i", d.passo, 1)},
            d.EJ);

@@ -115,12 +115,12 @@ TEST(CapitoloTerreno, FollowsASheetPileStepByStep) {
     DatiProgetto dati = test::progettoSemplice();
     dati.sezione = structure::palancola();
     const auto p = prospettoRigidezza(*contesto(dati).fascicolo);
-    const std::pair<const char*, double> attesi[] = {{"c = sa / cos(arctan(la / ha))", 13.5606},
+    const std::pair<const char*, double> attesi[] = {{"c = s / cos(arctan(a / h))", 13.5606},
                                                      {"Be = b + c", 213.5606},
-                                                     {"He = 2 · ha + s", 400},
+                                                     {"He = 2 · h + t", 400},
                                                      {"Bi = Be - 2 · c", 186.4394},
-                                                     {"Hi = He - 2 · s", 360},
-                                                     {"i = 4 · la + 2 · b", 800}};
+                                                     {"Hi = He - 2 · t", 360},
+                                                     {"i = 4 · a + 2 · b", 800}};
     std::size_t riga = 0;
     for (const auto& [formula, valore] : attesi) {
         EXPECT_EQ(p.righe.at(riga)[1].testo, formula);
