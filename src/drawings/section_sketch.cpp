@@ -1,16 +1,26 @@
 #include "drawings/section_sketch.hpp"
 
 #include <cassert>
+#include <string_view>
 
 #include "base/number_text.hpp"
 #include "drawings/sketch_views.hpp"
 
 namespace korven::drawings {
 
-std::string scrittaQuota(std::size_t campo, const project::Sezione& sezione) {
+namespace {
+
+std::string_view simboloScheda(double project::Sezione::*misura) {
+    return masks::campiSezione[masks::campoSezione(misura)].simbolo;
+}
+
+}  // namespace
+
+std::string scrittaQuota(std::size_t campo, const project::Sezione& sezione,
+                         SimboloMisura simbolo) {
     const masks::CampoSezione& c = masks::campiSezione[campo];
     const project::Campo& riga = c.campo();
-    std::string scritta(c.simbolo);
+    std::string scritta((simbolo != nullptr ? simbolo : simboloScheda)(c.valore));
     const double valore = sezione.*c.valore;
     if (valore == 0) return scritta;
     scritta += " = " + base::testoNumero(project::mostrato(riga, valore));
@@ -19,14 +29,16 @@ std::string scrittaQuota(std::size_t campo, const project::Sezione& sezione) {
     return scritta;
 }
 
-Schizzo schizzoSezione(project::Parte tipo, const project::Sezione& sezione) {
+Schizzo schizzoSezione(project::Parte tipo, const project::Sezione& sezione,
+                       SimboloMisura simbolo) {
     using enum project::Parte;
     assert(tipo == diaframma || tipo == pali || tipo == palancola || tipo == paliArmati);
     Schizzo schizzo = tipo == diaframma   ? schizzoDiaframma(sezione)
                       : tipo == pali      ? schizzoPali(sezione)
                       : tipo == palancola ? schizzoPalancola(sezione)
                                           : schizzoPaliArmati(sezione);
-    for (QuotaSchizzo& quota : schizzo.quote) quota.scritta = scrittaQuota(quota.campo, sezione);
+    for (QuotaSchizzo& quota : schizzo.quote)
+        quota.scritta = scrittaQuota(quota.campo, sezione, simbolo);
     return schizzo;
 }
 

@@ -7,6 +7,7 @@
 
 #include "base/translated_texts.hpp"
 #include "drawings/annex/paper.hpp"
+#include "drawings/annex/section_symbols.hpp"
 #include "drawings/section_sketch.hpp"
 #include "scene/text_measure.hpp"
 #include "structure/section_type.hpp"
@@ -149,7 +150,8 @@ class Disegno {
 Scena scenaSezione(const project::Sezione& sezione, double larghezza, double altezza) {
     Scena s = scenaCarta(misuraCarta(larghezza, altezza));
     const TipoSezione tipo = structure::tipoSezione(sezione);
-    if (tipo != TipoSezione::nessuno) Disegno(s).disegna(schizzoSezione(parte(tipo), sezione));
+    if (tipo != TipoSezione::nessuno)
+        Disegno(s).disegna(schizzoSezione(parte(tipo), sezione, simboloFormule));
     return s;
 }
 
