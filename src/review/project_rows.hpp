@@ -48,10 +48,10 @@ inline constexpr VoceOsservazione vociProgetto[] = {
 
     {"acqua-a-zero", Peso::pericolo, "fasi",
      "acqua fino alla testa della paratia da entrambi i lati, come risulta quando i livelli non "
-     "sono scritti: scriverli; senza falda, più di %1 m"},
+     "sono scritti: scriverli; se non c'è falda, scrivere più di %1 m"},
     {"acqua-piu-alta-davanti", Peso::pericolo, "fasi",
      "l'acqua è più alta davanti che dietro e spinge la paratia verso il terreno: se non è voluto, "
-     "correggere il livello di valle; senza falda, più di %1 m"},
+     "correggere il livello di valle; se non c'è falda, scrivere più di %1 m"},
     {"acqua-sopra-lo-scavo", Peso::daVedere, "fasi",
      "l'acqua davanti sta sopra il fondo dello scavo e sostiene la paratia: vale solo se lo scavo "
      "resta pieno d'acqua, altrimenti scrivere almeno la profondità dello scavo"},
@@ -93,7 +93,7 @@ inline constexpr VoceOsservazione vociProgetto[] = {
     {"relazione-con-coulomb", Peso::pericolo, "parametri",
      "la relazione dirà Coulomb, il comando seguente ricalcola con Coulomb e il file si riapre con "
      "Coulomb: scegliere di nuovo il metodo prima di ogni comando"},
-    {"valore-senza-effetto", Peso::daVedere, "parametri", "non ha effetto: %1"},
+    {"valore-senza-effetto", Peso::daVedere, "parametri", "senza effetto: %1"},
 
     {"troppi-tiranti", Peso::impedisce, "fasi", "più tiranti di quanti ne tiene la tabella (20)"},
     {"tiranti-non-definiti", Peso::pericolo, "fasi",

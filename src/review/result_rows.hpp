@@ -90,13 +90,13 @@ inline constexpr VoceOsservazione vociRisultati[] = {
 
     {"scavo-spostato-dai-nodi", Peso::daVedere, "osservazioni_risultati",
      "conta dal nodo a %1 m, %2 m più in basso; con questa maglia, per tutte le cause insieme, %3 "
-     "è falsato del %4 %: aumentare i segmenti"},
+     "è falsato di %4 %: aumentare i segmenti"},
     {"falda-tra-due-nodi", Peso::daVedere, "osservazioni_risultati",
      "cade tra due nodi, %2 m sopra quello a %1 m; con questa maglia, per tutte le cause insieme, "
-     "%3 è falsato del %4 %: aumentare i segmenti"},
+     "%3 è falsato di %4 %: aumentare i segmenti"},
     {"strato-spostato-dai-nodi", Peso::daVedere, "osservazioni_risultati",
      "lo strato che segue conta dal nodo a %1 m, %2 m più in basso; con questa maglia, per tutte "
-     "le cause insieme, %3 è falsato del %4 %: aumentare i segmenti"},
+     "le cause insieme, %3 è falsato di %4 %: aumentare i segmenti"},
 };
 
 }  // namespace korven::review

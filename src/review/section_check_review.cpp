@@ -77,7 +77,7 @@ Soggetto campi(const Rinforzo& rinforzo) {
 std::string uso(double progetto, double resistenza) {
     if (resistenza == 0) return {};
     const std::string quota[] = {numeroMostrato(progetto / resistenza, 1, unita::percento)};
-    return ", " + base::riempito(traduttore("usata al %1 %"), quota);
+    return ", " + base::riempito(traduttore("usata per %1 %"), quota);
 }
 
 void flessione(const DatiProgetto& dati, bool positivo, double Md, double MRd,

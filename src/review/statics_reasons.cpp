@@ -82,7 +82,8 @@ Motivo motivoTaglio(const DatiProgetto& dati, const safety::Margine& margine, co
         auto campi = alNodo(dati, fase(k), z, passo, true);
         if (!campi.empty())
             return {
-                "il diagramma non vede il taglio sopra un tirante o puntone che non è su un nodo",
+                "il diagramma non comprende il taglio sopra un tirante o puntone che non è su un "
+                "nodo",
                 std::move(campi)};
     }
     if (!meno || c.statica.lato != equilibrium::Lato::unico) {
@@ -92,9 +93,10 @@ Motivo motivoTaglio(const DatiProgetto& dati, const safety::Margine& margine, co
                     std::move(campi)};
     }
     if (c.statica.z > dati.lunghezzaParatia - passo / 2 && analysis::vincoli(dati).bloccoPiede)
-        return {"il diagramma non vede la reazione al piede", {nome(&DatiProgetto::vincoloPiede)}};
+        return {"il diagramma non comprende la reazione al piede",
+                {nome(&DatiProgetto::vincoloPiede)}};
     if (c.statica.z == 0 && analysis::vincoli(dati).cernieraTesta)
-        return {"il diagramma non vede la reazione al primo nodo",
+        return {"il diagramma non comprende la reazione al primo nodo",
                 {nome(&DatiProgetto::vincoloTesta)}};
     return {};
 }

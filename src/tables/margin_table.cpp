@@ -140,7 +140,7 @@ Prospetto prospettoMargine(const Margine& margine) {
             colonnaParole("Al limite [m]", "Profondità in cui la passiva è al limite"),
             colonna(unita::spostamentoFine, "Piede",
                     "Spostamento del piede, positivo verso lo scavo"),
-            colonnaParole("Con F", "Che cosa accade con la resistenza divisa per F")}};
+            colonnaParole("Meccanismo con F", "Che cosa accade con la resistenza divisa per F")}};
     for (const MargineFase& fase : margine.fasi) p.righe.push_back(rigaMargine(fase, margine));
     for (std::string nota : {notaPendenza(margine), notaOltre(margine)})
         if (!nota.empty()) p.note.push_back(std::move(nota));
@@ -219,7 +219,7 @@ std::string percheSenzaOrdine(safety::Andamento andamento) {
         case safety::Andamento::vicine:
             return base::riempito(
                 traduttore("Le due maglie più fini differiscono di meno di %1 nell'unità della "
-                           "riga: le cifre scritte non reggono un ordine."),
+                           "riga: le cifre scritte non bastano per un ordine."),
                 {base::testoDecimali(safety::minimaConOrdine, 2)});
         case safety::Andamento::alternano:
             return traduttore(
@@ -227,7 +227,7 @@ std::string percheSenzaOrdine(safety::Andamento andamento) {
                 "non ha un ordine.");
         case safety::Andamento::strette:
             return base::riempito(
-                traduttore("Le tre maglie differiscono di meno del %1 %: un ordine non serve."),
+                traduttore("Le tre maglie differiscono di meno di %1 %: un ordine non serve."),
                 {base::testoDecimali(safety::quotaSenzaOrdine, 0, 2)});
         case safety::Andamento::lontane:
             return traduttore(

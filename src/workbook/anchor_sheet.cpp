@@ -30,7 +30,7 @@ tables::Prospetto prospettoTiranti(const dossier::Fascicolo& f) {
     const std::vector<tables::Colonna> nuove = {
         tables::colonna(unita::nessuna, "Fase della massima", "Fase in cui la forza è massima"),
         tables::colonna(unita::nessuna, "Fase di posa", "Fase che mette in opera il tirante"),
-        tables::colonna(unita::forzaAlMetro, "Alla posa",
+        tables::colonna(unita::forzaAlMetro, "A fine fase di posa",
                         "Forza alla fine della fase che mette in opera il tirante")};
     p.colonne.insert(primaDellaRelazione(p.colonne), nuove.begin(), nuove.end());
     for (std::size_t j = 0; j < p.righe.size(); ++j) {

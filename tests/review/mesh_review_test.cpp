@@ -34,12 +34,12 @@ TEST(ControlloMaglia, TellsALevelThatTheNodesMoveWhereTheMeshIsTooCoarse) {
     EXPECT_EQ(conErrore(conLivelli(4.1, 30, 30, 8), 0.062),
               Righe{"[da vedere] scavo-spostato-dai-nodi: fase 1: Prof. [m] = 4.1: conta dal nodo "
                     "a 4.40 m, 0.30 m più in basso; con questa maglia, per tutte le cause "
-                    "insieme, il momento è falsato del 6.2 %: "
+                    "insieme, il momento è falsato di 6.2 %: "
                     "aumentare i segmenti"});
     EXPECT_EQ(conErrore(conLivelli(4, 6.9, 30, 8), 0.02, 0.07),
               Righe{"[da vedere] falda-tra-due-nodi: fase 1: Prof. falda [m] = 6.9: cade tra due "
                     "nodi, 0.30 m sopra quello a 7.20 m; con questa maglia, per tutte le cause "
-                    "insieme, il taglio è falsato del 7.0 %: "
+                    "insieme, il taglio è falsato di 7.0 %: "
                     "aumentare i segmenti"});
     EXPECT_EQ(
         conErrore(conLivelli(4, 30, 3.05, 8), 0.062)
@@ -52,7 +52,7 @@ TEST(ControlloMaglia, TellsALevelThatTheNodesMoveWhereTheMeshIsTooCoarse) {
               Righe{"[da vedere] strato-spostato-dai-nodi: strato 1: Prof. [m] = 8.15: lo strato "
                     "che segue conta dal nodo a 8.40 m, 0.25 m più in basso; con questa maglia, "
                     "per tutte le cause "
-                    "insieme, il momento è falsato del 6.2 %: aumentare i segmenti"});
+                    "insieme, il momento è falsato di 6.2 %: aumentare i segmenti"});
 }
 
 TEST(ControlloMaglia, SaysNothingOfAMeshThatIsFineEnough) {

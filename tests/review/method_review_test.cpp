@@ -69,7 +69,7 @@ TEST(ControlloMetodi, TellsThatTheLinearLawReachesTheLastValueFarBelowOnTheRetai
 
 // Each typed value, and the choice with which it does something.
 TEST(ControlloMetodi, TellsTypedValuesThatTheMethodDoesNotRead) {
-    const std::string invano = ": non ha effetto: ";
+    const std::string invano = ": senza effetto: ";
     const auto senza = [](const Modifica& modifica) {
         return righeDi(conModifica(modifica), {"valore-senza-effetto"});
     };

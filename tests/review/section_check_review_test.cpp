@@ -61,12 +61,13 @@ TEST(ControlloVerifiche, TellsABendingMomentThatJustEqualsItsResistance) {
     const auto pari = osservate(dati, conVerifiche(dati, 45, -30));
     EXPECT_EQ(
         righe(pari),
-        (Righe{"[pericolo] flessione-non-verificata: momento positivo di progetto 450.00 kN m/m "
-               "(fase 1, a 3.00 m), resistenza 450.00 kN m/m, usata al 100.0 %: aumentare i ferri "
-               "del lato valle o lo spessore, o ridurre il momento con tiranti, scavo e carichi",
-               "[pericolo] flessione-non-verificata: momento negativo di progetto -300.00 kN m/m "
-               "(fase 2, a 8.00 m), resistenza -300.00 kN m/m, usata al 100.0 %: aumentare i ferri "
-               "del lato monte o lo spessore, o ridurre il momento con tiranti, scavo e carichi"}));
+        (Righe{
+            "[pericolo] flessione-non-verificata: momento positivo di progetto 450.00 kN m/m "
+            "(fase 1, a 3.00 m), resistenza 450.00 kN m/m, usata per 100.0 %: aumentare i ferri "
+            "del lato valle o lo spessore, o ridurre il momento con tiranti, scavo e carichi",
+            "[pericolo] flessione-non-verificata: momento negativo di progetto -300.00 kN m/m "
+            "(fase 2, a 8.00 m), resistenza -300.00 kN m/m, usata per 100.0 %: aumentare i ferri "
+            "del lato monte o lo spessore, o ridurre il momento con tiranti, scavo e carichi"}));
     EXPECT_EQ(pari[0].campi, (Righe{"sezione.diametroValle", "sezione.interasseValle",
                                     "sezione.spessoreDiaframma"}));
     EXPECT_EQ(pari[1].campi, (Righe{"sezione.diametroMonte", "sezione.interasseMonte",
@@ -105,14 +106,14 @@ TEST(ControlloVerifiche, TellsAShearBeyondTheStrutsOrTheStirrups) {
     const auto bielle = con(250, 280);
     EXPECT_EQ(righe(bielle),
               Righe{inizio +
-                    "resistenza delle bielle di calcestruzzo 250.00 kN/m, usata al 112.0 %: "
+                    "resistenza delle bielle di calcestruzzo 250.00 kN/m, usata per 112.0 %: "
                     "adottare pali più grandi o più vicini, o un calcestruzzo migliore" +
                     fine});
     EXPECT_EQ(bielle[0].campi,
               (Righe{"sezione.armDiamPalo", "sezione.armInterasse", "sezione.fck"}));
     const auto staffe = con(280, 200);
     EXPECT_EQ(righe(staffe), Righe{inizio +
-                                   "resistenza dell'armatura d'anima 200.00 kN/m, usata al 140.0 "
+                                   "resistenza dell'armatura d'anima 200.00 kN/m, usata per 140.0 "
                                    "%: infittire le staffe o aumentarne il diametro" +
                                    fine});
     EXPECT_EQ(staffe[0].campi, (Righe{"sezione.armDiamStaffe", "sezione.armPassoStaffe"}));

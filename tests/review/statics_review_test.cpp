@@ -101,21 +101,21 @@ TEST(ControlloStatica, SaysWhatMakesTheShearDiffer) {
          {"forzaTesta"}},
         {muro().tirante(3.05, 500).dati(),
          altro(20, 3),
-         "; il diagramma non vede il taglio sopra un tirante o puntone che non è su un nodo: ",
+         "; il diagramma non comprende il taglio sopra un tirante o puntone che non è su un nodo: ",
          {"profTirante[1]"}},
         {muro()
              .con(&DatiProgetto::vincoloPiede, valore(project::VincoloPiede::cerniera))
              .tirante(3.05, 500)
              .dati(),
          altro(20, 10),
-         "; il diagramma non vede la reazione al piede: ",
+         "; il diagramma non comprende la reazione al piede: ",
          {"vincoloPiede"}},
         {muro()
              .con(&DatiProgetto::vincoloTesta, valore(project::VincoloTesta::cerniera))
              .tirante(3.05, 500)
              .dati(),
          altro(20, 0),
-         "; il diagramma non vede la reazione al primo nodo: ",
+         "; il diagramma non comprende la reazione al primo nodo: ",
          {"vincoloTesta"}},
         {muro().tirante(3, 500).dati(),
          {{20, 5, 1}, results::NumeroRelazione{25, 3, 1}},
@@ -150,7 +150,8 @@ TEST(ControlloStatica, GivesALesserShearTheReasonOfItsSideOfTheAnchor) {
     const auto contiene = [](const std::string& testo, const char* motivo) {
         return testo.find(motivo) != std::string::npos;
     };
-    EXPECT_TRUE(contiene(detto(traNodi, false, Lato::sopra), "; il diagramma non vede il taglio"));
+    EXPECT_TRUE(
+        contiene(detto(traNodi, false, Lato::sopra), "; il diagramma non comprende il taglio"));
     EXPECT_TRUE(
         contiene(detto(traNodi, false, Lato::sotto), "; al tirante o puntone il diagramma"));
     EXPECT_TRUE(

@@ -50,7 +50,7 @@ TEST(EsempiRaccontati, AreToldWhatTheirStagesComeTo) {
     EXPECT_EQ(
         righe(risultati(esempio("pali_armati_staffe"))),
         (Righe{"[pericolo] taglio-non-verificato: taglio di progetto 255.73 kN/m (fase 3, a 1.60 "
-               "m), resistenza dell'armatura d'anima 241.22 kN/m, usata al 106.0 %: infittire le "
+               "m), resistenza dell'armatura d'anima 241.22 kN/m, usata per 106.0 %: infittire le "
                "staffe o aumentarne il diametro, o ridurre il taglio con tiranti, scavo e carichi",
                "[da vedere] riduzione-bassa: fase 3: Prof. [m] = 7.8: riduzione della resistenza F "
                "= 1.44, sotto 1.50; con F maggiore: ruota attorno alla profondità di 1.60 m, il "
@@ -63,7 +63,7 @@ TEST(EsempiRaccontati, AreToldWhatTheirStagesComeTo) {
             "incastrato il diagramma conta le molle dell'incastro: il primo non è della paratia",
             "[da vedere] scavo-spostato-dai-nodi: fase 4: Prof. [m] = 11.5: conta dal nodo a 11.96 "
             "m, 0.46 m più in basso; con questa maglia, per tutte le cause "
-            "insieme, il momento è falsato del 8.1 %: aumentare i "
+            "insieme, il momento è falsato di 8.1 %: aumentare i "
             "segmenti"}));
 }
 

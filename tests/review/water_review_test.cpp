@@ -20,10 +20,10 @@ Righe con(double monte, double prima, double seconda) {
 const std::string monte = "Profondità falda a monte del diaframma [m] = ";
 const std::string zero =
     ": acqua fino alla testa della paratia da entrambi i lati, come risulta quando i livelli non "
-    "sono scritti: scriverli; senza falda, più di 12 m";
+    "sono scritti: scriverli; se non c'è falda, scrivere più di 12 m";
 const std::string davanti =
     ": l'acqua è più alta davanti che dietro e spinge la paratia verso il terreno: se non è "
-    "voluto, correggere il livello di valle; senza falda, più di 12 m";
+    "voluto, correggere il livello di valle; se non c'è falda, scrivere più di 12 m";
 const std::string nelloScavo =
     ": l'acqua davanti sta sopra il fondo dello scavo e sostiene la paratia: vale solo se lo scavo "
     "resta pieno d'acqua, altrimenti scrivere almeno la profondità dello scavo";

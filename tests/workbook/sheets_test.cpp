@@ -134,7 +134,7 @@ TEST(Fogli, FollowAnAnchorFromItsFirstStage) {
     const Prospetto& p = foglio(cartella, "tiranti").prospetto;
     ASSERT_EQ(p.righe.size(), f.tiranti.size());
     const auto n = p.colonne.size();
-    EXPECT_EQ(p.colonne[n - 2].testa(), "Alla posa [kN/m]");
+    EXPECT_EQ(p.colonne[n - 2].testa(), "A fine fase di posa [kN/m]");
     EXPECT_EQ(p.colonne[n - 1].testa(), "Relazione [kN/m]");
     for (std::size_t j = 0; j < p.righe.size(); ++j) {
         const auto& storia = f.tiranti[j];

@@ -67,7 +67,7 @@ Prospetto elenco(const Fascicolo& f) {
                             numeri(unita::metri, "Nodo a z"), colonna("Tipo"),
                             numeri(unita::rigidezzaAlMetro, "Rigidezza"),
                             numeri(unita::forzaAlMetro, "Pretensione"), numeri("Posa nella fase"),
-                            numeri(unita::spostamentoFine, "y alla posa")}};
+                            numeri(unita::spostamentoFine, "y0")}};
     const DatiProgetto& dati = f.parete.dati;
     for (const StoriaTirante& t : f.tiranti) {
         auto& riga = p.righe.emplace_back(std::vector<Cella>{
@@ -84,16 +84,16 @@ Prospetto elenco(const Fascicolo& f) {
                          t.spostamentoPosa ? tables::spostamento(*t.spostamentoPosa) : Cella{}});
     }
     p.note.push_back(
-        traduttore("z: profondità scritta. Nodo a z: il nodo più vicino, su cui la forza agisce. y "
-                   "alla posa: spostamento del nodo alla fine della fase precedente, da cui la "
-                   "forza conta; 0 per la prima fase. Rigidezza e pretensione sono orizzontali e "
-                   "per metro di paratia, come scritte."));
+        traduttore("z: profondità scritta. Nodo a z: il nodo più vicino, su cui la forza agisce. "
+                   "y0: spostamento del nodo alla fine della fase precedente, da cui la forza "
+                   "conta; 0 per la prima fase. Rigidezza e pretensione sono orizzontali e per "
+                   "metro di paratia, come scritte."));
     return p;
 }
 
 Prospetto forze(const Fascicolo& f) {
     Prospetto p{.titolo = traduttore("Forze maggiori"),
-                .colonne = {colonna("Elemento"), numeri(unita::forzaAlMetro, "Alla posa"),
+                .colonne = {colonna("Elemento"), numeri(unita::forzaAlMetro, "A fine fase di posa"),
                             numeri(unita::forzaAlMetro, "Massima"), numeri("Fase"),
                             numeri(unita::forzaAlMetro, "Relazione")}};
     for (const StoriaTirante& t : f.tiranti) {
@@ -151,7 +151,7 @@ void capitoloTiranti(const Contesto& contesto, Blocchi& blocchi) {
               blocchi);
     paragrafo(traduttore("Nel modello ognuno è una molla sul suo nodo: T = P + k (y - y0), con P "
                          "pretensione, k rigidezza, y spostamento del nodo nella fase e y0 quello "
-                         "alla posa; chi lavora solo a trazione non scende sotto 0."),
+                         "alla posa; un tirante di sola trazione non scende sotto 0."),
               blocchi);
     if (quanti.tiranti > 0)
         paragrafo(traduttore("La forza nell'asse di un tirante con interasse i e inclinazione a "

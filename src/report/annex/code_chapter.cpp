@@ -62,7 +62,7 @@ void capitoloNorma(const Contesto& contesto, Blocchi& blocchi) {
               traduttore("%1, c', cu e il peso di volume %2 sono divisi per il loro coefficiente, "
                          "il resto è moltiplicato: i sovraccarichi q, la forza H e il momento M in "
                          "testa, gli effetti; Terra divide la resistenza del terreno a valle. "
-                         "Scavo in più: della fase che ne ha di più."),
+                         "Scavo in più: il maggiore di tutte le fasi."),
               {"tan φ", "γ"}));
     parte(tables::prospettoEffetti(tutte), blocchi);
     parte(tables::prospettoVerifiche(tutte), blocchi);

@@ -126,9 +126,9 @@ constexpr Regola regole[] = {
     {&DatiProgetto::rigTirante, soloPuntoni, true, "orizzontale e per metro di paratia"},
     {&DatiProgetto::pretTirante, soloPuntoni, true, "orizzontale e per metro di paratia"},
     {&DatiProgetto::rigTirante, sempre, true,
-     "orizzontale e per metro di paratia; chi la scrive ha già moltiplicato per cos² alfa"},
+     "orizzontale e per metro di paratia; il valore scritto è già moltiplicato per cos² alfa"},
     {&DatiProgetto::pretTirante, sempre, true,
-     "orizzontale e per metro di paratia; chi la scrive ha già moltiplicato per cos alfa"},
+     "orizzontale e per metro di paratia; il valore scritto è già moltiplicato per cos alfa"},
 };
 
 // A section has the parameters of all types; one is in force.

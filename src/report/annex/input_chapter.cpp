@@ -141,7 +141,7 @@ void capitoloDati(const Contesto& contesto, Blocchi& blocchi) {
             "quello che il calcolo prende. Un trattino fra i valori usati: nessun calcolo lo "
             "legge. Sotto Campo c'è il nome del dato nel programma, uguale in ogni lingua."),
         {}});
-    paragrafo(traduttore("I numeri hanno qui al più sette cifre; interi stanno nel file di "
+    paragrafo(traduttore("I numeri hanno qui al più sette cifre; per intero stanno nel file di "
                          "progetto, nell'ultimo capitolo."),
               blocchi, document::Stile::nota);
     figure(contesto, blocchi);

@@ -47,24 +47,24 @@ void verdetto(const Margine& margine, Blocchi& blocchi) {
 }
 
 void margineDiFase(const Margine& margine, Blocchi& blocchi) {
-    parte(traduttore("F divide la tangente dell'angolo di attrito e la coesione di tutti "
-                     "gli strati, dai due lati: è il più grande con cui la fase ha ancora "
-                     "un equilibrio (Griffiths, Lane, Slope stability analysis by finite "
-                     "elements, 1999). Nei calcoli del resto del documento il terreno ha "
-                     "tutta la sua resistenza. F non riduce tiranti e vincoli: il calcolo "
-                     "li prende con resistenza senza limite. Passiva: la pressione del "
-                     "terreno davanti alla paratia sotto lo scavo, in parte della sua "
-                     "resistenza passiva. Al limite: le profondità in cui la usa tutta. Piede: il "
-                     "suo spostamento, positivo verso lo scavo."),
-          tables::prospettoMargine(margine), blocchi);
-    paragrafo(
-        riempito(traduttore("Sotto %1 il programma dice F un pericolo: è %3 dell'insieme M2 "
-                            "(EN 1997-1:2004, tabella A.4; NTC 2018, tabella 6.2.II). Sotto %2 lo "
-                            "dice da vedere: è un consiglio di questo programma, di nessuna norma. "
-                            "Quale sicurezza è richiesta lo decide la norma del progetto."),
-                 {base::testoDecimali(safety::riduzionePericolosa, 2),
-                  base::testoDecimali(safety::riduzioneDaVedere, 2), "γφ' = γc'"}),
-        blocchi, Stile::nota);
+    parte(
+        traduttore("F divide la tangente dell'angolo di attrito e la coesione di tutti gli strati, "
+                   "dai due lati: è il divisore più grande con cui la fase ha ancora un equilibrio "
+                   "(Griffiths, Lane, Slope stability analysis by finite elements, 1999). Nei "
+                   "calcoli del resto del documento il terreno ha tutta la sua resistenza. F non "
+                   "riduce tiranti e vincoli: il calcolo li prende con resistenza senza limite. "
+                   "Passiva: la pressione del terreno davanti alla paratia sotto lo scavo, in "
+                   "percentuale della sua resistenza passiva. Al limite: le profondità in cui la "
+                   "usa tutta. Piede: il suo spostamento, positivo verso lo scavo."),
+        tables::prospettoMargine(margine), blocchi);
+    paragrafo(riempito(traduttore(
+                           "Sotto %1 il programma classifica F «pericolo»: è %3 dell'insieme M2 "
+                           "(EN 1997-1:2004, tabella A.4; NTC 2018, tabella 6.2.II). Sotto %2 lo "
+                           "classifica «da vedere»: è un consiglio di questo programma, di nessuna "
+                           "norma. Quale sicurezza è richiesta lo decide la norma del progetto."),
+                       {base::testoDecimali(safety::riduzionePericolosa, 2),
+                        base::testoDecimali(safety::riduzioneDaVedere, 2), "γφ' = γc'"}),
+              blocchi, Stile::nota);
 }
 
 }  // namespace
@@ -81,16 +81,16 @@ void capitoloMargine(const Contesto& contesto, Blocchi& blocchi) {
     verdetto(margine, blocchi);
     margineDiFase(margine, blocchi);
     // Formulas stay on a line.
-    parte(riempito(
-              traduttore("I massimi di tutte le fasi con i segmenti del progetto, con il doppio e "
-                         "con quattro volte tanti: a, b, c. Errore: %1. Ordine: %2, la potenza del "
-                         "passo con cui l'errore diminuisce; 2 è quello delle differenze finite, 1 "
-                         "quello di un piede incastrato. Scavo, falda, strati e tiranti contano "
-                         "dal nodo più vicino, che ogni maglia ha altrove: l'ordine vero può "
-                         "esserne coperto. Nelle due maglie più fini i vincoli sono rigidi; le "
-                         "molle che ne fanno le veci nel calcolo cedono con un passo piccolo."),
-              {"|a\u00a0-\u00a0c|\u00a0/\u00a0c",
-               "log2((a\u00a0-\u00a0b)\u00a0/\u00a0(b\u00a0-\u00a0c))"}),
+    parte(riempito(traduttore(
+                       "I massimi di tutte le fasi con i segmenti del progetto, con il doppio e "
+                       "con il quadruplo: a, b, c. Errore: %1. Ordine: %2, la potenza del passo "
+                       "con cui l'errore diminuisce; 2 è quello delle differenze finite, 1 quello "
+                       "di un piede incastrato. Scavo, falda, strati e tiranti contano dal nodo "
+                       "più vicino, che cambia da una maglia all'altra: l'ordine vero può restarne "
+                       "mascherato. Nelle due maglie più fini i vincoli sono rigidi; le molle che "
+                       "ne fanno le veci nel calcolo cedono con un passo piccolo."),
+                   {"|a\u00a0-\u00a0c|\u00a0/\u00a0c",
+                    "log2((a\u00a0-\u00a0b)\u00a0/\u00a0(b\u00a0-\u00a0c))"}),
           prospettoErroreMaglia(margine), blocchi);
     if (margine.maglia) paragrafo(soglieErroreMaglia(), blocchi, Stile::nota);
     if (auto usi = prospettoUsiMaglia(margine); !usi.righe.empty()) {
@@ -99,7 +99,7 @@ void capitoloMargine(const Contesto& contesto, Blocchi& blocchi) {
     }
     avvisaMaglia(margine, blocchi);
     parte(traduttore("I massimi dell'equilibrio dei nodi accanto a quelli della relazione, fase "
-                     "per fase; la relazione tronca i numeri alla seconda cifra."),
+                     "per fase; la relazione tronca i numeri alla seconda cifra decimale."),
           statica(f), blocchi);
 }
 

@@ -129,8 +129,8 @@ std::string soglieErroreMaglia() {
     return base::riempito(
         traduttore("Errore: un trattino dove nessuna maglia dà almeno %1 nell'unità della riga. "
                    "Ordine: un trattino dove b e c differiscono di meno di %2; le cifre scritte "
-                   "non ne reggono uno. La copertina avvisa di un errore oltre il %3 %; non conta "
-                   "quello di un momento che non arriva al %4 % di quello dell'altro segno."),
+                   "non bastano per darlo. La copertina avvisa di un errore oltre %3 %; non conta "
+                   "quello di un momento che non arriva a %4 % di quello dell'altro segno."),
         {base::testoDecimali(safety::minimoConErrore, 2),
          base::testoDecimali(safety::minimaConOrdine, 2), percento(review::erroreMagliaDetto),
          percento(safety::ErroreMaglia::momentoMinore)});
@@ -139,12 +139,12 @@ std::string soglieErroreMaglia() {
 std::string soglieUsiMaglia() {
     return base::riempito(
         traduttore(
-            "Tendenza: lo sfruttamento a cui vanno maglie sempre più fini, c + (c - b) / (r - 1) "
-            "con r = (b - a) / (c - b), preso da 2 a 4: l'errore diminuisce almeno con la prima "
-            "potenza del passo, al più con la seconda. Un trattino dove le tre maglie non vanno "
-            "da una parte sola. Il documento avvisa dove il verdetto cambia con la maglia, dove "
-            "la tendenza passa il 100 % e dove lo sfruttamento cresce di più del %1 % di sé "
-            "stesso e per più di %2 % della resistenza."),
+            "Tendenza: lo sfruttamento a cui tendono maglie sempre più fini, c + (c - b) / (r - 1) "
+            "con r = (b - a) / (c - b), limitato fra 2 e 4: l'errore diminuisce almeno con la "
+            "prima potenza del passo, al più con la seconda. Un trattino dove le tre maglie non "
+            "vanno da una parte sola. Il documento avvisa dove il verdetto cambia con la maglia, "
+            "dove la tendenza passa il 100 % e dove lo sfruttamento cresce di oltre %1 % di sé "
+            "stesso e di oltre %2 % della resistenza."),
         {percento(safety::crescitaUsoDetta), percento(safety::crescitaUsoMinima)});
 }
 

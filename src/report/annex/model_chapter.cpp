@@ -96,9 +96,8 @@ const Ipotesi ipotesi[] = {
      "In quiete su entrambi i lati: la differenza dei livelli agisce per intero fino al piede.",
      fonti::terzaghi},
     {"Tiranti e puntoni",
-     "F = pretensione + rigidezza · (y - y alla posa), per metro di paratia e in orizzontale; uno "
-     "di "
-     "sola trazione non agisce in compressione.",
+     "F = pretensione + rigidezza · (y - y0), con y0 lo spostamento alla posa, per metro di "
+     "paratia e in orizzontale; uno di sola trazione non agisce in compressione.",
      fonti::winkler},
     {"Flessione della sezione",
      "Sezioni piane, %1 strisce, calcestruzzo senza trazione, con lo sforzo normale scritto; "

@@ -24,8 +24,8 @@ constexpr Escluso esclusi[] = {
     {"Attrito fra terreno e paratia: non c'è, delta = 0 sui due lati.",
      "ka è maggiore e kp minore che con l'attrito: per le spinte dalla parte sicura.",
      fonti::attrito},
-    {"Memoria del terreno: chi ha raggiunto il limite ritorna elastico, senza deformazione "
-     "permanente.",
+    {"Memoria del terreno: il terreno che ha raggiunto il limite ritorna elastico, senza "
+     "deformazione permanente.",
      "Da valutare dove una fase scarica il terreno (tiranti molto tesi, reinterri, puntoni "
      "tolti): la pressione vera dipende dalla storia.",
      fonti::memoria},

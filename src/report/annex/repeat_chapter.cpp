@@ -34,13 +34,15 @@ void progetto(const dossier::Fascicolo& f, Blocchi& blocchi) {
             "Il file ha un valore per riga; qui ogni valore segue il numero della sua riga. "
             "Sono valori conservati: forze in t, lunghezze in m, misure della sezione in cm."),
         blocchi);
-    paragrafo(riempito(traduttore(
-                           "Per riscriverlo dalla carta: %1 righe, %2 byte in tutto, caratteri di "
-                           "Windows-1252; ogni riga, anche l'ultima, finisce con CR LF. I valori "
-                           "si leggono da sinistra a destra; una riga rientrata continua quella "
-                           "sopra. Un valore che comincia o finisce con uno spazio sta fra « e »."),
-                       {std::to_string(numeroRighe(testo)), std::to_string(copia->byte.size())}),
-              blocchi, document::Stile::nota);
+    paragrafo(
+        riempito(
+            traduttore(
+                "Per riscriverlo dalla carta: %1 righe, %2 byte in tutto, caratteri di "
+                "Windows-1252; ogni riga, anche l'ultima, finisce con CR LF. I valori si leggono "
+                "da sinistra a destra; una riga rientrata continua quella sopra, senza spazi in "
+                "mezzo. Un valore che comincia o finisce con uno spazio sta fra « e »."),
+            {std::to_string(numeroRighe(testo)), std::to_string(copia->byte.size())}),
+        blocchi, document::Stile::nota);
     paragrafo(righeNumerate(testo), blocchi, document::Stile::fisso);
 }
 

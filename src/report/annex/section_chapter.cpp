@@ -64,8 +64,8 @@ void azioni(const Fascicolo& f, Blocchi& blocchi) {
                      {due(structure::fsAzioniSezione), due(structure::fsAcciaio),
                       due(structure::fsCalcestruzzo)}),
         blocchi);
-    paragrafo(traduttore("Nelle formule i valori messi hanno una cifra in più del risultato, che è "
-                         "arrotondato una volta sola."),
+    paragrafo(traduttore("Nelle formule i valori inseriti hanno una cifra in più del risultato, "
+                         "che è arrotondato una volta sola."),
               blocchi, Stile::nota);
 }
 
@@ -80,7 +80,7 @@ std::string stato(const LatoFlessione& l) {
     const auto mille = [](double eps) { return base::testoDecimali(eps, 3, perMille); };
     const std::string testo =
         riempito(traduttore("Alla resistenza: curvatura %1 1/m, deformazione %2 ‰ alla faccia più "
-                            "tesa e %3 all'altra, zona accorciata %4 mm."),
+                            "tesa e %3 ‰ all'altra, zona compressa %4 mm."),
                  {base::testoDecimali(l.chi, 5, perMille), mille(l.epsTeso), mille(l.epsCompresso),
                   project::numeroMostrato(l.x, 1)});
     return testo + " " +
@@ -218,8 +218,8 @@ void relazione(const Fascicolo& f, Blocchi& blocchi) {
     auto p = tables::prospettoVerifiche(f.parete, *f.margine);
     p.titolo.clear();
     p.note.push_back(
-        traduttore("Come nella relazione, questi numeri sono troncati alla seconda cifra; nel "
-                   "resto del documento sono arrotondati."));
+        traduttore("Come nella relazione, questi numeri sono troncati alla seconda cifra decimale; "
+                   "nel resto del documento sono arrotondati."));
     tavola(std::move(p), blocchi);
 }
 

@@ -129,7 +129,7 @@ std::string fraseBilanci(const Fascicolo& f) {
         "Di ogni fase c'è l'equilibrio di tutto ciò che agisce sulla paratia: momenti attorno alla "
         "testa, positivi se una forza positiva agisce sotto di essa; z è la profondità della "
         "risultante. Un tirante teso e un puntone compresso tengono la paratia verso terra: la "
-        "loro forza è negativa. La somma è quanto l'arrotondamento lascia.");
+        "loro forza è negativa. La somma è il residuo dell'arrotondamento.");
     if (f.parete.dati.momentoTesta != 0)
         frase += " " + traduttore(
                            "Un momento in testa positivo gira la testa verso lo scavo, cioè nel "
@@ -140,9 +140,10 @@ std::string fraseBilanci(const Fascicolo& f) {
 
 std::string fraseSomme(const Fascicolo& f, int righe) {
     std::string frase = riempito(
-        traduttore("Terreno, acqua e pressione costante si riottengono dalla tabella dei nodi per "
-                   "trapezi: pressione per passo, %1 m, metà nel primo e nell'ultimo nodo; i "
-                   "momenti, con la pressione per z. Le pressioni sono stampate al centesimo."),
+        traduttore(
+            "Terreno, acqua e pressione costante si riottengono dalla tabella dei nodi con la "
+            "regola dei trapezi: pressione per passo, %1 m, metà nel primo e nell'ultimo nodo; i "
+            "momenti, con la pressione per z. Le pressioni sono stampate con due decimali."),
         {tables::cella(f.parete.h, 4, unita::metri).testo});
     if (const int nodi = f.parete.nSeg + 1; nodi > righe)
         frase += " " + riempito(traduttore("Servono tutti i nodi, e qui le tabelle ne hanno una "

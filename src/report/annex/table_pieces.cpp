@@ -43,7 +43,8 @@ bool stampataNulla(const Cella& cella) {
 }
 
 Cella senzaPosto() {
-    return tables::senza(traduttore("Il valore stampato è 0: dove sta non dice nulla."));
+    return tables::senza(
+        traduttore("Il valore stampato è 0: la sua profondità non ha significato."));
 }
 
 void paragrafo(std::string testo, Blocchi& blocchi, document::Stile stile) {

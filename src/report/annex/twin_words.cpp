@@ -76,7 +76,7 @@ Cella profondita(const NumeroDoppio& d, double z) {
 std::string parole(const project::DatiProgetto& dati, const NumeroDoppio& d) {
     const project::Unita& u = unitaDi(d.cosa);
     return riempito(
-        traduttore("%1 %2 %3 a %4 m, non %5 a %6 m: %7"),
+        traduttore("%1 %2 %3 a %4 m, invece di %5 a %6 m: %7"),
         {nome(dati, d), project::numeroRelazione(mostrato(u, d.relazione)), std::string(u.mostrata),
          tables::profondita(d.zRelazione).testo, project::numeroMostrato(d.equilibrio, 2, u),
          tables::profondita(d.zEquilibrio).testo, d.perche});

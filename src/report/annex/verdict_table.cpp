@@ -93,7 +93,7 @@ std::string margineInBreve(const Fascicolo& f) {
     if (!m.maglia) return testo;
     const double errore = m.maglia->peggiore().quota;
     if (errore > review::erroreMagliaDetto)
-        testo += " " + riempito(traduttore("Errore di maglia fino al %1 %: aumentare i segmenti."),
+        testo += " " + riempito(traduttore("Errore di maglia fino a %1 %: aumentare i segmenti."),
                                 {tables::cella(errore, 1, unita::percento).testo});
     return testo;
 }

@@ -143,7 +143,7 @@ TEST_F(StessiNumeri, AreThoseOfTheAnchorsInEachStageAndAtTheirLargest) {
         leggi(file);
         if (f.tiranti.empty()) continue;
         const auto documento = report::allegato(f);
-        const auto elenco = tavole(documento, {"Elemento", "Alla posa", "Massima"});
+        const auto elenco = tavole(documento, {"Elemento", "A fine fase di posa", "Massima"});
         ASSERT_EQ(elenco.size(), 1U);
         // "Tirante 1" or "Puntone 1".
         const auto perFase = tavole(documento, {"Fase", elenco[0].righe.at(0).at(0).testo});

@@ -47,10 +47,12 @@ TEST(CapitoloMargine, HoldsTheMarginOfTheDossier) {
 // Whose the limits are: the smaller one a code's, the other this program's own.
 TEST(CapitoloMargine, SaysWhoseTheLimitsOfTheFactorAre) {
     const std::string detto = testo(margine(contesto(test::progettoSemplice())));
-    EXPECT_NE(detto.find("Sotto 1.25 il programma dice F un pericolo: è γφ' = γc' dell'insieme M2"),
-              std::string::npos);
-    EXPECT_NE(detto.find("Sotto 1.50 lo dice da vedere: è un consiglio di questo programma"),
-              std::string::npos);
+    EXPECT_NE(
+        detto.find("Sotto 1.25 il programma classifica F «pericolo»: è γφ' = γc' dell'insieme M2"),
+        std::string::npos);
+    EXPECT_NE(
+        detto.find("Sotto 1.50 lo classifica «da vedere»: è un consiglio di questo programma"),
+        std::string::npos);
 }
 
 // A row whose three meshes give no order is named with the reason.
