@@ -8,19 +8,15 @@
 
 namespace korven::drawings {
 
-namespace {
-
 std::string_view simboloScheda(double project::Sezione::*misura) {
     return masks::campiSezione[masks::campoSezione(misura)].simbolo;
 }
-
-}  // namespace
 
 std::string scrittaQuota(std::size_t campo, const project::Sezione& sezione,
                          SimboloMisura simbolo) {
     const masks::CampoSezione& c = masks::campiSezione[campo];
     const project::Campo& riga = c.campo();
-    std::string scritta((simbolo != nullptr ? simbolo : simboloScheda)(c.valore));
+    std::string scritta(simbolo(c.valore));
     const double valore = sezione.*c.valore;
     if (valore == 0) return scritta;
     scritta += " = " + base::testoNumero(project::mostrato(riga, valore));

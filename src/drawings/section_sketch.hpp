@@ -59,20 +59,22 @@ struct Schizzo {
 
 /// The letter for a measure of the section.
 using SimboloMisura = std::string_view (*)(double project::Sezione::*misura);
+/// That of its field in the form: "c1" is uphill, "c2" downhill.
+[[nodiscard]] std::string_view simboloScheda(double project::Sezione::*misura);
 
 /// The sketch of a section of the type `tipo`, whatever flags the section has. Where a value is
 /// 0 or less the sketch takes one in a usual proportion to the others; where the values do not fit
 /// each other (bars that do not fit into the wall, a tube without wall, proportions in which
 /// nothing could be told apart) it is drawn after an example and not after them.
-/// @param simbolo  of the dimensions; none: that of the form
+/// @param simbolo  of the dimensions
 /// @pre a type of section: asserted
 [[nodiscard]] Schizzo schizzoSezione(project::Parte tipo, const project::Sezione& sezione,
-                                     SimboloMisura simbolo = nullptr);
+                                     SimboloMisura simbolo = simboloScheda);
 
 /// What is written at a dimension: "c1 = 50" with the typed number, "c1" where that is 0. The bar
 /// count shows, as its tenth, the number that the calculations use: "n = 8/10 = 0.8".
-/// @param simbolo  of the field; none: that of the form
+/// @param simbolo  of the field
 [[nodiscard]] std::string scrittaQuota(std::size_t campo, const project::Sezione& sezione,
-                                       SimboloMisura simbolo = nullptr);
+                                       SimboloMisura simbolo = simboloScheda);
 
 }  // namespace korven::drawings

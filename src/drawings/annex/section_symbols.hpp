@@ -7,8 +7,8 @@
 namespace korven::drawings {
 
 /// The letter by which the formulas of a document call a measure of the section, and with them
-/// the figure above: one letter, one measure. Those of the section's form differ, since there no
-/// formula needs "d" for the effective depth or "s" for the flange.
+/// the figure above: one letter, one measure. It is that of the section's form, but for the bars of
+/// a pile, whose "d" is the effective depth in the formulas of shear.
 /// @return empty for a field that is no measure of the figure
 [[nodiscard]] std::string_view simboloFormule(double project::Sezione::*misura);
 

@@ -145,8 +145,8 @@ std::string legendaMisure(const Sezione& s) {
                 "misurato lungo la paratia; He: altezza; i: lunghezza di un'onda.");
         case TipoSezione::paliArmati:
             return traduttore(
-                "D: diametro del palo; c: copriferro; n, dl: numero e diametro (nella "
-                "figura d) delle barre, come il calcolo le prende; i: interasse dei pali.");
+                "D: diametro del palo; c: copriferro; n, dl: numero e diametro "
+                "delle barre, come il calcolo le prende; i: interasse dei pali.");
         case TipoSezione::nessuno:
             break;
     }

@@ -180,7 +180,7 @@ Prospetto prospettoTaglio(const Sezione& sezione, const ValoriTaglio& valori) {
     staffe(sezione, valori, p);
     alMetroDiParatia(valori, p);
     p.note.push_back(traduttore(
-        "D: diametro del palo; c: copriferro; dl (nella figura d), ds: diametro delle barre e "
+        "D: diametro del palo; c: copriferro; dl, ds: diametro delle barre e "
         "delle staffe; p: passo delle staffe; i: interasse dei pali; n: barre come il calcolo "
         "le prende, un decimo di quelle scritte. La verifica non prende lo sforzo "
         "normale. Regole di CEN, ENV 1992-1-1 (1991), 4.3.2."));

@@ -23,19 +23,20 @@ std::set<std::string> misure(const project::Sezione& sezione) {
 
 using Scritte = std::set<std::string>;
 
-// A checker redoes the formulas with the values of the figure: s is the flange in both.
+// A checker redoes the formulas with the values of the figure: d is the effective depth of a
+// pile in both.
 TEST(ScenaSezione, CallsAMeasureAsTheFormulasDo) {
     EXPECT_EQ(
         misure(structure::diaframmaSimmetrico()),
-        (Scritte{"H = 800", "cm = 50", "dm = 24", "im = 200", "cv = 50", "dv = 24", "iv = 200"}));
-    EXPECT_EQ(misure(structure::paliTubolari()), (Scritte{"De = 600", "Di = 580", "i = 800"}));
+        (Scritte{"H = 800", "c1 = 50", "d1 = 24", "i1 = 200", "c2 = 50", "d2 = 24", "i2 = 200"}));
+    EXPECT_EQ(misure(structure::paliTubolari()), (Scritte{"D = 600", "d = 580", "i = 800"}));
     EXPECT_EQ(misure(structure::palancola()),
-              (Scritte{"b = 200", "s = 20", "la = 100", "ha = 190", "sa = 12"}));
+              (Scritte{"b = 200", "t = 20", "a = 100", "h = 190", "s = 12"}));
     auto armati = structure::paliArmati();
     armati.armDiamStaffe = 1;
     armati.armPassoStaffe = 20;
     EXPECT_EQ(misure(armati), (Scritte{"D = 800", "i = 1000", "n = 120/10 = 12", "dl = 24",
-                                       "c = 60", "dw = 10", "s = 200"}));
+                                       "c = 60", "ds = 10", "p = 200"}));
 }
 
 TEST(SimboloFormule, IsThereForEveryMeasureOfASectionAndForNoMaterial) {
