@@ -1,5 +1,6 @@
 #include "device/drawing_files.hpp"
 
+#include <QBuffer>
 #include <QImage>
 #include <QPageSize>
 #include <QPainter>
@@ -10,6 +11,7 @@
 
 #include "base/file_error.hpp"
 #include "base/translated_texts.hpp"
+#include "device/dated_pdf.hpp"
 #include "device/drawing_extent.hpp"
 #include "device/drawing_painter.hpp"
 #include "device/file_device.hpp"
@@ -41,27 +43,36 @@ plot::Riquadro pagina(const plot::Riquadro& disegno, const plot::Foglio& foglio)
             disegno.ymax + bordoY};
 }
 
+void dipingiPdf(QIODevice& dove, const plot::Riquadro& vista) {
+    QPdfWriter scrittore(&dove);
+    scrittore.setCreator(QStringLiteral("KORVEN 32"));
+    scrittore.setResolution(dpiVettoriale);
+    const QSizeF misure = QSizeF(vista.larghezza(), vista.altezza()) * millimetriPerCentimetro;
+    scrittore.setPageSize(QPageSize(misure, QPageSize::Millimeter, {}, QPageSize::FuzzyMatch));
+    scrittore.setPageMargins(QMarginsF());
+    QPainter pittore(&scrittore);
+    PittoreDisegno disegno(pittore, vista, perCentimetro(dpiVettoriale),
+                           pennaMinimaCm * perCentimetro(dpiVettoriale));
+    // Qt compresses a page when it ends, which for millions of lines beside the paper would
+    // take seconds.
+    disegno.limita(vista.ymin, vista.ymax);
+    disegno.dipingi(plot::statoPlot.archivio);
+}
+
 }  // namespace
 
 void scriviPdf(const std::string& percorso, const plot::Foglio& foglio, const base::Disco& disco) {
     const plot::LavoroDisegno lavoro;
     const plot::Riquadro vista = pagina(plot::statoPlot.estensione, foglio);
-    DispositivoFile file(percorso, disco);
-    {
-        QPdfWriter scrittore(&file);
-        scrittore.setCreator(QStringLiteral("KORVEN 32"));
-        scrittore.setResolution(dpiVettoriale);
-        const QSizeF misure = QSizeF(vista.larghezza(), vista.altezza()) * millimetriPerCentimetro;
-        scrittore.setPageSize(QPageSize(misure, QPageSize::Millimeter, {}, QPageSize::FuzzyMatch));
-        scrittore.setPageMargins(QMarginsF());
-        QPainter pittore(&scrittore);
-        PittoreDisegno disegno(pittore, vista, perCentimetro(dpiVettoriale),
-                               pennaMinimaCm * perCentimetro(dpiVettoriale));
-        // Qt compresses a page when it ends, which for millions of lines beside the paper would
-        // take seconds.
-        disegno.limita(vista.ymin, vista.ymax);
-        disegno.dipingi(plot::statoPlot.archivio);
+    if (haDataVoluta()) {
+        QBuffer byte;
+        byte.open(QIODevice::WriteOnly);
+        dipingiPdf(byte, vista);
+        base::scriviFile(percorso, conDataVoluta(byte.data().toStdString()), disco);
+        return;
     }
+    DispositivoFile file(percorso, disco);
+    dipingiPdf(file, vista);
     file.concludi();
 }
 

@@ -1,6 +1,7 @@
 #include "device/graphics_session.hpp"
 
 #include <QGuiApplication>
+#include <QHashFunctions>
 #include <clocale>
 #include <cstdio>
 
@@ -17,6 +18,8 @@ void taci(QtMsgType tipo, const QMessageLogContext&, const QString& testo) {
 }  // namespace
 
 SessioneGrafica::SessioneGrafica() {
+    // Qt writes the fonts of a PDF file in the order of a table that would be another in each run.
+    QHashSeed::setDeterministicGlobalSeed();
     qInstallMessageHandler(taci);
     applicazione_ = std::make_unique<QGuiApplication>(numeroArgomenti_, argomenti_.data());
     std::setlocale(LC_NUMERIC, "C");

@@ -10,6 +10,7 @@
 
 #include "base/files.hpp"
 #include "base/translated_texts.hpp"
+#include "device/dated_pdf.hpp"
 #include "device/least_margins.hpp"
 #include "device/print_outcome.hpp"
 #include "device/qt_text.hpp"
@@ -150,10 +151,8 @@ class SuPdf : private PdfInMemoria, public PagineRelazione {
     void endJob() override {
         pittore().end();
         byte.close();
-        const QByteArray& tutti = byte.data();
         try {
-            base::scriviFile(percorso_, {tutti.constData(), static_cast<std::size_t>(tutti.size())},
-                             disco_);
+            base::scriviFile(percorso_, conDataVoluta(byte.data().toStdString()), disco_);
         } catch (const base::ErroreFile& errore) {
             throw markup::PrinterError(errore.percorso(), errore.riga(), errore.atteso());
         }

@@ -6,11 +6,11 @@
 #include <cassert>
 #include <charconv>
 #include <chrono>
-#include <cstdlib>
 #include <ctime>
 #include <utility>
 
 #include "base/code_page.hpp"
+#include "base/source_date.hpp"
 #include "project/project_file.hpp"
 
 namespace korven::dossier {
@@ -46,14 +46,8 @@ std::string scritta(int anno, unsigned mese, unsigned giorno) {
     return cifre(static_cast<unsigned>(anno), 4) + '-' + cifre(mese, 2) + '-' + cifre(giorno, 2);
 }
 
-std::optional<long long> secondiDi(std::string_view epoca) {
-    const auto secondi = intero<long long>(epoca);
-    if (!secondi || *secondi < 0 || *secondi >= fineEpoca) return std::nullopt;
-    return secondi;
-}
-
 std::optional<std::string> daEpoca(std::string_view testo) {
-    const auto secondi = secondiDi(testo);
+    const auto secondi = base::secondiEpoca(testo);
     if (!secondi) return std::nullopt;
     const std::chrono::sys_days giorno{
         std::chrono::floor<std::chrono::days>(std::chrono::seconds(*secondi))};
@@ -94,8 +88,6 @@ bool dataValida(std::string_view data) {
         .ok();
 }
 
-bool epocaValida(std::string_view epoca) { return secondiDi(epoca).has_value(); }
-
 std::string data(const FontiData& fonti) {
     assert(fonti.voluta.empty() || dataValida(fonti.voluta));
     if (!fonti.voluta.empty()) return fonti.voluta;
@@ -105,10 +97,7 @@ std::string data(const FontiData& fonti) {
 }
 
 FontiData fontiDiSistema(std::string voluta) {
-    FontiData fonti{.voluta = std::move(voluta), .epoca = std::nullopt, .oggi = oggi};
-    const char* epoca = std::getenv("SOURCE_DATE_EPOCH");
-    if (epoca != nullptr && *epoca != '\0') fonti.epoca = epoca;
-    return fonti;
+    return {.voluta = std::move(voluta), .epoca = base::epocaVoluta(), .oggi = oggi};
 }
 
 }  // namespace korven::dossier

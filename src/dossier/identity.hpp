@@ -40,13 +40,8 @@ struct FontiData {
 /// True for a day of the calendar from 1900 on, "2026-11-22".
 [[nodiscard]] bool dataValida(std::string_view data);
 
-/// True for whole seconds from 0 up to the one before `fineEpoca`.
-[[nodiscard]] bool epocaValida(std::string_view epoca);
-/// The first second of the year 10000: from there on a date has no four digits for its year.
-inline constexpr long long fineEpoca = 253402300800;
-
 /// The date of a document. An `epoca` that is no such number is passed over: where somebody can be
-/// told, `epocaValida` is asked first.
+/// told, `base::secondiEpoca` is asked first.
 /// @pre `voluta` is empty or valid, which whoever read it has told the user: asserted
 [[nodiscard]] std::string data(const FontiData& fonti);
 

@@ -3,10 +3,10 @@
 #include <algorithm>
 
 #include "base/filled_text.hpp"
+#include "base/source_date.hpp"
 #include "base/translated_texts.hpp"
 #include "batch/options/command.hpp"
 #include "batch/options/common_options.hpp"
-#include "dossier/identity.hpp"
 
 namespace korven::batch {
 
@@ -24,12 +24,12 @@ std::string dataIgnota(const Opzioni& opzioni) {
     if (!opzioni.data.empty()) return {};
     const bool conOpzione = haData(*opzioni.comando);
     if (!conOpzione && opzioni.pdfConfronto.empty() && opzioni.pdfVerifica.empty()) return {};
-    const auto epoca = dossier::fontiDiSistema({}).epoca;
-    if (!epoca || dossier::epocaValida(*epoca)) return {};
+    const auto epoca = base::epocaVoluta();
+    if (!epoca || base::secondiEpoca(*epoca)) return {};
     std::string perche = base::riempito(
         base::traduttore("SOURCE_DATE_EPOCH vale %1: deve essere un numero intero di secondi "
                          "dall'inizio del 1970, da 0 a %2, oppure mancare."),
-        {*epoca, std::to_string(dossier::fineEpoca - 1)});
+        {*epoca, std::to_string(base::fineEpoca - 1)});
     if (conOpzione)
         perche += ' ' + base::riempito(base::traduttore("La data si può dare anche con %1."),
                                        {nomeOpzioneData.mostrato()});
