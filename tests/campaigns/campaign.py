@@ -128,8 +128,7 @@ class Campaign:
 
 
 def environment(home):
-    """A user who has never started the program, with temporary files of his own, on a fixed day; Qt numbers
-    the fonts of a PDF file in an order that is another one in each process, but for a fixed seed."""
+    """A user who has never started the program, with temporary files of his own, on a fixed day."""
     temporary = home / "tmp"
     temporary.mkdir(parents=True, exist_ok=True)
     home.chmod(0o700)
@@ -137,7 +136,7 @@ def environment(home):
             if name in ("PATH", "LD_LIBRARY_PATH", "ASAN_OPTIONS", "UBSAN_OPTIONS")}
     return kept | {"HOME": str(home), "XDG_CONFIG_HOME": str(home / "config"), "TMPDIR": str(temporary),
                    "XDG_DATA_HOME": str(home / "data"), "XDG_RUNTIME_DIR": str(home),
-                   "LC_ALL": "C.UTF-8", "SOURCE_DATE_EPOCH": "1700000000", "QT_HASH_SEED": "0"}
+                   "LC_ALL": "C.UTF-8", "SOURCE_DATE_EPOCH": "1700000000"}
 
 
 def contents(folder):
