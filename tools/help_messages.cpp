@@ -12,6 +12,9 @@ namespace korven::tools {
 
 namespace {
 
+// Between a message and what the program puts after it.
+constexpr std::string_view continued = " | ";
+
 class Reader {
  public:
     Reader(const std::string& path, std::string_view content) : lines_(path, content) {}
@@ -52,11 +55,17 @@ class Reader {
         add(name, line.substr(blank + 1));
     }
 
-    void add(std::string_view name, std::string_view text) {
+    void add(std::string_view name, std::string_view line) {
         if (groups_.empty()) lines_.refuse("attesa una riga \"@gruppo\" prima dei messaggi");
+        const auto bar = std::min(line.find(continued), line.size());
+        const auto text = line.substr(0, bar);
+        const auto after = bar < line.size() ? line.substr(bar + continued.size()) : "";
+        if (bar < line.size() && after != "?" && after != "…" && after != "…?")
+            lines_.refuse("attesi \"?\", \"…\" o \"…?\" dopo la sbarra");
         if (!texts_.insert(base::chiaveTesto(text)).second)
             lines_.refuse("atteso un messaggio non ancora elencato");
-        groups_.back().messages.push_back({std::string(name), std::string(text), lines_.number()});
+        groups_.back().messages.push_back(
+            {std::string(name), std::string(text), lines_.number(), std::string(after)});
     }
 
     SourceLines lines_;
@@ -97,6 +106,8 @@ HelpStructure withMessages(const std::string& path, HelpStructure structure,
                 throw base::ErroreFile(path, message.line,
                                        "attesa una chiave di texts.txt: " + message.text);
             message.text = withEllipses(text->second);
+            if (message.after.starts_with("…")) message.text += ' ';
+            message.text += message.after;
         }
         waiting[group.name] = std::move(group);
     }

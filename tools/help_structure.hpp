@@ -17,9 +17,10 @@ struct HelpField {
 
 /// A message of the program that a page lists.
 struct HelpMessage {
-    std::string name;  ///< by which the page explains it; empty: it says itself what to do
-    std::string text;  ///< its key of data/texts.txt, or its translation as it is shown
-    long line = 0;     ///< its line in the source, from 1
+    std::string name;        ///< by which the page explains it; empty: it says itself what to do
+    std::string text;        ///< its key of data/texts.txt, or its translation as it is shown
+    long line = 0;           ///< its line in the source, from 1
+    std::string after = {};  ///< what the program puts after the text, "?" or "…"
 };
 
 /// Messages of one subject, which stand together on a page.

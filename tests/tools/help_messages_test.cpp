@@ -89,6 +89,17 @@ TEST(HelpMessages, StandOnTheirPageInItsLanguage) {
               "<ul><li>… &lt; … m en français</li></ul>\n<p>fin</p>\n");
 }
 
+TEST(HelpMessages, SayWhatTheProgramPutsAfterThem) {
+    EXPECT_EQ(html("@gruppo g", "@gruppo g\nDisco pieno | ?"), "<ul><li>Disque plein?</li></ul>\n");
+    EXPECT_EQ(html("@gruppo g", "@gruppo g\nDisco pieno | …"),
+              "<ul><li>Disque plein …</li></ul>\n");
+    const auto explained =
+        html("@gruppo g\n| a | b |\n| full | x |", "@gruppo g\n@messaggio full Disco pieno | …?");
+    EXPECT_NE(explained.find("<td>Disque plein …?</td>"), std::string::npos);
+    EXPECT_EQ(faultLine("@gruppo g\nDisco pieno | di carta\n"), 2);
+    EXPECT_EQ(faultLine("@gruppo g\nDisco pieno\nDisco pieno | ?\n"), 3);
+}
+
 TEST(HelpMessages, AreAllExplainedWhereTheyHaveANameAndOnlyThose) {
     const std::string one = "@gruppo g\n@messaggio full Disco pieno\n";
     const std::string two = one + "@messaggio small %1 < %2 m\n";
