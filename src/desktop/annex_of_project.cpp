@@ -13,6 +13,7 @@
 #include "base/value_error.hpp"
 #include "dossier/annex_command.hpp"
 #include "dossier/dossier.hpp"
+#include "factors/requested_code.hpp"
 #include "project/project_data.hpp"
 #include "project/project_file.hpp"
 #include "report/annex/annex.hpp"
@@ -52,27 +53,29 @@ dossier::AlPostoDelProgetto alPosto(const DatiProgetto& usati, const DatiProgett
 }
 
 // Of a project that was never saved the file has no name yet.
-std::string comando(const std::string& file, dossier::AlPostoDelProgetto opzioni, int nSeg,
-                    const std::string& data) {
-    opzioni.nSeg = std::to_string(nSeg);
-    if (file.empty())
-        return dossier::comando({.progetto = base::argomentoProgetto.mostrato(),
+std::string comando(dossier::AlPostoDelProgetto opzioni, const dossier::Richiesta& tutto) {
+    const std::string& file = tutto.identita.file;
+    opzioni.nSeg = std::to_string(*tutto.nSeg);
+    dossier::ComandoAllegato suo{.progetto = base::argomentoProgetto.mostrato(),
                                  .alPosto = std::move(opzioni),
-                                 .data = data});
-    return dossier::comando({.progetto = file,
-                             .pdf = base::nomeUscita(file, base::parolaAllegato.italiano, "pdf"),
-                             .alPosto = std::move(opzioni),
-                             .data = data});
+                                 .norma = tutto.norma,
+                                 .data = tutto.identita.data};
+    if (!file.empty()) {
+        suo.progetto = file;
+        suo.pdf = base::nomeUscita(file, base::parolaAllegato.italiano, "pdf");
+    }
+    return dossier::comando(suo);
 }
 
-dossier::Richiesta richiesta() {
+dossier::Richiesta richiesta(const std::optional<factors::NormaChiesta>& norma) {
     const std::string& file = project::fileCorrente;
     const std::optional<DatiProgetto> riletto = comeDaFile(project::Progetto);
     dossier::Richiesta tutto{.scritti = riletto.value_or(project::Progetto),
                              .usati = {},
                              .nSeg = {},
                              .identita = {},
-                             .sulProgetto = {}};
+                             .sulProgetto = {},
+                             .norma = norma};
     tutto.usati = tutto.scritti;
     tutto.usati.metodoSpinte = project::Progetto.metodoSpinte;
     tutto.nSeg = analysis::leggiNSeg(analysis::vincoli(tutto.usati).incastroPiede);
@@ -81,8 +84,7 @@ dossier::Richiesta richiesta() {
     tutto.identita.nonSalvato = !riletto || !salvato(file, *riletto);
     const auto opzioni = alPosto(tutto.usati, tutto.scritti);
     tutto.identita.opzioni = dossier::opzioniDette(opzioni, tutto.nSeg);
-    if (riletto && tutto.nSeg)
-        tutto.identita.comando = comando(file, opzioni, *tutto.nSeg, tutto.identita.data);
+    if (riletto && tutto.nSeg) tutto.identita.comando = comando(opzioni, tutto);
     // The lines of the file count among the remarks, as they do for the command.
     if (!tutto.identita.nonSalvato) tutto.sulProgetto = review::esaminaFile(file, tutto.usati);
     return tutto;
@@ -99,14 +101,14 @@ class FinoAllaFermata : public analysis::OsservatoreCorsa {
 
 }  // namespace
 
-shell::CalcoloAllegato allegatoDelProgetto() {
-    return
-        [richiesta = richiesta()](const std::atomic<bool>& fermata) -> shell::ComposizioneAllegato {
-            FinoAllaFermata osservatore(fermata);
-            const auto fascicolo =
-                std::make_shared<dossier::Fascicolo>(dossier::fascicolo(richiesta, osservatore));
-            return [fascicolo] { return report::allegato(*fascicolo); };
-        };
+shell::CalcoloAllegato allegatoDelProgetto(const std::optional<factors::NormaChiesta>& norma) {
+    return [richiesta =
+                richiesta(norma)](const std::atomic<bool>& fermata) -> shell::ComposizioneAllegato {
+        FinoAllaFermata osservatore(fermata);
+        const auto fascicolo =
+            std::make_shared<dossier::Fascicolo>(dossier::fascicolo(richiesta, osservatore));
+        return [fascicolo] { return report::allegato(*fascicolo); };
+    };
 }
 
 }  // namespace korven::desktop

@@ -48,6 +48,8 @@ struct Combinazione {
     std::string fonte;  ///< of the choice of its factors
     Fattori fattori;
     std::vector<std::string> fonti;  ///< of each factor, in the order of `vociFattori`
+
+    bool operator==(const Combinazione&) const = default;
 };
 
 /// The combinations that one code asks for together.
@@ -56,6 +58,8 @@ struct Norma {
     std::string titolo;  ///< as it is shown
     std::string file;    ///< name of the file that it stands in
     std::vector<Combinazione> combinazioni;
+
+    bool operator==(const Norma&) const = default;
 };
 
 }  // namespace korven::factors

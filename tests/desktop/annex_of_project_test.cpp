@@ -10,6 +10,7 @@
 #include "base/folders/program_folder.hpp"
 #include "device/document_files.hpp"
 #include "document/markup_text.hpp"
+#include "factors/catalogue.hpp"
 #include "project/codes.hpp"
 #include "project/output_guard.hpp"
 #include "project/project_file.hpp"
@@ -39,9 +40,10 @@ class AllegatoDelProgetto : public ::testing::Test {
         ::unsetenv("SOURCE_DATE_EPOCH");
     }
 
-    [[nodiscard]] static document::Documento allegato() {
+    [[nodiscard]] static document::Documento allegato(
+        const std::optional<factors::NormaChiesta>& norma = {}) {
         const std::atomic<bool> mai = false;
-        return allegatoDelProgetto()(mai)();
+        return allegatoDelProgetto(norma)(mai)();
     }
     // Its plain text in one line, whatever lines it is broken into.
     [[nodiscard]] static std::string testo(const document::Documento& documento) {
@@ -80,6 +82,20 @@ TEST_F(AllegatoDelProgetto, PrintsTheCommandThatMakesTheSameBytes) {
     EXPECT_NE(suo.find("--nseg 50"), std::string::npos) << suo;
     ASSERT_EQ(dai(suo), 0) << suo;
     EXPECT_TRUE(test::contenuto(pdf) == prima);
+}
+
+TEST_F(AllegatoDelProgetto, WithACodePrintsTheCommandThatMakesTheSameBytes) {
+    const factors::Catalogo catalogo = factors::leggiCombinazioni();
+    const factors::NormaChiesta norma{*catalogo.norma("ntc2018"),
+                                      {.monte = factors::Natura::permanente}};
+    const auto documento = allegato(norma);
+    device::scriviPdf(pdf, documento);
+    const std::string prima = test::contenuto(pdf);
+    fs::remove(pdf);
+    const std::string suo = comando(documento);
+    EXPECT_NE(suo.find("--norma ntc2018 --sovraccarico permanente"), std::string::npos) << suo;
+    ASSERT_EQ(dai(suo), 0);
+    EXPECT_EQ(test::contenuto(pdf), prima);
 }
 
 TEST_F(AllegatoDelProgetto, SaysThatTheFileIsNotYetThisProject) {

@@ -37,8 +37,9 @@ inline shell::CalcoloAllegato giaFatto(const document::Documento& documento) {
 
 /// What a window of the annex needs, with a document that is always the same; nothing is printed.
 inline shell::PorteAllegato porteAllegato(base::Dialogo& dialogo) {
-    return {dialogo, [] { return giaFatto(documentoCompleto()); },
-            std::make_shared<SalvataggioDiProva>(), [](const document::Documento&) {}};
+    return {dialogo, [](const auto&) { return giaFatto(documentoCompleto()); },
+            [] { return factors::Catalogo(); }, std::make_shared<SalvataggioDiProva>(),
+            [](const document::Documento&) {}};
 }
 
 }  // namespace korven::test

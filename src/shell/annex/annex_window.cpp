@@ -9,6 +9,7 @@
 #include <QSignalBlocker>
 #include <QSpinBox>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <array>
 #include <exception>
 #include <utility>
@@ -23,6 +24,7 @@
 #include "shell/annex/document_view.hpp"
 #include "shell/companions/button_row.hpp"
 #include "shell/failure_box.hpp"
+#include "shell/norms/code_choice.hpp"
 #include "shell/qt_text.hpp"
 #include "shell/viewer/export.hpp"
 #include "shell/viewer/output_saving.hpp"
@@ -59,6 +61,10 @@ FinestraAllegato::FinestraAllegato(QWidget& principale, VitaProgetto& vita, Port
     auto* colonna = new QVBoxLayout(this);
     vista_ = new VistaDocumento(this);
     colonna->addWidget(fareRiga());
+    // The kinds of loads have no keys: those of the window are taken.
+    norma_ = new SceltaNorma({.etichetta = "Con la &norma", .nessuna = true, .tastiNatura = false},
+                             this);
+    colonna->addWidget(norma_);
     colonna->addWidget(vista_, 1);
     nota_ = new QLabel(this);
     nota_->setObjectName(QStringLiteral("nota"));
@@ -76,6 +82,7 @@ FinestraAllegato::FinestraAllegato(QWidget& principale, VitaProgetto& vita, Port
         zoom_->setCurrentIndex(-1);
         seguiVista();
     });
+    connect(norma_, &SceltaNorma::cambiata, this, [this] { ricomincia(); });
     connect(&vita, &VitaProgetto::cambiata, this, [this] {
         cambiato_ = true;
         lasciaAltri();
@@ -148,16 +155,45 @@ QWidget* FinestraAllegato::farePulsanti(const std::function<void(const std::stri
 void FinestraAllegato::showEvent(QShowEvent* evento) {
     FinestraCompagna::showEvent(evento);
     if (evento->spontaneous()) return;
+    leggiNorme();
     lasciaAltri();
     if (cambiato_) prepara();
     segui();
+}
+
+// The same by its name, as its factors are now. Of files with a fault none is used: a combination
+// that is missing might be the one that governs.
+void FinestraAllegato::leggiNorme() {
+    const auto prima = norma();
+    catalogo_ = porte_.norme();
+    if (!catalogo_.guaste.empty()) catalogo_.norme.clear();
+    const auto stessa = std::ranges::find(
+        catalogo_.norme, prima ? prima->norma.nome : std::string(), &factors::Norma::nome);
+    const bool ancora = stessa != catalogo_.norme.end();
+    norma_->offri(catalogo_.norme,
+                  ancora ? static_cast<int>(stessa - catalogo_.norme.begin()) : -1);
+    const bool altra = prima && (!ancora || !(*stessa == prima->norma));
+    cambiato_ = cambiato_ || altra;
+}
+
+std::optional<factors::NormaChiesta> FinestraAllegato::norma() const {
+    if (norma_->scelta() < 0) return {};
+    return factors::NormaChiesta{catalogo_.norme[static_cast<std::size_t>(norma_->scelta())],
+                                 norma_->natura()};
+}
+
+void FinestraAllegato::ricomincia() {
+    lavoro_->ferma();
+    inCorso_ = false;
+    cambiato_ = true;
+    prepara();
 }
 
 void FinestraAllegato::prepara() {
     if (!vita_.vivo().aperto() || inCorso_) return segui();
     fermato_ = false;
     conAvviso(porte_.dialogo, [this] {
-        CalcoloAllegato calcola = porte_.prepara();
+        CalcoloAllegato calcola = porte_.prepara(norma());
         inPreparazione_ = project::progettoAperto();
         cambiato_ = false;  // what changes from now on is in none of its numbers
         inCorso_ = true;

@@ -2,11 +2,13 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "base/dialogo.hpp"
 #include "commands/desktop_forms.hpp"
 #include "document/blocks.hpp"
+#include "factors/factor_rows.hpp"
 #include "shell/annex/annex_work.hpp"
 #include "shell/companions/companion_window.hpp"
 #include "shell/live/background_work.hpp"
@@ -20,23 +22,26 @@ class QSpinBox;
 
 namespace korven::shell {
 
+class SceltaNorma;
 class VistaDocumento;
 
 /// What the window of the annex needs of the outside.
 struct PorteAllegato {
     base::Dialogo& dialogo;
     InizioAllegato prepara;
-    std::shared_ptr<PorteGrafica> file;  ///< the dialogs to save, and the disk
+    std::function<factors::Catalogo()> norme;  ///< the codes as they are in their files now
+    std::shared_ptr<PorteGrafica> file;        ///< the dialogs to save, and the disk
     /// Prints on the printer that the user chooses; the pages are then those of its sheet.
     /// @throws base::ErroreFile when it fails
     std::function<void(const document::Documento&)> stampa;
 };
 
 /// The annex of the open project on its pages: to look at, to print, to save as PDF or for a word
-/// processor. It is made when the window is opened and when it is asked for again, beside the forms
-/// until its numbers are there; meanwhile it can be stopped, and the pages of before stay. That the
-/// project has changed since is told. Where another project is open, or the same under another
-/// name, its pages go: no annex may be taken for that of another wall.
+/// processor, with a chapter on a code if one is chosen. It is made when the window is opened and
+/// when it is asked for again, beside the forms until its numbers are there; meanwhile it can be
+/// stopped, and the pages of before stay. That the project has changed since is told. Where another
+/// project is open, or the same under another name, its pages go: no annex may be taken for that of
+/// another wall.
 class FinestraAllegato : public FinestraCompagna {
     Q_OBJECT
  public:
@@ -51,7 +56,10 @@ class FinestraAllegato : public FinestraCompagna {
     QWidget* fareRiga();
     QWidget* fareAttesa();
     QWidget* farePulsanti(const std::function<void(const std::string&)>& guida);
+    void leggiNorme();
+    [[nodiscard]] std::optional<factors::NormaChiesta> norma() const;
     void prepara();
+    void ricomincia();
     void preparata(const ComposizioneAllegato& componi);
     void ferma();
     /// Lets go of pages and work that are not of the open project.
@@ -69,6 +77,8 @@ class FinestraAllegato : public FinestraCompagna {
     VitaProgetto& vita_;
     PorteAllegato porte_;
     VistaDocumento* vista_ = nullptr;
+    SceltaNorma* norma_ = nullptr;
+    factors::Catalogo catalogo_;
     QSpinBox* pagina_ = nullptr;
     QLabel *quante_ = nullptr, *nota_ = nullptr;
     QComboBox* zoom_ = nullptr;

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "device/document_files.hpp"
+#include "factors/catalogue.hpp"
 #include "project/output_guard.hpp"
 #include "project/project_data.hpp"
 #include "shell/annex/annex_window.hpp"
@@ -65,7 +66,7 @@ void collegaAllegato(commands::FormeProgramma& forme, QWidget& principale, VitaP
                      const InizioAllegato& prepara,
                      const std::function<void(const std::string&)>& annuncia) {
     const auto file = std::make_shared<PorteDesktop>(stampante, annuncia);
-    const PorteAllegato porte{dialogo, prepara, file,
+    const PorteAllegato porte{dialogo, prepara, [] { return factors::leggiCombinazioni(); }, file,
                               [file, stampante, &principale](const document::Documento& documento) {
                                   // Above the annex: after it the keyboard goes back there.
                                   QWidget* sopra = QApplication::activeWindow();

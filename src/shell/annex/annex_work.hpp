@@ -2,8 +2,10 @@
 
 #include <atomic>
 #include <functional>
+#include <optional>
 
 #include "document/blocks.hpp"
+#include "factors/requested_code.hpp"
 
 namespace korven::shell {
 
@@ -17,7 +19,9 @@ using ComposizioneAllegato = std::function<document::Documento()>;
 using CalcoloAllegato = std::function<ComposizioneAllegato(const std::atomic<bool>& fermata)>;
 
 /// Takes the open project as it is now, in the thread of the forms.
+/// @param norma  a code that the annex has a chapter on; nothing: none
 /// @throws base::ErroreFile
-using InizioAllegato = std::function<CalcoloAllegato()>;
+using InizioAllegato =
+    std::function<CalcoloAllegato(const std::optional<factors::NormaChiesta>& norma)>;
 
 }  // namespace korven::shell

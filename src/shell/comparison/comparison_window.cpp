@@ -4,12 +4,8 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QShowEvent>
-#include <QTimer>
-#include <QVBoxLayout>
 #include <utility>
 
-#include "base/colon.hpp"
 #include "base/translated_texts.hpp"
 #include "comparison/document.hpp"
 #include "comparison/tables.hpp"
@@ -19,7 +15,6 @@
 #include "project/project_data.hpp"
 #include "shell/annex/document_view.hpp"
 #include "shell/companions/button_row.hpp"
-#include "shell/forms/wrapped_label.hpp"
 #include "shell/qt_text.hpp"
 #include "shell/tables/table_pages.hpp"
 #include "shell/tables/table_view.hpp"
@@ -31,46 +26,34 @@ namespace korven::shell {
 
 namespace {
 
-constexpr QSize misuraComoda(1000, 560);
 constexpr const char* paginaGuida = "finestra_confronto";
-// Keys that follow one another at once cost one computation.
-constexpr int riposo = 150;  // [ms]
 constexpr int lettereProgetto = 24;
-
-QString inCorso() { return tradotto("Calcolo in corso") + QStringLiteral("..."); }
 
 }  // namespace
 
 FinestraConfronto::FinestraConfronto(QWidget& principale, VitaProgetto& vita, PorteConfronto porte,
                                      std::function<void(const std::string&)> guida)
-    : FinestraCompagna(principale, QStringLiteral("confronto"), tradotto("Confronto"),
-                       misuraComoda),
-      vita_(vita),
+    : FinestraProspetti(principale, vita, QStringLiteral("confronto"), tradotto("Confronto")),
       porte_(std::move(porte)),
-      riposo_(new QTimer(this)),
       lavoro_(new ConfrontiInDisparte(
           calcoloConfronti(),
           [this](const comparison::DomandaConfronto& domanda, const RispostaConfronto& risposta) {
               accogli(domanda.numero, risposta);
           },
           this)) {
-    auto* colonna = new QVBoxLayout(this);
-    colonna->addWidget(fareRiga());
-    frasi_ = etichettaInRighe("frasi", this);
-    colonna->addWidget(frasi_);
-    farePagine();
-    colonna->addWidget(pagine_, 1);
-    nota_ = etichettaInRighe("nota", this);
-    colonna->addWidget(nota_);
-    colonna->addWidget(farePulsanti(guida));
-    riposo_->setSingleShot(true);
-    riposo_->setInterval(riposo);
-    connect(riposo_, &QTimer::timeout, this, [this] { guardaOra(); });
-    connect(pagine_, &QTabWidget::currentChanged, this, [this] {
-        if (pagine_->currentWidget() == curve_) curve_->vaiA(1);  // from its upper end
+    comincia({fareRiga()});
+    campi_ = prospetto("campi", "Campi diversi");
+    risultati_ = prospetto("risultati", "Risultati");
+    fasi_ = prospetto("fasi", "Risultati delle fasi");
+    osservazioni_ = prospetto("osservazioni", "Osservazioni");
+    curve_ = new VistaDocumento(&pagine());
+    curve_->setAccessibleName(tradotto("Le due pareti"));
+    pagine().addTab(curve_, tradotto("Curve"));
+    finisci(farePulsanti(guida));
+    connect(&pagine(), &QTabWidget::currentChanged, this, [this] {
+        if (pagine().currentWidget() == curve_) curve_->vaiA(1);  // from its upper end
         seguiPagina();
     });
-    connect(&vita, &VitaProgetto::cambiata, this, [this] { guarda(); });
     svuota({});
     campi_->setFocus();
 }
@@ -98,47 +81,13 @@ QWidget* FinestraConfronto::fareRiga() {
     return riga;
 }
 
-void FinestraConfronto::farePagine() {
-    pagine_ = new PagineProspetti(this);
-    campi_ = pagine_->aggiungi("campi", "Campi diversi");
-    risultati_ = pagine_->aggiungi("risultati", "Risultati");
-    fasi_ = pagine_->aggiungi("fasi", "Risultati delle fasi");
-    osservazioni_ = pagine_->aggiungi("osservazioni", "Osservazioni");
-    curve_ = new VistaDocumento(pagine_);
-    curve_->setAccessibleName(tradotto("Le due pareti"));
-    pagine_->addTab(curve_, tradotto("Curve"));
-}
-
 QWidget* FinestraConfronto::farePulsanti(const std::function<void(const std::string&)>& guida) {
     auto* riga = new FilaPulsanti(*this);
-    pagine_->aggiungiCopia(*riga);
+    pagine().aggiungiCopia(*riga);
     pdf_ = riga->aggiungi("pdf", "PD&F...", "picture_file", [this] { salvaPdf(); });
     riga->aggiungiGuida(guida ? [guida] { guida(paginaGuida); } : std::function<void()>());
     riga->finisci();
     return riga;
-}
-
-void FinestraConfronto::showEvent(QShowEvent* evento) {
-    FinestraCompagna::showEvent(evento);
-    if (!evento->spontaneous()) guardaOra();
-}
-
-void FinestraConfronto::hideEvent(QHideEvent* evento) {
-    if (!evento->spontaneous()) {
-        riposo_->stop();
-        ferma();
-    }
-    FinestraCompagna::hideEvent(evento);
-}
-
-// Meanwhile another program may have written the file that the project is compared with.
-void FinestraConfronto::changeEvent(QEvent* evento) {
-    FinestraCompagna::changeEvent(evento);
-    if (evento->type() == QEvent::ActivationChange && isActiveWindow()) guarda();
-}
-
-void FinestraConfronto::guarda() {
-    if (isVisible()) riposo_->start();
 }
 
 void FinestraConfronto::scegli(int voce) {
@@ -159,47 +108,37 @@ void FinestraConfronto::chiediAltro() {
     scegli(voce);
 }
 
-void FinestraConfronto::guardaOra() {
-    riposo_->stop();
-    const live::ProgettoVivo& vivo = vita_.vivo();
+int FinestraConfronto::osserva() {
+    const live::ProgettoVivo& vivo = vita().vivo();
     const int nSeg = vivo.aperto() ? vivo.parete().nSeg : 0;
     vivo_.guarda(vivo.aperto() ? &vivo.dati() : nullptr, project::progettoAperto(),
                  nSeg > 0 ? std::optional(nSeg) : std::nullopt);
-    const auto& domanda = vivo_.domanda();
-    if (!domanda || domanda->numero != chiesta_) ferma();
-    if (domanda && chiesta_ == 0) {
-        chiesta_ = domanda->numero;
-        lavoro_->chiedi(*domanda);
-    }
-    mostra();
+    return vivo_.domanda() ? vivo_.domanda()->numero : 0;
 }
 
-void FinestraConfronto::ferma() {
-    chiesta_ = 0;
-    lavoro_->ferma();
-}
+void FinestraConfronto::chiedi() { lavoro_->chiedi(*vivo_.domanda()); }
+
+void FinestraConfronto::lascia() { lavoro_->ferma(); }
 
 void FinestraConfronto::accogli(int numero, const RispostaConfronto& risposta) {
-    chiesta_ = 0;
     if (risposta.confronto == nullptr)
         vivo_.rinuncia(numero, risposta.guasto);
     else
         vivo_.rispondi(numero, risposta.confronto);
-    mostra();
+    risposto();
 }
 
 void FinestraConfronto::mostra() {
     const bool sospeso = vivo_.domanda().has_value();
-    for (VistaProspetto* vista : {campi_, risultati_, fasi_, osservazioni_})
-        vista->sospendi(sospeso);
-    frasi_->setEnabled(!sospeso);
+    sospendi(sospeso);
     pdf_->setEnabled(!sospeso && vivo_.confronto() != nullptr);
-    if (!vivo_.impedimento().empty())
-        svuota(qt(vivo_.impedimento()));
-    else if (vivo_.confronto() == nullptr)
-        svuota(inCorso());
-    else if (vivo_.confronto() != mostrato_)
+    if (vivo_.confronto() == nullptr || !vivo_.impedimento().empty()) {
+        mostrato_ = nullptr;
+        svuota(vivo_.impedimento().empty() ? inCorso() : qt(vivo_.impedimento()));
+        curve_->mostra({});
+    } else if (vivo_.confronto() != mostrato_) {
         riempi();
+    }
     seguiPagina();
 }
 
@@ -207,7 +146,7 @@ void FinestraConfronto::riempi() {
     mostrato_ = vivo_.confronto();
     auto righe = comparison::frasiMuri(*mostrato_);
     for (auto& frase : comparison::frasi(*mostrato_)) righe.push_back(std::move(frase));
-    frasi_->setText(inRighe(insieme(righe)));
+    frasi().setText(inRighe(insieme(righe)));
     campi_->mostra(comparison::prospettoCampi(*mostrato_));
     risultati_->mostra(comparison::prospettoRisultati(*mostrato_));
     fasi_->mostra(comparison::prospettoFasi(*mostrato_));
@@ -216,37 +155,27 @@ void FinestraConfronto::riempi() {
         device::impaginato(comparison::documentoCurve(mostrato_), comparison::formatoCurve()));
 }
 
-void FinestraConfronto::svuota(const QString& perche) {
-    mostrato_ = nullptr;
-    frasi_->setText(inRighe(perche));
-    for (VistaProspetto* vista : {campi_, risultati_, fasi_, osservazioni_})
-        vista->mostra({.note = {perche.toStdString()}});
-    curve_->mostra({});
-}
-
 void FinestraConfronto::seguiPagina() {
-    const auto* vista = dynamic_cast<VistaProspetto*>(pagine_->currentWidget());
+    const auto* vista = dynamic_cast<VistaProspetto*>(pagine().currentWidget());
     if (vivo_.domanda())
-        nota_->setText(inCorso());
+        nota().setText(inCorso());
     else if (vista != nullptr && !vista->modello().prospetto().righe.empty())
-        nota_->setText(inRighe(insieme(vista->modello().prospetto().note)));
+        nota().setText(inRighe(insieme(vista->modello().prospetto().note)));
     else
-        nota_->clear();
+        nota().clear();
 }
 
 void FinestraConfronto::salvaPdf() {
     const auto confronto = vivo_.confronto();
-    const auto scritto = salvaUscita(
+    salvaDelProgetto(
         richiestaUscita("Salvataggio del confronto in formato PDF", project::fileCorrente,
                         "confronto", {tipoPdf()}),
-        *porte_.file, porte_.dialogo, [&](const std::string& dove) {
-            project::controllaUscita(dove, project::fileCorrente);
+        *porte_.file, porte_.dialogo, nota(), [&](const std::string& dove) {
             project::controllaCoppia(dove, confronto->prima.fascicolo.identita.file);
             device::scriviPdf(
                 dove, comparison::documento(confronto, dossier::data(dossier::fontiDiSistema({}))),
                 porte_.file->disco());
         });
-    if (scritto) nota_->setText(qt(base::conDuePunti(base::traduttore("File scritto"), *scritto)));
 }
 
 }  // namespace korven::shell

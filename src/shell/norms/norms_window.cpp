@@ -1,17 +1,9 @@
 #include "shell/norms/norms_window.hpp"
 
-#include <QCheckBox>
-#include <QComboBox>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QShowEvent>
-#include <QSignalBlocker>
-#include <QTimer>
-#include <QVBoxLayout>
 #include <utility>
 
-#include "base/colon.hpp"
 #include "base/files.hpp"
 #include "base/translated_texts.hpp"
 #include "device/document_files.hpp"
@@ -20,7 +12,7 @@
 #include "project/output_guard.hpp"
 #include "project/project_data.hpp"
 #include "shell/companions/button_row.hpp"
-#include "shell/forms/wrapped_label.hpp"
+#include "shell/norms/code_choice.hpp"
 #include "shell/qt_text.hpp"
 #include "shell/tables/table_pages.hpp"
 #include "shell/tables/table_view.hpp"
@@ -34,103 +26,37 @@ namespace korven::shell {
 
 namespace {
 
-constexpr QSize misuraComoda(1000, 560);
 constexpr const char* paginaGuida = "finestra_norme";
-// Keys that follow one another at once cost one computation.
-constexpr int riposo = 150;  // [ms]
-constexpr int lettereNorma = 24;
-
-QString inCorso() { return tradotto("Calcolo in corso") + QStringLiteral("..."); }
-
-factors::Natura natura(const QCheckBox* casella) {
-    return casella->isChecked() ? factors::Natura::permanente : factors::Natura::variabile;
-}
 
 }  // namespace
 
 FinestraNorme::FinestraNorme(QWidget& principale, VitaProgetto& vita, PorteNorme porte,
                              std::function<void(const std::string&)> guida)
-    : FinestraCompagna(principale, QStringLiteral("norme"), tradotto("Norme"), misuraComoda),
-      vita_(vita),
+    : FinestraProspetti(principale, vita, QStringLiteral("norme"), tradotto("Norme")),
       porte_(std::move(porte)),
-      riposo_(new QTimer(this)),
       lavoro_(new NormeInDisparte(
           calcoloNorme(),
           [this](const desk::DomandaNorma& domanda, const RispostaNorma& risposta) {
               accogli(domanda.numero, risposta);
           },
           this)) {
-    auto* colonna = new QVBoxLayout(this);
-    colonna->addWidget(fareScelte());
-    colonna->addWidget(fareCarichi());
-    frasi_ = etichettaInRighe("frasi", this);
-    colonna->addWidget(frasi_);
-    farePagine();
-    colonna->addWidget(pagine_, 1);
-    nota_ = etichettaInRighe("nota", this);
-    colonna->addWidget(nota_);
-    colonna->addWidget(farePulsanti(guida));
-    riposo_->setSingleShot(true);
-    riposo_->setInterval(riposo);
-    connect(riposo_, &QTimer::timeout, this, [this] { guardaOra(); });
-    connect(&vita, &VitaProgetto::cambiata, this, [this] { guarda(); });
+    scelta_ = new SceltaNorma({.etichetta = "&Norma"}, this);
+    comincia({scelta_});
+    effetti_ = prospetto("effetti", "Combinazioni e inviluppo");
+    verifiche_ = prospetto("verifiche", "Verifiche");
+    tiri_ = prospetto("tiri", "Tiranti e puntoni");
+    fattori_ = prospetto("fattori", "Coefficienti applicati");
+    fonti_ = prospetto("fonti", "Coefficienti e fonti");
+    note_ = prospetto("note", "Note");
+    finisci(farePulsanti(guida));
+    connect(scelta_, &SceltaNorma::cambiata, this, [this] { scegli(); });
     svuota({});
     effetti_->setFocus();
 }
 
-QWidget* FinestraNorme::fareScelte() {
-    auto* riga = new QWidget(this);
-    auto* disposizione = new QHBoxLayout(riga);
-    disposizione->setContentsMargins(0, 0, 0, 0);
-    norma_ = new QComboBox(riga);
-    norma_->setObjectName(QStringLiteral("norma"));
-    norma_->setAccessibleName(tradotto("Norma di cui si calcolano le combinazioni"));
-    norma_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    norma_->setMinimumContentsLength(lettereNorma);
-    auto* etichetta = new QLabel(tradotto("&Norma"), riga);
-    etichetta->setBuddy(norma_);
-    disposizione->addWidget(etichetta);
-    disposizione->addWidget(norma_, 1);
-    connect(norma_, &QComboBox::activated, this, [this](int quale) {
-        vive_.scegli(quale);
-        guardaOra();
-    });
-    return riga;
-}
-
-QWidget* FinestraNorme::fareCarichi() {
-    auto* riga = new QWidget(this);
-    auto* disposizione = new QHBoxLayout(riga);
-    disposizione->setContentsMargins(0, 0, 0, 0);
-    disposizione->addWidget(new QLabel(tradotto("Carichi permanenti:"), riga));
-    const auto casella = [&](const char* nome, const char* testo) {
-        auto* fatta = new QCheckBox(tradotto(testo), riga);
-        fatta->setObjectName(QLatin1String(nome));
-        fatta->setToolTip(tradotto("Con il segno questo carico è permanente, senza è variabile"));
-        disposizione->addWidget(fatta);
-        connect(fatta, &QCheckBox::toggled, this, [this] { scegliNatura(); });
-        return fatta;
-    };
-    monte_ = casella("monte", "a &monte");
-    scavo_ = casella("scavo", "sul fondo dello &scavo");
-    testa_ = casella("testa", "in &testa");
-    disposizione->addStretch();
-    return riga;
-}
-
-void FinestraNorme::farePagine() {
-    pagine_ = new PagineProspetti(this);
-    effetti_ = pagine_->aggiungi("effetti", "Combinazioni e inviluppo");
-    verifiche_ = pagine_->aggiungi("verifiche", "Verifiche");
-    tiri_ = pagine_->aggiungi("tiri", "Tiranti e puntoni");
-    fattori_ = pagine_->aggiungi("fattori", "Coefficienti applicati");
-    fonti_ = pagine_->aggiungi("fonti", "Coefficienti e fonti");
-    note_ = pagine_->aggiungi("note", "Note");
-}
-
 QWidget* FinestraNorme::farePulsanti(const std::function<void(const std::string&)>& guida) {
     auto* riga = new FilaPulsanti(*this);
-    pagine_->aggiungiCopia(*riga);
+    pagine().aggiungiCopia(*riga);
     pdf_ = riga->aggiungi("pdf", "PD&F...", "picture_file", [this] {
         salva("Salvataggio delle combinazioni in formato PDF", tipoPdf(),
               [this](const std::string& dove) {
@@ -151,94 +77,55 @@ QWidget* FinestraNorme::farePulsanti(const std::function<void(const std::string&
     return riga;
 }
 
-void FinestraNorme::showEvent(QShowEvent* evento) {
-    FinestraCompagna::showEvent(evento);
-    if (!evento->spontaneous()) leggi();
-}
-
-void FinestraNorme::hideEvent(QHideEvent* evento) {
-    if (!evento->spontaneous()) {
-        riposo_->stop();
-        ferma();
-    }
-    FinestraCompagna::hideEvent(evento);
-}
-
-// Meanwhile the user may have written combinations into the file.
-void FinestraNorme::changeEvent(QEvent* evento) {
-    FinestraCompagna::changeEvent(evento);
-    if (evento->type() == QEvent::ActivationChange && isActiveWindow() && isVisible()) leggi();
-}
-
 void FinestraNorme::leggi() {
     vive_.norme(porte_.leggi());
-    const QSignalBlocker muta(norma_);
-    norma_->clear();
-    for (const factors::Norma& norma : vive_.norme()) {
-        norma_->addItem(qt(norma.titolo));
-        norma_->setItemData(norma_->count() - 1, qt(norma.nome + ", " + norma.file),
-                            Qt::ToolTipRole);
-    }
-    norma_->setCurrentIndex(vive_.scelta());
+    scelta_->offri(vive_.norme(), vive_.scelta());
     guardaOra();
 }
 
-void FinestraNorme::scegliNatura() {
-    vive_.natura({.monte = natura(monte_), .scavo = natura(scavo_), .testa = natura(testa_)});
+void FinestraNorme::scegli() {
+    if (scelta_->scelta() >= 0) vive_.scegli(scelta_->scelta());
+    vive_.natura(scelta_->natura());
     guardaOra();
 }
 
-void FinestraNorme::guarda() {
-    if (isVisible()) riposo_->start();
-}
-
-void FinestraNorme::guardaOra() {
-    riposo_->stop();
-    const live::ProgettoVivo& vivo = vita_.vivo();
+int FinestraNorme::osserva() {
+    const live::ProgettoVivo& vivo = vita().vivo();
     vive_.guarda(vivo.aperto() ? &vivo.parete() : nullptr);
-    const auto& domanda = vive_.domanda();
-    if (!domanda || domanda->numero != chiesta_) ferma();
-    if (domanda && chiesta_ == 0) {
-        chiesta_ = domanda->numero;
-        lavoro_->chiedi(*domanda);
-    }
-    mostra();
+    return vive_.domanda() ? vive_.domanda()->numero : 0;
 }
 
-void FinestraNorme::ferma() {
-    chiesta_ = 0;
-    lavoro_->ferma();
-}
+void FinestraNorme::chiedi() { lavoro_->chiedi(*vive_.domanda()); }
+
+void FinestraNorme::lascia() { lavoro_->ferma(); }
 
 void FinestraNorme::accogli(int numero, const RispostaNorma& risposta) {
-    chiesta_ = 0;
     if (risposta.combinazioni == nullptr)
         vive_.rinuncia(numero, risposta.guasto);
     else
         vive_.rispondi(numero, risposta.combinazioni);
-    mostra();
+    risposto();
 }
 
 void FinestraNorme::mostra() {
     const bool sospeso = vive_.domanda().has_value();
-    for (VistaProspetto* vista : {effetti_, verifiche_, tiri_, fattori_, fonti_, note_})
-        vista->sospendi(sospeso);
-    frasi_->setEnabled(!sospeso);
+    sospendi(sospeso);
     for (QPushButton* pulsante : {pdf_, xlsx_})
         pulsante->setEnabled(!sospeso && vive_.combinazioni() != nullptr);
-    if (!vive_.impedimento().empty())
-        svuota(qt(vive_.impedimento()));
-    else if (vive_.combinazioni() == nullptr)
-        svuota(inCorso());
-    else if (vive_.combinazioni() != mostrate_)
+    const bool nessuna = vive_.combinazioni() == nullptr;
+    if (nessuna || !vive_.impedimento().empty()) {
+        mostrate_ = nullptr;
+        svuota(vive_.impedimento().empty() ? inCorso() : qt(vive_.impedimento()));
+    } else if (vive_.combinazioni() != mostrate_) {
         riempi();
-    nota_->setText(sospeso ? inCorso() : QString());
+    }
+    nota().setText(sospeso ? inCorso() : QString());
 }
 
 void FinestraNorme::riempi() {
     mostrate_ = vive_.combinazioni();
-    const auto note = factors::note(*mostrate_, vita_.vivo().dati());
-    frasi_->setText(inRighe(insieme(desk::frasi(*mostrate_))));
+    const auto note = factors::note(*mostrate_, vita().vivo().dati());
+    frasi().setText(inRighe(insieme(desk::frasi(*mostrate_))));
     effetti_->mostra(tables::prospettoEffetti(*mostrate_));
     auto verifiche = tables::prospettoVerifiche(*mostrate_);
     if (verifiche.righe.empty()) verifiche.note = note;
@@ -252,27 +139,15 @@ void FinestraNorme::riempi() {
     note_->mostra({.note = note});
 }
 
-void FinestraNorme::svuota(const QString& perche) {
-    mostrate_ = nullptr;
-    frasi_->setText(inRighe(perche));
-    for (VistaProspetto* vista : {effetti_, verifiche_, tiri_, fattori_, fonti_, note_})
-        vista->mostra({.note = {perche.toStdString()}});
-}
-
 desk::ProgettoDetto FinestraNorme::progetto() const {
-    return {project::progettoAperto(), vita_.vivo().dati(),
+    return {project::progettoAperto(), vita().vivo().dati(),
             dossier::data(dossier::fontiDiSistema({}))};
 }
 
 void FinestraNorme::salva(const char* titolo, const TipoFile& tipo,
                           const std::function<void(const std::string&)>& scrivi) {
-    const auto scritto =
-        salvaUscita(richiestaUscita(titolo, project::fileCorrente, "combinazioni", {tipo}),
-                    *porte_.file, porte_.dialogo, [&](const std::string& dove) {
-                        project::controllaUscita(dove, project::fileCorrente);
-                        scrivi(dove);
-                    });
-    if (scritto) nota_->setText(qt(base::conDuePunti(base::traduttore("File scritto"), *scritto)));
+    salvaDelProgetto(richiestaUscita(titolo, project::fileCorrente, "combinazioni", {tipo}),
+                     *porte_.file, porte_.dialogo, nota(), scrivi);
 }
 
 }  // namespace korven::shell

@@ -14,7 +14,6 @@
 #include <utility>
 
 #include "analysis/segment_count.hpp"
-#include "base/colon.hpp"
 #include "base/files.hpp"
 #include "base/filled_text.hpp"
 #include "base/translated_texts.hpp"
@@ -282,7 +281,6 @@ desk::ProgettoDetto FinestraStudio::progetto() const {
 }
 
 void FinestraStudio::scrivi(const std::string& dove) {
-    project::controllaUscita(dove, project::fileCorrente);
     const base::Disco& disco = porte_.file->disco();
     const std::string tipo = QFileInfo(qt(dove)).suffix().toLower().toStdString();
     if (tipo == "csv")
@@ -294,11 +292,10 @@ void FinestraStudio::scrivi(const std::string& dove) {
 }
 
 void FinestraStudio::esporta() {
-    const auto scritto = salvaUscita(
+    salvaDelProgetto(
         richiestaUscita("Salvataggio dello studio", project::fileCorrente, "studio",
                         {tipoPdf(), {"CSV (*.csv)", "csv"}, {"XLSX (*.xlsx)", "xlsx"}}),
-        *porte_.file, porte_.dialogo, [this](const std::string& dove) { scrivi(dove); });
-    if (scritto) nota_->setText(qt(base::conDuePunti(base::traduttore("File scritto"), *scritto)));
+        *porte_.file, porte_.dialogo, *nota_, [this](const std::string& dove) { scrivi(dove); });
 }
 
 }  // namespace korven::shell

@@ -1,10 +1,15 @@
 #include "shell/viewer/output_saving.hpp"
 
+#include <QLabel>
 #include <utility>
 
+#include "base/colon.hpp"
 #include "base/folders/file_names.hpp"
 #include "base/translated_texts.hpp"
+#include "project/output_guard.hpp"
+#include "project/project_data.hpp"
 #include "shell/failure_box.hpp"
+#include "shell/qt_text.hpp"
 
 namespace korven::shell {
 
@@ -27,6 +32,16 @@ std::optional<std::string> salvaUscita(
         if (daProporre) richiesta.nome = daProporre(*percorso);
     }
     return {};
+}
+
+void salvaDelProgetto(FileDaSalvare richiesta, PorteGrafica& porte, base::Dialogo& dialogo,
+                      QLabel& nota, const std::function<void(const std::string&)>& scrivi) {
+    const auto scritto =
+        salvaUscita(std::move(richiesta), porte, dialogo, [&](const std::string& dove) {
+            project::controllaUscita(dove, project::fileCorrente);
+            scrivi(dove);
+        });
+    if (scritto) nota.setText(qt(base::conDuePunti(base::traduttore("File scritto"), *scritto)));
 }
 
 }  // namespace korven::shell

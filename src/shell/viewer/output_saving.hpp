@@ -9,6 +9,8 @@
 #include "base/dialogo.hpp"
 #include "shell/viewer/ports.hpp"
 
+class QLabel;
+
 namespace korven::shell {
 
 /// A save dialog that proposes the name of an output of a project: "muro-allegato.pdf".
@@ -28,5 +30,10 @@ std::optional<std::string> salvaUscita(
     FileDaSalvare richiesta, PorteGrafica& porte, base::Dialogo& dialogo,
     const std::function<void(const std::string& percorso)>& scrivi,
     const std::function<std::string(const std::string& percorso)>& daProporre = {});
+
+/// The same for an output of the open project, whose place it can't take. Where it was written
+/// stands in `nota` then.
+void salvaDelProgetto(FileDaSalvare richiesta, PorteGrafica& porte, base::Dialogo& dialogo,
+                      QLabel& nota, const std::function<void(const std::string& percorso)>& scrivi);
 
 }  // namespace korven::shell

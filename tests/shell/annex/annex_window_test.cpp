@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
 #include <QPushButton>
@@ -16,6 +17,7 @@
 #include "shell/annex/document_view.hpp"
 #include "shell/qt_text.hpp"
 #include "support/annex_ports.hpp"
+#include "support/code_ports.hpp"
 #include "support/desktop_bench.hpp"
 #include "support/dialog_double.hpp"
 #include "support/form_setup.hpp"
@@ -75,12 +77,21 @@ class FinestraAllegatoTest : public ::testing::Test {
     std::atomic<bool> guasto = false;
     std::atomic<bool> trattenuto = false;  // the computation, until it is let go or stopped
     std::vector<std::string> stampati;
+    factors::Catalogo catalogo = test::dueNorme();
+    std::vector<std::string> norme;  // that each annex was made with
+    factors::NaturaCarichi natura;   // of the last one
     QWidget principale;
     VitaProgetto vita;
     std::string guida;
     FinestraAllegato finestra{
         principale, vita,
-        PorteAllegato{dialogo, [this] { return prepara(); }, salvataggio,
+        PorteAllegato{dialogo,
+                      [this](const auto& norma) {
+                          norme.push_back(norma ? norma->norma.nome : "");
+                          natura = norma ? norma->natura : factors::NaturaCarichi();
+                          return prepara();
+                      },
+                      [this] { return catalogo; }, salvataggio,
                       [this](const document::Documento& d) { stampati.push_back(d.titolo); }},
         [this](const std::string& nome) { guida = nome; }};
 };
@@ -94,6 +105,55 @@ TEST_F(FinestraAllegatoTest, MakesTheAnnexWhenItIsOpenedAndNotAgainBeforeTheProj
     finestra.close();
     apri();
     EXPECT_EQ(preparati, 1);
+}
+
+TEST_F(FinestraAllegatoTest, HasAChapterOnTheCodeThatIsChosen) {
+    apri();
+    auto& norma = test::controllo<QComboBox>(finestra, "norma");
+    auto& monte = test::controllo<QCheckBox>(finestra, "monte");
+    ASSERT_EQ(norma.count(), 3) << "none, and two";
+    EXPECT_FALSE(monte.isVisible());
+    norma.setCurrentIndex(2);
+    emit norma.activated(2);
+    aspetta();
+    EXPECT_TRUE(monte.isVisible());
+    monte.click();
+    aspetta();
+    EXPECT_EQ(norme, (std::vector<std::string>{"", "una", "una"}));
+    EXPECT_EQ(natura.monte, factors::Natura::permanente);
+    EXPECT_EQ(natura.testa, factors::Natura::variabile);
+    finestra.close();
+    apri();
+    EXPECT_EQ(norme.size(), 3U) << "it is there already";
+    EXPECT_EQ(norma.currentIndex(), 2);
+}
+
+// The last choice counts, whatever is being computed of the one before.
+TEST_F(FinestraAllegatoTest, FollowsAChoiceThatIsMadeMeanwhile) {
+    trattenuto = true;
+    finestra.mostraDavanti();
+    auto& norma = test::controllo<QComboBox>(finestra, "norma");
+    norma.setCurrentIndex(1);
+    emit norma.activated(1);
+    trattenuto = false;
+    aspetta();
+    EXPECT_EQ(norme, (std::vector<std::string>{"", "due"}));
+    EXPECT_EQ(vista().impaginato().documento->titolo, "Allegato 2");
+    EXPECT_EQ(nota(), "");
+}
+
+TEST_F(FinestraAllegatoTest, LetsGoOfACodeThatItsFileNoLongerHas) {
+    apri();
+    auto& norma = test::controllo<QComboBox>(finestra, "norma");
+    norma.setCurrentIndex(2);
+    emit norma.activated(2);
+    aspetta();
+    finestra.close();
+    catalogo.norme.pop_back();
+    apri();
+    EXPECT_EQ(norma.currentIndex(), 0);
+    EXPECT_EQ(norme.back(), "");
+    EXPECT_EQ(preparati, 3);
 }
 
 TEST_F(FinestraAllegatoTest, SaysThatTheProjectHasChangedAndMakesItAnewOnRequest) {
