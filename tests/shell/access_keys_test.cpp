@@ -116,7 +116,8 @@ TEST_P(TastiDiScelta, DifferWithinTheOtherForms) {
     const auto guida = [](const std::string&) {};
     EXPECT_EQ(tastiDi(FinestraRisultati(principale, vita, guida)), 4U);
     EXPECT_EQ(tastiDi(FinestraSicurezza(principale, vita, guida)), 3U);
-    EXPECT_EQ(tastiDi(FinestraAllegato(principale, vita, test::porteAllegato(dialogo), guida)), 10U);
+    EXPECT_EQ(tastiDi(FinestraAllegato(principale, vita, test::porteAllegato(dialogo), guida)),
+              10U);
     EXPECT_EQ(tastiDi(FinestraConfronto(principale, vita, test::porteConfronto(dialogo), guida)),
               6U);
     EXPECT_EQ(tastiDi(FinestraNorme(principale, vita, test::porteNorme(dialogo), guida)), 9U);
