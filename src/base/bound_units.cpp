@@ -32,10 +32,30 @@ std::string_view unitaIn(std::string_view testo) {
     return trovata == std::end(unita) ? std::string_view() : *trovata;
 }
 
-// The unit behind a blank that follows a number; empty: the blank binds nothing.
-std::string_view unitaDietro(std::string_view testo, std::size_t bianco) {
-    const bool dopoNumero = testo[bianco] == ' ' && bianco > 0 && cifra(testo[bianco - 1]);
-    return dopoNumero ? unitaIn(testo.substr(bianco + 1)) : std::string_view();
+bool numeroIn(std::string_view testo) {
+    if (testo.starts_with('-')) testo.remove_prefix(1);
+    return !testo.empty() && cifra(testo.front());
+}
+
+// How much from here on no line parts from what stands before it, the first blank counted: " kN m"
+// behind a number, "[kN m" of a unit in brackets. 0: a line may end here.
+std::size_t legati(std::string_view testo, std::size_t da) {
+    const std::string_view resto = testo.substr(da);
+    if (resto.starts_with('[')) {
+        const std::string_view u = unitaIn(resto.substr(1));
+        return !u.empty() && resto.substr(1 + u.size()).starts_with(']') ? 1 + u.size() : 0;
+    }
+    if (!resto.starts_with(' ') || da == 0) return 0;
+    const std::string_view u = cifra(testo[da - 1]) ? unitaIn(resto.substr(1)) : std::string_view();
+    return u.empty() ? 0 : 1 + u.size();
+}
+
+// " = " between a symbol and its number.
+std::size_t uguale(std::string_view testo, std::size_t da) {
+    constexpr std::string_view segno = " = ";
+    const std::string_view resto = testo.substr(da);
+    const bool valore = resto.starts_with(segno) && numeroIn(resto.substr(segno.size()));
+    return valore && da > 0 && testo[da - 1] != ' ' ? segno.size() : 0;
 }
 
 }  // namespace
@@ -44,14 +64,14 @@ std::string unitaUnite(std::string_view testo) {
     std::string unito;
     unito.reserve(testo.size() + testo.size() / 8);
     for (std::size_t i = 0; i < testo.size(); ++i) {
-        const std::string_view u = unitaDietro(testo, i);
-        if (u.empty()) {
+        const std::size_t insieme = legati(testo, i);
+        if (insieme == 0) {
             unito += testo[i];
             continue;
         }
-        unito += spazioUnito;
-        for (const char c : u) c == ' ' ? unito.append(spazioUnito) : unito.append(1, c);
-        i += u.size();
+        for (const char c : testo.substr(i, insieme))
+            c == ' ' ? unito.append(spazioUnito) : unito.append(1, c);
+        i += insieme - 1;
     }
     return unito;
 }
@@ -60,9 +80,9 @@ std::vector<std::string_view> paroleUnite(std::string_view riga) {
     std::vector<std::string_view> parole;
     std::size_t inizio = 0;
     for (std::size_t i = 0; i < riga.size(); ++i) {
-        const std::string_view u = unitaDietro(riga, i);
-        i += u.size();
-        if (!u.empty() || riga[i] != ' ') continue;
+        const std::size_t insieme = std::max(legati(riga, i), uguale(riga, i));
+        if (insieme > 0) i += insieme - 1;
+        if (insieme > 0 || riga[i] != ' ') continue;
         parole.push_back(riga.substr(inizio, i - inizio));
         inizio = i + 1;
     }

@@ -39,6 +39,19 @@ std::size_t cheStanno(std::string_view parola, double larghezza, const Carattere
     return fine;
 }
 
+// Where a line of a file is cut, not later than wished: between two signs that are no blanks, since
+// nobody sees on paper whether one stood at the cut.
+std::size_t traLettere(std::string_view riga, std::size_t voluto) {
+    const auto bianco = [&](std::size_t i) { return riga[i] == ' '; };
+    const auto dentroLettera = [&](std::size_t i) { return (riga[i] & 0xC0) == 0x80; };
+    std::size_t fine = voluto;
+    while (fine > 0 && fine < riga.size() && (bianco(fine) || bianco(fine - 1))) {
+        --fine;
+        while (fine > 0 && dentroLettera(fine)) --fine;
+    }
+    return fine > 0 ? fine : voluto;
+}
+
 class Compositore {
  public:
     Compositore(double larghezza, const Carattere& carattere, const MisuraCaratteri& misura)
@@ -116,6 +129,7 @@ std::vector<std::string> inRigheFisse(std::string_view testo, double larghezza,
                 if (usata > (prima ? larghezza : seguito) + gioco && fine > 0) break;
                 fine += byte;
             }
+            fine = traLettere(resto, fine);
             righe.push_back(
                 (prima ? std::string() : std::string(rientro)).append(resto.substr(0, fine)));
             resto.remove_prefix(fine);

@@ -16,7 +16,7 @@ namespace korven::document {
                                                const MisuraCaratteri& misura);
 
 /// The text with its line ends and blanks as they are; what is too long for a line goes on in the
-/// next one, set in.
+/// next one, set in, cut beside no blank.
 [[nodiscard]] std::vector<std::string> inRigheFisse(std::string_view testo, double larghezza,
                                                     const Carattere& carattere,
                                                     const MisuraCaratteri& misura);

@@ -216,8 +216,12 @@ void aggiungi(const Tavola& tavola, const Formato& formato, const MisuraCaratter
     const Prospetto& prospetto = tavola.prospetto;
     if (prospetto.righe.empty() || prospetto.colonne.empty()) {
         if (!prospetto.titolo.empty()) {
-            aggiungi(Paragrafo{prospetto.titolo, Stile::rilievo}, formato, misura, strisce);
-            strisce.back().legata = !prospetto.note.empty();
+            Striscia titolo{.altezza = interlinea(carattereTitolo), .prima = 9, .dopo = 2};
+            titolo.contenuto.scritte.push_back(
+                scritta(prospetto.titolo, 0, 0, carattereTitolo, misura, Tinta::titolo));
+            titolo.legata = !prospetto.note.empty();
+            titolo.costo = costoTavola;
+            strisce.push_back(std::move(titolo));
         }
     } else {
         const TavolaDisposta disposta = disponi(prospetto, formato.larghezzaTesto(), misura);

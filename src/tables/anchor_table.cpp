@@ -92,7 +92,7 @@ Prospetto prospetto(const PareteViva& parete, const Margine* margine, bool inCor
         riga.push_back(tiro(massimi, j, maiInOpera));
         riga.push_back(relazione(margine, inCorso, j));
     }
-    if (p.righe.empty()) p.note.push_back(traduttore("Il progetto non ha tiranti."));
+    if (p.righe.empty()) p.note.push_back(traduttore("Il progetto non ha né tiranti né puntoni."));
     if (!parete.sta()) p.note.push_back(perche(parete, parete.fasiInEquilibrio() + 1));
     if (margine != nullptr && !p.righe.empty())
         if (std::string senza = safety::paroleRelazione(*margine); !senza.empty())

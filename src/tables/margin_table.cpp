@@ -140,7 +140,7 @@ Prospetto prospettoMargine(const Margine& margine) {
             colonnaParole("Al limite [m]", "Profondità in cui la passiva è al limite"),
             colonna(unita::spostamentoFine, "Piede",
                     "Spostamento del piede, positivo verso lo scavo"),
-            colonnaParole("Meccanismo con F", "Che cosa accade con la resistenza divisa per F")}};
+            colonnaParole("Moto con F", "Che cosa accade con la resistenza divisa per F")}};
     for (const MargineFase& fase : margine.fasi) p.righe.push_back(rigaMargine(fase, margine));
     for (std::string nota : {notaPendenza(margine), notaOltre(margine)})
         if (!nota.empty()) p.note.push_back(std::move(nota));

@@ -20,7 +20,8 @@ TEST(UnitaUnite, BindsANumberToItsUnitAndThePartsOfAUnitToEachOther) {
     EXPECT_EQ(unite("usata: 80.1 %, (15.00 > 12.50 kN/m²)"),
               "usata: 80.1_%, (15.00 > 12.50_kN/m²)");
     EXPECT_EQ(unite("12.3 mm"), "12.3_mm");
-    EXPECT_EQ(unite("k = 2843.8 kN/m/m, p = 80 kN/m"), "k = 2843.8_kN/m/m, p = 80_kN/m");
+    EXPECT_EQ(unite("Momento [kN m/m]"), "Momento [kN_m/m]");
+    EXPECT_EQ(unite("k = 2843.8 kN/m/m, p = P + 1 kN/m"), "k = 2843.8_kN/m/m, p = P + 1_kN/m");
 }
 
 TEST(UnitaUnite, LeavesWordsThatBeginLikeAUnit) {
@@ -40,6 +41,9 @@ TEST(ParoleUnite, PartsALineAtTheBlanksThatBindNothing) {
     EXPECT_EQ(paroleUnite("di 0.74 kN m/m, 20 % e 3 mesi"),
               (Parole{"di", "0.74 kN m/m,", "20 %", "e", "3", "mesi"}));
     EXPECT_EQ(paroleUnite("a  b "), (Parole{"a", "", "b", ""}));
+    EXPECT_EQ(paroleUnite("(fase 2, z = 8.10 m)"), (Parole{"(fase", "2,", "z = 8.10 m)"}));
+    EXPECT_EQ(paroleUnite("momento [kN m/m]"), (Parole{"momento", "[kN m/m]"}));
+    EXPECT_EQ(paroleUnite("x = -1, y = a"), (Parole{"x = -1,", "y", "=", "a"}));
     EXPECT_EQ(paroleUnite("4 m"), Parole{"4 m"});
     EXPECT_EQ(paroleUnite(""), Parole{""});
 }

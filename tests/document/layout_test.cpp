@@ -336,8 +336,8 @@ TEST(Impagina, ShowsTitleAndNotesOfAnEmptyTable) {
     tables::Prospetto p;
     p.titolo = "Tiranti";
     p.colonne = {{"Nome", "", "", false}};
-    p.note = {"Il progetto non ha tiranti."};
-    EXPECT_EQ(testi(posto({Tavola{p}}), 0), "Tiranti|Il progetto non ha tiranti.");
+    p.note = {"Il progetto non ha né tiranti né puntoni."};
+    EXPECT_EQ(testi(posto({Tavola{p}}), 0), "Tiranti|Il progetto non ha né tiranti né puntoni.");
 }
 
 TEST(Impagina, MakesADrawingSmallerThatIsLargerThanThePage) {

@@ -45,6 +45,13 @@ TEST(InRigheFisse, KeepsBlanksAndSetsInWhatGoesOn) {
               (Righe{"0123456789", "    abcdef", "    gh"}));
 }
 
+TEST(InRigheFisse, CutsBesideNoBlank) {
+    EXPECT_EQ(inRigheFisse("012345678 abcd", 10, {}, uno), (Righe{"01234567", "    8 abcd"}));
+    EXPECT_EQ(inRigheFisse("0123456789 abc", 10, {}, uno), (Righe{"012345678", "    9 abc"}));
+    EXPECT_EQ(inRigheFisse("01234567\u00e9 b", 9, {}, uno), (Righe{"01234567", "    \u00e9 b"}));
+    EXPECT_EQ(inRigheFisse("a           b", 5, {}, uno).front(), "a    ") << "nowhere else";
+}
+
 TEST(Accorciato, EndsWithDotsWhatDoesNotFit) {
     EXPECT_EQ(accorciato("muro.kvd", 8, {}, uno), "muro.kvd");
     EXPECT_EQ(accorciato("perché no", 7, {}, uno), "perché…");

@@ -79,7 +79,7 @@ TEST(ProspettoTiranti, OfAProjectWithoutAnchorsSaysSo) {
     const Prospetto p = prospettoTiranti(live::calcola(test::muroNudo()), nullptr);
     EXPECT_TRUE(p.righe.empty());
     ASSERT_FALSE(p.note.empty());
-    EXPECT_EQ(p.note[0], "Il progetto non ha tiranti.");
+    EXPECT_EQ(p.note[0], "Il progetto non ha né tiranti né puntoni.");
 }
 
 }  // namespace

@@ -37,7 +37,7 @@ TEST(ProspettoMargine, HasAStageInEachRowWithTheWordsOfTheMargin) {
         EXPECT_EQ(riga[posto(p, "Al limite [m]")].testo,
                   safety::testoTratti(fase.passiva.alLimite));
         EXPECT_EQ(riga[posto(p, "Piede")].numero, fase.piede.spostamento * 1000 + 0.0);
-        EXPECT_EQ(riga[posto(p, "Meccanismo con F")].testo, parole(fase.riduzione, m.paratia));
+        EXPECT_EQ(riga[posto(p, "Moto con F")].testo, parole(fase.riduzione, m.paratia));
         EXPECT_FALSE(riga[posto(p, "F")].peso);  // above 1.5
     }
 }
@@ -82,7 +82,7 @@ TEST(ProspettoMargine, OfAFactorBeyondTheRangeHasNoNumberButAFullBar) {
 TEST(ProspettoMargine, OfAMechanismShowsWhatItIsShortOf) {
     const Margine m = margine(std::string(KORVEN_WALLS) + "/meccanismo.kvd");
     const Prospetto p = prospettoMargine(m);
-    EXPECT_EQ(p.righe[0][posto(p, "Meccanismo con F")].testo, "nessun equilibrio");
+    EXPECT_EQ(p.righe[0][posto(p, "Moto con F")].testo, "nessun equilibrio");
     EXPECT_EQ(p.righe[0][posto(p, "Piede")].testo, "-");
     EXPECT_LT(p.righe[0][posto(p, "F")].numero.value(), 1);
     EXPECT_EQ(verdetto(m).find("La paratia è un meccanismo nella fase 1"), 0u) << verdetto(m);

@@ -216,7 +216,8 @@ TEST(Fogli, HoldAHundredLayersAndAWallWithoutASection) {
     EXPECT_FALSE(foglio(cartella, "nodi").prospetto.righe.empty());
     EXPECT_EQ(foglio(cartella, "verifiche").prospetto.note[0],
               "Nessuna verifica: la sezione non è definita.");
-    EXPECT_EQ(foglio(cartella, "tiranti").prospetto.note[0], "Il progetto non ha tiranti.");
+    EXPECT_EQ(foglio(cartella, "tiranti").prospetto.note[0],
+              "Il progetto non ha né tiranti né puntoni.");
 }
 
 }  // namespace

@@ -29,7 +29,7 @@ std::string perche(const MargineFase& fase, double paratia) {
 std::string tabellaFasi(const Margine& margine) {
     TabellaTesto tabella(
         {traduttore("Fase"), titolo("Scavo", unita::metri), "F", traduttore("Passiva [%]"),
-         traduttore("Al limite [m]"), traduttore("Meccanismo con F")},
+         traduttore("Al limite [m]"), traduttore("Moto con F")},
         true);
     for (const MargineFase& fase : margine.fasi)
         tabella.riga({std::to_string(fase.fase), numeroMostrato(fase.scavo, 2),

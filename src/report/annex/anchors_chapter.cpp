@@ -6,6 +6,7 @@
 #include "project/field_table.hpp"
 #include "report/annex/chapters.hpp"
 #include "report/annex/columns.hpp"
+#include "report/annex/greek_letters.hpp"
 #include "report/annex/table_pieces.hpp"
 #include "safety/margin_words.hpp"
 #include "tables/check_table.hpp"
@@ -142,7 +143,7 @@ Prospetto perFase(const Fascicolo& f) {
 void capitoloTiranti(const Contesto& contesto, Blocchi& blocchi) {
     const Fascicolo& f = *contesto.fascicolo;
     if (f.tiranti.empty()) {
-        paragrafo(traduttore("Il progetto non ha tiranti."), blocchi);
+        paragrafo(traduttore("Il progetto non ha né tiranti né puntoni."), blocchi);
         return;
     }
     const Conto quanti = conto(f);
@@ -154,8 +155,9 @@ void capitoloTiranti(const Contesto& contesto, Blocchi& blocchi) {
                          "alla posa; un tirante di sola trazione non scende sotto 0."),
               blocchi);
     if (quanti.tiranti > 0)
-        paragrafo(traduttore("La forza nell'asse di un tirante con interasse i e inclinazione a "
-                             "sull'orizzontale è T i / cos a."),
+        paragrafo(conLettereGreche(
+                      traduttore("La forza nell'asse di un tirante con interasse i e inclinazione "
+                                 "alfa sull'orizzontale è T i / cos alfa.")),
                   blocchi);
     if (quanti.puntoni > 0)
         paragrafo(traduttore("Un puntone è orizzontale: a interasse i porta N = T i, di "

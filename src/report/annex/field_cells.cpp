@@ -17,6 +17,7 @@
 #include "project/code_words.hpp"
 #include "project/codes.hpp"
 #include "project/units_per_metre.hpp"
+#include "report/annex/greek_letters.hpp"
 
 namespace korven::report {
 
@@ -193,7 +194,7 @@ Uso uso(const Fascicolo& f, const Campo& campo) {
         return r.membro == campo.membro && r.vale(f);
     });
     if (regola == std::end(regole)) return {};
-    std::string nota = traduttore(regola->nota);
+    std::string nota = conLettereGreche(traduttore(regola->nota));
     if (!regola->letto) nota = base::riempito(traduttore("fuori dal calcolo (%1)"), {nota});
     return {.letto = regola->letto, .nota = std::move(nota)};
 }

@@ -10,6 +10,7 @@
 #include "project/units.hpp"
 #include "report/annex/chapters.hpp"
 #include "report/annex/columns.hpp"
+#include "report/annex/greek_letters.hpp"
 #include "report/annex/model_tables.hpp"
 #include "report/annex/sources.hpp"
 #include "report/annex/table_pieces.hpp"
@@ -79,7 +80,7 @@ const Ipotesi ipotesi[] = {
      fonti::bowles,
      ha<bowles, ks>,
      {analysis::fattoreBowles}},
-    {"Modulo ks: Lancellotta", "ks = m (k0 sigma)^½, con m scritto nel progetto e sigma in t/m².",
+    {"Modulo ks: Lancellotta", "ks = m sqrt(k0 sigma), con m scritto nel progetto e sigma in t/m².",
      fonti::lancellotta, ha<lancellotta, ks>},
     {"Modulo ks: costante", "Il ks scritto per ogni strato.", fonti::winkler, ha<costante, ks>},
     {"Modulo ks: lineare",
@@ -142,7 +143,8 @@ tables::Prospetto prospettoIpotesi(const DatiProgetto& dati) {
         std::vector<std::string> valori;
         for (const double valore : i.valori) valori.push_back(base::testoNumero(valore));
         p.righe.push_back({parola(traduttore(i.argomento)),
-                           parola(base::riempito(traduttore(i.testo), valori)), parola(i.fonte)});
+                           parola(conLettereGreche(base::riempito(traduttore(i.testo), valori))),
+                           parola(conLettereGreche(i.fonte))});
     }
     return p;
 }

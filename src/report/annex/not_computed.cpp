@@ -1,5 +1,6 @@
 #include "base/translated_texts.hpp"
 #include "report/annex/columns.hpp"
+#include "report/annex/greek_letters.hpp"
 #include "report/annex/model_tables.hpp"
 #include "report/annex/sources.hpp"
 
@@ -61,8 +62,8 @@ tables::Prospetto prospettoEsclusi() {
         .titolo = traduttore("Che cosa non si calcola"),
         .colonne = {colonna("Che cosa manca"), colonna("Che cosa ne viene"), colonna("Fonte")}};
     for (const Escluso& e : esclusi)
-        p.righe.push_back(
-            {parola(traduttore(e.cosa)), parola(traduttore(e.lato)), parola(e.fonte)});
+        p.righe.push_back({parola(conLettereGreche(traduttore(e.cosa))),
+                           parola(conLettereGreche(traduttore(e.lato))), parola(e.fonte)});
     return p;
 }
 

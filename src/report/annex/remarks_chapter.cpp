@@ -43,8 +43,8 @@ document::Tavola tavola(const dossier::Fascicolo& f, review::Peso peso) {
     for (const review::Osservazione& o : f.osservazioni) {
         ++numero;
         if (o.peso == peso)
-            p.righe.push_back(
-                {tables::cella(numero), parola(testo(f, o)), parola(std::string(o.codice))});
+            p.righe.push_back({tables::cella(numero), parola(base::conMaiuscola(testo(f, o))),
+                               parola(std::string(o.codice))});
     }
     return {std::move(p)};
 }

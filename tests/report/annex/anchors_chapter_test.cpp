@@ -45,12 +45,12 @@ TEST(CapitoloTiranti, CallsAStrutAStrutWhichHasNoInclination) {
     const auto b = tiranti(contesto(dati));
     EXPECT_EQ(tavola(b, "Puntoni").righe[0][0].testo, "Puntone 1");
     EXPECT_EQ(tavola(b, "Forza dei puntoni in ogni fase").colonne[1].titolo, "Puntone 1");
-    EXPECT_EQ(test::testo(b).find("cos a"), std::string::npos);
+    EXPECT_EQ(test::testo(b).find("cos α"), std::string::npos);
     EXPECT_NE(test::testo(b).find("N = T i"), std::string::npos);
     test::aggiungiTirante(dati, 3, 400);
     const auto insieme = tiranti(contesto(dati));
     EXPECT_EQ(tavola(insieme, "Tiranti e puntoni").righe[1][0].testo, "Tirante 2");
-    EXPECT_NE(test::testo(insieme).find("cos a"), std::string::npos);
+    EXPECT_NE(test::testo(insieme).find("cos α"), std::string::npos);
 }
 
 TEST(CapitoloTiranti, SaysThatThereAreNone) {
@@ -59,7 +59,7 @@ TEST(CapitoloTiranti, SaysThatThereAreNone) {
     dati.tirantiFase[2] = 0;
     const auto b = tiranti(contesto(dati));
     ASSERT_EQ(b.size(), 1U);
-    EXPECT_EQ(test::testo(b), "Il progetto non ha tiranti.\n");
+    EXPECT_EQ(test::testo(b), "Il progetto non ha né tiranti né puntoni.\n");
 }
 
 TEST(CapitoloTiranti, TellsAnAnchorThatNoStagePutsInPlace) {

@@ -85,7 +85,7 @@ TEST(UsoDelCampo, SpeaksOfAnInclinationOnlyWhereAnAnchorMayHaveOne) {
     f.scritti = f.parete.dati = test::progettoSemplice();
     ASSERT_EQ(f.parete.dati.nTiranti, 1);
     const auto nota = [&] { return uso(f, project::campo(&DatiProgetto::rigTirante)).nota; };
-    EXPECT_NE(nota().find("cos² alfa"), std::string::npos);
+    EXPECT_NE(nota().find("cos² α"), std::string::npos);
     f.parete.dati.tipoTirante[1] = project::valore(project::TipoTirante::trazioneCompressione);
     EXPECT_EQ(nota(), "orizzontale e per metro di paratia");
 }

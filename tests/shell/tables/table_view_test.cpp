@@ -199,7 +199,7 @@ Prospetto parole() {
     const std::string lunga =
         "ruota attorno alla profondità di 6.12 m, il piede verso lo scavo, e ancora altre parole";
     return {.titolo = "Margine",
-            .colonne = {{.titolo = "Fase"}, {.titolo = "Meccanismo con F", .numerica = false}},
+            .colonne = {{.titolo = "Fase"}, {.titolo = "Moto con F", .numerica = false}},
             .righe = {{tables::cella(1), tables::parola("ferma")},
                       {tables::cella(2), tables::parola(lunga)}}};
 }
