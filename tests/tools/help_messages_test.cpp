@@ -4,6 +4,7 @@
 
 #include "base/file_error.hpp"
 #include "tools/help_source.hpp"
+#include "tools/refused_source.hpp"
 
 namespace korven::tools {
 namespace {
@@ -14,25 +15,14 @@ const std::vector<TextRecord> records = {
 const HelpStructure onePage = {{"c", "p", 0, {}, {{"g", {}, 3}}}};
 
 long faultLine(const std::string& source) {
-    try {
-        static_cast<void>(readHelpMessages("m.txt", source));
-    } catch (const base::ErroreFile& error) {
-        EXPECT_EQ(error.percorso(), "m.txt");
-        return error.riga();
-    }
-    ADD_FAILURE() << "accepted: " << source;
-    return -1;
+    return refusal("m.txt", source, readHelpMessages).first;
 }
 
 long fillingFault(const std::string& source, const HelpStructure& structure = onePage) {
-    try {
-        static_cast<void>(
-            withMessages("m.txt", structure, readHelpMessages("m.txt", source), records, 3));
-    } catch (const base::ErroreFile& error) {
-        return error.riga();
-    }
-    ADD_FAILURE() << "accepted: " << source;
-    return -1;
+    const auto fill = [&structure](const std::string& file, const std::string& text) {
+        return withMessages(file, structure, readHelpMessages(file, text), records, 3);
+    };
+    return refusal("m.txt", source, fill).first;
 }
 
 // The body of the one page in French, its messages being those of the two records.

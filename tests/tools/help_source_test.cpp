@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "base/file_error.hpp"
+#include "tools/refused_source.hpp"
 
 namespace korven::tools {
 namespace {
@@ -21,13 +21,9 @@ std::string html(const std::string& body, const HelpStructure& structure = onePa
 
 std::pair<long, std::string> fault(const std::string& source,
                                    const HelpStructure& structure = onePage) {
-    try {
-        static_cast<void>(readHelpSource("g.txt", source, structure));
-    } catch (const base::ErroreFile& error) {
-        return {error.riga(), error.atteso()};
-    }
-    ADD_FAILURE() << "accepted: " << source;
-    return {};
+    return refusal("g.txt", source, [&structure](const auto& file, const auto& text) {
+        return readHelpSource(file, text, structure);
+    });
 }
 
 // The body begins in line 6.
