@@ -73,10 +73,13 @@ void segnaFallite(const std::vector<studies::Condizione>& condizioni, TabellaSer
     const std::size_t quanti = tabella.nomi.size();
     for (std::size_t da = 0; da < tabella.valori.size(); da += quanti) {
         const auto riga = std::span(tabella.valori).subspan(da, quanti);
-        const bool sta = static_cast<safety::Causa>(riga[causa]) == safety::Causa::eseguito;
+        const auto sua = static_cast<safety::Causa>(riga[causa]);
         const bool una =
             std::ranges::any_of(condizioni, [riga](const auto& c) { return c.vale(riga); });
-        tabella.fallite.push_back(!sta || una);
+        const bool fallita = sua != safety::Causa::eseguito || una;
+        tabella.fallite.push_back(sua == safety::Causa::rifiutato ? nessunaParete
+                                  : fallita                       ? 1
+                                                                  : 0);
     }
 }
 

@@ -22,6 +22,9 @@ struct RichiestaSerie {
     int fili = 0;                         ///< threads; 0: all processors
 };
 
+/// Of a row that is no wall: it neither stands nor fails.
+inline constexpr signed char nessunaParete = -1;
+
 /// A study as a table: first the fields, then what it tells of each variant.
 struct TabellaSerie {
     std::vector<std::string> nomi{};  ///< of the columns
@@ -29,9 +32,9 @@ struct TabellaSerie {
     std::vector<std::vector<std::string_view>> parole{};
     std::uint64_t righe = 0;
     std::vector<double> valori{};  ///< row by row, NaN for none
-    /// Of each row, where it was asked what makes it fail: whether it does not stand, or meets one
-    /// of the conditions.
-    std::vector<char> fallite{};
+    /// Of each row, where it was asked what makes it fail: 1 for a wall that does not stand, or
+    /// meets one of the conditions, else 0; `nessunaParete` for data that were refused.
+    std::vector<signed char> fallite{};
 };
 
 /// Computes the variants of a plan.

@@ -51,8 +51,8 @@ void legaSerie(py::module_& modulo) {
             [&] { return serie(dati, piano, richiesta, [&] { return interruzione.chiesta(); }); });
         interruzione.solleva();
         const auto colonne = static_cast<py::ssize_t>(tabella.nomi.size());
-        const py::array_t<char> fallite(static_cast<py::ssize_t>(tabella.fallite.size()),
-                                        tabella.fallite.data());
+        const py::array_t<signed char> fallite(static_cast<py::ssize_t>(tabella.fallite.size()),
+                                               tabella.fallite.data());
         return py::make_tuple(
             std::move(tabella.nomi), std::move(tabella.parole),
             inTabella(std::move(tabella.valori), static_cast<py::ssize_t>(tabella.righe), colonne),

@@ -69,11 +69,24 @@ def test_what_makes_a_variant_fail_is_a_column_of_its_own(muro):
                            fallisce=["spostamento_massimo_m>0.02", "riduzione < 1.1"])
     cade = righe["causa"] != "eseguito"
     spostata = righe["spostamento_massimo_m"] > 0.02
-    assert list(righe["fallita"]) == list(cade | spostata | (righe["riduzione"] < 1.1))
+    pareti = righe["causa"] != "rifiutato"
+    attese = cade | spostata | (righe["riduzione"] < 1.1)
+    assert list(righe["fallita"][pareti]) == list(attese[pareti])
     assert (spostata & ~cade).any() and not righe["fallita"].all()
     assert "fallita" not in korven32.serie(muro, piano)
     with pytest.raises(korven32.ErroreCampo, match="causa: è una parola, non un numero"):
         korven32.serie(muro, piano, fallisce=["causa>1"])
+
+
+def test_a_refused_variant_neither_stands_nor_fails(muro):
+    """Its data are no wall: it has no part in the share of those that fail."""
+    righe = korven32.serie(muro, caso(60), fallisce=["spostamento_massimo_m>0.02"])
+    rifiutate = righe["causa"] == "rifiutato"
+    assert 0 < rifiutate.sum() < 60
+    assert list(righe["fallita"].isna()) == list(rifiutate)
+    pareti = righe[~rifiutate]
+    assert righe["fallita"].mean() == pareti["fallita"].sum() / len(pareti)
+    assert len(righe[righe["fallita"]]) == pareti["fallita"].sum()
 
 
 def test_a_row_is_the_equilibrium_of_its_project(muro):

@@ -48,8 +48,10 @@ def serie(progetto: Progetto, tabella: pd.DataFrame, *, nseg: Optional[int] = No
     :param colonne: names of results, as `korven32c serie --colonne`; without it all that
         `sicurezza` allows
     :param fallisce: what makes a variant fail that stands, as `korven32c serie --fallisce`:
-        ["spostamento_massimo_m>0.03"]; the table has a last column "fallita" then: True for a
-        variant that does not stand or meets one of them
+        ["spostamento_massimo_m>0.03"]; the table has a last column "fallita" then, of the type
+        "boolean" of pandas: True for a variant that does not stand or meets one of them, <NA> for
+        one that was refused ("motivo" tells why), which is no wall. So its mean is the share of
+        the walls that fail, as the summary of the command has it
     :param fili: threads; without it one a processor
     :return: a row a variant, with the index of `tabella`: first the fields, with the values that
         the file of the variant would keep, then the results, named as in the file of `serie`
@@ -67,5 +69,5 @@ def serie(progetto: Progetto, tabella: pd.DataFrame, *, nseg: Optional[int] = No
     nomi, parole, valori, fallite = _motore.serie(progetto._dati, _piano(tabella), richiesta)
     righe = {nome: _colonna(valori[:, j], parole[j]) for j, nome in enumerate(nomi)}
     if fallisce:
-        righe["fallita"] = fallite.astype(bool)
+        righe["fallita"] = pd.arrays.BooleanArray(fallite > 0, fallite < 0)
     return pd.DataFrame(righe, index=tabella.index)
