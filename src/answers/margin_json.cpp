@@ -112,20 +112,6 @@ Json ordineMaglia(const Margine& margine) {
             {"tiro", quota(e.tiro.ordine)}};
 }
 
-const char* parola(results::Verifica verifica) {
-    switch (verifica) {
-        case results::Verifica::momentoPositivo:
-            return "momento_positivo";
-        case results::Verifica::momentoNegativo:
-            return "momento_negativo";
-        case results::Verifica::bielle:
-            return "bielle";
-        case results::Verifica::armatura:
-            break;
-    }
-    return "armatura";
-}
-
 Json usiMaglia(const Margine& margine) {
     if (!margine.maglia) return nullptr;
     Json tutti = Json::array();
@@ -135,10 +121,12 @@ Json usiMaglia(const Margine& margine) {
             usi.push_back(uso ? quota(uso->uso()) : Json(nullptr));
             verificata.push_back(uso ? Json(!uso->fallita) : Json(nullptr));
         }
+        const auto suo = giudizio(margine, u.cosa);
         tutti.push_back({{"verifica", parola(u.cosa)},
                          {"uso", usi},
                          {"verificata", verificata},
-                         {"limite", quota(u.limite())}});
+                         {"limite", quota(u.limite())},
+                         {"esito", suo ? Json(safety::parola(*suo)) : Json(nullptr)}});
     }
     return tutti;
 }
@@ -165,6 +153,20 @@ const char* esitoLunghezza(EsitoLunghezza esito) {
 }
 
 }  // namespace
+
+const char* parola(results::Verifica verifica) {
+    switch (verifica) {
+        case results::Verifica::momentoPositivo:
+            return "momento_positivo";
+        case results::Verifica::momentoNegativo:
+            return "momento_negativo";
+        case results::Verifica::bielle:
+            return "bielle";
+        case results::Verifica::armatura:
+            break;
+    }
+    return "armatura";
+}
 
 std::string_view parolaEsito(const MargineFase& fase) {
     return fase.esito ? safety::parola(*fase.esito) : std::string_view();

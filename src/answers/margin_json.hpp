@@ -11,6 +11,9 @@ namespace korven::answers {
 /// "nessun_numero"; empty for a stage after one without equilibrium.
 [[nodiscard]] std::string_view parolaEsito(const safety::MargineFase& fase);
 
+/// "momento_positivo", "momento_negativo", "bielle", "armatura".
+[[nodiscard]] const char* parola(results::Verifica verifica);
+
 /// How safe a wall is: docs/json.md, `sicurezza`.
 [[nodiscard]] nlohmann::ordered_json jsonMargine(const safety::Margine& margine);
 

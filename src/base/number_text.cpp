@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <limits>
 #include <system_error>
 #include <utility>
 
@@ -156,6 +157,14 @@ std::string tutteLeCifre(double valore) {
     if (!std::isfinite(valore)) return {};
     char testo[32];
     return {testo, std::to_chars(testo, testo + sizeof testo, valore + 0.0).ptr};
+}
+
+std::string quindiciCifre(double valore) {
+    if (!std::isfinite(valore)) return {};
+    char testo[32];
+    return {testo, std::to_chars(testo, testo + sizeof testo, valore + 0.0,
+                                 std::chars_format::general, std::numeric_limits<double>::digits10)
+                       .ptr};
 }
 
 }  // namespace korven::base

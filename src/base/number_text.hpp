@@ -54,4 +54,8 @@ namespace korven::base {
 /// where that is shorter, never "-0". Empty for one that is not finite.
 [[nodiscard]] std::string tutteLeCifre(double valore);
 
+/// At most fifteen significant digits, for files that people open as well: what a product such as
+/// 27 x 0.12 leaves in the last place of a double is not there. Empty for no number.
+[[nodiscard]] std::string quindiciCifre(double valore);
+
 }  // namespace korven::base

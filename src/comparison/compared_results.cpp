@@ -65,6 +65,7 @@ std::optional<double> RisultatoConfrontato::differenza() const {
 std::optional<double> RisultatoConfrontato::quota() const {
     const auto quanto = differenza();
     if (!quanto || !mostraQualcosa(prima)) return {};
+    if (*prima.numero * *dopo.numero < 0) return {};
     return *quanto / *prima.numero;
 }
 

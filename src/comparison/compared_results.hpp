@@ -25,8 +25,8 @@ struct RisultatoConfrontato {
     [[nodiscard]] bool cambia() const { return prima.testo != dopo.testo; }
     /// The second less the first, in the shown unit.
     [[nodiscard]] std::optional<double> differenza() const;
-    /// The same over the first, as a share of 1: above 0 where a number grows in size, below -1
-    /// where it changes its sign; nothing where the first is shown as 0.
+    /// By which share of the first, of 1, the size grows, whatever the sign of both; nothing where
+    /// the first is shown as 0 or the two have different signs.
     [[nodiscard]] std::optional<double> quota() const;
 };
 

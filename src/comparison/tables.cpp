@@ -55,7 +55,9 @@ std::vector<tables::Colonna> colonneRisultati() {
             tables::colonna(unita::nessuna, "Prima", "Valore del primo"),
             tables::colonna(unita::nessuna, "Dopo", "Valore del secondo"),
             tables::colonna(unita::nessuna, "Differenza", "Il secondo meno il primo"),
-            tables::colonna(unita::percento, "Differenza", "La stessa, rispetto al primo")};
+            tables::colonna(unita::percento, "In valore assoluto",
+                            "Di quanto cresce il valore assoluto rispetto al primo; nulla dove il "
+                            "segno cambia")};
 }
 
 // Why one of the two has no number where the other has one, each reason once.
@@ -90,7 +92,8 @@ void notaDifferenze(Prospetto& p) {
     if (!p.righe.empty())
         p.note.push_back(traduttore(
             "Le differenze sono dei valori non arrotondati: l'ultima cifra può non essere "
-            "quella che danno i valori mostrati."));
+            "quella che danno i valori mostrati. La percentuale è del valore assoluto: + dove "
+            "cresce, anche di un numero negativo; un trattino dove il segno cambia."));
 }
 
 Cella valore(const std::string& detto, bool ceLaRiga) {

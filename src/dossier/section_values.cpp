@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "project/units.hpp"
 #include "results/structure_checks.hpp"
 #include "structure/bending_resistance.hpp"
 #include "structure/material_laws.hpp"
@@ -164,6 +165,12 @@ std::optional<ValoriTaglio> valoriTaglio(const project::DatiProgetto& dati,
     v.usoBielle = uso(v.metro.Vsd, v.metro.Vrd2);
     v.usoArmatura = uso(v.metro.Vsd, v.metro.Vrd3);
     return v;
+}
+
+std::optional<double> taglioDiProgetto(const live::PareteViva& parete) {
+    const equilibrium::Estremo& T = parete.estremi.taglio;
+    if (!parete.sta() || T.fase == 0) return std::nullopt;
+    return structure::fsAzioniSezione * std::fabs(project::inKilonewton(T.valore));
 }
 
 }  // namespace korven::dossier

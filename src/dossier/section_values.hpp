@@ -92,4 +92,9 @@ struct ValoriTaglio {
 [[nodiscard]] std::optional<ValoriTaglio> valoriTaglio(const project::DatiProgetto& dati,
                                                        const live::ControlliSezione& controlli);
 
+/// The largest shear of all stages in size, times the factor of actions [kN/m]: what a section
+/// without a check of shear is to be checked for elsewhere.
+/// @return nothing of a wall that does not stand or has no shear
+[[nodiscard]] std::optional<double> taglioDiProgetto(const live::PareteViva& parete);
+
 }  // namespace korven::dossier

@@ -40,6 +40,10 @@ void controlloStatica(const project::DatiProgetto& dati, const safety::Margine& 
 void controlloVerifiche(const project::DatiProgetto& dati, const safety::Margine& margine,
                         ElencoOsservazioni& elenco);
 
+/// The checks that fail by the numbers of the equilibrium and not by the report's, and the verdicts
+/// that a finer mesh changes.
+void controlloGiudizi(const safety::Margine& margine, ElencoOsservazioni& elenco);
+
 /// A fixed toe: what the report shows there, and how far it gives.
 void controlloIncastro(const project::DatiProgetto& dati, const safety::Margine& margine,
                        ElencoOsservazioni& elenco);

@@ -23,6 +23,7 @@ Osservazioni esaminaRisultati(const DatiProgetto& dati, const safety::Margine& m
     controlloEquilibrio(dati, margine, elenco);
     controlloMargine(dati, margine, elenco);
     controlloVerifiche(dati, margine, elenco);
+    controlloGiudizi(margine, elenco);
     controlloTiri(dati, margine, elenco);
     controlloStatica(dati, margine, elenco);
     controlloIncastro(dati, margine, elenco);

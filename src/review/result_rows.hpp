@@ -47,6 +47,12 @@ inline constexpr VoceOsservazione vociRisultati[] = {
      "taglio di progetto %1 kN/m (fase %2, a %3 m), %4 %5 kN/m%6: %7, o ridurre il taglio con "
      "tiranti, scavo e carichi"},
 
+    {"verifica-fallita-in-equilibrio", Peso::pericolo, "osservazioni_risultati",
+     "%1: con i numeri dell'equilibrio lo sfruttamento è %2 %%3: la sezione non è verificata, "
+     "rinforzarla o ridurre le azioni"},
+    // Of a mesh that is too coarse for its verdict: worded with the margin.
+    {"verdetto-con-la-maglia", Peso::pericolo, "osservazioni_risultati", ""},
+
     {"tiro-impreciso", Peso::daVedere, "osservazioni_risultati",
      "la relazione dà il tiro %1 kN/m, quello vero è %2 kN/m (fase %3): lo calcola da spostamenti "
      "con sette decimali, che bastano fino a una rigidezza di circa %4 kN/m/m"},

@@ -103,6 +103,8 @@ Margine margine(const DatiProgetto& dati, int nSeg, analysis::OsservatoreCorsa& 
         m.corsa = relazione.fine;
     }
     affiancaRelazione(m);
+    if (m.sta() && m.haNumeri())
+        m.verifiche = verificheSezione(dati, estremi, m.relazione ? &*m.relazione : nullptr);
     return m;
 }
 

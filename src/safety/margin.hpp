@@ -6,6 +6,7 @@
 #include "analysis/run_observer.hpp"
 #include "equilibrium/staged_equilibrium.hpp"
 #include "project/project_data.hpp"
+#include "safety/check_verdict.hpp"
 #include "safety/diagnosis.hpp"
 #include "safety/mesh_error.hpp"
 #include "safety/passive_use.hpp"
@@ -46,6 +47,8 @@ struct Margine {
     /// specified run comes to rest.
     Confronto momento, taglio;
     std::optional<results::NumeriRelazione> relazione;
+    /// Of a wall that stands; none without a section. `giudizio` tells what to say of each.
+    std::vector<VerificaSezione> verifiche;
     /// How the specified run ended in memory; of a mechanism it is not begun.
     analysis::FineCorsa corsa;
 

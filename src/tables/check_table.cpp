@@ -2,13 +2,16 @@
 
 #include <cassert>
 #include <cmath>
-#include <optional>
+#include <functional>
+#include <utility>
 
 #include "base/translated_texts.hpp"
 #include "project/shown_number.hpp"
 #include "results/structure_checks.hpp"
 #include "safety/margin_words.hpp"
+#include "safety/mesh_words.hpp"
 #include "structure/section_validity.hpp"
+#include "tables/check_words.hpp"
 #include "tables/node_table.hpp"
 #include "tables/quantities.hpp"
 
@@ -21,21 +24,21 @@ using live::ControlliSezione;
 using live::DoveVerifica;
 using live::PareteViva;
 using results::ConfrontoMomenti;
+using results::Verifica;
 using safety::Margine;
 using structure::ConfrontoTaglio;
 namespace unita = project::unita;
 
 // @param numero  a number with the digits of the report, or rounded where it is not the report's
-std::vector<Cella> riga(const project::Unita& u, const char* cosa, double progetto,
-                        double resistenza, Cella (*numero)(double), const DoveVerifica& dove,
-                        std::string_view parole, bool fallita) {
-    return {parola(traduttore(cosa) + " " + traParentesi(u)),
+std::vector<Cella> riga(Verifica cosa, double progetto, double resistenza, Cella (*numero)(double),
+                        const DoveVerifica& dove, Cella esito) {
+    return {parola(traduttore(nome(cosa)) + " " + traParentesi(unitaDi(cosa))),
             numero(progetto),
             numero(resistenza),
             uso(progetto, resistenza),
             dove.fase > 0 ? cella(dove.fase) : tables::dove(0, 0),
             tables::dove(dove.fase, dove.z, dove.lato),
-            esito(traduttore(parole), fallita)};
+            std::move(esito)};
 }
 
 Cella arrotondato(double mostrato) { return cella(mostrato, 2, unita::nessuna); }
@@ -45,31 +48,39 @@ Cella (*numeroDi(const ControlliSezione& controlli))(double) {
     return controlli.dellaRelazione ? cifre : arrotondato;
 }
 
-void flessione(const ConfrontoMomenti& c, const ControlliSezione& controlli, Prospetto& p) {
+// What is said of a check: what is known of it, or the words of the report.
+using Esito = std::function<Cella(Verifica cosa, std::string_view dellaRelazione, bool fallita)>;
+
+void flessione(const ConfrontoMomenti& c, const ControlliSezione& controlli, const Esito& esito,
+               Prospetto& p) {
     const project::Unita& u = unita::momentoAlMetro;
-    p.righe.push_back(riga(u, "Flessione, momento positivo", mostrato(u, c.mdMax),
-                           mostrato(u, c.mrPos), numeroDi(controlli), controlli.positivo,
-                           results::sentenza(true, c.verificatoPos), c.fallitaPos()));
+    p.righe.push_back(riga(Verifica::momentoPositivo, mostrato(u, c.mdMax), mostrato(u, c.mrPos),
+                           numeroDi(controlli), controlli.positivo,
+                           esito(Verifica::momentoPositivo,
+                                 results::sentenza(true, c.verificatoPos), c.fallitaPos())));
     if (c.negativo)
-        p.righe.push_back(riga(u, "Flessione, momento negativo", mostrato(u, c.mdMin),
+        p.righe.push_back(riga(Verifica::momentoNegativo, mostrato(u, c.mdMin),
                                mostrato(u, c.mrNeg), numeroDi(controlli), controlli.negativo,
-                               results::sentenza(false, c.verificatoNeg), c.fallitaNeg()));
+                               esito(Verifica::momentoNegativo,
+                                     results::sentenza(false, c.verificatoNeg), c.fallitaNeg())));
 }
 
 // The report has a sentence for each failure and none for what holds.
-void taglio(const ConfrontoTaglio& c, const ControlliSezione& controlli, Prospetto& p) {
-    const auto aggiungi = [&](const char* cosa, double VRd, bool fallita, const char* rottura) {
+void taglio(const ConfrontoTaglio& c, const ControlliSezione& controlli, const Esito& esito,
+            Prospetto& p) {
+    const auto aggiungi = [&](Verifica cosa, double VRd, bool fallita, const char* rottura) {
         p.righe.push_back(
-            riga(unita::forzaAlMetro, cosa, c.Vsd, VRd, numeroDi(controlli), controlli.diTaglio,
-                 fallita ? rottura : "Condizioni di sicurezza verificate (taglio)", fallita));
+            riga(cosa, c.Vsd, VRd, numeroDi(controlli), controlli.diTaglio,
+                 esito(cosa, fallita ? rottura : "Condizioni di sicurezza verificate (taglio)",
+                       fallita)));
     };
-    aggiungi("Taglio, bielle di calcestruzzo", c.Vrd2, c.rotturaBielle(),
+    aggiungi(Verifica::bielle, c.Vrd2, c.rotturaBielle(),
              "Rottura delle bielle di calcestruzzo compresse");
-    aggiungi("Taglio, armatura d'anima", c.Vrd3, c.rotturaArmatura(),
-             "Rottura dell'armatura d'anima");
+    aggiungi(Verifica::armatura, c.Vrd3, c.rotturaArmatura(), "Rottura dell'armatura d'anima");
 }
 
-std::vector<Colonna> colonne() {
+// @param esito  explanation of its column, an Italian key
+std::vector<Colonna> colonne(const char* esito) {
     return {colonnaParole("Verifica", "Che cosa si verifica, per metro di paratia"),
             colonna(unita::nessuna, "Di progetto",
                     "Valore di progetto: il massimo di calcolo per il coefficiente delle azioni"),
@@ -77,7 +88,7 @@ std::vector<Colonna> colonne() {
             colonna(unita::percento, "Sfruttamento", "Valore di progetto diviso per la resistenza"),
             colonna(unita::nessuna, "Fase", "Fase in cui il valore è raggiunto"),
             colonnaSimbolo(unita::metri, "z", "Profondità a cui il valore è raggiunto"),
-            colonnaParole("Esito", "Esito, con le parole della relazione")};
+            colonnaParole("Esito", esito)};
 }
 
 // @return false where there is nothing to check
@@ -114,11 +125,13 @@ void noteRelazione(const Margine& margine, Prospetto& p) {
     notaEquilibrio(p);
 }
 
-Prospetto senzaNote(const PareteViva& parete, const ControlliSezione& controlli) {
-    Prospetto p{.titolo = traduttore("Verifiche"), .colonne = colonne()};
+Prospetto senzaNote(const PareteViva& parete, const Margine& margine, const char* colonnaEsito,
+                    const Esito& esito) {
+    Prospetto p{.titolo = traduttore("Verifiche"), .colonne = colonne(colonnaEsito)};
     if (!parete.sta()) return p;  // resistances alone are no check
-    if (controlli.flessione) flessione(*controlli.flessione, controlli, p);
-    if (controlli.taglio) taglio(*controlli.taglio, controlli, p);
+    const ControlliSezione controlli = live::controlliSezione(parete, &margine);
+    if (controlli.flessione) flessione(*controlli.flessione, controlli, esito, p);
+    if (controlli.taglio) taglio(*controlli.taglio, controlli, esito, p);
     return p;
 }
 
@@ -129,23 +142,46 @@ Cella cifre(double mostrato) {
     return {.testo = project::numeroRelazione(mostrato), .numero = mostrato + 0.0};
 }
 
+Cella esito(std::optional<safety::Giudizio> giudizio) {
+    if (!giudizio) return {};
+    return esito(traduttore(nome(*giudizio)), *giudizio != safety::Giudizio::verificata);
+}
+
+Colonna colonnaTendenza() {
+    return colonna(unita::percento, "Tendenza",
+                   "Lo sfruttamento a cui vanno maglie sempre più fini");
+}
+
+Cella tendenza(const Margine& margine, Verifica cosa) {
+    if (!assestata(margine)) return senza(safety::avvisiMaglia(margine).front().testo);
+    const auto limite = safety::tendenza(margine, cosa);
+    return limite ? cella(*limite, 1, unita::percento)
+                  : senza(traduttore("Le tre maglie non vanno da una parte sola."));
+}
+
 Cella uso(double progetto, double resistenza) {
     return resistenza == 0 ? senza(traduttore("La resistenza è 0."))
                            : cella(progetto / resistenza, 1, unita::percento);
 }
 
 Prospetto prospettoVerifiche(const PareteViva& parete, const Margine& margine) {
-    const ControlliSezione controlli =
-        parete.sta() ? live::controlliSezione(parete, &margine) : ControlliSezione();
-    Prospetto p = senzaNote(parete, controlli);
-    if (noteSezione(parete, p)) noteRelazione(margine, p);
+    Prospetto p = senzaNote(
+        parete, margine, spiegazioneEsito,
+        [&](Verifica cosa, std::string_view, bool) { return esito(giudizio(margine, cosa)); });
+    if (!noteSezione(parete, p)) return p;
+    noteRelazione(margine, p);
+    for (const safety::AvvisoMaglia& avviso : avvisiMaglia(margine))
+        if (avviso.verdetto) p.note.push_back(avviso.testo);
     return p;
 }
 
-Prospetto prospettoVerifiche(const PareteViva& parete, const ControlliSezione& controlli) {
-    assert(!controlli.dellaRelazione);
-    Prospetto p = senzaNote(parete, controlli);
-    if (noteSezione(parete, p)) notaEquilibrio(p);
+Prospetto prospettoVerificheRelazione(const PareteViva& parete, const Margine& margine) {
+    assert(margine.relazione);
+    Prospetto p = senzaNote(parete, margine, "Esito, con le parole della relazione",
+                            [](Verifica, std::string_view parole, bool fallita) {
+                                return esito(traduttore(parole), fallita);
+                            });
+    if (noteSezione(parete, p)) noteRelazione(margine, p);
     return p;
 }
 

@@ -76,17 +76,22 @@ void riga(int fase, const safety::ConfrontoTiro& tiro, const Cella& manca, Prosp
          testa});
 }
 
+Cella degliSfruttamenti() {
+    return senza(traduttore("Tendenza ed esito si dicono degli sfruttamenti della sezione."));
+}
+
 void riga(const project::Unita& u, const char* cosa, Cella (*valore)(double),
           const safety::ErroreGrandezza& e, Prospetto& p) {
     p.righe.push_back(
         {parola(base::conMaiuscola(traduttore(cosa)) + " " + traParentesi(u)), valore(e.valore),
          valore(e.doppia), valore(e.fine),
          e.quota ? cella(*e.quota, 1, unita::percento) : senza(percheSenzaErrore()),
-         e.ordine ? cella(*e.ordine, 1, unita::nessuna) : senza(percheSenzaOrdine(e.andamento))});
+         e.ordine ? cella(*e.ordine, 1, unita::nessuna) : senza(percheSenzaOrdine(e.andamento)),
+         degliSfruttamenti(), degliSfruttamenti()});
 }
 
 // A share has no order of its own: that of its moment or shear stands above.
-void riga(const safety::UsoMaglia& u, Prospetto& p) {
+void riga(const Margine& margine, const safety::UsoMaglia& u, Prospetto& p) {
     const auto valore = [](const std::optional<results::Uso>& uso) {
         return uso ? tables::uso(uso->progetto, uso->resistenza)
                    : senza(traduttore("Nessun momento negativo agisce."));
@@ -96,7 +101,8 @@ void riga(const safety::UsoMaglia& u, Prospetto& p) {
     p.righe.push_back(
         {parola(traduttore("Sfruttamento") + base::duePunti() + traduttore(safety::nome(u.cosa)) +
                 " " + traParentesi(unita::percento)),
-         valore(u.maglie[0]), valore(u.maglie[1]), valore(u.maglie[2]), altrove, altrove});
+         valore(u.maglie[0]), valore(u.maglie[1]), valore(u.maglie[2]), altrove, altrove,
+         tables::tendenza(margine, u.cosa), esito(giudizio(margine, u.cosa))});
 }
 
 // Sentences begin with a capital; the same words stand within lines elsewhere.
@@ -182,7 +188,8 @@ Prospetto prospettoMaglia(const Margine& margine) {
                             colonna(unita::percento, "Errore",
                                     "Differenza fra le due maglie, rispetto alla più fine"),
                             colonna(unita::nessuna, "Ordine",
-                                    "Potenza del passo con cui l'errore diminuisce")}};
+                                    "Potenza del passo con cui l'errore diminuisce"),
+                            colonnaTendenza(), colonnaParole("Esito", spiegazioneEsito)}};
     std::size_t colonna_ = 0;
     for (const int volte : {1, 2, 4}) {
         std::string& titolo = p.colonne[++colonna_].titolo;
@@ -198,7 +205,7 @@ Prospetto prospettoMaglia(const Margine& margine) {
     riga(unita::forzaAlMetro, "Taglio", forza, e.taglio, p);
     riga(unita::spostamentoFine, "Spostamento", spostamento, e.spostamento, p);
     riga(unita::forzaAlMetro, "Tiranti e puntoni", forza, e.tiro, p);
-    for (const safety::UsoMaglia& u : e.usi) riga(u, p);
+    for (const safety::UsoMaglia& u : e.usi) riga(margine, u, p);
     for (const safety::AvvisoMaglia& avviso : safety::avvisiMaglia(margine))
         p.note.push_back(avviso.testo);
     return p;

@@ -22,8 +22,8 @@ inline constexpr double fineBarraF = 3;
 [[nodiscard]] Prospetto prospettoStatica(const safety::Margine& margine);
 
 /// The largest numbers and the uses of the section with three meshes, and the error that the first
-/// leaves; its notes are the warnings of `avvisiMaglia`. Without rows where a stage does not
-/// stand, with this mesh or a finer one.
+/// leaves; of the uses what they go to, and the verdict on the check. Its notes are the warnings of
+/// `avvisiMaglia`. Without rows where a stage does not stand, with this mesh or a finer one.
 [[nodiscard]] Prospetto prospettoMaglia(const safety::Margine& margine);
 
 /// Why there is no error of the mesh, a sentence.

@@ -1,5 +1,6 @@
 #include "tables/quantities.hpp"
 
+#include "base/code_page.hpp"
 #include "base/filled_text.hpp"
 #include "base/translated_texts.hpp"
 
@@ -8,9 +9,10 @@ namespace korven::tables {
 Cella profondita(double z, equilibrium::Lato lato) {
     using equilibrium::Lato;
     Cella cella = profondita(z);
-    if (lato != Lato::unico)
-        cella.testo = base::riempito(
-            base::traduttore(lato == Lato::sopra ? "%1 sopra" : "%1 sotto"), {cella.testo});
+    if (lato == Lato::unico) return cella;
+    const std::string parole = base::traduttore(lato == Lato::sopra ? "%1 sopra" : "%1 sotto");
+    cella.testo = base::riempito(parole, {cella.testo});
+    cella.lato = base::senzaSpaziEsterni(base::riempito(parole, {""}));
     return cella;
 }
 

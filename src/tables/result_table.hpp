@@ -20,7 +20,8 @@ struct Cella {
     std::optional<double> ordine{};      ///< of a word: by what it is sorted; nothing: its letters
     std::optional<review::Peso> peso{};  ///< of a remark that is made on it
     std::optional<double> barra{};       ///< 0 to 1: length of a bar behind it
-    std::string perche{};                ///< of a cell that has nothing to show: why, a sentence
+    std::string lato{};    ///< of a depth: on which side of its node, as `testo` has it behind it
+    std::string perche{};  ///< of a cell that has nothing to show: why, a sentence
 
     bool operator==(const Cella&) const = default;
 };

@@ -70,47 +70,62 @@ Cella verifica(bool fallita) {
     return esito(traduttore(fallita ? "NON verificata" : "verificata"), fallita);
 }
 
+// The checks of a wall, with its margin as soon as that is known.
+struct Verifiche {
+    const ControlliSezione& controlli;
+    const safety::Margine* margine;
+
+    // Of stages before one that falls nothing but their own mesh is known.
+    [[nodiscard]] Cella esito(results::Verifica cosa, bool fallita) const {
+        const auto suo = margine != nullptr ? giudizio(*margine, cosa) : std::nullopt;
+        return suo ? tables::esito(suo) : verifica(fallita);
+    }
+};
+
 // Symbols, since there is little room beside the sketch.
 // @param manca  why the design value is not known; empty where it is
 std::vector<Cella> riga(const char* simbolo, const project::Unita& u, const char* manca,
-                        double progetto, double resistenza, bool fallita) {
+                        double progetto, double resistenza, Cella esito) {
     const bool nota = *manca == '\0';
     const Cella nessuna = nota ? Cella{} : senza(traduttore(manca));
-    return {parola(std::string(simbolo) + " " + traParentesi(u)),
-            nota ? verifica(fallita) : nessuna, nota ? uso(progetto, resistenza) : nessuna,
-            nota ? cifre(progetto) : nessuna, cifre(resistenza)};
+    return {parola(std::string(simbolo) + " " + traParentesi(u)), nota ? std::move(esito) : nessuna,
+            nota ? uso(progetto, resistenza) : nessuna, nota ? cifre(progetto) : nessuna,
+            cifre(resistenza)};
 }
 
 const char* senzaAzioni(const ControlliSezione& controlli) {
     return controlli.conAzioni ? "" : azioniNonNote;
 }
 
-void flessione(const ControlliSezione& controlli, Prospetto& p) {
-    const auto& c = *controlli.flessione;
+void flessione(const Verifiche& v, Prospetto& p) {
+    using results::Verifica;
+    const auto& c = *v.controlli.flessione;
     const project::Unita& u = unita::momentoAlMetro;
-    const char* senzaNegativo = controlli.conAzioni && !c.negativo
+    const char* senzaNegativo = v.controlli.conAzioni && !c.negativo
                                     ? "Nessun momento negativo agisce."
-                                    : senzaAzioni(controlli);
-    p.righe.push_back(riga("M+", u, senzaAzioni(controlli), mostrato(u, c.mdMax),
-                           mostrato(u, c.mrPos), c.fallitaPos()));
-    p.righe.push_back(
-        riga("M−", u, senzaNegativo, mostrato(u, c.mdMin), mostrato(u, c.mrNeg), c.fallitaNeg()));
+                                    : senzaAzioni(v.controlli);
+    p.righe.push_back(riga("M+", u, senzaAzioni(v.controlli), mostrato(u, c.mdMax),
+                           mostrato(u, c.mrPos),
+                           v.esito(Verifica::momentoPositivo, c.fallitaPos())));
+    p.righe.push_back(riga("M−", u, senzaNegativo, mostrato(u, c.mdMin), mostrato(u, c.mrNeg),
+                           v.esito(Verifica::momentoNegativo, c.fallitaNeg())));
 }
 
-void taglio(const ControlliSezione& controlli, Prospetto& p) {
-    const auto& c = *controlli.taglio;
-    const auto aggiungi = [&](const char* simbolo, double VRd, bool fallita) {
-        p.righe.push_back(
-            riga(simbolo, unita::forzaAlMetro, senzaAzioni(controlli), c.Vsd, VRd, fallita));
+void taglio(const Verifiche& v, Prospetto& p) {
+    using results::Verifica;
+    const auto& c = *v.controlli.taglio;
+    const auto aggiungi = [&](const char* simbolo, double VRd, Cella esito) {
+        p.righe.push_back(riga(simbolo, unita::forzaAlMetro, senzaAzioni(v.controlli), c.Vsd, VRd,
+                               std::move(esito)));
     };
-    aggiungi("V, VRd2", c.Vrd2, c.rotturaBielle());
-    aggiungi("V, VRd3", c.Vrd3, c.rotturaArmatura());
+    aggiungi("V, VRd2", c.Vrd2, v.esito(Verifica::bielle, c.rotturaBielle()));
+    aggiungi("V, VRd3", c.Vrd3, v.esito(Verifica::armatura, c.rotturaArmatura()));
 }
 
 std::vector<Colonna> colonne() {
     // The verdict first: a narrow panel does not show all columns at once.
     return {colonnaParole("Verifica", "Che cosa si verifica, per metro di paratia"),
-            colonnaParole("Esito", "Esito, con le parole della relazione"),
+            colonnaParole("Esito", spiegazioneEsito),
             colonna(unita::percento, "Sfruttamento", "Valore di progetto diviso per la resistenza"),
             colonna(unita::nessuna, "Di progetto",
                     "Valore di progetto: il massimo di calcolo per il coefficiente delle azioni"),
@@ -134,8 +149,9 @@ QuadroSezione quadroSezione(const DatiProgetto& dati, const PareteViva& parete,
     q.verifiche = {.titolo = traduttore("Verifiche"), .colonne = colonne()};
     if (!live::sezioneCalcolabile(dati.sezione)) return q;
     const ControlliSezione controlli = live::controlliSezione(parete, margine);
-    if (controlli.flessione) flessione(controlli, q.verifiche);
-    if (controlli.taglio) taglio(controlli, q.verifiche);
+    const Verifiche sue{controlli, margine};
+    if (controlli.flessione) flessione(sue, q.verifiche);
+    if (controlli.taglio) taglio(sue, q.verifiche);
     q.verifiche.note.push_back(origine(parete, controlli));
     return q;
 }
@@ -148,7 +164,7 @@ Prospetto prospettoDominio(const PareteViva& parete, const safety::Margine* marg
                     colonnaSimbolo(unita::forzaAlMetro, "Nd", "Sforzo normale di progetto"),
                     colonnaSimbolo(unita::momentoAlMetro, "Md max", "Momento di progetto maggiore"),
                     colonnaSimbolo(unita::momentoAlMetro, "Md min", "Momento di progetto minore"),
-                    colonnaParole("Esito", "Esito, con le parole della relazione"),
+                    colonnaParole("Esito", "Con i momenti di questa fase"),
                 }};
     // The report cuts its numbers; those of the equilibrium are rounded wherever they stand.
     const bool dellaRelazione = margine != nullptr && margine->relazione;

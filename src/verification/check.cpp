@@ -72,6 +72,20 @@ int EsitoVerifica::conta(Verdetto verdetto) const {
     return numero;
 }
 
+bool EsitoCaso::incontrato() const {
+    return std::all_of(confronti.begin(), confronti.end(),
+                       [](const Confronto& c) { return c.buono; });
+}
+
+int EsitoVerifica::rientrati() const {
+    int numero = 0;
+    for (const EsitoGruppo& gruppo : gruppi)
+        numero +=
+            static_cast<int>(std::count_if(gruppo.casi.begin(), gruppo.casi.end(),
+                                           [](const auto& caso) { return caso.rientrato(); }));
+    return numero;
+}
+
 EsitoCaso esegui(const Caso& caso) {
     EsitoCaso esito{.caso = &caso};
     Pareti pareti{PareteCalcolata(caso.parete), {}};
@@ -80,11 +94,9 @@ EsitoCaso esegui(const Caso& caso) {
         for (const Metodo metodo : {Metodo::corsa, Metodo::equilibrio, Metodo::sezione})
             if (funzione(*attesa.grandezza, metodo) && attesa.solo.value_or(metodo) == metodo)
                 esito.confronti.push_back(confronta(attesa, metodo, pareti));
-    const bool tutti = std::all_of(esito.confronti.begin(), esito.confronti.end(),
-                                   [](const Confronto& c) { return c.buono; });
-    esito.verdetto = !caso.noto.empty() ? Verdetto::noto
-                     : tutti            ? Verdetto::buono
-                                        : Verdetto::fallito;
+    esito.verdetto = !caso.noto.empty()   ? Verdetto::noto
+                     : esito.incontrato() ? Verdetto::buono
+                                          : Verdetto::fallito;
     return esito;
 }
 

@@ -32,6 +32,11 @@ struct EsitoCaso {
     const Caso* caso = nullptr;
     std::vector<Confronto> confronti{};
     Verdetto verdetto = Verdetto::fallito;
+
+    /// All its values are met.
+    [[nodiscard]] bool incontrato() const;
+    /// A known miss that is one no longer: whoever keeps the cases should know.
+    [[nodiscard]] bool rientrato() const { return verdetto == Verdetto::noto && incontrato(); }
 };
 
 struct EsitoGruppo {
@@ -43,6 +48,8 @@ struct EsitoVerifica {
     std::vector<EsitoGruppo> gruppi;
 
     [[nodiscard]] int conta(Verdetto verdetto) const;
+    /// The known misses that are met.
+    [[nodiscard]] int rientrati() const;
     /// All cases, known misses apart, are good.
     [[nodiscard]] bool superata() const { return conta(Verdetto::fallito) == 0; }
 };

@@ -57,6 +57,17 @@ void unisci(tables::Prospetto& tavola) {
                    i == 1 ? std::min(riga[i].testo.find(','), riga[i].testo.size()) : 0);
 }
 
+// Beside its quantity: the names of the cases leave little room for columns.
+void unitaAccanto(tables::Prospetto& tavola) {
+    constexpr std::size_t quantita = 1, unita = 5;
+    for (auto& riga : tavola.righe) {
+        const std::string sua = riga[unita].testo;
+        if (!sua.empty() && sua != tables::nessuno) riga[quantita].testo += " [" + sua + "]";
+        riga.erase(riga.begin() + unita);
+    }
+    tavola.colonne.erase(tavola.colonne.begin() + unita);
+}
+
 // At the width of the text; the drawing keeps its picture.
 void aggiungiFigura(const Gruppo& gruppo, std::vector<Blocco>& blocchi) {
     constexpr double larghezza = document::larghezzaFigura, altezza = 10;  // [cm]
@@ -76,6 +87,7 @@ void aggiungiGruppo(const EsitoGruppo& esito, std::vector<Blocco>& blocchi) {
     aggiungiFigura(gruppo, blocchi);
     tables::Prospetto tavola = prospetto(esito);
     unisci(tavola);
+    unitaAccanto(tavola);
     tavola.titolo.clear();
     tavola.note.clear();  // they stand with their cases
     blocchi.emplace_back(document::Tavola{std::move(tavola)});

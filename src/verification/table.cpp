@@ -1,6 +1,7 @@
 #include "verification/table.hpp"
 
 #include "base/colon.hpp"
+#include "base/filled_text.hpp"
 #include "base/translated_texts.hpp"
 #include "verification/words.hpp"
 
@@ -16,10 +17,22 @@ Cella numero(std::string testo, const std::optional<double>& valore) {
     return {.testo = std::move(testo), .numero = valore};
 }
 
-// Of a known miss each row says that it is one, those that are met too.
+// Of a known miss the rows that are met are good ones, unless all are: then it is a miss no longer.
 std::string esito(const EsitoCaso& caso, const Confronto& c) {
-    if (caso.verdetto == Verdetto::noto) return parole(Verdetto::noto);
-    return parole(c.buono ? Verdetto::buono : Verdetto::fallito);
+    if (caso.rientrato()) return traduttore("noto, ma rientra");
+    if (c.buono) return parole(Verdetto::buono);
+    return parole(caso.verdetto == Verdetto::noto ? Verdetto::noto : Verdetto::fallito);
+}
+
+// Why it differs, or that it does so no longer.
+std::string nota(const EsitoCaso& caso) {
+    const std::string perche = traduttore(caso.caso->noto);
+    return caso.caso->nome + base::duePunti() +
+           (caso.rientrato()
+                ? base::riempito(traduttore("la differenza nota non c'è più, tutti i valori "
+                                            "rientrano: il caso può contare come gli altri (%1)"),
+                                 {perche})
+                : perche);
 }
 
 std::vector<Cella> riga(const EsitoCaso& caso, const Confronto& c) {
@@ -59,8 +72,7 @@ tables::Prospetto prospetto(const EsitoGruppo& gruppo) {
     for (const std::size_t quale : {3U, 4U, 6U, 7U}) p.colonne[quale].numerica = true;
     for (const EsitoCaso& caso : gruppo.casi) {
         for (const Confronto& c : caso.confronti) p.righe.push_back(riga(caso, c));
-        if (caso.verdetto == Verdetto::noto)
-            p.note.push_back(caso.caso->nome + base::duePunti() + traduttore(caso.caso->noto));
+        if (caso.verdetto == Verdetto::noto) p.note.push_back(nota(caso));
     }
     return p;
 }

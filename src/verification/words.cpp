@@ -113,9 +113,14 @@ std::string differenza(const Confronto& c) {
 std::string sommario(const EsitoVerifica& esito) {
     const int buoni = esito.conta(Verdetto::buono), falliti = esito.conta(Verdetto::fallito),
               noti = esito.conta(Verdetto::noto);
-    return base::riempito(traduttore("Casi: %1; buoni: %2; falliti: %3; differenze note: %4."),
-                          {std::to_string(buoni + falliti + noti), std::to_string(buoni),
-                           std::to_string(falliti), std::to_string(noti)});
+    std::string testo =
+        base::riempito(traduttore("Casi: %1; buoni: %2; falliti: %3; differenze note: %4."),
+                       {std::to_string(buoni + falliti + noti), std::to_string(buoni),
+                        std::to_string(falliti), std::to_string(noti)});
+    if (const int rientrati = esito.rientrati(); rientrati > 0)
+        testo += ' ' + base::riempito(traduttore("Differenze note che non ci sono più: %1."),
+                                      {std::to_string(rientrati)});
+    return testo;
 }
 
 }  // namespace korven::verification

@@ -51,9 +51,13 @@ void identita(const dossier::Identita& sua, Voci& voci) {
 }
 
 void modello(const Fascicolo& f, Voci& voci) {
-    const auto& campo = project::campo(&project::DatiProgetto::metodoSpinte);
-    if (const auto* metodo = project::codice(campo, f.parete.dati.metodoSpinte))
-        voci.aggiungi("Metodo per le spinte", traduttore(metodo->voce));
+    const project::DatiProgetto& usati = f.parete.dati;
+    const auto metodo = [&](const char* cosa, double project::DatiProgetto::*membro) {
+        if (const auto* codice = project::codice(project::campo(membro), usati.*membro))
+            voci.aggiungi(cosa, traduttore(codice->voce));
+    };
+    metodo("Metodo delle spinte usato", &project::DatiProgetto::metodoSpinte);
+    metodo("Metodo di ks usato", &project::DatiProgetto::metodoKs);
     if (f.parete.nSeg > 0) voci.aggiungi(traduttore("Segmenti"), tables::cella(f.parete.nSeg));
     voci.aggiungi(
         "Origine dei numeri",

@@ -7,15 +7,16 @@
 
 #include "base/translated_texts.hpp"
 #include "tables/anchor_table.hpp"
-#include "tables/check_table.hpp"
 #include "tables/input_table.hpp"
 #include "tables/margin_table.hpp"
 #include "tables/node_table.hpp"
 #include "tables/remark_table.hpp"
 #include "tables/stage_table.hpp"
 #include "workbook/anchor_sheet.hpp"
+#include "workbook/check_sheet.hpp"
 #include "workbook/node_sheets.hpp"
 #include "workbook/project_sheet.hpp"
+#include "workbook/side_columns.hpp"
 
 namespace korven::workbook {
 
@@ -54,7 +55,7 @@ Foglio diParole(Prospetto p, std::string fonte = {}) {
 
 Foglio diNumeri(Prospetto p, std::size_t colonneFisse = 1) {
     return {.nome = {},
-            .prospetto = std::move(p),
+            .prospetto = conLati(std::move(p)),
             .fonte = traduttore("Numeri della soluzione di equilibrio, per metro di paratia."),
             .colonneFisse = colonneFisse,
             .aCapo = false};
@@ -77,7 +78,7 @@ std::vector<Foglio> tutti(const Fascicolo& f) {
         diNumeri(prospettoNodiFasi(f), 3),
         diNumeri(conTitolo(tables::prospettoInviluppo(f.parete), "Inviluppo"), 2),
         diNumeri(prospettoTiranti(f)),
-        diNumeri(tables::prospettoVerifiche(f.parete, f.controlli)),
+        diNumeri(prospettoVerifiche(f)),
         diNumeri(maglia(f)),
         diParole(tables::prospettoOsservazioni(f.osservazioni))};
     fatti.insert(fatti.begin(), diParole(prospettoProgetto(f, fatti)));

@@ -86,7 +86,7 @@ TEST_F(Tabelle, TellWhichOptionsOverrideTheProject) {
     const std::string testo = scritto("d/muro-progetto.csv");
     for (const char* riga :
          {"Opzione,--metodo-spinte rankine\r\n", "Opzione,--nseg 10\r\n",
-          "Metodo per le spinte,Rankine\r\n", "Segmenti,10\r\n", "Titolo 1,Muro di prova\r\n"})
+          "Metodo delle spinte usato,Rankine\r\n", "Segmenti,10\r\n", "Titolo 1,Muro di prova\r\n"})
         EXPECT_TRUE(dice(testo, riga)) << riga << testo;
     EXPECT_TRUE(dice(scritto("d/muro-dati.csv"), ",Coulomb,Rankine,,metodoSpinte\r\n"));
 }
@@ -169,15 +169,16 @@ TEST_F(Tabelle, RefuseWhatAReportRefusesAndWriteNothing) {
     EXPECT_EQ(nomi(), "muro.kvd ");
 }
 
-TEST(CsvFoglio, HasAllDigitsQuotesWhatNeedsThemAndLeavesEmptyWhatIsNot) {
+TEST(CsvFoglio, HasFifteenDigitsQuotesWhatNeedsThemAndLeavesEmptyWhatIsNot) {
     const tables::Prospetto p = {
         .titolo = "Nodi",
         .colonne = {{"z", "m", "", true}, {"Strato", "", "", false}},
         .righe = {{tables::profondita(1.0 / 3), tables::parola("2: Sabbia, \"media\"")},
+                  {tables::profondita(27 * 0.12), tables::parola("3")},
                   {tables::senza("perché"), tables::parola("è")}},
         .note = {"Una nota."}};
     EXPECT_EQ(csvFoglio(p),
-              "z [m],Strato\r\n0.3333333333333333,\"2: Sabbia, \"\"media\"\"\"\r\n,è\r\n");
+              "z [m],Strato\r\n0.333333333333333,\"2: Sabbia, \"\"media\"\"\"\r\n3.24,3\r\n,è\r\n");
 }
 
 }  // namespace

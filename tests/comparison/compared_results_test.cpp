@@ -57,8 +57,11 @@ TEST(RisultatiConfrontati, GrowWithTheSizeOfANegativeNumber) {
     r.dopo = tables::momento(-12);
     EXPECT_DOUBLE_EQ(*r.differenza(), -20);
     EXPECT_DOUBLE_EQ(*r.quota(), 0.2);
+    r.dopo = tables::momento(0);
+    EXPECT_DOUBLE_EQ(*r.quota(), -1);
     r.dopo = tables::momento(5);
-    EXPECT_DOUBLE_EQ(*r.quota(), -1.5);
+    EXPECT_DOUBLE_EQ(*r.differenza(), 150);
+    EXPECT_FALSE(r.quota());
 }
 
 TEST(RisultatiConfrontati, OfAWallThatFallsOnlyAfterSayWhy) {

@@ -111,6 +111,21 @@ Osservazioni conSforzoFavorevole() {
     });
 }
 
+Osservazioni fallitaInEquilibrio() {
+    Margine m = margineSano(dueFasi);
+    m.maglia = safety::ErroreMaglia{};
+    m.verifiche = {
+        {results::Verifica::bielle, results::Uso{101, 100, true}, results::Uso{99, 100, false}}};
+    ElencoOsservazioni elenco;
+    controlloGiudizi(m, elenco);
+    return elenco.ordinate();
+}
+
+Osservazioni dellEsempio(const std::string& nome) {
+    return esaminaRisultati(test::leggiMuro(std::string(KORVEN_EXAMPLES) + "/" + nome + ".kvd"),
+                            50);
+}
+
 Osservazioni conIncastro() {
     const DatiProgetto dati = con([](DatiProgetto& d) { d.vincoloPiede = 3; });
     return cambiato(controlloIncastro, dati, [](Margine& m) {
@@ -154,8 +169,8 @@ TEST(VociRisultati, AreEachBroughtBySomeWall) {
         delMuro("oscilla_3"),
         delMuro("meccanismo"),
         delMuro("banchina"),
-        esaminaRisultati(test::leggiMuro(std::string(KORVEN_EXAMPLES) + "/pali_armati_staffe.kvd"),
-                         50),
+        dellEsempio("pali_armati_staffe"),
+        dellEsempio("paratia_lunga_incastro"),
         conEJNegativa(),
         conForzaEnorme(),
         conPassiva(0.85),
@@ -174,6 +189,7 @@ TEST(VociRisultati, AreEachBroughtBySomeWall) {
         conStaffe(),
         conFerriSottili(),
         conSforzoFavorevole(),
+        fallitaInEquilibrio(),
         conIncastro(),
         conFalda(),
     };

@@ -37,7 +37,8 @@ const std::map<std::string, Righe> esempi = {
     {"palancola_mensola", {}},
     {"pali_armati_staffe", {"taglio-non-verificato", "riduzione-bassa"}},
     {"pali_tubolari_cerniera", {}},
-    {"paratia_lunga_incastro", {"taglio-maggiore-della-statica", "scavo-spostato-dai-nodi"}},
+    {"paratia_lunga_incastro",
+     {"verdetto-con-la-maglia", "taglio-maggiore-della-statica", "scavo-spostato-dai-nodi"}},
     {"trincea_puntellata", {"scavo-spostato-dai-nodi"}},
 };
 
@@ -58,6 +59,10 @@ TEST(EsempiRaccontati, AreToldWhatTheirStagesComeTo) {
     EXPECT_EQ(
         righe(risultati(esempio("paratia_lunga_incastro"))),
         (Righe{
+            "[pericolo] verdetto-con-la-maglia: Il verdetto non è assestato: sfruttamento, "
+            "flessione con momento negativo dal 90.2 % con 50 segmenti al 98.2 % con 200, con "
+            "maglie sempre più fini verso il 101.9 %. Con queste maglie la sezione è verificata, "
+            "con il valore a cui vanno no: verificarla con quello.",
             "[da vedere] taglio-maggiore-della-statica: taglio massimo del diagramma 1120.0 kN/m "
             "(fase 5, a 26.00 m), dell'equilibrio -385.2 kN/m (fase 5, a 18.72 m); al piede "
             "incastrato il diagramma conta le molle dell'incastro: il primo non è della paratia",
@@ -75,11 +80,14 @@ const std::map<std::string, Righe> muri = {
     {"tensioni_totali_sabbia", {}},
     {"banchina", {"riduzione-insufficiente", "spostamento-eccessivo"}},
     {"quasi_meccanismo",
-     {"riduzione-insufficiente", "spostamento-eccessivo", "passiva-molto-usata"}},
+     {"riduzione-insufficiente", "spostamento-eccessivo", "verdetto-con-la-maglia",
+      "passiva-molto-usata"}},
     {"meccanismo", {"meccanismo"}},
     {"puntone_rigidissimo", {"tiro-sbagliato"}},
     {"oscilla_1", {"iterazione-che-oscilla", "scavo-spostato-dai-nodi"}},
-    {"oscilla_2", {"iterazione-che-oscilla", "passiva-molto-usata"}},
+    {"oscilla_2",
+     {"iterazione-che-oscilla", "verifica-fallita-in-equilibrio", "verifica-fallita-in-equilibrio",
+      "passiva-molto-usata"}},
     {"oscilla_3", {"iterazione-che-oscilla", "strato-spostato-dai-nodi"}},
     {"singolare_1", {"iterazione-che-oscilla"}},
     {"singolare_2", {"iterazione-che-oscilla", "scavo-spostato-dai-nodi"}},

@@ -62,9 +62,24 @@ TEST(ProspettoVerifiche, MarksAVerdictThatFails) {
     const PareteViva parete = live::calcola(debole);
     const auto breve = safety::margineBreve(debole, parete.nSeg);
     const Prospetto p = prospettoVerifiche(parete, breve->margine);
-    EXPECT_EQ(p.righe[0][6].testo, "CONDIZIONI DI SICUREZZA NON VERIFICATE (momento positivo)");
+    EXPECT_EQ(p.righe[0][6].testo, "NON verificata");
     EXPECT_EQ(p.righe[0][6].peso, review::Peso::pericolo);
+    const Prospetto q = prospettoVerificheRelazione(parete, breve->margine);
+    EXPECT_EQ(q.righe[0][6].testo, "CONDIZIONI DI SICUREZZA NON VERIFICATE (momento positivo)");
+    EXPECT_EQ(q.righe[0][6].peso, review::Peso::pericolo);
     EXPECT_GT(*p.righe[0][3].numero, 100);
+}
+
+// The report says that it holds.
+TEST(ProspettoVerifiche, TellsAVerdictThatAFinerMeshTurns) {
+    const Muro m = muro(esempio("paratia_lunga_incastro"));
+    const Prospetto p = prospettoVerifiche(m.parete, m.margine);
+    EXPECT_EQ(p.righe[0][6].testo, "verificata");
+    EXPECT_EQ(p.righe[1][6].testo, "non assestata");
+    EXPECT_EQ(p.righe[1][6].peso, review::Peso::pericolo);
+    EXPECT_EQ(p.note.back().find("Il verdetto non è assestato"), 0U);
+    EXPECT_EQ(prospettoVerificheRelazione(m.parete, m.margine).righe[1][6].testo,
+              "Condizioni di sicurezza verificate (momento negativo)");
 }
 
 // A wall that stands and of which the specified run finds no rest.

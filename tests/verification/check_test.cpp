@@ -4,6 +4,7 @@
 
 #include "base/files.hpp"
 #include "verification/case_reader.hpp"
+#include "verification/table.hpp"
 #include "verification/words.hpp"
 
 namespace korven::verification {
@@ -40,6 +41,31 @@ TEST(EseguiCaso, ListsAKnownMissAndDoesNotCountIt) {
     EXPECT_EQ(esito.conta(Verdetto::noto), 1);
     EXPECT_EQ(esito.conta(Verdetto::fallito), 0);
     EXPECT_TRUE(esito.superata());
+}
+
+// A known miss that is met would hide the next one.
+TEST(EseguiCaso, TellsAKnownMissThatIsOneNoLonger) {
+    std::string testo = "noto: because\n" + base::leggiFile(sbagliato);
+    Gruppo gruppo;
+    gruppo.casi.push_back(letto(testo));
+    testo.replace(testo.find("= 288"), 5, "= 144");
+    gruppo.casi.push_back(letto(testo));
+    const std::vector<Gruppo> gruppi = {gruppo};
+    const EsitoVerifica esito = esegui(gruppi);
+    EXPECT_FALSE(esito.gruppi[0].casi[0].rientrato());
+    EXPECT_TRUE(esito.gruppi[0].casi[1].rientrato());
+    EXPECT_TRUE(esito.superata());
+    EXPECT_EQ(sommario(esito),
+              "Casi: 2; buoni: 0; falliti: 0; differenze note: 2. Differenze note che non ci sono "
+              "più: 1.");
+    const tables::Prospetto p = prospetto(esito.gruppi[0]);
+    ASSERT_EQ(p.righe.size(), 8U);
+    EXPECT_EQ(p.righe[0].back().testo, "noto");
+    EXPECT_EQ(p.righe[2].back().testo, "buono");  // the moment was right all along
+    EXPECT_EQ(p.righe[4].back().testo, "noto, ma rientra");
+    ASSERT_EQ(p.note.size(), 2U);
+    EXPECT_EQ(p.note[0], "prova: because");
+    EXPECT_EQ(p.note[1].find("prova: la differenza nota non c'è più"), 0U) << p.note[1];
 }
 
 TEST(EseguiCaso, FailsWhereThereIsNoNumber) {

@@ -157,6 +157,67 @@ TEST(Fogli, CheckTheSectionWithTheEquilibriumThoughThereIsAReport) {
     EXPECT_TRUE(p.note.back().starts_with("Verifiche con i numeri della soluzione di equilibrio"));
 }
 
+// Which column of a table is headed so.
+std::size_t posto(const Prospetto& p, const std::string& titolo) {
+    for (std::size_t i = 0; i < p.colonne.size(); ++i)
+        if (p.colonne[i].titolo == titolo) return i;
+    throw std::out_of_range(titolo);
+}
+
+TEST(Fogli, HaveTheReportsNumbersBesideAndTheDepthApartFromItsSide) {
+    const Fascicolo f = esempio("pali_armati_staffe");
+    const CartellaFogli cartella = fogli(f);
+    const Prospetto& p = foglio(cartella, "verifiche").prospetto;
+    ASSERT_EQ(p.righe.size(), f.verifiche.size());
+    const auto& armatura = p.righe.back();
+    const dossier::VerificaDoppia& sua = f.verifiche.back();
+    EXPECT_EQ(armatura[posto(p, "Di progetto")].numero, sua.equilibrio->progetto);
+    EXPECT_EQ(armatura[posto(p, "Di progetto, relazione")].numero, sua.relazione->progetto);
+    EXPECT_EQ(armatura[posto(p, "Sfruttamento, relazione")].testo, "106.0");
+    EXPECT_EQ(armatura[posto(p, "Esito")].testo, "NON verificata");
+    EXPECT_EQ(armatura[posto(p, "z")].testo, "1.60");
+    EXPECT_TRUE(armatura[posto(p, "z") + 1].testo == "sopra" ||
+                armatura[posto(p, "z") + 1].testo == "sotto");
+    EXPECT_EQ(p.colonne[posto(p, "z") + 1].titolo, "Lato");
+}
+
+// The report says that it holds, and all three meshes too.
+TEST(Fogli, GiveACheckTheOutcomeThatFinerMeshesLeaveIt) {
+    const Fascicolo f = esempio("paratia_lunga_incastro");
+    const CartellaFogli cartella = fogli(f);
+    for (const auto& [nome, riga] : {std::pair("verifiche", 1), std::pair("maglia", 6)}) {
+        const Prospetto& p = foglio(cartella, nome).prospetto;
+        const auto& celle = p.righe.at(static_cast<std::size_t>(riga));
+        EXPECT_EQ(celle[posto(p, "Esito")].testo, "non assestata") << nome;
+        EXPECT_EQ(celle[posto(p, "Tendenza")].testo, "101.9") << nome;
+    }
+    const Prospetto& osservazioni = foglio(cartella, "osservazioni").prospetto;
+    EXPECT_TRUE(std::ranges::any_of(osservazioni.righe, [](const auto& riga) {
+        return riga[3].testo == "verdetto-con-la-maglia";
+    }));
+}
+
+// What nobody checks has a row all the same, with the number to check.
+TEST(Fogli, HaveTheDesignShearOfASectionWithoutACheckOfIt) {
+    const Fascicolo f = esempio("diaframma_due_ordini");
+    const CartellaFogli cartella = fogli(f);
+    const Prospetto& p = foglio(cartella, "verifiche").prospetto;
+    ASSERT_EQ(p.righe.size(), 3u);
+    EXPECT_EQ(p.righe[2][0].testo, "Taglio [kN/m]");
+    EXPECT_EQ(p.righe[2][1].testo, "301.42");
+    EXPECT_EQ(p.righe[2][2].perche, "Il programma non ha una verifica a taglio per i diaframmi.");
+    EXPECT_EQ(p.righe[2][posto(p, "Esito")].testo, "nessuna verifica");
+}
+
+TEST(Fogli, NameTheMethodsInUse) {
+    const CartellaFogli cartella = fogli(esempio("diaframma_due_ordini"));
+    std::vector<std::string> voci;
+    for (const auto& riga : foglio(cartella, "progetto").prospetto.righe)
+        voci.push_back(riga[0].testo);
+    for (const char* voce : {"Metodo delle spinte usato", "Metodo di ks usato"})
+        EXPECT_EQ(std::ranges::count(voci, voce), 1) << voce;
+}
+
 TEST(Fogli, HaveTheNumbersAndTheUsesOfThreeMeshes) {
     const Fascicolo f = esempio("paratia_lunga_incastro");
     const CartellaFogli cartella = fogli(f);

@@ -61,6 +61,8 @@ struct Esito {
     bool righeVersate = false;   ///< it told its outcome row by row, where it was asked to
     bool giaAggiornato = false;  ///< the result file was up to date already
     std::vector<analysis::ControlloCorsa::Fase> fasi;
+    /// What is said of the checks of a run; empty where its results were not looked at.
+    std::vector<safety::VerificaGiudicata> giudizi;
     std::vector<std::string> fileScritti;
     std::string fileRelazione, fileTesto, fileDocumento, filePdf;
 

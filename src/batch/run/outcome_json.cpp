@@ -87,6 +87,14 @@ Json taglio(const results::EsitoCalcolo& calcolo) {
             {"rotture", rotture}};
 }
 
+Json giudizi(const Esito& esito) {
+    Json tutti = Json::array();
+    for (const safety::VerificaGiudicata& v : esito.giudizi)
+        tutti.push_back(
+            {{"verifica", answers::parola(v.cosa)}, {"esito", safety::parola(v.giudizio)}});
+    return tutti;
+}
+
 Json calcolo(const Esito& esito) {
     Json fasi = Json::array();
     for (const auto& riga : esito.calcolo->fasi) fasi.push_back(fase(riga, esito));
@@ -101,6 +109,7 @@ Json calcolo(const Esito& esito) {
             {"fattore_azioni", chiusura.fsAzioni},
             {"verifica_flessione", flessione(*esito.calcolo)},
             {"verifica_taglio", taglio(*esito.calcolo)},
+            {"giudizi", giudizi(esito)},
             {"tiranti", tiranti(*esito.calcolo)}};
 }
 

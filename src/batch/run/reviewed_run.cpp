@@ -12,6 +12,7 @@
 #include "commands/report_files.hpp"
 #include "project/project_data.hpp"
 #include "review/result_review.hpp"
+#include "safety/short_margin.hpp"
 
 namespace korven::batch {
 
@@ -48,8 +49,12 @@ void preparaProgetto(const Opzioni& opzioni, Esito& esito) {
 review::Osservazioni aggiungiRisultati(const project::DatiProgetto& dati, Esito& esito) {
     const auto nSeg = analysis::leggiNSeg(analysis::vincoli(dati).incastroPiede);
     if (!nSeg || esito.causa == safety::Causa::rifiutato || Interruzioni::chiesta() != 0) return {};
-    auto trovate = esito.margine ? review::esaminaRisultati(dati, *esito.margine)
-                                 : review::esaminaRisultati(dati, *nSeg);
+    std::optional<safety::MargineBreve> breve;
+    if (!esito.margine) breve = safety::margineBreve(dati, *nSeg);
+    if (!esito.margine && !breve) return {};
+    const safety::Margine& margine = breve ? breve->margine : *esito.margine;
+    esito.giudizi = safety::giudizi(margine);
+    const auto trovate = review::esaminaRisultati(breve ? breve->dati : dati, margine);
     auto& tutte = esito.osservazioni;
     tutte.insert(tutte.end(), trovate.begin(), trovate.end());
     perPeso(tutte);

@@ -37,6 +37,7 @@ Json caso(const EsitoCaso& esito) {
             {"verdetto", codice(esito.verdetto)},
             {"noto",
              esito.caso->noto.empty() ? Json(nullptr) : Json(base::traduttore(esito.caso->noto))},
+            {"rientrato", esito.rientrato()},
             {"righe", righe}};
 }
 

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "base/folders/file_names.hpp"
+#include "base/number_text.hpp"
 #include "batch/run/csv.hpp"
 #include "project/project_data.hpp"
 #include "workbook/sheets.hpp"
@@ -28,7 +29,7 @@ std::string csvFoglio(const tables::Prospetto& prospetto) {
     for (const auto& riga : prospetto.righe) {
         for (const tables::Cella& cella : riga)
             if (cella.numero)
-                csv.campo(*cella.numero);
+                csv.campo(base::quindiciCifre(*cella.numero));
             else
                 csv.campo(cella.testo == tables::nessuno ? std::string_view() : cella.testo);
         csv.fineRiga();

@@ -7,13 +7,16 @@
 #include "report/annex/columns.hpp"
 #include "report/annex/section_tables.hpp"
 #include "report/annex/table_pieces.hpp"
+#include "safety/check_verdict.hpp"
 #include "structure/partial_factors.hpp"
 #include "tables/check_table.hpp"
+#include "tables/check_words.hpp"
 #include "tables/quantities.hpp"
 
 namespace korven::report {
 
 using base::traduttore;
+using dossier::Verifica;
 using live::DoveVerifica;
 using tables::Cella;
 using tables::Prospetto;
@@ -23,16 +26,22 @@ namespace {
 
 // One check of the section.
 struct Controllo {
-    const project::Unita& unita;
-    const char* cosa;             // Italian key
+    Verifica cosa;
     double progetto, resistenza;  // in the shown unit
     DoveVerifica dove;
-    bool fallito;
+    Cella esito;
 };
+
+// Of a wall that does not stand only the stages before are known.
+Cella esito(const dossier::Fascicolo& f, Verifica cosa) {
+    if (!f.parete.sta() || !f.margine)
+        return tables::senza(traduttore("La paratia non è in equilibrio."));
+    return tables::esito(giudizio(*f.margine, cosa));
+}
 
 std::vector<Cella> riga(const Controllo& c, bool conAzioni) {
     const auto numero = [](double v) { return tables::cella(v, 2, unita::nessuna); };
-    std::vector<Cella> riga{conUnita(c.unita, c.cosa)};
+    std::vector<Cella> riga{conUnita(tables::unitaDi(c.cosa), tables::nome(c.cosa))};
     if (!conAzioni) {
         const Cella manca = tables::senza(
             traduttore("Azioni non note: la paratia non è calcolata o non è in equilibrio."));
@@ -41,11 +50,10 @@ std::vector<Cella> riga(const Controllo& c, bool conAzioni) {
     }
     const Cella progetto = numero(c.progetto);
     const bool nullo = c.dove.fase == 0 || stampataNulla(progetto);
-    riga.insert(riga.end(), {progetto, numero(c.resistenza), tables::uso(c.progetto, c.resistenza),
-                             nullo ? senzaPosto() : tables::cella(c.dove.fase),
-                             nullo ? senzaPosto() : tables::profondita(c.dove.z, c.dove.lato),
-                             tables::esito(traduttore(c.fallito ? "NON verificata" : "verificata"),
-                                           c.fallito)});
+    riga.insert(riga.end(),
+                {progetto, numero(c.resistenza), tables::uso(c.progetto, c.resistenza),
+                 nullo ? senzaPosto() : tables::cella(c.dove.fase),
+                 nullo ? senzaPosto() : tables::profondita(c.dove.z, c.dove.lato), c.esito});
     return riga;
 }
 
@@ -68,15 +76,19 @@ Prospetto prospettoControlli(const dossier::Fascicolo& f) {
                 .colonne = {colonna("Verifica"), numeri("Di progetto"), numeri("Resistenza"),
                             numeri(unita::percento, "Sfruttamento"), numeri("Fase"),
                             simboli(unita::metri, "z"), colonna("Esito")}};
-    const auto aggiungi = [&](const Controllo& c) { p.righe.push_back(riga(c, tutti.conAzioni)); };
+    const auto aggiungi = [&](Verifica cosa, double progetto, double resistenza,
+                              const DoveVerifica& dove) {
+        p.righe.push_back(
+            riga({cosa, progetto, resistenza, dove, esito(f, cosa)}, tutti.conAzioni));
+    };
     if (tutti.flessione) {
         const results::ConfrontoMomenti& c = *tutti.flessione;
         const project::Unita& u = unita::momentoAlMetro;
-        aggiungi({u, "Flessione, momento positivo", mostrato(u, c.mdMax), mostrato(u, c.mrPos),
-                  tutti.positivo, c.fallitaPos()});
+        aggiungi(Verifica::momentoPositivo, mostrato(u, c.mdMax), mostrato(u, c.mrPos),
+                 tutti.positivo);
         if (c.negativo || !tutti.conAzioni)
-            aggiungi({u, "Flessione, momento negativo", mostrato(u, c.mdMin), mostrato(u, c.mrNeg),
-                      tutti.negativo, c.fallitaNeg()});
+            aggiungi(Verifica::momentoNegativo, mostrato(u, c.mdMin), mostrato(u, c.mrNeg),
+                     tutti.negativo);
         else
             p.note.push_back(traduttore("Nessun momento negativo agisce."));
         for (const auto& [lato, momento] : {std::pair(&f.flessione->positivo, "momento positivo"),
@@ -86,10 +98,8 @@ Prospetto prospettoControlli(const dossier::Fascicolo& f) {
     }
     if (tutti.taglio) {
         const structure::ConfrontoTaglio& c = *tutti.taglio;
-        aggiungi({unita::forzaAlMetro, "Taglio, bielle di calcestruzzo", c.Vsd, c.Vrd2,
-                  tutti.diTaglio, c.rotturaBielle()});
-        aggiungi({unita::forzaAlMetro, "Taglio, armatura d'anima", c.Vsd, c.Vrd3, tutti.diTaglio,
-                  c.rotturaArmatura()});
+        aggiungi(Verifica::bielle, c.Vsd, c.Vrd2, tutti.diTaglio);
+        aggiungi(Verifica::armatura, c.Vsd, c.Vrd3, tutti.diTaglio);
     }
     return p;
 }

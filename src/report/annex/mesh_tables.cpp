@@ -36,20 +36,6 @@ tables::Colonna testa(const Margine& margine, int volte, const project::Unita& u
     return c;
 }
 
-Cella esito(const safety::UsoMaglia& u) {
-    switch (u.esito()) {
-        case safety::EsitoMaglie::verificata:
-            return tables::esito(traduttore("verificata"), false);
-        case safety::EsitoMaglie::fallita:
-            return tables::esito(traduttore("NON verificata"), true);
-        case safety::EsitoMaglie::cambia:
-            return tables::esito(traduttore("cambia con la maglia"), true);
-        case safety::EsitoMaglie::nonAssestata:
-            break;
-    }
-    return tables::esito(traduttore("non assestata"), true);
-}
-
 // "Taglio, tiro: ...": the rows without an order, by the reason.
 class SenzaOrdine {
  public:
@@ -118,7 +104,7 @@ tables::Prospetto prospettoUsiMaglia(const Margine& margine) {
             riga.push_back(uso ? tables::uso(uso->progetto, uso->resistenza) : Cella{});
         const auto limite = u.limite();
         riga.push_back(limite ? tables::cella(*limite, 1, unita::percento) : Cella{});
-        riga.push_back(esito(u));
+        riga.push_back(tables::esito(giudizio(margine, u.cosa)));
     }
     p.note.push_back(traduttore(
         "Con i numeri della soluzione di equilibrio; il taglio è il massimo di tutte le fasi."));

@@ -215,7 +215,7 @@ void taglio(const Fascicolo& f, Blocchi& blocchi) {
 void relazione(const Fascicolo& f, Blocchi& blocchi) {
     if (!f.conRelazione()) return;
     titolo(2, "Le verifiche della relazione", blocchi);
-    auto p = tables::prospettoVerifiche(f.parete, *f.margine);
+    auto p = tables::prospettoVerificheRelazione(f.parete, *f.margine);
     p.titolo.clear();
     p.note.push_back(
         traduttore("Come nella relazione, questi numeri sono troncati alla seconda cifra decimale; "

@@ -11,7 +11,7 @@
 #include "report/annex/columns.hpp"
 #include "report/annex/section_rows.hpp"
 #include "structure/partial_factors.hpp"
-#include "structure/section_type.hpp"
+#include "tables/check_words.hpp"
 
 namespace korven::report {
 
@@ -20,7 +20,6 @@ using base::testoDecimali;
 using base::traduttore;
 using dossier::Fascicolo;
 using dossier::ValoriTaglio;
-using structure::TipoSezione;
 using tables::Prospetto;
 
 namespace {
@@ -75,32 +74,21 @@ Prospetto prospettoScostamentiTaglio(const project::DatiProgetto& dati, const Va
 
 std::string percheSenzaTaglio(const Fascicolo& f) {
     assert(!f.taglio);
-    if (!f.flessione) return traduttore("La sezione non è definita.");
-    switch (structure::tipoSezione(f.parete.dati.sezione)) {
-        case TipoSezione::diaframma:
-            return traduttore("Il programma non ha una verifica a taglio per i diaframmi.");
-        case TipoSezione::pali:
-            return traduttore("Il programma non ha una verifica a taglio per i pali tubolari.");
-        case TipoSezione::palancola:
-            return traduttore("Il programma non ha una verifica a taglio per le palancole.");
-        case TipoSezione::paliArmati:
-            return traduttore(
-                "Per i pali armati il taglio si verifica solo con le staffe scritte.");
-        case TipoSezione::nessuno:
-            break;
-    }
-    return traduttore("La sezione non è definita.");
+    return tables::percheSenzaTaglio(f.parete.dati.sezione);
 }
 
 std::string taglioDaVerificare(const Fascicolo& f) {
+    // The shear of the stages before the one that falls is not the wall's largest.
+    if (!f.parete.sta()) return traduttore("La paratia non è in equilibrio.");
     const equilibrium::Estremo& T = f.parete.estremi.taglio;
-    if (T.fase == 0) return {};
+    const auto Vd = dossier::taglioDiProgetto(f.parete);
+    if (!Vd) return {};
     const double V = std::fabs(project::inKilonewton(T.valore));
-    return riempito(traduttore("Da verificare a parte: taglio di progetto %1 · %2 = %3 kN/m (fase "
-                               "%4, z = %5 m)."),
-                    {testoDecimali(structure::fsAzioniSezione, 2), project::numeroMostrato(V, 3),
-                     project::numeroMostrato(structure::fsAzioniSezione * V, 2),
-                     std::to_string(T.fase), project::numeroMostrato(T.z, 2)});
+    return riempito(
+        traduttore("Da verificare a parte: taglio di progetto %1 · %2 = %3 kN/m (fase "
+                   "%4, z = %5 m)."),
+        {testoDecimali(structure::fsAzioniSezione, 2), project::numeroMostrato(V, 3),
+         project::numeroMostrato(*Vd, 2), std::to_string(T.fase), project::numeroMostrato(T.z, 2)});
 }
 
 }  // namespace korven::report

@@ -17,7 +17,8 @@ namespace korven::report {
 /// Why there is no shear check, in a sentence. @pre there is none: asserted
 [[nodiscard]] std::string percheSenzaTaglio(const dossier::Fascicolo& fascicolo);
 
-/// The design shear that is then to be checked elsewhere; empty where no stage stands.
+/// The design shear that is then to be checked elsewhere, or that the wall does not stand; empty
+/// where there is none.
 [[nodiscard]] std::string taglioDaVerificare(const dossier::Fascicolo& fascicolo);
 
 }  // namespace korven::report

@@ -13,6 +13,7 @@
 #include "report/annex/columns.hpp"
 #include "report/annex/table_pieces.hpp"
 #include "tables/check_table.hpp"
+#include "tables/check_words.hpp"
 #include "tables/quantities.hpp"
 
 namespace korven::report {
@@ -23,7 +24,6 @@ using dossier::Doppio;
 using dossier::Fascicolo;
 using dossier::LatoVerifica;
 using dossier::NumeroDoppio;
-using dossier::Verifica;
 using dossier::VerificaDoppia;
 using tables::Cella;
 using tables::Prospetto;
@@ -112,12 +112,6 @@ std::vector<NumeroDoppio> diFase(const Fascicolo& f, int fase) {
     return suoi;
 }
 
-const project::Unita& unitaDi(Verifica cosa) {
-    return cosa == Verifica::momentoPositivo || cosa == Verifica::momentoNegativo
-               ? unita::momentoAlMetro
-               : unita::forzaAlMetro;
-}
-
 std::vector<Cella> celle(const LatoVerifica& lato, Cella (*numero)(double)) {
     return {numero(lato.progetto), tables::uso(lato.progetto, lato.resistenza),
             tables::cella(lato.dove.fase), tables::dove(lato.dove.fase, lato.dove.z)};
@@ -156,20 +150,6 @@ std::string fraseDoppi(const Fascicolo& f, int fase) {
     return inFrase(riempito(traduttore("La relazione ha qui altri numeri. %1"), {testo}));
 }
 
-const char* nomeVerifica(Verifica verifica) {
-    switch (verifica) {
-        case Verifica::momentoPositivo:
-            return "Flessione, momento positivo";
-        case Verifica::momentoNegativo:
-            return "Flessione, momento negativo";
-        case Verifica::bielle:
-            return "Taglio, bielle di calcestruzzo";
-        case Verifica::armatura:
-            break;
-    }
-    return "Taglio, armatura d'anima";
-}
-
 Prospetto prospettoVerificheDoppie(const Fascicolo& f) {
     Prospetto p{.titolo = traduttore("Le stesse verifiche, dove la relazione ha altri numeri"),
                 .colonne = {colonna("Verifica"), colonna("Numeri di"), numeri("Di progetto"),
@@ -179,8 +159,9 @@ Prospetto prospettoVerificheDoppie(const Fascicolo& f) {
         if (v.perche.empty()) continue;
         const auto riga = [&](const char* chi, const LatoVerifica& lato, Cella (*numero)(double),
                               const std::string& perche) {
-            auto& celle_ = p.righe.emplace_back(std::vector<Cella>{
-                conUnita(unitaDi(v.cosa), nomeVerifica(v.cosa)), tables::parola(traduttore(chi))});
+            auto& celle_ = p.righe.emplace_back(
+                std::vector<Cella>{conUnita(tables::unitaDi(v.cosa), tables::nome(v.cosa)),
+                                   tables::parola(traduttore(chi))});
             for (Cella& c : celle(lato, numero)) celle_.push_back(std::move(c));
             celle_.push_back(tables::parola(perche));
         };

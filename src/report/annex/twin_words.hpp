@@ -22,7 +22,4 @@ namespace korven::report {
 /// or there is none.
 [[nodiscard]] tables::Prospetto prospettoVerificheDoppie(const dossier::Fascicolo& fascicolo);
 
-/// "Flessione, momento positivo": an Italian key.
-[[nodiscard]] const char* nomeVerifica(dossier::Verifica verifica);
-
 }  // namespace korven::report

@@ -16,6 +16,7 @@
 #include "report/annex/shear_rules.hpp"
 #include "report/annex/table_pieces.hpp"
 #include "review/limits.hpp"
+#include "safety/check_verdict.hpp"
 #include "safety/margin_words.hpp"
 #include "tables/margin_table.hpp"
 #include "tables/quantities.hpp"
@@ -27,6 +28,7 @@ using base::traduttore;
 using dossier::Fascicolo;
 using dossier::LatoVerifica;
 using dossier::VerificaDoppia;
+using safety::Giudizio;
 using tables::Cella;
 using tables::parola;
 namespace unita = project::unita;
@@ -46,8 +48,21 @@ struct Genere {
 constexpr Genere maschile = {"verificato", "NON verificato", "non assestato"};
 constexpr Genere femminile = {"verificata", "NON verificata", "non assestata"};
 
-Cella verdetto(const Genere& genere, bool fallito) {
-    return tables::esito(traduttore(fallito ? genere.fallito : genere.riuscito), fallito);
+Cella verdetto(const Genere& genere, Giudizio giudizio) {
+    const auto parole = [&]() -> std::string {
+        switch (giudizio) {
+            case Giudizio::verificata:
+                return genere.riuscito;
+            case Giudizio::nonAssestata:
+                return genere.nonAssestato;
+            case Giudizio::fallita:
+                return genere.fallito;
+            case Giudizio::cambia:
+                break;
+        }
+        return std::string(nome(giudizio));
+    };
+    return tables::esito(traduttore(parole()), giudizio != Giudizio::verificata);
 }
 
 Cella nessunaVerifica() { return parola(traduttore("nessuna verifica")); }
@@ -132,35 +147,28 @@ std::string sfruttamenti(const VerificaDoppia* v) {
                     {equilibrio.empty() ? tables::nessuno : equilibrio, relazione});
 }
 
-// A check that holds with this mesh and fails with a finer one, or goes to where it fails; a
-// paragraph below says to what.
-bool nonAssestata(const Fascicolo& f, std::initializer_list<dossier::Verifica> quali) {
-    if (!f.margine || !f.margine->maglia) return false;
-    const auto& usi = f.margine->maglia->usi;
-    return std::any_of(usi.begin(), usi.end(), [&](const safety::UsoMaglia& u) {
-        const safety::EsitoMaglie esito = u.esito();
-        return (esito == safety::EsitoMaglie::nonAssestata ||
-                esito == safety::EsitoMaglie::cambia) &&
-               std::find(quali.begin(), quali.end(), u.cosa) != quali.end();
-    });
+// The heaviest of some checks; a paragraph below says what finer meshes make of them.
+Giudizio peggiore(const Fascicolo& f, std::initializer_list<dossier::Verifica> quali) {
+    Giudizio peggiore = Giudizio::verificata;
+    for (const dossier::Verifica cosa : quali)
+        if (f.margine) peggiore = std::max(peggiore, giudizio(*f.margine, cosa).value_or(peggiore));
+    return peggiore;
 }
 
 std::vector<Cella> verifica(const char* cosa, const Genere& genere, const Fascicolo& f,
                             std::initializer_list<dossier::Verifica> quali) {
-    const bool fallita = std::any_of(f.verifiche.begin(), f.verifiche.end(), [&](const auto& v) {
-        return std::find(quali.begin(), quali.end(), v.cosa) != quali.end() && v.fallita();
-    });
     std::string dettaglio = sfruttamenti(piuSfruttata(f, quali));
     if (dettaglio.empty()) dettaglio = traduttore("La resistenza è 0.");
-    const bool assestata = fallita || !nonAssestata(f, quali);
-    return riga(cosa,
-                assestata ? verdetto(genere, fallita)
-                          : tables::esito(traduttore(genere.nonAssestato), true),
-                std::move(dettaglio));
+    return riga(cosa, verdetto(genere, peggiore(f, quali)), std::move(dettaglio));
+}
+
+Giudizio equilibrioInFasi(const Fascicolo& f) {
+    if (!f.parete.sta()) return Giudizio::fallita;
+    return f.margine && !assestata(*f.margine) ? Giudizio::cambia : Giudizio::verificata;
 }
 
 std::vector<Cella> equilibrio(const Fascicolo& f) {
-    return riga("Equilibrio di tutte le fasi", verdetto(maschile, !f.parete.sta()),
+    return riga("Equilibrio di tutte le fasi", verdetto(maschile, equilibrioInFasi(f)),
                 f.margine ? margineInBreve(f) : f.parete.rifiuto);
 }
 

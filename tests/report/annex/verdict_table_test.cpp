@@ -18,6 +18,14 @@ tables::Prospetto verdetti(const project::DatiProgetto& dati) {
     return prospettoVerdetti(*contesto(dati).fascicolo);
 }
 
+// The margin has the checks that the dossier shows.
+dossier::Fascicolo giudicato(dossier::Fascicolo f) {
+    f.margine->verifiche.clear();
+    for (const auto& v : f.verifiche)
+        f.margine->verifiche.push_back({v.cosa, v.equilibrio, v.relazione});
+    return f;
+}
+
 dossier::Fascicolo conVerifica(dossier::LatoVerifica equilibrio, dossier::LatoVerifica relazione) {
     auto dati = test::progettoSemplice();
     dati.sezione = structure::diaframmaSimmetrico();
@@ -30,8 +38,8 @@ dossier::Fascicolo conVerifica(dossier::LatoVerifica equilibrio, dossier::LatoVe
 }
 
 TEST(ProspettoVerdetti, TellsBothUsesAndIsOfTheWorse) {
-    const auto p =
-        prospettoVerdetti(conVerifica({{98, 100, false}, {2, 5}}, {{101, 100, true}, {2, 5}}));
+    const auto p = prospettoVerdetti(
+        giudicato(conVerifica({{98, 100, false}, {2, 5}}, {{101, 100, true}, {2, 5}})));
     const auto flessione = riga(p, "Flessione");
     EXPECT_EQ(flessione[1].testo, "NON verificata");
     EXPECT_EQ(flessione[2].testo,
@@ -40,8 +48,8 @@ TEST(ProspettoVerdetti, TellsBothUsesAndIsOfTheWorse) {
 }
 
 TEST(ProspettoVerdetti, TellsOneUseWhereBothAreTheSame) {
-    const auto p =
-        prospettoVerdetti(conVerifica({{98, 100, false}, {2, 5}}, {{98.001, 100, false}, {2, 5}}));
+    const auto p = prospettoVerdetti(
+        giudicato(conVerifica({{98, 100, false}, {2, 5}}, {{98.001, 100, false}, {2, 5}})));
     EXPECT_EQ(riga(p, "Flessione")[1].testo, "verificata");
     EXPECT_EQ(riga(p, "Equilibrio di tutte le fasi")[1].testo, "verificato");
     EXPECT_EQ(riga(p, "Flessione")[2].testo,
@@ -66,16 +74,41 @@ TEST(ProspettoVerdetti, CallsACheckNotSettledThatGoesBeyondTheResistance) {
     const auto uso = [](double u) { return results::Uso{u, 100, false}; };
     f.margine->maglia->usi = {
         {dossier::Verifica::momentoPositivo, {uso(90.2), uso(94.5), uso(98.2)}}};
-    EXPECT_EQ(riga(prospettoVerdetti(f), "Flessione")[1].testo, "non assestata");
+    EXPECT_EQ(riga(prospettoVerdetti(giudicato(f)), "Flessione")[1].testo, "non assestata");
     f.verifiche[0].relazione = dossier::LatoVerifica{{101, 100, true}, {2, 5}};
-    EXPECT_EQ(riga(prospettoVerdetti(f), "Flessione")[1].testo, "NON verificata");
+    EXPECT_EQ(riga(prospettoVerdetti(giudicato(f)), "Flessione")[1].testo, "NON verificata");
     f.verifiche[0].relazione.reset();
     f.margine->maglia->usi = {
         {dossier::Verifica::momentoPositivo, {uso(90.2), uso(91), uso(91.5)}}};
-    EXPECT_EQ(riga(prospettoVerdetti(f), "Flessione")[1].testo, "verificata");
+    EXPECT_EQ(riga(prospettoVerdetti(giudicato(f)), "Flessione")[1].testo, "verificata");
     f.margine->maglia->usi = {
         {dossier::Verifica::momentoPositivo, {uso(98.0), uso(98.9), results::Uso{101, 100, true}}}};
-    EXPECT_EQ(riga(prospettoVerdetti(f), "Flessione")[1].testo, "non assestata");
+    EXPECT_EQ(riga(prospettoVerdetti(giudicato(f)), "Flessione")[1].testo, "cambia con la maglia");
+}
+
+// What a finer mesh does not hold in equilibrium is told of all three.
+TEST(ProspettoVerdetti, CallsNothingVerifiedThatFallsWithAFinerMesh) {
+    dossier::Fascicolo f = conVerifica({{50, 100, false}, {2, 5}}, {{50, 100, false}, {2, 5}});
+    f.margine->maglia.reset();
+    const auto p = prospettoVerdetti(giudicato(f));
+    EXPECT_EQ(riga(p, "Flessione")[1].testo, "cambia con la maglia");
+    EXPECT_EQ(riga(p, "Equilibrio di tutte le fasi")[1].testo, "cambia con la maglia");
+}
+
+// Of a wall that falls bending and shear are told alike, not the shear of the stages before.
+TEST(ProspettoVerdetti, TellsNoDesignShearOfAWallThatFalls) {
+    auto dati = test::progettoSemplice();
+    dati.sezione = structure::diaframmaSimmetrico();
+    EXPECT_NE(riga(verdetti(dati), "Taglio")[2].testo.find("taglio di progetto 1.40"),
+              std::string::npos);
+    dati.profFase[2] = 11.9;
+    dati.tirantiFase[2] = 0;
+    const auto p = verdetti(dati);
+    for (const char* cosa : {"Flessione", "Taglio"}) {
+        EXPECT_EQ(riga(p, cosa)[1].testo, "nessuna verifica");
+        EXPECT_TRUE(riga(p, cosa)[2].testo.ends_with("La paratia non è in equilibrio.")) << cosa;
+        EXPECT_EQ(riga(p, cosa)[2].testo.find("taglio di progetto"), std::string::npos) << cosa;
+    }
 }
 
 TEST(ProspettoVerdetti, SaysWhatHoldsAWallWhoseFactorIsBeyondTheRange) {
