@@ -149,7 +149,7 @@ Cella esito(std::optional<safety::Giudizio> giudizio) {
 
 Colonna colonnaTendenza() {
     return colonna(unita::percento, "Tendenza",
-                   "Lo sfruttamento a cui vanno maglie sempre più fini");
+                   "Lo sfruttamento a cui tendono maglie sempre più fini");
 }
 
 Cella tendenza(const Margine& margine, Verifica cosa) {

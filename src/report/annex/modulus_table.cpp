@@ -59,7 +59,7 @@ void lineare(const Fascicolo& f, Prospetto& p) {
             riga(j, "valle", dati.profStrato[j]);
         }
     }
-    p.note.push_back("ks = ks(t) + (ks(b) − ks(t)) · (z − t) / (b − t)");
+    p.note.emplace_back("ks = ks(t) + (ks(b) − ks(t)) · (z − t) / (b − t)");
     p.note.push_back(traduttore("t, b: profondità della testa e del fondo dello strato."));
     if (const int n = strati(f); n > 0 && dati.modoKs != project::ModoKs::comeMonte)
         p.note.push_back(riempito(
