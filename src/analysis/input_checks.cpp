@@ -1,5 +1,6 @@
 #include "analysis/input_checks.hpp"
 
+#include "base/colon.hpp"
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
 #include "project/codes.hpp"
@@ -33,8 +34,8 @@ std::string motivoTiranti(const DatiProgetto& dati) {
     for (int k = 1; k <= dati.nFasi; ++k)
         if (!(dati.tirantiFase[k] < project::massimoTiranti + 1))
             return base::traduttore("fase") + " " + std::to_string(k) + ": " +
-                   base::traduttore("più tiranti di quanti ne tiene la tabella (20)") + ": " +
-                   base::testoNumero(dati.tirantiFase[k]);
+                   base::traduttore("più tiranti di quanti ne tiene la tabella (20)") +
+                   base::duePunti() + base::testoNumero(dati.tirantiFase[k]);
     return {};
 }
 

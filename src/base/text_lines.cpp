@@ -1,6 +1,7 @@
 #include "base/text_lines.hpp"
 
 #include "base/code_page.hpp"
+#include "base/colon.hpp"
 #include "base/file_error.hpp"
 #include "base/files.hpp"
 #include "base/number_text.hpp"
@@ -57,7 +58,7 @@ bool LettoreRighe::soloRigheVuote() const {
 std::string_view LettoreRighe::prossima(std::string_view atteso) {
     ++letta_;
     if (posizione_ >= contenuto_.size())
-        rifiuta(traduttore("il file termina qui, atteso") + ": " + std::string(atteso));
+        rifiuta(traduttore("il file termina qui, atteso") + duePunti() + std::string(atteso));
     std::string_view riga = std::string_view(contenuto_).substr(posizione_);
     const std::size_t fine = riga.find('\n');
     posizione_ += fine == std::string_view::npos ? riga.size() : fine + 1;
@@ -70,14 +71,14 @@ std::string LettoreRighe::riga(std::string_view atteso) { return daCp1252(prossi
 
 double LettoreRighe::numero(std::string_view atteso) {
     if (const auto valore = leggiNumero(prossima(atteso))) return *valore;
-    rifiuta(traduttore("atteso un numero") + ": " + std::string(atteso));
+    rifiuta(traduttore("atteso un numero") + duePunti() + std::string(atteso));
 }
 
 double LettoreRighe::numeroSolo(double minimo, double massimo, std::string_view atteso) {
     const std::string_view scritto = prossima(atteso);
     const auto valore = leggiNumero(scritto);
     if (!valore || !soloUnNumero(scritto))
-        rifiuta(traduttore("atteso un numero") + ": " + std::string(atteso));
+        rifiuta(traduttore("atteso un numero") + duePunti() + std::string(atteso));
     if (!(*valore >= minimo && *valore <= massimo))
         rifiuta(traduttore("valore fuori dai limiti") + " (" + testoNumero(minimo) + " - " +
                 testoNumero(massimo) + "): " + std::string(atteso));

@@ -4,6 +4,7 @@
 #include <system_error>
 #include <utility>
 
+#include "base/colon.hpp"
 #include "base/file_error.hpp"
 #include "base/files.hpp"
 #include "base/translated_texts.hpp"
@@ -76,8 +77,8 @@ void Documento::apriRecente(const std::string& percorso) {
     if (base::esisteFile(percorso))
         apri(percorso);
     else
-        dialogo_.messaggio(traduttore("File non trovato") + ": " + percorso, attenzione(),
-                           base::Icona::avviso);
+        dialogo_.messaggio(traduttore("File non trovato") + base::duePunti() + percorso,
+                           attenzione(), base::Icona::avviso);
 }
 
 void Documento::apriNome(const std::string& risposta) {
@@ -136,7 +137,7 @@ void Documento::mettiNome(const std::string& nome) {
     suDisco_.ricorda(nome);
     project::progettiProtetti.letto.clear();
     // A new user's first project would else lie unnoticed beside the examples.
-    stato_ = traduttore("Nuovo progetto, non ancora salvato") + ": " + nome + " (" +
+    stato_ = traduttore("Nuovo progetto, non ancora salvato") + base::duePunti() + nome + " (" +
              traduttore("un'altra cartella si sceglie con Salva") + ")";
     mostraStato();
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/code_page.hpp"
+#include "base/colon.hpp"
 #include "base/number_reading.hpp"
 #include "base/number_text.hpp"
 #include "base/table.hpp"
@@ -43,8 +44,9 @@ ModelloGriglia::ModelloGriglia(const Maschera& maschera, const std::vector<std::
 std::string ModelloGriglia::righeDiTroppo() const {
     const int righe = celle_.righeConDati();
     if (righe <= capienza_) return {};
-    return base::traduttore("righe scritte") + ": " + std::to_string(righe) + ", " +
-           base::traduttore("capienza della tabella") + ": " + std::to_string(capienza_);
+    return base::traduttore("righe scritte") + base::duePunti() + std::to_string(righe) + ", " +
+           base::traduttore("capienza della tabella") + base::duePunti() +
+           std::to_string(capienza_);
 }
 
 std::string ModelloGriglia::titolo() const {

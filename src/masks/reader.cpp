@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "base/code_page.hpp"
+#include "base/colon.hpp"
 #include "base/dos_text.hpp"
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
@@ -82,7 +83,7 @@ class Lettore {
     }
 
     [[noreturn]] void nessunNumero(const std::string& cosa) const {
-        file_.rifiuta(traduttore("atteso un numero") + ": " + cosa);
+        file_.rifiuta(traduttore("atteso un numero") + base::duePunti() + cosa);
     }
 
     double numero(std::string_view cosa) {

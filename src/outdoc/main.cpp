@@ -2,6 +2,7 @@
 #include <iostream>
 #include <string>
 
+#include "base/colon.hpp"
 #include "base/folders/user_data.hpp"
 #include "base/process/closed_pipe.hpp"
 #include "base/process/program_questions.hpp"
@@ -42,9 +43,10 @@ int work(int argc, const char* const* argv) {
                       base::traduttore("Scrive accanto alla relazione (TAB) il documento per "
                                        "elaboratori di testi (DOC).") +
                       '\n');
-    if (argc != 2) return refuse(base::traduttore("Uso") + ": " + usage);
+    if (argc != 2) return refuse(base::traduttore("Uso") + base::duePunti() + usage);
     if (argument.starts_with("--"))
-        return refuse("outdoc: " + base::traduttore("argomento sconosciuto") + ": " + argument);
+        return refuse("outdoc: " + base::traduttore("argomento sconosciuto") + base::duePunti() +
+                      argument);
     const Converted converted = convertReport(argument);
     if (!converted.kept.empty())
         std::cerr << "outdoc: " << base::traduttore("Il documento che c'era è conservato in")

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <exception>
 
+#include "base/colon.hpp"
 #include "base/files.hpp"
 #include "base/folders/program_folder.hpp"
 #include "base/language.hpp"
@@ -24,7 +25,7 @@ std::string nomi(const Domanda& domanda) {
 }  // namespace
 
 std::string perAiuto(std::string_view programma) {
-    return traduttore("Per l'aiuto") + ": " + std::string(programma) + " " +
+    return traduttore("Per l'aiuto") + duePunti() + std::string(programma) + " " +
            domande.front().nome.mostrato();
 }
 
@@ -43,7 +44,7 @@ std::string testoAiuto(std::string_view uso) {
     for (const auto& domanda : domande) larghezza = std::max(larghezza, nomi(domanda).size());
     std::string testo = std::string(nomeEVersione) + " - " +
                         traduttore("Dimensionamento di Paratie e Diaframmi") + "\n" +
-                        traduttore("Uso") + ": " + std::string(uso) + "\n\n";
+                        traduttore("Uso") + duePunti() + std::string(uso) + "\n\n";
     for (const auto& domanda : domande) {
         std::string riga = "  " + nomi(domanda);
         riga.resize(larghezza + 4, ' ');
