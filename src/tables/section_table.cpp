@@ -85,10 +85,10 @@ struct Verifiche {
 // Symbols, since there is little room beside the sketch.
 // @param manca  why the design value is not known; empty where it is
 std::vector<Cella> riga(const char* simbolo, const project::Unita& u, const char* manca,
-                        double progetto, double resistenza, Cella esito) {
+                        double progetto, double resistenza, const Cella& esito) {
     const bool nota = *manca == '\0';
     const Cella nessuna = nota ? Cella{} : senza(traduttore(manca));
-    return {parola(std::string(simbolo) + " " + traParentesi(u)), nota ? std::move(esito) : nessuna,
+    return {parola(std::string(simbolo) + " " + traParentesi(u)), nota ? esito : nessuna,
             nota ? uso(progetto, resistenza) : nessuna, nota ? cifre(progetto) : nessuna,
             cifre(resistenza)};
 }
@@ -114,9 +114,9 @@ void flessione(const Verifiche& v, Prospetto& p) {
 void taglio(const Verifiche& v, Prospetto& p) {
     using results::Verifica;
     const auto& c = *v.controlli.taglio;
-    const auto aggiungi = [&](const char* simbolo, double VRd, Cella esito) {
-        p.righe.push_back(riga(simbolo, unita::forzaAlMetro, senzaAzioni(v.controlli), c.Vsd, VRd,
-                               std::move(esito)));
+    const auto aggiungi = [&](const char* simbolo, double VRd, const Cella& esito) {
+        p.righe.push_back(
+            riga(simbolo, unita::forzaAlMetro, senzaAzioni(v.controlli), c.Vsd, VRd, esito));
     };
     aggiungi("V, VRd2", c.Vrd2, v.esito(Verifica::bielle, c.rotturaBielle()));
     aggiungi("V, VRd3", c.Vrd3, v.esito(Verifica::armatura, c.rotturaArmatura()));

@@ -19,7 +19,6 @@ namespace {
 
 using base::traduttore;
 using dossier::Fascicolo;
-using dossier::LatoVerifica;
 using dossier::VerificaDoppia;
 using tables::Cella;
 using tables::colonna;

@@ -54,7 +54,7 @@ review::Osservazioni aggiungiRisultati(const project::DatiProgetto& dati, Esito&
     if (!esito.margine && !breve) return {};
     const safety::Margine& margine = breve ? breve->margine : *esito.margine;
     esito.giudizi = safety::giudizi(margine);
-    const auto trovate = review::esaminaRisultati(breve ? breve->dati : dati, margine);
+    auto trovate = review::esaminaRisultati(breve ? breve->dati : dati, margine);
     auto& tutte = esito.osservazioni;
     tutte.insert(tutte.end(), trovate.begin(), trovate.end());
     perPeso(tutte);
