@@ -3,6 +3,8 @@
 #include <cassert>
 #include <cmath>
 #include <functional>
+#include <optional>
+#include <string>
 #include <utility>
 
 #include "base/translated_texts.hpp"
@@ -139,7 +141,11 @@ Prospetto senzaNote(const PareteViva& parete, const Margine& margine, const char
 
 Cella cifre(double mostrato) {
     if (!std::isfinite(mostrato)) return senza(traduttore("nessun numero"));
-    return {.testo = project::numeroRelazione(mostrato), .numero = mostrato + 0.0};
+    std::string testo = project::numeroRelazione(mostrato);
+    // The report writes ".06".
+    if (const auto punto = testo.find('.'); punto == 0 || (punto == 1 && testo[0] == '-'))
+        testo.insert(punto, 1, '0');
+    return {.testo = std::move(testo), .numero = mostrato + 0.0};
 }
 
 Cella esito(std::optional<safety::Giudizio> giudizio) {

@@ -116,5 +116,11 @@ TEST(ProspettoVerifiche, OfAWallThatFallsOrWithoutASectionHasNoRows) {
     EXPECT_EQ(q.note[0], "Nessuna verifica: la sezione non è definita.");
 }
 
+TEST(Cifre, HaveANoughtBeforeThePointThoughTheReportHasNone) {
+    EXPECT_EQ(cifre(-0.06).testo, "-0.06");
+    EXPECT_EQ(cifre(0.5).testo, "0.50");
+    EXPECT_EQ(cifre(-12.34).testo, "-12.34");
+}
+
 }  // namespace
 }  // namespace korven::tables

@@ -205,8 +205,8 @@ std::vector<Primitiva> etichettePicchi(const std::vector<CampoPicchi>& campi,
                 aggiungi(numero, Linea{{p,
                                         {std::clamp(p.x, r.sinistra, r.destra),
                                          std::clamp(p.y, r.alto, r.basso)}},
-                                       {Ruolo::quota},
-                                       0.7});
+                                       {picco.ruolo},
+                                       1});
             for (Testo& testo : testi) aggiungi(numero, std::move(testo));
         }
     return tutte;

@@ -173,12 +173,12 @@ Scena scenaMeccanismo(const live::PareteViva& parete, int fase, const PressioniL
         c.nome = base::traduttore(nome);
         p.curve.push_back(std::move(c));
     };
-    curva(pressioni.monte, Ruolo::curva, "Monte");
-    curva(pressioni.valle, Ruolo::curvaValle, "Valle");
+    curva(pressioni.monte, Ruolo::curva, "monte");
+    curva(pressioni.valle, Ruolo::curvaValle, "valle");
     p.curve.back().tratteggio = scene::Tratteggio::linee;
     if (std::any_of(pressioni.acqua.begin(), pressioni.acqua.end(),
                     [](double v) { return v != 0; }))
-        curva(pressioni.acqua, Ruolo::acqua, "Acqua");
+        curva(pressioni.acqua, Ruolo::acqua, "acqua");
     return conPannelli(parete, fase, scaviDi(parete.dati, fase, fase), {std::move(p)}, {1},
                        misuraCarta(larga * larghezza, altezza), sezioneConNomi);
 }

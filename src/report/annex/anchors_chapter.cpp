@@ -168,7 +168,7 @@ void capitoloTiranti(const Contesto& contesto, Blocchi& blocchi) {
     if (f.parete.fasiInEquilibrio() > 0)
         tavola(perFase(f), blocchi);
     else
-        paragrafo(tables::perche(f.parete, 1), blocchi, document::Stile::pericolo);
+        paragrafo(percheInBreve(f.parete, 1), blocchi, document::Stile::pericolo);
 }
 
 }  // namespace korven::report

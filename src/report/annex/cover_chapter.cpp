@@ -91,14 +91,17 @@ void capitoloCopertina(const Contesto& contesto, Blocchi& blocchi) {
     blocchi.emplace_back(document::Tavola{identita(f)});
     blocchi.emplace_back(document::Tavola{prospettoVerdetti(f)});
     if (f.margine) avvisaMaglia(*f.margine, blocchi);
-    blocchi.emplace_back(Paragrafo{
-        traduttore(
-            "I numeri delle fasi sono quelli della soluzione di equilibrio: in ogni nodo le forze "
-            "si bilanciano, a meno dell'arrotondamento. La relazione di calcolo viene dal calcolo "
-            "per fasi, che cerca lo stesso equilibrio provando gli stati del terreno e dei tiranti "
-            "finché nessuno cambia più. I suoi numeri stanno accanto e sono detti della relazione; "
-            "dove i due differiscono, il documento lo dice."),
-        Stile::nota});
+    if (f.parete.fasiInEquilibrio() > 0)
+        blocchi.emplace_back(Paragrafo{traduttore("I numeri delle fasi sono quelli della soluzione "
+                                                  "di equilibrio: in ogni nodo le forze "
+                                                  "si bilanciano, a meno dell'arrotondamento. La "
+                                                  "relazione di calcolo viene dal calcolo "
+                                                  "per fasi, che cerca lo stesso equilibrio "
+                                                  "provando gli stati del terreno e dei tiranti "
+                                                  "finché nessuno cambia più. I suoi numeri stanno "
+                                                  "accanto e sono detti della relazione; "
+                                                  "dove i due differiscono, il documento lo dice."),
+                                       Stile::nota});
     // One below the other, with room to write above each.
     blocchi.emplace_back(
         Paragrafo{"\n" + firma("Progettista") + "\n\n" + firma("Verificatore"), {}});

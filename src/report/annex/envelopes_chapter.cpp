@@ -52,7 +52,7 @@ void capitoloInviluppi(const Contesto& contesto, Blocchi& blocchi) {
     const Fascicolo& f = *contesto.fascicolo;
     const int stanno = f.parete.fasiInEquilibrio();
     if (stanno == 0) {
-        paragrafo(tables::perche(f.parete, 0), blocchi, Stile::pericolo);
+        paragrafo(percheInBreve(f.parete, 0), blocchi, Stile::pericolo);
         return;
     }
     if (!f.parete.sta())

@@ -23,18 +23,19 @@ namespace {
 // The heading has said the title.
 void parte(const std::string& spiegazione, tables::Prospetto prospetto, Blocchi& blocchi) {
     blocchi.emplace_back(document::Titolo{2, std::exchange(prospetto.titolo, {})});
-    paragrafo(spiegazione, blocchi);
-    if (!prospetto.righe.empty()) return tavola(std::move(prospetto), blocchi);
+    if (!prospetto.righe.empty()) {
+        paragrafo(spiegazione, blocchi);
+        return tavola(std::move(prospetto), blocchi);
+    }
     for (const std::string& nota : prospetto.note) paragrafo(nota, blocchi);
 }
 
-// The statics alone where there is no report. Where an anchor is stands in its own chapter: a dash
-// is enough.
+// Where there is no report, why: its rows would hold dashes beside numbers of the stages.
 tables::Prospetto statica(const dossier::Fascicolo& f) {
     if (!f.doppi.empty()) return prospettoDoppi(f);
     tables::Prospetto p = tables::prospettoStatica(*f.margine);
     p.titolo = traduttore("Equilibrio e relazione");
-    for (auto& riga : p.righe) riga[3].perche.clear();
+    p.righe.clear();
     return p;
 }
 
@@ -80,6 +81,8 @@ void capitoloMargine(const Contesto& contesto, Blocchi& blocchi) {
     const Margine& margine = *f.margine;
     verdetto(margine, blocchi);
     margineDiFase(margine, blocchi);
+    // The verdict has said all that could be said of other meshes and of the report.
+    if (!margine.sta() && f.doppi.empty()) return;
     // Formulas stay on a line.
     parte(riempito(traduttore(
                        "I massimi di tutte le fasi con i segmenti del progetto, con il doppio e "

@@ -87,7 +87,7 @@ void unaFase(const Contesto& contesto, const dossier::TerrenoFase& terreno, Bloc
     const FaseEquilibrio* fase = f.parete.fase(terreno.fase);
     blocchi.emplace_back(document::Titolo{2, tables::titoloFase(terreno.fase)});
     if (fase == nullptr)
-        paragrafo(tables::perche(f.parete, terreno.fase), blocchi, document::Stile::pericolo);
+        paragrafo(percheInBreve(f.parete, terreno.fase), blocchi, document::Stile::pericolo);
     const auto picchi =
         fase != nullptr ? nodiDeiPicchi(f.parete, terreno.fase) : std::vector<std::size_t>{};
     const auto quali = righeScelte(f.terreno.monte.size(), contesto.opzioni.righe, picchi);
@@ -104,7 +104,7 @@ void unaFase(const Contesto& contesto, const dossier::TerrenoFase& terreno, Bloc
 void capitoloNodiTerreno(const Contesto& contesto, Blocchi& blocchi) {
     const Fascicolo& f = *contesto.fascicolo;
     if (f.terreno.fasi.empty()) {
-        paragrafo(tables::perche(f.parete, 1), blocchi, document::Stile::pericolo);
+        paragrafo(percheInBreve(f.parete, 1), blocchi, document::Stile::pericolo);
         return;
     }
     std::string frase = base::riempito(

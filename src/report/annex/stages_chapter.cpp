@@ -148,7 +148,7 @@ void unaFase(const Contesto& contesto, int fase, Blocchi& blocchi) {
     constexpr double postoFase = altezzaMinima + 5.8;  // [cm]
     blocchi.emplace_back(document::Titolo{2, tables::titoloFase(fase), postoFase});
     if (f.parete.fase(fase) == nullptr)
-        paragrafo(tables::perche(f.parete, fase), blocchi, Stile::pericolo);
+        paragrafo(inFrase(tables::perche(f.parete, fase)), blocchi, Stile::pericolo);
     tavola(prospettoCondizioni(f.parete.dati, fase), blocchi);
     if (f.parete.fase(fase) != nullptr) {
         blocchi.emplace_back(figura(contesto, fase));
@@ -183,7 +183,7 @@ void capitoloFasi(const Contesto& contesto, Blocchi& blocchi) {
     const int tutte = std::clamp(f.parete.dati.nFasi, 0, project::massimoFasi);
     for (int k = calcolate + 1; k <= tutte; ++k) {
         blocchi.emplace_back(document::Titolo{2, tables::titoloFase(k)});
-        paragrafo(tables::perche(f.parete, k), blocchi, Stile::pericolo);
+        paragrafo(inFrase(tables::perche(f.parete, k)), blocchi, Stile::pericolo);
     }
 }
 

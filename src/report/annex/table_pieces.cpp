@@ -6,6 +6,8 @@
 
 #include "base/code_page.hpp"
 #include "base/translated_texts.hpp"
+#include "safety/words.hpp"
+#include "tables/node_table.hpp"
 
 namespace korven::report {
 
@@ -59,6 +61,13 @@ std::string inFrase(std::string testo) {
     if (testo.empty()) return testo;
     testo = base::conMaiuscola(testo);
     return testo.back() == '.' ? testo : testo + '.';
+}
+
+std::string percheInBreve(const live::PareteViva& parete, int fase) {
+    const std::string tutto = tables::perche(parete, fase);
+    const bool qui = parete.rifiuto.empty() && parete.perche && fase <= parete.perche->fase;
+    const std::string breve = qui ? safety::inPocheParole(*parete.perche) : std::string();
+    return inFrase(tutto.empty() || breve.empty() ? tutto : breve);
 }
 
 }  // namespace korven::report

@@ -39,4 +39,8 @@ void tavola(tables::Prospetto prospetto, Blocchi& blocchi);
 /// With a capital first and a full stop last; empty stays empty.
 [[nodiscard]] std::string inFrase(std::string testo);
 
+/// Why a stage has no equilibrium, in few words: the chapter of the stages tells it whole.
+/// @param fase  0: of the first that has none, where none stands
+[[nodiscard]] std::string percheInBreve(const live::PareteViva& parete, int fase);
+
 }  // namespace korven::report

@@ -77,7 +77,7 @@ std::string parole(const project::DatiProgetto& dati, const NumeroDoppio& d) {
     const project::Unita& u = unitaDi(d.cosa);
     return riempito(
         traduttore("%1 %2 %3 a %4 m, invece di %5 a %6 m: %7"),
-        {nome(dati, d), project::numeroRelazione(mostrato(u, d.relazione)), std::string(u.mostrata),
+        {nome(dati, d), tables::cifre(mostrato(u, d.relazione)).testo, std::string(u.mostrata),
          tables::profondita(d.zRelazione).testo, project::numeroMostrato(d.equilibrio, 2, u),
          tables::profondita(d.zEquilibrio).testo, d.perche});
 }
@@ -126,12 +126,13 @@ Prospetto prospettoDoppi(const Fascicolo& f) {
                             simboli(unita::metri, "z"), numeri("Differenza"), numeri("Nota")}};
     Motivi motivi;
     for (const NumeroDoppio& d : f.doppi) {
-        if (d.equilibrio == 0 && d.relazione == 0) continue;
         const project::Unita& u = unitaDi(d.cosa);
+        const Cella equilibrio = tables::cella(d.equilibrio, 2, u);
+        const Cella relazione = tables::cifre(mostrato(u, d.relazione));
+        if (stampataNulla(equilibrio) && stampataNulla(relazione)) continue;
         p.righe.push_back(
             {tables::cella(d.fase), tables::parola(nome(f.parete.dati, d) + " " + traParentesi(u)),
-             tables::cella(d.equilibrio, 2, u), profondita(d, d.zEquilibrio),
-             tables::cifre(mostrato(u, d.relazione)), profondita(d, d.zRelazione),
+             equilibrio, profondita(d, d.zEquilibrio), relazione, profondita(d, d.zRelazione),
              d.diverso() ? tables::cella(d.relazione - d.equilibrio, 2, u) : Cella{.testo = ""},
              motivi.numero(d.perche)});
     }
