@@ -8,6 +8,7 @@
 
 #include "base/bound_units.hpp"
 #include "base/code_page.hpp"
+#include "base/number_text.hpp"
 #include "base/text_lines.hpp"
 #include "base/translated_texts.hpp"
 #include "document/line_breaking.hpp"
@@ -60,9 +61,9 @@ class Scrittore {
     }
 
     void scrivi(const Titolo& titolo) {
-        constexpr std::string_view corpi[] = {"14", "11", "9.5"};
+        const auto livello = static_cast<std::size_t>(std::clamp(titolo.livello, 1, 3));
         riga({});
-        direttiva("#FONTSIZE", corpi[std::clamp(titolo.livello, 1, 3) - 1]);
+        direttiva("#FONTSIZE", base::testoNumero(corpiTitoli.at(livello - 1)));
         riga(base::maiuscolo(inUnaRiga(titolo.testo)));
         direttiva("#FONTSIZE", corpo);
     }

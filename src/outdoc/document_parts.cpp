@@ -63,17 +63,20 @@ std::string style(std::string_view id, const std::string& name, const std::strin
 }
 
 // Lines are as close as in print.
-std::string styles() {
+std::string styles(int levels) {
+    std::string headings;
+    for (int level = 0; level < levels; ++level)
+        headings += style(
+            headingStyles.at(static_cast<std::size_t>(level)),
+            "heading " + std::to_string(level + 1),
+            "<w:pPr><w:keepNext/><w:outlineLvl w:val=\"" + std::to_string(level) + "\"/></w:pPr>");
     return declaration + "<w:styles" + nameSpaces +
            ">\n<w:docDefaults><w:rPrDefault><w:rPr/></w:rPrDefault><w:pPrDefault><w:pPr>"
            "<w:spacing w:before=\"0\" w:after=\"0\" w:line=\"240\" w:lineRule=\"auto\"/>"
            "</w:pPr></w:pPrDefault></w:docDefaults>\n"
            "<w:style w:type=\"paragraph\" w:default=\"1\" w:styleId=\"Normal\">"
            "<w:name w:val=\"Normal\"/><w:qFormat/></w:style>\n" +
-           style(titleStyle, "Title", "<w:pPr><w:keepNext/></w:pPr>") +
-           style(headingStyle, "heading 1",
-                 "<w:pPr><w:keepNext/><w:outlineLvl w:val=\"0\"/></w:pPr>") +
-           "</w:styles>\n";
+           style(titleStyle, "Title", "<w:pPr><w:keepNext/></w:pPr>") + headings + "</w:styles>\n";
 }
 
 std::string properties(const std::string& title, const std::string& mark) {
@@ -111,7 +114,7 @@ std::string documentBytes(const DocumentParts& parts) {
     add("_rels/.rels", packageRelations());
     addDocument(parts, file);
     add("word/_rels/document.xml.rels", documentRelations());
-    add("word/styles.xml", styles());
+    add("word/styles.xml", styles(parts.levels));
     add("word/header1.xml", margin("hdr", parts.header));
     add("word/footer1.xml", margin("ftr", parts.footer));
     file.add(markedPart, properties(parts.title, ownMark(file.files())), Packing::stored);

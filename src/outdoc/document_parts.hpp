@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -10,12 +11,13 @@ namespace korven::outdoc {
 
 // Styles of the document by which a word processor builds its outline.
 inline constexpr std::string_view titleStyle = "Title";
-inline constexpr std::string_view headingStyle = "Heading1";
+inline constexpr std::array<std::string_view, 3> headingStyles{"Heading1", "Heading2", "Heading3"};
 
 /// What a document is made of, the parts in the file's XML.
 struct DocumentParts {
     DocumentPage page;
     std::string title;   ///< plain text; shown by the word processor
+    int levels = 1;      ///< of headings, up to 3
     std::string header;  ///< paragraphs
     std::string footer;  ///< paragraphs
     /// Paragraphs and tables, in pieces: a long document is many megabytes, and not copied.

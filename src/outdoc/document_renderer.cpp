@@ -1,6 +1,7 @@
 #include "outdoc/document_renderer.hpp"
 
 #include <algorithm>
+#include <cassert>
 #include <cmath>
 #include <utility>
 
@@ -38,8 +39,15 @@ bool isHeading(std::string_view text) {
     return base::maiuscolo(text) == text && base::minuscolo(text) != text;
 }
 
+DocumentRenderer::DocumentRenderer(std::vector<double> headingSizes)
+    : headingSizes_(std::move(headingSizes)) {
+    assert(headingSizes_.size() <= headingStyles.size());
+    if (!headingSizes_.empty()) parts_.levels = static_cast<int>(headingSizes_.size());
+}
+
 void DocumentRenderer::open(ScanState&, std::string_view argument) {
-    *this = {};  // a further #RESET starts over, as in the plain text
+    // A further #RESET starts over, as in the plain text.
+    *this = DocumentRenderer(std::move(headingSizes_));
     opened_ = true;
     parts_.page = documentPage(argument);
     body_ = parts_.page.headerFont;
@@ -54,7 +62,8 @@ void DocumentRenderer::textLine(ScanState& state, std::string_view text) {
     line.alignment = state.alignment;
     belowHeading_ = isHeading(text);
     if (belowHeading_) {
-        line.style = state.alignment == Alignment::centre ? titleStyle : headingStyle;
+        line.style =
+            state.alignment == Alignment::centre ? titleStyle : headingStyles.at(headingLevel());
         line.font.bold = true;
     }
     line.runs = run(line.font, text);
@@ -138,6 +147,14 @@ Paragraph DocumentRenderer::inBodyFont() {
     return line;
 }
 
+// From 0, by the font in force.
+std::size_t DocumentRenderer::headingLevel() const {
+    const auto level = std::find_if(headingSizes_.begin(), headingSizes_.end(),
+                                    [this](double size) { return body_.size >= size; });
+    const auto found = static_cast<std::size_t>(level - headingSizes_.begin());
+    return std::min(found, headingSizes_.empty() ? 0 : headingSizes_.size() - 1);
+}
+
 void DocumentRenderer::add(Paragraph content) {
     content.pageBreakBefore = breakDue_;
     together_ -= lineHeight(content.font);
@@ -187,8 +204,8 @@ std::string DocumentRenderer::footerLines(std::string_view text) const {
 
 // `name` is that of the mark-up in errors.
 static Converted write(const std::string& path, base::LettoreRighe& markup, const std::string& name,
-                       const base::Disco& disk) {
-    DocumentRenderer renderer;
+                       std::span<const double> headingSizes, const base::Disco& disk) {
+    DocumentRenderer renderer({headingSizes.begin(), headingSizes.end()});
     markup::renderMarkup(markup, markup::RendererKind::print, renderer);
     const auto bytes = renderer.bytes();
     if (!bytes)
@@ -199,9 +216,10 @@ static Converted write(const std::string& path, base::LettoreRighe& markup, cons
     return {path, std::move(kept)};
 }
 
-Converted writeDocument(const std::string& path, std::string_view markup, const base::Disco& disk) {
+Converted writeDocument(const std::string& path, std::string_view markup,
+                        std::span<const double> headingSizes, const base::Disco& disk) {
     base::LettoreRighe lines(path, base::inCp1252(markup));
-    return write(path, lines, path, disk);
+    return write(path, lines, path, headingSizes, disk);
 }
 
 Converted convertReport(const std::string& markup, const base::Disco& disk) {
@@ -210,7 +228,7 @@ Converted convertReport(const std::string& markup, const base::Disco& disk) {
     if (base::stessoFile(path, markup))
         throw base::ErroreFile(
             path, 0, base::traduttore("la scrittura prenderebbe il posto di un file letto"));
-    return write(path, file, markup, disk);
+    return write(path, file, markup, {}, disk);
 }
 
 }  // namespace korven::outdoc

@@ -1,8 +1,11 @@
 #pragma once
 
+#include <cstddef>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "base/disk.hpp"
 #include "base/text_lines.hpp"
@@ -25,6 +28,11 @@ namespace korven::outdoc {
 /// whole document: the header at its first line, the footer at its end.
 class DocumentRenderer : public markup::MarkupReceiver {
  public:
+    /// @param headingSizes  of the levels of headings, falling [points], 3 at most: a heading is of
+    ///                      the first level whose size it has or exceeds, else of the last; none:
+    ///                      all are of level 1
+    explicit DocumentRenderer(std::vector<double> headingSizes = {});
+
     void open(markup::ScanState& state, std::string_view argument) override;
     void textLine(markup::ScanState& state, std::string_view text) override;
     void table(markup::ScanState& state) override;
@@ -42,6 +50,7 @@ class DocumentRenderer : public markup::MarkupReceiver {
  private:
     void headerIfDue(markup::ScanState& state);
     [[nodiscard]] Paragraph inBodyFont();
+    [[nodiscard]] std::size_t headingLevel() const;
     void add(Paragraph content);
     void emptyParagraph();
     [[nodiscard]] int rowsTogether() const;
@@ -49,6 +58,7 @@ class DocumentRenderer : public markup::MarkupReceiver {
     [[nodiscard]] Paragraph inHeaderFont(markup::Alignment alignment) const;
     [[nodiscard]] std::string footerLines(std::string_view text) const;
 
+    std::vector<double> headingSizes_;
     DocumentParts parts_;  ///< without the content
     std::string content_;
     markup::ReportFont body_;
@@ -70,11 +80,13 @@ struct Converted {
 };
 
 /// Writes mark-up (UTF-8, lines ended by CR LF) as a word-processor file, replacing one of that
-/// name. What this program did not write, or somebody changed since, is kept first
-/// (earlier_document.hpp).
+/// name. What this program did not write, or
+/// somebody changed since, is kept first (earlier_document.hpp).
 /// @throws base::ErroreFile if the file can't be written, if a table is beyond its capacity, or if
 /// the mark-up opens no document
+/// @param headingSizes  as `DocumentRenderer` takes them
 Converted writeDocument(const std::string& path, std::string_view markup,
+                        std::span<const double> headingSizes,
                         const base::Disco& disk = base::discoDiSistema());
 
 /// Converts a mark-up file into a word-processor file beside it, as `writeDocument`.

@@ -10,6 +10,12 @@ namespace {
 TEST(PerEsteso, SpellsGreekLettersAndSignsThatTheCodePageLacks) {
     EXPECT_EQ(perEsteso("φ' = 30°, γ ≤ 20 kN/m³"), "phi' = 30°, gamma <= 20 kN/m³");
     EXPECT_EQ(perEsteso("cos²α → −1 · √2"), "cos²alfa -> -1 · sqrt2");
+    EXPECT_EQ(perEsteso("√t/m², √(k0 σ)"), "sqrt(t)/m², sqrt(k0 sigma)");
+}
+
+TEST(PerEsteso, KeepsTheNameOfALetterApartFromWhatFollowsIt) {
+    EXPECT_EQ(perEsteso("σv = q + Σ γ Δz"), "sigma_v = q + Sigma gamma Delta z");
+    EXPECT_EQ(perEsteso("γφ' = γc', tan φ"), "gamma_phi' = gamma_c', tan phi");
 }
 
 TEST(PerEsteso, WritesExponentsThatTheCodePageLacksBehindOneSign) {

@@ -97,6 +97,23 @@ TEST(DocumentRenderer, MakesTitleAndHeadingsOfCapitalsAndKeepsThemWithWhatFollow
     EXPECT_EQ(count(words, "<w:keepNext/>"), 1);  // the empty line; the others by their style
 }
 
+TEST(WriteDocument, HasTheLevelsOfHeadingsByTheirSize) {
+    const test::CartellaProvvisoria folder;
+    const std::string path = folder / "d.doc";
+    const std::string text = std::string(reset) +
+                             "\r\n#FONTSIZE 14\r\nCAPITOLO\r\n#FONTSIZE 11\r\nPARTE\r\n"
+                             "#FONTSIZE 9.5\r\nVOCE\r\n#ENDDOCUMENT\r\n";
+    const std::vector<double> sizes{14, 11, 9.5};
+    writeDocument(path, text, sizes);
+    const std::string bytes = test::contenuto(path);
+    const std::string words = unpacked(bytes, "word/document.xml");
+    EXPECT_NE(paragraphOf(words, "CAPITOLO").find("\"Heading1\""), std::string::npos);
+    EXPECT_NE(paragraphOf(words, "PARTE").find("\"Heading2\""), std::string::npos);
+    EXPECT_NE(paragraphOf(words, "VOCE").find("\"Heading3\""), std::string::npos);
+    const std::string styles = unpacked(bytes, "word/styles.xml");
+    EXPECT_EQ(count(styles, "<w:outlineLvl w:val=\"2\"/>"), 1);
+}
+
 TEST(DocumentRenderer, PutsHeaderFooterAndPageNumberBesideTheText) {
     const auto bytes =
         rendered({reset, "#HEADER Testa", "#FOOTER Piede", "x", "#ENDDOCUMENT"}).value_or("");

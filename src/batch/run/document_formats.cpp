@@ -19,10 +19,10 @@ std::string scrivi(const document::Documento& documento, const FormatiDocumento&
         scritti.push_back(formati.pdf);
     }
     if (!formati.documento.empty()) {
-        conservato =
-            outdoc::writeDocument(formati.documento,
-                                  document::inMarkup(documento, document::Uso::documento), disco)
-                .kept;
+        conservato = outdoc::writeDocument(formati.documento,
+                                           document::inMarkup(documento, document::Uso::documento),
+                                           document::corpiTitoli, disco)
+                         .kept;
         scritti.push_back(formati.documento);
     }
     if (!formati.testo.empty()) {

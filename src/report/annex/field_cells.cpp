@@ -163,7 +163,10 @@ std::string nomeDetto(const Campo& campo) {
     return base::conMaiuscola(traduttore(flag(campo) ? campo.didascalia : campo.cosa));
 }
 
-std::string unitaDetta(const Campo& campo) { return std::string(unitaAlMetro(campo).mostrata); }
+std::string unitaDetta(const Campo& campo) {
+    if (campo.membro == project::Membro(&DatiProgetto::coeffM)) return unitaCoefficienteM;
+    return std::string(unitaAlMetro(campo).mostrata);
+}
 
 Cella scritto(const DatiProgetto& dati, const Campo& campo, int riga) {
     Cella fatta;

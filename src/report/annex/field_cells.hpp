@@ -21,6 +21,9 @@ namespace korven::report {
 /// flag by its caption, which tells more than "0 or -1".
 [[nodiscard]] std::string nomeDetto(const project::Campo& campo);
 
+/// Of the coefficient m of the modulus, which reads tonnes-force: no other unit is a root.
+inline constexpr const char* unitaCoefficienteM = "√t/m²";
+
 /// The unit that a value is shown in, with "/m" for what acts on a metre of wall.
 [[nodiscard]] std::string unitaDetta(const project::Campo& campo);
 

@@ -9,6 +9,7 @@
 #include "base/translated_texts.hpp"
 #include "project/codes.hpp"
 #include "report/annex/columns.hpp"
+#include "report/annex/field_cells.hpp"
 #include "report/annex/soil_tables.hpp"
 #include "report/annex/table_pieces.hpp"
 
@@ -116,7 +117,7 @@ void bowles(const Fascicolo& f, Prospetto& p) {
 
 void lancellotta(const Fascicolo& f, Prospetto& p) {
     const DatiProgetto& dati = f.parete.dati;
-    p.colonne = {colonnaStrato(), {.titolo = "m", .unita = "t^½/m²"}};
+    p.colonne = {colonnaStrato(), {.titolo = "m", .unita = unitaCoefficienteM}};
     for (int j = 1; j <= strati(f); ++j)
         p.righe.push_back(
             {tables::cella(j), {.testo = base::testoNumero(dati.coeffM), .numero = dati.coeffM}});

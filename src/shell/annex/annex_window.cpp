@@ -310,7 +310,7 @@ void FinestraAllegato::salvaDocumento() {
               const auto scritto = outdoc::writeDocument(
                   dove,
                   document::inMarkup(*vista_->impaginato().documento, document::Uso::documento),
-                  porte_.file->disco());
+                  document::corpiTitoli, porte_.file->disco());
               if (!scritto.kept.empty())
                   nota_->setText(qt(base::conDuePunti(
                       base::traduttore("Il documento che c'era è conservato in"), scritto.kept)));

@@ -146,7 +146,7 @@ TEST(CapitoloTerreno, SaysWhatTheSymbolsOfAModulusAre) {
     EXPECT_TRUE(dice(bowles, "0.5 γ B Nγ nella portanza"));
     EXPECT_TRUE(dice(bowles, "40 è in 1/m"));
     dati.metodoKs = project::valore(project::MetodoKs::lancellotta);
-    EXPECT_EQ(tavola(terreno(dati), "Moduli delle molle").colonne[1].unita, "t^½/m²");
+    EXPECT_EQ(tavola(terreno(dati), "Moduli delle molle").colonne[1].unita, "√t/m²");
 }
 
 }  // namespace
