@@ -12,6 +12,7 @@
 #include "project/shown_number.hpp"
 #include "safety/large_displacement.hpp"
 #include "safety/words.hpp"
+#include "structure/partial_factors.hpp"
 #include "structure/section_validity.hpp"
 
 namespace korven::factors {
@@ -94,15 +95,47 @@ void noteSforzoNormale(const Combinazioni& tutte, std::vector<std::string>& note
         }
 }
 
+std::string due(double coefficiente) { return base::testoDecimali(coefficiente, 2); }
+
+// The loads are put in with less than their factor, since the effects have theirs as well.
+void noteCarichi(const Combinazioni& tutte, std::vector<std::string>& note) {
+    for (const EsitoCombinazione& e : tutte.esiti) {
+        const Fattori& f = e.combinazione.fattori;
+        if (f.effetti == 1) continue;
+        note.push_back(base::riempito(
+            traduttore("%1: i carichi entrano con il loro coefficiente diviso per quello degli "
+                       "effetti (variabile sfavorevole: %2 / %3 = %4), così che alla fine abbiano "
+                       "il loro."),
+            {e.combinazione.nome, due(f.variabile), due(f.effetti), due(f.variabile / f.effetti)}));
+    }
+}
+
+void noteMateriali(const project::Sezione& sezione, std::vector<std::string>& note) {
+    const std::string acciaio = due(structure::fsAcciaio);
+    note.push_back(
+        sezione.tipoPalancola
+            ? base::riempito(traduttore("La resistenza della sezione è quella del programma, non "
+                                        "della norma: acciaio diviso per %1."),
+                             {acciaio})
+            : base::riempito(traduttore("La resistenza della sezione è quella del programma, non "
+                                        "della norma: acciaio diviso per %1, calcestruzzo per %2."),
+                             {acciaio, due(structure::fsCalcestruzzo)}));
+}
+
+void noteTaglio(const Combinazioni& tutte, std::vector<std::string>& note) {
+    note.push_back(traduttore("Il taglio si verifica solo per pali armati con le staffe scritte."));
+    if (std::string taglio = taglioDaVerificare(tutte); !taglio.empty())
+        note.back() += " " + taglio;
+}
+
 void noteSezione(const Combinazioni& tutte, const project::DatiProgetto& dati,
                  std::vector<std::string>& note) {
     if (!structure::sezioneDefinita(dati.sezione)) {
         note.push_back(traduttore("Nessuna verifica: la sezione non è definita."));
         return;
     }
-    if (!structure::staffePresenti(dati.sezione))
-        note.push_back(
-            traduttore("Il taglio si verifica solo per pali armati con le staffe scritte."));
+    noteMateriali(dati.sezione, note);
+    if (!structure::staffePresenti(dati.sezione)) noteTaglio(tutte, note);
     if (dati.sforzoNormale != 0) noteSforzoNormale(tutte, note);
 }
 
@@ -120,6 +153,17 @@ std::string parole(const NaturaCarichi& natura) {
     return base::riempito(
         traduttore("Sovraccarico a monte: %1; sul fondo dello scavo: %2; carichi in testa: %3."),
         {detta(natura.monte), detta(natura.scavo), detta(natura.testa)});
+}
+
+std::string taglioDaVerificare(const Combinazioni& combinazioni) {
+    const Massimo& T = combinazioni.inviluppo.taglio;
+    if (T.combinazione < 0 || T.fase == 0) return {};
+    const auto& esito = combinazioni.esiti[static_cast<std::size_t>(T.combinazione)];
+    return base::riempito(
+        traduttore("Da verificare a parte con la norma: taglio di progetto %1 kN/m (%2, fase %3, "
+                   "z = %4 m)."),
+        {project::numeroMostrato(project::inKilonewton(std::fabs(T.valore)), 2),
+         esito.combinazione.nome, std::to_string(T.fase), project::numeroMostrato(T.z, 2)});
 }
 
 std::string esito(const EsitoCombinazione& combinazione) {
@@ -181,12 +225,17 @@ std::vector<std::string> note(const Combinazioni& combinazioni, const project::D
     note.push_back(
         traduttore("Momenti, tagli e tiri sono moltiplicati per il coefficiente degli effetti, gli "
                    "spostamenti no."));
+    noteCarichi(combinazioni, note);
+    note.push_back(
+        traduttore("Ogni combinazione è calcolata con i segmenti del progetto: quanto "
+                   "cambierebbe con più segmenti qui non si cerca."));
     if (dati.nTiranti > 0)
         note.push_back(
             traduttore("Dei tiranti c'è solo la forza: la loro resistenza, dell'acciaio e del "
                        "terreno, non è verificata."));
-    note.push_back(
-        traduttore("Il coefficiente 1.4 della relazione è un'altra cosa: vale soltanto là."));
+    note.push_back(traduttore(
+        "Il coefficiente 1.4 delle verifiche senza norma, quelle della relazione, qui non "
+        "entra."));
     return note;
 }
 

@@ -27,6 +27,11 @@ namespace korven::factors {
 /// Why it does not stand, in one line with its name; empty for one that does.
 [[nodiscard]] std::string caduta(const EsitoCombinazione& combinazione);
 
+/// The largest factored shear, of a section whose shear no check looks at: "Da verificare a parte
+/// con la norma: taglio di progetto 387.83 kN/m (A2+M2+R1, fase 5, z = 9.00 m)."; empty without a
+/// combination that stands.
+[[nodiscard]] std::string taglioDaVerificare(const Combinazioni& combinazioni);
+
 /// What becomes of all of them: "All stand and all checks are met.", or the
 /// names of those that are not.
 [[nodiscard]] std::string verdetto(const Combinazioni& combinazioni);

@@ -118,7 +118,7 @@ Prospetto prospettoFattori(const Combinazioni& tutte) {
         .titolo = traduttore("Coefficienti applicati"),
         .colonne = {parole("Combinazione"), simboli("tan φ"), simboli("c'"), simboli("cu"),
                     simboli("γ"), numeri("q monte"), numeri("q scavo"), simboli("H"), simboli("M"),
-                    numeri("Effetti"), numeri("Terra"), numeri(unita::metri, "Scavo in più")}};
+                    numeri("Effetti"), numeri("Terra"), numeri(unita::metri, "Scavo imprevisto")}};
     for (const EsitoCombinazione& e : tutte.esiti) {
         const factors::Fattori& f = e.combinazione.fattori;
         p.righe.push_back({parola(e.combinazione.nome), fattore(f.attrito), fattore(f.coesione),
@@ -150,8 +150,14 @@ Prospetto prospettoVerifiche(const Combinazioni& tutte) {
                 .colonne = {parole("Combinazione"), parole("Verifica"), numeri("Di progetto"),
                             numeri("Resistenza"), numeri(unita::percento, "Sfruttamento"),
                             numeri("Fase"), simboli(unita::metri, "z"), parole("Esito")}};
-    for (const EsitoCombinazione& e : tutte.esiti)
+    for (const EsitoCombinazione& e : tutte.esiti) {
         for (const Verifica& v : e.verifiche) p.righe.push_back(riga(e.combinazione.nome, v));
+        // A combination without a check must not look like one whose checks are met.
+        if (e.sta()) continue;
+        auto& senzaVerifiche = p.righe.emplace_back(p.colonne.size());
+        senzaVerifiche.front() = parola(e.combinazione.nome);
+        senzaVerifiche.back() = esito(factors::esito(e), true);
+    }
     return p;
 }
 
@@ -179,7 +185,9 @@ Prospetto prospettoFonti(const factors::Combinazione& combinazione) {
     for (std::size_t i = 0; i < factors::vociFattori().size(); ++i) {
         if (combinazione.fonti[i].empty()) continue;
         const factors::VoceFattore& voce = factors::vociFattori()[i];
-        p.righe.push_back({parola(traduttore(voce.cosa)),
+        const bool lungo = voce.membro == &factors::Fattori::scavoMassimo;
+        p.righe.push_back({parola(traduttore(voce.cosa) +
+                                  (lungo ? " " + traParentesi(unita::metri) : std::string())),
                            fattore(combinazione.fattori.*(voce.membro)),
                            parola(combinazione.fonti[i])});
     }

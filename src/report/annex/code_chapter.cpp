@@ -57,13 +57,14 @@ void capitoloNorma(const Contesto& contesto, Blocchi& blocchi) {
     paragrafo(parole(tutte.natura), blocchi);
     for (const std::string& nota : note(tutte, f.parete.dati))
         paragrafo(nota, blocchi, Stile::nota);
-    parte(tables::prospettoFattori(tutte), blocchi,
-          base::riempito(
-              traduttore("%1, c', cu e il peso di volume %2 sono divisi per il loro coefficiente, "
-                         "il resto è moltiplicato: i sovraccarichi q, la forza H e il momento M in "
-                         "testa, gli effetti; Terra divide la resistenza del terreno a valle. "
-                         "Scavo in più: il maggiore di tutte le fasi."),
-              {"tan φ", "γ"}));
+    parte(
+        tables::prospettoFattori(tutte), blocchi,
+        base::riempito(
+            traduttore("%1, c', cu, il peso di volume %2 e la resistenza del terreno a valle "
+                       "(Terra) sono divisi per il loro coefficiente; i sovraccarichi q, la forza "
+                       "H e il momento M in testa e gli effetti sono moltiplicati per il loro. "
+                       "Scavo imprevisto: il maggiore di tutte le fasi."),
+            {"tan φ", "γ"}));
     parte(tables::prospettoEffetti(tutte), blocchi);
     parte(tables::prospettoVerifiche(tutte), blocchi);
     parte(tables::prospettoTiri(tutte), blocchi);

@@ -46,8 +46,8 @@ constexpr Escluso esclusi[] = {
      "paratia.",
      fonti::ancoraggi},
     {"Azioni sismiche e carichi concentrati sul terreno.",
-     "Chi scrive i dati le aggiunge come pressione orizzontale costante, sovraccarico o carico in "
-     "testa; da sole qui non ci sono.",
+     "Vanno aggiunte nei dati come pressione orizzontale costante, sovraccarico o carico in testa: "
+     "il programma da sé non le mette.",
      fonti::azioni},
     {"Instabilità locale delle palancole e scorrimento nei loro giunti.",
      "Da verificare a parte: in un profilo a U che scorre nei giunti inerzia e resistenza sono "

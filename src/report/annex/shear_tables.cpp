@@ -69,7 +69,7 @@ void fattori(const Sezione& s, const ValoriTaglio& v, Prospetto& p) {
               1,
               unitaArea},
              p);
-    aggiungi({"Quota delle barre, senza limite",
+    aggiungi({"Percentuale geometrica delle barre, senza limite",
               "ρl",
               "%1 / (%2 · %3)",
               {termine("Asl", w.Asl, 2), termine("d", w.d, 2), termine("bw", w.bw, 1)},
@@ -81,7 +81,7 @@ void fattori(const Sezione& s, const ValoriTaglio& v, Prospetto& p) {
 
 void calcestruzzo(const ValoriTaglio& v, Prospetto& p) {
     const structure::ValoriTaglio& w = v.palo;
-    aggiungi({"Quota del calcestruzzo",
+    aggiungi({"Contributo del calcestruzzo",
               "VRd1",
               "%1 · %2 · (1.2 + 40 · %3 + 0.15 · %4) · %5 · %6 / 1000",
               {termine("τRd", w.tauRd, 6), termine("k", w.k, 5), termine("ρl", w.rhoL, 7),
@@ -125,7 +125,7 @@ void staffe(const Sezione& s, const ValoriTaglio& v, Prospetto& p) {
               unitaArea},
              p);
     aggiungiResistenzaAcciaio(v.fyk, v.fsAcciaio, w.fyd, p);
-    aggiungi({"Quota delle staffe",
+    aggiungi({"Contributo delle staffe",
               "Vwd",
               "%1 · %2 · 0.9 · %3 / %4 / 1000",
               {termine("fyd", w.fyd, 4), termine("d", w.d, 2), termine("Asw", w.Asw, 4),

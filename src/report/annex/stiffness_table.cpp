@@ -94,15 +94,15 @@ class Righe {
     }
 
     void operator()(const structure::EJPaliArmati& d) {
-        p_.note.push_back(traduttore(
-            "Palo di calcestruzzo intero, non fessurato, con ogni ferro al posto del suo "
-            "calcestruzzo; a è la distanza del ferro dall'asse di flessione."));
-        riga("Ferri", "n", "", {}, d.ferri, 0, "");
-        riga("Raggio dei ferri", "R", "%1/2 − %2 − %3/2",
+        p_.note.push_back(
+            traduttore("Palo di calcestruzzo intero, non fessurato, con ogni barra al posto del "
+                       "suo calcestruzzo; a è la distanza della barra dall'asse di flessione."));
+        riga("numero delle barre", "n", "", {}, d.ferri, 0, "");
+        riga("Raggio della corona di barre", "R", "%1/2 − %2 − %3/2",
              {termine("D", d.misure.diamPalo, 1), termine("c", d.misure.copriferro, 1),
               termine("dl", d.misure.diamLong, 1)},
              d.raggio, 2, mm);
-        riga("Inerzia dei ferri", "Jb", "Σ (a² π dl²/4 + π dl⁴/64)", {}, d.Jb, 0, mm4);
+        riga("Inerzia delle barre", "Jb", "Σ (a² π dl²/4 + π dl⁴/64)", {}, d.Jb, 0, mm4);
         EJ("(%1 · π · %2⁴/64 + (%3 − %1) · %4) / %5 / 10⁶",
            {Ec(), termine("D", d.misure.diamPalo, 1), Es(), termine("Jb", d.Jb, 0),
             termine("i", d.misure.interasse, 1)},

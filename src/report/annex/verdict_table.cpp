@@ -193,8 +193,11 @@ std::vector<Cella> flessione(const Fascicolo& f) {
 
 std::vector<Cella> taglio(const Fascicolo& f) {
     constexpr const char* cosa = "Taglio";
-    if (!f.taglio || !f.controlli.taglio)
-        return riga(cosa, nessunaVerifica(), percheSenzaTaglio(f) + " " + taglioDaVerificare(f));
+    if (!f.taglio || !f.controlli.taglio) {
+        std::string dettaglio = percheSenzaTaglio(f) + " " + taglioDaVerificare(f);
+        if (f.norma) dettaglio += " " + factors::taglioDaVerificare(*f.norma);
+        return riga(cosa, nessunaVerifica(), std::move(dettaglio));
+    }
     if (!f.controlli.conAzioni || !f.parete.sta()) return senzaAzioni(cosa);
     return verifica(cosa, maschile, f, {dossier::Verifica::bielle, dossier::Verifica::armatura});
 }
