@@ -82,6 +82,11 @@ std::string parole(const Riduzione& riduzione, double paratia) {
     return nessuno;
 }
 
+std::string parole(const MargineFase& fase, double paratia) {
+    std::string moto = parole(fase.riduzione, paratia);
+    return moto == nessuno && fase.perche ? traduttore("nessun equilibrio") : moto;
+}
+
 bool lunghezzaNota(const Margine& margine) {
     const MargineFase* caduta = margine.caduta();
     return margine.lunghezza.esito != EsitoLunghezza::mai || !caduta ||

@@ -29,6 +29,10 @@ namespace korven::safety {
 /// @param paratia  length of the wall [m]
 [[nodiscard]] std::string parole(const Riduzione& riduzione, double paratia);
 
+/// The same of a stage: what happens at its factor, above 1 or below; of one that falls without
+/// such a factor, that it has no equilibrium; "-" where nothing is known.
+[[nodiscard]] std::string parole(const MargineFase& fase, double paratia);
+
 /// "Lunghezza minima: 12.61 m; la paratia è lunga 16.00 m; non è una lunghezza da costruire: F =
 /// 1", or why there is none; empty where the data are no wall of any length.
 [[nodiscard]] std::string paroleLunghezza(const Margine& margine);

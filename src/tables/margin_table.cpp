@@ -50,11 +50,6 @@ Cella uso(const std::optional<double>& quota) {
     return c;
 }
 
-std::string conF(const MargineFase& fase, double paratia) {
-    if (fase.perche) return traduttore("nessun equilibrio");
-    return fase.inEquilibrio() ? parole(fase.riduzione, paratia) : nessuno;
-}
-
 // A moment or a shear of one stage, both ways.
 // @param manca  why the report has none
 void riga(int fase, const project::Unita& u, const char* cosa, const safety::Confronto& c,
@@ -119,7 +114,7 @@ std::vector<Cella> rigaMargine(const MargineFase& fase, const Margine& margine) 
                                uso(fase.passiva.quota),
                                parola(safety::testoTratti(fase.passiva.alLimite)),
                                spostamento(fase.piede.spostamento),
-                               parola(conF(fase, margine.paratia))};
+                               parola(parole(fase, margine.paratia))};
     if (fase.passiva.alLimite.empty())
         riga[4] = senza(traduttore("La resistenza passiva non è al limite a nessuna profondità."));
     const std::string verdettoParete = verdetto(margine);

@@ -122,8 +122,10 @@ TEST_F(Sicurezza, TellsOfAMechanismWhatItIsShortOfAndEndsWithOne) {
     EXPECT_EQ(esito.codice, 1);
     const auto testo = righe(esito.uscita);
     ASSERT_EQ(testo.size(), 5u) << esito.uscita;
-    EXPECT_EQ(testo[0], "Fase  Scavo [m]     F  Passiva [%]  Al limite [m]  Con F");
-    EXPECT_EQ(testo[1], "   1       5.00  0.98            -              -  nessun equilibrio");
+    EXPECT_EQ(testo[0], "Fase  Scavo [m]     F  Passiva [%]  Al limite [m]  Moto con F");
+    EXPECT_EQ(testo[1],
+              "   1       5.00  0.98            -              -  ruota attorno alla profondità di "
+              "8.93 m, la testa verso lo scavo");
     EXPECT_TRUE(testo[2].starts_with("la paratia è un meccanismo nella fase 1: ")) << testo[2];
     EXPECT_TRUE(testo[3].starts_with("Lunghezza minima: 9.4")) << testo[3];
     EXPECT_TRUE(

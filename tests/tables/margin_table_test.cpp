@@ -82,7 +82,8 @@ TEST(ProspettoMargine, OfAFactorBeyondTheRangeHasNoNumberButAFullBar) {
 TEST(ProspettoMargine, OfAMechanismShowsWhatItIsShortOf) {
     const Margine m = margine(std::string(KORVEN_WALLS) + "/meccanismo.kvd");
     const Prospetto p = prospettoMargine(m);
-    EXPECT_EQ(p.righe[0][posto(p, "Moto con F")].testo, "nessun equilibrio");
+    EXPECT_EQ(p.righe[0][posto(p, "Moto con F")].testo,
+              "ruota attorno alla profondità di 8.93 m, la testa verso lo scavo");
     EXPECT_EQ(p.righe[0][posto(p, "Piede")].testo, "-");
     EXPECT_LT(p.righe[0][posto(p, "F")].numero.value(), 1);
     EXPECT_EQ(verdetto(m).find("La paratia è un meccanismo nella fase 1"), 0u) << verdetto(m);

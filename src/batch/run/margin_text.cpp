@@ -21,11 +21,6 @@ constexpr const char* nessuno = "-";
 
 std::string titolo(std::string_view cosa, const Unita& u) { return traduttore(etichetta(cosa, u)); }
 
-std::string perche(const MargineFase& fase, double paratia) {
-    if (fase.perche) return traduttore("nessun equilibrio");
-    return fase.inEquilibrio() ? parole(fase.riduzione, paratia) : nessuno;
-}
-
 std::string tabellaFasi(const Margine& margine) {
     TabellaTesto tabella(
         {traduttore("Fase"), titolo("Scavo", unita::metri), "F", traduttore("Passiva [%]"),
@@ -34,7 +29,7 @@ std::string tabellaFasi(const Margine& margine) {
     for (const MargineFase& fase : margine.fasi)
         tabella.riga({std::to_string(fase.fase), numeroMostrato(fase.scavo, 2),
                       testoRiduzione(fase.riduzione), safety::testoQuota(fase.passiva.quota),
-                      safety::testoTratti(fase.passiva.alLimite), perche(fase, margine.paratia)});
+                      safety::testoTratti(fase.passiva.alLimite), parole(fase, margine.paratia)});
     return tabella.testo();
 }
 
