@@ -84,6 +84,11 @@ const MargineFase* Margine::decisiva() const {
     return minima;
 }
 
+bool Margine::pericolosa() const {
+    const MargineFase* fase = decisiva();
+    return fase != nullptr && fase->riduzione.F && *fase->riduzione.F < riduzionePericolosa;
+}
+
 Margine margine(const DatiProgetto& dati, int nSeg, analysis::OsservatoreCorsa& osservatore) {
     Margine m;
     m.nSeg = nSeg;

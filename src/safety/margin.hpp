@@ -61,6 +61,9 @@ struct Margine {
     /// The stage by which the wall is judged: the first without equilibrium, else the one of the
     /// smallest factor; nothing if all factors are beyond the range.
     [[nodiscard]] const MargineFase* decisiva() const;
+    /// True if its factor is one that remarks call a danger (`riduzionePericolosa`), below 1 or
+    /// not.
+    [[nodiscard]] bool pericolosa() const;
 };
 
 /// The margin of a project: the one place that puts its parts together, for whoever shows it. At

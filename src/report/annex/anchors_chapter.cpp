@@ -1,5 +1,7 @@
+#include <algorithm>
 #include <string>
 
+#include "base/colon.hpp"
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
 #include "project/anchor_names.hpp"
@@ -92,6 +94,15 @@ Prospetto elenco(const Fascicolo& f) {
     return p;
 }
 
+// Why the report has another largest force of an anchor; empty where it is the same number.
+std::string percheAltra(const Fascicolo& f, const StoriaTirante& t) {
+    if (!t.relazione) return {};
+    const auto sua = std::find_if(f.doppi.begin(), f.doppi.end(), [&](const auto& d) {
+        return d.cosa == dossier::Doppio::tiro && d.tirante == t.tirante && d.fase == t.faseMassimo;
+    });
+    return sua == f.doppi.end() ? std::string() : sua->perche;
+}
+
 Prospetto forze(const Fascicolo& f) {
     Prospetto p{.titolo = traduttore("Forze maggiori"),
                 .colonne = {colonna("Elemento"), numeri(unita::forzaAlMetro, "A fine fase di posa"),
@@ -114,6 +125,10 @@ Prospetto forze(const Fascicolo& f) {
     p.note.push_back(
         traduttore("Relazione: forza che la relazione stampa, cioè pretensione più rigidezza per "
                    "quanto il nodo è andato oltre la posizione alla messa in opera."));
+    for (const StoriaTirante& t : f.tiranti)
+        if (const std::string perche = percheAltra(f, t); !perche.empty())
+            p.note.push_back(inFrase(base::conDuePunti(
+                traduttore("Relazione") + ", " + nomeTirante(f.parete.dati, t.tirante), perche)));
     return p;
 }
 

@@ -40,9 +40,7 @@ tables::Prospetto statica(const dossier::Fascicolo& f) {
 }
 
 void verdetto(const Margine& margine, Blocchi& blocchi) {
-    const auto* decisiva = margine.decisiva();
-    const bool grave = !margine.sta() || (decisiva != nullptr && decisiva->riduzione.F &&
-                                          *decisiva->riduzione.F < safety::riduzionePericolosa);
+    const bool grave = !margine.sta() || margine.pericolosa();
     paragrafo(tables::verdetto(margine), blocchi, grave ? Stile::pericolo : Stile::rilievo);
     for (const std::string& frase : tables::frasi(margine)) paragrafo(frase, blocchi);
 }

@@ -168,7 +168,7 @@ void capitoloModello(const Contesto& contesto, Blocchi& blocchi) {
     const DatiProgetto& dati = contesto.fascicolo->parete.dati;
     tavola(prospettoIpotesi(dati), blocchi);
     tavola(prospettoMolla(dati), blocchi);
-    tavola(prospettoEsclusi(), blocchi);
+    tavola(prospettoEsclusi(*contesto.fascicolo), blocchi);
     tavola(prospettoSegni(), blocchi);
 }
 

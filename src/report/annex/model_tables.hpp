@@ -1,5 +1,6 @@
 #pragma once
 
+#include "dossier/dossier.hpp"
 #include "project/project_data.hpp"
 #include "tables/result_table.hpp"
 
@@ -13,6 +14,6 @@ namespace korven::report {
 
 /// What a checker must not take for done, to which side that errs or where it is to be done, and
 /// where the rules for it stand.
-[[nodiscard]] tables::Prospetto prospettoEsclusi();
+[[nodiscard]] tables::Prospetto prospettoEsclusi(const dossier::Fascicolo& fascicolo);
 
 }  // namespace korven::report

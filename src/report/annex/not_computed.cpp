@@ -1,4 +1,11 @@
+#include <cmath>
+#include <string>
+#include <vector>
+
+#include "base/colon.hpp"
+#include "base/filled_text.hpp"
 #include "base/translated_texts.hpp"
+#include "project/codes.hpp"
 #include "report/annex/columns.hpp"
 #include "report/annex/greek_letters.hpp"
 #include "report/annex/model_tables.hpp"
@@ -55,15 +62,66 @@ constexpr Escluso esclusi[] = {
      fonti::palancole},
 };
 
+// The largest reaction of a restraint in size, of the stages that stand.
+struct Reazione {
+    const project::Unita& unita;
+    const char* dove;  ///< Italian key
+    double (*valore)(const dossier::BilancioFase&);
+    tables::Cella (*cella)(double);
+};
+
+const Reazione reazioni[] = {
+    {project::unita::forzaAlMetro, "in testa %1 %2 (fase %3)",
+     [](const dossier::BilancioFase& b) { return b.cerniera.forza; }, tables::forza},
+    {project::unita::forzaAlMetro, "al piede %1 %2 (fase %3)",
+     [](const dossier::BilancioFase& b) { return b.piede.forza; }, tables::forza},
+    {project::unita::momentoAlMetro, "al piede %1 %2 (fase %3)",
+     [](const dossier::BilancioFase& b) { return b.incastro.momento; }, tables::momento},
+};
+
+std::string maggiore(const Reazione& r, const std::vector<dossier::BilancioFase>& bilanci) {
+    const dossier::BilancioFase* massima = nullptr;
+    for (const auto& b : bilanci)
+        if (massima == nullptr || std::fabs(r.valore(b)) > std::fabs(r.valore(*massima)))
+            massima = &b;
+    if (massima == nullptr || r.valore(*massima) == 0) return {};
+    return base::riempito(traduttore(r.dove),
+                          {r.cella(r.valore(*massima)).testo, std::string(r.unita.mostrata),
+                           std::to_string(massima->fase)});
+}
+
+// What holds a restrained end is no part of the model: its reaction is all that is known of it.
+std::string reazioniMaggiori(const dossier::Fascicolo& f) {
+    std::string tutte;
+    for (const Reazione& r : reazioni)
+        if (const std::string una = maggiore(r, f.bilanci); !una.empty())
+            tutte += (tutte.empty() ? std::string() : base::puntoEVirgola()) + una;
+    if (tutte.empty()) return traduttore("Da verificare a parte.");
+    return base::riempito(traduttore("Da verificare a parte con la reazione, nella fase in cui è "
+                                     "maggiore: %1."),
+                          {tutte});
+}
+
+bool vincolata(const project::DatiProgetto& dati) {
+    return dati.vincoloTesta == project::VincoloTesta::cerniera ||
+           dati.vincoloPiede == project::VincoloPiede::cerniera ||
+           dati.vincoloPiede == project::VincoloPiede::incastro;
+}
+
 }  // namespace
 
-tables::Prospetto prospettoEsclusi() {
+tables::Prospetto prospettoEsclusi(const dossier::Fascicolo& f) {
     tables::Prospetto p{
         .titolo = traduttore("Che cosa non si calcola"),
         .colonne = {colonna("Che cosa manca"), colonna("Che cosa ne viene"), colonna("Fonte")}};
     for (const Escluso& e : esclusi)
         p.righe.push_back({parola(conLettereGreche(traduttore(e.cosa))),
                            parola(conLettereGreche(traduttore(e.lato))), parola(e.fonte)});
+    if (vincolata(f.parete.dati))
+        p.righe.push_back({parola(traduttore("Resistenza di ciò che vincola la paratia in testa o "
+                                             "al piede, terreno, roccia o struttura: il calcolo "
+                                             "la prende senza limite.")),
+                           parola(reazioniMaggiori(f)), parola(fonti::vincoli)});
     return p;
 }
 

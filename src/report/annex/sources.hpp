@@ -51,6 +51,7 @@ inline constexpr const char* verticale =
     "CEN, EN 1997-1 (2004), 9.7.5, 9.8.2; R. B. Peck, Deep excavations and tunneling in soft "
     "ground (1969)";
 inline constexpr const char* ancoraggi = "CEN, EN 1997-1 (2004), § 8, 9.7.6, 9.7.7";
+inline constexpr const char* vincoli = "CEN, EN 1997-1 (2004), 9.7.4, 9.7.6";
 inline constexpr const char* azioni =
     "CEN, EN 1998-5, Eurocode 8: Foundations, retaining structures (2004), § 7; J. "
     "Boussinesq, Application des potentiels (1885)";

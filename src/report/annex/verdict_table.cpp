@@ -8,6 +8,7 @@
 
 #include "base/colon.hpp"
 #include "base/filled_text.hpp"
+#include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
 #include "factors/words.hpp"
 #include "project/codes.hpp"
@@ -105,6 +106,9 @@ std::string margineInBreve(const Fascicolo& f) {
     const safety::Margine& m = *f.margine;
     std::string testo = tables::verdetto(m);
     if (m.sta() && m.decisiva() == nullptr) testo += " " + inFrase(percheOltre(f));
+    if (m.sta() && m.pericolosa())
+        testo += " " + riempito(traduttore("F è sotto %1: pericolo, vedi Osservazioni."),
+                                {base::testoDecimali(safety::riduzionePericolosa, 2)});
     if (!m.maglia) return testo;
     const double errore = m.maglia->peggiore().quota;
     if (errore > review::erroreMagliaDetto)
@@ -168,8 +172,12 @@ Giudizio equilibrioInFasi(const Fascicolo& f) {
 }
 
 std::vector<Cella> equilibrio(const Fascicolo& f) {
-    return riga("Equilibrio di tutte le fasi", verdetto(maschile, equilibrioInFasi(f)),
-                f.margine ? margineInBreve(f) : f.parete.rifiuto);
+    std::vector<Cella> celle =
+        riga("Equilibrio di tutte le fasi", verdetto(maschile, equilibrioInFasi(f)),
+             f.margine ? margineInBreve(f) : f.parete.rifiuto);
+    // As red as in the chapter on the margin: the cover is the page that is signed.
+    if (f.margine && f.margine->pericolosa()) celle.back().peso = review::Peso::pericolo;
+    return celle;
 }
 
 std::vector<Cella> senzaAzioni(const char* cosa) {

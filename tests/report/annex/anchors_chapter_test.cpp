@@ -39,6 +39,21 @@ TEST(CapitoloTiranti, HoldsTheForcesOfTheDossier) {
     EXPECT_EQ(numero(fasi, 1, 1), 10 * *t.tiri[1]);
 }
 
+// A force of the report that is another number has its reason below the table.
+TEST(CapitoloTiranti, SaysWhyTheReportHasAnotherForce) {
+    const Contesto c = contesto(test::progettoSemplice());
+    dossier::Fascicolo f = *c.fascicolo;
+    const auto ultima = [&] {
+        return tavola(tiranti({std::make_shared<const dossier::Fascicolo>(f), {}}),
+                      "Forze maggiori")
+            .note.back();
+    };
+    EXPECT_TRUE(ultima().starts_with("Relazione: forza")) << ultima();
+    for (auto& d : f.doppi)
+        if (d.cosa == dossier::Doppio::tiro) d.perche = "il file arrotonda";
+    EXPECT_EQ(ultima(), "Relazione, Tirante 1: il file arrotonda.");
+}
+
 TEST(CapitoloTiranti, CallsAStrutAStrutWhichHasNoInclination) {
     auto dati = test::progettoSemplice();
     dati.tipoTirante[1] = project::valore(project::TipoTirante::trazioneCompressione);

@@ -121,6 +121,25 @@ TEST(ProspettoVerdetti, SaysWhatHoldsAWallWhoseFactorIsBeyondTheRange) {
     EXPECT_NE(detto.find("resistenza senza limite"), std::string::npos);
 }
 
+// The cover is the page that is signed: a factor that a remark calls a danger is red there too.
+TEST(ProspettoVerdetti, TellsOfAFactorThatIsADanger) {
+    dossier::Fascicolo f = *contesto(test::progettoSemplice()).fascicolo;
+    const auto equilibrio = [&] {
+        return riga(prospettoVerdetti(f), "Equilibrio di tutte le fasi");
+    };
+    constexpr const char* frase = "F è sotto 1.25: pericolo, vedi Osservazioni.";
+    const auto fissa = [&](double F) {
+        for (auto& fase : f.margine->fasi) fase.riduzione.F = F;
+    };
+    fissa(safety::riduzionePericolosa);
+    EXPECT_FALSE(equilibrio()[2].peso);
+    EXPECT_EQ(equilibrio()[2].testo.find(frase), std::string::npos);
+    fissa(1.249);
+    EXPECT_EQ(equilibrio()[1].testo, "verificato");
+    EXPECT_EQ(equilibrio()[2].peso, review::Peso::pericolo);
+    EXPECT_NE(equilibrio()[2].testo.find(frase), std::string::npos) << equilibrio()[2].testo;
+}
+
 // A check that leans on the factored axial force says on the cover what is left of it without.
 TEST(ProspettoVerdetti, TellsTheUseWithoutAnAxialForceThatHelps) {
     auto dati = test::progettoSemplice();
