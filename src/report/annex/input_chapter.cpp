@@ -116,8 +116,8 @@ void figure(const Contesto& contesto, Blocchi& blocchi) {
                       traduttore("Sezione della paratia, in scala; in rosso, ingrandito, come "
                                  "cade nella fase %1"),
                       {std::to_string(f->limite->fase)})
-                : traduttore("Sezione della paratia con terreno, acqua, tiranti e fasi, in scala"),
-            traduttore("La paratia in sezione verticale: strati, falda, tiranti con la loro "
+                : traduttore("Sezione della paratia con terreno, acqua, sostegni e fasi, in scala"),
+            traduttore("La paratia in sezione verticale: strati, falda, sostegni con la loro "
                        "profondità e livelli di scavo delle fasi."),
             l, h, [f, l = l, h = h] { drawings::disegnaParete(f->parete, l, h); }});
     }
