@@ -117,7 +117,7 @@ std::vector<AvvisoMaglia> avvisiMaglia(const Margine& margine) {
            cambiano, avvisi);
     avviso(true,
            "Il verdetto non è assestato: sfruttamento, %1. Con queste maglie la sezione è "
-           "verificata, con il valore a cui vanno no: verificarla con quello.",
+           "verificata, con il valore a cui tendono no: verificarla con quello.",
            vanno, avvisi);
     avviso(false,
            "Una maglia più fine dà uno sfruttamento maggiore: %1. Tenere conto della differenza, o "

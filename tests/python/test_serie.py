@@ -159,7 +159,9 @@ try:
 except KeyboardInterrupt:
     print("interrotta", flush=True)
 """
-    corsa = subprocess.Popen([sys.executable, "-c", programma], stdout=subprocess.PIPE, text=True)
+    # Whoever starts the tests in the background of a shell has interrupts ignored, for all below it.
+    corsa = subprocess.Popen([sys.executable, "-c", programma], stdout=subprocess.PIPE, text=True,
+                             preexec_fn=lambda: signal.signal(signal.SIGINT, signal.SIG_DFL))
     assert corsa.stdout.readline() == "via\n"
     time.sleep(4)  # the table becomes a plan, and the study begins
     assert corsa.poll() is None

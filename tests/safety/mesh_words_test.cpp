@@ -60,7 +60,7 @@ TEST(AvvisiMaglia, TellAVerdictThatIsNotSettled) {
         avvisi[0].testo,
         "Il verdetto non è assestato: sfruttamento, flessione con momento negativo dal 90.2 % "
         "con 50 segmenti al 98.2 % con 200, con maglie sempre più fini verso il 101.9 %. Con "
-        "queste maglie la sezione è verificata, con il valore a cui vanno no: verificarla "
+        "queste maglie la sezione è verificata, con il valore a cui tendono no: verificarla "
         "con quello.");
     EXPECT_FALSE(avvisi[1].verdetto);
 }
