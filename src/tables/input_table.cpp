@@ -5,7 +5,9 @@
 #include "base/code_page.hpp"
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
+#include "project/code_words.hpp"
 #include "project/field_table.hpp"
+#include "project/units_per_metre.hpp"
 
 namespace korven::tables {
 
@@ -38,7 +40,7 @@ Cella valore(const DatiProgetto& dati, const Campo& campo, int riga, bool usato)
         else if constexpr (std::is_same_v<Valore, int>)
             cella = tables::cella(v);
         else if (const auto* codice = project::codice(campo, v))
-            cella = parola(traduttore(codice->voce), v);
+            cella = parola(project::voceTradotta(campo, *codice), v);
         else
             cella = numero(usato && contato(campo) ? v : mostrato(campo, v));
     });
@@ -65,7 +67,7 @@ std::vector<Cella> riga(const DatiProgetto& scritti, const DatiProgetto& usati, 
             inUso(usati, campo.parte)
                 ? valore(usati, campo, k, true)
                 : senza(traduttore("La sezione in vigore non usa questo dato.")),
-            parola(std::string(campo.unita.mostrata)),
+            parola(std::string(project::unitaAlMetro(campo).mostrata)),
             parola(project::nomeStabile(campo, k))};
 }
 

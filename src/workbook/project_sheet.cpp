@@ -5,6 +5,7 @@
 
 #include "base/colon.hpp"
 #include "base/translated_texts.hpp"
+#include "project/code_words.hpp"
 #include "project/field_table.hpp"
 #include "safety/margin_words.hpp"
 #include "tables/margin_table.hpp"
@@ -53,8 +54,9 @@ void identita(const dossier::Identita& sua, Voci& voci) {
 void modello(const Fascicolo& f, Voci& voci) {
     const project::DatiProgetto& usati = f.parete.dati;
     const auto metodo = [&](const char* cosa, double project::DatiProgetto::*membro) {
-        if (const auto* codice = project::codice(project::campo(membro), usati.*membro))
-            voci.aggiungi(cosa, traduttore(codice->voce));
+        const project::Campo& campo = project::campo(membro);
+        if (const auto* codice = project::codice(campo, usati.*membro))
+            voci.aggiungi(cosa, project::voceTradotta(campo, *codice));
     };
     metodo("Metodo delle spinte usato", &project::DatiProgetto::metodoSpinte);
     metodo("Metodo di ks usato", &project::DatiProgetto::metodoKs);

@@ -6,7 +6,9 @@
 #include <set>
 #include <stdexcept>
 
+#include "project/codes.hpp"
 #include "project/field_table.hpp"
+#include "support/report_text.hpp"
 #include "support/sample_projects.hpp"
 
 namespace korven::tables {
@@ -43,6 +45,21 @@ TEST(ProspettoDati, HasEachFieldOnceInTheUnitThatPeopleRead) {
     EXPECT_EQ(riga(p, "nStrati")[usato].numero, 2);
 }
 
+// The texts of an editor's values are one record.
+TEST(ProspettoDati, SaysFixedValuesInTheLanguage) {
+    std::string voci, tedesche;
+    for (const auto& codice : project::campo(&DatiProgetto::vincoloPiede).codici) {
+        voci.append(voci.empty() ? "" : "|").append(codice.voce);
+        tedesche.append(tedesche.empty() ? "" : "|").append("so wie ").append(codice.voce);
+    }
+    DatiProgetto dati = test::progettoSemplice();
+    dati.vincoloPiede = valore(project::VincoloPiede::incastro);
+    const test::UnTesto tedesco(voci, tedesche);
+    const Prospetto p = prospettoDati(dati, dati);
+    EXPECT_EQ(riga(p, "vincoloPiede")[scritto].testo, "so wie incastro");
+    EXPECT_EQ(riga(p, "vincoloPiede")[usato].testo, "so wie incastro");
+}
+
 TEST(ProspettoDati, TellsWhatTheCalculationPutsInThePlaceOfWhatWasTyped) {
     DatiProgetto scritti = test::progettoSemplice();
     scritti.rigidezzaEJ = 0;
@@ -51,7 +68,7 @@ TEST(ProspettoDati, TellsWhatTheCalculationPutsInThePlaceOfWhatWasTyped) {
     const Prospetto p = prospettoDati(scritti, usati);
     EXPECT_EQ(riga(p, "rigidezzaEJ")[scritto].numero, 0);
     EXPECT_EQ(riga(p, "rigidezzaEJ")[usato].numero, 120000);
-    EXPECT_EQ(riga(p, "rigidezzaEJ")[unita].testo, "kN m²");
+    EXPECT_EQ(riga(p, "rigidezzaEJ")[unita].testo, "kN m²/m");
 }
 
 // A typed 8 calculates as 0.8.

@@ -119,9 +119,9 @@ Prospetto forze(const Fascicolo& f) {
         riga.push_back(t.relazione ? tables::cifre(mostrato(unita::forzaAlMetro, *t.relazione))
                                    : senzaRelazione(f));
     }
-    p.note.push_back(
-        traduttore("Alla posa: alla fine della fase che lo mette in opera. Massima: fra le "
-                   "fasi in equilibrio."));
+    p.note.push_back(traduttore(
+        "A fine fase di posa: forza alla fine della fase che lo mette in opera. Massima: fra le "
+        "fasi in equilibrio."));
     p.note.push_back(
         traduttore("Relazione: forza che la relazione stampa, cioè pretensione più rigidezza per "
                    "quanto il nodo è andato oltre la posizione alla messa in opera."));

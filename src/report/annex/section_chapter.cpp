@@ -1,3 +1,5 @@
+#include <algorithm>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -11,6 +13,7 @@
 #include "report/annex/shear_rules.hpp"
 #include "report/annex/table_pieces.hpp"
 #include "report/annex/twin_words.hpp"
+#include "safety/check_verdict.hpp"
 #include "safety/mesh_words.hpp"
 #include "structure/limit_search.hpp"
 #include "structure/partial_factors.hpp"
@@ -27,6 +30,8 @@ using document::Stile;
 using dossier::Fascicolo;
 using dossier::LatoFlessione;
 using dossier::LimiteSezione;
+using results::Verifica;
+using safety::Giudizio;
 using tables::Prospetto;
 
 namespace {
@@ -104,6 +109,17 @@ void conAltroSforzo(const LatoFlessione& l, bool positivo, const Fascicolo& f, B
                   blocchi, Stile::pericolo);
 }
 
+// What is said of a direction of bending, the same as on the cover. Of a wall that falls no more
+// than that a check of the stages before fails.
+std::optional<Giudizio> giudizioDi(const Fascicolo& f, bool positivo) {
+    const auto& l = positivo ? f.flessione->positivo : f.flessione->negativo;
+    std::optional<Giudizio> g;
+    if (f.parete.sta() && f.margine)
+        g = safety::giudizio(*f.margine,
+                             positivo ? Verifica::momentoPositivo : Verifica::momentoNegativo);
+    return !g && !l.verificato ? Giudizio::fallita : g;
+}
+
 void verso(const Fascicolo& f, bool positivo, Blocchi& blocchi) {
     const auto& l = positivo ? f.flessione->positivo : f.flessione->negativo;
     titolo(3,
@@ -119,8 +135,9 @@ void verso(const Fascicolo& f, bool positivo, Blocchi& blocchi) {
     const bool agisce = !confronto.righe.empty() && !stampataNulla(confronto.righe.front()[3]);
     if (agisce) {
         tavola(std::move(confronto), blocchi);
-        paragrafo(inFrase(traduttore(l.verificato ? "verificata" : "NON verificata")), blocchi,
-                  l.verificato ? Stile::rilievo : Stile::pericolo);
+        if (const auto g = giudizioDi(f, positivo))
+            paragrafo(inFrase(traduttore(nome(*g))), blocchi,
+                      *g == Giudizio::verificata ? Stile::rilievo : Stile::pericolo);
         conAltroSforzo(l, positivo, f, blocchi);
     } else if (f.controlli.conAzioni) {
         paragrafo(traduttore(positivo ? "Nessun momento positivo agisce."
@@ -186,6 +203,19 @@ void flessione(const Fascicolo& f, Blocchi& blocchi) {
     verso(f, false, blocchi);
 }
 
+// The points are of this mesh alone: a stage that decides a check has the verdict on that.
+void verdettiDelleFasi(const Fascicolo& f, Prospetto& p) {
+    for (auto& riga : p.righe) {
+        auto peggiore = Giudizio::verificata;
+        for (const bool positivo : {true, false}) {
+            const auto& dove = positivo ? f.controlli.positivo : f.controlli.negativo;
+            if (riga.front().testo == std::to_string(dove.fase))
+                peggiore = std::max(peggiore, giudizioDi(f, positivo).value_or(peggiore));
+        }
+        if (peggiore != Giudizio::verificata) riga.back() = tables::esito(peggiore);
+    }
+}
+
 void dominio(const Contesto& contesto, Blocchi& blocchi) {
     const auto f = contesto.fascicolo;
     if (f->dominio.empty()) return;
@@ -198,6 +228,7 @@ void dominio(const Contesto& contesto, Blocchi& blocchi) {
             drawings::disegnaDominio(f->dominio, f->nelDominio, larghezza, altezza);
         }});
     p.titolo = traduttore("Le fasi nel dominio");
+    verdettiDelleFasi(*f, p);
     if (!p.righe.empty()) return tavola(std::move(p), blocchi);
     for (const std::string& nota : p.note) paragrafo(nota, blocchi);
 }

@@ -56,6 +56,28 @@ TEST(CapitoloSezione, NamesTheStrainsThatEndTheResistance) {
     EXPECT_TRUE(trova(detto(structure::paliTubolari()), "riempie il tubo"));
 }
 
+// Whoever opens the document here must not sign what its cover calls open.
+TEST(CapitoloSezione, SaysOfADirectionAndItsStageWhatTheCoverSays) {
+    Contesto c = contesto(muro(structure::diaframmaSimmetrico()));
+    dossier::Fascicolo f = *c.fascicolo;
+    ASSERT_TRUE(f.margine && f.margine->maglia);
+    const std::string fase = std::to_string(f.controlli.positivo.fase);
+    EXPECT_EQ(riga(tavola(sezione(c), "Le fasi nel dominio"), fase).back().testo, "verificata");
+
+    const auto con = [&](double fine, double finissima) {
+        const auto uso = [](double u) { return results::Uso{u, 100, u > 100}; };
+        f.margine->maglia->usi = {
+            {results::Verifica::momentoPositivo, {uso(90.2), uso(fine), uso(finissima)}}};
+        c.fascicolo = std::make_shared<const dossier::Fascicolo>(f);
+    };
+    con(94.5, 98.2);
+    const Blocchi b = sezione(c);
+    EXPECT_NE(testo(b).find("Non assestata."), std::string::npos);
+    EXPECT_EQ(riga(tavola(b, "Le fasi nel dominio"), fase).back().testo, "non assestata");
+    con(101, 102);
+    EXPECT_NE(testo(sezione(c)).find("Cambia con la maglia."), std::string::npos);
+}
+
 TEST(CapitoloSezione, HoldsTheChecksOfTheDossier) {
     const Contesto c = contesto(muro(structure::diaframmaSimmetrico()));
     const auto p = tavola(sezione(c), "Verifiche");
