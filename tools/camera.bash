@@ -100,11 +100,17 @@ tool() {
     repeat Up "$1"
 }
 
-# opened COMMAND...: the window that an item leads to, by point or tool
+# opened COMMAND...: the window that an item leads to, by point or tool. A window manager that is just giving
+# the form the keyboard shuts a menu that opens meanwhile: where no window comes, one goes there once more.
 opened() {
-    "$@"
-    key Return
-    leads_to "$main"
+    local tries
+    for ((tries = 0; tries < 3; ++tries)); do
+        "$@"
+        key Return
+        if until_true is_other "$main"; then return; fi
+        key Escape Escape
+    done
+    fail "no window of $*, but \"$(active)\""
 }
 
 # shut: closes the window that has the keyboard; Esc belongs to the cell of a table
