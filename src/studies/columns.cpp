@@ -185,6 +185,20 @@ Scelta scegliColonne(const std::vector<std::string>& nomi, int tiranti, bool sic
     return scelta;
 }
 
+std::vector<Colonna> conQuelleContate(std::vector<Colonna> scelte, int tiranti) {
+    std::vector<Colonna> insieme;
+    auto prossima = scelte.begin();  // they are in the order of the table
+    for (Colonna& colonna : colonne(tiranti, true)) {
+        if (prossima != scelte.end() && prossima->nome == colonna.nome) {
+            insieme.push_back(std::move(*prossima++));
+        } else if (colonna.specie == Specie::uso || colonna.nome == colonnaCaduta) {
+            colonna.scritta = false;
+            insieme.push_back(std::move(colonna));
+        }
+    }
+    return insieme;
+}
+
 std::string nessunaColonna(std::string_view nome, int tiranti) {
     std::vector<std::string> nomi;
     for (const Colonna& colonna : colonne(tiranti, true)) nomi.push_back(colonna.nome);

@@ -35,6 +35,7 @@ struct Colonna {
     int tirante = 0;         ///< counted from 1, of a column that each anchor has
     bool riduzione = false;  ///< needs the strength reductions
     bool lunghezza = false;  ///< needs the search for the shortest wall
+    bool scritta = true;     ///< in the file of the study; else what is counted at its end alone
 };
 
 /// The columns of a study, in their order.
@@ -62,6 +63,11 @@ struct Scelta {
 };
 [[nodiscard]] Scelta scegliColonne(const std::vector<std::string>& nomi, int tiranti,
                                    bool sicurezza, std::span<const std::string> oltre = {});
+
+/// These columns, and among them, not to be written, those that the sum of a study counts by: the
+/// stage that does not stand and what is used of each resistance. So the sum is the same whatever
+/// columns are written.
+[[nodiscard]] std::vector<Colonna> conQuelleContate(std::vector<Colonna> scelte, int tiranti);
 
 /// What is said of a name that is no column of any study, translated: the one that was meant, or
 /// all that there are.

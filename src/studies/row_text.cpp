@@ -47,14 +47,19 @@ RigheStudio::RigheStudio(std::span<const project::CampoNominato> campi,
         testata_ = numero;
     else
         inizio_.append("{\"").append(numero).append("\":");
-    const auto aggiungi = [&](const std::string& nome, const std::string& testa) {
+    const auto aggiungi = [&](const std::string& nome, const std::string& testa, bool scritta) {
         nomi_.push_back(nome);
+        if (!scritta) return void(chiavi_.emplace_back());
         chiavi_.push_back(csv ? "," : ",\"" + nome + "\":");
         if (csv) testata_ += ',' + testa;
     };
-    for (const auto& c : campi) aggiungi(project::nomeStabile(*c.campo, c.riga), testa(c));
-    for (const Colonna& c : colonne_) aggiungi(c.nome, c.nome);
+    for (const auto& c : campi) aggiungi(project::nomeStabile(*c.campo, c.riga), testa(c), true);
+    for (const Colonna& c : colonne_) aggiungi(c.nome, c.nome, c.scritta);
     if (csv) testata_ += fineCsv;
+}
+
+bool RigheStudio::tutteScritte() const {
+    return std::ranges::all_of(colonne_, &Colonna::scritta);
 }
 
 const std::vector<std::string_view>* RigheStudio::parole(std::size_t j) const {
@@ -81,6 +86,7 @@ void RigheStudio::scrivi(std::uint64_t i, std::span<const double> valori,
     testo += inizio_;
     aggiungi(i + 1, testo);
     for (std::size_t j = 0; j < valori.size(); ++j) {
+        if (chiavi_[j].empty()) continue;
         testo += chiavi_[j];
         cella(j, valori[j], testo);
     }
@@ -116,6 +122,8 @@ std::optional<std::uint64_t> RigheStudio::leggi(std::string_view riga,
     if (!leggiNumero(riga.substr(0, fino()), i) || i == 0) return {};
     riga.remove_prefix(fino());
     for (std::size_t j = 0; j < valori.size(); ++j) {
+        valori[j] = vuoto;
+        if (chiavi_[j].empty()) continue;
         if (!riga.starts_with(chiavi_[j])) return {};
         riga.remove_prefix(chiavi_[j].size());
         if (!leggiCella(j, riga.substr(0, fino()), valori[j])) return {};

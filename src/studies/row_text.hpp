@@ -20,7 +20,8 @@ enum class Formato {
 /// as the same double, so that a row that was read is the row that was written.
 ///
 /// A row has the values of the fields, in shown units, then those of the columns; `vuoto` for none,
-/// a word by its number. Its line begins with the number of the variant, counted from 1.
+/// a word by its number. Its line begins with the number of the variant, counted from 1, and has
+/// not the columns that are not written.
 class RigheStudio {
  public:
     RigheStudio(std::span<const project::CampoNominato> campi, std::vector<Colonna> colonne,
@@ -33,6 +34,9 @@ class RigheStudio {
     [[nodiscard]] const std::vector<project::CampoNominato>& nominati() const { return campi_; }
     /// The names of the values: of a field its code name.
     [[nodiscard]] const std::vector<std::string>& nomi() const { return nomi_; }
+
+    /// False where some column is not written: a row that is read has none of its values.
+    [[nodiscard]] bool tutteScritte() const;
 
     /// The words of a value of the row, by number; nullptr: it is a number.
     [[nodiscard]] const std::vector<std::string_view>* parole(std::size_t j) const;
@@ -61,7 +65,7 @@ class RigheStudio {
     std::vector<Colonna> colonne_;
     Formato formato_;
     std::vector<std::string> nomi_;
-    std::vector<std::string> chiavi_;  ///< what stands before each value
+    std::vector<std::string> chiavi_;  ///< what stands before each value; empty: it is not written
     std::string inizio_, testata_;
 };
 

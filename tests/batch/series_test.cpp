@@ -135,6 +135,20 @@ TEST_F(Serie, ChoosesColumnsAndComputesTheMarginWhereItIsAskedFor) {
     EXPECT_TRUE(dice(sicure[0], "lunghezza_minima_esito"));
 }
 
+TEST_F(Serie, ComesToTheSameWhateverColumnsAreWritten) {
+    const std::string tutto = serie(studio()).errori;
+    EXPECT_TRUE(dice(tutto, "Varianti in equilibrio, per l'uso che in ciascuna")) << tutto;
+    EXPECT_TRUE(dice(tutto, "Varianti in equilibrio, ma con un uso maggiore di 100 %")) << tutto;
+    for (const char* colonne : {"passiva_usata", "spostamento_massimo_m", "causa"})
+        EXPECT_EQ(serie(studio({"--colonne", colonne})).errori, tutto) << colonne;
+    // What was not written is not there to be read again.
+    const auto poche = serie(studio({"--colonne", "causa"}));
+    test::metti(parziale, poche.uscita.substr(0, poche.uscita.size() / 2));
+    const auto ripresa = serie(studio({"--colonne", "causa", "--uscita", file, "--riprendi"}));
+    EXPECT_EQ(contenuto(file), poche.uscita);
+    EXPECT_TRUE(dice(ripresa.errori, "Varianti riprese dal file: 2")) << ripresa.errori;
+}
+
 TEST_F(Serie, TakesTheSpecifiedRunInThePlaceOfTheEquilibrium) {
     const std::vector<std::string> griglia = {"--griglia", "phiStrato[1]=30:30:1", "--colonne",
                                               "spostamento_massimo_m,momento_massimo_kNm"};

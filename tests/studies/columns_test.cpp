@@ -45,6 +45,21 @@ TEST(Colonne, AreChosenInTheOrderOfTheTableAlwaysWithTheVerdict) {
     EXPECT_EQ(scegliColonne({"causa", "tiro_3_kN"}, 2, false).sconosciuto, "tiro_3_kN");
 }
 
+TEST(Colonne, AreCountedByWhereTheyAreNotWritten) {
+    const auto scelta = scegliColonne({"momento_massimo_kNm", "uso_bielle"}, 0, false);
+    const auto tutte = conQuelleContate(scelta.colonne, 0);
+    EXPECT_EQ(nomi(tutte),
+              (std::vector<std::string>{"causa", "fase_caduta", "momento_massimo_kNm",
+                                        "uso_momento_positivo", "uso_momento_negativo",
+                                        "uso_bielle", "uso_armatura_taglio", "passiva_usata"}));
+    for (const Colonna& c : tutte)
+        EXPECT_EQ(c.scritta,
+                  c.nome == "causa" || c.nome == "momento_massimo_kNm" || c.nome == "uso_bielle")
+            << c.nome;
+    const auto intere = colonne(2, true);
+    EXPECT_EQ(nomi(conQuelleContate(intere, 2)), nomi(intere));
+}
+
 TEST(Colonne, HoldNumbersInTheUnitOfTheirNames) {
     RisultatoVariante r;
     r.estremi.spostamento = {-0.0123, 4.5, 2};

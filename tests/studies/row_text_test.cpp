@@ -55,6 +55,34 @@ TEST(RigheStudio, ComeBackAsTheyWereWritten) {
     }
 }
 
+TEST(RigheStudio, LeaveOutWhatIsNotWritten) {
+    EXPECT_TRUE(righe(Formato::csv).tutteScritte());
+    for (const Formato formato : {Formato::csv, Formato::json}) {
+        const RigheStudio intere = righe(formato);
+        auto colonne = intere.colonne();
+        colonne[1].scritta = false;
+        const RigheStudio senza(intere.nominati(), colonne, formato);
+        EXPECT_FALSE(senza.tutteScritte());
+        ASSERT_EQ(senza.nomi(), intere.nomi());
+        std::string testo;
+        senza.scrivi(6, cade, testo);
+        EXPECT_EQ(testo, formato == Formato::csv
+                             ? "7,10,28.25,meccanismo,\r\n"
+                             : R"({"variante":7,"lunghezzaParatia":10,"phiStrato[1]":28.25,)"
+                               R"("causa":"meccanismo","momento_massimo_kNm":null})"
+                               "\n");
+        testo.resize(testo.size() - senza.fineRiga().size());
+        std::vector<double> letti(cade.size());
+        ASSERT_EQ(senza.leggi(testo, letti), 6u);
+        EXPECT_EQ(letti[2], cade[2]);
+        EXPECT_TRUE(std::isnan(letti[3]));
+        EXPECT_EQ(senza.testata(), formato == Formato::csv
+                                       ? "variante,lunghezzaParatia [m],phiStrato[1] [°],causa,"
+                                         "momento_massimo_kNm\r\n"
+                                       : "");
+    }
+}
+
 TEST(RigheStudio, AreRefusedWhereSomethingIsMissingOrWrong) {
     const RigheStudio csv = righe(Formato::csv), json = righe(Formato::json);
     std::vector<double> letti(5);

@@ -51,7 +51,9 @@ studies::Scelta colonne(const Opzioni& opzioni, const studies::Varianti& variant
 }
 
 studies::RigheStudio righeDi(const Opzioni& opzioni, const studies::Varianti& varianti) {
-    return {varianti.campi(), colonne(opzioni, varianti).colonne,
+    return {varianti.campi(),
+            studies::conQuelleContate(colonne(opzioni, varianti).colonne,
+                                      studies::tirantiPossibili(Progetto, varianti.campi())),
             opzioni.json ? studies::Formato::json : studies::Formato::csv};
 }
 
@@ -82,7 +84,9 @@ class UscitaSerie : public studies::UscitaStudio, public studies::LettoreRigheSt
         avanzamento_ = &avanzamento;
         scrivi(testata);
     }
-    void riga(std::uint64_t i, std::span<const double> valori) override { conto_.riga(i, valori); }
+    void riga(std::uint64_t i, std::span<const double> valori) override {
+        conto_.riletta(i, valori);
+    }
     void prendi(const studies::Righe& righe) override {
         scrivi(righe.byte);
         std::uint64_t i = righe.primo;

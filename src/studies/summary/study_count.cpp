@@ -53,7 +53,7 @@ FormaRiga formaDi(const RigheStudio& righe, const std::vector<std::string>& cond
                 .condizioni = std::move(lette.condizioni)};
     std::size_t j = f.campi;
     for (const Colonna& colonna : righe.colonne()) {
-        if (disegnabile(colonna)) f.risultati.push_back(j);
+        if (disegnabile(colonna) && colonna.scritta) f.risultati.push_back(j);
         if (colonna.specie == Specie::uso) f.usi.push_back(j);
         ++j;
     }
@@ -93,6 +93,11 @@ EsitoRiga ContoStudio::esito(std::span<const double> valori) {
     return e;
 }
 
+void ContoStudio::riletta(std::uint64_t i, std::span<const double> valori) {
+    if (!righe_.tutteScritte()) ++rilette_;
+    riga(i, valori);
+}
+
 void ContoStudio::riga(std::uint64_t i, std::span<const double> valori) {
     riassunto_.prendi(i, valori, esito(valori));
 }
@@ -123,6 +128,15 @@ std::vector<std::string> ContoStudio::conteggi() const {
     return testo;
 }
 
+// A file that was gone on with may lack what is counted.
+std::vector<std::string> ContoStudio::senzaConto() const {
+    if (rilette_ == 0) return {};
+    return {riempito(
+        traduttore("Varianti riprese dal file: %1. Del file non si conoscono che le colonne scritte: "
+                   "usi e fasi qui sopra, se non scritti, sono delle altre %2 varianti."),
+        {std::to_string(rilette_), std::to_string(riassunto_.numero() - rilette_)})};
+}
+
 NomiRiassunto ContoStudio::nomi() const {
     return {.valori = valoriMostrati(righe_),
             .motivi = causeMostrate(),
@@ -131,11 +145,11 @@ NomiRiassunto ContoStudio::nomi() const {
 }
 
 std::vector<std::string> ContoStudio::righe() const {
-    return uniti(conteggi(), righeRiassunto(riassunto_, forma_, nomi()));
+    return uniti(fatti(), tavoleInTesto(riassunto_, forma_, nomi()));
 }
 
 std::vector<std::string> ContoStudio::fatti() const {
-    return uniti(conteggi(), fattiRiassunto(riassunto_, forma_, nomi()));
+    return uniti(uniti(conteggi(), fattiRiassunto(riassunto_, forma_, nomi())), senzaConto());
 }
 
 std::vector<std::string> ContoStudio::righeControllo() const {

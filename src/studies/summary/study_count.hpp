@@ -31,6 +31,8 @@ class ContoStudio {
 
     /// @param i  the variant, from 0, in ascending order
     void riga(std::uint64_t i, std::span<const double> valori);
+    /// The same of a row that was read from a file, which has the written columns alone.
+    void riletta(std::uint64_t i, std::span<const double> valori);
     void limitati(std::uint64_t quanti) { limitati_ += quanti; }
     void controllate(const std::vector<Controllata>& altre);
 
@@ -51,6 +53,7 @@ class ContoStudio {
  private:
     [[nodiscard]] EsitoRiga esito(std::span<const double> valori);
     [[nodiscard]] std::vector<std::string> conteggi() const;
+    [[nodiscard]] std::vector<std::string> senzaConto() const;
     [[nodiscard]] NomiRiassunto nomi() const;
 
     DomandaConto domanda_;
@@ -61,6 +64,7 @@ class ContoStudio {
     FormaRiga forma_;
     Riassunto riassunto_;
     std::uint64_t limitati_ = 0;
+    std::uint64_t rilette_ = 0;  ///< rows without the columns that are not written
     std::uint64_t controllate_ = 0, senzaRiposo_ = 0, incerte_ = 0, diverse_ = 0;
     std::vector<Controllata> prime_;               ///< of those that differ
     std::vector<std::uint64_t> primeSenzaRiposo_;  ///< the first variants without rest

@@ -166,9 +166,9 @@ std::vector<std::string> fattiRiassunto(const Riassunto& riassunto, const FormaR
     return testo;
 }
 
-std::vector<std::string> righeRiassunto(const Riassunto& riassunto, const FormaRiga& forma,
-                                        const NomiRiassunto& nomi) {
-    Righe testo = fattiRiassunto(riassunto, forma, nomi);
+std::vector<std::string> tavoleInTesto(const Riassunto& riassunto, const FormaRiga& forma,
+                                       const NomiRiassunto& nomi) {
+    Righe testo;
     if (!nomi.campioni || riassunto.numero() == 0) return testo;
     const auto tavole = tavoleRiassunto(riassunto, forma, nomi.valori);
     testo.push_back(riempito(traduttore("Valori; quantili e correlazioni da %1 varianti:"),

@@ -24,11 +24,11 @@ struct NomiRiassunto {
 [[nodiscard]] std::vector<std::string> fattiRiassunto(const Riassunto& riassunto,
                                                       const FormaRiga& forma,
                                                       const NomiRiassunto& nomi);
-/// The same, and of samples also how the values of fields and results are spread, and how they go
-/// together, as tables for a font of one width.
-[[nodiscard]] std::vector<std::string> righeRiassunto(const Riassunto& riassunto,
-                                                      const FormaRiga& forma,
-                                                      const NomiRiassunto& nomi);
+/// Of samples how the values of fields and results are spread, and how they go together, as tables
+/// for a font of one width; of others nothing.
+[[nodiscard]] std::vector<std::string> tavoleInTesto(const Riassunto& riassunto,
+                                                     const FormaRiga& forma,
+                                                     const NomiRiassunto& nomi);
 
 /// A number with five digits, as a summary tells it; "-" for none.
 [[nodiscard]] std::string cinqueCifre(double valore);

@@ -94,6 +94,27 @@ TEST(ContoStudio, TellsTheProbabilityOfFailureOfIndependentSamples) {
     EXPECT_EQ(conto.forma().usi, (std::vector<std::size_t>{4}));
 }
 
+TEST(ContoStudio, CountsByColumnsThatAreNotWrittenAndSaysWhatAFileHasNotOfThem) {
+    auto colonne = forma().colonne();
+    colonne.back().scritta = false;
+    const RigheStudio sue(forma().nominati(), colonne, Formato::csv);
+    ContoStudio conto(muro(), sue, {});
+    EXPECT_EQ(conto.forma().risultati, (std::vector<std::size_t>{3}));  // described: the written
+    auto riletta = riga(safety::Causa::eseguito);
+    riletta.back() = vuoto;
+    conto.riletta(0, riletta);
+    conto.riga(1, riga(safety::Causa::eseguito));
+    const Testi righe = conto.fatti();
+    ASSERT_GE(righe.size(), 3U);
+    EXPECT_EQ(righe[righe.size() - 2], "  Uso, momento positivo: 1");
+    EXPECT_EQ(righe.back(),
+              "Varianti riprese dal file: 1. Del file non si conoscono che le colonne scritte: usi "
+              "e fasi qui sopra, se non scritti, sono delle altre 1 varianti.");
+    ContoStudio intero(muro(), forma(), {});
+    intero.riletta(0, riga(safety::Causa::eseguito));
+    EXPECT_EQ(intero.fatti().back(), "  Uso, momento positivo: 1");
+}
+
 TEST(ContoStudio, ListsTheFirstOfTheVariantsThatDifferBothWays) {
     ContoStudio conto(muro(), forma(), {});
     conto.controllate({{99, {Accordo::uguali, 1, 1e-9, 1e-7}}, {199, {Accordo::senzaRiposo}}});

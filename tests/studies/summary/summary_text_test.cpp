@@ -24,6 +24,15 @@ Riassunto tre(const FormaRiga& sua = forma) {
     return r;
 }
 
+// All that is told.
+std::vector<std::string> righeRiassunto(const Riassunto& r, const FormaRiga& sua,
+                                        const NomiRiassunto& suoi) {
+    auto righe = fattiRiassunto(r, sua, suoi);
+    const auto tavole = tavoleInTesto(r, sua, suoi);
+    righe.insert(righe.end(), tavole.begin(), tavole.end());
+    return righe;
+}
+
 // One of four: (0.25 + 0.4802 -+ 1.96 sqrt(0.046875 + 0.060023)) / 1.9604 is 0.0456 and 0.6994.
 TEST(TestoRiassunto, TellsOfSamplesHowTheyFailAndHowTheyAreSpread) {
     const std::vector<std::string> attese = {
