@@ -93,23 +93,27 @@ class Esecuzione {
     }
 
     void consegna() {
-        while (consegnati_ < blocchi_ && !ferma_) {
-            if (const auto righe = attendi()) passa(*righe);
+        bool intero = true;
+        while (consegnati_ < blocchi_ && intero && !ferma_) {
+            // A thread that fails ends the others within their blocks, before this one hears of it.
+            if (const auto righe = attendi()) intero = passa(*righe);
             if (!uscita_.prosegui(fatte_)) break;
         }
         if (consegnati_ == blocchi_) return;
         chiudi();
         // What is whole up to the first gap.
-        for (auto r = attendi(); r; r = attendi()) {
-            const bool intero = r->numero == blocco(consegnati_ - 1).numero();
-            if (r->numero > 0) passa(*r);
-            if (!intero) return;
+        while (intero) {
+            const auto righe = attendi();
+            if (!righe) return;
+            intero = passa(*righe);
         }
     }
 
-    void passa(const Righe& righe) {
-        uscita_.prendi(righe);
+    // True if no row of the last block is missing.
+    bool passa(const Righe& righe) {
+        if (righe.numero > 0) uscita_.prendi(righe);
         fatte_ += righe.numero;
+        return righe.numero == blocco(consegnati_ - 1).numero();
     }
 
     void chiudi() {

@@ -119,10 +119,14 @@ TEST(Studio, BringsHomeWhatAThreadThrowsAndTheRowsBefore) {
     Banco banco(2000);
     const Guaste guaste({{"lunghezzaParatia", 6, 0.004}, {"phiStrato[1]", 25, 0.01}}, 2000);
     const Studio studio{guaste, banco.dati, {.nSeg = 30}, banco.righe};
-    Raccolta raccolta;
-    EXPECT_THROW(esegui(studio, {0, 2000}, 3, raccolta), std::domain_error);
-    EXPECT_LE(raccolta.numero, 777u);
-    EXPECT_EQ(raccolta.byte, calcolaRighe(banco.studio, {0, raccolta.numero}).byte);
+    const std::string tutte = calcolaRighe(banco.studio, {0, 777}).byte;
+    // The others end within their blocks, at one time or another.
+    for (int volta = 0; volta < 20; ++volta) {
+        Raccolta raccolta;
+        EXPECT_THROW(esegui(studio, {0, 2000}, 3, raccolta), std::domain_error);
+        EXPECT_LE(raccolta.numero, 777u);
+        EXPECT_TRUE(tutte.starts_with(raccolta.byte)) << raccolta.numero;
+    }
 }
 
 TEST(Studio, ComputesEverySoManyVariantsBothWays) {
