@@ -58,9 +58,7 @@ RigheStudio::RigheStudio(std::span<const project::CampoNominato> campi,
     if (csv) testata_ += fineCsv;
 }
 
-bool RigheStudio::tutteScritte() const {
-    return std::ranges::all_of(colonne_, &Colonna::scritta);
-}
+bool RigheStudio::tutteScritte() const { return std::ranges::all_of(colonne_, &Colonna::scritta); }
 
 const std::vector<std::string_view>* RigheStudio::parole(std::size_t j) const {
     return j < campi() ? nullptr : colonne_[j - campi()].parole;

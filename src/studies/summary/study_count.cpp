@@ -132,8 +132,9 @@ std::vector<std::string> ContoStudio::conteggi() const {
 std::vector<std::string> ContoStudio::senzaConto() const {
     if (rilette_ == 0) return {};
     return {riempito(
-        traduttore("Varianti riprese dal file: %1. Del file non si conoscono che le colonne scritte: "
-                   "usi e fasi qui sopra, se non scritti, sono delle altre %2 varianti."),
+        traduttore(
+            "Varianti riprese dal file: %1. Del file non si conoscono che le colonne scritte: "
+            "usi e fasi qui sopra, se non scritti, sono delle altre %2 varianti."),
         {std::to_string(rilette_), std::to_string(riassunto_.numero() - rilette_)})};
 }
 
