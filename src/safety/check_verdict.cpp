@@ -86,7 +86,7 @@ std::string_view nome(Giudizio giudizio) {
         case Giudizio::verificata:
             return "verificata";
         case Giudizio::nonAssestata:
-            return "non assestata";
+            return "non a convergenza";
         case Giudizio::cambia:
             return "cambia con la maglia";
         case Giudizio::fallita:

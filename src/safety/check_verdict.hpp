@@ -58,7 +58,7 @@ struct VerificaGiudicata {
 /// False for a wall that stands with this mesh alone.
 [[nodiscard]] bool assestata(const Margine& margine);
 
-/// "verificata", "NON verificata", "cambia con la maglia", "non assestata": an Italian key.
+/// "verificata", "NON verificata", "cambia con la maglia", "non a convergenza": an Italian key.
 [[nodiscard]] std::string_view nome(Giudizio giudizio);
 /// What other programs are told: "verificata", "fallita", "cambia", "non_assestata".
 [[nodiscard]] std::string_view parola(Giudizio giudizio);

@@ -40,6 +40,11 @@ std::string nonDaCostruire(const Margine& margine) {
     return testo;
 }
 
+// @param chiave  with a place for the stage in which the staged run ended
+std::string nellaSuaFase(const Margine& margine, std::string_view chiave) {
+    return base::riempito(traduttore(chiave), {std::to_string(margine.corsa.fase)});
+}
+
 }  // namespace
 
 std::string testoF(double F) {
@@ -153,18 +158,15 @@ std::string paroleDecisiva(const Margine& margine) {
 
 std::string paroleRelazione(const Margine& margine) {
     if (margine.relazione || !margine.sta()) return {};
-    const std::string fase = " " + std::to_string(margine.corsa.fase);
     switch (margine.corsa.modo) {
         case analysis::ModoFine::singolare:
-            return traduttore(
-                       "La relazione non ha numeri: il calcolo per fasi trova un sistema singolare "
-                       "nella fase") +
-                   fase;
+            return nellaSuaFase(margine,
+                                "La relazione non ha numeri: il calcolo per fasi trova un sistema "
+                                "singolare nella fase %1");
         case analysis::ModoFine::oltreLimite:
-            return traduttore(
-                       "La relazione non ha numeri: l'iterazione del calcolo per fasi non si "
-                       "assesta nella fase") +
-                   fase;
+            return nellaSuaFase(margine,
+                                "La relazione non ha numeri: l'iterazione del calcolo per fasi non "
+                                "converge nella fase %1");
         case analysis::ModoFine::nonMostrabile:
             return traduttore("La relazione non ha numeri: nessuna relazione può mostrarli");
         case analysis::ModoFine::compiuta:
@@ -177,17 +179,16 @@ std::string paroleRelazione(const Margine& margine) {
 
 std::string paroleSenzaRelazione(const Margine& margine) {
     if (margine.relazione || !margine.sta()) return {};
-    const auto nellaFase = [&](std::string_view chiave) {
-        return base::riempito(traduttore(chiave), {std::to_string(margine.corsa.fase)});
-    };
     switch (margine.corsa.modo) {
         case analysis::ModoFine::singolare:
-            return nellaFase(
+            return nellaSuaFase(
+                margine,
                 "in equilibrio, ma il calcolo per fasi trova un sistema singolare nella fase %1: "
                 "niente relazione");
         case analysis::ModoFine::oltreLimite:
-            return nellaFase(
-                "in equilibrio, ma il calcolo per fasi non si assesta nella fase %1: niente "
+            return nellaSuaFase(
+                margine,
+                "in equilibrio, ma il calcolo per fasi non converge nella fase %1: niente "
                 "relazione");
         case analysis::ModoFine::nonMostrabile:
             return traduttore("in equilibrio, ma nessuna relazione può mostrarne i numeri");

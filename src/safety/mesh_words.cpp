@@ -43,7 +43,7 @@ bool cresce(const UsoMaglia& u) {
 }
 
 std::string passaggio(const Margine& margine, const UsoMaglia& u, std::size_t maglia) {
-    return riempito(traduttore("%1 dal %2 % con %3 segmenti al %4 % con %5"),
+    return riempito(traduttore("%1 da %2 % con %3 segmenti a %4 % con %5"),
                     {traduttore(nome(u.cosa)), percento(u.quota(0)), segmenti(margine, 0),
                      percento(u.quota(maglia)), segmenti(margine, maglia)});
 }
@@ -91,7 +91,7 @@ std::string paroleUsiMaglia(const Margine& margine) {
 std::string paroleTendenza(const UsoMaglia& uso) {
     const std::optional<double> limite = uso.limite();
     if (!limite) return {};
-    return riempito(traduttore("con maglie sempre più fini verso il %1 %"), {percento(*limite)});
+    return riempito(traduttore("verso %1 % con maglie sempre più fini"), {percento(*limite)});
 }
 
 std::vector<AvvisoMaglia> avvisiMaglia(const Margine& margine) {
@@ -111,12 +111,14 @@ std::vector<AvvisoMaglia> avvisiMaglia(const Margine& margine) {
             aggiungi(passaggio(margine, u, peggiore(u)), crescono);
     }
     std::vector<AvvisoMaglia> avvisi;
+    avviso(
+        true,
+        "Una maglia più fine cambia il verdetto: lo sfruttamento passa, %1. Aumentare i segmenti, "
+        "finché non cambia più; fino ad allora vale lo sfruttamento maggiore.",
+        cambiano, avvisi);
     avviso(true,
-           "Una maglia più fine cambia il verdetto: sfruttamento, %1. Aumentare i segmenti, finché "
-           "non cambia più; fino ad allora vale lo sfruttamento maggiore.",
-           cambiano, avvisi);
-    avviso(true,
-           "Il verdetto non è assestato: sfruttamento, %1. Con queste maglie la sezione è "
+           "Il verdetto non è a convergenza: lo sfruttamento cresce, %1. Con queste maglie la "
+           "sezione è "
            "verificata, con il valore a cui tendono no: verificarla con quello.",
            vanno, avvisi);
     avviso(false,

@@ -23,7 +23,7 @@ inline constexpr double crescitaUsoMinima = 0.01;
 /// empty where there are none.
 [[nodiscard]] std::string paroleUsiMaglia(const Margine& margine);
 
-/// "con maglie sempre più fini verso il 101.9 %"; empty where no such value is in sight.
+/// "verso 101.9 % con maglie sempre più fini"; empty where no such value is in sight.
 [[nodiscard]] std::string paroleTendenza(const UsoMaglia& uso);
 
 struct AvvisoMaglia {

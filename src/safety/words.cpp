@@ -85,8 +85,9 @@ std::string limiti(const DatoInstabile& dato) {
            unito(numeroMostrato(segno * dato.passivo, 2, unita::pressione), unita::pressione) + ")";
 }
 
+// @param che  with a place for the stage
 std::string nella(std::string_view che, const Diagnosi& d) {
-    return traduttore(che) + " " + std::to_string(d.fase);
+    return base::riempito(traduttore(che), {std::to_string(d.fase)});
 }
 
 std::string movimento(const Diagnosi& d) {
@@ -248,18 +249,18 @@ std::string parole(EsitoFase esito) {
 std::string inBreve(const Diagnosi& d) {
     switch (d.causa) {
         case Causa::meccanismo:
-            return nella("la paratia è un meccanismo nella fase", d) + base::duePunti() +
+            return nella("la paratia è un meccanismo nella fase %1", d) + base::duePunti() +
                    movimento(d);
         case Causa::oscilla:
-            return nella("la paratia è in equilibrio nella fase", d) + ", " +
+            return nella("la paratia è in equilibrio nella fase %1", d) + ", " +
                    traduttore("con uno spostamento massimo di") + " " +
                    valore(d.spostamento, unita::spostamentoFine) + base::duePunti() +
                    traduttore(chiave(d.ostacolo));
         case Causa::nonDefinito:
-            return nella("l'equilibrio non è definito nella fase", d) + base::duePunti() +
+            return nella("l'equilibrio non è definito nella fase %1", d) + base::duePunti() +
                    parole(d.instabile);
         case Causa::nessunNumero:
-            return nella("nessun numero nella fase", d) + base::duePunti() + parole(d.newton);
+            return nella("nessun numero nella fase %1", d) + base::duePunti() + parole(d.newton);
         case Causa::eseguito:
         case Causa::rifiutato:
         case Causa::fermato:
@@ -271,14 +272,14 @@ std::string inBreve(const Diagnosi& d) {
 std::string inPocheParole(const Diagnosi& d) {
     switch (d.causa) {
         case Causa::meccanismo:
-            return nella("la paratia è un meccanismo nella fase", d) +
+            return nella("la paratia è un meccanismo nella fase %1", d) +
                    (d.moto ? base::duePunti() + mancante(*d.moto) : "");
         case Causa::oscilla:
             return base::riempito(traduttore(chiaveBreve(d.ostacolo)), {std::to_string(d.fase)});
         case Causa::nonDefinito:
-            return nella("l'equilibrio non è definito nella fase", d);
+            return nella("l'equilibrio non è definito nella fase %1", d);
         case Causa::nessunNumero:
-            return nella("nessun numero nella fase", d);
+            return nella("nessun numero nella fase %1", d);
         case Causa::eseguito:
         case Causa::rifiutato:
         case Causa::fermato:

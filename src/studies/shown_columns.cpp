@@ -49,7 +49,7 @@ constexpr Parole parole[] = {
 
 // In the order of `safety::Causa`.
 constexpr const char* cause[] = {
-    "in equilibrio",   "dati rifiutati", "meccanismo",    "il calcolo per fasi non si assesta",
+    "in equilibrio",   "dati rifiutati", "meccanismo",    "il calcolo per fasi non converge",
     "calcolo fermato", "non definito",   "nessun numero",
 };
 

@@ -178,7 +178,7 @@ TEST_F(Sicurezza, HasNoReportToCompareWithWhereTheIterationFlips) {
     muro("oscilla_1");
     const auto esito = comando();
     EXPECT_EQ(esito.codice, 0) << esito.errori;
-    EXPECT_TRUE(dice(esito.uscita, "l'iterazione del calcolo per fasi non si assesta nella fase 2"))
+    EXPECT_TRUE(dice(esito.uscita, "l'iterazione del calcolo per fasi non converge nella fase 2"))
         << esito.uscita;
     const Json s = rispostaJson()["sicurezza"];
     EXPECT_TRUE(s["momento_kNm"]["relazione"].is_null());

@@ -117,7 +117,7 @@ TEST_F(ProgettoVivoTest, TellsOfAWallThatStandsThatTheRunFindsNoRestOnceItIsKnow
     EXPECT_EQ(vivo.parete().senzaRelazione, "");
     vivo.rispondi(vivo.domanda()->numero, calcolaLenti(*vivo.domanda()));
     EXPECT_EQ(vivo.parete().senzaRelazione,
-              "in equilibrio, ma il calcolo per fasi non si assesta nella fase 2: niente "
+              "in equilibrio, ma il calcolo per fasi non converge nella fase 2: niente "
               "relazione");
     dati = test::progettoSemplice();
     vivo.guarda(&dati);

@@ -52,7 +52,8 @@ TEST(ControlloGiudizi, TellsEachVerdictThatAFinerMeshTurns) {
     const Righe detti = osservate(m);
     ASSERT_EQ(detti.size(), 2U);
     EXPECT_EQ(detti[0].find("[pericolo] verdetto-con-la-maglia: Una maglia più fine cambia"), 0U);
-    EXPECT_EQ(detti[1].find("[pericolo] verdetto-con-la-maglia: Il verdetto non è assestato"), 0U);
+    EXPECT_EQ(detti[1].find("[pericolo] verdetto-con-la-maglia: Il verdetto non è a convergenza"),
+              0U);
     // A use that only grows is told in the margin alone.
     m.maglia->usi = {{Verifica::momentoNegativo, {uso(50), uso(60), uso(65)}}};
     EXPECT_TRUE(osservate(m).empty());

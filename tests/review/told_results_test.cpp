@@ -59,9 +59,10 @@ TEST(EsempiRaccontati, AreToldWhatTheirStagesComeTo) {
     EXPECT_EQ(
         righe(risultati(esempio("paratia_lunga_incastro"))),
         (Righe{
-            "[pericolo] verdetto-con-la-maglia: Il verdetto non è assestato: sfruttamento, "
-            "flessione con momento negativo dal 90.2 % con 50 segmenti al 98.2 % con 200, con "
-            "maglie sempre più fini verso il 101.9 %. Con queste maglie la sezione è verificata, "
+            "[pericolo] verdetto-con-la-maglia: Il verdetto non è a convergenza: lo sfruttamento "
+            "cresce, "
+            "flessione con momento negativo da 90.2 % con 50 segmenti a 98.2 % con 200, verso "
+            "101.9 % con maglie sempre più fini. Con queste maglie la sezione è verificata, "
             "con il valore a cui tendono no: verificarla con quello.",
             "[da vedere] taglio-maggiore-della-statica: taglio massimo del diagramma 1120.0 kN/m "
             "(fase 5, a 26.00 m), dell'equilibrio -385.2 kN/m (fase 5, a 18.72 m); al piede "

@@ -161,7 +161,7 @@ TEST(ParoleRelazione, SayWhatKeepsItFromItsNumbers) {
               "fase 2");
     m.corsa = {ModoFine::oltreLimite, 1, 200};
     EXPECT_EQ(paroleRelazione(m),
-              "La relazione non ha numeri: l'iterazione del calcolo per fasi non si assesta nella "
+              "La relazione non ha numeri: l'iterazione del calcolo per fasi non converge nella "
               "fase 1");
     m.corsa = {ModoFine::nonMostrabile, 0, 0};
     EXPECT_EQ(paroleRelazione(m), "La relazione non ha numeri: nessuna relazione può mostrarli");
@@ -177,7 +177,7 @@ TEST(ParoleSenzaRelazione, SayOfAWallThatStandsWhatTheRunDoesNotFind) {
     Margine m = dueFasi();
     m.corsa = {ModoFine::oltreLimite, 2, 200};
     EXPECT_EQ(paroleSenzaRelazione(m),
-              "in equilibrio, ma il calcolo per fasi non si assesta nella fase 2: niente "
+              "in equilibrio, ma il calcolo per fasi non converge nella fase 2: niente "
               "relazione");
     m.corsa = {ModoFine::singolare, 1, 0};
     EXPECT_EQ(paroleSenzaRelazione(m),

@@ -46,7 +46,7 @@ TEST(AvvisiMaglia, TellAUseThatGrowsByMoreThanATwentiethOfItself) {
     EXPECT_FALSE(avvisi[0].verdetto);
     EXPECT_EQ(avvisi[0].testo,
               "Una maglia più fine dà uno sfruttamento maggiore: flessione con momento positivo "
-              "dal 80.2 % con 50 segmenti al 87.9 % con 200. Tenere conto della differenza, o "
+              "da 80.2 % con 50 segmenti a 87.9 % con 200. Tenere conto della differenza, o "
               "aumentare i segmenti.");
 }
 
@@ -56,12 +56,12 @@ TEST(AvvisiMaglia, TellAVerdictThatIsNotSettled) {
                                           usi(Verifica::momentoPositivo, 80, 85, 87.5)}));
     ASSERT_EQ(avvisi.size(), 2U);
     EXPECT_TRUE(avvisi[0].verdetto);
-    EXPECT_EQ(
-        avvisi[0].testo,
-        "Il verdetto non è assestato: sfruttamento, flessione con momento negativo dal 90.2 % "
-        "con 50 segmenti al 98.2 % con 200, con maglie sempre più fini verso il 101.9 %. Con "
-        "queste maglie la sezione è verificata, con il valore a cui tendono no: verificarla "
-        "con quello.");
+    EXPECT_EQ(avvisi[0].testo,
+              "Il verdetto non è a convergenza: lo sfruttamento cresce, flessione con momento "
+              "negativo da 90.2 % "
+              "con 50 segmenti a 98.2 % con 200, verso 101.9 % con maglie sempre più fini. Con "
+              "queste maglie la sezione è verificata, con il valore a cui tendono no: verificarla "
+              "con quello.");
     EXPECT_FALSE(avvisi[1].verdetto);
 }
 
@@ -72,9 +72,9 @@ TEST(AvvisiMaglia, AreSilentOnASmallUse) {
 
 TEST(AvvisiMaglia, TellAVerdictThatAFinerMeshChangesEitherWay) {
     for (const auto& [n, doppia, quadrupla, detto] :
-         {std::tuple(99.0, 99.5, 101.3, "dal 99.0 % con 50 segmenti al 101.3 % con 200"),
-          std::tuple(99.0, 101.3, 99.5, "dal 99.0 % con 50 segmenti al 101.3 % con 100"),
-          std::tuple(101.0, 99.9, 98.0, "dal 101.0 % con 50 segmenti al 98.0 % con 200")}) {
+         {std::tuple(99.0, 99.5, 101.3, "da 99.0 % con 50 segmenti a 101.3 % con 200"),
+          std::tuple(99.0, 101.3, 99.5, "da 99.0 % con 50 segmenti a 101.3 % con 100"),
+          std::tuple(101.0, 99.9, 98.0, "da 101.0 % con 50 segmenti a 98.0 % con 200")}) {
         const auto avvisi =
             avvisiMaglia(con({usi(Verifica::momentoPositivo, n, doppia, quadrupla)}));
         ASSERT_EQ(avvisi.size(), 1U);

@@ -75,9 +75,9 @@ TEST(ProspettoVerifiche, TellsAVerdictThatAFinerMeshTurns) {
     const Muro m = muro(esempio("paratia_lunga_incastro"));
     const Prospetto p = prospettoVerifiche(m.parete, m.margine);
     EXPECT_EQ(p.righe[0][6].testo, "verificata");
-    EXPECT_EQ(p.righe[1][6].testo, "non assestata");
+    EXPECT_EQ(p.righe[1][6].testo, "non a convergenza");
     EXPECT_EQ(p.righe[1][6].peso, review::Peso::pericolo);
-    EXPECT_EQ(p.note.back().find("Il verdetto non è assestato"), 0U);
+    EXPECT_EQ(p.note.back().find("Il verdetto non è a convergenza"), 0U);
     EXPECT_EQ(prospettoVerificheRelazione(m.parete, m.margine).righe[1][6].testo,
               "Condizioni di sicurezza verificate (momento negativo)");
 }

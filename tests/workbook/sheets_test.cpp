@@ -188,7 +188,7 @@ TEST(Fogli, GiveACheckTheOutcomeThatFinerMeshesLeaveIt) {
     for (const auto& [nome, riga] : {std::pair("verifiche", 1), std::pair("maglia", 6)}) {
         const Prospetto& p = foglio(cartella, nome).prospetto;
         const auto& celle = p.righe.at(static_cast<std::size_t>(riga));
-        EXPECT_EQ(celle[posto(p, "Esito")].testo, "non assestata") << nome;
+        EXPECT_EQ(celle[posto(p, "Esito")].testo, "non a convergenza") << nome;
         EXPECT_EQ(celle[posto(p, "Tendenza")].testo, "101.9") << nome;
     }
     const Prospetto& osservazioni = foglio(cartella, "osservazioni").prospetto;
@@ -231,7 +231,7 @@ TEST(Fogli, HaveTheNumbersAndTheUsesOfThreeMeshes) {
     for (std::size_t i = 0; i < 3; ++i)
         EXPECT_NEAR(*p.righe[6][1 + i].numero, *e.usi[1].maglie[i]->uso() * 100, 1e-9);
     ASSERT_EQ(p.note.size(), 1u);  // at the fixed toe finer meshes use more and more
-    EXPECT_TRUE(p.note[0].starts_with("Il verdetto non è assestato"));
+    EXPECT_TRUE(p.note[0].starts_with("Il verdetto non è a convergenza"));
 }
 
 TEST(Fogli, SayWhyAWallThatDoesNotStandHasNoNumbers) {

@@ -124,7 +124,7 @@ Prospetto prospettoCorse(const Fascicolo& f) {
         const CorsaFase* c = corsa(f, k);
         if (c == nullptr) continue;
         riga[2] = tables::cella(c->iterazioni);
-        riga[3] = tables::esito(traduttore(c->convergente ? "assestata" : "non assestata"),
+        riga[3] = tables::esito(traduttore(c->convergente ? "a convergenza" : "non a convergenza"),
                                 !c->convergente);
         riga[4] = scarto(c->scartoSpostamento, tables::spostamento);
         riga[5] = scarto(c->scartoMomento, tables::momento);
@@ -148,13 +148,14 @@ std::string frasePassi(const Fascicolo& f, int fase) {
                                    "numeri di questa fase."),
                         {passi});
     if (!c->convergente || !c->scartoSpostamento || !c->scartoMomento || !c->scartoTaglio)
-        return riempito(traduttore("Equilibrio trovato in %1 passi. Il calcolo per fasi non si è "
-                                   "assestato: iterazioni %2."),
-                        {passi, std::to_string(c->iterazioni)});
+        return riempito(
+            traduttore("Equilibrio trovato in %1 passi. Il calcolo per fasi non converge "
+                       "(iterazioni: %2)."),
+            {passi, std::to_string(c->iterazioni)});
     return riempito(
-               traduttore(
-                   "Equilibrio trovato in %1 passi. Calcolo per fasi: iterazioni %2; ne differisce "
-                   "al più di %3 mm, di %4 kN m/m nel momento e di %5 kN/m nel taglio."),
+               traduttore("Equilibrio trovato in %1 passi. Il calcolo per fasi (iterazioni: %2) ne "
+                          "differisce "
+                          "al più di %3 mm, di %4 kN m/m nel momento e di %5 kN/m nel taglio."),
                {passi, std::to_string(c->iterazioni),
                 tables::spostamento(c->scartoSpostamento->valore).testo,
                 tables::momento(c->scartoMomento->valore).testo,

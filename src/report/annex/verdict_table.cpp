@@ -44,20 +44,18 @@ std::vector<Cella> riga(const char* cosa, Cella verdetto, std::string dettaglio)
 struct Genere {
     const char* riuscito;
     const char* fallito;
-    const char* nonAssestato;
 };
-constexpr Genere maschile = {"verificato", "NON verificato", "non assestato"};
-constexpr Genere femminile = {"verificata", "NON verificata", "non assestata"};
+constexpr Genere maschile = {"verificato", "NON verificato"};
+constexpr Genere femminile = {"verificata", "NON verificata"};
 
 Cella verdetto(const Genere& genere, Giudizio giudizio) {
     const auto parole = [&]() -> std::string {
         switch (giudizio) {
             case Giudizio::verificata:
                 return genere.riuscito;
-            case Giudizio::nonAssestata:
-                return genere.nonAssestato;
             case Giudizio::fallita:
                 return genere.fallito;
+            case Giudizio::nonAssestata:
             case Giudizio::cambia:
                 break;
         }

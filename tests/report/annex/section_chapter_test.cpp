@@ -72,8 +72,8 @@ TEST(CapitoloSezione, SaysOfADirectionAndItsStageWhatTheCoverSays) {
     };
     con(94.5, 98.2);
     const Blocchi b = sezione(c);
-    EXPECT_NE(testo(b).find("Non assestata."), std::string::npos);
-    EXPECT_EQ(riga(tavola(b, "Le fasi nel dominio"), fase).back().testo, "non assestata");
+    EXPECT_NE(testo(b).find("Non a convergenza."), std::string::npos);
+    EXPECT_EQ(riga(tavola(b, "Le fasi nel dominio"), fase).back().testo, "non a convergenza");
     con(101, 102);
     EXPECT_NE(testo(sezione(c)).find("Cambia con la maglia."), std::string::npos);
 }

@@ -132,11 +132,11 @@ TEST(CapitoloFasi, SetsTheSpecifiedRunBesideTheEquilibrium) {
     const dossier::CorsaFase& corsa = c.fascicolo->corsa[1];
     EXPECT_EQ(numero(p, 1, 1), c.fascicolo->parete.fase(2)->passi);
     EXPECT_EQ(numero(p, 1, 2), corsa.iterazioni);
-    EXPECT_EQ(p.righe[1][3].testo, "assestata");
+    EXPECT_EQ(p.righe[1][3].testo, "a convergenza");
     EXPECT_EQ(numero(p, 1, 4), 1000 * corsa.scartoSpostamento->valore);
     EXPECT_EQ(numero(p, 1, 5), 10 * corsa.scartoMomento->valore);
     EXPECT_EQ(numero(p, 1, 6), 10 * corsa.scartoTaglio->valore);
-    EXPECT_NE(testo(b).find("Calcolo per fasi: iterazioni " + std::to_string(corsa.iterazioni)),
+    EXPECT_NE(testo(b).find("Il calcolo per fasi (iterazioni: " + std::to_string(corsa.iterazioni)),
               std::string::npos);
 }
 
@@ -320,10 +320,10 @@ TEST(CapitoloFasi, OfARunWithoutRestHasTheEquilibriumAndSaysSo) {
     const auto b = fasi(c);
     EXPECT_TRUE(haTavola(b, "Nodi: Fase 1"));
     const auto corse = tavola(b, "Soluzione di equilibrio e calcolo per fasi");
-    EXPECT_EQ(corse.righe[0][3].testo, "non assestata");
+    EXPECT_EQ(corse.righe[0][3].testo, "non a convergenza");
     EXPECT_EQ(corse.righe[0][3].peso, review::Peso::pericolo);
-    EXPECT_NE(corse.note.back().find("non si assesta"), std::string::npos);
-    EXPECT_NE(testo(b).find("non si è assestato"), std::string::npos);
+    EXPECT_NE(corse.note.back().find("non converge"), std::string::npos);
+    EXPECT_NE(testo(b).find("Il calcolo per fasi non converge"), std::string::npos);
 }
 
 TEST(CapitoloFasi, OfAProjectWithoutAWallSaysWhy) {

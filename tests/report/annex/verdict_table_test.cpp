@@ -74,7 +74,7 @@ TEST(ProspettoVerdetti, CallsACheckNotSettledThatGoesBeyondTheResistance) {
     const auto uso = [](double u) { return results::Uso{u, 100, false}; };
     f.margine->maglia->usi = {
         {dossier::Verifica::momentoPositivo, {uso(90.2), uso(94.5), uso(98.2)}}};
-    EXPECT_EQ(riga(prospettoVerdetti(giudicato(f)), "Flessione")[1].testo, "non assestata");
+    EXPECT_EQ(riga(prospettoVerdetti(giudicato(f)), "Flessione")[1].testo, "non a convergenza");
     f.verifiche[0].relazione = dossier::LatoVerifica{{101, 100, true}, {2, 5}};
     EXPECT_EQ(riga(prospettoVerdetti(giudicato(f)), "Flessione")[1].testo, "NON verificata");
     f.verifiche[0].relazione.reset();
