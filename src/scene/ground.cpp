@@ -4,7 +4,7 @@
 
 #include "base/translated_texts.hpp"
 #include "drawings/log/label_spreading.hpp"
-#include "drawings/log/layer_description.hpp"
+#include "drawings/log/layer_name.hpp"
 #include "scene/parts.hpp"
 #include "scene/polygon.hpp"
 #include "scene/text_fitting.hpp"
@@ -36,10 +36,11 @@ std::vector<StratoMostrato> stratiMostrati(const Mostrata& m, double fondo) {
     std::vector<StratoMostrato> strati;
     double tetto = 0;
     for (int i = 1; i <= m.nStrati() && tetto < fondo; ++i) {
-        const double letto = m.dati().profStrato[i];
-        if (!disegnabile(letto) || letto <= tetto) continue;
+        if (!disegnabile(m.dati().profStrato[i])) continue;
+        const double letto = lettoMostrato(m, i);
+        if (letto <= tetto) continue;
         strati.push_back({i, tetto, std::min(letto, fondo),
-                          drawings::leggiDescrizione(m.dati().descrStrato[i])});
+                          drawings::descrizioneMostrata(m.dati().descrStrato[i])});
         tetto = letto;
     }
     if (tetto < fondo) strati.push_back(ignoto(tetto, fondo));

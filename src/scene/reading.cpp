@@ -7,7 +7,7 @@
 
 #include "base/name_in_sentence.hpp"
 #include "base/translated_texts.hpp"
-#include "drawings/log/layer_description.hpp"
+#include "drawings/log/layer_name.hpp"
 #include "live/envelope.hpp"
 #include "project/shown_number.hpp"
 #include "scene/shown_values.hpp"
@@ -64,12 +64,10 @@ Luogo luogo(const live::PareteViva& parete, double z) {
 }
 
 std::string strato(const Mostrata& m, double z) {
-    for (int i = 1; i <= m.nStrati(); ++i)
-        if (z <= m.dati().profStrato[i]) {
-            const std::string testo = drawings::leggiDescrizione(m.dati().descrStrato[i]).testo;
-            return testo.substr(0, testo.find('|'));
-        }
-    return {};
+    const int i = stratoMostrato(m, z);
+    if (i == 0) return {};
+    const std::string testo = drawings::descrizioneMostrata(m.dati().descrStrato[i]).testo;
+    return testo.substr(0, testo.find('|'));
 }
 
 // "12.3", of an envelope "-1.5 … 4.5"; empty for no number.

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "drawings/log/layer_description.hpp"
+#include "drawings/log/layer_name.hpp"
 #include "live/envelope.hpp"
 #include "project/units.hpp"
 #include "structure/section_millimetres.hpp"
@@ -59,11 +59,20 @@ Mostrata mostrata(const live::PareteViva& parete, const live::Vista& vista) {
     return m;
 }
 
-int coloreTerreno(const Mostrata& m, double z) {
+double lettoMostrato(const Mostrata& m, int strato) {
+    const double letto = m.dati().profStrato[strato];
+    return strato == m.nStrati() && letto < m.lunghezza ? HUGE_VAL : letto;
+}
+
+int stratoMostrato(const Mostrata& m, double z) {
     for (int i = 1; i <= m.nStrati(); ++i)
-        if (z <= m.dati().profStrato[i])
-            return drawings::leggiDescrizione(m.dati().descrStrato[i]).colore;
+        if (z <= lettoMostrato(m, i)) return i;
     return 0;
+}
+
+int coloreTerreno(const Mostrata& m, double z) {
+    const int i = stratoMostrato(m, z);
+    return i == 0 ? 0 : drawings::descrizioneMostrata(m.dati().descrStrato[i]).colore;
 }
 
 double spessore(const project::Sezione& sezione) {

@@ -40,6 +40,13 @@ struct Mostrata {
 /// A number that can be drawn: finite, and below what any ground is deep or a load is large.
 [[nodiscard]] bool disegnabile(double valore);
 
+/// Depth of a layer's foot as it is drawn [m]. A last layer that ends above the toe has none: the
+/// analysis goes on with it below, and a wall that hangs in the void would tell of another one.
+[[nodiscard]] double lettoMostrato(const Mostrata& m, int strato);
+
+/// The layer at a depth; 0 where no layer is known.
+[[nodiscard]] int stratoMostrato(const Mostrata& m, double z);
+
 /// Hatch colour of the ground at a depth; 0 where no layer is known.
 [[nodiscard]] int coloreTerreno(const Mostrata& m, double z);
 

@@ -8,7 +8,7 @@
 #include "base/colon.hpp"
 #include "base/filled_text.hpp"
 #include "base/translated_texts.hpp"
-#include "drawings/log/layer_description.hpp"
+#include "drawings/log/layer_name.hpp"
 #include "safety/words.hpp"
 #include "tables/quantities.hpp"
 
@@ -25,7 +25,7 @@ namespace unita = project::unita;
 
 // "2: Ghiaia". The description of a layer may ask for line ends, which a cell has none of.
 std::string nomeStrato(const DatiProgetto& dati, int j) {
-    std::string testo = drawings::leggiDescrizione(dati.descrStrato[j]).testo;
+    std::string testo = drawings::descrizioneMostrata(dati.descrStrato[j]).testo;
     std::replace(testo.begin(), testo.end(), '|', ' ');
     return std::to_string(j) + (testo.empty() ? "" : base::duePunti() + testo);
 }

@@ -30,6 +30,15 @@ TEST(Lettura, IsLinearBetweenTwoNodes) {
     EXPECT_EQ(letta.strato, "Ghiaia");
 }
 
+TEST(Lettura, NamesTheLayerAsItStandsInTheTables) {
+    auto dati = test::progettoSemplice();
+    dati.descrStrato[2] = "limo argilloso|bruno";
+    dati.profStrato[2] = 11;  // of a wall of 12 m: computed with it down to the toe
+    const auto parete = live::calcola(dati, 40);
+    EXPECT_EQ(lettura(parete, {1}, 6.1).strato, "limo argilloso");
+    EXPECT_EQ(lettura(parete, {1}, 11.7).strato, "limo argilloso");
+}
+
 // The anchor is on node 6, at 1.5 m; a line goes to the value above it and on from that below it.
 TEST(Lettura, HasBothShearsAtAnAnchor) {
     const auto parete = live::calcola(test::progettoSemplice(), 40);

@@ -57,15 +57,14 @@ TEST(Scena, EndsTheLastLayerWithALineWhateverItsCodeBelowTheWallToo) {
     auto dati = test::progettoSemplice();
     const int ultimo = dati.nStrati;
     dati.descrStrato[ultimo] = "-103 Ghiaia";
-    for (const double letto : {12.6, 11.0}) {  // of a wall of 12 m
+    for (const double letto : {12.6, 12.0}) {  // of a wall of 12 m
         dati.profStrato[ultimo] = letto;
         const Scena s = scenaDi(dati, {2});
         const auto linee = figure<Linea>(s, Elemento::strato, ultimo);
         ASSERT_EQ(linee.size(), 2U) << letto;
         for (const Linea& linea : linee) EXPECT_NEAR(linea.punti[0].y, s.y(letto), 1e-9);
-        const double faccia = letto > 12 ? pianta(s).sinistra : pianta(s).destra;
         EXPECT_EQ(linee[0].punti[1].x, pianta(s).sinistra);
-        EXPECT_EQ(linee[1].punti[0].x, faccia);
+        EXPECT_EQ(linee[1].punti[0].x, pianta(s).sinistra);
     }
     dati.descrStrato[1] = "-101 Sabbia";
     EXPECT_TRUE(figure<Linea>(scenaDi(dati, {2}), Elemento::strato, 1).empty());
@@ -97,10 +96,26 @@ TEST(Scena, HatchesALayerWithCodeAndColourOfItsDescription) {
 }
 
 TEST(Scena, LeavesGroundBelowTheLastLayerWithoutColour) {
-    const auto dati = muro().lungo(10).strato({.fondo = 8, .descrizione = "103C3 Sabbia"}).dati();
+    const auto dati =
+        muro().lungo(10).strato({.fondo = 10.2, .descrizione = "103C3 Sabbia"}).dati();
     const auto ignoto = figure<Area>(scenaDi(dati), Elemento::strato, 0);
     ASSERT_FALSE(ignoto.empty());
     EXPECT_EQ(ignoto[0].tinta, (Tinta{Ruolo::fondoStrato, 0}));
+}
+
+TEST(Scena, GoesOnWithALastLayerThatEndsAboveTheToeAsTheAnalysisDoes) {
+    const auto dati = muro().lungo(10).strato({.fondo = 8, .descrizione = "103C3 Sabbia"}).dati();
+    const Scena s = scenaDi(dati);
+    EXPECT_TRUE(figure<Area>(s, Elemento::strato, 0).empty());
+    const auto sabbia = figure<Area>(s, Elemento::strato, 1);
+    ASSERT_FALSE(sabbia.empty());
+    EXPECT_GT(intorno(sabbia[0].punti).basso, s.y(10));
+    EXPECT_TRUE(figure<Linea>(s, Elemento::strato, 1).empty()) << "a line would be a layer's foot";
+}
+
+TEST(Scena, NamesALayerWithItsFirstWordWhereThatIsNoCode) {
+    const auto dati = muro().strato({.fondo = 20, .descrizione = "limo argilloso"}).dati();
+    EXPECT_TRUE(dice(testi(scenaDi(dati), Elemento::strato, 1), "limo argilloso"));
 }
 
 TEST(Scena, SlopesTheGroundByItsAngle) {

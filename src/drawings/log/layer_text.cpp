@@ -7,7 +7,7 @@
 #include "base/translated_texts.hpp"
 #include "drawings/log/graphic_code.hpp"
 #include "drawings/log/hatch_choice.hpp"
-#include "drawings/log/layer_description.hpp"
+#include "drawings/log/layer_name.hpp"
 
 namespace korven::drawings {
 
@@ -33,10 +33,9 @@ std::string campiture(std::string_view descrStrato) {
 }  // namespace
 
 std::string testoStrato(std::string_view descrStrato) {
-    const bool conCodice = haCodice(descrStrato);
-    std::string testo = conCodice ? leggiDescrizione(descrStrato).testo : std::string(descrStrato);
+    std::string testo = descrizioneMostrata(descrStrato).testo;
     std::replace(testo.begin(), testo.end(), '|', '\n');
-    if (const std::string nomi = campiture(descrStrato); conCodice && !nomi.empty())
+    if (const std::string nomi = campiture(descrStrato); !nomi.empty())
         testo += (testo.empty() ? "[" : "\n[") +
                  base::conDuePunti(base::traduttore("campitura"), nomi) + "]";
     return testo;
