@@ -58,6 +58,14 @@ std::size_t uguale(std::string_view testo, std::size_t da) {
     return valore && da > 0 && testo[da - 1] != ' ' ? segno.size() : 0;
 }
 
+// " · " between two numbers.
+std::size_t prodotto(std::string_view testo, std::size_t da) {
+    constexpr std::string_view segno = " \u00b7 ";
+    const std::string_view resto = testo.substr(da);
+    const bool numero = resto.starts_with(segno) && numeroIn(resto.substr(segno.size()));
+    return numero && da > 0 && cifra(testo[da - 1]) ? segno.size() : 0;
+}
+
 }  // namespace
 
 std::string unitaUnite(std::string_view testo) {
@@ -80,7 +88,7 @@ std::vector<std::string_view> paroleUnite(std::string_view riga) {
     std::vector<std::string_view> parole;
     std::size_t inizio = 0;
     for (std::size_t i = 0; i < riga.size(); ++i) {
-        const std::size_t insieme = std::max(legati(riga, i), uguale(riga, i));
+        const std::size_t insieme = std::max({legati(riga, i), uguale(riga, i), prodotto(riga, i)});
         if (insieme > 0) i += insieme - 1;
         if (insieme > 0 || riga[i] != ' ') continue;
         parole.push_back(riga.substr(inizio, i - inizio));

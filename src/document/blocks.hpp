@@ -59,8 +59,8 @@ struct Figura {
 /// What follows begins on a new page.
 struct SaltoPagina {};
 
-/// The headings of levels 1 and 2 that follow it, with their pages: each leads there in a PDF. On
-/// paper alone, since other files have no pages.
+/// The headings of levels 1 and 2 that follow it, with their pages: each leads there in a PDF. A
+/// word processor's file, which has no pages yet, lists the headings; plain text has none.
 struct Indice {
     std::string titolo;
 };

@@ -99,8 +99,21 @@ class Scrittore {
         for (const auto& r : righe(figura.descrizione + " " + dove, false)) riga(r);
     }
 
+    void scrivi(const Indice&) {}  // needs what follows it: below
     void scrivi(const SaltoPagina&) { direttiva("#NEWPAGE"); }
-    void scrivi(const Indice&) {}  // no page has a number here
+    // No page has a number here: the headings alone.
+    void scrivi(const Indice& indice, const std::vector<Blocco>& blocchi, std::size_t da) {
+        if (uso_ == Uso::testo) return;
+        std::vector<const Titolo*> titoli;
+        for (std::size_t i = da + 1; i < blocchi.size(); ++i)
+            if (const auto* t = std::get_if<Titolo>(&blocchi[i]); t != nullptr && t->livello <= 2)
+                titoli.push_back(t);
+        if (titoli.empty()) return;
+        riga({});
+        riga(inUnaRiga(indice.titolo));
+        for (const Titolo* t : titoli)
+            riga((t->livello == 1 ? std::string() : rientro()) + inUnaRiga(t->testo));
+    }
 
     [[nodiscard]] std::string testo() { return std::move(testo_); }
 
@@ -108,6 +121,14 @@ class Scrittore {
 
  private:
     static constexpr std::size_t righeInsieme = markup::maximumGridRows - 1;  // below the head
+
+    // Blanks at a line's head are lost.
+    static std::string rientro() {
+        constexpr int quanti = 4;
+        std::string bianchi;
+        for (int i = 0; i < quanti; ++i) bianchi += spazioFermo;
+        return bianchi;
+    }
 
     [[nodiscard]] std::vector<std::string> righe(std::string_view testo, bool fisso) const {
         std::string scritto = perEsteso(testo);
@@ -215,8 +236,11 @@ std::string inMarkup(const Documento& documento, Uso uso) {
     scrittore.direttiva("#FONT", "Arial");
     scrittore.direttiva("#FONTSIZE", Scrittore::corpo);
     scrittore.direttiva("#LEFT");
-    for (const Blocco& blocco : documento.blocchi)
-        std::visit([&](const auto& b) { scrittore.scrivi(b); }, blocco);
+    for (std::size_t i = 0; i < documento.blocchi.size(); ++i)
+        if (const auto* indice = std::get_if<Indice>(&documento.blocchi[i]))
+            scrittore.scrivi(*indice, documento.blocchi, i);
+        else
+            std::visit([&](const auto& b) { scrittore.scrivi(b); }, documento.blocchi[i]);
     scrittore.direttiva("#ENDDOCUMENT");
     return scrittore.testo();
 }

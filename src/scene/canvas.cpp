@@ -66,13 +66,13 @@ bool Tela::libero(const Riquadro& posto) const {
                         [&](const Riquadro& uno) { return uno.tocca(posto); });
 }
 
-bool Tela::attraversato(const Riquadro& posto, const Scritta& s) const {
-    return std::any_of(tratti_.begin(), tratti_.end(), [&](const Tratto& t) {
-        return (t.elemento != s.elemento || t.numero != s.numero) && attraversa(t.da, t.a, posto);
+bool Tela::sgombro(const Riquadro& posto, Elemento elemento, int numero) const {
+    return std::none_of(tratti_.begin(), tratti_.end(), [&](const Tratto& t) {
+        return (t.elemento != elemento || t.numero != numero) && attraversa(t.da, t.a, posto);
     });
 }
 
-bool Tela::colloca(const Scritta& s, const std::string& parole, bool sgombro) {
+bool Tela::colloca(const Scritta& s, const std::string& parole, bool libera) {
     if (parole.empty()) return false;
     Testo testo{.punto = {},
                 .corpo = s.corpo,
@@ -87,7 +87,7 @@ bool Tela::colloca(const Scritta& s, const std::string& parole, bool sgombro) {
         testo.ancora = posto.ancora;
         testo.fondo = posto.fondo;
         const Riquadro r = testo.riquadro();
-        if (!libero(r) || (sgombro && attraversato(r, s))) continue;
+        if (!libero(r) || (libera && !sgombro(r, s.elemento, s.numero))) continue;
         occupa(r);
         if (s.richiamo) disegna(s.elemento, s.numero, *s.richiamo);
         collocate_.push_back({s.elemento, s.numero, std::move(testo)});

@@ -50,6 +50,9 @@ class Tela {
     /// Keeps texts out of a place.
     void occupa(const Riquadro& posto) { occupati_.push_back(posto); }
 
+    /// No line of another part of the project drawn so far goes through a place.
+    [[nodiscard]] bool sgombro(const Riquadro& posto, Elemento elemento, int numero) const;
+
     [[nodiscard]] double larghezza(const std::string& testo, double corpo,
                                    bool grassetto = false) const {
         return misura_.larghezza(testo, corpo, grassetto);
@@ -61,8 +64,7 @@ class Tela {
 
  private:
     [[nodiscard]] bool libero(const Riquadro& posto) const;
-    [[nodiscard]] bool attraversato(const Riquadro& posto, const Scritta& scritta) const;
-    [[nodiscard]] bool colloca(const Scritta& scritta, const std::string& parole, bool sgombro);
+    [[nodiscard]] bool colloca(const Scritta& scritta, const std::string& parole, bool libera);
     void colloca(const Scritta& scritta);
     void segnaTratti(Elemento elemento, int numero, const std::vector<Punto>& punti);
 

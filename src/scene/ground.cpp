@@ -86,6 +86,10 @@ class Terreno {
         if (spostamento(nominati, alto) > lontano * riga())
             nominati = diradati(nominati, alto, vicino * riga());
         const std::vector<double> y = righe(nominati, alto);
+        // Names of some layers among numbers of others would look like two kinds of things.
+        soloNumeri_ = false;
+        for (std::size_t i = 0; q_.stretta && i < nominati.size(); ++i)
+            soloNumeri_ = soloNumeri_ || fuori(*nominati[i], y[i], alto) || !intero(*nominati[i]);
         for (std::size_t i = 0; i < nominati.size(); ++i) nome(*nominati[i], y[i], alto);
     }
 
@@ -164,8 +168,18 @@ class Terreno {
         return tenuti;
     }
 
+    [[nodiscard]] bool fuori(const StratoMostrato& s, double y, double alto) const {
+        return y < std::max(q_.y(s.tetto), alto) || y > std::min(q_.y(s.letto), q_.yFondo);
+    }
+
+    // Whether the whole name has room in the width.
+    [[nodiscard]] bool intero(const StratoMostrato& s) const {
+        return tela_.larghezza(nomeCorto(s.descrizione), corpoNomi * q_.em) <=
+               larghezzaLibera * q_.xMonte - inizioNomi * q_.em;
+    }
+
     void nome(const StratoMostrato& s, double y, double alto) {
-        const double x = 0.6 * q_.em, corpo = 0.92 * q_.em;
+        const double x = inizioNomi * q_.em, corpo = corpoNomi * q_.em;
         const double tetto = std::max(q_.y(s.tetto), alto);
         const double letto = std::min(q_.y(s.letto), q_.yFondo);
         const Tinta fondo{Ruolo::fondoStrato, s.descrizione.colore};
@@ -176,11 +190,11 @@ class Terreno {
                         .tinta = {Ruolo::testo},
                         .corpo = corpo,
                         .posti = {{{x, y}, Ancora::sinistra, fondo}}};
-        const bool fuori = y < tetto || y > letto;
-        const auto nomi = formeNome(s, fuori, x, corpo);
+        const bool accanto = fuori(s, y, alto);
+        const auto nomi = formeNome(s, accanto, x, corpo);
         scritta.testo = nomi.front();
         scritta.inBreve.assign(nomi.begin() + 1, nomi.end());
-        if (fuori) {
+        if (accanto) {
             const double fine = x + tela_.larghezza(scritta.testo, corpo) + 0.3 * q_.em;
             scritta.richiamo =
                 Linea{{{fine, y}, {larghezzaNomi * q_.xMonte + 0.6 * q_.em, centro(s, alto)}},
@@ -207,7 +221,7 @@ class Terreno {
         };
         if (q_.stretta) {
             const std::string numero = base::traduttore("strato") + " " + std::to_string(s.numero);
-            if (fuori || entro(larghezzaLibera) != intero) return {numero};
+            if (soloNumeri_) return {numero};
             return {intero, numero};
         }
         if (fuori) return {entro(larghezzaNomi)};
@@ -218,12 +232,14 @@ class Terreno {
         return forme;
     }
 
+    static constexpr double inizioNomi = 0.6, corpoNomi = 0.92;  // [em]
     // Of the uphill side.
     static constexpr double larghezzaNomi = 0.34, larghezzaMedia = 0.6, larghezzaLibera = 0.95;
     const Mostrata& m_;
     const Inquadratura& q_;
     Tela& tela_;
     std::vector<StratoMostrato> strati_;
+    bool soloNumeri_ = false;
 };
 
 }  // namespace

@@ -25,6 +25,9 @@ void disegnaFasi(const Mostrata& m, const Inquadratura& q, Tela& tela);
 [[nodiscard]] double inizioLivello(const Mostrata& m, const Inquadratura& q, const Tela& tela);
 /// Anchors and struts with number, depth and force.
 void disegnaTiranti(const Mostrata& m, const Inquadratura& q, Tela& tela);
+
+/// The signs of the water levels, clear of anchors that are there.
+void segnaAcque(const Mostrata& m, const Inquadratura& q, Tela& tela);
 /// The wall with its restraints; one that is a mechanism moved, with what is at its limit.
 void disegnaMuro(const Mostrata& m, const Inquadratura& q, Tela& tela);
 /// Force, moment and axial force at the head.

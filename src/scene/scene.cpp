@@ -12,9 +12,9 @@ namespace korven::scene {
 namespace {
 
 using Parte = void (*)(const Mostrata&, const Inquadratura&, Tela&);
-constexpr Parte parti[] = {disegnaTerreno, disegnaAcque,         disegnaProfili,
-                           disegnaFasi,    disegnaSovraccarichi, disegnaTiranti,
-                           disegnaQuote,   disegnaMuro,          disegnaCarichiTesta};
+constexpr Parte parti[] = {disegnaTerreno,       disegnaAcque,       disegnaProfili, disegnaFasi,
+                           disegnaSovraccarichi, disegnaTiranti,     segnaAcque,     disegnaQuote,
+                           disegnaMuro,          disegnaCarichiTesta};
 
 }  // namespace
 

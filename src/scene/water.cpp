@@ -1,4 +1,6 @@
+#include <algorithm>
 #include <utility>
+#include <vector>
 
 #include "scene/parts.hpp"
 #include "scene/polygon.hpp"
@@ -8,23 +10,45 @@ namespace korven::scene {
 
 namespace {
 
-// A level: a dashed line, the triangle on it, the depth beside that.
-void livello(const Mostrata& m, const Inquadratura& q, double z, double da, double a, double xSegno,
-             Tela& tela) {
+// A level as a dashed line.
+void linea(const Inquadratura& q, double z, double da, double a, Tela& tela) {
     const double y = q.y(z);
-    if (!q.visibile(y)) return;
+    if (q.visibile(y))
+        tela.disegna(Elemento::acqua, 0,
+                     Linea{{{da, y}, {a, y}}, {Ruolo::acqua}, 1.2, Tratteggio::linee});
+}
+
+// The triangle on a level and two strokes below, at the first of some places that no anchor takes.
+// Gives where.
+double triangolo(const Inquadratura& q, double y, const std::vector<double>& posti, Tela& tela) {
     const Tinta tinta{Ruolo::acqua};
     const double lato = 0.5 * q.em;
-    tela.disegna(Elemento::acqua, 0, Linea{{{da, y}, {a, y}}, tinta, 1.2, Tratteggio::linee});
-    tela.disegna(
-        Elemento::acqua, 0,
-        Area{{{xSegno - lato, y - 1.5 * lato}, {xSegno + lato, y - 1.5 * lato}, {xSegno, y}},
-             tinta});
+    const auto segno = [&](double x) {
+        return Riquadro{x - lato, y - 1.5 * lato, x + lato, y + 0.6 * q.em};
+    };
+    const auto libero = std::find_if(posti.begin(), posti.end(), [&](double x) {
+        return tela.sgombro(segno(x), Elemento::acqua, 0);
+    });
+    const double x = libero == posti.end() ? posti.front() : *libero;
+    tela.disegna(Elemento::acqua, 0,
+                 Area{{{x - lato, y - 1.5 * lato}, {x + lato, y - 1.5 * lato}, {x, y}}, tinta});
     for (const double giu : {0.3, 0.55})
-        tela.disegna(Elemento::acqua, 0,
-                     Linea{{{xSegno - lato * (1 - giu), y + giu * q.em},
-                            {xSegno + lato * (1 - giu), y + giu * q.em}},
-                           tinta});
+        tela.disegna(
+            Elemento::acqua, 0,
+            Linea{{{x - lato * (1 - giu), y + giu * q.em}, {x + lato * (1 - giu), y + giu * q.em}},
+                  tinta});
+    tela.occupa(segno(x));
+    return x;
+}
+
+// A level by its triangle, the depth beside that.
+void livello(const Mostrata& m, const Inquadratura& q, double z, double da, double a,
+             const std::vector<double>& parti, Tela& tela) {
+    const double y = q.y(z);
+    if (!q.visibile(y)) return;
+    std::vector<double> segni;
+    for (const double parte : parti) segni.push_back(da + parte * (a - da));
+    const double xSegno = triangolo(q, y, segni, tela), lato = 0.5 * q.em;
     const double corpo = 0.9 * q.em, largo = tela.larghezza(quota(z), corpo) + 0.5 * q.em;
     std::vector<Posto> posti;
     for (const auto& [via, su] :
@@ -40,7 +64,7 @@ void livello(const Mostrata& m, const Inquadratura& q, double z, double da, doub
     tela.scrivi({.grado = Grado::acqua,
                  .elemento = Elemento::acqua,
                  .testo = quota(z),
-                 .tinta = tinta,
+                 .tinta = {Ruolo::acqua},
                  .corpo = corpo,
                  .posti = std::move(posti)});
 }
@@ -58,7 +82,7 @@ void disegnaAcque(const Mostrata& m, const Inquadratura& q, Tela& tela) {
                 sotto(rettangolo(0, y, q.xMonte, fondo), {q.xMonte, q.yTesta}, {0, q.suolo(0)});
             if (area.size() > 2) tela.disegna(Elemento::acqua, 0, Area{std::move(area), specchio});
         }
-        livello(m, q, z, 0, q.xMonte, 0.78 * q.xMonte, tela);
+        linea(q, z, 0, q.xMonte, tela);
     }
     if (m.fase == 0) return;
     if (const double z = m.dati().faldaFase[m.fase]; disegnabile(z)) {
@@ -67,8 +91,16 @@ void disegnaAcque(const Mostrata& m, const Inquadratura& q, Tela& tela) {
                          Area{rettangolo(q.xValle, std::max(q.y(z), 0.0), q.larghezza,
                                          std::min(q.y(m.scavo), q.yFondo)),
                               specchio});
-        livello(m, q, z, q.xValle, q.xSezione, q.xValle + 0.14 * (q.xSezione - q.xValle), tela);
+        linea(q, z, q.xValle, q.xSezione, tela);
     }
+}
+
+void segnaAcque(const Mostrata& m, const Inquadratura& q, Tela& tela) {
+    if (const double z = m.dati().faldaMonte; disegnabile(z))
+        livello(m, q, z, 0, q.xMonte, {0.78, 0.9, 0.3, 0.2, 0.5}, tela);
+    if (m.fase == 0) return;
+    if (const double z = m.dati().faldaFase[m.fase]; disegnabile(z))
+        livello(m, q, z, q.xValle, q.xSezione, {0.14, 0.5, 0.7}, tela);
 }
 
 }  // namespace korven::scene

@@ -32,8 +32,12 @@ std::optional<Peso> pesa(double valore, double daVedere, double pericolo, bool s
     return oltre(daVedere) ? std::optional(Peso::daVedere) : std::nullopt;
 }
 
+// Whether the last column says already that the slope of the ground is the limit.
+bool dettoNelMoto(const safety::Riduzione& r) { return r.limitePendio && !r.moto; }
+
 Cella riduzione(const safety::Riduzione& r) {
-    Cella c = {.testo = testoRiduzione(r), .numero = r.F};
+    Cella c = {.testo = r.F && dettoNelMoto(r) ? safety::testoF(*r.F) : testoRiduzione(r),
+               .numero = r.F};
     if (r.oltre) c.ordine = safety::massimaRiduzione;
     if (r.oltre) c.barra = 1;
     if (!r.F) return c;
@@ -143,7 +147,11 @@ Prospetto prospettoMargine(const Margine& margine) {
                     "Spostamento del piede, positivo verso lo scavo"),
             colonnaParole("Moto con F", "Che cosa accade con la resistenza divisa per F")}};
     for (const MargineFase& fase : margine.fasi) p.righe.push_back(rigaMargine(fase, margine));
-    for (std::string nota : {notaPendenza(margine), notaOltre(margine)})
+    const bool note = std::any_of(margine.fasi.begin(), margine.fasi.end(), [](const auto& fase) {
+        return fase.riduzione.limitePendio && !dettoNelMoto(fase.riduzione);
+    });
+    for (std::string nota :
+         {note ? notaPendenza(margine) : std::string(), safety::notaOltre(margine)})
         if (!nota.empty()) p.note.push_back(std::move(nota));
     return p;
 }

@@ -43,6 +43,8 @@ TEST(ParoleUnite, PartsALineAtTheBlanksThatBindNothing) {
     EXPECT_EQ(paroleUnite("a  b "), (Parole{"a", "", "b", ""}));
     EXPECT_EQ(paroleUnite("(fase 2, z = 8.10 m)"), (Parole{"(fase", "2,", "z = 8.10 m)"}));
     EXPECT_EQ(paroleUnite("momento [kN m/m]"), (Parole{"momento", "[kN m/m]"}));
+    EXPECT_EQ(paroleUnite("taglio 1.40 \u00b7 215.3 = 301.4 kN/m, 2 \u00b7 b"),
+              (Parole{"taglio", "1.40 \u00b7 215.3 = 301.4 kN/m,", "2", "\u00b7", "b"}));
     EXPECT_EQ(paroleUnite("x = -1, y = a"), (Parole{"x = -1,", "y", "=", "a"}));
     EXPECT_EQ(paroleUnite("4 m"), Parole{"4 m"});
     EXPECT_EQ(paroleUnite(""), Parole{""});

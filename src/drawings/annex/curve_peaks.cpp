@@ -22,6 +22,12 @@ Picco picco(const CurvaPannello& curva, std::size_t i, const project::Unita& uni
     return uno;
 }
 
+// A peak that is printed as 0.0 would say that there is none.
+bool nullo(const CurvaPannello& curva, std::size_t i, const project::Unita& unita) {
+    return project::numeroMostrato(curva.valori[i], 1, unita).find_first_of("123456789") ==
+           std::string::npos;
+}
+
 }  // namespace
 
 std::vector<Picco> picchi(const CurvaPannello& curva, const project::Unita& unita,
@@ -33,7 +39,7 @@ std::vector<Picco> picchi(const CurvaPannello& curva, const project::Unita& unit
          {std::pair{maggiore, curva.massimo && *maggiore > trascurabile},
           std::pair{minore, curva.minimo && *minore < -trascurabile}}) {
         const auto i = static_cast<std::size_t>(dove - valori.begin());
-        if (detto) tutti.push_back(picco(curva, i, unita, punti[i]));
+        if (detto && !nullo(curva, i, unita)) tutti.push_back(picco(curva, i, unita, punti[i]));
     }
     return tutti;
 }

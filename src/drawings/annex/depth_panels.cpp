@@ -178,7 +178,8 @@ class Pannelli::Pannello {
     }
     void disegna(const CurvaPannello& curva) {
         auto tutti = punti(curva);
-        campo_.curve.push_back(tutti);
+        const bool sottile = !curva.massimo && !curva.minimo;  // of many, behind the others
+        (sottile ? campo_.sottili : campo_.curve).push_back(tutti);
         tela_.disegna(Elemento::curva, 0,
                       Linea{std::move(tutti), {curva.linea}, curva.spessore, curva.tratteggio});
     }

@@ -33,7 +33,7 @@ constexpr double passoX = 0.35 * em, passoY = 0.3 * em;
 
 // What makes a place worse, in pixels of distance.
 constexpr double peggioForma = 0.7 * em, peggioRetta = 0.8 * em, peggioRichiamo = 3 * em;
-constexpr double peggioCurva = 60 * em;
+constexpr double peggioCurva = 60 * em, peggioSottile = 1.2 * em;
 constexpr double arrotondamento = 1e-6;  // sums of these in another order differ by less
 
 double distanza(const Punto& p, const Riquadro& r) {
@@ -115,6 +115,10 @@ class Etichetta {
             return;
         for (const auto& retta : campo_.rette)
             if (attraversa(retta.first, retta.second, r)) peggio += peggioRetta;
+        for (const auto& sottile : campo_.sottili) {
+            if (peggio >= minimo_) return;
+            if (tocca(sottile, r)) peggio += peggioSottile;
+        }
         for (const auto& curva : campo_.curve) {
             if (peggio >= minimo_) return;
             if (tocca(curva, r)) peggio += peggioCurva;

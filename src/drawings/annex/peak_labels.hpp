@@ -24,6 +24,9 @@ struct CampoPicchi {
     std::vector<std::vector<scene::Punto>> curve;
     std::vector<TrattoScena> rette;  ///< lines that a text had better leave alone
     std::vector<Picco> picchi;
+    /// Thin curves behind the others: a text next to its peak over one reads better than one far
+    /// away.
+    std::vector<std::vector<scene::Punto>> sottili = {};
 };
 
 /// Marks at the peaks and their texts, each near its peak, clear of curves and never over another

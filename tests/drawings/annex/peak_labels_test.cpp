@@ -44,6 +44,16 @@ TEST(EtichettePicchi, StandBesideAPeakInOneRowWhereThereIsRoom) {
     EXPECT_EQ(figure<scene::Area>(tutte).size(), 1u);
 }
 
+// The curves of the stages within an envelope leave no place free of them.
+TEST(EtichettePicchi, LieOnThinCurvesRatherThanFarFromTheirPeak) {
+    CampoPicchi campo{{0, 0, 200, 600}, {{{100, 0}, {60, 150}, {100, 600}}}, {}, {}};
+    for (double x = 70; x < 200; x += 25) campo.sottili.push_back({{x, 0}, {x, 400}});
+    campo.picchi.push_back(picco({60, 150}));
+    const auto testi = figure<Testo>(etichette(campo));
+    ASSERT_FALSE(testi.empty());
+    EXPECT_NEAR(testi[0].punto.y, 150, 30);
+}
+
 // Between the curve and the right border there is room for the shorter rows alone.
 TEST(EtichettePicchi, TakeTwoRowsWhereOneWouldLieOnTheCurve) {
     CampoPicchi campo{{0, 0, 110, 60}, {{{50, 0}, {60, 30}, {50, 60}}}, {}, {}};
