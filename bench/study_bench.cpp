@@ -26,12 +26,13 @@ class Varianti : public studies::Varianti {
     }
     [[nodiscard]] std::span<const project::CampoNominato> campi() const override { return campi_; }
     [[nodiscard]] std::uint64_t numero() const override { return numero_; }
-    int valori(std::uint64_t i, std::span<double> valori) const override {
+    std::vector<studies::Estremita> valori(std::uint64_t i,
+                                           std::span<double> valori) const override {
         const auto resto = [i](std::uint64_t modulo) { return static_cast<double>(i % modulo); };
         valori[0] = 30 + resto(101) / 20;
         valori[1] = 10 + resto(1009) / 100;
         valori[2] = 50 + resto(10007) / 100;
-        return 0;
+        return {};
     }
 
  private:

@@ -97,6 +97,8 @@ std::vector<std::string> frasi(const StudioFatto& fatto) {
     return dette;
 }
 
+std::vector<std::string> avvisi(const StudioFatto& fatto) { return fatto.conto.avvisi(); }
+
 std::string csv(const StudioFatto& fatto) {
     std::string testo = fatto.studio->righe->testata();
     for (std::uint64_t i = 0; i < fatto.numero(); ++i)

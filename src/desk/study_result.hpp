@@ -39,6 +39,9 @@ struct StudioFatto {
 /// What the study comes to, a line a fact.
 [[nodiscard]] std::vector<std::string> frasi(const StudioFatto& fatto);
 
+/// What is to be known before any of its numbers is read: limits to which many values were set.
+[[nodiscard]] std::vector<std::string> avvisi(const StudioFatto& fatto);
+
 /// The bytes that `korven32c serie` writes of these variants.
 [[nodiscard]] std::string csv(const StudioFatto& fatto);
 

@@ -22,7 +22,7 @@ Righe LavoroBlocchi::calcola(Tratto tratto) {
 }
 
 bool LavoroBlocchi::aggiungi(std::uint64_t i, Righe& righe) {
-    const int limitati = studio_.varianti.valori(i, valori_);
+    const std::vector<Estremita> limitati = studio_.varianti.valori(i, valori_);
     const RisultatoVariante& r = calcolo_.calcola(valori_, osservatore_);
     if (r.causa == safety::Causa::fermato) return false;
     const auto scritti = calcolo_.scritti();
@@ -33,7 +33,7 @@ bool LavoroBlocchi::aggiungi(std::uint64_t i, Righe& righe) {
     if (ferma_) return false;  // a check that was stopped says nothing
     studio_.righe.scrivi(i, riga_, righe.byte);
     righe.valori.insert(righe.valori.end(), riga_.begin(), riga_.end());
-    righe.limitati += static_cast<std::uint64_t>(limitati);
+    for (const Estremita& una : limitati) ++righe.limitati[una];
     ++righe.numero;
     return true;
 }

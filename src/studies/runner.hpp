@@ -48,7 +48,7 @@ struct Righe {
     std::uint64_t numero = 0;
     std::string byte;            ///< as the file has them
     std::vector<double> valori;  ///< the same rows one after the other, as they are printed
-    std::uint64_t limitati = 0;  ///< values that were set to the end of their range
+    ContoEstremita limitati{};   ///< values that were set to the end of their range
     std::vector<Controllata> controllate;
 };
 

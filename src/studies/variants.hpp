@@ -1,11 +1,26 @@
 #pragma once
 
+#include <compare>
+#include <cstddef>
 #include <cstdint>
+#include <map>
 #include <span>
+#include <vector>
 
 #include "project/field_table.hpp"
 
 namespace korven::studies {
+
+/// An end of a field's range to which a value beyond it was set.
+struct Estremita {
+    std::size_t campo;  ///< place among the fields that vary
+    bool massimo;       ///< the upper end; else the lower
+
+    auto operator<=>(const Estremita&) const = default;
+};
+
+/// How many values were set to each of them.
+using ContoEstremita = std::map<Estremita, std::uint64_t>;
 
 /// The variants of a study: values of some fields of a project, in the units that people see.
 ///
@@ -26,8 +41,8 @@ class Varianti {
     ///
     /// @param i       from 0, below `numero()`
     /// @param valori  as many as there are fields; all are written
-    /// @return how many of them were beyond the range of their field and were set to its end
-    virtual int valori(std::uint64_t i, std::span<double> valori) const = 0;
+    /// @return those of them that were beyond the range of their field, and are at its end now
+    virtual std::vector<Estremita> valori(std::uint64_t i, std::span<double> valori) const = 0;
 };
 
 }  // namespace korven::studies

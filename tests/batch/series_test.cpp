@@ -241,6 +241,27 @@ TEST_F(Serie, EndsWith3ForAValueThatItsFieldDoesNotTake) {
     EXPECT_EQ(serie({"--griglia", "phiStrato[1]=50:70:10"}).codice, 3);
     EXPECT_EQ(serie({"--griglia", "nStrati=1:3:0.5"}).codice, 3);
     EXPECT_EQ(serie({"--griglia", "phiStrato[1]=50:abc:10"}).codice, 2);
+    const auto legge = serie({"--campioni", "10", "--legge", "gammaAcqua=normale(12,2)"});
+    EXPECT_EQ(legge.codice, 3);
+    EXPECT_TRUE(dice(legge.errori, "media della legge: ")) << legge.errori;
+    EXPECT_EQ(legge.uscita, "");
+}
+
+TEST_F(Serie, TellsFirstOfAllThatManyValuesWereSetToALimit) {
+    const auto esito = serie({"--campioni", "100", "--legge", "gammaAcqua=normale(1.4,0.1)"});
+    EXPECT_EQ(esito.codice, 0) << esito.errori;
+    const auto molti = esito.errori.find("limite del campo, e posti al limite. I risultati non");
+    EXPECT_LT(molti, esito.errori.find("Varianti: 100;")) << esito.errori;
+    EXPECT_TRUE(dice(esito.errori, " valori su 100 oltre 1.5 t/m³,")) << esito.errori;
+}
+
+TEST_F(Serie, SaysThatAPartHasNoVariants) {
+    const auto vuota = serie({"--griglia", "phiStrato[1]=30:31:1", "--parte", "3/3"});
+    EXPECT_EQ(vuota.codice, 0);
+    EXPECT_EQ(vuota.uscita, "");
+    EXPECT_TRUE(dice(vuota.errori, "Alla parte 3 di 3 non toccano varianti: in tutto sono 2."))
+        << vuota.errori;
+    EXPECT_FALSE(dice(vuota.errori, "Varianti: 0")) << vuota.errori;
 }
 
 TEST_F(Serie, RefusesWrongUsage) {

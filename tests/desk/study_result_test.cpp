@@ -92,6 +92,7 @@ TEST(RisultatoStudio, IsToldInWords) {
     auto s = lunghezze();
     s.variazioni[0].numeri = {"8", "16", "8"};
     s.fallisce = {{"spostamento_massimo_m", ">", "0"}};
+    EXPECT_TRUE(avvisi(*fatto(s)).empty());
     const auto dette = frasi(*fatto(s));
     EXPECT_EQ(std::ranges::count(dette, "  in equilibrio con Spostamento massimo > 0 mm: 1"), 1);
     for (const std::string& una : dette) EXPECT_EQ(una.find('_'), std::string::npos) << una;

@@ -19,7 +19,7 @@ class Raccolta : public UscitaStudio {
         numero += righe.numero;
         byte += righe.byte;
         valori.insert(valori.end(), righe.valori.begin(), righe.valori.end());
-        limitati += righe.limitati;
+        limitati += righe.limitati.empty() ? 0 : righe.limitati.at({0, true});
         controllate.insert(controllate.end(), righe.controllate.begin(), righe.controllate.end());
         if (rotta) throw std::runtime_error("disco pieno");
     }
@@ -109,7 +109,7 @@ TEST(Studio, BringsHomeWhatItsOutputThrows) {
 class Guaste : public test::VariantiLineari {
  public:
     using VariantiLineari::VariantiLineari;
-    int valori(std::uint64_t i, std::span<double> valori) const override {
+    std::vector<Estremita> valori(std::uint64_t i, std::span<double> valori) const override {
         if (i == 777) throw std::domain_error("777");
         return VariantiLineari::valori(i, valori);
     }

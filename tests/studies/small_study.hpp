@@ -36,10 +36,12 @@ class VariantiLineari : public studies::Varianti {
     }
     [[nodiscard]] std::span<const project::CampoNominato> campi() const override { return campi_; }
     [[nodiscard]] std::uint64_t numero() const override { return numero_; }
-    int valori(std::uint64_t i, std::span<double> valori) const override {
+    std::vector<studies::Estremita> valori(std::uint64_t i,
+                                           std::span<double> valori) const override {
         for (std::size_t j = 0; j < colonne_.size(); ++j)
             valori[j] = colonne_[j].da + colonne_[j].passo * static_cast<double>(i);
-        return i % 10 == 9 ? 1 : 0;
+        if (i % 10 != 9) return {};
+        return {{.campo = 0, .massimo = true}};
     }
 
  private:

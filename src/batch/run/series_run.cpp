@@ -131,7 +131,8 @@ studies::Ripresa riprese(const Opzioni& opzioni, const studies::Studio& studio,
         ripresa = *trovata;
         std::vector<double> valori(studio.varianti.campi().size());
         for (std::uint64_t i = tratto.da; i < tratto.da + ripresa.righe; ++i)
-            uscita.conto().limitati(static_cast<std::uint64_t>(studio.varianti.valori(i, valori)));
+            for (const auto& limite : studio.varianti.valori(i, valori))
+                uscita.conto().limitati({{limite, 1}});
     }
     file.tieni(ripresa.byte);
     return ripresa;
@@ -170,8 +171,16 @@ void raccontaInterruzione(const base::FileParziale* file, std::uint64_t fatte, s
         esito);
 }
 
-void raccontaFine(const Opzioni& opzioni, const studies::ContoStudio& conto) {
-    if (!opzioni.silenzioso)
+void raccontaFine(const Opzioni& opzioni, const studies::Studio& studio,
+                  const studies::ContoStudio& conto) {
+    const OpzioniSerie& serie = opzioni.serie;
+    if (!opzioni.silenzioso && conto.riassunto().numero() == 0 && serie.parti > 1)
+        std::cerr << riempito(traduttore("Alla parte %1 di %2 non toccano varianti: in tutto sono "
+                                         "%3."),
+                              {std::to_string(serie.parte), std::to_string(serie.parti),
+                               std::to_string(studio.varianti.numero())})
+                  << '\n';
+    else if (!opzioni.silenzioso)
         for (const auto& riga : conto.righe()) std::cerr << riga << '\n';
     if (!opzioni.silenzioso || conto.diverse())
         for (const auto& riga : conto.righeControllo()) std::cerr << riga << '\n';
@@ -221,7 +230,7 @@ int corri(const Opzioni& opzioni, const PorteComando& porte, const studies::Stud
     const auto fatte =
         studies::esegui(studio, {tratto.da + ripresa.righe, tratto.a}, fili(opzioni.serie), uscita);
     avanzamento.chiudi();
-    raccontaFine(opzioni, uscita.conto());
+    raccontaFine(opzioni, studio, uscita.conto());
     if (ripresa.righe + fatte < tratto.numero()) {
         raccontaInterruzione(file, ripresa.righe + fatte, tratto.numero(), esito);
         return nonEseguito;

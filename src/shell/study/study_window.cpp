@@ -210,9 +210,13 @@ void FinestraStudio::seguiScritto() {
     const bool vecchi = !desk::attuale(*fatto_, forma_->scritto(), vita_.vivo().dati());
     for (VistaProspetto* vista : {varianti_, riassunto_, distribuzioni_, correlazioni_})
         vista->sospendi(vecchi);
-    nota_->setText(
-        vecchi ? tradotto("Questi risultati sono di prima di una modifica: Calcola li rinnova.")
-               : inRighe(insieme(varianti_->modello().prospetto().note)));
+    if (vecchi)
+        return nota_->setText(
+            tradotto("Questi risultati sono di prima di una modifica: Calcola li rinnova."));
+    auto note = desk::avvisi(*fatto_);
+    const auto& altre = varianti_->modello().prospetto().note;
+    note.insert(note.end(), altre.begin(), altre.end());
+    nota_->setText(inRighe(insieme(note)));
 }
 
 void FinestraStudio::riempi() {

@@ -26,6 +26,7 @@ enum class MotivoPiano {
     media,           ///< a lognormal law whose mean is not above 0
     estremi,         ///< of a uniform or triangular law, out of order
     oltreNumeri,     ///< a law with values that are too large
+    mediaFuori,      ///< a law whose mean its field does not take: `rifiuto` says why
     nonContinuo,     ///< a law for a code, a flag or a number of rows
     senzaLegge,      ///< a correlation of a field that has no law
     stessoCampo,     ///< of a field with itself

@@ -47,6 +47,8 @@ constexpr Riga tabella[] = {
 };
 
 std::string perche(const DifettoPiano& d) {
+    if (d.rifiuto && d.motivo == MotivoPiano::mediaFuori)
+        return base::conDuePunti(base::traduttore("media della legge"), parole(*d.rifiuto));
     if (d.rifiuto) return parole(*d.rifiuto);
     if (d.motivo == MotivoPiano::csv) return d.testo;
     std::string detto;

@@ -64,13 +64,13 @@ Griglia::Griglia(std::vector<Asse> assi) : assi_(std::move(assi)) {
     }
 }
 
-int Griglia::valori(std::uint64_t i, std::span<double> valori) const {
+std::vector<Estremita> Griglia::valori(std::uint64_t i, std::span<double> valori) const {
     assert(i < numero_ && valori.size() == assi_.size());
     for (std::size_t j = assi_.size(); j-- > 0;) {
         valori[j] = assi_[j].valore(i % assi_[j].numero());
         i /= assi_[j].numero();
     }
-    return 0;
+    return {};
 }
 
 }  // namespace korven::studies

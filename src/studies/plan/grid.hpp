@@ -40,7 +40,7 @@ class Griglia final : public Varianti {
 
     [[nodiscard]] std::span<const project::CampoNominato> campi() const override { return campi_; }
     [[nodiscard]] std::uint64_t numero() const override { return numero_; }
-    int valori(std::uint64_t i, std::span<double> valori) const override;
+    std::vector<Estremita> valori(std::uint64_t i, std::span<double> valori) const override;
 
     [[nodiscard]] const std::vector<Asse>& assi() const { return assi_; }
 

@@ -106,7 +106,7 @@ PianoLungo::Valori PianoLungo::valoriDi(std::size_t pezzo) const {
     return ultimi_.emplace_back(pezzo, rileggi(pezzi_[pezzo])).second;
 }
 
-int PianoLungo::valori(std::uint64_t i, std::span<double> valori) const {
+std::vector<Estremita> PianoLungo::valori(std::uint64_t i, std::span<double> valori) const {
     const std::size_t quanti = campi().size();
     assert(i < numero_ && valori.size() == quanti);
     const auto dopo = std::ranges::upper_bound(pezzi_, i, {}, &Pezzo::primo);
@@ -115,7 +115,7 @@ int PianoLungo::valori(std::uint64_t i, std::span<double> valori) const {
     const auto inizio =
         suoi->begin() + static_cast<std::ptrdiff_t>((i - pezzi_[quale].primo) * quanti);
     std::copy_n(inizio, quanti, valori.begin());
-    return 0;
+    return {};
 }
 
 }  // namespace korven::studies

@@ -34,7 +34,7 @@ class PianoLungo final : public Varianti {
     }
     [[nodiscard]] std::uint64_t numero() const override { return numero_; }
     /// @throws base::ErroreFile where the file no longer holds what it held
-    int valori(std::uint64_t i, std::span<double> valori) const override;
+    std::vector<Estremita> valori(std::uint64_t i, std::span<double> valori) const override;
 
  private:
     static constexpr std::size_t byteDiUnPezzo = std::size_t{1} << 18;

@@ -15,11 +15,11 @@ Piano::Piano(std::vector<project::CampoNominato> campi, std::vector<double> valo
     assert(!campi_.empty() && valori_.size() % campi_.size() == 0);
 }
 
-int Piano::valori(std::uint64_t i, std::span<double> valori) const {
+std::vector<Estremita> Piano::valori(std::uint64_t i, std::span<double> valori) const {
     assert(i < numero() && valori.size() == campi_.size());
     const auto inizio = valori_.begin() + static_cast<std::ptrdiff_t>(i * campi_.size());
     std::copy_n(inizio, campi_.size(), valori.begin());
-    return 0;
+    return {};
 }
 
 PianoLetto leggiPiano(const project::DatiProgetto& dati, std::string_view byte) {

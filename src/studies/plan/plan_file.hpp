@@ -17,7 +17,7 @@ class Piano final : public Varianti {
 
     [[nodiscard]] std::span<const project::CampoNominato> campi() const override { return campi_; }
     [[nodiscard]] std::uint64_t numero() const override { return valori_.size() / campi_.size(); }
-    int valori(std::uint64_t i, std::span<double> valori) const override;
+    std::vector<Estremita> valori(std::uint64_t i, std::span<double> valori) const override;
 
  private:
     std::vector<project::CampoNominato> campi_;

@@ -13,10 +13,12 @@ namespace korven::studies {
 namespace {
 
 // Sets a value to the end of its field's range that it is beyond.
-bool portaNeiLimiti(const project::Campo& campo, double& valore) {
-    if (!campo.limiti) return false;
+void portaNeiLimiti(const project::Campo& campo, std::size_t j, double& valore,
+                    std::vector<Estremita>& oltre) {
+    if (!campo.limiti) return;
     const double dentro = std::clamp(valore, campo.limiti->minimo, campo.limiti->massimo);
-    return std::exchange(valore, dentro) != dentro;
+    if (dentro != valore) oltre.push_back({j, dentro < valore});
+    valore = dentro;
 }
 
 }  // namespace
@@ -44,19 +46,19 @@ void Campioni::probabilita(std::uint64_t i, std::span<double> p) const {
     }
 }
 
-int Campioni::valori(std::uint64_t i, std::span<double> valori) const {
+std::vector<Estremita> Campioni::valori(std::uint64_t i, std::span<double> valori) const {
     probabilita(i, valori);
     if (!correlazione_.nessuna()) {
         std::transform(valori.begin(), valori.end(), valori.begin(), scartoNormale);
         correlazione_.applica(valori);
     }
-    int fuori = 0;
+    std::vector<Estremita> oltre;
     for (std::size_t j = 0; j < valori.size(); ++j) {
         valori[j] = correlazione_.nessuna() ? quantile(leggi_[j], valori[j])
                                             : daScarto(leggi_[j], valori[j]);
-        if (portaNeiLimiti(*nomi_[j].campo, valori[j])) ++fuori;
+        portaNeiLimiti(*nomi_[j].campo, j, valori[j], oltre);
     }
-    return fuori;
+    return oltre;
 }
 
 }  // namespace korven::studies

@@ -39,7 +39,7 @@ class Campioni final : public Varianti {
 
     [[nodiscard]] std::span<const project::CampoNominato> campi() const override { return nomi_; }
     [[nodiscard]] std::uint64_t numero() const override { return numero_; }
-    int valori(std::uint64_t i, std::span<double> valori) const override;
+    std::vector<Estremita> valori(std::uint64_t i, std::span<double> valori) const override;
 
     [[nodiscard]] const Legge& legge(std::size_t campo) const { return leggi_[campo]; }
     [[nodiscard]] std::uint64_t seme() const { return seme_; }

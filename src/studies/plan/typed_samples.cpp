@@ -123,6 +123,12 @@ Letto<CampoCasuale> leggiLegge(const DatiProgetto& dati, std::string_view testo)
             {.motivo = motivo(*male), .testo = std::string(base::senzaSpaziEsterni(dopo))}, dopo);
         return lettura.difetto();
     }
+    // Half of the samples of such a law, or all, would be at the end of the range.
+    if (auto fuori = difettoValore(campo, media(letta))) {
+        fuori->motivo = MotivoPiano::mediaFuori;
+        lettura.segna(*std::move(fuori), dopo);
+        return lettura.difetto();
+    }
     return CampoCasuale{campo, letta};
 }
 

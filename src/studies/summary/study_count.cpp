@@ -5,6 +5,7 @@
 #include <cmath>
 #include <utility>
 
+#include "base/colon.hpp"
 #include "base/filled_text.hpp"
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
@@ -120,11 +121,45 @@ std::vector<std::string> ContoStudio::conteggi() const {
     testo.push_back(
         riempito(traduttore("Varianti: %1; in equilibrio in tutte le fasi: %2."),
                  {std::to_string(riassunto_.numero()), std::to_string(riassunto_.stanno())}));
-    if (limitati_ > 0)
-        testo.push_back(
-            riempito(traduttore("Valori oltre i limiti del loro campo, che sono stati posti al "
-                                "limite: %1."),
-                     {std::to_string(limitati_)}));
+    return testo;
+}
+
+void ContoStudio::limitati(const ContoEstremita& quanti) {
+    for (const auto& [limite, suoi] : quanti) limitati_[limite] += suoi;
+}
+
+// So many that what the study comes to is not of the law any more.
+bool ContoStudio::molti(std::uint64_t limitati) const {
+    constexpr double quota = 0.01;
+    return static_cast<double>(limitati) > quota * static_cast<double>(riassunto_.numero());
+}
+
+std::string ContoStudio::detto(const Estremita& limite, std::uint64_t quanti) const {
+    const project::CampoNominato& campo = righe_.nominati().at(limite.campo);
+    assert(campo.campo->limiti);
+    const ValoreMostrato valore = valoreMostrato(campo);
+    const auto [minimo, massimo] = *campo.campo->limiti;
+    return base::conDuePunti(
+        valore.titolo,
+        riempito(traduttore("%1 valori su %2 oltre %3, limite del campo, e posti al limite."),
+                 {std::to_string(quanti), std::to_string(riassunto_.numero()),
+                  valore.detto(limite.massimo ? massimo : minimo)}));
+}
+
+std::vector<std::string> ContoStudio::avvisi() const {
+    std::vector<std::string> testo;
+    for (const auto& [limite, quanti] : limitati_)
+        if (molti(quanti))
+            testo.push_back(detto(limite, quanti) + ' ' +
+                            traduttore("I risultati non sono quelli della legge scritta: "
+                                       "controllare la legge e la sua unità."));
+    return testo;
+}
+
+std::vector<std::string> ContoStudio::pochiLimitati() const {
+    std::vector<std::string> testo;
+    for (const auto& [limite, quanti] : limitati_)
+        if (!molti(quanti)) testo.push_back(detto(limite, quanti));
     return testo;
 }
 
@@ -150,7 +185,8 @@ std::vector<std::string> ContoStudio::righe() const {
 }
 
 std::vector<std::string> ContoStudio::fatti() const {
-    return uniti(uniti(conteggi(), fattiRiassunto(riassunto_, forma_, nomi())), senzaConto());
+    const auto conti = uniti(uniti(avvisi(), conteggi()), pochiLimitati());
+    return uniti(uniti(conti, fattiRiassunto(riassunto_, forma_, nomi())), senzaConto());
 }
 
 std::vector<std::string> ContoStudio::righeControllo() const {

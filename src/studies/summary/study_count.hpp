@@ -33,7 +33,8 @@ class ContoStudio {
     void riga(std::uint64_t i, std::span<const double> valori);
     /// The same of a row that was read from a file, which has the written columns alone.
     void riletta(std::uint64_t i, std::span<const double> valori);
-    void limitati(std::uint64_t quanti) { limitati_ += quanti; }
+    /// Values of rows that were set to the end of their field's range.
+    void limitati(const ContoEstremita& quanti);
     void controllate(const std::vector<Controllata>& altre);
 
     /// True if a variant has other numbers both ways.
@@ -41,6 +42,9 @@ class ContoStudio {
     /// What is told at the end, a line a fact, in words and shown units, translated; of samples
     /// with tables for a font of one width.
     [[nodiscard]] std::vector<std::string> righe() const;
+    /// Of limits to which more than a hundredth of the values of a field were set a line each: the
+    /// study is not of the law that was typed. They are the first of the facts.
+    [[nodiscard]] std::vector<std::string> avvisi() const;
     /// The facts alone.
     [[nodiscard]] std::vector<std::string> fatti() const;
     /// What is told of the variants that were computed both ways, with the first of those that
@@ -53,6 +57,9 @@ class ContoStudio {
  private:
     [[nodiscard]] EsitoRiga esito(std::span<const double> valori);
     [[nodiscard]] std::vector<std::string> conteggi() const;
+    [[nodiscard]] bool molti(std::uint64_t limitati) const;
+    [[nodiscard]] std::string detto(const Estremita& limite, std::uint64_t quanti) const;
+    [[nodiscard]] std::vector<std::string> pochiLimitati() const;
     [[nodiscard]] std::vector<std::string> senzaConto() const;
     [[nodiscard]] NomiRiassunto nomi() const;
 
@@ -63,7 +70,7 @@ class ContoStudio {
     std::size_t caduta_;  ///< that of no column where there is none
     FormaRiga forma_;
     Riassunto riassunto_;
-    std::uint64_t limitati_ = 0;
+    ContoEstremita limitati_;
     std::uint64_t rilette_ = 0;  ///< rows without the columns that are not written
     std::uint64_t controllate_ = 0, senzaRiposo_ = 0, incerte_ = 0, diverse_ = 0;
     std::vector<Controllata> prime_;               ///< of those that differ

@@ -39,7 +39,7 @@ std::vector<std::vector<double>> colonne(const Campioni& campioni, int fuoriAtte
     std::vector<double> riga(n);
     int fuori = 0;
     for (std::uint64_t i = 0; i < campioni.numero(); ++i) {
-        fuori += campioni.valori(i, riga);
+        fuori += static_cast<int>(campioni.valori(i, riga).size());
         for (std::size_t j = 0; j < n; ++j) c[j].push_back(riga[j]);
     }
     EXPECT_EQ(fuori, fuoriAttesi);
@@ -114,16 +114,20 @@ TEST(Campioni, AreSetToTheEndOfTheRangeAndCounted) {
     const Campioni campioni(
         {{campo("phiStrato[1]"), {normale, {60, 5}}}, {campo("sovraccMonte"), {normale, {0, 1}}}},
         2000, 1);
-    int fuori = 0, alFondo = 0;
+    int alFondo = 0;
+    ContoEstremita fuori;
     for (std::uint64_t i = 0; i < campioni.numero(); ++i) {
         std::array<double, 2> v{};
-        fuori += campioni.valori(i, v);
+        for (const Estremita& una : campioni.valori(i, v)) ++fuori[una];
         EXPECT_LE(v[0], 60);
         EXPECT_GE(v[1], 0);
         alFondo += (v[0] == 60 ? 1 : 0) + (v[1] == 0 ? 1 : 0);
     }
-    EXPECT_EQ(fuori, alFondo);
-    EXPECT_NEAR(fuori, 2000, 4 * std::sqrt(4000 * 0.25));
+    const auto angoli = static_cast<double>(fuori[{0, true}]),
+               carichi = static_cast<double>(fuori[{1, false}]);
+    EXPECT_EQ(fuori.size(), 2U);
+    EXPECT_EQ(angoli + carichi, alFondo);
+    for (const double meta : {angoli, carichi}) EXPECT_NEAR(meta, 1000, 4 * std::sqrt(2000 * 0.25));
 }
 
 TEST(Ipercubo, TakesEachPartOfEachRangeOnce) {

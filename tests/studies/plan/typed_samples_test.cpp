@@ -4,6 +4,8 @@
 
 #include <array>
 
+#include "studies/plan/fault_words.hpp"
+
 namespace korven::studies {
 namespace {
 
@@ -50,6 +52,9 @@ TEST(LeggeScritta, SaysWhatIsWrongAndAtWhichCharacter) {
         {"phiStrato[1]=uniforme(5,4)", estremi, 14},
         {"phiStrato[1]=triangolare(1,5,4)", estremi, 14},
         {"sezione.fck=lognormale(1e300,1e308)", oltreNumeri, 13},
+        {"gammaAcqua=normale(12,2)", mediaFuori, 12},
+        {"phiStrato[1]=uniforme(60,61)", mediaFuori, 14},
+        {"phiStrato[1]=triangolare(50,60,80)", mediaFuori, 14},
         {"vincoloPiede=uniforme(1,3)", nonContinuo, 1},
         {"nFasi=uniforme(1,3)", nonContinuo, 1},
         {"sezione.tipoPali=uniforme(0,1)", nonContinuo, 1},
@@ -63,6 +68,17 @@ TEST(LeggeScritta, SaysWhatIsWrongAndAtWhichCharacter) {
         EXPECT_EQ(trovato.motivo, caso.motivo) << caso.testo;
         EXPECT_EQ(trovato.carattere, caso.carattere) << caso.testo;
     }
+}
+
+// Up to 60: a mean at the end is within.
+TEST(LeggeScritta, MayReachBeyondTheRangeOfItsFieldButNotInTheMean) {
+    EXPECT_TRUE(
+        std::holds_alternative<CampoCasuale>(leggiLegge(dati, "phiStrato[1]=normale(60,5)")));
+    const auto letto = leggiLegge(dati, "gammaAcqua=normale(12,2)");
+    const std::string perche = parole(std::get<DifettoPiano>(letto));
+    EXPECT_EQ(perche,
+              "gammaAcqua=normale(12,2), carattere 12: media della legge: gammaAcqua [t/m³] = 12: "
+              "ammessi valori da 0 a 1.5");
 }
 
 TEST(RhoScritto, IsReadAndRefused) {

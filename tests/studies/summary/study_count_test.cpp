@@ -35,7 +35,30 @@ std::vector<double> riga(safety::Causa causa, double momento = 100, double lungh
             sta ? 0.5 : vuoto};
 }
 
-TEST(ContoStudio, CountsVerdictsAndValuesThatWereSetToALimit) {
+// The length of a wall goes up to 100 m.
+TEST(ContoStudio, TellsOfEachLimitHowManyValuesWereSetToItFirstWhereTheyAreMany) {
+    ContoStudio conto(muro(), forma(), {});
+    for (std::uint64_t i = 0; i < 200; ++i) conto.riga(i, riga(safety::Causa::eseguito));
+    conto.limitati({{{0, false}, 1}, {{0, true}, 1}});
+    conto.limitati({{{0, true}, 1}});
+    EXPECT_TRUE(conto.avvisi().empty());
+    EXPECT_EQ(conto.fatti()[1],
+              "Lunghezza della paratia: 1 valori su 200 oltre 0 m, limite del campo, e posti al "
+              "limite.");
+    EXPECT_EQ(conto.fatti()[2],
+              "Lunghezza della paratia: 2 valori su 200 oltre 100 m, limite del campo, e posti al "
+              "limite.");
+    conto.limitati({{{0, true}, 1}});
+    ASSERT_EQ(conto.avvisi().size(), 1U);
+    EXPECT_EQ(conto.fatti()[0], conto.avvisi()[0]);
+    EXPECT_EQ(conto.avvisi()[0],
+              "Lunghezza della paratia: 3 valori su 200 oltre 100 m, limite del campo, e posti al "
+              "limite. I risultati non sono quelli della legge scritta: controllare la legge e la "
+              "sua unità.");
+    EXPECT_EQ(conto.fatti()[1], "Varianti: 200; in equilibrio in tutte le fasi: 200.");
+}
+
+TEST(ContoStudio, CountsVerdicts) {
     ContoStudio conto(muro(), forma(), {});
     for (std::uint64_t i = 0; i < 3; ++i) conto.riga(i, riga(safety::Causa::eseguito));
     conto.riga(3, riga(safety::Causa::meccanismo));
@@ -44,9 +67,6 @@ TEST(ContoStudio, CountsVerdictsAndValuesThatWereSetToALimit) {
                      "Varianti che falliscono: 1 su 4.", "  meccanismo, fase 2: 1",
                      "Varianti in equilibrio, per l'uso che in ciascuna è il maggiore:",
                      "  Uso, momento positivo: 3"}));
-    conto.limitati(2);
-    EXPECT_EQ(conto.righe()[1],
-              "Valori oltre i limiti del loro campo, che sono stati posti al limite: 2.");
     EXPECT_FALSE(conto.diverse());
     EXPECT_EQ(conto.righeControllo(), Testi{});
 }
