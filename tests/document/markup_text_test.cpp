@@ -94,5 +94,15 @@ TEST(InMarkup, BindsUnitsToTheirNumbersWhereAWordProcessorBreaksTheLines) {
     EXPECT_TRUE(contiene(inMarkup(d, Uso::testo), "al più 5 kN m.\r\n"));
 }
 
+TEST(InMarkup, ListsTheHeadingsOfAWordProcessorsFileWithoutPages) {
+    Documento d;
+    d.blocchi = {Titolo{1, "Copertina"}, Indice{"Indice"}, Titolo{1, "Dati"}, Titolo{2, "Strati"},
+                 Titolo{3, "Misure"}};
+    const std::string scritto = inMarkup(d, Uso::documento);
+    EXPECT_TRUE(contiene(scritto, "\r\nIndice\r\nDati\r\n\u00A0\u00A0\u00A0\u00A0Strati\r\n"));
+    EXPECT_EQ(scritto.find("Misure"), std::string::npos) << "a heading alone, in capitals";
+    EXPECT_EQ(inMarkup(d, Uso::testo).find("Indice"), std::string::npos);
+}
+
 }  // namespace
 }  // namespace korven::document

@@ -95,29 +95,6 @@ TEST(Scena, HatchesALayerWithCodeAndColourOfItsDescription) {
     EXPECT_EQ(campite[0].tinta, (Tinta{Ruolo::strato, 3}));
 }
 
-TEST(Scena, LeavesGroundBelowTheLastLayerWithoutColour) {
-    const auto dati =
-        muro().lungo(10).strato({.fondo = 10.2, .descrizione = "103C3 Sabbia"}).dati();
-    const auto ignoto = figure<Area>(scenaDi(dati), Elemento::strato, 0);
-    ASSERT_FALSE(ignoto.empty());
-    EXPECT_EQ(ignoto[0].tinta, (Tinta{Ruolo::fondoStrato, 0}));
-}
-
-TEST(Scena, GoesOnWithALastLayerThatEndsAboveTheToeAsTheAnalysisDoes) {
-    const auto dati = muro().lungo(10).strato({.fondo = 8, .descrizione = "103C3 Sabbia"}).dati();
-    const Scena s = scenaDi(dati);
-    EXPECT_TRUE(figure<Area>(s, Elemento::strato, 0).empty());
-    const auto sabbia = figure<Area>(s, Elemento::strato, 1);
-    ASSERT_FALSE(sabbia.empty());
-    EXPECT_GT(intorno(sabbia[0].punti).basso, s.y(10));
-    EXPECT_TRUE(figure<Linea>(s, Elemento::strato, 1).empty()) << "a line would be a layer's foot";
-}
-
-TEST(Scena, NamesALayerWithItsFirstWordWhereThatIsNoCode) {
-    const auto dati = muro().strato({.fondo = 20, .descrizione = "limo argilloso"}).dati();
-    EXPECT_TRUE(dice(testi(scenaDi(dati), Elemento::strato, 1), "limo argilloso"));
-}
-
 TEST(Scena, SlopesTheGroundByItsAngle) {
     auto dati = test::progettoSemplice();
     for (const double gradi : {10.0, -10.0}) {

@@ -59,6 +59,20 @@ TEST(DidascaliaMeccanismo, HasNoStarWhereTheSlopeEndsTheReduction) {
     EXPECT_EQ(didascalia.find('*'), std::string::npos) << didascalia;
 }
 
+// A star sends to a note; where the last column says the same there is neither.
+TEST(ProspettoMargine, SaysOnceThatTheSlopeOfTheGroundIsTheLimit) {
+    Margine m = esempio("diaframma_due_ordini");
+    m.fasi[3].riduzione.limitePendio = true;
+    const std::size_t note = prospettoMargine(m).note.size();
+    EXPECT_EQ(prospettoMargine(m).righe[3][posto(prospettoMargine(m), "F")].testo, "1.64 *");
+    m.fasi[3].riduzione.moto.reset();
+    const Prospetto p = prospettoMargine(m);
+    EXPECT_EQ(p.righe[3][posto(p, "F")].testo, "1.64");
+    EXPECT_EQ(p.righe[3][posto(p, "Moto con F")].testo,
+              "oltre F l'angolo di attrito ridotto è minore della pendenza del terreno");
+    EXPECT_EQ(p.note.size(), note - 1);
+}
+
 TEST(ProspettoMargine, WeighsAFactorAsTheRemarksDo) {
     const Margine m = margine(std::string(KORVEN_WALLS) + "/quasi_meccanismo.kvd");
     const Prospetto p = prospettoMargine(m);
