@@ -55,6 +55,7 @@ const std::map<std::string, Exempt> noUnits = {
     {"structure/material_laws.cpp", {{"1000"}, "a strain in thousandths, as the law has it"}},
     {"structure/interaction_domain.cpp", {{"0.01"}, "a share of the largest resistance"}},
     {"dossier/twin_numbers.cpp", {{"1e-3"}, "a share of a number, below which digits explain it"}},
+    {"studies/summary/study_count.cpp", {{"0.01"}, "a share of the variants"}},
     {"studies/both_ways.cpp", {{"1e-6"}, "a share of the largest displacement"}},
     {"safety/mesh_error.cpp", {{"1e-9"}, "what rounding leaves between two meshes"}},
     {"equilibrium/stage_setup.cpp", {{"1e8"}, "how much stiffer than a segment a restraint is"}},
