@@ -19,9 +19,12 @@ class Testa {
     // Towards the excavation it draws the head, the other way it pushes it.
     void forza(double t) {
         const double y = q_.yTesta - 0.45 * q_.em, da = q_.xValle + 3, a = da + 2.6 * q_.em;
+        const double sotto = q_.yTesta + 0.8 * q_.em;
         freccia(t > 0 ? std::vector<Punto>{{da, y}, {a, y}} : std::vector<Punto>{{a, y}, {da, y}});
         scrivi("F " + conUnita(t, project::unita::forzaAlMetro),
-               {{{a + 0.4 * q_.em, y}, Ancora::sinistra}, {{da, y - q_.em}, Ancora::sinistra}});
+               {{{a + 0.4 * q_.em, y}, Ancora::sinistra},
+                {{da, y - q_.em}, Ancora::sinistra},
+                {{da, sotto}, Ancora::sinistra, fondoValle(m_, q_, sotto)}});
     }
 
     void assiale(double t) {
@@ -46,7 +49,7 @@ class Testa {
         std::vector<Posto> posti{{{x, y}, Ancora::sinistra}};
         // Below the head, where the other two loads leave no room beside them.
         for (const double giu : {0.8, 2.2})
-            posti.push_back({{q_.xSezione - 0.15 * q_.em, q_.yTesta + giu * q_.em},
+            posti.push_back({{q_.xSezione - 0.35 * q_.em, q_.yTesta + giu * q_.em},
                              Ancora::destra,
                              fondoValle(m_, q_, q_.yTesta + giu * q_.em)});
         posti.push_back({{q_.xMuro() - r - 0.5 * q_.em, y}, Ancora::destra});

@@ -33,13 +33,14 @@ using scene::Scena;
 using scene::Tela;
 
 constexpr double em = corpoCarta;
-constexpr double sezioneMinima = 13 * em;      // width of the wall in section
-constexpr double sezioneConMomento = 16 * em;  // with the moment at the head beside the other loads
-constexpr double sezioneConNomi = 21.5 * em;   // with the names of layers and stages whole
-constexpr double quotaSezione = 0.28;          // of the whole width
-constexpr double piedeVeduta = 1.8 * em;       // below the ground of the view
-constexpr double numeri = 2.6 * em;            // for the depths
-constexpr double distanza = 1.1 * em;          // of panels
+constexpr double sezioneMinima = 13 * em;  // width of the wall in section
+constexpr double sezioneConMomento =
+    16.6 * em;                                // with the moment at the head beside the other loads
+constexpr double sezioneConNomi = 21.5 * em;  // with the names of layers and stages whole
+constexpr double quotaSezione = 0.28;         // of the whole width
+constexpr double piedeVeduta = 1.8 * em;      // below the ground of the view
+constexpr double numeri = 2.6 * em;           // for the depths
+constexpr double distanza = 1.1 * em;         // of panels
 
 void unisci(Scena& scena, std::vector<Primitiva> altre) {
     std::move(altre.begin(), altre.end(), std::back_inserter(scena.primitive));
