@@ -1,10 +1,12 @@
 #include <algorithm>
 #include <cmath>
+#include <string>
 #include <utility>
 #include <vector>
 
 #include "scene/parts.hpp"
 #include "scene/shown_values.hpp"
+#include "scene/stage_groups.hpp"
 
 namespace korven::scene {
 
@@ -15,9 +17,10 @@ constexpr double minimo = 2;                  // width of a load on the excavati
 
 // A row of arrows that stand on the ground from x1 to x2, which rises by `pendenza`; a load below 0
 // pulls.
+// @param quando  in which stages, told behind its name where there is room; empty: always
 // @param prima  where its name had better stand
 void carico(const Inquadratura& q, double t, double x1, double x2, double y1, double y2, int fase,
-            std::vector<Posto> prima, Tela& tela) {
+            const std::string& quando, std::vector<Posto> prima, Tela& tela) {
     const Tinta tinta{Ruolo::carico};
     const double h = altezza * q.em;
     const int n = std::clamp(static_cast<int>((x2 - x1) / (passo * q.em)), 2, 60);
@@ -41,7 +44,8 @@ void carico(const Inquadratura& q, double t, double x1, double x2, double y1, do
     tela.scrivi({.grado = Grado::carico,
                  .elemento = Elemento::sovraccarico,
                  .numero = fase,
-                 .testo = testo,
+                 .testo = quando.empty() ? testo : testo + " (" + quando + ")",
+                 .inBreve = quando.empty() ? std::vector<std::string>() : std::vector{testo},
                  .tinta = tinta,
                  .corpo = q.em,
                  .posti = std::move(posti)});
@@ -57,6 +61,15 @@ bool livelloSopra(const Mostrata& m, const Inquadratura& q, double y) {
         if (su > 1 && su < (altezza + nomi) * q.em) return true;
     }
     return false;
+}
+
+// In a picture of all stages: those with the load that is drawn; empty where it is of all.
+std::string quando(const Mostrata& m) {
+    if (m.vista.fase > 0) return {};
+    std::vector<int> fasi;
+    for (int k = 1; k <= m.nFasi(); ++k)
+        if (m.dati().sovraccFase[k] == m.dati().sovraccFase[m.fase]) fasi.push_back(k);
+    return static_cast<int>(fasi.size()) == m.nFasi() ? std::string() : nomeFasi(fasi);
 }
 
 // The constant pressure: arrows on the uphill face of the wall.
@@ -91,7 +104,7 @@ void disegnaSovraccarichi(const Mostrata& m, const Inquadratura& q, Tela& tela) 
     if (const double t = d.sovraccMonte; disegnabile(t) && t != 0) {
         const bool testa = d.momentoTesta != 0 || d.sforzoNormale != 0;
         const double x1 = 0.16 * q.xMonte, x2 = q.xMonte - (testa ? 2.6 : 0.7) * q.em;
-        carico(q, t, x1, x2, q.suolo(x1), q.suolo(x2), 0, {}, tela);
+        carico(q, t, x1, x2, q.suolo(x1), q.suolo(x2), 0, {}, {}, tela);
     }
     if (const double t = d.pressioneOrizz; disegnabile(t) && t != 0 && m.lunghezza > 0)
         spinta(m, q, t, tela);
@@ -106,7 +119,7 @@ void disegnaSovraccarichi(const Mostrata& m, const Inquadratura& q, Tela& tela) 
         const double x2 = std::max(
             x1 + minimo * q.em,
             std::min(x1 + 0.45 * (q.xSezione - x1), inizioLivello(m, q, tela) - 0.6 * q.em));
-        if (q.visibile(y)) carico(q, t, x1, x2, y, y, m.fase, std::move(sotto), tela);
+        if (q.visibile(y)) carico(q, t, x1, x2, y, y, m.fase, quando(m), std::move(sotto), tela);
     }
 }
 

@@ -195,5 +195,14 @@ TEST(Descrizione, SaysThatTheReportHasNoNumbersBeforeThoseOfTheWall) {
     EXPECT_LT(testo.find("Niente relazione. La paratia è in equilibrio; massimi"), testo.size());
 }
 
+TEST(Scena, TellsInThePictureOfAllStagesWhichOnesHaveALoadOnTheExcavation) {
+    auto dati = test::progettoSemplice();
+    dati.sovraccFase[2] = 1.5;
+    EXPECT_TRUE(dice(testi(scenaDi(dati, {0}), Elemento::sovraccarico, 2), "q 15 kN/m² (fase 2)"));
+    EXPECT_TRUE(dice(testi(scenaDi(dati, {2}), Elemento::sovraccarico, 2), "q 15 kN/m²"));
+    dati.sovraccFase[1] = 1.5;  // in all of them
+    EXPECT_TRUE(dice(testi(scenaDi(dati, {0}), Elemento::sovraccarico, 2), "q 15 kN/m²"));
+}
+
 }  // namespace
 }  // namespace korven::scene

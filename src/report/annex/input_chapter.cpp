@@ -107,6 +107,7 @@ tables::Prospetto titoli(const Fascicolo& f) {
 }
 
 void figure(const Contesto& contesto, Blocchi& blocchi) {
+    constexpr double altezzaMinima = 9.5;  // of a wall with the names of its parts [cm]
     const auto f = contesto.fascicolo;
     if (f->parete.dati.lunghezzaParatia > 0) {
         const auto [l, h] = drawings::formatoParete;
@@ -119,7 +120,8 @@ void figure(const Contesto& contesto, Blocchi& blocchi) {
                 : traduttore("Sezione della paratia con terreno, acqua, sostegni e fasi, in scala"),
             traduttore("La paratia in sezione verticale: strati, falda, sostegni con la loro "
                        "profondità e livelli di scavo delle fasi."),
-            l, h, [f, l = l, h = h] { drawings::disegnaParete(f->parete, l, h); }});
+            l, h, [f, l = l, h = h] { drawings::disegnaParete(f->parete, l, h); }, altezzaMinima,
+            [f, l = l](double bassa) { drawings::disegnaParete(f->parete, l, bassa); }});
     }
     if (structure::sezioneDefinita(f->parete.dati.sezione)) {
         const auto [l, h] = drawings::formatoSezione;
