@@ -41,6 +41,26 @@ def machine():
     return f"{os.cpu_count()} x {model}, Linux {platform.release()}"
 
 
+def recorded():
+    """The last words of the campaigns that were recorded, a line each."""
+    return RECORD.read_text(encoding="utf-8").splitlines() if RECORD.exists() else []
+
+
+def tell(figures, faults, begun, record, sources, seed=None):
+    """Tells what was run and how, and records it in place of the last words of the same campaign.
+    @param figures  "name: what was done"
+    @param sources  the commit when it began
+    """
+    today = datetime.datetime.now(datetime.timezone.utc)
+    line = (f"{figures}, {faults} faults; {today:%Y-%m-%d %H:%M} UTC, {time.time() - begun:.0f} s, commit {sources}, "
+            + (f"seed {seed}, " if seed is not None else "") + machine())
+    print(line)
+    if record:
+        name = figures.split(":")[0] + ":"
+        others = [old for old in recorded() if not old.startswith(name)]
+        RECORD.write_text("\n".join(sorted(others + [line])) + "\n", encoding="utf-8")
+
+
 class Campaign:
     """One campaign: many rounds of one trial, each of which is right or a fault with its words."""
 
@@ -66,16 +86,12 @@ class Campaign:
         self.faults, self.done = [], 0
         self.begun, self.commit = time.time(), commit()
         self.work = pathlib.Path(tempfile.mkdtemp(prefix="korven_campaign_"))
-        for line in self.recorded():
+        for line in recorded():
             if line.startswith(name + ":"):
                 print("last run of", line)
         for program in ("korven32c",):
             if not (self.bin / program).exists():
                 sys.exit(f"{self.bin}/{program}: not built")
-
-    @staticmethod
-    def recorded():
-        return RECORD.read_text(encoding="utf-8").splitlines() if RECORD.exists() else []
 
     def run(self, one_round):
         """Runs all rounds. one_round(place, random numbers of its own) returns whether it was one (a kill that
@@ -114,13 +130,7 @@ class Campaign:
 
     def end(self, figures):
         """Tells what was run, and leaves with 1 if there was a fault."""
-        today = datetime.datetime.now(datetime.timezone.utc)
-        line = (f"{self.name}: {figures}, {len(self.faults)} faults; {today:%Y-%m-%d %H:%M} UTC, "
-                f"{time.time() - self.begun:.0f} s, commit {self.commit}, seed {self.seed}, {machine()}")
-        print(line)
-        if self.args.record:
-            others = [old for old in self.recorded() if not old.startswith(self.name + ":")]
-            RECORD.write_text("\n".join(sorted(others + [line])) + "\n", encoding="utf-8")
+        tell(f"{self.name}: {figures}", len(self.faults), self.begun, self.args.record, self.commit, self.seed)
         if self.faults:
             print(f"{len(self.faults)} faults; what they left is in {self.work}")
             sys.exit(1)
