@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cmath>
 #include <optional>
 #include <string>
 #include <vector>
@@ -16,12 +17,16 @@ namespace korven::drawings {
 /// A number over another, or why there is none.
 struct PuntoGrafico {
     double x, y;
-    Mancanza perche = Mancanza::senzaNumero;  ///< of a y that is no number
+    Mancanza perche = Mancanza::senzaNumero;  ///< of a y that is no number, or is `senzaPiede`
+
+    [[nodiscard]] bool senzaPiede() const {
+        return std::isfinite(y) && perche == Mancanza::senzaPiede;
+    }
 };
 
 struct CurvaGrafico {
     std::string nome;                 ///< written at its end where there are several
-    std::vector<PuntoGrafico> punti;  ///< ascending; without a y the curve has a gap
+    std::vector<PuntoGrafico> punti;  ///< ascending; without a y, or a toe, the curve has a gap
 };
 
 struct GraficoCurve {

@@ -37,10 +37,11 @@ void curva(scene::Tela& tela, const Assi& assi, const CurvaGrafico& dati, std::s
         tratto.clear();
     };
     for (const auto& p : dati.punti) {
-        if (std::isfinite(p.y))
+        if (std::isfinite(p.y) && !p.senzaPiede())
             tratto.push_back(assi.punto(p.x, p.y));
         else
             chiudi();
+        if (p.senzaPiede()) segnaSenzaPiede(tela, assi.punto(p.x, p.y));
     }
     chiudi();
 }
@@ -123,6 +124,9 @@ void segnaTutte(scene::Tela& tela, const Assi& assi, const GraficoCurve& dati,
                        !dati.x.interi);
         tutti.insert(tutti.end(), suoi.begin(), suoi.end());
     }
+    for (const auto& curva : dati.curve)
+        for (const auto& p : curva.punti)
+            if (p.senzaPiede()) tutti.push_back({p.x, p.perche});
     spiegaMancanze(tela, assi, tutti, dati.mancanze);
 }
 

@@ -33,10 +33,29 @@ void segna(scene::Tela& tela, Mancanza perche, Punto p) {
             return tratto(tela, Ruolo::testoTenue, {p.x - mezzo, p.y}, {p.x + mezzo, p.y});
         case Mancanza::senzaNumero:
             return tratto(tela, Ruolo::testoTenue, {p.x, p.y - mezzo}, {p.x, p.y + mezzo});
+        case Mancanza::senzaPiede:
+            return segnaSenzaPiede(tela, p);
     }
 }
 
 }  // namespace
+
+void segnaSenzaPiede(scene::Tela& tela, Punto p) {
+    constexpr double spessore = 1.2;
+    constexpr double r = 1.2 * mezzo, d = r / 2;  // eight corners are a ring at this size
+    tela.disegna(scene::Elemento::estremo, 0,
+                 Linea{{{p.x - r, p.y - d},
+                        {p.x - d, p.y - r},
+                        {p.x + d, p.y - r},
+                        {p.x + r, p.y - d},
+                        {p.x + r, p.y + d},
+                        {p.x + d, p.y + r},
+                        {p.x - d, p.y + r},
+                        {p.x - r, p.y + d},
+                        {p.x - r, p.y - d}},
+                       {Ruolo::meccanismo},
+                       spessore});
+}
 
 double altezzaMancanze(std::size_t righe) {
     return righe == 0 ? 0 : riga * (static_cast<double>(righe) + 0.2);
@@ -58,7 +77,8 @@ void spiegaMancanze(scene::Tela& tela, const Assi& assi, const std::vector<Senza
                     const ParoleMancanze& parole) {
     const double y = assi.yTitoloX();
     double x = assi.campo().sinistra + mezzo;
-    for (const Mancanza perche : {Mancanza::cade, Mancanza::rifiutata, Mancanza::senzaNumero}) {
+    for (const Mancanza perche :
+         {Mancanza::cade, Mancanza::rifiutata, Mancanza::senzaNumero, Mancanza::senzaPiede}) {
         if (std::ranges::count(tutti, perche, &SenzaNumero::perche) == 0) continue;
         const std::string& detta = parole[static_cast<std::size_t>(perche)];
         segna(tela, perche, {x, y});

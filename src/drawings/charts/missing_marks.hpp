@@ -12,9 +12,10 @@ namespace korven::drawings {
 
 /// Why there is none.
 enum class Mancanza {
-    cade,        ///< the wall falls
-    rifiutata,   ///< there is no wall
-    senzaNumero  ///< the wall stands, and has not this number
+    cade,         ///< the wall falls
+    rifiutata,    ///< there is no wall
+    senzaNumero,  ///< the wall stands, and has not this number
+    senzaPiede,   ///< it has the number, but is no wall to be built: that is marked where it is
 };
 
 struct SenzaNumero {
@@ -24,7 +25,7 @@ struct SenzaNumero {
 };
 
 /// Of each kind what is said of its mark, translated.
-using ParoleMancanze = std::array<std::string, 3>;
+using ParoleMancanze = std::array<std::string, 4>;
 
 /// The height that so many rows of marks need below the field of a chart [px].
 [[nodiscard]] double altezzaMancanze(std::size_t righe);
@@ -35,6 +36,9 @@ void segnaMancanze(scene::Tela& tela, const Assi& assi, std::size_t riga,
                    const std::vector<SenzaNumero>& mancanti);
 /// The height of a row.
 [[nodiscard]] double yMancanze(const Assi& assi, std::size_t riga);
+
+/// Marks a number of a wall without its toe, by a ring about its place.
+void segnaSenzaPiede(scene::Tela& tela, scene::Punto punto);
 
 /// Below the numbers of the axis what the marks mean that are there.
 void spiegaMancanze(scene::Tela& tela, const Assi& assi, const std::vector<SenzaNumero>& tutti,

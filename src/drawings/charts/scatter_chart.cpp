@@ -24,16 +24,17 @@ void segna(scene::Tela& tela, scene::Punto p) {
 
 void disegnaNuvola(scene::Tela& tela, const scene::Riquadro& posto, const Nuvola& dati) {
     Estensione x, y;
-    std::vector<scene::Punto> punti;
-    std::vector<SenzaNumero> mancanti;
+    std::vector<PuntoGrafico> punti;
+    std::vector<SenzaNumero> mancanti, detti;
     for (const auto& p : dati.punti) {
         if (!std::isfinite(p.x)) continue;
         x.comprendi(p.x);
         y.comprendi(p.y);
         if (std::isfinite(p.y))
-            punti.push_back({p.x, p.y});
+            punti.push_back(p);
         else
             mancanti.push_back({p.x, p.perche});
+        if (!std::isfinite(p.y) || p.senzaPiede()) detti.push_back({p.x, p.perche});
     }
     if (punti.empty()) return;
     auto campo = posto;
@@ -44,10 +45,10 @@ void disegnaNuvola(scene::Tela& tela, const scene::Riquadro& posto, const Nuvola
     const std::size_t n = std::min(punti.size(), massimiPunti);
     for (std::size_t k = 0; k < n; ++k) {
         const auto& p = punti[k * punti.size() / n];
-        segna(tela, assi.punto(p.x, p.y));
+        (p.senzaPiede() ? segnaSenzaPiede : segna)(tela, assi.punto(p.x, p.y));
     }
     segnaMancanze(tela, assi, 0, mancanti);
-    spiegaMancanze(tela, assi, mancanti, dati.mancanze);
+    spiegaMancanze(tela, assi, detti, dati.mancanze);
 }
 
 }  // namespace korven::drawings

@@ -39,6 +39,8 @@ Mancanza mancanza(Sorte sorte) {
             return Mancanza::cade;
         case Sorte::rifiutata:
             return Mancanza::rifiutata;
+        case Sorte::senzaPiede:
+            return Mancanza::senzaPiede;
         case Sorte::sta:
             break;
     }
@@ -46,8 +48,8 @@ Mancanza mancanza(Sorte sorte) {
 }
 
 drawings::ParoleMancanze parole() {
-    return {traduttore("la paratia cade"), traduttore("dati rifiutati"),
-            traduttore("senza valore")};
+    return {traduttore("la paratia cade"), traduttore("dati rifiutati"), traduttore("senza valore"),
+            traduttore("in equilibrio con il piede scavato")};
 }
 
 drawings::TestiAsse testiAsse(const ValoreMostrato& valore) {
@@ -123,8 +125,10 @@ class Foglio {
     [[nodiscard]] std::vector<PuntoGrafico> punti(std::size_t ascissa) const {
         const auto x = valori(ascissa), y = valori(grafico_.risultato);
         std::vector<PuntoGrafico> tutti;
-        for (std::size_t i = 0; i < x.size(); ++i)
-            tutti.push_back({x[i], y[i], mancanza(sorti_[i])});
+        for (std::size_t i = 0; i < x.size(); ++i) {
+            const bool manca = !std::isfinite(y[i]) && inEquilibrio(sorti_[i]);
+            tutti.push_back({x[i], y[i], manca ? Mancanza::senzaNumero : mancanza(sorti_[i])});
+        }
         return tutti;
     }
 

@@ -15,8 +15,9 @@ struct FormatoGrafico {
                                             const GraficoStudio& grafico);
 
 /// Draws what `scegliGrafico` chooses, in shown units. What a variant has not is marked below its
-/// place: a wall that falls, data that were refused, a number that it has not. Of rows that many
-/// variants have left out only those that the summary keeps, which is said.
+/// place: a wall that falls, data that were refused, a number that it has not. A
+/// wall that stands with its toe dug free has a mark of its own, and no curve leads to it. Of rows
+/// that many variants have left out only those that the summary keeps, which is said.
 /// @param larghezza, altezza  [cm]
 [[nodiscard]] scene::Scena scenaGrafico(const Riassunto& riassunto, const FormaRiga& forma,
                                         const GraficoStudio& grafico, double larghezza,

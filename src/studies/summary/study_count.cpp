@@ -87,8 +87,8 @@ EsitoRiga ContoStudio::esito(std::span<const double> valori) {
         e.sorte = Sorte::rifiutata;
     else if (causa != safety::Causa::eseguito)
         e.sorte = Sorte::cade;
-    else
-        e.piedeScavato = piedeScavato_(valori);
+    else if (piedeScavato_(valori))
+        e.sorte = Sorte::senzaPiede;
     if (caduta_ < valori.size() && !std::isnan(valori[caduta_]))
         e.fase = static_cast<int>(valori[caduta_]);
     return e;

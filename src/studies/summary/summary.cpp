@@ -76,9 +76,9 @@ bool Riassunto::fallisce(std::span<const double> riga, const EsitoRiga& esito) {
 void Riassunto::prendi(std::uint64_t i, std::span<const double> riga, const EsitoRiga& esito) {
     assert(riga.size() == forma_.valori);
     ++numero_;
-    stanno_ += esito.sorte == Sorte::sta ? 1 : 0;
+    stanno_ += inEquilibrio(esito.sorte) ? 1 : 0;
     rifiutate_ += esito.sorte == Sorte::rifiutata ? 1 : 0;
-    piediScavati_ += esito.sorte == Sorte::sta && esito.piedeScavato ? 1 : 0;
+    piediScavati_ += esito.sorte == Sorte::senzaPiede ? 1 : 0;
     fallite_ += fallisce(riga, esito) ? 1 : 0;
 
     std::size_t maggiore = forma_.usi.size();

@@ -28,16 +28,21 @@ struct FormaRiga {
 
 /// What became of a variant.
 enum class Sorte {
-    sta,        ///< all its stages are in equilibrium
-    cade,       ///< one of them is not
-    rifiutata,  ///< its data are no wall that could be computed: it neither stands nor falls
+    sta,         ///< all its stages are in equilibrium
+    senzaPiede,  ///< the same with an excavation that reaches or passes its toe
+    cade,        ///< one of them is not
+    rifiutata,   ///< its data are no wall that could be computed: it neither stands nor falls
 };
+
+/// True for both kinds of walls that stand.
+[[nodiscard]] constexpr bool inEquilibrio(Sorte sorte) {
+    return sorte == Sorte::sta || sorte == Sorte::senzaPiede;
+}
 
 struct EsitoRiga {
     Sorte sorte = Sorte::sta;
-    int motivo = 0;             ///< why it does not stand: a number of the caller's
-    int fase = 0;               ///< in which stage, 0: none
-    bool piedeScavato = false;  ///< it stands with an excavation that reaches or passes its toe
+    int motivo = 0;  ///< why it does not stand: a number of the caller's
+    int fase = 0;    ///< in which stage, 0: none
 };
 
 /// The shares of 1 below which quantiles are told.

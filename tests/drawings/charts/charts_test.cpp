@@ -83,7 +83,7 @@ TEST(Classi, AreOneForEqualValues) {
     EXPECT_EQ(classi({-0.4}).numeri, (std::vector<std::size_t>{1}));
 }
 
-const ParoleMancanze parole{"cade", "rifiutata", "manca"};
+const ParoleMancanze parole{"cade", "rifiutata", "manca", "senza piede"};
 
 GraficoCurve grafico(std::vector<CurvaGrafico> curve) {
     return {{"a [m]"}, "b", curve.size() > 1 ? "p" : "", std::move(curve), parole};

@@ -59,6 +59,26 @@ TEST(GraficoStudio, OfOneFieldIsACurve) {
     EXPECT_TRUE(scritto(scena, "r"));
 }
 
+// As in the table: 1 and 2 stand without their toe, the curve begins behind them.
+TEST(GraficoStudio, SetsWallsWithoutTheirToeApart) {
+    Riassunto r(forma(1), 1), cento(forma(3), 1);
+    for (const auto i : {0U, 1U, 2U, 3U}) {
+        const EsitoRiga esito{.sorte = i < 2 ? Sorte::senzaPiede : Sorte::sta};
+        const double x = 8 + i;
+        r.prendi(i, std::array{x, 1 / x}, esito);
+        cento.prendi(i, std::array{x, 1.0, 2.0, 1 / x}, esito);
+    }
+    EXPECT_EQ(r.stanno(), 4U);
+    EXPECT_EQ(r.piediScavati(), 2U);
+    const auto curva = di(r, 1, false), punti = di(cento, 3, false);
+    EXPECT_EQ(quante(curva, Elemento::curva, linea), 1U);
+    for (const auto& scena : {curva, punti}) {
+        EXPECT_EQ(quante(scena, Elemento::estremo, area), 2U);   // ordinary marks
+        EXPECT_EQ(quante(scena, Elemento::estremo, linea), 3U);  // rings, one in the key
+        EXPECT_TRUE(scritto(scena, "in equilibrio con il piede scavato"));
+    }
+}
+
 // Three values of one field, twenty of the other: three curves, whichever comes first.
 TEST(GraficoStudio, OfTwoFieldsIsAFamily) {
     Riassunto prima(forma(2), 1), dopo(forma(2), 1);
