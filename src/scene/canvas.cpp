@@ -66,8 +66,8 @@ bool Tela::libero(const Riquadro& posto) const {
                         [&](const Riquadro& uno) { return uno.tocca(posto); });
 }
 
-bool Tela::sgombro(const Riquadro& posto, Elemento elemento, int numero) const {
-    return std::none_of(tratti_.begin(), tratti_.end(), [&](const Tratto& t) {
+std::ptrdiff_t Tela::attraversamenti(const Riquadro& posto, Elemento elemento, int numero) const {
+    return std::count_if(tratti_.begin(), tratti_.end(), [&](const Tratto& t) {
         return (t.elemento != elemento || t.numero != numero) && attraversa(t.da, t.a, posto);
     });
 }
@@ -87,7 +87,7 @@ bool Tela::colloca(const Scritta& s, const std::string& parole, bool libera) {
         testo.ancora = posto.ancora;
         testo.fondo = posto.fondo;
         const Riquadro r = testo.riquadro();
-        if (!libero(r) || (libera && !sgombro(r, s.elemento, s.numero))) continue;
+        if (!libero(r) || (libera && attraversamenti(r, s.elemento, s.numero) > 0)) continue;
         occupa(r);
         if (s.richiamo) disegna(s.elemento, s.numero, *s.richiamo);
         collocate_.push_back({s.elemento, s.numero, std::move(testo)});

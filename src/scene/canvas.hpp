@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <utility>
@@ -50,8 +51,9 @@ class Tela {
     /// Keeps texts out of a place.
     void occupa(const Riquadro& posto) { occupati_.push_back(posto); }
 
-    /// No line of another part of the project drawn so far goes through a place.
-    [[nodiscard]] bool sgombro(const Riquadro& posto, Elemento elemento, int numero) const;
+    /// How many lines of other parts of the project, of those drawn so far, go through a place.
+    [[nodiscard]] std::ptrdiff_t attraversamenti(const Riquadro& posto, Elemento elemento,
+                                                 int numero) const;
 
     [[nodiscard]] double larghezza(const std::string& testo, double corpo,
                                    bool grassetto = false) const {

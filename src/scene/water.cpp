@@ -18,18 +18,18 @@ void linea(const Inquadratura& q, double z, double da, double a, Tela& tela) {
                      Linea{{{da, y}, {a, y}}, {Ruolo::acqua}, 1.2, Tratteggio::linee});
 }
 
-// The triangle on a level and two strokes below, at the first of some places that no anchor takes.
-// Gives where.
+// The triangle on a level and two strokes below, at the first of some places with the fewest lines
+// through it: an anchor, arrows of a load. Gives where.
 double triangolo(const Inquadratura& q, double y, const std::vector<double>& posti, Tela& tela) {
     const Tinta tinta{Ruolo::acqua};
     const double lato = 0.5 * q.em;
     const auto segno = [&](double x) {
         return Riquadro{x - lato, y - 1.5 * lato, x + lato, y + 0.6 * q.em};
     };
-    const auto libero = std::find_if(posti.begin(), posti.end(), [&](double x) {
-        return tela.sgombro(segno(x), Elemento::acqua, 0);
+    const auto linee = [&](double x) { return tela.attraversamenti(segno(x), Elemento::acqua, 0); };
+    const double x = *std::min_element(posti.begin(), posti.end(), [&](double uno, double altro) {
+        return linee(uno) < linee(altro);
     });
-    const double x = libero == posti.end() ? posti.front() : *libero;
     tela.disegna(Elemento::acqua, 0,
                  Area{{{x - lato, y - 1.5 * lato}, {x + lato, y - 1.5 * lato}, {x, y}}, tinta});
     for (const double giu : {0.3, 0.55})
