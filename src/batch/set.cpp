@@ -36,7 +36,7 @@ void avvisaRigidezza(Esito& esito) {
         return project::numeroMostrato(t, 0, project::unita::rigidezzaFlessionale);
     };
     racconta({base::riempito(
-                 base::traduttore("La rigidezza EJ resta quella scritta, %1 kN m², e la sezione "
+                 base::traduttore("La rigidezza EJ resta quella scritta, %1 kN m²/m, e la sezione "
                                   "nuova dà %2: con rigidezzaEJ=0 la calcola il programma."),
                  {testo(EJ), testo(*sua)})},
              esito);

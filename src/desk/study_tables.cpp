@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <optional>
 #include <utility>
 
@@ -52,6 +53,13 @@ Cella esito(const StudioFatto& fatto, std::span<const double> riga,
     return tables::esito(traduttore(fallita ? "fallisce" : "in equilibrio"), fallita);
 }
 
+// What no variant has, as stirrups of a diaphragm wall, would be an empty column.
+bool unaNeHa(const StudioFatto& fatto, std::size_t posto) {
+    for (std::uint64_t i = 0; i < fatto.numero(); ++i)
+        if (std::isfinite(fatto.riga(i)[posto])) return true;
+    return false;
+}
+
 tables::Colonna colonna(const ValoreMostrato& valore) {
     return {.titolo = valore.titolo, .unita = std::string(valore.unita.mostrata)};
 }
@@ -100,7 +108,8 @@ Prospetto prospettoVarianti(const StudioFatto& fatto, std::size_t massimo) {
                             {.titolo = traduttore("Esito"), .numerica = false}}};
     std::vector<std::size_t> posti;
     for (std::size_t j = 0; j < righe.campi(); ++j) posti.push_back(j);
-    posti.insert(posti.end(), forma.risultati.begin(), forma.risultati.end());
+    std::ranges::copy_if(forma.risultati, std::back_inserter(posti),
+                         [&fatto](std::size_t j) { return unaNeHa(fatto, j); });
     for (const std::size_t j : posti) p.colonne.push_back(colonna(valori[j]));
     studies::PiedeScavato piedeScavato(fatto.studio->dati, righe.nominati());
     const auto quante = std::min<std::uint64_t>(massimo, fatto.numero());

@@ -9,8 +9,8 @@
 
 namespace korven::desk {
 
-/// A row a variant: its number, what became of it, its fields, the results that are numbers. Beyond
-/// `massimo` rows a note says so.
+/// A row a variant: its number, what became of it, its fields, the results that are numbers and
+/// that a variant has. Beyond `massimo` rows a note says so.
 [[nodiscard]] tables::Prospetto prospettoVarianti(const StudioFatto& fatto, std::size_t massimo);
 
 /// What a study comes to of random samples; of others both tables are without rows.

@@ -47,13 +47,15 @@ std::string nellaSuaFase(const Margine& margine, std::string_view chiave) {
 
 }  // namespace
 
-std::string testoF(double F) {
-    constexpr double cifra = 0.01;
-    std::string testo = base::testoDecimali(F, 2);
+std::string testoF(double F, std::optional<double> chiesta) {
+    constexpr double mezzaCifra = 0.005;
+    const std::string vicino = base::testoDecimali(F, 2),
+                      sotto = base::testoDecimali(F - mezzaCifra, 2);
+    const double mostrato = base::leggiNumero(vicino).value_or(F);
+    const auto sale = [&](double soglia) { return F < soglia && mostrato >= soglia; };
     for (const double soglia : {1.0, riduzionePericolosa, riduzioneDaVedere})
-        if (F < soglia && testo == base::testoDecimali(soglia, 2))
-            testo = base::testoDecimali(soglia - cifra, 2);
-    return testo;
+        if (sale(soglia)) return sotto;
+    return chiesta && sale(*chiesta) ? sotto : vicino;
 }
 
 std::string testoRiduzione(const Riduzione& riduzione) {

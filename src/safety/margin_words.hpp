@@ -12,7 +12,8 @@ namespace korven::safety {
 
 /// A strength reduction as it is told everywhere: "2.98". Two decimals; one below 1 or below a
 /// limit that remarks are made at is never rounded up to it, so that text and verdict agree.
-[[nodiscard]] std::string testoF(double F);
+/// @param chiesta  another such limit
+[[nodiscard]] std::string testoF(double F, std::optional<double> chiesta = {});
 /// "2.98", "> 10", "2.72 *" where the slope of the ground is the limit (`notaPendenza`), "-" for
 /// none.
 [[nodiscard]] std::string testoRiduzione(const Riduzione& riduzione);

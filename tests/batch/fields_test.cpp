@@ -159,7 +159,7 @@ TEST_F(Campi, OfTheSectionLeaveATypedStiffnessAndSaySo) {
     const auto esito = imposta({"sezione.spessoreDiaframma=1000"});
     EXPECT_EQ(esito.codice, 0);
     EXPECT_TRUE(dice(esito.errori,
-                     "La rigidezza EJ resta quella scritta, 120000 kN m², e la "
+                     "La rigidezza EJ resta quella scritta, 120000 kN m²/m, e la "
                      "sezione nuova dà "))
         << esito.errori;
     for (const std::vector<std::string>& scritte :

@@ -46,6 +46,19 @@ TEST(ProspettoVarianti, SaysWhatBecameOfAVariantWithoutNumbers) {
     EXPECT_EQ(p.righe[0][1].peso, review::Peso::pericolo);
 }
 
+// A diaphragm wall has no stirrups.
+TEST(ProspettoVarianti, LeavesOutWhatNoVariantHas) {
+    const auto f = test::fatto(test::lunghezze());
+    const auto p = prospettoVarianti(*f, 2);
+    EXPECT_LT(p.colonne.size(), 2 + 1 + f->conto.forma().risultati.size());
+    for (std::size_t j = 0; j < p.colonne.size(); ++j) {
+        EXPECT_NE(p.colonne[j].titolo, "Vrd2");
+        EXPECT_TRUE(std::ranges::any_of(prospettoVarianti(*f, f->numero()).righe,
+                                        [j](const auto& r) { return !r[j].testo.empty(); }))
+            << p.colonne[j].titolo;
+    }
+}
+
 TEST(ProspettoVarianti, MarksAWallThatIsDugFree) {
     auto s = test::lunghezze();
     s.variazioni[0].numeri = {"9.6", "16", "6.4"};

@@ -33,6 +33,10 @@ TEST(TestoRiduzione, HasTwoDecimalsAndNeverCallsAMechanismOne) {
 TEST(TestoRiduzione, NeverReachesALimitThatTheFactorDoesNot) {
     EXPECT_EQ(testoF(1.2499), "1.24");
     EXPECT_EQ(testoF(1.25), "1.25");
+    EXPECT_EQ(testoF(1.29718), "1.30");
+    EXPECT_EQ(testoF(1.29718, 1.3), "1.29") << "1.30 would be what was asked for";
+    EXPECT_EQ(testoF(1.29718, 1.298), "1.29");
+    EXPECT_EQ(testoF(1.3, 1.3), "1.30");
     EXPECT_EQ(testoF(1.4951), "1.49");
     EXPECT_EQ(testoF(1.5), "1.50");
     EXPECT_EQ(testoF(1.4949), "1.49");

@@ -27,9 +27,9 @@ std::string numero(const std::optional<DiFase>& valore, const project::Unita& u)
     return valore ? project::numeroMostrato(valore->valore, 1, u) : "-";
 }
 
-std::string riduzione(const std::optional<DiFase>& F) {
+std::string riduzione(const std::optional<DiFase>& F, std::optional<double> chiesta) {
     if (!F) return "-";
-    if (F->valore < safety::massimaRiduzione) return safety::testoF(F->valore);
+    if (F->valore < safety::massimaRiduzione) return safety::testoF(F->valore, chiesta);
     return "> " + project::numeroMostrato(safety::massimaRiduzione, 0);
 }
 
@@ -46,7 +46,7 @@ std::vector<std::string> titoli(const Criteri& criteri) {
 
 std::vector<std::string> celle(const LunghezzaProvata& p, const Criteri& criteri) {
     std::vector<std::string> tutte{safety::metriAllineati(p.lunghezza)};
-    if (criteri.riduzione) tutte.push_back(riduzione(p.riduzione));
+    if (criteri.riduzione) tutte.push_back(riduzione(p.riduzione, criteri.riduzione));
     tutte.push_back(numero(p.spostamento, unita::spostamentoFine));
     if (criteri.resistenza)
         for (const auto& uso : {p.flessione, p.taglio})

@@ -150,7 +150,7 @@ void avvisaCampi(const studies::Studio& studio, Esito& esito) {
              base::testoNumero(a)}));
     if (studies::rigidezzaScrittaResta(studio.varianti, studio.dati, studio.domanda))
         avvisi.push_back(riempito(
-            traduttore("La rigidezza EJ resta quella scritta, %1 kN m², anche dove la "
+            traduttore("La rigidezza EJ resta quella scritta, %1 kN m²/m, anche dove la "
                        "sezione ne darebbe un'altra: con %2 ogni variante ha la sua."),
             {project::numeroMostrato(studio.dati.rigidezzaEJ, 0,
                                      project::unita::rigidezzaFlessionale),

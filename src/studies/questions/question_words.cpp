@@ -59,9 +59,9 @@ std::string dellaRiduzione(const LunghezzaProvata& provata, const Criteri& chies
     if (!provata.riduzione)
         return frase("riduzione F sotto %1, chiesta %2",
                      {base::testoNumero(safety::minimaRiduzione), chiesta});
-    return frase(
-        "riduzione F %1 nella fase %2, chiesta %3",
-        {safety::testoF(provata.riduzione->valore), fase(provata.riduzione->fase), chiesta});
+    return frase("riduzione F %1 nella fase %2, chiesta %3",
+                 {safety::testoF(provata.riduzione->valore, chiesti.riduzione),
+                  fase(provata.riduzione->fase), chiesta});
 }
 
 std::string dellUso(Criterio criterio, const std::optional<DiFase>& uso) {
