@@ -72,6 +72,10 @@ function(korven_program name room)
     add_dependencies(${name} korven_data)
 endfunction()
 
+# Under a sanitizer a program takes longer to start than most tests to run. Where tests start their own program
+# again each keeps a process: a share in the environment would leave the second one without its test.
+set(KORVEN_SHARDS 0 CACHE STRING "Processes that share the tests of a program; 0: one for each test")
+
 # korven_test(<name>) makes the test program of the folder tests/<name> and of the folders in it, and
 # hands its tests to ctest.
 function(korven_test name)
@@ -85,5 +89,16 @@ function(korven_test name)
     if(KORVEN_TEST_ENVIRONMENT)
         list(APPEND properties ENVIRONMENT ${KORVEN_TEST_ENVIRONMENT})
     endif()
-    gtest_discover_tests(${name}_test DISCOVERY_TIMEOUT 60 PROPERTIES ${properties})
+    if(KORVEN_SHARDS EQUAL 0 OR name MATCHES "^(base|shell|desktop)$")
+        gtest_discover_tests(${name}_test DISCOVERY_TIMEOUT 60 PROPERTIES ${properties})
+        return()
+    endif()
+    list(APPEND properties TIMEOUT 1200)  # in place of the 120 s of a single test
+    math(EXPR last "${KORVEN_SHARDS} - 1")
+    foreach(shard RANGE ${last})
+        add_test(NAME ${name}.${shard} COMMAND ${name}_test)
+        set_tests_properties(${name}.${shard} PROPERTIES ${properties})
+        set_property(TEST ${name}.${shard} APPEND PROPERTY ENVIRONMENT
+            GTEST_TOTAL_SHARDS=${KORVEN_SHARDS} GTEST_SHARD_INDEX=${shard})
+    endforeach()
 endfunction()
