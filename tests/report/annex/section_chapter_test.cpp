@@ -7,38 +7,23 @@
 #include <string>
 #include <utility>
 
+#include "report/annex/section_bench.hpp"
 #include "safety/mesh_words.hpp"
-#include "support/chapter_bench.hpp"
-#include "support/sample_projects.hpp"
-#include "support/sample_sections.hpp"
 
 namespace korven::report {
 namespace {
 
+using test::conStaffe;
 using test::contesto;
 using test::haTavola;
+using test::muro;
 using test::numero;
 using test::riga;
+using test::sezione;
 using test::tavola;
 using test::testo;
 
 constexpr double kN = 1e3;  // N
-
-project::DatiProgetto muro(const project::Sezione& sezione, double sforzoNormale = 0) {
-    auto dati = test::progettoSemplice();
-    dati.sezione = sezione;
-    dati.sforzoNormale = sforzoNormale;
-    return dati;
-}
-
-project::Sezione conStaffe() {
-    auto s = structure::paliArmati();
-    s.armDiamStaffe = 1;
-    s.armPassoStaffe = 20;
-    return s;
-}
-
-Blocchi sezione(const Contesto& c) { return test::blocchi(capitoloSezione, c); }
 
 TEST(CapitoloSezione, NamesTheStrainsThatEndTheResistance) {
     const auto detto = [](const project::Sezione& s) { return testo(sezione(contesto(muro(s)))); };
@@ -128,27 +113,6 @@ TEST(CapitoloSezione, PutsTheValuesIntoTheFormulas) {
     EXPECT_EQ(Nd[2].testo, "1.40 · 120.000");
     EXPECT_NEAR(Nd[3].numero.value_or(0), 168, 1e-9);
     EXPECT_EQ(Nd[4].testo, "kN/m");
-}
-
-// Bars of 24 mm in a ring, cover 60: d = 800 - 60 - 12 = 728 mm.
-TEST(CapitoloSezione, FollowsTheShearFromAPileToAMetre) {
-    const Contesto c = contesto(muro(conStaffe()));
-    const auto p = tavola(sezione(c), "Resistenza a taglio");
-    const auto& v = *c.fascicolo->taglio;
-    const auto d = riga(p, "Altezza utile");
-    EXPECT_EQ(d[2].testo, "800.0 - 60.0 - 24.0 / 2");
-    EXPECT_EQ(d[3].numero, 728);
-    EXPECT_NEAR(riga(p, "Coefficiente k, senza limite")[3].numero.value_or(0), 0.872, 1e-12);
-    EXPECT_NEAR(riga(p, "Area di una staffa, due bracci")[3].numero.value_or(0), 157.0796, 1e-4);
-    EXPECT_EQ(riga(p, "Bielle di calcestruzzo, un palo")[3].numero, v.palo.resistente.Vrd2 / kN);
-    EXPECT_EQ(riga(p, "Armatura d'anima, un palo")[3].numero, v.palo.resistente.Vrd3 / kN);
-    const auto metro = riga(p, "Armatura d'anima, un metro");
-    EXPECT_EQ(metro[3].numero, v.metro.Vrd3);
-    EXPECT_EQ(metro[1].testo, "VRd3' = VRd3 / i");
-    EXPECT_EQ(riga(p, "Taglio di progetto")[3].numero, v.metro.Vsd);
-    EXPECT_NEAR(riga(p, "Sfruttamento dell'armatura")[3].numero.value_or(0), 100 * *v.usoArmatura,
-                1e-9);
-    EXPECT_EQ(tavola(sezione(c), "Verifiche").righe.size(), 4U);
 }
 
 // Reads a formula as it is printed: "0.5 · (1.2 - 0.3) / 2^(2/3)", with π and ² too.
@@ -315,26 +279,6 @@ TEST(CapitoloSezione, WarnsWhereTheCheckHoldsByTheAxialForceAlone) {
                   std::string::npos);
     }
     EXPECT_TRUE(trovata);
-}
-
-TEST(CapitoloSezione, SaysWhereTheShearCheckLeavesItsCode) {
-    const Contesto c = contesto(muro(conStaffe(), -20));
-    const auto p = tavola(sezione(c), "Dove la verifica si scosta da ENV 1992-1-1");
-    ASSERT_EQ(p.righe.size(), 6U);
-    const auto k = riga(p, "k");  // 0.872, below 1
-    EXPECT_EQ(k[2].testo, "0.8720");
-    EXPECT_EQ(k[3].testo, "resistenza minore: a favore di sicurezza");
-    EXPECT_EQ(riga(p, "ρl")[3].testo, "resistenza maggiore: a sfavore di sicurezza");
-    EXPECT_EQ(riga(p, "bw")[2].testo, "il diametro: 800.0 mm");
-    EXPECT_EQ(riga(p, "σcp")[3].testo, "resistenza maggiore: a sfavore di sicurezza");  // tension
-}
-
-TEST(CapitoloSezione, WithoutAShearCheckSaysWhyAndWhatIsLeftToCheck) {
-    const Contesto c = contesto(muro(structure::diaframmaSimmetrico()));
-    const std::string detto = testo(sezione(c));
-    EXPECT_NE(detto.find("Il programma non ha una verifica a taglio per i diaframmi. Da verificare "
-                         "a parte: taglio di progetto 1.40 · "),
-              std::string::npos);
 }
 
 // A pencil finds the same product everywhere: rounded, not cut as in the report.
