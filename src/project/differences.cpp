@@ -91,8 +91,8 @@ Differenza inParole(const CampoDiverso& diverso, const DatiProgetto& prima,
     std::string detto = traduttore(cosa(diverso, prima, dopo));
     if (colonna(campo)) detto += ' ' + std::to_string(diverso.riga);
     if (!nome.empty()) detto += " (" + nome + ')';
-    if (const std::string unita = traParentesi(unitaAlMetro(campo)); !unita.empty())
-        detto += ' ' + unita;
+    if (const std::string_view unita = unitaScritta(campo); !unita.empty())
+        detto.append(" [").append(unita).append("]");
     return {std::move(detto), valore(prima, campo, diverso.riga).mostrato,
             valore(dopo, campo, diverso.riga).mostrato};
 }

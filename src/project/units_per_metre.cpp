@@ -23,4 +23,8 @@ const Unita& unitaAlMetro(const Campo& campo) {
     return campo.unita;
 }
 
+std::string_view unitaScritta(const Campo& campo) {
+    return campo.membro == Membro(&DatiProgetto::coeffM) ? "t^½/m²" : unitaAlMetro(campo).mostrata;
+}
+
 }  // namespace korven::project

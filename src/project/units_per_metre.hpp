@@ -9,4 +9,8 @@ namespace korven::project {
 /// unit for all that acts on no metre of wall.
 [[nodiscard]] const Unita& unitaAlMetro(const Campo& campo);
 
+/// The unit that a value is told with in plain text: of the coefficient m of the modulus, which
+/// reads tonnes-force, too, though no editor shows it.
+[[nodiscard]] std::string_view unitaScritta(const Campo& campo);
+
 }  // namespace korven::project

@@ -100,13 +100,13 @@ class ControlloTiro {
             grave ? Voce("tiro-sbagliato") : "tiro-impreciso",
             rigaConValore(dati_, &DatiProgetto::rigTirante, j_),
             {kilonewton(relazione_), kilonewton(s_.massimo.valore), fase(s_.massimo),
-             numeroMostrato(arrotondata(ammesso / cifraSpostamento), 0, unita::rigidezzaAlMetro)});
+             numeroMostrato(arrotondata(ammesso / cifraSpostamento), 0, unita::rigidezza)});
     }
 
     void diverso() const {
         if (lontani(relazione_, s_.massimo.valore))
             elenco_.aggiungi(
-                "tiro-diverso", riga(&DatiProgetto::profTirante, j_),
+                "tiro-diverso", riga(dati_, &DatiProgetto::profTirante, j_),
                 {kilonewton(relazione_), kilonewton(s_.massimo.valore), fase(s_.massimo)});
     }
 
@@ -114,7 +114,7 @@ class ControlloTiro {
         const double opposto = std::max(scartoTiroForza, scartoTiro * std::fabs(s_.massimo.valore));
         if (s_.minimo.valore < -opposto)
             elenco_.aggiungi(
-                "tiro-di-segno-opposto", riga(&DatiProgetto::tipoTirante, j_),
+                "tiro-di-segno-opposto", riga(dati_, &DatiProgetto::tipoTirante, j_),
                 {fase(s_.minimo), kilonewton(s_.minimo.valore), kilonewton(relazione_)});
         else if (relazione_ - s_.massimo.valore > sgravio())
             elenco_.aggiungi(
@@ -129,10 +129,10 @@ class ControlloTiro {
     ElencoOsservazioni& elenco_;
 };
 
-void controlloLento(int j, const Storia& s, ElencoOsservazioni& elenco) {
+void controlloLento(const DatiProgetto& dati, int j, const Storia& s, ElencoOsservazioni& elenco) {
     if (s.lento.valore >= -scartoTiroForza) return;
     elenco.aggiungi(
-        "tirante-lento-nel-taglio", riga(&DatiProgetto::tipoTirante, j),
+        "tirante-lento-nel-taglio", riga(dati, &DatiProgetto::tipoTirante, j),
         {std::to_string(s.lento.fase), kilonewton(s.lento.valore),
          traduttore(s.neiMassimi ? "il taglio massimo del diagramma" : "il diagramma del taglio")});
 }
@@ -148,7 +148,7 @@ void controlloTiri(const DatiProgetto& dati, const safety::Margine& margine,
         const Storia s = storia(dati, margine, indice);
         if (s.massimo.fase > 0 && indice < stampati.size())
             ControlloTiro(dati, j, s, stampati[indice], elenco).controlla();
-        controlloLento(j, s, elenco);
+        controlloLento(dati, j, s, elenco);
     }
 }
 

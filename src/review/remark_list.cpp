@@ -8,8 +8,12 @@
 
 #include "base/colon.hpp"
 #include "base/filled_text.hpp"
+#include "base/name_in_sentence.hpp"
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
+#include "project/anchor_names.hpp"
+#include "project/code_words.hpp"
+#include "project/seven_digits.hpp"
 
 namespace korven::review {
 
@@ -26,8 +30,11 @@ constexpr project::Membro dettiPerEsteso[] = {
 
 // The shown value may be too large for a number; the review must still be able to tell it.
 std::string valoreMostrato(const project::Campo& campo, double conservato) {
+    if (const auto* codice = project::codice(campo, conservato))
+        return project::voceTradotta(campo, *codice);
     constexpr double massimo = std::numeric_limits<double>::max();
-    return base::testoNumero(std::clamp(project::mostrato(campo, conservato), -massimo, massimo));
+    return base::testoNumero(project::conSetteCifre(
+        std::clamp(project::mostrato(campo, conservato), -massimo, massimo)));
 }
 
 std::string campoEValore(const project::Campo& campo, double conservato) {
@@ -49,6 +56,35 @@ NomiRighe nomiRighe(project::Parte parte) {
         default:
             return {"titolo", "titoli"};
     }
+}
+
+// What acts in tension and compression is a strut, and called so.
+std::string nomeRiga(const DatiProgetto& dati, const project::Campo& colonna, int numero) {
+    return colonna.parte == project::Parte::tiranti
+               ? base::nellaFrase(project::nomeTirante(dati, numero))
+               : review::nomeRiga(colonna, numero);
+}
+
+std::string plurale(const DatiProgetto& dati, const project::Campo& colonna,
+                    const std::vector<int>& numeri) {
+    const bool puntoni =
+        colonna.parte == project::Parte::tiranti &&
+        std::all_of(numeri.begin(), numeri.end(), [&](int j) { return project::puntone(dati, j); });
+    return puntoni ? base::nellaFrase(base::traduttore("Puntoni"))
+                   : base::traduttore(nomiRighe(colonna.parte).plurale);
+}
+
+// @param righe  what they are called, translated
+Soggetto inFila(const project::Campo& campo, const std::string& righe,
+                const std::vector<int>& numeri) {
+    std::vector<std::string> quali;
+    Soggetto soggetto;
+    for (const int numero : numeri) {
+        quali.push_back(std::to_string(numero));
+        soggetto.campi.push_back(project::nomeStabile(campo, numero));
+    }
+    soggetto.testo = righe + " " + review::inFila(quali);
+    return soggetto;
 }
 
 std::string inRiga(const Soggetto& soggetto, const std::string& testo) {
@@ -91,10 +127,15 @@ Soggetto riga(const project::Membro& colonna, int numero) {
     return {nomeRiga(campo, numero), {project::nomeStabile(campo, numero)}};
 }
 
+Soggetto riga(const DatiProgetto& dati, const project::Membro& colonna, int numero) {
+    const project::Campo& campo = project::campo(colonna);
+    return {nomeRiga(dati, campo, numero), {project::nomeStabile(campo, numero)}};
+}
+
 Soggetto rigaConValore(const project::DatiProgetto& dati, const project::Membro& colonna,
                        int numero) {
     const project::Campo& campo = project::campo(colonna);
-    Soggetto soggetto = riga(colonna, numero);
+    Soggetto soggetto = riga(dati, colonna, numero);
     soggetto.testo +=
         base::duePunti() + campoEValore(campo, project::numeroConservato(dati, campo, numero));
     return soggetto;
@@ -113,14 +154,7 @@ Soggetto dopo(const std::string& prima, Soggetto soggetto) {
 Soggetto righe(const project::Membro& colonna, const std::vector<int>& numeri) {
     if (numeri.size() == 1) return riga(colonna, numeri.front());
     const project::Campo& campo = project::campo(colonna);
-    std::vector<std::string> quali;
-    Soggetto soggetto;
-    for (const int numero : numeri) {
-        quali.push_back(std::to_string(numero));
-        soggetto.campi.push_back(project::nomeStabile(campo, numero));
-    }
-    soggetto.testo = base::traduttore(nomiRighe(campo.parte).plurale) + " " + inFila(quali);
-    return soggetto;
+    return inFila(campo, base::traduttore(nomiRighe(campo.parte).plurale), numeri);
 }
 
 Soggetto righeConValori(const project::DatiProgetto& dati, const project::Membro& colonna,
@@ -130,7 +164,7 @@ Soggetto righeConValori(const project::DatiProgetto& dati, const project::Membro
     std::vector<std::string> valori;
     for (const int numero : numeri)
         valori.push_back(valoreMostrato(campo, project::numeroConservato(dati, campo, numero)));
-    Soggetto soggetto = righe(colonna, numeri);
+    Soggetto soggetto = inFila(campo, plurale(dati, campo, numeri), numeri);
     soggetto.testo += base::duePunti() + nomeCampo(campo) + " = " + inFila(valori);
     return soggetto;
 }

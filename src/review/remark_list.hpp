@@ -47,6 +47,10 @@ class ElencoOsservazioni {
 /// "strato 3", with one cell of its row in question.
 [[nodiscard]] Soggetto riga(const project::Membro& colonna, int numero);
 
+/// The same where the rows of a table have names of their own: "puntone 2".
+[[nodiscard]] Soggetto riga(const project::DatiProgetto& dati, const project::Membro& colonna,
+                            int numero);
+
 /// "strato 3: Gamma [kN/m³] = 18".
 [[nodiscard]] Soggetto rigaConValore(const project::DatiProgetto& dati,
                                      const project::Membro& colonna, int numero);

@@ -55,10 +55,10 @@ inline constexpr VoceOsservazione vociRisultati[] = {
 
     {"tiro-impreciso", Peso::daVedere, "osservazioni_risultati",
      "la relazione dà il tiro %1 kN/m, quello vero è %2 kN/m (fase %3): lo calcola da spostamenti "
-     "con sette decimali, che bastano fino a una rigidezza di circa %4 kN/m/m"},
+     "con sette decimali, che bastano fino a una rigidezza di circa %4 kN/m"},
     {"tiro-sbagliato", Peso::pericolo, "osservazioni_risultati",
      "la relazione dà il tiro %1 kN/m, quello vero è %2 kN/m (fase %3): lo calcola da spostamenti "
-     "con sette decimali, che bastano fino a una rigidezza di circa %4 kN/m/m; usare il tiro vero "
+     "con sette decimali, che bastano fino a una rigidezza di circa %4 kN/m; usare il tiro vero "
      "o "
      "una rigidezza minore"},
     {"tiro-diverso", Peso::daVedere, "osservazioni_risultati",

@@ -21,7 +21,8 @@ constexpr const char* nessuno = "-";
 constexpr const char* limitePendenza =
     "oltre F l'angolo di attrito ridotto è minore della pendenza del terreno";
 
-constexpr const char* tenuta = "vincoli o tiranti tengono la paratia qualunque sia il terreno";
+constexpr const char* tenuta =
+    "vincoli, tiranti o puntoni tengono la paratia qualunque sia il terreno";
 
 std::string fasi(const std::vector<int>& quali) {
     std::string testo;
@@ -36,7 +37,7 @@ std::string nonDaCostruire(const Margine& margine) {
     if (bilico) testo += base::duePunti() + "F = 1";
     if (margine.sostegni)
         testo += (bilico ? std::string(", ") : base::duePunti()) +
-                 traduttore("tiranti e vincoli tengono senza limite");
+                 traduttore("tiranti, puntoni e vincoli tengono senza limite");
     return testo;
 }
 

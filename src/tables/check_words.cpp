@@ -48,4 +48,9 @@ std::string percheSenzaTaglio(const project::Sezione& sezione) {
     return traduttore("La sezione non è definita.");
 }
 
+const char* azioniNonNote(const live::PareteViva& parete) {
+    return parete.fasi.empty() ? "Azioni non note: la paratia non è calcolata."
+                               : "Azioni non note: la paratia non è in equilibrio.";
+}
+
 }  // namespace korven::tables

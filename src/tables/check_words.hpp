@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "live/wall.hpp"
 #include "project/project_data.hpp"
 #include "project/units.hpp"
 #include "results/section_uses.hpp"
@@ -18,5 +19,8 @@ namespace korven::tables {
 
 /// Why a section has no check of shear, a sentence. @pre it has none
 [[nodiscard]] std::string percheSenzaTaglio(const project::Sezione& sezione);
+
+/// Why there are no actions to check a section with: an Italian key. @pre no stage stands
+[[nodiscard]] const char* azioniNonNote(const live::PareteViva& parete);
 
 }  // namespace korven::tables

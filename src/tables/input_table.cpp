@@ -67,7 +67,7 @@ std::vector<Cella> riga(const DatiProgetto& scritti, const DatiProgetto& usati, 
             inUso(usati, campo.parte)
                 ? valore(usati, campo, k, true)
                 : senza(traduttore("La sezione in vigore non usa questo dato.")),
-            parola(std::string(project::unitaAlMetro(campo).mostrata)),
+            parola(std::string(project::unitaScritta(campo))),
             parola(project::nomeStabile(campo, k))};
 }
 

@@ -9,6 +9,7 @@
 #include "structure/partial_factors.hpp"
 #include "structure/section_validity.hpp"
 #include "tables/check_table.hpp"
+#include "tables/check_words.hpp"
 
 namespace korven::tables {
 
@@ -20,9 +21,6 @@ using live::ControlliSezione;
 using live::PareteViva;
 using project::DatiProgetto;
 namespace unita = project::unita;
-
-constexpr const char* azioniNonNote =
-    "Azioni non note: la paratia non è calcolata o non è in equilibrio.";
 
 // As the editors show it.
 std::string ej(double conservata) {
@@ -72,6 +70,7 @@ Cella verifica(bool fallita) {
 
 // The checks of a wall, with its margin as soon as that is known.
 struct Verifiche {
+    const PareteViva& parete;
     const ControlliSezione& controlli;
     const safety::Margine* margine;
 
@@ -93,19 +92,17 @@ std::vector<Cella> riga(const char* simbolo, const project::Unita& u, const char
             cifre(resistenza)};
 }
 
-const char* senzaAzioni(const ControlliSezione& controlli) {
-    return controlli.conAzioni ? "" : azioniNonNote;
+const char* senzaAzioni(const Verifiche& v) {
+    return v.controlli.conAzioni ? "" : azioniNonNote(v.parete);
 }
 
 void flessione(const Verifiche& v, Prospetto& p) {
     using results::Verifica;
     const auto& c = *v.controlli.flessione;
     const project::Unita& u = unita::momentoAlMetro;
-    const char* senzaNegativo = v.controlli.conAzioni && !c.negativo
-                                    ? "Nessun momento negativo agisce."
-                                    : senzaAzioni(v.controlli);
-    p.righe.push_back(riga("M+", u, senzaAzioni(v.controlli), mostrato(u, c.mdMax),
-                           mostrato(u, c.mrPos),
+    const char* senzaNegativo =
+        v.controlli.conAzioni && !c.negativo ? "Nessun momento negativo agisce." : senzaAzioni(v);
+    p.righe.push_back(riga("M+", u, senzaAzioni(v), mostrato(u, c.mdMax), mostrato(u, c.mrPos),
                            v.esito(Verifica::momentoPositivo, c.fallitaPos())));
     p.righe.push_back(riga("M−", u, senzaNegativo, mostrato(u, c.mdMin), mostrato(u, c.mrNeg),
                            v.esito(Verifica::momentoNegativo, c.fallitaNeg())));
@@ -115,8 +112,7 @@ void taglio(const Verifiche& v, Prospetto& p) {
     using results::Verifica;
     const auto& c = *v.controlli.taglio;
     const auto aggiungi = [&](const char* simbolo, double VRd, const Cella& esito) {
-        p.righe.push_back(
-            riga(simbolo, unita::forzaAlMetro, senzaAzioni(v.controlli), c.Vsd, VRd, esito));
+        p.righe.push_back(riga(simbolo, unita::forzaAlMetro, senzaAzioni(v), c.Vsd, VRd, esito));
     };
     aggiungi("V, VRd2", c.Vrd2, v.esito(Verifica::bielle, c.rotturaBielle()));
     aggiungi("V, VRd3", c.Vrd3, v.esito(Verifica::armatura, c.rotturaArmatura()));
@@ -134,7 +130,7 @@ std::vector<Colonna> colonne() {
 
 std::string origine(const PareteViva& parete, const ControlliSezione& controlli) {
     if (controlli.dellaRelazione) return traduttore("Azioni della relazione.");
-    if (!controlli.conAzioni) return traduttore(azioniNonNote);
+    if (!controlli.conAzioni) return traduttore(azioniNonNote(parete));
     if (parete.sta()) return traduttore("Azioni della soluzione di equilibrio.");
     return riempito(traduttore("Azioni della soluzione di equilibrio, fino alla fase %1."),
                     {std::to_string(parete.fasiInEquilibrio())});
@@ -149,7 +145,7 @@ QuadroSezione quadroSezione(const DatiProgetto& dati, const PareteViva& parete,
     q.verifiche = {.titolo = traduttore("Verifiche"), .colonne = colonne()};
     if (!live::sezioneCalcolabile(dati.sezione)) return q;
     const ControlliSezione controlli = live::controlliSezione(parete, margine);
-    const Verifiche sue{controlli, margine};
+    const Verifiche sue{parete, controlli, margine};
     if (controlli.flessione) flessione(sue, q.verifiche);
     if (controlli.taglio) taglio(sue, q.verifiche);
     q.verifiche.note.push_back(origine(parete, controlli));

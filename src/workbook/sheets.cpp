@@ -3,6 +3,7 @@
 #include <cassert>
 #include <filesystem>
 #include <iterator>
+#include <set>
 #include <utility>
 
 #include "base/translated_texts.hpp"
@@ -53,9 +54,11 @@ Foglio diParole(Prospetto p, std::string fonte = {}) {
             .aCapo = true};
 }
 
-Foglio diNumeri(Prospetto p, std::size_t colonneFisse = 1) {
+// @param conLato  columns of depths of shears, which have two values at an anchor
+Foglio diNumeri(Prospetto p, std::size_t colonneFisse = 1,
+                const std::set<std::size_t>& conLato = {}) {
     return {.nome = {},
-            .prospetto = conLati(std::move(p)),
+            .prospetto = conLati(std::move(p), conLato),
             .fonte = traduttore("Numeri della soluzione di equilibrio, per metro di paratia."),
             .colonneFisse = colonneFisse,
             .aCapo = false};
@@ -74,11 +77,11 @@ std::vector<Foglio> tutti(const Fascicolo& f) {
     std::vector<Foglio> fatti = {
         diParole(conTitolo(tables::prospettoDati(f.scritti, f.parete.dati), "Dati"),
                  traduttore("Dati come sono scritti e come il calcolo li usa.")),
-        diNumeri(tables::prospettoFasi(f.parete)),
+        diNumeri(tables::prospettoFasi(f.parete), 1, {8}),
         diNumeri(prospettoNodiFasi(f), 3),
         diNumeri(conTitolo(tables::prospettoInviluppo(f.parete), "Inviluppo"), 2),
         diNumeri(prospettoTiranti(f)),
-        diNumeri(prospettoVerifiche(f)),
+        diNumeri(prospettoVerifiche(f), 1, {5}),
         diNumeri(maglia(f)),
         diParole(tables::prospettoOsservazioni(f.osservazioni))};
     fatti.insert(fatti.begin(), diParole(prospettoProgetto(f, fatti)));

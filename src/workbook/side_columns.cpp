@@ -1,7 +1,5 @@
 #include "workbook/side_columns.hpp"
 
-#include <algorithm>
-#include <cstddef>
 #include <utility>
 
 namespace korven::workbook {
@@ -10,11 +8,6 @@ namespace {
 
 using tables::Cella;
 using tables::Prospetto;
-
-bool conParole(const Prospetto& p, std::size_t colonna) {
-    return std::any_of(p.righe.begin(), p.righe.end(),
-                       [colonna](const auto& riga) { return !riga[colonna].lato.empty(); });
-}
 
 // The depth of a cell without its words.
 Cella senzaLato(const Cella& cella) {
@@ -37,9 +30,9 @@ void separa(Prospetto& p, std::size_t colonna) {
 
 }  // namespace
 
-Prospetto conLati(Prospetto p) {
-    for (std::size_t i = p.colonne.size(); i-- > 0;)
-        if (conParole(p, i)) separa(p, i);
+Prospetto conLati(Prospetto p, const std::set<std::size_t>& quali) {
+    // From behind: a column put in moves those that follow it.
+    for (auto i = quali.rbegin(); i != quali.rend(); ++i) separa(p, *i);
     return p;
 }
 

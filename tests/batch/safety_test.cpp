@@ -113,7 +113,8 @@ TEST_F(Sicurezza, SaysOfAFixedToeThatNothingOvercomesItAndThatTheReportsShearIsN
     const auto testo = righe(comando({"--silenzioso"}).uscita + comando().uscita);
     ASSERT_GT(testo.size(), 2u);
     EXPECT_TRUE(dice(testo[1], "> 10")) << testo[1];
-    EXPECT_TRUE(dice(testo[1], "nessun meccanismo fino a F = 10: vincoli o tiranti ")) << testo[1];
+    EXPECT_TRUE(dice(testo[1], "nessun meccanismo fino a F = 10: vincoli, tiranti o puntoni "))
+        << testo[1];
 }
 
 TEST_F(Sicurezza, TellsOfAMechanismWhatItIsShortOfAndEndsWithOne) {

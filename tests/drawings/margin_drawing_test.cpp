@@ -68,7 +68,7 @@ TEST_F(DisegnoMargine, HasANumberForEachStageAndTheMarksOfBothDiagrams) {
     EXPECT_EQ(plot::statoPlot.nome, "sicurezza");
     margine.fasi[2].riduzione.senzaTerreno = true;
     disegna();
-    EXPECT_EQ(testiCon("\"> 10, fase 3: vincoli o tiranti tengono").size(), 1u);
+    EXPECT_EQ(testiCon("\"> 10, fase 3: vincoli, tiranti o puntoni tengono").size(), 1u);
 }
 
 TEST_F(DisegnoMargine, HatchesBarsBeyondTheMarksAndTheWorseOnesMoreDensely) {

@@ -48,9 +48,9 @@ TEST(ControlloTiri, TellsAForceThatSevenDecimalsOfADisplacementAreTooFewFor) {
     EXPECT_EQ(conForze(rigido, 6, 8, 8.07), Righe{});
     EXPECT_EQ(
         conForze(rigido, 6, 8, 8.09),
-        Righe{"[da vedere] tiro-impreciso: tirante 1: Rigidezza [kN/m] = 100000000: la relazione "
+        Righe{"[da vedere] tiro-impreciso: puntone 1: Rigidezza [kN/m] = 100000000: la relazione "
               "dà il tiro 80.90 kN/m, quello vero è 80.00 kN/m (fase 2): lo calcola da spostamenti "
-              "con sette decimali, che bastano fino a una rigidezza di circa 8000000 kN/m/m"});
+              "con sette decimali, che bastano fino a una rigidezza di circa 8000000 kN/m"});
     EXPECT_EQ(conForze(rigido, 20, 8, 20.09), Righe{});
     EXPECT_EQ(conForze(rigido, 20, 8, 20.5).size(), 1u);
 }
@@ -60,10 +60,10 @@ TEST(ControlloTiri, TellsAForceThatIsFarTooSmallAsADanger) {
     EXPECT_EQ(conForze(rigido, 6, 8, 7.21)[0].rfind("[da vedere] tiro-impreciso", 0), 0u);
     EXPECT_EQ(conForze(rigido, 6, 8, 10)[0].rfind("[da vedere] tiro-impreciso", 0), 0u);
     EXPECT_EQ(conForze(rigido, 6, 8.03, 0),
-              Righe{"[pericolo] tiro-sbagliato: tirante 1: Rigidezza [kN/m] = 1000000000: la "
+              Righe{"[pericolo] tiro-sbagliato: puntone 1: Rigidezza [kN/m] = 1000000000: la "
                     "relazione dà il tiro 0.00 kN/m, quello vero è 80.30 kN/m (fase 2): lo calcola "
                     "da spostamenti con sette decimali, che bastano fino a una rigidezza di circa "
-                    "8000000 kN/m/m; usare il tiro vero o una rigidezza minore"});
+                    "8000000 kN/m; usare il tiro vero o una rigidezza minore"});
 }
 
 TEST(ControlloTiri, TakesNoSmallForceBySharesAlone) {
@@ -82,7 +82,7 @@ TEST(ControlloTiri, TellsAForceThatIsOfAnotherPlaceOfTheSameAnchor) {
 
 TEST(ControlloTiri, TellsAPropThatPulls) {
     EXPECT_EQ(conForze(conTirante(500, 0, inDueSensi), 12.5, -1.5, 12.5),
-              Righe{"[da vedere] tiro-di-segno-opposto: tirante 1: nella fase 2 il tiro cambia "
+              Righe{"[da vedere] tiro-di-segno-opposto: puntone 1: nella fase 2 il tiro cambia "
                     "segno, -15.00 kN/m, e la relazione non lo dice, dà 125.00 kN/m: verificare "
                     "l'elemento nei due sensi o indicarlo solo a trazione"});
     EXPECT_EQ(conForze(conTirante(500, 0, inDueSensi), 12.5, -0.12, 12.5), Righe{});  // 1 %
@@ -93,7 +93,7 @@ TEST(ControlloTiri, TellsAPropThatPulls) {
 // is the force at which it was stressed.
 TEST(ControlloTiri, TellsAPropOfWhichThePrestressIsGone) {
     EXPECT_EQ(conForze(conTirante(500, 10, inDueSensi), 6, 4, 10),
-              Righe{"[da vedere] puntone-scaricato: tirante 1: Pretens. [kN] = 100: la relazione "
+              Righe{"[da vedere] puntone-scaricato: puntone 1: Pretens. [kN] = 100: la relazione "
                     "dà la pretensione, 100.00 kN/m, ma in nessuna fase il tiro supera 60.00 kN/m "
                     "(fase 1): la paratia torna verso monte e lo scarica"});
     EXPECT_EQ(conForze(conTirante(500, 10, soloTrazione), 6, 4, 10), Righe{});

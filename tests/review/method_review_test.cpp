@@ -21,8 +21,8 @@ TEST(ControlloMetodi, TellsThatReportAndFileForgetRankineAndBell) {
     const std::string detto =
         ": la relazione dirà Coulomb, il comando seguente ricalcola con Coulomb e il file si "
         "riapre con Coulomb: scegliere di nuovo il metodo prima di ogni comando";
-    EXPECT_EQ(con(valore(MetodoSpinte::rankine)), Righe{"metodo delle spinte = 2" + detto});
-    EXPECT_EQ(con(valore(MetodoSpinte::bell)), Righe{"metodo delle spinte = 3" + detto});
+    EXPECT_EQ(con(valore(MetodoSpinte::rankine)), Righe{"metodo delle spinte = Rankine" + detto});
+    EXPECT_EQ(con(valore(MetodoSpinte::bell)), Righe{"metodo delle spinte = Bell" + detto});
     EXPECT_EQ(con(valore(MetodoSpinte::coulomb)), Righe{});
 }
 

@@ -26,9 +26,9 @@ Righe inTotali(const Modifica& modifica) {
 
 TEST(ControlloTensioni, TellsTotalStressesWithFrictionUnderWater) {
     EXPECT_EQ(inTotali([](auto&) {}),
-              Righe{"opzione delle tensioni = 2, strati 1, 2: Phi [°] = 30, 34" + dueVolte});
+              Righe{"opzione delle tensioni = totali, strati 1, 2: Phi [°] = 30, 34" + dueVolte});
     EXPECT_EQ(inTotali([](auto& d) { d.phiStrato[1] = 0; }),
-              Righe{"opzione delle tensioni = 2, strato 2: Phi [°] = 34" + dueVolte});
+              Righe{"opzione delle tensioni = totali, strato 2: Phi [°] = 34" + dueVolte});
     EXPECT_EQ(inTotali([](auto& d) { d.phiStrato[1] = d.phiStrato[2] = 0; }), Righe{});
     EXPECT_EQ(righe(test::progettoSemplice()), Righe{});
 }
@@ -41,7 +41,7 @@ TEST(ControlloTensioni, LooksAtTheLayersThatTheWaterReaches) {
             d.faldaFase[1] = d.faldaFase[2] = valle;
         });
     };
-    const Righe prima = {"opzione delle tensioni = 2, strato 1: Phi [°] = 30" + dueVolte};
+    const Righe prima = {"opzione delle tensioni = totali, strato 1: Phi [°] = 30" + dueVolte};
     EXPECT_EQ(acqua(3.9, 50), prima);
     EXPECT_EQ(acqua(4, 50), Righe{});  // sand above the water, clay below
     const auto asciutto = [](double falda) {
@@ -49,7 +49,7 @@ TEST(ControlloTensioni, LooksAtTheLayersThatTheWaterReaches) {
     };
     EXPECT_EQ(asciutto(12), Righe{});
     EXPECT_EQ(asciutto(11.9),
-              Righe{"opzione delle tensioni = 2, strato 2: Phi [°] = 34" + dueVolte});
+              Righe{"opzione delle tensioni = totali, strato 2: Phi [°] = 34" + dueVolte});
 }
 
 TEST(ControlloTensioni, CountsWaterInFrontFromTheExcavationOn) {
@@ -63,7 +63,8 @@ TEST(ControlloTensioni, CountsWaterInFrontFromTheExcavationOn) {
                        }),
                        {"tensioni-totali-con-attrito"});
     };
-    EXPECT_EQ(davanti(3.5), Righe{"opzione delle tensioni = 2, strato 1: Phi [°] = 30" + dueVolte});
+    EXPECT_EQ(davanti(3.5),
+              Righe{"opzione delle tensioni = totali, strato 1: Phi [°] = 30" + dueVolte});
     EXPECT_EQ(davanti(4), Righe{});  // the first layer is dug away where the water stands
 }
 
@@ -88,12 +89,13 @@ TEST(ControlloTensioni, TellsCohesionAndSlopeThatBellLeavesOut) {
     };
     EXPECT_EQ(con(MetodoSpinte::bell, 0, 0), Righe{});
     EXPECT_EQ(con(MetodoSpinte::bell, 0.5, 0),
-              Righe{"metodo delle spinte = 3, strato 2: Coes. [kN/m²] = 5: con Bell la coesione "
+              Righe{"metodo delle spinte = Bell, strato 2: Coes. [kN/m²] = 5: con Bell la coesione "
                     "non entra nelle spinte: usare Coulomb o Rankine"});
-    EXPECT_EQ(con(MetodoSpinte::bell, 0, 5),
-              Righe{"metodo delle spinte = 3, Inclinazione del terreno a monte del diaframma [°] = "
-                    "5: con Bell la pendenza non entra nelle spinte attiva e passiva: usare "
-                    "Coulomb o Rankine"});
+    EXPECT_EQ(
+        con(MetodoSpinte::bell, 0, 5),
+        Righe{"metodo delle spinte = Bell, Inclinazione del terreno a monte del diaframma [°] = "
+              "5: con Bell la pendenza non entra nelle spinte attiva e passiva: usare "
+              "Coulomb o Rankine"});
     for (const auto altro : {MetodoSpinte::coulomb, MetodoSpinte::rankine})
         EXPECT_EQ(con(altro, 0.5, 5), Righe{});
 }

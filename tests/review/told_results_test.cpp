@@ -120,10 +120,10 @@ TEST(MuriRaccontati, AreToldByHowMuch) {
             "monte attivo 0.19-8.74 m, monte passivo 9.11-9.30 m, valle attivo 9.11-9.30 m, valle "
             "passivo 5.02-8.74 m; di solito aiuta una paratia più lunga: circa 9.42 m"});
     EXPECT_EQ(righe(risultati(muro("puntone_rigidissimo"))),
-              Righe{"[pericolo] tiro-sbagliato: tirante 1: Rigidezza [kN/m] = 1000000000: la "
+              Righe{"[pericolo] tiro-sbagliato: puntone 1: Rigidezza [kN/m] = 1000000000: la "
                     "relazione dà il tiro 0.00 kN/m, quello vero è 42.20 kN/m (fase 2): lo calcola "
                     "da spostamenti con sette decimali, che bastano fino a una rigidezza di circa "
-                    "4200000 kN/m/m; usare il tiro vero o una rigidezza minore"});
+                    "4200000 kN/m; usare il tiro vero o una rigidezza minore"});
     EXPECT_EQ(righe(risultati(muro("oscilla_3")))[0],
               "[impedisce] iterazione-che-oscilla: la paratia è in equilibrio nella fase 2, con "
               "uno spostamento massimo di 3.1 mm: oscilla soltanto l'iterazione; il suo equilibrio "

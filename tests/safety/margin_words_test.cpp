@@ -67,7 +67,8 @@ TEST(ParoleRiduzione, TellTheMovementOrWhyThereIsNone) {
     EXPECT_EQ(parole(Riduzione{.F = {}, .oltre = true}, 12),
               "nessun meccanismo fino a F = 10: basta un decimo della resistenza del terreno");
     EXPECT_EQ(parole(Riduzione{.F = {}, .oltre = true, .senzaTerreno = true}, 12),
-              "nessun meccanismo fino a F = 10: vincoli o tiranti tengono la paratia qualunque sia "
+              "nessun meccanismo fino a F = 10: vincoli, tiranti o puntoni tengono la paratia "
+              "qualunque sia "
               "il terreno");
     EXPECT_EQ(parole(Riduzione{.F = 2.7, .limitePendio = true}, 12),
               "oltre F l'angolo di attrito ridotto è minore della pendenza del terreno");
@@ -83,11 +84,12 @@ TEST(ParoleLunghezza, SayHowShortTheWallMayBeAndThatThisIsNoLengthToBuild) {
     m.sostegni = true;
     EXPECT_EQ(paroleLunghezza(m),
               "Lunghezza minima: 9.37 m; la paratia è lunga 12.00 m; non è una lunghezza da "
-              "costruire: F = 1, tiranti e vincoli tengono senza limite");
+              "costruire: F = 1, tiranti, puntoni e vincoli tengono senza limite");
     m.lunghezza = {EsitoLunghezza::sempre, 6.5};
     EXPECT_EQ(paroleLunghezza(m),
               "Lunghezza minima: 6.50 m; la paratia è in equilibrio anche senza infissione sotto "
-              "lo scavo più profondo; non è una lunghezza da costruire: tiranti e vincoli tengono "
+              "lo scavo più profondo; non è una lunghezza da costruire: tiranti, puntoni e vincoli "
+              "tengono "
               "senza limite");
     m.sostegni = false;
     EXPECT_TRUE(paroleLunghezza(m).ends_with("; non è una lunghezza da costruire"));
@@ -149,11 +151,13 @@ TEST(NotaOltre, NamesTheStagesThatAreHeldWhateverTheGround) {
     m.fasi[0].riduzione = {.F = {}, .oltre = true};
     EXPECT_EQ(notaOltre(m), "");
     m.fasi[1].riduzione = {.F = {}, .oltre = true, .senzaTerreno = true};
-    EXPECT_EQ(notaOltre(m),
-              "> 10, fase 2: vincoli o tiranti tengono la paratia qualunque sia il terreno");
+    EXPECT_EQ(
+        notaOltre(m),
+        "> 10, fase 2: vincoli, tiranti o puntoni tengono la paratia qualunque sia il terreno");
     m.fasi[0].riduzione = m.fasi[1].riduzione;
-    EXPECT_EQ(notaOltre(m),
-              "> 10, fasi 1, 2: vincoli o tiranti tengono la paratia qualunque sia il terreno");
+    EXPECT_EQ(
+        notaOltre(m),
+        "> 10, fasi 1, 2: vincoli, tiranti o puntoni tengono la paratia qualunque sia il terreno");
 }
 
 TEST(ParoleRelazione, SayWhatKeepsItFromItsNumbers) {

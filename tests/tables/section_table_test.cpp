@@ -90,7 +90,7 @@ TEST(QuadroSezioneTest, ShowsResistancesWithoutActionsWhereNothingStands) {
         for (const std::size_t colonna : {1U, 2U, 3U}) EXPECT_EQ(riga[colonna].testo, nessuno);
         EXPECT_NE(riga[4].testo, nessuno);
     }
-    EXPECT_EQ(p.note.front(), "Azioni non note: la paratia non è calcolata o non è in equilibrio.");
+    EXPECT_EQ(p.note.front(), "Azioni non note: la paratia non è calcolata.");
 }
 
 TEST(ProspettoDominioTest, HasARowForEachStage) {

@@ -181,6 +181,20 @@ TEST(Fogli, HaveTheReportsNumbersBesideAndTheDepthApartFromItsSide) {
     EXPECT_EQ(p.colonne[posto(p, "z") + 1].titolo, "Lato");
 }
 
+// Programs read a CSV by position: no column comes and goes with the project.
+TEST(Fogli, HaveTheSameColumnsWhetherOrNotADepthHasASide) {
+    const Fascicolo conTiranti = esempio("pali_armati_staffe"),
+                    senza = esempio("palancola_mensola");
+    for (const char* nome : {"fasi", "verifiche"}) {
+        const CartellaFogli una = fogli(conTiranti), altra = fogli(senza);
+        EXPECT_EQ(foglio(una, nome).prospetto.colonne, foglio(altra, nome).prospetto.colonne)
+            << nome;
+    }
+    const CartellaFogli cartella = fogli(senza);
+    const Prospetto& p = foglio(cartella, "verifiche").prospetto;
+    EXPECT_EQ(p.righe.at(0)[posto(p, "Lato")], tables::Cella{});
+}
+
 // The report says that it holds, and all three meshes too.
 TEST(Fogli, GiveACheckTheOutcomeThatFinerMeshesLeaveIt) {
     const Fascicolo f = esempio("paratia_lunga_incastro");

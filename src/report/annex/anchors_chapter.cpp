@@ -148,8 +148,7 @@ Prospetto perFase(const Fascicolo& f) {
                                 : tables::senza(traduttore("Non è in opera in questa fase.")));
         }
     }
-    if (!f.parete.sta())
-        p.note.push_back(tables::perche(f.parete, f.parete.fasiInEquilibrio() + 1));
+    if (!f.parete.sta()) p.note.push_back(percheInBreve(f.parete, f.parete.fasiInEquilibrio() + 1));
     return p;
 }
 

@@ -39,12 +39,11 @@ Cella esito(const dossier::Fascicolo& f, Verifica cosa) {
     return tables::esito(giudizio(*f.margine, cosa));
 }
 
-std::vector<Cella> riga(const Controllo& c, bool conAzioni) {
+std::vector<Cella> riga(const dossier::Fascicolo& f, const Controllo& c, bool conAzioni) {
     const auto numero = [](double v) { return tables::cella(v, 2, unita::nessuna); };
     std::vector<Cella> riga{conUnita(tables::unitaDi(c.cosa), tables::nome(c.cosa))};
     if (!conAzioni) {
-        const Cella manca = tables::senza(
-            traduttore("Azioni non note: la paratia non è calcolata o non è in equilibrio."));
+        const Cella manca = tables::senza(traduttore(tables::azioniNonNote(f.parete)));
         riga.insert(riga.end(), {manca, numero(c.resistenza), manca, manca, manca, manca});
         return riga;
     }
@@ -79,7 +78,7 @@ Prospetto prospettoControlli(const dossier::Fascicolo& f) {
     const auto aggiungi = [&](Verifica cosa, double progetto, double resistenza,
                               const DoveVerifica& dove) {
         p.righe.push_back(
-            riga({cosa, progetto, resistenza, dove, esito(f, cosa)}, tutti.conAzioni));
+            riga(f, {cosa, progetto, resistenza, dove, esito(f, cosa)}, tutti.conAzioni));
     };
     if (tutti.flessione) {
         const results::ConfrontoMomenti& c = *tutti.flessione;

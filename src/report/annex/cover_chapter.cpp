@@ -39,7 +39,7 @@ std::string voce(const Fascicolo& f, const project::Membro& membro) {
 std::string segmenti(const Fascicolo& f) {
     if (f.parete.nSeg == 0) return tables::nessuno;
     return riempito(traduttore("%1, distanza dei nodi %2 m"),
-                    {std::to_string(f.parete.nSeg), tables::profondita(f.parete.h).testo});
+                    {std::to_string(f.parete.nSeg), project::numeroMostrato(f.parete.h, 4)});
 }
 
 std::string opzioni(const Fascicolo& f) {
@@ -92,16 +92,18 @@ void capitoloCopertina(const Contesto& contesto, Blocchi& blocchi) {
     blocchi.emplace_back(document::Tavola{prospettoVerdetti(f)});
     if (f.margine) avvisaMaglia(*f.margine, blocchi);
     if (f.parete.fasiInEquilibrio() > 0)
-        blocchi.emplace_back(Paragrafo{traduttore("I numeri delle fasi sono quelli della soluzione "
-                                                  "di equilibrio: in ogni nodo le forze "
-                                                  "si bilanciano, a meno dell'arrotondamento. La "
-                                                  "relazione di calcolo viene dal calcolo "
-                                                  "per fasi, che cerca lo stesso equilibrio "
-                                                  "provando gli stati del terreno e dei tiranti "
-                                                  "finché nessuno cambia più. I suoi numeri stanno "
-                                                  "accanto e sono detti della relazione; "
-                                                  "dove i due differiscono, il documento lo dice."),
-                                       Stile::nota});
+        blocchi.emplace_back(Paragrafo{
+            traduttore(
+                "I numeri delle fasi sono quelli della soluzione "
+                "di equilibrio: in ogni nodo le forze "
+                "si bilanciano, a meno dell'arrotondamento. La "
+                "relazione di calcolo viene dal calcolo "
+                "per fasi, che cerca lo stesso equilibrio "
+                "per tentativi sullo stato di terreno, tiranti e puntoni, "
+                "elastico, al limite o inattivo, finché nessuno cambia più. I suoi numeri stanno "
+                "accanto e sono detti della relazione; "
+                "dove i due differiscono, il documento lo dice."),
+            Stile::nota});
     // One below the other, with room to write above each.
     blocchi.emplace_back(
         Paragrafo{"\n" + firma("Progettista") + "\n\n" + firma("Verificatore"), {}});

@@ -1,7 +1,6 @@
 #include "report/annex/field_cells.hpp"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 #include <iterator>
 #include <type_traits>
@@ -16,6 +15,7 @@
 #include "project/anchor_names.hpp"
 #include "project/code_words.hpp"
 #include "project/codes.hpp"
+#include "project/seven_digits.hpp"
 #include "project/units_per_metre.hpp"
 #include "report/annex/greek_letters.hpp"
 
@@ -32,21 +32,9 @@ namespace unita = project::unita;
 
 namespace {
 
-// All digits of a number that a program wrote are of use in the file alone, which stands whole at
-// the end of the document.
-double inBreve(double valore) {
-    constexpr int dopoLaPrima = 6;
-    char testo[32];
-    const char* fine = std::to_chars(testo, testo + sizeof testo, valore,
-                                     std::chars_format::scientific, dopoLaPrima)
-                           .ptr;
-    std::from_chars(testo, fine, valore);
-    return valore;
-}
-
 Cella numero(double mostrato) {
     if (!std::isfinite(mostrato)) return {};
-    return {.testo = base::testoNumero(inBreve(mostrato)), .numero = mostrato};
+    return {.testo = base::testoNumero(project::conSetteCifre(mostrato)), .numero = mostrato};
 }
 
 struct Regola {
@@ -151,6 +139,8 @@ struct NomeProprio {
 constexpr NomeProprio nomiPropri[] = {
     {&DatiProgetto::nTiranti, "Numero di tiranti e puntoni"},
     {&DatiProgetto::tirantiFase, "Tiranti e puntoni in opera"},
+    {&DatiProgetto::profTirante, "profondità"},
+    {&DatiProgetto::tipoTirante, "Tipo"},
     {&DatiProgetto::rigTirante, "Rigidezza"},
     {&DatiProgetto::pretTirante, "Pretensione"},
 };
@@ -159,7 +149,7 @@ constexpr NomeProprio nomiPropri[] = {
 
 std::string nomeDetto(const Campo& campo) {
     for (const auto& [membro, nome] : nomiPropri)
-        if (campo.membro == membro) return traduttore(nome);
+        if (campo.membro == membro) return base::conMaiuscola(traduttore(nome));
     return base::conMaiuscola(traduttore(flag(campo) ? campo.didascalia : campo.cosa));
 }
 
@@ -208,9 +198,9 @@ Cella usato(const Fascicolo& f, const Campo& campo, int riga) {
     if (campo.membro == project::Membro(&project::Sezione::armNumLong))
         return numero(f.parete.dati.sezione.armNumLong);
     if (campo.membro == project::Membro(&DatiProgetto::gammaAcqua))
-        return tables::parola(
-            base::testoNumero(inBreve(mostrato(unita::peso, f.parete.dati.gammaAcqua))) + " " +
-            std::string(unita::peso.mostrata));
+        return tables::parola(base::testoNumero(project::conSetteCifre(
+                                  mostrato(unita::peso, f.parete.dati.gammaAcqua))) +
+                              " " + std::string(unita::peso.mostrata));
     return scritto(f.parete.dati, campo, riga);
 }
 

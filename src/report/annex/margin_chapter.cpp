@@ -6,6 +6,7 @@
 #include "base/translated_texts.hpp"
 #include "report/annex/chapters.hpp"
 #include "report/annex/mesh_tables.hpp"
+#include "report/annex/short_reasons.hpp"
 #include "report/annex/table_pieces.hpp"
 #include "report/annex/twin_words.hpp"
 #include "tables/margin_table.hpp"
@@ -39,23 +40,31 @@ tables::Prospetto statica(const dossier::Fascicolo& f) {
     return p;
 }
 
-void verdetto(const Margine& margine, Blocchi& blocchi) {
+// Of a wall that falls cover and stage have told how.
+void verdetto(const dossier::Fascicolo& f, Blocchi& blocchi) {
+    const Margine& margine = *f.margine;
     const bool grave = !margine.sta() || margine.pericolosa();
-    paragrafo(tables::verdetto(margine), blocchi, grave ? Stile::pericolo : Stile::rilievo);
+    paragrafo(margine.sta() ? tables::verdetto(margine)
+                            : percheInBreve(f.parete, f.parete.fasiInEquilibrio() + 1),
+              blocchi, grave ? Stile::pericolo : Stile::rilievo);
     for (const std::string& frase : tables::frasi(margine)) paragrafo(frase, blocchi);
 }
 
-void margineDiFase(const Margine& margine, Blocchi& blocchi) {
+void margineDiFase(const dossier::Fascicolo& f, Blocchi& blocchi) {
+    const Margine& margine = *f.margine;
+    tables::Prospetto fasi = tables::prospettoMargine(margine);
+    conMotiviBrevi(f.parete, fasi);
     parte(
-        traduttore("F divide la tangente dell'angolo di attrito e la coesione di tutti gli strati, "
-                   "dai due lati: è il divisore più grande con cui la fase ha ancora un equilibrio "
-                   "(Griffiths, Lane, Slope stability analysis by finite elements, 1999). Nei "
-                   "calcoli del resto del documento il terreno ha tutta la sua resistenza. F non "
-                   "riduce tiranti e vincoli: il calcolo li prende con resistenza senza limite. "
-                   "Passiva: la pressione del terreno davanti alla paratia sotto lo scavo, in "
-                   "percentuale della sua resistenza passiva. Al limite: le profondità in cui la "
-                   "usa tutta. Piede: il suo spostamento, positivo verso lo scavo."),
-        tables::prospettoMargine(margine), blocchi);
+        traduttore(
+            "F divide la tangente dell'angolo di attrito e la coesione di tutti gli strati, "
+            "dai due lati: è il divisore più grande con cui la fase ha ancora un equilibrio "
+            "(Griffiths, Lane, Slope stability analysis by finite elements, 1999). Nei "
+            "calcoli del resto del documento il terreno ha tutta la sua resistenza. F non "
+            "riduce tiranti, puntoni e vincoli: il calcolo li prende con resistenza senza limite. "
+            "Passiva: la pressione del terreno davanti alla paratia sotto lo scavo, in "
+            "percentuale della sua resistenza passiva. Al limite: le profondità in cui la "
+            "usa tutta. Piede: il suo spostamento, positivo verso lo scavo."),
+        std::move(fasi), blocchi);
     paragrafo(riempito(traduttore(
                            "Sotto %1 il programma classifica F «pericolo»: è %3 dell'insieme M2 "
                            "(EN 1997-1:2004, tabella A.4; NTC 2018, tabella 6.2.II). Sotto %2 lo "
@@ -77,8 +86,8 @@ void capitoloMargine(const Contesto& contesto, Blocchi& blocchi) {
         return;
     }
     const Margine& margine = *f.margine;
-    verdetto(margine, blocchi);
-    margineDiFase(margine, blocchi);
+    verdetto(f, blocchi);
+    margineDiFase(f, blocchi);
     // The verdict has said all that could be said of other meshes and of the report.
     if (!margine.sta() && f.doppi.empty()) return;
     // Formulas stay on a line.

@@ -20,6 +20,7 @@
 #include "structure/section_type.hpp"
 #include "structure/strip_model.hpp"
 #include "tables/check_table.hpp"
+#include "tables/check_words.hpp"
 #include "tables/section_table.hpp"
 
 namespace korven::report {
@@ -45,8 +46,7 @@ void titolo(int livello, const char* testo, Blocchi& blocchi) {
 // Of which actions the checks are.
 void azioni(const Fascicolo& f, Blocchi& blocchi) {
     if (!f.controlli.conAzioni) {
-        paragrafo(traduttore("Azioni non note: la paratia non è calcolata o non è in equilibrio."),
-                  blocchi, Stile::pericolo);
+        paragrafo(traduttore(tables::azioniNonNote(f.parete)), blocchi, Stile::pericolo);
         return;
     }
     if (!f.parete.sta())

@@ -11,6 +11,7 @@
 #include "report/annex/mechanism_tables.hpp"
 #include "report/annex/peaks.hpp"
 #include "report/annex/run_tables.hpp"
+#include "report/annex/short_reasons.hpp"
 #include "report/annex/stage_tables.hpp"
 #include "report/annex/table_pieces.hpp"
 #include "report/annex/twin_words.hpp"
@@ -177,7 +178,9 @@ void capitoloFasi(const Contesto& contesto, Blocchi& blocchi) {
                              "Valori per metro di paratia, profondità dalla testa; pressioni e "
                              "forze sono positive verso lo scavo."),
                   blocchi);
-    tavola(tables::prospettoFasi(f.parete), blocchi);
+    tables::Prospetto fasi = tables::prospettoFasi(f.parete);
+    conMotiviBrevi(f.parete, fasi);
+    tavola(std::move(fasi), blocchi);
     if (qualcunaSta) tavola(prospettoCorse(f), blocchi);
     for (int k = 1; k <= calcolate; ++k) unaFase(contesto, k, blocchi);
     const int tutte = std::clamp(f.parete.dati.nFasi, 0, project::massimoFasi);

@@ -82,6 +82,15 @@ std::string parole(const project::DatiProgetto& dati, const NumeroDoppio& d) {
          tables::profondita(d.zEquilibrio).testo, d.perche});
 }
 
+// Of two values at one place and of one sign: else it would be of no curve.
+Cella differenza(const NumeroDoppio& d, const project::Unita& u) {
+    if (!d.diverso()) return {.testo = ""};
+    const bool stessoPosto =
+        profondita(d, d.zEquilibrio).testo == profondita(d, d.zRelazione).testo;
+    if (!stessoPosto || d.relazione * d.equilibrio < 0) return {};
+    return tables::cella(d.relazione - d.equilibrio, 2, u);
+}
+
 // The largest of all stages, each way by itself.
 std::vector<NumeroDoppio> massimi(const Fascicolo& f) {
     std::vector<NumeroDoppio> tutti;
@@ -130,13 +139,16 @@ Prospetto prospettoDoppi(const Fascicolo& f) {
         const Cella equilibrio = tables::cella(d.equilibrio, 2, u);
         const Cella relazione = tables::cifre(mostrato(u, d.relazione));
         if (stampataNulla(equilibrio) && stampataNulla(relazione)) continue;
-        p.righe.push_back(
-            {tables::cella(d.fase), tables::parola(nome(f.parete.dati, d) + " " + traParentesi(u)),
-             equilibrio, profondita(d, d.zEquilibrio), relazione, profondita(d, d.zRelazione),
-             d.diverso() ? tables::cella(d.relazione - d.equilibrio, 2, u) : Cella{.testo = ""},
-             motivi.numero(d.perche)});
+        p.righe.push_back({tables::cella(d.fase),
+                           tables::parola(nome(f.parete.dati, d) + " " + traParentesi(u)),
+                           equilibrio, profondita(d, d.zEquilibrio), relazione,
+                           profondita(d, d.zRelazione), differenza(d, u), motivi.numero(d.perche)});
     }
     motivi.note(p);
+    if (!p.righe.empty())
+        p.note.push_back(
+            traduttore("Differenza: relazione meno equilibrio; un trattino dove i due valori hanno "
+                       "segno opposto o stanno a profondità diverse."));
     return p;
 }
 

@@ -88,14 +88,15 @@ std::string percheOltre(const Fascicolo& f) {
                      [](const auto& fase) { return fase.riduzione.senzaTerreno; }))
         return traduttore("basta un decimo della resistenza del terreno");
     const double piede = f.parete.dati.vincoloPiede;
-    const char* chi = "tiranti e vincoli tengono la paratia qualunque sia il terreno";
+    const char* chi = "tiranti, puntoni e vincoli tengono la paratia qualunque sia il terreno";
     if (piede == project::VincoloPiede::incastro)
         chi = "il piede incastrato tiene la paratia qualunque sia il terreno";
     else if (piede == project::VincoloPiede::cerniera)
         chi = "il piede fermo e i sostegni sopra tengono la paratia qualunque sia il terreno";
     return traduttore(chi) + base::puntoEVirgola() +
            traduttore(
-               "il calcolo prende tiranti e vincoli con resistenza senza limite, da verificare a "
+               "il calcolo prende tiranti, puntoni e vincoli con resistenza senza limite, da "
+               "verificare a "
                "parte");
 }
 
@@ -234,12 +235,12 @@ std::vector<Cella> osservazioni(const Fascicolo& f, const char* cosa, review::Pe
 tables::Prospetto prospettoVerdetti(const Fascicolo& f) {
     tables::Prospetto p{.titolo = traduttore("Verdetti"),
                         .colonne = {colonna("Verifica"), colonna("Esito"), colonna("Dettaglio")}};
-    p.righe = {equilibrio(f), flessione(f), taglio(f),
-               osservazioni(f, "Osservazioni di peso pericolo", review::Peso::pericolo)};
-    if (f.norma) p.righe.insert(p.righe.begin() + 3, norma(*f.norma));
+    p.righe = {equilibrio(f), flessione(f), taglio(f)};
+    if (f.norma) p.righe.push_back(norma(*f.norma));
     if (!review::calcolabile(f.osservazioni))
         p.righe.push_back(osservazioni(f, "Osservazioni che impediscono il calcolo per fasi",
                                        review::Peso::impedisce));
+    p.righe.push_back(osservazioni(f, "Osservazioni di peso pericolo", review::Peso::pericolo));
     if (f.margine && !safety::paroleRelazione(*f.margine).empty())
         p.note.push_back(safety::paroleRelazione(*f.margine));
     return p;

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/code_page.hpp"
+#include "report/annex/twin_words.hpp"
 #include "safety/mesh_words.hpp"
 #include "support/chapter_bench.hpp"
 #include "support/sample_projects.hpp"
@@ -42,6 +43,26 @@ TEST(CapitoloMargine, HoldsTheMarginOfTheDossier) {
     EXPECT_EQ(doppi.righe.size(), riga);
     EXPECT_NE(testo(b).find(tables::verdetto(m)), std::string::npos);
     for (const auto& frase : tables::frasi(m)) EXPECT_NE(testo(b).find(frase), std::string::npos);
+}
+
+TEST(ProspettoDoppi, HasADifferenceOnlyOfValuesOfOnePlaceAndOneSign) {
+    dossier::Fascicolo f = *contesto(test::progettoSemplice()).fascicolo;
+    const dossier::NumeroDoppio d{.cosa = dossier::Doppio::taglio,
+                                  .fase = 1,
+                                  .equilibrio = 10,
+                                  .zEquilibrio = 2,
+                                  .relazione = 11.2,
+                                  .zRelazione = 2,
+                                  .perche = "molle"};
+    f.doppi = {d, d, d};
+    f.doppi[1].relazione = -11.2;
+    f.doppi[2].zRelazione = 2.5;
+    const tables::Prospetto p = prospettoDoppi(f);
+    ASSERT_EQ(p.righe.size(), 3U);
+    EXPECT_EQ(p.righe[0][6].testo, "12.00");
+    EXPECT_EQ(p.righe[1][6].testo, tables::nessuno);
+    EXPECT_EQ(p.righe[2][6].testo, tables::nessuno);
+    EXPECT_EQ(p.note.back().find("Differenza: relazione meno equilibrio"), 0U);
 }
 
 // Whose the limits are: the smaller one a code's, the other this program's own.

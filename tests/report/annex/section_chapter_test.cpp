@@ -338,7 +338,7 @@ TEST(CapitoloSezione, OfAWallThatDoesNotStandHasTheResistancesAlone) {
     const Contesto c = contesto(dati);
     ASSERT_EQ(c.fascicolo->parete.fasiInEquilibrio(), 0);
     const auto b = sezione(c);
-    EXPECT_NE(testo(b).find("Azioni non note"), std::string::npos);
+    EXPECT_NE(testo(b).find("Azioni non note: la paratia non è in equilibrio."), std::string::npos);
     const auto p = tavola(b, "Verifiche");
     ASSERT_EQ(p.righe.size(), 4U);
     EXPECT_EQ(p.righe[0][1].testo, "-");
