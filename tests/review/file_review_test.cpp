@@ -59,10 +59,9 @@ TEST(EsaminaFile, PutsTheLinesAfterWhatTheProjectItselfShows) {
 TEST(EsaminaFile, TellsThatRankineAndBellDoNotSurviveTheReading) {
     DatiProgetto d = test::progettoSemplice();
     d.metodoSpinte = valore(project::MetodoSpinte::rankine);
-    EXPECT_EQ(
-        righeFile(project::testoProgetto(d)),
-        std::vector<std::string>{"riga 24: metodo delle spinte = Rankine: un progetto si riapre "
-                                 "sempre con il metodo di Coulomb (1)"});
+    EXPECT_EQ(righeFile(project::testoProgetto(d)),
+              std::vector<std::string>{"riga 24: metodo delle spinte = 2: un progetto si riapre "
+                                       "sempre con il metodo di Coulomb (1)"});
 }
 
 TEST(EsaminaFile, TellsLinesAfterTheLastValueAsAMiscount) {

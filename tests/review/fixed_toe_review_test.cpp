@@ -36,10 +36,12 @@ Margine conValori(double momento, double taglio) {
 // Five percent of the largest are 1 t m and 0.5 t.
 TEST(ControlloIncastro, TellsWhatTheReportShowsAtAFixedToe) {
     EXPECT_TRUE(osservate(incastrata, conValori(-11.1, -3.6)).empty());
-    EXPECT_EQ(righe(osservate(incastrata, conValori(-11.1, 30))),
-              Righe{"[da vedere] valori-al-piede-incastrato: vincolo al piede = 3: nella fase 2 la "
-                    "relazione dà al piede momento -111.0 kN m/m e taglio 300.0 kN/m, l'equilibrio "
-                    "-120.0 kN m/m e -40.0 kN/m: usare questi"});
+    EXPECT_EQ(
+        righe(osservate(incastrata, conValori(-11.1, 30))),
+        Righe{
+            "[da vedere] valori-al-piede-incastrato: vincolo al piede = incastro: nella fase 2 la "
+            "relazione dà al piede momento -111.0 kN m/m e taglio 300.0 kN/m, l'equilibrio "
+            "-120.0 kN m/m e -40.0 kN/m: usare questi"});
     EXPECT_EQ(osservate(incastrata, conValori(-10.9, -3.6)).size(), 1u);
     EXPECT_EQ(osservate(incastrata, conValori(-10.9, -3.6))[0].campi,
               std::vector<std::string>{"vincoloPiede"});
@@ -70,10 +72,12 @@ TEST(ControlloIncastro, TellsAClampThatGives) {
     m.fasi[1].piede.cedimento = 0.01;
     EXPECT_TRUE(osservate(incastrata, m).empty());
     m.fasi[1].piede.cedimento = 0.0125;
-    EXPECT_EQ(righe(osservate(incastrata, m)),
-              Righe{"[da vedere] incastro-cedevole: vincolo al piede = 3: l'incastro ruota del 1.3 "
-                    "% della rotazione massima (fase 2): con nodi così vicini le sue molle cedono, "
-                    "ridurre i segmenti"});
+    EXPECT_EQ(
+        righe(osservate(incastrata, m)),
+        Righe{
+            "[da vedere] incastro-cedevole: vincolo al piede = incastro: l'incastro ruota del 1.3 "
+            "% della rotazione massima (fase 2): con nodi così vicini le sue molle cedono, "
+            "ridurre i segmenti"});
 }
 
 }  // namespace

@@ -36,7 +36,8 @@ TEST(ControlloMetodi, TellsThatBowlesLosesTheVerticalStressOfTheOtherSide) {
                        {"bowles-senza-tensione"});
     };
     EXPECT_EQ(con(ModoSpinte::comeMonte, ModoKs::ricalcolato, MetodoKs::bowles),
-              Righe{"opzione delle spinte = 2, opzione di ks = 1: ks secondo Bowles perde a valle "
+              Righe{"opzione delle spinte = costantemente uguali al lato monte, opzione di ks = "
+                    "ricalcolato ad ogni fase di scavo: ks secondo Bowles perde a valle "
                     "il termine della tensione verticale: scegliere anche ks uguale al lato monte, "
                     "o le spinte ricalcolate"});
     EXPECT_EQ(con(ModoSpinte::comeMonte, ModoKs::comeMonte, MetodoKs::bowles), Righe{});

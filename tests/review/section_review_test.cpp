@@ -229,7 +229,8 @@ TEST(ControlloSezione, TellsShearsAtTheEndsThatTheShearCheckTakesAtTheirFaceValu
     d.sezione.armDiamStaffe = 1;
     d.sezione.armPassoStaffe = 20;
     const std::string piede =
-        "vincolo al piede = 3: la verifica a taglio conta anche il valore al piede incastrato, che "
+        "vincolo al piede = incastro: la verifica a taglio conta anche il valore al piede "
+        "incastrato, che "
         "non è un taglio della paratia e cresce con il numero di segmenti";
     const std::string testa =
         "Forza orizzontale esterna applicata alla sommità del diaframma [kN] = -20: la verifica a "

@@ -36,7 +36,7 @@ TEST(ControlloTiranti, NamesWhatIsOddAboutAnchors) {
              d.pretTirante[1] = -5;
              d.tipoTirante[1] = 1;
          },
-         {"tirante 1: Pretens. [kN] = -50: valore negativo"}},
+         {"puntone 1: Pretens. [kN] = -50: valore negativo"}},
     });
     EXPECT_TRUE(righeDi(conModifica([](DatiProgetto& d) { d.profTirante[1] = 12; }),
                         {"tirante-sotto-il-piede"})
