@@ -83,14 +83,9 @@ void taglio(const ConfrontoTaglio& c, const ControlliSezione& controlli, const E
 
 // @param esito  explanation of its column, an Italian key
 std::vector<Colonna> colonne(const char* esito) {
-    return {colonnaParole("Verifica", "Che cosa si verifica, per metro di paratia"),
-            colonna(unita::nessuna, "Di progetto",
-                    "Valore di progetto: il massimo di calcolo per il coefficiente delle azioni"),
-            colonna(unita::nessuna, "Resistenza", "Resistenza di progetto della sezione"),
-            colonna(unita::percento, "Sfruttamento", "Valore di progetto diviso per la resistenza"),
-            colonna(unita::nessuna, "Fase", "Fase in cui il valore è raggiunto"),
-            colonnaSimbolo(unita::metri, "z", "Profondità a cui il valore è raggiunto"),
-            colonnaParole("Esito", esito)};
+    std::vector<Colonna> tutte = colonneVerifiche();
+    tutte.push_back(colonnaParole("Esito", esito));
+    return tutte;
 }
 
 // @return false where there is nothing to check
@@ -110,12 +105,6 @@ bool noteSezione(const PareteViva& parete, Prospetto& p) {
     return true;
 }
 
-void notaEquilibrio(Prospetto& p) {
-    p.note.push_back(
-        traduttore("Verifiche con i numeri della soluzione di equilibrio: momenti e taglio massimi "
-                   "di tutte le fasi."));
-}
-
 void noteRelazione(const Margine& margine, Prospetto& p) {
     if (margine.relazione) {
         p.note.push_back(traduttore(
@@ -124,7 +113,7 @@ void noteRelazione(const Margine& margine, Prospetto& p) {
         return;
     }
     p.note.push_back(safety::paroleRelazione(margine));
-    notaEquilibrio(p);
+    p.note.push_back(notaVerificheInEquilibrio());
 }
 
 Prospetto senzaNote(const PareteViva& parete, const Margine& margine, const char* colonnaEsito,
@@ -138,6 +127,23 @@ Prospetto senzaNote(const PareteViva& parete, const Margine& margine, const char
 }
 
 }  // namespace
+
+std::vector<Colonna> colonneVerifiche() {
+    return {colonnaParole("Verifica", "Che cosa si verifica, per metro di paratia"),
+            colonna(unita::nessuna, "Di progetto",
+                    "Valore di progetto: il massimo di calcolo per il coefficiente delle azioni"),
+            colonna(unita::nessuna, "Resistenza", "Resistenza di progetto della sezione"),
+            colonna(unita::percento, "Sfruttamento", "Valore di progetto diviso per la resistenza"),
+            colonna(unita::nessuna, "Fase", "Fase in cui il valore è raggiunto"),
+            colonnaSimbolo(unita::metri, "z", "Profondità a cui il valore è raggiunto")};
+}
+
+std::string notaVerificheInEquilibrio() {
+    return traduttore(
+        "Verifiche con i numeri della soluzione di equilibrio: momenti e taglio massimi di tutte "
+        "le "
+        "fasi.");
+}
 
 Cella cifre(double mostrato) {
     if (!std::isfinite(mostrato)) return senza(traduttore("nessun numero"));

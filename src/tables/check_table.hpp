@@ -1,6 +1,8 @@
 #pragma once
 
 #include <optional>
+#include <string>
+#include <vector>
 
 #include "live/section_checks.hpp"
 #include "live/wall.hpp"
@@ -28,6 +30,12 @@ inline constexpr const char* spiegazioneEsito =
 /// @param margine  with a report: asserted
 [[nodiscard]] Prospetto prospettoVerificheRelazione(const live::PareteViva& parete,
                                                     const safety::Margine& margine);
+
+/// The columns of a table of checks up to where the value is reached: check, design value,
+/// resistance, use, stage, depth.
+[[nodiscard]] std::vector<Colonna> colonneVerifiche();
+/// The note that the checks are made with the numbers of the equilibrium solution.
+[[nodiscard]] std::string notaVerificheInEquilibrio();
 
 /// A number with the digits of the report, which cuts where the other tables round.
 [[nodiscard]] Cella cifre(double mostrato);

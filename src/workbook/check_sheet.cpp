@@ -22,24 +22,18 @@ using dossier::Fascicolo;
 using dossier::VerificaDoppia;
 using tables::Cella;
 using tables::colonna;
-using tables::colonnaParole;
 using tables::Prospetto;
 namespace unita = project::unita;
 
 std::vector<tables::Colonna> colonne() {
-    return {colonnaParole("Verifica", "Che cosa si verifica, per metro di paratia"),
-            colonna(unita::nessuna, "Di progetto",
-                    "Valore di progetto: il massimo di calcolo per il coefficiente delle azioni"),
-            colonna(unita::nessuna, "Resistenza", "Resistenza di progetto della sezione"),
-            colonna(unita::percento, "Sfruttamento", "Valore di progetto diviso per la resistenza"),
-            colonna(unita::nessuna, "Fase", "Fase in cui il valore è raggiunto"),
-            tables::colonnaSimbolo(unita::metri, "z", "Profondità a cui il valore è raggiunto"),
-            colonna(unita::nessuna, "Di progetto, relazione",
-                    "Come lo trova il calcolo per fasi e lo usa la relazione"),
-            colonna(unita::percento, "Sfruttamento, relazione",
-                    "Come lo trova il calcolo per fasi e lo usa la relazione"),
-            tables::colonnaTendenza(),
-            colonnaParole("Esito", tables::spiegazioneEsito)};
+    std::vector<tables::Colonna> tutte = tables::colonneVerifiche();
+    tutte.push_back(colonna(unita::nessuna, "Di progetto, relazione",
+                            "Come lo trova il calcolo per fasi e lo usa la relazione"));
+    tutte.push_back(colonna(unita::percento, "Sfruttamento, relazione",
+                            "Come lo trova il calcolo per fasi e lo usa la relazione"));
+    tutte.push_back(tables::colonnaTendenza());
+    tutte.push_back(tables::colonnaParole("Esito", tables::spiegazioneEsito));
+    return tutte;
 }
 
 Cella arrotondata(double mostrato) { return tables::cella(mostrato, 2, unita::nessuna); }
@@ -83,9 +77,7 @@ std::vector<Cella> rigaTaglio(const Fascicolo& f, double Vd) {
 }
 
 void note(const Fascicolo& f, Prospetto& p) {
-    p.note.push_back(
-        traduttore("Verifiche con i numeri della soluzione di equilibrio: momenti e taglio massimi "
-                   "di tutte le fasi."));
+    p.note.push_back(tables::notaVerificheInEquilibrio());
     for (const safety::AvvisoMaglia& avviso : safety::avvisiMaglia(*f.margine))
         if (avviso.verdetto) p.note.push_back(avviso.testo);
 }

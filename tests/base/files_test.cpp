@@ -15,11 +15,7 @@ namespace {
 using test::CartellaProvvisoria;
 using test::contenuto;
 using test::metti;
-
-std::size_t voci(const CartellaProvvisoria& cartella) {
-    return static_cast<std::size_t>(
-        std::distance(std::filesystem::directory_iterator(cartella.percorso()), {}));
-}
+using test::voci;
 
 // What the reason of a refusal is; empty if there was none.
 template <class Chiamata>

@@ -2,6 +2,7 @@
 
 #include <stdlib.h>
 
+#include <cstddef>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -41,6 +42,12 @@ inline std::string contenuto(const std::string& percorso) {
 
 inline void metti(const std::string& percorso, std::string_view testo) {
     std::ofstream(percorso, std::ios::binary) << testo;
+}
+
+/// How many files and folders lie in a folder.
+inline std::size_t voci(const CartellaProvvisoria& cartella) {
+    return static_cast<std::size_t>(
+        std::distance(std::filesystem::directory_iterator(cartella.percorso()), {}));
 }
 
 }  // namespace korven::test
