@@ -3,20 +3,22 @@
 #include <type_traits>
 
 #include "base/code_page.hpp"
+#include "base/filled_text.hpp"
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
 #include "project/code_words.hpp"
 #include "project/field_table.hpp"
 #include "project/units_per_metre.hpp"
+#include "tables/field_use.hpp"
 
 namespace korven::tables {
 
 namespace {
 
 using base::traduttore;
+using live::PareteViva;
 using project::Campo;
 using project::DatiProgetto;
-using project::Parte;
 namespace unita = project::unita;
 
 Cella numero(double mostrato) {
@@ -47,33 +49,28 @@ Cella valore(const DatiProgetto& dati, const Campo& campo, int riga, bool usato)
     return cella;
 }
 
-bool inUso(const DatiProgetto& dati, Parte parte) {
-    switch (parte) {
-        case Parte::diaframma:
-        case Parte::pali:
-        case Parte::palancola:
-        case Parte::paliArmati:
-            return project::parteInVigore(dati.sezione) == parte;
-        default:
-            return true;
-    }
+Cella usato(const DatiProgetto& scritti, const PareteViva& parete, const Campo& campo, int k) {
+    const UsoCampo uso = usoCampo(scritti, parete, campo);
+    if (uso.letto) return valore(parete.dati, campo, k, true);
+    if (uso.diAltroTipo) return senza(traduttore("La sezione in vigore non usa questo dato."));
+    return senza(base::conMaiuscola(
+                     base::riempito(traduttore("fuori dal calcolo (%1)"), {traduttore(uso.nota)})) +
+                 '.');
 }
 
-std::vector<Cella> riga(const DatiProgetto& scritti, const DatiProgetto& usati, const Campo& campo,
+std::vector<Cella> riga(const DatiProgetto& scritti, const PareteViva& parete, const Campo& campo,
                         int k) {
     return {parola(base::conMaiuscola(traduttore(campo.cosa))),
             project::colonna(campo) ? cella(k) : senza(traduttore("Il dato non è di una tabella.")),
             valore(scritti, campo, k, false),
-            inUso(usati, campo.parte)
-                ? valore(usati, campo, k, true)
-                : senza(traduttore("La sezione in vigore non usa questo dato.")),
+            usato(scritti, parete, campo, k),
             parola(std::string(project::unitaScritta(campo))),
             parola(project::nomeStabile(campo, k))};
 }
 
 }  // namespace
 
-Prospetto prospettoDati(const DatiProgetto& scritti, const DatiProgetto& usati) {
+Prospetto prospettoDati(const DatiProgetto& scritti, const PareteViva& parete) {
     Prospetto p{.titolo = traduttore("Dati di ingresso"),
                 .colonne = {colonnaParole("Dato", "Grandezza del progetto"),
                             colonna(unita::nessuna, "Riga", "Riga della sua tabella"),
@@ -85,7 +82,7 @@ Prospetto prospettoDati(const DatiProgetto& scritti, const DatiProgetto& usati) 
     for (const Campo& campo : project::campi())
         for (int k = 1; k <= (project::colonna(campo) ? project::righe(scritti, campo.parte) : 1);
              ++k)
-            p.righe.push_back(riga(scritti, usati, campo, k));
+            p.righe.push_back(riga(scritti, parete, campo, k));
     return p;
 }
 

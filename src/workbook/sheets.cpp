@@ -75,7 +75,7 @@ Prospetto maglia(const Fascicolo& f) {
 
 std::vector<Foglio> tutti(const Fascicolo& f) {
     std::vector<Foglio> fatti = {
-        diParole(conTitolo(tables::prospettoDati(f.scritti, f.parete.dati), "Dati"),
+        diParole(conTitolo(tables::prospettoDati(f.scritti, f.parete), "Dati"),
                  traduttore("Dati come sono scritti e come il calcolo li usa.")),
         diNumeri(tables::prospettoFasi(f.parete), 1, {8}),
         diNumeri(prospettoNodiFasi(f), 3),

@@ -25,9 +25,15 @@ const std::vector<Cella>& riga(const Prospetto& p, const std::string& quale) {
     return *posto;
 }
 
+live::PareteViva parete(const DatiProgetto& dati) {
+    live::PareteViva fatta;
+    fatta.dati = dati;
+    return fatta;
+}
+
 TEST(ProspettoDati, HasEachFieldOnceInTheUnitThatPeopleRead) {
     const DatiProgetto dati = test::progettoSemplice();
-    const Prospetto p = prospettoDati(dati, dati);
+    const Prospetto p = prospettoDati(dati, parete(dati));
     std::set<std::string> nomi;
     for (const auto& r : p.righe) EXPECT_TRUE(nomi.insert(r[nome].testo).second) << r[nome].testo;
     for (const auto& campo : project::campi()) {
@@ -55,7 +61,7 @@ TEST(ProspettoDati, SaysFixedValuesInTheLanguage) {
     DatiProgetto dati = test::progettoSemplice();
     dati.vincoloPiede = valore(project::VincoloPiede::incastro);
     const test::UnTesto tedesco(voci, tedesche);
-    const Prospetto p = prospettoDati(dati, dati);
+    const Prospetto p = prospettoDati(dati, parete(dati));
     EXPECT_EQ(riga(p, "vincoloPiede")[scritto].testo, "so wie incastro");
     EXPECT_EQ(riga(p, "vincoloPiede")[usato].testo, "so wie incastro");
 }
@@ -65,7 +71,7 @@ TEST(ProspettoDati, TellsWhatTheCalculationPutsInThePlaceOfWhatWasTyped) {
     scritti.rigidezzaEJ = 0;
     DatiProgetto usati = scritti;
     usati.rigidezzaEJ = 12000;
-    const Prospetto p = prospettoDati(scritti, usati);
+    const Prospetto p = prospettoDati(scritti, parete(usati));
     EXPECT_EQ(riga(p, "rigidezzaEJ")[scritto].numero, 0);
     EXPECT_EQ(riga(p, "rigidezzaEJ")[usato].numero, 120000);
     EXPECT_EQ(riga(p, "rigidezzaEJ")[unita].testo, "kN m²/m");
@@ -78,7 +84,7 @@ TEST(ProspettoDati, CountsTheBarsOfAPileAsTheCalculationDoes) {
     dati.sezione.tipoPaliArmati = true;
     dati.sezione.armNumLong = 0.8;
     dati.sezione.armDiamPalo = 60;
-    const Prospetto p = prospettoDati(dati, dati);
+    const Prospetto p = prospettoDati(dati, parete(dati));
     EXPECT_EQ(riga(p, "sezione.armNumLong")[scritto].numero, 8);
     EXPECT_EQ(riga(p, "sezione.armNumLong")[usato].numero, 0.8);
     EXPECT_EQ(riga(p, "sezione.armDiamPalo")[usato].numero, 600);
@@ -88,11 +94,26 @@ TEST(ProspettoDati, CountsTheBarsOfAPileAsTheCalculationDoes) {
 TEST(ProspettoDati, LeavesOutOfUseWhatIsOfAnotherSection) {
     DatiProgetto dati = test::progettoSemplice();
     dati.sezione.paliDiamEst = 60;
-    const Prospetto p = prospettoDati(dati, dati);
+    const Prospetto p = prospettoDati(dati, parete(dati));
     EXPECT_EQ(riga(p, "sezione.paliDiamEst")[scritto].numero, 600);
     EXPECT_EQ(riga(p, "sezione.paliDiamEst")[usato].perche,
               "La sezione in vigore non usa questo dato.");
     EXPECT_NE(riga(p, "sezione.spessoreDiaframma")[usato].testo, nessuno);
+}
+
+TEST(ProspettoDati, LeavesOutOfUseWhatNothingReads) {
+    DatiProgetto dati = test::progettoSemplice();
+    dati.metodoKs = valore(project::MetodoKs::bowles);
+    const Prospetto p = prospettoDati(dati, parete(dati));
+    EXPECT_EQ(
+        riga(p, "suStrato[1]")[usato].perche,
+        "Fuori dal calcolo (il terreno resiste con phi e c; Su sta solo nella stratigrafia).");
+    EXPECT_EQ(riga(p, "opzioneRiservata")[usato].testo, nessuno);
+    EXPECT_EQ(riga(p, "faldaValle")[usato].testo, nessuno);
+    EXPECT_EQ(riga(p, "ksStrato[1]")[usato].testo, nessuno);
+    EXPECT_EQ(riga(p, "coeffM")[usato].testo, nessuno);
+    dati.metodoKs = valore(project::MetodoKs::lancellotta);
+    EXPECT_NE(riga(prospettoDati(dati, parete(dati)), "coeffM")[usato].testo, nessuno);
 }
 
 }  // namespace
