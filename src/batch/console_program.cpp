@@ -46,7 +46,7 @@ std::string resoconto(const Opzioni& opzioni, const Esito& esito) {
         return {};
     std::string testo = esito.calcolo ? tabella(esito, opzioni.traccia) : "";
     if (esito.equilibrio) testo += testoEquilibrio(*esito.equilibrio);
-    if (esito.margine) testo += testoMargine(*esito.margine);
+    if (esito.margine) testo += testoMargine(*esito.margine, project::Progetto);
     if (esito.sullaNorma) testo += factors::esiti(*esito.sullaNorma) + '\n';
     if (esito.combinazioni) testo += testoCombinazioni(*esito.combinazioni, project::Progetto);
     if (esito.confronto) testo += testoConfronto(*esito.confronto);

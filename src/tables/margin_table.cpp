@@ -9,6 +9,7 @@
 #include "base/filled_text.hpp"
 #include "base/number_text.hpp"
 #include "base/translated_texts.hpp"
+#include "project/anchor_names.hpp"
 #include "review/limits.hpp"
 #include "safety/margin_words.hpp"
 #include "safety/mesh_words.hpp"
@@ -64,12 +65,12 @@ void riga(int fase, const project::Unita& u, const char* cosa, const safety::Con
                        c.relazione ? profondita(c.relazione->z) : manca});
 }
 
-void riga(int fase, const safety::ConfrontoTiro& tiro, const Cella& manca, Prospetto& p) {
+void riga(int fase, const project::DatiProgetto& dati, const safety::ConfrontoTiro& tiro,
+          const Cella& manca, Prospetto& p) {
     const Cella testa = senza(traduttore("La profondità del tirante è nella tabella Tiranti."));
     p.righe.push_back(
         {cella(fase),
-         parola(traduttore("tirante") + " " + std::to_string(tiro.tirante) + " " +
-                traParentesi(unita::forzaAlMetro)),
+         parola(project::nomeTirante(dati, tiro.tirante) + " " + traParentesi(unita::forzaAlMetro)),
          forza(tiro.statica), testa,
          tiro.relazione ? cifre(mostrato(unita::forzaAlMetro, tiro.relazione->valore)) : manca,
          testa});
@@ -156,7 +157,7 @@ Prospetto prospettoMargine(const Margine& margine) {
     return p;
 }
 
-Prospetto prospettoStatica(const Margine& margine) {
+Prospetto prospettoStatica(const Margine& margine, const project::DatiProgetto& dati) {
     const Colonna z = colonnaSimbolo(unita::metri, "z", "Profondità del valore a sinistra");
     Prospetto p{.titolo = traduttore("Equilibrio e relazione"),
                 .colonne = {colonna(unita::nessuna, "Fase", "Numero della fase"),
@@ -175,7 +176,7 @@ Prospetto prospettoStatica(const Margine& margine) {
              p);
         riga(fase.fase, unita::forzaAlMetro, "Taglio", fase.confronto.taglio, forza, manca, p);
         for (const safety::ConfrontoTiro& tiro : fase.confronto.tiri)
-            riga(fase.fase, tiro, manca, p);
+            riga(fase.fase, dati, tiro, manca, p);
     }
     if (p.righe.empty()) p.note.push_back(verdetto(margine));
     if (!senzaRelazione.empty()) p.note.push_back(senzaRelazione);

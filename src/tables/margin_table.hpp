@@ -19,7 +19,9 @@ inline constexpr double fineBarraF = 3;
 
 /// Largest moment, shear and anchors of each stage from the balance of the nodes, beside those of
 /// the report.
-[[nodiscard]] Prospetto prospettoStatica(const safety::Margine& margine);
+/// @param dati  of the wall: struts are called struts
+[[nodiscard]] Prospetto prospettoStatica(const safety::Margine& margine,
+                                         const project::DatiProgetto& dati);
 
 /// The largest numbers and the uses of the section with three meshes, and the error that the first
 /// leaves; of the uses what they go to, and the verdict on the check. Its notes are the warnings of

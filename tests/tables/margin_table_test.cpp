@@ -18,9 +18,13 @@ Margine margine(const std::string& percorso) {
     return safety::margineBreve(test::leggiMuro(percorso), 50)->margine;
 }
 
-Margine esempio(const std::string& nome) {
-    return margine(std::string(KORVEN_EXAMPLES) + "/" + nome + ".kvd");
+std::string file(const std::string& nome) {
+    return std::string(KORVEN_EXAMPLES) + "/" + nome + ".kvd";
 }
+
+Margine esempio(const std::string& nome) { return margine(file(nome)); }
+
+project::DatiProgetto dati(const std::string& nome) { return test::leggiMuro(file(nome)); }
 
 TEST(ProspettoMargine, HasAStageInEachRowWithTheWordsOfTheMargin) {
     const Margine m = esempio("diaframma_due_ordini");
@@ -101,20 +105,20 @@ TEST(ProspettoMargine, OfAMechanismShowsWhatItIsShortOf) {
     EXPECT_EQ(p.righe[0][posto(p, "Piede")].testo, "-");
     EXPECT_LT(p.righe[0][posto(p, "F")].numero.value(), 1);
     EXPECT_EQ(verdetto(m).find("La paratia è un meccanismo nella fase 1"), 0u) << verdetto(m);
-    EXPECT_TRUE(prospettoStatica(m).righe.empty());
+    EXPECT_TRUE(prospettoStatica(m, {}).righe.empty());
     EXPECT_TRUE(prospettoMaglia(m).righe.empty());
 }
 
 TEST(ProspettoStatica, HasAMomentAShearAndTheAnchorsOfEachStage) {
     const Margine m = esempio("diaframma_due_ordini");
-    const Prospetto p = prospettoStatica(m);
+    const Prospetto p = prospettoStatica(m, dati("diaframma_due_ordini"));
     ASSERT_EQ(p.righe.size(), 13u);  // two each, and 0 + 1 + 2 + 2 anchors
     const auto& ultima = m.fasi[3].confronto;
     EXPECT_EQ(p.righe[9][1].testo, "Momento [kN m/m]");
     EXPECT_EQ(p.righe[9][2].numero, ultima.momento.statica.valore * 10);
     EXPECT_EQ(p.righe[9][4].numero, ultima.momento.relazione->valore * 10);
     EXPECT_EQ(p.righe[10][3].numero, ultima.taglio.statica.z);
-    EXPECT_EQ(p.righe[12][1].testo, "tirante 2 [kN/m]");
+    EXPECT_EQ(p.righe[12][1].testo, "Tirante 2 [kN/m]");
     EXPECT_EQ(p.righe[12][2].numero, ultima.tiri[1].statica * 10);
 }
 

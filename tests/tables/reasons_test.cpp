@@ -44,7 +44,7 @@ struct Conto {
         guarda(prospettoTiranti(parete, &m), quale);
         guarda(prospettoVerifiche(parete, m), quale);
         guarda(prospettoMargine(m), quale);
-        guarda(prospettoStatica(m), quale);
+        guarda(prospettoStatica(m, dati), quale);
         guarda(prospettoMaglia(m), quale);
         if (live::calcola(dati).dati.sezione.tipoPalancola)
             guarda(quadroSezione(dati, parete, &m).verifiche, quale);

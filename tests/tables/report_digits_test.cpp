@@ -57,7 +57,7 @@ Mostrati mostra(const std::string& muro, int segmenti) {
     const live::PareteViva parete = live::calcola(test::leggiMuro(muro), segmenti);
     const auto breve = safety::margineBreve(parete.dati, parete.nSeg);
     return {prospettoTiranti(parete, &breve->margine), prospettoVerifiche(parete, breve->margine),
-            prospettoStatica(breve->margine)};
+            prospettoStatica(breve->margine, parete.dati)};
 }
 
 int confrontaTiri(const Stampati& stampati, const Prospetto& tiranti) {
@@ -107,7 +107,7 @@ TEST(NumeriDellaRelazione, AreCutAsItCutsThem) {
     const Mostrati m = mostra(std::string(KORVEN_EXAMPLES) + "/pali_armati_staffe.kvd", 50);
     EXPECT_EQ(m.tiranti.righe[0][posto(m.tiranti, "Relazione")].testo, "209.46");
     const auto& statica = m.statica;
-    EXPECT_EQ(statica.righe.back()[1].testo, "tirante 1 [kN/m]");
+    EXPECT_EQ(statica.righe.back()[1].testo, "Tirante 1 [kN/m]");
     for (const auto& riga : statica.righe) {
         if (!riga[4].numero) continue;
         EXPECT_EQ(riga[4].testo, project::numeroRelazione(*riga[4].numero));

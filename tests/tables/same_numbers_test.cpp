@@ -37,7 +37,7 @@ const Cella& maggiore(const Prospetto& p, const char* titolo) {
 
 void confrontaFase(const PareteViva& parete, const safety::Margine& margine, int k) {
     const Prospetto nodi = prospettoNodi(parete, k), fasi = prospettoFasi(parete);
-    const Prospetto statica = prospettoStatica(margine),
+    const Prospetto statica = prospettoStatica(margine, parete.dati),
                     tiranti = prospettoTiranti(parete, &margine);
     const auto& fase = fasi.righe[static_cast<std::size_t>(k) - 1];
     // In size: of two nodes that are equal in size each table may take its own.

@@ -9,7 +9,9 @@
 namespace korven::batch {
 
 /// The tables of the command, with what the wall comes to in words between them.
-[[nodiscard]] std::string testoMargine(const safety::Margine& margine);
+/// @param dati  of the wall: struts are called struts
+[[nodiscard]] std::string testoMargine(const safety::Margine& margine,
+                                       const project::DatiProgetto& dati);
 
 /// docs/batch.md, `safety --csv`: a row a stage, all digits of the doubles.
 [[nodiscard]] std::string csvMargine(const safety::Margine& margine);

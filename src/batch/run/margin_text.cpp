@@ -1,6 +1,7 @@
 #include "base/translated_texts.hpp"
 #include "batch/run/margin_outcome.hpp"
 #include "batch/run/text_table.hpp"
+#include "project/anchor_names.hpp"
 #include "project/shown_number.hpp"
 #include "project/units.hpp"
 #include "safety/margin_words.hpp"
@@ -43,18 +44,19 @@ void riga(int fase, std::string_view cosa, const Unita& u, const safety::Confron
          c.relazione ? numeroMostrato(c.relazione->z, 2) : nessuno});
 }
 
-void riga(int fase, const safety::ConfrontoTiro& tiro, TabellaTesto& tabella) {
-    tabella.riga({std::to_string(fase),
-                  traduttore("tirante") + " " + std::to_string(tiro.tirante) + " " +
-                      traParentesi(unita::forzaAlMetro),
-                  numeroMostrato(tiro.statica, 2, unita::forzaAlMetro), nessuno,
-                  tiro.relazione ? project::numeroRelazione(
-                                       mostrato(unita::forzaAlMetro, tiro.relazione->valore))
-                                 : nessuno,
-                  nessuno});
+void riga(int fase, const project::DatiProgetto& dati, const safety::ConfrontoTiro& tiro,
+          TabellaTesto& tabella) {
+    tabella.riga(
+        {std::to_string(fase),
+         project::nomeTirante(dati, tiro.tirante) + " " + traParentesi(unita::forzaAlMetro),
+         numeroMostrato(tiro.statica, 2, unita::forzaAlMetro), nessuno,
+         tiro.relazione
+             ? project::numeroRelazione(mostrato(unita::forzaAlMetro, tiro.relazione->valore))
+             : nessuno,
+         nessuno});
 }
 
-std::string tabellaStatica(const Margine& margine) {
+std::string tabellaStatica(const Margine& margine, const project::DatiProgetto& dati) {
     const std::string z = "z " + traParentesi(unita::metri);
     TabellaTesto tabella({traduttore("Fase"), traduttore("Massimi"), traduttore("Equilibrio"), z,
                           traduttore("Relazione"), z});
@@ -63,21 +65,21 @@ std::string tabellaStatica(const Margine& margine) {
         riga(fase.fase, "Momento", unita::momentoAlMetro, fase.confronto.momento, tabella);
         riga(fase.fase, "Taglio", unita::forzaAlMetro, fase.confronto.taglio, tabella);
         for (const safety::ConfrontoTiro& tiro : fase.confronto.tiri)
-            riga(fase.fase, tiro, tabella);
+            riga(fase.fase, dati, tiro, tabella);
     }
     return tabella.testo();
 }
 
 }  // namespace
 
-std::string testoMargine(const Margine& margine) {
+std::string testoMargine(const Margine& margine, const project::DatiProgetto& dati) {
     std::string testo = tabellaFasi(margine);
     for (const std::string& riga :
          {paroleDecisiva(margine), paroleLunghezza(margine), paroleMaglia(margine)})
         if (!riga.empty()) testo += riga + '\n';
     if (const std::string usi = paroleUsiMaglia(margine); !usi.empty()) testo += usi + '\n';
     for (const safety::AvvisoMaglia& avviso : avvisiMaglia(margine)) testo += avviso.testo + '\n';
-    if (margine.haNumeri()) testo += tabellaStatica(margine);
+    if (margine.haNumeri()) testo += tabellaStatica(margine, dati);
     for (const std::string& riga : {paroleRelazione(margine), paroleMetodo(margine)})
         if (!riga.empty()) testo += riga + '\n';
     return testo;

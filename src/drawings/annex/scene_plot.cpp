@@ -19,6 +19,7 @@ using scene::Punto;
 using scene::Riquadro;
 
 constexpr double tratto = 5, spazio = 3, puntino = 1, spazioPuntini = 2.5;  // of dashes [px]
+constexpr double distanzaTratti = 3;  // of dashes from texts [px]
 
 // Height of a text of the plotter over the size of a font.
 constexpr double altezzaPerCorpo = 1.117 * 3 / 5;
@@ -61,9 +62,9 @@ class Plotter {
             case scene::Tratteggio::nessuno:
                 return catena(linea.punti, liberi);
             case scene::Tratteggio::linee:
-                return tratti(aTratti(linea.punti, tratto, spazio), liberi);
+                return tratti(aTratti(linea.punti, tratto, spazio), discosti(liberi));
             case scene::Tratteggio::punti:
-                return tratti(aTratti(linea.punti, puntino, spazioPuntini), liberi);
+                return tratti(aTratti(linea.punti, puntino, spazioPuntini), discosti(liberi));
         }
     }
 
@@ -92,6 +93,15 @@ class Plotter {
  private:
     [[nodiscard]] plot::Punto carta(const Punto& p) const {
         return {p.x / pixelCarta, (alto_ - p.y) / pixelCarta};
+    }
+
+    // A dash that ends just before a number would read as its sign.
+    static std::vector<Riquadro> discosti(std::vector<Riquadro> liberi) {
+        for (Riquadro& r : liberi) {
+            r.sinistra -= distanzaTratti;
+            r.destra += distanzaTratti;
+        }
+        return liberi;
     }
 
     static void penna(scene::Tinta tinta, double spessore) {

@@ -34,7 +34,7 @@ void parte(const std::string& spiegazione, tables::Prospetto prospetto, Blocchi&
 // Where there is no report, why: its rows would hold dashes beside numbers of the stages.
 tables::Prospetto statica(const dossier::Fascicolo& f) {
     if (!f.doppi.empty()) return prospettoDoppi(f);
-    tables::Prospetto p = tables::prospettoStatica(*f.margine);
+    tables::Prospetto p = tables::prospettoStatica(*f.margine, f.parete.dati);
     p.titolo = traduttore("Equilibrio e relazione");
     p.righe.clear();
     return p;

@@ -97,7 +97,7 @@ void FinestraSicurezza::mostra(const Riassunto& riassunto) {
     for (auto* testi : {&righe, &detto})
         testi->insert(testi->end(), perFase.note.begin(), perFase.note.end());
     margine_->mostra(perFase);
-    statica_->mostra(tables::prospettoStatica(margine));
+    statica_->mostra(tables::prospettoStatica(margine, vita_.vivo().parete().dati));
     maglia_->mostra(tables::prospettoMaglia(margine));
     frasi_->setText(inRighe(insieme(righe)));
     meccanismo_->mostra(live::pareteAlLimite(vita_.vivo().parete(), margine), insieme(detto),

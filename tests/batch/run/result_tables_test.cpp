@@ -82,7 +82,7 @@ TEST(Prospetti, TellTheNumbersOfTheCommandsOnEveryExampleAndWall) {
         const Json equilibrio =
             answers::jsonEquilibrio(safety::raccontaFasi(parete.dati, parete.nSeg))["fasi"];
         const Prospetto fasi = tables::prospettoMargine(breve->margine);
-        const Prospetto statica = tables::prospettoStatica(breve->margine),
+        const Prospetto statica = tables::prospettoStatica(breve->margine, parete.dati),
                         viste = tables::prospettoFasi(parete);
         ASSERT_EQ(fasi.righe.size(), margine["fasi"].size());
         ASSERT_EQ(viste.righe.size(), equilibrio.size());
