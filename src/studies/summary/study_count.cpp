@@ -30,10 +30,9 @@ std::string parole(const Controllata& c) {
     const std::string variante = std::to_string(c.variante + 1),
                       fase = std::to_string(c.esito.fase);
     if (c.esito.accordo == Accordo::verdetto)
-        return riempito(
-            traduttore("variante %1, fase %2: il calcolo per fasi trova riposo dove non "
-                       "c'è equilibrio"),
-            {variante, fase});
+        return riempito(traduttore("variante %1, fase %2: il calcolo per fasi converge dove non "
+                                   "c'è equilibrio"),
+                        {variante, fase});
     return riempito(
         traduttore("variante %1, fase %2: gli spostamenti differiscono di %3 mm, ammessi "
                    "%4 mm"),
@@ -194,7 +193,7 @@ std::vector<std::string> ContoStudio::righeControllo() const {
     std::vector<std::string> testo;
     testo.push_back(riempito(
         traduttore("%1 varianti calcolate in ambedue i modi: %2 diverse, %3 in cui il calcolo per "
-                   "fasi non trova riposo, %4 senza soluzione di equilibrio."),
+                   "fasi non converge, %4 senza soluzione di equilibrio."),
         {std::to_string(controllate_), std::to_string(diverse_), std::to_string(senzaRiposo_),
          std::to_string(incerte_)}));
     std::string senzaRiposo;
@@ -202,8 +201,8 @@ std::vector<std::string> ContoStudio::righeControllo() const {
         senzaRiposo.append(senzaRiposo.empty() ? "" : ", ").append(std::to_string(i + 1));
     if (senzaRiposo_ > primeSenzaRiposo_.size()) senzaRiposo += ", ...";
     if (!senzaRiposo.empty())
-        testo.push_back(riempito(
-            traduttore("Il calcolo per fasi non trova riposo nelle varianti %1."), {senzaRiposo}));
+        testo.push_back(riempito(traduttore("Il calcolo per fasi non converge nelle varianti %1."),
+                                 {senzaRiposo}));
     for (const Controllata& c : prime_) testo.push_back(parole(c));
     if (diverse_ > prime_.size())
         testo.push_back(

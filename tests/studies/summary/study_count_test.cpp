@@ -146,13 +146,13 @@ TEST(ContoStudio, ListsTheFirstOfTheVariantsThatDifferBothWays) {
     ASSERT_EQ(righe.size(), 4u);
     EXPECT_EQ(righe[0],
               "4 varianti calcolate in ambedue i modi: 2 diverse, 1 in cui il calcolo per fasi non "
-              "trova riposo, 0 senza soluzione di equilibrio.");
-    EXPECT_EQ(righe[1], "Il calcolo per fasi non trova riposo nelle varianti 200.");
+              "converge, 0 senza soluzione di equilibrio.");
+    EXPECT_EQ(righe[1], "Il calcolo per fasi non converge nelle varianti 200.");
     EXPECT_EQ(righe[2],
               "variante 300, fase 2: gli spostamenti differiscono di 0.250000 mm, ammessi 0.000200 "
               "mm");
     EXPECT_EQ(righe[3],
-              "variante 400, fase 3: il calcolo per fasi trova riposo dove non c'è equilibrio");
+              "variante 400, fase 3: il calcolo per fasi converge dove non c'è equilibrio");
     for (std::uint64_t i = 0; i < 30; ++i) conto.controllate({{i, {Accordo::verdetto, 1}}});
     EXPECT_EQ(conto.righeControllo().back(), "... e altre 12.");
 }
