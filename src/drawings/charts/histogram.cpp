@@ -16,9 +16,13 @@ using scene::Elemento;
 using scene::Linea;
 using scene::Ruolo;
 
+// By Freedman and Diaconis, to whom two heaps far apart are one wide distribution of a few classes:
+// not fewer than twice the number that Sturges asks for, since the round step of an axis may halve
+// it.
 int quanteClassi(const std::vector<double>& ordinati) {
-    constexpr double minime = 5, massime = 60;
+    constexpr double massime = 60;
     const std::size_t n = ordinati.size();
+    const double minime = std::max(5.0, std::round(2 * std::log2(static_cast<double>(n))));
     const double ampiezza = ordinati.back() - ordinati.front();
     const double quartili = ordinati[3 * (n - 1) / 4] - ordinati[(n - 1) / 4];
     const double passo = 2 * quartili / std::cbrt(static_cast<double>(n));

@@ -83,6 +83,17 @@ TEST(Classi, AreOneForEqualValues) {
     EXPECT_EQ(classi({-0.4}).numeri, (std::vector<std::size_t>{1}));
 }
 
+// 500 values from 8 on and 500 up to 541: the quartiles stand as far apart as the heaps.
+TEST(Classi, AreSeveralForTwoHeapsFarApart) {
+    std::vector<double> valori;
+    for (int i = 0; i < 500; ++i) valori.insert(valori.end(), {8 + 0.01 * i, 541 - 0.01 * i});
+    const Classi c = classi(valori);
+    EXPECT_EQ(c.passo, 50);
+    EXPECT_EQ(c.numeri.size(), 11u);
+    EXPECT_EQ(c.numeri.front(), 500u);
+    EXPECT_EQ(c.numeri.back(), 500u);
+}
+
 const ParoleMancanze parole{"cade", "rifiutata", "manca", "senza piede"};
 
 GraficoCurve grafico(std::vector<CurvaGrafico> curve) {
