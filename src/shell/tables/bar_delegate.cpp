@@ -20,20 +20,20 @@ QColor colore(const QVariant& peso) {
     return peso.toInt() == static_cast<int>(review::Peso::daVedere) ? ambra : rosso;
 }
 
-}  // namespace
-
-// A mark at the left end of a cell would touch the first letter.
-void DelegatoBarre::initStyleOption(QStyleOptionViewItem* opzioni,
-                                    const QModelIndex& indice) const {
-    QStyledItemDelegate::initStyleOption(opzioni, indice);
+// What a mark takes from the left of a cell, so that it touches no letter.
+int largoSegno(const QModelIndex& indice) {
     const bool soloSegno =
         indice.data(datoPesoCella).isValid() && !indice.data(datoBarra).isValid();
-    if (soloSegno) opzioni->text.prepend(QChar::Nbsp);
+    return soloSegno ? segno : 0;
 }
+
+}  // namespace
 
 void DelegatoBarre::paint(QPainter* pittore, const QStyleOptionViewItem& opzioni,
                           const QModelIndex& indice) const {
-    QStyledItemDelegate::paint(pittore, opzioni, indice);
+    QStyleOptionViewItem scostate = opzioni;
+    scostate.rect.setLeft(opzioni.rect.left() + largoSegno(indice));
+    QStyledItemDelegate::paint(pittore, scostate, indice);
     const QVariant barra = indice.data(datoBarra), peso = indice.data(datoPesoCella);
     if (!barra.isValid() && !peso.isValid()) return;
     const QRect cella = opzioni.rect.adjusted(1, 1, -1, -1);
@@ -41,6 +41,14 @@ void DelegatoBarre::paint(QPainter* pittore, const QStyleOptionViewItem& opzioni
     QColor tinta = colore(peso);
     if (!barra.isValid()) tinta.setAlpha(0xFF);
     pittore->fillRect(QRect(cella.left(), cella.top(), largo, cella.height()), tinta);
+}
+
+QSize DelegatoBarre::sizeHint(const QStyleOptionViewItem& opzioni,
+                              const QModelIndex& indice) const {
+    const int segno = largoSegno(indice);
+    QStyleOptionViewItem strette = opzioni;
+    strette.rect.setWidth(opzioni.rect.width() - segno);
+    return QStyledItemDelegate::sizeHint(strette, indice) + QSize(segno, 0);
 }
 
 }  // namespace korven::shell
