@@ -22,8 +22,9 @@ end() {
         echo "--- what the window manager and the program said" >&2
         cat "$work/openbox" "$work/said" >&2 || true
     fi
-    [ -z "$program" ] || kill "$program" 2>/dev/null || true
-    [ -z "$manager" ] || kill "$manager" 2>/dev/null || true
+    # What still writes would keep its folder from being removed: it is waited for.
+    [ -z "$program" ] || { kill "$program" && wait "$program"; } 2>/dev/null || true
+    [ -z "$manager" ] || { kill "$manager" && wait "$manager"; } 2>/dev/null || true
     ! declare -F clean_up >/dev/null || clean_up
     rm -rf "$work"
     exit $status
