@@ -7,7 +7,8 @@ namespace korven::analysis {
 /// Ratio of a circle's circumference to its diameter, as all formulas of the program take it.
 extern const double pi;
 
-/// Active and passive coefficient, both positive, and why they have no value if they have none.
+/// Active and passive coefficient, both positive, and why they have no value if they have none:
+/// both are 0 then.
 struct CoefficientiSpinta {
     double ka = 0;
     double kp = 0;

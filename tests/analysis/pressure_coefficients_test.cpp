@@ -66,8 +66,11 @@ TEST(SpinteCoulomb, AreUndefinedForASlopeSteeperThanTheFrictionAngle) {
 }
 
 // sin 90 sin 90 = 1: the root eats up the whole denominator of kp.
-TEST(SpinteCoulomb, AreUndefinedWhereThePassiveDenominatorIsZero) {
-    EXPECT_EQ(spinteCoulomb(pi / 2, 0).motivo, Indefinito::denominatoreNullo);
+TEST(SpinteCoulomb, AreUndefinedAndZeroWhereThePassiveDenominatorIsZero) {
+    const auto k = spinteCoulomb(pi / 2, 0);
+    EXPECT_EQ(k.motivo, Indefinito::denominatoreNullo);
+    EXPECT_EQ(k.ka, 0);
+    EXPECT_EQ(k.kp, 0);
 }
 
 // The pole of kp lies where phi + beta is 90 degrees; the sines meet it but for their last bits.
@@ -126,8 +129,11 @@ TEST(SpinteRankine, AreUndefinedForASlopeSteeperThanTheFrictionAngle) {
     EXPECT_EQ(spinteRankine(rad(20), rad(-20.1)).motivo, Indefinito::discesaRipida);
 }
 
-TEST(SpinteRankine, AreUndefinedWhereADenominatorIsZero) {
-    EXPECT_EQ(spinteRankine(pi / 2, 0).motivo, Indefinito::denominatoreNullo);
+TEST(SpinteRankine, AreUndefinedAndZeroWhereADenominatorIsZero) {
+    const auto k = spinteRankine(pi / 2, 0);
+    EXPECT_EQ(k.motivo, Indefinito::denominatoreNullo);
+    EXPECT_EQ(k.ka, 0);
+    EXPECT_EQ(k.kp, 0);
 }
 
 TEST(SpinteBell, AreTheSquaresOfTheTangents) {

@@ -24,6 +24,8 @@ TEST(InCustodia, IsAFileThatNobodyElseTakesUntilItIsLet) {
     nostro.riscrivi("più lungo di prima");
     nostro.riscrivi("corto");
     EXPECT_EQ(contenuto(cartella / "f"), "corto");
+    nostro.riscrivi("");
+    EXPECT_EQ(contenuto(cartella / "f"), "");
     nostro.lascia();
     EXPECT_TRUE(altrui.prendiFile(cartella / "f"));
     EXPECT_TRUE(altrui.portaIlNome());
