@@ -58,6 +58,18 @@ TEST_F(SenzaPace, AnInterruptIsTheCauseAndNeedsNoSentenceOfTheEquilibrium) {
     EXPECT_FALSE(dice(esito.errori, "oscilla soltanto")) << esito.errori;
 }
 
+// The annex computes in memory, and takes long enough with so many nodes.
+TEST_F(SenzaPace, AnInterruptIsTheCauseOfAnAnnexThatIsNotMade) {
+    ProgrammaInCorso corsa(KORVEN_CONSOLE, {"allegato", progetto, "--nseg", "249", "--pdf",
+                                            cartella / "a.pdf", "--json", "--silenzioso"});
+    ASSERT_TRUE(corsa.aspettaSegnale(SIGINT));
+    corsa.segnale(SIGINT);
+    const auto esito = corsa.attendi();
+    EXPECT_EQ(esito.codice, 1);
+    EXPECT_EQ(nlohmann::json::parse(esito.uscita)["causa"], "fermato") << esito.errori;
+    EXPECT_EQ(nomi(), "muro.kvd ");
+}
+
 TEST_F(SenzaPace, AnIgnoredInterruptStaysIgnored) {
     ProgrammaInCorso corsa(
         "/bin/sh", {"-c", "trap '' INT; exec \"$0\" \"$@\"", KORVEN_CONSOLE, "calcola", progetto,

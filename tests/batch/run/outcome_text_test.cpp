@@ -1,3 +1,5 @@
+#include <filesystem>
+#include <nlohmann/json.hpp>
 #include <sstream>
 
 #include "batch/batch_bench.hpp"
@@ -33,6 +35,26 @@ TEST_F(EsitoTesto, ShowsALineAStageAndTheFilesThatWereWritten) {
     EXPECT_EQ(tutte[4], "File scritto: " + cartella / "muro.OUT");
     EXPECT_EQ(tutte[5], "File scritto: " + cartella / "muro.TAB");
     EXPECT_EQ(tutte[6], "File scritto: " + cartella / "muro.txt");
+}
+
+// What JSON tells of a stage stands in its line, and no other stage's.
+TEST_F(EsitoTesto, HasTheIterationsOfEachStageInItsLine) {
+    auto d = progettoSemplice();
+    d.profFase[1] = 0.2;  // next to no excavation: fewer iterations
+    scrivi(d);
+    const auto stampate = righe(esegui("calcola").uscita);
+    std::filesystem::remove(cartella / "muro.OUT");
+    const auto j = nlohmann::json::parse(esegui("calcola", {"--json"}).uscita);
+    const auto& fasi = j.at("calcolo").at("fasi");
+    ASSERT_EQ(fasi.size(), 2u);
+    EXPECT_NE(fasi[0]["iterazioni"], fasi[1]["iterazioni"]);
+    for (std::size_t k = 0; k < fasi.size(); ++k) {
+        std::istringstream riga(stampate.at(k + 1));
+        int fase = 0, iterazioni = 0;
+        riga >> fase >> iterazioni;
+        EXPECT_EQ(fase, fasi[k]["fase"]);
+        EXPECT_EQ(iterazioni, fasi[k]["iterazioni"]);
+    }
 }
 
 TEST_F(EsitoTesto, SaysThatTheResultFileWasUpToDateAndWritesItNoMore) {
