@@ -31,11 +31,13 @@ calculations. `korven32c selfcheck` runs all of it, `--pdf FILE` makes a documen
 Each case goes through the run of the report ("Report") and through the equilibrium solution ("Equilibrium"), as far
 as they know the quantity; what belongs to the section alone is "Section". Both sides of a case of the group "The
 program against itself" are runs; all other expected values come from elsewhere, and the scripts that made those which
-no book holds lie in `tests/oracle/verification` (`python3 tests/oracle/verification/check.py` compares them with the
-files; it needs NumPy). Formulas and authors are cited from memory, as in `theory.md`; exercise 8.4 of G. N. Smith,
+no book holds lie in `tests/oracle/verification` of the sources (`check.py` there compares them with the files; it
+needs NumPy). Formulas and authors are cited from memory, as in `theory.md`; exercise 8.4 of G. N. Smith,
 Elements of Soil Mechanics, is no case, since its data and its answer are not known here to the digit.
 
+<!-- sources -->
 This page is made from the files in `data/verifica` by `tools/make_verification`; a test holds the two together.
+<!-- /sources -->
 
 ## A case of your own
 

@@ -2,7 +2,9 @@
 """A study of a wall from Python, with a figure: how it moves as it gets longer, and what the soil's
 scatter makes of it.
 
-    PYTHONPATH=build/python/python /usr/bin/python3 docs/examples/study.py [-n 2000] [-o study.png]
+    /usr/bin/python3 study.py [-n 2000] [-o study.png]
+
+It needs the module korven32 and, beside what that needs, python3-matplotlib.
 """
 
 import argparse
