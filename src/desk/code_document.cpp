@@ -46,10 +46,10 @@ std::string fraseUso(const Peggiore& p) {
                      factors::parole(p.verifica->oggetto), p.esito->combinazione.nome});
 }
 
-std::vector<Prospetto> prospetti(const Combinazioni& tutte) {
+std::vector<Prospetto> prospetti(const Combinazioni& tutte, const project::DatiProgetto& dati) {
     std::vector<Prospetto> fatti;
     for (Prospetto p : {tables::prospettoEffetti(tutte), tables::prospettoVerifiche(tutte),
-                        tables::prospettoTiri(tutte), tables::prospettoFattori(tutte)})
+                        tables::prospettoTiri(tutte, dati), tables::prospettoFattori(tutte)})
         if (!p.righe.empty()) fatti.push_back(std::move(p));
     return fatti;
 }
@@ -93,7 +93,7 @@ Documento documento(const Combinazioni& tutte, const ProgettoDetto& progetto) {
     Stile stile = Stile::rilievo;  // the verdict alone
     for (std::string& frase : frasi(tutte))
         d.blocchi.emplace_back(Paragrafo{std::move(frase), std::exchange(stile, Stile::normale)});
-    auto tavole = prospetti(tutte);
+    auto tavole = prospetti(tutte, progetto.dati);
     tavole.push_back(prospettoFonti(tutte.norma));
     for (Prospetto& p : tavole) {
         d.blocchi.emplace_back(Titolo{2, std::exchange(p.titolo, {})});
@@ -107,7 +107,7 @@ Documento documento(const Combinazioni& tutte, const ProgettoDetto& progetto) {
 
 workbook::CartellaFogli cartella(const Combinazioni& tutte, const ProgettoDetto& progetto) {
     workbook::CartellaFogli cartella = cartellaDi(progetto, titolo(tutte));
-    auto tavole = prospetti(tutte);
+    auto tavole = prospetti(tutte, progetto.dati);
     tavole.front().note = frasi(tutte);
     for (std::string& nota : factors::note(tutte, progetto.dati))
         tavole.front().note.push_back(std::move(nota));

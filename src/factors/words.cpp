@@ -231,8 +231,8 @@ std::vector<std::string> note(const Combinazioni& combinazioni, const project::D
                    "cambierebbe con più segmenti qui non si cerca."));
     if (dati.nTiranti > 0)
         note.push_back(
-            traduttore("Dei tiranti c'è solo la forza: la loro resistenza, dell'acciaio e del "
-                       "terreno, non è verificata."));
+            traduttore("Di tiranti e puntoni c'è solo la forza: la loro resistenza, dell'acciaio, "
+                       "del terreno e all'instabilità, non è verificata."));
     note.push_back(traduttore(
         "Il coefficiente 1.4 delle verifiche senza norma, quelle della relazione, qui non "
         "entra."));

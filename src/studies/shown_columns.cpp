@@ -93,7 +93,7 @@ ValoreMostrato valoreMostrato(const std::string& colonna) {
     constexpr std::string_view tiro = "tiro_", kN = "_kN";
     if (!colonna.starts_with(tiro) || !colonna.ends_with(kN)) return {.titolo = colonna};
     return {.titolo = base::riempito(
-                traduttore("Tiro del tirante %1"),
+                traduttore("Forza del tirante o puntone %1"),
                 {colonna.substr(tiro.size(), colonna.size() - tiro.size() - kN.size())}),
             .unita = forza};
 }

@@ -7,6 +7,7 @@
 #include "base/code_page.hpp"
 #include "base/translated_texts.hpp"
 #include "factors/words.hpp"
+#include "project/anchor_names.hpp"
 #include "tables/quantities.hpp"
 
 namespace korven::tables {
@@ -161,15 +162,15 @@ Prospetto prospettoVerifiche(const Combinazioni& tutte) {
     return p;
 }
 
-Prospetto prospettoTiri(const Combinazioni& tutte) {
-    Prospetto p{.titolo = traduttore("Tiranti e puntoni"), .colonne = {parole("Tirante")}};
+Prospetto prospettoTiri(const Combinazioni& tutte, const project::DatiProgetto& dati) {
+    Prospetto p{.titolo = traduttore("Tiranti e puntoni"), .colonne = {parole("Elemento")}};
     for (const EsitoCombinazione& e : tutte.esiti)
         p.colonne.push_back(simboli(unita::forzaAlMetro, e.combinazione.nome));
     p.colonne.push_back(numeri(unita::forzaAlMetro, "Inviluppo"));
     const auto& tiri = tutte.inviluppo.tiri;
     for (std::size_t a = 0; a < tiri.size(); ++a) {
         if (tiri[a].combinazione < 0) continue;
-        std::vector<Cella> celle = {cella(static_cast<int>(a) + 1)};
+        std::vector<Cella> celle = {parola(project::nomeTirante(dati, static_cast<int>(a) + 1))};
         for (const EsitoCombinazione& e : tutte.esiti)
             celle.push_back(e.sta() && e.tiri[a].fase > 0 ? forza(e.tiri[a].tiro * e.effetti())
                                                           : Cella());

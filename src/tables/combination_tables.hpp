@@ -20,7 +20,9 @@ namespace korven::tables {
 
 /// A row an anchor that is in place in some stage, with its largest force under each combination
 /// and of all; none without anchors.
-[[nodiscard]] Prospetto prospettoTiri(const factors::Combinazioni& combinazioni);
+/// @param dati  of the wall: struts are called struts
+[[nodiscard]] Prospetto prospettoTiri(const factors::Combinazioni& combinazioni,
+                                      const project::DatiProgetto& dati);
 
 /// The factors of a combination with where each comes from.
 [[nodiscard]] Prospetto prospettoFonti(const factors::Combinazione& combinazione);

@@ -12,7 +12,7 @@ TEST(ValoreMostrato, HasTheUnitsOfWindows) {
     EXPECT_DOUBLE_EQ(valoreMostrato("uso_momento_positivo").mostrato(0.5), 50);
     EXPECT_EQ(valoreMostrato("passiva_usata").testa(), "Passiva usata [%]");
     EXPECT_DOUBLE_EQ(valoreMostrato("tiro_12_kN").mostrato(80), 80) << "kN already";
-    EXPECT_EQ(valoreMostrato("tiro_12_kN").testa(), "Tiro del tirante 12 [kN/m]");
+    EXPECT_EQ(valoreMostrato("tiro_12_kN").testa(), "Forza del tirante o puntone 12 [kN/m]");
     EXPECT_EQ(valoreMostrato("riduzione").testa(), "Riduzione della resistenza F");
     EXPECT_EQ(valoreMostrato("altro").testa(), "altro");
 }

@@ -67,7 +67,7 @@ TEST(ProspettiCombinazioni, ShowEffectsWithTheirFactorAndTheEnvelope) {
     EXPECT_EQ(p.righe[2][5].testo, "in equilibrio");
     EXPECT_FALSE(c.giudizio());
     EXPECT_TRUE(prospettoVerifiche(c).righe.empty());
-    EXPECT_TRUE(prospettoTiri(c).righe.empty());
+    EXPECT_TRUE(prospettoTiri(c, mensola()).righe.empty());
 }
 
 TEST(ProspettiCombinazioni, ShowACombinationThatDoesNotStandWithoutNumbers) {
@@ -83,17 +83,25 @@ TEST(ProspettiCombinazioni, ShowACombinationThatDoesNotStandWithoutNumbers) {
 TEST(ProspettiCombinazioni, ShowTheForceOfEachAnchorUnderEachCombination) {
     const auto dati = test::leggiMuro(KORVEN_EXAMPLES "/diaframma_due_ordini.kvd");
     const auto c = calcolate(dati, {{}, {.effetti = 2}});
-    const Prospetto p = prospettoTiri(c);
+    const Prospetto p = prospettoTiri(c, dati);
     ASSERT_EQ(p.righe.size(), 2U);
     ASSERT_EQ(p.colonne.size(), 4U);
     for (std::size_t a = 0; a < 2; ++a) {
-        EXPECT_EQ(p.righe[a][0].testo, std::to_string(a + 1));
+        EXPECT_EQ(p.righe[a][0].testo, "Tirante " + std::to_string(a + 1));
         EXPECT_NEAR(*p.righe[a][1].numero, 10 * c.esiti[0].tiri[a].tiro, 1e-9);
         EXPECT_EQ(p.righe[a][3], p.righe[a][2]);
     }
     const Prospetto v = prospettoVerifiche(c);
     ASSERT_FALSE(v.righe.empty());
     EXPECT_EQ(v.righe[0][1].testo, "Flessione, momento positivo [kN m/m]");
+}
+
+TEST(ProspettiCombinazioni, CallStrutsStruts) {
+    const auto dati = test::leggiMuro(KORVEN_EXAMPLES "/trincea_puntellata.kvd");
+    const Prospetto p = prospettoTiri(calcolate(dati, {{}}), dati);
+    ASSERT_FALSE(p.righe.empty());
+    EXPECT_EQ(p.colonne[0].titolo, "Elemento");
+    EXPECT_EQ(p.righe[0][0].testo, "Puntone 1");
 }
 
 TEST(ProspettiCombinazioni, ShowWhereEachFactorComesFrom) {

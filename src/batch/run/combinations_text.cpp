@@ -9,8 +9,9 @@ std::string testoCombinazioni(const factors::Combinazioni& tutte,
                               const project::DatiProgetto& dati) {
     std::string testo =
         tutte.norma.titolo + " (" + tutte.norma.file + ")\n" + parole(tutte.natura) + '\n';
-    for (const auto& prospetto : {tables::prospettoFattori(tutte), tables::prospettoEffetti(tutte),
-                                  tables::prospettoVerifiche(tutte), tables::prospettoTiri(tutte)})
+    for (const auto& prospetto :
+         {tables::prospettoFattori(tutte), tables::prospettoEffetti(tutte),
+          tables::prospettoVerifiche(tutte), tables::prospettoTiri(tutte, dati)})
         testo += testoTabella(prospetto);
     for (const factors::EsitoCombinazione& e : tutte.esiti)
         if (const std::string perche = caduta(e); !perche.empty()) testo += perche + '\n';

@@ -67,7 +67,7 @@ void capitoloNorma(const Contesto& contesto, Blocchi& blocchi) {
             {"tan φ", "γ"}));
     parte(tables::prospettoEffetti(tutte), blocchi);
     parte(tables::prospettoVerifiche(tutte), blocchi);
-    parte(tables::prospettoTiri(tutte), blocchi);
+    parte(tables::prospettoTiri(tutte, f.parete.dati), blocchi);
     fonti(tutte, blocchi);
 }
 

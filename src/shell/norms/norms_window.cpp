@@ -130,9 +130,10 @@ void FinestraNorme::riempi() {
     auto verifiche = tables::prospettoVerifiche(*mostrate_);
     if (verifiche.righe.empty()) verifiche.note = note;
     verifiche_->mostra(std::move(verifiche));
-    auto tiri = tables::prospettoTiri(*mostrate_);
+    auto tiri = tables::prospettoTiri(*mostrate_, vita().vivo().dati());
     if (tiri.righe.empty())
-        tiri.note = {base::traduttore("Nessun tirante è in opera in qualche fase in equilibrio.")};
+        tiri.note = {
+            base::traduttore("Nessun tirante o puntone è in opera in qualche fase in equilibrio.")};
     tiri_->mostra(std::move(tiri));
     fattori_->mostra(tables::prospettoFattori(*mostrate_));
     fonti_->mostra(desk::prospettoFonti(mostrate_->norma));

@@ -65,7 +65,8 @@ TEST(CapitoloNorma, TellsWhatTheCombinationsGive) {
     EXPECT_EQ(tavole[0].prospetto.righe, tables::prospettoFattori(diretto).righe);
     EXPECT_EQ(tavole[1].prospetto.righe, tables::prospettoEffetti(diretto).righe);
     EXPECT_EQ(tavole[2].prospetto.righe, tables::prospettoVerifiche(diretto).righe);
-    EXPECT_EQ(tavole[3].prospetto.righe, tables::prospettoTiri(diretto).righe);
+    EXPECT_EQ(tavole[3].prospetto.righe,
+              tables::prospettoTiri(diretto, c.fascicolo->parete.dati).righe);
     EXPECT_EQ(tavole[5].prospetto.titolo, "C2: una fonte");
     EXPECT_EQ(tavole[5].prospetto.righe.at(0).at(2).testo, "tab. 1");
     const std::string testo = test::testo(b);
