@@ -58,6 +58,21 @@ TEST(Assi, PutNumbersInProportion) {
     EXPECT_DOUBLE_EQ(assi.y(0.5), c.alto + c.altezza() / 4);
 }
 
+// A number within the field would be taken for one of a curve.
+TEST(Assi, HaveTheirNumbersAndTitlesBelowAndLeftOfTheField) {
+    const Assi assi(posto, {0, 10, false}, {0, 4, false}, {"sotto"}, {"accanto"});
+    const scene::MisuraStimata misura;
+    scene::Tela tela(posto.destra + 5, posto.basso, misura);
+    assi.disegna(tela);
+    const auto testi = figure<Testo>(tela.concludi(), Elemento::asse);
+    ASSERT_GT(testi.size(), 6u);
+    const auto& c = assi.campo();
+    for (const Testo& t : testi) {
+        const bool sotto = t.punto.y > c.basso, sinistra = t.punto.x < c.sinistra;
+        EXPECT_TRUE(sotto || sinistra || t.punto.y < c.alto) << t.testo << " " << t.punto.y;
+    }
+}
+
 TEST(Estensione, HasSomeLengthForOneNumberToo) {
     Estensione e;
     e.comprendi(nessuno);
