@@ -65,6 +65,21 @@ TEST_F(DisposizioneQuote, LieOnTheSectionWhereNothingElseIsFree) {
     EXPECT_EQ(testiDisegnati(), Linee{"\"AB\" 5.000 5.000 h 0.20"});
 }
 
+// A section in the middle of the room has as much of it on both sides; between one at the edge and
+// that edge no turned text has a place.
+TEST_F(DisposizioneQuote, HaveAsManyPlacesForALeaderOnBothSidesAndNoneBetweenSectionAndEdge) {
+    using enum project::Lato;
+    const double mezzo = (stanzaQuote.xmin + stanzaQuote.xmax) / 2;
+    const Scritta testo = std::string("AB");
+    const auto aMonte = richiami(monte, {mezzo - 1, 10}, mezzo - 2, testo);
+    const auto aValle = richiami(valle, {mezzo + 1, 10}, mezzo + 2, testo);
+    EXPECT_GT(aMonte.size(), 10u);
+    EXPECT_EQ(aMonte.size(), aValle.size());
+    const auto alBordo = richiami(monte, {mezzo, 10}, stanzaQuote.xmin, testo);
+    EXPECT_LT(alBordo.size(), aMonte.size());
+    EXPECT_EQ(alBordo.size(), richiami(valle, {mezzo, 10}, stanzaQuote.xmax, testo).size());
+}
+
 TEST_F(DisposizioneQuote, AreLeftOutWhereTheSectionFillsTheSheet) {
     const Candidate senzaPosto = quoteVerticali(5, 8, 1e300, 10, std::string("CD"));
     EXPECT_TRUE(senzaPosto.empty());
