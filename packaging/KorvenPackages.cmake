@@ -35,8 +35,9 @@ stages of an excavation, as a beam between two sides of elastic and plastic
 soil, and checks the section in bending and shear.
 
 ")
+# Where fonts-liberation alone is installed the fonts of windows would be those of a typewriter.
 korven_package(desktop korven32 science any
-    "korven32-cli (= ${PROJECT_VERSION}), korven32-data (= ${PROJECT_VERSION}), qt6-translations-l10n"
+    "korven32-cli (= ${PROJECT_VERSION}), korven32-data (= ${PROJECT_VERSION}), qt6-translations-l10n, fonts-dejavu-core"
     "design of embedded retaining walls"
     "${whole}This package has the desktop program.")
 korven_package(cli korven32-cli science any
@@ -52,5 +53,7 @@ korven_package(python python3-korven32 python any
     "korven32-data (= ${PROJECT_VERSION}), python3 (>= 3.11), python3 (<< 3.12), python3-numpy, python3-pandas"
     "design of embedded retaining walls - Python module"
     "${whole}This package has the module for Python.")
+# An example of the documents draws with it.
+set(CPACK_DEBIAN_PYTHON_PACKAGE_SUGGESTS python3-matplotlib)
 
 include(CPack)

@@ -25,7 +25,7 @@ constexpr Kind kinds[] = {
     {"--dxf", "file:dxf"},   {"--doc", "file:doc"},    {"--txt", "file:txt"},
     {"--csv", "file:csv"},   {"--xlsx", "file:xlsx"},  {"--piano", "file:csv"},
     {"--stampa", "printer"}, {"--griglia", "field:="}, {"--legge", "field:="},
-    {"--rho", "field:,"},
+    {"--rho", "field:,"},    {"--norma", "code"},
 };
 
 std::string joined(const std::set<std::string>& words) {

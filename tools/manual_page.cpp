@@ -74,6 +74,9 @@ constexpr Entry programFiles[] = {
     {"~/korven32",
      {"i progetti, la prima volta con gli esempi", "the projects, with the examples at first"}},
     {"/usr/share/korven32", {"quello che viene con il programma", "what comes with the program"}},
+    {"/usr/share/korven32/data", {"gli esempi, lingua per lingua", "the examples, by language"}},
+    {"/usr/share/doc/korven32-data/html/index.html",
+     {"i documenti, in inglese, per un browser", "the documents, for a browser"}},
 };
 
 // Broken at its blanks into lines that a screen shows whole; no line of it begins as markup does.
@@ -114,12 +117,13 @@ std::string shown(const Gemelli& words) { return words.mostrato(); }
 
 std::string section(const Gemelli& title) { return ".SH " + shown(title) + "\n"; }
 
+// Without hyphenation: the name of a page or an option is to be typed as it stands.
 std::string header(const std::string& page, const std::string& date) {
     std::string capitals;
     for (const char c : page)
         capitals += static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
     return ".TH \"" + capitals + "\" \"1\" \"" + date + "\" \"" + std::string(base::nomeEVersione) +
-           "\" \"" + shown(manual) + "\"\n";
+           "\" \"" + shown(manual) + "\"\n.nh\n";
 }
 
 // A term in bold, the word for its value in italics, and what it means.

@@ -9,8 +9,10 @@ _korven32c_mine() {
 
 # The names of the fields of a project, with a sign behind each.
 _korven32c_fields() {
-    [ -f "$1" ] || return
-    korven32c fields "$1" --json 2>/dev/null | sed -n 's/^ *"campo": "\([^"]*\)",*$/\1'"$2"'/p'
+    local project=${1//\\/} # as it is typed: blanks have a backslash before them
+    project=${project/#\~\//$HOME/}
+    [ -f "$project" ] || return
+    korven32c fields "$project" --json 2>/dev/null | sed -n 's/^ *"campo": "\([^"]*\)",*$/\1'"$2"'/p'
 }
 
 # _korven32c_complete KIND PROJECT WORD
@@ -25,6 +27,11 @@ _korven32c_complete() {
                 compgen -d -- "$word"
                 compgen -f -X "!*.${kind#file:}" -- "$word"
             )
+            ;;
+        code)
+            mapfile -t COMPREPLY < <(compgen -W "$(sed -n 's/^norma; *\([^;]*\);.*/\1/p' \
+                "${KORVEN32_HOME:-/usr/share/korven32}/combinazioni.txt" \
+                "${XDG_DATA_HOME:-$HOME/.local/share}/korven32/combinazioni_utente.txt" 2>/dev/null)" -- "$word")
             ;;
         printer) mapfile -t COMPREPLY < <(compgen -W "$(lpstat -e 2>/dev/null)" -- "$word") ;;
         field:* | set)

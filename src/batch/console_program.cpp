@@ -35,6 +35,18 @@ std::string soloRisposta(const Esito& esito) {
     return esito.bloccaggio ? risposta(*esito.bloccaggio) : std::string();
 }
 
+// The option by which the outputs of a command go elsewhere than beside the project, with what the
+// help says of it.
+std::string altrove(const Opzioni& opzioni) {
+    if (!opzioni.uscita.empty()) return {};
+    for (const auto& riga : opzioni.comando->opzioni)
+        if ((riga.nome.italiano == "--uscita" && riga.valore.inglese == "DIR") ||
+            riga.nome.italiano == "--xlsx")
+            return std::string(riga.nome.mostrato()) + " " + riga.valoreMostrato() +
+                   base::duePunti() + base::traduttore(riga.spiegazione);
+    return {};
+}
+
 // What a command has to tell on standard output.
 std::string resoconto(const Opzioni& opzioni, const Esito& esito) {
     if (esito.righeVersate && (opzioni.json || opzioni.serie.uscita.empty())) return {};
@@ -116,6 +128,7 @@ int programma(int argc, const char* const* argv, const base::Disco& disco) {
     esito.calcola = opzioni->comando->calcola;
     esito.soloRilievi = opzioni->comando->soloRilievi;
     esito.progetto = opzioni->progetto;
+    esito.altrove = altrove(*opzioni);
     analysis::GuardiaRisultati guardia;
     lavora(*opzioni, senzaLingua, {guardia, disco}, esito);
     const std::string testo = resocontoAncheDiUnGuasto(*opzioni, guardia, esito);

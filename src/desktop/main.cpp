@@ -56,10 +56,10 @@ struct Avvio {
 int inLingua(shell::Applicazione& applicazione, shell::DialogoQt& dialogo, Avvio& avvio) {
     safety::luogoEquilibrio = safety::LuogoEquilibrio::finestra;
     commands::scegliCartellaProgramma();
+    QApplication::setWindowIcon(QIcon(shell::qt(base::fileProgramma("korven32.svg"))));
     if (!commands::iniziaLingua({.dialogo = dialogo, .scegli = shell::chiediLingua})) return 0;
     traduciQt(applicazione);
 
-    QApplication::setWindowIcon(QIcon(shell::qt(base::fileProgramma("korven32.svg"))));
     const shell::Terminazione terminazione;
     shell::DialogoFileQt nomi;
     shell::StampanteProgramma stampante;

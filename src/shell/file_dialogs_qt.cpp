@@ -4,7 +4,9 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QHeaderView>
 #include <QLabel>
+#include <QTreeView>
 #include <utility>
 
 #include "commands/document_names.hpp"
@@ -29,6 +31,18 @@ void legaEtichette(const QFileDialog& dialogo) {
             etichetta->setBuddy(dialogo.findChild<QComboBox*>(QLatin1String(scelta)));
 }
 
+// Names are read whole: the type, the same for all, gives them its room. A dialog of the
+// desktop's own has no such list.
+void allargaNomi(const QFileDialog& dialogo) {
+    constexpr int nome = 0, tipo = 2;
+    auto* elenco = dialogo.findChild<QTreeView*>("treeView");
+    if (elenco == nullptr) return;
+    elenco->hideColumn(tipo);
+    elenco->header()->setStretchLastSection(false);
+    elenco->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    elenco->header()->setSectionResizeMode(nome, QHeaderView::Stretch);
+}
+
 // A new project is opened by a name that no file has, so both dialogs take any name; the command
 // judges what it finds under it.
 void prepara(QFileDialog& dialogo, const QString& titolo, QFileDialog::AcceptMode modo) {
@@ -50,6 +64,7 @@ void prepara(QFileDialog& dialogo, const QString& titolo, QFileDialog::AcceptMod
     dialogo.setDefaultSuffix(qt(commands::estensioneProgetti));
     dialogo.setDirectory(QDir::current());
     legaEtichette(dialogo);
+    allargaNomi(dialogo);
 }
 
 std::optional<std::string> risposta(QFileDialog& dialogo) {

@@ -313,6 +313,8 @@ TEST_F(IngressoRotto, AFolderThatCannotBeWrittenIsToldAndTheProjectIsUntouched) 
     EXPECT_EQ(esito.codice, 3);
     EXPECT_TRUE(dice(esito.errori, cartella / "muro.OUT: impossibile scrivere il file"))
         << esito.errori;
+    EXPECT_TRUE(dice(esito.errori, "; --uscita DIR: scrive i risultati in questa cartella"))
+        << esito.errori;
     EXPECT_EQ(file(), prima);
 }
 

@@ -10,6 +10,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
+#include <QTreeView>
 #include <filesystem>
 
 #include "shell/qt_text.hpp"
@@ -55,6 +56,24 @@ TEST_F(DialoghiFile, AskForTheNameOfANewProjectWithAProposal) {
     });
     EXPECT_EQ(dialoghi.nuovo("muro_copia.kvd"), lavori / "variante.kvd");
     EXPECT_TRUE(dialogo.fatto);
+}
+
+TEST_F(DialoghiFile, ShowTheNamesOfProjectsWhole) {
+    const std::string lungo = "una_paratia_con_un_nome_lungo.kvd";
+    test::metti(lavori / lungo, "");
+    int nome = 0, serve = 0;
+    bool tipo = true;
+    const Dialogo dialogo([&](QFileDialog& d) {
+        const auto* elenco = d.findChild<QTreeView*>("treeView");
+        tipo = !elenco->isColumnHidden(2);
+        nome = elenco->columnWidth(0);
+        serve = elenco->fontMetrics().horizontalAdvance(qt(lungo)) + elenco->iconSize().width();
+        d.reject();
+    });
+    EXPECT_EQ(dialoghi.apri(""), "");
+    EXPECT_FALSE(tipo);
+    EXPECT_GT(serve, 0);
+    EXPECT_GT(nome, serve);
 }
 
 // A label without its list would show the "&" of the access key.

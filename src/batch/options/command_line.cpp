@@ -7,6 +7,7 @@
 #include <memory>
 #include <utility>
 
+#include "base/colon.hpp"
 #include "base/process/program_questions.hpp"
 #include "base/translated_texts.hpp"
 #include "base/version.hpp"
@@ -114,6 +115,9 @@ Lettura::Lettura(Opzioni& opzioni, const std::vector<RigaComando>& comandi)
         }
         comando->final_callback([this, &riga] { o_.comando = &riga; });
     }
+    // After the commands, which would take it over.
+    app_.footer(traduttore("Le opzioni di un comando") + base::duePunti() + "korven32c " +
+                traduttore("comando") + " " + base::domande.front().nome.mostrato());
 }
 
 void Lettura::domande(CLI::App& app) {
@@ -227,8 +231,10 @@ std::string Lettura::spiegazione(const CLI::ParseError& errore) const {
     return valoreNonAmmesso(nome, valori, perPosto ? "" : ammessi(*opzione));
 }
 
-EsitoLettura rifiuta(const std::string& perche) {
-    std::cerr << "korven32c: " << perche << '\n' << base::perAiuto("korven32c") << '\n';
+// The help of the command tells more of its options, where there is one.
+EsitoLettura rifiuta(const std::string& perche, const std::string& comando = {}) {
+    std::cerr << "korven32c: " << perche << '\n'
+              << base::perAiuto("korven32c" + (comando.empty() ? "" : " " + comando)) << '\n';
     return {std::nullopt, 2};
 }
 
@@ -239,12 +245,14 @@ EsitoLettura Lettura::leggi(int argc, const char* const* argv) {
     } catch (const CLI::Success& chiesto) {  // help and version
         return {std::nullopt, app_.exit(chiesto)};
     } catch (const CLI::ParseError& errore) {
-        const bool senzaComando = app_.get_subcommands().empty();
-        return rifiuta(senzaComando ? comandoMancante(argc, argv, comandi_) : spiegazione(errore));
+        const auto comandi = app_.get_subcommands();
+        if (comandi.empty()) return rifiuta(comandoMancante(argc, argv, comandi_));
+        return rifiuta(spiegazione(errore), comandi.front()->get_name());
     }
+    const std::string comando = o_.comando->nome.mostrato();
     if (o_.comando->disegna && o_.disegno.nessuna())
-        return rifiuta(mancaArgomento("--dxf, --pdf, --svg, --png"));
-    if (const auto perche = dataIgnota(o_); !perche.empty()) return rifiuta(perche);
+        return rifiuta(mancaArgomento("--dxf, --pdf, --svg, --png"), comando);
+    if (const auto perche = dataIgnota(o_); !perche.empty()) return rifiuta(perche, comando);
     return {o_, 0};
 }
 

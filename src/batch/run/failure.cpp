@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <cassert>
 #include <exception>
+#include <filesystem>
 #include <iostream>
 
 #include "base/colon.hpp"
+#include "base/file_error.hpp"
 #include "base/file_identity.hpp"
 #include "base/files.hpp"
 #include "base/folders/file_names.hpp"
@@ -29,6 +31,16 @@ void togliRisultati(analysis::GuardiaRisultati& guardia, Esito& esito) {
     if (esito.corsa) guardia.togliNonMostrabili(base::nomeRisultati(project::fileCorrente));
 }
 
+// Of a file that has no room beside the project, as beside an example that is installed: how to
+// place it elsewhere.
+std::string doveAltro(const base::ErroreScrittura& errore, const Esito& esito) {
+    const auto cartella = [](const std::string& file) {
+        return std::filesystem::path(file).parent_path();
+    };
+    if (esito.altrove.empty() || cartella(errore.percorso()) != cartella(esito.progetto)) return {};
+    return base::puntoEVirgola() + esito.altrove;
+}
+
 }  // namespace
 
 void raccontaGuasto(analysis::GuardiaRisultati& guardia, Esito& esito) {
@@ -48,6 +60,8 @@ void raccontaGuasto(analysis::GuardiaRisultati& guardia, Esito& esito) {
         fallisci(ingressoRotto, esito.progetto + ": " + commands::spiegazione(errore), esito);
     } catch (const plot::DisegnoInterrotto& errore) {
         fallisci(nonEseguito, errore.what(), esito);
+    } catch (const base::ErroreScrittura& errore) {
+        fallisci(ingressoRotto, errore.what() + doveAltro(errore, esito), esito);
     } catch (const std::exception& errore) {
         fallisci(ingressoRotto, errore.what(), esito);
     }

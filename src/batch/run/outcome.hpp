@@ -64,6 +64,9 @@ struct Esito {
     /// What is said of the checks of a run; empty where its results were not looked at.
     std::vector<safety::VerificaGiudicata> giudizi;
     std::vector<std::string> fileScritti;
+    /// Which option takes the outputs elsewhere, and what it does; empty if it was given, or none
+    /// does.
+    std::string altrove;
     std::string fileRelazione, fileTesto, fileDocumento, filePdf;
 
     /// True if the command has done all that it was asked.

@@ -105,7 +105,8 @@ TEST_F(LineaDiComando, WrongUsageEndsWithTwoAndAClearMessage) {
         EXPECT_EQ(esito.esito.codice, 2) << caso.detto;
         EXPECT_TRUE(esito.uscita.empty());
         EXPECT_TRUE(dice(esito.errori, caso.detto)) << esito.errori;
-        EXPECT_TRUE(dice(esito.errori, "korven32c --aiuto\n")) << esito.errori;
+        EXPECT_TRUE(dice(esito.errori, "\nPer l'aiuto: korven32c ")) << esito.errori;
+        EXPECT_TRUE(esito.errori.ends_with(" --aiuto\n")) << esito.errori;
         for (const char* inglese : {"required", "expected", "Could not", "missing", "convert"})
             EXPECT_FALSE(dice(esito.errori, inglese)) << esito.errori;
     }
@@ -338,6 +339,23 @@ TEST_F(LineaDiComando, SilenziosoStillTellsWhyARunWasRefused) {
     EXPECT_EQ(esito.codice, 1);
     EXPECT_EQ(esito.errori, "ATTENZIONE! Il valore di EJ non è ancora stato definito.\n");
     EXPECT_TRUE(esito.uscita.empty());
+}
+
+TEST(LeggiOpzioni, NamesTheHelpOfTheCommandThatIsTypedWrongly) {
+    const auto detto = [](const std::vector<std::string>& argomenti) {
+        const std::string errori = test::leggi(argomenti).errori;
+        return errori.substr(errori.find('\n') + 1);
+    };
+    EXPECT_EQ(detto({"tutto", "muro.kvd"}), "Per l'aiuto: korven32c tutto --aiuto\n");
+    EXPECT_EQ(detto({"section", "muro.kvd"}), "Per l'aiuto: korven32c sezione --aiuto\n");
+    EXPECT_EQ(detto({"disegna", "muro.kvd"}), "Per l'aiuto: korven32c --aiuto\n");
+    EXPECT_EQ(detto({}), "Per l'aiuto: korven32c --aiuto\n");
+}
+
+TEST(LeggiOpzioni, SaysInTheHelpOfAllWhereTheOptionsOfACommandAre) {
+    const std::string fine = "Le opzioni di un comando: korven32c comando --aiuto";
+    EXPECT_NE(test::leggi({"--aiuto"}).uscita.find(fine), std::string::npos);
+    EXPECT_EQ(test::leggi({"calcola", "--aiuto"}).uscita.find(fine), std::string::npos);
 }
 
 }  // namespace

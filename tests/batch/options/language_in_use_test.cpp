@@ -53,7 +53,7 @@ TEST_F(LinguaInUso, IsThatOfTheEnvironmentWhereNothingElseNamesOne) {
 TEST_F(LinguaInUso, IsThatOfTheEnvironmentWhereTheOptionNamesNone) {
     const auto errori = detto({{"LC_ALL", "en_GB.UTF-8"}}, {"--language", "english"});
     EXPECT_TRUE(dice(errori, "value not allowed: --language english")) << errori;
-    EXPECT_TRUE(dice(errori, "korven32c --help\n")) << errori;
+    EXPECT_TRUE(dice(errori, "For help: korven32c calculate --help\n")) << errori;
 }
 
 TEST_F(LinguaInUso, IsThatOfTheFileBeforeThatOfTheEnvironmentAndOfTheOptionBeforeBoth) {

@@ -43,6 +43,29 @@ TEST(RaccontaGuasto, GivesThreeForAllThatComesFromOutside) {
     EXPECT_EQ(dopo(std::runtime_error("altro")).codice, ingressoRotto);
 }
 
+TEST(RaccontaGuasto, TellsHowToPlaceElsewhereWhatHasNoRoomBesideTheProject) {
+    const auto detto = [](const std::string& file, const std::string& altrove) {
+        Esito esito;
+        esito.progetto = "/dati/muro.kvd";
+        esito.altrove = altrove;
+        ::testing::internal::CaptureStderr();
+        try {
+            throw base::ErroreScrittura(file, 0, "impossibile");
+        } catch (const std::exception&) {
+            analysis::GuardiaRisultati guardia;
+            raccontaGuasto(guardia, esito);
+        }
+        (void)::testing::internal::GetCapturedStderr();
+        EXPECT_EQ(esito.codice, ingressoRotto);
+        return esito.messaggi.at(0);
+    };
+    EXPECT_EQ(detto("/dati/muro.OUT", "--uscita DIR: scrive altrove"),
+              "/dati/muro.OUT: impossibile; --uscita DIR: scrive altrove");
+    EXPECT_EQ(detto("/altri/muro.pdf", "--uscita DIR: scrive altrove"),
+              "/altri/muro.pdf: impossibile");
+    EXPECT_EQ(detto("/dati/muro.OUT", ""), "/dati/muro.OUT: impossibile");
+}
+
 TEST(RaccontaGuasto, TellsAnIndexBeyondATableInTheWordsOfTheTexts) {
     const auto esito = dopo(base::ErroreIndice(21, 20));
     EXPECT_EQ(esito.codice, ingressoRotto);
