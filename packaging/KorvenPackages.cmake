@@ -53,6 +53,8 @@ korven_package(python python3-korven32 python any
     "korven32-data (= ${PROJECT_VERSION}), python3 (>= 3.11), python3 (<< 3.12), python3-numpy, python3-pandas"
     "design of embedded retaining walls - Python module"
     "${whole}This package has the module for Python.")
+# By it the help opens the documents; a desktop has it.
+set(CPACK_DEBIAN_DESKTOP_PACKAGE_RECOMMENDS xdg-utils)
 # An example of the documents draws with it.
 set(CPACK_DEBIAN_PYTHON_PACKAGE_SUGGESTS python3-matplotlib)
 
