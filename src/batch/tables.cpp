@@ -18,10 +18,13 @@ namespace {
 
 using base::uguali;
 
+bool senzaNomi(const FormatiTabelle& chiesti) {
+    return chiesti.xlsx.empty() && chiesti.csv.empty();
+}
+
 // Without a name the workbook goes beside the project.
 std::string fileXlsx(const FormatiTabelle& chiesti) {
-    return chiesti.xlsx.empty() && chiesti.csv.empty() ? nomeProprio(base::parolaTabelle, "xlsx")
-                                                       : chiesti.xlsx;
+    return senzaNomi(chiesti) ? nomeProprio(base::parolaTabelle, "xlsx") : chiesti.xlsx;
 }
 
 std::vector<std::string> fileCsv(const FormatiTabelle& chiesti) {
@@ -61,7 +64,14 @@ void scrivi(const FormatiTabelle& chiesti, const workbook::CartellaFogli& cartel
 
 int esegui(const Opzioni& opzioni, const PorteComando& porte, Esito& esito) {
     return conFascicolo(
-        opzioni, esito, [&] { controlla(opzioni.tabelle, porte.disco); }, {},
+        opzioni, esito,
+        [&] {
+            // The workbook that nobody names lies in the folder that is named for the results.
+            if (!opzioni.uscita.empty() && senzaNomi(opzioni.tabelle))
+                base::creaCartella(opzioni.uscita);
+            controlla(opzioni.tabelle, porte.disco);
+        },
+        {},
         [&](const dossier::Fascicolo& fascicolo) {
             scrivi(opzioni.tabelle, workbook::fogli(fascicolo), porte.disco, esito);
         });

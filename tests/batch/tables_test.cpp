@@ -41,6 +41,16 @@ TEST_F(Tabelle, WriteTheWorkbookBesideTheProjectWithoutANameForIt) {
     EXPECT_EQ(leggiXlsx(scritto("muro-tabelle.xlsx")).size(), 10u);
 }
 
+TEST_F(Tabelle, MakeTheFolderInWhichAWorkbookWithoutANameIsWanted) {
+    const auto esito = comando({"--uscita", cartella / "nuova/qui"});
+    EXPECT_EQ(esito.codice, 0) << esito.errori;
+    EXPECT_EQ(leggiXlsx(scritto("nuova/qui/muro-tabelle.xlsx")).size(), 10u);
+
+    // A file that is named makes no folders.
+    EXPECT_EQ(comando({"--uscita", cartella / "altra", "--xlsx", cartella / "t.xlsx"}).codice, 0);
+    EXPECT_FALSE(fs::exists(cartella / "altra"));
+}
+
 TEST_F(Tabelle, HoldTheSameTablesInTheFolderAsInTheWorkbook) {
     const auto esito = comando({"--xlsx", cartella / "t.xlsx", "--csv", cartella / "a/b"});
     ASSERT_EQ(esito.codice, 0) << esito.errori;
