@@ -84,7 +84,9 @@ FinestraAllegato::FinestraAllegato(QWidget& principale, VitaProgetto& vita, Port
     });
     connect(norma_, &SceltaNorma::cambiata, this, [this] { ricomincia(); });
     connect(&vita, &VitaProgetto::cambiata, this, [this] {
-        cambiato_ = true;
+        // Another stage on the screen, or slow results that come in, are no other project.
+        const live::ProgettoVivo& vivo = vita_.vivo();
+        cambiato_ = cambiato_ || (vivo.aperto() && vivo.dati() != preparati_);
         lasciaAltri();
         if (isVisible()) segui();
     });
@@ -195,6 +197,7 @@ void FinestraAllegato::prepara() {
     conAvviso(porte_.dialogo, [this] {
         CalcoloAllegato calcola = porte_.prepara(norma());
         inPreparazione_ = project::progettoAperto();
+        preparati_ = project::Progetto;
         cambiato_ = false;  // what changes from now on is in none of its numbers
         inCorso_ = true;
         lavoro_->chiedi(std::move(calcola));

@@ -9,6 +9,7 @@
 #include "commands/desktop_forms.hpp"
 #include "document/blocks.hpp"
 #include "factors/factor_rows.hpp"
+#include "project/project_data.hpp"
 #include "shell/annex/annex_work.hpp"
 #include "shell/companions/companion_window.hpp"
 #include "shell/live/background_work.hpp"
@@ -86,6 +87,7 @@ class FinestraAllegato : public FinestraCompagna {
     QWidget* attesa_ = nullptr;  // shown while the numbers are being computed
     LavoroInDisparte<CalcoloAllegato, ComposizioneAllegato>* lavoro_ = nullptr;
     std::string diPagine_, inPreparazione_;  // the project files of the pages, and of the work
+    project::DatiProgetto preparati_;        // that the last work was begun with
     bool inCorso_ = false;
     bool cambiato_ = true;  // the project, since the pages were made
     bool fermato_ = false;  // the last making of pages, by its user
