@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <sstream>
+
 #include "live/wall.hpp"
 #include "project/program_numbers.hpp"
 #include "studies/assignments.hpp"
@@ -30,6 +32,34 @@ TEST(RisultatoStudio, OfEachVariantIsThatOfItsWall) {
         EXPECT_EQ(f->riga(i)[0], dati.lunghezzaParatia);
         EXPECT_NEAR(f->riga(i)[posto], project::kN(parete.estremi.momentoMassimo.valore), 1e-6);
     }
+}
+
+// The rows of `korven32c serie`, head and all, in the order of the variants.
+TEST(RisultatoStudio, IsWrittenAsTheCommandLineWritesIt) {
+    const auto f = fatto(lunghezze());
+    std::istringstream righe(csv(*f));
+    std::string riga;
+    ASSERT_TRUE(std::getline(righe, riga));
+    EXPECT_TRUE(riga.starts_with("variante,lunghezzaParatia [m],")) << riga;
+    std::vector<std::string> prime;
+    while (std::getline(righe, riga))
+        prime.push_back(riga.substr(0, riga.find(',', riga.find(',') + 1)));
+    EXPECT_EQ(prime, (std::vector<std::string>{"1,16", "2,17", "3,18", "4,19", "5,20"}));
+}
+
+TEST(RisultatoStudio, TellsInItsDocumentWhatElseMakesAVariantFail) {
+    auto scritto = lunghezze();
+    scritto.fallisce = {{"spostamento_massimo_m", ">", "30"}, {"riduzione", "<", "1.3"}};
+    scritto.sicurezza = true;
+    const auto d = documento(fatto(scritto), "momento_massimo_kNm",
+                             {"/lavori/muro.kvd", muro(), "2026-01-31"});
+    std::string detto;
+    for (const auto& blocco : d.blocchi)
+        if (const auto* paragrafo = std::get_if<document::Paragrafo>(&blocco))
+            if (paragrafo->testo.starts_with("Fallisce anche con: ")) detto = paragrafo->testo;
+    EXPECT_EQ(
+        detto,
+        "Fallisce anche con: Spostamento massimo > 30 mm, Riduzione della resistenza F < 1.3.");
 }
 
 TEST(RisultatoStudio, KeepsWhatIsDoneWhereItIsStopped) {
