@@ -6,7 +6,7 @@
 #include "safety/margin.hpp"
 #include "safety/told_stages.hpp"
 #include "studies/small_study.hpp"
-#include "support/wall_builder.hpp"
+#include "support/sample_projects.hpp"
 
 namespace korven::studies {
 namespace {
@@ -96,6 +96,22 @@ TEST(CalcoloVariante, TellsTheMovementOfAMechanismAndItsStage) {
     EXPECT_EQ(variante({16}).faseCaduta, 0);
 }
 
+// Numbers of which no equilibrium is certain are told for what they are, with the stage.
+TEST(CalcoloVariante, SaysWhichNumberMakesTheEquilibriumUncertain) {
+    const auto causata = [](const auto& muta, Motivo motivo, int fase) {
+        DatiProgetto dati = test::progettoSemplice();
+        muta(dati);
+        UnaVariante variante(dati, {"lunghezzaParatia"});
+        const RisultatoVariante& r = variante({12});
+        EXPECT_EQ(r.causa, Causa::nonDefinito) << static_cast<int>(motivo);
+        EXPECT_EQ(r.motivo, motivo);
+        EXPECT_EQ(r.faseCaduta, fase);
+    };
+    causata([](DatiProgetto& d) { d.rigTirante[1] = -5; }, Motivo::tirante, 2);
+    causata([](DatiProgetto& d) { d.ksStrato[2] = -100; }, Motivo::modulo, 1);
+    causata([](DatiProgetto& d) { d.rigidezzaEJ = -1000; }, Motivo::parete, 1);
+}
+
 TEST(CalcoloVariante, HasAVerdictForDataThatNoRunWouldTake) {
     const DatiProgetto dati = test::esempioStudio("diaframma_due_ordini");
     const struct {
@@ -118,6 +134,9 @@ TEST(CalcoloVariante, HasAVerdictForDataThatNoRunWouldTake) {
         EXPECT_EQ(r.motivo, motivo) << campo;
         EXPECT_FALSE(variante.calcolo().seguita());
     }
+    DatiProgetto senzaAttrito = dati;
+    senzaAttrito.phiStrato[1] = 0;
+    EXPECT_EQ(UnaVariante(senzaAttrito, {"metodoKs"})({1}).motivo, Motivo::metodoKs) << "Bowles";
     DatiProgetto senza = test::muro().dati();
     senza.rigidezzaEJ = 0;
     UnaVariante variante(senza, {"rigidezzaEJ"});
