@@ -2,10 +2,6 @@
 
 namespace korven::studies {
 
-std::string_view parola(Motivo motivo) {
-    return paroleMotivo().at(static_cast<std::size_t>(motivo));
-}
-
 const std::vector<std::string_view>& paroleMotivo() {
     static const std::vector<std::string_view> parole = {
         "",          "valore",    "riga",          "ordine",       "lunghezza",     "strati",

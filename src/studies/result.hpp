@@ -11,7 +11,7 @@
 
 namespace korven::studies {
 
-/// What is in the way of a variant that has no numbers. The words are in `parola`.
+/// What is in the way of a variant that has no numbers. The words are in `paroleMotivo`.
 enum class Motivo {
     nessuno,
     // of data that refuse a run
@@ -46,9 +46,8 @@ enum class Motivo {
     limite,
 };
 
-/// The stable word for it, the same in every language: "rotazione"; empty for `nessuno`.
-[[nodiscard]] std::string_view parola(Motivo motivo);
-/// All of them, by number.
+/// The stable words for them by number, the same in every language: "rotazione"; empty for
+/// `nessuno`.
 [[nodiscard]] const std::vector<std::string_view>& paroleMotivo();
 /// The words of `safety::parola(Causa)` by number.
 [[nodiscard]] const std::vector<std::string_view>& paroleCausa();
