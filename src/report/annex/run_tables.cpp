@@ -153,9 +153,9 @@ std::string frasePassi(const Fascicolo& f, int fase) {
                        "(iterazioni: %2)."),
             {passi, std::to_string(c->iterazioni)});
     return riempito(
-               traduttore("Equilibrio trovato in %1 passi. Il calcolo per fasi (iterazioni: %2) ne "
-                          "differisce "
-                          "al più di %3 mm, di %4 kN m/m nel momento e di %5 kN/m nel taglio."),
+               traduttore(
+                   "Equilibrio trovato in %1 passi. Il calcolo per fasi (iterazioni: %2) ne "
+                   "differisce al più di %3 mm, di %4 kN m/m nel momento e di %5 kN/m nel taglio."),
                {passi, std::to_string(c->iterazioni),
                 tables::spostamento(c->scartoSpostamento->valore).testo,
                 tables::momento(c->scartoMomento->valore).testo,
