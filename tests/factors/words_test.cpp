@@ -46,6 +46,14 @@ TEST(NoteCombinazioni, LeaveShallowDigsAndWallsThatFallAlone) {
     EXPECT_FALSE(dice(note(tutte, dati), "A2: "));
 }
 
+TEST(NoteCombinazioni, SayOfWallsWithAnchorsAloneThatTheirResistanceIsNotChecked) {
+    project::DatiProgetto dati;
+    const std::string frase = "Di tiranti e puntoni c'è solo la forza";
+    EXPECT_FALSE(dice(note(una("A2", 0), dati), frase));
+    dati.nTiranti = 1;
+    EXPECT_TRUE(dice(note(una("A2", 0), dati), frase));
+}
+
 TEST(NoteCombinazioni, TellWhichAxialForceDecides) {
     project::DatiProgetto dati;
     dati.sforzoNormale = 10;

@@ -66,6 +66,13 @@ TEST(Xlsx, KeepsTitleAndHeadsInPlace) {
     EXPECT_NE(xml.find("<autoFilter ref=\"A2:B4\"/>"), std::string::npos);
 }
 
+TEST(Xlsx, PrintsOnSheetsOfA4AcrossAsWideAsOnePage) {
+    const std::string xml = leggiXlsx(xlsx(cartella(dueColonne())))[0].xml;
+    EXPECT_NE(xml.find("<pageSetup paperSize=\"9\" fitToHeight=\"0\" orientation=\"landscape\""),
+              std::string::npos)
+        << xml;
+}
+
 TEST(Xlsx, MakesColumnsAsWideAsTheirTextsWithinReason) {
     auto p = dueColonne();
     p.righe[0][1] = tables::parola(std::string(200, 'x'));

@@ -98,6 +98,22 @@ TEST(ProspettoBilancio, HidesNoRemainder) {
     EXPECT_EQ(prospettoBilancio(dati, b).righe.back()[1].testo, "0.00");
 }
 
+TEST(ProspettoBilancio, HasTheConstantPressureWhereThereIsOne) {
+    dossier::BilancioFase b;
+    b.monte = {10, 30};
+    b.valle = {-12, -33};
+    const project::DatiProgetto dati;
+    const auto righe = [&] {
+        const auto p = prospettoBilancio(dati, b);
+        return std::ranges::count_if(
+            p.righe, [](const auto& r) { return r[0].testo == "Pressione costante"; });
+    };
+    EXPECT_EQ(righe(), 0);
+    b.costante = {2, 3};
+    EXPECT_EQ(righe(), 1);
+    EXPECT_EQ(riga(prospettoBilancio(dati, b), "Pressione costante")[1].numero, 20);
+}
+
 // What a checker gets from the printed pressures, and why the restraint bears more.
 TEST(ProspettoBilancio, TellsForceAndMomentOfAFixedToeAndTheHalfSegmentBelowIt) {
     auto dati = test::progettoSemplice();
@@ -306,17 +322,31 @@ TEST(CapitoloFasi, SaysWhatTheReportHasOtherwise) {
     EXPECT_TRUE(detto);
 }
 
-TEST(CapitoloFasi, OfARunWithoutRestHasTheEquilibriumAndSaysSo) {
-    const Contesto c = [] {
-        class InSilenzio : public analysis::OsservatoreCorsa {
-        } osservatore;
-        const auto dati = test::progettoSenzaPace();
-        return Contesto{
-            std::make_shared<const dossier::Fascicolo>(dossier::fascicolo(
+Contesto senzaPace() {
+    class InSilenzio : public analysis::OsservatoreCorsa {
+    } osservatore;
+    const auto dati = test::progettoSenzaPace();
+    return {std::make_shared<const dossier::Fascicolo>(dossier::fascicolo(
                 {.scritti = dati, .usati = dati, .nSeg = 10, .identita = {}, .sulProgetto = {}},
                 osservatore)),
             {}};
-    }();
+}
+
+// Elsewhere the remark names the command that finds the equilibrium, which stands in this document.
+TEST(CapitoloOsservazioni, OfARunThatDoesNotConvergeNamesTheChapterInsteadOfTheCommand) {
+    std::string testi;
+    for (const auto& t :
+         test::tutti<document::Tavola>(test::blocchi(capitoloOsservazioni, senzaPace())))
+        for (const auto& r : t.prospetto.righe)
+            for (const auto& cella : r) testi += cella.testo + "\n";
+    EXPECT_NE(testi.find("la relazione non ha numeri, il suo equilibrio è nel capitolo Fasi"),
+              std::string::npos)
+        << testi;
+    EXPECT_EQ(testi.find("korven32c"), std::string::npos) << testi;
+}
+
+TEST(CapitoloFasi, OfARunWithoutRestHasTheEquilibriumAndSaysSo) {
+    const Contesto c = senzaPace();
     const auto b = fasi(c);
     EXPECT_TRUE(haTavola(b, "Nodi: Fase 1"));
     const auto corse = tavola(b, "Soluzione di equilibrio e calcolo per fasi");
