@@ -15,6 +15,7 @@ namespace {
 using project::DatiProgetto;
 using test::contesto;
 using test::numero;
+using test::riga;
 using test::tavola;
 
 Blocchi terreno(const DatiProgetto& dati) { return test::blocchi(capitoloTerreno, contesto(dati)); }
@@ -107,6 +108,24 @@ TEST(CapitoloTerreno, EndsTheStiffnessWithWhatTheCalculationTakes) {
         EXPECT_NE(p.righe[ultima - 1][1].testo.find("EJ = "), std::string::npos);
         EXPECT_FALSE(p.note.empty());
     }
+}
+
+// Who follows the formula with a pencil takes the numbers of the rows above and of the data.
+TEST(CapitoloTerreno, SetsIntoTheStiffnessTheNumbersThatArePrintedAboveIt) {
+    const auto righe = [](const project::Sezione& sezione) {
+        DatiProgetto dati = test::progettoSemplice();
+        dati.sezione = sezione;
+        return prospettoRigidezza(*contesto(dati).fascicolo);
+    };
+    const auto diaframma = righe(structure::diaframmaSimmetrico());
+    EXPECT_EQ(riga(diaframma, "Rigidezza di un metro di paratia")[2].testo,
+              "30000 · (800.0³/12 + (" + riga(diaframma, "Rapporto dei moduli")[3].testo +
+                  " − 1) · (" + riga(diaframma, "Inerzia dell'armatura a monte")[3].testo + " + " +
+                  riga(diaframma, "Inerzia dell'armatura a valle")[3].testo + ")) / 10⁶");
+    const auto pali = righe(structure::paliArmati());
+    EXPECT_EQ(riga(pali, "Rigidezza di un metro di paratia")[2].testo,
+              "(30000 · π · 800.0⁴/64 + (200000 − 30000) · " +
+                  riga(pali, "Inerzia delle barre")[3].testo + ") / 1000.0 / 10⁶");
 }
 
 // By hand: 12 mm of web across a slope of 100 in 190 are 12 sqrt(1 + (100/190)^2) = 13.5606 mm

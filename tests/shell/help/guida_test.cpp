@@ -63,6 +63,13 @@ TEST_F(Guida, OpensAPageFromTheContents) {
     EXPECT_EQ(mostrata(), "apri");
 }
 
+TEST_F(Guida, IsReadOnWithTheArrowsOfTheContentsAfterTheWayToThem) {
+    finestra.mostra(pagina("visore"));
+    browser().setFocus();
+    finestra.mostraSommario();
+    EXPECT_EQ(finestra.focusWidget(), &albero());
+}
+
 TEST_F(Guida, GoesToThePlaceOfAField) {
     finestra.mostra(pagina("strati"));
     EXPECT_EQ(browser().verticalScrollBar()->value(), 0);

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QLabel>
+#include <QPushButton>
 
 #include "support/desktop_bench.hpp"
 
@@ -22,6 +23,12 @@ TEST(InformazioniTest, ShowsTheOpenProjectWithItsAmpersandAsItIs) {
     const Informazioni box("File corrente: /A&&B/C&D", nullptr);
     EXPECT_EQ(riga(box, "fileCorrente")->text(), "File corrente: /A&B/C&D");
     EXPECT_FALSE(riga(box, "fileCorrente")->isHidden());
+}
+
+TEST(InformazioniTest, HasItsKeysOnTheButton) {
+    const Informazioni box("", nullptr);
+    ASSERT_NE(box.focusWidget(), nullptr);
+    EXPECT_EQ(box.focusWidget(), box.findChild<QPushButton*>());
 }
 
 TEST(InformazioniTest, ClosesAtEnterAndAtEsc) {

@@ -70,6 +70,18 @@ TEST_F(VistaProspettoTest, TellsNobodyOfATableThatIsTheSame) {
     EXPECT_EQ(cambiate.count(), 1);
 }
 
+TEST_F(VistaProspettoTest, DrawsAllHeadsAnewWhereOneHasAnotherName) {
+    Prospetto p = nodi(5);
+    p.colonne.back().titolo += " nuova";
+    QSignalSpy teste(&vista.modello(), &QAbstractItemModel::headerDataChanged);
+    vista.mostra(p);
+    ASSERT_FALSE(teste.isEmpty());
+    for (const auto& segnale : teste) {
+        EXPECT_EQ(segnale[1].toInt(), 0);
+        EXPECT_EQ(segnale[2].toInt(), vista.modello().columnCount() - 1);
+    }
+}
+
 TEST_F(VistaProspettoTest, TakesMoreAndFewerRows) {
     Prospetto p = nodi(5);
     p.righe.resize(10);

@@ -62,6 +62,17 @@ TEST_F(Sorveglianza, EndsTheWorkThatItsUserEndsAndNotTheNext) {
     sorveglianza.finita();
 }
 
+TEST_F(Sorveglianza, CountsTheHalfSecondFromTheOutermostWork) {
+    sorveglianza.inizia();
+    adesso += 300ms;
+    sorveglianza.inizia();
+    adesso += 200ms;
+    EXPECT_FALSE(lavora());
+    EXPECT_NE(finestra(), nullptr);
+    sorveglianza.finita();
+    sorveglianza.finita();
+}
+
 TEST_F(Sorveglianza, TakesWorkWithinWorkForOne) {
     sorveglianza.inizia();
     adesso += 600ms;
