@@ -1,5 +1,6 @@
 #include <QDir>
 #include <QIcon>
+#include <QPixmapCache>
 #include <QTimer>
 #include <algorithm>
 #include <clocale>
@@ -87,11 +88,20 @@ int domande(const std::vector<std::string>& argomenti) {
     return commands::rispondi(letti);
 }
 
+// Each dialog of files and each menu of changing items keeps its icons under new names, which
+// nobody asks for again: with Qt's own limit of 10 MiB a day's session grows by all of them. What a
+// window draws at a time takes less than one.
+void limitaImmagini() {
+    constexpr int kibibyte = 2048;
+    QPixmapCache::setCacheLimit(kibibyte);
+}
+
 int finestre(int argc, char** argv, Avvio& avvio) {
     shell::Applicazione applicazione(argc, argv);
     QCoreApplication::setOrganizationName("korven32");
     QCoreApplication::setApplicationName("korven32");
     QGuiApplication::setDesktopFileName("local.korven32.korven32");
+    limitaImmagini();
     std::setlocale(LC_NUMERIC, "C");
     shell::segnoDecimaleQt();
     avvio.argomento = QCoreApplication::arguments().value(1).toStdString();
