@@ -2,7 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include "masks/editing.hpp"
+#include "support/plain_masks.hpp"
+#include "support/sample_projects.hpp"
 #include "support/wall_builder.hpp"
+#include "support/wall_files.hpp"
 
 namespace korven::panels {
 namespace {
@@ -81,6 +85,35 @@ TEST(TiriTirante, SayWhyNothingIsComputed) {
     EXPECT_EQ(tiri.fasi[0].nota, "non calcolata");
     EXPECT_EQ(tiri.perche, parete.rifiuto);
     EXPECT_NE(tiri.perche, "");
+}
+
+TEST(TiriDellaRiga, AreThoseOfTheAnchorThatTheRowWillBe) {
+    const test::CartellaProvvisoria cartella;
+    masks::Maschere maschere;
+    maschere.leggiMaschere(test::maschereSemplici(cartella));
+    const auto dati = test::progettoSemplice();
+    masks::preparaMaschera(maschere, masks::NumeroMaschera::tiranti, dati, 0);
+    auto testi = maschere.valoriTesto();
+    live::ProgettoVivo vivo;
+    const auto dellaRiga = [&](int riga) {
+        return tiriDellaRiga(vivo, masks::ModelloGriglia(maschere.corrente(), testi), riga);
+    };
+    EXPECT_TRUE(dellaRiga(1).fasi.empty()) << "without a project";
+    EXPECT_EQ(dellaRiga(1).perche, "");
+
+    vivo.guarda(&dati);
+    ASSERT_EQ(dellaRiga(1).fasi.size(), 2U);
+    EXPECT_EQ(dellaRiga(1).fasi[1].tiro, tiriDelTirante(vivo.parete(), 1).fasi[1].tiro);
+    EXPECT_TRUE(dellaRiga(1).fasi[1].tiro);
+    EXPECT_TRUE(dellaRiga(20).fasi.empty());
+    EXPECT_EQ(dellaRiga(20).perche, "la riga è vuota");
+
+    testi[1] = "x";
+    vivo.digita(maschere.corrente(), {masks::NumeroMaschera::tiranti, {}, testi});
+    ASSERT_NE(vivo.impedimento(), "");
+    EXPECT_TRUE(dellaRiga(1).fasi.empty());
+    EXPECT_EQ(dellaRiga(1).perche,
+              "i tiri tornano quando la tabella è completa: " + vivo.impedimento());
 }
 
 }  // namespace

@@ -111,6 +111,8 @@ TEST(LeggiCaso, RefusesExpectationsThatMeanNothing) {
     EXPECT_EQ(erroreDi("momento z 1.03 = 1 kN m/m entro 1 %"),
               "la profondità di un nodo, non «1.03»");
     EXPECT_EQ(erroreDi("momento = 1 kN m/m entro 1 %"), "una profondità: «z 2.5»");
+    EXPECT_EQ(erroreDi("momento z 2.5 quota 1 = 1 kN m/m entro 1 %"),
+              "fase, z o tirante, non «quota»");
     EXPECT_EQ(erroreDi("momento fase 3 z 1 = 1 kN m/m entro 1 %"),
               "il numero di una fase o di un tirante che c'è, non «3»");
     EXPECT_EQ(erroreDi("momento z 1 = 1 kN entro 1 %"), "l'unità «kN m/m»");
@@ -167,6 +169,9 @@ TEST(LeggiCaso, RefusesACaseThatSaysTooLittle) {
     EXPECT_EQ(errore("fonte: F\n").second, "un titolo");
     EXPECT_EQ(errore("titolo: T\n").second, "una fonte: da dove vengono i valori attesi");
     EXPECT_EQ(errore(testa).second, "una grandezza attesa");
+    EXPECT_EQ(errore(std::string(testa) + "[pareti]\n"),
+              (std::pair(3L, std::string("una delle parti «parete», «variante» e «attesi», tra "
+                                         "parentesi quadre"))));
 }
 
 TEST(LeggiCaso, RefusesAWallThatARunWouldRefuse) {
@@ -185,6 +190,16 @@ TEST(LeggiGruppo, KeepsTheTheoryAsItIs) {
     EXPECT_EQ(g.nome, "travi");
     EXPECT_EQ(g.ordine, 3);
     EXPECT_EQ(g.teoria, "# One\n\nTwo = 2\n");
+}
+
+TEST(LeggiGruppo, RefusesWhatAGroupDoesNotSay) {
+    try {
+        std::ignore = leggiGruppo("/x/travi/gruppo.txt", "ordin: 3\n");
+        FAIL() << "taken";
+    } catch (const base::ErroreFile& e) {
+        EXPECT_EQ(e.riga(), 1);
+        EXPECT_EQ(e.atteso(), "atteso: ordine, titolo, descrizione, figura o curva, non «ordin»");
+    }
 }
 
 }  // namespace
