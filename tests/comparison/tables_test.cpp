@@ -26,6 +26,14 @@ TEST(ProspettiConfronto, SayOfEqualProjectsThatNothingDiffers) {
               "Prima: prima.kvd: in equilibrio in tutte le fasi, che sono 2; segmenti: 20");
 }
 
+TEST(ProspettiConfronto, SayOfAFieldThatNothingReadsThatNoResultChanges) {
+    auto dopo = progettoSemplice();
+    dopo.sezione.fyk += 10;  // of a wall without a section
+    const Confronto c = test::confronto(progettoSemplice(), dopo);
+    EXPECT_EQ(prospettoCampi(c).righe.size(), 1U);
+    EXPECT_EQ(frasi(c).at(1), "Nessun risultato cambia.");
+}
+
 TEST(ProspettiConfronto, HaveTheFieldWithBothValuesAndTheResultsWithTheirDifference) {
     const Confronto c = test::confronto(test::trave(3), test::trave(6));
     const auto campi = prospettoCampi(c);

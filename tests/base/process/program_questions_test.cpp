@@ -2,8 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include "base/folders/program_folder.hpp"
 #include "base/translated_texts.hpp"
 #include "base/version.hpp"
+#include "support/wall_files.hpp"
 
 namespace korven::base {
 namespace {
@@ -45,6 +47,49 @@ TEST(TestoAiuto, ShowsTheEnglishNamesAloneInEveryOtherLanguage) {
         EXPECT_EQ(richiesta("--aiuto"), Richiesta::aiuto);  // understood all the same
     }
     impostaLingua(1);
+}
+
+// What a program that only answers a question speaks, whatever is wrong with its folder.
+class LinguaSilenziosa : public ::testing::Test {
+ protected:
+    LinguaSilenziosa() { impostaCartellaProgramma(cartella.percorso()); }
+    ~LinguaSilenziosa() override {
+        tabellaTesti.nTesti = 0;
+        impostaLingua(1);
+        impostaCartellaProgramma({});
+    }
+    void scelta(std::string_view testo) { test::metti(cartella / "language.cfg", testo); }
+    void testi() {
+        test::metti(cartella / "texts01.txt", "Uso\r\nU\r\nU\r\nU\r\nUsage\r\nU\r\n\r\n");
+        for (const char* nome : {"texts06.txt", "texts32.txt"}) test::metti(cartella / nome, "");
+    }
+
+    test::CartellaProvvisoria cartella;
+};
+
+TEST_F(LinguaSilenziosa, IsTheChosenOneOnceItsTextsAreThere) {
+    scelta("5\r\n");
+    testi();
+    scegliLinguaSilenziosa();
+    EXPECT_EQ(linguaCorrente(), 5);
+    EXPECT_EQ(traduttore("Uso"), "Usage");
+}
+
+TEST_F(LinguaSilenziosa, IsItalianWhereNothingOrNoLanguageIsChosen) {
+    testi();
+    scegliLinguaSilenziosa();
+    EXPECT_EQ(linguaCorrente(), 1);
+    for (const char* codice : {"1\r\n", "7\r\n", "x\r\n", ""}) {
+        scelta(codice);
+        scegliLinguaSilenziosa();
+        EXPECT_EQ(linguaCorrente(), 1) << codice;
+    }
+}
+
+TEST_F(LinguaSilenziosa, IsItalianWithoutTexts) {
+    scelta("5\r\n");
+    scegliLinguaSilenziosa();
+    EXPECT_EQ(linguaCorrente(), 1);
 }
 
 }  // namespace
