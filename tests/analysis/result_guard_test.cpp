@@ -42,6 +42,21 @@ class Guardia : public ::testing::Test {
     GuardiaRisultati guardia;
 };
 
+TEST_F(Guardia, TellsWhatStandsInThePlaceOfItsLock) {
+    const std::string serratura = base::nomeSerratura(banco.risultati());
+    fs::create_directories(serratura);
+    try {
+        calcola();
+        FAIL() << "calculated without a lock";
+    } catch (const base::ErroreScrittura& e) {
+        EXPECT_EQ(e.percorso(), serratura);
+        EXPECT_NE(std::string(e.what()).find("togliere ciò che ha questo nome"), std::string::npos)
+            << e.what();
+    }
+    EXPECT_TRUE(fs::is_directory(serratura));
+    EXPECT_FALSE(fs::exists(banco.risultati()));
+}
+
 TEST_F(Guardia, HoldsTheResultFileFromTheComparisonBeyondTheOutput) {
     struct Spia : test::UscitaFinta {
         void scriviRelazione() override {

@@ -74,6 +74,16 @@ TEST(DocumentoConfronto, TellsTheOptionsOfBothAndWhereTheDifferencesComeFrom) {
     }
 }
 
+TEST(DocumentoConfronto, ListsTheRemarksThatOnlyOneOfThemHas) {
+    const auto d = documentoDi(korven::test::progettoSemplice(), test::cade());
+    const auto titoli = tutti<document::Titolo>(d);
+    EXPECT_TRUE(std::any_of(titoli.begin(), titoli.end(),
+                            [](const auto& t) { return t.testo == "Osservazioni che cambiano"; }));
+    const auto paragrafi = tutti<document::Paragrafo>(d);
+    EXPECT_TRUE(std::any_of(paragrafi.begin(), paragrafi.end(),
+                            [](const auto& p) { return p.testo.starts_with("solo dopo: "); }));
+}
+
 TEST(DocumentoConfronto, SaysInWordsThatNoFieldDiffers) {
     const auto d = documentoDi(test::trave(3), test::trave(3));
     EXPECT_EQ(tutti<document::Tavola>(d).size(), 2U);
