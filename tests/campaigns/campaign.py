@@ -46,6 +46,13 @@ def recorded():
     return RECORD.read_text(encoding="utf-8").splitlines() if RECORD.exists() else []
 
 
+def tell_last(name):
+    """Tells the last recorded run of a campaign, of each of its choices."""
+    for line in recorded():
+        if re.match(re.escape(name) + "[ :]", line):
+            print("last run of", line, flush=True)
+
+
 def tell(figures, faults, begun, record, sources, seed=None):
     """Tells what was run and how, and records it in place of the last words of the same campaign.
     @param figures  "name: what was done"
@@ -86,9 +93,7 @@ class Campaign:
         self.faults, self.done = [], 0
         self.begun, self.commit = time.time(), commit()
         self.work = pathlib.Path(tempfile.mkdtemp(prefix="korven_campaign_"))
-        for line in recorded():
-            if line.startswith(name + ":"):
-                print("last run of", line)
+        tell_last(name)
         for program in ("korven32c",):
             if not (self.bin / program).exists():
                 sys.exit(f"{self.bin}/{program}: not built")
@@ -197,3 +202,20 @@ def left_behind(folder):
     """What programs left: temporary files, and halves and locks beside their outputs."""
     left = [path.name for path in (folder.parent / "tmp").iterdir()]
     return left + [name for name in contents(folder) if pathlib.Path(name).name.startswith(".korven-")]
+
+
+def main():
+    """For the campaigns in the shell: `last NAME`, `commit`, or `tell FIGURES FAULTS BEGUN COMMIT [--record]`."""
+    match sys.argv[1:]:
+        case ["last", name]:
+            tell_last(name)
+        case ["commit"]:
+            print(commit())
+        case ["tell", figures, faults, begun, sources, *record]:
+            tell(figures, int(faults), float(begun), record == ["--record"], sources)
+        case _:
+            sys.exit(main.__doc__)
+
+
+if __name__ == "__main__":
+    main()
