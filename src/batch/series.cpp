@@ -39,7 +39,7 @@ std::string usoSbagliato(const Opzioni& o) {
     const bool campioni = s.campioni > 0 || !s.leggi.empty();
     const int fonti = (s.piano.empty() ? 0 : 1) + (s.griglie.empty() ? 0 : 1) + (campioni ? 1 : 0);
     const std::string tutte = nomi({opzionePiano, opzioneGriglia, opzioneCampioni});
-    if (fonti == 0) return mancaArgomento(tutte);
+    if (fonti == 0) return mancaUnoDi(tutte);
     if (fonti > 1) return insiemeNonAmmesse(tutte);
     if (campioni && s.leggi.empty()) return mancaArgomento(nomi({opzioneLegge}));
     if (campioni && s.campioni == 0) return mancaArgomento(nomi({opzioneCampioni}));
@@ -47,8 +47,7 @@ std::string usoSbagliato(const Opzioni& o) {
     if (s.ipercubo && !s.rho.empty()) return insiemeNonAmmesse(nomi({opzioneIpercubo, opzioneRho}));
     if (s.riprendi && s.uscita.empty()) return mancaArgomento(nomi({opzioneUscitaSerie}));
     if (s.grafico.empty() != o.disegno.nessuna())
-        return mancaArgomento(s.grafico.empty() ? nomi({opzioneGrafico})
-                                                : "--dxf, --pdf, --svg, --png");
+        return s.grafico.empty() ? mancaArgomento(nomi({opzioneGrafico})) : mancaUnoDi(nomiDisegno);
     return {};
 }
 

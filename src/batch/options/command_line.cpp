@@ -11,6 +11,7 @@
 #include "base/process/program_questions.hpp"
 #include "base/translated_texts.hpp"
 #include "base/version.hpp"
+#include "batch/options/common_options.hpp"
 #include "batch/options/document_date.hpp"
 #include "batch/options/wrong_usage.hpp"
 
@@ -251,7 +252,7 @@ EsitoLettura Lettura::leggi(int argc, const char* const* argv) {
     }
     const std::string comando = o_.comando->nome.mostrato();
     if (o_.comando->disegna && o_.disegno.nessuna())
-        return rifiuta(mancaArgomento("--dxf, --pdf, --svg, --png"), comando);
+        return rifiuta(mancaUnoDi(nomiDisegno), comando);
     if (const auto perche = dataIgnota(o_); !perche.empty()) return rifiuta(perche, comando);
     return {o_, 0};
 }

@@ -9,6 +9,9 @@
 
 namespace korven::batch {
 
+/// The files of a drawing, as a message names them.
+inline constexpr const char* nomiDisegno = "--dxf, --pdf, --svg, --png";
+
 using base::nomeComandoVerifica;
 using base::nomeOpzioneCalcola;
 using base::nomeOpzioneCartella;

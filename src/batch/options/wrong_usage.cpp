@@ -23,6 +23,10 @@ std::string mancaArgomento(const std::string& nome) {
     return traduttore("manca un argomento") + base::duePunti() + nome;
 }
 
+std::string mancaUnoDi(const std::string& nomi) {
+    return traduttore("manca un argomento, uno di questi") + base::duePunti() + nomi;
+}
+
 std::string mancaValore(const std::string& nome) {
     return traduttore("manca il valore di un'opzione") + base::duePunti() + nome;
 }

@@ -12,6 +12,8 @@ namespace korven::batch {
 
 /// @param nome  of an option, or the word of an argument by its place
 [[nodiscard]] std::string mancaArgomento(const std::string& nome);
+/// One of several is enough.
+[[nodiscard]] std::string mancaUnoDi(const std::string& nomi);
 [[nodiscard]] std::string mancaValore(const std::string& nome);
 [[nodiscard]] std::string dataPiuVolte(const std::string& nome);
 /// @param valori   as typed

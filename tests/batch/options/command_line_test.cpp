@@ -97,6 +97,8 @@ TEST_F(LineaDiComando, WrongUsageEndsWithTwoAndAClearMessage) {
         {{"calcola", progetto, "--uscita"}, "manca il valore di un'opzione: --uscita\n"},
         {{"imposta", progetto, "--uscita", "n.kvd"}, "manca un argomento: campo=valore\n"},
         {{"imposta", progetto, "nFasi=1"}, "manca un argomento: --uscita\n"},
+        {{"diagramma", progetto, "--tipo", "taglio"},
+         "manca un argomento, uno di questi: --dxf, --pdf, --svg, --png\n"},
         {{"imposta", progetto, "altro.kvd", "--uscita", "n.kvd"},
          "valore non ammesso: campo=valore altro.kvd\n"},
     };
