@@ -57,6 +57,21 @@ TEST(InCustodia, MovesWithItsLock) {
     EXPECT_FALSE(terzo.prendiFile(cartella / "f"));
 }
 
+TEST(InCustodia, TakesThePlaceOfAnotherWithItsLock) {
+    const test::CartellaProvvisoria cartella;
+    InCustodia file;
+    ASSERT_TRUE(file.prendiFile(cartella / "f"));
+    {
+        InCustodia altro;
+        ASSERT_TRUE(altro.prendiFile(cartella / "g"));
+        file = std::move(altro);
+    }
+    // What it held before has ended with the other.
+    InCustodia terzo, quarto;
+    EXPECT_TRUE(terzo.prendiFile(cartella / "f"));
+    EXPECT_FALSE(quarto.prendiFile(cartella / "g"));
+}
+
 TEST(InCustodia, IsNoFileOfALinkAndNoneThatLostItsName) {
     const test::CartellaProvvisoria cartella;
     test::metti(cartella / "vero", "");

@@ -46,6 +46,14 @@ TEST_F(Parziale, ComesToTheDiskBeforeItTakesTheName) {
     EXPECT_EQ(disco.chiamate, ordine);
 }
 
+TEST_F(Parziale, SaysThatWhatWasNotReadCannotBeCutOff) {
+    test::DiscoGuasto disco;
+    disco.taglio = true;
+    FileParziale file(nome, disco);
+    file.scrivi("a\r\nb");
+    EXPECT_THROW(file.tieni(3), ErroreScrittura);
+}
+
 TEST_F(Parziale, LeavesTheOldFileWholeWhicheverCallFails) {
     for (std::size_t quale = 1; quale <= 4; ++quale) {
         test::metti(nome, "vecchio");

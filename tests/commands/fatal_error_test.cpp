@@ -10,6 +10,7 @@
 #include "base/table.hpp"
 #include "project/project_file.hpp"
 #include "support/document_ports.hpp"
+#include "support/environment_variable.hpp"
 #include "support/failing_disk.hpp"
 #include "support/sample_projects.hpp"
 
@@ -126,6 +127,19 @@ TEST_F(Recupero, WritesTypedRowsBesideTheProjectAndTellsWhere) {
     EXPECT_TRUE(testoFine(ErroreRighe(105, 100, file), "/lavori/muro_recuperato.kvd")
                     .ends_with("_righe.txt\nLe modifiche non salvate sono state messe in: "
                                "/lavori/muro_recuperato.kvd"));
+}
+
+// A new user whose home cannot hold a folder for rescued work, and whose project's is gone.
+TEST_F(Recupero, GoesToTheSystemsFolderWhereTheUserCanHaveNone) {
+    const test::CartellaProvvisoria casa, provvisoria;
+    test::metti(casa / "file", "no folder");
+    const test::VariabileAmbiente dati("XDG_DATA_HOME", (casa / "file") + "/dati");
+    const test::VariabileAmbiente tmp("TMPDIR", provvisoria.percorso());
+    fileCorrente = ambiente.lavori / "tolta/muro.kvd";
+    const std::string file = recuperaProgetto();
+    EXPECT_EQ(file, provvisoria / "muro_recuperato.kvd");
+    EXPECT_EQ(test::contenuto(file),
+              base::inCp1252(project::testoProgetto(test::progettoSemplice())));
 }
 
 }  // namespace

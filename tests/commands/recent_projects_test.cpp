@@ -113,5 +113,10 @@ TEST(VoceRecente, LeavesTheMiddleOfALongFolderOut) {
               "&1 m.kvd - /àèìòùàèìòùàèìòùàèìò…èìòùàèìòùàèìòùàèìòùàèìòùàèìòùàèìòùàèìòù");
 }
 
+TEST_F(ProgettiRecenti, AreNoneWhereTheListCannotBeRead) {
+    std::filesystem::create_directory(elenco());  // a folder in its place
+    EXPECT_EQ(progettiRecenti(), Percorsi{});
+}
+
 }  // namespace
 }  // namespace korven::commands

@@ -215,5 +215,40 @@ TEST(VariantePresa, IsNoneOfAProjectThatHasChangedSince) {
     EXPECT_TRUE(prendi(*f, 3, dati).perche.starts_with("Il progetto è cambiato"));
 }
 
+// A field that the project no longer has is named, a line each.
+TEST(VariantePresa, IsNoneOfAProjectWithoutTheFieldsOfTheStudy) {
+    auto s = lunghezze();
+    s.variazioni.push_back({"phiStrato[3]", 0, {"30", "31", "1"}});
+    const auto f = fatto(s);
+    auto dati = muro();
+    ASSERT_GE(dati.nStrati, 3);
+    dati.nStrati = 2;
+    const auto presa = prendi(*f, 0, dati);
+    EXPECT_NE(presa.perche.find("phiStrato[3]"), std::string::npos) << presa.perche;
+    EXPECT_EQ(presa.dati, dati);
+}
+
+TEST(StudioScritto, IsAnotherWhenACriterionIs) {
+    StudioScritto s = lunghezze();
+    s.fallisce = {{"spostamento_massimo_m", ">", "30"}};
+    EXPECT_EQ(s, StudioScritto(s));
+    for (const CriterioScritto& altro : {CriterioScritto{"riduzione", ">", "30"},
+                                         CriterioScritto{"spostamento_massimo_m", ">=", "30"},
+                                         CriterioScritto{"spostamento_massimo_m", ">", "31"}}) {
+        auto diverso = s;
+        diverso.fallisce = {altro};
+        EXPECT_NE(s, diverso);
+    }
+}
+
+TEST(GraficoStudio, OfAResultThatTheStudyHasNotIsEmpty) {
+    const auto f = fatto(lunghezze());
+    EXPECT_TRUE(documentoGrafico(f, "non_esiste").blocchi.empty());
+    const auto nessuno = formatoGrafico(*f, "non_esiste"),
+               suo = formatoGrafico(*f, "momento_massimo_kNm");
+    EXPECT_LT(nessuno.larghezza, suo.larghezza);
+    EXPECT_LT(nessuno.altezza, suo.altezza);
+}
+
 }  // namespace
 }  // namespace korven::desk

@@ -124,5 +124,29 @@ TEST(BilancioLimiteTest, OfADossierSumsToWhatTheVerdictMisses) {
     EXPECT_FALSE(fascicolo(test::progettoSemplice()).limite);
 }
 
+// An anchor of 3 t with a cosine of one, at 2 m, and one that is slack below it; a third stands at
+// a node that a restraint holds, and a fourth out of the wall.
+TEST(BilancioLimiteTest, HasTheAnchorsThatPullWithTheirPrestressAlone) {
+    auto p = test::pareteNuda(11, 1);
+    const auto tirante = [](int nodo, double rigidezza, double pretensione) {
+        equilibrium::TiranteFase t;
+        t.nodo = nodo;
+        t.rigidezza = rigidezza;
+        t.pretensione = pretensione;
+        return t;
+    };
+    p.tiranti = {tirante(2, 0, 3), tirante(4, 500, 3), tirante(0, 0, 3), tirante(-1, 0, 3)};
+    p.nodi[0].vincolato = true;
+    const BilancioLimite b = bilancioLimite(p, Meccanismo{false, 0, 1, 100}, 1);
+    const auto* suo = parte(b, AzioneLimite::tirante);
+    ASSERT_TRUE(suo);
+    EXPECT_EQ(suo->tirante, 1);
+    EXPECT_NEAR(suo->forza, -3, 1e-12);
+    EXPECT_NEAR(suo->spinta, -3 * 2, 1e-12);
+    EXPECT_EQ(std::count_if(b.parti.begin(), b.parti.end(),
+                            [](const auto& una) { return una.cosa == AzioneLimite::tirante; }),
+              1);
+}
+
 }  // namespace
 }  // namespace korven::dossier

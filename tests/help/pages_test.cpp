@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "base/file_error.hpp"
+#include "support/temporary_folder.hpp"
 
 namespace korven::help {
 namespace {
@@ -97,6 +98,18 @@ TEST(FileGuida, MayBeCutNowhereWithinItsFirstPage) {
 
 TEST(FileGuida, ThatIsMissingIsTold) {
     EXPECT_THROW(static_cast<void>(leggiGuida("/manca/module06ita.hlp")), base::ErroreFile);
+}
+
+TEST(Guida, IsReadFromItsFileAsFromItsBytes) {
+    const test::CartellaProvvisoria cartella;
+    test::metti(cartella / "m.hlp", piccola);
+    const Guida letta = leggiGuida(cartella / "m.hlp"), attesa = leggiGuida("m.hlp", piccola);
+    ASSERT_EQ(letta.pagine.size(), attesa.pagine.size());
+    for (std::size_t i = 0; i < letta.pagine.size(); ++i) {
+        EXPECT_EQ(letta.pagine[i].titolo, attesa.pagine[i].titolo);
+        EXPECT_EQ(letta.pagine[i].html, attesa.pagine[i].html);
+    }
+    EXPECT_THROW(std::ignore = leggiGuida(cartella / "manca.hlp"), base::ErroreFile);
 }
 
 }  // namespace

@@ -173,6 +173,11 @@ TEST(ParoleRelazione, SayWhatKeepsItFromItsNumbers) {
               "fase 1");
     m.corsa = {ModoFine::nonMostrabile, 0, 0};
     EXPECT_EQ(paroleRelazione(m), "La relazione non ha numeri: nessuna relazione può mostrarli");
+    // Nothing is made up where the run has no reason of its own.
+    for (const ModoFine modo : {ModoFine::compiuta, ModoFine::rifiutata, ModoFine::fermata}) {
+        m.corsa = {modo, 1, 0};
+        EXPECT_EQ(paroleRelazione(m), "La relazione non ha numeri");
+    }
     m.fasi[1].esito = EsitoFase::meccanismo;  // told already
     EXPECT_EQ(paroleRelazione(m), "");
     m = dueFasi();

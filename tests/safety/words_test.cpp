@@ -184,5 +184,12 @@ TEST(Frase, SaysNothingOfARunThatNeedsNoWords) {
     }
 }
 
+TEST(ParoleEsito, AreThoseOfAStageInTheTables) {
+    EXPECT_EQ(parole(equilibrium::EsitoFase::equilibrio), "in equilibrio");
+    EXPECT_EQ(parole(equilibrium::EsitoFase::meccanismo), "meccanismo");
+    EXPECT_EQ(parole(equilibrium::EsitoFase::nonDefinito), "non definito");
+    EXPECT_EQ(parole(equilibrium::EsitoFase::nessunNumero), "nessun numero");
+}
+
 }  // namespace
 }  // namespace korven::safety

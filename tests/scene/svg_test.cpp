@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "scene/polygon.hpp"
+#include "support/hatch_setup.hpp"
 #include "support/sample_projects.hpp"
 #include "support/scene_parts.hpp"
 
@@ -63,6 +64,19 @@ TEST(Svg, HoldsAllTextsOfAPicture) {
     const std::string testo = svg(s, Tavolozza::chiara, "Arial", "", "");
     for (const Testo& t : test::figure<Testo>(s))
         EXPECT_NE(testo.find('>' + t.testo + "</text>"), std::string::npos) << t.testo;
+}
+
+class SvgCampitura : public test::ProvaCampiture {
+ protected:
+    SvgCampitura() { scriviLibreria(programma, {{3, {0.005, {{-100, 0, 100, 0}}, "riga"}}}); }
+};
+
+TEST_F(SvgCampitura, WritesAHatchAsOnePathOfItsStrokes) {
+    // Tiles of 40 px with a line in the middle: at 20, from border to border of the area.
+    EXPECT_EQ(scritto(Campitura{rettangolo(10, 10, 70, 30), 103, {Ruolo::sfondo}}),
+              "<path d=\"M10 20L40 20M40 20L70 20\" fill=\"none\" stroke=\"#ffffff\" "
+              "stroke-width=\"0.9\" stroke-linecap=\"round\"/>\n");
+    EXPECT_EQ(scritto(Campitura{rettangolo(10, 22, 70, 30), 103, {Ruolo::sfondo}}), "");
 }
 
 }  // namespace

@@ -113,5 +113,14 @@ TEST(TirantiPossibili, AreAllThatFitWhereTheirNumberVaries) {
     EXPECT_EQ(tirantiPossibili(dati, righe), 20);
 }
 
+TEST(NessunaColonna, NamesTheNearestResultOrAllOfThem) {
+    EXPECT_EQ(nessunaColonna("momento_masimo_kNm", 0),
+              "nessun risultato si chiama così; forse momento_massimo_kNm?");
+    const std::string tutte = nessunaColonna("zzzzzzzzzzzz", 2);
+    EXPECT_TRUE(tutte.starts_with("nessun risultato si chiama così: ci sono ")) << tutte;
+    for (const Colonna& colonna : colonne(2, true))
+        EXPECT_NE(tutte.find(colonna.nome), std::string::npos) << colonna.nome;
+}
+
 }  // namespace
 }  // namespace korven::studies

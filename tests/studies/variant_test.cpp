@@ -110,6 +110,8 @@ TEST(CalcoloVariante, SaysWhichNumberMakesTheEquilibriumUncertain) {
     causata([](DatiProgetto& d) { d.rigTirante[1] = -5; }, Motivo::tirante, 2);
     causata([](DatiProgetto& d) { d.ksStrato[2] = -100; }, Motivo::modulo, 1);
     causata([](DatiProgetto& d) { d.rigidezzaEJ = -1000; }, Motivo::parete, 1);
+    // A negative cohesion pushes the active limit beyond the passive one.
+    causata([](DatiProgetto& d) { d.coesione[1] = d.coesione[2] = -100; }, Motivo::limiti, 1);
 }
 
 TEST(CalcoloVariante, HasAVerdictForDataThatNoRunWouldTake) {

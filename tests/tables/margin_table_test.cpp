@@ -147,5 +147,22 @@ TEST(Frasi, AreSentencesOfTheMargin) {
     EXPECT_EQ(tutte[2], safety::paroleMetodo(m) + ".");
 }
 
+TEST(PercheSenzaOrdine, SaysOfEachCourseWhyItHasNoPower) {
+    using enum safety::Andamento;
+    EXPECT_EQ(percheSenzaOrdine(avvicinano), "");
+    EXPECT_EQ(percheSenzaOrdine(uguali), "Le tre maglie danno lo stesso valore.");
+    EXPECT_EQ(percheSenzaOrdine(alternano),
+              "Le tre maglie si avvicinano a un valore dalle due parti: l'errore non ha un "
+              "ordine.");
+    EXPECT_EQ(percheSenzaOrdine(lontane),
+              "Fra la seconda maglia e la terza il valore cambia quanto fra le prime due o di "
+              "più: a che valore tende non si vede ancora.");
+    EXPECT_TRUE(
+        percheSenzaOrdine(vicine).starts_with("Le due maglie più fini differiscono di meno di 0."))
+        << percheSenzaOrdine(vicine);
+    EXPECT_TRUE(percheSenzaOrdine(strette).starts_with("Le tre maglie differiscono di meno di "))
+        << percheSenzaOrdine(strette);
+}
+
 }  // namespace
 }  // namespace korven::tables

@@ -202,5 +202,24 @@ TEST(LeggiGruppo, RefusesWhatAGroupDoesNotSay) {
     }
 }
 
+TEST(LeggiCaso, SaysWhichPlaceAQuantityWants) {
+    EXPECT_EQ(erroreDi("tiro = 1 kN/m entro 1 %"), "un tirante: «tirante 1»");
+    EXPECT_EQ(erroreDi("momento_massimo z 1 = 1 kN m/m entro 1 %"),
+              "una grandezza senza profondità e senza tirante");
+    EXPECT_EQ(erroreDi("rigidezza_sezione fase 1 = 1 kN m² entro 1 %"), "una grandezza senza fase");
+}
+
+TEST(LeggiCaso, TakesNoTextForAField) {
+    EXPECT_EQ(errore(std::string(testa) + "[parete]\ndescrStrato = 1\n").second,
+              "un campo di numeri, non «descrStrato»");
+}
+
+TEST(LeggiCaso, TakesTheStiffnessOfTheSectionWhereNoneIsWritten) {
+    const Caso caso = letto(std::string(testa) +
+                            "[parete]\nsegmenti = 50\nbase = palancola_mensola\n"
+                            "rigidezzaEJ = 0\n[attesi]\nesito = equilibrio\n");
+    EXPECT_GT(caso.parete.dati.rigidezzaEJ, 0);
+}
+
 }  // namespace
 }  // namespace korven::verification

@@ -102,8 +102,9 @@ KORVEN_CORSIE void applicaPassi(RigheAttive& r, const int* quali, double* const*
     int k = 0;
     for (; k + V * L <= r.quante; k += V * L)
         attraversaPassi<L, R, V, false>(riga, pivot, d, passi, k, massimi, attive);
-    for (; k + L <= r.quante; k += L)
-        attraversaPassi<L, R, 1, false>(riga, pivot, d, passi, k, massimi, attive);
+    if constexpr (V > 1)
+        for (; k + L <= r.quante; k += L)
+            attraversaPassi<L, R, 1, false>(riga, pivot, d, passi, k, massimi, attive);
     if (k < r.quante) attraversaPassi<L, R, 1, true>(riga, pivot, d, passi, k, massimi, attive);
     for (int q = 0; q < R; ++q) r.massima[quali[q]] = massimoCorsie<L>(massimi[q]);
 }

@@ -73,6 +73,20 @@ TEST(RisolviSistema, TakesTheLastOfEqualCellsAsThePlainAlgorithmDoes) {
     EXPECT_GT(s.risolti, 300);
 }
 
+// Full pivoting lets no cell grow to more than twice the largest: such cells overflow all the same,
+// in a pass of which others are still put off.
+TEST(RisolviSistema, EqualsThePlainAlgorithmWhereCellsOverflowOnTheWay) {
+    SistemaDoppio s;
+    const Cella enorme = [](Caso& caso) { return qualunque(caso) * 1.7e308; };
+    for (const double pieno : {0.2, 1.0}) {
+        const Cella cella = [&](Caso& caso) {
+            return tra(caso, 0, 1) < pieno ? enorme(caso) : 0.0;
+        };
+        confrontaFamiglia(40, 90, cella, qualunque, s);
+    }
+    EXPECT_GT(s.risolti + s.singolari, 0);
+}
+
 TEST(RisolviSistema, KeepsTheSignOfEveryZero) {
     SistemaDoppio s;
     for (const double pieno : {0.15, 0.4}) {

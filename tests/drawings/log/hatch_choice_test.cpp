@@ -91,5 +91,10 @@ TEST(SceltaCampitura, DrawsTheLineAgainWhereNoHatchIsLeft) {
     EXPECT_EQ(scelta.descrizione(), "0 Argilla");
 }
 
+TEST_F(Scelta, HasTheCodeOfOnePatternAsTheLogReadsIt) {
+    EXPECT_EQ(codiceCampitura({5, 1}), figura("105").codice);
+    EXPECT_EQ(codiceCampitura({12, 1}), figura("112").codice);
+}
+
 }  // namespace
 }  // namespace korven::drawings

@@ -359,5 +359,24 @@ TEST(CapitoloSezione, WithoutASectionSaysWhatIsMissing) {
     EXPECT_TRUE(test::tutti<document::Tavola>(b).empty());
 }
 
+// A cantilever without ground, fixed at its toe, bends one way only under a force at its head.
+TEST(CapitoloSezione, SaysThatNoMomentOfTheOtherSignActs) {
+    auto dati = test::muro()
+                    .lungo(4)
+                    .strato({.fondo = 30, .gammaN = 0, .gammaSat = 0, .ks = 0})
+                    .fase({.scavo = 5})
+                    .con(&project::DatiProgetto::forzaTesta, -3)
+                    .con(&project::DatiProgetto::vincoloPiede, 3)
+                    .dati();
+    dati.sezione = structure::diaframmaSimmetrico();
+    const Contesto c = contesto(dati);
+    const auto& flessione = *c.fascicolo->controlli.flessione;
+    const auto p = tavola(sezione(c), "Verifiche");
+    bool detto = false;
+    for (const auto& nota : p.note) detto = detto || nota == "Nessun momento negativo agisce.";
+    EXPECT_FALSE(flessione.negativo);
+    EXPECT_TRUE(detto);
+}
+
 }  // namespace
 }  // namespace korven::report

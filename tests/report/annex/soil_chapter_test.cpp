@@ -168,5 +168,38 @@ TEST(CapitoloTerreno, SaysWhatTheSymbolsOfAModulusAre) {
     EXPECT_EQ(tavola(terreno(dati), "Moduli delle molle").colonne[1].unita, "√t/m²");
 }
 
+// (1 - sin 15) / (1 + sin 14.9) = 0.5898 against ka of 15 degrees under a slope of 14.9: 0.8759.
+TEST(CapitoloTerreno, SaysOfWhichLayerThePressureAtRestIsBelowTheActiveOne) {
+    DatiProgetto dati = test::progettoSemplice();
+    dati.phiStrato[1] = 15;
+    dati.inclinazioneMonte = 14.9;
+    const auto p = tavola(terreno(dati), "Coefficienti di spinta");
+    EXPECT_LT(numero(p, 0, 5), numero(p, 0, 6));
+    EXPECT_TRUE(dice(p, "Strato 1: a monte k0 è minore di ka"));
+    EXPECT_FALSE(dice(p, "Strato 2: a monte k0 è minore di ka"));
+}
+
+TEST(CapitoloTerreno, SaysThatFallingGroundRaisesThePressureAtRest) {
+    DatiProgetto dati = test::progettoSemplice();
+    dati.inclinazioneMonte = -12;
+    const auto p = tavola(terreno(dati), "Coefficienti di spinta");
+    EXPECT_NEAR(numero(p, 0, 5), 0.5 / (1 - 0.2079117), 1e-6);
+    EXPECT_TRUE(dice(p, "dalla parte sicura"));
+}
+
+TEST(CapitoloTerreno, HasNoFormulaForBarsThatAreNotThere) {
+    DatiProgetto dati = test::progettoSemplice();
+    dati.sezione = structure::diaframmaArmatoAValle();
+    const auto p = prospettoRigidezza(*contesto(dati).fascicolo);
+    int senza = 0;
+    for (const auto& r : p.righe)
+        if (r[1].testo == "Am") {
+            EXPECT_EQ(r[2].testo, "") << r[0].testo;
+            EXPECT_EQ(r[3].numero, 0);
+            ++senza;
+        }
+    EXPECT_EQ(senza, 1);
+}
+
 }  // namespace
 }  // namespace korven::report

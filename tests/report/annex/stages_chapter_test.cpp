@@ -363,5 +363,30 @@ TEST(CapitoloFasi, OfAProjectWithoutAWallSaysWhy) {
     EXPECT_FALSE(std::get<document::Paragrafo>(b[0]).testo.empty());
 }
 
+// A pressure that the user adds and an anchor that pulls with its prestress alone act at the limit
+// too, and the rows still sum up to what is missing.
+TEST(CapitoloFasi, OfAMechanismNamesTheConstantPressureAndTheAnchorThatDoesNotGive) {
+    auto dati = test::progettoSemplice();
+    dati.lunghezzaParatia = dati.profFase[2] + 1.5;
+    dati.pressioneOrizz = 0.5;
+    dati.rigTirante[1] = 0;
+    dati.pretTirante[1] = 1;
+    const Contesto c = contesto(dati);
+    ASSERT_TRUE(c.fascicolo->limite);
+    const auto b = fasi(c);
+    const auto p = tavola(b, "Equilibrio al limite");
+    EXPECT_EQ(riga(p, "Pressione costante").back().testo, "spinge");
+    EXPECT_EQ(riga(p, "Tirante 1").back().testo, "resiste");
+    const auto nodi = tavola(b, "Pressioni al limite");
+    EXPECT_NE(nodi.note.back().find("La forza conta anche la pressione costante di 5"),
+              std::string::npos)
+        << nodi.note.back();
+    const bool ruota = !c.fascicolo->limite->moto.traslazione;
+    const std::size_t colonna = ruota ? 5 : 2, ultime = ruota ? 2 : 1;
+    double somma = 0;
+    for (std::size_t i = 0; i + ultime < p.righe.size(); ++i) somma += numero(p, i, colonna);
+    EXPECT_NEAR(std::fabs(somma), 10 * c.fascicolo->parete.perche->moto->mancante, 1e-6);
+}
+
 }  // namespace
 }  // namespace korven::report

@@ -172,5 +172,46 @@ TEST(ProspettoVerdetti, CountsARemarkThatPreventsTheRunByItself) {
               "1");
 }
 
+// No stage falls with a tenth of the strength of its soil, nor does anything hold it without soil.
+TEST(ProspettoVerdetti, SaysThatATenthOfTheStrengthIsEnough) {
+    dossier::Fascicolo f = *contesto(test::progettoSemplice()).fascicolo;
+    for (auto& fase : f.margine->fasi) fase.riduzione = {.F = {}, .oltre = true};
+    EXPECT_NE(riga(prospettoVerdetti(f), "Equilibrio di tutte le fasi")[2].testo.find(
+                  "Basta un decimo della resistenza del terreno"),
+              std::string::npos);
+}
+
+TEST(ProspettoVerdetti, SaysWhatHoldsAWallOnAHingeWhoseFactorIsBeyondTheRange) {
+    dossier::Fascicolo f = *contesto(test::progettoSemplice()).fascicolo;
+    for (auto& fase : f.margine->fasi)
+        fase.riduzione = {.F = {}, .oltre = true, .senzaTerreno = true};
+    const auto detto = [&] {
+        return riga(prospettoVerdetti(f), "Equilibrio di tutte le fasi")[2].testo;
+    };
+    EXPECT_NE(detto().find("Tiranti, puntoni e vincoli tengono la paratia"), std::string::npos);
+    f.parete.dati.vincoloPiede = valore(project::VincoloPiede::cerniera);
+    EXPECT_NE(detto().find("Il piede fermo e i sostegni sopra tengono la paratia"),
+              std::string::npos)
+        << detto();
+}
+
+TEST(ProspettoVerdetti, NamesTheCheckOfTheShearThatUsesMost) {
+    auto dati = test::progettoSemplice();
+    dati.sezione = structure::paliArmati();
+    dati.sezione.armDiamStaffe = 1;
+    dati.sezione.armPassoStaffe = 20;
+    dossier::Fascicolo f = *contesto(dati).fascicolo;
+    for (const auto& [cosa, detto] :
+         {std::pair(dossier::Verifica::bielle, "bielle di calcestruzzo"),
+          std::pair(dossier::Verifica::armatura, "armatura d'anima")}) {
+        f.verifiche = {{.cosa = cosa,
+                        .equilibrio = dossier::LatoVerifica{{98, 100, false}, {2, 5}},
+                        .relazione = dossier::LatoVerifica{{98, 100, false}, {2, 5}},
+                        .perche = ""}};
+        EXPECT_EQ(riga(prospettoVerdetti(f), "Taglio")[2].testo,
+                  std::string("sfruttamento 98.0 % (") + detto + ", fase 2, z = 5.00 m)");
+    }
+}
+
 }  // namespace
 }  // namespace korven::report

@@ -65,5 +65,71 @@ TEST(RispostaBloccaggio, TellsWhyThereIsNone) {
         "la pretensione di 90.00 kN/m, la più grande possibile.");
 }
 
+TEST(RispostaBloccaggio, TellsThePrestressOrWhatCanBeReached) {
+    EXPECT_EQ(
+        risposta(Bloccaggio{.fase = 2, .pretensione = 8.5, .forza = 8}, 1, 8),
+        "Con pretTirante[1] = 85.000 kN/m il tirante ha 80.00 kN/m alla fine della fase 2, la "
+        "prima in cui è in opera.");
+    EXPECT_EQ(risposta(Bloccaggio{.esito = EsitoBloccaggio::maiInOpera}, 3, 8),
+              "Il tirante 3 non è in opera in nessuna fase: aumentare tirantiFase della fase in "
+              "cui viene teso.");
+    EXPECT_EQ(
+        risposta(
+            Bloccaggio{
+                .esito = EsitoBloccaggio::sotto, .fase = 2, .pretMinima = 1, .forzaMinima = 2.5},
+            1, 2),
+        "20.00 kN/m sono troppo pochi: alla fine della fase 2 il tirante ha già 25.00 kN/m con la "
+        "pretensione di 10.00 kN/m, la più piccola possibile.");
+}
+
+TEST(EsitoBloccaggio, HasAWordForPrograms) {
+    const std::pair<EsitoBloccaggio, const char*> parole[] = {
+        {EsitoBloccaggio::trovato, "trovato"},      {EsitoBloccaggio::maiInOpera, "mai_in_opera"},
+        {EsitoBloccaggio::primaCade, "prima_cade"}, {EsitoBloccaggio::maiInPiedi, "mai_in_piedi"},
+        {EsitoBloccaggio::sotto, "sotto"},          {EsitoBloccaggio::sopra, "sopra"}};
+    for (const auto& [esito, detto] : parole) EXPECT_EQ(parola(esito), detto);
+}
+
+TEST(Criteri, AreToldWithWhatIsAskedOfEach) {
+    EXPECT_EQ(parole(Criteri{}), "equilibrio in ogni fase");
+    EXPECT_EQ(parole(Criteri{.riduzione = 1.3, .spostamento = 0.03, .resistenza = true}),
+              "equilibrio in ogni fase, riduzione F almeno 1.3, spostamento al più 30 mm, "
+              "flessione e taglio della sezione verificati");
+    EXPECT_EQ(inBreve(LunghezzaProvata{.lunghezza = 12}), "soddisfa i criteri");
+    for (const auto& [criterio, detto] :
+         {std::pair(Criterio::equilibrio, "equilibrio"),
+          std::pair(Criterio::riduzione, "riduzione"),
+          std::pair(Criterio::spostamento, "spostamento"),
+          std::pair(Criterio::flessione, "flessione"), std::pair(Criterio::taglio, "taglio")})
+        EXPECT_EQ(parola(criterio), detto);
+}
+
+// Whoever types millimetres gets told, as no wall may move by metres.
+TEST(SpostamentoSbagliato, TakesWhatIsMetresForMillimetres) {
+    EXPECT_EQ(spostamentoSbagliato(0.03), "");
+    EXPECT_EQ(spostamentoSbagliato(30), "il limite è in metri, e minore di 1: 0.03 per 30 mm");
+}
+
+TEST(RispostaLunghezza, TellsTheShortestOrWhatTheLongestLacks) {
+    RicercaLunghezza ricerca;
+    const Criteri chiesti{.riduzione = 1.3};
+    EXPECT_EQ(risposta(ricerca, chiesti, {.passo = 0.1, .finoA = 5}),
+              "Nessuna lunghezza da provare: lo scavo più profondo va oltre l'ultima. Criteri: "
+              "equilibrio in ogni fase, riduzione F almeno 1.3.");
+    LunghezzaProvata lunga = senza(Criterio::riduzione);
+    lunga.riduzione = DiFase{1.25, 2};
+    ricerca.provate = {lunga};
+    EXPECT_EQ(risposta(ricerca, chiesti, {.passo = 0.1, .finoA = 12}),
+              "Nessuna lunghezza fino a 12 m soddisfa i criteri. Con 12 m: riduzione F 1.25 "
+              "nella fase 2, chiesta 1.3. Criteri: equilibrio in ogni fase, riduzione F almeno "
+              "1.3.");
+    ricerca.provate = {LunghezzaProvata{.lunghezza = 11.5}, LunghezzaProvata{.lunghezza = 12.5}};
+    ricerca.risposta = 0;
+    EXPECT_EQ(risposta(ricerca, {}, {.passo = 0.5, .finoA = 12.5}),
+              "La paratia più corta che soddisfa i criteri è lunga 11.5 m (passo 0.5 m); li "
+              "soddisfano tutte le lunghezze provate da questa fino a 12.5 m. Criteri: "
+              "equilibrio in ogni fase.");
+}
+
 }  // namespace
 }  // namespace korven::studies
