@@ -2,8 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <stdexcept>
+
 #include "base/file_error.hpp"
 #include "support/failing_disk.hpp"
+#include "support/progress_double.hpp"
 #include "support/run_harness.hpp"
 #include "support/sample_projects.hpp"
 
@@ -101,6 +104,19 @@ TEST(NomeRisultati, LeavesANameAloneThatWasGivenMeanwhile) {
         fileCorrente = banco.cartella / "altro.kvd";
     }
     EXPECT_EQ(fileCorrente, banco.cartella / "altro.kvd");
+}
+
+// A window that can't be opened ends the run before its first number.
+TEST(FileInCorso, LeavesNoResultFileWhereTheProgressCannotBegin) {
+    class SenzaFinestra : public test::AvanzamentoFinto {
+        void apri() override { throw std::runtime_error("no window"); }
+    };
+    Banco banco(progettoSemplice());
+    SenzaFinestra avanzamento;
+    EXPECT_THROW(CalcoloParatia(relazione, {banco.dialogo, avanzamento, banco.uscita, nullptr}),
+                 std::runtime_error);
+    EXPECT_FALSE(banco.haRisultati());
+    EXPECT_EQ(fileCorrente, banco.progetto());
 }
 
 }  // namespace

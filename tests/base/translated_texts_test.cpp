@@ -159,7 +159,9 @@ TEST_F(TestiProgramma, TableIsMadeOfBothFilesAndSortedAsOne) {
     EXPECT_EQ(traduttore("MOMENTO"), "MOMENT");
 
     test::DialogoFinto prova;
+    EXPECT_FALSE(inModoProva());
     impostaModoProva(&prova);
+    EXPECT_TRUE(inModoProva());
     EXPECT_EQ(traduttore("Manca"), "Manca");
     EXPECT_EQ(prova.messaggi.size(), 1u);
 }

@@ -4,6 +4,7 @@
 
 #include "base/value_error.hpp"
 #include "plot/sheet.hpp"
+#include "project/codes.hpp"
 #include "support/drawing_by_pen.hpp"
 #include "support/wall_builder.hpp"
 
@@ -184,6 +185,45 @@ TEST_F(DisegnoMargine, FitsAsManyStagesAsAProjectCanHave) {
         EXPECT_LT(t.x, plot::larghFoglio) << t.testo;
     }
     EXPECT_EQ(testiCon("\"2.00\"").size(), 20u);
+}
+
+// A hinge, a block under the toe, a toe that is held in the ground: each is drawn.
+TEST_F(DisegnoMargine, ShowsTheRestraintsOfTheWall) {
+    const auto tratti = [&] {
+        disegna();
+        long quanti = 0;
+        plot::statoPlot.archivio.perOgniLinea([&](const plot::Segmento& s) {
+            if (s.x1 <= 10) ++quanti;  // of the section
+        });
+        return quanti;
+    };
+    const long libera = tratti();
+    dati.vincoloTesta = valore(project::VincoloTesta::cerniera);
+    const long cerniera = tratti();
+    EXPECT_GT(cerniera, libera);
+    dati.vincoloPiede = valore(project::VincoloPiede::cerniera);
+    const long fermo = tratti();
+    EXPECT_GT(fermo, cerniera);
+    dati.vincoloPiede = valore(project::VincoloPiede::incastro);
+    const long incastro = tratti();
+    EXPECT_GT(incastro, cerniera);
+    EXPECT_NE(incastro, fermo);
+}
+
+TEST_F(DisegnoMargine, HatchesWhereTheGroundInFrontCanGiveNoMore) {
+    const auto tratti = [&] {
+        disegna();
+        long quanti = 0;
+        plot::statoPlot.archivio.perOgniLinea([&](const plot::Segmento&) { ++quanti; });
+        return quanti;
+    };
+    const long senza = tratti();
+    margine.fasi[1].passiva.alLimite = {{4, 5}};
+    const long uno = tratti();
+    margine.fasi[1].passiva.alLimite = {{4, 6}};
+    const long due = tratti();
+    EXPECT_GT(uno, senza);
+    EXPECT_GT(due, uno) << "a longer stretch has more strokes";
 }
 
 }  // namespace

@@ -137,5 +137,22 @@ TEST(CalcoloTirante, GivesTheForceOfOneAnchorWhereSpacingAndAngleAreKnown) {
     EXPECT_FALSE(forzaDiUno(ingressi, 173.205));
 }
 
+TEST(Etichetta, SaysWhichLengthAndWhichMeasureAreMeant) {
+    IngressiCalcolo in = quattroTrefoli();
+    EXPECT_EQ(etichetta(lunghezza, in), "Lunghezza libera L [m]");
+    in.genere = GenereAncoraggio::puntone;
+    EXPECT_EQ(etichetta(lunghezza, in), "Lunghezza del puntone L [m]");
+    in.genere = GenereAncoraggio::puntoneTraPareti;
+    EXPECT_EQ(etichetta(lunghezza, in), "Distanza tra le paratie L [m]");
+    in.misuraArea = MisuraArea::area;
+    EXPECT_EQ(etichetta(misura, in), "Area di ciascuno [mm²]");
+    in.misuraArea = MisuraArea::diametro;
+    EXPECT_EQ(etichetta(misura, in), "Diametro di ciascuno d [mm]");
+    EXPECT_EQ(etichetta(modulo, in), "Modulo elastico E [N/mm²]");
+    EXPECT_EQ(etichetta(numero, in), "Numero di trefoli, barre o profili n");
+    EXPECT_EQ(etichetta(interasse, in), "Interasse s [m]");
+    EXPECT_EQ(etichetta(inclinazione, in), "Inclinazione sull'orizzontale α [°]");
+}
+
 }  // namespace
 }  // namespace korven::panels

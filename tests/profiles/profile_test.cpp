@@ -108,5 +108,20 @@ TEST(ProfiloTest, TellsItsNumbers) {
     EXPECT_EQ(misureMostrate(tubo(273, 6.3)), "Ø 273, t 6.3 mm");
 }
 
+// A measure by its letter on the sketch, a material by its own.
+TEST(ProfiloTest, OfASheetPileShowsMeasuresAndMaterials) {
+    Profilo p;
+    p.genere = Genere::palancola;
+    p.misure = {{masks::campoSezione(&Sezione::palancolaBase), 345},
+                {masks::campoSezione(&Sezione::fyk), 355},
+                {masks::campoSezione(&Sezione::modEacciaio), 210000}};
+    const std::string detto = misureMostrate(p);
+    EXPECT_NE(detto.find(" = 345, fyk = 355, Es = 210000"), std::string::npos) << detto;
+    p.genere = Genere::diaframma;
+    p.misure = {{masks::campoSezione(&Sezione::fck), 25},
+                {masks::campoSezione(&Sezione::modEcls), 30000}};
+    EXPECT_EQ(misureMostrate(p), "fck = 25, Ec = 30000");
+}
+
 }  // namespace
 }  // namespace korven::profiles

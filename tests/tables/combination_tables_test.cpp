@@ -114,5 +114,18 @@ TEST(ProspettiCombinazioni, ShowWhereEachFactorComesFrom) {
     EXPECT_EQ(testi(p.righe[0]), attesa);
 }
 
+// A surcharge that lies on the retained side pushes, one that was taken away helps: 1.5 and none.
+TEST(ProspettiCombinazioni, ShowBothFactorsOfStagesWhoseSurchargesHaveDifferentSigns) {
+    auto dati = mensola();
+    test::aggiungiFase(dati, {.scavo = 5, .sovraccarico = 1});
+    dati.sovraccFase[1] = -1;
+    dati.sovraccMonte = 1;
+    const auto c = calcolate(dati, {{.testaVariabile = 1.5, .effetti = 1.35}});
+    const Prospetto p = prospettoFattori(c);
+    const auto celle = testi(p.righe.at(0));
+    EXPECT_TRUE(std::any_of(celle.begin(), celle.end(),
+                            [](const auto& t) { return t.find('-', 1) != std::string::npos; }));
+}
+
 }  // namespace
 }  // namespace korven::tables

@@ -107,5 +107,12 @@ TEST(ProspettoDominioTest, HasARowForEachStage) {
     EXPECT_EQ(debole.righe.back()[4].peso, review::Peso::pericolo);
 }
 
+TEST(QuadroSezioneTest, SaysOfAStiffnessBeyondAllNumbersThatThereIsNone) {
+    project::Sezione sezione = structure::diaframmaSimmetrico();
+    sezione.modEcls = sezione.modEacciaio = 1e305;
+    ASSERT_TRUE(live::sezioneCalcolabile(sezione));
+    EXPECT_EQ(righe(muro(sezione)).at(0), "EJ della sezione: nessun numero.");
+}
+
 }  // namespace
 }  // namespace korven::tables

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "analysis/watch/run_end.hpp"
 #include "support/progress_double.hpp"
 #include "support/run_harness.hpp"
 #include "support/sample_projects.hpp"
@@ -168,6 +169,23 @@ TEST_F(Controllo, SaysThatNothingWasComputedWhenTheResultsAreUpToDate) {
     analysis::CalcoloParatia(analysis::relazione, {banco.dialogo, controllo, banco.uscita});
     EXPECT_FALSE(controllo.calcolato());
     EXPECT_TRUE(controllo.fasi().empty());
+}
+
+TEST(FineCorsa, IsThatOfTheStageWithoutRest) {
+    FaseCalcolata fase;
+    fase.fase = 3;
+    fase.iterazioni = 7;
+    const auto modo = [&](EsitoFase esito, bool oltreLimite = false) {
+        fase.esito = esito;
+        return fineCorsa(fase, oltreLimite).modo;
+    };
+    EXPECT_EQ(modo(EsitoFase::convergente), ModoFine::compiuta);
+    EXPECT_EQ(modo(EsitoFase::singolare), ModoFine::singolare);
+    EXPECT_EQ(modo(EsitoFase::rifiutata), ModoFine::rifiutata);
+    EXPECT_EQ(modo(EsitoFase::fermata), ModoFine::fermata);
+    EXPECT_EQ(modo(EsitoFase::fermata, true), ModoFine::oltreLimite);
+    EXPECT_EQ(fineCorsa(fase, true).fase, 3);
+    EXPECT_EQ(fineCorsa(fase, true).iterazioni, 7);
 }
 
 }  // namespace

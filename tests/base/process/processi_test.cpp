@@ -88,5 +88,27 @@ TEST_F(ProgrammaDelDesktop, CountsAsFoundWhileItRuns) {
     EXPECT_TRUE(Processi({}, std::chrono::milliseconds(50)).apri("/tmp/a.txt"));
 }
 
+// What has ended is no longer in the table of the system once the next program starts.
+TEST(Processi, LeaveNoEndedProgramBehind) {
+    const test::CartellaProvvisoria cartella;
+    Processi processi;
+    const std::string segno = cartella / "fatto";
+    ASSERT_TRUE(processi.avvia("/bin/sh",
+                               {"-c", "echo $$ > " + segno + ".x; mv " + segno + ".x " + segno},
+                               Finestra::normale));
+    ASSERT_TRUE(appare(segno));
+    const std::string numero = test::contenuto(segno);
+    const std::string processo = "/proc/" + numero.substr(0, numero.find('\n'));
+    const auto via = [&] {
+        for (int i = 0; i < 500; ++i) {
+            EXPECT_TRUE(processi.avvia("/bin/true", {}, Finestra::normale));
+            if (!std::filesystem::exists(processo)) return true;
+            std::this_thread::sleep_for(std::chrono::milliseconds(10));
+        }
+        return false;
+    };
+    EXPECT_TRUE(via());
+}
+
 }  // namespace
 }  // namespace korven::base

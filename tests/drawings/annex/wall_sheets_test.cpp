@@ -48,6 +48,16 @@ TEST_F(FogliParete, OfAMechanismHaveTheLimitPressuresInAllLanguages) {
         for (const Testo& t : test::figure<Testo>(s)) testi += t.testo + "\n";
         EXPECT_NE(testi.find("-900"), std::string::npos) << testi;  // kN/m2 at the toe
     }
+    base::impostaLingua(1);
+    const auto conAcqua = [&] {
+        const Scena s = scenaMeccanismo(parete, 2, p, formatoFase.larghezza, formatoFase.altezza);
+        const auto testi = test::figure<Testo>(s);
+        return std::any_of(testi.begin(), testi.end(),
+                           [](const Testo& t) { return t.testo == "acqua"; });
+    };
+    EXPECT_FALSE(conAcqua());
+    for (double& acqua : p.acqua) acqua = 2;
+    EXPECT_TRUE(conAcqua());
 }
 
 // In particular of a wall whose ground ends above its toe.

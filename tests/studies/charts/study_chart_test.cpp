@@ -166,5 +166,16 @@ TEST(GraficoStudio, OfSamplesHasHistogramBarsAndPoints) {
     EXPECT_LT(nome("b"), nome("a"));
 }
 
+TEST(GraficoStudio, MarksVariantsWhoseDataAreRefused) {
+    Riassunto r(forma(1), 1);
+    for (const auto i : {0U, 1U, 2U, 3U}) {
+        const double x = 8 + i, y = i == 2 ? std::nan("") : 1.0 / x;
+        r.prendi(i, std::array{x, y}, {.sorte = i == 2 ? Sorte::rifiutata : Sorte::sta});
+    }
+    const auto scena = di(r, 1, false);
+    EXPECT_TRUE(scritto(scena, "dati rifiutati"));
+    EXPECT_FALSE(scritto(scena, "la paratia cade"));
+}
+
 }  // namespace
 }  // namespace korven::studies
