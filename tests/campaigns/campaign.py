@@ -12,6 +12,7 @@ import queue
 import random
 import re
 import shutil
+import signal
 import subprocess
 import sys
 import tempfile
@@ -93,6 +94,7 @@ class Campaign:
         self.faults, self.done = [], 0
         self.begun, self.commit = time.time(), commit()
         self.work = pathlib.Path(tempfile.mkdtemp(prefix="korven_campaign_"))
+        signal.signal(signal.SIGINT, self.stop)  # what was done until then is told and recorded all the same
         tell_last(name)
         for program in ("korven32c",):
             if not (self.bin / program).exists():
@@ -125,6 +127,10 @@ class Campaign:
                 if (n + 1) % 50 == 0 and not self.over():
                     print(f"  {n + 1} of {self.rounds}, {len(self.faults)} faults, "
                           f"{time.time() - self.begun:.0f} s", flush=True)
+
+    def stop(self, *_):
+        """Begins no further round."""
+        self.args.minutes = 0
 
     def over(self):
         return time.time() - self.begun > 60 * self.args.minutes
