@@ -90,5 +90,17 @@ TEST(Giudizio, OfADeliveredExampleTurnsWithTheMesh) {
               Giudizio::cambia);
 }
 
+TEST(Giudizio, HasWordsForPeopleAndOneForPrograms) {
+    const std::pair<Giudizio, std::pair<const char*, const char*>> parole[] = {
+        {Giudizio::verificata, {"verificata", "verificata"}},
+        {Giudizio::nonAssestata, {"non a convergenza", "non_assestata"}},
+        {Giudizio::cambia, {"cambia con la maglia", "cambia"}},
+        {Giudizio::fallita, {"NON verificata", "fallita"}}};
+    for (const auto& [giudizio, detto] : parole) {
+        EXPECT_EQ(nome(giudizio), detto.first);
+        EXPECT_EQ(parola(giudizio), detto.second);
+    }
+}
+
 }  // namespace
 }  // namespace korven::safety

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "live/envelope.hpp"
+#include "scene/picture.hpp"
 #include "support/sample_projects.hpp"
 
 namespace korven::scene {
@@ -91,6 +93,28 @@ TEST(Parole, TellValueAndUnitOfEach) {
         parole(letta),
         "4.20 m  ·  y 12.3 mm  ·  M -15.0 … 45.0 kN m/m  ·  monte 30.0  ·  valle -20.0 kN/m²  ·  "
         "Limo");
+}
+
+// The shear of the envelope goes in a straight line from below one node to above the next.
+TEST(Lettura, OfTheEnvelopeHasTheShearBetweenTwoNodes) {
+    const auto parete = live::calcola(test::progettoSemplice(), 40);  // 0.3 m apart
+    const auto tutte = live::inviluppo(parete);
+    const Lettura letta = lettura(parete, {0, live::Curva::taglio}, 6.1);
+    const auto tra = [](double a, double b) { return a + (b - a) / 3; };
+    EXPECT_NEAR(letta.taglio->massimo,
+                tra(tutte.taglioSotto.massimo[20], tutte.taglioSopra.massimo[21]), 1e-9);
+    EXPECT_NEAR(letta.taglio->minimo,
+                tra(tutte.taglioSotto.minimo[20], tutte.taglioSopra.minimo[21]), 1e-9);
+}
+
+TEST(Scena, TellsTheDepthOfAPointWithinTheWall) {
+    Scena s;
+    s.yTesta = 100;
+    s.scala = 20;  // pixels a metre
+    s.paratia = 10;
+    EXPECT_DOUBLE_EQ(s.z(150), 2.5);
+    EXPECT_DOUBLE_EQ(s.z(90), 0);
+    EXPECT_DOUBLE_EQ(s.z(1000), 10);
 }
 
 }  // namespace

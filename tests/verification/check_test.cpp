@@ -101,5 +101,14 @@ TEST(Sommario, CountsTheCases) {
     EXPECT_EQ(sommario(esegui(gruppi)), "Casi: 1; buoni: 0; falliti: 1; differenze note: 0.");
 }
 
+TEST(Parole, HaveANameForPeopleAndOneForPrograms) {
+    EXPECT_EQ(parole(Metodo::corsa), "Relazione");
+    EXPECT_EQ(parole(Metodo::equilibrio), "Equilibrio");
+    EXPECT_EQ(parole(Metodo::sezione), "Sezione");
+    EXPECT_EQ(codice(Metodo::corsa), "relazione");
+    EXPECT_EQ(codice(Metodo::equilibrio), "equilibrio");
+    EXPECT_EQ(codice(Metodo::sezione), "sezione");
+}
+
 }  // namespace
 }  // namespace korven::verification

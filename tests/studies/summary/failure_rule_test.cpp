@@ -73,5 +73,10 @@ TEST(Condizione, IsToldWrongInWords) {
               "spostamento_massimo_m?");
 }
 
+TEST(Condizione, IsToldHowToWriteOne) {
+    EXPECT_EQ(parole(DifettoCondizione{Motivo::forma, "passiva_usata"}),
+              "carattere 1: passiva_usata: atteso come in spostamento_massimo_m>0.03");
+}
+
 }  // namespace
 }  // namespace korven::studies
