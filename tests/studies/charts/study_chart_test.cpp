@@ -44,13 +44,18 @@ scene::Scena di(const Riassunto& r, std::size_t campi, bool campioni) {
     return scenaGrafico(r, forma(campi), grafico(campi, campioni), 17, 12);
 }
 
-TEST(GraficoStudio, OfOneFieldIsACurve) {
+// Four variants of one field, the third of which has no result.
+scene::Scena senzaLaTerza(Sorte perche) {
     Riassunto r(forma(1), 1);
     for (const auto i : {0U, 1U, 2U, 3U}) {
         const double x = 8 + i, y = i == 2 ? std::nan("") : 1.0 / x;
-        r.prendi(i, std::array{x, y}, {.sorte = i == 2 ? Sorte::cade : Sorte::sta});
+        r.prendi(i, std::array{x, y}, {.sorte = i == 2 ? perche : Sorte::sta});
     }
-    const auto scena = di(r, 1, false);
+    return di(r, 1, false);
+}
+
+TEST(GraficoStudio, OfOneFieldIsACurve) {
+    const auto scena = senzaLaTerza(Sorte::cade);
     EXPECT_EQ(quante(scena, Elemento::curva, linea), 1U);    // before the gap; behind it one value
     EXPECT_EQ(quante(scena, Elemento::estremo, area), 3U);   // a mark at each value
     EXPECT_EQ(quante(scena, Elemento::estremo, linea), 4U);  // a cross, and again in the key
@@ -167,12 +172,7 @@ TEST(GraficoStudio, OfSamplesHasHistogramBarsAndPoints) {
 }
 
 TEST(GraficoStudio, MarksVariantsWhoseDataAreRefused) {
-    Riassunto r(forma(1), 1);
-    for (const auto i : {0U, 1U, 2U, 3U}) {
-        const double x = 8 + i, y = i == 2 ? std::nan("") : 1.0 / x;
-        r.prendi(i, std::array{x, y}, {.sorte = i == 2 ? Sorte::rifiutata : Sorte::sta});
-    }
-    const auto scena = di(r, 1, false);
+    const auto scena = senzaLaTerza(Sorte::rifiutata);
     EXPECT_TRUE(scritto(scena, "dati rifiutati"));
     EXPECT_FALSE(scritto(scena, "la paratia cade"));
 }
